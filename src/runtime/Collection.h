@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "runtime/RuntimeError.h"
+#include "runtime/Strings.h"
+
+namespace plotsmith::runtime {
+
+/// The language's Collection: items in order of addition, each under a key that is unique ignoring case.
+template <class T>
+class Collection {
+ public:
+  std::int32_t Count() const { return static_cast<std::int32_t>(items_.size()); }
+
+  /// Error 457 if the key is taken.
+  void Add(T item, std::string_view key) {
+    if (!index_.emplace(UCase(key), items_.size()).second) throw RuntimeError(error::kKeyExists);
+    items_.push_back(std::move(item));
+  }
+
+  /// Error 5 if there is no such key.
+  T& Item(std::string_view key) { return items_[Position(key)]; }
+  const T& Item(std::string_view key) const { return items_[Position(key)]; }
+
+  /// By position from 1; error 9 outside.
+  const T& Item(std::int32_t position) const {
+    if (position < 1 || position > Count()) throw RuntimeError(error::kSubscript);
+    return items_[static_cast<std::size_t>(position) - 1];
+  }
+
+  void Remove(std::string_view key) {
+    const std::size_t position = Position(key);
+    items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(position));
+    index_.erase(UCase(key));
+    for (auto& [text, other] : index_) {
+      if (other > position) --other;
+    }
+  }
+
+  auto begin() const { return items_.begin(); }
+  auto end() const { return items_.end(); }
+
+ private:
+  std::size_t Position(std::string_view key) const {
+    const auto found = index_.find(UCase(key));
+    if (found == index_.end()) throw RuntimeError(error::kInvalidCall);
+    return found->second;
+  }
+
+  std::vector<T> items_;
+  std::unordered_map<std::string, std::size_t> index_;
+};
+
+}  // namespace plotsmith::runtime

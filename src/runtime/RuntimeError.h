@@ -1,0 +1,45 @@
+#pragma once
+
+#include <exception>
+#include <string>
+
+namespace plotsmith::runtime {
+
+/// The one exception of the system and of every host: a numbered run-time error with the wording that a user
+/// of Excel and of its macro language knows.
+class RuntimeError : public std::exception {
+ public:
+  /// An error with the language's own description of `number`.
+  explicit RuntimeError(int number);
+  RuntimeError(int number, std::string description, std::string source = "Plotsmith");
+
+  int Number() const { return number_; }
+  const std::string& Description() const { return description_; }
+  const std::string& Source() const { return source_; }
+  const char* what() const noexcept override { return description_.c_str(); }
+
+ private:
+  int number_;
+  std::string description_;
+  std::string source_;
+};
+
+/// Error numbers of the language and of Excel that the system and the hosts raise.
+namespace error {
+inline constexpr int kInvalidCall = 5;
+inline constexpr int kOverflow = 6;
+inline constexpr int kOutOfMemory = 7;
+inline constexpr int kSubscript = 9;
+inline constexpr int kTypeMismatch = 13;
+inline constexpr int kObjectNotSet = 91;
+inline constexpr int kInvalidNull = 94;
+inline constexpr int kNoSuchMember = 438;
+inline constexpr int kAutomation = 440;
+inline constexpr int kKeyExists = 457;
+inline constexpr int kApplication = 1004;
+}  // namespace error
+
+/// The exception being handled, as a run-time error. Call it inside a catch block only.
+RuntimeError CurrentError();
+
+}  // namespace plotsmith::runtime

@@ -1,0 +1,159 @@
+#include "runtime/Strings.h"
+
+#include <algorithm>
+#include <utf8proc.h>
+
+namespace plotsmith::runtime {
+namespace {
+
+bool IsAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+bool HasAsciiLower(std::string_view text) {
+  return std::any_of(text.begin(), text.end(), [](char c) { return c >= 'a' && c <= 'z'; });
+}
+
+/// Reads one character; what isn't UTF-8 comes out as U+FFFD, byte by byte. Lone surrogates pass.
+char32_t NextCharacter(std::string_view text, std::size_t& position) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  const unsigned char first = byte(position);
+  const auto continuation = [&](std::size_t i) { return i < text.size() && (byte(i) & 0xC0) == 0x80; };
+  if (first < 0x80) {
+    position += 1;
+    return first;
+  }
+  if (first >= 0xC2 && first < 0xE0 && continuation(position + 1)) {
+    const char32_t c = (first & 0x1Fu) << 6 | (byte(position + 1) & 0x3Fu);
+    position += 2;
+    return c;
+  }
+  if (first >= 0xE0 && first < 0xF0 && continuation(position + 1) && continuation(position + 2)) {
+    const char32_t c =
+        (first & 0x0Fu) << 12 | (byte(position + 1) & 0x3Fu) << 6 | (byte(position + 2) & 0x3Fu);
+    if (c >= 0x800) {
+      position += 3;
+      return c;
+    }
+  }
+  if (first >= 0xF0 && first < 0xF5 && continuation(position + 1) && continuation(position + 2) &&
+      continuation(position + 3)) {
+    const char32_t c = (first & 0x07u) << 18 | (byte(position + 1) & 0x3Fu) << 12 |
+                       (byte(position + 2) & 0x3Fu) << 6 | (byte(position + 3) & 0x3Fu);
+    if (c >= 0x10000 && c < 0x110000) {
+      position += 4;
+      return c;
+    }
+  }
+  position += 1;
+  return 0xFFFD;
+}
+
+}  // namespace
+
+void AppendUtf8(std::string& text, char32_t c) {
+  if (c < 0x80) {
+    text += static_cast<char>(c);
+  } else if (c < 0x800) {
+    text += static_cast<char>(0xC0 | (c >> 6));
+    text += static_cast<char>(0x80 | (c & 0x3F));
+  } else if (c < 0x10000) {
+    text += static_cast<char>(0xE0 | (c >> 12));
+    text += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+    text += static_cast<char>(0x80 | (c & 0x3F));
+  } else {
+    text += static_cast<char>(0xF0 | (c >> 18));
+    text += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
+    text += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+    text += static_cast<char>(0x80 | (c & 0x3F));
+  }
+}
+
+std::string_view UCase(std::string_view text, std::string& scratch) {
+  if (IsAscii(text)) {
+    if (!HasAsciiLower(text)) return text;
+    scratch.assign(text);
+    for (char& c : scratch) {
+      if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    }
+    return scratch;
+  }
+  scratch.clear();
+  for (std::size_t i = 0; i < text.size();) {
+    const char32_t c = NextCharacter(text, i);
+    AppendUtf8(scratch, static_cast<char32_t>(utf8proc_toupper(static_cast<utf8proc_int32_t>(c))));
+  }
+  return scratch;
+}
+
+std::string UCase(std::string_view text) {
+  std::string scratch;
+  return std::string(UCase(text, scratch));
+}
+
+bool EqualsIgnoreCase(std::string_view a, std::string_view b) {
+  if (a == b) return true;
+  std::string scratchA, scratchB;
+  return UCase(a, scratchA) == UCase(b, scratchB);
+}
+
+std::string_view Trim(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::size_t Len(std::string_view text) {
+  if (IsAscii(text)) return text.size();
+  std::size_t units = 0;
+  for (std::size_t i = 0; i < text.size();) units += NextCharacter(text, i) >= 0x10000 ? 2 : 1;
+  return units;
+}
+
+std::string Mid(std::string_view text, std::size_t start, std::size_t length) {
+  if (IsAscii(text)) return start > text.size() ? std::string() : std::string(text.substr(start - 1, length));
+  const std::u16string units = ToUtf16(text);
+  if (start > units.size()) return {};
+  return ToUtf8(std::u16string_view(units).substr(start - 1, length));
+}
+
+std::u16string ToUtf16(std::string_view text) {
+  std::u16string units;
+  units.reserve(text.size());
+  for (std::size_t i = 0; i < text.size();) {
+    const char32_t c = NextCharacter(text, i);
+    if (c < 0x10000) {
+      units += static_cast<char16_t>(c);
+    } else {
+      units += static_cast<char16_t>(0xD800 + ((c - 0x10000) >> 10));
+      units += static_cast<char16_t>(0xDC00 + ((c - 0x10000) & 0x3FF));
+    }
+  }
+  return units;
+}
+
+std::string ToUtf8(std::u16string_view units) {
+  std::string text;
+  text.reserve(units.size());
+  for (std::size_t i = 0; i < units.size(); ++i) {
+    char32_t c = units[i];
+    const bool high = c >= 0xD800 && c < 0xDC00;
+    if (high && i + 1 < units.size() && units[i + 1] >= 0xDC00 && units[i + 1] < 0xE000) {
+      c = 0x10000 + ((c - 0xD800) << 10) + (units[++i] - 0xDC00u);
+    }
+    AppendUtf8(text, c);
+  }
+  return text;
+}
+
+std::string Replace(std::string_view text, std::string_view from, std::string_view to) {
+  std::string result;
+  for (;;) {
+    const auto at = text.find(from);
+    if (at == std::string_view::npos) return result.append(text);
+    result.append(text.substr(0, at)).append(to);
+    text.remove_prefix(at + from.size());
+  }
+}
+
+}  // namespace plotsmith::runtime

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// The language's string functions over UTF-8. Lengths and positions count UTF-16 units, as the language and
+/// Excel count them; a half of a surrogate pair that a cut leaves behind is carried as its own three bytes,
+/// and becomes whole again when the halves are joined in UTF-16.
+namespace plotsmith::runtime {
+
+/// Upper case, character by character, so that the length in characters never changes (ß stays).
+std::string UCase(std::string_view text);
+/// The same into a buffer that the caller keeps, for hot loops; the view is into `scratch` or is `text`
+/// itself.
+std::string_view UCase(std::string_view text, std::string& scratch);
+bool EqualsIgnoreCase(std::string_view a, std::string_view b);
+
+/// Without the blanks (U+0020 only) at both ends.
+std::string_view Trim(std::string_view text);
+
+std::size_t Len(std::string_view text);
+/// `length` units from `start`, which counts from 1.
+std::string Mid(std::string_view text, std::size_t start, std::size_t length);
+
+std::u16string ToUtf16(std::string_view text);
+std::string ToUtf8(std::u16string_view text);
+void AppendUtf8(std::string& text, char32_t character);
+
+/// Replaces every `from` in `text`.
+std::string Replace(std::string_view text, std::string_view from, std::string_view to);
+
+}  // namespace plotsmith::runtime

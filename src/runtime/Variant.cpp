@@ -1,0 +1,283 @@
+#include "runtime/Variant.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <ctime>
+#include <limits>
+
+#include "runtime/RuntimeError.h"
+#include "runtime/Strings.h"
+
+namespace plotsmith::runtime {
+namespace {
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
+/// `text` is digits, an optional point and an optional exponent, and nothing else. from_chars knows no
+/// locale.
+double DecimalValue(std::string text) {
+  for (char& c : text) {
+    if (c == 'd' || c == 'D') c = 'e';
+  }
+  double value = 0;
+  const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (status == std::errc::result_out_of_range) {
+    // from_chars leaves the value alone; a negative exponent means that it was too small, not too large
+    return text.find("e-") != std::string::npos || text.find("E-") != std::string::npos
+               ? 0.0
+               : std::numeric_limits<double>::infinity();
+  }
+  return value;
+}
+
+/// Digits in base 8 or 16, as 32 bits with sign where they fill them. No value if they don't fit.
+std::optional<double> RadixValue(std::string_view digits) {
+  const int base = (digits[0] == 'h' || digits[0] == 'H') ? 16 : 8;
+  digits.remove_prefix(1);
+  if (digits.ends_with('&')) digits.remove_suffix(1);
+  std::uint32_t bits = 0;
+  const auto [end, status] = std::from_chars(digits.data(), digits.data() + digits.size(), bits, base);
+  if (status != std::errc() || end != digits.data() + digits.size()) return std::nullopt;
+  // up to four hexadecimal digits are a 16-bit number
+  if (base == 16 && digits.size() <= 4) return static_cast<std::int16_t>(bits);
+  return static_cast<std::int32_t>(bits);
+}
+
+std::string DateText(double serial) {
+  const double days = std::floor(serial);
+  // 25569 is the serial of 1970-01-01
+  const auto seconds = static_cast<std::int64_t>(std::llround((serial - days) * 86400.0));
+  const std::time_t moment = static_cast<std::time_t>((days - 25569) * 86400) + seconds;
+  std::tm parts{};
+  if (gmtime_r(&moment, &parts) == nullptr) throw RuntimeError(error::kTypeMismatch);
+  std::string text;
+  if (days != 0 || seconds == 0) {
+    text = std::to_string(parts.tm_mon + 1) + "/" + std::to_string(parts.tm_mday) + "/" +
+           std::to_string(parts.tm_year + 1900);
+  }
+  if (seconds != 0) {
+    std::array<char, 32> time{};
+    const int hour = parts.tm_hour % 12 == 0 ? 12 : parts.tm_hour % 12;
+    std::snprintf(time.data(), time.size(), "%d:%02d:%02d %s", hour, parts.tm_min, parts.tm_sec,
+                  parts.tm_hour < 12 ? "AM" : "PM");
+    if (!text.empty()) text += ' ';
+    text += time.data();
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string NumberText(double value) {
+  if (value == 0) return "0";
+  // 15 digits, rounded once; then the digits are set out by hand, as no printf form gives the language's
+  // choice
+  std::array<char, 40> buffer{};
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
+                                 std::chars_format::scientific, 14)
+                       .ptr;
+  const std::string_view scientific(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+  if (!IsDigit(scientific[0])) return value < 0 ? "-1.#INF" : std::isnan(value) ? "-1.#IND" : "1.#INF";
+  const auto mark = scientific.find('e');
+  int exponent = 0;
+  const char* exponentText = buffer.data() + mark + (scientific[mark + 1] == '+' ? 2 : 1);
+  std::from_chars(exponentText, end, exponent);
+  std::string digits;
+  for (char c : scientific.substr(0, mark)) {
+    if (IsDigit(c)) digits += c;
+  }
+  digits.erase(digits.find_last_not_of('0') + 1);
+  const int count = static_cast<int>(digits.size());
+
+  std::string text = value < 0 ? "-" : "";
+  if (exponent >= 15 || (exponent < 0 && count - exponent - 1 > 15)) {
+    text += digits[0];
+    if (count > 1) text.append(".").append(digits, 1);
+    const std::string power = std::to_string(std::abs(exponent));
+    return text + (exponent < 0 ? "E-" : "E+") + (power.size() < 2 ? "0" : "") + power;
+  }
+  if (exponent < 0) {
+    return text + "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0') + digits;
+  }
+  if (count <= exponent + 1) {
+    return text + digits + std::string(static_cast<std::size_t>(exponent + 1 - count), '0');
+  }
+  return text + digits.substr(0, static_cast<std::size_t>(exponent) + 1) + "." +
+         digits.substr(static_cast<std::size_t>(exponent) + 1);
+}
+
+std::optional<double> ParseNumber(std::string_view text) {
+  std::size_t i = 0;
+  const auto at = [&](std::size_t p) { return p < text.size() ? text[p] : '\0'; };
+  const auto skipSpace = [&] {
+    while (i < text.size() && IsSpace(text[i])) ++i;
+  };
+  bool minus = false, sign = false, parenthesis = false, currency = false;
+
+  for (bool again = true; again;) {  // what may stand in front, in any order, each once
+    skipSpace();
+    again = false;
+    if (!sign && (at(i) == '+' || at(i) == '-')) {
+      sign = true, minus = at(i) == '-', ++i, again = true;
+    } else if (!sign && !parenthesis && at(i) == '(') {
+      sign = parenthesis = minus = true, ++i, again = true;
+    } else if (!currency && at(i) == '$') {
+      currency = true, ++i, again = true;
+    }
+  }
+  if (at(i) == '&' && !sign && !currency) {
+    std::string_view rest = text.substr(i + 1);
+    while (!rest.empty() && IsSpace(rest.back())) rest.remove_suffix(1);
+    if (rest.size() < 2 || std::string_view("hHoO").find(rest[0]) == std::string_view::npos) return {};
+    return RadixValue(rest);
+  }
+
+  std::string decimal;
+  bool digits = false;
+  for (; IsDigit(at(i)) || (at(i) == ',' && digits); ++i) {
+    if (at(i) == ',') continue;
+    decimal += at(i);
+    digits = true;
+  }
+  if (at(i) == '.') {
+    decimal += at(i++);
+    for (; IsDigit(at(i)); ++i) {
+      decimal += at(i);
+      digits = true;
+    }
+  }
+  if (!digits) return {};
+  if (std::string_view("eEdD").find(at(i)) != std::string_view::npos && at(i) != '\0') {
+    std::size_t j = i + 1;
+    std::string exponent = "e";
+    if (at(j) == '+' || at(j) == '-') {
+      if (at(j) == '-') exponent += '-';
+      ++j;
+    }
+    if (!IsDigit(at(j))) return {};
+    for (; IsDigit(at(j)); ++j) exponent += at(j);
+    decimal += exponent;
+    i = j;
+  }
+
+  for (bool again = true; again;) {  // and behind
+    skipSpace();
+    again = false;
+    if (parenthesis && at(i) == ')') {
+      parenthesis = false, ++i, again = true;
+    } else if (!sign && (at(i) == '+' || at(i) == '-')) {
+      sign = true, minus = at(i) == '-', ++i, again = true;
+    } else if (!currency && at(i) == '$') {
+      currency = true, ++i, again = true;
+    }
+  }
+  if (parenthesis || i != text.size()) return {};
+  if (decimal[0] == '.') decimal.insert(0, "0");
+  const double value = DecimalValue(decimal);
+  if (!std::isfinite(value)) return {};
+  return minus ? -value : value;
+}
+
+bool IsNumeric(std::string_view text) { return ParseNumber(text).has_value(); }
+
+bool IsNumeric(const Variant& value) {
+  if (const auto* text = value.If<std::string>()) return IsNumeric(std::string_view(*text));
+  return value.IsEmpty() || value.Is<bool>() || value.Is<std::int32_t>() || value.Is<double>();
+}
+
+double Val(std::string_view source) {
+  std::string text;
+  for (char c : source) {
+    if (c != ' ' && c != '\t' && c != '\n' && c != '\r') text += c;
+  }
+  if (text.size() > 2 && text[0] == '&') {
+    std::size_t length = 2;
+    const bool hexadecimal = text[1] == 'h' || text[1] == 'H';
+    const std::string_view allowed = hexadecimal ? "0123456789abcdefABCDEF" : "01234567";
+    while (length < text.size() && allowed.find(text[length]) != std::string_view::npos) ++length;
+    if (!hexadecimal && text[1] != 'o' && text[1] != 'O') return 0;
+    return RadixValue(std::string_view(text).substr(1, length - 1)).value_or(0);
+  }
+  std::size_t i = 0;
+  const auto at = [&](std::size_t p) { return p < text.size() ? text[p] : '\0'; };
+  const bool minus = at(0) == '-';
+  if (at(0) == '-' || at(0) == '+') ++i;
+  std::string decimal;
+  bool digits = false;
+  for (; IsDigit(at(i)); ++i) decimal += at(i), digits = true;
+  if (at(i) == '.') {
+    decimal += at(i++);
+    for (; IsDigit(at(i)); ++i) decimal += at(i), digits = true;
+  }
+  if (!digits) return 0;
+  if (at(i) != '\0' && std::string_view("eEdD").find(at(i)) != std::string_view::npos) {
+    std::size_t j = i + 1;
+    std::string exponent = "e";
+    if (at(j) == '+' || at(j) == '-') {
+      if (at(j) == '-') exponent += '-';
+      ++j;
+    }
+    if (IsDigit(at(j))) {
+      for (; IsDigit(at(j)); ++j) exponent += at(j);
+      decimal += exponent;
+    }
+  }
+  if (decimal[0] == '.') decimal.insert(0, "0");
+  const double value = DecimalValue(decimal);
+  if (!std::isfinite(value)) throw RuntimeError(error::kOverflow);
+  return minus ? -value : value;
+}
+
+double Val(const Variant& value) {
+  if (const auto* number = value.If<double>()) return *number;
+  return Val(std::string_view(CStr(value)));
+}
+
+std::string CStr(const Variant& value) {
+  if (const auto* text = value.If<std::string>()) return *text;
+  if (const auto* number = value.If<double>()) return NumberText(*number);
+  if (const auto* whole = value.If<std::int32_t>()) return std::to_string(*whole);
+  if (const auto* truth = value.If<bool>()) return *truth ? "True" : "False";
+  if (const auto* date = value.If<Variant::Date>()) return DateText(date->serial);
+  if (value.IsNull()) throw RuntimeError(error::kInvalidNull);
+  if (value.Is<Variant::Error>()) throw RuntimeError(error::kTypeMismatch);
+  return {};
+}
+
+double CDbl(const Variant& value) {
+  if (const auto* number = value.If<double>()) return *number;
+  if (const auto* whole = value.If<std::int32_t>()) return *whole;
+  if (const auto* truth = value.If<bool>()) return *truth ? -1 : 0;
+  if (const auto* date = value.If<Variant::Date>()) return date->serial;
+  if (const auto* text = value.If<std::string>()) {
+    if (const auto number = ParseNumber(*text)) return *number;
+    throw RuntimeError(error::kTypeMismatch);
+  }
+  if (value.IsNull()) throw RuntimeError(error::kInvalidNull);
+  if (value.Is<Variant::Error>()) throw RuntimeError(error::kTypeMismatch);
+  return 0;
+}
+
+std::int32_t CLng(const Variant& value) {
+  if (const auto* whole = value.If<std::int32_t>()) return *whole;
+  const double number = CDbl(value);
+  const double rounded = std::nearbyint(number);  // the default rounding mode takes halves to even
+  if (!(rounded >= std::numeric_limits<std::int32_t>::min() &&
+        rounded <= std::numeric_limits<std::int32_t>::max())) {
+    throw RuntimeError(error::kOverflow);
+  }
+  return static_cast<std::int32_t>(rounded);
+}
+
+bool CBool(const Variant& value) {
+  if (const auto* truth = value.If<bool>()) return *truth;
+  if (const auto* text = value.If<std::string>()) {
+    if (EqualsIgnoreCase(*text, "True") || *text == "#TRUE#") return true;
+    if (EqualsIgnoreCase(*text, "False") || *text == "#FALSE#") return false;
+  }
+  return CDbl(value) != 0;
+}
+
+}  // namespace plotsmith::runtime

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace plotsmith::runtime {
+
+/// A value of any type, and the language's conversions between them. What can't be converted is error 13,
+/// Null is error 94 wherever a definite value is wanted, and what doesn't fit is error 6.
+class Variant {
+ public:
+  struct Empty {
+    bool operator==(const Empty&) const = default;
+  };
+  struct Null {
+    bool operator==(const Null&) const = default;
+  };
+  /// A day serial of the workbook's date system.
+  struct Date {
+    double serial;
+    bool operator==(const Date&) const = default;
+  };
+  /// An error value of a cell, by Excel's number for it (2007 is #DIV/0!).
+  struct Error {
+    int number;
+    bool operator==(const Error&) const = default;
+  };
+
+  Variant() = default;
+  Variant(Null value) : value_(value) {}
+  Variant(Date value) : value_(value) {}
+  Variant(Error value) : value_(value) {}
+  Variant(bool value) : value_(value) {}
+  Variant(std::int32_t value) : value_(value) {}
+  Variant(double value) : value_(value) {}
+  Variant(std::string value) : value_(std::move(value)) {}
+  Variant(std::string_view value) : value_(std::string(value)) {}
+  Variant(const char* value) : value_(std::string(value)) {}
+
+  bool IsEmpty() const { return Is<Empty>(); }
+  bool IsNull() const { return Is<Null>(); }
+  template <class T>
+  bool Is() const {
+    return std::holds_alternative<T>(value_);
+  }
+  template <class T>
+  const T* If() const {
+    return std::get_if<T>(&value_);
+  }
+
+  bool operator==(const Variant&) const = default;
+
+ private:
+  std::variant<Empty, Null, bool, std::int32_t, double, Date, Error, std::string> value_;
+};
+
+inline const Variant kNull = Variant::Null{};
+
+std::string CStr(const Variant& value);
+double CDbl(const Variant& value);
+/// Rounds halves to the even neighbour.
+std::int32_t CLng(const Variant& value);
+bool CBool(const Variant& value);
+
+/// True for what CDbl converts, but for dates, which count as not numeric.
+bool IsNumeric(const Variant& value);
+/// The number that a whole text stands for, in the forms that CDbl accepts: blanks around, a sign on either
+/// side, parentheses for minus, a currency sign, thousands commas, an exponent, &H and &O. Locale-free.
+std::optional<double> ParseNumber(std::string_view text);
+bool IsNumeric(std::string_view text);
+
+/// The number at the beginning of a text, 0 if there is none. Blanks, tabs and line feeds anywhere are passed
+/// over, and the point is the decimal sign in every locale.
+double Val(std::string_view text);
+double Val(const Variant& value);
+
+/// A number as the language writes it: 15 digits, a point, "1E+50" where it would be longer than that.
+std::string NumberText(double value);
+
+}  // namespace plotsmith::runtime
