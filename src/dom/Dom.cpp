@@ -1,0 +1,134 @@
+#include "dom/Dom.h"
+
+#include <sstream>
+
+#include "runtime/RuntimeError.h"
+
+namespace plotsmith::dom {
+
+using runtime::RuntimeError;
+using runtime::Variant;
+
+/// One pugixml document holds the content and, beside it, the nodes that are in no tree at present: pugixml
+/// moves nodes only within one document.
+struct IXMLDOMNode::Tree {
+  Tree() : content(document.append_child("content")), detached(document.append_child("detached")) {}
+
+  pugi::xml_document document;
+  pugi::xml_node content;
+  pugi::xml_node detached;
+};
+
+pugi::xml_node IXMLDOMNode::Checked() const {
+  if (!node_) throw RuntimeError(runtime::error::kObjectNotSet);
+  return node_;
+}
+
+std::string IXMLDOMNode::nodeName() const { return Checked().name(); }
+
+std::string IXMLDOMNode::nodeValue() const { return Checked().value(); }
+
+IXMLDOMNode IXMLDOMNode::firstChild() const { return {tree_, Checked().first_child()}; }
+
+std::string IXMLDOMNode::xml() const {
+  std::ostringstream text;
+  if (Checked() == tree_->content) {
+    for (const auto& child : node_.children()) child.print(text, "", pugi::format_raw);
+  } else {
+    node_.print(text, "", pugi::format_raw);
+  }
+  return std::move(text).str();
+}
+
+IXMLDOMNodeList IXMLDOMNode::selectNodes(const char* query) const {
+  const bool anywhere = query[0] == '/';
+  const pugi::xml_node context = anywhere ? Checked(), tree_->content : Checked();
+  const pugi::xpath_node_set found =
+      context.select_nodes(anywhere ? ("." + std::string(query)).c_str() : query);
+  IXMLDOMNodeList list;
+  for (const pugi::xpath_node& match : found) list.push_back(IXMLDOMElement(tree_, match.node()));
+  return list;
+}
+
+IXMLDOMElement IXMLDOMNode::selectSingleNode(const char* query) const {
+  const IXMLDOMNodeList list = selectNodes(query);
+  return list.empty() ? IXMLDOMElement() : list.front();
+}
+
+void IXMLDOMNode::appendChild(IXMLDOMNode& child) {
+  const pugi::xml_node parent = Checked(), moved = child.Checked();
+  if (child.tree_ == tree_) {
+    if (!pugi::xml_node(parent).append_move(moved)) throw RuntimeError(runtime::error::kInvalidCall);
+    return;
+  }
+  const pugi::xml_node copy = pugi::xml_node(parent).append_copy(moved);
+  if (!copy) throw RuntimeError(runtime::error::kInvalidCall);
+  moved.parent().remove_child(moved);
+  child.tree_ = tree_;
+  child.node_ = copy;
+}
+
+void IXMLDOMNode::removeChild(IXMLDOMNode& child) {
+  if (child.Checked().parent() != Checked()) throw RuntimeError(runtime::error::kInvalidCall);
+  tree_->detached.append_move(child.node_);
+}
+
+IXMLDOMNodeList IXMLDOMElement::childElements() const {
+  IXMLDOMNodeList list;
+  for (const auto& child : Checked().children()) {
+    if (child.type() == pugi::node_element) list.push_back(IXMLDOMElement(tree_, child));
+  }
+  return list;
+}
+
+void IXMLDOMElement::setAttribute(const char* name, const Variant& value) {
+  pugi::xml_node element = Checked();
+  pugi::xml_attribute attribute = element.attribute(name);
+  if (!attribute) attribute = element.append_attribute(name);
+  attribute.set_value(runtime::CStr(value).c_str());
+}
+
+Variant IXMLDOMElement::getAttribute(const char* name) const {
+  const pugi::xml_attribute attribute = Checked().attribute(name);
+  return attribute ? Variant(attribute.value()) : runtime::kNull;
+}
+
+IXMLDOMDocument2 IXMLDOMDocument2::Create() {
+  auto tree = std::make_shared<Tree>();
+  const pugi::xml_node content = tree->content;
+  return {std::move(tree), content};
+}
+
+bool IXMLDOMDocument2::loadXML(std::string_view xml) {
+  Checked().remove_children();
+  constexpr unsigned kFlags = (pugi::parse_full | pugi::parse_ws_pcdata) & ~pugi::parse_doctype;
+  const auto status = node_.append_buffer(xml.data(), xml.size(), kFlags, pugi::encoding_utf8);
+  // a fragment may hold several roots or none; a document has one
+  int roots = 0;
+  for (const auto& child : node_.children()) roots += child.type() == pugi::node_element;
+  if (status && roots == 1) return true;
+  node_.remove_children();
+  return false;
+}
+
+IXMLDOMElement IXMLDOMDocument2::documentElement() const {
+  Checked();
+  for (const auto& child : node_.children()) {
+    if (child.type() == pugi::node_element) return {tree_, child};
+  }
+  return {};
+}
+
+IXMLDOMElement IXMLDOMDocument2::createElement(const char* name) const {
+  Checked();
+  return {tree_, tree_->detached.append_child(name)};
+}
+
+IXMLDOMNode IXMLDOMDocument2::createTextNode(std::string_view text) const {
+  Checked();
+  pugi::xml_node node = tree_->detached.append_child(pugi::node_pcdata);
+  node.set_value(std::string(text).c_str());
+  return {tree_, node};
+}
+
+}  // namespace plotsmith::dom

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <memory>
+#include <pugixml.hpp>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "runtime/Variant.h"
+
+/// The document object model by the member names of MSXML, as far as the system uses it, over pugixml.
+///
+/// Handles are small values: copies name the same node, a default one is Nothing, and to use a member of
+/// Nothing is error 91. A node that isn't in its tree (just created, or removed) stays usable.
+namespace plotsmith::dom {
+
+class IXMLDOMElement;
+using IXMLDOMNodeList = std::vector<IXMLDOMElement>;
+
+class IXMLDOMNode {
+ public:
+  IXMLDOMNode() = default;
+  explicit operator bool() const { return static_cast<bool>(node_); }
+  bool operator==(const IXMLDOMNode& other) const { return node_ == other.node_; }
+
+  std::string nodeName() const;
+  /// The text of a text node; empty for an element.
+  std::string nodeValue() const;
+  IXMLDOMNode firstChild() const;
+  /// The node and all below it as XML.
+  std::string xml() const;
+
+  /// Elements by a path of child names ("values/column"), or by "//name" anywhere in the document; in
+  /// document order. selectSingleNode gives the first, or Nothing.
+  IXMLDOMElement selectSingleNode(const char* query) const;
+  IXMLDOMNodeList selectNodes(const char* query) const;
+
+  /// Moves `child`, which may come from another document, to the end of this node's children.
+  void appendChild(IXMLDOMNode& child);
+  void appendChild(IXMLDOMNode&& child) { appendChild(child); }
+  /// Error 5 if `child` isn't a child of this node.
+  void removeChild(IXMLDOMNode& child);
+
+ protected:
+  struct Tree;
+  IXMLDOMNode(std::shared_ptr<Tree> tree, pugi::xml_node node) : tree_(std::move(tree)), node_(node) {}
+  pugi::xml_node Checked() const;
+
+  std::shared_ptr<Tree> tree_;
+  pugi::xml_node node_;
+
+  friend class IXMLDOMDocument2;
+};
+
+class IXMLDOMElement : public IXMLDOMNode {
+ public:
+  using IXMLDOMNode::IXMLDOMNode;
+
+  std::string tagName() const { return nodeName(); }
+  /// The child elements, in document order.
+  IXMLDOMNodeList childElements() const;
+
+  void setAttribute(const char* name, const runtime::Variant& value);
+  /// Null where there is no such attribute.
+  runtime::Variant getAttribute(const char* name) const;
+
+ private:
+  friend class IXMLDOMNode;
+  friend class IXMLDOMDocument2;
+};
+
+/// A document. Parsing never validates and never reaches outside the text; white space is kept, and line ends
+/// become line feeds, as XML wants it.
+class IXMLDOMDocument2 : public IXMLDOMNode {
+ public:
+  IXMLDOMDocument2() = default;  ///< Nothing; see Create
+  static IXMLDOMDocument2 Create();
+
+  /// False, with the document left empty, if `xml` doesn't parse to a tree with one root element.
+  bool loadXML(std::string_view xml);
+  IXMLDOMElement documentElement() const;
+  IXMLDOMElement createElement(const char* name) const;
+  IXMLDOMNode createTextNode(std::string_view text) const;
+
+ private:
+  using IXMLDOMNode::IXMLDOMNode;
+};
+
+}  // namespace plotsmith::dom
