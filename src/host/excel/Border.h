@@ -1,0 +1,15 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+class Border {
+ public:
+  virtual ~Border() = default;
+
+  /// One of Excel's line styles (XlLineStyle); what isn't one leaves no line, as on a chart in Excel.
+  virtual void SetLineStyle(std::int32_t style) = 0;
+};
+
+}  // namespace plotsmith::excel

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+class Border;
+class ChartFillFormat;
+class Interior;
+
+class ChartArea {
+ public:
+  virtual ~ChartArea() = default;
+
+  virtual Ref<excel::Interior> Interior() = 0;
+  virtual Ref<excel::Border> Border() = 0;
+  virtual Ref<ChartFillFormat> Fill() = 0;
+  /// Whether fonts follow the chart's size. Hosts from version 12 on accept it, and nothing follows.
+  virtual void SetAutoScaleFont(const Variant& value) = 0;
+};
+
+}  // namespace plotsmith::excel

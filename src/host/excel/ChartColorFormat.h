@@ -1,0 +1,15 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+class ChartColorFormat {
+ public:
+  virtual ~ChartColorFormat() = default;
+
+  /// An index into the palette.
+  virtual void SetSchemeColor(std::int32_t index) = 0;
+};
+
+}  // namespace plotsmith::excel

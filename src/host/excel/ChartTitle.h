@@ -1,0 +1,15 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+class ChartTitle {
+ public:
+  virtual ~ChartTitle() = default;
+
+  virtual std::string Text() = 0;
+  virtual void SetText(std::string_view text) = 0;
+};
+
+}  // namespace plotsmith::excel

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+class Range;
+
+/// A defined name: Excel's Name, which C++ can't give to a class with a member Name.
+class DefinedName {
+ public:
+  virtual ~DefinedName() = default;
+
+  /// With the sheet and "!" in front if it belongs to one sheet.
+  virtual std::string Name() = 0;
+  /// The definition, with "=" in front.
+  virtual std::string RefersTo() = 0;
+  /// Error 1004 if the name doesn't refer to a range.
+  virtual Ref<Range> RefersToRange() = 0;
+};
+
+}  // namespace plotsmith::excel

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+/// The filling of an area of a chart.
+class Interior {
+ public:
+  virtual ~Interior() = default;
+
+  /// An index into the palette (the nearest, for a colour that isn't in it), xlColorIndexNone for no filling
+  /// or xlColorIndexAutomatic.
+  virtual std::int32_t ColorIndex() = 0;
+  virtual void SetColorIndex(std::int32_t index) = 0;
+};
+
+}  // namespace plotsmith::excel

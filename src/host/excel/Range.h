@@ -1,0 +1,34 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+class Range {
+ public:
+  virtual ~Range() = default;
+
+  virtual std::int32_t Row() = 0;
+  virtual std::int32_t Column() = 0;
+  virtual Ref<Range> Rows() = 0;
+  virtual Ref<Range> Columns() = 0;
+  /// Of Rows the rows, of Columns the columns, else the cells.
+  virtual std::int32_t Count() = 0;
+  /// A cell, counted from this range's first.
+  virtual Ref<Range> Cells(std::int32_t row, std::int32_t column) = 0;
+  /// Absolute, without the sheet: "$A$1", "$A$1:$C$5".
+  virtual std::string Address() = 0;
+
+  virtual Variant Value() = 0;
+  virtual void SetValue(const Variant& value) = 0;
+  virtual std::string Text() = 0;
+  /// Error 1004 for a format that isn't one.
+  virtual void SetNumberFormat(std::string_view format) = 0;
+  virtual void Clear() = 0;
+  virtual void Activate() = 0;
+  /// Whole rows only; what lies below moves, and references to it follow.
+  virtual void Insert() = 0;
+  virtual void Delete(std::int32_t shift) = 0;
+};
+
+}  // namespace plotsmith::excel

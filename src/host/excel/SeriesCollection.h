@@ -1,0 +1,20 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+class Series;
+
+class SeriesCollection {
+ public:
+  virtual ~SeriesCollection() = default;
+
+  virtual std::int32_t Count() = 0;
+  /// In plot order; error 1004 outside.
+  virtual Ref<Series> Item(std::int32_t index) = 0;
+  /// Appends an empty series.
+  virtual Ref<Series> NewSeries() = 0;
+};
+
+}  // namespace plotsmith::excel

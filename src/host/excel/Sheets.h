@@ -1,0 +1,23 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+class Sheet;
+class Worksheet;
+
+class Sheets {
+ public:
+  virtual ~Sheets() = default;
+
+  virtual std::int32_t Count() = 0;
+  /// Error 9 if there is no such sheet.
+  virtual Ref<Sheet> Item(std::int32_t index) = 0;
+  virtual Ref<Sheet> Item(std::string_view name) = 0;
+  /// A new worksheet, which becomes the active sheet. At most one of the two is given; with neither it stands
+  /// before the active sheet.
+  virtual Ref<Worksheet> Add(Ref<Sheet> before, Ref<Sheet> after) = 0;
+};
+
+}  // namespace plotsmith::excel

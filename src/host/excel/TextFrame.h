@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+class Characters;
+
+class TextFrame {
+ public:
+  virtual ~TextFrame() = default;
+
+  /// From `start`, `length` units or, if that is negative, all that follows.
+  virtual Ref<excel::Characters> Characters(std::int32_t start = 1, std::int32_t length = -1) = 0;
+};
+
+}  // namespace plotsmith::excel

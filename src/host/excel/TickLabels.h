@@ -1,0 +1,15 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+class TickLabels {
+ public:
+  virtual ~TickLabels() = default;
+
+  /// Whether the labels take the number format of the cells.
+  virtual void SetNumberFormatLinked(bool value) = 0;
+};
+
+}  // namespace plotsmith::excel

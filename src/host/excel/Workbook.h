@@ -1,0 +1,30 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+class Application;
+class Names;
+class Sheet;
+class Sheets;
+class Worksheets;
+
+class Workbook {
+ public:
+  virtual ~Workbook() = default;
+
+  virtual Ref<excel::Application> Application() = 0;
+  virtual bool ProtectStructure() = 0;
+  virtual bool MultiUserEditing() = 0;
+  virtual Ref<Sheet> ActiveSheet() = 0;
+  /// All sheets in the order of their tabs, chart sheets among them.
+  virtual Ref<excel::Sheets> Sheets() = 0;
+  virtual Ref<excel::Worksheets> Worksheets() = 0;
+  virtual Ref<excel::Names> Names() = 0;
+  /// Entry `index`, from 1 to 56, of the palette.
+  virtual std::int32_t Colors(std::int32_t index) = 0;
+  virtual void SetColors(std::int32_t index, std::int32_t color) = 0;
+};
+
+}  // namespace plotsmith::excel
