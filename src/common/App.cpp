@@ -1,0 +1,7 @@
+#include "common/App.h"
+
+namespace plotsmith {
+
+AppObject App;
+
+}  // namespace plotsmith

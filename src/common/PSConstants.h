@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+
+namespace plotsmith {
+
+inline constexpr const char* kProductTitle = "Brindle Plotsmith";
+
+/// The very hidden sheet of the chart definitions: A1 marks it, the documents follow one a row from A2.
+inline constexpr const char* kDefinitionsSheet = "VEX_ChartDefinitions";
+inline constexpr const char* kDefinitionsSheetMark = "Plotsmith Version 2.0";
+/// The very hidden sheet of the pivoted data: blocks of rows, one a chart.
+inline constexpr const char* kDataSheet = "VEX_ChartData";
+
+inline constexpr const char* kRefreshStartedMacro = "VEXEvents.VEXChartRefreshStarted";
+inline constexpr const char* kRefreshCompleteMacro = "VEXEvents.VEXChartRefreshComplete";
+
+inline constexpr const char* kLineBreak = "\r\n";
+
+/// The last host version that has neither the busy window nor A1 references for series names.
+inline constexpr double kLastClassicVersion = 11.0;
+
+/// What a run is doing (`lMethodType`).
+namespace method {
+inline constexpr std::int32_t kNew = 0;
+inline constexpr std::int32_t kModify = 1;
+inline constexpr std::int32_t kCopy = 2;
+inline constexpr std::int32_t kDelete = 3;
+inline constexpr std::int32_t kRefresh = 4;
+}  // namespace method
+
+/// What `GetCellValue` returns of a cell.
+namespace cell {
+inline constexpr std::int32_t kText = 0;
+inline constexpr std::int32_t kDouble = 1;
+inline constexpr std::int32_t kString = 2;
+}  // namespace cell
+
+}  // namespace plotsmith
