@@ -1,0 +1,183 @@
+#include "metadata/MetadataStore.h"
+
+#include <algorithm>
+#include <array>
+
+#include "common/CommonFunctions.h"
+#include "common/PSConstants.h"
+#include "common/RunVariables.h"
+#include "metadata/StrategicBuckets.h"
+#include "readback/ChartIdentity.h"
+
+namespace plotsmith {
+
+using dom::IXMLDOMDocument2;
+using dom::IXMLDOMElement;
+using runtime::Ref;
+
+namespace {
+
+constexpr std::int32_t kFirstDefinitionRow = 2;
+constexpr const char* kSchemaVersion = "2";
+
+/// The shape of a type that bears the id, on one sheet; the first one wins. A definition without an id has no
+/// shape: it must not lay hands on a chart of somebody else's that has no alternative text.
+Ref<excel::Shape> FindShape(const Ref<excel::Worksheet>& oSheet, std::int32_t lType, const std::string& sID) {
+  if (sID.empty()) return nullptr;
+  const auto oShapes = oSheet->Shapes();
+  const std::int32_t lCount = oShapes->Count();
+  for (std::int32_t i = 1; i <= lCount; ++i) {
+    auto oShape = oShapes->Item(i);
+    if (oShape->Type() == lType && oShape->AlternativeText() == sID) return oShape;
+  }
+  return nullptr;
+}
+
+/// Loads one row; False if it has no place on the sheet any more.
+bool LoadChartDefinition(const std::string& sText) {
+  auto oDoc = NewXMLDocument();
+  if (!oDoc.loadXML(sText)) return false;
+  auto oChart = oDoc.selectSingleNode("chart");
+  const std::string sID = GetAttributeText(oChart, "id");
+  const std::string sSheet = FindChartSheet(sID);
+  const std::string sTableSheet = GetTableSheetName(GetAttributeText(oChart, "table-id"));
+  if (sSheet.empty()) return false;
+  oChart.setAttribute("chart-worksheet", sSheet);
+  oChart.setAttribute("table-worksheet", sTableSheet);
+  const auto oChartObject = FindChartObject(sID, sSheet);
+  const auto oComment = FindChartComment(sID, sSheet);
+  RevEngineerChart(oChartObject, oDoc);
+  RevEngineerComment(oComment, oDoc);
+  colChartObjects->Add(oChartObject, sID);
+  colCharts->Add(oDoc, sID);
+  if (oComment) colChartShapes->Add(oComment, sID);
+  return true;
+}
+
+bool TableFitsChart(const IXMLDOMElement& oChart) {
+  const std::string sTable = GetAttributeText(oChart, "table-id");
+  if (!CollectionHasKey(sTable, colTables)) return false;
+  const auto oTable = colTables->Item(sTable).selectSingleNode("table");
+  if (GetAttributeLong(oTable, "header-row-count") >= GetAttributeLong(oTable, "table-height") ||
+      GetAttributeLong(oTable, "label-column-count") < 1 ||
+      GetAttributeLong(oTable, "number-column-count") < 1) {
+    return false;
+  }
+  return GetAttributeText(oChart, "type") != "strategic bucket" ||
+         CollectionHasKey(GetAttributeText(oChart, "strategic-bucket-table-id"), GetBucketCandidates(oTable));
+}
+
+constexpr std::int32_t Rgb(std::int32_t lRed, std::int32_t lGreen, std::int32_t lBlue) {
+  const auto clamp = [](std::int32_t l) { return std::min(l, 255); };
+  return clamp(lRed) + 256 * clamp(lGreen) + 65536 * clamp(lBlue);
+}
+
+}  // namespace
+
+void RetrieveChartDefinitions() {
+  ReportErrors("PSFunctions.RetrieveChartDefinitions", [] {
+    colCharts = runtime::MakeRef<DocumentCollection>();
+    colChartObjects = runtime::MakeRef<runtime::Collection<Ref<excel::Chart>>>();
+    colChartShapes = runtime::MakeRef<runtime::Collection<Ref<excel::Shape>>>();
+    const bool bNewSheet = !SheetExists(kDefinitionsSheet);
+    if (bNewSheet) {
+      if (!CreateSheet(kDefinitionsSheet, 1, excel::xlSheetVeryHidden)) {
+        ShowMessage("Unable to create the metadata worksheet");
+        return;
+      }
+      oWorkbook->Worksheets()->Item(kDefinitionsSheet)->SetCellValueAt(1, 1, kDefinitionsSheetMark);
+    } else {
+      const auto oSheet = oWorkbook->Worksheets()->Item(kDefinitionsSheet);
+      for (std::int32_t lRow = kFirstDefinitionRow;;) {
+        const std::string sText = runtime::CStr(GetCellValue(*oSheet, lRow, 1, cell::kString));
+        if (sText.empty()) break;
+        // whatever goes wrong with a row is that row's fault
+        const bool bLoaded = ValueOr(false, [&] { return LoadChartDefinition(sText); });
+        if (bLoaded || !DeleteSheetRow(oSheet, lRow)) ++lRow;
+      }
+    }
+    ValidateChartsAgainstTables();
+    if (bNewSheet) EnsureWorkbookPalette();
+  });
+}
+
+void ValidateChartsAgainstTables() {
+  ReportErrors("PSFunctions.ValidateChartsAgainstTables", [] {
+    for (const IXMLDOMDocument2& oDoc : *colCharts) {
+      auto oChart = oDoc.selectSingleNode("chart");
+      oChart.setAttribute("table-corrupted", TableFitsChart(oChart) ? "no" : "yes");
+      YieldToHost();
+    }
+  });
+}
+
+void SaveChartDefinition(const IXMLDOMDocument2& oDoc) {
+  ReportErrors("PSFunctions.SaveChartDefinition", [&] {
+    auto oChart = oDoc.selectSingleNode("chart");
+    const std::string sID = GetAttributeText(oChart, "id");
+    if (GetAttributeText(oChart, "ps-chart-schema-version") != kSchemaVersion) {
+      oChart.setAttribute("ps-chart-schema-version", kSchemaVersion);
+    }
+    const auto oSheet = oWorkbook->Worksheets()->Item(kDefinitionsSheet);
+    std::int32_t lRow = kFirstDefinitionRow;
+    for (;; ++lRow) {
+      const std::string sText = runtime::CStr(GetCellValue(*oSheet, lRow, 1, cell::kString));
+      if (sText.empty()) break;
+      auto oRowDoc = NewXMLDocument();
+      if (oRowDoc.loadXML(sText) && GetAttributeText(oRowDoc.selectSingleNode("chart"), "id") == sID) break;
+    }
+    oSheet->SetCellValueAt(lRow, 1, oDoc.xml());
+  });
+}
+
+std::string FindChartSheet(const std::string& sID) {
+  const auto oSheets = oWorkbook->Worksheets();
+  for (std::int32_t i = 1; i <= oSheets->Count(); ++i) {
+    const auto oSheet = oSheets->Item(i);
+    if (FindShape(oSheet, excel::msoChart, sID)) return oSheet->Name();
+    YieldToHost();
+  }
+  return {};
+}
+
+Ref<excel::Chart> FindChartObject(const std::string& sID, const std::string& sSheetName) {
+  const auto oSheet = oWorkbook->Worksheets()->Item(sSheetName);
+  const auto oShape = FindShape(oSheet, excel::msoChart, sID);
+  return oShape ? oSheet->ChartObjects()->Item(oShape->Name())->Chart() : nullptr;
+}
+
+Ref<excel::Shape> FindChartComment(const std::string& sID, const std::string& sSheetName) {
+  return FindShape(oWorkbook->Worksheets()->Item(sSheetName), excel::msoTextBox, sID);
+}
+
+std::string GetTableSheetName(const std::string& sID) {
+  if (!CollectionHasKey(sID, colTables)) return "[Deleted]";
+  return GetAttributeText(colTables->Item(sID).selectSingleNode("table"), "table-worksheet");
+}
+
+void EnsureWorkbookPalette() {
+  constexpr std::int32_t kFirst = 17;
+  // The third number of the first is more than a colour holds; what counts is the clamped value.
+  constexpr std::array<std::int32_t, 6> kDefaults = {Rgb(153, 153, 256), Rgb(153, 51, 102),
+                                                     Rgb(255, 255, 204), Rgb(204, 255, 255),
+                                                     Rgb(102, 0, 102),   Rgb(255, 128, 128)};
+  constexpr std::array<std::int32_t, 6> kColors = {Rgb(102, 102, 153), Rgb(255, 255, 153), Rgb(51, 153, 102),
+                                                   Rgb(255, 128, 128), Rgb(51, 204, 204),  Rgb(128, 0, 128)};
+  IgnoreErrors([&] {
+    const auto oSheets = oWorkbook->Worksheets();
+    for (std::int32_t i = 1; i <= oSheets->Count(); ++i) {
+      const auto oShapes = oSheets->Item(i)->Shapes();
+      for (std::int32_t j = 1; j <= oShapes->Count(); ++j) {
+        if (oShapes->Item(j)->Type() == excel::msoChart) return;
+      }
+    }
+    for (std::size_t i = 0; i < kDefaults.size(); ++i) {
+      if (oWorkbook->Colors(kFirst + static_cast<std::int32_t>(i)) != kDefaults[i]) return;
+    }
+    for (std::size_t i = 0; i < kColors.size(); ++i) {
+      oWorkbook->SetColors(kFirst + static_cast<std::int32_t>(i), kColors[i]);
+    }
+  });
+}
+
+}  // namespace plotsmith
