@@ -1,0 +1,144 @@
+#include "builder/AbcChart.h"
+
+#include <algorithm>
+#include <string>
+
+#include "builder/BuilderVariables.h"
+#include "builder/ChartAttributes.h"
+#include "common/CommonFunctions.h"
+#include "common/PSConstants.h"
+#include "host/excel/Excel.h"
+
+namespace plotsmith {
+
+using dom::IXMLDOMElement;
+using runtime::Val;
+
+namespace {
+
+/// The letters of sheet column `c`, for 3 to 78 only; empty beyond. More isn't wanted: what comes after the
+/// 78th column keeps the name before it.
+std::string NameColumnLetters(std::int32_t c) {
+  const auto letter = [](std::int32_t lCode) { return std::string(1, static_cast<char>(lCode)); };
+  if (c <= 26) return letter(64 + c);
+  if (c <= 52) return "A" + letter(38 + c);
+  if (c <= 78) return "B" + letter(12 + c);
+  return {};
+}
+
+std::int32_t FamilyOffset() {
+  if (mChartType == "bar") return 8;
+  if (mChartType == "column") return 16;
+  return 0;
+}
+
+std::int32_t ChartTypeOfSum(std::int32_t lSum) {
+  switch (lSum) {
+    case 0:
+      return excel::xlArea;
+    case 1:
+      return excel::xl3DArea;
+    case 2:
+      return excel::xlAreaStacked;
+    case 3:
+      return excel::xl3DAreaStacked;
+    case 6:
+      return excel::xlAreaStacked100;
+    case 7:
+      return excel::xl3DAreaStacked100;
+    case 8:
+      return excel::xlBarClustered;
+    case 9:
+      return excel::xl3DBarClustered;
+    case 10:
+      return excel::xlBarStacked;
+    case 11:
+      return excel::xl3DBarStacked;
+    case 14:
+      return excel::xlBarStacked100;
+    case 15:
+      return excel::xl3DBarStacked100;
+    case 17:
+      return excel::xl3DColumnClustered;
+    case 18:
+      return excel::xlColumnStacked;
+    case 19:
+      return excel::xl3DColumnStacked;
+    case 22:
+      return excel::xlColumnStacked100;
+    case 23:
+      return excel::xl3DColumnStacked100;
+    // "100%" without "stacked", or a setting that occurs twice, is plain columns whatever the family
+    default:
+      return excel::xlColumnClustered;
+  }
+}
+
+void ApplyValueLabels() {
+  const auto oCollection = mChart->SeriesCollection();
+  for (std::int32_t i = 1; i <= oCollection->Count(); ++i) {
+    const auto oSeries = oCollection->Item(i);
+    oSeries->ApplyDataLabels(excel::xlDataLabelsShowValue);
+    const auto oLabels = oSeries->DataLabels();
+    if (!oLabels) continue;
+    oLabels->SetPosition(excel::xlLabelPositionCenter);
+    oLabels->SetAutoScaleFont(SafeBool(mLabelFontAutoScale));
+    const auto oFont = oLabels->Font();
+    oFont->SetName(mLabelFontName);
+    oFont->SetFontStyle(mLabelFontStyle);
+    oFont->SetSize(Val(mLabelFontSize));
+    oFont->SetColor(mLabelFontColor);
+  }
+}
+
+}  // namespace
+
+void PopulateABCChart(const IXMLDOMElement& oChartElement) {
+  ReportErrors("PSChartBuilder.PopulateABCChart", [&] {
+    const Block oBlock(oChartElement);
+    // All series are made, and all attributes applied, on clustered bars; the real type comes last.
+    mChart->SetChartType(excel::xlBarClustered);
+    const std::string sCategories = oBlock.Categories();
+    std::string sName;
+    for (std::int32_t c = 3; c <= oBlock.L; ++c) {
+      if (HostVersion(mChart->Application()) > kLastClassicVersion) {
+        const std::string sLetters = NameColumnLetters(c);
+        if (!sLetters.empty()) sName = "=VEX_ChartData!$" + sLetters + "$" + std::to_string(oBlock.S);
+      } else {
+        sName = kDataReferencePrefix + std::to_string(oBlock.S) + "C" + std::to_string(c);
+      }
+      const auto oSeries = mChart->SeriesCollection()->NewSeries();
+      oSeries->SetName(sName);
+      oSeries->SetXValues(sCategories);
+      oSeries->SetValues(oBlock.Values(c));
+    }
+  });
+}
+
+void SetABCChartAttributes(const IXMLDOMElement& oChartElement) {
+  ReportErrors("PSChartBuilder.SetABCChartAttributes", [&] {
+    ApplyTitle(oChartElement);
+    ApplyLegendFromHeadings(oChartElement);
+    ClearAxisTitles();
+    ApplyAxisTitles(oChartElement);
+    FinishAxes();
+
+    const auto aLabels = oChartElement.selectNodes("data-labels/data-label");
+    if (std::any_of(aLabels.begin(), aLabels.end(),
+                    [](const auto& oLabel) { return GetAttributeText(oLabel, "show") == "values"; })) {
+      ApplyValueLabels();
+    }
+
+    std::int32_t lSum = FamilyOffset();
+    for (const IXMLDOMElement& oAttribute : oChartElement.selectNodes("dynamic-attributes/attribute")) {
+      const std::string sSetting = GetAttributeText(oAttribute, "setting");
+      if (sSetting == "3D") lSum += 1;
+      if (sSetting == "stacked") lSum += 2;
+      if (sSetting == "100%") lSum += 4;
+    }
+    mChart->SetChartType(ChartTypeOfSum(lSum));
+    ApplyLegendVisibility();
+  });
+}
+
+}  // namespace plotsmith

@@ -1,0 +1,56 @@
+#include "builder/BuilderVariables.h"
+
+#include "builder/PersistedProperties.h"
+
+namespace plotsmith {
+
+using runtime::Dictionary;
+using runtime::Variant;
+
+std::string mChartType;
+runtime::Ref<excel::Chart> mChart;
+bool mNewOrCopiedChart = false;
+std::int32_t mSavedCalculation = 0;
+
+Dictionary mCategoryPositions;
+Dictionary mCategoryNames;
+Dictionary mSeriesPositions;
+Dictionary mSeriesNames;
+std::vector<CPSMapInstruction> mMapInstructions;
+std::int32_t mCategoryCount = 0;
+std::int32_t mSeriesCount = 0;
+
+std::string mLegendVisibility;
+Variant mLegendPosition;
+double mLegendLeft = 0;
+double mLegendTop = 0;
+Variant mLegendFontName, mLegendFontStyle, mLegendFontSize, mLegendFontColor, mLegendFontAutoScale;
+Variant mLabelFontName, mLabelFontStyle, mLabelFontSize, mLabelFontColor, mLabelFontBackgroundColor,
+    mLabelFontAutoScale;
+Variant mBucketLabelFontName, mBucketLabelFontSize, mBucketLabelFontStyle, mBucketLabelFontColor,
+    mBucketLabelFontAutoScale;
+Variant mLabelAxisFontName, mLabelAxisFontSize, mLabelAxisFontStyle, mLabelAxisFontColor,
+    mLabelAxisFontAutoScale;
+Variant mValueAxisFontName, mValueAxisFontSize, mValueAxisFontStyle, mValueAxisFontColor,
+    mValueAxisFontAutoScale;
+
+void ResetMap() {
+  mCategoryPositions = {};
+  mCategoryNames = {};
+  mSeriesPositions = {};
+  mSeriesNames = {};
+  mMapInstructions.clear();
+}
+
+void ResetBuilderVariables() {
+  mChartType.clear();
+  mChart = nullptr;
+  mNewOrCopiedChart = false;
+  mSavedCalculation = 0;
+  ResetMap();
+  mCategoryCount = 0;
+  mSeriesCount = 0;
+  SetPropertyDefaults();
+}
+
+}  // namespace plotsmith

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "builder/CPSMapInstruction.h"
+#include "host/excel/Chart.h"
+#include "runtime/Dictionary.h"
+#include "runtime/Ref.h"
+#include "runtime/Variant.h"
+
+/// The variables of module PSChartBuilder: the chart being built, its map and its persisted properties. They
+/// live until the next chart's build replaces them.
+namespace plotsmith {
+
+extern std::string mChartType;  ///< `type` of the definition
+extern runtime::Ref<excel::Chart> mChart;
+extern bool mNewOrCopiedChart;          ///< the first build of a chart that a wizard run has just made
+extern std::int32_t mSavedCalculation;  ///< `Application.Calculation` before a refresh run
+
+// The map. Keys are upper-cased texts; positions are indices into the rectangle, from 1; names are the texts
+// as first seen.
+extern runtime::Dictionary mCategoryPositions;
+extern runtime::Dictionary mCategoryNames;
+extern runtime::Dictionary mSeriesPositions;
+extern runtime::Dictionary mSeriesNames;
+extern std::vector<CPSMapInstruction> mMapInstructions;
+extern std::int32_t mCategoryCount;  ///< rows of the rectangle
+extern std::int32_t mSeriesCount;    ///< columns of the rectangle
+
+// The persisted properties, see PersistedProperties.h.
+extern std::string mLegendVisibility;
+extern runtime::Variant mLegendPosition;
+extern double mLegendLeft;
+extern double mLegendTop;
+extern runtime::Variant mLegendFontName;
+extern runtime::Variant mLegendFontStyle;
+extern runtime::Variant mLegendFontSize;
+extern runtime::Variant mLegendFontColor;
+extern runtime::Variant mLegendFontAutoScale;
+extern runtime::Variant mLabelFontName;
+extern runtime::Variant mLabelFontStyle;
+extern runtime::Variant mLabelFontSize;
+extern runtime::Variant mLabelFontColor;
+extern runtime::Variant mLabelFontBackgroundColor;
+extern runtime::Variant mLabelFontAutoScale;
+extern runtime::Variant mBucketLabelFontName;
+extern runtime::Variant mBucketLabelFontSize;
+extern runtime::Variant mBucketLabelFontStyle;
+extern runtime::Variant mBucketLabelFontColor;
+extern runtime::Variant mBucketLabelFontAutoScale;
+extern runtime::Variant mLabelAxisFontName;
+extern runtime::Variant mLabelAxisFontSize;
+extern runtime::Variant mLabelAxisFontStyle;
+extern runtime::Variant mLabelAxisFontColor;
+extern runtime::Variant mLabelAxisFontAutoScale;
+extern runtime::Variant mValueAxisFontName;
+extern runtime::Variant mValueAxisFontSize;
+extern runtime::Variant mValueAxisFontStyle;
+extern runtime::Variant mValueAxisFontColor;
+extern runtime::Variant mValueAxisFontAutoScale;
+
+/// All of them back to how the component starts.
+void ResetBuilderVariables();
+/// The map's variables only, made new: so each map builder begins.
+void ResetMap();
+
+}  // namespace plotsmith

@@ -1,0 +1,125 @@
+#include "builder/ChartAttributes.h"
+
+#include "builder/BuilderVariables.h"
+#include "common/CommonFunctions.h"
+#include "host/excel/Excel.h"
+
+namespace plotsmith {
+
+using dom::IXMLDOMElement;
+using runtime::Val;
+
+namespace {
+
+struct AxisFont {
+  const runtime::Variant& vName;
+  const runtime::Variant& vSize;
+  const runtime::Variant& vStyle;
+  const runtime::Variant& vColor;
+  const runtime::Variant& vAutoScale;
+};
+
+AxisFont FontOfAxis(std::int32_t lAxis) {
+  if (lAxis == excel::xlCategory) {
+    return {mLabelAxisFontName, mLabelAxisFontSize, mLabelAxisFontStyle, mLabelAxisFontColor,
+            mLabelAxisFontAutoScale};
+  }
+  return {mValueAxisFontName, mValueAxisFontSize, mValueAxisFontStyle, mValueAxisFontColor,
+          mValueAxisFontAutoScale};
+}
+
+}  // namespace
+
+Block::Block(const IXMLDOMElement& oChartElement)
+    : S(GetAttributeLong(oChartElement, "data-start-row")), E(S + mCategoryCount), L(mSeriesCount + 2) {}
+
+std::string Block::Categories() const {
+  return kDataReferencePrefix + std::to_string(S + 1) + "C2:R" + std::to_string(E) + "C2";
+}
+
+std::string Block::Values(std::int32_t lColumn) const {
+  const std::string sColumn = "C" + std::to_string(lColumn);
+  return kDataReferencePrefix + std::to_string(S + 1) + sColumn + ":R" + std::to_string(E) + sColumn;
+}
+
+void ApplyTitle(const IXMLDOMElement& oChartElement) {
+  const std::string sTitle = GetAttributeText(oChartElement, "title");
+  if (sTitle.empty()) {
+    mChart->SetHasTitle(false);
+  } else {
+    mChart->SetHasTitle(true);
+    mChart->ChartTitle()->SetText(sTitle);
+  }
+}
+
+void ApplyLegendFromHeadings(const IXMLDOMElement& oChartElement) {
+  const auto oSeries = oChartElement.selectSingleNode("series");
+  if (oSeries) mChart->SetHasLegend(GetAttributeText(oSeries, "headings-in") != "none");
+}
+
+void ClearAxisTitles() {
+  mChart->Axes(excel::xlValue, excel::xlPrimary)->SetHasTitle(false);
+  mChart->Axes(excel::xlCategory, excel::xlPrimary)->SetHasTitle(false);
+}
+
+void ApplyAxisTitles(const IXMLDOMElement& oChartElement) {
+  for (const IXMLDOMElement& oAxisElement : oChartElement.selectNodes("axes/axis")) {
+    const std::string sType = GetAttributeText(oAxisElement, "type");
+    const std::string sLabel = GetAttributeText(oAxisElement, "label");
+    if ((sType != "label" && sType != "value") || sLabel.empty()) continue;
+    const std::int32_t lAxis = sType == "label" ? excel::xlCategory : excel::xlValue;
+    const AxisFont oStored = FontOfAxis(lAxis);
+    mChart->SetHasAxis(lAxis, true);
+    const auto oAxis = mChart->Axes(lAxis, excel::xlPrimary);
+    oAxis->SetHasTitle(true);
+    const auto oTitle = oAxis->AxisTitle();
+    oTitle->SetText(sLabel);
+    const auto oFont = oTitle->Font();
+    oFont->SetSize(Val(oStored.vSize));
+    oFont->SetName(oStored.vName);
+    oFont->SetColor(oStored.vColor);
+    oFont->SetFontStyle(oStored.vStyle);
+    oTitle->SetAutoScaleFont(SafeBool(oStored.vAutoScale));
+  }
+}
+
+void FinishAxes() {
+  if (mChart->HasAxis(excel::xlValue)) {
+    mChart->Axes(excel::xlValue, excel::xlPrimary)->TickLabels()->SetNumberFormatLinked(true);
+  }
+  // A title stands along its axis, and the axes of a bar chart lie the other way round.
+  const bool bBar = mChartType == "bar";
+  const auto turn = [](std::int32_t lAxis, std::int32_t lOrientation) {
+    const auto oAxis = mChart->Axes(lAxis, excel::xlPrimary);
+    if (oAxis->HasTitle()) oAxis->AxisTitle()->SetOrientation(lOrientation);
+  };
+  turn(excel::xlValue, bBar ? excel::xlHorizontal : excel::xlUpward);
+  turn(excel::xlCategory, bBar ? excel::xlUpward : excel::xlHorizontal);
+}
+
+void ApplyLegendVisibility() {
+  if (mLegendVisibility == "show") {
+    mChart->SetHasLegend(true);
+    ApplyLegendAttributes();
+  } else if (mLegendVisibility == "hide") {
+    mChart->SetHasLegend(false);
+  }
+}
+
+void ApplyLegendAttributes() {
+  runtime::Ref<excel::Legend> oLegend;
+  IgnoreErrors([&] { oLegend = mChart->Legend(); }, [&] { oLegend->Font()->SetName(mLegendFontName); },
+               [&] { oLegend->Font()->SetSize(Val(mLegendFontSize)); },
+               [&] { oLegend->Font()->SetFontStyle(mLegendFontStyle); },
+               [&] { oLegend->Font()->SetColor(mLegendFontColor); },
+               [&] { oLegend->SetAutoScaleFont(mLegendFontAutoScale); });
+  const double dPosition = ValueOr(0.0, [] { return Val(mLegendPosition); });
+  if (dPosition != 0) {
+    IgnoreErrors([&] { oLegend->SetPosition(runtime::CLng(dPosition)); });
+  } else {
+    IgnoreErrors([&] { oLegend->SetTop(Val(std::string_view(runtime::CStr(mLegendTop)))); },
+                 [&] { oLegend->SetLeft(Val(std::string_view(runtime::CStr(mLegendLeft)))); });
+  }
+}
+
+}  // namespace plotsmith

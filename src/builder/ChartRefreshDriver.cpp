@@ -1,0 +1,200 @@
+#include "builder/ChartRefreshDriver.h"
+
+#include "builder/AbcChart.h"
+#include "builder/BuilderVariables.h"
+#include "builder/ChartComment.h"
+#include "builder/DataSheet.h"
+#include "builder/PersistedProperties.h"
+#include "builder/PivotMap.h"
+#include "builder/SourceValidation.h"
+#include "common/App.h"
+#include "common/CommonFunctions.h"
+#include "common/PSConstants.h"
+#include "common/RunVariables.h"
+#include "metadata/MetadataStore.h"
+#include "metadata/TableDefinitions.h"
+#include "pages/frmBusyPS.h"
+
+namespace plotsmith {
+
+using dom::IXMLDOMElement;
+
+namespace {
+
+void RunMacro(const char* sMacro, const std::vector<runtime::Variant>& aArguments = {}) {
+  IgnoreErrors([&] { oApplication->Run(sMacro, aArguments); });
+}
+
+/// The host as a run of builds wants it: calculation by hand and a still screen, both put back at the end.
+class QuietHost {
+ public:
+  void Enter() {
+    App.Desktop->SetMousePointer(desktop::kPointerHourglass);
+    mSavedCalculation = oApplication->Calculation();
+    oApplication->SetCalculation(excel::xlCalculationManual);
+    bScreenUpdating_ = oApplication->ScreenUpdating();
+    oApplication->SetScreenUpdating(false);
+  }
+
+  void Leave() {
+    oApplication->SetCalculation(mSavedCalculation);
+    oApplication->SetScreenUpdating(bScreenUpdating_);
+    App.Desktop->SetMousePointer(desktop::kPointerDefault);
+  }
+
+ private:
+  bool bScreenUpdating_ = true;
+};
+
+void EnsureTablesAndCharts() {
+  if (!colTables) RetrieveTableDefinitions();
+  if (!colCharts) RetrieveChartDefinitions();
+}
+
+/// Runs the work directly up to host version 11, and else inside the busy window.
+void RunBehindBusyWindow(void (*work)(const std::string&), std::int32_t lWork, const std::string& sID) {
+  bool bClassic = false;
+  HandleErrors(
+      [&] {
+        bClassic = HostVersion(oApplication) <= kLastClassicVersion;
+        if (bClassic) {
+          oApplication->SetInteractive(false);
+          work(sID);
+          oApplication->SetInteractive(true);
+        } else {
+          frmBusyPS oWindow;
+          oWindow.bWorking = false;
+          oWindow.sChartID = sID;
+          oWindow.lMethodType = lWork;
+          App.Views->ShowModal(oWindow);
+        }
+      },
+      [&](const runtime::RuntimeError& oErr) {
+        ShowMessage(oErr.Description());
+        if (bClassic) IgnoreErrors([] { oApplication->SetInteractive(true); });
+      });
+}
+
+void MarkUnavailable(IXMLDOMElement& oChartElement) {
+  const auto oFill = mChart->ChartArea()->Fill();
+  oFill->Patterned(excel::msoPatternLightUpwardDiagonal);
+  oFill->ForeColor()->SetSchemeColor(15);
+  oFill->BackColor()->SetSchemeColor(2);
+  oFill->SetVisible(true);
+  oChartElement.setAttribute("chart-area-crosshatched", "yes");
+}
+
+void DeleteAllSeries() {
+  IgnoreErrors([] {
+    const auto oCollection = mChart->SeriesCollection();
+    for (std::int32_t i = oCollection->Count(); i >= 1; --i) {
+      IgnoreErrors([&] { oCollection->Item(i)->Delete(); });
+    }
+  });
+}
+
+/// False for a type that nobody draws.
+bool DrawFamily(const IXMLDOMElement& oChartElement) {
+  if (mChartType == "area" || mChartType == "bar" || mChartType == "column") {
+    PopulateABCChart(oChartElement);
+    SetABCChartAttributes(oChartElement);
+    return true;
+  }
+  return false;
+}
+
+/// The build itself, of a chart that is valid.
+void BuildChart(IXMLDOMElement& oChartElement, bool bCrosshatched) {
+  if (!BuildPivotMap(oChartElement)) return;
+  if (!PopulateDataSheetOffi2007(oChartElement)) return;
+  RetrievePersistedProperties(oChartElement);
+  if (!mNewOrCopiedChart) mChart->ChartArea()->SetAutoScaleFont(false);
+  if (!DrawFamily(oChartElement)) {
+    ShowMessage(std::string("PSChartBuilder.PopulateChart") + kLineBreak + "Unknown chart type");
+    return;
+  }
+  SetChartComment(oChartElement);
+  if (mNewOrCopiedChart) {
+    mChart->PlotArea()->Interior()->SetColorIndex(excel::xlColorIndexNone);
+    mChart->PlotArea()->Border()->SetLineStyle(0);  // none of Excel's line styles, and so none at all
+  }
+  if (bCrosshatched) {
+    oChartElement.setAttribute("chart-area-crosshatched", "no");
+    mChart->ChartArea()->Interior()->SetColorIndex(excel::xlColorIndexNone);
+  }
+}
+
+}  // namespace
+
+void RefreshAllCharts() {
+  RunBehindBusyWindow([](const std::string&) { PopulateAllCharts(); }, frmBusyPS::kAllCharts, "");
+}
+
+void RefreshChart(const std::string& sID) { RunBehindBusyWindow(PopulateChart, frmBusyPS::kOneChart, sID); }
+
+void PopulateAllCharts() {
+  QuietHost oQuiet;
+  ReportErrors("PSChartBuilder.PopulateAllCharts", [&] {
+    oQuiet.Enter();
+    EnsureTablesAndCharts();
+    const auto colAll = colCharts;
+    for (const auto& oDoc : *colAll) {
+      PopulateChart(GetAttributeText(oDoc.selectSingleNode("chart"), "id"));
+      SaveChartDefinition(oDoc);
+      YieldToHost();
+    }
+  });
+  oQuiet.Leave();
+}
+
+void PopulateModifiedCharts(const std::string& sTableRangeName) {
+  QuietHost oQuiet;
+  RunMacro(kRefreshStartedMacro);
+  ReportErrors("PSChartBuilder.PopulateModifiedCharts", [&] {
+    oQuiet.Enter();
+    RetrieveTableDefinitions();
+    if (!colCharts) RetrieveChartDefinitions();
+    const auto colAll = colCharts;
+    for (const auto& oDoc : *colAll) {
+      const auto oChartElement = oDoc.selectSingleNode("chart");
+      if (GetAttributeText(oChartElement, "table-id") == sTableRangeName ||
+          GetAttributeText(oChartElement, "strategic-bucket-table-id") == sTableRangeName) {
+        RefreshChart(GetAttributeText(oChartElement, "id"));
+      }
+      SaveChartDefinition(oDoc);
+      YieldToHost();
+    }
+  });
+  oQuiet.Leave();
+  RunMacro(kRefreshCompleteMacro);
+}
+
+void PopulateChart(const std::string& sID) {
+  ReportErrors("PSChartBuilder.PopulateChart", [&] {
+    EnsureTablesAndCharts();
+    const auto oDoc = colCharts->Item(sID);
+    auto oChartElement = oDoc.selectSingleNode("chart");
+    mChartType = GetAttributeText(oChartElement, "type");
+    const std::string sName = GetAttributeText(oChartElement, "name");
+    const bool bCrosshatched = GetAttributeText(oChartElement, "chart-area-crosshatched") == "yes";
+    RunMacro(kRefreshStartedMacro, {sID});
+    bool bValid = false;
+    if (mChartType != "unknown") {
+      bValid = ValidateSourceData(oChartElement);
+    } else {
+      ShowMessage(ReplaceTokens(
+          "Chart '/TKN/' has become unavailable because it was changed to an unsupported chart type.",
+          {sName}));
+    }
+    mChart = colChartObjects->Item(sID);
+    mNewOrCopiedChart = lMethodType == method::kNew || lMethodType == method::kCopy;
+    DeleteAllSeries();
+    if (bValid) {
+      BuildChart(oChartElement, bCrosshatched);
+    } else if (mChart->ChartArea()->Interior()->ColorIndex() == excel::xlColorIndexNone) {
+      MarkUnavailable(oChartElement);
+    }
+  });
+}
+
+}  // namespace plotsmith

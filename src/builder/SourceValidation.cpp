@@ -1,0 +1,119 @@
+#include "builder/SourceValidation.h"
+
+#include "common/CommonFunctions.h"
+#include "common/Messages.h"
+#include "common/RunVariables.h"
+#include "runtime/Strings.h"
+
+namespace plotsmith {
+
+using dom::IXMLDOMElement;
+
+namespace {
+
+constexpr const char* kNoTable =
+    "Chart '/TKN/' has become unavailable because its source table no longer exists in this workbook.";
+constexpr const char* kNoData =
+    "Chart '/TKN/' has become unavailable because table '/TKN/' \r\ncurrently contains no data.The chart "
+    "will "
+    "reappear the next time the table is refreshed with one or more rows of data.";
+constexpr const char* kBadColumn =
+    "Chart '/TKN/' has become unavailable because column '/TKN/'\r\nin table '/TKN/' is missing or contains "
+    "invalid data.";
+constexpr const char* kNoBucketTable =
+    "Chart '/TKN/' has become unavailable because its strategic bucket table no longer exists in this "
+    "workbook.";
+constexpr const char* kBucketMismatch =
+    "Chart '/TKN/' has become unavailable because its strategic bucket table doesn't match the source table.";
+
+/// The sheet column of the first of `aColumns` with the name, as the table has it; "" if there is none.
+std::string ColumnNumber(const dom::IXMLDOMNodeList& aColumns, const std::string& sName, bool bYield) {
+  for (const IXMLDOMElement& oColumn : aColumns) {
+    if (runtime::EqualsIgnoreCase(GetAttributeText(oColumn, "name"), sName)) {
+      return GetAttributeText(oColumn, "worksheet-column-number");
+    }
+    if (bYield) YieldToHost();
+  }
+  return {};
+}
+
+bool Fail(const char* sTemplate, std::initializer_list<runtime::Variant> aTokens) {
+  ShowMessage(ReplaceTokens(sTemplate, aTokens));
+  return false;
+}
+
+}  // namespace
+
+bool ValidateSourceData(IXMLDOMElement& oChartElement) {
+  return ReportErrors("PSChartBuilder.ValidateSourceData", false, [&] {
+    const std::string sTable = GetAttributeText(oChartElement, "table-id");
+    const std::string sName = GetAttributeText(oChartElement, "name");
+    if (!CollectionHasKey(sTable, colTables)) return Fail(kNoTable, {sName});
+    const auto oTable = colTables->Item(sTable).selectSingleNode("table");
+    const std::string sSheet = GetAttributeText(oTable, "table-worksheet");
+    const std::string sTableName = GetAttributeText(oTable, "name");
+    const std::int32_t lTop = GetAttributeLong(oTable, "table-top-row");
+    const std::int32_t lLeft = GetAttributeLong(oTable, "table-left-column");
+    const std::int32_t lHeight = GetAttributeLong(oTable, "table-height");
+    const std::int32_t lHeaders = GetAttributeLong(oTable, "header-row-count");
+    oChartElement.setAttribute("table-worksheet", sSheet);
+    oChartElement.setAttribute("table-top-row", lTop);
+    oChartElement.setAttribute("table-left-column", lLeft);
+    oChartElement.setAttribute("table-height", lHeight);
+    oChartElement.setAttribute("header-row-count", lHeaders);
+    if (lHeight <= lHeaders) return Fail(kNoData, {sName, sTableName});
+
+    for (const char* sGroup : {"categories", "series", "values", "x-values", "bubble-sizes", "sort-order"}) {
+      const auto oGroup = oChartElement.selectSingleNode(sGroup);
+      if (!oGroup) continue;
+      const bool bOwnHeadings =
+          sGroup == std::string_view("categories") || sGroup == std::string_view("series");
+      const std::string sHeadingsIn = bOwnHeadings ? GetAttributeText(oGroup, "headings-in") : "columns";
+      for (IXMLDOMElement oColumn : oGroup.selectNodes("column")) {
+        if (!ValidateSourceColumn(oColumn, oTable, sHeadingsIn)) {
+          return Fail(kBadColumn, {sName, GetAttributeText(oColumn, "name"), sTableName});
+        }
+        YieldToHost();
+      }
+    }
+
+    const std::string sBucketTable = GetAttributeText(oChartElement, "strategic-bucket-table-id");
+    if (sBucketTable.empty()) return true;
+    if (!CollectionHasKey(sBucketTable, colTables)) return Fail(kNoBucketTable, {sName});
+    const auto oBucketTable = colTables->Item(sBucketTable).selectSingleNode("table");
+    for (const char* sKind : {"bucket-name-column", "bucket-value-column"}) {
+      const std::int32_t lColumn = BucketColumnPosition(GetAttributeText(oBucketTable, sKind), sKind, oTable);
+      if (lColumn == 0) return Fail(kBucketMismatch, {sName});
+      oChartElement.setAttribute((std::string(sKind) + "-position").c_str(), lColumn);
+    }
+    return true;
+  });
+}
+
+bool ValidateSourceColumn(IXMLDOMElement& oColumnElement, const IXMLDOMElement& oTableElement,
+                          std::string_view /*sHeadingsIn*/) {
+  return ReportErrors("PSChartBuilder.ValidateSourceColumn", false, [&] {
+    const std::string sName = GetAttributeText(oColumnElement, "name");
+    for (const char* sKind : {"label-column", "number-column"}) {
+      const std::string sNumber = ColumnNumber(oTableElement.selectNodes(sKind), sName, true);
+      if (sNumber.empty()) continue;
+      oColumnElement.setAttribute("worksheet-column-number", runtime::CLng(sNumber));
+      return true;
+    }
+    return false;
+  });
+}
+
+std::int32_t BucketColumnPosition(const std::string& sColumnName, std::string_view sColumnKind,
+                                  const IXMLDOMElement& oTableElement) {
+  return ReportErrors("PSChartBuilder.BucketColumnPosition", std::int32_t{0}, [&] {
+    const char* sKind = sColumnKind == "bucket-name-column"    ? "label-column"
+                        : sColumnKind == "bucket-value-column" ? "number-column"
+                                                               : nullptr;
+    if (sKind == nullptr) return std::int32_t{0};
+    const std::string sNumber = ColumnNumber(oTableElement.selectNodes(sKind), sColumnName, false);
+    return sNumber.empty() ? 0 : runtime::CLng(sNumber);
+  });
+}
+
+}  // namespace plotsmith
