@@ -1,0 +1,22 @@
+#pragma once
+
+#include "controller/IPlotsmithController.h"
+
+namespace plotsmith {
+
+/// The one public class. It holds no state of its own: it records the host in the run's variables and hands
+/// over.
+class CPlotsmithController : public IPlotsmithController {
+ public:
+  void RunPlotsmith(runtime::Ref<excel::Application> oApplication, std::string sCustomAppName,
+                    std::string sHelpFile) override;
+  void RefreshPlotsmithData(runtime::Ref<excel::Application> oApplication, std::string sCustomAppName,
+                            std::string sHelpFile) override;
+  void RefreshChartsForTable(runtime::Ref<excel::Application> oApplication,
+                             std::string& sTableRangeName) override;
+  void UpdateChartColumnNamesForTable(runtime::Ref<excel::Application> oApplication,
+                                      std::string sTableRangeName, std::vector<std::string>& aOldColumnNames,
+                                      std::vector<std::string>& aNewColumnNames) override;
+};
+
+}  // namespace plotsmith

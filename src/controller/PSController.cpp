@@ -1,0 +1,233 @@
+#include "controller/PSController.h"
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+#include "builder/ChartRefreshDriver.h"
+#include "common/CommonFunctions.h"
+#include "common/PSConstants.h"
+#include "common/RunVariables.h"
+#include "metadata/MetadataStore.h"
+#include "metadata/TableDefinitions.h"
+
+namespace plotsmith {
+
+runtime::Ref<PageSet> oPages;
+
+namespace {
+
+/// The form behind each page number.
+constexpr std::array kForms = {
+    FormName::frmPSSelectAction,  FormName::frmPSSelectTable,  FormName::frmPSLayoutABC,
+    FormName::frmPSLayoutABC,     FormName::frmPSLayoutBubble, FormName::frmPSLayoutABC,
+    FormName::frmPSLayoutStrBuck, FormName::frmPSLayoutPie,    FormName::frmPSChartLocation};
+constexpr std::int32_t kSelectActionPage = 0;
+constexpr std::int32_t kSelectTablePage = 1;
+constexpr std::int32_t kAreaLayoutPage = 2;
+constexpr std::int32_t kChartLocationPage = 8;
+
+/// The layout page of `sChartType`.
+std::optional<std::int32_t> LayoutPage() {
+  constexpr std::array<std::string_view, 6> kTypes = {"area", "bar", "bubble", "column", "strategic bucket",
+                                                      "pie"};
+  for (std::size_t i = 0; i < kTypes.size(); ++i) {
+    if (kTypes[i] == sChartType) return kAreaLayoutPage + static_cast<std::int32_t>(i);
+  }
+  return std::nullopt;
+}
+
+Page& PageOf(FormName eForm) {
+  if (!oPages)
+    throw runtime::RuntimeError(runtime::error::kApplication,
+                                "The pages of the wizard are not part of this program.");
+  return oPages->Form(eForm);
+}
+
+void ShowLayoutPage(const char* sProcedure) {
+  if (const auto lPage = LayoutPage()) {
+    ShowPage(*lPage);
+  } else {
+    ShowComplaint(sProcedure, "Unknown chart type");
+  }
+}
+
+void ComplainOfOrigin(const char* sProcedure) {
+  ShowComplaint(sProcedure, "Don't know where you're coming from!");
+}
+
+/// Asks a page that isn't shown. On True it goes and `next` follows, on False it opens and says why.
+template <class Next>
+void PassOrShow(std::int32_t lPage, Next&& next) {
+  Page& oPage = PageOf(kForms[static_cast<std::size_t>(lPage)]);
+  if (oPage.ValidSelections()) {
+    UnloadPage(oPage);
+    next();
+  } else {
+    ShowPage(lPage);
+  }
+}
+
+}  // namespace
+
+void ExecuteRun(std::int32_t lMode) {
+  bRunAborted = false;
+  if (lMode == 1) IgnoreErrors([] { oApplication->Run(kRefreshStartedMacro, {}); });
+  if (oApplication->ActiveChart()) {
+    // takes the selection off the chart
+    IgnoreErrors([] {
+      auto* oSheet = dynamic_cast<excel::Worksheet*>(&*oWorkbook->ActiveSheet());
+      if (oSheet != nullptr) oSheet->Cells(1, 1)->Activate();
+    });
+  }
+  PSJumpToStep(lMode == 0 ? step::kStart : step::kRefresh, origin::kOutside, nullptr);
+  EndRun();
+  if (lMode == 1 && !bRunAborted) IgnoreErrors([] { oApplication->Run(kRefreshCompleteMacro, {}); });
+}
+
+void PSJumpToStep(std::int32_t lStep, std::int32_t lFromPage, Page* oPage) {
+  HandleErrors(
+      [&] {
+        oApplication->SetScreenUpdating(false);
+        if (oPage != nullptr) UnloadPage(*oPage);
+        switch (lStep) {
+          case step::kRefresh:
+            lMethodType = method::kRefresh;
+            RefreshAllCharts();
+            break;
+          case step::kStart:
+            JumpStart();
+            break;
+          case step::kNext:
+            JumpNext(lFromPage);
+            break;
+          case step::kPrevious:
+            JumpPrevious(lFromPage);
+            break;
+          case step::kFinish:
+            JumpFinish(lFromPage);
+            YieldToHost();
+            break;
+          case step::kEnd:
+            EndRun();
+            YieldToHost();
+            break;
+          default:
+            ShowComplaint("PSController.PSJumpToStep", "Unsupported Navigation");
+        }
+      },
+      [](const runtime::RuntimeError& oErr) {
+        ShowErrorReport("PSController.PSJumpToStep", oErr);
+        EndRun();
+        bRunAborted = true;
+      });
+}
+
+void JumpStart() {
+  if (!colTables) RetrieveTableDefinitions();
+  if (!colCharts) RetrieveChartDefinitions();
+  if (colTables->Count() + colCharts->Count() == 0) {
+    PSJumpToStep(step::kEnd, origin::kOutside, nullptr);
+    ShowMessage("This workbook contains no tables. You must create one in order to run the Plotsmith.");
+  } else if (colCharts->Count() > 0) {
+    ShowPage(kSelectActionPage);
+  } else {
+    lMethodType = method::kNew;
+    ShowPage(kSelectTablePage);
+  }
+}
+
+void JumpNext(std::int32_t lFromPage) {
+  switch (lFromPage) {
+    case origin::kSelectAction:
+      if (lMethodType == method::kNew) {
+        ShowPage(kSelectTablePage);
+      } else {
+        PassOrShow(kSelectTablePage, [] { JumpNext(origin::kSelectTable); });
+      }
+      break;
+    case origin::kSelectTable:
+      ShowLayoutPage("PSController.JumpNext");
+      break;
+    case origin::kLayout:
+      ShowPage(kChartLocationPage);
+      break;
+    case origin::kChartLocation:
+      RefreshChart(sChartID);
+      break;
+    default:
+      ComplainOfOrigin("PSController.JumpNext");
+  }
+}
+
+void JumpPrevious(std::int32_t lFromPage) {
+  switch (lFromPage) {
+    case origin::kSelectTable:
+      sChartID.clear();
+      sTableID.clear();
+      sChartType = "unknown";
+      oChartDoc = {};
+      ShowPage(kSelectActionPage);
+      break;
+    case origin::kLayout:
+      ShowPage(kSelectTablePage);
+      break;
+    case origin::kChartLocation:
+      ShowLayoutPage("PSController.JumpPrevious");
+      break;
+    default:
+      ComplainOfOrigin("PSController.JumpPrevious");
+  }
+}
+
+void JumpFinish(std::int32_t lFromPage) {
+  switch (lFromPage) {
+    case origin::kSelectAction:
+      PassOrShow(kSelectTablePage, [] { JumpFinish(origin::kSelectTable); });
+      break;
+    case origin::kSelectTable:
+      if (const auto lPage = LayoutPage()) {
+        // area, bar and column share a form, which opens under the first of their numbers
+        const bool bShared = kForms[static_cast<std::size_t>(*lPage)] == FormName::frmPSLayoutABC;
+        PassOrShow(bShared ? kAreaLayoutPage : *lPage, [] { JumpFinish(origin::kLayout); });
+      } else {
+        ShowComplaint("PSController.JumpFinish", "Unknown chart type");
+      }
+      break;
+    case origin::kLayout:
+      PassOrShow(kChartLocationPage, [] { RefreshChart(sChartID); });
+      break;
+    case origin::kChartLocation:
+      RefreshChart(sChartID);
+      break;
+    default:
+      ComplainOfOrigin("PSController.JumpFinish");
+  }
+}
+
+void ShowPage(std::int32_t lPage) {
+  oApplication->SetScreenUpdating(true);
+  if (lPage < 0 || lPage >= static_cast<std::int32_t>(kForms.size())) return;
+  PageOf(kForms[static_cast<std::size_t>(lPage)]).ShowModal();
+}
+
+void UnloadPage(Page& oPage) {
+  bUnloadingPage = true;
+  oPage.Unload();  // an error here leaves the mark set: there is no error block to take it back
+  bUnloadingPage = false;
+}
+
+void EndRun() {
+  if (bUnloadingPage) return;
+  colCharts = nullptr;
+  colChartObjects = nullptr;
+  colChartShapes = nullptr;
+  colTables = nullptr;
+  oChartDoc = {};
+  sChartType = "unknown";
+  sChartID.clear();
+  sTableID.clear();
+  oApplication->SetScreenUpdating(true);
+}
+
+}  // namespace plotsmith

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "runtime/Ref.h"
+
+/// The wizard's pages as the controller sees them.
+namespace plotsmith {
+
+class Page {
+ public:
+  virtual ~Page() = default;
+
+  /// Loads the page if need be and shows it; returns when it has been unloaded.
+  virtual void ShowModal() = 0;
+  /// Raises the page's unload event before it returns.
+  virtual void Unload() = 0;
+  /// Loads the page if need be, without showing it, and stores its input if all of it is valid.
+  virtual bool ValidSelections() = 0;
+};
+
+enum class FormName {
+  frmPSSelectAction,
+  frmPSSelectTable,
+  frmPSLayoutABC,
+  frmPSLayoutBubble,
+  frmPSLayoutPie,
+  frmPSLayoutStrBuck,
+  frmPSChartLocation,
+};
+
+/// The pages of a wizard, each made at its first use.
+class PageSet {
+ public:
+  virtual ~PageSet() = default;
+  virtual Page& Form(FormName eForm) = 0;
+};
+
+/// The wizard of this program; Nothing in one that has none, which can then refresh but not open the wizard.
+extern runtime::Ref<PageSet> oPages;
+
+}  // namespace plotsmith
