@@ -1,0 +1,50 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace plotsmith::xlsx {
+
+/// How the workbook counts days: 1 is 1 January 1900 (with the phantom 29 February 1900), or 0 is 1 January
+/// 1904.
+enum class DateSystem { k1900, k1904 };
+
+/// A number format code (`formatCode` of SpreadsheetML, en-US), parsed once and used for many cells.
+///
+/// Displayed text is what a cell of sufficient width shows: `_x` gives one blank, `?` pads with blanks, `*x`
+/// fills nothing. Colours are read and dropped. Names of months and days are English in every locale.
+class NumberFormat {
+ public:
+  /// Null if Excel refuses the code, or if it is longer than any sensible one. An empty code is General.
+  static std::shared_ptr<const NumberFormat> Parse(std::string_view code);
+  ~NumberFormat();
+
+  /// True if a number in this format is a date or a time, so that a cell's value reads as a date.
+  bool IsDate() const;
+  bool IsGeneral() const;
+
+  /// Append the displayed text to `out`. Where Excel fills the cell with "#" this gives "########": for a
+  /// date before the first or behind the last day of the system (the system of 1904 shows a negative date
+  /// with a minus sign instead), and for a number that none of two conditions wants. A value that isn't
+  /// finite, which no cell holds, gives "#NUM!".
+  void AppendNumber(std::string& out, double value, DateSystem dates) const;
+  void AppendText(std::string& out, std::string_view text) const;
+  /// TRUE or FALSE, shown as a text is.
+  void AppendBoolean(std::string& out, bool value) const;
+
+  struct Program;  // the parsed code
+
+ private:
+  explicit NumberFormat(std::unique_ptr<const Program> program);
+  std::unique_ptr<const Program> program_;
+};
+
+/// The code of a built-in format id as Excel shows it in en-US; empty if the id isn't built in, or stands for
+/// formats of other languages only.
+std::string_view BuiltinNumberFormat(int id);
+
+/// A number in the General format: up to 11 digits, scientific outside 1E-9..1E11 as Excel switches over.
+void AppendGeneral(std::string& out, double value);
+
+}  // namespace plotsmith::xlsx

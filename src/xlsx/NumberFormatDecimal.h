@@ -1,0 +1,59 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+
+namespace plotsmith::xlsx {
+
+/// A magnitude, never negative, as Excel sees it: 15 significant decimal digits.
+class Decimal {
+ public:
+  explicit Decimal(double magnitude);
+
+  bool IsZero() const { return count_ == 0; }
+  /// Multiply by a power of ten.
+  void Scale(int power) { point_ += power; }
+  /// Round to so many decimals, halves up.
+  void Round(int decimals);
+
+  /// The digit at a power of ten.
+  char Digit(int power) const {
+    const int index = point_ - 1 - power;
+    return index >= 0 && index < count_ ? digits_[static_cast<size_t>(index)] : '0';
+  }
+  /// The powers of the first and the last digit that isn't zero; not for zero.
+  int Highest() const { return point_ - 1; }
+  int Lowest() const { return point_ - count_; }
+  /// How many digits stand before the decimal point.
+  int IntegerDigits() const { return IsZero() || point_ < 0 ? 0 : point_; }
+
+  /// Without an exponent, with as many digits as there are.
+  void AppendTo(std::string& out) const;
+
+ private:
+  std::array<char, 15> digits_;
+  int count_ = 0;
+  int point_ = 0;  // the number is 0.d1d2d3... times ten to this
+};
+
+/// Writes the integer part of a number into its placeholders, from the left. Digits that have no placeholder
+/// come with the first.
+class IntegerWriter {
+ public:
+  IntegerWriter(std::string& out, const Decimal& number, int digits, int placeholders, bool grouping)
+      : out_(out), number_(number), digits_(digits), power_(placeholders - 1), grouping_(grouping) {}
+
+  void Next(char placeholder);
+
+ private:
+  void Append(char digit, int power);
+
+  std::string& out_;
+  const Decimal& number_;
+  int digits_;  // still to be written
+  int power_;   // of the next placeholder
+  bool grouping_;
+};
+
+}  // namespace plotsmith::xlsx
