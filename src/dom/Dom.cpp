@@ -2,12 +2,20 @@
 
 #include <sstream>
 
+#include "dom/XmlDepth.h"
 #include "runtime/RuntimeError.h"
 
 namespace plotsmith::dom {
 
 using runtime::RuntimeError;
 using runtime::Variant;
+
+namespace {
+
+/// Elements within elements. A definition has four levels.
+constexpr int kDeepest = 256;
+
+}  // namespace
 
 /// One pugixml document holds the content and, beside it, the nodes that are in no tree at present: pugixml
 /// moves nodes only within one document.
@@ -42,7 +50,8 @@ std::string IXMLDOMNode::xml() const {
 
 IXMLDOMNodeList IXMLDOMNode::selectNodes(const char* query) const {
   const bool anywhere = query[0] == '/';
-  const pugi::xml_node context = anywhere ? Checked(), tree_->content : Checked();
+  const pugi::xml_node self = Checked();
+  const pugi::xml_node context = anywhere ? tree_->content : self;
   const pugi::xpath_node_set found =
       context.select_nodes(anywhere ? ("." + std::string(query)).c_str() : query);
   IXMLDOMNodeList list;
@@ -101,6 +110,7 @@ IXMLDOMDocument2 IXMLDOMDocument2::Create() {
 
 bool IXMLDOMDocument2::loadXML(std::string_view xml) {
   Checked().remove_children();
+  if (NestsDeeperThan(xml, kDeepest)) return false;
   constexpr unsigned kFlags = (pugi::parse_full | pugi::parse_ws_pcdata) & ~pugi::parse_doctype;
   const auto status = node_.append_buffer(xml.data(), xml.size(), kFlags, pugi::encoding_utf8);
   // a fragment may hold several roots or none; a document has one

@@ -10,7 +10,6 @@ class AxisTitle {
  public:
   virtual ~AxisTitle() = default;
 
-  virtual std::string Text() = 0;
   virtual void SetText(std::string_view text) = 0;
   virtual Ref<excel::Font> Font() = 0;
   virtual void SetAutoScaleFont(const Variant& value) = 0;

@@ -9,7 +9,6 @@ class Characters {
  public:
   virtual ~Characters() = default;
 
-  virtual std::string Text() = 0;
   /// Replaces the stretch.
   virtual void SetText(std::string_view text) = 0;
   /// Replaces the stretch, as SetText; a stretch that begins behind the text's end appends.

@@ -18,18 +18,15 @@ class Chart {
 
   virtual Ref<excel::Application> Application() = 0;
 
-  virtual std::int32_t ChartType() = 0;
   /// Moves all series to the type. Error 1004 for a type that the host can't draw.
   virtual void SetChartType(std::int32_t type) = 0;
 
   virtual Ref<excel::SeriesCollection> SeriesCollection() = 0;
 
-  virtual bool HasTitle() = 0;
   virtual void SetHasTitle(bool value) = 0;
   /// Error 1004 while there is no title.
   virtual Ref<excel::ChartTitle> ChartTitle() = 0;
 
-  virtual bool HasLegend() = 0;
   virtual void SetHasLegend(bool value) = 0;
   /// Error 1004 while there is no legend.
   virtual Ref<excel::Legend> Legend() = 0;

@@ -8,7 +8,6 @@ class ChartTitle {
  public:
   virtual ~ChartTitle() = default;
 
-  virtual std::string Text() = 0;
   virtual void SetText(std::string_view text) = 0;
 };
 
