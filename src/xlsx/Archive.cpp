@@ -1,0 +1,149 @@
+#include "xlsx/Archive.h"
+
+#include <algorithm>
+#include <isa-l/crc.h>
+#include <zip.h>
+
+#include "xlsx/Inflater.h"
+#include "xlsx/Limits.h"
+#include "xlsx/PackageError.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+std::string ErrorText(int code) {
+  zip_error_t error;
+  zip_error_init_with_code(&error, code);
+  std::string text = zip_error_strerror(&error);
+  zip_error_fini(&error);
+  return text;
+}
+
+struct ZipCloser {
+  void operator()(zip_t* zip) const { zip_discard(zip); }
+};
+struct FileCloser {
+  void operator()(zip_file_t* file) const { zip_fclose(file); }
+};
+
+class EntryStream : public Archive::Stream {
+ public:
+  EntryStream(zip_t* zip, const ArchiveEntry& entry, std::size_t index)
+      : entry_(entry), file_(zip_fopen_index(zip, index, ZIP_FL_COMPRESSED)) {
+    if (!file_) throw PackageError(zip_strerror(zip));
+    const ByteReader raw = [this](char* buffer, std::size_t size) {
+      const auto count = zip_fread(file_.get(), buffer, size);
+      if (count < 0) throw PackageError(zip_file_strerror(file_.get()));
+      return static_cast<std::size_t>(count);
+    };
+    if (entry.method == ZIP_CM_STORE) {
+      reader_ = raw;
+    } else {
+      reader_ = [inflater = std::make_shared<Inflater>(raw)](char* buffer, std::size_t size) {
+        return inflater->Read(buffer, size);
+      };
+    }
+  }
+
+  std::size_t Read(char* buffer, std::size_t size) override {
+    const std::size_t count = reader_(buffer, size);
+    crc_ = crc32_gzip_refl(crc_, reinterpret_cast<const unsigned char*>(buffer), count);
+    total_ += count;
+    if (total_ > entry_.size || (count == 0 && total_ != entry_.size)) {
+      throw PackageError("it is not of the size that its directory tells");
+    }
+    if (count == 0 && crc_ != entry_.crc) throw PackageError("its checksum is wrong");
+    return count;
+  }
+
+ private:
+  ArchiveEntry entry_;
+  std::unique_ptr<zip_file_t, FileCloser> file_;
+  ByteReader reader_;
+  std::uint32_t crc_ = 0;
+  std::uint64_t total_ = 0;
+};
+
+}  // namespace
+
+struct Archive::Handle {
+  std::unique_ptr<zip_t, ZipCloser> zip;
+};
+
+Archive::Archive(const std::string& path) : handle_(std::make_unique<Handle>()) {
+  int code = 0;
+  handle_->zip.reset(zip_open(path.c_str(), ZIP_RDONLY, &code));
+  if (!handle_->zip) throw PackageError(ErrorText(code));
+  zip_t* zip = handle_->zip.get();
+  const auto count = zip_get_num_entries(zip, 0);
+  if (static_cast<std::size_t>(count) > limits::kPackageEntries)
+    throw PackageError("it has too many entries");
+  for (zip_int64_t i = 0; i < count; ++i) {
+    zip_stat_t stat;
+    if (zip_stat_index(zip, static_cast<zip_uint64_t>(i), ZIP_FL_ENC_RAW, &stat) != 0) {
+      throw PackageError(zip_strerror(zip));
+    }
+    ArchiveEntry entry;
+    entry.name = stat.name;
+    std::replace(entry.name.begin(), entry.name.end(), '\\', '/');
+    entry.compressedSize = stat.comp_size;
+    entry.size = stat.size;
+    entry.crc = stat.crc;
+    entry.method = stat.comp_method;
+    entry.encrypted = (stat.valid & ZIP_STAT_ENCRYPTION_METHOD) != 0 && stat.encryption_method != ZIP_EM_NONE;
+    entries_.push_back(std::move(entry));
+  }
+}
+
+Archive::~Archive() = default;
+
+std::unique_ptr<Archive::Stream> Archive::Open(std::size_t index) const {
+  const ArchiveEntry& entry = entries_.at(index);
+  if (entry.encrypted) throw PackageError("it is encrypted");
+  if (entry.method != ZIP_CM_STORE && entry.method != ZIP_CM_DEFLATE) {
+    throw PackageError("it is compressed by a method that no workbook uses");
+  }
+  return std::make_unique<EntryStream>(handle_->zip.get(), entry, index);
+}
+
+struct ArchiveWriter::Handle {
+  std::unique_ptr<zip_t, ZipCloser> zip;
+
+  void Add(const char* name, zip_source_t* source, std::uint16_t method) {
+    const auto index = source == nullptr ? -1 : zip_file_add(zip.get(), name, source, ZIP_FL_ENC_GUESS);
+    if (index < 0) {
+      zip_source_free(source);
+      throw PackageError(zip_strerror(zip.get()));
+    }
+    if (zip_set_file_compression(zip.get(), static_cast<zip_uint64_t>(index), method, 0) != 0) {
+      throw PackageError(zip_strerror(zip.get()));
+    }
+  }
+};
+
+ArchiveWriter::ArchiveWriter(const std::string& path) : handle_(std::make_unique<Handle>()) {
+  int code = 0;
+  handle_->zip.reset(zip_open(path.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &code));
+  if (!handle_->zip) throw PackageError(ErrorText(code));
+}
+
+ArchiveWriter::~ArchiveWriter() = default;
+
+void ArchiveWriter::Copy(const Archive& source, std::size_t index) {
+  zip_t* from = source.handle_->zip.get();
+  handle_->Add(zip_get_name(from, index, ZIP_FL_ENC_RAW),
+               zip_source_zip(handle_->zip.get(), from, index, ZIP_FL_COMPRESSED, 0, -1),
+               source.Entries()[index].method);
+}
+
+void ArchiveWriter::Add(const std::string& name, std::string_view bytes, bool compress) {
+  handle_->Add(name.c_str(), zip_source_buffer(handle_->zip.get(), bytes.data(), bytes.size(), 0),
+               compress ? ZIP_CM_DEFLATE : ZIP_CM_STORE);
+}
+
+void ArchiveWriter::Finish() {
+  if (zip_close(handle_->zip.get()) != 0) throw PackageError(zip_strerror(handle_->zip.get()));
+  static_cast<void>(handle_->zip.release());  // closed, and so gone
+}
+
+}  // namespace plotsmith::xlsx

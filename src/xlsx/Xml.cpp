@@ -1,0 +1,291 @@
+#include "xlsx/Xml.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <sstream>
+
+#include "dom/XmlDepth.h"
+#include "runtime/Strings.h"
+#include "xlsx/Limits.h"
+#include "xlsx/PackageError.h"
+
+namespace plotsmith::xlsx::xml {
+namespace {
+
+constexpr unsigned kParse = (pugi::parse_full | pugi::parse_ws_pcdata) &
+                            ~(pugi::parse_escapes | pugi::parse_eol | pugi::parse_wconv_attribute);
+constexpr unsigned kSave = pugi::format_raw | pugi::format_no_escapes | pugi::format_no_declaration;
+
+std::string Encode(std::string_view text, bool attribute) {
+  std::string raw;
+  raw.reserve(text.size());
+  for (char c : text) {
+    switch (c) {
+      case '&':
+        raw += "&amp;";
+        break;
+      case '<':
+        raw += "&lt;";
+        break;
+      case '>':
+        raw += "&gt;";
+        break;
+      case '\r':
+        raw += "&#13;";
+        break;  // readers fold a bare one into a line feed
+      case '"':
+        raw += attribute ? "&quot;" : "\"";
+        break;
+      case '\n':
+        raw += attribute ? "&#10;" : "\n";
+        break;
+      case '\t':
+        raw += attribute ? "&#9;" : "\t";
+        break;
+      default:
+        if (static_cast<unsigned char>(c) >= 0x20) raw += c;  // the rest XML can't hold at all
+    }
+  }
+  return raw;
+}
+
+/// Values go out between double quotes, undecoded, so that a bare one inside would end them.
+void QuoteSafe(pugi::xml_node element) {
+  for (pugi::xml_attribute attribute : element.attributes()) {
+    if (std::string_view(attribute.value()).find('"') != std::string_view::npos) {
+      attribute.set_value(runtime::Replace(attribute.value(), "\"", "&quot;").c_str());
+    }
+  }
+}
+
+struct QuoteWalker : pugi::xml_tree_walker {
+  bool for_each(pugi::xml_node& node) override {
+    if (node.type() == pugi::node_element || node.type() == pugi::node_declaration) QuoteSafe(node);
+    return true;
+  }
+};
+
+}  // namespace
+
+std::string ToUtf8(std::string_view bytes) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
+  if (bytes.starts_with("\xEF\xBB\xBF")) return std::string(bytes.substr(3));
+  if (bytes.size() < 2) return std::string(bytes);
+  const bool bigMark = byte(0) == 0xFE && byte(1) == 0xFF, littleMark = byte(0) == 0xFF && byte(1) == 0xFE;
+  const bool big = bigMark || (byte(0) == 0 && byte(1) == '<');
+  const bool little = littleMark || (byte(0) == '<' && byte(1) == 0);
+  if (!big && !little) return std::string(bytes);
+  std::u16string units;
+  for (std::size_t i = bigMark || littleMark ? 2 : 0; i + 1 < bytes.size(); i += 2) {
+    units += static_cast<char16_t>(big ? byte(i) << 8 | byte(i + 1) : byte(i + 1) << 8 | byte(i));
+  }
+  return runtime::ToUtf8(units);
+}
+
+void Parse(pugi::xml_document& document, std::string_view bytes) {
+  const std::string text = ToUtf8(bytes);
+  if (dom::NestsDeeperThan(text, limits::kXmlDepth)) throw PackageError("its XML nests too deep");
+  const auto status = document.load_buffer(text.data(), text.size(), kParse, pugi::encoding_utf8);
+  if (!status || !Root(document)) throw PackageError("its XML is damaged");
+  QuoteWalker walker;
+  document.traverse(walker);
+  pugi::xml_node declaration = document.first_child();
+  if (declaration.type() == pugi::node_declaration && declaration.attribute("encoding")) {
+    declaration.attribute("encoding").set_value("UTF-8");
+  }
+}
+
+std::string Serialize(const pugi::xml_document& document) {
+  struct Writer : pugi::xml_writer {
+    std::string bytes;
+    void write(const void* data, std::size_t size) override {
+      bytes.append(static_cast<const char*>(data), size);
+    }
+  } writer;
+  document.save(writer, "", kSave, pugi::encoding_utf8);
+  return std::move(writer.bytes);
+}
+
+std::string Decode(std::string_view raw) {
+  if (raw.find_first_of("&\r") == std::string_view::npos) return std::string(raw);
+  std::string text;
+  text.reserve(raw.size());
+  for (std::size_t i = 0; i < raw.size(); ++i) {
+    if (raw[i] == '\r') {  // a line end, as XML reads it
+      text += '\n';
+      if (i + 1 < raw.size() && raw[i + 1] == '\n') ++i;
+      continue;
+    }
+    const auto end = raw[i] == '&' ? raw.find(';', i) : std::string_view::npos;
+    if (end == std::string_view::npos || end - i > 12) {
+      text += raw[i];
+      continue;
+    }
+    const std::string_view name = raw.substr(i + 1, end - i - 1);
+    static constexpr std::array<std::pair<std::string_view, char>, 5> kEntities = {
+        {{"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}}};
+    bool known = false;
+    for (const auto& [entity, character] : kEntities) {
+      if (entity == name) text += character, known = true;
+    }
+    if (!known && name.size() > 1 && name[0] == '#') {
+      const bool hexadecimal = name[1] == 'x' || name[1] == 'X';
+      const std::string_view digits = name.substr(hexadecimal ? 2 : 1);
+      std::uint32_t code = 0;
+      const auto [stop, status] = std::from_chars(digits.begin(), digits.end(), code, hexadecimal ? 16 : 10);
+      known = status == std::errc() && stop == digits.end() && code != 0 && code < 0x110000;
+      if (known) runtime::AppendUtf8(text, code);
+    }
+    if (known) {
+      i = end;
+    } else {
+      text += '&';
+    }
+  }
+  return text;
+}
+
+std::string EncodeText(std::string_view text) { return Encode(text, false); }
+std::string EncodeAttribute(std::string_view text) { return Encode(text, true); }
+
+std::string_view LocalName(std::string_view name) {
+  const auto colon = name.find(':');
+  return colon == std::string_view::npos ? name : name.substr(colon + 1);
+}
+
+std::string_view Prefix(std::string_view name) {
+  const auto colon = name.find(':');
+  return colon == std::string_view::npos ? std::string_view() : name.substr(0, colon + 1);
+}
+
+pugi::xml_node Child(pugi::xml_node parent, std::string_view local) {
+  for (pugi::xml_node child = parent.first_child(); child; child = child.next_sibling()) {
+    if (child.type() == pugi::node_element && LocalName(child) == local) return child;
+  }
+  return {};
+}
+
+std::vector<pugi::xml_node> Children(pugi::xml_node parent, std::string_view local) {
+  std::vector<pugi::xml_node> children;
+  for (pugi::xml_node child = Child(parent, local); child; child = NextSame(child)) children.push_back(child);
+  return children;
+}
+
+pugi::xml_node NextSame(pugi::xml_node node) {
+  const std::string_view local = LocalName(node);
+  do {
+    node = node.next_sibling();
+  } while (node && (node.type() != pugi::node_element || LocalName(node) != local));
+  return node;
+}
+
+pugi::xml_node Root(const pugi::xml_document& document) { return document.document_element(); }
+
+std::optional<std::string> FindAttribute(pugi::xml_node node, const char* name) {
+  const pugi::xml_attribute attribute = node.attribute(name);
+  if (!attribute) return std::nullopt;
+  return Decode(attribute.value());
+}
+
+std::string Attribute(pugi::xml_node node, const char* name, std::string_view fallback) {
+  return FindAttribute(node, name).value_or(std::string(fallback));
+}
+
+long long IntegerAttribute(pugi::xml_node node, const char* name, long long fallback) {
+  const pugi::xml_attribute attribute = node.attribute(name);
+  return attribute ? ParseInteger(attribute.value()).value_or(fallback) : fallback;
+}
+
+double NumberAttribute(pugi::xml_node node, const char* name, double fallback) {
+  const pugi::xml_attribute attribute = node.attribute(name);
+  return attribute ? ParseDouble(attribute.value()).value_or(fallback) : fallback;
+}
+
+bool BooleanAttribute(pugi::xml_node node, const char* name, bool fallback) {
+  const std::string_view value = node.attribute(name).value();
+  if (value == "1" || value == "true" || value == "on") return true;
+  if (value == "0" || value == "false" || value == "off") return false;
+  return fallback;
+}
+
+void SetAttribute(pugi::xml_node node, const char* name, std::string_view value) {
+  pugi::xml_attribute attribute = node.attribute(name);
+  if (!attribute) attribute = node.append_attribute(name);
+  attribute.set_value(EncodeAttribute(value).c_str());
+}
+
+std::string RelationshipId(pugi::xml_node node) {
+  for (const pugi::xml_attribute& attribute : node.attributes()) {
+    if (!Prefix(attribute.name()).empty() && LocalName(attribute.name()) == "id")
+      return Decode(attribute.value());
+  }
+  return {};
+}
+
+std::string Text(pugi::xml_node node) {
+  std::string text;
+  for (const pugi::xml_node& child : node.children()) {
+    if (child.type() == pugi::node_pcdata) text += Decode(child.value());
+    if (child.type() == pugi::node_cdata) text += child.value();
+  }
+  return text;
+}
+
+void SetText(pugi::xml_node node, std::string_view text) {
+  node.remove_children();
+  node.append_child(pugi::node_pcdata).set_value(EncodeText(text).c_str());
+}
+
+std::string EnsurePrefix(pugi::xml_node node, std::string_view uri, std::string_view preferred) {
+  for (pugi::xml_node scope = node; scope; scope = scope.parent()) {
+    for (const pugi::xml_attribute& attribute : scope.attributes()) {
+      if (Prefix(attribute.name()) == "xmlns:" && uri == attribute.value()) {
+        return std::string(LocalName(attribute.name())) + ":";
+      }
+    }
+  }
+  pugi::xml_node root = node;
+  while (root.parent() && root.parent().type() == pugi::node_element) root = root.parent();
+  std::string prefix(preferred);
+  while (root.attribute(("xmlns:" + prefix).c_str())) prefix += '_';
+  root.append_attribute(("xmlns:" + prefix).c_str()).set_value(std::string(uri).c_str());
+  return prefix + ":";
+}
+
+std::string NamespaceOf(pugi::xml_node node) {
+  const std::string_view prefix = Prefix(node.name());
+  const std::string name =
+      prefix.empty() ? "xmlns" : "xmlns:" + std::string(prefix.substr(0, prefix.size() - 1));
+  for (; node; node = node.parent()) {
+    if (const auto attribute = node.attribute(name.c_str())) return attribute.value();
+  }
+  return {};
+}
+
+std::string Number(double value) {
+  if (value == 0) return "0";  // also for -0
+  std::array<char, 32> buffer{};
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
+  return {buffer.data(), end};
+}
+
+std::optional<double> ParseDouble(std::string_view text) {
+  const auto first = text.find_first_not_of(" \t\r\n");
+  if (first == std::string_view::npos) return std::nullopt;
+  text = text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
+  if (text.starts_with('+')) text.remove_prefix(1);
+  double value = 0;
+  const auto [end, status] = std::from_chars(text.begin(), text.end(), value);
+  if (status != std::errc() || end != text.end() || !std::isfinite(value)) return std::nullopt;
+  return value;
+}
+
+std::optional<long long> ParseInteger(std::string_view text) {
+  long long value = 0;
+  const auto [end, status] = std::from_chars(text.begin(), text.end(), value);
+  if (status != std::errc() || end != text.end()) return std::nullopt;
+  return value;
+}
+
+}  // namespace plotsmith::xlsx::xml
