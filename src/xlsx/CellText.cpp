@@ -1,0 +1,61 @@
+#include "xlsx/CellText.h"
+
+#include <array>
+#include <charconv>
+#include <cstdio>
+#include <optional>
+
+#include "runtime/Strings.h"
+#include "xlsx/Xml.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+constexpr std::size_t kEscapeLength = 7;  // _xHHHH_
+
+std::optional<char16_t> EscapeAt(std::string_view text, std::size_t at) {
+  if (at + kEscapeLength > text.size() || text[at] != '_' || text[at + 1] != 'x' || text[at + 6] != '_') {
+    return std::nullopt;
+  }
+  std::uint16_t unit = 0;
+  const char* digits = text.data() + at + 2;
+  const auto [end, status] = std::from_chars(digits, digits + 4, unit, 16);
+  if (status != std::errc() || end != digits + 4) return std::nullopt;
+  return static_cast<char16_t>(unit);
+}
+
+}  // namespace
+
+std::string DecodeEscapes(std::string_view text) {
+  if (text.find("_x") == std::string_view::npos) return std::string(text);
+  std::u16string units;  // two escapes may be the halves of one character
+  std::size_t plain = 0;
+  for (std::size_t i = 0; i < text.size();) {
+    if (const auto unit = EscapeAt(text, i)) {
+      units += runtime::ToUtf16(text.substr(plain, i - plain));
+      units += *unit;
+      i = plain = i + kEscapeLength;
+    } else {
+      ++i;
+    }
+  }
+  return runtime::ToUtf8(units + runtime::ToUtf16(text.substr(plain)));
+}
+
+std::string EncodeCellText(std::string_view text) {
+  std::string escaped;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto c = static_cast<unsigned char>(text[i]);
+    const bool control = c < 0x20 && c != '\t' && c != '\n';
+    if (control || EscapeAt(text, i)) {
+      std::array<char, 8> escape{};
+      std::snprintf(escape.data(), escape.size(), "_x%04X_", static_cast<unsigned>(c));
+      escaped += escape.data();
+    } else {
+      escaped += text[i];
+    }
+  }
+  return xml::EncodeText(escaped);
+}
+
+}  // namespace plotsmith::xlsx
