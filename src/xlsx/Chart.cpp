@@ -1,0 +1,130 @@
+#include "xlsx/Chart.h"
+
+#include <string>
+
+#include "runtime/RuntimeError.h"
+#include "xlsx/Application.h"
+#include "xlsx/ChartAxis.h"
+#include "xlsx/ChartFill.h"
+#include "xlsx/ChartGroups.h"
+#include "xlsx/ChartLegend.h"
+#include "xlsx/ChartPart.h"
+#include "xlsx/ChartSchema.h"
+#include "xlsx/ChartSeries.h"
+#include "xlsx/ChartText.h"
+#include "xlsx/Workbook.h"
+
+namespace plotsmith::xlsx {
+
+using excel::Ref;
+using runtime::RuntimeError;
+
+namespace {
+
+std::string Self() { return "Chart"; }
+
+RuntimeError Failed(const char* member) {
+  return RuntimeError(runtime::error::kApplication,
+                      std::string("Unable to get the ") + member + " property of the Chart class");
+}
+
+class Title final : public excel::ChartTitle {
+ public:
+  explicit Title(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
+
+  void SetText(std::string_view text) override {
+    part_->Book().Journal().Put([] { return std::string("Chart.ChartTitle"); }, "Text", text);
+    const auto title = schema::Find(part_->Chart(), "title");
+    if (!title) throw Failed("ChartTitle");
+    SetTitleText(title, text);
+    part_->MarkChanged();
+  }
+
+ private:
+  std::shared_ptr<ChartPart> part_;
+};
+
+}  // namespace
+
+Chart::Chart(std::shared_ptr<ChartPart> part, std::weak_ptr<Shape> frame)
+    : part_(std::move(part)), frame_(std::move(frame)) {}
+
+Ref<excel::Application> Chart::Application() { return part_->Book().Application(); }
+
+void Chart::SetChartType(std::int32_t type) {
+  part_->Book().Journal().Put(Self, "ChartType", type);
+  const ChartTypeEntry* entry = FindChartType(type);
+  if (entry == nullptr) {
+    throw RuntimeError(runtime::error::kApplication,
+                       "Unable to set the ChartType property of the Chart class");
+  }
+  SetType(*part_, *entry);
+}
+
+Ref<excel::SeriesCollection> Chart::SeriesCollection() { return MakeSeriesCollection(part_); }
+
+void Chart::SetHasTitle(bool value) {
+  part_->Book().Journal().Put(Self, "HasTitle", value);
+  const pugi::xml_node chart = part_->Chart();
+  if (value) {
+    const bool fresh = !schema::Find(chart, "title");
+    const pugi::xml_node title = schema::Ensure(chart, "title");
+    if (fresh) schema::SetVal(title, "overlay", "0");
+  } else {
+    schema::Remove(chart, "title");
+  }
+  // without this a chart of one series is titled by its name
+  schema::SetVal(chart, "autoTitleDeleted", value ? "0" : "1");
+  part_->MarkChanged();
+}
+
+Ref<excel::ChartTitle> Chart::ChartTitle() {
+  if (!schema::Find(part_->Chart(), "title")) throw Failed("ChartTitle");
+  return std::make_shared<Title>(part_);
+}
+
+void Chart::SetHasLegend(bool value) {
+  part_->Book().Journal().Put(Self, "HasLegend", value);
+  const pugi::xml_node chart = part_->Chart();
+  if (!value) {
+    schema::Remove(chart, "legend");
+  } else if (!schema::Find(chart, "legend")) {
+    const pugi::xml_node legend = schema::Ensure(chart, "legend");
+    schema::SetVal(legend, "legendPos", kLegendPositions.absent);
+    schema::SetVal(legend, "overlay", "0");
+  }
+  part_->MarkChanged();
+}
+
+Ref<excel::Legend> Chart::Legend() {
+  if (!schema::Find(part_->Chart(), "legend")) throw Failed("Legend");
+  return MakeLegend(part_, frame_);
+}
+
+bool Chart::HasAxis(std::int32_t type) {
+  const auto axis = FindAxis(*part_, type == excel::xlValue);
+  return axis && !schema::BooleanVal(axis, "delete", false);
+}
+
+void Chart::SetHasAxis(std::int32_t type, bool value) {
+  part_->Book().Journal().Put(Self, "HasAxis(" + std::to_string(type) + ")", value);
+  const auto axis = FindAxis(*part_, type == excel::xlValue);
+  if (!axis) {
+    throw RuntimeError(runtime::error::kApplication, "Unable to set the HasAxis property of the Chart class");
+  }
+  schema::SetVal(axis, "delete", value ? "0" : "1");
+  part_->MarkChanged();
+}
+
+Ref<excel::Axis> Chart::Axes(std::int32_t type, std::int32_t group) {
+  if (group != excel::xlPrimary || !FindAxis(*part_, type == excel::xlValue)) {
+    throw RuntimeError(runtime::error::kApplication, "Method 'Axes' of object '_Chart' failed");
+  }
+  return MakeAxis(part_, type);
+}
+
+Ref<excel::ChartArea> Chart::ChartArea() { return MakeChartArea(part_); }
+
+Ref<excel::PlotArea> Chart::PlotArea() { return MakePlotArea(part_); }
+
+}  // namespace plotsmith::xlsx

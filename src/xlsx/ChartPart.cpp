@@ -1,0 +1,98 @@
+#include "xlsx/ChartPart.h"
+
+#include "runtime/RuntimeError.h"
+#include "xlsx/ChartGroups.h"
+#include "xlsx/ChartSchema.h"
+#include "xlsx/Namespaces.h"
+#include "xlsx/Workbook.h"
+#include "xlsx/Xml.h"
+
+namespace plotsmith::xlsx {
+
+using runtime::RuntimeError;
+
+std::string EmptyChart(bool strict) {
+  const Namespaces& names = strict ? kStrict : kTransitional;
+  return std::string(kXmlDeclaration) + "<c:chartSpace xmlns:c=\"" + std::string(names.chart) +
+         "\" xmlns:a=\"" + std::string(names.drawing) + "\" xmlns:r=\"" + std::string(names.relationships) +
+         R"("><c:roundedCorners val="0"/><c:chart><c:autoTitleDeleted val="1"/><c:plotArea><c:layout/></c:plotArea>)"
+         R"(<c:plotVisOnly val="1"/><c:dispBlanksAs val="gap"/></c:chart></c:chartSpace>)";
+}
+
+pugi::xml_node ChartPart::Space() {
+  if (!document_ && !unreadable_) {
+    auto document = std::make_unique<pugi::xml_document>();
+    try {
+      if (part_.empty()) throw PackageError("the chart's part is missing");
+      InPart(part_, [&] {
+        xml::Parse(*document, book_.Package().Read(part_));
+        if (!xml::Is(xml::Root(*document), "chartSpace")) throw PackageError("it is no chart");
+      });
+      document_ = std::move(document);
+    } catch (const PackageError& e) {
+      unreadable_ = e.what();
+    }
+  }
+  // One chart that can't be read is no reason to give the workbook up: the error is this chart's.
+  if (!document_)
+    throw RuntimeError(runtime::error::kApplication, "The chart can't be read: " + *unreadable_ + ".");
+  return xml::Root(*document_);
+}
+
+pugi::xml_node ChartPart::Chart() { return schema::Ensure(Space(), "chart"); }
+
+pugi::xml_node ChartPart::PlotArea() { return schema::Ensure(Chart(), "plotArea"); }
+
+void ChartPart::CatchUp() {
+  Space();
+  Follow();
+}
+
+void ChartPart::Follow() {
+  struct Walker : pugi::xml_tree_walker {
+    const RowShifts* shifts = nullptr;
+    std::size_t followed = 0;
+    bool changed = false;
+    bool for_each(pugi::xml_node& node) override {
+      if (!xml::Is(node, "f")) return true;
+      if (const auto moved = shifts->Follow(xml::Text(node), "", followed)) {
+        xml::SetText(node, *moved);
+        changed = true;
+      }
+      return true;
+    }
+  } walker;
+  RowShifts& shifts = book_.Shifts();
+  const std::size_t mark = shifts.Mark();
+  if (mark == followed_) return;
+  walker.shifts = &shifts;
+  walker.followed = followed_;
+  document_->traverse(walker);
+  followed_ = mark;
+  changed_ |= walker.changed;
+}
+
+void ChartPart::Write() {
+  if (!document_ && !book_.Shifts().None()) {
+    try {
+      Space();
+    } catch (const RuntimeError&) {
+      return;
+    }
+  }
+  if (!document_) return;
+  Follow();
+  if (!changed_) return;
+  UpdateLinkedFormats(*this);
+  book_.Package().Replace(part_, xml::Serialize(*document_));
+  changed_ = false;
+}
+
+pugi::xml_node ChartPart::LaidAside(const std::string& state) const { return attic_.child(state.c_str()); }
+
+pugi::xml_node ChartPart::LayAside(const std::string& state) {
+  attic_.remove_child(state.c_str());
+  return attic_.append_child(state.c_str());
+}
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <optional>
+#include <pugixml.hpp>
+#include <string>
+#include <string_view>
+
+namespace plotsmith::xlsx {
+
+class Workbook;
+
+/// A chart part: the document that the objects of a chart are views over. It is parsed when something of the
+/// chart is asked for, and written if something was changed.
+class ChartPart {
+ public:
+  /// `part` may be empty, or a part that can't be read: then every use is error 1004.
+  ChartPart(Workbook& book, std::string part) : book_(book), part_(std::move(part)) {}
+
+  Workbook& Book() const { return book_; }
+  /// The chartSpace element; error 1004 if the part can't be read.
+  pugi::xml_node Space();
+  /// The chart element, and the plot area, made if they are missing.
+  pugi::xml_node Chart();
+  pugi::xml_node PlotArea();
+
+  void MarkChanged() { changed_ = true; }
+  bool Changed() const { return changed_; }
+  /// References in the part follow the rows that moved since they were last looked at.
+  void CatchUp();
+  /// Brings the part in the package up to date. A part that can't be read stays as it is.
+  void Write();
+
+  /// What the chart had to lay aside when its type changed, by the name of the type's state: it comes back
+  /// with the type. In memory only.
+  pugi::xml_node LaidAside(const std::string& state) const;
+  pugi::xml_node LayAside(const std::string& state);
+
+ private:
+  void Follow();
+
+  Workbook& book_;
+  std::string part_;
+  std::unique_ptr<pugi::xml_document> document_;
+  std::optional<std::string> unreadable_;
+  pugi::xml_document attic_;
+  bool changed_ = false;
+  std::size_t followed_ = 0;
+};
+
+/// A chart part without a series.
+std::string EmptyChart(bool strict);
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,148 @@
+#include "xlsx/ChartText.h"
+
+#include <cmath>
+
+#include "runtime/RuntimeError.h"
+#include "runtime/Strings.h"
+#include "xlsx/ChartPart.h"
+#include "xlsx/ChartSchema.h"
+#include "xlsx/DrawingFill.h"
+#include "xlsx/Workbook.h"
+#include "xlsx/Xml.h"
+
+namespace plotsmith::xlsx {
+
+using runtime::RuntimeError;
+using runtime::Variant;
+
+namespace {
+
+constexpr double kMostPoints = 409;
+/// A body of text as the schema wants it, with one paragraph.
+pugi::xml_node EnsureText(pugi::xml_node body) {
+  schema::Ensure(body, "bodyPr");
+  schema::Ensure(body, "lstStyle");
+  return schema::Ensure(body, "p");
+}
+
+/// The run properties that the element's font consists of, made where they are missing.
+std::vector<pugi::xml_node> RunProperties(pugi::xml_node element) {
+  std::vector<pugi::xml_node> properties;
+  const auto rich = schema::Find(schema::Find(element, "tx"), "rich");
+  const pugi::xml_node body = rich ? rich : schema::Ensure(element, "txPr");
+  EnsureText(body);
+  for (pugi::xml_node& paragraph : xml::Children(body, "p")) {
+    properties.push_back(schema::Ensure(paragraph, "pPr", "defRPr"));
+    for (const pugi::xml_node& child : paragraph.children()) {
+      if (xml::Is(child, "r") || xml::Is(child, "fld")) properties.push_back(schema::Ensure(child, "rPr"));
+    }
+    if (!rich && !schema::Find(paragraph, "endParaRPr")) {
+      xml::SetAttribute(schema::Ensure(paragraph, "endParaRPr"), "lang", "en-US");
+    }
+  }
+  return properties;
+}
+
+RuntimeError CantSet(const char* property) {
+  return RuntimeError(runtime::error::kApplication,
+                      std::string("Unable to set the ") + property + " property of the Font class");
+}
+
+class ChartFont final : public excel::Font {
+ public:
+  ChartFont(ChartPart& part, std::function<pugi::xml_node()> element, std::string path)
+      : part_(part), element_(std::move(element)), path_(std::move(path)) {}
+
+  void SetName(const Variant& name) override {
+    const std::string typeface = runtime::CStr(name);
+    if (typeface.empty()) throw CantSet("Name");
+    Apply("Name", name, [&](pugi::xml_node properties) {
+      // for Latin and for complex scripts, as Excel does it; what East Asian text has stays
+      xml::SetAttribute(schema::Ensure(properties, "latin"), "typeface", typeface);
+      xml::SetAttribute(schema::Ensure(properties, "cs"), "typeface", typeface);
+    });
+  }
+
+  void SetSize(const Variant& size) override {
+    const double points = runtime::CDbl(size);
+    if (!(points >= 1 && points <= kMostPoints)) throw CantSet("Size");
+    const std::string hundredths = std::to_string(std::lround(points * 100));
+    Apply("Size", size, [&](pugi::xml_node properties) { xml::SetAttribute(properties, "sz", hundredths); });
+  }
+
+  void SetFontStyle(const Variant& style) override {
+    const std::string name = runtime::UCase(runtime::CStr(style));
+    const bool bold = name.find("BOLD") != std::string::npos;
+    const bool italic = name.find("ITALIC") != std::string::npos || name.find("OBLIQUE") != std::string::npos;
+    Apply("FontStyle", style, [&](pugi::xml_node properties) {
+      xml::SetAttribute(properties, "b", bold ? "1" : "0");
+      xml::SetAttribute(properties, "i", italic ? "1" : "0");
+    });
+  }
+
+  void SetColor(const Variant& color) override {
+    const std::int32_t value = runtime::CLng(color);
+    if (value < 0 || value > 0xFFFFFF) throw CantSet("Color");
+    Apply("Color", color,
+          [&](pugi::xml_node properties) { SetFillColor(SetFill(properties, "solidFill"), value); });
+  }
+
+ private:
+  template <class Set>
+  void Apply(const char* property, const Variant& value, const Set& set) {
+    part_.Book().Journal().Put([this] { return path_; }, property, value);
+    for (const pugi::xml_node& properties : RunProperties(element_())) set(properties);
+    part_.MarkChanged();
+  }
+
+  ChartPart& part_;
+  std::function<pugi::xml_node()> element_;
+  std::string path_;
+};
+
+}  // namespace
+
+void SetTitleText(pugi::xml_node title, std::string_view text) {
+  pugi::xml_node tx = schema::Ensure(title, "tx");
+  schema::Remove(tx, "strRef");
+  const bool fresh = !schema::Find(tx, "rich");
+  pugi::xml_node rich = schema::Ensure(tx, "rich");
+  pugi::xml_node first = EnsureText(rich);
+  if (fresh) {
+    // a title that showed a cell's text was dressed by text properties of its own
+    if (const auto own = schema::Find(title, "txPr")) {
+      rich.remove_children();
+      for (const pugi::xml_node& child : own.children()) rich.append_copy(child);
+      first = EnsureText(rich);
+      schema::Remove(first, "endParaRPr");
+    }
+  }
+  schema::Remove(title, "txPr");
+
+  pugi::xml_document dress;  // copies, as the originals go
+  const auto keep = [&](pugi::xml_node node) { return node ? dress.append_copy(node) : pugi::xml_node(); };
+  const auto paragraphProperties = keep(schema::Find(first, "pPr"));
+  const auto runProperties = keep(schema::Find(schema::Find(first, "r"), "rPr"));
+  schema::Remove(rich, "p");
+  for (std::string_view rest = text;;) {
+    const auto end = rest.find('\n');
+    pugi::xml_node paragraph = schema::Insert(rich, "p");
+    if (paragraphProperties) schema::InsertCopy(paragraph, paragraphProperties);
+    pugi::xml_node run = schema::Ensure(paragraph, "r");
+    if (runProperties) {
+      schema::InsertCopy(run, runProperties);
+    } else {
+      xml::SetAttribute(schema::Ensure(run, "rPr"), "lang", "en-US");
+    }
+    xml::SetText(schema::Ensure(run, "t"), rest.substr(0, end));
+    if (end == std::string_view::npos) break;
+    rest.remove_prefix(end + 1);
+  }
+}
+
+excel::Ref<excel::Font> MakeFont(ChartPart& part, std::function<pugi::xml_node()> element,
+                                 std::string journalPath) {
+  return std::make_shared<ChartFont>(part, std::move(element), std::move(journalPath));
+}
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "host/excel/Names.h"
+
+namespace plotsmith::xlsx {
+
+class Workbook;
+
+/// The defined names of a workbook for the port, as they are when this is called.
+excel::Ref<excel::Names> MakeNames(Workbook& book);
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <pugixml.hpp>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/excel/Excel.h"
+
+namespace plotsmith::xlsx {
+
+class Shape;
+class Worksheet;
+
+/// The drawing part of a worksheet: anchors, and on each a shape.
+class Drawing {
+ public:
+  /// Reads the part, which must be there. Throws PackageError.
+  Drawing(Worksheet& sheet, std::string part);
+  ~Drawing();
+
+  Worksheet& Sheet() const { return sheet_; }
+  const std::string& Part() const { return part_; }
+  /// From back to front, what is inside a group not counted.
+  const std::vector<std::shared_ptr<Shape>>& Shapes() const { return shapes_; }
+  std::shared_ptr<Shape> FindShape(std::string_view name) const;
+
+  // All in points from the sheet's corner.
+  std::shared_ptr<Shape> AddTextbox(double left, double top, double width, double height);
+  std::shared_ptr<Shape> AddChart(double left, double top, double width, double height);
+  void Remove(const Shape& shape);
+
+  void MarkChanged() { changed_ = true; }
+  bool Changed() const { return changed_; }
+  void Write();
+  /// The drawing's elements have the prefix with its colon, or none; DrawingML's elements the other.
+  std::string Prefix() const;
+  std::string DrawingMlPrefix() const;
+
+ private:
+  void Collect(pugi::xml_node parent);
+  std::shared_ptr<Shape> AddAnchor(double left, double top, double width, double height,
+                                   const std::string& object);
+  unsigned NextId() const;
+
+  Worksheet& sheet_;
+  std::string part_;
+  pugi::xml_document document_;
+  std::vector<std::shared_ptr<Shape>> shapes_;
+  bool changed_ = false;
+};
+
+/// A drawing part without a shape.
+std::string EmptyDrawing(bool strict);
+
+}  // namespace plotsmith::xlsx

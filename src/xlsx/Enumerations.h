@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace plotsmith::xlsx {
+
+/// A member of one of Excel's enumerations and how the file format says it.
+struct EnumerationEntry {
+  std::int32_t number;     ///< Excel's
+  std::string_view name;   ///< Excel's
+  std::string_view token;  ///< the file format's
+};
+
+/// One enumeration: the first entry of a number, or of a token, is the one that counts.
+struct Enumeration {
+  std::span<const EnumerationEntry> entries;
+  std::string_view absent;  ///< the token that holds where the file says nothing; empty if there is none
+
+  std::optional<std::string_view> Token(std::int32_t number) const {
+    for (const EnumerationEntry& entry : entries) {
+      if (entry.number == number) return entry.token;
+    }
+    return std::nullopt;
+  }
+  std::optional<std::int32_t> Number(std::string_view token) const {
+    for (const EnumerationEntry& entry : entries) {
+      if (entry.token == token) return entry.number;
+    }
+    return std::nullopt;
+  }
+};
+
+/// XlLegendPosition, ST_LegendPos.
+extern const Enumeration kLegendPositions;
+/// XlDataLabelPosition, ST_DLblPos.
+extern const Enumeration kLabelPositions;
+/// MsoPatternType, ST_PresetPatternVal.
+extern const Enumeration kPatterns;
+
+/// A chart type of Excel as the file builds it (ECMA-376 Part 1, 21.2.2).
+struct ChartTypeEntry {
+  std::int32_t number;         ///< XlChartType
+  std::string_view name;       ///< Excel's
+  std::string_view element;    ///< the plot group's
+  std::string_view direction;  ///< `barDir`, empty where the group has none
+  std::string_view grouping;   ///< `grouping`, likewise
+
+  bool Is3D() const { return element.find("3D") != std::string_view::npos; }
+  bool IsArea() const { return element.starts_with("area"); }
+  bool IsStacked() const { return grouping == "stacked" || grouping == "percentStacked"; }
+  /// Series stand behind each other along an axis of their own.
+  bool HasDepthAxis() const { return Is3D() && grouping == "standard"; }
+  /// The category axis stands upright.
+  bool IsHorizontal() const { return direction == "bar"; }
+};
+
+/// The types that the host draws.
+extern const std::span<const ChartTypeEntry> kChartTypes;
+/// Null for a type that the host doesn't draw.
+const ChartTypeEntry* FindChartType(std::int32_t number);
+
+}  // namespace plotsmith::xlsx

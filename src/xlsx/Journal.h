@@ -1,0 +1,45 @@
+#pragma once
+
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "runtime/Variant.h"
+
+namespace plotsmith::xlsx {
+
+/// Writes down each member call that changes something, one line each, in the words of Excel's macro
+/// language: `Chart.ChartType = 57`, `Chart.SeriesCollection.NewSeries`. Off unless it is given a sink; the
+/// lines aren't even made then.
+class Journal {
+ public:
+  using Sink = std::function<void(std::string_view line)>;
+
+  void SetSink(Sink sink) { sink_ = std::move(sink); }
+  explicit operator bool() const { return static_cast<bool>(sink_); }
+
+  /// `object` names the object by its path, and is only asked when the journal is on.
+  template <class Path>
+  void Put(const Path& object, std::string_view property, const runtime::Variant& value) const {
+    if (sink_) sink_(object() + "." + std::string(property) + " = " + Literal(value));
+  }
+  template <class Path>
+  void Call(const Path& object, std::string_view method,
+            std::initializer_list<runtime::Variant> arguments = {}) const {
+    if (!sink_) return;
+    std::string line = object() + "." + std::string(method);
+    if (arguments.size() > 0) line += "(" + Literals(arguments) + ")";
+    sink_(line);
+  }
+
+  /// A value as the language writes it.
+  static std::string Literal(const runtime::Variant& value);
+  static std::string Literals(std::initializer_list<runtime::Variant> values);
+
+ private:
+  Sink sink_;
+};
+
+}  // namespace plotsmith::xlsx

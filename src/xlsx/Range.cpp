@@ -1,0 +1,99 @@
+#include "xlsx/Range.h"
+
+#include <functional>
+
+#include "runtime/RuntimeError.h"
+#include "xlsx/Limits.h"
+#include "xlsx/Worksheet.h"
+
+namespace plotsmith::xlsx {
+
+using excel::Ref;
+using runtime::RuntimeError;
+using runtime::Variant;
+
+namespace {
+
+class SheetRangeObject final : public excel::Range {
+ public:
+  /// What Count counts.
+  enum class Unit { kCells, kRows, kColumns };
+
+  SheetRangeObject(std::shared_ptr<Worksheet> sheet, const CellRange& cells, Unit unit)
+      : sheet_(std::move(sheet)), cells_(cells), unit_(unit) {}
+
+  std::int32_t Row() override { return cells_.row1; }
+  std::int32_t Column() override { return cells_.column1; }
+  Ref<Range> Rows() override { return std::make_shared<SheetRangeObject>(sheet_, cells_, Unit::kRows); }
+  Ref<Range> Columns() override { return std::make_shared<SheetRangeObject>(sheet_, cells_, Unit::kColumns); }
+
+  std::int32_t Count() override {
+    if (unit_ == Unit::kRows) return cells_.RowCount();
+    if (unit_ == Unit::kColumns) return cells_.ColumnCount();
+    if (cells_.CellCount() > INT32_MAX) throw RuntimeError(runtime::error::kOverflow);
+    return static_cast<std::int32_t>(cells_.CellCount());
+  }
+
+  Ref<Range> Cells(std::int32_t row, std::int32_t column) override {
+    return sheet_->Cells(cells_.row1 + row - 1, cells_.column1 + column - 1);
+  }
+  std::string Address() override { return RangeAddress(cells_); }
+
+  Variant Value() override { return sheet_->CellValueAt(cells_.row1, cells_.column1).ToVariant(); }
+  void SetValue(const Variant& value) override { sheet_->SetCellValueAt(cells_.row1, cells_.column1, value); }
+  std::string Text() override {
+    std::string scratch;
+    return std::string(sheet_->CellTextAt(cells_.row1, cells_.column1, scratch));
+  }
+  void SetNumberFormat(std::string_view format) override {
+    Log().Put(Path(), "NumberFormat", format);
+    sheet_->SetNumberFormat(cells_, format);
+  }
+  void Clear() override {
+    Log().Call(Path(), "Clear");
+    sheet_->ClearCells(cells_);
+  }
+  // the file keeps no selection of ours
+  void Activate() override { Log().Call(Path(), "Activate"); }
+
+  void Insert() override {
+    CheckWholeRows();
+    Log().Call(Path(), "Insert");
+    for (std::int32_t i = 0; i < cells_.RowCount(); ++i) sheet_->InsertRow(cells_.row1);
+  }
+  void Delete(std::int32_t shift) override {
+    CheckWholeRows();
+    Log().Call(Path(), "Delete", {shift});
+    for (std::int32_t i = 0; i < cells_.RowCount(); ++i) sheet_->DeleteRow(cells_.row1);
+  }
+
+ private:
+  const Journal& Log() const { return sheet_->Book().Journal(); }
+
+  std::function<std::string()> Path() const {
+    return [this] {
+      const std::string sheet = sheet_->JournalPath()();
+      if (cells_.ColumnCount() == limits::kColumns)
+        return sheet + ".Rows(" + std::to_string(cells_.row1) + ")";
+      return sheet + ".Range(" + Journal::Literal(RangeAddress(cells_)) + ")";
+    };
+  }
+
+  void CheckWholeRows() const {
+    if (cells_.ColumnCount() != limits::kColumns) {
+      throw RuntimeError(runtime::error::kApplication, "Only whole rows can be inserted or deleted.");
+    }
+  }
+
+  std::shared_ptr<Worksheet> sheet_;
+  CellRange cells_;
+  Unit unit_;
+};
+
+}  // namespace
+
+Ref<excel::Range> MakeRange(std::shared_ptr<Worksheet> sheet, const CellRange& cells) {
+  return std::make_shared<SheetRangeObject>(std::move(sheet), cells, SheetRangeObject::Unit::kCells);
+}
+
+}  // namespace plotsmith::xlsx

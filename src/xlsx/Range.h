@@ -1,0 +1,14 @@
+#pragma once
+
+#include <memory>
+
+#include "host/excel/Range.h"
+#include "xlsx/Reference.h"
+
+namespace plotsmith::xlsx {
+
+class Worksheet;
+
+excel::Ref<excel::Range> MakeRange(std::shared_ptr<Worksheet> sheet, const CellRange& cells);
+
+}  // namespace plotsmith::xlsx

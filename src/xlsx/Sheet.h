@@ -1,0 +1,68 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <pugixml.hpp>
+#include <string>
+#include <utility>
+
+#include "host/excel/Sheet.h"
+#include "xlsx/Journal.h"
+#include "xlsx/Workbook.h"
+
+namespace plotsmith::xlsx {
+
+/// A sheet as the workbook part lists it.
+struct SheetEntry {
+  std::string name;
+  std::string part;
+  pugi::xml_node node;  ///< its element in the workbook part
+  /// What the port sees of it; `worksheet` is the same object where the sheet has cells, else null.
+  std::shared_ptr<excel::Sheet> object;
+  std::shared_ptr<Worksheet> worksheet;
+};
+
+/// The members that all sheets share, for the port's class `Base`.
+template <class Base>
+class SheetMembers : public Base {
+ public:
+  SheetMembers(Workbook& book, std::weak_ptr<SheetEntry> entry) : book_(book), entry_(std::move(entry)) {}
+
+  std::string Name() override { return Entry().name; }
+  void SetName(std::string_view name) override {
+    book_.Journal().Put(Path(), "Name", name);
+    book_.RenameSheet(Entry(), name);
+  }
+  std::int32_t Visible() override {
+    const std::string_view state = Entry().node.attribute("state").value();
+    if (state == "veryHidden") return excel::xlSheetVeryHidden;
+    return state == "hidden" ? excel::xlSheetHidden : excel::xlSheetVisible;
+  }
+  void SetVisible(std::int32_t value) override {
+    book_.Journal().Put(Path(), "Visible", value);
+    book_.SetVisible(Entry(), value);
+  }
+  void Activate() override {
+    book_.Journal().Call(Path(), "Activate");
+    book_.Activate(Entry());
+  }
+  void Delete() override {
+    book_.Journal().Call(Path(), "Delete");
+    book_.RemoveSheet(Entry());
+  }
+
+ protected:
+  SheetEntry& Entry() const {
+    const auto entry = entry_.lock();
+    if (!entry) throw runtime::RuntimeError(runtime::error::kApplication);  // the sheet was deleted
+    return *entry;
+  }
+  auto Path() const {
+    return [this] { return "Sheets(" + xlsx::Journal::Literal(Entry().name) + ")"; };
+  }
+
+  Workbook& book_;
+  std::weak_ptr<SheetEntry> entry_;
+};
+
+}  // namespace plotsmith::xlsx

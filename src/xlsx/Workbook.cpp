@@ -1,0 +1,428 @@
+#include "xlsx/Workbook.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+
+#include "runtime/RuntimeError.h"
+#include "runtime/Strings.h"
+#include "xlsx/Application.h"
+#include "xlsx/Chart.h"
+#include "xlsx/ChartPart.h"
+#include "xlsx/DefaultTheme.h"
+#include "xlsx/DefinedNames.h"
+#include "xlsx/Limits.h"
+#include "xlsx/Namespaces.h"
+#include "xlsx/SharedStrings.h"
+#include "xlsx/Sheets.h"
+#include "xlsx/Worksheet.h"
+#include "xlsx/Xml.h"
+
+namespace plotsmith::xlsx {
+
+using excel::Ref;
+using runtime::RuntimeError;
+
+namespace {
+
+/// A sheet without cells: a chart sheet, a dialog, a macro sheet.
+class OtherSheet final : public SheetMembers<excel::Sheet> {
+ public:
+  using SheetMembers::SheetMembers;
+};
+
+/// What a file is that isn't a zip archive, or null if it may be one.
+const char* ForeignKind(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::string start(64 * 1024, '\0');
+  file.read(start.data(), static_cast<std::streamsize>(start.size()));
+  start.resize(static_cast<std::size_t>(file.gcount()));
+  if (start.empty()) return "it is empty";
+  if (start.starts_with("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1")) {
+    // a compound file: a workbook behind a password, or one from before 2007
+    std::string name;
+    for (const char c : std::string_view("EncryptedPackage")) name.append({c, '\0'});
+    // the directory may lie anywhere in the file
+    std::string rest((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+    const bool encrypted = start.find(name) != std::string::npos || rest.find(name) != std::string::npos;
+    return encrypted ? "it is encrypted with a password"
+                     : "it is a workbook of Excel 97-2003 (.xls), not .xlsx";
+  }
+  return nullptr;
+}
+
+constexpr std::string_view kEmptyWorkbook =
+    R"(<workbook xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main" )"
+    R"(xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships">)"
+    R"(<bookViews><workbookView/></bookViews><sheets/></workbook>)";
+
+std::string EmptySheet(bool strict) {
+  return std::string(kXmlDeclaration) + "<worksheet xmlns=\"" +
+         std::string((strict ? kStrict : kTransitional).main) +
+         "\"><dimension ref=\"A1\"/><sheetData/></worksheet>";
+}
+
+/// Whether a sheet can have the name (Excel's rules).
+bool IsSheetName(std::string_view name) {
+  return !name.empty() && runtime::Len(name) <= limits::kSheetName &&
+         name.find_first_of("[]:*?/\\") == std::string_view::npos && !name.starts_with('\'') &&
+         !name.ends_with('\'') && !runtime::EqualsIgnoreCase(name, "History");
+}
+
+}  // namespace
+
+Workbook::~Workbook() = default;
+
+std::shared_ptr<Workbook> Workbook::Open(xlsx::Application& application, const std::string& path) {
+  if (!std::ifstream(path)) throw PackageError("it can't be opened");
+  if (const char* kind = ForeignKind(path)) throw PackageError(kind);
+  std::shared_ptr<Workbook> book(new Workbook(application));
+  book->package_ = xlsx::Package::Open(path);
+  book->Load();
+  return book;
+}
+
+std::shared_ptr<Workbook> Workbook::New(xlsx::Application& application) {
+  std::shared_ptr<Workbook> book(new Workbook(application));
+  book->package_.Add("/xl/workbook.xml", content_type::kWorkbook,
+                     std::string(kXmlDeclaration) + std::string(kEmptyWorkbook));
+  book->package_.AddRelationship("", kTransitional.RelationshipType("officeDocument"), "/xl/workbook.xml");
+  book->Load();
+  book->AddWorksheet(0);
+  return book;
+}
+
+pugi::xml_node Workbook::Root() const { return xml::Root(document_); }
+
+void Workbook::Load() {
+  const auto main = package_.FindRelationshipOfType("", "officeDocument");
+  if (!main || !package_.Has(main->target)) throw PackageError("it is not a workbook: it names no main part");
+  part_ = main->target;
+  const std::string type = package_.ContentType(part_);
+  if (type.find("sheet.binary") != std::string::npos) {
+    throw PackageError("it is a binary workbook (.xlsb), not .xlsx");
+  }
+  InPart(part_, [&] { xml::Parse(document_, package_.Read(part_)); });
+  if (!xml::Is(Root(), "workbook")) throw PackageError("it is not a workbook");
+  strict_ = xml::NamespaceOf(Root()) == kStrict.main;
+  dates_ = xml::BooleanAttribute(xml::Child(Root(), "workbookPr"), "date1904", false) ? DateSystem::k1904
+                                                                                      : DateSystem::k1900;
+  const auto styles = package_.FindRelationshipOfType(part_, "styles");
+  if (styles && package_.Has(styles->target)) {
+    InPart(styles->target, [&] { styles_ = std::make_unique<xlsx::Styles>(package_.Read(styles->target)); });
+  } else {
+    styles_ = std::make_unique<xlsx::Styles>("");
+  }
+  LoadSheets();
+  LoadNames();
+}
+
+void Workbook::LoadSheets() {
+  const auto relationships = package_.Relationships(part_);
+  for (const pugi::xml_node& node : xml::Children(xml::Child(Root(), "sheets"), "sheet")) {
+    auto entry = std::make_shared<SheetEntry>();
+    entry->name = xml::Attribute(node, "name");
+    entry->node = node;
+    const std::string id = xml::RelationshipId(node);
+    const auto link = std::find_if(relationships.begin(), relationships.end(),
+                                   [&](const Relationship& r) { return r.id == id; });
+    if (link == relationships.end() || !package_.Has(link->target)) {
+      throw PackageError("the part of its sheet " + entry->name + " is missing");
+    }
+    entry->part = link->target;
+    if (link->type == "worksheet") {
+      entry->worksheet = std::make_shared<Worksheet>(*this, entry, false);
+      entry->object = entry->worksheet;
+    } else {
+      entry->object = std::make_shared<OtherSheet>(*this, entry);
+    }
+    sheets_.push_back(std::move(entry));
+  }
+  const auto view = xml::Child(Root(), "bookViews", "workbookView");
+  const auto active = xml::IntegerAttribute(view, "activeTab", 0);
+  if (active >= 0 && active < static_cast<long long>(sheets_.size()))
+    activeSheet_ = static_cast<std::size_t>(active);
+}
+
+void Workbook::LoadNames() {
+  for (const pugi::xml_node& node : xml::Children(xml::Child(Root(), "definedNames"), "definedName")) {
+    NameEntry entry{xml::Attribute(node, "name"), std::nullopt, xml::Text(node)};
+    const auto local = xml::IntegerAttribute(node, "localSheetId", -1);
+    if (local >= 0) entry.sheet = static_cast<std::size_t>(local);
+    names_.push_back(std::move(entry));
+  }
+}
+
+Ref<excel::Application> Workbook::Application() { return application_.shared_from_this(); }
+
+const xlsx::Journal& Workbook::Journal() const { return application_.Journal(); }
+
+bool Workbook::ProtectStructure() {
+  return xml::BooleanAttribute(xml::Child(Root(), "workbookProtection"), "lockStructure", false);
+}
+
+// a shared workbook keeps the log of its users' changes
+bool Workbook::MultiUserEditing() {
+  return package_.FindRelationshipOfType(part_, "revisionHeaders").has_value();
+}
+
+bool Workbook::CalculatesManually() const {
+  return xml::Attribute(xml::Child(Root(), "calcPr"), "calcMode") == "manual";
+}
+
+Ref<excel::Sheet> Workbook::ActiveSheet() {
+  return activeSheet_ < sheets_.size() ? sheets_[activeSheet_]->object : nullptr;
+}
+
+Ref<excel::Sheets> Workbook::Sheets() { return MakeSheets(*this); }
+
+Ref<excel::Worksheets> Workbook::Worksheets() { return MakeWorksheets(*this); }
+
+Ref<excel::Names> Workbook::Names() {
+  if (!nameObjects_) nameObjects_ = MakeNames(*this);
+  return nameObjects_;
+}
+
+std::int32_t Workbook::Colors(std::int32_t index) { return styles_->PaletteColor(index); }
+
+void Workbook::SetColors(std::int32_t index, std::int32_t color) {
+  Journal().Put([] { return std::string("Workbook"); }, "Colors(" + std::to_string(index) + ")", color);
+  styles_->SetPaletteColor(index, color);
+}
+
+const TextPool& Workbook::SharedStrings() {
+  if (!sharedStrings_) {
+    TextPool strings;
+    Guarded([&] {
+      const auto link = package_.FindRelationshipOfType(part_, "sharedStrings");
+      if (!link || !package_.Has(link->target)) return;
+      const auto stream = package_.Stream(link->target);
+      InPart(link->target, [&] { ReadSharedStrings(*stream, strings); });
+    });
+    sharedStrings_ = std::move(strings);
+  }
+  return *sharedStrings_;
+}
+
+std::shared_ptr<SheetEntry> Workbook::FindSheet(std::string_view name) const {
+  for (const auto& sheet : sheets_) {
+    if (runtime::EqualsIgnoreCase(sheet->name, name)) return sheet;
+  }
+  return nullptr;
+}
+
+std::shared_ptr<Worksheet> Workbook::FindWorksheet(std::string_view name) const {
+  const auto sheet = FindSheet(name);
+  return sheet ? sheet->worksheet : nullptr;
+}
+
+std::size_t Workbook::PositionOf(const SheetEntry& sheet) const {
+  const auto found =
+      std::find_if(sheets_.begin(), sheets_.end(), [&](const auto& entry) { return entry.get() == &sheet; });
+  return static_cast<std::size_t>(found - sheets_.begin());
+}
+
+std::shared_ptr<Worksheet> Workbook::AddWorksheet(std::size_t position) {
+  const Namespaces& names = strict_ ? kStrict : kTransitional;
+  const std::string folder = part_.substr(0, part_.rfind('/') + 1);
+  const std::string part = package_.FreeName(folder + "worksheets/sheet", ".xml");
+  package_.Add(part, content_type::kWorksheet, EmptySheet(strict_));
+  const std::string link = package_.AddRelationship(part_, names.RelationshipType("worksheet"), part);
+
+  long long id = 0;
+  for (const auto& sheet : sheets_) id = std::max(id, xml::IntegerAttribute(sheet->node, "sheetId", 0));
+  std::string name;
+  for (int n = 1; name.empty() || FindSheet(name); ++n) name = "Sheet" + std::to_string(n);
+
+  pugi::xml_node list = xml::Child(Root(), "sheets");
+  const std::string tag = std::string(xml::Prefix(Root().name())) + "sheet";
+  auto entry = std::make_shared<SheetEntry>();
+  entry->node = position < sheets_.size() ? list.insert_child_before(tag.c_str(), sheets_[position]->node)
+                                          : list.append_child(tag.c_str());
+  entry->name = name;
+  entry->part = part;
+  xml::SetAttribute(entry->node, "name", name);
+  xml::SetAttribute(entry->node, "sheetId", std::to_string(id + 1));
+  xml::SetAttribute(entry->node, (xml::EnsurePrefix(Root(), names.relationships, "r") + "id").c_str(), link);
+  entry->worksheet = std::make_shared<Worksheet>(*this, entry, true);
+  entry->object = entry->worksheet;
+  sheets_.insert(sheets_.begin() + static_cast<std::ptrdiff_t>(position), entry);
+  RenumberLocalNames(position, 1);
+  activeSheet_ = position;
+  changed_ = true;
+  return entry->worksheet;
+}
+
+void Workbook::RemoveSheet(const SheetEntry& sheet) {
+  if (!sheet.worksheet || !sheet.worksheet->IsNew()) {
+    throw RuntimeError(runtime::error::kApplication, "The sheets of users can't be deleted.");
+  }
+  const std::size_t position = PositionOf(sheet);
+  pugi::xml_node node = sheet.node;
+  node.parent().remove_child(node);
+  package_.Remove(sheet.part, part_);
+  sheets_.erase(sheets_.begin() + static_cast<std::ptrdiff_t>(position));
+  RenumberLocalNames(position, -1);
+  if (activeSheet_ >= position && activeSheet_ > 0) --activeSheet_;
+  changed_ = true;
+}
+
+/// Names that are local to a sheet know it by its place, and places from `position` on have moved.
+void Workbook::RenumberLocalNames(std::size_t position, int step) {
+  const auto nodes = xml::Children(xml::Child(Root(), "definedNames"), "definedName");
+  for (std::size_t i = 0; i < names_.size() && i < nodes.size(); ++i) {
+    auto& place = names_[i].sheet;
+    if (!place || *place < position) continue;
+    place = *place + static_cast<std::size_t>(step);
+    xml::SetAttribute(nodes[i], "localSheetId", std::to_string(*place));
+  }
+  const auto view = xml::Child(Root(), "bookViews", "workbookView");
+  for (const char* tab : {"activeTab", "firstSheet"}) {
+    const auto at = xml::IntegerAttribute(view, tab, -1);
+    if (at >= static_cast<long long>(position)) xml::SetAttribute(view, tab, std::to_string(at + step));
+  }
+  nameObjects_ = nullptr;
+}
+
+void Workbook::RenameSheet(SheetEntry& sheet, std::string_view name) {
+  const auto other = FindSheet(name);
+  if (!IsSheetName(name) || (other && other.get() != &sheet)) {
+    throw RuntimeError(runtime::error::kApplication, "That name is already taken. Try a different one.");
+  }
+  if (!sheet.worksheet || !sheet.worksheet->IsNew()) {
+    throw RuntimeError(runtime::error::kApplication, "The sheets of users can't be renamed.");
+  }
+  sheet.name = name;
+  xml::SetAttribute(sheet.node, "name", name);
+  changed_ = true;
+}
+
+void Workbook::SetVisible(SheetEntry& sheet, std::int32_t visible) {
+  if (visible == excel::xlSheetVisible) {
+    sheet.node.remove_attribute("state");
+  } else {
+    xml::SetAttribute(sheet.node, "state", visible == excel::xlSheetVeryHidden ? "veryHidden" : "hidden");
+  }
+  changed_ = true;
+}
+
+void Workbook::Activate(const SheetEntry& sheet) {
+  const std::size_t position = PositionOf(sheet);
+  if (position < sheets_.size()) activeSheet_ = position;
+}
+
+void Workbook::DefineName(std::string name, std::string definition) {
+  pugi::xml_node list = xml::Child(Root(), "definedNames");
+  const std::string prefix(xml::Prefix(Root().name()));
+  if (!list)
+    list = Root().insert_child_after((prefix + "definedNames").c_str(), xml::Child(Root(), "sheets"));
+  pugi::xml_node node = list.append_child((prefix + "definedName").c_str());
+  xml::SetAttribute(node, "name", name);
+  xml::SetText(node, definition);
+  names_.push_back({std::move(name), std::nullopt, std::move(definition)});
+  nameObjects_ = nullptr;
+  changed_ = true;
+}
+
+std::shared_ptr<ChartPart> Workbook::Chart(const std::string& part) {
+  auto& chart = charts_[part];
+  if (!chart) chart = std::make_shared<ChartPart>(*this, part);
+  return chart;
+}
+
+Ref<excel::Chart> Workbook::ActiveChart() {
+  if (activeSheet_ >= sheets_.size() || sheets_[activeSheet_]->worksheet) return nullptr;
+  const auto drawing = package_.FindRelationshipOfType(sheets_[activeSheet_]->part, "drawing");
+  const auto chart = drawing ? package_.FindRelationshipOfType(drawing->target, "chart") : std::nullopt;
+  if (!chart) return nullptr;
+  return std::make_shared<xlsx::Chart>(Chart(chart->target), std::weak_ptr<Shape>());
+}
+
+void Workbook::RaiseDamage(const PackageError& error) {
+  if (!damage_) damage_ = error.what();
+  throw RuntimeError(runtime::error::kApplication,
+                     "The workbook can't be read: " + std::string(error.what()) + ".");
+}
+
+bool Workbook::Changed() const {
+  if (changed_ || package_.Changed() || styles_->Changed() || !shifts_.None()) return true;
+  const auto sheetChanged = [](const auto& sheet) {
+    return sheet->worksheet && sheet->worksheet->NeedsWriting();
+  };
+  const auto chartChanged = [](const auto& chart) { return chart.second->Changed(); };
+  return std::any_of(sheets_.begin(), sheets_.end(), sheetChanged) ||
+         std::any_of(charts_.begin(), charts_.end(), chartChanged);
+}
+
+void Workbook::ShiftNames() {
+  if (shifts_.None()) return;
+  const auto nodes = xml::Children(xml::Child(Root(), "definedNames"), "definedName");
+  for (std::size_t i = 0; i < names_.size() && i < nodes.size(); ++i) {
+    const auto shifted = shifts_.Follow(names_[i].definition, "", namesFollowed_);
+    if (!shifted) continue;
+    names_[i].definition = *shifted;
+    xml::SetText(nodes[i], *shifted);
+    changed_ = true;
+  }
+  namesFollowed_ = shifts_.Mark();
+}
+
+void Workbook::WriteStyles() {
+  if (!styles_->Changed()) return;
+  const auto link = package_.FindRelationshipOfType(part_, "styles");
+  if (link && package_.Has(link->target)) {
+    package_.Replace(link->target, styles_->Serialize());
+    return;
+  }
+  const Namespaces& names = strict_ ? kStrict : kTransitional;
+  const std::string part = part_.substr(0, part_.rfind('/') + 1) + "styles.xml";
+  package_.Add(part, content_type::kStyles, styles_->Serialize());
+  if (!link) package_.AddRelationship(part_, names.RelationshipType("styles"), part);
+}
+
+void Workbook::Save(const std::string& path) {
+  for (const auto& sheet : sheets_) {
+    if (sheet->worksheet) sheet->worksheet->Write();
+  }
+  WriteCharts();
+  ShiftNames();
+  WriteStyles();
+  const auto view = xml::Child(Root(), "bookViews", "workbookView");
+  if (view && xml::IntegerAttribute(view, "activeTab", 0) != static_cast<long long>(activeSheet_)) {
+    xml::SetAttribute(view, "activeTab", std::to_string(activeSheet_));
+    changed_ = true;
+  }
+  if (changed_) package_.Replace(part_, xml::Serialize(document_));
+  changed_ = false;
+  package_.Save(path);
+}
+
+/// Charts in use write what was changed on them. Others are looked at only if rows have moved, and touched
+/// only if they point at such rows.
+void Workbook::WriteCharts() {
+  if (!shifts_.None()) {
+    for (const std::string& part : package_.Parts()) {
+      if (package_.ContentType(part) != content_type::kChart) continue;
+      if (charts_.contains(part)) continue;
+      try {
+        if (shifts_.MayConcern(package_.Read(part))) Chart(part);
+      } catch (const PackageError&) {
+        // a chart that nobody can read follows nothing, and stays as it is
+      }
+    }
+  }
+  const bool drawn =
+      std::any_of(charts_.begin(), charts_.end(), [](const auto& chart) { return chart.second->Changed(); });
+  if (drawn) EnsureTheme();
+  for (const auto& [part, chart] : charts_) chart->Write();
+}
+
+void Workbook::EnsureTheme() {
+  if (package_.FindRelationshipOfType(part_, "theme")) return;
+  const Namespaces& names = strict_ ? kStrict : kTransitional;
+  const std::string part = package_.FreeName(part_.substr(0, part_.rfind('/') + 1) + "theme/theme", ".xml");
+  package_.Add(part, content_type::kTheme, DefaultTheme(strict_));
+  package_.AddRelationship(part_, names.RelationshipType("theme"), part);
+}
+
+}  // namespace plotsmith::xlsx

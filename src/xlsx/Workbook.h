@@ -1,0 +1,131 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <pugixml.hpp>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/excel/Excel.h"
+#include "xlsx/CellStore.h"
+#include "xlsx/Journal.h"
+#include "xlsx/Package.h"
+#include "xlsx/PackageError.h"
+#include "xlsx/RowShifts.h"
+#include "xlsx/Styles.h"
+
+namespace plotsmith::xlsx {
+
+class Application;
+class ChartPart;
+class Worksheet;
+struct SheetEntry;
+
+/// A defined name as the workbook part holds it.
+struct NameEntry {
+  std::string name;
+  std::optional<std::size_t> sheet;  ///< the sheet that it is local to, from 0
+  std::string definition;            ///< without "="
+};
+
+/// A workbook file, open. What the system changes is held in memory until Save.
+class Workbook : public excel::Workbook, public std::enable_shared_from_this<Workbook> {
+ public:
+  static std::shared_ptr<Workbook> Open(xlsx::Application& application, const std::string& path);
+  static std::shared_ptr<Workbook> New(xlsx::Application& application);
+  ~Workbook() override;
+
+  // the port
+  excel::Ref<excel::Application> Application() override;
+  bool ProtectStructure() override;
+  bool MultiUserEditing() override;
+  excel::Ref<excel::Sheet> ActiveSheet() override;
+  excel::Ref<excel::Sheets> Sheets() override;
+  excel::Ref<excel::Worksheets> Worksheets() override;
+  excel::Ref<excel::Names> Names() override;
+  std::int32_t Colors(std::int32_t index) override;
+  void SetColors(std::int32_t index, std::int32_t color) override;
+
+  // the file
+  /// Whether Save would write anything but what was read.
+  bool Changed() const;
+  /// Throws PackageError; then the file is as it was.
+  void Save(const std::string& path);
+  /// What was found damaged while the workbook was in use, as a sentence. A workbook that has this must not
+  /// be saved: what was built on it is incomplete.
+  const std::optional<std::string>& Damage() const { return damage_; }
+  bool CalculatesManually() const;
+  void DefineName(std::string name, std::string definition);
+
+  // for the other classes of this host
+  xlsx::Package& Package() { return package_; }
+  xlsx::Styles& Styles() { return *styles_; }
+  const TextPool& SharedStrings();
+  DateSystem Dates() const { return dates_; }
+  const xlsx::Journal& Journal() const;
+  RowShifts& Shifts() { return shifts_; }
+  /// In the order of their tabs.
+  const std::vector<std::shared_ptr<SheetEntry>>& AllSheets() const { return sheets_; }
+  /// Null if there is none of the name, ignoring case.
+  std::shared_ptr<SheetEntry> FindSheet(std::string_view name) const;
+  std::shared_ptr<Worksheet> FindWorksheet(std::string_view name) const;
+  const std::vector<NameEntry>& AllNames() const { return names_; }
+  /// A new worksheet at a place among the tabs, from 0, made active.
+  std::shared_ptr<Worksheet> AddWorksheet(std::size_t position);
+  void RemoveSheet(const SheetEntry& sheet);
+  void RenameSheet(SheetEntry& sheet, std::string_view name);
+  void SetVisible(SheetEntry& sheet, std::int32_t visible);
+  void Activate(const SheetEntry& sheet);
+  /// The chart of a part, which is read when something of the chart is asked for.
+  std::shared_ptr<ChartPart> Chart(const std::string& part);
+  excel::Ref<excel::Chart> ActiveChart();
+  bool IsStrict() const { return strict_; }
+
+  /// Runs what reads the file behind the port: a PackageError is kept as the workbook's damage and goes on as
+  /// the run-time error that the port allows.
+  template <class Read>
+  auto Guarded(Read&& read) -> decltype(read()) {
+    try {
+      return read();
+    } catch (const PackageError& e) {
+      RaiseDamage(e);
+    }
+  }
+
+ private:
+  explicit Workbook(xlsx::Application& application) : application_(application) {}
+  void Load();
+  void LoadSheets();
+  void LoadNames();
+  pugi::xml_node Root() const;
+  std::size_t PositionOf(const SheetEntry& sheet) const;
+  void RenumberLocalNames(std::size_t position, int step);
+  void ShiftNames();
+  void WriteCharts();
+  void WriteStyles();
+  void EnsureTheme();
+  [[noreturn]] void RaiseDamage(const PackageError& error);
+
+  xlsx::Application& application_;
+  xlsx::Package package_;
+  std::string part_;  ///< the workbook part
+  pugi::xml_document document_;
+  bool changed_ = false;
+  bool strict_ = false;
+  DateSystem dates_ = DateSystem::k1900;
+  std::unique_ptr<xlsx::Styles> styles_;
+  std::optional<TextPool> sharedStrings_;
+  std::vector<std::shared_ptr<SheetEntry>> sheets_;
+  std::size_t activeSheet_ = 0;
+  std::vector<NameEntry> names_;
+  excel::Ref<excel::Names> nameObjects_;  ///< made when first asked for, until a name changes
+  std::map<std::string, std::shared_ptr<ChartPart>, std::less<>> charts_;  ///< those in use, by part
+  RowShifts shifts_;
+  std::size_t namesFollowed_ = 0;
+  std::optional<std::string> damage_;
+};
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,265 @@
+#include "xlsx/Worksheet.h"
+
+#include <algorithm>
+
+#include "runtime/RuntimeError.h"
+#include "xlsx/Application.h"
+#include "xlsx/Drawing.h"
+#include "xlsx/EnteredValue.h"
+#include "xlsx/ErrorValues.h"
+#include "xlsx/Limits.h"
+#include "xlsx/Namespaces.h"
+#include "xlsx/Range.h"
+#include "xlsx/Shape.h"
+#include "xlsx/SheetSplice.h"
+#include "xlsx/Xml.h"
+
+namespace plotsmith::xlsx {
+
+using excel::CellValue;
+using excel::Ref;
+using runtime::RuntimeError;
+using runtime::Variant;
+
+namespace {
+
+void CheckCell(std::int32_t row, std::int32_t column) {
+  if (row < 1 || row > limits::kRows || column < 1 || column > limits::kColumns) {
+    throw RuntimeError(runtime::error::kApplication);
+  }
+}
+
+CellValue::Kind NumberKind(const NumberFormat& format) {
+  return format.IsDate() ? CellValue::Kind::kDate : CellValue::Kind::kNumber;
+}
+
+}  // namespace
+
+Worksheet::Worksheet(Workbook& book, std::weak_ptr<SheetEntry> entry, bool isNew)
+    : SheetMembers(book, std::move(entry)), isNew_(isNew) {}
+
+Worksheet::~Worksheet() = default;
+
+const SheetContents& Worksheet::Contents() {
+  if (!contents_) {
+    contents_ = book_.Guarded([&] {
+      const auto stream = book_.Package().Stream(Entry().part);
+      return InPart(Entry().part, [&] { return ScanSheet(*stream, book_.Dates()); });
+    });
+  }
+  return *contents_;
+}
+
+CellGrid& Worksheet::Grid() {
+  if (grid_) {
+    gridChanged_ = true;
+    return *grid_;
+  }
+  if (!isNew_ && Visible() != excel::xlSheetVeryHidden) {
+    throw RuntimeError(runtime::error::kApplication, "The sheets of users can't be written.");
+  }
+  const SheetContents& contents = Contents();
+  CellGrid grid;
+  for (std::int32_t column = 1; column <= contents.cells.ColumnCount(); ++column) {
+    for (std::int32_t row = 1; row <= contents.cells.LastRow(column); ++row) {
+      const std::uint32_t style = contents.cells.StyleAt(row, column);
+      const CellValue value = Unpack(contents.cells.ValueAt(row, column), style);
+      if (value.kind == CellValue::Kind::kEmpty && style == 0) continue;
+      grid.At(row, column) = {value.kind, value.number, std::string(value.text), style};
+    }
+  }
+  grid_ = std::move(grid);
+  gridChanged_ = true;
+  return *grid_;
+}
+
+CellValue Worksheet::Unpack(PackedValue value, std::uint32_t style) {
+  using Kind = PackedValue::Kind;
+  switch (value.GetKind()) {
+    case Kind::kEmpty:
+      return {};
+    case Kind::kNumber:
+      return {NumberKind(book_.Styles().Format(style)), value.Number(), {}};
+    case Kind::kBoolean:
+      return {CellValue::Kind::kBoolean, static_cast<double>(value.Index()), {}};
+    case Kind::kSharedText:
+      return {CellValue::Kind::kText, 0, book_.SharedStrings().At(value.Index())};
+    case Kind::kOwnText:
+      return {CellValue::Kind::kText, 0, contents_->cells.texts.At(value.Index())};
+    case Kind::kError: {
+      const std::string_view text = contents_->cells.texts.At(value.Index());
+      return {CellValue::Kind::kError, static_cast<double>(ErrorNumber(text)), text};
+    }
+  }
+  return {};
+}
+
+std::uint32_t Worksheet::StyleAt(std::int32_t row, std::int32_t column) {
+  if (!grid_) return Contents().cells.StyleAt(row, column);
+  const GridCell* cell = grid_->Find(row, column);
+  return cell == nullptr ? 0 : cell->style;
+}
+
+CellValue Worksheet::CellValueAt(std::int32_t row, std::int32_t column) {
+  CheckCell(row, column);
+  if (!grid_) {
+    const CellStore& cells = Contents().cells;
+    const PackedValue value = cells.ValueAt(row, column);
+    // only a number needs its style, to tell whether it is a date
+    return Unpack(value, value.GetKind() == PackedValue::Kind::kNumber ? cells.StyleAt(row, column) : 0);
+  }
+  const GridCell* cell = grid_->Find(row, column);
+  if (cell == nullptr) return {};
+  const bool number = cell->kind == CellValue::Kind::kNumber || cell->kind == CellValue::Kind::kDate;
+  return {number ? NumberKind(book_.Styles().Format(cell->style)) : cell->kind, cell->number, cell->text};
+}
+
+std::string_view Worksheet::CellTextAt(std::int32_t row, std::int32_t column, std::string& scratch) {
+  const CellValue value = CellValueAt(row, column);
+  switch (value.kind) {
+    case CellValue::Kind::kEmpty:
+      return {};
+    case CellValue::Kind::kError:
+      return value.text;
+    default:
+      break;
+  }
+  const NumberFormat& format = book_.Styles().Format(StyleAt(row, column));
+  if (value.kind == CellValue::Kind::kText && format.IsGeneral()) return value.text;
+  scratch.clear();
+  if (value.kind == CellValue::Kind::kText) {
+    format.AppendText(scratch, value.text);
+  } else if (value.kind == CellValue::Kind::kBoolean) {
+    format.AppendBoolean(scratch, value.number != 0);
+  } else {
+    format.AppendNumber(scratch, value.number, book_.Dates());
+  }
+  return scratch;
+}
+
+void Worksheet::SetCellValueAt(std::int32_t row, std::int32_t column, const Variant& value) {
+  CheckCell(row, column);
+  book_.Journal().Put([&] { return Path()(); },
+                      "Cells(" + std::to_string(row) + ", " + std::to_string(column) + ")", value);
+  GridCell entered;
+  Enter(entered, value);
+  GridCell& cell = Grid().At(row, column);
+  entered.style = cell.style;
+  cell = std::move(entered);
+}
+
+void Worksheet::ClearCells(const CellRange& range) {
+  for (std::int32_t row = range.row1; row <= range.row2; ++row) {
+    for (std::int32_t column = range.column1; column <= range.column2; ++column) Grid().At(row, column) = {};
+  }
+}
+
+void Worksheet::SetNumberFormat(const CellRange& range, std::string_view code) {
+  if (!NumberFormat::Parse(code)) {
+    throw RuntimeError(runtime::error::kApplication,
+                       "Unable to set the NumberFormat property of the Range class");
+  }
+  for (std::int32_t row = range.row1; row <= range.row2; ++row) {
+    for (std::int32_t column = range.column1; column <= range.column2; ++column) {
+      GridCell& cell = Grid().At(row, column);
+      cell.style = book_.Styles().WithFormat(cell.style, code);
+    }
+  }
+}
+
+std::string Worksheet::NumberFormatAt(std::int32_t row, std::int32_t column) {
+  return book_.Styles().FormatCode(StyleAt(row, column));
+}
+
+CellRange Worksheet::UsedCells() {
+  const auto used = grid_ ? grid_->Used() : Contents().used;
+  return used.value_or(CellRange{});
+}
+
+void Worksheet::InsertRow(std::int32_t row) {
+  CheckCell(row, 1);
+  Grid().InsertRow(row);
+  book_.Shifts().Add(Entry().name, row, 1);
+}
+
+void Worksheet::DeleteRow(std::int32_t row) {
+  CheckCell(row, 1);
+  Grid().DeleteRow(row);
+  book_.Shifts().Add(Entry().name, row, -1);
+}
+
+const SheetGeometry& Worksheet::Geometry() {
+  if (!geometry_) {
+    const SheetContents& contents = Contents();
+    geometry_ = ReadGeometry(contents.head, contents.rowHeights, book_.Styles());
+  }
+  return *geometry_;
+}
+
+Ref<excel::Range> Worksheet::Cells(std::int32_t row, std::int32_t column) {
+  CheckCell(row, column);
+  return MakeRange(shared_from_this(), {row, column, row, column});
+}
+
+Ref<excel::Range> Worksheet::Range(std::string_view cell1, std::string_view cell2) {
+  const auto first = ParseA1(cell1), second = ParseA1(cell2);
+  if (!first || !second) {
+    throw RuntimeError(runtime::error::kApplication, "Method 'Range' of object '_Worksheet' failed");
+  }
+  return MakeRange(shared_from_this(),
+                   {std::min(first->row1, second->row1), std::min(first->column1, second->column1),
+                    std::max(first->row2, second->row2), std::max(first->column2, second->column2)});
+}
+
+Ref<excel::Range> Worksheet::Rows(std::int32_t row) {
+  CheckCell(row, 1);
+  return MakeRange(shared_from_this(), {row, 1, row, limits::kColumns});
+}
+
+Ref<excel::Range> Worksheet::UsedRange() { return MakeRange(shared_from_this(), UsedCells()); }
+
+Ref<excel::Shapes> Worksheet::Shapes() { return MakeShapes(*this); }
+
+Ref<excel::ChartObjects> Worksheet::ChartObjects() { return MakeChartObjects(*this); }
+
+Drawing* Worksheet::FindDrawing() {
+  if (!drawingSought_) {
+    book_.Guarded([&] {
+      const auto link = book_.Package().FindRelationshipOfType(Entry().part, "drawing");
+      if (link) drawing_ = std::make_unique<Drawing>(*this, link->target);
+    });
+    drawingSought_ = true;
+  }
+  return drawing_.get();
+}
+
+Drawing& Worksheet::EnsureDrawing() {
+  if (Drawing* drawing = FindDrawing()) return *drawing;
+  auto& package = book_.Package();
+  const Namespaces& names = book_.IsStrict() ? kStrict : kTransitional;
+  const std::string folder = Entry().part.substr(0, Entry().part.rfind("/worksheets/") + 1) + "drawings/";
+  const std::string part = package.FreeName(folder + "drawing", ".xml");
+  package.Add(part, content_type::kDrawing, EmptyDrawing(book_.IsStrict()));
+  const std::string id = package.AddRelationship(Entry().part, names.RelationshipType("drawing"), part);
+  std::string text = xml::ToUtf8(package.Read(Entry().part));
+  InsertDrawingLink(text, names.relationships, id);
+  package.Replace(Entry().part, std::move(text));
+  drawing_ = std::make_unique<Drawing>(*this, part);
+  return *drawing_;
+}
+
+bool Worksheet::NeedsWriting() const { return gridChanged_ || (drawing_ && drawing_->Changed()); }
+
+void Worksheet::Write() {
+  if (gridChanged_) {
+    auto& package = book_.Package();
+    std::string text = xml::ToUtf8(package.Read(Entry().part));
+    ReplaceSheetData(
+        text, [&](const std::string& prefix) { return grid_->SheetData(prefix); }, UsedCells());
+    package.Replace(Entry().part, std::move(text));
+    gridChanged_ = false;
+  }
+  if (drawing_) drawing_->Write();
+}
+
+}  // namespace plotsmith::xlsx

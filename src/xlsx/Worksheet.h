@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "host/excel/Worksheet.h"
+#include "xlsx/CellGrid.h"
+#include "xlsx/Reference.h"
+#include "xlsx/Sheet.h"
+#include "xlsx/SheetGeometry.h"
+#include "xlsx/SheetScanner.h"
+
+namespace plotsmith::xlsx {
+
+class Drawing;
+
+/// A worksheet. Its cells are read when the first one is asked for. The sheets of users are never written:
+/// only a very hidden sheet, or one that this program made, can be changed, and is then written whole.
+class Worksheet final : public SheetMembers<excel::Worksheet>,
+                        public std::enable_shared_from_this<Worksheet> {
+ public:
+  Worksheet(Workbook& book, std::weak_ptr<SheetEntry> entry, bool isNew);
+  ~Worksheet() override;
+
+  excel::CellValue CellValueAt(std::int32_t row, std::int32_t column) override;
+  std::string_view CellTextAt(std::int32_t row, std::int32_t column, std::string& scratch) override;
+  void SetCellValueAt(std::int32_t row, std::int32_t column, const runtime::Variant& value) override;
+  excel::Ref<excel::Range> Cells(std::int32_t row, std::int32_t column) override;
+  excel::Ref<excel::Range> Range(std::string_view cell1, std::string_view cell2) override;
+  excel::Ref<excel::Range> Rows(std::int32_t row) override;
+  excel::Ref<excel::Range> UsedRange() override;
+  excel::Ref<excel::Shapes> Shapes() override;
+  excel::Ref<excel::ChartObjects> ChartObjects() override;
+
+  // for the other classes of this host
+  Workbook& Book() const { return book_; }
+  const std::string& SheetName() const { return Entry().name; }
+  const std::string& Part() const { return Entry().part; }
+  auto JournalPath() const { return Path(); }
+  CellRange UsedCells();
+  void ClearCells(const CellRange& range);
+  void SetNumberFormat(const CellRange& range, std::string_view code);
+  std::string NumberFormatAt(std::int32_t row, std::int32_t column);
+  void InsertRow(std::int32_t row);
+  void DeleteRow(std::int32_t row);
+  const SheetGeometry& Geometry();
+  /// The sheet's drawing; null if it has none, unless it is to be made.
+  Drawing* FindDrawing();
+  Drawing& EnsureDrawing();
+
+  /// Whether this program made the sheet, so that it is free to change it in any way.
+  bool IsNew() const { return isNew_; }
+  bool NeedsWriting() const;
+  /// Brings the part up to date with what was changed.
+  void Write();
+
+ private:
+  const SheetContents& Contents();
+  /// The cells for writing. Error 1004 on a sheet that isn't ours to write.
+  CellGrid& Grid();
+  std::uint32_t StyleAt(std::int32_t row, std::int32_t column);
+  excel::CellValue Unpack(PackedValue value, std::uint32_t style);
+
+  bool isNew_;
+  std::optional<SheetContents> contents_;  ///< as read
+  std::optional<CellGrid> grid_;           ///< as changed; then nothing looks at contents_ any more
+  bool gridChanged_ = false;
+  std::optional<SheetGeometry> geometry_;
+  std::unique_ptr<Drawing> drawing_;
+  bool drawingSought_ = false;
+};
+
+}  // namespace plotsmith::xlsx
