@@ -1,0 +1,65 @@
+#include "cli/CommandLine.h"
+
+#include <algorithm>
+#include <exception>
+
+#include "cli/Command.h"
+#include "xlsx/PackageError.h"
+
+namespace plotsmith::cli {
+namespace {
+
+constexpr const char* kDescription =
+    "Plotsmith rebuilds the charts of an Excel workbook from its tables, without Excel.\n"
+    "Tables are found by their names (VEX_TableRange..., VEX_SB...) or as sheets Data1 to Data5;\n"
+    "the charts' definitions travel inside the workbook.";
+
+constexpr const char* kFooter =
+    "Exit codes: 0 done, 1 done but Plotsmith had something to say, 2 wrong usage,\n"
+    "3 the workbook could not be read or written. Without -o the workbook itself is replaced,\n"
+    "in one step: it is always whole.";
+
+}  // namespace
+
+int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
+  CLI::App app(kDescription, "plotsmith");
+  app.footer(kFooter);
+  app.require_subcommand(1);
+  app.fallthrough();
+  app.set_version_flag("--version", std::string("plotsmith ") + PLOTSMITH_VERSION);
+  GlobalOptions options;
+  app.add_option("--host-version", options.hostVersion,
+                 "Behave as Plotsmith does in this version of Excel; up to 11 and above 11 differ")
+      ->capture_default_str();
+  app.add_flag("--journal", options.journal,
+               "Write down each change to the workbook as it is made, a line each");
+  app.add_flag("--force", options.force, "Also write a workbook that another program holds open");
+
+  auto commands = MakeCommands();
+  std::vector<CLI::App*> declared;
+  for (const auto& command : commands) declared.push_back(command->Declare(app));
+
+  const auto fail = [&](const std::string& sentence, int code) {
+    streams.err << "plotsmith: " << sentence << '\n';
+    return code;
+  };
+  try {
+    std::reverse(arguments.begin(), arguments.end());  // as the parser wants them
+    app.parse(arguments);
+    for (std::size_t i = 0; i < commands.size(); ++i) {
+      if (declared[i]->parsed()) return commands[i]->Run(options, streams);
+    }
+    return exit_code::kUsage;
+  } catch (const CLI::ParseError& e) {
+    if (e.get_exit_code() == 0) return app.exit(e, streams.out, streams.err);  // help and version
+    return fail(std::string(e.what()) + " (try plotsmith --help)", exit_code::kUsage);
+  } catch (const CommandError& e) {
+    return fail(e.what(), e.ExitCode());
+  } catch (const xlsx::PackageError& e) {
+    return fail(e.what(), exit_code::kFile);
+  } catch (const std::exception& e) {
+    return fail(std::string("something went wrong: ") + e.what(), exit_code::kFile);
+  }
+}
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,56 @@
+#include "cli/ConsoleDesktop.h"
+
+#include <ctime>
+
+#include "runtime/Strings.h"
+
+namespace plotsmith::cli {
+namespace {
+
+constexpr std::string_view kDefaultTitle = "Brindle Plotsmith";
+
+/// Seconds between UTC and the local time, as they are at the start.
+long LocalOffset() {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  return localtime_r(&now, &local) == nullptr ? 0 : local.tm_gmtoff;
+}
+
+}  // namespace
+
+std::int32_t ConsoleDesktop::MsgBox(std::string_view text, desktop::Buttons, desktop::Icon,
+                                    std::string_view title) {
+  const std::string line = runtime::Replace(text, "\r\n", "\n");
+  messages_.push_back(std::string(title.empty() ? kDefaultTitle : title) + ": " + line);
+  return desktop::kOk;
+}
+
+double ConsoleDesktop::Timer() {
+  static const long offset = LocalOffset();
+  std::timespec now{};
+  clock_gettime(CLOCK_REALTIME_COARSE, &now);
+  return static_cast<double>((now.tv_sec + offset) % 86400) + static_cast<double>(now.tv_nsec) / 1e9;
+}
+
+void ConsoleDesktop::DoEvents() {
+  if (shown_.empty()) return;
+  forms::Form* form = shown_.back();
+  if (form->TimerInterval() == 0 || Timer() < nextTick_) return;
+  nextTick_ = Timer() + form->TimerInterval() / 1000.0;
+  form->TimerTick();
+}
+
+void ConsoleDesktop::ShowModal(forms::Form& form) {
+  struct Shown {
+    std::vector<forms::Form*>& list;
+    ~Shown() { list.pop_back(); }
+  };
+  shown_.push_back(&form);
+  const Shown shown{shown_};
+  form.Load();
+  form.Activate();
+  while (form.IsVisible()) DoEvents();
+  form.Deactivate();
+}
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,135 @@
+#include "cli/Session.h"
+
+#include <filesystem>
+
+#include "builder/BuilderVariables.h"
+#include "common/App.h"
+#include "common/CommonFunctions.h"
+#include "common/PSConstants.h"
+#include "common/RunVariables.h"
+#include "metadata/MetadataStore.h"
+#include "metadata/TableDefinitions.h"
+#include "runtime/Variant.h"
+#include "xlsx/PackageError.h"
+
+namespace plotsmith::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+CommandError CantRead(const std::string& path, const std::string& reason) {
+  return CommandError(exit_code::kFile, "can't read \"" + path + "\": " + reason + ".");
+}
+
+void ResetSystem() {
+  ResetRunVariables();
+  ResetBuilderVariables();
+  ResetYield();
+}
+
+/// The file beside a workbook by which another program shows that it has it open, or "".
+std::string LockOf(const fs::path& book) {
+  for (const std::string& name :
+       {".~lock." + book.filename().string() + "#", "~$" + book.filename().string()}) {
+    std::error_code ignored;
+    const fs::path lock = book.parent_path() / name;
+    if (fs::exists(lock, ignored)) return lock.string();
+  }
+  return {};
+}
+
+}  // namespace
+
+std::string VersionText(double version) {
+  const std::string text = runtime::NumberText(version);
+  return text.find('.') == std::string::npos ? text + ".0" : text;
+}
+
+Session::Session(std::string path, const GlobalOptions& options, const Streams& streams)
+    : path_(std::move(path)),
+      options_(options),
+      streams_(streams),
+      desktop_(std::make_shared<ConsoleDesktop>()),
+      host_(xlsx::Application::Create(VersionText(options.hostVersion))) {
+  ResetSystem();
+  App.Desktop = desktop_;
+  App.Views = desktop_;
+  if (options.journal) {
+    host_->Journal().SetSink([this](std::string_view line) { streams_.out << line << '\n'; });
+  }
+  if (streams.terminal) {
+    host_->DefineMacro(kRefreshStartedMacro, [this](const auto& arguments) { ShowProgress(arguments); });
+    host_->DefineMacro(kRefreshCompleteMacro, [this](const auto&) { ClearProgress(); });
+  }
+  try {
+    host_->Open(path_);
+  } catch (const xlsx::PackageError& e) {
+    throw CantRead(path_, e.what());
+  }
+}
+
+Session::~Session() {
+  // the system's references into the host must not outlive it
+  ResetSystem();
+  App = {};
+}
+
+void Session::LoadTablesAndCharts() {
+  oApplication = host_;
+  oWorkbook = host_->ActiveWorkbook();
+  RetrieveTableDefinitions();
+  RetrieveChartDefinitions();
+}
+
+void Session::CheckWritable(const std::optional<std::string>& output) const {
+  const std::string target = output.value_or(path_);
+  const std::string lock = LockOf(fs::absolute(target));
+  if (!lock.empty() && !options_.force) {
+    throw CommandError(exit_code::kFile, "\"" + target + "\" is open in another program (\"" + lock +
+                                             "\" says so); close it there, or use --force.");
+  }
+}
+
+void Session::ShowProgress(const std::vector<runtime::Variant>& arguments) {
+  if (arguments.empty() || !colCharts) return;
+  const std::string line = "Refreshing chart " + std::to_string(++chartsStarted_) + " of " +
+                           std::to_string(colCharts->Count()) + " ...";
+  streams_.err << '\r' << line << std::flush;
+  progressWidth_ = line.size();
+}
+
+void Session::ClearProgress() {
+  if (progressWidth_ > 0) streams_.err << '\r' << std::string(progressWidth_, ' ') << '\r' << std::flush;
+  progressWidth_ = 0;
+}
+
+/// Damage makes all messages moot that it brought about.
+void Session::CheckDamage() const {
+  if (const auto& damage = host_->Book().Damage()) throw CantRead(path_, *damage);
+}
+
+int Session::ReportMessages() {
+  ClearProgress();
+  for (const std::string& message : desktop_->Messages()) streams_.err << message << '\n';
+  return desktop_->Messages().empty() ? exit_code::kDone : exit_code::kSaidSomething;
+}
+
+int Session::Save(const std::optional<std::string>& output) {
+  CheckDamage();
+  if (output || Book().Changed()) {
+    try {
+      Book().Save(output.value_or(path_));
+    } catch (const xlsx::PackageError& e) {
+      throw CommandError(exit_code::kFile, "can't save \"" + output.value_or(path_) + "\": " + e.what() +
+                                               "; nothing was changed.");
+    }
+  }
+  return ReportMessages();
+}
+
+int Session::Finish() {
+  CheckDamage();
+  return ReportMessages();
+}
+
+}  // namespace plotsmith::cli

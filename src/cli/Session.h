@@ -1,0 +1,54 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "cli/Command.h"
+#include "cli/ConsoleDesktop.h"
+#include "cli/Streams.h"
+#include "xlsx/Application.h"
+#include "xlsx/Workbook.h"
+
+namespace plotsmith::cli {
+
+/// One workbook, open in the embedded host, with the system set up to work on it.
+class Session {
+ public:
+  /// Throws a CommandError if the workbook can't be read.
+  Session(std::string path, const GlobalOptions& options, const Streams& streams);
+  ~Session();
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+  std::shared_ptr<xlsx::Application> Host() const { return host_; }
+  xlsx::Workbook& Book() const { return host_->Book(); }
+
+  /// Discovers the tables and loads the definitions, for commands that only read.
+  void LoadTablesAndCharts();
+  /// Refuses, before any work is done, to write where another program has the workbook open.
+  void CheckWritable(const std::optional<std::string>& output) const;
+  /// Ends the work: saves to `output`, or, if something changed, to where the workbook came from.
+  int Save(const std::optional<std::string>& output);
+  /// Ends the work of a command that only reads.
+  int Finish();
+
+ private:
+  void ShowProgress(const std::vector<runtime::Variant>& arguments);
+  void ClearProgress();
+  void CheckDamage() const;
+  int ReportMessages();
+
+  std::string path_;
+  const GlobalOptions& options_;
+  const Streams& streams_;
+  std::shared_ptr<ConsoleDesktop> desktop_;
+  std::shared_ptr<xlsx::Application> host_;
+  int chartsStarted_ = 0;
+  std::size_t progressWidth_ = 0;
+};
+
+/// The host's version as Excel would tell it, "16.0".
+std::string VersionText(double version);
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,24 @@
+#include "cli/Command.h"
+#include "cli/commands/Cells.h"
+#include "cli/commands/Charts.h"
+#include "cli/commands/Definition.h"
+#include "cli/commands/Format.h"
+#include "cli/commands/Refresh.h"
+#include "cli/commands/Save.h"
+#include "cli/commands/Tables.h"
+
+namespace plotsmith::cli {
+
+std::vector<std::unique_ptr<Command>> MakeCommands() {
+  std::vector<std::unique_ptr<Command>> commands;
+  commands.push_back(std::make_unique<RefreshCommand>());
+  commands.push_back(std::make_unique<TablesCommand>());
+  commands.push_back(std::make_unique<ChartsCommand>());
+  commands.push_back(std::make_unique<DefinitionCommand>());
+  commands.push_back(std::make_unique<CellsCommand>());
+  commands.push_back(std::make_unique<FormatCommand>());
+  commands.push_back(std::make_unique<SaveCommand>());
+  return commands;
+}
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,91 @@
+#include "cli/commands/Cells.h"
+
+#include <nlohmann/json.hpp>
+
+#include "cli/Session.h"
+#include "xlsx/Limits.h"
+#include "xlsx/Worksheet.h"
+
+namespace plotsmith::cli {
+namespace {
+
+using Json = nlohmann::ordered_json;
+using Kind = excel::CellValue::Kind;
+
+Json ValueOf(const excel::CellValue& value) {
+  switch (value.kind) {
+    case Kind::kEmpty:
+      return nullptr;
+    case Kind::kNumber:
+    case Kind::kDate:
+      return value.number;
+    case Kind::kBoolean:
+      return value.number != 0;
+    case Kind::kError:
+    case Kind::kText:
+      break;
+  }
+  return std::string(value.text);
+}
+
+/// A value on a line of tab-separated ones.
+std::string Flat(const Json& value) {
+  if (value.is_null()) return {};
+  if (value.is_boolean()) return value.get<bool>() ? "TRUE" : "FALSE";
+  if (value.is_number()) return runtime::NumberText(value.get<double>());
+  std::string text = value.get<std::string>();
+  for (char& c : text) {
+    if (c == '\t' || c == '\n' || c == '\r') c = ' ';
+  }
+  return text;
+}
+
+}  // namespace
+
+CLI::App* CellsCommand::Declare(CLI::App& app) {
+  CLI::App* verb = app.add_subcommand("cells", "Print the cells of a range, also of hidden sheets");
+  verb->add_option("BOOK", book_, "The workbook")->required();
+  verb->add_option("RANGE", range_, "Such as 'Sheet1!A1:D9'")->required();
+  verb->add_flag("--value", value_, "The values instead of the displayed texts");
+  verb->add_flag("--json", json_, "As JSON, a list of rows");
+  return verb;
+}
+
+int CellsCommand::Run(const GlobalOptions& options, const Streams& streams) {
+  Session session(book_, options, streams);
+  const auto range = xlsx::ParseSheetRange(range_);
+  if (!range) throw CommandError(exit_code::kUsage, "\"" + range_ + "\" is no range such as 'Sheet1!A1:D9'.");
+  const auto sheet = session.Book().FindWorksheet(range->sheet);
+  if (!sheet)
+    throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no sheet \"" + range->sheet + "\".");
+
+  Json rows = Json::array();
+  std::string scratch;
+  try {
+    // whole columns end where the sheet does
+    const auto used = sheet->UsedCells();
+    const auto lastRow = range->range.RowCount() == xlsx::limits::kRows ? used.row2 : range->range.row2;
+    const auto lastColumn =
+        range->range.ColumnCount() == xlsx::limits::kColumns ? used.column2 : range->range.column2;
+    for (std::int32_t row = range->range.row1; row <= lastRow; ++row) {
+      Json cells = Json::array();
+      for (std::int32_t column = range->range.column1; column <= lastColumn; ++column) {
+        cells.push_back(value_ ? ValueOf(sheet->CellValueAt(row, column))
+                               : Json(std::string(sheet->CellTextAt(row, column, scratch))));
+      }
+      if (json_) {
+        rows.push_back(std::move(cells));
+        continue;
+      }
+      for (std::size_t i = 0; i < cells.size(); ++i) streams.out << (i > 0 ? "\t" : "") << Flat(cells[i]);
+      streams.out << '\n';
+    }
+  } catch (const runtime::RuntimeError&) {
+    session.Finish();  // says what is damaged
+    throw;
+  }
+  if (json_) streams.out << rows.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+  return session.Finish();
+}
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "cli/Command.h"
+
+namespace plotsmith::cli {
+
+/// Prints the cells of a range, on very hidden sheets too.
+class CellsCommand final : public Command {
+ public:
+  CLI::App* Declare(CLI::App& app) override;
+  int Run(const GlobalOptions& options, const Streams& streams) override;
+
+ private:
+  std::string book_;
+  std::string range_;
+  bool value_ = false;
+  bool json_ = false;
+};
+
+}  // namespace plotsmith::cli

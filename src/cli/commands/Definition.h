@@ -1,0 +1,18 @@
+#pragma once
+
+#include "cli/Command.h"
+
+namespace plotsmith::cli {
+
+/// Prints one chart's definition, as it is after it was read back from the chart.
+class DefinitionCommand final : public Command {
+ public:
+  CLI::App* Declare(CLI::App& app) override;
+  int Run(const GlobalOptions& options, const Streams& streams) override;
+
+ private:
+  std::string book_;
+  std::string chart_;
+};
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,62 @@
+#include "cli/commands/Format.h"
+
+#include <istream>
+#include <optional>
+
+#include "runtime/Strings.h"
+#include "xlsx/NumberFormat.h"
+#include "xlsx/Xml.h"
+
+namespace plotsmith::cli {
+namespace {
+
+/// The displayed text; nothing if Excel refuses the format.
+std::optional<std::string> Shown(std::string_view code, std::string_view value, xlsx::DateSystem dates) {
+  const auto format = xlsx::NumberFormat::Parse(code);
+  if (!format) return std::nullopt;
+  std::string text;
+  if (const auto number = xlsx::xml::ParseDouble(value)) {
+    format->AppendNumber(text, *number, dates);
+  } else if (value == "TRUE" || value == "FALSE") {
+    format->AppendBoolean(text, value == "TRUE");
+  } else {
+    format->AppendText(text, value);
+  }
+  return text;
+}
+
+}  // namespace
+
+CLI::App* FormatCommand::Declare(CLI::App& app) {
+  verb_ = app.add_subcommand("format", "Show what a number format makes of a value");
+  verb_->footer("plotsmith format FORMAT VALUE\nplotsmith format --tsv < FILE");
+  verb_->add_flag("--tsv", tsv_, "Read lines of format, tab, value; write a text for each");
+  verb_->add_flag("--date1904", date1904_, "Count days from 1904");
+  verb_->allow_extras();  // FORMAT and VALUE, which may begin with a minus
+  verb_->fallthrough(false);
+  return verb_;
+}
+
+int FormatCommand::Run(const GlobalOptions&, const Streams& streams) {
+  const auto dates = date1904_ ? xlsx::DateSystem::k1904 : xlsx::DateSystem::k1900;
+  if (tsv_) {
+    for (std::string line; std::getline(streams.in, line);) {
+      if (line.ends_with('\r')) line.pop_back();
+      const auto tab = line.find('\t');
+      const std::string value = tab == std::string::npos ? std::string() : line.substr(tab + 1);
+      streams.out
+          << Shown(line.substr(0, tab), value.substr(0, value.find('\t')), dates).value_or("(invalid format)")
+          << '\n';
+    }
+    return exit_code::kDone;
+  }
+  const auto arguments = verb_->remaining();
+  if (arguments.size() != 2)
+    throw CommandError(exit_code::kUsage, "format wants FORMAT and VALUE, or --tsv.");
+  const auto text = Shown(arguments[0], arguments[1], dates);
+  if (!text) throw CommandError(exit_code::kUsage, "\"" + arguments[0] + "\" is no number format.");
+  streams.out << *text << '\n';
+  return exit_code::kDone;
+}
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "cli/Command.h"
+
+namespace plotsmith::cli {
+
+/// Shows what a number format makes of a value.
+class FormatCommand final : public Command {
+ public:
+  CLI::App* Declare(CLI::App& app) override;
+  int Run(const GlobalOptions& options, const Streams& streams) override;
+
+ private:
+  CLI::App* verb_ = nullptr;
+  bool tsv_ = false;
+  bool date1904_ = false;
+};
+
+}  // namespace plotsmith::cli
