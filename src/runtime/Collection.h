@@ -28,12 +28,6 @@ class Collection {
   T& Item(std::string_view key) { return items_[Position(key)]; }
   const T& Item(std::string_view key) const { return items_[Position(key)]; }
 
-  /// By position from 1; error 9 outside.
-  const T& Item(std::int32_t position) const {
-    if (position < 1 || position > Count()) throw RuntimeError(error::kSubscript);
-    return items_[static_cast<std::size_t>(position) - 1];
-  }
-
   void Remove(std::string_view key) {
     const std::size_t position = Position(key);
     items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(position));

@@ -155,7 +155,9 @@ SheetScanner::Piece SheetScanner::ReadPiece() {
     return Piece::kCut;
   }
   position_ = open;
-  const char* p = open + 1;
+  // "<", the prefix, "c" and what ends the name: with less, nobody could tell a cell from anything else
+  if (end_ - position_ < static_cast<std::ptrdiff_t>(prefix_.size()) + 3 && Fill()) return Piece::kTaken;
+  const char* p = position_ + 1;
   if (At(p, "c")) return ReadCell(p);
   const Tag tag = Next();  // anything else comes once a row, or less
   if (tag.kind == Kind::kEndOfInput) Damaged();

@@ -1,0 +1,199 @@
+#include <algorithm>
+
+#include "builder/AbcChart.h"
+#include "builder/BuilderVariables.h"
+#include "common/CommonFunctions.h"
+#include "common/RunVariables.h"
+#include "tests/support/HostTest.h"
+#include "xlsx/Worksheet.h"
+
+namespace plotsmith {
+namespace {
+
+using test::Definition;
+using S = std::string;
+using Lines = std::vector<std::string>;
+
+class AbcChartTest : public test::HostTest {
+ protected:
+  /// The calls on the chart during a refresh of one definition.
+  Lines ChartCalls(const Definition& definition, const S& version = "16.0") {
+    Open(test::SalesBook({definition}), version);
+    journal_.clear();
+    Refresh();
+    Lines calls;
+    std::copy_if(journal_.begin(), journal_.end(), std::back_inserter(calls),
+                 [](const S& line) { return line.starts_with("Chart."); });
+    return calls;
+  }
+};
+
+TEST_F(AbcChartTest, OrderOfCallsForABarChartWithEverything) {
+  Definition definition{"VEX_Chart1", "bar"};
+  definition.rest =
+      "<axes><axis type=\"label\" label=\"Where\"/><axis type=\"value\" label=\"\"/><axis type=\"other\" "
+      "label=\"x\"/>"
+      "<axis type=\"value\" label=\"How much\"/></axes><data-labels><data-label show=\"percentages\"/>"
+      "<data-label show=\"values\"/></data-labels><dynamic-attributes><attribute setting=\"3D\"/>"
+      "<attribute setting=\"stacked\"/></dynamic-attributes><comment>Why</comment><auto-persistence>"
+      "<persist property=\"legend-visibility\" value=\"show\"/><persist property=\"legend-position\" "
+      "value=\"-4107\"/>"
+      "<persist property=\"legend-font-size\" value=\"8pt\"/><persist property=\"legend-font-autoscale\" "
+      "value=\"maybe\"/>"
+      "<persist property=\"label-font-color\" value=\"255\"/><persist property=\"ValueAxis-font-style\" "
+      "value=\"\"/>"
+      "<persist property=\"ValueAxis-font-size\" value=\"12\"/><persist property=\"valueaxis-font-name\" "
+      "value=\"X\"/>"
+      "</auto-persistence>";
+  const Lines expected = {
+      "Chart.ChartArea.AutoScaleFont = False",
+      "Chart.ChartType = 57",
+      "Chart.SeriesCollection.NewSeries",
+      "Chart.SeriesCollection(1).Name = \"=VEX_ChartData!$C$1\"",
+      "Chart.SeriesCollection(1).XValues = \"=VEX_ChartData!R2C2:R3C2\"",
+      "Chart.SeriesCollection(1).Values = \"=VEX_ChartData!R2C3:R3C3\"",
+      "Chart.SeriesCollection.NewSeries",
+      "Chart.SeriesCollection(2).Name = \"=VEX_ChartData!$D$1\"",
+      "Chart.SeriesCollection(2).XValues = \"=VEX_ChartData!R2C2:R3C2\"",
+      "Chart.SeriesCollection(2).Values = \"=VEX_ChartData!R2C4:R3C4\"",
+      "Chart.HasTitle = True",
+      "Chart.ChartTitle.Text = \"Sales\"",
+      "Chart.HasLegend = True",
+      "Chart.Axes(2, 1).HasTitle = False",
+      "Chart.Axes(1, 1).HasTitle = False",
+      "Chart.HasAxis(1) = True",
+      "Chart.Axes(1, 1).HasTitle = True",
+      "Chart.Axes(1, 1).AxisTitle.Text = \"Where\"",
+      "Chart.Axes(1, 1).AxisTitle.Font.Size = 10",
+      "Chart.Axes(1, 1).AxisTitle.Font.Name = \"Arial\"",
+      "Chart.Axes(1, 1).AxisTitle.Font.Color = 0",
+      "Chart.Axes(1, 1).AxisTitle.Font.FontStyle = \"Bold\"",
+      "Chart.Axes(1, 1).AxisTitle.AutoScaleFont = True",
+      "Chart.HasAxis(2) = True",
+      "Chart.Axes(2, 1).HasTitle = True",
+      "Chart.Axes(2, 1).AxisTitle.Text = \"How much\"",
+      "Chart.Axes(2, 1).AxisTitle.Font.Size = 12",
+      "Chart.Axes(2, 1).AxisTitle.Font.Name = \"Arial\"",
+      "Chart.Axes(2, 1).AxisTitle.Font.Color = 0",
+      "Chart.Axes(2, 1).AxisTitle.Font.FontStyle = \"Bold\"",
+      "Chart.Axes(2, 1).AxisTitle.AutoScaleFont = True",
+      "Chart.Axes(2, 1).TickLabels.NumberFormatLinked = True",
+      "Chart.Axes(2, 1).AxisTitle.Orientation = -4128",
+      "Chart.Axes(1, 1).AxisTitle.Orientation = -4171",
+      "Chart.SeriesCollection(1).ApplyDataLabels(2)",
+      "Chart.SeriesCollection(1).DataLabels.Position = -4108",
+      "Chart.SeriesCollection(1).DataLabels.AutoScaleFont = True",
+      "Chart.SeriesCollection(1).DataLabels.Font.Name = \"Arial\"",
+      "Chart.SeriesCollection(1).DataLabels.Font.FontStyle = \"Regular\"",
+      "Chart.SeriesCollection(1).DataLabels.Font.Size = 9",
+      "Chart.SeriesCollection(1).DataLabels.Font.Color = \"255\"",
+      "Chart.SeriesCollection(2).ApplyDataLabels(2)",
+      "Chart.SeriesCollection(2).DataLabels.Position = -4108",
+      "Chart.SeriesCollection(2).DataLabels.AutoScaleFont = True",
+      "Chart.SeriesCollection(2).DataLabels.Font.Name = \"Arial\"",
+      "Chart.SeriesCollection(2).DataLabels.Font.FontStyle = \"Regular\"",
+      "Chart.SeriesCollection(2).DataLabels.Font.Size = 9",
+      "Chart.SeriesCollection(2).DataLabels.Font.Color = \"255\"",
+      "Chart.ChartType = 61",
+      "Chart.HasLegend = True",
+      "Chart.Legend.Font.Name = \"Arial\"",
+      "Chart.Legend.Font.Size = 8",
+      "Chart.Legend.Font.FontStyle = \"Regular\"",
+      "Chart.Legend.Font.Color = 0",
+      "Chart.Legend.AutoScaleFont = False",
+      "Chart.Legend.Position = -4107",
+  };
+  EXPECT_EQ(ChartCalls(definition), expected);
+  EXPECT_TRUE(Messages().empty());
+  EXPECT_NE(std::find(journal_.begin(), journal_.end(),
+                      "Sheets(\"Charts\").Shapes.AddTextbox(1, 379, 5, 180, 120)"),
+            journal_.end());
+}
+
+TEST_F(AbcChartTest, WhatAreaAndColumnChartsDoOtherwise) {
+  for (const char* type : {"area", "column"}) {
+    Definition definition{"VEX_Chart1", type, "table-id=\"Data1\""};
+    definition.series = "<series headings-in=\"none\"/>";
+    definition.rest =
+        "<axes><axis type=\"value\" label=\"V\"/><axis type=\"label\" label=\"L\"/></axes><auto-persistence>"
+        "<persist property=\"legend-visibility\" value=\"hide\"/></auto-persistence>";
+    const Lines calls = ChartCalls(definition, "11.0");
+    const auto has = [&](const S& line) {
+      return std::find(calls.begin(), calls.end(), line) != calls.end();
+    };
+    EXPECT_TRUE(has("Chart.SeriesCollection(1).Name = \"=VEX_ChartData!R1C3\"")) << "up to version 11";
+    EXPECT_TRUE(has("Chart.HasTitle = False"));
+    EXPECT_TRUE(has("Chart.Axes(2, 1).AxisTitle.Orientation = -4171"));
+    EXPECT_TRUE(has("Chart.Axes(1, 1).AxisTitle.Orientation = -4128"));
+    ASSERT_GE(calls.size(), 2u);
+    EXPECT_EQ(calls[calls.size() - 2], type == S("area") ? "Chart.ChartType = 1" : "Chart.ChartType = 51");
+    EXPECT_EQ(calls.back(), "Chart.HasLegend = False");
+    EXPECT_EQ(std::count(journal_.begin(), journal_.end(), "Application.Interactive = False"), 2)
+        << "the direct road switches the user off, and the guard has tried the switch";
+  }
+}
+
+TEST_F(AbcChartTest, SettingsMakeTheType) {
+  const auto settings = [](std::initializer_list<const char*> names) {
+    S xml = "<dynamic-attributes>";
+    for (const char* name : names) xml += "<attribute setting=\"" + S(name) + "\"/>";
+    return xml + "</dynamic-attributes>";
+  };
+  const S plain = settings({}), d3 = settings({"3D"}), st = settings({"stacked"}),
+          d3st = settings({"3D", "stacked"}), full = settings({"stacked", "100%"}),
+          d3full = settings({"3D", "stacked", "100%"});
+  const std::tuple<const char*, S, int> cases[] = {{"area", plain, 1},
+                                                   {"area", d3, -4098},
+                                                   {"area", st, 76},
+                                                   {"area", d3st, 78},
+                                                   {"area", full, 77},
+                                                   {"area", d3full, 79},
+                                                   {"bar", plain, 57},
+                                                   {"bar", d3, 60},
+                                                   {"bar", st, 58},
+                                                   {"bar", d3st, 61},
+                                                   {"bar", full, 59},
+                                                   {"bar", d3full, 62},
+                                                   {"column", plain, 51},
+                                                   {"column", d3, 54},
+                                                   {"column", st, 52},
+                                                   {"column", d3st, 55},
+                                                   {"column", full, 53},
+                                                   {"column", d3full, 56},
+                                                   {"area", settings({"100%"}), 51},
+                                                   {"bar", settings({"3D", "100%"}), 51},
+                                                   {"bar", settings({"stacked", "stacked"}), 51},
+                                                   {"column", settings({"3d", "Stacked"}), 51}};
+  for (const auto& [type, xml, number] : cases) {
+    Definition definition{"VEX_Chart1", type};
+    definition.rest = xml;
+    const Lines calls = ChartCalls(definition);
+    EXPECT_EQ(calls.back(), "Chart.ChartType = " + std::to_string(number)) << type << xml;
+    EXPECT_TRUE(Messages().empty());
+  }
+}
+
+TEST_F(AbcChartTest, ColumnsBehindThe78thKeepTheNameBefore) {
+  test::PlainBook book = test::SalesBook({});
+  Open(book);
+  auto document = NewXMLDocument();
+  ASSERT_TRUE(document.loadXML("<chart data-start-row=\"5\"/>"));
+  mCategoryCount = 12;
+  mSeriesCount = 77;
+  Book().AddWorksheet(0)->SetName("VEX_ChartData");
+  mChart = oWorkbook->Worksheets()->Item("Data1")->ChartObjects()->Add(0, 0, 100, 100)->Chart();
+  journal_.clear();
+  PopulateABCChart(document.documentElement());
+  Lines names;
+  std::copy_if(journal_.begin(), journal_.end(), std::back_inserter(names),
+               [](const S& line) { return line.find(".Name = ") != S::npos; });
+  ASSERT_EQ(names.size(), 77u);
+  const std::pair<std::size_t, const char*> expected[] = {{0, "C"},   {23, "Z"},  {24, "AA"}, {49, "AZ"},
+                                                          {50, "BA"}, {75, "BZ"}, {76, "BZ"}};
+  for (const auto& [index, letters] : expected) {
+    EXPECT_TRUE(names[index].ends_with("\"=VEX_ChartData!$" + S(letters) + "$5\"")) << names[index];
+  }
+}
+
+}  // namespace
+}  // namespace plotsmith

@@ -1,0 +1,81 @@
+#include <gtest/gtest.h>
+
+#include "dom/Dom.h"
+#include "dom/XmlDepth.h"
+#include "runtime/RuntimeError.h"
+
+namespace plotsmith::dom {
+namespace {
+
+TEST(DomTest, WhatDoesNotParseLeavesAnEmptyDocument) {
+  auto document = IXMLDOMDocument2::Create();
+  ASSERT_TRUE(document.loadXML("<!-- c --><chart a='1'/>"));
+  EXPECT_EQ(document.documentElement().nodeName(), "chart");
+  for (const char* xml : {"", "text", "<a>", "<a/><b/>", "<a></b>", "</a>"}) {
+    EXPECT_FALSE(document.loadXML(xml)) << xml;
+    EXPECT_FALSE(document.documentElement()) << xml;
+  }
+  std::string deep;
+  for (int i = 0; i < 100000; ++i) deep += "<a>";
+  EXPECT_FALSE(document.loadXML(deep)) << "a tree that deep can't even be taken down";
+}
+
+TEST(DomTest, TextsAndAttributesSurviveARoundTrip) {
+  auto document = IXMLDOMDocument2::Create();
+  auto chart = document.createElement("chart");
+  chart.setAttribute("title", "a < b & \"c\"\n\t d");
+  chart.setAttribute("number", 2.5);
+  auto comment = document.createElement("comment");
+  comment.appendChild(document.createTextNode("  two\r\nlines "));
+  chart.appendChild(comment);
+  document.appendChild(chart);
+
+  auto again = IXMLDOMDocument2::Create();
+  ASSERT_TRUE(again.loadXML(document.xml()));
+  const auto root = again.selectSingleNode("chart");
+  EXPECT_EQ(root.getAttribute("title"), runtime::Variant("a < b & \"c\"\n\t d"));
+  EXPECT_EQ(root.getAttribute("number"), runtime::Variant("2.5"));
+  EXPECT_TRUE(root.getAttribute("absent").IsNull());
+  EXPECT_EQ(root.selectSingleNode("comment").firstChild().nodeValue(), "  two\nlines ") << "line ends fold";
+}
+
+TEST(DomTest, NodesMoveBetweenTreesAndOut) {
+  auto first = IXMLDOMDocument2::Create(), second = IXMLDOMDocument2::Create();
+  ASSERT_TRUE(first.loadXML("<t><c n='1'/><x><c n='2'/></x></t>"));
+  auto root = second.createElement("t");
+  second.appendChild(root);
+  auto column = first.createElement("c");
+  column.setAttribute("n", "3");
+  root.appendChild(column);
+  column.setAttribute("n", "4");  // the handle follows into the other document
+  EXPECT_EQ(second.xml(), "<t><c n=\"4\"/></t>");
+
+  auto loose = first.createElement("c");
+  EXPECT_EQ(first.selectNodes("//c").size(), 2u) << "what is in no tree isn't found";
+  auto x = first.selectSingleNode("t/x");
+  first.documentElement().removeChild(x);
+  EXPECT_EQ(first.xml(), "<t><c n=\"1\"/></t>");
+  EXPECT_EQ(x.selectNodes("c").size(), 1u) << "a removed node is still whole";
+  EXPECT_THROW(first.documentElement().removeChild(loose), runtime::RuntimeError);
+}
+
+TEST(DomTest, NothingIsError91) {
+  const IXMLDOMElement nothing = IXMLDOMDocument2::Create().selectSingleNode("chart");
+  EXPECT_FALSE(nothing);
+  try {
+    static_cast<void>(nothing.getAttribute("id"));
+    FAIL();
+  } catch (const runtime::RuntimeError& e) {
+    EXPECT_EQ(e.Number(), runtime::error::kObjectNotSet);
+  }
+}
+
+TEST(XmlDepthTest, CountsElementsAndNothingElse) {
+  EXPECT_FALSE(NestsDeeperThan("<a><b/><b x='>'/><!-- <c> --><![CDATA[<d>]]><?p <e>?></a>", 1));
+  EXPECT_TRUE(NestsDeeperThan("<a><b></b></a>", 1));
+  EXPECT_FALSE(NestsDeeperThan("<a></a><a></a>", 1));
+  EXPECT_FALSE(NestsDeeperThan("<a <", 0));
+}
+
+}  // namespace
+}  // namespace plotsmith::dom

@@ -1,0 +1,105 @@
+#include <gtest/gtest.h>
+
+#include "runtime/RuntimeError.h"
+#include "runtime/Variant.h"
+
+namespace plotsmith::runtime {
+namespace {
+
+/// The number of the error that a conversion ends in, 0 for none.
+template <class Convert>
+int ErrorOf(Convert&& convert) {
+  try {
+    convert();
+    return 0;
+  } catch (const RuntimeError& e) {
+    return e.Number();
+  }
+}
+
+TEST(VariantTest, NumbersAsText) {
+  const std::pair<double, const char*> cases[] = {{0, "0"},
+                                                  {-0.0, "0"},
+                                                  {1, "1"},
+                                                  {-12.5, "-12.5"},
+                                                  {0.1 + 0.2, "0.3"},
+                                                  {1.0 / 3, "0.333333333333333"},
+                                                  {2.0 / 3, "0.666666666666667"},
+                                                  {1e14, "100000000000000"},
+                                                  {1e15, "1E+15"},
+                                                  {123456789012345678, "1.23456789012346E+17"},
+                                                  {-1e50, "-1E+50"},
+                                                  {0.0001, "0.0001"},
+                                                  {0.00001, "0.00001"},
+                                                  {1e-15, "0.000000000000001"},
+                                                  {1e-16, "1E-16"},
+                                                  {1.0 / 3e5, "3.33333333333333E-06"},
+                                                  {1e100, "1E+100"}};
+  for (const auto& [value, text] : cases) EXPECT_EQ(CStr(value), text);
+}
+
+TEST(VariantTest, TextsAsNumbers) {
+  const std::pair<const char*, double> cases[] = {
+      {"12", 12},     {" 12 ", 12},        {"-1.5", -1.5}, {"1.5-", -1.5}, {"+.5", 0.5},
+      {"5.", 5},      {"1,234.5", 1234.5}, {"1,2,3", 123}, {"$5", 5},      {"-$5", -5},
+      {"(5)", -5},    {"($ 5 )", -5},      {"1e3", 1000},  {"1D-2", 0.01}, {"&HFF", 255},
+      {"&HFFFF", -1}, {"&O17", 15},        {"5$", 5},      {"1E-400", 0}};
+  for (const auto& [text, value] : cases) {
+    EXPECT_TRUE(IsNumeric(Variant(text))) << text;
+    EXPECT_EQ(CDbl(text), value) << text;
+  }
+  for (const char* text :
+       {"",  " ",  "abc", "5%",     "1.2.3", "--5",  "(5",   "5)",       "1e",  "1 2", ",5",
+        "$", "&H", "&HG", "1E+400", "12x",   "True", "0x10", "1/2/2020", "inf", "nan"}) {
+    EXPECT_FALSE(IsNumeric(Variant(text))) << text;
+    EXPECT_EQ(ErrorOf([&] { CDbl(text); }), error::kTypeMismatch) << text;
+  }
+}
+
+TEST(VariantTest, ConversionsOfOtherTypes) {
+  EXPECT_EQ(CDbl(Variant()), 0);
+  EXPECT_EQ(CStr(Variant()), "");
+  EXPECT_EQ(CDbl(true), -1);
+  EXPECT_EQ(CStr(true), "True");
+  EXPECT_EQ(CDbl(Variant::Date{43831.5}), 43831.5);
+  EXPECT_EQ(CStr(Variant::Date{43831}), "1/1/2020");
+  EXPECT_EQ(CStr(Variant::Date{43831.75}), "1/1/2020 6:00:00 PM");
+  for (const auto& value : {kNull, Variant(Variant::Error{2007})}) {
+    const int number = value.IsNull() ? error::kInvalidNull : error::kTypeMismatch;
+    EXPECT_EQ(ErrorOf([&] { CStr(value); }), number);
+    EXPECT_EQ(ErrorOf([&] { CDbl(value); }), number);
+    EXPECT_EQ(ErrorOf([&] { CLng(value); }), number);
+    EXPECT_FALSE(IsNumeric(value));
+  }
+  EXPECT_TRUE(IsNumeric(Variant()));
+  EXPECT_TRUE(IsNumeric(Variant(false)));
+  EXPECT_FALSE(IsNumeric(Variant(Variant::Date{1}))) << "a date is no number, though it converts to one";
+}
+
+TEST(VariantTest, WholeNumbersRoundHalvesToEven) {
+  const std::pair<double, int> cases[] = {{0.5, 0},  {1.5, 2},   {2.5, 2},
+                                          {-0.5, 0}, {-1.5, -2}, {2147483647.4, 2147483647}};
+  for (const auto& [value, whole] : cases) EXPECT_EQ(CLng(value), whole) << value;
+  EXPECT_EQ(ErrorOf([] { CLng(2147483647.5); }), error::kOverflow);
+  EXPECT_EQ(ErrorOf([] { CLng("ten"); }), error::kTypeMismatch);
+  EXPECT_EQ(CLng(" 7 "), 7);
+}
+
+TEST(VariantTest, Booleans) {
+  for (const char* text : {"True", "tRUE", "#TRUE#", "1", "-0.5"}) EXPECT_TRUE(CBool(text)) << text;
+  for (const char* text : {"False", "FALSE", "0", "#FALSE#"}) EXPECT_FALSE(CBool(text)) << text;
+  for (const char* text : {"yes", "", "T"})
+    EXPECT_EQ(ErrorOf([&] { CBool(text); }), error::kTypeMismatch) << text;
+}
+
+TEST(VariantTest, ValTakesTheNumberInFront) {
+  const std::pair<const char*, double> cases[] = {
+      {"11.0", 11},   {"16.0.1234", 16}, {"9pt", 9},   {" 1 2 3 ", 123}, {"-3.5e2x", -350}, {"1e", 1},
+      {"1d2", 100},   {"abc", 0},        {"", 0},      {"$5", 0},        {"1,5", 1},        {".5.5", 0.5},
+      {"&HFFx", 255}, {"-1E+50", -1e50}, {"\t7\n", 7}, {"-", 0}};
+  for (const auto& [text, value] : cases) EXPECT_EQ(Val(std::string_view(text)), value) << text;
+  EXPECT_EQ(Val(Variant(2.25)), 2.25);
+}
+
+}  // namespace
+}  // namespace plotsmith::runtime

@@ -1,0 +1,117 @@
+#include "tests/support/HostTest.h"
+
+#include <unistd.h>
+
+#include "builder/BuilderVariables.h"
+#include "common/App.h"
+#include "common/CommonFunctions.h"
+#include "common/RunVariables.h"
+#include "controller/CPlotsmithController.h"
+#include "xlsx/Worksheet.h"
+
+namespace plotsmith::test {
+
+TempFolder::TempFolder() {
+  std::string name = (std::filesystem::temp_directory_path() / "plotsmith-XXXXXX").string();
+  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
+  path_ = name;
+}
+
+TempFolder::~TempFolder() {
+  std::error_code ignored;
+  std::filesystem::remove_all(path_, ignored);
+}
+
+HostTest::HostTest() : desktop_(std::make_shared<cli::ConsoleDesktop>()) {
+  ResetRunVariables();
+  ResetBuilderVariables();
+  ResetYield();
+  App = {"", desktop_, desktop_};
+}
+
+HostTest::~HostTest() {
+  ResetRunVariables();
+  ResetBuilderVariables();
+  App = {};
+}
+
+void HostTest::Start(const std::string& version) {
+  ResetRunVariables();
+  ResetBuilderVariables();
+  host_ = xlsx::Application::Create(version);
+  host_->Journal().SetSink([this](std::string_view line) { journal_.emplace_back(line); });
+}
+
+xlsx::Workbook& HostTest::OpenFile(const std::string& path, const std::string& version) {
+  Start(version);
+  host_->Open(path);
+  oApplication = host_;
+  oWorkbook = host_->ActiveWorkbook();
+  return Book();
+}
+
+xlsx::Workbook& HostTest::Open(const PlainBook& book, const std::string& version) {
+  book.Write(folder_ / "book.xlsx");
+  return OpenFile(folder_ / "book.xlsx", version);
+}
+
+void HostTest::Refresh() { CPlotsmithController().RefreshPlotsmithData(host_, "Test", ""); }
+
+xlsx::Workbook& HostTest::SaveAndReopen() {
+  Book().Save(folder_ / "saved.xlsx");
+  const std::string version = host_->Version();
+  return OpenFile(folder_ / "saved.xlsx", version);
+}
+
+std::string HostTest::SavedPart(const std::string& part) const {
+  return xlsx::Package::Open(folder_ / "saved.xlsx").Read(part);
+}
+
+std::string HostTest::Cells(const std::string& sheet, int row1, int column1, int row2, int column2) {
+  const auto worksheet = Book().FindWorksheet(sheet);
+  if (!worksheet) return "no sheet " + sheet;
+  std::string text, scratch;
+  for (int row = row1; row <= row2; ++row) {
+    if (row > row1) text += '\n';
+    for (int column = column1; column <= column2; ++column) {
+      if (column > column1) text += '|';
+      text += worksheet->CellTextAt(row, column, scratch);
+    }
+  }
+  return text;
+}
+
+PlainSheet SalesSheet(const std::string& name) {
+  using S = std::string;
+  PlainSheet sheet;
+  sheet.name = name;
+  sheet.rows = {{S("Region"), S("Product"), S("Amount"), S("Cost")},
+                {S("East"), S("Widget"), 10.0, 7.5},
+                {S("West"), S("Widget"), 5.0, 4.0},
+                {S("East"), S("Gadget"), 7.0, 5.0},
+                {S("east"), S("Widget"), 1.0, 0.5}};
+  return sheet;
+}
+
+std::string Definition::Xml() const {
+  return "<chart id=\"" + id + "\" name=\"Name of " + id + "\" type=\"" + type + "\" " + attributes + ">" +
+         categories + series + values + rest + "</chart>";
+}
+
+PlainBook SalesBook(const std::vector<Definition>& definitions) {
+  PlainBook book;
+  book.sheets.push_back(SalesSheet());
+  PlainSheet charts;
+  charts.name = "Charts";
+  std::vector<std::string> xml;
+  for (const Definition& definition : definitions) {
+    const int place = static_cast<int>(charts.frames.size());
+    charts.frames.push_back({definition.id, "", (place % 3) * 9, (place / 3) * 20});
+    xml.push_back(definition.Xml());
+  }
+  book.sheets.push_back(std::move(charts));
+  book.AddDefinitions(xml);
+  return book;
+}
+
+}  // namespace plotsmith::test

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "cli/ConsoleDesktop.h"
+#include "tests/support/PlainBook.h"
+#include "xlsx/Application.h"
+#include "xlsx/Package.h"
+#include "xlsx/Workbook.h"
+
+namespace plotsmith::test {
+
+/// A folder of its own for one test, gone afterwards.
+class TempFolder {
+ public:
+  TempFolder();
+  ~TempFolder();
+  std::string operator/(const std::string& name) const { return (path_ / name).string(); }
+  const std::filesystem::path& Path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+/// A test of the system on the embedded host: before each case all module variables are as the component
+/// starts.
+class HostTest : public ::testing::Test {
+ protected:
+  HostTest();
+  ~HostTest() override;
+
+  /// Writes the book and opens it as the active workbook, with the run variables set to it.
+  xlsx::Workbook& Open(const PlainBook& book, const std::string& version = "16.0");
+  xlsx::Workbook& OpenFile(const std::string& path, const std::string& version = "16.0");
+  /// Runs the refresh of all charts, as a host add-in would.
+  void Refresh();
+  /// Saves to a file, opens it again, and makes it the active workbook.
+  xlsx::Workbook& SaveAndReopen();
+
+  xlsx::Workbook& Book() { return host_->Book(); }
+  const std::vector<std::string>& Messages() const { return desktop_->Messages(); }
+  /// The text of a part of the saved file.
+  std::string SavedPart(const std::string& part) const;
+  /// Displayed texts of a range, rows by "\n", cells by "|".
+  std::string Cells(const std::string& sheet, int row1, int column1, int row2, int column2);
+
+  TempFolder folder_;
+  std::shared_ptr<cli::ConsoleDesktop> desktop_;
+  std::shared_ptr<xlsx::Application> host_;
+  std::vector<std::string> journal_;
+
+ private:
+  void Start(const std::string& version);
+};
+
+/// A sales table on a sheet named Data1, of the usual columns Region, Product, Amount and Cost.
+PlainSheet SalesSheet(const std::string& name = "Data1");
+
+/// A chart definition with the parts that most cases want; replace what a case is about.
+struct Definition {
+  std::string id = "VEX_Chart1";
+  std::string type = "column";
+  std::string attributes = "table-id=\"Data1\" title=\"Sales\"";
+  std::string categories = "<categories headings-in=\"rows\"><column name=\"Region\"/></categories>";
+  std::string series = "<series headings-in=\"rows\"><column name=\"Product\"/></series>";
+  std::string values = "<values><column name=\"Amount\"/></values>";
+  std::string rest;
+
+  std::string Xml() const;
+};
+
+/// A sheet of data, a sheet with one empty frame for each definition, and the definitions.
+PlainBook SalesBook(const std::vector<Definition>& definitions);
+
+}  // namespace plotsmith::test

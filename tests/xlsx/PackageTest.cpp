@@ -1,0 +1,154 @@
+#include <fstream>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "tests/support/HostTest.h"
+#include "xlsx/CellText.h"
+#include "xlsx/Package.h"
+#include "xlsx/PackageError.h"
+#include "xlsx/Xml.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+using S = std::string;
+
+TEST(PackageTest, TargetsAreResolvedInsideThePackage) {
+  const std::tuple<const char*, const char*, const char*> cases[] = {
+      {"/xl/workbook.xml", "worksheets/sheet1.xml", "/xl/worksheets/sheet1.xml"},
+      {"/xl/worksheets/sheet1.xml", "../drawings/drawing1.xml", "/xl/drawings/drawing1.xml"},
+      {"", "xl/workbook.xml", "/xl/workbook.xml"},
+      {"/xl/workbook.xml", "/xl/styles.xml", "/xl/styles.xml"},
+      {"/xl/a.xml", ".\\b%20c.xml#d", "/xl/b c.xml"},
+      {"/xl/a.xml", "../../etc/passwd", ""},
+      {"/xl/a.xml", "../../xl/b.xml", ""}};
+  for (const auto& [source, target, resolved] : cases)
+    EXPECT_EQ(ResolveTarget(source, target), resolved) << target;
+  EXPECT_EQ(RelativeTarget("/xl/worksheets/sheet1.xml", "/xl/drawings/d.xml"), "../drawings/d.xml");
+  EXPECT_EQ(RelativeTarget("", "/xl/workbook.xml"), "xl/workbook.xml");
+  EXPECT_EQ(RelativeTarget("/a/b/c.xml", "/x/y.xml"), "../../x/y.xml");
+}
+
+class PackageFileTest : public ::testing::Test {
+ protected:
+  S Book() {
+    test::PlainBook book;
+    book.sheets = {test::SalesSheet()};
+    S noise;
+    for (unsigned i = 0, x = 1; i < 10000; ++i) noise += static_cast<char>((x = x * 1664525 + 1013904223) >> 24);
+    book.extraParts = {{"xl/media/noise.bin", noise}};
+    book.Write(folder_ / "book.xlsx");
+    return folder_ / "book.xlsx";
+  }
+  test::TempFolder folder_;
+};
+
+TEST_F(PackageFileTest, UntouchedPartsKeepTheirBytesOrderAndNames) {
+  Package package = Package::Open(Book());
+  const auto before = package.Parts();
+  package.Replace("/XL/Workbook.xml", "<workbook/>");  // names ignore case
+  package.Add("/xl/new.xml", "application/x-new", "<new/>");
+  const S id = package.AddRelationship("/xl/workbook.xml", "http://x/new", "/xl/new.xml");
+  package.Save(folder_ / "out.xlsx");
+
+  const Package again = Package::Open(folder_ / "out.xlsx");
+  const Package original = Package::Open(folder_ / "book.xlsx");
+  auto after = again.Parts();
+  EXPECT_EQ(after.back(), "/xl/new.xml");
+  after.pop_back();
+  EXPECT_EQ(after, before);
+  for (const S& part : before) {
+    const bool touched =
+        part == "/xl/workbook.xml" || part == "/[Content_Types].xml" || part == "/xl/_rels/workbook.xml.rels";
+    EXPECT_EQ(again.Read(part) == original.Read(part), !touched) << part;
+  }
+  EXPECT_EQ(again.ContentType("/xl/new.xml"), "application/x-new");
+  EXPECT_EQ(again.FindRelationship("/xl/workbook.xml", id)->target, "/xl/new.xml");
+  EXPECT_EQ(again.FindRelationship("/xl/workbook.xml", id)->type, "new");
+}
+
+TEST_F(PackageFileTest, TheFileIsReplacedWholeOrNotAtAll) {
+  const S path = Book();
+  chmod(path.c_str(), 0640);
+  symlink(path.c_str(), (folder_ / "link.xlsx").c_str());
+  Package::Open(path).Save(folder_ / "link.xlsx");
+  struct stat status {};
+  ASSERT_EQ(lstat((folder_ / "link.xlsx").c_str(), &status), 0);
+  EXPECT_TRUE(S_ISLNK(status.st_mode)) << "a link keeps pointing";
+  ASSERT_EQ(stat(path.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777, 0640u);
+
+  Package package = Package::Open(path);
+  mkfifo((folder_ / "pipe").c_str(), 0600);
+  for (const S& bad : {folder_ / "no/such/folder/x.xlsx", folder_.Path().string(), folder_ / "pipe"}) {
+    EXPECT_THROW(package.Save(bad), PackageError) << bad;
+  }
+  std::size_t files = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(folder_.Path()))
+    files += entry.symlink_status().type() == std::filesystem::file_type::regular;
+  EXPECT_EQ(files, 1u) << "nothing is left behind";
+}
+
+TEST_F(PackageFileTest, DamageIsFoundWhereItLies) {
+  const S path = Book();
+  std::ifstream in(path, std::ios::binary);
+  S bytes((std::istreambuf_iterator<char>(in)), {});
+  const auto write = [&](const S& changed) {
+    std::ofstream(folder_ / "bad.xlsx", std::ios::binary) << changed;
+    return folder_ / "bad.xlsx";
+  };
+  EXPECT_THROW(Package::Open(write("")), PackageError);
+  EXPECT_THROW(Package::Open(write("no zip at all")), PackageError);
+  EXPECT_THROW(Package::Open(write(bytes.substr(0, bytes.size() / 2))), PackageError);
+  // one byte of one part's data: the part is damaged, the others are not
+  S flipped = bytes;
+  const auto data = flipped.find("xl/media/noise.bin") + 18 + 20;
+  flipped[data] = static_cast<char>(flipped[data] ^ 0x55);
+  const Package package = Package::Open(write(flipped));
+  EXPECT_NO_THROW(package.Read("/xl/workbook.xml"));
+  try {
+    package.Read("/xl/media/noise.bin");
+    FAIL();
+  } catch (const PackageError& e) {
+    EXPECT_TRUE(S(e.what()).starts_with("its part /xl/media/noise.bin can't be read: ")) << e.what();
+  }
+  EXPECT_THROW(package.Read("/xl/none.xml"), PackageError);
+}
+
+TEST_F(PackageFileTest, BombsAreRefusedBeforeTheyGoOff) {
+  ArchiveWriter writer(folder_ / "bomb.xlsx");
+  const S blanks(64 << 20, ' ');
+  writer.Add("[Content_Types].xml", "<Types/>");
+  writer.Add("xl/blanks.xml", blanks);
+  writer.Finish();
+  const Package package = Package::Open(folder_ / "bomb.xlsx");
+  EXPECT_THROW(package.Read("/xl/blanks.xml"), PackageError);
+  EXPECT_THROW(package.Stream("/xl/blanks.xml"), PackageError);
+}
+
+TEST(XmlTest, WhatIsNotTouchedGoesOutAsItCame) {
+  for (const S& text : {S("<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?><a x=\"1 &lt; &#10; "
+                          "&apos;\">&#13;\r\n &amp; <b/>\t<!-- c --><?p q?><![CDATA[<]]> </a>"),
+                        S("<a><b xml:space=\"preserve\">  </b></a>")}) {
+    pugi::xml_document document;
+    xml::Parse(document, text);
+    EXPECT_EQ(xml::Serialize(document), text);
+  }
+  pugi::xml_document document;
+  xml::Parse(document, "<a x='say \"hi\"'/>");
+  EXPECT_EQ(xml::Serialize(document), "<a x=\"say &quot;hi&quot;\"/>");
+  EXPECT_EQ(xml::Attribute(xml::Root(document), "x"), "say \"hi\"");
+  for (const char* bad : {"", "<a>", "text", "<a><b></a>"})
+    EXPECT_THROW(xml::Parse(document, bad), PackageError) << bad;
+}
+
+TEST(XmlTest, ValuesPassThroughBothWays) {
+  const S value = "a<b>&\"c'\r\n\td\x01";
+  EXPECT_EQ(xml::Decode(xml::EncodeText(value)), "a<b>&\"c'\r\n\td") << "what XML can't hold goes";
+  EXPECT_EQ(xml::Decode(xml::EncodeAttribute(value)), "a<b>&\"c'\r\n\td");
+  EXPECT_EQ(xml::Decode("&#x20AC;&#8364;&lt;&unknown;&;&#xFFFFFFF;&"), "€€<&unknown;&;&#xFFFFFFF;&");
+  EXPECT_EQ(DecodeEscapes(xml::Decode(EncodeCellText("x\r\n\x01_x0041_"))), "x\r\n\x01_x0041_");
+}
+
+}  // namespace
+}  // namespace plotsmith::xlsx
