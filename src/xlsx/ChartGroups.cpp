@@ -66,12 +66,14 @@ void LayTypeAside(ChartPart& part, pugi::xml_node group) {
   }
 }
 
-std::string FreeAxisId(pugi::xml_node plotArea) {
+/// The number wanted or, if that is empty or some axis has it, one that none has.
+std::string FreeAxisId(pugi::xml_node plotArea, const std::string& wanted = {}) {
   std::set<std::string> taken;
   for (const pugi::xml_node& axis : plotArea.children()) {
     if (schema::IsAxis(axis)) taken.insert(AxisId(axis));
   }
-  long long id = 111111111;  // any number will do that no other axis of the chart has
+  if (!wanted.empty() && !taken.contains(wanted)) return wanted;
+  long long id = 111111111;
   while (taken.contains(std::to_string(id))) ++id;
   return std::to_string(id);
 }
@@ -150,8 +152,9 @@ void ArrangeAxes(pugi::xml_node plotArea, pugi::xml_node group, const std::vecto
   if (type.HasDepthAxis()) {
     if (!depth) {
       const auto laidAside = schema::Find(state, "serAx");
+      const std::string id = FreeAxisId(plotArea, AxisId(laidAside));
       depth = laidAside ? schema::InsertCopy(plotArea, laidAside) : NewAxis(plotArea, "serAx");
-      if (laidAside) schema::SetVal(depth, "axId", FreeAxisId(plotArea));
+      schema::SetVal(depth, "axId", id);
     }
     schema::SetVal(depth, "crossAx", AxisId(category));
     link(AxisId(depth));

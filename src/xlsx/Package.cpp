@@ -90,6 +90,7 @@ Package Package::Open(const std::string& path) {
     auto part = std::make_unique<Part>();
     part->name = (entries[i].name.starts_with('/') ? "" : "/") + entries[i].name;
     part->entry = i;
+    if (entries[i].encrypted) throw PartError(part->name, "it is encrypted");
     if (!package.byName_.emplace(Folded(part->name), part.get()).second) {
       throw PackageError("it holds two parts of the name " + part->name);
     }

@@ -35,7 +35,8 @@ class PackageFileTest : public ::testing::Test {
     test::PlainBook book;
     book.sheets = {test::SalesSheet()};
     S noise;
-    for (unsigned i = 0, x = 1; i < 10000; ++i) noise += static_cast<char>((x = x * 1664525 + 1013904223) >> 24);
+    for (unsigned i = 0, x = 1; i < 10000; ++i)
+      noise += static_cast<char>((x = x * 1664525 + 1013904223) >> 24);
     book.extraParts = {{"xl/media/noise.bin", noise}};
     book.Write(folder_ / "book.xlsx");
     return folder_ / "book.xlsx";

@@ -1,0 +1,179 @@
+#include <fstream>
+#include <sstream>
+
+#include "cli/CommandLine.h"
+#include "cli/Session.h"
+#include "tests/support/HostTest.h"
+
+namespace plotsmith::cli {
+namespace {
+
+using test::SalesBook;
+using S = std::string;
+
+class CommandTest : public ::testing::Test {
+ protected:
+  struct Result {
+    int code;
+    S out, err;
+  };
+  Result Run(std::vector<S> arguments, const S& input = "", bool terminal = false) {
+    std::istringstream in(input);
+    std::ostringstream out, err;
+    const int code = RunCommandLine(std::move(arguments), {in, out, err, terminal});
+    return {code, out.str(), err.str()};
+  }
+  S Write(const test::PlainBook& book, const S& name = "book.xlsx") {
+    book.Write(folder_ / name);
+    return folder_ / name;
+  }
+  static S Bytes(const S& path) {
+    std::ifstream file(path, std::ios::binary);
+    return S((std::istreambuf_iterator<char>(file)), {});
+  }
+  test::TempFolder folder_;
+};
+
+TEST_F(CommandTest, RefreshSaysNothingWhenAllIsWell) {
+  const S book = Write(SalesBook({{"VEX_Chart1"}}));
+  const S before = Bytes(book);
+  const Result refreshed = Run({"refresh", book, "-o", folder_ / "out.xlsx"});
+  EXPECT_EQ(refreshed.code, 0) << refreshed.err;
+  EXPECT_EQ(refreshed.out + refreshed.err, "");
+  EXPECT_EQ(Bytes(book), before) << "with -o the workbook itself stays";
+  EXPECT_EQ(Run({"cells", folder_ / "out.xlsx", "VEX_ChartData!A1:D3"}).out,
+            "VEX_Chart1\t\tWidget\tGadget\nVEX_Chart1\tEast\t11\t7\nVEX_Chart1\tWest\t5\t\n");
+  EXPECT_EQ(Run({"refresh", book}).code, 0);
+  EXPECT_NE(Bytes(book), before);
+}
+
+TEST_F(CommandTest, MessagesReachStderrWordForWord) {
+  test::Definition broken{"VEX_Chart1", "column", "table-id=\"Gone\""};
+  const S book = Write(SalesBook({broken}));
+  const Result result = Run({"refresh", book});
+  EXPECT_EQ(result.code, 1);
+  EXPECT_EQ(result.err,
+            "Brindle Plotsmith: Chart 'Name of VEX_Chart1' has become unavailable because its source table "
+            "no longer "
+            "exists in this workbook.\n");
+  EXPECT_NE(Run({"charts", book}).out.find("table no longer fits"), S::npos);
+}
+
+TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
+  const auto file = [&](const S& name, const S& bytes) {
+    std::ofstream(folder_ / name, std::ios::binary) << bytes;
+    return folder_ / name;
+  };
+  test::PlainBook damaged = SalesBook({{"VEX_Chart1"}});
+  damaged.Sheet("Data1").afterData = "</worksheet><";  // after the cells: of no interest
+  const S odd = Write(damaged, "odd.xlsx");
+  damaged.Sheet("Data1").rows.push_back({test::RawCell{" t='x><v>1</v></c>"}});
+  const S bad = Write(damaged, "bad.xlsx");
+  S encrypted = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1";
+  encrypted += S(1000, '\0');
+  const S old = file("old.xls", encrypted);
+  for (const char c : S("EncryptedPackage")) encrypted += {c, '\0'};
+  const std::pair<S, S> cases[] = {
+      {folder_ / "none.xlsx", "it can't be opened"},
+      {file("empty.xlsx", ""), "it is empty"},
+      {file("text.xlsx", "hello"), "Not a zip archive"},
+      {file("secret.xlsx", encrypted), "it is encrypted with a password"},
+      {old, "it is a workbook of Excel 97-2003 (.xls), not .xlsx"},
+      {bad, "its part /xl/worksheets/sheet1.xml can't be read: its XML is damaged"}};
+  for (const auto& [path, reason] : cases) {
+    const S before = Bytes(path);
+    const Result result = Run({"refresh", path, "-o", folder_ / "out.xlsx"});
+    EXPECT_EQ(result.code, 3) << path;
+    EXPECT_EQ(result.err, "plotsmith: can't read \"" + path + "\": " + reason + ".\n");
+    EXPECT_FALSE(std::filesystem::exists(folder_ / "out.xlsx"));
+    EXPECT_EQ(Bytes(path), before);
+  }
+  EXPECT_EQ(Run({"refresh", odd}).code, 0);
+  const Result unwritable = Run({"refresh", odd, "-o", folder_ / "no/folder/x.xlsx"});
+  EXPECT_EQ(unwritable.code, 3);
+  EXPECT_TRUE(unwritable.err.starts_with("plotsmith: can't save ")) << unwritable.err;
+}
+
+TEST_F(CommandTest, WrongUsageIsTwo) {
+  const S book = Write(SalesBook({}));
+  for (const std::vector<S>& arguments :
+       std::vector<std::vector<S>>{{},
+                                   {"dance"},
+                                   {"refresh"},
+                                   {"save", book},
+                                   {"cells", book, "A1"},
+                                   {"cells", book, "Nowhere!A1"},
+                                   {"definition", book, "x"},
+                                   {"format", "0"},
+                                   {"format", "0.0.\"", "1"},
+                                   {"refresh", book, "--table", "Nowhere"},
+                                   {"refresh", book, "--host-version", "old"}}) {
+    const Result result = Run(arguments);
+    EXPECT_EQ(result.code, 2);
+    EXPECT_TRUE(result.err.starts_with("plotsmith: ")) << result.err;
+    EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 1) << result.err;
+  }
+  EXPECT_EQ(Run({"--help"}).code, 0);
+  EXPECT_NE(Run({"refresh", "--help"}).out.find("--table"), S::npos);
+}
+
+TEST_F(CommandTest, AWorkbookThatIsOpenElsewhereIsLeftAlone) {
+  const S book = Write(SalesBook({}));
+  for (const char* lock : {".~lock.book.xlsx#", "~$book.xlsx"}) {
+    std::ofstream(folder_ / lock) << "somebody";
+    const Result refused = Run({"refresh", book});
+    EXPECT_EQ(refused.code, 3);
+    EXPECT_NE(refused.err.find("is open in another program"), S::npos);
+    EXPECT_EQ(Run({"refresh", book, "-o", folder_ / "other.xlsx"}).code, 0) << "it is only read then";
+    EXPECT_EQ(Run({"refresh", book, "--force"}).code, 0);
+    std::filesystem::remove(folder_ / lock);
+  }
+}
+
+TEST_F(CommandTest, ListsAndJson) {
+  test::PlainBook plain = SalesBook({{"VEX_Chart1", "bar"}});
+  plain.Sheet("Data1").rows[1][2] = test::RawCell{" t='e'><v>#N/A</v></c>"};
+  const S book = Write(plain);
+  const S before = Bytes(book);
+  EXPECT_NE(Run({"tables", book}).out.find("label\tcolumn 2\tProduct\n"), S::npos);
+  EXPECT_NE(Run({"tables", book, "--json"}).out.find("\"kind\": \"label\""), S::npos);
+  EXPECT_NE(Run({"charts", book, "--json"}).out.find("\"type\": \"bar\""), S::npos);
+  EXPECT_NE(Run({"definition", book, "name of vex_chart1"}).out.find("<chart id=\"VEX_Chart1\""), S::npos);
+  EXPECT_EQ(Run({"cells", book, "data1!A2:C3", "--json"}).out,
+            "[[\"East\",\"Widget\",\"#N/A\"],[\"West\",\"Widget\",\"5\"]]\n");
+  EXPECT_EQ(Run({"cells", book, "Data1!C:C", "--value", "--json"}).out,
+            "[[\"Amount\"],[\"#N/A\"],[5.0],[7.0],[1.0]]\n");
+  EXPECT_EQ(Bytes(book), before) << "reading commands write nothing";
+}
+
+TEST_F(CommandTest, Formats) {
+  EXPECT_EQ(Run({"format", "#,##0.00", "-1234.5"}).out, "-1,234.50\n");
+  EXPECT_EQ(Run({"format", "--date1904", "yyyy-mm-dd", "0"}).out, "1904-01-01\n");
+  EXPECT_EQ(Run({"format", "--tsv"}, "0.0\t2.25\n@\" x\"\tabc\n0\"\t1\n;;;\t5\r\nGeneral\tTRUE\n").out,
+            "2.3\nabc x\n(invalid format)\n\nTRUE\n");
+}
+
+TEST_F(CommandTest, JournalVersionAndProgress) {
+  const S book = Write(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}}));
+  const S journal = Run({"refresh", book, "--journal", "--host-version", "11", "-o", folder_ / "o.xlsx"}).out;
+  EXPECT_NE(journal.find("\nChart.ChartType = 57\n"), S::npos);
+  EXPECT_NE(journal.find("Chart.SeriesCollection(1).Name = \"=VEX_ChartData!R1C3\""), S::npos);
+  const Result watched = Run({"refresh", book, "-o", folder_ / "o.xlsx"}, "", true);
+  EXPECT_NE(watched.err.find("\rRefreshing chart 2 of 2 ..."), S::npos);
+  EXPECT_TRUE(watched.err.ends_with("\r")) << "and the line is wiped";
+  EXPECT_EQ(watched.code, 0);
+  EXPECT_EQ(VersionText(16), "16.0");
+  EXPECT_EQ(VersionText(11.5), "11.5");
+}
+
+TEST_F(CommandTest, OneTableOnly) {
+  test::Definition other{"VEX_Chart2", "column", "table-id=\"Data2\""};
+  test::PlainBook plain = SalesBook({{"VEX_Chart1"}, other});
+  plain.sheets.push_back(test::SalesSheet("Data2"));
+  const S book = Write(plain);
+  EXPECT_EQ(Run({"refresh", book, "--table", "Data2"}).code, 0);
+  EXPECT_EQ(Run({"cells", book, "VEX_ChartData!A1:A4"}).out, "VEX_Chart2\nVEX_Chart2\nVEX_Chart2\n\n");
+}
+
+}  // namespace
+}  // namespace plotsmith::cli

@@ -1,0 +1,140 @@
+#include <algorithm>
+#include <fstream>
+#include <map>
+#include <set>
+#include <sstream>
+
+#include "cli/CommandLine.h"
+#include "tests/support/HostTest.h"
+#include "xlsx/PackageError.h"
+
+namespace plotsmith {
+namespace {
+
+namespace fs = std::filesystem;
+using S = std::string;
+
+/// Files that can't be opened, and what is said of them. A file that opens although it stands here fails the
+/// test as well.
+const std::map<S, S> kRefused = {
+    {"60320-protected.xlsx", "encrypted"},
+    {"POIFuzzer-5040805309710336.xlsx", "Not a zip archive"},
+    {"POIXSSFFuzzer-5265527465181184.xlsx", "checksum is wrong"},
+    {"POIXSSFFuzzer-6448258963341312.xlsx", "inconsistent"},
+    {"XLSX2CSVFuzzer-5636439151607808.xlsx", "Not a zip archive"},
+    {"crash-9bf3cd4bd6f50a8a9339d363c2c7af14b536865c.xlsx", "encrypted"},
+    {"duplicate-filename-case-insensitive.xlsx", "two parts of the name"},
+    {"duplicate-filename.xlsx", "two parts of the name"},
+    {"encryptAES.xlsx", "encrypted"},
+    {"invalid.xlsx", "no content types"},
+    {"made_empty.xlsx", "it is empty"},
+    {"made_encrypted_flag.xlsx", "encrypted"},
+    {"made_missing_wb_rels.xlsx", "the part of its sheet Sheet1 is missing"},
+    {"made_prefix_junk.xlsx", "Not a zip archive"},
+    {"made_text.xlsx", "Not a zip archive"},
+    {"made_truncated_half.xlsx", "Not a zip archive"},
+    {"made_truncated_tail.xlsx", "Not a zip archive"},
+    {"protect.xlsx", "encrypted"},
+    {"xlsx-corrupted.xlsx", "XML is damaged"},
+};
+
+/// Files that open, but hold a sheet that a refresh has to look at and can't read.
+const std::map<S, S> kRefusedByRefresh = {};
+
+std::vector<fs::path> Corpus() {
+  std::vector<fs::path> files;
+  for (const char* folder : {"charts", "real", "made", "broken"}) {
+    std::error_code ignored;
+    for (const auto& entry : fs::directory_iterator(fs::path(PLOTSMITH_CORPUS_DIR) / folder, ignored)) {
+      files.push_back(entry.path());
+    }
+  }
+  std::sort(files.begin(), files.end());
+  return files;
+}
+
+class CorpusTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    if (Corpus().empty()) GTEST_SKIP() << "the corpus isn't there";
+  }
+  std::pair<int, S> Run(std::vector<S> arguments) {
+    std::istringstream in;
+    std::ostringstream out, err;
+    const int code = cli::RunCommandLine(std::move(arguments), {in, out, err, false});
+    return {code, err.str()};
+  }
+  /// The parts of the second file that differ from the first's, or are new or gone.
+  std::set<S> Changed(const S& first, const S& second) {
+    const auto before = xlsx::Package::Open(first), after = xlsx::Package::Open(second);
+    std::set<S> changed;
+    const auto read = [](const xlsx::Package& package, const S& part) -> S {
+      try {
+        return package.Read(part);
+      } catch (const xlsx::PackageError& e) {
+        return S("(unreadable) ") + e.what();
+      }
+    };
+    for (const S& part : before.Parts()) {
+      if (!after.Has(part) || read(before, part) != read(after, part)) changed.insert(part);
+    }
+    for (const S& part : after.Parts()) {
+      if (!before.Has(part)) changed.insert(part);
+    }
+    return changed;
+  }
+  test::TempFolder folder_;
+};
+
+TEST_F(CorpusTest, SaveChangesNoPartOfAnyWorkbook) {
+  for (const fs::path& path : Corpus()) {
+    const S name = path.filename().string(), out = folder_ / "out.xlsx";
+    SCOPED_TRACE(name);
+    fs::remove(out);
+    const auto [code, err] = Run({"save", path.string(), "-o", out});
+    const auto refused = kRefused.find(name);
+    if (refused != kRefused.end()) {
+      EXPECT_EQ(code, 3);
+      EXPECT_NE(err.find(refused->second), S::npos) << err;
+      EXPECT_FALSE(fs::exists(out));
+      continue;
+    }
+    ASSERT_EQ(code, 0) << err;
+    EXPECT_EQ(Changed(path.string(), out), std::set<S>());
+    EXPECT_EQ(xlsx::Package::Open(path.string()).Parts(), xlsx::Package::Open(out).Parts())
+        << "order and names";
+  }
+}
+
+TEST_F(CorpusTest, RefreshTouchesOnlyWhatIsItsOwn) {
+  for (const fs::path& path : Corpus()) {
+    const S name = path.filename().string(), out = folder_ / "out.xlsx";
+    if (kRefused.contains(name)) continue;
+    SCOPED_TRACE(name);
+    fs::remove(out);
+    const auto [code, err] = Run({"refresh", path.string(), "-o", out});
+    if (const auto refused = kRefusedByRefresh.find(name); refused != kRefusedByRefresh.end()) {
+      EXPECT_EQ(code, 3);
+      EXPECT_NE(err.find(refused->second), S::npos) << err;
+      continue;
+    }
+    if (code == 3) {
+      ADD_FAILURE() << err;
+      continue;
+    }
+    // no corpus workbook has a definition: what comes in is the sheet for them, and the palette of a workbook
+    // that has no chart
+    const auto before = xlsx::Package::Open(path.string());
+    for (const S& part : Changed(path.string(), out)) {
+      const bool sheet = part.find("/worksheets/") != S::npos && part.ends_with(".xml");
+      const S type = before.ContentType(part);
+      const bool ours = part == "/[Content_Types].xml" || part.ends_with("workbook.xml.rels") ||
+                        type.ends_with("styles+xml") || type.find("main+xml") != S::npos ||
+                        (sheet && !before.Has(part));
+      EXPECT_TRUE(ours) << part;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace plotsmith

@@ -1,0 +1,68 @@
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <map>
+#include <regex>
+#include <set>
+#include <string>
+
+namespace plotsmith {
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::set<std::string> kSystem = {"common", "metadata", "builder", "readback", "pages", "controller"};
+
+/// The rooms that each room of the house may look into, itself not counted.
+const std::map<std::string, std::set<std::string>> kAllowed = {
+    {"runtime", {}},
+    {"dom", {"runtime"}},
+    {"host", {"runtime"}},
+    {"common", {"runtime", "dom", "host"}},
+    {"readback", {"runtime", "dom", "host", "common"}},
+    {"metadata", {"runtime", "dom", "host", "common", "readback"}},
+    // the driver shows the busy window, and the busy window runs the driver: each knows the other by name
+    {"builder", {"runtime", "dom", "host", "common", "metadata", "pages"}},
+    {"pages", {"runtime", "dom", "host", "common", "metadata", "builder", "controller"}},
+    {"controller", {"runtime", "dom", "host", "common", "metadata", "builder"}},
+    {"xlsx", {"runtime", "dom", "host"}},
+    {"cli",
+     {"runtime", "dom", "host", "common", "metadata", "builder", "readback", "pages", "controller", "xlsx"}},
+};
+
+template <class Visit>
+void ForEachSource(const Visit& visit) {
+  for (const auto& entry : fs::recursive_directory_iterator(fs::path(PLOTSMITH_SOURCE_DIR) / "src")) {
+    const auto extension = entry.path().extension();
+    if (extension != ".h" && extension != ".cpp") continue;
+    const auto relative = fs::relative(entry.path(), fs::path(PLOTSMITH_SOURCE_DIR) / "src");
+    std::ifstream file(entry.path());
+    visit(relative.begin()->string(), relative.string(),
+          std::string(std::istreambuf_iterator<char>(file), {}));
+  }
+}
+
+TEST(HouseRulesTest, RoomsLookOnlyWhereTheyMay) {
+  const std::regex include("#include \"([a-z]+)/");
+  int files = 0;
+  ForEachSource([&](const std::string& room, const std::string& file, const std::string& text) {
+    ++files;
+    ASSERT_TRUE(kAllowed.contains(room)) << "a room that nobody has drawn: " << file;
+    for (auto it = std::sregex_iterator(text.begin(), text.end(), include); it != std::sregex_iterator();
+         ++it) {
+      const std::string other = (*it)[1];
+      EXPECT_TRUE(other == room || kAllowed.at(room).contains(other)) << file << " includes " << other;
+    }
+  });
+  EXPECT_GT(files, 100);
+}
+
+TEST(HouseRulesTest, TheSystemCatchesOnlyInItsErrorBlocks) {
+  ForEachSource([&](const std::string& room, const std::string& file, const std::string& text) {
+    if (!kSystem.contains(room) || file == "common/ErrorBlocks.h") return;
+    EXPECT_EQ(text.find("catch ("), std::string::npos) << file;
+  });
+}
+
+}  // namespace
+}  // namespace plotsmith
