@@ -1,0 +1,26 @@
+# The newcomer's commands. All building is done by CMake; see CMakePresets.json for the ways to build.
+
+.PHONY: build demo check sanitize clean
+
+build:
+	@scripts/install-dependencies.sh
+	@cmake --preset release
+	@cmake --build build
+
+# Builds, refreshes the example workbooks into demo/ and makes pictures of them where LibreOffice is present.
+demo: build
+	@scripts/demo.sh
+
+# Builds, then runs all tests, as they are and under a locale with a decimal comma.
+check: build
+	@scripts/check.sh
+
+# All tests under the address and undefined-behaviour sanitizers.
+sanitize:
+	@scripts/install-dependencies.sh
+	@cmake --preset sanitizers
+	@cmake --build build-sanitizers
+	@ctest --preset sanitizers
+
+clean:
+	@rm -rf build build-debug build-sanitizers demo

@@ -1,0 +1,19 @@
+#!/bin/sh
+# Installs what the build needs and isn't there, from Debian's packages.
+set -eu
+
+packages="g++ cmake ninja-build pkg-config libpugixml-dev libzip-dev libisal-dev libutf8proc-dev libcli11-dev
+nlohmann-json3-dev libgtest-dev libbenchmark-dev"
+
+missing=""
+for package in $packages; do
+  dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing="$missing $package"
+done
+[ -z "$missing" ] && exit 0
+
+echo "Installing:$missing"
+run=""
+[ "$(id -u)" -eq 0 ] || run="sudo"
+$run apt-get update -qq
+# shellcheck disable=SC2086  # a list of words
+DEBIAN_FRONTEND=noninteractive $run apt-get install -y -qq --no-install-recommends $missing >/dev/null
