@@ -11,6 +11,9 @@
 namespace plotsmith::xlsx {
 namespace {
 
+/// 1 January 1980, where zip files begin to count.
+constexpr zip_uint16_t kFirstDosDay = 1 << 5 | 1;
+
 std::string ErrorText(int code) {
   zip_error_t error;
   zip_error_init_with_code(&error, code);
@@ -109,7 +112,7 @@ std::unique_ptr<Archive::Stream> Archive::Open(std::size_t index) const {
 struct ArchiveWriter::Handle {
   std::unique_ptr<zip_t, ZipCloser> zip;
 
-  void Add(const char* name, zip_source_t* source, std::uint16_t method) {
+  zip_uint64_t Add(const char* name, zip_source_t* source, std::uint16_t method) {
     const auto index = source == nullptr ? -1 : zip_file_add(zip.get(), name, source, ZIP_FL_ENC_GUESS);
     if (index < 0) {
       zip_source_free(source);
@@ -118,6 +121,7 @@ struct ArchiveWriter::Handle {
     if (zip_set_file_compression(zip.get(), static_cast<zip_uint64_t>(index), method, 0) != 0) {
       throw PackageError(zip_strerror(zip.get()));
     }
+    return static_cast<zip_uint64_t>(index);
   }
 };
 
@@ -137,8 +141,10 @@ void ArchiveWriter::Copy(const Archive& source, std::size_t index) {
 }
 
 void ArchiveWriter::Add(const std::string& name, std::string_view bytes, bool compress) {
-  handle_->Add(name.c_str(), zip_source_buffer(handle_->zip.get(), bytes.data(), bytes.size(), 0),
-               compress ? ZIP_CM_DEFLATE : ZIP_CM_STORE);
+  const auto index = handle_->Add(name.c_str(), zip_source_buffer(handle_->zip.get(), bytes.data(), bytes.size(), 0),
+                                  compress ? ZIP_CM_DEFLATE : ZIP_CM_STORE);
+  // no time, as Office does it, so that the same content makes the same file
+  zip_file_set_dostime(handle_->zip.get(), index, 0, kFirstDosDay, 0);
 }
 
 void ArchiveWriter::Finish() {

@@ -138,7 +138,7 @@ std::shared_ptr<Shape> Drawing::AddTextbox(double left, double top, double width
           R"("/></~xfrm><~prstGeom prst="rect"><~avLst/></~prstGeom><~solidFill><~srgbClr val="FFFFFF"/></~solidFill>)"
           R"(<~ln w="9525"><~solidFill><~srgbClr val="000000"/></~solidFill></~ln></@spPr>)"
           R"(<@txBody><~bodyPr vertOverflow="clip" wrap="square" rtlCol="0"/><~lstStyle/>)"
-          R"(<~p><~endParaRPr lang="en-US" sz="1100"/></~p></@txBody></@sp>)",
+          R"(<~p><~endParaRPr lang="en-US" sz="1100"><~latin typeface="+mn-lt"/></~endParaRPr></~p></@txBody></@sp>)",
       Prefix(), DrawingMlPrefix());
   return AddAnchor(left, top, width, height, object);
 }
