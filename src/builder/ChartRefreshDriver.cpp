@@ -93,6 +93,11 @@ void DeleteAllSeries() {
   });
 }
 
+/// Pie, bubble and strategic bucket charts: until they can be drawn they must not lose their series either.
+bool IsStillToCome() {
+  return mChartType == "pie" || mChartType == "bubble" || mChartType == "strategic bucket";
+}
+
 /// False for a type that nobody draws.
 bool DrawFamily(const IXMLDOMElement& oChartElement) {
   if (mChartType == "area" || mChartType == "bar" || mChartType == "column") {
@@ -178,6 +183,11 @@ void PopulateChart(const std::string& sID) {
     const std::string sName = GetAttributeText(oChartElement, "name");
     const bool bCrosshatched = GetAttributeText(oChartElement, "chart-area-crosshatched") == "yes";
     RunMacro(kRefreshStartedMacro, {sID});
+    if (IsStillToCome()) {
+      ShowMessage(ReplaceTokens(
+          "Chart '/TKN/' was left as it is, because charts of its type can't be drawn yet.", {sName}));
+      return;
+    }
     bool bValid = false;
     if (mChartType != "unknown") {
       bValid = ValidateSourceData(oChartElement);
