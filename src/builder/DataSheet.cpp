@@ -30,9 +30,13 @@ class CellIndex {
     if (lRow != lRow_ || lColumn != lColumn_) {
       lRow_ = lRow;
       lColumn_ = lColumn;
-      // an unknown text stays behind in the dictionary, without a position
-      lIndex_ =
-          PositionOf(oPositions_.Item(runtime::UCase(GetCellText(oSheet_, lRow, lColumn, sText_), sUpper_)));
+      const std::string_view sText = GetCellText(oSheet_, lRow, lColumn, sText_);
+      lIndex_ = oKnown_.Find(sText, sText_);
+      if (lIndex_ < 1) {
+        // an unknown text stays behind in the dictionary, without a position
+        lIndex_ = PositionOf(oPositions_.Item(runtime::UCase(sText, sUpper_)));
+        oKnown_.Remember(sText, sText_, lIndex_);
+      }
     }
     return lIndex_;
   }
@@ -44,6 +48,7 @@ class CellIndex {
   std::int32_t lColumn_ = -1;
   std::int32_t lIndex_ = 0;
   std::string sText_, sUpper_;
+  PositionCache oKnown_;
 };
 
 /// A text as the rectangle stores it: bubbles and strategic buckets show a label with the spelling met first,

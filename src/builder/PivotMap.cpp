@@ -36,13 +36,16 @@ class Numbering {
     return lCount_;
   }
 
-  /// A heading found in a row.
-  void Find(std::string_view sText) {
-    const std::string_view sKey = runtime::UCase(sText, sScratch_);
+  /// A heading found in a row; `sScratch` is where its text lies if the sheet doesn't hold it.
+  void Find(std::string_view sText, const std::string& sScratch) {
+    if (oKnown_.Find(sText, sScratch) >= 1) return;
+    const std::string_view sKey = runtime::UCase(sText, sUpper_);
     runtime::Variant& vPosition = oPositions_.Item(sKey);
-    if (PositionOf(vPosition) >= 1) return;
-    vPosition = ++lCount_;
-    oNames_.Item(sKey) = sText;
+    if (PositionOf(vPosition) < 1) {
+      vPosition = ++lCount_;
+      oNames_.Item(sKey) = sText;
+    }
+    oKnown_.Remember(sText, sScratch, PositionOf(vPosition));
   }
 
   /// Gives the name the next number, whatever it had before.
@@ -56,7 +59,8 @@ class Numbering {
   Dictionary& oPositions_;
   Dictionary& oNames_;
   std::int32_t lCount_ = 0;
-  std::string sScratch_;
+  std::string sUpper_;
+  PositionCache oKnown_;
 };
 
 void ShowLimitMessage(const IXMLDOMElement& oChartElement) {
@@ -106,7 +110,7 @@ bool BuildPivotMap(const IXMLDOMElement& oChartElement) {
           oInstruction.SetRowReferencePosition(oCategoryNumbering.Add(sName));
         } else {
           for (std::int32_t lRow = oRows.lFirst; lRow <= oRows.Last(); ++lRow) {
-            oCategoryNumbering.Find(GetCellText(*oSheet, lRow, lColumn, sScratch));
+            oCategoryNumbering.Find(GetCellText(*oSheet, lRow, lColumn, sScratch), sScratch);
           }
           lCategoryColumn = lColumn;
         }
@@ -135,7 +139,7 @@ bool BuildPivotMap(const IXMLDOMElement& oChartElement) {
               ShowLimitMessage(oChartElement);
               break;
             }
-            oSeriesNumbering.Find(GetCellText(*oSheet, lRow, lColumn, sScratch));
+            oSeriesNumbering.Find(GetCellText(*oSheet, lRow, lColumn, sScratch), sScratch);
           }
           lSeriesColumn = lColumn;
         }

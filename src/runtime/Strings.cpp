@@ -82,7 +82,8 @@ std::string_view UCase(std::string_view text, std::string& scratch) {
   for (std::size_t i = 0; i < text.size();) {
     const char32_t c = NextCharacter(text, i);
     constexpr char32_t kSharpS = 0xDF;  // its capital exists in Unicode, but nobody's upper case goes there
-    AppendUtf8(scratch, c == kSharpS ? c : static_cast<char32_t>(utf8proc_toupper(static_cast<utf8proc_int32_t>(c))));
+    AppendUtf8(scratch,
+               c == kSharpS ? c : static_cast<char32_t>(utf8proc_toupper(static_cast<utf8proc_int32_t>(c))));
   }
   return scratch;
 }

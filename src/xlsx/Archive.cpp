@@ -7,6 +7,7 @@
 #include "xlsx/Inflater.h"
 #include "xlsx/Limits.h"
 #include "xlsx/PackageError.h"
+#include "xlsx/ZipFiles.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -14,17 +15,22 @@ namespace {
 /// 1 January 1980, where zip files begin to count.
 constexpr zip_uint16_t kFirstDosDay = 1 << 5 | 1;
 
-std::string ErrorText(int code) {
-  zip_error_t error;
-  zip_error_init_with_code(&error, code);
-  std::string text = zip_error_strerror(&error);
-  zip_error_fini(&error);
-  return text;
-}
-
 struct ZipCloser {
   void operator()(zip_t* zip) const { zip_discard(zip); }
 };
+std::unique_ptr<zip_t, ZipCloser> OpenFrom(zip_source_t* source, int flags) {
+  zip_error_t error;
+  zip_error_init(&error);
+  std::unique_ptr<zip_t, ZipCloser> zip(zip_open_from_source(source, flags, &error));
+  const std::string reason = zip_error_strerror(&error);
+  zip_error_fini(&error);
+  if (!zip) {
+    zip_source_free(source);
+    throw PackageError(reason);
+  }
+  return zip;
+}
+
 struct FileCloser {
   void operator()(zip_file_t* file) const { zip_fclose(file); }
 };
@@ -74,9 +80,7 @@ struct Archive::Handle {
 };
 
 Archive::Archive(const std::string& path) : handle_(std::make_unique<Handle>()) {
-  int code = 0;
-  handle_->zip.reset(zip_open(path.c_str(), ZIP_RDONLY, &code));
-  if (!handle_->zip) throw PackageError(ErrorText(code));
+  handle_->zip = OpenFrom(OpenZipFile(path), ZIP_RDONLY);
   zip_t* zip = handle_->zip.get();
   const auto count = zip_get_num_entries(zip, 0);
   if (static_cast<std::size_t>(count) > limits::kPackageEntries)
@@ -126,9 +130,7 @@ struct ArchiveWriter::Handle {
 };
 
 ArchiveWriter::ArchiveWriter(const std::string& path) : handle_(std::make_unique<Handle>()) {
-  int code = 0;
-  handle_->zip.reset(zip_open(path.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &code));
-  if (!handle_->zip) throw PackageError(ErrorText(code));
+  handle_->zip = OpenFrom(CreateZipFile(path), ZIP_CREATE | ZIP_TRUNCATE);
 }
 
 ArchiveWriter::~ArchiveWriter() = default;
@@ -141,8 +143,9 @@ void ArchiveWriter::Copy(const Archive& source, std::size_t index) {
 }
 
 void ArchiveWriter::Add(const std::string& name, std::string_view bytes, bool compress) {
-  const auto index = handle_->Add(name.c_str(), zip_source_buffer(handle_->zip.get(), bytes.data(), bytes.size(), 0),
-                                  compress ? ZIP_CM_DEFLATE : ZIP_CM_STORE);
+  const auto index =
+      handle_->Add(name.c_str(), zip_source_buffer(handle_->zip.get(), bytes.data(), bytes.size(), 0),
+                   compress ? ZIP_CM_DEFLATE : ZIP_CM_STORE);
   // no time, as Office does it, so that the same content makes the same file
   zip_file_set_dostime(handle_->zip.get(), index, 0, kFirstDosDay, 0);
 }

@@ -87,15 +87,31 @@ class CellStore {
   /// off.
   class Column {
    public:
-    void Append(std::int32_t row, PackedValue value, std::uint32_t style);
-    PackedValue ValueAt(std::int32_t row) const;
+    void Append(std::int32_t row, PackedValue value, std::uint32_t style) {
+      if (!runs_.empty() && row == runs_.back().lastRow + 1 && style == lastStyle_) {  // nearly always
+        values_.push_back(value);
+        runs_.back().lastRow = row;
+      } else {
+        AppendElsewhere(row, value, style);
+      }
+    }
+    PackedValue ValueAt(std::int32_t row) const {
+      // walks go down a column, so that the run of the last answer is the best guess
+      if (strays_.empty() && !runs_.empty()) {
+        const Run& run = runs_[recentRun_];
+        if (row >= run.firstRow && row <= run.lastRow) {
+          return values_[run.firstValue + static_cast<std::size_t>(row - run.firstRow)];
+        }
+      }
+      return FindValue(row);
+    }
     std::uint32_t StyleAt(std::int32_t row) const;
     std::int32_t LastRow() const;
 
    private:
     static constexpr std::int32_t kFilledGap = 4;
     struct Run {
-      std::int32_t firstRow;
+      std::int32_t firstRow, lastRow;
       std::uint32_t firstValue;  ///< index into values_
     };
     struct StyleRun {
@@ -107,14 +123,15 @@ class CellStore {
       std::uint32_t style;
     };
 
-    const Run* FindRun(std::int32_t row) const;
+    void AppendElsewhere(std::int32_t row, PackedValue value, std::uint32_t style);
+    PackedValue FindValue(std::int32_t row) const;
 
     std::vector<PackedValue> values_;
     std::vector<Run> runs_;
     std::vector<StyleRun> styles_;
-    std::int32_t lastRow_ = 0;
-    mutable std::size_t recentRun_ = 0;    ///< walks go down a column, so the last run is the best guess
-    mutable std::size_t recentStyle_ = 0;  ///< likewise
+    std::uint32_t lastStyle_ = 0;
+    mutable std::size_t recentRun_ = 0;
+    mutable std::size_t recentStyle_ = 0;
     std::unordered_map<std::int32_t, Stray> strays_;  ///< cells of a file that doesn't keep its rows in order
   };
 

@@ -44,6 +44,11 @@ std::optional<double> CellNumber(std::string_view text) {
 /// The loop over rows and cells. It reads cells straight from the window: a cell is taken when all of it is
 /// there, and read again from its beginning after the window has moved when it isn't, so that the inner loops
 /// look at nothing but the next byte. The zero byte behind the window ends every one of them.
+///
+/// Nearly all cells that programs write have one of two shapes, and most rows one; those are taken by
+/// comparing whole stretches of text (TakePlainCell, TakePlainRow), which is what makes a large sheet cost
+/// little more than its inflating. Whatever has another shape takes the general road, which reads the same
+/// and more.
 class SheetScanner : public XmlStream {
  public:
   SheetScanner(Archive::Stream& source, DateSystem dates) : XmlStream(source), dates_(dates) {}
@@ -61,6 +66,10 @@ class SheetScanner : public XmlStream {
 
   bool ReadHead();
   void ReadRows();
+  /// Behind the cell, or the row's tag, at `p` if it has the plain shape and lies whole in the window; else
+  /// null, with nothing taken.
+  const char* TakePlainCell(const char* p);
+  const char* TakePlainRow(const char* p);
   Piece ReadPiece();
   Piece ReadCell(const char* p);
   Piece ReadRareCell(const char* p, std::int32_t column, std::string_view type, std::uint32_t style,
@@ -70,6 +79,18 @@ class SheetScanner : public XmlStream {
   /// `value` is as written unless it was decoded, and a null view for an empty cell.
   void Store(std::int32_t column, std::string_view type, std::uint32_t style, std::string_view value,
              bool decoded = false);
+
+  void Put(std::int32_t column, PackedValue value, std::uint32_t style) {
+    if (contents_.cells.CellCount() >= limits::kCells)
+      throw PackageError("it has more cells than we can hold");
+    if (row_ == 0) row_ = 1;  // a cell outside of any row
+    column_ = column;
+    used_.row1 = std::min(used_.row1, row_);
+    used_.row2 = std::max(used_.row2, row_);
+    used_.column1 = std::min(used_.column1, column);
+    used_.column2 = std::max(used_.column2, column);
+    contents_.cells.Append(row_, column, value, style);
+  }
 
   /// Whether the element at `p`, behind its "<" or "</", has the name; `p` is then moved behind it.
   bool At(const char*& p, std::string_view name) const;
@@ -121,6 +142,11 @@ bool SheetScanner::ReadHead() {
 
 void SheetScanner::ReadRows() {
   for (;;) {
+    for (const char* next = position_; next != nullptr;) {
+      position_ = next;
+      next = TakePlainCell(position_);
+      if (next == nullptr) next = TakePlainRow(position_);
+    }
     switch (ReadPiece()) {
       case Piece::kTaken:
         break;
@@ -177,6 +203,69 @@ void SheetScanner::ReadRow(std::string_view attributes) {
   } else if (const auto height = xml::ParseDouble(AttributeIn(attributes, "ht"))) {
     contents_.rowHeights.emplace_back(row_, *height);
   }
+}
+
+/// `<c r="AB12" s="3" t="s"><v>123</v></c>`, a number or a shared text, where `s` and `t` may be missing; or
+/// such a cell without a value.
+const char* SheetScanner::TakePlainCell(const char* p) {
+  // the length is known at compile time, so that this is a comparison or two and no call
+  const auto skip = [&]<std::size_t N>(const char(&text)[N]) {
+    if (std::memcmp(p, text, N - 1) != 0) return false;
+    p += N - 1;
+    return true;
+  };
+  if (!skip("<c r=\"")) return nullptr;
+  std::int32_t column = 0;
+  for (; *p >= 'A' && *p <= 'Z' && column <= limits::kColumns; ++p) column = column * 26 + (*p - 'A' + 1);
+  while (IsDigit(*p)) ++p;
+  if (column == 0 || column > limits::kColumns || !skip("\"")) return nullptr;
+  std::uint32_t style = 0;
+  if (skip(" s=\"")) {
+    for (; IsDigit(*p); ++p) style = style * 10 + static_cast<std::uint32_t>(*p - '0');
+    if (!skip("\"")) return nullptr;
+  }
+  const bool shared = skip(" t=\"s\"");
+  if (!skip("><v>")) {
+    if (!skip("/>")) return nullptr;
+    Put(column, {}, style);
+    return p;
+  }
+  const char* const first = p;
+  while (*p != '<' && *p != '\0') ++p;
+  const std::string_view text(first, static_cast<std::size_t>(p - first));
+  if (!skip("</v></c>")) return nullptr;
+  if (shared) {
+    std::uint64_t index = 0;
+    for (const char c : text) {
+      if (!IsDigit(c) || index > 0xFFFFFFFF) return nullptr;
+      index = index * 10 + static_cast<std::uint64_t>(c - '0');
+    }
+    if (text.empty() || index > 0xFFFFFFFF) return nullptr;
+    Put(column, {PackedValue::Kind::kSharedText, static_cast<std::uint32_t>(index)}, style);
+  } else {
+    const auto number = CellNumber(text);
+    if (!number) return nullptr;
+    Put(column, PackedValue(*number), style);
+  }
+  return p;
+}
+
+/// `</row>`, or a row's start tag that begins with its number and says nothing of its height.
+const char* SheetScanner::TakePlainRow(const char* p) {
+  constexpr std::string_view kEnd = "</row>", kStart = "<row r=\"";
+  if (std::memcmp(p, kEnd.data(), kEnd.size()) == 0) return p + kEnd.size();
+  if (std::memcmp(p, kStart.data(), kStart.size()) != 0) return nullptr;
+  p += kStart.size();
+  std::int32_t row = 0;
+  for (; IsDigit(*p) && row <= limits::kRows; ++p) row = row * 10 + (*p - '0');
+  if (*p != '"' || row < 1 || row > limits::kRows) return nullptr;
+  for (++p; *p != '>'; ++p) {
+    // " ht=" or " hidden="; and what isn't in the window isn't plain either
+    if (*p == '\0' || *p == '/' || (*p == ' ' && p[1] == 'h')) return nullptr;
+  }
+  row_ = row;
+  column_ = 0;
+  return p + 1;
 }
 
 /// `p` stands behind the cell's name.
@@ -303,16 +392,8 @@ void SheetScanner::Store(std::int32_t column, std::string_view type, std::uint32
                          std::string_view value, bool decoded) {
   using Packed = PackedValue::Kind;
   if (column < 1 || column > limits::kColumns) throw PackageError("it has a cell outside of any sheet");
-  if (contents_.cells.CellCount() >= limits::kCells) throw PackageError("it has more cells than we can hold");
-  if (row_ == 0) row_ = 1;
-  column_ = column;
-  used_.row1 = std::min(used_.row1, row_);
-  used_.row2 = std::max(used_.row2, row_);
-  used_.column1 = std::min(used_.column1, column);
-  used_.column2 = std::max(used_.column2, column);
-
   auto& texts = contents_.cells.texts;
-  const auto put = [&](PackedValue packed) { contents_.cells.Append(row_, column, packed, style); };
+  const auto put = [&](PackedValue packed) { Put(column, packed, style); };
   const auto plain = [&] { return decoded ? std::string(value) : xml::Decode(value); };
   if (value.data() == nullptr) return put({});
   switch (type.empty() ? 'n' : type[0]) {

@@ -89,7 +89,7 @@ void Styles::Load() {
         xml::Attribute(format, "formatCode");
   }
   for (const pugi::xml_node& style : Listed(Sheet(), "cellXfs", "xf")) {
-    cellStyles_.push_back({static_cast<int>(xml::IntegerAttribute(style, "numFmtId", 0)), nullptr});
+    cellStyles_.emplace_back().formatId = static_cast<int>(xml::IntegerAttribute(style, "numFmtId", 0));
   }
 }
 
@@ -103,15 +103,14 @@ std::string Styles::FormatCode(std::uint32_t style) const {
   return style < cellStyles_.size() ? CodeOf(cellStyles_[style].formatId) : "General";
 }
 
-const NumberFormat& Styles::Format(std::uint32_t style) const {
+const NumberFormat& Styles::Format(std::uint32_t style) const { return *Known(style).format; }
+
+void Styles::Parse(const CellStyle& style) const {
   static const std::shared_ptr<const NumberFormat> general = NumberFormat::Parse("General");
-  if (style >= cellStyles_.size()) return *general;
-  auto& format = cellStyles_[style].format;
-  if (!format) {
-    format = NumberFormat::Parse(CodeOf(cellStyles_[style].formatId));
-    if (!format) format = general;  // what Excel would refuse shows nothing of its own
-  }
-  return *format;
+  style.format = NumberFormat::Parse(CodeOf(style.formatId));
+  if (!style.format) style.format = general;  // what Excel would refuse shows nothing of its own
+  style.general = style.format->IsGeneral();
+  style.date = style.format->IsDate();
 }
 
 int Styles::FormatId(std::string_view code) {
@@ -150,7 +149,7 @@ std::uint32_t Styles::WithFormat(std::uint32_t base, std::string_view code) {
       base < styles.size() ? list.append_copy(styles[base]) : list.append_child(name.c_str());
   xml::SetAttribute(style, "numFmtId", std::to_string(id));
   xml::SetAttribute(style, "applyNumberFormat", "1");
-  cellStyles_.push_back({id, nullptr});
+  cellStyles_.emplace_back().formatId = id;
   xml::SetAttribute(list, "count", std::to_string(cellStyles_.size()));
   const auto made = static_cast<std::uint32_t>(cellStyles_.size() - 1);
   made_[{base, std::string(code)}] = made;

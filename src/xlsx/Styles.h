@@ -21,6 +21,9 @@ class Styles {
 
   /// The number format of a cell style, an index into cellXfs; General where there is no such style.
   const NumberFormat& Format(std::uint32_t style) const;
+  /// The same questions as to the format, without looking at it: they are asked for each cell.
+  bool IsGeneral(std::uint32_t style) const { return Known(style).general; }
+  bool IsDate(std::uint32_t style) const { return Known(style).date; }
   std::string FormatCode(std::uint32_t style) const;
   /// The style that is like `base` but has the number format, made if need be. The code must be valid.
   std::uint32_t WithFormat(std::uint32_t base, std::string_view code);
@@ -39,8 +42,15 @@ class Styles {
  private:
   struct CellStyle {
     int formatId = 0;
-    mutable std::shared_ptr<const NumberFormat> format;  // parsed when first asked for
+    mutable std::shared_ptr<const NumberFormat> format;  // parsed when first asked for, with what it says
+    mutable bool general = false, date = false;
   };
+  const CellStyle& Known(std::uint32_t style) const {
+    const CellStyle& known = style < cellStyles_.size() ? cellStyles_[style] : noStyle_;
+    if (!known.format) Parse(known);
+    return known;
+  }
+  void Parse(const CellStyle& style) const;
 
   pugi::xml_node Sheet() const;
   std::string CodeOf(int formatId) const;
@@ -50,6 +60,7 @@ class Styles {
   pugi::xml_document document_;
   std::map<int, std::string> formats_;
   std::vector<CellStyle> cellStyles_;
+  CellStyle noStyle_;
   std::map<std::pair<std::uint32_t, std::string>, std::uint32_t> made_;
   bool changed_ = false;
 };

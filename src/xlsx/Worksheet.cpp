@@ -29,8 +29,8 @@ void CheckCell(std::int32_t row, std::int32_t column) {
   }
 }
 
-CellValue::Kind NumberKind(const NumberFormat& format) {
-  return format.IsDate() ? CellValue::Kind::kDate : CellValue::Kind::kNumber;
+CellValue::Kind NumberKind(const Styles& styles, std::uint32_t style) {
+  return styles.IsDate(style) ? CellValue::Kind::kDate : CellValue::Kind::kNumber;
 }
 
 }  // namespace
@@ -40,13 +40,11 @@ Worksheet::Worksheet(Workbook& book, std::weak_ptr<SheetEntry> entry, bool isNew
 
 Worksheet::~Worksheet() = default;
 
-const SheetContents& Worksheet::Contents() {
-  if (!contents_) {
-    contents_ = book_.Guarded([&] {
-      const auto stream = book_.Package().Stream(Entry().part);
-      return InPart(Entry().part, [&] { return ScanSheet(*stream, book_.Dates()); });
-    });
-  }
+const SheetContents& Worksheet::Read() {
+  contents_ = book_.Guarded([&] {
+    const auto stream = book_.Package().Stream(Entry().part);
+    return InPart(Entry().part, [&] { return ScanSheet(*stream, book_.Dates()); });
+  });
   return *contents_;
 }
 
@@ -79,11 +77,11 @@ CellValue Worksheet::Unpack(PackedValue value, std::uint32_t style) {
     case Kind::kEmpty:
       return {};
     case Kind::kNumber:
-      return {NumberKind(book_.Styles().Format(style)), value.Number(), {}};
+      return {NumberKind(book_.Styles(), style), value.Number(), {}};
     case Kind::kBoolean:
       return {CellValue::Kind::kBoolean, static_cast<double>(value.Index()), {}};
     case Kind::kSharedText:
-      return {CellValue::Kind::kText, 0, book_.SharedStrings().At(value.Index())};
+      return {CellValue::Kind::kText, 0, SharedText(value.Index())};
     case Kind::kOwnText:
       return {CellValue::Kind::kText, 0, contents_->cells.texts.At(value.Index())};
     case Kind::kError: {
@@ -111,7 +109,7 @@ CellValue Worksheet::CellValueAt(std::int32_t row, std::int32_t column) {
   const GridCell* cell = grid_->Find(row, column);
   if (cell == nullptr) return {};
   const bool number = cell->kind == CellValue::Kind::kNumber || cell->kind == CellValue::Kind::kDate;
-  return {number ? NumberKind(book_.Styles().Format(cell->style)) : cell->kind, cell->number, cell->text};
+  return {number ? NumberKind(book_.Styles(), cell->style) : cell->kind, cell->number, cell->text};
 }
 
 std::string_view Worksheet::CellTextAt(std::int32_t row, std::int32_t column, std::string& scratch) {
@@ -124,8 +122,9 @@ std::string_view Worksheet::CellTextAt(std::int32_t row, std::int32_t column, st
     default:
       break;
   }
-  const NumberFormat& format = book_.Styles().Format(StyleAt(row, column));
-  if (value.kind == CellValue::Kind::kText && format.IsGeneral()) return value.text;
+  const std::uint32_t style = StyleAt(row, column);
+  if (value.kind == CellValue::Kind::kText && book_.Styles().IsGeneral(style)) return value.text;
+  const NumberFormat& format = book_.Styles().Format(style);
   scratch.clear();
   if (value.kind == CellValue::Kind::kText) {
     format.AppendText(scratch, value.text);

@@ -58,7 +58,12 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   void Write();
 
  private:
-  const SheetContents& Contents();
+  const SheetContents& Contents() { return contents_ ? *contents_ : Read(); }
+  const SheetContents& Read();
+  std::string_view SharedText(std::uint32_t index) {
+    if (sharedTexts_ == nullptr) sharedTexts_ = &book_.SharedStrings();
+    return sharedTexts_->At(index);
+  }
   /// The cells for writing. Error 1004 on a sheet that isn't ours to write.
   CellGrid& Grid();
   std::uint32_t StyleAt(std::int32_t row, std::int32_t column);
@@ -66,6 +71,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
 
   bool isNew_;
   std::optional<SheetContents> contents_;  ///< as read
+  const TextPool* sharedTexts_ = nullptr;  ///< the workbook's, once a cell has asked for one
   std::optional<CellGrid> grid_;           ///< as changed; then nothing looks at contents_ any more
   bool gridChanged_ = false;
   std::optional<SheetGeometry> geometry_;

@@ -10,12 +10,14 @@ namespace plotsmith::xlsx {
 namespace {
 
 constexpr std::size_t kWindow = 256 * 1024;
+/// Behind the zero byte: whoever compares a few bytes at once may look so far.
+constexpr std::size_t kSlack = 15;
 
 bool IsSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 
 }  // namespace
 
-XmlStream::XmlStream(Archive::Stream& source) : source_(source), window_(kWindow + 1) {
+XmlStream::XmlStream(Archive::Stream& source) : source_(source), window_(kWindow + 1 + kSlack) {
   position_ = end_ = window_.data();
   while (end_ - position_ < 4 && Fill()) {
   }
@@ -49,11 +51,11 @@ std::size_t XmlStream::ReadSource(char* buffer, std::size_t size) {
 bool XmlStream::Fill() {
   const auto unread = static_cast<std::size_t>(end_ - position_);
   std::memmove(window_.data(), position_, unread);
-  if (unread == window_.size() - 1) {
+  if (unread == window_.size() - 1 - kSlack) {
     if (window_.size() > limits::kXmlToken) throw PackageError("it holds a text without an end");
     window_.resize(window_.size() * 2);
   }
-  const std::size_t count = ReadSource(window_.data() + unread, window_.size() - 1 - unread);
+  const std::size_t count = ReadSource(window_.data() + unread, window_.size() - 1 - kSlack - unread);
   position_ = window_.data();
   end_ = window_.data() + unread + count;
   window_[unread + count] = '\0';

@@ -41,7 +41,7 @@ class XmlStream {
   [[noreturn]] static void Damaged();
 
   // The window: unread bytes from position_ to end_, where a zero byte stands, which XML can't hold: so loops
-  // need not look at the end.
+  // need not look at the end. 15 more bytes may be looked at behind it.
   const char* position_ = nullptr;
   const char* end_ = nullptr;
 
