@@ -2,7 +2,7 @@
 # Installs what the build needs and isn't there, from Debian's packages.
 set -eu
 
-packages="g++ cmake ninja-build pkg-config libpugixml-dev libzip-dev libisal-dev libutf8proc-dev libcli11-dev
+packages="g++ cmake ninja-build pkg-config libpugixml-dev libexpat1-dev libzip-dev libisal-dev libutf8proc-dev libcli11-dev
 nlohmann-json3-dev libgtest-dev libbenchmark-dev"
 
 missing=""

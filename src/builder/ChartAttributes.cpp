@@ -113,9 +113,9 @@ void ApplyLegendAttributes() {
                [&] { oLegend->Font()->SetFontStyle(mLegendFontStyle); },
                [&] { oLegend->Font()->SetColor(mLegendFontColor); },
                [&] { oLegend->SetAutoScaleFont(mLegendFontAutoScale); });
-  const double dPosition = ValueOr(0.0, [] { return Val(mLegendPosition); });
-  if (dPosition != 0) {
-    IgnoreErrors([&] { oLegend->SetPosition(runtime::CLng(dPosition)); });
+  const bool bPlaced = ValueOr(false, [] { return runtime::CDbl(mLegendPosition) == 0; });
+  if (!bPlaced) {
+    IgnoreErrors([&] { oLegend->SetPosition(runtime::CLng(Val(mLegendPosition))); });
   } else {
     IgnoreErrors([&] { oLegend->SetTop(Val(std::string_view(runtime::CStr(mLegendTop)))); },
                  [&] { oLegend->SetLeft(Val(std::string_view(runtime::CStr(mLegendLeft)))); });

@@ -31,18 +31,24 @@ class QuietHost {
   void Enter() {
     App.Desktop->SetMousePointer(desktop::kPointerHourglass);
     mSavedCalculation = oApplication->Calculation();
+    bCalculationSaved_ = true;
     oApplication->SetCalculation(excel::xlCalculationManual);
     bScreenUpdating_ = oApplication->ScreenUpdating();
     oApplication->SetScreenUpdating(false);
   }
 
+  /// After an error too, and then as far as Enter came.
   void Leave() {
-    oApplication->SetCalculation(mSavedCalculation);
-    oApplication->SetScreenUpdating(bScreenUpdating_);
-    App.Desktop->SetMousePointer(desktop::kPointerDefault);
+    IgnoreErrors(
+        [&] {
+          if (bCalculationSaved_) oApplication->SetCalculation(mSavedCalculation);
+        },
+        [&] { oApplication->SetScreenUpdating(bScreenUpdating_); },
+        [] { App.Desktop->SetMousePointer(desktop::kPointerDefault); });
   }
 
  private:
+  bool bCalculationSaved_ = false;
   bool bScreenUpdating_ = true;
 };
 
@@ -53,7 +59,7 @@ void EnsureTablesAndCharts() {
 
 /// Runs the work directly up to host version 11, and else inside the busy window.
 void RunBehindBusyWindow(void (*work)(const std::string&), std::int32_t lWork, const std::string& sID) {
-  bool bClassic = false;
+  bool bClassic = true;  // what a version that can't be read counts as
   HandleErrors(
       [&] {
         bClassic = HostVersion(oApplication) <= kLastClassicVersion;
@@ -154,6 +160,7 @@ void PopulateAllCharts() {
 
 void PopulateModifiedCharts(const std::string& sTableRangeName) {
   QuietHost oQuiet;
+  lMethodType = method::kRefresh;  // these charts are there already, whatever the last run made
   RunMacro(kRefreshStartedMacro);
   ReportErrors("PSChartBuilder.PopulateModifiedCharts", [&] {
     oQuiet.Enter();

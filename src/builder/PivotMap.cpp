@@ -147,11 +147,10 @@ bool BuildPivotMap(const IXMLDOMElement& oChartElement) {
       }
     }
 
-    if (oChartElement.selectSingleNode("values")) {
-      if (const auto oColumn = oChartElement.selectSingleNode("values/column")) {
-        lValueColumn = GetAttributeLong(oColumn, "worksheet-column-number");
-        if (mSeriesPositions.Count() == 0) oSeriesNumbering.Add(GetAttributeText(oColumn, "name"));
-      }
+    if (const auto oValues = oChartElement.selectSingleNode("values")) {
+      const auto oColumn = oValues.selectSingleNode("column");
+      lValueColumn = GetAttributeLong(oColumn, "worksheet-column-number");
+      if (mSeriesPositions.Count() == 0) oSeriesNumbering.Add(GetAttributeText(oColumn, "name"));
     }
 
     if (sCategoriesIn == "columns" && sSeriesIn == "none") {

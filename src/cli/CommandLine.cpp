@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <set>
 
 #include "cli/Command.h"
 #include "xlsx/PackageError.h"
@@ -18,6 +19,26 @@ constexpr const char* kFooter =
     "Exit codes: 0 done, 1 done but Plotsmith had something to say, 2 wrong usage,\n"
     "3 the workbook could not be read or written. Without -o the workbook itself is replaced,\n"
     "in one step: it is always whole.";
+
+/// A number format or a value may look like an option ("-0.0", "-h:mm"): behind the verb `format`, what isn't
+/// one of the options in full goes behind "--".
+std::vector<std::string> WithFormatsBehindTheOptions(std::vector<std::string> arguments) {
+  if (arguments.empty() || arguments[0] != "format") return arguments;
+  static const std::set<std::string> kOptions = {"--tsv", "--date1904", "--help",
+                                                 "-h",    "--journal",  "--force"};
+  std::vector<std::string> options = {"format"}, rest;
+  for (std::size_t i = 1; i < arguments.size(); ++i) {
+    if (arguments[i] == "--host-version" && i + 1 < arguments.size()) {
+      options.insert(options.end(), {arguments[i], arguments[i + 1]});
+      ++i;
+    } else if (arguments[i] != "--" || !rest.empty()) {
+      (kOptions.contains(arguments[i]) ? options : rest).push_back(arguments[i]);
+    }
+  }
+  if (!rest.empty()) options.emplace_back("--");
+  options.insert(options.end(), rest.begin(), rest.end());
+  return options;
+}
 
 }  // namespace
 
@@ -43,15 +64,24 @@ int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
     streams.err << "plotsmith: " << sentence << '\n';
     return code;
   };
-  try {
-    std::reverse(arguments.begin(), arguments.end());  // as the parser wants them
-    app.parse(arguments);
+  const auto run = [&] {
     for (std::size_t i = 0; i < commands.size(); ++i) {
       if (declared[i]->parsed()) return commands[i]->Run(options, streams);
     }
     return exit_code::kUsage;
+  };
+  // data that didn't arrive is no success
+  const auto delivered = [&](int code) {
+    streams.out.flush();
+    return streams.out ? code : fail("the output can't be written.", exit_code::kFile);
+  };
+  try {
+    arguments = WithFormatsBehindTheOptions(std::move(arguments));
+    std::reverse(arguments.begin(), arguments.end());  // as the parser wants them
+    app.parse(arguments);
+    return delivered(run());
   } catch (const CLI::ParseError& e) {
-    if (e.get_exit_code() == 0) return app.exit(e, streams.out, streams.err);  // help and version
+    if (e.get_exit_code() == 0) return delivered(app.exit(e, streams.out, streams.err));  // help and version
     return fail(std::string(e.what()) + " (try plotsmith --help)", exit_code::kUsage);
   } catch (const CommandError& e) {
     return fail(e.what(), e.ExitCode());

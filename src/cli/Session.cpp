@@ -7,6 +7,7 @@
 #include "common/CommonFunctions.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "controller/Pages.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
 #include "runtime/Variant.h"
@@ -25,6 +26,7 @@ void ResetSystem() {
   ResetRunVariables();
   ResetBuilderVariables();
   ResetYield();
+  oPages = nullptr;
 }
 
 /// The file beside a workbook by which another program shows that it has it open, or "".
@@ -78,7 +80,11 @@ void Session::LoadTablesAndCharts() {
   oApplication = host_;
   oWorkbook = host_->ActiveWorkbook();
   RetrieveTableDefinitions();
-  RetrieveChartDefinitions();
+  if (SheetExists(kDefinitionsSheet)) {
+    RetrieveChartDefinitions();
+  } else {
+    colCharts = runtime::MakeRef<DocumentCollection>();  // to load them would make the sheet
+  }
 }
 
 void Session::CheckWritable(const std::optional<std::string>& output) const {
@@ -92,8 +98,7 @@ void Session::CheckWritable(const std::optional<std::string>& output) const {
 
 void Session::ShowProgress(const std::vector<runtime::Variant>& arguments) {
   if (arguments.empty() || !colCharts) return;
-  const std::string line = "Refreshing chart " + std::to_string(++chartsStarted_) + " of " +
-                           std::to_string(colCharts->Count()) + " ...";
+  const std::string line = "Refreshing chart " + std::to_string(++chartsStarted_) + " ...";
   streams_.err << '\r' << line << std::flush;
   progressWidth_ = line.size();
 }
@@ -120,6 +125,7 @@ int Session::Save(const std::optional<std::string>& output) {
     try {
       Book().Save(output.value_or(path_));
     } catch (const xlsx::PackageError& e) {
+      ReportMessages();
       throw CommandError(exit_code::kFile, "can't save \"" + output.value_or(path_) + "\": " + e.what() +
                                                "; nothing was changed.");
     }

@@ -83,9 +83,8 @@ bool CreateSheet(const std::string& sName, std::int32_t lPosition, std::int32_t 
       [&](const runtime::RuntimeError&) {
         bCreated = false;
         if (!oSheet) return;
-        oApplication->SetDisplayAlerts(false);
-        oSheet->Delete();
-        oApplication->SetDisplayAlerts(true);
+        IgnoreErrors([] { oApplication->SetDisplayAlerts(false); }, [&] { oSheet->Delete(); },
+                     [] { oApplication->SetDisplayAlerts(true); });
       });
   return bCreated;
 }

@@ -33,7 +33,7 @@ bool HostIsEditing(const Ref<excel::Application>& oHost) {
 }
 
 /// What forbids a run on the workbook, or nothing.
-const char* Obstacle() {
+const char* Obstacle(const Ref<excel::Application>& oHost) {
   if (!oWorkbook) return "You must have a workbook open to use the Plotsmith.";
   if (oWorkbook->ProtectStructure()) {
     return "This workbook has been protected. To use the Plotsmith you need to turn off Structure "
@@ -42,7 +42,7 @@ const char* Obstacle() {
   if (oWorkbook->MultiUserEditing()) {
     return "This is a shared workbook. To use the Plotsmith you need to turn off workbook sharing.";
   }
-  if (HostIsEditing(oApplication)) {
+  if (HostIsEditing(oHost)) {
     return "You are currently editing a cell or object. Please finish editing before using the Plotsmith.";
   }
   return nullptr;
@@ -53,8 +53,8 @@ void GuardedRun(const char* sOperation, const Ref<excel::Application>& oHost, co
   ReportErrors(sOperation, [&] {
     SetHostContext(oHost, sName);
     App.HelpFile = sHelpFile;
-    oWorkbook = oApplication->ActiveWorkbook();
-    if (const char* sObstacle = Obstacle()) {
+    oWorkbook = oHost->ActiveWorkbook();
+    if (const char* sObstacle = Obstacle(oHost)) {
       ShowMessage(sObstacle);
     } else {
       ExecuteRun(lMode);
@@ -79,7 +79,7 @@ void CPlotsmithController::RefreshChartsForTable(Ref<excel::Application> oHost,
                                                  std::string& sTableRangeName) {
   ReportErrors("CPlotsmithController.RefreshChartsForTable", [&] {
     SetHostContext(oHost, "");
-    if (!oWorkbook) oWorkbook = oApplication->ActiveWorkbook();
+    if (!oWorkbook) oWorkbook = oHost->ActiveWorkbook();
     PopulateModifiedCharts(sTableRangeName);
   });
 }
@@ -91,7 +91,7 @@ void CPlotsmithController::UpdateChartColumnNamesForTable(Ref<excel::Application
   // the shorter name is what the reports of this operation say
   ReportErrors("CPlotsmithController.UpdateChartColumnNames", [&] {
     SetHostContext(oHost, "");
-    if (!oWorkbook) oWorkbook = oApplication->ActiveWorkbook();
+    if (!oWorkbook) oWorkbook = oHost->ActiveWorkbook();
     UpdateChartColumnNames(sTableRangeName, aOldColumnNames, aNewColumnNames);
   });
 }

@@ -73,15 +73,17 @@ void PassOrShow(std::int32_t lPage, Next&& next) {
 void ExecuteRun(std::int32_t lMode) {
   bRunAborted = false;
   if (lMode == 1) IgnoreErrors([] { oApplication->Run(kRefreshStartedMacro, {}); });
+  const auto jump = [&] {
+    PSJumpToStep(lMode == 0 ? step::kStart : step::kRefresh, origin::kOutside, nullptr);
+  };
   if (oApplication->ActiveChart()) {
-    // takes the selection off the chart
-    IgnoreErrors([] {
-      auto* oSheet = dynamic_cast<excel::Worksheet*>(&*oWorkbook->ActiveSheet());
-      if (oSheet != nullptr) oSheet->Cells(1, 1)->Activate();
-    });
+    // takes the selection off the chart; from here on errors are ignored, the run's own among them
+    IgnoreErrors([] { SheetWithCells(oWorkbook->ActiveSheet()->Name())->Cells(1, 1)->Activate(); }, jump,
+                 EndRun);
+  } else {
+    jump();
+    EndRun();
   }
-  PSJumpToStep(lMode == 0 ? step::kStart : step::kRefresh, origin::kOutside, nullptr);
-  EndRun();
   if (lMode == 1 && !bRunAborted) IgnoreErrors([] { oApplication->Run(kRefreshCompleteMacro, {}); });
 }
 

@@ -1,5 +1,8 @@
 #include "dom/Dom.h"
 
+#include <climits>
+#include <expat.h>
+#include <memory>
 #include <sstream>
 
 #include "dom/XmlDepth.h"
@@ -14,6 +17,22 @@ namespace {
 
 /// Elements within elements. A definition has four levels.
 constexpr int kDeepest = 256;
+
+/// pugixml reads much that isn't XML; whether a text is, a stricter parser tells.
+bool IsWellFormed(std::string_view xml) {
+  const std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser(XML_ParserCreate("UTF-8"),
+                                                                            XML_ParserFree);
+  return parser && xml.size() <= INT_MAX &&
+         XML_Parse(parser.get(), xml.data(), static_cast<int>(xml.size()), XML_TRUE) == XML_STATUS_OK;
+}
+
+/// Without the characters that XML can't hold in any way: a text with one of them would not parse again.
+std::string Writable(std::string text) {
+  std::erase_if(text, [](char c) {
+    return static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\n' && c != '\r';
+  });
+  return text;
+}
 
 }  // namespace
 
@@ -94,7 +113,7 @@ void IXMLDOMElement::setAttribute(const char* name, const Variant& value) {
   pugi::xml_node element = Checked();
   pugi::xml_attribute attribute = element.attribute(name);
   if (!attribute) attribute = element.append_attribute(name);
-  attribute.set_value(runtime::CStr(value).c_str());
+  attribute.set_value(Writable(runtime::CStr(value)).c_str());
 }
 
 Variant IXMLDOMElement::getAttribute(const char* name) const {
@@ -110,15 +129,15 @@ IXMLDOMDocument2 IXMLDOMDocument2::Create() {
 
 bool IXMLDOMDocument2::loadXML(std::string_view xml) {
   Checked().remove_children();
-  if (NestsDeeperThan(xml, kDeepest)) return false;
-  constexpr unsigned kFlags = (pugi::parse_full | pugi::parse_ws_pcdata) & ~pugi::parse_doctype;
-  const auto status = node_.append_buffer(xml.data(), xml.size(), kFlags, pugi::encoding_utf8);
-  // a fragment may hold several roots or none; a document has one
-  int roots = 0;
-  for (const auto& child : node_.children()) roots += child.type() == pugi::node_element;
-  if (status && roots == 1) return true;
-  node_.remove_children();
-  return false;
+  if (!IsWellFormed(xml) || NestsDeeperThan(xml, kDeepest)) return false;
+  pugi::xml_document parsed;
+  if (!parsed.load_buffer(xml.data(), xml.size(), pugi::parse_full | pugi::parse_ws_pcdata,
+                          pugi::encoding_utf8)) {
+    return false;
+  }
+  // a declaration or a document type can't stand below the tree's own root, and says nothing that we keep
+  for (const pugi::xml_node& node : parsed.children()) node_.append_copy(node);
+  return static_cast<bool>(documentElement());
 }
 
 IXMLDOMElement IXMLDOMDocument2::documentElement() const {
@@ -137,7 +156,7 @@ IXMLDOMElement IXMLDOMDocument2::createElement(const char* name) const {
 IXMLDOMNode IXMLDOMDocument2::createTextNode(std::string_view text) const {
   Checked();
   pugi::xml_node node = tree_->detached.append_child(pugi::node_pcdata);
-  node.set_value(std::string(text).c_str());
+  node.set_value(Writable(std::string(text)).c_str());
   return {tree_, node};
 }
 

@@ -76,7 +76,7 @@ class IXMLDOMDocument2 : public IXMLDOMNode {
   IXMLDOMDocument2() = default;  ///< Nothing; see Create
   static IXMLDOMDocument2 Create();
 
-  /// False, with the document left empty, if `xml` doesn't parse to a tree with one root element.
+  /// False, with the document left empty, if `xml` isn't well-formed.
   bool loadXML(std::string_view xml);
   IXMLDOMElement documentElement() const;
   IXMLDOMElement createElement(const char* name) const;

@@ -29,6 +29,7 @@ Ref<excel::Shape> FindShape(const Ref<excel::Worksheet>& oSheet, std::int32_t lT
   for (std::int32_t i = 1; i <= lCount; ++i) {
     auto oShape = oShapes->Item(i);
     if (oShape->Type() == lType && oShape->AlternativeText() == sID) return oShape;
+    YieldToHost();
   }
   return nullptr;
 }

@@ -20,8 +20,10 @@ class Collection {
 
   /// Error 457 if the key is taken.
   void Add(T item, std::string_view key) {
-    if (!index_.emplace(UCase(key), items_.size()).second) throw RuntimeError(error::kKeyExists);
+    std::string upper = UCase(key);
+    if (index_.contains(upper)) throw RuntimeError(error::kKeyExists);
     items_.push_back(std::move(item));
+    index_.emplace(std::move(upper), items_.size() - 1);
   }
 
   /// Error 5 if there is no such key.

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utf8proc.h>
 
+#include "runtime/RuntimeError.h"
+
 namespace plotsmith::runtime {
 namespace {
 
@@ -49,6 +51,9 @@ char32_t NextCharacter(std::string_view text, std::size_t& position) {
   return 0xFFFD;
 }
 
+/// Unicode has capitals for these, but the language's upper case leaves them: sharp s, dotless i, long s.
+bool KeepsItsCase(char32_t c) { return c == 0xDF || c == 0x131 || c == 0x17F; }
+
 }  // namespace
 
 void AppendUtf8(std::string& text, char32_t c) {
@@ -81,9 +86,9 @@ std::string_view UCase(std::string_view text, std::string& scratch) {
   scratch.clear();
   for (std::size_t i = 0; i < text.size();) {
     const char32_t c = NextCharacter(text, i);
-    constexpr char32_t kSharpS = 0xDF;  // its capital exists in Unicode, but nobody's upper case goes there
-    AppendUtf8(scratch,
-               c == kSharpS ? c : static_cast<char32_t>(utf8proc_toupper(static_cast<utf8proc_int32_t>(c))));
+    const char32_t upper =
+        KeepsItsCase(c) ? c : static_cast<char32_t>(utf8proc_toupper(static_cast<utf8proc_int32_t>(c)));
+    AppendUtf8(scratch, upper);
   }
   return scratch;
 }
@@ -113,6 +118,7 @@ std::size_t Len(std::string_view text) {
 }
 
 std::string Mid(std::string_view text, std::size_t start, std::size_t length) {
+  if (start == 0) throw RuntimeError(error::kInvalidCall);
   if (IsAscii(text)) return start > text.size() ? std::string() : std::string(text.substr(start - 1, length));
   const std::u16string units = ToUtf16(text);
   if (start > units.size()) return {};
@@ -150,6 +156,7 @@ std::string ToUtf8(std::u16string_view units) {
 
 std::string Replace(std::string_view text, std::string_view from, std::string_view to) {
   std::string result;
+  if (from.empty()) return std::string(text);
   for (;;) {
     const auto at = text.find(from);
     if (at == std::string_view::npos) return result.append(text);

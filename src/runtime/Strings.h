@@ -20,7 +20,7 @@ bool EqualsIgnoreCase(std::string_view a, std::string_view b);
 std::string_view Trim(std::string_view text);
 
 std::size_t Len(std::string_view text);
-/// `length` units from `start`, which counts from 1.
+/// `length` units from `start`, which counts from 1; error 5 before that.
 std::string Mid(std::string_view text, std::size_t start, std::size_t length);
 
 std::u16string ToUtf16(std::string_view text);

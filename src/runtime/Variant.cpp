@@ -1,5 +1,6 @@
 #include "runtime/Variant.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -15,49 +16,66 @@ namespace {
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
-/// `text` is digits, an optional point and an optional exponent, and nothing else. from_chars knows no
-/// locale.
+/// `text` is digits, an optional point and an optional exponent, and nothing else; infinity if it is too
+/// large. from_chars knows no locale.
 double DecimalValue(std::string text) {
   for (char& c : text) {
-    if (c == 'd' || c == 'D') c = 'e';
+    if (c == 'd' || c == 'D' || c == 'E') c = 'e';
   }
   double value = 0;
-  const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (status == std::errc::result_out_of_range) {
-    // from_chars leaves the value alone; a negative exponent means that it was too small, not too large
-    return text.find("e-") != std::string::npos || text.find("E-") != std::string::npos
-               ? 0.0
-               : std::numeric_limits<double>::infinity();
+  if (std::from_chars(text.data(), text.data() + text.size(), value).ec != std::errc::result_out_of_range)
+    return value;
+  // Out of range, too large or too small: by where the first digit stands that isn't 0.
+  const auto mark = text.find('e');
+  long long exponent = 0;
+  if (mark != std::string::npos) {
+    const auto parsed = std::from_chars(text.data() + mark + 1, text.data() + text.size(), exponent);
+    if (parsed.ec != std::errc()) return text[mark + 1] == '-' ? 0 : std::numeric_limits<double>::infinity();
   }
-  return value;
+  const std::string_view mantissa = std::string_view(text).substr(0, mark);
+  const auto point = std::min(mantissa.find('.'), mantissa.size());
+  const auto first = mantissa.find_first_not_of("0.");
+  const auto magnitude = static_cast<long long>(point) - static_cast<long long>(first) + exponent;
+  return magnitude > 0 ? std::numeric_limits<double>::infinity() : 0.0;
 }
 
 /// Digits in base 8 or 16, as 32 bits with sign where they fill them. No value if they don't fit.
 std::optional<double> RadixValue(std::string_view digits) {
   const int base = (digits[0] == 'h' || digits[0] == 'H') ? 16 : 8;
   digits.remove_prefix(1);
-  if (digits.ends_with('&')) digits.remove_suffix(1);
+  const bool isLong = digits.ends_with('&');
+  if (isLong) digits.remove_suffix(1);
   std::uint32_t bits = 0;
   const auto [end, status] = std::from_chars(digits.data(), digits.data() + digits.size(), bits, base);
   if (status != std::errc() || end != digits.data() + digits.size()) return std::nullopt;
-  // up to four hexadecimal digits are a 16-bit number
-  if (base == 16 && digits.size() <= 4) return static_cast<std::int16_t>(bits);
+  // up to four hexadecimal digits are a 16-bit number, unless "&" says otherwise
+  if (base == 16 && digits.size() <= 4 && !isLong) return static_cast<std::int16_t>(bits);
   return static_cast<std::int32_t>(bits);
 }
 
+/// Days of the language's calendar: 1 January 100 to 31 December 9999.
+constexpr double kFirstDay = -657434, kLastDay = 2958465;
+constexpr std::int64_t kDaySeconds = 86400;
+constexpr std::int64_t kDaysTo1970 = 25569;
+
+/// The short date and the long time of the United States, each where it says something.
 std::string DateText(double serial) {
-  const double days = std::floor(serial);
-  // 25569 is the serial of 1970-01-01
-  const auto seconds = static_cast<std::int64_t>(std::llround((serial - days) * 86400.0));
-  const std::time_t moment = static_cast<std::time_t>((days - 25569) * 86400) + seconds;
+  double days = std::trunc(serial);
+  if (!(days >= kFirstDay && days <= kLastDay)) throw RuntimeError(error::kTypeMismatch);
+  auto seconds = static_cast<std::int64_t>(std::llround(std::fabs(serial - days) * kDaySeconds));
+  if (seconds == kDaySeconds) {
+    days += 1;
+    seconds = 0;
+  }
+  const std::time_t moment = (static_cast<std::int64_t>(days) - kDaysTo1970) * kDaySeconds + seconds;
   std::tm parts{};
   if (gmtime_r(&moment, &parts) == nullptr) throw RuntimeError(error::kTypeMismatch);
   std::string text;
-  if (days != 0 || seconds == 0) {
+  if (days != 0) {
     text = std::to_string(parts.tm_mon + 1) + "/" + std::to_string(parts.tm_mday) + "/" +
            std::to_string(parts.tm_year + 1900);
   }
-  if (seconds != 0) {
+  if (days == 0 || seconds != 0) {
     std::array<char, 32> time{};
     const int hour = parts.tm_hour % 12 == 0 ? 12 : parts.tm_hour % 12;
     std::snprintf(time.data(), time.size(), "%d:%02d:%02d %s", hour, parts.tm_min, parts.tm_sec,
@@ -108,7 +126,10 @@ std::string NumberText(double value) {
          digits.substr(static_cast<std::size_t>(exponent) + 1);
 }
 
-std::optional<double> ParseNumber(std::string_view text) {
+namespace {
+
+/// The number that a text stands for; infinity if it stands for one that is too large.
+std::optional<double> ReadNumber(std::string_view text) {
   std::size_t i = 0;
   const auto at = [&](std::size_t p) { return p < text.size() ? text[p] : '\0'; };
   const auto skipSpace = [&] {
@@ -176,8 +197,14 @@ std::optional<double> ParseNumber(std::string_view text) {
   if (parenthesis || i != text.size()) return {};
   if (decimal[0] == '.') decimal.insert(0, "0");
   const double value = DecimalValue(decimal);
-  if (!std::isfinite(value)) return {};
   return minus ? -value : value;
+}
+
+}  // namespace
+
+std::optional<double> ParseNumber(std::string_view text) {
+  const auto number = ReadNumber(text);
+  return number && std::isfinite(*number) ? number : std::nullopt;
 }
 
 bool IsNumeric(std::string_view text) { return ParseNumber(text).has_value(); }
@@ -198,6 +225,7 @@ double Val(std::string_view source) {
     const std::string_view allowed = hexadecimal ? "0123456789abcdefABCDEF" : "01234567";
     while (length < text.size() && allowed.find(text[length]) != std::string_view::npos) ++length;
     if (!hexadecimal && text[1] != 'o' && text[1] != 'O') return 0;
+    if (length < text.size() && text[length] == '&') ++length;
     return RadixValue(std::string_view(text).substr(1, length - 1)).value_or(0);
   }
   std::size_t i = 0;
@@ -252,8 +280,10 @@ double CDbl(const Variant& value) {
   if (const auto* truth = value.If<bool>()) return *truth ? -1 : 0;
   if (const auto* date = value.If<Variant::Date>()) return date->serial;
   if (const auto* text = value.If<std::string>()) {
-    if (const auto number = ParseNumber(*text)) return *number;
-    throw RuntimeError(error::kTypeMismatch);
+    const auto number = ReadNumber(*text);
+    if (!number) throw RuntimeError(error::kTypeMismatch);
+    if (!std::isfinite(*number)) throw RuntimeError(error::kOverflow);
+    return *number;
   }
   if (value.IsNull()) throw RuntimeError(error::kInvalidNull);
   if (value.Is<Variant::Error>()) throw RuntimeError(error::kTypeMismatch);

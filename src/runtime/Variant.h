@@ -18,7 +18,8 @@ class Variant {
   struct Null {
     bool operator==(const Null&) const = default;
   };
-  /// A day serial of the workbook's date system.
+  /// A day serial, counted as the language counts: 2 is 1 January 1900, and a negative one has its time of
+  /// day in the fraction without the sign.
   struct Date {
     double serial;
     bool operator==(const Date&) const = default;

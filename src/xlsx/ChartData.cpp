@@ -56,7 +56,7 @@ void ForEachCell(const Source& source, const Visit& visit) {
   int index = 0;
   for (std::int32_t row = source.range.row1; row <= source.range.row2; ++row) {
     for (std::int32_t column = source.range.column1; column <= source.range.column2; ++column) {
-      visit(index++, row, column, source.sheet->CellValueAt(row, column));
+      visit(index++, row, column, source.sheet->Stored(row, column));
     }
   }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -43,10 +44,26 @@ std::optional<CellRange> ParseR1C1(std::string_view text);
 /// quotes.
 std::optional<SheetRange> ParseSheetRange(std::string_view text);
 
-/// A formula in which references into one sheet follow when rows of it are inserted or deleted: `count` rows
-/// at `row` (negative: deleted). `home` says whether the formula stands on that sheet, so that references
-/// without a sheet mean it too. Nothing if the formula stays as it is. What is deleted whole becomes #REF!.
-std::optional<std::string> ShiftRows(std::string_view formula, std::string_view sheet, bool home,
-                                     std::int32_t row, std::int32_t count);
+/// One corner of a reference in A1 style: a cell or, where one of the numbers is 0, only a row or a column.
+struct Corner {
+  std::int32_t row = 0, column = 0;
+  bool rowAbsolute = false, columnAbsolute = false;
+};
+
+/// A reference as a formula writes it: one corner, or two with a colon, in the order that they were written
+/// in.
+struct A1Reference {
+  Corner first, second;  ///< alike for a single cell
+  bool range = false;
+  std::size_t length = 0;  ///< of its text
+
+  std::string Text() const;
+};
+
+/// The reference that a text begins with, without a sheet.
+std::optional<A1Reference> ReadA1Reference(std::string_view text);
+
+/// What the name of a thing in a formula can consist of (of a function, a name, a sheet without quotes).
+bool IsNameCharacter(char c);
 
 }  // namespace plotsmith::xlsx

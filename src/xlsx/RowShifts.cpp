@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "runtime/Strings.h"
-#include "xlsx/Reference.h"
+#include "xlsx/Formula.h"
 
 namespace plotsmith::xlsx {
 

@@ -25,7 +25,7 @@ constexpr std::int32_t msoLine = 9;
 double Points(pugi::xml_node node) { return xml::ParseDouble(xml::Text(node)).value_or(0) / kEmuPerPoint; }
 
 /// A corner of an anchor. What lies in a cell can't lie behind its end.
-std::pair<double, double> Corner(pugi::xml_node marker, const SheetGeometry& geometry) {
+std::pair<double, double> PlaceOf(pugi::xml_node marker, const SheetGeometry& geometry) {
   const auto edge = [&](std::string_view index, std::string_view offset, const GridLines& lines,
                         std::int32_t most) {
     const auto at = std::clamp(xml::ParseInteger(xml::Text(xml::Child(marker, index))).value_or(0), 0LL,
@@ -220,11 +220,11 @@ Frame Shape::PlacedFrame() const {
             ExtentPoints(extent, "cy")};
   }
   const SheetGeometry& geometry = drawing_.Sheet().Geometry();
-  const auto [left, top] = Corner(xml::Child(anchor_, "from"), geometry);
+  const auto [left, top] = PlaceOf(xml::Child(anchor_, "from"), geometry);
   if (const auto extent = xml::Child(anchor_, "ext")) {
     return {left, top, ExtentPoints(extent, "cx"), ExtentPoints(extent, "cy")};
   }
-  const auto [right, bottom] = Corner(xml::Child(anchor_, "to"), geometry);
+  const auto [right, bottom] = PlaceOf(xml::Child(anchor_, "to"), geometry);
   return {left, top, right - left, bottom - top};
 }
 

@@ -380,6 +380,20 @@ void Workbook::WriteStyles() {
   if (!link) package_.AddRelationship(part_, names.RelationshipType("styles"), part);
 }
 
+void Workbook::WriteActiveTab() {
+  const auto active = static_cast<long long>(activeSheet_);
+  pugi::xml_node view = xml::Child(Root(), "bookViews", "workbookView");
+  if (xml::IntegerAttribute(view, "activeTab", 0) == active) return;
+  if (!view) {
+    const std::string prefix(xml::Prefix(Root().name()));
+    pugi::xml_node views = xml::Child(Root(), "bookViews");
+    if (!views) views = Root().insert_child_before((prefix + "bookViews").c_str(), xml::Child(Root(), "sheets"));
+    view = views.append_child((prefix + "workbookView").c_str());
+  }
+  xml::SetAttribute(view, "activeTab", std::to_string(active));
+  changed_ = true;
+}
+
 void Workbook::Save(const std::string& path) {
   for (const auto& sheet : sheets_) {
     if (sheet->worksheet) sheet->worksheet->Write();
@@ -387,11 +401,7 @@ void Workbook::Save(const std::string& path) {
   WriteCharts();
   ShiftNames();
   WriteStyles();
-  const auto view = xml::Child(Root(), "bookViews", "workbookView");
-  if (view && xml::IntegerAttribute(view, "activeTab", 0) != static_cast<long long>(activeSheet_)) {
-    xml::SetAttribute(view, "activeTab", std::to_string(activeSheet_));
-    changed_ = true;
-  }
+  WriteActiveTab();
   if (changed_) package_.Replace(part_, xml::Serialize(document_));
   changed_ = false;
   package_.Save(path);

@@ -105,6 +105,7 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   void RenumberLocalNames(std::size_t position, int step);
   void ShiftNames();
   void WriteCharts();
+  void WriteActiveTab();
   void WriteStyles();
   void EnsureTheme();
   [[noreturn]] void RaiseDamage(const PackageError& error);

@@ -29,8 +29,14 @@ void CheckCell(std::int32_t row, std::int32_t column) {
   }
 }
 
-CellValue::Kind NumberKind(const Styles& styles, std::uint32_t style) {
-  return styles.IsDate(style) ? CellValue::Kind::kDate : CellValue::Kind::kNumber;
+/// Days between the two systems' beginnings.
+constexpr double kDaysTo1904 = 1462;
+/// Behind 31 December 9999 a number in a date format is a number, and so is a negative one.
+constexpr double kDateEnd = 2958466;
+
+CellValue::Kind NumberKind(const Styles& styles, std::uint32_t style, double number) {
+  return number >= 0 && number < kDateEnd && styles.IsDate(style) ? CellValue::Kind::kDate
+                                                                  : CellValue::Kind::kNumber;
 }
 
 }  // namespace
@@ -77,7 +83,7 @@ CellValue Worksheet::Unpack(PackedValue value, std::uint32_t style) {
     case Kind::kEmpty:
       return {};
     case Kind::kNumber:
-      return {NumberKind(book_.Styles(), style), value.Number(), {}};
+      return {NumberKind(book_.Styles(), style, value.Number()), value.Number(), {}};
     case Kind::kBoolean:
       return {CellValue::Kind::kBoolean, static_cast<double>(value.Index()), {}};
     case Kind::kSharedText:
@@ -99,6 +105,13 @@ std::uint32_t Worksheet::StyleAt(std::int32_t row, std::int32_t column) {
 }
 
 CellValue Worksheet::CellValueAt(std::int32_t row, std::int32_t column) {
+  CellValue value = Stored(row, column);
+  // the language counts days in one system only
+  if (value.kind == CellValue::Kind::kDate && book_.Dates() == DateSystem::k1904) value.number += kDaysTo1904;
+  return value;
+}
+
+CellValue Worksheet::Stored(std::int32_t row, std::int32_t column) {
   CheckCell(row, column);
   if (!grid_) {
     const CellStore& cells = Contents().cells;
@@ -109,11 +122,12 @@ CellValue Worksheet::CellValueAt(std::int32_t row, std::int32_t column) {
   const GridCell* cell = grid_->Find(row, column);
   if (cell == nullptr) return {};
   const bool number = cell->kind == CellValue::Kind::kNumber || cell->kind == CellValue::Kind::kDate;
-  return {number ? NumberKind(book_.Styles(), cell->style) : cell->kind, cell->number, cell->text};
+  return {number ? NumberKind(book_.Styles(), cell->style, cell->number) : cell->kind, cell->number,
+          cell->text};
 }
 
 std::string_view Worksheet::CellTextAt(std::int32_t row, std::int32_t column, std::string& scratch) {
-  const CellValue value = CellValueAt(row, column);
+  const CellValue value = Stored(row, column);
   switch (value.kind) {
     case CellValue::Kind::kEmpty:
       return {};

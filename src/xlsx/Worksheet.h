@@ -40,6 +40,9 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   const std::string& SheetName() const { return Entry().name; }
   const std::string& Part() const { return Entry().part; }
   auto JournalPath() const { return Path(); }
+  /// A cell as it is stored: other than for the port, the serial of a date counts in the workbook's own
+  /// system.
+  excel::CellValue Stored(std::int32_t row, std::int32_t column);
   CellRange UsedCells();
   void ClearCells(const CellRange& range);
   void SetNumberFormat(const CellRange& range, std::string_view code);

@@ -68,6 +68,7 @@ TEST_F(PivotTest, TheFiveWaysToLayATableOut) {
       {"the last of several category columns counts", Columns("categories", {"Product", "Region"}, "rows"),
        none, value, "|Amount\nWidget|\nGadget|\nEast|18\nWest|5"},
       {"rows, none without values", region, none, "", "(no map)"},
+      {"values without a column", region, none, "<values/>", "(no map)"},
       {"a heading twice", Columns("categories", {"Amount", "AMOUNT"}), none, "", "(no map)"},
   };
   OpenSales();
@@ -76,11 +77,12 @@ TEST_F(PivotTest, TheFiveWaysToLayATableOut) {
     EXPECT_EQ(Block({"VEX_Chart1", "column", "table-id=\"Data1\"", c.categories, c.series, c.values}),
               c.block);
   }
-  ASSERT_EQ(Messages().size(), 2u);
+  ASSERT_EQ(Messages().size(), 3u);
   EXPECT_EQ(
       Messages()[0],
       "Brindle Plotsmith: PSChartBuilder.BuildPivotMap\nFailed to populate a data definition collection");
-  EXPECT_EQ(Messages()[1],
+  EXPECT_TRUE(Messages()[1].ends_with("\nObject variable or With block variable not set"));
+  EXPECT_EQ(Messages()[2],
             "Brindle Plotsmith: PSChartBuilder.BuildPivotMap\nThis key is already associated with an element "
             "of this collection");
 }

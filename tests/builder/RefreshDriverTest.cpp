@@ -123,6 +123,7 @@ TEST_F(RefreshDriverTest, OneTableRefreshesWhatHangsOnIt) {
     ++versions;
   EXPECT_EQ(versions, 4u) << "every definition is saved, not only those refreshed";
   EXPECT_TRUE(colTables) << "nothing ends the run on this road";
+  EXPECT_EQ(Count("Chart.PlotArea.Interior.ColorIndex = -4142"), 0) << "the charts aren't new";
 }
 
 TEST_F(RefreshDriverTest, ANewChartGetsABarePlotArea) {
@@ -167,8 +168,8 @@ TEST_F(RefreshDriverTest, StoredPropertiesAndTheirDefaults) {
 TEST_F(RefreshDriverTest, CommentsComeAndGoInPieces) {
   S text;
   for (int i = 0; i < 40; ++i) text += "0123456789";
-  text += "\xF0\x9D\x84\x9E";  // unit 401 and 402
-  text.insert(199, "\n");
+  text.replace(199, 2, "\xF0\x9D\x84\x9E");  // units 200 and 201: the cut goes through the character
+  text.insert(300, "\n");
   Definition definition{"VEX_Chart1"};
   definition.rest = "<comment>" + text + "</comment>";
   Open(SalesBook({definition}));

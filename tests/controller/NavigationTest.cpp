@@ -169,7 +169,6 @@ TEST_F(EntryTest, GuardsSpeakInTheirOrder) {
   PlainBook book = SalesBook({});
   book.workbookExtra = "<workbookProtection lockStructure=\"true\"/>";
   Open(book);
-  const S before = Cells("Charts", 1, 1, 1, 1);
   Refresh();
   EXPECT_EQ(Messages().back(),
             "Brindle Plotsmith: This workbook has been protected. To use the Plotsmith you need to turn off "
@@ -177,28 +176,32 @@ TEST_F(EntryTest, GuardsSpeakInTheirOrder) {
   EXPECT_FALSE(Book().Changed());
   EXPECT_FALSE(oWorkbook);
 
-  // a shared workbook has revision headers
-  book.workbookExtra = "";
-  book.extraParts = {{"xl/revisions/revisionHeaders.xml", "<headers/>"}};
-  book.Write(folder_ / "shared.xlsx");
-  auto package = xlsx::Package::Open(folder_ / "shared.xlsx");
-  package.AddRelationship(
-      "/xl/workbook.xml",
-      "http://schemas.openxmlformats.org/officeDocument/2006/relationships/revisionHeaders",
-      "/xl/revisions/revisionHeaders.xml");
-  package.Save(folder_ / "shared.xlsx");
-  OpenFile(folder_ / "shared.xlsx");
-  Refresh();
-  EXPECT_EQ(
-      Messages().back(),
-      "Brindle Plotsmith: This is a shared workbook. To use the Plotsmith you need to turn off workbook "
-      "sharing.");
+  // a shared workbook has revision headers; of one that is protected too, only the protection is told
+  for (const bool isProtected : {true, false}) {
+    if (!isProtected) book.workbookExtra = "";
+    book.extraParts = {{"xl/revisions/revisionHeaders.xml", "<headers/>"}};
+    book.Write(folder_ / "shared.xlsx");
+    auto package = xlsx::Package::Open(folder_ / "shared.xlsx");
+    package.AddRelationship(
+        "/xl/workbook.xml",
+        "http://schemas.openxmlformats.org/officeDocument/2006/relationships/revisionHeaders",
+        "/xl/revisions/revisionHeaders.xml");
+    package.Save(folder_ / "shared.xlsx");
+    OpenFile(folder_ / "shared.xlsx");
+    Refresh();
+    EXPECT_EQ(Messages().back(), isProtected ? "Brindle Plotsmith: This workbook has been protected. To use "
+                                               "the Plotsmith you need to turn off "
+                                               "Structure Protection."
+                                             : "Brindle Plotsmith: This is a shared workbook. To use the "
+                                               "Plotsmith you need to turn off workbook "
+                                               "sharing.");
+  }
 
   host_ = xlsx::Application::Create();
   ResetRunVariables();
   Refresh();
   EXPECT_EQ(Messages().back(), "Brindle Plotsmith: You must have a workbook open to use the Plotsmith.");
-  EXPECT_EQ(Messages().size(), 3u);
+  EXPECT_EQ(Messages().size(), 4u);
 }
 
 /// A host that is in the middle of something: it refuses to be made deaf.
@@ -249,15 +252,35 @@ TEST_F(EntryTest, TheFirstCallersHostAndNameStay) {
   EXPECT_TRUE(oWorkbook) << "this road doesn't let go of the workbook";
   const auto second = xlsx::Application::Create();
   controller.RefreshPlotsmithData(second, "Second", "second.chm");
+  EXPECT_EQ(Messages().back(), "Brindle Plotsmith: You must have a workbook open to use the Plotsmith.")
+      << "the workbook is the caller's";
   EXPECT_EQ(sCustomAppName, "");
   EXPECT_EQ(App.HelpFile, "second.chm");
   EXPECT_TRUE(oApplication == excel::Ref<excel::Application>(first));
   ResetRunVariables();
   controller.RefreshChartsForTable(second, table);  // no workbook, and no guard that says so
-  EXPECT_EQ(Messages(), (std::vector<S>{"Brindle Plotsmith: PSFunctions.RetrieveTableDefinitions\nObject "
-                                        "variable or With block variable not set",
-                                        "Brindle Plotsmith: PSFunctions.RetrieveChartDefinitions\nObject "
-                                        "variable or With block variable not set"}));
+  ASSERT_EQ(Messages().size(), 3u);
+  EXPECT_EQ(Messages()[1],
+            "Brindle Plotsmith: PSFunctions.RetrieveTableDefinitions\nObject variable or With block variable "
+            "not set");
+  EXPECT_EQ(Messages()[2],
+            "Brindle Plotsmith: PSFunctions.RetrieveChartDefinitions\nObject variable or With block variable "
+            "not set");
+}
+
+TEST_F(EntryTest, RenamedColumnsReportUnderTheShorterName) {
+  Open(SalesBook({{"VEX_Chart1"}}));
+  CPlotsmithController controller;
+  std::vector<S> before = {"Region"}, after = {"Area"};
+  controller.UpdateChartColumnNamesForTable(host_, "Data1", before, after);
+  EXPECT_TRUE(Messages().empty());
+  EXPECT_NE(Cells("VEX_ChartDefinitions", 2, 1, 2, 1).find("<column name=\"Area\""), S::npos);
+  ResetRunVariables();
+  controller.UpdateChartColumnNamesForTable(nullptr, "Data1", before, after);
+  EXPECT_EQ(
+      Messages(),
+      std::vector<S>{"Brindle Plotsmith: CPlotsmithController.UpdateChartColumnNames\nObject variable or "
+                     "With block variable not set"});
 }
 
 }  // namespace

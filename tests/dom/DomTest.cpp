@@ -11,7 +11,12 @@ TEST(DomTest, WhatDoesNotParseLeavesAnEmptyDocument) {
   auto document = IXMLDOMDocument2::Create();
   ASSERT_TRUE(document.loadXML("<!-- c --><chart a='1'/>"));
   EXPECT_EQ(document.documentElement().nodeName(), "chart");
-  for (const char* xml : {"", "text", "<a>", "<a/><b/>", "<a></b>", "</a>"}) {
+  ASSERT_TRUE(
+      document.loadXML("<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n<!DOCTYPE chart>\n<chart a='1'/>\n"));
+  EXPECT_EQ(document.xml(), "<chart a=\"1\"/>");
+  for (const char* xml :
+       {"", "text", "<a>", "<a/><b/>", "<a></b>", "</a>", "x<a/>", "<a/>x", "<a b='1' b='2'/>", "<a>&</a>",
+        "<a b='<'/>", "<a>&nbsp;</a>", "<a>\x0B</a>", " <?xml version='1.0'?><a/>"}) {
     EXPECT_FALSE(document.loadXML(xml)) << xml;
     EXPECT_FALSE(document.documentElement()) << xml;
   }
@@ -25,6 +30,9 @@ TEST(DomTest, TextsAndAttributesSurviveARoundTrip) {
   auto chart = document.createElement("chart");
   chart.setAttribute("title", "a < b & \"c\"\n\t d");
   chart.setAttribute("number", 2.5);
+  chart.setAttribute("control",
+                     "a\x01\x0B"
+                     "b");
   auto comment = document.createElement("comment");
   comment.appendChild(document.createTextNode("  two\r\nlines "));
   chart.appendChild(comment);
@@ -36,6 +44,7 @@ TEST(DomTest, TextsAndAttributesSurviveARoundTrip) {
   EXPECT_EQ(root.getAttribute("title"), runtime::Variant("a < b & \"c\"\n\t d"));
   EXPECT_EQ(root.getAttribute("number"), runtime::Variant("2.5"));
   EXPECT_TRUE(root.getAttribute("absent").IsNull());
+  EXPECT_EQ(root.getAttribute("control"), runtime::Variant("ab"));
   EXPECT_EQ(root.selectSingleNode("comment").firstChild().nodeValue(), "  two\nlines ") << "line ends fold";
 }
 

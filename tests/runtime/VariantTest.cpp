@@ -48,12 +48,22 @@ TEST(VariantTest, TextsAsNumbers) {
     EXPECT_TRUE(IsNumeric(Variant(text))) << text;
     EXPECT_EQ(CDbl(text), value) << text;
   }
-  for (const char* text :
-       {"",  " ",  "abc", "5%",     "1.2.3", "--5",  "(5",   "5)",       "1e",  "1 2", ",5",
-        "$", "&H", "&HG", "1E+400", "12x",   "True", "0x10", "1/2/2020", "inf", "nan"}) {
+  for (const char* text : {"",   " ", "abc", "5%",  "1.2.3", "--5",  "(5",   "5)",       "1e",  "1 2",
+                           ",5", "$", "&H",  "&HG", "12x",   "True", "0x10", "1/2/2020", "inf", "nan"}) {
     EXPECT_FALSE(IsNumeric(Variant(text))) << text;
     EXPECT_EQ(ErrorOf([&] { CDbl(text); }), error::kTypeMismatch) << text;
   }
+}
+
+TEST(VariantTest, NumbersOutOfRange) {
+  const std::string small = "0." + std::string(400, '0') + "1e3", large = std::string(400, '9') + "e-3";
+  EXPECT_EQ(CDbl(small), 0);
+  for (const std::string& text : {large, std::string("1E+400"), std::string("-1E+400")}) {
+    EXPECT_EQ(ErrorOf([&] { CDbl(text); }), error::kOverflow) << text;
+    EXPECT_EQ(ErrorOf([&] { Val(std::string_view(text)); }), error::kOverflow) << text;
+    EXPECT_FALSE(IsNumeric(Variant(text)));
+  }
+  EXPECT_EQ(CDbl("0E+999999999999999999999"), 0);
 }
 
 TEST(VariantTest, ConversionsOfOtherTypes) {
@@ -64,6 +74,10 @@ TEST(VariantTest, ConversionsOfOtherTypes) {
   EXPECT_EQ(CDbl(Variant::Date{43831.5}), 43831.5);
   EXPECT_EQ(CStr(Variant::Date{43831}), "1/1/2020");
   EXPECT_EQ(CStr(Variant::Date{43831.75}), "1/1/2020 6:00:00 PM");
+  EXPECT_EQ(CStr(Variant::Date{0}), "12:00:00 AM");
+  EXPECT_EQ(CStr(Variant::Date{43831.9999999}), "1/2/2020");
+  EXPECT_EQ(CStr(Variant::Date{-1.25}), "12/29/1899 6:00:00 AM");
+  EXPECT_EQ(ErrorOf([] { CStr(Variant::Date{1e300}); }), error::kTypeMismatch);
   for (const auto& value : {kNull, Variant(Variant::Error{2007})}) {
     const int number = value.IsNull() ? error::kInvalidNull : error::kTypeMismatch;
     EXPECT_EQ(ErrorOf([&] { CStr(value); }), number);
@@ -94,9 +108,10 @@ TEST(VariantTest, Booleans) {
 
 TEST(VariantTest, ValTakesTheNumberInFront) {
   const std::pair<const char*, double> cases[] = {
-      {"11.0", 11},   {"16.0.1234", 16}, {"9pt", 9},   {" 1 2 3 ", 123}, {"-3.5e2x", -350}, {"1e", 1},
-      {"1d2", 100},   {"abc", 0},        {"", 0},      {"$5", 0},        {"1,5", 1},        {".5.5", 0.5},
-      {"&HFFx", 255}, {"-1E+50", -1e50}, {"\t7\n", 7}, {"-", 0}};
+      {"11.0", 11},      {"16.0.1234", 16}, {"9pt", 9},     {" 1 2 3 ", 123}, {"-3.5e2x", -350},
+      {"1e", 1},         {"1d2", 100},      {"abc", 0},     {"", 0},          {"$5", 0},
+      {"1,5", 1},        {".5.5", 0.5},     {"&HFFx", 255}, {"&HFFFF", -1},   {"&HFFFF&", 65535},
+      {"-1E+50", -1e50}, {"\t7\n", 7},      {"-", 0}};
   for (const auto& [text, value] : cases) EXPECT_EQ(Val(std::string_view(text)), value) << text;
   EXPECT_EQ(Val(Variant(2.25)), 2.25);
 }

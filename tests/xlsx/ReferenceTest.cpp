@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "xlsx/Reference.h"
+#include "xlsx/Formula.h"
 #include "xlsx/RowShifts.h"
 
 namespace plotsmith::xlsx {

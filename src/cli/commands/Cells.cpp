@@ -70,7 +70,7 @@ int CellsCommand::Run(const GlobalOptions& options, const Streams& streams) {
     for (std::int32_t row = range->range.row1; row <= lastRow; ++row) {
       Json cells = Json::array();
       for (std::int32_t column = range->range.column1; column <= lastColumn; ++column) {
-        cells.push_back(value_ ? ValueOf(sheet->CellValueAt(row, column))
+        cells.push_back(value_ ? ValueOf(sheet->Stored(row, column))
                                : Json(std::string(sheet->CellTextAt(row, column, scratch))));
       }
       if (json_) {

@@ -28,13 +28,12 @@ std::optional<std::string> Shown(std::string_view code, std::string_view value, 
 }  // namespace
 
 CLI::App* FormatCommand::Declare(CLI::App& app) {
-  verb_ = app.add_subcommand("format", "Show what a number format makes of a value");
-  verb_->footer("plotsmith format FORMAT VALUE\nplotsmith format --tsv < FILE");
-  verb_->add_flag("--tsv", tsv_, "Read lines of format, tab, value; write a text for each");
-  verb_->add_flag("--date1904", date1904_, "Count days from 1904");
-  verb_->allow_extras();  // FORMAT and VALUE, which may begin with a minus
-  verb_->fallthrough(false);
-  return verb_;
+  CLI::App* verb = app.add_subcommand("format", "Show what a number format makes of a value");
+  verb->footer("plotsmith format FORMAT VALUE\nplotsmith format --tsv < FILE");
+  verb->add_flag("--tsv", tsv_, "Read lines of format, tab, value; write a text for each");
+  verb->add_flag("--date1904", date1904_, "Count days from 1904");
+  verb->add_option("FORMAT VALUE", arguments_, "The format's code, and a number, TRUE, FALSE or a text");
+  return verb;
 }
 
 int FormatCommand::Run(const GlobalOptions&, const Streams& streams) {
@@ -50,11 +49,10 @@ int FormatCommand::Run(const GlobalOptions&, const Streams& streams) {
     }
     return exit_code::kDone;
   }
-  const auto arguments = verb_->remaining();
-  if (arguments.size() != 2)
+  if (arguments_.size() != 2)
     throw CommandError(exit_code::kUsage, "format wants FORMAT and VALUE, or --tsv.");
-  const auto text = Shown(arguments[0], arguments[1], dates);
-  if (!text) throw CommandError(exit_code::kUsage, "\"" + arguments[0] + "\" is no number format.");
+  const auto text = Shown(arguments_[0], arguments_[1], dates);
+  if (!text) throw CommandError(exit_code::kUsage, "\"" + arguments_[0] + "\" is no number format.");
   streams.out << *text << '\n';
   return exit_code::kDone;
 }

@@ -11,7 +11,7 @@ class FormatCommand final : public Command {
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:
-  CLI::App* verb_ = nullptr;
+  std::vector<std::string> arguments_;
   bool tsv_ = false;
   bool date1904_ = false;
 };

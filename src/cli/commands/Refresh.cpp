@@ -12,9 +12,12 @@ namespace {
 
 constexpr const char* kHostName = "plotsmith";
 
-/// Whether the workbook knows a table of that id, or has a chart that wants one.
+/// Whether the workbook knows a table of exactly that id, or has a chart that wants one.
 bool IsTableKnown(const std::string& id) {
-  if (CollectionHasKey(id, colTables)) return true;
+  const auto isTable = [&](const dom::IXMLDOMDocument2& document) {
+    return GetAttributeText(document.selectSingleNode("table"), "id") == id;
+  };
+  if (std::any_of(colTables->begin(), colTables->end(), isTable)) return true;
   return std::any_of(colCharts->begin(), colCharts->end(), [&](const dom::IXMLDOMDocument2& document) {
     const auto chart = document.selectSingleNode("chart");
     return GetAttributeText(chart, "table-id") == id ||
@@ -33,6 +36,7 @@ CLI::App* RefreshCommand::Declare(CLI::App& app) {
 }
 
 int RefreshCommand::Run(const GlobalOptions& options, const Streams& streams) {
+  if (table_ && table_->empty()) throw CommandError(exit_code::kUsage, "--table wants the id of a table.");
   Session session(book_, options, streams);
   session.CheckWritable(output_);
   CPlotsmithController controller;

@@ -1,0 +1,183 @@
+#include "xlsx/Formula.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "runtime/Strings.h"
+#include "xlsx/Limits.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+constexpr std::string_view kLost = "#REF!";
+
+/// Where a span of rows lies after the change; nothing if it is gone.
+std::optional<std::pair<std::int32_t, std::int32_t>> ShiftSpan(std::int32_t first, std::int32_t last,
+                                                               std::int32_t row, std::int32_t count) {
+  if (count >= 0) {
+    const auto moved = [&](std::int32_t at) {
+      return at < row ? at
+                      : std::min<std::int64_t>(std::int64_t{at} + count, limits::kRows + std::int64_t{1});
+    };
+    if (moved(first) > limits::kRows) return std::nullopt;
+    return std::pair{static_cast<std::int32_t>(moved(first)),
+                     static_cast<std::int32_t>(std::min<std::int64_t>(moved(last), limits::kRows))};
+  }
+  const std::int32_t gone = -count, behind = row + gone;  // rows from `row` to before `behind` go
+  if (first >= row && last < behind) return std::nullopt;
+  if (first >= behind) {
+    first -= gone;
+  } else if (first > row) {
+    first = row;
+  }
+  if (last >= behind) {
+    last -= gone;
+  } else if (last >= row) {
+    last = row - 1;
+  }
+  return std::pair{first, last};
+}
+
+/// False if the reference is gone.
+bool Shift(A1Reference& reference, std::int32_t row, std::int32_t count) {
+  const bool ascending = reference.first.row <= reference.second.row;
+  std::int32_t& low = ascending ? reference.first.row : reference.second.row;
+  std::int32_t& high = ascending ? reference.second.row : reference.first.row;
+  const auto span = ShiftSpan(low, high, row, count);
+  if (!span) return false;
+  low = span->first;
+  high = span->second;
+  return true;
+}
+
+}  // namespace
+
+FormulaReader::Piece FormulaReader::Take(std::size_t length) {
+  Piece piece;
+  piece.text = rest_.substr(0, length);
+  rest_.remove_prefix(piece.text.size());
+  return piece;
+}
+
+/// A sheet in quotes: of another book ('[1]Sheet'), or two with a colon, it is no name of a sheet.
+FormulaReader::Piece FormulaReader::TakeQuoted() {
+  std::string name;
+  std::size_t i = 1;
+  for (; i < rest_.size(); ++i) {
+    if (rest_[i] != '\'') {
+      name += rest_[i];
+    } else if (i + 1 < rest_.size() && rest_[i + 1] == '\'') {
+      name += rest_[i++];
+    } else {
+      break;
+    }
+  }
+  ++i;
+  if (i < rest_.size() && rest_[i] == '!') ++i;
+  place_ = name.find_first_of("[:") == std::string::npos ? Place::kSheet : Place::kElsewhere;
+  sheet_ = std::move(name);
+  return Take(i);
+}
+
+/// The columns of a table, or the number of another book with the sheet behind it.
+FormulaReader::Piece FormulaReader::TakeBracketed() {
+  int depth = 0;
+  std::size_t i = 0;
+  for (; i < rest_.size(); ++i) {
+    if (rest_[i] == '\'' && depth > 0) {
+      ++i;  // what follows is meant literally
+    } else if (rest_[i] == '[') {
+      ++depth;
+    } else if (rest_[i] == ']' && --depth == 0) {
+      break;
+    }
+  }
+  i = std::min(i + 1, rest_.size());
+  std::size_t sheetEnd = i;
+  while (sheetEnd < rest_.size() && IsNameCharacter(rest_[sheetEnd])) ++sheetEnd;
+  if (sheetEnd == rest_.size() || rest_[sheetEnd] != '!') return Take(i);
+  place_ = Place::kElsewhere;
+  return Take(sheetEnd + 1);
+}
+
+/// A reference, a sheet with its "!", or any other word.
+FormulaReader::Piece FormulaReader::TakeName() {
+  if (auto reference = ReadA1Reference(rest_)) {
+    Piece piece = Take(reference->length);
+    piece.reference = reference;
+    piece.place = std::exchange(place_, Place::kHome);
+    piece.sheet = std::exchange(sheet_, {});
+    return piece;
+  }
+  place_ = Place::kHome;
+  std::size_t end = 0;
+  while (end < rest_.size() && (IsNameCharacter(rest_[end]) || rest_[end] == '$')) ++end;
+  const bool several = end < rest_.size() && rest_[end] == ':';
+  std::size_t sheetEnd = end;
+  if (several) {
+    for (++sheetEnd; sheetEnd < rest_.size() && IsNameCharacter(rest_[sheetEnd]);) ++sheetEnd;
+  }
+  if (sheetEnd == rest_.size() || rest_[sheetEnd] != '!') return Take(std::max<std::size_t>(end, 1));
+  place_ = several ? Place::kElsewhere : Place::kSheet;
+  sheet_ = rest_.substr(0, end);
+  return Take(sheetEnd + 1);
+}
+
+std::optional<FormulaReader::Piece> FormulaReader::Next() {
+  if (rest_.empty()) return std::nullopt;
+  const char c = rest_[0];
+  if (c == '\'') return TakeQuoted();
+  if (c == '[') return TakeBracketed();
+  if (c == '$' || IsNameCharacter(c)) return TakeName();
+  place_ = Place::kHome;
+  if (c != '"') return Take(1);
+  const auto end = rest_.find('"', 1);
+  return Take(end == std::string_view::npos ? rest_.size() : end + 1);
+}
+
+std::optional<std::string> ShiftRows(std::string_view formula, std::string_view sheet, bool home,
+                                     std::int32_t row, std::int32_t count) {
+  std::string shifted;
+  bool changed = false;
+  FormulaReader reader(formula);
+  while (auto piece = reader.Next()) {
+    const bool here =
+        piece->reference && piece->reference->first.row > 0 &&
+        (piece->place == FormulaReader::Place::kSheet ? runtime::EqualsIgnoreCase(piece->sheet, sheet)
+                                                      : piece->place == FormulaReader::Place::kHome && home);
+    if (!here) {
+      shifted += piece->text;
+      continue;
+    }
+    const std::string text =
+        Shift(*piece->reference, row, count) ? piece->reference->Text() : std::string(kLost);
+    changed |= text != piece->text;
+    shifted += text;
+  }
+  if (!changed) return std::nullopt;
+  return shifted;
+}
+
+std::string OffsetFormula(std::string_view formula, std::int32_t rows, std::int32_t columns) {
+  std::string moved;
+  FormulaReader reader(formula);
+  while (auto piece = reader.Next()) {
+    if (!piece->reference) {
+      moved += piece->text;
+      continue;
+    }
+    bool lost = false;
+    for (Corner* corner : {&piece->reference->first, &piece->reference->second}) {
+      if (corner->row > 0 && !corner->rowAbsolute) corner->row += rows;
+      if (corner->column > 0 && !corner->columnAbsolute) corner->column += columns;
+      lost |= corner->row < 0 || corner->row > limits::kRows || corner->column < 0 ||
+              corner->column > limits::kColumns;
+      // a row or column that moved off the sheet must not be taken for one that isn't there
+      lost |= corner->row == 0 && corner->column == 0;
+    }
+    moved += lost ? std::string(kLost) : piece->reference->Text();
+  }
+  return moved;
+}
+
+}  // namespace plotsmith::xlsx

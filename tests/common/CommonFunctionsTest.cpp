@@ -1,0 +1,146 @@
+#include "common/App.h"
+#include "common/CommonFunctions.h"
+#include "common/Messages.h"
+#include "common/RunVariables.h"
+#include "metadata/MetadataStore.h"
+#include "pages/frmBusyPS.h"
+#include "tests/support/HostTest.h"
+#include "xlsx/Worksheet.h"
+
+namespace plotsmith {
+namespace {
+
+using S = std::string;
+
+class CommonFunctionsTest : public test::HostTest {};
+
+TEST_F(CommonFunctionsTest, MessagesAndTheOneThatIsPending) {
+  sPendingMessage = "pending";
+  ShowMessage("");
+  ShowMessage("");
+  sPendingMessage = "lost";
+  ShowMessage("text");
+  ShowMessage("");
+  EXPECT_EQ(Messages(), (std::vector<S>{"Brindle Plotsmith: pending", "Brindle Plotsmith: text"}));
+  ShowRuntimeError(runtime::RuntimeError(13));
+  EXPECT_EQ(Messages().back(),
+            "Brindle Plotsmith: ERROR\nNumber: 13\nDescription: Type mismatch\nSource: Plotsmith");
+  EXPECT_EQ(AskOkCancel("Sure?"), 1);
+}
+
+TEST_F(CommonFunctionsTest, TokensFillPlaceholdersByPosition) {
+  EXPECT_EQ(ReplaceTokens("/TKN/ and /TKN/", {"a"}), "a and ");
+  EXPECT_EQ(ReplaceTokens("/TKN/ and /TKN/", {}), " and ");
+  EXPECT_EQ(ReplaceTokens("/TKN/", {1, "surplus"}), "1");
+  EXPECT_EQ(ReplaceTokens("/TKN/ /TKN/", {"</TKN/>", "b"}), "<b> ")
+      << "a token may bring a placeholder along";
+}
+
+TEST_F(CommonFunctionsTest, SheetsByName) {
+  test::PlainBook book = test::SalesBook({});
+  book.Sheet("Charts").state = "hidden";
+  Open(book);
+  EXPECT_TRUE(SheetExists("vex_chartDEFINITIONS"));
+  EXPECT_FALSE(SheetExists("Nowhere"));
+  EXPECT_TRUE(SheetIsVisible("Data1"));
+  EXPECT_FALSE(SheetIsVisible("Charts"));
+  EXPECT_TRUE(SheetIsVisible("VEX_ChartDefinitions")) << "very hidden isn't hidden";
+  EXPECT_FALSE(SheetIsVisible("Nowhere"));
+  for (const char* bad : {"a/b", "", "Data1", "History", "'x", "a name that is much too long for it"}) {
+    EXPECT_FALSE(CreateSheet(bad, 1, -1)) << bad;
+  }
+  EXPECT_EQ(oWorkbook->Sheets()->Count(), 3) << "no stray sheet stays behind";
+  EXPECT_TRUE(CreateSheet("First", 0, -1));
+  EXPECT_EQ(oWorkbook->Sheets()->Item(1)->Name(), "First");
+  EXPECT_EQ(oWorkbook->ActiveSheet()->Name(), "First") << "a visible one stays active";
+  EXPECT_TRUE(CreateSheet("Last", 1, 2));
+  EXPECT_EQ(oWorkbook->ActiveSheet()->Name(), "First");
+  EXPECT_TRUE(CreateSheet("Before", 7, 0)) << "where the host puts it";
+  EXPECT_EQ(oWorkbook->Sheets()->Item(1)->Name(), "Before");
+  SaveAndReopen();
+  EXPECT_EQ(oWorkbook->Sheets()->Item(6)->Name(), "Last");
+  EXPECT_EQ(oWorkbook->ActiveSheet()->Name(), "First");
+}
+
+TEST_F(CommonFunctionsTest, CellsInEachKind) {
+  test::PlainBook book = test::SalesBook({});
+  const auto raw = [](const char* xml) { return test::RawCell{xml}; };
+  book.Sheet("Data1").rows = {
+      {raw(" t='e'><v>#DIV/0!</v></c>"), S(" 12 "), S("x"), raw(" t='b'><v>1</v></c>"), 2.5, {}}};
+  Open(book);
+  auto& sheet = *Book().FindWorksheet("Data1");
+  using runtime::Variant;
+  const std::tuple<int, Variant, Variant, Variant> cases[] = {
+      {1, "#DIV/0!", 0.0, ""},   {2, " 12 ", 12.0, " 12 "}, {3, "x", 0.0, "x"},
+      {4, "TRUE", -1.0, "True"}, {5, "2.5", 2.5, "2.5"},    {6, "", 0.0, ""}};
+  for (const auto& [column, text, number, string] : cases) {
+    EXPECT_EQ(GetCellValue(sheet, 1, column, 0), text) << column;
+    EXPECT_EQ(GetCellValue(sheet, 1, column, 1), number) << column;
+    EXPECT_EQ(GetCellValue(sheet, 1, column, 2), string) << column;
+  }
+  EXPECT_TRUE(GetCellValue(sheet, 1, 1, 9).IsEmpty());
+  EXPECT_TRUE(GetCellValue(sheet, 0, 1, 9).IsNull());
+  EXPECT_EQ(GetCellValue(sheet, 0, 1, 0), Variant(""));
+  EXPECT_EQ(GetCellValue(sheet, 1, 20000, 1), Variant(0.0));
+}
+
+TEST_F(CommonFunctionsTest, SampleNumbers) {
+  Open(test::SalesBook({}));
+  EXPECT_EQ(FormatSampleNumber("#,##0.00"), "12,345.68");
+  EXPECT_EQ(FormatSampleNumber("General"), "12345.6789");
+  EXPECT_EQ(Cells("VEX_ChartDefinitions", 1, 2, 1, 2), "");
+  EXPECT_EQ(FormatSampleNumber("0.0.\""), "(invalid format)");
+}
+
+/// A desktop whose clock stands where the test puts it.
+class ClockDesktop : public desktop::Desktop {
+ public:
+  std::int32_t MsgBox(std::string_view, desktop::Buttons, desktop::Icon, std::string_view) override {
+    return 1;
+  }
+  void DoEvents() override { ++yields; }
+  double Timer() override { return now; }
+  void SetMousePointer(std::int32_t) override {}
+  double now = 0;
+  int yields = 0;
+};
+
+TEST_F(CommonFunctionsTest, YieldsAtMostEveryTwoSeconds) {
+  const auto clock = std::make_shared<ClockDesktop>();
+  App.Desktop = clock;
+  // the stored time is whole seconds; after midnight nothing happens until the clock has passed it
+  const std::pair<double, int> cases[] = {{50000.4, 1}, {50001.9, 1}, {50002.0, 2}, {86399.0, 3},
+                                          {5.0, 3},     {86400.9, 3}, {86401.0, 4}};
+  for (const auto& [now, yields] : cases) {
+    clock->now = now;
+    YieldToHost();
+    EXPECT_EQ(clock->yields, yields) << now;
+  }
+}
+
+TEST_F(CommonFunctionsTest, TheBusyWindowWorksOnceAndShowsLife) {
+  Open(test::SalesBook({{"VEX_Chart1"}}));
+  frmBusyPS window;
+  window.lMethodType = frmBusyPS::kAllCharts;
+  window.Load();
+  window.Activate();
+  EXPECT_FALSE(window.IsVisible());
+  const auto lines = journal_.size();
+  EXPECT_GT(lines, 0u);
+  window.Activate();
+  EXPECT_EQ(journal_.size(), lines) << "a second activation starts no second run";
+  EXPECT_EQ(window.TimerInterval(), 100);
+  for (int tick = 1; tick <= 20; ++tick) window.TimerTick();
+  EXPECT_EQ(window.ProgressBarValue(), 100);
+  window.TimerTick();
+  EXPECT_EQ(window.ProgressBarValue(), 0);
+  window.Deactivate();
+  EXPECT_EQ(window.TimerInterval(), 0);
+  frmBusyPS idle;
+  idle.lMethodType = 3;
+  App.Views->ShowModal(idle);
+  EXPECT_EQ(journal_.size(), lines);
+}
+
+}  // namespace
+}  // namespace plotsmith
