@@ -167,13 +167,14 @@ std::string OffsetFormula(std::string_view formula, std::int32_t rows, std::int3
       continue;
     }
     bool lost = false;
+    const auto move = [&](std::int32_t& at, bool absolute, std::int32_t by, std::int32_t most) {
+      if (at == 0 || absolute) return;  // 0: whole rows have no column, whole columns no row
+      at += by;
+      lost |= at < 1 || at > most;
+    };
     for (Corner* corner : {&piece->reference->first, &piece->reference->second}) {
-      if (corner->row > 0 && !corner->rowAbsolute) corner->row += rows;
-      if (corner->column > 0 && !corner->columnAbsolute) corner->column += columns;
-      lost |= corner->row < 0 || corner->row > limits::kRows || corner->column < 0 ||
-              corner->column > limits::kColumns;
-      // a row or column that moved off the sheet must not be taken for one that isn't there
-      lost |= corner->row == 0 && corner->column == 0;
+      move(corner->row, corner->rowAbsolute, rows, limits::kRows);
+      move(corner->column, corner->columnAbsolute, columns, limits::kColumns);
     }
     moved += lost ? std::string(kLost) : piece->reference->Text();
   }

@@ -7,6 +7,30 @@
 
 namespace plotsmith::xlsx {
 
+namespace {
+
+/// Whether a text holds a name in any case. Only ASCII letters are compared by case: for others, and for what
+/// XML or quotes would write otherwise, the first few characters that are the same in any writing have to do.
+bool Mentions(std::string_view text, std::string_view name) {
+  const auto plain = [](char c) {
+    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' || c == ' ';
+  };
+  std::size_t begin = 0, length = 0;  // the longest stretch of plain characters
+  for (std::size_t i = 0; i < name.size();) {
+    std::size_t end = i;
+    while (end < name.size() && plain(name[end])) ++end;
+    if (end - i > length) begin = i, length = end - i;
+    i = end + 1;
+  }
+  if (length == 0) return true;
+  const auto fold = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+  return std::search(text.begin(), text.end(), name.begin() + static_cast<std::ptrdiff_t>(begin),
+                     name.begin() + static_cast<std::ptrdiff_t>(begin + length),
+                     [&](char a, char b) { return fold(a) == fold(b); }) != text.end();
+}
+
+}  // namespace
+
 void RowShifts::Add(std::string_view sheet, std::int32_t row, std::int32_t count) {
   if (!shifts_.empty() && !marked_) {
     Shift& last = shifts_.back();
@@ -35,10 +59,8 @@ std::optional<std::string> RowShifts::Follow(std::string_view formula, std::stri
 }
 
 bool RowShifts::MayConcern(std::string_view text) const {
-  const std::string upper = runtime::UCase(text);
-  return std::any_of(shifts_.begin(), shifts_.end(), [&](const Shift& shift) {
-    return upper.find(runtime::UCase(shift.sheet)) != std::string::npos;
-  });
+  return std::any_of(shifts_.begin(), shifts_.end(),
+                     [&](const Shift& shift) { return Mentions(text, shift.sheet); });
 }
 
 }  // namespace plotsmith::xlsx

@@ -335,6 +335,7 @@ SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
       if (*inner == '\0') return Piece::kCut;
       p = inner + 1;
     } else if (At(inner, "f")) {
+      contents_.formulas = true;
       p = PassFormula(inner);
       if (p == nullptr) return Piece::kCut;
     } else {
@@ -379,6 +380,7 @@ SheetScanner::Piece SheetScanner::ReadRareCell(const char* p, std::int32_t colum
       text_ += runOfText ? DecodeEscapes(piece_) : piece_;
       hasText = true;
     } else if (tag.name == "rPh" || tag.name == "f" || tag.name == "extLst") {
+      contents_.formulas |= tag.name == "f";
       SkipElement();
     } else {
       ++depth;

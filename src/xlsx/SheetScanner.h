@@ -19,6 +19,8 @@ struct SheetContents {
   std::optional<CellRange> used;
   /// The part before `sheetData`, in UTF-8.
   std::string head;
+  /// Whether a cell has a formula. What stands behind the cells may hold some too.
+  bool formulas = false;
   /// Heights of rows that have their own, in points, in the order of the file; 0 is a hidden row.
   std::vector<std::pair<std::int32_t, double>> rowHeights;
 };

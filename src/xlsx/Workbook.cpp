@@ -387,7 +387,8 @@ void Workbook::WriteActiveTab() {
   if (!view) {
     const std::string prefix(xml::Prefix(Root().name()));
     pugi::xml_node views = xml::Child(Root(), "bookViews");
-    if (!views) views = Root().insert_child_before((prefix + "bookViews").c_str(), xml::Child(Root(), "sheets"));
+    if (!views)
+      views = Root().insert_child_before((prefix + "bookViews").c_str(), xml::Child(Root(), "sheets"));
     view = views.append_child((prefix + "workbookView").c_str());
   }
   xml::SetAttribute(view, "activeTab", std::to_string(active));
@@ -397,6 +398,11 @@ void Workbook::WriteActiveTab() {
 void Workbook::Save(const std::string& path) {
   for (const auto& sheet : sheets_) {
     if (sheet->worksheet) sheet->worksheet->Write();
+  }
+  if (!shifts_.None()) {
+    for (const auto& sheet : sheets_) {
+      if (sheet->worksheet) sheet->worksheet->FollowShifts();
+    }
   }
   WriteCharts();
   ShiftNames();

@@ -1,6 +1,7 @@
 #include "xlsx/Worksheet.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "runtime/RuntimeError.h"
 #include "xlsx/Application.h"
@@ -11,6 +12,7 @@
 #include "xlsx/Namespaces.h"
 #include "xlsx/Range.h"
 #include "xlsx/Shape.h"
+#include "xlsx/SheetFormulas.h"
 #include "xlsx/SheetSplice.h"
 #include "xlsx/Xml.h"
 
@@ -33,6 +35,22 @@ void CheckCell(std::int32_t row, std::int32_t column) {
 constexpr double kDaysTo1904 = 1462;
 /// Behind 31 December 9999 a number in a date format is a number, and so is a negative one.
 constexpr double kDateEnd = 2958466;
+
+/// Whether a part mentions a sheet on which rows moved; read through a window, as a sheet may be large.
+bool PartMentions(const Package& package, const std::string& part, const RowShifts& shifts) {
+  constexpr std::size_t kWindow = 256 * 1024,
+                        kOverlap = 256;  // a sheet's name is shorter than that in any writing
+  const auto stream = package.Stream(part);
+  std::string window(kWindow, '\0');
+  std::size_t kept = 0;
+  while (const std::size_t count = stream->Read(window.data() + kept, kWindow - kept)) {
+    const std::string_view text(window.data(), kept + count);
+    if (shifts.MayConcern(text)) return true;
+    kept = std::min(kOverlap, text.size());
+    std::memmove(window.data(), text.data() + text.size() - kept, kept);
+  }
+  return false;
+}
 
 CellValue::Kind NumberKind(const Styles& styles, std::uint32_t style, double number) {
   return number >= 0 && number < kDateEnd && styles.IsDate(style) ? CellValue::Kind::kDate
@@ -59,10 +77,10 @@ CellGrid& Worksheet::Grid() {
     gridChanged_ = true;
     return *grid_;
   }
-  if (!isNew_ && Visible() != excel::xlSheetVeryHidden) {
-    throw RuntimeError(runtime::error::kApplication, "The sheets of users can't be written.");
-  }
   const SheetContents& contents = Contents();
+  if (!isNew_ && contents.formulas) {
+    throw RuntimeError(runtime::error::kApplication, "A sheet with formulas can't be written.");
+  }
   CellGrid grid;
   for (std::int32_t column = 1; column <= contents.cells.ColumnCount(); ++column) {
     for (std::int32_t row = 1; row <= contents.cells.LastRow(column); ++row) {
@@ -259,6 +277,14 @@ Drawing& Worksheet::EnsureDrawing() {
   package.Replace(Entry().part, std::move(text));
   drawing_ = std::make_unique<Drawing>(*this, part);
   return *drawing_;
+}
+
+void Worksheet::FollowShifts() {
+  const RowShifts& shifts = book_.Shifts();
+  auto& package = book_.Package();
+  if (isNew_ || grid_ || !PartMentions(package, Entry().part, shifts)) return;
+  std::string text = xml::ToUtf8(package.Read(Entry().part));
+  if (ShiftSheetFormulas(text, Entry().name, shifts)) package.Replace(Entry().part, std::move(text));
 }
 
 bool Worksheet::NeedsWriting() const { return gridChanged_ || (drawing_ && drawing_->Changed()); }

@@ -17,8 +17,9 @@ namespace plotsmith::xlsx {
 
 class Drawing;
 
-/// A worksheet. Its cells are read when the first one is asked for. The sheets of users are never written:
-/// only a very hidden sheet, or one that this program made, can be changed, and is then written whole.
+/// A worksheet. Its cells are read when the first one is asked for. A sheet whose cells are written is
+/// written whole, without what a cell had beside its value and style; so a sheet with formulas can't be. The
+/// system writes on its own sheets only.
 class Worksheet final : public SheetMembers<excel::Worksheet>,
                         public std::enable_shared_from_this<Worksheet> {
  public:
@@ -54,6 +55,8 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   Drawing* FindDrawing();
   Drawing& EnsureDrawing();
 
+  /// Brings formulas up to date with rows that moved on other sheets.
+  void FollowShifts();
   /// Whether this program made the sheet, so that it is free to change it in any way.
   bool IsNew() const { return isNew_; }
   bool NeedsWriting() const;

@@ -40,6 +40,10 @@ TEST_F(RefreshScenarioTest, ReferencesFollowABlockThatGrowsAboveThem) {
   SetRegions(book, {"A", "B"});
   book.Sheet("Charts").frames.push_back({"somebody's", ForeignChart("VEX_ChartData!$C$5:$C$6"), 0, 60});
   book.Sheet("Charts").frames.push_back({"another's", ForeignChart("Data1!$C$5:$C$6"), 9, 60});
+  test::PlainSheet formulas{"Formulas"};
+  formulas.rows = {{test::RawCell{"><f>SUM(VEX_ChartData!$C$5:C6)</f><v>3</v></c>"},
+                    test::RawCell{"><f>Data1!C5</f></c>"}}};
+  book.sheets.push_back(formulas);
   book.names = {{"SecondBlock", "VEX_ChartData!$B$5:$C$6"}, {"Elsewhere", "Data1!$A$5"}};
   Open(book);
   Refresh();
@@ -72,6 +76,9 @@ TEST_F(RefreshScenarioTest, ReferencesFollowABlockThatGrowsAboveThem) {
   // what others point at the sheet follows too: three rows went in above, and three into the block
   EXPECT_NE(Chart(3).find("VEX_ChartData!$C$8:$C$12"), S::npos) << Chart(3);
   EXPECT_NE(Chart(4).find("Data1!$C$5:$C$6"), S::npos);
+  EXPECT_NE(SavedPart("/xl/worksheets/sheet4.xml")
+                .find("<f>SUM(VEX_ChartData!$C$8:C12)</f><v>3</v></c><c r=\"B1\"><f>Data1!C5</f>"),
+            S::npos);
   EXPECT_EQ(Refers("SecondBlock"), "=VEX_ChartData!$B$8:$C$12");
   EXPECT_EQ(Refers("Elsewhere"), "=Data1!$A$5");
 }

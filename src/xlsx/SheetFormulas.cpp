@@ -1,0 +1,117 @@
+#include "xlsx/SheetFormulas.h"
+
+#include <array>
+#include <map>
+
+#include "xlsx/Formula.h"
+#include "xlsx/Xml.h"
+#include "xlsx/XmlStream.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+constexpr std::array<std::string_view, 4> kFormulaElements = {"f", "formula", "formula1", "formula2"};
+
+bool HoldsFormula(std::string_view local) {
+  for (const std::string_view name : kFormulaElements) {
+    if (name == local) return true;
+  }
+  return false;
+}
+
+/// The formula that a group of cells shares, and the cell that has it in full.
+struct SharedFormula {
+  std::int32_t row = 0, column = 0;
+  std::string formula;
+};
+
+class FormulaShifter {
+ public:
+  FormulaShifter(const std::string& part, std::string_view home, const RowShifts& shifts)
+      : part_(part), home_(home), shifts_(shifts) {}
+
+  bool Run() {
+    for (std::size_t at = part_.find('<'); at != std::string::npos; at = part_.find('<', at)) {
+      const auto nameEnd = part_.find_first_of(" \t\r\n/>", at + 1);
+      const auto close = part_.find('>', at);
+      if (nameEnd == std::string::npos || close == std::string::npos) break;
+      const std::string_view local = xml::LocalName(std::string_view(part_).substr(at + 1, nameEnd - at - 1));
+      const std::string_view attributes(part_.data() + nameEnd, close - nameEnd);
+      if (local == "c") {
+        const auto cell = ParseA1(AttributeIn(attributes, "r"));
+        row_ = cell ? cell->row1 : 0;
+        column_ = cell ? cell->column1 : 0;
+      }
+      at = HoldsFormula(local) ? TakeFormula(at, nameEnd, close) : close + 1;
+    }
+    return copied_ > 0;
+  }
+
+  std::string Finish() {
+    out_.append(part_, copied_);
+    return std::move(out_);
+  }
+
+ private:
+  /// From the "<" of a formula's element to behind the element.
+  std::size_t TakeFormula(std::size_t open, std::size_t nameEnd, std::size_t close) {
+    const bool empty = part_[close - 1] == '/';
+    const std::string_view attributes(part_.data() + nameEnd, close - nameEnd - (empty ? 1 : 0));
+    const auto end = empty ? close + 1 : part_.find('<', close);
+    if (end == std::string::npos) return part_.size();
+    std::string formula =
+        empty ? std::string() : xml::Decode(std::string_view(part_).substr(close + 1, end - close - 1));
+    if (AttributeIn(attributes, "t") == "shared") {
+      const std::string group = AttributeIn(attributes, "si");
+      if (!formula.empty()) {
+        if (shifts_.MayConcern(formula)) shared_[group] = {row_, column_, formula};
+      } else if (const auto found = shared_.find(group); found != shared_.end()) {
+        const SharedFormula& full = found->second;
+        formula = OffsetFormula(full.formula, row_ - full.row, column_ - full.column);
+      }
+      if (!shared_.contains(group)) return end;
+      Replace(open, ElementEnd(empty, close, end), open + 1, nameEnd,
+              shifts_.Follow(formula, home_, 0).value_or(formula));
+    } else if (const auto moved = formula.empty() ? std::nullopt : shifts_.Follow(formula, home_, 0)) {
+      Replace(close + 1, end, *moved);
+    }
+    return end;
+  }
+
+  std::size_t ElementEnd(bool empty, std::size_t close, std::size_t end) const {
+    return empty ? close + 1 : part_.find('>', end) + 1;
+  }
+
+  /// Another text in the place of a stretch of the part.
+  void Replace(std::size_t begin, std::size_t end, const std::string& formula) {
+    out_.append(part_, copied_, begin - copied_).append(xml::EncodeText(formula));
+    copied_ = end;
+  }
+  /// A formula of its own in the place of a whole element; its name stands at [nameBegin, nameEnd).
+  void Replace(std::size_t begin, std::size_t end, std::size_t nameBegin, std::size_t nameEnd,
+               const std::string& formula) {
+    const std::string name = part_.substr(nameBegin, nameEnd - nameBegin);
+    out_.append(part_, copied_, begin - copied_);
+    out_.append("<" + name + ">" + xml::EncodeText(formula) + "</" + name + ">");
+    copied_ = end;
+  }
+
+  const std::string& part_;
+  std::string_view home_;
+  const RowShifts& shifts_;
+  std::map<std::string, SharedFormula> shared_;  ///< those concerned, by their `si`
+  std::int32_t row_ = 0, column_ = 0;
+  std::string out_;
+  std::size_t copied_ = 0;
+};
+
+}  // namespace
+
+bool ShiftSheetFormulas(std::string& part, std::string_view home, const RowShifts& shifts) {
+  FormulaShifter shifter(part, home, shifts);
+  if (!shifter.Run()) return false;
+  part = shifter.Finish();
+  return true;
+}
+
+}  // namespace plotsmith::xlsx
