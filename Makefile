@@ -1,6 +1,6 @@
 # The newcomer's commands. All building is done by CMake; see CMakePresets.json for the ways to build.
 
-.PHONY: build demo check sanitize clean
+.PHONY: build demo check sanitize fuzz clean
 
 build:
 	@scripts/install-dependencies.sh
@@ -22,5 +22,9 @@ sanitize:
 	@cmake --build build-sanitizers
 	@ctest --preset sanitizers
 
+# Runs each fuzzer for a minute, or for FUZZ_SECONDS.
+fuzz:
+	@scripts/fuzz.sh $(or $(FUZZ_SECONDS),60)
+
 clean:
-	@rm -rf build build-debug build-sanitizers demo
+	@rm -rf build build-debug build-sanitizers build-fuzz demo

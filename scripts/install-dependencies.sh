@@ -1,12 +1,12 @@
 #!/bin/sh
-# Installs what the build needs and isn't there, from Debian's packages.
+# Installs what the build needs and isn't there, from Debian's packages; and those named as arguments.
 set -eu
 
 packages="g++ cmake ninja-build pkg-config libpugixml-dev libexpat1-dev libzip-dev libisal-dev libutf8proc-dev libcli11-dev
 nlohmann-json3-dev libgtest-dev libbenchmark-dev"
 
 missing=""
-for package in $packages; do
+for package in $packages "$@"; do
   dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing="$missing $package"
 done
 [ -z "$missing" ] && exit 0

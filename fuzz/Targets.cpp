@@ -1,0 +1,244 @@
+#include "fuzz/Targets.h"
+
+#include <fcntl.h>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include "cli/ConsoleDesktop.h"
+#include "common/App.h"
+#include "common/CommonFunctions.h"
+#include "common/RunVariables.h"
+#include "controller/CPlotsmithController.h"
+#include "runtime/RuntimeError.h"
+#include "xlsx/Application.h"
+#include "xlsx/Drawing.h"
+#include "xlsx/Formula.h"
+#include "xlsx/Package.h"
+#include "xlsx/PackageError.h"
+#include "xlsx/Shape.h"
+#include "xlsx/SharedStrings.h"
+#include "xlsx/SheetFormulas.h"
+#include "xlsx/SheetScanner.h"
+#include "xlsx/SheetSplice.h"
+#include "xlsx/Styles.h"
+#include "xlsx/Worksheet.h"
+
+namespace plotsmith::fuzz {
+namespace {
+
+std::string_view Text(const std::uint8_t* data, std::size_t size) {
+  return {reinterpret_cast<const char*>(data), size};
+}
+
+/// What may go wrong with foreign bytes, and nothing else.
+template <class Body>
+void Tolerate(const Body& body) {
+  try {
+    body();
+  } catch (const xlsx::PackageError&) {
+  } catch (const runtime::RuntimeError&) {
+  }
+}
+
+/// A file in memory, by a path.
+class MemoryFile {
+ public:
+  MemoryFile(const std::uint8_t* data, std::size_t size) : file_(memfd_create("book", 0)) {
+    while (size > 0) {
+      const auto count = write(file_, data, size);
+      if (count <= 0) break;
+      data += count;
+      size -= static_cast<std::size_t>(count);
+    }
+  }
+  ~MemoryFile() { close(file_); }
+  MemoryFile(const MemoryFile&) = delete;
+  MemoryFile& operator=(const MemoryFile&) = delete;
+  std::string Path() const { return "/proc/self/fd/" + std::to_string(file_); }
+
+ private:
+  int file_;
+};
+
+class Pieces : public xlsx::Archive::Stream {
+ public:
+  Pieces(std::string_view text, std::size_t piece) : rest_(text), piece_(piece) {}
+  std::size_t Read(char* buffer, std::size_t size) override {
+    const std::size_t count = rest_.copy(buffer, std::min(size, piece_));
+    rest_.remove_prefix(count);
+    return count;
+  }
+
+ private:
+  std::string_view rest_;
+  std::size_t piece_;
+};
+
+/// The system on a workbook: a whole refresh.
+void Refresh(const std::shared_ptr<xlsx::Application>& host) {
+  const auto desktop = std::make_shared<cli::ConsoleDesktop>();
+  App = {"", desktop, desktop};
+  ResetRunVariables();
+  CPlotsmithController().RefreshPlotsmithData(host, "fuzz", "");
+  ResetRunVariables();
+  App = {};
+}
+
+void Package(const std::uint8_t* data, std::size_t size) {
+  const MemoryFile file(data, size);
+  Tolerate([&] {
+    const auto package = xlsx::Package::Open(file.Path());
+    for (const std::string& part : package.Parts()) {
+      Tolerate([&] { package.Read(part); });
+      Tolerate([&] { package.Relationships(part); });
+      package.ContentType(part);
+    }
+  });
+}
+
+void Workbook(const std::uint8_t* data, std::size_t size) {
+  const MemoryFile file(data, size);
+  Tolerate([&] {
+    const auto host = xlsx::Application::Create();
+    host->Open(file.Path());
+    Refresh(host);
+  });
+}
+
+void Sheet(const std::uint8_t* data, std::size_t size) {
+  const std::string_view text = Text(data, size);
+  const xlsx::Styles styles("");
+  for (const std::size_t piece : {std::size_t{1} << 20, std::size_t{3}}) {
+    Tolerate([&] {
+      Pieces stream(text, piece);
+      const auto sheet = xlsx::ScanSheet(stream, xlsx::DateSystem::k1900);
+      const auto geometry = xlsx::ReadGeometry(sheet.head, sheet.rowHeights, styles);
+      geometry.columns.IndexAt(geometry.columns.EdgeOf(100));
+      if (sheet.used) sheet.cells.ValueAt(sheet.used->row2, sheet.used->column2);
+    });
+  }
+  xlsx::RowShifts shifts;
+  shifts.Add("Sheet1", 3, 2);
+  std::string part(text);
+  xlsx::ShiftSheetFormulas(part, "Home", shifts);
+  Tolerate([&] { xlsx::InsertDrawingLink(part = text, "r", "rId1"); });
+  Tolerate([&] {
+    xlsx::ReplaceSheetData(part = text, [](const std::string&) { return "x"; }, {1, 1, 2, 2});
+  });
+}
+
+void SharedStrings(const std::uint8_t* data, std::size_t size) {
+  Tolerate([&] {
+    Pieces stream(Text(data, size), 7);
+    xlsx::TextPool strings;
+    xlsx::ReadSharedStrings(stream, strings);
+    if (strings.Count() > 0) strings.At(0);
+  });
+}
+
+void Styles(const std::uint8_t* data, std::size_t size) {
+  Tolerate([&] {
+    xlsx::Styles styles(Text(data, size));
+    for (const std::uint32_t style : {0U, 1U, 7U, 0xFFFFFFFFU}) {
+      std::string text;
+      styles.Format(style).AppendNumber(text, 43831.25, xlsx::DateSystem::k1900);
+      styles.WithFormat(style, "0.000");
+    }
+    styles.SetPaletteColor(17, styles.PaletteColor(18));
+    xlsx::Styles again(styles.Serialize());
+  });
+}
+
+/// A drawing with one chart, the one or the other part made of the bytes, and a refresh over it.
+void RefreshWith(const char* part, std::string_view bytes) {
+  const auto host = xlsx::Application::Create();
+  auto& book = host->NewWorkbook();
+  const auto data = book.AllSheets()[0]->worksheet;
+  data->SetName("Data1");
+  data->SetCellValueAt(1, 1, "Region");
+  data->SetCellValueAt(1, 2, "Amount");
+  data->SetCellValueAt(2, 1, "East");
+  data->SetCellValueAt(2, 2, 5.0);
+  data->ChartObjects()->Add(0, 0, 100, 100);
+  data->Shapes()->Item(1)->SetAlternativeText("VEX_Chart1");
+  const auto definitions = book.AddWorksheet(1);
+  definitions->SetName("VEX_ChartDefinitions");
+  definitions->SetVisible(excel::xlSheetVeryHidden);
+  const std::string chart =
+      "<chart id=\"VEX_Chart1\" type=\"area\" title=\"T\" table-id=\"Data1\"><categories "
+      "headings-in=\"rows\"><column "
+      "name=\"Region\"/></categories><series headings-in=\"columns\"><column "
+      "name=\"Amount\"/></series><axes><axis "
+      "type=\"label\" label=\"L\"/><axis type=\"value\" label=\"V\"/></axes><data-labels><data-label "
+      "show=\"values\"/>"
+      "</data-labels><dynamic-attributes><attribute setting=\"3D\"/></dynamic-attributes><comment>C</comment>"
+      "<auto-persistence><persist property=\"legend-visibility\" value=\"show\"/></auto-persistence></chart>";
+  definitions->SetCellValueAt(2, 1, std::string(part) == "definition" ? std::string(bytes) : chart);
+  // the part is replaced in the saved book, when that is open again
+  const std::string path =
+      (std::filesystem::temp_directory_path() / ("plotsmith-fuzz-" + std::to_string(getpid()) + ".xlsx"))
+          .string();
+  book.Save(path);
+  Tolerate([&] {
+    host->Open(path);
+    auto& package = host->Book().Package();
+    if (package.Has(part)) package.Replace(part, std::string(bytes));
+    Refresh(host);
+    host->Book().Save(path);
+    host->Open(path);
+    Refresh(host);
+  });
+  unlink(path.c_str());
+}
+
+void Chart(const std::uint8_t* data, std::size_t size) {
+  RefreshWith("/xl/charts/chart1.xml", Text(data, size));
+}
+void Drawing(const std::uint8_t* data, std::size_t size) {
+  RefreshWith("/xl/drawings/drawing1.xml", Text(data, size));
+}
+void Definition(const std::uint8_t* data, std::size_t size) {
+  if (size < 30000 && size > 0 && data[0] == '<') RefreshWith("definition", Text(data, size));
+}
+
+void NumberFormat(const std::uint8_t* data, std::size_t size) {
+  const std::string_view text = Text(data, size);
+  const auto tab = text.find('\t');
+  const auto format = xlsx::NumberFormat::Parse(text.substr(0, tab));
+  if (!format) return;
+  std::string out;
+  const auto value = runtime::ParseNumber(tab == std::string_view::npos ? "1234.5" : text.substr(tab + 1));
+  format->AppendNumber(out, value.value_or(-0.5), xlsx::DateSystem::k1900);
+  format->AppendNumber(out, value.value_or(1e300), xlsx::DateSystem::k1904);
+  format->AppendText(out, text);
+  format->AppendBoolean(out, true);
+}
+
+void Formula(const std::uint8_t* data, std::size_t size) {
+  const std::string_view text = Text(data, size);
+  xlsx::ShiftRows(text, "Sheet1", true, 5, 3);
+  xlsx::ShiftRows(text, "Sheet1", false, 5, -3);
+  xlsx::OffsetFormula(text, 1000000, -5);
+  xlsx::ParseSheetRange(text);
+  xlsx::ParseR1C1(text);
+  runtime::ParseNumber(text);
+  Tolerate([&] { runtime::Val(text); });
+}
+
+constexpr Target kAll[] = {
+    {"package", Package}, {"workbook", Workbook},
+    {"sheet", Sheet},     {"shared-strings", SharedStrings},
+    {"styles", Styles},   {"drawing", Drawing},
+    {"chart", Chart},     {"definition", Definition},
+    {"formula", Formula}, {"number-format", NumberFormat},
+};
+
+}  // namespace
+
+const std::span<const Target> kTargets = kAll;
+
+}  // namespace plotsmith::fuzz
