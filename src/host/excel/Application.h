@@ -31,6 +31,9 @@ class Application {
 
   /// Calls a macro of the host by name; error 1004 if there is none.
   virtual void Run(std::string_view macro, const std::vector<Variant>& arguments) = 0;
+  virtual std::string StandardFont() { Pending(); }
+  /// Points.
+  virtual double StandardFontSize() { Pending(); }
 };
 
 }  // namespace plotsmith::excel

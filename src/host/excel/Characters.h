@@ -4,6 +4,8 @@
 
 namespace plotsmith::excel {
 
+class Font;
+
 /// A stretch of a shape's text. Positions and lengths count UTF-16 units, from 1.
 class Characters {
  public:
@@ -13,6 +15,8 @@ class Characters {
   virtual void SetText(std::string_view text) = 0;
   /// Replaces the stretch, as SetText; a stretch that begins behind the text's end appends.
   virtual void Insert(std::string_view text) = 0;
+  virtual std::string Text() { Pending(); }
+  virtual Ref<excel::Font> Font() { Pending(); }
 };
 
 }  // namespace plotsmith::excel

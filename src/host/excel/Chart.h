@@ -7,10 +7,12 @@ namespace plotsmith::excel {
 class Application;
 class Axis;
 class ChartArea;
+class ChartGroup;
 class ChartTitle;
 class Legend;
 class PlotArea;
 class SeriesCollection;
+class Shapes;
 
 class Chart {
  public:
@@ -39,6 +41,14 @@ class Chart {
 
   virtual Ref<excel::ChartArea> ChartArea() = 0;
   virtual Ref<excel::PlotArea> PlotArea() = 0;
+  /// XlChartType of the chart, or of its first series where types are mixed.
+  virtual std::int32_t ChartType() { Pending(); }
+  virtual bool HasTitle() { Pending(); }
+  virtual bool HasLegend() { Pending(); }
+  /// The shapes drawn on the chart itself.
+  virtual Ref<excel::Shapes> Shapes() { Pending(); }
+  /// A group of series of one kind, by its number in drawing order; error 1004 outside.
+  virtual Ref<ChartGroup> ChartGroups(std::int32_t index) { Pending(); }
 };
 
 }  // namespace plotsmith::excel

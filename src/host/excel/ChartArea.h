@@ -17,6 +17,8 @@ class ChartArea {
   virtual Ref<ChartFillFormat> Fill() = 0;
   /// Whether fonts follow the chart's size. Hosts from version 12 on accept it, and nothing follows.
   virtual void SetAutoScaleFont(const Variant& value) = 0;
+  /// Points.
+  virtual double Width() { Pending(); }
 };
 
 }  // namespace plotsmith::excel

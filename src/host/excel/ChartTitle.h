@@ -9,6 +9,7 @@ class ChartTitle {
   virtual ~ChartTitle() = default;
 
   virtual void SetText(std::string_view text) = 0;
+  virtual std::string Text() { Pending(); }
 };
 
 }  // namespace plotsmith::excel

@@ -60,4 +60,39 @@ inline constexpr std::int32_t xl3DBarStacked = 61;
 inline constexpr std::int32_t xl3DBarStacked100 = 62;
 inline constexpr std::int32_t xl3DColumn = -4100;
 
+inline constexpr std::int32_t xlPie = 5;
+inline constexpr std::int32_t xl3DPie = -4102;
+inline constexpr std::int32_t xlPieExploded = 69;
+inline constexpr std::int32_t xl3DPieExploded = 70;
+inline constexpr std::int32_t xlXYScatter = -4169;
+inline constexpr std::int32_t xlBubble = 15;
+inline constexpr std::int32_t xlBubble3DEffect = 87;
+inline constexpr std::int32_t xlLine = 4;
+inline constexpr std::int32_t xlLineMarkers = 65;
+inline constexpr std::int32_t xlCombination = -4111;
+
+inline constexpr std::int32_t xlAscending = 1;
+inline constexpr std::int32_t xlDescending = 2;
+inline constexpr std::int32_t xlYes = 1;
+inline constexpr std::int32_t xlNo = 2;
+inline constexpr std::int32_t xlTopToBottom = 1;
+
+inline constexpr std::int32_t xlAutomatic = -4105;
+inline constexpr std::int32_t xlNone = -4142;
+inline constexpr std::int32_t xlCenter = -4108;
+inline constexpr std::int32_t xlLinear = -4132;
+inline constexpr std::int32_t xlTickLabelPositionLow = -4134;
+inline constexpr std::int32_t xlHairline = 1;
+inline constexpr std::int32_t xlThin = 2;
+inline constexpr std::int32_t xlMarkerStyleDash = -4115;
+inline constexpr std::int32_t xlBackgroundAutomatic = -4105;
+inline constexpr std::int32_t xlBackgroundTransparent = 2;
+inline constexpr std::int32_t xlLabelPositionBestFit = 5;
+inline constexpr std::int32_t xlVAlignTop = -4160;
+inline constexpr std::int32_t xlHAlignLeft = -4131;
+
+inline constexpr std::int32_t msoAutoShape = 1;
+inline constexpr std::int32_t msoShapeRectangle = 1;
+inline constexpr std::int32_t msoShapeOval = 9;
+
 }  // namespace plotsmith::excel

@@ -4,6 +4,7 @@
 
 namespace plotsmith::excel {
 
+class DataLabel;
 class Font;
 
 class DataLabels {
@@ -14,6 +15,18 @@ class DataLabels {
   virtual void SetAutoScaleFont(const Variant& value) = 0;
   /// One of Excel's label positions (XlDataLabelPosition).
   virtual void SetPosition(std::int32_t position) = 0;
+  /// Null where the labels differ.
+  virtual Variant AutoScaleFont() { Pending(); }
+  /// What the labels show (XlDataLabelsType); Null where they differ or it is none of these.
+  virtual Variant Type() { Pending(); }
+  virtual void SetHorizontalAlignment(std::int32_t alignment) { Pending(); }
+  virtual void SetVerticalAlignment(std::int32_t alignment) { Pending(); }
+  /// Degrees from -90 to 90, or one of xlHorizontal, xlUpward, xlDownward, xlVertical.
+  virtual void SetOrientation(std::int32_t orientation) { Pending(); }
+  /// One for each point.
+  virtual std::int32_t Count() { Pending(); }
+  /// Error 1004 outside.
+  virtual Ref<DataLabel> Item(std::int32_t index) { Pending(); }
 };
 
 }  // namespace plotsmith::excel

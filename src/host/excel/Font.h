@@ -16,6 +16,15 @@ class Font {
   /// "Regular", "Bold", "Italic" or "Bold Italic".
   virtual void SetFontStyle(const Variant& style) = 0;
   virtual void SetColor(const Variant& color) = 0;
+  // What is read is Null where the text's stretches differ.
+  virtual Variant Name() { Pending(); }
+  virtual Variant Size() { Pending(); }
+  virtual Variant FontStyle() { Pending(); }
+  virtual Variant Color() { Pending(); }
+  /// XlBackground.
+  virtual Variant Background() { Pending(); }
+  virtual void SetBackground(std::int32_t background) { Pending(); }
+  virtual void SetBold(bool value) { Pending(); }
 };
 
 }  // namespace plotsmith::excel

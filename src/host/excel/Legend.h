@@ -5,6 +5,7 @@
 namespace plotsmith::excel {
 
 class Font;
+class LegendEntries;
 
 class Legend {
  public:
@@ -17,6 +18,13 @@ class Legend {
   /// Points from the chart's corner. Error 1004 outside of the chart.
   virtual void SetLeft(double points) = 0;
   virtual void SetTop(double points) = 0;
+  /// Error 1004 where the legend stands at no such position.
+  virtual std::int32_t Position() { Pending(); }
+  virtual double Left() { Pending(); }
+  virtual double Top() { Pending(); }
+  /// Null where the entries differ.
+  virtual Variant AutoScaleFont() { Pending(); }
+  virtual Ref<excel::LegendEntries> LegendEntries() { Pending(); }
 };
 
 }  // namespace plotsmith::excel

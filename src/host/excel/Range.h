@@ -29,6 +29,13 @@ class Range {
   /// Whole rows only; what lies below moves, and references to it follow.
   virtual void Insert() = 0;
   virtual void Delete(std::int32_t shift) = 0;
+  /// Sorts the rows by one column. `order1` is xlAscending or xlDescending, `header` xlYes or xlNo,
+  /// `orderCustom` 1 for the plain order, `orientation` xlTopToBottom. Empty cells go last, whatever the
+  /// order.
+  virtual void Sort(Ref<Range> key1, std::int32_t order1, std::int32_t header, std::int32_t orderCustom,
+                    bool matchCase, std::int32_t orientation) {
+    Pending();
+  }
 };
 
 }  // namespace plotsmith::excel

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <vector>
+
 #include "host/excel/Using.h"
 
 namespace plotsmith::excel {
 
+class Border;
 class DataLabels;
+class Interior;
 
 class Series {
  public:
@@ -19,6 +23,23 @@ class Series {
   /// Nothing while there are no labels.
   virtual Ref<excel::DataLabels> DataLabels() = 0;
   virtual void Delete() = 0;
+  virtual std::string Name() { Pending(); }
+  virtual std::int32_t ChartType() { Pending(); }
+  /// A type of its own for this series. Error 1004 for one that can't stand beside the others'.
+  virtual void SetChartType(std::int32_t type) { Pending(); }
+  virtual bool HasDataLabels() { Pending(); }
+  virtual void SetHasDataLabels(bool value) { Pending(); }
+  /// The values, one for each point; Empty where there is none.
+  virtual std::vector<Variant> Values() { Pending(); }
+  virtual void SetBubbleSizes(const Variant& reference) { Pending(); }
+  virtual Ref<excel::Interior> Interior() { Pending(); }
+  virtual Ref<excel::Border> Border() { Pending(); }
+  virtual void SetMarkerForegroundColor(std::int32_t color) { Pending(); }
+  virtual void SetMarkerBackgroundColor(std::int32_t color) { Pending(); }
+  /// XlMarkerStyle.
+  virtual void SetMarkerStyle(std::int32_t style) { Pending(); }
+  /// Points from 2 to 72.
+  virtual void SetMarkerSize(std::int32_t points) { Pending(); }
 };
 
 }  // namespace plotsmith::excel

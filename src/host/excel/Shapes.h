@@ -1,10 +1,14 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "host/excel/Using.h"
 
 namespace plotsmith::excel {
 
 class Shape;
+class ShapeRange;
 
 /// The shapes of a sheet from back to front.
 class Shapes {
@@ -18,6 +22,12 @@ class Shapes {
   /// `orientation` 1 is horizontal; the rest is points.
   virtual Ref<Shape> AddTextbox(std::int32_t orientation, double left, double top, double width,
                                 double height) = 0;
+  /// `type` is one of MsoAutoShapeType; the rest is points.
+  virtual Ref<Shape> AddShape(std::int32_t type, double left, double top, double width, double height) {
+    Pending();
+  }
+  /// Error 1004 if there is none of a name.
+  virtual Ref<ShapeRange> Range(const std::vector<std::string>& names) { Pending(); }
 };
 
 }  // namespace plotsmith::excel

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+/// The series of a chart that are drawn in one way.
+class ChartGroup {
+ public:
+  virtual ~ChartGroup() = default;
+  /// Percent of a column's width, from 0 to 500.
+  virtual void SetGapWidth(std::int32_t percent) { Pending(); }
+};
+
+}  // namespace plotsmith::excel

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+class ColorFormat {
+ public:
+  virtual ~ColorFormat() = default;
+  virtual void SetRGB(std::int32_t color) { Pending(); }
+};
+
+}  // namespace plotsmith::excel

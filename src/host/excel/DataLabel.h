@@ -1,0 +1,14 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+/// The label of one point.
+class DataLabel {
+ public:
+  virtual ~DataLabel() = default;
+  virtual void SetText(std::string_view text) { Pending(); }
+};
+
+}  // namespace plotsmith::excel

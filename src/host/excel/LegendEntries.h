@@ -1,0 +1,18 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+class LegendEntry;
+
+/// The entries of a legend that are left, in their order.
+class LegendEntries {
+ public:
+  virtual ~LegendEntries() = default;
+  virtual std::int32_t Count() { Pending(); }
+  /// Error 1004 outside.
+  virtual Ref<LegendEntry> Item(std::int32_t index) { Pending(); }
+};
+
+}  // namespace plotsmith::excel

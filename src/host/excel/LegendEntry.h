@@ -1,0 +1,13 @@
+#pragma once
+
+#include "host/excel/Using.h"
+
+namespace plotsmith::excel {
+
+class LegendEntry {
+ public:
+  virtual ~LegendEntry() = default;
+  virtual void Delete() { Pending(); }
+};
+
+}  // namespace plotsmith::excel
