@@ -43,6 +43,24 @@ pugi::xml_node ChartPart::Chart() { return schema::Ensure(Space(), "chart"); }
 
 pugi::xml_node ChartPart::PlotArea() { return schema::Ensure(Chart(), "plotArea"); }
 
+const Theme& ChartPart::Theme() {
+  if (!themeKnown_) {
+    themeKnown_ = true;
+    try {
+      if (const auto link = book_.Package().FindRelationshipOfType(part_, "themeOverride")) {
+        ownTheme_ = book_.Theme().WithOverride(book_.Package().Read(link->target));
+      }
+    } catch (const PackageError&) {
+      // then the workbook's holds
+    }
+  }
+  return ownTheme_ ? *ownTheme_ : book_.Theme();
+}
+
+std::optional<std::int32_t> ChartPart::Color(pugi::xml_node holder) {
+  return Theme().Color(holder, schema::Find(Space(), "clrMapOvr"));
+}
+
 void ChartPart::CatchUp() {
   Space();
   Follow();

@@ -1,12 +1,15 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <optional>
 #include <pugixml.hpp>
 #include <string>
 #include <string_view>
+
+#include "xlsx/Theme.h"
 
 namespace plotsmith::xlsx {
 
@@ -25,6 +28,11 @@ class ChartPart {
   /// The chart element, and the plot area, made if they are missing.
   pugi::xml_node Chart();
   pugi::xml_node PlotArea();
+
+  /// The theme that the chart's colours and fonts are of: its own override, else the workbook's.
+  const xlsx::Theme& Theme();
+  /// What an element that holds a colour means on this chart; nothing if that can't be known.
+  std::optional<std::int32_t> Color(pugi::xml_node holder);
 
   void MarkChanged() { changed_ = true; }
   bool Changed() const { return changed_; }
@@ -45,6 +53,8 @@ class ChartPart {
   std::string part_;
   std::unique_ptr<pugi::xml_document> document_;
   std::optional<std::string> unreadable_;
+  std::optional<xlsx::Theme> ownTheme_;
+  bool themeKnown_ = false;
   pugi::xml_document attic_;
   bool changed_ = false;
   std::size_t followed_ = 0;

@@ -433,6 +433,20 @@ void Workbook::WriteCharts() {
   for (const auto& [part, chart] : charts_) chart->Write();
 }
 
+const Theme& Workbook::Theme() {
+  if (!theme_) {
+    std::string part;
+    try {
+      if (const auto link = package_.FindRelationshipOfType(part_, "theme"))
+        part = package_.Read(link->target);
+    } catch (const PackageError&) {
+      // then the colours and fonts are Office's own
+    }
+    theme_.emplace(part);
+  }
+  return *theme_;
+}
+
 void Workbook::EnsureTheme() {
   if (package_.FindRelationshipOfType(part_, "theme")) return;
   const Namespaces& names = strict_ ? kStrict : kTransitional;

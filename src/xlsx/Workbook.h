@@ -16,6 +16,7 @@
 #include "xlsx/PackageError.h"
 #include "xlsx/RowShifts.h"
 #include "xlsx/Styles.h"
+#include "xlsx/Theme.h"
 
 namespace plotsmith::xlsx {
 
@@ -83,6 +84,8 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   std::shared_ptr<ChartPart> Chart(const std::string& part);
   excel::Ref<excel::Chart> ActiveChart();
   bool IsStrict() const { return strict_; }
+  /// The workbook's theme, or the one that it gets when a chart is drawn in it.
+  const xlsx::Theme& Theme();
 
   /// Runs what reads the file behind the port: a PackageError is kept as the workbook's damage and goes on as
   /// the run-time error that the port allows.
@@ -124,6 +127,7 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   std::vector<NameEntry> names_;
   excel::Ref<excel::Names> nameObjects_;  ///< made when first asked for, until a name changes
   std::map<std::string, std::shared_ptr<ChartPart>, std::less<>> charts_;  ///< those in use, by part
+  std::optional<xlsx::Theme> theme_;
   RowShifts shifts_;
   std::size_t namesFollowed_ = 0;
   std::optional<std::string> damage_;

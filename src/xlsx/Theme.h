@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <pugixml.hpp>
+#include <string>
+#include <string_view>
+
+namespace plotsmith::xlsx {
+
+/// The colours and fonts of a theme (DrawingML), and what a colour element means under it. Colours are
+/// Excel's: red + 256 * green + 65536 * blue.
+class Theme {
+ public:
+  /// From a theme part's XML. What can't be read, or an empty text, has Office's own colours and fonts.
+  explicit Theme(std::string_view part);
+  /// The same with colours of a theme override part.
+  Theme WithOverride(std::string_view part) const;
+
+  /// The typefaces of the scheme.
+  const std::string& MajorFont() const { return major_; }
+  const std::string& MinorFont() const { return minor_; }
+  /// A typeface as text properties name it: "+mn-lt" is the minor font.
+  std::string Typeface(std::string_view name) const;
+
+  /// By its name in the scheme, or in the usual colour map: "accent1", "tx1", "dk1".
+  std::optional<std::int32_t> SchemeColor(std::string_view name) const;
+  /// The colour in an element that holds one (a:solidFill, a:fgClr), its modifications worked in; nothing if
+  /// there is none, or it depends on something else. `map` is the chart's own colour map, or a null node.
+  std::optional<std::int32_t> Color(pugi::xml_node holder, pugi::xml_node map = {}) const;
+
+ private:
+  void Read(std::string_view part);
+
+  std::map<std::string, std::int32_t, std::less<>> colors_;
+  std::string major_, minor_;
+};
+
+}  // namespace plotsmith::xlsx
