@@ -1,6 +1,8 @@
 #include "tests/support/PlainBook.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <list>
 #include <stdexcept>
 
@@ -44,10 +46,8 @@ std::string Letters(int column) {
 }
 
 std::string NumberText(double value) {
-  std::string text = std::to_string(value);
-  text.erase(text.find_last_not_of('0') + 1);
-  if (text.ends_with('.')) text.pop_back();
-  return text;
+  std::array<char, 32> text;
+  return {text.data(), std::to_chars(text.data(), text.data() + text.size(), value).ptr};
 }
 
 std::string Relationships(const std::vector<std::pair<std::string, std::string>>& typesAndTargets) {

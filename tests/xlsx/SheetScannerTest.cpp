@@ -4,6 +4,7 @@
 #include "xlsx/PackageError.h"
 #include "xlsx/SharedStrings.h"
 #include "xlsx/SheetScanner.h"
+#include "xlsx/Xml.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -31,7 +32,7 @@ std::string Show(const SheetContents& sheet, std::int32_t row, std::int32_t colu
     case Kind::kEmpty:
       return "-";
     case Kind::kNumber:
-      return "n" + std::to_string(value.Number());
+      return "n" + xml::Number(value.Number());
     case Kind::kSharedText:
       return "s" + std::to_string(value.Index());
     case Kind::kOwnText:
@@ -63,20 +64,20 @@ const std::string kSheet =
     "r='AB10'><v>0.1</v></c></row>"
     "</sheetData><pageMargins/></worksheet>";
 
-const std::pair<std::pair<int, int>, std::string> kCells[] = {{{2, 1}, "n1.000000"},
+const std::pair<std::pair<int, int>, std::string> kCells[] = {{{2, 1}, "n1"},
                                                               {{2, 2}, "-"},
                                                               {{2, 3}, "s12"},
                                                               {{2, 4}, "b1"},
-                                                              {{3, 1}, "n-0.002500"},
+                                                              {{3, 1}, "n-0.0025"},
                                                               {{3, 2}, "ta&b\r"},
                                                               {{3, 3}, "e#N/A"},
                                                               {{3, 4}, "trich text"},
                                                               {{3, 5}, "-"},
-                                                              {{10, 1}, "n43831.500000"},
+                                                              {{10, 1}, "n43831.5"},
                                                               {{10, 3}, "-"},
                                                               {{10, 4}, "-"},
-                                                              {{10, 5}, "n123456789012345680.000000"},
-                                                              {{10, 28}, "n0.100000"}};
+                                                              {{10, 5}, "n123456789012345680"},
+                                                              {{10, 28}, "n0.1"}};
 
 TEST(SheetScannerTest, ReadsEveryKindOfCellHoweverTheWindowCuts) {
   for (const std::size_t piece : {std::size_t{1} << 20, std::size_t{1000}, std::size_t{7}, std::size_t{1}}) {
@@ -107,7 +108,7 @@ TEST(SheetScannerTest, PrefixesAndEncodings) {
   EXPECT_EQ(Show(Scan(prefixed), 3, 4), "trich text");
   EXPECT_EQ(Show(Scan("\xEF\xBB\xBF" + kSheet), 3, 4), "trich text");
   EXPECT_EQ(Show(Scan(big), 3, 4), "tr\u00EDch text");
-  EXPECT_EQ(Show(Scan(little, 5), 10, 28), "n0.100000");
+  EXPECT_EQ(Show(Scan(little, 5), 10, 28), "n0.1");
 }
 
 TEST(SheetScannerTest, SheetsWithoutCells) {
@@ -121,10 +122,10 @@ TEST(SheetScannerTest, CellsOutOfOrderAreFoundAllTheSame) {
   const SheetContents sheet = Scan(
       "<w><sheetData><row r='5'><c r='B5'><v>5</v></c><c r='A5'><v>4</v></c></row>"
       "<row r='2'><c r='B2' s='2'><v>2</v></c></row><row r='5'><c r='B5'><v>6</v></c></row></sheetData></w>");
-  EXPECT_EQ(Show(sheet, 5, 2), "n6.000000") << "the last one counts";
-  EXPECT_EQ(Show(sheet, 2, 2), "n2.000000");
+  EXPECT_EQ(Show(sheet, 5, 2), "n6") << "the last one counts";
+  EXPECT_EQ(Show(sheet, 2, 2), "n2");
   EXPECT_EQ(sheet.cells.StyleAt(2, 2), 2u);
-  EXPECT_EQ(Show(sheet, 5, 1), "n4.000000");
+  EXPECT_EQ(Show(sheet, 5, 1), "n4");
   EXPECT_EQ(sheet.used, (CellRange{2, 1, 5, 2}));
 }
 
