@@ -129,10 +129,11 @@ IXMLDOMDocument2 IXMLDOMDocument2::Create() {
 
 bool IXMLDOMDocument2::loadXML(std::string_view xml) {
   Checked().remove_children();
-  if (!IsWellFormed(xml) || NestsDeeperThan(xml, kDeepest)) return false;
+  if (!IsWellFormed(xml)) return false;
   pugi::xml_document parsed;
   if (!parsed.load_buffer(xml.data(), xml.size(), pugi::parse_full | pugi::parse_ws_pcdata,
-                          pugi::encoding_utf8)) {
+                          pugi::encoding_utf8) ||
+      NestsDeeperThan(parsed, kDeepest)) {
     return false;
   }
   // a declaration or a document type can't stand below the tree's own root, and says nothing that we keep

@@ -85,9 +85,12 @@ std::string ToUtf8(std::string_view bytes) {
 
 void Parse(pugi::xml_document& document, std::string_view bytes) {
   const std::string text = ToUtf8(bytes);
-  if (dom::NestsDeeperThan(text, limits::kXmlDepth)) throw PackageError("its XML nests too deep");
   const auto status = document.load_buffer(text.data(), text.size(), kParse, pugi::encoding_utf8);
   if (!status || !Root(document)) throw PackageError("its XML is damaged");
+  if (dom::NestsDeeperThan(document, limits::kXmlDepth)) throw PackageError("its XML nests too deep");
+  for (const pugi::xml_node& node : document.children()) {
+    if (node.type() == pugi::node_doctype) throw PackageError(kDocumentType);
+  }
   QuoteWalker walker;
   document.traverse(walker);
   pugi::xml_node declaration = document.first_child();

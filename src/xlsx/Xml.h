@@ -15,6 +15,9 @@
 /// set as a value passes through Decode or Encode.
 namespace plotsmith::xlsx::xml {
 
+/// What is said of a part with a document type, which no part may have (ECMA-376 Part 2).
+inline constexpr const char* kDocumentType = "it declares a document type, which no part of a workbook may";
+
 /// Parses a part in UTF-8 or UTF-16. Throws PackageError if it isn't well-formed, or too deep.
 void Parse(pugi::xml_document& document, std::string_view bytes);
 /// UTF-8, with the declaration that the part came with, or none.

@@ -115,8 +115,7 @@ XmlStream::Tag XmlStream::Next(std::string* text) {
       continue;
     }
     if (startsWith("<!")) {
-      passTo(">", 2);  // a document type; what it declares is not followed
-      continue;
+      throw PackageError(xml::kDocumentType);
     }
 
     const char* p = position_ + 1;

@@ -143,6 +143,26 @@ TEST(XmlTest, WhatIsNotTouchedGoesOutAsItCame) {
     EXPECT_THROW(xml::Parse(document, bad), PackageError) << bad;
 }
 
+TEST(XmlTest, WhatNoPartMayBringIsRefused) {
+  S deep;
+  for (int i = 0; i < 500000; ++i) deep += "<a>";
+  for (int i = 0; i < 500000; ++i) deep += "</a>";
+  const std::pair<S, const char*> cases[] = {
+      {deep, "its XML nests too deep"},
+      {"<?xml version='1.0?><!--'>" + deep + "<!-- -->", "its XML is damaged"},
+      {"<!DOCTYPE a [<!-- ' -->]>" + deep, "its XML nests too deep"},
+      {"<!DOCTYPE a><a/>", "it declares a document type, which no part of a workbook may"}};
+  for (const auto& [text, reason] : cases) {
+    pugi::xml_document document;
+    try {
+      xml::Parse(document, text);
+      ADD_FAILURE() << text.substr(0, 40);
+    } catch (const PackageError& e) {
+      EXPECT_STREQ(e.what(), reason) << text.substr(0, 40);
+    }
+  }
+}
+
 TEST(XmlTest, ValuesPassThroughBothWays) {
   const S value = "a<b>&\"c'\r\n\td\x01";
   EXPECT_EQ(xml::Decode(xml::EncodeText(value)), "a<b>&\"c'\r\n\td") << "what XML can't hold goes";
