@@ -5,6 +5,7 @@
 #include <memory>
 #include <sstream>
 
+#include "dom/XmlCharacters.h"
 #include "dom/XmlDepth.h"
 #include "runtime/RuntimeError.h"
 
@@ -24,14 +25,6 @@ bool IsWellFormed(std::string_view xml) {
                                                                             XML_ParserFree);
   return parser && xml.size() <= INT_MAX &&
          XML_Parse(parser.get(), xml.data(), static_cast<int>(xml.size()), XML_TRUE) == XML_STATUS_OK;
-}
-
-/// Without the characters that XML can't hold in any way: a text with one of them would not parse again.
-std::string Writable(std::string text) {
-  std::erase_if(text, [](char c) {
-    return static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\n' && c != '\r';
-  });
-  return text;
 }
 
 }  // namespace
@@ -113,7 +106,7 @@ void IXMLDOMElement::setAttribute(const char* name, const Variant& value) {
   pugi::xml_node element = Checked();
   pugi::xml_attribute attribute = element.attribute(name);
   if (!attribute) attribute = element.append_attribute(name);
-  attribute.set_value(Writable(runtime::CStr(value)).c_str());
+  attribute.set_value(XmlCharactersOf(runtime::CStr(value)).c_str());
 }
 
 Variant IXMLDOMElement::getAttribute(const char* name) const {
@@ -157,7 +150,7 @@ IXMLDOMElement IXMLDOMDocument2::createElement(const char* name) const {
 IXMLDOMNode IXMLDOMDocument2::createTextNode(std::string_view text) const {
   Checked();
   pugi::xml_node node = tree_->detached.append_child(pugi::node_pcdata);
-  node.set_value(Writable(std::string(text)).c_str());
+  node.set_value(XmlCharactersOf(text).c_str());
   return {tree_, node};
 }
 

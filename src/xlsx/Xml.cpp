@@ -5,6 +5,7 @@
 #include <cmath>
 #include <sstream>
 
+#include "dom/XmlCharacters.h"
 #include "dom/XmlDepth.h"
 #include "runtime/Strings.h"
 #include "xlsx/Limits.h"
@@ -107,7 +108,8 @@ std::string Serialize(const pugi::xml_document& document) {
     }
   } writer;
   document.save(writer, "", kSave, pugi::encoding_utf8);
-  return std::move(writer.bytes);
+  // half of a character may wait in a tree for the other half, but not in a file
+  return dom::XmlCharactersOf(writer.bytes);
 }
 
 std::string Decode(std::string_view raw) {
@@ -137,7 +139,7 @@ std::string Decode(std::string_view raw) {
       const std::string_view digits = name.substr(hexadecimal ? 2 : 1);
       std::uint32_t code = 0;
       const auto [stop, status] = std::from_chars(digits.begin(), digits.end(), code, hexadecimal ? 16 : 10);
-      known = status == std::errc() && stop == digits.end() && code != 0 && code < 0x110000;
+      known = status == std::errc() && stop == digits.end() && dom::IsXmlCharacter(code);
       if (known) runtime::AppendUtf8(text, code);
     }
     if (known) {

@@ -32,7 +32,7 @@ TEST(DomTest, TextsAndAttributesSurviveARoundTrip) {
   chart.setAttribute("title", "a < b & \"c\"\n\t d");
   chart.setAttribute("number", 2.5);
   chart.setAttribute("control",
-                     "a\x01\x0B"
+                     "a\x01\x0B\xED\xA0\xBD\xEF\xBF\xBF"
                      "b");
   auto comment = document.createElement("comment");
   comment.appendChild(document.createTextNode("  two\r\nlines "));

@@ -168,7 +168,19 @@ TEST(XmlTest, ValuesPassThroughBothWays) {
   EXPECT_EQ(xml::Decode(xml::EncodeText(value)), "a<b>&\"c'\r\n\td") << "what XML can't hold goes";
   EXPECT_EQ(xml::Decode(xml::EncodeAttribute(value)), "a<b>&\"c'\r\n\td");
   EXPECT_EQ(xml::Decode("&#x20AC;&#8364;&lt;&unknown;&;&#xFFFFFFF;&"), "€€<&unknown;&;&#xFFFFFFF;&");
-  EXPECT_EQ(DecodeEscapes(xml::Decode(EncodeCellText("x\r\n\x01_x0041_"))), "x\r\n\x01_x0041_");
+  for (const char* raw : {"&#1;", "&#xD83D;", "&#xFFFE;", "&#x110000;"}) EXPECT_EQ(xml::Decode(raw), raw);
+  // what no file may hold stays in the tree, where halves of a character wait for each other
+  pugi::xml_document document;
+  xml::Parse(document, "<a/>");
+  xml::SetAttribute(xml::Root(document), "b", "\xED\xA0\xBD|");
+  xml::SetText(xml::Root(document), "\xEF\xBF\xBF|ä");
+  EXPECT_EQ(xml::Attribute(xml::Root(document), "b"), "\xED\xA0\xBD|");
+  EXPECT_EQ(xml::Serialize(document), "<a b=\"|\">|ä</a>");
+  // a cell's text comes back whole, whatever is in it: here half a character, and what is none at all
+  EXPECT_EQ(EncodeCellText("\xED\xA0\xBD \xEF\xBF\xBE"), "_xD83D_ _xFFFE_");
+  for (const S& text : {S("x\r\n\x01_x0041_"), S("\xED\xA0\xBD \xEF\xBF\xBE"), S("ä😀")}) {
+    EXPECT_EQ(DecodeEscapes(xml::Decode(EncodeCellText(text))), text);
+  }
 }
 
 }  // namespace
