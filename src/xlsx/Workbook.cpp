@@ -421,7 +421,7 @@ void Workbook::WriteCharts() {
       if (package_.ContentType(part) != content_type::kChart) continue;
       if (charts_.contains(part)) continue;
       try {
-        if (shifts_.MayConcern(package_.Read(part))) Chart(part);
+        if (shifts_.MayConcern(xml::ToUtf8(package_.Read(part)))) Chart(part);
       } catch (const PackageError&) {
         // a chart that nobody can read follows nothing, and stays as it is
       }

@@ -45,6 +45,7 @@ bool PartMentions(const Package& package, const std::string& part, const RowShif
   std::size_t kept = 0;
   while (const std::size_t count = stream->Read(window.data() + kept, kWindow - kept)) {
     const std::string_view text(window.data(), kept + count);
+    if (kept == 0 && xml::NeedsConversion(text)) return shifts.MayConcern(xml::ToUtf8(package.Read(part)));
     if (shifts.MayConcern(text)) return true;
     kept = std::min(kOverlap, text.size());
     std::memmove(window.data(), text.data() + text.size() - kept, kept);

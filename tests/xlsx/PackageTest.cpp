@@ -2,6 +2,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "runtime/Strings.h"
 #include "tests/support/HostTest.h"
 #include "xlsx/CellText.h"
 #include "xlsx/Package.h"
@@ -151,7 +152,8 @@ TEST(XmlTest, WhatNoPartMayBringIsRefused) {
       {deep, "its XML nests too deep"},
       {"<?xml version='1.0?><!--'>" + deep + "<!-- -->", "its XML is damaged"},
       {"<!DOCTYPE a [<!-- ' -->]>" + deep, "its XML nests too deep"},
-      {"<!DOCTYPE a><a/>", "it declares a document type, which no part of a workbook may"}};
+      {"<!DOCTYPE a><a/>", "it declares a document type, which no part of a workbook may"},
+      {"<a>\xE4</a>", "its text isn't in the encoding that it declares"}};
   for (const auto& [text, reason] : cases) {
     pugi::xml_document document;
     try {
@@ -160,6 +162,33 @@ TEST(XmlTest, WhatNoPartMayBringIsRefused) {
     } catch (const PackageError& e) {
       EXPECT_STREQ(e.what(), reason) << text.substr(0, 40);
     }
+  }
+}
+
+TEST(XmlTest, AnyEncodingBecomesUtf8AndSaysSo) {
+  const auto declared = [](const S& encoding, const S& text) {
+    return "<?xml version='1.0' encoding='" + encoding + "' standalone='yes'?><a>" + text + "</a>";
+  };
+  const auto wide = [](const S& text, bool big) {
+    S bytes;
+    for (const char16_t unit : runtime::ToUtf16(text)) {
+      const char high = static_cast<char>(unit >> 8), low = static_cast<char>(unit & 0xFF);
+      bytes += big ? S{high, low} : S{low, high};
+    }
+    return bytes;
+  };
+  const std::pair<S, S> cases[] = {
+      {wide("\uFEFF" + declared("UTF-16", "ä€"), false), declared("UTF-8", "ä€")},
+      {wide("\uFEFF" + declared("utf-16", "ä€"), true), declared("UTF-8", "ä€")},
+      {wide(declared("UTF-16LE", "ä"), false), declared("UTF-8", "ä")},
+      {wide("\uFEFF<a/>", false), "<a/>"},
+      {"\uFEFF" + declared("UTF-8", "ä"), declared("UTF-8", "ä")},
+      {declared("iso-8859-1", "\xE4\xFC"), declared("UTF-8", "äü")},
+      {declared("Windows-1252", "\x80\x99\xE4"), declared("UTF-8", "€™ä")},
+      {declared("utf-8", "ä"), declared("utf-8", "ä")}};
+  for (const auto& [bytes, text] : cases) {
+    EXPECT_EQ(xml::ToUtf8(bytes), text);
+    EXPECT_EQ(xml::NeedsConversion(bytes), bytes != text);
   }
 }
 

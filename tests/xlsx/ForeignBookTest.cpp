@@ -1,0 +1,102 @@
+#include <algorithm>
+#include <functional>
+#include <limits>
+#include <new>
+
+#include "runtime/RuntimeError.h"
+#include "runtime/Strings.h"
+#include "tests/support/HostTest.h"
+#include "xlsx/Drawing.h"
+#include "xlsx/Namespaces.h"
+#include "xlsx/Shape.h"
+#include "xlsx/Worksheet.h"
+#include "xlsx/Xml.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+using test::PlainBook;
+using test::SalesBook;
+using S = std::string;
+using Edit = std::function<S(const S&)>;
+
+constexpr const char* kSheet1 = "/xl/worksheets/sheet1.xml";
+constexpr const char* kWorkbook = "/xl/workbook.xml";
+
+/// Workbooks as programs with habits of their own write them.
+class ForeignBookTest : public test::HostTest {
+ protected:
+  /// Opens the book with some of its parts changed.
+  void OpenEdited(const PlainBook& book, const std::vector<std::pair<S, Edit>>& edits) {
+    book.Write(folder_ / "plain.xlsx");
+    xlsx::Package package = Package::Open(folder_ / "plain.xlsx");
+    for (const auto& [part, edit] : edits) package.Replace(part, edit(package.Read(part)));
+    package.Save(folder_ / "edited.xlsx");
+    OpenFile(folder_ / "edited.xlsx");
+  }
+  /// Opens the book with other names of its parts, as the zip file and those that point at them have them.
+  void OpenRenamed(const PlainBook& book, const S& from, const S& entry, const S& written) {
+    book.Write(folder_ / "plain.xlsx");
+    const xlsx::Package package = Package::Open(folder_ / "plain.xlsx");
+    std::vector<std::pair<S, S>> parts;
+    for (const S& part : package.Parts()) {
+      S bytes = package.Read(part);
+      if (part.ends_with(".rels") || part.starts_with("/[")) bytes = runtime::Replace(bytes, from, written);
+      parts.emplace_back(runtime::Replace(part.substr(1), from, entry), std::move(bytes));
+    }
+    ArchiveWriter writer(folder_ / "renamed.xlsx");
+    for (const auto& [name, bytes] : parts) writer.Add(name, bytes);
+    writer.Finish();
+    OpenFile(folder_ / "renamed.xlsx");
+  }
+  std::shared_ptr<Worksheet> Sheet(const S& name) { return Book().FindWorksheet(name); }
+  void AddBox(const S& sheet) { Sheet(sheet)->Shapes()->AddTextbox(1, 10, 10, 50, 20); }
+  void AddChart(const S& sheet) { Sheet(sheet)->ChartObjects()->Add(10, 10, 50, 20); }
+  bool Holds(const S& part, const S& text) const { return SavedPart(part).find(text) != S::npos; }
+};
+
+S Wide(const S& text) {
+  S bytes = "\xFF\xFE";
+  for (const char16_t unit : runtime::ToUtf16(text)) {
+    bytes += {static_cast<char>(unit & 0xFF), static_cast<char>(unit >> 8)};
+  }
+  return bytes;
+}
+
+Edit Replacing(const S& from, const S& to) {
+  return [from, to](const S& text) {
+    EXPECT_NE(text.find(from), S::npos) << from;
+    return runtime::Replace(text, from, to);
+  };
+}
+
+TEST_F(ForeignBookTest, PartsInOtherEncodingsAreReadAndFollowed) {
+  PlainBook book = SalesBook({{"VEX_Chart1"}});
+  book.Sheet("Data1").rows[1][0] = S("Östen");
+  book.sheets.push_back({"Formulas", {{test::RawCell{"><f>VEX_ChartData!C1</f></c>"}}}});
+  const auto utf16 = [](const S& text) {
+    return Wide(
+        runtime::Replace(text, "<?xml version=\"1.0\"?>", "<?xml version=\"1.0\" encoding=\"UTF-16\"?>"));
+  };
+  const auto latin1 = [](const S& text) {
+    return runtime::Replace(
+        runtime::Replace(text, "<?xml version=\"1.0\"?>", "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>"),
+        "Ö", "\xD6");
+  };
+  for (const Edit& encoded : {Edit(utf16), Edit(latin1)}) {
+    OpenEdited(book, {{kSheet1, encoded}, {"/xl/worksheets/sheet4.xml", encoded}, {kWorkbook, encoded}});
+    Refresh();
+    AddBox("Data1");
+    Sheet("VEX_ChartData")->InsertRow(1);
+    SaveAndReopen();
+    EXPECT_TRUE(Messages().empty());
+    EXPECT_EQ(Cells("VEX_ChartData", 3, 2, 3, 2), "Östen");
+    for (const S& part : {S(kSheet1), S("/xl/worksheets/sheet4.xml"), S(kWorkbook)}) {
+      EXPECT_TRUE(SavedPart(part).starts_with("<?xml version=\"1.0\" encoding=\"UTF-8\"?>")) << part;
+    }
+    EXPECT_TRUE(Holds("/xl/worksheets/sheet4.xml", "<f>VEX_ChartData!C2</f>"));
+  }
+}
+
+}  // namespace
+}  // namespace plotsmith::xlsx
