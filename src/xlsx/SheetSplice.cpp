@@ -8,6 +8,7 @@
 
 #include "xlsx/PackageError.h"
 #include "xlsx/Xml.h"
+#include "xlsx/XmlStream.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -133,6 +134,29 @@ void InsertDrawingLink(std::string& part, std::string_view relationships, std::s
   });
   part.insert(behind.span.begin, "<" + prefix + "drawing xmlns:r=\"" + std::string(relationships) +
                                      "\" r:id=\"" + xml::EncodeAttribute(id) + "\"/>");
+}
+
+bool SelectTab(std::string& part, bool selected) {
+  if (const auto view = FindInHead(part, "sheetView")) {
+    const std::size_t nameEnd = view->span.begin + 1 + view->name.size();
+    const std::string was =
+        AttributeIn(std::string_view(part).substr(nameEnd, view->span.end - nameEnd), "tabSelected");
+    if (selected == (was == "1" || was == "true")) return false;
+    Span place = FindAttribute(part, view->span, "tabSelected");
+    if (!place.Found()) place = {nameEnd, nameEnd};
+    part.replace(place.begin, place.end - place.begin, selected ? " tabSelected=\"1\"" : "");
+    return true;
+  }
+  const auto root = NextTag(part, 0);
+  if (!selected || !root || root->kind != Tag::Kind::kStart) return false;
+  const Tag behind = FindChild(part, root->span.end, [](std::string_view local) {
+    return local == "sheetFormatPr" || local == "cols" || local == "sheetData";
+  });
+  const std::string open = "<" + std::string(xml::Prefix(root->name));
+  part.insert(behind.span.begin, open + "sheetViews>" + open +
+                                     "sheetView tabSelected=\"1\" workbookViewId=\"0\"/></" + open.substr(1) +
+                                     "sheetViews>");
+  return true;
 }
 
 }  // namespace plotsmith::xlsx

@@ -13,6 +13,7 @@
 #include "xlsx/DefinedNames.h"
 #include "xlsx/Limits.h"
 #include "xlsx/Namespaces.h"
+#include "xlsx/SelectedTab.h"
 #include "xlsx/SharedStrings.h"
 #include "xlsx/Sheets.h"
 #include "xlsx/Worksheet.h"
@@ -142,6 +143,7 @@ void Workbook::LoadSheets() {
   const auto active = xml::IntegerAttribute(view, "activeTab", 0);
   if (active >= 0 && active < static_cast<long long>(sheets_.size()))
     activeSheet_ = static_cast<std::size_t>(active);
+  if (!sheets_.empty()) openedSheet_ = sheets_[activeSheet_];
 }
 
 void Workbook::LoadNames() {
@@ -276,10 +278,13 @@ void Workbook::RenumberLocalNames(std::size_t position, int step) {
     place = *place + static_cast<std::size_t>(step);
     xml::SetAttribute(nodes[i], "localSheetId", std::to_string(*place));
   }
-  const auto view = xml::Child(Root(), "bookViews", "workbookView");
-  for (const char* tab : {"activeTab", "firstSheet"}) {
-    const auto at = xml::IntegerAttribute(view, tab, -1);
-    if (at >= static_cast<long long>(position)) xml::SetAttribute(view, tab, std::to_string(at + step));
+  for (const pugi::xml_node& view : xml::Children(xml::Child(Root(), "bookViews"), "workbookView")) {
+    for (const char* tab : {"activeTab", "firstSheet"}) {
+      // a place behind the last sheet was none before either
+      const auto at = std::min(xml::IntegerAttribute(view, tab, -1), static_cast<long long>(sheets_.size()));
+      if (at < static_cast<long long>(position)) continue;
+      xml::SetAttribute(view, tab, std::to_string(std::max(at + step, 0LL)));
+    }
   }
   nameObjects_ = nullptr;
 }
@@ -381,6 +386,12 @@ void Workbook::WriteStyles() {
 }
 
 void Workbook::WriteActiveTab() {
+  if (activeSheet_ < sheets_.size() && sheets_[activeSheet_] != openedSheet_) {
+    openedSheet_ = sheets_[activeSheet_];
+    std::vector<std::string> parts;
+    for (const auto& sheet : sheets_) parts.push_back(sheet->part);
+    SelectOnlyTab(package_, parts, openedSheet_->part);
+  }
   const auto active = static_cast<long long>(activeSheet_);
   pugi::xml_node view = xml::Child(Root(), "bookViews", "workbookView");
   if (xml::IntegerAttribute(view, "activeTab", 0) == active) return;

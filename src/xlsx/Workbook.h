@@ -124,6 +124,7 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   std::optional<TextPool> sharedStrings_;
   std::vector<std::shared_ptr<SheetEntry>> sheets_;
   std::size_t activeSheet_ = 0;
+  std::shared_ptr<SheetEntry> openedSheet_;  ///< the active sheet as the file tells
   std::vector<NameEntry> names_;
   excel::Ref<excel::Names> nameObjects_;  ///< made when first asked for, until a name changes
   std::map<std::string, std::shared_ptr<ChartPart>, std::less<>> charts_;  ///< those in use, by part

@@ -98,5 +98,31 @@ TEST_F(ForeignBookTest, PartsInOtherEncodingsAreReadAndFollowed) {
   }
 }
 
+TEST_F(ForeignBookTest, OneTabIsSelectedWhenAnotherSheetBecomesActive) {
+  PlainBook book = SalesBook({{"VEX_Chart1"}});
+  const S selected = "<sheetViews><sheetView tabSelected=\"1\" workbookViewId=\"0\"/></sheetViews>";
+  book.Sheet("Data1").beforeData = book.Sheet("Charts").beforeData = selected;
+  const auto tabs = [&] {
+    S text;
+    for (const S& part : Package::Open(folder_ / "saved.xlsx").Parts()) {
+      if (part.starts_with("/xl/worksheets/sheet") && Holds(part, "tabSelected=\"1\"")) text += part[20];
+    }
+    std::sort(text.begin(), text.end());
+    return text;
+  };
+  Open(book);
+  Refresh();  // adds a sheet that nobody sees, and goes back
+  SaveAndReopen();
+  EXPECT_EQ(tabs(), "12") << "a group that the user made stays";
+  Book().Activate(*Book().FindSheet("Charts"));
+  SaveAndReopen();
+  EXPECT_EQ(tabs(), "2");
+  EXPECT_EQ(Book().ActiveSheet()->Name(), "Charts");
+  Book().AddWorksheet(1);
+  SaveAndReopen();
+  EXPECT_EQ(tabs(), "5");
+  EXPECT_EQ(Book().ActiveSheet()->Name(), "Sheet1");
+}
+
 }  // namespace
 }  // namespace plotsmith::xlsx

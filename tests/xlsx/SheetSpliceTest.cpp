@@ -58,5 +58,44 @@ TEST(SheetSpliceTest, CellsAreReplacedWithWhatTheSheetSaysOfThem) {
   }
 }
 
+TEST(SheetSpliceTest, ATabIsSelectedOrNot) {
+  const S view = "<sheetViews><sheetView showGridLines=\"0\" workbookViewId=\"0\"/></sheetViews>";
+  const S selected = "<sheetViews><sheetView tabSelected=\"1\" workbookViewId=\"0\"/></sheetViews>";
+  struct Case {
+    S before;
+    bool select;
+    S after;  ///< empty: stays as it is
+  };
+  const Case cases[] = {
+      {"<w>" + view + "<sheetData/></w>", false, ""},
+      {"<w>" + view + "<sheetData/></w>", true,
+       "<w><sheetViews><sheetView tabSelected=\"1\" showGridLines=\"0\" workbookViewId=\"0\"/></sheetViews>"
+       "<sheetData/></w>"},
+      {"<w>" + selected + "<sheetData/></w>", true, ""},
+      {"<w><sheetViews><sheetView a='>'\n tabSelected = 'true' "
+       "workbookViewId='0'><pane/></sheetView></sheetViews>"
+       "<sheetData/></w>",
+       false,
+       "<w><sheetViews><sheetView a='>'\n "
+       "workbookViewId='0'><pane/></sheetView></sheetViews><sheetData/></w>"},
+      {"<w><sheetViews><sheetView tabSelected='0'/></sheetViews><sheetData/></w>", true,
+       "<w><sheetViews><sheetView tabSelected=\"1\"/></sheetViews><sheetData/></w>"},
+      {"<?xml version='1.0'?><w><sheetPr><tabColor/></sheetPr><dimension/><sheetFormatPr/><sheetData/></w>",
+       true,
+       "<?xml version='1.0'?><w><sheetPr><tabColor/></sheetPr><dimension/>" + selected +
+           "<sheetFormatPr/><sheetData/></w>"},
+      {"<x:w><x:sheetData/></x:w>", true,
+       "<x:w><x:sheetViews><x:sheetView tabSelected=\"1\" workbookViewId=\"0\"/></x:sheetViews><x:sheetData/>"
+       "</x:w>"},
+      {"<w><sheetData/></w>", false, ""},
+      {"<chartsheet><sheetViews><sheetView tabSelected=\"1\"/></sheetViews><drawing/></chartsheet>", false,
+       "<chartsheet><sheetViews><sheetView/></sheetViews><drawing/></chartsheet>"}};
+  for (const Case& c : cases) {
+    S part = c.before;
+    EXPECT_EQ(SelectTab(part, c.select), !c.after.empty()) << c.before;
+    EXPECT_EQ(part, c.after.empty() ? c.before : c.after);
+  }
+}
+
 }  // namespace
 }  // namespace plotsmith::xlsx
