@@ -98,6 +98,31 @@ TEST_F(ForeignBookTest, PartsInOtherEncodingsAreReadAndFollowed) {
   }
 }
 
+TEST_F(ForeignBookTest, PartsAreFoundUnderAnyWritingOfTheirNames) {
+  const PlainBook book = SalesBook({{"VEX_Chart1"}});
+  for (const auto& [from, entry, written] : {std::tuple<S, S, S>{"charts/", "my%20charts/", "my%20charts/"},
+                                             {"charts/", "my charts/", "my%20charts/"},
+                                             {"charts/", "my charts/", "my charts/"},
+                                             {"charts/chart1", "charts/Chart1", "CHARTS/chart1"},
+                                             {"worksheets/", "bl%C3%A4tter/", "bl%c3%a4tter/"},
+                                             {"worksheets/", "blätter/", "bl%C3%A4tter/"}}) {
+    OpenRenamed(book, from, entry, written);
+    const auto before = Package::Open(folder_ / "renamed.xlsx").Parts().size();
+    Refresh();
+    AddChart("Charts");
+    AddBox("Data1");
+    SaveAndReopen();
+    EXPECT_TRUE(Messages().empty()) << entry;
+    // a chart, and a drawing with its link; the data sheet and the theme
+    EXPECT_EQ(Package::Open(folder_ / "saved.xlsx").Parts().size(), before + 5) << entry;
+    ASSERT_EQ(Sheet("Charts")->ChartObjects()->Count(), 2) << entry;
+    Sheet("VEX_ChartData")->InsertRow(1);
+    SaveAndReopen();
+    const auto part = Sheet("Charts")->FindDrawing()->Shapes()[0]->ChartPartName();
+    EXPECT_TRUE(Holds(part, "VEX_ChartData!$C$3:$C$4")) << entry << SavedPart(part);
+  }
+}
+
 TEST_F(ForeignBookTest, OneTabIsSelectedWhenAnotherSheetBecomesActive) {
   PlainBook book = SalesBook({{"VEX_Chart1"}});
   const S selected = "<sheetViews><sheetView tabSelected=\"1\" workbookViewId=\"0\"/></sheetViews>";

@@ -28,6 +28,7 @@ TEST(PackageTest, TargetsAreResolvedInsideThePackage) {
   EXPECT_EQ(RelativeTarget("/xl/worksheets/sheet1.xml", "/xl/drawings/d.xml"), "../drawings/d.xml");
   EXPECT_EQ(RelativeTarget("", "/xl/workbook.xml"), "xl/workbook.xml");
   EXPECT_EQ(RelativeTarget("/a/b/c.xml", "/x/y.xml"), "../../x/y.xml");
+  EXPECT_EQ(RelativeTarget("/a b/c.xml", "/a b/ä%.xml"), "%C3%A4%25.xml");
 }
 
 class PackageFileTest : public ::testing::Test {
