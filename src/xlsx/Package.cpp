@@ -243,7 +243,11 @@ void Package::Add(std::string_view part, std::string_view contentType, std::stri
   Put(part, std::move(bytes));
   if (ContentType(part) == contentType) return;
   pugi::xml_node types = xml::Root(*contentTypes_);
-  pugi::xml_node type = types.append_child((std::string(xml::Prefix(types.name())) + "Override").c_str());
+  pugi::xml_node type;
+  for (const pugi::xml_node& other : xml::Children(types, "Override")) {
+    if (PartNameOf(other) == Folded(part)) type = other;  // a part that was here once left it behind
+  }
+  if (!type) type = types.append_child((std::string(xml::Prefix(types.name())) + "Override").c_str());
   xml::SetAttribute(type, "PartName", PercentEncoded(part));
   xml::SetAttribute(type, "ContentType", contentType);
   contentTypesChanged_ = true;

@@ -123,6 +123,20 @@ TEST_F(ForeignBookTest, PartsAreFoundUnderAnyWritingOfTheirNames) {
   }
 }
 
+TEST_F(ForeignBookTest, WhatAFormerPartLeftInTheContentTypesIsTakenOver) {
+  OpenEdited(SalesBook({}),
+             {{"/[Content_Types].xml",
+               Replacing("</Types>",
+                         "<Override PartName=\"/xl/drawings/drawing1.xml\" ContentType=\"x/y\"/></Types>")}});
+  AddBox("Data1");
+  SaveAndReopen();
+  const S types = SavedPart("/[Content_Types].xml");
+  const auto first = types.find("/xl/drawings/drawing1.xml");
+  EXPECT_EQ(types.find("/xl/drawings/drawing1.xml", first + 1), S::npos);
+  EXPECT_EQ(Package::Open(folder_ / "saved.xlsx").ContentType("/xl/drawings/drawing1.xml"),
+            content_type::kDrawing);
+}
+
 TEST_F(ForeignBookTest, OneTabIsSelectedWhenAnotherSheetBecomesActive) {
   PlainBook book = SalesBook({{"VEX_Chart1"}});
   const S selected = "<sheetViews><sheetView tabSelected=\"1\" workbookViewId=\"0\"/></sheetViews>";
