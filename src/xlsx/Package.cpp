@@ -357,6 +357,7 @@ void Package::Save(const std::string& path) {
       writer.Copy(*archive_, *part->entry);
     }
   }
+  if (archive_) writer.CopyComment(*archive_);
   writer.Finish();
   file.Commit();
 }

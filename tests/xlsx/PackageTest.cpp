@@ -70,6 +70,34 @@ TEST_F(PackageFileTest, UntouchedPartsKeepTheirBytesOrderAndNames) {
   EXPECT_EQ(again.FindRelationship("/xl/workbook.xml", id)->type, "new");
 }
 
+TEST_F(PackageFileTest, ForeignEntriesAreCopiedByWhateverMethodTheyCame) {
+  {
+    ArchiveWriter writer(folder_ / "odd.xlsx");
+    writer.Add("[Content_Types].xml", "<Types/>");
+    writer.Add("foreign.bin", "in LZMA, or so it says", false);
+    writer.Finish();
+  }
+  std::ifstream in(folder_ / "odd.xlsx", std::ios::binary);
+  S bytes((std::istreambuf_iterator<char>(in)), {});
+  // the method stands 22 bytes before a local name, and 36 before one in the directory
+  const auto local = bytes.find("foreign.bin"), central = bytes.rfind("foreign.bin");
+  bytes[local - 22] = bytes[central - 36] = 14;
+  const S comment = "a comment on the file";
+  bytes[bytes.size() - 2] = static_cast<char>(comment.size());
+  std::ofstream(folder_ / "odd.xlsx", std::ios::binary) << bytes << comment;
+
+  Package package = Package::Open(folder_ / "odd.xlsx");
+  EXPECT_THROW(package.Read("/foreign.bin"), PackageError);
+  package.Add("/new.xml", "application/xml", "<new/>");
+  package.Save(folder_ / "out.xlsx");
+  std::ifstream saved(folder_ / "out.xlsx", std::ios::binary);
+  const S after((std::istreambuf_iterator<char>(saved)), {});
+  EXPECT_NE(after.find("in LZMA, or so it says"), S::npos);
+  EXPECT_TRUE(after.ends_with(comment));
+  EXPECT_EQ(after[after.find("foreign.bin") - 22], 14);
+  EXPECT_EQ(Archive(folder_ / "out.xlsx").Entries()[1].method, 14);
+}
+
 TEST_F(PackageFileTest, TheFileIsReplacedWholeOrNotAtAll) {
   const S path = Book();
   chmod(path.c_str(), 0640);
