@@ -146,8 +146,7 @@ std::shared_ptr<Shape> Drawing::AddTextbox(double left, double top, double width
 std::shared_ptr<Shape> Drawing::AddChart(double left, double top, double width, double height) {
   Workbook& book = sheet_.Book();
   const Namespaces& names = book.IsStrict() ? kStrict : kTransitional;
-  const std::string folder = part_.substr(0, part_.rfind("/drawings/") + 1) + "charts/";
-  const std::string chartPart = book.Package().FreeName(folder + "chart", ".xml");
+  const std::string chartPart = book.Package().FreeName(book.Folder() + "charts/chart", ".xml");
   book.Package().Add(chartPart, content_type::kChart, EmptyChart(book.IsStrict()));
   const std::string link = book.Package().AddRelationship(part_, names.RelationshipType("chart"), chartPart);
   const std::string id = std::to_string(NextId());

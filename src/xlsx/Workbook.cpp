@@ -226,8 +226,7 @@ std::size_t Workbook::PositionOf(const SheetEntry& sheet) const {
 
 std::shared_ptr<Worksheet> Workbook::AddWorksheet(std::size_t position) {
   const Namespaces& names = strict_ ? kStrict : kTransitional;
-  const std::string folder = part_.substr(0, part_.rfind('/') + 1);
-  const std::string part = package_.FreeName(folder + "worksheets/sheet", ".xml");
+  const std::string part = package_.FreeName(Folder() + "worksheets/sheet", ".xml");
   package_.Add(part, content_type::kWorksheet, EmptySheet(strict_));
   const std::string link = package_.AddRelationship(part_, names.RelationshipType("worksheet"), part);
 
@@ -380,7 +379,7 @@ void Workbook::WriteStyles() {
     return;
   }
   const Namespaces& names = strict_ ? kStrict : kTransitional;
-  const std::string part = part_.substr(0, part_.rfind('/') + 1) + "styles.xml";
+  const std::string part = Folder() + "styles.xml";
   package_.Add(part, content_type::kStyles, styles_->Serialize());
   if (!link) package_.AddRelationship(part_, names.RelationshipType("styles"), part);
 }
@@ -461,7 +460,7 @@ const Theme& Workbook::Theme() {
 void Workbook::EnsureTheme() {
   if (package_.FindRelationshipOfType(part_, "theme")) return;
   const Namespaces& names = strict_ ? kStrict : kTransitional;
-  const std::string part = package_.FreeName(part_.substr(0, part_.rfind('/') + 1) + "theme/theme", ".xml");
+  const std::string part = package_.FreeName(Folder() + "theme/theme", ".xml");
   package_.Add(part, content_type::kTheme, DefaultTheme(strict_));
   package_.AddRelationship(part_, names.RelationshipType("theme"), part);
 }

@@ -63,6 +63,8 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
 
   // for the other classes of this host
   xlsx::Package& Package() { return package_; }
+  /// The folder of the workbook part, with its slash: where new parts go.
+  std::string Folder() const { return part_.substr(0, part_.rfind('/') + 1); }
   xlsx::Styles& Styles() { return *styles_; }
   const TextPool& SharedStrings();
   DateSystem Dates() const { return dates_; }

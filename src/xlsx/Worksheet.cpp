@@ -269,8 +269,7 @@ Drawing& Worksheet::EnsureDrawing() {
   if (Drawing* drawing = FindDrawing()) return *drawing;
   auto& package = book_.Package();
   const Namespaces& names = book_.IsStrict() ? kStrict : kTransitional;
-  const std::string folder = Entry().part.substr(0, Entry().part.rfind("/worksheets/") + 1) + "drawings/";
-  const std::string part = package.FreeName(folder + "drawing", ".xml");
+  const std::string part = package.FreeName(book_.Folder() + "drawings/drawing", ".xml");
   package.Add(part, content_type::kDrawing, EmptyDrawing(book_.IsStrict()));
   const std::string id = package.AddRelationship(Entry().part, names.RelationshipType("drawing"), part);
   std::string text = xml::ToUtf8(package.Read(Entry().part));

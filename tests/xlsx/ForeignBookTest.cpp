@@ -123,6 +123,16 @@ TEST_F(ForeignBookTest, PartsAreFoundUnderAnyWritingOfTheirNames) {
   }
 }
 
+TEST_F(ForeignBookTest, NewPartsGoWhereTheyBelongWhereverTheSheetLies) {
+  OpenRenamed(SalesBook({}), "worksheets/sheet1.xml", "Sales.xml", "Sales.xml");
+  AddChart("Data1");
+  SaveAndReopen();
+  const auto package = Package::Open(folder_ / "saved.xlsx");
+  EXPECT_EQ(package.ContentType("/xl/drawings/drawing1.xml"), content_type::kDrawing);
+  EXPECT_EQ(package.ContentType("/xl/charts/chart1.xml"), content_type::kChart);
+  EXPECT_EQ(Sheet("Data1")->ChartObjects()->Count(), 1);
+}
+
 TEST_F(ForeignBookTest, WhatAFormerPartLeftInTheContentTypesIsTakenOver) {
   OpenEdited(SalesBook({}),
              {{"/[Content_Types].xml",
