@@ -1,10 +1,12 @@
 #include "xlsx/Styles.h"
 
+#include <algorithm>
 #include <array>
 
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "xlsx/DrawingFill.h"
+#include "xlsx/Namespaces.h"
 #include "xlsx/Xml.h"
 
 namespace plotsmith::xlsx {
@@ -76,8 +78,14 @@ std::vector<pugi::xml_node> Listed(pugi::xml_node sheet, std::string_view list, 
 
 }  // namespace
 
-Styles::Styles(std::string_view bytes) {
-  xml::Parse(document_, bytes.empty() ? kEmptyStyles : bytes);
+Styles::Styles(std::string_view bytes, bool strict) {
+  if (!bytes.empty()) {
+    xml::Parse(document_, bytes);
+  } else if (strict) {
+    xml::Parse(document_, runtime::Replace(kEmptyStyles, kTransitional.main, kStrict.main));
+  } else {
+    xml::Parse(document_, kEmptyStyles);
+  }
   Load();
 }
 
@@ -85,8 +93,7 @@ pugi::xml_node Styles::Sheet() const { return xml::Root(document_); }
 
 void Styles::Load() {
   for (const pugi::xml_node& format : Listed(Sheet(), "numFmts", "numFmt")) {
-    formats_[static_cast<int>(xml::IntegerAttribute(format, "numFmtId", 0))] =
-        xml::Attribute(format, "formatCode");
+    formats_[static_cast<int>(xml::IntegerAttribute(format, "numFmtId", 0))] = xml::Attribute(format, "formatCode");
   }
   for (const pugi::xml_node& style : Listed(Sheet(), "cellXfs", "xf")) {
     cellStyles_.emplace_back().formatId = static_cast<int>(xml::IntegerAttribute(style, "numFmtId", 0));
@@ -143,8 +150,12 @@ std::uint32_t Styles::WithFormat(std::uint32_t base, std::string_view code) {
     return base;
   }
   pugi::xml_node list = EnsureSheetChild(Sheet(), "cellXfs");
-  const auto styles = Listed(Sheet(), "cellXfs", "xf");
   const std::string name = std::string(xml::Prefix(list.name())) + "xf";
+  if (cellStyles_.empty()) {  // the first style is that of all cells that name none
+    xml::SetAttribute(list.append_child(name.c_str()), "numFmtId", "0");
+    cellStyles_.emplace_back();
+  }
+  const auto styles = Listed(Sheet(), "cellXfs", "xf");
   pugi::xml_node style =
       base < styles.size() ? list.append_copy(styles[base]) : list.append_child(name.c_str());
   xml::SetAttribute(style, "numFmtId", std::to_string(id));

@@ -112,7 +112,7 @@ void Workbook::Load() {
   if (styles && package_.Has(styles->target)) {
     InPart(styles->target, [&] { styles_ = std::make_unique<xlsx::Styles>(package_.Read(styles->target)); });
   } else {
-    styles_ = std::make_unique<xlsx::Styles>("");
+    styles_ = std::make_unique<xlsx::Styles>("", strict_);
   }
   LoadSheets();
   LoadNames();

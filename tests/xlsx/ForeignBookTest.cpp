@@ -147,6 +147,25 @@ TEST_F(ForeignBookTest, WhatAFormerPartLeftInTheContentTypesIsTakenOver) {
             content_type::kDrawing);
 }
 
+TEST_F(ForeignBookTest, TheFirstStyleStaysThatOfAllOtherCells) {
+  for (const bool strict : {false, true}) {
+    PlainBook book = SalesBook({});
+    const S main = strict ? "http://purl.oclc.org/ooxml/spreadsheetml/main"
+                          : "http://schemas.openxmlformats.org/spreadsheetml/2006/main";
+    if (!strict) book.styles = "<styleSheet xmlns=\"" + main + "\"/>";
+    OpenEdited(book,
+               {{kWorkbook, Replacing("http://schemas.openxmlformats.org/spreadsheetml/2006/main", main)}});
+    Book().AddWorksheet(0)->SetCellValueAt(1, 1, 0.5);
+    Sheet("Sheet1")->SetNumberFormat({1, 1, 1, 1}, "0%");
+    SaveAndReopen();
+    EXPECT_EQ(Cells("Sheet1", 1, 1, 1, 1), "50%");
+    EXPECT_EQ(Cells("Data1", 2, 3, 2, 4), "10|7.5");
+    pugi::xml_document styles;
+    xml::Parse(styles, SavedPart("/xl/styles.xml"));
+    EXPECT_EQ(xml::NamespaceOf(xml::Root(styles)), main);
+  }
+}
+
 TEST_F(ForeignBookTest, OneTabIsSelectedWhenAnotherSheetBecomesActive) {
   PlainBook book = SalesBook({{"VEX_Chart1"}});
   const S selected = "<sheetViews><sheetView tabSelected=\"1\" workbookViewId=\"0\"/></sheetViews>";
