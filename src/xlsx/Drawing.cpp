@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <set>
 
 #include "runtime/Strings.h"
 #include "xlsx/ChartPart.h"
+#include "xlsx/FreeNumber.h"
 #include "xlsx/Namespaces.h"
 #include "xlsx/Shape.h"
 #include "xlsx/Worksheet.h"
@@ -103,14 +106,15 @@ std::string Drawing::DrawingMlPrefix() const {
 
 unsigned Drawing::NextId() const {
   struct Walker : pugi::xml_tree_walker {
-    long long highest = 1;  // Excel begins with 2
+    std::set<long long> taken;
     bool for_each(pugi::xml_node& node) override {
-      if (xml::Is(node, "cNvPr")) highest = std::max(highest, xml::IntegerAttribute(node, "id", 0));
+      if (xml::Is(node, "cNvPr")) taken.insert(xml::IntegerAttribute(node, "id", 0));
       return true;
     }
   } walker;
   const_cast<pugi::xml_document&>(document_).traverse(walker);
-  return static_cast<unsigned>(walker.highest + 1);
+  constexpr long long kFirst = 2;  // Excel's
+  return static_cast<unsigned>(FreeNumber(walker.taken, kFirst, std::numeric_limits<std::int32_t>::max()));
 }
 
 std::shared_ptr<Shape> Drawing::AddAnchor(double left, double top, double width, double height,
@@ -133,8 +137,8 @@ std::shared_ptr<Shape> Drawing::AddTextbox(double left, double top, double width
   const auto emu = [](double points) { return std::to_string(std::llround(points * kEmuPerPoint)); };
   const std::string object = Prefixed(
       R"(<@sp macro="" textlink=""><@nvSpPr><@cNvPr id=")" + id + R"(" name="TextBox )" + id +
-          R"("/><@cNvSpPr txBox="1"/></@nvSpPr><@spPr><~xfrm><~off x=")" + emu(left) + R"(" y=")" + emu(top) +
-          R"("/><~ext cx=")" + emu(width) + R"(" cy=")" + emu(height) +
+          R"("/><@cNvSpPr txBox="1"/></@nvSpPr><@spPr><~xfrm><~off x=")" +
+          emu(left) + R"(" y=")" + emu(top) + R"("/><~ext cx=")" + emu(width) + R"(" cy=")" + emu(height) +
           R"("/></~xfrm><~prstGeom prst="rect"><~avLst/></~prstGeom><~solidFill><~srgbClr val="FFFFFF"/></~solidFill>)"
           R"(<~ln w="9525"><~solidFill><~srgbClr val="000000"/></~solidFill></~ln></@spPr>)"
           R"(<@txBody><~bodyPr vertOverflow="clip" wrap="square" rtlCol="0"/><~lstStyle/>)"

@@ -25,6 +25,7 @@ inline constexpr std::int32_t kRows = 1'048'576;
 inline constexpr std::int32_t kColumns = 16'384;
 inline constexpr std::size_t kCellText = 32'767;
 inline constexpr std::size_t kSheetName = 31;
+inline constexpr long long kSheetId = 65'534;
 
 /// Cells of one sheet.
 inline constexpr std::uint64_t kCells = 400'000'000;

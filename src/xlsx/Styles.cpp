@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
+#include <set>
 
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "xlsx/DrawingFill.h"
+#include "xlsx/FreeNumber.h"
 #include "xlsx/Namespaces.h"
 #include "xlsx/Xml.h"
 
@@ -13,6 +16,7 @@ namespace plotsmith::xlsx {
 namespace {
 
 constexpr int kFirstCustomFormat = 164;
+constexpr int kLastFormat = std::numeric_limits<int>::max();
 constexpr int kPaletteSize = 56;
 /// The indexed colours of the file begin with eight fixed ones.
 constexpr int kFixedColors = 8;
@@ -76,6 +80,11 @@ std::vector<pugi::xml_node> Listed(pugi::xml_node sheet, std::string_view list, 
   return found;
 }
 
+int FormatIdOf(pugi::xml_node node) {
+  return static_cast<int>(
+      std::clamp(xml::IntegerAttribute(node, "numFmtId", 0), 0LL, static_cast<long long>(kLastFormat)));
+}
+
 }  // namespace
 
 Styles::Styles(std::string_view bytes, bool strict) {
@@ -93,10 +102,10 @@ pugi::xml_node Styles::Sheet() const { return xml::Root(document_); }
 
 void Styles::Load() {
   for (const pugi::xml_node& format : Listed(Sheet(), "numFmts", "numFmt")) {
-    formats_[static_cast<int>(xml::IntegerAttribute(format, "numFmtId", 0))] = xml::Attribute(format, "formatCode");
+    formats_[FormatIdOf(format)] = xml::Attribute(format, "formatCode");
   }
   for (const pugi::xml_node& style : Listed(Sheet(), "cellXfs", "xf")) {
-    cellStyles_.emplace_back().formatId = static_cast<int>(xml::IntegerAttribute(style, "numFmtId", 0));
+    cellStyles_.emplace_back().formatId = FormatIdOf(style);
   }
 }
 
@@ -122,14 +131,15 @@ void Styles::Parse(const CellStyle& style) const {
 
 int Styles::FormatId(std::string_view code) {
   if (runtime::EqualsIgnoreCase(code, "General") || code.empty()) return 0;
-  int next = kFirstCustomFormat;
+  std::set<long long> taken;
   for (const auto& [id, custom] : formats_) {
     if (custom == code) return id;
-    next = std::max(next, id + 1);
+    taken.insert(id);
   }
   for (int id = 1; id < 50; ++id) {
     if (BuiltinNumberFormat(id) == code && !formats_.contains(id)) return id;
   }
+  const auto next = static_cast<int>(FreeNumber(taken, kFirstCustomFormat, kLastFormat));
   pugi::xml_node list = EnsureSheetChild(Sheet(), "numFmts");
   pugi::xml_node format = list.append_child((std::string(xml::Prefix(list.name())) + "numFmt").c_str());
   xml::SetAttribute(format, "numFmtId", std::to_string(next));

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
+#include <set>
 
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
@@ -11,6 +12,7 @@
 #include "xlsx/ChartPart.h"
 #include "xlsx/DefaultTheme.h"
 #include "xlsx/DefinedNames.h"
+#include "xlsx/FreeNumber.h"
 #include "xlsx/Limits.h"
 #include "xlsx/Namespaces.h"
 #include "xlsx/SelectedTab.h"
@@ -230,8 +232,8 @@ std::shared_ptr<Worksheet> Workbook::AddWorksheet(std::size_t position) {
   package_.Add(part, content_type::kWorksheet, EmptySheet(strict_));
   const std::string link = package_.AddRelationship(part_, names.RelationshipType("worksheet"), part);
 
-  long long id = 0;
-  for (const auto& sheet : sheets_) id = std::max(id, xml::IntegerAttribute(sheet->node, "sheetId", 0));
+  std::set<long long> ids;
+  for (const auto& sheet : sheets_) ids.insert(xml::IntegerAttribute(sheet->node, "sheetId", 0));
   std::string name;
   for (int n = 1; name.empty() || FindSheet(name); ++n) name = "Sheet" + std::to_string(n);
 
@@ -243,7 +245,7 @@ std::shared_ptr<Worksheet> Workbook::AddWorksheet(std::size_t position) {
   entry->name = name;
   entry->part = part;
   xml::SetAttribute(entry->node, "name", name);
-  xml::SetAttribute(entry->node, "sheetId", std::to_string(id + 1));
+  xml::SetAttribute(entry->node, "sheetId", std::to_string(FreeNumber(ids, 1, limits::kSheetId)));
   xml::SetAttribute(entry->node, (xml::EnsurePrefix(Root(), names.relationships, "r") + "id").c_str(), link);
   entry->worksheet = std::make_shared<Worksheet>(*this, entry, true);
   entry->object = entry->worksheet;

@@ -147,6 +147,43 @@ TEST_F(ForeignBookTest, WhatAFormerPartLeftInTheContentTypesIsTakenOver) {
             content_type::kDrawing);
 }
 
+TEST_F(ForeignBookTest, NumbersAtTheEndOfTheirRangeLeaveRoom) {
+  PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}});
+  book.workbookExtra =
+      "<bookViews><workbookView activeTab=\"9223372036854775807\" "
+      "firstSheet=\"-9223372036854775808\"/><workbookView activeTab=\"2\"/></bookViews>";
+  book.Sheet("Charts").beforeData =
+      "<sheetFormatPr baseColWidth=\"1e300\" defaultRowHeight=\"1e300\"/><cols><col min=\"1\" max=\"16384\" "
+      "width=\"1e300\"/><col min=\"3\" max=\"-1e300\"/></cols>";
+  book.styles =
+      "<styleSheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><numFmts "
+      "count=\"2\"><numFmt "
+      "numFmtId=\"2147483647\" formatCode=\"0.0\"/><numFmt numFmtId=\"9223372036854775807\" "
+      "formatCode=\"0.00000\"/>"
+      "</numFmts><fonts><font><sz val=\"1e300\"/></font></fonts></styleSheet>";
+  book.Sheet("Charts").frames[1].chartXml = runtime::Replace(
+      test::EmptyFrameChart(), "<c:layout/>",
+      "<c:layout/><c:barChart><c:barDir val=\"col\"/><c:grouping val=\"clustered\"/><c:ser><c:idx "
+      "val=\"9223372036854775807\"/><c:order val=\"9223372036854775807\"/></c:ser></c:barChart>");
+  OpenEdited(
+      book, {{kWorkbook, Replacing("sheetId=\"3\"", "sheetId=\"65534\"")},
+             {"/xl/drawings/drawing2.xml", Replacing("cNvPr id=\"3\"", "cNvPr id=\"9223372036854775807\"")}});
+  AddBox("Charts");
+  Book().AddWorksheet(0)->SetCellValueAt(1, 1, 1.0);
+  Sheet("Sheet1")->SetNumberFormat({1, 1, 1, 1}, "0.000");
+  Refresh();
+  SaveAndReopen();
+  const S workbook = SavedPart(kWorkbook);
+  EXPECT_NE(workbook.find("<sheet name=\"Sheet1\" sheetId=\"3\""), S::npos) << workbook;
+  EXPECT_NE(workbook.find("<sheet name=\"VEX_ChartData\" sheetId=\"4\""), S::npos) << workbook;
+  EXPECT_NE(workbook.find("<workbookView activeTab=\"3\"/>"), S::npos) << "all windows: " << workbook;
+  EXPECT_TRUE(Holds("/xl/drawings/drawing2.xml", "<xdr:cNvPr id=\"3\" name=\"TextBox 3\"/>"))
+      << SavedPart("/xl/drawings/drawing2.xml");
+  EXPECT_TRUE(Holds("/xl/styles.xml", "numFmtId=\"164\" formatCode=\"0.000\""))
+      << SavedPart("/xl/styles.xml");
+  EXPECT_EQ(Cells("Sheet1", 1, 1, 1, 1), "1.000");
+}
+
 TEST_F(ForeignBookTest, TheFirstStyleStaysThatOfAllOtherCells) {
   for (const bool strict : {false, true}) {
     PlainBook book = SalesBook({});
