@@ -317,19 +317,6 @@ void Workbook::Activate(const SheetEntry& sheet) {
   if (position < sheets_.size()) activeSheet_ = position;
 }
 
-void Workbook::DefineName(std::string name, std::string definition) {
-  pugi::xml_node list = xml::Child(Root(), "definedNames");
-  const std::string prefix(xml::Prefix(Root().name()));
-  if (!list)
-    list = Root().insert_child_after((prefix + "definedNames").c_str(), xml::Child(Root(), "sheets"));
-  pugi::xml_node node = list.append_child((prefix + "definedName").c_str());
-  xml::SetAttribute(node, "name", name);
-  xml::SetText(node, definition);
-  names_.push_back({std::move(name), std::nullopt, std::move(definition)});
-  nameObjects_ = nullptr;
-  changed_ = true;
-}
-
 std::shared_ptr<ChartPart> Workbook::Chart(const std::string& part) {
   auto& chart = charts_[part];
   if (!chart) chart = std::make_shared<ChartPart>(*this, part);

@@ -59,7 +59,6 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   /// be saved: what was built on it is incomplete.
   const std::optional<std::string>& Damage() const { return damage_; }
   bool CalculatesManually() const;
-  void DefineName(std::string name, std::string definition);
 
   // for the other classes of this host
   xlsx::Package& Package() { return package_; }
