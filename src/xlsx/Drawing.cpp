@@ -117,6 +117,13 @@ unsigned Drawing::NextId() const {
   return static_cast<unsigned>(FreeNumber(walker.taken, kFirst, std::numeric_limits<std::int32_t>::max()));
 }
 
+std::string Drawing::FreeName(const std::string& stem, std::size_t number) const {
+  for (;; ++number) {
+    std::string name = stem + std::to_string(number);
+    if (!FindShape(name)) return name;
+  }
+}
+
 std::shared_ptr<Shape> Drawing::AddAnchor(double left, double top, double width, double height,
                                           const std::string& object) {
   const std::string prefix = Prefix();
@@ -133,11 +140,12 @@ std::shared_ptr<Shape> Drawing::AddAnchor(double left, double top, double width,
 }
 
 std::shared_ptr<Shape> Drawing::AddTextbox(double left, double top, double width, double height) {
-  const std::string id = std::to_string(NextId());
+  const unsigned number = NextId();
+  const std::string id = std::to_string(number);
   const auto emu = [](double points) { return std::to_string(std::llround(points * kEmuPerPoint)); };
   const std::string object = Prefixed(
-      R"(<@sp macro="" textlink=""><@nvSpPr><@cNvPr id=")" + id + R"(" name="TextBox )" + id +
-          R"("/><@cNvSpPr txBox="1"/></@nvSpPr><@spPr><~xfrm><~off x=")" +
+      R"(<@sp macro="" textlink=""><@nvSpPr><@cNvPr id=")" + id + R"(" name=")" +
+          FreeName("TextBox ", number) + R"("/><@cNvSpPr txBox="1"/></@nvSpPr><@spPr><~xfrm><~off x=")" +
           emu(left) + R"(" y=")" + emu(top) + R"("/><~ext cx=")" + emu(width) + R"(" cy=")" + emu(height) +
           R"("/></~xfrm><~prstGeom prst="rect"><~avLst/></~prstGeom><~solidFill><~srgbClr val="FFFFFF"/></~solidFill>)"
           R"(<~ln w="9525"><~solidFill><~srgbClr val="000000"/></~solidFill></~ln></@spPr>)"
@@ -155,8 +163,8 @@ std::shared_ptr<Shape> Drawing::AddChart(double left, double top, double width, 
   const std::string link = book.Package().AddRelationship(part_, names.RelationshipType("chart"), chartPart);
   const std::string id = std::to_string(NextId());
   const std::string object = Prefixed(
-      R"(<@graphicFrame macro=""><@nvGraphicFramePr><@cNvPr id=")" + id + R"(" name="Chart )" +
-          std::to_string(shapes_.size() + 1) +
+      R"(<@graphicFrame macro=""><@nvGraphicFramePr><@cNvPr id=")" + id + R"(" name=")" +
+          FreeName("Chart ", shapes_.size() + 1) +
           R"("/><@cNvGraphicFramePr/></@nvGraphicFramePr><@xfrm><~off x="0" y="0"/><~ext cx="0" cy="0"/></@xfrm>)"
           R"(<~graphic><~graphicData uri=")" +
           std::string(names.chart) + R"("><c:chart xmlns:c=")" + std::string(names.chart) + R"(" xmlns:r=")" +

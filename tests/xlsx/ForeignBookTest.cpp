@@ -203,6 +203,17 @@ TEST_F(ForeignBookTest, TheFirstStyleStaysThatOfAllOtherCells) {
   }
 }
 
+TEST_F(ForeignBookTest, NewShapesGetNamesOfTheirOwn) {
+  PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}});
+  OpenEdited(book, {{"/xl/drawings/drawing2.xml", Replacing("name=\"Chart 2\"", "name=\"chart 3\"")}});
+  AddChart("Charts");
+  AddChart("Charts");
+  SaveAndReopen();
+  std::vector<S> names;
+  for (const auto& shape : Sheet("Charts")->FindDrawing()->Shapes()) names.push_back(shape->Name());
+  EXPECT_EQ(names, (std::vector<S>{"Chart 1", "chart 3", "Chart 4", "Chart 5"}));
+}
+
 TEST_F(ForeignBookTest, OneTabIsSelectedWhenAnotherSheetBecomesActive) {
   PlainBook book = SalesBook({{"VEX_Chart1"}});
   const S selected = "<sheetViews><sheetView tabSelected=\"1\" workbookViewId=\"0\"/></sheetViews>";
