@@ -39,6 +39,7 @@ class FormulaReader {
   std::string_view rest_;
   Place place_ = Place::kHome;  ///< of a reference that comes next
   std::string sheet_;
+  std::optional<Piece> corner_;  ///< a reference with a colon behind it: what follows is on the same sheet
 };
 
 /// A formula in which references into one sheet follow when rows of it are inserted or deleted: `count` rows
