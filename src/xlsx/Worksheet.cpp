@@ -53,6 +53,10 @@ bool PartMentions(const Package& package, const std::string& part, const RowShif
   return false;
 }
 
+bool MentionsChart(std::string_view drawing) {
+  return drawing.find("graphicFrame") != std::string_view::npos;
+}
+
 CellValue::Kind NumberKind(const Styles& styles, std::uint32_t style, double number) {
   return number >= 0 && number < kDateEnd && styles.IsDate(style) ? CellValue::Kind::kDate
                                                                   : CellValue::Kind::kNumber;
@@ -257,8 +261,17 @@ Ref<excel::ChartObjects> Worksheet::ChartObjects() { return MakeChartObjects(*th
 Drawing* Worksheet::FindDrawing() {
   if (!drawingSought_) {
     book_.Guarded([&] {
-      const auto link = book_.Package().FindRelationshipOfType(Entry().part, "drawing");
-      if (link) drawing_ = std::make_unique<Drawing>(*this, link->target);
+      const auto& package = book_.Package();
+      const auto link = package.FindRelationshipOfType(Entry().part, "drawing");
+      if (!link) return;
+      try {
+        drawing_ = std::make_unique<Drawing>(*this, link->target);
+      } catch (const PackageError& e) {
+        // One drawing that can't be read is no reason to give the workbook up, unless it may hold a chart
+        // that somebody looks for: whoever doesn't find it would take it for deleted.
+        if (package.Has(link->target) && MentionsChart(xml::ToUtf8(package.Read(link->target)))) throw;
+        drawingDamage_ = e.what();
+      }
     });
     drawingSought_ = true;
   }
@@ -267,6 +280,9 @@ Drawing* Worksheet::FindDrawing() {
 
 Drawing& Worksheet::EnsureDrawing() {
   if (Drawing* drawing = FindDrawing()) return *drawing;
+  if (drawingDamage_) {
+    throw RuntimeError(runtime::error::kApplication, "The drawing can't be read: " + *drawingDamage_ + ".");
+  }
   auto& package = book_.Package();
   const Namespaces& names = book_.IsStrict() ? kStrict : kTransitional;
   const std::string part = package.FreeName(book_.Folder() + "drawings/drawing", ".xml");

@@ -240,5 +240,33 @@ TEST_F(ForeignBookTest, OneTabIsSelectedWhenAnotherSheetBecomesActive) {
   EXPECT_EQ(Book().ActiveSheet()->Name(), "Sheet1");
 }
 
+TEST_F(ForeignBookTest, ADamagedDrawingIsTheFaultOfItsSheet) {
+  PlainBook book = SalesBook({{"VEX_Chart1"}});
+  book.sheets.insert(book.sheets.begin(), test::SalesSheet("Other"));
+  book.sheets.front().extraAnchors = "<xdr:absoluteAnchor/>";
+  const S drawing = "/xl/drawings/drawing1.xml";
+  OpenEdited(book, {{drawing, [](const S&) { return S("<xdr:wsDr"); }}});
+  Refresh();
+  EXPECT_EQ(Sheet("Other")->Shapes()->Count(), 0);
+  try {
+    AddBox("Other");
+    ADD_FAILURE();
+  } catch (const runtime::RuntimeError& e) {
+    EXPECT_EQ(e.Number(), runtime::error::kApplication);
+    EXPECT_EQ(
+        e.Description(),
+        "The drawing can't be read: its part /xl/drawings/drawing1.xml can't be read: its XML is damaged.");
+  }
+  EXPECT_FALSE(Book().Damage());
+  SaveAndReopen();
+  EXPECT_TRUE(Messages().empty());
+  EXPECT_EQ(SavedPart(drawing), "<xdr:wsDr");
+  EXPECT_TRUE(Holds("/xl/charts/chart1.xml", "<c:ser>"));
+  // but where charts may have been, one that isn't found is not gone
+  OpenEdited(book, {{drawing, [](const S&) { return S("<xdr:wsDr><xdr:graphicFrame"); }}});
+  Refresh();
+  EXPECT_TRUE(Book().Damage());
+}
+
 }  // namespace
 }  // namespace plotsmith::xlsx
