@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <numeric>
+#include <vector>
 
 #include "runtime/RuntimeError.h"
 #include "xlsx/Application.h"
@@ -53,6 +55,20 @@ bool PartMentions(const Package& package, const std::string& part, const RowShif
   return false;
 }
 
+/// The cells of a sheet, each row counted up to its last one.
+std::size_t RoomOf(const CellStore& cells) {
+  std::vector<std::int32_t> ends;
+  for (std::int32_t column = 1; column <= cells.ColumnCount(); ++column) {
+    const std::int32_t last = cells.LastRow(column);
+    if (last > static_cast<std::int32_t>(ends.size())) ends.resize(static_cast<std::size_t>(last));
+    for (std::int32_t row = 1; row <= last; ++row) {
+      const bool blank = cells.ValueAt(row, column).GetKind() == PackedValue::Kind::kEmpty;
+      if (!blank || cells.StyleAt(row, column) != 0) ends[static_cast<std::size_t>(row) - 1] = column;
+    }
+  }
+  return std::accumulate(ends.begin(), ends.end(), std::size_t{0});
+}
+
 bool MentionsChart(std::string_view drawing) {
   return drawing.find("graphicFrame") != std::string_view::npos;
 }
@@ -86,9 +102,13 @@ CellGrid& Worksheet::Grid() {
   if (!isNew_ && contents.formulas) {
     throw RuntimeError(runtime::error::kApplication, "A sheet with formulas can't be written.");
   }
+  if (contents.used && contents.used->CellCount() > std::int64_t{limits::kGridCells}) {
+    CellGrid::CheckRoom(RoomOf(contents.cells));
+  }
   CellGrid grid;
   for (std::int32_t column = 1; column <= contents.cells.ColumnCount(); ++column) {
-    for (std::int32_t row = 1; row <= contents.cells.LastRow(column); ++row) {
+    const std::int32_t last = contents.cells.LastRow(column);
+    for (std::int32_t row = 1; row <= last; ++row) {
       const std::uint32_t style = contents.cells.StyleAt(row, column);
       const CellValue value = Unpack(contents.cells.ValueAt(row, column), style);
       if (value.kind == CellValue::Kind::kEmpty && style == 0) continue;

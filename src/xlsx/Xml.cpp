@@ -1,5 +1,6 @@
 #include "xlsx/Xml.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -173,6 +174,10 @@ std::string ToUtf8(std::string bytes) {
 void Parse(pugi::xml_document& document, std::string_view bytes) {
   const std::string text = ToUtf8(std::string(bytes));
   if (!IsUtf8(text)) throw PackageError("its text isn't in the encoding that it declares");
+  const auto mark = [](char c) { return c == '<' || c == '='; };
+  if (std::count_if(text.begin(), text.end(), mark) > limits::kXmlMarks) {
+    throw PackageError("it has more elements than we can hold");
+  }
   const auto status = document.load_buffer(text.data(), text.size(), kParse, pugi::encoding_utf8);
   if (!status || !Root(document)) throw PackageError("its XML is damaged");
   if (dom::NestsDeeperThan(document, limits::kXmlDepth)) throw PackageError("its XML nests too deep");

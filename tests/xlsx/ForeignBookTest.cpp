@@ -268,5 +268,23 @@ TEST_F(ForeignBookTest, ADamagedDrawingIsTheFaultOfItsSheet) {
   EXPECT_TRUE(Book().Damage());
 }
 
+TEST_F(ForeignBookTest, WhatTakesTooMuchRoomIsRefused) {
+  PlainBook book = SalesBook({});
+  test::PlainSheet wide;
+  wide.name = "Wide";
+  for (int row = 1; row <= 2000; ++row) {
+    wide.rows.push_back({test::RawCell{"/><c r=\"XFD" + std::to_string(row) + "\"><v>1</v></c>"}});
+  }
+  book.sheets.push_back(wide);
+  Open(book);
+  try {
+    Sheet("Wide")->SetCellValueAt(1, 1, 1.0);
+    ADD_FAILURE();
+  } catch (const runtime::RuntimeError& e) {
+    EXPECT_EQ(e.Description(), "The sheet is too large to be written.");
+  }
+  EXPECT_EQ(Cells("Wide", 2000, 16384, 2000, 16384), "1");
+}
+
 }  // namespace
 }  // namespace plotsmith::xlsx

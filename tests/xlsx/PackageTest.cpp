@@ -5,6 +5,7 @@
 #include "runtime/Strings.h"
 #include "tests/support/HostTest.h"
 #include "xlsx/CellText.h"
+#include "xlsx/Limits.h"
 #include "xlsx/Package.h"
 #include "xlsx/PackageError.h"
 #include "xlsx/Xml.h"
@@ -181,6 +182,7 @@ TEST(XmlTest, WhatNoPartMayBringIsRefused) {
       {deep, "its XML nests too deep"},
       {"<?xml version='1.0?><!--'>" + deep + "<!-- -->", "its XML is damaged"},
       {"<!DOCTYPE a [<!-- ' -->]>" + deep, "its XML nests too deep"},
+      {S(limits::kXmlMarks + 1, '<'), "it has more elements than we can hold"},
       {"<!DOCTYPE a><a/>", "it declares a document type, which no part of a workbook may"},
       {"<a>\xE4</a>", "its text isn't in the encoding that it declares"}};
   for (const auto& [text, reason] : cases) {
