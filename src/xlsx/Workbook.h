@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <new>
 #include <optional>
 #include <pugixml.hpp>
 #include <string>
@@ -89,13 +90,15 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   const xlsx::Theme& Theme();
 
   /// Runs what reads the file behind the port: a PackageError is kept as the workbook's damage and goes on as
-  /// the run-time error that the port allows.
+  /// the run-time error that the port allows. So is want of memory.
   template <class Read>
   auto Guarded(Read&& read) -> decltype(read()) {
     try {
       return read();
     } catch (const PackageError& e) {
       RaiseDamage(e);
+    } catch (const std::bad_alloc&) {
+      RaiseDamage(PackageError("there is not enough memory for it"));
     }
   }
 

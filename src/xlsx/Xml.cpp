@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <new>
 #include <sstream>
 
 #include "dom/XmlCharacters.h"
@@ -179,6 +180,7 @@ void Parse(pugi::xml_document& document, std::string_view bytes) {
     throw PackageError("it has more elements than we can hold");
   }
   const auto status = document.load_buffer(text.data(), text.size(), kParse, pugi::encoding_utf8);
+  if (status.status == pugi::status_out_of_memory) throw std::bad_alloc();
   if (!status || !Root(document)) throw PackageError("its XML is damaged");
   if (dom::NestsDeeperThan(document, limits::kXmlDepth)) throw PackageError("its XML nests too deep");
   for (const pugi::xml_node& node : document.children()) {

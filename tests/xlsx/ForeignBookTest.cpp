@@ -284,6 +284,12 @@ TEST_F(ForeignBookTest, WhatTakesTooMuchRoomIsRefused) {
     EXPECT_EQ(e.Description(), "The sheet is too large to be written.");
   }
   EXPECT_EQ(Cells("Wide", 2000, 16384, 2000, 16384), "1");
+  try {
+    Book().Guarded([]() -> int { throw std::bad_alloc(); });
+    ADD_FAILURE();
+  } catch (const runtime::RuntimeError&) {
+    EXPECT_EQ(Book().Damage(), "there is not enough memory for it");
+  }
 }
 
 }  // namespace
