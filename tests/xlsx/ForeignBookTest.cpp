@@ -268,6 +268,22 @@ TEST_F(ForeignBookTest, ADamagedDrawingIsTheFaultOfItsSheet) {
   EXPECT_TRUE(Book().Damage());
 }
 
+TEST_F(ForeignBookTest, ASumBeyondAllNumbersIsAnOverflow) {
+  PlainBook book = SalesBook({{"VEX_Chart1"}});
+  for (std::size_t row = 1; row < 5; ++row) {
+    book.Sheet("Data1").rows[row][2] = test::RawCell{"><v>1.7E308</v></c>"};
+  }
+  Open(book);
+  Refresh();
+  EXPECT_EQ(Messages(), (std::vector<S>{"Brindle Plotsmith: PSChartBuilder.GetSourceData\nOverflow"}));
+  try {
+    Book().AddWorksheet(0)->SetCellValueAt(1, 1, std::numeric_limits<double>::infinity());
+    ADD_FAILURE();
+  } catch (const runtime::RuntimeError& e) {
+    EXPECT_EQ(e.Number(), runtime::error::kOverflow);
+  }
+}
+
 TEST_F(ForeignBookTest, WhatTakesTooMuchRoomIsRefused) {
   PlainBook book = SalesBook({});
   test::PlainSheet wide;
