@@ -1,11 +1,14 @@
 #include "builder/DataSheet.h"
 
+#include <cmath>
+
 #include "builder/BuilderVariables.h"
 #include "builder/PivotMap.h"
 #include "common/CommonFunctions.h"
 #include "common/Messages.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 
 namespace plotsmith {
@@ -63,6 +66,13 @@ std::string StoredText(const std::string& sText, Dictionary& oFirstSpellings) {
   return sText;
 }
 
+/// The language's addition, which doesn't go beyond the numbers.
+double Sum(double a, double b) {
+  const double dSum = a + b;
+  if (!std::isfinite(dSum)) throw runtime::RuntimeError(runtime::error::kOverflow);
+  return dSum;
+}
+
 /// A cell text that the host must not take for a number, a date or a formula.
 std::string AsText(const runtime::Variant& vName) { return "'" + runtime::CStr(vName); }
 
@@ -92,7 +102,7 @@ std::optional<Rectangle> GetSourceData(const IXMLDOMElement& oChartElement) {
         }
         const std::int32_t lColumn = runtime::CLng(oRule.ValuePositionOrConstant());
         if (oRule.CellValueType() == cell_value::kNumber) {
-          vTarget = runtime::CDbl(vTarget) + GetCellDouble(*oSheet, lRow, lColumn);
+          vTarget = Sum(runtime::CDbl(vTarget), GetCellDouble(*oSheet, lRow, lColumn));
         } else {
           vTarget =
               StoredText(runtime::CStr(GetCellValue(*oSheet, lRow, lColumn, cell::kText)), oFirstSpellings);

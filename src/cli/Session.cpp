@@ -10,6 +10,7 @@
 #include "controller/Pages.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
+#include "runtime/RuntimeError.h"
 #include "runtime/Variant.h"
 #include "xlsx/PackageError.h"
 
@@ -27,6 +28,7 @@ void ResetSystem() {
   ResetBuilderVariables();
   ResetYield();
   oPages = nullptr;
+  runtime::memoryRanOut = false;
 }
 
 /// The file beside a workbook by which another program shows that it has it open, or "".
@@ -130,6 +132,7 @@ void Session::ClearProgress() {
 /// Damage makes all messages moot that it brought about.
 void Session::CheckDamage() const {
   if (const auto& damage = host_->Book().Damage()) throw CantRead(path_, *damage);
+  if (runtime::memoryRanOut) throw CantRead(path_, "there is not enough memory for it");
 }
 
 int Session::ReportMessages() {

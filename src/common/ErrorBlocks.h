@@ -1,5 +1,6 @@
 #pragma once
 
+#include <new>
 #include <type_traits>
 #include <utility>
 
@@ -44,6 +45,8 @@ void IgnoreErrors(Statements&&... statements) {
   const auto guard = [](auto&& statement) {
     try {
       statement();
+    } catch (const std::bad_alloc&) {
+      runtime::memoryRanOut = true;
     } catch (...) {
     }
   };
@@ -55,6 +58,9 @@ template <class Result, class Read>
 Result ValueOr(Result vFallback, Read&& read) {
   try {
     return read();
+  } catch (const std::bad_alloc&) {
+    runtime::memoryRanOut = true;
+    return vFallback;
   } catch (...) {
     return vFallback;
   }

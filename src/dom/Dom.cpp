@@ -5,9 +5,9 @@
 #include <memory>
 #include <sstream>
 
+#include "dom/XmlCharacters.h"
 #include "dom/XmlDepth.h"
 #include "runtime/RuntimeError.h"
-#include "runtime/Strings.h"
 
 namespace plotsmith::dom {
 
@@ -25,26 +25,6 @@ bool IsWellFormed(std::string_view xml) {
                                                                             XML_ParserFree);
   return parser && xml.size() <= INT_MAX &&
          XML_Parse(parser.get(), xml.data(), static_cast<int>(xml.size()), XML_TRUE) == XML_STATUS_OK;
-}
-
-/// Without the characters that XML can't hold in any way, halves of a character among them: a text with one
-/// of them would not parse again. Halves that have come together are one character.
-std::string Writable(std::string_view text) {
-  const std::u16string units = runtime::ToUtf16(text);
-  const auto isHigh = [&](std::size_t i) {
-    return i < units.size() && units[i] >= 0xD800 && units[i] < 0xDC00;
-  };
-  const auto isLow = [&](std::size_t i) {
-    return i < units.size() && units[i] >= 0xDC00 && units[i] < 0xE000;
-  };
-  std::u16string kept;
-  for (std::size_t i = 0; i < units.size(); ++i) {
-    const char16_t unit = units[i];
-    const bool control = unit < 0x20 && unit != '\t' && unit != '\n' && unit != '\r';
-    const bool half = isHigh(i) ? !isLow(i + 1) : isLow(i) && (i == 0 || !isHigh(i - 1));
-    if (!control && !half && unit < 0xFFFE) kept += unit;
-  }
-  return runtime::ToUtf8(kept);
 }
 
 }  // namespace
@@ -126,7 +106,7 @@ void IXMLDOMElement::setAttribute(const char* name, const Variant& value) {
   pugi::xml_node element = Checked();
   pugi::xml_attribute attribute = element.attribute(name);
   if (!attribute) attribute = element.append_attribute(name);
-  attribute.set_value(Writable(runtime::CStr(value)).c_str());
+  attribute.set_value(XmlCharactersOf(runtime::CStr(value)).c_str());
 }
 
 Variant IXMLDOMElement::getAttribute(const char* name) const {
@@ -142,10 +122,11 @@ IXMLDOMDocument2 IXMLDOMDocument2::Create() {
 
 bool IXMLDOMDocument2::loadXML(std::string_view xml) {
   Checked().remove_children();
-  if (!IsWellFormed(xml) || NestsDeeperThan(xml, kDeepest)) return false;
+  if (!IsWellFormed(xml)) return false;
   pugi::xml_document parsed;
   if (!parsed.load_buffer(xml.data(), xml.size(), pugi::parse_full | pugi::parse_ws_pcdata,
-                          pugi::encoding_utf8)) {
+                          pugi::encoding_utf8) ||
+      NestsDeeperThan(parsed, kDeepest)) {
     return false;
   }
   // a declaration or a document type can't stand below the tree's own root, and says nothing that we keep
@@ -169,7 +150,7 @@ IXMLDOMElement IXMLDOMDocument2::createElement(const char* name) const {
 IXMLDOMNode IXMLDOMDocument2::createTextNode(std::string_view text) const {
   Checked();
   pugi::xml_node node = tree_->detached.append_child(pugi::node_pcdata);
-  node.set_value(Writable(text).c_str());
+  node.set_value(XmlCharactersOf(text).c_str());
   return {tree_, node};
 }
 

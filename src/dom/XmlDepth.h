@@ -1,11 +1,12 @@
 #pragma once
 
-#include <string_view>
+#include <pugixml.hpp>
 
 namespace plotsmith::dom {
 
-/// Whether elements nest deeper than `limit`. Trees are torn down by recursion, so a text that nests without
-/// bound must not become one. Reads the text once and takes no memory.
-bool NestsDeeperThan(std::string_view xml, int limit);
+/// Whether elements nest deeper than `limit`. Branches are torn down by recursion (whole documents aren't),
+/// so a text that nests without bound must not be worked on. The tree is asked and not the text, as only who
+/// read the text knows what in it is an element.
+bool NestsDeeperThan(const pugi::xml_document& document, int limit);
 
 }  // namespace plotsmith::dom

@@ -8,6 +8,7 @@
 #include "common/CommonFunctions.h"
 #include "common/ErrorBlocks.h"
 #include "readback/ChartAppearance.h"
+#include "runtime/Strings.h"
 
 namespace plotsmith {
 
@@ -155,10 +156,10 @@ void RevEngineerComment(const Ref<excel::Shape>& oShape, IXMLDOMDocument2& oChar
     RemoveChild(oChartElement, "comment");
     if (!oShape) return;
     const auto piece = [&](std::int32_t i) {
-      return oShape->TextFrame()->Characters(i * kCommentPiece + 1, kCommentPiece)->Text();
+      return runtime::ToUtf16(oShape->TextFrame()->Characters(i * kCommentPiece + 1, kCommentPiece)->Text());
     };
-    std::string sComment;
-    std::string sPiece = piece(0);
+    std::u16string sComment;  // in units, as a piece may end within a character
+    std::u16string sPiece = piece(0);
     // what a failing host has given so far is kept
     IgnoreErrors([&] {
       for (std::int32_t i = 1; !sPiece.empty(); ++i) {
@@ -167,7 +168,7 @@ void RevEngineerComment(const Ref<excel::Shape>& oShape, IXMLDOMDocument2& oChar
       }
     });
     auto oComment = oChartDoc.createElement("comment");
-    oComment.appendChild(oChartDoc.createTextNode(sComment));
+    oComment.appendChild(oChartDoc.createTextNode(runtime::ToUtf8(sComment)));
     oChartElement.appendChild(oComment);
   });
 }

@@ -46,6 +46,7 @@ RuntimeError CurrentError() {
   } catch (const RuntimeError& e) {
     return e;
   } catch (const std::bad_alloc&) {
+    memoryRanOut = true;
     return RuntimeError(error::kOutOfMemory);
   } catch (const std::exception& e) {
     return RuntimeError(error::kAutomation, e.what());

@@ -42,4 +42,8 @@ inline constexpr int kApplication = 1004;
 /// The exception being handled, as a run-time error. Call it inside a catch block only.
 RuntimeError CurrentError();
 
+/// Whether memory ran out and the error was dealt with like any other. What was done since then is incomplete
+/// in ways that nobody knows, and must not be saved.
+inline bool memoryRanOut = false;
+
 }  // namespace plotsmith::runtime

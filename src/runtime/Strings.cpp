@@ -16,7 +16,11 @@ bool HasAsciiLower(std::string_view text) {
   return std::any_of(text.begin(), text.end(), [](char c) { return c >= 'a' && c <= 'z'; });
 }
 
-/// Reads one character; what isn't UTF-8 comes out as U+FFFD, byte by byte. Lone surrogates pass.
+/// Unicode has capitals for these, but the language's upper case leaves them: sharp s, dotless i, long s.
+bool KeepsItsCase(char32_t c) { return c == 0xDF || c == 0x131 || c == 0x17F; }
+
+}  // namespace
+
 char32_t NextCharacter(std::string_view text, std::size_t& position) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   const unsigned char first = byte(position);
@@ -50,11 +54,6 @@ char32_t NextCharacter(std::string_view text, std::size_t& position) {
   position += 1;
   return 0xFFFD;
 }
-
-/// Unicode has capitals for these, but the language's upper case leaves them: sharp s, dotless i, long s.
-bool KeepsItsCase(char32_t c) { return c == 0xDF || c == 0x131 || c == 0x17F; }
-
-}  // namespace
 
 void AppendUtf8(std::string& text, char32_t c) {
   if (c < 0x80) {

@@ -25,6 +25,9 @@ std::string Mid(std::string_view text, std::size_t start, std::size_t length);
 
 std::u16string ToUtf16(std::string_view text);
 std::string ToUtf8(std::u16string_view text);
+/// Reads one character and moves behind it; what isn't UTF-8 comes out as U+FFFD, byte by byte. Halves of
+/// surrogate pairs pass.
+char32_t NextCharacter(std::string_view text, std::size_t& position);
 void AppendUtf8(std::string& text, char32_t character);
 
 /// Replaces every `from` in `text`.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <isa-l/crc.h>
+#include <optional>
 #include <zip.h>
 
 #include "xlsx/Inflater.h"
@@ -116,13 +117,15 @@ std::unique_ptr<Archive::Stream> Archive::Open(std::size_t index) const {
 struct ArchiveWriter::Handle {
   std::unique_ptr<zip_t, ZipCloser> zip;
 
-  zip_uint64_t Add(const char* name, zip_source_t* source, std::uint16_t method) {
+  /// `method` is said only of what is to be compressed, or stored; a copy keeps its own, which the library
+  /// need not know.
+  zip_uint64_t Add(const char* name, zip_source_t* source, std::optional<std::uint16_t> method) {
     const auto index = source == nullptr ? -1 : zip_file_add(zip.get(), name, source, ZIP_FL_ENC_GUESS);
     if (index < 0) {
       zip_source_free(source);
       throw PackageError(zip_strerror(zip.get()));
     }
-    if (zip_set_file_compression(zip.get(), static_cast<zip_uint64_t>(index), method, 0) != 0) {
+    if (method && zip_set_file_compression(zip.get(), static_cast<zip_uint64_t>(index), *method, 0) != 0) {
       throw PackageError(zip_strerror(zip.get()));
     }
     return static_cast<zip_uint64_t>(index);
@@ -137,9 +140,18 @@ ArchiveWriter::~ArchiveWriter() = default;
 
 void ArchiveWriter::Copy(const Archive& source, std::size_t index) {
   zip_t* from = source.handle_->zip.get();
+  const bool stored = source.Entries()[index].method == ZIP_CM_STORE;
   handle_->Add(zip_get_name(from, index, ZIP_FL_ENC_RAW),
                zip_source_zip(handle_->zip.get(), from, index, ZIP_FL_COMPRESSED, 0, -1),
-               source.Entries()[index].method);
+               stored ? std::optional<std::uint16_t>(ZIP_CM_STORE) : std::nullopt);
+}
+
+void ArchiveWriter::CopyComment(const Archive& source) {
+  int length = 0;
+  const char* comment = zip_get_archive_comment(source.handle_->zip.get(), &length, ZIP_FL_ENC_RAW);
+  if (comment != nullptr && length > 0) {
+    zip_set_archive_comment(handle_->zip.get(), comment, static_cast<zip_uint16_t>(length));
+  }
 }
 
 void ArchiveWriter::Add(const std::string& name, std::string_view bytes, bool compress) {

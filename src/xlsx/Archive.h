@@ -54,8 +54,10 @@ class ArchiveWriter {
   explicit ArchiveWriter(const std::string& path);
   ~ArchiveWriter();
 
-  /// Copies an entry as it lies, compressed.
+  /// Copies an entry as it lies, compressed by whatever method.
   void Copy(const Archive& source, std::size_t index);
+  /// Copies what was noted on the file as a whole.
+  void CopyComment(const Archive& source);
   /// Compresses new bytes, or stores them as they are.
   void Add(const std::string& name, std::string_view bytes, bool compress = true);
   void Finish();

@@ -9,6 +9,12 @@
 
 namespace plotsmith::xlsx {
 
+void CellGrid::CheckRoom(std::size_t cells) {
+  if (cells > limits::kGridCells) {
+    throw runtime::RuntimeError(runtime::error::kApplication, "The sheet is too large to be written.");
+  }
+}
+
 const GridCell* CellGrid::Find(std::int32_t row, std::int32_t column) const {
   if (row < 1 || row > RowCount()) return nullptr;
   const Row& cells = rows_[static_cast<std::size_t>(row) - 1];
@@ -19,7 +25,11 @@ const GridCell* CellGrid::Find(std::int32_t row, std::int32_t column) const {
 GridCell& CellGrid::At(std::int32_t row, std::int32_t column) {
   if (row > RowCount()) rows_.resize(static_cast<std::size_t>(row));
   Row& cells = rows_[static_cast<std::size_t>(row) - 1];
-  if (column > static_cast<std::int32_t>(cells.size())) cells.resize(static_cast<std::size_t>(column));
+  if (column > static_cast<std::int32_t>(cells.size())) {
+    held_ += static_cast<std::size_t>(column) - cells.size();
+    CheckRoom(held_);
+    cells.resize(static_cast<std::size_t>(column));
+  }
   return cells[static_cast<std::size_t>(column) - 1];
 }
 
@@ -34,7 +44,10 @@ void CellGrid::InsertRow(std::int32_t row) {
 }
 
 void CellGrid::DeleteRow(std::int32_t row) {
-  if (row <= RowCount()) rows_.erase(rows_.begin() + (row - 1));
+  if (row > RowCount()) return;
+  const auto gone = rows_.begin() + (row - 1);
+  held_ -= gone->size();
+  rows_.erase(gone);
 }
 
 std::optional<CellRange> CellGrid::Used() const {

@@ -23,6 +23,10 @@ struct GridCell {
 /// The cells of a sheet that is written to: row by row, so that rows can be inserted and deleted.
 class CellGrid {
  public:
+  /// Error 1004 if a sheet of so many cells takes more room than there should be need for. A row takes room
+  /// up to its last cell.
+  static void CheckRoom(std::size_t cells);
+
   /// Null where nothing was ever put. Rows and columns from 1.
   const GridCell* Find(std::int32_t row, std::int32_t column) const;
   GridCell& At(std::int32_t row, std::int32_t column);
@@ -39,6 +43,7 @@ class CellGrid {
  private:
   using Row = std::vector<GridCell>;
   std::vector<Row> rows_;
+  std::size_t held_ = 0;  ///< cells, with those that only fill a row up
 };
 
 }  // namespace plotsmith::xlsx

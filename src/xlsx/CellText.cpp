@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <optional>
 
+#include "dom/XmlCharacters.h"
 #include "runtime/Strings.h"
 #include "xlsx/Xml.h"
 
@@ -44,15 +45,15 @@ std::string DecodeEscapes(std::string_view text) {
 
 std::string EncodeCellText(std::string_view text) {
   std::string escaped;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const auto c = static_cast<unsigned char>(text[i]);
-    const bool control = c < 0x20 && c != '\t' && c != '\n';
-    if (control || EscapeAt(text, i)) {
+  for (std::size_t i = 0; i < text.size();) {
+    const bool readsAsEscape = EscapeAt(text, i).has_value();
+    const char32_t c = runtime::NextCharacter(text, i);
+    if (readsAsEscape || c == '\r' || !dom::IsXmlCharacter(c)) {
       std::array<char, 8> escape{};
       std::snprintf(escape.data(), escape.size(), "_x%04X_", static_cast<unsigned>(c));
       escaped += escape.data();
     } else {
-      escaped += text[i];
+      runtime::AppendUtf8(escaped, c);
     }
   }
   return xml::EncodeText(escaped);

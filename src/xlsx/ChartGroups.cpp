@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <set>
 #include <string>
 
 #include "xlsx/ChartPart.h"
 #include "xlsx/ChartSchema.h"
+#include "xlsx/FreeNumber.h"
 #include "xlsx/Xml.h"
 
 namespace plotsmith::xlsx {
@@ -273,15 +275,16 @@ std::vector<pugi::xml_node> SeriesOf(ChartPart& part) {
 pugi::xml_node AddSeries(ChartPart& part) {
   pugi::xml_node plotArea = part.PlotArea();
   if (Groups(plotArea).empty()) SetType(part, *FindChartType(kClusteredColumns));
-  long long index = -1, order = -1;
+  std::set<long long> indices, orders;
   for (const pugi::xml_node& series : SeriesOf(part)) {
-    index = std::max(index, Number(series, "idx"));
-    order = std::max(order, Number(series, "order"));
+    indices.insert(Number(series, "idx"));
+    orders.insert(Number(series, "order"));
   }
+  constexpr long long kLast = std::numeric_limits<std::int32_t>::max();
   const pugi::xml_node group = Groups(plotArea)[0];
   pugi::xml_node series = schema::Insert(group, "ser");
-  schema::SetVal(series, "idx", std::to_string(index + 1));
-  schema::SetVal(series, "order", std::to_string(order + 1));
+  schema::SetVal(series, "idx", std::to_string(FreeNumber(indices, 0, kLast)));
+  schema::SetVal(series, "order", std::to_string(FreeNumber(orders, 0, kLast)));
   if (xml::LocalName(group).starts_with("bar")) schema::SetVal(series, "invertIfNegative", "0");
   part.MarkChanged();
   return series;

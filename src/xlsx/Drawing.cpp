@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <set>
 
 #include "runtime/Strings.h"
 #include "xlsx/ChartPart.h"
+#include "xlsx/FreeNumber.h"
 #include "xlsx/Namespaces.h"
 #include "xlsx/Shape.h"
 #include "xlsx/Worksheet.h"
@@ -103,14 +106,22 @@ std::string Drawing::DrawingMlPrefix() const {
 
 unsigned Drawing::NextId() const {
   struct Walker : pugi::xml_tree_walker {
-    long long highest = 1;  // Excel begins with 2
+    std::set<long long> taken;
     bool for_each(pugi::xml_node& node) override {
-      if (xml::Is(node, "cNvPr")) highest = std::max(highest, xml::IntegerAttribute(node, "id", 0));
+      if (xml::Is(node, "cNvPr")) taken.insert(xml::IntegerAttribute(node, "id", 0));
       return true;
     }
   } walker;
   const_cast<pugi::xml_document&>(document_).traverse(walker);
-  return static_cast<unsigned>(walker.highest + 1);
+  constexpr long long kFirst = 2;  // Excel's
+  return static_cast<unsigned>(FreeNumber(walker.taken, kFirst, std::numeric_limits<std::int32_t>::max()));
+}
+
+std::string Drawing::FreeName(const std::string& stem, std::size_t number) const {
+  for (;; ++number) {
+    std::string name = stem + std::to_string(number);
+    if (!FindShape(name)) return name;
+  }
 }
 
 std::shared_ptr<Shape> Drawing::AddAnchor(double left, double top, double width, double height,
@@ -129,12 +140,13 @@ std::shared_ptr<Shape> Drawing::AddAnchor(double left, double top, double width,
 }
 
 std::shared_ptr<Shape> Drawing::AddTextbox(double left, double top, double width, double height) {
-  const std::string id = std::to_string(NextId());
+  const unsigned number = NextId();
+  const std::string id = std::to_string(number);
   const auto emu = [](double points) { return std::to_string(std::llround(points * kEmuPerPoint)); };
   const std::string object = Prefixed(
-      R"(<@sp macro="" textlink=""><@nvSpPr><@cNvPr id=")" + id + R"(" name="TextBox )" + id +
-          R"("/><@cNvSpPr txBox="1"/></@nvSpPr><@spPr><~xfrm><~off x=")" + emu(left) + R"(" y=")" + emu(top) +
-          R"("/><~ext cx=")" + emu(width) + R"(" cy=")" + emu(height) +
+      R"(<@sp macro="" textlink=""><@nvSpPr><@cNvPr id=")" + id + R"(" name=")" +
+          FreeName("TextBox ", number) + R"("/><@cNvSpPr txBox="1"/></@nvSpPr><@spPr><~xfrm><~off x=")" +
+          emu(left) + R"(" y=")" + emu(top) + R"("/><~ext cx=")" + emu(width) + R"(" cy=")" + emu(height) +
           R"("/></~xfrm><~prstGeom prst="rect"><~avLst/></~prstGeom><~solidFill><~srgbClr val="FFFFFF"/></~solidFill>)"
           R"(<~ln w="9525"><~solidFill><~srgbClr val="000000"/></~solidFill></~ln></@spPr>)"
           R"(<@txBody><~bodyPr vertOverflow="clip" wrap="square" rtlCol="0"/><~lstStyle/>)"
@@ -146,14 +158,13 @@ std::shared_ptr<Shape> Drawing::AddTextbox(double left, double top, double width
 std::shared_ptr<Shape> Drawing::AddChart(double left, double top, double width, double height) {
   Workbook& book = sheet_.Book();
   const Namespaces& names = book.IsStrict() ? kStrict : kTransitional;
-  const std::string folder = part_.substr(0, part_.rfind("/drawings/") + 1) + "charts/";
-  const std::string chartPart = book.Package().FreeName(folder + "chart", ".xml");
+  const std::string chartPart = book.Package().FreeName(book.Folder() + "charts/chart", ".xml");
   book.Package().Add(chartPart, content_type::kChart, EmptyChart(book.IsStrict()));
   const std::string link = book.Package().AddRelationship(part_, names.RelationshipType("chart"), chartPart);
   const std::string id = std::to_string(NextId());
   const std::string object = Prefixed(
-      R"(<@graphicFrame macro=""><@nvGraphicFramePr><@cNvPr id=")" + id + R"(" name="Chart )" +
-          std::to_string(shapes_.size() + 1) +
+      R"(<@graphicFrame macro=""><@nvGraphicFramePr><@cNvPr id=")" + id + R"(" name=")" +
+          FreeName("Chart ", shapes_.size() + 1) +
           R"("/><@cNvGraphicFramePr/></@nvGraphicFramePr><@xfrm><~off x="0" y="0"/><~ext cx="0" cy="0"/></@xfrm>)"
           R"(<~graphic><~graphicData uri=")" +
           std::string(names.chart) + R"("><c:chart xmlns:c=")" + std::string(names.chart) + R"(" xmlns:r=")" +

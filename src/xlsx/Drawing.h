@@ -44,6 +44,8 @@ class Drawing {
   std::shared_ptr<Shape> AddAnchor(double left, double top, double width, double height,
                                    const std::string& object);
   unsigned NextId() const;
+  /// A name that no shape has yet, from a number on.
+  std::string FreeName(const std::string& stem, std::size_t number) const;
 
   Worksheet& sheet_;
   std::string part_;

@@ -1,5 +1,6 @@
 #include "xlsx/EnteredValue.h"
 
+#include <cmath>
 #include <optional>
 #include <string>
 
@@ -64,7 +65,9 @@ void Enter(GridCell& cell, const runtime::Variant& value) {
   } else if (const auto* error = value.If<runtime::Variant::Error>()) {
     Put(cell, Kind::kError, error->number, std::string(ErrorText(error->number)));
   } else {
-    Put(cell, Kind::kNumber, runtime::CDbl(value));
+    const double number = runtime::CDbl(value);
+    if (!std::isfinite(number)) throw runtime::RuntimeError(runtime::error::kOverflow);
+    Put(cell, Kind::kNumber, number);
   }
 }
 

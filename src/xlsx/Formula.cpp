@@ -43,6 +43,7 @@ bool Shift(A1Reference& reference, std::int32_t row, std::int32_t count) {
   const bool ascending = reference.first.row <= reference.second.row;
   std::int32_t& low = ascending ? reference.first.row : reference.second.row;
   std::int32_t& high = ascending ? reference.second.row : reference.first.row;
+  if (low == 1 && high == limits::kRows) return true;  // whole columns, in another writing
   const auto span = ShiftSpan(low, high, row, count);
   if (!span) return false;
   low = span->first;
@@ -107,6 +108,7 @@ FormulaReader::Piece FormulaReader::TakeName() {
     piece.reference = reference;
     piece.place = std::exchange(place_, Place::kHome);
     piece.sheet = std::exchange(sheet_, {});
+    if (rest_.starts_with(':')) corner_ = piece;
     return piece;
   }
   place_ = Place::kHome;
@@ -130,6 +132,11 @@ std::optional<FormulaReader::Piece> FormulaReader::Next() {
   if (c == '[') return TakeBracketed();
   if (c == '$' || IsNameCharacter(c)) return TakeName();
   place_ = Place::kHome;
+  if (c == ':' && corner_) {
+    place_ = corner_->place;
+    sheet_ = corner_->sheet;
+    corner_.reset();
+  }
   if (c != '"') return Take(1);
   const auto end = rest_.find('"', 1);
   return Take(end == std::string_view::npos ? rest_.size() : end + 1);

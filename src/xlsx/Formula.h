@@ -40,6 +40,7 @@ class FormulaReader {
   std::string_view rest_;
   Place place_ = Place::kHome;  ///< of a reference that comes next
   std::string sheet_;
+  std::optional<Piece> corner_;  ///< a reference with a colon behind it: what follows is on the same sheet
 };
 
 /// `count` rows inserted at `row` of a sheet, or, if it is negative, deleted.

@@ -17,6 +17,10 @@ inline constexpr std::uint64_t kRatio = 300;
 inline constexpr std::uint64_t kAnyRatio = std::uint64_t{16} << 20;
 
 inline constexpr int kXmlDepth = 512;
+/// Tags and attributes of a part that becomes a tree, which takes many times the bytes of a short tag. The
+/// largest chart, with kCachePoints points, stays below.
+inline constexpr std::ptrdiff_t kXmlMarks = 24'000'000;
+inline constexpr std::size_t kSharedStrings = 32'000'000;
 /// One tag or one text between tags, while a sheet is streamed.
 inline constexpr std::size_t kXmlToken = std::size_t{64} << 20;
 
@@ -25,9 +29,12 @@ inline constexpr std::int32_t kRows = 1'048'576;
 inline constexpr std::int32_t kColumns = 16'384;
 inline constexpr std::size_t kCellText = 32'767;
 inline constexpr std::size_t kSheetName = 31;
+inline constexpr long long kSheetId = 65'534;
 
 /// Cells of one sheet.
 inline constexpr std::uint64_t kCells = 400'000'000;
+/// The same of a sheet that is written to, where a row takes room up to its last cell.
+inline constexpr std::size_t kGridCells = 20'000'000;
 /// Cells that one reference of a chart brings into the chart's cache.
 inline constexpr std::int64_t kCachePoints = 4'000'000;
 

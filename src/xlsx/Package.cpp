@@ -36,8 +36,6 @@ std::string RelationshipsPart(std::string_view part) {
   return std::string(folder) + "_rels/" + std::string(part.substr(folder.size())) + ".rels";
 }
 
-std::string_view LastSegment(std::string_view address) { return address.substr(address.rfind('/') + 1); }
-
 std::string PercentDecoded(std::string_view target) {
   const auto digit = [](char c) -> int {
     if (c >= '0' && c <= '9') return c - '0';
@@ -52,6 +50,30 @@ std::string PercentDecoded(std::string_view target) {
       i += 2;
     } else {
       text += target[i];
+    }
+  }
+  return text;
+}
+
+/// The part that an override is about, to be compared.
+std::string PartNameOf(pugi::xml_node type) {
+  return Folded(PercentDecoded(xml::Attribute(type, "PartName")));
+}
+
+std::string_view LastSegment(std::string_view address) { return address.substr(address.rfind('/') + 1); }
+
+/// A name as the file writes it: what an address can't hold goes by its number, as in ECMA-376 Part 2.
+std::string PercentEncoded(std::string_view name) {
+  constexpr std::string_view kPlain =
+      "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~!$&'()*+,;=:@/";
+  std::string text;
+  for (const char c : name) {
+    if (kPlain.find(c) != std::string_view::npos) {
+      text += c;
+    } else {
+      constexpr std::string_view kDigits = "0123456789ABCDEF";
+      const auto byte = static_cast<unsigned char>(c);
+      text.append({'%', kDigits[byte >> 4], kDigits[byte & 15]});
     }
   }
   return text;
@@ -88,7 +110,7 @@ Package Package::Open(const std::string& path) {
   const auto& entries = package.archive_->Entries();
   for (std::size_t i = 0; i < entries.size(); ++i) {
     auto part = std::make_unique<Part>();
-    part->name = (entries[i].name.starts_with('/') ? "" : "/") + entries[i].name;
+    part->name = (entries[i].name.starts_with('/') ? "" : "/") + PercentDecoded(entries[i].name);
     part->entry = i;
     if (entries[i].encrypted) throw PartError(part->name, "it is encrypted");
     if (!package.byName_.emplace(Folded(part->name), part.get()).second) {
@@ -143,7 +165,7 @@ std::string Package::ContentType(std::string_view part) const {
   const pugi::xml_node types = xml::Root(*contentTypes_);
   const std::string key = Folded(part);
   for (pugi::xml_node type = xml::Child(types, "Override"); type; type = xml::NextSame(type)) {
-    if (Folded(xml::Attribute(type, "PartName")) == key) return xml::Attribute(type, "ContentType");
+    if (PartNameOf(type) == key) return xml::Attribute(type, "ContentType");
   }
   const std::string extension = key.substr(key.rfind('.') + 1);
   for (pugi::xml_node type = xml::Child(types, "Default"); type; type = xml::NextSame(type)) {
@@ -222,8 +244,12 @@ void Package::Add(std::string_view part, std::string_view contentType, std::stri
   Put(part, std::move(bytes));
   if (ContentType(part) == contentType) return;
   pugi::xml_node types = xml::Root(*contentTypes_);
-  pugi::xml_node type = types.append_child((std::string(xml::Prefix(types.name())) + "Override").c_str());
-  xml::SetAttribute(type, "PartName", part);
+  pugi::xml_node type;
+  for (const pugi::xml_node& other : xml::Children(types, "Override")) {
+    if (PartNameOf(other) == Folded(part)) type = other;  // a part that was here once left it behind
+  }
+  if (!type) type = types.append_child((std::string(xml::Prefix(types.name())) + "Override").c_str());
+  xml::SetAttribute(type, "PartName", PercentEncoded(part));
   xml::SetAttribute(type, "ContentType", contentType);
   contentTypesChanged_ = true;
 }
@@ -240,7 +266,7 @@ void Package::Remove(std::string_view name, std::string_view source) {
   Replace(rels, xml::Serialize(document));
   pugi::xml_node types = xml::Root(*contentTypes_);
   for (pugi::xml_node type : xml::Children(types, "Override")) {
-    if (Folded(xml::Attribute(type, "PartName")) == key) types.remove_child(type);
+    if (PartNameOf(type) == key) types.remove_child(type);
   }
   contentTypesChanged_ = changed_ = true;
   byName_.erase(key);
@@ -268,6 +294,8 @@ const std::vector<Relationship>& Package::Relationships(std::string_view part) c
     relationship.external = xml::Attribute(node, "TargetMode") == "External";
     const std::string target = xml::Attribute(node, "Target");
     relationship.target = relationship.external ? target : ResolveTarget(part, target);
+    const Part* known = relationship.external ? nullptr : Find(relationship.target);
+    if (known != nullptr) relationship.target = known->name;
     list.push_back(std::move(relationship));
   }
   return relationships_.emplace(key, std::move(list)).first->second;
@@ -323,12 +351,15 @@ void Package::Save(const std::string& path) {
   for (const auto& part : parts_) {
     if (part->bytes) {
       const bool stored = part->entry && archive_->Entries()[*part->entry].method == 0;
-      writer.Add(part->entry ? archive_->Entries()[*part->entry].name : part->name.substr(1), *part->bytes,
-                 !stored);
+      writer.Add(part->entry                   ? archive_->Entries()[*part->entry].name
+                 : part->name == kContentTypes ? part->name.substr(1)  // no part, and so by its own name
+                                               : PercentEncoded(part->name.substr(1)),
+                 *part->bytes, !stored);
     } else {
       writer.Copy(*archive_, *part->entry);
     }
   }
+  if (archive_) writer.CopyComment(*archive_);
   writer.Finish();
   file.Commit();
 }
@@ -362,7 +393,7 @@ std::string RelativeTarget(std::string_view source, std::string_view target) {
     folder = Folder(folder.substr(0, folder.size() - 1));
     up += "../";
   }
-  return up + std::string(target.substr(folder.size()));
+  return up + PercentEncoded(target.substr(folder.size()));
 }
 
 }  // namespace plotsmith::xlsx

@@ -17,14 +17,14 @@ namespace plotsmith::xlsx {
 struct Relationship {
   std::string id;
   std::string type;    ///< the last segment of the type's address: "worksheet", "drawing", "chart"
-  std::string target;  ///< the part's name; of an external one the address as written
+  std::string target;  ///< the part's name, as Parts has it; of an external one the address as written
   bool external = false;
 };
 
 /// A workbook file as a package of parts (ECMA-376 Part 2). Parts are read when they are asked for, and a
 /// part that nobody changed is written back as the compressed bytes it came in, in its place and order. Part
-/// names begin with a slash and compare ignoring ASCII case. All failures are PackageErrors whose text is a
-/// sentence.
+/// names begin with a slash, are given decoded ("%20" is a blank) and compare ignoring ASCII case. All
+/// failures are PackageErrors whose text is a sentence.
 class Package {
  public:
   /// A package with the parts that every workbook needs still to be added.
@@ -84,7 +84,7 @@ class Package {
 
 /// The part that a target written in `source` names; empty if it climbs out of the package.
 std::string ResolveTarget(std::string_view source, std::string_view target);
-/// How `source` writes the target, relative to its own folder.
+/// How `source` writes the target, relative to its own folder and encoded.
 std::string RelativeTarget(std::string_view source, std::string_view target);
 
 }  // namespace plotsmith::xlsx

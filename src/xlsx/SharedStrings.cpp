@@ -27,6 +27,7 @@ void ReadSharedStrings(Archive::Stream& source, TextPool& strings) {
       if (tag.kind == Kind::kEmpty) item.clear();
       bytes += item.size();
       if (bytes > limits::kHeldPart) throw PackageError("its texts are too long");
+      if (strings.Count() >= limits::kSharedStrings) throw PackageError("it has more texts than we can hold");
       strings.Add(item);
     }
   }

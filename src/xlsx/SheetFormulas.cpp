@@ -19,6 +19,23 @@ bool HoldsFormula(std::string_view local) {
   return false;
 }
 
+/// The attributes of a shared formula without those that share it.
+std::string Unshared(std::string_view attributes) {
+  std::string kept;
+  while (!attributes.empty()) {
+    const auto equals = attributes.find('=');
+    const auto open = attributes.find_first_of("\"'", equals);
+    const auto close = open == std::string_view::npos ? open : attributes.find(attributes[open], open + 1);
+    if (close == std::string_view::npos) break;
+    const std::string_view attribute = attributes.substr(0, close + 1);
+    const auto begin = attribute.find_first_not_of(" \t\r\n");
+    const std::string_view name = attribute.substr(begin, attribute.find_first_of(" \t\r\n=", begin) - begin);
+    if (name != "t" && name != "ref" && name != "si") kept += attribute;
+    attributes.remove_prefix(close + 1);
+  }
+  return kept;
+}
+
 /// The formula that a group of cells shares, and the cell that has it in full.
 struct SharedFormula {
   std::int32_t row = 0, column = 0;
@@ -64,14 +81,15 @@ class FormulaShifter {
     if (AttributeIn(attributes, "t") == "shared") {
       const std::string group = AttributeIn(attributes, "si");
       if (!formula.empty()) {
+        shared_.erase(group);  // numbers of groups are used again
         if (shifts_.MayConcern(formula)) shared_[group] = {row_, column_, formula};
       } else if (const auto found = shared_.find(group); found != shared_.end()) {
         const SharedFormula& full = found->second;
         formula = OffsetFormula(full.formula, row_ - full.row, column_ - full.column);
       }
       if (!shared_.contains(group)) return end;
-      Replace(open, ElementEnd(empty, close, end), open + 1, nameEnd,
-              shifts_.Follow(formula, home_, 0).value_or(formula));
+      PutAlone(open, ElementEnd(empty, close, end), part_.substr(open + 1, nameEnd - open - 1), attributes,
+               shifts_.Follow(formula, home_, 0).value_or(formula));
     } else if (const auto moved = formula.empty() ? std::nullopt : shifts_.Follow(formula, home_, 0)) {
       Replace(close + 1, end, *moved);
     }
@@ -87,12 +105,11 @@ class FormulaShifter {
     out_.append(part_, copied_, begin - copied_).append(xml::EncodeText(formula));
     copied_ = end;
   }
-  /// A formula of its own in the place of a whole element; its name stands at [nameBegin, nameEnd).
-  void Replace(std::size_t begin, std::size_t end, std::size_t nameBegin, std::size_t nameEnd,
-               const std::string& formula) {
-    const std::string name = part_.substr(nameBegin, nameEnd - nameBegin);
+  /// A formula of its own in the place of a whole element.
+  void PutAlone(std::size_t begin, std::size_t end, const std::string& name, std::string_view attributes,
+                const std::string& formula) {
     out_.append(part_, copied_, begin - copied_);
-    out_.append("<" + name + ">" + xml::EncodeText(formula) + "</" + name + ">");
+    out_.append("<" + name + Unshared(attributes) + ">" + xml::EncodeText(formula) + "</" + name + ">");
     copied_ = end;
   }
 

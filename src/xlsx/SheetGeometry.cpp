@@ -15,6 +15,8 @@ namespace {
 constexpr double kPointsPerPixel = 0.75;  // at 96 dots an inch
 constexpr double kDefaultRowHeight = 15;
 constexpr int kDefaultCharacters = 8;
+// What a file says beyond these (Excel's limits) is no size.
+constexpr double kMostCharacters = 255, kMostRowHeight = 409.5, kMostFontSize = 409;
 
 /// The width of the widest digit in the Normal font, in pixels, by which column widths count. Known for the
 /// fonts that workbooks come with; for others it grows with the size as theirs does.
@@ -28,7 +30,7 @@ int DigitWidth(const Styles& styles) {
                                      {"Arial", 10, 7},   {"Arial", 11, 8},           {"Aptos Narrow", 11, 7},
                                      {"Cambria", 11, 7}, {"Times New Roman", 10, 6}, {"Verdana", 10, 8}};
   const std::string name = styles.NormalFontName();
-  const double size = styles.NormalFontSize();
+  const double size = std::clamp(styles.NormalFontSize(), 1.0, kMostFontSize);
   for (const Known& known : kKnown) {
     if (runtime::EqualsIgnoreCase(name, known.font) && size == known.size) return known.width;
   }
@@ -121,18 +123,23 @@ SheetGeometry ReadGeometry(const std::string& head,
   } source(head);
   XmlStream stream(source);
   for (XmlStream::Tag tag = stream.Next(); tag.kind != XmlStream::Kind::kEndOfInput; tag = stream.Next()) {
-    const auto number = [&](std::string_view name) {
-      return xml::ParseDouble(AttributeIn(tag.attributes, name));
+    const auto number = [&](std::string_view name, double most) {
+      auto value = xml::ParseDouble(AttributeIn(tag.attributes, name));
+      if (value) value = std::clamp(*value, 0.0, most);
+      return value;
     };
     if (tag.kind == XmlStream::Kind::kEnd) continue;
     if (tag.name == "sheetFormatPr") {
-      const auto baseCharacters = number("baseColWidth");
+      const auto baseCharacters = number("baseColWidth", kMostCharacters);
       if (baseCharacters) columnWidth = DefaultColumnPoints(static_cast<int>(*baseCharacters), digit);
-      if (const auto width = number("defaultColWidth")) columnWidth = ColumnPoints(*width, digit);
-      if (const auto height = number("defaultRowHeight")) rowHeight = *height;
+      if (const auto width = number("defaultColWidth", kMostCharacters))
+        columnWidth = ColumnPoints(*width, digit);
+      if (const auto height = number("defaultRowHeight", kMostRowHeight)) rowHeight = *height;
       if (AttributeIn(tag.attributes, "zeroHeight") == "1") rowHeight = 0;
     } else if (tag.name == "col") {
-      const auto first = number("min"), last = number("max"), width = number("width");
+      constexpr double kBeyond = limits::kColumns + 1;
+      const auto first = number("min", kBeyond), last = number("max", kBeyond);
+      const auto width = number("width", kMostCharacters);
       if (!first || !last || *first < 1 || *last > limits::kColumns) continue;
       const std::string hidden = AttributeIn(tag.attributes, "hidden");
       const bool isHidden = hidden == "1" || hidden == "true";
@@ -151,7 +158,9 @@ SheetGeometry ReadGeometry(const std::string& head,
                              static_cast<std::int32_t>(range.last) - 1,
                              range.width < 0 ? columnWidth : range.width);
   }
-  for (const auto& [row, height] : rowHeights) geometry.rows.SetSize(row - 1, row - 1, height);
+  for (const auto& [row, height] : rowHeights) {
+    geometry.rows.SetSize(row - 1, row - 1, std::clamp(height, 0.0, kMostRowHeight));
+  }
   return geometry;
 }
 

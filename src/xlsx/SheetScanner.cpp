@@ -122,11 +122,17 @@ bool SheetScanner::ReadHead() {
     position_ = open;
     // the tag whole, so that its name can be looked at
     const char* close = nullptr;
-    while ((close = static_cast<const char*>(
-                std::memchr(position_, '>', static_cast<std::size_t>(end_ - position_)))) == nullptr) {
+    for (;;) {
+      const std::string_view unread(position_, static_cast<std::size_t>(end_ - position_));
+      const auto at = unread.starts_with("<!--") ? unread.find("-->", 4) : unread.find('>');
+      if (at != std::string_view::npos) {
+        close = position_ + at + (unread[at] == '-' ? 2 : 0);
+        break;
+      }
       if (!Fill()) Damaged();
     }
     const std::string_view tag(position_ + 1, static_cast<std::size_t>(close - position_ - 1));
+    if (tag.starts_with("!D")) throw PackageError(xml::kDocumentType);
     std::size_t length = 0;
     while (length < tag.size() && !IsSpace(tag[length]) && tag[length] != '/') ++length;
     if (xml::LocalName(tag.substr(0, length)) == "sheetData") {

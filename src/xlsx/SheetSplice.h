@@ -19,4 +19,8 @@ void ReplaceSheetData(std::string& part,
 /// address of the relationships' namespace.
 void InsertDrawingLink(std::string& part, std::string_view relationships, std::string_view id);
 
+/// Marks the sheet's tab as one of those selected, or not; false if it is so already. The sheet's first view
+/// counts, which is that of the workbook's first window.
+bool SelectTab(std::string& part, bool selected);
+
 }  // namespace plotsmith::xlsx

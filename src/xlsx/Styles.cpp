@@ -1,16 +1,22 @@
 #include "xlsx/Styles.h"
 
+#include <algorithm>
 #include <array>
+#include <limits>
+#include <set>
 
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "xlsx/DrawingFill.h"
+#include "xlsx/FreeNumber.h"
+#include "xlsx/Namespaces.h"
 #include "xlsx/Xml.h"
 
 namespace plotsmith::xlsx {
 namespace {
 
 constexpr int kFirstCustomFormat = 164;
+constexpr int kLastFormat = std::numeric_limits<int>::max();
 constexpr int kPaletteSize = 56;
 /// The indexed colours of the file begin with eight fixed ones.
 constexpr int kFixedColors = 8;
@@ -74,10 +80,21 @@ std::vector<pugi::xml_node> Listed(pugi::xml_node sheet, std::string_view list, 
   return found;
 }
 
+int FormatIdOf(pugi::xml_node node) {
+  return static_cast<int>(
+      std::clamp(xml::IntegerAttribute(node, "numFmtId", 0), 0LL, static_cast<long long>(kLastFormat)));
+}
+
 }  // namespace
 
-Styles::Styles(std::string_view bytes) {
-  xml::Parse(document_, bytes.empty() ? kEmptyStyles : bytes);
+Styles::Styles(std::string_view bytes, bool strict) {
+  if (!bytes.empty()) {
+    xml::Parse(document_, bytes);
+  } else if (strict) {
+    xml::Parse(document_, runtime::Replace(kEmptyStyles, kTransitional.main, kStrict.main));
+  } else {
+    xml::Parse(document_, kEmptyStyles);
+  }
   Load();
 }
 
@@ -85,11 +102,10 @@ pugi::xml_node Styles::Sheet() const { return xml::Root(document_); }
 
 void Styles::Load() {
   for (const pugi::xml_node& format : Listed(Sheet(), "numFmts", "numFmt")) {
-    formats_[static_cast<int>(xml::IntegerAttribute(format, "numFmtId", 0))] =
-        xml::Attribute(format, "formatCode");
+    formats_[FormatIdOf(format)] = xml::Attribute(format, "formatCode");
   }
   for (const pugi::xml_node& style : Listed(Sheet(), "cellXfs", "xf")) {
-    cellStyles_.emplace_back().formatId = static_cast<int>(xml::IntegerAttribute(style, "numFmtId", 0));
+    cellStyles_.emplace_back().formatId = FormatIdOf(style);
   }
 }
 
@@ -115,14 +131,15 @@ void Styles::Parse(const CellStyle& style) const {
 
 int Styles::FormatId(std::string_view code) {
   if (runtime::EqualsIgnoreCase(code, "General") || code.empty()) return 0;
-  int next = kFirstCustomFormat;
+  std::set<long long> taken;
   for (const auto& [id, custom] : formats_) {
     if (custom == code) return id;
-    next = std::max(next, id + 1);
+    taken.insert(id);
   }
   for (int id = 1; id < 50; ++id) {
     if (BuiltinNumberFormat(id) == code && !formats_.contains(id)) return id;
   }
+  const auto next = static_cast<int>(FreeNumber(taken, kFirstCustomFormat, kLastFormat));
   pugi::xml_node list = EnsureSheetChild(Sheet(), "numFmts");
   pugi::xml_node format = list.append_child((std::string(xml::Prefix(list.name())) + "numFmt").c_str());
   xml::SetAttribute(format, "numFmtId", std::to_string(next));
@@ -143,8 +160,12 @@ std::uint32_t Styles::WithFormat(std::uint32_t base, std::string_view code) {
     return base;
   }
   pugi::xml_node list = EnsureSheetChild(Sheet(), "cellXfs");
-  const auto styles = Listed(Sheet(), "cellXfs", "xf");
   const std::string name = std::string(xml::Prefix(list.name())) + "xf";
+  if (cellStyles_.empty()) {  // the first style is that of all cells that name none
+    xml::SetAttribute(list.append_child(name.c_str()), "numFmtId", "0");
+    cellStyles_.emplace_back();
+  }
+  const auto styles = Listed(Sheet(), "cellXfs", "xf");
   pugi::xml_node style =
       base < styles.size() ? list.append_copy(styles[base]) : list.append_child(name.c_str());
   xml::SetAttribute(style, "numFmtId", std::to_string(id));

@@ -16,8 +16,9 @@ namespace plotsmith::xlsx {
 /// The styles part: number formats by cell style, and the palette. It only ever grows.
 class Styles {
  public:
-  /// `bytes` is empty for a workbook without the part. Throws PackageError.
-  explicit Styles(std::string_view bytes);
+  /// `bytes` is empty for a workbook without the part, which is then made, in the Strict vocabulary or the
+  /// usual one. Throws PackageError.
+  explicit Styles(std::string_view bytes, bool strict = false);
 
   /// The number format of a cell style, an index into cellXfs; General where there is no such style.
   const NumberFormat& Format(std::uint32_t style) const;

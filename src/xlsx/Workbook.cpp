@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
+#include <set>
 
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
@@ -11,8 +12,10 @@
 #include "xlsx/ChartPart.h"
 #include "xlsx/DefaultTheme.h"
 #include "xlsx/DefinedNames.h"
+#include "xlsx/FreeNumber.h"
 #include "xlsx/Limits.h"
 #include "xlsx/Namespaces.h"
+#include "xlsx/SelectedTab.h"
 #include "xlsx/SharedStrings.h"
 #include "xlsx/Sheets.h"
 #include "xlsx/Worksheet.h"
@@ -111,7 +114,7 @@ void Workbook::Load() {
   if (styles && package_.Has(styles->target)) {
     InPart(styles->target, [&] { styles_ = std::make_unique<xlsx::Styles>(package_.Read(styles->target)); });
   } else {
-    styles_ = std::make_unique<xlsx::Styles>("");
+    styles_ = std::make_unique<xlsx::Styles>("", strict_);
   }
   LoadSheets();
   LoadNames();
@@ -142,6 +145,7 @@ void Workbook::LoadSheets() {
   const auto active = xml::IntegerAttribute(view, "activeTab", 0);
   if (active >= 0 && active < static_cast<long long>(sheets_.size()))
     activeSheet_ = static_cast<std::size_t>(active);
+  if (!sheets_.empty()) openedSheet_ = sheets_[activeSheet_];
 }
 
 void Workbook::LoadNames() {
@@ -224,13 +228,12 @@ std::size_t Workbook::PositionOf(const SheetEntry& sheet) const {
 
 std::shared_ptr<Worksheet> Workbook::AddWorksheet(std::size_t position) {
   const Namespaces& names = strict_ ? kStrict : kTransitional;
-  const std::string folder = part_.substr(0, part_.rfind('/') + 1);
-  const std::string part = package_.FreeName(folder + "worksheets/sheet", ".xml");
+  const std::string part = package_.FreeName(Folder() + "worksheets/sheet", ".xml");
   package_.Add(part, content_type::kWorksheet, EmptySheet(strict_));
   const std::string link = package_.AddRelationship(part_, names.RelationshipType("worksheet"), part);
 
-  long long id = 0;
-  for (const auto& sheet : sheets_) id = std::max(id, xml::IntegerAttribute(sheet->node, "sheetId", 0));
+  std::set<long long> ids;
+  for (const auto& sheet : sheets_) ids.insert(xml::IntegerAttribute(sheet->node, "sheetId", 0));
   std::string name;
   for (int n = 1; name.empty() || FindSheet(name); ++n) name = "Sheet" + std::to_string(n);
 
@@ -242,7 +245,7 @@ std::shared_ptr<Worksheet> Workbook::AddWorksheet(std::size_t position) {
   entry->name = name;
   entry->part = part;
   xml::SetAttribute(entry->node, "name", name);
-  xml::SetAttribute(entry->node, "sheetId", std::to_string(id + 1));
+  xml::SetAttribute(entry->node, "sheetId", std::to_string(FreeNumber(ids, 1, limits::kSheetId)));
   xml::SetAttribute(entry->node, (xml::EnsurePrefix(Root(), names.relationships, "r") + "id").c_str(), link);
   entry->worksheet = std::make_shared<Worksheet>(*this, entry, true);
   entry->object = entry->worksheet;
@@ -276,10 +279,13 @@ void Workbook::RenumberLocalNames(std::size_t position, int step) {
     place = *place + static_cast<std::size_t>(step);
     xml::SetAttribute(nodes[i], "localSheetId", std::to_string(*place));
   }
-  const auto view = xml::Child(Root(), "bookViews", "workbookView");
-  for (const char* tab : {"activeTab", "firstSheet"}) {
-    const auto at = xml::IntegerAttribute(view, tab, -1);
-    if (at >= static_cast<long long>(position)) xml::SetAttribute(view, tab, std::to_string(at + step));
+  for (const pugi::xml_node& view : xml::Children(xml::Child(Root(), "bookViews"), "workbookView")) {
+    for (const char* tab : {"activeTab", "firstSheet"}) {
+      // a place behind the last sheet was none before either
+      const auto at = std::min(xml::IntegerAttribute(view, tab, -1), static_cast<long long>(sheets_.size()));
+      if (at < static_cast<long long>(position)) continue;
+      xml::SetAttribute(view, tab, std::to_string(std::max(at + step, 0LL)));
+    }
   }
   nameObjects_ = nullptr;
 }
@@ -313,10 +319,15 @@ void Workbook::Activate(const SheetEntry& sheet) {
 
 void Workbook::DefineName(std::string name, std::string definition) {
   pugi::xml_node list = xml::Child(Root(), "definedNames");
-  const std::string prefix(xml::Prefix(Root().name()));
-  if (!list)
-    list = Root().insert_child_after((prefix + "definedNames").c_str(), xml::Child(Root(), "sheets"));
-  pugi::xml_node node = list.append_child((prefix + "definedName").c_str());
+  if (!list) {
+    pugi::xml_node before = xml::Child(Root(), "sheets");
+    for (const char* later : {"functionGroups", "externalReferences"}) {
+      if (const auto node = xml::Child(Root(), later)) before = node;
+    }
+    list =
+        Root().insert_child_after((std::string(xml::Prefix(Root().name())) + "definedNames").c_str(), before);
+  }
+  pugi::xml_node node = list.append_child((std::string(xml::Prefix(list.name())) + "definedName").c_str());
   xml::SetAttribute(node, "name", name);
   xml::SetText(node, definition);
   names_.push_back({std::move(name), std::nullopt, std::move(definition)});
@@ -375,12 +386,18 @@ void Workbook::WriteStyles() {
     return;
   }
   const Namespaces& names = strict_ ? kStrict : kTransitional;
-  const std::string part = part_.substr(0, part_.rfind('/') + 1) + "styles.xml";
+  const std::string part = Folder() + "styles.xml";
   package_.Add(part, content_type::kStyles, styles_->Serialize());
   if (!link) package_.AddRelationship(part_, names.RelationshipType("styles"), part);
 }
 
 void Workbook::WriteActiveTab() {
+  if (activeSheet_ < sheets_.size() && sheets_[activeSheet_] != openedSheet_) {
+    openedSheet_ = sheets_[activeSheet_];
+    std::vector<std::string> parts;
+    for (const auto& sheet : sheets_) parts.push_back(sheet->part);
+    SelectOnlyTab(package_, parts, openedSheet_->part);
+  }
   const auto active = static_cast<long long>(activeSheet_);
   pugi::xml_node view = xml::Child(Root(), "bookViews", "workbookView");
   if (xml::IntegerAttribute(view, "activeTab", 0) == active) return;
@@ -421,7 +438,7 @@ void Workbook::WriteCharts() {
       if (package_.ContentType(part) != content_type::kChart) continue;
       if (charts_.contains(part)) continue;
       try {
-        if (shifts_.MayConcern(package_.Read(part))) Chart(part);
+        if (shifts_.MayConcern(xml::ToUtf8(package_.Read(part)))) Chart(part);
       } catch (const PackageError&) {
         // a chart that nobody can read follows nothing, and stays as it is
       }
@@ -450,7 +467,7 @@ const Theme& Workbook::Theme() {
 void Workbook::EnsureTheme() {
   if (package_.FindRelationshipOfType(part_, "theme")) return;
   const Namespaces& names = strict_ ? kStrict : kTransitional;
-  const std::string part = package_.FreeName(part_.substr(0, part_.rfind('/') + 1) + "theme/theme", ".xml");
+  const std::string part = package_.FreeName(Folder() + "theme/theme", ".xml");
   package_.Add(part, content_type::kTheme, DefaultTheme(strict_));
   package_.AddRelationship(part_, names.RelationshipType("theme"), part);
 }

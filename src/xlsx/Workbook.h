@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <new>
 #include <optional>
 #include <pugixml.hpp>
 #include <string>
@@ -59,10 +60,13 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   /// be saved: what was built on it is incomplete.
   const std::optional<std::string>& Damage() const { return damage_; }
   bool CalculatesManually() const;
+  /// For programs that make workbooks: a defined name of the whole workbook.
   void DefineName(std::string name, std::string definition);
 
   // for the other classes of this host
   xlsx::Package& Package() { return package_; }
+  /// The folder of the workbook part, with its slash: where new parts go.
+  std::string Folder() const { return part_.substr(0, part_.rfind('/') + 1); }
   xlsx::Styles& Styles() { return *styles_; }
   const TextPool& SharedStrings();
   DateSystem Dates() const { return dates_; }
@@ -88,13 +92,15 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   const xlsx::Theme& Theme();
 
   /// Runs what reads the file behind the port: a PackageError is kept as the workbook's damage and goes on as
-  /// the run-time error that the port allows.
+  /// the run-time error that the port allows. So is want of memory.
   template <class Read>
   auto Guarded(Read&& read) -> decltype(read()) {
     try {
       return read();
     } catch (const PackageError& e) {
       RaiseDamage(e);
+    } catch (const std::bad_alloc&) {
+      RaiseDamage(PackageError("there is not enough memory for it"));
     }
   }
 
@@ -124,6 +130,7 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   std::optional<TextPool> sharedStrings_;
   std::vector<std::shared_ptr<SheetEntry>> sheets_;
   std::size_t activeSheet_ = 0;
+  std::shared_ptr<SheetEntry> openedSheet_;  ///< the active sheet as the file tells
   std::vector<NameEntry> names_;
   excel::Ref<excel::Names> nameObjects_;  ///< made when first asked for, until a name changes
   std::map<std::string, std::shared_ptr<ChartPart>, std::less<>> charts_;  ///< those in use, by part

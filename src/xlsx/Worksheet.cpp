@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cstring>
+#include <numeric>
+#include <vector>
 
 #include "runtime/RuntimeError.h"
 #include "xlsx/Application.h"
@@ -45,11 +47,30 @@ bool PartMentions(const Package& package, const std::string& part, const RowShif
   std::size_t kept = 0;
   while (const std::size_t count = stream->Read(window.data() + kept, kWindow - kept)) {
     const std::string_view text(window.data(), kept + count);
+    if (kept == 0 && xml::NeedsConversion(text)) return shifts.MayConcern(xml::ToUtf8(package.Read(part)));
     if (shifts.MayConcern(text)) return true;
     kept = std::min(kOverlap, text.size());
     std::memmove(window.data(), text.data() + text.size() - kept, kept);
   }
   return false;
+}
+
+/// The cells of a sheet, each row counted up to its last one.
+std::size_t RoomOf(const CellStore& cells) {
+  std::vector<std::int32_t> ends;
+  for (std::int32_t column = 1; column <= cells.ColumnCount(); ++column) {
+    const std::int32_t last = cells.LastRow(column);
+    if (last > static_cast<std::int32_t>(ends.size())) ends.resize(static_cast<std::size_t>(last));
+    for (std::int32_t row = 1; row <= last; ++row) {
+      const bool blank = cells.ValueAt(row, column).GetKind() == PackedValue::Kind::kEmpty;
+      if (!blank || cells.StyleAt(row, column) != 0) ends[static_cast<std::size_t>(row) - 1] = column;
+    }
+  }
+  return std::accumulate(ends.begin(), ends.end(), std::size_t{0});
+}
+
+bool MentionsChart(std::string_view drawing) {
+  return drawing.find("graphicFrame") != std::string_view::npos;
 }
 
 CellValue::Kind NumberKind(const Styles& styles, std::uint32_t style, double number) {
@@ -81,9 +102,13 @@ CellGrid& Worksheet::Grid() {
   if (!isNew_ && contents.formulas) {
     throw RuntimeError(runtime::error::kApplication, "A sheet with formulas can't be written.");
   }
+  if (contents.used && contents.used->CellCount() > std::int64_t{limits::kGridCells}) {
+    CellGrid::CheckRoom(RoomOf(contents.cells));
+  }
   CellGrid grid;
   for (std::int32_t column = 1; column <= contents.cells.ColumnCount(); ++column) {
-    for (std::int32_t row = 1; row <= contents.cells.LastRow(column); ++row) {
+    const std::int32_t last = contents.cells.LastRow(column);
+    for (std::int32_t row = 1; row <= last; ++row) {
       const std::uint32_t style = contents.cells.StyleAt(row, column);
       const CellValue value = Unpack(contents.cells.ValueAt(row, column), style);
       if (value.kind == CellValue::Kind::kEmpty && style == 0) continue;
@@ -256,8 +281,17 @@ Ref<excel::ChartObjects> Worksheet::ChartObjects() { return MakeChartObjects(*th
 Drawing* Worksheet::FindDrawing() {
   if (!drawingSought_) {
     book_.Guarded([&] {
-      const auto link = book_.Package().FindRelationshipOfType(Entry().part, "drawing");
-      if (link) drawing_ = std::make_unique<Drawing>(*this, link->target);
+      const auto& package = book_.Package();
+      const auto link = package.FindRelationshipOfType(Entry().part, "drawing");
+      if (!link) return;
+      try {
+        drawing_ = std::make_unique<Drawing>(*this, link->target);
+      } catch (const PackageError& e) {
+        // One drawing that can't be read is no reason to give the workbook up, unless it may hold a chart
+        // that somebody looks for: whoever doesn't find it would take it for deleted.
+        if (package.Has(link->target) && MentionsChart(xml::ToUtf8(package.Read(link->target)))) throw;
+        drawingDamage_ = e.what();
+      }
     });
     drawingSought_ = true;
   }
@@ -266,10 +300,12 @@ Drawing* Worksheet::FindDrawing() {
 
 Drawing& Worksheet::EnsureDrawing() {
   if (Drawing* drawing = FindDrawing()) return *drawing;
+  if (drawingDamage_) {
+    throw RuntimeError(runtime::error::kApplication, "The drawing can't be read: " + *drawingDamage_ + ".");
+  }
   auto& package = book_.Package();
   const Namespaces& names = book_.IsStrict() ? kStrict : kTransitional;
-  const std::string folder = Entry().part.substr(0, Entry().part.rfind("/worksheets/") + 1) + "drawings/";
-  const std::string part = package.FreeName(folder + "drawing", ".xml");
+  const std::string part = package.FreeName(book_.Folder() + "drawings/drawing", ".xml");
   package.Add(part, content_type::kDrawing, EmptyDrawing(book_.IsStrict()));
   const std::string id = package.AddRelationship(Entry().part, names.RelationshipType("drawing"), part);
   std::string text = xml::ToUtf8(package.Read(Entry().part));

@@ -51,8 +51,9 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   void InsertRow(std::int32_t row);
   void DeleteRow(std::int32_t row);
   const SheetGeometry& Geometry();
-  /// The sheet's drawing; null if it has none, unless it is to be made.
+  /// The sheet's drawing; null if it has none, or one without charts that can't be read.
   Drawing* FindDrawing();
+  /// The same, made if need be. Error 1004 if there is one that can't be read.
   Drawing& EnsureDrawing();
 
   /// Brings formulas up to date with rows that moved on other sheets.
@@ -83,6 +84,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   std::optional<SheetGeometry> geometry_;
   std::unique_ptr<Drawing> drawing_;
   bool drawingSought_ = false;
+  std::optional<std::string> drawingDamage_;  ///< why the sheet's drawing can't be read
 };
 
 }  // namespace plotsmith::xlsx

@@ -1,10 +1,13 @@
 #include "xlsx/Xml.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <new>
 #include <sstream>
 
+#include "dom/XmlCharacters.h"
 #include "dom/XmlDepth.h"
 #include "runtime/Strings.h"
 #include "xlsx/Limits.h"
@@ -59,6 +62,80 @@ void QuoteSafe(pugi::xml_node element) {
   }
 }
 
+constexpr std::string_view kMark = "\xEF\xBB\xBF";  // of the byte order
+
+enum class Encoding { kUtf8, kMarkedUtf8, kUtf16Big, kUtf16Little, kLatin1, kWindows1252 };
+
+/// The encoding that the XML declaration names, as a view into the text; a null view if it names none.
+std::string_view DeclaredEncoding(std::string_view text) {
+  if (!text.starts_with("<?xml")) return {};
+  const std::string_view declaration = text.substr(0, text.find("?>"));
+  const auto name = declaration.find("encoding");
+  if (name == std::string_view::npos) return {};
+  const auto open = declaration.find_first_of("\"'", name);
+  if (open == std::string_view::npos) return {};
+  const auto close = declaration.find(declaration[open], open + 1);
+  return close == std::string_view::npos ? std::string_view()
+                                         : declaration.substr(open + 1, close - open - 1);
+}
+
+Encoding EncodingOf(std::string_view bytes) {
+  const auto begins = [&](char first, char second) {
+    return bytes.size() >= 2 && bytes[0] == first && bytes[1] == second;
+  };
+  if (bytes.starts_with(kMark)) return Encoding::kMarkedUtf8;
+  if (begins('\xFE', '\xFF') || begins('\0', '<')) return Encoding::kUtf16Big;
+  if (begins('\xFF', '\xFE') || begins('<', '\0')) return Encoding::kUtf16Little;
+  const std::string_view declared = DeclaredEncoding(bytes);
+  for (const std::string_view name : {"ISO-8859-1", "ISO_8859-1", "LATIN1"}) {
+    if (runtime::EqualsIgnoreCase(declared, name)) return Encoding::kLatin1;
+  }
+  for (const std::string_view name : {"WINDOWS-1252", "CP1252"}) {
+    if (runtime::EqualsIgnoreCase(declared, name)) return Encoding::kWindows1252;
+  }
+  return Encoding::kUtf8;
+}
+
+/// `high` and `low` say where in each pair of bytes the halves of a unit stand.
+std::string FromUtf16(std::string_view bytes, std::size_t high, std::size_t low) {
+  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
+  std::u16string units;
+  units.reserve(bytes.size() / 2);
+  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+    units += static_cast<char16_t>(byte(i + high) << 8 | byte(i + low));
+  }
+  if (units.starts_with(u'\xFEFF')) units.erase(0, 1);
+  return runtime::ToUtf8(units);
+}
+
+std::string FromSingleBytes(std::string_view bytes, bool windows) {
+  // what Windows has from 0x80 on, where Latin-1 has control characters
+  static constexpr char16_t kWindows[] =
+      u"\x20AC\x81\x201A\x0192\x201E\x2026\x2020\x2021\x02C6\x2030\x0160\x2039\x0152\x8D\x017D\x8F"
+      u"\x90\x2018\x2019\x201C\x201D\x2022\x2013\x2014\x02DC\x2122\x0161\x203A\x0153\x9D\x017E\x0178";
+  std::string text;
+  text.reserve(bytes.size());
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    runtime::AppendUtf8(text, windows && byte >= 0x80 && byte < 0xA0 ? kWindows[byte - 0x80] : byte);
+  }
+  return text;
+}
+
+bool IsUtf8(std::string_view text) {
+  for (std::size_t i = 0; i < text.size();) {
+    const std::size_t begin = i;
+    const bool ascii = static_cast<unsigned char>(text[i]) < 0x80;
+    if (ascii) {
+      ++i;
+    } else {
+      runtime::NextCharacter(text, i);
+      if (i == begin + 1) return false;
+    }
+  }
+  return true;
+}
+
 struct QuoteWalker : pugi::xml_tree_walker {
   bool for_each(pugi::xml_node& node) override {
     if (node.type() == pugi::node_element || node.type() == pugi::node_declaration) QuoteSafe(node);
@@ -68,26 +145,47 @@ struct QuoteWalker : pugi::xml_tree_walker {
 
 }  // namespace
 
-std::string ToUtf8(std::string_view bytes) {
-  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
-  if (bytes.starts_with("\xEF\xBB\xBF")) return std::string(bytes.substr(3));
-  if (bytes.size() < 2) return std::string(bytes);
-  const bool bigMark = byte(0) == 0xFE && byte(1) == 0xFF, littleMark = byte(0) == 0xFF && byte(1) == 0xFE;
-  const bool big = bigMark || (byte(0) == 0 && byte(1) == '<');
-  const bool little = littleMark || (byte(0) == '<' && byte(1) == 0);
-  if (!big && !little) return std::string(bytes);
-  std::u16string units;
-  for (std::size_t i = bigMark || littleMark ? 2 : 0; i + 1 < bytes.size(); i += 2) {
-    units += static_cast<char16_t>(big ? byte(i) << 8 | byte(i + 1) : byte(i + 1) << 8 | byte(i));
+bool NeedsConversion(std::string_view start) { return EncodingOf(start) != Encoding::kUtf8; }
+
+std::string ToUtf8(std::string bytes) {
+  const Encoding encoding = EncodingOf(bytes);
+  if (encoding == Encoding::kUtf8) return bytes;
+  std::string text;
+  switch (encoding) {
+    case Encoding::kUtf16Big:
+      text = FromUtf16(bytes, 0, 1);
+      break;
+    case Encoding::kUtf16Little:
+      text = FromUtf16(bytes, 1, 0);
+      break;
+    case Encoding::kLatin1:
+    case Encoding::kWindows1252:
+      text = FromSingleBytes(bytes, encoding == Encoding::kWindows1252);
+      break;
+    default:
+      text = bytes.substr(kMark.size());
   }
-  return runtime::ToUtf8(units);
+  const std::string_view declared = DeclaredEncoding(text);
+  if (declared.data() != nullptr) {
+    text.replace(static_cast<std::size_t>(declared.data() - text.data()), declared.size(), "UTF-8");
+  }
+  return text;
 }
 
 void Parse(pugi::xml_document& document, std::string_view bytes) {
-  const std::string text = ToUtf8(bytes);
-  if (dom::NestsDeeperThan(text, limits::kXmlDepth)) throw PackageError("its XML nests too deep");
+  const std::string text = ToUtf8(std::string(bytes));
+  if (!IsUtf8(text)) throw PackageError("its text isn't in the encoding that it declares");
+  const auto mark = [](char c) { return c == '<' || c == '='; };
+  if (std::count_if(text.begin(), text.end(), mark) > limits::kXmlMarks) {
+    throw PackageError("it has more elements than we can hold");
+  }
   const auto status = document.load_buffer(text.data(), text.size(), kParse, pugi::encoding_utf8);
+  if (status.status == pugi::status_out_of_memory) throw std::bad_alloc();
   if (!status || !Root(document)) throw PackageError("its XML is damaged");
+  if (dom::NestsDeeperThan(document, limits::kXmlDepth)) throw PackageError("its XML nests too deep");
+  for (const pugi::xml_node& node : document.children()) {
+    if (node.type() == pugi::node_doctype) throw PackageError(kDocumentType);
+  }
   QuoteWalker walker;
   document.traverse(walker);
   pugi::xml_node declaration = document.first_child();
@@ -104,7 +202,8 @@ std::string Serialize(const pugi::xml_document& document) {
     }
   } writer;
   document.save(writer, "", kSave, pugi::encoding_utf8);
-  return std::move(writer.bytes);
+  // half of a character may wait in a tree for the other half, but not in a file
+  return dom::XmlCharactersOf(writer.bytes);
 }
 
 std::string Decode(std::string_view raw) {
@@ -134,7 +233,7 @@ std::string Decode(std::string_view raw) {
       const std::string_view digits = name.substr(hexadecimal ? 2 : 1);
       std::uint32_t code = 0;
       const auto [stop, status] = std::from_chars(digits.begin(), digits.end(), code, hexadecimal ? 16 : 10);
-      known = status == std::errc() && stop == digits.end() && code != 0 && code < 0x110000;
+      known = status == std::errc() && stop == digits.end() && dom::IsXmlCharacter(code);
       if (known) runtime::AppendUtf8(text, code);
     }
     if (known) {

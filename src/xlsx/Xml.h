@@ -15,12 +15,18 @@
 /// set as a value passes through Decode or Encode.
 namespace plotsmith::xlsx::xml {
 
-/// Parses a part in UTF-8 or UTF-16. Throws PackageError if it isn't well-formed, or too deep.
+/// What is said of a part with a document type, which no part may have (ECMA-376 Part 2).
+inline constexpr const char* kDocumentType = "it declares a document type, which no part of a workbook may";
+
+/// Parses a part in UTF-8, UTF-16, Latin-1 or Windows-1252. Throws PackageError if it isn't well-formed, or
+/// too deep.
 void Parse(pugi::xml_document& document, std::string_view bytes);
 /// UTF-8, with the declaration that the part came with, or none.
 std::string Serialize(const pugi::xml_document& document);
-/// UTF-8 without a byte order mark, from whatever encoding the bytes are in.
-std::string ToUtf8(std::string_view bytes);
+/// UTF-8 without a byte order mark, from whatever encoding the bytes are in; the declaration then says so.
+std::string ToUtf8(std::string bytes);
+/// Whether ToUtf8 would change a part that begins so; `start` goes up to the end of the declaration.
+bool NeedsConversion(std::string_view start);
 
 std::string Decode(std::string_view raw);
 std::string EncodeText(std::string_view text);

@@ -1,6 +1,7 @@
 #include "xlsx/XmlStream.h"
 
 #include <cstring>
+#include <utility>
 
 #include "xlsx/Limits.h"
 #include "xlsx/PackageError.h"
@@ -10,6 +11,8 @@ namespace plotsmith::xlsx {
 namespace {
 
 constexpr std::size_t kWindow = 256 * 1024;
+/// An XML declaration is shorter, in any encoding.
+constexpr std::ptrdiff_t kDeclaration = 512;
 /// Behind the zero byte: whoever compares a few bytes at once may look so far.
 constexpr std::size_t kSlack = 15;
 
@@ -19,13 +22,12 @@ bool IsSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 
 XmlStream::XmlStream(Archive::Stream& source) : source_(source), window_(kWindow + 1 + kSlack) {
   position_ = end_ = window_.data();
-  while (end_ - position_ < 4 && Fill()) {
+  while (end_ - position_ < kDeclaration && Fill()) {
   }
   const std::string_view start(position_, static_cast<std::size_t>(end_ - position_));
-  if (start.starts_with("\xEF\xBB\xBF")) position_ += 3;
-  const bool wide = start.size() >= 2 && (start.starts_with("\xFE\xFF") || start.starts_with("\xFF\xFE") ||
-                                          start[0] == '\0' || start[1] == '\0');
-  if (!wide) return;
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
+  if (start.starts_with(kMark)) position_ += kMark.size();
+  if (start.starts_with(kMark) || !xml::NeedsConversion(start)) return;
   std::string bytes(start);
   for (;;) {
     const std::size_t count = source_.Read(window_.data(), kWindow);
@@ -33,7 +35,7 @@ XmlStream::XmlStream(Archive::Stream& source) : source_(source), window_(kWindow
     bytes.append(window_.data(), count);
     if (bytes.size() > limits::kHeldPart) throw PackageError("its text is too long");
   }
-  converted_ = xml::ToUtf8(bytes);
+  converted_ = xml::ToUtf8(std::move(bytes));
   isConverted_ = true;
   position_ = end_ = window_.data();
   window_[0] = '\0';
@@ -115,8 +117,7 @@ XmlStream::Tag XmlStream::Next(std::string* text) {
       continue;
     }
     if (startsWith("<!")) {
-      passTo(">", 2);  // a document type; what it declares is not followed
-      continue;
+      throw PackageError(xml::kDocumentType);
     }
 
     const char* p = position_ + 1;

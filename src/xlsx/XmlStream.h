@@ -21,7 +21,7 @@ class XmlStream {
     std::string_view attributes;  ///< as written, likewise
   };
 
-  /// A part in UTF-16 is read whole and converted first.
+  /// A part in another encoding than UTF-8 is read whole and converted first.
   explicit XmlStream(Archive::Stream& source);
 
   /// The next tag. The text before it, decoded, is appended to `text` if that isn't null. Comments and
@@ -50,7 +50,7 @@ class XmlStream {
 
   Archive::Stream& source_;
   std::vector<char> window_;
-  std::string converted_;  ///< a part that came in UTF-16
+  std::string converted_;  ///< a part that came in another encoding
   std::size_t convertedAt_ = 0;
   bool isConverted_ = false;
 };

@@ -94,6 +94,30 @@ TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
   EXPECT_TRUE(unwritable.err.starts_with("plotsmith: can't save ")) << unwritable.err;
 }
 
+TEST_F(CommandTest, NothingIsSavedAfterMemoryRanOut) {
+  // there is memory for the first lines of the journal only, so that the work fails somewhere in its middle
+  struct Buffer : std::streambuf {
+    explicit Buffer(int lines) : left(lines) {}
+    int left;
+    int overflow(int c) override {
+      if (c == '\n' && --left <= 0) throw std::bad_alloc();
+      return c;
+    }
+  };
+  const S book = Write(SalesBook({{"VEX_Chart1"}}));
+  for (const int lines : {1, 6, 20, 40}) {
+    Buffer buffer(lines);
+    std::ostream out(&buffer);
+    out.exceptions(std::ios::badbit);
+    std::istringstream in;
+    std::ostringstream err;
+    EXPECT_EQ(
+        RunCommandLine({"--journal", "refresh", book, "-o", folder_ / "out.xlsx"}, {in, out, err, false}), 3);
+    EXPECT_EQ(err.str(), "plotsmith: can't read \"" + book + "\": there is not enough memory for it.\n");
+    EXPECT_FALSE(std::filesystem::exists(folder_ / "out.xlsx")) << lines;
+  }
+}
+
 TEST_F(CommandTest, WrongUsageIsTwo) {
   const S book = Write(SalesBook({}));
   for (const std::vector<S>& arguments :

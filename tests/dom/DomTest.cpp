@@ -20,9 +20,10 @@ TEST(DomTest, WhatDoesNotParseLeavesAnEmptyDocument) {
     EXPECT_FALSE(document.loadXML(xml)) << xml;
     EXPECT_FALSE(document.documentElement()) << xml;
   }
-  std::string deep;
-  for (int i = 0; i < 100000; ++i) deep += "<a>";
-  EXPECT_FALSE(document.loadXML(deep)) << "a tree that deep can't even be taken down";
+  std::string deep = "<!DOCTYPE a [<!-- ' -->]>";
+  for (int i = 0; i < 300000; ++i) deep += "<a>";
+  for (int i = 0; i < 300000; ++i) deep += "</a>";
+  EXPECT_FALSE(document.loadXML(deep)) << "a branch that deep can't even be taken down";
 }
 
 TEST(DomTest, TextsAndAttributesSurviveARoundTrip) {
@@ -31,7 +32,7 @@ TEST(DomTest, TextsAndAttributesSurviveARoundTrip) {
   chart.setAttribute("title", "a < b & \"c\"\n\t d");
   chart.setAttribute("number", 2.5);
   chart.setAttribute("control",
-                     "a\x01\x0B"
+                     "a\x01\x0B\xED\xA0\xBD\xEF\xBF\xBF"
                      "b");
   auto comment = document.createElement("comment");
   comment.appendChild(document.createTextNode("  two\r\nlines "));
@@ -80,10 +81,18 @@ TEST(DomTest, NothingIsError91) {
 }
 
 TEST(XmlDepthTest, CountsElementsAndNothingElse) {
-  EXPECT_FALSE(NestsDeeperThan("<a><b/><b x='>'/><!-- <c> --><![CDATA[<d>]]><?p <e>?></a>", 1));
-  EXPECT_TRUE(NestsDeeperThan("<a><b></b></a>", 1));
-  EXPECT_FALSE(NestsDeeperThan("<a></a><a></a>", 1));
-  EXPECT_FALSE(NestsDeeperThan("<a <", 0));
+  const std::tuple<const char*, int, bool> cases[] = {
+      {"<a><b/><b x='>'/><!-- <c> --><![CDATA[<d>]]><?p <e>?>text</a>", 2, false},
+      {"<a><b>text</b></a>", 1, true},
+      {"<a></a><a></a>", 1, false},
+      // what looks like a quotation to whoever doesn't know what stands where
+      {"<!DOCTYPE a [<!-- ' -->]><a><b/></a><!-- ' -->", 1, true},
+      {"<!DOCTYPE a [<!ENTITY x '<a><b/></a>'>]><a/>", 1, false}};
+  for (const auto& [xml, limit, deeper] : cases) {
+    pugi::xml_document document;
+    ASSERT_TRUE(document.load_string(xml, pugi::parse_full));
+    EXPECT_EQ(NestsDeeperThan(document, limit), deeper) << xml;
+  }
 }
 
 }  // namespace

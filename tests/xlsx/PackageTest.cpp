@@ -2,8 +2,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "runtime/Strings.h"
 #include "tests/support/HostTest.h"
 #include "xlsx/CellText.h"
+#include "xlsx/Limits.h"
 #include "xlsx/Package.h"
 #include "xlsx/PackageError.h"
 #include "xlsx/Xml.h"
@@ -27,6 +29,7 @@ TEST(PackageTest, TargetsAreResolvedInsideThePackage) {
   EXPECT_EQ(RelativeTarget("/xl/worksheets/sheet1.xml", "/xl/drawings/d.xml"), "../drawings/d.xml");
   EXPECT_EQ(RelativeTarget("", "/xl/workbook.xml"), "xl/workbook.xml");
   EXPECT_EQ(RelativeTarget("/a/b/c.xml", "/x/y.xml"), "../../x/y.xml");
+  EXPECT_EQ(RelativeTarget("/a b/c.xml", "/a b/ä%.xml"), "%C3%A4%25.xml");
 }
 
 class PackageFileTest : public ::testing::Test {
@@ -66,6 +69,34 @@ TEST_F(PackageFileTest, UntouchedPartsKeepTheirBytesOrderAndNames) {
   EXPECT_EQ(again.ContentType("/xl/new.xml"), "application/x-new");
   EXPECT_EQ(again.FindRelationship("/xl/workbook.xml", id)->target, "/xl/new.xml");
   EXPECT_EQ(again.FindRelationship("/xl/workbook.xml", id)->type, "new");
+}
+
+TEST_F(PackageFileTest, ForeignEntriesAreCopiedByWhateverMethodTheyCame) {
+  {
+    ArchiveWriter writer(folder_ / "odd.xlsx");
+    writer.Add("[Content_Types].xml", "<Types/>");
+    writer.Add("foreign.bin", "in LZMA, or so it says", false);
+    writer.Finish();
+  }
+  std::ifstream in(folder_ / "odd.xlsx", std::ios::binary);
+  S bytes((std::istreambuf_iterator<char>(in)), {});
+  // the method stands 22 bytes before a local name, and 36 before one in the directory
+  const auto local = bytes.find("foreign.bin"), central = bytes.rfind("foreign.bin");
+  bytes[local - 22] = bytes[central - 36] = 14;
+  const S comment = "a comment on the file";
+  bytes[bytes.size() - 2] = static_cast<char>(comment.size());
+  std::ofstream(folder_ / "odd.xlsx", std::ios::binary) << bytes << comment;
+
+  Package package = Package::Open(folder_ / "odd.xlsx");
+  EXPECT_THROW(package.Read("/foreign.bin"), PackageError);
+  package.Add("/new.xml", "application/xml", "<new/>");
+  package.Save(folder_ / "out.xlsx");
+  std::ifstream saved(folder_ / "out.xlsx", std::ios::binary);
+  const S after((std::istreambuf_iterator<char>(saved)), {});
+  EXPECT_NE(after.find("in LZMA, or so it says"), S::npos);
+  EXPECT_TRUE(after.ends_with(comment));
+  EXPECT_EQ(after[after.find("foreign.bin") - 22], 14);
+  EXPECT_EQ(Archive(folder_ / "out.xlsx").Entries()[1].method, 14);
 }
 
 TEST_F(PackageFileTest, TheFileIsReplacedWholeOrNotAtAll) {
@@ -143,12 +174,73 @@ TEST(XmlTest, WhatIsNotTouchedGoesOutAsItCame) {
     EXPECT_THROW(xml::Parse(document, bad), PackageError) << bad;
 }
 
+TEST(XmlTest, WhatNoPartMayBringIsRefused) {
+  S deep;
+  for (int i = 0; i < 500000; ++i) deep += "<a>";
+  for (int i = 0; i < 500000; ++i) deep += "</a>";
+  const std::pair<S, const char*> cases[] = {
+      {deep, "its XML nests too deep"},
+      {"<?xml version='1.0?><!--'>" + deep + "<!-- -->", "its XML is damaged"},
+      {"<!DOCTYPE a [<!-- ' -->]>" + deep, "its XML nests too deep"},
+      {S(limits::kXmlMarks + 1, '<'), "it has more elements than we can hold"},
+      {"<!DOCTYPE a><a/>", "it declares a document type, which no part of a workbook may"},
+      {"<a>\xE4</a>", "its text isn't in the encoding that it declares"}};
+  for (const auto& [text, reason] : cases) {
+    pugi::xml_document document;
+    try {
+      xml::Parse(document, text);
+      ADD_FAILURE() << text.substr(0, 40);
+    } catch (const PackageError& e) {
+      EXPECT_STREQ(e.what(), reason) << text.substr(0, 40);
+    }
+  }
+}
+
+TEST(XmlTest, AnyEncodingBecomesUtf8AndSaysSo) {
+  const auto declared = [](const S& encoding, const S& text) {
+    return "<?xml version='1.0' encoding='" + encoding + "' standalone='yes'?><a>" + text + "</a>";
+  };
+  const auto wide = [](const S& text, bool big) {
+    S bytes;
+    for (const char16_t unit : runtime::ToUtf16(text)) {
+      const char high = static_cast<char>(unit >> 8), low = static_cast<char>(unit & 0xFF);
+      bytes += big ? S{high, low} : S{low, high};
+    }
+    return bytes;
+  };
+  const std::pair<S, S> cases[] = {
+      {wide("\uFEFF" + declared("UTF-16", "ä€"), false), declared("UTF-8", "ä€")},
+      {wide("\uFEFF" + declared("utf-16", "ä€"), true), declared("UTF-8", "ä€")},
+      {wide(declared("UTF-16LE", "ä"), false), declared("UTF-8", "ä")},
+      {wide("\uFEFF<a/>", false), "<a/>"},
+      {"\uFEFF" + declared("UTF-8", "ä"), declared("UTF-8", "ä")},
+      {declared("iso-8859-1", "\xE4\xFC"), declared("UTF-8", "äü")},
+      {declared("Windows-1252", "\x80\x99\xE4"), declared("UTF-8", "€™ä")},
+      {declared("utf-8", "ä"), declared("utf-8", "ä")}};
+  for (const auto& [bytes, text] : cases) {
+    EXPECT_EQ(xml::ToUtf8(bytes), text);
+    EXPECT_EQ(xml::NeedsConversion(bytes), bytes != text);
+  }
+}
+
 TEST(XmlTest, ValuesPassThroughBothWays) {
   const S value = "a<b>&\"c'\r\n\td\x01";
   EXPECT_EQ(xml::Decode(xml::EncodeText(value)), "a<b>&\"c'\r\n\td") << "what XML can't hold goes";
   EXPECT_EQ(xml::Decode(xml::EncodeAttribute(value)), "a<b>&\"c'\r\n\td");
   EXPECT_EQ(xml::Decode("&#x20AC;&#8364;&lt;&unknown;&;&#xFFFFFFF;&"), "€€<&unknown;&;&#xFFFFFFF;&");
-  EXPECT_EQ(DecodeEscapes(xml::Decode(EncodeCellText("x\r\n\x01_x0041_"))), "x\r\n\x01_x0041_");
+  for (const char* raw : {"&#1;", "&#xD83D;", "&#xFFFE;", "&#x110000;"}) EXPECT_EQ(xml::Decode(raw), raw);
+  // what no file may hold stays in the tree, where halves of a character wait for each other
+  pugi::xml_document document;
+  xml::Parse(document, "<a/>");
+  xml::SetAttribute(xml::Root(document), "b", "\xED\xA0\xBD|");
+  xml::SetText(xml::Root(document), "\xEF\xBF\xBF|ä");
+  EXPECT_EQ(xml::Attribute(xml::Root(document), "b"), "\xED\xA0\xBD|");
+  EXPECT_EQ(xml::Serialize(document), "<a b=\"|\">|ä</a>");
+  // a cell's text comes back whole, whatever is in it: here half a character, and what is none at all
+  EXPECT_EQ(EncodeCellText("\xED\xA0\xBD \xEF\xBF\xBE"), "_xD83D_ _xFFFE_");
+  for (const S& text : {S("x\r\n\x01_x0041_"), S("\xED\xA0\xBD \xEF\xBF\xBE"), S("ä😀")}) {
+    EXPECT_EQ(DecodeEscapes(xml::Decode(EncodeCellText(text))), text);
+  }
 }
 
 }  // namespace

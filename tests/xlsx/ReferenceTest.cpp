@@ -91,6 +91,12 @@ TEST(ReferenceTest, FormulasFollowRows) {
       {"Data!A9:A5", 6, 1, false, "Data!A10:A5"},
       {"Data!A1048576", 1, 1, false, "Data!#REF!"},
       {"Data!A1:A1048576", 5, 1, false, nullptr},
+      {"Data!A1:A1048576", 1, 1, false, nullptr},
+      {"Data!A1:A1048576", 5, -2, false, nullptr},
+      {"Data!A2:A1048576", 5, -2, false, "Data!A2:A1048574"},
+      {"Data!A5:A8:A9+A9", 1, 1, false, "Data!A6:A9:A10+A9"},
+      {"Data!A5:Other!B6", 1, 1, false, "Data!A6:Other!B6"},
+      {"Other!A5:A6+A5:Data!A5", 1, 1, false, "Other!A5:A6+A5:Data!A6"},
       {"Data!A5#+@A5", 1, 1, true, "Data!A6#+@A6"},
       {"(Data!$B$6:$B$7,Data!$B$9)", 7, 2, false, "(Data!$B$6:$B$9,Data!$B$11)"},
   };

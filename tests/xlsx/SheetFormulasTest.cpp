@@ -25,7 +25,14 @@ TEST(SheetFormulasTest, OnlyTheFormulasConcernedChange) {
        "r='C2'><f t='shared' si='4'/></c>",
        "<c r='B4'><f>'My Data'!A4*$C$1</f><v>0</v></c><c r='B5'><f>'My Data'!A7*$C$1</f></c>"
        "<c r='B6'><f>'My Data'!A8*$C$1</f></c><c r='C1'><f t='shared' si='4' ref='C1'>A5</f></c><c r='C2'><f "
-       "t='shared' si='4'/></c>"}};
+       "t='shared' si='4'/></c>"},
+      // which keeps what else was said of it; and the number of a group is used again
+      {"<c r='B4'><f t='shared' ca='1' ref='B4:B5' xml:space='preserve' si='0'> 'My Data'!A5</f></c>"
+       "<c r='B5'><f  si='0' t = 'shared' ca='1'/></c>"
+       "<c r='D1'><f t='shared' ref='D1:D2' si='0'>B1+1</f></c><c r='D2'><f t='shared' si='0'/></c>",
+       "<c r='B4'><f ca='1' xml:space='preserve'> 'My Data'!A7</f></c><c r='B5'><f ca='1'> 'My "
+       "Data'!A8</f></c>"
+       "<c r='D1'><f t='shared' ref='D1:D2' si='0'>B1+1</f></c><c r='D2'><f t='shared' si='0'/></c>"}};
   for (const auto& [before, after] : cases) {
     std::string part = std::string("<w>\r\n<!-- 'My Data'!A5 -->") + before + "</w>";
     EXPECT_TRUE(ShiftSheetFormulas(part, "Sheet1", shifts)) << before;

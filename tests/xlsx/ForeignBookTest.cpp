@@ -1,0 +1,312 @@
+#include <algorithm>
+#include <functional>
+#include <limits>
+#include <new>
+
+#include "runtime/RuntimeError.h"
+#include "runtime/Strings.h"
+#include "tests/support/HostTest.h"
+#include "xlsx/Drawing.h"
+#include "xlsx/Namespaces.h"
+#include "xlsx/Shape.h"
+#include "xlsx/Worksheet.h"
+#include "xlsx/Xml.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+using test::PlainBook;
+using test::SalesBook;
+using S = std::string;
+using Edit = std::function<S(const S&)>;
+
+constexpr const char* kSheet1 = "/xl/worksheets/sheet1.xml";
+constexpr const char* kWorkbook = "/xl/workbook.xml";
+
+/// Workbooks as programs with habits of their own write them.
+class ForeignBookTest : public test::HostTest {
+ protected:
+  /// Opens the book with some of its parts changed.
+  void OpenEdited(const PlainBook& book, const std::vector<std::pair<S, Edit>>& edits) {
+    book.Write(folder_ / "plain.xlsx");
+    xlsx::Package package = Package::Open(folder_ / "plain.xlsx");
+    for (const auto& [part, edit] : edits) package.Replace(part, edit(package.Read(part)));
+    package.Save(folder_ / "edited.xlsx");
+    OpenFile(folder_ / "edited.xlsx");
+  }
+  /// Opens the book with other names of its parts, as the zip file and those that point at them have them.
+  void OpenRenamed(const PlainBook& book, const S& from, const S& entry, const S& written) {
+    book.Write(folder_ / "plain.xlsx");
+    const xlsx::Package package = Package::Open(folder_ / "plain.xlsx");
+    std::vector<std::pair<S, S>> parts;
+    for (const S& part : package.Parts()) {
+      S bytes = package.Read(part);
+      if (part.ends_with(".rels") || part.starts_with("/[")) bytes = runtime::Replace(bytes, from, written);
+      parts.emplace_back(runtime::Replace(part.substr(1), from, entry), std::move(bytes));
+    }
+    ArchiveWriter writer(folder_ / "renamed.xlsx");
+    for (const auto& [name, bytes] : parts) writer.Add(name, bytes);
+    writer.Finish();
+    OpenFile(folder_ / "renamed.xlsx");
+  }
+  std::shared_ptr<Worksheet> Sheet(const S& name) { return Book().FindWorksheet(name); }
+  void AddBox(const S& sheet) { Sheet(sheet)->Shapes()->AddTextbox(1, 10, 10, 50, 20); }
+  void AddChart(const S& sheet) { Sheet(sheet)->ChartObjects()->Add(10, 10, 50, 20); }
+  bool Holds(const S& part, const S& text) const { return SavedPart(part).find(text) != S::npos; }
+};
+
+S Wide(const S& text) {
+  S bytes = "\xFF\xFE";
+  for (const char16_t unit : runtime::ToUtf16(text)) {
+    bytes += {static_cast<char>(unit & 0xFF), static_cast<char>(unit >> 8)};
+  }
+  return bytes;
+}
+
+Edit Replacing(const S& from, const S& to) {
+  return [from, to](const S& text) {
+    EXPECT_NE(text.find(from), S::npos) << from;
+    return runtime::Replace(text, from, to);
+  };
+}
+
+TEST_F(ForeignBookTest, PartsInOtherEncodingsAreReadAndFollowed) {
+  PlainBook book = SalesBook({{"VEX_Chart1"}});
+  book.Sheet("Data1").rows[1][0] = S("Östen");
+  book.sheets.push_back({"Formulas", {{test::RawCell{"><f>VEX_ChartData!C1</f></c>"}}}});
+  const auto utf16 = [](const S& text) {
+    return Wide(
+        runtime::Replace(text, "<?xml version=\"1.0\"?>", "<?xml version=\"1.0\" encoding=\"UTF-16\"?>"));
+  };
+  const auto latin1 = [](const S& text) {
+    return runtime::Replace(
+        runtime::Replace(text, "<?xml version=\"1.0\"?>", "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>"),
+        "Ö", "\xD6");
+  };
+  for (const Edit& encoded : {Edit(utf16), Edit(latin1)}) {
+    OpenEdited(book, {{kSheet1, encoded}, {"/xl/worksheets/sheet4.xml", encoded}, {kWorkbook, encoded}});
+    Refresh();
+    AddBox("Data1");
+    Sheet("VEX_ChartData")->InsertRow(1);
+    SaveAndReopen();
+    EXPECT_TRUE(Messages().empty());
+    EXPECT_EQ(Cells("VEX_ChartData", 3, 2, 3, 2), "Östen");
+    for (const S& part : {S(kSheet1), S("/xl/worksheets/sheet4.xml"), S(kWorkbook)}) {
+      EXPECT_TRUE(SavedPart(part).starts_with("<?xml version=\"1.0\" encoding=\"UTF-8\"?>")) << part;
+    }
+    EXPECT_TRUE(Holds("/xl/worksheets/sheet4.xml", "<f>VEX_ChartData!C2</f>"));
+  }
+}
+
+TEST_F(ForeignBookTest, PartsAreFoundUnderAnyWritingOfTheirNames) {
+  const PlainBook book = SalesBook({{"VEX_Chart1"}});
+  for (const auto& [from, entry, written] : {std::tuple<S, S, S>{"charts/", "my%20charts/", "my%20charts/"},
+                                             {"charts/", "my charts/", "my%20charts/"},
+                                             {"charts/", "my charts/", "my charts/"},
+                                             {"charts/chart1", "charts/Chart1", "CHARTS/chart1"},
+                                             {"worksheets/", "bl%C3%A4tter/", "bl%c3%a4tter/"},
+                                             {"worksheets/", "blätter/", "bl%C3%A4tter/"}}) {
+    OpenRenamed(book, from, entry, written);
+    const auto before = Package::Open(folder_ / "renamed.xlsx").Parts().size();
+    Refresh();
+    AddChart("Charts");
+    AddBox("Data1");
+    SaveAndReopen();
+    EXPECT_TRUE(Messages().empty()) << entry;
+    // a chart, and a drawing with its link; the data sheet and the theme
+    EXPECT_EQ(Package::Open(folder_ / "saved.xlsx").Parts().size(), before + 5) << entry;
+    ASSERT_EQ(Sheet("Charts")->ChartObjects()->Count(), 2) << entry;
+    Sheet("VEX_ChartData")->InsertRow(1);
+    SaveAndReopen();
+    const auto part = Sheet("Charts")->FindDrawing()->Shapes()[0]->ChartPartName();
+    EXPECT_TRUE(Holds(part, "VEX_ChartData!$C$3:$C$4")) << entry << SavedPart(part);
+  }
+}
+
+TEST_F(ForeignBookTest, NewPartsGoWhereTheyBelongWhereverTheSheetLies) {
+  OpenRenamed(SalesBook({}), "worksheets/sheet1.xml", "Sales.xml", "Sales.xml");
+  AddChart("Data1");
+  SaveAndReopen();
+  const auto package = Package::Open(folder_ / "saved.xlsx");
+  EXPECT_EQ(package.ContentType("/xl/drawings/drawing1.xml"), content_type::kDrawing);
+  EXPECT_EQ(package.ContentType("/xl/charts/chart1.xml"), content_type::kChart);
+  EXPECT_EQ(Sheet("Data1")->ChartObjects()->Count(), 1);
+}
+
+TEST_F(ForeignBookTest, WhatAFormerPartLeftInTheContentTypesIsTakenOver) {
+  OpenEdited(SalesBook({}),
+             {{"/[Content_Types].xml",
+               Replacing("</Types>",
+                         "<Override PartName=\"/xl/drawings/drawing1.xml\" ContentType=\"x/y\"/></Types>")}});
+  AddBox("Data1");
+  SaveAndReopen();
+  const S types = SavedPart("/[Content_Types].xml");
+  const auto first = types.find("/xl/drawings/drawing1.xml");
+  EXPECT_EQ(types.find("/xl/drawings/drawing1.xml", first + 1), S::npos);
+  EXPECT_EQ(Package::Open(folder_ / "saved.xlsx").ContentType("/xl/drawings/drawing1.xml"),
+            content_type::kDrawing);
+}
+
+TEST_F(ForeignBookTest, NumbersAtTheEndOfTheirRangeLeaveRoom) {
+  PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}});
+  book.workbookExtra =
+      "<bookViews><workbookView activeTab=\"9223372036854775807\" "
+      "firstSheet=\"-9223372036854775808\"/><workbookView activeTab=\"2\"/></bookViews>";
+  book.Sheet("Charts").beforeData =
+      "<sheetFormatPr baseColWidth=\"1e300\" defaultRowHeight=\"1e300\"/><cols><col min=\"1\" max=\"16384\" "
+      "width=\"1e300\"/><col min=\"3\" max=\"-1e300\"/></cols>";
+  book.styles =
+      "<styleSheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><numFmts "
+      "count=\"2\"><numFmt "
+      "numFmtId=\"2147483647\" formatCode=\"0.0\"/><numFmt numFmtId=\"9223372036854775807\" "
+      "formatCode=\"0.00000\"/>"
+      "</numFmts><fonts><font><sz val=\"1e300\"/></font></fonts></styleSheet>";
+  book.Sheet("Charts").frames[1].chartXml = runtime::Replace(
+      test::EmptyFrameChart(), "<c:layout/>",
+      "<c:layout/><c:barChart><c:barDir val=\"col\"/><c:grouping val=\"clustered\"/><c:ser><c:idx "
+      "val=\"9223372036854775807\"/><c:order val=\"9223372036854775807\"/></c:ser></c:barChart>");
+  OpenEdited(
+      book, {{kWorkbook, Replacing("sheetId=\"3\"", "sheetId=\"65534\"")},
+             {"/xl/drawings/drawing2.xml", Replacing("cNvPr id=\"3\"", "cNvPr id=\"9223372036854775807\"")}});
+  AddBox("Charts");
+  Book().AddWorksheet(0)->SetCellValueAt(1, 1, 1.0);
+  Sheet("Sheet1")->SetNumberFormat({1, 1, 1, 1}, "0.000");
+  Refresh();
+  SaveAndReopen();
+  const S workbook = SavedPart(kWorkbook);
+  EXPECT_NE(workbook.find("<sheet name=\"Sheet1\" sheetId=\"3\""), S::npos) << workbook;
+  EXPECT_NE(workbook.find("<sheet name=\"VEX_ChartData\" sheetId=\"4\""), S::npos) << workbook;
+  EXPECT_NE(workbook.find("<workbookView activeTab=\"3\"/>"), S::npos) << "all windows: " << workbook;
+  EXPECT_TRUE(Holds("/xl/drawings/drawing2.xml", "<xdr:cNvPr id=\"3\" name=\"TextBox 3\"/>"))
+      << SavedPart("/xl/drawings/drawing2.xml");
+  EXPECT_TRUE(Holds("/xl/styles.xml", "numFmtId=\"164\" formatCode=\"0.000\""))
+      << SavedPart("/xl/styles.xml");
+  EXPECT_EQ(Cells("Sheet1", 1, 1, 1, 1), "1.000");
+}
+
+TEST_F(ForeignBookTest, TheFirstStyleStaysThatOfAllOtherCells) {
+  for (const bool strict : {false, true}) {
+    PlainBook book = SalesBook({});
+    const S main = strict ? "http://purl.oclc.org/ooxml/spreadsheetml/main"
+                          : "http://schemas.openxmlformats.org/spreadsheetml/2006/main";
+    if (!strict) book.styles = "<styleSheet xmlns=\"" + main + "\"/>";
+    OpenEdited(book,
+               {{kWorkbook, Replacing("http://schemas.openxmlformats.org/spreadsheetml/2006/main", main)}});
+    Book().AddWorksheet(0)->SetCellValueAt(1, 1, 0.5);
+    Sheet("Sheet1")->SetNumberFormat({1, 1, 1, 1}, "0%");
+    SaveAndReopen();
+    EXPECT_EQ(Cells("Sheet1", 1, 1, 1, 1), "50%");
+    EXPECT_EQ(Cells("Data1", 2, 3, 2, 4), "10|7.5");
+    pugi::xml_document styles;
+    xml::Parse(styles, SavedPart("/xl/styles.xml"));
+    EXPECT_EQ(xml::NamespaceOf(xml::Root(styles)), main);
+  }
+}
+
+TEST_F(ForeignBookTest, NewShapesGetNamesOfTheirOwn) {
+  PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}});
+  OpenEdited(book, {{"/xl/drawings/drawing2.xml", Replacing("name=\"Chart 2\"", "name=\"chart 3\"")}});
+  AddChart("Charts");
+  AddChart("Charts");
+  SaveAndReopen();
+  std::vector<S> names;
+  for (const auto& shape : Sheet("Charts")->FindDrawing()->Shapes()) names.push_back(shape->Name());
+  EXPECT_EQ(names, (std::vector<S>{"Chart 1", "chart 3", "Chart 4", "Chart 5"}));
+}
+
+TEST_F(ForeignBookTest, OneTabIsSelectedWhenAnotherSheetBecomesActive) {
+  PlainBook book = SalesBook({{"VEX_Chart1"}});
+  const S selected = "<sheetViews><sheetView tabSelected=\"1\" workbookViewId=\"0\"/></sheetViews>";
+  book.Sheet("Data1").beforeData = book.Sheet("Charts").beforeData = selected;
+  const auto tabs = [&] {
+    S text;
+    for (const S& part : Package::Open(folder_ / "saved.xlsx").Parts()) {
+      if (part.starts_with("/xl/worksheets/sheet") && Holds(part, "tabSelected=\"1\"")) text += part[20];
+    }
+    std::sort(text.begin(), text.end());
+    return text;
+  };
+  Open(book);
+  Refresh();  // adds a sheet that nobody sees, and goes back
+  SaveAndReopen();
+  EXPECT_EQ(tabs(), "12") << "a group that the user made stays";
+  Book().Activate(*Book().FindSheet("Charts"));
+  SaveAndReopen();
+  EXPECT_EQ(tabs(), "2");
+  EXPECT_EQ(Book().ActiveSheet()->Name(), "Charts");
+  Book().AddWorksheet(1);
+  SaveAndReopen();
+  EXPECT_EQ(tabs(), "5");
+  EXPECT_EQ(Book().ActiveSheet()->Name(), "Sheet1");
+}
+
+TEST_F(ForeignBookTest, ADamagedDrawingIsTheFaultOfItsSheet) {
+  PlainBook book = SalesBook({{"VEX_Chart1"}});
+  book.sheets.insert(book.sheets.begin(), test::SalesSheet("Other"));
+  book.sheets.front().extraAnchors = "<xdr:absoluteAnchor/>";
+  const S drawing = "/xl/drawings/drawing1.xml";
+  OpenEdited(book, {{drawing, [](const S&) { return S("<xdr:wsDr"); }}});
+  Refresh();
+  EXPECT_EQ(Sheet("Other")->Shapes()->Count(), 0);
+  try {
+    AddBox("Other");
+    ADD_FAILURE();
+  } catch (const runtime::RuntimeError& e) {
+    EXPECT_EQ(e.Number(), runtime::error::kApplication);
+    EXPECT_EQ(
+        e.Description(),
+        "The drawing can't be read: its part /xl/drawings/drawing1.xml can't be read: its XML is damaged.");
+  }
+  EXPECT_FALSE(Book().Damage());
+  SaveAndReopen();
+  EXPECT_TRUE(Messages().empty());
+  EXPECT_EQ(SavedPart(drawing), "<xdr:wsDr");
+  EXPECT_TRUE(Holds("/xl/charts/chart1.xml", "<c:ser>"));
+  // but where charts may have been, one that isn't found is not gone
+  OpenEdited(book, {{drawing, [](const S&) { return S("<xdr:wsDr><xdr:graphicFrame"); }}});
+  Refresh();
+  EXPECT_TRUE(Book().Damage());
+}
+
+TEST_F(ForeignBookTest, ASumBeyondAllNumbersIsAnOverflow) {
+  PlainBook book = SalesBook({{"VEX_Chart1"}});
+  for (std::size_t row = 1; row < 5; ++row) {
+    book.Sheet("Data1").rows[row][2] = test::RawCell{"><v>1.7E308</v></c>"};
+  }
+  Open(book);
+  Refresh();
+  EXPECT_EQ(Messages(), (std::vector<S>{"Brindle Plotsmith: PSChartBuilder.GetSourceData\nOverflow"}));
+  try {
+    Book().AddWorksheet(0)->SetCellValueAt(1, 1, std::numeric_limits<double>::infinity());
+    ADD_FAILURE();
+  } catch (const runtime::RuntimeError& e) {
+    EXPECT_EQ(e.Number(), runtime::error::kOverflow);
+  }
+}
+
+TEST_F(ForeignBookTest, WhatTakesTooMuchRoomIsRefused) {
+  PlainBook book = SalesBook({});
+  test::PlainSheet wide;
+  wide.name = "Wide";
+  for (int row = 1; row <= 2000; ++row) {
+    wide.rows.push_back({test::RawCell{"/><c r=\"XFD" + std::to_string(row) + "\"><v>1</v></c>"}});
+  }
+  book.sheets.push_back(wide);
+  Open(book);
+  try {
+    Sheet("Wide")->SetCellValueAt(1, 1, 1.0);
+    ADD_FAILURE();
+  } catch (const runtime::RuntimeError& e) {
+    EXPECT_EQ(e.Description(), "The sheet is too large to be written.");
+  }
+  EXPECT_EQ(Cells("Wide", 2000, 16384, 2000, 16384), "1");
+  try {
+    Book().Guarded([]() -> int { throw std::bad_alloc(); });
+    ADD_FAILURE();
+  } catch (const runtime::RuntimeError&) {
+    EXPECT_EQ(Book().Damage(), "there is not enough memory for it");
+  }
+}
+
+}  // namespace
+}  // namespace plotsmith::xlsx
