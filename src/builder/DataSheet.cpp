@@ -1,7 +1,7 @@
 #include "builder/DataSheet.h"
 
 #include "builder/BuilderVariables.h"
-#include "builder/PivotMap.h"
+#include "builder/MapSteps.h"
 #include "common/CommonFunctions.h"
 #include "common/Messages.h"
 #include "common/PSConstants.h"
