@@ -1,0 +1,40 @@
+#include "tests/support/ChartTest.h"
+
+#include <algorithm>
+
+#include "common/RunVariables.h"
+
+namespace plotsmith::test {
+
+Lines ChartTest::ChartCalls(const PlainBook& book, const std::string& version) {
+  Open(book, version);
+  return ChartCalls();
+}
+
+Lines ChartTest::ChartCalls() {
+  journal_.clear();
+  Refresh();
+  Lines calls;
+  std::copy_if(journal_.begin(), journal_.end(), std::back_inserter(calls),
+               [](const std::string& line) { return line.starts_with("Chart."); });
+  return calls;
+}
+
+excel::Ref<excel::Chart> ChartTest::Chart() {
+  return oWorkbook->Worksheets()->Item("Charts")->ChartObjects()->Item("Chart 1")->Chart();
+}
+
+Lines With(const Lines& lines, const std::string& text) {
+  Lines found;
+  std::copy_if(lines.begin(), lines.end(), std::back_inserter(found),
+               [&](const std::string& line) { return line.find(text) != std::string::npos; });
+  return found;
+}
+
+Lines Members(const Lines& lines) {
+  Lines members;
+  for (const std::string& line : lines) members.push_back(line.substr(0, line.find(" = ")));
+  return members;
+}
+
+}  // namespace plotsmith::test
