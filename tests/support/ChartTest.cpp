@@ -31,10 +31,14 @@ Lines With(const Lines& lines, const std::string& text) {
   return found;
 }
 
-Lines Members(const Lines& lines) {
-  Lines members;
-  for (const std::string& line : lines) members.push_back(line.substr(0, line.find(" = ")));
-  return members;
+Lines WithoutValues(Lines lines, std::initializer_list<std::string> texts) {
+  for (std::string& line : lines) {
+    const bool strip = std::any_of(texts.begin(), texts.end(), [&](const std::string& text) {
+      return line.find(text) != std::string::npos;
+    });
+    if (strip) line.erase(std::min(line.find(" = "), line.size()));
+  }
+  return lines;
 }
 
 }  // namespace plotsmith::test

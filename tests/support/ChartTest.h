@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -23,7 +24,7 @@ class ChartTest : public HostTest {
 
 /// The lines that hold a text.
 Lines With(const Lines& lines, const std::string& text);
-/// The lines up to their value: "Chart.HasLegend".
-Lines Members(const Lines& lines);
+/// The lines, those that hold one of the texts only up to their value: "Chart.PlotArea.Width".
+Lines WithoutValues(Lines lines, std::initializer_list<std::string> texts);
 
 }  // namespace plotsmith::test
