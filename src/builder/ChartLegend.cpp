@@ -137,9 +137,9 @@ void GroupEntries(double dWidth) {
 }
 
 void PlaceLegend() {
-  const auto oLegend = mChart->Shapes()->Range({kLegendName});
   const auto oPlotArea = mChart->PlotArea();
   oPlotArea->SetWidth(mChart->ChartArea()->Width());
+  const auto oLegend = mChart->Shapes()->Range({kLegendName});
   oPlotArea->SetWidth(oPlotArea->Width() - oPlotArea->Left() - oLegend->Width() + 10);
   if (mLegendLeft > 0) {
     oLegend->SetLeft(mLegendLeft);
