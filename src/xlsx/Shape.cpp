@@ -47,6 +47,11 @@ class ShapeCharacters final : public excel::Characters {
   ShapeCharacters(std::shared_ptr<Shape> shape, std::size_t start, std::optional<std::size_t> length)
       : shape_(std::move(shape)), start_(start), length_(length) {}
 
+  std::string Text() override {
+    const std::u16string units = runtime::ToUtf16(shape_->Text());
+    const std::size_t at = std::min(start_ - 1, units.size());
+    return runtime::ToUtf8(units.substr(at, length_.value_or(units.size())));
+  }
   void SetText(std::string_view text) override {
     Log([&](const auto& journal, const auto& path) { journal.Put(path, "Text", text); });
     Replace(text);
@@ -171,7 +176,7 @@ class SheetChartObjects final : public excel::ChartObjects {
 }  // namespace
 
 Shape::Shape(Drawing& drawing, pugi::xml_node anchor, pugi::xml_node object)
-    : drawing_(drawing), anchor_(anchor), object_(object) {}
+    : drawing_(drawing), anchor_(anchor), object_(object), type_(ReadType()) {}
 
 pugi::xml_node Shape::Properties() const {
   // nvSpPr, nvGraphicFramePr, nvPicPr, ...: the first child of each kind of object
@@ -186,7 +191,7 @@ pugi::xml_node Shape::ChartLink() const {
   return xml::Attribute(data, "uri").ends_with("/chart") ? xml::Child(data, "chart") : pugi::xml_node();
 }
 
-std::int32_t Shape::Type() {
+std::int32_t Shape::ReadType() const {
   const std::string_view kind = xml::LocalName(object_);
   if (kind == "graphicFrame" && ChartLink()) return excel::msoChart;
   if (kind == "grpSp") return excel::msoGroup;
