@@ -170,7 +170,8 @@ void MakeSales(const std::string& path) {
              Columns("categories", "rows", {"Line"}) + Columns("series", "columns", {"Revenue", "Cost"}) +
                  Axes("Line", "") + Settings({"3D"}));
   book.Chart(charts, 10, 590, w, h, table + "type=\"bar\" title=\"Units in all\"",
-             Axes("", "Pieces") + Labels("values") + Settings({}));
+             Columns("categories", "rows", {"Line"}) + Columns("series", "none", {}) +
+                 Columns("values", "", {"Units"}) + Axes("", "Pieces") + Labels("values") + Settings({}));
   book.Comment(charts, 10 + w, 590, "City bikes sell best, but it is the E-Bikes that bring the money.");
   book.Finish(path);
 }

@@ -4,7 +4,7 @@
 #include "builder/BuilderVariables.h"
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
-#include "tests/support/ChartTest.h"
+#include "tests/support/DrawingTest.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith {
@@ -14,10 +14,10 @@ using test::Definition;
 using S = std::string;
 using test::Lines;
 
-class AbcChartTest : public test::ChartTest {
+class AbcChartTest : public test::DrawingTest {
  protected:
   Lines ChartCalls(const Definition& definition, const S& version = "16.0") {
-    return test::ChartTest::ChartCalls(test::SalesBook({definition}), version);
+    return test::DrawingTest::ChartCalls(test::SalesBook({definition}), version);
   }
 };
 

@@ -1,6 +1,6 @@
 #include "builder/ChartRefreshDriver.h"
 #include "common/RunVariables.h"
-#include "tests/support/ChartTest.h"
+#include "tests/support/DrawingTest.h"
 #include "tests/support/FamilyBooks.h"
 
 namespace plotsmith {
@@ -21,7 +21,7 @@ Definition WithSettings(std::initializer_list<const char*> names) {
   return definition;
 }
 
-class BubbleQuadrantsTest : public test::ChartTest {
+class BubbleQuadrantsTest : public test::DrawingTest {
  protected:
   /// The calls of the quadrants: all from the first that shows an axis or scales one.
   Lines Quadrants(const Lines& calls) {

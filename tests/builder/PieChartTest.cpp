@@ -1,4 +1,4 @@
-#include "tests/support/ChartTest.h"
+#include "tests/support/DrawingTest.h"
 
 namespace plotsmith {
 namespace {
@@ -21,7 +21,7 @@ S Settings(std::initializer_list<const char*> names) {
   return xml + "</dynamic-attributes>";
 }
 
-class PieChartTest : public test::ChartTest {
+class PieChartTest : public test::DrawingTest {
  protected:
   Lines Calls(const S& rest) { return ChartCalls(test::SalesBook({PieDefinition(rest)})); }
 };
@@ -47,7 +47,7 @@ TEST_F(PieChartTest, OrderOfCalls) {
                           "Chart.Legend.Font.Size = 9",
                           "Chart.Legend.Font.FontStyle = \"Regular\"",
                           "Chart.Legend.Font.Color = 0",
-                          "Chart.Legend.AutoScaleFont = True",
+                          "Chart.Legend.AutoScaleFont = \"True\"",
                           "Chart.Legend.Position = -4152"};
   EXPECT_EQ(
       Calls("<data-labels><data-label show=\"percentages\"/></data-labels>" + Settings({"3D", "exploded"}) +

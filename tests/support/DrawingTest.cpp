@@ -1,17 +1,15 @@
-#include "tests/support/ChartTest.h"
+#include "tests/support/DrawingTest.h"
 
 #include <algorithm>
 
-#include "common/RunVariables.h"
-
 namespace plotsmith::test {
 
-Lines ChartTest::ChartCalls(const PlainBook& book, const std::string& version) {
+Lines DrawingTest::ChartCalls(const PlainBook& book, const std::string& version) {
   Open(book, version);
   return ChartCalls();
 }
 
-Lines ChartTest::ChartCalls() {
+Lines DrawingTest::ChartCalls() {
   journal_.clear();
   Refresh();
   Lines calls;
@@ -20,8 +18,9 @@ Lines ChartTest::ChartCalls() {
   return calls;
 }
 
-excel::Ref<excel::Chart> ChartTest::Chart() {
-  return oWorkbook->Worksheets()->Item("Charts")->ChartObjects()->Item("Chart 1")->Chart();
+excel::Ref<excel::Chart> DrawingTest::Chart() {
+  // the run has let go of its workbook
+  return host_->ActiveWorkbook()->Worksheets()->Item("Charts")->ChartObjects()->Item("Chart 1")->Chart();
 }
 
 Lines With(const Lines& lines, const std::string& text) {
