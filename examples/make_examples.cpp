@@ -1,5 +1,5 @@
-// Makes the example workbooks through the product's own interfaces: a host with an empty workbook, cells, names,
-// chart frames and definitions, and then one refresh. Usage: make_examples FOLDER
+// Makes the example workbooks through the product's own interfaces: a host with an empty workbook, cells,
+// names, chart frames and definitions, and then one refresh. Usage: make_examples FOLDER
 
 #include <array>
 #include <cmath>
@@ -38,12 +38,15 @@ class ExampleBook {
   /// The first call names the sheet that every new workbook has.
   excel::Ref<excel::Worksheet> Sheet(const std::string& name) {
     auto& book = host_->Book();
-    const auto sheet = sheets_++ == 0 ? book.AllSheets().front()->worksheet : book.AddWorksheet(book.AllSheets().size());
+    const auto sheet =
+        sheets_++ == 0 ? book.AllSheets().front()->worksheet : book.AddWorksheet(book.AllSheets().size());
     sheet->SetName(name);
     return sheet;
   }
 
-  void Name(const std::string& name, const std::string& refersTo) { host_->Book().DefineName(name, refersTo); }
+  void Name(const std::string& name, const std::string& refersTo) {
+    host_->Book().DefineName(name, refersTo);
+  }
 
   /// Puts the frame of a chart on a sheet (points) and stores its definition, whose id is added.
   void Chart(const excel::Ref<excel::Worksheet>& sheet, double left, double top, double width, double height,
@@ -59,8 +62,8 @@ class ExampleBook {
     sheet->Shapes()->Item(frame->Name())->SetAlternativeText(id);
     frame->Chart()->ChartArea()->Interior()->SetColorIndex(excel::xlColorIndexNone);
     auto document = NewXMLDocument();
-    if (!document.loadXML("<chart id=\"" + id + "\" name=\"Chart" + std::to_string(charts_) + "\" " + attributes + ">" +
-                          content + "</chart>")) {
+    if (!document.loadXML("<chart id=\"" + id + "\" name=\"Chart" + std::to_string(charts_) + "\" " +
+                          attributes + ">" + content + "</chart>")) {
       throw std::runtime_error("a definition that doesn't parse: " + content);
     }
     SaveChartDefinition(document);
@@ -68,7 +71,8 @@ class ExampleBook {
 
   /// The comment box of the last chart, at its top right corner.
   void Comment(const excel::Ref<excel::Worksheet>& sheet, double right, double top, const std::string& text) {
-    const auto box = sheet->Shapes()->AddTextbox(excel::msoTextOrientationHorizontal, right - 5, top + 5, 180, 120);
+    const auto box =
+        sheet->Shapes()->AddTextbox(excel::msoTextOrientationHorizontal, right - 5, top + 5, 180, 120);
     box->SetAlternativeText("VEX_Chart" + std::to_string(charts_));
     box->TextFrame()->Characters()->SetText(text);
   }
@@ -93,7 +97,8 @@ void Fill(excel::Worksheet& sheet, int row, const std::vector<Variant>& values) 
   for (const Variant& value : values) sheet.SetCellValueAt(row, column++, value);
 }
 
-std::string Columns(const std::string& element, const std::string& headingsIn, std::initializer_list<const char*> names) {
+std::string Columns(const std::string& element, const std::string& headingsIn,
+                    std::initializer_list<const char*> names) {
   std::string xml = "<" + element + (headingsIn.empty() ? "" : " headings-in=\"" + headingsIn + "\"") + ">";
   for (const char* name : names) xml += std::string("<column name=\"") + name + "\"/>";
   return xml + "</" + element + ">";
@@ -101,18 +106,22 @@ std::string Columns(const std::string& element, const std::string& headingsIn, s
 
 std::string Axes(const std::string& label, const std::string& value) {
   const auto axis = [](const char* type, const std::string& text) {
-    return text.empty() ? "" : std::string("<axis type=\"") + type + "\" label=\"" + text + "\" sticky=\"no\"/>";
+    return text.empty() ? ""
+                        : std::string("<axis type=\"") + type + "\" label=\"" + text + "\" sticky=\"no\"/>";
   };
   return "<axes>" + axis("label", label) + axis("value", value) + "</axes>";
 }
 
-std::string Settings(std::initializer_list<const char*> names) {
-  std::string xml = "<dynamic-attributes>";
+std::string Settings(std::initializer_list<const char*> names,
+                     const std::string& element = "dynamic-attributes") {
+  std::string xml = "<" + element + ">";
   for (const char* name : names) xml += std::string("<attribute setting=\"") + name + "\"/>";
-  return xml + "</dynamic-attributes>";
+  return xml + "</" + element + ">";
 }
 
-const std::string kLabels = "<data-labels><data-label show=\"values\"/></data-labels>";
+std::string Labels(const std::string& show) {
+  return "<data-labels><data-label show=\"" + show + "\"/></data-labels>";
+}
 
 /// A range table, marked by its name: sales of a bicycle maker, a row for each quarter, region and line.
 void MakeSales(const std::string& path) {
@@ -131,11 +140,13 @@ void MakeSales(const std::string& path) {
     for (int region = 0; region < 4; ++region) {
       for (int line = 0; line < 3; ++line) {
         const double trend = line == 2 ? 1 + 0.08 * quarter : 1 - 0.01 * quarter;
-        const double units = std::round(kUnits[region][line] * kSeason[static_cast<std::size_t>(quarter)] * trend);
+        const double units =
+            std::round(kUnits[region][line] * kSeason[static_cast<std::size_t>(quarter)] * trend);
         const double revenue = std::round(units * kPrices[static_cast<std::size_t>(line)] * 10) / 10;
         Fill(*sheet, ++row,
              {"Q" + std::to_string(quarter + 1), kRegions[static_cast<std::size_t>(region)],
-              kLines[static_cast<std::size_t>(line)], units, revenue, std::round(revenue * (line == 2 ? 7.4 : 6.6)) / 10});
+              kLines[static_cast<std::size_t>(line)], units, revenue,
+              std::round(revenue * (line == 2 ? 7.4 : 6.6)) / 10});
       }
     }
   }
@@ -150,16 +161,17 @@ void MakeSales(const std::string& path) {
                  Columns("values", "", {"Revenue"}) + Axes("Quarter", "Revenue") + Settings({}));
   book.Chart(charts, 400, 10, w, h, table + "type=\"bar\" title=\"What each region sells\"",
              Columns("categories", "rows", {"Region"}) + Columns("series", "rows", {"Line"}) +
-                 Columns("values", "", {"Revenue"}) + Axes("", "Revenue") + kLabels + Settings({"stacked"}));
+                 Columns("values", "", {"Revenue"}) + Axes("", "Revenue") + Labels("values") +
+                 Settings({"stacked"}));
   book.Chart(charts, 10, 300, w, h, table + "type=\"area\" title=\"Share of the lines\"",
              Columns("categories", "rows", {"Quarter"}) + Columns("series", "rows", {"Line"}) +
                  Columns("values", "", {"Revenue"}) + Axes("", "") + Settings({"stacked", "100%"}));
   book.Chart(charts, 400, 300, w, h, table + "type=\"column\" title=\"Revenue and cost\"",
-             Columns("categories", "rows", {"Line"}) + Columns("series", "columns", {"Revenue", "Cost"}) + Axes("Line", "") +
-                 Settings({"3D"}));
+             Columns("categories", "rows", {"Line"}) + Columns("series", "columns", {"Revenue", "Cost"}) +
+                 Axes("Line", "") + Settings({"3D"}));
   book.Chart(charts, 10, 590, w, h, table + "type=\"bar\" title=\"Units in all\"",
-             Columns("categories", "rows", {"Line"}) + Columns("series", "none", {}) + Columns("values", "", {"Units"}) +
-                 Axes("", "Pieces") + kLabels + Settings({}));
+             Columns("categories", "rows", {"Line"}) + Columns("series", "none", {}) +
+                 Columns("values", "", {"Units"}) + Axes("", "Pieces") + Labels("values") + Settings({}));
   book.Comment(charts, 10 + w, 590, "City bikes sell best, but it is the E-Bikes that bring the money.");
   book.Finish(path);
 }
@@ -185,20 +197,152 @@ void MakeElectricity(const std::string& path) {
   int row = 1;
   for (std::size_t year = 0; year < 6; ++year) {
     for (const Source& source : kSources) {
-      Fill(*sheet, ++row, {"'" + std::to_string(2018 + year), source.name, source.kind, source.generation[year]});
+      Fill(*sheet, ++row,
+           {"'" + std::to_string(2018 + year), source.name, source.kind, source.generation[year]});
     }
   }
   const auto charts = book.Sheet("Charts");
   const std::string table = "table-id=\"Data1\" ";
-  book.Chart(charts, 10, 10, 420, 290, table + "type=\"area\" title=\"Electricity by kind\" number-format=\"0\"",
+  book.Chart(charts, 10, 10, 420, 290,
+             table + "type=\"area\" title=\"Electricity by kind\" number-format=\"0\"",
              Columns("categories", "rows", {"Year"}) + Columns("series", "rows", {"Kind"}) +
                  Columns("values", "", {"TWh"}) + Axes("", "TWh") + Settings({"stacked"}));
-  book.Chart(charts, 450, 10, 420, 290, table + "type=\"column\" title=\"Electricity by source\" number-format=\"0\"",
+  book.Chart(charts, 450, 10, 420, 290,
+             table + "type=\"column\" title=\"Electricity by source\" number-format=\"0\"",
              Columns("categories", "rows", {"Year"}) + Columns("series", "rows", {"Source"}) +
                  Columns("values", "", {"TWh"}) + Axes("", "TWh") + Settings({"stacked", "100%"}));
-  book.Chart(charts, 10, 320, 420, 290, table + "type=\"area\" title=\"Fossil, nuclear, renewable\" number-format=\"0\"",
+  book.Chart(charts, 10, 320, 420, 290,
+             table + "type=\"area\" title=\"Fossil, nuclear, renewable\" number-format=\"0\"",
              Columns("categories", "rows", {"Year"}) + Columns("series", "rows", {"Kind"}) +
                  Columns("values", "", {"TWh"}) + Axes("", "") + Settings({"3D"}));
+  book.Finish(path);
+}
+
+/// Bubbles: what a country earns, how long its people live, and how many they are.
+void MakeCountries(const std::string& path) {
+  ExampleBook book;
+  const auto sheet = book.Sheet("Countries");
+  sheet->SetCellValueAt(1, 1, "Countries in 2019");
+  sheet->SetCellValueAt(2, 1,
+                        "World Bank, World Development Indicators 2019, rounded; dollars, years, millions");
+  Fill(*sheet, 3, {"Country", "Region", "GDP per head", "Life expectancy", "Population"});
+  struct Country {
+    const char* name;
+    const char* region;
+    double gdpPerHead, lifeExpectancy, population;
+  };
+  const Country kCountries[] = {{"China", "Asia", 10100, 78, 1408},
+                                {"India", "Asia", 2050, 71, 1383},
+                                {"United States", "Americas", 65100, 79, 328},
+                                {"Indonesia", "Asia", 4150, 71, 270},
+                                {"Pakistan", "Asia", 1450, 67, 223},
+                                {"Brazil", "Americas", 8900, 75, 212},
+                                {"Nigeria", "Africa", 2350, 53, 203},
+                                {"Bangladesh", "Asia", 2150, 73, 166},
+                                {"Russia", "Europe", 11500, 73, 144},
+                                {"Japan", "Asia", 40500, 84, 127},
+                                {"Mexico", "Americas", 10100, 74, 125},
+                                {"Ethiopia", "Africa", 850, 66, 114},
+                                {"Philippines", "Asia", 3400, 72, 110},
+                                {"Egypt", "Africa", 2850, 71, 106},
+                                {"Vietnam", "Asia", 3450, 74, 96},
+                                {"Germany", "Europe", 46800, 81, 83},
+                                {"Turkey", "Asia", 9150, 78, 83},
+                                {"Thailand", "Asia", 7650, 79, 71},
+                                {"France", "Europe", 40500, 83, 67},
+                                {"United Kingdom", "Europe", 42700, 81, 67},
+                                {"Italy", "Europe", 33700, 83, 60},
+                                {"South Africa", "Africa", 6700, 66, 58},
+                                {"South Korea", "Asia", 31900, 83, 52},
+                                {"Kenya", "Africa", 1950, 63, 51},
+                                {"Colombia", "Americas", 6400, 77, 50},
+                                {"Spain", "Europe", 29600, 84, 47},
+                                {"Argentina", "Americas", 9950, 77, 45},
+                                {"Poland", "Europe", 15700, 78, 38},
+                                {"Canada", "Americas", 46300, 82, 38},
+                                {"Australia", "Oceania", 54900, 83, 25},
+                                {"Chile", "Americas", 14600, 80, 19},
+                                {"New Zealand", "Oceania", 42800, 82, 5}};
+  int row = 3;
+  for (const Country& country : kCountries) {
+    Fill(*sheet, ++row,
+         {country.name, country.region, country.gdpPerHead, country.lifeExpectancy, country.population});
+  }
+  sheet->Range("$C$4", "$C$" + std::to_string(row))->SetNumberFormat("#,##0");
+  book.Name("VEX_TableRange_Countries", "Countries!$A$1:$E$" + std::to_string(row));
+
+  const auto charts = book.Sheet("Charts");
+  const std::string content =
+      Columns("categories", "rows", {"Country"}) + Columns("series", "rows", {"Region"}) +
+      Columns("values", "", {"Life expectancy"}) + Columns("x-values", "", {"GDP per head"}) +
+      Columns("bubble-sizes", "", {"Population"}) + Axes("GDP per head", "Life expectancy") + Settings({});
+  const std::string table = "table-id=\"VEX_TableRange_Countries\" type=\"bubble\" ";
+  book.Chart(charts, 10, 10, 760, 480, table + "title=\"Wealth and health of nations\"", content);
+  book.Chart(charts, 10, 510, 760, 480, table + "title=\"The same, in quadrants\"",
+             content + Settings({"quadrants", "autoscale-x", "autoscale-y"}, "static-attributes"));
+  book.Finish(path);
+}
+
+/// Strategic buckets: what a maker of bicycles puts into each of its strategies, against what it meant to.
+void MakeInvestments(const std::string& path) {
+  ExampleBook book;
+  const auto sheet = book.Sheet("Investments");
+  sheet->SetCellValueAt(1, 1, "Investments 2026");
+  sheet->SetCellValueAt(2, 1, "millions of euros");
+  Fill(*sheet, 3, {"Project", "Programme", "Strategy", "Amount", "Priority"});
+  struct Project {
+    const char* name;
+    const char* programme;
+    const char* strategy;
+    double amount, priority;
+  };
+  const Project kProjects[] = {{"Paint shop", "Plant", "Keep going", 2.4, 60},
+                               {"Fire protection", "Plant", "Keep going", 0.9, 95},
+                               {"New payroll", "Digital", "Keep going", 0.7, 40},
+                               {"E-Bike line", "Plant", "Grow", 4.8, 90},
+                               {"Own motor", "Product", "Grow", 3.1, 70},
+                               {"City frame", "Product", "Grow", 1.2, 55},
+                               {"Dealer portal", "Digital", "Grow", 1.5, 65},
+                               {"Robot welding", "Plant", "Get leaner", 2.2, 75},
+                               {"Stock planning", "Digital", "Get leaner", 0.8, 80},
+                               {"Cargo bike", "Product", "Try out", 1.6, 50},
+                               {"Rental fleet", "Service", "Try out", 0.6, 35},
+                               {"Repair at home", "Service", "Try out", 0.4, 30}};
+  int row = 3;
+  for (const Project& project : kProjects) {
+    Fill(*sheet, ++row,
+         {project.name, project.programme, project.strategy, project.amount, project.priority});
+  }
+  sheet->Range("$D$4", "$D$" + std::to_string(row))->SetNumberFormat("0.0");
+  book.Name("VEX_TableRange_Investments", "Investments!$A$1:$E$" + std::to_string(row));
+
+  // the bucket table belongs to the other by its headings
+  const auto targets = book.Sheet("Targets");
+  targets->SetCellValueAt(1, 1, "Targets 2026");
+  targets->SetCellValueAt(2, 1, "millions of euros");
+  Fill(*targets, 3, {"Strategy", "Amount"});
+  Fill(*targets, 4, {"Keep going", 3.5});
+  Fill(*targets, 5, {"Grow", 12.0});
+  Fill(*targets, 6, {"Get leaner", 4.0});
+  Fill(*targets, 7, {"Try out", 2.0});
+  book.Name("VEX_SB_Targets", "Targets!$A$1:$B$7");
+
+  const auto charts = book.Sheet("Charts");
+  const std::string table = "table-id=\"VEX_TableRange_Investments\" number-format=\"0.0\" ";
+  book.Chart(charts, 10, 10, 620, 460,
+             table +
+                 "type=\"strategic bucket\" strategic-bucket-table-id=\"VEX_SB_Targets\" "
+                 "title=\"Investments against their targets\"",
+             Columns("categories", "rows", {"Project"}) + Columns("series", "rows", {"Programme"}) +
+                 Columns("values", "", {"Amount"}) +
+                 "<sort-order sort=\"descending\"><column name=\"Priority\"/></sort-order>" +
+                 Axes("", "Millions of euros") + "<data-labels manual-labels=\"yes\"/>" + Settings({}));
+  const std::string pie = Columns("series", "none", {}) + Columns("values", "", {"Amount"});
+  book.Chart(
+      charts, 640, 10, 330, 225, table + "type=\"pie\" title=\"By strategy\"",
+      Columns("categories", "rows", {"Strategy"}) + pie + Labels("percentages") + Settings({"exploded"}));
+  book.Chart(charts, 640, 245, 330, 225, table + "type=\"pie\" title=\"By programme\"",
+             Columns("categories", "rows", {"Programme"}) + pie + Labels("values") + Settings({"3D"}));
   book.Finish(path);
 }
 
@@ -213,6 +357,8 @@ int main(int argc, char** argv) {
     const std::string folder = argv[1];
     MakeSales(folder + "/bicycle-sales.xlsx");
     MakeElectricity(folder + "/electricity.xlsx");
+    MakeCountries(folder + "/countries.xlsx");
+    MakeInvestments(folder + "/investments.xlsx");
     return 0;
   } catch (const std::exception& e) {
     std::cerr << "make_examples: " << e.what() << '\n';

@@ -7,12 +7,10 @@
 #include "builder/ChartAttributes.h"
 #include "common/CommonFunctions.h"
 #include "common/PSConstants.h"
-#include "host/excel/Excel.h"
 
 namespace plotsmith {
 
 using dom::IXMLDOMElement;
-using runtime::Val;
 
 namespace {
 
@@ -74,23 +72,6 @@ std::int32_t ChartTypeOfSum(std::int32_t lSum) {
   }
 }
 
-void ApplyValueLabels() {
-  const auto oCollection = mChart->SeriesCollection();
-  for (std::int32_t i = 1; i <= oCollection->Count(); ++i) {
-    const auto oSeries = oCollection->Item(i);
-    oSeries->ApplyDataLabels(excel::xlDataLabelsShowValue);
-    const auto oLabels = oSeries->DataLabels();
-    if (!oLabels) continue;
-    oLabels->SetPosition(excel::xlLabelPositionCenter);
-    oLabels->SetAutoScaleFont(SafeBool(mLabelFontAutoScale));
-    const auto oFont = oLabels->Font();
-    oFont->SetName(mLabelFontName);
-    oFont->SetFontStyle(mLabelFontStyle);
-    oFont->SetSize(Val(mLabelFontSize));
-    oFont->SetColor(mLabelFontColor);
-  }
-}
-
 }  // namespace
 
 void PopulateABCChart(const IXMLDOMElement& oChartElement) {
@@ -126,17 +107,11 @@ void SetABCChartAttributes(const IXMLDOMElement& oChartElement) {
     const auto aLabels = oChartElement.selectNodes("data-labels/data-label");
     if (std::any_of(aLabels.begin(), aLabels.end(),
                     [](const auto& oLabel) { return GetAttributeText(oLabel, "show") == "values"; })) {
-      ApplyValueLabels();
+      ApplyLabels(excel::xlDataLabelsShowValue, excel::xlLabelPositionCenter);
     }
 
-    std::int32_t lSum = FamilyOffset();
-    for (const IXMLDOMElement& oAttribute : oChartElement.selectNodes("dynamic-attributes/attribute")) {
-      const std::string sSetting = GetAttributeText(oAttribute, "setting");
-      if (sSetting == "3D") lSum += 1;
-      if (sSetting == "stacked") lSum += 2;
-      if (sSetting == "100%") lSum += 4;
-    }
-    mChart->SetChartType(ChartTypeOfSum(lSum));
+    const std::int32_t lSum = SumOfSettings(oChartElement, {{"3D", 1}, {"stacked", 2}, {"100%", 4}});
+    mChart->SetChartType(ChartTypeOfSum(FamilyOffset() + lSum));
     ApplyLegendVisibility();
   });
 }

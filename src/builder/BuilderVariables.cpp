@@ -19,6 +19,9 @@ Dictionary mSeriesNames;
 std::vector<CPSMapInstruction> mMapInstructions;
 std::int32_t mCategoryCount = 0;
 std::int32_t mSeriesCount = 0;
+runtime::Ref<Dictionary> mStrategicBuckets;
+
+runtime::Ref<runtime::Collection<runtime::Ref<CPSColor>>> mSeriesColors;
 
 std::string mLegendVisibility;
 Variant mLegendPosition;
@@ -50,6 +53,8 @@ void ResetBuilderVariables() {
   ResetMap();
   mCategoryCount = 0;
   mSeriesCount = 0;
+  mStrategicBuckets = nullptr;
+  mSeriesColors = nullptr;
   SetPropertyDefaults();
 }
 

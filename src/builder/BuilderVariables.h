@@ -4,8 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "builder/CPSColor.h"
 #include "builder/CPSMapInstruction.h"
 #include "host/excel/Chart.h"
+#include "runtime/Collection.h"
 #include "runtime/Dictionary.h"
 #include "runtime/Ref.h"
 #include "runtime/Variant.h"
@@ -26,8 +28,12 @@ extern runtime::Dictionary mCategoryNames;
 extern runtime::Dictionary mSeriesPositions;
 extern runtime::Dictionary mSeriesNames;
 extern std::vector<CPSMapInstruction> mMapInstructions;
-extern std::int32_t mCategoryCount;  ///< rows of the rectangle
-extern std::int32_t mSeriesCount;    ///< columns of the rectangle
+extern std::int32_t mCategoryCount;                          ///< rows of the rectangle
+extern std::int32_t mSeriesCount;                            ///< columns of the rectangle
+extern runtime::Ref<runtime::Dictionary> mStrategicBuckets;  ///< the buckets' values by upper-cased name
+
+/// What each series name of a bubble or strategic bucket chart is painted with, in order of first appearance.
+extern runtime::Ref<runtime::Collection<runtime::Ref<CPSColor>>> mSeriesColors;
 
 // The persisted properties, see PersistedProperties.h.
 extern std::string mLegendVisibility;

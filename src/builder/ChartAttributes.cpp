@@ -1,8 +1,9 @@
 #include "builder/ChartAttributes.h"
 
+#include <algorithm>
+
 #include "builder/BuilderVariables.h"
 #include "common/CommonFunctions.h"
-#include "host/excel/Excel.h"
 
 namespace plotsmith {
 
@@ -62,24 +63,26 @@ void ClearAxisTitles() {
   mChart->Axes(excel::xlCategory, excel::xlPrimary)->SetHasTitle(false);
 }
 
-void ApplyAxisTitles(const IXMLDOMElement& oChartElement) {
+void ApplyAxisTitles(const IXMLDOMElement& oChartElement, const AxisTitleManner& oManner) {
   for (const IXMLDOMElement& oAxisElement : oChartElement.selectNodes("axes/axis")) {
     const std::string sType = GetAttributeText(oAxisElement, "type");
     const std::string sLabel = GetAttributeText(oAxisElement, "label");
-    if ((sType != "label" && sType != "value") || sLabel.empty()) continue;
-    const std::int32_t lAxis = sType == "label" ? excel::xlCategory : excel::xlValue;
-    const AxisFont oStored = FontOfAxis(lAxis);
-    mChart->SetHasAxis(lAxis, true);
-    const auto oAxis = mChart->Axes(lAxis, excel::xlPrimary);
-    oAxis->SetHasTitle(true);
-    const auto oTitle = oAxis->AxisTitle();
-    oTitle->SetText(sLabel);
-    const auto oFont = oTitle->Font();
-    oFont->SetSize(Val(oStored.vSize));
-    oFont->SetName(oStored.vName);
-    oFont->SetColor(oStored.vColor);
-    oFont->SetFontStyle(oStored.vStyle);
-    oTitle->SetAutoScaleFont(SafeBool(oStored.vAutoScale));
+    if ((sType == "label" || sType == "value") && !sLabel.empty()) {
+      const std::int32_t lAxis = sType == "label" ? excel::xlCategory : excel::xlValue;
+      const AxisFont oStored = FontOfAxis(lAxis);
+      if (oManner.bSwitchAxisOn) mChart->SetHasAxis(lAxis, true);
+      const auto oAxis = mChart->Axes(lAxis, excel::xlPrimary);
+      oAxis->SetHasTitle(true);
+      const auto oTitle = oAxis->AxisTitle();
+      oTitle->SetText(sLabel);
+      const auto oFont = oTitle->Font();
+      oFont->SetSize(oManner.bSizeThroughVal ? runtime::Variant(Val(oStored.vSize)) : oStored.vSize);
+      oFont->SetName(oStored.vName);
+      oFont->SetColor(oStored.vColor);
+      oFont->SetFontStyle(oStored.vStyle);
+      oTitle->SetAutoScaleFont(SafeBool(oStored.vAutoScale));
+    }
+    if (oManner.bYield) YieldToHost();
   }
 }
 
@@ -97,6 +100,49 @@ void FinishAxes() {
   turn(excel::xlCategory, bBar ? excel::xlUpward : excel::xlHorizontal);
 }
 
+void SetLabelFont(const runtime::Ref<excel::Font>& oFont) {
+  oFont->SetName(mLabelFontName);
+  oFont->SetFontStyle(mLabelFontStyle);
+  oFont->SetSize(Val(mLabelFontSize));
+  oFont->SetColor(mLabelFontColor);
+}
+
+void DressLabels(const runtime::Ref<excel::DataLabels>& oLabels, std::int32_t lPosition,
+                 const runtime::Variant& vAutoScale) {
+  oLabels->SetPosition(lPosition);
+  oLabels->SetAutoScaleFont(SafeBool(vAutoScale));
+  SetLabelFont(oLabels->Font());
+}
+
+void ApplyLabels(std::int32_t lType, std::int32_t lPosition) {
+  const auto oCollection = mChart->SeriesCollection();
+  for (std::int32_t i = 1; i <= oCollection->Count(); ++i) {
+    const auto oSeries = oCollection->Item(i);
+    oSeries->ApplyDataLabels(lType);
+    if (const auto oLabels = oSeries->DataLabels()) DressLabels(oLabels, lPosition, mLabelFontAutoScale);
+  }
+}
+
+std::int32_t SumOfSettings(const IXMLDOMElement& oChartElement, std::initializer_list<SettingWeight> aWeights,
+                           bool bYield) {
+  std::int32_t lSum = 0;
+  for (const IXMLDOMElement& oAttribute : oChartElement.selectNodes("dynamic-attributes/attribute")) {
+    const std::string sSetting = GetAttributeText(oAttribute, "setting");
+    for (const SettingWeight& oWeight : aWeights) {
+      if (oWeight.sSetting == sSetting) lSum += oWeight.lWeight;
+    }
+    if (bYield) YieldToHost();
+  }
+  return lSum;
+}
+
+bool HasStaticSetting(const IXMLDOMElement& oChartElement, std::string_view sSetting) {
+  const auto aAttributes = oChartElement.selectNodes("static-attributes/attribute");
+  return std::any_of(aAttributes.begin(), aAttributes.end(), [&](const auto& oAttribute) {
+    return GetAttributeText(oAttribute, "setting") == sSetting;
+  });
+}
+
 void ApplyLegendVisibility() {
   if (mLegendVisibility == "show") {
     mChart->SetHasLegend(true);
@@ -104,6 +150,11 @@ void ApplyLegendVisibility() {
   } else if (mLegendVisibility == "hide") {
     mChart->SetHasLegend(false);
   }
+}
+
+void DeleteLastLegendEntry() {
+  const auto oEntries = mChart->Legend()->LegendEntries();
+  oEntries->Item(oEntries->Count())->Delete();
 }
 
 void ApplyLegendAttributes() {

@@ -1,12 +1,17 @@
 #include "builder/ChartRefreshDriver.h"
 
 #include "builder/AbcChart.h"
+#include "builder/BubbleChart.h"
+#include "builder/BubbleQuadrants.h"
 #include "builder/BuilderVariables.h"
 #include "builder/ChartComment.h"
 #include "builder/DataSheet.h"
+#include "builder/DataSheetFinishing.h"
 #include "builder/PersistedProperties.h"
+#include "builder/PieChart.h"
 #include "builder/PivotMap.h"
 #include "builder/SourceValidation.h"
+#include "builder/StrategicBucketChart.h"
 #include "common/App.h"
 #include "common/CommonFunctions.h"
 #include "common/PSConstants.h"
@@ -99,25 +104,34 @@ void DeleteAllSeries() {
   });
 }
 
-/// Pie, bubble and strategic bucket charts: until they can be drawn they must not lose their series either.
-bool IsStillToCome() {
-  return mChartType == "pie" || mChartType == "bubble" || mChartType == "strategic bucket";
-}
-
 /// False for a type that nobody draws.
 bool DrawFamily(const IXMLDOMElement& oChartElement) {
   if (mChartType == "area" || mChartType == "bar" || mChartType == "column") {
     PopulateABCChart(oChartElement);
     SetABCChartAttributes(oChartElement);
-    return true;
+  } else if (mChartType == "pie") {
+    PopulatePieChart(oChartElement);
+    SetPieChartAttributes(oChartElement);
+  } else if (mChartType == "bubble") {
+    AdjustBubbleSizes(oChartElement);
+    PopulateBubbleChart(oChartElement);
+    SetBubbleChartAttributes(oChartElement);
+    SetBubbleChartQuadrants(oChartElement);
+  } else if (mChartType == "strategic bucket") {
+    InsertBucketData(oChartElement);
+    PopulateStrBuckChart(oChartElement);
+    SetStrBuckChartAttributes(oChartElement);
+  } else {
+    return false;
   }
-  return false;
+  return true;
 }
 
 /// The build itself, of a chart that is valid.
 void BuildChart(IXMLDOMElement& oChartElement, bool bCrosshatched) {
   if (!BuildPivotMap(oChartElement)) return;
   if (!PopulateDataSheetOffi2007(oChartElement)) return;
+  if (!SortDataSheet(oChartElement)) return;
   RetrievePersistedProperties(oChartElement);
   if (!mNewOrCopiedChart) mChart->ChartArea()->SetAutoScaleFont(false);
   if (!DrawFamily(oChartElement)) {
@@ -190,11 +204,6 @@ void PopulateChart(const std::string& sID) {
     const std::string sName = GetAttributeText(oChartElement, "name");
     const bool bCrosshatched = GetAttributeText(oChartElement, "chart-area-crosshatched") == "yes";
     RunMacro(kRefreshStartedMacro, {sID});
-    if (IsStillToCome()) {
-      ShowMessage(ReplaceTokens(
-          "Chart '/TKN/' was left as it is, because charts of its type can't be drawn yet.", {sName}));
-      return;
-    }
     bool bValid = false;
     if (mChartType != "unknown") {
       bValid = ValidateSourceData(oChartElement);

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "builder/BuilderVariables.h"
-#include "builder/PivotMap.h"
+#include "builder/MapSteps.h"
 #include "common/CommonFunctions.h"
 #include "common/Messages.h"
 #include "common/PSConstants.h"

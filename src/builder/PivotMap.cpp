@@ -2,95 +2,22 @@
 
 #include <string>
 
+#include "builder/BubbleMap.h"
 #include "builder/BuilderVariables.h"
+#include "builder/MapSteps.h"
+#include "builder/StrategicBucketMap.h"
 #include "common/CommonFunctions.h"
 #include "common/Messages.h"
-#include "common/PSConstants.h"
-#include "common/RunVariables.h"
-#include "runtime/Strings.h"
 
 namespace plotsmith {
 
 using dom::IXMLDOMElement;
-using runtime::Dictionary;
-
-namespace {
-
-constexpr std::int32_t kMostSeries = 254;
-constexpr const char* kLimitMessage =
-    "This chart type is limited to 254 series.\r\nSome data will be dropped from chart '/TKN/'.";
-
-/// One dimension of the rectangle while its headings are numbered, in order of first appearance.
-class Numbering {
- public:
-  Numbering(Dictionary& oPositions, Dictionary& oNames) : oPositions_(oPositions), oNames_(oNames) {}
-
-  std::int32_t Count() const { return lCount_; }
-
-  /// A listed heading: one that is there already, ignoring case, is an error.
-  std::int32_t Add(const std::string& sName) {
-    const std::string sKey = runtime::UCase(sName);
-    ++lCount_;
-    oPositions_.Add(sKey, lCount_);
-    oNames_.Add(sKey, sName);
-    return lCount_;
-  }
-
-  /// A heading found in a row; `sScratch` is where its text lies if the sheet doesn't hold it.
-  void Find(std::string_view sText, const std::string& sScratch) {
-    if (oKnown_.Find(sText, sScratch) >= 1) return;
-    const std::string_view sKey = runtime::UCase(sText, sUpper_);
-    runtime::Variant& vPosition = oPositions_.Item(sKey);
-    if (PositionOf(vPosition) < 1) {
-      vPosition = ++lCount_;
-      oNames_.Item(sKey) = sText;
-    }
-    oKnown_.Remember(sText, sScratch, PositionOf(vPosition));
-  }
-
-  /// Gives the name the next number, whatever it had before.
-  std::int32_t Put(const std::string& sKey, const std::string& sName) {
-    oPositions_.Item(sKey) = ++lCount_;
-    oNames_.Item(sKey) = sName;
-    return lCount_;
-  }
-
- private:
-  Dictionary& oPositions_;
-  Dictionary& oNames_;
-  std::int32_t lCount_ = 0;
-  std::string sUpper_;
-  PositionCache oKnown_;
-};
-
-void ShowLimitMessage(const IXMLDOMElement& oChartElement) {
-  ShowMessage(ReplaceTokens(kLimitMessage, {GetAttributeText(oChartElement, "name")}));
-}
-
-/// A rule that adds up the numbers of one sheet column.
-CPSMapInstruction SumOfColumn(std::int32_t lColumn) {
-  CPSMapInstruction oInstruction;
-  oInstruction.SetValueReferenceType(value_reference::kCell);
-  oInstruction.SetValuePositionOrConstant(lColumn);
-  oInstruction.SetCellValueType(cell_value::kNumber);
-  return oInstruction;
-}
-
-}  // namespace
-
-DataRows::DataRows(const IXMLDOMElement& oChartElement) {
-  const std::int32_t lHeaders = GetAttributeLong(oChartElement, "header-row-count");
-  lFirst = GetAttributeLong(oChartElement, "table-top-row") + lHeaders;
-  lCount = GetAttributeLong(oChartElement, "table-height") - lHeaders;
-}
-
-std::int32_t PositionOf(const runtime::Variant& vPosition) {
-  const auto* lPosition = vPosition.If<std::int32_t>();
-  return lPosition == nullptr ? 0 : *lPosition;
-}
 
 bool BuildPivotMap(const IXMLDOMElement& oChartElement) {
   return ReportErrors("PSChartBuilder.BuildPivotMap", false, [&] {
+    const std::string sType = GetAttributeText(oChartElement, "type");
+    if (sType == "bubble") return BuildBubbleMap(oChartElement);
+    if (sType == "strategic bucket") return BuildStrBuckMap(oChartElement);
     ResetMap();
     const DataRows oRows(oChartElement);
     const auto oSheet = SheetWithCells(GetAttributeText(oChartElement, "table-worksheet"));
@@ -124,7 +51,7 @@ bool BuildPivotMap(const IXMLDOMElement& oChartElement) {
         const std::string sName = GetAttributeText(oColumn, "name");
         const std::int32_t lColumn = GetAttributeLong(oColumn, "worksheet-column-number");
         if (sSeriesIn == "columns") {
-          if (oSeriesNumbering.Count() >= kMostSeries) {
+          if (oSeriesNumbering.Count() >= kSeriesLimit) {
             ShowLimitMessage(oChartElement);
             break;
           }
@@ -135,7 +62,7 @@ bool BuildPivotMap(const IXMLDOMElement& oChartElement) {
           for (std::int32_t lRow = oRows.lFirst; lRow <= oRows.Last(); ++lRow) {
             // Before each row, whether or not it brings a new name: so the message comes also when all rows
             // behind the last name that fits repeat known ones.
-            if (oSeriesNumbering.Count() >= kMostSeries) {
+            if (oSeriesNumbering.Count() >= kSeriesLimit) {
               ShowLimitMessage(oChartElement);
               break;
             }
@@ -183,13 +110,9 @@ bool BuildPivotMap(const IXMLDOMElement& oChartElement) {
       oInstruction.SetColReferencePosition(lSeriesColumn);
     }
 
-    mCategoryCount = mCategoryPositions.Count();
-    mSeriesCount = mSeriesPositions.Count();
-    if (mCategoryCount == 0 || mSeriesCount == 0 || mMapInstructions.empty()) {
-      ShowComplaint("PSChartBuilder.BuildPivotMap", "Failed to populate a data definition collection");
-      return false;
-    }
-    return true;
+    if (FinishMap()) return true;
+    ShowComplaint("PSChartBuilder.BuildPivotMap", kEmptyMapComplaint);
+    return false;
   });
 }
 

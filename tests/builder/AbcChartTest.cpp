@@ -4,7 +4,7 @@
 #include "builder/BuilderVariables.h"
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
-#include "tests/support/HostTest.h"
+#include "tests/support/DrawingTest.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith {
@@ -12,19 +12,12 @@ namespace {
 
 using test::Definition;
 using S = std::string;
-using Lines = std::vector<std::string>;
+using test::Lines;
 
-class AbcChartTest : public test::HostTest {
+class AbcChartTest : public test::DrawingTest {
  protected:
-  /// The calls on the chart during a refresh of one definition.
   Lines ChartCalls(const Definition& definition, const S& version = "16.0") {
-    Open(test::SalesBook({definition}), version);
-    journal_.clear();
-    Refresh();
-    Lines calls;
-    std::copy_if(journal_.begin(), journal_.end(), std::back_inserter(calls),
-                 [](const S& line) { return line.starts_with("Chart."); });
-    return calls;
+    return test::DrawingTest::ChartCalls(test::SalesBook({definition}), version);
   }
 };
 

@@ -1,47 +1,23 @@
 #include <algorithm>
 
 #include "builder/BuilderVariables.h"
-#include "builder/DataSheet.h"
-#include "builder/PivotMap.h"
 #include "builder/SourceValidation.h"
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
 #include "metadata/TableDefinitions.h"
-#include "tests/support/HostTest.h"
+#include "tests/support/BlockTest.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith {
 namespace {
 
+using test::Columns;
 using test::Definition;
 using test::PlainBook;
 using S = std::string;
 
-const S kLimit =
-    "Brindle Plotsmith: This chart type is limited to 254 series.\nSome data will be dropped from chart "
-    "'Name of VEX_Chart1'.";
-
-std::string Columns(const S& group, std::initializer_list<S> names, const S& headingsIn = "columns") {
-  S xml = "<" + group + " headings-in=\"" + headingsIn + "\">";
-  for (const S& name : names) xml += "<column name=\"" + name + "\"/>";
-  return xml + "</" + group + ">";
-}
-
-class PivotTest : public test::HostTest {
+class PivotTest : public test::BlockTest {
  protected:
-  /// Validates, maps and writes the block of a definition; what came out, or the step that refused.
-  std::string Block(const Definition& definition) {
-    auto document = NewXMLDocument();
-    EXPECT_TRUE(document.loadXML(definition.Xml()));
-    auto chart = document.documentElement();
-    mChartType = definition.type;
-    RetrieveTableDefinitions();
-    if (!ValidateSourceData(chart)) return "(invalid)";
-    if (!BuildPivotMap(chart)) return "(no map)";
-    if (!PopulateDataSheetOffi2007(chart)) return "(no block)";
-    const int start = GetAttributeLong(chart, "data-start-row");
-    return Cells("VEX_ChartData", start, 2, start + mCategoryCount, mSeriesCount + 2);
-  }
   void OpenSales() { Open(test::SalesBook({})); }
 };
 
@@ -176,7 +152,7 @@ TEST_F(PivotTest, TheLimitOfSeriesIsMetOnTwoRoads) {
     EXPECT_EQ(mSeriesCount, 254);
     ASSERT_EQ(Messages().size() - before, c.messages);
     if (c.messages > 0) {
-      EXPECT_EQ(Messages().back(), kLimit);
+      EXPECT_EQ(Messages().back(), test::kLimitMessage);
     }
     EXPECT_EQ(Cells("VEX_ChartData", 2, 3, 2, 3), c.last == "p1" ? "2" : "1") << "known names still add up";
   }
@@ -201,7 +177,7 @@ TEST_F(PivotTest, TheLimitOfSeriesIsMetOnTwoRoads) {
   Block(definition);
   EXPECT_EQ(mSeriesCount, 254);
   ASSERT_EQ(Messages().size() - before, 1u);
-  EXPECT_EQ(Messages().back(), kLimit);
+  EXPECT_EQ(Messages().back(), test::kLimitMessage);
   EXPECT_EQ(Cells("VEX_ChartData", 1, 256, 2, 257), "C254|\n254|");
 }
 

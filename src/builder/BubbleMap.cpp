@@ -1,0 +1,57 @@
+#include "builder/BubbleMap.h"
+
+#include <string>
+
+#include "builder/BuilderVariables.h"
+#include "builder/MapSteps.h"
+#include "common/CommonFunctions.h"
+#include "common/Messages.h"
+
+namespace plotsmith {
+
+using dom::IXMLDOMElement;
+
+bool BuildBubbleMap(const IXMLDOMElement& oChartElement) {
+  return ReportErrors("PSChartBuilder.BuildBubbleMap", false, [&] {
+    ResetMap();
+    Numbering oSeriesNumbering(mSeriesPositions, mSeriesNames);
+    for (const char* sName : {"[-BubbleColor-]", "[-XAxisValue-]", "[-YAxisValue-]", "[-BubbleSize-]"}) {
+      oSeriesNumbering.AddPseudo(sName);
+    }
+    const DataRows oRows(oChartElement);
+    const auto oSheet = SheetWithCells(GetAttributeText(oChartElement, "table-worksheet"));
+
+    std::int32_t lNameColumn = 0;
+    if (const auto oCategories = oChartElement.selectSingleNode("categories")) {
+      lNameColumn = FirstColumn(oCategories);
+      Numbering oBubbles(mCategoryPositions, mCategoryNames);
+      std::string sScratch;
+      for (std::int32_t lRow = oRows.lFirst; lRow <= oRows.Last(); ++lRow) {
+        oBubbles.Find(GetCellText(*oSheet, lRow, lNameColumn, sScratch), sScratch);
+        // Behind the numbering: the last name that fits is charted and brings the message all the same.
+        if (oBubbles.Count() >= kSeriesLimit) {
+          ShowLimitMessage(oChartElement);
+          break;
+        }
+      }
+    }
+
+    std::int32_t lColorColumn = -1;
+    if (const auto oSeries = oChartElement.selectSingleNode("series")) {
+      if (GetAttributeText(oSeries, "headings-in") != "none") lColorColumn = FirstColumn(oSeries);
+    }
+    const std::int32_t lXColumn = FirstColumnOf(oChartElement, "x-values", 0);
+    const std::int32_t lYColumn = FirstColumnOf(oChartElement, "values", 0);
+    const std::int32_t lSizeColumn = FirstColumnOf(oChartElement, "bubble-sizes", -1);
+    AddPseudoSeriesRule(lNameColumn, 1, cell_value::kText, lColorColumn, "[none]");
+    AddPseudoSeriesRule(lNameColumn, 2, cell_value::kNumber, lXColumn, {});
+    AddPseudoSeriesRule(lNameColumn, 3, cell_value::kNumber, lYColumn, {});
+    AddPseudoSeriesRule(lNameColumn, 4, cell_value::kNumber, lSizeColumn, 1);
+
+    if (FinishMap()) return true;
+    ShowComplaint("PSChartBuilder.BuildBubbleMap", kEmptyMapComplaint);
+    return false;
+  });
+}
+
+}  // namespace plotsmith

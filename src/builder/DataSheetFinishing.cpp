@@ -1,0 +1,82 @@
+#include "builder/DataSheetFinishing.h"
+
+#include "builder/BubbleMap.h"
+#include "builder/BuilderVariables.h"
+#include "builder/ChartAttributes.h"
+#include "builder/MapSteps.h"
+#include "builder/StrategicBucketMap.h"
+#include "common/CommonFunctions.h"
+#include "common/PSConstants.h"
+
+namespace plotsmith {
+
+using dom::IXMLDOMElement;
+
+namespace {
+
+/// A rectangle of the data sheet, and the cell that it is sorted by.
+struct SortJob {
+  std::int32_t lTop, lBottom, lRight;
+  std::int32_t lKeyRow, lKeyColumn;
+  std::int32_t lOrder, lHeader;
+};
+
+void Sort(const SortJob& oJob) {
+  const auto oSheet = SheetWithCells(kDataSheet);
+  const auto address = [&](std::int32_t lRow, std::int32_t lColumn) {
+    return oSheet->Cells(lRow, lColumn)->Address();
+  };
+  oSheet->Range(address(oJob.lTop, 1), address(oJob.lBottom, oJob.lRight))
+      ->Sort(oSheet->Cells(oJob.lKeyRow, oJob.lKeyColumn), oJob.lOrder, oJob.lHeader, 1, false,
+             excel::xlTopToBottom);
+}
+
+}  // namespace
+
+bool SortDataSheet(const IXMLDOMElement& oChartElement) {
+  return ReportErrors("PSChartBuilder.SortDataSheet", false, [&] {
+    if (mChartType == "bubble") {
+      const Block oBlock(oChartElement);
+      Sort({oBlock.S, oBlock.E, bubble_column::kSize, oBlock.S + 1, bubble_column::kSize, excel::xlDescending,
+            excel::xlYes});
+    } else if (mChartType == "strategic bucket") {
+      const auto oSortOrder = oChartElement.selectSingleNode("sort-order");
+      if (!oSortOrder) return true;
+      // a missing attribute is an error here
+      const bool bAscending = runtime::CStr(oSortOrder.getAttribute("sort")) == "ascending";
+      const Block oBlock(oChartElement);
+      Sort({oBlock.S + 2, oBlock.E, oBlock.L, oBlock.S + 3, bucket_column::kSort,
+            bAscending ? excel::xlAscending : excel::xlDescending, excel::xlNo});
+    }
+    return true;
+  });
+}
+
+void AdjustBubbleSizes(const IXMLDOMElement& oChartNode) {
+  ReportErrors("PSChartBuilder.AdjustBubbleSizes", [&] {
+    const bool bShowZero = HasStaticSetting(oChartNode, "show-zero-bubbles");
+    const Block oBlock(oChartNode);
+    const auto oSheet = SheetWithCells(kDataSheet);
+    const double dLargest = GetCellDouble(*oSheet, oBlock.S + 1, bubble_column::kSize);
+    const double dSmallest = dLargest <= 0 ? 1 : dLargest / 500;
+    for (std::int32_t lRow = oBlock.S + 1; lRow <= oBlock.E; ++lRow) {
+      const double dSize = GetCellDouble(*oSheet, lRow, bubble_column::kSize);
+      if (dSize > 0 ? dSize < dSmallest : bShowZero) {
+        oSheet->SetCellValueAt(lRow, bubble_column::kSize, dSmallest);
+      }
+    }
+  });
+}
+
+void InsertBucketData(const IXMLDOMElement& oChartElement) {
+  ReportErrors("PSChartBuilder.InsertBucketData", [&] {
+    const Block oBlock(oChartElement);
+    const auto oSheet = SheetWithCells(kDataSheet);
+    for (const auto& [sBucket, vValue] : *mStrategicBuckets) {
+      oSheet->SetCellValueAt(oBlock.S + 1, PositionOf(mSeriesPositions.Item(sBucket)) + 2, vValue);
+      YieldToHost();
+    }
+  });
+}
+
+}  // namespace plotsmith

@@ -1,0 +1,85 @@
+#include "builder/StrategicBucketMap.h"
+
+#include <string>
+
+#include "builder/BuilderVariables.h"
+#include "builder/MapSteps.h"
+#include "common/CommonFunctions.h"
+#include "common/Messages.h"
+#include "common/PSConstants.h"
+#include "common/RunVariables.h"
+#include "metadata/StrategicBuckets.h"
+
+namespace plotsmith {
+
+using dom::IXMLDOMElement;
+
+namespace {
+
+/// Numbers the items down their column. An item named like a bucket takes the bucket's spelling.
+void NumberItems(const IXMLDOMElement& oChartElement, const DataRows& oRows, excel::Worksheet& oSheet,
+                 std::int32_t lItemColumn, Numbering& oItems) {
+  std::string sScratch;
+  for (std::int32_t lRow = oRows.lFirst; lRow <= oRows.Last(); ++lRow) {
+    const std::string_view sText = GetCellText(oSheet, lRow, lItemColumn, sScratch);
+    if (oItems.IsNew(sText, sScratch)) {
+      // The row of the buckets counts too, and the name that reaches the limit stays without a number: its
+      // key is in the dictionary all the same, and makes one row more than there are items.
+      if (oItems.Count() + 1 >= kSeriesLimit) {
+        ShowLimitMessage(oChartElement);
+        break;
+      }
+      if (mSeriesNames.Exists(oItems.Key())) {
+        oItems.Number(runtime::CStr(mSeriesNames.Item(oItems.Key())));
+      } else {
+        oItems.Number(sText);
+      }
+    }
+    YieldToHost();
+  }
+}
+
+}  // namespace
+
+bool BuildStrBuckMap(const IXMLDOMElement& oChartElement) {
+  return ReportErrors("PSChartBuilder.BuildStrBuckMap", false, [&] {
+    ResetMap();
+    Numbering oItems(mCategoryPositions, mCategoryNames);
+    Numbering oSeriesNumbering(mSeriesPositions, mSeriesNames);
+    oItems.AddPseudo("[-StrategicBuckets-]");
+    oSeriesNumbering.AddPseudo("[-BlockColor-]");
+    oSeriesNumbering.AddPseudo("[-BlockSort-]");
+
+    const std::string sBucketTable = GetAttributeText(oChartElement, "strategic-bucket-table-id");
+    const std::int32_t lBucketNameColumn = GetAttributeLong(oChartElement, "bucket-name-column-position");
+    const std::int32_t lBucketValueColumn = GetAttributeLong(oChartElement, "bucket-value-column-position");
+    mStrategicBuckets = GetStrategicBuckets(colTables->Item(sBucketTable));
+    for (const auto& oBucket : *mStrategicBuckets) oSeriesNumbering.Add(SafeString(oBucket.key));
+
+    const DataRows oRows(oChartElement);
+    const auto oSheet = SheetWithCells(GetAttributeText(oChartElement, "table-worksheet"));
+    std::int32_t lItemColumn = 0;
+    if (const auto oCategories = oChartElement.selectSingleNode("categories")) {
+      lItemColumn = FirstColumn(oCategories);
+      NumberItems(oChartElement, oRows, *oSheet, lItemColumn, oItems);
+    }
+    std::int32_t lLabelColumn = -1;
+    if (const auto oSeries = oChartElement.selectSingleNode("series")) {
+      if (GetAttributeText(oSeries, "headings-in") == "rows") lLabelColumn = FirstColumn(oSeries);
+    }
+    AddPseudoSeriesRule(lItemColumn, 1, cell_value::kText, lLabelColumn, "[none]");
+    AddPseudoSeriesRule(lItemColumn, 2, cell_value::kNumber, FirstColumnOf(oChartElement, "sort-order", -1),
+                        1);
+    auto& oInstruction = mMapInstructions.emplace_back(SumOfColumn(lBucketValueColumn));
+    oInstruction.SetRowReferenceType(reference::kByCell);
+    oInstruction.SetRowReferencePosition(lItemColumn);
+    oInstruction.SetColReferenceType(reference::kByCell);
+    oInstruction.SetColReferencePosition(lBucketNameColumn);
+
+    if (FinishMap()) return true;
+    ShowMessage(std::string("PSChartBuilder.BuildStrBuckMap") + kLineBreak + kEmptyMapComplaint);
+    return false;
+  });
+}
+
+}  // namespace plotsmith
