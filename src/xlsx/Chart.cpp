@@ -5,6 +5,7 @@
 #include "runtime/RuntimeError.h"
 #include "xlsx/Application.h"
 #include "xlsx/ChartAxis.h"
+#include "xlsx/ChartDrawing.h"
 #include "xlsx/ChartFill.h"
 #include "xlsx/ChartGroups.h"
 #include "xlsx/ChartLegend.h"
@@ -123,8 +124,10 @@ Ref<excel::Axis> Chart::Axes(std::int32_t type, std::int32_t group) {
   return MakeAxis(part_, type);
 }
 
-Ref<excel::ChartArea> Chart::ChartArea() { return MakeChartArea(part_); }
+Ref<excel::ChartArea> Chart::ChartArea() { return MakeChartArea(part_, frame_); }
 
-Ref<excel::PlotArea> Chart::PlotArea() { return MakePlotArea(part_); }
+Ref<excel::PlotArea> Chart::PlotArea() { return MakePlotArea(part_, frame_); }
+
+Ref<excel::Shapes> Chart::Shapes() { return MakeChartShapes(part_, frame_); }
 
 }  // namespace plotsmith::xlsx

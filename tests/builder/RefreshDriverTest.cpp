@@ -8,7 +8,6 @@
 #include "controller/CPlotsmithController.h"
 #include "metadata/MetadataStore.h"
 #include "tests/support/HostTest.h"
-#include "xlsx/Shape.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith {
@@ -182,10 +181,10 @@ TEST_F(RefreshDriverTest, CommentsComeAndGoInPieces) {
   SaveAndReopen();
   const auto shapes = oWorkbook->Worksheets()->Item("Charts")->Shapes();
   ASSERT_EQ(shapes->Count(), 2);
-  const auto box = std::dynamic_pointer_cast<xlsx::Shape>(shapes->Item(2).shared());
+  const auto box = shapes->Item(2);
   EXPECT_EQ(box->Type(), excel::msoTextBox);
   EXPECT_EQ(box->AlternativeText(), "VEX_Chart1");
-  EXPECT_EQ(box->Text(), text);
+  EXPECT_EQ(box->TextFrame()->Characters()->Text(), text);
   EXPECT_NEAR(box->Left(), shapes->Item(1)->Left() + shapes->Item(1)->Width() - 5, 0.01);
   EXPECT_NEAR(box->Top(), 5, 0.01);
   EXPECT_NEAR(box->Width(), 180, 0.01);
