@@ -1,6 +1,7 @@
 #include "xlsx/Shape.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "runtime/RuntimeError.h"
@@ -155,8 +156,13 @@ Frame Shape::PlacedFrame() const {
   return {left, top, right - left, bottom - top};
 }
 
-void Shape::Place(const Frame& frame) {
+void Shape::Place(const Frame& wanted) {
   const pugi::xml_node object = Object();
+  if (!std::isfinite(wanted.left + wanted.top + wanted.width + wanted.height)) {
+    throw RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
+  }
+  // a sheet begins at its corner
+  const Frame frame{std::max(wanted.left, 0.0), std::max(wanted.top, 0.0), wanted.width, wanted.height};
   if (xml::Is(anchor_, "absoluteAnchor")) {
     SetPair(xml::Child(anchor_, "pos"), "x", "y", frame.left, frame.top);
   } else {

@@ -30,7 +30,7 @@ class Shape final : public DrawnShape {
   excel::Ref<excel::Chart> Chart();
 
  protected:
-  void Place(const Frame& frame) override;
+  void Place(const Frame& wanted) override;
 
  private:
   pugi::xml_node ChartLink() const;
