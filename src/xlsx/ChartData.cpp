@@ -4,6 +4,7 @@
 
 #include "runtime/RuntimeError.h"
 #include "xlsx/CellText.h"
+#include "xlsx/ChartLook.h"
 #include "xlsx/ChartPart.h"
 #include "xlsx/ChartSchema.h"
 #include "xlsx/Limits.h"
@@ -124,6 +125,12 @@ void PointAt(pugi::xml_node data, const Source& source, bool texts) {
 }
 
 }  // namespace
+
+std::string SeriesText(pugi::xml_node series) {
+  const auto tx = schema::Find(series, "tx");
+  if (const auto literal = schema::Find(tx, "v")) return xml::Text(literal);
+  return TitleText(series);
+}
 
 void SetSeriesData(ChartPart& part, pugi::xml_node series, SeriesData which, const Variant& value) {
   const auto* text = value.If<std::string>();

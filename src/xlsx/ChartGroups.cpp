@@ -27,6 +27,11 @@ bool IsCategoryAxis(pugi::xml_node axis) { return xml::Is(axis, "catAx") || xml:
 
 std::string AxisId(pugi::xml_node axis) { return schema::Val(axis, "axId"); }
 
+/// `idx` or `order` of a series. They are asked for all the time, and so read where they stand.
+long long Number(pugi::xml_node series, std::string_view local) {
+  return xml::IntegerAttribute(schema::Find(series, local), "val", 0);
+}
+
 /// The axes that a group hangs on.
 std::vector<pugi::xml_node> AxesOf(pugi::xml_node group) {
   std::vector<pugi::xml_node> axes;
@@ -252,16 +257,16 @@ pugi::xml_node DeriveGroup(pugi::xml_node plotArea, pugi::xml_node old, const Ch
 }  // namespace
 
 std::vector<pugi::xml_node> SeriesOf(ChartPart& part) {
-  std::vector<pugi::xml_node> series;
+  std::vector<std::pair<long long, pugi::xml_node>> found;  // each behind its order
   const auto plotArea = schema::Find(schema::Find(part.Space(), "chart"), "plotArea");
   for (const pugi::xml_node& group : Groups(plotArea)) {
-    for (const pugi::xml_node& node : xml::Children(group, "ser")) series.push_back(node);
+    for (const pugi::xml_node& node : xml::Children(group, "ser"))
+      found.emplace_back(Number(node, "order"), node);
   }
-  const auto order = [](pugi::xml_node node) {
-    return xml::ParseInteger(schema::Val(node, "order")).value_or(0);
-  };
-  std::stable_sort(series.begin(), series.end(),
-                   [&](pugi::xml_node a, pugi::xml_node b) { return order(a) < order(b); });
+  std::stable_sort(found.begin(), found.end(),
+                   [](const auto& a, const auto& b) { return a.first < b.first; });
+  std::vector<pugi::xml_node> series;
+  for (const auto& [order, node] : found) series.push_back(node);
   return series;
 }
 
@@ -270,8 +275,8 @@ pugi::xml_node AddSeries(ChartPart& part) {
   if (Groups(plotArea).empty()) SetType(part, *FindChartType(kClusteredColumns));
   long long index = -1, order = -1;
   for (const pugi::xml_node& series : SeriesOf(part)) {
-    index = std::max(index, xml::ParseInteger(schema::Val(series, "idx")).value_or(0));
-    order = std::max(order, xml::ParseInteger(schema::Val(series, "order")).value_or(0));
+    index = std::max(index, Number(series, "idx"));
+    order = std::max(order, Number(series, "order"));
   }
   const pugi::xml_node group = Groups(plotArea)[0];
   pugi::xml_node series = schema::Insert(group, "ser");

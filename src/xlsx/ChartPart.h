@@ -28,6 +28,7 @@ class ChartPart {
   const std::string& Part() const { return part_; }
   /// The chartSpace element; error 1004 if the part can't be read.
   pugi::xml_node Space();
+  bool IsReadable();
   /// The chart element, and the plot area, made if they are missing.
   pugi::xml_node Chart();
   pugi::xml_node PlotArea();
@@ -53,6 +54,7 @@ class ChartPart {
   pugi::xml_node LayAside(const std::string& state);
 
  private:
+  void Load();
   void Follow();
 
   Workbook& book_;

@@ -11,6 +11,7 @@
 #include "xlsx/ChartPart.h"
 #include "xlsx/ChartSchema.h"
 #include "xlsx/ChartText.h"
+#include "xlsx/ChartTypes.h"
 #include "xlsx/Enumerations.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/Xml.h"
@@ -57,23 +58,88 @@ struct SeriesHandle {
   const Journal& Log() const { return part->Book().Journal(); }
 };
 
+constexpr std::array<const char*, 6> kShown = {"showLegendKey", "showVal",     "showCatName",
+                                               "showSerName",   "showPercent", "showBubbleSize"};
+
+/// The labels of a series: its own, else those that its group has for all.
+pugi::xml_node FindLabels(pugi::xml_node series) {
+  const auto own = schema::Find(series, "dLbls");
+  return own ? own : schema::Find(series.parent(), "dLbls");
+}
+
+/// Its own, which begin as the group's.
+pugi::xml_node EnsureLabels(pugi::xml_node series) {
+  const auto own = schema::Find(series, "dLbls");
+  if (own) return own;
+  const auto common = schema::Find(series.parent(), "dLbls");
+  return common ? schema::InsertCopy(series, common) : schema::Ensure(series, "dLbls");
+}
+
+bool ShowsAnything(pugi::xml_node labels) {
+  if (!labels || schema::BooleanVal(labels, "delete", false)) return false;
+  return std::any_of(kShown.begin(), kShown.end(),
+                     [&](const char* what) { return schema::BooleanVal(labels, what, false); });
+}
+
+/// Whether the series or one of its points shows a label.
+bool HasLabels(pugi::xml_node labels) {
+  const auto points = xml::Children(labels, "dLbl");
+  return ShowsAnything(labels) || std::any_of(points.begin(), points.end(), ShowsAnything);
+}
+
+/// What the labels show, where that is one of the types. What shows more than one thing counts by its value,
+/// then by its percentage: of all it shows, those two can be drawn again.
+Variant TypeOfLabels(pugi::xml_node labels) {
+  if (!ShowsAnything(labels)) {
+    for (const pugi::xml_node& point : xml::Children(labels, "dLbl")) {
+      if (ShowsAnything(point)) return TypeOfLabels(point);
+    }
+    return excel::xlNone;
+  }
+  const auto shows = [&](const char* what) { return schema::BooleanVal(labels, what, false); };
+  if (shows("showVal")) return 2;
+  for (const LabelType& type : kLabelTypes) {
+    if (!type.value && type.percent == shows("showPercent") && type.category == shows("showCatName") &&
+        (type.percent || type.category)) {
+      return type.number;
+    }
+  }
+  return shows("showBubbleSize") ? Variant(6) : runtime::kNull;
+}
+
+std::size_t PointCount(pugi::xml_node series) {
+  const auto values =
+      schema::Find(series, "val") ? schema::Find(series, "val") : schema::Find(series, "yVal");
+  const auto reference = schema::Find(values, "numRef");
+  const auto cache = reference ? schema::Find(reference, "numCache") : schema::Find(values, "numLit");
+  const auto count = xml::ParseInteger(schema::Val(cache, "ptCount")).value_or(0);
+  return static_cast<std::size_t>(std::max(count, 0LL));
+}
+
 class Labels final : public excel::DataLabels {
  public:
   explicit Labels(SeriesHandle series) : series_(std::move(series)) {}
 
   Ref<excel::Font> Font() override {
     return MakeFont(
-        *series_.part, [series = series_] { return schema::Ensure(series.Node(), "dLbls"); },
-        Path() + ".Font");
+        *series_.part,
+        [series = series_] {
+          const auto node = series.Node();
+          return LooksOfLabels(*series.part, FindLabels(node), PointCount(node));
+        },
+        [series = series_] { return EnsureLabels(series.Node()); }, Path() + ".Font");
   }
+  /// Not in the file; Excel's default.
+  Variant AutoScaleFont() override { return true; }
   void SetAutoScaleFont(const Variant& value) override {
     series_.Log().Put([this] { return Path(); }, "AutoScaleFont", value);
   }
+  Variant Type() override { return TypeOfLabels(FindLabels(series_.Node())); }
   void SetPosition(std::int32_t position) override {
     series_.Log().Put([this] { return Path(); }, "Position", position);
     const auto token = kLabelPositions.Token(position);
-    const auto labels = schema::Find(series_.Node(), "dLbls");
-    if (!token || !labels) {
+    const auto labels = EnsureLabels(series_.Node());
+    if (!token) {
       throw RuntimeError(runtime::error::kApplication,
                          "Unable to set the Position property of the DataLabels class");
     }
@@ -91,6 +157,15 @@ class SeriesObject final : public excel::Series {
  public:
   explicit SeriesObject(SeriesHandle series) : series_(std::move(series)) {}
 
+  std::string Name() override {
+    const auto series = series_.Node();
+    const std::string name = SeriesText(series);
+    if (schema::Find(series, "tx")) return name;
+    // counted from the first, whatever its place in the file
+    return "Series" + std::to_string(xml::ParseInteger(schema::Val(series, "idx")).value_or(0) + 1);
+  }
+  std::int32_t ChartType() override { return TypeOfSeries(series_.Node()); }
+  bool HasDataLabels() override { return HasLabels(FindLabels(series_.Node())); }
   void SetName(const Variant& name) override { Set(SeriesData::kName, "Name", name); }
   void SetXValues(const Variant& reference) override { Set(SeriesData::kCategories, "XValues", reference); }
   void SetValues(const Variant& reference) override { Set(SeriesData::kValues, "Values", reference); }
@@ -102,7 +177,7 @@ class SeriesObject final : public excel::Series {
     if (wanted == kLabelTypes.end()) {
       throw RuntimeError(runtime::error::kApplication, "ApplyDataLabels method of Series class failed");
     }
-    const pugi::xml_node labels = schema::Ensure(series_.Node(), "dLbls");
+    const pugi::xml_node labels = EnsureLabels(series_.Node());
     const auto show = [&](const char* what, bool value) { schema::SetVal(labels, what, value ? "1" : "0"); };
     schema::Remove(labels, "delete");
     show("showLegendKey", false);
@@ -115,8 +190,7 @@ class SeriesObject final : public excel::Series {
   }
 
   Ref<excel::DataLabels> DataLabels() override {
-    const auto labels = schema::Find(series_.Node(), "dLbls");
-    if (!labels || schema::BooleanVal(labels, "delete", false)) return nullptr;
+    if (!HasDataLabels()) return nullptr;
     return std::make_shared<Labels>(series_);
   }
 
@@ -140,7 +214,10 @@ class Collection final : public excel::SeriesCollection {
  public:
   explicit Collection(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
 
-  std::int32_t Count() override { return static_cast<std::int32_t>(SeriesOf(*part_).size()); }
+  /// None in a chart that can't be read, so that it is no reason to stop for whoever looks at all charts.
+  std::int32_t Count() override {
+    return part_->IsReadable() ? static_cast<std::int32_t>(SeriesOf(*part_).size()) : 0;
+  }
   Ref<excel::Series> Item(std::int32_t index) override {
     const auto all = SeriesOf(*part_);
     if (index < 1 || index > static_cast<std::int32_t>(all.size())) {

@@ -32,7 +32,21 @@ bool ShowsChart(pugi::xml_node object) {
   return xml::Attribute(data, "uri").ends_with("/chart") && xml::Child(data, "chart");
 }
 
+std::int32_t TypeOf(pugi::xml_node object) {
+  const std::string_view kind = xml::LocalName(object);
+  if (kind == "graphicFrame" && ShowsChart(object)) return excel::msoChart;
+  if (kind == "grpSp") return excel::msoGroup;
+  if (kind == "pic") return excel::msoPicture;
+  if (kind == "cxnSp") return kLine;
+  if (kind == "sp" && xml::BooleanAttribute(KindPropertiesOf(object), "txBox", false)) {
+    return excel::msoTextBox;
+  }
+  return excel::msoAutoShape;
+}
+
 }  // namespace
+
+DrawnShape::DrawnShape(pugi::xml_node object) : object_(object), type_(TypeOf(object)) {}
 
 pugi::xml_node DrawnShape::Object() const {
   if (!object_) throw RuntimeError(runtime::error::kApplication, "The object has been deleted.");
@@ -49,17 +63,6 @@ const Journal& DrawnShape::Log() const { return Book().Journal(); }
 
 std::string DrawnShape::JournalPathUnder(const std::string& drawing) const {
   return drawing + ".Shapes(" + Journal::Literal(xml::Attribute(IdentityOf(object_), "name")) + ")";
-}
-
-std::int32_t DrawnShape::Type() {
-  const std::string_view kind = xml::LocalName(object_);
-  if (kind == "graphicFrame" && ShowsChart(object_)) return excel::msoChart;
-  if (kind == "grpSp") return excel::msoGroup;
-  if (kind == "pic") return excel::msoPicture;
-  if (kind == "cxnSp") return kLine;
-  if (kind == "sp" && xml::BooleanAttribute(KindPropertiesOf(object_), "txBox", false))
-    return excel::msoTextBox;
-  return excel::msoAutoShape;
 }
 
 std::string DrawnShape::Name() { return xml::Attribute(IdentityOf(object_), "name"); }

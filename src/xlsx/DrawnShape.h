@@ -18,9 +18,9 @@ class Workbook;
 /// grpSp, pic, ...). Where the object lies is a matter of its anchor, which each drawing has its own way for.
 class DrawnShape : public excel::Shape, public std::enable_shared_from_this<DrawnShape> {
  public:
-  explicit DrawnShape(pugi::xml_node object) : object_(object) {}
+  explicit DrawnShape(pugi::xml_node object);
 
-  std::int32_t Type() override;
+  std::int32_t Type() override { return type_; }
   std::string Name() override;
   void SetName(std::string_view name) override;
   std::string AlternativeText() override;
@@ -64,6 +64,7 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   bool KeepsItsProportions() const;
 
   pugi::xml_node object_;
+  std::int32_t type_;  ///< read once: whoever seeks a chart asks all shapes
 };
 
 }  // namespace plotsmith::xlsx
