@@ -206,6 +206,47 @@ void Definition(const std::uint8_t* data, std::size_t size) {
   if (size < 30000 && size > 0 && data[0] == '<') RefreshWith("definition", Text(data, size));
 }
 
+/// The shapes on a chart, each read, dressed, moved and at last grouped or deleted.
+void ChartShapes(const std::uint8_t* data, std::size_t size) {
+  const auto host = xlsx::Application::Create();
+  auto& book = host->NewWorkbook();
+  book.AllSheets()[0]
+      ->worksheet->ChartObjects()
+      ->Add(0, 0, 100, 100)
+      ->Chart()
+      ->Shapes()
+      ->AddShape(1, 0, 0, 9, 9);
+  const std::string path =
+      (std::filesystem::temp_directory_path() / ("plotsmith-fuzz-" + std::to_string(getpid()) + ".xlsx"))
+          .string();
+  book.Save(path);
+  Tolerate([&] {
+    host->Open(path);
+    host->Book().Package().Replace("/xl/drawings/drawing2.xml", std::string(Text(data, size)));
+    const auto frame = host->Book().AllSheets()[0]->worksheet->ChartObjects()->Item("Chart 1");
+    const auto shapes = frame->Chart()->Shapes();
+    std::vector<std::string> names;
+    for (std::int32_t i = 1; i <= shapes->Count(); ++i) {
+      const auto shape = shapes->Item(i);
+      names.push_back(shape->Name());
+      Tolerate([&] { shape->SetAlternativeText(shape->AlternativeText() + std::to_string(shape->Type())); });
+      Tolerate([&] { shape->TextFrame()->Characters(2, 3)->Font()->SetBold(true); });
+      Tolerate(
+          [&] { shape->TextFrame()->Characters(3)->Insert(shape->TextFrame()->Characters(1, 5)->Text()); });
+      Tolerate([&] { shape->TextFrame2()->SetAutoSize(1); });
+      Tolerate([&] { shape->SetLockAspectRatio(true); });
+      Tolerate([&] { shape->SetWidth(shape->Height() + shape->Left()); });
+      Tolerate([&] { shape->Line()->SetVisible(i % 2 == 0); });
+      Tolerate([&] { shape->SetAutoShapeType(9); });
+    }
+    Tolerate([&] { shapes->Range(names)->Group(); });
+    Tolerate([&] { shapes->Item(1)->Delete(); });
+    host->Book().Save(path);
+    host->Open(path);
+  });
+  unlink(path.c_str());
+}
+
 void NumberFormat(const std::uint8_t* data, std::size_t size) {
   const std::string_view text = Text(data, size);
   const auto tab = text.find('\t');
@@ -232,11 +273,17 @@ void Formula(const std::uint8_t* data, std::size_t size) {
 }
 
 constexpr Target kAll[] = {
-    {"package", Package}, {"workbook", Workbook},
-    {"sheet", Sheet},     {"shared-strings", SharedStrings},
-    {"styles", Styles},   {"drawing", Drawing},
-    {"chart", Chart},     {"definition", Definition},
-    {"formula", Formula}, {"number-format", NumberFormat},
+    {"package", Package},
+    {"workbook", Workbook},
+    {"sheet", Sheet},
+    {"shared-strings", SharedStrings},
+    {"styles", Styles},
+    {"drawing", Drawing},
+    {"chart", Chart},
+    {"definition", Definition},
+    {"formula", Formula},
+    {"number-format", NumberFormat},
+    {"chart-shapes", ChartShapes},
 };
 
 }  // namespace

@@ -58,6 +58,7 @@ int main(int argc, char** argv) {
         if (is("sharedStrings+xml")) Write(folder / "shared-strings", ++number, text);
         if (is("styles+xml")) Write(folder / "styles", ++number, text);
         if (is("drawing+xml")) Write(folder / "drawing", ++number, text);
+        if (is("chartshapes+xml")) Write(folder / "chart-shapes", ++number, text);
         if (is("chart+xml")) Write(folder / "chart", ++number, text);
         WriteTexts(folder / "formula", number, text, "c:f>", nullptr);
         WriteTexts(folder / "formula", number, text, "f>", nullptr);

@@ -5,7 +5,7 @@ set -eu
 cd "$(dirname "$0")/.."
 seconds=${1:-60}
 [ $# -gt 0 ] && shift
-targets=${*:-package workbook sheet shared-strings styles drawing chart definition formula number-format}
+targets=${*:-package workbook sheet shared-strings styles drawing chart chart-shapes definition formula number-format}
 
 scripts/install-dependencies.sh clang libclang-rt-14-dev
 cmake --preset fuzz >/dev/null

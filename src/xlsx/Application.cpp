@@ -54,6 +54,10 @@ void Application::SetCalculation(std::int32_t value) {
 // there is nobody to alert
 void Application::SetDisplayAlerts(bool value) { journal_.Put(Self, "DisplayAlerts", value); }
 
+std::string Application::StandardFont() { return workbook_ ? workbook_->NormalFontName() : "Calibri"; }
+
+double Application::StandardFontSize() { return workbook_ ? workbook_->Styles().NormalFontSize() : 11; }
+
 void Application::Run(std::string_view macro, const std::vector<Variant>& arguments) {
   if (journal_) {
     std::string line = Journal::Literal(macro);

@@ -43,6 +43,9 @@ class Application : public excel::Application, public std::enable_shared_from_th
   std::int32_t Calculation() override { return calculation_; }
   void SetCalculation(std::int32_t value) override;
   void SetDisplayAlerts(bool value) override;
+  /// The font that new workbooks get, in Excel; here that of the workbook's cells.
+  std::string StandardFont() override;
+  double StandardFontSize() override;
   void Run(std::string_view macro, const std::vector<runtime::Variant>& arguments) override;
 
  private:

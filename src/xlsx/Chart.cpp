@@ -7,6 +7,7 @@
 #include "xlsx/Application.h"
 #include "xlsx/ChartAxis.h"
 #include "xlsx/ChartData.h"
+#include "xlsx/ChartDrawing.h"
 #include "xlsx/ChartFill.h"
 #include "xlsx/ChartGroups.h"
 #include "xlsx/ChartLegend.h"
@@ -147,8 +148,10 @@ Ref<excel::Axis> Chart::Axes(std::int32_t type, std::int32_t group) {
   return MakeAxis(part_, type);
 }
 
-Ref<excel::ChartArea> Chart::ChartArea() { return MakeChartArea(part_); }
+Ref<excel::ChartArea> Chart::ChartArea() { return MakeChartArea(part_, frame_); }
 
-Ref<excel::PlotArea> Chart::PlotArea() { return MakePlotArea(part_); }
+Ref<excel::PlotArea> Chart::PlotArea() { return MakePlotArea(part_, frame_); }
+
+Ref<excel::Shapes> Chart::Shapes() { return MakeChartShapes(part_, frame_); }
 
 }  // namespace plotsmith::xlsx

@@ -29,6 +29,7 @@ class Chart final : public excel::Chart {
   excel::Ref<excel::Axis> Axes(std::int32_t type, std::int32_t group) override;
   excel::Ref<excel::ChartArea> ChartArea() override;
   excel::Ref<excel::PlotArea> PlotArea() override;
+  excel::Ref<excel::Shapes> Shapes() override;
 
  private:
   std::shared_ptr<ChartPart> part_;

@@ -7,6 +7,7 @@
 
 #include "host/excel/Excel.h"
 #include "runtime/RuntimeError.h"
+#include "xlsx/ChartGeometry.h"
 #include "xlsx/ChartPart.h"
 #include "xlsx/ChartSchema.h"
 #include "xlsx/DrawingFill.h"
@@ -181,7 +182,7 @@ class AreaFill final : public excel::ChartFillFormat {
 
 class ChartAreaObject final : public excel::ChartArea {
  public:
-  explicit ChartAreaObject(Area area) : area_(std::move(area)) {}
+  ChartAreaObject(Area area, std::weak_ptr<Shape> frame) : area_(std::move(area)), frame_(std::move(frame)) {}
 
   Ref<excel::Interior> Interior() override { return std::make_shared<AreaInterior>(area_); }
   Ref<excel::Border> Border() override { return std::make_shared<AreaBorder>(area_); }
@@ -189,32 +190,47 @@ class ChartAreaObject final : public excel::ChartArea {
   void SetAutoScaleFont(const Variant& value) override {
     area_.Log().Put([this] { return area_.path; }, "AutoScaleFont", value);
   }
+  double Width() override { return ChartSize(frame_).width; }
 
  private:
   Area area_;
+  std::weak_ptr<Shape> frame_;
 };
 
 class PlotAreaObject final : public excel::PlotArea {
  public:
-  explicit PlotAreaObject(Area area) : area_(std::move(area)) {}
+  PlotAreaObject(Area area, std::weak_ptr<Shape> frame) : area_(std::move(area)), frame_(std::move(frame)) {}
 
   Ref<excel::Interior> Interior() override { return std::make_shared<AreaInterior>(area_); }
   Ref<excel::Border> Border() override { return std::make_shared<AreaBorder>(area_); }
+  double Left() override { return Place().left; }
+  double Top() override { return Place().top; }
+  double Width() override { return Place().width; }
+  double Height() override { return Place().height; }
+  void SetWidth(double points) override {
+    area_.Log().Put([this] { return area_.path; }, "Width", points);
+    SetPlotAreaWidth(*area_.part, ChartSize(frame_), points);
+  }
 
  private:
+  Frame Place() const { return PlotAreaFrame(*area_.part, ChartSize(frame_)); }
+
   Area area_;
+  std::weak_ptr<Shape> frame_;
 };
 
 }  // namespace
 
-Ref<excel::ChartArea> MakeChartArea(std::shared_ptr<ChartPart> part) {
+Ref<excel::ChartArea> MakeChartArea(std::shared_ptr<ChartPart> part, std::weak_ptr<Shape> frame) {
   return std::make_shared<ChartAreaObject>(
-      Area{std::move(part), [](ChartPart& chart) { return chart.Space(); }, "Chart.ChartArea"});
+      Area{std::move(part), [](ChartPart& chart) { return chart.Space(); }, "Chart.ChartArea"},
+      std::move(frame));
 }
 
-Ref<excel::PlotArea> MakePlotArea(std::shared_ptr<ChartPart> part) {
+Ref<excel::PlotArea> MakePlotArea(std::shared_ptr<ChartPart> part, std::weak_ptr<Shape> frame) {
   return std::make_shared<PlotAreaObject>(
-      Area{std::move(part), [](ChartPart& chart) { return chart.PlotArea(); }, "Chart.PlotArea"});
+      Area{std::move(part), [](ChartPart& chart) { return chart.PlotArea(); }, "Chart.PlotArea"},
+      std::move(frame));
 }
 
 }  // namespace plotsmith::xlsx

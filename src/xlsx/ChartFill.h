@@ -8,8 +8,10 @@
 namespace plotsmith::xlsx {
 
 class ChartPart;
+class Shape;
 
-excel::Ref<excel::ChartArea> MakeChartArea(std::shared_ptr<ChartPart> part);
-excel::Ref<excel::PlotArea> MakePlotArea(std::shared_ptr<ChartPart> part);
+/// `frame` is the shape that frames the chart on a sheet.
+excel::Ref<excel::ChartArea> MakeChartArea(std::shared_ptr<ChartPart> part, std::weak_ptr<Shape> frame);
+excel::Ref<excel::PlotArea> MakePlotArea(std::shared_ptr<ChartPart> part, std::weak_ptr<Shape> frame);
 
 }  // namespace plotsmith::xlsx

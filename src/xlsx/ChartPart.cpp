@@ -1,6 +1,7 @@
 #include "xlsx/ChartPart.h"
 
 #include "runtime/RuntimeError.h"
+#include "xlsx/ChartDrawing.h"
 #include "xlsx/ChartGroups.h"
 #include "xlsx/ChartSchema.h"
 #include "xlsx/Namespaces.h"
@@ -18,6 +19,10 @@ std::string EmptyChart(bool strict) {
          R"("><c:roundedCorners val="0"/><c:chart><c:autoTitleDeleted val="1"/><c:plotArea><c:layout/></c:plotArea>)"
          R"(<c:plotVisOnly val="1"/><c:dispBlanksAs val="gap"/></c:chart></c:chartSpace>)";
 }
+
+ChartPart::ChartPart(Workbook& book, std::string part) : book_(book), part_(std::move(part)) {}
+
+ChartPart::~ChartPart() = default;
 
 bool ChartPart::IsReadable() {
   Load();
@@ -70,6 +75,13 @@ std::optional<std::int32_t> ChartPart::Color(pugi::xml_node holder) {
   return Theme().Color(holder, schema::Find(Space(), "clrMapOvr"));
 }
 
+ChartDrawing& ChartPart::Drawing() {
+  if (!drawing_) drawing_ = std::make_unique<ChartDrawing>(*this);
+  return *drawing_;
+}
+
+bool ChartPart::Changed() const { return changed_ || (drawing_ && drawing_->Changed()); }
+
 void ChartPart::CatchUp() {
   Space();
   Follow();
@@ -103,6 +115,7 @@ void ChartPart::Write() {
   if (!book_.Shifts().None()) Load();
   if (!document_) return;
   Follow();
+  if (drawing_) drawing_->Write();
   if (!changed_) return;
   UpdateLinkedFormats(*this);
   book_.Package().Replace(part_, xml::Serialize(*document_));

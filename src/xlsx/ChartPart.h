@@ -13,6 +13,7 @@
 
 namespace plotsmith::xlsx {
 
+class ChartDrawing;
 class Workbook;
 
 /// A chart part: the document that the objects of a chart are views over. It is parsed when something of the
@@ -20,9 +21,11 @@ class Workbook;
 class ChartPart {
  public:
   /// `part` may be empty, or a part that can't be read: then every use is error 1004.
-  ChartPart(Workbook& book, std::string part) : book_(book), part_(std::move(part)) {}
+  ChartPart(Workbook& book, std::string part);
+  ~ChartPart();
 
   Workbook& Book() const { return book_; }
+  const std::string& Part() const { return part_; }
   /// The chartSpace element; error 1004 if the part can't be read.
   pugi::xml_node Space();
   bool IsReadable();
@@ -35,8 +38,11 @@ class ChartPart {
   /// What an element that holds a colour means on this chart; nothing if that can't be known.
   std::optional<std::int32_t> Color(pugi::xml_node holder);
 
+  /// What is drawn on the chart.
+  ChartDrawing& Drawing();
+
   void MarkChanged() { changed_ = true; }
-  bool Changed() const { return changed_; }
+  bool Changed() const;
   /// References in the part follow the rows that moved since they were last looked at.
   void CatchUp();
   /// Brings the part in the package up to date. A part that can't be read stays as it is.
@@ -57,6 +63,7 @@ class ChartPart {
   std::optional<std::string> unreadable_;
   std::optional<xlsx::Theme> ownTheme_;
   bool themeKnown_ = false;
+  std::unique_ptr<ChartDrawing> drawing_;
   pugi::xml_document attic_;
   bool changed_ = false;
   std::size_t followed_ = 0;

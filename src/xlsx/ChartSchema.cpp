@@ -94,6 +94,11 @@ constexpr std::string_view kRunProperties[] = {
     "ln", kFills, "effectLst|effectDag", "highlight",      "uLnTx|uLn", "uFillTx|uFill", "latin", "ea",
     "cs", "sym",  "hlinkClick",          "hlinkMouseOver", "rtl",       "extLst"};
 constexpr std::string_view kPattern[] = {"fgClr", "bgClr"};
+constexpr std::string_view kTransform[] = {"off", "ext", "chOff", "chExt"};
+constexpr std::string_view kBodyProperties[] = {"prstTxWarp", "noAutofit|normAutofit|spAutoFit", "scene3d",
+                                                "sp3d|flatTx", "extLst"};
+constexpr std::string_view kLocks[] = {"spLocks|grpSpLocks|picLocks|cxnSpLocks|graphicFrameLocks", "stCxn",
+                                       "endCxn", "extLst"};
 
 struct Type {
   std::string_view elements;  ///< joined by "|"
@@ -120,9 +125,13 @@ constexpr Type kTypes[] = {
     {"numRef|strRef|multiLvlStrRef", kReference, false},
     {"numCache|strCache", kCache, false},
     {"cat|val|xVal|yVal|bubbleSize", kDataSource, false},
-    {"spPr", kShape, true},
+    {"spPr|grpSpPr", kShape, true},
+    {"xfrm", kTransform, true},
+    {"prstGeom", {}, true},
+    {"cNvSpPr|cNvGrpSpPr|cNvPicPr|cNvCxnSpPr|cNvGraphicFramePr", kLocks, true},
+    {"bodyPr", kBodyProperties, true},
     {"ln", kLine, true},
-    {"txPr|rich", kText, true},
+    {"txPr|rich|txBody", kText, true},
     {"p", kParagraph, true},
     {"pPr", kParagraphProperties, true},
     {"r|fld", kRun, true},
@@ -174,7 +183,7 @@ std::string QualifiedName(pugi::xml_node parent, std::string_view local) {
   while (root.parent().type() == pugi::node_element) root = root.parent();
   const Type* type = TypeOf(parent);
   if (type == nullptr || !type->drawingMl) return std::string(xml::Prefix(root.name())) + std::string(local);
-  const bool strict = xml::NamespaceOf(root) == kStrict.chart;
+  const bool strict = xml::NamespaceOf(root).starts_with("http://purl.oclc.org/ooxml/");
   return xml::EnsurePrefix(root, (strict ? kStrict : kTransitional).drawing, "a") + std::string(local);
 }
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-/// Elements of a chart part, each put in where its schema wants it: one table of children for each type of
-/// element. What isn't in a table stays where it is.
+/// Elements of a chart part, or of the shapes of a drawing, each put in where its schema wants it: one table
+/// of children for each type of element. What isn't in a table stays where it is.
 namespace plotsmith::xlsx::schema {
 
 /// The child, or a null node.

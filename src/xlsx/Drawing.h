@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "host/excel/Excel.h"
+#include "xlsx/ShapeXml.h"
 
 namespace plotsmith::xlsx {
 
@@ -27,23 +28,18 @@ class Drawing {
   const std::vector<std::shared_ptr<Shape>>& Shapes() const { return shapes_; }
   std::shared_ptr<Shape> FindShape(std::string_view name) const;
 
-  // All in points from the sheet's corner.
-  std::shared_ptr<Shape> AddTextbox(double left, double top, double width, double height);
-  std::shared_ptr<Shape> AddChart(double left, double top, double width, double height);
+  std::shared_ptr<Shape> AddTextbox(const Frame& frame);
+  /// `name` begins the shape's name, `preset` is its form in the file.
+  std::shared_ptr<Shape> AddAutoShape(std::string_view name, std::string_view preset, const Frame& frame);
+  std::shared_ptr<Shape> AddChart(const Frame& frame);
   void Remove(const Shape& shape);
 
   void MarkChanged() { changed_ = true; }
   bool Changed() const { return changed_; }
   void Write();
-  /// The drawing's elements have the prefix with its colon, or none; DrawingML's elements the other.
-  std::string Prefix() const;
-  std::string DrawingMlPrefix() const;
 
  private:
-  void Collect(pugi::xml_node parent);
-  std::shared_ptr<Shape> AddAnchor(double left, double top, double width, double height,
-                                   const std::string& object);
-  unsigned NextId() const;
+  std::shared_ptr<Shape> AddAnchor(const Frame& frame, const std::string& object);
   /// A name that no shape has yet, from a number on.
   std::string FreeName(const std::string& stem, std::size_t number) const;
 

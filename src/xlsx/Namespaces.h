@@ -13,6 +13,7 @@ struct Namespaces {
   std::string_view drawing;             ///< DrawingML
   std::string_view spreadsheetDrawing;  ///< anchors and shapes on a sheet
   std::string_view chart;
+  std::string_view chartDrawing;  ///< anchors and shapes on a chart
 
   std::string RelationshipType(std::string_view name) const {
     return std::string(relationships) + "/" + std::string(name);
@@ -25,6 +26,7 @@ inline constexpr Namespaces kTransitional = {
     "http://schemas.openxmlformats.org/drawingml/2006/main",
     "http://schemas.openxmlformats.org/drawingml/2006/spreadsheetDrawing",
     "http://schemas.openxmlformats.org/drawingml/2006/chart",
+    "http://schemas.openxmlformats.org/drawingml/2006/chartDrawing",
 };
 
 inline constexpr Namespaces kStrict = {
@@ -33,6 +35,7 @@ inline constexpr Namespaces kStrict = {
     "http://purl.oclc.org/ooxml/drawingml/main",
     "http://purl.oclc.org/ooxml/drawingml/spreadsheetDrawing",
     "http://purl.oclc.org/ooxml/drawingml/chart",
+    "http://purl.oclc.org/ooxml/drawingml/chartDrawing",
 };
 
 namespace content_type {
@@ -46,6 +49,8 @@ inline constexpr std::string_view kDrawing = "application/vnd.openxmlformats-off
 inline constexpr std::string_view kTheme = "application/vnd.openxmlformats-officedocument.theme+xml";
 inline constexpr std::string_view kChart =
     "application/vnd.openxmlformats-officedocument.drawingml.chart+xml";
+inline constexpr std::string_view kChartShapes =
+    "application/vnd.openxmlformats-officedocument.drawingml.chartshapes+xml";
 }  // namespace content_type
 
 inline constexpr std::string_view kXmlDeclaration =

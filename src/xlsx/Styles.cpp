@@ -210,14 +210,32 @@ void Styles::SetPaletteColor(std::int32_t index, std::int32_t color) {
                     "FF" + RgbText(color));
 }
 
+pugi::xml_node Styles::NormalFont() const {
+  const auto at = [&](std::string_view list, std::string_view local, long long index) {
+    const auto found = Listed(Sheet(), list, local);
+    const bool known = index >= 0 && index < static_cast<long long>(found.size());
+    return known ? found[static_cast<std::size_t>(index)] : pugi::xml_node();
+  };
+  long long format = 0;
+  for (const pugi::xml_node& style : Listed(Sheet(), "cellStyles", "cellStyle")) {
+    if (xml::IntegerAttribute(style, "builtinId", -1) == 0) format = xml::IntegerAttribute(style, "xfId", 0);
+  }
+  const pugi::xml_node font =
+      at("fonts", "font", xml::IntegerAttribute(at("cellStyleXfs", "xf", format), "fontId", 0));
+  return font ? font : at("fonts", "font", 0);
+}
+
 std::string Styles::NormalFontName() const {
-  const auto fonts = Listed(Sheet(), "fonts", "font");
-  return fonts.empty() ? "Calibri" : xml::Attribute(xml::Child(fonts[0], "name"), "val", "Calibri");
+  return xml::Attribute(xml::Child(NormalFont(), "name"), "val", "Calibri");
 }
 
 double Styles::NormalFontSize() const {
-  const auto fonts = Listed(Sheet(), "fonts", "font");
-  return fonts.empty() ? 11 : xml::NumberAttribute(xml::Child(fonts[0], "sz"), "val", 11);
+  return xml::NumberAttribute(xml::Child(NormalFont(), "sz"), "val", 11);
+}
+
+std::string Styles::NormalFontScheme() const {
+  const std::string scheme = xml::Attribute(xml::Child(NormalFont(), "scheme"), "val");
+  return scheme == "none" ? std::string() : scheme;
 }
 
 std::string Styles::Serialize() const { return xml::Serialize(document_); }

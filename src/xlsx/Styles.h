@@ -36,6 +36,8 @@ class Styles {
   /// The font of the Normal style, by which column widths count.
   std::string NormalFontName() const;
   double NormalFontSize() const;
+  /// "minor" or "major" where that font is the theme's, else empty.
+  std::string NormalFontScheme() const;
 
   bool Changed() const { return changed_; }
   std::string Serialize() const;
@@ -54,6 +56,7 @@ class Styles {
   void Parse(const CellStyle& style) const;
 
   pugi::xml_node Sheet() const;
+  pugi::xml_node NormalFont() const;
   std::string CodeOf(int formatId) const;
   int FormatId(std::string_view code);
   void Load();

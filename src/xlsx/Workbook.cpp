@@ -464,6 +464,12 @@ const Theme& Workbook::Theme() {
   return *theme_;
 }
 
+std::string Workbook::NormalFontName() {
+  const std::string scheme = styles_->NormalFontScheme();
+  if (scheme.empty() || !package_.FindRelationshipOfType(part_, "theme")) return styles_->NormalFontName();
+  return scheme == "major" ? Theme().MajorFont() : Theme().MinorFont();
+}
+
 void Workbook::EnsureTheme() {
   if (package_.FindRelationshipOfType(part_, "theme")) return;
   const Namespaces& names = strict_ ? kStrict : kTransitional;

@@ -90,6 +90,8 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   bool IsStrict() const { return strict_; }
   /// The workbook's theme, or the one that it gets when a chart is drawn in it.
   const xlsx::Theme& Theme();
+  /// The font of the Normal style; the theme's where the style says so.
+  std::string NormalFontName();
 
   /// Runs what reads the file behind the port: a PackageError is kept as the workbook's damage and goes on as
   /// the run-time error that the port allows. So is want of memory.

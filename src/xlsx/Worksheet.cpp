@@ -244,6 +244,23 @@ void Worksheet::DeleteRow(std::int32_t row) {
   book_.Shifts().Add(Entry().name, row, -1);
 }
 
+bool Worksheet::HasMergedCells() {
+  if (!merged_) {
+    merged_ =
+        !isNew_ && xml::ToUtf8(book_.Package().Read(Entry().part)).find("mergeCell ") != std::string::npos;
+  }
+  return *merged_;
+}
+
+void Worksheet::SortCells(const CellRange& range, const SortOptions& options) {
+  CellGrid& grid = Grid();
+  if (book_.Guarded([&] { return HasMergedCells(); })) {
+    throw RuntimeError(runtime::error::kApplication,
+                       "To do this, all the merged cells need to be the same size.");
+  }
+  SortRows(grid, range, options);
+}
+
 const SheetGeometry& Worksheet::Geometry() {
   if (!geometry_) {
     const SheetContents& contents = Contents();

@@ -8,6 +8,7 @@
 
 #include "host/excel/Worksheet.h"
 #include "xlsx/CellGrid.h"
+#include "xlsx/CellSort.h"
 #include "xlsx/Reference.h"
 #include "xlsx/Sheet.h"
 #include "xlsx/SheetGeometry.h"
@@ -50,6 +51,8 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   std::string NumberFormatAt(std::int32_t row, std::int32_t column);
   void InsertRow(std::int32_t row);
   void DeleteRow(std::int32_t row);
+  /// Error 1004 on a sheet with merged cells, which would have to move as they are.
+  void SortCells(const CellRange& range, const SortOptions& options);
   const SheetGeometry& Geometry();
   /// The sheet's drawing; null if it has none, or one without charts that can't be read.
   Drawing* FindDrawing();
@@ -76,7 +79,10 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   std::uint32_t StyleAt(std::int32_t row, std::int32_t column);
   excel::CellValue Unpack(PackedValue value, std::uint32_t style);
 
+  bool HasMergedCells();
+
   bool isNew_;
+  std::optional<bool> merged_;
   std::optional<SheetContents> contents_;  ///< as read
   const TextPool* sharedTexts_ = nullptr;  ///< the workbook's, once a cell has asked for one
   std::optional<CellGrid> grid_;           ///< as changed; then nothing looks at contents_ any more

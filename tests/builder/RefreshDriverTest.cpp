@@ -9,7 +9,6 @@
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
 #include "tests/support/HostTest.h"
-#include "xlsx/Shape.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith {
@@ -196,11 +195,11 @@ TEST_F(RefreshDriverTest, CommentsComeAndGoInPieces) {
   EXPECT_EQ(calls(".Insert("), 2);
   SaveAndReopen();
   const auto shapes = [&] { return oWorkbook->Worksheets()->Item("Charts")->Shapes(); };
-  const auto box = [&] { return std::dynamic_pointer_cast<xlsx::Shape>(shapes()->Item(2).shared()); };
+  const auto box = [&] { return shapes()->Item(2); };
   ASSERT_EQ(shapes()->Count(), 2);
   EXPECT_EQ(box()->Type(), excel::msoTextBox);
   EXPECT_EQ(box()->AlternativeText(), "VEX_Chart1");
-  EXPECT_EQ(box()->Text(), text);
+  EXPECT_EQ(box()->TextFrame()->Characters()->Text(), text);
   EXPECT_NEAR(box()->Left(), shapes()->Item(1)->Left() + shapes()->Item(1)->Width() - 5, 0.01);
   EXPECT_NEAR(box()->Top(), 5, 0.01);
   EXPECT_NEAR(box()->Width(), 180, 0.01);
@@ -209,12 +208,12 @@ TEST_F(RefreshDriverTest, CommentsComeAndGoInPieces) {
   // what a person writes into the box is the comment from then on
   Refresh();
   SaveAndReopen();
-  EXPECT_EQ(box()->Text(), text);
-  box()->SetText(text + " and more");
+  EXPECT_EQ(box()->TextFrame()->Characters()->Text(), text);
+  box()->TextFrame()->Characters()->SetText(text + " and more");
   Refresh();
   SaveAndReopen();
   EXPECT_EQ(shapes()->Count(), 2);
-  EXPECT_EQ(box()->Text(), text + " and more");
+  EXPECT_EQ(box()->TextFrame()->Characters()->Text(), text + " and more");
   EXPECT_NE(Cells("VEX_ChartDefinitions", 2, 1, 2, 1).find(" and more</comment>"), S::npos);
 
   // an empty comment takes the box away, and a box taken away the comment

@@ -219,6 +219,8 @@ class EditingHost : public excel::Application {
   void SetCalculation(std::int32_t value) override { inner_->SetCalculation(value); }
   void SetDisplayAlerts(bool value) override { inner_->SetDisplayAlerts(value); }
   void Run(std::string_view macro, const std::vector<runtime::Variant>& a) override { inner_->Run(macro, a); }
+  std::string StandardFont() override { return inner_->StandardFont(); }
+  double StandardFontSize() override { return inner_->StandardFontSize(); }
 
   bool interactive = true;
 

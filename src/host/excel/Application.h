@@ -31,9 +31,9 @@ class Application {
 
   /// Calls a macro of the host by name; error 1004 if there is none.
   virtual void Run(std::string_view macro, const std::vector<Variant>& arguments) = 0;
-  virtual std::string StandardFont() { Pending(); }
+  virtual std::string StandardFont() = 0;
   /// Points.
-  virtual double StandardFontSize() { Pending(); }
+  virtual double StandardFontSize() = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -16,7 +16,7 @@ class Characters {
   /// Replaces the stretch, as SetText; a stretch that begins behind the text's end appends.
   virtual void Insert(std::string_view text) = 0;
   virtual std::string Text() = 0;
-  virtual Ref<excel::Font> Font() { Pending(); }
+  virtual Ref<excel::Font> Font() = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -46,7 +46,7 @@ class Chart {
   virtual bool HasTitle() = 0;
   virtual bool HasLegend() = 0;
   /// The shapes drawn on the chart itself.
-  virtual Ref<excel::Shapes> Shapes() { Pending(); }
+  virtual Ref<excel::Shapes> Shapes() = 0;
   /// A group of series of one kind, by its number in drawing order; error 1004 outside.
   virtual Ref<ChartGroup> ChartGroups(std::int32_t index) { Pending(); }
 };

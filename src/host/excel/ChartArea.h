@@ -18,7 +18,7 @@ class ChartArea {
   /// Whether fonts follow the chart's size. Hosts from version 12 on accept it, and nothing follows.
   virtual void SetAutoScaleFont(const Variant& value) = 0;
   /// Points.
-  virtual double Width() { Pending(); }
+  virtual double Width() = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -7,7 +7,7 @@ namespace plotsmith::excel {
 class ColorFormat {
  public:
   virtual ~ColorFormat() = default;
-  virtual void SetRGB(std::int32_t color) { Pending(); }
+  virtual void SetRGB(std::int32_t color) = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -10,8 +10,8 @@ class ColorFormat;
 class FillFormat {
  public:
   virtual ~FillFormat() = default;
-  virtual Ref<ColorFormat> ForeColor() { Pending(); }
-  virtual Ref<ColorFormat> BackColor() { Pending(); }
+  virtual Ref<ColorFormat> ForeColor() = 0;
+  virtual Ref<ColorFormat> BackColor() = 0;
 };
 
 }  // namespace plotsmith::excel

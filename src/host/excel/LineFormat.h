@@ -10,11 +10,11 @@ class ColorFormat;
 class LineFormat {
  public:
   virtual ~LineFormat() = default;
-  virtual void SetVisible(bool value) { Pending(); }
+  virtual void SetVisible(bool value) = 0;
   /// Points.
-  virtual void SetWeight(double points) { Pending(); }
-  virtual Ref<ColorFormat> ForeColor() { Pending(); }
-  virtual Ref<ColorFormat> BackColor() { Pending(); }
+  virtual void SetWeight(double points) = 0;
+  virtual Ref<ColorFormat> ForeColor() = 0;
+  virtual Ref<ColorFormat> BackColor() = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -14,11 +14,11 @@ class PlotArea {
   virtual Ref<excel::Interior> Interior() = 0;
   virtual Ref<excel::Border> Border() = 0;
   // Points from the chart's corner, of the area with its tick labels.
-  virtual double Left() { Pending(); }
-  virtual double Top() { Pending(); }
-  virtual double Width() { Pending(); }
-  virtual void SetWidth(double points) { Pending(); }
-  virtual double Height() { Pending(); }
+  virtual double Left() = 0;
+  virtual double Top() = 0;
+  virtual double Width() = 0;
+  virtual void SetWidth(double points) = 0;
+  virtual double Height() = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -33,9 +33,7 @@ class Range {
   /// `orderCustom` 1 for the plain order, `orientation` xlTopToBottom. Empty cells go last, whatever the
   /// order.
   virtual void Sort(Ref<Range> key1, std::int32_t order1, std::int32_t header, std::int32_t orderCustom,
-                    bool matchCase, std::int32_t orientation) {
-    Pending();
-  }
+                    bool matchCase, std::int32_t orientation) = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -9,7 +9,8 @@ class LineFormat;
 class TextFrame;
 class TextFrame2;
 
-/// What is drawn on a sheet: a chart, a picture, a text box. Distances are points from the sheet's corner.
+/// What is drawn on a sheet or on a chart: a chart, a picture, a text box. Distances are points from the
+/// sheet's or the chart's corner.
 class Shape {
  public:
   virtual ~Shape() = default;
@@ -24,17 +25,17 @@ class Shape {
   virtual double Height() = 0;
   virtual Ref<excel::TextFrame> TextFrame() = 0;
   virtual void Delete() = 0;
-  virtual void SetName(std::string_view name) { Pending(); }
-  virtual void SetLeft(double points) { Pending(); }
-  virtual void SetTop(double points) { Pending(); }
-  virtual void SetWidth(double points) { Pending(); }
-  virtual void SetHeight(double points) { Pending(); }
-  virtual Ref<excel::TextFrame2> TextFrame2() { Pending(); }
-  virtual Ref<FillFormat> Fill() { Pending(); }
-  virtual Ref<LineFormat> Line() { Pending(); }
-  virtual void SetLockAspectRatio(bool value) { Pending(); }
+  virtual void SetName(std::string_view name) = 0;
+  virtual void SetLeft(double points) = 0;
+  virtual void SetTop(double points) = 0;
+  virtual void SetWidth(double points) = 0;
+  virtual void SetHeight(double points) = 0;
+  virtual Ref<excel::TextFrame2> TextFrame2() = 0;
+  virtual Ref<FillFormat> Fill() = 0;
+  virtual Ref<LineFormat> Line() = 0;
+  virtual void SetLockAspectRatio(bool value) = 0;
   /// MsoAutoShapeType.
-  virtual void SetAutoShapeType(std::int32_t type) { Pending(); }
+  virtual void SetAutoShapeType(std::int32_t type) = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -10,13 +10,13 @@ class Shape;
 class ShapeRange {
  public:
   virtual ~ShapeRange() = default;
-  virtual std::string Name() { Pending(); }
-  virtual double Width() { Pending(); }
-  virtual double Height() { Pending(); }
-  virtual void SetLeft(double points) { Pending(); }
-  virtual void SetTop(double points) { Pending(); }
+  virtual std::string Name() = 0;
+  virtual double Width() = 0;
+  virtual double Height() = 0;
+  virtual void SetLeft(double points) = 0;
+  virtual void SetTop(double points) = 0;
   /// Makes the shapes one; error 1004 for fewer than two.
-  virtual Ref<Shape> Group() { Pending(); }
+  virtual Ref<Shape> Group() = 0;
 };
 
 }  // namespace plotsmith::excel

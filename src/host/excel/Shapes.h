@@ -10,7 +10,7 @@ namespace plotsmith::excel {
 class Shape;
 class ShapeRange;
 
-/// The shapes of a sheet from back to front.
+/// The shapes of a sheet, or on a chart, from back to front; a group counts as one.
 class Shapes {
  public:
   virtual ~Shapes() = default;
@@ -23,11 +23,9 @@ class Shapes {
   virtual Ref<Shape> AddTextbox(std::int32_t orientation, double left, double top, double width,
                                 double height) = 0;
   /// `type` is one of MsoAutoShapeType; the rest is points.
-  virtual Ref<Shape> AddShape(std::int32_t type, double left, double top, double width, double height) {
-    Pending();
-  }
+  virtual Ref<Shape> AddShape(std::int32_t type, double left, double top, double width, double height) = 0;
   /// Error 1004 if there is none of a name.
-  virtual Ref<ShapeRange> Range(const std::vector<std::string>& names) { Pending(); }
+  virtual Ref<ShapeRange> Range(const std::vector<std::string>& names) = 0;
 };
 
 }  // namespace plotsmith::excel

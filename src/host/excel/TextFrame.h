@@ -12,10 +12,10 @@ class TextFrame {
 
   /// From `start`, `length` units or, if that is negative, all that follows.
   virtual Ref<excel::Characters> Characters(std::int32_t start = 1, std::int32_t length = -1) = 0;
-  virtual void SetVerticalAlignment(std::int32_t alignment) { Pending(); }
-  virtual void SetHorizontalAlignment(std::int32_t alignment) { Pending(); }
+  virtual void SetVerticalAlignment(std::int32_t alignment) = 0;
+  virtual void SetHorizontalAlignment(std::int32_t alignment) = 0;
   /// Points.
-  virtual void SetMarginTop(double points) { Pending(); }
+  virtual void SetMarginTop(double points) = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -8,11 +8,11 @@ namespace plotsmith::excel {
 class TextFrame2 {
  public:
   virtual ~TextFrame2() = default;
-  virtual void SetWordWrap(bool value) { Pending(); }
+  virtual void SetWordWrap(bool value) = 0;
   /// MsoAutoSize.
-  virtual void SetAutoSize(std::int32_t value) { Pending(); }
+  virtual void SetAutoSize(std::int32_t value) = 0;
   /// Points.
-  virtual void SetMarginTop(double points) { Pending(); }
+  virtual void SetMarginTop(double points) = 0;
 };
 
 }  // namespace plotsmith::excel

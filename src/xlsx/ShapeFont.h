@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+
+#include "host/excel/Font.h"
+
+namespace plotsmith::xlsx {
+
+class DrawnShape;
+
+/// The font of a stretch of a shape's text, by UTF-16 units from 0. Behind the text's end there is none to
+/// set.
+excel::Ref<excel::Font> MakeShapeFont(std::shared_ptr<DrawnShape> shape, std::size_t start,
+                                      std::size_t length, std::string journalPath);
+
+}  // namespace plotsmith::xlsx

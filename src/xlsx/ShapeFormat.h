@@ -1,0 +1,16 @@
+#pragma once
+
+#include <memory>
+
+#include "host/excel/FillFormat.h"
+#include "host/excel/LineFormat.h"
+
+namespace plotsmith::xlsx {
+
+class DrawnShape;
+
+/// Filling and outline of a shape, for the port.
+excel::Ref<excel::FillFormat> MakeFill(std::shared_ptr<DrawnShape> shape);
+excel::Ref<excel::LineFormat> MakeLine(std::shared_ptr<DrawnShape> shape);
+
+}  // namespace plotsmith::xlsx

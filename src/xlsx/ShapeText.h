@@ -1,0 +1,16 @@
+#pragma once
+
+#include <memory>
+
+#include "host/excel/TextFrame.h"
+#include "host/excel/TextFrame2.h"
+
+namespace plotsmith::xlsx {
+
+class DrawnShape;
+
+/// The text of a shape, for the port. A shape that follows its text does so at each change.
+excel::Ref<excel::TextFrame> MakeTextFrame(std::shared_ptr<DrawnShape> shape);
+excel::Ref<excel::TextFrame2> MakeTextFrame2(std::shared_ptr<DrawnShape> shape);
+
+}  // namespace plotsmith::xlsx

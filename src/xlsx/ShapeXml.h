@@ -1,0 +1,48 @@
+#pragma once
+
+#include <functional>
+#include <pugixml.hpp>
+#include <span>
+#include <string>
+#include <string_view>
+
+/// The elements of shapes, which are the same on a sheet and on a chart but for their prefix.
+namespace plotsmith::xlsx {
+
+/// Where a shape lies, in points from the sheet's or the chart's corner.
+struct Frame {
+  double left = 0, top = 0, width = 0, height = 0;
+
+  double Right() const { return left + width; }
+  double Bottom() const { return top + height; }
+};
+
+inline constexpr double kEmuPerPoint = 12700;
+long long Emu(double points);
+
+/// Calls `visit` for each anchor of one of the names, from back to front, with the object that it anchors.
+void ForEachAnchor(pugi::xml_node root, std::span<const std::string_view> anchors,
+                   const std::function<void(pugi::xml_node anchor, pugi::xml_node object)>& visit);
+/// The object on an anchor, or a null node.
+pugi::xml_node ObjectOf(pugi::xml_node anchor);
+/// The name and the like of an object (cNvPr).
+pugi::xml_node IdentityOf(pugi::xml_node object);
+/// The properties that only objects of its kind have (cNvSpPr, cNvPicPr), or a null node.
+pugi::xml_node KindPropertiesOf(pugi::xml_node object);
+/// The shape properties (spPr, or a group's grpSpPr), or a null node.
+pugi::xml_node ShapePropertiesOf(pugi::xml_node object);
+/// An unused id for a shape of the document.
+unsigned NextShapeId(pugi::xml_node root);
+
+/// Place and extent as the object itself has them, beside its anchor.
+void SetTransform(pugi::xml_node object, const Frame& frame);
+
+/// "@" in a template stands for the prefix of the drawing's elements and "~" for that of DrawingML's.
+std::string Prefixed(std::string text, const std::string& prefix, const std::string& drawingMl);
+/// Templates of new objects. `dress` is what follows the shape's form.
+std::string TextboxTemplate(unsigned id, std::string_view name, const Frame& frame, std::string_view dress);
+std::string AutoShapeTemplate(unsigned id, std::string_view name, const Frame& frame,
+                              std::string_view preset);
+std::string GroupTemplate(unsigned id, std::string_view name, const Frame& frame);
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,60 @@
+#include "tests/support/HostTest.h"
+#include "xlsx/ShapeEnumerations.h"
+#include "xlsx/Worksheet.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+using S = std::string;
+
+class SheetShapesTest : public test::HostTest {};
+
+TEST_F(SheetShapesTest, MoveByTheirAnchors) {
+  test::PlainBook book;
+  book.sheets = {test::SalesSheet("Sheet1")};
+  book.sheets[0].frames = {{"id", ""}};
+  book.sheets[0].extraAnchors =
+      "<xdr:absoluteAnchor><xdr:pos x=\"12700\" y=\"25400\"/><xdr:ext cx=\"127000\" cy=\"254000\"/><xdr:sp>"
+      "<xdr:nvSpPr><xdr:cNvPr id=\"5\" name=\"Abs\"/><xdr:cNvSpPr/></xdr:nvSpPr><xdr:spPr/></xdr:sp>"
+      "<xdr:clientData/></xdr:absoluteAnchor><xdr:oneCellAnchor><xdr:from><xdr:col>1</xdr:col><xdr:colOff>0"
+      "</xdr:colOff><xdr:row>1</xdr:row><xdr:rowOff>0</xdr:rowOff></xdr:from><xdr:ext cx=\"127000\" "
+      "cy=\"254000\"/><xdr:pic><xdr:nvPicPr><xdr:cNvPr id=\"6\" name=\"One\"/><xdr:cNvPicPr/></xdr:nvPicPr>"
+      "<xdr:blipFill/><xdr:spPr/></xdr:pic><xdr:clientData/></xdr:oneCellAnchor>";
+  Open(book);
+  const auto shapes = [&] { return Book().FindWorksheet("Sheet1")->Shapes(); };
+  shapes()->AddShape(5, 0, 0, 10, 10)->SetName("Two");
+  EXPECT_EQ(shapes()->Item("Two")->Type(), excel::msoAutoShape);
+  for (const char* name : {"Chart 1", "Abs", "One", "Two"}) {
+    SCOPED_TRACE(name);
+    const auto shape = shapes()->Item(name);
+    shape->SetLeft(100);
+    shape->SetTop(50);
+    shape->SetLockAspectRatio(false);
+    shape->SetWidth(70);
+    shape->SetHeight(35);
+    shape->SetName(S(name) + "!");
+  }
+  SaveAndReopen();
+  for (const char* name : {"Chart 1!", "Abs!", "One!", "Two!"}) {
+    SCOPED_TRACE(name);
+    const auto shape = shapes()->Item(name);
+    EXPECT_NEAR(shape->Left(), 100, 0.001);
+    EXPECT_NEAR(shape->Top(), 50, 0.001);
+    EXPECT_NEAR(shape->Width(), 70, 0.001);
+    EXPECT_NEAR(shape->Height(), 35, 0.001);
+  }
+  EXPECT_EQ(shapes()->Range({"Two!", "One!"})->Width(), 70);
+}
+
+TEST(ShapeEnumerationsTest, GoBothWays) {
+  for (const Enumeration* enumeration : {&kAutoShapes, &kTextAlignments, &kTextAnchors, &kAutoSizes}) {
+    for (const EnumerationEntry& entry : enumeration->entries) {
+      EXPECT_EQ(enumeration->Token(entry.number), entry.token) << entry.name;
+      EXPECT_EQ(enumeration->Number(entry.token), entry.number) << entry.name;
+    }
+    EXPECT_TRUE(enumeration->absent.empty() || enumeration->Number(enumeration->absent));
+  }
+}
+
+}  // namespace
+}  // namespace plotsmith::xlsx
