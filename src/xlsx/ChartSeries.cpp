@@ -1,19 +1,20 @@
 #include "xlsx/ChartSeries.h"
 
-#include <algorithm>
-#include <array>
 #include <string>
 
 #include "host/excel/Excel.h"
 #include "runtime/RuntimeError.h"
+#include "xlsx/ChartBorder.h"
 #include "xlsx/ChartData.h"
+#include "xlsx/ChartFit.h"
 #include "xlsx/ChartGroups.h"
+#include "xlsx/ChartInterior.h"
+#include "xlsx/ChartLabels.h"
+#include "xlsx/ChartMarker.h"
 #include "xlsx/ChartPart.h"
 #include "xlsx/ChartSchema.h"
-#include "xlsx/ChartText.h"
-#include "xlsx/Enumerations.h"
-#include "xlsx/Workbook.h"
-#include "xlsx/Xml.h"
+#include "xlsx/SeriesColors.h"
+#include "xlsx/SeriesHandle.h"
 
 namespace plotsmith::xlsx {
 
@@ -23,70 +24,6 @@ using runtime::Variant;
 
 namespace {
 
-/// What labels of each type show (XlDataLabelsType).
-struct LabelType {
-  std::int32_t number;
-  bool value, percent, category;
-};
-constexpr std::array<LabelType, 5> kLabelTypes = {{
-    {-4142, false, false, false},  // xlDataLabelsShowNone
-    {2, true, false, false},       // xlDataLabelsShowValue
-    {3, false, true, false},       // xlDataLabelsShowPercent
-    {4, false, false, true},       // xlDataLabelsShowLabel
-    {5, false, true, true},        // xlDataLabelsShowLabelAndPercent
-}};
-
-/// A series element, which its chart may lose while somebody still holds the object.
-struct SeriesHandle {
-  std::shared_ptr<ChartPart> part;
-  std::string order;  ///< the series' own number, by which it is found again
-
-  pugi::xml_node Node() const {
-    for (const pugi::xml_node& series : SeriesOf(*part)) {
-      if (schema::Val(series, "order") == order) return series;
-    }
-    throw RuntimeError(runtime::error::kApplication, "Method of object 'Series' failed");
-  }
-  std::string Path() const {
-    const auto all = SeriesOf(*part);
-    const auto at = std::find_if(all.begin(), all.end(), [&](const pugi::xml_node& series) {
-      return schema::Val(series, "order") == order;
-    });
-    return "Chart.SeriesCollection(" + std::to_string(at - all.begin() + 1) + ")";
-  }
-  const Journal& Log() const { return part->Book().Journal(); }
-};
-
-class Labels final : public excel::DataLabels {
- public:
-  explicit Labels(SeriesHandle series) : series_(std::move(series)) {}
-
-  Ref<excel::Font> Font() override {
-    return MakeFont(
-        *series_.part, [series = series_] { return schema::Ensure(series.Node(), "dLbls"); },
-        Path() + ".Font");
-  }
-  void SetAutoScaleFont(const Variant& value) override {
-    series_.Log().Put([this] { return Path(); }, "AutoScaleFont", value);
-  }
-  void SetPosition(std::int32_t position) override {
-    series_.Log().Put([this] { return Path(); }, "Position", position);
-    const auto token = kLabelPositions.Token(position);
-    const auto labels = schema::Find(series_.Node(), "dLbls");
-    if (!token || !labels) {
-      throw RuntimeError(runtime::error::kApplication,
-                         "Unable to set the Position property of the DataLabels class");
-    }
-    schema::SetVal(labels, "dLblPos", *token);
-    series_.part->MarkChanged();
-  }
-
- private:
-  std::string Path() const { return series_.Path() + ".DataLabels"; }
-
-  SeriesHandle series_;
-};
-
 class SeriesObject final : public excel::Series {
  public:
   explicit SeriesObject(SeriesHandle series) : series_(std::move(series)) {}
@@ -94,43 +31,79 @@ class SeriesObject final : public excel::Series {
   void SetName(const Variant& name) override { Set(SeriesData::kName, "Name", name); }
   void SetXValues(const Variant& reference) override { Set(SeriesData::kCategories, "XValues", reference); }
   void SetValues(const Variant& reference) override { Set(SeriesData::kValues, "Values", reference); }
+  void SetBubbleSizes(const Variant& reference) override {
+    Set(SeriesData::kBubbleSizes, "BubbleSizes", reference);
+    // where there are no bubbles, the sizes wait for the chart to have some
+    const pugi::xml_node node = series_.Node();
+    if (const ChartTypeEntry* type = TypeOf(node)) FitSeries(*series_.part, node, *type);
+  }
+  std::vector<Variant> Values() override { return CachedNumbers(FindValues(series_.Node())); }
+
+  void SetChartType(std::int32_t type) override {
+    Log("ChartType", type);
+    const ChartTypeEntry* entry = FindChartType(type);
+    if (entry == nullptr) throw CantSet("ChartType");
+    SetSeriesType(*series_.part, series_.Node(), *entry);
+  }
 
   void ApplyDataLabels(std::int32_t type) override {
     series_.Log().Call([this] { return series_.Path(); }, "ApplyDataLabels", {type});
-    const auto wanted = std::find_if(kLabelTypes.begin(), kLabelTypes.end(),
-                                     [&](const LabelType& entry) { return entry.number == type; });
-    if (wanted == kLabelTypes.end()) {
+    if (!ShowLabels(EnsureLabels(series_.Node()), type)) {
       throw RuntimeError(runtime::error::kApplication, "ApplyDataLabels method of Series class failed");
     }
-    const pugi::xml_node labels = schema::Ensure(series_.Node(), "dLbls");
-    const auto show = [&](const char* what, bool value) { schema::SetVal(labels, what, value ? "1" : "0"); };
-    schema::Remove(labels, "delete");
-    show("showLegendKey", false);
-    show("showVal", wanted->value);
-    show("showCatName", wanted->category);
-    show("showSerName", false);
-    show("showPercent", wanted->percent);
-    show("showBubbleSize", false);
     series_.part->MarkChanged();
   }
-
+  void SetHasDataLabels(bool value) override {
+    Log("HasDataLabels", value);
+    SetLabels(series_.Node(), value);
+    series_.part->MarkChanged();
+  }
   Ref<excel::DataLabels> DataLabels() override {
     const auto labels = schema::Find(series_.Node(), "dLbls");
     if (!labels || schema::BooleanVal(labels, "delete", false)) return nullptr;
-    return std::make_shared<Labels>(series_);
+    return MakeDataLabels(series_);
   }
+
+  Ref<excel::Interior> Interior() override {
+    return MakeInterior(Element(),
+                        [series = series_] { return AutomaticColor(*series.part, series.Node()); });
+  }
+  Ref<excel::Border> Border() override { return MakeBorder(Element()); }
+  void SetMarkerForegroundColor(std::int32_t color) override {
+    SetMarker(MarkerPart::kOutline, "MarkerForegroundColor", color);
+  }
+  void SetMarkerBackgroundColor(std::int32_t color) override {
+    SetMarker(MarkerPart::kFilling, "MarkerBackgroundColor", color);
+  }
+  void SetMarkerStyle(std::int32_t style) override { SetMarker(MarkerPart::kStyle, "MarkerStyle", style); }
+  void SetMarkerSize(std::int32_t points) override { SetMarker(MarkerPart::kSize, "MarkerSize", points); }
 
   void Delete() override {
     series_.Log().Call([this] { return series_.Path(); }, "Delete");
-    pugi::xml_node node = series_.Node();
-    node.parent().remove_child(node);
-    series_.part->MarkChanged();
+    series_.Node();
+    DeleteSeries(*series_.part, series_.entry);
   }
 
  private:
   void Set(SeriesData which, const char* property, const Variant& value) {
-    series_.Log().Put([this] { return series_.Path(); }, property, value);
+    Log(property, value);
     SetSeriesData(*series_.part, series_.Node(), which, value);
+  }
+  void SetMarker(MarkerPart which, const char* property, std::int32_t value) {
+    Log(property, value);
+    if (!xlsx::SetMarker(series_.Node(), which, value)) throw CantSet(property);
+    series_.part->MarkChanged();
+  }
+  ChartElement Element() const {
+    return {series_.part, [series = series_] { return series.Node(); },
+            [series = series_] { return series.Path(); }};
+  }
+  void Log(const char* property, const Variant& value) const {
+    series_.Log().Put([this] { return series_.Path(); }, property, value);
+  }
+  static RuntimeError CantSet(const char* property) {
+    return RuntimeError(runtime::error::kApplication,
+                        std::string("Unable to set the ") + property + " property of the Series class");
   }
 
   SeriesHandle series_;
@@ -140,13 +113,12 @@ class Collection final : public excel::SeriesCollection {
  public:
   explicit Collection(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
 
-  std::int32_t Count() override { return static_cast<std::int32_t>(SeriesOf(*part_).size()); }
+  std::int32_t Count() override { return static_cast<std::int32_t>(part_->Series().size()); }
   Ref<excel::Series> Item(std::int32_t index) override {
-    const auto all = SeriesOf(*part_);
-    if (index < 1 || index > static_cast<std::int32_t>(all.size())) {
+    if (index < 1 || index > Count()) {
       throw RuntimeError(runtime::error::kApplication, "Method 'Item' of object 'SeriesCollection' failed");
     }
-    return Object(all[static_cast<std::size_t>(index) - 1]);
+    return Object(part_->Series()[static_cast<std::size_t>(index) - 1]);
   }
   Ref<excel::Series> NewSeries() override {
     part_->Book().Journal().Call([] { return std::string("Chart.SeriesCollection"); }, "NewSeries");
@@ -154,8 +126,8 @@ class Collection final : public excel::SeriesCollection {
   }
 
  private:
-  Ref<excel::Series> Object(pugi::xml_node series) const {
-    return std::make_shared<SeriesObject>(SeriesHandle{part_, schema::Val(series, "order")});
+  Ref<excel::Series> Object(SeriesRef entry) const {
+    return std::make_shared<SeriesObject>(SeriesHandle{part_, std::move(entry)});
   }
 
   std::shared_ptr<ChartPart> part_;

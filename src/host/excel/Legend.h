@@ -24,7 +24,7 @@ class Legend {
   virtual double Top() { Pending(); }
   /// Null where the entries differ.
   virtual Variant AutoScaleFont() { Pending(); }
-  virtual Ref<excel::LegendEntries> LegendEntries() { Pending(); }
+  virtual Ref<excel::LegendEntries> LegendEntries() = 0;
 };
 
 }  // namespace plotsmith::excel
