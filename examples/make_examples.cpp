@@ -66,6 +66,13 @@ class ExampleBook {
     SaveChartDefinition(document);
   }
 
+  /// The comment box of the last chart, at its top right corner.
+  void Comment(const excel::Ref<excel::Worksheet>& sheet, double right, double top, const std::string& text) {
+    const auto box = sheet->Shapes()->AddTextbox(excel::msoTextOrientationHorizontal, right - 5, top + 5, 180, 120);
+    box->SetAlternativeText("VEX_Chart" + std::to_string(charts_));
+    box->TextFrame()->Characters()->SetText(text);
+  }
+
   void Finish(const std::string& path) {
     ResetRunVariables();
     host_->Book().AllSheets().front()->object->Activate();
@@ -152,8 +159,8 @@ void MakeSales(const std::string& path) {
                  Settings({"3D"}));
   book.Chart(charts, 10, 590, w, h, table + "type=\"bar\" title=\"Units in all\"",
              Columns("categories", "rows", {"Line"}) + Columns("series", "none", {}) + Columns("values", "", {"Units"}) +
-                 Axes("", "Pieces") + kLabels + Settings({}) +
-                 "<comment>City bikes sell best, but it is the E-Bikes that bring the money.</comment>");
+                 Axes("", "Pieces") + kLabels + Settings({}));
+  book.Comment(charts, 10 + w, 590, "City bikes sell best, but it is the E-Bikes that bring the money.");
   book.Finish(path);
 }
 

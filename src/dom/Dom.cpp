@@ -7,6 +7,7 @@
 
 #include "dom/XmlDepth.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Strings.h"
 
 namespace plotsmith::dom {
 
@@ -26,12 +27,24 @@ bool IsWellFormed(std::string_view xml) {
          XML_Parse(parser.get(), xml.data(), static_cast<int>(xml.size()), XML_TRUE) == XML_STATUS_OK;
 }
 
-/// Without the characters that XML can't hold in any way: a text with one of them would not parse again.
-std::string Writable(std::string text) {
-  std::erase_if(text, [](char c) {
-    return static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\n' && c != '\r';
-  });
-  return text;
+/// Without the characters that XML can't hold in any way, halves of a character among them: a text with one
+/// of them would not parse again. Halves that have come together are one character.
+std::string Writable(std::string_view text) {
+  const std::u16string units = runtime::ToUtf16(text);
+  const auto isHigh = [&](std::size_t i) {
+    return i < units.size() && units[i] >= 0xD800 && units[i] < 0xDC00;
+  };
+  const auto isLow = [&](std::size_t i) {
+    return i < units.size() && units[i] >= 0xDC00 && units[i] < 0xE000;
+  };
+  std::u16string kept;
+  for (std::size_t i = 0; i < units.size(); ++i) {
+    const char16_t unit = units[i];
+    const bool control = unit < 0x20 && unit != '\t' && unit != '\n' && unit != '\r';
+    const bool half = isHigh(i) ? !isLow(i + 1) : isLow(i) && (i == 0 || !isHigh(i - 1));
+    if (!control && !half && unit < 0xFFFE) kept += unit;
+  }
+  return runtime::ToUtf8(kept);
 }
 
 }  // namespace
@@ -156,7 +169,7 @@ IXMLDOMElement IXMLDOMDocument2::createElement(const char* name) const {
 IXMLDOMNode IXMLDOMDocument2::createTextNode(std::string_view text) const {
   Checked();
   pugi::xml_node node = tree_->detached.append_child(pugi::node_pcdata);
-  node.set_value(Writable(std::string(text)).c_str());
+  node.set_value(Writable(text).c_str());
   return {tree_, node};
 }
 

@@ -1,11 +1,13 @@
 #include "xlsx/Chart.h"
 
+#include <optional>
 #include <string>
 
 #include "runtime/RuntimeError.h"
 #include "xlsx/Application.h"
 #include "xlsx/ChartAxes.h"
 #include "xlsx/ChartAxis.h"
+#include "xlsx/ChartData.h"
 #include "xlsx/ChartFill.h"
 #include "xlsx/ChartGroups.h"
 #include "xlsx/ChartLegend.h"
@@ -13,6 +15,7 @@
 #include "xlsx/ChartSchema.h"
 #include "xlsx/ChartSeries.h"
 #include "xlsx/ChartText.h"
+#include "xlsx/ChartTypes.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/Xml.h"
 
@@ -32,10 +35,25 @@ RuntimeError Failed(const char* member) {
                       std::string("Unable to get the ") + member + " property of the Chart class");
 }
 
+/// The title that the chart shows; nothing if it shows none. A chart of one series is titled by its name
+/// without a title of its own, as long as nobody took that away.
+std::optional<std::string> ShownTitle(ChartPart& part) {
+  const auto title = schema::Find(part.Chart(), "title");
+  if (title && schema::Find(title, "tx")) return TitleText(title);
+  if (!title && schema::BooleanVal(part.Chart(), "autoTitleDeleted", false)) return std::nullopt;
+  const auto series = SeriesOf(part);
+  if (series.size() == 1) {
+    const std::string name = SeriesText(series[0]);
+    if (title || !name.empty()) return name.empty() ? "Chart Title" : name;
+  }
+  return title ? std::optional<std::string>("Chart Title") : std::nullopt;
+}
+
 class Title final : public excel::ChartTitle {
  public:
   explicit Title(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
 
+  std::string Text() override { return ShownTitle(*part_).value_or(std::string()); }
   void SetText(std::string_view text) override {
     part_->Book().Journal().Put([] { return std::string("Chart.ChartTitle"); }, "Text", text);
     const auto title = schema::Find(part_->Chart(), "title");
@@ -79,6 +97,8 @@ Chart::Chart(std::shared_ptr<ChartPart> part, std::weak_ptr<Shape> frame)
 
 Ref<excel::Application> Chart::Application() { return part_->Book().Application(); }
 
+std::int32_t Chart::ChartType() { return TypeOfChart(*part_); }
+
 void Chart::SetChartType(std::int32_t type) {
   part_->Book().Journal().Put(Self, "ChartType", type);
   const ChartTypeEntry* entry = FindChartType(type);
@@ -90,6 +110,8 @@ void Chart::SetChartType(std::int32_t type) {
 }
 
 Ref<excel::SeriesCollection> Chart::SeriesCollection() { return MakeSeriesCollection(part_); }
+
+bool Chart::HasTitle() { return ShownTitle(*part_).has_value(); }
 
 void Chart::SetHasTitle(bool value) {
   part_->Book().Journal().Put(Self, "HasTitle", value);
@@ -107,9 +129,11 @@ void Chart::SetHasTitle(bool value) {
 }
 
 Ref<excel::ChartTitle> Chart::ChartTitle() {
-  if (!schema::Find(part_->Chart(), "title")) throw Failed("ChartTitle");
+  if (!ShownTitle(*part_)) throw Failed("ChartTitle");
   return std::make_shared<Title>(part_);
 }
+
+bool Chart::HasLegend() { return static_cast<bool>(schema::Find(part_->Chart(), "legend")); }
 
 void Chart::SetHasLegend(bool value) {
   part_->Book().Journal().Put(Self, "HasLegend", value);

@@ -15,10 +15,13 @@ class Chart final : public excel::Chart {
   Chart(std::shared_ptr<ChartPart> part, std::weak_ptr<Shape> frame);
 
   excel::Ref<excel::Application> Application() override;
+  std::int32_t ChartType() override;
   void SetChartType(std::int32_t type) override;
   excel::Ref<excel::SeriesCollection> SeriesCollection() override;
+  bool HasTitle() override;
   void SetHasTitle(bool value) override;
   excel::Ref<excel::ChartTitle> ChartTitle() override;
+  bool HasLegend() override;
   void SetHasLegend(bool value) override;
   excel::Ref<excel::Legend> Legend() override;
   bool HasAxis(std::int32_t type) override;

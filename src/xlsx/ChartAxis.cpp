@@ -44,6 +44,10 @@ class Title final : public excel::AxisTitle {
  public:
   explicit Title(AxisHandle axis) : axis_(std::move(axis)) {}
 
+  std::string Text() override {
+    const auto title = Node();
+    return schema::Find(title, "tx") ? TitleText(title) : "Axis Title";
+  }
   void SetText(std::string_view text) override {
     axis_.Log().Put([this] { return Path(); }, "Text", text);
     SetTitleText(Node(), text);
@@ -52,9 +56,15 @@ class Title final : public excel::AxisTitle {
 
   Ref<excel::Font> Font() override {
     return MakeFont(
-        *axis_.part, [axis = axis_] { return schema::Ensure(axis.Node(), "title"); }, Path() + ".Font");
+        *axis_.part,
+        [axis = axis_] {
+          return LooksOf(*axis.part, schema::Find(axis.Node(), "title"), TextRole::kAxisTitle);
+        },
+        [axis = axis_] { return schema::Ensure(axis.Node(), "title"); }, Path() + ".Font");
   }
 
+  /// Not in the file; Excel's default.
+  Variant AutoScaleFont() override { return true; }
   void SetAutoScaleFont(const Variant& value) override {
     axis_.Log().Put([this] { return Path(); }, "AutoScaleFont", value);
   }
@@ -86,6 +96,13 @@ class Ticks final : public excel::TickLabels {
  public:
   explicit Ticks(AxisHandle axis) : axis_(std::move(axis)) {}
 
+  bool NumberFormatLinked() override {
+    const auto format = schema::Find(axis_.Node(), "numFmt");
+    return !format || xml::BooleanAttribute(format, "sourceLinked", false);
+  }
+  std::string NumberFormat() override {
+    return xml::Attribute(schema::Find(axis_.Node(), "numFmt"), "formatCode", "General");
+  }
   void SetNumberFormatLinked(bool value) override {
     axis_.Log().Put([this] { return axis_.Path() + ".TickLabels"; }, "NumberFormatLinked", value);
     const pugi::xml_node format = schema::Ensure(axis_.Node(), "numFmt");

@@ -6,6 +6,7 @@
 #include "runtime/RuntimeError.h"
 #include "xlsx/CellText.h"
 #include "xlsx/ChartFit.h"
+#include "xlsx/ChartLook.h"
 #include "xlsx/ChartPart.h"
 #include "xlsx/ChartSchema.h"
 #include "xlsx/Limits.h"
@@ -138,6 +139,12 @@ std::size_t PointsIn(pugi::xml_node cache) {
 }
 
 }  // namespace
+
+std::string SeriesText(pugi::xml_node series) {
+  const auto tx = schema::Find(series, "tx");
+  if (const auto literal = schema::Find(tx, "v")) return xml::Text(literal);
+  return TitleText(series);
+}
 
 void SetSeriesData(ChartPart& part, pugi::xml_node series, SeriesData which, const Variant& value) {
   const auto* text = value.If<std::string>();

@@ -9,6 +9,7 @@
 #include "runtime/RuntimeError.h"
 #include "xlsx/ChartData.h"
 #include "xlsx/ChartFit.h"
+#include "xlsx/ChartLook.h"
 #include "xlsx/ChartSchema.h"
 #include "xlsx/ChartText.h"
 #include "xlsx/Enumerations.h"
@@ -42,6 +43,26 @@ constexpr std::array<const char*, 5> kRepeated = {"numFmt", "spPr", "txPr", "dLb
 RuntimeError CantSet(const char* property, const char* of) {
   return RuntimeError(runtime::error::kApplication,
                       std::string("Unable to set the ") + property + " property of the " + of + " class");
+}
+
+/// What the labels show, where that is one of the types. What shows more than one thing counts by its value,
+/// then by its percentage: of all it shows, those two can be drawn again.
+Variant TypeOfLabels(pugi::xml_node labels) {
+  if (!ShowsAnything(labels)) {
+    for (const pugi::xml_node& point : xml::Children(labels, "dLbl")) {
+      if (ShowsAnything(point)) return TypeOfLabels(point);
+    }
+    return excel::xlNone;
+  }
+  const auto shows = [&](const char* what) { return schema::BooleanVal(labels, what, false); };
+  if (shows("showVal")) return 2;
+  for (const LabelType& type : kLabelTypes) {
+    if (!type.value && type.percent == shows("showPercent") && type.category == shows("showCatName") &&
+        (type.percent || type.category)) {
+      return type.number;
+    }
+  }
+  return shows("showBubbleSize") ? Variant(6) : runtime::kNull;
 }
 
 /// The labels of a series and those of single points, which are told everything again.
@@ -120,10 +141,18 @@ class Labels final : public excel::DataLabels {
 
   Ref<excel::Font> Font() override {
     return MakeFont(
-        *series_.part, [series = series_] { return EnsureLabels(series.Node()); }, Path() + ".Font");
+        *series_.part,
+        [series = series_] {
+          const auto node = series.Node();
+          return LooksOfLabels(*series.part, FindLabels(node), PointCount(node));
+        },
+        [series = series_] { return EnsureLabels(series.Node()); }, Path() + ".Font");
   }
+  /// Not in the file; Excel's default.
+  Variant AutoScaleFont() override { return true; }
   void SetAutoScaleFont(const Variant& value) override { Log("AutoScaleFont", value); }
 
+  Variant Type() override { return TypeOfLabels(FindLabels(series_.Node())); }
   void SetPosition(std::int32_t position) override {
     Log("Position", position);
     const auto token = kLabelPositions.Token(position);
@@ -204,6 +233,11 @@ bool ShowsAnything(pugi::xml_node labels) {
                      [&](const char* what) { return schema::BooleanVal(labels, what, false); });
 }
 
+bool HasLabels(pugi::xml_node labels) {
+  const auto points = xml::Children(labels, "dLbl");
+  return ShowsAnything(labels) || std::any_of(points.begin(), points.end(), ShowsAnything);
+}
+
 bool ShowLabels(pugi::xml_node labels, std::int32_t type) {
   const auto wanted = std::find_if(kLabelTypes.begin(), kLabelTypes.end(),
                                    [&](const LabelType& entry) { return entry.number == type; });
@@ -222,7 +256,7 @@ bool ShowLabels(pugi::xml_node labels, std::int32_t type) {
 void SetLabels(pugi::xml_node series, bool shown) {
   if (shown) {
     const pugi::xml_node labels = EnsureLabels(series);
-    if (!ShowsAnything(labels)) ShowLabels(labels, excel::xlDataLabelsShowValue);
+    if (!HasLabels(labels)) ShowLabels(labels, excel::xlDataLabelsShowValue);
     return;
   }
   schema::Remove(series, "dLbls");

@@ -14,8 +14,9 @@ excel::Ref<excel::DataLabels> MakeDataLabels(SeriesHandle series);
 pugi::xml_node FindLabels(pugi::xml_node series);
 /// Its own, which begin as the group's.
 pugi::xml_node EnsureLabels(pugi::xml_node series);
-/// Whether labels show anything by themselves.
+/// Whether labels show anything by themselves, and whether they or one of a point's do.
 bool ShowsAnything(pugi::xml_node labels);
+bool HasLabels(pugi::xml_node labels);
 
 /// Makes the labels show what a type (XlDataLabelsType) says; false if there is no such type.
 bool ShowLabels(pugi::xml_node labels, std::int32_t type);

@@ -21,24 +21,33 @@ std::string EmptyChart(bool strict) {
          R"(<c:plotVisOnly val="1"/><c:dispBlanksAs val="gap"/></c:chart></c:chartSpace>)";
 }
 
+bool ChartPart::IsReadable() {
+  Load();
+  return static_cast<bool>(document_);
+}
+
 pugi::xml_node ChartPart::Space() {
-  if (!document_ && !unreadable_) {
-    auto document = std::make_unique<pugi::xml_document>();
-    try {
-      if (part_.empty()) throw PackageError("the chart's part is missing");
-      InPart(part_, [&] {
-        xml::Parse(*document, book_.Package().Read(part_));
-        if (!xml::Is(xml::Root(*document), "chartSpace")) throw PackageError("it is no chart");
-      });
-      document_ = std::move(document);
-    } catch (const PackageError& e) {
-      unreadable_ = e.what();
-    }
-  }
+  Load();
   // One chart that can't be read is no reason to give the workbook up: the error is this chart's.
-  if (!document_)
+  if (!document_) {
     throw RuntimeError(runtime::error::kApplication, "The chart can't be read: " + *unreadable_ + ".");
+  }
   return xml::Root(*document_);
+}
+
+void ChartPart::Load() {
+  if (document_ || unreadable_) return;
+  auto document = std::make_unique<pugi::xml_document>();
+  try {
+    if (part_.empty()) throw PackageError("the chart's part is missing");
+    InPart(part_, [&] {
+      xml::Parse(*document, book_.Package().Read(part_));
+      if (!xml::Is(xml::Root(*document), "chartSpace")) throw PackageError("it is no chart");
+    });
+    document_ = std::move(document);
+  } catch (const PackageError& e) {
+    unreadable_ = e.what();
+  }
 }
 
 pugi::xml_node ChartPart::Chart() { return schema::Ensure(Space(), "chart"); }
@@ -111,13 +120,7 @@ void ChartPart::Follow() {
 }
 
 void ChartPart::Write() {
-  if (!document_ && !book_.Shifts().None()) {
-    try {
-      Space();
-    } catch (const RuntimeError&) {
-      return;
-    }
-  }
+  if (!book_.Shifts().None()) Load();
   if (!document_) return;
   Follow();
   if (!changed_) return;

@@ -32,6 +32,7 @@ class ChartPart {
   Workbook& Book() const { return book_; }
   /// The chartSpace element; error 1004 if the part can't be read.
   pugi::xml_node Space();
+  bool IsReadable();
   /// The chart element, and the plot area, made if they are missing.
   pugi::xml_node Chart();
   pugi::xml_node PlotArea();
@@ -58,6 +59,7 @@ class ChartPart {
   void Forget(const std::string& state);
 
  private:
+  void Load();
   void Follow();
 
   Workbook& book_;

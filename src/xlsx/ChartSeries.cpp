@@ -13,8 +13,10 @@
 #include "xlsx/ChartMarker.h"
 #include "xlsx/ChartPart.h"
 #include "xlsx/ChartSchema.h"
+#include "xlsx/ChartTypes.h"
 #include "xlsx/SeriesColors.h"
 #include "xlsx/SeriesHandle.h"
+#include "xlsx/Xml.h"
 
 namespace plotsmith::xlsx {
 
@@ -28,6 +30,13 @@ class SeriesObject final : public excel::Series {
  public:
   explicit SeriesObject(SeriesHandle series) : series_(std::move(series)) {}
 
+  std::string Name() override {
+    const auto series = series_.Node();
+    const std::string name = SeriesText(series);
+    if (schema::Find(series, "tx")) return name;
+    // counted from the first, whatever its place in the file
+    return "Series" + std::to_string(xml::ParseInteger(schema::Val(series, "idx")).value_or(0) + 1);
+  }
   void SetName(const Variant& name) override { Set(SeriesData::kName, "Name", name); }
   void SetXValues(const Variant& reference) override { Set(SeriesData::kCategories, "XValues", reference); }
   void SetValues(const Variant& reference) override { Set(SeriesData::kValues, "Values", reference); }
@@ -39,6 +48,7 @@ class SeriesObject final : public excel::Series {
   }
   std::vector<Variant> Values() override { return CachedNumbers(FindValues(series_.Node())); }
 
+  std::int32_t ChartType() override { return TypeOfSeries(series_.Node()); }
   void SetChartType(std::int32_t type) override {
     Log("ChartType", type);
     const ChartTypeEntry* entry = FindChartType(type);
@@ -53,14 +63,14 @@ class SeriesObject final : public excel::Series {
     }
     series_.part->MarkChanged();
   }
+  bool HasDataLabels() override { return HasLabels(FindLabels(series_.Node())); }
   void SetHasDataLabels(bool value) override {
     Log("HasDataLabels", value);
     SetLabels(series_.Node(), value);
     series_.part->MarkChanged();
   }
   Ref<excel::DataLabels> DataLabels() override {
-    const auto labels = schema::Find(series_.Node(), "dLbls");
-    if (!labels || schema::BooleanVal(labels, "delete", false)) return nullptr;
+    if (!HasDataLabels()) return nullptr;
     return MakeDataLabels(series_);
   }
 
@@ -113,7 +123,10 @@ class Collection final : public excel::SeriesCollection {
  public:
   explicit Collection(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
 
-  std::int32_t Count() override { return static_cast<std::int32_t>(part_->Series().size()); }
+  /// None in a chart that can't be read, so that it is no reason to stop for whoever looks at all charts.
+  std::int32_t Count() override {
+    return part_->IsReadable() ? static_cast<std::int32_t>(part_->Series().size()) : 0;
+  }
   Ref<excel::Series> Item(std::int32_t index) override {
     if (index < 1 || index > Count()) {
       throw RuntimeError(runtime::error::kApplication, "Method 'Item' of object 'SeriesCollection' failed");

@@ -47,8 +47,26 @@ RuntimeError CantSet(const char* property) {
 
 class ChartFont final : public excel::Font {
  public:
-  ChartFont(ChartPart& part, std::function<pugi::xml_node()> element, std::string path)
-      : part_(part), element_(std::move(element)), path_(std::move(path)) {}
+  ChartFont(ChartPart& part, std::function<std::vector<TextLook>()> looks,
+            std::function<pugi::xml_node()> element, std::string path)
+      : part_(part), looks_(std::move(looks)), element_(std::move(element)), path_(std::move(path)) {}
+
+  Variant Name() override {
+    return Common([](const TextLook& look) { return Variant(look.typeface); });
+  }
+  Variant Size() override {
+    return Common([](const TextLook& look) { return Variant(look.points); });
+  }
+  Variant FontStyle() override {
+    return Common([](const TextLook& look) {
+      return Variant(look.bold ? (look.italic ? "Bold Italic" : "Bold") : look.italic ? "Italic" : "Regular");
+    });
+  }
+  Variant Color() override {
+    return Common([](const TextLook& look) { return Variant(look.color); });
+  }
+  /// The file has no such property.
+  Variant Background() override { return excel::xlBackgroundAutomatic; }
 
   void SetName(const Variant& name) override {
     const std::string typeface = runtime::CStr(name);
@@ -92,7 +110,20 @@ class ChartFont final : public excel::Font {
     part_.MarkChanged();
   }
 
+  /// A property of all of the text, or Null.
+  template <class Get>
+  Variant Common(const Get& get) const {
+    Variant common;
+    for (const TextLook& look : looks_()) {
+      const Variant own = get(look);
+      if (!common.IsEmpty() && common != own) return runtime::kNull;
+      common = own;
+    }
+    return common;
+  }
+
   ChartPart& part_;
+  std::function<std::vector<TextLook>()> looks_;
   std::function<pugi::xml_node()> element_;
   std::string path_;
 };
@@ -181,9 +212,9 @@ bool SetTextOrientation(pugi::xml_node body, std::int32_t orientation) {
   return true;
 }
 
-excel::Ref<excel::Font> MakeFont(ChartPart& part, std::function<pugi::xml_node()> element,
-                                 std::string journalPath) {
-  return std::make_shared<ChartFont>(part, std::move(element), std::move(journalPath));
+excel::Ref<excel::Font> MakeFont(ChartPart& part, std::function<std::vector<TextLook>()> looks,
+                                 std::function<pugi::xml_node()> element, std::string journalPath) {
+  return std::make_shared<ChartFont>(part, std::move(looks), std::move(element), std::move(journalPath));
 }
 
 }  // namespace plotsmith::xlsx

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "host/excel/Font.h"
+#include "xlsx/ChartLook.h"
 
 namespace plotsmith::xlsx {
 
@@ -25,8 +26,9 @@ std::vector<pugi::xml_node> TextBodies(pugi::xml_node element);
 bool SetTextOrientation(pugi::xml_node body, std::int32_t orientation);
 
 /// The font of a chart's element. A title's font is that of all its runs; of anything else, which has no text
-/// of its own, it is the default of its text properties.
-excel::Ref<excel::Font> MakeFont(ChartPart& part, std::function<pugi::xml_node()> element,
-                                 std::string journalPath);
+/// of its own, it is the default of its text properties. `looks` tells how the text looks now, `element` is
+/// what holds it, made where it is missing.
+excel::Ref<excel::Font> MakeFont(ChartPart& part, std::function<std::vector<TextLook>()> looks,
+                                 std::function<pugi::xml_node()> element, std::string journalPath);
 
 }  // namespace plotsmith::xlsx

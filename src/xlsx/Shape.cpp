@@ -47,6 +47,11 @@ class ShapeCharacters final : public excel::Characters {
   ShapeCharacters(std::shared_ptr<Shape> shape, std::size_t start, std::optional<std::size_t> length)
       : shape_(std::move(shape)), start_(start), length_(length) {}
 
+  std::string Text() override {
+    const std::u16string units = runtime::ToUtf16(shape_->Text());
+    const std::size_t at = std::min(start_ - 1, units.size());
+    return runtime::ToUtf8(units.substr(at, length_.value_or(units.size())));
+  }
   void SetText(std::string_view text) override {
     Log([&](const auto& journal, const auto& path) { journal.Put(path, "Text", text); });
     Replace(text);

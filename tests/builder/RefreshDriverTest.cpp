@@ -7,6 +7,7 @@
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
 #include "metadata/MetadataStore.h"
+#include "metadata/TableDefinitions.h"
 #include "tests/support/HostTest.h"
 #include "xlsx/Shape.h"
 #include "xlsx/Worksheet.h"
@@ -165,42 +166,68 @@ TEST_F(RefreshDriverTest, StoredPropertiesAndTheirDefaults) {
             std::vector<S>{"Brindle Plotsmith: PSChartBuilder.RetrievePersistedProperties\nType mismatch"});
 }
 
+/// Puts a comment into a definition in memory, as a person does in the wizard, and builds the chart.
+void Comment(const S& id, const S& text) {
+  RetrieveTableDefinitions();
+  RetrieveChartDefinitions();
+  const auto document = colCharts->Item(id);
+  auto chart = document.documentElement();
+  if (auto old = chart.selectSingleNode("comment")) chart.removeChild(old);
+  auto comment = document.createElement("comment");
+  comment.appendChild(document.createTextNode(text));
+  chart.appendChild(comment);
+  PopulateChart(id);
+  SaveChartDefinition(document);
+  colTables = colCharts = nullptr;
+}
+
 TEST_F(RefreshDriverTest, CommentsComeAndGoInPieces) {
   S text;
   for (int i = 0; i < 40; ++i) text += "0123456789";
   text.replace(199, 2, "\xF0\x9D\x84\x9E");  // units 200 and 201: the cut goes through the character
   text.insert(300, "\n");
-  Definition definition{"VEX_Chart1"};
-  definition.rest = "<comment>" + text + "</comment>";
-  Open(SalesBook({definition}));
-  Refresh();
-  const auto inserts = [&] {
+  Open(SalesBook({Definition{"VEX_Chart1"}}));
+  Comment("VEX_Chart1", text);
+  const auto calls = [&](const char* what) {
     return std::count_if(journal_.begin(), journal_.end(),
-                         [](const S& line) { return line.find(".Insert(") != S::npos; });
+                         [&](const S& line) { return line.find(what) != S::npos; });
   };
-  EXPECT_EQ(inserts(), 2);
+  EXPECT_EQ(calls("Sheets(\"Charts\").Shapes.AddTextbox(1, 379, 5, 180, 120)"), 1);
+  EXPECT_EQ(calls(".Insert("), 2);
   SaveAndReopen();
-  const auto shapes = oWorkbook->Worksheets()->Item("Charts")->Shapes();
-  ASSERT_EQ(shapes->Count(), 2);
-  const auto box = std::dynamic_pointer_cast<xlsx::Shape>(shapes->Item(2).shared());
-  EXPECT_EQ(box->Type(), excel::msoTextBox);
-  EXPECT_EQ(box->AlternativeText(), "VEX_Chart1");
-  EXPECT_EQ(box->Text(), text);
-  EXPECT_NEAR(box->Left(), shapes->Item(1)->Left() + shapes->Item(1)->Width() - 5, 0.01);
-  EXPECT_NEAR(box->Top(), 5, 0.01);
-  EXPECT_NEAR(box->Width(), 180, 0.01);
-  EXPECT_NEAR(box->Height(), 120, 0.01);
+  const auto shapes = [&] { return oWorkbook->Worksheets()->Item("Charts")->Shapes(); };
+  const auto box = [&] { return std::dynamic_pointer_cast<xlsx::Shape>(shapes()->Item(2).shared()); };
+  ASSERT_EQ(shapes()->Count(), 2);
+  EXPECT_EQ(box()->Type(), excel::msoTextBox);
+  EXPECT_EQ(box()->AlternativeText(), "VEX_Chart1");
+  EXPECT_EQ(box()->Text(), text);
+  EXPECT_NEAR(box()->Left(), shapes()->Item(1)->Left() + shapes()->Item(1)->Width() - 5, 0.01);
+  EXPECT_NEAR(box()->Top(), 5, 0.01);
+  EXPECT_NEAR(box()->Width(), 180, 0.01);
+  EXPECT_NEAR(box()->Height(), 120, 0.01);
 
-  // a second refresh writes into the same box; an empty comment takes it away
+  // what a person writes into the box is the comment from then on
   Refresh();
   SaveAndReopen();
-  EXPECT_EQ(oWorkbook->Worksheets()->Item("Charts")->Shapes()->Count(), 2);
-  S stored = Cells("VEX_ChartDefinitions", 2, 1, 2, 1);
-  stored.replace(stored.find("<comment>"), stored.find("</comment>") - stored.find("<comment>"), "<comment>");
-  Book().FindWorksheet("VEX_ChartDefinitions")->SetCellValueAt(2, 1, stored);
+  EXPECT_EQ(box()->Text(), text);
+  box()->SetText(text + " and more");
   Refresh();
   SaveAndReopen();
-  EXPECT_EQ(oWorkbook->Worksheets()->Item("Charts")->Shapes()->Count(), 1);
+  EXPECT_EQ(shapes()->Count(), 2);
+  EXPECT_EQ(box()->Text(), text + " and more");
+  EXPECT_NE(Cells("VEX_ChartDefinitions", 2, 1, 2, 1).find(" and more</comment>"), S::npos);
+
+  // an empty comment takes the box away, and a box taken away the comment
+  Comment("VEX_Chart1", "");
+  SaveAndReopen();
+  EXPECT_EQ(shapes()->Count(), 1);
+  Comment("VEX_Chart1", "again");
+  SaveAndReopen();
+  shapes()->Item(2)->Delete();
+  Refresh();
+  SaveAndReopen();
+  EXPECT_EQ(shapes()->Count(), 1);
+  EXPECT_EQ(Cells("VEX_ChartDefinitions", 2, 1, 2, 1).find("<comment"), S::npos);
 }
 
 }  // namespace

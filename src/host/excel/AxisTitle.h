@@ -15,9 +15,9 @@ class AxisTitle {
   virtual void SetAutoScaleFont(const Variant& value) = 0;
   /// Degrees from -90 to 90, or one of xlHorizontal, xlUpward, xlDownward, xlVertical.
   virtual void SetOrientation(std::int32_t orientation) = 0;
-  virtual std::string Text() { Pending(); }
+  virtual std::string Text() = 0;
   /// Null where the text's stretches differ.
-  virtual Variant AutoScaleFont() { Pending(); }
+  virtual Variant AutoScaleFont() = 0;
 };
 
 }  // namespace plotsmith::excel

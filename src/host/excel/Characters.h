@@ -15,7 +15,7 @@ class Characters {
   virtual void SetText(std::string_view text) = 0;
   /// Replaces the stretch, as SetText; a stretch that begins behind the text's end appends.
   virtual void Insert(std::string_view text) = 0;
-  virtual std::string Text() { Pending(); }
+  virtual std::string Text() = 0;
   virtual Ref<excel::Font> Font() { Pending(); }
 };
 

@@ -42,9 +42,9 @@ class Chart {
   virtual Ref<excel::ChartArea> ChartArea() = 0;
   virtual Ref<excel::PlotArea> PlotArea() = 0;
   /// XlChartType of the chart, or of its first series where types are mixed.
-  virtual std::int32_t ChartType() { Pending(); }
-  virtual bool HasTitle() { Pending(); }
-  virtual bool HasLegend() { Pending(); }
+  virtual std::int32_t ChartType() = 0;
+  virtual bool HasTitle() = 0;
+  virtual bool HasLegend() = 0;
   /// The shapes drawn on the chart itself.
   virtual Ref<excel::Shapes> Shapes() { Pending(); }
   /// A group of series of one kind, by its number in drawing order; error 1004 outside.

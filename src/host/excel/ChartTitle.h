@@ -9,7 +9,7 @@ class ChartTitle {
   virtual ~ChartTitle() = default;
 
   virtual void SetText(std::string_view text) = 0;
-  virtual std::string Text() { Pending(); }
+  virtual std::string Text() = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -16,9 +16,9 @@ class DataLabels {
   /// One of Excel's label positions (XlDataLabelPosition).
   virtual void SetPosition(std::int32_t position) = 0;
   /// Null where the labels differ.
-  virtual Variant AutoScaleFont() { Pending(); }
+  virtual Variant AutoScaleFont() = 0;
   /// What the labels show (XlDataLabelsType); Null where they differ or it is none of these.
-  virtual Variant Type() { Pending(); }
+  virtual Variant Type() = 0;
   virtual void SetHorizontalAlignment(std::int32_t alignment) = 0;
   virtual void SetVerticalAlignment(std::int32_t alignment) = 0;
   /// Degrees from -90 to 90, or one of xlHorizontal, xlUpward, xlDownward, xlVertical.

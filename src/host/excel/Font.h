@@ -17,12 +17,12 @@ class Font {
   virtual void SetFontStyle(const Variant& style) = 0;
   virtual void SetColor(const Variant& color) = 0;
   // What is read is Null where the text's stretches differ.
-  virtual Variant Name() { Pending(); }
-  virtual Variant Size() { Pending(); }
-  virtual Variant FontStyle() { Pending(); }
-  virtual Variant Color() { Pending(); }
+  virtual Variant Name() = 0;
+  virtual Variant Size() = 0;
+  virtual Variant FontStyle() = 0;
+  virtual Variant Color() = 0;
   /// XlBackground.
-  virtual Variant Background() { Pending(); }
+  virtual Variant Background() = 0;
   virtual void SetBackground(std::int32_t background) { Pending(); }
   virtual void SetBold(bool value) { Pending(); }
 };

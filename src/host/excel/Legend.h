@@ -19,11 +19,11 @@ class Legend {
   virtual void SetLeft(double points) = 0;
   virtual void SetTop(double points) = 0;
   /// Error 1004 where the legend stands at no such position.
-  virtual std::int32_t Position() { Pending(); }
-  virtual double Left() { Pending(); }
-  virtual double Top() { Pending(); }
+  virtual std::int32_t Position() = 0;
+  virtual double Left() = 0;
+  virtual double Top() = 0;
   /// Null where the entries differ.
-  virtual Variant AutoScaleFont() { Pending(); }
+  virtual Variant AutoScaleFont() = 0;
   virtual Ref<excel::LegendEntries> LegendEntries() = 0;
 };
 

@@ -23,11 +23,11 @@ class Series {
   /// Nothing while there are no labels.
   virtual Ref<excel::DataLabels> DataLabels() = 0;
   virtual void Delete() = 0;
-  virtual std::string Name() { Pending(); }
-  virtual std::int32_t ChartType() { Pending(); }
+  virtual std::string Name() = 0;
+  virtual std::int32_t ChartType() = 0;
   /// A type of its own for this series. Error 1004 for one that can't stand beside the others'.
   virtual void SetChartType(std::int32_t type) = 0;
-  virtual bool HasDataLabels() { Pending(); }
+  virtual bool HasDataLabels() = 0;
   virtual void SetHasDataLabels(bool value) = 0;
   /// The values, one for each point; Empty where there is none.
   virtual std::vector<Variant> Values() = 0;

@@ -10,8 +10,8 @@ class TickLabels {
 
   /// Whether the labels take the number format of the cells.
   virtual void SetNumberFormatLinked(bool value) = 0;
-  virtual bool NumberFormatLinked() { Pending(); }
-  virtual std::string NumberFormat() { Pending(); }
+  virtual bool NumberFormatLinked() = 0;
+  virtual std::string NumberFormat() = 0;
 };
 
 }  // namespace plotsmith::excel

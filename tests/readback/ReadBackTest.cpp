@@ -1,0 +1,380 @@
+#include <fstream>
+#include <map>
+
+#include "common/CommonFunctions.h"
+#include "common/RunVariables.h"
+#include "readback/ChartAppearance.h"
+#include "readback/ChartIdentity.h"
+#include "tests/support/HostTest.h"
+#include "xlsx/Shape.h"
+#include "xlsx/Worksheet.h"
+
+namespace plotsmith {
+namespace {
+
+namespace fs = std::filesystem;
+using S = std::string;
+
+/// A definition after the read-back in one line: "column 3D stacked | title | label axis | value axis |
+/// legend | labels | format", fonts as "Calibri 10 Bold 0".
+S Summary(const dom::IXMLDOMDocument2& document) {
+  const auto chart = document.documentElement();
+  std::map<S, S> persisted;
+  for (const auto& persist : chart.selectNodes("auto-persistence/persist")) {
+    persisted[GetAttributeText(persist, "property")] = GetAttributeText(persist, "value");
+  }
+  const auto font = [&](const S& keys) {
+    return persisted[keys + "-font-name"] + " " + persisted[keys + "-font-size"] + " " +
+           persisted[keys + "-font-style"] + " " + persisted[keys + "-font-color"];
+  };
+  S line = GetAttributeText(chart, "type");
+  for (const auto& attribute : chart.selectNodes("dynamic-attributes/attribute")) {
+    line += " " + GetAttributeText(attribute, "setting");
+  }
+  line += " | " + GetAttributeText(chart, "title");
+  for (const auto& [type, keys] : {std::pair<S, S>{"label", "LabelAxis"}, {"value", "ValueAxis"}}) {
+    line += " | ";
+    for (const auto& axis : chart.selectNodes("axes/axis")) {
+      if (GetAttributeText(axis, "type") != type) continue;
+      const S text = GetAttributeText(axis, "label");
+      line += text.empty() ? "-" : text + ", " + font(keys);
+    }
+  }
+  line += " | " + persisted["legend-visibility"];
+  if (persisted["legend-visibility"] == "show") {
+    line += persisted.contains("legend-position")
+                ? " " + persisted["legend-position"]
+                : " at " + persisted["legend-left"] + "," + persisted["legend-top"];
+    line += ", " + font("legend");
+  }
+  line += " |";
+  for (const auto& label : chart.selectNodes("data-labels/data-label"))
+    line += " " + GetAttributeText(label, "show");
+  line += " " + font("label");
+  const S format = GetAttributeText(chart, "number-format");
+  return format.empty() ? line : line + " | " + format;
+}
+
+class ReadBackTest : public test::HostTest {
+ protected:
+  static S ReadBack(const excel::Ref<excel::Chart>& chart) {
+    auto document = NewXMLDocument();
+    document.loadXML("<chart/>");
+    RevEngineerChart(chart, document);
+    return Summary(document);
+  }
+  static excel::Ref<excel::Chart> ChartOf(const excel::Ref<excel::Shape>& shape) {
+    return std::dynamic_pointer_cast<xlsx::Shape>(shape.shared())->Chart();
+  }
+};
+
+/// What stands in tests/readback/corpus.tsv: of each chart by file and number what the read-back says.
+std::map<S, S> ExpectedOfCorpus() {
+  std::map<S, S> expected;
+  std::ifstream file(fs::path(PLOTSMITH_SOURCE_DIR) / "tests" / "readback" / "corpus.tsv");
+  for (S line; std::getline(file, line);) {
+    const auto tab = line.find('\t');
+    expected[line.substr(0, tab)] = line.substr(tab + 1);
+  }
+  return expected;
+}
+
+TEST_F(ReadBackTest, ChartsAsExcelAndOthersSavedThem) {
+  std::error_code absent;
+  const auto folder = fs::path(PLOTSMITH_CORPUS_DIR) / "charts";
+  if (!fs::is_directory(folder, absent)) GTEST_SKIP() << "the corpus isn't there";
+  auto expected = ExpectedOfCorpus();
+  for (const auto& file : fs::directory_iterator(folder)) {
+    OpenFile(file.path().string());
+    int number = 0;
+    for (const auto& sheet : Book().AllSheets()) {
+      if (!sheet->worksheet) continue;
+      const auto shapes = sheet->worksheet->Shapes();
+      for (int i = 1; i <= shapes->Count(); ++i) {
+        if (shapes->Item(i)->Type() != excel::msoChart) continue;
+        const S key = file.path().filename().string() + " " + std::to_string(++number);
+        EXPECT_EQ(ReadBack(ChartOf(shapes->Item(i))), expected[key]) << key;
+        expected.erase(key);
+      }
+    }
+  }
+  for (const auto& [key, line] : expected) ADD_FAILURE() << key << " isn't there any more";
+}
+
+struct Case {
+  const char* what;
+  S chart;     ///< inside c:chart
+  S behind;    ///< behind it, in c:chartSpace
+  S expected;  ///< the summary, or a part of it
+};
+
+S Bar(const S& insideGroup, const S& axes = "") {
+  return "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>" + insideGroup +
+         "<c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart>" +
+         (axes.empty() ? S("<c:catAx><c:axId val=\"1\"/></c:catAx><c:valAx><c:axId val=\"2\"/></c:valAx>")
+                       : axes) +
+         "</c:plotArea>";
+}
+S Ser(const S& inside = "", int index = 0) {
+  const S i = std::to_string(index);
+  return "<c:ser><c:idx val=\"" + i + "\"/><c:order val=\"" + i + "\"/>" + inside +
+         "<c:val><c:numRef><c:f>Data1!$C$2:$C$4</c:f><c:numCache><c:ptCount "
+         "val=\"3\"/></c:numCache></c:numRef></c:val></c:ser>";
+}
+S Props(const S& properties) {
+  return "<c:txPr><a:bodyPr/><a:p><a:pPr><a:defRPr " + properties + "</a:defRPr></a:pPr></a:p></c:txPr>";
+}
+S Fill(const S& color) { return "<a:solidFill>" + color + "</a:solidFill>"; }
+S Rich(const S& runs, const S& defaults = "") {
+  return "<c:tx><c:rich><a:bodyPr/><a:p>" + defaults + runs + "</a:p></c:rich></c:tx>";
+}
+S TextRun(const S& text, const S& properties = "/>") {
+  return "<a:r><a:rPr " + properties + (properties == "/>" ? "" : "</a:rPr>") + "<a:t>" + text +
+         "</a:t></a:r>";
+}
+
+TEST_F(ReadBackTest, WaysToSayTheSame) {
+  const S one = Bar(Ser()), two = Bar(Ser() + Ser("", 1)), shown = "<c:showVal val=\"1\"/>";
+  const S untitled = "<c:autoTitleDeleted val=\"1\"/>";
+  const auto axes = [](const S& category, const S& value) {
+    return "<c:catAx><c:axId val=\"1\"/>" + category + "</c:catAx><c:valAx><c:axId val=\"2\"/>" + value +
+           "</c:valAx>";
+  };
+  const auto labels = [&](const S& inside) { return Bar(Ser("<c:dLbls>" + inside + "</c:dLbls>")); };
+  const Case cases[] = {
+      // titles
+      {"none, and one series without a name", one, "", "column |  | - | - | hide |"},
+      {"the name of the only series", Bar(Ser("<c:tx><c:v>Amount</c:v></c:tx>")), "", "column | Amount |"},
+      {"the name from its cell",
+       Bar(Ser("<c:tx><c:strRef><c:strCache><c:pt idx=\"0\"><c:v>A &amp; "
+               "B</c:v></c:pt></c:strCache></c:strRef></c:tx>")),
+       "", "column | A & B |"},
+      {"a title that was taken away", untitled + Bar(Ser("<c:tx><c:v>Amount</c:v></c:tx>")), "",
+       "column |  |"},
+      {"no name for several series", Bar(Ser("<c:tx><c:v>A</c:v></c:tx>") + Ser("", 1)), "", "column |  |"},
+      {"the title that waits for a text", "<c:title><c:overlay val=\"0\"/></c:title>" + two, "",
+       "column | Chart Title |"},
+      {"runs, breaks and fields",
+       "<c:title>" +
+           Rich(TextRun("Sales ") + TextRun("2025") + "<a:br/><a:fld id=\"x\"><a:t>now</a:t></a:fld>") +
+           "</c:title>" + one,
+       "", "column | Sales 2025\nnow |"},
+      {"paragraphs", "<c:title>" + Rich(TextRun("One") + "</a:p><a:p>" + TextRun("Two")) + "</c:title>" + one,
+       "", "column | One\nTwo |"},
+      {"a title of a cell",
+       "<c:title><c:tx><c:strRef><c:strCache><c:pt "
+       "idx=\"0\"><c:v>Cell</c:v></c:pt></c:strCache></c:strRef></c:tx></c:title>" +
+           one,
+       "", "column | Cell |"},
+      // axis titles and their fonts
+      {"Excel's defaults", untitled + Bar(Ser(), axes("<c:title>" + Rich(TextRun("L")) + "</c:title>", "")),
+       "", "| L, Calibri 10 Bold 0 | - |"},
+      {"size and colour of the whole chart",
+       untitled + Bar(Ser(), axes("<c:title>" + Rich(TextRun("L")) + "</c:title>", "")),
+       Props("sz=\"1400\" i=\"1\">" + Fill("<a:srgbClr val=\"FF0000\"/>") +
+             "<a:latin typeface=\"Georgia\"/>"),
+       "| L, Georgia 14 Bold Italic 255 |"},
+      {"the paragraph's defaults",
+       untitled +
+           Bar(Ser(), axes("<c:title>" + Rich(TextRun("L"), "<a:pPr><a:defRPr sz=\"800\" b=\"0\"/></a:pPr>") +
+                               "</c:title>",
+                           "")),
+       "", "| L, Calibri 8 Regular 0 |"},
+      {"a run wins over its paragraph",
+       untitled +
+           Bar(Ser(), axes("", "<c:title>" +
+                                   Rich(TextRun("V", "sz=\"1150\" b=\"1\"><a:latin typeface=\"+mj-lt\"/>"),
+                                        "<a:pPr><a:defRPr sz=\"800\" b=\"0\"/></a:pPr>") +
+                                   "</c:title>")),
+       "", "| V, Cambria 11.5 Bold 0 |"},
+      {"mixed fonts: the standard font, no colour, no style",
+       untitled +
+           Bar(Ser(), axes("<c:title>" +
+                               Rich(TextRun("A", "sz=\"800\" b=\"0\">") +
+                                    TextRun("B", "sz=\"900\" i=\"1\"><a:latin typeface=\"Georgia\"/>")) +
+                               "</c:title>",
+                           "")),
+       "", "| AB, Calibri 11  0 |"},
+      {"a title of a cell has text properties",
+       untitled + Bar(Ser(), axes("<c:title><c:tx><c:strRef><c:strCache><c:pt "
+                                  "idx=\"0\"><c:v>L</c:v></c:pt></c:strCache></c:strRef></c:tx>" +
+                                      Props("sz=\"700\">") + "</c:title>",
+                                  "")),
+       "", "| L, Calibri 7 Bold 0 |"},
+      {"an axis that is hidden still has its title",
+       untitled + Bar(Ser(), axes("<c:delete val=\"1\"/><c:title>" + Rich(TextRun("L")) + "</c:title>", "")),
+       "", "| L, Calibri 10 Bold 0 |"},
+      {"a date axis is the label axis",
+       untitled + Bar(Ser(), "<c:dateAx><c:axId val=\"1\"/><c:title>" + Rich(TextRun("Day")) +
+                                 "</c:title></c:dateAx><c:valAx><c:axId val=\"2\"/></c:valAx>"),
+       "", "| Day, Calibri"},
+      {"axes of the secondary group don't count",
+       untitled + "<c:plotArea><c:barChart><c:barDir val=\"col\"/>" + Ser() +
+           "<c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart><c:barChart><c:barDir val=\"col\"/>" +
+           Ser("", 1) +
+           "<c:axId val=\"3\"/><c:axId val=\"4\"/></c:barChart><c:catAx><c:axId "
+           "val=\"1\"/></c:catAx><c:valAx><c:axId val=\"2\"/><c:title>" +
+           Rich(TextRun("Left")) + "</c:title></c:valAx><c:valAx><c:axId val=\"4\"/><c:title>" +
+           Rich(TextRun("Right")) + "</c:title></c:valAx><c:catAx><c:axId val=\"3\"/></c:catAx></c:plotArea>",
+       "", "column |  | - | Left, Calibri"},
+      // colours
+      {"of the theme, lighter",
+       untitled + two + "<c:legend>" +
+           Props(">" + Fill("<a:schemeClr val=\"tx1\"><a:lumMod val=\"65000\"/><a:lumOff "
+                            "val=\"35000\"/></a:schemeClr>")) +
+           "</c:legend>",
+       "", "show -4152, Calibri 10 Regular 5855577 |"},
+      {"of the chart's own colour map",
+       untitled + two + "<c:legend>" + Props(">" + Fill("<a:schemeClr val=\"tx1\"/>")) + "</c:legend>",
+       "<c:clrMapOvr tx1=\"accent1\"/>", "Calibri 10 Regular 12419407 |"},
+      {"of the system",
+       untitled + two + "<c:legend>" + Props(">" + Fill("<a:sysClr val=\"window\" lastClr=\"FEFEFE\"/>")) +
+           "</c:legend>",
+       "", "Calibri 10 Regular 16711422 |"},
+      {"by name",
+       untitled + two + "<c:legend>" + Props(">" + Fill("<a:prstClr val=\"navy\"/>")) + "</c:legend>", "",
+       "Calibri 10 Regular 8388608 |"},
+      // the legend
+      {"its place", untitled + two + "<c:legend><c:legendPos val=\"b\"/></c:legend>", "", "show -4107,"},
+      {"only its size by hand",
+       untitled + two +
+           "<c:legend><c:legendPos val=\"t\"/><c:layout><c:manualLayout><c:w "
+           "val=\"0.3\"/></c:manualLayout></c:layout></c:legend>",
+       "", "show -4160,"},
+      {"dragged",
+       untitled + two +
+           "<c:legend><c:layout><c:manualLayout><c:xMode val=\"edge\"/><c:yMode val=\"edge\"/><c:x "
+           "val=\"0.5\"/><c:y val=\"0.25\"/></c:manualLayout></c:layout></c:legend>",
+       "", "show at 192,67.5,"},
+      {"an entry that is red",
+       untitled + two + "<c:legend><c:legendEntry><c:idx val=\"1\"/>" +
+           Props("sz=\"1000\">" + Fill("<a:srgbClr val=\"FF0000\"/>")) + "</c:legendEntry></c:legend>",
+       "", "show -4152, Calibri 10 Regular  |"},
+      {"an entry that is gone",
+       untitled + two +
+           "<c:legend><c:legendEntry><c:idx val=\"1\"/><c:delete val=\"1\"/></c:legendEntry></c:legend>",
+       "", "show -4152, Calibri 10 Regular 0 |"},
+      // labels
+      {"of the series", labels(Props("sz=\"800\" b=\"1\">") + shown), "", "| values Calibri 8 Bold 0"},
+      {"of the group", Bar(Ser() + "<c:dLbls>" + Props("sz=\"800\">") + shown + "</c:dLbls>"), "",
+       "| values Calibri 8 Regular 0"},
+      {"of the group, which the series takes back",
+       Bar(Ser("<c:dLbls><c:delete val=\"1\"/></c:dLbls>") + "<c:dLbls>" + shown + "</c:dLbls>"), "",
+       "| Arial 9 Regular 0"},
+      {"nothing shown", labels("<c:showVal val=\"0\"/><c:showPercent val=\"0\"/>"), "",
+       "| Arial 9 Regular 0"},
+      {"a single point's",
+       labels("<c:dLbl><c:idx val=\"1\"/>" + Props("sz=\"2000\">") + shown +
+              "</c:dLbl><c:showVal val=\"0\"/>"),
+       "", "| values Calibri 9 Regular 0"},
+      {"value with category", labels("<c:showVal val=\"1\"/><c:showCatName val=\"1\"/>"), "",
+       "| values Calibri"},
+      {"a value element without an attribute is true", labels("<c:showVal/>"), "", "| values Calibri"},
+      {"names only", labels("<c:showSerName val=\"1\"/>"), "", "| Calibri 10 Regular 0"},
+      {"the rarest font, the first of equals",
+       Bar(Ser("<c:dLbls>" + Props("sz=\"800\">") + shown + "</c:dLbls>") +
+           Ser("<c:dLbls>" + Props("sz=\"700\">") + shown + "</c:dLbls>", 1) +
+           Ser("<c:dLbls>" + Props("sz=\"800\">") + shown + "</c:dLbls>", 2) +
+           Ser("<c:dLbls>" + Props("sz=\"600\">") + shown + "</c:dLbls>", 3)),
+       "", "| values Calibri 7 Regular 0"},
+      // the number format
+      {"linked", Bar(Ser(), axes("", "<c:numFmt formatCode=\"0.00\" sourceLinked=\"1\"/>")), "",
+       "Arial 9 Regular 0"},
+      {"typed by hand", Bar(Ser(), axes("", "<c:numFmt formatCode=\"0.00\" sourceLinked=\"0\"/>")), "",
+       "Arial 9 Regular 0 | 0.00"},
+      {"not of a hidden axis",
+       Bar(Ser(), axes("", "<c:delete val=\"1\"/><c:numFmt formatCode=\"0.00\" sourceLinked=\"0\"/>")), "",
+       "Arial 9 Regular 0"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    test::PlainBook book;
+    book.sheets = {test::SalesSheet("Sheet1")};
+    book.sheets[0].frames = {
+        {"id",
+         "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\" "
+         "xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\">"
+         "<c:chart>" +
+             c.chart + "</c:chart>" + c.behind + "</c:chartSpace>"}};
+    Open(book);
+    const S said = ReadBack(ChartOf(Book().FindWorksheet("Sheet1")->Shapes()->Item(1)));
+    EXPECT_NE(said.find(c.expected), S::npos) << said << "\n  should have " << c.expected;
+    EXPECT_TRUE(said.ends_with(c.expected) || c.expected.find("Arial 9") == S::npos) << said;
+  }
+  EXPECT_TRUE(Messages().empty()) << Messages()[0];
+}
+
+TEST_F(ReadBackTest, TypesOfCharts) {
+  const auto group = [](const S& name, const S& inside, const S& series = "") {
+    return "<c:plotArea><c:" + name + ">" + inside + Ser(series) + "</c:" + name + "></c:plotArea>";
+  };
+  const auto bars = [&](const S& direction, const S& grouping) {
+    return "<c:barDir val=\"" + direction + "\"/><c:grouping val=\"" + grouping + "\"/>";
+  };
+  const auto shape = [](const S& name) { return "<c:shape val=\"" + name + "\"/>"; };
+  const S noLine = "<c:spPr><a:ln><a:noFill/></a:ln></c:spPr>",
+          dash = "<c:marker><c:symbol val=\"dash\"/></c:marker>";
+  struct {
+    S chart, type;
+    int number;
+  } const cases[] = {
+      {group("barChart", ""), "column", 51},
+      {group("barChart", bars("bar", "percentStacked")), "bar stacked 100%", 59},
+      {group("bar3DChart", bars("col", "standard")), "column", -4100},
+      {group("bar3DChart", bars("bar", "stacked")), "bar 3D stacked", 61},
+      {group("bar3DChart", bars("col", "clustered") + shape("cylinder")), "unknown", 92},
+      {group("bar3DChart", bars("bar", "stacked"), shape("coneToMax")), "unknown", 103},
+      {group("areaChart", ""), "area", 1},
+      {group("area3DChart", "<c:grouping val=\"percentStacked\"/>"), "area 3D stacked 100%", 79},
+      {group("pieChart", ""), "pie", 5},
+      {group("pieChart", "", "<c:explosion val=\"10\"/>"), "pie exploded", 69},
+      {group("pieChart", "",
+             "<c:dPt><c:idx val=\"0\"/><c:explosion val=\"10\"/></c:dPt><c:dPt><c:idx val=\"1\"/></c:dPt>"),
+       "pie", 5},
+      {group("pie3DChart", "", "<c:explosion val=\"10\"/>"), "pie 3D exploded", 70},
+      {group("bubbleChart", "<c:bubble3D val=\"1\"/>"), "bubble 3D", 87},
+      {group("bubbleChart", "", "<c:bubble3D val=\"0\"/>"), "bubble", 15},
+      {group("lineChart", "<c:grouping val=\"standard\"/><c:marker val=\"1\"/>"), "unknown", 65},
+      {group("lineChart", "<c:grouping val=\"stacked\"/>"), "unknown", 63},
+      {group("lineChart", "<c:marker val=\"1\"/>", noLine), "unknown", -4111},
+      {group("doughnutChart", ""), "unknown", -4120},
+      {group("scatterChart", "<c:scatterStyle val=\"smoothMarker\"/>"), "unknown", 72},
+      {group("scatterChart", "<c:scatterStyle val=\"lineMarker\"/>", noLine), "unknown", -4169},
+      {group("radarChart", "<c:radarStyle val=\"filled\"/>"), "unknown", 82},
+      {"<c:plotArea><c:barChart>" + bars("col", "stacked") + Ser() + Ser("", 1) +
+           "</c:barChart><c:lineChart><c:marker val=\"1\"/>" + Ser(noLine + dash, 2) +
+           "</c:lineChart></c:plotArea>",
+       "strategic bucket", -4111},
+      {"<c:plotArea><c:barChart>" + bars("col", "stacked") + Ser() +
+           "</c:barChart><c:lineChart><c:marker val=\"1\"/>" + Ser(dash, 1) + "</c:lineChart></c:plotArea>",
+       "strategic bucket", -4111},
+      {"<c:plotArea><c:barChart>" + bars("col", "stacked") + Ser() + "</c:barChart><c:lineChart>" +
+           Ser("", 1) + "</c:lineChart></c:plotArea>",
+       "unknown", -4111},
+      {"<c:plotArea><c:barChart>" + bars("col", "clustered") + Ser() + "</c:barChart><c:barChart>" +
+           bars("col", "clustered") + Ser("", 1) + "</c:barChart></c:plotArea>",
+       "column", 51},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.type + " " + std::to_string(c.number));
+    test::PlainBook book;
+    book.sheets = {test::SalesSheet("Sheet1")};
+    book.sheets[0].frames = {
+        {"id",
+         "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\" "
+         "xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\">"
+         "<c:chart>" +
+             c.chart + "</c:chart></c:chartSpace>"}};
+    Open(book);
+    const auto chart = ChartOf(Book().FindWorksheet("Sheet1")->Shapes()->Item(1));
+    EXPECT_EQ(chart->ChartType(), c.number);
+    auto document = NewXMLDocument();
+    document.loadXML("<chart/>");
+    RevEngineerChartType(chart, document);
+    S said = Summary(document);
+    EXPECT_EQ(said.substr(0, said.find(" |")), c.type);
+  }
+}
+
+}  // namespace
+}  // namespace plotsmith
