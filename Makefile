@@ -1,6 +1,6 @@
 # The newcomer's commands. All building is done by CMake; see CMakePresets.json for the ways to build.
 
-.PHONY: build demo check sanitize fuzz clean
+.PHONY: build demo check sanitize fuzz bench clean
 
 build:
 	@scripts/install-dependencies.sh
@@ -25,6 +25,10 @@ sanitize:
 # Runs each fuzzer for a minute, or for FUZZ_SECONDS.
 fuzz:
 	@scripts/fuzz.sh $(or $(FUZZ_SECONDS),60)
+
+# Measures whole runs and the parts; docs/performance.md says what comes out and why.
+bench:
+	@scripts/bench.sh
 
 clean:
 	@rm -rf build build-debug build-sanitizers build-fuzz demo

@@ -1,5 +1,6 @@
 #include "fuzz/Targets.h"
 
+#include <array>
 #include <fcntl.h>
 #include <filesystem>
 #include <memory>
@@ -220,8 +221,9 @@ void NumberFormat(const std::uint8_t* data, std::size_t size) {
 
 void Formula(const std::uint8_t* data, std::size_t size) {
   const std::string_view text = Text(data, size);
-  xlsx::ShiftRows(text, "Sheet1", true, 5, 3);
-  xlsx::ShiftRows(text, "Sheet1", false, 5, -3);
+  const std::array<xlsx::RowShift, 2> shifts = {{{"Sheet1", 5, 3}, {"Sheet1", 4, -3}}};
+  xlsx::ShiftRows(text, "Sheet1", shifts);
+  xlsx::ShiftRows(text, "", shifts);
   xlsx::OffsetFormula(text, 1000000, -5);
   xlsx::ParseSheetRange(text);
   xlsx::ParseR1C1(text);

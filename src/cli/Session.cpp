@@ -40,6 +40,19 @@ std::string LockOf(const fs::path& book) {
   return {};
 }
 
+/// Whether the workbook knows a table of exactly that id, or has a chart that wants one.
+bool IsTableKnown(const std::string& id) {
+  const auto isTable = [&](const dom::IXMLDOMDocument2& document) {
+    return GetAttributeText(document.selectSingleNode("table"), "id") == id;
+  };
+  if (std::any_of(colTables->begin(), colTables->end(), isTable)) return true;
+  return std::any_of(colCharts->begin(), colCharts->end(), [&](const dom::IXMLDOMDocument2& document) {
+    const auto chart = document.selectSingleNode("chart");
+    return GetAttributeText(chart, "table-id") == id ||
+           GetAttributeText(chart, "strategic-bucket-table-id") == id;
+  });
+}
+
 }  // namespace
 
 std::string VersionText(double version) {
@@ -94,6 +107,12 @@ void Session::CheckWritable(const std::optional<std::string>& output) const {
     throw CommandError(exit_code::kFile, "\"" + target + "\" is open in another program (\"" + lock +
                                              "\" says so); close it there, or use --force.");
   }
+}
+
+void Session::CheckTable(const std::string& id) const {
+  if (!colTables || !colCharts || Book().Damage() || IsTableKnown(id)) return;
+  throw CommandError(exit_code::kUsage,
+                     "\"" + path_ + "\" has no table \"" + id + "\" (plotsmith tables lists those it has).");
 }
 
 void Session::ShowProgress(const std::vector<runtime::Variant>& arguments) {

@@ -28,6 +28,8 @@ class Session {
   void LoadTablesAndCharts();
   /// Refuses, before any work is done, to write where another program has the workbook open.
   void CheckWritable(const std::optional<std::string>& output) const;
+  /// After the system has worked: refuses an id of which the workbook has neither a table nor a chart.
+  void CheckTable(const std::string& id) const;
   /// Ends the work: saves to `output`, or, if something changed, to where the workbook came from.
   int Save(const std::optional<std::string>& output);
   /// Ends the work of a command that only reads.

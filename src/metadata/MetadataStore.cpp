@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 #include "common/CommonFunctions.h"
 #include "common/PSConstants.h"
@@ -19,6 +20,30 @@ namespace {
 
 constexpr std::int32_t kFirstDefinitionRow = 2;
 constexpr const char* kSchemaVersion = "2";
+
+/// A row of the sheet as it was last read.
+struct ReadRow {
+  std::string sText;
+  bool bParses = false;
+  std::string sID;
+};
+
+/// Each save walks the rows before its own. What they hold is kept beside their texts, so that a row is only
+/// parsed again when its text has changed.
+std::vector<ReadRow> aReadRows;
+
+bool RowHoldsChart(std::int32_t lRow, const std::string& sText, const std::string& sID) {
+  const auto lIndex = static_cast<std::size_t>(lRow - kFirstDefinitionRow);
+  if (lIndex >= aReadRows.size()) aReadRows.resize(lIndex + 1);
+  if (aReadRows[lIndex].sText != sText) {
+    ReadRow oRead{sText};
+    auto oDoc = NewXMLDocument();
+    oRead.bParses = oDoc.loadXML(sText);
+    if (oRead.bParses) oRead.sID = GetAttributeText(oDoc.selectSingleNode("chart"), "id");
+    aReadRows[lIndex] = std::move(oRead);
+  }
+  return aReadRows[lIndex].bParses && aReadRows[lIndex].sID == sID;
+}
 
 /// The shape of a type that bears the id, on one sheet; the first one wins. A definition without an id has no
 /// shape: it must not lay hands on a chart of somebody else's that has no alternative text.
@@ -77,6 +102,7 @@ constexpr std::int32_t Rgb(std::int32_t lRed, std::int32_t lGreen, std::int32_t 
 
 void RetrieveChartDefinitions() {
   ReportErrors("PSFunctions.RetrieveChartDefinitions", [] {
+    aReadRows.clear();
     colCharts = runtime::MakeRef<DocumentCollection>();
     colChartObjects = runtime::MakeRef<runtime::Collection<Ref<excel::Chart>>>();
     colChartShapes = runtime::MakeRef<runtime::Collection<Ref<excel::Shape>>>();
@@ -124,8 +150,7 @@ void SaveChartDefinition(const IXMLDOMDocument2& oDoc) {
     for (;; ++lRow) {
       const std::string sText = runtime::CStr(GetCellValue(*oSheet, lRow, 1, cell::kString));
       if (sText.empty()) break;
-      auto oRowDoc = NewXMLDocument();
-      if (oRowDoc.loadXML(sText) && GetAttributeText(oRowDoc.selectSingleNode("chart"), "id") == sID) break;
+      if (RowHoldsChart(lRow, sText, sID)) break;
     }
     oSheet->SetCellValueAt(lRow, 1, oDoc.xml());
   });

@@ -138,8 +138,8 @@ SeriesRef AddSeries(ChartPart& part) {
   auto& all = part.Series();
   long long index = -1, order = -1;
   for (const SeriesRef& entry : all) {
-    index = std::max(index, xml::ParseInteger(schema::Val(entry->node, "idx")).value_or(0));
-    order = std::max(order, xml::ParseInteger(schema::Val(entry->node, "order")).value_or(0));
+    index = std::max(index, xml::IntegerAttribute(schema::Find(entry->node, "idx"), "val", 0));
+    order = std::max(order, xml::IntegerAttribute(schema::Find(entry->node, "order"), "val", 0));
   }
   const pugi::xml_node last = all.empty() ? pugi::xml_node() : all.back()->node;
   const pugi::xml_node group = last ? last.parent() : GroupsOf(part)[0];

@@ -81,7 +81,7 @@ std::vector<SeriesRef>& ChartPart::Series() {
       }
     }
     const auto order = [](const SeriesRef& entry) {
-      return xml::ParseInteger(schema::Val(entry->node, "order")).value_or(0);
+      return xml::IntegerAttribute(schema::Find(entry->node, "order"), "val", 0);
     };
     std::stable_sort(series_->begin(), series_->end(),
                      [&](const SeriesRef& a, const SeriesRef& b) { return order(a) < order(b); });

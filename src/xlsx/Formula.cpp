@@ -135,22 +135,26 @@ std::optional<FormulaReader::Piece> FormulaReader::Next() {
   return Take(end == std::string_view::npos ? rest_.size() : end + 1);
 }
 
-std::optional<std::string> ShiftRows(std::string_view formula, std::string_view sheet, bool home,
-                                     std::int32_t row, std::int32_t count) {
+std::optional<std::string> ShiftRows(std::string_view formula, std::string_view home,
+                                     std::span<const RowShift> shifts) {
   std::string shifted;
   bool changed = false;
   FormulaReader reader(formula);
   while (auto piece = reader.Next()) {
-    const bool here =
-        piece->reference && piece->reference->first.row > 0 &&
-        (piece->place == FormulaReader::Place::kSheet ? runtime::EqualsIgnoreCase(piece->sheet, sheet)
-                                                      : piece->place == FormulaReader::Place::kHome && home);
-    if (!here) {
-      shifted += piece->text;
-      continue;
+    bool touched = false, lost = false;
+    if (piece->reference && piece->reference->first.row > 0 &&
+        piece->place != FormulaReader::Place::kElsewhere) {
+      const std::string_view sheet = piece->place == FormulaReader::Place::kSheet ? piece->sheet : home;
+      for (const RowShift& shift : shifts) {
+        if (!runtime::EqualsIgnoreCase(sheet, shift.sheet)) continue;
+        touched = true;
+        lost = !Shift(*piece->reference, shift.row, shift.count);
+        if (lost) break;
+      }
     }
-    const std::string text =
-        Shift(*piece->reference, row, count) ? piece->reference->Text() : std::string(kLost);
+    const std::string text = lost      ? std::string(kLost)
+                             : touched ? piece->reference->Text()
+                                       : std::string(piece->text);
     changed |= text != piece->text;
     shifted += text;
   }

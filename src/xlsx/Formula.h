@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -41,12 +42,19 @@ class FormulaReader {
   std::string sheet_;
 };
 
-/// A formula in which references into one sheet follow when rows of it are inserted or deleted: `count` rows
-/// at `row` (negative: deleted). `home` says whether the formula stands on that sheet, so that references
-/// without a sheet mean it too. Nothing if the formula stays as it is. What is deleted whole becomes #REF!.
-/// References over several sheets keep their rows, as in Excel.
-std::optional<std::string> ShiftRows(std::string_view formula, std::string_view sheet, bool home,
-                                     std::int32_t row, std::int32_t count);
+/// `count` rows inserted at `row` of a sheet, or, if it is negative, deleted.
+struct RowShift {
+  std::string sheet;
+  std::int32_t row;
+  std::int32_t count;
+};
+
+/// A formula in which references follow when rows are inserted and deleted, one change after the other.
+/// `home` is the sheet that references without a sheet mean, empty if there is none. Nothing if the formula
+/// stays as it is. What is deleted whole becomes #REF!. References over several sheets keep their rows, as in
+/// Excel.
+std::optional<std::string> ShiftRows(std::string_view formula, std::string_view home,
+                                     std::span<const RowShift> shifts);
 
 /// A formula as it reads when it is copied to a cell so many rows below and columns to the right: relative
 /// references move along. What leaves the sheet becomes #REF!.

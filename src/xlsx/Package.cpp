@@ -120,6 +120,7 @@ const Package::Part& Package::Get(std::string_view part) const {
 
 Package::Part& Package::Put(std::string_view name, std::string bytes) {
   changed_ = true;
+  relationships_.erase(Folded(name));
   Part* part = Find(name);
   if (part == nullptr) {
     part = parts_.emplace_back(std::make_unique<Part>()).get();
@@ -253,12 +254,13 @@ std::string Package::FreeName(std::string_view prefix, std::string_view suffix) 
   }
 }
 
-std::vector<Relationship> Package::Relationships(std::string_view part) const {
+const std::vector<Relationship>& Package::Relationships(std::string_view part) const {
   const std::string rels = RelationshipsPart(part);
-  if (!Has(rels)) return {};
-  pugi::xml_document document;
-  InPart(rels, [&] { xml::Parse(document, Read(rels)); });
+  const std::string key = Folded(rels);
+  if (const auto known = relationships_.find(key); known != relationships_.end()) return known->second;
   std::vector<Relationship> list;
+  pugi::xml_document document;
+  if (Has(rels)) InPart(rels, [&] { xml::Parse(document, Read(rels)); });
   for (const pugi::xml_node& node : xml::Children(xml::Root(document), "Relationship")) {
     Relationship relationship;
     relationship.id = xml::Attribute(node, "Id");
@@ -268,20 +270,20 @@ std::vector<Relationship> Package::Relationships(std::string_view part) const {
     relationship.target = relationship.external ? target : ResolveTarget(part, target);
     list.push_back(std::move(relationship));
   }
-  return list;
+  return relationships_.emplace(key, std::move(list)).first->second;
 }
 
 std::optional<Relationship> Package::FindRelationship(std::string_view part, std::string_view id) const {
-  for (Relationship& relationship : Relationships(part)) {
-    if (relationship.id == id) return std::move(relationship);
+  for (const Relationship& relationship : Relationships(part)) {
+    if (relationship.id == id) return relationship;
   }
   return std::nullopt;
 }
 
 std::optional<Relationship> Package::FindRelationshipOfType(std::string_view part,
                                                             std::string_view type) const {
-  for (Relationship& relationship : Relationships(part)) {
-    if (relationship.type == type && !relationship.external) return std::move(relationship);
+  for (const Relationship& relationship : Relationships(part)) {
+    if (relationship.type == type && !relationship.external) return relationship;
   }
   return std::nullopt;
 }

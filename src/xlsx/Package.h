@@ -52,8 +52,9 @@ class Package {
   /// The first unused part name of the form prefix, number, suffix; numbers from 1.
   std::string FreeName(std::string_view prefix, std::string_view suffix) const;
 
-  /// Of a part, or of the package for an empty name; targets resolved. Empty if there is none.
-  std::vector<Relationship> Relationships(std::string_view part) const;
+  /// Of a part, or of the package for an empty name; targets resolved. Empty if there is none. Good until the
+  /// part's relationships change.
+  const std::vector<Relationship>& Relationships(std::string_view part) const;
   std::optional<Relationship> FindRelationship(std::string_view part, std::string_view id) const;
   std::optional<Relationship> FindRelationshipOfType(std::string_view part, std::string_view type) const;
   /// Returns the new relationship's id. `typeAddress` is the whole address.
@@ -74,6 +75,8 @@ class Package {
   std::unique_ptr<Archive> archive_;
   std::vector<std::unique_ptr<Part>> parts_;  // in the order of the file
   std::map<std::string, Part*, std::less<>> byName_;
+  /// By the name of the part that holds them; read once, as each shape of a drawing looks its own up.
+  mutable std::map<std::string, std::vector<Relationship>, std::less<>> relationships_;
   std::unique_ptr<pugi::xml_document> contentTypes_;
   bool contentTypesChanged_ = false;
   bool changed_ = false;

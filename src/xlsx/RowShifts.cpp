@@ -2,9 +2,6 @@
 
 #include <algorithm>
 
-#include "runtime/Strings.h"
-#include "xlsx/Formula.h"
-
 namespace plotsmith::xlsx {
 
 namespace {
@@ -33,7 +30,7 @@ bool Mentions(std::string_view text, std::string_view name) {
 
 void RowShifts::Add(std::string_view sheet, std::int32_t row, std::int32_t count) {
   if (!shifts_.empty() && !marked_) {
-    Shift& last = shifts_.back();
+    RowShift& last = shifts_.back();
     // rows that go in, or out, at one place one by one are one change
     if (last.sheet == sheet && last.row == row && (last.count > 0) == (count > 0)) {
       last.count += count;
@@ -41,26 +38,18 @@ void RowShifts::Add(std::string_view sheet, std::int32_t row, std::int32_t count
     }
   }
   shifts_.push_back({std::string(sheet), row, count});
+  sheets_.emplace(sheet);
   marked_ = false;
 }
 
 std::optional<std::string> RowShifts::Follow(std::string_view formula, std::string_view home,
                                              std::size_t followed) const {
-  std::optional<std::string> result;
-  for (std::size_t i = followed; i < shifts_.size(); ++i) {
-    const Shift& shift = shifts_[i];
-    const bool atHome = !home.empty() && runtime::EqualsIgnoreCase(home, shift.sheet);
-    if (auto next = ShiftRows(result ? std::string_view(*result) : formula, shift.sheet, atHome, shift.row,
-                              shift.count)) {
-      result = std::move(next);
-    }
-  }
-  return result;
+  return ShiftRows(formula, home, std::span(shifts_).subspan(followed));
 }
 
 bool RowShifts::MayConcern(std::string_view text) const {
-  return std::any_of(shifts_.begin(), shifts_.end(),
-                     [&](const Shift& shift) { return Mentions(text, shift.sheet); });
+  return std::any_of(sheets_.begin(), sheets_.end(),
+                     [&](const std::string& sheet) { return Mentions(text, sheet); });
 }
 
 }  // namespace plotsmith::xlsx

@@ -3,9 +3,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "xlsx/Formula.h"
 
 namespace plotsmith::xlsx {
 
@@ -31,13 +34,9 @@ class RowShifts {
   bool MayConcern(std::string_view text) const;
 
  private:
-  struct Shift {
-    std::string sheet;
-    std::int32_t row;
-    std::int32_t count;
-  };
-  std::vector<Shift> shifts_;
-  bool marked_ = false;  ///< the last shift is somebody's mark and must not grow any more
+  std::vector<RowShift> shifts_;
+  std::set<std::string> sheets_;  ///< on which they are
+  bool marked_ = false;           ///< the last shift is somebody's mark and must not grow any more
 };
 
 }  // namespace plotsmith::xlsx

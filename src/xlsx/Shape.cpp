@@ -176,7 +176,7 @@ class SheetChartObjects final : public excel::ChartObjects {
 }  // namespace
 
 Shape::Shape(Drawing& drawing, pugi::xml_node anchor, pugi::xml_node object)
-    : drawing_(drawing), anchor_(anchor), object_(object) {}
+    : drawing_(drawing), anchor_(anchor), object_(object), type_(ReadType()) {}
 
 pugi::xml_node Shape::Properties() const {
   // nvSpPr, nvGraphicFramePr, nvPicPr, ...: the first child of each kind of object
@@ -191,7 +191,7 @@ pugi::xml_node Shape::ChartLink() const {
   return xml::Attribute(data, "uri").ends_with("/chart") ? xml::Child(data, "chart") : pugi::xml_node();
 }
 
-std::int32_t Shape::Type() {
+std::int32_t Shape::ReadType() const {
   const std::string_view kind = xml::LocalName(object_);
   if (kind == "graphicFrame" && ChartLink()) return excel::msoChart;
   if (kind == "grpSp") return excel::msoGroup;

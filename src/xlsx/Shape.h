@@ -23,7 +23,7 @@ class Shape final : public excel::Shape, public std::enable_shared_from_this<Sha
  public:
   Shape(Drawing& drawing, pugi::xml_node anchor, pugi::xml_node object);
 
-  std::int32_t Type() override;
+  std::int32_t Type() override { return type_; }
   std::string Name() override;
   std::string AlternativeText() override;
   void SetAlternativeText(std::string_view text) override;
@@ -49,10 +49,12 @@ class Shape final : public excel::Shape, public std::enable_shared_from_this<Sha
  private:
   pugi::xml_node Properties() const;  ///< cNvPr
   pugi::xml_node ChartLink() const;
+  std::int32_t ReadType() const;
 
   Drawing& drawing_;
   pugi::xml_node anchor_;
   pugi::xml_node object_;
+  std::int32_t type_;  ///< read once: whoever seeks a chart asks all shapes
 };
 
 /// The shapes of a sheet, for the port; `drawing` may be null.

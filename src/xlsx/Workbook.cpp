@@ -118,7 +118,7 @@ void Workbook::Load() {
 }
 
 void Workbook::LoadSheets() {
-  const auto relationships = package_.Relationships(part_);
+  const auto& relationships = package_.Relationships(part_);
   for (const pugi::xml_node& node : xml::Children(xml::Child(Root(), "sheets"), "sheet")) {
     auto entry = std::make_shared<SheetEntry>();
     entry->name = xml::Attribute(node, "name");

@@ -175,5 +175,36 @@ TEST_F(CommandTest, OneTableOnly) {
   EXPECT_EQ(Run({"cells", book, "VEX_ChartData!A1:A4"}).out, "VEX_Chart2\nVEX_Chart2\nVEX_Chart2\n\n");
 }
 
+TEST_F(CommandTest, RenamedColumnsAreCarriedIntoTheCharts) {
+  auto sales = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "bar", "table-id=\"Data2\" title=\"\""}});
+  sales.Sheet("Charts").frames[1].alternativeText = "VEX_Chart2";
+  const S book = Write(sales);
+  const auto definition = [&](const S& chart) { return Run({"definition", book, chart}).out; };
+  // a swap, a chain and a plain one, all at once
+  Result result =
+      Run({"rename-columns", book, "--table", "Data1", "Region=Product", "Product=Region", "Amount=Units"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_NE(definition("VEX_Chart1").find("<categories headings-in=\"rows\"><column name=\"Product\""),
+            S::npos);
+  EXPECT_NE(definition("VEX_Chart1").find("<series headings-in=\"rows\"><column name=\"Region\""), S::npos);
+  EXPECT_NE(definition("VEX_Chart1").find("<values><column name=\"Units\""), S::npos);
+  EXPECT_NE(definition("VEX_Chart2").find("<values><column name=\"Amount\""), S::npos) << "another table";
+
+  const S before = Bytes(book);
+  for (const auto& [arguments, said] : std::vector<std::pair<std::vector<S>, S>>{
+           {{"--table", "Data1", "Region"}, "\"Region\" is no renaming"},
+           {{"--table", "Data1", "A=B", "A=C"}, "\"A\" is renamed twice"},
+           {{"--table", "Data9", "A=B"}, "has no table \"Data9\""},
+           {{"A=B"}, "--table is required"},
+           {{"--table", "Data1"}, "OLD=NEW is required"}}) {
+    std::vector<S> line = {"rename-columns", book};
+    line.insert(line.end(), arguments.begin(), arguments.end());
+    result = Run(line);
+    EXPECT_EQ(result.code, 2);
+    EXPECT_NE(result.err.find(said), S::npos) << result.err;
+  }
+  EXPECT_EQ(Bytes(book), before);
+}
+
 }  // namespace
 }  // namespace plotsmith::cli

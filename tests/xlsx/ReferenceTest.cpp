@@ -1,3 +1,4 @@
+#include <array>
 #include <gtest/gtest.h>
 
 #include "xlsx/Formula.h"
@@ -94,7 +95,8 @@ TEST(ReferenceTest, FormulasFollowRows) {
       {"(Data!$B$6:$B$7,Data!$B$9)", 7, 2, false, "(Data!$B$6:$B$9,Data!$B$11)"},
   };
   for (const Case& c : cases) {
-    const auto shifted = ShiftRows(c.formula, "Data", c.home, c.row, c.count);
+    const auto shifted =
+        ShiftRows(c.formula, c.home ? "Data" : "", std::array{RowShift{"Data", c.row, c.count}});
     EXPECT_EQ(shifted.value_or("(same)"), c.shifted == nullptr ? "(same)" : c.shifted)
         << c.formula << " row " << c.row << " count " << c.count;
   }
@@ -109,6 +111,13 @@ TEST(RowShiftsTest, EachHolderCatchesUpFromWhereItStands) {
   EXPECT_EQ(shifts.Follow("Data!$A$8", "", mark), "Data!$A$9");
   EXPECT_EQ(shifts.Follow("Data!$A$5", "", 0), "Data!$A$9");
   EXPECT_FALSE(shifts.Follow("Data!$A$9", "", shifts.Mark()));
+  // one after the other, and each only on its sheet; what is gone stays gone
+  shifts.Add("Other", 1, 4);
+  shifts.Add("Data", 1, -3);
+  EXPECT_EQ(shifts.Follow("Data!$A$5+Other!$A$5", "", 0), "Data!$A$6+Other!$A$9");
+  shifts.Add("Data", 6, -1);
+  shifts.Add("Data", 1, 9);
+  EXPECT_EQ(shifts.Follow("Data!$A$5+A5", "data", 0), "Data!#REF!+#REF!");
   EXPECT_TRUE(shifts.MayConcern("<c:f>data!A1</c:f>"));
   EXPECT_FALSE(shifts.MayConcern("<c:f>Sheet1!A1</c:f>"));
 }

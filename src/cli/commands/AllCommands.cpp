@@ -4,6 +4,7 @@
 #include "cli/commands/Definition.h"
 #include "cli/commands/Format.h"
 #include "cli/commands/Refresh.h"
+#include "cli/commands/RenameColumns.h"
 #include "cli/commands/Save.h"
 #include "cli/commands/Tables.h"
 
@@ -12,6 +13,7 @@ namespace plotsmith::cli {
 std::vector<std::unique_ptr<Command>> MakeCommands() {
   std::vector<std::unique_ptr<Command>> commands;
   commands.push_back(std::make_unique<RefreshCommand>());
+  commands.push_back(std::make_unique<RenameColumnsCommand>());
   commands.push_back(std::make_unique<TablesCommand>());
   commands.push_back(std::make_unique<ChartsCommand>());
   commands.push_back(std::make_unique<DefinitionCommand>());

@@ -1,29 +1,12 @@
 #include "cli/commands/Refresh.h"
 
-#include <algorithm>
-
 #include "cli/Session.h"
-#include "common/CommonFunctions.h"
-#include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
 
 namespace plotsmith::cli {
 namespace {
 
 constexpr const char* kHostName = "plotsmith";
-
-/// Whether the workbook knows a table of exactly that id, or has a chart that wants one.
-bool IsTableKnown(const std::string& id) {
-  const auto isTable = [&](const dom::IXMLDOMDocument2& document) {
-    return GetAttributeText(document.selectSingleNode("table"), "id") == id;
-  };
-  if (std::any_of(colTables->begin(), colTables->end(), isTable)) return true;
-  return std::any_of(colCharts->begin(), colCharts->end(), [&](const dom::IXMLDOMDocument2& document) {
-    const auto chart = document.selectSingleNode("chart");
-    return GetAttributeText(chart, "table-id") == id ||
-           GetAttributeText(chart, "strategic-bucket-table-id") == id;
-  });
-}
 
 }  // namespace
 
@@ -42,10 +25,7 @@ int RefreshCommand::Run(const GlobalOptions& options, const Streams& streams) {
   CPlotsmithController controller;
   if (table_) {
     controller.RefreshChartsForTable(session.Host(), *table_);
-    if (colTables && colCharts && !session.Book().Damage() && !IsTableKnown(*table_)) {
-      throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no table \"" + *table_ +
-                                                "\" (plotsmith tables lists those it has).");
-    }
+    session.CheckTable(*table_);
   } else {
     controller.RefreshPlotsmithData(session.Host(), kHostName, "");
   }

@@ -1,0 +1,27 @@
+// Writes one of the workbooks that whole runs are measured on. Usage:
+//   make_book data FILE ROWS CHARTS      a table of eight columns and charts over it
+//   make_book regions FILE ROWS COUNT    gives the charts of such a book another number of categories
+//   make_book names FILE COUNT           a book full of defined names
+
+#include <cstdlib>
+#include <iostream>
+#include <string_view>
+
+#include "bench/Books.h"
+
+int main(int argc, char** argv) {
+  const auto number = [&](int i) { return static_cast<std::uint32_t>(std::strtoul(argv[i], nullptr, 10)); };
+  const std::string_view kind = argc > 1 ? argv[1] : "";
+  using namespace plotsmith::bench;
+  if (kind == "data" && argc == 5) {
+    WriteDataBook(argv[2], number(3), number(4));
+  } else if (kind == "regions" && argc == 5) {
+    ChangeRegions(argv[2], number(3), number(4));
+  } else if (kind == "names" && argc == 4) {
+    WriteNamesBook(argv[2], number(3));
+  } else {
+    std::cerr << "usage: make_book data FILE ROWS CHARTS | regions FILE ROWS COUNT | names FILE COUNT\n";
+    return 2;
+  }
+  return 0;
+}

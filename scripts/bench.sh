@@ -1,0 +1,52 @@
+#!/bin/sh
+# Measures: the large refresh beside unzip, how whole runs grow, and the parts. Figures are ratios within this run.
+# Usage: scripts/bench.sh [PAIRS]
+set -eu
+cd "$(dirname "$0")/.."
+pairs=${1:-9}
+
+scripts/install-dependencies.sh unzip
+cmake --preset release >/dev/null
+cmake --build build --target plotsmith make_book measure plotsmith_bench
+command=build/plotsmith
+bench=build/bench
+books=$bench/books
+out=$bench/out.xlsx
+
+# The books are kept until what makes them changes.
+mkdir -p "$books"
+if [ ! -f "$books/made" ] || [ "$bench/make_book" -nt "$books/made" ]; then
+  rm -f "$books"/*
+  echo "Making the workbooks ..."
+fi
+make_book() {
+  [ -f "$books/$2" ] || "$bench/make_book" "$1" "$books/$2" $3
+}
+make_book data big.xlsx "1000000 1"
+for n in 100 200 400; do make_book data "charts-$n.xlsx" "10000 $n"; done
+for n in 2500 5000 10000; do make_book names "names-$n.xlsx" "$n"; done
+touch "$books/made"
+# The same charts as a user finds them again, and with twice the categories.
+for n in 100 200 400; do
+  $command refresh "$books/charts-$n.xlsx" -o "$books/again-$n.xlsx"
+  cp "$books/again-$n.xlsx" "$books/grown-$n.xlsx"
+  "$bench/make_book" regions "$books/grown-$n.xlsx" 10000 24
+done
+
+echo "== One million rows by eight columns, one chart: open to saved file"
+"$bench/measure" pairs $command "$books/big.xlsx" "$out" "$pairs"
+echo "== Growth: processor time and peak memory as multiples of the smallest book's; each: for each one of the count"
+grow() {
+  what=$1 kind=$2
+  shift 2
+  books_of=
+  for n in "$@"; do books_of="$books_of $n=$books/$kind-$n.xlsx"; done
+  # shellcheck disable=SC2086  # a list of words
+  "$bench/measure" growth $command "$out" "$what" $books_of
+}
+grow "charts over one table of 10,000 rows, drawn for the first time" charts 100 200 400
+grow "the same charts, drawn again" again 100 200 400
+grow "the same charts, with twice the categories" grown 100 200 400
+grow "defined names, every tenth a table; one chart" names 2500 5000 10000
+echo "== The parts"
+"$bench/plotsmith_bench" --benchmark_min_time=0.2 2>/dev/null

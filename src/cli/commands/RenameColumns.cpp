@@ -1,0 +1,78 @@
+#include "cli/commands/RenameColumns.h"
+
+#include <algorithm>
+#include <set>
+
+#include "cli/Session.h"
+#include "controller/CPlotsmithController.h"
+
+namespace plotsmith::cli {
+namespace {
+
+/// A character for private use: no column is called so.
+constexpr const char* kAside = "\xEE\x80\x80";
+
+std::vector<Renaming> Parse(const std::vector<std::string>& texts) {
+  std::vector<Renaming> renamings;
+  std::set<std::string> old;
+  for (const std::string& text : texts) {
+    const auto sign = text.find('=');
+    if (sign == std::string::npos || sign == 0 || sign + 1 == text.size()) {
+      throw CommandError(exit_code::kUsage, "\"" + text + "\" is no renaming: it should be OLD=NEW.");
+    }
+    renamings.emplace_back(text.substr(0, sign), text.substr(sign + 1));
+    if (!old.insert(renamings.back().first).second) {
+      throw CommandError(exit_code::kUsage,
+                         "the column \"" + renamings.back().first + "\" is renamed twice.");
+    }
+  }
+  return renamings;
+}
+
+}  // namespace
+
+std::vector<Renaming> InSteps(std::vector<Renaming> renamings) {
+  std::vector<Renaming> steps;
+  std::erase_if(renamings, [](const Renaming& renaming) { return renaming.first == renaming.second; });
+  while (!renamings.empty()) {
+    const auto isFree = [&](const Renaming& renaming) {
+      return std::none_of(renamings.begin(), renamings.end(),
+                          [&](const Renaming& other) { return other.first == renaming.second; });
+    };
+    const auto next = std::find_if(renamings.begin(), renamings.end(), isFree);
+    if (next != renamings.end()) {
+      steps.push_back(std::move(*next));
+      renamings.erase(next);
+    } else {
+      // all that is left goes in circles
+      const std::string aside = renamings.front().first + kAside;
+      steps.emplace_back(renamings.front().first, aside);
+      renamings.front().first = aside;
+    }
+  }
+  return steps;
+}
+
+CLI::App* RenameColumnsCommand::Declare(CLI::App& app) {
+  CLI::App* verb = app.add_subcommand("rename-columns", "Carry new column names of a table into its charts");
+  verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm)")->required();
+  verb->add_option("OLD=NEW", renamings_, "A column's name so far, and its new name")->required();
+  verb->add_option("--table", table_, "The id of the table")->required();
+  verb->add_option("-o,--output", output_, "Write to this file and leave BOOK as it is");
+  return verb;
+}
+
+int RenameColumnsCommand::Run(const GlobalOptions& options, const Streams& streams) {
+  std::vector<std::string> oldNames, newNames;
+  for (auto& [oldName, newName] : InSteps(Parse(renamings_))) {
+    oldNames.push_back(std::move(oldName));
+    newNames.push_back(std::move(newName));
+  }
+  Session session(book_, options, streams);
+  session.CheckWritable(output_);
+  CPlotsmithController().UpdateChartColumnNamesForTable(session.Host(), table_, oldNames, newNames);
+  session.CheckTable(table_);
+  return session.Save(output_);
+}
+
+}  // namespace plotsmith::cli
