@@ -6,6 +6,7 @@
 
 #include "runtime/RuntimeError.h"
 #include "xlsx/ChartAxes.h"
+#include "xlsx/ChartData.h"
 #include "xlsx/ChartFit.h"
 #include "xlsx/ChartLegendEntries.h"
 #include "xlsx/ChartSchema.h"
@@ -100,13 +101,6 @@ void PutInDrawingOrder(pugi::xml_node group) {
 [[noreturn]] void CantCombine() {
   throw RuntimeError(runtime::error::kApplication,
                      "Some chart types cannot be combined with other chart types.");
-}
-
-/// The data of a series along an axis: X values, or values.
-pugi::xml_node DataAlong(pugi::xml_node series, bool x) {
-  if (x) return schema::Find(series, "xVal");
-  const auto values = schema::Find(series, "val");
-  return values ? values : schema::Find(series, "yVal");
 }
 
 }  // namespace
@@ -239,7 +233,8 @@ void UpdateLinkedFormats(ChartPart& part) {
     for (const pugi::xml_node& axis : axes) {
       const auto linked = xml::Is(axis, "valAx") ? schema::Find(axis, "numFmt") : pugi::xml_node();
       if (!linked || !xml::BooleanAttribute(linked, "sourceLinked", false)) continue;
-      const auto data = DataAlong(schema::Find(group, "ser"), axis == roles.x);
+      const auto series = schema::Find(group, "ser");
+      const auto data = axis == roles.x ? schema::Find(series, "xVal") : FindValues(series);
       const std::string format = schema::Val(group, "grouping") == "percentStacked"
                                      ? "0%"
                                      : xml::Text(xml::Child(data, "numRef", "numCache", "formatCode"));

@@ -77,7 +77,9 @@ const std::map<std::string, std::string> kTypes = {
     {"dispUnits", "builtInUnit/custUnit dispUnitsLbl? extLst?"},
     {"legend", "legendPos? legendEntry* layout? overlay? spPr? txPr? extLst?"},
     {"legendEntry", "idx delete/txPr extLst?"},
-    {"spPr", "xfrm? custGeom/prstGeom? noFill/solidFill/gradFill/blipFill/pattFill? ln? effectLst? extLst?"},
+    {"spPr",
+     "xfrm? custGeom/prstGeom? noFill/solidFill/gradFill/blipFill/pattFill? ln? effectLst? scene3d? sp3d? "
+     "extLst?"},
     {"ln", "noFill/solidFill/gradFill/pattFill? prstDash/custDash? round/bevel/miter? headEnd? tailEnd?"},
     {"pattFill", "fgClr? bgClr?"},
     {"rich", "bodyPr lstStyle? p p*"},
@@ -211,6 +213,36 @@ std::string ChartComplaints(const std::string& part) {
   return complaints.Text();
 }
 
+bool Has(const std::string& text, const std::string& what) { return text.find(what) != std::string::npos; }
+
+std::size_t CountOf(const std::string& text, const std::string& what) {
+  std::size_t count = 0;
+  for (auto at = text.find(what); at != std::string::npos; at = text.find(what, at + 1)) ++count;
+  return count;
+}
+
+void DeleteSeries(excel::Chart& chart) {
+  while (chart.SeriesCollection()->Count() > 0) chart.SeriesCollection()->Item(1)->Delete();
+}
+
+excel::Ref<excel::Series> AddBubble(excel::Chart& chart, int row) {
+  const auto series = chart.SeriesCollection()->NewSeries();
+  const std::string cell = "=Sheet1!R" + std::to_string(row);
+  series->SetName("B" + std::to_string(row));
+  series->SetXValues(cell + "C3:R" + std::to_string(row) + "C3");
+  series->SetValues(cell + "C4:R" + std::to_string(row) + "C4");
+  series->SetBubbleSizes(cell + "C3:R" + std::to_string(row) + "C3");
+  return series;
+}
+
+excel::Ref<excel::Series> AddOfType(excel::Chart& chart, std::int32_t type) {
+  const auto series = chart.SeriesCollection()->NewSeries();
+  series->SetChartType(type);
+  series->SetXValues("=Sheet1!R2C1:R5C1");
+  series->SetValues("=Sheet1!R2C3:R5C3");
+  return series;
+}
+
 std::string ChartTest::After(const std::string& part, const std::function<void(excel::Chart&)>& call) {
   PlainBook book;
   book.sheets = {SalesSheet("Sheet1")};
@@ -221,8 +253,17 @@ std::string ChartTest::After(const std::string& part, const std::function<void(e
   return SavedPart("/xl/charts/chart1.xml");
 }
 
+std::string ChartTest::Sound(const std::string& part, const std::function<void(excel::Chart&)>& call) {
+  const std::string after = After(part, call);
+  EXPECT_EQ(ChartComplaints(after), "") << after;
+  return after;
+}
+
 excel::Ref<excel::Chart> ChartTest::ChartOf(const std::string& sheet) {
-  const auto shape = Book().FindWorksheet(sheet)->Shapes()->Item(1);
+  return ChartOf(Book().FindWorksheet(sheet)->Shapes()->Item(1));
+}
+
+excel::Ref<excel::Chart> ChartTest::ChartOf(const excel::Ref<excel::Shape>& shape) {
   return std::dynamic_pointer_cast<xlsx::Shape>(shape.shared())->Chart();
 }
 
