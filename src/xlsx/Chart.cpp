@@ -5,6 +5,7 @@
 
 #include "runtime/RuntimeError.h"
 #include "xlsx/Application.h"
+#include "xlsx/ChartAxes.h"
 #include "xlsx/ChartAxis.h"
 #include "xlsx/ChartData.h"
 #include "xlsx/ChartDrawing.h"
@@ -17,6 +18,7 @@
 #include "xlsx/ChartText.h"
 #include "xlsx/ChartTypes.h"
 #include "xlsx/Workbook.h"
+#include "xlsx/Xml.h"
 
 namespace plotsmith::xlsx {
 
@@ -24,6 +26,8 @@ using excel::Ref;
 using runtime::RuntimeError;
 
 namespace {
+
+constexpr std::int32_t kWidestGap = 500;  // percent of a column's width
 
 std::string Self() { return "Chart"; }
 
@@ -61,6 +65,30 @@ class Title final : public excel::ChartTitle {
 
  private:
   std::shared_ptr<ChartPart> part_;
+};
+
+class Group final : public excel::ChartGroup {
+ public:
+  Group(std::shared_ptr<ChartPart> part, std::int32_t index) : part_(std::move(part)), index_(index) {}
+
+  void SetGapWidth(std::int32_t percent) override {
+    part_->Book().Journal().Put([this] { return "Chart.ChartGroups(" + std::to_string(index_) + ")"; },
+                                "GapWidth", percent);
+    const auto groups = DrawnGroups(*part_);
+    const auto group = static_cast<std::size_t>(index_) <= groups.size()
+                           ? groups[static_cast<std::size_t>(index_) - 1]
+                           : pugi::xml_node();
+    if (!xml::LocalName(group).starts_with("bar") || percent < 0 || percent > kWidestGap) {
+      throw RuntimeError(runtime::error::kApplication,
+                         "Unable to set the GapWidth property of the ChartGroup class");
+    }
+    schema::SetVal(group, "gapWidth", std::to_string(percent));
+    part_->MarkChanged();
+  }
+
+ private:
+  std::shared_ptr<ChartPart> part_;
+  std::int32_t index_;
 };
 
 }  // namespace
@@ -146,6 +174,14 @@ Ref<excel::Axis> Chart::Axes(std::int32_t type, std::int32_t group) {
     throw RuntimeError(runtime::error::kApplication, "Method 'Axes' of object '_Chart' failed");
   }
   return MakeAxis(part_, type);
+}
+
+Ref<excel::ChartGroup> Chart::ChartGroups(std::int32_t index) {
+  const auto groups = DrawnGroups(*part_);
+  if (index < 1 || index > static_cast<std::int32_t>(groups.size())) {
+    throw RuntimeError(runtime::error::kApplication, "Method 'ChartGroups' of object '_Chart' failed");
+  }
+  return std::make_shared<Group>(part_, index);
 }
 
 Ref<excel::ChartArea> Chart::ChartArea() { return MakeChartArea(part_, frame_); }

@@ -27,6 +27,7 @@ class Chart final : public excel::Chart {
   bool HasAxis(std::int32_t type) override;
   void SetHasAxis(std::int32_t type, bool value) override;
   excel::Ref<excel::Axis> Axes(std::int32_t type, std::int32_t group) override;
+  excel::Ref<excel::ChartGroup> ChartGroups(std::int32_t index) override;
   excel::Ref<excel::ChartArea> ChartArea() override;
   excel::Ref<excel::PlotArea> PlotArea() override;
   excel::Ref<excel::Shapes> Shapes() override;

@@ -1,13 +1,18 @@
 #include "xlsx/ChartAxis.h"
 
+#include <cmath>
+#include <optional>
 #include <string>
 
 #include "host/excel/Excel.h"
 #include "runtime/RuntimeError.h"
-#include "xlsx/ChartGroups.h"
+#include "xlsx/ChartAxes.h"
+#include "xlsx/ChartBorder.h"
 #include "xlsx/ChartPart.h"
+#include "xlsx/ChartScale.h"
 #include "xlsx/ChartSchema.h"
 #include "xlsx/ChartText.h"
+#include "xlsx/Enumerations.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/Xml.h"
 
@@ -18,6 +23,8 @@ using runtime::RuntimeError;
 using runtime::Variant;
 
 namespace {
+
+constexpr std::int32_t kLogarithmic = -4133;  // xlScaleLogarithmic
 
 /// An axis, found anew at each use: a change of the chart's type may replace the element.
 struct AxisHandle {
@@ -64,32 +71,11 @@ class Title final : public excel::AxisTitle {
 
   void SetOrientation(std::int32_t orientation) override {
     axis_.Log().Put([this] { return Path(); }, "Orientation", orientation);
-    const auto rich = schema::Find(schema::Find(Node(), "tx"), "rich");
-    const pugi::xml_node body = schema::Ensure(rich ? rich : schema::Ensure(Node(), "txPr"), "bodyPr");
-    std::int32_t degrees = 0;
-    std::string_view direction = "horz";
-    switch (orientation) {
-      case excel::xlHorizontal:
-        break;
-      case excel::xlUpward:
-        degrees = 90;
-        break;
-      case excel::xlDownward:
-        degrees = -90;
-        break;
-      case excel::xlVertical:
-        direction = "wordArtVert";
-        break;
-      default:
-        if (orientation < -90 || orientation > 90) {
-          throw RuntimeError(runtime::error::kApplication,
-                             "Unable to set the Orientation property of the AxisTitle class");
-        }
-        degrees = orientation;
+    const auto rich = xml::Child(Node(), "tx", "rich");
+    if (!SetTextOrientation(rich ? rich : schema::Ensure(Node(), "txPr"), orientation)) {
+      throw RuntimeError(runtime::error::kApplication,
+                         "Unable to set the Orientation property of the AxisTitle class");
     }
-    // the file turns clockwise, in sixty-thousandths of a degree
-    xml::SetAttribute(body, "rot", std::to_string(-degrees * 60000));
-    xml::SetAttribute(body, "vert", direction);
     axis_.part->MarkChanged();
   }
 
@@ -152,8 +138,131 @@ class AxisObject final : public excel::Axis {
     return std::make_shared<Title>(axis_);
   }
   Ref<excel::TickLabels> TickLabels() override { return std::make_shared<Ticks>(axis_); }
+  void SetTickLabelPosition(std::int32_t position) override {
+    Log("TickLabelPosition", position);
+    SetVal(axis_.Node(), "tickLblPos", kTickLabelPositions.Token(position), "TickLabelPosition");
+  }
+
+  void SetHasMajorGridlines(bool value) override {
+    SetGridlines("HasMajorGridlines", "majorGridlines", value);
+  }
+  void SetHasMinorGridlines(bool value) override {
+    SetGridlines("HasMinorGridlines", "minorGridlines", value);
+  }
+
+  double MinimumScale() override { return Scale("MinimumScale").minimum; }
+  double MaximumScale() override { return Scale("MaximumScale").maximum; }
+  void SetMinimumScale(double value) override { SetLimit("MinimumScale", "min", value); }
+  void SetMaximumScale(double value) override { SetLimit("MaximumScale", "max", value); }
+  void SetMajorUnit(double value) override {
+    Log("MajorUnit", value);
+    const pugi::xml_node axis = Values("MajorUnit");
+    if (!(value > 0) || !std::isfinite(value)) throw CantSet("MajorUnit");
+    schema::SetVal(axis, "majorUnit", xml::Number(value));
+    axis_.part->MarkChanged();
+  }
+  void SetMajorUnitIsAuto(bool value) override {
+    Log("MajorUnitIsAuto", value);
+    const pugi::xml_node axis = Values("MajorUnitIsAuto");
+    if (value) {
+      schema::Remove(axis, "majorUnit");
+    } else {
+      schema::SetVal(axis, "majorUnit", xml::Number(ScaleOf(*axis_.part, axis).majorUnit));
+    }
+    axis_.part->MarkChanged();
+  }
+  void SetReversePlotOrder(bool value) override {
+    Log("ReversePlotOrder", value);
+    schema::SetVal(schema::Ensure(axis_.Node(), "scaling"), "orientation", value ? "maxMin" : "minMax");
+    axis_.part->MarkChanged();
+  }
+  void SetScaleType(std::int32_t type) override {
+    Log("ScaleType", type);
+    const pugi::xml_node scaling = schema::Ensure(Values("ScaleType"), "scaling");
+    if (type == excel::xlLinear) {
+      schema::Remove(scaling, "logBase");
+    } else if (type == kLogarithmic) {
+      schema::SetVal(scaling, "logBase", "10");
+    } else {
+      throw CantSet("ScaleType");
+    }
+    axis_.part->MarkChanged();
+  }
+  void SetDisplayUnit(std::int32_t unit) override {
+    Log("DisplayUnit", unit);
+    const pugi::xml_node axis = Values("DisplayUnit");
+    const auto token = kDisplayUnits.Token(unit);
+    if (unit == excel::xlNone) {
+      schema::Remove(axis, "dispUnits");
+    } else if (token) {
+      const pugi::xml_node units = schema::Ensure(axis, "dispUnits");
+      schema::Remove(units, "custUnit");
+      schema::SetVal(units, "builtInUnit", *token);
+      schema::Ensure(units, "dispUnitsLbl");
+    } else {
+      throw CantSet("DisplayUnit");
+    }
+    axis_.part->MarkChanged();
+  }
+  void SetCrosses(std::int32_t crosses) override {
+    Log("Crosses", crosses);
+    // the file says it of the axis that crosses
+    const pugi::xml_node other = FindCrossedAxis(axis_.Node());
+    if (!other) throw CantSet("Crosses");
+    SetVal(other, "crosses", kCrosses.Token(crosses), "Crosses");
+    schema::Remove(other, "crossesAt");
+  }
+
+  Ref<excel::Border> Border() override {
+    return MakeBorder(
+        {axis_.part, [axis = axis_] { return axis.Node(); }, [axis = axis_] { return axis.Path(); }});
+  }
 
  private:
+  static RuntimeError CantSet(const char* property) {
+    return RuntimeError(runtime::error::kApplication,
+                        std::string("Unable to set the ") + property + " property of the Axis class");
+  }
+  void Log(const char* property, const Variant& value) const {
+    axis_.Log().Put([this] { return axis_.Path(); }, property, value);
+  }
+  void SetVal(pugi::xml_node axis, const char* name, std::optional<std::string_view> token,
+              const char* property) {
+    if (!token) throw CantSet(property);
+    schema::SetVal(axis, name, *token);
+    axis_.part->MarkChanged();
+  }
+  void SetGridlines(const char* property, const char* name, bool value) {
+    Log(property, value);
+    if (value) {
+      schema::Ensure(axis_.Node(), name);
+    } else {
+      schema::Remove(axis_.Node(), name);
+    }
+    axis_.part->MarkChanged();
+  }
+  /// The axis, which must be one of values for what the property is.
+  pugi::xml_node Values(const char* property) const {
+    const pugi::xml_node axis = axis_.Node();
+    if (!xml::Is(axis, "valAx")) throw CantSet(property);
+    return axis;
+  }
+  AxisScale Scale(const char* property) const {
+    const pugi::xml_node axis = axis_.Node();
+    if (!xml::Is(axis, "valAx")) {
+      throw RuntimeError(runtime::error::kApplication,
+                         std::string("Unable to get the ") + property + " property of the Axis class");
+    }
+    return ScaleOf(*axis_.part, axis);
+  }
+  void SetLimit(const char* property, const char* name, double value) {
+    Log(property, value);
+    const pugi::xml_node scaling = schema::Ensure(Values(property), "scaling");
+    if (!std::isfinite(value)) throw CantSet(property);
+    schema::SetVal(scaling, name, xml::Number(value));
+    axis_.part->MarkChanged();
+  }
+
   AxisHandle axis_;
 };
 

@@ -1,9 +1,11 @@
 #include "xlsx/ChartData.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "runtime/RuntimeError.h"
 #include "xlsx/CellText.h"
+#include "xlsx/ChartFit.h"
 #include "xlsx/ChartLook.h"
 #include "xlsx/ChartPart.h"
 #include "xlsx/ChartSchema.h"
@@ -31,6 +33,8 @@ const char* PropertyName(SeriesData which) {
       return "Name";
     case SeriesData::kCategories:
       return "XValues";
+    case SeriesData::kBubbleSizes:
+      return "BubbleSizes";
     case SeriesData::kValues:
       break;
   }
@@ -124,6 +128,16 @@ void PointAt(pugi::xml_node data, const Source& source, bool texts) {
   }
 }
 
+pugi::xml_node CacheOf(pugi::xml_node data) {
+  const auto literal = schema::Find(data, "numLit");
+  return literal ? literal : xml::Child(data, "numRef", "numCache");
+}
+
+std::size_t PointsIn(pugi::xml_node cache) {
+  const auto count = xml::ParseInteger(schema::Val(cache, "ptCount")).value_or(0);
+  return static_cast<std::size_t>(std::clamp<long long>(count, 0, limits::kCachePoints));
+}
+
 }  // namespace
 
 std::string SeriesText(pugi::xml_node series) {
@@ -140,19 +154,42 @@ void SetSeriesData(ChartPart& part, pugi::xml_node series, SeriesData which, con
     xml::SetText(schema::Ensure(Emptied(series, "tx"), "v"), *text);
   } else {
     const Source source = FindSource(part, which, *text);
+    const ChartTypeEntry* type = TypeOfGroup(series.parent());
+    const bool hasX = type != nullptr && type->HasXValues();
     switch (which) {
       case SeriesData::kName:
         PointAt(Emptied(series, "tx"), source, true);
         break;
       case SeriesData::kCategories:
-        PointAt(Emptied(series, "cat"), source, HoldsText(source));
+        PointAt(Emptied(series, hasX ? "xVal" : "cat"), source, HoldsText(source));
         break;
       case SeriesData::kValues:
-        PointAt(Emptied(series, "val"), source, false);
+        PointAt(Emptied(series, hasX ? "yVal" : "val"), source, false);
+        break;
+      case SeriesData::kBubbleSizes:
+        PointAt(Emptied(series, "bubbleSize"), source, false);
         break;
     }
   }
   part.MarkChanged();
 }
+
+pugi::xml_node FindValues(pugi::xml_node series) {
+  const auto values = schema::Find(series, "val");
+  return values ? values : schema::Find(series, "yVal");
+}
+
+std::vector<Variant> CachedNumbers(pugi::xml_node data) {
+  const auto cache = CacheOf(data);
+  std::vector<Variant> numbers(PointsIn(cache));
+  for (const pugi::xml_node& point : xml::Children(cache, "pt")) {
+    const auto index = static_cast<unsigned long long>(xml::IntegerAttribute(point, "idx", -1));
+    const auto number = xml::ParseDouble(xml::Text(xml::Child(point, "v")));
+    if (index < numbers.size() && number) numbers[index] = *number;
+  }
+  return numbers;
+}
+
+std::size_t PointCount(pugi::xml_node series) { return PointsIn(CacheOf(FindValues(series))); }
 
 }  // namespace plotsmith::xlsx

@@ -2,6 +2,7 @@
 
 #include <pugixml.hpp>
 #include <string>
+#include <vector>
 
 #include "runtime/Variant.h"
 
@@ -9,8 +10,9 @@ namespace plotsmith::xlsx {
 
 class ChartPart;
 
-/// What a series can be given as its name, its categories or its values.
-enum class SeriesData { kName, kCategories, kValues };
+/// What a series can be given as its name, its categories or X values, its values, or the sizes of its
+/// bubbles.
+enum class SeriesData { kName, kCategories, kValues, kBubbleSizes };
 
 /// The name of a series as it is written in the part, from its cell or by itself; empty without one.
 std::string SeriesText(pugi::xml_node series);
@@ -19,5 +21,12 @@ std::string SeriesText(pugi::xml_node series);
 /// reader shows the chart without computing anything. A name may also be a literal text. Error 1004 for what
 /// is neither.
 void SetSeriesData(ChartPart& part, pugi::xml_node series, SeriesData which, const runtime::Variant& value);
+
+/// The element of a series that holds its values.
+pugi::xml_node FindValues(pugi::xml_node series);
+/// What the chart's cache holds of a series' data, one for each point: numbers, and Empty where there is
+/// none.
+std::vector<runtime::Variant> CachedNumbers(pugi::xml_node data);
+std::size_t PointCount(pugi::xml_node series);
 
 }  // namespace plotsmith::xlsx

@@ -6,45 +6,23 @@
 #include <set>
 #include <string>
 
-#include "xlsx/ChartPart.h"
+#include "runtime/RuntimeError.h"
+#include "xlsx/ChartAxes.h"
+#include "xlsx/ChartData.h"
+#include "xlsx/ChartFit.h"
+#include "xlsx/ChartLegendEntries.h"
 #include "xlsx/ChartSchema.h"
 #include "xlsx/FreeNumber.h"
 #include "xlsx/Xml.h"
 
 namespace plotsmith::xlsx {
+
+using runtime::RuntimeError;
+
 namespace {
 
 constexpr std::int32_t kClusteredColumns = 51;
 constexpr std::array<std::string_view, 4> kStageElements = {"view3D", "floor", "sideWall", "backWall"};
-
-std::vector<pugi::xml_node> Groups(pugi::xml_node plotArea) {
-  std::vector<pugi::xml_node> groups;
-  for (const pugi::xml_node& child : plotArea.children()) {
-    if (schema::IsGroup(child)) groups.push_back(child);
-  }
-  return groups;
-}
-
-bool IsCategoryAxis(pugi::xml_node axis) { return xml::Is(axis, "catAx") || xml::Is(axis, "dateAx"); }
-
-std::string AxisId(pugi::xml_node axis) { return schema::Val(axis, "axId"); }
-
-/// `idx` or `order` of a series. They are asked for all the time, and so read where they stand.
-long long Number(pugi::xml_node series, std::string_view local) {
-  return xml::IntegerAttribute(schema::Find(series, local), "val", 0);
-}
-
-/// The axes that a group hangs on.
-std::vector<pugi::xml_node> AxesOf(pugi::xml_node group) {
-  std::vector<pugi::xml_node> axes;
-  for (const pugi::xml_node& link : xml::Children(group, "axId")) {
-    const std::string id = xml::Attribute(link, "val");
-    for (const pugi::xml_node& axis : group.parent().children()) {
-      if (schema::IsAxis(axis) && AxisId(axis) == id) axes.push_back(axis);
-    }
-  }
-  return axes;
-}
 
 /// The name under which what belongs to the group's type is laid aside.
 std::string StateName(pugi::xml_node group) {
@@ -66,287 +44,207 @@ void LayTypeAside(ChartPart& part, pugi::xml_node group) {
   for (const std::string_view stage : kStageElements) {
     if (const auto node = schema::Find(part.Chart(), stage)) state.append_copy(node);
   }
-  for (const pugi::xml_node& axis : AxesOf(group)) {
-    if (xml::Is(axis, "serAx")) state.append_copy(axis);
-    const std::string between = schema::Val(axis, "crossBetween");
-    if (xml::Is(axis, "valAx") && !between.empty()) xml::SetAttribute(state, "crossBetween", between);
-  }
+  const AxisRoles roles = RolesOf(AxesOf(group));
+  if (roles.depth) state.append_copy(roles.depth);
+  const std::string between = schema::Val(roles.value, "crossBetween");
+  if (!between.empty()) xml::SetAttribute(state, "crossBetween", between);
 }
 
-/// The number wanted or, if that is empty or some axis has it, one that none has.
-std::string FreeAxisId(pugi::xml_node plotArea, const std::string& wanted = {}) {
-  std::set<std::string> taken;
-  for (const pugi::xml_node& axis : plotArea.children()) {
-    if (schema::IsAxis(axis)) taken.insert(AxisId(axis));
-  }
-  if (!wanted.empty() && !taken.contains(wanted)) return wanted;
-  long long id = 111111111;
-  while (taken.contains(std::to_string(id))) ++id;
-  return std::to_string(id);
+/// The group of the type as it was laid aside, else one like an old one.
+pugi::xml_node MakeGroup(ChartPart& part, pugi::xml_node old, const ChartTypeEntry& type,
+                         pugi::xml_node state) {
+  const auto laidAside = schema::Find(state, type.element);
+  const pugi::xml_node group =
+      laidAside ? schema::InsertCopy(part.PlotArea(), laidAside) : DeriveGroup(part.PlotArea(), old, type);
+  FitGroup(group, type, static_cast<bool>(laidAside));
+  return group;
 }
 
-pugi::xml_node NewAxis(pugi::xml_node plotArea, std::string_view element) {
-  const std::string id = FreeAxisId(plotArea);
-  pugi::xml_node axis = schema::Insert(plotArea, element);
-  schema::SetVal(axis, "axId", id);
-  schema::SetVal(schema::Ensure(axis, "scaling"), "orientation", "minMax");
-  schema::SetVal(axis, "delete", "0");
-  schema::SetVal(axis, "axPos", "b");
-  if (element == "valAx") schema::Ensure(axis, "majorGridlines");
-  if (element != "serAx") {
-    const pugi::xml_node format = schema::Ensure(axis, "numFmt");
-    xml::SetAttribute(format, "formatCode", "General");
-    xml::SetAttribute(format, "sourceLinked", "1");
-  }
-  schema::SetVal(axis, "majorTickMark", "out");
-  schema::SetVal(axis, "minorTickMark", "none");
-  schema::SetVal(axis, "tickLblPos", "nextTo");
-  schema::SetVal(axis, "crosses", "autoZero");
-  if (element == "catAx") {
-    schema::SetVal(axis, "auto", "1");
-    schema::SetVal(axis, "lblAlgn", "ctr");
-    schema::SetVal(axis, "lblOffset", "100");
-    schema::SetVal(axis, "noMultiLvlLbl", "0");
-  }
-  return axis;
-}
-
-/// Lays an axis upright or flat, on the side that answers to the one it was on.
-void TurnAxis(pugi::xml_node axis, bool upright) {
-  std::string side = schema::Val(axis, "axPos", "b");
-  const bool far = side == "t" || side == "r";
-  schema::SetVal(axis, "axPos", upright ? (far ? "r" : "l") : (far ? "t" : "b"));
-}
-
-void ArrangeAxes(pugi::xml_node plotArea, pugi::xml_node group, const std::vector<pugi::xml_node>& old,
-                 const ChartTypeEntry& type, pugi::xml_node state, bool familyChanged) {
-  const auto pick = [&](auto&& wanted) {
-    const auto found = std::find_if(old.begin(), old.end(), wanted);
-    return found == old.end() ? pugi::xml_node() : *found;
-  };
-  pugi::xml_node category = pick(IsCategoryAxis);
-  // of two value axes the upright one is kept
-  pugi::xml_node value = pick([&](pugi::xml_node axis) {
-    const std::string side = schema::Val(axis, "axPos");
-    return xml::Is(axis, "valAx") && (category || side == "l" || side == "r");
-  });
-  pugi::xml_node depth = pick([](pugi::xml_node axis) { return xml::Is(axis, "serAx"); });
-  for (pugi::xml_node axis = plotArea.first_child(); axis;) {
-    const pugi::xml_node next = axis.next_sibling();
-    const bool keep = axis == category || axis == value || (axis == depth && type.HasDepthAxis());
-    if (schema::IsAxis(axis) && !keep) plotArea.remove_child(axis);
-    axis = next;
-  }
-  if (!category) category = NewAxis(plotArea, "catAx");
-  if (!value) value = NewAxis(plotArea, "valAx");
-  schema::SetVal(category, "crossAx", AxisId(value));
-  schema::SetVal(value, "crossAx", AxisId(category));
-  TurnAxis(category, type.IsHorizontal());
-  TurnAxis(value, !type.IsHorizontal());
-  const std::string between = xml::Attribute(state, "crossBetween");
-  if (!between.empty()) {
-    schema::SetVal(value, "crossBetween", between);
-  } else if (familyChanged || schema::Val(value, "crossBetween").empty()) {
-    schema::SetVal(value, "crossBetween", type.IsArea() ? "midCat" : "between");
-  }
-
-  schema::Remove(group, "axId");
-  const auto link = [&](const std::string& id) {
-    xml::SetAttribute(schema::Insert(group, "axId"), "val", id);
-  };
-  link(AxisId(category));
-  link(AxisId(value));
-  if (type.HasDepthAxis()) {
-    if (!depth) {
-      const auto laidAside = schema::Find(state, "serAx");
-      const std::string id = FreeAxisId(plotArea, AxisId(laidAside));
-      depth = laidAside ? schema::InsertCopy(plotArea, laidAside) : NewAxis(plotArea, "serAx");
-      schema::SetVal(depth, "axId", id);
-    }
-    schema::SetVal(depth, "crossAx", AxisId(category));
-    link(AxisId(depth));
-  } else if (type.Is3D()) {
-    link("0");  // a 3-D group names three axes, also where it has two
-  }
-}
-
-/// View, floor and walls: of the type laid aside, else as they are, else Excel's own.
-void ArrangeStage(pugi::xml_node chart, const ChartTypeEntry& type, pugi::xml_node state) {
-  const bool had = static_cast<bool>(schema::Find(chart, "view3D"));
-  if (!type.Is3D() || state) {
+/// View, floor and walls: of the type laid aside, else as they are if they are of the same kind, else Excel's
+/// own.
+void ArrangeStage(pugi::xml_node chart, const ChartTypeEntry& type, pugi::xml_node state, bool sameKind) {
+  if (!type.Is3D() || state || !sameKind) {
     for (const std::string_view stage : kStageElements) schema::Remove(chart, stage);
   }
   if (!type.Is3D()) return;
-  if (state) {
-    for (const std::string_view stage : kStageElements) {
-      if (const auto node = schema::Find(state, stage)) schema::InsertCopy(chart, node);
-    }
-  } else if (!had) {
-    pugi::xml_node view = schema::Ensure(chart, "view3D");
-    schema::SetVal(view, "rotX", "15");
-    schema::SetVal(view, "rotY", "20");
-    schema::SetVal(view, "rAngAx", type.HasDepthAxis() ? "0" : "1");
-    if (type.HasDepthAxis()) schema::SetVal(view, "perspective", "30");
-    for (const std::string_view surface : {"floor", "sideWall", "backWall"}) {
-      schema::SetVal(schema::Ensure(chart, surface), "thickness", "0");
-    }
+  for (const std::string_view stage : kStageElements) {
+    if (const auto node = schema::Find(state, stage)) schema::InsertCopy(chart, node);
+  }
+  if (state || schema::Find(chart, "view3D")) return;
+  pugi::xml_node view = schema::Ensure(chart, "view3D");
+  schema::SetVal(view, "rotX", type.IsPie() ? "30" : "15");
+  schema::SetVal(view, "rotY", type.IsPie() ? "0" : "20");
+  const bool perspective = type.HasDepthAxis() || type.IsPie();
+  schema::SetVal(view, "rAngAx", perspective ? "0" : "1");
+  if (perspective) schema::SetVal(view, "perspective", "30");
+  if (type.IsPie()) return;
+  for (const std::string_view surface : {"floor", "sideWall", "backWall"}) {
+    schema::SetVal(schema::Ensure(chart, surface), "thickness", "0");
   }
 }
 
-/// Where labels of a type may stand; a file that says anything else is one that Excel refuses.
-std::string_view LabelPositions(const ChartTypeEntry& type) {
-  if (type.IsArea() || type.Is3D()) return "";
-  return type.IsStacked() ? "ctr inBase inEnd" : "ctr inBase inEnd outEnd";
+int DrawingRank(pugi::xml_node group) {
+  const std::string_view kind = xml::LocalName(group);
+  if (kind.starts_with("area")) return 0;
+  if (kind.starts_with("bar")) return 1;
+  if (kind.starts_with("line")) return 2;
+  return 3;
 }
 
-void KeepAllowedPositions(pugi::xml_node labels, const ChartTypeEntry& type) {
-  for (const pugi::xml_node& label : xml::Children(labels, "dLbl")) KeepAllowedPositions(label, type);
-  const std::string position = schema::Val(labels, "dLblPos");
-  if (!position.empty() && LabelPositions(type).find(position) == std::string_view::npos) {
-    schema::Remove(labels, "dLblPos");
-  }
-}
-
-/// Takes from a series what the type's series can't have.
-void FitSeries(pugi::xml_node series, const ChartTypeEntry& type) {
-  for (const std::string_view foreign : {"marker", "explosion", "smooth", "bubbleSize", "bubble3D"}) {
-    schema::Remove(series, foreign);
-  }
-  if (type.IsArea()) schema::Remove(series, "invertIfNegative");
-  if (type.element != "bar3DChart") schema::Remove(series, "shape");
-  if (!type.IsArea()) {
-    // readers differ in what they take its absence for
-    if (!schema::Find(series, "invertIfNegative")) schema::SetVal(series, "invertIfNegative", "0");
-  }
-  for (const auto& [from, to] : {std::pair{"xVal", "cat"}, std::pair{"yVal", "val"}}) {
-    if (pugi::xml_node data = schema::Find(series, from)) {
-      data.set_name((std::string(xml::Prefix(data.name())) + to).c_str());
+/// Moves a group to where it is drawn among the others.
+void PutInDrawingOrder(pugi::xml_node group) {
+  for (const pugi::xml_node& other : group.parent().children()) {
+    if (other != group && schema::IsGroup(other) && DrawingRank(other) > DrawingRank(group)) {
+      group.parent().insert_move_before(group, other);
+      return;
     }
   }
-  for (const pugi::xml_node& labels : xml::Children(series, "dLbls")) KeepAllowedPositions(labels, type);
 }
 
-/// The group's own elements, as far as the type decides them.
-void FitGroup(pugi::xml_node group, const ChartTypeEntry& type, bool restored) {
-  if (!type.direction.empty()) schema::SetVal(group, "barDir", type.direction);
-  schema::SetVal(group, "grouping", type.grouping);
-  if (restored) return;
-  if (!schema::Find(group, "varyColors")) schema::SetVal(group, "varyColors", "0");
-  if (!type.IsArea() && !schema::Find(group, "gapWidth")) schema::SetVal(group, "gapWidth", "150");
-  if (type.element == "bar3DChart" && !schema::Find(group, "shape")) schema::SetVal(group, "shape", "box");
-  if (type.element == "barChart") {
-    if (type.IsStacked()) {
-      schema::SetVal(group, "overlap", "100");
-    } else {
-      schema::Remove(group, "overlap");
-    }
-  }
-  for (const pugi::xml_node& labels : xml::Children(group, "dLbls")) KeepAllowedPositions(labels, type);
-}
-
-/// A group of the type that takes over what both types have in common.
-pugi::xml_node DeriveGroup(pugi::xml_node plotArea, pugi::xml_node old, const ChartTypeEntry& type) {
-  pugi::xml_node group = schema::Insert(plotArea, type.element);
-  for (const std::string_view common : {"varyColors", "dLbls", "gapWidth", "gapDepth", "dropLines"}) {
-    const bool fits = (common != "gapWidth" || !type.IsArea()) && (common != "gapDepth" || type.Is3D()) &&
-                      (common != "dropLines" || type.IsArea());
-    const auto node = schema::Find(old, common);
-    if (fits && node) schema::InsertCopy(group, node);
-  }
-  return group;
+[[noreturn]] void CantCombine() {
+  throw RuntimeError(runtime::error::kApplication,
+                     "Some chart types cannot be combined with other chart types.");
 }
 
 }  // namespace
 
-std::vector<pugi::xml_node> SeriesOf(ChartPart& part) {
-  std::vector<std::pair<long long, pugi::xml_node>> found;  // each behind its order
-  const auto plotArea = schema::Find(schema::Find(part.Space(), "chart"), "plotArea");
-  for (const pugi::xml_node& group : Groups(plotArea)) {
-    for (const pugi::xml_node& node : xml::Children(group, "ser"))
-      found.emplace_back(Number(node, "order"), node);
+std::vector<pugi::xml_node> GroupsOf(ChartPart& part) {
+  std::vector<pugi::xml_node> groups;
+  for (const pugi::xml_node& child : xml::Child(part.Space(), "chart", "plotArea").children()) {
+    if (schema::IsGroup(child)) groups.push_back(child);
   }
-  std::stable_sort(found.begin(), found.end(),
-                   [](const auto& a, const auto& b) { return a.first < b.first; });
+  return groups;
+}
+
+std::vector<pugi::xml_node> DrawnGroups(ChartPart& part) {
+  auto groups = GroupsOf(part);
+  std::erase_if(groups, [](pugi::xml_node group) { return !schema::Find(group, "ser"); });
+  std::stable_sort(groups.begin(), groups.end(),
+                   [](pugi::xml_node a, pugi::xml_node b) { return DrawingRank(a) < DrawingRank(b); });
+  return groups;
+}
+
+std::vector<pugi::xml_node> SeriesOf(ChartPart& part) {
   std::vector<pugi::xml_node> series;
-  for (const auto& [order, node] : found) series.push_back(node);
+  for (const SeriesRef& entry : part.Series()) series.push_back(entry->node);
   return series;
 }
 
-pugi::xml_node AddSeries(ChartPart& part) {
-  pugi::xml_node plotArea = part.PlotArea();
-  if (Groups(plotArea).empty()) SetType(part, *FindChartType(kClusteredColumns));
+SeriesRef AddSeries(ChartPart& part) {
+  if (GroupsOf(part).empty()) SetType(part, *FindChartType(kClusteredColumns));
+  auto& all = part.Series();
   std::set<long long> indices, orders;
-  for (const pugi::xml_node& series : SeriesOf(part)) {
-    indices.insert(Number(series, "idx"));
-    orders.insert(Number(series, "order"));
+  for (const SeriesRef& entry : all) {
+    indices.insert(xml::IntegerAttribute(schema::Find(entry->node, "idx"), "val", 0));
+    orders.insert(xml::IntegerAttribute(schema::Find(entry->node, "order"), "val", 0));
   }
   constexpr long long kLast = std::numeric_limits<std::int32_t>::max();
-  const pugi::xml_node group = Groups(plotArea)[0];
+  const pugi::xml_node last = all.empty() ? pugi::xml_node() : all.back()->node;
+  const pugi::xml_node group = last ? last.parent() : GroupsOf(part)[0];
+  const ChartTypeEntry* type = last ? TypeOf(last) : TypeOfGroup(group);
   pugi::xml_node series = schema::Insert(group, "ser");
   schema::SetVal(series, "idx", std::to_string(FreeNumber(indices, 0, kLast)));
   schema::SetVal(series, "order", std::to_string(FreeNumber(orders, 0, kLast)));
-  if (xml::LocalName(group).starts_with("bar")) schema::SetVal(series, "invertIfNegative", "0");
+  if (type != nullptr) FitSeries(part, series, *type);
+  WelcomeLegendEntry(part, all.size());
+  all.push_back(std::make_shared<SeriesEntry>(SeriesEntry{series}));
   part.MarkChanged();
-  return series;
+  return all.back();
+}
+
+void DeleteSeries(ChartPart& part, const SeriesRef& series) {
+  auto& all = part.Series();
+  const auto at = std::find(all.begin(), all.end(), series);
+  if (at == all.end()) return;
+  DropLegendEntry(part, static_cast<std::size_t>(at - all.begin()));
+  ForgetSeries(part, series->node);
+  series->node.parent().remove_child(series->node);
+  series->node = {};
+  all.erase(at);
+  part.MarkChanged();
 }
 
 void SetType(ChartPart& part, const ChartTypeEntry& type) {
   pugi::xml_node plotArea = part.PlotArea();
-  const auto groups = Groups(plotArea);
+  const auto groups = GroupsOf(part);
   const auto series = SeriesOf(part);
   const pugi::xml_node old = groups.empty() ? pugi::xml_node() : groups[0];
+  const std::string kind(xml::LocalName(old));
   const auto axes = old ? AxesOf(old) : std::vector<pugi::xml_node>();
   part.MarkChanged();
 
   const bool same = groups.size() == 1 && StateName(old) == StateName(type);
-  const bool familyChanged = !old || xml::LocalName(old).starts_with("area") != type.IsArea();
   pugi::xml_node group = old;
   pugi::xml_node state;
-  if (!same) {
-    if (old) LayTypeAside(part, old);
+  if (same) {
+    FitGroup(group, type, true);
+  } else {
+    for (const pugi::xml_node& other : groups) LayTypeAside(part, other);
     state = part.LaidAside(StateName(type));
-    const auto laidAside = schema::Find(state, type.element);
-    group = laidAside ? schema::InsertCopy(plotArea, laidAside) : DeriveGroup(plotArea, old, type);
+    group = MakeGroup(part, old, type, state);
     for (const pugi::xml_node& node : series) schema::InsertMoved(group, node);
-    for (pugi::xml_node other : groups) plotArea.remove_child(other);
+    for (const pugi::xml_node& other : groups) plotArea.remove_child(other);
   }
-  FitGroup(group, type, same || state);
-  for (const pugi::xml_node& node : series) FitSeries(node, type);
-  ArrangeAxes(plotArea, group, axes, type, state, familyChanged);
-  ArrangeStage(part.Chart(), type, state);
+  for (const pugi::xml_node& node : series) FitSeries(part, node, type);
+  const bool familyChanged = kind.empty() || CrossBetween(kind) != CrossBetween(type.element);
+  ArrangeAxes(part, group, axes, type, state, familyChanged);
+  ArrangeStage(part.Chart(), type, state, kind.starts_with("pie") == type.IsPie());
   // Excel takes its absence for a gap, where others take it for zero; a pivot has blanks
   if (!schema::Find(part.Chart(), "dispBlanksAs")) schema::SetVal(part.Chart(), "dispBlanksAs", "gap");
 }
 
-void UpdateLinkedFormats(ChartPart& part) {
-  const auto plotArea = schema::Find(schema::Find(part.Space(), "chart"), "plotArea");
-  for (const pugi::xml_node& group : Groups(plotArea)) {
-    std::string format;
-    if (schema::Val(group, "grouping") == "percentStacked") {
-      format = "0%";
-    } else {
-      const auto values = schema::Find(schema::Find(group, "ser"), "val");
-      format =
-          xml::Text(schema::Find(schema::Find(schema::Find(values, "numRef"), "numCache"), "formatCode"));
+void SetSeriesType(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type) {
+  const pugi::xml_node group = series.parent();
+  part.MarkChanged();
+  if (StateName(group) == StateName(type)) return FitSeries(part, series, type);
+  const auto groups = DrawnGroups(part);
+  if (part.Series().size() == 1 || (groups.size() == 1 && xml::Is(group, type.element))) {
+    return SetType(part, type);
+  }
+  for (const pugi::xml_node& other : groups) {
+    const ChartTypeEntry* beside = TypeOfGroup(other);
+    if (!type.Combines() || beside == nullptr || !beside->Combines()) CantCombine();
+  }
+  const auto all = GroupsOf(part);
+  const auto axes = AxesOf(group);
+  const auto found = std::find_if(all.begin(), all.end(), [&](pugi::xml_node other) {
+    return xml::Is(other, type.element) && AxesOf(other) == axes;
+  });
+  pugi::xml_node target;
+  if (found == all.end()) {
+    target = MakeGroup(part, group, type, part.LaidAside(StateName(type)));
+    ShareAxes(target, group);
+    PutInDrawingOrder(target);
+  } else {
+    target = *found;
+    if (StateName(target) != StateName(type)) {
+      FitGroup(target, type, false);
+      for (const pugi::xml_node& node : xml::Children(target, "ser")) FitSeries(part, node, type);
     }
-    if (format.empty()) continue;
-    for (const pugi::xml_node& axis : AxesOf(group)) {
-      const auto linked = xml::Is(axis, "valAx") ? schema::Find(axis, "numFmt") : pugi::xml_node();
-      if (linked && xml::BooleanAttribute(linked, "sourceLinked", false)) {
-        xml::SetAttribute(linked, "formatCode", format);
-      }
-    }
+  }
+  if (target != group) schema::InsertMoved(target, series);
+  FitSeries(part, series, type);
+  if (!schema::Find(group, "ser")) {
+    LayTypeAside(part, group);
+    group.parent().remove_child(group);
   }
 }
 
-pugi::xml_node FindAxis(ChartPart& part, bool value) {
-  const auto groups = Groups(schema::Find(schema::Find(part.Space(), "chart"), "plotArea"));
-  if (groups.empty()) return {};
-  pugi::xml_node second;  // of two value axes the second is the vertical one
-  for (const pugi::xml_node& axis : AxesOf(groups[0])) {
-    if (value ? xml::Is(axis, "valAx") : IsCategoryAxis(axis)) second = axis;
+void UpdateLinkedFormats(ChartPart& part) {
+  for (const pugi::xml_node& group : GroupsOf(part)) {
+    const auto axes = AxesOf(group);
+    const AxisRoles roles = RolesOf(axes);
+    for (const pugi::xml_node& axis : axes) {
+      const auto linked = xml::Is(axis, "valAx") ? schema::Find(axis, "numFmt") : pugi::xml_node();
+      if (!linked || !xml::BooleanAttribute(linked, "sourceLinked", false)) continue;
+      const auto series = schema::Find(group, "ser");
+      const auto data = axis == roles.x ? schema::Find(series, "xVal") : FindValues(series);
+      const std::string format = schema::Val(group, "grouping") == "percentStacked"
+                                     ? "0%"
+                                     : xml::Text(xml::Child(data, "numRef", "numCache", "formatCode"));
+      if (!format.empty()) xml::SetAttribute(linked, "formatCode", format);
+    }
   }
-  return second;
 }
 
 }  // namespace plotsmith::xlsx

@@ -4,6 +4,7 @@
 
 #include "host/excel/Excel.h"
 #include "runtime/RuntimeError.h"
+#include "xlsx/ChartLegendEntries.h"
 #include "xlsx/ChartPart.h"
 #include "xlsx/ChartSchema.h"
 #include "xlsx/ChartText.h"
@@ -68,6 +69,11 @@ class LegendObject final : public excel::Legend {
     // a place taken by hand would win over the position
     schema::Remove(schema::Find(legend, "layout"), "manualLayout");
     part_->MarkChanged();
+  }
+
+  Ref<excel::LegendEntries> LegendEntries() override {
+    Node();
+    return MakeLegendEntries(part_);
   }
 
   double Left() override { return Place("x") * Size().width; }

@@ -1,5 +1,7 @@
 #include "xlsx/ChartPart.h"
 
+#include <algorithm>
+
 #include "runtime/RuntimeError.h"
 #include "xlsx/ChartDrawing.h"
 #include "xlsx/ChartGroups.h"
@@ -82,6 +84,23 @@ ChartDrawing& ChartPart::Drawing() {
 
 bool ChartPart::Changed() const { return changed_ || (drawing_ && drawing_->Changed()); }
 
+std::vector<SeriesRef>& ChartPart::Series() {
+  if (!series_) {
+    series_.emplace();
+    for (const pugi::xml_node& group : GroupsOf(*this)) {
+      for (const pugi::xml_node& node : xml::Children(group, "ser")) {
+        series_->push_back(std::make_shared<SeriesEntry>(SeriesEntry{node}));
+      }
+    }
+    const auto order = [](const SeriesRef& entry) {
+      return xml::IntegerAttribute(schema::Find(entry->node, "order"), "val", 0);
+    };
+    std::stable_sort(series_->begin(), series_->end(),
+                     [&](const SeriesRef& a, const SeriesRef& b) { return order(a) < order(b); });
+  }
+  return *series_;
+}
+
 void ChartPart::CatchUp() {
   Space();
   Follow();
@@ -107,8 +126,9 @@ void ChartPart::Follow() {
   walker.shifts = &shifts;
   walker.followed = followed_;
   document_->traverse(walker);
-  followed_ = mark;
   changed_ |= walker.changed;
+  attic_.traverse(walker);
+  followed_ = mark;
 }
 
 void ChartPart::Write() {
@@ -125,8 +145,10 @@ void ChartPart::Write() {
 pugi::xml_node ChartPart::LaidAside(const std::string& state) const { return attic_.child(state.c_str()); }
 
 pugi::xml_node ChartPart::LayAside(const std::string& state) {
-  attic_.remove_child(state.c_str());
+  Forget(state);
   return attic_.append_child(state.c_str());
 }
+
+void ChartPart::Forget(const std::string& state) { attic_.remove_child(state.c_str()); }
 
 }  // namespace plotsmith::xlsx

@@ -8,6 +8,7 @@
 #include <pugixml.hpp>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "xlsx/Theme.h"
 
@@ -15,6 +16,12 @@ namespace plotsmith::xlsx {
 
 class ChartDrawing;
 class Workbook;
+
+/// A series element, which its chart may lose while somebody still holds the entry: then it is a null node.
+struct SeriesEntry {
+  pugi::xml_node node;
+};
+using SeriesRef = std::shared_ptr<SeriesEntry>;
 
 /// A chart part: the document that the objects of a chart are views over. It is parsed when something of the
 /// chart is asked for, and written if something was changed.
@@ -32,6 +39,8 @@ class ChartPart {
   /// The chart element, and the plot area, made if they are missing.
   pugi::xml_node Chart();
   pugi::xml_node PlotArea();
+  /// All series in plot order. Whoever adds or removes one does so here too.
+  std::vector<SeriesRef>& Series();
 
   /// The theme that the chart's colours and fonts are of: its own override, else the workbook's.
   const xlsx::Theme& Theme();
@@ -51,7 +60,9 @@ class ChartPart {
   /// What the chart had to lay aside when its type changed, by the name of the type's state: it comes back
   /// with the type. In memory only.
   pugi::xml_node LaidAside(const std::string& state) const;
+  /// An empty place for it, whatever was there before.
   pugi::xml_node LayAside(const std::string& state);
+  void Forget(const std::string& state);
 
  private:
   void Load();
@@ -65,6 +76,7 @@ class ChartPart {
   bool themeKnown_ = false;
   std::unique_ptr<ChartDrawing> drawing_;
   pugi::xml_document attic_;
+  std::optional<std::vector<SeriesRef>> series_;
   bool changed_ = false;
   std::size_t followed_ = 0;
 };

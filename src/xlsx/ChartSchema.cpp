@@ -75,6 +75,9 @@ constexpr std::string_view kLabels[] = {"idx",
                                         "showLeaderLines",
                                         "leaderLines",
                                         "extLst"};
+constexpr std::string_view kLegendEntry[] = {"idx", "delete|txPr", "extLst"};
+constexpr std::string_view kMarker[] = {"symbol", "size", "spPr", "extLst"};
+constexpr std::string_view kDisplayUnits[] = {"builtInUnit|custUnit", "dispUnitsLbl", "extLst"};
 constexpr std::string_view kView3D[] = {"rotX",   "hPercent",    "rotY",  "depthPercent",
                                         "rAngAx", "perspective", "extLst"};
 constexpr std::string_view kSurface[] = {"thickness", "spPr", "pictureOptions", "extLst"};
@@ -117,6 +120,9 @@ constexpr Type kTypes[] = {
     {"title", kTitle, false},
     {"tx", kTx, false},
     {"legend", kLegend, false},
+    {"legendEntry", kLegendEntry, false},
+    {"marker", kMarker, false},
+    {"dispUnits", kDisplayUnits, false},
     {"layout", kLayout, false},
     {"manualLayout", kManualLayout, false},
     {"dLbls|dLbl", kLabels, false},

@@ -29,16 +29,12 @@ pugi::xml_node EnsureText(pugi::xml_node body) {
 /// The run properties that the element's font consists of, made where they are missing.
 std::vector<pugi::xml_node> RunProperties(pugi::xml_node element) {
   std::vector<pugi::xml_node> properties;
-  const auto rich = schema::Find(schema::Find(element, "tx"), "rich");
-  const pugi::xml_node body = rich ? rich : schema::Ensure(element, "txPr");
-  EnsureText(body);
-  for (pugi::xml_node& paragraph : xml::Children(body, "p")) {
-    properties.push_back(schema::Ensure(paragraph, "pPr", "defRPr"));
-    for (const pugi::xml_node& child : paragraph.children()) {
-      if (xml::Is(child, "r") || xml::Is(child, "fld")) properties.push_back(schema::Ensure(child, "rPr"));
-    }
-    if (!rich && !schema::Find(paragraph, "endParaRPr")) {
-      xml::SetAttribute(schema::Ensure(paragraph, "endParaRPr"), "lang", "en-US");
+  for (const pugi::xml_node& body : TextBodies(element)) {
+    for (const pugi::xml_node& paragraph : xml::Children(body, "p")) {
+      properties.push_back(schema::Ensure(paragraph, "pPr", "defRPr"));
+      for (const pugi::xml_node& child : paragraph.children()) {
+        if (xml::Is(child, "r") || xml::Is(child, "fld")) properties.push_back(schema::Ensure(child, "rPr"));
+      }
     }
   }
   return properties;
@@ -170,6 +166,50 @@ void SetTitleText(pugi::xml_node title, std::string_view text) {
     if (end == std::string_view::npos) break;
     rest.remove_prefix(end + 1);
   }
+}
+
+std::vector<pugi::xml_node> TextBodies(pugi::xml_node element) {
+  const auto rich = xml::Child(element, "tx", "rich");
+  const pugi::xml_node body = rich ? rich : schema::Ensure(element, "txPr");
+  EnsureText(body);
+  for (const pugi::xml_node& paragraph : xml::Children(body, "p")) {
+    if (!rich && !schema::Find(paragraph, "endParaRPr")) {
+      xml::SetAttribute(schema::Ensure(paragraph, "endParaRPr"), "lang", "en-US");
+    }
+  }
+  std::vector<pugi::xml_node> bodies = {body};
+  for (const pugi::xml_node& label : xml::Children(element, "dLbl")) {
+    if (!schema::Find(label, "tx") && !schema::Find(label, "txPr")) continue;
+    const auto own = TextBodies(label);
+    bodies.insert(bodies.end(), own.begin(), own.end());
+  }
+  return bodies;
+}
+
+bool SetTextOrientation(pugi::xml_node body, std::int32_t orientation) {
+  std::int32_t degrees = 0;
+  std::string_view direction = "horz";
+  switch (orientation) {
+    case excel::xlHorizontal:
+      break;
+    case excel::xlUpward:
+      degrees = 90;
+      break;
+    case excel::xlDownward:
+      degrees = -90;
+      break;
+    case excel::xlVertical:
+      direction = "wordArtVert";
+      break;
+    default:
+      if (orientation < -90 || orientation > 90) return false;
+      degrees = orientation;
+  }
+  const pugi::xml_node properties = schema::Ensure(body, "bodyPr");
+  // the file turns clockwise, in sixty-thousandths of a degree
+  xml::SetAttribute(properties, "rot", std::to_string(-degrees * 60000));
+  xml::SetAttribute(properties, "vert", direction);
+  return true;
 }
 
 excel::Ref<excel::Font> MakeFont(ChartPart& part, std::function<std::vector<TextLook>()> looks,

@@ -14,6 +14,9 @@ std::string RgbText(std::int32_t color);
 /// From "RRGGBB", or "AARRGGBB".
 std::optional<std::int32_t> ParseRgb(std::string_view text);
 
+/// Whether a number is one of Excel's colours.
+constexpr bool IsColor(std::int32_t value) { return value >= 0 && value <= 0xFFFFFF; }
+
 /// The filling, or a null node where it is left to the chart's style.
 pugi::xml_node FindFill(pugi::xml_node properties);
 void RemoveFill(pugi::xml_node properties);

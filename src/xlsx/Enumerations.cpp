@@ -74,6 +74,77 @@ constexpr EnumerationEntry kPatternEntries[] = {
     {54, "msoPatternDiagonalCross", "diagCross"},
 };
 
+constexpr EnumerationEntry kInteriorPatternEntries[] = {
+    {-4126, "xlPatternGray75", "pct75"},      {-4125, "xlPatternGray50", "pct50"},
+    {-4124, "xlPatternGray25", "pct25"},      {17, "xlPatternGray16", "pct20"},
+    {18, "xlPatternGray8", "pct10"},          {-4128, "xlPatternHorizontal", "dkHorz"},
+    {-4166, "xlPatternVertical", "dkVert"},   {-4121, "xlPatternDown", "dkDnDiag"},
+    {-4162, "xlPatternUp", "dkUpDiag"},       {9, "xlPatternChecker", "smCheck"},
+    {10, "xlPatternSemiGray75", "trellis"},   {11, "xlPatternLightHorizontal", "ltHorz"},
+    {12, "xlPatternLightVertical", "ltVert"}, {13, "xlPatternLightDown", "ltDnDiag"},
+    {14, "xlPatternLightUp", "ltUpDiag"},     {15, "xlPatternGrid", "smGrid"},
+    {16, "xlPatternCrissCross", "openDmnd"},
+};
+
+constexpr EnumerationEntry kLineStyleEntries[] = {
+    {1, "xlContinuous", "solid"}, {-4115, "xlDash", "dash"},           {4, "xlDashDot", "dashDot"},
+    {-4118, "xlDot", "sysDot"},   {5, "xlDashDotDot", "lgDashDotDot"},
+};
+
+constexpr EnumerationEntry kLineWeightEntries[] = {
+    {1, "xlHairline", "3175"},
+    {2, "xlThin", "12700"},
+    {-4138, "xlMedium", "25400"},
+    {4, "xlThick", "38100"},
+};
+
+constexpr EnumerationEntry kMarkerStyleEntries[] = {
+    {-4105, "xlMarkerStyleAutomatic", "auto"}, {-4142, "xlMarkerStyleNone", "none"},
+    {1, "xlMarkerStyleSquare", "square"},      {2, "xlMarkerStyleDiamond", "diamond"},
+    {3, "xlMarkerStyleTriangle", "triangle"},  {-4168, "xlMarkerStyleX", "x"},
+    {5, "xlMarkerStyleStar", "star"},          {-4118, "xlMarkerStyleDot", "dot"},
+    {-4115, "xlMarkerStyleDash", "dash"},      {8, "xlMarkerStyleCircle", "circle"},
+    {9, "xlMarkerStylePlus", "plus"},
+};
+
+constexpr EnumerationEntry kHorizontalAlignmentEntries[] = {
+    {-4131, "xlHAlignLeft", "l"},       {-4108, "xlHAlignCenter", "ctr"},       {-4152, "xlHAlignRight", "r"},
+    {-4130, "xlHAlignJustify", "just"}, {-4117, "xlHAlignDistributed", "dist"},
+};
+
+constexpr EnumerationEntry kVerticalAlignmentEntries[] = {
+    {-4160, "xlVAlignTop", "t"},
+    {-4108, "xlVAlignCenter", "ctr"},
+    {-4107, "xlVAlignBottom", "b"},
+    {-4130, "xlVAlignJustify", "just"},
+    {-4117, "xlVAlignDistributed", "dist"},
+};
+
+constexpr EnumerationEntry kTickLabelPositionEntries[] = {
+    {4, "xlTickLabelPositionNextToAxis", "nextTo"},
+    {-4134, "xlTickLabelPositionLow", "low"},
+    {-4127, "xlTickLabelPositionHigh", "high"},
+    {-4142, "xlTickLabelPositionNone", "none"},
+};
+
+constexpr EnumerationEntry kCrossesEntries[] = {
+    {-4105, "xlAxisCrossesAutomatic", "autoZero"},
+    {2, "xlMaximum", "max"},
+    {4, "xlMinimum", "min"},
+};
+
+constexpr EnumerationEntry kDisplayUnitEntries[] = {
+    {-2, "xlHundreds", "hundreds"},
+    {-3, "xlThousands", "thousands"},
+    {-4, "xlTenThousands", "tenThousands"},
+    {-5, "xlHundredThousands", "hundredThousands"},
+    {-6, "xlMillions", "millions"},
+    {-7, "xlTenMillions", "tenMillions"},
+    {-8, "xlHundredMillions", "hundredMillions"},
+    {-9, "xlThousandMillions", "billions"},
+    {-10, "xlMillionMillions", "trillions"},
+};
+
 constexpr ChartTypeEntry kChartTypeEntries[] = {
     {1, "xlArea", "areaChart", "", "standard"},
     {76, "xlAreaStacked", "areaChart", "", "stacked"},
@@ -94,6 +165,19 @@ constexpr ChartTypeEntry kChartTypeEntries[] = {
     {60, "xl3DBarClustered", "bar3DChart", "bar", "clustered"},
     {61, "xl3DBarStacked", "bar3DChart", "bar", "stacked"},
     {62, "xl3DBarStacked100", "bar3DChart", "bar", "percentStacked"},
+    {4, "xlLine", "lineChart", "", "standard", SeriesTrait::kNoMarkers},
+    {63, "xlLineStacked", "lineChart", "", "stacked", SeriesTrait::kNoMarkers},
+    {64, "xlLineStacked100", "lineChart", "", "percentStacked", SeriesTrait::kNoMarkers},
+    {65, "xlLineMarkers", "lineChart", "", "standard", SeriesTrait::kMarkers},
+    {66, "xlLineMarkersStacked", "lineChart", "", "stacked", SeriesTrait::kMarkers},
+    {67, "xlLineMarkersStacked100", "lineChart", "", "percentStacked", SeriesTrait::kMarkers},
+    {5, "xlPie", "pieChart", "", ""},
+    {69, "xlPieExploded", "pieChart", "", "", SeriesTrait::kExploded},
+    {-4102, "xl3DPie", "pie3DChart", "", ""},
+    {70, "xl3DPieExploded", "pie3DChart", "", "", SeriesTrait::kExploded},
+    {-4169, "xlXYScatter", "scatterChart", "", "", SeriesTrait::kMarkersOnly},
+    {15, "xlBubble", "bubbleChart", "", "", SeriesTrait::kFlatBubble},
+    {87, "xlBubble3DEffect", "bubbleChart", "", "", SeriesTrait::kBubble3D},
 };
 
 }  // namespace
@@ -101,6 +185,15 @@ constexpr ChartTypeEntry kChartTypeEntries[] = {
 const Enumeration kLegendPositions = {kLegendPositionEntries, "r"};
 const Enumeration kLabelPositions = {kLabelPositionEntries, ""};
 const Enumeration kPatterns = {kPatternEntries, ""};
+const Enumeration kInteriorPatterns = {kInteriorPatternEntries, ""};
+const Enumeration kLineStyles = {kLineStyleEntries, "solid"};
+const Enumeration kLineWeights = {kLineWeightEntries, ""};
+const Enumeration kMarkerStyles = {kMarkerStyleEntries, "auto"};
+const Enumeration kHorizontalAlignments = {kHorizontalAlignmentEntries, ""};
+const Enumeration kVerticalAlignments = {kVerticalAlignmentEntries, ""};
+const Enumeration kTickLabelPositions = {kTickLabelPositionEntries, "nextTo"};
+const Enumeration kCrosses = {kCrossesEntries, "autoZero"};
+const Enumeration kDisplayUnits = {kDisplayUnitEntries, ""};
 const std::span<const ChartTypeEntry> kChartTypes = kChartTypeEntries;
 
 const ChartTypeEntry* FindChartType(std::int32_t number) {

@@ -39,6 +39,26 @@ extern const Enumeration kLegendPositions;
 extern const Enumeration kLabelPositions;
 /// MsoPatternType, ST_PresetPatternVal.
 extern const Enumeration kPatterns;
+/// XlPattern, as far as it is a pattern of two colours, ST_PresetPatternVal.
+extern const Enumeration kInteriorPatterns;
+/// XlLineStyle, ST_PresetLineDashVal.
+extern const Enumeration kLineStyles;
+/// XlBorderWeight, the width of a line in EMU.
+extern const Enumeration kLineWeights;
+/// XlMarkerStyle, ST_MarkerStyle.
+extern const Enumeration kMarkerStyles;
+/// XlHAlign, ST_TextAlignType, and XlVAlign, ST_TextAnchoringType.
+extern const Enumeration kHorizontalAlignments;
+extern const Enumeration kVerticalAlignments;
+/// XlTickLabelPosition, ST_TickLblPos.
+extern const Enumeration kTickLabelPositions;
+/// XlAxisCrosses, ST_Crosses.
+extern const Enumeration kCrosses;
+/// XlDisplayUnit, ST_BuiltInUnit.
+extern const Enumeration kDisplayUnits;
+
+/// What a chart type asks of each of its series, beside the plot group.
+enum class SeriesTrait { kNone, kNoMarkers, kMarkers, kMarkersOnly, kExploded, kFlatBubble, kBubble3D };
 
 /// A chart type of Excel as the file builds it (ECMA-376 Part 1, 21.2.2).
 struct ChartTypeEntry {
@@ -47,9 +67,19 @@ struct ChartTypeEntry {
   std::string_view element;    ///< the plot group's
   std::string_view direction;  ///< `barDir`, empty where the group has none
   std::string_view grouping;   ///< `grouping`, likewise
+  SeriesTrait trait = SeriesTrait::kNone;
 
   bool Is3D() const { return element.find("3D") != std::string_view::npos; }
   bool IsArea() const { return element.starts_with("area"); }
+  bool IsBar() const { return element.starts_with("bar"); }
+  bool IsLine() const { return element == "lineChart"; }
+  bool IsPie() const { return element.starts_with("pie"); }
+  bool IsBubble() const { return element == "bubbleChart"; }
+  /// Points have an X and a Y of their own, along two axes of values.
+  bool HasXValues() const { return IsBubble() || element == "scatterChart"; }
+  bool HasAxes() const { return !IsPie(); }
+  /// The series may stand beside those of another such type, on the same axes.
+  bool Combines() const { return !Is3D() && !IsHorizontal() && (IsArea() || IsBar() || IsLine()); }
   bool IsStacked() const { return grouping == "stacked" || grouping == "percentStacked"; }
   /// Series stand behind each other along an axis of their own.
   bool HasDepthAxis() const { return Is3D() && grouping == "standard"; }

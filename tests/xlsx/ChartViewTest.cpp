@@ -2,10 +2,8 @@
 
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
-#include "tests/support/HostTest.h"
+#include "tests/support/ChartTest.h"
 #include "xlsx/Enumerations.h"
-#include "xlsx/Shape.h"
-#include "xlsx/Worksheet.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -13,48 +11,12 @@ namespace {
 using excel::Chart;
 using S = std::string;
 
-const S kNames =
-    " xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\" "
-    "xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\"";
+using test::Between;
+using test::ExpectError1004;
 
-/// A chart part around what stands in `chart`, and behind it.
-S Part(const S& chart, const S& behind = "") {
-  return "<c:chartSpace" + kNames + "><c:chart>" + chart + "</c:chart>" + behind + "</c:chartSpace>";
-}
+S Part(const S& chart, const S& behind = "") { return test::ChartPartXml(chart, behind); }
 
-class ChartViewTest : public test::HostTest {
- protected:
-  /// The chart part after a call on the chart, saved and read again.
-  S After(const S& part, const std::function<void(Chart&)>& call) {
-    test::PlainBook book;
-    book.sheets = {test::SalesSheet("Sheet1")};
-    book.sheets[0].frames = {{"id", part}};
-    Open(book);
-    call(*ChartOf("Sheet1"));
-    SaveAndReopen();
-    return SavedPart("/xl/charts/chart1.xml");
-  }
-  excel::Ref<Chart> ChartOf(const S& sheet) {
-    return std::dynamic_pointer_cast<Shape>(oWorkbookShapes(sheet)->Item(1).shared())->Chart();
-  }
-  excel::Ref<excel::Shapes> oWorkbookShapes(const S& sheet) { return Book().FindWorksheet(sheet)->Shapes(); }
-};
-
-/// What stands between two texts, the first included.
-S Between(const S& text, const S& from, const S& to) {
-  const auto begin = text.find(from);
-  if (begin == S::npos) return "(no " + from + ")";
-  return text.substr(begin, text.find(to, begin) - begin);
-}
-
-void ExpectError1004(const std::function<void()>& call) {
-  try {
-    call();
-    ADD_FAILURE() << "no error";
-  } catch (const runtime::RuntimeError& e) {
-    EXPECT_EQ(e.Number(), 1004) << e.Description();
-  }
-}
+class ChartViewTest : public test::ChartTest {};
 
 const S kAxes =
     "<c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart><c:catAx><c:axId val=\"1\"/><c:axPos val=\"b\"/>"
@@ -280,21 +242,22 @@ TEST_F(ChartViewTest, EveryTypeIsBuiltAsExcelBuildsIt) {
       series->DataLabels()->SetPosition(-4108);
       chart.SetChartType(type.number);
     });
+    EXPECT_EQ(test::ChartComplaints(after), "") << after;
     const S group = Between(after, "<c:" + S(type.element) + ">", "</c:" + S(type.element) + ">");
-    EXPECT_NE(group.find("<c:grouping val=\"" + S(type.grouping) + "\"/>"), S::npos) << after;
+    EXPECT_EQ(group.find("<c:grouping val=\"" + S(type.grouping) + "\"/>") != S::npos,
+              !type.grouping.empty());
     EXPECT_EQ(group.find("barDir val=\"" + S(type.direction) + "\"") != S::npos, !type.direction.empty());
     EXPECT_EQ(group.find("<c:overlap val=\"100\"/>") != S::npos,
               type.element == "barChart" && type.IsStacked());
-    EXPECT_EQ(group.find("dLblPos") != S::npos, !type.Is3D() && !type.IsArea())
-        << "Excel refuses a file with a position it doesn't allow";
+    EXPECT_EQ(group.find("dLblPos") != S::npos, (!type.Is3D() && !type.IsArea()) || type.IsPie())
+        << "a position stays where Excel allows it";
     EXPECT_EQ(after.find("<c:view3D>") != S::npos, type.Is3D());
     EXPECT_EQ(after.find("<c:serAx>") != S::npos, type.HasDepthAxis());
+    EXPECT_EQ(after.find("<c:catAx>") != S::npos, type.HasAxes() && !type.HasXValues());
     EXPECT_EQ(Between(after, "<c:catAx>", "</c:catAx>").find("<c:axPos val=\"l\"/>") != S::npos,
               type.IsHorizontal());
-    EXPECT_EQ(after.find("<c:crossBetween val=\"midCat\"/>") != S::npos, type.IsArea());
-    std::size_t links = 0;
-    for (auto at = group.find("<c:axId"); at != S::npos; at = group.find("<c:axId", at + 1)) ++links;
-    EXPECT_EQ(links, type.Is3D() ? 3u : 2u);
+    EXPECT_EQ(after.find("<c:crossBetween val=\"midCat\"/>") != S::npos, type.IsArea() || type.HasXValues());
+    EXPECT_EQ(group.find("<c:varyColors val=\"1\"/>") != S::npos, type.IsPie());
   }
 }
 
@@ -320,7 +283,7 @@ TEST_F(ChartViewTest, WhatAChartDoesNotHaveIsError1004) {
   After(Part("<c:plotArea/>"), [](Chart& chart) {
     for (const std::function<void()>& call : std::initializer_list<std::function<void()>>{
              [&] { chart.ChartTitle(); }, [&] { chart.Legend(); }, [&] { chart.Axes(1, 1); },
-             [&] { chart.SetHasAxis(1, true); }, [&] { chart.SetChartType(4); },
+             [&] { chart.SetHasAxis(1, true); }, [&] { chart.SetChartType(-4111); },
              [&] { chart.SeriesCollection()->Item(1); }, [&] { chart.ChartArea()->Fill()->Patterned(99); }}) {
       ExpectError1004(call);
     }
@@ -336,7 +299,10 @@ TEST_F(ChartViewTest, WhatAChartDoesNotHaveIsError1004) {
 }
 
 TEST(EnumerationsTest, GoBothWays) {
-  for (const Enumeration* enumeration : {&kLegendPositions, &kLabelPositions, &kPatterns}) {
+  for (const Enumeration* enumeration :
+       {&kLegendPositions, &kLabelPositions, &kPatterns, &kInteriorPatterns, &kLineStyles, &kLineWeights,
+        &kMarkerStyles, &kHorizontalAlignments, &kVerticalAlignments, &kTickLabelPositions, &kCrosses,
+        &kDisplayUnits}) {
     for (const EnumerationEntry& entry : enumeration->entries) {
       EXPECT_EQ(enumeration->Token(entry.number), entry.token) << entry.name;
       EXPECT_EQ(enumeration->Number(entry.token), entry.number) << entry.name;

@@ -17,25 +17,25 @@ class Axis {
   /// Error 1004 while there is no title.
   virtual Ref<excel::AxisTitle> AxisTitle() = 0;
   virtual Ref<excel::TickLabels> TickLabels() = 0;
-  virtual void SetHasMajorGridlines(bool value) { Pending(); }
-  virtual void SetHasMinorGridlines(bool value) { Pending(); }
+  virtual void SetHasMajorGridlines(bool value) = 0;
+  virtual void SetHasMinorGridlines(bool value) = 0;
   /// As set, or as the host computes it from the data where it isn't; error 1004 on an axis of categories.
-  virtual double MinimumScale() { Pending(); }
-  virtual void SetMinimumScale(double value) { Pending(); }
-  virtual double MaximumScale() { Pending(); }
-  virtual void SetMaximumScale(double value) { Pending(); }
-  virtual void SetMajorUnit(double value) { Pending(); }
-  virtual void SetMajorUnitIsAuto(bool value) { Pending(); }
+  virtual double MinimumScale() = 0;
+  virtual void SetMinimumScale(double value) = 0;
+  virtual double MaximumScale() = 0;
+  virtual void SetMaximumScale(double value) = 0;
+  virtual void SetMajorUnit(double value) = 0;
+  virtual void SetMajorUnitIsAuto(bool value) = 0;
   /// Where the other axis crosses this one (XlAxisCrosses).
-  virtual void SetCrosses(std::int32_t crosses) { Pending(); }
-  virtual void SetReversePlotOrder(bool value) { Pending(); }
+  virtual void SetCrosses(std::int32_t crosses) = 0;
+  virtual void SetReversePlotOrder(bool value) = 0;
   /// XlScaleType.
-  virtual void SetScaleType(std::int32_t type) { Pending(); }
+  virtual void SetScaleType(std::int32_t type) = 0;
   /// XlDisplayUnit, or xlNone.
-  virtual void SetDisplayUnit(std::int32_t unit) { Pending(); }
+  virtual void SetDisplayUnit(std::int32_t unit) = 0;
   /// XlTickLabelPosition.
-  virtual void SetTickLabelPosition(std::int32_t position) { Pending(); }
-  virtual Ref<excel::Border> Border() { Pending(); }
+  virtual void SetTickLabelPosition(std::int32_t position) = 0;
+  virtual Ref<excel::Border> Border() = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -48,7 +48,7 @@ class Chart {
   /// The shapes drawn on the chart itself.
   virtual Ref<excel::Shapes> Shapes() = 0;
   /// A group of series of one kind, by its number in drawing order; error 1004 outside.
-  virtual Ref<ChartGroup> ChartGroups(std::int32_t index) { Pending(); }
+  virtual Ref<ChartGroup> ChartGroups(std::int32_t index) = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -9,7 +9,7 @@ class ChartGroup {
  public:
   virtual ~ChartGroup() = default;
   /// Percent of a column's width, from 0 to 500.
-  virtual void SetGapWidth(std::int32_t percent) { Pending(); }
+  virtual void SetGapWidth(std::int32_t percent) = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -8,7 +8,7 @@ namespace plotsmith::excel {
 class DataLabel {
  public:
   virtual ~DataLabel() = default;
-  virtual void SetText(std::string_view text) { Pending(); }
+  virtual void SetText(std::string_view text) = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -19,14 +19,14 @@ class DataLabels {
   virtual Variant AutoScaleFont() = 0;
   /// What the labels show (XlDataLabelsType); Null where they differ or it is none of these.
   virtual Variant Type() = 0;
-  virtual void SetHorizontalAlignment(std::int32_t alignment) { Pending(); }
-  virtual void SetVerticalAlignment(std::int32_t alignment) { Pending(); }
+  virtual void SetHorizontalAlignment(std::int32_t alignment) = 0;
+  virtual void SetVerticalAlignment(std::int32_t alignment) = 0;
   /// Degrees from -90 to 90, or one of xlHorizontal, xlUpward, xlDownward, xlVertical.
-  virtual void SetOrientation(std::int32_t orientation) { Pending(); }
+  virtual void SetOrientation(std::int32_t orientation) = 0;
   /// One for each point.
-  virtual std::int32_t Count() { Pending(); }
+  virtual std::int32_t Count() = 0;
   /// Error 1004 outside.
-  virtual Ref<DataLabel> Item(std::int32_t index) { Pending(); }
+  virtual Ref<DataLabel> Item(std::int32_t index) = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -13,15 +13,15 @@ class Interior {
   /// or xlColorIndexAutomatic.
   virtual std::int32_t ColorIndex() = 0;
   virtual void SetColorIndex(std::int32_t index) = 0;
-  virtual std::int32_t Color() { Pending(); }
-  virtual void SetColor(std::int32_t color) { Pending(); }
+  virtual std::int32_t Color() = 0;
+  virtual void SetColor(std::int32_t color) = 0;
   /// XlPattern.
-  virtual std::int32_t Pattern() { Pending(); }
-  virtual void SetPattern(std::int32_t pattern) { Pending(); }
-  virtual std::int32_t PatternColor() { Pending(); }
-  virtual void SetPatternColor(std::int32_t color) { Pending(); }
-  virtual std::int32_t PatternColorIndex() { Pending(); }
-  virtual void SetPatternColorIndex(std::int32_t index) { Pending(); }
+  virtual std::int32_t Pattern() = 0;
+  virtual void SetPattern(std::int32_t pattern) = 0;
+  virtual std::int32_t PatternColor() = 0;
+  virtual void SetPatternColor(std::int32_t color) = 0;
+  virtual std::int32_t PatternColorIndex() = 0;
+  virtual void SetPatternColorIndex(std::int32_t index) = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -24,7 +24,7 @@ class Legend {
   virtual double Top() = 0;
   /// Null where the entries differ.
   virtual Variant AutoScaleFont() = 0;
-  virtual Ref<excel::LegendEntries> LegendEntries() { Pending(); }
+  virtual Ref<excel::LegendEntries> LegendEntries() = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -10,9 +10,9 @@ class LegendEntry;
 class LegendEntries {
  public:
   virtual ~LegendEntries() = default;
-  virtual std::int32_t Count() { Pending(); }
+  virtual std::int32_t Count() = 0;
   /// Error 1004 outside.
-  virtual Ref<LegendEntry> Item(std::int32_t index) { Pending(); }
+  virtual Ref<LegendEntry> Item(std::int32_t index) = 0;
 };
 
 }  // namespace plotsmith::excel

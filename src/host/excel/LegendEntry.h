@@ -7,7 +7,7 @@ namespace plotsmith::excel {
 class LegendEntry {
  public:
   virtual ~LegendEntry() = default;
-  virtual void Delete() { Pending(); }
+  virtual void Delete() = 0;
 };
 
 }  // namespace plotsmith::excel

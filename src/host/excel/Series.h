@@ -26,20 +26,20 @@ class Series {
   virtual std::string Name() = 0;
   virtual std::int32_t ChartType() = 0;
   /// A type of its own for this series. Error 1004 for one that can't stand beside the others'.
-  virtual void SetChartType(std::int32_t type) { Pending(); }
+  virtual void SetChartType(std::int32_t type) = 0;
   virtual bool HasDataLabels() = 0;
-  virtual void SetHasDataLabels(bool value) { Pending(); }
+  virtual void SetHasDataLabels(bool value) = 0;
   /// The values, one for each point; Empty where there is none.
-  virtual std::vector<Variant> Values() { Pending(); }
-  virtual void SetBubbleSizes(const Variant& reference) { Pending(); }
-  virtual Ref<excel::Interior> Interior() { Pending(); }
-  virtual Ref<excel::Border> Border() { Pending(); }
-  virtual void SetMarkerForegroundColor(std::int32_t color) { Pending(); }
-  virtual void SetMarkerBackgroundColor(std::int32_t color) { Pending(); }
+  virtual std::vector<Variant> Values() = 0;
+  virtual void SetBubbleSizes(const Variant& reference) = 0;
+  virtual Ref<excel::Interior> Interior() = 0;
+  virtual Ref<excel::Border> Border() = 0;
+  virtual void SetMarkerForegroundColor(std::int32_t color) = 0;
+  virtual void SetMarkerBackgroundColor(std::int32_t color) = 0;
   /// XlMarkerStyle.
-  virtual void SetMarkerStyle(std::int32_t style) { Pending(); }
+  virtual void SetMarkerStyle(std::int32_t style) = 0;
   /// Points from 2 to 72.
-  virtual void SetMarkerSize(std::int32_t points) { Pending(); }
+  virtual void SetMarkerSize(std::int32_t points) = 0;
 };
 
 }  // namespace plotsmith::excel

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <pugixml.hpp>
+#include <string_view>
+
+#include "xlsx/Enumerations.h"
+
+namespace plotsmith::xlsx {
+
+class ChartPart;
+
+/// What a chart type asks of a group and of its series, and what it doesn't allow them.
+
+/// The type of a series, as far as it is one that the host draws; else null.
+const ChartTypeEntry* TypeOf(pugi::xml_node series);
+/// The plainest type of a group; null for one that the host doesn't draw.
+const ChartTypeEntry* TypeOfGroup(pugi::xml_node group);
+
+/// Whether labels in the group may stand at a position (ST_DLblPos). A file that says anything else is one
+/// that Excel refuses.
+bool AllowsLabelPosition(pugi::xml_node group, std::string_view position);
+
+/// Takes from a series what the type's series can't have, and gives it what they must have. The series stands
+/// in a group of the type. Sizes of bubbles are laid aside, and come back.
+void FitSeries(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type);
+/// What of a series was laid aside, which goes with it.
+void ForgetSeries(ChartPart& part, pugi::xml_node series);
+
+/// A group of the type that takes over what both types have in common. `old` may be a null node.
+pugi::xml_node DeriveGroup(pugi::xml_node plotArea, pugi::xml_node old, const ChartTypeEntry& type);
+/// The group's own elements, as far as the type decides them. `restored` is one that was of the type before.
+void FitGroup(pugi::xml_node group, const ChartTypeEntry& type, bool restored);
+
+}  // namespace plotsmith::xlsx

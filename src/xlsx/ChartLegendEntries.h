@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+
+#include "host/excel/LegendEntries.h"
+
+namespace plotsmith::xlsx {
+
+class ChartPart;
+
+/// The entries of the chart's legend: one for each series, or for each point where points differ in colour.
+/// The file only names those that somebody deleted or dressed, by their numbers.
+excel::Ref<excel::LegendEntries> MakeLegendEntries(std::shared_ptr<ChartPart> part);
+
+/// Keeps the numbers right. Before the series at a place, from 0, is deleted: its entry goes with it, and
+/// those behind it move up.
+void DropLegendEntry(ChartPart& part, std::size_t position);
+/// A new series at a place has an entry, whatever another one there once had.
+void WelcomeLegendEntry(ChartPart& part, std::size_t position);
+
+}  // namespace plotsmith::xlsx

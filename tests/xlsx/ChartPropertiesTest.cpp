@@ -1,0 +1,314 @@
+#include <functional>
+#include <set>
+
+#include "runtime/Strings.h"
+#include "tests/support/ChartTest.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+using excel::Chart;
+using excel::Series;
+using test::AddBubble;
+using test::AddOfType;
+using test::Between;
+using test::CountOf;
+using test::DeleteSeries;
+using test::ExpectError1004;
+using test::Has;
+using S = std::string;
+
+S Part(const S& chart) { return test::ChartPartXml(chart); }
+
+const S kNothing = Part("<c:plotArea><c:layout/></c:plotArea>");
+const S kLegend = "<c:legend><c:legendPos val=\"r\"/></c:legend>";
+
+class ChartPropertiesTest : public test::ChartTest {};
+
+TEST_F(ChartPropertiesTest, AnAutomaticColourCanBeReadAtOnceAndSetOnAnother) {
+  const S grey = "<c:style val=\"1\"/>", violet = "<c:style val=\"6\"/>";
+  const S newer =
+      "<mc:AlternateContent "
+      "xmlns:mc=\"http://schemas.openxmlformats.org/markup-compatibility/2006\"><mc:Choice "
+      "Requires=\"c14\"><c14:style xmlns:c14=\"http://schemas.microsoft.com/office/drawing/2007/8/2/chart\" "
+      "val=\"102\"/></mc:Choice></mc:AlternateContent>";
+  struct Case {
+    S style;
+    std::int32_t first, second, seventh;
+  };
+  for (const Case& c : {Case{"", 0xBD814F, 0x4D50C0, 0x754D2C}, Case{newer, 0xBD814F, 0x4D50C0, 0x754D2C},
+                        Case{grey, 0x1D1D1D, 0x737373, 0x1D1D1D}, Case{violet, 0xA26480, -1, -1}}) {
+    SCOPED_TRACE(c.style);
+    After(runtime::Replace(kNothing, "<c:chart>", c.style + "<c:chart>"), [&](Chart& chart) {
+      chart.SetChartType(excel::xlBubble);
+      std::set<std::int32_t> seen;
+      for (int i = 1; i <= 7; ++i) {
+        const auto interior = chart.SeriesCollection()->NewSeries()->Interior();
+        const std::int32_t color = interior->Color();
+        seen.insert(color);
+        const std::int32_t wanted = i == 1 ? c.first : i == 2 ? c.second : i == 7 ? c.seventh : -1;
+        EXPECT_TRUE(wanted < 0 || color == wanted) << i << ": " << color;
+      }
+      EXPECT_GE(seen.size(), 6u);
+    });
+  }
+  const S after = Sound(kNothing, [](Chart& chart) {
+    chart.SetChartType(excel::xlBubble);
+    const auto from = AddBubble(chart, 2)->Interior(), to = AddBubble(chart, 3)->Interior();
+    const std::int32_t color = from->Color(), index = from->ColorIndex(), pattern = from->Pattern(),
+                       lines = from->PatternColor(), lineIndex = from->PatternColorIndex();
+    EXPECT_EQ(index, excel::xlColorIndexAutomatic);
+    to->SetPattern(14);
+    EXPECT_EQ(to->Pattern(), 14);
+    to->SetPattern(pattern);
+    to->SetPatternColorIndex(lineIndex);
+    to->SetPatternColor(lines);
+    to->SetColorIndex(index);
+    to->SetColor(color);
+    EXPECT_EQ(to->Color(), color);
+    EXPECT_EQ(to->Pattern(), 1);
+    ExpectError1004([&] { to->SetColor(-1); });
+    ExpectError1004([&] { to->SetPattern(77); });
+  });
+  EXPECT_EQ(CountOf(after, "<c:spPr>"), 1u);
+  EXPECT_TRUE(Has(after,
+                  "<c:idx val=\"1\"/><c:order val=\"1\"/><c:tx><c:v>B3</c:v></c:tx><c:spPr><a:solidFill>"
+                  "<a:srgbClr val=\"4F81BD\"/></a:solidFill></c:spPr>"))
+      << after;
+}
+
+TEST_F(ChartPropertiesTest, PropertiesOfSeriesLabelsAndAxesAreWrittenInPlace) {
+  struct Case {
+    const char* what;
+    std::int32_t type;
+    std::function<void(Chart&, Series&)> call;
+    S after, gone;
+  };
+  const S lineEnd = "</a:ln></c:spPr>";
+  const Case cases[] = {
+      {"a pattern takes the colour for its ground", 15,
+       [](Chart&, Series& s) {
+         s.Interior()->SetColor(0xFF);
+         s.Interior()->SetPattern(14);
+         s.Interior()->SetPatternColorIndex(5);
+         EXPECT_EQ(s.Interior()->PatternColor(), 0xFF0000);
+         EXPECT_EQ(s.Interior()->ColorIndex(), 3);
+       },
+       "<a:pattFill prst=\"ltUpDiag\"><a:fgClr><a:srgbClr val=\"0000FF\"/></a:fgClr><a:bgClr><a:srgbClr "
+       "val=\"FF0000\"/></a:bgClr></a:pattFill>",
+       ""},
+      {"an automatic index takes the filling away, and leaves the outline", 51,
+       [](Chart&, Series& s) {
+         s.Border()->SetColor(0);
+         s.Interior()->SetColor(0xFF);
+         s.Interior()->SetColorIndex(-4105);
+       },
+       "<c:spPr><a:ln><a:solidFill><a:srgbClr val=\"000000\"/></a:solidFill></a:ln></c:spPr>", "FF0000"},
+      {"a hairline shows a line that was hidden", 15,
+       [](Chart&, Series& s) {
+         s.Border()->SetLineStyle(-4142);
+         s.Border()->SetWeight(1);
+       },
+       "<c:spPr><a:ln w=\"3175\"/></c:spPr>", "noFill"},
+      {"dashes of a colour", 52,
+       [](Chart&, Series& s) {
+         s.Border()->SetLineStyle(-4115);
+         s.Border()->SetColor(0xFF);
+       },
+       "<a:ln><a:solidFill><a:srgbClr val=\"FF0000\"/></a:solidFill><a:prstDash val=\"dash\"/>" + lineEnd,
+       ""},
+      {"a label with a text of its own repeats how the others look", 15,
+       [](Chart&, Series& s) {
+         s.SetHasDataLabels(true);
+         const auto labels = s.DataLabels();
+         labels->Font()->SetSize(9.0);
+         labels->Font()->SetColor("255");
+         labels->SetHorizontalAlignment(-4108);
+         labels->SetVerticalAlignment(-4108);
+         labels->SetOrientation(-4128);
+         EXPECT_EQ(labels->Count(), 4);
+         labels->Item(2)->SetText("A & B");
+         labels->SetPosition(-4108);
+         ExpectError1004([&] { labels->Item(5); });
+         ExpectError1004([&] { labels->SetPosition(2); });
+       },
+       "<c:dLbls><c:dLbl><c:idx val=\"1\"/><c:layout/><c:tx><c:rich><a:bodyPr anchor=\"ctr\" rot=\"0\" "
+       "vert=\"horz\"/><a:lstStyle/><a:p><a:pPr algn=\"ctr\"><a:defRPr sz=\"900\"><a:solidFill><a:srgbClr "
+       "val=\"FF0000\"/></a:solidFill></a:defRPr></a:pPr><a:r><a:rPr lang=\"en-US\" sz=\"900\"><a:solidFill>"
+       "<a:srgbClr val=\"FF0000\"/></a:solidFill></a:rPr><a:t>A &amp; B</a:t></a:r></a:p></c:rich></c:tx>"
+       "<c:dLblPos val=\"ctr\"/><c:showLegendKey val=\"0\"/><c:showVal val=\"1\"/>",
+       ""},
+      {"labels of points stand by their numbers, and follow what the others are told", 51,
+       [](Chart&, Series& s) {
+         s.SetHasDataLabels(true);
+         for (const int point : {3, 1, 2, 1}) s.DataLabels()->Item(point)->SetText(std::to_string(point));
+         s.DataLabels()->Font()->SetFontStyle("Bold");
+         s.DataLabels()->SetOrientation(45);
+       },
+       "<a:bodyPr rot=\"-2700000\" vert=\"horz\"/><a:lstStyle/><a:p><a:pPr><a:defRPr b=\"1\" "
+       "i=\"0\"/></a:pPr><a:r><a:rPr lang=\"en-US\" b=\"1\" i=\"0\"/><a:t>3</a:t>",
+       "<c:idx val=\"3\"/>"},
+      {"no labels where the group has some for all", 51,
+       [](Chart&, Series& s) {
+         s.SetHasDataLabels(true);
+         s.SetHasDataLabels(false);
+         EXPECT_FALSE(s.DataLabels());
+       },
+       "<c:invertIfNegative val=\"0\"/><c:cat>", "dLbls"},
+      {"an axis of values", 15,
+       [](Chart& c, Series&) {
+         const auto axis = c.Axes(1, 1);
+         axis->SetHasMajorGridlines(true);
+         axis->SetHasMinorGridlines(true);
+         axis->SetHasMinorGridlines(false);
+         axis->SetMinimumScale(-7);
+         axis->SetMaximumScale(22);
+         axis->SetMajorUnit(14.5);
+         axis->SetScaleType(-4133);
+         axis->SetScaleType(-4132);
+         axis->SetReversePlotOrder(true);
+         axis->SetReversePlotOrder(false);
+         axis->SetDisplayUnit(-3);
+         axis->SetTickLabelPosition(-4134);
+         axis->Border()->SetLineStyle(-4142);
+         ExpectError1004([&] { axis->SetMajorUnit(0); });
+         ExpectError1004([&] { axis->SetCrosses(-4114); });
+       },
+       "<c:scaling><c:orientation val=\"minMax\"/><c:max val=\"22\"/><c:min "
+       "val=\"-7\"/></c:scaling><c:delete "
+       "val=\"0\"/><c:axPos val=\"b\"/><c:majorGridlines/><c:numFmt formatCode=\"General\" "
+       "sourceLinked=\"1\"/>"
+       "<c:majorTickMark val=\"out\"/><c:minorTickMark val=\"none\"/><c:tickLblPos "
+       "val=\"low\"/><c:spPr><a:ln>"
+       "<a:noFill/></a:ln></c:spPr><c:crossAx val=\"111111112\"/><c:crosses "
+       "val=\"autoZero\"/><c:crossBetween "
+       "val=\"midCat\"/><c:majorUnit val=\"14.5\"/><c:dispUnits><c:builtInUnit val=\"thousands\"/>"
+       "<c:dispUnitsLbl/></c:dispUnits></c:valAx>",
+       "logBase"},
+      {"where an axis is crossed stands with the one that crosses it", 51,
+       [](Chart& c, Series&) { c.Axes(1, 1)->SetCrosses(2); },
+       "<c:crossAx val=\"111111111\"/><c:crosses val=\"max\"/><c:crossBetween val=\"between\"/></c:valAx>",
+       ""},
+      {"an automatic unit", 51,
+       [](Chart& c, Series&) {
+         const auto axis = c.Axes(2, 1);
+         EXPECT_EQ(axis->MaximumScale(), 12);
+         axis->SetMajorUnitIsAuto(false);
+         EXPECT_EQ(axis->MinimumScale(), 0);
+       },
+       "<c:crossBetween val=\"between\"/><c:majorUnit val=\"2\"/>", ""},
+      {"an axis of categories has no scale", 51,
+       [](Chart& c, Series& s) {
+         const auto axis = c.Axes(1, 1);
+         ExpectError1004([&] { axis->MaximumScale(); });
+         ExpectError1004([&] { axis->SetMinimumScale(0); });
+         ExpectError1004([&] { axis->SetMajorUnit(1); });
+         ExpectError1004([&] { axis->SetDisplayUnit(-3); });
+         ExpectError1004([&] { s.SetMarkerSize(5); });
+       },
+       "", "majorUnit"},
+      {"markers of a line", 65,
+       [](Chart&, Series& s) {
+         s.SetMarkerStyle(1);
+         ExpectError1004([&] { s.SetMarkerSize(1); });
+         ExpectError1004([&] { s.SetMarkerSize(73); });
+         ExpectError1004([&] { s.SetMarkerStyle(77); });
+       },
+       "<c:marker><c:symbol val=\"square\"/></c:marker>", "size"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    const S after = Sound(kNothing, [&](Chart& chart) {
+      const auto series = AddOfType(chart, c.type);
+      c.call(chart, *series);
+      EXPECT_EQ(series->Values(), (std::vector<runtime::Variant>{10.0, 5.0, 7.0, 1.0}));
+    });
+    EXPECT_TRUE(Has(after, c.after)) << "wanted " << c.after << "\nin " << after;
+    if (!c.gone.empty()) {
+      EXPECT_FALSE(Has(after, c.gone)) << after;
+    }
+  }
+}
+
+TEST_F(ChartPropertiesTest, ScalesCoverWhatIsDrawn) {
+  struct Case {
+    std::int32_t type;
+    double minimum, maximum;
+  };
+  // the amounts are 10, 5, 7 and 1, drawn twice
+  for (const Case& c : {Case{51, 0, 12}, Case{52, 0, 25}, Case{53, 0, 1}, Case{54, 0, 10}, Case{1, 0, 12}}) {
+    SCOPED_TRACE(c.type);
+    After(kNothing, [&](Chart& chart) {
+      for (int i = 0; i < 2; ++i) AddOfType(chart, c.type);
+      EXPECT_EQ(chart.Axes(2, 1)->MinimumScale(), c.minimum);
+      EXPECT_EQ(chart.Axes(2, 1)->MaximumScale(), c.maximum);
+    });
+  }
+}
+
+TEST_F(ChartPropertiesTest, LegendEntriesGoWithTheirSeries) {
+  const auto draw = [](Chart& chart) {
+    DeleteSeries(chart);
+    chart.SetChartType(excel::xlBubble);
+    for (const int row : {2, 3, 4, 5}) {
+      AddBubble(chart, row);
+      const auto entries = chart.Legend()->LegendEntries();
+      if (row == 3 || row == 5) entries->Item(entries->Count())->Delete();
+    }
+    EXPECT_EQ(chart.Legend()->LegendEntries()->Count(), 2);
+    ExpectError1004([&] { chart.Legend()->LegendEntries()->Item(3); });
+  };
+  const S wanted =
+      "<c:legend><c:legendPos val=\"r\"/><c:legendEntry><c:idx val=\"1\"/><c:delete "
+      "val=\"1\"/></c:legendEntry>"
+      "<c:legendEntry><c:idx val=\"3\"/><c:delete val=\"1\"/></c:legendEntry></c:legend>";
+  const S stale = runtime::Replace(kLegend, "</c:legend>",
+                                   "<c:legendEntry><c:idx val=\"2\"/><c:delete "
+                                   "val=\"1\"/></c:legendEntry></c:legend>");
+  S after = Sound(Part("<c:plotArea/>" + stale), draw);
+  EXPECT_TRUE(Has(after, wanted)) << after;
+  after = Sound(after, draw);
+  EXPECT_TRUE(Has(after, wanted)) << "the second time the same\n" << after;
+  after = Sound(after, [](Chart& chart) {
+    chart.SeriesCollection()->Item(1)->Delete();
+    EXPECT_EQ(chart.Legend()->LegendEntries()->Count(), 1);
+    const auto gone = chart.SeriesCollection()->Item(1);
+    gone->Delete();
+    ExpectError1004([&] { gone->SetName("x"); });
+    ExpectError1004([&] { gone->Delete(); });
+  });
+  EXPECT_EQ(Between(after, "<c:legendEntry>", "</c:legend>"),
+            "<c:legendEntry><c:idx val=\"1\"/><c:delete val=\"1\"/></c:legendEntry>");
+  // of a pie, entries are points
+  After(Part("<c:plotArea/>" + kLegend), [](Chart& chart) {
+    AddOfType(chart, excel::xlPie);
+    EXPECT_EQ(chart.Legend()->LegendEntries()->Count(), 4);
+  });
+}
+
+TEST_F(ChartPropertiesTest, TheJournalNamesWhatChanged) {
+  After(Part("<c:plotArea/>" + kLegend), [&](Chart& chart) {
+    chart.SetChartType(excel::xlBubble);
+    AddBubble(chart, 2);
+    const auto series = AddBubble(chart, 3);
+    series->SetHasDataLabels(true);
+    journal_.clear();
+    series->Interior()->SetColor(255);
+    series->Border()->SetWeight(1);
+    series->DataLabels()->Item(1)->SetText("t");
+    chart.Axes(1, 1)->SetMaximumScale(4.5);
+    chart.Axes(2, 1)->Border()->SetLineStyle(-4142);
+    chart.Legend()->LegendEntries()->Item(2)->Delete();
+    series->SetChartType(15);
+  });
+  EXPECT_EQ(
+      std::vector<S>(journal_.begin(), journal_.begin() + 7),
+      (std::vector<S>{"Chart.SeriesCollection(2).Interior.Color = 255",
+                      "Chart.SeriesCollection(2).Border.Weight = 1",
+                      "Chart.SeriesCollection(2).DataLabels(1).Text = \"t\"",
+                      "Chart.Axes(1, 1).MaximumScale = 4.5", "Chart.Axes(2, 1).Border.LineStyle = -4142",
+                      "Chart.Legend.LegendEntries(2).Delete", "Chart.SeriesCollection(2).ChartType = 15"}));
+}
+
+}  // namespace
+}  // namespace plotsmith::xlsx
