@@ -95,6 +95,14 @@ class ChartFont final : public excel::Font {
     });
   }
 
+  void SetBold(bool value) override {
+    Apply("Bold", value,
+          [&](pugi::xml_node properties) { xml::SetAttribute(properties, "b", value ? "1" : "0"); });
+  }
+  void SetBackground(std::int32_t background) override {
+    part_.Book().Journal().Put([this] { return path_; }, "Background", background);
+  }
+
   void SetColor(const Variant& color) override {
     const std::int32_t value = runtime::CLng(color);
     if (value < 0 || value > 0xFFFFFF) throw CantSet("Color");

@@ -23,8 +23,8 @@ class Font {
   virtual Variant Color() = 0;
   /// XlBackground.
   virtual Variant Background() = 0;
-  virtual void SetBackground(std::int32_t background) { Pending(); }
-  virtual void SetBold(bool value) { Pending(); }
+  virtual void SetBackground(std::int32_t background) = 0;
+  virtual void SetBold(bool value) = 0;
 };
 
 }  // namespace plotsmith::excel

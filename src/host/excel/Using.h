@@ -1,13 +1,10 @@
 #pragma once
 
-#pragma GCC diagnostic ignored "-Wunused-parameter"  // until nothing is pending
-
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "runtime/Ref.h"
-#include "runtime/RuntimeError.h"
 #include "runtime/Variant.h"
 
 namespace plotsmith::excel {
@@ -20,10 +17,5 @@ namespace plotsmith::excel {
 /// nothing else.
 using runtime::Ref;
 using runtime::Variant;
-
-/// For a member that a host doesn't answer yet.
-[[noreturn]] inline void Pending() {
-  throw runtime::RuntimeError(438, "Object doesn't support this property or method");
-}
 
 }  // namespace plotsmith::excel
