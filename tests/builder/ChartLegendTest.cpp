@@ -24,7 +24,7 @@ class ChartLegendTest : public test::DrawingTest {
  protected:
   /// What is asked of shapes, without their names and paths: "Left = 8".
   static Lines ShapeCalls(const Lines& calls) {
-    static const std::regex path(R"re(^.*\.Shapes(\.Range)?(\((".*?"(, )?)*\))?\.)re");
+    static const std::regex path(R"re(^.*?\.Shapes(\.Range)?(\((Array\()?("[^"]*"(, )?)*\)?\))?\.)re");
     Lines found;
     for (const S& line : With(calls, ".Shapes")) found.push_back(std::regex_replace(line, path, ""));
     return found;
