@@ -96,8 +96,8 @@ std::shared_ptr<Shape> Drawing::AddChart(const Frame& frame) {
   return AddAnchor(
       frame,
       R"(<@graphicFrame macro=""><@nvGraphicFramePr><@cNvPr id=")" +
-          std::to_string(NextShapeId(xml::Root(document_))) + R"(" name="Chart )" +
-          std::to_string(shapes_.size() + 1) +
+          std::to_string(NextShapeId(xml::Root(document_))) + R"(" name=")" +
+          FreeName("Chart ", shapes_.size() + 1) +
           R"("/><@cNvGraphicFramePr/></@nvGraphicFramePr><@xfrm><~off x="0" y="0"/><~ext cx="0" cy="0"/></@xfrm>)"
           R"(<~graphic><~graphicData uri=")" +
           std::string(names.chart) + R"("><c:chart xmlns:c=")" + std::string(names.chart) + R"(" xmlns:r=")" +

@@ -69,13 +69,13 @@ class SheetRangeObject final : public excel::Range {
 
   void Sort(Ref<Range> key1, std::int32_t order1, std::int32_t header, std::int32_t orderCustom,
             bool matchCase, std::int32_t orientation) override {
-    const std::int32_t column = key1 ? key1->Column() : 0, row = key1 ? key1->Row() : 0;
+    const std::int32_t column = key1 ? key1->Column() : 0;
     Log().Call(Path(), "Sort",
                {key1 ? key1->Address() : std::string(), order1, header, orderCustom, matchCase, orientation});
     // a list of the user's own to sort by, or columns that move, would be something else
     const bool plain = orderCustom == 1 && orientation == excel::xlTopToBottom;
-    const bool inside =
-        column >= cells_.column1 && column <= cells_.column2 && row >= cells_.row1 && row <= cells_.row2;
+    // of the key's cell only the column counts: it may be a heading above the rows
+    const bool inside = column >= cells_.column1 && column <= cells_.column2;
     if (!plain || (order1 != excel::xlAscending && order1 != excel::xlDescending) ||
         (header != excel::xlYes && header != excel::xlNo)) {
       throw RuntimeError(runtime::error::kApplication, "Sort method of Range class failed");

@@ -64,7 +64,8 @@ class SheetShapes final : public DrawnShapes {
     return drawing == nullptr ? 0 : static_cast<std::int32_t>(drawing->Shapes().size());
   }
   std::shared_ptr<DrawnShape> Group(const std::vector<std::shared_ptr<DrawnShape>>&) override {
-    excel::Pending();  // the system groups on charts only
+    // the system groups on charts only
+    throw RuntimeError(438, "Object doesn't support this property or method");
   }
   const Journal& Log() const override { return sheet_.Book().Journal(); }
   std::string JournalPath() const override { return sheet_.JournalPath()(); }
