@@ -87,6 +87,7 @@ class ChartFont final : public excel::Font {
 
   void SetFontStyle(const Variant& style) override {
     const std::string name = runtime::UCase(runtime::CStr(style));
+    if (name.empty()) throw CantSet("FontStyle");
     const bool bold = name.find("BOLD") != std::string::npos;
     const bool italic = name.find("ITALIC") != std::string::npos || name.find("OBLIQUE") != std::string::npos;
     Apply("FontStyle", style, [&](pugi::xml_node properties) {
