@@ -1,6 +1,7 @@
 #include <cstdlib>
 #include <fstream>
 
+#include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
 #include "xlsx/Package.h"
 #include "xlsx/Xml.h"
@@ -112,6 +113,38 @@ TEST_F(LibreOfficeTest, SeesTheSameSeries) {
   EXPECT_NE(charts[2].find("chart:three-dimensional=\"true\""), S::npos);
   EXPECT_NE(charts[2].find("chart:data-label-number=\"value\""), S::npos);
   EXPECT_NE(charts[2].find(">3-D<"), S::npos);
+}
+
+TEST_F(LibreOfficeTest, SeesPiesBubblesAndBuckets) {
+  Definition pie{"VEX_Chart1", "pie"};
+  pie.series = "<series headings-in=\"none\"/>";
+  Open(test::SalesBook({pie}));
+  Refresh();
+  SaveAndReopen();
+  auto charts = Charts();
+  ASSERT_EQ(charts.size(), 1u);
+  EXPECT_EQ(Class(charts[0]), "circle");
+  EXPECT_NE(Data(charts[0]).find("East|18\nWest|5"), S::npos) << Data(charts[0]);
+
+  Open(test::BubbleBook({{"A", "North", 1, 2, 30}, {"B", "South", 3, 4, 20}}, test::BubbleDefinition()));
+  Refresh();
+  SaveAndReopen();
+  charts = Charts();
+  ASSERT_EQ(charts.size(), 1u);
+  EXPECT_EQ(Class(charts[0]), "bubble");
+  for (const char* seen : {">North<", ">South<", "office:value=\"3\"", "office:value=\"4\"",
+                           "office:value=\"30\"", "office:value=\"20\""}) {
+    EXPECT_NE(charts[0].find(seen), S::npos) << seen;
+  }
+
+  Open(test::BucketBook(test::BucketDefinition()));
+  Refresh();
+  SaveAndReopen();
+  charts = Charts();
+  ASSERT_EQ(charts.size(), 1u);
+  EXPECT_NE(Data(charts[0]).find("GROWTH|"), S::npos) << Data(charts[0]);
+  EXPECT_NE(charts[0].find(">Strategic Buckets<"), S::npos);
+  EXPECT_NE(charts[0].find("chart:class=\"chart:line\""), S::npos) << "the buckets' own values";
 }
 
 TEST_F(LibreOfficeTest, WhatWasEditedThereSurvivesTheNextRefresh) {
