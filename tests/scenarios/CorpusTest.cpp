@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 #include <map>
 #include <set>
@@ -105,6 +106,24 @@ TEST_F(CorpusTest, SaveChangesNoPartOfAnyWorkbook) {
     EXPECT_EQ(xlsx::Package::Open(path.string()).Parts(), xlsx::Package::Open(out).Parts())
         << "order and names";
   }
+}
+
+TEST_F(CorpusTest, LibreOfficeOpensWhatWasSaved) {
+  if (std::system("command -v soffice > /dev/null 2>&1") != 0) GTEST_SKIP() << "LibreOffice isn't installed";
+  fs::create_directory(folder_ / "saved");
+  std::set<S> stems;
+  for (const fs::path& path : Corpus()) {
+    const bool broken = path.parent_path().filename() == "broken";
+    if (broken || kRefused.contains(path.filename().string())) continue;
+    const S out = folder_ / ("saved/" + path.filename().string());
+    ASSERT_LE(Run({"refresh", path.string(), "-o", out}).first, 1) << path;
+    stems.insert(path.stem().string());
+  }
+  const S command = "soffice -env:UserInstallation=file://" + (folder_ / "profile") +
+                    " --headless --convert-to csv --outdir " + (folder_ / "csv") + " " + (folder_ / "saved") +
+                    "/* > /dev/null 2>&1";
+  EXPECT_EQ(std::system(command.c_str()), 0);
+  for (const S& stem : stems) EXPECT_TRUE(fs::exists(folder_ / ("csv/" + stem + ".csv"))) << stem;
 }
 
 TEST_F(CorpusTest, RefreshTouchesOnlyWhatIsItsOwn) {
