@@ -114,6 +114,8 @@ TEST_F(CorpusTest, LibreOfficeOpensWhatWasSaved) {
   std::set<S> stems;
   for (const fs::path& path : Corpus()) {
     const bool broken = path.parent_path().filename() == "broken";
+    // LibreOffice doesn't open this one as it came, either: the names in it have backslashes
+    if (path.filename() == "Zip-Windows-Directory-Separator.xlsx") continue;
     if (broken || kRefused.contains(path.filename().string())) continue;
     const S out = folder_ / ("saved/" + path.filename().string());
     ASSERT_LE(Run({"refresh", path.string(), "-o", out}).first, 1) << path;
