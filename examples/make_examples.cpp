@@ -204,6 +204,7 @@ void MakeInvestments(const std::string& path) {
   sheet->Range("$D$4", "$D$" + std::to_string(row))->SetNumberFormat("0.0");
   book.Name("VEX_TableRange_Investments", "Investments!$A$1:$E$" + std::to_string(row));
 
+  const auto charts = book.Sheet("Charts");
   // the bucket table belongs to the other by its headings
   const auto targets = book.Sheet("Targets");
   targets->SetCellValueAt(1, 1, "Targets 2026");
@@ -215,7 +216,6 @@ void MakeInvestments(const std::string& path) {
   Fill(*targets, 7, {"Try out", 2.0});
   book.Name("VEX_SB_Targets", "Targets!$A$1:$B$7");
 
-  const auto charts = book.Sheet("Charts");
   const std::string table = "table-id=\"VEX_TableRange_Investments\" number-format=\"0.0\" ";
   book.Chart(charts, 10, 10, 620, 460,
              table +

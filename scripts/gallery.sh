@@ -38,5 +38,5 @@ for book in bicycle-sales investments; do
   print "$out/$book.xlsx"
 done
 take bicycle-sales 2 60 650 415 bicycle-sales
-take investments 3 60 810 340 investments
+take investments 2 60 810 340 investments
 du -ch "$images"/*.png "$images"/gallery/*.png | tail -n 1

@@ -17,13 +17,6 @@ constexpr double kBoxWidth = 180;    // points, as all below
 constexpr double kBoxHeight = 120;
 constexpr double kBoxOverlap = 5;  // over the chart's right edge, and below its top edge
 
-std::string CommentOf(const dom::IXMLDOMElement& oChartElement) {
-  const auto oComment = oChartElement.selectSingleNode("comment");
-  if (!oComment) return {};
-  const auto oText = oComment.firstChild();
-  return oText ? oText.nodeValue() : std::string();
-}
-
 /// A new box at the top right corner of the chart, or Nothing if the chart isn't on its sheet.
 Ref<excel::Shape> AddCommentBox(const std::string& sSheet, const std::string& sID) {
   const auto oShapes = SheetWithCells(sSheet)->Shapes();
@@ -45,7 +38,7 @@ Ref<excel::Shape> AddCommentBox(const std::string& sSheet, const std::string& sI
 void SetChartComment(const dom::IXMLDOMElement& oChartElement) {
   ReportErrors("PSChartBuilder.SetChartComment", [&] {
     const std::string sID = GetAttributeText(oChartElement, "id");
-    const std::string sComment = CommentOf(oChartElement);
+    const std::string sComment = GetChildText(oChartElement, "comment");
     Ref<excel::Shape> oBox;
     if (CollectionHasKey(sID, colChartShapes)) oBox = colChartShapes->Item(sID);
     if (oBox && sComment.empty()) {

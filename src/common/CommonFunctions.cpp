@@ -36,6 +36,12 @@ std::string GetAttributeText(const dom::IXMLDOMElement& oElement, const char* sA
   return vText.IsNull() ? std::string() : runtime::CStr(vText);
 }
 
+std::string GetChildText(const dom::IXMLDOMElement& oElement, const char* sChild) {
+  const auto oChild = oElement.selectSingleNode(sChild);
+  const auto oText = oChild ? oChild.firstChild() : dom::IXMLDOMNode();
+  return oText ? oText.nodeValue() : std::string();
+}
+
 std::int32_t GetAttributeLong(const dom::IXMLDOMElement& oElement, const char* sAttribute) {
   return runtime::CLng(GetAttributeText(oElement, sAttribute));
 }

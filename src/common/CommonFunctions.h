@@ -35,6 +35,8 @@ bool CollectionHasKey(std::string_view sKey, const runtime::Ref<runtime::Collect
 
 /// The attribute's text; an absent one can't be told from an empty one, and readers rely on that.
 std::string GetAttributeText(const dom::IXMLDOMElement& oElement, const char* sAttribute);
+/// The text that a child element begins with; "" where there is no such child, or none in it.
+std::string GetChildText(const dom::IXMLDOMElement& oElement, const char* sChild);
 /// The attribute as a whole number; error 13 if it isn't one.
 std::int32_t GetAttributeLong(const dom::IXMLDOMElement& oElement, const char* sAttribute);
 dom::IXMLDOMDocument2 NewXMLDocument();

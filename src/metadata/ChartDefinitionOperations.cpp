@@ -19,16 +19,18 @@ constexpr double kFrameStep = 20;
 constexpr double kFrameWidth = 420;
 constexpr double kFrameHeight = 345;
 
-void RenameColumn(const dom::IXMLDOMDocument2& oDoc, const std::string& sOld, const std::string& sNew) {
+/// `newName` is only asked for where the old name is found.
+template <class NewName>
+void RenameColumn(const dom::IXMLDOMDocument2& oDoc, const std::string& sOld, const NewName& newName) {
   for (IXMLDOMElement oColumn : oDoc.selectNodes("//column")) {
-    if (GetAttributeText(oColumn, "name") == sOld) oColumn.setAttribute("name", sNew);
+    if (GetAttributeText(oColumn, "name") == sOld) oColumn.setAttribute("name", newName());
     // The axes are looked at for each column, so that a definition without columns keeps its labels. A label
     // that the user typed is sticky and stays.
     for (IXMLDOMElement oAxis : oDoc.selectNodes("//axis")) {
       const std::string sType = GetAttributeText(oAxis, "type");
       if ((sType == "value" || sType == "label") && GetAttributeText(oAxis, "label") == sOld &&
           GetAttributeText(oAxis, "sticky") == "no") {
-        oAxis.setAttribute("label", sNew);
+        oAxis.setAttribute("label", newName());
       }
     }
   }
@@ -103,8 +105,10 @@ void UpdateChartColumnNames(const std::string& sTableRangeName,
     for (const auto& oDoc : *colCharts) {
       if (GetAttributeText(oDoc.selectSingleNode("chart"), "table-id") == sTableRangeName) {
         for (std::size_t i = 0; i < aOldColumnNames.size(); ++i) {
-          if (i >= aNewColumnNames.size()) throw runtime::RuntimeError(runtime::error::kSubscript);
-          RenameColumn(oDoc, aOldColumnNames[i], aNewColumnNames[i]);
+          RenameColumn(oDoc, aOldColumnNames[i], [&] {
+            if (i >= aNewColumnNames.size()) throw runtime::RuntimeError(runtime::error::kSubscript);
+            return aNewColumnNames[i];
+          });
         }
       }
       SaveChartDefinition(oDoc);

@@ -7,6 +7,7 @@
 #include "common/CommonFunctions.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "metadata/LostMarkers.h"
 #include "metadata/StrategicBuckets.h"
 #include "readback/ChartIdentity.h"
 
@@ -65,7 +66,13 @@ bool LoadChartDefinition(const std::string& sText) {
   if (!oDoc.loadXML(sText)) return false;
   auto oChart = oDoc.selectSingleNode("chart");
   const std::string sID = GetAttributeText(oChart, "id");
-  const std::string sSheet = FindChartSheet(sID);
+  std::string sSheet = FindChartSheet(sID);
+  if (sSheet.empty() && !sID.empty()) {
+    sSheet = RestoreChartMarker(sID);
+    if (!sSheet.empty()) {
+      RestoreCommentMarker(sID, sSheet, GetChildText(oChart, "comment"));
+    }
+  }
   const std::string sTableSheet = GetTableSheetName(GetAttributeText(oChart, "table-id"));
   if (sSheet.empty()) return false;
   oChart.setAttribute("chart-worksheet", sSheet);

@@ -77,7 +77,7 @@ std::vector<std::string> Lines(pugi::xml_node title) {
 }
 
 /// What a title takes of the chart across its text; nothing if it lies over the plot area.
-double TitleDepth(ChartPart& part, pugi::xml_node title, const TextFace& face, double room) {
+double TitleDepth(pugi::xml_node title, const TextFace& face, double room) {
   if (!title || schema::BooleanVal(title, "overlay", false)) return 0;
   double lines = 0;
   for (const std::string& line : Lines(title)) {
@@ -163,12 +163,12 @@ std::vector<std::string> LabelsOf(ChartPart& part, pugi::xml_node axis) {
 Frame AutomaticPlotArea(ChartPart& part, const Frame& chart) {
   Edges taken{kChartInset, kChartInset, kChartInset, kChartInset};
   const auto title = schema::Find(part.Chart(), "title");
-  taken.top += TitleDepth(part, title, FaceOf(part, title, kTitleSize, true, kTitleGrowth), chart.width);
+  taken.top += TitleDepth(title, FaceOf(part, title, kTitleSize, true, kTitleGrowth), chart.width);
   SetLegendAside(part, chart, taken);
   ForEachAxis(part, [&](pugi::xml_node axis, const std::string& side, bool upright) {
     const auto text = schema::Find(axis, "title");
     SideOf(taken, side) +=
-        TitleDepth(part, text, FaceOf(part, text, kTextSize, true), upright ? chart.height : chart.width);
+        TitleDepth(text, FaceOf(part, text, kTextSize, true), upright ? chart.height : chart.width);
   });
   return {taken.left, taken.top, std::max(chart.width - taken.left - taken.right, kLeastShare * chart.width),
           std::max(chart.height - taken.top - taken.bottom, kLeastShare * chart.height)};

@@ -1,5 +1,6 @@
 #include "xlsx/ChartSeries.h"
 
+#include <initializer_list>
 #include <string>
 
 #include "host/excel/Excel.h"
@@ -36,6 +37,21 @@ class SeriesObject final : public excel::Series {
     if (schema::Find(series, "tx")) return name;
     // counted from the first, whatever its place in the file
     return "Series" + std::to_string(xml::ParseInteger(schema::Val(series, "idx")).value_or(0) + 1);
+  }
+  std::string Formula() override {
+    const auto series = series_.Node();
+    const auto reference = [&](std::initializer_list<const char*> elements) {
+      for (const char* element : elements) {
+        for (const pugi::xml_node& source : schema::Find(series, element).children()) {
+          if (const auto formula = schema::Find(source, "f")) return xml::Text(formula);
+        }
+      }
+      return std::string();
+    };
+    series_.part->CatchUp();
+    return "=SERIES(" + reference({"tx"}) + "," + reference({"cat", "xVal"}) + "," +
+           reference({"val", "yVal"}) + "," +
+           std::to_string(xml::ParseInteger(schema::Val(series, "order")).value_or(0) + 1) + ")";
   }
   void SetName(const Variant& name) override { Set(SeriesData::kName, "Name", name); }
   void SetXValues(const Variant& reference) override { Set(SeriesData::kCategories, "XValues", reference); }

@@ -1,24 +1,15 @@
 #include "xlsx/ChartText.h"
 
-#include <cmath>
-
-#include "host/excel/Constants.h"
-#include "runtime/RuntimeError.h"
-#include "runtime/Strings.h"
 #include "xlsx/ChartPart.h"
 #include "xlsx/ChartSchema.h"
-#include "xlsx/DrawingFill.h"
+#include "xlsx/DrawingFont.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/Xml.h"
 
 namespace plotsmith::xlsx {
 
-using runtime::RuntimeError;
-using runtime::Variant;
-
 namespace {
 
-constexpr double kMostPoints = 409;
 /// A body of text as the schema wants it, with one paragraph.
 pugi::xml_node EnsureText(pugi::xml_node body) {
   schema::Ensure(body, "bodyPr");
@@ -40,100 +31,23 @@ std::vector<pugi::xml_node> RunProperties(pugi::xml_node element) {
   return properties;
 }
 
-RuntimeError CantSet(const char* property) {
-  return RuntimeError(runtime::error::kApplication,
-                      std::string("Unable to set the ") + property + " property of the Font class");
-}
-
-class ChartFont final : public excel::Font {
+class ChartFont final : public DrawingFont {
  public:
   ChartFont(ChartPart& part, std::function<std::vector<TextLook>()> looks,
             std::function<pugi::xml_node()> element, std::string path)
-      : part_(part), looks_(std::move(looks)), element_(std::move(element)), path_(std::move(path)) {}
-
-  Variant Name() override {
-    return Common([](const TextLook& look) { return Variant(look.typeface); });
-  }
-  Variant Size() override {
-    return Common([](const TextLook& look) { return Variant(look.points); });
-  }
-  Variant FontStyle() override {
-    return Common([](const TextLook& look) {
-      return Variant(look.bold ? (look.italic ? "Bold Italic" : "Bold") : look.italic ? "Italic" : "Regular");
-    });
-  }
-  Variant Color() override {
-    return Common([](const TextLook& look) { return Variant(look.color); });
-  }
-  /// The file has no such property.
-  Variant Background() override { return excel::xlBackgroundAutomatic; }
-
-  void SetName(const Variant& name) override {
-    const std::string typeface = runtime::CStr(name);
-    if (typeface.empty()) throw CantSet("Name");
-    Apply("Name", name, [&](pugi::xml_node properties) {
-      // for Latin and for complex scripts, as Excel does it; what East Asian text has stays
-      xml::SetAttribute(schema::Ensure(properties, "latin"), "typeface", typeface);
-      xml::SetAttribute(schema::Ensure(properties, "cs"), "typeface", typeface);
-    });
-  }
-
-  void SetSize(const Variant& size) override {
-    const double points = runtime::CDbl(size);
-    if (!(points >= 1 && points <= kMostPoints)) throw CantSet("Size");
-    const std::string hundredths = std::to_string(std::lround(points * 100));
-    Apply("Size", size, [&](pugi::xml_node properties) { xml::SetAttribute(properties, "sz", hundredths); });
-  }
-
-  void SetFontStyle(const Variant& style) override {
-    const std::string name = runtime::UCase(runtime::CStr(style));
-    const bool bold = name.find("BOLD") != std::string::npos;
-    const bool italic = name.find("ITALIC") != std::string::npos || name.find("OBLIQUE") != std::string::npos;
-    Apply("FontStyle", style, [&](pugi::xml_node properties) {
-      xml::SetAttribute(properties, "b", bold ? "1" : "0");
-      xml::SetAttribute(properties, "i", italic ? "1" : "0");
-    });
-  }
-
-  void SetBold(bool value) override {
-    Apply("Bold", value,
-          [&](pugi::xml_node properties) { xml::SetAttribute(properties, "b", value ? "1" : "0"); });
-  }
-  void SetBackground(std::int32_t background) override {
-    part_.Book().Journal().Put([this] { return path_; }, "Background", background);
-  }
-
-  void SetColor(const Variant& color) override {
-    const std::int32_t value = runtime::CLng(color);
-    if (value < 0 || value > 0xFFFFFF) throw CantSet("Color");
-    Apply("Color", color,
-          [&](pugi::xml_node properties) { SetFillColor(SetFill(properties, "solidFill"), value); });
-  }
+      : DrawingFont(std::move(path)), part_(part), looks_(std::move(looks)), element_(std::move(element)) {}
 
  private:
-  template <class Set>
-  void Apply(const char* property, const Variant& value, const Set& set) {
-    part_.Book().Journal().Put([this] { return path_; }, property, value);
+  const Journal& Log() const override { return part_.Book().Journal(); }
+  std::vector<TextLook> Looks() const override { return looks_(); }
+  void ForEachRun(const std::function<void(pugi::xml_node)>& set) override {
     for (const pugi::xml_node& properties : RunProperties(element_())) set(properties);
     part_.MarkChanged();
-  }
-
-  /// A property of all of the text, or Null.
-  template <class Get>
-  Variant Common(const Get& get) const {
-    Variant common;
-    for (const TextLook& look : looks_()) {
-      const Variant own = get(look);
-      if (!common.IsEmpty() && common != own) return runtime::kNull;
-      common = own;
-    }
-    return common;
   }
 
   ChartPart& part_;
   std::function<std::vector<TextLook>()> looks_;
   std::function<pugi::xml_node()> element_;
-  std::string path_;
 };
 
 }  // namespace

@@ -60,7 +60,7 @@ extern const Enumeration kDisplayUnits;
 /// What a chart type asks of each of its series, beside the plot group.
 enum class SeriesTrait { kNone, kNoMarkers, kMarkers, kMarkersOnly, kExploded, kFlatBubble, kBubble3D };
 
-/// A chart type of Excel as the file builds it (ECMA-376 Part 1, 21.2.2).
+/// A chart type of Excel as the file builds it (ECMA-376-1, 21.2.2).
 struct ChartTypeEntry {
   std::int32_t number;         ///< XlChartType
   std::string_view name;       ///< Excel's

@@ -62,7 +62,7 @@ std::string PartNameOf(pugi::xml_node type) {
 
 std::string_view LastSegment(std::string_view address) { return address.substr(address.rfind('/') + 1); }
 
-/// A name as the file writes it: what an address can't hold goes by its number, as in ECMA-376 Part 2.
+/// A name as the file writes it: what an address can't hold goes by its number, as in ECMA-376-2.
 std::string PercentEncoded(std::string_view name) {
   constexpr std::string_view kPlain =
       "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~!$&'()*+,;=:@/";

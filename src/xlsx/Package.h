@@ -21,7 +21,7 @@ struct Relationship {
   bool external = false;
 };
 
-/// A workbook file as a package of parts (ECMA-376 Part 2). Parts are read when they are asked for, and a
+/// A workbook file as a package of parts (ECMA-376-2). Parts are read when they are asked for, and a
 /// part that nobody changed is written back as the compressed bytes it came in, in its place and order. Part
 /// names begin with a slash, are given decoded ("%20" is a blank) and compare ignoring ASCII case. All
 /// failures are PackageErrors whose text is a sentence.

@@ -32,7 +32,7 @@ constexpr std::array<Variation, 9> kRounds = {{{100000, 0},
                                                {70000, 30000},
                                                {70000, 0},
                                                {50000, 50000}}};
-/// How much of black stays, in percent, in the styles in shades of grey (ECMA-376 Part 1, 21.2.3.46, table
+/// How much of black stays, in percent, in the styles in shades of grey (ECMA-376-1, 21.2.3.46, table
 /// 5).
 constexpr std::array<double, 6> kGreys = {88.5, 55, 78, 92.5, 70, 30};
 

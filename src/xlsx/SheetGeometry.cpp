@@ -37,7 +37,7 @@ int DigitWidth(const Styles& styles) {
   return std::max(1, static_cast<int>(std::lround(size * 96 / 72 * 0.48)));
 }
 
-/// A column's width in the file, in characters, as pixels (ECMA-376 Part 1, 18.3.1.13).
+/// A column's width in the file, in characters, as pixels (ECMA-376-1, 18.3.1.13).
 double ColumnPoints(double characters, int digit) {
   return std::floor((256 * characters + std::floor(128.0 / digit)) / 256 * digit) * kPointsPerPixel;
 }

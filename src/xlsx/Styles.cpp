@@ -36,7 +36,7 @@ constexpr std::array<std::string_view, 11> kSheetOrder = {"numFmts",      "fonts
                                                           "cellStyleXfs", "cellXfs", "cellStyles", "dxfs",
                                                           "tableStyles",  "colors",  "extLst"};
 
-/// Red, green and blue of Excel's default palette, from ECMA-376 Part 1, 18.8.27 (indexed 8 to 63).
+/// Red, green and blue of Excel's default palette, from ECMA-376-1, 18.8.27 (indexed 8 to 63).
 constexpr std::array<std::uint32_t, kPaletteSize> kDefaultPalette = {
     0x000000, 0xFFFFFF, 0xFF0000, 0x00FF00, 0x0000FF, 0xFFFF00, 0xFF00FF, 0x00FFFF, 0x800000, 0x008000,
     0x000080, 0x808000, 0x800080, 0x008080, 0xC0C0C0, 0x808080, 0x9999FF, 0x993366, 0xFFFFCC, 0xCCFFFF,

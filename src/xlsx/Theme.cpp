@@ -16,11 +16,11 @@ namespace {
 constexpr double kWhole = 100000;  // percentages of DrawingML count thousandths
 constexpr double kDegree = 60000;
 
-/// The usual colour map (ECMA-376 Part 1, 20.1.6.2), which nearly every workbook has.
+/// The usual colour map (ECMA-376-1, 20.1.6.2), which nearly every workbook has.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 4> kColorMap = {
     {{"bg1", "lt1"}, {"tx1", "dk1"}, {"bg2", "lt2"}, {"tx2", "dk2"}}};
 
-/// The preset colours (ECMA-376 Part 1, 20.1.10.48) that programs write; RRGGBB.
+/// The preset colours (ECMA-376-1, 20.1.10.48) that programs write; RRGGBB.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 24> kPresets = {
     {{"black", "000000"},   {"white", "FFFFFF"},   {"red", "FF0000"},      {"green", "008000"},
      {"blue", "0000FF"},    {"yellow", "FFFF00"},  {"cyan", "00FFFF"},     {"aqua", "00FFFF"},
@@ -97,7 +97,7 @@ Rgb InLinearLight(const Rgb& rgb, const Change& change) {
   return {Gamma(change(Linear(rgb.red))), Gamma(change(Linear(rgb.green))), Gamma(change(Linear(rgb.blue)))};
 }
 
-/// The modifications inside a colour element, in their order (ECMA-376 Part 1, 20.1.2.3).
+/// The modifications inside a colour element, in their order (ECMA-376-1, 20.1.2.3).
 std::int32_t Modified(std::int32_t color, pugi::xml_node element) {
   Rgb rgb = Channels(color);
   for (const pugi::xml_node& change : element.children()) {

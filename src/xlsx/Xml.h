@@ -15,7 +15,7 @@
 /// set as a value passes through Decode or Encode.
 namespace plotsmith::xlsx::xml {
 
-/// What is said of a part with a document type, which no part may have (ECMA-376 Part 2).
+/// What is said of a part with a document type, which no part may have (ECMA-376-2).
 inline constexpr const char* kDocumentType = "it declares a document type, which no part of a workbook may";
 
 /// Parses a part in UTF-8, UTF-16, Latin-1 or Windows-1252. Throws PackageError if it isn't well-formed, or

@@ -214,6 +214,27 @@ TEST_F(CommandTest, RenamedColumnsAreCarriedIntoTheCharts) {
   EXPECT_NE(definition("VEX_Chart1").find("<values><column name=\"Units\""), S::npos);
   EXPECT_NE(definition("VEX_Chart2").find("<values><column name=\"Amount\""), S::npos) << "another table";
 
+  // a title that is the column's name goes along, one that somebody typed doesn't
+  test::Definition titled{"VEX_Chart1"};
+  titled.rest =
+      "<axes><axis type=\"label\" label=\"Region\" sticky=\"no\"/><axis type=\"value\" label=\"Region\" "
+      "sticky=\"yes\"/></axes>";
+  auto renamed = SalesBook({titled});
+  const S other = Write(renamed, "titled.xlsx");
+  EXPECT_EQ(Run({"refresh", other}).code, 0);
+  {
+    auto package = xlsx::Package::Open(other);
+    S sheet = package.Read("/xl/worksheets/sheet1.xml");
+    sheet.replace(sheet.find("Region"), 6, "Land");
+    package.Replace("/xl/worksheets/sheet1.xml", sheet);
+    package.Save(other);
+  }
+  EXPECT_EQ(Run({"rename-columns", other, "--table", "Data1", "Region=Land"}).code, 0);
+  EXPECT_EQ(Run({"refresh", other}).code, 0);
+  const S axes = Run({"definition", other, "VEX_Chart1"}).out;
+  EXPECT_NE(axes.find("<axis type=\"label\" label=\"Land\" sticky=\"no\"/>"), S::npos) << axes;
+  EXPECT_NE(axes.find("<axis type=\"value\" label=\"Region\" sticky=\"yes\"/>"), S::npos) << axes;
+
   const S before = Bytes(book);
   for (const auto& [arguments, said] : std::vector<std::pair<std::vector<S>, S>>{
            {{"--table", "Data1", "Region"}, "\"Region\" is no renaming"},

@@ -244,5 +244,39 @@ TEST_F(HandEditsTest, AChartIsFoundOnWhicheverSheetItIsMovedTo) {
   EXPECT_TRUE(Messages().empty());
 }
 
+TEST_F(HandEditsTest, ChartsThatLostTheirMarkersAreKnownByTheirData) {
+  auto book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "bar"}});
+  book.Sheet("Charts").frames.push_back(
+      {"", ""});  // somebody else's, without an alternative text from the start
+  Open(book);
+  Refresh();
+  const auto sheet = Book().FindWorksheet("Charts");
+  const auto box = sheet->Shapes()->AddTextbox(1, 0, 0, 100, 50);
+  box->SetAlternativeText("VEX_Chart2");
+  box->TextFrame()->Characters()->SetText("Said of\nthe bars");
+  SaveAndReopen();
+  Refresh();
+  SaveAndReopen();
+  Edit([](xlsx::Package& package) {
+    S xml = package.Read("/xl/drawings/drawing2.xml");
+    for (const S marker : {"VEX_Chart1", "VEX_Chart2", "VEX_Chart2"})
+      Replace(xml, " descr=\"" + marker + "\"", "");
+    package.Replace("/xl/drawings/drawing2.xml", xml);
+  });
+  Refresh();
+  SaveAndReopen();
+  std::vector<S> markers;
+  const auto shapes = Book().FindWorksheet("Charts")->Shapes();
+  for (int i = 1; i <= shapes->Count(); ++i) markers.push_back(shapes->Item(i)->AlternativeText());
+  EXPECT_EQ(markers, (std::vector<S>{"VEX_Chart1", "VEX_Chart2", "", "VEX_Chart2"}));
+  EXPECT_NE(Cells("VEX_ChartDefinitions", 3, 1, 3, 1).find("<comment>Said of"), S::npos);
+  EXPECT_TRUE(Messages().empty());
+
+  // a chart that is gone stays gone
+  shapes->Item(1)->Delete();
+  Refresh();
+  EXPECT_EQ(Cells("VEX_ChartDefinitions", 2, 1, 3, 1).find("VEX_Chart1"), S::npos);
+}
+
 }  // namespace
 }  // namespace plotsmith

@@ -1,5 +1,7 @@
 #include <cstdlib>
+#include <fstream>
 
+#include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
 #include "xlsx/Package.h"
 #include "xlsx/Xml.h"
@@ -18,12 +20,34 @@ class LibreOfficeTest : public test::HostTest {
       GTEST_SKIP() << "LibreOffice isn't installed";
   }
 
+  void Office(const S& arguments) {
+    const S command = "soffice -env:UserInstallation=file://" + (folder_ / "profile") + " --headless " +
+                      arguments + " > /dev/null 2>&1";
+    EXPECT_EQ(std::system(command.c_str()), 0) << arguments;
+  }
+
+  /// Lets a macro work on the saved workbook, as `book`, and stores that as a workbook again.
+  void EditInOffice(const S& statements) {
+    Office("--terminate_after_init");  // makes the profile
+    const S url = "file://" + folder_.Path().string();
+    std::ofstream(folder_ / "profile/user/basic/Standard/Module1.xba")
+        << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<script:module "
+           "xmlns:script=\"http://openoffice.org/2000/script\" script:name=\"Module1\" "
+           "script:language=\"StarBasic\">\nSub Main\n"
+           "Dim load(0) As New com.sun.star.beans.PropertyValue\nload(0).Name = &quot;Hidden&quot;\n"
+           "load(0).Value = True\n"
+           "book = StarDesktop.loadComponentFromURL(&quot;"
+        << url << "/saved.xlsx&quot;, &quot;_blank&quot;, 0, load())\n"
+        << statements
+        << "Dim store(0) As New com.sun.star.beans.PropertyValue\nstore(0).Name = &quot;FilterName&quot;\n"
+           "store(0).Value = &quot;Calc MS Excel 2007 XML&quot;\nbook.storeToURL(&quot;"
+        << url << "/edited.xlsx&quot;, store())\nbook.close(True)\nEnd Sub\n</script:module>\n";
+    Office("'macro:///Standard.Module1.Main'");
+  }
+
   /// The saved workbook's charts as LibreOffice writes them, by their number in its package.
   std::vector<S> Charts() {
-    const S command = "soffice -env:UserInstallation=file://" + (folder_ / "profile") +
-                      " --headless --convert-to ods --outdir " + folder_.Path().string() + " " +
-                      (folder_ / "saved.xlsx") + " > /dev/null 2>&1";
-    EXPECT_EQ(std::system(command.c_str()), 0);
+    Office("--convert-to ods --outdir " + folder_.Path().string() + " " + (folder_ / "saved.xlsx"));
     const xlsx::Archive archive(folder_ / "saved.ods");
     std::vector<S> charts;
     for (int n = 1;; ++n) {
@@ -89,6 +113,73 @@ TEST_F(LibreOfficeTest, SeesTheSameSeries) {
   EXPECT_NE(charts[2].find("chart:three-dimensional=\"true\""), S::npos);
   EXPECT_NE(charts[2].find("chart:data-label-number=\"value\""), S::npos);
   EXPECT_NE(charts[2].find(">3-D<"), S::npos);
+}
+
+TEST_F(LibreOfficeTest, SeesPiesBubblesAndBuckets) {
+  Definition pie{"VEX_Chart1", "pie"};
+  pie.series = "<series headings-in=\"none\"/>";
+  Open(test::SalesBook({pie}));
+  Refresh();
+  SaveAndReopen();
+  auto charts = Charts();
+  ASSERT_EQ(charts.size(), 1u);
+  EXPECT_EQ(Class(charts[0]), "circle");
+  EXPECT_NE(Data(charts[0]).find("East|18\nWest|5"), S::npos) << Data(charts[0]);
+
+  Open(test::BubbleBook({{"A", "North", 1, 2, 30}, {"B", "South", 3, 4, 20}}, test::BubbleDefinition()));
+  Refresh();
+  SaveAndReopen();
+  charts = Charts();
+  ASSERT_EQ(charts.size(), 1u);
+  EXPECT_EQ(Class(charts[0]), "bubble");
+  for (const char* seen : {">North<", ">South<", "office:value=\"3\"", "office:value=\"4\"",
+                           "office:value=\"30\"", "office:value=\"20\""}) {
+    EXPECT_NE(charts[0].find(seen), S::npos) << seen;
+  }
+
+  Open(test::BucketBook(test::BucketDefinition()));
+  Refresh();
+  SaveAndReopen();
+  charts = Charts();
+  ASSERT_EQ(charts.size(), 1u);
+  EXPECT_NE(Data(charts[0]).find("GROWTH|"), S::npos) << Data(charts[0]);
+  EXPECT_NE(charts[0].find(">Strategic Buckets<"), S::npos);
+  EXPECT_NE(charts[0].find("chart:class=\"chart:line\""), S::npos) << "the buckets' own values";
+}
+
+TEST_F(LibreOfficeTest, WhatWasEditedThereSurvivesTheNextRefresh) {
+  Definition column{"VEX_Chart1", "column"}, area{"VEX_Chart2", "area"};
+  column.rest =
+      "<axes><axis type=\"value\" label=\"Money\" sticky=\"no\"/></axes><data-labels><data-label "
+      "show=\"values\"/></data-labels>";
+  Open(test::SalesBook({column, area}));
+  Refresh();
+  SaveAndReopen();
+  EditInOffice(
+      "chart = book.Sheets.getByName(&quot;Charts&quot;).Charts.getByIndex(0).EmbeddedObject\n"
+      "chart.Title.String = &quot;Retitled&quot;\n"
+      "chart.Legend.Alignment = com.sun.star.chart.ChartLegendPosition.BOTTOM\n"
+      "chart.Diagram.Stacked = True\nchart.Diagram.Vertical = True\n"
+      "chart.Diagram.YAxisTitle.String = &quot;Euros&quot;\n"
+      "chart.Area.FillColor = RGB(255, 255, 204)\nchart.Area.FillStyle = "
+      "com.sun.star.drawing.FillStyle.SOLID\n");
+  OpenFile(folder_ / "edited.xlsx");
+  Refresh();
+  SaveAndReopen();
+  EXPECT_TRUE(Messages().empty());
+  const S definition = Cells("VEX_ChartDefinitions", 2, 1, 2, 1);
+  for (const char* kept : {"title=\"Retitled\"", "type=\"bar\"",
+                           "<dynamic-attributes><attribute setting=\"stacked\"/></dynamic-attributes>",
+                           "\"legend-position\" value=\"-4107\"", "label=\"Euros\" sticky=\"yes\"",
+                           "<data-label show=\"values\"/>"}) {
+    EXPECT_NE(definition.find(kept), S::npos) << kept << "\n  isn't in " << definition;
+  }
+  EXPECT_NE(Cells("VEX_ChartDefinitions", 3, 1, 3, 1).find("type=\"area\""), S::npos);
+  const auto charts = Charts();
+  ASSERT_EQ(charts.size(), 2u);
+  EXPECT_EQ(Data(charts[0]), "|Widget|Gadget\nEast|11|7\nWest|5|");
+  EXPECT_NE(charts[0].find(">Retitled<"), S::npos);
+  EXPECT_NE(charts[0].find("#ffffcc"), S::npos) << "the colour that nothing in the definition knows of";
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ bool Has(const std::string& text, const std::string& what);
 std::size_t CountOf(const std::string& text, const std::string& what);
 void ExpectError1004(const std::function<void()>& call);
 
-/// What in a chart part is not as ECMA-376 Part 1, 21.2.2, wants it, one complaint a line: children of
+/// What in a chart part is not as ECMA-376-1, 21.2.2, wants it, one complaint a line: children of
 /// groups, series, labels, axes and their like in their order and number, groups and axes that name each
 /// other, and positions of labels that Excel takes for damage.
 std::string ChartComplaints(const std::string& part);

@@ -31,7 +31,7 @@ void ExpectError1004(const std::function<void()>& call) {
   }
 }
 
-/// Children of the elements that the host writes, in the order of their schema (ECMA-376 Part 1, 21.3 and
+/// Children of the elements that the host writes, in the order of their schema (ECMA-376-1, 21.3 and
 /// 20.1); "|" joins what excludes each other or may mix.
 const std::map<S, std::vector<S>> kSchema = {
     {"userShapes", {"relSizeAnchor|absSizeAnchor"}},

@@ -4,6 +4,8 @@
 #include <set>
 
 #include "cli/Session.h"
+#include "common/CommonFunctions.h"
+#include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
 
 namespace plotsmith::cli {
@@ -27,6 +29,17 @@ std::vector<Renaming> Parse(const std::vector<std::string>& texts) {
     }
   }
   return renamings;
+}
+
+/// Whether the table's headings bear all of the names already.
+bool HasColumns(const std::string& table, const std::vector<Renaming>& renamings) {
+  if (!colTables || !CollectionHasKey(table, colTables)) return false;
+  const auto columns = colTables->Item(table).selectSingleNode("table").childElements();
+  return std::all_of(renamings.begin(), renamings.end(), [&](const Renaming& renaming) {
+    return std::any_of(columns.begin(), columns.end(), [&](const dom::IXMLDOMElement& column) {
+      return GetAttributeText(column, "name") == renaming.second;
+    });
+  });
 }
 
 }  // namespace
@@ -54,7 +67,9 @@ std::vector<Renaming> InSteps(std::vector<Renaming> renamings) {
 }
 
 CLI::App* RenameColumnsCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("rename-columns", "Carry new column names of a table into its charts");
+  CLI::App* verb = app.add_subcommand(
+      "rename-columns",
+      "Carry new column names of a table, which its headings bear already, into its charts");
   verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm)")->required();
   verb->add_option("OLD=NEW", renamings_, "A column's name so far, and its new name")->required();
   verb->add_option("--table", table_, "The id of the table")->required()->type_name("ID");
@@ -64,14 +79,19 @@ CLI::App* RenameColumnsCommand::Declare(CLI::App& app) {
 
 int RenameColumnsCommand::Run(const GlobalOptions& options, const Streams& streams) {
   std::vector<std::string> oldNames, newNames;
-  for (auto& [oldName, newName] : InSteps(Parse(renamings_))) {
+  const auto renamings = Parse(renamings_);
+  for (auto& [oldName, newName] : InSteps(renamings)) {
     oldNames.push_back(std::move(oldName));
     newNames.push_back(std::move(newName));
   }
   Session session(book_, options, streams);
   session.CheckWritable(output_);
-  CPlotsmithController().UpdateChartColumnNamesForTable(session.Host(), table_, oldNames, newNames);
+  CPlotsmithController controller;
+  controller.UpdateChartColumnNamesForTable(session.Host(), table_, oldNames, newNames);
   session.CheckTable(table_);
+  // Axis titles that bear a column's name go along. They must be drawn from these definitions: to the next
+  // run a title with the old name would be one that a person typed.
+  if (HasColumns(table_, renamings)) controller.RefreshChartsForTable(session.Host(), table_);
   return session.Save(output_);
 }
 

@@ -25,6 +25,8 @@ class Series {
   virtual Ref<excel::DataLabels> DataLabels() = 0;
   virtual void Delete() = 0;
   virtual std::string Name() = 0;
+  /// "=SERIES(name,categories,values,order)", each as it stands in the chart.
+  virtual std::string Formula() = 0;
   /// XlChartType.
   virtual std::int32_t ChartType() = 0;
   /// A type of its own for this series. Error 1004 for one that can't stand beside the others'.

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <pugixml.hpp>
+#include <string>
+#include <vector>
+
+#include "host/excel/Font.h"
+
+namespace plotsmith::xlsx {
+
+class Journal;
+
+/// How a stretch of text looks.
+struct TextLook {
+  std::string typeface;
+  double points = 0;
+  bool bold = false, italic = false;
+  std::int32_t color = 0;
+
+  bool operator==(const TextLook&) const = default;
+};
+
+/// A font of DrawingML: properties of the runs of a text, which a chart and a shape hold in different places.
+class DrawingFont : public excel::Font {
+ public:
+  runtime::Variant Name() override;
+  runtime::Variant Size() override;
+  runtime::Variant FontStyle() override;
+  runtime::Variant Color() override;
+  runtime::Variant Background() override;
+  void SetName(const runtime::Variant& name) override;
+  void SetSize(const runtime::Variant& size) override;
+  void SetFontStyle(const runtime::Variant& style) override;
+  void SetColor(const runtime::Variant& color) override;
+  void SetBackground(std::int32_t background) override;
+  void SetBold(bool value) override;
+
+ protected:
+  explicit DrawingFont(std::string journalPath) : path_(std::move(journalPath)) {}
+
+  virtual const Journal& Log() const = 0;
+  /// The looks that occur in the text, at least one.
+  virtual std::vector<TextLook> Looks() const = 0;
+  /// Calls `set` with the properties of each run, made where they are missing.
+  virtual void ForEachRun(const std::function<void(pugi::xml_node properties)>& set) = 0;
+
+ private:
+  template <class Get>
+  runtime::Variant Common(const Get& get) const;
+  void Apply(const char* property, const runtime::Variant& value,
+             const std::function<void(pugi::xml_node properties)>& set);
+
+  std::string path_;
+};
+
+}  // namespace plotsmith::xlsx
