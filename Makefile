@@ -1,6 +1,6 @@
 # The newcomer's commands. All building is done by CMake; see CMakePresets.json for the ways to build.
 
-.PHONY: build demo check sanitize fuzz bench clean
+.PHONY: build demo check sanitize fuzz bench docs clean
 
 build:
 	@scripts/install-dependencies.sh
@@ -29,6 +29,12 @@ fuzz:
 # Measures whole runs and the parts; docs/performance.md says what comes out and why.
 bench:
 	@scripts/bench.sh
+
+# Builds pages of the interfaces into build/docs/html.
+docs:
+	@scripts/install-dependencies.sh doxygen
+	@cmake --preset release
+	@cmake --build build --target docs
 
 clean:
 	@rm -rf build build-debug build-sanitizers build-fuzz demo

@@ -1,127 +1,15 @@
-// Makes the example workbooks through the product's own interfaces: a host with an empty workbook, cells,
-// names, chart frames and definitions, and then one refresh. Usage: make_examples FOLDER
+// Makes the example workbooks. Usage: make_examples FOLDER
 
 #include <array>
 #include <cmath>
 #include <iostream>
 #include <string>
-#include <vector>
 
-#include "cli/ConsoleDesktop.h"
-#include "common/App.h"
-#include "common/CommonFunctions.h"
-#include "common/RunVariables.h"
-#include "controller/CPlotsmithController.h"
-#include "metadata/MetadataStore.h"
-#include "metadata/TableDefinitions.h"
-#include "xlsx/Application.h"
-#include "xlsx/Worksheet.h"
+#include "ExampleBook.h"
 
 namespace {
 
-using namespace plotsmith;
-using runtime::Variant;
-
-/// A workbook in the making.
-class ExampleBook {
- public:
-  ExampleBook() : desktop_(std::make_shared<cli::ConsoleDesktop>()), host_(xlsx::Application::Create()) {
-    ResetRunVariables();
-    App = {"", desktop_, desktop_};
-    host_->NewWorkbook();
-  }
-  ~ExampleBook() {
-    ResetRunVariables();
-    App = {};
-  }
-
-  /// The first call names the sheet that every new workbook has.
-  excel::Ref<excel::Worksheet> Sheet(const std::string& name) {
-    auto& book = host_->Book();
-    const auto sheet =
-        sheets_++ == 0 ? book.AllSheets().front()->worksheet : book.AddWorksheet(book.AllSheets().size());
-    sheet->SetName(name);
-    return sheet;
-  }
-
-  void Name(const std::string& name, const std::string& refersTo) {
-    host_->Book().DefineName(name, refersTo);
-  }
-
-  /// Puts the frame of a chart on a sheet (points) and stores its definition, whose id is added.
-  void Chart(const excel::Ref<excel::Worksheet>& sheet, double left, double top, double width, double height,
-             const std::string& attributes, const std::string& content) {
-    if (!colCharts) {
-      oApplication = host_;
-      oWorkbook = host_->ActiveWorkbook();
-      RetrieveTableDefinitions();
-      RetrieveChartDefinitions();
-    }
-    const std::string id = "VEX_Chart" + std::to_string(++charts_);
-    const auto frame = sheet->ChartObjects()->Add(left, top, width, height);
-    sheet->Shapes()->Item(frame->Name())->SetAlternativeText(id);
-    frame->Chart()->ChartArea()->Interior()->SetColorIndex(excel::xlColorIndexNone);
-    auto document = NewXMLDocument();
-    if (!document.loadXML("<chart id=\"" + id + "\" name=\"Chart" + std::to_string(charts_) + "\" " +
-                          attributes + ">" + content + "</chart>")) {
-      throw std::runtime_error("a definition that doesn't parse: " + content);
-    }
-    SaveChartDefinition(document);
-  }
-
-  /// The comment box of the last chart, at its top right corner.
-  void Comment(const excel::Ref<excel::Worksheet>& sheet, double right, double top, const std::string& text) {
-    const auto box =
-        sheet->Shapes()->AddTextbox(excel::msoTextOrientationHorizontal, right - 5, top + 5, 180, 120);
-    box->SetAlternativeText("VEX_Chart" + std::to_string(charts_));
-    box->TextFrame()->Characters()->SetText(text);
-  }
-
-  void Finish(const std::string& path) {
-    ResetRunVariables();
-    host_->Book().AllSheets().front()->object->Activate();
-    CPlotsmithController().RefreshPlotsmithData(host_, "make_examples", "");
-    for (const std::string& message : desktop_->Messages()) std::cerr << path << ": " << message << '\n';
-    host_->Book().Save(path);
-  }
-
- private:
-  std::shared_ptr<cli::ConsoleDesktop> desktop_;
-  std::shared_ptr<xlsx::Application> host_;
-  int sheets_ = 0;
-  int charts_ = 0;
-};
-
-void Fill(excel::Worksheet& sheet, int row, const std::vector<Variant>& values) {
-  int column = 1;
-  for (const Variant& value : values) sheet.SetCellValueAt(row, column++, value);
-}
-
-std::string Columns(const std::string& element, const std::string& headingsIn,
-                    std::initializer_list<const char*> names) {
-  std::string xml = "<" + element + (headingsIn.empty() ? "" : " headings-in=\"" + headingsIn + "\"") + ">";
-  for (const char* name : names) xml += std::string("<column name=\"") + name + "\"/>";
-  return xml + "</" + element + ">";
-}
-
-std::string Axes(const std::string& label, const std::string& value) {
-  const auto axis = [](const char* type, const std::string& text) {
-    return text.empty() ? ""
-                        : std::string("<axis type=\"") + type + "\" label=\"" + text + "\" sticky=\"no\"/>";
-  };
-  return "<axes>" + axis("label", label) + axis("value", value) + "</axes>";
-}
-
-std::string Settings(std::initializer_list<const char*> names,
-                     const std::string& element = "dynamic-attributes") {
-  std::string xml = "<" + element + ">";
-  for (const char* name : names) xml += std::string("<attribute setting=\"") + name + "\"/>";
-  return xml + "</" + element + ">";
-}
-
-std::string Labels(const std::string& show) {
-  return "<data-labels><data-label show=\"" + show + "\"/></data-labels>";
-}
+using namespace plotsmith::examples;
 
 /// A range table, marked by its name: sales of a bicycle maker, a row for each quarter, region and line.
 void MakeSales(const std::string& path) {
@@ -316,8 +204,8 @@ void MakeInvestments(const std::string& path) {
   sheet->Range("$D$4", "$D$" + std::to_string(row))->SetNumberFormat("0.0");
   book.Name("VEX_TableRange_Investments", "Investments!$A$1:$E$" + std::to_string(row));
 
-  // the bucket table belongs to the other by its headings
   const auto charts = book.Sheet("Charts");
+  // the bucket table belongs to the other by its headings
   const auto targets = book.Sheet("Targets");
   targets->SetCellValueAt(1, 1, "Targets 2026");
   targets->SetCellValueAt(2, 1, "millions of euros");

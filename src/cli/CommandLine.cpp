@@ -4,7 +4,6 @@
 #include <exception>
 #include <set>
 
-#include "cli/Command.h"
 #include "xlsx/PackageError.h"
 
 namespace plotsmith::cli {
@@ -13,12 +12,12 @@ namespace {
 constexpr const char* kDescription =
     "Plotsmith rebuilds the charts of an Excel workbook from its tables, without Excel.\n"
     "Tables are found by their names (VEX_TableRange..., VEX_SB...) or as sheets Data1 to Data5;\n"
-    "the charts' definitions travel inside the workbook.";
+    "the charts' definitions travel inside the workbook. Without -o the workbook itself is replaced,\n"
+    "in one step: it is always whole.";
 
 constexpr const char* kFooter =
     "Exit codes: 0 done, 1 done but Plotsmith had something to say, 2 wrong usage,\n"
-    "3 the workbook could not be read or written. Without -o the workbook itself is replaced,\n"
-    "in one step: it is always whole.";
+    "3 the workbook could not be read or written, and nothing was changed.";
 
 /// A number format or a value may look like an option ("-0.0", "-h:mm"): behind the verb `format`, what isn't
 /// one of the options in full goes behind "--".
@@ -42,31 +41,30 @@ std::vector<std::string> WithFormatsBehindTheOptions(std::vector<std::string> ar
 
 }  // namespace
 
-int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
-  CLI::App app(kDescription, "plotsmith");
+CommandLine::CommandLine() : app(kDescription, "plotsmith"), commands(MakeCommands()) {
   app.footer(kFooter);
   app.require_subcommand(1);
   app.fallthrough();
   app.set_version_flag("--version", std::string("plotsmith ") + PLOTSMITH_VERSION);
-  GlobalOptions options;
   app.add_option("--host-version", options.hostVersion,
                  "Behave as Plotsmith does in this version of Excel; up to 11 and above 11 differ")
+      ->type_name("NUMBER")
       ->capture_default_str();
   app.add_flag("--journal", options.journal,
                "Write down each change to the workbook as it is made, a line each");
   app.add_flag("--force", options.force, "Also write a workbook that another program holds open");
+  for (const auto& command : commands) verbs.push_back(command->Declare(app));
+}
 
-  auto commands = MakeCommands();
-  std::vector<CLI::App*> declared;
-  for (const auto& command : commands) declared.push_back(command->Declare(app));
-
+int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
+  CommandLine line;
   const auto fail = [&](const std::string& sentence, int code) {
     streams.err << "plotsmith: " << sentence << '\n';
     return code;
   };
   const auto run = [&] {
-    for (std::size_t i = 0; i < commands.size(); ++i) {
-      if (declared[i]->parsed()) return commands[i]->Run(options, streams);
+    for (std::size_t i = 0; i < line.commands.size(); ++i) {
+      if (line.verbs[i]->parsed()) return line.commands[i]->Run(line.options, streams);
     }
     return exit_code::kUsage;
   };
@@ -78,10 +76,11 @@ int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
   try {
     arguments = WithFormatsBehindTheOptions(std::move(arguments));
     std::reverse(arguments.begin(), arguments.end());  // as the parser wants them
-    app.parse(arguments);
+    line.app.parse(arguments);
     return delivered(run());
   } catch (const CLI::ParseError& e) {
-    if (e.get_exit_code() == 0) return delivered(app.exit(e, streams.out, streams.err));  // help and version
+    if (e.get_exit_code() == 0)
+      return delivered(line.app.exit(e, streams.out, streams.err));  // help and version
     return fail(std::string(e.what()) + " (try plotsmith --help)", exit_code::kUsage);
   } catch (const CommandError& e) {
     return fail(e.what(), e.ExitCode());

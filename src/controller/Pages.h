@@ -5,6 +5,7 @@
 /// The wizard's pages as the controller sees them.
 namespace plotsmith {
 
+/// One page of the wizard.
 class Page {
  public:
   virtual ~Page() = default;
@@ -17,6 +18,7 @@ class Page {
   virtual bool ValidSelections() = 0;
 };
 
+/// The pages by the names of their forms.
 enum class FormName {
   frmPSSelectAction,
   frmPSSelectTable,

@@ -15,8 +15,10 @@
 namespace plotsmith::dom {
 
 class IXMLDOMElement;
+/// What a query finds, in document order.
 using IXMLDOMNodeList = std::vector<IXMLDOMElement>;
 
+/// A node of a document: an element, a text, or the document itself.
 class IXMLDOMNode {
  public:
   IXMLDOMNode() = default;
@@ -52,6 +54,7 @@ class IXMLDOMNode {
   friend class IXMLDOMDocument2;
 };
 
+/// An element, with its attributes.
 class IXMLDOMElement : public IXMLDOMNode {
  public:
   using IXMLDOMNode::IXMLDOMNode;
@@ -74,11 +77,14 @@ class IXMLDOMElement : public IXMLDOMNode {
 class IXMLDOMDocument2 : public IXMLDOMNode {
  public:
   IXMLDOMDocument2() = default;  ///< Nothing; see Create
+  /// A new document without a root.
   static IXMLDOMDocument2 Create();
 
   /// False, with the document left empty, if `xml` isn't well-formed.
   bool loadXML(std::string_view xml);
+  /// The root; Nothing in an empty document.
   IXMLDOMElement documentElement() const;
+  /// A node of this document that is in its tree only when it has been appended.
   IXMLDOMElement createElement(const char* name) const;
   IXMLDOMNode createTextNode(std::string_view text) const;
 

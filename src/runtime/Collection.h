@@ -30,6 +30,7 @@ class Collection {
   T& Item(std::string_view key) { return items_[Position(key)]; }
   const T& Item(std::string_view key) const { return items_[Position(key)]; }
 
+  /// Error 5 if there is no such key.
   void Remove(std::string_view key) {
     const std::size_t position = Position(key);
     items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(position));

@@ -17,6 +17,7 @@ class Dictionary {
   Dictionary(Dictionary&&) = default;
   Dictionary& operator=(Dictionary&&) = default;
 
+  /// A key with its item.
   struct Entry {
     std::string key;
     Variant item;

@@ -35,6 +35,7 @@ class Ref {
   std::shared_ptr<T> object_;
 };
 
+/// A new object.
 template <class T, class... Args>
 Ref<T> MakeRef(Args&&... args) {
   return Ref<T>(std::make_shared<T>(std::forward<Args>(args)...));

@@ -26,17 +26,17 @@ class RuntimeError : public std::exception {
 
 /// Error numbers of the language and of Excel that the system and the hosts raise.
 namespace error {
-inline constexpr int kInvalidCall = 5;
-inline constexpr int kOverflow = 6;
-inline constexpr int kOutOfMemory = 7;
-inline constexpr int kSubscript = 9;
-inline constexpr int kTypeMismatch = 13;
-inline constexpr int kObjectNotSet = 91;
-inline constexpr int kInvalidNull = 94;
-inline constexpr int kNoSuchMember = 438;
-inline constexpr int kAutomation = 440;
-inline constexpr int kKeyExists = 457;
-inline constexpr int kApplication = 1004;
+inline constexpr int kInvalidCall = 5;     ///< Invalid procedure call or argument
+inline constexpr int kOverflow = 6;        ///< Overflow
+inline constexpr int kOutOfMemory = 7;     ///< Out of memory
+inline constexpr int kSubscript = 9;       ///< Subscript out of range
+inline constexpr int kTypeMismatch = 13;   ///< Type mismatch
+inline constexpr int kObjectNotSet = 91;   ///< Object variable or With block variable not set
+inline constexpr int kInvalidNull = 94;    ///< Invalid use of Null
+inline constexpr int kNoSuchMember = 438;  ///< Object doesn't support this property or method
+inline constexpr int kAutomation = 440;    ///< Automation error
+inline constexpr int kKeyExists = 457;  ///< This key is already associated with an element of this collection
+inline constexpr int kApplication = 1004;  ///< Application-defined or object-defined error
 }  // namespace error
 
 /// The exception being handled, as a run-time error. Call it inside a catch block only.

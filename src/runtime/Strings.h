@@ -14,15 +14,18 @@ std::string UCase(std::string_view text);
 /// The same into a buffer that the caller keeps, for hot loops; the view is into `scratch` or is `text`
 /// itself.
 std::string_view UCase(std::string_view text, std::string& scratch);
+/// Whether both are the same in upper case.
 bool EqualsIgnoreCase(std::string_view a, std::string_view b);
 
 /// Without the blanks (U+0020 only) at both ends.
 std::string_view Trim(std::string_view text);
 
+/// In UTF-16 units.
 std::size_t Len(std::string_view text);
 /// `length` units from `start`, which counts from 1; error 5 before that.
 std::string Mid(std::string_view text, std::size_t start, std::size_t length);
 
+/// What isn't UTF-8 becomes U+FFFD; halves of surrogate pairs pass both ways.
 std::u16string ToUtf16(std::string_view text);
 std::string ToUtf8(std::u16string_view text);
 /// Reads one character and moves behind it; what isn't UTF-8 comes out as U+FFFD, byte by byte. Halves of

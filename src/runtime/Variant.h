@@ -12,9 +12,11 @@ namespace plotsmith::runtime {
 /// Null is error 94 wherever a definite value is wanted, and what doesn't fit is error 6.
 class Variant {
  public:
+  /// What a variable holds that nothing was put into, and a blank cell.
   struct Empty {
     bool operator==(const Empty&) const = default;
   };
+  /// No definite value, such as the font of a text in several fonts.
   struct Null {
     bool operator==(const Null&) const = default;
   };
@@ -58,12 +60,16 @@ class Variant {
   std::variant<Empty, Null, bool, std::int32_t, double, Date, Error, std::string> value_;
 };
 
+/// Null, ready made.
 inline const Variant kNull = Variant::Null{};
 
+/// Empty is "", a Boolean "True" or "False", a number as NumberText writes it. Error 13 for an error value.
 std::string CStr(const Variant& value);
+/// Empty is 0, True is -1; a text goes by ParseNumber.
 double CDbl(const Variant& value);
 /// Rounds halves to the even neighbour.
 std::int32_t CLng(const Variant& value);
+/// A number is True unless it is 0; a text says True or False, or is a number.
 bool CBool(const Variant& value);
 
 /// True for what CDbl converts, but for dates, which count as not numeric.

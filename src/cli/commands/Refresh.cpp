@@ -13,8 +13,8 @@ constexpr const char* kHostName = "plotsmith";
 CLI::App* RefreshCommand::Declare(CLI::App& app) {
   CLI::App* verb = app.add_subcommand("refresh", "Rebuild the charts of a workbook from its tables");
   verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm)")->required();
-  verb->add_option("--table", table_, "Only the charts that hang on the table of this id");
-  verb->add_option("-o,--output", output_, "Write to this file and leave BOOK as it is");
+  verb->add_option("--table", table_, "Only the charts that hang on the table of this id")->type_name("ID");
+  verb->add_option("-o,--output", output_, "Write to this file and leave BOOK as it is")->type_name("FILE");
   return verb;
 }
 

@@ -72,8 +72,8 @@ CLI::App* RenameColumnsCommand::Declare(CLI::App& app) {
       "Carry new column names of a table, which its headings bear already, into its charts");
   verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm)")->required();
   verb->add_option("OLD=NEW", renamings_, "A column's name so far, and its new name")->required();
-  verb->add_option("--table", table_, "The id of the table")->required();
-  verb->add_option("-o,--output", output_, "Write to this file and leave BOOK as it is");
+  verb->add_option("--table", table_, "The id of the table")->required()->type_name("ID");
+  verb->add_option("-o,--output", output_, "Write to this file and leave BOOK as it is")->type_name("FILE");
   return verb;
 }
 

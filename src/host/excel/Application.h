@@ -25,12 +25,15 @@ class Application {
   virtual bool Interactive() = 0;
   /// Fails while a cell or an object is being edited.
   virtual void SetInteractive(bool value) = 0;
+  /// XlCalculation.
   virtual std::int32_t Calculation() = 0;
   virtual void SetCalculation(std::int32_t value) = 0;
+  /// Whether the host asks before it deletes a sheet.
   virtual void SetDisplayAlerts(bool value) = 0;
 
   /// Calls a macro of the host by name; error 1004 if there is none.
   virtual void Run(std::string_view macro, const std::vector<Variant>& arguments) = 0;
+  /// The font that new workbooks have.
   virtual std::string StandardFont() = 0;
   /// Points.
   virtual double StandardFontSize() = 0;

@@ -8,6 +8,7 @@ class AxisTitle;
 class Border;
 class TickLabels;
 
+/// One axis of a chart, of the primary group.
 class Axis {
  public:
   virtual ~Axis() = default;
@@ -24,6 +25,7 @@ class Axis {
   virtual void SetMinimumScale(double value) = 0;
   virtual double MaximumScale() = 0;
   virtual void SetMaximumScale(double value) = 0;
+  /// In units of the axis; the host then no longer chooses it.
   virtual void SetMajorUnit(double value) = 0;
   virtual void SetMajorUnitIsAuto(bool value) = 0;
   /// Where the other axis crosses this one (XlAxisCrosses).

@@ -6,6 +6,7 @@ namespace plotsmith::excel {
 
 class Font;
 
+/// The title along an axis.
 class AxisTitle {
  public:
   virtual ~AxisTitle() = default;

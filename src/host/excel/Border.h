@@ -4,6 +4,7 @@
 
 namespace plotsmith::excel {
 
+/// An outline, or a line.
 class Border {
  public:
   virtual ~Border() = default;

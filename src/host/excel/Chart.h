@@ -14,6 +14,7 @@ class PlotArea;
 class SeriesCollection;
 class Shapes;
 
+/// A chart, on a sheet or a sheet of its own.
 class Chart {
  public:
   virtual ~Chart() = default;

@@ -8,6 +8,7 @@ class Border;
 class ChartFillFormat;
 class Interior;
 
+/// The whole of a chart: its ground and its frame.
 class ChartArea {
  public:
   virtual ~ChartArea() = default;

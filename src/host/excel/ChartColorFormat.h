@@ -4,6 +4,7 @@
 
 namespace plotsmith::excel {
 
+/// A colour of a chart's filling.
 class ChartColorFormat {
  public:
   virtual ~ChartColorFormat() = default;

@@ -4,6 +4,7 @@
 
 namespace plotsmith::excel {
 
+/// The title of a chart.
 class ChartTitle {
  public:
   virtual ~ChartTitle() = default;

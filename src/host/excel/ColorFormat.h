@@ -4,6 +4,7 @@
 
 namespace plotsmith::excel {
 
+/// A colour of a shape's filling or line.
 class ColorFormat {
  public:
   virtual ~ColorFormat() = default;

@@ -7,6 +7,7 @@ namespace plotsmith::excel {
 class DataLabel;
 class Font;
 
+/// All labels of a series; what is set, is set for each.
 class DataLabels {
  public:
   virtual ~DataLabels() = default;
@@ -19,6 +20,7 @@ class DataLabels {
   virtual Variant AutoScaleFont() = 0;
   /// What the labels show (XlDataLabelsType); Null where they differ or it is none of these.
   virtual Variant Type() = 0;
+  /// XlHAlign and XlVAlign.
   virtual void SetHorizontalAlignment(std::int32_t alignment) = 0;
   virtual void SetVerticalAlignment(std::int32_t alignment) = 0;
   /// Degrees from -90 to 90, or one of xlHorizontal, xlUpward, xlDownward, xlVertical.

@@ -15,6 +15,7 @@ class Font {
   virtual void SetSize(const Variant& size) = 0;
   /// "Regular", "Bold", "Italic" or "Bold Italic".
   virtual void SetFontStyle(const Variant& style) = 0;
+  /// Red + 256 green + 65536 blue.
   virtual void SetColor(const Variant& color) = 0;
   // What is read is Null where the text's stretches differ.
   virtual Variant Name() = 0;

@@ -13,6 +13,7 @@ class Interior {
   /// or xlColorIndexAutomatic.
   virtual std::int32_t ColorIndex() = 0;
   virtual void SetColorIndex(std::int32_t index) = 0;
+  /// Red + 256 green + 65536 blue; so for the pattern's colour below.
   virtual std::int32_t Color() = 0;
   virtual void SetColor(std::int32_t color) = 0;
   /// XlPattern.
@@ -20,6 +21,7 @@ class Interior {
   virtual void SetPattern(std::int32_t pattern) = 0;
   virtual std::int32_t PatternColor() = 0;
   virtual void SetPatternColor(std::int32_t color) = 0;
+  /// Of the pattern's lines, as ColorIndex of their ground.
   virtual std::int32_t PatternColorIndex() = 0;
   virtual void SetPatternColorIndex(std::int32_t index) = 0;
 };

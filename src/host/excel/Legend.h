@@ -7,6 +7,7 @@ namespace plotsmith::excel {
 class Font;
 class LegendEntries;
 
+/// The built-in legend of a chart.
 class Legend {
  public:
   virtual ~Legend() = default;

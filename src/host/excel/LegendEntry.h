@@ -4,9 +4,11 @@
 
 namespace plotsmith::excel {
 
+/// One entry of a legend.
 class LegendEntry {
  public:
   virtual ~LegendEntry() = default;
+  /// Takes the entry out of the legend; its series stays.
   virtual void Delete() = 0;
 };
 

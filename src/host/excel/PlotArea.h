@@ -7,6 +7,7 @@ namespace plotsmith::excel {
 class Border;
 class Interior;
 
+/// Where a chart draws, inside of title, legend and axis titles.
 class PlotArea {
  public:
   virtual ~PlotArea() = default;

@@ -10,6 +10,7 @@ class Border;
 class DataLabels;
 class Interior;
 
+/// One series of a chart.
 class Series {
  public:
   virtual ~Series() = default;
@@ -26,6 +27,7 @@ class Series {
   virtual std::string Name() = 0;
   /// "=SERIES(name,categories,values,order)", each as it stands in the chart.
   virtual std::string Formula() = 0;
+  /// XlChartType.
   virtual std::int32_t ChartType() = 0;
   /// A type of its own for this series. Error 1004 for one that can't stand beside the others'.
   virtual void SetChartType(std::int32_t type) = 0;
@@ -33,6 +35,7 @@ class Series {
   virtual void SetHasDataLabels(bool value) = 0;
   /// The values, one for each point; Empty where there is none.
   virtual std::vector<Variant> Values() = 0;
+  /// A reference in R1C1 style, or in A1 style.
   virtual void SetBubbleSizes(const Variant& reference) = 0;
   virtual Ref<excel::Interior> Interior() = 0;
   virtual Ref<excel::Border> Border() = 0;

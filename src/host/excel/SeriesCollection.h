@@ -6,6 +6,7 @@ namespace plotsmith::excel {
 
 class Series;
 
+/// The series of a chart, in plot order.
 class SeriesCollection {
  public:
   virtual ~SeriesCollection() = default;

@@ -15,10 +15,13 @@ class Shape {
  public:
   virtual ~Shape() = default;
 
+  /// MsoShapeType.
   virtual std::int32_t Type() = 0;
   virtual std::string Name() = 0;
+  /// The text that is read to those who can't see the shape; it ties charts to their definitions.
   virtual std::string AlternativeText() = 0;
   virtual void SetAlternativeText(std::string_view text) = 0;
+  /// Points from the corner of the sheet, or of the chart that the shape is drawn on.
   virtual double Left() = 0;
   virtual double Top() = 0;
   virtual double Width() = 0;

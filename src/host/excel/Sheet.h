@@ -12,6 +12,7 @@ class Sheet {
   virtual std::string Name() = 0;
   /// Error 1004 for a name that is taken, or that a sheet can't have.
   virtual void SetName(std::string_view name) = 0;
+  /// XlSheetVisibility.
   virtual std::int32_t Visible() = 0;
   virtual void SetVisible(std::int32_t value) = 0;
   virtual void Activate() = 0;

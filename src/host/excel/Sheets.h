@@ -7,6 +7,7 @@ namespace plotsmith::excel {
 class Sheet;
 class Worksheet;
 
+/// The sheets of a workbook in the order of their tabs, chart sheets among them.
 class Sheets {
  public:
   virtual ~Sheets() = default;

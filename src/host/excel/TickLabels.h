@@ -4,6 +4,7 @@
 
 namespace plotsmith::excel {
 
+/// The labels along an axis.
 class TickLabels {
  public:
   virtual ~TickLabels() = default;

@@ -10,12 +10,15 @@ class Sheet;
 class Sheets;
 class Worksheets;
 
+/// A workbook, open in the host.
 class Workbook {
  public:
   virtual ~Workbook() = default;
 
   virtual Ref<excel::Application> Application() = 0;
+  /// Whether sheets can be neither added nor removed.
   virtual bool ProtectStructure() = 0;
+  /// Whether the workbook is shared.
   virtual bool MultiUserEditing() = 0;
   virtual Ref<Sheet> ActiveSheet() = 0;
   /// All sheets in the order of their tabs, chart sheets among them.

@@ -9,6 +9,7 @@ class ChartObjects;
 class Range;
 class Shapes;
 
+/// A sheet with cells.
 class Worksheet : public Sheet {
  public:
   /// The hot road to one cell: none of these makes an object. Outside of the sheet: error 1004.

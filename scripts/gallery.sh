@@ -1,0 +1,42 @@
+#!/bin/sh
+# Makes docs/gallery.md and the pictures in docs/images anew, through LibreOffice.
+set -eu
+cd "$(dirname "$0")/.."
+for needed in soffice pdftoppm; do
+  command -v "$needed" >/dev/null || { echo "gallery.sh needs $needed (Debian: libreoffice-calc, poppler-utils)" >&2; exit 2; }
+done
+scripts/install-dependencies.sh
+cmake --preset release >/dev/null
+cmake --build build --target plotsmith make_gallery
+out=build/gallery
+images=docs/images
+rm -rf "$out" "$images/gallery"
+mkdir -p "$out" "$images/gallery"
+
+# Prints each sheet of a workbook on a page of its own size.
+print() {
+  soffice "-env:UserInstallation=file://$PWD/$out/profile" --headless \
+    --convert-to 'pdf:calc_pdf_Export:{"SinglePageSheets":{"type":"boolean","value":"true"}}' --outdir "$out" "$1" \
+    >"$out/soffice.log" 2>&1 || { cat "$out/soffice.log" >&2; exit 1; }
+}
+# Takes the top left corner of a page: PDF PAGE DPI WIDTH HEIGHT PICTURE, in pixels.
+take() {
+  pdftoppm -png -r "$3" -x 0 -y 0 -W "$4" -H "$5" -f "$2" -l "$2" -singlefile "$out/$1.pdf" "$images/$6"
+}
+
+# A chart whose table is gone is part of the gallery; the refresh says so.
+build/examples/make_gallery "$out" >"$out/pages"
+print "$out/gallery.xlsx"
+while read -r page dpi name; do
+  take gallery "$page" "$dpi" 300 174 "gallery/$name"
+done <"$out/pages"
+cp "$out/gallery.md" docs/gallery.md
+
+# What the README shows: the sheets Charts of two examples.
+for book in bicycle-sales investments; do
+  build/plotsmith refresh "examples/$book.xlsx" -o "$out/$book.xlsx"
+  print "$out/$book.xlsx"
+done
+take bicycle-sales 2 60 650 415 bicycle-sales
+take investments 2 60 810 340 investments
+du -ch "$images"/*.png "$images"/gallery/*.png | tail -n 1

@@ -1,0 +1,84 @@
+#include <algorithm>
+
+#include "cli/manual/Manual.h"
+
+namespace plotsmith::cli {
+namespace {
+
+/// A text on one line, with nothing in it that man(7) takes for its own.
+std::string Plain(const std::string& text) {
+  std::string plain;
+  for (const char c : text) {
+    switch (c) {
+      case '\\':
+        plain += "\\e";
+        break;
+      case '-':
+        plain += "\\-";
+        break;
+      case '\'':
+        plain += "\\(aq";
+        break;
+      case '\n':
+        plain += ' ';
+        break;
+      default:
+        plain += c;
+    }
+  }
+  return plain.starts_with('.') ? "\\&" + plain : plain;
+}
+
+std::string Bold(const std::string& text) { return "\\fB" + Plain(text) + "\\fR"; }
+std::string Italic(const std::string& text) { return "\\fI" + Plain(text) + "\\fR"; }
+
+/// "-o, --output FILE"
+std::string Heading(const OptionView& option) {
+  if (option.positional) return Italic(option.names.front());
+  std::string text;
+  for (const std::string& name : option.names) text += (text.empty() ? "" : ", ") + Bold(name);
+  return option.value.empty() ? text : text + " " + Italic(option.value);
+}
+
+/// "BOOK [--table ID]"
+std::string Usage(const std::vector<OptionView>& options) {
+  std::string usage;
+  for (const OptionView& option : options) {
+    std::string text = option.positional ? Italic(option.names.front()) : Bold(option.names.front());
+    if (!option.positional && !option.value.empty()) text += " " + Italic(option.value);
+    // "FORMAT VALUE" names its two by itself
+    if (option.positional && option.repeated && text.find(' ') == std::string::npos) text += "...";
+    usage += " " + (option.required ? text : "[" + text + "]");
+  }
+  return usage;
+}
+
+std::string Entries(const std::vector<OptionView>& options) {
+  std::string text;
+  for (const OptionView& option : options) {
+    text += ".TP\n" + Heading(option) + "\n" + Plain(option.description) + ".\n";
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string ManualPage(const CommandLine& line) {
+  const std::string name = line.app.get_name();
+  std::string page = ".\\\" Made from the command's own table of options.\n.TH PLOTSMITH 1 \"\" \"" + name +
+                     " " + PLOTSMITH_VERSION + "\" \"User Commands\"\n.SH NAME\n" + name +
+                     " \\- rebuild the charts of Excel workbooks from their tables\n.SH SYNOPSIS\n";
+  for (const CLI::App* verb : line.verbs) {
+    page += Bold(name) + " " + Bold(verb->get_name()) + Usage(OptionsOf(*verb)) + "\n.br\n";
+  }
+  page += ".SH DESCRIPTION\n" + Plain(line.app.get_description()) + "\n.SH COMMANDS\n";
+  for (const CLI::App* verb : line.verbs) {
+    page +=
+        ".SS " + verb->get_name() + "\n" + Plain(verb->get_description()) + ".\n" + Entries(OptionsOf(*verb));
+  }
+  page += ".SH OPTIONS\nThey hold for every command.\n" + Entries(OptionsOf(line.app));
+  page += ".SH EXIT STATUS\n" + Plain(line.app.get_footer()) + "\n";
+  return page;
+}
+
+}  // namespace plotsmith::cli
