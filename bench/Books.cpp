@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "tests/support/PlainBook.h"
-#include "xlsx/Package.h"
+#include "xlsx/package/Package.h"
 
 namespace plotsmith::bench {
 namespace {

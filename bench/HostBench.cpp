@@ -6,12 +6,12 @@
 #include "bench/TemporaryBook.h"
 #include "host/excel/Excel.h"
 #include "xlsx/Application.h"
-#include "xlsx/NumberFormat.h"
-#include "xlsx/Package.h"
-#include "xlsx/RowShifts.h"
-#include "xlsx/SheetScanner.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/numberformat/NumberFormat.h"
+#include "xlsx/package/Package.h"
+#include "xlsx/sheet/RowShifts.h"
+#include "xlsx/sheet/SheetScanner.h"
 
 namespace plotsmith::xlsx {
 namespace {

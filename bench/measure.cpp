@@ -17,7 +17,7 @@
 #include <unistd.h>
 #include <vector>
 
-#include "xlsx/Archive.h"
+#include "xlsx/package/Archive.h"
 
 namespace {
 

@@ -5,9 +5,9 @@
 #include <iostream>
 #include <string>
 
-#include "xlsx/Package.h"
-#include "xlsx/PackageError.h"
-#include "xlsx/Xml.h"
+#include "xlsx/package/Package.h"
+#include "xlsx/package/PackageError.h"
+#include "xlsx/package/Xml.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Prints the advance widths of a TrueType font, as src/xlsx/TextMetrics.cpp holds them.
+"""Prints the advance widths of a TrueType font, as src/xlsx/drawing/TextMetrics.cpp holds them.
 
 usage: font-widths.py FONT.ttf
 Characters U+0020 to U+007E and U+00A0 to U+00FF, in thousandths of an em, then the heights of a line.

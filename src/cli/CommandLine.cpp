@@ -4,7 +4,7 @@
 #include <exception>
 #include <set>
 
-#include "xlsx/PackageError.h"
+#include "xlsx/package/PackageError.h"
 
 namespace plotsmith::cli {
 namespace {

@@ -12,7 +12,7 @@
 #include "metadata/TableDefinitions.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Variant.h"
-#include "xlsx/PackageError.h"
+#include "xlsx/package/PackageError.h"
 
 namespace plotsmith::cli {
 namespace {

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "host/excel/Range.h"
-#include "xlsx/Reference.h"
+#include "xlsx/sheet/Reference.h"
 
 namespace plotsmith::xlsx {
 

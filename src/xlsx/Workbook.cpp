@@ -8,18 +8,18 @@
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "xlsx/Application.h"
-#include "xlsx/Chart.h"
-#include "xlsx/ChartPart.h"
-#include "xlsx/DefaultTheme.h"
 #include "xlsx/DefinedNames.h"
-#include "xlsx/FreeNumber.h"
 #include "xlsx/Limits.h"
-#include "xlsx/Namespaces.h"
-#include "xlsx/SelectedTab.h"
-#include "xlsx/SharedStrings.h"
 #include "xlsx/Sheets.h"
 #include "xlsx/Worksheet.h"
-#include "xlsx/Xml.h"
+#include "xlsx/chart/Chart.h"
+#include "xlsx/chart/ChartPart.h"
+#include "xlsx/drawing/DefaultTheme.h"
+#include "xlsx/package/FreeNumber.h"
+#include "xlsx/package/Namespaces.h"
+#include "xlsx/package/Xml.h"
+#include "xlsx/sheet/SelectedTab.h"
+#include "xlsx/sheet/SharedStrings.h"
 
 namespace plotsmith::xlsx {
 
@@ -346,7 +346,7 @@ Ref<excel::Chart> Workbook::ActiveChart() {
   const auto drawing = package_.FindRelationshipOfType(sheets_[activeSheet_]->part, "drawing");
   const auto chart = drawing ? package_.FindRelationshipOfType(drawing->target, "chart") : std::nullopt;
   if (!chart) return nullptr;
-  return std::make_shared<xlsx::Chart>(Chart(chart->target), std::weak_ptr<Shape>());
+  return std::make_shared<xlsx::Chart>(Chart(chart->target), std::weak_ptr<SheetShape>());
 }
 
 void Workbook::RaiseDamage(const PackageError& error) {

@@ -11,13 +11,13 @@
 #include <vector>
 
 #include "host/excel/Excel.h"
-#include "xlsx/CellStore.h"
 #include "xlsx/Journal.h"
-#include "xlsx/Package.h"
-#include "xlsx/PackageError.h"
-#include "xlsx/RowShifts.h"
-#include "xlsx/Styles.h"
-#include "xlsx/Theme.h"
+#include "xlsx/drawing/Theme.h"
+#include "xlsx/package/Package.h"
+#include "xlsx/package/PackageError.h"
+#include "xlsx/sheet/CellStore.h"
+#include "xlsx/sheet/RowShifts.h"
+#include "xlsx/sheet/Styles.h"
 
 namespace plotsmith::xlsx {
 

@@ -7,16 +7,16 @@
 
 #include "runtime/RuntimeError.h"
 #include "xlsx/Application.h"
-#include "xlsx/Drawing.h"
-#include "xlsx/EnteredValue.h"
-#include "xlsx/ErrorValues.h"
 #include "xlsx/Limits.h"
-#include "xlsx/Namespaces.h"
 #include "xlsx/Range.h"
-#include "xlsx/Shape.h"
-#include "xlsx/SheetFormulas.h"
-#include "xlsx/SheetSplice.h"
-#include "xlsx/Xml.h"
+#include "xlsx/SheetDrawing.h"
+#include "xlsx/SheetShape.h"
+#include "xlsx/package/Namespaces.h"
+#include "xlsx/package/Xml.h"
+#include "xlsx/sheet/EnteredValue.h"
+#include "xlsx/sheet/ErrorValues.h"
+#include "xlsx/sheet/SheetFormulas.h"
+#include "xlsx/sheet/SheetSplice.h"
 
 namespace plotsmith::xlsx {
 
@@ -295,14 +295,14 @@ Ref<excel::Shapes> Worksheet::Shapes() { return MakeShapes(*this); }
 
 Ref<excel::ChartObjects> Worksheet::ChartObjects() { return MakeChartObjects(*this); }
 
-Drawing* Worksheet::FindDrawing() {
+SheetDrawing* Worksheet::FindDrawing() {
   if (!drawingSought_) {
     book_.Guarded([&] {
       const auto& package = book_.Package();
       const auto link = package.FindRelationshipOfType(Entry().part, "drawing");
       if (!link) return;
       try {
-        drawing_ = std::make_unique<Drawing>(*this, link->target);
+        drawing_ = std::make_unique<SheetDrawing>(*this, link->target);
       } catch (const PackageError& e) {
         // One drawing that can't be read is no reason to give the workbook up, unless it may hold a chart
         // that somebody looks for: whoever doesn't find it would take it for deleted.
@@ -315,8 +315,8 @@ Drawing* Worksheet::FindDrawing() {
   return drawing_.get();
 }
 
-Drawing& Worksheet::EnsureDrawing() {
-  if (Drawing* drawing = FindDrawing()) return *drawing;
+SheetDrawing& Worksheet::EnsureDrawing() {
+  if (SheetDrawing* drawing = FindDrawing()) return *drawing;
   if (drawingDamage_) {
     throw RuntimeError(runtime::error::kApplication, "The drawing can't be read: " + *drawingDamage_ + ".");
   }
@@ -328,7 +328,7 @@ Drawing& Worksheet::EnsureDrawing() {
   std::string text = xml::ToUtf8(package.Read(Entry().part));
   InsertDrawingLink(text, names.relationships, id);
   package.Replace(Entry().part, std::move(text));
-  drawing_ = std::make_unique<Drawing>(*this, part);
+  drawing_ = std::make_unique<SheetDrawing>(*this, part);
   return *drawing_;
 }
 

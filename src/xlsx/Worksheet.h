@@ -7,16 +7,16 @@
 #include <string_view>
 
 #include "host/excel/Worksheet.h"
-#include "xlsx/CellGrid.h"
-#include "xlsx/CellSort.h"
-#include "xlsx/Reference.h"
 #include "xlsx/Sheet.h"
-#include "xlsx/SheetGeometry.h"
-#include "xlsx/SheetScanner.h"
+#include "xlsx/sheet/CellGrid.h"
+#include "xlsx/sheet/CellSort.h"
+#include "xlsx/sheet/Reference.h"
+#include "xlsx/sheet/SheetGeometry.h"
+#include "xlsx/sheet/SheetScanner.h"
 
 namespace plotsmith::xlsx {
 
-class Drawing;
+class SheetDrawing;
 
 /// A worksheet. Its cells are read when the first one is asked for. A sheet whose cells are written is
 /// written whole, without what a cell had beside its value and style; so a sheet with formulas can't be. The
@@ -55,9 +55,9 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   void SortCells(const CellRange& range, const SortOptions& options);
   const SheetGeometry& Geometry();
   /// The sheet's drawing; null if it has none, or one without charts that can't be read.
-  Drawing* FindDrawing();
+  SheetDrawing* FindDrawing();
   /// The same, made if need be. Error 1004 if there is one that can't be read.
-  Drawing& EnsureDrawing();
+  SheetDrawing& EnsureDrawing();
 
   /// Brings formulas up to date with rows that moved on other sheets.
   void FollowShifts();
@@ -88,7 +88,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   std::optional<CellGrid> grid_;           ///< as changed; then nothing looks at contents_ any more
   bool gridChanged_ = false;
   std::optional<SheetGeometry> geometry_;
-  std::unique_ptr<Drawing> drawing_;
+  std::unique_ptr<SheetDrawing> drawing_;
   bool drawingSought_ = false;
   std::optional<std::string> drawingDamage_;  ///< why the sheet's drawing can't be read
 };

@@ -6,7 +6,7 @@
 #include "readback/ChartAppearance.h"
 #include "readback/ChartIdentity.h"
 #include "tests/support/HostTest.h"
-#include "xlsx/Shape.h"
+#include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith {
@@ -64,7 +64,7 @@ class ReadBackTest : public test::HostTest {
     return Summary(document);
   }
   static excel::Ref<excel::Chart> ChartOf(const excel::Ref<excel::Shape>& shape) {
-    return std::dynamic_pointer_cast<xlsx::Shape>(shape.shared())->Chart();
+    return std::dynamic_pointer_cast<xlsx::SheetShape>(shape.shared())->Chart();
   }
 };
 

@@ -7,7 +7,7 @@
 
 #include "cli/CommandLine.h"
 #include "tests/support/HostTest.h"
-#include "xlsx/PackageError.h"
+#include "xlsx/package/PackageError.h"
 
 namespace plotsmith {
 namespace {

@@ -30,6 +30,17 @@ const std::map<std::string, std::set<std::string>> kAllowed = {
      {"runtime", "dom", "host", "common", "metadata", "builder", "readback", "pages", "controller", "xlsx"}},
 };
 
+/// The folders that each folder of the embedded host may look into, itself not counted; "" holds the objects
+/// of the workbook, which stand above all of them and which shapes and charts have for parents.
+const std::map<std::string, std::set<std::string>> kAllowedInHost = {
+    {"package", {}},
+    {"numberformat", {}},
+    {"sheet", {"package", "numberformat"}},
+    {"drawing", {"package", ""}},
+    {"chart", {"package", "numberformat", "drawing", ""}},
+    {"", {"package", "numberformat", "sheet", "drawing", "chart"}},
+};
+
 template <class Visit>
 void ForEachSource(const Visit& visit) {
   for (const auto& entry : fs::recursive_directory_iterator(fs::path(PLOTSMITH_SOURCE_DIR) / "src")) {
@@ -55,6 +66,22 @@ TEST(HouseRulesTest, RoomsLookOnlyWhereTheyMay) {
     }
   });
   EXPECT_GT(files, 100);
+}
+
+TEST(HouseRulesTest, TheEmbeddedHostStandsInLayers) {
+  const std::regex include("#include \"xlsx/(?:([a-z]+)/)?([A-Za-z]+\\.h)\"");
+  ForEachSource([&](const std::string& room, const std::string& file, const std::string& text) {
+    if (room != "xlsx") return;
+    const std::string folder = fs::path(file).parent_path().lexically_relative("xlsx").string();
+    const std::string own = folder == "." ? "" : folder;
+    ASSERT_TRUE(kAllowedInHost.contains(own)) << "a folder that nobody has drawn: " << file;
+    for (auto it = std::sregex_iterator(text.begin(), text.end(), include); it != std::sregex_iterator();
+         ++it) {
+      const std::string other = (*it)[1];
+      if ((*it)[2] == "Limits.h") continue;  // constants, for all
+      EXPECT_TRUE(other == own || kAllowedInHost.at(own).contains(other)) << file << " includes " << (*it)[0];
+    }
+  });
 }
 
 TEST(HouseRulesTest, TheSystemCatchesOnlyInItsErrorBlocks) {

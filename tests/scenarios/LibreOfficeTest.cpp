@@ -3,8 +3,8 @@
 
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
-#include "xlsx/Package.h"
-#include "xlsx/Xml.h"
+#include "xlsx/package/Package.h"
+#include "xlsx/package/Xml.h"
 
 namespace plotsmith {
 namespace {

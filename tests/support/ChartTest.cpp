@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "runtime/RuntimeError.h"
-#include "xlsx/Shape.h"
+#include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith::test {
@@ -264,7 +264,7 @@ excel::Ref<excel::Chart> ChartTest::ChartOf(const std::string& sheet) {
 }
 
 excel::Ref<excel::Chart> ChartTest::ChartOf(const excel::Ref<excel::Shape>& shape) {
-  return std::dynamic_pointer_cast<xlsx::Shape>(shape.shared())->Chart();
+  return std::dynamic_pointer_cast<xlsx::SheetShape>(shape.shared())->Chart();
 }
 
 }  // namespace plotsmith::test

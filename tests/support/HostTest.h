@@ -9,8 +9,8 @@
 #include "cli/ConsoleDesktop.h"
 #include "tests/support/PlainBook.h"
 #include "xlsx/Application.h"
-#include "xlsx/Package.h"
 #include "xlsx/Workbook.h"
+#include "xlsx/package/Package.h"
 
 namespace plotsmith::test {
 

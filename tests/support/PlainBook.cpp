@@ -6,7 +6,7 @@
 #include <list>
 #include <stdexcept>
 
-#include "xlsx/Archive.h"
+#include "xlsx/package/Archive.h"
 
 namespace plotsmith::test {
 namespace {

@@ -6,11 +6,11 @@
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "tests/support/HostTest.h"
-#include "xlsx/Drawing.h"
-#include "xlsx/Namespaces.h"
-#include "xlsx/Shape.h"
+#include "xlsx/SheetDrawing.h"
+#include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
-#include "xlsx/Xml.h"
+#include "xlsx/package/Namespaces.h"
+#include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
 namespace {

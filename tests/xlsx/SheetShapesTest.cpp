@@ -1,6 +1,6 @@
 #include "tests/support/HostTest.h"
-#include "xlsx/ShapeEnumerations.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/drawing/ShapeEnumerations.h"
 
 namespace plotsmith::xlsx {
 namespace {

@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "runtime/Strings.h"
-#include "xlsx/NumberFormat.h"
-#include "xlsx/Xml.h"
+#include "xlsx/numberformat/NumberFormat.h"
+#include "xlsx/package/Xml.h"
 
 namespace plotsmith::cli {
 namespace {

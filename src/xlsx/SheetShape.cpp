@@ -1,0 +1,214 @@
+#include "xlsx/SheetShape.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "runtime/RuntimeError.h"
+#include "runtime/Strings.h"
+#include "xlsx/Limits.h"
+#include "xlsx/SheetDrawing.h"
+#include "xlsx/Worksheet.h"
+#include "xlsx/chart/Chart.h"
+#include "xlsx/drawing/DrawnShapes.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx {
+
+using excel::Ref;
+using runtime::RuntimeError;
+
+namespace {
+
+double Points(pugi::xml_node node) { return xml::ParseDouble(xml::Text(node)).value_or(0) / kEmuPerPoint; }
+
+/// A corner of an anchor. What lies in a cell can't lie behind its end.
+std::pair<double, double> PlaceOf(pugi::xml_node marker, const SheetGeometry& geometry) {
+  const auto edge = [&](std::string_view index, std::string_view offset, const GridLines& lines,
+                        std::int32_t most) {
+    const auto at = std::clamp(xml::ParseInteger(xml::Text(xml::Child(marker, index))).value_or(0), 0LL,
+                               static_cast<long long>(most) - 1);
+    const auto line = static_cast<std::int32_t>(at);
+    return lines.EdgeOf(line) + std::min(Points(xml::Child(marker, offset)), lines.SizeOf(line));
+  };
+  return {edge("col", "colOff", geometry.columns, limits::kColumns),
+          edge("row", "rowOff", geometry.rows, limits::kRows)};
+}
+
+void SetPlace(pugi::xml_node marker, const SheetGeometry& geometry, double x, double y) {
+  const auto set = [&](std::string_view index, std::string_view offset, const GridLines& lines,
+                       double points) {
+    const auto [line, rest] = lines.IndexAt(points);
+    xml::SetText(xml::Child(marker, index), std::to_string(line));
+    xml::SetText(xml::Child(marker, offset), std::to_string(Emu(rest)));
+  };
+  set("col", "colOff", geometry.columns, x);
+  set("row", "rowOff", geometry.rows, y);
+}
+
+double ExtentPoints(pugi::xml_node extent, const char* name) {
+  return xml::NumberAttribute(extent, name, 0) / kEmuPerPoint;
+}
+
+void SetPair(pugi::xml_node node, const char* first, const char* second, double x, double y) {
+  xml::SetAttribute(node, first, std::to_string(Emu(x)));
+  xml::SetAttribute(node, second, std::to_string(Emu(y)));
+}
+
+class SheetShapes final : public DrawnShapes {
+ public:
+  explicit SheetShapes(Worksheet& sheet) : sheet_(sheet) {}
+
+  std::int32_t Count() override {
+    const SheetDrawing* drawing = sheet_.FindDrawing();
+    return drawing == nullptr ? 0 : static_cast<std::int32_t>(drawing->Shapes().size());
+  }
+  std::shared_ptr<DrawnShape> Group(const std::vector<std::shared_ptr<DrawnShape>>&) override {
+    // the system groups on charts only
+    throw RuntimeError(438, "Object doesn't support this property or method");
+  }
+  const Journal& Log() const override { return sheet_.Book().Journal(); }
+  std::string JournalPath() const override { return sheet_.JournalPath()(); }
+
+ protected:
+  std::shared_ptr<DrawnShape> At(std::size_t index) override { return sheet_.FindDrawing()->Shapes()[index]; }
+  std::shared_ptr<DrawnShape> Find(std::string_view name) override {
+    const SheetDrawing* drawing = sheet_.FindDrawing();
+    return drawing == nullptr ? nullptr : drawing->FindShape(name);
+  }
+  std::shared_ptr<DrawnShape> NewTextbox(const Frame& frame) override {
+    return sheet_.EnsureDrawing().AddTextbox(frame);
+  }
+  std::shared_ptr<DrawnShape> NewAutoShape(std::string_view name, std::string_view preset,
+                                           const Frame& frame) override {
+    return sheet_.EnsureDrawing().AddAutoShape(name, preset, frame);
+  }
+
+ private:
+  Worksheet& sheet_;
+};
+
+class ChartFrame final : public excel::ChartObject {
+ public:
+  explicit ChartFrame(std::shared_ptr<SheetShape> shape) : shape_(std::move(shape)) {}
+  std::string Name() override { return shape_->Name(); }
+  Ref<excel::Chart> Chart() override { return shape_->Chart(); }
+
+ private:
+  std::shared_ptr<SheetShape> shape_;
+};
+
+class SheetChartObjects final : public excel::ChartObjects {
+ public:
+  explicit SheetChartObjects(Worksheet& sheet) : sheet_(sheet) {}
+
+  std::int32_t Count() override {
+    const SheetDrawing* drawing = sheet_.FindDrawing();
+    if (drawing == nullptr) return 0;
+    const auto& shapes = drawing->Shapes();
+    return static_cast<std::int32_t>(std::count_if(
+        shapes.begin(), shapes.end(), [](const auto& shape) { return shape->Type() == excel::msoChart; }));
+  }
+  Ref<excel::ChartObject> Item(std::string_view name) override {
+    const SheetDrawing* drawing = sheet_.FindDrawing();
+    if (drawing != nullptr) {
+      for (const auto& shape : drawing->Shapes()) {
+        if (shape->Type() == excel::msoChart && runtime::EqualsIgnoreCase(shape->Name(), name)) {
+          return std::make_shared<ChartFrame>(shape);
+        }
+      }
+    }
+    throw RuntimeError(runtime::error::kApplication,
+                       "Unable to get the ChartObjects property of the Worksheet class");
+  }
+  Ref<excel::ChartObject> Add(double left, double top, double width, double height) override {
+    sheet_.Book().Journal().Call([&] { return sheet_.JournalPath()() + ".ChartObjects"; }, "Add",
+                                 {left, top, width, height});
+    return std::make_shared<ChartFrame>(sheet_.EnsureDrawing().AddChart({left, top, width, height}));
+  }
+
+ private:
+  Worksheet& sheet_;
+};
+
+}  // namespace
+
+SheetShape::SheetShape(SheetDrawing& drawing, pugi::xml_node anchor, pugi::xml_node object)
+    : DrawnShape(object), drawing_(drawing), anchor_(anchor) {}
+
+Workbook& SheetShape::Book() const { return drawing_.Sheet().Book(); }
+
+void SheetShape::MarkChanged() { drawing_.MarkChanged(); }
+
+std::string SheetShape::JournalPath() const { return JournalPathUnder(drawing_.Sheet().JournalPath()()); }
+
+Frame SheetShape::PlacedFrame() const {
+  if (xml::Is(anchor_, "absoluteAnchor")) {
+    const auto place = xml::Child(anchor_, "pos"), extent = xml::Child(anchor_, "ext");
+    return {ExtentPoints(place, "x"), ExtentPoints(place, "y"), ExtentPoints(extent, "cx"),
+            ExtentPoints(extent, "cy")};
+  }
+  const SheetGeometry& geometry = drawing_.Sheet().Geometry();
+  const auto [left, top] = PlaceOf(xml::Child(anchor_, "from"), geometry);
+  if (const auto extent = xml::Child(anchor_, "ext")) {
+    return {left, top, ExtentPoints(extent, "cx"), ExtentPoints(extent, "cy")};
+  }
+  const auto [right, bottom] = PlaceOf(xml::Child(anchor_, "to"), geometry);
+  return {left, top, right - left, bottom - top};
+}
+
+void SheetShape::Place(const Frame& wanted) {
+  const pugi::xml_node object = Object();
+  if (!std::isfinite(wanted.left + wanted.top + wanted.width + wanted.height)) {
+    throw RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
+  }
+  // a sheet begins at its corner
+  const Frame frame{std::max(wanted.left, 0.0), std::max(wanted.top, 0.0), wanted.width, wanted.height};
+  if (xml::Is(anchor_, "absoluteAnchor")) {
+    SetPair(xml::Child(anchor_, "pos"), "x", "y", frame.left, frame.top);
+  } else {
+    const SheetGeometry& geometry = drawing_.Sheet().Geometry();
+    SetPlace(xml::Child(anchor_, "from"), geometry, frame.left, frame.top);
+    if (const auto to = xml::Child(anchor_, "to")) SetPlace(to, geometry, frame.Right(), frame.Bottom());
+  }
+  if (const auto extent = xml::Child(anchor_, "ext")) SetPair(extent, "cx", "cy", frame.width, frame.height);
+  // the frame of a chart or the like has its place from the anchor alone
+  if (!xml::Is(object, "graphicFrame")) SetTransform(object, frame);
+  MarkChanged();
+}
+
+pugi::xml_node SheetShape::ChartLink() const {
+  const auto data = xml::Child(Object(), "graphic", "graphicData");
+  return xml::Attribute(data, "uri").ends_with("/chart") ? xml::Child(data, "chart") : pugi::xml_node();
+}
+
+std::string SheetShape::ChartPartName() const {
+  const auto& package = Book().Package();
+  const auto link = package.FindRelationship(drawing_.Part(), xml::RelationshipId(ChartLink()));
+  return link && !link->external && package.Has(link->target) ? link->target : std::string();
+}
+
+Ref<excel::Chart> SheetShape::Chart() {
+  Workbook& book = Book();
+  return book.Guarded([&]() -> Ref<excel::Chart> {
+    return std::make_shared<xlsx::Chart>(book.Chart(ChartPartName()),
+                                         std::static_pointer_cast<SheetShape>(shared_from_this()));
+  });
+}
+
+void SheetShape::Delete() {
+  Log().Call([this] { return JournalPath(); }, "Delete");
+  Object();
+  const auto alive = shared_from_this();  // the drawing may be the last to know it
+  drawing_.Remove(*this);
+  Forget();
+  anchor_ = {};
+}
+
+Ref<excel::Shapes> MakeShapes(Worksheet& sheet) { return std::make_shared<SheetShapes>(sheet); }
+
+Ref<excel::ChartObjects> MakeChartObjects(Worksheet& sheet) {
+  return std::make_shared<SheetChartObjects>(sheet);
+}
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <memory>
+#include <pugixml.hpp>
+#include <string>
+
+#include "host/excel/Excel.h"
+#include "xlsx/drawing/DrawnShape.h"
+
+namespace plotsmith::xlsx {
+
+class Chart;
+class SheetDrawing;
+
+/// One shape of a sheet: a view over its anchor in the sheet's drawing.
+class SheetShape final : public DrawnShape {
+ public:
+  SheetShape(SheetDrawing& drawing, pugi::xml_node anchor, pugi::xml_node object);
+
+  void Delete() override;
+
+  Frame PlacedFrame() const override;
+  std::string JournalPath() const override;
+  void MarkChanged() override;
+  Workbook& Book() const override;
+
+  pugi::xml_node Anchor() const { return anchor_; }
+  /// The part of the chart that the shape frames; empty if it frames none, or one that isn't there.
+  std::string ChartPartName() const;
+  excel::Ref<excel::Chart> Chart();
+
+ protected:
+  void Place(const Frame& wanted) override;
+
+ private:
+  pugi::xml_node ChartLink() const;
+
+  SheetDrawing& drawing_;
+  pugi::xml_node anchor_;
+};
+
+/// The shapes of a sheet, for the port.
+excel::Ref<excel::Shapes> MakeShapes(class Worksheet& sheet);
+excel::Ref<excel::ChartObjects> MakeChartObjects(class Worksheet& sheet);
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,69 @@
+#include "xlsx/chart/Border.h"
+
+#include "host/excel/Constants.h"
+#include "runtime/RuntimeError.h"
+#include "xlsx/Enumerations.h"
+#include "xlsx/drawing/DrawingFill.h"
+#include "xlsx/package/HexColor.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx {
+
+using runtime::RuntimeError;
+
+namespace {
+
+class BorderObject final : public excel::Border {
+ public:
+  explicit BorderObject(FormattedElement element) : element_(std::move(element)) {}
+
+  void SetLineStyle(std::int32_t style) override {
+    Log("LineStyle", style);
+    element_.part->MarkChanged();
+    if (style == excel::xlAutomatic) return schema::Remove(element_.FindProperties(), "ln");
+    const pugi::xml_node line = Line();
+    if (const auto token = kLineStyles.Token(style)) {
+      Show(line);
+      schema::SetVal(line, "prstDash", *token);
+    } else {
+      SetFill(line, "noFill");
+    }
+  }
+
+  void SetWeight(std::int32_t weight) override {
+    Log("Weight", weight);
+    const auto width = kLineWeights.Token(weight);
+    if (!width) throw CantSet("Weight");
+    Show(Line());
+    xml::SetAttribute(Line(), "w", *width);
+    element_.part->MarkChanged();
+  }
+
+  void SetColor(std::int32_t color) override {
+    Log("Color", color);
+    if (!IsColor(color)) throw CantSet("Color");
+    SetFillColor(SetFill(Line(), "solidFill"), color);
+    element_.part->MarkChanged();
+  }
+
+ private:
+  pugi::xml_node Line() const { return schema::Ensure(element_.Properties(), "ln"); }
+  static void Show(pugi::xml_node line) { schema::Remove(line, "noFill"); }
+  static RuntimeError CantSet(const char* property) {
+    return RuntimeError(runtime::error::kApplication,
+                        std::string("Unable to set the ") + property + " property of the Border class");
+  }
+  void Log(const char* property, std::int32_t value) const {
+    element_.Log().Put([this] { return element_.path() + ".Border"; }, property, value);
+  }
+
+  FormattedElement element_;
+};
+
+}  // namespace
+
+excel::Ref<excel::Border> MakeBorder(FormattedElement element) {
+  return std::make_shared<BorderObject>(std::move(element));
+}
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,193 @@
+#include "xlsx/chart/Chart.h"
+
+#include <optional>
+#include <string>
+
+#include "runtime/RuntimeError.h"
+#include "xlsx/Application.h"
+#include "xlsx/Workbook.h"
+#include "xlsx/chart/Axis.h"
+#include "xlsx/chart/ChartAreas.h"
+#include "xlsx/chart/ChartDrawing.h"
+#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/ChartText.h"
+#include "xlsx/chart/ChartTypes.h"
+#include "xlsx/chart/GroupAxes.h"
+#include "xlsx/chart/Legend.h"
+#include "xlsx/chart/PlotGroups.h"
+#include "xlsx/chart/Series.h"
+#include "xlsx/chart/SeriesData.h"
+#include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx {
+
+using excel::Ref;
+using runtime::RuntimeError;
+
+namespace {
+
+constexpr std::int32_t kWidestGap = 500;  // percent of a column's width
+
+std::string Self() { return "Chart"; }
+
+RuntimeError Failed(const char* member) {
+  return RuntimeError(runtime::error::kApplication,
+                      std::string("Unable to get the ") + member + " property of the Chart class");
+}
+
+/// The title that the chart shows; nothing if it shows none. A chart of one series is titled by its name
+/// without a title of its own, as long as nobody took that away.
+std::optional<std::string> ShownTitle(ChartPart& part) {
+  const auto title = schema::Find(part.Chart(), "title");
+  if (title && schema::Find(title, "tx")) return TitleText(title);
+  if (!title && schema::BooleanVal(part.Chart(), "autoTitleDeleted", false)) return std::nullopt;
+  const auto series = SeriesOf(part);
+  if (series.size() == 1) {
+    const std::string name = SeriesText(series[0]);
+    if (title || !name.empty()) return name.empty() ? "Chart Title" : name;
+  }
+  return title ? std::optional<std::string>("Chart Title") : std::nullopt;
+}
+
+class Title final : public excel::ChartTitle {
+ public:
+  explicit Title(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
+
+  std::string Text() override { return ShownTitle(*part_).value_or(std::string()); }
+  void SetText(std::string_view text) override {
+    part_->Book().Journal().Put([] { return std::string("Chart.ChartTitle"); }, "Text", text);
+    const auto title = schema::Find(part_->Chart(), "title");
+    if (!title) throw Failed("ChartTitle");
+    SetTitleText(title, text);
+    part_->MarkChanged();
+  }
+
+ private:
+  std::shared_ptr<ChartPart> part_;
+};
+
+class Group final : public excel::ChartGroup {
+ public:
+  Group(std::shared_ptr<ChartPart> part, std::int32_t index) : part_(std::move(part)), index_(index) {}
+
+  void SetGapWidth(std::int32_t percent) override {
+    part_->Book().Journal().Put([this] { return "Chart.ChartGroups(" + std::to_string(index_) + ")"; },
+                                "GapWidth", percent);
+    const auto groups = DrawnGroups(*part_);
+    const auto group = static_cast<std::size_t>(index_) <= groups.size()
+                           ? groups[static_cast<std::size_t>(index_) - 1]
+                           : pugi::xml_node();
+    if (!xml::LocalName(group).starts_with("bar") || percent < 0 || percent > kWidestGap) {
+      throw RuntimeError(runtime::error::kApplication,
+                         "Unable to set the GapWidth property of the ChartGroup class");
+    }
+    schema::SetVal(group, "gapWidth", std::to_string(percent));
+    part_->MarkChanged();
+  }
+
+ private:
+  std::shared_ptr<ChartPart> part_;
+  std::int32_t index_;
+};
+
+}  // namespace
+
+Chart::Chart(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame)
+    : part_(std::move(part)), frame_(std::move(frame)) {}
+
+Ref<excel::Application> Chart::Application() { return part_->Book().Application(); }
+
+std::int32_t Chart::ChartType() { return TypeOfChart(*part_); }
+
+void Chart::SetChartType(std::int32_t type) {
+  part_->Book().Journal().Put(Self, "ChartType", type);
+  const ChartTypeEntry* entry = FindChartType(type);
+  if (entry == nullptr) {
+    throw RuntimeError(runtime::error::kApplication,
+                       "Unable to set the ChartType property of the Chart class");
+  }
+  SetType(*part_, *entry);
+}
+
+Ref<excel::SeriesCollection> Chart::SeriesCollection() { return MakeSeriesCollection(part_); }
+
+bool Chart::HasTitle() { return ShownTitle(*part_).has_value(); }
+
+void Chart::SetHasTitle(bool value) {
+  part_->Book().Journal().Put(Self, "HasTitle", value);
+  const pugi::xml_node chart = part_->Chart();
+  if (value) {
+    const bool fresh = !schema::Find(chart, "title");
+    const pugi::xml_node title = schema::Ensure(chart, "title");
+    if (fresh) schema::SetVal(title, "overlay", "0");
+  } else {
+    schema::Remove(chart, "title");
+  }
+  // without this a chart of one series is titled by its name
+  schema::SetVal(chart, "autoTitleDeleted", value ? "0" : "1");
+  part_->MarkChanged();
+}
+
+Ref<excel::ChartTitle> Chart::ChartTitle() {
+  if (!ShownTitle(*part_)) throw Failed("ChartTitle");
+  return std::make_shared<Title>(part_);
+}
+
+bool Chart::HasLegend() { return static_cast<bool>(schema::Find(part_->Chart(), "legend")); }
+
+void Chart::SetHasLegend(bool value) {
+  part_->Book().Journal().Put(Self, "HasLegend", value);
+  const pugi::xml_node chart = part_->Chart();
+  if (!value) {
+    schema::Remove(chart, "legend");
+  } else if (!schema::Find(chart, "legend")) {
+    const pugi::xml_node legend = schema::Ensure(chart, "legend");
+    schema::SetVal(legend, "legendPos", kLegendPositions.absent);
+    schema::SetVal(legend, "overlay", "0");
+  }
+  part_->MarkChanged();
+}
+
+Ref<excel::Legend> Chart::Legend() {
+  if (!schema::Find(part_->Chart(), "legend")) throw Failed("Legend");
+  return MakeLegend(part_, frame_);
+}
+
+bool Chart::HasAxis(std::int32_t type) {
+  const auto axis = FindAxis(*part_, type == excel::xlValue);
+  return axis && !schema::BooleanVal(axis, "delete", false);
+}
+
+void Chart::SetHasAxis(std::int32_t type, bool value) {
+  part_->Book().Journal().Put(Self, "HasAxis(" + std::to_string(type) + ")", value);
+  const auto axis = FindAxis(*part_, type == excel::xlValue);
+  if (!axis) {
+    throw RuntimeError(runtime::error::kApplication, "Unable to set the HasAxis property of the Chart class");
+  }
+  schema::SetVal(axis, "delete", value ? "0" : "1");
+  part_->MarkChanged();
+}
+
+Ref<excel::Axis> Chart::Axes(std::int32_t type, std::int32_t group) {
+  if (group != excel::xlPrimary || !FindAxis(*part_, type == excel::xlValue)) {
+    throw RuntimeError(runtime::error::kApplication, "Method 'Axes' of object '_Chart' failed");
+  }
+  return MakeAxis(part_, type);
+}
+
+Ref<excel::ChartGroup> Chart::ChartGroups(std::int32_t index) {
+  const auto groups = DrawnGroups(*part_);
+  if (index < 1 || index > static_cast<std::int32_t>(groups.size())) {
+    throw RuntimeError(runtime::error::kApplication, "Method 'ChartGroups' of object '_Chart' failed");
+  }
+  return std::make_shared<Group>(part_, index);
+}
+
+Ref<excel::ChartArea> Chart::ChartArea() { return MakeChartArea(part_, frame_); }
+
+Ref<excel::PlotArea> Chart::PlotArea() { return MakePlotArea(part_, frame_); }
+
+Ref<excel::Shapes> Chart::Shapes() { return MakeChartShapes(part_, frame_); }
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <memory>
+#include <pugixml.hpp>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/excel/Shapes.h"
+#include "xlsx/drawing/ShapeXml.h"
+
+namespace plotsmith::xlsx {
+
+class ChartPart;
+class ChartShape;
+class DrawnShape;
+class SheetShape;
+
+/// What is drawn on a chart itself: the chart's part of user shapes. Anchors there know places as fractions
+/// of the chart. The part comes into being with the first shape and goes with the last.
+class ChartDrawing {
+ public:
+  /// Error 1004 if the part can't be read.
+  explicit ChartDrawing(ChartPart& chart);
+  ~ChartDrawing();
+
+  ChartPart& Chart() const { return chart_; }
+  /// The shape that frames the chart on its sheet, from which the chart has its size.
+  void SetFrame(std::weak_ptr<SheetShape> frame) { frame_ = std::move(frame); }
+  /// Width and height in points.
+  Frame Size() const;
+  /// From back to front, what is inside a group not counted.
+  const std::vector<std::shared_ptr<ChartShape>>& Shapes() const { return shapes_; }
+  std::shared_ptr<ChartShape> FindShape(std::string_view name) const;
+
+  std::shared_ptr<ChartShape> AddTextbox(const Frame& frame);
+  /// `name` begins the shape's name, `preset` is its form in the file.
+  std::shared_ptr<ChartShape> AddAutoShape(std::string_view name, std::string_view preset,
+                                           const Frame& frame);
+  /// Makes shapes one, which lies where the foremost of them lay. Error 1004 if one of them is gone.
+  std::shared_ptr<ChartShape> Group(const std::vector<std::shared_ptr<DrawnShape>>& shapes);
+  void Remove(const ChartShape& shape);
+
+  void MarkChanged() { changed_ = true; }
+  bool Changed() const { return changed_; }
+  /// Brings the part, and the chart's link to it, up to date.
+  void Write();
+
+ private:
+  std::shared_ptr<ChartShape> AddAnchor(const Frame& frame, const std::string& object);
+  void RemovePart();
+
+  ChartPart& chart_;
+  std::weak_ptr<SheetShape> frame_;
+  std::string part_;  ///< empty while there is none
+  pugi::xml_document document_;
+  std::vector<std::shared_ptr<ChartShape>> shapes_;
+  bool changed_ = false;
+};
+
+/// The shapes on a chart, for the port.
+excel::Ref<excel::Shapes> MakeChartShapes(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame);
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,81 @@
+#include "xlsx/chart/ChartGeometry.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "runtime/RuntimeError.h"
+#include "xlsx/SheetShape.h"
+#include "xlsx/chart/AutomaticLayout.h"
+#include "xlsx/chart/ChartPart.h"
+#include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+/// A chart sheet as Excel makes it for paper of letter size.
+constexpr Frame kChartSheet = {0, 0, 682.5, 495};
+
+std::optional<double> Fraction(pugi::xml_node layout, const char* name) {
+  const std::string value = schema::Val(layout, name);
+  return xml::ParseDouble(value);
+}
+
+/// One direction of a manual layout. `factor` is the mode that counts from the automatic place.
+void Apply(pugi::xml_node layout, const char* place, const char* placeMode, const char* size,
+           const char* sizeMode, double chart, double& from, double& extent) {
+  if (const auto at = Fraction(layout, place)) {
+    from = schema::Val(layout, placeMode, "factor") == "edge" ? *at * chart : from + *at * chart;
+  }
+  if (const auto length = Fraction(layout, size)) {
+    extent = schema::Val(layout, sizeMode, "factor") == "edge" ? *length * chart - from : *length * chart;
+  }
+}
+
+}  // namespace
+
+Frame ChartSize(const std::weak_ptr<SheetShape>& frame) {
+  const auto shape = frame.lock();
+  if (!shape) return kChartSheet;
+  const Frame placed = shape->PlacedFrame();
+  // a frame without a size has nothing that fractions could be of
+  return {0, 0, std::max(placed.width, 1.0), std::max(placed.height, 1.0)};
+}
+
+Frame PlotAreaFrame(ChartPart& part, const Frame& chart) {
+  Frame area = AutomaticPlotArea(part, chart);
+  const auto layout = schema::Find(schema::Find(part.PlotArea(), "layout"), "manualLayout");
+  if (!layout) return area;
+  const bool inner = schema::Val(layout, "layoutTarget", "outer") == "inner";
+  const Edges labels = inner ? TickLabelRoom(part) : Edges();
+  area = {area.left + labels.left, area.top + labels.top, area.width - labels.left - labels.right,
+          area.height - labels.top - labels.bottom};
+  Apply(layout, "x", "xMode", "w", "wMode", chart.width, area.left, area.width);
+  Apply(layout, "y", "yMode", "h", "hMode", chart.height, area.top, area.height);
+  return {area.left - labels.left, area.top - labels.top, area.width + labels.left + labels.right,
+          area.height + labels.top + labels.bottom};
+}
+
+void SetPlotAreaWidth(ChartPart& part, const Frame& chart, double width) {
+  if (!(width > 0)) {
+    throw runtime::RuntimeError(runtime::error::kApplication,
+                                "Unable to set the Width property of the PlotArea class");
+  }
+  const Frame area = PlotAreaFrame(part, chart);
+  const double widest = chart.width - kChartInset - area.left;
+  if (widest > 0) width = std::min(width, widest);
+  const pugi::xml_node holder = schema::Ensure(part.PlotArea(), "layout");
+  schema::Remove(holder, "manualLayout");
+  const pugi::xml_node layout = schema::Ensure(holder, "manualLayout");
+  schema::SetVal(layout, "layoutTarget", "outer");
+  schema::SetVal(layout, "xMode", "edge");
+  schema::SetVal(layout, "yMode", "edge");
+  schema::SetVal(layout, "x", xml::Number(area.left / chart.width));
+  schema::SetVal(layout, "y", xml::Number(area.top / chart.height));
+  schema::SetVal(layout, "w", xml::Number(width / chart.width));
+  schema::SetVal(layout, "h", xml::Number(area.height / chart.height));
+  part.MarkChanged();
+}
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,136 @@
+#include "xlsx/chart/Legend.h"
+
+#include <string>
+
+#include "host/excel/Excel.h"
+#include "runtime/RuntimeError.h"
+#include "xlsx/Enumerations.h"
+#include "xlsx/SheetShape.h"
+#include "xlsx/Workbook.h"
+#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/ChartText.h"
+#include "xlsx/chart/LegendEntries.h"
+#include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx {
+
+using excel::Ref;
+using runtime::RuntimeError;
+using runtime::Variant;
+
+namespace {
+
+std::string Path() { return "Chart.Legend"; }
+
+/// Where a legend begins by itself, roughly, as fractions of the chart.
+constexpr double kNear = 0.02, kMiddle = 0.4, kFar = 0.8;
+
+RuntimeError CantGet(const char* property) {
+  return RuntimeError(runtime::error::kApplication,
+                      std::string("Unable to get the ") + property + " property of the Legend class");
+}
+
+RuntimeError CantSet(const char* property) {
+  return RuntimeError(runtime::error::kApplication,
+                      std::string("Unable to set the ") + property + " property of the Legend class");
+}
+
+class LegendObject final : public excel::Legend {
+ public:
+  LegendObject(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame)
+      : part_(std::move(part)), frame_(std::move(frame)) {}
+
+  Ref<excel::Font> Font() override {
+    return MakeFont(
+        *part_, [part = part_] { return LooksOfLegend(*part, schema::Find(part->Chart(), "legend")); },
+        [part = part_] { return schema::Ensure(part->Chart(), "legend"); }, Path() + ".Font");
+  }
+
+  /// Not in the file; Excel's default.
+  Variant AutoScaleFont() override { return true; }
+  void SetAutoScaleFont(const Variant& value) override {
+    part_->Book().Journal().Put(Path, "AutoScaleFont", value);
+  }
+
+  std::int32_t Position() override {
+    const auto legend = Node();
+    const auto position = kLegendPositions.Number(schema::Val(legend, "legendPos", kLegendPositions.absent));
+    // where it was dragged to is no position
+    if (!position || PlaceOf(legend)) throw CantGet("Position");
+    return *position;
+  }
+  void SetPosition(std::int32_t position) override {
+    part_->Book().Journal().Put(Path, "Position", position);
+    const auto token = kLegendPositions.Token(position);
+    if (!token) throw CantSet("Position");
+    const pugi::xml_node legend = Node();
+    schema::SetVal(legend, "legendPos", *token);
+    // a place taken by hand would win over the position
+    schema::Remove(schema::Find(legend, "layout"), "manualLayout");
+    part_->MarkChanged();
+  }
+
+  Ref<excel::LegendEntries> LegendEntries() override {
+    Node();
+    return MakeLegendEntries(part_);
+  }
+
+  double Left() override { return Place("x") * Size().width; }
+  double Top() override { return Place("y") * Size().height; }
+  void SetLeft(double points) override { SetPlace("Left", "xMode", "x", points, Size().width); }
+  void SetTop(double points) override { SetPlace("Top", "yMode", "y", points, Size().height); }
+
+ private:
+  pugi::xml_node Node() const {
+    const auto legend = schema::Find(part_->Chart(), "legend");
+    if (!legend)
+      throw RuntimeError(runtime::error::kApplication,
+                         "Unable to get the Legend property of the Chart class");
+    return legend;
+  }
+
+  /// The layout of a legend that stands where somebody put it; one that only has its size from there doesn't.
+  static pugi::xml_node PlaceOf(pugi::xml_node legend) {
+    const auto layout = schema::Find(schema::Find(legend, "layout"), "manualLayout");
+    return schema::Find(layout, "x") || schema::Find(layout, "y") ? layout : pugi::xml_node();
+  }
+
+  /// A coordinate as a fraction of the chart. Without a place of its own, a guess: in the middle of its side.
+  double Place(const char* coordinate) const {
+    const auto layout = PlaceOf(Node());
+    const auto value = xml::ParseDouble(schema::Val(layout, coordinate));
+    const bool horizontal = std::string_view(coordinate) == "x";
+    if (value && schema::Val(layout, horizontal ? "xMode" : "yMode") == "edge") return *value;
+    const std::string side = schema::Val(Node(), "legendPos", kLegendPositions.absent);
+    const double start = side == (horizontal ? "l" : "t") || (!horizontal && side == "tr")  ? kNear
+                         : side == (horizontal ? "r" : "b") || (horizontal && side == "tr") ? kFar
+                                                                                            : kMiddle;
+    return start + value.value_or(0);  // in factor mode the file tells the way from there
+  }
+
+  Frame Size() const {
+    const auto frame = frame_.lock();
+    return frame ? frame->PlacedFrame() : Frame();
+  }
+
+  void SetPlace(const char* property, const char* mode, const char* fraction, double points, double extent) {
+    part_->Book().Journal().Put(Path, property, points);
+    if (!(points >= 0 && points <= extent) || extent <= 0) throw CantSet(property);
+    const pugi::xml_node layout = schema::Ensure(Node(), "layout", "manualLayout");
+    schema::SetVal(layout, mode, "edge");
+    schema::SetVal(layout, fraction, xml::Number(points / extent));
+    part_->MarkChanged();
+  }
+
+  std::shared_ptr<ChartPart> part_;
+  std::weak_ptr<SheetShape> frame_;
+};
+
+}  // namespace
+
+Ref<excel::Legend> MakeLegend(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame) {
+  return std::make_shared<LegendObject>(std::move(part), std::move(frame));
+}
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,250 @@
+#include "xlsx/chart/PlotGroups.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <set>
+#include <string>
+
+#include "runtime/RuntimeError.h"
+#include "xlsx/chart/ChartTypeRules.h"
+#include "xlsx/chart/GroupAxes.h"
+#include "xlsx/chart/LegendEntries.h"
+#include "xlsx/chart/SeriesData.h"
+#include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/package/FreeNumber.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx {
+
+using runtime::RuntimeError;
+
+namespace {
+
+constexpr std::int32_t kClusteredColumns = 51;
+constexpr std::array<std::string_view, 4> kStageElements = {"view3D", "floor", "sideWall", "backWall"};
+
+/// The name under which what belongs to the group's type is laid aside.
+std::string StateName(pugi::xml_node group) {
+  return std::string(xml::LocalName(group)) + "-" + schema::Val(group, "barDir") + "-" +
+         schema::Val(group, "grouping");
+}
+
+std::string StateName(const ChartTypeEntry& type) {
+  return std::string(type.element) + "-" + std::string(type.direction) + "-" + std::string(type.grouping);
+}
+
+/// Copies of the group without its series, of the stage of a 3-D chart, of the depth axis, and where the
+/// value axis crosses: all that a type has to itself.
+void LayTypeAside(ChartPart& part, pugi::xml_node group) {
+  pugi::xml_node state = part.LayAside(StateName(group));
+  pugi::xml_node kept = state.append_copy(group);
+  schema::Remove(kept, "ser");
+  schema::Remove(kept, "axId");
+  for (const std::string_view stage : kStageElements) {
+    if (const auto node = schema::Find(part.Chart(), stage)) state.append_copy(node);
+  }
+  const AxisRoles roles = RolesOf(AxesOf(group));
+  if (roles.depth) state.append_copy(roles.depth);
+  const std::string between = schema::Val(roles.value, "crossBetween");
+  if (!between.empty()) xml::SetAttribute(state, "crossBetween", between);
+}
+
+/// The group of the type as it was laid aside, else one like an old one.
+pugi::xml_node MakeGroup(ChartPart& part, pugi::xml_node old, const ChartTypeEntry& type,
+                         pugi::xml_node state) {
+  const auto laidAside = schema::Find(state, type.element);
+  const pugi::xml_node group =
+      laidAside ? schema::InsertCopy(part.PlotArea(), laidAside) : DeriveGroup(part.PlotArea(), old, type);
+  FitGroup(group, type, static_cast<bool>(laidAside));
+  return group;
+}
+
+/// View, floor and walls: of the type laid aside, else as they are if they are of the same kind, else Excel's
+/// own.
+void ArrangeStage(pugi::xml_node chart, const ChartTypeEntry& type, pugi::xml_node state, bool sameKind) {
+  if (!type.Is3D() || state || !sameKind) {
+    for (const std::string_view stage : kStageElements) schema::Remove(chart, stage);
+  }
+  if (!type.Is3D()) return;
+  for (const std::string_view stage : kStageElements) {
+    if (const auto node = schema::Find(state, stage)) schema::InsertCopy(chart, node);
+  }
+  if (state || schema::Find(chart, "view3D")) return;
+  pugi::xml_node view = schema::Ensure(chart, "view3D");
+  schema::SetVal(view, "rotX", type.IsPie() ? "30" : "15");
+  schema::SetVal(view, "rotY", type.IsPie() ? "0" : "20");
+  const bool perspective = type.HasDepthAxis() || type.IsPie();
+  schema::SetVal(view, "rAngAx", perspective ? "0" : "1");
+  if (perspective) schema::SetVal(view, "perspective", "30");
+  if (type.IsPie()) return;
+  for (const std::string_view surface : {"floor", "sideWall", "backWall"}) {
+    schema::SetVal(schema::Ensure(chart, surface), "thickness", "0");
+  }
+}
+
+int DrawingRank(pugi::xml_node group) {
+  const std::string_view kind = xml::LocalName(group);
+  if (kind.starts_with("area")) return 0;
+  if (kind.starts_with("bar")) return 1;
+  if (kind.starts_with("line")) return 2;
+  return 3;
+}
+
+/// Moves a group to where it is drawn among the others.
+void PutInDrawingOrder(pugi::xml_node group) {
+  for (const pugi::xml_node& other : group.parent().children()) {
+    if (other != group && schema::IsGroup(other) && DrawingRank(other) > DrawingRank(group)) {
+      group.parent().insert_move_before(group, other);
+      return;
+    }
+  }
+}
+
+[[noreturn]] void CantCombine() {
+  throw RuntimeError(runtime::error::kApplication,
+                     "Some chart types cannot be combined with other chart types.");
+}
+
+}  // namespace
+
+std::vector<pugi::xml_node> GroupsOf(ChartPart& part) {
+  std::vector<pugi::xml_node> groups;
+  for (const pugi::xml_node& child : xml::Child(part.Space(), "chart", "plotArea").children()) {
+    if (schema::IsGroup(child)) groups.push_back(child);
+  }
+  return groups;
+}
+
+std::vector<pugi::xml_node> DrawnGroups(ChartPart& part) {
+  auto groups = GroupsOf(part);
+  std::erase_if(groups, [](pugi::xml_node group) { return !schema::Find(group, "ser"); });
+  std::stable_sort(groups.begin(), groups.end(),
+                   [](pugi::xml_node a, pugi::xml_node b) { return DrawingRank(a) < DrawingRank(b); });
+  return groups;
+}
+
+std::vector<pugi::xml_node> SeriesOf(ChartPart& part) {
+  std::vector<pugi::xml_node> series;
+  for (const SeriesRef& entry : part.Series()) series.push_back(entry->node);
+  return series;
+}
+
+SeriesRef AddSeries(ChartPart& part) {
+  if (GroupsOf(part).empty()) SetType(part, *FindChartType(kClusteredColumns));
+  auto& all = part.Series();
+  std::set<long long> indices, orders;
+  for (const SeriesRef& entry : all) {
+    indices.insert(xml::IntegerAttribute(schema::Find(entry->node, "idx"), "val", 0));
+    orders.insert(xml::IntegerAttribute(schema::Find(entry->node, "order"), "val", 0));
+  }
+  constexpr long long kLast = std::numeric_limits<std::int32_t>::max();
+  const pugi::xml_node last = all.empty() ? pugi::xml_node() : all.back()->node;
+  const pugi::xml_node group = last ? last.parent() : GroupsOf(part)[0];
+  const ChartTypeEntry* type = last ? TypeOf(last) : TypeOfGroup(group);
+  pugi::xml_node series = schema::Insert(group, "ser");
+  schema::SetVal(series, "idx", std::to_string(FreeNumber(indices, 0, kLast)));
+  schema::SetVal(series, "order", std::to_string(FreeNumber(orders, 0, kLast)));
+  if (type != nullptr) FitSeries(part, series, *type);
+  WelcomeLegendEntry(part, all.size());
+  all.push_back(std::make_shared<SeriesEntry>(SeriesEntry{series}));
+  part.MarkChanged();
+  return all.back();
+}
+
+void DeleteSeries(ChartPart& part, const SeriesRef& series) {
+  auto& all = part.Series();
+  const auto at = std::find(all.begin(), all.end(), series);
+  if (at == all.end()) return;
+  DropLegendEntry(part, static_cast<std::size_t>(at - all.begin()));
+  ForgetSeries(part, series->node);
+  series->node.parent().remove_child(series->node);
+  series->node = {};
+  all.erase(at);
+  part.MarkChanged();
+}
+
+void SetType(ChartPart& part, const ChartTypeEntry& type) {
+  pugi::xml_node plotArea = part.PlotArea();
+  const auto groups = GroupsOf(part);
+  const auto series = SeriesOf(part);
+  const pugi::xml_node old = groups.empty() ? pugi::xml_node() : groups[0];
+  const std::string kind(xml::LocalName(old));
+  const auto axes = old ? AxesOf(old) : std::vector<pugi::xml_node>();
+  part.MarkChanged();
+
+  const bool same = groups.size() == 1 && StateName(old) == StateName(type);
+  pugi::xml_node group = old;
+  pugi::xml_node state;
+  if (same) {
+    FitGroup(group, type, true);
+  } else {
+    for (const pugi::xml_node& other : groups) LayTypeAside(part, other);
+    state = part.LaidAside(StateName(type));
+    group = MakeGroup(part, old, type, state);
+    for (const pugi::xml_node& node : series) schema::InsertMoved(group, node);
+    for (const pugi::xml_node& other : groups) plotArea.remove_child(other);
+  }
+  for (const pugi::xml_node& node : series) FitSeries(part, node, type);
+  const bool familyChanged = kind.empty() || CrossBetween(kind) != CrossBetween(type.element);
+  ArrangeAxes(part, group, axes, type, state, familyChanged);
+  ArrangeStage(part.Chart(), type, state, kind.starts_with("pie") == type.IsPie());
+  // Excel takes its absence for a gap, where others take it for zero; a pivot has blanks
+  if (!schema::Find(part.Chart(), "dispBlanksAs")) schema::SetVal(part.Chart(), "dispBlanksAs", "gap");
+}
+
+void SetSeriesType(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type) {
+  const pugi::xml_node group = series.parent();
+  part.MarkChanged();
+  if (StateName(group) == StateName(type)) return FitSeries(part, series, type);
+  const auto groups = DrawnGroups(part);
+  if (part.Series().size() == 1 || (groups.size() == 1 && xml::Is(group, type.element))) {
+    return SetType(part, type);
+  }
+  for (const pugi::xml_node& other : groups) {
+    const ChartTypeEntry* beside = TypeOfGroup(other);
+    if (!type.Combines() || beside == nullptr || !beside->Combines()) CantCombine();
+  }
+  const auto all = GroupsOf(part);
+  const auto axes = AxesOf(group);
+  const auto found = std::find_if(all.begin(), all.end(), [&](pugi::xml_node other) {
+    return xml::Is(other, type.element) && AxesOf(other) == axes;
+  });
+  pugi::xml_node target;
+  if (found == all.end()) {
+    target = MakeGroup(part, group, type, part.LaidAside(StateName(type)));
+    ShareAxes(target, group);
+    PutInDrawingOrder(target);
+  } else {
+    target = *found;
+    if (StateName(target) != StateName(type)) {
+      FitGroup(target, type, false);
+      for (const pugi::xml_node& node : xml::Children(target, "ser")) FitSeries(part, node, type);
+    }
+  }
+  if (target != group) schema::InsertMoved(target, series);
+  FitSeries(part, series, type);
+  if (!schema::Find(group, "ser")) {
+    LayTypeAside(part, group);
+    group.parent().remove_child(group);
+  }
+}
+
+void UpdateLinkedFormats(ChartPart& part) {
+  for (const pugi::xml_node& group : GroupsOf(part)) {
+    const auto axes = AxesOf(group);
+    const AxisRoles roles = RolesOf(axes);
+    for (const pugi::xml_node& axis : axes) {
+      const auto linked = xml::Is(axis, "valAx") ? schema::Find(axis, "numFmt") : pugi::xml_node();
+      if (!linked || !xml::BooleanAttribute(linked, "sourceLinked", false)) continue;
+      const auto series = schema::Find(group, "ser");
+      const auto data = axis == roles.x ? schema::Find(series, "xVal") : FindValues(series);
+      const std::string format = schema::Val(group, "grouping") == "percentStacked"
+                                     ? "0%"
+                                     : xml::Text(xml::Child(data, "numRef", "numCache", "formatCode"));
+      if (!format.empty()) xml::SetAttribute(linked, "formatCode", format);
+    }
+  }
+}
+
+}  // namespace plotsmith::xlsx

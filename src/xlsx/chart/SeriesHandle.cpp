@@ -1,0 +1,25 @@
+#include "xlsx/chart/SeriesHandle.h"
+
+#include <algorithm>
+
+#include "runtime/RuntimeError.h"
+#include "xlsx/Workbook.h"
+
+namespace plotsmith::xlsx {
+
+pugi::xml_node SeriesHandle::Node() const {
+  if (!entry->node) {
+    throw runtime::RuntimeError(runtime::error::kApplication, "Method of object 'Series' failed");
+  }
+  return entry->node;
+}
+
+std::string SeriesHandle::Path() const {
+  const auto& all = part->Series();
+  const auto at = std::find(all.begin(), all.end(), entry);
+  return "Chart.SeriesCollection(" + std::to_string(at - all.begin() + 1) + ")";
+}
+
+const Journal& SeriesHandle::Log() const { return part->Book().Journal(); }
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,246 @@
+#include "xlsx/drawing/DrawingSchema.h"
+
+#include <array>
+#include <span>
+
+#include "xlsx/package/Namespaces.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx::schema {
+namespace {
+
+/// The order of a type's children; names that stand at one place are joined by "|". Related types whose
+/// orders don't contradict each other share a table, so that one serves the series of all groups, one all
+/// groups and one all axes.
+using Order = std::span<const std::string_view>;
+
+constexpr std::string_view kGroups =
+    "areaChart|area3DChart|lineChart|line3DChart|stockChart|radarChart|scatterChart|pieChart|pie3DChart|"
+    "doughnutChart|barChart|bar3DChart|ofPieChart|surfaceChart|surface3DChart|bubbleChart";
+constexpr std::string_view kAxes = "valAx|catAx|dateAx|serAx";
+constexpr std::string_view kFills = "noFill|solidFill|gradFill|blipFill|pattFill|grpFill";
+
+constexpr std::string_view kChartSpace[] = {
+    "date1904",      "lang",       "roundedCorners", "AlternateContent",
+    "style",         "clrMapOvr",  "pivotSource",    "protection",
+    "chart",         "spPr",       "txPr",           "externalData",
+    "printSettings", "userShapes", "extLst"};
+constexpr std::string_view kChart[] = {"title",  "autoTitleDeleted", "pivotFmts",    "view3D",
+                                       "floor",  "sideWall",         "backWall",     "plotArea",
+                                       "legend", "plotVisOnly",      "dispBlanksAs", "showDLblsOverMax",
+                                       "extLst"};
+constexpr std::string_view kPlotArea[] = {"layout", kGroups, kAxes, "dTable", "spPr", "extLst"};
+constexpr std::string_view kGroup[] = {
+    "barDir",         "grouping",      "ofPieType",  "radarStyle", "scatterStyle", "wireframe",
+    "varyColors",     "ser",           "dLbls",      "gapWidth",   "overlap",      "serLines",
+    "dropLines",      "hiLowLines",    "upDownBars", "marker",     "smooth",       "gapDepth",
+    "shape",          "firstSliceAng", "holeSize",   "bubble3D",   "bubbleScale",  "showNegBubbles",
+    "sizeRepresents", "bandFmts",      "axId",       "extLst"};
+constexpr std::string_view kSeries[] = {
+    "idx",    "order",     "tx",    "spPr",  "invertIfNegative", "pictureOptions",
+    "marker", "explosion", "dPt",   "dLbls", "trendline",        "errBars",
+    "cat",    "xVal",      "val",   "yVal",  "bubbleSize",       "bubble3D",
+    "smooth", "shape",     "extLst"};
+constexpr std::string_view kAxis[] = {
+    "axId",           "scaling",       "delete",        "axPos",         "majorGridlines",
+    "minorGridlines", "title",         "numFmt",        "majorTickMark", "minorTickMark",
+    "tickLblPos",     "spPr",          "txPr",          "crossAx",       "crosses|crossesAt",
+    "crossBetween",   "auto",          "lblAlgn",       "lblOffset",     "baseTimeUnit",
+    "majorUnit",      "majorTimeUnit", "minorUnit",     "minorTimeUnit", "dispUnits",
+    "tickLblSkip",    "tickMarkSkip",  "noMultiLvlLbl", "extLst"};
+constexpr std::string_view kScaling[] = {"logBase", "orientation", "max", "min", "extLst"};
+constexpr std::string_view kTitle[] = {"tx", "layout", "overlay", "spPr", "txPr", "extLst"};
+constexpr std::string_view kTx[] = {"strRef|rich|v"};
+constexpr std::string_view kLegend[] = {"legendPos", "legendEntry", "layout", "overlay",
+                                        "spPr",      "txPr",        "extLst"};
+constexpr std::string_view kLayout[] = {"manualLayout", "extLst"};
+constexpr std::string_view kManualLayout[] = {
+    "layoutTarget", "xMode", "yMode", "wMode", "hMode", "x", "y", "w", "h", "extLst"};
+constexpr std::string_view kLabels[] = {"idx",
+                                        "dLbl",
+                                        "delete",
+                                        "layout",
+                                        "tx",
+                                        "numFmt",
+                                        "spPr",
+                                        "txPr",
+                                        "dLblPos",
+                                        "showLegendKey",
+                                        "showVal",
+                                        "showCatName",
+                                        "showSerName",
+                                        "showPercent",
+                                        "showBubbleSize",
+                                        "separator",
+                                        "showLeaderLines",
+                                        "leaderLines",
+                                        "extLst"};
+constexpr std::string_view kLegendEntry[] = {"idx", "delete|txPr", "extLst"};
+constexpr std::string_view kMarker[] = {"symbol", "size", "spPr", "extLst"};
+constexpr std::string_view kDisplayUnits[] = {"builtInUnit|custUnit", "dispUnitsLbl", "extLst"};
+constexpr std::string_view kView3D[] = {"rotX",   "hPercent",    "rotY",  "depthPercent",
+                                        "rAngAx", "perspective", "extLst"};
+constexpr std::string_view kSurface[] = {"thickness", "spPr", "pictureOptions", "extLst"};
+constexpr std::string_view kReference[] = {"f", "numCache|strCache|multiLvlStrCache", "extLst"};
+constexpr std::string_view kCache[] = {"formatCode", "ptCount", "pt", "extLst"};
+constexpr std::string_view kDataSource[] = {"numRef|strRef|multiLvlStrRef|numLit|strLit"};
+constexpr std::string_view kShape[] = {
+    "xfrm", "custGeom|prstGeom", kFills, "ln", "effectLst|effectDag", "scene3d", "sp3d", "extLst"};
+constexpr std::string_view kLine[] = {kFills,    "prstDash|custDash", "round|bevel|miter",
+                                      "headEnd", "tailEnd",           "extLst"};
+constexpr std::string_view kText[] = {"bodyPr", "lstStyle", "p"};
+constexpr std::string_view kParagraph[] = {"pPr", "r|br|fld", "endParaRPr"};
+constexpr std::string_view kParagraphProperties[] = {"lnSpc",  "spcBef", "spcAft",
+                                                     "tabLst", "defRPr", "extLst"};
+constexpr std::string_view kRun[] = {"rPr", "pPr", "t"};
+constexpr std::string_view kRunProperties[] = {
+    "ln", kFills, "effectLst|effectDag", "highlight",      "uLnTx|uLn", "uFillTx|uFill", "latin", "ea",
+    "cs", "sym",  "hlinkClick",          "hlinkMouseOver", "rtl",       "extLst"};
+constexpr std::string_view kPattern[] = {"fgClr", "bgClr"};
+constexpr std::string_view kTransform[] = {"off", "ext", "chOff", "chExt"};
+constexpr std::string_view kBodyProperties[] = {"prstTxWarp", "noAutofit|normAutofit|spAutoFit", "scene3d",
+                                                "sp3d|flatTx", "extLst"};
+constexpr std::string_view kLocks[] = {"spLocks|grpSpLocks|picLocks|cxnSpLocks|graphicFrameLocks", "stCxn",
+                                       "endCxn", "extLst"};
+
+struct Type {
+  std::string_view elements;  ///< joined by "|"
+  Order order;
+  bool drawingMl;  ///< the children are DrawingML's, and not the chart vocabulary's
+};
+
+constexpr Type kTypes[] = {
+    {"chartSpace", kChartSpace, false},
+    {"chart", kChart, false},
+    {"plotArea", kPlotArea, false},
+    {kGroups, kGroup, false},
+    {"ser", kSeries, false},
+    {kAxes, kAxis, false},
+    {"scaling", kScaling, false},
+    {"title", kTitle, false},
+    {"tx", kTx, false},
+    {"legend", kLegend, false},
+    {"legendEntry", kLegendEntry, false},
+    {"marker", kMarker, false},
+    {"dispUnits", kDisplayUnits, false},
+    {"layout", kLayout, false},
+    {"manualLayout", kManualLayout, false},
+    {"dLbls|dLbl", kLabels, false},
+    {"view3D", kView3D, false},
+    {"floor|sideWall|backWall", kSurface, false},
+    {"numRef|strRef|multiLvlStrRef", kReference, false},
+    {"numCache|strCache", kCache, false},
+    {"cat|val|xVal|yVal|bubbleSize", kDataSource, false},
+    {"spPr|grpSpPr", kShape, true},
+    {"xfrm", kTransform, true},
+    {"prstGeom", {}, true},
+    {"cNvSpPr|cNvGrpSpPr|cNvPicPr|cNvCxnSpPr|cNvGraphicFramePr", kLocks, true},
+    {"bodyPr", kBodyProperties, true},
+    {"ln", kLine, true},
+    {"txPr|rich|txBody", kText, true},
+    {"p", kParagraph, true},
+    {"pPr", kParagraphProperties, true},
+    {"r|fld", kRun, true},
+    {"rPr|defRPr|endParaRPr", kRunProperties, true},
+    {"pattFill", kPattern, true},
+    {"solidFill|fgClr|bgClr", {}, true},
+};
+
+bool Names(std::string_view alternatives, std::string_view name) {
+  while (!alternatives.empty()) {
+    const std::string_view first = alternatives.substr(0, alternatives.find('|'));
+    if (first == name) return true;
+    alternatives.remove_prefix(std::min(first.size() + 1, alternatives.size()));
+  }
+  return false;
+}
+
+const Type* TypeOf(pugi::xml_node node) {
+  const std::string_view name = xml::LocalName(node);
+  for (const Type& type : kTypes) {
+    if (Names(type.elements, name)) return &type;
+  }
+  return nullptr;
+}
+
+std::size_t Rank(const Type* type, std::string_view name) {
+  if (type != nullptr) {
+    for (std::size_t i = 0; i < type->order.size(); ++i) {
+      if (Names(type->order[i], name)) return i;
+    }
+  }
+  return std::string_view::npos;
+}
+
+/// The child in front of which one of the name belongs; null for the end.
+pugi::xml_node Follower(pugi::xml_node parent, std::string_view local) {
+  const Type* type = TypeOf(parent);
+  const std::size_t rank = Rank(type, local);
+  if (rank == std::string_view::npos) return {};
+  for (const pugi::xml_node& child : parent.children()) {
+    const std::size_t other = Rank(type, xml::LocalName(child));
+    if (child.type() == pugi::node_element && other != std::string_view::npos && other > rank) return child;
+  }
+  return {};
+}
+
+std::string QualifiedName(pugi::xml_node parent, std::string_view local) {
+  pugi::xml_node root = parent;
+  while (root.parent().type() == pugi::node_element) root = root.parent();
+  const Type* type = TypeOf(parent);
+  if (type == nullptr || !type->drawingMl) return std::string(xml::Prefix(root.name())) + std::string(local);
+  const bool strict = xml::NamespaceOf(root).starts_with("http://purl.oclc.org/ooxml/");
+  return xml::EnsurePrefix(root, (strict ? kStrict : kTransitional).drawing, "a") + std::string(local);
+}
+
+}  // namespace
+
+pugi::xml_node Find(pugi::xml_node parent, std::string_view local) { return xml::Child(parent, local); }
+
+pugi::xml_node Ensure(pugi::xml_node parent, std::string_view local) {
+  const auto child = Find(parent, local);
+  return child ? child : Insert(parent, local);
+}
+
+pugi::xml_node Insert(pugi::xml_node parent, std::string_view local) {
+  const std::string name = QualifiedName(parent, local);
+  const pugi::xml_node follower = Follower(parent, local);
+  return follower ? parent.insert_child_before(name.c_str(), follower) : parent.append_child(name.c_str());
+}
+
+void InsertMoved(pugi::xml_node parent, pugi::xml_node child) {
+  const pugi::xml_node follower = Follower(parent, xml::LocalName(child));
+  if (follower) {
+    parent.insert_move_before(child, follower);
+  } else {
+    parent.append_move(child);
+  }
+}
+
+pugi::xml_node InsertCopy(pugi::xml_node parent, pugi::xml_node child) {
+  const pugi::xml_node follower = Follower(parent, xml::LocalName(child));
+  return follower ? parent.insert_copy_before(child, follower) : parent.append_copy(child);
+}
+
+void Remove(pugi::xml_node parent, std::string_view local) {
+  while (const auto child = Find(parent, local)) parent.remove_child(child);
+}
+
+std::string Val(pugi::xml_node parent, std::string_view local, std::string_view fallback) {
+  return xml::Attribute(Find(parent, local), "val", fallback);
+}
+
+bool BooleanVal(pugi::xml_node parent, std::string_view local, bool fallback) {
+  const auto child = Find(parent, local);
+  return child ? xml::BooleanAttribute(child, "val", true) : fallback;
+}
+
+void SetVal(pugi::xml_node parent, std::string_view local, std::string_view value) {
+  xml::SetAttribute(Ensure(parent, local), "val", value);
+}
+
+bool IsGroup(pugi::xml_node node) { return Names(kGroups, xml::LocalName(node)); }
+
+bool IsAxis(pugi::xml_node node) { return Names(kAxes, xml::LocalName(node)); }
+
+}  // namespace plotsmith::xlsx::schema

@@ -1,0 +1,186 @@
+#include "xlsx/drawing/DrawingText.h"
+
+#include <algorithm>
+
+#include "runtime/RuntimeError.h"
+#include "runtime/Strings.h"
+#include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/drawing/Theme.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+constexpr double kUsualSize = 11;
+
+bool IsRun(pugi::xml_node node) { return xml::Is(node, "r") || xml::Is(node, "fld"); }
+
+/// Cuts a run behind its first units; the rest follows as a run dressed alike. A field stays whole.
+void Cut(pugi::xml_node run, std::size_t units) {
+  const std::u16string text = runtime::ToUtf16(xml::Text(xml::Child(run, "t")));
+  if (!xml::Is(run, "r") || units == 0 || units >= text.size()) return;
+  pugi::xml_node rest = run.parent().insert_copy_after(run, run);
+  xml::SetText(xml::Child(run, "t"), runtime::ToUtf8(text.substr(0, units)));
+  xml::SetText(xml::Child(rest, "t"), runtime::ToUtf8(text.substr(units)));
+}
+
+/// Calls `visit` with each run and where it begins and ends; it may cut the run. Answers the text's length.
+template <class Visit>
+std::size_t ForEachRun(const std::vector<pugi::xml_node>& paragraphs, const Visit& visit) {
+  std::size_t at = 0;
+  for (std::size_t i = 0; i < paragraphs.size(); ++i) {
+    if (i > 0) ++at;
+    for (pugi::xml_node run = paragraphs[i].first_child(); run; run = run.next_sibling()) {
+      if (xml::Is(run, "br")) ++at;
+      if (!IsRun(run)) continue;
+      const std::size_t length = runtime::Len(xml::Text(xml::Child(run, "t")));
+      visit(run, at, at + length);
+      at += runtime::Len(xml::Text(xml::Child(run, "t")));
+    }
+  }
+  return at;
+}
+
+}  // namespace
+
+pugi::xml_node DrawingText::Body() const { return xml::Child(object_, "txBody"); }
+
+pugi::xml_node DrawingText::EnsureBody() {
+  if (const auto body = Body()) return body;
+  if (!xml::Is(object_, "sp")) {
+    throw runtime::RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
+  }
+  // it is the last child, in the drawing's own vocabulary
+  const pugi::xml_node body =
+      object_.append_child((std::string(xml::Prefix(object_.name())) + "txBody").c_str());
+  schema::Ensure(body, "bodyPr");
+  schema::Ensure(body, "lstStyle");
+  schema::Ensure(body, "p");
+  return body;
+}
+
+pugi::xml_node DrawingText::BodyProperties() { return schema::Ensure(EnsureBody(), "bodyPr"); }
+
+std::vector<pugi::xml_node> DrawingText::Paragraphs() const { return xml::Children(Body(), "p"); }
+
+std::string DrawingText::Text() const {
+  std::string text;
+  bool first = true;
+  for (const pugi::xml_node& paragraph : Paragraphs()) {
+    if (!first) text += '\n';
+    first = false;
+    for (const pugi::xml_node& run : paragraph.children()) {
+      if (IsRun(run)) text += xml::Text(xml::Child(run, "t"));
+      if (xml::Is(run, "br")) text += '\n';
+    }
+  }
+  return text;
+}
+
+void DrawingText::SetText(std::string_view text) {
+  pugi::xml_node body = EnsureBody();
+  const auto paragraphs = Paragraphs();
+  pugi::xml_document dress;  // copies, as the originals go
+  const auto keep = [&](pugi::xml_node node) { return node ? dress.append_copy(node) : pugi::xml_node(); };
+  const pugi::xml_node first = paragraphs.empty() ? pugi::xml_node() : paragraphs[0];
+  const pugi::xml_node paragraphProperties = keep(xml::Child(first, "pPr"));
+  const pugi::xml_node ending = keep(xml::Child(first, "endParaRPr"));
+  pugi::xml_node runProperties = keep(xml::Child(first, "r", "rPr"));
+  if (!runProperties && ending) {
+    runProperties = dress.append_copy(ending);
+    runProperties.set_name((std::string(xml::Prefix(ending.name())) + "rPr").c_str());
+  }
+  for (const pugi::xml_node& paragraph : paragraphs) body.remove_child(paragraph);
+
+  std::string lines = runtime::Replace(text, "\r\n", "\n");
+  lines = runtime::Replace(lines, "\r", "\n");
+  for (std::string_view rest = lines;;) {
+    const auto end = rest.find('\n');
+    const std::string_view line = rest.substr(0, end);
+    pugi::xml_node paragraph = schema::Insert(body, "p");
+    if (paragraphProperties) paragraph.append_copy(paragraphProperties);
+    if (!line.empty()) {
+      pugi::xml_node run = schema::Ensure(paragraph, "r");
+      if (runProperties) run.append_copy(runProperties);
+      xml::SetText(schema::Ensure(run, "t"), line);
+    } else if (ending) {
+      paragraph.append_copy(ending);
+    }
+    if (end == std::string_view::npos) break;
+    rest.remove_prefix(end + 1);
+  }
+}
+
+std::vector<pugi::xml_node> DrawingText::EnsureRunProperties(std::size_t start, std::size_t length) {
+  EnsureBody();
+  const auto paragraphs = Paragraphs();
+  const std::size_t end = length > std::u16string::npos - start ? std::u16string::npos : start + length;
+  std::vector<pugi::xml_node> properties;
+  const std::size_t size = ForEachRun(paragraphs, [&](pugi::xml_node run, std::size_t from, std::size_t to) {
+    if (to <= start || from >= end) return;
+    if (from < start) {
+      Cut(run, start - from);  // what lies inside is the next run
+      if (xml::Is(run, "r")) return;
+    }
+    if (to > end) Cut(run, end - from);
+    properties.push_back(schema::Ensure(run, "rPr"));
+  });
+  if (start == 0 && end >= size) {
+    for (const pugi::xml_node& paragraph : paragraphs)
+      properties.push_back(schema::Ensure(paragraph, "endParaRPr"));
+  }
+  return properties;
+}
+
+std::vector<pugi::xml_node> DrawingText::RunProperties(std::size_t start, std::size_t length) const {
+  const auto paragraphs = Paragraphs();
+  const std::size_t end = length > std::u16string::npos - start ? std::u16string::npos : start + length;
+  std::vector<pugi::xml_node> properties;
+  const std::size_t size = ForEachRun(paragraphs, [&](pugi::xml_node run, std::size_t from, std::size_t to) {
+    if (to > start && from < end) properties.push_back(xml::Child(run, "rPr"));
+  });
+  if (size == 0 && !paragraphs.empty()) properties.push_back(xml::Child(paragraphs[0], "endParaRPr"));
+  return properties;
+}
+
+DrawingText::Extent DrawingText::Measure(const Theme& theme, std::optional<double> width) const {
+  Extent extent;
+  for (const pugi::xml_node& paragraph : Paragraphs()) {
+    double x = 0, height = 0;
+    const auto endLine = [&] {
+      extent.width = std::max(extent.width, x);
+      extent.height += height;
+      x = 0;
+    };
+    for (const pugi::xml_node& run : paragraph.children()) {
+      if (!IsRun(run) && !xml::Is(run, "br")) continue;
+      const TextFace face = FaceOf(xml::Child(run, "rPr"), theme);
+      height = std::max(height, LineHeight(face));
+      if (xml::Is(run, "br")) {
+        endLine();
+        continue;
+      }
+      const std::string text = xml::Text(xml::Child(run, "t"));
+      for (std::string_view rest = text; !rest.empty();) {
+        // a word with the blank behind it, which may hang over the edge
+        const std::size_t blank = rest.find(' ');
+        const std::string_view word = rest.substr(0, blank);
+        if (width && x > 0 && x + TextWidth(word, face) > *width) endLine();
+        const std::size_t taken = blank == std::string_view::npos ? rest.size() : blank + 1;
+        x += TextWidth(rest.substr(0, taken), face);
+        rest.remove_prefix(taken);
+      }
+    }
+    if (height == 0) height = LineHeight(FaceOf(xml::Child(paragraph, "endParaRPr"), theme));
+    endLine();
+  }
+  return extent;
+}
+
+TextFace FaceOf(pugi::xml_node runProperties, const Theme& theme) {
+  return {theme.Typeface(xml::Attribute(xml::Child(runProperties, "latin"), "typeface", "+mn-lt")),
+          xml::NumberAttribute(runProperties, "sz", kUsualSize * 100) / 100,
+          xml::BooleanAttribute(runProperties, "b", false)};
+}
+
+}  // namespace plotsmith::xlsx

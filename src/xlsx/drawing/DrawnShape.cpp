@@ -1,0 +1,177 @@
+#include "xlsx/drawing/DrawnShape.h"
+
+#include <string>
+
+#include "host/excel/Constants.h"
+#include "runtime/RuntimeError.h"
+#include "xlsx/Journal.h"
+#include "xlsx/Workbook.h"
+#include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/drawing/DrawingText.h"
+#include "xlsx/drawing/ShapeEnumerations.h"
+#include "xlsx/drawing/ShapeFormat.h"
+#include "xlsx/drawing/ShapeText.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx {
+
+using excel::Ref;
+using runtime::RuntimeError;
+
+namespace {
+
+constexpr std::int32_t kLine = 9;  // msoLine
+constexpr double kUsualMarginAcross = 7.2, kUsualMarginDown = 3.6;
+
+RuntimeError OutOfRange() {
+  return RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
+}
+
+bool ShowsChart(pugi::xml_node object) {
+  const auto data = xml::Child(object, "graphic", "graphicData");
+  return xml::Attribute(data, "uri").ends_with("/chart") && xml::Child(data, "chart");
+}
+
+std::int32_t TypeOf(pugi::xml_node object) {
+  const std::string_view kind = xml::LocalName(object);
+  if (kind == "graphicFrame" && ShowsChart(object)) return excel::msoChart;
+  if (kind == "grpSp") return excel::msoGroup;
+  if (kind == "pic") return excel::msoPicture;
+  if (kind == "cxnSp") return kLine;
+  if (kind == "sp" && xml::BooleanAttribute(KindPropertiesOf(object), "txBox", false)) {
+    return excel::msoTextBox;
+  }
+  return excel::msoAutoShape;
+}
+
+}  // namespace
+
+DrawnShape::DrawnShape(pugi::xml_node object) : object_(object), type_(TypeOf(object)) {}
+
+pugi::xml_node DrawnShape::Object() const {
+  if (!object_) throw RuntimeError(runtime::error::kApplication, "The object has been deleted.");
+  return object_;
+}
+
+pugi::xml_node DrawnShape::Properties() const {
+  const auto properties = ShapePropertiesOf(Object());
+  if (!properties) throw OutOfRange();
+  return properties;
+}
+
+const Journal& DrawnShape::Log() const { return Book().Journal(); }
+
+std::string DrawnShape::JournalPathUnder(const std::string& drawing) const {
+  return drawing + ".Shapes(" + Journal::Literal(xml::Attribute(IdentityOf(object_), "name")) + ")";
+}
+
+std::string DrawnShape::Name() { return xml::Attribute(IdentityOf(object_), "name"); }
+
+void DrawnShape::SetName(std::string_view name) {
+  Log().Put([this] { return JournalPath(); }, "Name", name);
+  if (name.empty()) throw OutOfRange();
+  xml::SetAttribute(IdentityOf(Object()), "name", name);
+  MarkChanged();
+}
+
+std::string DrawnShape::AlternativeText() { return xml::Attribute(IdentityOf(object_), "descr"); }
+
+void DrawnShape::SetAlternativeText(std::string_view text) {
+  Log().Put([this] { return JournalPath(); }, "AlternativeText", text);
+  xml::SetAttribute(IdentityOf(Object()), "descr", text);
+  MarkChanged();
+}
+
+void DrawnShape::SetLeft(double points) {
+  Log().Put([this] { return JournalPath(); }, "Left", points);
+  Frame frame = PlacedFrame();
+  frame.left = points;
+  Place(frame);
+}
+
+void DrawnShape::SetTop(double points) {
+  Log().Put([this] { return JournalPath(); }, "Top", points);
+  Frame frame = PlacedFrame();
+  frame.top = points;
+  Place(frame);
+}
+
+void DrawnShape::SetWidth(double points) {
+  Log().Put([this] { return JournalPath(); }, "Width", points);
+  if (!(points >= 0)) throw OutOfRange();
+  Frame frame = PlacedFrame();
+  if (KeepsItsProportions() && frame.width > 0) frame.height *= points / frame.width;
+  frame.width = points;
+  Place(frame);
+}
+
+void DrawnShape::SetHeight(double points) {
+  Log().Put([this] { return JournalPath(); }, "Height", points);
+  if (!(points >= 0)) throw OutOfRange();
+  Frame frame = PlacedFrame();
+  if (KeepsItsProportions() && frame.height > 0) frame.width *= points / frame.height;
+  frame.height = points;
+  Place(frame);
+}
+
+bool DrawnShape::KeepsItsProportions() const {
+  for (const pugi::xml_node& locks : KindPropertiesOf(object_).children()) {
+    if (xml::LocalName(locks).ends_with("Locks"))
+      return xml::BooleanAttribute(locks, "noChangeAspect", false);
+  }
+  return false;
+}
+
+void DrawnShape::SetLockAspectRatio(bool value) {
+  Log().Put([this] { return JournalPath(); }, "LockAspectRatio", value);
+  const pugi::xml_node properties = KindPropertiesOf(Object());
+  // cNvSpPr has spLocks, cNvPicPr has picLocks, and so on
+  std::string kind(xml::LocalName(properties));
+  if (kind.size() < 6) throw OutOfRange();
+  kind = kind.substr(3, kind.size() - 5);
+  kind[0] = static_cast<char>(kind[0] - 'A' + 'a');
+  xml::SetAttribute(schema::Ensure(properties, kind + "Locks"), "noChangeAspect", value ? "1" : "0");
+  MarkChanged();
+}
+
+void DrawnShape::SetAutoShapeType(std::int32_t type) {
+  Log().Put([this] { return JournalPath(); }, "AutoShapeType", type);
+  const auto preset = kAutoShapes.Token(type);
+  if (!preset || !xml::Is(Object(), "sp")) throw OutOfRange();
+  const pugi::xml_node properties = Properties();
+  schema::Remove(properties, "custGeom");
+  pugi::xml_node form = schema::Ensure(properties, "prstGeom");
+  form.remove_children();  // the adjustments were the old form's
+  xml::SetAttribute(form, "prst", *preset);
+  schema::Ensure(form, "avLst");
+  MarkChanged();
+}
+
+void DrawnShape::FitToText() {
+  const pugi::xml_node body = xml::Child(object_, "txBody", "bodyPr");
+  if (!xml::Child(body, "spAutoFit")) return;
+  const auto margins = [&](const char* first, const char* second, double usual) {
+    return (xml::NumberAttribute(body, first, usual * kEmuPerPoint) +
+            xml::NumberAttribute(body, second, usual * kEmuPerPoint)) /
+           kEmuPerPoint;
+  };
+  const double across = margins("lIns", "rIns", kUsualMarginAcross);
+  const double down = margins("tIns", "bIns", kUsualMarginDown);
+  const bool wraps = xml::Attribute(body, "wrap", "square") != "none";
+  Frame frame = PlacedFrame();
+  const auto extent = DrawingText(object_).Measure(
+      Book().Theme(), wraps ? std::optional(frame.width - across) : std::nullopt);
+  if (!wraps) frame.width = extent.width + across;
+  frame.height = extent.height + down;
+  Place(frame);
+}
+
+Ref<excel::TextFrame> DrawnShape::TextFrame() { return MakeTextFrame(shared_from_this()); }
+
+Ref<excel::TextFrame2> DrawnShape::TextFrame2() { return MakeTextFrame2(shared_from_this()); }
+
+Ref<excel::FillFormat> DrawnShape::Fill() { return MakeFill(shared_from_this()); }
+
+Ref<excel::LineFormat> DrawnShape::Line() { return MakeLine(shared_from_this()); }
+
+}  // namespace plotsmith::xlsx

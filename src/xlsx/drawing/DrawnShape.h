@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <pugixml.hpp>
+#include <string>
+#include <string_view>
+
+#include "host/excel/Shape.h"
+#include "xlsx/drawing/ShapeXml.h"
+
+namespace plotsmith::xlsx {
+
+class Journal;
+class Workbook;
+
+/// What the shapes of a sheet and those on a chart have in common: a view over an object of a drawing (sp,
+/// grpSp, pic, ...). Where the object lies is a matter of its anchor, which each drawing has its own way for.
+class DrawnShape : public excel::Shape, public std::enable_shared_from_this<DrawnShape> {
+ public:
+  explicit DrawnShape(pugi::xml_node object);
+
+  std::int32_t Type() override { return type_; }
+  std::string Name() override;
+  void SetName(std::string_view name) override;
+  std::string AlternativeText() override;
+  void SetAlternativeText(std::string_view text) override;
+  double Left() override { return PlacedFrame().left; }
+  double Top() override { return PlacedFrame().top; }
+  double Width() override { return PlacedFrame().width; }
+  double Height() override { return PlacedFrame().height; }
+  void SetLeft(double points) override;
+  void SetTop(double points) override;
+  void SetWidth(double points) override;
+  void SetHeight(double points) override;
+  excel::Ref<excel::TextFrame> TextFrame() override;
+  excel::Ref<excel::TextFrame2> TextFrame2() override;
+  excel::Ref<excel::FillFormat> Fill() override;
+  excel::Ref<excel::LineFormat> Line() override;
+  void SetLockAspectRatio(bool value) override;
+  void SetAutoShapeType(std::int32_t type) override;
+
+  // for the other classes of this host
+  virtual Frame PlacedFrame() const = 0;
+  virtual std::string JournalPath() const = 0;
+  virtual void MarkChanged() = 0;
+  virtual Workbook& Book() const = 0;
+  /// The object's element; error 1004 once the shape was deleted.
+  pugi::xml_node Object() const;
+  /// spPr, or a group's grpSpPr; error 1004 for what has neither.
+  pugi::xml_node Properties() const;
+  const Journal& Log() const;
+  /// A shape that follows its text takes the size that its text now needs.
+  void FitToText();
+
+ protected:
+  /// Puts the shape elsewhere, as near as its drawing allows.
+  virtual void Place(const Frame& frame) = 0;
+  /// The element is gone, or about to go.
+  void Forget() { object_ = {}; }
+  std::string JournalPathUnder(const std::string& drawing) const;
+
+ private:
+  bool KeepsItsProportions() const;
+
+  pugi::xml_node object_;
+  std::int32_t type_;  ///< read once: whoever seeks a chart asks all shapes
+};
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,55 @@
+#include "xlsx/drawing/ShapeFont.h"
+
+#include "xlsx/Journal.h"
+#include "xlsx/Workbook.h"
+#include "xlsx/drawing/DrawingFont.h"
+#include "xlsx/drawing/DrawingText.h"
+#include "xlsx/drawing/DrawnShape.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx {
+
+namespace {
+
+class ShapeFont final : public DrawingFont {
+ public:
+  ShapeFont(std::shared_ptr<DrawnShape> shape, std::size_t start, std::size_t length, std::string path)
+      : DrawingFont(std::move(path)), shape_(std::move(shape)), start_(start), length_(length) {}
+
+ private:
+  const Journal& Log() const override { return shape_->Log(); }
+
+  std::vector<TextLook> Looks() const override {
+    auto runs = DrawingText(shape_->Object()).RunProperties(start_, length_);
+    if (runs.empty()) runs.emplace_back();
+    std::vector<TextLook> looks;
+    for (const pugi::xml_node& run : runs) {
+      const Theme& theme = shape_->Book().Theme();
+      const TextFace face = FaceOf(run, theme);
+      looks.push_back({face.font, face.size, xml::BooleanAttribute(run, "b", false),
+                       xml::BooleanAttribute(run, "i", false),
+                       theme.Color(xml::Child(run, "solidFill")).value_or(0)});
+    }
+    return looks;
+  }
+
+  void ForEachRun(const std::function<void(pugi::xml_node)>& set) override {
+    for (const pugi::xml_node& run : DrawingText(shape_->Object()).EnsureRunProperties(start_, length_)) {
+      set(run);
+    }
+    shape_->FitToText();
+    shape_->MarkChanged();
+  }
+
+  std::shared_ptr<DrawnShape> shape_;
+  std::size_t start_, length_;
+};
+
+}  // namespace
+
+excel::Ref<excel::Font> MakeShapeFont(std::shared_ptr<DrawnShape> shape, std::size_t start,
+                                      std::size_t length, std::string journalPath) {
+  return std::make_shared<ShapeFont>(std::move(shape), start, length, std::move(journalPath));
+}
+
+}  // namespace plotsmith::xlsx

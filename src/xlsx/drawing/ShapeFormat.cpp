@@ -1,0 +1,124 @@
+#include "xlsx/drawing/ShapeFormat.h"
+
+#include <string>
+
+#include "host/excel/ColorFormat.h"
+#include "runtime/RuntimeError.h"
+#include "xlsx/Journal.h"
+#include "xlsx/drawing/DrawingFill.h"
+#include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/drawing/DrawnShape.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx {
+
+using excel::Ref;
+using runtime::RuntimeError;
+
+namespace {
+
+constexpr double kMostPoints = 1584;
+
+/// The element that a shape's filling stands in: its properties, or those of its outline.
+enum class Part { kFill, kLine };
+
+pugi::xml_node PropertiesOf(const DrawnShape& shape, Part part) {
+  return part == Part::kFill ? shape.Properties() : schema::Ensure(shape.Properties(), "ln");
+}
+
+/// One of the two colours of a filling or an outline. A plain one shows the first only; the second comes to
+/// light in a pattern, and the file has no place for it elsewhere.
+class ShapeColor final : public excel::ColorFormat {
+ public:
+  ShapeColor(std::shared_ptr<DrawnShape> shape, Part part, bool back)
+      : shape_(std::move(shape)), part_(part), back_(back) {}
+
+  void SetRGB(std::int32_t color) override {
+    shape_->Log().Put(
+        [this] {
+          return shape_->JournalPath() + (part_ == Part::kFill ? ".Fill." : ".Line.") +
+                 (back_ ? "BackColor" : "ForeColor");
+        },
+        "RGB", color);
+    if (color < 0 || color > 0xFFFFFF) {
+      throw RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
+    }
+    const pugi::xml_node properties = PropertiesOf(*shape_, part_);
+    const pugi::xml_node fill = FindFill(properties);
+    if (xml::Is(fill, "pattFill")) {
+      SetFillColor(schema::Ensure(fill, back_ ? "bgClr" : "fgClr"), color);
+    } else if (!back_) {
+      SetFillColor(SetFill(properties, "solidFill"), color);
+    }
+    shape_->MarkChanged();
+  }
+
+ private:
+  std::shared_ptr<DrawnShape> shape_;
+  Part part_;
+  bool back_;
+};
+
+class ShapeFill final : public excel::FillFormat {
+ public:
+  explicit ShapeFill(std::shared_ptr<DrawnShape> shape) : shape_(std::move(shape)) {}
+  Ref<excel::ColorFormat> ForeColor() override {
+    return std::make_shared<ShapeColor>(shape_, Part::kFill, false);
+  }
+  Ref<excel::ColorFormat> BackColor() override {
+    return std::make_shared<ShapeColor>(shape_, Part::kFill, true);
+  }
+
+ private:
+  std::shared_ptr<DrawnShape> shape_;
+};
+
+class ShapeLine final : public excel::LineFormat {
+ public:
+  explicit ShapeLine(std::shared_ptr<DrawnShape> shape) : shape_(std::move(shape)) {}
+
+  void SetVisible(bool value) override {
+    shape_->Log().Put([this] { return Path(); }, "Visible", value);
+    const pugi::xml_node line = PropertiesOf(*shape_, Part::kLine);
+    if (!value) {
+      SetFill(line, "noFill");
+    } else if (const auto fill = FindFill(line); !fill || xml::Is(fill, "noFill")) {
+      RemoveFill(line);
+      // a shape with a style has a line by that
+      if (!xml::Child(shape_->Object(), "style"))
+        schema::SetVal(SetFill(line, "solidFill"), "schemeClr", "tx1");
+    }
+    shape_->MarkChanged();
+  }
+  void SetWeight(double points) override {
+    shape_->Log().Put([this] { return Path(); }, "Weight", points);
+    if (!(points >= 0 && points <= kMostPoints)) {
+      throw RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
+    }
+    xml::SetAttribute(PropertiesOf(*shape_, Part::kLine), "w", std::to_string(Emu(points)));
+    shape_->MarkChanged();
+  }
+  Ref<excel::ColorFormat> ForeColor() override {
+    return std::make_shared<ShapeColor>(shape_, Part::kLine, false);
+  }
+  Ref<excel::ColorFormat> BackColor() override {
+    return std::make_shared<ShapeColor>(shape_, Part::kLine, true);
+  }
+
+ private:
+  std::string Path() const { return shape_->JournalPath() + ".Line"; }
+
+  std::shared_ptr<DrawnShape> shape_;
+};
+
+}  // namespace
+
+Ref<excel::FillFormat> MakeFill(std::shared_ptr<DrawnShape> shape) {
+  return std::make_shared<ShapeFill>(std::move(shape));
+}
+
+Ref<excel::LineFormat> MakeLine(std::shared_ptr<DrawnShape> shape) {
+  return std::make_shared<ShapeLine>(std::move(shape));
+}
+
+}  // namespace plotsmith::xlsx

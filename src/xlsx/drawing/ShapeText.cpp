@@ -1,0 +1,171 @@
+#include "xlsx/drawing/ShapeText.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "host/excel/Characters.h"
+#include "host/excel/Constants.h"
+#include "runtime/RuntimeError.h"
+#include "runtime/Strings.h"
+#include "xlsx/Journal.h"
+#include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/drawing/DrawingText.h"
+#include "xlsx/drawing/DrawnShape.h"
+#include "xlsx/drawing/ShapeEnumerations.h"
+#include "xlsx/drawing/ShapeFont.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx {
+
+using excel::Ref;
+using runtime::RuntimeError;
+
+namespace {
+
+RuntimeError OutOfRange() {
+  return RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
+}
+
+class ShapeCharacters final : public excel::Characters {
+ public:
+  ShapeCharacters(std::shared_ptr<DrawnShape> shape, std::size_t start, std::optional<std::size_t> length)
+      : shape_(std::move(shape)), start_(start), length_(length) {}
+
+  void SetText(std::string_view text) override {
+    shape_->Log().Put([this] { return Path(); }, "Text", text);
+    Replace(text);
+  }
+  void Insert(std::string_view text) override {
+    shape_->Log().Call([this] { return Path(); }, "Insert", {text});
+    Replace(text);
+  }
+  std::string Text() override {
+    return runtime::Mid(DrawingText(shape_->Object()).Text(), start_, length_.value_or(std::string::npos));
+  }
+  Ref<excel::Font> Font() override {
+    return MakeShapeFont(shape_, start_ - 1, length_.value_or(std::u16string::npos), Path() + ".Font");
+  }
+
+ private:
+  std::string Path() const {
+    std::string path = shape_->JournalPath() + ".TextFrame.Characters";
+    if (length_) return path + "(" + std::to_string(start_) + ", " + std::to_string(*length_) + ")";
+    return start_ > 1 ? path + "(" + std::to_string(start_) + ")" : path;
+  }
+
+  void Replace(std::string_view text) {
+    DrawingText whole(shape_->Object());
+    std::u16string units = runtime::ToUtf16(whole.Text());
+    const std::size_t at = std::min(start_ - 1, units.size());
+    units.replace(at, length_.value_or(std::u16string::npos), runtime::ToUtf16(text));
+    whole.SetText(runtime::ToUtf8(units));
+    shape_->FitToText();
+    shape_->MarkChanged();
+  }
+
+  std::shared_ptr<DrawnShape> shape_;
+  std::size_t start_;
+  std::optional<std::size_t> length_;
+};
+
+/// Members that both frames have.
+class FrameMembers {
+ public:
+  FrameMembers(std::shared_ptr<DrawnShape> shape, const char* name) : shape_(std::move(shape)), name_(name) {}
+
+  void Put(const char* property, const runtime::Variant& value) const {
+    shape_->Log().Put([this] { return shape_->JournalPath() + "." + name_; }, property, value);
+  }
+  /// Sets one of the body's properties; the shape follows where it is to.
+  template <class Set>
+  void Change(const Set& set) const {
+    DrawingText text(shape_->Object());
+    set(text);
+    shape_->FitToText();
+    shape_->MarkChanged();
+  }
+  void SetMarginTop(double points) const {
+    Put("MarginTop", points);
+    if (!(points >= 0)) throw OutOfRange();
+    Change([&](DrawingText& text) {
+      xml::SetAttribute(text.BodyProperties(), "tIns", std::to_string(Emu(points)));
+    });
+  }
+  const std::shared_ptr<DrawnShape>& Shape() const { return shape_; }
+
+ private:
+  std::shared_ptr<DrawnShape> shape_;
+  const char* name_;
+};
+
+class ShapeTextFrame final : public excel::TextFrame {
+ public:
+  explicit ShapeTextFrame(std::shared_ptr<DrawnShape> shape) : frame_(std::move(shape), "TextFrame") {}
+
+  Ref<excel::Characters> Characters(std::int32_t start, std::int32_t length) override {
+    if (start < 1) throw RuntimeError(runtime::error::kApplication);
+    return std::make_shared<ShapeCharacters>(
+        frame_.Shape(), static_cast<std::size_t>(start),
+        length < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(length)));
+  }
+  void SetVerticalAlignment(std::int32_t alignment) override {
+    frame_.Put("VerticalAlignment", alignment);
+    const auto token = kTextAnchors.Token(alignment);
+    if (!token) throw OutOfRange();
+    frame_.Change([&](DrawingText& text) { xml::SetAttribute(text.BodyProperties(), "anchor", *token); });
+  }
+  void SetHorizontalAlignment(std::int32_t alignment) override {
+    frame_.Put("HorizontalAlignment", alignment);
+    const auto token = kTextAlignments.Token(alignment);
+    if (!token) throw OutOfRange();
+    frame_.Change([&](DrawingText& text) {
+      text.BodyProperties();
+      for (const pugi::xml_node& paragraph : text.Paragraphs()) {
+        xml::SetAttribute(schema::Ensure(paragraph, "pPr"), "algn", *token);
+      }
+    });
+  }
+  void SetMarginTop(double points) override { frame_.SetMarginTop(points); }
+
+ private:
+  FrameMembers frame_;
+};
+
+class ShapeTextFrame2 final : public excel::TextFrame2 {
+ public:
+  explicit ShapeTextFrame2(std::shared_ptr<DrawnShape> shape) : frame_(std::move(shape), "TextFrame2") {}
+
+  void SetWordWrap(bool value) override {
+    frame_.Put("WordWrap", value);
+    frame_.Change([&](DrawingText& text) {
+      xml::SetAttribute(text.BodyProperties(), "wrap", value ? "square" : "none");
+    });
+  }
+  void SetAutoSize(std::int32_t value) override {
+    frame_.Put("AutoSize", value);
+    const auto token = kAutoSizes.Token(value);
+    if (!token) throw OutOfRange();
+    frame_.Change([&](DrawingText& text) {
+      const pugi::xml_node body = text.BodyProperties();
+      for (const EnumerationEntry& entry : kAutoSizes.entries) schema::Remove(body, entry.token);
+      schema::Ensure(body, *token);
+    });
+  }
+  void SetMarginTop(double points) override { frame_.SetMarginTop(points); }
+
+ private:
+  FrameMembers frame_;
+};
+
+}  // namespace
+
+Ref<excel::TextFrame> MakeTextFrame(std::shared_ptr<DrawnShape> shape) {
+  return std::make_shared<ShapeTextFrame>(std::move(shape));
+}
+
+Ref<excel::TextFrame2> MakeTextFrame2(std::shared_ptr<DrawnShape> shape) {
+  return std::make_shared<ShapeTextFrame2>(std::move(shape));
+}
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,155 @@
+#include "xlsx/drawing/ShapeXml.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <set>
+
+#include "runtime/Strings.h"
+#include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/package/FreeNumber.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+/// Writers put what only newer programs know beside what all know; Excel takes the first choice that it
+/// knows, and so do we.
+pugi::xml_node Chosen(pugi::xml_node node) {
+  const auto choice = xml::Child(node, "Choice");
+  return choice ? choice : xml::Child(node, "Fallback");
+}
+
+constexpr std::array<std::string_view, 6> kObjects = {"sp",    "grpSp", "graphicFrame",
+                                                      "cxnSp", "pic",   "contentPart"};
+
+bool IsOneOf(pugi::xml_node node, std::span<const std::string_view> names) {
+  return std::find(names.begin(), names.end(), xml::LocalName(node)) != names.end();
+}
+
+/// Identity and form, as all new objects begin.
+std::string Start(std::string_view kind, unsigned id, std::string_view name, std::string_view properties) {
+  return "<@nv" + std::string(kind) + "><@cNvPr id=\"" + std::to_string(id) + "\" name=\"" +
+         xml::EncodeAttribute(name) + "\"/>" + std::string(properties) + "</@nv" + std::string(kind) + ">";
+}
+
+std::string Pair(std::string_view element, const char* first, const char* second, double x, double y) {
+  return "<~" + std::string(element) + " " + first + "=\"" + std::to_string(Emu(x)) + "\" " + second + "=\"" +
+         std::to_string(Emu(y)) + "\"/>";
+}
+
+std::string Place(const Frame& frame) {
+  return Pair("off", "x", "y", frame.left, frame.top) + Pair("ext", "cx", "cy", frame.width, frame.height);
+}
+
+std::string Form(const Frame& frame, std::string_view preset) {
+  return "<~xfrm>" + Place(frame) + "</~xfrm><~prstGeom prst=\"" + std::string(preset) +
+         "\"><~avLst/></~prstGeom>";
+}
+
+}  // namespace
+
+long long Emu(double points) { return std::llround(points * kEmuPerPoint); }
+
+void ForEachAnchor(pugi::xml_node root, std::span<const std::string_view> anchors,
+                   const std::function<void(pugi::xml_node, pugi::xml_node)>& visit) {
+  for (const pugi::xml_node& child : root.children()) {
+    if (IsOneOf(child, anchors)) {
+      if (const auto object = ObjectOf(child)) visit(child, object);
+    } else if (xml::Is(child, "AlternateContent")) {
+      ForEachAnchor(Chosen(child), anchors, visit);
+    }
+  }
+}
+
+pugi::xml_node ObjectOf(pugi::xml_node anchor) {
+  for (const pugi::xml_node& child : anchor.children()) {
+    if (IsOneOf(child, kObjects)) return child;
+    if (xml::Is(child, "AlternateContent")) {
+      if (const auto object = ObjectOf(Chosen(child))) return object;
+    }
+  }
+  return {};
+}
+
+pugi::xml_node IdentityOf(pugi::xml_node object) {
+  // nvSpPr, nvGraphicFramePr, nvPicPr, ...: the first child of each kind of object
+  for (const pugi::xml_node& child : object.children()) {
+    if (const auto identity = xml::Child(child, "cNvPr")) return identity;
+  }
+  return {};
+}
+
+pugi::xml_node KindPropertiesOf(pugi::xml_node object) {
+  for (const pugi::xml_node& child : IdentityOf(object).parent().children()) {
+    if (xml::LocalName(child).starts_with("cNv") && !xml::Is(child, "cNvPr")) return child;
+  }
+  return {};
+}
+
+pugi::xml_node ShapePropertiesOf(pugi::xml_node object) {
+  return xml::Child(object, xml::Is(object, "grpSp") ? "grpSpPr" : "spPr");
+}
+
+unsigned NextShapeId(pugi::xml_node root) {
+  struct Walker : pugi::xml_tree_walker {
+    std::set<long long> taken;
+    bool for_each(pugi::xml_node& node) override {
+      if (xml::Is(node, "cNvPr")) taken.insert(xml::IntegerAttribute(node, "id", 0));
+      return true;
+    }
+  } walker;
+  root.traverse(walker);
+  constexpr long long kFirst = 2;  // Excel's
+  return static_cast<unsigned>(FreeNumber(walker.taken, kFirst, std::numeric_limits<std::int32_t>::max()));
+}
+
+void SetTransform(pugi::xml_node object, const Frame& frame) {
+  pugi::xml_node transform;
+  if (const auto properties = ShapePropertiesOf(object)) {
+    transform = schema::Ensure(properties, "xfrm");
+  } else {
+    transform = xml::Child(object, "xfrm");
+  }
+  if (!transform) return;
+  const auto set = [&](const char* element, const char* first, const char* second, double x, double y) {
+    const pugi::xml_node node = schema::Ensure(transform, element);
+    xml::SetAttribute(node, first, std::to_string(Emu(x)));
+    xml::SetAttribute(node, second, std::to_string(Emu(y)));
+  };
+  set("off", "x", "y", frame.left, frame.top);
+  set("ext", "cx", "cy", frame.width, frame.height);
+}
+
+std::string Prefixed(std::string text, const std::string& prefix, const std::string& drawingMl) {
+  text = runtime::Replace(text, "@", prefix);
+  return runtime::Replace(text, "~", drawingMl);
+}
+
+std::string TextboxTemplate(unsigned id, std::string_view name, const Frame& frame, std::string_view dress) {
+  return R"(<@sp macro="" textlink="">)" + Start("SpPr", id, name, R"(<@cNvSpPr txBox="1"/>)") + "<@spPr>" +
+         Form(frame, "rect") + std::string(dress) +
+         R"(</@spPr><@txBody><~bodyPr vertOverflow="clip" wrap="square" rtlCol="0"/><~lstStyle/>)"
+         R"(<~p><~endParaRPr lang="en-US" sz="1100"><~latin typeface="+mn-lt"/></~endParaRPr></~p></@txBody></@sp>)";
+}
+
+std::string AutoShapeTemplate(unsigned id, std::string_view name, const Frame& frame,
+                              std::string_view preset) {
+  // dressed by the theme, as Excel dresses a new shape
+  return R"(<@sp macro="" textlink="">)" + Start("SpPr", id, name, "<@cNvSpPr/>") + "<@spPr>" +
+         Form(frame, preset) +
+         R"(</@spPr><@style><~lnRef idx="2"><~schemeClr val="accent1"><~shade val="50000"/></~schemeClr></~lnRef>)"
+         R"(<~fillRef idx="1"><~schemeClr val="accent1"/></~fillRef><~effectRef idx="0"><~schemeClr val="accent1"/>)"
+         R"(</~effectRef><~fontRef idx="minor"><~schemeClr val="lt1"/></~fontRef></@style><@txBody>)"
+         R"(<~bodyPr vertOverflow="clip" rtlCol="0" anchor="ctr"/><~lstStyle/><~p><~pPr algn="ctr"/>)"
+         R"(<~endParaRPr lang="en-US" sz="1100"/></~p></@txBody></@sp>)";
+}
+
+std::string GroupTemplate(unsigned id, std::string_view name, const Frame& frame) {
+  return "<@grpSp>" + Start("GrpSpPr", id, name, "<@cNvGrpSpPr/>") + "<@grpSpPr><~xfrm>" + Place(frame) +
+         Pair("chOff", "x", "y", frame.left, frame.top) +
+         Pair("chExt", "cx", "cy", frame.width, frame.height) + "</~xfrm></@grpSpPr></@grpSp>";
+}
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,179 @@
+#include "xlsx/numberformat/NumberFormat.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "xlsx/numberformat/NumberFormatProgram.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+/// What a cell shows that can't show its number.
+constexpr std::string_view kOverflow = "########";
+
+/// No cell holds a longer text, in bytes; a code that repeats the text over and over stops there.
+constexpr size_t kMostText = size_t{4} * 32767;
+
+/// The formats that a file names by a number only.
+struct Builtin {
+  int id;
+  std::string_view code;
+};
+
+constexpr Builtin kBuiltins[] = {
+    {0, "General"},
+    {1, "0"},
+    {2, "0.00"},
+    {3, "#,##0"},
+    {4, "#,##0.00"},
+    {5, "$#,##0_);($#,##0)"},
+    {6, "$#,##0_);[Red]($#,##0)"},
+    {7, "$#,##0.00_);($#,##0.00)"},
+    {8, "$#,##0.00_);[Red]($#,##0.00)"},
+    {9, "0%"},
+    {10, "0.00%"},
+    {11, "0.00E+00"},
+    {12, "# ?/?"},
+    {13, R"(# ??/??)"},
+    {14, "m/d/yyyy"},
+    {15, "d-mmm-yy"},
+    {16, "d-mmm"},
+    {17, "mmm-yy"},
+    {18, "h:mm AM/PM"},
+    {19, "h:mm:ss AM/PM"},
+    {20, "h:mm"},
+    {21, "h:mm:ss"},
+    {22, "m/d/yyyy h:mm"},
+    {37, "#,##0_);(#,##0)"},
+    {38, "#,##0_);[Red](#,##0)"},
+    {39, "#,##0.00_);(#,##0.00)"},
+    {40, "#,##0.00_);[Red](#,##0.00)"},
+    {41, "_(* #,##0_);_(* (#,##0);_(* \"-\"_);_(@_)"},
+    {42, "_($* #,##0_);_($* (#,##0);_($* \"-\"_);_(@_)"},
+    {43, "_(* #,##0.00_);_(* (#,##0.00);_(* \"-\"??_);_(@_)"},
+    {44, "_($* #,##0.00_);_($* (#,##0.00);_($* \"-\"??_);_(@_)"},
+    {45, "mm:ss"},
+    {46, "[h]:mm:ss"},
+    {47, "mm:ss.0"},
+    {48, "##0.0E+0"},
+    {49, "@"},
+};
+
+void AppendLiterals(std::string& out, const Section& section, Token::Kind placeholder,
+                    std::string_view text) {
+  const size_t begin = out.size();
+  for (const Token& token : section.tokens) {
+    if (out.size() - begin > kMostText) return;
+    if (token.kind == Token::Kind::kLiteral)
+      out += section.Text(token);
+    else if (token.kind == placeholder)
+      out += text;
+  }
+}
+
+void AppendGeneralSection(std::string& out, const Section& section, double magnitude, bool negative) {
+  if (negative) out += '-';
+  for (const Token& token : section.tokens) {
+    if (token.kind == Token::Kind::kGeneral)
+      AppendGeneral(out, magnitude);
+    else
+      out += section.Text(token);
+  }
+}
+
+}  // namespace
+
+NumberFormat::NumberFormat(std::unique_ptr<const Program> program) : program_(std::move(program)) {}
+NumberFormat::~NumberFormat() = default;
+
+std::shared_ptr<const NumberFormat> NumberFormat::Parse(std::string_view code) {
+  auto program = ParseNumberFormat(code);
+  if (!program) return nullptr;
+  return std::shared_ptr<const NumberFormat>(new NumberFormat(std::move(program)));
+}
+
+bool NumberFormat::IsDate() const {
+  const auto& numbers = program_->numbers;
+  return std::any_of(numbers.begin(), numbers.end(),
+                     [](const Section& section) { return section.kind == Section::Kind::kDate; });
+}
+
+bool NumberFormat::IsGeneral() const {
+  const auto& numbers = program_->numbers;
+  return numbers.size() == 1 && !program_->text && !numbers[0].condition &&
+         numbers[0].kind == Section::Kind::kGeneral && numbers[0].tokens.size() == 1;
+}
+
+void NumberFormat::AppendNumber(std::string& out, double value, DateSystem dates) const {
+  if (!std::isfinite(value)) {
+    out += "#NUM!";
+    return;
+  }
+  const Section* section = program_->Select(value);
+  if (!section) {
+    // A lone condition leaves the other numbers to General, two of them leave them without a format.
+    if (program_->numbers.size() < 2)
+      AppendGeneral(out, value);
+    else
+      out += kOverflow;
+    return;
+  }
+  const bool negative = value < 0 && !section->only_negative;
+  const double magnitude = std::fabs(value);
+  switch (section->kind) {
+    case Section::Kind::kGeneral:
+      AppendGeneralSection(out, *section, magnitude, negative);
+      return;
+    case Section::Kind::kNumber:
+    case Section::Kind::kScientific:
+      AppendNumberSection(out, *section, magnitude, negative);
+      return;
+    case Section::Kind::kDate:
+      // The system of 1900 has no negative dates, whatever the section would make of them.
+      if ((value < 0 && dates == DateSystem::k1900) ||
+          !AppendDateSection(out, *section, magnitude, negative, dates))
+        out += kOverflow;
+      return;
+    case Section::Kind::kFraction:
+      if (negative) out += '-';
+      AppendFractionSection(out, *section, magnitude);
+      return;
+    case Section::Kind::kLiteral:
+    case Section::Kind::kText:
+      if (negative) out += '-';
+      AppendLiterals(out, *section, Token::Kind::kText, {});
+      return;
+  }
+}
+
+void NumberFormat::AppendText(std::string& out, std::string_view text) const {
+  if (!program_->text) {
+    out += text;
+    return;
+  }
+  switch (program_->text->kind) {
+    case Section::Kind::kLiteral:
+    case Section::Kind::kText:
+      AppendLiterals(out, *program_->text, Token::Kind::kText, text);
+      return;
+    case Section::Kind::kGeneral:
+      AppendLiterals(out, *program_->text, Token::Kind::kGeneral, text);
+      return;
+    default:  // a number's section has no place for it
+      out += text;
+      return;
+  }
+}
+
+void NumberFormat::AppendBoolean(std::string& out, bool value) const {
+  AppendText(out, value ? "TRUE" : "FALSE");
+}
+
+std::string_view BuiltinNumberFormat(int id) {
+  const auto* found = std::find_if(std::begin(kBuiltins), std::end(kBuiltins),
+                                   [&](const Builtin& builtin) { return builtin.id == id; });
+  return found == std::end(kBuiltins) ? std::string_view() : found->code;
+}
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,132 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "xlsx/numberformat/NumberFormat.h"
+
+namespace plotsmith::xlsx {
+
+/// One step of writing a value. What a digit placeholder means is settled while parsing, so that writing is
+/// one walk over the tokens. Each keeps its text, so that a sign without a meaning turns into a literal by
+/// its kind.
+struct Token {
+  enum class Kind : uint8_t {
+    kLiteral,
+    kText,     // @
+    kGeneral,  // the word General
+    // Numbers; the placeholders keep their sign 0, # or ? in `symbol`.
+    kInteger,
+    kPoint,
+    kDecimal,
+    kExponent,  // E; `symbol` is the + or - behind it
+    kExponentDigit,
+    kNumerator,
+    kDenominator,
+    // Dates; `size` is the number of letters.
+    kYear,
+    kMonth,
+    kDay,
+    kHour,
+    kMinute,
+    kSecond,
+    kSubsecond,
+    kAmPm,  // the text holds both marks, "AM/PM"
+    kEra,
+    kEraYear,
+    kBuddhistYear,
+    // Only between reading a section and settling it.
+    kDigit,       // 0, # or ? somewhere
+    kPlainDigit,  // 1 to 9
+    kComma,       // `symbol` of them in a row, which show as one
+    kSlash,
+    kPercent,
+  };
+
+  Kind kind = Kind::kLiteral;
+  char symbol = 0;
+  uint32_t begin = 0;  // of the text
+  uint32_t size = 0;
+};
+
+struct Condition {
+  enum class Operator : uint8_t { kLess, kLessEqual, kEqual, kNotEqual, kGreaterEqual, kGreater };
+
+  Operator op = Operator::kEqual;
+  double limit = 0;
+
+  bool Holds(double value) const;
+};
+
+enum class Calendar : uint8_t { kGregorian, kHijri };
+
+/// What a format says about one class of values.
+struct Section {
+  enum class Kind : uint8_t { kLiteral, kGeneral, kText, kNumber, kScientific, kFraction, kDate };
+
+  Kind kind = Kind::kLiteral;
+  std::optional<Condition> condition;
+  bool only_negative = false;       // no other number gets here, so that the minus sign goes without saying
+  bool hides_sign_of_zero = false;  // a number that shows zeros only shows no minus sign either
+  std::vector<Token> tokens;
+  std::string texts;  // of the tokens
+
+  // Numbers.
+  int scale = 0;  // the power of ten that percent signs and trailing commas multiply by
+  int integers = 0;
+  int decimals = 0;
+  int exponents = 0;
+  bool grouping = false;
+
+  // Fractions.
+  bool has_integer_part = false;
+  int numerators = 0;
+  int denominators = 0;
+  int64_t fixed_denominator = 0;  // 0: the best one of so many digits
+  size_t fraction_begin = 0;      // the tokens that stay blank beside a whole number
+  size_t fraction_end = 0;
+
+  // Dates.
+  Calendar calendar = Calendar::kGregorian;
+  uint16_t language = 0;
+  int year_offset = 0;  // of a solar calendar with another first year
+  int subseconds = 0;   // digits
+  bool twelve_hours = false;
+  Token::Kind elapsed = Token::Kind::kLiteral;  // the unit that counts on instead of starting again
+
+  std::string_view Text(const Token& token) const {
+    return std::string_view(texts).substr(token.begin, token.size);
+  }
+};
+
+struct NumberFormat::Program {
+  std::vector<Section> numbers;  // at most three; the first whose condition holds
+  std::optional<Section> text;
+
+  /// Null if no section wants the value.
+  const Section* Select(double value) const;
+};
+
+/// Null if the code is refused.
+std::unique_ptr<NumberFormat::Program> ParseNumberFormat(std::string_view code);
+
+/// Settle what the tokens of a section with date fields mean. False if they make no sense.
+bool SettleDate(Section& section);
+/// The same for a section with digit placeholders; a fraction is one with this slash.
+bool SettleNumber(Section& section);
+bool SettleFraction(Section& section, size_t slash);
+/// The index of the slash that makes a section a fraction, behind the last token if there is none.
+size_t FindFractionSlash(const std::vector<Token>& tokens);
+
+/// `magnitude` isn't negative; `negative` asks for a minus sign.
+void AppendNumberSection(std::string& out, const Section& section, double magnitude, bool negative);
+void AppendFractionSection(std::string& out, const Section& section, double magnitude);
+/// False if the value is none that this date system can show.
+bool AppendDateSection(std::string& out, const Section& section, double magnitude, bool negative,
+                       DateSystem dates);
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,399 @@
+#include "xlsx/package/Package.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "runtime/Strings.h"
+#include "xlsx/Limits.h"
+#include "xlsx/package/AtomicFile.h"
+#include "xlsx/package/PackageError.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+constexpr std::string_view kContentTypes = "/[Content_Types].xml";
+constexpr std::string_view kContentTypesAddress =
+    "http://schemas.openxmlformats.org/package/2006/content-types";
+constexpr std::string_view kRelationshipsAddress =
+    "http://schemas.openxmlformats.org/package/2006/relationships";
+constexpr std::string_view kRelationshipsType = "application/vnd.openxmlformats-package.relationships+xml";
+
+std::string Folded(std::string_view name) {
+  std::string key(name);
+  for (char& c : key) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  return key;
+}
+
+std::string_view Folder(std::string_view part) { return part.substr(0, part.rfind('/') + 1); }
+
+/// "/xl/workbook.xml" has its relationships in "/xl/_rels/workbook.xml.rels".
+std::string RelationshipsPart(std::string_view part) {
+  if (part.empty()) return "/_rels/.rels";
+  const std::string_view folder = Folder(part);
+  return std::string(folder) + "_rels/" + std::string(part.substr(folder.size())) + ".rels";
+}
+
+std::string PercentDecoded(std::string_view target) {
+  const auto digit = [](char c) -> int {
+    if (c >= '0' && c <= '9') return c - '0';
+    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+    return -1;
+  };
+  std::string text;
+  for (std::size_t i = 0; i < target.size(); ++i) {
+    if (target[i] == '%' && i + 2 < target.size() && digit(target[i + 1]) >= 0 && digit(target[i + 2]) >= 0) {
+      text += static_cast<char>(digit(target[i + 1]) * 16 + digit(target[i + 2]));
+      i += 2;
+    } else {
+      text += target[i];
+    }
+  }
+  return text;
+}
+
+/// The part that an override is about, to be compared.
+std::string PartNameOf(pugi::xml_node type) {
+  return Folded(PercentDecoded(xml::Attribute(type, "PartName")));
+}
+
+std::string_view LastSegment(std::string_view address) { return address.substr(address.rfind('/') + 1); }
+
+/// A name as the file writes it: what an address can't hold goes by its number, as in ECMA-376-2.
+std::string PercentEncoded(std::string_view name) {
+  constexpr std::string_view kPlain =
+      "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~!$&'()*+,;=:@/";
+  std::string text;
+  for (const char c : name) {
+    if (kPlain.find(c) != std::string_view::npos) {
+      text += c;
+    } else {
+      constexpr std::string_view kDigits = "0123456789ABCDEF";
+      const auto byte = static_cast<unsigned char>(c);
+      text.append({'%', kDigits[byte >> 4], kDigits[byte & 15]});
+    }
+  }
+  return text;
+}
+
+}  // namespace
+
+/// Bytes are held only of a part that is new or changed; of any other there is the entry in the archive.
+struct Package::Part {
+  std::string name;
+  std::optional<std::size_t> entry;
+  std::optional<std::string> bytes;
+};
+
+Package::Package() : contentTypes_(std::make_unique<pugi::xml_document>()) {
+  xml::Parse(*contentTypes_, R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?><Types xmlns=")" +
+                                 std::string(kContentTypesAddress) +
+                                 R"("><Default Extension="rels" ContentType=")" +
+                                 std::string(kRelationshipsType) +
+                                 R"("/><Default Extension="xml" ContentType="application/xml"/></Types>)");
+  Put(kContentTypes, "");
+  contentTypesChanged_ = true;
+}
+
+Package::Package(Package&&) noexcept = default;
+Package& Package::operator=(Package&&) noexcept = default;
+Package::~Package() = default;
+
+Package Package::Open(const std::string& path) {
+  Package package;
+  package.parts_.clear();
+  package.byName_.clear();
+  package.archive_ = std::make_unique<Archive>(path);
+  const auto& entries = package.archive_->Entries();
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    auto part = std::make_unique<Part>();
+    part->name = (entries[i].name.starts_with('/') ? "" : "/") + PercentDecoded(entries[i].name);
+    part->entry = i;
+    if (entries[i].encrypted) throw PartError(part->name, "it is encrypted");
+    if (!package.byName_.emplace(Folded(part->name), part.get()).second) {
+      throw PackageError("it holds two parts of the name " + part->name);
+    }
+    package.parts_.push_back(std::move(part));
+  }
+  package.contentTypesChanged_ = package.changed_ = false;
+  package.LoadContentTypes();
+  return package;
+}
+
+void Package::LoadContentTypes() {
+  if (!Has(kContentTypes)) throw PackageError("it is not an Office document: it has no content types");
+  contentTypes_ = std::make_unique<pugi::xml_document>();
+  InPart(kContentTypes, [&] { xml::Parse(*contentTypes_, Read(kContentTypes)); });
+}
+
+Package::Part* Package::Find(std::string_view part) const {
+  const auto found = byName_.find(Folded(part));
+  return found == byName_.end() ? nullptr : found->second;
+}
+
+const Package::Part& Package::Get(std::string_view part) const {
+  const Part* found = Find(part);
+  if (found == nullptr) throw PackageError("its part " + std::string(part) + " is missing");
+  return *found;
+}
+
+Package::Part& Package::Put(std::string_view name, std::string bytes) {
+  changed_ = true;
+  relationships_.erase(Folded(name));
+  Part* part = Find(name);
+  if (part == nullptr) {
+    part = parts_.emplace_back(std::make_unique<Part>()).get();
+    part->name = name;
+    byName_.emplace(Folded(name), part);
+  }
+  part->bytes = std::move(bytes);
+  return *part;
+}
+
+bool Package::Has(std::string_view part) const { return Find(part) != nullptr; }
+
+std::vector<std::string> Package::Parts() const {
+  std::vector<std::string> names;
+  for (const auto& part : parts_) names.push_back(part->name);
+  return names;
+}
+
+std::string Package::ContentType(std::string_view part) const {
+  const pugi::xml_node types = xml::Root(*contentTypes_);
+  const std::string key = Folded(part);
+  for (pugi::xml_node type = xml::Child(types, "Override"); type; type = xml::NextSame(type)) {
+    if (PartNameOf(type) == key) return xml::Attribute(type, "ContentType");
+  }
+  const std::string extension = key.substr(key.rfind('.') + 1);
+  for (pugi::xml_node type = xml::Child(types, "Default"); type; type = xml::NextSame(type)) {
+    if (Folded(xml::Attribute(type, "Extension")) == extension) return xml::Attribute(type, "ContentType");
+  }
+  return {};
+}
+
+namespace {
+
+class NamedStream : public Archive::Stream {
+ public:
+  NamedStream(std::unique_ptr<Archive::Stream> inner, std::string part)
+      : inner_(std::move(inner)), part_(std::move(part)) {}
+
+  std::size_t Read(char* buffer, std::size_t size) override {
+    return InPart(part_, [&] { return inner_->Read(buffer, size); });
+  }
+
+ private:
+  std::unique_ptr<Archive::Stream> inner_;
+  std::string part_;
+};
+
+class MemoryStream : public Archive::Stream {
+ public:
+  explicit MemoryStream(std::string_view bytes) : rest_(bytes) {}
+  std::size_t Read(char* buffer, std::size_t size) override {
+    const std::size_t count = rest_.copy(buffer, size);
+    rest_.remove_prefix(count);
+    return count;
+  }
+
+ private:
+  std::string_view rest_;
+};
+
+void CheckSize(const ArchiveEntry& entry, const std::string& part, std::uint64_t limit) {
+  const bool bomb = entry.size > limits::kAnyRatio && entry.size / limits::kRatio > entry.compressedSize;
+  if (bomb || entry.size > limit) {
+    throw PartError(part,
+                    "it inflates to " + std::to_string(entry.size) + " bytes, which no sound workbook needs");
+  }
+}
+
+}  // namespace
+
+std::unique_ptr<Archive::Stream> Package::Stream(std::string_view name) const {
+  const Part& part = Get(name);
+  if (part.bytes) return std::make_unique<MemoryStream>(*part.bytes);
+  CheckSize(archive_->Entries()[*part.entry], part.name, limits::kStreamedPart);
+  return InPart(part.name,
+                [&] { return std::make_unique<NamedStream>(archive_->Open(*part.entry), part.name); });
+}
+
+std::string Package::Read(std::string_view name) const {
+  const Part& part = Get(name);
+  if (part.bytes) return *part.bytes;
+  const ArchiveEntry& entry = archive_->Entries()[*part.entry];
+  CheckSize(entry, part.name, limits::kHeldPart);
+  std::string bytes(entry.size, '\0');
+  const auto stream = Stream(name);
+  std::size_t total = 0;
+  while (const std::size_t count = stream->Read(bytes.data() + total, bytes.size() - total)) total += count;
+  char beyond;  // one more read proves size and checksum
+  stream->Read(&beyond, 1);
+  return bytes;
+}
+
+void Package::Replace(std::string_view part, std::string bytes) {
+  Get(part);
+  Put(part, std::move(bytes));
+}
+
+void Package::Add(std::string_view part, std::string_view contentType, std::string bytes) {
+  Put(part, std::move(bytes));
+  if (ContentType(part) == contentType) return;
+  pugi::xml_node types = xml::Root(*contentTypes_);
+  pugi::xml_node type;
+  for (const pugi::xml_node& other : xml::Children(types, "Override")) {
+    if (PartNameOf(other) == Folded(part)) type = other;  // a part that was here once left it behind
+  }
+  if (!type) type = types.append_child((std::string(xml::Prefix(types.name())) + "Override").c_str());
+  xml::SetAttribute(type, "PartName", PercentEncoded(part));
+  xml::SetAttribute(type, "ContentType", contentType);
+  contentTypesChanged_ = true;
+}
+
+void Package::Remove(std::string_view name, std::string_view source) {
+  const Part* part = &Get(name);
+  const std::string key = Folded(name), rels = RelationshipsPart(source);
+  pugi::xml_document document;
+  xml::Parse(document, Read(rels));
+  pugi::xml_node root = xml::Root(document);
+  for (pugi::xml_node node : xml::Children(root, "Relationship")) {
+    if (Folded(ResolveTarget(source, xml::Attribute(node, "Target"))) == key) root.remove_child(node);
+  }
+  Replace(rels, xml::Serialize(document));
+  pugi::xml_node types = xml::Root(*contentTypes_);
+  for (pugi::xml_node type : xml::Children(types, "Override")) {
+    if (PartNameOf(type) == key) types.remove_child(type);
+  }
+  contentTypesChanged_ = changed_ = true;
+  byName_.erase(key);
+  std::erase_if(parts_, [&](const auto& other) { return other.get() == part; });
+}
+
+std::string Package::FreeName(std::string_view prefix, std::string_view suffix) const {
+  for (int n = 1;; ++n) {
+    std::string name = std::string(prefix) + std::to_string(n) + std::string(suffix);
+    if (!Has(name)) return name;
+  }
+}
+
+const std::vector<Relationship>& Package::Relationships(std::string_view part) const {
+  const std::string rels = RelationshipsPart(part);
+  const std::string key = Folded(rels);
+  if (const auto known = relationships_.find(key); known != relationships_.end()) return known->second;
+  std::vector<Relationship> list;
+  pugi::xml_document document;
+  if (Has(rels)) InPart(rels, [&] { xml::Parse(document, Read(rels)); });
+  for (const pugi::xml_node& node : xml::Children(xml::Root(document), "Relationship")) {
+    Relationship relationship;
+    relationship.id = xml::Attribute(node, "Id");
+    relationship.type = LastSegment(xml::Attribute(node, "Type"));
+    relationship.external = xml::Attribute(node, "TargetMode") == "External";
+    const std::string target = xml::Attribute(node, "Target");
+    relationship.target = relationship.external ? target : ResolveTarget(part, target);
+    const Part* known = relationship.external ? nullptr : Find(relationship.target);
+    if (known != nullptr) relationship.target = known->name;
+    list.push_back(std::move(relationship));
+  }
+  return relationships_.emplace(key, std::move(list)).first->second;
+}
+
+std::optional<Relationship> Package::FindRelationship(std::string_view part, std::string_view id) const {
+  for (const Relationship& relationship : Relationships(part)) {
+    if (relationship.id == id) return relationship;
+  }
+  return std::nullopt;
+}
+
+std::optional<Relationship> Package::FindRelationshipOfType(std::string_view part,
+                                                            std::string_view type) const {
+  for (const Relationship& relationship : Relationships(part)) {
+    if (relationship.type == type && !relationship.external) return relationship;
+  }
+  return std::nullopt;
+}
+
+std::string Package::AddRelationship(std::string_view part, std::string_view typeAddress,
+                                     std::string_view target) {
+  const std::string rels = RelationshipsPart(part);
+  pugi::xml_document document;
+  if (Has(rels)) {
+    xml::Parse(document, Read(rels));
+  } else {
+    xml::Parse(document, R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?><Relationships xmlns=")" +
+                             std::string(kRelationshipsAddress) + R"("/>)");
+  }
+  pugi::xml_node root = xml::Root(document);
+  std::string id;
+  for (int n = 1; id.empty(); ++n) {
+    const std::string candidate = "rId" + std::to_string(n);
+    bool taken = false;
+    for (const pugi::xml_node& node : xml::Children(root, "Relationship")) {
+      taken |= Folded(xml::Attribute(node, "Id")) == Folded(candidate);
+    }
+    if (!taken) id = candidate;
+  }
+  pugi::xml_node node = root.append_child((std::string(xml::Prefix(root.name())) + "Relationship").c_str());
+  xml::SetAttribute(node, "Id", id);
+  xml::SetAttribute(node, "Type", typeAddress);
+  xml::SetAttribute(node, "Target", RelativeTarget(part, target));
+  Add(rels, kRelationshipsType, xml::Serialize(document));
+  return id;
+}
+
+void Package::Save(const std::string& path) {
+  if (contentTypesChanged_) Replace(kContentTypes, xml::Serialize(*contentTypes_));
+  AtomicFile file(path);
+  ArchiveWriter writer(file.TemporaryPath());
+  for (const auto& part : parts_) {
+    if (part->bytes) {
+      const bool stored = part->entry && archive_->Entries()[*part->entry].method == 0;
+      writer.Add(part->entry                   ? archive_->Entries()[*part->entry].name
+                 : part->name == kContentTypes ? part->name.substr(1)  // no part, and so by its own name
+                                               : PercentEncoded(part->name.substr(1)),
+                 *part->bytes, !stored);
+    } else {
+      writer.Copy(*archive_, *part->entry);
+    }
+  }
+  if (archive_) writer.CopyComment(*archive_);
+  writer.Finish();
+  file.Commit();
+}
+
+std::string ResolveTarget(std::string_view source, std::string_view target) {
+  target = target.substr(0, target.find('#'));
+  std::string path = PercentDecoded(target);
+  std::replace(path.begin(), path.end(), '\\', '/');
+  if (!path.starts_with('/')) path.insert(0, source.empty() ? "/" : Folder(source));
+  std::vector<std::string_view> segments;
+  for (std::string_view rest = path; !rest.empty();) {
+    rest.remove_prefix(1);  // the slash
+    const std::string_view segment = rest.substr(0, rest.find('/'));
+    rest.remove_prefix(segment.size());
+    if (segment == "..") {
+      if (segments.empty()) return {};
+      segments.pop_back();
+    } else if (segment != "." && !segment.empty()) {
+      segments.push_back(segment);
+    }
+  }
+  std::string resolved;
+  for (const std::string_view segment : segments) resolved.append("/").append(segment);
+  return resolved;
+}
+
+std::string RelativeTarget(std::string_view source, std::string_view target) {
+  std::string_view folder = source.empty() ? std::string_view("/") : Folder(source);
+  std::string up;
+  while (!target.starts_with(folder)) {
+    folder = Folder(folder.substr(0, folder.size() - 1));
+    up += "../";
+  }
+  return up + PercentEncoded(target.substr(folder.size()));
+}
+
+}  // namespace plotsmith::xlsx

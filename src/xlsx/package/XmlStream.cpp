@@ -1,0 +1,197 @@
+#include "xlsx/package/XmlStream.h"
+
+#include <cstring>
+#include <utility>
+
+#include "xlsx/Limits.h"
+#include "xlsx/package/PackageError.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+constexpr std::size_t kWindow = 256 * 1024;
+/// An XML declaration is shorter, in any encoding.
+constexpr std::ptrdiff_t kDeclaration = 512;
+/// Behind the zero byte: whoever compares a few bytes at once may look so far.
+constexpr std::size_t kSlack = 15;
+
+bool IsSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+
+}  // namespace
+
+XmlStream::XmlStream(Archive::Stream& source) : source_(source), window_(kWindow + 1 + kSlack) {
+  position_ = end_ = window_.data();
+  while (end_ - position_ < kDeclaration && Fill()) {
+  }
+  const std::string_view start(position_, static_cast<std::size_t>(end_ - position_));
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
+  if (start.starts_with(kMark)) position_ += kMark.size();
+  if (start.starts_with(kMark) || !xml::NeedsConversion(start)) return;
+  std::string bytes(start);
+  for (;;) {
+    const std::size_t count = source_.Read(window_.data(), kWindow);
+    if (count == 0) break;
+    bytes.append(window_.data(), count);
+    if (bytes.size() > limits::kHeldPart) throw PackageError("its text is too long");
+  }
+  converted_ = xml::ToUtf8(std::move(bytes));
+  isConverted_ = true;
+  position_ = end_ = window_.data();
+  window_[0] = '\0';
+}
+
+void XmlStream::Damaged() { throw PackageError("its XML is damaged"); }
+
+std::size_t XmlStream::ReadSource(char* buffer, std::size_t size) {
+  if (!isConverted_) return source_.Read(buffer, size);
+  const std::size_t count = std::string_view(converted_).substr(convertedAt_).copy(buffer, size);
+  convertedAt_ += count;
+  return count;
+}
+
+bool XmlStream::Fill() {
+  const auto unread = static_cast<std::size_t>(end_ - position_);
+  std::memmove(window_.data(), position_, unread);
+  if (unread == window_.size() - 1 - kSlack) {
+    if (window_.size() > limits::kXmlToken) throw PackageError("it holds a text without an end");
+    window_.resize(window_.size() * 2);
+  }
+  const std::size_t count = ReadSource(window_.data() + unread, window_.size() - 1 - kSlack - unread);
+  position_ = window_.data();
+  end_ = window_.data() + unread + count;
+  window_[unread + count] = '\0';
+  return count > 0;
+}
+
+XmlStream::Tag XmlStream::Next(std::string* text) {
+  for (;;) {
+    // a text may be taken piece by piece, a tag only whole
+    const auto* open =
+        static_cast<const char*>(std::memchr(position_, '<', static_cast<std::size_t>(end_ - position_)));
+    if (text != nullptr) {
+      // an entity must not be cut by the window's end
+      while (open == nullptr) {
+        if (!Fill()) break;
+        open =
+            static_cast<const char*>(std::memchr(position_, '<', static_cast<std::size_t>(end_ - position_)));
+      }
+      const char* stop = open == nullptr ? end_ : open;
+      *text += xml::Decode({position_, static_cast<std::size_t>(stop - position_)});
+    }
+    position_ = open == nullptr ? end_ : open;
+    if (open == nullptr) {
+      if (!Fill()) return {Kind::kEndOfInput, {}, {}};
+      continue;
+    }
+
+    const auto startsWith = [&](std::string_view what) {
+      while (static_cast<std::size_t>(end_ - position_) < what.size() && Fill()) {
+      }
+      return std::string_view(position_, static_cast<std::size_t>(end_ - position_)).starts_with(what);
+    };
+    const auto passTo = [&](std::string_view what, std::size_t from) -> std::string_view {
+      for (std::size_t search = from;;) {
+        const std::string_view unread(position_, static_cast<std::size_t>(end_ - position_));
+        const auto at = unread.find(what, search);
+        if (at != std::string_view::npos) {
+          const std::string_view passed = unread.substr(from, at - from);
+          position_ += at + what.size();
+          return passed;
+        }
+        search = unread.size() > from + what.size() ? unread.size() - what.size() : from;
+        if (!Fill()) Damaged();
+      }
+    };
+    if (startsWith("<!--")) {
+      passTo("-->", 4);
+      continue;
+    }
+    if (startsWith("<?")) {
+      passTo("?>", 2);
+      continue;
+    }
+    if (startsWith("<![CDATA[")) {
+      const std::string_view data = passTo("]]>", 9);
+      if (text != nullptr) *text += data;
+      continue;
+    }
+    if (startsWith("<!")) {
+      throw PackageError(xml::kDocumentType);
+    }
+
+    const char* p = position_ + 1;
+    for (char quote = 0;; ++p) {
+      if (p == end_) {
+        const auto read = p - position_;
+        if (!Fill()) Damaged();
+        p = position_ + read;
+      }
+      if (quote != 0) {
+        if (*p == quote) quote = 0;
+      } else if (*p == '"' || *p == '\'') {
+        quote = *p;
+      } else if (*p == '>') {
+        break;
+      }
+    }
+    std::string_view inside(position_ + 1, static_cast<std::size_t>(p - position_ - 1));
+    position_ = p + 1;
+    Tag tag{Kind::kStart, {}, {}};
+    if (inside.starts_with('/')) {
+      tag.kind = Kind::kEnd;
+      inside.remove_prefix(1);
+    } else if (inside.ends_with('/')) {
+      tag.kind = Kind::kEmpty;
+      inside.remove_suffix(1);
+    }
+    std::size_t length = 0;
+    while (length < inside.size() && !IsSpace(inside[length])) ++length;
+    tag.name = xml::LocalName(inside.substr(0, length));
+    tag.attributes = inside.substr(length);
+    return tag;
+  }
+}
+
+void XmlStream::ReadText(std::string& text) {
+  for (int depth = 1; depth > 0;) {
+    const Tag tag = Next(&text);
+    if (tag.kind == Kind::kStart) ++depth;
+    if (tag.kind == Kind::kEnd) --depth;
+    if (tag.kind == Kind::kEndOfInput) Damaged();
+  }
+}
+
+void XmlStream::SkipElement() {
+  for (int depth = 1; depth > 0;) {
+    const Tag tag = Next();
+    if (tag.kind == Kind::kStart) ++depth;
+    if (tag.kind == Kind::kEnd) --depth;
+    if (tag.kind == Kind::kEndOfInput) Damaged();
+  }
+}
+
+void XmlStream::Drain() {
+  do {
+    position_ = end_;
+  } while (Fill());
+}
+
+std::string AttributeIn(std::string_view attributes, std::string_view name) {
+  while (!attributes.empty()) {
+    const auto equals = attributes.find('=');
+    if (equals == std::string_view::npos) break;
+    std::string_view found = attributes.substr(0, equals);
+    while (!found.empty() && IsSpace(found.front())) found.remove_prefix(1);
+    while (!found.empty() && IsSpace(found.back())) found.remove_suffix(1);
+    const auto open = attributes.find_first_of("\"'", equals);
+    if (open == std::string_view::npos) break;
+    const auto close = attributes.find(attributes[open], open + 1);
+    if (close == std::string_view::npos) break;
+    if (found == name) return xml::Decode(attributes.substr(open + 1, close - open - 1));
+    attributes.remove_prefix(close + 1);
+  }
+  return {};
+}
+
+}  // namespace plotsmith::xlsx

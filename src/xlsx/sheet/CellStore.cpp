@@ -1,0 +1,65 @@
+#include "xlsx/sheet/CellStore.h"
+
+#include <algorithm>
+
+namespace plotsmith::xlsx {
+namespace {
+
+/// The last of the runs, by ascending first row, that begins at the row or before; the count if there is
+/// none.
+template <class Runs>
+std::size_t RunBefore(const Runs& runs, std::int32_t row) {
+  const auto next = std::upper_bound(runs.begin(), runs.end(), row,
+                                     [](std::int32_t r, const auto& run) { return r < run.firstRow; });
+  return next == runs.begin() ? runs.size() : static_cast<std::size_t>(next - runs.begin()) - 1;
+}
+
+}  // namespace
+
+void CellStore::Column::AppendElsewhere(std::int32_t row, PackedValue value, std::uint32_t style) {
+  const std::int32_t last = runs_.empty() ? 0 : runs_.back().lastRow;
+  if (row <= last) {
+    strays_[row] = {value, style};
+    return;
+  }
+  if (runs_.empty() || row - last > kFilledGap + 1) {
+    runs_.push_back({row, row, static_cast<std::uint32_t>(values_.size())});
+  } else {
+    for (std::int32_t gap = last + 1; gap < row; ++gap) values_.emplace_back();
+  }
+  // rows in a gap have no cell, and so no style
+  if (row > last + 1 && lastStyle_ != 0) styles_.push_back({last + 1, lastStyle_ = 0});
+  if (style != lastStyle_) styles_.push_back({row, lastStyle_ = style});
+  values_.push_back(value);
+  runs_.back().lastRow = row;
+}
+
+PackedValue CellStore::Column::FindValue(std::int32_t row) const {
+  if (!strays_.empty()) {
+    if (const auto stray = strays_.find(row); stray != strays_.end()) return stray->second.value;
+  }
+  const std::size_t found = RunBefore(runs_, row);
+  if (found == runs_.size() || row > runs_[found].lastRow) return {};
+  recentRun_ = found;
+  return values_[runs_[found].firstValue + static_cast<std::size_t>(row - runs_[found].firstRow)];
+}
+
+std::uint32_t CellStore::Column::StyleAt(std::int32_t row) const {
+  if (!strays_.empty()) {
+    if (const auto stray = strays_.find(row); stray != strays_.end()) return stray->second.style;
+  }
+  if (styles_.empty() || row < styles_.front().firstRow || row > runs_.back().lastRow) return 0;
+  const auto holds = [&](std::size_t i) {
+    return styles_[i].firstRow <= row && (i + 1 == styles_.size() || styles_[i + 1].firstRow > row);
+  };
+  if (!holds(recentStyle_)) recentStyle_ = RunBefore(styles_, row);
+  return styles_[recentStyle_].style;
+}
+
+std::int32_t CellStore::Column::LastRow() const {
+  std::int32_t last = runs_.empty() ? 0 : runs_.back().lastRow;
+  for (const auto& [row, stray] : strays_) last = std::max(last, row);
+  return last;
+}
+
+}  // namespace plotsmith::xlsx

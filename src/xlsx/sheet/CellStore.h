@@ -1,0 +1,142 @@
+#pragma once
+
+#include <bit>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "xlsx/sheet/Reference.h"
+
+namespace plotsmith::xlsx {
+
+/// A cell's value in eight bytes: a number as it is, all else inside the payload of a quiet NaN, which no
+/// number in a file is. Texts are indices, into the workbook's shared strings or into the sheet's own texts.
+class PackedValue {
+ public:
+  enum class Kind : std::uint8_t { kEmpty, kBoolean, kError, kSharedText, kOwnText, kNumber };
+
+  constexpr PackedValue() : PackedValue(Kind::kEmpty, 0) {}
+  constexpr PackedValue(Kind kind, std::uint32_t index)
+      : bits_(kTag | static_cast<std::uint64_t>(kind) << 32 | index) {}
+  constexpr explicit PackedValue(double number) : bits_(std::bit_cast<std::uint64_t>(number)) {}
+
+  Kind GetKind() const {
+    return (bits_ & kTag) == kTag ? static_cast<Kind>(bits_ >> 32 & 0xFF) : Kind::kNumber;
+  }
+  double Number() const { return std::bit_cast<double>(bits_); }
+  std::uint32_t Index() const { return static_cast<std::uint32_t>(bits_); }
+
+ private:
+  static constexpr std::uint64_t kTag = std::uint64_t{0xFFF8} << 48;
+  std::uint64_t bits_;
+};
+
+/// Texts one behind the other in one block, by index.
+class TextPool {
+ public:
+  std::uint32_t Add(std::string_view text) {
+    bytes_.append(text);
+    ends_.push_back(bytes_.size());
+    return static_cast<std::uint32_t>(ends_.size() - 1);
+  }
+  std::string_view At(std::uint32_t index) const {
+    if (index >= ends_.size()) return {};
+    const std::uint64_t begin = index == 0 ? 0 : ends_[index - 1];
+    return std::string_view(bytes_).substr(begin, ends_[index] - begin);
+  }
+  std::size_t Count() const { return ends_.size(); }
+
+ private:
+  std::string bytes_;
+  std::vector<std::uint64_t> ends_;
+};
+
+/// The cells of a sheet as they were read: column by column, eight bytes a cell, and the styles as runs,
+/// since a column's cells mostly share one. Cells come in the order of the file.
+class CellStore {
+ public:
+  void Append(std::int32_t row, std::int32_t column, PackedValue value, std::uint32_t style) {
+    if (column > static_cast<std::int32_t>(columns_.size()))
+      columns_.resize(static_cast<std::size_t>(column));
+    columns_[static_cast<std::size_t>(column) - 1].Append(row, value, style);
+    ++count_;
+  }
+  PackedValue ValueAt(std::int32_t row, std::int32_t column) const {
+    if (column < 1 || column > static_cast<std::int32_t>(columns_.size())) return {};
+    return columns_[static_cast<std::size_t>(column) - 1].ValueAt(row);
+  }
+  /// An index into cellXfs; 0 where there is no cell.
+  std::uint32_t StyleAt(std::int32_t row, std::int32_t column) const {
+    if (column < 1 || column > static_cast<std::int32_t>(columns_.size())) return 0;
+    return columns_[static_cast<std::size_t>(column) - 1].StyleAt(row);
+  }
+
+  std::int32_t ColumnCount() const { return static_cast<std::int32_t>(columns_.size()); }
+  /// The last row of a column that has a cell, 0 if none has.
+  std::int32_t LastRow(std::int32_t column) const {
+    return columns_[static_cast<std::size_t>(column) - 1].LastRow();
+  }
+  std::uint64_t CellCount() const { return count_; }
+
+  TextPool texts;  ///< the sheet's own: inline strings, results of formulas, error values
+
+ private:
+  /// Rows that follow each other closely lie in one run; a gap of a few rows is cheaper filled than broken
+  /// off.
+  class Column {
+   public:
+    void Append(std::int32_t row, PackedValue value, std::uint32_t style) {
+      if (!runs_.empty() && row == runs_.back().lastRow + 1 && style == lastStyle_) {  // nearly always
+        values_.push_back(value);
+        runs_.back().lastRow = row;
+      } else {
+        AppendElsewhere(row, value, style);
+      }
+    }
+    PackedValue ValueAt(std::int32_t row) const {
+      // walks go down a column, so that the run of the last answer is the best guess
+      if (strays_.empty() && !runs_.empty()) {
+        const Run& run = runs_[recentRun_];
+        if (row >= run.firstRow && row <= run.lastRow) {
+          return values_[run.firstValue + static_cast<std::size_t>(row - run.firstRow)];
+        }
+      }
+      return FindValue(row);
+    }
+    std::uint32_t StyleAt(std::int32_t row) const;
+    std::int32_t LastRow() const;
+
+   private:
+    static constexpr std::int32_t kFilledGap = 4;
+    struct Run {
+      std::int32_t firstRow, lastRow;
+      std::uint32_t firstValue;  ///< index into values_
+    };
+    struct StyleRun {
+      std::int32_t firstRow;
+      std::uint32_t style;
+    };
+    struct Stray {
+      PackedValue value;
+      std::uint32_t style;
+    };
+
+    void AppendElsewhere(std::int32_t row, PackedValue value, std::uint32_t style);
+    PackedValue FindValue(std::int32_t row) const;
+
+    std::vector<PackedValue> values_;
+    std::vector<Run> runs_;
+    std::vector<StyleRun> styles_;
+    std::uint32_t lastStyle_ = 0;
+    mutable std::size_t recentRun_ = 0;
+    mutable std::size_t recentStyle_ = 0;
+    std::unordered_map<std::int32_t, Stray> strays_;  ///< cells of a file that doesn't keep its rows in order
+  };
+
+  std::vector<Column> columns_;
+  std::uint64_t count_ = 0;
+};
+
+}  // namespace plotsmith::xlsx

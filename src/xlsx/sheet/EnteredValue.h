@@ -1,0 +1,13 @@
+#pragma once
+
+#include "runtime/Variant.h"
+#include "xlsx/sheet/CellGrid.h"
+
+namespace plotsmith::xlsx {
+
+/// What a cell holds after a value was put into it, as if it was typed: a text that reads as a number, a
+/// percentage, a logical value or an error value becomes that; a leading apostrophe makes any text a text.
+/// The style is left alone. Error 1004 for what a cell can't hold.
+void Enter(GridCell& cell, const runtime::Variant& value);
+
+}  // namespace plotsmith::xlsx

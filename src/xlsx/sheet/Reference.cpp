@@ -1,0 +1,194 @@
+#include "xlsx/sheet/Reference.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "runtime/Strings.h"
+#include "xlsx/Limits.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+std::optional<std::int32_t> WholeNumber(std::string_view digits) {
+  std::int32_t value = 0;
+  const auto [end, status] = std::from_chars(digits.begin(), digits.end(), value);
+  if (digits.empty() || status != std::errc() || end != digits.end()) return std::nullopt;
+  return value;
+}
+
+struct ReadCornerResult {
+  Corner corner;
+  std::size_t length;  ///< of its text
+};
+
+/// The corner that the text begins with.
+std::optional<ReadCornerResult> ReadCorner(std::string_view text) {
+  Corner corner;
+  std::size_t i = 0;
+  const auto at = [&](std::size_t p) { return p < text.size() ? text[p] : '\0'; };
+  bool dollar = at(i) == '$';
+  if (dollar) ++i;
+  std::size_t start = i;
+  while (IsLetter(at(i))) ++i;
+  if (i > start) {
+    corner.column = ColumnNumber(text.substr(start, i - start));
+    if (corner.column == 0) return std::nullopt;
+    corner.columnAbsolute = dollar;
+    dollar = at(i) == '$' && IsDigit(at(i + 1));
+    if (dollar) ++i;
+  }
+  start = i;
+  while (IsDigit(at(i))) ++i;
+  if (i > start) {
+    const auto row = WholeNumber(text.substr(start, i - start));
+    if (!row || *row < 1 || *row > limits::kRows) return std::nullopt;
+    corner.row = *row;
+    corner.rowAbsolute = dollar;
+  }
+  if (corner.row == 0 && corner.column == 0) return std::nullopt;
+  return ReadCornerResult{corner, i};
+}
+
+std::string CornerText(const Corner& corner) {
+  std::string text;
+  if (corner.column > 0) text += (corner.columnAbsolute ? "$" : "") + ColumnLetters(corner.column);
+  if (corner.row > 0) text += (corner.rowAbsolute ? "$" : "") + std::to_string(corner.row);
+  return text;
+}
+
+}  // namespace
+
+bool IsNameCharacter(char c) {
+  return IsLetter(c) || IsDigit(c) || c == '_' || c == '.' || c == '\\' || c == '?' ||
+         static_cast<unsigned char>(c) >= 0x80;
+}
+
+std::string A1Reference::Text() const { return CornerText(first) + (range ? ":" + CornerText(second) : ""); }
+
+std::optional<A1Reference> ReadA1Reference(std::string_view text) {
+  const auto first = ReadCorner(text);
+  if (!first) return std::nullopt;
+  A1Reference reference{first->corner, first->corner, false, first->length};
+  if (text.substr(first->length).starts_with(':')) {
+    const auto second = ReadCorner(text.substr(first->length + 1));
+    const bool matches = second && (second->corner.row > 0) == (first->corner.row > 0) &&
+                         (second->corner.column > 0) == (first->corner.column > 0);
+    if (matches) {
+      reference.second = second->corner;
+      reference.length += 1 + second->length;
+      reference.range = true;
+    }
+  }
+  const bool cell = first->corner.row > 0 && first->corner.column > 0;
+  if (!reference.range && !cell) return std::nullopt;
+  // "A1B", "A1(" and "A1.x" are names or functions, "A1!" is a sheet
+  const char next = reference.length < text.size() ? text[reference.length] : '\0';
+  if (IsNameCharacter(next) || next == '(' || next == '!' || next == '$') return std::nullopt;
+  return reference;
+}
+
+std::int32_t ColumnNumber(std::string_view letters) {
+  if (letters.empty() || letters.size() > 3) return 0;
+  std::int32_t column = 0;
+  for (char c : letters) {
+    if (!IsLetter(c)) return 0;
+    column = column * 26 + ((c & ~0x20) - 'A' + 1);
+  }
+  return column <= limits::kColumns ? column : 0;
+}
+
+std::string ColumnLetters(std::int32_t column) {
+  std::string letters;
+  for (; column > 0; column = (column - 1) / 26) {
+    letters.insert(letters.begin(), static_cast<char>('A' + (column - 1) % 26));
+  }
+  return letters;
+}
+
+std::string CellAddress(std::int32_t row, std::int32_t column, bool absolute) {
+  const char* dollar = absolute ? "$" : "";
+  return dollar + ColumnLetters(column) + dollar + std::to_string(row);
+}
+
+std::string RangeAddress(const CellRange& range) {
+  std::string address = CellAddress(range.row1, range.column1);
+  if (range.CellCount() > 1) address += ":" + CellAddress(range.row2, range.column2);
+  return address;
+}
+
+std::string QuotedSheetName(std::string_view name) {
+  const bool plain =
+      !name.empty() && !IsDigit(name[0]) && name[0] != '.' && name[0] != '?' &&
+      std::all_of(name.begin(), name.end(), [](char c) { return IsNameCharacter(c) && c != '\\'; });
+  // a name that reads as a reference needs quotes too
+  const bool reference = ReadA1Reference(name).has_value() || ParseR1C1(name).has_value() ||
+                         runtime::EqualsIgnoreCase(name, "R") || runtime::EqualsIgnoreCase(name, "C");
+  if (plain && !reference) return std::string(name);
+  return "'" + runtime::Replace(name, "'", "''") + "'";
+}
+
+std::string SheetRangeAddress(const SheetRange& range) {
+  return QuotedSheetName(range.sheet) + "!" + RangeAddress(range.range);
+}
+
+std::optional<CellRange> ParseA1(std::string_view text) {
+  const auto reference = ReadA1Reference(text);
+  if (!reference || reference->length != text.size()) return std::nullopt;
+  const auto [row1, row2] = std::minmax(reference->first.row, reference->second.row);
+  const auto [column1, column2] = std::minmax(reference->first.column, reference->second.column);
+  CellRange range{row1, column1, row2, column2};
+  if (range.row1 == 0) range.row1 = 1, range.row2 = limits::kRows;
+  if (range.column1 == 0) range.column1 = 1, range.column2 = limits::kColumns;
+  return range;
+}
+
+std::optional<CellRange> ParseR1C1(std::string_view text) {
+  const auto corner = [](std::string_view part) -> std::optional<std::pair<std::int32_t, std::int32_t>> {
+    if (part.empty() || (part[0] != 'R' && part[0] != 'r')) return std::nullopt;
+    const auto c = part.find_first_of("Cc");
+    if (c == std::string_view::npos) return std::nullopt;
+    const auto row = WholeNumber(part.substr(1, c - 1)), column = WholeNumber(part.substr(c + 1));
+    if (!row || !column || *row < 1 || *row > limits::kRows || *column < 1 || *column > limits::kColumns) {
+      return std::nullopt;
+    }
+    return std::pair{*row, *column};
+  };
+  const auto colon = text.find(':');
+  const auto first = corner(text.substr(0, colon));
+  const auto second = colon == std::string_view::npos ? first : corner(text.substr(colon + 1));
+  if (!first || !second) return std::nullopt;
+  return CellRange{std::min(first->first, second->first), std::min(first->second, second->second),
+                   std::max(first->first, second->first), std::max(first->second, second->second)};
+}
+
+std::optional<SheetRange> ParseSheetRange(std::string_view text) {
+  SheetRange result;
+  std::size_t i = 0;
+  if (text.starts_with('\'')) {
+    for (i = 1; i < text.size(); ++i) {
+      if (text[i] != '\'') {
+        result.sheet += text[i];
+      } else if (i + 1 < text.size() && text[i + 1] == '\'') {
+        result.sheet += text[i++];
+      } else {
+        break;
+      }
+    }
+    ++i;
+  } else {
+    i = text.find('!');
+    if (i == std::string_view::npos) return std::nullopt;
+    result.sheet = text.substr(0, i);
+  }
+  if (i >= text.size() || text[i] != '!' || result.sheet.empty()) return std::nullopt;
+  const std::string_view address = text.substr(i + 1);
+  auto range = ParseA1(address);
+  if (!range) range = ParseR1C1(address);
+  if (!range) return std::nullopt;
+  result.range = *range;
+  return result;
+}
+
+}  // namespace plotsmith::xlsx

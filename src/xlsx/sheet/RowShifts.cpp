@@ -1,0 +1,55 @@
+#include "xlsx/sheet/RowShifts.h"
+
+#include <algorithm>
+
+namespace plotsmith::xlsx {
+
+namespace {
+
+/// Whether a text holds a name in any case. Only ASCII letters are compared by case: for others, and for what
+/// XML or quotes would write otherwise, the first few characters that are the same in any writing have to do.
+bool Mentions(std::string_view text, std::string_view name) {
+  const auto plain = [](char c) {
+    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' || c == ' ';
+  };
+  std::size_t begin = 0, length = 0;  // the longest stretch of plain characters
+  for (std::size_t i = 0; i < name.size();) {
+    std::size_t end = i;
+    while (end < name.size() && plain(name[end])) ++end;
+    if (end - i > length) begin = i, length = end - i;
+    i = end + 1;
+  }
+  if (length == 0) return true;
+  const auto fold = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+  return std::search(text.begin(), text.end(), name.begin() + static_cast<std::ptrdiff_t>(begin),
+                     name.begin() + static_cast<std::ptrdiff_t>(begin + length),
+                     [&](char a, char b) { return fold(a) == fold(b); }) != text.end();
+}
+
+}  // namespace
+
+void RowShifts::Add(std::string_view sheet, std::int32_t row, std::int32_t count) {
+  if (!shifts_.empty() && !marked_) {
+    RowShift& last = shifts_.back();
+    // rows that go in, or out, at one place one by one are one change
+    if (last.sheet == sheet && last.row == row && (last.count > 0) == (count > 0)) {
+      last.count += count;
+      return;
+    }
+  }
+  shifts_.push_back({std::string(sheet), row, count});
+  sheets_.emplace(sheet);
+  marked_ = false;
+}
+
+std::optional<std::string> RowShifts::Follow(std::string_view formula, std::string_view home,
+                                             std::size_t followed) const {
+  return ShiftRows(formula, home, std::span(shifts_).subspan(followed));
+}
+
+bool RowShifts::MayConcern(std::string_view text) const {
+  return std::any_of(sheets_.begin(), sheets_.end(),
+                     [&](const std::string& sheet) { return Mentions(text, sheet); });
+}
+
+}  // namespace plotsmith::xlsx

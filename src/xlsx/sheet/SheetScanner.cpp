@@ -1,0 +1,438 @@
+#include "xlsx/sheet/SheetScanner.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "xlsx/Limits.h"
+#include "xlsx/package/PackageError.h"
+#include "xlsx/package/XString.h"
+#include "xlsx/package/Xml.h"
+#include "xlsx/package/XmlStream.h"
+#include "xlsx/sheet/IsoDate.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+bool IsSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+/// Numbers of a sheet. The common ones, with few digits and no exponent, are exact as the quotient of two
+/// whole numbers below 2^53; the rest goes the library's road.
+std::optional<double> CellNumber(std::string_view text) {
+  constexpr int kExactDigits = 15;
+  static constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                       1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  const char* p = text.data();
+  const char* const end = p + text.size();
+  const bool minus = p != end && *p == '-';
+  if (minus) ++p;
+  std::uint64_t digits = 0;
+  int count = 0, decimals = 0;
+  for (; p != end && IsDigit(*p); ++p, ++count) digits = digits * 10 + static_cast<std::uint64_t>(*p - '0');
+  if (p != end && *p == '.') {
+    for (++p; p != end && IsDigit(*p); ++p, ++count, ++decimals) {
+      digits = digits * 10 + static_cast<std::uint64_t>(*p - '0');
+    }
+  }
+  if (p == end && count > 0 && count <= kExactDigits) {
+    const double value = static_cast<double>(digits) / kPowers[decimals];
+    return minus ? -value : value;
+  }
+  return xml::ParseDouble(text);
+}
+
+/// The loop over rows and cells. It reads cells straight from the window: a cell is taken when all of it is
+/// there, and read again from its beginning after the window has moved when it isn't, so that the inner loops
+/// look at nothing but the next byte. The zero byte behind the window ends every one of them.
+///
+/// Nearly all cells that programs write have one of two shapes, and most rows one; those are taken by
+/// comparing whole stretches of text (TakePlainCell, TakePlainRow), which is what makes a large sheet cost
+/// little more than its inflating. Whatever has another shape takes the general road, which reads the same
+/// and more.
+class SheetScanner : public XmlStream {
+ public:
+  SheetScanner(Archive::Stream& source, DateSystem dates) : XmlStream(source), dates_(dates) {}
+
+  SheetContents Scan() {
+    if (ReadHead()) ReadRows();
+    Drain();
+    if (used_.row2 > 0) contents_.used = used_;
+    return std::move(contents_);
+  }
+
+ private:
+  /// What a piece of the row content turned out to be.
+  enum class Piece { kTaken, kCut, kEnd };
+
+  bool ReadHead();
+  void ReadRows();
+  /// Behind the cell, or the row's tag, at `p` if it has the plain shape and lies whole in the window; else
+  /// null, with nothing taken.
+  const char* TakePlainCell(const char* p);
+  const char* TakePlainRow(const char* p);
+  Piece ReadPiece();
+  Piece ReadCell(const char* p);
+  Piece ReadRareCell(const char* p, std::int32_t column, std::string_view type, std::uint32_t style,
+                     std::string_view value);
+  const char* PassFormula(const char* p) const;
+  void ReadRow(std::string_view attributes);
+  /// `value` is as written unless it was decoded, and a null view for an empty cell.
+  void Store(std::int32_t column, std::string_view type, std::uint32_t style, std::string_view value,
+             bool decoded = false);
+
+  void Put(std::int32_t column, PackedValue value, std::uint32_t style) {
+    if (contents_.cells.CellCount() >= limits::kCells)
+      throw PackageError("it has more cells than we can hold");
+    if (row_ == 0) row_ = 1;  // a cell outside of any row
+    column_ = column;
+    used_.row1 = std::min(used_.row1, row_);
+    used_.row2 = std::max(used_.row2, row_);
+    used_.column1 = std::min(used_.column1, column);
+    used_.column2 = std::max(used_.column2, column);
+    contents_.cells.Append(row_, column, value, style);
+  }
+
+  /// Whether the element at `p`, behind its "<" or "</", has the name; `p` is then moved behind it.
+  bool At(const char*& p, std::string_view name) const;
+
+  DateSystem dates_;
+  SheetContents contents_;
+  std::string prefix_;  ///< of the part's elements, with its colon
+  std::int32_t row_ = 0;
+  std::int32_t column_ = 0;
+  CellRange used_{limits::kRows, limits::kColumns, 0, 0};
+  std::string text_, piece_;  // of a rare cell
+};
+
+/// Up to and with the start tag of sheetData; false if there is none, as in an empty element.
+bool SheetScanner::ReadHead() {
+  for (;;) {
+    const char* open = position_;
+    const auto find = [&] {
+      return static_cast<const char*>(std::memchr(open, '<', static_cast<std::size_t>(end_ - open)));
+    };
+    open = find();
+    if (open == nullptr) {
+      contents_.head.append(position_, end_);
+      position_ = end_;
+      if (!Fill()) return false;
+      continue;
+    }
+    contents_.head.append(position_, open);
+    position_ = open;
+    // the tag whole, so that its name can be looked at
+    const char* close = nullptr;
+    for (;;) {
+      const std::string_view unread(position_, static_cast<std::size_t>(end_ - position_));
+      const auto at = unread.starts_with("<!--") ? unread.find("-->", 4) : unread.find('>');
+      if (at != std::string_view::npos) {
+        close = position_ + at + (unread[at] == '-' ? 2 : 0);
+        break;
+      }
+      if (!Fill()) Damaged();
+    }
+    const std::string_view tag(position_ + 1, static_cast<std::size_t>(close - position_ - 1));
+    if (tag.starts_with("!D")) throw PackageError(xml::kDocumentType);
+    std::size_t length = 0;
+    while (length < tag.size() && !IsSpace(tag[length]) && tag[length] != '/') ++length;
+    if (xml::LocalName(tag.substr(0, length)) == "sheetData") {
+      prefix_ = xml::Prefix(tag.substr(0, length));
+      position_ = close + 1;
+      return !tag.ends_with('/');
+    }
+    contents_.head.append(position_, close + 1);
+    position_ = close + 1;
+    if (contents_.head.size() > limits::kXmlToken) throw PackageError("it has no cells where they should be");
+  }
+}
+
+void SheetScanner::ReadRows() {
+  for (;;) {
+    for (const char* next = position_; next != nullptr;) {
+      position_ = next;
+      next = TakePlainCell(position_);
+      if (next == nullptr) next = TakePlainRow(position_);
+    }
+    switch (ReadPiece()) {
+      case Piece::kTaken:
+        break;
+      case Piece::kEnd:
+        return;
+      case Piece::kCut:
+        if (!Fill()) Damaged();
+        break;
+    }
+  }
+}
+
+bool SheetScanner::At(const char*& p, std::string_view name) const {
+  const char* q = p;
+  if (!prefix_.empty()) {
+    if (std::strncmp(q, prefix_.data(), prefix_.size()) != 0) return false;
+    q += prefix_.size();
+  }
+  for (const char c : name) {
+    if (*q++ != c) return false;
+  }
+  if (*q != '>' && *q != '/' && !IsSpace(*q)) return false;
+  p = q;
+  return true;
+}
+
+SheetScanner::Piece SheetScanner::ReadPiece() {
+  const auto* open =
+      static_cast<const char*>(std::memchr(position_, '<', static_cast<std::size_t>(end_ - position_)));
+  if (open == nullptr) {
+    position_ = end_;
+    return Piece::kCut;
+  }
+  position_ = open;
+  // "<", the prefix, "c" and what ends the name: with less, nobody could tell a cell from anything else
+  if (end_ - position_ < static_cast<std::ptrdiff_t>(prefix_.size()) + 3 && Fill()) return Piece::kTaken;
+  const char* p = position_ + 1;
+  if (At(p, "c")) return ReadCell(p);
+  const Tag tag = Next();  // anything else comes once a row, or less
+  if (tag.kind == Kind::kEndOfInput) Damaged();
+  if (tag.name == "row" && tag.kind != Kind::kEnd) ReadRow(tag.attributes);
+  return tag.kind == Kind::kEnd && tag.name == "sheetData" ? Piece::kEnd : Piece::kTaken;
+}
+
+void SheetScanner::ReadRow(std::string_view attributes) {
+  const auto number = xml::ParseInteger(AttributeIn(attributes, "r"));
+  const long long row = number.value_or(row_ + 1);
+  if (row < 1 || row > limits::kRows) throw PackageError("it has a row outside of any sheet");
+  row_ = static_cast<std::int32_t>(row);
+  column_ = 0;
+  const std::string hidden = AttributeIn(attributes, "hidden");
+  if (hidden == "1" || hidden == "true") {
+    contents_.rowHeights.emplace_back(row_, 0);
+  } else if (const auto height = xml::ParseDouble(AttributeIn(attributes, "ht"))) {
+    contents_.rowHeights.emplace_back(row_, *height);
+  }
+}
+
+/// `<c r="AB12" s="3" t="s"><v>123</v></c>`, a number or a shared text, where `s` and `t` may be missing; or
+/// such a cell without a value.
+const char* SheetScanner::TakePlainCell(const char* p) {
+  // the length is known at compile time, so that this is a comparison or two and no call
+  const auto skip = [&]<std::size_t N>(const char(&text)[N]) {
+    if (std::memcmp(p, text, N - 1) != 0) return false;
+    p += N - 1;
+    return true;
+  };
+  if (!skip("<c r=\"")) return nullptr;
+  std::int32_t column = 0;
+  for (; *p >= 'A' && *p <= 'Z' && column <= limits::kColumns; ++p) column = column * 26 + (*p - 'A' + 1);
+  while (IsDigit(*p)) ++p;
+  if (column == 0 || column > limits::kColumns || !skip("\"")) return nullptr;
+  std::uint32_t style = 0;
+  if (skip(" s=\"")) {
+    for (; IsDigit(*p); ++p) style = style * 10 + static_cast<std::uint32_t>(*p - '0');
+    if (!skip("\"")) return nullptr;
+  }
+  const bool shared = skip(" t=\"s\"");
+  if (!skip("><v>")) {
+    if (!skip("/>")) return nullptr;
+    Put(column, {}, style);
+    return p;
+  }
+  const char* const first = p;
+  while (*p != '<' && *p != '\0') ++p;
+  const std::string_view text(first, static_cast<std::size_t>(p - first));
+  if (!skip("</v></c>")) return nullptr;
+  if (shared) {
+    std::uint64_t index = 0;
+    for (const char c : text) {
+      if (!IsDigit(c) || index > 0xFFFFFFFF) return nullptr;
+      index = index * 10 + static_cast<std::uint64_t>(c - '0');
+    }
+    if (text.empty() || index > 0xFFFFFFFF) return nullptr;
+    Put(column, {PackedValue::Kind::kSharedText, static_cast<std::uint32_t>(index)}, style);
+  } else {
+    const auto number = CellNumber(text);
+    if (!number) return nullptr;
+    Put(column, PackedValue(*number), style);
+  }
+  return p;
+}
+
+/// `</row>`, or a row's start tag that begins with its number and says nothing of its height.
+const char* SheetScanner::TakePlainRow(const char* p) {
+  constexpr std::string_view kEnd = "</row>", kStart = "<row r=\"";
+  if (std::memcmp(p, kEnd.data(), kEnd.size()) == 0) return p + kEnd.size();
+  if (std::memcmp(p, kStart.data(), kStart.size()) != 0) return nullptr;
+  p += kStart.size();
+  std::int32_t row = 0;
+  for (; IsDigit(*p) && row <= limits::kRows; ++p) row = row * 10 + (*p - '0');
+  if (*p != '"' || row < 1 || row > limits::kRows) return nullptr;
+  for (++p; *p != '>'; ++p) {
+    // " ht=" or " hidden="; and what isn't in the window isn't plain either
+    if (*p == '\0' || *p == '/' || (*p == ' ' && p[1] == 'h')) return nullptr;
+  }
+  row_ = row;
+  column_ = 0;
+  return p + 1;
+}
+
+/// `p` stands behind the cell's name.
+SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
+  std::string_view type;
+  std::uint32_t style = 0;
+  std::int32_t column = column_ + 1;
+  bool open = false;
+  for (;;) {  // attributes
+    while (IsSpace(*p)) ++p;
+    if (*p == '>') {
+      ++p;
+      open = true;
+      break;
+    }
+    if (*p == '/') {
+      p += 2;
+      if (p > end_) return Piece::kCut;
+      break;
+    }
+    const char* name = p;
+    while (*p != '=' && *p != '\0') ++p;
+    const auto nameLength = p - name;
+    if (*p == '=') ++p;
+    while (IsSpace(*p)) ++p;
+    const char quote = *p;
+    if (quote == '\0') return Piece::kCut;
+    if (quote != '"' && quote != '\'') Damaged();
+    const char* value = ++p;
+    while (*p != quote && *p != '\0') ++p;
+    if (*p == '\0') return Piece::kCut;
+    if (nameLength == 1) {
+      if (*name == 'r') {
+        std::int32_t letters = 0;
+        for (const char* q = value; (*q & ~0x20) >= 'A' && (*q & ~0x20) <= 'Z' && letters <= limits::kColumns;
+             ++q) {
+          letters = letters * 26 + ((*q & ~0x20) - 'A' + 1);
+        }
+        if (letters > 0) column = letters;
+      } else if (*name == 's') {
+        for (const char* q = value; IsDigit(*q); ++q)
+          style = style * 10 + static_cast<std::uint32_t>(*q - '0');
+      } else if (*name == 't') {
+        type = {value, static_cast<std::size_t>(p - value)};
+      }
+    }
+    ++p;
+  }
+
+  std::string_view text;
+  while (open) {  // what the cell holds
+    while (*p != '<' && *p != '\0') ++p;
+    if (*p == '\0') return Piece::kCut;
+    const char* inner = p + 1;
+    if (*inner == '/') {
+      while (*inner != '>' && *inner != '\0') ++inner;
+      if (*inner == '\0') return Piece::kCut;
+      p = inner + 1;
+      open = false;
+    } else if (At(inner, "v") && *inner == '>') {
+      const char* from = ++inner;
+      while (*inner != '<' && *inner != '\0') ++inner;
+      text = {from, static_cast<std::size_t>(inner - from)};
+      if (inner[0] == '<' && inner[1] != '/' && inner[1] != '\0')
+        return ReadRareCell(p, column, type, style, {});
+      while (*inner != '>' && *inner != '\0') ++inner;
+      if (*inner == '\0') return Piece::kCut;
+      p = inner + 1;
+    } else if (At(inner, "f")) {
+      contents_.formulas = true;
+      p = PassFormula(inner);
+      if (p == nullptr) return Piece::kCut;
+    } else {
+      return ReadRareCell(p, column, type, style, text);
+    }
+  }
+  Store(column, type, style, text);
+  position_ = p;
+  return Piece::kTaken;
+}
+
+/// From behind the name of a formula to behind the formula; null if the window ends before it does.
+const char* SheetScanner::PassFormula(const char* p) const {
+  while (*p != '>' && *p != '\0') ++p;
+  if (*p == '\0') return nullptr;
+  if (p[-1] == '/') return p + 1;
+  while (*p != '<' && *p != '\0') ++p;
+  while (*p != '>' && *p != '\0') ++p;
+  return *p == '\0' ? nullptr : p + 1;
+}
+
+/// A cell with an inline string, character data, or what some extension put there. It is read with the
+/// general reader from `p`, the "<" of a child of the cell, on; that may move the window, so the views are
+/// copied first.
+SheetScanner::Piece SheetScanner::ReadRareCell(const char* p, std::int32_t column, std::string_view type,
+                                               std::uint32_t style, std::string_view value) {
+  const std::string typeCopy(type);
+  text_ = xml::Decode(value);
+  bool hasText = value.data() != nullptr;
+  bool inlineText = false;
+  position_ = p;
+  for (int depth = 1; depth > 0;) {
+    const Tag tag = Next();
+    if (tag.kind == Kind::kEndOfInput) Damaged();
+    if (tag.kind == Kind::kEnd) --depth;
+    if (tag.kind != Kind::kStart) continue;
+    if (tag.name == "v" || tag.name == "t") {
+      inlineText |= tag.name == "t";
+      piece_.clear();
+      const bool runOfText = tag.name == "t";
+      ReadText(piece_);
+      text_ += runOfText ? DecodeXString(piece_) : piece_;
+      hasText = true;
+    } else if (tag.name == "rPh" || tag.name == "f" || tag.name == "extLst") {
+      contents_.formulas |= tag.name == "f";
+      SkipElement();
+    } else {
+      ++depth;
+    }
+  }
+  Store(column, inlineText ? "inlineStr" : typeCopy, style, hasText ? text_ : std::string_view(), true);
+  return Piece::kTaken;
+}
+
+void SheetScanner::Store(std::int32_t column, std::string_view type, std::uint32_t style,
+                         std::string_view value, bool decoded) {
+  using Packed = PackedValue::Kind;
+  if (column < 1 || column > limits::kColumns) throw PackageError("it has a cell outside of any sheet");
+  auto& texts = contents_.cells.texts;
+  const auto put = [&](PackedValue packed) { Put(column, packed, style); };
+  const auto plain = [&] { return decoded ? std::string(value) : xml::Decode(value); };
+  if (value.data() == nullptr) return put({});
+  switch (type.empty() ? 'n' : type[0]) {
+    case 's':
+      if (type.size() == 1) {
+        const auto index = xml::ParseInteger(value);
+        return put(index && *index >= 0 && *index <= 0xFFFFFFFF
+                       ? PackedValue(Packed::kSharedText, static_cast<std::uint32_t>(*index))
+                       : PackedValue());
+      }
+      return put({Packed::kOwnText, texts.Add(DecodeXString(plain()))});  // "str", the result of a formula
+    case 'i':
+      return put({Packed::kOwnText, texts.Add(value)});
+    case 'b':
+      return put({Packed::kBoolean, value == "1" || value == "true" ? 1U : 0U});
+    case 'e':
+      return put({Packed::kError, texts.Add(plain())});
+    case 'd':
+      if (const auto serial = ParseIsoDate(value, dates_)) return put(PackedValue(*serial));
+      return put({Packed::kOwnText, texts.Add(plain())});
+    default: {
+      const auto number = CellNumber(value);
+      return put(number ? PackedValue(*number) : PackedValue());
+    }
+  }
+}
+
+}  // namespace
+
+SheetContents ScanSheet(Archive::Stream& source, DateSystem dates) {
+  return SheetScanner(source, dates).Scan();
+}
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,233 @@
+#include <filesystem>
+#include <functional>
+#include <sstream>
+
+#include "runtime/Strings.h"
+#include "tests/support/ChartTest.h"
+#include "xlsx/Worksheet.h"
+#include "xlsx/package/Package.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+using excel::Chart;
+using test::AddBubble;
+using test::AddOfType;
+using test::Between;
+using test::CountOf;
+using test::DeleteSeries;
+using test::ExpectError1004;
+using test::Has;
+using S = std::string;
+
+S Part(const S& chart, const S& behind = "") { return test::ChartPartXml(chart, behind); }
+
+const S kNothing = Part("<c:plotArea><c:layout/></c:plotArea>");
+
+class ChartFamiliesTest : public test::ChartTest {};
+
+TEST_F(ChartFamiliesTest, APieThatSomebodyDressedComesOutOfARefreshAsItWentIn) {
+  const S pie =
+      "<c:view3D><c:rotX val=\"75\"/><c:rotY val=\"120\"/></c:view3D><c:plotArea><c:pie3DChart><c:varyColors "
+      "val=\"1\"/><c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:explosion val=\"40\"/></c:ser><c:dLbls>"
+      "<c:showLegendKey val=\"1\"/></c:dLbls></c:pie3DChart></c:plotArea>";
+  const S after = Sound(Part(pie), [](Chart& chart) {
+    DeleteSeries(chart);
+    const auto series = chart.SeriesCollection()->NewSeries();
+    series->SetXValues("=Sheet1!R2C1:R5C1");
+    series->SetValues("=Sheet1!R2C3:R5C3");
+    chart.SetChartType(excel::xlPie);
+    series->ApplyDataLabels(excel::xlDataLabelsShowPercent);
+    series->DataLabels()->SetPosition(excel::xlLabelPositionBestFit);
+    chart.SetChartType(excel::xl3DPieExploded);
+    EXPECT_FALSE(chart.HasAxis(excel::xlCategory));
+    EXPECT_FALSE(chart.HasAxis(excel::xlValue));
+  });
+  EXPECT_TRUE(Has(after, "<c:rotX val=\"75\"/><c:rotY val=\"120\"/>")) << after;
+  EXPECT_TRUE(Has(after, "</c:ser><c:dLbls><c:showLegendKey val=\"1\"/></c:dLbls></c:pie3DChart>")) << after;
+  EXPECT_TRUE(Has(after, "<c:explosion val=\"25\"/><c:dLbls><c:dLblPos val=\"bestFit\"/>")) << after;
+  EXPECT_TRUE(Has(after, "<c:cat><c:strRef>")) << after;
+  EXPECT_FALSE(Has(after, "Ax>")) << after;
+  // a pie drawn flat again has nothing left of all that
+  const S flat = Sound(after, [](Chart& chart) { chart.SetChartType(excel::xlPie); });
+  EXPECT_FALSE(Has(flat, "explosion") || Has(flat, "view3D") || Has(flat, "pie3D")) << flat;
+  EXPECT_TRUE(Has(flat, "<c:firstSliceAng val=\"0\"/></c:pieChart>")) << flat;
+  const S solid = Sound(kNothing, [](Chart& chart) {
+    chart.SetChartType(excel::xl3DColumn);
+    chart.SetChartType(excel::xl3DPie);
+  });
+  EXPECT_TRUE(Has(solid, "<c:view3D><c:rotX val=\"30\"/><c:rotY val=\"0\"/>"))
+      << "a column's view is no pie's";
+  EXPECT_FALSE(Has(solid, "floor"));
+}
+
+TEST_F(ChartFamiliesTest, AxesComeBackFromTypesWithoutThem) {
+  const S columns =
+      "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart>"
+      "<c:catAx><c:axId val=\"1\"/><c:scaling/><c:axPos val=\"t\"/><c:numFmt formatCode=\"@\" "
+      "sourceLinked=\"0\"/><c:crossAx val=\"2\"/><c:crosses val=\"max\"/></c:catAx><c:valAx><c:axId "
+      "val=\"2\"/><c:scaling><c:max val=\"50\"/></c:scaling><c:axPos val=\"r\"/><c:crossAx "
+      "val=\"1\"/><c:crosses "
+      "val=\"min\"/><c:crossBetween val=\"midCat\"/></c:valAx></c:plotArea>";
+  for (const std::int32_t through : {excel::xlPie, excel::xlBubble, excel::xl3DPie, excel::xlXYScatter}) {
+    SCOPED_TRACE(through);
+    const S after = Sound(Part(columns), [&](Chart& chart) {
+      AddOfType(chart, excel::xlColumnClustered);
+      chart.SetChartType(through);
+      chart.SetChartType(excel::xlBarClustered);
+      chart.SetChartType(excel::xlColumnClustered);
+    });
+    for (const char* kept : {"<c:axPos val=\"t\"/>", "formatCode=\"@\"", "<c:crosses val=\"max\"/>",
+                             "<c:max val=\"50\"/>", "<c:axPos val=\"r\"/>", "<c:crosses val=\"min\"/>",
+                             "<c:crossBetween val=\"midCat\"/>", "<c:cat>", "<c:val>"}) {
+      EXPECT_TRUE(Has(after, kept)) << kept << "\n" << after;
+    }
+    EXPECT_LT(after.find("<c:catAx>"), after.find("<c:valAx>"));
+    EXPECT_EQ(CountOf(after, "<c:valAx>"), 1u);
+  }
+}
+
+TEST_F(ChartFamiliesTest, EachBubbleIsASeriesAndKeepsItsSize) {
+  const S bubbles =
+      "<c:plotArea><c:bubbleChart><c:varyColors val=\"0\"/><c:bubbleScale val=\"30\"/><c:showNegBubbles "
+      "val=\"1\"/><c:sizeRepresents val=\"w\"/><c:axId val=\"7\"/><c:axId val=\"8\"/></c:bubbleChart>"
+      "<c:valAx><c:axId val=\"8\"/><c:scaling/><c:axPos val=\"l\"/><c:crossAx val=\"7\"/><c:crosses "
+      "val=\"autoZero\"/></c:valAx><c:valAx><c:axId val=\"7\"/><c:scaling><c:max "
+      "val=\"99\"/></c:scaling><c:axPos "
+      "val=\"b\"/><c:crossAx val=\"8\"/><c:crosses val=\"autoZero\"/></c:valAx></c:plotArea>";
+  for (const bool detour : {false, true}) {
+    SCOPED_TRACE(detour);
+    const S after = Sound(Part(bubbles), [&](Chart& chart) {
+      if (detour) chart.SetChartType(excel::xlColumnClustered);
+      if (!detour) chart.SetChartType(excel::xlBubble);
+      for (int row = 2; row <= 4; ++row) AddBubble(chart, row)->SetHasDataLabels(true);
+      if (detour) {
+        chart.SetChartType(excel::xlXYScatter);
+        chart.SetChartType(excel::xlBubble);
+      }
+      EXPECT_EQ(chart.Axes(excel::xlCategory, 1)->MaximumScale(), 99);
+      EXPECT_EQ(chart.Axes(excel::xlValue, 1)->MinimumScale(), 0);
+      chart.SeriesCollection()->Item(2)->Interior()->SetColor(255);
+      chart.SetChartType(excel::xlBubble3DEffect);
+    });
+    EXPECT_TRUE(Has(after,
+                    "</c:ser><c:bubbleScale val=\"30\"/><c:showNegBubbles val=\"1\"/><c:sizeRepresents "
+                    "val=\"w\"/>"))
+        << after;
+    const S second = Between(after, "<c:ser><c:idx val=\"1\"/>", "</c:ser>");
+    EXPECT_EQ(Between(second, "<c:spPr>", "<c:invert"),
+              "<c:spPr><a:solidFill><a:srgbClr val=\"FF0000\"/></a:solidFill></c:spPr>");
+    EXPECT_EQ(Between(second, "<c:xVal>", "<c:numCache>"), "<c:xVal><c:numRef><c:f>Sheet1!$C$3</c:f>");
+    EXPECT_EQ(Between(second, "<c:yVal>", "<c:numCache>"), "<c:yVal><c:numRef><c:f>Sheet1!$D$3</c:f>");
+    EXPECT_EQ(Between(second, "<c:bubbleSize>", "</c:bubbleSize>"),
+              "<c:bubbleSize><c:numRef><c:f>Sheet1!$C$3</c:f><c:numCache><c:formatCode>General</c:formatCode>"
+              "<c:ptCount val=\"1\"/><c:pt idx=\"0\"><c:v>5</c:v></c:pt></c:numCache></c:numRef>");
+    EXPECT_EQ(CountOf(after, "<c:bubble3D val=\"1\"/>"), 3u);
+    EXPECT_FALSE(Has(after, "marker") || Has(after, "smooth") || Has(after, "noFill"))
+        << "nothing stays of the scatter\n"
+        << after;
+  }
+}
+
+TEST_F(ChartFamiliesTest, ColumnsAndALineShareTheirAxes) {
+  const auto draw = [](Chart& chart) {
+    DeleteSeries(chart);
+    for (int i = 0; i < 3; ++i) AddOfType(chart, excel::xlColumnStacked);
+    chart.ChartGroups(1)->SetGapWidth(0);
+    const auto mark = AddOfType(chart, excel::xlLineMarkers);
+    mark->SetMarkerForegroundColor(255);
+    mark->SetMarkerBackgroundColor(255);
+    mark->SetMarkerStyle(excel::xlMarkerStyleDash);
+    mark->SetMarkerSize(55);
+    mark->Border()->SetLineStyle(excel::xlNone);
+    mark->ApplyDataLabels(2);
+    mark->DataLabels()->SetPosition(excel::xlLabelPositionCenter);
+    EXPECT_EQ(chart.SeriesCollection()->Count(), 4);
+    ExpectError1004([&] { chart.ChartGroups(3); });
+    ExpectError1004([&] { chart.ChartGroups(2)->SetGapWidth(50); });
+    ExpectError1004([&] { mark->SetChartType(excel::xlBubble); });
+    ExpectError1004([&] { mark->SetChartType(excel::xlBarStacked); });
+    ExpectError1004([&] { mark->DataLabels()->SetPosition(3); });
+  };
+  const S after = Sound(kNothing, draw);
+  EXPECT_EQ(Between(after, "</c:ser><c:gapWidth", "</c:barChart>"),
+            "</c:ser><c:gapWidth val=\"0\"/><c:overlap val=\"100\"/><c:axId val=\"111111111\"/><c:axId "
+            "val=\"111111112\"/>");
+  const S line = Between(after, "<c:lineChart>", "</c:lineChart>");
+  EXPECT_TRUE(Has(line,
+                  "<c:lineChart><c:grouping val=\"standard\"/><c:varyColors val=\"0\"/><c:ser><c:idx "
+                  "val=\"3\"/><c:order val=\"3\"/><c:spPr><a:ln><a:noFill/></a:ln></c:spPr><c:marker>"
+                  "<c:symbol val=\"dash\"/><c:size val=\"55\"/><c:spPr><a:solidFill><a:srgbClr "
+                  "val=\"FF0000\"/></a:solidFill><a:ln><a:solidFill><a:srgbClr val=\"FF0000\"/>"))
+      << line;
+  EXPECT_TRUE(Has(line,
+                  "</c:ser><c:marker val=\"1\"/><c:axId val=\"111111111\"/><c:axId "
+                  "val=\"111111112\"/>"))
+      << line;
+  EXPECT_LT(after.find("<c:barChart>"), after.find("<c:lineChart>"));
+
+  // what somebody gave either group is there after the next refresh
+  const S dressed = runtime::Replace(after, "<c:marker val=\"1\"/>", "<c:hiLowLines/><c:marker val=\"1\"/>");
+  const S again = Sound(dressed, draw);
+  EXPECT_TRUE(Has(again, "<c:hiLowLines/>"));
+  EXPECT_EQ(CountOf(again, "<c:ser>"), 4u);
+  EXPECT_EQ(CountOf(again, "Chart>"), CountOf(after, "Chart>"));
+
+  const S moved = Sound(
+      after, [](Chart& chart) { chart.SeriesCollection()->Item(4)->SetChartType(excel::xlColumnClustered); });
+  EXPECT_FALSE(Has(moved, "lineChart")) << "an emptied group goes";
+  EXPECT_TRUE(Has(moved, "<c:grouping val=\"clustered\"/>")) << "and columns are stacked alike";
+  EXPECT_FALSE(Has(moved, "overlap") || Has(moved, "symbol"));
+  const S area = Sound(
+      after, [](Chart& chart) { chart.SeriesCollection()->Item(1)->SetChartType(excel::xlAreaStacked); });
+  EXPECT_LT(area.find("<c:areaChart>"), area.find("<c:barChart>")) << "areas are drawn first";
+}
+
+TEST_F(ChartFamiliesTest, ChartsOfOthersGoThroughAllFamilies) {
+  std::error_code absent;
+  const auto folder = std::filesystem::path(PLOTSMITH_CORPUS_DIR) / "charts";
+  if (!std::filesystem::is_directory(folder, absent)) GTEST_SKIP() << "the corpus isn't there";
+  const auto mix = [](Chart& chart) {
+    DeleteSeries(chart);
+    chart.SetChartType(excel::xlBarClustered);
+    AddOfType(chart, excel::xlColumnStacked);
+    AddOfType(chart, excel::xlLineMarkers)->SetMarkerSize(9);
+  };
+  const std::function<void(Chart&)> families[] = {
+      [](Chart& chart) { chart.SetChartType(excel::xlBubble3DEffect); },
+      [](Chart& chart) { chart.SetChartType(excel::xl3DPieExploded); }, mix};
+  int seen = 0;
+  for (const auto& file : std::filesystem::directory_iterator(folder)) {
+    SCOPED_TRACE(file.path().filename());
+    int family = 0;
+    for (const auto& call : families) {
+      SCOPED_TRACE(family++);
+      OpenFile(file.path().string());
+      if (!Book().FindWorksheet("Sheet1")) Book().AddWorksheet(0)->SetName("Sheet1");
+      for (const auto& entry : Book().AllSheets()) {
+        if (!entry->worksheet) continue;
+        const auto shapes = entry->worksheet->Shapes();
+        for (int i = 1; i <= shapes->Count(); ++i) {
+          if (shapes->Item(i)->Type() == excel::msoChart) call(*ChartOf(shapes->Item(i)));
+        }
+      }
+      SaveAndReopen();
+      const auto before = Package::Open(file.path().string());
+      for (const S& part : before.Parts()) {
+        if (!part.starts_with("/xl/charts/chart") || !part.ends_with(".xml")) continue;
+        const S after = SavedPart(part);
+        if (after == before.Read(part)) continue;  // a chart sheet's
+        const S known = test::ChartComplaints(before.Read(part));
+        std::istringstream complaints(test::ChartComplaints(after));
+        for (S line; std::getline(complaints, line);) {
+          EXPECT_TRUE(Has(known, line)) << line << " in " << part << "\n" << after;
+        }
+        ++seen;
+      }
+    }
+  }
+  EXPECT_GT(seen, 100);
+}
+
+}  // namespace
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,139 @@
+#include "runtime/Strings.h"
+#include "tests/support/HostTest.h"
+#include "xlsx/SheetShape.h"
+#include "xlsx/Worksheet.h"
+#include "xlsx/drawing/TextMetrics.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+using S = std::string;
+
+TEST(TextMetricsTest, TextsAreAsWideAsTheirFontsMakeThem) {
+  struct Case {
+    const char* text;
+    TextFace face;
+    double ems;
+  };
+  const Case cases[] = {
+      {"", {"Arial", 10, false}, 0},
+      {"AV.", {"Arial", 10, false}, 0.667 + 0.667 + 0.278},
+      {"AV.", {"ARIAL", 20, true}, 0.722 + 0.667 + 0.278},
+      {"AV.", {"Calibri", 11, false}, 0.579 + 0.567 + 0.252},
+      {"AV.", {"Calibri Light", 11, true}, 0.606 + 0.591 + 0.267},
+      {"10%", {"Some Sans", 8, false}, 0.556 + 0.556 + 0.889},
+      {"\u00C4\u00FF", {"Arial", 10, false}, 0.667 + 0.5},
+      {"\u65E5\u672C", {"Arial", 10, false}, 2},
+      {"\U0001F4C8", {"Arial", 10, false}, 1},
+      {"\u0416", {"Arial", 10, false}, 0.556},
+  };
+  for (const Case& c : cases) {
+    EXPECT_NEAR(TextWidth(c.text, c.face), c.ems * c.face.size, 1e-9) << c.text << " in " << c.face.font;
+  }
+  EXPECT_NEAR(LineHeight({"Arial", 10, false}), 11.49, 1e-9);
+  EXPECT_NEAR(LineHeight({"Calibri", 10, false}), 12.207, 1e-9);
+}
+
+class ChartGeometryTest : public test::HostTest {
+ protected:
+  /// The plot area of a chart of 384 by 270 points, after `layout` has laid it out.
+  excel::Ref<excel::PlotArea> PlotAreaOf(const S& beforePlot, const S& layout, const S& axes,
+                                         const S& behindPlot) {
+    test::PlainBook book;
+    book.sheets = {test::SalesSheet("Sheet1")};
+    book.sheets[0].frames = {
+        {"id",
+         "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\" "
+         "xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\"><c:chart>" +
+             beforePlot + "<c:plotArea>" + layout +
+             "<c:barChart><c:ser><c:idx val=\"0\"/><c:tx><c:v>Widgets</c:v></c:tx><c:val><c:numLit><c:pt "
+             "idx=\"0\"><c:v>1250</c:v></c:pt></c:numLit></c:val></c:ser></c:barChart>" +
+             axes + "</c:plotArea>" + behindPlot + "</c:chart></c:chartSpace>"}};
+    Open(book);
+    const auto frame = Book().FindWorksheet("Sheet1")->Shapes()->Item(1).shared();
+    return std::dynamic_pointer_cast<SheetShape>(frame)->Chart()->PlotArea();
+  }
+};
+
+TEST_F(ChartGeometryTest, ThePlotAreaIsWhereItsLayoutSaysOrWhatTheOthersLeave) {
+  const S axes = "<c:catAx><c:axPos val=\"b\"/></c:catAx><c:valAx><c:axPos val=\"l\"/></c:valAx>";
+  const S title =
+      "<c:title><c:tx><c:rich><a:p><a:r><a:rPr sz=\"2000\"/><a:t>T</a:t></a:r></a:p></c:rich></c:tx>"
+      "<c:overlay val=\"0\"/></c:title>";
+  const auto manual = [](const S& content) {
+    return "<c:layout><c:manualLayout>" + content + "</c:manualLayout></c:layout>";
+  };
+  const S edges = "<c:xMode val=\"edge\"/><c:yMode val=\"edge\"/>";
+  const double line = 12.207, titleDepth = 20 * 1.2207 + 7.2;
+  // 1250 in Calibri 10, and a gap
+  const double labels = 4 * 5.07 + 5;
+  const double entry = 0.01 * (890 + 229 + 525 + 471 + 498 + 335 + 391 - 4.0) + 24 + 8;
+  struct Case {
+    const char* what;
+    S before, layout, axes, behind;
+    Frame frame;
+  };
+  const Case cases[] = {
+      {"nothing else", "", "<c:layout/>", axes, "", {7, 7, 370, 256}},
+      {"a title", title, "", axes, "", {7, 7 + titleDepth, 370, 256 - titleDepth}},
+      {"a title over it", runtime::Replace(title, "\"0\"", "\"1\""), "", axes, "", {7, 7, 370, 256}},
+      {"a legend on the right", "", "", axes, "<c:legend/>", {7, 7, 370 - entry, 256}},
+      {"one below",
+       "",
+       "",
+       axes,
+       "<c:legend><c:legendPos val=\"b\"/></c:legend>",
+       {7, 7, 370, 256 - line - 8}},
+      {"axis titles",
+       "",
+       "",
+       runtime::Replace(axes, "\"/></", "\"/><c:title/></"),
+       "",
+       {7 + line + 7.2, 7, 370 - line - 7.2, 256 - line - 7.2}},
+      {"of hidden axes",
+       "",
+       "",
+       runtime::Replace(axes, "<c:axPos", "<c:delete val=\"1\"/><c:title/><c:axPos"),
+       "",
+       {7, 7, 370, 256}},
+      {"by hand",
+       "",
+       manual(edges + "<c:x val=\"0.25\"/><c:y val=\"0.1\"/><c:w val=\"0.5\"/><c:h val=\"0.5\"/>"),
+       axes,
+       "",
+       {96, 27, 192, 135}},
+      {"by hand, without its labels",
+       "",
+       manual("<c:layoutTarget val=\"inner\"/>" + edges +
+              "<c:x val=\"0.25\"/><c:y val=\"0.1\"/><c:w val=\"0.5\"/><c:h val=\"0.5\"/>"),
+       axes,
+       "",
+       {96 - labels, 27, 192 + labels, 135 + line + 5}},
+      {"moved from where it were", "", manual("<c:x val=\"0.25\"/>"), axes, "", {103, 7, 370, 256}},
+      {"up to an edge",
+       "",
+       manual(edges + "<c:wMode val=\"edge\"/><c:x val=\"0.25\"/><c:w val=\"0.75\"/>"),
+       axes,
+       "",
+       {96, 7, 192, 256}},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    const auto area = PlotAreaOf(c.before, c.layout, c.axes, c.behind);
+    EXPECT_NEAR(area->Left(), c.frame.left, 0.05);
+    EXPECT_NEAR(area->Top(), c.frame.top, 0.05);
+    EXPECT_NEAR(area->Width(), c.frame.width, 0.05);
+    EXPECT_NEAR(area->Height(), c.frame.height, 0.05);
+    const double left = area->Left(), top = area->Top(), height = area->Height();
+    area->SetWidth(150);
+    EXPECT_NEAR(area->Width(), 150, 1e-9);
+    area->SetWidth(1000);
+    EXPECT_NEAR(area->Left() + area->Width(), 377, 1e-9);
+    EXPECT_NEAR(area->Left(), left, 1e-9);
+    EXPECT_NEAR(area->Top(), top, 1e-9);
+    EXPECT_NEAR(area->Height(), height, 1e-9);
+  }
+}
+
+}  // namespace
+}  // namespace plotsmith::xlsx

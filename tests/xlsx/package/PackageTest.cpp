@@ -1,0 +1,247 @@
+#include <fstream>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "runtime/Strings.h"
+#include "tests/support/HostTest.h"
+#include "xlsx/Limits.h"
+#include "xlsx/package/Package.h"
+#include "xlsx/package/PackageError.h"
+#include "xlsx/package/XString.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+using S = std::string;
+
+TEST(PackageTest, TargetsAreResolvedInsideThePackage) {
+  const std::tuple<const char*, const char*, const char*> cases[] = {
+      {"/xl/workbook.xml", "worksheets/sheet1.xml", "/xl/worksheets/sheet1.xml"},
+      {"/xl/worksheets/sheet1.xml", "../drawings/drawing1.xml", "/xl/drawings/drawing1.xml"},
+      {"", "xl/workbook.xml", "/xl/workbook.xml"},
+      {"/xl/workbook.xml", "/xl/styles.xml", "/xl/styles.xml"},
+      {"/xl/a.xml", ".\\b%20c.xml#d", "/xl/b c.xml"},
+      {"/xl/a.xml", "../../etc/passwd", ""},
+      {"/xl/a.xml", "../../xl/b.xml", ""}};
+  for (const auto& [source, target, resolved] : cases)
+    EXPECT_EQ(ResolveTarget(source, target), resolved) << target;
+  EXPECT_EQ(RelativeTarget("/xl/worksheets/sheet1.xml", "/xl/drawings/d.xml"), "../drawings/d.xml");
+  EXPECT_EQ(RelativeTarget("", "/xl/workbook.xml"), "xl/workbook.xml");
+  EXPECT_EQ(RelativeTarget("/a/b/c.xml", "/x/y.xml"), "../../x/y.xml");
+  EXPECT_EQ(RelativeTarget("/a b/c.xml", "/a b/ä%.xml"), "%C3%A4%25.xml");
+}
+
+class PackageFileTest : public ::testing::Test {
+ protected:
+  S Book() {
+    test::PlainBook book;
+    book.sheets = {test::SalesSheet()};
+    S noise;
+    for (unsigned i = 0, x = 1; i < 10000; ++i)
+      noise += static_cast<char>((x = x * 1664525 + 1013904223) >> 24);
+    book.extraParts = {{"xl/media/noise.bin", noise}};
+    book.Write(folder_ / "book.xlsx");
+    return folder_ / "book.xlsx";
+  }
+  test::TempFolder folder_;
+};
+
+TEST_F(PackageFileTest, UntouchedPartsKeepTheirBytesOrderAndNames) {
+  Package package = Package::Open(Book());
+  const auto before = package.Parts();
+  package.Replace("/XL/Workbook.xml", "<workbook/>");  // names ignore case
+  package.Add("/xl/new.xml", "application/x-new", "<new/>");
+  const S id = package.AddRelationship("/xl/workbook.xml", "http://x/new", "/xl/new.xml");
+  package.Save(folder_ / "out.xlsx");
+
+  const Package again = Package::Open(folder_ / "out.xlsx");
+  const Package original = Package::Open(folder_ / "book.xlsx");
+  auto after = again.Parts();
+  EXPECT_EQ(after.back(), "/xl/new.xml");
+  after.pop_back();
+  EXPECT_EQ(after, before);
+  for (const S& part : before) {
+    const bool touched =
+        part == "/xl/workbook.xml" || part == "/[Content_Types].xml" || part == "/xl/_rels/workbook.xml.rels";
+    EXPECT_EQ(again.Read(part) == original.Read(part), !touched) << part;
+  }
+  EXPECT_EQ(again.ContentType("/xl/new.xml"), "application/x-new");
+  EXPECT_EQ(again.FindRelationship("/xl/workbook.xml", id)->target, "/xl/new.xml");
+  EXPECT_EQ(again.FindRelationship("/xl/workbook.xml", id)->type, "new");
+}
+
+TEST_F(PackageFileTest, ForeignEntriesAreCopiedByWhateverMethodTheyCame) {
+  {
+    ArchiveWriter writer(folder_ / "odd.xlsx");
+    writer.Add("[Content_Types].xml", "<Types/>");
+    writer.Add("foreign.bin", "in LZMA, or so it says", false);
+    writer.Finish();
+  }
+  std::ifstream in(folder_ / "odd.xlsx", std::ios::binary);
+  S bytes((std::istreambuf_iterator<char>(in)), {});
+  // the method stands 22 bytes before a local name, and 36 before one in the directory
+  const auto local = bytes.find("foreign.bin"), central = bytes.rfind("foreign.bin");
+  bytes[local - 22] = bytes[central - 36] = 14;
+  const S comment = "a comment on the file";
+  bytes[bytes.size() - 2] = static_cast<char>(comment.size());
+  std::ofstream(folder_ / "odd.xlsx", std::ios::binary) << bytes << comment;
+
+  Package package = Package::Open(folder_ / "odd.xlsx");
+  EXPECT_THROW(package.Read("/foreign.bin"), PackageError);
+  package.Add("/new.xml", "application/xml", "<new/>");
+  package.Save(folder_ / "out.xlsx");
+  std::ifstream saved(folder_ / "out.xlsx", std::ios::binary);
+  const S after((std::istreambuf_iterator<char>(saved)), {});
+  EXPECT_NE(after.find("in LZMA, or so it says"), S::npos);
+  EXPECT_TRUE(after.ends_with(comment));
+  EXPECT_EQ(after[after.find("foreign.bin") - 22], 14);
+  EXPECT_EQ(Archive(folder_ / "out.xlsx").Entries()[1].method, 14);
+}
+
+TEST_F(PackageFileTest, TheFileIsReplacedWholeOrNotAtAll) {
+  const S path = Book();
+  chmod(path.c_str(), 0640);
+  symlink(path.c_str(), (folder_ / "link.xlsx").c_str());
+  Package::Open(path).Save(folder_ / "link.xlsx");
+  struct stat status {};
+  ASSERT_EQ(lstat((folder_ / "link.xlsx").c_str(), &status), 0);
+  EXPECT_TRUE(S_ISLNK(status.st_mode)) << "a link keeps pointing";
+  ASSERT_EQ(stat(path.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777, 0640u);
+
+  Package package = Package::Open(path);
+  mkfifo((folder_ / "pipe").c_str(), 0600);
+  for (const S& bad : {folder_ / "no/such/folder/x.xlsx", folder_.Path().string(), folder_ / "pipe"}) {
+    EXPECT_THROW(package.Save(bad), PackageError) << bad;
+  }
+  std::size_t files = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(folder_.Path()))
+    files += entry.symlink_status().type() == std::filesystem::file_type::regular;
+  EXPECT_EQ(files, 1u) << "nothing is left behind";
+}
+
+TEST_F(PackageFileTest, DamageIsFoundWhereItLies) {
+  const S path = Book();
+  std::ifstream in(path, std::ios::binary);
+  S bytes((std::istreambuf_iterator<char>(in)), {});
+  const auto write = [&](const S& changed) {
+    std::ofstream(folder_ / "bad.xlsx", std::ios::binary) << changed;
+    return folder_ / "bad.xlsx";
+  };
+  EXPECT_THROW(Package::Open(write("")), PackageError);
+  EXPECT_THROW(Package::Open(write("no zip at all")), PackageError);
+  EXPECT_THROW(Package::Open(write(bytes.substr(0, bytes.size() / 2))), PackageError);
+  // one byte of one part's data: the part is damaged, the others are not
+  S flipped = bytes;
+  const auto data = flipped.find("xl/media/noise.bin") + 18 + 20;
+  flipped[data] = static_cast<char>(flipped[data] ^ 0x55);
+  const Package package = Package::Open(write(flipped));
+  EXPECT_NO_THROW(package.Read("/xl/workbook.xml"));
+  try {
+    package.Read("/xl/media/noise.bin");
+    FAIL();
+  } catch (const PackageError& e) {
+    EXPECT_TRUE(S(e.what()).starts_with("its part /xl/media/noise.bin can't be read: ")) << e.what();
+  }
+  EXPECT_THROW(package.Read("/xl/none.xml"), PackageError);
+}
+
+TEST_F(PackageFileTest, BombsAreRefusedBeforeTheyGoOff) {
+  ArchiveWriter writer(folder_ / "bomb.xlsx");
+  const S blanks(64 << 20, ' ');
+  writer.Add("[Content_Types].xml", "<Types/>");
+  writer.Add("xl/blanks.xml", blanks);
+  writer.Finish();
+  const Package package = Package::Open(folder_ / "bomb.xlsx");
+  EXPECT_THROW(package.Read("/xl/blanks.xml"), PackageError);
+  EXPECT_THROW(package.Stream("/xl/blanks.xml"), PackageError);
+}
+
+TEST(XmlTest, WhatIsNotTouchedGoesOutAsItCame) {
+  for (const S& text : {S("<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?><a x=\"1 &lt; &#10; "
+                          "&apos;\">&#13;\r\n &amp; <b/>\t<!-- c --><?p q?><![CDATA[<]]> </a>"),
+                        S("<a><b xml:space=\"preserve\">  </b></a>")}) {
+    pugi::xml_document document;
+    xml::Parse(document, text);
+    EXPECT_EQ(xml::Serialize(document), text);
+  }
+  pugi::xml_document document;
+  xml::Parse(document, "<a x='say \"hi\"'/>");
+  EXPECT_EQ(xml::Serialize(document), "<a x=\"say &quot;hi&quot;\"/>");
+  EXPECT_EQ(xml::Attribute(xml::Root(document), "x"), "say \"hi\"");
+  for (const char* bad : {"", "<a>", "text", "<a><b></a>"})
+    EXPECT_THROW(xml::Parse(document, bad), PackageError) << bad;
+}
+
+TEST(XmlTest, WhatNoPartMayBringIsRefused) {
+  S deep;
+  for (int i = 0; i < 500000; ++i) deep += "<a>";
+  for (int i = 0; i < 500000; ++i) deep += "</a>";
+  const std::pair<S, const char*> cases[] = {
+      {deep, "its XML nests too deep"},
+      {"<?xml version='1.0?><!--'>" + deep + "<!-- -->", "its XML is damaged"},
+      {"<!DOCTYPE a [<!-- ' -->]>" + deep, "its XML nests too deep"},
+      {S(limits::kXmlMarks + 1, '<'), "it has more elements than we can hold"},
+      {"<!DOCTYPE a><a/>", "it declares a document type, which no part of a workbook may"},
+      {"<a>\xE4</a>", "its text isn't in the encoding that it declares"}};
+  for (const auto& [text, reason] : cases) {
+    pugi::xml_document document;
+    try {
+      xml::Parse(document, text);
+      ADD_FAILURE() << text.substr(0, 40);
+    } catch (const PackageError& e) {
+      EXPECT_STREQ(e.what(), reason) << text.substr(0, 40);
+    }
+  }
+}
+
+TEST(XmlTest, AnyEncodingBecomesUtf8AndSaysSo) {
+  const auto declared = [](const S& encoding, const S& text) {
+    return "<?xml version='1.0' encoding='" + encoding + "' standalone='yes'?><a>" + text + "</a>";
+  };
+  const auto wide = [](const S& text, bool big) {
+    S bytes;
+    for (const char16_t unit : runtime::ToUtf16(text)) {
+      const char high = static_cast<char>(unit >> 8), low = static_cast<char>(unit & 0xFF);
+      bytes += big ? S{high, low} : S{low, high};
+    }
+    return bytes;
+  };
+  const std::pair<S, S> cases[] = {
+      {wide("\uFEFF" + declared("UTF-16", "ä€"), false), declared("UTF-8", "ä€")},
+      {wide("\uFEFF" + declared("utf-16", "ä€"), true), declared("UTF-8", "ä€")},
+      {wide(declared("UTF-16LE", "ä"), false), declared("UTF-8", "ä")},
+      {wide("\uFEFF<a/>", false), "<a/>"},
+      {"\uFEFF" + declared("UTF-8", "ä"), declared("UTF-8", "ä")},
+      {declared("iso-8859-1", "\xE4\xFC"), declared("UTF-8", "äü")},
+      {declared("Windows-1252", "\x80\x99\xE4"), declared("UTF-8", "€™ä")},
+      {declared("utf-8", "ä"), declared("utf-8", "ä")}};
+  for (const auto& [bytes, text] : cases) {
+    EXPECT_EQ(xml::ToUtf8(bytes), text);
+    EXPECT_EQ(xml::NeedsConversion(bytes), bytes != text);
+  }
+}
+
+TEST(XmlTest, ValuesPassThroughBothWays) {
+  const S value = "a<b>&\"c'\r\n\td\x01";
+  EXPECT_EQ(xml::Decode(xml::EncodeText(value)), "a<b>&\"c'\r\n\td") << "what XML can't hold goes";
+  EXPECT_EQ(xml::Decode(xml::EncodeAttribute(value)), "a<b>&\"c'\r\n\td");
+  EXPECT_EQ(xml::Decode("&#x20AC;&#8364;&lt;&unknown;&;&#xFFFFFFF;&"), "€€<&unknown;&;&#xFFFFFFF;&");
+  for (const char* raw : {"&#1;", "&#xD83D;", "&#xFFFE;", "&#x110000;"}) EXPECT_EQ(xml::Decode(raw), raw);
+  // what no file may hold stays in the tree, where halves of a character wait for each other
+  pugi::xml_document document;
+  xml::Parse(document, "<a/>");
+  xml::SetAttribute(xml::Root(document), "b", "\xED\xA0\xBD|");
+  xml::SetText(xml::Root(document), "\xEF\xBF\xBF|ä");
+  EXPECT_EQ(xml::Attribute(xml::Root(document), "b"), "\xED\xA0\xBD|");
+  EXPECT_EQ(xml::Serialize(document), "<a b=\"|\">|ä</a>");
+  // a cell's text comes back whole, whatever is in it: here half a character, and what is none at all
+  EXPECT_EQ(EncodeXString("\xED\xA0\xBD \xEF\xBF\xBE"), "_xD83D_ _xFFFE_");
+  for (const S& text : {S("x\r\n\x01_x0041_"), S("\xED\xA0\xBD \xEF\xBF\xBE"), S("ä😀")}) {
+    EXPECT_EQ(DecodeXString(xml::Decode(EncodeXString(text))), text);
+  }
+}
+
+}  // namespace
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,132 @@
+#include <array>
+#include <gtest/gtest.h>
+
+#include "xlsx/sheet/Formula.h"
+#include "xlsx/sheet/RowShifts.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+TEST(ReferenceTest, ParsesBothStyles) {
+  struct Case {
+    const char* text;
+    const char* sheet;
+    CellRange range;
+  };
+  const Case cases[] = {
+      {"Sheet1!$A$1", "Sheet1", {1, 1, 1, 1}},
+      {"Sheet1!A1:B2", "Sheet1", {1, 1, 2, 2}},
+      {"Sheet1!b2:A1", "Sheet1", {1, 1, 2, 2}},
+      {"'It''s here'!$XFD$1048576", "It's here", {1048576, 16384, 1048576, 16384}},
+      {"'a!b'!A1", "a!b", {1, 1, 1, 1}},
+      {"VEX_ChartData!R6C2:R17C2", "VEX_ChartData", {6, 2, 17, 2}},
+      {"S!A:C", "S", {1, 1, 1048576, 3}},
+      {"S!$2:$3", "S", {2, 1, 3, 16384}},
+  };
+  for (const Case& c : cases) {
+    const auto parsed = ParseSheetRange(c.text);
+    ASSERT_TRUE(parsed) << c.text;
+    EXPECT_EQ(parsed->sheet, c.sheet) << c.text;
+    EXPECT_EQ(parsed->range, c.range) << c.text;
+  }
+  for (const char* text : {"", "A1", "!A1", "Sheet1!", "Sheet1!A0", "Sheet1!XFE1", "Sheet1!A1048577",
+                           "Sheet1!A1:", "Sheet1!R0C1", "'Sheet1!A1", "Sheet1!#REF!", "Sheet1!A1,Sheet1!B2",
+                           "Sheet1!OFFSET(A1,1,1)", "Sheet1!$A", "Sheet1!1"}) {
+    EXPECT_FALSE(ParseSheetRange(text)) << text;
+  }
+}
+
+TEST(ReferenceTest, SheetNamesAreQuotedWhereTheyMustBe) {
+  const std::pair<const char*, const char*> cases[] = {{"Sheet1", "Sheet1"},
+                                                       {"My Sheet", "'My Sheet'"},
+                                                       {"It's", "'It''s'"},
+                                                       {"A1", "'A1'"},
+                                                       {"R1C1", "'R1C1'"},
+                                                       {"2020", "'2020'"},
+                                                       {"VEX_ChartData", "VEX_ChartData"},
+                                                       {"a-b", "'a-b'"},
+                                                       {"Größe", "Größe"},
+                                                       {"XFE1", "XFE1"},
+                                                       {"R", "'R'"},
+                                                       {"", "''"}};
+  for (const auto& [name, quoted] : cases) EXPECT_EQ(QuotedSheetName(name), quoted);
+  EXPECT_EQ(SheetRangeAddress({"My Sheet", {1, 27, 3, 27}}), "'My Sheet'!$AA$1:$AA$3");
+}
+
+TEST(ReferenceTest, FormulasFollowRows) {
+  struct Case {
+    const char* formula;
+    int row, count;
+    bool home;
+    const char* shifted;  ///< null: stays as it is
+  };
+  const Case cases[] = {
+      // inserted in front, inside, at the last row, behind
+      {"Data!$A$5:$A$9", 3, 2, false, "Data!$A$7:$A$11"},
+      {"Data!$A$5:$A$9", 5, 1, false, "Data!$A$6:$A$10"},
+      {"Data!$A$5:$A$9", 9, 3, false, "Data!$A$5:$A$12"},
+      {"Data!$A$5:$A$9", 10, 3, false, nullptr},
+      // deleted in front, at the start, inside, at the end, all of it
+      {"Data!$A$5:$A$9", 1, -2, false, "Data!$A$3:$A$7"},
+      {"Data!$A$5:$A$9", 4, -3, false, "Data!$A$4:$A$6"},
+      {"Data!$A$5:$A$9", 6, -1, false, "Data!$A$5:$A$8"},
+      {"Data!$A$5:$A$9", 9, -5, false, "Data!$A$5:$A$8"},
+      {"Data!$A$5:$A$9", 5, -5, false, "Data!#REF!"},
+      {"Data!$A$5", 5, -1, false, "Data!#REF!"},
+      // whose rows: case, quotes, other sheets, the formula's own sheet
+      {"DATA!A5+'data'!B5", 1, 1, false, "DATA!A6+'data'!B6"},
+      {"Other!A5+A5", 1, 1, false, nullptr},
+      {"Other!A5+A5", 1, 1, true, "Other!A5+A6"},
+      {"SUM(Data!A1:B2,C$3,$D4)", 2, 1, true, "SUM(Data!A1:B3,C$4,$D5)"},
+      {"'It''s'!A5+Data!A5", 1, 1, false, "'It''s'!A5+Data!A6"},
+      {"[1]Data!A5+'[2]Data'!A5", 1, 1, false, nullptr},
+      {"Data:Last!A5+'Data:Last'!A5", 1, 1, false, nullptr},
+      // what looks like a reference and isn't
+      {"\"Data!A5\"&LOG10(A5)&Data!A5_x", 1, 1, false, nullptr},
+      {"LOG10(5)+A5", 1, 1, true, "LOG10(5)+A6"},
+      {"Table1[[#All],[A5]]+A5", 1, 1, true, "Table1[[#All],[A5]]+A6"},
+      {"1.5E5+A1.B5+TRUE", 1, 1, true, nullptr},
+      // whole rows move, whole columns don't, corners may stand in any order
+      {"Data!5:9+Data!A:C", 5, 1, false, "Data!6:10+Data!A:C"},
+      {"Data!A9:A5", 6, 1, false, "Data!A10:A5"},
+      {"Data!A1048576", 1, 1, false, "Data!#REF!"},
+      {"Data!A1:A1048576", 5, 1, false, nullptr},
+      {"Data!A1:A1048576", 1, 1, false, nullptr},
+      {"Data!A1:A1048576", 5, -2, false, nullptr},
+      {"Data!A2:A1048576", 5, -2, false, "Data!A2:A1048574"},
+      {"Data!A5:A8:A9+A9", 1, 1, false, "Data!A6:A9:A10+A9"},
+      {"Data!A5:Other!B6", 1, 1, false, "Data!A6:Other!B6"},
+      {"Other!A5:A6+A5:Data!A5", 1, 1, false, "Other!A5:A6+A5:Data!A6"},
+      {"Data!A5#+@A5", 1, 1, true, "Data!A6#+@A6"},
+      {"(Data!$B$6:$B$7,Data!$B$9)", 7, 2, false, "(Data!$B$6:$B$9,Data!$B$11)"},
+  };
+  for (const Case& c : cases) {
+    const auto shifted =
+        ShiftRows(c.formula, c.home ? "Data" : "", std::array{RowShift{"Data", c.row, c.count}});
+    EXPECT_EQ(shifted.value_or("(same)"), c.shifted == nullptr ? "(same)" : c.shifted)
+        << c.formula << " row " << c.row << " count " << c.count;
+  }
+}
+
+TEST(RowShiftsTest, EachHolderCatchesUpFromWhereItStands) {
+  RowShifts shifts;
+  for (int i = 0; i < 3; ++i) shifts.Add("Data", 5, 1);
+  EXPECT_EQ(shifts.Follow("Data!$A$5", "", 0), "Data!$A$8");
+  const auto mark = shifts.Mark();
+  shifts.Add("Data", 5, 1);  // the same place again, but somebody has followed up to here
+  EXPECT_EQ(shifts.Follow("Data!$A$8", "", mark), "Data!$A$9");
+  EXPECT_EQ(shifts.Follow("Data!$A$5", "", 0), "Data!$A$9");
+  EXPECT_FALSE(shifts.Follow("Data!$A$9", "", shifts.Mark()));
+  // one after the other, and each only on its sheet; what is gone stays gone
+  shifts.Add("Other", 1, 4);
+  shifts.Add("Data", 1, -3);
+  EXPECT_EQ(shifts.Follow("Data!$A$5+Other!$A$5", "", 0), "Data!$A$6+Other!$A$9");
+  shifts.Add("Data", 6, -1);
+  shifts.Add("Data", 1, 9);
+  EXPECT_EQ(shifts.Follow("Data!$A$5+A5", "data", 0), "Data!#REF!+#REF!");
+  EXPECT_TRUE(shifts.MayConcern("<c:f>data!A1</c:f>"));
+  EXPECT_FALSE(shifts.MayConcern("<c:f>Sheet1!A1</c:f>"));
+}
+
+}  // namespace
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,61 @@
+#include <gtest/gtest.h>
+
+#include "xlsx/sheet/Formula.h"
+#include "xlsx/sheet/SheetFormulas.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+TEST(SheetFormulasTest, OnlyTheFormulasConcernedChange) {
+  RowShifts shifts;
+  shifts.Add("My Data", 5, 2);
+  const std::pair<const char*, const char*> cases[] = {
+      {"<c r='A1'><f>'My Data'!A5&amp;\"'My Data'!A5\"</f><v>1</v></c>",
+       "<c r='A1'><f>'My Data'!A7&amp;\"'My Data'!A5\"</f><v>1</v></c>"},
+      {"<x:c r='A1'><x:f ca='1'>SUM('my data'!$A$4:$A$6)</x:f></x:c>",
+       "<x:c r='A1'><x:f ca='1'>SUM('my data'!$A$4:$A$8)</x:f></x:c>"},
+      {"<formula>'My Data'!A5&gt;1</formula><formula1>'My Data'!A5</formula1>",
+       "<formula>'My Data'!A7&gt;1</formula><formula1>'My Data'!A7</formula1>"},
+      {"<ext><xm:f>'My Data'!A5:B9</xm:f><xm:sqref>A5</xm:sqref></ext>",
+       "<ext><xm:f>'My Data'!A7:B11</xm:f><xm:sqref>A5</xm:sqref></ext>"},
+      // a shared formula can't follow as one: each cell gets its own
+      {"<c r='B4'><f t='shared' ref='B4:B6' si='3'>'My Data'!A4*$C$1</f><v>0</v></c><c r='B5'><f t='shared' "
+       "si='3'/></c>"
+       "<c r='B6'><f t='shared' si=\"3\"></f></c><c r='C1'><f t='shared' si='4' ref='C1'>A5</f></c><c "
+       "r='C2'><f t='shared' si='4'/></c>",
+       "<c r='B4'><f>'My Data'!A4*$C$1</f><v>0</v></c><c r='B5'><f>'My Data'!A7*$C$1</f></c>"
+       "<c r='B6'><f>'My Data'!A8*$C$1</f></c><c r='C1'><f t='shared' si='4' ref='C1'>A5</f></c><c r='C2'><f "
+       "t='shared' si='4'/></c>"},
+      // which keeps what else was said of it; and the number of a group is used again
+      {"<c r='B4'><f t='shared' ca='1' ref='B4:B5' xml:space='preserve' si='0'> 'My Data'!A5</f></c>"
+       "<c r='B5'><f  si='0' t = 'shared' ca='1'/></c>"
+       "<c r='D1'><f t='shared' ref='D1:D2' si='0'>B1+1</f></c><c r='D2'><f t='shared' si='0'/></c>",
+       "<c r='B4'><f ca='1' xml:space='preserve'> 'My Data'!A7</f></c><c r='B5'><f ca='1'> 'My "
+       "Data'!A8</f></c>"
+       "<c r='D1'><f t='shared' ref='D1:D2' si='0'>B1+1</f></c><c r='D2'><f t='shared' si='0'/></c>"}};
+  for (const auto& [before, after] : cases) {
+    std::string part = std::string("<w>\r\n<!-- 'My Data'!A5 -->") + before + "</w>";
+    EXPECT_TRUE(ShiftSheetFormulas(part, "Sheet1", shifts)) << before;
+    EXPECT_EQ(part, std::string("<w>\r\n<!-- 'My Data'!A5 -->") + after + "</w>");
+  }
+  for (const char* same : {"<c r='A1'><f>A5+Other!A5</f></c>", "<c r='A1'><f>'My Data'!A4</f></c>",
+                           "<c t='str'><v>'My Data'!A5</v></c>", "<f", "<f>"}) {
+    std::string part = same;
+    EXPECT_FALSE(ShiftSheetFormulas(part, "Sheet1", shifts)) << same;
+    EXPECT_EQ(part, same);
+  }
+}
+
+TEST(FormulaTest, CopiedFormulasMoveTheirRelativeReferences) {
+  const std::pair<const char*, const char*> cases[] = {{"A1+$A1+A$1+$A$1", "C4+$A4+C$1+$A$1"},
+                                                       {"SUM(A1:B2)*Other!A1", "SUM(C4:D5)*Other!C4"},
+                                                       {"\"A1\"&LOG10(A1)", "\"A1\"&LOG10(C4)"},
+                                                       {"1:1+A:A", "4:4+C:C"},
+                                                       {"XFD1", "#REF!"},
+                                                       {"A1048576", "#REF!"}};
+  for (const auto& [formula, moved] : cases) EXPECT_EQ(OffsetFormula(formula, 3, 2), moved);
+  EXPECT_EQ(OffsetFormula("B2+A2", -1, -1), "A1+#REF!");
+}
+
+}  // namespace
+}  // namespace plotsmith::xlsx

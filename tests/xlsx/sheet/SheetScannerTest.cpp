@@ -1,0 +1,184 @@
+#include <gtest/gtest.h>
+
+#include "runtime/Strings.h"
+#include "xlsx/package/PackageError.h"
+#include "xlsx/package/Xml.h"
+#include "xlsx/sheet/SharedStrings.h"
+#include "xlsx/sheet/SheetScanner.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+/// Hands a text out in pieces of a given size, as a slow inflater would.
+class PieceStream : public Archive::Stream {
+ public:
+  PieceStream(std::string_view text, std::size_t piece) : rest_(text), piece_(piece) {}
+  std::size_t Read(char* buffer, std::size_t size) override {
+    const std::size_t count = rest_.copy(buffer, std::min(size, piece_));
+    rest_.remove_prefix(count);
+    return count;
+  }
+
+ private:
+  std::string_view rest_;
+  std::size_t piece_;
+};
+
+/// A value in one letter and its content: n1.5, s3 (shared), t"text", b1, e"#N/A", or "-".
+std::string Show(const SheetContents& sheet, std::int32_t row, std::int32_t column) {
+  using Kind = PackedValue::Kind;
+  const PackedValue value = sheet.cells.ValueAt(row, column);
+  switch (value.GetKind()) {
+    case Kind::kEmpty:
+      return "-";
+    case Kind::kNumber:
+      return "n" + xml::Number(value.Number());
+    case Kind::kSharedText:
+      return "s" + std::to_string(value.Index());
+    case Kind::kOwnText:
+      return "t" + std::string(sheet.cells.texts.At(value.Index()));
+    case Kind::kBoolean:
+      return "b" + std::to_string(value.Index());
+    case Kind::kError:
+      return "e" + std::string(sheet.cells.texts.At(value.Index()));
+  }
+  return "?";
+}
+
+SheetContents Scan(std::string_view text, std::size_t piece = 1 << 20) {
+  PieceStream stream(text, piece);
+  return ScanSheet(stream, DateSystem::k1900);
+}
+
+const std::string kSheet =
+    "<?xml version='1.0'?><!-- <sheetData> --><worksheet xmlns='m'><dimension ref='A1:ZZ999'/><sheetData>\r\n"
+    "<row r='2' ht='30' spans='1:3'><c r='A2'><v>1</v></c><c r=\"C2\" s=\"7\" t=\"s\"><v>12</v></c><c "
+    "t='b'><v>1</v></c></row>"
+    "<row hidden='1'><c><v> -2.5e-3 </v></c><c r='B3' t='str'><f>A&amp;\"&gt;\"</f><v>a&amp;b_x000D_</v></c>"
+    "<c r='C3' t='e'><f t='shared' si='0'/><v>#N/A</v></c><c r='D3' "
+    "t='inlineStr'><is><r><t>rich</t></r><r><rPr><b/></rPr>"
+    "<t xml:space='preserve'> text</t></r><rPh><t>no</t></rPh></is></c><c r='E3' s='3'/></row><!-- <row/> -->"
+    "<row r='10'><c r='A10' t='d'><v>2020-01-01T12:00:00</v></c><c "
+    "r='B10'><v><![CDATA[7]]></v><extLst><v>9</v></extLst></c>"
+    "<c r='C10' t='inlineStr'><is/></c><c r='D10'><v>x</v></c><c r='E10'><v>123456789012345678</v></c><c "
+    "r='AB10'><v>0.1</v></c></row>"
+    "</sheetData><pageMargins/></worksheet>";
+
+const std::pair<std::pair<int, int>, std::string> kCells[] = {{{2, 1}, "n1"},
+                                                              {{2, 2}, "-"},
+                                                              {{2, 3}, "s12"},
+                                                              {{2, 4}, "b1"},
+                                                              {{3, 1}, "n-0.0025"},
+                                                              {{3, 2}, "ta&b\r"},
+                                                              {{3, 3}, "e#N/A"},
+                                                              {{3, 4}, "trich text"},
+                                                              {{3, 5}, "-"},
+                                                              {{10, 1}, "n43831.5"},
+                                                              {{10, 3}, "-"},
+                                                              {{10, 4}, "-"},
+                                                              {{10, 5}, "n123456789012345680"},
+                                                              {{10, 28}, "n0.1"}};
+
+TEST(SheetScannerTest, ReadsEveryKindOfCellHoweverTheWindowCuts) {
+  for (const std::size_t piece : {std::size_t{1} << 20, std::size_t{1000}, std::size_t{7}, std::size_t{1}}) {
+    SCOPED_TRACE(piece);
+    const SheetContents sheet = Scan(kSheet, piece);
+    for (const auto& [place, shown] : kCells) {
+      EXPECT_EQ(Show(sheet, place.first, place.second), shown) << place.first << "," << place.second;
+    }
+    EXPECT_EQ(sheet.used, (CellRange{2, 1, 10, 28})) << "whatever the dimension claims";
+    EXPECT_EQ(sheet.cells.StyleAt(2, 3), 7u);
+    EXPECT_EQ(sheet.cells.StyleAt(3, 5), 3u);
+    EXPECT_EQ(sheet.cells.StyleAt(3, 3), 0u);
+    EXPECT_EQ(sheet.rowHeights, (std::vector<std::pair<std::int32_t, double>>{{2, 30}, {3, 0}}));
+    EXPECT_TRUE(sheet.head.ends_with("<dimension ref='A1:ZZ999'/>"));
+  }
+}
+
+TEST(SheetScannerTest, PrefixesAndEncodings) {
+  std::string prefixed = runtime::Replace(runtime::Replace(kSheet, "</", "</x:"), "<", "<x:");
+  for (const auto& [wrong, right] : {std::pair{"<x:/x:", "</x:"}, {"<x:?", "<?"}, {"<x:!", "<!"}})
+    prefixed = runtime::Replace(prefixed, wrong, right);
+  const std::u16string units = runtime::ToUtf16(runtime::Replace(kSheet, "rich", "r\u00EDch"));
+  std::string big = "\xFE\xFF", little = "\xFF\xFE";
+  for (const char16_t unit : units) {
+    big += {static_cast<char>(unit >> 8), static_cast<char>(unit)};
+    little += {static_cast<char>(unit), static_cast<char>(unit >> 8)};
+  }
+  EXPECT_EQ(Show(Scan(prefixed), 3, 4), "trich text");
+  EXPECT_EQ(Show(Scan("\xEF\xBB\xBF" + kSheet), 3, 4), "trich text");
+  EXPECT_EQ(Show(Scan(big), 3, 4), "tr\u00EDch text");
+  EXPECT_EQ(Show(Scan(little, 5), 10, 28), "n0.1");
+}
+
+TEST(SheetScannerTest, SheetsWithoutCells) {
+  for (const char* text : {"<worksheet><sheetData/></worksheet>",
+                           "<worksheet><sheetData></sheetData></worksheet>", "<worksheet/>"}) {
+    EXPECT_FALSE(Scan(text).used) << text;
+  }
+}
+
+TEST(SheetScannerTest, CellsOutOfOrderAreFoundAllTheSame) {
+  const SheetContents sheet = Scan(
+      "<w><sheetData><row r='5'><c r='B5'><v>5</v></c><c r='A5'><v>4</v></c></row>"
+      "<row r='2'><c r='B2' s='2'><v>2</v></c></row><row r='5'><c r='B5'><v>6</v></c></row></sheetData></w>");
+  EXPECT_EQ(Show(sheet, 5, 2), "n6") << "the last one counts";
+  EXPECT_EQ(Show(sheet, 2, 2), "n2");
+  EXPECT_EQ(sheet.cells.StyleAt(2, 2), 2u);
+  EXPECT_EQ(Show(sheet, 5, 1), "n4");
+  EXPECT_EQ(sheet.used, (CellRange{2, 1, 5, 2}));
+}
+
+TEST(SheetScannerTest, DamageIsSaid) {
+  for (const char* text :
+       {"<w><sheetData><row r='1'><c r='A1'><v>1", "<w><sheetData><row r='1'><c r='A1", "<w><sheetData><row",
+        "<w><sheetData>", "<w><sheetData><row r='1048577'/></sheetData></w>",
+        "<w><sheetData><row r='0'/></sheetData></w>",
+        "<w><sheetData><row r='1'><c r='XFE1'><v>1</v></c></row></sheetData></w>",
+        "<w><sheetData><row r='1'><c r=A1/></row>", "<w><sheetData><row r='1'><c t='inlineStr'><is><t>x"}) {
+    EXPECT_THROW(Scan(text), PackageError) << text;
+  }
+}
+
+TEST(CellStoreTest, GapsRunsAndStyles) {
+  CellStore store;
+  const int rows[] = {3, 4, 7, 12, 13, 100000, 100003};
+  for (const int row : rows)
+    store.Append(row, 2, PackedValue(static_cast<double>(row)), row < 10 ? 1 : row == 13 ? 0 : 2);
+  for (int row = 1; row <= 100010; ++row) {
+    const bool there = std::find(std::begin(rows), std::end(rows), row) != std::end(rows);
+    const PackedValue value = store.ValueAt(row, 2);
+    ASSERT_EQ(value.GetKind() == PackedValue::Kind::kNumber, there) << row;
+    if (there) {
+      ASSERT_EQ(value.Number(), row);
+    }
+    ASSERT_EQ(store.StyleAt(row, 2), !there || row == 13 ? 0u : row < 10 ? 1u : 2u) << row;
+  }
+  EXPECT_EQ(store.LastRow(2), 100003);
+  EXPECT_EQ(store.LastRow(1), 0);
+  EXPECT_EQ(store.ValueAt(5, 99).GetKind(), PackedValue::Kind::kEmpty);
+}
+
+TEST(SharedStringsTest, RichTextsEscapesAndOddItems) {
+  const std::string text =
+      "<sst count='9'><si><t>plain &amp; simple</t></si><si/><si><r><t>ri</t></r><r><t "
+      "xml:space='preserve'>ch </t></r><rPh sb='0'><t>no</t></rPh>"
+      "<phoneticPr/></si><si><t/></si><si><t>_x0041__x005F_x0041__xD834__xDD1E_</t></"
+      "si><si><t><![CDATA[<x>]]>\r\ny</t></si></sst>";
+  for (const std::size_t piece : {std::size_t{4096}, std::size_t{1}}) {
+    PieceStream stream(text, piece);
+    TextPool strings;
+    ReadSharedStrings(stream, strings);
+    ASSERT_EQ(strings.Count(), 6u);
+    EXPECT_EQ(strings.At(0), "plain & simple");
+    EXPECT_EQ(strings.At(1), "");
+    EXPECT_EQ(strings.At(2), "rich ");
+    EXPECT_EQ(strings.At(3), "");
+    EXPECT_EQ(strings.At(4), "A_x0041_\xF0\x9D\x84\x9E");
+    EXPECT_EQ(strings.At(5), "<x>\ny");
+    EXPECT_EQ(strings.At(6), "") << "an index that isn't there";
+  }
+}
+
+}  // namespace
+}  // namespace plotsmith::xlsx
