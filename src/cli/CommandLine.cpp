@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <exception>
-#include <set>
 
 #include "xlsx/package/PackageError.h"
 
@@ -19,19 +18,29 @@ constexpr const char* kFooter =
     "Exit codes: 0 done, 1 done but Plotsmith had something to say, 2 wrong usage,\n"
     "3 the workbook could not be read or written, and nothing was changed.";
 
+/// The option that an argument names in full, alone or with its value behind "="; null if it names none.
+const CLI::Option* FindOption(const CLI::App& app, const CLI::App& verb, const std::string& argument) {
+  if (!argument.starts_with('-')) return nullptr;
+  const std::string name = argument.starts_with("--") ? argument.substr(0, argument.find('=')) : argument;
+  const CLI::Option* const option = verb.get_option_no_throw(name);
+  return option ? option : app.get_option_no_throw(name);
+}
+
 /// A number format or a value may look like an option ("-0.0", "-h:mm"): behind the verb `format`, what isn't
-/// one of the options in full goes behind "--".
-std::vector<std::string> WithFormatsBehindTheOptions(std::vector<std::string> arguments) {
+/// an option in full goes behind "--".
+std::vector<std::string> WithFormatsBehindTheOptions(std::vector<std::string> arguments,
+                                                     const CLI::App& app) {
   if (arguments.empty() || arguments[0] != "format") return arguments;
-  static const std::set<std::string> kOptions = {"--tsv", "--date1904", "--help",
-                                                 "-h",    "--journal",  "--force"};
+  const CLI::App& verb = *app.get_subcommand("format");
   std::vector<std::string> options = {"format"}, rest;
   for (std::size_t i = 1; i < arguments.size(); ++i) {
-    if (arguments[i] == "--host-version" && i + 1 < arguments.size()) {
-      options.insert(options.end(), {arguments[i], arguments[i + 1]});
-      ++i;
+    if (const CLI::Option* const option = FindOption(app, verb, arguments[i])) {
+      options.push_back(arguments[i]);
+      const bool valueFollows =
+          option->get_items_expected_min() > 0 && arguments[i].find('=') == arguments[i].npos;
+      if (valueFollows && i + 1 < arguments.size()) options.push_back(arguments[++i]);
     } else if (arguments[i] != "--" || !rest.empty()) {
-      (kOptions.contains(arguments[i]) ? options : rest).push_back(arguments[i]);
+      rest.push_back(arguments[i]);
     }
   }
   if (!rest.empty()) options.emplace_back("--");
@@ -74,7 +83,7 @@ int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
     return streams.out ? code : fail("the output can't be written.", exit_code::kFile);
   };
   try {
-    arguments = WithFormatsBehindTheOptions(std::move(arguments));
+    arguments = WithFormatsBehindTheOptions(std::move(arguments), line.app);
     std::reverse(arguments.begin(), arguments.end());  // as the parser wants them
     line.app.parse(arguments);
     return delivered(run());

@@ -173,6 +173,13 @@ TEST_F(CommandTest, ListsAndJson) {
 TEST_F(CommandTest, Formats) {
   EXPECT_EQ(Run({"format", "#,##0.00", "-1234.5"}).out, "-1,234.50\n");
   EXPECT_EQ(Run({"format", "--date1904", "yyyy-mm-dd", "0"}).out, "1904-01-01\n");
+  for (const std::vector<S>& arguments :
+       std::vector<std::vector<S>>{{"format", "-0.0", "-2"},
+                                   {"format", "--host-version", "11", "-0.0", "-2"},
+                                   {"format", "--host-version=11", "-0.0", "-2"},
+                                   {"format", "-0.0", "-2", "--force"},
+                                   {"format", "--", "-0.0", "-2"}})
+    EXPECT_EQ(Run(arguments).out, "--2.0\n");
   EXPECT_EQ(Run({"format", "--tsv"}, "0.0\t2.25\n@\" x\"\tabc\n0\"\t1\n;;;\t5\r\nGeneral\tTRUE\n").out,
             "2.3\nabc x\n(invalid format)\n\nTRUE\n");
 }

@@ -1,0 +1,118 @@
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <regex>
+#include <set>
+#include <sstream>
+
+#include "cli/CommandLine.h"
+#include "tests/support/HostTest.h"
+
+namespace plotsmith {
+namespace {
+
+namespace fs = std::filesystem;
+using S = std::string;
+
+const fs::path kRoot = PLOTSMITH_SOURCE_DIR;
+
+S Text(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  EXPECT_TRUE(file) << path;
+  return S(std::istreambuf_iterator<char>(file), {});
+}
+
+/// The code blocks of a page that begin so.
+S Block(const S& page, const S& begin) {
+  const auto from = page.find("```" + begin);
+  if (from == S::npos) return {};
+  const auto text = page.find('\n', from) + 1;
+  return page.substr(text, page.find("```", text) - text);
+}
+
+S Replaced(const S& text, const S& what, const S& by) {
+  S result = text;
+  for (std::size_t at = 0; (at = result.find(what, at)) != S::npos; at += by.size())
+    result.replace(at, what.size(), by);
+  return result;
+}
+
+/// What the pages tell a newcomer to do, done as they say.
+class NewcomerTest : public ::testing::Test {
+ protected:
+  /// What a command of the shell prints, both streams; it has to succeed.
+  S Shell(const S& command) {
+    const S out = folder_ / "out.txt";
+    EXPECT_EQ(std::system((command + " > " + out + " 2>&1").c_str()), 0) << command << '\n' << Text(out);
+    return Text(out);
+  }
+
+  test::TempFolder folder_;
+  const S readme_ = Text(kRoot / "README.md");
+};
+
+TEST_F(NewcomerTest, TheWorkbookOfTheReadmeIsRefreshedAsItSays) {
+  std::istringstream commands(Block(readme_, "\npython3 examples/write_book.py"));
+  S line, last;
+  while (std::getline(commands, line)) {
+    line = Replaced(line, "build/plotsmith", PLOTSMITH_COMMAND);
+    line = Replaced(line, "examples/", (kRoot / "examples/").string());
+    last = Shell(Replaced(line, "book.xlsx", folder_ / "book.xlsx"));
+    if (line.find("write_book") == S::npos) continue;
+    // it writes the definition that stands above
+    const S definition = std::regex_replace(Block(readme_, "xml\n"), std::regex("\n *"), "");
+    EXPECT_EQ(
+        Shell(S(PLOTSMITH_COMMAND) + " cells " + (folder_ / "book.xlsx") + " 'VEX_ChartDefinitions!A2'"),
+        definition + "\n");
+  }
+  EXPECT_EQ(last,
+            "VEX_Chart1  \"Sales\"\n  column chart on sheet Data1, from table Data1 on sheet Data1\n  ok\n");
+}
+
+TEST_F(NewcomerTest, TheExamplesAreRefreshedWithoutAWord) {
+  int books = 0;
+  for (const auto& entry : fs::directory_iterator(kRoot / "examples")) {
+    if (entry.path().extension() != ".xlsx") continue;
+    ++books;
+    const S out = folder_ / entry.path().filename().string();
+    EXPECT_EQ(Shell(S(PLOTSMITH_COMMAND) + " refresh " + entry.path().string() + " -o " + out), "");
+    const S charts = Shell(S(PLOTSMITH_COMMAND) + " charts " + out);
+    EXPECT_NE(charts, "");
+    std::istringstream lines(charts);
+    for (S id, place, state;
+         std::getline(lines, id) && std::getline(lines, place) && std::getline(lines, state);)
+      EXPECT_EQ(state, "  ok") << out << ' ' << id;
+  }
+  EXPECT_GE(books, 4);
+}
+
+TEST_F(NewcomerTest, TheReadmeNamesEachVerb) {
+  const std::regex row("\n\\| `([a-z-]+)[ `]");
+  std::set<S> named, verbs;
+  for (std::sregex_iterator it(readme_.begin(), readme_.end(), row), end; it != end; ++it)
+    named.insert((*it)[1]);
+  for (const CLI::App* verb : cli::CommandLine().verbs) verbs.insert(verb->get_name());
+  EXPECT_EQ(named, verbs);
+}
+
+TEST_F(NewcomerTest, LinksAndPathsOfThePagesLeadSomewhere) {
+  const std::regex link(R"x((?:\]\(|src=")([^)"#:]+))x"),
+      path(R"(`((?:src|tests|docs|examples|scripts|fuzz|bench)/[A-Za-z/_.-]*[a-z])`)");
+  std::vector<fs::path> pages = {kRoot / "README.md"};
+  for (const auto& entry : fs::directory_iterator(kRoot / "docs")) {
+    if (entry.path().extension() == ".md") pages.push_back(entry.path());
+  }
+  int links = 0;
+  for (const fs::path& page : pages) {
+    const S text = Text(page);
+    for (std::sregex_iterator it(text.begin(), text.end(), link), end; it != end; ++it, ++links)
+      EXPECT_TRUE(fs::exists(page.parent_path() / S((*it)[1]))) << page << ": " << (*it)[1];
+    for (std::sregex_iterator it(text.begin(), text.end(), path), end; it != end; ++it)
+      EXPECT_TRUE(fs::exists(kRoot / S((*it)[1]))) << page << ": " << (*it)[1];
+  }
+  EXPECT_GT(links, 50);
+}
+
+}  // namespace
+}  // namespace plotsmith
