@@ -9,6 +9,7 @@
 #include "xlsx/Workbook.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/numberformat/NumberFormat.h"
+#include "xlsx/package/MemoryStream.h"
 #include "xlsx/package/Package.h"
 #include "xlsx/sheet/RowShifts.h"
 #include "xlsx/sheet/SheetScanner.h"
@@ -18,23 +19,10 @@ namespace {
 
 constexpr std::int32_t kRows = 20'000;
 
-class Bytes final : public Archive::Stream {
- public:
-  explicit Bytes(std::string_view bytes) : rest_(bytes) {}
-  std::size_t Read(char* buffer, std::size_t size) override {
-    const std::size_t count = rest_.copy(buffer, size);
-    rest_.remove_prefix(count);
-    return count;
-  }
-
- private:
-  std::string_view rest_;
-};
-
 void ScanASheet(benchmark::State& state) {
   const std::string sheet = bench::DataSheet(kRows);
   for (auto _ : state) {
-    Bytes source(sheet);
+    MemoryStream source(sheet);
     benchmark::DoNotOptimize(ScanSheet(source, DateSystem::k1900).cells.CellCount());
   }
   state.SetBytesProcessed(static_cast<std::int64_t>(sheet.size()) * state.iterations());

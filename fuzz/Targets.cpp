@@ -19,6 +19,7 @@
 #include "xlsx/SheetDrawing.h"
 #include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/package/MemoryStream.h"
 #include "xlsx/package/Package.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/sheet/Formula.h"
@@ -65,19 +66,11 @@ class MemoryFile {
   int file_;
 };
 
-class Pieces : public xlsx::Archive::Stream {
- public:
-  Pieces(std::string_view text, std::size_t piece) : rest_(text), piece_(piece) {}
-  std::size_t Read(char* buffer, std::size_t size) override {
-    const std::size_t count = rest_.copy(buffer, std::min(size, piece_));
-    rest_.remove_prefix(count);
-    return count;
-  }
-
- private:
-  std::string_view rest_;
-  std::size_t piece_;
-};
+/// A workbook of this process alone, for a target to write and to take away.
+std::string TemporaryBook() {
+  return (std::filesystem::temp_directory_path() / ("plotsmith-fuzz-" + std::to_string(getpid()) + ".xlsx"))
+      .string();
+}
 
 /// The system on a workbook: a whole refresh.
 void Refresh(const std::shared_ptr<xlsx::Application>& host) {
@@ -115,7 +108,7 @@ void Sheet(const std::uint8_t* data, std::size_t size) {
   const xlsx::Styles styles("");
   for (const std::size_t piece : {std::size_t{1} << 20, std::size_t{3}}) {
     Tolerate([&] {
-      Pieces stream(text, piece);
+      xlsx::MemoryStream stream(text, piece);
       const auto sheet = xlsx::ScanSheet(stream, xlsx::DateSystem::k1900);
       const auto geometry = xlsx::ReadGeometry(sheet.head, sheet.rowHeights, styles);
       geometry.columns.IndexAt(geometry.columns.EdgeOf(100));
@@ -134,7 +127,7 @@ void Sheet(const std::uint8_t* data, std::size_t size) {
 
 void SharedStrings(const std::uint8_t* data, std::size_t size) {
   Tolerate([&] {
-    Pieces stream(Text(data, size), 7);
+    xlsx::MemoryStream stream(Text(data, size), 7);
     xlsx::TextPool strings;
     xlsx::ReadSharedStrings(stream, strings);
     if (strings.Count() > 0) strings.At(0);
@@ -180,9 +173,7 @@ void RefreshWith(const char* part, std::string_view bytes) {
       "<auto-persistence><persist property=\"legend-visibility\" value=\"show\"/></auto-persistence></chart>";
   definitions->SetCellValueAt(2, 1, std::string(part) == "definition" ? std::string(bytes) : chart);
   // the part is replaced in the saved book, when that is open again
-  const std::string path =
-      (std::filesystem::temp_directory_path() / ("plotsmith-fuzz-" + std::to_string(getpid()) + ".xlsx"))
-          .string();
+  const std::string path = TemporaryBook();
   book.Save(path);
   Tolerate([&] {
     host->Open(path);
@@ -216,9 +207,7 @@ void ChartShapes(const std::uint8_t* data, std::size_t size) {
       ->Chart()
       ->Shapes()
       ->AddShape(1, 0, 0, 9, 9);
-  const std::string path =
-      (std::filesystem::temp_directory_path() / ("plotsmith-fuzz-" + std::to_string(getpid()) + ".xlsx"))
-          .string();
+  const std::string path = TemporaryBook();
   book.Save(path);
   Tolerate([&] {
     host->Open(path);

@@ -5,7 +5,7 @@
 #include "common/RunVariables.h"
 #include "readback/ChartAppearance.h"
 #include "readback/ChartIdentity.h"
-#include "tests/support/HostTest.h"
+#include "tests/support/ChartTest.h"
 #include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
 
@@ -55,16 +55,13 @@ S Summary(const dom::IXMLDOMDocument2& document) {
   return format.empty() ? line : line + " | " + format;
 }
 
-class ReadBackTest : public test::HostTest {
+class ReadBackTest : public test::ChartTest {
  protected:
   static S ReadBack(const excel::Ref<excel::Chart>& chart) {
     auto document = NewXMLDocument();
     document.loadXML("<chart/>");
     RevEngineerChart(chart, document);
     return Summary(document);
-  }
-  static excel::Ref<excel::Chart> ChartOf(const excel::Ref<excel::Shape>& shape) {
-    return std::dynamic_pointer_cast<xlsx::SheetShape>(shape.shared())->Chart();
   }
 };
 
@@ -288,16 +285,7 @@ TEST_F(ReadBackTest, WaysToSayTheSame) {
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.what);
-    test::PlainBook book;
-    book.sheets = {test::SalesSheet("Sheet1")};
-    book.sheets[0].frames = {
-        {"id",
-         "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\" "
-         "xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\">"
-         "<c:chart>" +
-             c.chart + "</c:chart>" + c.behind + "</c:chartSpace>"}};
-    Open(book);
-    const S said = ReadBack(ChartOf(Book().FindWorksheet("Sheet1")->Shapes()->Item(1)));
+    const S said = ReadBack(OpenChart(test::ChartPartXml(c.chart, c.behind)));
     EXPECT_NE(said.find(c.expected), S::npos) << said << "\n  should have " << c.expected;
     EXPECT_TRUE(said.ends_with(c.expected) || c.expected.find("Arial 9") == S::npos) << said;
   }
@@ -357,16 +345,7 @@ TEST_F(ReadBackTest, TypesOfCharts) {
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.type + " " + std::to_string(c.number));
-    test::PlainBook book;
-    book.sheets = {test::SalesSheet("Sheet1")};
-    book.sheets[0].frames = {
-        {"id",
-         "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\" "
-         "xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\">"
-         "<c:chart>" +
-             c.chart + "</c:chart></c:chartSpace>"}};
-    Open(book);
-    const auto chart = ChartOf(Book().FindWorksheet("Sheet1")->Shapes()->Item(1));
+    const auto chart = OpenChart(test::ChartPartXml(c.chart));
     EXPECT_EQ(chart->ChartType(), c.number);
     auto document = NewXMLDocument();
     document.loadXML("<chart/>");

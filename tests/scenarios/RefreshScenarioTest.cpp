@@ -16,6 +16,15 @@ using S = std::string;
 class RefreshScenarioTest : public test::HostTest {
  protected:
   S Refers(const S& name) { return Book().Names()->Item(name)->RefersTo(); }
+  /// The saved workbook with the first sheet of another one, as an export would fill it anew.
+  void OpenSavedWithDataOf(const PlainBook& book) {
+    book.Write(folder_ / "filled.xlsx");
+    auto package = xlsx::Package::Open(folder_ / "saved.xlsx");
+    package.Replace("/xl/worksheets/sheet1.xml",
+                    xlsx::Package::Open(folder_ / "filled.xlsx").Read("/xl/worksheets/sheet1.xml"));
+    package.Save(folder_ / "filled.xlsx");
+    OpenFile(folder_ / "filled.xlsx");
+  }
   S Chart(int number) { return SavedPart("/xl/charts/chart" + std::to_string(number) + ".xml"); }
 };
 
@@ -53,12 +62,7 @@ TEST_F(RefreshScenarioTest, ReferencesFollowABlockThatGrowsAboveThem) {
   // the table gets three rows more, and both charts are rebuilt, one behind the other
   PlainBook grown = book;
   SetRegions(grown, {"A", "B", "C", "D", "E"});
-  grown.Write(folder_ / "grown.xlsx");
-  auto package = xlsx::Package::Open(folder_ / "saved.xlsx");
-  package.Replace("/xl/worksheets/sheet1.xml",
-                  xlsx::Package::Open(folder_ / "grown.xlsx").Read("/xl/worksheets/sheet1.xml"));
-  package.Save(folder_ / "grown.xlsx");
-  OpenFile(folder_ / "grown.xlsx");
+  OpenSavedWithDataOf(grown);
   Refresh();
   SaveAndReopen();
   EXPECT_TRUE(Messages().empty());
@@ -94,12 +98,7 @@ TEST_F(RefreshScenarioTest, AChartThatIsNotRebuiltKeepsItsDataWhenRowsMove) {
   const S before = Chart(2);
   ASSERT_NE(before.find("VEX_ChartData!$C$5:$C$6"), S::npos) << before;
   SetRegions(book, {"A", "B", "C", "D", "E"});
-  book.Write(folder_ / "grown.xlsx");
-  auto package = xlsx::Package::Open(folder_ / "saved.xlsx");
-  package.Replace("/xl/worksheets/sheet1.xml",
-                  xlsx::Package::Open(folder_ / "grown.xlsx").Read("/xl/worksheets/sheet1.xml"));
-  package.Save(folder_ / "saved.xlsx");
-  OpenFile(folder_ / "saved.xlsx");
+  OpenSavedWithDataOf(book);
   S table = "Data1";
   CPlotsmithController().RefreshChartsForTable(host_, table);
   SaveAndReopen();

@@ -243,12 +243,24 @@ excel::Ref<excel::Series> AddOfType(excel::Chart& chart, std::int32_t type) {
   return series;
 }
 
-std::string ChartTest::After(const std::string& part, const std::function<void(excel::Chart&)>& call) {
+excel::Ref<excel::Chart> ChartTest::OpenChart(const std::string& part, const std::string& userShapes) {
   PlainBook book;
   book.sheets = {SalesSheet("Sheet1")};
   book.sheets[0].frames = {{"id", part}};
+  if (!userShapes.empty()) {
+    book.extraParts = {
+        {"xl/drawings/drawing2.xml", userShapes},
+        {"xl/charts/_rels/chart1.xml.rels",
+         "<Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/relationships\">"
+         "<Relationship Id=\"rId7\" Type=\"http://schemas.openxmlformats.org/officeDocument/2006/"
+         "relationships/chartUserShapes\" Target=\"../drawings/drawing2.xml\"/></Relationships>"}};
+  }
   Open(book);
-  call(*ChartOf("Sheet1"));
+  return ChartOf("Sheet1");
+}
+
+std::string ChartTest::After(const std::string& part, const std::function<void(excel::Chart&)>& call) {
+  call(*OpenChart(part));
   SaveAndReopen();
   return SavedPart("/xl/charts/chart1.xml");
 }

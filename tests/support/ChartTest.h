@@ -30,6 +30,8 @@ excel::Ref<excel::Series> AddOfType(excel::Chart& chart, std::int32_t type);
 /// Tests of the chart view on a real file: a sheet of sales with one chart.
 class ChartTest : public HostTest {
  protected:
+  /// Opens a workbook with a chart of 384 by 270 points on its sheet, with shapes on it if any are given.
+  excel::Ref<excel::Chart> OpenChart(const std::string& part, const std::string& userShapes = "");
   /// The chart part after a call on the chart, saved and read again.
   std::string After(const std::string& part, const std::function<void(excel::Chart&)>& call);
   /// The same of a call that must leave the part without complaints.

@@ -6,6 +6,7 @@
 #include "runtime/Strings.h"
 #include "xlsx/Limits.h"
 #include "xlsx/package/AtomicFile.h"
+#include "xlsx/package/MemoryStream.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/package/Xml.h"
 
@@ -188,19 +189,6 @@ class NamedStream : public Archive::Stream {
  private:
   std::unique_ptr<Archive::Stream> inner_;
   std::string part_;
-};
-
-class MemoryStream : public Archive::Stream {
- public:
-  explicit MemoryStream(std::string_view bytes) : rest_(bytes) {}
-  std::size_t Read(char* buffer, std::size_t size) override {
-    const std::size_t count = rest_.copy(buffer, size);
-    rest_.remove_prefix(count);
-    return count;
-  }
-
- private:
-  std::string_view rest_;
 };
 
 void CheckSize(const ArchiveEntry& entry, const std::string& part, std::uint64_t limit) {

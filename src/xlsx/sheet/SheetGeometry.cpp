@@ -5,6 +5,7 @@
 
 #include "runtime/Strings.h"
 #include "xlsx/Limits.h"
+#include "xlsx/package/MemoryStream.h"
 #include "xlsx/package/Xml.h"
 #include "xlsx/package/XmlStream.h"
 #include "xlsx/sheet/Styles.h"
@@ -109,18 +110,7 @@ SheetGeometry ReadGeometry(const std::string& head,
   std::vector<Columns> columns;
 
   // the head is an element without its end, so it is read as a stream of tags
-  class HeadStream : public Archive::Stream {
-   public:
-    explicit HeadStream(std::string_view text) : text_(text) {}
-    std::size_t Read(char* buffer, std::size_t size) override {
-      const std::size_t count = text_.copy(buffer, size);
-      text_.remove_prefix(count);
-      return count;
-    }
-
-   private:
-    std::string_view text_;
-  } source(head);
+  MemoryStream source(head);
   XmlStream stream(source);
   for (XmlStream::Tag tag = stream.Next(); tag.kind != XmlStream::Kind::kEndOfInput; tag = stream.Next()) {
     const auto number = [&](std::string_view name, double most) {

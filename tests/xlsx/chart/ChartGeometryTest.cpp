@@ -1,5 +1,5 @@
 #include "runtime/Strings.h"
-#include "tests/support/HostTest.h"
+#include "tests/support/ChartTest.h"
 #include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/drawing/TextMetrics.h"
@@ -34,24 +34,18 @@ TEST(TextMetricsTest, TextsAreAsWideAsTheirFontsMakeThem) {
   EXPECT_NEAR(LineHeight({"Calibri", 10, false}), 12.207, 1e-9);
 }
 
-class ChartGeometryTest : public test::HostTest {
+class ChartGeometryTest : public test::ChartTest {
  protected:
   /// The plot area of a chart of 384 by 270 points, after `layout` has laid it out.
   excel::Ref<excel::PlotArea> PlotAreaOf(const S& beforePlot, const S& layout, const S& axes,
                                          const S& behindPlot) {
-    test::PlainBook book;
-    book.sheets = {test::SalesSheet("Sheet1")};
-    book.sheets[0].frames = {
-        {"id",
-         "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\" "
-         "xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\"><c:chart>" +
-             beforePlot + "<c:plotArea>" + layout +
-             "<c:barChart><c:ser><c:idx val=\"0\"/><c:tx><c:v>Widgets</c:v></c:tx><c:val><c:numLit><c:pt "
-             "idx=\"0\"><c:v>1250</c:v></c:pt></c:numLit></c:val></c:ser></c:barChart>" +
-             axes + "</c:plotArea>" + behindPlot + "</c:chart></c:chartSpace>"}};
-    Open(book);
-    const auto frame = Book().FindWorksheet("Sheet1")->Shapes()->Item(1).shared();
-    return std::dynamic_pointer_cast<SheetShape>(frame)->Chart()->PlotArea();
+    return OpenChart(
+               test::ChartPartXml(beforePlot + "<c:plotArea>" + layout +
+                                  "<c:barChart><c:ser><c:idx "
+                                  "val=\"0\"/><c:tx><c:v>Widgets</c:v></c:tx><c:val><c:numLit><c:pt "
+                                  "idx=\"0\"><c:v>1250</c:v></c:pt></c:numLit></c:val></c:ser></c:barChart>" +
+                                  axes + "</c:plotArea>" + behindPlot))
+        ->PlotArea();
   }
 };
 

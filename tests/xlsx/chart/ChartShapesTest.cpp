@@ -4,7 +4,7 @@
 
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
-#include "tests/support/HostTest.h"
+#include "tests/support/ChartTest.h"
 #include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/package/Xml.h"
@@ -12,24 +12,15 @@
 namespace plotsmith::xlsx {
 namespace {
 
+using test::ExpectError1004;
 using S = std::string;
 
 const S kPart = "/xl/drawings/drawing2.xml";  // the first is the sheet's
-const S kBubbles =
-    "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\" "
-    "xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\"><c:chart><c:plotArea><c:layout/>"
+const S kBubbles = test::ChartPartXml(
+    "<c:plotArea><c:layout/>"
     "<c:bubbleChart><c:axId val=\"1\"/><c:axId val=\"2\"/></c:bubbleChart><c:valAx><c:axId val=\"1\"/>"
     "<c:axPos val=\"b\"/><c:crossAx val=\"2\"/></c:valAx><c:valAx><c:axId val=\"2\"/><c:axPos val=\"l\"/>"
-    "<c:crossAx val=\"1\"/></c:valAx></c:plotArea></c:chart></c:chartSpace>";
-
-void ExpectError1004(const std::function<void()>& call) {
-  try {
-    call();
-    ADD_FAILURE() << "no error";
-  } catch (const runtime::RuntimeError& e) {
-    EXPECT_EQ(e.Number(), 1004) << e.Description();
-  }
-}
+    "<c:crossAx val=\"1\"/></c:valAx></c:plotArea>");
 
 /// Children of the elements that the host writes, in the order of their schema (ECMA-376-1, 21.3 and
 /// 20.1); "|" joins what excludes each other or may mix.
@@ -75,27 +66,11 @@ void ExpectSchema(pugi::xml_node node) {
   }
 }
 
-class ChartShapesTest : public test::HostTest {
+class ChartShapesTest : public test::ChartTest {
  protected:
-  /// A sheet with one chart of 384 by 270 points.
-  void OpenChart(const S& chart = kBubbles, const S& userShapes = "") {
-    test::PlainBook book;
-    book.sheets = {test::SalesSheet("Sheet1")};
-    book.sheets[0].frames = {{"id", chart}};
-    if (!userShapes.empty()) {
-      book.extraParts = {
-          {"xl/drawings/drawing2.xml", userShapes},
-          {"xl/charts/_rels/chart1.xml.rels",
-           "<Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/relationships\">"
-           "<Relationship Id=\"rId7\" Type=\"http://schemas.openxmlformats.org/officeDocument/2006/"
-           "relationships/chartUserShapes\" Target=\"../drawings/drawing2.xml\"/></Relationships>"}};
-    }
-    Open(book);
-  }
-  excel::Ref<excel::Chart> Chart() {
-    const auto frame = Book().FindWorksheet("Sheet1")->Shapes()->Item(1).shared();
-    return std::dynamic_pointer_cast<SheetShape>(frame)->Chart();
-  }
+  using test::ChartTest::OpenChart;
+  void OpenChart() { OpenChart(kBubbles); }
+  excel::Ref<excel::Chart> Chart() { return ChartOf("Sheet1"); }
 
   /// An entry of a drawn legend: a text box and a key. Answers the key.
   excel::Ref<excel::Shape> AddEntry(const S& name, double top) {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "runtime/Strings.h"
+#include "xlsx/package/MemoryStream.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/package/Xml.h"
 #include "xlsx/sheet/SharedStrings.h"
@@ -8,21 +9,6 @@
 
 namespace plotsmith::xlsx {
 namespace {
-
-/// Hands a text out in pieces of a given size, as a slow inflater would.
-class PieceStream : public Archive::Stream {
- public:
-  PieceStream(std::string_view text, std::size_t piece) : rest_(text), piece_(piece) {}
-  std::size_t Read(char* buffer, std::size_t size) override {
-    const std::size_t count = rest_.copy(buffer, std::min(size, piece_));
-    rest_.remove_prefix(count);
-    return count;
-  }
-
- private:
-  std::string_view rest_;
-  std::size_t piece_;
-};
 
 /// A value in one letter and its content: n1.5, s3 (shared), t"text", b1, e"#N/A", or "-".
 std::string Show(const SheetContents& sheet, std::int32_t row, std::int32_t column) {
@@ -46,7 +32,7 @@ std::string Show(const SheetContents& sheet, std::int32_t row, std::int32_t colu
 }
 
 SheetContents Scan(std::string_view text, std::size_t piece = 1 << 20) {
-  PieceStream stream(text, piece);
+  MemoryStream stream(text, piece);
   return ScanSheet(stream, DateSystem::k1900);
 }
 
@@ -166,7 +152,7 @@ TEST(SharedStringsTest, RichTextsEscapesAndOddItems) {
       "<phoneticPr/></si><si><t/></si><si><t>_x0041__x005F_x0041__xD834__xDD1E_</t></"
       "si><si><t><![CDATA[<x>]]>\r\ny</t></si></sst>";
   for (const std::size_t piece : {std::size_t{4096}, std::size_t{1}}) {
-    PieceStream stream(text, piece);
+    MemoryStream stream(text, piece);
     TextPool strings;
     ReadSharedStrings(stream, strings);
     ASSERT_EQ(strings.Count(), 6u);
