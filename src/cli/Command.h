@@ -1,10 +1,8 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
-#include <memory>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 #include "cli/Streams.h"
 
@@ -38,8 +36,5 @@ class Command {
   /// Answers an exit code, or throws a CommandError or a PackageError.
   virtual int Run(const GlobalOptions& options, const Streams& streams) = 0;
 };
-
-/// All verbs, in the order of the help.
-std::vector<std::unique_ptr<Command>> MakeCommands();
 
 }  // namespace plotsmith::cli

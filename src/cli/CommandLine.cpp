@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 
+#include "cli/commands/AllCommands.h"
 #include "xlsx/package/PackageError.h"
 
 namespace plotsmith::cli {

@@ -47,7 +47,7 @@ TEST_F(SheetShapesTest, MoveByTheirAnchors) {
 }
 
 TEST(ShapeEnumerationsTest, GoBothWays) {
-  for (const Enumeration* enumeration : {&kAutoShapes, &kTextAlignments, &kTextAnchors, &kAutoSizes}) {
+  for (const Enumeration* enumeration : {&kAutoShapes, &kAutoSizes}) {
     for (const EnumerationEntry& entry : enumeration->entries) {
       EXPECT_EQ(enumeration->Token(entry.number), entry.token) << entry.name;
       EXPECT_EQ(enumeration->Number(entry.token), entry.number) << entry.name;

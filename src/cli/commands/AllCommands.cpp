@@ -1,4 +1,5 @@
-#include "cli/Command.h"
+#include "cli/commands/AllCommands.h"
+
 #include "cli/commands/Cells.h"
 #include "cli/commands/Charts.h"
 #include "cli/commands/Definition.h"

@@ -38,19 +38,6 @@ constexpr EnumerationEntry kAutoShapeEntries[] = {
     {92, "msoShape5pointStar", "star5"},
 };
 
-constexpr EnumerationEntry kTextAlignmentEntries[] = {
-    {-4131, "xlHAlignLeft", "l"},       {-4108, "xlHAlignCenter", "ctr"},       {-4152, "xlHAlignRight", "r"},
-    {-4130, "xlHAlignJustify", "just"}, {-4117, "xlHAlignDistributed", "dist"},
-};
-
-constexpr EnumerationEntry kTextAnchorEntries[] = {
-    {-4160, "xlVAlignTop", "t"},
-    {-4108, "xlVAlignCenter", "ctr"},
-    {-4107, "xlVAlignBottom", "b"},
-    {-4130, "xlVAlignJustify", "just"},
-    {-4117, "xlVAlignDistributed", "dist"},
-};
-
 constexpr EnumerationEntry kAutoSizeEntries[] = {
     {0, "msoAutoSizeNone", "noAutofit"},
     {1, "msoAutoSizeShapeToFitText", "spAutoFit"},
@@ -60,8 +47,6 @@ constexpr EnumerationEntry kAutoSizeEntries[] = {
 }  // namespace
 
 const Enumeration kAutoShapes = {kAutoShapeEntries, ""};
-const Enumeration kTextAlignments = {kTextAlignmentEntries, "l"};
-const Enumeration kTextAnchors = {kTextAnchorEntries, "t"};
 const Enumeration kAutoSizes = {kAutoSizeEntries, "noAutofit"};
 
 }  // namespace plotsmith::xlsx

@@ -111,13 +111,13 @@ class ShapeTextFrame final : public excel::TextFrame {
   }
   void SetVerticalAlignment(std::int32_t alignment) override {
     frame_.Put("VerticalAlignment", alignment);
-    const auto token = kTextAnchors.Token(alignment);
+    const auto token = kVerticalAlignments.Token(alignment);
     if (!token) throw OutOfRange();
     frame_.Change([&](DrawingText& text) { xml::SetAttribute(text.BodyProperties(), "anchor", *token); });
   }
   void SetHorizontalAlignment(std::int32_t alignment) override {
     frame_.Put("HorizontalAlignment", alignment);
-    const auto token = kTextAlignments.Token(alignment);
+    const auto token = kHorizontalAlignments.Token(alignment);
     if (!token) throw OutOfRange();
     frame_.Change([&](DrawingText& text) {
       text.BodyProperties();

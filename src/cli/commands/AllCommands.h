@@ -1,0 +1,13 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "cli/Command.h"
+
+namespace plotsmith::cli {
+
+/// All verbs, in the order of the help.
+std::vector<std::unique_ptr<Command>> MakeCommands();
+
+}  // namespace plotsmith::cli
