@@ -6,6 +6,7 @@
 #include "host/excel/Excel.h"
 #include "runtime/Ref.h"
 
+/// The system. Those who only use it call IPlotsmithController.
 namespace plotsmith {
 
 /// The component as the host add-in calls it. No operation fails: every error ends in a message box.
@@ -13,10 +14,11 @@ class IPlotsmithController {
  public:
   virtual ~IPlotsmithController() = default;
 
-  /// The interactive wizard on the active workbook.
+  /// The interactive wizard on the active workbook. `sCustomAppName` is the host add-in's name for itself,
+  /// and `sHelpFile` what the Help buttons open. The host and the name of the first call stay for good.
   virtual void RunPlotsmith(runtime::Ref<excel::Application> oApplication, std::string sCustomAppName,
                             std::string sHelpFile) = 0;
-  /// Rebuilds all charts of the active workbook.
+  /// Rebuilds all charts of the active workbook, without the wizard. The arguments are those of RunPlotsmith.
   virtual void RefreshPlotsmithData(runtime::Ref<excel::Application> oApplication, std::string sCustomAppName,
                                     std::string sHelpFile) = 0;
   /// Rebuilds the charts that hang on one table, by the table's id.

@@ -2,6 +2,7 @@
 
 #include "runtime/Ref.h"
 
+/// @file
 /// The wizard's pages as the controller sees them.
 namespace plotsmith {
 
@@ -22,17 +23,19 @@ class Page {
 enum class FormName {
   frmPSSelectAction,
   frmPSSelectTable,
-  frmPSLayoutABC,
+  frmPSLayoutABC,  ///< area, bar and column
   frmPSLayoutBubble,
   frmPSLayoutPie,
-  frmPSLayoutStrBuck,
+  frmPSLayoutStrBuck,  ///< strategic bucket
   frmPSChartLocation,
 };
 
-/// The pages of a wizard, each made at its first use.
+/// The pages of a wizard.
 class PageSet {
  public:
   virtual ~PageSet() = default;
+
+  /// Made at its first use, and always the same from then on.
   virtual Page& Form(FormName eForm) = 0;
 };
 

@@ -16,6 +16,7 @@ namespace plotsmith::runtime {
 template <class T>
 class Collection {
  public:
+  /// How many items there are.
   std::int32_t Count() const { return static_cast<std::int32_t>(items_.size()); }
 
   /// Error 457 if the key is taken.
@@ -26,9 +27,11 @@ class Collection {
     index_.emplace(std::move(upper), items_.size() - 1);
   }
 
-  /// Error 5 if there is no such key.
+  /// Error 5 if there is no such key. The reference is good until an item is added or removed.
+  ///@{
   T& Item(std::string_view key) { return items_[Position(key)]; }
   const T& Item(std::string_view key) const { return items_[Position(key)]; }
+  ///@}
 
   /// Error 5 if there is no such key.
   void Remove(std::string_view key) {
@@ -40,8 +43,11 @@ class Collection {
     }
   }
 
+  /// The items without their keys, in order of addition.
+  ///@{
   auto begin() const { return items_.begin(); }
   auto end() const { return items_.end(); }
+  ///@}
 
  private:
   std::size_t Position(std::string_view key) const {

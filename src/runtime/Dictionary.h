@@ -14,16 +14,22 @@ namespace plotsmith::runtime {
 class Dictionary {
  public:
   Dictionary() = default;
+
+  /// Moves only: a copy's index would lead into the original.
+  ///@{
   Dictionary(Dictionary&&) = default;
   Dictionary& operator=(Dictionary&&) = default;
+  ///@}
 
   /// A key with its item.
   struct Entry {
-    std::string key;
-    Variant item;
+    std::string key;  ///< as it was first given
+    Variant item;     ///< Empty until it is set
   };
 
+  /// With the keys that Item made.
   std::int32_t Count() const { return static_cast<std::int32_t>(entries_.size()); }
+  /// Other than Item, makes no key.
   bool Exists(std::string_view key) const { return index_.contains(key); }
 
   /// Error 457 if the key is taken.
@@ -34,8 +40,10 @@ class Dictionary {
   Variant& Item(std::string_view key);
 
   /// Key and item together, in order of addition.
+  ///@{
   auto begin() const { return entries_.begin(); }
   auto end() const { return entries_.end(); }
+  ///@}
 
  private:
   std::deque<Entry> entries_;  // a deque, so that the views in the index stay good

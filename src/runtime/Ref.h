@@ -11,19 +11,36 @@ namespace plotsmith::runtime {
 template <class T>
 class Ref {
  public:
+  /// Nothing.
+  ///@{
   Ref() = default;
   Ref(std::nullptr_t) {}
+  ///@}
+
+  /// To the same object, of T or of a class that is derived from it; null becomes Nothing.
+  ///@{
   template <class U>
   requires std::is_convertible_v<U*, T*> Ref(std::shared_ptr<U> object) : object_(std::move(object)) {}
   template <class U>
   requires std::is_convertible_v<U*, T*> Ref(const Ref<U>& other) : object_(other.shared()) {}
+  ///@}
 
+  /// The object; error 91 for Nothing.
+  ///@{
   T* operator->() const { return &Checked(); }
   T& operator*() const { return Checked(); }
+  ///@}
+
+  /// False for Nothing.
   explicit operator bool() const { return object_ != nullptr; }
+
+  /// Whether both are the same object, or both Nothing.
+  ///@{
   bool operator==(std::nullptr_t) const { return object_ == nullptr; }
   bool operator==(const Ref& other) const { return object_ == other.object_; }
+  ///@}
 
+  /// For who only keeps or compares the object: null for Nothing, without an error.
   const std::shared_ptr<T>& shared() const { return object_; }
 
  private:

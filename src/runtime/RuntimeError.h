@@ -11,11 +11,16 @@ class RuntimeError : public std::exception {
  public:
   /// An error with the language's own description of `number`.
   explicit RuntimeError(int number);
+  /// An error with a wording of its own.
   RuntimeError(int number, std::string description, std::string source = "Plotsmith");
 
+  /// Of namespace error, or any other that the language or Excel has.
   int Number() const { return number_; }
+  /// What the user reads.
   const std::string& Description() const { return description_; }
+  /// The component that raised it.
   const std::string& Source() const { return source_; }
+  /// The description.
   const char* what() const noexcept override { return description_.c_str(); }
 
  private:

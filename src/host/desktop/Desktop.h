@@ -3,14 +3,25 @@
 #include <cstdint>
 #include <string_view>
 
+/// The port to the desktop. Numbers are those of Visual Basic.
 namespace plotsmith::desktop {
 
+/// What a message box offers to press.
 enum class Buttons { kOk, kOkCancel };
+/// The picture in a message box.
 enum class Icon { kNone, kCritical };
+
+/// What a message box answers.
+///@{
 inline constexpr std::int32_t kOk = 1;
 inline constexpr std::int32_t kCancel = 2;
+///@}
+
+/// The shapes of the mouse pointer.
+///@{
 inline constexpr std::int32_t kPointerDefault = 0;
 inline constexpr std::int32_t kPointerHourglass = 11;
+///@}
 
 /// What the system asks of the machine around it rather than of the spreadsheet.
 class Desktop {
@@ -21,8 +32,9 @@ class Desktop {
   virtual std::int32_t MsgBox(std::string_view text, Buttons buttons, Icon icon, std::string_view title) = 0;
   /// Lets waiting messages, and timers that are due, be handled.
   virtual void DoEvents() = 0;
-  /// Seconds since midnight.
+  /// Seconds since midnight, local time.
   virtual double Timer() = 0;
+  /// kPointerDefault or kPointerHourglass.
   virtual void SetMousePointer(std::int32_t pointer) = 0;
 };
 

@@ -6,12 +6,14 @@ namespace plotsmith::excel {
 
 /// What one cell holds, without owning it: `text` is good until the sheet is next written.
 struct CellValue {
+  /// A date is a number in a date format.
   enum class Kind : std::uint8_t { kEmpty, kNumber, kDate, kBoolean, kError, kText };
 
-  Kind kind = Kind::kEmpty;
+  Kind kind = Kind::kEmpty;  ///< says which of the next two count
   double number = 0;  ///< the number; the serial of a date; 1 or 0 of a boolean; Excel's number of an error
   std::string_view text;  ///< of a text, and of an error as the cell shows it
 
+  /// The same as a value that owns its text.
   Variant ToVariant() const {
     switch (kind) {
       case Kind::kNumber:

@@ -9,7 +9,7 @@ class ChartColorFormat {
  public:
   virtual ~ChartColorFormat() = default;
 
-  /// An index into the palette.
+  /// An index into the palette; error 9 outside.
   virtual void SetSchemeColor(std::int32_t index) = 0;
 };
 

@@ -8,7 +8,9 @@ namespace plotsmith::excel {
 class ChartGroup {
  public:
   virtual ~ChartGroup() = default;
-  /// Percent of a column's width, from 0 to 500.
+
+  /// Between the columns or bars of two categories: percent of a column's width, from 0 to 500. Error 1004
+  /// outside, and for a group of neither columns nor bars.
   virtual void SetGapWidth(std::int32_t percent) = 0;
 };
 

@@ -11,7 +11,9 @@ class ChartObject {
  public:
   virtual ~ChartObject() = default;
 
+  /// The name of its shape.
   virtual std::string Name() = 0;
+  /// A chart that can't be read is handed out as well: it has no series, and all else is error 1004.
   virtual Ref<excel::Chart> Chart() = 0;
 };
 

@@ -8,6 +8,8 @@ namespace plotsmith::excel {
 class ColorFormat {
  public:
   virtual ~ColorFormat() = default;
+
+  /// Error 1004 for a number that is no colour.
   virtual void SetRGB(std::int32_t color) = 0;
 };
 

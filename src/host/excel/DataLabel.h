@@ -8,6 +8,9 @@ namespace plotsmith::excel {
 class DataLabel {
  public:
   virtual ~DataLabel() = default;
+
+  /// A text of its own, in place of what the labels of the series show. Lines are parted by line feeds. A
+  /// label that wasn't shown is shown then.
   virtual void SetText(std::string_view text) = 0;
 };
 

@@ -11,11 +11,12 @@ class DefinedName {
  public:
   virtual ~DefinedName() = default;
 
-  /// With the sheet and "!" in front if it belongs to one sheet.
+  /// With the sheet, in quotes where a formula needs them, and "!" in front if it belongs to one sheet.
   virtual std::string Name() = 0;
   /// The definition, with "=" in front.
   virtual std::string RefersTo() = 0;
-  /// Error 1004 if the name doesn't refer to a range.
+  /// Of several areas the first. Error 1004 if the name doesn't refer to a range, and in a host without
+  /// formulas also if it computes its range.
   virtual Ref<Range> RefersToRange() = 0;
 };
 

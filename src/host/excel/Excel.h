@@ -1,6 +1,7 @@
 #pragma once
 
-// The whole port to the spreadsheet.
+/// @file
+/// The whole port to the spreadsheet in one include.
 
 #include "host/excel/Application.h"
 #include "host/excel/Axis.h"

@@ -6,10 +6,12 @@ namespace plotsmith::excel {
 
 class LegendEntry;
 
-/// The entries of a legend that are left, in their order.
+/// The entries of a legend that are left, in their order: one for each series or, in a pie, for each point.
 class LegendEntries {
  public:
   virtual ~LegendEntries() = default;
+
+  /// Without those that were deleted.
   virtual std::int32_t Count() = 0;
   /// Error 1004 outside.
   virtual Ref<LegendEntry> Item(std::int32_t index) = 0;

@@ -8,7 +8,8 @@ namespace plotsmith::excel {
 class LegendEntry {
  public:
   virtual ~LegendEntry() = default;
-  /// Takes the entry out of the legend; its series stays.
+
+  /// Takes the entry out of the legend; its series stays. The entries behind it move up.
   virtual void Delete() = 0;
 };
 

@@ -11,9 +11,11 @@ class Names {
  public:
   virtual ~Names() = default;
 
+  /// Of the names of the workbook and of those of single sheets.
   virtual std::int32_t Count() = 0;
+  /// Error 1004 outside.
   virtual Ref<DefinedName> Item(std::int32_t index) = 0;
-  /// Error 1004 if there is no such name.
+  /// By DefinedName::Name, case aside. Error 1004 if there is no such name.
   virtual Ref<DefinedName> Item(std::string_view name) = 0;
 };
 

@@ -15,19 +15,27 @@ class Workbook {
  public:
   virtual ~Workbook() = default;
 
+  /// The host that has the workbook open.
   virtual Ref<excel::Application> Application() = 0;
   /// Whether sheets can be neither added nor removed.
   virtual bool ProtectStructure() = 0;
   /// Whether the workbook is shared.
   virtual bool MultiUserEditing() = 0;
+
+  /// The sheet in front, of any kind.
   virtual Ref<Sheet> ActiveSheet() = 0;
   /// All sheets in the order of their tabs, chart sheets among them.
   virtual Ref<excel::Sheets> Sheets() = 0;
+  /// Those of them that have cells.
   virtual Ref<excel::Worksheets> Worksheets() = 0;
+  /// Also those that belong to single sheets.
   virtual Ref<excel::Names> Names() = 0;
-  /// Entry `index`, from 1 to 56, of the palette.
+
+  /// Entry `index`, from 1 to 56, of the palette; error 9 outside.
+  ///@{
   virtual std::int32_t Colors(std::int32_t index) = 0;
   virtual void SetColors(std::int32_t index, std::int32_t color) = 0;
+  ///@}
 };
 
 }  // namespace plotsmith::excel
