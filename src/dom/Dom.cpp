@@ -44,8 +44,6 @@ pugi::xml_node IXMLDOMNode::Checked() const {
   return node_;
 }
 
-std::string IXMLDOMNode::nodeName() const { return Checked().name(); }
-
 std::string IXMLDOMNode::nodeValue() const { return Checked().value(); }
 
 IXMLDOMNode IXMLDOMNode::firstChild() const { return {tree_, Checked().first_child()}; }

@@ -28,8 +28,6 @@ class IXMLDOMNode {
   /// Whether both name the same node, or both are Nothing.
   bool operator==(const IXMLDOMNode& other) const { return node_ == other.node_; }
 
-  /// The name of an element, with its prefix if it has one; empty for a text.
-  std::string nodeName() const;
   /// The text of a text node; empty for an element.
   std::string nodeValue() const;
   /// Of any kind; Nothing without children.
@@ -73,8 +71,8 @@ class IXMLDOMElement : public IXMLDOMNode {
  public:
   using IXMLDOMNode::IXMLDOMNode;
 
-  /// As nodeName.
-  std::string tagName() const { return nodeName(); }
+  /// With its prefix if it has one.
+  std::string tagName() const { return Checked().name(); }
   /// The child elements, in document order.
   IXMLDOMNodeList childElements() const;
 

@@ -65,7 +65,7 @@ class SheetShapes final : public DrawnShapes {
   }
   std::shared_ptr<DrawnShape> Group(const std::vector<std::shared_ptr<DrawnShape>>&) override {
     // the system groups on charts only
-    throw RuntimeError(438, "Object doesn't support this property or method");
+    throw RuntimeError(runtime::error::kNoSuchMember);
   }
   const Journal& Log() const override { return sheet_.Book().Journal(); }
   std::string JournalPath() const override { return sheet_.JournalPath()(); }

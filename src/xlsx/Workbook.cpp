@@ -292,7 +292,10 @@ void Workbook::RenumberLocalNames(std::size_t position, int step) {
 
 void Workbook::RenameSheet(SheetEntry& sheet, std::string_view name) {
   const auto other = FindSheet(name);
-  if (!IsSheetName(name) || (other && other.get() != &sheet)) {
+  if (!IsSheetName(name)) {
+    throw RuntimeError(runtime::error::kApplication, "You typed an invalid name for a sheet or chart.");
+  }
+  if (other && other.get() != &sheet) {
     throw RuntimeError(runtime::error::kApplication, "That name is already taken. Try a different one.");
   }
   if (!sheet.worksheet || !sheet.worksheet->IsNew()) {

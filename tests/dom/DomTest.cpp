@@ -10,7 +10,7 @@ namespace {
 TEST(DomTest, WhatDoesNotParseLeavesAnEmptyDocument) {
   auto document = IXMLDOMDocument2::Create();
   ASSERT_TRUE(document.loadXML("<!-- c --><chart a='1'/>"));
-  EXPECT_EQ(document.documentElement().nodeName(), "chart");
+  EXPECT_EQ(document.documentElement().tagName(), "chart");
   ASSERT_TRUE(
       document.loadXML("<?xml version=\"1.0\" encoding=\"UTF-16\"?>\n<!DOCTYPE chart>\n<chart a='1'/>\n"));
   EXPECT_EQ(document.xml(), "<chart a=\"1\"/>");

@@ -12,8 +12,7 @@ class ChartTitle {
   /// Lines are parted by line feeds. A title without a text of its own reads as it is shown: the name of the
   /// only series, or "Chart Title".
   virtual std::string Text() = 0;
-  /// The new text looks as the first line did. Error 1004 where the chart shows a series' name without having
-  /// a title: Chart::SetHasTitle makes one.
+  /// The new text looks as the first line did.
   virtual void SetText(std::string_view text) = 0;
 };
 

@@ -50,6 +50,13 @@ std::optional<std::string> ShownTitle(ChartPart& part) {
   return title ? std::optional<std::string>("Chart Title") : std::nullopt;
 }
 
+pugi::xml_node EnsureTitle(ChartPart& part) {
+  if (const auto title = schema::Find(part.Chart(), "title")) return title;
+  const pugi::xml_node title = schema::Ensure(part.Chart(), "title");
+  schema::SetVal(title, "overlay", "0");
+  return title;
+}
+
 class Title final : public excel::ChartTitle {
  public:
   explicit Title(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
@@ -57,9 +64,7 @@ class Title final : public excel::ChartTitle {
   std::string Text() override { return ShownTitle(*part_).value_or(std::string()); }
   void SetText(std::string_view text) override {
     part_->Book().Journal().Put([] { return std::string("Chart.ChartTitle"); }, "Text", text);
-    const auto title = schema::Find(part_->Chart(), "title");
-    if (!title) throw Failed("ChartTitle");
-    SetTitleText(title, text);
+    SetTitleText(EnsureTitle(*part_), text);
     part_->MarkChanged();
   }
 
@@ -118,9 +123,7 @@ void Chart::SetHasTitle(bool value) {
   part_->Book().Journal().Put(Self, "HasTitle", value);
   const pugi::xml_node chart = part_->Chart();
   if (value) {
-    const bool fresh = !schema::Find(chart, "title");
-    const pugi::xml_node title = schema::Ensure(chart, "title");
-    if (fresh) schema::SetVal(title, "overlay", "0");
+    EnsureTitle(*part_);
   } else {
     schema::Remove(chart, "title");
   }

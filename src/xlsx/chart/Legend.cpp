@@ -5,8 +5,8 @@
 #include "host/excel/Excel.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/Enumerations.h"
-#include "xlsx/SheetShape.h"
 #include "xlsx/Workbook.h"
+#include "xlsx/chart/ChartGeometry.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/LegendEntries.h"
@@ -76,10 +76,10 @@ class LegendObject final : public excel::Legend {
     return MakeLegendEntries(part_);
   }
 
-  double Left() override { return Place("x") * Size().width; }
-  double Top() override { return Place("y") * Size().height; }
-  void SetLeft(double points) override { SetPlace("Left", "xMode", "x", points, Size().width); }
-  void SetTop(double points) override { SetPlace("Top", "yMode", "y", points, Size().height); }
+  double Left() override { return Place("x") * ChartSize(frame_).width; }
+  double Top() override { return Place("y") * ChartSize(frame_).height; }
+  void SetLeft(double points) override { SetPlace("Left", "xMode", "x", points, ChartSize(frame_).width); }
+  void SetTop(double points) override { SetPlace("Top", "yMode", "y", points, ChartSize(frame_).height); }
 
  private:
   pugi::xml_node Node() const {
@@ -107,11 +107,6 @@ class LegendObject final : public excel::Legend {
                          : side == (horizontal ? "r" : "b") || (horizontal && side == "tr") ? kFar
                                                                                             : kMiddle;
     return start + value.value_or(0);  // in factor mode the file tells the way from there
-  }
-
-  Frame Size() const {
-    const auto frame = frame_.lock();
-    return frame ? frame->PlacedFrame() : Frame();
   }
 
   void SetPlace(const char* property, const char* mode, const char* fraction, double points, double extent) {

@@ -113,6 +113,10 @@ std::string CellAddress(std::int32_t row, std::int32_t column, bool absolute) {
 }
 
 std::string RangeAddress(const CellRange& range) {
+  if (range.column1 == 1 && range.column2 == limits::kColumns)
+    return "$" + std::to_string(range.row1) + ":$" + std::to_string(range.row2);
+  if (range.row1 == 1 && range.row2 == limits::kRows)
+    return "$" + ColumnLetters(range.column1) + ":$" + ColumnLetters(range.column2);
   std::string address = CellAddress(range.row1, range.column1);
   if (range.CellCount() > 1) address += ":" + CellAddress(range.row2, range.column2);
   return address;

@@ -29,7 +29,7 @@ std::int32_t ColumnNumber(std::string_view letters);
 std::string ColumnLetters(std::int32_t column);
 /// "$A$1", or "A1".
 std::string CellAddress(std::int32_t row, std::int32_t column, bool absolute = true);
-/// "$A$1", or "$A$1:$B$2" for more than one cell.
+/// "$A$1", "$A$1:$B$2" for more than one cell, "$1:$2" for whole rows, "$A:$B" for whole columns.
 std::string RangeAddress(const CellRange& range);
 /// The sheet's name as a formula writes it, in quotes where it needs them.
 std::string QuotedSheetName(std::string_view name);

@@ -51,6 +51,9 @@ TEST(ReferenceTest, SheetNamesAreQuotedWhereTheyMustBe) {
                                                        {"", "''"}};
   for (const auto& [name, quoted] : cases) EXPECT_EQ(QuotedSheetName(name), quoted);
   EXPECT_EQ(SheetRangeAddress({"My Sheet", {1, 27, 3, 27}}), "'My Sheet'!$AA$1:$AA$3");
+  EXPECT_EQ(RangeAddress(*ParseA1("3:4")), "$3:$4");
+  EXPECT_EQ(RangeAddress(*ParseA1("B:AA")), "$B:$AA");
+  EXPECT_EQ(RangeAddress(*ParseA1("A:XFD")), "$1:$1048576");
 }
 
 TEST(ReferenceTest, FormulasFollowRows) {
