@@ -4,18 +4,12 @@
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/drawing/DrawingFont.h"
 #include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/drawing/TextBody.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
 
 namespace {
-
-/// A body of text as the schema wants it, with one paragraph.
-pugi::xml_node EnsureText(pugi::xml_node body) {
-  schema::Ensure(body, "bodyPr");
-  schema::Ensure(body, "lstStyle");
-  return schema::Ensure(body, "p");
-}
 
 /// The run properties that the element's font consists of, made where they are missing.
 std::vector<pugi::xml_node> RunProperties(pugi::xml_node element) {
@@ -23,9 +17,15 @@ std::vector<pugi::xml_node> RunProperties(pugi::xml_node element) {
   for (const pugi::xml_node& body : TextBodies(element)) {
     for (const pugi::xml_node& paragraph : xml::Children(body, "p")) {
       properties.push_back(schema::Ensure(paragraph, "pPr", "defRPr"));
+      bool empty = true;
       for (const pugi::xml_node& child : paragraph.children()) {
-        if (xml::Is(child, "r") || xml::Is(child, "fld")) properties.push_back(schema::Ensure(child, "rPr"));
+        if (!xml::Is(child, "r") && !xml::Is(child, "fld")) continue;
+        properties.push_back(schema::Ensure(child, "rPr"));
+        empty = false;
       }
+      // a text that is yet to come is dressed as the end of the empty line
+      const auto ending = xml::Child(paragraph, "endParaRPr");
+      if (empty && ending && xml::Is(body, "rich")) properties.push_back(ending);
     }
   }
   return properties;
@@ -57,43 +57,28 @@ void SetTitleText(pugi::xml_node title, std::string_view text) {
   schema::Remove(tx, "strRef");
   const bool fresh = !schema::Find(tx, "rich");
   pugi::xml_node rich = schema::Ensure(tx, "rich");
-  pugi::xml_node first = EnsureText(rich);
+  pugi::xml_node first = EnsureParagraph(rich);
   if (fresh) {
     // a title that showed a cell's text was dressed by text properties of its own
     if (const auto own = schema::Find(title, "txPr")) {
       rich.remove_children();
       for (const pugi::xml_node& child : own.children()) rich.append_copy(child);
-      first = EnsureText(rich);
+      first = EnsureParagraph(rich);
       schema::Remove(first, "endParaRPr");
     }
   }
   schema::Remove(title, "txPr");
 
-  pugi::xml_document dress;  // copies, as the originals go
-  const auto keep = [&](pugi::xml_node node) { return node ? dress.append_copy(node) : pugi::xml_node(); };
-  const auto paragraphProperties = keep(schema::Find(first, "pPr"));
-  const auto runProperties = keep(schema::Find(schema::Find(first, "r"), "rPr"));
-  schema::Remove(rich, "p");
-  for (std::string_view rest = text;;) {
-    const auto end = rest.find('\n');
-    pugi::xml_node paragraph = schema::Insert(rich, "p");
-    if (paragraphProperties) schema::InsertCopy(paragraph, paragraphProperties);
-    pugi::xml_node run = schema::Ensure(paragraph, "r");
-    if (runProperties) {
-      schema::InsertCopy(run, runProperties);
-    } else {
-      xml::SetAttribute(schema::Ensure(run, "rPr"), "lang", "en-US");
-    }
-    xml::SetText(schema::Ensure(run, "t"), rest.substr(0, end));
-    if (end == std::string_view::npos) break;
-    rest.remove_prefix(end + 1);
+  if (!xml::Child(first, "r", "rPr") && !xml::Child(first, "endParaRPr")) {
+    xml::SetAttribute(schema::Ensure(first, "endParaRPr"), "lang", "en-US");
   }
+  SetBodyText(rich, text);
 }
 
 std::vector<pugi::xml_node> TextBodies(pugi::xml_node element) {
   const auto rich = xml::Child(element, "tx", "rich");
   const pugi::xml_node body = rich ? rich : schema::Ensure(element, "txPr");
-  EnsureText(body);
+  EnsureParagraph(body);
   for (const pugi::xml_node& paragraph : xml::Children(body, "p")) {
     if (!rich && !schema::Find(paragraph, "endParaRPr")) {
       xml::SetAttribute(schema::Ensure(paragraph, "endParaRPr"), "lang", "en-US");

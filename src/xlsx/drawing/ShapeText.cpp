@@ -10,10 +10,10 @@
 #include "runtime/Strings.h"
 #include "xlsx/Journal.h"
 #include "xlsx/drawing/DrawingSchema.h"
-#include "xlsx/drawing/DrawingText.h"
 #include "xlsx/drawing/DrawnShape.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
 #include "xlsx/drawing/ShapeFont.h"
+#include "xlsx/drawing/TextBody.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
@@ -41,7 +41,7 @@ class ShapeCharacters final : public excel::Characters {
     Replace(text);
   }
   std::string Text() override {
-    return runtime::Mid(DrawingText(shape_->Object()).Text(), start_, length_.value_or(std::string::npos));
+    return runtime::Mid(TextBody(shape_->Object()).Text(), start_, length_.value_or(std::string::npos));
   }
   Ref<excel::Font> Font() override {
     return MakeShapeFont(shape_, start_ - 1, length_.value_or(std::u16string::npos), Path() + ".Font");
@@ -55,7 +55,7 @@ class ShapeCharacters final : public excel::Characters {
   }
 
   void Replace(std::string_view text) {
-    DrawingText whole(shape_->Object());
+    TextBody whole(shape_->Object());
     std::u16string units = runtime::ToUtf16(whole.Text());
     const std::size_t at = std::min(start_ - 1, units.size());
     units.replace(at, length_.value_or(std::u16string::npos), runtime::ToUtf16(text));
@@ -80,7 +80,7 @@ class FrameMembers {
   /// Sets one of the body's properties; the shape follows where it is to.
   template <class Set>
   void Change(const Set& set) const {
-    DrawingText text(shape_->Object());
+    TextBody text(shape_->Object());
     set(text);
     shape_->FitToText();
     shape_->MarkChanged();
@@ -88,7 +88,7 @@ class FrameMembers {
   void SetMarginTop(double points) const {
     Put("MarginTop", points);
     if (!(points >= 0)) throw OutOfRange();
-    Change([&](DrawingText& text) {
+    Change([&](TextBody& text) {
       xml::SetAttribute(text.BodyProperties(), "tIns", std::to_string(Emu(points)));
     });
   }
@@ -113,13 +113,13 @@ class ShapeTextFrame final : public excel::TextFrame {
     frame_.Put("VerticalAlignment", alignment);
     const auto token = kVerticalAlignments.Token(alignment);
     if (!token) throw OutOfRange();
-    frame_.Change([&](DrawingText& text) { xml::SetAttribute(text.BodyProperties(), "anchor", *token); });
+    frame_.Change([&](TextBody& text) { xml::SetAttribute(text.BodyProperties(), "anchor", *token); });
   }
   void SetHorizontalAlignment(std::int32_t alignment) override {
     frame_.Put("HorizontalAlignment", alignment);
     const auto token = kHorizontalAlignments.Token(alignment);
     if (!token) throw OutOfRange();
-    frame_.Change([&](DrawingText& text) {
+    frame_.Change([&](TextBody& text) {
       text.BodyProperties();
       for (const pugi::xml_node& paragraph : text.Paragraphs()) {
         xml::SetAttribute(schema::Ensure(paragraph, "pPr"), "algn", *token);
@@ -138,15 +138,14 @@ class ShapeTextFrame2 final : public excel::TextFrame2 {
 
   void SetWordWrap(bool value) override {
     frame_.Put("WordWrap", value);
-    frame_.Change([&](DrawingText& text) {
-      xml::SetAttribute(text.BodyProperties(), "wrap", value ? "square" : "none");
-    });
+    frame_.Change(
+        [&](TextBody& text) { xml::SetAttribute(text.BodyProperties(), "wrap", value ? "square" : "none"); });
   }
   void SetAutoSize(std::int32_t value) override {
     frame_.Put("AutoSize", value);
     const auto token = kAutoSizes.Token(value);
     if (!token) throw OutOfRange();
-    frame_.Change([&](DrawingText& text) {
+    frame_.Change([&](TextBody& text) {
       const pugi::xml_node body = text.BodyProperties();
       for (const EnumerationEntry& entry : kAutoSizes.entries) schema::Remove(body, entry.token);
       schema::Ensure(body, *token);
