@@ -4,11 +4,9 @@
 #include <array>
 
 #include "runtime/RuntimeError.h"
-#include "runtime/Strings.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/ChartGeometry.h"
 #include "xlsx/chart/ChartPart.h"
-#include "xlsx/chart/ChartShape.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/DrawnShapes.h"
 #include "xlsx/package/Namespaces.h"
@@ -94,36 +92,31 @@ ChartDrawing::~ChartDrawing() = default;
 
 Frame ChartDrawing::Size() const { return ChartSize(frame_); }
 
-std::shared_ptr<ChartShape> ChartDrawing::FindShape(std::string_view name) const {
-  for (const auto& shape : shapes_) {
-    if (runtime::EqualsIgnoreCase(shape->Name(), name)) return shape;
-  }
-  return nullptr;
-}
-
 std::shared_ptr<ChartShape> ChartDrawing::AddAnchor(const Frame& frame, const std::string& object) {
-  pugi::xml_node root = xml::Root(document_);
+  const pugi::xml_node root = xml::Root(document_);
   const Namespaces& names = NamesOf(chart_);
-  const std::string marker = "<@from><@x>0</@x><@y>0</@y></@from><@to><@x>0</@x><@y>0</@y></@to>";
-  const std::string xml = Prefixed("<@relSizeAnchor>" + marker + object + "</@relSizeAnchor>",
-                                   ShapePrefix(root, names), xml::EnsurePrefix(root, names.drawing, "a"));
-  root.append_buffer(xml.data(), xml.size(), pugi::parse_default & ~pugi::parse_escapes, pugi::encoding_utf8);
-  const pugi::xml_node anchor = root.last_child();
+  const pugi::xml_node anchor =
+      AppendTemplate(root,
+                     "<@relSizeAnchor><@from><@x>0</@x><@y>0</@y></@from><@to><@x>0</"
+                     "@x><@y>0</@y></@to>" +
+                         object + "</@relSizeAnchor>",
+                     ShapePrefix(root, names), xml::EnsurePrefix(root, names.drawing, "a"));
   auto shape = std::make_shared<ChartShape>(*this, anchor, ObjectOf(anchor));
   shape->Place(frame);
   return shapes_.emplace_back(std::move(shape));
 }
 
+// As Excel counts them, the first id is 2 and the first name has a 1.
+
 std::shared_ptr<ChartShape> ChartDrawing::AddTextbox(const Frame& frame) {
   const unsigned id = NextShapeId(xml::Root(document_));
-  return AddAnchor(frame, TextboxTemplate(id, "TextBox " + std::to_string(id - 1), frame, ""));
+  return AddAnchor(frame, TextboxTemplate(id, FreeName("TextBox", id - 1), ""));
 }
 
 std::shared_ptr<ChartShape> ChartDrawing::AddAutoShape(std::string_view name, std::string_view preset,
                                                        const Frame& frame) {
   const unsigned id = NextShapeId(xml::Root(document_));
-  return AddAnchor(frame,
-                   AutoShapeTemplate(id, std::string(name) + " " + std::to_string(id - 1), frame, preset));
+  return AddAnchor(frame, AutoShapeTemplate(id, FreeName(name, id - 1), preset));
 }
 
 std::shared_ptr<ChartShape> ChartDrawing::Group(const std::vector<std::shared_ptr<DrawnShape>>& shapes) {
@@ -146,7 +139,7 @@ std::shared_ptr<ChartShape> ChartDrawing::Group(const std::vector<std::shared_pt
     around.height = bottom - around.top;
   }
   const unsigned id = NextShapeId(xml::Root(document_));
-  const auto group = AddAnchor(around, GroupTemplate(id, "Group " + std::to_string(id - 1), around));
+  const auto group = AddAnchor(around, GroupTemplate(id, FreeName("Group", id - 1), around));
   const pugi::xml_node foremost = members.back()->Anchor();
   foremost.parent().insert_move_after(group->Anchor(), foremost);
   pugi::xml_node object = group->Object();
@@ -166,13 +159,6 @@ std::shared_ptr<ChartShape> ChartDrawing::Group(const std::vector<std::shared_pt
   }
   changed_ = true;
   return group;
-}
-
-void ChartDrawing::Remove(const ChartShape& shape) {
-  pugi::xml_node anchor = shape.Anchor();
-  std::erase_if(shapes_, [&](const auto& other) { return other.get() == &shape; });
-  anchor.parent().remove_child(anchor);
-  changed_ = true;
 }
 
 /// With the chart's link to it. A part that has links of its own stays, without a shape.
@@ -199,7 +185,7 @@ void ChartDrawing::Write() {
     if (!part_.empty()) RemovePart();
   } else if (part_.empty()) {
     const Namespaces& names = NamesOf(chart_);
-    part_ = package.FreeName("/xl/drawings/drawing", ".xml");
+    part_ = package.FreeName(chart_.Book().Folder() + "drawings/drawing", ".xml");
     package.Add(part_, content_type::kChartShapes, xml::Serialize(document_));
     const std::string id =
         package.AddRelationship(chart_.Part(), names.RelationshipType("chartUserShapes"), part_);

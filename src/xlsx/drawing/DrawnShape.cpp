@@ -1,5 +1,6 @@
 #include "xlsx/drawing/DrawnShape.h"
 
+#include <cmath>
 #include <string>
 
 #include "host/excel/Constants.h"
@@ -7,10 +8,10 @@
 #include "xlsx/Journal.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/drawing/DrawingSchema.h"
-#include "xlsx/drawing/DrawingText.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
 #include "xlsx/drawing/ShapeFormat.h"
 #include "xlsx/drawing/ShapeText.h"
+#include "xlsx/drawing/TextBody.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
@@ -27,14 +28,9 @@ RuntimeError OutOfRange() {
   return RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
 }
 
-bool ShowsChart(pugi::xml_node object) {
-  const auto data = xml::Child(object, "graphic", "graphicData");
-  return xml::Attribute(data, "uri").ends_with("/chart") && xml::Child(data, "chart");
-}
-
 std::int32_t TypeOf(pugi::xml_node object) {
   const std::string_view kind = xml::LocalName(object);
-  if (kind == "graphicFrame" && ShowsChart(object)) return excel::msoChart;
+  if (kind == "graphicFrame" && ChartLinkOf(object)) return excel::msoChart;
   if (kind == "grpSp") return excel::msoGroup;
   if (kind == "pic") return excel::msoPicture;
   if (kind == "cxnSp") return kLine;
@@ -46,7 +42,8 @@ std::int32_t TypeOf(pugi::xml_node object) {
 
 }  // namespace
 
-DrawnShape::DrawnShape(pugi::xml_node object) : object_(object), type_(TypeOf(object)) {}
+DrawnShape::DrawnShape(pugi::xml_node anchor, pugi::xml_node object)
+    : anchor_(anchor), object_(object), type_(TypeOf(object)) {}
 
 pugi::xml_node DrawnShape::Object() const {
   if (!object_) throw RuntimeError(runtime::error::kApplication, "The object has been deleted.");
@@ -79,6 +76,15 @@ std::string DrawnShape::AlternativeText() { return xml::Attribute(IdentityOf(obj
 void DrawnShape::SetAlternativeText(std::string_view text) {
   Log().Put([this] { return JournalPath(); }, "AlternativeText", text);
   xml::SetAttribute(IdentityOf(Object()), "descr", text);
+  MarkChanged();
+}
+
+void DrawnShape::Place(const Frame& wanted) {
+  const pugi::xml_node object = Object();
+  CheckPlace(wanted);
+  const Frame frame = MoveAnchor(wanted);
+  // the frame of a chart or the like has its place from the anchor alone
+  if (!xml::Is(object, "graphicFrame")) SetTransform(object, frame);
   MarkChanged();
 }
 
@@ -150,21 +156,27 @@ void DrawnShape::SetAutoShapeType(std::int32_t type) {
 void DrawnShape::FitToText() {
   const pugi::xml_node body = xml::Child(object_, "txBody", "bodyPr");
   if (!xml::Child(body, "spAutoFit")) return;
-  const auto margins = [&](const char* first, const char* second, double usual) {
-    return (xml::NumberAttribute(body, first, usual * kEmuPerPoint) +
-            xml::NumberAttribute(body, second, usual * kEmuPerPoint)) /
-           kEmuPerPoint;
-  };
-  const double across = margins("lIns", "rIns", kUsualMarginAcross);
-  const double down = margins("tIns", "bIns", kUsualMarginDown);
+  const double across =
+      PointsOf(body, "lIns", kUsualMarginAcross) + PointsOf(body, "rIns", kUsualMarginAcross);
+  const double down = PointsOf(body, "tIns", kUsualMarginDown) + PointsOf(body, "bIns", kUsualMarginDown);
   const bool wraps = xml::Attribute(body, "wrap", "square") != "none";
   Frame frame = PlacedFrame();
-  const auto extent = DrawingText(object_).Measure(
-      Book().Theme(), wraps ? std::optional(frame.width - across) : std::nullopt);
+  const auto extent =
+      TextBody(object_).Measure(Book().Theme(), wraps ? std::optional(frame.width - across) : std::nullopt);
   if (!wraps) frame.width = extent.width + across;
   frame.height = extent.height + down;
   Place(frame);
 }
+
+void DrawnShape::Delete() {
+  Log().Call([this] { return JournalPath(); }, "Delete");
+  Object();
+  const auto alive = shared_from_this();  // the drawing may be the last to know it
+  RemoveFromDrawing();
+  Leave();
+}
+
+void DrawnShape::Leave() { anchor_ = object_ = {}; }
 
 Ref<excel::TextFrame> DrawnShape::TextFrame() { return MakeTextFrame(shared_from_this()); }
 
@@ -173,5 +185,9 @@ Ref<excel::TextFrame2> DrawnShape::TextFrame2() { return MakeTextFrame2(shared_f
 Ref<excel::FillFormat> DrawnShape::Fill() { return MakeFill(shared_from_this()); }
 
 Ref<excel::LineFormat> DrawnShape::Line() { return MakeLine(shared_from_this()); }
+
+void CheckPlace(const Frame& frame) {
+  if (!std::isfinite(frame.left + frame.top + frame.width + frame.height)) throw OutOfRange();
+}
 
 }  // namespace plotsmith::xlsx

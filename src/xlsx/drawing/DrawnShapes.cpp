@@ -95,15 +95,18 @@ Ref<excel::Shape> DrawnShapes::AddTextbox(std::int32_t orientation, double left,
                                           double height) {
   Log().Call([this] { return JournalPath() + ".Shapes"; }, "AddTextbox",
              {orientation, left, top, width, height});
-  return NewTextbox({left, top, width, height});
+  const Frame frame{left, top, width, height};
+  CheckPlace(frame);
+  return NewTextbox(frame);
 }
 
 Ref<excel::Shape> DrawnShapes::AddShape(std::int32_t type, double left, double top, double width,
                                         double height) {
   Log().Call([this] { return JournalPath() + ".Shapes"; }, "AddShape", {type, left, top, width, height});
+  const Frame frame{left, top, width, height};
+  CheckPlace(frame);
   for (const EnumerationEntry& entry : kAutoShapes.entries) {
-    if (entry.number == type)
-      return NewAutoShape(NameOf(entry.name), entry.token, {left, top, width, height});
+    if (entry.number == type) return NewAutoShape(NameOf(entry.name), entry.token, frame);
   }
   throw OutOfRange();
 }

@@ -22,8 +22,14 @@ constexpr double kMostPoints = 1584;
 /// The element that a shape's filling stands in: its properties, or those of its outline.
 enum class Part { kFill, kLine };
 
+/// A group has no outline: error 1004.
 pugi::xml_node PropertiesOf(const DrawnShape& shape, Part part) {
-  return part == Part::kFill ? shape.Properties() : schema::Ensure(shape.Properties(), "ln");
+  const pugi::xml_node properties = shape.Properties();
+  if (part == Part::kFill) return properties;
+  if (xml::Is(properties, "grpSpPr")) {
+    throw RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
+  }
+  return schema::Ensure(properties, "ln");
 }
 
 /// One of the two colours of a filling or an outline. A plain one shows the first only; the second comes to
