@@ -63,27 +63,6 @@ constexpr std::array<Extra, 5> kCommon = {{
 
 std::string StateOfSeries(pugi::xml_node series) { return "series-" + schema::Val(series, "idx"); }
 
-SeriesTrait TraitOf(pugi::xml_node series) {
-  const std::string_view group = xml::LocalName(series.parent());
-  if (group.starts_with("pie")) {
-    return xml::ParseInteger(schema::Val(series, "explosion")).value_or(0) > 0 ? SeriesTrait::kExploded
-                                                                               : SeriesTrait::kNone;
-  }
-  if (group == "bubbleChart") {
-    return schema::BooleanVal(series, "bubble3D", false) ? SeriesTrait::kBubble3D : SeriesTrait::kFlatBubble;
-  }
-  if (group == "lineChart") {
-    return schema::Val(schema::Find(series, "marker"), "symbol") == "none" ? SeriesTrait::kNoMarkers
-                                                                           : SeriesTrait::kMarkers;
-  }
-  return group == "scatterChart" ? SeriesTrait::kMarkersOnly : SeriesTrait::kNone;
-}
-
-bool IsOfGroup(const ChartTypeEntry& type, pugi::xml_node group) {
-  return xml::Is(group, type.element) && schema::Val(group, "grouping", type.grouping) == type.grouping &&
-         schema::Val(group, "barDir", type.direction) == type.direction;
-}
-
 void KeepAllowedPositions(pugi::xml_node labels, pugi::xml_node group) {
   for (const pugi::xml_node& label : xml::Children(labels, "dLbl")) KeepAllowedPositions(label, group);
   const std::string position = schema::Val(labels, "dLblPos");
@@ -115,7 +94,9 @@ void SetTrait(pugi::xml_node series, SeriesTrait trait) {
       if (schema::Val(schema::Find(series, "marker"), "symbol") == "none") schema::Remove(series, "marker");
       break;
     case SeriesTrait::kExploded:
-      if (TraitOf(series) != trait) schema::SetVal(series, "explosion", kExplosion);
+      if (xml::ParseInteger(schema::Val(series, "explosion")).value_or(0) <= 0) {
+        schema::SetVal(series, "explosion", kExplosion);
+      }
       break;
     case SeriesTrait::kFlatBubble:
     case SeriesTrait::kBubble3D:
@@ -126,20 +107,6 @@ void SetTrait(pugi::xml_node series, SeriesTrait trait) {
 
 }  // namespace
 
-const ChartTypeEntry* TypeOf(pugi::xml_node series) {
-  const SeriesTrait trait = TraitOf(series);
-  const auto type = std::find_if(kChartTypes.begin(), kChartTypes.end(), [&](const ChartTypeEntry& entry) {
-    return entry.trait == trait && IsOfGroup(entry, series.parent());
-  });
-  return type == kChartTypes.end() ? nullptr : &*type;
-}
-
-const ChartTypeEntry* TypeOfGroup(pugi::xml_node group) {
-  const auto type = std::find_if(kChartTypes.begin(), kChartTypes.end(),
-                                 [&](const ChartTypeEntry& entry) { return IsOfGroup(entry, group); });
-  return type == kChartTypes.end() ? nullptr : &*type;
-}
-
 bool AllowsLabelPosition(pugi::xml_node group, std::string_view position) {
   const std::string grouping = schema::Val(group, "grouping");
   if (position == "outEnd" && (grouping == "stacked" || grouping == "percentStacked")) return false;
@@ -148,14 +115,19 @@ bool AllowsLabelPosition(pugi::xml_node group, std::string_view position) {
   });
 }
 
-void FitSeries(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type) {
-  const bool wasLine = static_cast<bool>(schema::Find(series, "smooth"));
+void RemoveMisfits(ChartPart& part, pugi::xml_node series) {
   for (const Extra& extra : kExtras) {
-    if (Lists(extra.groups, type.element)) continue;
+    if (Lists(extra.groups, xml::LocalName(series.parent()))) continue;
     const auto node = schema::Find(series, extra.name);
     if (node && extra.name == "bubbleSize") part.LayAside(StateOfSeries(series)).append_copy(node);
     schema::Remove(series, extra.name);
   }
+}
+
+void FitToGroup(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type) {
+  // each that Excel or this host wrote as a line says whether it is smooth
+  const bool wasLine = static_cast<bool>(schema::Find(series, "smooth"));
+  RemoveMisfits(part, series);
   if (type.HasXValues()) {
     Rename(series, "cat", "xVal");
     Rename(series, "val", "yVal");
@@ -178,10 +150,14 @@ void FitSeries(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& typ
     const auto laidAside = schema::Find(part.LaidAside(StateOfSeries(series)), "bubbleSize");
     if (laidAside) schema::InsertCopy(series, laidAside);
   }
-  SetTrait(series, type.trait);
   for (const pugi::xml_node& labels : xml::Children(series, "dLbls")) {
     KeepAllowedPositions(labels, series.parent());
   }
+}
+
+void FitSeries(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type) {
+  FitToGroup(part, series, type);
+  SetTrait(series, type.trait);
 }
 
 void ForgetSeries(ChartPart& part, pugi::xml_node series) { part.Forget(StateOfSeries(series)); }

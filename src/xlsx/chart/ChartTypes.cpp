@@ -124,6 +124,13 @@ std::int32_t TypeIn(pugi::xml_node group, pugi::xml_node series) {
 
 }  // namespace
 
+const ChartTypeEntry* TypeOfGroup(pugi::xml_node group) {
+  const auto type = std::find_if(kChartTypes.begin(), kChartTypes.end(), [&](const ChartTypeEntry& entry) {
+    return xml::Is(group, entry.element) && schema::Val(group, "barDir", entry.direction) == entry.direction;
+  });
+  return type == kChartTypes.end() ? nullptr : &*type;
+}
+
 std::int32_t TypeOfSeries(pugi::xml_node series) { return TypeIn(series.parent(), series); }
 
 std::int32_t TypeOfChart(ChartPart& part) {

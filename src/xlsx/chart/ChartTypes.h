@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <pugixml.hpp>
 
+#include "xlsx/Enumerations.h"
+
 namespace plotsmith::xlsx {
 
 class ChartPart;
@@ -14,5 +16,9 @@ class ChartPart;
 std::int32_t TypeOfSeries(pugi::xml_node series);
 /// Of the chart: its series' type if they have one in common. Without a series, that of its first group.
 std::int32_t TypeOfChart(ChartPart& part);
+
+/// A type of the group's kind and direction; null for a kind that the host doesn't draw. What of that kind
+/// the series are, and how they are stacked, only their types say.
+const ChartTypeEntry* TypeOfGroup(pugi::xml_node group);
 
 }  // namespace plotsmith::xlsx

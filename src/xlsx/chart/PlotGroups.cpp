@@ -8,6 +8,7 @@
 
 #include "runtime/RuntimeError.h"
 #include "xlsx/chart/ChartTypeRules.h"
+#include "xlsx/chart/ChartTypes.h"
 #include "xlsx/chart/GroupAxes.h"
 #include "xlsx/chart/LegendEntries.h"
 #include "xlsx/chart/SeriesData.h"
@@ -141,11 +142,14 @@ SeriesRef AddSeries(ChartPart& part) {
   constexpr long long kLast = std::numeric_limits<std::int32_t>::max();
   const pugi::xml_node last = all.empty() ? pugi::xml_node() : all.back()->node;
   const pugi::xml_node group = last ? last.parent() : GroupsOf(part)[0];
-  const ChartTypeEntry* type = last ? TypeOf(last) : TypeOfGroup(group);
   pugi::xml_node series = schema::Insert(group, "ser");
   schema::SetVal(series, "idx", std::to_string(FreeNumber(indices, 0, kLast)));
   schema::SetVal(series, "order", std::to_string(FreeNumber(orders, 0, kLast)));
-  if (type != nullptr) FitSeries(part, series, *type);
+  if (const ChartTypeEntry* type = FindChartType(TypeOfSeries(last ? last : series))) {
+    FitSeries(part, series, *type);
+  } else if (const ChartTypeEntry* ofGroup = TypeOfGroup(group)) {
+    FitToGroup(part, series, *ofGroup);
+  }
   WelcomeLegendEntry(part, all.size());
   all.push_back(std::make_shared<SeriesEntry>(SeriesEntry{series}));
   part.MarkChanged();

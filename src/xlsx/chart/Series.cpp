@@ -7,6 +7,7 @@
 #include "runtime/RuntimeError.h"
 #include "xlsx/chart/AutomaticColors.h"
 #include "xlsx/chart/Border.h"
+#include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/ChartTypeRules.h"
 #include "xlsx/chart/ChartTypes.h"
@@ -31,13 +32,7 @@ class SeriesObject final : public excel::Series {
  public:
   explicit SeriesObject(SeriesHandle series) : series_(std::move(series)) {}
 
-  std::string Name() override {
-    const auto series = series_.Node();
-    const std::string name = SeriesText(series);
-    if (schema::Find(series, "tx")) return name;
-    // counted from the first, whatever its place in the file
-    return "Series" + std::to_string(xml::ParseInteger(schema::Val(series, "idx")).value_or(0) + 1);
-  }
+  std::string Name() override { return ShownName(series_.Node()); }
   std::string Formula() override {
     const auto series = series_.Node();
     const auto reference = [&](std::initializer_list<const char*> elements) {
@@ -59,8 +54,7 @@ class SeriesObject final : public excel::Series {
   void SetBubbleSizes(const Variant& reference) override {
     Set(SeriesData::kBubbleSizes, "BubbleSizes", reference);
     // where there are no bubbles, the sizes wait for the chart to have some
-    const pugi::xml_node node = series_.Node();
-    if (const ChartTypeEntry* type = TypeOf(node)) FitSeries(*series_.part, node, *type);
+    RemoveMisfits(*series_.part, series_.Node());
   }
   std::vector<Variant> Values() override { return CachedNumbers(FindValues(series_.Node())); }
 
