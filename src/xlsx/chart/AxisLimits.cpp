@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "runtime/Variant.h"
+#include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/GroupAxes.h"
 #include "xlsx/chart/PlotGroups.h"
 #include "xlsx/chart/SeriesData.h"
@@ -38,7 +39,7 @@ void AddXValues(pugi::xml_node series, Extent& extent) {
   }
   if (!numbers.empty()) return;
   extent.Add(1);
-  extent.Add(static_cast<double>(std::max<std::size_t>(PointCount(series), 1)));
+  extent.Add(static_cast<double>(std::max<std::size_t>(PointCount(FindValues(series)), 1)));
 }
 
 /// Values stacked point by point: what is above zero, and what is below.

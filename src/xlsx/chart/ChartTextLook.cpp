@@ -1,8 +1,10 @@
 #include "xlsx/chart/ChartTextLook.h"
 
+#include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/drawing/TextBody.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
@@ -128,23 +130,9 @@ std::vector<TextLook> LooksOfLabels(ChartPart& part, pugi::xml_node labels, std:
 
 std::string TitleText(pugi::xml_node title) {
   const auto tx = schema::Find(title, "tx");
+  if (const auto rich = schema::Find(tx, "rich")) return BodyText(rich);
   std::string text;
-  if (const auto rich = schema::Find(tx, "rich")) {
-    bool first = true;
-    for (const pugi::xml_node& paragraph : xml::Children(rich, "p")) {
-      if (!std::exchange(first, false)) text += '\n';
-      for (const pugi::xml_node& run : paragraph.children()) {
-        if (xml::Is(run, "br")) text += '\n';
-        if (xml::Is(run, "r") || xml::Is(run, "fld")) text += xml::Text(schema::Find(run, "t"));
-      }
-    }
-    return text;
-  }
-  for (const pugi::xml_node& point :
-       xml::Children(schema::Find(schema::Find(tx, "strRef"), "strCache"), "pt")) {
-    if (!text.empty()) text += ' ';
-    text += xml::Text(schema::Find(point, "v"));
-  }
+  for (const auto& [point, line] : CachedTexts(tx)) text += (text.empty() ? "" : " ") + line;
   return text;
 }
 

@@ -8,6 +8,7 @@
 #include "host/excel/DataLabel.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/Enumerations.h"
+#include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/ChartTextLook.h"
 #include "xlsx/chart/ChartTypeRules.h"
@@ -107,7 +108,7 @@ void DressRuns(pugi::xml_node label) {
     for (const pugi::xml_node& run : xml::Children(paragraph, "r")) {
       const pugi::xml_node properties = schema::Ensure(run, "rPr");
       for (const pugi::xml_attribute& attribute : dress.attributes()) {
-        xml::SetAttribute(properties, attribute.name(), attribute.value());
+        xml::SetAttribute(properties, attribute.name(), xml::Decode(attribute.value()));
       }
       for (const pugi::xml_node& child : dress.children()) schema::InsertCopy(properties, child);
     }
@@ -144,7 +145,7 @@ class Labels final : public excel::DataLabels {
         *series_.part,
         [series = series_] {
           const auto node = series.Node();
-          return LooksOfLabels(*series.part, FindLabels(node), PointCount(node));
+          return LooksOfLabels(*series.part, FindLabels(node), PointCount(FindValues(node)));
         },
         [series = series_] { return EnsureLabels(series.Node()); }, Path() + ".Font");
   }
@@ -188,7 +189,7 @@ class Labels final : public excel::DataLabels {
     });
   }
 
-  std::int32_t Count() override { return static_cast<std::int32_t>(PointCount(series_.Node())); }
+  std::int32_t Count() override { return static_cast<std::int32_t>(PointCount(FindValues(series_.Node()))); }
   Ref<excel::DataLabel> Item(std::int32_t index) override {
     if (index < 1 || index > Count()) {
       throw RuntimeError(runtime::error::kApplication, "Method 'Item' of object 'DataLabels' failed");

@@ -7,6 +7,7 @@
 #include "host/excel/LegendEntry.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/Workbook.h"
+#include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/PlotGroups.h"
 #include "xlsx/chart/SeriesData.h"
@@ -35,7 +36,7 @@ bool ListsPoints(ChartPart& part) {
 
 std::size_t AllEntries(ChartPart& part) {
   if (part.Series().empty()) return 0;
-  return ListsPoints(part) ? PointCount(part.Series()[0]->node) : part.Series().size();
+  return ListsPoints(part) ? PointCount(FindValues(part.Series()[0]->node)) : part.Series().size();
 }
 
 /// The numbers of the entries that are left.
@@ -109,6 +110,22 @@ class Entries final : public excel::LegendEntries {
 
 Ref<excel::LegendEntries> MakeLegendEntries(std::shared_ptr<ChartPart> part) {
   return std::make_shared<Entries>(std::move(part));
+}
+
+std::vector<std::string> LegendTexts(ChartPart& part) {
+  const bool points = ListsPoints(part);
+  const auto categories =
+      points ? CachedTexts(xml::Child(part.Series()[0]->node, "cat")) : std::map<std::size_t, std::string>();
+  std::vector<std::string> texts;
+  for (const std::size_t number : EntriesLeft(part)) {
+    if (!points) {
+      texts.push_back(ShownName(part.Series()[number]->node));
+    } else {
+      const auto text = categories.find(number);
+      texts.push_back(text == categories.end() ? std::to_string(number + 1) : text->second);
+    }
+  }
+  return texts;
 }
 
 void DropLegendEntry(ChartPart& part, std::size_t position) {

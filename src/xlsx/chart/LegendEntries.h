@@ -2,6 +2,8 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "host/excel/LegendEntries.h"
 
@@ -12,6 +14,9 @@ class ChartPart;
 /// The entries of the chart's legend: one for each series, or for each point where points differ in colour.
 /// The file only names those that somebody deleted or dressed, by their numbers.
 excel::Ref<excel::LegendEntries> MakeLegendEntries(std::shared_ptr<ChartPart> part);
+
+/// What the entries that are left say, from the first.
+std::vector<std::string> LegendTexts(ChartPart& part);
 
 /// Keeps the numbers right. Before the series at a place, from 0, is deleted: its entry goes with it, and
 /// those behind it move up.
