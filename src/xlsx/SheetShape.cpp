@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Limits.h"
 #include "xlsx/SheetDrawing.h"
 #include "xlsx/Worksheet.h"
@@ -108,8 +108,7 @@ class SheetChartObjects final : public excel::ChartObjects {
         }
       }
     }
-    throw RuntimeError(runtime::error::kApplication,
-                       "Unable to get the ChartObjects property of the Worksheet class");
+    throw CantGet("ChartObjects", "Worksheet");
   }
   Ref<excel::ChartObject> Add(double left, double top, double width, double height) override {
     sheet_.Book().Journal().Call([&] { return sheet_.JournalPath()() + ".ChartObjects"; }, "Add",

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "host/excel/Excel.h"
-#include "runtime/RuntimeError.h"
 #include "xlsx/Enumerations.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/AxisLimits.h"
 #include "xlsx/chart/Border.h"
@@ -19,7 +19,6 @@
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 using runtime::Variant;
 
 namespace {
@@ -33,7 +32,7 @@ struct AxisHandle {
 
   pugi::xml_node Node() const {
     const auto axis = FindAxis(*part, type == excel::xlValue);
-    if (!axis) throw RuntimeError(runtime::error::kApplication, "Method of object 'Axis' failed");
+    if (!axis) throw Refusal("Method of object 'Axis' failed");
     return axis;
   }
   std::string Path() const { return "Chart.Axes(" + std::to_string(type) + ", 1)"; }
@@ -73,8 +72,7 @@ class Title final : public excel::AxisTitle {
     axis_.Log().Put([this] { return Path(); }, "Orientation", orientation);
     const auto rich = xml::Child(Node(), "tx", "rich");
     if (!SetTextOrientation(rich ? rich : schema::Ensure(Node(), "txPr"), orientation)) {
-      throw RuntimeError(runtime::error::kApplication,
-                         "Unable to set the Orientation property of the AxisTitle class");
+      throw CantSet("Orientation", "AxisTitle");
     }
     axis_.part->MarkChanged();
   }
@@ -82,9 +80,7 @@ class Title final : public excel::AxisTitle {
  private:
   pugi::xml_node Node() const {
     const auto title = schema::Find(axis_.Node(), "title");
-    if (!title)
-      throw RuntimeError(runtime::error::kApplication,
-                         "Unable to get the AxisTitle property of the Axis class");
+    if (!title) throw CantGet("AxisTitle", "Axis");
     return title;
   }
   std::string Path() const { return axis_.Path() + ".AxisTitle"; }
@@ -132,8 +128,7 @@ class AxisObject final : public excel::Axis {
   }
   Ref<excel::AxisTitle> AxisTitle() override {
     if (!HasTitle()) {
-      throw RuntimeError(runtime::error::kApplication,
-                         "Unable to get the AxisTitle property of the Axis class");
+      throw CantGet("AxisTitle", "Axis");
     }
     return std::make_shared<Title>(axis_);
   }
@@ -157,7 +152,7 @@ class AxisObject final : public excel::Axis {
   void SetMajorUnit(double value) override {
     Log("MajorUnit", value);
     const pugi::xml_node axis = Values("MajorUnit");
-    if (!(value > 0) || !std::isfinite(value)) throw CantSet("MajorUnit");
+    if (!(value > 0) || !std::isfinite(value)) throw CantSet("MajorUnit", "Axis");
     schema::SetVal(axis, "majorUnit", xml::Number(value));
     axis_.part->MarkChanged();
   }
@@ -184,7 +179,7 @@ class AxisObject final : public excel::Axis {
     } else if (type == kLogarithmic) {
       schema::SetVal(scaling, "logBase", "10");
     } else {
-      throw CantSet("ScaleType");
+      throw CantSet("ScaleType", "Axis");
     }
     axis_.part->MarkChanged();
   }
@@ -200,7 +195,7 @@ class AxisObject final : public excel::Axis {
       schema::SetVal(units, "builtInUnit", *token);
       schema::Ensure(units, "dispUnitsLbl");
     } else {
-      throw CantSet("DisplayUnit");
+      throw CantSet("DisplayUnit", "Axis");
     }
     axis_.part->MarkChanged();
   }
@@ -208,7 +203,7 @@ class AxisObject final : public excel::Axis {
     Log("Crosses", crosses);
     // the file says it of the axis that crosses
     const pugi::xml_node other = FindCrossedAxis(axis_.Node());
-    if (!other) throw CantSet("Crosses");
+    if (!other) throw CantSet("Crosses", "Axis");
     SetVal(other, "crosses", kCrosses.Token(crosses), "Crosses");
     schema::Remove(other, "crossesAt");
   }
@@ -219,16 +214,12 @@ class AxisObject final : public excel::Axis {
   }
 
  private:
-  static RuntimeError CantSet(const char* property) {
-    return RuntimeError(runtime::error::kApplication,
-                        std::string("Unable to set the ") + property + " property of the Axis class");
-  }
   void Log(const char* property, const Variant& value) const {
     axis_.Log().Put([this] { return axis_.Path(); }, property, value);
   }
   void SetVal(pugi::xml_node axis, const char* name, std::optional<std::string_view> token,
               const char* property) {
-    if (!token) throw CantSet(property);
+    if (!token) throw CantSet(property, "Axis");
     schema::SetVal(axis, name, *token);
     axis_.part->MarkChanged();
   }
@@ -244,21 +235,20 @@ class AxisObject final : public excel::Axis {
   /// The axis, which must be one of values for what the property is.
   pugi::xml_node Values(const char* property) const {
     const pugi::xml_node axis = axis_.Node();
-    if (!xml::Is(axis, "valAx")) throw CantSet(property);
+    if (!xml::Is(axis, "valAx")) throw CantSet(property, "Axis");
     return axis;
   }
   AxisScale Scale(const char* property) const {
     const pugi::xml_node axis = axis_.Node();
     if (!xml::Is(axis, "valAx")) {
-      throw RuntimeError(runtime::error::kApplication,
-                         std::string("Unable to get the ") + property + " property of the Axis class");
+      throw CantGet(property, "Axis");
     }
     return ScaleOf(*axis_.part, axis);
   }
   void SetLimit(const char* property, const char* name, double value) {
     Log(property, value);
     const pugi::xml_node scaling = schema::Ensure(Values(property), "scaling");
-    if (!std::isfinite(value)) throw CantSet(property);
+    if (!std::isfinite(value)) throw CantSet(property, "Axis");
     schema::SetVal(scaling, name, xml::Number(value));
     axis_.part->MarkChanged();
   }

@@ -3,8 +3,8 @@
 #include <optional>
 #include <string>
 
-#include "runtime/RuntimeError.h"
 #include "xlsx/Application.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/Axis.h"
 #include "xlsx/chart/ChartAreas.h"
@@ -23,18 +23,12 @@
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 
 namespace {
 
 constexpr std::int32_t kWidestGap = 500;  // percent of a column's width
 
 std::string Self() { return "Chart"; }
-
-RuntimeError Failed(const char* member) {
-  return RuntimeError(runtime::error::kApplication,
-                      std::string("Unable to get the ") + member + " property of the Chart class");
-}
 
 /// The title that the chart shows; nothing if it shows none. A chart of one series is titled by its name
 /// without a title of its own, as long as nobody took that away.
@@ -84,8 +78,7 @@ class Group final : public excel::ChartGroup {
                            ? groups[static_cast<std::size_t>(index_) - 1]
                            : pugi::xml_node();
     if (!xml::LocalName(group).starts_with("bar") || percent < 0 || percent > kWidestGap) {
-      throw RuntimeError(runtime::error::kApplication,
-                         "Unable to set the GapWidth property of the ChartGroup class");
+      throw CantSet("GapWidth", "ChartGroup");
     }
     schema::SetVal(group, "gapWidth", std::to_string(percent));
     part_->MarkChanged();
@@ -109,8 +102,7 @@ void Chart::SetChartType(std::int32_t type) {
   part_->Book().Journal().Put(Self, "ChartType", type);
   const ChartTypeEntry* entry = FindChartType(type);
   if (entry == nullptr) {
-    throw RuntimeError(runtime::error::kApplication,
-                       "Unable to set the ChartType property of the Chart class");
+    throw CantSet("ChartType", "Chart");
   }
   SetType(*part_, *entry);
 }
@@ -133,7 +125,7 @@ void Chart::SetHasTitle(bool value) {
 }
 
 Ref<excel::ChartTitle> Chart::ChartTitle() {
-  if (!ShownTitle(*part_)) throw Failed("ChartTitle");
+  if (!ShownTitle(*part_)) throw CantGet("ChartTitle", "Chart");
   return std::make_shared<Title>(part_);
 }
 
@@ -153,7 +145,7 @@ void Chart::SetHasLegend(bool value) {
 }
 
 Ref<excel::Legend> Chart::Legend() {
-  if (!schema::Find(part_->Chart(), "legend")) throw Failed("Legend");
+  if (!schema::Find(part_->Chart(), "legend")) throw CantGet("Legend", "Chart");
   return MakeLegend(part_, frame_);
 }
 
@@ -166,7 +158,7 @@ void Chart::SetHasAxis(std::int32_t type, bool value) {
   part_->Book().Journal().Put(Self, "HasAxis(" + std::to_string(type) + ")", value);
   const auto axis = FindAxis(*part_, type == excel::xlValue);
   if (!axis) {
-    throw RuntimeError(runtime::error::kApplication, "Unable to set the HasAxis property of the Chart class");
+    throw CantSet("HasAxis", "Chart");
   }
   schema::SetVal(axis, "delete", value ? "0" : "1");
   part_->MarkChanged();
@@ -174,7 +166,7 @@ void Chart::SetHasAxis(std::int32_t type, bool value) {
 
 Ref<excel::Axis> Chart::Axes(std::int32_t type, std::int32_t group) {
   if (group != excel::xlPrimary || !FindAxis(*part_, type == excel::xlValue)) {
-    throw RuntimeError(runtime::error::kApplication, "Method 'Axes' of object '_Chart' failed");
+    throw MethodFailed("Axes", "_Chart");
   }
   return MakeAxis(part_, type);
 }
@@ -182,7 +174,7 @@ Ref<excel::Axis> Chart::Axes(std::int32_t type, std::int32_t group) {
 Ref<excel::ChartGroup> Chart::ChartGroups(std::int32_t index) {
   const auto groups = DrawnGroups(*part_);
   if (index < 1 || index > static_cast<std::int32_t>(groups.size())) {
-    throw RuntimeError(runtime::error::kApplication, "Method 'ChartGroups' of object '_Chart' failed");
+    throw MethodFailed("ChartGroups", "_Chart");
   }
   return std::make_shared<Group>(part_, index);
 }

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "host/excel/Excel.h"
-#include "runtime/RuntimeError.h"
 #include "xlsx/Enumerations.h"
+#include "xlsx/Errors.h"
 #include "xlsx/chart/Border.h"
 #include "xlsx/chart/ChartGeometry.h"
 #include "xlsx/chart/FormattedElement.h"
@@ -16,7 +16,6 @@
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 using runtime::Variant;
 
 namespace {
@@ -59,7 +58,7 @@ class AreaFill final : public excel::ChartFillFormat {
   void Patterned(std::int32_t pattern) override {
     area_.Log().Call([this] { return area_.path() + ".Fill"; }, "Patterned", {pattern});
     const auto token = kPatterns.Token(pattern);
-    if (!token) throw RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
+    if (!token) throw OutOfRange();
     const pugi::xml_node fill = SetFill(area_.Properties(), "pattFill");
     xml::SetAttribute(fill, "prst", *token);
     SetFillColor(schema::Ensure(fill, "fgClr"), 0);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/ChartGeometry.h"
 #include "xlsx/chart/ChartPart.h"
@@ -13,8 +13,6 @@
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
-
-using runtime::RuntimeError;
 
 namespace {
 
@@ -80,8 +78,7 @@ ChartDrawing::ChartDrawing(ChartPart& chart) : chart_(chart) {
       if (!xml::Is(xml::Root(document_), "userShapes")) throw PackageError("it holds no shapes of a chart");
     });
   } catch (const PackageError& e) {
-    throw RuntimeError(runtime::error::kApplication,
-                       "The chart's shapes can't be read: " + std::string(e.what()) + ".");
+    throw Refusal("The chart's shapes can't be read: " + std::string(e.what()) + ".");
   }
   ForEachAnchor(xml::Root(document_), kAnchors, [this](pugi::xml_node anchor, pugi::xml_node object) {
     shapes_.push_back(std::make_shared<ChartShape>(*this, anchor, object));
@@ -126,7 +123,7 @@ std::shared_ptr<ChartShape> ChartDrawing::Group(const std::vector<std::shared_pt
     if (std::find(shapes.begin(), shapes.end(), shape) != shapes.end()) members.push_back(shape);
   }
   if (members.size() < 2) {
-    throw RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
+    throw OutOfRange();
   }
   Frame around = members[0]->PlacedFrame();
   for (const auto& member : members) {

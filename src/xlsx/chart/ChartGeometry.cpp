@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/SheetShape.h"
 #include "xlsx/chart/AutomaticLayout.h"
 #include "xlsx/chart/ChartPart.h"
@@ -59,8 +59,7 @@ Frame PlotAreaFrame(ChartPart& part, const Frame& chart) {
 
 void SetPlotAreaWidth(ChartPart& part, const Frame& chart, double width) {
   if (!(width > 0)) {
-    throw runtime::RuntimeError(runtime::error::kApplication,
-                                "Unable to set the Width property of the PlotArea class");
+    throw CantSet("Width", "PlotArea");
   }
   const Frame area = PlotAreaFrame(part, chart);
   const double widest = chart.width - kChartInset - area.left;

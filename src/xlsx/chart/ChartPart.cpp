@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/ChartDrawing.h"
 #include "xlsx/chart/PlotGroups.h"
@@ -11,8 +11,6 @@
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
-
-using runtime::RuntimeError;
 
 std::string EmptyChart(bool strict) {
   const Namespaces& names = strict ? kStrict : kTransitional;
@@ -35,7 +33,7 @@ pugi::xml_node ChartPart::Space() {
   Load();
   // One chart that can't be read is no reason to give the workbook up: the error is this chart's.
   if (!document_) {
-    throw RuntimeError(runtime::error::kApplication, "The chart can't be read: " + *unreadable_ + ".");
+    throw Refusal("The chart can't be read: " + *unreadable_ + ".");
   }
   return xml::Root(*document_);
 }

@@ -6,8 +6,8 @@
 
 #include "host/excel/Constants.h"
 #include "host/excel/DataLabel.h"
-#include "runtime/RuntimeError.h"
 #include "xlsx/Enumerations.h"
+#include "xlsx/Errors.h"
 #include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/ChartTextLook.h"
@@ -19,7 +19,6 @@
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 using runtime::Variant;
 
 namespace {
@@ -40,11 +39,6 @@ constexpr std::array<const char*, 6> kShown = {"showLegendKey", "showVal",     "
                                                "showSerName",   "showPercent", "showBubbleSize"};
 /// What a label with a text of its own repeats of its series' labels, as the file has it.
 constexpr std::array<const char*, 5> kRepeated = {"numFmt", "spPr", "txPr", "dLblPos", "separator"};
-
-RuntimeError CantSet(const char* property, const char* of) {
-  return RuntimeError(runtime::error::kApplication,
-                      std::string("Unable to set the ") + property + " property of the " + of + " class");
-}
 
 /// What the labels show, where that is one of the types. What shows more than one thing counts by its value,
 /// then by its percentage: of all it shows, those two can be drawn again.
@@ -192,7 +186,7 @@ class Labels final : public excel::DataLabels {
   std::int32_t Count() override { return static_cast<std::int32_t>(PointCount(FindValues(series_.Node()))); }
   Ref<excel::DataLabel> Item(std::int32_t index) override {
     if (index < 1 || index > Count()) {
-      throw RuntimeError(runtime::error::kApplication, "Method 'Item' of object 'DataLabels' failed");
+      throw MethodFailed("Item", "DataLabels");
     }
     return std::make_shared<Label>(series_, index);
   }

@@ -5,15 +5,13 @@
 #include <string>
 
 #include "host/excel/Constants.h"
-#include "runtime/RuntimeError.h"
 #include "xlsx/Enumerations.h"
+#include "xlsx/Errors.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/package/HexColor.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
-
-using runtime::RuntimeError;
 
 namespace {
 
@@ -73,7 +71,7 @@ class InteriorObject final : public excel::Interior {
   }
   void SetColor(std::int32_t color) override {
     Log("Color", color);
-    if (!IsColor(color)) throw CantSet("Color");
+    if (!IsColor(color)) throw CantSet("Color", "Interior");
     Paint(color);
   }
 
@@ -101,14 +99,14 @@ class InteriorObject final : public excel::Interior {
       SetFillColor(schema::Ensure(fill, "fgClr"), lines);
       SetFillColor(schema::Ensure(fill, "bgClr"), color);
     } else {
-      throw CantSet("Pattern");
+      throw CantSet("Pattern", "Interior");
     }
   }
 
   std::int32_t PatternColor() override { return LineColor().value_or(kBlack); }
   void SetPatternColor(std::int32_t color) override {
     Log("PatternColor", color);
-    if (!IsColor(color)) throw CantSet("PatternColor");
+    if (!IsColor(color)) throw CantSet("PatternColor", "Interior");
     PaintPattern(color);
   }
   std::int32_t PatternColorIndex() override {
@@ -156,10 +154,6 @@ class InteriorObject final : public excel::Interior {
   }
   std::int32_t Nearest(std::int32_t color) const {
     return NearestIndex(element_.part->Book().Styles(), color);
-  }
-  static RuntimeError CantSet(const char* property) {
-    return RuntimeError(runtime::error::kApplication,
-                        std::string("Unable to set the ") + property + " property of the Interior class");
   }
   void Log(const char* property, std::int32_t value) const {
     element_.Log().Put([this] { return element_.path() + ".Interior"; }, property, value);

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "host/excel/Excel.h"
-#include "runtime/RuntimeError.h"
 #include "xlsx/Enumerations.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/ChartGeometry.h"
 #include "xlsx/chart/ChartPart.h"
@@ -16,7 +16,6 @@
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 using runtime::Variant;
 
 namespace {
@@ -25,16 +24,6 @@ std::string Path() { return "Chart.Legend"; }
 
 /// Where a legend begins by itself, roughly, as fractions of the chart.
 constexpr double kNear = 0.02, kMiddle = 0.4, kFar = 0.8;
-
-RuntimeError CantGet(const char* property) {
-  return RuntimeError(runtime::error::kApplication,
-                      std::string("Unable to get the ") + property + " property of the Legend class");
-}
-
-RuntimeError CantSet(const char* property) {
-  return RuntimeError(runtime::error::kApplication,
-                      std::string("Unable to set the ") + property + " property of the Legend class");
-}
 
 class LegendObject final : public excel::Legend {
  public:
@@ -57,13 +46,13 @@ class LegendObject final : public excel::Legend {
     const auto legend = Node();
     const auto position = kLegendPositions.Number(schema::Val(legend, "legendPos", kLegendPositions.absent));
     // where it was dragged to is no position
-    if (!position || PlaceOf(legend)) throw CantGet("Position");
+    if (!position || PlaceOf(legend)) throw CantGet("Position", "Legend");
     return *position;
   }
   void SetPosition(std::int32_t position) override {
     part_->Book().Journal().Put(Path, "Position", position);
     const auto token = kLegendPositions.Token(position);
-    if (!token) throw CantSet("Position");
+    if (!token) throw CantSet("Position", "Legend");
     const pugi::xml_node legend = Node();
     schema::SetVal(legend, "legendPos", *token);
     // a place taken by hand would win over the position
@@ -84,9 +73,7 @@ class LegendObject final : public excel::Legend {
  private:
   pugi::xml_node Node() const {
     const auto legend = schema::Find(part_->Chart(), "legend");
-    if (!legend)
-      throw RuntimeError(runtime::error::kApplication,
-                         "Unable to get the Legend property of the Chart class");
+    if (!legend) throw CantGet("Legend", "Chart");
     return legend;
   }
 
@@ -111,7 +98,7 @@ class LegendObject final : public excel::Legend {
 
   void SetPlace(const char* property, const char* mode, const char* fraction, double points, double extent) {
     part_->Book().Journal().Put(Path, property, points);
-    if (!(points >= 0 && points <= extent) || extent <= 0) throw CantSet(property);
+    if (!(points >= 0 && points <= extent) || extent <= 0) throw CantSet(property, "Legend");
     const pugi::xml_node layout = schema::Ensure(Node(), "layout", "manualLayout");
     schema::SetVal(layout, mode, "edge");
     schema::SetVal(layout, fraction, xml::Number(points / extent));

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "host/excel/LegendEntry.h"
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartPart.h"
@@ -17,7 +17,6 @@
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 
 namespace {
 
@@ -61,8 +60,7 @@ class Entry final : public excel::LegendEntry {
     part_->Book().Journal().Call(
         [this] { return "Chart.Legend.LegendEntries(" + std::to_string(place_) + ")"; }, "Delete");
     const auto legend = FindLegend(*part_);
-    if (!legend)
-      throw RuntimeError(runtime::error::kApplication, "Delete method of LegendEntry class failed");
+    if (!legend) throw Refusal("Delete method of LegendEntry class failed");
     const pugi::xml_node entry = Node(legend);
     schema::Remove(entry, "txPr");
     schema::SetVal(entry, "delete", "1");
@@ -97,7 +95,7 @@ class Entries final : public excel::LegendEntries {
   Ref<excel::LegendEntry> Item(std::int32_t index) override {
     const auto left = EntriesLeft(*part_);
     if (index < 1 || index > static_cast<std::int32_t>(left.size())) {
-      throw RuntimeError(runtime::error::kApplication, "Method 'Item' of object 'LegendEntries' failed");
+      throw MethodFailed("Item", "LegendEntries");
     }
     return std::make_shared<Entry>(part_, left[static_cast<std::size_t>(index) - 1], index);
   }

@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/chart/ChartTypeRules.h"
 #include "xlsx/chart/ChartTypes.h"
 #include "xlsx/chart/GroupAxes.h"
@@ -17,8 +17,6 @@
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
-
-using runtime::RuntimeError;
 
 namespace {
 
@@ -103,8 +101,7 @@ void PutInDrawingOrder(pugi::xml_node group) {
 }
 
 [[noreturn]] void CantCombine() {
-  throw RuntimeError(runtime::error::kApplication,
-                     "Some chart types cannot be combined with other chart types.");
+  throw Refusal("Some chart types cannot be combined with other chart types.");
 }
 
 }  // namespace

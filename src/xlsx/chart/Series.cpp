@@ -4,7 +4,7 @@
 #include <string>
 
 #include "host/excel/Excel.h"
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/chart/AutomaticColors.h"
 #include "xlsx/chart/Border.h"
 #include "xlsx/chart/ChartCache.h"
@@ -23,7 +23,6 @@
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 using runtime::Variant;
 
 namespace {
@@ -62,14 +61,14 @@ class SeriesObject final : public excel::Series {
   void SetChartType(std::int32_t type) override {
     Log("ChartType", type);
     const ChartTypeEntry* entry = FindChartType(type);
-    if (entry == nullptr) throw CantSet("ChartType");
+    if (entry == nullptr) throw CantSet("ChartType", "Series");
     SetSeriesType(*series_.part, series_.Node(), *entry);
   }
 
   void ApplyDataLabels(std::int32_t type) override {
     series_.Log().Call([this] { return series_.Path(); }, "ApplyDataLabels", {type});
     if (!ShowLabels(EnsureLabels(series_.Node()), type)) {
-      throw RuntimeError(runtime::error::kApplication, "ApplyDataLabels method of Series class failed");
+      throw Refusal("ApplyDataLabels method of Series class failed");
     }
     series_.part->MarkChanged();
   }
@@ -111,7 +110,7 @@ class SeriesObject final : public excel::Series {
   }
   void SetMarker(MarkerPart which, const char* property, std::int32_t value) {
     Log(property, value);
-    if (!xlsx::SetMarker(series_.Node(), which, value)) throw CantSet(property);
+    if (!xlsx::SetMarker(series_.Node(), which, value)) throw CantSet(property, "Series");
     series_.part->MarkChanged();
   }
   FormattedElement Element() const {
@@ -120,10 +119,6 @@ class SeriesObject final : public excel::Series {
   }
   void Log(const char* property, const Variant& value) const {
     series_.Log().Put([this] { return series_.Path(); }, property, value);
-  }
-  static RuntimeError CantSet(const char* property) {
-    return RuntimeError(runtime::error::kApplication,
-                        std::string("Unable to set the ") + property + " property of the Series class");
   }
 
   SeriesHandle series_;
@@ -139,7 +134,7 @@ class Collection final : public excel::SeriesCollection {
   }
   Ref<excel::Series> Item(std::int32_t index) override {
     if (index < 1 || index > Count()) {
-      throw RuntimeError(runtime::error::kApplication, "Method 'Item' of object 'SeriesCollection' failed");
+      throw MethodFailed("Item", "SeriesCollection");
     }
     return Object(part_->Series()[static_cast<std::size_t>(index) - 1]);
   }

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Limits.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/chart/ChartCache.h"
@@ -15,7 +15,6 @@
 namespace plotsmith::xlsx {
 
 using excel::CellValue;
-using runtime::RuntimeError;
 using runtime::Variant;
 
 namespace {
@@ -42,16 +41,11 @@ const char* PropertyName(SeriesData which) {
   return "Values";
 }
 
-RuntimeError CantSet(SeriesData which) {
-  return RuntimeError(runtime::error::kApplication, std::string("Unable to set the ") + PropertyName(which) +
-                                                        " property of the Series class");
-}
-
 Source FindSource(ChartPart& part, SeriesData which, const std::string& reference) {
   const auto range =
       reference.starts_with('=') ? ParseSheetRange(std::string_view(reference).substr(1)) : std::nullopt;
   auto sheet = range ? part.Book().FindWorksheet(range->sheet) : nullptr;
-  if (!sheet || range->range.CellCount() > limits::kCachePoints) throw CantSet(which);
+  if (!sheet || range->range.CellCount() > limits::kCachePoints) throw CantSet(PropertyName(which), "Series");
   const std::string name = sheet->SheetName();
   return {std::move(sheet), range->range, SheetRangeAddress({name, range->range})};
 }
@@ -132,7 +126,7 @@ std::string ShownName(pugi::xml_node series) {
 
 void SetSeriesData(ChartPart& part, pugi::xml_node series, SeriesData which, const Variant& value) {
   const auto* text = value.If<std::string>();
-  if (text == nullptr) throw CantSet(which);
+  if (text == nullptr) throw CantSet(PropertyName(which), "Series");
   part.CatchUp();  // what is set now is as of now
   if (which == SeriesData::kName && !text->starts_with('=')) {
     SetCachedText(Emptied(series, "tx"), *text);

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
 
 namespace plotsmith::xlsx {
 
 pugi::xml_node SeriesHandle::Node() const {
   if (!entry->node) {
-    throw runtime::RuntimeError(runtime::error::kApplication, "Method of object 'Series' failed");
+    throw Refusal("Method of object 'Series' failed");
   }
   return entry->node;
 }

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "host/excel/Constants.h"
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Journal.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/drawing/DrawingSchema.h"
@@ -17,16 +17,11 @@
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 
 namespace {
 
 constexpr std::int32_t kLine = 9;  // msoLine
 constexpr double kUsualMarginAcross = 7.2, kUsualMarginDown = 3.6;
-
-RuntimeError OutOfRange() {
-  return RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
-}
 
 std::int32_t TypeOf(pugi::xml_node object) {
   const std::string_view kind = xml::LocalName(object);
@@ -46,7 +41,7 @@ DrawnShape::DrawnShape(pugi::xml_node anchor, pugi::xml_node object)
     : anchor_(anchor), object_(object), type_(TypeOf(object)) {}
 
 pugi::xml_node DrawnShape::Object() const {
-  if (!object_) throw RuntimeError(runtime::error::kApplication, "The object has been deleted.");
+  if (!object_) throw Refusal("The object has been deleted.");
   return object_;
 }
 

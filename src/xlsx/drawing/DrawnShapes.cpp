@@ -1,7 +1,7 @@
 #include "xlsx/drawing/DrawnShapes.h"
 
 #include "host/excel/ShapeRange.h"
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Journal.h"
 #include "xlsx/drawing/DrawnShape.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
@@ -13,13 +13,7 @@ using runtime::RuntimeError;
 
 namespace {
 
-RuntimeError NotFound() {
-  return RuntimeError(runtime::error::kApplication, "The item with the specified name wasn't found.");
-}
-
-RuntimeError OutOfRange() {
-  return RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
-}
+RuntimeError NotFound() { return Refusal("The item with the specified name wasn't found."); }
 
 /// "Rounded Rectangle" of "msoShapeRoundedRectangle".
 std::string NameOf(std::string_view constant) {

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "host/excel/ColorFormat.h"
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Journal.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
@@ -13,7 +13,6 @@
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 
 namespace {
 
@@ -27,7 +26,7 @@ pugi::xml_node PropertiesOf(const DrawnShape& shape, Part part) {
   const pugi::xml_node properties = shape.Properties();
   if (part == Part::kFill) return properties;
   if (xml::Is(properties, "grpSpPr")) {
-    throw RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
+    throw OutOfRange();
   }
   return schema::Ensure(properties, "ln");
 }
@@ -47,7 +46,7 @@ class ShapeColor final : public excel::ColorFormat {
         },
         "RGB", color);
     if (color < 0 || color > 0xFFFFFF) {
-      throw RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
+      throw OutOfRange();
     }
     const pugi::xml_node properties = PropertiesOf(*shape_, part_);
     const pugi::xml_node fill = FindFill(properties);
@@ -99,7 +98,7 @@ class ShapeLine final : public excel::LineFormat {
   void SetWeight(double points) override {
     shape_->Log().Put([this] { return Path(); }, "Weight", points);
     if (!(points >= 0 && points <= kMostPoints)) {
-      throw RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
+      throw OutOfRange();
     }
     xml::SetAttribute(PropertiesOf(*shape_, Part::kLine), "w", std::to_string(Emu(points)));
     shape_->MarkChanged();

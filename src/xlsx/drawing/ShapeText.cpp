@@ -6,8 +6,8 @@
 
 #include "host/excel/Characters.h"
 #include "host/excel/Constants.h"
-#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Journal.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/DrawnShape.h"
@@ -22,10 +22,6 @@ using excel::Ref;
 using runtime::RuntimeError;
 
 namespace {
-
-RuntimeError OutOfRange() {
-  return RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
-}
 
 class ShapeCharacters final : public excel::Characters {
  public:

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
+#include "xlsx/Errors.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/Theme.h"
 #include "xlsx/package/Xml.h"
@@ -103,7 +103,7 @@ pugi::xml_node TextBody::Body() const { return xml::Child(object_, "txBody"); }
 pugi::xml_node TextBody::EnsureBody() {
   if (const auto body = Body()) return body;
   if (!xml::Is(object_, "sp")) {
-    throw runtime::RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
+    throw OutOfRange();
   }
   // it is the last child, in the drawing's own vocabulary
   const pugi::xml_node body =
