@@ -52,7 +52,7 @@ double TitleDepth(ChartPart& part, pugi::xml_node title, TextRole role, double r
 
 /// Takes the legend's room from the free one.
 void SetLegendAside(ChartPart& part, const Frame& chart, Edges& taken) {
-  const auto legend = schema::Find(part.Chart(), "legend");
+  const auto legend = xml::Child(part.Chart(), "legend");
   if (!legend || schema::BooleanVal(legend, "overlay", false)) return;
   const TextFace face = FaceOf(part, legend, TextRole::kOther);
   double widest = 0, all = 0;
@@ -101,7 +101,7 @@ std::vector<std::string> LabelsOf(ChartPart& part, pugi::xml_node axis) {
     if (!labels.empty()) break;
   }
   if (!values) return labels;
-  auto format = NumberFormat::Parse(xml::Attribute(schema::Find(axis, "numFmt"), "formatCode", "General"));
+  auto format = NumberFormat::Parse(xml::Attribute(xml::Child(axis, "numFmt"), "formatCode", "General"));
   if (!format) format = NumberFormat::Parse("General");
   for (const double value : {least, most}) {
     format->AppendNumber(labels.emplace_back(), value, part.Book().Dates());

@@ -45,7 +45,7 @@ class Title final : public excel::AxisTitle {
 
   std::string Text() override {
     const auto title = Node();
-    return schema::Find(title, "tx") ? TitleText(title) : "Axis Title";
+    return xml::Child(title, "tx") ? TitleText(title) : "Axis Title";
   }
   void SetText(std::string_view text) override {
     axis_.Log().Put([this] { return Path(); }, "Text", text);
@@ -57,7 +57,7 @@ class Title final : public excel::AxisTitle {
     return MakeFont(
         *axis_.part,
         [axis = axis_] {
-          return LooksOf(*axis.part, schema::Find(axis.Node(), "title"), TextRole::kAxisTitle);
+          return LooksOf(*axis.part, xml::Child(axis.Node(), "title"), TextRole::kAxisTitle);
         },
         [axis = axis_] { return schema::Ensure(axis.Node(), "title"); }, Path() + ".Font");
   }
@@ -79,7 +79,7 @@ class Title final : public excel::AxisTitle {
 
  private:
   pugi::xml_node Node() const {
-    const auto title = schema::Find(axis_.Node(), "title");
+    const auto title = xml::Child(axis_.Node(), "title");
     if (!title) throw CantGet("AxisTitle", "Axis");
     return title;
   }
@@ -93,17 +93,17 @@ class Ticks final : public excel::TickLabels {
   explicit Ticks(AxisHandle axis) : axis_(std::move(axis)) {}
 
   bool NumberFormatLinked() override {
-    const auto format = schema::Find(axis_.Node(), "numFmt");
+    const auto format = xml::Child(axis_.Node(), "numFmt");
     return !format || xml::BooleanAttribute(format, "sourceLinked", false);
   }
   std::string NumberFormat() override {
-    return xml::Attribute(schema::Find(axis_.Node(), "numFmt"), "formatCode", "General");
+    return xml::Attribute(xml::Child(axis_.Node(), "numFmt"), "formatCode", "General");
   }
   void SetNumberFormatLinked(bool value) override {
     axis_.Log().Put([this] { return axis_.Path() + ".TickLabels"; }, "NumberFormatLinked", value);
     const pugi::xml_node format = schema::Ensure(axis_.Node(), "numFmt");
     if (!format.attribute("formatCode")) xml::SetAttribute(format, "formatCode", "General");
-    xml::SetAttribute(format, "sourceLinked", value ? "1" : "0");
+    schema::SetBooleanAttribute(format, "sourceLinked", value);
     axis_.part->MarkChanged();
   }
 
@@ -115,21 +115,19 @@ class AxisObject final : public excel::Axis {
  public:
   explicit AxisObject(AxisHandle axis) : axis_(std::move(axis)) {}
 
-  bool HasTitle() override { return static_cast<bool>(schema::Find(axis_.Node(), "title")); }
+  bool HasTitle() override { return static_cast<bool>(xml::Child(axis_.Node(), "title")); }
   void SetHasTitle(bool value) override {
     axis_.Log().Put([this] { return axis_.Path(); }, "HasTitle", value);
     const pugi::xml_node axis = axis_.Node();
     if (!value) {
       schema::Remove(axis, "title");
-    } else if (!schema::Find(axis, "title")) {
+    } else if (!xml::Child(axis, "title")) {
       schema::SetVal(schema::Ensure(axis, "title"), "overlay", "0");
     }
     axis_.part->MarkChanged();
   }
   Ref<excel::AxisTitle> AxisTitle() override {
-    if (!HasTitle()) {
-      throw CantGet("AxisTitle", "Axis");
-    }
+    if (!HasTitle()) throw CantGet("AxisTitle", "Axis");
     return std::make_shared<Title>(axis_);
   }
   Ref<excel::TickLabels> TickLabels() override { return std::make_shared<Ticks>(axis_); }
@@ -240,9 +238,7 @@ class AxisObject final : public excel::Axis {
   }
   AxisScale Scale(const char* property) const {
     const pugi::xml_node axis = axis_.Node();
-    if (!xml::Is(axis, "valAx")) {
-      throw CantGet(property, "Axis");
-    }
+    if (!xml::Is(axis, "valAx")) throw CantGet(property, "Axis");
     return ScaleOf(*axis_.part, axis);
   }
   void SetLimit(const char* property, const char* name, double value) {

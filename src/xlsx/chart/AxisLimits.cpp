@@ -33,7 +33,7 @@ struct Extent {
 
 /// X values are numbers; where they are texts, points are counted.
 void AddXValues(pugi::xml_node series, Extent& extent) {
-  const auto numbers = CachedNumbers(schema::Find(series, "xVal"));
+  const auto numbers = CachedNumbers(xml::Child(series, "xVal"));
   for (const Variant& number : numbers) {
     if (const double* value = number.If<double>()) extent.Add(*value);
   }
@@ -77,10 +77,6 @@ void AddValues(pugi::xml_node group, Extent& extent) {
   }
 }
 
-std::optional<double> Setting(pugi::xml_node parent, std::string_view name) {
-  return xml::ParseDouble(schema::Val(parent, name));
-}
-
 }  // namespace
 
 AxisScale ScaleOf(ChartPart& part, pugi::xml_node axis) {
@@ -97,9 +93,10 @@ AxisScale ScaleOf(ChartPart& part, pugi::xml_node axis) {
       AddValues(group, extent);
     }
   }
-  const auto scaling = schema::Find(axis, "scaling");
-  AxisSettings settings{Setting(scaling, "min"), Setting(scaling, "max"), Setting(axis, "majorUnit"),
-                        Setting(scaling, "logBase"), !solid && !shares};
+  const auto scaling = xml::Child(axis, "scaling");
+  AxisSettings settings{schema::NumberVal(scaling, "min"), schema::NumberVal(scaling, "max"),
+                        schema::NumberVal(axis, "majorUnit"), schema::NumberVal(scaling, "logBase"),
+                        !solid && !shares};
   if (settings.majorUnit.value_or(1) <= 0) settings.majorUnit.reset();
   if (!extent.least) return ScaleEmptyAxis(settings);
   return ScaleAxis(*extent.least, *extent.greatest, settings);

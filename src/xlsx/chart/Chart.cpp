@@ -33,8 +33,8 @@ std::string Self() { return "Chart"; }
 /// The title that the chart shows; nothing if it shows none. A chart of one series is titled by its name
 /// without a title of its own, as long as nobody took that away.
 std::optional<std::string> ShownTitle(ChartPart& part) {
-  const auto title = schema::Find(part.Chart(), "title");
-  if (title && schema::Find(title, "tx")) return TitleText(title);
+  const auto title = xml::Child(part.Chart(), "title");
+  if (title && xml::Child(title, "tx")) return TitleText(title);
   if (!title && schema::BooleanVal(part.Chart(), "autoTitleDeleted", false)) return std::nullopt;
   const auto series = SeriesOf(part);
   if (series.size() == 1) {
@@ -45,7 +45,7 @@ std::optional<std::string> ShownTitle(ChartPart& part) {
 }
 
 pugi::xml_node EnsureTitle(ChartPart& part) {
-  if (const auto title = schema::Find(part.Chart(), "title")) return title;
+  if (const auto title = xml::Child(part.Chart(), "title")) return title;
   const pugi::xml_node title = schema::Ensure(part.Chart(), "title");
   schema::SetVal(title, "overlay", "0");
   return title;
@@ -101,9 +101,7 @@ std::int32_t Chart::ChartType() { return TypeOfChart(*part_); }
 void Chart::SetChartType(std::int32_t type) {
   part_->Book().Journal().Put(Self, "ChartType", type);
   const ChartTypeEntry* entry = FindChartType(type);
-  if (entry == nullptr) {
-    throw CantSet("ChartType", "Chart");
-  }
+  if (entry == nullptr) throw CantSet("ChartType", "Chart");
   SetType(*part_, *entry);
 }
 
@@ -120,7 +118,7 @@ void Chart::SetHasTitle(bool value) {
     schema::Remove(chart, "title");
   }
   // without this a chart of one series is titled by its name
-  schema::SetVal(chart, "autoTitleDeleted", value ? "0" : "1");
+  schema::SetBooleanVal(chart, "autoTitleDeleted", !value);
   part_->MarkChanged();
 }
 
@@ -129,14 +127,14 @@ Ref<excel::ChartTitle> Chart::ChartTitle() {
   return std::make_shared<Title>(part_);
 }
 
-bool Chart::HasLegend() { return static_cast<bool>(schema::Find(part_->Chart(), "legend")); }
+bool Chart::HasLegend() { return static_cast<bool>(xml::Child(part_->Chart(), "legend")); }
 
 void Chart::SetHasLegend(bool value) {
   part_->Book().Journal().Put(Self, "HasLegend", value);
   const pugi::xml_node chart = part_->Chart();
   if (!value) {
     schema::Remove(chart, "legend");
-  } else if (!schema::Find(chart, "legend")) {
+  } else if (!xml::Child(chart, "legend")) {
     const pugi::xml_node legend = schema::Ensure(chart, "legend");
     schema::SetVal(legend, "legendPos", kLegendPositions.absent);
     schema::SetVal(legend, "overlay", "0");
@@ -145,7 +143,7 @@ void Chart::SetHasLegend(bool value) {
 }
 
 Ref<excel::Legend> Chart::Legend() {
-  if (!schema::Find(part_->Chart(), "legend")) throw CantGet("Legend", "Chart");
+  if (!xml::Child(part_->Chart(), "legend")) throw CantGet("Legend", "Chart");
   return MakeLegend(part_, frame_);
 }
 
@@ -157,10 +155,8 @@ bool Chart::HasAxis(std::int32_t type) {
 void Chart::SetHasAxis(std::int32_t type, bool value) {
   part_->Book().Journal().Put(Self, "HasAxis(" + std::to_string(type) + ")", value);
   const auto axis = FindAxis(*part_, type == excel::xlValue);
-  if (!axis) {
-    throw CantSet("HasAxis", "Chart");
-  }
-  schema::SetVal(axis, "delete", value ? "0" : "1");
+  if (!axis) throw CantSet("HasAxis", "Chart");
+  schema::SetBooleanVal(axis, "delete", !value);
   part_->MarkChanged();
 }
 

@@ -19,7 +19,7 @@ pugi::xml_node NumbersOf(pugi::xml_node data) {
 }
 
 std::size_t PointsIn(pugi::xml_node cache) {
-  const auto count = xml::ParseInteger(schema::Val(cache, "ptCount")).value_or(0);
+  const auto count = schema::IntegerVal(cache, "ptCount", 0);
   return static_cast<std::size_t>(std::clamp<long long>(count, 0, limits::kCachePoints));
 }
 

@@ -70,7 +70,7 @@ class OnChart final : public DrawnShapes {
 ChartDrawing::ChartDrawing(ChartPart& chart) : chart_(chart) {
   const Package& package = chart.Book().Package();
   const auto link =
-      package.FindRelationship(chart.Part(), xml::RelationshipId(schema::Find(chart.Space(), "userShapes")));
+      package.FindRelationship(chart.Part(), xml::RelationshipId(xml::Child(chart.Space(), "userShapes")));
   if (link && !link->external && package.Has(link->target)) part_ = link->target;
   try {
     InPart(part_, [&] {
@@ -122,9 +122,7 @@ std::shared_ptr<ChartShape> ChartDrawing::Group(const std::vector<std::shared_pt
   for (const auto& shape : shapes_) {
     if (std::find(shapes.begin(), shapes.end(), shape) != shapes.end()) members.push_back(shape);
   }
-  if (members.size() < 2) {
-    throw OutOfRange();
-  }
+  if (members.size() < 2) throw OutOfRange();
   Frame around = members[0]->PlacedFrame();
   for (const auto& member : members) {
     const Frame frame = member->PlacedFrame();

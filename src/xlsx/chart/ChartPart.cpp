@@ -32,9 +32,7 @@ bool ChartPart::IsReadable() {
 pugi::xml_node ChartPart::Space() {
   Load();
   // One chart that can't be read is no reason to give the workbook up: the error is this chart's.
-  if (!document_) {
-    throw Refusal("The chart can't be read: " + *unreadable_ + ".");
-  }
+  if (!document_) throw Refusal("The chart can't be read: " + *unreadable_ + ".");
   return xml::Root(*document_);
 }
 
@@ -72,7 +70,7 @@ const Theme& ChartPart::Theme() {
 }
 
 std::optional<std::int32_t> ChartPart::Color(pugi::xml_node holder) {
-  return Theme().Color(holder, schema::Find(Space(), "clrMapOvr"));
+  return Theme().Color(holder, xml::Child(Space(), "clrMapOvr"));
 }
 
 ChartDrawing& ChartPart::Drawing() {
@@ -90,9 +88,7 @@ std::vector<SeriesRef>& ChartPart::Series() {
         series_->push_back(std::make_shared<SeriesEntry>(SeriesEntry{node}));
       }
     }
-    const auto order = [](const SeriesRef& entry) {
-      return xml::IntegerAttribute(schema::Find(entry->node, "order"), "val", 0);
-    };
+    const auto order = [](const SeriesRef& entry) { return schema::IntegerVal(entry->node, "order", 0); };
     std::stable_sort(series_->begin(), series_->end(),
                      [&](const SeriesRef& a, const SeriesRef& b) { return order(a) < order(b); });
   }

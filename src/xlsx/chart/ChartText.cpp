@@ -55,12 +55,12 @@ class ChartFont final : public DrawingFont {
 void SetTitleText(pugi::xml_node title, std::string_view text) {
   pugi::xml_node tx = schema::Ensure(title, "tx");
   schema::Remove(tx, "strRef");
-  const bool fresh = !schema::Find(tx, "rich");
+  const bool fresh = !xml::Child(tx, "rich");
   pugi::xml_node rich = schema::Ensure(tx, "rich");
   pugi::xml_node first = EnsureParagraph(rich);
   if (fresh) {
     // a title that showed a cell's text was dressed by text properties of its own
-    if (const auto own = schema::Find(title, "txPr")) {
+    if (const auto own = xml::Child(title, "txPr")) {
       rich.remove_children();
       for (const pugi::xml_node& child : own.children()) rich.append_copy(child);
       first = EnsureParagraph(rich);
@@ -80,13 +80,13 @@ std::vector<pugi::xml_node> TextBodies(pugi::xml_node element) {
   const pugi::xml_node body = rich ? rich : schema::Ensure(element, "txPr");
   EnsureParagraph(body);
   for (const pugi::xml_node& paragraph : xml::Children(body, "p")) {
-    if (!rich && !schema::Find(paragraph, "endParaRPr")) {
+    if (!rich && !xml::Child(paragraph, "endParaRPr")) {
       xml::SetAttribute(schema::Ensure(paragraph, "endParaRPr"), "lang", "en-US");
     }
   }
   std::vector<pugi::xml_node> bodies = {body};
   for (const pugi::xml_node& label : xml::Children(element, "dLbl")) {
-    if (!schema::Find(label, "tx") && !schema::Find(label, "txPr")) continue;
+    if (!xml::Child(label, "tx") && !xml::Child(label, "txPr")) continue;
     const auto own = TextBodies(label);
     bodies.insert(bodies.end(), own.begin(), own.end());
   }

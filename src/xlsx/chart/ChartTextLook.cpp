@@ -18,12 +18,10 @@ constexpr double kTitleGrowth = 1.2;  // of the chart's own size, where it has o
 /// Properties of text, those that win first; null nodes are passed over.
 using Chain = std::vector<pugi::xml_node>;
 
-pugi::xml_node DefaultsOf(pugi::xml_node paragraph) {
-  return schema::Find(schema::Find(paragraph, "pPr"), "defRPr");
-}
+pugi::xml_node DefaultsOf(pugi::xml_node paragraph) { return xml::Child(paragraph, "pPr", "defRPr"); }
 
 /// The properties that a body of text (c:txPr, c:rich) has for all of it.
-pugi::xml_node DefaultsOfBody(pugi::xml_node body) { return DefaultsOf(schema::Find(body, "p")); }
+pugi::xml_node DefaultsOfBody(pugi::xml_node body) { return DefaultsOf(xml::Child(body, "p")); }
 
 std::string AttributeOf(const Chain& chain, const char* name) {
   for (const pugi::xml_node& properties : chain) {
@@ -37,7 +35,7 @@ bool IsOn(const std::string& value, bool fallback) {
 }
 
 TextLook Look(ChartPart& part, Chain chain, TextRole role) {
-  const auto chart = DefaultsOfBody(schema::Find(part.Space(), "txPr"));
+  const auto chart = DefaultsOfBody(xml::Child(part.Space(), "txPr"));
   const auto pointsOf = [](const std::string& hundredths) {
     return xml::ParseDouble(hundredths).value_or(0) / 100;
   };
@@ -59,7 +57,7 @@ TextLook Look(ChartPart& part, Chain chain, TextRole role) {
 
   look.typeface = part.Theme().MinorFont();
   for (const pugi::xml_node& properties : chain) {
-    const std::string typeface = xml::Attribute(schema::Find(properties, "latin"), "typeface");
+    const std::string typeface = xml::Attribute(xml::Child(properties, "latin"), "typeface");
     if (typeface.empty()) continue;
     look.typeface = part.Theme().Typeface(typeface);
     break;
@@ -80,8 +78,8 @@ void AddRuns(ChartPart& part, pugi::xml_node body, const Chain& behind, TextRole
   for (const pugi::xml_node& paragraph : xml::Children(body, "p")) {
     for (const pugi::xml_node& run : paragraph.children()) {
       const bool text = xml::Is(run, "r") || xml::Is(run, "fld");
-      if (!text || xml::Text(schema::Find(run, "t")).empty()) continue;
-      Chain chain = {schema::Find(run, "rPr"), DefaultsOf(paragraph)};
+      if (!text || xml::Text(xml::Child(run, "t")).empty()) continue;
+      Chain chain = {xml::Child(run, "rPr"), DefaultsOf(paragraph)};
       chain.insert(chain.end(), behind.begin(), behind.end());
       looks.push_back(Look(part, std::move(chain), role));
     }
@@ -91,8 +89,8 @@ void AddRuns(ChartPart& part, pugi::xml_node body, const Chain& behind, TextRole
 }  // namespace
 
 std::vector<TextLook> LooksOf(ChartPart& part, pugi::xml_node element, TextRole role) {
-  const auto own = DefaultsOfBody(schema::Find(element, "txPr"));
-  const auto rich = schema::Find(schema::Find(element, "tx"), "rich");
+  const auto own = DefaultsOfBody(xml::Child(element, "txPr"));
+  const auto rich = xml::Child(element, "tx", "rich");
   std::vector<TextLook> looks;
   AddRuns(part, rich, {own}, role, looks);
   if (looks.empty()) looks.push_back(Look(part, {DefaultsOfBody(rich), own}, role));
@@ -100,25 +98,25 @@ std::vector<TextLook> LooksOf(ChartPart& part, pugi::xml_node element, TextRole 
 }
 
 std::vector<TextLook> LooksOfLegend(ChartPart& part, pugi::xml_node legend) {
-  const auto own = DefaultsOfBody(schema::Find(legend, "txPr"));
+  const auto own = DefaultsOfBody(xml::Child(legend, "txPr"));
   std::vector<TextLook> looks = {Look(part, {own}, TextRole::kOther)};
   for (const pugi::xml_node& entry : xml::Children(legend, "legendEntry")) {
     if (schema::BooleanVal(entry, "delete", false)) continue;
-    const auto dress = DefaultsOfBody(schema::Find(entry, "txPr"));
+    const auto dress = DefaultsOfBody(xml::Child(entry, "txPr"));
     if (dress) looks.push_back(Look(part, {dress, own}, TextRole::kOther));
   }
   return looks;
 }
 
 std::vector<TextLook> LooksOfLabels(ChartPart& part, pugi::xml_node labels, std::size_t points) {
-  const auto own = DefaultsOfBody(schema::Find(labels, "txPr"));
+  const auto own = DefaultsOfBody(xml::Child(labels, "txPr"));
   std::vector<TextLook> looks;
   std::size_t special = 0;
   for (const pugi::xml_node& label : xml::Children(labels, "dLbl")) {
     ++special;
     if (schema::BooleanVal(label, "delete", false)) continue;
-    const auto dress = DefaultsOfBody(schema::Find(label, "txPr"));
-    const auto rich = schema::Find(schema::Find(label, "tx"), "rich");
+    const auto dress = DefaultsOfBody(xml::Child(label, "txPr"));
+    const auto rich = xml::Child(label, "tx", "rich");
     const std::size_t before = looks.size();
     AddRuns(part, rich, {dress, own}, TextRole::kOther, looks);
     if (looks.size() == before) looks.push_back(Look(part, {dress, own}, TextRole::kOther));
@@ -129,8 +127,8 @@ std::vector<TextLook> LooksOfLabels(ChartPart& part, pugi::xml_node labels, std:
 }
 
 std::string TitleText(pugi::xml_node title) {
-  const auto tx = schema::Find(title, "tx");
-  if (const auto rich = schema::Find(tx, "rich")) return BodyText(rich);
+  const auto tx = xml::Child(title, "tx");
+  if (const auto rich = xml::Child(tx, "rich")) return BodyText(rich);
   std::string text;
   for (const auto& [point, line] : CachedTexts(tx)) text += (text.empty() ? "" : " ") + line;
   return text;

@@ -70,7 +70,7 @@ void KeepAllowedPositions(pugi::xml_node labels, pugi::xml_node group) {
 }
 
 void Rename(pugi::xml_node series, const char* from, const char* to) {
-  if (pugi::xml_node data = schema::Find(series, from)) {
+  if (pugi::xml_node data = xml::Child(series, from)) {
     data.set_name((std::string(xml::Prefix(data.name())) + to).c_str());
   }
 }
@@ -84,23 +84,23 @@ void SetTrait(pugi::xml_node series, SeriesTrait trait) {
       schema::SetVal(schema::Ensure(series, "marker"), "symbol", "none");
       break;
     case SeriesTrait::kMarkersOnly:
-      if (const auto properties = schema::Ensure(series, "spPr"); !schema::Find(properties, "ln")) {
+      if (const auto properties = schema::Ensure(series, "spPr"); !xml::Child(properties, "ln")) {
         const pugi::xml_node line = schema::Ensure(properties, "ln");
         xml::SetAttribute(line, "w", kScatterWidth);
         SetFill(line, "noFill");
       }
       [[fallthrough]];
     case SeriesTrait::kMarkers:
-      if (schema::Val(schema::Find(series, "marker"), "symbol") == "none") schema::Remove(series, "marker");
+      if (schema::Val(xml::Child(series, "marker"), "symbol") == "none") schema::Remove(series, "marker");
       break;
     case SeriesTrait::kExploded:
-      if (xml::ParseInteger(schema::Val(series, "explosion")).value_or(0) <= 0) {
+      if (schema::IntegerVal(series, "explosion", 0) <= 0) {
         schema::SetVal(series, "explosion", kExplosion);
       }
       break;
     case SeriesTrait::kFlatBubble:
     case SeriesTrait::kBubble3D:
-      schema::SetVal(series, "bubble3D", trait == SeriesTrait::kBubble3D ? "1" : "0");
+      schema::SetBooleanVal(series, "bubble3D", trait == SeriesTrait::kBubble3D);
       break;
   }
 }
@@ -118,7 +118,7 @@ bool AllowsLabelPosition(pugi::xml_node group, std::string_view position) {
 void RemoveMisfits(ChartPart& part, pugi::xml_node series) {
   for (const Extra& extra : kExtras) {
     if (Lists(extra.groups, xml::LocalName(series.parent()))) continue;
-    const auto node = schema::Find(series, extra.name);
+    const auto node = xml::Child(series, extra.name);
     if (node && extra.name == "bubbleSize") part.LayAside(StateOfSeries(series)).append_copy(node);
     schema::Remove(series, extra.name);
   }
@@ -126,7 +126,7 @@ void RemoveMisfits(ChartPart& part, pugi::xml_node series) {
 
 void FitToGroup(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type) {
   // each that Excel or this host wrote as a line says whether it is smooth
-  const bool wasLine = static_cast<bool>(schema::Find(series, "smooth"));
+  const bool wasLine = static_cast<bool>(xml::Child(series, "smooth"));
   RemoveMisfits(part, series);
   if (type.HasXValues()) {
     Rename(series, "cat", "xVal");
@@ -136,18 +136,18 @@ void FitToGroup(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& ty
     Rename(series, "yVal", "val");
   }
   // readers differ in what they take the absence of these two for
-  if ((type.IsBar() || type.IsBubble()) && !schema::Find(series, "invertIfNegative")) {
+  if ((type.IsBar() || type.IsBubble()) && !xml::Child(series, "invertIfNegative")) {
     schema::SetVal(series, "invertIfNegative", "0");
   }
   const bool isLine = type.IsLine() || type.element == "scatterChart";
   if (isLine && !wasLine) schema::SetVal(series, "smooth", "0");
   if (wasLine && !isLine) {
     // a line that isn't shown would be an outline that isn't shown
-    pugi::xml_node properties = schema::Find(series, "spPr");
-    if (xml::Is(FindFill(schema::Find(properties, "ln")), "noFill")) schema::Remove(properties, "ln");
+    pugi::xml_node properties = xml::Child(series, "spPr");
+    if (xml::Is(FindFill(xml::Child(properties, "ln")), "noFill")) schema::Remove(properties, "ln");
   }
-  if (type.IsBubble() && !schema::Find(series, "bubbleSize")) {
-    const auto laidAside = schema::Find(part.LaidAside(StateOfSeries(series)), "bubbleSize");
+  if (type.IsBubble() && !xml::Child(series, "bubbleSize")) {
+    const auto laidAside = xml::Child(part.LaidAside(StateOfSeries(series)), "bubbleSize");
     if (laidAside) schema::InsertCopy(series, laidAside);
   }
   for (const pugi::xml_node& labels : xml::Children(series, "dLbls")) {
@@ -165,7 +165,7 @@ void ForgetSeries(ChartPart& part, pugi::xml_node series) { part.Forget(StateOfS
 pugi::xml_node DeriveGroup(pugi::xml_node plotArea, pugi::xml_node old, const ChartTypeEntry& type) {
   pugi::xml_node group = schema::Insert(plotArea, type.element);
   for (const Extra& common : kCommon) {
-    const auto node = schema::Find(old, common.name);
+    const auto node = xml::Child(old, common.name);
     const bool fits = Lists(common.groups, type.element) && Lists(common.groups, xml::LocalName(old));
     if (node && fits) schema::InsertCopy(group, node);
   }
@@ -177,7 +177,7 @@ void FitGroup(pugi::xml_node group, const ChartTypeEntry& type, bool restored) {
   if (!type.grouping.empty()) schema::SetVal(group, "grouping", type.grouping);
   if (restored) return;
   const auto preset = [&](const char* name, std::string_view value) {
-    if (!schema::Find(group, name)) schema::SetVal(group, name, value);
+    if (!xml::Child(group, name)) schema::SetVal(group, name, value);
   };
   preset("varyColors", type.IsPie() ? "1" : "0");
   if (type.IsBar()) preset("gapWidth", "150");

@@ -56,13 +56,11 @@ std::int32_t BarType(pugi::xml_node group, pugi::xml_node series, bool solid) {
 
 /// Whether a marker is drawn; `fallback` where the series doesn't say.
 bool HasMarkers(pugi::xml_node series, bool fallback) {
-  const std::string symbol = schema::Val(schema::Find(series, "marker"), "symbol");
+  const std::string symbol = schema::Val(xml::Child(series, "marker"), "symbol");
   return symbol.empty() ? fallback : symbol != "none";
 }
 
-bool HasLine(pugi::xml_node series) {
-  return !xml::Is(FindFill(schema::Find(schema::Find(series, "spPr"), "ln")), "noFill");
-}
+bool HasLine(pugi::xml_node series) { return !xml::Is(FindFill(xml::Child(series, "spPr", "ln")), "noFill"); }
 
 std::int32_t LineType(pugi::xml_node group, pugi::xml_node series) {
   const bool markers = HasMarkers(series, schema::BooleanVal(group, "marker", false));
@@ -80,10 +78,8 @@ std::int32_t ScatterType(pugi::xml_node group, pugi::xml_node series) {
 
 /// A pie is exploded when a slice of it is.
 bool IsExploded(pugi::xml_node series) {
-  const auto moved = [](pugi::xml_node node) {
-    return xml::ParseInteger(schema::Val(node, "explosion")).value_or(0) > 0;
-  };
-  if (schema::Find(series, "explosion")) return moved(series);
+  const auto moved = [](pugi::xml_node node) { return schema::IntegerVal(node, "explosion", 0) > 0; };
+  if (xml::Child(series, "explosion")) return moved(series);
   const auto points = xml::Children(series, "dPt");
   return !points.empty() && std::all_of(points.begin(), points.end(), moved);
 }

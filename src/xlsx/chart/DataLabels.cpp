@@ -69,28 +69,18 @@ std::vector<pugi::xml_node> AllOf(pugi::xml_node labels) {
   return all;
 }
 
-long long NumberOf(pugi::xml_node label) { return xml::ParseInteger(schema::Val(label, "idx")).value_or(-1); }
-
 /// The label of a point, from 0, which looks like the others until it is told otherwise.
 pugi::xml_node EnsureLabel(pugi::xml_node labels, long long number) {
-  pugi::xml_node follower, label;
-  for (const pugi::xml_node& other : xml::Children(labels, "dLbl")) {
-    if (NumberOf(other) == number) label = other;
-    if (NumberOf(other) > number && !follower) follower = other;
-  }
-  if (label && !schema::BooleanVal(label, "delete", false)) return label;
-  if (!label) {
-    label = schema::Insert(labels, "dLbl");
-    if (follower) labels.insert_move_before(label, follower);
-    schema::SetVal(label, "idx", std::to_string(number));
-  }
+  const auto present = schema::FindNumbered(labels, "dLbl", number);
+  if (present && !schema::BooleanVal(present, "delete", false)) return present;
+  const pugi::xml_node label = schema::EnsureNumbered(labels, "dLbl", number);
   schema::Remove(label, "delete");
   schema::Ensure(label, "layout");
   for (const char* repeated : kRepeated) {
-    if (const auto node = schema::Find(labels, repeated)) schema::InsertCopy(label, node);
+    if (const auto node = xml::Child(labels, repeated)) schema::InsertCopy(label, node);
   }
   for (const char* what : kShown) {
-    schema::SetVal(label, what, schema::BooleanVal(labels, what, false) ? "1" : "0");
+    schema::SetBooleanVal(label, what, schema::BooleanVal(labels, what, false));
   }
   return label;
 }
@@ -185,9 +175,7 @@ class Labels final : public excel::DataLabels {
 
   std::int32_t Count() override { return static_cast<std::int32_t>(PointCount(FindValues(series_.Node()))); }
   Ref<excel::DataLabel> Item(std::int32_t index) override {
-    if (index < 1 || index > Count()) {
-      throw MethodFailed("Item", "DataLabels");
-    }
+    if (index < 1 || index > Count()) throw MethodFailed("Item", "DataLabels");
     return std::make_shared<Label>(series_, index);
   }
 
@@ -212,13 +200,13 @@ Ref<excel::DataLabels> MakeDataLabels(SeriesHandle series) {
 }
 
 pugi::xml_node FindLabels(pugi::xml_node series) {
-  const auto own = schema::Find(series, "dLbls");
-  return own ? own : schema::Find(series.parent(), "dLbls");
+  const auto own = xml::Child(series, "dLbls");
+  return own ? own : xml::Child(series.parent(), "dLbls");
 }
 
 pugi::xml_node EnsureLabels(pugi::xml_node series) {
-  if (const auto own = schema::Find(series, "dLbls")) return own;
-  const auto common = schema::Find(series.parent(), "dLbls");
+  if (const auto own = xml::Child(series, "dLbls")) return own;
+  const auto common = xml::Child(series.parent(), "dLbls");
   return common ? schema::InsertCopy(series, common) : schema::Ensure(series, "dLbls");
 }
 
@@ -237,7 +225,7 @@ bool ShowLabels(pugi::xml_node labels, std::int32_t type) {
   const auto wanted = std::find_if(kLabelTypes.begin(), kLabelTypes.end(),
                                    [&](const LabelType& entry) { return entry.number == type; });
   if (wanted == kLabelTypes.end()) return false;
-  const auto show = [&](const char* what, bool value) { schema::SetVal(labels, what, value ? "1" : "0"); };
+  const auto show = [&](const char* what, bool value) { schema::SetBooleanVal(labels, what, value); };
   schema::Remove(labels, "delete");
   show("showLegendKey", false);
   show("showVal", wanted->value);

@@ -192,7 +192,7 @@ void ArrangeAxes(ChartPart& part, pugi::xml_node group, const std::vector<pugi::
   Link(group, AxisId(value));
   if (type.HasDepthAxis()) {
     if (!roles.depth) {
-      const auto laidAside = schema::Find(state, "serAx");
+      const auto laidAside = xml::Child(state, "serAx");
       roles.depth = laidAside ? Restored(plotArea, laidAside) : NewAxis(plotArea, "serAx");
     }
     schema::SetVal(roles.depth, "crossAx", AxisId(first));

@@ -128,13 +128,13 @@ class InteriorObject final : public excel::Interior {
   /// The main colour of a filling: the ground of a pattern, where a gradient begins. Nothing for a picture,
   /// or none at all.
   std::optional<std::int32_t> ColorOf(pugi::xml_node fill) const {
-    if (xml::Is(fill, "pattFill")) return element_.part->Color(schema::Find(fill, "bgClr"));
+    if (xml::Is(fill, "pattFill")) return element_.part->Color(xml::Child(fill, "bgClr"));
     if (xml::Is(fill, "gradFill")) return element_.part->Color(xml::Child(fill, "gsLst", "gs"));
     return element_.part->Color(fill);
   }
   std::optional<std::int32_t> LineColor() const {
     const auto fill = Fill();
-    return xml::Is(fill, "pattFill") ? element_.part->Color(schema::Find(fill, "fgClr")) : std::nullopt;
+    return xml::Is(fill, "pattFill") ? element_.part->Color(xml::Child(fill, "fgClr")) : std::nullopt;
   }
   void Paint(std::int32_t color) {
     const auto fill = Fill();

@@ -32,7 +32,7 @@ class LegendObject final : public excel::Legend {
 
   Ref<excel::Font> Font() override {
     return MakeFont(
-        *part_, [part = part_] { return LooksOfLegend(*part, schema::Find(part->Chart(), "legend")); },
+        *part_, [part = part_] { return LooksOfLegend(*part, xml::Child(part->Chart(), "legend")); },
         [part = part_] { return schema::Ensure(part->Chart(), "legend"); }, Path() + ".Font");
   }
 
@@ -56,7 +56,7 @@ class LegendObject final : public excel::Legend {
     const pugi::xml_node legend = Node();
     schema::SetVal(legend, "legendPos", *token);
     // a place taken by hand would win over the position
-    schema::Remove(schema::Find(legend, "layout"), "manualLayout");
+    schema::Remove(xml::Child(legend, "layout"), "manualLayout");
     part_->MarkChanged();
   }
 
@@ -72,21 +72,21 @@ class LegendObject final : public excel::Legend {
 
  private:
   pugi::xml_node Node() const {
-    const auto legend = schema::Find(part_->Chart(), "legend");
+    const auto legend = xml::Child(part_->Chart(), "legend");
     if (!legend) throw CantGet("Legend", "Chart");
     return legend;
   }
 
   /// The layout of a legend that stands where somebody put it; one that only has its size from there doesn't.
   static pugi::xml_node PlaceOf(pugi::xml_node legend) {
-    const auto layout = schema::Find(schema::Find(legend, "layout"), "manualLayout");
-    return schema::Find(layout, "x") || schema::Find(layout, "y") ? layout : pugi::xml_node();
+    const auto layout = xml::Child(legend, "layout", "manualLayout");
+    return xml::Child(layout, "x") || xml::Child(layout, "y") ? layout : pugi::xml_node();
   }
 
   /// A coordinate as a fraction of the chart. Without a place of its own, a guess: in the middle of its side.
   double Place(const char* coordinate) const {
     const auto layout = PlaceOf(Node());
-    const auto value = xml::ParseDouble(schema::Val(layout, coordinate));
+    const auto value = schema::NumberVal(layout, coordinate);
     const bool horizontal = std::string_view(coordinate) == "x";
     if (value && schema::Val(layout, horizontal ? "xMode" : "yMode") == "edge") return *value;
     const std::string side = schema::Val(Node(), "legendPos", kLegendPositions.absent);

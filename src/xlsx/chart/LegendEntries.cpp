@@ -20,9 +20,7 @@ using excel::Ref;
 
 namespace {
 
-pugi::xml_node FindLegend(ChartPart& part) { return schema::Find(part.Chart(), "legend"); }
-
-long long NumberOf(pugi::xml_node entry) { return xml::ParseInteger(schema::Val(entry, "idx")).value_or(-1); }
+pugi::xml_node FindLegend(ChartPart& part) { return xml::Child(part.Chart(), "legend"); }
 
 /// Whether the legend tells points apart: of a pie always, else of a single series in varied colours.
 bool ListsPoints(ChartPart& part) {
@@ -42,7 +40,7 @@ std::size_t AllEntries(ChartPart& part) {
 std::vector<std::size_t> EntriesLeft(ChartPart& part) {
   std::set<long long> deleted;
   for (const pugi::xml_node& entry : xml::Children(FindLegend(part), "legendEntry")) {
-    if (schema::BooleanVal(entry, "delete", false)) deleted.insert(NumberOf(entry));
+    if (schema::BooleanVal(entry, "delete", false)) deleted.insert(schema::NumberOf(entry));
   }
   std::vector<std::size_t> left;
   for (std::size_t i = 0; i < AllEntries(part); ++i) {
@@ -61,27 +59,14 @@ class Entry final : public excel::LegendEntry {
         [this] { return "Chart.Legend.LegendEntries(" + std::to_string(place_) + ")"; }, "Delete");
     const auto legend = FindLegend(*part_);
     if (!legend) throw Refusal("Delete method of LegendEntry class failed");
-    const pugi::xml_node entry = Node(legend);
+    const pugi::xml_node entry =
+        schema::EnsureNumbered(legend, "legendEntry", static_cast<long long>(number_));
     schema::Remove(entry, "txPr");
     schema::SetVal(entry, "delete", "1");
     part_->MarkChanged();
   }
 
  private:
-  /// The entry's element, made among the others by its number.
-  pugi::xml_node Node(pugi::xml_node legend) const {
-    const auto number = static_cast<long long>(number_);
-    pugi::xml_node follower;
-    for (const pugi::xml_node& entry : xml::Children(legend, "legendEntry")) {
-      if (NumberOf(entry) == number) return entry;
-      if (NumberOf(entry) > number && !follower) follower = entry;
-    }
-    pugi::xml_node entry = schema::Insert(legend, "legendEntry");
-    if (follower) legend.insert_move_before(entry, follower);
-    schema::SetVal(entry, "idx", std::to_string(number));
-    return entry;
-  }
-
   std::shared_ptr<ChartPart> part_;
   std::size_t number_;
   std::int32_t place_;
@@ -131,7 +116,7 @@ void DropLegendEntry(ChartPart& part, std::size_t position) {
   const bool last = part.Series().size() == 1;
   const bool points = ListsPoints(part);
   for (pugi::xml_node& entry : xml::Children(legend, "legendEntry")) {
-    const long long number = NumberOf(entry), gone = static_cast<long long>(position);
+    const long long number = schema::NumberOf(entry), gone = static_cast<long long>(position);
     if (last || (number == gone && !points)) {
       legend.remove_child(entry);
     } else if (number > gone && !points) {
@@ -144,7 +129,7 @@ void WelcomeLegendEntry(ChartPart& part, std::size_t position) {
   pugi::xml_node legend = FindLegend(part);
   if (!part.Series().empty() && ListsPoints(part)) return;
   for (pugi::xml_node& entry : xml::Children(legend, "legendEntry")) {
-    if (NumberOf(entry) >= static_cast<long long>(position)) legend.remove_child(entry);
+    if (schema::NumberOf(entry) >= static_cast<long long>(position)) legend.remove_child(entry);
   }
 }
 

@@ -41,7 +41,7 @@ void LayTypeAside(ChartPart& part, pugi::xml_node group) {
   schema::Remove(kept, "ser");
   schema::Remove(kept, "axId");
   for (const std::string_view stage : kStageElements) {
-    if (const auto node = schema::Find(part.Chart(), stage)) state.append_copy(node);
+    if (const auto node = xml::Child(part.Chart(), stage)) state.append_copy(node);
   }
   const AxisRoles roles = RolesOf(AxesOf(group));
   if (roles.depth) state.append_copy(roles.depth);
@@ -52,7 +52,7 @@ void LayTypeAside(ChartPart& part, pugi::xml_node group) {
 /// The group of the type as it was laid aside, else one like an old one.
 pugi::xml_node MakeGroup(ChartPart& part, pugi::xml_node old, const ChartTypeEntry& type,
                          pugi::xml_node state) {
-  const auto laidAside = schema::Find(state, type.element);
+  const auto laidAside = xml::Child(state, type.element);
   const pugi::xml_node group =
       laidAside ? schema::InsertCopy(part.PlotArea(), laidAside) : DeriveGroup(part.PlotArea(), old, type);
   FitGroup(group, type, static_cast<bool>(laidAside));
@@ -67,14 +67,14 @@ void ArrangeStage(pugi::xml_node chart, const ChartTypeEntry& type, pugi::xml_no
   }
   if (!type.Is3D()) return;
   for (const std::string_view stage : kStageElements) {
-    if (const auto node = schema::Find(state, stage)) schema::InsertCopy(chart, node);
+    if (const auto node = xml::Child(state, stage)) schema::InsertCopy(chart, node);
   }
-  if (state || schema::Find(chart, "view3D")) return;
+  if (state || xml::Child(chart, "view3D")) return;
   pugi::xml_node view = schema::Ensure(chart, "view3D");
   schema::SetVal(view, "rotX", type.IsPie() ? "30" : "15");
   schema::SetVal(view, "rotY", type.IsPie() ? "0" : "20");
   const bool perspective = type.HasDepthAxis() || type.IsPie();
-  schema::SetVal(view, "rAngAx", perspective ? "0" : "1");
+  schema::SetBooleanVal(view, "rAngAx", !perspective);
   if (perspective) schema::SetVal(view, "perspective", "30");
   if (type.IsPie()) return;
   for (const std::string_view surface : {"floor", "sideWall", "backWall"}) {
@@ -116,7 +116,7 @@ std::vector<pugi::xml_node> GroupsOf(ChartPart& part) {
 
 std::vector<pugi::xml_node> DrawnGroups(ChartPart& part) {
   auto groups = GroupsOf(part);
-  std::erase_if(groups, [](pugi::xml_node group) { return !schema::Find(group, "ser"); });
+  std::erase_if(groups, [](pugi::xml_node group) { return !xml::Child(group, "ser"); });
   std::stable_sort(groups.begin(), groups.end(),
                    [](pugi::xml_node a, pugi::xml_node b) { return DrawingRank(a) < DrawingRank(b); });
   return groups;
@@ -133,8 +133,8 @@ SeriesRef AddSeries(ChartPart& part) {
   auto& all = part.Series();
   std::set<long long> indices, orders;
   for (const SeriesRef& entry : all) {
-    indices.insert(xml::IntegerAttribute(schema::Find(entry->node, "idx"), "val", 0));
-    orders.insert(xml::IntegerAttribute(schema::Find(entry->node, "order"), "val", 0));
+    indices.insert(schema::IntegerVal(entry->node, "idx", 0));
+    orders.insert(schema::IntegerVal(entry->node, "order", 0));
   }
   constexpr long long kLast = std::numeric_limits<std::int32_t>::max();
   const pugi::xml_node last = all.empty() ? pugi::xml_node() : all.back()->node;
@@ -191,7 +191,7 @@ void SetType(ChartPart& part, const ChartTypeEntry& type) {
   ArrangeAxes(part, group, axes, type, state, familyChanged);
   ArrangeStage(part.Chart(), type, state, kind.starts_with("pie") == type.IsPie());
   // Excel takes its absence for a gap, where others take it for zero; a pivot has blanks
-  if (!schema::Find(part.Chart(), "dispBlanksAs")) schema::SetVal(part.Chart(), "dispBlanksAs", "gap");
+  if (!xml::Child(part.Chart(), "dispBlanksAs")) schema::SetVal(part.Chart(), "dispBlanksAs", "gap");
 }
 
 void SetSeriesType(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type) {
@@ -225,7 +225,7 @@ void SetSeriesType(ChartPart& part, pugi::xml_node series, const ChartTypeEntry&
   }
   if (target != group) schema::InsertMoved(target, series);
   FitSeries(part, series, type);
-  if (!schema::Find(group, "ser")) {
+  if (!xml::Child(group, "ser")) {
     LayTypeAside(part, group);
     group.parent().remove_child(group);
   }
@@ -236,10 +236,10 @@ void UpdateLinkedFormats(ChartPart& part) {
     const auto axes = AxesOf(group);
     const AxisRoles roles = RolesOf(axes);
     for (const pugi::xml_node& axis : axes) {
-      const auto linked = xml::Is(axis, "valAx") ? schema::Find(axis, "numFmt") : pugi::xml_node();
+      const auto linked = xml::Is(axis, "valAx") ? xml::Child(axis, "numFmt") : pugi::xml_node();
       if (!linked || !xml::BooleanAttribute(linked, "sourceLinked", false)) continue;
-      const auto series = schema::Find(group, "ser");
-      const auto data = axis == roles.x ? schema::Find(series, "xVal") : FindValues(series);
+      const auto series = xml::Child(group, "ser");
+      const auto data = axis == roles.x ? xml::Child(series, "xVal") : FindValues(series);
       const std::string format = schema::Val(group, "grouping") == "percentStacked"
                                      ? "0%"
                                      : xml::Text(xml::Child(data, "numRef", "numCache", "formatCode"));

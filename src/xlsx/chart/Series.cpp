@@ -36,16 +36,16 @@ class SeriesObject final : public excel::Series {
     const auto series = series_.Node();
     const auto reference = [&](std::initializer_list<const char*> elements) {
       for (const char* element : elements) {
-        for (const pugi::xml_node& source : schema::Find(series, element).children()) {
-          if (const auto formula = schema::Find(source, "f")) return xml::Text(formula);
+        for (const pugi::xml_node& source : xml::Child(series, element).children()) {
+          if (const auto formula = xml::Child(source, "f")) return xml::Text(formula);
         }
       }
       return std::string();
     };
     series_.part->CatchUp();
     return "=SERIES(" + reference({"tx"}) + "," + reference({"cat", "xVal"}) + "," +
-           reference({"val", "yVal"}) + "," +
-           std::to_string(xml::ParseInteger(schema::Val(series, "order")).value_or(0) + 1) + ")";
+           reference({"val", "yVal"}) + "," + std::to_string(schema::IntegerVal(series, "order", 0) + 1) +
+           ")";
   }
   void SetName(const Variant& name) override { Set(SeriesData::kName, "Name", name); }
   void SetXValues(const Variant& reference) override { Set(SeriesData::kCategories, "XValues", reference); }
@@ -133,9 +133,7 @@ class Collection final : public excel::SeriesCollection {
     return part_->IsReadable() ? static_cast<std::int32_t>(part_->Series().size()) : 0;
   }
   Ref<excel::Series> Item(std::int32_t index) override {
-    if (index < 1 || index > Count()) {
-      throw MethodFailed("Item", "SeriesCollection");
-    }
+    if (index < 1 || index > Count()) throw MethodFailed("Item", "SeriesCollection");
     return Object(part_->Series()[static_cast<std::size_t>(index) - 1]);
   }
   Ref<excel::Series> NewSeries() override {

@@ -121,7 +121,7 @@ std::string SeriesName(pugi::xml_node series) {
 std::string ShownName(pugi::xml_node series) {
   if (xml::Child(series, "tx")) return SeriesName(series);
   // counted from the first, whatever its place in the file
-  return "Series" + std::to_string(xml::ParseInteger(schema::Val(series, "idx")).value_or(0) + 1);
+  return "Series" + std::to_string(schema::IntegerVal(series, "idx", 0) + 1);
 }
 
 void SetSeriesData(ChartPart& part, pugi::xml_node series, SeriesData which, const Variant& value) {
@@ -153,8 +153,8 @@ void SetSeriesData(ChartPart& part, pugi::xml_node series, SeriesData which, con
 }
 
 pugi::xml_node FindValues(pugi::xml_node series) {
-  const auto values = schema::Find(series, "val");
-  return values ? values : schema::Find(series, "yVal");
+  const auto values = xml::Child(series, "val");
+  return values ? values : xml::Child(series, "yVal");
 }
 
 }  // namespace plotsmith::xlsx

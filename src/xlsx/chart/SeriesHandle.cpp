@@ -8,9 +8,7 @@
 namespace plotsmith::xlsx {
 
 pugi::xml_node SeriesHandle::Node() const {
-  if (!entry->node) {
-    throw Refusal("Method of object 'Series' failed");
-  }
+  if (!entry->node) throw Refusal("Method of object 'Series' failed");
   return entry->node;
 }
 

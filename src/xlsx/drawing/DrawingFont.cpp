@@ -8,6 +8,7 @@
 #include "xlsx/Journal.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/package/HexColor.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
@@ -82,14 +83,14 @@ void DrawingFont::SetFontStyle(const Variant& style) {
   const bool bold = name.find("BOLD") != std::string::npos;
   const bool italic = name.find("ITALIC") != std::string::npos || name.find("OBLIQUE") != std::string::npos;
   Apply("FontStyle", style, [&](pugi::xml_node properties) {
-    xml::SetAttribute(properties, "b", bold ? "1" : "0");
-    xml::SetAttribute(properties, "i", italic ? "1" : "0");
+    schema::SetBooleanAttribute(properties, "b", bold);
+    schema::SetBooleanAttribute(properties, "i", italic);
   });
 }
 
 void DrawingFont::SetColor(const Variant& color) {
   const std::int32_t value = runtime::CLng(color);
-  if (value < 0 || value > 0xFFFFFF) throw CantSet("Color", "Font");
+  if (!IsColor(value)) throw CantSet("Color", "Font");
   Apply("Color", color,
         [&](pugi::xml_node properties) { SetFillColor(SetFill(properties, "solidFill"), value); });
 }
@@ -100,7 +101,7 @@ void DrawingFont::SetBackground(std::int32_t background) {
 
 void DrawingFont::SetBold(bool value) {
   Apply("Bold", value,
-        [&](pugi::xml_node properties) { xml::SetAttribute(properties, "b", value ? "1" : "0"); });
+        [&](pugi::xml_node properties) { schema::SetBooleanAttribute(properties, "b", value); });
 }
 
 }  // namespace plotsmith::xlsx

@@ -131,7 +131,7 @@ void DrawnShape::SetLockAspectRatio(bool value) {
   if (kind.size() < 6) throw OutOfRange();
   kind = kind.substr(3, kind.size() - 5);
   kind[0] = static_cast<char>(kind[0] - 'A' + 'a');
-  xml::SetAttribute(schema::Ensure(properties, kind + "Locks"), "noChangeAspect", value ? "1" : "0");
+  schema::SetBooleanAttribute(schema::Ensure(properties, kind + "Locks"), "noChangeAspect", value);
   MarkChanged();
 }
 

@@ -8,6 +8,7 @@
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/DrawnShape.h"
+#include "xlsx/package/HexColor.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
@@ -25,9 +26,7 @@ enum class Part { kFill, kLine };
 pugi::xml_node PropertiesOf(const DrawnShape& shape, Part part) {
   const pugi::xml_node properties = shape.Properties();
   if (part == Part::kFill) return properties;
-  if (xml::Is(properties, "grpSpPr")) {
-    throw OutOfRange();
-  }
+  if (xml::Is(properties, "grpSpPr")) throw OutOfRange();
   return schema::Ensure(properties, "ln");
 }
 
@@ -45,9 +44,7 @@ class ShapeColor final : public excel::ColorFormat {
                  (back_ ? "BackColor" : "ForeColor");
         },
         "RGB", color);
-    if (color < 0 || color > 0xFFFFFF) {
-      throw OutOfRange();
-    }
+    if (!IsColor(color)) throw OutOfRange();
     const pugi::xml_node properties = PropertiesOf(*shape_, part_);
     const pugi::xml_node fill = FindFill(properties);
     if (xml::Is(fill, "pattFill")) {
@@ -97,9 +94,7 @@ class ShapeLine final : public excel::LineFormat {
   }
   void SetWeight(double points) override {
     shape_->Log().Put([this] { return Path(); }, "Weight", points);
-    if (!(points >= 0 && points <= kMostPoints)) {
-      throw OutOfRange();
-    }
+    if (!(points >= 0 && points <= kMostPoints)) throw OutOfRange();
     xml::SetAttribute(PropertiesOf(*shape_, Part::kLine), "w", std::to_string(Emu(points)));
     shape_->MarkChanged();
   }

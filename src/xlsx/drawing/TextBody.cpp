@@ -102,9 +102,7 @@ pugi::xml_node TextBody::Body() const { return xml::Child(object_, "txBody"); }
 
 pugi::xml_node TextBody::EnsureBody() {
   if (const auto body = Body()) return body;
-  if (!xml::Is(object_, "sp")) {
-    throw OutOfRange();
-  }
+  if (!xml::Is(object_, "sp")) throw OutOfRange();
   // it is the last child, in the drawing's own vocabulary
   const pugi::xml_node body =
       object_.append_child((std::string(xml::Prefix(object_.name())) + "txBody").c_str());
