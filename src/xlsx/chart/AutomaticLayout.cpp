@@ -8,6 +8,7 @@
 
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/ChartCache.h"
+#include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/ChartTextLook.h"
 #include "xlsx/chart/LegendEntries.h"

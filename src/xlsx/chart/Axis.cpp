@@ -5,11 +5,11 @@
 #include <string>
 
 #include "host/excel/Excel.h"
-#include "xlsx/Enumerations.h"
 #include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/AxisLimits.h"
 #include "xlsx/chart/Border.h"
+#include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/GroupAxes.h"

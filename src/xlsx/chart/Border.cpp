@@ -1,8 +1,8 @@
 #include "xlsx/chart/Border.h"
 
 #include "host/excel/Constants.h"
-#include "xlsx/Enumerations.h"
 #include "xlsx/Errors.h"
+#include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/package/HexColor.h"
 #include "xlsx/package/Xml.h"

@@ -9,6 +9,7 @@
 #include "xlsx/chart/Axis.h"
 #include "xlsx/chart/ChartAreas.h"
 #include "xlsx/chart/ChartDrawing.h"
+#include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/ChartTypes.h"

@@ -3,7 +3,7 @@
 #include <pugixml.hpp>
 #include <string_view>
 
-#include "xlsx/Enumerations.h"
+#include "xlsx/chart/ChartTypes.h"
 
 namespace plotsmith::xlsx {
 

@@ -6,14 +6,15 @@
 
 #include "host/excel/Constants.h"
 #include "host/excel/DataLabel.h"
-#include "xlsx/Enumerations.h"
 #include "xlsx/Errors.h"
 #include "xlsx/chart/ChartCache.h"
+#include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/ChartTextLook.h"
 #include "xlsx/chart/ChartTypeRules.h"
 #include "xlsx/chart/SeriesData.h"
 #include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/drawing/ShapeEnumerations.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
@@ -23,17 +24,21 @@ using runtime::Variant;
 
 namespace {
 
-/// What labels of each type show (XlDataLabelsType).
+// XlDataLabelsType, as far as the system doesn't know it.
+constexpr std::int32_t xlDataLabelsShowNone = -4142, xlDataLabelsShowLabel = 4;
+constexpr std::int32_t xlDataLabelsShowLabelAndPercent = 5, xlDataLabelsShowBubbleSizes = 6;
+
+/// What labels of each type show.
 struct LabelType {
   std::int32_t number;
   bool value, percent, category;
 };
 constexpr std::array<LabelType, 5> kLabelTypes = {{
-    {-4142, false, false, false},  // xlDataLabelsShowNone
-    {2, true, false, false},       // xlDataLabelsShowValue
-    {3, false, true, false},       // xlDataLabelsShowPercent
-    {4, false, false, true},       // xlDataLabelsShowLabel
-    {5, false, true, true},        // xlDataLabelsShowLabelAndPercent
+    {xlDataLabelsShowNone, false, false, false},
+    {excel::xlDataLabelsShowValue, true, false, false},
+    {excel::xlDataLabelsShowPercent, false, true, false},
+    {xlDataLabelsShowLabel, false, false, true},
+    {xlDataLabelsShowLabelAndPercent, false, true, true},
 }};
 constexpr std::array<const char*, 6> kShown = {"showLegendKey", "showVal",     "showCatName",
                                                "showSerName",   "showPercent", "showBubbleSize"};
@@ -47,17 +52,17 @@ Variant TypeOfLabels(pugi::xml_node labels) {
     for (const pugi::xml_node& point : xml::Children(labels, "dLbl")) {
       if (ShowsAnything(point)) return TypeOfLabels(point);
     }
-    return excel::xlNone;
+    return xlDataLabelsShowNone;
   }
   const auto shows = [&](const char* what) { return schema::BooleanVal(labels, what, false); };
-  if (shows("showVal")) return 2;
+  if (shows("showVal")) return excel::xlDataLabelsShowValue;
   for (const LabelType& type : kLabelTypes) {
     if (!type.value && type.percent == shows("showPercent") && type.category == shows("showCatName") &&
         (type.percent || type.category)) {
       return type.number;
     }
   }
-  return shows("showBubbleSize") ? Variant(6) : runtime::kNull;
+  return shows("showBubbleSize") ? Variant(xlDataLabelsShowBubbleSizes) : runtime::kNull;
 }
 
 /// The labels of a series and those of single points, which are told everything again.

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "host/excel/Constants.h"
-#include "xlsx/Enumerations.h"
 #include "xlsx/Errors.h"
+#include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/package/HexColor.h"
 #include "xlsx/package/Xml.h"

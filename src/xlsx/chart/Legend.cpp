@@ -3,9 +3,9 @@
 #include <string>
 
 #include "host/excel/Excel.h"
-#include "xlsx/Enumerations.h"
 #include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
+#include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/chart/ChartGeometry.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/ChartText.h"

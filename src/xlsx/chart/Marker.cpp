@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "xlsx/Enumerations.h"
+#include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/HexColor.h"

@@ -6,6 +6,7 @@
 #include <set>
 #include <string>
 
+#include "host/excel/Constants.h"
 #include "xlsx/Errors.h"
 #include "xlsx/chart/ChartTypeRules.h"
 #include "xlsx/chart/ChartTypes.h"
@@ -20,7 +21,6 @@ namespace plotsmith::xlsx {
 
 namespace {
 
-constexpr std::int32_t kClusteredColumns = 51;
 constexpr std::array<std::string_view, 4> kStageElements = {"view3D", "floor", "sideWall", "backWall"};
 
 /// The name under which what belongs to the group's type is laid aside.
@@ -129,7 +129,7 @@ std::vector<pugi::xml_node> SeriesOf(ChartPart& part) {
 }
 
 SeriesRef AddSeries(ChartPart& part) {
-  if (GroupsOf(part).empty()) SetType(part, *FindChartType(kClusteredColumns));
+  if (GroupsOf(part).empty()) SetType(part, *FindChartType(excel::xlColumnClustered));
   auto& all = part.Series();
   std::set<long long> indices, orders;
   for (const SeriesRef& entry : all) {

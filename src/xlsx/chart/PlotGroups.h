@@ -3,8 +3,8 @@
 #include <pugixml.hpp>
 #include <vector>
 
-#include "xlsx/Enumerations.h"
 #include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/ChartTypes.h"
 
 namespace plotsmith::xlsx {
 

@@ -8,5 +8,8 @@ namespace plotsmith::xlsx {
 extern const Enumeration kAutoShapes;
 /// MsoAutoSize, the element of bodyPr that says it.
 extern const Enumeration kAutoSizes;
+/// XlHAlign, ST_TextAlignType, and XlVAlign, ST_TextAnchoringType.
+extern const Enumeration kHorizontalAlignments;
+extern const Enumeration kVerticalAlignments;
 
 }  // namespace plotsmith::xlsx
