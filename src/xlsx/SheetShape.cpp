@@ -45,9 +45,9 @@ void SetPlace(pugi::xml_node marker, const SheetGeometry& geometry, double x, do
   set("row", "rowOff", geometry.rows, y);
 }
 
-class SheetShapes final : public DrawnShapes {
+class SheetShapesObject final : public DrawnShapes {
  public:
-  explicit SheetShapes(Worksheet& sheet) : sheet_(sheet) {}
+  explicit SheetShapesObject(Worksheet& sheet) : sheet_(sheet) {}
 
   std::int32_t Count() override {
     const SheetDrawing* drawing = sheet_.FindDrawing();
@@ -78,9 +78,9 @@ class SheetShapes final : public DrawnShapes {
   Worksheet& sheet_;
 };
 
-class ChartFrame final : public excel::ChartObject {
+class ChartObjectObject final : public excel::ChartObject {
  public:
-  explicit ChartFrame(std::shared_ptr<SheetShape> shape) : shape_(std::move(shape)) {}
+  explicit ChartObjectObject(std::shared_ptr<SheetShape> shape) : shape_(std::move(shape)) {}
   std::string Name() override { return shape_->Name(); }
   Ref<excel::Chart> Chart() override { return shape_->Chart(); }
 
@@ -88,9 +88,9 @@ class ChartFrame final : public excel::ChartObject {
   std::shared_ptr<SheetShape> shape_;
 };
 
-class SheetChartObjects final : public excel::ChartObjects {
+class ChartObjectsObject final : public excel::ChartObjects {
  public:
-  explicit SheetChartObjects(Worksheet& sheet) : sheet_(sheet) {}
+  explicit ChartObjectsObject(Worksheet& sheet) : sheet_(sheet) {}
 
   std::int32_t Count() override {
     const SheetDrawing* drawing = sheet_.FindDrawing();
@@ -104,7 +104,7 @@ class SheetChartObjects final : public excel::ChartObjects {
     if (drawing != nullptr) {
       for (const auto& shape : drawing->Shapes()) {
         if (shape->Type() == excel::msoChart && runtime::EqualsIgnoreCase(shape->Name(), name)) {
-          return std::make_shared<ChartFrame>(shape);
+          return std::make_shared<ChartObjectObject>(shape);
         }
       }
     }
@@ -115,7 +115,7 @@ class SheetChartObjects final : public excel::ChartObjects {
                                  {left, top, width, height});
     const Frame frame{left, top, width, height};
     CheckPlace(frame);
-    return std::make_shared<ChartFrame>(sheet_.EnsureDrawing().AddChart(frame));
+    return std::make_shared<ChartObjectObject>(sheet_.EnsureDrawing().AddChart(frame));
   }
 
  private:
@@ -178,10 +178,10 @@ Ref<excel::Chart> SheetShape::Chart() {
   });
 }
 
-Ref<excel::Shapes> MakeShapes(Worksheet& sheet) { return std::make_shared<SheetShapes>(sheet); }
+Ref<excel::Shapes> MakeShapes(Worksheet& sheet) { return std::make_shared<SheetShapesObject>(sheet); }
 
 Ref<excel::ChartObjects> MakeChartObjects(Worksheet& sheet) {
-  return std::make_shared<SheetChartObjects>(sheet);
+  return std::make_shared<ChartObjectsObject>(sheet);
 }
 
 }  // namespace plotsmith::xlsx

@@ -10,6 +10,7 @@
 #include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/ChartTextLook.h"
 #include "xlsx/chart/LegendEntries.h"
 #include "xlsx/chart/PlotGroups.h"

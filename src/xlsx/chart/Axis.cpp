@@ -7,12 +7,13 @@
 #include "host/excel/Excel.h"
 #include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
-#include "xlsx/chart/AxisLimits.h"
 #include "xlsx/chart/Border.h"
 #include "xlsx/chart/ChartEnumerations.h"
+#include "xlsx/chart/ChartFont.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/GroupAxes.h"
+#include "xlsx/chart/ScaleOfAxis.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Xml.h"
 
@@ -39,9 +40,9 @@ struct AxisHandle {
   const Journal& Log() const { return part->Book().Journal(); }
 };
 
-class Title final : public excel::AxisTitle {
+class AxisTitleObject final : public excel::AxisTitle {
  public:
-  explicit Title(AxisHandle axis) : axis_(std::move(axis)) {}
+  explicit AxisTitleObject(AxisHandle axis) : axis_(std::move(axis)) {}
 
   std::string Text() override {
     const auto title = Node();
@@ -88,9 +89,9 @@ class Title final : public excel::AxisTitle {
   AxisHandle axis_;
 };
 
-class Ticks final : public excel::TickLabels {
+class TickLabelsObject final : public excel::TickLabels {
  public:
-  explicit Ticks(AxisHandle axis) : axis_(std::move(axis)) {}
+  explicit TickLabelsObject(AxisHandle axis) : axis_(std::move(axis)) {}
 
   bool NumberFormatLinked() override {
     const auto format = xml::Child(axis_.Node(), "numFmt");
@@ -128,9 +129,9 @@ class AxisObject final : public excel::Axis {
   }
   Ref<excel::AxisTitle> AxisTitle() override {
     if (!HasTitle()) throw CantGet("AxisTitle", "Axis");
-    return std::make_shared<Title>(axis_);
+    return std::make_shared<AxisTitleObject>(axis_);
   }
-  Ref<excel::TickLabels> TickLabels() override { return std::make_shared<Ticks>(axis_); }
+  Ref<excel::TickLabels> TickLabels() override { return std::make_shared<TickLabelsObject>(axis_); }
   void SetTickLabelPosition(std::int32_t position) override {
     Log("TickLabelPosition", position);
     SetVal(axis_.Node(), "tickLblPos", kTickLabelPositions.Token(position), "TickLabelPosition");

@@ -52,9 +52,9 @@ pugi::xml_node EnsureTitle(ChartPart& part) {
   return title;
 }
 
-class Title final : public excel::ChartTitle {
+class ChartTitleObject final : public excel::ChartTitle {
  public:
-  explicit Title(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
+  explicit ChartTitleObject(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
 
   std::string Text() override { return ShownTitle(*part_).value_or(std::string()); }
   void SetText(std::string_view text) override {
@@ -67,9 +67,10 @@ class Title final : public excel::ChartTitle {
   std::shared_ptr<ChartPart> part_;
 };
 
-class Group final : public excel::ChartGroup {
+class ChartGroupObject final : public excel::ChartGroup {
  public:
-  Group(std::shared_ptr<ChartPart> part, std::int32_t index) : part_(std::move(part)), index_(index) {}
+  ChartGroupObject(std::shared_ptr<ChartPart> part, std::int32_t index)
+      : part_(std::move(part)), index_(index) {}
 
   void SetGapWidth(std::int32_t percent) override {
     part_->Book().Journal().Put([this] { return "Chart.ChartGroups(" + std::to_string(index_) + ")"; },
@@ -125,7 +126,7 @@ void Chart::SetHasTitle(bool value) {
 
 Ref<excel::ChartTitle> Chart::ChartTitle() {
   if (!ShownTitle(*part_)) throw CantGet("ChartTitle", "Chart");
-  return std::make_shared<Title>(part_);
+  return std::make_shared<ChartTitleObject>(part_);
 }
 
 bool Chart::HasLegend() { return static_cast<bool>(xml::Child(part_->Chart(), "legend")); }
@@ -173,7 +174,7 @@ Ref<excel::ChartGroup> Chart::ChartGroups(std::int32_t index) {
   if (index < 1 || index > static_cast<std::int32_t>(groups.size())) {
     throw MethodFailed("ChartGroups", "_Chart");
   }
-  return std::make_shared<Group>(part_, index);
+  return std::make_shared<ChartGroupObject>(part_, index);
 }
 
 Ref<excel::ChartArea> Chart::ChartArea() { return MakeChartArea(part_, frame_); }

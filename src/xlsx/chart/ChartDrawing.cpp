@@ -33,9 +33,9 @@ std::string ShapePrefix(pugi::xml_node root, const Namespaces& names) {
   return xml::EnsurePrefix(root, names.chartDrawing, "cdr");
 }
 
-class OnChart final : public DrawnShapes {
+class ChartShapesObject final : public DrawnShapes {
  public:
-  OnChart(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame)
+  ChartShapesObject(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame)
       : part_(std::move(part)), frame_(std::move(frame)) {}
 
   std::int32_t Count() override { return static_cast<std::int32_t>(Drawing().Shapes().size()); }
@@ -194,7 +194,7 @@ void ChartDrawing::Write() {
 }
 
 excel::Ref<excel::Shapes> MakeChartShapes(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame) {
-  return std::make_shared<OnChart>(std::move(part), std::move(frame));
+  return std::make_shared<ChartShapesObject>(std::move(part), std::move(frame));
 }
 
 }  // namespace plotsmith::xlsx

@@ -5,6 +5,7 @@
 #include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/ChartDrawing.h"
+#include "xlsx/chart/GroupAxes.h"
 #include "xlsx/chart/PlotGroups.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Namespaces.h"
@@ -121,7 +122,7 @@ void ChartPart::Follow() {
   walker.followed = followed_;
   document_->traverse(walker);
   changed_ |= walker.changed;
-  attic_.traverse(walker);
+  laidAside_.traverse(walker);
   followed_ = mark;
 }
 
@@ -136,13 +137,15 @@ void ChartPart::Write() {
   changed_ = false;
 }
 
-pugi::xml_node ChartPart::LaidAside(const std::string& state) const { return attic_.child(state.c_str()); }
+pugi::xml_node ChartPart::LaidAside(const std::string& state) const {
+  return laidAside_.child(state.c_str());
+}
 
 pugi::xml_node ChartPart::LayAside(const std::string& state) {
   Forget(state);
-  return attic_.append_child(state.c_str());
+  return laidAside_.append_child(state.c_str());
 }
 
-void ChartPart::Forget(const std::string& state) { attic_.remove_child(state.c_str()); }
+void ChartPart::Forget(const std::string& state) { laidAside_.remove_child(state.c_str()); }
 
 }  // namespace plotsmith::xlsx

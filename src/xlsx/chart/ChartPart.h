@@ -75,7 +75,7 @@ class ChartPart {
   std::optional<xlsx::Theme> ownTheme_;
   bool themeKnown_ = false;
   std::unique_ptr<ChartDrawing> drawing_;
-  pugi::xml_document attic_;
+  pugi::xml_document laidAside_;
   std::optional<std::vector<SeriesRef>> series_;
   bool changed_ = false;
   std::size_t followed_ = 0;

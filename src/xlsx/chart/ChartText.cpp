@@ -1,56 +1,20 @@
 #include "xlsx/chart/ChartText.h"
 
-#include "xlsx/Workbook.h"
-#include "xlsx/chart/ChartPart.h"
-#include "xlsx/drawing/DrawingFont.h"
+#include "host/excel/Constants.h"
+#include "xlsx/chart/ChartCache.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/TextBody.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
 
-namespace {
-
-/// The run properties that the element's font consists of, made where they are missing.
-std::vector<pugi::xml_node> RunProperties(pugi::xml_node element) {
-  std::vector<pugi::xml_node> properties;
-  for (const pugi::xml_node& body : TextBodies(element)) {
-    for (const pugi::xml_node& paragraph : xml::Children(body, "p")) {
-      properties.push_back(schema::Ensure(paragraph, "pPr", "defRPr"));
-      bool empty = true;
-      for (const pugi::xml_node& child : paragraph.children()) {
-        if (!xml::Is(child, "r") && !xml::Is(child, "fld")) continue;
-        properties.push_back(schema::Ensure(child, "rPr"));
-        empty = false;
-      }
-      // a text that is yet to come is dressed as the end of the empty line
-      const auto ending = xml::Child(paragraph, "endParaRPr");
-      if (empty && ending && xml::Is(body, "rich")) properties.push_back(ending);
-    }
-  }
-  return properties;
+std::string TitleText(pugi::xml_node title) {
+  const auto tx = xml::Child(title, "tx");
+  if (const auto rich = xml::Child(tx, "rich")) return BodyText(rich);
+  std::string text;
+  for (const auto& [point, line] : CachedTexts(tx)) text += (text.empty() ? "" : " ") + line;
+  return text;
 }
-
-class ChartFont final : public DrawingFont {
- public:
-  ChartFont(ChartPart& part, std::function<std::vector<TextLook>()> looks,
-            std::function<pugi::xml_node()> element, std::string path)
-      : DrawingFont(std::move(path)), part_(part), looks_(std::move(looks)), element_(std::move(element)) {}
-
- private:
-  const Journal& Log() const override { return part_.Book().Journal(); }
-  std::vector<TextLook> Looks() const override { return looks_(); }
-  void ForEachRun(const std::function<void(pugi::xml_node)>& set) override {
-    for (const pugi::xml_node& properties : RunProperties(element_())) set(properties);
-    part_.MarkChanged();
-  }
-
-  ChartPart& part_;
-  std::function<std::vector<TextLook>()> looks_;
-  std::function<pugi::xml_node()> element_;
-};
-
-}  // namespace
 
 void SetTitleText(pugi::xml_node title, std::string_view text) {
   pugi::xml_node tx = schema::Ensure(title, "tx");
@@ -117,11 +81,6 @@ bool SetTextOrientation(pugi::xml_node body, std::int32_t orientation) {
   xml::SetAttribute(properties, "rot", std::to_string(-degrees * 60000));
   xml::SetAttribute(properties, "vert", direction);
   return true;
-}
-
-excel::Ref<excel::Font> MakeFont(ChartPart& part, std::function<std::vector<TextLook>()> looks,
-                                 std::function<pugi::xml_node()> element, std::string journalPath) {
-  return std::make_shared<ChartFont>(part, std::move(looks), std::move(element), std::move(journalPath));
 }
 
 }  // namespace plotsmith::xlsx

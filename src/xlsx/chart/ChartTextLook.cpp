@@ -1,10 +1,8 @@
 #include "xlsx/chart/ChartTextLook.h"
 
-#include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
-#include "xlsx/drawing/TextBody.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
@@ -124,14 +122,6 @@ std::vector<TextLook> LooksOfLabels(ChartPart& part, pugi::xml_node labels, std:
   // where each point has a label of its own, the common look is nobody's
   if (special < points || looks.empty()) looks.push_back(Look(part, {own}, TextRole::kOther));
   return looks;
-}
-
-std::string TitleText(pugi::xml_node title) {
-  const auto tx = xml::Child(title, "tx");
-  if (const auto rich = xml::Child(tx, "rich")) return BodyText(rich);
-  std::string text;
-  for (const auto& [point, line] : CachedTexts(tx)) text += (text.empty() ? "" : " ") + line;
-  return text;
 }
 
 }  // namespace plotsmith::xlsx

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <pugixml.hpp>
-#include <string>
 #include <vector>
 
 #include "xlsx/drawing/DrawingFont.h"
@@ -22,8 +21,5 @@ std::vector<TextLook> LooksOf(ChartPart& part, pugi::xml_node element, TextRole 
 std::vector<TextLook> LooksOfLegend(ChartPart& part, pugi::xml_node legend);
 /// The looks of a series' labels, of which `labels` holds the common properties.
 std::vector<TextLook> LooksOfLabels(ChartPart& part, pugi::xml_node labels, std::size_t points);
-
-/// The text of a title, lines separated by line feeds. Empty for one that leaves its text to Excel.
-std::string TitleText(pugi::xml_node title);
 
 }  // namespace plotsmith::xlsx

@@ -9,6 +9,7 @@
 #include "xlsx/Errors.h"
 #include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartEnumerations.h"
+#include "xlsx/chart/ChartFont.h"
 #include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/ChartTextLook.h"
 #include "xlsx/chart/ChartTypeRules.h"
@@ -104,9 +105,9 @@ void DressRuns(pugi::xml_node label) {
   }
 }
 
-class Label final : public excel::DataLabel {
+class DataLabelObject final : public excel::DataLabel {
  public:
-  Label(SeriesHandle series, std::int32_t index) : series_(std::move(series)), index_(index) {}
+  DataLabelObject(SeriesHandle series, std::int32_t index) : series_(std::move(series)), index_(index) {}
 
   void SetText(std::string_view text) override {
     series_.Log().Put([this] { return series_.Path() + ".DataLabels(" + std::to_string(index_) + ")"; },
@@ -125,9 +126,9 @@ class Label final : public excel::DataLabel {
   std::int32_t index_;
 };
 
-class Labels final : public excel::DataLabels {
+class DataLabelsObject final : public excel::DataLabels {
  public:
-  explicit Labels(SeriesHandle series) : series_(std::move(series)) {}
+  explicit DataLabelsObject(SeriesHandle series) : series_(std::move(series)) {}
 
   Ref<excel::Font> Font() override {
     return MakeFont(
@@ -181,7 +182,7 @@ class Labels final : public excel::DataLabels {
   std::int32_t Count() override { return static_cast<std::int32_t>(PointCount(FindValues(series_.Node()))); }
   Ref<excel::DataLabel> Item(std::int32_t index) override {
     if (index < 1 || index > Count()) throw MethodFailed("Item", "DataLabels");
-    return std::make_shared<Label>(series_, index);
+    return std::make_shared<DataLabelObject>(series_, index);
   }
 
  private:
@@ -201,7 +202,7 @@ class Labels final : public excel::DataLabels {
 }  // namespace
 
 Ref<excel::DataLabels> MakeDataLabels(SeriesHandle series) {
-  return std::make_shared<Labels>(std::move(series));
+  return std::make_shared<DataLabelsObject>(std::move(series));
 }
 
 pugi::xml_node FindLabels(pugi::xml_node series) {

@@ -6,6 +6,7 @@
 
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/PlotGroups.h"
+#include "xlsx/chart/SeriesData.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Xml.h"
 
@@ -205,6 +206,23 @@ void ArrangeAxes(ChartPart& part, pugi::xml_node group, const std::vector<pugi::
 void ShareAxes(pugi::xml_node group, pugi::xml_node other) {
   schema::Remove(group, "axId");
   for (const pugi::xml_node& axis : AxesOf(other)) Link(group, AxisId(axis));
+}
+
+void UpdateLinkedFormats(ChartPart& part) {
+  for (const pugi::xml_node& group : GroupsOf(part)) {
+    const auto axes = AxesOf(group);
+    const AxisRoles roles = RolesOf(axes);
+    for (const pugi::xml_node& axis : axes) {
+      const auto linked = xml::Is(axis, "valAx") ? xml::Child(axis, "numFmt") : pugi::xml_node();
+      if (!linked || !xml::BooleanAttribute(linked, "sourceLinked", false)) continue;
+      const auto series = xml::Child(group, "ser");
+      const auto data = axis == roles.x ? xml::Child(series, "xVal") : FindValues(series);
+      const std::string format = schema::Val(group, "grouping") == "percentStacked"
+                                     ? "0%"
+                                     : xml::Text(xml::Child(data, "numRef", "numCache", "formatCode"));
+      if (!format.empty()) xml::SetAttribute(linked, "formatCode", format);
+    }
+  }
 }
 
 }  // namespace plotsmith::xlsx

@@ -35,4 +35,8 @@ std::string_view CrossBetween(std::string_view groupElement);
 /// Hangs a group on the axes of another.
 void ShareAxes(pugi::xml_node group, pugi::xml_node other);
 
+/// An axis whose labels take the number format of the data also holds it, for readers that don't compute it:
+/// the first series', or percent where the values are shares. Brings that up to date.
+void UpdateLinkedFormats(ChartPart& part);
+
 }  // namespace plotsmith::xlsx

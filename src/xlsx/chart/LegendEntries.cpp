@@ -49,9 +49,9 @@ std::vector<std::size_t> EntriesLeft(ChartPart& part) {
   return left;
 }
 
-class Entry final : public excel::LegendEntry {
+class LegendEntryObject final : public excel::LegendEntry {
  public:
-  Entry(std::shared_ptr<ChartPart> part, std::size_t number, std::int32_t place)
+  LegendEntryObject(std::shared_ptr<ChartPart> part, std::size_t number, std::int32_t place)
       : part_(std::move(part)), number_(number), place_(place) {}
 
   void Delete() override {
@@ -72,9 +72,9 @@ class Entry final : public excel::LegendEntry {
   std::int32_t place_;
 };
 
-class Entries final : public excel::LegendEntries {
+class LegendEntriesObject final : public excel::LegendEntries {
  public:
-  explicit Entries(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
+  explicit LegendEntriesObject(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
 
   std::int32_t Count() override { return static_cast<std::int32_t>(EntriesLeft(*part_).size()); }
   Ref<excel::LegendEntry> Item(std::int32_t index) override {
@@ -82,7 +82,7 @@ class Entries final : public excel::LegendEntries {
     if (index < 1 || index > static_cast<std::int32_t>(left.size())) {
       throw MethodFailed("Item", "LegendEntries");
     }
-    return std::make_shared<Entry>(part_, left[static_cast<std::size_t>(index) - 1], index);
+    return std::make_shared<LegendEntryObject>(part_, left[static_cast<std::size_t>(index) - 1], index);
   }
 
  private:
@@ -92,7 +92,7 @@ class Entries final : public excel::LegendEntries {
 }  // namespace
 
 Ref<excel::LegendEntries> MakeLegendEntries(std::shared_ptr<ChartPart> part) {
-  return std::make_shared<Entries>(std::move(part));
+  return std::make_shared<LegendEntriesObject>(std::move(part));
 }
 
 std::vector<std::string> LegendTexts(ChartPart& part) {
@@ -125,7 +125,7 @@ void DropLegendEntry(ChartPart& part, std::size_t position) {
   }
 }
 
-void WelcomeLegendEntry(ChartPart& part, std::size_t position) {
+void ClearStaleLegendEntries(ChartPart& part, std::size_t position) {
   pugi::xml_node legend = FindLegend(part);
   if (!part.Series().empty() && ListsPoints(part)) return;
   for (pugi::xml_node& entry : xml::Children(legend, "legendEntry")) {

@@ -22,6 +22,6 @@ std::vector<std::string> LegendTexts(ChartPart& part);
 /// those behind it move up.
 void DropLegendEntry(ChartPart& part, std::size_t position);
 /// A new series at a place has an entry, whatever another one there once had.
-void WelcomeLegendEntry(ChartPart& part, std::size_t position);
+void ClearStaleLegendEntries(ChartPart& part, std::size_t position);
 
 }  // namespace plotsmith::xlsx

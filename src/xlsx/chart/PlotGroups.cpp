@@ -12,7 +12,6 @@
 #include "xlsx/chart/ChartTypes.h"
 #include "xlsx/chart/GroupAxes.h"
 #include "xlsx/chart/LegendEntries.h"
-#include "xlsx/chart/SeriesData.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/FreeNumber.h"
 #include "xlsx/package/Xml.h"
@@ -21,7 +20,7 @@ namespace plotsmith::xlsx {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> kStageElements = {"view3D", "floor", "sideWall", "backWall"};
+constexpr std::array<std::string_view, 4> k3DViewElements = {"view3D", "floor", "sideWall", "backWall"};
 
 /// The name under which what belongs to the group's type is laid aside.
 std::string StateName(pugi::xml_node group) {
@@ -33,15 +32,15 @@ std::string StateName(const ChartTypeEntry& type) {
   return std::string(type.element) + "-" + std::string(type.direction) + "-" + std::string(type.grouping);
 }
 
-/// Copies of the group without its series, of the stage of a 3-D chart, of the depth axis, and where the
-/// value axis crosses: all that a type has to itself.
+/// Copies of the group without its series, of the view, floor and walls of a 3-D chart, of the depth axis,
+/// and where the value axis crosses: all that a type has to itself.
 void LayTypeAside(ChartPart& part, pugi::xml_node group) {
   pugi::xml_node state = part.LayAside(StateName(group));
   pugi::xml_node kept = state.append_copy(group);
   schema::Remove(kept, "ser");
   schema::Remove(kept, "axId");
-  for (const std::string_view stage : kStageElements) {
-    if (const auto node = xml::Child(part.Chart(), stage)) state.append_copy(node);
+  for (const std::string_view element : k3DViewElements) {
+    if (const auto node = xml::Child(part.Chart(), element)) state.append_copy(node);
   }
   const AxisRoles roles = RolesOf(AxesOf(group));
   if (roles.depth) state.append_copy(roles.depth);
@@ -61,13 +60,13 @@ pugi::xml_node MakeGroup(ChartPart& part, pugi::xml_node old, const ChartTypeEnt
 
 /// View, floor and walls: of the type laid aside, else as they are if they are of the same kind, else Excel's
 /// own.
-void ArrangeStage(pugi::xml_node chart, const ChartTypeEntry& type, pugi::xml_node state, bool sameKind) {
+void Arrange3DView(pugi::xml_node chart, const ChartTypeEntry& type, pugi::xml_node state, bool sameKind) {
   if (!type.Is3D() || state || !sameKind) {
-    for (const std::string_view stage : kStageElements) schema::Remove(chart, stage);
+    for (const std::string_view element : k3DViewElements) schema::Remove(chart, element);
   }
   if (!type.Is3D()) return;
-  for (const std::string_view stage : kStageElements) {
-    if (const auto node = xml::Child(state, stage)) schema::InsertCopy(chart, node);
+  for (const std::string_view element : k3DViewElements) {
+    if (const auto node = xml::Child(state, element)) schema::InsertCopy(chart, node);
   }
   if (state || xml::Child(chart, "view3D")) return;
   pugi::xml_node view = schema::Ensure(chart, "view3D");
@@ -147,7 +146,7 @@ SeriesRef AddSeries(ChartPart& part) {
   } else if (const ChartTypeEntry* ofGroup = TypeOfGroup(group)) {
     FitToGroup(part, series, *ofGroup);
   }
-  WelcomeLegendEntry(part, all.size());
+  ClearStaleLegendEntries(part, all.size());
   all.push_back(std::make_shared<SeriesEntry>(SeriesEntry{series}));
   part.MarkChanged();
   return all.back();
@@ -189,7 +188,7 @@ void SetType(ChartPart& part, const ChartTypeEntry& type) {
   for (const pugi::xml_node& node : series) FitSeries(part, node, type);
   const bool familyChanged = kind.empty() || CrossBetween(kind) != CrossBetween(type.element);
   ArrangeAxes(part, group, axes, type, state, familyChanged);
-  ArrangeStage(part.Chart(), type, state, kind.starts_with("pie") == type.IsPie());
+  Arrange3DView(part.Chart(), type, state, kind.starts_with("pie") == type.IsPie());
   // Excel takes its absence for a gap, where others take it for zero; a pivot has blanks
   if (!xml::Child(part.Chart(), "dispBlanksAs")) schema::SetVal(part.Chart(), "dispBlanksAs", "gap");
 }
@@ -228,23 +227,6 @@ void SetSeriesType(ChartPart& part, pugi::xml_node series, const ChartTypeEntry&
   if (!xml::Child(group, "ser")) {
     LayTypeAside(part, group);
     group.parent().remove_child(group);
-  }
-}
-
-void UpdateLinkedFormats(ChartPart& part) {
-  for (const pugi::xml_node& group : GroupsOf(part)) {
-    const auto axes = AxesOf(group);
-    const AxisRoles roles = RolesOf(axes);
-    for (const pugi::xml_node& axis : axes) {
-      const auto linked = xml::Is(axis, "valAx") ? xml::Child(axis, "numFmt") : pugi::xml_node();
-      if (!linked || !xml::BooleanAttribute(linked, "sourceLinked", false)) continue;
-      const auto series = xml::Child(group, "ser");
-      const auto data = axis == roles.x ? xml::Child(series, "xVal") : FindValues(series);
-      const std::string format = schema::Val(group, "grouping") == "percentStacked"
-                                     ? "0%"
-                                     : xml::Text(xml::Child(data, "numRef", "numCache", "formatCode"));
-      if (!format.empty()) xml::SetAttribute(linked, "formatCode", format);
-    }
   }
 }
 

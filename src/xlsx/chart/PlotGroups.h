@@ -33,8 +33,4 @@ void SetType(ChartPart& part, const ChartTypeEntry& type);
 /// stand beside the others.
 void SetSeriesType(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type);
 
-/// An axis whose labels take the number format of the data also holds it, for readers that don't compute it:
-/// the first series', or percent where the values are shares. Brings that up to date.
-void UpdateLinkedFormats(ChartPart& part);
-
 }  // namespace plotsmith::xlsx

@@ -89,13 +89,15 @@ class SeriesObject final : public excel::Series {
   }
   Ref<excel::Border> Border() override { return MakeBorder(Element()); }
   void SetMarkerForegroundColor(std::int32_t color) override {
-    SetMarker(MarkerPart::kOutline, "MarkerForegroundColor", color);
+    SetMarker(MarkerProperty::kOutline, "MarkerForegroundColor", color);
   }
   void SetMarkerBackgroundColor(std::int32_t color) override {
-    SetMarker(MarkerPart::kFilling, "MarkerBackgroundColor", color);
+    SetMarker(MarkerProperty::kFilling, "MarkerBackgroundColor", color);
   }
-  void SetMarkerStyle(std::int32_t style) override { SetMarker(MarkerPart::kStyle, "MarkerStyle", style); }
-  void SetMarkerSize(std::int32_t points) override { SetMarker(MarkerPart::kSize, "MarkerSize", points); }
+  void SetMarkerStyle(std::int32_t style) override {
+    SetMarker(MarkerProperty::kStyle, "MarkerStyle", style);
+  }
+  void SetMarkerSize(std::int32_t points) override { SetMarker(MarkerProperty::kSize, "MarkerSize", points); }
 
   void Delete() override {
     series_.Log().Call([this] { return series_.Path(); }, "Delete");
@@ -108,7 +110,7 @@ class SeriesObject final : public excel::Series {
     Log(property, value);
     SetSeriesData(*series_.part, series_.Node(), which, value);
   }
-  void SetMarker(MarkerPart which, const char* property, std::int32_t value) {
+  void SetMarker(MarkerProperty which, const char* property, std::int32_t value) {
     Log(property, value);
     if (!xlsx::SetMarker(series_.Node(), which, value)) throw CantSet(property, "Series");
     series_.part->MarkChanged();
@@ -124,9 +126,9 @@ class SeriesObject final : public excel::Series {
   SeriesHandle series_;
 };
 
-class Collection final : public excel::SeriesCollection {
+class SeriesCollectionObject final : public excel::SeriesCollection {
  public:
-  explicit Collection(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
+  explicit SeriesCollectionObject(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
 
   /// None in a chart that can't be read, so that it is no reason to stop for whoever looks at all charts.
   std::int32_t Count() override {
@@ -152,7 +154,7 @@ class Collection final : public excel::SeriesCollection {
 }  // namespace
 
 Ref<excel::SeriesCollection> MakeSeriesCollection(std::shared_ptr<ChartPart> part) {
-  return std::make_shared<Collection>(std::move(part));
+  return std::make_shared<SeriesCollectionObject>(std::move(part));
 }
 
 }  // namespace plotsmith::xlsx

@@ -7,7 +7,7 @@
 #include "xlsx/Worksheet.h"
 #include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartPart.h"
-#include "xlsx/chart/ChartTextLook.h"
+#include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/ChartTypes.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Xml.h"

@@ -8,10 +8,10 @@
 #include "xlsx/Journal.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/drawing/FillAndLine.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
-#include "xlsx/drawing/ShapeFormat.h"
-#include "xlsx/drawing/ShapeText.h"
 #include "xlsx/drawing/TextBody.h"
+#include "xlsx/drawing/TextFrame.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {

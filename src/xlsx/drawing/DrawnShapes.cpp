@@ -25,9 +25,9 @@ std::string NameOf(std::string_view constant) {
   return name;
 }
 
-class Chosen final : public excel::ShapeRange {
+class ShapeRangeObject final : public excel::ShapeRange {
  public:
-  Chosen(std::shared_ptr<DrawnShapes> owner, std::vector<std::shared_ptr<DrawnShape>> shapes)
+  ShapeRangeObject(std::shared_ptr<DrawnShapes> owner, std::vector<std::shared_ptr<DrawnShape>> shapes)
       : owner_(std::move(owner)), shapes_(std::move(shapes)) {}
 
   std::string Name() override { return Only().Name(); }
@@ -112,7 +112,7 @@ Ref<excel::ShapeRange> DrawnShapes::Range(const std::vector<std::string>& names)
     if (!shapes.back()) throw NotFound();
   }
   if (shapes.empty()) throw OutOfRange();
-  return std::make_shared<Chosen>(shared_from_this(), std::move(shapes));
+  return std::make_shared<ShapeRangeObject>(shared_from_this(), std::move(shapes));
 }
 
 }  // namespace plotsmith::xlsx

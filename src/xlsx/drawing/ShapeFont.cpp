@@ -11,9 +11,9 @@ namespace plotsmith::xlsx {
 
 namespace {
 
-class ShapeFont final : public DrawingFont {
+class ShapeFontObject final : public DrawingFont {
  public:
-  ShapeFont(std::shared_ptr<DrawnShape> shape, std::size_t start, std::size_t length, std::string path)
+  ShapeFontObject(std::shared_ptr<DrawnShape> shape, std::size_t start, std::size_t length, std::string path)
       : DrawingFont(std::move(path)), shape_(std::move(shape)), start_(start), length_(length) {}
 
  private:
@@ -49,7 +49,7 @@ class ShapeFont final : public DrawingFont {
 
 excel::Ref<excel::Font> MakeShapeFont(std::shared_ptr<DrawnShape> shape, std::size_t start,
                                       std::size_t length, std::string journalPath) {
-  return std::make_shared<ShapeFont>(std::move(shape), start, length, std::move(journalPath));
+  return std::make_shared<ShapeFontObject>(std::move(shape), start, length, std::move(journalPath));
 }
 
 }  // namespace plotsmith::xlsx

@@ -1,4 +1,4 @@
-#include "xlsx/drawing/ShapeText.h"
+#include "xlsx/drawing/TextFrame.h"
 
 #include <algorithm>
 #include <optional>
@@ -23,9 +23,9 @@ using runtime::RuntimeError;
 
 namespace {
 
-class ShapeCharacters final : public excel::Characters {
+class CharactersObject final : public excel::Characters {
  public:
-  ShapeCharacters(std::shared_ptr<DrawnShape> shape, std::size_t start, std::optional<std::size_t> length)
+  CharactersObject(std::shared_ptr<DrawnShape> shape, std::size_t start, std::optional<std::size_t> length)
       : shape_(std::move(shape)), start_(start), length_(length) {}
 
   void SetText(std::string_view text) override {
@@ -95,13 +95,13 @@ class FrameMembers {
   const char* name_;
 };
 
-class ShapeTextFrame final : public excel::TextFrame {
+class TextFrameObject final : public excel::TextFrame {
  public:
-  explicit ShapeTextFrame(std::shared_ptr<DrawnShape> shape) : frame_(std::move(shape), "TextFrame") {}
+  explicit TextFrameObject(std::shared_ptr<DrawnShape> shape) : frame_(std::move(shape), "TextFrame") {}
 
   Ref<excel::Characters> Characters(std::int32_t start, std::int32_t length) override {
     if (start < 1) throw RuntimeError(runtime::error::kApplication);
-    return std::make_shared<ShapeCharacters>(
+    return std::make_shared<CharactersObject>(
         frame_.Shape(), static_cast<std::size_t>(start),
         length < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(length)));
   }
@@ -128,9 +128,9 @@ class ShapeTextFrame final : public excel::TextFrame {
   FrameMembers frame_;
 };
 
-class ShapeTextFrame2 final : public excel::TextFrame2 {
+class TextFrame2Object final : public excel::TextFrame2 {
  public:
-  explicit ShapeTextFrame2(std::shared_ptr<DrawnShape> shape) : frame_(std::move(shape), "TextFrame2") {}
+  explicit TextFrame2Object(std::shared_ptr<DrawnShape> shape) : frame_(std::move(shape), "TextFrame2") {}
 
   void SetWordWrap(bool value) override {
     frame_.Put("WordWrap", value);
@@ -156,11 +156,11 @@ class ShapeTextFrame2 final : public excel::TextFrame2 {
 }  // namespace
 
 Ref<excel::TextFrame> MakeTextFrame(std::shared_ptr<DrawnShape> shape) {
-  return std::make_shared<ShapeTextFrame>(std::move(shape));
+  return std::make_shared<TextFrameObject>(std::move(shape));
 }
 
 Ref<excel::TextFrame2> MakeTextFrame2(std::shared_ptr<DrawnShape> shape) {
-  return std::make_shared<ShapeTextFrame2>(std::move(shape));
+  return std::make_shared<TextFrame2Object>(std::move(shape));
 }
 
 }  // namespace plotsmith::xlsx

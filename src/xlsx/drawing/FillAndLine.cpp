@@ -1,4 +1,4 @@
-#include "xlsx/drawing/ShapeFormat.h"
+#include "xlsx/drawing/FillAndLine.h"
 
 #include <string>
 
@@ -32,9 +32,9 @@ pugi::xml_node PropertiesOf(const DrawnShape& shape, Part part) {
 
 /// One of the two colours of a filling or an outline. A plain one shows the first only; the second comes to
 /// light in a pattern, and the file has no place for it elsewhere.
-class ShapeColor final : public excel::ColorFormat {
+class ColorFormatObject final : public excel::ColorFormat {
  public:
-  ShapeColor(std::shared_ptr<DrawnShape> shape, Part part, bool back)
+  ColorFormatObject(std::shared_ptr<DrawnShape> shape, Part part, bool back)
       : shape_(std::move(shape)), part_(part), back_(back) {}
 
   void SetRGB(std::int32_t color) override {
@@ -61,23 +61,23 @@ class ShapeColor final : public excel::ColorFormat {
   bool back_;
 };
 
-class ShapeFill final : public excel::FillFormat {
+class FillFormatObject final : public excel::FillFormat {
  public:
-  explicit ShapeFill(std::shared_ptr<DrawnShape> shape) : shape_(std::move(shape)) {}
+  explicit FillFormatObject(std::shared_ptr<DrawnShape> shape) : shape_(std::move(shape)) {}
   Ref<excel::ColorFormat> ForeColor() override {
-    return std::make_shared<ShapeColor>(shape_, Part::kFill, false);
+    return std::make_shared<ColorFormatObject>(shape_, Part::kFill, false);
   }
   Ref<excel::ColorFormat> BackColor() override {
-    return std::make_shared<ShapeColor>(shape_, Part::kFill, true);
+    return std::make_shared<ColorFormatObject>(shape_, Part::kFill, true);
   }
 
  private:
   std::shared_ptr<DrawnShape> shape_;
 };
 
-class ShapeLine final : public excel::LineFormat {
+class LineFormatObject final : public excel::LineFormat {
  public:
-  explicit ShapeLine(std::shared_ptr<DrawnShape> shape) : shape_(std::move(shape)) {}
+  explicit LineFormatObject(std::shared_ptr<DrawnShape> shape) : shape_(std::move(shape)) {}
 
   void SetVisible(bool value) override {
     shape_->Log().Put([this] { return Path(); }, "Visible", value);
@@ -99,10 +99,10 @@ class ShapeLine final : public excel::LineFormat {
     shape_->MarkChanged();
   }
   Ref<excel::ColorFormat> ForeColor() override {
-    return std::make_shared<ShapeColor>(shape_, Part::kLine, false);
+    return std::make_shared<ColorFormatObject>(shape_, Part::kLine, false);
   }
   Ref<excel::ColorFormat> BackColor() override {
-    return std::make_shared<ShapeColor>(shape_, Part::kLine, true);
+    return std::make_shared<ColorFormatObject>(shape_, Part::kLine, true);
   }
 
  private:
@@ -114,11 +114,11 @@ class ShapeLine final : public excel::LineFormat {
 }  // namespace
 
 Ref<excel::FillFormat> MakeFill(std::shared_ptr<DrawnShape> shape) {
-  return std::make_shared<ShapeFill>(std::move(shape));
+  return std::make_shared<FillFormatObject>(std::move(shape));
 }
 
 Ref<excel::LineFormat> MakeLine(std::shared_ptr<DrawnShape> shape) {
-  return std::make_shared<ShapeLine>(std::move(shape));
+  return std::make_shared<LineFormatObject>(std::move(shape));
 }
 
 }  // namespace plotsmith::xlsx
