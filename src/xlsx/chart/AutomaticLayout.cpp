@@ -23,12 +23,14 @@
 namespace plotsmith::xlsx {
 namespace {
 
-constexpr double kTitlePadding = 7.2;  // above and below a title's text together
+// Excel's layout is nowhere written down. These make plain charts come out as Excel draws them, to a few
+// points.
+constexpr double kTitlePadding = 7.2;  // above and below a title's text together: a text box's insets
 constexpr double kTitleShare = 0.8;    // of the chart's width, before a title breaks
 constexpr double kLabelGap = 5;        // between an axis and its labels
-constexpr double kLegendPadding = 8;
-constexpr double kKeyEms = 2.4;  // a legend key with the gaps around it
-constexpr double kLeastShare = 0.1;
+constexpr double kLegendPadding = 8;   // around all entries together
+constexpr double kKeyEms = 2.4;        // a legend key with the gaps around it, which grows with the text
+constexpr double kLeastShare = 0.1;    // of the chart that the plot area keeps, whatever the texts take
 
 /// How an element's text is set, by its beginning.
 TextFace FaceOf(ChartPart& part, pugi::xml_node element, TextRole role) {

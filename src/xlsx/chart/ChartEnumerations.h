@@ -2,6 +2,7 @@
 
 #include "xlsx/Enumerations.h"
 
+/// Enumerations of Excel's object model that only charts have, and how the file says them.
 namespace plotsmith::xlsx {
 
 /// XlLegendPosition, ST_LegendPos.

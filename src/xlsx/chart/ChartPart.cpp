@@ -38,7 +38,7 @@ pugi::xml_node ChartPart::Space() {
 }
 
 void ChartPart::Load() {
-  if (document_ || unreadable_) return;
+  if (document_ || unreadable_) return;  // what can't be read isn't tried again at each use
   auto document = std::make_unique<pugi::xml_document>();
   try {
     if (part_.empty()) throw PackageError("the chart's part is missing");
@@ -127,7 +127,7 @@ void ChartPart::Follow() {
 }
 
 void ChartPart::Write() {
-  if (!book_.Shifts().None()) Load();
+  if (!book_.Shifts().None()) Load();  // rows have moved under charts that nobody has asked for
   if (!document_) return;
   Follow();
   if (drawing_) drawing_->Write();

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+/// The texts of a chart that are its own: titles, and labels that somebody wrote.
 namespace plotsmith::xlsx {
 
 /// The text of a title, lines separated by line feeds. Empty for one that leaves its text to Excel.

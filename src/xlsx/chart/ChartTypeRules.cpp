@@ -125,7 +125,7 @@ void RemoveMisfits(ChartPart& part, pugi::xml_node series) {
 }
 
 void FitToGroup(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type) {
-  // each that Excel or this host wrote as a line says whether it is smooth
+  // only lines have it, and each that Excel or this host wrote does
   const bool wasLine = static_cast<bool>(xml::Child(series, "smooth"));
   RemoveMisfits(part, series);
   if (type.HasXValues()) {

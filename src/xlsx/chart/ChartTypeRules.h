@@ -5,11 +5,10 @@
 
 #include "xlsx/chart/ChartTypes.h"
 
+/// What a chart type asks of a group and of its series, and what it doesn't allow them.
 namespace plotsmith::xlsx {
 
 class ChartPart;
-
-/// What a chart type asks of a group and of its series, and what it doesn't allow them.
 
 /// Whether labels in the group may stand at a position (ST_DLblPos). A file that says anything else is one
 /// that Excel refuses.

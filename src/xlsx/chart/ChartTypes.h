@@ -5,6 +5,8 @@
 #include <span>
 #include <string_view>
 
+/// Excel's chart types (XlChartType): how the file builds those that the host draws, and which one a chart of
+/// any program is.
 namespace plotsmith::xlsx {
 
 class ChartPart;
@@ -43,12 +45,11 @@ extern const std::span<const ChartTypeEntry> kChartTypes;
 /// Null for a type that the host doesn't draw.
 const ChartTypeEntry* FindChartType(std::int32_t number);
 
-/// Which of Excel's chart types (XlChartType) a chart of any program is; xlCombination where it is none, or
-/// mixes several.
-
-/// Of a series. A line of which only the markers are seen is none of the types.
+/// The type of a series; xlCombination where it is none of Excel's. A line of which only the markers are seen
+/// is none.
 std::int32_t TypeOfSeries(pugi::xml_node series);
-/// Of the chart: its series' type if they have one in common. Without a series, that of its first group.
+/// The type that the chart's series have in common, else xlCombination. Without a series, that of its first
+/// group.
 std::int32_t TypeOfChart(ChartPart& part);
 
 /// A type of the group's kind and direction; null for a kind that the host doesn't draw. What of that kind

@@ -44,7 +44,7 @@ std::string FreeAxisId(pugi::xml_node plotArea, const std::string& wanted = {}) 
     if (schema::IsAxis(axis)) taken.insert(AxisId(axis));
   }
   if (!wanted.empty() && !taken.contains(wanted)) return wanted;
-  long long id = 111111111;
+  long long id = 111111111;  // any would do; Excel's have nine digits
   while (taken.contains(std::to_string(id))) ++id;
   return std::to_string(id);
 }

@@ -39,8 +39,8 @@ std::int32_t NearestIndex(const Styles& styles, std::int32_t color) {
 }
 
 /// The filling as Excel's older object model sees it: a colour, and a pattern with a colour of its own.
-/// What is read from an automatic filling and set on another in any order leaves that with the colour that
-/// was set last.
+/// Fillings are copied property by property: in whatever order that sets an automatic one's on another, the
+/// colour that was set last is seen.
 class InteriorObject final : public excel::Interior {
  public:
   InteriorObject(FormattedElement element, std::function<std::int32_t()> automatic)

@@ -18,10 +18,10 @@ excel::Ref<excel::LegendEntries> MakeLegendEntries(std::shared_ptr<ChartPart> pa
 /// What the entries that are left say, from the first.
 std::vector<std::string> LegendTexts(ChartPart& part);
 
-/// Keeps the numbers right. Before the series at a place, from 0, is deleted: its entry goes with it, and
-/// those behind it move up.
+/// Entries go by the places of their series, so whoever adds or deletes a series says so here. Before the one
+/// at a place, from 0, is deleted: its entry goes with it, and those behind it move up.
 void DropLegendEntry(ChartPart& part, std::size_t position);
-/// A new series at a place has an entry, whatever another one there once had.
+/// Before a series is added behind the last: what the file still says of an entry there was another series'.
 void ClearStaleLegendEntries(ChartPart& part, std::size_t position);
 
 }  // namespace plotsmith::xlsx

@@ -6,11 +6,10 @@
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/ChartTypes.h"
 
+/// The plot groups of a chart and their series.
 namespace plotsmith::xlsx {
 
-/// The plot groups of a chart and their series.
-
-/// In the order of the part.
+/// All groups, in the order of the part.
 std::vector<pugi::xml_node> GroupsOf(ChartPart& part);
 /// Those that have a series, in the order in which they are drawn: areas, columns, lines, points.
 std::vector<pugi::xml_node> DrawnGroups(ChartPart& part);

@@ -2,6 +2,7 @@
 
 #include "xlsx/Enumerations.h"
 
+/// Enumerations of Excel's object model that shapes have, and how the file says them.
 namespace plotsmith::xlsx {
 
 /// MsoAutoShapeType, ST_ShapeType.

@@ -12,6 +12,8 @@
 namespace plotsmith::xlsx {
 namespace {
 
+// Points, of a shape's text that says nothing: that of the workbook's usual font. Charts have a size of their
+// own.
 constexpr double kUsualSize = 11;
 
 bool IsRun(pugi::xml_node node) { return xml::Is(node, "r") || xml::Is(node, "fld"); }
