@@ -92,12 +92,11 @@ Frame ChartDrawing::Size() const { return ChartSize(frame_); }
 std::shared_ptr<ChartShape> ChartDrawing::AddAnchor(const Frame& frame, const std::string& object) {
   const pugi::xml_node root = xml::Root(document_);
   const Namespaces& names = NamesOf(chart_);
-  const pugi::xml_node anchor =
-      AppendTemplate(root,
-                     "<@relSizeAnchor><@from><@x>0</@x><@y>0</@y></@from><@to><@x>0</"
-                     "@x><@y>0</@y></@to>" +
-                         object + "</@relSizeAnchor>",
-                     ShapePrefix(root, names), xml::EnsurePrefix(root, names.drawing, "a"));
+  const std::string corner = "<@x>0</@x><@y>0</@y>";
+  const pugi::xml_node anchor = AppendTemplate(
+      root,
+      "<@relSizeAnchor><@from>" + corner + "</@from><@to>" + corner + "</@to>" + object + "</@relSizeAnchor>",
+      ShapePrefix(root, names), xml::EnsurePrefix(root, names.drawing, "a"));
   auto shape = std::make_shared<ChartShape>(*this, anchor, ObjectOf(anchor));
   shape->Place(frame);
   return shapes_.emplace_back(std::move(shape));
