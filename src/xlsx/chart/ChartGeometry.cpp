@@ -1,8 +1,6 @@
 #include "xlsx/chart/ChartGeometry.h"
 
 #include <algorithm>
-#include <optional>
-#include <string>
 
 #include "xlsx/Errors.h"
 #include "xlsx/SheetShape.h"

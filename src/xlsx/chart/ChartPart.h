@@ -2,12 +2,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <optional>
 #include <pugixml.hpp>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "xlsx/drawing/Theme.h"

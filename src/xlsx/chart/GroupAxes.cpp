@@ -1,6 +1,5 @@
 #include "xlsx/chart/GroupAxes.h"
 
-#include <algorithm>
 #include <set>
 #include <string>
 

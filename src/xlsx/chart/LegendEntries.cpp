@@ -1,5 +1,6 @@
 #include "xlsx/chart/LegendEntries.h"
 
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -43,7 +44,8 @@ std::vector<std::size_t> EntriesLeft(ChartPart& part) {
     if (schema::BooleanVal(entry, "delete", false)) deleted.insert(schema::NumberOf(entry));
   }
   std::vector<std::size_t> left;
-  for (std::size_t i = 0; i < AllEntries(part); ++i) {
+  const std::size_t all = AllEntries(part);
+  for (std::size_t i = 0; i < all; ++i) {
     if (!deleted.contains(static_cast<long long>(i))) left.push_back(i);
   }
   return left;

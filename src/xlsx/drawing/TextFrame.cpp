@@ -5,7 +5,6 @@
 #include <string>
 
 #include "host/excel/Characters.h"
-#include "host/excel/Constants.h"
 #include "runtime/Strings.h"
 #include "xlsx/Errors.h"
 #include "xlsx/Journal.h"
