@@ -183,6 +183,7 @@ Ref<excel::Sheets> Workbook::Sheets() { return MakeSheets(*this); }
 Ref<excel::Worksheets> Workbook::Worksheets() { return MakeWorksheets(*this); }
 
 Ref<excel::Names> Workbook::Names() {
+  ShiftNames();
   if (!nameObjects_) nameObjects_ = MakeNames(*this);
   return nameObjects_;
 }
@@ -369,13 +370,14 @@ bool Workbook::Changed() const {
 }
 
 void Workbook::ShiftNames() {
-  if (shifts_.None()) return;
+  if (!shifts_.AnyBehind(namesFollowed_)) return;
   const auto nodes = xml::Children(xml::Child(Root(), "definedNames"), "definedName");
   for (std::size_t i = 0; i < names_.size() && i < nodes.size(); ++i) {
     const auto shifted = shifts_.Follow(names_[i].definition, "", namesFollowed_);
     if (!shifted) continue;
     names_[i].definition = *shifted;
     xml::SetText(nodes[i], *shifted);
+    nameObjects_ = nullptr;
     changed_ = true;
   }
   namesFollowed_ = shifts_.Mark();
@@ -419,10 +421,11 @@ void Workbook::Save(const std::string& path) {
   for (const auto& sheet : sheets_) {
     if (sheet->worksheet) sheet->worksheet->Write();
   }
-  if (!shifts_.None()) {
+  if (shifts_.AnyBehind(sheetsFollowed_)) {
     for (const auto& sheet : sheets_) {
-      if (sheet->worksheet) sheet->worksheet->FollowShifts();
+      if (sheet->worksheet) sheet->worksheet->FollowShifts(sheetsFollowed_);
     }
+    sheetsFollowed_ = shifts_.Mark();
   }
   WriteCharts();
   ShiftNames();

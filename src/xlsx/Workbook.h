@@ -138,7 +138,8 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   std::map<std::string, std::shared_ptr<ChartPart>, std::less<>> charts_;  ///< those in use, by part
   std::optional<xlsx::Theme> theme_;
   RowShifts shifts_;
-  std::size_t namesFollowed_ = 0;
+  std::size_t namesFollowed_ = 0;   ///< of the shifts
+  std::size_t sheetsFollowed_ = 0;  ///< likewise, by the formulas of all sheets
   std::optional<std::string> damage_;
 };
 

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "runtime/Ascii.h"
 #include "runtime/Strings.h"
 #include "xlsx/Limits.h"
 #include "xlsx/package/AtomicFile.h"
 #include "xlsx/package/MemoryStream.h"
+#include "xlsx/package/Namespaces.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/package/Xml.h"
 
@@ -22,9 +24,7 @@ constexpr std::string_view kRelationshipsType = "application/vnd.openxmlformats-
 
 std::string Folded(std::string_view name) {
   std::string key(name);
-  for (char& c : key) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
+  for (char& c : key) c = ascii::Lower(c);
   return key;
 }
 
@@ -90,11 +90,10 @@ struct Package::Part {
 };
 
 Package::Package() : contentTypes_(std::make_unique<pugi::xml_document>()) {
-  xml::Parse(*contentTypes_, R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?><Types xmlns=")" +
-                                 std::string(kContentTypesAddress) +
-                                 R"("><Default Extension="rels" ContentType=")" +
-                                 std::string(kRelationshipsType) +
-                                 R"("/><Default Extension="xml" ContentType="application/xml"/></Types>)");
+  xml::Parse(*contentTypes_,
+             std::string(kXmlDeclaration) + R"(<Types xmlns=")" + std::string(kContentTypesAddress) +
+                 R"("><Default Extension="rels" ContentType=")" + std::string(kRelationshipsType) +
+                 R"("/><Default Extension="xml" ContentType="application/xml"/></Types>)");
   Put(kContentTypes, "");
   contentTypesChanged_ = true;
 }
@@ -257,8 +256,16 @@ void Package::Remove(std::string_view name, std::string_view source) {
     if (PartNameOf(type) == key) types.remove_child(type);
   }
   contentTypesChanged_ = changed_ = true;
-  byName_.erase(key);
-  std::erase_if(parts_, [&](const auto& other) { return other.get() == part; });
+  // a part that gets the name later has links of its own
+  const std::string links = RelationshipsPart(part->name);
+  if (Has(links)) Forget(Get(links));
+  relationships_.erase(Folded(links));
+  Forget(*part);
+}
+
+void Package::Forget(const Part& part) {
+  byName_.erase(Folded(part.name));
+  std::erase_if(parts_, [&](const auto& other) { return other.get() == &part; });
 }
 
 std::string Package::FreeName(std::string_view prefix, std::string_view suffix) const {
@@ -311,7 +318,7 @@ std::string Package::AddRelationship(std::string_view part, std::string_view typ
   if (Has(rels)) {
     xml::Parse(document, Read(rels));
   } else {
-    xml::Parse(document, R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?><Relationships xmlns=")" +
+    xml::Parse(document, std::string(kXmlDeclaration) + R"(<Relationships xmlns=")" +
                              std::string(kRelationshipsAddress) + R"("/>)");
   }
   pugi::xml_node root = xml::Root(document);

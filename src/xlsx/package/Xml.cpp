@@ -143,6 +143,15 @@ struct QuoteWalker : pugi::xml_tree_walker {
   }
 };
 
+/// Without the space around it, and without a plus sign.
+std::string_view NumberIn(std::string_view text) {
+  const auto first = text.find_first_not_of(" \t\r\n");
+  if (first == std::string_view::npos) return {};
+  text = text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
+  if (text.starts_with('+')) text.remove_prefix(1);
+  return text;
+}
+
 }  // namespace
 
 bool NeedsConversion(std::string_view start) { return EncodingOf(start) != Encoding::kUtf8; }
@@ -302,10 +311,7 @@ double NumberAttribute(pugi::xml_node node, const char* name, double fallback) {
 }
 
 bool BooleanAttribute(pugi::xml_node node, const char* name, bool fallback) {
-  const std::string_view value = node.attribute(name).value();
-  if (value == "1" || value == "true" || value == "on") return true;
-  if (value == "0" || value == "false" || value == "off") return false;
-  return fallback;
+  return ParseBoolean(node.attribute(name).value()).value_or(fallback);
 }
 
 void SetAttribute(pugi::xml_node node, const char* name, std::string_view value) {
@@ -369,11 +375,14 @@ std::string Number(double value) {
   return {buffer.data(), end};
 }
 
+std::optional<bool> ParseBoolean(std::string_view text) {
+  if (text == "1" || text == "true" || text == "on") return true;
+  if (text == "0" || text == "false" || text == "off") return false;
+  return std::nullopt;
+}
+
 std::optional<double> ParseDouble(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t\r\n");
-  if (first == std::string_view::npos) return std::nullopt;
-  text = text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
-  if (text.starts_with('+')) text.remove_prefix(1);
+  text = NumberIn(text);
   double value = 0;
   const auto [end, status] = std::from_chars(text.begin(), text.end(), value);
   if (status != std::errc() || end != text.end() || !std::isfinite(value)) return std::nullopt;
@@ -381,6 +390,7 @@ std::optional<double> ParseDouble(std::string_view text) {
 }
 
 std::optional<long long> ParseInteger(std::string_view text) {
+  text = NumberIn(text);
   long long value = 0;
   const auto [end, status] = std::from_chars(text.begin(), text.end(), value);
   if (status != std::errc() || end != text.end()) return std::nullopt;

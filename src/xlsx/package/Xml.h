@@ -56,7 +56,7 @@ std::string Attribute(pugi::xml_node node, const char* name, std::string_view fa
 /// A whole number; `fallback` if the attribute is absent or isn't one.
 long long IntegerAttribute(pugi::xml_node node, const char* name, long long fallback);
 double NumberAttribute(pugi::xml_node node, const char* name, double fallback);
-/// xsd:boolean.
+/// ST_OnOff, and so xsd:boolean; `fallback` if the attribute is absent or is neither.
 bool BooleanAttribute(pugi::xml_node node, const char* name, bool fallback);
 void SetAttribute(pugi::xml_node node, const char* name, std::string_view value);
 /// The value of the attribute that links to a relationship (r:id, whatever the prefix), or empty.
@@ -72,6 +72,8 @@ std::string EnsurePrefix(pugi::xml_node node, std::string_view uri, std::string_
 /// The namespace that the element itself is in.
 std::string NamespaceOf(pugi::xml_node node);
 
+/// "1", "true", "on" and their opposites; nothing for anything else.
+std::optional<bool> ParseBoolean(std::string_view text);
 /// Numbers as XML wants them, shortest form that reads back the same.
 std::string Number(double value);
 std::optional<double> ParseDouble(std::string_view text);
