@@ -317,12 +317,12 @@ SheetDrawing& Worksheet::EnsureDrawing() {
     throw RuntimeError(runtime::error::kApplication, "The drawing can't be read: " + *drawingDamage_ + ".");
   }
   auto& package = book_.Package();
-  const Namespaces& names = book_.IsStrict() ? kStrict : kTransitional;
   const std::string part = package.FreeName(book_.Folder() + "drawings/drawing", ".xml");
   package.Add(part, content_type::kDrawing, EmptyDrawing(book_.IsStrict()));
-  const std::string id = package.AddRelationship(Entry().part, names.RelationshipType("drawing"), part);
+  const std::string id =
+      package.AddRelationship(Entry().part, book_.Vocabulary().RelationshipType("drawing"), part);
   std::string text = xml::ToUtf8(package.Read(Entry().part));
-  InsertDrawingLink(text, names.relationships, id);
+  InsertDrawingLink(text, book_.Vocabulary().relationships, id);
   package.Replace(Entry().part, std::move(text));
   drawing_ = std::make_unique<SheetDrawing>(*this, part);
   return *drawing_;

@@ -235,7 +235,7 @@ void Package::Add(std::string_view part, std::string_view contentType, std::stri
   for (const pugi::xml_node& other : xml::Children(types, "Override")) {
     if (PartNameOf(other) == Folded(part)) type = other;  // a part that was here once left it behind
   }
-  if (!type) type = types.append_child((std::string(xml::Prefix(types.name())) + "Override").c_str());
+  if (!type) type = xml::AppendChild(types, "Override");
   xml::SetAttribute(type, "PartName", PercentEncoded(part));
   xml::SetAttribute(type, "ContentType", contentType);
   contentTypesChanged_ = true;
@@ -331,7 +331,7 @@ std::string Package::AddRelationship(std::string_view part, std::string_view typ
     }
     if (!taken) id = candidate;
   }
-  pugi::xml_node node = root.append_child((std::string(xml::Prefix(root.name())) + "Relationship").c_str());
+  pugi::xml_node node = xml::AppendChild(root, "Relationship");
   xml::SetAttribute(node, "Id", id);
   xml::SetAttribute(node, "Type", typeAddress);
   xml::SetAttribute(node, "Target", RelativeTarget(part, target));

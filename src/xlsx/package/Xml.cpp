@@ -193,7 +193,7 @@ void Parse(pugi::xml_document& document, std::string_view bytes) {
   if (!status || !Root(document)) throw PackageError("its XML is damaged");
   if (dom::NestsDeeperThan(document, limits::kXmlDepth)) throw PackageError("its XML nests too deep");
   for (const pugi::xml_node& node : document.children()) {
-    if (node.type() == pugi::node_doctype) throw PackageError(kDocumentType);
+    if (node.type() == pugi::node_doctype) throw PackageError(kHasDocumentType);
   }
   QuoteWalker walker;
   document.traverse(walker);
@@ -278,6 +278,21 @@ std::vector<pugi::xml_node> Children(pugi::xml_node parent, std::string_view loc
   std::vector<pugi::xml_node> children;
   for (pugi::xml_node child = Child(parent, local); child; child = NextSame(child)) children.push_back(child);
   return children;
+}
+
+pugi::xml_node AppendChild(pugi::xml_node parent, std::string_view local) {
+  return parent.append_child((std::string(Prefix(parent.name())) + std::string(local)).c_str());
+}
+
+pugi::xml_node EnsureInOrder(pugi::xml_node parent, std::string_view local,
+                             std::span<const std::string_view> order) {
+  if (const auto child = Child(parent, local)) return child;
+  pugi::xml_node child = AppendChild(parent, local);
+  auto behind = std::find(order.begin(), order.end(), local);
+  while (behind != order.end() && ++behind != order.end()) {
+    if (const auto follower = Child(parent, *behind)) return parent.insert_move_before(child, follower);
+  }
+  return child;
 }
 
 pugi::xml_node NextSame(pugi::xml_node node) {

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <pugixml.hpp>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -16,7 +17,8 @@
 namespace plotsmith::xlsx::xml {
 
 /// What is said of a part with a document type, which no part may have (ECMA-376-2).
-inline constexpr const char* kDocumentType = "it declares a document type, which no part of a workbook may";
+inline constexpr const char* kHasDocumentType =
+    "it declares a document type, which no part of a workbook may";
 
 /// Parses a part in UTF-8, UTF-16, Latin-1 or Windows-1252. Throws PackageError if it isn't well-formed, or
 /// too deep.
@@ -45,6 +47,11 @@ pugi::xml_node Child(pugi::xml_node parent, std::string_view local, Names... res
   return Child(Child(parent, local), rest...);
 }
 std::vector<pugi::xml_node> Children(pugi::xml_node parent, std::string_view local);
+/// A new last child, with its parent's prefix.
+pugi::xml_node AppendChild(pugi::xml_node parent, std::string_view local);
+/// A child, made where there is none: in front of those that come behind it in the order of the schema.
+pugi::xml_node EnsureInOrder(pugi::xml_node parent, std::string_view local,
+                             std::span<const std::string_view> order);
 /// The next sibling element of the same local name.
 pugi::xml_node NextSame(pugi::xml_node node);
 /// The root element.

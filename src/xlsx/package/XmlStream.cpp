@@ -118,7 +118,7 @@ XmlStream::Tag XmlStream::Next(std::string* text) {
       continue;
     }
     if (startsWith("<!")) {
-      throw PackageError(xml::kDocumentType);
+      throw PackageError(xml::kHasDocumentType);
     }
 
     const char* p = position_ + 1;

@@ -35,6 +35,7 @@ int DigitWidth(const Styles& styles) {
   for (const Known& known : kKnown) {
     if (runtime::EqualsIgnoreCase(name, known.font) && size == known.size) return known.width;
   }
+  // a digit is about half as wide as its font is high
   return std::max(1, static_cast<int>(std::lround(size * 96 / 72 * 0.48)));
 }
 

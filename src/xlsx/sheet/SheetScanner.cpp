@@ -133,7 +133,7 @@ bool SheetScanner::ReadHead() {
       if (!Fill()) Damaged();
     }
     const std::string_view tag(position_ + 1, static_cast<std::size_t>(close - position_ - 1));
-    if (tag.starts_with("!D")) throw PackageError(xml::kDocumentType);
+    if (tag.starts_with("!D")) throw PackageError(xml::kHasDocumentType);
     std::size_t length = 0;
     while (length < tag.size() && !IsSpace(tag[length]) && tag[length] != '/') ++length;
     if (xml::LocalName(tag.substr(0, length)) == "sheetData") {
