@@ -29,7 +29,7 @@ SheetDrawing::~SheetDrawing() = default;
 
 std::shared_ptr<SheetShape> SheetDrawing::AddAnchor(const Frame& frame, const std::string& object) {
   const pugi::xml_node root = xml::Root(document_);
-  const Namespaces& names = sheet_.Book().IsStrict() ? kStrict : kTransitional;
+  const Namespaces& names = sheet_.Book().Vocabulary();
   const std::string corner = "<@col>0</@col><@colOff>0</@colOff><@row>0</@row><@rowOff>0</@rowOff>";
   const pugi::xml_node anchor =
       AppendTemplate(root,
@@ -59,7 +59,7 @@ std::shared_ptr<SheetShape> SheetDrawing::AddAutoShape(std::string_view name, st
 
 std::shared_ptr<SheetShape> SheetDrawing::AddChart(const Frame& frame) {
   Workbook& book = sheet_.Book();
-  const Namespaces& names = book.IsStrict() ? kStrict : kTransitional;
+  const Namespaces& names = book.Vocabulary();
   const std::string chartPart = book.Package().FreeName(book.Folder() + "charts/chart", ".xml");
   book.Package().Add(chartPart, content_type::kChart, EmptyChart(book.IsStrict()));
   const std::string link = book.Package().AddRelationship(part_, names.RelationshipType("chart"), chartPart);

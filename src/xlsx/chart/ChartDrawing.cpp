@@ -24,10 +24,6 @@ std::string EmptyUserShapes(const Namespaces& names) {
          "\"/>";
 }
 
-const Namespaces& NamesOf(const ChartPart& chart) {
-  return chart.Book().IsStrict() ? kStrict : kTransitional;
-}
-
 /// The drawing's own vocabulary, which is another than that of its root.
 std::string ShapePrefix(pugi::xml_node root, const Namespaces& names) {
   return xml::EnsurePrefix(root, names.chartDrawing, "cdr");
@@ -74,7 +70,7 @@ ChartDrawing::ChartDrawing(ChartPart& chart) : chart_(chart) {
   if (link && !link->external && package.Has(link->target)) part_ = link->target;
   try {
     InPart(part_, [&] {
-      xml::Parse(document_, part_.empty() ? EmptyUserShapes(NamesOf(chart)) : package.Read(part_));
+      xml::Parse(document_, part_.empty() ? EmptyUserShapes(chart.Book().Vocabulary()) : package.Read(part_));
       if (!xml::Is(xml::Root(document_), "userShapes")) throw PackageError("it holds no shapes of a chart");
     });
   } catch (const PackageError& e) {
@@ -91,7 +87,7 @@ Frame ChartDrawing::Size() const { return ChartSize(frame_); }
 
 std::shared_ptr<ChartShape> ChartDrawing::AddAnchor(const Frame& frame, const std::string& object) {
   const pugi::xml_node root = xml::Root(document_);
-  const Namespaces& names = NamesOf(chart_);
+  const Namespaces& names = chart_.Book().Vocabulary();
   const std::string corner = "<@x>0</@x><@y>0</@y>";
   const pugi::xml_node anchor = AppendTemplate(
       root,
@@ -178,7 +174,7 @@ void ChartDrawing::Write() {
   if (empty) {
     if (!part_.empty()) RemovePart();
   } else if (part_.empty()) {
-    const Namespaces& names = NamesOf(chart_);
+    const Namespaces& names = chart_.Book().Vocabulary();
     part_ = package.FreeName(chart_.Book().Folder() + "drawings/drawing", ".xml");
     package.Add(part_, content_type::kChartShapes, xml::Serialize(document_));
     const std::string id =

@@ -28,10 +28,6 @@ std::string AttributeOf(const Chain& chain, const char* name) {
   return {};
 }
 
-bool IsOn(const std::string& value, bool fallback) {
-  return value.empty() ? fallback : value == "1" || value == "true" || value == "on";
-}
-
 TextLook Look(ChartPart& part, Chain chain, TextRole role) {
   const auto chart = DefaultsOfBody(xml::Child(part.Space(), "txPr"));
   const auto pointsOf = [](const std::string& hundredths) {
@@ -49,9 +45,9 @@ TextLook Look(ChartPart& part, Chain chain, TextRole role) {
   }
   const bool title = role != TextRole::kOther;
   if (!title) chain.push_back(chart);
-  look.bold = IsOn(AttributeOf(chain, "b"), title);
+  look.bold = xml::ParseBoolean(AttributeOf(chain, "b")).value_or(title);
   if (title) chain.push_back(chart);
-  look.italic = IsOn(AttributeOf(chain, "i"), false);
+  look.italic = xml::ParseBoolean(AttributeOf(chain, "i")).value_or(false);
 
   look.typeface = part.Theme().MinorFont();
   for (const pugi::xml_node& properties : chain) {

@@ -106,8 +106,7 @@ pugi::xml_node TextBody::EnsureBody() {
   if (const auto body = Body()) return body;
   if (!xml::Is(object_, "sp")) throw OutOfRange();
   // it is the last child, in the drawing's own vocabulary
-  const pugi::xml_node body =
-      object_.append_child((std::string(xml::Prefix(object_.name())) + "txBody").c_str());
+  const pugi::xml_node body = xml::AppendChild(object_, "txBody");
   EnsureParagraph(body);
   return body;
 }
