@@ -92,8 +92,14 @@ std::vector<SeriesRef>& ChartPart::Series() {
     const auto order = [](const SeriesRef& entry) { return schema::IntegerVal(entry->node, "order", 0); };
     std::stable_sort(series_->begin(), series_->end(),
                      [&](const SeriesRef& a, const SeriesRef& b) { return order(a) < order(b); });
+    cameEmpty_ = series_->empty();
   }
   return *series_;
+}
+
+bool ChartPart::CameEmpty() {
+  Series();
+  return cameEmpty_;
 }
 
 void ChartPart::CatchUp() {

@@ -39,6 +39,8 @@ class ChartPart {
   pugi::xml_node PlotArea();
   /// All series in plot order. Whoever adds or removes one does so here too.
   std::vector<SeriesRef>& Series();
+  /// Whether the part had no series when it was opened.
+  bool CameEmpty();
 
   /// The theme that the chart's colours and fonts are of: its own override, else the workbook's.
   const xlsx::Theme& Theme();
@@ -75,6 +77,7 @@ class ChartPart {
   std::unique_ptr<ChartDrawing> drawing_;
   pugi::xml_document laidAside_;
   std::optional<std::vector<SeriesRef>> series_;
+  bool cameEmpty_ = false;  ///< known with series_
   bool changed_ = false;
   std::size_t followed_ = 0;
 };

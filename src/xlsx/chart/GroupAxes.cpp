@@ -1,5 +1,6 @@
 #include "xlsx/chart/GroupAxes.h"
 
+#include <algorithm>
 #include <set>
 #include <string>
 
@@ -142,6 +143,19 @@ pugi::xml_node FindAxis(ChartPart& part, bool value) {
 
 pugi::xml_node FindCrossedAxis(pugi::xml_node axis) {
   return AxisOfId(axis.parent(), schema::Val(axis, "crossAx"));
+}
+
+void ShowAxes(ChartPart& part) {
+  std::vector<pugi::xml_node> axes;
+  for (const pugi::xml_node& child : part.PlotArea().children()) {
+    if (schema::IsAxis(child)) axes.push_back(child);
+  }
+  // one that is hidden beside another was meant to be
+  const bool hidden = std::all_of(axes.begin(), axes.end(), [](const pugi::xml_node& axis) {
+    return schema::BooleanVal(axis, "delete", false);
+  });
+  if (!hidden) return;
+  for (const pugi::xml_node& axis : axes) schema::SetBooleanVal(axis, "delete", false);
 }
 
 std::string_view CrossBetween(std::string_view groupElement) {

@@ -31,6 +31,8 @@ pugi::xml_node FindCrossedAxis(pugi::xml_node axis);
 /// for that one.
 void ArrangeAxes(ChartPart& part, pugi::xml_node group, const std::vector<pugi::xml_node>& old,
                  const ChartTypeEntry& type, pugi::xml_node state, bool familyChanged);
+/// A chart without data shows no axes, so that its file has them as hidden. Shows them again, if all are.
+void ShowAxes(ChartPart& part);
 /// Where the value axis of a type of group crosses the other one, unless somebody said otherwise.
 std::string_view CrossBetween(std::string_view groupElement);
 /// Hangs a group on the axes of another.

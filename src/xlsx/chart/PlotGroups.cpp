@@ -147,6 +147,7 @@ SeriesRef AddSeries(ChartPart& part) {
     FitToGroup(part, series, *ofGroup);
   }
   ClearStaleLegendEntries(part, all.size());
+  if (all.empty() && part.CameEmpty()) ShowAxes(part);
   all.push_back(std::make_shared<SeriesEntry>(SeriesEntry{series}));
   part.MarkChanged();
   return all.back();

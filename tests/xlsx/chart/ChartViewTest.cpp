@@ -14,6 +14,7 @@ using excel::Chart;
 using S = std::string;
 
 using test::Between;
+using test::CountOf;
 using test::ExpectError1004;
 
 S Part(const S& chart, const S& behind = "") { return test::ChartPartXml(chart, behind); }
@@ -192,6 +193,24 @@ TEST_F(ChartViewTest, ASeriesShowsItsCells) {
                        "val=\"0\"/><c:cat><c:numRef><c:f>Sheet1!$D$2:$D$3</c:f>"),
             S::npos)
       << "categories without a text are numbers";
+}
+
+TEST_F(ChartViewTest, AnEmptyChartShowsItsAxesWithTheFirstSeries) {
+  const S hidden = runtime::Replace(kAxes, "<c:axPos", "<c:delete val=\"1\"/><c:axPos"),
+          series = "<c:ser><c:idx val=\"0\"/></c:ser>";
+  const auto chart = [&](const S& inGroup, const S& axes) {
+    return Part("<c:plotArea><c:barChart><c:barDir val=\"bar\"/>" + inGroup + axes + "</c:plotArea>");
+  };
+  const auto draw = [](Chart& c) {
+    while (c.SeriesCollection()->Count() > 0) c.SeriesCollection()->Item(1)->Delete();
+    c.SetChartType(57);
+    c.SeriesCollection()->NewSeries();
+    c.SetChartType(51);
+  };
+  const S one = hidden.substr(0, hidden.rfind("<c:delete")) + hidden.substr(hidden.rfind("<c:axPos"));
+  EXPECT_EQ(CountOf(After(chart("", hidden), draw), "<c:delete val=\"1\"/>"), 0u);
+  EXPECT_EQ(CountOf(After(chart("", one), draw), "<c:delete val=\"1\"/>"), 1u) << "somebody's choice";
+  EXPECT_EQ(CountOf(After(chart(series, hidden), draw), "<c:delete val=\"1\"/>"), 2u) << "likewise";
 }
 
 TEST_F(ChartViewTest, ATypeComesBackAsItWas) {
