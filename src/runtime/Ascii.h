@@ -3,8 +3,11 @@
 /// Characters of file formats, which know ASCII alone, whatever the locale.
 namespace plotsmith::ascii {
 
+/// 0 to 9.
 constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+/// A to Z in lower case, all else as it is.
 constexpr char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+/// A to Z, in either case.
 constexpr bool IsLetter(char c) { return Lower(c) >= 'a' && Lower(c) <= 'z'; }
 /// What XML takes for space.
 constexpr bool IsSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
