@@ -7,6 +7,7 @@
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
+#include "controller/ResetSystem.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
 #include "xlsx/Worksheet.h"
@@ -15,13 +16,13 @@ namespace plotsmith::examples {
 
 ExampleBook::ExampleBook()
     : desktop_(std::make_shared<cli::ConsoleDesktop>()), host_(xlsx::Application::Create()) {
-  ResetRunVariables();
+  ResetSystem();
   App = {"", desktop_, desktop_};
   host_->NewWorkbook();
 }
 
 ExampleBook::~ExampleBook() {
-  ResetRunVariables();
+  ResetSystem();
   App = {};
 }
 
@@ -66,7 +67,7 @@ void ExampleBook::Comment(const excel::Ref<excel::Worksheet>& sheet, double righ
 }
 
 void ExampleBook::Finish(const std::string& path) {
-  ResetRunVariables();
+  ResetSystem();
   host_->Book().AllSheets().front()->object->Activate();
   CPlotsmithController().RefreshPlotsmithData(host_, "make_examples", "");
   for (const std::string& message : desktop_->Messages()) std::cerr << path << ": " << message << '\n';

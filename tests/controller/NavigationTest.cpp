@@ -5,6 +5,7 @@
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
 #include "controller/PSController.h"
+#include "controller/ResetSystem.h"
 #include "tests/support/HostTest.h"
 
 namespace plotsmith {
@@ -198,7 +199,7 @@ TEST_F(EntryTest, GuardsSpeakInTheirOrder) {
   }
 
   host_ = xlsx::Application::Create();
-  ResetRunVariables();
+  ResetSystem();
   Refresh();
   EXPECT_EQ(Messages().back(), "Brindle Plotsmith: You must have a workbook open to use the Plotsmith.");
   EXPECT_EQ(Messages().size(), 4u);
@@ -230,7 +231,7 @@ class EditingHost : public excel::Application {
 
 TEST_F(EntryTest, EditModeIsFoundByTheHostsRefusal) {
   Open(SalesBook({}));
-  ResetRunVariables();
+  ResetSystem();
   const auto editing = std::make_shared<EditingHost>(host_);
   CPlotsmithController controller;
   controller.RefreshPlotsmithData(editing, "", "");
@@ -245,7 +246,7 @@ TEST_F(EntryTest, EditModeIsFoundByTheHostsRefusal) {
 
 TEST_F(EntryTest, TheFirstCallersHostAndNameStay) {
   Open(SalesBook({{"VEX_Chart1"}}));
-  ResetRunVariables();
+  ResetSystem();
   const auto first = host_;
   CPlotsmithController controller;
   S table = "Data1";
@@ -259,7 +260,7 @@ TEST_F(EntryTest, TheFirstCallersHostAndNameStay) {
   EXPECT_EQ(sCustomAppName, "");
   EXPECT_EQ(App.HelpFile, "second.chm");
   EXPECT_TRUE(oApplication == excel::Ref<excel::Application>(first));
-  ResetRunVariables();
+  ResetSystem();
   controller.RefreshChartsForTable(second, table);  // no workbook, and no guard that says so
   ASSERT_EQ(Messages().size(), 3u);
   EXPECT_EQ(Messages()[1],
@@ -277,7 +278,7 @@ TEST_F(EntryTest, RenamedColumnsReportUnderTheShorterName) {
   controller.UpdateChartColumnNamesForTable(host_, "Data1", before, after);
   EXPECT_TRUE(Messages().empty());
   EXPECT_NE(Cells("VEX_ChartDefinitions", 2, 1, 2, 1).find("<column name=\"Area\""), S::npos);
-  ResetRunVariables();
+  ResetSystem();
   controller.UpdateChartColumnNamesForTable(nullptr, "Data1", before, after);
   EXPECT_EQ(
       Messages(),

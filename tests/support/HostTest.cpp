@@ -2,11 +2,10 @@
 
 #include <unistd.h>
 
-#include "builder/BuilderVariables.h"
 #include "common/App.h"
-#include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
+#include "controller/ResetSystem.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith::test {
@@ -23,21 +22,17 @@ TempFolder::~TempFolder() {
 }
 
 HostTest::HostTest() : desktop_(std::make_shared<cli::ConsoleDesktop>()) {
-  ResetRunVariables();
-  ResetBuilderVariables();
-  ResetYield();
+  ResetSystem();
   App = {"", desktop_, desktop_};
 }
 
 HostTest::~HostTest() {
-  ResetRunVariables();
-  ResetBuilderVariables();
+  ResetSystem();
   App = {};
 }
 
 void HostTest::Start(const std::string& version) {
-  ResetRunVariables();
-  ResetBuilderVariables();
+  ResetSystem();
   host_ = xlsx::Application::Create(version);
   host_->Journal().SetSink([this](std::string_view line) { journal_.emplace_back(line); });
 }
