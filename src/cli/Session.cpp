@@ -2,12 +2,11 @@
 
 #include <filesystem>
 
-#include "builder/BuilderVariables.h"
 #include "common/App.h"
 #include "common/CommonFunctions.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
-#include "controller/Pages.h"
+#include "controller/ResetSystem.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
 #include "runtime/RuntimeError.h"
@@ -21,14 +20,6 @@ namespace fs = std::filesystem;
 
 CommandError CantRead(const std::string& path, const std::string& reason) {
   return CommandError(exit_code::kFile, "can't read \"" + path + "\": " + reason + ".");
-}
-
-void ResetSystem() {
-  ResetRunVariables();
-  ResetBuilderVariables();
-  ResetYield();
-  oPages = nullptr;
-  runtime::memoryRanOut = false;
 }
 
 /// The file beside a workbook by which another program shows that it has it open, or "".
@@ -69,8 +60,7 @@ Session::Session(std::string path, const GlobalOptions& options, const Streams& 
       desktop_(std::make_shared<ConsoleDesktop>()),
       host_(xlsx::Application::Create(VersionText(options.hostVersion))) {
   ResetSystem();
-  App.Desktop = desktop_;
-  App.Views = desktop_;
+  App = {"", desktop_, desktop_};
   if (options.journal) {
     host_->Journal().SetSink([this](std::string_view line) { streams_.out << line << '\n'; });
   }
@@ -86,7 +76,6 @@ Session::Session(std::string path, const GlobalOptions& options, const Streams& 
 }
 
 Session::~Session() {
-  // the system's references into the host must not outlive it
   ResetSystem();
   App = {};
 }
@@ -103,6 +92,7 @@ void Session::LoadTablesAndCharts() {
 }
 
 void Session::CheckWritable(const std::optional<std::string>& output) const {
+  if (output && output->empty()) throw CommandError(exit_code::kUsage, "-o wants the name of a file.");
   const std::string target = output.value_or(path_);
   const std::string lock = LockOf(fs::absolute(target));
   if (!lock.empty() && !options_.force) {
@@ -143,6 +133,7 @@ int Session::ReportMessages() {
 
 int Session::Save(const std::optional<std::string>& output) {
   CheckDamage();
+  Deliver(streams_);  // while nothing is changed yet
   if (output || Book().Changed()) {
     try {
       Book().Save(output.value_or(path_));

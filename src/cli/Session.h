@@ -42,8 +42,8 @@ class Session {
   int ReportMessages();
 
   std::string path_;
-  const GlobalOptions& options_;
-  const Streams& streams_;
+  GlobalOptions options_;
+  Streams streams_;
   std::shared_ptr<ConsoleDesktop> desktop_;
   std::shared_ptr<xlsx::Application> host_;
   int chartsStarted_ = 0;

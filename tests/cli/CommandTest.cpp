@@ -118,6 +118,23 @@ TEST_F(CommandTest, NothingIsSavedAfterMemoryRanOut) {
   }
 }
 
+TEST_F(CommandTest, NothingIsSavedAfterTheOutputWasLost) {
+  struct Full : std::streambuf {
+    int overflow(int) override { return traits_type::eof(); }
+  } full;
+  const S book = Write(SalesBook({{"VEX_Chart1"}}));
+  const S before = Bytes(book);
+  for (const std::vector<S>& arguments : std::vector<std::vector<S>>{
+           {"refresh", book, "--journal"}, {"cells", book, "Data1!A1"}, {"--version"}}) {
+    std::ostream out(&full);
+    std::istringstream in;
+    std::ostringstream err;
+    EXPECT_EQ(RunCommandLine(arguments, {in, out, err, false}), 3);
+    EXPECT_EQ(err.str(), "plotsmith: the output can't be written.\n");
+  }
+  EXPECT_EQ(Bytes(book), before);
+}
+
 TEST_F(CommandTest, WrongUsageIsTwo) {
   const S book = Write(SalesBook({}));
   for (const std::vector<S>& arguments :
@@ -131,6 +148,8 @@ TEST_F(CommandTest, WrongUsageIsTwo) {
                                    {"format", "0"},
                                    {"format", "0.0.\"", "1"},
                                    {"refresh", book, "--table", "Nowhere"},
+                                   {"refresh", book, "-o", ""},
+                                   {"save", book, "-o", ""},
                                    {"refresh", book, "--host-version", "old"}}) {
     const Result result = Run(arguments);
     EXPECT_EQ(result.code, 2);
@@ -142,12 +161,14 @@ TEST_F(CommandTest, WrongUsageIsTwo) {
 }
 
 TEST_F(CommandTest, AWorkbookThatIsOpenElsewhereIsLeftAlone) {
-  const S book = Write(SalesBook({}));
   for (const char* lock : {".~lock.book.xlsx#", "~$book.xlsx"}) {
+    const S book = Write(SalesBook({{"VEX_Chart1"}}));
     std::ofstream(folder_ / lock) << "somebody";
+    const S before = Bytes(book);
     const Result refused = Run({"refresh", book});
     EXPECT_EQ(refused.code, 3);
     EXPECT_NE(refused.err.find("is open in another program"), S::npos);
+    EXPECT_EQ(Bytes(book), before);
     EXPECT_EQ(Run({"refresh", book, "-o", folder_ / "other.xlsx"}).code, 0) << "it is only read then";
     EXPECT_EQ(Run({"refresh", book, "--force"}).code, 0);
     std::filesystem::remove(folder_ / lock);
@@ -178,6 +199,8 @@ TEST_F(CommandTest, Formats) {
                                    {"format", "--host-version", "11", "-0.0", "-2"},
                                    {"format", "--host-version=11", "-0.0", "-2"},
                                    {"format", "-0.0", "-2", "--force"},
+                                   {"--force", "--host-version", "11", "format", "-0.0", "-2"},
+                                   {"--host-version=11", "format", "-0.0", "-2"},
                                    {"format", "--", "-0.0", "-2"}})
     EXPECT_EQ(Run(arguments).out, "--2.0\n");
   EXPECT_EQ(Run({"format", "--tsv"}, "0.0\t2.25\n@\" x\"\tabc\n0\"\t1\n;;;\t5\r\nGeneral\tTRUE\n").out,
@@ -243,6 +266,14 @@ TEST_F(CommandTest, RenamedColumnsAreCarriedIntoTheCharts) {
   EXPECT_NE(axes.find("<axis type=\"value\" label=\"Region\" sticky=\"yes\"/>"), S::npos) << axes;
 
   const S before = Bytes(book);
+  result = Run({"rename-columns", book, "--table", "Data1", "Amount=Units"});
+  EXPECT_EQ(result.code, 0) << "it is renamed already";
+  result = Run({"rename-columns", book, "--table", "Data1", "Amuont=Money", "label=Text"});
+  EXPECT_EQ(result.code, 1);
+  EXPECT_EQ(result.err,
+            "plotsmith: no chart of the table \"Data1\" has a column \"Amuont\".\n"
+            "plotsmith: no chart of the table \"Data1\" has a column \"label\".\n");
+  EXPECT_EQ(Bytes(book), before);
   for (const auto& [arguments, said] : std::vector<std::pair<std::vector<S>, S>>{
            {{"--table", "Data1", "Region"}, "\"Region\" is no renaming"},
            {{"--table", "Data1", "A=B", "A=C"}, "\"A\" is renamed twice"},
