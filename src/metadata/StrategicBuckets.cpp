@@ -55,7 +55,7 @@ Ref<Dictionary> GetStrategicBuckets(const IXMLDOMDocument2& oTableDoc) {
     for (std::int32_t lRow = lFirst; lRow <= lLast; ++lRow) {
       const std::string sKey = runtime::UCase(GetCellText(*oSheet, lRow, lLeft, sScratch));
       runtime::Variant& vTotal = oBuckets->Item(sKey);
-      vTotal = runtime::CDbl(vTotal) + GetCellDouble(*oSheet, lRow, lLeft + 1);
+      vTotal = runtime::Sum(runtime::CDbl(vTotal), GetCellDouble(*oSheet, lRow, lLeft + 1));
       YieldToHost();
     }
     return oBuckets;

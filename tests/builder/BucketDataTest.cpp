@@ -112,6 +112,15 @@ TEST_F(BucketDataTest, AnItemAloneIsSortedToo) {
   EXPECT_TRUE(Messages().empty());
 }
 
+TEST_F(BucketDataTest, BucketsBeyondAllNumbersAreAnOverflow) {
+  test::PlainBook book = BucketBook(BucketDefinition());
+  for (const int row : {3, 5}) book.Sheet("Buckets").rows[row][1] = 1E+308;
+  Open(book);
+  EXPECT_EQ(Block(BucketDefinition()), "(no map)");
+  ASSERT_FALSE(Messages().empty());
+  EXPECT_EQ(Messages()[0], "Brindle Plotsmith: PSFunctions.GetStrategicBuckets\nOverflow");
+}
+
 TEST_F(BucketDataTest, WhatKeepsAChartFromBeingSorted) {
   Definition definition = BucketDefinition();
   Open(BucketBook(definition));
