@@ -3,6 +3,7 @@
 #include <iostream>
 #include <stdexcept>
 
+#include "builder/ChartComment.h"
 #include "common/App.h"
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
@@ -58,12 +59,11 @@ void ExampleBook::Chart(const excel::Ref<excel::Worksheet>& sheet, double left, 
   SaveChartDefinition(document);
 }
 
-void ExampleBook::Comment(const excel::Ref<excel::Worksheet>& sheet, double right, double top,
-                          const std::string& text) {
-  const auto box =
-      sheet->Shapes()->AddTextbox(excel::msoTextOrientationHorizontal, right - 5, top + 5, 180, 120);
-  box->SetAlternativeText("VEX_Chart" + std::to_string(charts_));
-  box->TextFrame()->Characters()->SetText(text);
+void ExampleBook::Comment(const excel::Ref<excel::Worksheet>& sheet, const std::string& text) {
+  AddCommentBox(sheet->Name(), "VEX_Chart" + std::to_string(charts_))
+      ->TextFrame()
+      ->Characters()
+      ->SetText(text);
 }
 
 void ExampleBook::Finish(const std::string& path) {

@@ -42,7 +42,8 @@ class QuietHost {
     oApplication->SetScreenUpdating(false);
   }
 
-  /// After an error too, and then as far as Enter came.
+  /// After an error too. Calculation is put back if Enter has come to it; the screen follows again unless it
+  /// is known that it didn't.
   void Leave() {
     IgnoreErrors(
         [&] {
@@ -133,6 +134,7 @@ void BuildChart(IXMLDOMElement& oChartElement, bool bCrosshatched) {
   if (!PopulateDataSheetOffi2007(oChartElement)) return;
   if (!SortDataSheet(oChartElement)) return;
   RetrievePersistedProperties(oChartElement);
+  // the fonts that somebody gave this chart would shrink and grow with its frame
   if (!mNewOrCopiedChart) mChart->ChartArea()->SetAutoScaleFont(false);
   if (!DrawFamily(oChartElement)) {
     ShowMessage(std::string("PSChartBuilder.PopulateChart") + kLineBreak + "Unknown chart type");

@@ -90,6 +90,7 @@ bool ValidateSourceData(IXMLDOMElement& oChartElement) {
   });
 }
 
+// Only the name decides, wherever the headings are: a text is as good in the columns of values as a number.
 bool ValidateSourceColumn(IXMLDOMElement& oColumnElement, const IXMLDOMElement& oTableElement,
                           std::string_view /*sHeadingsIn*/) {
   return ReportErrors("PSChartBuilder.ValidateSourceColumn", false, [&] {

@@ -54,6 +54,7 @@ bool BuildStrBuckMap(const IXMLDOMElement& oChartElement) {
     const std::int32_t lBucketNameColumn = GetAttributeLong(oChartElement, "bucket-name-column-position");
     const std::int32_t lBucketValueColumn = GetAttributeLong(oChartElement, "bucket-value-column-position");
     mStrategicBuckets = GetStrategicBuckets(colTables->Item(sBucketTable));
+    // the keys, and not the names as the table writes them: buckets are charted in capitals
     for (const auto& oBucket : *mStrategicBuckets) oSeriesNumbering.Add(SafeString(oBucket.key));
 
     const DataRows oRows(oChartElement);
@@ -67,10 +68,10 @@ bool BuildStrBuckMap(const IXMLDOMElement& oChartElement) {
     if (const auto oSeries = oChartElement.selectSingleNode("series")) {
       if (GetAttributeText(oSeries, "headings-in") == "rows") lLabelColumn = FirstColumn(oSeries);
     }
-    AddPseudoSeriesRule(lItemColumn, 1, cell_value::kText, lLabelColumn, "[none]");
-    AddPseudoSeriesRule(lItemColumn, 2, cell_value::kNumber, FirstColumnOf(oChartElement, "sort-order", -1),
-                        1);
-    auto& oInstruction = mMapInstructions.emplace_back(SumOfColumn(lBucketValueColumn));
+    AddPseudoSeriesRule(lItemColumn, bucket_column::kLabel, cell::kText, lLabelColumn, "[none]");
+    AddPseudoSeriesRule(lItemColumn, bucket_column::kSort, cell::kDouble,
+                        FirstColumnOf(oChartElement, "sort-order", -1), 1);
+    auto& oInstruction = mMapInstructions.emplace_back(ColumnSumRule(lBucketValueColumn));
     oInstruction.SetRowReferenceType(reference::kByCell);
     oInstruction.SetRowReferencePosition(lItemColumn);
     oInstruction.SetColReferenceType(reference::kByCell);

@@ -39,6 +39,10 @@ std::string GetAttributeText(const dom::IXMLDOMElement& oElement, const char* sA
 std::string GetChildText(const dom::IXMLDOMElement& oElement, const char* sChild);
 /// The attribute as a whole number; error 13 if it isn't one.
 std::int32_t GetAttributeLong(const dom::IXMLDOMElement& oElement, const char* sAttribute);
+/// Whether an `attribute` of the group ("dynamic-attributes" or "static-attributes") has the setting.
+bool HasSetting(const dom::IXMLDOMElement& oChartElement, const char* sGroup, std::string_view sSetting);
+/// Takes the first child element of that name away, if there is one.
+void RemoveChild(dom::IXMLDOMElement& oElement, const char* sChild);
 dom::IXMLDOMDocument2 NewXMLDocument();
 
 /// The sheets of `oWorkbook` by name, ignoring case.

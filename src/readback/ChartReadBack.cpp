@@ -1,4 +1,4 @@
-#include "readback/ChartIdentity.h"
+#include "readback/ChartReadBack.h"
 
 #include <algorithm>
 #include <array>
@@ -62,10 +62,6 @@ const TypeEntry* FindType(std::int32_t lChartType) {
   return oFound == kTypes.end() ? nullptr : &*oFound;
 }
 
-void RemoveChild(IXMLDOMElement& oChartElement, const char* sName) {
-  if (auto oChild = oChartElement.selectSingleNode(sName)) oChartElement.removeChild(oChild);
-}
-
 }  // namespace
 
 void RevEngineerChart(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& oChartDoc) {
@@ -86,11 +82,10 @@ void RevEngineerChartTitle(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& oC
 void RevEngineerChartType(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& oChartDoc) {
   ReportErrors("PSRevEngineerChart.RevEngineerChartType", [&] {
     auto oChartElement = oChartDoc.documentElement();
-    const TypeEntry* oNamed = FindType(oChart->ChartType());
-    const std::string sType = oNamed != nullptr        ? std::string(oNamed->sType)
+    const TypeEntry* oEntry = FindType(oChart->ChartType());
+    const std::string sType = oEntry != nullptr        ? std::string(oEntry->sType)
                               : IsStrBuckChart(oChart) ? "strategic bucket"
                                                        : "unknown";
-    const TypeEntry* oSet = FindType(oChart->ChartType());
     oChartElement.setAttribute("type", sType);
     RemoveChild(oChartElement, "dynamic-attributes");
     auto oSettings = oChartDoc.createElement("dynamic-attributes");
@@ -101,11 +96,11 @@ void RevEngineerChartType(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& oCh
       oAttribute.setAttribute("setting", sSetting);
       oSettings.appendChild(oAttribute);
     };
-    if (oSet == nullptr) return;
-    append(oSet->b3D, "3D");
-    append(oSet->bStacked, "stacked");
-    append(oSet->b100, "100%");
-    append(oSet->bExploded, "exploded");
+    if (oEntry == nullptr) return;
+    append(oEntry->b3D, "3D");
+    append(oEntry->bStacked, "stacked");
+    append(oEntry->b100, "100%");
+    append(oEntry->bExploded, "exploded");
   });
 }
 
@@ -116,10 +111,7 @@ void RevEngineerNumberFormat(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& 
     const std::string sType = GetAttributeText(oChartElement, "type");
     std::string sNumberFormat = GetAttributeText(oChartElement, "number-format");
     if (ArrayContains(sType, kUnformatted)) return;
-    bool b100 = false;
-    for (const IXMLDOMElement& oAttribute : oChartElement.selectNodes("dynamic-attributes/attribute")) {
-      if (GetAttributeText(oAttribute, "setting") == "100%") b100 = true;
-    }
+    const bool b100 = HasSetting(oChartElement, "dynamic-attributes", "100%");
     if (oChart->HasAxis(excel::xlValue)) {
       const auto oTickLabels = oChart->Axes(excel::xlValue, excel::xlPrimary)->TickLabels();
       if (!oTickLabels->NumberFormatLinked() && !b100) sNumberFormat = oTickLabels->NumberFormat();
