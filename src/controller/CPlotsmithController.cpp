@@ -5,7 +5,7 @@
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
 #include "controller/PSController.h"
-#include "metadata/ChartDefinitionOperations.h"
+#include "metadata/ColumnRenaming.h"
 
 namespace plotsmith {
 
