@@ -108,6 +108,7 @@ void Session::CheckTable(const std::string& id) const {
 }
 
 void Session::ShowProgress(const std::vector<runtime::Variant>& arguments) {
+  // without an argument it is the whole run that begins
   if (arguments.empty() || !colCharts) return;
   const std::string line = "Refreshing chart " + std::to_string(++chartsStarted_) + " ...";
   streams_.err << '\r' << line << std::flush;
