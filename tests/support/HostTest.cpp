@@ -21,6 +21,15 @@ TempFolder::~TempFolder() {
   std::filesystem::remove_all(path_, ignored);
 }
 
+void EditPart(const std::string& path, const std::string& part,
+              const std::function<void(std::string& text)>& edit) {
+  auto package = xlsx::Package::Open(path);
+  std::string text = package.Read(part);
+  edit(text);
+  package.Replace(part, text);
+  package.Save(path);
+}
+
 HostTest::HostTest() : desktop_(std::make_shared<cli::ConsoleDesktop>()) {
   ResetSystem();
   App = {"", desktop_, desktop_};
@@ -91,6 +100,12 @@ PlainSheet SalesSheet(const std::string& name) {
 std::string Definition::Xml() const {
   return "<chart id=\"" + id + "\" name=\"Name of " + id + "\" type=\"" + type + "\" " + attributes + ">" +
          categories + series + values + rest + "</chart>";
+}
+
+std::string Settings(std::initializer_list<const char*> settings, const std::string& group) {
+  std::string xml = "<" + group + ">";
+  for (const char* setting : settings) xml += std::string("<attribute setting=\"") + setting + "\"/>";
+  return xml + "</" + group + ">";
 }
 
 PlainBook SalesBook(const std::vector<Definition>& definitions) {
