@@ -8,6 +8,7 @@
 #include <string_view>
 #include <sys/mman.h>
 #include <unistd.h>
+#include <vector>
 
 #include "cli/ConsoleDesktop.h"
 #include "common/App.h"

@@ -7,6 +7,7 @@
 #include "builder/ChartAttributes.h"
 #include "builder/DataBlock.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
 
 namespace plotsmith {

@@ -7,8 +7,11 @@
 #include "builder/DataBlock.h"
 #include "builder/SeriesColors.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
+#include "runtime/Ref.h"
 #include "runtime/Strings.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 

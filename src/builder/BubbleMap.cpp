@@ -5,6 +5,7 @@
 #include "builder/BuilderVariables.h"
 #include "builder/MapSteps.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 
 namespace plotsmith {

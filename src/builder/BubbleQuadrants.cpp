@@ -6,6 +6,7 @@
 #include "builder/BuilderVariables.h"
 #include "builder/DataBlock.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
 
 namespace plotsmith {

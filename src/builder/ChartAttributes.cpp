@@ -2,6 +2,9 @@
 
 #include "builder/BuilderVariables.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
+#include "runtime/Ref.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 

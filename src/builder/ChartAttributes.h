@@ -2,11 +2,12 @@
 
 #include <cstdint>
 #include <initializer_list>
-#include <string>
 #include <string_view>
 
 #include "dom/Dom.h"
 #include "host/excel/Excel.h"
+#include "runtime/Ref.h"
+#include "runtime/Variant.h"
 
 /// Module PSChartBuilder: the steps that the drawing of several chart families shares.
 namespace plotsmith {

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/RunVariables.h"
 #include "metadata/MetadataStore.h"
 #include "runtime/Strings.h"

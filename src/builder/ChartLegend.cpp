@@ -4,11 +4,16 @@
 #include <vector>
 
 #include "builder/BuilderVariables.h"
+#include "builder/CPSColor.h"
 #include "builder/ChartAttributes.h"
 #include "builder/StrategicBucketChart.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
+#include "runtime/Ref.h"
+#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 

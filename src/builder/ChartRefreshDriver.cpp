@@ -1,5 +1,7 @@
 #include "builder/ChartRefreshDriver.h"
 
+#include <vector>
+
 #include "builder/AbcChart.h"
 #include "builder/BubbleChart.h"
 #include "builder/BubbleQuadrants.h"
@@ -14,11 +16,17 @@
 #include "builder/StrategicBucketChart.h"
 #include "common/App.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
+#include "common/Messages.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "dom/Dom.h"
+#include "host/desktop/Desktop.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
 #include "pages/frmBusyPS.h"
+#include "runtime/RuntimeError.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 

@@ -1,12 +1,15 @@
 #include "builder/DataSheet.h"
 
 #include "builder/BuilderVariables.h"
+#include "builder/CPSMapInstruction.h"
 #include "builder/DataBlock.h"
 #include "builder/MapSteps.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "runtime/Dictionary.h"
 #include "runtime/Strings.h"
 
 namespace plotsmith {

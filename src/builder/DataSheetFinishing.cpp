@@ -6,7 +6,9 @@
 #include "builder/MapSteps.h"
 #include "builder/StrategicBucketMap.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 

@@ -5,6 +5,7 @@
 #include "common/CommonFunctions.h"
 #include "common/Messages.h"
 #include "runtime/Strings.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 

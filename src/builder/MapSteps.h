@@ -8,6 +8,7 @@
 #include "builder/CPSMapInstruction.h"
 #include "dom/Dom.h"
 #include "runtime/Dictionary.h"
+#include "runtime/Variant.h"
 
 /// Module PSChartBuilder: the steps that the map builders of all chart types share.
 namespace plotsmith {

@@ -5,7 +5,9 @@
 
 #include "builder/BuilderVariables.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "host/excel/Constants.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 

@@ -4,6 +4,7 @@
 #include "builder/ChartAttributes.h"
 #include "builder/DataBlock.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 
 namespace plotsmith {
 

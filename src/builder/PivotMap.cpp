@@ -4,9 +4,11 @@
 
 #include "builder/BubbleMap.h"
 #include "builder/BuilderVariables.h"
+#include "builder/CPSMapInstruction.h"
 #include "builder/MapSteps.h"
 #include "builder/StrategicBucketMap.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 
 namespace plotsmith {

@@ -1,9 +1,11 @@
 #include "builder/SourceValidation.h"
 
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 #include "common/RunVariables.h"
 #include "runtime/Strings.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 

@@ -1,6 +1,7 @@
 #include "builder/StrategicBucketChart.h"
 
 #include <string>
+#include <vector>
 
 #include "builder/BuilderVariables.h"
 #include "builder/ChartAttributes.h"
@@ -9,8 +10,12 @@
 #include "builder/SeriesColors.h"
 #include "builder/StrategicBucketMap.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
+#include "runtime/Ref.h"
+#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 

@@ -3,12 +3,15 @@
 #include <string>
 
 #include "builder/BuilderVariables.h"
+#include "builder/CPSMapInstruction.h"
 #include "builder/MapSteps.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
 #include "metadata/StrategicBuckets.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 

@@ -1,14 +1,18 @@
 #include "cli/Session.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <vector>
 
 #include "common/App.h"
 #include "common/CommonFunctions.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
 #include "controller/ResetSystem.h"
+#include "dom/Dom.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
+#include "runtime/Ref.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Variant.h"
 #include "xlsx/package/PackageError.h"

@@ -3,10 +3,12 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "cli/Command.h"
 #include "cli/ConsoleDesktop.h"
 #include "cli/Streams.h"
+#include "runtime/Variant.h"
 #include "xlsx/Application.h"
 #include "xlsx/Workbook.h"
 

@@ -6,6 +6,7 @@
 #include "common/App.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 
 namespace plotsmith {

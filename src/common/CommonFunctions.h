@@ -1,8 +1,6 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
-#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -12,6 +10,7 @@
 #include "host/excel/Excel.h"
 #include "runtime/Collection.h"
 #include "runtime/Ref.h"
+#include "runtime/RuntimeError.h"
 #include "runtime/Variant.h"
 
 namespace plotsmith {

@@ -2,7 +2,6 @@
 
 #include <new>
 #include <type_traits>
-#include <utility>
 
 #include "common/Messages.h"
 #include "runtime/RuntimeError.h"

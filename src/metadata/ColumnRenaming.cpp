@@ -1,9 +1,12 @@
 #include "metadata/ColumnRenaming.h"
 
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/RunVariables.h"
+#include "dom/Dom.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
+#include "runtime/RuntimeError.h"
 
 namespace plotsmith {
 

@@ -7,6 +7,7 @@
 #include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "runtime/Ref.h"
 
 namespace plotsmith {
 

@@ -5,11 +5,15 @@
 #include <vector>
 
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
+#include "common/Messages.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
 #include "metadata/LostMarkers.h"
 #include "metadata/StrategicBuckets.h"
 #include "readback/ChartReadBack.h"
+#include "runtime/Collection.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 

@@ -1,6 +1,7 @@
 #include "metadata/NewChart.h"
 
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/RunVariables.h"
 #include "runtime/Strings.h"
 

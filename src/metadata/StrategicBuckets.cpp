@@ -1,7 +1,10 @@
 #include "metadata/StrategicBuckets.h"
 
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
+#include "runtime/Ref.h"
 #include "runtime/Strings.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 

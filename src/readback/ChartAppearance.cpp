@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <string>
-#include <vector>
 
 #include "common/CommonFunctions.h"
 #include "common/ErrorBlocks.h"
 #include "runtime/Dictionary.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 

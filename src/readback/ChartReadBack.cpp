@@ -82,10 +82,12 @@ void RevEngineerChartTitle(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& oC
 void RevEngineerChartType(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& oChartDoc) {
   ReportErrors("PSRevEngineerChart.RevEngineerChartType", [&] {
     auto oChartElement = oChartDoc.documentElement();
-    const TypeEntry* oEntry = FindType(oChart->ChartType());
-    const std::string sType = oEntry != nullptr        ? std::string(oEntry->sType)
+    const TypeEntry* oNamed = FindType(oChart->ChartType());
+    const std::string sType = oNamed != nullptr        ? std::string(oNamed->sType)
                               : IsStrBuckChart(oChart) ? "strategic bucket"
                                                        : "unknown";
+    // asked again, as a host may answer otherwise once its series were looked at
+    const TypeEntry* oEntry = FindType(oChart->ChartType());
     oChartElement.setAttribute("type", sType);
     RemoveChild(oChartElement, "dynamic-attributes");
     auto oSettings = oChartDoc.createElement("dynamic-attributes");

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <vector>
 
 #include "builder/BuilderVariables.h"
 #include "builder/DataSheetFinishing.h"

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <vector>
 
 #include "builder/DataSheet.h"
 #include "tests/support/BlockTest.h"

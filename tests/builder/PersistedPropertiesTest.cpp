@@ -1,3 +1,5 @@
+#include <vector>
+
 #include "builder/BuilderVariables.h"
 #include "builder/PersistedProperties.h"
 #include "common/CommonFunctions.h"

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <vector>
 
 #include "builder/ChartRefreshDriver.h"
 #include "common/PSConstants.h"

@@ -1,5 +1,8 @@
+#include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <vector>
 
 #include "cli/CommandLine.h"
 #include "cli/Session.h"

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <regex>
 #include <sstream>
+#include <vector>
 
 #include "cli/manual/Manual.h"
 #include "tests/support/HostTest.h"

@@ -1,3 +1,6 @@
+#include <memory>
+#include <vector>
+
 #include "common/App.h"
 #include "common/CommonFunctions.h"
 #include "common/Messages.h"

@@ -1,4 +1,8 @@
+#include <algorithm>
+#include <functional>
 #include <map>
+#include <memory>
+#include <vector>
 
 #include "common/App.h"
 #include "common/CommonFunctions.h"

@@ -1,4 +1,5 @@
-#include <algorithm>
+#include <array>
+#include <vector>
 
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"

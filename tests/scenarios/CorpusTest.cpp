@@ -1,8 +1,9 @@
 #include <algorithm>
 #include <cstdlib>
-#include <fstream>
+#include <filesystem>
 #include <map>
 #include <set>
+#include <vector>
 
 #include "tests/support/HostTest.h"
 #include "tests/support/RunCommand.h"

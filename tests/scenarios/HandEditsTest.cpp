@@ -1,4 +1,5 @@
 #include <functional>
+#include <vector>
 
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"

@@ -1,5 +1,7 @@
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
+#include <vector>
 
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"

@@ -1,4 +1,5 @@
 #include <set>
+#include <vector>
 
 #include "controller/CPlotsmithController.h"
 #include "host/excel/Excel.h"

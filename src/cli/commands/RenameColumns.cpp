@@ -7,6 +7,7 @@
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
+#include "dom/Dom.h"
 
 namespace plotsmith::cli {
 namespace {
