@@ -62,7 +62,7 @@ bool BuildStrBuckMap(const IXMLDOMElement& oChartElement) {
 
     const DataRows oRows(oChartElement);
     const auto oSheet = SheetWithCells(GetAttributeText(oChartElement, "table-worksheet"));
-    std::int32_t lItemColumn = 0;
+    std::int32_t lItemColumn = 0;  // where no cell is: without categories nothing finds its row
     if (const auto oCategories = oChartElement.selectSingleNode("categories")) {
       lItemColumn = FirstColumn(oCategories);
       NumberItems(oChartElement, oRows, *oSheet, lItemColumn, oItems);

@@ -52,17 +52,20 @@ class KillTest : public ::testing::Test {
 TEST_F(KillTest, AKilledSaveLeavesTheOldWorkbookOrTheNewOne) {
   const S before = Bytes();
   int status = 0;
+  const auto start = std::chrono::steady_clock::now();
   ASSERT_EQ(waitpid(Start(), &status, 0) > 0 ? status : -1, 0);
+  const auto wholeRun = std::chrono::steady_clock::now() - start;
   const S after = Bytes();
   ASSERT_TRUE(after != before);
   int killedBefore = 0, killedAfter = 0;
-  for (int round = 0; round < 30; ++round) {
+  constexpr int kRounds = 30;  // most of them soon after the save has begun, the last when it is over
+  for (int round = 0; round < kRounds; ++round) {
     std::ofstream(path_, std::ios::binary) << before;
     const pid_t child = Start();
     ASSERT_GT(child, 0);
     while (Temporary().empty() && waitpid(child, &status, WNOHANG) == 0) {
     }
-    std::this_thread::sleep_for(std::chrono::microseconds(400 * round));
+    std::this_thread::sleep_for(wholeRun * 2 * round * round / (kRounds * kRounds));
     kill(child, SIGKILL);
     waitpid(child, &status, 0);
     const S left = Temporary();
