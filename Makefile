@@ -7,8 +7,11 @@ build:
 	@cmake --preset release
 	@cmake --build build
 
-# Builds, refreshes the example workbooks into demo/ and makes pictures of them where LibreOffice is present.
-demo: build
+# Builds the command, refreshes the example workbooks into demo/ and makes pictures of them where LibreOffice is present.
+demo:
+	@scripts/install-dependencies.sh
+	@cmake --preset release
+	@cmake --build build --target plotsmith
 	@scripts/demo.sh
 
 # Builds, then runs all tests, as they are and under a locale with a decimal comma.

@@ -116,8 +116,8 @@ Section TextsAndLook() {
       Labels("values") + Look(Persist("label-font-style", "Bold") + Persist("label-font-color", "16777215") +
                               Persist("legend-visibility", "show") + Persist("legend-font-size", "12") +
                               Persist("legend-font-style", "Italic")));
-  add("comment", "a comment box", "", "<comment>West has caught up.</comment>", "West has caught up.");
-  section.pictures.push_back({"unavailable", "a chart whose table is gone",
+  add("comment", "a comment box, whose text the definition repeats", "", "<comment>West has caught up.</comment>", "West has caught up.");
+  section.pictures.push_back({"unavailable", "a chart without a filling whose table is gone",
                               "table-id=\"Gone\" type=\"column\" title=\"Revenue\"", kByQuarter,
                               "table-id=\"Gone\"", ""});
   return section;
@@ -230,9 +230,9 @@ void MakeTables(ExampleBook& book) {
   Fill(*nations, 5, {"India", "Asia", 2.1, 71.0, 1383.0});
   Fill(*nations, 6, {"Japan", "Asia", 40.5, 84.0, 127.0});
   Fill(*nations, 7, {"United States", "Americas", 65.1, 79.0, 328.0});
-  Fill(*nations, 8, {"Brazil", "Americas", 8.9, 75.0, 212.0});
+  Fill(*nations, 8, {"Canada", "Americas", 46.3, 82.0, 38.0});
   Fill(*nations, 9, {"Nigeria", "Africa", 2.4, 53.0, 203.0});
-  Fill(*nations, 10, {"Egypt", "Africa", 2.9, 71.0, 106.0});
+  Fill(*nations, 10, {"South Africa", "Africa", 6.7, 62.0, 59.0});
   Fill(*nations, 11, {"Atlantis", "Africa", 30.0, 60.0, 0.0});
   book.Name("VEX_TableRange_Nations", "Nations!$A$1:$E$11");
 

@@ -27,8 +27,8 @@ DEFINITION = ('<chart id="VEX_Chart1" name="Sales" title="Sales by region" type=
               '<series headings-in="rows"><column name="Product"/></series>'
               '<values><column name="Amount"/></values></chart>')
 FRAME = (f'<xdr:wsDr xmlns:xdr="{DRAW}spreadsheetDrawing" xmlns:a="{DRAW}main"><xdr:twoCellAnchor>'
-         '<xdr:from><xdr:col>4</xdr:col><xdr:colOff>0</xdr:colOff><xdr:row>1</xdr:row><xdr:rowOff>0</xdr:rowOff></xdr:from>'
-         '<xdr:to><xdr:col>11</xdr:col><xdr:colOff>0</xdr:colOff><xdr:row>17</xdr:row><xdr:rowOff>0</xdr:rowOff></xdr:to>'
+         '<xdr:from><xdr:col>0</xdr:col><xdr:colOff>0</xdr:colOff><xdr:row>5</xdr:row><xdr:rowOff>0</xdr:rowOff></xdr:from>'
+         '<xdr:to><xdr:col>7</xdr:col><xdr:colOff>0</xdr:colOff><xdr:row>21</xdr:row><xdr:rowOff>0</xdr:rowOff></xdr:to>'
          '<xdr:graphicFrame macro=""><xdr:nvGraphicFramePr><xdr:cNvPr id="2" name="Chart 1" descr="VEX_Chart1"/>'
          '<xdr:cNvGraphicFramePr/></xdr:nvGraphicFramePr><xdr:xfrm><a:off x="0" y="0"/><a:ext cx="0" cy="0"/></xdr:xfrm>'
          f'<a:graphic><a:graphicData uri="{DRAW}chart"><c:chart xmlns:c="{DRAW}chart" xmlns:r="{REL}" r:id="rId1"/>'

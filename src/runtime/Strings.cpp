@@ -153,6 +153,11 @@ std::string ToUtf8(std::u16string_view units) {
   return text;
 }
 
+bool IsLetter(char32_t character) {
+  const auto category = utf8proc_category(static_cast<utf8proc_int32_t>(character));
+  return category >= UTF8PROC_CATEGORY_LU && category <= UTF8PROC_CATEGORY_LO;
+}
+
 std::string Replace(std::string_view text, std::string_view from, std::string_view to) {
   std::string result;
   if (from.empty()) return std::string(text);

@@ -36,6 +36,8 @@ std::string ToUtf8(std::u16string_view text);
 /// Reads one character and moves behind it; what isn't UTF-8 comes out as U+FFFD, byte by byte. Halves of
 /// surrogate pairs pass.
 char32_t NextCharacter(std::string_view text, std::size_t& position);
+/// Whether a character is a letter in any script.
+bool IsLetter(char32_t character);
 /// The way back: halves of surrogate pairs pass as well.
 void AppendUtf8(std::string& text, char32_t character);
 

@@ -11,6 +11,7 @@ std::string Journal::Literal(const Variant& value) {
     std::string quoted = "\"" + runtime::Replace(*text, "\"", "\"\"") + "\"";
     // a line stays a line
     quoted = runtime::Replace(quoted, "\r\n", "\" & vbCrLf & \"");
+    quoted = runtime::Replace(quoted, "\r", "\" & vbCr & \"");
     return runtime::Replace(quoted, "\n", "\" & vbLf & \"");
   }
   if (value.IsEmpty()) return "Empty";

@@ -9,6 +9,7 @@ namespace plotsmith::xlsx {
 
 class Worksheet;
 
+/// Cells of a sheet as an object: a rectangle, whole rows or whole columns.
 excel::Ref<excel::Range> MakeRange(std::shared_ptr<Worksheet> sheet, const CellRange& cells);
 
 }  // namespace plotsmith::xlsx

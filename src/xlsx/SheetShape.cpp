@@ -1,11 +1,10 @@
 #include "xlsx/SheetShape.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
-#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Limits.h"
 #include "xlsx/SheetDrawing.h"
 #include "xlsx/Worksheet.h"
@@ -46,18 +45,9 @@ void SetPlace(pugi::xml_node marker, const SheetGeometry& geometry, double x, do
   set("row", "rowOff", geometry.rows, y);
 }
 
-double ExtentPoints(pugi::xml_node extent, const char* name) {
-  return xml::NumberAttribute(extent, name, 0) / kEmuPerPoint;
-}
-
-void SetPair(pugi::xml_node node, const char* first, const char* second, double x, double y) {
-  xml::SetAttribute(node, first, std::to_string(Emu(x)));
-  xml::SetAttribute(node, second, std::to_string(Emu(y)));
-}
-
-class SheetShapes final : public DrawnShapes {
+class SheetShapesObject final : public DrawnShapes {
  public:
-  explicit SheetShapes(Worksheet& sheet) : sheet_(sheet) {}
+  explicit SheetShapesObject(Worksheet& sheet) : sheet_(sheet) {}
 
   std::int32_t Count() override {
     const SheetDrawing* drawing = sheet_.FindDrawing();
@@ -88,9 +78,9 @@ class SheetShapes final : public DrawnShapes {
   Worksheet& sheet_;
 };
 
-class ChartFrame final : public excel::ChartObject {
+class ChartObjectObject final : public excel::ChartObject {
  public:
-  explicit ChartFrame(std::shared_ptr<SheetShape> shape) : shape_(std::move(shape)) {}
+  explicit ChartObjectObject(std::shared_ptr<SheetShape> shape) : shape_(std::move(shape)) {}
   std::string Name() override { return shape_->Name(); }
   Ref<excel::Chart> Chart() override { return shape_->Chart(); }
 
@@ -98,9 +88,9 @@ class ChartFrame final : public excel::ChartObject {
   std::shared_ptr<SheetShape> shape_;
 };
 
-class SheetChartObjects final : public excel::ChartObjects {
+class ChartObjectsObject final : public excel::ChartObjects {
  public:
-  explicit SheetChartObjects(Worksheet& sheet) : sheet_(sheet) {}
+  explicit ChartObjectsObject(Worksheet& sheet) : sheet_(sheet) {}
 
   std::int32_t Count() override {
     const SheetDrawing* drawing = sheet_.FindDrawing();
@@ -114,17 +104,18 @@ class SheetChartObjects final : public excel::ChartObjects {
     if (drawing != nullptr) {
       for (const auto& shape : drawing->Shapes()) {
         if (shape->Type() == excel::msoChart && runtime::EqualsIgnoreCase(shape->Name(), name)) {
-          return std::make_shared<ChartFrame>(shape);
+          return std::make_shared<ChartObjectObject>(shape);
         }
       }
     }
-    throw RuntimeError(runtime::error::kApplication,
-                       "Unable to get the ChartObjects property of the Worksheet class");
+    throw CantGet("ChartObjects", "Worksheet");
   }
   Ref<excel::ChartObject> Add(double left, double top, double width, double height) override {
     sheet_.Book().Journal().Call([&] { return sheet_.JournalPath()() + ".ChartObjects"; }, "Add",
                                  {left, top, width, height});
-    return std::make_shared<ChartFrame>(sheet_.EnsureDrawing().AddChart({left, top, width, height}));
+    const Frame frame{left, top, width, height};
+    CheckPlace(frame);
+    return std::make_shared<ChartObjectObject>(sheet_.EnsureDrawing().AddChart(frame));
   }
 
  private:
@@ -134,7 +125,7 @@ class SheetChartObjects final : public excel::ChartObjects {
 }  // namespace
 
 SheetShape::SheetShape(SheetDrawing& drawing, pugi::xml_node anchor, pugi::xml_node object)
-    : DrawnShape(object), drawing_(drawing), anchor_(anchor) {}
+    : DrawnShape(anchor, object), drawing_(drawing) {}
 
 Workbook& SheetShape::Book() const { return drawing_.Sheet().Book(); }
 
@@ -143,48 +134,39 @@ void SheetShape::MarkChanged() { drawing_.MarkChanged(); }
 std::string SheetShape::JournalPath() const { return JournalPathUnder(drawing_.Sheet().JournalPath()()); }
 
 Frame SheetShape::PlacedFrame() const {
-  if (xml::Is(anchor_, "absoluteAnchor")) {
-    const auto place = xml::Child(anchor_, "pos"), extent = xml::Child(anchor_, "ext");
-    return {ExtentPoints(place, "x"), ExtentPoints(place, "y"), ExtentPoints(extent, "cx"),
-            ExtentPoints(extent, "cy")};
+  if (xml::Is(Anchor(), "absoluteAnchor")) {
+    const auto place = xml::Child(Anchor(), "pos"), extent = xml::Child(Anchor(), "ext");
+    return {PointsOf(place, "x"), PointsOf(place, "y"), PointsOf(extent, "cx"), PointsOf(extent, "cy")};
   }
   const SheetGeometry& geometry = drawing_.Sheet().Geometry();
-  const auto [left, top] = PlaceOf(xml::Child(anchor_, "from"), geometry);
-  if (const auto extent = xml::Child(anchor_, "ext")) {
-    return {left, top, ExtentPoints(extent, "cx"), ExtentPoints(extent, "cy")};
+  const auto [left, top] = PlaceOf(xml::Child(Anchor(), "from"), geometry);
+  if (const auto extent = xml::Child(Anchor(), "ext")) {
+    return {left, top, PointsOf(extent, "cx"), PointsOf(extent, "cy")};
   }
-  const auto [right, bottom] = PlaceOf(xml::Child(anchor_, "to"), geometry);
+  const auto [right, bottom] = PlaceOf(xml::Child(Anchor(), "to"), geometry);
   return {left, top, right - left, bottom - top};
 }
 
-void SheetShape::Place(const Frame& wanted) {
-  const pugi::xml_node object = Object();
-  if (!std::isfinite(wanted.left + wanted.top + wanted.width + wanted.height)) {
-    throw RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
-  }
+Frame SheetShape::MoveAnchor(const Frame& wanted) {
   // a sheet begins at its corner
-  const Frame frame{std::max(wanted.left, 0.0), std::max(wanted.top, 0.0), wanted.width, wanted.height};
-  if (xml::Is(anchor_, "absoluteAnchor")) {
-    SetPair(xml::Child(anchor_, "pos"), "x", "y", frame.left, frame.top);
+  const Frame frame{std::max(wanted.left, 0.0), std::max(wanted.top, 0.0), std::max(wanted.width, 0.0),
+                    std::max(wanted.height, 0.0)};
+  if (xml::Is(Anchor(), "absoluteAnchor")) {
+    SetPair(xml::Child(Anchor(), "pos"), "x", "y", frame.left, frame.top);
   } else {
     const SheetGeometry& geometry = drawing_.Sheet().Geometry();
-    SetPlace(xml::Child(anchor_, "from"), geometry, frame.left, frame.top);
-    if (const auto to = xml::Child(anchor_, "to")) SetPlace(to, geometry, frame.Right(), frame.Bottom());
+    SetPlace(xml::Child(Anchor(), "from"), geometry, frame.left, frame.top);
+    if (const auto to = xml::Child(Anchor(), "to")) SetPlace(to, geometry, frame.Right(), frame.Bottom());
   }
-  if (const auto extent = xml::Child(anchor_, "ext")) SetPair(extent, "cx", "cy", frame.width, frame.height);
-  // the frame of a chart or the like has its place from the anchor alone
-  if (!xml::Is(object, "graphicFrame")) SetTransform(object, frame);
-  MarkChanged();
+  if (const auto extent = xml::Child(Anchor(), "ext")) SetPair(extent, "cx", "cy", frame.width, frame.height);
+  return frame;
 }
 
-pugi::xml_node SheetShape::ChartLink() const {
-  const auto data = xml::Child(Object(), "graphic", "graphicData");
-  return xml::Attribute(data, "uri").ends_with("/chart") ? xml::Child(data, "chart") : pugi::xml_node();
-}
+void SheetShape::RemoveFromDrawing() { drawing_.Remove(*this); }
 
 std::string SheetShape::ChartPartName() const {
   const auto& package = Book().Package();
-  const auto link = package.FindRelationship(drawing_.Part(), xml::RelationshipId(ChartLink()));
+  const auto link = package.FindRelationship(drawing_.Part(), xml::RelationshipId(ChartLinkOf(Object())));
   return link && !link->external && package.Has(link->target) ? link->target : std::string();
 }
 
@@ -196,19 +178,10 @@ Ref<excel::Chart> SheetShape::Chart() {
   });
 }
 
-void SheetShape::Delete() {
-  Log().Call([this] { return JournalPath(); }, "Delete");
-  Object();
-  const auto alive = shared_from_this();  // the drawing may be the last to know it
-  drawing_.Remove(*this);
-  Forget();
-  anchor_ = {};
-}
-
-Ref<excel::Shapes> MakeShapes(Worksheet& sheet) { return std::make_shared<SheetShapes>(sheet); }
+Ref<excel::Shapes> MakeShapes(Worksheet& sheet) { return std::make_shared<SheetShapesObject>(sheet); }
 
 Ref<excel::ChartObjects> MakeChartObjects(Worksheet& sheet) {
-  return std::make_shared<SheetChartObjects>(sheet);
+  return std::make_shared<ChartObjectsObject>(sheet);
 }
 
 }  // namespace plotsmith::xlsx

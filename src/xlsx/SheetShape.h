@@ -17,26 +17,21 @@ class SheetShape final : public DrawnShape {
  public:
   SheetShape(SheetDrawing& drawing, pugi::xml_node anchor, pugi::xml_node object);
 
-  void Delete() override;
-
   Frame PlacedFrame() const override;
   std::string JournalPath() const override;
   void MarkChanged() override;
   Workbook& Book() const override;
 
-  pugi::xml_node Anchor() const { return anchor_; }
   /// The part of the chart that the shape frames; empty if it frames none, or one that isn't there.
   std::string ChartPartName() const;
   excel::Ref<excel::Chart> Chart();
 
  protected:
-  void Place(const Frame& wanted) override;
+  Frame MoveAnchor(const Frame& wanted) override;
+  void RemoveFromDrawing() override;
 
  private:
-  pugi::xml_node ChartLink() const;
-
   SheetDrawing& drawing_;
-  pugi::xml_node anchor_;
 };
 
 /// The shapes of a sheet, for the port.

@@ -183,6 +183,7 @@ Ref<excel::Sheets> Workbook::Sheets() { return MakeSheets(*this); }
 Ref<excel::Worksheets> Workbook::Worksheets() { return MakeWorksheets(*this); }
 
 Ref<excel::Names> Workbook::Names() {
+  ShiftNames();
   if (!nameObjects_) nameObjects_ = MakeNames(*this);
   return nameObjects_;
 }
@@ -227,10 +228,9 @@ std::size_t Workbook::PositionOf(const SheetEntry& sheet) const {
 }
 
 std::shared_ptr<Worksheet> Workbook::AddWorksheet(std::size_t position) {
-  const Namespaces& names = strict_ ? kStrict : kTransitional;
   const std::string part = package_.FreeName(Folder() + "worksheets/sheet", ".xml");
   package_.Add(part, content_type::kWorksheet, EmptySheet(strict_));
-  const std::string link = package_.AddRelationship(part_, names.RelationshipType("worksheet"), part);
+  const std::string link = package_.AddRelationship(part_, Vocabulary().RelationshipType("worksheet"), part);
 
   std::set<long long> ids;
   for (const auto& sheet : sheets_) ids.insert(xml::IntegerAttribute(sheet->node, "sheetId", 0));
@@ -246,11 +246,12 @@ std::shared_ptr<Worksheet> Workbook::AddWorksheet(std::size_t position) {
   entry->part = part;
   xml::SetAttribute(entry->node, "name", name);
   xml::SetAttribute(entry->node, "sheetId", std::to_string(FreeNumber(ids, 1, limits::kSheetId)));
-  xml::SetAttribute(entry->node, (xml::EnsurePrefix(Root(), names.relationships, "r") + "id").c_str(), link);
+  xml::SetAttribute(entry->node, (xml::EnsurePrefix(Root(), Vocabulary().relationships, "r") + "id").c_str(),
+                    link);
   entry->worksheet = std::make_shared<Worksheet>(*this, entry, true);
   entry->object = entry->worksheet;
   sheets_.insert(sheets_.begin() + static_cast<std::ptrdiff_t>(position), entry);
-  RenumberLocalNames(position, 1);
+  RenumberTabs(position, 1);
   activeSheet_ = position;
   changed_ = true;
   return entry->worksheet;
@@ -265,13 +266,14 @@ void Workbook::RemoveSheet(const SheetEntry& sheet) {
   node.parent().remove_child(node);
   package_.Remove(sheet.part, part_);
   sheets_.erase(sheets_.begin() + static_cast<std::ptrdiff_t>(position));
-  RenumberLocalNames(position, -1);
+  RenumberTabs(position, -1);
   if (activeSheet_ >= position && activeSheet_ > 0) --activeSheet_;
   changed_ = true;
 }
 
-/// Names that are local to a sheet know it by its place, and places from `position` on have moved.
-void Workbook::RenumberLocalNames(std::size_t position, int step) {
+/// Names that are local to a sheet, and the views of the workbook, know a sheet by its place, and places from
+/// `position` on have moved.
+void Workbook::RenumberTabs(std::size_t position, int step) {
   const auto nodes = xml::Children(xml::Child(Root(), "definedNames"), "definedName");
   for (std::size_t i = 0; i < names_.size() && i < nodes.size(); ++i) {
     auto& place = names_[i].sheet;
@@ -321,16 +323,12 @@ void Workbook::Activate(const SheetEntry& sheet) {
 }
 
 void Workbook::DefineName(std::string name, std::string definition) {
-  pugi::xml_node list = xml::Child(Root(), "definedNames");
-  if (!list) {
-    pugi::xml_node before = xml::Child(Root(), "sheets");
-    for (const char* later : {"functionGroups", "externalReferences"}) {
-      if (const auto node = xml::Child(Root(), later)) before = node;
-    }
-    list =
-        Root().insert_child_after((std::string(xml::Prefix(Root().name())) + "definedNames").c_str(), before);
-  }
-  pugi::xml_node node = list.append_child((std::string(xml::Prefix(list.name())) + "definedName").c_str());
+  // what comes behind the names in CT_Workbook
+  static constexpr std::array<std::string_view, 11> kOrder = {
+      "definedNames",  "calcPr",        "oleSize",        "customWorkbookViews", "pivotCaches", "smartTagPr",
+      "smartTagTypes", "webPublishing", "fileRecoveryPr", "webPublishObjects",   "extLst"};
+  pugi::xml_node list = xml::EnsureInOrder(Root(), "definedNames", kOrder);
+  pugi::xml_node node = xml::AppendChild(list, "definedName");
   xml::SetAttribute(node, "name", name);
   xml::SetText(node, definition);
   names_.push_back({std::move(name), std::nullopt, std::move(definition)});
@@ -369,13 +367,14 @@ bool Workbook::Changed() const {
 }
 
 void Workbook::ShiftNames() {
-  if (shifts_.None()) return;
+  if (!shifts_.AnyBehind(namesFollowed_)) return;
   const auto nodes = xml::Children(xml::Child(Root(), "definedNames"), "definedName");
   for (std::size_t i = 0; i < names_.size() && i < nodes.size(); ++i) {
     const auto shifted = shifts_.Follow(names_[i].definition, "", namesFollowed_);
     if (!shifted) continue;
     names_[i].definition = *shifted;
     xml::SetText(nodes[i], *shifted);
+    nameObjects_ = nullptr;
     changed_ = true;
   }
   namesFollowed_ = shifts_.Mark();
@@ -388,10 +387,9 @@ void Workbook::WriteStyles() {
     package_.Replace(link->target, styles_->Serialize());
     return;
   }
-  const Namespaces& names = strict_ ? kStrict : kTransitional;
   const std::string part = Folder() + "styles.xml";
   package_.Add(part, content_type::kStyles, styles_->Serialize());
-  if (!link) package_.AddRelationship(part_, names.RelationshipType("styles"), part);
+  if (!link) package_.AddRelationship(part_, Vocabulary().RelationshipType("styles"), part);
 }
 
 void Workbook::WriteActiveTab() {
@@ -419,10 +417,11 @@ void Workbook::Save(const std::string& path) {
   for (const auto& sheet : sheets_) {
     if (sheet->worksheet) sheet->worksheet->Write();
   }
-  if (!shifts_.None()) {
+  if (shifts_.AnyBehind(sheetsFollowed_)) {
     for (const auto& sheet : sheets_) {
-      if (sheet->worksheet) sheet->worksheet->FollowShifts();
+      if (sheet->worksheet) sheet->worksheet->FollowShifts(sheetsFollowed_);
     }
+    sheetsFollowed_ = shifts_.Mark();
   }
   WriteCharts();
   ShiftNames();
@@ -475,10 +474,9 @@ std::string Workbook::NormalFontName() {
 
 void Workbook::EnsureTheme() {
   if (package_.FindRelationshipOfType(part_, "theme")) return;
-  const Namespaces& names = strict_ ? kStrict : kTransitional;
   const std::string part = package_.FreeName(Folder() + "theme/theme", ".xml");
   package_.Add(part, content_type::kTheme, DefaultTheme(strict_));
-  package_.AddRelationship(part_, names.RelationshipType("theme"), part);
+  package_.AddRelationship(part_, Vocabulary().RelationshipType("theme"), part);
 }
 
 }  // namespace plotsmith::xlsx

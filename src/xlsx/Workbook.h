@@ -13,6 +13,7 @@
 #include "host/excel/Excel.h"
 #include "xlsx/Journal.h"
 #include "xlsx/drawing/Theme.h"
+#include "xlsx/package/Namespaces.h"
 #include "xlsx/package/Package.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/sheet/CellStore.h"
@@ -87,6 +88,7 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   /// The chart of a part, which is read when something of the chart is asked for.
   std::shared_ptr<ChartPart> Chart(const std::string& part);
   excel::Ref<excel::Chart> ActiveChart();
+  const Namespaces& Vocabulary() const { return strict_ ? kStrict : kTransitional; }
   bool IsStrict() const { return strict_; }
   /// The workbook's theme, or the one that it gets when a chart is drawn in it.
   const xlsx::Theme& Theme();
@@ -113,7 +115,7 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   void LoadNames();
   pugi::xml_node Root() const;
   std::size_t PositionOf(const SheetEntry& sheet) const;
-  void RenumberLocalNames(std::size_t position, int step);
+  void RenumberTabs(std::size_t position, int step);
   void ShiftNames();
   void WriteCharts();
   void WriteActiveTab();
@@ -138,7 +140,8 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   std::map<std::string, std::shared_ptr<ChartPart>, std::less<>> charts_;  ///< those in use, by part
   std::optional<xlsx::Theme> theme_;
   RowShifts shifts_;
-  std::size_t namesFollowed_ = 0;
+  std::size_t namesFollowed_ = 0;   ///< of the shifts
+  std::size_t sheetsFollowed_ = 0;  ///< likewise, by the formulas of all sheets
   std::optional<std::string> damage_;
 };
 

@@ -33,11 +33,6 @@ void CheckCell(std::int32_t row, std::int32_t column) {
   }
 }
 
-/// Days between the two systems' beginnings.
-constexpr double kDaysTo1904 = 1462;
-/// Behind 31 December 9999 a number in a date format is a number, and so is a negative one.
-constexpr double kDateEnd = 2958466;
-
 /// Whether a part mentions a sheet on which rows moved; read through a window, as a sheet may be large.
 bool PartMentions(const Package& package, const std::string& part, const RowShifts& shifts) {
   constexpr std::size_t kWindow = 256 * 1024,
@@ -73,9 +68,11 @@ bool MentionsChart(std::string_view drawing) {
   return drawing.find("graphicFrame") != std::string_view::npos;
 }
 
-CellValue::Kind NumberKind(const Styles& styles, std::uint32_t style, double number) {
-  return number >= 0 && number < kDateEnd && styles.IsDate(style) ? CellValue::Kind::kDate
-                                                                  : CellValue::Kind::kNumber;
+/// In a date format a number is a date, from the first day of the system to the last.
+CellValue::Kind NumberKind(Workbook& book, std::uint32_t style, double number) {
+  const bool date =
+      number >= 0 && number < kLastSerial + 1 - SerialOffset(book.Dates()) && book.Styles().IsDate(style);
+  return date ? CellValue::Kind::kDate : CellValue::Kind::kNumber;
 }
 
 }  // namespace
@@ -126,7 +123,7 @@ CellValue Worksheet::Unpack(PackedValue value, std::uint32_t style) {
     case Kind::kEmpty:
       return {};
     case Kind::kNumber:
-      return {NumberKind(book_.Styles(), style, value.Number()), value.Number(), {}};
+      return {NumberKind(book_, style, value.Number()), value.Number(), {}};
     case Kind::kBoolean:
       return {CellValue::Kind::kBoolean, static_cast<double>(value.Index()), {}};
     case Kind::kSharedText:
@@ -150,7 +147,7 @@ std::uint32_t Worksheet::StyleAt(std::int32_t row, std::int32_t column) {
 CellValue Worksheet::CellValueAt(std::int32_t row, std::int32_t column) {
   CellValue value = Stored(row, column);
   // the language counts days in one system only
-  if (value.kind == CellValue::Kind::kDate && book_.Dates() == DateSystem::k1904) value.number += kDaysTo1904;
+  if (value.kind == CellValue::Kind::kDate) value.number += SerialOffset(book_.Dates());
   return value;
 }
 
@@ -165,8 +162,7 @@ CellValue Worksheet::Stored(std::int32_t row, std::int32_t column) {
   const GridCell* cell = grid_->Find(row, column);
   if (cell == nullptr) return {};
   const bool number = cell->kind == CellValue::Kind::kNumber || cell->kind == CellValue::Kind::kDate;
-  return {number ? NumberKind(book_.Styles(), cell->style, cell->number) : cell->kind, cell->number,
-          cell->text};
+  return {number ? NumberKind(book_, cell->style, cell->number) : cell->kind, cell->number, cell->text};
 }
 
 std::string_view Worksheet::CellTextAt(std::int32_t row, std::int32_t column, std::string& scratch) {
@@ -198,7 +194,7 @@ void Worksheet::SetCellValueAt(std::int32_t row, std::int32_t column, const Vari
   book_.Journal().Put([&] { return Path()(); },
                       "Cells(" + std::to_string(row) + ", " + std::to_string(column) + ")", value);
   GridCell entered;
-  Enter(entered, value);
+  EnterValue(entered, value, book_.Dates());
   GridCell& cell = Grid().At(row, column);
   entered.style = cell.style;
   cell = std::move(entered);
@@ -321,23 +317,24 @@ SheetDrawing& Worksheet::EnsureDrawing() {
     throw RuntimeError(runtime::error::kApplication, "The drawing can't be read: " + *drawingDamage_ + ".");
   }
   auto& package = book_.Package();
-  const Namespaces& names = book_.IsStrict() ? kStrict : kTransitional;
   const std::string part = package.FreeName(book_.Folder() + "drawings/drawing", ".xml");
   package.Add(part, content_type::kDrawing, EmptyDrawing(book_.IsStrict()));
-  const std::string id = package.AddRelationship(Entry().part, names.RelationshipType("drawing"), part);
+  const std::string id =
+      package.AddRelationship(Entry().part, book_.Vocabulary().RelationshipType("drawing"), part);
   std::string text = xml::ToUtf8(package.Read(Entry().part));
-  InsertDrawingLink(text, names.relationships, id);
+  InsertDrawingLink(text, book_.Vocabulary().relationships, id);
   package.Replace(Entry().part, std::move(text));
   drawing_ = std::make_unique<SheetDrawing>(*this, part);
   return *drawing_;
 }
 
-void Worksheet::FollowShifts() {
+void Worksheet::FollowShifts(std::size_t followed) {
   const RowShifts& shifts = book_.Shifts();
   auto& package = book_.Package();
   if (isNew_ || grid_ || !PartMentions(package, Entry().part, shifts)) return;
   std::string text = xml::ToUtf8(package.Read(Entry().part));
-  if (ShiftSheetFormulas(text, Entry().name, shifts)) package.Replace(Entry().part, std::move(text));
+  if (ShiftSheetFormulas(text, Entry().name, shifts, followed))
+    package.Replace(Entry().part, std::move(text));
 }
 
 bool Worksheet::NeedsWriting() const { return gridChanged_ || (drawing_ && drawing_->Changed()); }

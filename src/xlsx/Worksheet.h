@@ -59,8 +59,8 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   /// The same, made if need be. Error 1004 if there is one that can't be read.
   SheetDrawing& EnsureDrawing();
 
-  /// Brings formulas up to date with rows that moved on other sheets.
-  void FollowShifts();
+  /// Brings formulas up to date with rows that moved on other sheets since a mark.
+  void FollowShifts(std::size_t followed);
   /// Whether this program made the sheet, so that it is free to change it in any way.
   bool IsNew() const { return isNew_; }
   bool NeedsWriting() const;
@@ -85,7 +85,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   std::optional<bool> merged_;
   std::optional<SheetContents> contents_;  ///< as read
   const TextPool* sharedTexts_ = nullptr;  ///< the workbook's, once a cell has asked for one
-  std::optional<CellGrid> grid_;           ///< as changed; then nothing looks at contents_ any more
+  std::optional<CellGrid> grid_;           ///< as changed; of contents_ only the geometry counts then
   bool gridChanged_ = false;
   std::optional<SheetGeometry> geometry_;
   std::unique_ptr<SheetDrawing> drawing_;

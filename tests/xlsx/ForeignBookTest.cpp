@@ -147,6 +147,39 @@ TEST_F(ForeignBookTest, WhatAFormerPartLeftInTheContentTypesIsTakenOver) {
             content_type::kDrawing);
 }
 
+TEST_F(ForeignBookTest, WhatFollowsRowsFollowsEachOnce) {
+  test::PlainBook book = SalesBook({});
+  test::PlainSheet formulas{"Formulas"};
+  formulas.rows = {{test::RawCell{"><f>Data1!C3</f><v>5</v></c>"}}};
+  book.sheets.push_back(formulas);
+  book.names = {{"Place", "Data1!$C$3"}};
+  Open(book);
+  const auto part = "/xl/worksheets/sheet" + std::to_string(book.sheets.size()) + ".xml";
+  for (const char* row : {"4", "5"}) {
+    Sheet("Data1")->Rows(2)->Insert();
+    EXPECT_EQ(Book().Names()->Item("Place")->RefersTo(), S("=Data1!$C$") + row);
+    for (int saved = 0; saved < 2; ++saved) {
+      Book().Save(folder_ / "saved.xlsx");
+      EXPECT_NE(SavedPart(part).find(S("<f>Data1!C") + row + "</f>"), S::npos) << SavedPart(part);
+    }
+  }
+}
+
+TEST_F(ForeignBookTest, DatesOfTheSystemOf1904PassBothWays) {
+  test::PlainBook book;
+  book.sheets = {{"Sheet1", {{1.0}}}};
+  book.styles =
+      "<styleSheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><cellXfs><xf "
+      "numFmtId=\"14\"/></cellXfs></styleSheet>";
+  book.workbookExtra = "<workbookPr date1904=\"1\"/>";
+  Open(book);
+  const auto value = Sheet("Sheet1")->Cells(1, 1)->Value();
+  EXPECT_EQ(value, runtime::Variant(runtime::Variant::Date{1463}));
+  Sheet("Sheet1")->Cells(2, 1)->SetValue(value);
+  EXPECT_EQ(Cells("Sheet1", 1, 1, 2, 1), "1/2/1904\n1/2/1904");
+  EXPECT_EQ(Sheet("Sheet1")->Cells(2, 1)->Value(), value);
+}
+
 TEST_F(ForeignBookTest, NumbersAtTheEndOfTheirRangeLeaveRoom) {
   PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}});
   book.workbookExtra =

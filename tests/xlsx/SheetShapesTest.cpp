@@ -1,4 +1,6 @@
-#include "tests/support/HostTest.h"
+#include <limits>
+
+#include "tests/support/ChartTest.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
 
@@ -44,6 +46,30 @@ TEST_F(SheetShapesTest, MoveByTheirAnchors) {
     EXPECT_NEAR(shape->Height(), 35, 0.001);
   }
   EXPECT_EQ(shapes()->Range({"Two!", "One!"})->Width(), 70);
+}
+
+TEST_F(SheetShapesTest, ANewShapeLiesWhereAnOldOneWouldComeToLie) {
+  test::PlainBook book;
+  book.sheets = {test::SalesSheet("Sheet1")};
+  Open(book);
+  const auto shapes = [&] { return Book().FindWorksheet("Sheet1")->Shapes(); };
+  const double nowhere = std::numeric_limits<double>::infinity();
+  test::ExpectError1004([&] { shapes()->AddTextbox(1, 0, 0, nowhere, 20); });
+  test::ExpectError1004([&] { shapes()->AddShape(1, nowhere, 0, 10, 20); });
+  test::ExpectError1004([&] { Book().FindWorksheet("Sheet1")->ChartObjects()->Add(0, -nowhere, 10, 20); });
+  EXPECT_EQ(shapes()->Count(), 0);
+  shapes()->AddTextbox(1, -10, -5, 100, 20)->SetName("Box");
+  shapes()->AddShape(1, 5, 5, -10, 20)->SetName("Flat");
+  SaveAndReopen();
+  const auto box = shapes()->Item("Box");
+  EXPECT_EQ(box->Left(), 0);
+  EXPECT_NEAR(box->Width(), 100, 0.001);
+  EXPECT_NEAR(box->Height(), 20, 0.001);
+  EXPECT_EQ(shapes()->Item("Flat")->Width(), 0);
+  const S drawing = SavedPart("/xl/drawings/drawing1.xml");
+  EXPECT_TRUE(test::Has(drawing, "<a:off x=\"0\" y=\"0\"/><a:ext cx=\"1270000\" cy=\"254000\"/>")) << drawing;
+  EXPECT_EQ(test::CountOf(drawing, "<xdr:twoCellAnchor>"), 2u);
+  EXPECT_FALSE(test::Has(drawing, "\"-")) << drawing;
 }
 
 TEST(ShapeEnumerationsTest, GoBothWays) {

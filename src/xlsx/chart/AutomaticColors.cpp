@@ -39,10 +39,10 @@ constexpr std::array<double, 6> kGreys = {88.5, 55, 78, 92.5, 70, 30};
 /// A chart's style, from 1 to 48, which newer files hold twice.
 long long StyleOf(ChartPart& part) {
   const auto space = part.Space();
-  const auto alternatives = schema::Find(space, "AlternateContent");
+  const auto alternatives = xml::Child(space, "AlternateContent");
   for (const pugi::xml_node& holder :
        {space, xml::Child(alternatives, "Choice"), xml::Child(alternatives, "Fallback")}) {
-    const auto value = xml::ParseInteger(xml::Attribute(xml::Child(holder, "style"), "val")).value_or(0);
+    const auto value = schema::IntegerVal(holder, "style", 0);
     const long long style = value > kNewerStyles ? value - kNewerStyles : value;
     if (style >= 1 && style <= kStyles) return style;
   }
@@ -69,7 +69,7 @@ Variation Faded(std::size_t index, std::size_t count) {
 }  // namespace
 
 std::int32_t AutomaticColor(ChartPart& part, pugi::xml_node series) {
-  const long long number = std::max(xml::ParseInteger(schema::Val(series, "idx")).value_or(0), 0LL);
+  const long long number = std::max(schema::IntegerVal(series, "idx", 0), 0LL);
   const auto index = static_cast<std::size_t>(number);
   const long long column = (StyleOf(part) - 1) % kStyleColumns;  // of the gallery that the styles came from
   if (column == 0) {

@@ -3,11 +3,18 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "xlsx/Workbook.h"
+#include "xlsx/chart/ChartCache.h"
+#include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/ChartText.h"
+#include "xlsx/chart/ChartTextLook.h"
+#include "xlsx/chart/LegendEntries.h"
 #include "xlsx/chart/PlotGroups.h"
+#include "xlsx/chart/SeriesData.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/TextMetrics.h"
 #include "xlsx/numberformat/NumberFormat.h"
@@ -16,92 +23,45 @@
 namespace plotsmith::xlsx {
 namespace {
 
-constexpr double kTextSize = 10;       // of what says nothing else
-constexpr double kTitleSize = 18;      // of the chart's title, bold
-constexpr double kTitlePadding = 7.2;  // above and below a title's text together
-constexpr double kTitleGrowth = 1.2;   // of the title over the other texts, where those have a size
+// Excel's layout is nowhere written down. These make plain charts come out as Excel draws them, to a few
+// points.
+constexpr double kTitlePadding = 7.2;  // above and below a title's text together: a text box's insets
 constexpr double kTitleShare = 0.8;    // of the chart's width, before a title breaks
 constexpr double kLabelGap = 5;        // between an axis and its labels
-constexpr double kLegendPadding = 8;
-constexpr double kKeyEms = 2.4;  // a legend key with the gaps around it
-constexpr double kLeastShare = 0.1;
+constexpr double kLegendPadding = 8;   // around all entries together
+constexpr double kKeyEms = 2.4;        // a legend key with the gaps around it, which grows with the text
+constexpr double kLeastShare = 0.1;    // of the chart that the plot area keeps, whatever the texts take
 
-/// The default run properties of a text body's first paragraph.
-pugi::xml_node DefaultsOf(pugi::xml_node body) {
-  return schema::Find(schema::Find(schema::Find(body, "p"), "pPr"), "defRPr");
-}
-
-/// How an element's text is set: by its first run, by its own default, by the chart's.
-TextFace FaceOf(ChartPart& part, pugi::xml_node element, double usual, bool bold, double growth = 1) {
-  const auto rich = schema::Find(schema::Find(element, "tx"), "rich");
-  const auto run = schema::Find(schema::Find(schema::Find(rich, "p"), "r"), "rPr");
-  const auto whole = DefaultsOf(schema::Find(part.Space(), "txPr"));
-  TextFace face{"+mn-lt", usual, bold};
-  const auto take = [&](pugi::xml_node properties, double factor) {
-    if (properties.attribute("sz")) face.size = xml::NumberAttribute(properties, "sz", 0) / 100 * factor;
-    face.bold = xml::BooleanAttribute(properties, "b", face.bold);
-    face.font = xml::Attribute(schema::Find(properties, "latin"), "typeface", face.font);
-  };
-  take(whole, growth);
-  take(DefaultsOf(rich ? rich : schema::Find(element, "txPr")), 1);
-  take(run, 1);
-  face.font = part.Theme().Typeface(face.font);
-  return face;
-}
-
-std::vector<std::string> CachedTexts(pugi::xml_node source) {
-  std::vector<std::string> texts;
-  for (const pugi::xml_node& reference : source.children()) {
-    if (xml::Is(reference, "v")) texts.push_back(xml::Text(reference));
-    for (const pugi::xml_node& cache : reference.children()) {
-      for (const pugi::xml_node& point : xml::Children(cache, "pt"))
-        texts.push_back(xml::Text(xml::Child(point, "v")));
-    }
-    for (const pugi::xml_node& point : xml::Children(reference, "pt"))
-      texts.push_back(xml::Text(xml::Child(point, "v")));
-  }
-  return texts;
-}
-
-/// The lines of a title's text.
-std::vector<std::string> Lines(pugi::xml_node title) {
-  const auto tx = schema::Find(title, "tx");
-  const auto rich = schema::Find(tx, "rich");
-  if (!rich) return CachedTexts(tx);
-  std::vector<std::string> lines;
-  for (const pugi::xml_node& paragraph : xml::Children(rich, "p")) {
-    std::string& line = lines.emplace_back();
-    for (const pugi::xml_node& run : xml::Children(paragraph, "r")) line += xml::Text(xml::Child(run, "t"));
-  }
-  return lines;
+/// How an element's text is set, by its beginning.
+TextFace FaceOf(ChartPart& part, pugi::xml_node element, TextRole role) {
+  const TextLook look = LooksOf(part, element, role).front();
+  return {look.typeface, look.points, look.bold};
 }
 
 /// What a title takes of the chart across its text; nothing if it lies over the plot area.
-double TitleDepth(pugi::xml_node title, const TextFace& face, double room) {
+double TitleDepth(ChartPart& part, pugi::xml_node title, TextRole role, double room) {
   if (!title || schema::BooleanVal(title, "overlay", false)) return 0;
+  const TextFace face = FaceOf(part, title, role);
+  const std::string text = TitleText(title);
   double lines = 0;
-  for (const std::string& line : Lines(title)) {
-    lines += std::max(1.0, std::ceil(TextWidth(line, face) / std::max(room * kTitleShare, 1.0)));
+  for (std::string_view rest = text;;) {
+    const auto end = rest.find('\n');
+    const double width = TextWidth(rest.substr(0, end), face);
+    lines += std::max(1.0, std::ceil(width / std::max(room * kTitleShare, 1.0)));
+    if (end == std::string_view::npos) break;
+    rest.remove_prefix(end + 1);
   }
-  return std::max(lines, 1.0) * LineHeight(face) + kTitlePadding;
-}
-
-std::vector<double> EntryWidths(ChartPart& part, const TextFace& face) {
-  std::vector<double> widths;
-  for (const pugi::xml_node& series : SeriesOf(part)) {
-    const auto name = CachedTexts(schema::Find(series, "tx"));
-    widths.push_back(TextWidth(name.empty() ? "Series1" : name[0], face) + kKeyEms * face.size);
-  }
-  return widths;
+  return lines * LineHeight(face) + kTitlePadding;
 }
 
 /// Takes the legend's room from the free one.
 void SetLegendAside(ChartPart& part, const Frame& chart, Edges& taken) {
-  const auto legend = schema::Find(part.Chart(), "legend");
+  const auto legend = xml::Child(part.Chart(), "legend");
   if (!legend || schema::BooleanVal(legend, "overlay", false)) return;
-  const TextFace face = FaceOf(part, legend, kTextSize, false);
+  const TextFace face = FaceOf(part, legend, TextRole::kOther);
   double widest = 0, all = 0;
-  for (const double width : EntryWidths(part, face)) {
+  for (const std::string& text : LegendTexts(part)) {
+    const double width = TextWidth(text, face) + kKeyEms * face.size;
     widest = std::max(widest, width);
     all += width;
   }
@@ -136,21 +96,16 @@ std::vector<std::string> LabelsOf(ChartPart& part, pugi::xml_node axis) {
   const bool values = xml::Is(axis, "valAx");
   double least = 0, most = 0;
   for (const pugi::xml_node& series : SeriesOf(part)) {
-    if (!values) {
-      labels = CachedTexts(schema::Find(series, "cat"));
-      if (!labels.empty()) break;
-      continue;
+    for (const auto& [point, text] : CachedTexts(values ? FindValues(series) : xml::Child(series, "cat"))) {
+      if (!values) labels.push_back(text);
+      const double value = xml::ParseDouble(text).value_or(0);
+      least = std::min(least, value);
+      most = std::max(most, value);
     }
-    for (const char* source : {"val", "yVal"}) {
-      for (const std::string& text : CachedTexts(schema::Find(series, source))) {
-        const double value = xml::ParseDouble(text).value_or(0);
-        least = std::min(least, value);
-        most = std::max(most, value);
-      }
-    }
+    if (!labels.empty()) break;
   }
   if (!values) return labels;
-  auto format = NumberFormat::Parse(xml::Attribute(schema::Find(axis, "numFmt"), "formatCode", "General"));
+  auto format = NumberFormat::Parse(xml::Attribute(xml::Child(axis, "numFmt"), "formatCode", "General"));
   if (!format) format = NumberFormat::Parse("General");
   for (const double value : {least, most}) {
     format->AppendNumber(labels.emplace_back(), value, part.Book().Dates());
@@ -162,13 +117,11 @@ std::vector<std::string> LabelsOf(ChartPart& part, pugi::xml_node axis) {
 
 Frame AutomaticPlotArea(ChartPart& part, const Frame& chart) {
   Edges taken{kChartInset, kChartInset, kChartInset, kChartInset};
-  const auto title = schema::Find(part.Chart(), "title");
-  taken.top += TitleDepth(title, FaceOf(part, title, kTitleSize, true, kTitleGrowth), chart.width);
+  taken.top += TitleDepth(part, xml::Child(part.Chart(), "title"), TextRole::kChartTitle, chart.width);
   SetLegendAside(part, chart, taken);
   ForEachAxis(part, [&](pugi::xml_node axis, const std::string& side, bool upright) {
-    const auto text = schema::Find(axis, "title");
-    SideOf(taken, side) +=
-        TitleDepth(text, FaceOf(part, text, kTextSize, true), upright ? chart.height : chart.width);
+    SideOf(taken, side) += TitleDepth(part, xml::Child(axis, "title"), TextRole::kAxisTitle,
+                                      upright ? chart.height : chart.width);
   });
   return {taken.left, taken.top, std::max(chart.width - taken.left - taken.right, kLeastShare * chart.width),
           std::max(chart.height - taken.top - taken.bottom, kLeastShare * chart.height)};
@@ -178,7 +131,7 @@ Edges TickLabelRoom(ChartPart& part) {
   Edges room;
   ForEachAxis(part, [&](pugi::xml_node axis, const std::string& side, bool upright) {
     if (schema::Val(axis, "tickLblPos", "nextTo") == "none") return;
-    const TextFace face = FaceOf(part, axis, kTextSize, false);
+    const TextFace face = FaceOf(part, axis, TextRole::kOther);
     double depth = LineHeight(face);
     if (upright) {
       depth = 0;

@@ -2,11 +2,10 @@
 
 #include "xlsx/drawing/ShapeXml.h"
 
+/// How Excel lays a chart out where nobody did it by hand, estimated from the sizes of its texts. Points.
 namespace plotsmith::xlsx {
 
 class ChartPart;
-
-/// How Excel lays a chart out where nobody did it by hand, estimated from the sizes of its texts. Points.
 
 /// What Excel leaves free inside of a chart's edge.
 inline constexpr double kChartInset = 7;

@@ -5,21 +5,21 @@
 #include <string>
 
 #include "host/excel/Excel.h"
-#include "runtime/RuntimeError.h"
-#include "xlsx/Enumerations.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
-#include "xlsx/chart/AxisLimits.h"
 #include "xlsx/chart/Border.h"
+#include "xlsx/chart/ChartEnumerations.h"
+#include "xlsx/chart/ChartFont.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/GroupAxes.h"
+#include "xlsx/chart/ScaleOfAxis.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 using runtime::Variant;
 
 namespace {
@@ -33,20 +33,20 @@ struct AxisHandle {
 
   pugi::xml_node Node() const {
     const auto axis = FindAxis(*part, type == excel::xlValue);
-    if (!axis) throw RuntimeError(runtime::error::kApplication, "Method of object 'Axis' failed");
+    if (!axis) throw Refusal("Method of object 'Axis' failed");
     return axis;
   }
   std::string Path() const { return "Chart.Axes(" + std::to_string(type) + ", 1)"; }
   const Journal& Log() const { return part->Book().Journal(); }
 };
 
-class Title final : public excel::AxisTitle {
+class AxisTitleObject final : public excel::AxisTitle {
  public:
-  explicit Title(AxisHandle axis) : axis_(std::move(axis)) {}
+  explicit AxisTitleObject(AxisHandle axis) : axis_(std::move(axis)) {}
 
   std::string Text() override {
     const auto title = Node();
-    return schema::Find(title, "tx") ? TitleText(title) : "Axis Title";
+    return xml::Child(title, "tx") ? TitleText(title) : "Axis Title";
   }
   void SetText(std::string_view text) override {
     axis_.Log().Put([this] { return Path(); }, "Text", text);
@@ -58,7 +58,7 @@ class Title final : public excel::AxisTitle {
     return MakeFont(
         *axis_.part,
         [axis = axis_] {
-          return LooksOf(*axis.part, schema::Find(axis.Node(), "title"), TextRole::kAxisTitle);
+          return LooksOf(*axis.part, xml::Child(axis.Node(), "title"), TextRole::kAxisTitle);
         },
         [axis = axis_] { return schema::Ensure(axis.Node(), "title"); }, Path() + ".Font");
   }
@@ -73,18 +73,15 @@ class Title final : public excel::AxisTitle {
     axis_.Log().Put([this] { return Path(); }, "Orientation", orientation);
     const auto rich = xml::Child(Node(), "tx", "rich");
     if (!SetTextOrientation(rich ? rich : schema::Ensure(Node(), "txPr"), orientation)) {
-      throw RuntimeError(runtime::error::kApplication,
-                         "Unable to set the Orientation property of the AxisTitle class");
+      throw CantSet("Orientation", "AxisTitle");
     }
     axis_.part->MarkChanged();
   }
 
  private:
   pugi::xml_node Node() const {
-    const auto title = schema::Find(axis_.Node(), "title");
-    if (!title)
-      throw RuntimeError(runtime::error::kApplication,
-                         "Unable to get the AxisTitle property of the Axis class");
+    const auto title = xml::Child(axis_.Node(), "title");
+    if (!title) throw CantGet("AxisTitle", "Axis");
     return title;
   }
   std::string Path() const { return axis_.Path() + ".AxisTitle"; }
@@ -92,22 +89,22 @@ class Title final : public excel::AxisTitle {
   AxisHandle axis_;
 };
 
-class Ticks final : public excel::TickLabels {
+class TickLabelsObject final : public excel::TickLabels {
  public:
-  explicit Ticks(AxisHandle axis) : axis_(std::move(axis)) {}
+  explicit TickLabelsObject(AxisHandle axis) : axis_(std::move(axis)) {}
 
   bool NumberFormatLinked() override {
-    const auto format = schema::Find(axis_.Node(), "numFmt");
+    const auto format = xml::Child(axis_.Node(), "numFmt");
     return !format || xml::BooleanAttribute(format, "sourceLinked", false);
   }
   std::string NumberFormat() override {
-    return xml::Attribute(schema::Find(axis_.Node(), "numFmt"), "formatCode", "General");
+    return xml::Attribute(xml::Child(axis_.Node(), "numFmt"), "formatCode", "General");
   }
   void SetNumberFormatLinked(bool value) override {
     axis_.Log().Put([this] { return axis_.Path() + ".TickLabels"; }, "NumberFormatLinked", value);
     const pugi::xml_node format = schema::Ensure(axis_.Node(), "numFmt");
     if (!format.attribute("formatCode")) xml::SetAttribute(format, "formatCode", "General");
-    xml::SetAttribute(format, "sourceLinked", value ? "1" : "0");
+    schema::SetBooleanAttribute(format, "sourceLinked", value);
     axis_.part->MarkChanged();
   }
 
@@ -119,25 +116,22 @@ class AxisObject final : public excel::Axis {
  public:
   explicit AxisObject(AxisHandle axis) : axis_(std::move(axis)) {}
 
-  bool HasTitle() override { return static_cast<bool>(schema::Find(axis_.Node(), "title")); }
+  bool HasTitle() override { return static_cast<bool>(xml::Child(axis_.Node(), "title")); }
   void SetHasTitle(bool value) override {
     axis_.Log().Put([this] { return axis_.Path(); }, "HasTitle", value);
     const pugi::xml_node axis = axis_.Node();
     if (!value) {
       schema::Remove(axis, "title");
-    } else if (!schema::Find(axis, "title")) {
+    } else if (!xml::Child(axis, "title")) {
       schema::SetVal(schema::Ensure(axis, "title"), "overlay", "0");
     }
     axis_.part->MarkChanged();
   }
   Ref<excel::AxisTitle> AxisTitle() override {
-    if (!HasTitle()) {
-      throw RuntimeError(runtime::error::kApplication,
-                         "Unable to get the AxisTitle property of the Axis class");
-    }
-    return std::make_shared<Title>(axis_);
+    if (!HasTitle()) throw CantGet("AxisTitle", "Axis");
+    return std::make_shared<AxisTitleObject>(axis_);
   }
-  Ref<excel::TickLabels> TickLabels() override { return std::make_shared<Ticks>(axis_); }
+  Ref<excel::TickLabels> TickLabels() override { return std::make_shared<TickLabelsObject>(axis_); }
   void SetTickLabelPosition(std::int32_t position) override {
     Log("TickLabelPosition", position);
     SetVal(axis_.Node(), "tickLblPos", kTickLabelPositions.Token(position), "TickLabelPosition");
@@ -157,7 +151,7 @@ class AxisObject final : public excel::Axis {
   void SetMajorUnit(double value) override {
     Log("MajorUnit", value);
     const pugi::xml_node axis = Values("MajorUnit");
-    if (!(value > 0) || !std::isfinite(value)) throw CantSet("MajorUnit");
+    if (!(value > 0) || !std::isfinite(value)) throw CantSet("MajorUnit", "Axis");
     schema::SetVal(axis, "majorUnit", xml::Number(value));
     axis_.part->MarkChanged();
   }
@@ -184,7 +178,7 @@ class AxisObject final : public excel::Axis {
     } else if (type == kLogarithmic) {
       schema::SetVal(scaling, "logBase", "10");
     } else {
-      throw CantSet("ScaleType");
+      throw CantSet("ScaleType", "Axis");
     }
     axis_.part->MarkChanged();
   }
@@ -200,7 +194,7 @@ class AxisObject final : public excel::Axis {
       schema::SetVal(units, "builtInUnit", *token);
       schema::Ensure(units, "dispUnitsLbl");
     } else {
-      throw CantSet("DisplayUnit");
+      throw CantSet("DisplayUnit", "Axis");
     }
     axis_.part->MarkChanged();
   }
@@ -208,7 +202,7 @@ class AxisObject final : public excel::Axis {
     Log("Crosses", crosses);
     // the file says it of the axis that crosses
     const pugi::xml_node other = FindCrossedAxis(axis_.Node());
-    if (!other) throw CantSet("Crosses");
+    if (!other) throw CantSet("Crosses", "Axis");
     SetVal(other, "crosses", kCrosses.Token(crosses), "Crosses");
     schema::Remove(other, "crossesAt");
   }
@@ -219,16 +213,12 @@ class AxisObject final : public excel::Axis {
   }
 
  private:
-  static RuntimeError CantSet(const char* property) {
-    return RuntimeError(runtime::error::kApplication,
-                        std::string("Unable to set the ") + property + " property of the Axis class");
-  }
   void Log(const char* property, const Variant& value) const {
     axis_.Log().Put([this] { return axis_.Path(); }, property, value);
   }
   void SetVal(pugi::xml_node axis, const char* name, std::optional<std::string_view> token,
               const char* property) {
-    if (!token) throw CantSet(property);
+    if (!token) throw CantSet(property, "Axis");
     schema::SetVal(axis, name, *token);
     axis_.part->MarkChanged();
   }
@@ -244,21 +234,18 @@ class AxisObject final : public excel::Axis {
   /// The axis, which must be one of values for what the property is.
   pugi::xml_node Values(const char* property) const {
     const pugi::xml_node axis = axis_.Node();
-    if (!xml::Is(axis, "valAx")) throw CantSet(property);
+    if (!xml::Is(axis, "valAx")) throw CantSet(property, "Axis");
     return axis;
   }
   AxisScale Scale(const char* property) const {
     const pugi::xml_node axis = axis_.Node();
-    if (!xml::Is(axis, "valAx")) {
-      throw RuntimeError(runtime::error::kApplication,
-                         std::string("Unable to get the ") + property + " property of the Axis class");
-    }
+    if (!xml::Is(axis, "valAx")) throw CantGet(property, "Axis");
     return ScaleOf(*axis_.part, axis);
   }
   void SetLimit(const char* property, const char* name, double value) {
     Log(property, value);
     const pugi::xml_node scaling = schema::Ensure(Values(property), "scaling");
-    if (!std::isfinite(value)) throw CantSet(property);
+    if (!std::isfinite(value)) throw CantSet(property, "Axis");
     schema::SetVal(scaling, name, xml::Number(value));
     axis_.part->MarkChanged();
   }

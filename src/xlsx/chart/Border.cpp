@@ -1,15 +1,13 @@
 #include "xlsx/chart/Border.h"
 
 #include "host/excel/Constants.h"
-#include "runtime/RuntimeError.h"
-#include "xlsx/Enumerations.h"
+#include "xlsx/Errors.h"
+#include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/package/HexColor.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
-
-using runtime::RuntimeError;
 
 namespace {
 
@@ -33,7 +31,7 @@ class BorderObject final : public excel::Border {
   void SetWeight(std::int32_t weight) override {
     Log("Weight", weight);
     const auto width = kLineWeights.Token(weight);
-    if (!width) throw CantSet("Weight");
+    if (!width) throw CantSet("Weight", "Border");
     Show(Line());
     xml::SetAttribute(Line(), "w", *width);
     element_.part->MarkChanged();
@@ -41,7 +39,7 @@ class BorderObject final : public excel::Border {
 
   void SetColor(std::int32_t color) override {
     Log("Color", color);
-    if (!IsColor(color)) throw CantSet("Color");
+    if (!IsColor(color)) throw CantSet("Color", "Border");
     SetFillColor(SetFill(Line(), "solidFill"), color);
     element_.part->MarkChanged();
   }
@@ -49,10 +47,6 @@ class BorderObject final : public excel::Border {
  private:
   pugi::xml_node Line() const { return schema::Ensure(element_.Properties(), "ln"); }
   static void Show(pugi::xml_node line) { schema::Remove(line, "noFill"); }
-  static RuntimeError CantSet(const char* property) {
-    return RuntimeError(runtime::error::kApplication,
-                        std::string("Unable to set the ") + property + " property of the Border class");
-  }
   void Log(const char* property, std::int32_t value) const {
     element_.Log().Put([this] { return element_.path() + ".Border"; }, property, value);
   }

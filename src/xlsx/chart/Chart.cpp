@@ -3,12 +3,13 @@
 #include <optional>
 #include <string>
 
-#include "runtime/RuntimeError.h"
 #include "xlsx/Application.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/Axis.h"
 #include "xlsx/chart/ChartAreas.h"
 #include "xlsx/chart/ChartDrawing.h"
+#include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/ChartTypes.h"
@@ -23,7 +24,6 @@
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 
 namespace {
 
@@ -31,35 +31,30 @@ constexpr std::int32_t kWidestGap = 500;  // percent of a column's width
 
 std::string Self() { return "Chart"; }
 
-RuntimeError Failed(const char* member) {
-  return RuntimeError(runtime::error::kApplication,
-                      std::string("Unable to get the ") + member + " property of the Chart class");
-}
-
 /// The title that the chart shows; nothing if it shows none. A chart of one series is titled by its name
 /// without a title of its own, as long as nobody took that away.
 std::optional<std::string> ShownTitle(ChartPart& part) {
-  const auto title = schema::Find(part.Chart(), "title");
-  if (title && schema::Find(title, "tx")) return TitleText(title);
+  const auto title = xml::Child(part.Chart(), "title");
+  if (title && xml::Child(title, "tx")) return TitleText(title);
   if (!title && schema::BooleanVal(part.Chart(), "autoTitleDeleted", false)) return std::nullopt;
   const auto series = SeriesOf(part);
   if (series.size() == 1) {
-    const std::string name = SeriesText(series[0]);
+    const std::string name = SeriesName(series[0]);
     if (title || !name.empty()) return name.empty() ? "Chart Title" : name;
   }
   return title ? std::optional<std::string>("Chart Title") : std::nullopt;
 }
 
 pugi::xml_node EnsureTitle(ChartPart& part) {
-  if (const auto title = schema::Find(part.Chart(), "title")) return title;
+  if (const auto title = xml::Child(part.Chart(), "title")) return title;
   const pugi::xml_node title = schema::Ensure(part.Chart(), "title");
   schema::SetVal(title, "overlay", "0");
   return title;
 }
 
-class Title final : public excel::ChartTitle {
+class ChartTitleObject final : public excel::ChartTitle {
  public:
-  explicit Title(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
+  explicit ChartTitleObject(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
 
   std::string Text() override { return ShownTitle(*part_).value_or(std::string()); }
   void SetText(std::string_view text) override {
@@ -72,9 +67,10 @@ class Title final : public excel::ChartTitle {
   std::shared_ptr<ChartPart> part_;
 };
 
-class Group final : public excel::ChartGroup {
+class ChartGroupObject final : public excel::ChartGroup {
  public:
-  Group(std::shared_ptr<ChartPart> part, std::int32_t index) : part_(std::move(part)), index_(index) {}
+  ChartGroupObject(std::shared_ptr<ChartPart> part, std::int32_t index)
+      : part_(std::move(part)), index_(index) {}
 
   void SetGapWidth(std::int32_t percent) override {
     part_->Book().Journal().Put([this] { return "Chart.ChartGroups(" + std::to_string(index_) + ")"; },
@@ -84,8 +80,7 @@ class Group final : public excel::ChartGroup {
                            ? groups[static_cast<std::size_t>(index_) - 1]
                            : pugi::xml_node();
     if (!xml::LocalName(group).starts_with("bar") || percent < 0 || percent > kWidestGap) {
-      throw RuntimeError(runtime::error::kApplication,
-                         "Unable to set the GapWidth property of the ChartGroup class");
+      throw CantSet("GapWidth", "ChartGroup");
     }
     schema::SetVal(group, "gapWidth", std::to_string(percent));
     part_->MarkChanged();
@@ -108,10 +103,7 @@ std::int32_t Chart::ChartType() { return TypeOfChart(*part_); }
 void Chart::SetChartType(std::int32_t type) {
   part_->Book().Journal().Put(Self, "ChartType", type);
   const ChartTypeEntry* entry = FindChartType(type);
-  if (entry == nullptr) {
-    throw RuntimeError(runtime::error::kApplication,
-                       "Unable to set the ChartType property of the Chart class");
-  }
+  if (entry == nullptr) throw CantSet("ChartType", "Chart");
   SetType(*part_, *entry);
 }
 
@@ -128,23 +120,23 @@ void Chart::SetHasTitle(bool value) {
     schema::Remove(chart, "title");
   }
   // without this a chart of one series is titled by its name
-  schema::SetVal(chart, "autoTitleDeleted", value ? "0" : "1");
+  schema::SetBooleanVal(chart, "autoTitleDeleted", !value);
   part_->MarkChanged();
 }
 
 Ref<excel::ChartTitle> Chart::ChartTitle() {
-  if (!ShownTitle(*part_)) throw Failed("ChartTitle");
-  return std::make_shared<Title>(part_);
+  if (!ShownTitle(*part_)) throw CantGet("ChartTitle", "Chart");
+  return std::make_shared<ChartTitleObject>(part_);
 }
 
-bool Chart::HasLegend() { return static_cast<bool>(schema::Find(part_->Chart(), "legend")); }
+bool Chart::HasLegend() { return static_cast<bool>(xml::Child(part_->Chart(), "legend")); }
 
 void Chart::SetHasLegend(bool value) {
   part_->Book().Journal().Put(Self, "HasLegend", value);
   const pugi::xml_node chart = part_->Chart();
   if (!value) {
     schema::Remove(chart, "legend");
-  } else if (!schema::Find(chart, "legend")) {
+  } else if (!xml::Child(chart, "legend")) {
     const pugi::xml_node legend = schema::Ensure(chart, "legend");
     schema::SetVal(legend, "legendPos", kLegendPositions.absent);
     schema::SetVal(legend, "overlay", "0");
@@ -153,7 +145,7 @@ void Chart::SetHasLegend(bool value) {
 }
 
 Ref<excel::Legend> Chart::Legend() {
-  if (!schema::Find(part_->Chart(), "legend")) throw Failed("Legend");
+  if (!xml::Child(part_->Chart(), "legend")) throw CantGet("Legend", "Chart");
   return MakeLegend(part_, frame_);
 }
 
@@ -165,16 +157,14 @@ bool Chart::HasAxis(std::int32_t type) {
 void Chart::SetHasAxis(std::int32_t type, bool value) {
   part_->Book().Journal().Put(Self, "HasAxis(" + std::to_string(type) + ")", value);
   const auto axis = FindAxis(*part_, type == excel::xlValue);
-  if (!axis) {
-    throw RuntimeError(runtime::error::kApplication, "Unable to set the HasAxis property of the Chart class");
-  }
-  schema::SetVal(axis, "delete", value ? "0" : "1");
+  if (!axis) throw CantSet("HasAxis", "Chart");
+  schema::SetBooleanVal(axis, "delete", !value);
   part_->MarkChanged();
 }
 
 Ref<excel::Axis> Chart::Axes(std::int32_t type, std::int32_t group) {
   if (group != excel::xlPrimary || !FindAxis(*part_, type == excel::xlValue)) {
-    throw RuntimeError(runtime::error::kApplication, "Method 'Axes' of object '_Chart' failed");
+    throw MethodFailed("Axes", "_Chart");
   }
   return MakeAxis(part_, type);
 }
@@ -182,9 +172,9 @@ Ref<excel::Axis> Chart::Axes(std::int32_t type, std::int32_t group) {
 Ref<excel::ChartGroup> Chart::ChartGroups(std::int32_t index) {
   const auto groups = DrawnGroups(*part_);
   if (index < 1 || index > static_cast<std::int32_t>(groups.size())) {
-    throw RuntimeError(runtime::error::kApplication, "Method 'ChartGroups' of object '_Chart' failed");
+    throw MethodFailed("ChartGroups", "_Chart");
   }
-  return std::make_shared<Group>(part_, index);
+  return std::make_shared<ChartGroupObject>(part_, index);
 }
 
 Ref<excel::ChartArea> Chart::ChartArea() { return MakeChartArea(part_, frame_); }

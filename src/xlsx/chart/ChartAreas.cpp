@@ -3,9 +3,9 @@
 #include <string>
 
 #include "host/excel/Excel.h"
-#include "runtime/RuntimeError.h"
-#include "xlsx/Enumerations.h"
+#include "xlsx/Errors.h"
 #include "xlsx/chart/Border.h"
+#include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/chart/ChartGeometry.h"
 #include "xlsx/chart/FormattedElement.h"
 #include "xlsx/chart/Interior.h"
@@ -16,7 +16,6 @@
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 using runtime::Variant;
 
 namespace {
@@ -29,9 +28,9 @@ Ref<excel::Interior> InteriorOf(const FormattedElement& area) {
 }
 
 /// One of a pattern's two colours.
-class PatternColor final : public excel::ChartColorFormat {
+class ChartColorFormatObject final : public excel::ChartColorFormat {
  public:
-  PatternColor(FormattedElement area, const char* element, const char* name)
+  ChartColorFormatObject(FormattedElement area, const char* element, const char* name)
       : area_(std::move(area)), element_(element), name_(name) {}
 
   void SetSchemeColor(std::int32_t index) override {
@@ -52,14 +51,14 @@ class PatternColor final : public excel::ChartColorFormat {
   const char* name_;
 };
 
-class AreaFill final : public excel::ChartFillFormat {
+class ChartFillFormatObject final : public excel::ChartFillFormat {
  public:
-  explicit AreaFill(FormattedElement area) : area_(std::move(area)) {}
+  explicit ChartFillFormatObject(FormattedElement area) : area_(std::move(area)) {}
 
   void Patterned(std::int32_t pattern) override {
     area_.Log().Call([this] { return area_.path() + ".Fill"; }, "Patterned", {pattern});
     const auto token = kPatterns.Token(pattern);
-    if (!token) throw RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
+    if (!token) throw OutOfRange();
     const pugi::xml_node fill = SetFill(area_.Properties(), "pattFill");
     xml::SetAttribute(fill, "prst", *token);
     SetFillColor(schema::Ensure(fill, "fgClr"), 0);
@@ -68,10 +67,10 @@ class AreaFill final : public excel::ChartFillFormat {
   }
 
   Ref<excel::ChartColorFormat> ForeColor() override {
-    return std::make_shared<PatternColor>(area_, "fgClr", "ForeColor");
+    return std::make_shared<ChartColorFormatObject>(area_, "fgClr", "ForeColor");
   }
   Ref<excel::ChartColorFormat> BackColor() override {
-    return std::make_shared<PatternColor>(area_, "bgClr", "BackColor");
+    return std::make_shared<ChartColorFormatObject>(area_, "bgClr", "BackColor");
   }
 
   void SetVisible(bool value) override {
@@ -96,7 +95,7 @@ class ChartAreaObject final : public excel::ChartArea {
 
   Ref<excel::Interior> Interior() override { return InteriorOf(area_); }
   Ref<excel::Border> Border() override { return MakeBorder(area_); }
-  Ref<excel::ChartFillFormat> Fill() override { return std::make_shared<AreaFill>(area_); }
+  Ref<excel::ChartFillFormat> Fill() override { return std::make_shared<ChartFillFormatObject>(area_); }
   void SetAutoScaleFont(const Variant& value) override {
     area_.Log().Put(area_.path, "AutoScaleFont", value);
   }

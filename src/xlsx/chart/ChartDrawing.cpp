@@ -3,20 +3,16 @@
 #include <algorithm>
 #include <array>
 
-#include "runtime/RuntimeError.h"
-#include "runtime/Strings.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/ChartGeometry.h"
 #include "xlsx/chart/ChartPart.h"
-#include "xlsx/chart/ChartShape.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/DrawnShapes.h"
 #include "xlsx/package/Namespaces.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
-
-using runtime::RuntimeError;
 
 namespace {
 
@@ -28,18 +24,14 @@ std::string EmptyUserShapes(const Namespaces& names) {
          "\"/>";
 }
 
-const Namespaces& NamesOf(const ChartPart& chart) {
-  return chart.Book().IsStrict() ? kStrict : kTransitional;
-}
-
 /// The drawing's own vocabulary, which is another than that of its root.
 std::string ShapePrefix(pugi::xml_node root, const Namespaces& names) {
   return xml::EnsurePrefix(root, names.chartDrawing, "cdr");
 }
 
-class OnChart final : public DrawnShapes {
+class ChartShapesObject final : public DrawnShapes {
  public:
-  OnChart(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame)
+  ChartShapesObject(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame)
       : part_(std::move(part)), frame_(std::move(frame)) {}
 
   std::int32_t Count() override { return static_cast<std::int32_t>(Drawing().Shapes().size()); }
@@ -74,16 +66,15 @@ class OnChart final : public DrawnShapes {
 ChartDrawing::ChartDrawing(ChartPart& chart) : chart_(chart) {
   const Package& package = chart.Book().Package();
   const auto link =
-      package.FindRelationship(chart.Part(), xml::RelationshipId(schema::Find(chart.Space(), "userShapes")));
+      package.FindRelationship(chart.Part(), xml::RelationshipId(xml::Child(chart.Space(), "userShapes")));
   if (link && !link->external && package.Has(link->target)) part_ = link->target;
   try {
     InPart(part_, [&] {
-      xml::Parse(document_, part_.empty() ? EmptyUserShapes(NamesOf(chart)) : package.Read(part_));
+      xml::Parse(document_, part_.empty() ? EmptyUserShapes(chart.Book().Vocabulary()) : package.Read(part_));
       if (!xml::Is(xml::Root(document_), "userShapes")) throw PackageError("it holds no shapes of a chart");
     });
   } catch (const PackageError& e) {
-    throw RuntimeError(runtime::error::kApplication,
-                       "The chart's shapes can't be read: " + std::string(e.what()) + ".");
+    throw Refusal("The chart's shapes can't be read: " + std::string(e.what()) + ".");
   }
   ForEachAnchor(xml::Root(document_), kAnchors, [this](pugi::xml_node anchor, pugi::xml_node object) {
     shapes_.push_back(std::make_shared<ChartShape>(*this, anchor, object));
@@ -94,36 +85,30 @@ ChartDrawing::~ChartDrawing() = default;
 
 Frame ChartDrawing::Size() const { return ChartSize(frame_); }
 
-std::shared_ptr<ChartShape> ChartDrawing::FindShape(std::string_view name) const {
-  for (const auto& shape : shapes_) {
-    if (runtime::EqualsIgnoreCase(shape->Name(), name)) return shape;
-  }
-  return nullptr;
-}
-
 std::shared_ptr<ChartShape> ChartDrawing::AddAnchor(const Frame& frame, const std::string& object) {
-  pugi::xml_node root = xml::Root(document_);
-  const Namespaces& names = NamesOf(chart_);
-  const std::string marker = "<@from><@x>0</@x><@y>0</@y></@from><@to><@x>0</@x><@y>0</@y></@to>";
-  const std::string xml = Prefixed("<@relSizeAnchor>" + marker + object + "</@relSizeAnchor>",
-                                   ShapePrefix(root, names), xml::EnsurePrefix(root, names.drawing, "a"));
-  root.append_buffer(xml.data(), xml.size(), pugi::parse_default & ~pugi::parse_escapes, pugi::encoding_utf8);
-  const pugi::xml_node anchor = root.last_child();
+  const pugi::xml_node root = xml::Root(document_);
+  const Namespaces& names = chart_.Book().Vocabulary();
+  const std::string corner = "<@x>0</@x><@y>0</@y>";
+  const pugi::xml_node anchor = AppendTemplate(
+      root,
+      "<@relSizeAnchor><@from>" + corner + "</@from><@to>" + corner + "</@to>" + object + "</@relSizeAnchor>",
+      ShapePrefix(root, names), xml::EnsurePrefix(root, names.drawing, "a"));
   auto shape = std::make_shared<ChartShape>(*this, anchor, ObjectOf(anchor));
   shape->Place(frame);
   return shapes_.emplace_back(std::move(shape));
 }
 
+// As Excel counts them, the first id is 2 and the first name has a 1.
+
 std::shared_ptr<ChartShape> ChartDrawing::AddTextbox(const Frame& frame) {
   const unsigned id = NextShapeId(xml::Root(document_));
-  return AddAnchor(frame, TextboxTemplate(id, "TextBox " + std::to_string(id - 1), frame, ""));
+  return AddAnchor(frame, TextboxTemplate(id, FreeName("TextBox", id - 1), ""));
 }
 
 std::shared_ptr<ChartShape> ChartDrawing::AddAutoShape(std::string_view name, std::string_view preset,
                                                        const Frame& frame) {
   const unsigned id = NextShapeId(xml::Root(document_));
-  return AddAnchor(frame,
-                   AutoShapeTemplate(id, std::string(name) + " " + std::to_string(id - 1), frame, preset));
+  return AddAnchor(frame, AutoShapeTemplate(id, FreeName(name, id - 1), preset));
 }
 
 std::shared_ptr<ChartShape> ChartDrawing::Group(const std::vector<std::shared_ptr<DrawnShape>>& shapes) {
@@ -132,9 +117,7 @@ std::shared_ptr<ChartShape> ChartDrawing::Group(const std::vector<std::shared_pt
   for (const auto& shape : shapes_) {
     if (std::find(shapes.begin(), shapes.end(), shape) != shapes.end()) members.push_back(shape);
   }
-  if (members.size() < 2) {
-    throw RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
-  }
+  if (members.size() < 2) throw OutOfRange();
   Frame around = members[0]->PlacedFrame();
   for (const auto& member : members) {
     const Frame frame = member->PlacedFrame();
@@ -146,7 +129,7 @@ std::shared_ptr<ChartShape> ChartDrawing::Group(const std::vector<std::shared_pt
     around.height = bottom - around.top;
   }
   const unsigned id = NextShapeId(xml::Root(document_));
-  const auto group = AddAnchor(around, GroupTemplate(id, "Group " + std::to_string(id - 1), around));
+  const auto group = AddAnchor(around, GroupTemplate(id, FreeName("Group", id - 1), around));
   const pugi::xml_node foremost = members.back()->Anchor();
   foremost.parent().insert_move_after(group->Anchor(), foremost);
   pugi::xml_node object = group->Object();
@@ -166,13 +149,6 @@ std::shared_ptr<ChartShape> ChartDrawing::Group(const std::vector<std::shared_pt
   }
   changed_ = true;
   return group;
-}
-
-void ChartDrawing::Remove(const ChartShape& shape) {
-  pugi::xml_node anchor = shape.Anchor();
-  std::erase_if(shapes_, [&](const auto& other) { return other.get() == &shape; });
-  anchor.parent().remove_child(anchor);
-  changed_ = true;
 }
 
 /// With the chart's link to it. A part that has links of its own stays, without a shape.
@@ -198,8 +174,8 @@ void ChartDrawing::Write() {
   if (empty) {
     if (!part_.empty()) RemovePart();
   } else if (part_.empty()) {
-    const Namespaces& names = NamesOf(chart_);
-    part_ = package.FreeName("/xl/drawings/drawing", ".xml");
+    const Namespaces& names = chart_.Book().Vocabulary();
+    part_ = package.FreeName(chart_.Book().Folder() + "drawings/drawing", ".xml");
     package.Add(part_, content_type::kChartShapes, xml::Serialize(document_));
     const std::string id =
         package.AddRelationship(chart_.Part(), names.RelationshipType("chartUserShapes"), part_);
@@ -213,7 +189,7 @@ void ChartDrawing::Write() {
 }
 
 excel::Ref<excel::Shapes> MakeChartShapes(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame) {
-  return std::make_shared<OnChart>(std::move(part), std::move(frame));
+  return std::make_shared<ChartShapesObject>(std::move(part), std::move(frame));
 }
 
 }  // namespace plotsmith::xlsx

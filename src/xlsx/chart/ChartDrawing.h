@@ -1,24 +1,22 @@
 #pragma once
 
 #include <memory>
-#include <pugixml.hpp>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "host/excel/Shapes.h"
-#include "xlsx/drawing/ShapeXml.h"
+#include "xlsx/chart/ChartShape.h"
+#include "xlsx/drawing/AnchoredShapes.h"
 
 namespace plotsmith::xlsx {
 
 class ChartPart;
-class ChartShape;
-class DrawnShape;
 class SheetShape;
 
 /// What is drawn on a chart itself: the chart's part of user shapes. Anchors there know places as fractions
 /// of the chart. The part comes into being with the first shape and goes with the last.
-class ChartDrawing {
+class ChartDrawing : public AnchoredShapes<ChartShape> {
  public:
   /// Error 1004 if the part can't be read.
   explicit ChartDrawing(ChartPart& chart);
@@ -29,9 +27,6 @@ class ChartDrawing {
   void SetFrame(std::weak_ptr<SheetShape> frame) { frame_ = std::move(frame); }
   /// Width and height in points.
   Frame Size() const;
-  /// From back to front, what is inside a group not counted.
-  const std::vector<std::shared_ptr<ChartShape>>& Shapes() const { return shapes_; }
-  std::shared_ptr<ChartShape> FindShape(std::string_view name) const;
 
   std::shared_ptr<ChartShape> AddTextbox(const Frame& frame);
   /// `name` begins the shape's name, `preset` is its form in the file.
@@ -39,10 +34,6 @@ class ChartDrawing {
                                            const Frame& frame);
   /// Makes shapes one, which lies where the foremost of them lay. Error 1004 if one of them is gone.
   std::shared_ptr<ChartShape> Group(const std::vector<std::shared_ptr<DrawnShape>>& shapes);
-  void Remove(const ChartShape& shape);
-
-  void MarkChanged() { changed_ = true; }
-  bool Changed() const { return changed_; }
   /// Brings the part, and the chart's link to it, up to date.
   void Write();
 
@@ -53,9 +44,6 @@ class ChartDrawing {
   ChartPart& chart_;
   std::weak_ptr<SheetShape> frame_;
   std::string part_;  ///< empty while there is none
-  pugi::xml_document document_;
-  std::vector<std::shared_ptr<ChartShape>> shapes_;
-  bool changed_ = false;
 };
 
 /// The shapes on a chart, for the port.

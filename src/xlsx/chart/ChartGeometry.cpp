@@ -1,10 +1,8 @@
 #include "xlsx/chart/ChartGeometry.h"
 
 #include <algorithm>
-#include <optional>
-#include <string>
 
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/SheetShape.h"
 #include "xlsx/chart/AutomaticLayout.h"
 #include "xlsx/chart/ChartPart.h"
@@ -17,18 +15,13 @@ namespace {
 /// A chart sheet as Excel makes it for paper of letter size.
 constexpr Frame kChartSheet = {0, 0, 682.5, 495};
 
-std::optional<double> Fraction(pugi::xml_node layout, const char* name) {
-  const std::string value = schema::Val(layout, name);
-  return xml::ParseDouble(value);
-}
-
 /// One direction of a manual layout. `factor` is the mode that counts from the automatic place.
 void Apply(pugi::xml_node layout, const char* place, const char* placeMode, const char* size,
            const char* sizeMode, double chart, double& from, double& extent) {
-  if (const auto at = Fraction(layout, place)) {
+  if (const auto at = schema::NumberVal(layout, place)) {
     from = schema::Val(layout, placeMode, "factor") == "edge" ? *at * chart : from + *at * chart;
   }
-  if (const auto length = Fraction(layout, size)) {
+  if (const auto length = schema::NumberVal(layout, size)) {
     extent = schema::Val(layout, sizeMode, "factor") == "edge" ? *length * chart - from : *length * chart;
   }
 }
@@ -45,7 +38,7 @@ Frame ChartSize(const std::weak_ptr<SheetShape>& frame) {
 
 Frame PlotAreaFrame(ChartPart& part, const Frame& chart) {
   Frame area = AutomaticPlotArea(part, chart);
-  const auto layout = schema::Find(schema::Find(part.PlotArea(), "layout"), "manualLayout");
+  const auto layout = xml::Child(part.PlotArea(), "layout", "manualLayout");
   if (!layout) return area;
   const bool inner = schema::Val(layout, "layoutTarget", "outer") == "inner";
   const Edges labels = inner ? TickLabelRoom(part) : Edges();
@@ -58,10 +51,7 @@ Frame PlotAreaFrame(ChartPart& part, const Frame& chart) {
 }
 
 void SetPlotAreaWidth(ChartPart& part, const Frame& chart, double width) {
-  if (!(width > 0)) {
-    throw runtime::RuntimeError(runtime::error::kApplication,
-                                "Unable to set the Width property of the PlotArea class");
-  }
+  if (!(width > 0)) throw CantSet("Width", "PlotArea");
   const Frame area = PlotAreaFrame(part, chart);
   const double widest = chart.width - kChartInset - area.left;
   if (widest > 0) width = std::min(width, widest);

@@ -2,17 +2,16 @@
 
 #include <algorithm>
 
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/ChartDrawing.h"
+#include "xlsx/chart/GroupAxes.h"
 #include "xlsx/chart/PlotGroups.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Namespaces.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
-
-using runtime::RuntimeError;
 
 std::string EmptyChart(bool strict) {
   const Namespaces& names = strict ? kStrict : kTransitional;
@@ -34,14 +33,12 @@ bool ChartPart::IsReadable() {
 pugi::xml_node ChartPart::Space() {
   Load();
   // One chart that can't be read is no reason to give the workbook up: the error is this chart's.
-  if (!document_) {
-    throw RuntimeError(runtime::error::kApplication, "The chart can't be read: " + *unreadable_ + ".");
-  }
+  if (!document_) throw Refusal("The chart can't be read: " + *unreadable_ + ".");
   return xml::Root(*document_);
 }
 
 void ChartPart::Load() {
-  if (document_ || unreadable_) return;
+  if (document_ || unreadable_) return;  // what can't be read isn't tried again at each use
   auto document = std::make_unique<pugi::xml_document>();
   try {
     if (part_.empty()) throw PackageError("the chart's part is missing");
@@ -74,7 +71,7 @@ const Theme& ChartPart::Theme() {
 }
 
 std::optional<std::int32_t> ChartPart::Color(pugi::xml_node holder) {
-  return Theme().Color(holder, schema::Find(Space(), "clrMapOvr"));
+  return Theme().Color(holder, xml::Child(Space(), "clrMapOvr"));
 }
 
 ChartDrawing& ChartPart::Drawing() {
@@ -92,9 +89,7 @@ std::vector<SeriesRef>& ChartPart::Series() {
         series_->push_back(std::make_shared<SeriesEntry>(SeriesEntry{node}));
       }
     }
-    const auto order = [](const SeriesRef& entry) {
-      return xml::IntegerAttribute(schema::Find(entry->node, "order"), "val", 0);
-    };
+    const auto order = [](const SeriesRef& entry) { return schema::IntegerVal(entry->node, "order", 0); };
     std::stable_sort(series_->begin(), series_->end(),
                      [&](const SeriesRef& a, const SeriesRef& b) { return order(a) < order(b); });
   }
@@ -127,12 +122,12 @@ void ChartPart::Follow() {
   walker.followed = followed_;
   document_->traverse(walker);
   changed_ |= walker.changed;
-  attic_.traverse(walker);
+  laidAside_.traverse(walker);
   followed_ = mark;
 }
 
 void ChartPart::Write() {
-  if (!book_.Shifts().None()) Load();
+  if (!book_.Shifts().None()) Load();  // rows have moved under charts that nobody has asked for
   if (!document_) return;
   Follow();
   if (drawing_) drawing_->Write();
@@ -142,13 +137,15 @@ void ChartPart::Write() {
   changed_ = false;
 }
 
-pugi::xml_node ChartPart::LaidAside(const std::string& state) const { return attic_.child(state.c_str()); }
+pugi::xml_node ChartPart::LaidAside(const std::string& state) const {
+  return laidAside_.child(state.c_str());
+}
 
 pugi::xml_node ChartPart::LayAside(const std::string& state) {
   Forget(state);
-  return attic_.append_child(state.c_str());
+  return laidAside_.append_child(state.c_str());
 }
 
-void ChartPart::Forget(const std::string& state) { attic_.remove_child(state.c_str()); }
+void ChartPart::Forget(const std::string& state) { laidAside_.remove_child(state.c_str()); }
 
 }  // namespace plotsmith::xlsx

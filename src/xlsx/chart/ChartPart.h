@@ -2,12 +2,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <optional>
 #include <pugixml.hpp>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "xlsx/drawing/Theme.h"
@@ -75,7 +73,7 @@ class ChartPart {
   std::optional<xlsx::Theme> ownTheme_;
   bool themeKnown_ = false;
   std::unique_ptr<ChartDrawing> drawing_;
-  pugi::xml_document attic_;
+  pugi::xml_document laidAside_;
   std::optional<std::vector<SeriesRef>> series_;
   bool changed_ = false;
   std::size_t followed_ = 0;

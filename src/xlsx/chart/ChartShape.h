@@ -14,24 +14,19 @@ class ChartShape final : public DrawnShape {
  public:
   ChartShape(ChartDrawing& drawing, pugi::xml_node anchor, pugi::xml_node object);
 
-  void Delete() override;
-
   Frame PlacedFrame() const override;
   std::string JournalPath() const override;
   void MarkChanged() override;
   Workbook& Book() const override;
 
-  pugi::xml_node Anchor() const { return anchor_; }
-  ChartDrawing& Owner() const { return drawing_; }
+ protected:
   /// Inside of the chart, as its anchors can't say anything else: what would stick out is moved back, and cut
   /// only if it is larger than the chart.
-  void Place(const Frame& frame) override;
-  /// The shape has become part of another.
-  void Leave();
+  Frame MoveAnchor(const Frame& wanted) override;
+  void RemoveFromDrawing() override;
 
  private:
   ChartDrawing& drawing_;
-  pugi::xml_node anchor_;
 };
 
 }  // namespace plotsmith::xlsx

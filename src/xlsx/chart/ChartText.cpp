@@ -1,107 +1,56 @@
 #include "xlsx/chart/ChartText.h"
 
-#include "xlsx/Workbook.h"
-#include "xlsx/chart/ChartPart.h"
-#include "xlsx/drawing/DrawingFont.h"
+#include "host/excel/Constants.h"
+#include "xlsx/chart/ChartCache.h"
 #include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/drawing/TextBody.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
 
-namespace {
-
-/// A body of text as the schema wants it, with one paragraph.
-pugi::xml_node EnsureText(pugi::xml_node body) {
-  schema::Ensure(body, "bodyPr");
-  schema::Ensure(body, "lstStyle");
-  return schema::Ensure(body, "p");
+std::string TitleText(pugi::xml_node title) {
+  const auto tx = xml::Child(title, "tx");
+  if (const auto rich = xml::Child(tx, "rich")) return BodyText(rich);
+  std::string text;
+  for (const auto& [point, line] : CachedTexts(tx)) text += (text.empty() ? "" : " ") + line;
+  return text;
 }
-
-/// The run properties that the element's font consists of, made where they are missing.
-std::vector<pugi::xml_node> RunProperties(pugi::xml_node element) {
-  std::vector<pugi::xml_node> properties;
-  for (const pugi::xml_node& body : TextBodies(element)) {
-    for (const pugi::xml_node& paragraph : xml::Children(body, "p")) {
-      properties.push_back(schema::Ensure(paragraph, "pPr", "defRPr"));
-      for (const pugi::xml_node& child : paragraph.children()) {
-        if (xml::Is(child, "r") || xml::Is(child, "fld")) properties.push_back(schema::Ensure(child, "rPr"));
-      }
-    }
-  }
-  return properties;
-}
-
-class ChartFont final : public DrawingFont {
- public:
-  ChartFont(ChartPart& part, std::function<std::vector<TextLook>()> looks,
-            std::function<pugi::xml_node()> element, std::string path)
-      : DrawingFont(std::move(path)), part_(part), looks_(std::move(looks)), element_(std::move(element)) {}
-
- private:
-  const Journal& Log() const override { return part_.Book().Journal(); }
-  std::vector<TextLook> Looks() const override { return looks_(); }
-  void ForEachRun(const std::function<void(pugi::xml_node)>& set) override {
-    for (const pugi::xml_node& properties : RunProperties(element_())) set(properties);
-    part_.MarkChanged();
-  }
-
-  ChartPart& part_;
-  std::function<std::vector<TextLook>()> looks_;
-  std::function<pugi::xml_node()> element_;
-};
-
-}  // namespace
 
 void SetTitleText(pugi::xml_node title, std::string_view text) {
   pugi::xml_node tx = schema::Ensure(title, "tx");
   schema::Remove(tx, "strRef");
-  const bool fresh = !schema::Find(tx, "rich");
+  const bool fresh = !xml::Child(tx, "rich");
   pugi::xml_node rich = schema::Ensure(tx, "rich");
-  pugi::xml_node first = EnsureText(rich);
+  pugi::xml_node first = EnsureParagraph(rich);
   if (fresh) {
     // a title that showed a cell's text was dressed by text properties of its own
-    if (const auto own = schema::Find(title, "txPr")) {
+    if (const auto own = xml::Child(title, "txPr")) {
       rich.remove_children();
       for (const pugi::xml_node& child : own.children()) rich.append_copy(child);
-      first = EnsureText(rich);
+      first = EnsureParagraph(rich);
       schema::Remove(first, "endParaRPr");
     }
   }
   schema::Remove(title, "txPr");
 
-  pugi::xml_document dress;  // copies, as the originals go
-  const auto keep = [&](pugi::xml_node node) { return node ? dress.append_copy(node) : pugi::xml_node(); };
-  const auto paragraphProperties = keep(schema::Find(first, "pPr"));
-  const auto runProperties = keep(schema::Find(schema::Find(first, "r"), "rPr"));
-  schema::Remove(rich, "p");
-  for (std::string_view rest = text;;) {
-    const auto end = rest.find('\n');
-    pugi::xml_node paragraph = schema::Insert(rich, "p");
-    if (paragraphProperties) schema::InsertCopy(paragraph, paragraphProperties);
-    pugi::xml_node run = schema::Ensure(paragraph, "r");
-    if (runProperties) {
-      schema::InsertCopy(run, runProperties);
-    } else {
-      xml::SetAttribute(schema::Ensure(run, "rPr"), "lang", "en-US");
-    }
-    xml::SetText(schema::Ensure(run, "t"), rest.substr(0, end));
-    if (end == std::string_view::npos) break;
-    rest.remove_prefix(end + 1);
+  if (!xml::Child(first, "r", "rPr") && !xml::Child(first, "endParaRPr")) {
+    xml::SetAttribute(schema::Ensure(first, "endParaRPr"), "lang", "en-US");
   }
+  SetBodyText(rich, text);
 }
 
 std::vector<pugi::xml_node> TextBodies(pugi::xml_node element) {
   const auto rich = xml::Child(element, "tx", "rich");
   const pugi::xml_node body = rich ? rich : schema::Ensure(element, "txPr");
-  EnsureText(body);
+  EnsureParagraph(body);
   for (const pugi::xml_node& paragraph : xml::Children(body, "p")) {
-    if (!rich && !schema::Find(paragraph, "endParaRPr")) {
+    if (!rich && !xml::Child(paragraph, "endParaRPr")) {
       xml::SetAttribute(schema::Ensure(paragraph, "endParaRPr"), "lang", "en-US");
     }
   }
   std::vector<pugi::xml_node> bodies = {body};
   for (const pugi::xml_node& label : xml::Children(element, "dLbl")) {
-    if (!schema::Find(label, "tx") && !schema::Find(label, "txPr")) continue;
+    if (!xml::Child(label, "tx") && !xml::Child(label, "txPr")) continue;
     const auto own = TextBodies(label);
     bodies.insert(bodies.end(), own.begin(), own.end());
   }
@@ -132,11 +81,6 @@ bool SetTextOrientation(pugi::xml_node body, std::int32_t orientation) {
   xml::SetAttribute(properties, "rot", std::to_string(-degrees * 60000));
   xml::SetAttribute(properties, "vert", direction);
   return true;
-}
-
-excel::Ref<excel::Font> MakeFont(ChartPart& part, std::function<std::vector<TextLook>()> looks,
-                                 std::function<pugi::xml_node()> element, std::string journalPath) {
-  return std::make_shared<ChartFont>(part, std::move(looks), std::move(element), std::move(journalPath));
 }
 
 }  // namespace plotsmith::xlsx

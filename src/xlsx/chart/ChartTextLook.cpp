@@ -16,12 +16,10 @@ constexpr double kTitleGrowth = 1.2;  // of the chart's own size, where it has o
 /// Properties of text, those that win first; null nodes are passed over.
 using Chain = std::vector<pugi::xml_node>;
 
-pugi::xml_node DefaultsOf(pugi::xml_node paragraph) {
-  return schema::Find(schema::Find(paragraph, "pPr"), "defRPr");
-}
+pugi::xml_node DefaultsOf(pugi::xml_node paragraph) { return xml::Child(paragraph, "pPr", "defRPr"); }
 
 /// The properties that a body of text (c:txPr, c:rich) has for all of it.
-pugi::xml_node DefaultsOfBody(pugi::xml_node body) { return DefaultsOf(schema::Find(body, "p")); }
+pugi::xml_node DefaultsOfBody(pugi::xml_node body) { return DefaultsOf(xml::Child(body, "p")); }
 
 std::string AttributeOf(const Chain& chain, const char* name) {
   for (const pugi::xml_node& properties : chain) {
@@ -30,12 +28,8 @@ std::string AttributeOf(const Chain& chain, const char* name) {
   return {};
 }
 
-bool IsOn(const std::string& value, bool fallback) {
-  return value.empty() ? fallback : value == "1" || value == "true" || value == "on";
-}
-
 TextLook Look(ChartPart& part, Chain chain, TextRole role) {
-  const auto chart = DefaultsOfBody(schema::Find(part.Space(), "txPr"));
+  const auto chart = DefaultsOfBody(xml::Child(part.Space(), "txPr"));
   const auto pointsOf = [](const std::string& hundredths) {
     return xml::ParseDouble(hundredths).value_or(0) / 100;
   };
@@ -51,13 +45,13 @@ TextLook Look(ChartPart& part, Chain chain, TextRole role) {
   }
   const bool title = role != TextRole::kOther;
   if (!title) chain.push_back(chart);
-  look.bold = IsOn(AttributeOf(chain, "b"), title);
+  look.bold = xml::ParseBoolean(AttributeOf(chain, "b")).value_or(title);
   if (title) chain.push_back(chart);
-  look.italic = IsOn(AttributeOf(chain, "i"), false);
+  look.italic = xml::ParseBoolean(AttributeOf(chain, "i")).value_or(false);
 
   look.typeface = part.Theme().MinorFont();
   for (const pugi::xml_node& properties : chain) {
-    const std::string typeface = xml::Attribute(schema::Find(properties, "latin"), "typeface");
+    const std::string typeface = xml::Attribute(xml::Child(properties, "latin"), "typeface");
     if (typeface.empty()) continue;
     look.typeface = part.Theme().Typeface(typeface);
     break;
@@ -78,8 +72,8 @@ void AddRuns(ChartPart& part, pugi::xml_node body, const Chain& behind, TextRole
   for (const pugi::xml_node& paragraph : xml::Children(body, "p")) {
     for (const pugi::xml_node& run : paragraph.children()) {
       const bool text = xml::Is(run, "r") || xml::Is(run, "fld");
-      if (!text || xml::Text(schema::Find(run, "t")).empty()) continue;
-      Chain chain = {schema::Find(run, "rPr"), DefaultsOf(paragraph)};
+      if (!text || xml::Text(xml::Child(run, "t")).empty()) continue;
+      Chain chain = {xml::Child(run, "rPr"), DefaultsOf(paragraph)};
       chain.insert(chain.end(), behind.begin(), behind.end());
       looks.push_back(Look(part, std::move(chain), role));
     }
@@ -89,8 +83,8 @@ void AddRuns(ChartPart& part, pugi::xml_node body, const Chain& behind, TextRole
 }  // namespace
 
 std::vector<TextLook> LooksOf(ChartPart& part, pugi::xml_node element, TextRole role) {
-  const auto own = DefaultsOfBody(schema::Find(element, "txPr"));
-  const auto rich = schema::Find(schema::Find(element, "tx"), "rich");
+  const auto own = DefaultsOfBody(xml::Child(element, "txPr"));
+  const auto rich = xml::Child(element, "tx", "rich");
   std::vector<TextLook> looks;
   AddRuns(part, rich, {own}, role, looks);
   if (looks.empty()) looks.push_back(Look(part, {DefaultsOfBody(rich), own}, role));
@@ -98,25 +92,25 @@ std::vector<TextLook> LooksOf(ChartPart& part, pugi::xml_node element, TextRole 
 }
 
 std::vector<TextLook> LooksOfLegend(ChartPart& part, pugi::xml_node legend) {
-  const auto own = DefaultsOfBody(schema::Find(legend, "txPr"));
+  const auto own = DefaultsOfBody(xml::Child(legend, "txPr"));
   std::vector<TextLook> looks = {Look(part, {own}, TextRole::kOther)};
   for (const pugi::xml_node& entry : xml::Children(legend, "legendEntry")) {
     if (schema::BooleanVal(entry, "delete", false)) continue;
-    const auto dress = DefaultsOfBody(schema::Find(entry, "txPr"));
+    const auto dress = DefaultsOfBody(xml::Child(entry, "txPr"));
     if (dress) looks.push_back(Look(part, {dress, own}, TextRole::kOther));
   }
   return looks;
 }
 
 std::vector<TextLook> LooksOfLabels(ChartPart& part, pugi::xml_node labels, std::size_t points) {
-  const auto own = DefaultsOfBody(schema::Find(labels, "txPr"));
+  const auto own = DefaultsOfBody(xml::Child(labels, "txPr"));
   std::vector<TextLook> looks;
   std::size_t special = 0;
   for (const pugi::xml_node& label : xml::Children(labels, "dLbl")) {
     ++special;
     if (schema::BooleanVal(label, "delete", false)) continue;
-    const auto dress = DefaultsOfBody(schema::Find(label, "txPr"));
-    const auto rich = schema::Find(schema::Find(label, "tx"), "rich");
+    const auto dress = DefaultsOfBody(xml::Child(label, "txPr"));
+    const auto rich = xml::Child(label, "tx", "rich");
     const std::size_t before = looks.size();
     AddRuns(part, rich, {dress, own}, TextRole::kOther, looks);
     if (looks.size() == before) looks.push_back(Look(part, {dress, own}, TextRole::kOther));
@@ -124,28 +118,6 @@ std::vector<TextLook> LooksOfLabels(ChartPart& part, pugi::xml_node labels, std:
   // where each point has a label of its own, the common look is nobody's
   if (special < points || looks.empty()) looks.push_back(Look(part, {own}, TextRole::kOther));
   return looks;
-}
-
-std::string TitleText(pugi::xml_node title) {
-  const auto tx = schema::Find(title, "tx");
-  std::string text;
-  if (const auto rich = schema::Find(tx, "rich")) {
-    bool first = true;
-    for (const pugi::xml_node& paragraph : xml::Children(rich, "p")) {
-      if (!std::exchange(first, false)) text += '\n';
-      for (const pugi::xml_node& run : paragraph.children()) {
-        if (xml::Is(run, "br")) text += '\n';
-        if (xml::Is(run, "r") || xml::Is(run, "fld")) text += xml::Text(schema::Find(run, "t"));
-      }
-    }
-    return text;
-  }
-  for (const pugi::xml_node& point :
-       xml::Children(schema::Find(schema::Find(tx, "strRef"), "strCache"), "pt")) {
-    if (!text.empty()) text += ' ';
-    text += xml::Text(schema::Find(point, "v"));
-  }
-  return text;
 }
 
 }  // namespace plotsmith::xlsx

@@ -63,27 +63,6 @@ constexpr std::array<Extra, 5> kCommon = {{
 
 std::string StateOfSeries(pugi::xml_node series) { return "series-" + schema::Val(series, "idx"); }
 
-SeriesTrait TraitOf(pugi::xml_node series) {
-  const std::string_view group = xml::LocalName(series.parent());
-  if (group.starts_with("pie")) {
-    return xml::ParseInteger(schema::Val(series, "explosion")).value_or(0) > 0 ? SeriesTrait::kExploded
-                                                                               : SeriesTrait::kNone;
-  }
-  if (group == "bubbleChart") {
-    return schema::BooleanVal(series, "bubble3D", false) ? SeriesTrait::kBubble3D : SeriesTrait::kFlatBubble;
-  }
-  if (group == "lineChart") {
-    return schema::Val(schema::Find(series, "marker"), "symbol") == "none" ? SeriesTrait::kNoMarkers
-                                                                           : SeriesTrait::kMarkers;
-  }
-  return group == "scatterChart" ? SeriesTrait::kMarkersOnly : SeriesTrait::kNone;
-}
-
-bool IsOfGroup(const ChartTypeEntry& type, pugi::xml_node group) {
-  return xml::Is(group, type.element) && schema::Val(group, "grouping", type.grouping) == type.grouping &&
-         schema::Val(group, "barDir", type.direction) == type.direction;
-}
-
 void KeepAllowedPositions(pugi::xml_node labels, pugi::xml_node group) {
   for (const pugi::xml_node& label : xml::Children(labels, "dLbl")) KeepAllowedPositions(label, group);
   const std::string position = schema::Val(labels, "dLblPos");
@@ -91,7 +70,7 @@ void KeepAllowedPositions(pugi::xml_node labels, pugi::xml_node group) {
 }
 
 void Rename(pugi::xml_node series, const char* from, const char* to) {
-  if (pugi::xml_node data = schema::Find(series, from)) {
+  if (pugi::xml_node data = xml::Child(series, from)) {
     data.set_name((std::string(xml::Prefix(data.name())) + to).c_str());
   }
 }
@@ -105,40 +84,28 @@ void SetTrait(pugi::xml_node series, SeriesTrait trait) {
       schema::SetVal(schema::Ensure(series, "marker"), "symbol", "none");
       break;
     case SeriesTrait::kMarkersOnly:
-      if (const auto properties = schema::Ensure(series, "spPr"); !schema::Find(properties, "ln")) {
+      if (const auto properties = schema::Ensure(series, "spPr"); !xml::Child(properties, "ln")) {
         const pugi::xml_node line = schema::Ensure(properties, "ln");
         xml::SetAttribute(line, "w", kScatterWidth);
         SetFill(line, "noFill");
       }
       [[fallthrough]];
     case SeriesTrait::kMarkers:
-      if (schema::Val(schema::Find(series, "marker"), "symbol") == "none") schema::Remove(series, "marker");
+      if (schema::Val(xml::Child(series, "marker"), "symbol") == "none") schema::Remove(series, "marker");
       break;
     case SeriesTrait::kExploded:
-      if (TraitOf(series) != trait) schema::SetVal(series, "explosion", kExplosion);
+      if (schema::IntegerVal(series, "explosion", 0) <= 0) {
+        schema::SetVal(series, "explosion", kExplosion);
+      }
       break;
     case SeriesTrait::kFlatBubble:
     case SeriesTrait::kBubble3D:
-      schema::SetVal(series, "bubble3D", trait == SeriesTrait::kBubble3D ? "1" : "0");
+      schema::SetBooleanVal(series, "bubble3D", trait == SeriesTrait::kBubble3D);
       break;
   }
 }
 
 }  // namespace
-
-const ChartTypeEntry* TypeOf(pugi::xml_node series) {
-  const SeriesTrait trait = TraitOf(series);
-  const auto type = std::find_if(kChartTypes.begin(), kChartTypes.end(), [&](const ChartTypeEntry& entry) {
-    return entry.trait == trait && IsOfGroup(entry, series.parent());
-  });
-  return type == kChartTypes.end() ? nullptr : &*type;
-}
-
-const ChartTypeEntry* TypeOfGroup(pugi::xml_node group) {
-  const auto type = std::find_if(kChartTypes.begin(), kChartTypes.end(),
-                                 [&](const ChartTypeEntry& entry) { return IsOfGroup(entry, group); });
-  return type == kChartTypes.end() ? nullptr : &*type;
-}
 
 bool AllowsLabelPosition(pugi::xml_node group, std::string_view position) {
   const std::string grouping = schema::Val(group, "grouping");
@@ -148,14 +115,19 @@ bool AllowsLabelPosition(pugi::xml_node group, std::string_view position) {
   });
 }
 
-void FitSeries(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type) {
-  const bool wasLine = static_cast<bool>(schema::Find(series, "smooth"));
+void RemoveMisfits(ChartPart& part, pugi::xml_node series) {
   for (const Extra& extra : kExtras) {
-    if (Lists(extra.groups, type.element)) continue;
-    const auto node = schema::Find(series, extra.name);
+    if (Lists(extra.groups, xml::LocalName(series.parent()))) continue;
+    const auto node = xml::Child(series, extra.name);
     if (node && extra.name == "bubbleSize") part.LayAside(StateOfSeries(series)).append_copy(node);
     schema::Remove(series, extra.name);
   }
+}
+
+void FitToGroup(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type) {
+  // only lines have it, and each that Excel or this host wrote does
+  const bool wasLine = static_cast<bool>(xml::Child(series, "smooth"));
+  RemoveMisfits(part, series);
   if (type.HasXValues()) {
     Rename(series, "cat", "xVal");
     Rename(series, "val", "yVal");
@@ -164,24 +136,28 @@ void FitSeries(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& typ
     Rename(series, "yVal", "val");
   }
   // readers differ in what they take the absence of these two for
-  if ((type.IsBar() || type.IsBubble()) && !schema::Find(series, "invertIfNegative")) {
+  if ((type.IsBar() || type.IsBubble()) && !xml::Child(series, "invertIfNegative")) {
     schema::SetVal(series, "invertIfNegative", "0");
   }
   const bool isLine = type.IsLine() || type.element == "scatterChart";
   if (isLine && !wasLine) schema::SetVal(series, "smooth", "0");
   if (wasLine && !isLine) {
     // a line that isn't shown would be an outline that isn't shown
-    pugi::xml_node properties = schema::Find(series, "spPr");
-    if (xml::Is(FindFill(schema::Find(properties, "ln")), "noFill")) schema::Remove(properties, "ln");
+    pugi::xml_node properties = xml::Child(series, "spPr");
+    if (xml::Is(FindFill(xml::Child(properties, "ln")), "noFill")) schema::Remove(properties, "ln");
   }
-  if (type.IsBubble() && !schema::Find(series, "bubbleSize")) {
-    const auto laidAside = schema::Find(part.LaidAside(StateOfSeries(series)), "bubbleSize");
+  if (type.IsBubble() && !xml::Child(series, "bubbleSize")) {
+    const auto laidAside = xml::Child(part.LaidAside(StateOfSeries(series)), "bubbleSize");
     if (laidAside) schema::InsertCopy(series, laidAside);
   }
-  SetTrait(series, type.trait);
   for (const pugi::xml_node& labels : xml::Children(series, "dLbls")) {
     KeepAllowedPositions(labels, series.parent());
   }
+}
+
+void FitSeries(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type) {
+  FitToGroup(part, series, type);
+  SetTrait(series, type.trait);
 }
 
 void ForgetSeries(ChartPart& part, pugi::xml_node series) { part.Forget(StateOfSeries(series)); }
@@ -189,7 +165,7 @@ void ForgetSeries(ChartPart& part, pugi::xml_node series) { part.Forget(StateOfS
 pugi::xml_node DeriveGroup(pugi::xml_node plotArea, pugi::xml_node old, const ChartTypeEntry& type) {
   pugi::xml_node group = schema::Insert(plotArea, type.element);
   for (const Extra& common : kCommon) {
-    const auto node = schema::Find(old, common.name);
+    const auto node = xml::Child(old, common.name);
     const bool fits = Lists(common.groups, type.element) && Lists(common.groups, xml::LocalName(old));
     if (node && fits) schema::InsertCopy(group, node);
   }
@@ -201,7 +177,7 @@ void FitGroup(pugi::xml_node group, const ChartTypeEntry& type, bool restored) {
   if (!type.grouping.empty()) schema::SetVal(group, "grouping", type.grouping);
   if (restored) return;
   const auto preset = [&](const char* name, std::string_view value) {
-    if (!schema::Find(group, name)) schema::SetVal(group, name, value);
+    if (!xml::Child(group, name)) schema::SetVal(group, name, value);
   };
   preset("varyColors", type.IsPie() ? "1" : "0");
   if (type.IsBar()) preset("gapWidth", "150");

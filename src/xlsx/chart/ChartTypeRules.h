@@ -3,25 +3,22 @@
 #include <pugixml.hpp>
 #include <string_view>
 
-#include "xlsx/Enumerations.h"
+#include "xlsx/chart/ChartTypes.h"
 
+/// What a chart type asks of a group and of its series, and what it doesn't allow them.
 namespace plotsmith::xlsx {
 
 class ChartPart;
-
-/// What a chart type asks of a group and of its series, and what it doesn't allow them.
-
-/// The type of a series, as far as it is one that the host draws; else null.
-const ChartTypeEntry* TypeOf(pugi::xml_node series);
-/// The plainest type of a group; null for one that the host doesn't draw.
-const ChartTypeEntry* TypeOfGroup(pugi::xml_node group);
 
 /// Whether labels in the group may stand at a position (ST_DLblPos). A file that says anything else is one
 /// that Excel refuses.
 bool AllowsLabelPosition(pugi::xml_node group, std::string_view position);
 
-/// Takes from a series what the type's series can't have, and gives it what they must have. The series stands
-/// in a group of the type. Sizes of bubbles are laid aside, and come back.
+/// Takes from a series what no series of its group can have. Sizes of bubbles are laid aside, and come back.
+void RemoveMisfits(ChartPart& part, pugi::xml_node series);
+/// The same, and gives the series what all of the type's group must have. It stands in such a group.
+void FitToGroup(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type);
+/// The same, and what makes a series one of the very type, like markers.
 void FitSeries(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type);
 /// What of a series was laid aside, which goes with it.
 void ForgetSeries(ChartPart& part, pugi::xml_node series);

@@ -6,44 +6,45 @@
 
 #include "host/excel/Constants.h"
 #include "host/excel/DataLabel.h"
-#include "runtime/RuntimeError.h"
-#include "xlsx/Enumerations.h"
+#include "xlsx/Errors.h"
+#include "xlsx/chart/ChartCache.h"
+#include "xlsx/chart/ChartEnumerations.h"
+#include "xlsx/chart/ChartFont.h"
 #include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/ChartTextLook.h"
 #include "xlsx/chart/ChartTypeRules.h"
 #include "xlsx/chart/SeriesData.h"
 #include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/drawing/ShapeEnumerations.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 using runtime::Variant;
 
 namespace {
 
-/// What labels of each type show (XlDataLabelsType).
+// XlDataLabelsType, as far as the system doesn't know it.
+constexpr std::int32_t xlDataLabelsShowNone = -4142, xlDataLabelsShowLabel = 4;
+constexpr std::int32_t xlDataLabelsShowLabelAndPercent = 5, xlDataLabelsShowBubbleSizes = 6;
+
+/// What labels of each type show.
 struct LabelType {
   std::int32_t number;
   bool value, percent, category;
 };
 constexpr std::array<LabelType, 5> kLabelTypes = {{
-    {-4142, false, false, false},  // xlDataLabelsShowNone
-    {2, true, false, false},       // xlDataLabelsShowValue
-    {3, false, true, false},       // xlDataLabelsShowPercent
-    {4, false, false, true},       // xlDataLabelsShowLabel
-    {5, false, true, true},        // xlDataLabelsShowLabelAndPercent
+    {xlDataLabelsShowNone, false, false, false},
+    {excel::xlDataLabelsShowValue, true, false, false},
+    {excel::xlDataLabelsShowPercent, false, true, false},
+    {xlDataLabelsShowLabel, false, false, true},
+    {xlDataLabelsShowLabelAndPercent, false, true, true},
 }};
 constexpr std::array<const char*, 6> kShown = {"showLegendKey", "showVal",     "showCatName",
                                                "showSerName",   "showPercent", "showBubbleSize"};
 /// What a label with a text of its own repeats of its series' labels, as the file has it.
 constexpr std::array<const char*, 5> kRepeated = {"numFmt", "spPr", "txPr", "dLblPos", "separator"};
-
-RuntimeError CantSet(const char* property, const char* of) {
-  return RuntimeError(runtime::error::kApplication,
-                      std::string("Unable to set the ") + property + " property of the " + of + " class");
-}
 
 /// What the labels show, where that is one of the types. What shows more than one thing counts by its value,
 /// then by its percentage: of all it shows, those two can be drawn again.
@@ -52,17 +53,17 @@ Variant TypeOfLabels(pugi::xml_node labels) {
     for (const pugi::xml_node& point : xml::Children(labels, "dLbl")) {
       if (ShowsAnything(point)) return TypeOfLabels(point);
     }
-    return excel::xlNone;
+    return xlDataLabelsShowNone;
   }
   const auto shows = [&](const char* what) { return schema::BooleanVal(labels, what, false); };
-  if (shows("showVal")) return 2;
+  if (shows("showVal")) return excel::xlDataLabelsShowValue;
   for (const LabelType& type : kLabelTypes) {
     if (!type.value && type.percent == shows("showPercent") && type.category == shows("showCatName") &&
         (type.percent || type.category)) {
       return type.number;
     }
   }
-  return shows("showBubbleSize") ? Variant(6) : runtime::kNull;
+  return shows("showBubbleSize") ? Variant(xlDataLabelsShowBubbleSizes) : runtime::kNull;
 }
 
 /// The labels of a series and those of single points, which are told everything again.
@@ -74,28 +75,18 @@ std::vector<pugi::xml_node> AllOf(pugi::xml_node labels) {
   return all;
 }
 
-long long NumberOf(pugi::xml_node label) { return xml::ParseInteger(schema::Val(label, "idx")).value_or(-1); }
-
 /// The label of a point, from 0, which looks like the others until it is told otherwise.
 pugi::xml_node EnsureLabel(pugi::xml_node labels, long long number) {
-  pugi::xml_node follower, label;
-  for (const pugi::xml_node& other : xml::Children(labels, "dLbl")) {
-    if (NumberOf(other) == number) label = other;
-    if (NumberOf(other) > number && !follower) follower = other;
-  }
-  if (label && !schema::BooleanVal(label, "delete", false)) return label;
-  if (!label) {
-    label = schema::Insert(labels, "dLbl");
-    if (follower) labels.insert_move_before(label, follower);
-    schema::SetVal(label, "idx", std::to_string(number));
-  }
+  const auto present = schema::FindNumbered(labels, "dLbl", number);
+  if (present && !schema::BooleanVal(present, "delete", false)) return present;
+  const pugi::xml_node label = schema::EnsureNumbered(labels, "dLbl", number);
   schema::Remove(label, "delete");
   schema::Ensure(label, "layout");
   for (const char* repeated : kRepeated) {
-    if (const auto node = schema::Find(labels, repeated)) schema::InsertCopy(label, node);
+    if (const auto node = xml::Child(labels, repeated)) schema::InsertCopy(label, node);
   }
   for (const char* what : kShown) {
-    schema::SetVal(label, what, schema::BooleanVal(labels, what, false) ? "1" : "0");
+    schema::SetBooleanVal(label, what, schema::BooleanVal(labels, what, false));
   }
   return label;
 }
@@ -107,16 +98,16 @@ void DressRuns(pugi::xml_node label) {
     for (const pugi::xml_node& run : xml::Children(paragraph, "r")) {
       const pugi::xml_node properties = schema::Ensure(run, "rPr");
       for (const pugi::xml_attribute& attribute : dress.attributes()) {
-        xml::SetAttribute(properties, attribute.name(), attribute.value());
+        xml::SetAttribute(properties, attribute.name(), xml::Decode(attribute.value()));
       }
       for (const pugi::xml_node& child : dress.children()) schema::InsertCopy(properties, child);
     }
   }
 }
 
-class Label final : public excel::DataLabel {
+class DataLabelObject final : public excel::DataLabel {
  public:
-  Label(SeriesHandle series, std::int32_t index) : series_(std::move(series)), index_(index) {}
+  DataLabelObject(SeriesHandle series, std::int32_t index) : series_(std::move(series)), index_(index) {}
 
   void SetText(std::string_view text) override {
     series_.Log().Put([this] { return series_.Path() + ".DataLabels(" + std::to_string(index_) + ")"; },
@@ -135,16 +126,16 @@ class Label final : public excel::DataLabel {
   std::int32_t index_;
 };
 
-class Labels final : public excel::DataLabels {
+class DataLabelsObject final : public excel::DataLabels {
  public:
-  explicit Labels(SeriesHandle series) : series_(std::move(series)) {}
+  explicit DataLabelsObject(SeriesHandle series) : series_(std::move(series)) {}
 
   Ref<excel::Font> Font() override {
     return MakeFont(
         *series_.part,
         [series = series_] {
           const auto node = series.Node();
-          return LooksOfLabels(*series.part, FindLabels(node), PointCount(node));
+          return LooksOfLabels(*series.part, FindLabels(node), PointCount(FindValues(node)));
         },
         [series = series_] { return EnsureLabels(series.Node()); }, Path() + ".Font");
   }
@@ -188,12 +179,10 @@ class Labels final : public excel::DataLabels {
     });
   }
 
-  std::int32_t Count() override { return static_cast<std::int32_t>(PointCount(series_.Node())); }
+  std::int32_t Count() override { return static_cast<std::int32_t>(PointCount(FindValues(series_.Node()))); }
   Ref<excel::DataLabel> Item(std::int32_t index) override {
-    if (index < 1 || index > Count()) {
-      throw RuntimeError(runtime::error::kApplication, "Method 'Item' of object 'DataLabels' failed");
-    }
-    return std::make_shared<Label>(series_, index);
+    if (index < 1 || index > Count()) throw MethodFailed("Item", "DataLabels");
+    return std::make_shared<DataLabelObject>(series_, index);
   }
 
  private:
@@ -213,17 +202,17 @@ class Labels final : public excel::DataLabels {
 }  // namespace
 
 Ref<excel::DataLabels> MakeDataLabels(SeriesHandle series) {
-  return std::make_shared<Labels>(std::move(series));
+  return std::make_shared<DataLabelsObject>(std::move(series));
 }
 
 pugi::xml_node FindLabels(pugi::xml_node series) {
-  const auto own = schema::Find(series, "dLbls");
-  return own ? own : schema::Find(series.parent(), "dLbls");
+  const auto own = xml::Child(series, "dLbls");
+  return own ? own : xml::Child(series.parent(), "dLbls");
 }
 
 pugi::xml_node EnsureLabels(pugi::xml_node series) {
-  if (const auto own = schema::Find(series, "dLbls")) return own;
-  const auto common = schema::Find(series.parent(), "dLbls");
+  if (const auto own = xml::Child(series, "dLbls")) return own;
+  const auto common = xml::Child(series.parent(), "dLbls");
   return common ? schema::InsertCopy(series, common) : schema::Ensure(series, "dLbls");
 }
 
@@ -242,7 +231,7 @@ bool ShowLabels(pugi::xml_node labels, std::int32_t type) {
   const auto wanted = std::find_if(kLabelTypes.begin(), kLabelTypes.end(),
                                    [&](const LabelType& entry) { return entry.number == type; });
   if (wanted == kLabelTypes.end()) return false;
-  const auto show = [&](const char* what, bool value) { schema::SetVal(labels, what, value ? "1" : "0"); };
+  const auto show = [&](const char* what, bool value) { schema::SetBooleanVal(labels, what, value); };
   schema::Remove(labels, "delete");
   show("showLegendKey", false);
   show("showVal", wanted->value);

@@ -8,6 +8,7 @@
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
 
@@ -19,7 +20,7 @@ struct FormattedElement {
   std::function<std::string()> path;
 
   /// Null where there are none.
-  pugi::xml_node FindProperties() const { return schema::Find(find(), "spPr"); }
+  pugi::xml_node FindProperties() const { return xml::Child(find(), "spPr"); }
   pugi::xml_node Properties() const { return schema::Ensure(find(), "spPr"); }
   const Journal& Log() const { return part->Book().Journal(); }
 };

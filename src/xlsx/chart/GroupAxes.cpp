@@ -1,11 +1,11 @@
 #include "xlsx/chart/GroupAxes.h"
 
-#include <algorithm>
 #include <set>
 #include <string>
 
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/PlotGroups.h"
+#include "xlsx/chart/SeriesData.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Xml.h"
 
@@ -43,7 +43,7 @@ std::string FreeAxisId(pugi::xml_node plotArea, const std::string& wanted = {}) 
     if (schema::IsAxis(axis)) taken.insert(AxisId(axis));
   }
   if (!wanted.empty() && !taken.contains(wanted)) return wanted;
-  long long id = 111111111;
+  long long id = 111111111;  // any would do; Excel's have nine digits
   while (taken.contains(std::to_string(id))) ++id;
   return std::to_string(id);
 }
@@ -192,7 +192,7 @@ void ArrangeAxes(ChartPart& part, pugi::xml_node group, const std::vector<pugi::
   Link(group, AxisId(value));
   if (type.HasDepthAxis()) {
     if (!roles.depth) {
-      const auto laidAside = schema::Find(state, "serAx");
+      const auto laidAside = xml::Child(state, "serAx");
       roles.depth = laidAside ? Restored(plotArea, laidAside) : NewAxis(plotArea, "serAx");
     }
     schema::SetVal(roles.depth, "crossAx", AxisId(first));
@@ -205,6 +205,23 @@ void ArrangeAxes(ChartPart& part, pugi::xml_node group, const std::vector<pugi::
 void ShareAxes(pugi::xml_node group, pugi::xml_node other) {
   schema::Remove(group, "axId");
   for (const pugi::xml_node& axis : AxesOf(other)) Link(group, AxisId(axis));
+}
+
+void UpdateLinkedFormats(ChartPart& part) {
+  for (const pugi::xml_node& group : GroupsOf(part)) {
+    const auto axes = AxesOf(group);
+    const AxisRoles roles = RolesOf(axes);
+    for (const pugi::xml_node& axis : axes) {
+      const auto linked = xml::Is(axis, "valAx") ? xml::Child(axis, "numFmt") : pugi::xml_node();
+      if (!linked || !xml::BooleanAttribute(linked, "sourceLinked", false)) continue;
+      const auto series = xml::Child(group, "ser");
+      const auto data = axis == roles.x ? xml::Child(series, "xVal") : FindValues(series);
+      const std::string format = schema::Val(group, "grouping") == "percentStacked"
+                                     ? "0%"
+                                     : xml::Text(xml::Child(data, "numRef", "numCache", "formatCode"));
+      if (!format.empty()) xml::SetAttribute(linked, "formatCode", format);
+    }
+  }
 }
 
 }  // namespace plotsmith::xlsx

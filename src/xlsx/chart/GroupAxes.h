@@ -3,13 +3,12 @@
 #include <pugixml.hpp>
 #include <vector>
 
-#include "xlsx/Enumerations.h"
+#include "xlsx/chart/ChartTypes.h"
 
+/// The axes of a chart, and which group hangs on which.
 namespace plotsmith::xlsx {
 
 class ChartPart;
-
-/// The axes of a chart, and which group hangs on which.
 
 /// The axes that a group hangs on, in the order in which it names them.
 std::vector<pugi::xml_node> AxesOf(pugi::xml_node group);
@@ -27,12 +26,18 @@ pugi::xml_node FindAxis(ChartPart& part, bool value);
 pugi::xml_node FindCrossedAxis(pugi::xml_node axis);
 
 /// Gives a group the axes that its type wants, out of those that it had (`old`), of those that an earlier
-/// type left behind, or new ones. The others go. `state` is what was laid aside of the type.
+/// type left behind, or new ones. The others go. `state` is what was laid aside of the type. `familyChanged`
+/// says that the type before crosses its axes elsewhere (CrossBetween), so that what they say of it was meant
+/// for that one.
 void ArrangeAxes(ChartPart& part, pugi::xml_node group, const std::vector<pugi::xml_node>& old,
                  const ChartTypeEntry& type, pugi::xml_node state, bool familyChanged);
 /// Where the value axis of a type of group crosses the other one, unless somebody said otherwise.
 std::string_view CrossBetween(std::string_view groupElement);
 /// Hangs a group on the axes of another.
 void ShareAxes(pugi::xml_node group, pugi::xml_node other);
+
+/// An axis whose labels take the number format of the data also holds it, for readers that don't compute it:
+/// the first series', or percent where the values are shares. Brings that up to date.
+void UpdateLinkedFormats(ChartPart& part);
 
 }  // namespace plotsmith::xlsx

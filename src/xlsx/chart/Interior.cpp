@@ -5,15 +5,13 @@
 #include <string>
 
 #include "host/excel/Constants.h"
-#include "runtime/RuntimeError.h"
-#include "xlsx/Enumerations.h"
+#include "xlsx/Errors.h"
+#include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/package/HexColor.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
-
-using runtime::RuntimeError;
 
 namespace {
 
@@ -41,8 +39,8 @@ std::int32_t NearestIndex(const Styles& styles, std::int32_t color) {
 }
 
 /// The filling as Excel's older object model sees it: a colour, and a pattern with a colour of its own.
-/// What is read from an automatic filling and set on another in any order leaves that with the colour that
-/// was set last.
+/// Fillings are copied property by property: in whatever order that sets an automatic one's on another, the
+/// colour that was set last is seen.
 class InteriorObject final : public excel::Interior {
  public:
   InteriorObject(FormattedElement element, std::function<std::int32_t()> automatic)
@@ -73,7 +71,7 @@ class InteriorObject final : public excel::Interior {
   }
   void SetColor(std::int32_t color) override {
     Log("Color", color);
-    if (!IsColor(color)) throw CantSet("Color");
+    if (!IsColor(color)) throw CantSet("Color", "Interior");
     Paint(color);
   }
 
@@ -101,14 +99,14 @@ class InteriorObject final : public excel::Interior {
       SetFillColor(schema::Ensure(fill, "fgClr"), lines);
       SetFillColor(schema::Ensure(fill, "bgClr"), color);
     } else {
-      throw CantSet("Pattern");
+      throw CantSet("Pattern", "Interior");
     }
   }
 
   std::int32_t PatternColor() override { return LineColor().value_or(kBlack); }
   void SetPatternColor(std::int32_t color) override {
     Log("PatternColor", color);
-    if (!IsColor(color)) throw CantSet("PatternColor");
+    if (!IsColor(color)) throw CantSet("PatternColor", "Interior");
     PaintPattern(color);
   }
   std::int32_t PatternColorIndex() override {
@@ -130,13 +128,13 @@ class InteriorObject final : public excel::Interior {
   /// The main colour of a filling: the ground of a pattern, where a gradient begins. Nothing for a picture,
   /// or none at all.
   std::optional<std::int32_t> ColorOf(pugi::xml_node fill) const {
-    if (xml::Is(fill, "pattFill")) return element_.part->Color(schema::Find(fill, "bgClr"));
+    if (xml::Is(fill, "pattFill")) return element_.part->Color(xml::Child(fill, "bgClr"));
     if (xml::Is(fill, "gradFill")) return element_.part->Color(xml::Child(fill, "gsLst", "gs"));
     return element_.part->Color(fill);
   }
   std::optional<std::int32_t> LineColor() const {
     const auto fill = Fill();
-    return xml::Is(fill, "pattFill") ? element_.part->Color(schema::Find(fill, "fgClr")) : std::nullopt;
+    return xml::Is(fill, "pattFill") ? element_.part->Color(xml::Child(fill, "fgClr")) : std::nullopt;
   }
   void Paint(std::int32_t color) {
     const auto fill = Fill();
@@ -156,10 +154,6 @@ class InteriorObject final : public excel::Interior {
   }
   std::int32_t Nearest(std::int32_t color) const {
     return NearestIndex(element_.part->Book().Styles(), color);
-  }
-  static RuntimeError CantSet(const char* property) {
-    return RuntimeError(runtime::error::kApplication,
-                        std::string("Unable to set the ") + property + " property of the Interior class");
   }
   void Log(const char* property, std::int32_t value) const {
     element_.Log().Put([this] { return element_.path() + ".Interior"; }, property, value);

@@ -3,12 +3,12 @@
 #include <string>
 
 #include "host/excel/Excel.h"
-#include "runtime/RuntimeError.h"
-#include "xlsx/Enumerations.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
+#include "xlsx/chart/ChartEnumerations.h"
+#include "xlsx/chart/ChartFont.h"
 #include "xlsx/chart/ChartGeometry.h"
 #include "xlsx/chart/ChartPart.h"
-#include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/LegendEntries.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Xml.h"
@@ -16,7 +16,6 @@
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 using runtime::Variant;
 
 namespace {
@@ -26,16 +25,6 @@ std::string Path() { return "Chart.Legend"; }
 /// Where a legend begins by itself, roughly, as fractions of the chart.
 constexpr double kNear = 0.02, kMiddle = 0.4, kFar = 0.8;
 
-RuntimeError CantGet(const char* property) {
-  return RuntimeError(runtime::error::kApplication,
-                      std::string("Unable to get the ") + property + " property of the Legend class");
-}
-
-RuntimeError CantSet(const char* property) {
-  return RuntimeError(runtime::error::kApplication,
-                      std::string("Unable to set the ") + property + " property of the Legend class");
-}
-
 class LegendObject final : public excel::Legend {
  public:
   LegendObject(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame)
@@ -43,7 +32,7 @@ class LegendObject final : public excel::Legend {
 
   Ref<excel::Font> Font() override {
     return MakeFont(
-        *part_, [part = part_] { return LooksOfLegend(*part, schema::Find(part->Chart(), "legend")); },
+        *part_, [part = part_] { return LooksOfLegend(*part, xml::Child(part->Chart(), "legend")); },
         [part = part_] { return schema::Ensure(part->Chart(), "legend"); }, Path() + ".Font");
   }
 
@@ -57,17 +46,17 @@ class LegendObject final : public excel::Legend {
     const auto legend = Node();
     const auto position = kLegendPositions.Number(schema::Val(legend, "legendPos", kLegendPositions.absent));
     // where it was dragged to is no position
-    if (!position || PlaceOf(legend)) throw CantGet("Position");
+    if (!position || PlaceOf(legend)) throw CantGet("Position", "Legend");
     return *position;
   }
   void SetPosition(std::int32_t position) override {
     part_->Book().Journal().Put(Path, "Position", position);
     const auto token = kLegendPositions.Token(position);
-    if (!token) throw CantSet("Position");
+    if (!token) throw CantSet("Position", "Legend");
     const pugi::xml_node legend = Node();
     schema::SetVal(legend, "legendPos", *token);
     // a place taken by hand would win over the position
-    schema::Remove(schema::Find(legend, "layout"), "manualLayout");
+    schema::Remove(xml::Child(legend, "layout"), "manualLayout");
     part_->MarkChanged();
   }
 
@@ -83,23 +72,21 @@ class LegendObject final : public excel::Legend {
 
  private:
   pugi::xml_node Node() const {
-    const auto legend = schema::Find(part_->Chart(), "legend");
-    if (!legend)
-      throw RuntimeError(runtime::error::kApplication,
-                         "Unable to get the Legend property of the Chart class");
+    const auto legend = xml::Child(part_->Chart(), "legend");
+    if (!legend) throw CantGet("Legend", "Chart");
     return legend;
   }
 
   /// The layout of a legend that stands where somebody put it; one that only has its size from there doesn't.
   static pugi::xml_node PlaceOf(pugi::xml_node legend) {
-    const auto layout = schema::Find(schema::Find(legend, "layout"), "manualLayout");
-    return schema::Find(layout, "x") || schema::Find(layout, "y") ? layout : pugi::xml_node();
+    const auto layout = xml::Child(legend, "layout", "manualLayout");
+    return xml::Child(layout, "x") || xml::Child(layout, "y") ? layout : pugi::xml_node();
   }
 
   /// A coordinate as a fraction of the chart. Without a place of its own, a guess: in the middle of its side.
   double Place(const char* coordinate) const {
     const auto layout = PlaceOf(Node());
-    const auto value = xml::ParseDouble(schema::Val(layout, coordinate));
+    const auto value = schema::NumberVal(layout, coordinate);
     const bool horizontal = std::string_view(coordinate) == "x";
     if (value && schema::Val(layout, horizontal ? "xMode" : "yMode") == "edge") return *value;
     const std::string side = schema::Val(Node(), "legendPos", kLegendPositions.absent);
@@ -111,7 +98,7 @@ class LegendObject final : public excel::Legend {
 
   void SetPlace(const char* property, const char* mode, const char* fraction, double points, double extent) {
     part_->Book().Journal().Put(Path, property, points);
-    if (!(points >= 0 && points <= extent) || extent <= 0) throw CantSet(property);
+    if (!(points >= 0 && points <= extent) || extent <= 0) throw CantSet(property, "Legend");
     const pugi::xml_node layout = schema::Ensure(Node(), "layout", "manualLayout");
     schema::SetVal(layout, mode, "edge");
     schema::SetVal(layout, fraction, xml::Number(points / extent));

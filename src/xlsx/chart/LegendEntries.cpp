@@ -1,12 +1,14 @@
 #include "xlsx/chart/LegendEntries.h"
 
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "host/excel/LegendEntry.h"
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
+#include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/PlotGroups.h"
 #include "xlsx/chart/SeriesData.h"
@@ -16,13 +18,10 @@
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 
 namespace {
 
-pugi::xml_node FindLegend(ChartPart& part) { return schema::Find(part.Chart(), "legend"); }
-
-long long NumberOf(pugi::xml_node entry) { return xml::ParseInteger(schema::Val(entry, "idx")).value_or(-1); }
+pugi::xml_node FindLegend(ChartPart& part) { return xml::Child(part.Chart(), "legend"); }
 
 /// Whether the legend tells points apart: of a pie always, else of a single series in varied colours.
 bool ListsPoints(ChartPart& part) {
@@ -35,70 +34,57 @@ bool ListsPoints(ChartPart& part) {
 
 std::size_t AllEntries(ChartPart& part) {
   if (part.Series().empty()) return 0;
-  return ListsPoints(part) ? PointCount(part.Series()[0]->node) : part.Series().size();
+  return ListsPoints(part) ? PointCount(FindValues(part.Series()[0]->node)) : part.Series().size();
 }
 
 /// The numbers of the entries that are left.
 std::vector<std::size_t> EntriesLeft(ChartPart& part) {
   std::set<long long> deleted;
   for (const pugi::xml_node& entry : xml::Children(FindLegend(part), "legendEntry")) {
-    if (schema::BooleanVal(entry, "delete", false)) deleted.insert(NumberOf(entry));
+    if (schema::BooleanVal(entry, "delete", false)) deleted.insert(schema::NumberOf(entry));
   }
   std::vector<std::size_t> left;
-  for (std::size_t i = 0; i < AllEntries(part); ++i) {
+  const std::size_t all = AllEntries(part);
+  for (std::size_t i = 0; i < all; ++i) {
     if (!deleted.contains(static_cast<long long>(i))) left.push_back(i);
   }
   return left;
 }
 
-class Entry final : public excel::LegendEntry {
+class LegendEntryObject final : public excel::LegendEntry {
  public:
-  Entry(std::shared_ptr<ChartPart> part, std::size_t number, std::int32_t place)
+  LegendEntryObject(std::shared_ptr<ChartPart> part, std::size_t number, std::int32_t place)
       : part_(std::move(part)), number_(number), place_(place) {}
 
   void Delete() override {
     part_->Book().Journal().Call(
         [this] { return "Chart.Legend.LegendEntries(" + std::to_string(place_) + ")"; }, "Delete");
     const auto legend = FindLegend(*part_);
-    if (!legend)
-      throw RuntimeError(runtime::error::kApplication, "Delete method of LegendEntry class failed");
-    const pugi::xml_node entry = Node(legend);
+    if (!legend) throw Refusal("Delete method of LegendEntry class failed");
+    const pugi::xml_node entry =
+        schema::EnsureNumbered(legend, "legendEntry", static_cast<long long>(number_));
     schema::Remove(entry, "txPr");
     schema::SetVal(entry, "delete", "1");
     part_->MarkChanged();
   }
 
  private:
-  /// The entry's element, made among the others by its number.
-  pugi::xml_node Node(pugi::xml_node legend) const {
-    const auto number = static_cast<long long>(number_);
-    pugi::xml_node follower;
-    for (const pugi::xml_node& entry : xml::Children(legend, "legendEntry")) {
-      if (NumberOf(entry) == number) return entry;
-      if (NumberOf(entry) > number && !follower) follower = entry;
-    }
-    pugi::xml_node entry = schema::Insert(legend, "legendEntry");
-    if (follower) legend.insert_move_before(entry, follower);
-    schema::SetVal(entry, "idx", std::to_string(number));
-    return entry;
-  }
-
   std::shared_ptr<ChartPart> part_;
   std::size_t number_;
   std::int32_t place_;
 };
 
-class Entries final : public excel::LegendEntries {
+class LegendEntriesObject final : public excel::LegendEntries {
  public:
-  explicit Entries(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
+  explicit LegendEntriesObject(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
 
   std::int32_t Count() override { return static_cast<std::int32_t>(EntriesLeft(*part_).size()); }
   Ref<excel::LegendEntry> Item(std::int32_t index) override {
     const auto left = EntriesLeft(*part_);
     if (index < 1 || index > static_cast<std::int32_t>(left.size())) {
-      throw RuntimeError(runtime::error::kApplication, "Method 'Item' of object 'LegendEntries' failed");
+      throw MethodFailed("Item", "LegendEntries");
     }
-    return std::make_shared<Entry>(part_, left[static_cast<std::size_t>(index) - 1], index);
+    return std::make_shared<LegendEntryObject>(part_, left[static_cast<std::size_t>(index) - 1], index);
   }
 
  private:
@@ -108,7 +94,23 @@ class Entries final : public excel::LegendEntries {
 }  // namespace
 
 Ref<excel::LegendEntries> MakeLegendEntries(std::shared_ptr<ChartPart> part) {
-  return std::make_shared<Entries>(std::move(part));
+  return std::make_shared<LegendEntriesObject>(std::move(part));
+}
+
+std::vector<std::string> LegendTexts(ChartPart& part) {
+  const bool points = ListsPoints(part);
+  const auto categories =
+      points ? CachedTexts(xml::Child(part.Series()[0]->node, "cat")) : std::map<std::size_t, std::string>();
+  std::vector<std::string> texts;
+  for (const std::size_t number : EntriesLeft(part)) {
+    if (!points) {
+      texts.push_back(ShownName(part.Series()[number]->node));
+    } else {
+      const auto text = categories.find(number);
+      texts.push_back(text == categories.end() ? std::to_string(number + 1) : text->second);
+    }
+  }
+  return texts;
 }
 
 void DropLegendEntry(ChartPart& part, std::size_t position) {
@@ -116,7 +118,7 @@ void DropLegendEntry(ChartPart& part, std::size_t position) {
   const bool last = part.Series().size() == 1;
   const bool points = ListsPoints(part);
   for (pugi::xml_node& entry : xml::Children(legend, "legendEntry")) {
-    const long long number = NumberOf(entry), gone = static_cast<long long>(position);
+    const long long number = schema::NumberOf(entry), gone = static_cast<long long>(position);
     if (last || (number == gone && !points)) {
       legend.remove_child(entry);
     } else if (number > gone && !points) {
@@ -125,11 +127,11 @@ void DropLegendEntry(ChartPart& part, std::size_t position) {
   }
 }
 
-void WelcomeLegendEntry(ChartPart& part, std::size_t position) {
+void ClearStaleLegendEntries(ChartPart& part, std::size_t position) {
   pugi::xml_node legend = FindLegend(part);
   if (!part.Series().empty() && ListsPoints(part)) return;
   for (pugi::xml_node& entry : xml::Children(legend, "legendEntry")) {
-    if (NumberOf(entry) >= static_cast<long long>(position)) legend.remove_child(entry);
+    if (schema::NumberOf(entry) >= static_cast<long long>(position)) legend.remove_child(entry);
   }
 }
 

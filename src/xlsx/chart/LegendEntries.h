@@ -2,6 +2,8 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "host/excel/LegendEntries.h"
 
@@ -13,10 +15,13 @@ class ChartPart;
 /// The file only names those that somebody deleted or dressed, by their numbers.
 excel::Ref<excel::LegendEntries> MakeLegendEntries(std::shared_ptr<ChartPart> part);
 
-/// Keeps the numbers right. Before the series at a place, from 0, is deleted: its entry goes with it, and
-/// those behind it move up.
+/// What the entries that are left say, from the first.
+std::vector<std::string> LegendTexts(ChartPart& part);
+
+/// Entries go by the places of their series, so whoever adds or deletes a series says so here. Before the one
+/// at a place, from 0, is deleted: its entry goes with it, and those behind it move up.
 void DropLegendEntry(ChartPart& part, std::size_t position);
-/// A new series at a place has an entry, whatever another one there once had.
-void WelcomeLegendEntry(ChartPart& part, std::size_t position);
+/// Before a series is added behind the last: what the file still says of an entry there was another series'.
+void ClearStaleLegendEntries(ChartPart& part, std::size_t position);
 
 }  // namespace plotsmith::xlsx

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "xlsx/Enumerations.h"
+#include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/HexColor.h"
@@ -18,14 +18,14 @@ bool HasMarkers(pugi::xml_node group) {
   return kind == "lineChart" || kind == "scatterChart" || kind == "radarChart";
 }
 
-bool IsValid(MarkerPart which, std::int32_t value) {
+bool IsValid(MarkerProperty which, std::int32_t value) {
   switch (which) {
-    case MarkerPart::kStyle:
+    case MarkerProperty::kStyle:
       return kMarkerStyles.Token(value).has_value();
-    case MarkerPart::kSize:
+    case MarkerProperty::kSize:
       return value >= kLeastSize && value <= kGreatestSize;
-    case MarkerPart::kOutline:
-    case MarkerPart::kFilling:
+    case MarkerProperty::kOutline:
+    case MarkerProperty::kFilling:
       break;
   }
   return IsColor(value);
@@ -33,20 +33,20 @@ bool IsValid(MarkerPart which, std::int32_t value) {
 
 }  // namespace
 
-bool SetMarker(pugi::xml_node series, MarkerPart which, std::int32_t value) {
+bool SetMarker(pugi::xml_node series, MarkerProperty which, std::int32_t value) {
   if (!HasMarkers(series.parent()) || !IsValid(which, value)) return false;
   const pugi::xml_node marker = schema::Ensure(series, "marker");
   switch (which) {
-    case MarkerPart::kOutline:
+    case MarkerProperty::kOutline:
       SetFillColor(SetFill(schema::Ensure(marker, "spPr", "ln"), "solidFill"), value);
       break;
-    case MarkerPart::kFilling:
+    case MarkerProperty::kFilling:
       SetFillColor(SetFill(schema::Ensure(marker, "spPr"), "solidFill"), value);
       break;
-    case MarkerPart::kStyle:
+    case MarkerProperty::kStyle:
       schema::SetVal(marker, "symbol", *kMarkerStyles.Token(value));
       break;
-    case MarkerPart::kSize:
+    case MarkerProperty::kSize:
       schema::SetVal(marker, "size", std::to_string(value));
       break;
   }

@@ -6,23 +6,21 @@
 #include <set>
 #include <string>
 
-#include "runtime/RuntimeError.h"
+#include "host/excel/Constants.h"
+#include "xlsx/Errors.h"
 #include "xlsx/chart/ChartTypeRules.h"
+#include "xlsx/chart/ChartTypes.h"
 #include "xlsx/chart/GroupAxes.h"
 #include "xlsx/chart/LegendEntries.h"
-#include "xlsx/chart/SeriesData.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/FreeNumber.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
 
-using runtime::RuntimeError;
-
 namespace {
 
-constexpr std::int32_t kClusteredColumns = 51;
-constexpr std::array<std::string_view, 4> kStageElements = {"view3D", "floor", "sideWall", "backWall"};
+constexpr std::array<std::string_view, 4> k3DViewElements = {"view3D", "floor", "sideWall", "backWall"};
 
 /// The name under which what belongs to the group's type is laid aside.
 std::string StateName(pugi::xml_node group) {
@@ -34,15 +32,15 @@ std::string StateName(const ChartTypeEntry& type) {
   return std::string(type.element) + "-" + std::string(type.direction) + "-" + std::string(type.grouping);
 }
 
-/// Copies of the group without its series, of the stage of a 3-D chart, of the depth axis, and where the
-/// value axis crosses: all that a type has to itself.
+/// Copies of the group without its series, of the view, floor and walls of a 3-D chart, of the depth axis,
+/// and where the value axis crosses: all that a type has to itself.
 void LayTypeAside(ChartPart& part, pugi::xml_node group) {
   pugi::xml_node state = part.LayAside(StateName(group));
   pugi::xml_node kept = state.append_copy(group);
   schema::Remove(kept, "ser");
   schema::Remove(kept, "axId");
-  for (const std::string_view stage : kStageElements) {
-    if (const auto node = schema::Find(part.Chart(), stage)) state.append_copy(node);
+  for (const std::string_view element : k3DViewElements) {
+    if (const auto node = xml::Child(part.Chart(), element)) state.append_copy(node);
   }
   const AxisRoles roles = RolesOf(AxesOf(group));
   if (roles.depth) state.append_copy(roles.depth);
@@ -53,7 +51,7 @@ void LayTypeAside(ChartPart& part, pugi::xml_node group) {
 /// The group of the type as it was laid aside, else one like an old one.
 pugi::xml_node MakeGroup(ChartPart& part, pugi::xml_node old, const ChartTypeEntry& type,
                          pugi::xml_node state) {
-  const auto laidAside = schema::Find(state, type.element);
+  const auto laidAside = xml::Child(state, type.element);
   const pugi::xml_node group =
       laidAside ? schema::InsertCopy(part.PlotArea(), laidAside) : DeriveGroup(part.PlotArea(), old, type);
   FitGroup(group, type, static_cast<bool>(laidAside));
@@ -62,20 +60,20 @@ pugi::xml_node MakeGroup(ChartPart& part, pugi::xml_node old, const ChartTypeEnt
 
 /// View, floor and walls: of the type laid aside, else as they are if they are of the same kind, else Excel's
 /// own.
-void ArrangeStage(pugi::xml_node chart, const ChartTypeEntry& type, pugi::xml_node state, bool sameKind) {
+void Arrange3DView(pugi::xml_node chart, const ChartTypeEntry& type, pugi::xml_node state, bool sameKind) {
   if (!type.Is3D() || state || !sameKind) {
-    for (const std::string_view stage : kStageElements) schema::Remove(chart, stage);
+    for (const std::string_view element : k3DViewElements) schema::Remove(chart, element);
   }
   if (!type.Is3D()) return;
-  for (const std::string_view stage : kStageElements) {
-    if (const auto node = schema::Find(state, stage)) schema::InsertCopy(chart, node);
+  for (const std::string_view element : k3DViewElements) {
+    if (const auto node = xml::Child(state, element)) schema::InsertCopy(chart, node);
   }
-  if (state || schema::Find(chart, "view3D")) return;
+  if (state || xml::Child(chart, "view3D")) return;
   pugi::xml_node view = schema::Ensure(chart, "view3D");
   schema::SetVal(view, "rotX", type.IsPie() ? "30" : "15");
   schema::SetVal(view, "rotY", type.IsPie() ? "0" : "20");
   const bool perspective = type.HasDepthAxis() || type.IsPie();
-  schema::SetVal(view, "rAngAx", perspective ? "0" : "1");
+  schema::SetBooleanVal(view, "rAngAx", !perspective);
   if (perspective) schema::SetVal(view, "perspective", "30");
   if (type.IsPie()) return;
   for (const std::string_view surface : {"floor", "sideWall", "backWall"}) {
@@ -102,8 +100,7 @@ void PutInDrawingOrder(pugi::xml_node group) {
 }
 
 [[noreturn]] void CantCombine() {
-  throw RuntimeError(runtime::error::kApplication,
-                     "Some chart types cannot be combined with other chart types.");
+  throw Refusal("Some chart types cannot be combined with other chart types.");
 }
 
 }  // namespace
@@ -118,7 +115,7 @@ std::vector<pugi::xml_node> GroupsOf(ChartPart& part) {
 
 std::vector<pugi::xml_node> DrawnGroups(ChartPart& part) {
   auto groups = GroupsOf(part);
-  std::erase_if(groups, [](pugi::xml_node group) { return !schema::Find(group, "ser"); });
+  std::erase_if(groups, [](pugi::xml_node group) { return !xml::Child(group, "ser"); });
   std::stable_sort(groups.begin(), groups.end(),
                    [](pugi::xml_node a, pugi::xml_node b) { return DrawingRank(a) < DrawingRank(b); });
   return groups;
@@ -131,22 +128,25 @@ std::vector<pugi::xml_node> SeriesOf(ChartPart& part) {
 }
 
 SeriesRef AddSeries(ChartPart& part) {
-  if (GroupsOf(part).empty()) SetType(part, *FindChartType(kClusteredColumns));
+  if (GroupsOf(part).empty()) SetType(part, *FindChartType(excel::xlColumnClustered));
   auto& all = part.Series();
   std::set<long long> indices, orders;
   for (const SeriesRef& entry : all) {
-    indices.insert(xml::IntegerAttribute(schema::Find(entry->node, "idx"), "val", 0));
-    orders.insert(xml::IntegerAttribute(schema::Find(entry->node, "order"), "val", 0));
+    indices.insert(schema::IntegerVal(entry->node, "idx", 0));
+    orders.insert(schema::IntegerVal(entry->node, "order", 0));
   }
   constexpr long long kLast = std::numeric_limits<std::int32_t>::max();
   const pugi::xml_node last = all.empty() ? pugi::xml_node() : all.back()->node;
   const pugi::xml_node group = last ? last.parent() : GroupsOf(part)[0];
-  const ChartTypeEntry* type = last ? TypeOf(last) : TypeOfGroup(group);
   pugi::xml_node series = schema::Insert(group, "ser");
   schema::SetVal(series, "idx", std::to_string(FreeNumber(indices, 0, kLast)));
   schema::SetVal(series, "order", std::to_string(FreeNumber(orders, 0, kLast)));
-  if (type != nullptr) FitSeries(part, series, *type);
-  WelcomeLegendEntry(part, all.size());
+  if (const ChartTypeEntry* type = FindChartType(TypeOfSeries(last ? last : series))) {
+    FitSeries(part, series, *type);
+  } else if (const ChartTypeEntry* ofGroup = TypeOfGroup(group)) {
+    FitToGroup(part, series, *ofGroup);
+  }
+  ClearStaleLegendEntries(part, all.size());
   all.push_back(std::make_shared<SeriesEntry>(SeriesEntry{series}));
   part.MarkChanged();
   return all.back();
@@ -188,9 +188,9 @@ void SetType(ChartPart& part, const ChartTypeEntry& type) {
   for (const pugi::xml_node& node : series) FitSeries(part, node, type);
   const bool familyChanged = kind.empty() || CrossBetween(kind) != CrossBetween(type.element);
   ArrangeAxes(part, group, axes, type, state, familyChanged);
-  ArrangeStage(part.Chart(), type, state, kind.starts_with("pie") == type.IsPie());
+  Arrange3DView(part.Chart(), type, state, kind.starts_with("pie") == type.IsPie());
   // Excel takes its absence for a gap, where others take it for zero; a pivot has blanks
-  if (!schema::Find(part.Chart(), "dispBlanksAs")) schema::SetVal(part.Chart(), "dispBlanksAs", "gap");
+  if (!xml::Child(part.Chart(), "dispBlanksAs")) schema::SetVal(part.Chart(), "dispBlanksAs", "gap");
 }
 
 void SetSeriesType(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type) {
@@ -224,26 +224,9 @@ void SetSeriesType(ChartPart& part, pugi::xml_node series, const ChartTypeEntry&
   }
   if (target != group) schema::InsertMoved(target, series);
   FitSeries(part, series, type);
-  if (!schema::Find(group, "ser")) {
+  if (!xml::Child(group, "ser")) {
     LayTypeAside(part, group);
     group.parent().remove_child(group);
-  }
-}
-
-void UpdateLinkedFormats(ChartPart& part) {
-  for (const pugi::xml_node& group : GroupsOf(part)) {
-    const auto axes = AxesOf(group);
-    const AxisRoles roles = RolesOf(axes);
-    for (const pugi::xml_node& axis : axes) {
-      const auto linked = xml::Is(axis, "valAx") ? schema::Find(axis, "numFmt") : pugi::xml_node();
-      if (!linked || !xml::BooleanAttribute(linked, "sourceLinked", false)) continue;
-      const auto series = schema::Find(group, "ser");
-      const auto data = axis == roles.x ? schema::Find(series, "xVal") : FindValues(series);
-      const std::string format = schema::Val(group, "grouping") == "percentStacked"
-                                     ? "0%"
-                                     : xml::Text(xml::Child(data, "numRef", "numCache", "formatCode"));
-      if (!format.empty()) xml::SetAttribute(linked, "formatCode", format);
-    }
   }
 }
 

@@ -3,14 +3,13 @@
 #include <pugixml.hpp>
 #include <vector>
 
-#include "xlsx/Enumerations.h"
 #include "xlsx/chart/ChartPart.h"
-
-namespace plotsmith::xlsx {
+#include "xlsx/chart/ChartTypes.h"
 
 /// The plot groups of a chart and their series.
+namespace plotsmith::xlsx {
 
-/// In the order of the part.
+/// All groups, in the order of the part.
 std::vector<pugi::xml_node> GroupsOf(ChartPart& part);
 /// Those that have a series, in the order in which they are drawn: areas, columns, lines, points.
 std::vector<pugi::xml_node> DrawnGroups(ChartPart& part);
@@ -32,9 +31,5 @@ void SetType(ChartPart& part, const ChartTypeEntry& type);
 /// group, so that another stacking of columns takes all columns with it. Error 1004 where the type can't
 /// stand beside the others.
 void SetSeriesType(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type);
-
-/// An axis whose labels take the number format of the data also holds it, for readers that don't compute it:
-/// the first series', or percent where the values are shares. Brings that up to date.
-void UpdateLinkedFormats(ChartPart& part);
 
 }  // namespace plotsmith::xlsx

@@ -4,9 +4,10 @@
 #include <string>
 
 #include "host/excel/Excel.h"
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/chart/AutomaticColors.h"
 #include "xlsx/chart/Border.h"
+#include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/ChartTypeRules.h"
 #include "xlsx/chart/ChartTypes.h"
@@ -22,7 +23,6 @@
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 using runtime::Variant;
 
 namespace {
@@ -31,27 +31,21 @@ class SeriesObject final : public excel::Series {
  public:
   explicit SeriesObject(SeriesHandle series) : series_(std::move(series)) {}
 
-  std::string Name() override {
-    const auto series = series_.Node();
-    const std::string name = SeriesText(series);
-    if (schema::Find(series, "tx")) return name;
-    // counted from the first, whatever its place in the file
-    return "Series" + std::to_string(xml::ParseInteger(schema::Val(series, "idx")).value_or(0) + 1);
-  }
+  std::string Name() override { return ShownName(series_.Node()); }
   std::string Formula() override {
     const auto series = series_.Node();
     const auto reference = [&](std::initializer_list<const char*> elements) {
       for (const char* element : elements) {
-        for (const pugi::xml_node& source : schema::Find(series, element).children()) {
-          if (const auto formula = schema::Find(source, "f")) return xml::Text(formula);
+        for (const pugi::xml_node& source : xml::Child(series, element).children()) {
+          if (const auto formula = xml::Child(source, "f")) return xml::Text(formula);
         }
       }
       return std::string();
     };
     series_.part->CatchUp();
     return "=SERIES(" + reference({"tx"}) + "," + reference({"cat", "xVal"}) + "," +
-           reference({"val", "yVal"}) + "," +
-           std::to_string(xml::ParseInteger(schema::Val(series, "order")).value_or(0) + 1) + ")";
+           reference({"val", "yVal"}) + "," + std::to_string(schema::IntegerVal(series, "order", 0) + 1) +
+           ")";
   }
   void SetName(const Variant& name) override { Set(SeriesData::kName, "Name", name); }
   void SetXValues(const Variant& reference) override { Set(SeriesData::kCategories, "XValues", reference); }
@@ -59,8 +53,7 @@ class SeriesObject final : public excel::Series {
   void SetBubbleSizes(const Variant& reference) override {
     Set(SeriesData::kBubbleSizes, "BubbleSizes", reference);
     // where there are no bubbles, the sizes wait for the chart to have some
-    const pugi::xml_node node = series_.Node();
-    if (const ChartTypeEntry* type = TypeOf(node)) FitSeries(*series_.part, node, *type);
+    RemoveMisfits(*series_.part, series_.Node());
   }
   std::vector<Variant> Values() override { return CachedNumbers(FindValues(series_.Node())); }
 
@@ -68,14 +61,14 @@ class SeriesObject final : public excel::Series {
   void SetChartType(std::int32_t type) override {
     Log("ChartType", type);
     const ChartTypeEntry* entry = FindChartType(type);
-    if (entry == nullptr) throw CantSet("ChartType");
+    if (entry == nullptr) throw CantSet("ChartType", "Series");
     SetSeriesType(*series_.part, series_.Node(), *entry);
   }
 
   void ApplyDataLabels(std::int32_t type) override {
     series_.Log().Call([this] { return series_.Path(); }, "ApplyDataLabels", {type});
     if (!ShowLabels(EnsureLabels(series_.Node()), type)) {
-      throw RuntimeError(runtime::error::kApplication, "ApplyDataLabels method of Series class failed");
+      throw Refusal("ApplyDataLabels method of Series class failed");
     }
     series_.part->MarkChanged();
   }
@@ -96,13 +89,15 @@ class SeriesObject final : public excel::Series {
   }
   Ref<excel::Border> Border() override { return MakeBorder(Element()); }
   void SetMarkerForegroundColor(std::int32_t color) override {
-    SetMarker(MarkerPart::kOutline, "MarkerForegroundColor", color);
+    SetMarker(MarkerProperty::kOutline, "MarkerForegroundColor", color);
   }
   void SetMarkerBackgroundColor(std::int32_t color) override {
-    SetMarker(MarkerPart::kFilling, "MarkerBackgroundColor", color);
+    SetMarker(MarkerProperty::kFilling, "MarkerBackgroundColor", color);
   }
-  void SetMarkerStyle(std::int32_t style) override { SetMarker(MarkerPart::kStyle, "MarkerStyle", style); }
-  void SetMarkerSize(std::int32_t points) override { SetMarker(MarkerPart::kSize, "MarkerSize", points); }
+  void SetMarkerStyle(std::int32_t style) override {
+    SetMarker(MarkerProperty::kStyle, "MarkerStyle", style);
+  }
+  void SetMarkerSize(std::int32_t points) override { SetMarker(MarkerProperty::kSize, "MarkerSize", points); }
 
   void Delete() override {
     series_.Log().Call([this] { return series_.Path(); }, "Delete");
@@ -115,9 +110,9 @@ class SeriesObject final : public excel::Series {
     Log(property, value);
     SetSeriesData(*series_.part, series_.Node(), which, value);
   }
-  void SetMarker(MarkerPart which, const char* property, std::int32_t value) {
+  void SetMarker(MarkerProperty which, const char* property, std::int32_t value) {
     Log(property, value);
-    if (!xlsx::SetMarker(series_.Node(), which, value)) throw CantSet(property);
+    if (!xlsx::SetMarker(series_.Node(), which, value)) throw CantSet(property, "Series");
     series_.part->MarkChanged();
   }
   FormattedElement Element() const {
@@ -127,26 +122,20 @@ class SeriesObject final : public excel::Series {
   void Log(const char* property, const Variant& value) const {
     series_.Log().Put([this] { return series_.Path(); }, property, value);
   }
-  static RuntimeError CantSet(const char* property) {
-    return RuntimeError(runtime::error::kApplication,
-                        std::string("Unable to set the ") + property + " property of the Series class");
-  }
 
   SeriesHandle series_;
 };
 
-class Collection final : public excel::SeriesCollection {
+class SeriesCollectionObject final : public excel::SeriesCollection {
  public:
-  explicit Collection(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
+  explicit SeriesCollectionObject(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
 
   /// None in a chart that can't be read, so that it is no reason to stop for whoever looks at all charts.
   std::int32_t Count() override {
     return part_->IsReadable() ? static_cast<std::int32_t>(part_->Series().size()) : 0;
   }
   Ref<excel::Series> Item(std::int32_t index) override {
-    if (index < 1 || index > Count()) {
-      throw RuntimeError(runtime::error::kApplication, "Method 'Item' of object 'SeriesCollection' failed");
-    }
+    if (index < 1 || index > Count()) throw MethodFailed("Item", "SeriesCollection");
     return Object(part_->Series()[static_cast<std::size_t>(index) - 1]);
   }
   Ref<excel::Series> NewSeries() override {
@@ -165,7 +154,7 @@ class Collection final : public excel::SeriesCollection {
 }  // namespace
 
 Ref<excel::SeriesCollection> MakeSeriesCollection(std::shared_ptr<ChartPart> part) {
-  return std::make_shared<Collection>(std::move(part));
+  return std::make_shared<SeriesCollectionObject>(std::move(part));
 }
 
 }  // namespace plotsmith::xlsx

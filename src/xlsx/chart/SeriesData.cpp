@@ -1,22 +1,20 @@
 #include "xlsx/chart/SeriesData.h"
 
-#include <algorithm>
 #include <optional>
 
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Limits.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartPart.h"
-#include "xlsx/chart/ChartTextLook.h"
-#include "xlsx/chart/ChartTypeRules.h"
+#include "xlsx/chart/ChartText.h"
+#include "xlsx/chart/ChartTypes.h"
 #include "xlsx/drawing/DrawingSchema.h"
-#include "xlsx/package/XString.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
 
 using excel::CellValue;
-using runtime::RuntimeError;
 using runtime::Variant;
 
 namespace {
@@ -25,6 +23,8 @@ struct Source {
   std::shared_ptr<Worksheet> sheet;
   CellRange range;
   std::string formula;
+
+  std::size_t CellCount() const { return static_cast<std::size_t>(range.CellCount()); }
 };
 
 const char* PropertyName(SeriesData which) {
@@ -41,16 +41,11 @@ const char* PropertyName(SeriesData which) {
   return "Values";
 }
 
-RuntimeError CantSet(SeriesData which) {
-  return RuntimeError(runtime::error::kApplication, std::string("Unable to set the ") + PropertyName(which) +
-                                                        " property of the Series class");
-}
-
 Source FindSource(ChartPart& part, SeriesData which, const std::string& reference) {
   const auto range =
       reference.starts_with('=') ? ParseSheetRange(std::string_view(reference).substr(1)) : std::nullopt;
   auto sheet = range ? part.Book().FindWorksheet(range->sheet) : nullptr;
-  if (!sheet || range->range.CellCount() > limits::kCachePoints) throw CantSet(which);
+  if (!sheet || range->range.CellCount() > limits::kCachePoints) throw CantSet(PropertyName(which), "Series");
   const std::string name = sheet->SheetName();
   return {std::move(sheet), range->range, SheetRangeAddress({name, range->range})};
 }
@@ -58,7 +53,7 @@ Source FindSource(ChartPart& part, SeriesData which, const std::string& referenc
 /// Calls `visit` with the number of each cell, from 0, its place and its value.
 template <class Visit>
 void ForEachCell(const Source& source, const Visit& visit) {
-  int index = 0;
+  std::size_t index = 0;
   for (std::int32_t row = source.range.row1; row <= source.range.row2; ++row) {
     for (std::int32_t column = source.range.column1; column <= source.range.column2; ++column) {
       visit(index++, row, column, source.sheet->Stored(row, column));
@@ -68,46 +63,33 @@ void ForEachCell(const Source& source, const Visit& visit) {
 
 bool HoldsText(const Source& source) {
   bool text = false;
-  ForEachCell(source, [&](int, std::int32_t, std::int32_t, const CellValue& value) {
+  ForEachCell(source, [&](std::size_t, std::int32_t, std::int32_t, const CellValue& value) {
     text |= value.kind == CellValue::Kind::kText;
   });
   return text;
 }
 
-void AddPoint(pugi::xml_node cache, const std::string& pointName, const std::string& valueName, int index,
-              const std::string& encoded) {
-  // straight to the end, past the search for the place: points come last, and there may be many
-  pugi::xml_node point = cache.append_child(pointName.c_str());
-  point.append_attribute("idx").set_value(index);
-  point.append_child(valueName.c_str()).append_child(pugi::node_pcdata).set_value(encoded.c_str());
-}
-
 void FillTexts(pugi::xml_node reference, const Source& source) {
-  pugi::xml_node cache = schema::Ensure(reference, "strCache");
-  const std::string prefix(xml::Prefix(cache.name()));
-  schema::SetVal(cache, "ptCount", std::to_string(source.range.CellCount()));
+  CacheWriter cache(schema::Ensure(reference, "strCache"), source.CellCount());
   std::string scratch;
-  ForEachCell(source, [&](int index, std::int32_t row, std::int32_t column, const CellValue& value) {
+  ForEachCell(source, [&](std::size_t index, std::int32_t row, std::int32_t column, const CellValue& value) {
     if (value.kind == CellValue::Kind::kEmpty) return;
-    const std::string_view text = source.sheet->CellTextAt(row, column, scratch);
-    AddPoint(cache, prefix + "pt", prefix + "v", index, EncodeXString(text));
+    cache.Add(index, source.sheet->CellTextAt(row, column, scratch));
   });
 }
 
 void FillNumbers(pugi::xml_node reference, const Source& source) {
-  pugi::xml_node cache = schema::Ensure(reference, "numCache");
-  const std::string prefix(xml::Prefix(cache.name()));
-  xml::SetText(schema::Ensure(cache, "formatCode"),
+  const pugi::xml_node numbers = schema::Ensure(reference, "numCache");
+  xml::SetText(schema::Ensure(numbers, "formatCode"),
                source.sheet->NumberFormatAt(source.range.row1, source.range.column1));
-  schema::SetVal(cache, "ptCount", std::to_string(source.range.CellCount()));
-  ForEachCell(source, [&](int index, std::int32_t, std::int32_t, const CellValue& value) {
+  CacheWriter cache(numbers, source.CellCount());
+  ForEachCell(source, [&](std::size_t index, std::int32_t, std::int32_t, const CellValue& value) {
     if (value.kind == CellValue::Kind::kEmpty) return;
     const bool number = value.kind == CellValue::Kind::kNumber || value.kind == CellValue::Kind::kDate;
     // a text among numbers is drawn as 0
-    const std::string text = number                                  ? xml::Number(value.number)
-                             : value.kind == CellValue::Kind::kError ? xml::EncodeText(value.text)
-                                                                     : "0";
-    AddPoint(cache, prefix + "pt", prefix + "v", index, text);
+    cache.Add(index, number                                  ? xml::Number(value.number)
+                     : value.kind == CellValue::Kind::kError ? std::string(value.text)
+                                                             : "0");
   });
 }
 
@@ -128,30 +110,26 @@ void PointAt(pugi::xml_node data, const Source& source, bool texts) {
   }
 }
 
-pugi::xml_node CacheOf(pugi::xml_node data) {
-  const auto literal = schema::Find(data, "numLit");
-  return literal ? literal : xml::Child(data, "numRef", "numCache");
-}
-
-std::size_t PointsIn(pugi::xml_node cache) {
-  const auto count = xml::ParseInteger(schema::Val(cache, "ptCount")).value_or(0);
-  return static_cast<std::size_t>(std::clamp<long long>(count, 0, limits::kCachePoints));
-}
-
 }  // namespace
 
-std::string SeriesText(pugi::xml_node series) {
-  const auto tx = schema::Find(series, "tx");
-  if (const auto literal = schema::Find(tx, "v")) return xml::Text(literal);
-  return TitleText(series);
+std::string SeriesName(pugi::xml_node series) {
+  const auto tx = xml::Child(series, "tx");
+  // a cell's text is held as that of a title is
+  return xml::Child(tx, "v") ? CachedText(tx) : TitleText(series);
+}
+
+std::string ShownName(pugi::xml_node series) {
+  if (xml::Child(series, "tx")) return SeriesName(series);
+  // counted from the first, whatever its place in the file
+  return "Series" + std::to_string(schema::IntegerVal(series, "idx", 0) + 1);
 }
 
 void SetSeriesData(ChartPart& part, pugi::xml_node series, SeriesData which, const Variant& value) {
   const auto* text = value.If<std::string>();
-  if (text == nullptr) throw CantSet(which);
+  if (text == nullptr) throw CantSet(PropertyName(which), "Series");
   part.CatchUp();  // what is set now is as of now
   if (which == SeriesData::kName && !text->starts_with('=')) {
-    xml::SetText(schema::Ensure(Emptied(series, "tx"), "v"), *text);
+    SetCachedText(Emptied(series, "tx"), *text);
   } else {
     const Source source = FindSource(part, which, *text);
     const ChartTypeEntry* type = TypeOfGroup(series.parent());
@@ -175,21 +153,8 @@ void SetSeriesData(ChartPart& part, pugi::xml_node series, SeriesData which, con
 }
 
 pugi::xml_node FindValues(pugi::xml_node series) {
-  const auto values = schema::Find(series, "val");
-  return values ? values : schema::Find(series, "yVal");
+  const auto values = xml::Child(series, "val");
+  return values ? values : xml::Child(series, "yVal");
 }
-
-std::vector<Variant> CachedNumbers(pugi::xml_node data) {
-  const auto cache = CacheOf(data);
-  std::vector<Variant> numbers(PointsIn(cache));
-  for (const pugi::xml_node& point : xml::Children(cache, "pt")) {
-    const auto index = static_cast<unsigned long long>(xml::IntegerAttribute(point, "idx", -1));
-    const auto number = xml::ParseDouble(xml::Text(xml::Child(point, "v")));
-    if (index < numbers.size() && number) numbers[index] = *number;
-  }
-  return numbers;
-}
-
-std::size_t PointCount(pugi::xml_node series) { return PointsIn(CacheOf(FindValues(series))); }
 
 }  // namespace plotsmith::xlsx

@@ -2,7 +2,6 @@
 
 #include <pugixml.hpp>
 #include <string>
-#include <vector>
 
 #include "runtime/Variant.h"
 
@@ -15,7 +14,9 @@ class ChartPart;
 enum class SeriesData { kName, kCategories, kValues, kBubbleSizes };
 
 /// The name of a series as it is written in the part, from its cell or by itself; empty without one.
-std::string SeriesText(pugi::xml_node series);
+std::string SeriesName(pugi::xml_node series);
+/// What Excel calls a series: by its name, else by its number.
+std::string ShownName(pugi::xml_node series);
 
 /// Points a series at cells ("=Sheet1!$A$1:$A$5", or R1C1), and fills the chart's cache from them, so that a
 /// reader shows the chart without computing anything. A name may also be a literal text. Error 1004 for what
@@ -24,9 +25,5 @@ void SetSeriesData(ChartPart& part, pugi::xml_node series, SeriesData which, con
 
 /// The element of a series that holds its values.
 pugi::xml_node FindValues(pugi::xml_node series);
-/// What the chart's cache holds of a series' data, one for each point: numbers, and Empty where there is
-/// none.
-std::vector<runtime::Variant> CachedNumbers(pugi::xml_node data);
-std::size_t PointCount(pugi::xml_node series);
 
 }  // namespace plotsmith::xlsx

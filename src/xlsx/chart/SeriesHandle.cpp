@@ -2,15 +2,13 @@
 
 #include <algorithm>
 
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
 
 namespace plotsmith::xlsx {
 
 pugi::xml_node SeriesHandle::Node() const {
-  if (!entry->node) {
-    throw runtime::RuntimeError(runtime::error::kApplication, "Method of object 'Series' failed");
-  }
+  if (!entry->node) throw Refusal("Method of object 'Series' failed");
   return entry->node;
 }
 

@@ -1,27 +1,14 @@
 #include "xlsx/drawing/DrawingFill.h"
 
-#include <array>
-
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/HexColor.h"
 
 namespace plotsmith::xlsx {
-namespace {
 
-constexpr std::array<std::string_view, 6> kFills = {"noFill",   "solidFill", "gradFill",
-                                                    "blipFill", "pattFill",  "grpFill"};
-
-}  // namespace
-
-pugi::xml_node FindFill(pugi::xml_node properties) {
-  for (const std::string_view fill : kFills) {
-    if (const auto node = schema::Find(properties, fill)) return node;
-  }
-  return {};
-}
+pugi::xml_node FindFill(pugi::xml_node properties) { return properties.find_child(schema::IsFill); }
 
 void RemoveFill(pugi::xml_node properties) {
-  for (const std::string_view fill : kFills) schema::Remove(properties, fill);
+  while (const auto fill = FindFill(properties)) properties.remove_child(fill);
 }
 
 pugi::xml_node SetFill(pugi::xml_node properties, std::string_view kind) {

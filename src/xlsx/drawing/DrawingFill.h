@@ -4,10 +4,10 @@
 #include <pugixml.hpp>
 #include <string_view>
 
-/// Fillings of DrawingML, inside shape, line and run properties of a chart.
+/// Fillings of DrawingML, inside shape, line and run properties.
 namespace plotsmith::xlsx {
 
-/// The filling, or a null node where it is left to the chart's style.
+/// The filling, or a null node where it is left to a style.
 pugi::xml_node FindFill(pugi::xml_node properties);
 void RemoveFill(pugi::xml_node properties);
 /// An empty filling of a kind ("noFill", "solidFill", "pattFill") in the place of any other.

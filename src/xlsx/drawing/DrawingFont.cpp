@@ -3,26 +3,21 @@
 #include <cmath>
 
 #include "host/excel/Constants.h"
-#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Journal.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/package/HexColor.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
 
-using runtime::RuntimeError;
 using runtime::Variant;
 
 namespace {
 
 constexpr double kMostPoints = 409;
-
-RuntimeError CantSet(const char* property) {
-  return RuntimeError(runtime::error::kApplication,
-                      std::string("Unable to set the ") + property + " property of the Font class");
-}
 
 }  // namespace
 
@@ -67,7 +62,7 @@ Variant DrawingFont::Background() { return excel::xlBackgroundAutomatic; }
 
 void DrawingFont::SetName(const Variant& name) {
   const std::string typeface = runtime::CStr(name);
-  if (typeface.empty()) throw CantSet("Name");
+  if (typeface.empty()) throw CantSet("Name", "Font");
   Apply("Name", name, [&](pugi::xml_node properties) {
     // for Latin and for complex scripts, as Excel does it; what East Asian text has stays
     xml::SetAttribute(schema::Ensure(properties, "latin"), "typeface", typeface);
@@ -77,25 +72,25 @@ void DrawingFont::SetName(const Variant& name) {
 
 void DrawingFont::SetSize(const Variant& size) {
   const double points = runtime::CDbl(size);
-  if (!(points >= 1 && points <= kMostPoints)) throw CantSet("Size");
+  if (!(points >= 1 && points <= kMostPoints)) throw CantSet("Size", "Font");
   const std::string hundredths = std::to_string(std::lround(points * 100));
   Apply("Size", size, [&](pugi::xml_node properties) { xml::SetAttribute(properties, "sz", hundredths); });
 }
 
 void DrawingFont::SetFontStyle(const Variant& style) {
   const std::string name = runtime::UCase(runtime::CStr(style));
-  if (name.empty()) throw CantSet("FontStyle");
+  if (name.empty()) throw CantSet("FontStyle", "Font");
   const bool bold = name.find("BOLD") != std::string::npos;
   const bool italic = name.find("ITALIC") != std::string::npos || name.find("OBLIQUE") != std::string::npos;
   Apply("FontStyle", style, [&](pugi::xml_node properties) {
-    xml::SetAttribute(properties, "b", bold ? "1" : "0");
-    xml::SetAttribute(properties, "i", italic ? "1" : "0");
+    schema::SetBooleanAttribute(properties, "b", bold);
+    schema::SetBooleanAttribute(properties, "i", italic);
   });
 }
 
 void DrawingFont::SetColor(const Variant& color) {
   const std::int32_t value = runtime::CLng(color);
-  if (value < 0 || value > 0xFFFFFF) throw CantSet("Color");
+  if (!IsColor(value)) throw CantSet("Color", "Font");
   Apply("Color", color,
         [&](pugi::xml_node properties) { SetFillColor(SetFill(properties, "solidFill"), value); });
 }
@@ -106,7 +101,7 @@ void DrawingFont::SetBackground(std::int32_t background) {
 
 void DrawingFont::SetBold(bool value) {
   Apply("Bold", value,
-        [&](pugi::xml_node properties) { xml::SetAttribute(properties, "b", value ? "1" : "0"); });
+        [&](pugi::xml_node properties) { schema::SetBooleanAttribute(properties, "b", value); });
 }
 
 }  // namespace plotsmith::xlsx

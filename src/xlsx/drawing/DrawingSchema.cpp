@@ -1,6 +1,6 @@
 #include "xlsx/drawing/DrawingSchema.h"
 
-#include <array>
+#include <algorithm>
 #include <span>
 
 #include "xlsx/package/Namespaces.h"
@@ -195,10 +195,8 @@ std::string QualifiedName(pugi::xml_node parent, std::string_view local) {
 
 }  // namespace
 
-pugi::xml_node Find(pugi::xml_node parent, std::string_view local) { return xml::Child(parent, local); }
-
 pugi::xml_node Ensure(pugi::xml_node parent, std::string_view local) {
-  const auto child = Find(parent, local);
+  const auto child = xml::Child(parent, local);
   return child ? child : Insert(parent, local);
 }
 
@@ -223,15 +221,23 @@ pugi::xml_node InsertCopy(pugi::xml_node parent, pugi::xml_node child) {
 }
 
 void Remove(pugi::xml_node parent, std::string_view local) {
-  while (const auto child = Find(parent, local)) parent.remove_child(child);
+  while (const auto child = xml::Child(parent, local)) parent.remove_child(child);
 }
 
 std::string Val(pugi::xml_node parent, std::string_view local, std::string_view fallback) {
-  return xml::Attribute(Find(parent, local), "val", fallback);
+  return xml::Attribute(xml::Child(parent, local), "val", fallback);
+}
+
+long long IntegerVal(pugi::xml_node parent, std::string_view local, long long fallback) {
+  return xml::IntegerAttribute(xml::Child(parent, local), "val", fallback);
+}
+
+std::optional<double> NumberVal(pugi::xml_node parent, std::string_view local) {
+  return xml::ParseDouble(Val(parent, local));
 }
 
 bool BooleanVal(pugi::xml_node parent, std::string_view local, bool fallback) {
-  const auto child = Find(parent, local);
+  const auto child = xml::Child(parent, local);
   return child ? xml::BooleanAttribute(child, "val", true) : fallback;
 }
 
@@ -239,8 +245,38 @@ void SetVal(pugi::xml_node parent, std::string_view local, std::string_view valu
   xml::SetAttribute(Ensure(parent, local), "val", value);
 }
 
+void SetBooleanVal(pugi::xml_node parent, std::string_view local, bool value) {
+  SetBooleanAttribute(Ensure(parent, local), "val", value);
+}
+
+void SetBooleanAttribute(pugi::xml_node node, const char* name, bool value) {
+  xml::SetAttribute(node, name, value ? "1" : "0");
+}
+
+long long NumberOf(pugi::xml_node node) { return IntegerVal(node, "idx", -1); }
+
+pugi::xml_node FindNumbered(pugi::xml_node parent, std::string_view local, long long number) {
+  for (const pugi::xml_node& child : xml::Children(parent, local)) {
+    if (NumberOf(child) == number) return child;
+  }
+  return {};
+}
+
+pugi::xml_node EnsureNumbered(pugi::xml_node parent, std::string_view local, long long number) {
+  if (const auto present = FindNumbered(parent, local, number)) return present;
+  const auto others = xml::Children(parent, local);
+  const auto follower = std::find_if(others.begin(), others.end(),
+                                     [&](pugi::xml_node other) { return NumberOf(other) > number; });
+  pugi::xml_node child = Insert(parent, local);
+  if (follower != others.end()) parent.insert_move_before(child, *follower);
+  SetVal(child, "idx", std::to_string(number));
+  return child;
+}
+
 bool IsGroup(pugi::xml_node node) { return Names(kGroups, xml::LocalName(node)); }
 
 bool IsAxis(pugi::xml_node node) { return Names(kAxes, xml::LocalName(node)); }
+
+bool IsFill(pugi::xml_node node) { return Names(kFills, xml::LocalName(node)); }
 
 }  // namespace plotsmith::xlsx::schema

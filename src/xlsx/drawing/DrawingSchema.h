@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <pugixml.hpp>
 #include <string>
 #include <string_view>
@@ -8,8 +9,6 @@
 /// of children for each type of element. What isn't in a table stays where it is.
 namespace plotsmith::xlsx::schema {
 
-/// The child, or a null node.
-pugi::xml_node Find(pugi::xml_node parent, std::string_view local);
 /// The child, made at its place if there is none.
 pugi::xml_node Ensure(pugi::xml_node parent, std::string_view local);
 template <class... Names>
@@ -26,12 +25,24 @@ void Remove(pugi::xml_node parent, std::string_view local);
 
 /// The `val` attribute of a child; `fallback` where the child or its attribute is absent.
 std::string Val(pugi::xml_node parent, std::string_view local, std::string_view fallback = {});
+/// `fallback`, or nothing, where it isn't a number either.
+long long IntegerVal(pugi::xml_node parent, std::string_view local, long long fallback);
+std::optional<double> NumberVal(pugi::xml_node parent, std::string_view local);
 /// Of a child that is a CT_Boolean, whose `val` is true when it isn't written.
 bool BooleanVal(pugi::xml_node parent, std::string_view local, bool fallback);
 void SetVal(pugi::xml_node parent, std::string_view local, std::string_view value);
+void SetBooleanVal(pugi::xml_node parent, std::string_view local, bool value);
+void SetBooleanAttribute(pugi::xml_node node, const char* name, bool value);
 
-/// Whether the element is a plot group ("barChart"), or an axis.
+/// The number (`idx`) of an element that stands among others of its kind, like a label; -1 without one.
+long long NumberOf(pugi::xml_node node);
+/// The child of a kind and a number, or a null node; or made among the others by its number.
+pugi::xml_node FindNumbered(pugi::xml_node parent, std::string_view local, long long number);
+pugi::xml_node EnsureNumbered(pugi::xml_node parent, std::string_view local, long long number);
+
+/// Whether the element is a plot group ("barChart"), an axis, or a filling.
 bool IsGroup(pugi::xml_node node);
 bool IsAxis(pugi::xml_node node);
+bool IsFill(pugi::xml_node node);
 
 }  // namespace plotsmith::xlsx::schema

@@ -1,40 +1,32 @@
 #include "xlsx/drawing/DrawnShape.h"
 
+#include <cmath>
 #include <string>
 
 #include "host/excel/Constants.h"
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Journal.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/drawing/DrawingSchema.h"
-#include "xlsx/drawing/DrawingText.h"
+#include "xlsx/drawing/FillAndLine.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
-#include "xlsx/drawing/ShapeFormat.h"
-#include "xlsx/drawing/ShapeText.h"
+#include "xlsx/drawing/TextBody.h"
+#include "xlsx/drawing/TextFrame.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 
 namespace {
 
 constexpr std::int32_t kLine = 9;  // msoLine
+// the insets of a text box that says nothing (ECMA-376-1, 21.1.2.1.1): 0.1 and 0.05 inches, in points
 constexpr double kUsualMarginAcross = 7.2, kUsualMarginDown = 3.6;
-
-RuntimeError OutOfRange() {
-  return RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
-}
-
-bool ShowsChart(pugi::xml_node object) {
-  const auto data = xml::Child(object, "graphic", "graphicData");
-  return xml::Attribute(data, "uri").ends_with("/chart") && xml::Child(data, "chart");
-}
 
 std::int32_t TypeOf(pugi::xml_node object) {
   const std::string_view kind = xml::LocalName(object);
-  if (kind == "graphicFrame" && ShowsChart(object)) return excel::msoChart;
+  if (kind == "graphicFrame" && ChartLinkOf(object)) return excel::msoChart;
   if (kind == "grpSp") return excel::msoGroup;
   if (kind == "pic") return excel::msoPicture;
   if (kind == "cxnSp") return kLine;
@@ -46,10 +38,11 @@ std::int32_t TypeOf(pugi::xml_node object) {
 
 }  // namespace
 
-DrawnShape::DrawnShape(pugi::xml_node object) : object_(object), type_(TypeOf(object)) {}
+DrawnShape::DrawnShape(pugi::xml_node anchor, pugi::xml_node object)
+    : anchor_(anchor), object_(object), type_(TypeOf(object)) {}
 
 pugi::xml_node DrawnShape::Object() const {
-  if (!object_) throw RuntimeError(runtime::error::kApplication, "The object has been deleted.");
+  if (!object_) throw Refusal("The object has been deleted.");
   return object_;
 }
 
@@ -79,6 +72,15 @@ std::string DrawnShape::AlternativeText() { return xml::Attribute(IdentityOf(obj
 void DrawnShape::SetAlternativeText(std::string_view text) {
   Log().Put([this] { return JournalPath(); }, "AlternativeText", text);
   xml::SetAttribute(IdentityOf(Object()), "descr", text);
+  MarkChanged();
+}
+
+void DrawnShape::Place(const Frame& wanted) {
+  const pugi::xml_node object = Object();
+  CheckPlace(wanted);
+  const Frame frame = MoveAnchor(wanted);
+  // the frame of a chart or the like has its place from the anchor alone
+  if (!xml::Is(object, "graphicFrame")) SetTransform(object, frame);
   MarkChanged();
 }
 
@@ -130,7 +132,7 @@ void DrawnShape::SetLockAspectRatio(bool value) {
   if (kind.size() < 6) throw OutOfRange();
   kind = kind.substr(3, kind.size() - 5);
   kind[0] = static_cast<char>(kind[0] - 'A' + 'a');
-  xml::SetAttribute(schema::Ensure(properties, kind + "Locks"), "noChangeAspect", value ? "1" : "0");
+  schema::SetBooleanAttribute(schema::Ensure(properties, kind + "Locks"), "noChangeAspect", value);
   MarkChanged();
 }
 
@@ -150,21 +152,27 @@ void DrawnShape::SetAutoShapeType(std::int32_t type) {
 void DrawnShape::FitToText() {
   const pugi::xml_node body = xml::Child(object_, "txBody", "bodyPr");
   if (!xml::Child(body, "spAutoFit")) return;
-  const auto margins = [&](const char* first, const char* second, double usual) {
-    return (xml::NumberAttribute(body, first, usual * kEmuPerPoint) +
-            xml::NumberAttribute(body, second, usual * kEmuPerPoint)) /
-           kEmuPerPoint;
-  };
-  const double across = margins("lIns", "rIns", kUsualMarginAcross);
-  const double down = margins("tIns", "bIns", kUsualMarginDown);
+  const double across =
+      PointsOf(body, "lIns", kUsualMarginAcross) + PointsOf(body, "rIns", kUsualMarginAcross);
+  const double down = PointsOf(body, "tIns", kUsualMarginDown) + PointsOf(body, "bIns", kUsualMarginDown);
   const bool wraps = xml::Attribute(body, "wrap", "square") != "none";
   Frame frame = PlacedFrame();
-  const auto extent = DrawingText(object_).Measure(
-      Book().Theme(), wraps ? std::optional(frame.width - across) : std::nullopt);
+  const auto extent =
+      TextBody(object_).Measure(Book().Theme(), wraps ? std::optional(frame.width - across) : std::nullopt);
   if (!wraps) frame.width = extent.width + across;
   frame.height = extent.height + down;
   Place(frame);
 }
+
+void DrawnShape::Delete() {
+  Log().Call([this] { return JournalPath(); }, "Delete");
+  Object();
+  const auto alive = shared_from_this();  // the drawing may be the last to know it
+  RemoveFromDrawing();
+  Leave();
+}
+
+void DrawnShape::Leave() { anchor_ = object_ = {}; }
 
 Ref<excel::TextFrame> DrawnShape::TextFrame() { return MakeTextFrame(shared_from_this()); }
 
@@ -173,5 +181,9 @@ Ref<excel::TextFrame2> DrawnShape::TextFrame2() { return MakeTextFrame2(shared_f
 Ref<excel::FillFormat> DrawnShape::Fill() { return MakeFill(shared_from_this()); }
 
 Ref<excel::LineFormat> DrawnShape::Line() { return MakeLine(shared_from_this()); }
+
+void CheckPlace(const Frame& frame) {
+  if (!std::isfinite(frame.left + frame.top + frame.width + frame.height)) throw OutOfRange();
+}
 
 }  // namespace plotsmith::xlsx

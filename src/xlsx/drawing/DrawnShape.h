@@ -18,7 +18,7 @@ class Workbook;
 /// grpSp, pic, ...). Where the object lies is a matter of its anchor, which each drawing has its own way for.
 class DrawnShape : public excel::Shape, public std::enable_shared_from_this<DrawnShape> {
  public:
-  explicit DrawnShape(pugi::xml_node object);
+  DrawnShape(pugi::xml_node anchor, pugi::xml_node object);
 
   std::int32_t Type() override { return type_; }
   std::string Name() override;
@@ -39,6 +39,7 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   excel::Ref<excel::LineFormat> Line() override;
   void SetLockAspectRatio(bool value) override;
   void SetAutoShapeType(std::int32_t type) override;
+  void Delete() override;
 
   // for the other classes of this host
   virtual Frame PlacedFrame() const = 0;
@@ -49,22 +50,29 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   pugi::xml_node Object() const;
   /// spPr, or a group's grpSpPr; error 1004 for what has neither.
   pugi::xml_node Properties() const;
+  pugi::xml_node Anchor() const { return anchor_; }
   const Journal& Log() const;
+  /// Puts the shape elsewhere, as near as its drawing allows. Error 1004 for a place that isn't finite.
+  void Place(const Frame& frame);
   /// A shape that follows its text takes the size that its text now needs.
   void FitToText();
+  /// The elements are gone, or about to go.
+  void Leave();
 
  protected:
-  /// Puts the shape elsewhere, as near as its drawing allows.
-  virtual void Place(const Frame& frame) = 0;
-  /// The element is gone, or about to go.
-  void Forget() { object_ = {}; }
+  /// Moves the anchor and answers where that allows the shape to lie.
+  virtual Frame MoveAnchor(const Frame& wanted) = 0;
+  virtual void RemoveFromDrawing() = 0;
   std::string JournalPathUnder(const std::string& drawing) const;
 
  private:
   bool KeepsItsProportions() const;
 
-  pugi::xml_node object_;
+  pugi::xml_node anchor_, object_;
   std::int32_t type_;  ///< read once: whoever seeks a chart asks all shapes
 };
+
+/// Error 1004 unless all of it is finite.
+void CheckPlace(const Frame& frame);
 
 }  // namespace plotsmith::xlsx

@@ -1,7 +1,7 @@
 #include "xlsx/drawing/DrawnShapes.h"
 
 #include "host/excel/ShapeRange.h"
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Journal.h"
 #include "xlsx/drawing/DrawnShape.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
@@ -13,13 +13,7 @@ using runtime::RuntimeError;
 
 namespace {
 
-RuntimeError NotFound() {
-  return RuntimeError(runtime::error::kApplication, "The item with the specified name wasn't found.");
-}
-
-RuntimeError OutOfRange() {
-  return RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
-}
+RuntimeError NotFound() { return Refusal("The item with the specified name wasn't found."); }
 
 /// "Rounded Rectangle" of "msoShapeRoundedRectangle".
 std::string NameOf(std::string_view constant) {
@@ -31,9 +25,9 @@ std::string NameOf(std::string_view constant) {
   return name;
 }
 
-class Chosen final : public excel::ShapeRange {
+class ShapeRangeObject final : public excel::ShapeRange {
  public:
-  Chosen(std::shared_ptr<DrawnShapes> owner, std::vector<std::shared_ptr<DrawnShape>> shapes)
+  ShapeRangeObject(std::shared_ptr<DrawnShapes> owner, std::vector<std::shared_ptr<DrawnShape>> shapes)
       : owner_(std::move(owner)), shapes_(std::move(shapes)) {}
 
   std::string Name() override { return Only().Name(); }
@@ -95,15 +89,18 @@ Ref<excel::Shape> DrawnShapes::AddTextbox(std::int32_t orientation, double left,
                                           double height) {
   Log().Call([this] { return JournalPath() + ".Shapes"; }, "AddTextbox",
              {orientation, left, top, width, height});
-  return NewTextbox({left, top, width, height});
+  const Frame frame{left, top, width, height};
+  CheckPlace(frame);
+  return NewTextbox(frame);
 }
 
 Ref<excel::Shape> DrawnShapes::AddShape(std::int32_t type, double left, double top, double width,
                                         double height) {
   Log().Call([this] { return JournalPath() + ".Shapes"; }, "AddShape", {type, left, top, width, height});
+  const Frame frame{left, top, width, height};
+  CheckPlace(frame);
   for (const EnumerationEntry& entry : kAutoShapes.entries) {
-    if (entry.number == type)
-      return NewAutoShape(NameOf(entry.name), entry.token, {left, top, width, height});
+    if (entry.number == type) return NewAutoShape(NameOf(entry.name), entry.token, frame);
   }
   throw OutOfRange();
 }
@@ -115,7 +112,7 @@ Ref<excel::ShapeRange> DrawnShapes::Range(const std::vector<std::string>& names)
     if (!shapes.back()) throw NotFound();
   }
   if (shapes.empty()) throw OutOfRange();
-  return std::make_shared<Chosen>(shared_from_this(), std::move(shapes));
+  return std::make_shared<ShapeRangeObject>(shared_from_this(), std::move(shapes));
 }
 
 }  // namespace plotsmith::xlsx

@@ -31,7 +31,7 @@ class DrawnShapes : public excel::Shapes, public std::enable_shared_from_this<Dr
   virtual std::string JournalPath() const = 0;
 
  protected:
-  /// From back to front, from 0, inside the count.
+  /// The shape at a place, counted from 0 at the back; there are Count of them.
   virtual std::shared_ptr<DrawnShape> At(std::size_t index) = 0;
   /// Null if there is none; case aside.
   virtual std::shared_ptr<DrawnShape> Find(std::string_view name) = 0;

@@ -44,9 +44,24 @@ constexpr EnumerationEntry kAutoSizeEntries[] = {
     {2, "msoAutoSizeTextToFitShape", "normAutofit"},
 };
 
+constexpr EnumerationEntry kHorizontalAlignmentEntries[] = {
+    {-4131, "xlHAlignLeft", "l"},       {-4108, "xlHAlignCenter", "ctr"},       {-4152, "xlHAlignRight", "r"},
+    {-4130, "xlHAlignJustify", "just"}, {-4117, "xlHAlignDistributed", "dist"},
+};
+
+constexpr EnumerationEntry kVerticalAlignmentEntries[] = {
+    {-4160, "xlVAlignTop", "t"},
+    {-4108, "xlVAlignCenter", "ctr"},
+    {-4107, "xlVAlignBottom", "b"},
+    {-4130, "xlVAlignJustify", "just"},
+    {-4117, "xlVAlignDistributed", "dist"},
+};
+
 }  // namespace
 
 const Enumeration kAutoShapes = {kAutoShapeEntries, ""};
 const Enumeration kAutoSizes = {kAutoSizeEntries, "noAutofit"};
+const Enumeration kHorizontalAlignments = {kHorizontalAlignmentEntries, ""};
+const Enumeration kVerticalAlignments = {kVerticalAlignmentEntries, ""};
 
 }  // namespace plotsmith::xlsx

@@ -3,24 +3,24 @@
 #include "xlsx/Journal.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/drawing/DrawingFont.h"
-#include "xlsx/drawing/DrawingText.h"
 #include "xlsx/drawing/DrawnShape.h"
+#include "xlsx/drawing/TextBody.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
 
 namespace {
 
-class ShapeFont final : public DrawingFont {
+class ShapeFontObject final : public DrawingFont {
  public:
-  ShapeFont(std::shared_ptr<DrawnShape> shape, std::size_t start, std::size_t length, std::string path)
+  ShapeFontObject(std::shared_ptr<DrawnShape> shape, std::size_t start, std::size_t length, std::string path)
       : DrawingFont(std::move(path)), shape_(std::move(shape)), start_(start), length_(length) {}
 
  private:
   const Journal& Log() const override { return shape_->Log(); }
 
   std::vector<TextLook> Looks() const override {
-    auto runs = DrawingText(shape_->Object()).RunProperties(start_, length_);
+    auto runs = TextBody(shape_->Object()).RunProperties(start_, length_);
     if (runs.empty()) runs.emplace_back();
     std::vector<TextLook> looks;
     for (const pugi::xml_node& run : runs) {
@@ -34,7 +34,7 @@ class ShapeFont final : public DrawingFont {
   }
 
   void ForEachRun(const std::function<void(pugi::xml_node)>& set) override {
-    for (const pugi::xml_node& run : DrawingText(shape_->Object()).EnsureRunProperties(start_, length_)) {
+    for (const pugi::xml_node& run : TextBody(shape_->Object()).EnsureRunProperties(start_, length_)) {
       set(run);
     }
     shape_->FitToText();
@@ -49,7 +49,7 @@ class ShapeFont final : public DrawingFont {
 
 excel::Ref<excel::Font> MakeShapeFont(std::shared_ptr<DrawnShape> shape, std::size_t start,
                                       std::size_t length, std::string journalPath) {
-  return std::make_shared<ShapeFont>(std::move(shape), start, length, std::move(journalPath));
+  return std::make_shared<ShapeFontObject>(std::move(shape), start, length, std::move(journalPath));
 }
 
 }  // namespace plotsmith::xlsx

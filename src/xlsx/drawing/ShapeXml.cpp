@@ -39,18 +39,25 @@ std::string Pair(std::string_view element, const char* first, const char* second
          std::to_string(Emu(y)) + "\"/>";
 }
 
-std::string Place(const Frame& frame) {
-  return Pair("off", "x", "y", frame.left, frame.top) + Pair("ext", "cx", "cy", frame.width, frame.height);
-}
+constexpr std::string_view kNoPlace = R"(<~off x="0" y="0"/><~ext cx="0" cy="0"/>)";
 
-std::string Form(const Frame& frame, std::string_view preset) {
-  return "<~xfrm>" + Place(frame) + "</~xfrm><~prstGeom prst=\"" + std::string(preset) +
+std::string Form(std::string_view preset) {
+  return "<~xfrm>" + std::string(kNoPlace) + "</~xfrm><~prstGeom prst=\"" + std::string(preset) +
          "\"><~avLst/></~prstGeom>";
 }
 
 }  // namespace
 
 long long Emu(double points) { return std::llround(points * kEmuPerPoint); }
+
+double PointsOf(pugi::xml_node node, const char* attribute, double fallback) {
+  return xml::NumberAttribute(node, attribute, fallback * kEmuPerPoint) / kEmuPerPoint;
+}
+
+void SetPair(pugi::xml_node node, const char* first, const char* second, double x, double y) {
+  xml::SetAttribute(node, first, std::to_string(Emu(x)));
+  xml::SetAttribute(node, second, std::to_string(Emu(y)));
+}
 
 void ForEachAnchor(pugi::xml_node root, std::span<const std::string_view> anchors,
                    const std::function<void(pugi::xml_node, pugi::xml_node)>& visit) {
@@ -92,6 +99,11 @@ pugi::xml_node ShapePropertiesOf(pugi::xml_node object) {
   return xml::Child(object, xml::Is(object, "grpSp") ? "grpSpPr" : "spPr");
 }
 
+pugi::xml_node ChartLinkOf(pugi::xml_node object) {
+  const auto data = xml::Child(object, "graphic", "graphicData");
+  return xml::Attribute(data, "uri").ends_with("/chart") ? xml::Child(data, "chart") : pugi::xml_node();
+}
+
 unsigned NextShapeId(pugi::xml_node root) {
   struct Walker : pugi::xml_tree_walker {
     std::set<long long> taken;
@@ -113,32 +125,29 @@ void SetTransform(pugi::xml_node object, const Frame& frame) {
     transform = xml::Child(object, "xfrm");
   }
   if (!transform) return;
-  const auto set = [&](const char* element, const char* first, const char* second, double x, double y) {
-    const pugi::xml_node node = schema::Ensure(transform, element);
-    xml::SetAttribute(node, first, std::to_string(Emu(x)));
-    xml::SetAttribute(node, second, std::to_string(Emu(y)));
-  };
-  set("off", "x", "y", frame.left, frame.top);
-  set("ext", "cx", "cy", frame.width, frame.height);
+  SetPair(schema::Ensure(transform, "off"), "x", "y", frame.left, frame.top);
+  SetPair(schema::Ensure(transform, "ext"), "cx", "cy", frame.width, frame.height);
 }
 
-std::string Prefixed(std::string text, const std::string& prefix, const std::string& drawingMl) {
+pugi::xml_node AppendTemplate(pugi::xml_node root, std::string text, const std::string& prefix,
+                              const std::string& drawingMl) {
   text = runtime::Replace(text, "@", prefix);
-  return runtime::Replace(text, "~", drawingMl);
+  text = runtime::Replace(text, "~", drawingMl);
+  root.append_buffer(text.data(), text.size(), pugi::parse_default & ~pugi::parse_escapes,
+                     pugi::encoding_utf8);
+  return root.last_child();
 }
 
-std::string TextboxTemplate(unsigned id, std::string_view name, const Frame& frame, std::string_view dress) {
+std::string TextboxTemplate(unsigned id, std::string_view name, std::string_view dress) {
   return R"(<@sp macro="" textlink="">)" + Start("SpPr", id, name, R"(<@cNvSpPr txBox="1"/>)") + "<@spPr>" +
-         Form(frame, "rect") + std::string(dress) +
+         Form("rect") + std::string(dress) +
          R"(</@spPr><@txBody><~bodyPr vertOverflow="clip" wrap="square" rtlCol="0"/><~lstStyle/>)"
          R"(<~p><~endParaRPr lang="en-US" sz="1100"><~latin typeface="+mn-lt"/></~endParaRPr></~p></@txBody></@sp>)";
 }
 
-std::string AutoShapeTemplate(unsigned id, std::string_view name, const Frame& frame,
-                              std::string_view preset) {
+std::string AutoShapeTemplate(unsigned id, std::string_view name, std::string_view preset) {
   // dressed by the theme, as Excel dresses a new shape
-  return R"(<@sp macro="" textlink="">)" + Start("SpPr", id, name, "<@cNvSpPr/>") + "<@spPr>" +
-         Form(frame, preset) +
+  return R"(<@sp macro="" textlink="">)" + Start("SpPr", id, name, "<@cNvSpPr/>") + "<@spPr>" + Form(preset) +
          R"(</@spPr><@style><~lnRef idx="2"><~schemeClr val="accent1"><~shade val="50000"/></~schemeClr></~lnRef>)"
          R"(<~fillRef idx="1"><~schemeClr val="accent1"/></~fillRef><~effectRef idx="0"><~schemeClr val="accent1"/>)"
          R"(</~effectRef><~fontRef idx="minor"><~schemeClr val="lt1"/></~fontRef></@style><@txBody>)"
@@ -147,8 +156,8 @@ std::string AutoShapeTemplate(unsigned id, std::string_view name, const Frame& f
 }
 
 std::string GroupTemplate(unsigned id, std::string_view name, const Frame& frame) {
-  return "<@grpSp>" + Start("GrpSpPr", id, name, "<@cNvGrpSpPr/>") + "<@grpSpPr><~xfrm>" + Place(frame) +
-         Pair("chOff", "x", "y", frame.left, frame.top) +
+  return "<@grpSp>" + Start("GrpSpPr", id, name, "<@cNvGrpSpPr/>") + "<@grpSpPr><~xfrm>" +
+         std::string(kNoPlace) + Pair("chOff", "x", "y", frame.left, frame.top) +
          Pair("chExt", "cx", "cy", frame.width, frame.height) + "</~xfrm></@grpSpPr></@grpSp>";
 }
 

@@ -19,6 +19,10 @@ struct Frame {
 
 inline constexpr double kEmuPerPoint = 12700;
 long long Emu(double points);
+/// An attribute in EMU, as points.
+double PointsOf(pugi::xml_node node, const char* attribute, double fallback = 0);
+/// Two attributes in EMU: a place, or an extent.
+void SetPair(pugi::xml_node node, const char* first, const char* second, double x, double y);
 
 /// Calls `visit` for each anchor of one of the names, from back to front, with the object that it anchors.
 void ForEachAnchor(pugi::xml_node root, std::span<const std::string_view> anchors,
@@ -31,18 +35,22 @@ pugi::xml_node IdentityOf(pugi::xml_node object);
 pugi::xml_node KindPropertiesOf(pugi::xml_node object);
 /// The shape properties (spPr, or a group's grpSpPr), or a null node.
 pugi::xml_node ShapePropertiesOf(pugi::xml_node object);
+/// The link to the chart (c:chart) that an object is the frame of, or a null node.
+pugi::xml_node ChartLinkOf(pugi::xml_node object);
 /// An unused id for a shape of the document.
 unsigned NextShapeId(pugi::xml_node root);
 
 /// Place and extent as the object itself has them, beside its anchor.
 void SetTransform(pugi::xml_node object, const Frame& frame);
 
-/// "@" in a template stands for the prefix of the drawing's elements and "~" for that of DrawingML's.
-std::string Prefixed(std::string text, const std::string& prefix, const std::string& drawingMl);
-/// Templates of new objects. `dress` is what follows the shape's form.
-std::string TextboxTemplate(unsigned id, std::string_view name, const Frame& frame, std::string_view dress);
-std::string AutoShapeTemplate(unsigned id, std::string_view name, const Frame& frame,
-                              std::string_view preset);
+/// Appends an element to the root. "@" in the template stands for the prefix of the drawing's elements and
+/// "~" for that of DrawingML's.
+pugi::xml_node AppendTemplate(pugi::xml_node root, std::string text, const std::string& prefix,
+                              const std::string& drawingMl);
+/// Templates of new objects, which have no place yet. `dress` is what follows the shape's form.
+std::string TextboxTemplate(unsigned id, std::string_view name, std::string_view dress);
+std::string AutoShapeTemplate(unsigned id, std::string_view name, std::string_view preset);
+/// The members of the group say their places as the frame does.
 std::string GroupTemplate(unsigned id, std::string_view name, const Frame& frame);
 
 }  // namespace plotsmith::xlsx

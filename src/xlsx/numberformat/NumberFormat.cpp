@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "xlsx/numberformat/NumberFormatProgram.h"
+#include "xlsx/numberformat/Program.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view kOverflow = "########";
 
 /// No cell holds a longer text, in bytes; a code that repeats the text over and over stops there.
-constexpr size_t kMostText = size_t{4} * 32767;
+constexpr std::size_t kMostText = std::size_t{4} * 32767;
 
 /// The formats that a file names by a number only.
 struct Builtin {
@@ -62,7 +62,7 @@ constexpr Builtin kBuiltins[] = {
 
 void AppendLiterals(std::string& out, const Section& section, Token::Kind placeholder,
                     std::string_view text) {
-  const size_t begin = out.size();
+  const std::size_t begin = out.size();
   for (const Token& token : section.tokens) {
     if (out.size() - begin > kMostText) return;
     if (token.kind == Token::Kind::kLiteral)
@@ -119,7 +119,7 @@ void NumberFormat::AppendNumber(std::string& out, double value, DateSystem dates
       out += kOverflow;
     return;
   }
-  const bool negative = value < 0 && !section->only_negative;
+  const bool negative = value < 0 && !section->onlyNegative;
   const double magnitude = std::fabs(value);
   switch (section->kind) {
     case Section::Kind::kGeneral:

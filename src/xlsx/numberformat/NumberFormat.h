@@ -4,11 +4,9 @@
 #include <string>
 #include <string_view>
 
-namespace plotsmith::xlsx {
+#include "xlsx/numberformat/DateSystem.h"
 
-/// How the workbook counts days: 1 is 1 January 1900 (with the phantom 29 February 1900), or 0 is 1 January
-/// 1904.
-enum class DateSystem { k1900, k1904 };
+namespace plotsmith::xlsx {
 
 /// A number format code (`formatCode` of SpreadsheetML, en-US), parsed once and used for many cells.
 ///

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "runtime/Ascii.h"
 #include "runtime/Strings.h"
 #include "xlsx/Limits.h"
 #include "xlsx/package/AtomicFile.h"
 #include "xlsx/package/MemoryStream.h"
+#include "xlsx/package/Namespaces.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/package/Xml.h"
 
@@ -22,9 +24,7 @@ constexpr std::string_view kRelationshipsType = "application/vnd.openxmlformats-
 
 std::string Folded(std::string_view name) {
   std::string key(name);
-  for (char& c : key) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
+  for (char& c : key) c = ascii::Lower(c);
   return key;
 }
 
@@ -90,11 +90,10 @@ struct Package::Part {
 };
 
 Package::Package() : contentTypes_(std::make_unique<pugi::xml_document>()) {
-  xml::Parse(*contentTypes_, R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?><Types xmlns=")" +
-                                 std::string(kContentTypesAddress) +
-                                 R"("><Default Extension="rels" ContentType=")" +
-                                 std::string(kRelationshipsType) +
-                                 R"("/><Default Extension="xml" ContentType="application/xml"/></Types>)");
+  xml::Parse(*contentTypes_,
+             std::string(kXmlDeclaration) + R"(<Types xmlns=")" + std::string(kContentTypesAddress) +
+                 R"("><Default Extension="rels" ContentType=")" + std::string(kRelationshipsType) +
+                 R"("/><Default Extension="xml" ContentType="application/xml"/></Types>)");
   Put(kContentTypes, "");
   contentTypesChanged_ = true;
 }
@@ -236,7 +235,7 @@ void Package::Add(std::string_view part, std::string_view contentType, std::stri
   for (const pugi::xml_node& other : xml::Children(types, "Override")) {
     if (PartNameOf(other) == Folded(part)) type = other;  // a part that was here once left it behind
   }
-  if (!type) type = types.append_child((std::string(xml::Prefix(types.name())) + "Override").c_str());
+  if (!type) type = xml::AppendChild(types, "Override");
   xml::SetAttribute(type, "PartName", PercentEncoded(part));
   xml::SetAttribute(type, "ContentType", contentType);
   contentTypesChanged_ = true;
@@ -257,8 +256,16 @@ void Package::Remove(std::string_view name, std::string_view source) {
     if (PartNameOf(type) == key) types.remove_child(type);
   }
   contentTypesChanged_ = changed_ = true;
-  byName_.erase(key);
-  std::erase_if(parts_, [&](const auto& other) { return other.get() == part; });
+  // a part that gets the name later has links of its own
+  const std::string links = RelationshipsPart(part->name);
+  if (Has(links)) Forget(Get(links));
+  relationships_.erase(Folded(links));
+  Forget(*part);
+}
+
+void Package::Forget(const Part& part) {
+  byName_.erase(Folded(part.name));
+  std::erase_if(parts_, [&](const auto& other) { return other.get() == &part; });
 }
 
 std::string Package::FreeName(std::string_view prefix, std::string_view suffix) const {
@@ -311,7 +318,7 @@ std::string Package::AddRelationship(std::string_view part, std::string_view typ
   if (Has(rels)) {
     xml::Parse(document, Read(rels));
   } else {
-    xml::Parse(document, R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?><Relationships xmlns=")" +
+    xml::Parse(document, std::string(kXmlDeclaration) + R"(<Relationships xmlns=")" +
                              std::string(kRelationshipsAddress) + R"("/>)");
   }
   pugi::xml_node root = xml::Root(document);
@@ -324,7 +331,7 @@ std::string Package::AddRelationship(std::string_view part, std::string_view typ
     }
     if (!taken) id = candidate;
   }
-  pugi::xml_node node = root.append_child((std::string(xml::Prefix(root.name())) + "Relationship").c_str());
+  pugi::xml_node node = xml::AppendChild(root, "Relationship");
   xml::SetAttribute(node, "Id", id);
   xml::SetAttribute(node, "Type", typeAddress);
   xml::SetAttribute(node, "Target", RelativeTarget(part, target));

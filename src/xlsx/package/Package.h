@@ -70,11 +70,13 @@ class Package {
   const Part& Get(std::string_view part) const;
   Part* Find(std::string_view part) const;
   Part& Put(std::string_view part, std::string bytes);
+  /// Takes it out of the list.
+  void Forget(const Part& part);
   void LoadContentTypes();
 
   std::unique_ptr<Archive> archive_;
-  std::vector<std::unique_ptr<Part>> parts_;  // in the order of the file
-  std::map<std::string, Part*, std::less<>> byName_;
+  std::vector<std::unique_ptr<Part>> parts_;          // in the order of the file
+  std::map<std::string, Part*, std::less<>> byName_;  ///< folded
   /// By the name of the part that holds them; read once, as each shape of a drawing looks its own up.
   mutable std::map<std::string, std::vector<Relationship>, std::less<>> relationships_;
   std::unique_ptr<pugi::xml_document> contentTypes_;

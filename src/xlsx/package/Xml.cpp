@@ -143,6 +143,15 @@ struct QuoteWalker : pugi::xml_tree_walker {
   }
 };
 
+/// Without the space around it, and without a plus sign.
+std::string_view NumberIn(std::string_view text) {
+  const auto first = text.find_first_not_of(" \t\r\n");
+  if (first == std::string_view::npos) return {};
+  text = text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
+  if (text.starts_with('+')) text.remove_prefix(1);
+  return text;
+}
+
 }  // namespace
 
 bool NeedsConversion(std::string_view start) { return EncodingOf(start) != Encoding::kUtf8; }
@@ -184,7 +193,7 @@ void Parse(pugi::xml_document& document, std::string_view bytes) {
   if (!status || !Root(document)) throw PackageError("its XML is damaged");
   if (dom::NestsDeeperThan(document, limits::kXmlDepth)) throw PackageError("its XML nests too deep");
   for (const pugi::xml_node& node : document.children()) {
-    if (node.type() == pugi::node_doctype) throw PackageError(kDocumentType);
+    if (node.type() == pugi::node_doctype) throw PackageError(kHasDocumentType);
   }
   QuoteWalker walker;
   document.traverse(walker);
@@ -271,6 +280,21 @@ std::vector<pugi::xml_node> Children(pugi::xml_node parent, std::string_view loc
   return children;
 }
 
+pugi::xml_node AppendChild(pugi::xml_node parent, std::string_view local) {
+  return parent.append_child((std::string(Prefix(parent.name())) + std::string(local)).c_str());
+}
+
+pugi::xml_node EnsureInOrder(pugi::xml_node parent, std::string_view local,
+                             std::span<const std::string_view> order) {
+  if (const auto child = Child(parent, local)) return child;
+  pugi::xml_node child = AppendChild(parent, local);
+  auto behind = std::find(order.begin(), order.end(), local);
+  while (behind != order.end() && ++behind != order.end()) {
+    if (const auto follower = Child(parent, *behind)) return parent.insert_move_before(child, follower);
+  }
+  return child;
+}
+
 pugi::xml_node NextSame(pugi::xml_node node) {
   const std::string_view local = LocalName(node);
   do {
@@ -302,10 +326,7 @@ double NumberAttribute(pugi::xml_node node, const char* name, double fallback) {
 }
 
 bool BooleanAttribute(pugi::xml_node node, const char* name, bool fallback) {
-  const std::string_view value = node.attribute(name).value();
-  if (value == "1" || value == "true" || value == "on") return true;
-  if (value == "0" || value == "false" || value == "off") return false;
-  return fallback;
+  return ParseBoolean(node.attribute(name).value()).value_or(fallback);
 }
 
 void SetAttribute(pugi::xml_node node, const char* name, std::string_view value) {
@@ -369,11 +390,14 @@ std::string Number(double value) {
   return {buffer.data(), end};
 }
 
+std::optional<bool> ParseBoolean(std::string_view text) {
+  if (text == "1" || text == "true" || text == "on") return true;
+  if (text == "0" || text == "false" || text == "off") return false;
+  return std::nullopt;
+}
+
 std::optional<double> ParseDouble(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t\r\n");
-  if (first == std::string_view::npos) return std::nullopt;
-  text = text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
-  if (text.starts_with('+')) text.remove_prefix(1);
+  text = NumberIn(text);
   double value = 0;
   const auto [end, status] = std::from_chars(text.begin(), text.end(), value);
   if (status != std::errc() || end != text.end() || !std::isfinite(value)) return std::nullopt;
@@ -381,6 +405,7 @@ std::optional<double> ParseDouble(std::string_view text) {
 }
 
 std::optional<long long> ParseInteger(std::string_view text) {
+  text = NumberIn(text);
   long long value = 0;
   const auto [end, status] = std::from_chars(text.begin(), text.end(), value);
   if (status != std::errc() || end != text.end()) return std::nullopt;

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <pugixml.hpp>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -16,7 +17,8 @@
 namespace plotsmith::xlsx::xml {
 
 /// What is said of a part with a document type, which no part may have (ECMA-376-2).
-inline constexpr const char* kDocumentType = "it declares a document type, which no part of a workbook may";
+inline constexpr const char* kHasDocumentType =
+    "it declares a document type, which no part of a workbook may";
 
 /// Parses a part in UTF-8, UTF-16, Latin-1 or Windows-1252. Throws PackageError if it isn't well-formed, or
 /// too deep.
@@ -45,6 +47,11 @@ pugi::xml_node Child(pugi::xml_node parent, std::string_view local, Names... res
   return Child(Child(parent, local), rest...);
 }
 std::vector<pugi::xml_node> Children(pugi::xml_node parent, std::string_view local);
+/// A new last child, with its parent's prefix.
+pugi::xml_node AppendChild(pugi::xml_node parent, std::string_view local);
+/// A child, made where there is none: in front of those that come behind it in the order of the schema.
+pugi::xml_node EnsureInOrder(pugi::xml_node parent, std::string_view local,
+                             std::span<const std::string_view> order);
 /// The next sibling element of the same local name.
 pugi::xml_node NextSame(pugi::xml_node node);
 /// The root element.
@@ -56,7 +63,7 @@ std::string Attribute(pugi::xml_node node, const char* name, std::string_view fa
 /// A whole number; `fallback` if the attribute is absent or isn't one.
 long long IntegerAttribute(pugi::xml_node node, const char* name, long long fallback);
 double NumberAttribute(pugi::xml_node node, const char* name, double fallback);
-/// xsd:boolean.
+/// ST_OnOff, and so xsd:boolean; `fallback` if the attribute is absent or is neither.
 bool BooleanAttribute(pugi::xml_node node, const char* name, bool fallback);
 void SetAttribute(pugi::xml_node node, const char* name, std::string_view value);
 /// The value of the attribute that links to a relationship (r:id, whatever the prefix), or empty.
@@ -72,6 +79,8 @@ std::string EnsurePrefix(pugi::xml_node node, std::string_view uri, std::string_
 /// The namespace that the element itself is in.
 std::string NamespaceOf(pugi::xml_node node);
 
+/// "1", "true", "on" and their opposites; nothing for anything else.
+std::optional<bool> ParseBoolean(std::string_view text);
 /// Numbers as XML wants them, shortest form that reads back the same.
 std::string Number(double value);
 std::optional<double> ParseDouble(std::string_view text);

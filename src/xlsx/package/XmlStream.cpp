@@ -3,6 +3,7 @@
 #include <cstring>
 #include <utility>
 
+#include "runtime/Ascii.h"
 #include "xlsx/Limits.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/package/Xml.h"
@@ -16,7 +17,7 @@ constexpr std::ptrdiff_t kDeclaration = 512;
 /// Behind the zero byte: whoever compares a few bytes at once may look so far.
 constexpr std::size_t kSlack = 15;
 
-bool IsSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+using ascii::IsSpace;
 
 }  // namespace
 
@@ -117,7 +118,7 @@ XmlStream::Tag XmlStream::Next(std::string* text) {
       continue;
     }
     if (startsWith("<!")) {
-      throw PackageError(xml::kDocumentType);
+      throw PackageError(xml::kHasDocumentType);
     }
 
     const char* p = position_ + 1;
@@ -192,6 +193,10 @@ std::string AttributeIn(std::string_view attributes, std::string_view name) {
     attributes.remove_prefix(close + 1);
   }
   return {};
+}
+
+bool BooleanIn(std::string_view attributes, std::string_view name) {
+  return xml::ParseBoolean(AttributeIn(attributes, name)).value_or(false);
 }
 
 }  // namespace plotsmith::xlsx

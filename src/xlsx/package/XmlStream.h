@@ -57,5 +57,7 @@ class XmlStream {
 
 /// The value of an attribute in the text between a tag's name and its end, decoded; empty if it is absent.
 std::string AttributeIn(std::string_view attributes, std::string_view name);
+/// The same of a boolean, false if it is absent.
+bool BooleanIn(std::string_view attributes, std::string_view name);
 
 }  // namespace plotsmith::xlsx

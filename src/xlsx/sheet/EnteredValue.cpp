@@ -55,7 +55,7 @@ void EnterText(GridCell& cell, std::string_view text) {
 
 }  // namespace
 
-void Enter(GridCell& cell, const runtime::Variant& value) {
+void EnterValue(GridCell& cell, const runtime::Variant& value, DateSystem dates) {
   if (const auto* text = value.If<std::string>()) {
     EnterText(cell, *text);
   } else if (value.IsEmpty() || value.IsNull()) {
@@ -65,7 +65,8 @@ void Enter(GridCell& cell, const runtime::Variant& value) {
   } else if (const auto* error = value.If<runtime::Variant::Error>()) {
     Put(cell, Kind::kError, error->number, std::string(ErrorText(error->number)));
   } else {
-    const double number = runtime::CDbl(value);
+    double number = runtime::CDbl(value);
+    if (value.If<runtime::Variant::Date>()) number -= SerialOffset(dates);
     if (!std::isfinite(number)) throw runtime::RuntimeError(runtime::error::kOverflow);
     Put(cell, Kind::kNumber, number);
   }

@@ -62,22 +62,12 @@ FormulaReader::Piece FormulaReader::Take(std::size_t length) {
 
 /// A sheet in quotes: of another book ('[1]Sheet'), or two with a colon, it is no name of a sheet.
 FormulaReader::Piece FormulaReader::TakeQuoted() {
-  std::string name;
-  std::size_t i = 1;
-  for (; i < rest_.size(); ++i) {
-    if (rest_[i] != '\'') {
-      name += rest_[i];
-    } else if (i + 1 < rest_.size() && rest_[i + 1] == '\'') {
-      name += rest_[i++];
-    } else {
-      break;
-    }
-  }
-  ++i;
-  if (i < rest_.size() && rest_[i] == '!') ++i;
+  std::string_view behind = rest_;
+  std::string name = TakeQuotedSheetName(behind);
+  if (behind.starts_with('!')) behind.remove_prefix(1);
   place_ = name.find_first_of("[:") == std::string::npos ? Place::kSheet : Place::kElsewhere;
   sheet_ = std::move(name);
-  return Take(i);
+  return Take(rest_.size() - behind.size());
 }
 
 /// The columns of a table, or the number of another book with the sheet behind it.

@@ -10,8 +10,9 @@ namespace {
 /// Takes `count` digits off the front.
 std::optional<int> TakeDigits(std::string_view& text, std::size_t count) {
   if (text.size() < count) return std::nullopt;
-  const auto value = xml::ParseInteger(text.substr(0, count));
-  if (!value || text[0] == '-') return std::nullopt;
+  const std::string_view digits = text.substr(0, count);
+  const auto value = xml::ParseInteger(digits);
+  if (!value || digits.find_first_not_of("0123456789") != std::string_view::npos) return std::nullopt;
   text.remove_prefix(count);
   return static_cast<int>(*value);
 }
@@ -55,8 +56,8 @@ std::optional<double> ParseIsoDate(std::string_view text, DateSystem dates) {
     if (!date.ok()) return std::nullopt;
     // both systems count from a day before 1970; 1900 has a 29 February of its own, serial 60
     const auto days = sys_days(date).time_since_epoch().count();
-    serial = dates == DateSystem::k1904 ? days + 24107 : days + 25569;
-    if (dates == DateSystem::k1900 && serial <= 60) serial -= 1;
+    serial = days + kSerialOf1970 - SerialOffset(dates);
+    if (dates == DateSystem::k1900 && serial <= kPhantomLeapDay) serial -= 1;
     if (text.empty()) return serial;
     if (!Take(text, 'T')) return std::nullopt;
   }

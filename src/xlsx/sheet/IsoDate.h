@@ -3,7 +3,7 @@
 #include <optional>
 #include <string_view>
 
-#include "xlsx/numberformat/NumberFormat.h"
+#include "xlsx/numberformat/DateSystem.h"
 
 namespace plotsmith::xlsx {
 

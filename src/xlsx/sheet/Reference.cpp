@@ -3,14 +3,16 @@
 #include <algorithm>
 #include <charconv>
 
+#include "runtime/Ascii.h"
 #include "runtime/Strings.h"
 #include "xlsx/Limits.h"
 
 namespace plotsmith::xlsx {
 namespace {
 
-bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+using ascii::IsDigit;
+using ascii::IsLetter;
+
 std::optional<std::int32_t> WholeNumber(std::string_view digits) {
   std::int32_t value = 0;
   const auto [end, status] = std::from_chars(digits.begin(), digits.end(), value);
@@ -56,6 +58,18 @@ std::string CornerText(const Corner& corner) {
   if (corner.column > 0) text += (corner.columnAbsolute ? "$" : "") + ColumnLetters(corner.column);
   if (corner.row > 0) text += (corner.rowAbsolute ? "$" : "") + std::to_string(corner.row);
   return text;
+}
+
+/// "R", "C12", "RC3" and their like, which is a reference also without its numbers.
+bool ReadsAsR1C1(std::string_view name) {
+  const auto take = [&](char letter) {
+    if (name.empty() || ascii::Lower(name[0]) != letter) return;
+    name.remove_prefix(1);
+    while (!name.empty() && IsDigit(name[0])) name.remove_prefix(1);
+  };
+  take('r');
+  take('c');
+  return name.empty();
 }
 
 }  // namespace
@@ -123,14 +137,27 @@ std::string RangeAddress(const CellRange& range) {
 }
 
 std::string QuotedSheetName(std::string_view name) {
-  const bool plain =
-      !name.empty() && !IsDigit(name[0]) && name[0] != '.' && name[0] != '?' &&
-      std::all_of(name.begin(), name.end(), [](char c) { return IsNameCharacter(c) && c != '\\'; });
+  bool plain = !name.empty() && !IsDigit(name[0]) && name[0] != '.';
+  for (std::size_t i = 0; plain && i < name.size();) {
+    const char32_t c = runtime::NextCharacter(name, i);
+    plain = c < 0x80 ? IsLetter(static_cast<char>(c)) || IsDigit(static_cast<char>(c)) || c == '_' || c == '.'
+                     : runtime::IsLetter(c);
+  }
   // a name that reads as a reference needs quotes too
-  const bool reference = ReadA1Reference(name).has_value() || ParseR1C1(name).has_value() ||
-                         runtime::EqualsIgnoreCase(name, "R") || runtime::EqualsIgnoreCase(name, "C");
-  if (plain && !reference) return std::string(name);
+  if (plain && !ReadA1Reference(name) && !ReadsAsR1C1(name)) return std::string(name);
   return "'" + runtime::Replace(name, "'", "''") + "'";
+}
+
+std::string TakeQuotedSheetName(std::string_view& text) {
+  std::string name;
+  std::size_t i = 1;
+  for (; i < text.size(); ++i) {
+    if (text[i] == '\'' && !text.substr(i + 1).starts_with('\'')) break;
+    name += text[i];
+    if (text[i] == '\'') ++i;  // doubled, for one
+  }
+  text.remove_prefix(std::min(i + 1, text.size()));
+  return name;
 }
 
 std::string SheetRangeAddress(const SheetRange& range) {
@@ -169,25 +196,14 @@ std::optional<CellRange> ParseR1C1(std::string_view text) {
 
 std::optional<SheetRange> ParseSheetRange(std::string_view text) {
   SheetRange result;
-  std::size_t i = 0;
   if (text.starts_with('\'')) {
-    for (i = 1; i < text.size(); ++i) {
-      if (text[i] != '\'') {
-        result.sheet += text[i];
-      } else if (i + 1 < text.size() && text[i + 1] == '\'') {
-        result.sheet += text[i++];
-      } else {
-        break;
-      }
-    }
-    ++i;
+    result.sheet = TakeQuotedSheetName(text);
   } else {
-    i = text.find('!');
-    if (i == std::string_view::npos) return std::nullopt;
-    result.sheet = text.substr(0, i);
+    result.sheet = text.substr(0, text.find('!'));
+    text.remove_prefix(result.sheet.size());
   }
-  if (i >= text.size() || text[i] != '!' || result.sheet.empty()) return std::nullopt;
-  const std::string_view address = text.substr(i + 1);
+  if (!text.starts_with('!') || result.sheet.empty()) return std::nullopt;
+  const std::string_view address = text.substr(1);
   auto range = ParseA1(address);
   if (!range) range = ParseR1C1(address);
   if (!range) return std::nullopt;

@@ -33,6 +33,8 @@ std::string CellAddress(std::int32_t row, std::int32_t column, bool absolute = t
 std::string RangeAddress(const CellRange& range);
 /// The sheet's name as a formula writes it, in quotes where it needs them.
 std::string QuotedSheetName(std::string_view name);
+/// The way back: the name in quotes that the text begins with, which moves behind them.
+std::string TakeQuotedSheetName(std::string_view& text);
 /// "Sheet1!$A$1:$B$2".
 std::string SheetRangeAddress(const SheetRange& range);
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "runtime/Ascii.h"
+
 namespace plotsmith::xlsx {
 
 namespace {
@@ -9,9 +11,7 @@ namespace {
 /// Whether a text holds a name in any case. Only ASCII letters are compared by case: for others, and for what
 /// XML or quotes would write otherwise, the first few characters that are the same in any writing have to do.
 bool Mentions(std::string_view text, std::string_view name) {
-  const auto plain = [](char c) {
-    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' || c == ' ';
-  };
+  const auto plain = [](char c) { return ascii::IsDigit(c) || ascii::IsLetter(c) || c == '_' || c == ' '; };
   std::size_t begin = 0, length = 0;  // the longest stretch of plain characters
   for (std::size_t i = 0; i < name.size();) {
     std::size_t end = i;
@@ -20,10 +20,9 @@ bool Mentions(std::string_view text, std::string_view name) {
     i = end + 1;
   }
   if (length == 0) return true;
-  const auto fold = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
   return std::search(text.begin(), text.end(), name.begin() + static_cast<std::ptrdiff_t>(begin),
                      name.begin() + static_cast<std::ptrdiff_t>(begin + length),
-                     [&](char a, char b) { return fold(a) == fold(b); }) != text.end();
+                     [&](char a, char b) { return ascii::Lower(a) == ascii::Lower(b); }) != text.end();
 }
 
 }  // namespace

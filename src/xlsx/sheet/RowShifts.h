@@ -20,7 +20,9 @@ class RowShifts {
   /// `count` rows at `row`; negative: deleted.
   void Add(std::string_view sheet, std::int32_t row, std::int32_t count);
   bool None() const { return shifts_.empty(); }
-  /// How many there are: what who has followed them all remembers.
+  /// Whether any came behind a mark.
+  bool AnyBehind(std::size_t mark) const { return shifts_.size() > mark; }
+  /// The mark to remember once all shifts are followed.
   std::size_t Mark() {
     marked_ = true;
     return shifts_.size();

@@ -2,9 +2,11 @@
 
 #include <array>
 #include <map>
+#include <optional>
 
 #include "xlsx/package/Xml.h"
 #include "xlsx/package/XmlStream.h"
+#include "xlsx/package/XmlTags.h"
 #include "xlsx/sheet/Formula.h"
 
 namespace plotsmith::xlsx {
@@ -44,22 +46,28 @@ struct SharedFormula {
 
 class FormulaShifter {
  public:
-  FormulaShifter(const std::string& part, std::string_view home, const RowShifts& shifts)
-      : part_(part), home_(home), shifts_(shifts) {}
+  FormulaShifter(const std::string& part, std::string_view home, const RowShifts& shifts,
+                 std::size_t followed)
+      : part_(part), home_(home), shifts_(shifts), followed_(followed) {}
 
   bool Run() {
-    for (std::size_t at = part_.find('<'); at != std::string::npos; at = part_.find('<', at)) {
-      const auto nameEnd = part_.find_first_of(" \t\r\n/>", at + 1);
-      const auto close = part_.find('>', at);
-      if (nameEnd == std::string::npos || close == std::string::npos) break;
-      const std::string_view local = xml::LocalName(std::string_view(part_).substr(at + 1, nameEnd - at - 1));
-      const std::string_view attributes(part_.data() + nameEnd, close - nameEnd);
-      if (local == "c") {
-        const auto cell = ParseA1(AttributeIn(attributes, "r"));
-        row_ = cell ? cell->row1 : 0;
-        column_ = cell ? cell->column1 : 0;
+    std::size_t at = 0;
+    while (const auto tag = NextTag(part_, at)) {
+      at = tag->span.end;
+      if (tag->kind == XmlTag::Kind::kEnd) continue;
+      const std::string_view local = xml::LocalName(tag->name);
+      // rows and cells without a reference follow the one before
+      if (local == "row") {
+        const auto row = xml::ParseInteger(AttributeIn(tag->attributes, "r"));
+        row_ = row ? static_cast<std::int32_t>(*row) : row_ + 1;
+        column_ = 0;
+      } else if (local == "c") {
+        const auto cell = ParseA1(AttributeIn(tag->attributes, "r"));
+        if (cell) row_ = cell->row1;
+        column_ = cell ? cell->column1 : column_ + 1;
+      } else if (HoldsFormula(local)) {
+        at = TakeFormula(*tag);
       }
-      at = HoldsFormula(local) ? TakeFormula(at, nameEnd, close) : close + 1;
     }
     return copied_ > 0;
   }
@@ -70,16 +78,19 @@ class FormulaShifter {
   }
 
  private:
-  /// From the "<" of a formula's element to behind the element.
-  std::size_t TakeFormula(std::size_t open, std::size_t nameEnd, std::size_t close) {
-    const bool empty = part_[close - 1] == '/';
-    const std::string_view attributes(part_.data() + nameEnd, close - nameEnd - (empty ? 1 : 0));
-    const auto end = empty ? close + 1 : part_.find('<', close);
-    if (end == std::string::npos) return part_.size();
-    std::string formula =
-        empty ? std::string() : xml::Decode(std::string_view(part_).substr(close + 1, end - close - 1));
-    if (AttributeIn(attributes, "t") == "shared") {
-      const std::string group = AttributeIn(attributes, "si");
+  /// The element that begins with the tag. Answers where it ends.
+  std::size_t TakeFormula(const XmlTag& tag) {
+    TextSpan text{tag.span.end, tag.span.end};
+    std::size_t end = tag.span.end;
+    if (tag.kind == XmlTag::Kind::kStart) {
+      const auto closing = NextTag(part_, end);
+      if (!closing) return part_.size();
+      text.end = closing->span.begin;
+      end = closing->span.end;
+    }
+    std::string formula = TextBetween(std::string_view(part_).substr(text.begin, text.end - text.begin));
+    if (AttributeIn(tag.attributes, "t") == "shared") {
+      const std::string group = AttributeIn(tag.attributes, "si");
       if (!formula.empty()) {
         shared_.erase(group);  // numbers of groups are used again
         if (shifts_.MayConcern(formula)) shared_[group] = {row_, column_, formula};
@@ -88,34 +99,30 @@ class FormulaShifter {
         formula = OffsetFormula(full.formula, row_ - full.row, column_ - full.column);
       }
       if (!shared_.contains(group)) return end;
-      PutAlone(open, ElementEnd(empty, close, end), part_.substr(open + 1, nameEnd - open - 1), attributes,
-               shifts_.Follow(formula, home_, 0).value_or(formula));
-    } else if (const auto moved = formula.empty() ? std::nullopt : shifts_.Follow(formula, home_, 0)) {
-      Replace(close + 1, end, *moved);
+      const std::string name(tag.name);
+      Replace({tag.span.begin, end}, "<" + name + Unshared(tag.attributes) + ">" +
+                                         xml::EncodeText(Moved(formula).value_or(formula)) + "</" + name +
+                                         ">");
+    } else if (const auto moved = formula.empty() ? std::nullopt : Moved(formula)) {
+      Replace(text, xml::EncodeText(*moved));
     }
     return end;
   }
 
-  std::size_t ElementEnd(bool empty, std::size_t close, std::size_t end) const {
-    return empty ? close + 1 : part_.find('>', end) + 1;
+  std::optional<std::string> Moved(const std::string& formula) const {
+    return shifts_.Follow(formula, home_, followed_);
   }
 
   /// Another text in the place of a stretch of the part.
-  void Replace(std::size_t begin, std::size_t end, const std::string& formula) {
-    out_.append(part_, copied_, begin - copied_).append(xml::EncodeText(formula));
-    copied_ = end;
-  }
-  /// A formula of its own in the place of a whole element.
-  void PutAlone(std::size_t begin, std::size_t end, const std::string& name, std::string_view attributes,
-                const std::string& formula) {
-    out_.append(part_, copied_, begin - copied_);
-    out_.append("<" + name + Unshared(attributes) + ">" + xml::EncodeText(formula) + "</" + name + ">");
-    copied_ = end;
+  void Replace(const TextSpan& stretch, const std::string& by) {
+    out_.append(part_, copied_, stretch.begin - copied_).append(by);
+    copied_ = stretch.end;
   }
 
   const std::string& part_;
   std::string_view home_;
   const RowShifts& shifts_;
+  std::size_t followed_;
   std::map<std::string, SharedFormula> shared_;  ///< those concerned, by their `si`
   std::int32_t row_ = 0, column_ = 0;
   std::string out_;
@@ -124,8 +131,9 @@ class FormulaShifter {
 
 }  // namespace
 
-bool ShiftSheetFormulas(std::string& part, std::string_view home, const RowShifts& shifts) {
-  FormulaShifter shifter(part, home, shifts);
+bool ShiftSheetFormulas(std::string& part, std::string_view home, const RowShifts& shifts,
+                        std::size_t followed) {
+  FormulaShifter shifter(part, home, shifts, followed);
   if (!shifter.Run()) return false;
   part = shifter.Finish();
   return true;

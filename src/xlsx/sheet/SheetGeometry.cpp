@@ -35,6 +35,7 @@ int DigitWidth(const Styles& styles) {
   for (const Known& known : kKnown) {
     if (runtime::EqualsIgnoreCase(name, known.font) && size == known.size) return known.width;
   }
+  // a digit is about half as wide as its font is high
   return std::max(1, static_cast<int>(std::lround(size * 96 / 72 * 0.48)));
 }
 
@@ -125,18 +126,16 @@ SheetGeometry ReadGeometry(const std::string& head,
       if (const auto width = number("defaultColWidth", kMostCharacters))
         columnWidth = ColumnPoints(*width, digit);
       if (const auto height = number("defaultRowHeight", kMostRowHeight)) rowHeight = *height;
-      if (AttributeIn(tag.attributes, "zeroHeight") == "1") rowHeight = 0;
+      if (BooleanIn(tag.attributes, "zeroHeight")) rowHeight = 0;
     } else if (tag.name == "col") {
       constexpr double kBeyond = limits::kColumns + 1;
       const auto first = number("min", kBeyond), last = number("max", kBeyond);
       const auto width = number("width", kMostCharacters);
       if (!first || !last || *first < 1 || *last > limits::kColumns) continue;
-      const std::string hidden = AttributeIn(tag.attributes, "hidden");
-      const bool isHidden = hidden == "1" || hidden == "true";
       columns.push_back({static_cast<long long>(*first), static_cast<long long>(*last),
-                         isHidden ? 0
-                         : width  ? ColumnPoints(*width, digit)
-                                  : -1});
+                         BooleanIn(tag.attributes, "hidden") ? 0
+                         : width                             ? ColumnPoints(*width, digit)
+                                                             : -1});
     }
   }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "runtime/Ascii.h"
 #include "xlsx/Limits.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/package/XString.h"
@@ -13,8 +14,8 @@
 namespace plotsmith::xlsx {
 namespace {
 
-bool IsSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+using ascii::IsDigit;
+using ascii::IsSpace;
 
 /// Numbers of a sheet. The common ones, with few digits and no exponent, are exact as the quotient of two
 /// whole numbers below 2^53; the rest goes the library's road.
@@ -132,7 +133,7 @@ bool SheetScanner::ReadHead() {
       if (!Fill()) Damaged();
     }
     const std::string_view tag(position_ + 1, static_cast<std::size_t>(close - position_ - 1));
-    if (tag.starts_with("!D")) throw PackageError(xml::kDocumentType);
+    if (tag.starts_with("!D")) throw PackageError(xml::kHasDocumentType);
     std::size_t length = 0;
     while (length < tag.size() && !IsSpace(tag[length]) && tag[length] != '/') ++length;
     if (xml::LocalName(tag.substr(0, length)) == "sheetData") {
@@ -203,8 +204,7 @@ void SheetScanner::ReadRow(std::string_view attributes) {
   if (row < 1 || row > limits::kRows) throw PackageError("it has a row outside of any sheet");
   row_ = static_cast<std::int32_t>(row);
   column_ = 0;
-  const std::string hidden = AttributeIn(attributes, "hidden");
-  if (hidden == "1" || hidden == "true") {
+  if (BooleanIn(attributes, "hidden")) {
     contents_.rowHeights.emplace_back(row_, 0);
   } else if (const auto height = xml::ParseDouble(AttributeIn(attributes, "ht"))) {
     contents_.rowHeights.emplace_back(row_, *height);
@@ -267,7 +267,7 @@ const char* SheetScanner::TakePlainRow(const char* p) {
   if (*p != '"' || row < 1 || row > limits::kRows) return nullptr;
   for (++p; *p != '>'; ++p) {
     // " ht=" or " hidden="; and what isn't in the window isn't plain either
-    if (*p == '\0' || *p == '/' || (*p == ' ' && p[1] == 'h')) return nullptr;
+    if (*p == '\0' || *p == '/' || (p[1] == 'h' && IsSpace(*p))) return nullptr;
   }
   row_ = row;
   column_ = 0;
@@ -416,7 +416,7 @@ void SheetScanner::Store(std::int32_t column, std::string_view type, std::uint32
     case 'i':
       return put({Packed::kOwnText, texts.Add(value)});
     case 'b':
-      return put({Packed::kBoolean, value == "1" || value == "true" ? 1U : 0U});
+      return put({Packed::kBoolean, xml::ParseBoolean(value).value_or(false) ? 1U : 0U});
     case 'e':
       return put({Packed::kError, texts.Add(plain())});
     case 'd':

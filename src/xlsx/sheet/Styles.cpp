@@ -22,7 +22,6 @@ constexpr int kPaletteSize = 56;
 constexpr int kFixedColors = 8;
 
 constexpr std::string_view kEmptyStyles =
-    R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
     R"(<styleSheet xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main">)"
     R"(<fonts count="1"><font><sz val="11"/><name val="Calibri"/><family val="2"/></font></fonts>)"
     R"(<fills count="2"><fill><patternFill patternType="none"/></fill><fill><patternFill patternType="gray125"/></fill></fills>)"
@@ -32,9 +31,9 @@ constexpr std::string_view kEmptyStyles =
     R"(<cellStyles count="1"><cellStyle name="Normal" xfId="0" builtinId="0"/></cellStyles></styleSheet>)";
 
 /// The children of `styleSheet` in the order that its schema wants (CT_Stylesheet).
-constexpr std::array<std::string_view, 11> kSheetOrder = {"numFmts",      "fonts",   "fills",      "borders",
-                                                          "cellStyleXfs", "cellXfs", "cellStyles", "dxfs",
-                                                          "tableStyles",  "colors",  "extLst"};
+constexpr std::array<std::string_view, 11> kOrder = {"numFmts",      "fonts",   "fills",      "borders",
+                                                     "cellStyleXfs", "cellXfs", "cellStyles", "dxfs",
+                                                     "tableStyles",  "colors",  "extLst"};
 
 /// Red, green and blue of Excel's default palette, from ECMA-376-1, 18.8.27 (indexed 8 to 63).
 constexpr std::array<std::uint32_t, kPaletteSize> kDefaultPalette = {
@@ -49,20 +48,8 @@ std::int32_t Swapped(std::uint32_t rgb) {
   return static_cast<std::int32_t>((rgb & 0xFF) << 16 | (rgb & 0xFF00) | (rgb >> 16 & 0xFF));
 }
 
-/// A child of `styleSheet`, made at its place if there is none.
-pugi::xml_node EnsureSheetChild(pugi::xml_node sheet, std::string_view local) {
-  if (const auto child = xml::Child(sheet, local)) return child;
-  pugi::xml_node before;
-  bool behind = false;
-  for (const std::string_view name : kSheetOrder) {
-    if (behind && !before) before = xml::Child(sheet, name);
-    behind |= name == local;
-  }
-  const std::string name = std::string(xml::Prefix(sheet.name())) + std::string(local);
-  return before ? sheet.insert_child_before(name.c_str(), before) : sheet.append_child(name.c_str());
-}
-
-/// The elements of a list, where a writer may have put several versions of some: of each the first choice.
+/// The elements of a list, where a writer may have put several versions of some: the plainest of each, which
+/// is numbered as cells count it.
 void Collect(pugi::xml_node list, std::string_view local, std::vector<pugi::xml_node>& found) {
   for (const pugi::xml_node& child : list.children()) {
     if (xml::Is(child, local)) found.push_back(child);
@@ -88,23 +75,22 @@ int FormatIdOf(pugi::xml_node node) {
 }  // namespace
 
 Styles::Styles(std::string_view bytes, bool strict) {
+  const std::string empty = std::string(kXmlDeclaration) + std::string(kEmptyStyles);
   if (!bytes.empty()) {
     xml::Parse(document_, bytes);
-  } else if (strict) {
-    xml::Parse(document_, runtime::Replace(kEmptyStyles, kTransitional.main, kStrict.main));
   } else {
-    xml::Parse(document_, kEmptyStyles);
+    xml::Parse(document_, strict ? runtime::Replace(empty, kTransitional.main, kStrict.main) : empty);
   }
   Load();
 }
 
-pugi::xml_node Styles::Sheet() const { return xml::Root(document_); }
+pugi::xml_node Styles::Root() const { return xml::Root(document_); }
 
 void Styles::Load() {
-  for (const pugi::xml_node& format : Listed(Sheet(), "numFmts", "numFmt")) {
+  for (const pugi::xml_node& format : Listed(Root(), "numFmts", "numFmt")) {
     formats_[FormatIdOf(format)] = xml::Attribute(format, "formatCode");
   }
-  for (const pugi::xml_node& style : Listed(Sheet(), "cellXfs", "xf")) {
+  for (const pugi::xml_node& style : Listed(Root(), "cellXfs", "xf")) {
     cellStyles_.emplace_back().formatId = FormatIdOf(style);
   }
 }
@@ -140,11 +126,11 @@ int Styles::FormatId(std::string_view code) {
     if (BuiltinNumberFormat(id) == code && !formats_.contains(id)) return id;
   }
   const auto next = static_cast<int>(FreeNumber(taken, kFirstCustomFormat, kLastFormat));
-  pugi::xml_node list = EnsureSheetChild(Sheet(), "numFmts");
-  pugi::xml_node format = list.append_child((std::string(xml::Prefix(list.name())) + "numFmt").c_str());
+  pugi::xml_node list = xml::EnsureInOrder(Root(), "numFmts", kOrder);
+  pugi::xml_node format = xml::AppendChild(list, "numFmt");
   xml::SetAttribute(format, "numFmtId", std::to_string(next));
   xml::SetAttribute(format, "formatCode", code);
-  xml::SetAttribute(list, "count", std::to_string(Listed(Sheet(), "numFmts", "numFmt").size()));
+  xml::SetAttribute(list, "count", std::to_string(Listed(Root(), "numFmts", "numFmt").size()));
   formats_[next] = code;
   return next;
 }
@@ -159,13 +145,13 @@ std::uint32_t Styles::WithFormat(std::uint32_t base, std::string_view code) {
     changed_ = wasChanged;
     return base;
   }
-  pugi::xml_node list = EnsureSheetChild(Sheet(), "cellXfs");
+  pugi::xml_node list = xml::EnsureInOrder(Root(), "cellXfs", kOrder);
   const std::string name = std::string(xml::Prefix(list.name())) + "xf";
   if (cellStyles_.empty()) {  // the first style is that of all cells that name none
     xml::SetAttribute(list.append_child(name.c_str()), "numFmtId", "0");
     cellStyles_.emplace_back();
   }
-  const auto styles = Listed(Sheet(), "cellXfs", "xf");
+  const auto styles = Listed(Root(), "cellXfs", "xf");
   pugi::xml_node style =
       base < styles.size() ? list.append_copy(styles[base]) : list.append_child(name.c_str());
   xml::SetAttribute(style, "numFmtId", std::to_string(id));
@@ -183,7 +169,7 @@ std::int32_t DefaultPaletteColor(std::int32_t index) {
 
 std::int32_t Styles::PaletteColor(std::int32_t index) const {
   if (index < 1 || index > kPaletteSize) throw runtime::RuntimeError(runtime::error::kSubscript);
-  const auto colors = xml::Children(xml::Child(Sheet(), "colors", "indexedColors"), "rgbColor");
+  const auto colors = xml::Children(xml::Child(Root(), "colors", "indexedColors"), "rgbColor");
   const auto position = static_cast<std::size_t>(index - 1 + kFixedColors);
   if (position < colors.size()) {
     if (const auto color = ParseRgb(xml::Attribute(colors[position], "rgb"))) return *color;
@@ -194,7 +180,7 @@ std::int32_t Styles::PaletteColor(std::int32_t index) const {
 void Styles::SetPaletteColor(std::int32_t index, std::int32_t color) {
   if (index < 1 || index > kPaletteSize) throw runtime::RuntimeError(runtime::error::kSubscript);
   changed_ = true;
-  pugi::xml_node colors = EnsureSheetChild(Sheet(), "colors");
+  pugi::xml_node colors = xml::EnsureInOrder(Root(), "colors", kOrder);
   const std::string prefix(xml::Prefix(colors.name()));
   pugi::xml_node palette = xml::Child(colors, "indexedColors");
   if (!palette) palette = colors.prepend_child((prefix + "indexedColors").c_str());
@@ -212,12 +198,12 @@ void Styles::SetPaletteColor(std::int32_t index, std::int32_t color) {
 
 pugi::xml_node Styles::NormalFont() const {
   const auto at = [&](std::string_view list, std::string_view local, long long index) {
-    const auto found = Listed(Sheet(), list, local);
+    const auto found = Listed(Root(), list, local);
     const bool known = index >= 0 && index < static_cast<long long>(found.size());
     return known ? found[static_cast<std::size_t>(index)] : pugi::xml_node();
   };
   long long format = 0;
-  for (const pugi::xml_node& style : Listed(Sheet(), "cellStyles", "cellStyle")) {
+  for (const pugi::xml_node& style : Listed(Root(), "cellStyles", "cellStyle")) {
     if (xml::IntegerAttribute(style, "builtinId", -1) == 0) format = xml::IntegerAttribute(style, "xfId", 0);
   }
   const pugi::xml_node font =

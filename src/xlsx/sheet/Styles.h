@@ -55,7 +55,7 @@ class Styles {
   }
   void Parse(const CellStyle& style) const;
 
-  pugi::xml_node Sheet() const;
+  pugi::xml_node Root() const;
   pugi::xml_node NormalFont() const;
   std::string CodeOf(int formatId) const;
   int FormatId(std::string_view code);

@@ -87,6 +87,57 @@ TEST_F(ChartFamiliesTest, AxesComeBackFromTypesWithoutThem) {
   }
 }
 
+TEST_F(ChartFamiliesTest, ASeriesKeepsTheTypeThatItsGroupGivesIt) {
+  const S ser = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/></c:ser>";
+  const S second = runtime::Replace(ser, "\"0\"", "\"1\"");
+  const S scales = "<c:axId val=\"1\"/><c:axId val=\"2\"/>";
+  const S valueAxes =
+      "<c:valAx><c:axId val=\"1\"/><c:scaling/><c:axPos val=\"b\"/><c:crossAx val=\"2\"/><c:crosses "
+      "val=\"autoZero\"/></c:valAx><c:valAx><c:axId val=\"2\"/><c:scaling/><c:axPos val=\"l\"/><c:crossAx "
+      "val=\"1\"/><c:crosses val=\"autoZero\"/></c:valAx>";
+  const S axes = runtime::Replace(valueAxes, "valAx><c:axId val=\"1\"/>", "catAx><c:axId val=\"1\"/>");
+  const S categoryAxes = runtime::Replace(axes, "</c:valAx><c:valAx>", "</c:catAx><c:valAx>");
+  struct Case {
+    const char* what;
+    S plot;
+    std::int32_t type, next;  ///< of the series, and of a new one behind it
+  };
+  const Case cases[] = {
+      {"bubbles that only the group calls solid",
+       "<c:bubbleChart>" + ser + "<c:bubble3D val=\"1\"/>" + scales + "</c:bubbleChart>" + valueAxes, 87, 87},
+      {"a smooth line through points",
+       "<c:scatterChart><c:scatterStyle val=\"smoothMarker\"/>" + ser + scales + "</c:scatterChart>" +
+           valueAxes,
+       72, 74},
+      {"a line without markers, as the group has none",
+       "<c:lineChart><c:grouping val=\"standard\"/>" + ser + scales + "</c:lineChart>" + categoryAxes, 4, 4},
+      {"cones",
+       "<c:bar3DChart><c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>" + ser +
+           "<c:shape val=\"cone\"/>" + scales + "</c:bar3DChart>" + categoryAxes,
+       99, 99},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    const S after = Sound(Part("<c:plotArea>" + c.plot + "</c:plotArea>"), [&](Chart& chart) {
+      const auto series = chart.SeriesCollection()->Item(1);
+      EXPECT_EQ(series->ChartType(), c.type);
+      series->SetBubbleSizes("=Sheet1!R2C3:R2C3");
+      EXPECT_EQ(series->ChartType(), c.type);
+      EXPECT_EQ(chart.SeriesCollection()->NewSeries()->ChartType(), c.next);
+    });
+    EXPECT_EQ(Has(after, "<c:bubbleSize>"), c.type == excel::xlBubble3DEffect) << after;
+  }
+  // columns may stand beside a line, also those that a loose writer calls "standard"
+  Sound(Part("<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:grouping val=\"standard\"/>" + ser + second +
+             scales + "</c:barChart>" + categoryAxes + "</c:plotArea>"),
+        [](Chart& chart) {
+          EXPECT_EQ(chart.ChartType(), excel::xlColumnClustered);
+          chart.SeriesCollection()->Item(2)->SetChartType(excel::xlLine);
+          EXPECT_EQ(chart.SeriesCollection()->Item(2)->ChartType(), excel::xlLine);
+          EXPECT_EQ(chart.SeriesCollection()->Item(1)->ChartType(), excel::xlColumnClustered);
+        });
+}
+
 TEST_F(ChartFamiliesTest, EachBubbleIsASeriesAndKeepsItsSize) {
   const S bubbles =
       "<c:plotArea><c:bubbleChart><c:varyColors val=\"0\"/><c:bubbleScale val=\"30\"/><c:showNegBubbles "

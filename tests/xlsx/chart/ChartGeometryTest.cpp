@@ -49,6 +49,72 @@ class ChartGeometryTest : public test::ChartTest {
   }
 };
 
+/// The number of letters of Calibri, bold or plain, that a title of 20 points holds in one line.
+constexpr int kTitleLetters = 29;
+
+TEST_F(ChartGeometryTest, TitlesTakeTheRoomThatTheirTextTakes) {
+  const S letters(kTitleLetters, 'n');
+  const auto title = [](const S& paragraphs) {
+    return "<c:title><c:tx><c:rich>" + paragraphs + "</c:rich></c:tx></c:title>";
+  };
+  const S run = "<a:r><a:rPr sz=\"2000\"/><a:t>";
+  const S plain = "<c:txPr><a:bodyPr/><a:p><a:pPr><a:defRPr b=\"0\"/></a:pPr></a:p></c:txPr>";
+  const auto depth = [&](const S& text, const S& behind) {
+    return OpenChart(test::ChartPartXml(title(text) + "<c:plotArea/>", behind))->PlotArea()->Top() - 7 - 7.2;
+  };
+  const double line = 20 * 1.2207;
+  EXPECT_NEAR(depth("<a:p>" + run + letters + "</a:t></a:r></a:p>", ""), 2 * line, 0.01)
+      << "bold, as titles are";
+  EXPECT_NEAR(depth("<a:p>" + run + letters + "</a:t></a:r></a:p>", plain), 2 * line, 0.01)
+      << "also where the chart's texts aren't";
+  EXPECT_NEAR(
+      depth("<a:p>" + runtime::Replace(run, " sz", " b=\"0\" sz") + letters + "</a:t></a:r></a:p>", ""), line,
+      0.01);
+  EXPECT_NEAR(depth("<a:p>" + run + "a</a:t></a:r><a:br/>" + run + "b</a:t></a:r></a:p>", ""), 2 * line,
+              0.01);
+  EXPECT_NEAR(
+      depth("<a:p><a:fld id=\"{1}\"><a:rPr sz=\"2000\"/><a:t>" + letters + "</a:t></a:fld></a:p>", ""),
+      2 * line, 0.01);
+}
+
+TEST_F(ChartGeometryTest, ALegendIsAsWideAsTheWidestOfItsEntries) {
+  const auto series = [](int number, const S& name) {
+    const S n = std::to_string(number);
+    return "<c:ser><c:idx val=\"" + n + "\"/><c:order val=\"" + n + "\"/>" +
+           (name.empty() ? "" : "<c:tx><c:v>" + name + "</c:v></c:tx>") +
+           "<c:cat><c:strLit><c:ptCount val=\"3\"/><c:pt idx=\"0\"><c:v>AV</c:v></c:pt><c:pt "
+           "idx=\"1\"><c:v>AVAV</c:v></c:pt></c:strLit></c:cat><c:val><c:numLit><c:ptCount "
+           "val=\"3\"/></c:numLit></c:val></c:ser>";
+  };
+  const auto deleted = [](int number) {
+    return "<c:legendEntry><c:idx val=\"" + std::to_string(number) +
+           "\"/><c:delete val=\"1\"/></c:legendEntry>";
+  };
+  const double pair = 10 * (0.579 + 0.567), key = 24 + 8;
+  struct Case {
+    const char* what;
+    S plot, entries;
+    double text;
+  };
+  const Case cases[] = {
+      {"series", "<c:barChart>" + series(0, "AV") + series(1, "AVAVAV") + "</c:barChart>", "", 3 * pair},
+      {"one of them deleted", "<c:barChart>" + series(0, "AV") + series(1, "AVAVAV") + "</c:barChart>",
+       deleted(1), pair},
+      {"one without a name", "<c:barChart>" + series(9, "") + "</c:barChart>", "",
+       0.01 * (473 + 498 + 349 + 229 + 498 + 391 + 507 + 507 - 14)},
+      {"points of a pie", "<c:pieChart>" + series(0, "AVAVAVAV") + "</c:pieChart>", "", 2 * pair},
+      {"points without a text", "<c:pieChart>" + series(0, "AVAVAVAV") + "</c:pieChart>",
+       deleted(0) + deleted(1), 5.07},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    const auto area = OpenChart(test::ChartPartXml("<c:plotArea>" + c.plot + "</c:plotArea><c:legend>" +
+                                                   c.entries + "</c:legend>"))
+                          ->PlotArea();
+    EXPECT_NEAR(area->Width(), 370 - c.text - key, 0.001);
+  }
+}
+
 TEST_F(ChartGeometryTest, ThePlotAreaIsWhereItsLayoutSaysOrWhatTheOthersLeave) {
   const S axes = "<c:catAx><c:axPos val=\"b\"/></c:catAx><c:valAx><c:axPos val=\"l\"/></c:valAx>";
   const S title =

@@ -3,6 +3,7 @@
 
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
+#include "xlsx/Worksheet.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -284,6 +285,55 @@ TEST_F(ChartPropertiesTest, LegendEntriesGoWithTheirSeries) {
     AddOfType(chart, excel::xlPie);
     EXPECT_EQ(chart.Legend()->LegendEntries()->Count(), 4);
   });
+}
+
+TEST_F(ChartPropertiesTest, TextsComeBackFromTheChartAsTheyWentIn) {
+  const S literal = "_x000D_ & \x01";
+  After(kNothing, [&](Chart& chart) {
+    Book().FindWorksheet("Sheet1")->SetCellValueAt(1, 1, "two\r\nlines _x0041_");
+    for (const S& name : {S("=Sheet1!R1C1:R1C1"), literal}) {
+      AddOfType(chart, excel::xlColumnClustered)->SetName(name);
+    }
+    EXPECT_EQ(chart.SeriesCollection()->Item(1)->Name(), "two\r\nlines _x0041_");
+  });
+  const auto chart = ChartOf("Sheet1");
+  EXPECT_EQ(chart->SeriesCollection()->Item(1)->Name(), "two\r\nlines _x0041_");
+  EXPECT_EQ(chart->SeriesCollection()->Item(2)->Name(), literal);
+  chart->SeriesCollection()->Item(2)->Delete();
+  chart->SetHasTitle(true);
+  EXPECT_EQ(chart->ChartTitle()->Text(), "two\r\nlines _x0041_");
+}
+
+TEST_F(ChartPropertiesTest, ATitleHasALineForEachOfItsTextsLines) {
+  const S after = Sound(kNothing, [](Chart& chart) {
+    const auto series = AddOfType(chart, excel::xlColumnClustered);
+    chart.Axes(excel::xlValue, 1)->SetHasTitle(true);
+    const auto title = chart.Axes(excel::xlValue, 1)->AxisTitle();
+    title->SetText("one\r\n\rtwo\nthree");
+    EXPECT_EQ(title->Text(), "one\n\ntwo\nthree");
+    title->Font()->SetSize(14.0);
+    title->SetText("");
+    EXPECT_EQ(title->Text(), "");
+    title->Font()->SetFontStyle("Italic");
+    title->SetText("again");
+    EXPECT_EQ(title->Font()->Size(), runtime::Variant(14.0));
+    series->SetHasDataLabels(true);
+    series->DataLabels()->Item(1)->SetText("a\r\nb");
+  });
+  EXPECT_TRUE(Has(after, "<a:r><a:rPr lang=\"en-US\" sz=\"1400\" b=\"0\" i=\"1\"/><a:t>again</a:t></a:r>"))
+      << after;
+  EXPECT_FALSE(Has(after, "&#13;")) << after;
+  EXPECT_TRUE(Has(after, "<a:t>a</a:t></a:r></a:p>")) << after;
+}
+
+TEST_F(ChartPropertiesTest, ALabelsTextTakesOverTheDressOfTheLabels) {
+  const S after = After(
+      Part("<c:plotArea><c:barChart><c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:dLbls><c:txPr><a:bodyPr/>"
+           "<a:p><a:pPr><a:defRPr sz=\"900\" bmk=\"A &amp; B\"/></a:pPr></a:p></c:txPr><c:showVal val=\"1\"/>"
+           "</c:dLbls><c:val><c:numLit><c:ptCount val=\"1\"/></c:numLit></c:val></c:ser></c:barChart>"
+           "</c:plotArea>"),
+      [](Chart& chart) { chart.SeriesCollection()->Item(1)->DataLabels()->Item(1)->SetText("T"); });
+  EXPECT_TRUE(Has(after, "<a:rPr lang=\"en-US\" sz=\"900\" bmk=\"A &amp; B\"/>")) << after;
 }
 
 TEST_F(ChartPropertiesTest, TheJournalNamesWhatChanged) {

@@ -1,3 +1,4 @@
+#include <cmath>
 #include <functional>
 #include <map>
 #include <pugixml.hpp>
@@ -7,6 +8,7 @@
 #include "tests/support/ChartTest.h"
 #include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/package/Archive.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
@@ -380,14 +382,50 @@ TEST_F(ChartShapesTest, StretchesOfATextHaveTheirOwnFont) {
   }
 }
 
+TEST_F(ChartShapesTest, NewShapesHaveNamesThatNoOtherHas) {
+  OpenChart();
+  const auto shapes = Chart()->Shapes();
+  shapes->AddTextbox(1, 0, 0, 10, 10)->SetName("textbox 2");
+  EXPECT_EQ(shapes->AddTextbox(1, 0, 0, 10, 10)->Name(), "TextBox 3");
+  shapes->Item(1)->SetName("Oval 3");
+  EXPECT_EQ(shapes->AddShape(9, 0, 0, 5, 5)->Name(), "Oval 4");
+  shapes->Item(1)->SetName("Group 4");
+  EXPECT_EQ(shapes->Range({"TextBox 3", "Oval 4"})->Group()->Name(), "Group 5");
+}
+
+TEST_F(ChartShapesTest, ThePartOfShapesStandsInTheFolderOfTheWorkbook) {
+  test::PlainBook book;
+  book.sheets = {test::SalesSheet("Sheet1")};
+  book.sheets[0].frames = {{"id", kBubbles}};
+  book.Write(folder_ / "plain.xlsx");
+  const Package package = Package::Open(folder_ / "plain.xlsx");
+  std::vector<std::pair<S, S>> parts;
+  for (const S& part : package.Parts()) {
+    const bool names = part.ends_with(".rels") || part.starts_with("/[");
+    const S bytes = package.Read(part);
+    parts.emplace_back(runtime::Replace(part, "/xl/", "/book/").substr(1),
+                       names ? runtime::Replace(bytes, "xl/", "book/") : bytes);
+  }
+  ArchiveWriter writer(folder_ / "moved.xlsx");
+  for (const auto& [name, bytes] : parts) writer.Add(name, bytes);
+  writer.Finish();
+  OpenFile(folder_ / "moved.xlsx");
+  DrawLegend();
+  SaveAndReopen();
+  EXPECT_EQ(Chart()->Shapes()->Count(), 1);
+  EXPECT_TRUE(Book().Package().Has("/book/drawings/drawing2.xml"));
+}
+
 TEST_F(ChartShapesTest, WhatCantBeIsError1004) {
   OpenChart();
   const auto shapes = Chart()->Shapes();
   const auto box = shapes->AddTextbox(1, 0, 0, 10, 10), gone = shapes->AddTextbox(1, 0, 0, 10, 10);
   const auto wide = shapes->AddTextbox(1, 0, 0, 20, 10);
   gone->Delete();
+  const S one = shapes->AddShape(1, 0, 0, 5, 5)->Name(), other = shapes->AddShape(1, 5, 5, 5, 5)->Name();
+  shapes->Range({one, other})->Group()->SetName("Group");
   const std::function<void()> calls[] = {
-      [&] { shapes->Item(3); },
+      [&] { shapes->Item(4); },
       [&] { shapes->Item(0); },
       [&] { shapes->Item("nobody"); },
       [&] {
@@ -419,12 +457,19 @@ TEST_F(ChartShapesTest, WhatCantBeIsError1004) {
       [&] { gone->TextFrame()->Characters()->SetText("x"); },
       [&] { gone->Delete(); },
       [&] { Chart()->PlotArea()->SetWidth(0); },
+      [&] { shapes->AddTextbox(1, 0, 1e308 * 10, 10, 10); },
+      [&] { shapes->AddShape(1, 0, 0, std::nan(""), 10); },
+      [&] { shapes->Item("Group")->Line()->SetVisible(false); },
+      [&] { shapes->Item("Group")->Line()->ForeColor()->SetRGB(0); },
   };
   for (std::size_t i = 0; i < std::size(calls); ++i) {
     SCOPED_TRACE(i);
     ExpectError1004(calls[i]);
   }
-  EXPECT_EQ(shapes->Count(), 2);
+  EXPECT_EQ(shapes->Count(), 3);
+  SaveAndReopen();
+  EXPECT_EQ(test::CountOf(SavedPart(kPart), "<cdr:relSizeAnchor>"), 3u) << "nothing is left of what failed";
+  EXPECT_FALSE(test::Has(SavedPart(kPart), "<a:ln>"));
 }
 
 }  // namespace

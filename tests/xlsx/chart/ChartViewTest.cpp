@@ -3,7 +3,9 @@
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
-#include "xlsx/Enumerations.h"
+#include "xlsx/chart/ChartEnumerations.h"
+#include "xlsx/chart/ChartTypes.h"
+#include "xlsx/drawing/ShapeEnumerations.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -234,7 +236,7 @@ TEST_F(ChartViewTest, ATypeComesBackAsItWas) {
 
 TEST_F(ChartViewTest, EveryTypeIsBuiltAsExcelBuildsIt) {
   for (const ChartTypeEntry& type : kChartTypes) {
-    SCOPED_TRACE(type.name);
+    SCOPED_TRACE(type.number);
     const S after = After(Part("<c:plotArea><c:layout/></c:plotArea>"), [&](Chart& chart) {
       chart.SetChartType(57);
       const auto series = chart.SeriesCollection()->NewSeries();
@@ -311,7 +313,7 @@ TEST(EnumerationsTest, GoBothWays) {
     EXPECT_TRUE(enumeration->absent.empty() || enumeration->Number(enumeration->absent));
   }
   for (const ChartTypeEntry& entry : kChartTypes)
-    EXPECT_EQ(FindChartType(entry.number), &entry) << entry.name;
+    EXPECT_EQ(FindChartType(entry.number), &entry) << entry.number;
 }
 
 }  // namespace

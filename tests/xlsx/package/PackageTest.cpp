@@ -71,6 +71,18 @@ TEST_F(PackageFileTest, UntouchedPartsKeepTheirBytesOrderAndNames) {
   EXPECT_EQ(again.FindRelationship("/xl/workbook.xml", id)->type, "new");
 }
 
+TEST_F(PackageFileTest, APartThatGoesTakesItsLinksAlong) {
+  Package package;
+  for (const S part : {"/xl/sheet.xml", "/xl/drawing.xml"}) package.Add(part, "application/x", "<x/>");
+  package.AddRelationship("", "http://x/sheet", "/xl/sheet.xml");
+  package.AddRelationship("/xl/sheet.xml", "http://x/drawing", "/xl/drawing.xml");
+  EXPECT_TRUE(package.FindRelationshipOfType("/xl/sheet.xml", "drawing"));
+  package.Remove("/xl/sheet.xml", "");
+  package.Add("/xl/sheet.xml", "application/x", "<x/>");
+  EXPECT_FALSE(package.FindRelationshipOfType("/xl/sheet.xml", "drawing"));
+  EXPECT_FALSE(package.Has("/xl/_rels/sheet.xml.rels"));
+}
+
 TEST_F(PackageFileTest, ForeignEntriesAreCopiedByWhateverMethodTheyCame) {
   {
     ArchiveWriter writer(folder_ / "odd.xlsx");

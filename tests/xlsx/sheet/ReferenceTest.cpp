@@ -48,6 +48,10 @@ TEST(ReferenceTest, SheetNamesAreQuotedWhereTheyMustBe) {
                                                        {"Größe", "Größe"},
                                                        {"XFE1", "XFE1"},
                                                        {"R", "'R'"},
+                                                       {"rc12", "'rc12'"},
+                                                       {"R1C", "'R1C'"},
+                                                       {"Rc_1", "Rc_1"},
+                                                       {"Q1–Q2", "'Q1–Q2'"},
                                                        {"", "''"}};
   for (const auto& [name, quoted] : cases) EXPECT_EQ(QuotedSheetName(name), quoted);
   EXPECT_EQ(SheetRangeAddress({"My Sheet", {1, 27, 3, 27}}), "'My Sheet'!$AA$1:$AA$3");

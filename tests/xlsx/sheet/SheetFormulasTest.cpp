@@ -32,7 +32,15 @@ TEST(SheetFormulasTest, OnlyTheFormulasConcernedChange) {
        "<c r='D1'><f t='shared' ref='D1:D2' si='0'>B1+1</f></c><c r='D2'><f t='shared' si='0'/></c>",
        "<c r='B4'><f ca='1' xml:space='preserve'> 'My Data'!A7</f></c><c r='B5'><f ca='1'> 'My "
        "Data'!A8</f></c>"
-       "<c r='D1'><f t='shared' ref='D1:D2' si='0'>B1+1</f></c><c r='D2'><f t='shared' si='0'/></c>"}};
+       "<c r='D1'><f t='shared' ref='D1:D2' si='0'>B1+1</f></c><c r='D2'><f t='shared' si='0'/></c>"},
+      // rows and cells count on where they don't say their place
+      {"<row r='4'><c/><c><f t='shared' ref='B4:B5' si='0'>'My Data'!A5</f></c></row><row><c/><c><f "
+       "t='shared' "
+       "si='0'/></c></row>",
+       "<row r='4'><c/><c><f>'My Data'!A7</f></c></row><row><c/><c><f>'My Data'!A8</f></c></row>"},
+      // and a text is a text in any writing
+      {"<c r='A1'><f a='>'><![CDATA['My Data'!A5]]>&lt;1<!-- so --></f></c>",
+       "<c r='A1'><f a='>'>'My Data'!A7&lt;1</f></c>"}};
   for (const auto& [before, after] : cases) {
     std::string part = std::string("<w>\r\n<!-- 'My Data'!A5 -->") + before + "</w>";
     EXPECT_TRUE(ShiftSheetFormulas(part, "Sheet1", shifts)) << before;

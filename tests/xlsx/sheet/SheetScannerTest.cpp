@@ -81,6 +81,16 @@ TEST(SheetScannerTest, ReadsEveryKindOfCellHoweverTheWindowCuts) {
   }
 }
 
+TEST(SheetScannerTest, SpaceIsSpaceInAnyWriting) {
+  const SheetContents sheet = Scan(
+      "<worksheet><sheetData><row r=\"3\"\tht=\"30\"><c r=\"A3\" t=\"s\"><v> 5 </v></c></row>"
+      "<row r=\"4\"\nhidden=\"on\"><c r=\"A4\"><v>\n+2.5</v></c></row></sheetData></worksheet>",
+      1000);
+  EXPECT_EQ(Show(sheet, 3, 1), "s5");
+  EXPECT_EQ(Show(sheet, 4, 1), "n2.5");
+  EXPECT_EQ(sheet.rowHeights, (std::vector<std::pair<std::int32_t, double>>{{3, 30}, {4, 0}}));
+}
+
 TEST(SheetScannerTest, PrefixesAndEncodings) {
   std::string prefixed = runtime::Replace(runtime::Replace(kSheet, "</", "</x:"), "<", "<x:");
   for (const auto& [wrong, right] : {std::pair{"<x:/x:", "</x:"}, {"<x:?", "<?"}, {"<x:!", "<!"}})

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "xlsx/chart/AxisScale.h"
+#include "xlsx/chart/ScaleRules.h"
 
 namespace plotsmith::xlsx {
 namespace {
 
-TEST(AxisScaleTest, FollowsThePublishedRules) {
+TEST(ScaleRulesTest, FollowsThePublishedRules) {
   struct Case {
     const char* what;
     double least, greatest;

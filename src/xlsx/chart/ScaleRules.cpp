@@ -1,4 +1,4 @@
-#include "xlsx/chart/AxisScale.h"
+#include "xlsx/chart/ScaleRules.h"
 
 #include <algorithm>
 #include <cmath>

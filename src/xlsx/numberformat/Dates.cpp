@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "xlsx/numberformat/NumberFormatProgram.h"
+#include "xlsx/numberformat/Program.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -13,10 +13,7 @@ using Kind = Token::Kind;
 using std::chrono::days;
 using std::chrono::sys_days;
 
-constexpr int64_t kDaySeconds = 24 * 60 * 60;
-constexpr int64_t kLastSerial = 2958465;  // 31 December 9999
-constexpr int64_t kSerialOf1904 = 1462;   // of the day that the system of 1904 calls 0
-constexpr int64_t kPhantomLeapDay = 60;   // 29 February 1900, which never was
+constexpr std::int64_t kDaySeconds = 24 * 60 * 60;
 constexpr sys_days kSerialZero{std::chrono::year{1899} / 12 / 30};  // as counted from March 1900 on
 
 constexpr std::string_view kMonths[] = {"January",   "February", "March",    "April",
@@ -29,7 +26,7 @@ constexpr std::string_view kWeekdays[] = {"Sunday",   "Monday", "Tuesday", "Wedn
                                           "Thursday", "Friday", "Saturday"};
 
 struct Era {
-  uint16_t language;
+  std::uint16_t language;
   sys_days begin;
   std::string_view names[3];  // by the number of letters that ask for it
 };
@@ -53,7 +50,7 @@ struct Date {
   sys_days point;  // the real day next to a phantom
 };
 
-Date GregorianDate(int64_t serial) {
+Date GregorianDate(std::int64_t serial) {
   // January and February 1900 count one less, since the phantom day is yet to come.
   const sys_days point = kSerialZero + days{serial <= kPhantomLeapDay ? serial + 1 : serial};
   if (serial == 0) return {1900, 1, 0, point};
@@ -64,24 +61,24 @@ Date GregorianDate(int64_t serial) {
 }
 
 /// The arithmetical calendar: months of 30 and 29 days in turn, eleven years out of thirty with a day more.
-Date HijriDate(int64_t serial) {
+Date HijriDate(std::int64_t serial) {
   constexpr sys_days kEpoch{std::chrono::year{622} / 7 / 18};
-  constexpr int64_t kCycleYears = 30;
-  constexpr int64_t kCycleDays = 10631;
-  const sys_days point = GregorianDate(std::max<int64_t>(serial, 1)).point;
-  const int64_t since = (point - kEpoch).count();
-  const auto year_start = [](int64_t year) { return 354 * (year - 1) + (11 * year + 3) / kCycleYears; };
-  int64_t year = since * kCycleYears / kCycleDays + 1;
-  if (year_start(year + 1) <= since) ++year;
-  if (year_start(year) > since) --year;
-  const int64_t day = since - year_start(year);
+  constexpr std::int64_t kCycleYears = 30;
+  constexpr std::int64_t kCycleDays = 10631;
+  const sys_days point = GregorianDate(std::max<std::int64_t>(serial, 1)).point;
+  const std::int64_t since = (point - kEpoch).count();
+  const auto yearStart = [](std::int64_t year) { return 354 * (year - 1) + (11 * year + 3) / kCycleYears; };
+  std::int64_t year = since * kCycleYears / kCycleDays + 1;
+  if (yearStart(year + 1) <= since) ++year;
+  if (yearStart(year) > since) --year;
+  const std::int64_t day = since - yearStart(year);
   // The last month takes the day more.
-  const int64_t month = std::min<int64_t>(day * 2 / 59, 11);
+  const std::int64_t month = std::min<std::int64_t>(day * 2 / 59, 11);
   return {static_cast<int>(year), static_cast<int>(month + 1),
           static_cast<int>(day - (59 * month + 1) / 2 + 1), point};
 }
 
-const Era* FindEra(uint16_t language, sys_days day) {
+const Era* FindEra(std::uint16_t language, sys_days day) {
   const auto* era = std::find_if(std::begin(kEras), std::end(kEras), [&](const Era& candidate) {
     return candidate.language == language && candidate.begin <= day;
   });
@@ -91,64 +88,64 @@ const Era* FindEra(uint16_t language, sys_days day) {
 /// A moment, already rounded to what the section shows.
 struct Moment {
   Date date;
-  int weekday;       // from Sunday
-  int64_t second;    // of the day
-  int64_t elapsed;   // seconds since the day zero
-  int64_t fraction;  // of a second, in as many digits as the section shows
+  int weekday;            // from Sunday
+  std::int64_t second;    // of the day
+  std::int64_t elapsed;   // seconds since the day zero
+  std::int64_t fraction;  // of a second, in as many digits as the section shows
   Calendar calendar;
 };
 
-void AppendInteger(std::string& out, int64_t number, uint32_t least_digits) {
+void AppendInteger(std::string& out, std::int64_t number, std::uint32_t leastDigits) {
   char text[24];
   char* const end = std::to_chars(text, text + sizeof text, number).ptr;
-  const auto size = static_cast<uint32_t>(end - text);
-  if (size < least_digits) out.append(least_digits - size, '0');
+  const auto size = static_cast<std::uint32_t>(end - text);
+  if (size < leastDigits) out.append(leastDigits - size, '0');
   out.append(text, end);
 }
 
-int64_t PowerOfTen(int exponent) {
-  int64_t power = 1;
+std::int64_t PowerOfTen(int exponent) {
+  std::int64_t power = 1;
   while (exponent-- > 0) power *= 10;
   return power;
 }
 
-void AppendMonth(std::string& out, const Moment& moment, uint32_t letters) {
-  const bool is_hijri = moment.calendar == Calendar::kHijri;
-  const std::string_view name = (is_hijri ? kHijriMonths : kMonths)[moment.date.month - 1];
+void AppendMonth(std::string& out, const Moment& moment, std::uint32_t letters) {
+  const bool isHijri = moment.calendar == Calendar::kHijri;
+  const std::string_view name = (isHijri ? kHijriMonths : kMonths)[moment.date.month - 1];
   if (letters < 3)
     AppendInteger(out, moment.date.month, letters);
-  else if (letters == 3 && !is_hijri)
+  else if (letters == 3 && !isHijri)
     out += name.substr(0, 3);
   else
     out += letters == 5 ? name.substr(0, 1) : name;
 }
 
-void AppendDay(std::string& out, const Moment& moment, uint32_t letters) {
+void AppendDay(std::string& out, const Moment& moment, std::uint32_t letters) {
   if (letters < 3)
     AppendInteger(out, moment.date.day, letters);
   else
     out += letters == 3 ? kWeekdays[moment.weekday].substr(0, 3) : kWeekdays[moment.weekday];
 }
 
-void AppendYear(std::string& out, int year, bool is_long) {
-  AppendInteger(out, is_long ? year : year % 100, is_long ? 4 : 2);
+void AppendYear(std::string& out, int year, bool isLong) {
+  AppendInteger(out, isLong ? year : year % 100, isLong ? 4 : 2);
 }
 
-void AppendHour(std::string& out, const Section& section, const Moment& moment, uint32_t letters) {
-  int64_t hour = moment.second / 3600;
+void AppendHour(std::string& out, const Section& section, const Moment& moment, std::uint32_t letters) {
+  std::int64_t hour = moment.second / 3600;
   if (section.elapsed == Kind::kHour)
     hour = moment.elapsed / 3600;
-  else if (section.twelve_hours)
+  else if (section.twelveHours)
     hour = (hour + 11) % 12 + 1;
   AppendInteger(out, hour, letters);
 }
 
 void AppendDateToken(std::string& out, const Section& section, const Token& token, const Moment& moment) {
-  const bool has_era_year = token.kind == Kind::kEraYear || token.kind == Kind::kEra;
-  const Era* era = has_era_year ? FindEra(section.language, moment.date.point) : nullptr;
+  const bool hasEraYear = token.kind == Kind::kEraYear || token.kind == Kind::kEra;
+  const Era* era = hasEraYear ? FindEra(section.language, moment.date.point) : nullptr;
   switch (token.kind) {
     case Kind::kYear:
-      AppendYear(out, moment.date.year + section.year_offset, token.size > 2);
+      AppendYear(out, moment.date.year + section.yearOffset, token.size > 2);
       return;
     case Kind::kBuddhistYear:
       AppendYear(out, moment.date.year + 543, token.size > 2);
@@ -157,10 +154,10 @@ void AppendDateToken(std::string& out, const Section& section, const Token& toke
       if (era)
         AppendInteger(out, Year(moment.date.point) - Year(era->begin) + 1, token.size);
       else
-        AppendYear(out, moment.date.year + section.year_offset, true);
+        AppendYear(out, moment.date.year + section.yearOffset, true);
       return;
     case Kind::kEra:
-      if (era) out += era->names[std::min<uint32_t>(token.size, 3) - 1];
+      if (era) out += era->names[std::min<std::uint32_t>(token.size, 3) - 1];
       return;
     case Kind::kMonth:
       AppendMonth(out, moment, token.size);
@@ -185,7 +182,7 @@ void AppendDateToken(std::string& out, const Section& section, const Token& toke
       return;
     case Kind::kAmPm: {
       const std::string_view marks = section.Text(token);
-      const size_t slash = marks.find('/');
+      const std::size_t slash = marks.find('/');
       out += moment.second < kDaySeconds / 2 ? marks.substr(0, slash) : marks.substr(slash + 1);
       return;
     }
@@ -202,27 +199,27 @@ bool IsField(Kind kind) { return kind >= Kind::kYear && kind <= Kind::kSecond; }
 void FindMinutes(Section& section) {
   auto& tokens = section.tokens;
   Kind next = Kind::kLiteral;
-  std::vector<bool> before_seconds(tokens.size());
-  for (size_t i = tokens.size(); i-- > 0;) {
-    before_seconds[i] = next == Kind::kSecond;
+  std::vector<bool> beforeSeconds(tokens.size());
+  for (std::size_t i = tokens.size(); i-- > 0;) {
+    beforeSeconds[i] = next == Kind::kSecond;
     if (IsField(tokens[i].kind)) next = tokens[i].kind;
   }
   Kind previous = Kind::kLiteral;
-  for (size_t i = 0; i < tokens.size(); ++i) {
+  for (std::size_t i = 0; i < tokens.size(); ++i) {
     Token& token = tokens[i];
-    const auto behind_seconds = [&] {
+    const auto behindSeconds = [&] {
       return i > 1 && tokens[i - 2].kind == Kind::kSecond && tokens[i - 1].kind == Kind::kLiteral &&
              section.Text(tokens[i - 1]) == ":";
     };
     if (token.kind == Kind::kMonth && token.size < 3 &&
-        (previous == Kind::kHour || before_seconds[i] || behind_seconds()))
+        (previous == Kind::kHour || beforeSeconds[i] || behindSeconds()))
       token.kind = Kind::kMinute;
     if (IsField(token.kind)) previous = token.kind;
   }
 }
 
 /// The longest run of letters that still means something else.
-uint32_t MostSize(Kind kind) {
+std::uint32_t MostSize(Kind kind) {
   switch (kind) {
     case Kind::kHour:
     case Kind::kMinute:
@@ -238,7 +235,7 @@ uint32_t MostSize(Kind kind) {
     case Kind::kMonth:
       return 5;
     default:
-      return std::numeric_limits<uint32_t>::max();  // a text
+      return std::numeric_limits<std::uint32_t>::max();  // a text
   }
 }
 
@@ -250,13 +247,13 @@ bool SettleDate(Section& section) {
   std::vector<Token> settled;
   settled.reserve(section.tokens.size());
   const auto& tokens = section.tokens;
-  for (size_t i = 0; i < tokens.size(); ++i) {
+  for (std::size_t i = 0; i < tokens.size(); ++i) {
     Token token = tokens[i];
     switch (token.kind) {
       case Kind::kPoint: {
         // A point with zeros behind it are fractions of a second, whatever stands before it.
-        constexpr uint32_t kMostSubseconds = 3;
-        uint32_t zeros = 0;
+        constexpr std::uint32_t kMostSubseconds = 3;
+        std::uint32_t zeros = 0;
         while (i + 1 < tokens.size() && tokens[i + 1].kind == Kind::kDigit && tokens[i + 1].symbol == '0') {
           ++zeros;
           ++i;
@@ -280,7 +277,7 @@ bool SettleDate(Section& section) {
         token.kind = Kind::kLiteral;
         break;
       case Kind::kAmPm:
-        section.twelve_hours = true;
+        section.twelveHours = true;
         break;
       case Kind::kHour:
         // Minutes that count on leave no hours to show, and so on.
@@ -306,17 +303,18 @@ bool AppendDateSection(std::string& out, const Section& section, double magnitud
   // Seconds are rounded even if only minutes or days show; five digits first, so that a time just short of a
   // half second for want of binary digits is one.
   constexpr int kGuardDigits = 5;
-  const auto guarded = static_cast<int64_t>(
+  const auto guarded = static_cast<std::int64_t>(
       std::floor((magnitude - whole) * static_cast<double>(kDaySeconds * PowerOfTen(kGuardDigits)) + 0.5));
-  const int64_t unit = PowerOfTen(kGuardDigits - section.subseconds);
-  const int64_t per_second = PowerOfTen(section.subseconds);
-  const int64_t ticks = (guarded + unit / 2) / unit + static_cast<int64_t>(whole) * kDaySeconds * per_second;
+  const std::int64_t unit = PowerOfTen(kGuardDigits - section.subseconds);
+  const std::int64_t perSecond = PowerOfTen(section.subseconds);
+  const std::int64_t ticks =
+      (guarded + unit / 2) / unit + static_cast<std::int64_t>(whole) * kDaySeconds * perSecond;
 
   Moment moment{};
-  moment.fraction = ticks % per_second;
-  moment.elapsed = ticks / per_second;
+  moment.fraction = ticks % perSecond;
+  moment.elapsed = ticks / perSecond;
   moment.second = moment.elapsed % kDaySeconds;
-  const int64_t serial = moment.elapsed / kDaySeconds + (dates == DateSystem::k1904 ? kSerialOf1904 : 0);
+  const std::int64_t serial = moment.elapsed / kDaySeconds + SerialOffset(dates);
   if (serial > kLastSerial) return false;
   moment.calendar = section.calendar;
   moment.date = section.calendar == Calendar::kHijri ? HijriDate(serial) : GregorianDate(serial);

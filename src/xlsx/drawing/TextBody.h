@@ -13,18 +13,23 @@ namespace plotsmith::xlsx {
 
 class Theme;
 
+/// The text of a body (txBody, rich): its paragraphs joined by line feeds.
+std::string BodyText(pugi::xml_node body);
+/// The text anew, a paragraph a line, each dressed as the first run and paragraph were.
+void SetBodyText(pugi::xml_node body, std::string_view text);
+/// The first paragraph, and what else a body must have.
+pugi::xml_node EnsureParagraph(pugi::xml_node body);
+
 /// The text of a shape: a view over its body of paragraphs and runs. Positions count UTF-16 units from 0, a
 /// line feed between paragraphs among them.
-class DrawingText {
+class TextBody {
  public:
   /// `object` is the shape's element.
-  explicit DrawingText(pugi::xml_node object) : object_(object) {}
+  explicit TextBody(pugi::xml_node object) : object_(object) {}
 
-  /// Paragraphs joined by line feeds.
-  std::string Text() const;
-  /// The text anew, a paragraph a line, each dressed as the first run and paragraph were. Error 1004 for an
-  /// object that can't bear a text; so for the next.
-  void SetText(std::string_view text);
+  std::string Text() const { return BodyText(Body()); }
+  /// Error 1004 for an object that can't bear a text; so for the next.
+  void SetText(std::string_view text) { SetBodyText(EnsureBody(), text); }
   /// The body's properties, made where they are missing.
   pugi::xml_node BodyProperties();
   std::vector<pugi::xml_node> Paragraphs() const;

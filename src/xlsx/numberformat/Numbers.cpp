@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <utility>
 
-#include "xlsx/numberformat/NumberFormatDecimal.h"
-#include "xlsx/numberformat/NumberFormatProgram.h"
+#include "xlsx/numberformat/Decimal.h"
+#include "xlsx/numberformat/Program.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -33,36 +33,36 @@ Scientific MakeScientific(const Decimal& number, int period, int decimals) {
 
 /// Settles a comma behind a digit placeholder or the decimal point: a thousands separator if another digit
 /// follows at once, else a division by a thousand for each, at the end of the integer part or of the number.
-/// `digit_follows` says whether any digit follows at all.
-void SettleComma(Section& section, size_t index, bool in_integers, bool digit_follows) {
+/// `digitFollows` says whether any digit follows at all.
+void SettleComma(Section& section, std::size_t index, bool inIntegers, bool digitFollows) {
   const auto& tokens = section.tokens;
   const Kind next = index + 1 < tokens.size() ? tokens[index + 1].kind : Kind::kLiteral;
   if (next == Kind::kDigit)
-    section.grouping |= in_integers;
-  else if (!digit_follows || (in_integers && next == Kind::kPoint))
+    section.grouping |= inIntegers;
+  else if (!digitFollows || (inIntegers && next == Kind::kPoint))
     section.scale -= 3 * tokens[index].symbol;
 }
 
 /// Settles the tokens of a plain or a scientific number.
 bool SettlePlainNumber(Section& section) {
   auto& tokens = section.tokens;
-  size_t mantissa_end = tokens.size();
-  size_t last_digit = 0;
-  for (size_t i = 0; i < tokens.size(); ++i) {
+  std::size_t mantissaEnd = tokens.size();
+  std::size_t lastDigit = 0;
+  for (std::size_t i = 0; i < tokens.size(); ++i) {
     if (tokens[i].kind == Kind::kExponent) {
-      if (mantissa_end < tokens.size()) return false;
-      mantissa_end = i;
+      if (mantissaEnd < tokens.size()) return false;
+      mantissaEnd = i;
     }
-    if (tokens[i].kind == Kind::kDigit && mantissa_end == tokens.size()) last_digit = i;
+    if (tokens[i].kind == Kind::kDigit && mantissaEnd == tokens.size()) lastDigit = i;
   }
 
   std::vector<Token> settled;
   settled.reserve(tokens.size());
   Kind part = Kind::kInteger;
-  bool in_digits = false;
-  for (size_t i = 0; i < tokens.size(); ++i) {
+  bool inDigits = false;
+  for (std::size_t i = 0; i < tokens.size(); ++i) {
     Token token = tokens[i];
-    const bool was_in_digits = std::exchange(in_digits, token.kind == Kind::kDigit);
+    const bool wasInDigits = std::exchange(inDigits, token.kind == Kind::kDigit);
     switch (token.kind) {
       case Kind::kDigit:
         token.kind = part;
@@ -74,14 +74,14 @@ bool SettlePlainNumber(Section& section) {
         if (part == Kind::kExponentDigit) return false;
         if (part == Kind::kInteger) {
           part = Kind::kDecimal;
-          in_digits = true;
+          inDigits = true;
         } else {
           token.kind = Kind::kLiteral;
         }
         break;
       case Kind::kComma:
-        if (was_in_digits && part != Kind::kExponentDigit) {
-          SettleComma(section, i, part == Kind::kInteger, i < last_digit);
+        if (wasInDigits && part != Kind::kExponentDigit) {
+          SettleComma(section, i, part == Kind::kInteger, i < lastDigit);
           continue;
         }
         token.kind = Kind::kLiteral;
@@ -103,15 +103,15 @@ bool SettlePlainNumber(Section& section) {
     settled.push_back(token);
   }
   tokens = std::move(settled);
-  const bool is_scientific = part == Kind::kExponentDigit;
-  section.kind = is_scientific ? Section::Kind::kScientific : Section::Kind::kNumber;
-  return !is_scientific || section.exponents > 0;
+  const bool isScientific = part == Kind::kExponentDigit;
+  section.kind = isScientific ? Section::Kind::kScientific : Section::Kind::kNumber;
+  return !isScientific || section.exponents > 0;
 }
 
 }  // namespace
 
 bool SettleNumber(Section& section) {
-  const size_t slash = FindFractionSlash(section.tokens);
+  const std::size_t slash = FindFractionSlash(section.tokens);
   return slash < section.tokens.size() ? SettleFraction(section, slash) : SettlePlainNumber(section);
 }
 
@@ -126,7 +126,7 @@ void AppendGeneral(std::string& out, double value) {
   constexpr double kMostFixed = 1e11;
   if (magnitude < kMostFixed && magnitude == std::floor(magnitude)) {
     char text[kMostDigits + 1];
-    out.append(text, std::to_chars(text, text + sizeof text, static_cast<int64_t>(magnitude)).ptr);
+    out.append(text, std::to_chars(text, text + sizeof text, static_cast<std::int64_t>(magnitude)).ptr);
     return;
   }
   const Decimal number(magnitude);
@@ -152,10 +152,10 @@ void AppendGeneral(std::string& out, double value) {
 void AppendNumberSection(std::string& out, const Section& section, double magnitude, bool negative) {
   Decimal number(magnitude);
   number.Scale(section.scale);
-  const bool is_scientific = section.kind == Section::Kind::kScientific;
+  const bool isScientific = section.kind == Section::Kind::kScientific;
   int exponent = 0;
   int digits = 0;
-  if (is_scientific) {
+  if (isScientific) {
     const int period = std::max(section.integers, 1);
     const Scientific scientific = MakeScientific(number, period, section.decimals);
     number = scientific.mantissa;
@@ -166,13 +166,13 @@ void AppendNumberSection(std::string& out, const Section& section, double magnit
     number.Round(section.decimals);
     digits = number.IntegerDigits();
   }
-  if (negative && !(section.hides_sign_of_zero && number.IsZero())) out += '-';
+  if (negative && !(section.hidesSignOfZero && number.IsZero())) out += '-';
 
   IntegerWriter integers(out, number, digits, section.integers, section.grouping);
-  const Decimal exponent_digits(std::abs(exponent));
-  IntegerWriter exponents(out, exponent_digits, exponent_digits.IntegerDigits(), section.exponents, false);
-  char exponent_sign = 0;
-  int decimal_power = -1;
+  const Decimal exponentDigits(std::abs(exponent));
+  IntegerWriter exponents(out, exponentDigits, exponentDigits.IntegerDigits(), section.exponents, false);
+  char exponentSign = 0;
+  int decimalPower = -1;
   for (const Token& token : section.tokens) {
     switch (token.kind) {
       case Kind::kInteger:
@@ -185,20 +185,20 @@ void AppendNumberSection(std::string& out, const Section& section, double magnit
         out += '.';
         break;
       case Kind::kDecimal:
-        if (!number.IsZero() && decimal_power >= number.Lowest())
-          out += number.Digit(decimal_power);
+        if (!number.IsZero() && decimalPower >= number.Lowest())
+          out += number.Digit(decimalPower);
         else if (token.symbol != '#')
           out += token.symbol == '0' ? '0' : ' ';
-        --decimal_power;
+        --decimalPower;
         break;
       case Kind::kExponent:
         out += 'E';
-        exponent_sign = exponent < 0 ? '-' : token.symbol == '+' ? '+' : '\0';
+        exponentSign = exponent < 0 ? '-' : token.symbol == '+' ? '+' : '\0';
         break;
       case Kind::kExponentDigit:
         // Literals may stand between the E and the sign.
-        if (exponent_sign) out += exponent_sign;
-        exponent_sign = 0;
+        if (exponentSign) out += exponentSign;
+        exponentSign = 0;
         exponents.Next(token.symbol);
         break;
       default:

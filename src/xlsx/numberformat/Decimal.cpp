@@ -1,4 +1,4 @@
-#include "xlsx/numberformat/NumberFormatDecimal.h"
+#include "xlsx/numberformat/Decimal.h"
 
 #include <algorithm>
 #include <charconv>
@@ -21,15 +21,15 @@ Decimal::Decimal(double magnitude) {
   std::from_chars(exponent, end, highest);
   point_ = highest + 1;
   count_ = kDigits;
-  while (digits_[static_cast<size_t>(count_ - 1)] == '0') --count_;
+  while (digits_[static_cast<std::size_t>(count_ - 1)] == '0') --count_;
 }
 
 void Decimal::Round(int decimals) {
   const int keep = point_ + decimals;
   if (keep >= count_) return;
-  const bool up = keep >= 0 && digits_[static_cast<size_t>(keep)] >= '5';
+  const bool up = keep >= 0 && digits_[static_cast<std::size_t>(keep)] >= '5';
   count_ = std::max(keep, 0);
-  const auto last = [&]() -> char& { return digits_[static_cast<size_t>(count_ - 1)]; };
+  const auto last = [&]() -> char& { return digits_[static_cast<std::size_t>(count_ - 1)]; };
   if (up) {
     while (count_ > 0 && last() == '9') --count_;
     if (count_ > 0) {
@@ -53,12 +53,12 @@ void Decimal::AppendTo(std::string& out) const {
 }
 
 void IntegerWriter::Next(char placeholder) {
-  const bool has_digit = digits_ > power_;
+  const bool hasDigit = digits_ > power_;
   while (digits_ > power_) {
     --digits_;
     Append(number_.Digit(digits_), digits_);
   }
-  if (!has_digit && placeholder != '#') Append(placeholder == '0' ? '0' : ' ', power_);
+  if (!hasDigit && placeholder != '#') Append(placeholder == '0' ? '0' : ' ', power_);
   --power_;
 }
 

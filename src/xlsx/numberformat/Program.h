@@ -15,7 +15,7 @@ namespace plotsmith::xlsx {
 /// one walk over the tokens. Each keeps its text, so that a sign without a meaning turns into a literal by
 /// its kind.
 struct Token {
-  enum class Kind : uint8_t {
+  enum class Kind : std::uint8_t {
     kLiteral,
     kText,     // @
     kGeneral,  // the word General
@@ -49,12 +49,12 @@ struct Token {
 
   Kind kind = Kind::kLiteral;
   char symbol = 0;
-  uint32_t begin = 0;  // of the text
-  uint32_t size = 0;
+  std::uint32_t begin = 0;  // of the text
+  std::uint32_t size = 0;
 };
 
 struct Condition {
-  enum class Operator : uint8_t { kLess, kLessEqual, kEqual, kNotEqual, kGreaterEqual, kGreater };
+  enum class Operator : std::uint8_t { kLess, kLessEqual, kEqual, kNotEqual, kGreaterEqual, kGreater };
 
   Operator op = Operator::kEqual;
   double limit = 0;
@@ -62,16 +62,16 @@ struct Condition {
   bool Holds(double value) const;
 };
 
-enum class Calendar : uint8_t { kGregorian, kHijri };
+enum class Calendar : std::uint8_t { kGregorian, kHijri };
 
 /// What a format says about one class of values.
 struct Section {
-  enum class Kind : uint8_t { kLiteral, kGeneral, kText, kNumber, kScientific, kFraction, kDate };
+  enum class Kind : std::uint8_t { kLiteral, kGeneral, kText, kNumber, kScientific, kFraction, kDate };
 
   Kind kind = Kind::kLiteral;
   std::optional<Condition> condition;
-  bool only_negative = false;       // no other number gets here, so that the minus sign goes without saying
-  bool hides_sign_of_zero = false;  // a number that shows zeros only shows no minus sign either
+  bool onlyNegative = false;     // no other number gets here, so that the minus sign goes without saying
+  bool hidesSignOfZero = false;  // a number that shows zeros only shows no minus sign either
   std::vector<Token> tokens;
   std::string texts;  // of the tokens
 
@@ -83,19 +83,19 @@ struct Section {
   bool grouping = false;
 
   // Fractions.
-  bool has_integer_part = false;
+  bool hasIntegerPart = false;
   int numerators = 0;
   int denominators = 0;
-  int64_t fixed_denominator = 0;  // 0: the best one of so many digits
-  size_t fraction_begin = 0;      // the tokens that stay blank beside a whole number
-  size_t fraction_end = 0;
+  std::int64_t fixedDenominator = 0;  // 0: the best one of so many digits
+  std::size_t fractionBegin = 0;      // the tokens that stay blank beside a whole number
+  std::size_t fractionEnd = 0;
 
   // Dates.
   Calendar calendar = Calendar::kGregorian;
-  uint16_t language = 0;
-  int year_offset = 0;  // of a solar calendar with another first year
-  int subseconds = 0;   // digits
-  bool twelve_hours = false;
+  std::uint16_t language = 0;
+  int yearOffset = 0;  // of a solar calendar with another first year
+  int subseconds = 0;  // digits
+  bool twelveHours = false;
   Token::Kind elapsed = Token::Kind::kLiteral;  // the unit that counts on instead of starting again
 
   std::string_view Text(const Token& token) const {
@@ -118,9 +118,9 @@ std::unique_ptr<NumberFormat::Program> ParseNumberFormat(std::string_view code);
 bool SettleDate(Section& section);
 /// The same for a section with digit placeholders; a fraction is one with this slash.
 bool SettleNumber(Section& section);
-bool SettleFraction(Section& section, size_t slash);
+bool SettleFraction(Section& section, std::size_t slash);
 /// The index of the slash that makes a section a fraction, behind the last token if there is none.
-size_t FindFractionSlash(const std::vector<Token>& tokens);
+std::size_t FindFractionSlash(const std::vector<Token>& tokens);
 
 /// `magnitude` isn't negative; `negative` asks for a minus sign.
 void AppendNumberSection(std::string& out, const Section& section, double magnitude, bool negative);

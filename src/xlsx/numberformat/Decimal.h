@@ -20,7 +20,7 @@ class Decimal {
   /// The digit at a power of ten.
   char Digit(int power) const {
     const int index = point_ - 1 - power;
-    return index >= 0 && index < count_ ? digits_[static_cast<size_t>(index)] : '0';
+    return index >= 0 && index < count_ ? digits_[static_cast<std::size_t>(index)] : '0';
   }
   /// The powers of the first and the last digit that isn't zero; not for zero.
   int Highest() const { return point_ - 1; }

@@ -14,7 +14,7 @@ struct AxisScale {
 struct AxisSettings {
   std::optional<double> minimum, maximum, majorUnit;
   std::optional<double> logBase;
-  /// Charts in 3-D leave no room above the greatest value.
+  /// Charts in 3-D, and those stacked to 100 percent, leave no room above the greatest value.
   bool headroom = true;
 };
 

@@ -2,7 +2,7 @@
 
 #include <pugixml.hpp>
 
-#include "xlsx/chart/AxisScale.h"
+#include "xlsx/chart/ScaleRules.h"
 
 namespace plotsmith::xlsx {
 

@@ -1,4 +1,4 @@
-#include "xlsx/Enumerations.h"
+#include "xlsx/chart/ChartEnumerations.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -107,19 +107,6 @@ constexpr EnumerationEntry kMarkerStyleEntries[] = {
     {9, "xlMarkerStylePlus", "plus"},
 };
 
-constexpr EnumerationEntry kHorizontalAlignmentEntries[] = {
-    {-4131, "xlHAlignLeft", "l"},       {-4108, "xlHAlignCenter", "ctr"},       {-4152, "xlHAlignRight", "r"},
-    {-4130, "xlHAlignJustify", "just"}, {-4117, "xlHAlignDistributed", "dist"},
-};
-
-constexpr EnumerationEntry kVerticalAlignmentEntries[] = {
-    {-4160, "xlVAlignTop", "t"},
-    {-4108, "xlVAlignCenter", "ctr"},
-    {-4107, "xlVAlignBottom", "b"},
-    {-4130, "xlVAlignJustify", "just"},
-    {-4117, "xlVAlignDistributed", "dist"},
-};
-
 constexpr EnumerationEntry kTickLabelPositionEntries[] = {
     {4, "xlTickLabelPositionNextToAxis", "nextTo"},
     {-4134, "xlTickLabelPositionLow", "low"},
@@ -145,41 +132,6 @@ constexpr EnumerationEntry kDisplayUnitEntries[] = {
     {-10, "xlMillionMillions", "trillions"},
 };
 
-constexpr ChartTypeEntry kChartTypeEntries[] = {
-    {1, "xlArea", "areaChart", "", "standard"},
-    {76, "xlAreaStacked", "areaChart", "", "stacked"},
-    {77, "xlAreaStacked100", "areaChart", "", "percentStacked"},
-    {-4098, "xl3DArea", "area3DChart", "", "standard"},
-    {78, "xl3DAreaStacked", "area3DChart", "", "stacked"},
-    {79, "xl3DAreaStacked100", "area3DChart", "", "percentStacked"},
-    {51, "xlColumnClustered", "barChart", "col", "clustered"},
-    {52, "xlColumnStacked", "barChart", "col", "stacked"},
-    {53, "xlColumnStacked100", "barChart", "col", "percentStacked"},
-    {54, "xl3DColumnClustered", "bar3DChart", "col", "clustered"},
-    {55, "xl3DColumnStacked", "bar3DChart", "col", "stacked"},
-    {56, "xl3DColumnStacked100", "bar3DChart", "col", "percentStacked"},
-    {-4100, "xl3DColumn", "bar3DChart", "col", "standard"},
-    {57, "xlBarClustered", "barChart", "bar", "clustered"},
-    {58, "xlBarStacked", "barChart", "bar", "stacked"},
-    {59, "xlBarStacked100", "barChart", "bar", "percentStacked"},
-    {60, "xl3DBarClustered", "bar3DChart", "bar", "clustered"},
-    {61, "xl3DBarStacked", "bar3DChart", "bar", "stacked"},
-    {62, "xl3DBarStacked100", "bar3DChart", "bar", "percentStacked"},
-    {4, "xlLine", "lineChart", "", "standard", SeriesTrait::kNoMarkers},
-    {63, "xlLineStacked", "lineChart", "", "stacked", SeriesTrait::kNoMarkers},
-    {64, "xlLineStacked100", "lineChart", "", "percentStacked", SeriesTrait::kNoMarkers},
-    {65, "xlLineMarkers", "lineChart", "", "standard", SeriesTrait::kMarkers},
-    {66, "xlLineMarkersStacked", "lineChart", "", "stacked", SeriesTrait::kMarkers},
-    {67, "xlLineMarkersStacked100", "lineChart", "", "percentStacked", SeriesTrait::kMarkers},
-    {5, "xlPie", "pieChart", "", ""},
-    {69, "xlPieExploded", "pieChart", "", "", SeriesTrait::kExploded},
-    {-4102, "xl3DPie", "pie3DChart", "", ""},
-    {70, "xl3DPieExploded", "pie3DChart", "", "", SeriesTrait::kExploded},
-    {-4169, "xlXYScatter", "scatterChart", "", "", SeriesTrait::kMarkersOnly},
-    {15, "xlBubble", "bubbleChart", "", "", SeriesTrait::kFlatBubble},
-    {87, "xlBubble3DEffect", "bubbleChart", "", "", SeriesTrait::kBubble3D},
-};
-
 }  // namespace
 
 const Enumeration kLegendPositions = {kLegendPositionEntries, "r"};
@@ -189,18 +141,8 @@ const Enumeration kInteriorPatterns = {kInteriorPatternEntries, ""};
 const Enumeration kLineStyles = {kLineStyleEntries, "solid"};
 const Enumeration kLineWeights = {kLineWeightEntries, ""};
 const Enumeration kMarkerStyles = {kMarkerStyleEntries, "auto"};
-const Enumeration kHorizontalAlignments = {kHorizontalAlignmentEntries, ""};
-const Enumeration kVerticalAlignments = {kVerticalAlignmentEntries, ""};
 const Enumeration kTickLabelPositions = {kTickLabelPositionEntries, "nextTo"};
 const Enumeration kCrosses = {kCrossesEntries, "autoZero"};
 const Enumeration kDisplayUnits = {kDisplayUnitEntries, ""};
-const std::span<const ChartTypeEntry> kChartTypes = kChartTypeEntries;
-
-const ChartTypeEntry* FindChartType(std::int32_t number) {
-  for (const ChartTypeEntry& entry : kChartTypes) {
-    if (entry.number == number) return &entry;
-  }
-  return nullptr;
-}
 
 }  // namespace plotsmith::xlsx

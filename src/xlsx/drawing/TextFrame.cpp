@@ -1,19 +1,18 @@
-#include "xlsx/drawing/ShapeText.h"
+#include "xlsx/drawing/TextFrame.h"
 
 #include <algorithm>
 #include <optional>
 #include <string>
 
 #include "host/excel/Characters.h"
-#include "host/excel/Constants.h"
-#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Journal.h"
 #include "xlsx/drawing/DrawingSchema.h"
-#include "xlsx/drawing/DrawingText.h"
 #include "xlsx/drawing/DrawnShape.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
 #include "xlsx/drawing/ShapeFont.h"
+#include "xlsx/drawing/TextBody.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
@@ -23,13 +22,9 @@ using runtime::RuntimeError;
 
 namespace {
 
-RuntimeError OutOfRange() {
-  return RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
-}
-
-class ShapeCharacters final : public excel::Characters {
+class CharactersObject final : public excel::Characters {
  public:
-  ShapeCharacters(std::shared_ptr<DrawnShape> shape, std::size_t start, std::optional<std::size_t> length)
+  CharactersObject(std::shared_ptr<DrawnShape> shape, std::size_t start, std::optional<std::size_t> length)
       : shape_(std::move(shape)), start_(start), length_(length) {}
 
   void SetText(std::string_view text) override {
@@ -41,7 +36,7 @@ class ShapeCharacters final : public excel::Characters {
     Replace(text);
   }
   std::string Text() override {
-    return runtime::Mid(DrawingText(shape_->Object()).Text(), start_, length_.value_or(std::string::npos));
+    return runtime::Mid(TextBody(shape_->Object()).Text(), start_, length_.value_or(std::string::npos));
   }
   Ref<excel::Font> Font() override {
     return MakeShapeFont(shape_, start_ - 1, length_.value_or(std::u16string::npos), Path() + ".Font");
@@ -55,7 +50,7 @@ class ShapeCharacters final : public excel::Characters {
   }
 
   void Replace(std::string_view text) {
-    DrawingText whole(shape_->Object());
+    TextBody whole(shape_->Object());
     std::u16string units = runtime::ToUtf16(whole.Text());
     const std::size_t at = std::min(start_ - 1, units.size());
     units.replace(at, length_.value_or(std::u16string::npos), runtime::ToUtf16(text));
@@ -80,7 +75,7 @@ class FrameMembers {
   /// Sets one of the body's properties; the shape follows where it is to.
   template <class Set>
   void Change(const Set& set) const {
-    DrawingText text(shape_->Object());
+    TextBody text(shape_->Object());
     set(text);
     shape_->FitToText();
     shape_->MarkChanged();
@@ -88,7 +83,7 @@ class FrameMembers {
   void SetMarginTop(double points) const {
     Put("MarginTop", points);
     if (!(points >= 0)) throw OutOfRange();
-    Change([&](DrawingText& text) {
+    Change([&](TextBody& text) {
       xml::SetAttribute(text.BodyProperties(), "tIns", std::to_string(Emu(points)));
     });
   }
@@ -99,13 +94,13 @@ class FrameMembers {
   const char* name_;
 };
 
-class ShapeTextFrame final : public excel::TextFrame {
+class TextFrameObject final : public excel::TextFrame {
  public:
-  explicit ShapeTextFrame(std::shared_ptr<DrawnShape> shape) : frame_(std::move(shape), "TextFrame") {}
+  explicit TextFrameObject(std::shared_ptr<DrawnShape> shape) : frame_(std::move(shape), "TextFrame") {}
 
   Ref<excel::Characters> Characters(std::int32_t start, std::int32_t length) override {
     if (start < 1) throw RuntimeError(runtime::error::kApplication);
-    return std::make_shared<ShapeCharacters>(
+    return std::make_shared<CharactersObject>(
         frame_.Shape(), static_cast<std::size_t>(start),
         length < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(length)));
   }
@@ -113,13 +108,13 @@ class ShapeTextFrame final : public excel::TextFrame {
     frame_.Put("VerticalAlignment", alignment);
     const auto token = kVerticalAlignments.Token(alignment);
     if (!token) throw OutOfRange();
-    frame_.Change([&](DrawingText& text) { xml::SetAttribute(text.BodyProperties(), "anchor", *token); });
+    frame_.Change([&](TextBody& text) { xml::SetAttribute(text.BodyProperties(), "anchor", *token); });
   }
   void SetHorizontalAlignment(std::int32_t alignment) override {
     frame_.Put("HorizontalAlignment", alignment);
     const auto token = kHorizontalAlignments.Token(alignment);
     if (!token) throw OutOfRange();
-    frame_.Change([&](DrawingText& text) {
+    frame_.Change([&](TextBody& text) {
       text.BodyProperties();
       for (const pugi::xml_node& paragraph : text.Paragraphs()) {
         xml::SetAttribute(schema::Ensure(paragraph, "pPr"), "algn", *token);
@@ -132,21 +127,20 @@ class ShapeTextFrame final : public excel::TextFrame {
   FrameMembers frame_;
 };
 
-class ShapeTextFrame2 final : public excel::TextFrame2 {
+class TextFrame2Object final : public excel::TextFrame2 {
  public:
-  explicit ShapeTextFrame2(std::shared_ptr<DrawnShape> shape) : frame_(std::move(shape), "TextFrame2") {}
+  explicit TextFrame2Object(std::shared_ptr<DrawnShape> shape) : frame_(std::move(shape), "TextFrame2") {}
 
   void SetWordWrap(bool value) override {
     frame_.Put("WordWrap", value);
-    frame_.Change([&](DrawingText& text) {
-      xml::SetAttribute(text.BodyProperties(), "wrap", value ? "square" : "none");
-    });
+    frame_.Change(
+        [&](TextBody& text) { xml::SetAttribute(text.BodyProperties(), "wrap", value ? "square" : "none"); });
   }
   void SetAutoSize(std::int32_t value) override {
     frame_.Put("AutoSize", value);
     const auto token = kAutoSizes.Token(value);
     if (!token) throw OutOfRange();
-    frame_.Change([&](DrawingText& text) {
+    frame_.Change([&](TextBody& text) {
       const pugi::xml_node body = text.BodyProperties();
       for (const EnumerationEntry& entry : kAutoSizes.entries) schema::Remove(body, entry.token);
       schema::Ensure(body, *token);
@@ -161,11 +155,11 @@ class ShapeTextFrame2 final : public excel::TextFrame2 {
 }  // namespace
 
 Ref<excel::TextFrame> MakeTextFrame(std::shared_ptr<DrawnShape> shape) {
-  return std::make_shared<ShapeTextFrame>(std::move(shape));
+  return std::make_shared<TextFrameObject>(std::move(shape));
 }
 
 Ref<excel::TextFrame2> MakeTextFrame2(std::shared_ptr<DrawnShape> shape) {
-  return std::make_shared<ShapeTextFrame2>(std::move(shape));
+  return std::make_shared<TextFrame2Object>(std::move(shape));
 }
 
 }  // namespace plotsmith::xlsx

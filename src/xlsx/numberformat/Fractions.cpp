@@ -2,8 +2,8 @@
 #include <cmath>
 #include <limits>
 
-#include "xlsx/numberformat/NumberFormatDecimal.h"
-#include "xlsx/numberformat/NumberFormatProgram.h"
+#include "xlsx/numberformat/Decimal.h"
+#include "xlsx/numberformat/Program.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -12,19 +12,19 @@ using Kind = Token::Kind;
 
 /// The denominator behind the slash: placeholders, or a number. Turns its tokens into what they are and
 /// returns the index behind them, 0 if they are neither.
-size_t SettleDenominator(Section& section, size_t begin) {
+std::size_t SettleDenominator(Section& section, std::size_t begin) {
   auto& tokens = section.tokens;
   while (tokens[begin].kind == Kind::kLiteral) ++begin;
-  size_t end = begin;
-  const bool is_fixed = tokens[begin].kind == Kind::kPlainDigit;
-  constexpr int64_t kMost = 999'999'999;
+  std::size_t end = begin;
+  const bool isFixed = tokens[begin].kind == Kind::kPlainDigit;
+  constexpr std::int64_t kMost = 999'999'999;
   for (; end < tokens.size(); ++end) {
     Token& token = tokens[end];
     if (token.kind != Kind::kDigit && token.kind != Kind::kPlainDigit) break;
-    if (is_fixed) {
+    if (isFixed) {
       if (token.symbol < '0' || token.symbol > '9') return 0;
-      section.fixed_denominator = section.fixed_denominator * 10 + (token.symbol - '0');
-      if (section.fixed_denominator > kMost) return 0;
+      section.fixedDenominator = section.fixedDenominator * 10 + (token.symbol - '0');
+      if (section.fixedDenominator > kMost) return 0;
     } else if (token.kind == Kind::kPlainDigit) {
       return 0;
     }
@@ -59,20 +59,21 @@ Ratio Approximate(double number, double most) {
 }
 
 /// Denominators stand left in their placeholders.
-void AppendDenominator(std::string& out, const Section& section, size_t begin, const Decimal& denominator) {
+void AppendDenominator(std::string& out, const Section& section, std::size_t begin,
+                       const Decimal& denominator) {
   int missing = section.denominators - denominator.IntegerDigits();
   int blanks = 0;
-  for (size_t i = begin; missing > 0; ++i, --missing) {
+  for (std::size_t i = begin; missing > 0; ++i, --missing) {
     const char placeholder = section.tokens[i].symbol;
     if (placeholder == '0') out += '0';
     if (placeholder == '?') ++blanks;
   }
   denominator.AppendTo(out);
-  out.append(static_cast<size_t>(blanks), ' ');
+  out.append(static_cast<std::size_t>(blanks), ' ');
 }
 
-void AppendBlanks(std::string& out, std::string_view instead_of) {
-  for (const char c : instead_of) {
+void AppendBlanks(std::string& out, std::string_view insteadOf) {
+  for (const char c : insteadOf) {
     if ((static_cast<unsigned char>(c) & 0xC0) != 0x80) out += ' ';
   }
 }
@@ -80,44 +81,44 @@ void AppendBlanks(std::string& out, std::string_view instead_of) {
 }  // namespace
 
 // Only literals may stand between the slash, the placeholders before it and the denominator behind it.
-size_t FindFractionSlash(const std::vector<Token>& tokens) {
-  bool behind_digits = false;
-  for (size_t i = 0; i < tokens.size(); ++i) {
-    if (tokens[i].kind == Kind::kDigit) behind_digits = true;
-    if (tokens[i].kind == Kind::kPlainDigit) behind_digits = false;
-    if (tokens[i].kind != Kind::kSlash || !behind_digits) continue;
-    size_t next = i + 1;
+std::size_t FindFractionSlash(const std::vector<Token>& tokens) {
+  bool behindDigits = false;
+  for (std::size_t i = 0; i < tokens.size(); ++i) {
+    if (tokens[i].kind == Kind::kDigit) behindDigits = true;
+    if (tokens[i].kind == Kind::kPlainDigit) behindDigits = false;
+    if (tokens[i].kind != Kind::kSlash || !behindDigits) continue;
+    std::size_t next = i + 1;
     while (next < tokens.size() && tokens[next].kind == Kind::kLiteral) ++next;
     if (next < tokens.size() && (tokens[next].kind == Kind::kDigit || tokens[next].kind == Kind::kPlainDigit))
       return i;
-    behind_digits = false;
+    behindDigits = false;
   }
   return tokens.size();
 }
 
-bool SettleFraction(Section& section, size_t slash) {
+bool SettleFraction(Section& section, std::size_t slash) {
   auto& tokens = section.tokens;
-  const size_t denominator_end = SettleDenominator(section, slash + 1);
-  if (denominator_end == 0) return false;
-  section.fraction_end = denominator_end;
+  const std::size_t denominatorEnd = SettleDenominator(section, slash + 1);
+  if (denominatorEnd == 0) return false;
+  section.fractionEnd = denominatorEnd;
   tokens[slash].kind = Kind::kLiteral;
 
   // The placeholders nearest to the slash are the numerator's; what stands before them is the integer part.
-  size_t numerator = slash;
+  std::size_t numerator = slash;
   while (tokens[numerator - 1].kind != Kind::kDigit) --numerator;
   while (numerator > 0 && tokens[numerator - 1].kind == Kind::kDigit) {
     tokens[--numerator].kind = Kind::kNumerator;
     ++section.numerators;
   }
-  section.fraction_begin = numerator;
-  for (size_t i = 0; i < tokens.size(); ++i) {
+  section.fractionBegin = numerator;
+  for (std::size_t i = 0; i < tokens.size(); ++i) {
     Token& token = tokens[i];
     switch (token.kind) {
       case Kind::kDigit:
         if (i > numerator) return false;
         token.kind = Kind::kInteger;
         ++section.integers;
-        section.fraction_begin = i + 1;
+        section.fractionBegin = i + 1;
         break;
       case Kind::kComma:
         if (i > 0 && tokens[i - 1].kind == Kind::kInteger && i < numerator) {
@@ -141,7 +142,7 @@ bool SettleFraction(Section& section, size_t slash) {
         break;
     }
   }
-  section.has_integer_part = section.integers > 0;
+  section.hasIntegerPart = section.integers > 0;
   section.kind = Section::Kind::kFraction;
   return true;
 }
@@ -153,8 +154,8 @@ void AppendFractionSection(std::string& out, const Section& section, double magn
   double whole = std::floor(magnitude);
   const double rest = magnitude - whole;
   Ratio ratio{0, 1};
-  if (section.fixed_denominator > 0) {
-    ratio.denominator = static_cast<double>(section.fixed_denominator);
+  if (section.fixedDenominator > 0) {
+    ratio.denominator = static_cast<double>(section.fixedDenominator);
     ratio.numerator = std::floor(rest * ratio.denominator + 0.5);
   } else {
     constexpr int kMostDigits = 7;
@@ -164,30 +165,30 @@ void AppendFractionSection(std::string& out, const Section& section, double magn
     whole += 1;
     ratio.numerator = 0;
   }
-  if (!section.has_integer_part) {
+  if (!section.hasIntegerPart) {
     ratio.numerator += whole * ratio.denominator;
     whole = 0;
   }
-  const bool is_whole = section.has_integer_part && ratio.numerator == 0;
+  const bool isWhole = section.hasIntegerPart && ratio.numerator == 0;
   const Decimal integer(whole);
   const Decimal numerator(ratio.numerator);
   // A zero stays visible if no fraction follows it.
   IntegerWriter integers(out, integer,
-                         is_whole ? std::max(integer.IntegerDigits(), 1) : integer.IntegerDigits(),
+                         isWhole ? std::max(integer.IntegerDigits(), 1) : integer.IntegerDigits(),
                          section.integers, section.grouping);
   IntegerWriter numerators(out, numerator, std::max(numerator.IntegerDigits(), 1), section.numerators, false);
-  bool denominator_done = false;
-  for (size_t i = 0; i < section.tokens.size(); ++i) {
+  bool denominatorDone = false;
+  for (std::size_t i = 0; i < section.tokens.size(); ++i) {
     const Token& token = section.tokens[i];
-    if (is_whole && i >= section.fraction_begin && i < section.fraction_end) {
+    if (isWhole && i >= section.fractionBegin && i < section.fractionEnd) {
       AppendBlanks(out, token.kind == Kind::kLiteral ? section.Text(token) : " ");
     } else if (token.kind == Kind::kInteger) {
       integers.Next(token.symbol);
     } else if (token.kind == Kind::kNumerator) {
       numerators.Next(token.symbol);
     } else if (token.kind == Kind::kDenominator) {
-      if (!denominator_done) AppendDenominator(out, section, i, Decimal(ratio.denominator));
-      denominator_done = true;
+      if (!denominatorDone) AppendDenominator(out, section, i, Decimal(ratio.denominator));
+      denominatorDone = true;
     } else {
       out += section.Text(token);
     }

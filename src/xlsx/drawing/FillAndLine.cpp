@@ -1,19 +1,19 @@
-#include "xlsx/drawing/ShapeFormat.h"
+#include "xlsx/drawing/FillAndLine.h"
 
 #include <string>
 
 #include "host/excel/ColorFormat.h"
-#include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Journal.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/DrawnShape.h"
+#include "xlsx/package/HexColor.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
 
 using excel::Ref;
-using runtime::RuntimeError;
 
 namespace {
 
@@ -22,15 +22,19 @@ constexpr double kMostPoints = 1584;
 /// The element that a shape's filling stands in: its properties, or those of its outline.
 enum class Part { kFill, kLine };
 
+/// A group has no outline: error 1004.
 pugi::xml_node PropertiesOf(const DrawnShape& shape, Part part) {
-  return part == Part::kFill ? shape.Properties() : schema::Ensure(shape.Properties(), "ln");
+  const pugi::xml_node properties = shape.Properties();
+  if (part == Part::kFill) return properties;
+  if (xml::Is(properties, "grpSpPr")) throw OutOfRange();
+  return schema::Ensure(properties, "ln");
 }
 
 /// One of the two colours of a filling or an outline. A plain one shows the first only; the second comes to
 /// light in a pattern, and the file has no place for it elsewhere.
-class ShapeColor final : public excel::ColorFormat {
+class ColorFormatObject final : public excel::ColorFormat {
  public:
-  ShapeColor(std::shared_ptr<DrawnShape> shape, Part part, bool back)
+  ColorFormatObject(std::shared_ptr<DrawnShape> shape, Part part, bool back)
       : shape_(std::move(shape)), part_(part), back_(back) {}
 
   void SetRGB(std::int32_t color) override {
@@ -40,9 +44,7 @@ class ShapeColor final : public excel::ColorFormat {
                  (back_ ? "BackColor" : "ForeColor");
         },
         "RGB", color);
-    if (color < 0 || color > 0xFFFFFF) {
-      throw RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
-    }
+    if (!IsColor(color)) throw OutOfRange();
     const pugi::xml_node properties = PropertiesOf(*shape_, part_);
     const pugi::xml_node fill = FindFill(properties);
     if (xml::Is(fill, "pattFill")) {
@@ -59,23 +61,23 @@ class ShapeColor final : public excel::ColorFormat {
   bool back_;
 };
 
-class ShapeFill final : public excel::FillFormat {
+class FillFormatObject final : public excel::FillFormat {
  public:
-  explicit ShapeFill(std::shared_ptr<DrawnShape> shape) : shape_(std::move(shape)) {}
+  explicit FillFormatObject(std::shared_ptr<DrawnShape> shape) : shape_(std::move(shape)) {}
   Ref<excel::ColorFormat> ForeColor() override {
-    return std::make_shared<ShapeColor>(shape_, Part::kFill, false);
+    return std::make_shared<ColorFormatObject>(shape_, Part::kFill, false);
   }
   Ref<excel::ColorFormat> BackColor() override {
-    return std::make_shared<ShapeColor>(shape_, Part::kFill, true);
+    return std::make_shared<ColorFormatObject>(shape_, Part::kFill, true);
   }
 
  private:
   std::shared_ptr<DrawnShape> shape_;
 };
 
-class ShapeLine final : public excel::LineFormat {
+class LineFormatObject final : public excel::LineFormat {
  public:
-  explicit ShapeLine(std::shared_ptr<DrawnShape> shape) : shape_(std::move(shape)) {}
+  explicit LineFormatObject(std::shared_ptr<DrawnShape> shape) : shape_(std::move(shape)) {}
 
   void SetVisible(bool value) override {
     shape_->Log().Put([this] { return Path(); }, "Visible", value);
@@ -92,17 +94,15 @@ class ShapeLine final : public excel::LineFormat {
   }
   void SetWeight(double points) override {
     shape_->Log().Put([this] { return Path(); }, "Weight", points);
-    if (!(points >= 0 && points <= kMostPoints)) {
-      throw RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
-    }
+    if (!(points >= 0 && points <= kMostPoints)) throw OutOfRange();
     xml::SetAttribute(PropertiesOf(*shape_, Part::kLine), "w", std::to_string(Emu(points)));
     shape_->MarkChanged();
   }
   Ref<excel::ColorFormat> ForeColor() override {
-    return std::make_shared<ShapeColor>(shape_, Part::kLine, false);
+    return std::make_shared<ColorFormatObject>(shape_, Part::kLine, false);
   }
   Ref<excel::ColorFormat> BackColor() override {
-    return std::make_shared<ShapeColor>(shape_, Part::kLine, true);
+    return std::make_shared<ColorFormatObject>(shape_, Part::kLine, true);
   }
 
  private:
@@ -114,11 +114,11 @@ class ShapeLine final : public excel::LineFormat {
 }  // namespace
 
 Ref<excel::FillFormat> MakeFill(std::shared_ptr<DrawnShape> shape) {
-  return std::make_shared<ShapeFill>(std::move(shape));
+  return std::make_shared<FillFormatObject>(std::move(shape));
 }
 
 Ref<excel::LineFormat> MakeLine(std::shared_ptr<DrawnShape> shape) {
-  return std::make_shared<ShapeLine>(std::move(shape));
+  return std::make_shared<LineFormatObject>(std::move(shape));
 }
 
 }  // namespace plotsmith::xlsx

@@ -4,7 +4,8 @@
 #include <limits>
 #include <utility>
 
-#include "xlsx/numberformat/NumberFormatProgram.h"
+#include "runtime/Ascii.h"
+#include "xlsx/numberformat/Program.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -12,30 +13,30 @@ namespace {
 using Kind = Token::Kind;
 
 /// Far above what Excel lets anybody type (255), far below what would hurt.
-constexpr size_t kMaxCodeSize = 1024;
-constexpr size_t kMaxSections = 4;
+constexpr std::size_t kMaxCodeSize = 1024;
+constexpr std::size_t kMaxSections = 4;
 
 constexpr std::string_view kSystemDate = "dddd, mmmm d, yyyy";
 constexpr std::string_view kSystemTime = "h:mm:ss AM/PM";
 
-char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-bool IsLetter(char c) { return Lower(c) >= 'a' && Lower(c) <= 'z'; }
+using ascii::IsLetter;
+using ascii::Lower;
 
-bool StartsWith(std::string_view text, std::string_view lower_case_prefix) {
-  return text.size() >= lower_case_prefix.size() &&
-         std::equal(lower_case_prefix.begin(), lower_case_prefix.end(), text.begin(),
+bool StartsWith(std::string_view text, std::string_view lowerCasePrefix) {
+  return text.size() >= lowerCasePrefix.size() &&
+         std::equal(lowerCasePrefix.begin(), lowerCasePrefix.end(), text.begin(),
                     [](char a, char b) { return a == Lower(b); });
 }
 
-bool Equals(std::string_view text, std::string_view lower_case) {
-  return text.size() == lower_case.size() && StartsWith(text, lower_case);
+bool Equals(std::string_view text, std::string_view lowerCase) {
+  return text.size() == lowerCase.size() && StartsWith(text, lowerCase);
 }
 
 /// The size of the first character of a text that isn't empty; a byte that isn't UTF-8 counts as one.
-size_t CharacterSize(std::string_view text) {
+std::size_t CharacterSize(std::string_view text) {
   const auto lead = static_cast<unsigned char>(text[0]);
-  const size_t wanted = lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-  size_t size = 1;
+  const std::size_t wanted = lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+  std::size_t size = 1;
   while (size < wanted && size < text.size() && (static_cast<unsigned char>(text[size]) & 0xC0) == 0x80)
     ++size;
   return size;
@@ -111,17 +112,17 @@ Kind KindOf(char c) {
 }
 
 /// The calendar part of a locale.
-void UseCalendar(Section& section, uint32_t calendar) {
-  constexpr uint32_t kJapanese = 3;
-  constexpr uint32_t kTaiwanese = 4;
-  constexpr uint32_t kKorean = 5;
-  constexpr uint32_t kHijri = 6;
-  constexpr uint32_t kBuddhist = 7;
+void UseCalendar(Section& section, std::uint32_t calendar) {
+  constexpr std::uint32_t kJapanese = 3;
+  constexpr std::uint32_t kTaiwanese = 4;
+  constexpr std::uint32_t kKorean = 5;
+  constexpr std::uint32_t kHijri = 6;
+  constexpr std::uint32_t kBuddhist = 7;
   if (calendar == kJapanese) section.language = 0x411;
   if (calendar == kTaiwanese) section.language = 0x404;
-  if (calendar == kKorean) section.year_offset = 2333;
+  if (calendar == kKorean) section.yearOffset = 2333;
   if (calendar == kHijri) section.calendar = Calendar::kHijri;
-  if (calendar == kBuddhist) section.year_offset = 543;
+  if (calendar == kBuddhist) section.yearOffset = 543;
 }
 
 /// Reads one section after the other.
@@ -154,35 +155,35 @@ class Reader {
   std::string_view Run() const;
 
   std::string_view code_;
-  size_t position_ = 0;
+  std::size_t position_ = 0;
   Section* section_ = nullptr;
   bool has_bracket_ = false;
   bool has_color_ = false;
   bool has_field_ = false;  // anything but literals
-  bool has_digit_ = false;
+  bool hasDigit_ = false;
   std::string_view system_format_;
-  size_t literal_letter_end_ = 0;
-  size_t buddhist_year_end_ = 0;
+  std::size_t literal_letter_end_ = 0;
+  std::size_t buddhist_year_end_ = 0;
 };
 
 void Reader::Add(Kind kind, std::string_view text, char symbol) {
   auto& texts = section_->texts;
   section_->tokens.push_back(
-      {kind, symbol, static_cast<uint32_t>(texts.size()), static_cast<uint32_t>(text.size())});
+      {kind, symbol, static_cast<std::uint32_t>(texts.size()), static_cast<std::uint32_t>(text.size())});
   texts += text;
   has_field_ |= kind != Kind::kLiteral && kind != Kind::kPlainDigit;
-  has_digit_ |= kind == Kind::kDigit;
+  hasDigit_ |= kind == Kind::kDigit;
 }
 
 std::string_view Reader::Run() const {
   const std::string_view rest = Rest();
   const auto end = std::find_if(rest.begin(), rest.end(), [&](char c) { return Lower(c) != Lower(rest[0]); });
-  return rest.substr(0, static_cast<size_t>(end - rest.begin()));
+  return rest.substr(0, static_cast<std::size_t>(end - rest.begin()));
 }
 
 bool Reader::ReadSection(Section& section) {
   section_ = &section;
-  has_bracket_ = has_color_ = has_field_ = has_digit_ = false;
+  has_bracket_ = has_color_ = has_field_ = hasDigit_ = false;
   system_format_ = {};
   while (position_ < code_.size() && code_[position_] != ';') {
     if (!ReadToken()) return false;
@@ -204,8 +205,8 @@ bool Reader::ReadToken() {
   constexpr std::string_view kChineseHalves = "上午/下午";
   std::string_view text = rest.substr(0, CharacterSize(rest));
   if (c == ',') {
-    constexpr size_t kMost = 100;  // leaves nothing of any number
-    const size_t count = Run().size();
+    constexpr std::size_t kMost = 100;  // leaves nothing of any number
+    const std::size_t count = Run().size();
     Add(Kind::kComma, text, static_cast<char>(std::min(count, kMost)));
     position_ += count;
     return true;
@@ -233,7 +234,7 @@ bool Reader::ReadEscape() {
 }
 
 bool Reader::ReadQuoted() {
-  const size_t end = code_.find('"', position_ + 1);
+  const std::size_t end = code_.find('"', position_ + 1);
   if (end == std::string_view::npos) return false;
   Add(Kind::kLiteral, code_.substr(position_ + 1, end - position_ - 1));
   position_ = end + 1;
@@ -241,7 +242,7 @@ bool Reader::ReadQuoted() {
 }
 
 bool Reader::ReadBracket() {
-  const size_t end = code_.find(']', position_);
+  const std::size_t end = code_.find(']', position_);
   if (end == std::string_view::npos) return false;
   const std::string_view content = code_.substr(position_ + 1, end - position_ - 1);
   if (content.empty()) return false;
@@ -273,18 +274,18 @@ bool Reader::ReadBracket() {
 /// A currency text and a locale: numerals, calendar and language, two, two and four hexadecimal digits.
 bool Reader::ReadLocale(std::string_view content) {
   has_bracket_ = true;
-  const size_t dash = content.find('-');
+  const std::size_t dash = content.find('-');
   if (dash != 0) Add(Kind::kLiteral, content.substr(0, dash));
   if (dash == std::string_view::npos) return true;
   const std::string_view locale = content.substr(dash + 1);
-  uint32_t id = 0;
+  std::uint32_t id = 0;
   const auto [end, error] = std::from_chars(locale.data(), locale.data() + locale.size(), id, 16);
-  const bool is_number = error == std::errc() && end == locale.data() + locale.size();
-  if (Equals(locale, "x-sysdate") || (is_number && id == 0xF800)) system_format_ = kSystemDate;
-  if (Equals(locale, "x-systime") || (is_number && id == 0xF400)) system_format_ = kSystemTime;
-  if (!is_number) return true;  // a name; its language makes no difference
+  const bool isNumber = error == std::errc() && end == locale.data() + locale.size();
+  if (Equals(locale, "x-sysdate") || (isNumber && id == 0xF800)) system_format_ = kSystemDate;
+  if (Equals(locale, "x-systime") || (isNumber && id == 0xF400)) system_format_ = kSystemTime;
+  if (!isNumber) return true;  // a name; its language makes no difference
 
-  section_->language = static_cast<uint16_t>(id & 0xFFFF);
+  section_->language = static_cast<std::uint16_t>(id & 0xFFFF);
   UseCalendar(*section_, id >> 16 & 0xFF);
   return true;
 }
@@ -300,15 +301,15 @@ bool Reader::ReadLetter() {
   // The long form always shows in capitals, the short one as it is written.
   if (StartsWith(rest, "am/pm")) return take(Kind::kAmPm, "AM/PM");
   if (StartsWith(rest, "a/p")) return take(Kind::kAmPm, rest.substr(0, 3));
-  if (has_digit_ && (rest.starts_with("E+") || rest.starts_with("E-")))
+  if (hasDigit_ && (rest.starts_with("E+") || rest.starts_with("E-")))
     return take(Kind::kExponent, rest.substr(0, 2), rest[1]);
   if (Lower(rest[0]) == 'n') return false;  // reserved
 
   const Kind kind = KindOf(rest[0]);
-  const bool behind_literal = position_ > 0 && literal_letter_end_ == position_;
-  const bool behind_buddhist_year = position_ > 0 && buddhist_year_end_ == position_;
+  const bool behindLiteral = position_ > 0 && literal_letter_end_ == position_;
+  const bool behindBuddhistYear = position_ > 0 && buddhist_year_end_ == position_;
   if (kind == Kind::kLiteral) {
-    if (behind_buddhist_year) return false;
+    if (behindBuddhistYear) return false;
     take(kind, rest.substr(0, 1));
     literal_letter_end_ = position_;
     return true;
@@ -316,7 +317,7 @@ bool Reader::ReadLetter() {
   const std::string_view run = Run();
   if (kind != Kind::kBuddhistYear) return take(kind, run);
   // Inside a word it is a text that somebody forgot to quote, no Buddhist year.
-  if (behind_literal) return false;
+  if (behindLiteral) return false;
   if (StartsWith(rest, "b1") || StartsWith(rest, "b2")) {
     section_->calendar = rest[1] == '2' ? Calendar::kHijri : Calendar::kGregorian;
     position_ += 2;
@@ -336,22 +337,22 @@ bool Reader::UseSystemFormat(std::string_view code) {
 
 bool Reader::SettleSection() {
   Section& section = *section_;
-  bool has_date = false;
-  bool has_general = false;
-  bool has_text = false;
-  bool has_percent = false;
+  bool hasDate = false;
+  bool hasGeneral = false;
+  bool hasText = false;
+  bool hasPercent = false;
   for (const Token& token : section.tokens) {
-    has_general |= token.kind == Kind::kGeneral;
-    has_text |= token.kind == Kind::kText;
-    has_percent |= token.kind == Kind::kPercent;
-    has_date |= token.kind >= Kind::kYear && token.kind <= Kind::kBuddhistYear;
+    hasGeneral |= token.kind == Kind::kGeneral;
+    hasText |= token.kind == Kind::kText;
+    hasPercent |= token.kind == Kind::kPercent;
+    hasDate |= token.kind >= Kind::kYear && token.kind <= Kind::kBuddhistYear;
   }
-  if (has_date) return !has_general && !has_text && SettleDate(section);
-  if (has_digit_) return !has_general && !has_text && SettleNumber(section);
-  if (has_general && (has_text || has_percent)) return false;
-  section.kind = has_general ? Section::Kind::kGeneral
-                 : has_text  ? Section::Kind::kText
-                             : Section::Kind::kLiteral;
+  if (hasDate) return !hasGeneral && !hasText && SettleDate(section);
+  if (hasDigit_) return !hasGeneral && !hasText && SettleNumber(section);
+  if (hasGeneral && (hasText || hasPercent)) return false;
+  section.kind = hasGeneral ? Section::Kind::kGeneral
+                 : hasText  ? Section::Kind::kText
+                            : Section::Kind::kLiteral;
   for (Token& token : section.tokens) {
     if (token.kind != Kind::kGeneral && token.kind != Kind::kText) token.kind = Kind::kLiteral;
   }
@@ -362,29 +363,29 @@ bool Reader::SettleSection() {
 void CompleteConditions(std::vector<Section>& numbers) {
   using Operator = Condition::Operator;
   if (numbers.size() < 2) return;
-  const bool has_third = numbers.size() > 2;
+  const bool hasThird = numbers.size() > 2;
   if (!numbers[0].condition)
-    numbers[0].condition = Condition{has_third ? Operator::kGreater : Operator::kGreaterEqual, 0};
-  if (has_third && !numbers[1].condition) numbers[1].condition = Condition{Operator::kLess, 0};
+    numbers[0].condition = Condition{hasThird ? Operator::kGreater : Operator::kGreaterEqual, 0};
+  if (hasThird && !numbers[1].condition) numbers[1].condition = Condition{Operator::kLess, 0};
 }
 
 /// Finds the sections that only negative numbers get to. Which section a number gets to can only change at a
 /// limit or at zero, so it's enough to try these and their neighbours.
 void MarkNegativeSections(NumberFormat::Program& program) {
   std::vector<double> samples;
-  const auto try_around = [&](double limit) {
+  const auto tryAround = [&](double limit) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     for (const double sample : {std::nextafter(limit, -kInfinity), limit, std::nextafter(limit, kInfinity)}) {
       if (sample >= 0) samples.push_back(sample);
     }
   };
-  try_around(0);
+  tryAround(0);
   for (const Section& section : program.numbers) {
-    if (section.condition) try_around(section.condition->limit);
+    if (section.condition) tryAround(section.condition->limit);
   }
   for (Section& section : program.numbers) {
-    section.only_negative = std::none_of(samples.begin(), samples.end(),
-                                         [&](double sample) { return program.Select(sample) == &section; });
+    section.onlyNegative = std::none_of(samples.begin(), samples.end(),
+                                        [&](double sample) { return program.Select(sample) == &section; });
   }
 }
 
@@ -425,20 +426,20 @@ std::unique_ptr<NumberFormat::Program> ParseNumberFormat(std::string_view code) 
   } while (reader.NextSection());
 
   auto program = std::make_unique<NumberFormat::Program>();
-  const bool is_single = sections.size() == 1;
+  const bool isSingle = sections.size() == 1;
   if (sections.size() == kMaxSections || sections.back().kind == Section::Kind::kText) {
     if (sections.back().condition) return nullptr;
     program->text = std::move(sections.back());
     sections.pop_back();
   }
-  for (size_t i = 0; i < sections.size(); ++i) {
+  for (std::size_t i = 0; i < sections.size(); ++i) {
     if (sections[i].kind == Section::Kind::kText || (i > 1 && sections[i].condition)) return nullptr;
   }
   program->numbers = std::move(sections);
   CompleteConditions(program->numbers);
   MarkNegativeSections(*program);
-  if (is_single && program->numbers.size() == 1 && !program->numbers[0].condition)
-    program->numbers[0].hides_sign_of_zero = true;
+  if (isSingle && program->numbers.size() == 1 && !program->numbers[0].condition)
+    program->numbers[0].hidesSignOfZero = true;
   return program;
 }
 

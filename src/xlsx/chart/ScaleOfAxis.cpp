@@ -1,4 +1,4 @@
-#include "xlsx/chart/AxisLimits.h"
+#include "xlsx/chart/ScaleOfAxis.h"
 
 #include <algorithm>
 #include <cmath>
@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "runtime/Variant.h"
+#include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/GroupAxes.h"
 #include "xlsx/chart/PlotGroups.h"
 #include "xlsx/chart/SeriesData.h"
@@ -32,13 +33,13 @@ struct Extent {
 
 /// X values are numbers; where they are texts, points are counted.
 void AddXValues(pugi::xml_node series, Extent& extent) {
-  const auto numbers = CachedNumbers(schema::Find(series, "xVal"));
+  const auto numbers = CachedNumbers(xml::Child(series, "xVal"));
   for (const Variant& number : numbers) {
     if (const double* value = number.If<double>()) extent.Add(*value);
   }
   if (!numbers.empty()) return;
   extent.Add(1);
-  extent.Add(static_cast<double>(std::max<std::size_t>(PointCount(series), 1)));
+  extent.Add(static_cast<double>(std::max<std::size_t>(PointCount(FindValues(series)), 1)));
 }
 
 /// Values stacked point by point: what is above zero, and what is below.
@@ -46,7 +47,7 @@ struct Pile {
   double above = 0, below = 0;
 };
 
-void AddStacks(pugi::xml_node group, bool shares, Extent& extent) {
+void AddStacks(pugi::xml_node group, bool isPercent, Extent& extent) {
   std::vector<Pile> piles;
   for (const pugi::xml_node& series : xml::Children(group, "ser")) {
     const auto numbers = CachedNumbers(FindValues(series));
@@ -57,7 +58,7 @@ void AddStacks(pugi::xml_node group, bool shares, Extent& extent) {
     }
   }
   for (const Pile& pile : piles) {
-    const double whole = shares ? pile.above - pile.below : 1;
+    const double whole = isPercent ? pile.above - pile.below : 1;
     if (!(whole > 0)) continue;
     if (pile.above > 0 || pile.below == 0) extent.Add(pile.above / whole);
     if (pile.below < 0) extent.Add(pile.below / whole);
@@ -76,29 +77,26 @@ void AddValues(pugi::xml_node group, Extent& extent) {
   }
 }
 
-std::optional<double> Setting(pugi::xml_node parent, std::string_view name) {
-  return xml::ParseDouble(schema::Val(parent, name));
-}
-
 }  // namespace
 
 AxisScale ScaleOf(ChartPart& part, pugi::xml_node axis) {
   Extent extent;
-  bool shares = false, solid = false;
+  bool isPercent = false, is3D = false;
   for (const pugi::xml_node& group : GroupsOf(part)) {
     const auto axes = AxesOf(group);
     if (std::find(axes.begin(), axes.end(), axis) == axes.end()) continue;
-    solid |= xml::LocalName(group).find("3D") != std::string_view::npos;
-    shares |= schema::Val(group, "grouping") == "percentStacked";
+    is3D |= xml::LocalName(group).find("3D") != std::string_view::npos;
+    isPercent |= schema::Val(group, "grouping") == "percentStacked";
     if (axis == RolesOf(axes).x) {
       for (const pugi::xml_node& series : xml::Children(group, "ser")) AddXValues(series, extent);
     } else {
       AddValues(group, extent);
     }
   }
-  const auto scaling = schema::Find(axis, "scaling");
-  AxisSettings settings{Setting(scaling, "min"), Setting(scaling, "max"), Setting(axis, "majorUnit"),
-                        Setting(scaling, "logBase"), !solid && !shares};
+  const auto scaling = xml::Child(axis, "scaling");
+  AxisSettings settings{schema::NumberVal(scaling, "min"), schema::NumberVal(scaling, "max"),
+                        schema::NumberVal(axis, "majorUnit"), schema::NumberVal(scaling, "logBase"),
+                        !is3D && !isPercent};
   if (settings.majorUnit.value_or(1) <= 0) settings.majorUnit.reset();
   if (!extent.least) return ScaleEmptyAxis(settings);
   return ScaleAxis(*extent.least, *extent.greatest, settings);

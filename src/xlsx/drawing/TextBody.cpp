@@ -1,9 +1,10 @@
-#include "xlsx/drawing/DrawingText.h"
+#include "xlsx/drawing/TextBody.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
+#include "xlsx/Errors.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/Theme.h"
 #include "xlsx/package/Xml.h"
@@ -11,6 +12,8 @@
 namespace plotsmith::xlsx {
 namespace {
 
+// Points, of a shape's text that says nothing: that of the workbook's usual font. Charts have a size of their
+// own.
 constexpr double kUsualSize = 11;
 
 bool IsRun(pugi::xml_node node) { return xml::Is(node, "r") || xml::Is(node, "fld"); }
@@ -43,32 +46,11 @@ std::size_t ForEachRun(const std::vector<pugi::xml_node>& paragraphs, const Visi
 
 }  // namespace
 
-pugi::xml_node DrawingText::Body() const { return xml::Child(object_, "txBody"); }
-
-pugi::xml_node DrawingText::EnsureBody() {
-  if (const auto body = Body()) return body;
-  if (!xml::Is(object_, "sp")) {
-    throw runtime::RuntimeError(runtime::error::kApplication, "The specified value is out of range.");
-  }
-  // it is the last child, in the drawing's own vocabulary
-  const pugi::xml_node body =
-      object_.append_child((std::string(xml::Prefix(object_.name())) + "txBody").c_str());
-  schema::Ensure(body, "bodyPr");
-  schema::Ensure(body, "lstStyle");
-  schema::Ensure(body, "p");
-  return body;
-}
-
-pugi::xml_node DrawingText::BodyProperties() { return schema::Ensure(EnsureBody(), "bodyPr"); }
-
-std::vector<pugi::xml_node> DrawingText::Paragraphs() const { return xml::Children(Body(), "p"); }
-
-std::string DrawingText::Text() const {
+std::string BodyText(pugi::xml_node body) {
   std::string text;
   bool first = true;
-  for (const pugi::xml_node& paragraph : Paragraphs()) {
-    if (!first) text += '\n';
-    first = false;
+  for (const pugi::xml_node& paragraph : xml::Children(body, "p")) {
+    if (!std::exchange(first, false)) text += '\n';
     for (const pugi::xml_node& run : paragraph.children()) {
       if (IsRun(run)) text += xml::Text(xml::Child(run, "t"));
       if (xml::Is(run, "br")) text += '\n';
@@ -77,20 +59,21 @@ std::string DrawingText::Text() const {
   return text;
 }
 
-void DrawingText::SetText(std::string_view text) {
-  pugi::xml_node body = EnsureBody();
-  const auto paragraphs = Paragraphs();
+void SetBodyText(pugi::xml_node body, std::string_view text) {
   pugi::xml_document dress;  // copies, as the originals go
   const auto keep = [&](pugi::xml_node node) { return node ? dress.append_copy(node) : pugi::xml_node(); };
-  const pugi::xml_node first = paragraphs.empty() ? pugi::xml_node() : paragraphs[0];
+  const auto keepAs = [&](pugi::xml_node node, const char* name) {
+    pugi::xml_node copy = keep(node);
+    copy.set_name((std::string(xml::Prefix(node.name())) + name).c_str());
+    return copy;
+  };
+  const pugi::xml_node first = xml::Child(body, "p");
   const pugi::xml_node paragraphProperties = keep(xml::Child(first, "pPr"));
-  const pugi::xml_node ending = keep(xml::Child(first, "endParaRPr"));
   pugi::xml_node runProperties = keep(xml::Child(first, "r", "rPr"));
-  if (!runProperties && ending) {
-    runProperties = dress.append_copy(ending);
-    runProperties.set_name((std::string(xml::Prefix(ending.name())) + "rPr").c_str());
-  }
-  for (const pugi::xml_node& paragraph : paragraphs) body.remove_child(paragraph);
+  pugi::xml_node ending = keep(xml::Child(first, "endParaRPr"));
+  if (!runProperties) runProperties = keepAs(ending, "rPr");
+  if (!ending) ending = keepAs(runProperties, "endParaRPr");
+  schema::Remove(body, "p");
 
   std::string lines = runtime::Replace(text, "\r\n", "\n");
   lines = runtime::Replace(lines, "\r", "\n");
@@ -111,7 +94,28 @@ void DrawingText::SetText(std::string_view text) {
   }
 }
 
-std::vector<pugi::xml_node> DrawingText::EnsureRunProperties(std::size_t start, std::size_t length) {
+pugi::xml_node EnsureParagraph(pugi::xml_node body) {
+  schema::Ensure(body, "bodyPr");
+  schema::Ensure(body, "lstStyle");
+  return schema::Ensure(body, "p");
+}
+
+pugi::xml_node TextBody::Body() const { return xml::Child(object_, "txBody"); }
+
+pugi::xml_node TextBody::EnsureBody() {
+  if (const auto body = Body()) return body;
+  if (!xml::Is(object_, "sp")) throw OutOfRange();
+  // it is the last child, in the drawing's own vocabulary
+  const pugi::xml_node body = xml::AppendChild(object_, "txBody");
+  EnsureParagraph(body);
+  return body;
+}
+
+pugi::xml_node TextBody::BodyProperties() { return schema::Ensure(EnsureBody(), "bodyPr"); }
+
+std::vector<pugi::xml_node> TextBody::Paragraphs() const { return xml::Children(Body(), "p"); }
+
+std::vector<pugi::xml_node> TextBody::EnsureRunProperties(std::size_t start, std::size_t length) {
   EnsureBody();
   const auto paragraphs = Paragraphs();
   const std::size_t end = length > std::u16string::npos - start ? std::u16string::npos : start + length;
@@ -132,7 +136,7 @@ std::vector<pugi::xml_node> DrawingText::EnsureRunProperties(std::size_t start, 
   return properties;
 }
 
-std::vector<pugi::xml_node> DrawingText::RunProperties(std::size_t start, std::size_t length) const {
+std::vector<pugi::xml_node> TextBody::RunProperties(std::size_t start, std::size_t length) const {
   const auto paragraphs = Paragraphs();
   const std::size_t end = length > std::u16string::npos - start ? std::u16string::npos : start + length;
   std::vector<pugi::xml_node> properties;
@@ -143,7 +147,7 @@ std::vector<pugi::xml_node> DrawingText::RunProperties(std::size_t start, std::s
   return properties;
 }
 
-DrawingText::Extent DrawingText::Measure(const Theme& theme, std::optional<double> width) const {
+TextBody::Extent TextBody::Measure(const Theme& theme, std::optional<double> width) const {
   Extent extent;
   for (const pugi::xml_node& paragraph : Paragraphs()) {
     double x = 0, height = 0;

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <memory>
+#include <pugixml.hpp>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "runtime/Strings.h"
+#include "xlsx/drawing/DrawnShape.h"
+
+namespace plotsmith::xlsx {
+
+/// What the drawings of a sheet and of a chart have in common: a document of anchors, and on each a shape.
+/// `Shape` is the drawing's own class of DrawnShape.
+template <class Shape>
+class AnchoredShapes {
+ public:
+  /// From back to front, what is inside a group not counted.
+  const std::vector<std::shared_ptr<Shape>>& Shapes() const { return shapes_; }
+  /// Null if there is none; case aside.
+  std::shared_ptr<Shape> FindShape(std::string_view name) const {
+    for (const auto& shape : shapes_) {
+      if (runtime::EqualsIgnoreCase(shape->Name(), name)) return shape;
+    }
+    return nullptr;
+  }
+  /// Takes the shape and its anchor out of the drawing.
+  void Remove(const DrawnShape& shape) {
+    pugi::xml_node anchor = shape.Anchor();
+    std::erase_if(shapes_, [&](const auto& other) { return other.get() == &shape; });
+    anchor.parent().remove_child(anchor);
+    changed_ = true;
+  }
+
+  void MarkChanged() { changed_ = true; }
+  bool Changed() const { return changed_; }
+
+ protected:
+  /// A name that no shape has yet, from a number on.
+  std::string FreeName(std::string_view stem, std::size_t number) const {
+    for (;; ++number) {
+      std::string name = std::string(stem) + " " + std::to_string(number);
+      if (!FindShape(name)) return name;
+    }
+  }
+
+  pugi::xml_document document_;
+  std::vector<std::shared_ptr<Shape>> shapes_;
+  bool changed_ = false;
+};
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,72 @@
+#include "xlsx/package/XmlTags.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "xlsx/package/MemoryStream.h"
+#include "xlsx/package/Xml.h"
+#include "xlsx/package/XmlStream.h"
+
+namespace plotsmith::xlsx {
+
+std::optional<XmlTag> NextTag(std::string_view text, std::size_t from) {
+  constexpr std::pair<std::string_view, std::string_view> kOther[] = {
+      {"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}};
+  for (auto i = text.find('<', from); i != std::string_view::npos; i = text.find('<', i)) {
+    const std::string_view rest = text.substr(i);
+    const auto other = std::find_if(std::begin(kOther), std::end(kOther),
+                                    [&](const auto& form) { return rest.starts_with(form.first); });
+    if (other != std::end(kOther)) {
+      i = text.find(other->second, i + other->first.size());
+      continue;
+    }
+    std::size_t end = i + 1;
+    for (char quote = 0; end < text.size() && (quote != 0 || text[end] != '>'); ++end) {
+      if (quote != 0) {
+        if (text[end] == quote) quote = 0;
+      } else if (text[end] == '"' || text[end] == '\'') {
+        quote = text[end];
+      }
+    }
+    if (end == text.size()) break;
+    XmlTag tag{{i, end + 1}};
+    tag.kind = text[i + 1] == '/'     ? XmlTag::Kind::kEnd
+               : text[end - 1] == '/' ? XmlTag::Kind::kEmpty
+                                      : XmlTag::Kind::kStart;
+    const std::size_t nameBegin = i + (tag.kind == XmlTag::Kind::kEnd ? 2 : 1);
+    tag.name = text.substr(nameBegin, text.find_first_of(" \t\r\n/>", nameBegin) - nameBegin);
+    const std::size_t nameEnd = nameBegin + tag.name.size();
+    tag.attributes = text.substr(nameEnd, end - (tag.kind == XmlTag::Kind::kEmpty ? 1 : 0) - nameEnd);
+    return tag;
+  }
+  return std::nullopt;
+}
+
+TextSpan FindAttribute(std::string_view text, const TextSpan& tag, std::string_view name) {
+  constexpr std::string_view kBlanks = " \t\r\n";
+  for (std::size_t from = tag.begin;;) {
+    const auto equals = text.find('=', from);
+    const auto open = text.find_first_of("\"'", equals);
+    if (equals >= tag.end || open >= tag.end) return {};
+    const auto nameEnd = text.find_last_not_of(kBlanks, equals - 1) + 1;
+    const auto blank = text.find_last_of(kBlanks, nameEnd - 1);
+    const auto close = text.find(text[open], open + 1);
+    if (text.substr(blank + 1, nameEnd - blank - 1) == name) return {blank, close + 1};
+    from = close + 1;
+  }
+}
+
+std::string TextBetween(std::string_view content) {
+  if (content.find('<') == std::string_view::npos) return xml::Decode(content);
+  // comments and character data are the stream's matter
+  const std::string element = "<t>" + std::string(content) + "</t>";
+  MemoryStream source(element);
+  XmlStream stream(source);
+  stream.Next();
+  std::string text;
+  stream.ReadText(text);
+  return text;
+}
+
+}  // namespace plotsmith::xlsx
