@@ -1,6 +1,5 @@
 // The parts of the embedded host.
 
-#include <array>
 #include <benchmark/benchmark.h>
 
 #include "bench/TemporaryBook.h"

@@ -11,7 +11,6 @@
 #include <spawn.h>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>

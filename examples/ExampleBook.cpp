@@ -3,10 +3,12 @@
 #include <iostream>
 #include <stdexcept>
 
+#include "builder/ChartComment.h"
 #include "common/App.h"
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
+#include "controller/ResetSystem.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
 #include "xlsx/Worksheet.h"
@@ -15,13 +17,13 @@ namespace plotsmith::examples {
 
 ExampleBook::ExampleBook()
     : desktop_(std::make_shared<cli::ConsoleDesktop>()), host_(xlsx::Application::Create()) {
-  ResetRunVariables();
+  ResetSystem();
   App = {"", desktop_, desktop_};
   host_->NewWorkbook();
 }
 
 ExampleBook::~ExampleBook() {
-  ResetRunVariables();
+  ResetSystem();
   App = {};
 }
 
@@ -57,16 +59,15 @@ void ExampleBook::Chart(const excel::Ref<excel::Worksheet>& sheet, double left, 
   SaveChartDefinition(document);
 }
 
-void ExampleBook::Comment(const excel::Ref<excel::Worksheet>& sheet, double right, double top,
-                          const std::string& text) {
-  const auto box =
-      sheet->Shapes()->AddTextbox(excel::msoTextOrientationHorizontal, right - 5, top + 5, 180, 120);
-  box->SetAlternativeText("VEX_Chart" + std::to_string(charts_));
-  box->TextFrame()->Characters()->SetText(text);
+void ExampleBook::Comment(const excel::Ref<excel::Worksheet>& sheet, const std::string& text) {
+  AddCommentBox(sheet->Name(), "VEX_Chart" + std::to_string(charts_))
+      ->TextFrame()
+      ->Characters()
+      ->SetText(text);
 }
 
 void ExampleBook::Finish(const std::string& path) {
-  ResetRunVariables();
+  ResetSystem();
   host_->Book().AllSheets().front()->object->Activate();
   CPlotsmithController().RefreshPlotsmithData(host_, "make_examples", "");
   for (const std::string& message : desktop_->Messages()) std::cerr << path << ": " << message << '\n';

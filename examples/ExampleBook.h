@@ -26,11 +26,10 @@ class ExampleBook {
   excel::Ref<excel::Worksheet> Sheet(const std::string& name);
   void Name(const std::string& name, const std::string& refersTo);
   /// Puts the frame of a chart on a sheet (points) and stores its definition, to which id and name are added.
-  /// Tables have to be there by the first call.
   void Chart(const excel::Ref<excel::Worksheet>& sheet, double left, double top, double width, double height,
              const std::string& attributes, const std::string& content);
-  /// The comment box of the last chart, with its top right corner at a point of the sheet (points).
-  void Comment(const excel::Ref<excel::Worksheet>& sheet, double right, double top, const std::string& text);
+  /// The comment box of the last chart, which is on that sheet.
+  void Comment(const excel::Ref<excel::Worksheet>& sheet, const std::string& text);
   /// Refreshes and saves; what the refresh had to say goes to stderr.
   void Finish(const std::string& path);
 

@@ -60,7 +60,7 @@ void MakeSales(const std::string& path) {
   book.Chart(charts, 10, 590, w, h, table + "type=\"bar\" title=\"Units in all\"",
              Columns("categories", "rows", {"Line"}) + Columns("series", "none", {}) +
                  Columns("values", "", {"Units"}) + Axes("", "Pieces") + Labels("values") + Settings({}));
-  book.Comment(charts, 10 + w, 590, "City bikes sell best, but it is the E-Bikes that bring the money.");
+  book.Comment(charts, "City bikes sell best, but it is the E-Bikes that bring the money.");
   book.Finish(path);
 }
 

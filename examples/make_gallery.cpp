@@ -272,7 +272,7 @@ void MakeBook(const std::vector<Section>& gallery, const std::string& path) {
     for (const Picture& picture : section.pictures) {
       const auto& sheet = sheets[next++];
       book.Chart(sheet, 0, 0, kWidth, kHeight, picture.attributes, picture.content);
-      if (!picture.comment.empty()) book.Comment(sheet, kWidth, 0, picture.comment);
+      if (!picture.comment.empty()) book.Comment(sheet, picture.comment);
       std::cout << kTableSheets + next << ' ' << (picture.comment.empty() ? kResolution : kFarResolution)
                 << ' ' << picture.name << '\n';
     }

@@ -1,4 +1,4 @@
-// The entry that libFuzzer calls, for the target that the build names.
+// The entry that libFuzzer calls, for the target that the environment variable PLOTSMITH_FUZZ_TARGET names.
 
 #include <cstdlib>
 #include <iostream>
@@ -7,13 +7,14 @@
 #include "fuzz/Targets.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const plotsmith::fuzz::Target* const target = [] {
+  static const plotsmith::fuzz::Target target = [] {
+    const char* const name = std::getenv("PLOTSMITH_FUZZ_TARGET");
     for (const auto& candidate : plotsmith::fuzz::kTargets) {
-      if (std::string_view(candidate.name) == PLOTSMITH_FUZZ_TARGET) return &candidate;
+      if (name != nullptr && std::string_view(name) == candidate.name) return candidate;
     }
-    std::cerr << "no target " << PLOTSMITH_FUZZ_TARGET << '\n';
-    std::abort();
+    std::cerr << "PLOTSMITH_FUZZ_TARGET names no target\n";
+    std::exit(2);
   }();
-  target->run(data, size);
+  target.run(data, size);
   return 0;
 }

@@ -8,12 +8,12 @@
 #include <string_view>
 #include <sys/mman.h>
 #include <unistd.h>
+#include <vector>
 
 #include "cli/ConsoleDesktop.h"
 #include "common/App.h"
-#include "common/CommonFunctions.h"
-#include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
+#include "controller/ResetSystem.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/Application.h"
 #include "xlsx/SheetDrawing.h"
@@ -76,9 +76,9 @@ std::string TemporaryBook() {
 void Refresh(const std::shared_ptr<xlsx::Application>& host) {
   const auto desktop = std::make_shared<cli::ConsoleDesktop>();
   App = {"", desktop, desktop};
-  ResetRunVariables();
+  ResetSystem();
   CPlotsmithController().RefreshPlotsmithData(host, "fuzz", "");
-  ResetRunVariables();
+  ResetSystem();
   App = {};
 }
 

@@ -2,7 +2,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iostream>
 #include <string>
 
 #include "xlsx/package/Package.h"
@@ -20,6 +19,18 @@ void Write(const fs::path& folder, std::size_t number, const std::string& bytes)
   std::ofstream(folder / std::to_string(number), std::ios::binary) << bytes;
 }
 
+/// The inline texts of a sheet as shared ones, which not every workbook has.
+std::string AsSharedStrings(const std::string& sheet) {
+  std::string part = "<sst>";
+  for (auto from = sheet.find("<is>"); from != std::string::npos; from = sheet.find("<is>", from)) {
+    const auto to = sheet.find("</is>", from);
+    if (to == std::string::npos) break;
+    part += "<si>" + sheet.substr(from + 4, to - from - 4) + "</si>";
+    from = to;
+  }
+  return part + "</sst>";
+}
+
 /// The texts of all elements of a kind, for targets that read no XML.
 void WriteTexts(const fs::path& folder, std::size_t& number, const std::string& part,
                 const std::string& element, const char* attribute) {
@@ -27,7 +38,7 @@ void WriteTexts(const fs::path& folder, std::size_t& number, const std::string& 
     const auto from = attribute == nullptr ? part.find('>', at) + 1
                                            : part.find(attribute, at) + std::string(attribute).size();
     const auto to = part.find_first_of(attribute == nullptr ? "<" : "\"", from);
-    if (to != std::string::npos && to > from && to - from < 300) {
+    if (to != std::string::npos && to > from) {
       Write(folder, ++number, plotsmith::xlsx::xml::Decode(part.substr(from, to - from)));
     }
   }
@@ -54,7 +65,10 @@ int main(int argc, char** argv) {
           continue;
         }
         const auto is = [&](const char* what) { return type.find(what) != std::string::npos; };
-        if (is("worksheet+xml")) Write(folder / "sheet", ++number, text);
+        if (is("worksheet+xml")) {
+          Write(folder / "sheet", ++number, text);
+          Write(folder / "shared-strings", number, AsSharedStrings(text));
+        }
         if (is("sharedStrings+xml")) Write(folder / "shared-strings", ++number, text);
         if (is("styles+xml")) Write(folder / "styles", ++number, text);
         if (is("drawing+xml")) Write(folder / "drawing", ++number, text);

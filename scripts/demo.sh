@@ -9,8 +9,7 @@ for book in examples/*.xlsx; do
   echo "demo/$name.xlsx: refreshed; these are its charts:"
   build/plotsmith charts "demo/$name.xlsx" | sed 's/^/    /'
   if command -v soffice >/dev/null && command -v pdftoppm >/dev/null; then
-    soffice --headless --convert-to 'pdf:calc_pdf_Export:{"SinglePageSheets":{"type":"boolean","value":"true"}}' \
-      --outdir demo "demo/$name.xlsx" >/dev/null 2>&1
+    scripts/print.sh "demo/$name.xlsx" demo
     pdftoppm -png -r 96 -f 2 -l 2 -singlefile "demo/$name.pdf" "demo/$name"
     rm "demo/$name.pdf"
     echo "demo/$name.png: a picture of its sheet Charts"

@@ -13,12 +13,6 @@ images=docs/images
 rm -rf "$out" "$images/gallery"
 mkdir -p "$out" "$images/gallery"
 
-# Prints each sheet of a workbook on a page of its own size.
-print() {
-  soffice "-env:UserInstallation=file://$PWD/$out/profile" --headless \
-    --convert-to 'pdf:calc_pdf_Export:{"SinglePageSheets":{"type":"boolean","value":"true"}}' --outdir "$out" "$1" \
-    >"$out/soffice.log" 2>&1 || { cat "$out/soffice.log" >&2; exit 1; }
-}
 # Takes the top left corner of a page: PDF PAGE DPI WIDTH HEIGHT PICTURE, in pixels.
 take() {
   pdftoppm -png -r "$3" -x 0 -y 0 -W "$4" -H "$5" -f "$2" -l "$2" -singlefile "$out/$1.pdf" "$images/$6"
@@ -26,7 +20,7 @@ take() {
 
 # A chart whose table is gone is part of the gallery; the refresh says so.
 build/examples/make_gallery "$out" >"$out/pages"
-print "$out/gallery.xlsx"
+scripts/print.sh "$out/gallery.xlsx" "$out"
 while read -r page dpi name; do
   take gallery "$page" "$dpi" 300 174 "gallery/$name"
 done <"$out/pages"
@@ -35,7 +29,7 @@ cp "$out/gallery.md" docs/gallery.md
 # What the README shows: the sheets Charts of two examples.
 for book in bicycle-sales investments; do
   build/plotsmith refresh "examples/$book.xlsx" -o "$out/$book.xlsx"
-  print "$out/$book.xlsx"
+  scripts/print.sh "$out/$book.xlsx" "$out"
 done
 take bicycle-sales 2 60 650 415 bicycle-sales
 take investments 2 60 810 340 investments

@@ -5,7 +5,9 @@
 
 #include "builder/BuilderVariables.h"
 #include "builder/ChartAttributes.h"
+#include "builder/DataBlock.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
 
 namespace plotsmith {
@@ -81,12 +83,12 @@ void PopulateABCChart(const IXMLDOMElement& oChartElement) {
     mChart->SetChartType(excel::xlBarClustered);
     const std::string sCategories = oBlock.Categories();
     std::string sName;
-    for (std::int32_t c = 3; c <= oBlock.L; ++c) {
+    for (std::int32_t c = data_column::kFirstSeries; c <= oBlock.lLastColumn; ++c) {
       if (HostVersion(mChart->Application()) > kLastClassicVersion) {
         const std::string sLetters = NameColumnLetters(c);
-        if (!sLetters.empty()) sName = "=VEX_ChartData!$" + sLetters + "$" + std::to_string(oBlock.S);
+        if (!sLetters.empty()) sName = DataCellA1(oBlock.lHeaderRow, sLetters);
       } else {
-        sName = kDataReferencePrefix + std::to_string(oBlock.S) + "C" + std::to_string(c);
+        sName = DataCell(oBlock.lHeaderRow, c);
       }
       const auto oSeries = mChart->SeriesCollection()->NewSeries();
       oSeries->SetName(sName);

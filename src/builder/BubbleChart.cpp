@@ -4,10 +4,14 @@
 #include "builder/BuilderVariables.h"
 #include "builder/ChartAttributes.h"
 #include "builder/ChartLegend.h"
+#include "builder/DataBlock.h"
 #include "builder/SeriesColors.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
+#include "runtime/Ref.h"
 #include "runtime/Strings.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 
@@ -18,7 +22,7 @@ namespace {
 
 /// Keeps the place of a row without a colour label, so that the series still count like the rows.
 void MakePlaceholder(const Ref<excel::Series>& oSeries) {
-  const std::string sNowhere = std::string(kDataReferencePrefix) + "1C1:R1C1";
+  const std::string sNowhere = DataCells(1, 1, 1, 1);
   IgnoreErrors([&] { oSeries->SetName(runtime::kNull); }, [&] { oSeries->SetXValues(sNowhere); },
                [&] { oSeries->SetValues(sNowhere); }, [&] { oSeries->SetBubbleSizes(sNowhere); });
 }
@@ -46,13 +50,10 @@ void AddBubble(excel::Worksheet& oSheet, std::int32_t lRow, SeriesColors& oColor
     MakePlaceholder(oSeries);
     return;
   }
-  const auto cell = [&](std::int32_t lColumn) {
-    const std::string sCell = std::to_string(lRow) + "C" + std::to_string(lColumn);
-    return kDataReferencePrefix + sCell + ":R" + sCell;
-  };
-  IgnoreErrors([&] { oSeries->SetName(sName); }, [&] { oSeries->SetXValues(cell(bubble_column::kX)); },
-               [&] { oSeries->SetValues(cell(bubble_column::kY)); },
-               [&] { oSeries->SetBubbleSizes(cell(bubble_column::kSize)); });
+  const auto value = [&](std::int32_t lColumn) { return DataCells(lRow, lColumn, lRow, lColumn); };
+  IgnoreErrors([&] { oSeries->SetName(sName); }, [&] { oSeries->SetXValues(value(bubble_column::kX)); },
+               [&] { oSeries->SetValues(value(bubble_column::kY)); },
+               [&] { oSeries->SetBubbleSizes(value(bubble_column::kSize)); });
   oColors.Harvest(oSeries, sName, [](const auto& statement) { IgnoreErrors(statement); });
   LabelBubble(oSeries);
 }
@@ -64,7 +65,7 @@ void PaintBubbles(excel::Worksheet& oSheet, std::int32_t lRow, SeriesColors& oCo
   for (std::int32_t i = 1; i <= oCollection->Count(); ++i, ++lRow) {
     Ref<excel::Series> oSeries;
     IgnoreErrors([&] { oSeries = oCollection->Item(i); });
-    const std::string_view sText = GetCellText(oSheet, lRow, bubble_column::kName, sScratch);
+    const std::string_view sText = GetCellText(oSheet, lRow, data_column::kName, sScratch);
     oColors.Paint(oSeries);
     IgnoreErrors([&] { oSeries->Border()->SetWeight(excel::xlHairline); },
                  [&] { oSeries->DataLabels()->Item(1)->SetText(sText); },
@@ -82,13 +83,14 @@ void PopulateBubbleChart(const IXMLDOMElement& oChartElement) {
     const auto oSheet = SheetWithCells(kDataSheet);
     SeriesColors oColors;
     // From here on errors are ignored, statement by statement.
-    for (std::int32_t lRow = oBlock.S + 1; lRow <= oBlock.E; ++lRow) AddBubble(*oSheet, lRow, oColors);
+    for (std::int32_t lRow = oBlock.FirstRow(); lRow <= oBlock.lLastRow; ++lRow)
+      AddBubble(*oSheet, lRow, oColors);
     if (bClassic) {
       // These versions don't take the series for bubbles but by way of a scatter chart.
       IgnoreErrors([] { mChart->SetChartType(excel::xlXYScatter); },
                    [] { mChart->SetChartType(excel::xlBubble); });
     }
-    IgnoreErrors([&] { PaintBubbles(*oSheet, oBlock.S + 1, oColors); });
+    IgnoreErrors([&] { PaintBubbles(*oSheet, oBlock.FirstRow(), oColors); });
   });
 }
 
@@ -105,10 +107,13 @@ void SetBubbleChartAttributes(const IXMLDOMElement& oChartElement) {
     }
     ClearAxisTitles();
     ApplyAxisTitles(oChartElement, {.bSwitchAxisOn = false, .bSizeThroughVal = false, .bYield = true});
+    // "quadrants" stands among the static settings today, where SetBubbleChartQuadrants looks for it
     const std::int32_t lSum = SumOfSettings(oChartElement, {{"3D", 1}, {"quadrants", 2}});
     if (lSum == 1 || lSum == 3) mChart->SetChartType(excel::xlBubble3DEffect);
     if (lSum == 2) mChart->SetChartType(excel::xlBubble);
-    return !ApplyBuiltInLegend();
+    const bool bDrawn = LegendIsDrawn();
+    if (!bDrawn) ApplyLegendVisibility();
+    return bDrawn;
   });
   if (bDrawnLegend) ApplyDrawnLegend();
 }

@@ -5,6 +5,7 @@
 #include "builder/BuilderVariables.h"
 #include "builder/MapSteps.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 
 namespace plotsmith {
@@ -27,7 +28,7 @@ bool BuildBubbleMap(const IXMLDOMElement& oChartElement) {
       Numbering oBubbles(mCategoryPositions, mCategoryNames);
       std::string sScratch;
       for (std::int32_t lRow = oRows.lFirst; lRow <= oRows.Last(); ++lRow) {
-        oBubbles.Find(GetCellText(*oSheet, lRow, lNameColumn, sScratch), sScratch);
+        oBubbles.NumberIfNew(GetCellText(*oSheet, lRow, lNameColumn, sScratch), sScratch);
         // Behind the numbering: the last name that fits is charted and brings the message all the same.
         if (oBubbles.Count() >= kSeriesLimit) {
           ShowLimitMessage(oChartElement);
@@ -43,10 +44,10 @@ bool BuildBubbleMap(const IXMLDOMElement& oChartElement) {
     const std::int32_t lXColumn = FirstColumnOf(oChartElement, "x-values", 0);
     const std::int32_t lYColumn = FirstColumnOf(oChartElement, "values", 0);
     const std::int32_t lSizeColumn = FirstColumnOf(oChartElement, "bubble-sizes", -1);
-    AddPseudoSeriesRule(lNameColumn, 1, cell_value::kText, lColorColumn, "[none]");
-    AddPseudoSeriesRule(lNameColumn, 2, cell_value::kNumber, lXColumn, {});
-    AddPseudoSeriesRule(lNameColumn, 3, cell_value::kNumber, lYColumn, {});
-    AddPseudoSeriesRule(lNameColumn, 4, cell_value::kNumber, lSizeColumn, 1);
+    AddPseudoSeriesRule(lNameColumn, bubble_column::kColor, cell::kText, lColorColumn, "[none]");
+    AddPseudoSeriesRule(lNameColumn, bubble_column::kX, cell::kDouble, lXColumn, {});
+    AddPseudoSeriesRule(lNameColumn, bubble_column::kY, cell::kDouble, lYColumn, {});
+    AddPseudoSeriesRule(lNameColumn, bubble_column::kSize, cell::kDouble, lSizeColumn, 1);
 
     if (FinishMap()) return true;
     ShowComplaint("PSChartBuilder.BuildBubbleMap", kEmptyMapComplaint);

@@ -4,8 +4,9 @@
 
 #include "builder/BubbleMap.h"
 #include "builder/BuilderVariables.h"
-#include "builder/ChartAttributes.h"
+#include "builder/DataBlock.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
 
 namespace plotsmith {
@@ -72,13 +73,15 @@ void SetUpAxis(std::int32_t lType, bool bAutoScale, const Span& oSpan) {
 
 void SetBubbleChartQuadrants(const IXMLDOMElement& oChartElement) {
   ReportErrors("PSChartBuilder.SetBubbleChartQuadrants", [&] {
-    const bool bAutoScaleX = mNewOrCopiedChart || HasStaticSetting(oChartElement, "autoscale-x");
-    const bool bAutoScaleY = mNewOrCopiedChart || HasStaticSetting(oChartElement, "autoscale-y");
-    if (!HasStaticSetting(oChartElement, "quadrants")) return;
+    const bool bAutoScaleX =
+        mNewOrCopiedChart || HasSetting(oChartElement, "static-attributes", "autoscale-x");
+    const bool bAutoScaleY =
+        mNewOrCopiedChart || HasSetting(oChartElement, "static-attributes", "autoscale-y");
+    if (!HasSetting(oChartElement, "static-attributes", "quadrants")) return;
     const Block oBlock(oChartElement);
     const auto oSheet = SheetWithCells(kDataSheet);
     Span oX, oY;
-    for (std::int32_t lRow = oBlock.S + 1; lRow <= oBlock.E; ++lRow) {
+    for (std::int32_t lRow = oBlock.FirstRow(); lRow <= oBlock.lLastRow; ++lRow) {
       oX.Take(GetCellDouble(*oSheet, lRow, bubble_column::kX));
       oY.Take(GetCellDouble(*oSheet, lRow, bubble_column::kY));
     }

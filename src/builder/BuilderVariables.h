@@ -49,7 +49,7 @@ extern runtime::Variant mLabelFontName;
 extern runtime::Variant mLabelFontStyle;
 extern runtime::Variant mLabelFontSize;
 extern runtime::Variant mLabelFontColor;
-extern runtime::Variant mLabelFontBackgroundColor;
+extern runtime::Variant mLabelFontBackgroundColor;  ///< kept, but no chart is drawn with it
 extern runtime::Variant mLabelFontAutoScale;
 extern runtime::Variant mBucketLabelFontName;
 extern runtime::Variant mBucketLabelFontSize;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "common/PSConstants.h"
 #include "runtime/Variant.h"
 
 namespace plotsmith {
@@ -17,12 +18,6 @@ namespace value_reference {
 inline constexpr std::int32_t kCell = 0;
 inline constexpr std::int32_t kConstant = 2;
 }  // namespace value_reference
-
-/// How a map instruction reads and stores a value.
-namespace cell_value {
-inline constexpr std::int32_t kText = 0;    ///< the displayed text replaces what is there
-inline constexpr std::int32_t kNumber = 1;  ///< the number is added to what is there
-}  // namespace cell_value
 
 /// One rule of the map from source table to rectangle, applied to each row of the table.
 class CPSMapInstruction {
@@ -43,6 +38,7 @@ class CPSMapInstruction {
   void SetValuePositionOrConstant(runtime::Variant ColumnPositionOrValue) {
     vValuePositionOrConstant_ = std::move(ColumnPositionOrValue);
   }
+  /// `cell::kText` replaces what is there by the displayed text, `cell::kDouble` adds the number to it.
   std::int32_t CellValueType() const { return lCellValueType_; }
   void SetCellValueType(std::int32_t CellType) { lCellValueType_ = CellType; }
 
@@ -53,7 +49,7 @@ class CPSMapInstruction {
   std::int32_t lColReferencePosition_ = 0;
   std::int32_t lValueReferenceType_ = value_reference::kCell;
   runtime::Variant vValuePositionOrConstant_;
-  std::int32_t lCellValueType_ = cell_value::kText;
+  std::int32_t lCellValueType_ = cell::kText;
 };
 
 }  // namespace plotsmith

@@ -1,9 +1,10 @@
 #include "builder/ChartAttributes.h"
 
-#include <algorithm>
-
 #include "builder/BuilderVariables.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
+#include "runtime/Ref.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 
@@ -30,18 +31,6 @@ AxisFont FontOfAxis(std::int32_t lAxis) {
 }
 
 }  // namespace
-
-Block::Block(const IXMLDOMElement& oChartElement)
-    : S(GetAttributeLong(oChartElement, "data-start-row")), E(S + mCategoryCount), L(mSeriesCount + 2) {}
-
-std::string Block::Categories() const {
-  return kDataReferencePrefix + std::to_string(S + 1) + "C2:R" + std::to_string(E) + "C2";
-}
-
-std::string Block::Values(std::int32_t lColumn) const {
-  const std::string sColumn = "C" + std::to_string(lColumn);
-  return kDataReferencePrefix + std::to_string(S + 1) + sColumn + ":R" + std::to_string(E) + sColumn;
-}
 
 void ApplyTitle(const IXMLDOMElement& oChartElement) {
   const std::string sTitle = GetAttributeText(oChartElement, "title");
@@ -134,13 +123,6 @@ std::int32_t SumOfSettings(const IXMLDOMElement& oChartElement, std::initializer
     if (bYield) YieldToHost();
   }
   return lSum;
-}
-
-bool HasStaticSetting(const IXMLDOMElement& oChartElement, std::string_view sSetting) {
-  const auto aAttributes = oChartElement.selectNodes("static-attributes/attribute");
-  return std::any_of(aAttributes.begin(), aAttributes.end(), [&](const auto& oAttribute) {
-    return GetAttributeText(oAttribute, "setting") == sSetting;
-  });
 }
 
 void ApplyLegendVisibility() {

@@ -2,31 +2,15 @@
 
 #include <cstdint>
 #include <initializer_list>
-#include <string>
 #include <string_view>
 
 #include "dom/Dom.h"
 #include "host/excel/Excel.h"
+#include "runtime/Ref.h"
+#include "runtime/Variant.h"
 
 /// Module PSChartBuilder: the steps that the drawing of several chart families shares.
 namespace plotsmith {
-
-/// Where a chart's block lies on the data sheet: rows are sheet rows, columns sheet columns, from 1.
-struct Block {
-  std::int32_t S;  ///< the header row
-  std::int32_t E;  ///< the last row
-  std::int32_t L;  ///< the last column
-
-  /// From `data-start-row` and the map's counts.
-  explicit Block(const dom::IXMLDOMElement& oChartElement);
-
-  /// The category texts, as a series takes them: "=VEX_ChartData!R6C2:R17C2".
-  std::string Categories() const;
-  /// The values of one column.
-  std::string Values(std::int32_t lColumn) const;
-};
-
-inline constexpr const char* kDataReferencePrefix = "=VEX_ChartData!R";
 
 void ApplyTitle(const dom::IXMLDOMElement& oChartElement);
 /// A legend where the series have headings; nothing changes without a `series` element.
@@ -58,8 +42,6 @@ struct SettingWeight {
 /// What the settings of `dynamic-attributes` add up to; one that occurs twice counts twice.
 std::int32_t SumOfSettings(const dom::IXMLDOMElement& oChartElement,
                            std::initializer_list<SettingWeight> aWeights, bool bYield = false);
-/// Whether `static-attributes` has the setting.
-bool HasStaticSetting(const dom::IXMLDOMElement& oChartElement, std::string_view sSetting);
 
 /// The built-in legend by `mLegendVisibility`: anything but "show" and "hide" leaves it.
 void ApplyLegendVisibility();

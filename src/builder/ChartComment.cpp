@@ -3,7 +3,9 @@
 #include <string>
 
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/RunVariables.h"
+#include "metadata/MetadataStore.h"
 #include "runtime/Strings.h"
 
 namespace plotsmith {
@@ -17,23 +19,19 @@ constexpr double kBoxWidth = 180;    // points, as all below
 constexpr double kBoxHeight = 120;
 constexpr double kBoxOverlap = 5;  // over the chart's right edge, and below its top edge
 
-/// A new box at the top right corner of the chart, or Nothing if the chart isn't on its sheet.
-Ref<excel::Shape> AddCommentBox(const std::string& sSheet, const std::string& sID) {
-  const auto oShapes = SheetWithCells(sSheet)->Shapes();
-  for (std::int32_t i = 1; i <= oShapes->Count(); ++i) {
-    const auto oShape = oShapes->Item(i);
-    if (oShape->AlternativeText() != sID || oShape->Type() != excel::msoChart) continue;
-    auto oBox = oShapes->AddTextbox(excel::msoTextOrientationHorizontal,
-                                    oShape->Width() + oShape->Left() - kBoxOverlap,
-                                    oShape->Top() + kBoxOverlap, kBoxWidth, kBoxHeight);
-    oBox->SetAlternativeText(sID);
-    colChartShapes->Add(oBox, sID);
-    return oBox;
-  }
-  return nullptr;
-}
-
 }  // namespace
+
+Ref<excel::Shape> AddCommentBox(const std::string& sSheet, const std::string& sID) {
+  const auto oSheet = SheetWithCells(sSheet);
+  const auto oFrame = FindShape(oSheet, excel::msoChart, sID);
+  if (!oFrame) return nullptr;
+  auto oBox = oSheet->Shapes()->AddTextbox(excel::msoTextOrientationHorizontal,
+                                           oFrame->Width() + oFrame->Left() - kBoxOverlap,
+                                           oFrame->Top() + kBoxOverlap, kBoxWidth, kBoxHeight);
+  oBox->SetAlternativeText(sID);
+  colChartShapes->Add(oBox, sID);
+  return oBox;
+}
 
 void SetChartComment(const dom::IXMLDOMElement& oChartElement) {
   ReportErrors("PSChartBuilder.SetChartComment", [&] {

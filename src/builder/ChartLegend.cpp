@@ -4,11 +4,16 @@
 #include <vector>
 
 #include "builder/BuilderVariables.h"
+#include "builder/CPSColor.h"
 #include "builder/ChartAttributes.h"
 #include "builder/StrategicBucketChart.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
+#include "runtime/Ref.h"
+#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 
@@ -20,7 +25,6 @@ namespace {
 constexpr const char* kLegendName = "VEX_Legend";
 constexpr const char* kEntryMark = "VEX_LS_";
 constexpr const char* kOwnMark = "VEX_L";  // the legend and its entries
-constexpr std::int32_t kAutoSizeShapeToText = 1;
 constexpr std::int32_t kBlack = 0;
 constexpr std::int32_t kWhite = 0xFFFFFF;
 
@@ -82,7 +86,7 @@ void AddEntryText(const std::string& sName, double dFontSize, Extent& oExtent) {
   oCharacters->SetText(sName);
   const auto oFrame2 = oText->TextFrame2();
   oFrame2->SetWordWrap(false);
-  oFrame2->SetAutoSize(kAutoSizeShapeToText);
+  oFrame2->SetAutoSize(excel::msoAutoSizeShapeToFitText);
   oFrame2->SetMarginTop(0);
   const auto oFrame = oText->TextFrame();
   oFrame->SetVerticalAlignment(excel::xlVAlignTop);
@@ -152,11 +156,7 @@ void PlaceLegend() {
 
 }  // namespace
 
-bool ApplyBuiltInLegend() {
-  if (HostVersion(mChart->Application()) > kLastClassicVersion) return false;
-  ApplyLegendVisibility();
-  return true;
-}
+bool LegendIsDrawn() { return HostVersion(mChart->Application()) > kLastClassicVersion; }
 
 void ApplyDrawnLegend() {
   HandleErrors(

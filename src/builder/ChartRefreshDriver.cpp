@@ -1,5 +1,7 @@
 #include "builder/ChartRefreshDriver.h"
 
+#include <vector>
+
 #include "builder/AbcChart.h"
 #include "builder/BubbleChart.h"
 #include "builder/BubbleQuadrants.h"
@@ -14,11 +16,17 @@
 #include "builder/StrategicBucketChart.h"
 #include "common/App.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
+#include "common/Messages.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "dom/Dom.h"
+#include "host/desktop/Desktop.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
 #include "pages/frmBusyPS.h"
+#include "runtime/RuntimeError.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 
@@ -42,7 +50,8 @@ class QuietHost {
     oApplication->SetScreenUpdating(false);
   }
 
-  /// After an error too, and then as far as Enter came.
+  /// After an error too. Calculation is put back if Enter has come to it; the screen follows again unless it
+  /// is known that it didn't.
   void Leave() {
     IgnoreErrors(
         [&] {
@@ -133,6 +142,7 @@ void BuildChart(IXMLDOMElement& oChartElement, bool bCrosshatched) {
   if (!PopulateDataSheetOffi2007(oChartElement)) return;
   if (!SortDataSheet(oChartElement)) return;
   RetrievePersistedProperties(oChartElement);
+  // the fonts that somebody gave this chart would shrink and grow with its frame
   if (!mNewOrCopiedChart) mChart->ChartArea()->SetAutoScaleFont(false);
   if (!DrawFamily(oChartElement)) {
     ShowMessage(std::string("PSChartBuilder.PopulateChart") + kLineBreak + "Unknown chart type");

@@ -1,14 +1,15 @@
 #include "builder/DataSheet.h"
 
-#include <cmath>
-
 #include "builder/BuilderVariables.h"
+#include "builder/CPSMapInstruction.h"
+#include "builder/DataBlock.h"
 #include "builder/MapSteps.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
-#include "runtime/RuntimeError.h"
+#include "runtime/Dictionary.h"
 #include "runtime/Strings.h"
 
 namespace plotsmith {
@@ -18,10 +19,6 @@ using runtime::Dictionary;
 using runtime::Ref;
 
 namespace {
-
-constexpr std::int32_t kIdColumn = 1;
-constexpr std::int32_t kNameColumn = 2;
-constexpr std::int32_t kFirstSeriesColumn = 3;
 
 /// Looks up a cell's text in the positions. Several rules in a row ask for the same cell, so the last answer
 /// of the row is kept.
@@ -66,13 +63,6 @@ std::string StoredText(const std::string& sText, Dictionary& oFirstSpellings) {
   return sText;
 }
 
-/// The language's addition, which doesn't go beyond the numbers.
-double Sum(double a, double b) {
-  const double dSum = a + b;
-  if (!std::isfinite(dSum)) throw runtime::RuntimeError(runtime::error::kOverflow);
-  return dSum;
-}
-
 /// A cell text that the host must not take for a number, a date or a formula.
 std::string AsText(const runtime::Variant& vName) { return "'" + runtime::CStr(vName); }
 
@@ -86,6 +76,7 @@ std::optional<Rectangle> GetSourceData(const IXMLDOMElement& oChartElement) {
     Dictionary oFirstSpellings;
     CellIndex oCategories(*oSheet, mCategoryPositions);
     CellIndex oSeries(*oSheet, mSeriesPositions);
+    std::string sScratch;
     for (std::int32_t lRow = oRows.lFirst; lRow <= oRows.Last(); ++lRow) {
       for (const CPSMapInstruction& oRule : mMapInstructions) {
         const std::int32_t lCategory = oRule.RowReferenceType() == reference::kFixed
@@ -101,11 +92,10 @@ std::optional<Rectangle> GetSourceData(const IXMLDOMElement& oChartElement) {
           continue;
         }
         const std::int32_t lColumn = runtime::CLng(oRule.ValuePositionOrConstant());
-        if (oRule.CellValueType() == cell_value::kNumber) {
-          vTarget = Sum(runtime::CDbl(vTarget), GetCellDouble(*oSheet, lRow, lColumn));
+        if (oRule.CellValueType() == cell::kDouble) {
+          vTarget = runtime::Sum(runtime::CDbl(vTarget), GetCellDouble(*oSheet, lRow, lColumn));
         } else {
-          vTarget =
-              StoredText(runtime::CStr(GetCellValue(*oSheet, lRow, lColumn, cell::kText)), oFirstSpellings);
+          vTarget = StoredText(std::string(GetCellText(*oSheet, lRow, lColumn, sScratch)), oFirstSpellings);
         }
       }
     }
@@ -123,7 +113,7 @@ bool PopulateDataSheetOffi2007(IXMLDOMElement& oChartElement) {
     std::int32_t lFirst = 0, lRows = 0, lRow = 1;
     std::string sScratch;
     for (;; ++lRow) {
-      const std::string_view sOwner = GetCellText(*oSheet, lRow, kIdColumn, sScratch);
+      const std::string_view sOwner = GetCellText(*oSheet, lRow, data_column::kId, sScratch);
       if (sOwner.empty()) break;
       if (sOwner == sID && lRows++ == 0) lFirst = lRow;
       YieldToHost();
@@ -146,30 +136,29 @@ bool MoveToDataSheet(std::int32_t lStartRow, IXMLDOMElement& oChartElement, cons
                      Rectangle& aData, const Ref<excel::Worksheet>& oSheet) {
   return ReportErrors("PSChartBuilder.MoveToDataSheet", false, [&] {
     oChartElement.setAttribute("data-start-row", lStartRow);
-    oSheet->SetCellValueAt(lStartRow, kIdColumn, sID);
+    oSheet->SetCellValueAt(lStartRow, data_column::kId, sID);
     for (const auto& [sKey, vPosition] : mSeriesPositions) {
       const std::int32_t p = PositionOf(vPosition);
-      if (p > 0)
-        oSheet->SetCellValueAt(lStartRow, p + kFirstSeriesColumn - 1, AsText(mSeriesNames.Item(sKey)));
+      if (p > 0) oSheet->SetCellValueAt(lStartRow, ColumnOfSeries(p), AsText(mSeriesNames.Item(sKey)));
     }
     for (const auto& [sKey, vPosition] : mCategoryPositions) {
       const std::int32_t p = PositionOf(vPosition);
-      if (p > 0) oSheet->SetCellValueAt(lStartRow + p, kIdColumn, sID);
+      if (p > 0) oSheet->SetCellValueAt(lStartRow + p, data_column::kId, sID);
       // without a test: a text that has no position leaves a lone apostrophe in the header row, which harms
       // nobody
-      oSheet->SetCellValueAt(lStartRow + p, kNameColumn, AsText(mCategoryNames.Item(sKey)));
+      oSheet->SetCellValueAt(lStartRow + p, data_column::kName, AsText(mCategoryNames.Item(sKey)));
     }
     for (std::int32_t r = 1; r <= mCategoryCount; ++r) {
       for (std::int32_t c = 1; c <= mSeriesCount; ++c) {
-        oSheet->SetCellValueAt(lStartRow + r, c + kFirstSeriesColumn - 1, aData.At(r, c));
+        oSheet->SetCellValueAt(lStartRow + r, ColumnOfSeries(c), aData.At(r, c));
       }
       YieldToHost();
     }
     std::string sFormat = GetAttributeText(oChartElement, "number-format");
     if (sFormat.empty()) sFormat = "General";
     oSheet
-        ->Range(oSheet->Cells(lStartRow, kNameColumn)->Address(),
-                oSheet->Cells(lStartRow + mCategoryCount, mSeriesCount + kFirstSeriesColumn - 1)->Address())
+        ->Range(oSheet->Cells(lStartRow, data_column::kName)->Address(),
+                oSheet->Cells(lStartRow + mCategoryCount, ColumnOfSeries(mSeriesCount))->Address())
         ->SetNumberFormat(sFormat);
     return true;
   });

@@ -2,11 +2,13 @@
 
 #include "builder/BubbleMap.h"
 #include "builder/BuilderVariables.h"
-#include "builder/ChartAttributes.h"
+#include "builder/DataBlock.h"
 #include "builder/MapSteps.h"
 #include "builder/StrategicBucketMap.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 
@@ -26,7 +28,7 @@ void Sort(const SortJob& oJob) {
   const auto address = [&](std::int32_t lRow, std::int32_t lColumn) {
     return oSheet->Cells(lRow, lColumn)->Address();
   };
-  oSheet->Range(address(oJob.lTop, 1), address(oJob.lBottom, oJob.lRight))
+  oSheet->Range(address(oJob.lTop, data_column::kId), address(oJob.lBottom, oJob.lRight))
       ->Sort(oSheet->Cells(oJob.lKeyRow, oJob.lKeyColumn), oJob.lOrder, oJob.lHeader, 1, false,
              excel::xlTopToBottom);
 }
@@ -37,16 +39,16 @@ bool SortDataSheet(const IXMLDOMElement& oChartElement) {
   return ReportErrors("PSChartBuilder.SortDataSheet", false, [&] {
     if (mChartType == "bubble") {
       const Block oBlock(oChartElement);
-      Sort({oBlock.S, oBlock.E, bubble_column::kSize, oBlock.S + 1, bubble_column::kSize, excel::xlDescending,
-            excel::xlYes});
+      Sort({oBlock.lHeaderRow, oBlock.lLastRow, bubble_column::kSize, oBlock.FirstRow(), bubble_column::kSize,
+            excel::xlDescending, excel::xlYes});
     } else if (mChartType == "strategic bucket") {
       const auto oSortOrder = oChartElement.selectSingleNode("sort-order");
       if (!oSortOrder) return true;
       // a missing attribute is an error here
       const bool bAscending = runtime::CStr(oSortOrder.getAttribute("sort")) == "ascending";
       const Block oBlock(oChartElement);
-      Sort({oBlock.S + 2, oBlock.E, oBlock.L, oBlock.S + 3, bucket_column::kSort,
-            bAscending ? excel::xlAscending : excel::xlDescending, excel::xlNo});
+      Sort({oBlock.FirstRow() + 1, oBlock.lLastRow, oBlock.lLastColumn, oBlock.FirstRow() + 2,
+            bucket_column::kSort, bAscending ? excel::xlAscending : excel::xlDescending, excel::xlNo});
     }
     return true;
   });
@@ -54,12 +56,13 @@ bool SortDataSheet(const IXMLDOMElement& oChartElement) {
 
 void AdjustBubbleSizes(const IXMLDOMElement& oChartNode) {
   ReportErrors("PSChartBuilder.AdjustBubbleSizes", [&] {
-    const bool bShowZero = HasStaticSetting(oChartNode, "show-zero-bubbles");
+    const bool bShowZero = HasSetting(oChartNode, "static-attributes", "show-zero-bubbles");
     const Block oBlock(oChartNode);
     const auto oSheet = SheetWithCells(kDataSheet);
-    const double dLargest = GetCellDouble(*oSheet, oBlock.S + 1, bubble_column::kSize);
+    // the sort has put the largest first
+    const double dLargest = GetCellDouble(*oSheet, oBlock.FirstRow(), bubble_column::kSize);
     const double dSmallest = dLargest <= 0 ? 1 : dLargest / 500;
-    for (std::int32_t lRow = oBlock.S + 1; lRow <= oBlock.E; ++lRow) {
+    for (std::int32_t lRow = oBlock.FirstRow(); lRow <= oBlock.lLastRow; ++lRow) {
       const double dSize = GetCellDouble(*oSheet, lRow, bubble_column::kSize);
       if (dSize > 0 ? dSize < dSmallest : bShowZero) {
         oSheet->SetCellValueAt(lRow, bubble_column::kSize, dSmallest);
@@ -73,7 +76,8 @@ void InsertBucketData(const IXMLDOMElement& oChartElement) {
     const Block oBlock(oChartElement);
     const auto oSheet = SheetWithCells(kDataSheet);
     for (const auto& [sBucket, vValue] : *mStrategicBuckets) {
-      oSheet->SetCellValueAt(oBlock.S + 1, PositionOf(mSeriesPositions.Item(sBucket)) + 2, vValue);
+      oSheet->SetCellValueAt(oBlock.FirstRow(), ColumnOfSeries(PositionOf(mSeriesPositions.Item(sBucket))),
+                             vValue);
       YieldToHost();
     }
   });

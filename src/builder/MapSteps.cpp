@@ -1,9 +1,11 @@
 #include "builder/MapSteps.h"
 
 #include "builder/BuilderVariables.h"
+#include "builder/DataBlock.h"
 #include "common/CommonFunctions.h"
 #include "common/Messages.h"
 #include "runtime/Strings.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 
@@ -36,21 +38,21 @@ std::int32_t FirstColumnOf(const IXMLDOMElement& oChartElement, const char* sGro
   return oGroup ? FirstColumn(oGroup) : lNone;
 }
 
-CPSMapInstruction SumOfColumn(std::int32_t lColumn) {
+CPSMapInstruction ColumnSumRule(std::int32_t lColumn) {
   CPSMapInstruction oInstruction;
   oInstruction.SetValueReferenceType(value_reference::kCell);
   oInstruction.SetValuePositionOrConstant(lColumn);
-  oInstruction.SetCellValueType(cell_value::kNumber);
+  oInstruction.SetCellValueType(cell::kDouble);
   return oInstruction;
 }
 
-void AddPseudoSeriesRule(std::int32_t lRowColumn, std::int32_t lSeries, std::int32_t lCellValueType,
+void AddPseudoSeriesRule(std::int32_t lRowColumn, std::int32_t lDataColumn, std::int32_t lCellValueType,
                          std::int32_t lColumn, const runtime::Variant& vConstant) {
   auto& oInstruction = mMapInstructions.emplace_back();
   oInstruction.SetRowReferenceType(reference::kByCell);
   oInstruction.SetRowReferencePosition(lRowColumn);
   oInstruction.SetColReferenceType(reference::kFixed);
-  oInstruction.SetColReferencePosition(lSeries);
+  oInstruction.SetColReferencePosition(SeriesOfColumn(lDataColumn));
   const bool bConstant = lColumn < 0;
   oInstruction.SetValueReferenceType(bConstant ? value_reference::kConstant : value_reference::kCell);
   oInstruction.SetValuePositionOrConstant(bConstant ? vConstant : runtime::Variant(lColumn));

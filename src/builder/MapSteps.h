@@ -8,6 +8,7 @@
 #include "builder/CPSMapInstruction.h"
 #include "dom/Dom.h"
 #include "runtime/Dictionary.h"
+#include "runtime/Variant.h"
 
 /// Module PSChartBuilder: the steps that the map builders of all chart types share.
 namespace plotsmith {
@@ -35,10 +36,11 @@ std::int32_t FirstColumn(const dom::IXMLDOMElement& oGroup);
 std::int32_t FirstColumnOf(const dom::IXMLDOMElement& oChartElement, const char* sGroup, std::int32_t lNone);
 
 /// A rule that adds up the numbers of one sheet column.
-CPSMapInstruction SumOfColumn(std::int32_t lColumn);
+CPSMapInstruction ColumnSumRule(std::int32_t lColumn);
 /// Adds the rule of a series that the system made up: to the row that the text in `lRowColumn` names goes
-/// what stands in `lColumn` or, if that is negative, the constant.
-void AddPseudoSeriesRule(std::int32_t lRowColumn, std::int32_t lSeries, std::int32_t lCellValueType,
+/// what stands in `lColumn` or, if that is negative, the constant. `lDataColumn` is the series' column on the
+/// data sheet.
+void AddPseudoSeriesRule(std::int32_t lRowColumn, std::int32_t lDataColumn, std::int32_t lCellValueType,
                          std::int32_t lColumn, const runtime::Variant& vConstant);
 
 /// A position as the dictionaries hold it: Empty, which a read of an unknown key leaves behind, counts as 0.
@@ -100,7 +102,7 @@ class Numbering {
   /// Gives that text the next number.
   void Number(std::string_view sName);
   /// Both, under the text as it is.
-  void Find(std::string_view sText, const std::string& sScratch) {
+  void NumberIfNew(std::string_view sText, const std::string& sScratch) {
     if (IsNew(sText, sScratch)) Number(sText);
   }
 

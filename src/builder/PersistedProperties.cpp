@@ -5,6 +5,9 @@
 
 #include "builder/BuilderVariables.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
+#include "host/excel/Constants.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 
@@ -13,21 +16,21 @@ using runtime::Variant;
 namespace {
 
 /// How a stored text becomes the variable's value.
-enum class Taking { kText, kVal, kBool };
+enum class Reading { kText, kVal, kBool };
 
 struct Property {
   std::string_view sKey;  ///< `property` of a `persist`
   Variant* vVariable;
   Variant vDefault;
-  Taking eTaking = Taking::kText;
+  Reading eReading = Reading::kText;
   /// Read-back stores an empty text where the chart has no such thing; it means the default.
   bool bEmptyIsDefault = false;
 };
 
 const auto& Properties() {
-  using enum Taking;
+  using enum Reading;
   static const std::array aProperties = {
-      Property{"legend-position", &mLegendPosition, -4152},
+      Property{"legend-position", &mLegendPosition, excel::xlLegendPositionRight},
       Property{"legend-font-name", &mLegendFontName, "Arial"},
       Property{"legend-font-style", &mLegendFontStyle, "Regular"},
       Property{"legend-font-size", &mLegendFontSize, 9, kVal},
@@ -58,14 +61,14 @@ const auto& Properties() {
   return aProperties;
 }
 
-Variant Taken(const Property& oProperty, const std::string& sValue) {
+Variant ValueOf(const Property& oProperty, const std::string& sValue) {
   const Variant vValue = sValue.empty() && oProperty.bEmptyIsDefault ? oProperty.vDefault : Variant(sValue);
-  switch (oProperty.eTaking) {
-    case Taking::kVal:
+  switch (oProperty.eReading) {
+    case Reading::kVal:
       return runtime::Val(vValue);
-    case Taking::kBool:
+    case Reading::kBool:
       return SafeBool(vValue);
-    case Taking::kText:
+    case Reading::kText:
       break;
   }
   return vValue;
@@ -80,7 +83,7 @@ void StoreProperty(const std::string& sKey, const std::string& sValue) {
     mLegendTop = runtime::CDbl(sValue);
   } else {
     for (const Property& oProperty : Properties()) {
-      if (oProperty.sKey == sKey) *oProperty.vVariable = Taken(oProperty, sValue);
+      if (oProperty.sKey == sKey) *oProperty.vVariable = ValueOf(oProperty, sValue);
     }
   }
 }

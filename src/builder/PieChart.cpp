@@ -2,7 +2,9 @@
 
 #include "builder/BuilderVariables.h"
 #include "builder/ChartAttributes.h"
+#include "builder/DataBlock.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 
 namespace plotsmith {
 
@@ -29,7 +31,7 @@ void PopulatePieChart(const IXMLDOMElement& oChartElement) {
   ReportErrors("PSChartBuilder.PopulatePieChart", [&] {
     const Block oBlock(oChartElement);
     const std::string sCategories = oBlock.Categories();
-    for (std::int32_t c = 3; c <= oBlock.L; ++c) {
+    for (std::int32_t c = data_column::kFirstSeries; c <= oBlock.lLastColumn; ++c) {
       const auto oSeries = mChart->SeriesCollection()->NewSeries();
       oSeries->SetXValues(sCategories);
       oSeries->SetValues(oBlock.Values(c));

@@ -4,9 +4,11 @@
 
 #include "builder/BubbleMap.h"
 #include "builder/BuilderVariables.h"
+#include "builder/CPSMapInstruction.h"
 #include "builder/MapSteps.h"
 #include "builder/StrategicBucketMap.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 
 namespace plotsmith {
@@ -32,12 +34,12 @@ bool BuildPivotMap(const IXMLDOMElement& oChartElement) {
         const std::string sName = GetAttributeText(oColumn, "name");
         const std::int32_t lColumn = GetAttributeLong(oColumn, "worksheet-column-number");
         if (sCategoriesIn == "columns") {
-          auto& oInstruction = mMapInstructions.emplace_back(SumOfColumn(lColumn));
+          auto& oInstruction = mMapInstructions.emplace_back(ColumnSumRule(lColumn));
           oInstruction.SetRowReferenceType(reference::kFixed);
           oInstruction.SetRowReferencePosition(oCategoryNumbering.Add(sName));
         } else {
           for (std::int32_t lRow = oRows.lFirst; lRow <= oRows.Last(); ++lRow) {
-            oCategoryNumbering.Find(GetCellText(*oSheet, lRow, lColumn, sScratch), sScratch);
+            oCategoryNumbering.NumberIfNew(GetCellText(*oSheet, lRow, lColumn, sScratch), sScratch);
           }
           lCategoryColumn = lColumn;
         }
@@ -55,7 +57,7 @@ bool BuildPivotMap(const IXMLDOMElement& oChartElement) {
             ShowLimitMessage(oChartElement);
             break;
           }
-          auto& oInstruction = mMapInstructions.emplace_back(SumOfColumn(lColumn));
+          auto& oInstruction = mMapInstructions.emplace_back(ColumnSumRule(lColumn));
           oInstruction.SetColReferenceType(reference::kFixed);
           oInstruction.SetColReferencePosition(oSeriesNumbering.Add(sName));
         } else if (sSeriesIn == "rows") {
@@ -66,7 +68,7 @@ bool BuildPivotMap(const IXMLDOMElement& oChartElement) {
               ShowLimitMessage(oChartElement);
               break;
             }
-            oSeriesNumbering.Find(GetCellText(*oSheet, lRow, lColumn, sScratch), sScratch);
+            oSeriesNumbering.NumberIfNew(GetCellText(*oSheet, lRow, lColumn, sScratch), sScratch);
           }
           lSeriesColumn = lColumn;
         }
@@ -87,7 +89,7 @@ bool BuildPivotMap(const IXMLDOMElement& oChartElement) {
         oInstruction.SetColReferencePosition(lPosition);
       }
     } else if (sCategoriesIn == "rows" && sSeriesIn == "none") {
-      auto& oInstruction = mMapInstructions.emplace_back(SumOfColumn(lValueColumn));
+      auto& oInstruction = mMapInstructions.emplace_back(ColumnSumRule(lValueColumn));
       oInstruction.SetRowReferenceType(reference::kByCell);
       oInstruction.SetRowReferencePosition(lCategoryColumn);
       oInstruction.SetColReferenceType(reference::kFixed);
@@ -103,7 +105,7 @@ bool BuildPivotMap(const IXMLDOMElement& oChartElement) {
         oInstruction.SetRowReferencePosition(lCategoryColumn);
       }
     } else if (sCategoriesIn == "rows" && sSeriesIn == "rows") {
-      auto& oInstruction = mMapInstructions.emplace_back(SumOfColumn(lValueColumn));
+      auto& oInstruction = mMapInstructions.emplace_back(ColumnSumRule(lValueColumn));
       oInstruction.SetRowReferenceType(reference::kByCell);
       oInstruction.SetRowReferencePosition(lCategoryColumn);
       oInstruction.SetColReferenceType(reference::kByCell);

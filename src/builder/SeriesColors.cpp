@@ -1,5 +1,10 @@
 #include "builder/SeriesColors.h"
 
+#include "common/ErrorBlocks.h"
+#include "runtime/Collection.h"
+#include "runtime/Ref.h"
+#include "runtime/Variant.h"
+
 namespace plotsmith {
 
 using runtime::CLng;

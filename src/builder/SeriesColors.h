@@ -1,13 +1,14 @@
 #pragma once
 
 #include <string>
-#include <utility>
 
 #include "builder/BuilderVariables.h"
 #include "builder/CPSColor.h"
 #include "builder/ChartAttributes.h"
 #include "common/CommonFunctions.h"
 #include "host/excel/Excel.h"
+#include "runtime/Collection.h"
+#include "runtime/Ref.h"
 
 namespace plotsmith {
 

@@ -1,9 +1,11 @@
 #include "builder/SourceValidation.h"
 
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 #include "common/RunVariables.h"
 #include "runtime/Strings.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 
@@ -90,6 +92,7 @@ bool ValidateSourceData(IXMLDOMElement& oChartElement) {
   });
 }
 
+// Only the name decides, wherever the headings are: a text is as good in the columns of values as a number.
 bool ValidateSourceColumn(IXMLDOMElement& oColumnElement, const IXMLDOMElement& oTableElement,
                           std::string_view /*sHeadingsIn*/) {
   return ReportErrors("PSChartBuilder.ValidateSourceColumn", false, [&] {

@@ -1,15 +1,21 @@
 #include "builder/StrategicBucketChart.h"
 
 #include <string>
+#include <vector>
 
 #include "builder/BuilderVariables.h"
 #include "builder/ChartAttributes.h"
 #include "builder/ChartLegend.h"
+#include "builder/DataBlock.h"
 #include "builder/SeriesColors.h"
 #include "builder/StrategicBucketMap.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
+#include "runtime/Ref.h"
+#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 
@@ -24,21 +30,21 @@ constexpr std::int32_t kMarkSize = 55;  // points
 
 /// The cells of one row in the buckets' columns.
 std::string BucketCells(const Block& oBlock, std::int32_t lRow) {
-  const std::string sRow = std::to_string(lRow);
-  return kDataReferencePrefix + sRow + "C" + std::to_string(bucket_column::kFirstBucket) + ":R" + sRow + "C" +
-         std::to_string(oBlock.L);
+  return DataCells(lRow, bucket_column::kFirstBucket, lRow, oBlock.lLastColumn);
 }
 
 /// The bucket names in the header row. In the newer form a column is one letter: what comes behind Z is no
 /// reference, and the host refuses it.
 std::string BucketNames(const Block& oBlock) {
-  if (HostVersion(mChart->Application()) <= kLastClassicVersion) return BucketCells(oBlock, oBlock.S);
-  const std::string sRow = std::to_string(oBlock.S);
-  std::string sNames = "=VEX_ChartData!$";
-  runtime::AppendUtf8(sNames, static_cast<char32_t>(64 + bucket_column::kFirstBucket));
-  sNames += "$" + sRow + ":$";
-  runtime::AppendUtf8(sNames, static_cast<char32_t>(64 + oBlock.L));
-  return sNames + "$" + sRow;
+  if (HostVersion(mChart->Application()) <= kLastClassicVersion)
+    return BucketCells(oBlock, oBlock.lHeaderRow);
+  const auto letter = [](std::int32_t lColumn) {
+    std::string sLetter;
+    runtime::AppendUtf8(sLetter, static_cast<char32_t>(64 + lColumn));
+    return sLetter;
+  };
+  return DataCellA1(oBlock.lHeaderRow, letter(bucket_column::kFirstBucket)) + ":$" +
+         letter(oBlock.lLastColumn) + "$" + std::to_string(oBlock.lHeaderRow);
 }
 
 bool HasManualLabels(const IXMLDOMElement& oChartElement) {
@@ -91,7 +97,7 @@ void AddBucketSeries(const Block& oBlock, const std::string& sBucketNames) {
   oSeries->SetChartType(excel::xlLineMarkers);
   oSeries->SetName(kBucketSeriesName);
   oSeries->SetXValues(sBucketNames);
-  oSeries->SetValues(BucketCells(oBlock, oBlock.S + 1));
+  oSeries->SetValues(BucketCells(oBlock, oBlock.FirstRow()));
   oSeries->SetMarkerForegroundColor(kRed);
   oSeries->SetMarkerBackgroundColor(kRed);
   oSeries->SetMarkerStyle(excel::xlMarkerStyleDash);
@@ -134,8 +140,8 @@ void PopulateStrBuckChart(const IXMLDOMElement& oChartElement) {
     const auto oSheet = SheetWithCells(kDataSheet);
     SeriesColors oColors;
     std::string sScratch;
-    for (std::int32_t lRow = oBlock.S + 2; lRow <= oBlock.E; ++lRow) {
-      const std::string sText(GetCellText(*oSheet, lRow, bucket_column::kItem, sScratch));
+    for (std::int32_t lRow = oBlock.FirstRow() + 1; lRow <= oBlock.lLastRow; ++lRow) {
+      const std::string sText(GetCellText(*oSheet, lRow, data_column::kName, sScratch));
       const std::string sName(GetCellText(*oSheet, lRow, bucket_column::kLabel, sScratch));
       const auto oSeries = mChart->SeriesCollection()->NewSeries();
       oSeries->SetChartType(excel::xlColumnStacked);
@@ -171,7 +177,9 @@ void SetStrBuckChartAttributes(const IXMLDOMElement& oChartElement) {
         YieldToHost();
       }
     }
-    return !ApplyBuiltInLegend();
+    const bool bDrawn = LegendIsDrawn();
+    if (!bDrawn) ApplyLegendVisibility();
+    return bDrawn;
   });
   if (bDrawnLegend) ApplyDrawnLegend();
 }

@@ -3,12 +3,15 @@
 #include <string>
 
 #include "builder/BuilderVariables.h"
+#include "builder/CPSMapInstruction.h"
 #include "builder/MapSteps.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
 #include "metadata/StrategicBuckets.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 
@@ -54,11 +57,12 @@ bool BuildStrBuckMap(const IXMLDOMElement& oChartElement) {
     const std::int32_t lBucketNameColumn = GetAttributeLong(oChartElement, "bucket-name-column-position");
     const std::int32_t lBucketValueColumn = GetAttributeLong(oChartElement, "bucket-value-column-position");
     mStrategicBuckets = GetStrategicBuckets(colTables->Item(sBucketTable));
+    // the keys, and not the names as the table writes them: buckets are charted in capitals
     for (const auto& oBucket : *mStrategicBuckets) oSeriesNumbering.Add(SafeString(oBucket.key));
 
     const DataRows oRows(oChartElement);
     const auto oSheet = SheetWithCells(GetAttributeText(oChartElement, "table-worksheet"));
-    std::int32_t lItemColumn = 0;
+    std::int32_t lItemColumn = 0;  // where no cell is: without categories nothing finds its row
     if (const auto oCategories = oChartElement.selectSingleNode("categories")) {
       lItemColumn = FirstColumn(oCategories);
       NumberItems(oChartElement, oRows, *oSheet, lItemColumn, oItems);
@@ -67,10 +71,10 @@ bool BuildStrBuckMap(const IXMLDOMElement& oChartElement) {
     if (const auto oSeries = oChartElement.selectSingleNode("series")) {
       if (GetAttributeText(oSeries, "headings-in") == "rows") lLabelColumn = FirstColumn(oSeries);
     }
-    AddPseudoSeriesRule(lItemColumn, 1, cell_value::kText, lLabelColumn, "[none]");
-    AddPseudoSeriesRule(lItemColumn, 2, cell_value::kNumber, FirstColumnOf(oChartElement, "sort-order", -1),
-                        1);
-    auto& oInstruction = mMapInstructions.emplace_back(SumOfColumn(lBucketValueColumn));
+    AddPseudoSeriesRule(lItemColumn, bucket_column::kLabel, cell::kText, lLabelColumn, "[none]");
+    AddPseudoSeriesRule(lItemColumn, bucket_column::kSort, cell::kDouble,
+                        FirstColumnOf(oChartElement, "sort-order", -1), 1);
+    auto& oInstruction = mMapInstructions.emplace_back(ColumnSumRule(lBucketValueColumn));
     oInstruction.SetRowReferenceType(reference::kByCell);
     oInstruction.SetRowReferencePosition(lItemColumn);
     oInstruction.SetColReferenceType(reference::kByCell);

@@ -15,6 +15,14 @@ struct GlobalOptions {
   bool force = false;  ///< also write a workbook that another program holds open
 };
 
+/// How a command ends.
+namespace exit_code {
+inline constexpr int kDone = 0;
+inline constexpr int kSaidSomething = 1;  ///< done, but Plotsmith had something to say
+inline constexpr int kUsage = 2;
+inline constexpr int kFile = 3;  ///< a workbook or the output can't be read or written; nothing was changed
+}  // namespace exit_code
+
 /// A sentence for the user, and the exit code that goes with it.
 class CommandError : public std::runtime_error {
  public:
@@ -25,6 +33,12 @@ class CommandError : public std::runtime_error {
  private:
   int exitCode_;
 };
+
+/// Sends off what was written to `out`; a CommandError where it can't be, as data that didn't arrive is no
+/// success.
+inline void Deliver(const Streams& streams) {
+  if (!streams.out.flush()) throw CommandError(exit_code::kFile, "the output can't be written.");
+}
 
 /// One verb of the command line.
 class Command {

@@ -17,32 +17,36 @@ constexpr const char* kDescription =
 
 constexpr const char* kFooter =
     "Exit codes: 0 done, 1 done but Plotsmith had something to say, 2 wrong usage,\n"
-    "3 the workbook could not be read or written, and nothing was changed.";
+    "3 the workbook or the output could not be read or written, and nothing was changed.";
 
-/// The option that an argument names in full, alone or with its value behind "="; null if it names none.
-const CLI::Option* FindOption(const CLI::App& app, const CLI::App& verb, const std::string& argument) {
-  if (!argument.starts_with('-')) return nullptr;
-  const std::string name = argument.starts_with("--") ? argument.substr(0, argument.find('=')) : argument;
-  const CLI::Option* const option = verb.get_option_no_throw(name);
-  return option ? option : app.get_option_no_throw(name);
+/// How many arguments an option takes up that `argument` names in full, alone or with its value behind "=";
+/// 0 if it names none.
+std::size_t OptionLength(const CLI::App& app, const std::string& argument) {
+  if (!argument.starts_with('-')) return 0;
+  const auto sign = argument.starts_with("--") ? argument.find('=') : argument.npos;
+  const CLI::Option* const option = app.get_option_no_throw(argument.substr(0, sign));
+  if (option == nullptr) return 0;
+  return option->get_items_expected_min() > 0 && sign == argument.npos ? 2 : 1;
 }
 
 /// A number format or a value may look like an option ("-0.0", "-h:mm"): behind the verb `format`, what isn't
 /// an option in full goes behind "--".
 std::vector<std::string> WithFormatsBehindTheOptions(std::vector<std::string> arguments,
                                                      const CLI::App& app) {
-  if (arguments.empty() || arguments[0] != "format") return arguments;
+  std::size_t at = 0;
+  while (at < arguments.size() && OptionLength(app, arguments[at]) > 0) {
+    at += OptionLength(app, arguments[at]);
+  }
+  if (at >= arguments.size() || arguments[at] != "format") return arguments;
   const CLI::App& verb = *app.get_subcommand("format");
-  std::vector<std::string> options = {"format"}, rest;
-  for (std::size_t i = 1; i < arguments.size(); ++i) {
-    if (const CLI::Option* const option = FindOption(app, verb, arguments[i])) {
-      options.push_back(arguments[i]);
-      const bool valueFollows =
-          option->get_items_expected_min() > 0 && arguments[i].find('=') == arguments[i].npos;
-      if (valueFollows && i + 1 < arguments.size()) options.push_back(arguments[++i]);
-    } else if (arguments[i] != "--" || !rest.empty()) {
-      rest.push_back(arguments[i]);
-    }
+  std::vector<std::string> options(arguments.begin(), arguments.begin() + static_cast<std::ptrdiff_t>(++at));
+  std::vector<std::string> rest;
+  while (at < arguments.size()) {
+    const std::size_t length = std::max(OptionLength(verb, arguments[at]), OptionLength(app, arguments[at]));
+    if (length == 0 && (arguments[at] != "--" || !rest.empty())) rest.push_back(arguments[at]);
+    for (std::size_t i = 0; i < length && at + i < arguments.size(); ++i)
+      options.push_back(arguments[at + i]);
+    at += std::max<std::size_t>(length, 1);
   }
   if (!rest.empty()) options.emplace_back("--");
   options.insert(options.end(), rest.begin(), rest.end());
@@ -78,19 +82,19 @@ int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
     }
     return exit_code::kUsage;
   };
-  // data that didn't arrive is no success
-  const auto delivered = [&](int code) {
-    streams.out.flush();
-    return streams.out ? code : fail("the output can't be written.", exit_code::kFile);
-  };
   try {
     arguments = WithFormatsBehindTheOptions(std::move(arguments), line.app);
     std::reverse(arguments.begin(), arguments.end());  // as the parser wants them
-    line.app.parse(arguments);
-    return delivered(run());
+    int code = exit_code::kDone;
+    try {
+      line.app.parse(arguments);
+      code = run();
+    } catch (const CLI::Success& e) {  // help and version
+      line.app.exit(e, streams.out, streams.err);
+    }
+    Deliver(streams);
+    return code;
   } catch (const CLI::ParseError& e) {
-    if (e.get_exit_code() == 0)
-      return delivered(line.app.exit(e, streams.out, streams.err));  // help and version
     return fail(std::string(e.what()) + " (try plotsmith --help)", exit_code::kUsage);
   } catch (const CommandError& e) {
     return fail(e.what(), e.ExitCode());

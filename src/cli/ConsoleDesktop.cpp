@@ -2,12 +2,11 @@
 
 #include <ctime>
 
+#include "common/PSConstants.h"
 #include "runtime/Strings.h"
 
 namespace plotsmith::cli {
 namespace {
-
-constexpr std::string_view kDefaultTitle = "Brindle Plotsmith";
 
 /// Seconds between UTC and the local time, as they are at the start.
 long LocalOffset() {
@@ -21,7 +20,7 @@ long LocalOffset() {
 std::int32_t ConsoleDesktop::MsgBox(std::string_view text, desktop::Buttons, desktop::Icon,
                                     std::string_view title) {
   const std::string line = runtime::Replace(text, "\r\n", "\n");
-  messages_.push_back(std::string(title.empty() ? kDefaultTitle : title) + ": " + line);
+  messages_.push_back(std::string(title.empty() ? kProductTitle : title) + ": " + line);
   return desktop::kOk;
 }
 

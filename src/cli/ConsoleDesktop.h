@@ -1,8 +1,6 @@
 #pragma once
 
-#include <functional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "host/desktop/Desktop.h"
@@ -20,7 +18,8 @@ class ConsoleDesktop final : public desktop::Desktop, public forms::Views {
   double Timer() override;
   void SetMousePointer(std::int32_t) override {}
 
-  /// Runs the window's events in their order; its timer ticks whenever events are handled.
+  /// Runs the window's events in their order. Its timer ticks where events are handled, if its interval is
+  /// over.
   void ShowModal(forms::Form& form) override;
 
   /// What the boxes said, a line each: title, colon, text.

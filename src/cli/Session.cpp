@@ -1,15 +1,18 @@
 #include "cli/Session.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <vector>
 
-#include "builder/BuilderVariables.h"
 #include "common/App.h"
 #include "common/CommonFunctions.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
-#include "controller/Pages.h"
+#include "controller/ResetSystem.h"
+#include "dom/Dom.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
+#include "runtime/Ref.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Variant.h"
 #include "xlsx/package/PackageError.h"
@@ -21,14 +24,6 @@ namespace fs = std::filesystem;
 
 CommandError CantRead(const std::string& path, const std::string& reason) {
   return CommandError(exit_code::kFile, "can't read \"" + path + "\": " + reason + ".");
-}
-
-void ResetSystem() {
-  ResetRunVariables();
-  ResetBuilderVariables();
-  ResetYield();
-  oPages = nullptr;
-  runtime::memoryRanOut = false;
 }
 
 /// The file beside a workbook by which another program shows that it has it open, or "".
@@ -69,8 +64,7 @@ Session::Session(std::string path, const GlobalOptions& options, const Streams& 
       desktop_(std::make_shared<ConsoleDesktop>()),
       host_(xlsx::Application::Create(VersionText(options.hostVersion))) {
   ResetSystem();
-  App.Desktop = desktop_;
-  App.Views = desktop_;
+  App = {"", desktop_, desktop_};
   if (options.journal) {
     host_->Journal().SetSink([this](std::string_view line) { streams_.out << line << '\n'; });
   }
@@ -86,7 +80,6 @@ Session::Session(std::string path, const GlobalOptions& options, const Streams& 
 }
 
 Session::~Session() {
-  // the system's references into the host must not outlive it
   ResetSystem();
   App = {};
 }
@@ -103,6 +96,7 @@ void Session::LoadTablesAndCharts() {
 }
 
 void Session::CheckWritable(const std::optional<std::string>& output) const {
+  if (output && output->empty()) throw CommandError(exit_code::kUsage, "-o wants the name of a file.");
   const std::string target = output.value_or(path_);
   const std::string lock = LockOf(fs::absolute(target));
   if (!lock.empty() && !options_.force) {
@@ -118,6 +112,7 @@ void Session::CheckTable(const std::string& id) const {
 }
 
 void Session::ShowProgress(const std::vector<runtime::Variant>& arguments) {
+  // without an argument it is the whole run that begins
   if (arguments.empty() || !colCharts) return;
   const std::string line = "Refreshing chart " + std::to_string(++chartsStarted_) + " ...";
   streams_.err << '\r' << line << std::flush;
@@ -143,6 +138,7 @@ int Session::ReportMessages() {
 
 int Session::Save(const std::optional<std::string>& output) {
   CheckDamage();
+  Deliver(streams_);  // while nothing is changed yet
   if (output || Book().Changed()) {
     try {
       Book().Save(output.value_or(path_));

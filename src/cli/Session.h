@@ -3,10 +3,12 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "cli/Command.h"
 #include "cli/ConsoleDesktop.h"
 #include "cli/Streams.h"
+#include "runtime/Variant.h"
 #include "xlsx/Application.h"
 #include "xlsx/Workbook.h"
 
@@ -42,8 +44,8 @@ class Session {
   int ReportMessages();
 
   std::string path_;
-  const GlobalOptions& options_;
-  const Streams& streams_;
+  GlobalOptions options_;
+  Streams streams_;
   std::shared_ptr<ConsoleDesktop> desktop_;
   std::shared_ptr<xlsx::Application> host_;
   int chartsStarted_ = 0;

@@ -6,6 +6,7 @@
 #include "common/App.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 
 namespace plotsmith {
@@ -44,6 +45,17 @@ std::string GetChildText(const dom::IXMLDOMElement& oElement, const char* sChild
 
 std::int32_t GetAttributeLong(const dom::IXMLDOMElement& oElement, const char* sAttribute) {
   return runtime::CLng(GetAttributeText(oElement, sAttribute));
+}
+
+bool HasSetting(const dom::IXMLDOMElement& oChartElement, const char* sGroup, std::string_view sSetting) {
+  const auto aAttributes = oChartElement.selectNodes((std::string(sGroup) + "/attribute").c_str());
+  return std::any_of(aAttributes.begin(), aAttributes.end(), [&](const dom::IXMLDOMElement& oAttribute) {
+    return GetAttributeText(oAttribute, "setting") == sSetting;
+  });
+}
+
+void RemoveChild(dom::IXMLDOMElement& oElement, const char* sChild) {
+  if (auto oChild = oElement.selectSingleNode(sChild)) oElement.removeChild(oChild);
 }
 
 // The parser neither validates nor resolves what lies outside the text, keeps white space, and is
@@ -159,6 +171,7 @@ void ResetYield() { lLastYieldTime = 0; }
 
 std::string FormatSampleNumber(const std::string& sNumberFormat) {
   return ValueOr(std::string("(invalid format)"), [&] {
+    // beside the mark of the sheet, where nobody looks
     const auto oCell = oWorkbook->Worksheets()->Item(kDefinitionsSheet)->Cells(1, 2);
     oCell->SetValue(12345.6789);
     oCell->SetNumberFormat(sNumberFormat);

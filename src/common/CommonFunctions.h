@@ -1,8 +1,6 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
-#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -12,6 +10,7 @@
 #include "host/excel/Excel.h"
 #include "runtime/Collection.h"
 #include "runtime/Ref.h"
+#include "runtime/RuntimeError.h"
 #include "runtime/Variant.h"
 
 namespace plotsmith {
@@ -39,6 +38,10 @@ std::string GetAttributeText(const dom::IXMLDOMElement& oElement, const char* sA
 std::string GetChildText(const dom::IXMLDOMElement& oElement, const char* sChild);
 /// The attribute as a whole number; error 13 if it isn't one.
 std::int32_t GetAttributeLong(const dom::IXMLDOMElement& oElement, const char* sAttribute);
+/// Whether an `attribute` of the group ("dynamic-attributes" or "static-attributes") has the setting.
+bool HasSetting(const dom::IXMLDOMElement& oChartElement, const char* sGroup, std::string_view sSetting);
+/// Takes the first child element of that name away, if there is one.
+void RemoveChild(dom::IXMLDOMElement& oElement, const char* sChild);
 dom::IXMLDOMDocument2 NewXMLDocument();
 
 /// The sheets of `oWorkbook` by name, ignoring case.

@@ -2,12 +2,13 @@
 
 #include <new>
 #include <type_traits>
-#include <utility>
 
 #include "common/Messages.h"
 #include "runtime/RuntimeError.h"
 
-/// The three shapes that dealing with an error has in this system. There is no other try in it.
+/// The shapes that dealing with an error has in this system: error blocks (ReportErrors, HandleErrors),
+/// statements that may fail one by one (IgnoreErrors), reads that turn failure into a value (ValueOr). There
+/// is no other try in it.
 namespace plotsmith {
 
 /// A procedure's error block: an error skips the rest of `body`, is shown under the procedure's name, and

@@ -3,6 +3,7 @@
 #include "common/App.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "host/desktop/Desktop.h"
 #include "runtime/Strings.h"
 
 namespace plotsmith {

@@ -12,6 +12,13 @@ inline constexpr const char* kDefinitionsSheetMark = "Plotsmith Version 2.0";
 /// The very hidden sheet of the pivoted data: blocks of rows, one a chart.
 inline constexpr const char* kDataSheet = "VEX_ChartData";
 
+/// The columns of a block: the chart's id in each row, the name of the row's category, then the series.
+namespace data_column {
+inline constexpr std::int32_t kId = 1;
+inline constexpr std::int32_t kName = 2;
+inline constexpr std::int32_t kFirstSeries = 3;
+}  // namespace data_column
+
 inline constexpr const char* kRefreshStartedMacro = "VEXEvents.VEXChartRefreshStarted";
 inline constexpr const char* kRefreshCompleteMacro = "VEXEvents.VEXChartRefreshComplete";
 

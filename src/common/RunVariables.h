@@ -8,7 +8,8 @@
 #include "runtime/Collection.h"
 #include "runtime/Ref.h"
 
-/// The state of a run: one call from the host. Nothing else holds any.
+/// The state of a run: one call from the host. What is known of the chart being built is in
+/// BuilderVariables.h.
 namespace plotsmith {
 
 using DocumentCollection = runtime::Collection<dom::IXMLDOMDocument2>;

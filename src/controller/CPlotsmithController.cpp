@@ -1,11 +1,16 @@
 #include "controller/CPlotsmithController.h"
 
+#include <vector>
+
 #include "builder/ChartRefreshDriver.h"
 #include "common/App.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
+#include "common/Messages.h"
 #include "common/RunVariables.h"
 #include "controller/PSController.h"
-#include "metadata/ChartDefinitionOperations.h"
+#include "metadata/ColumnRenaming.h"
+#include "runtime/Ref.h"
 
 namespace plotsmith {
 

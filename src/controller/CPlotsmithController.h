@@ -1,6 +1,9 @@
 #pragma once
 
+#include <vector>
+
 #include "controller/IPlotsmithController.h"
+#include "runtime/Ref.h"
 
 namespace plotsmith {
 

@@ -6,10 +6,14 @@
 
 #include "builder/ChartRefreshDriver.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
+#include "common/Messages.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
+#include "runtime/Ref.h"
+#include "runtime/RuntimeError.h"
 
 namespace plotsmith {
 

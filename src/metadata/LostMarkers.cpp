@@ -7,6 +7,7 @@
 #include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "runtime/Ref.h"
 
 namespace plotsmith {
 
@@ -34,7 +35,7 @@ std::string ShownID(const Ref<excel::Chart>& oChart, excel::Worksheet& oDataShee
   const std::int32_t lRow = DataRowOf(oSeriesCollection->Item(1)->Formula());
   if (lRow == 0) return "";
   std::string sScratch;
-  return std::string(GetCellText(oDataSheet, lRow, 1, sScratch));
+  return std::string(GetCellText(oDataSheet, lRow, data_column::kId, sScratch));
 }
 
 /// The first shape of a type that has lost its alternative text and satisfies `isIt`; Nothing if there is

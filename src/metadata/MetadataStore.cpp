@@ -5,11 +5,15 @@
 #include <vector>
 
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
+#include "common/Messages.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
 #include "metadata/LostMarkers.h"
 #include "metadata/StrategicBuckets.h"
-#include "readback/ChartIdentity.h"
+#include "readback/ChartReadBack.h"
+#include "runtime/Collection.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 
@@ -44,20 +48,6 @@ bool RowHoldsChart(std::int32_t lRow, const std::string& sText, const std::strin
     aReadRows[lIndex] = std::move(oRead);
   }
   return aReadRows[lIndex].bParses && aReadRows[lIndex].sID == sID;
-}
-
-/// The shape of a type that bears the id, on one sheet; the first one wins. A definition without an id has no
-/// shape: it must not lay hands on a chart of somebody else's that has no alternative text.
-Ref<excel::Shape> FindShape(const Ref<excel::Worksheet>& oSheet, std::int32_t lType, const std::string& sID) {
-  if (sID.empty()) return nullptr;
-  const auto oShapes = oSheet->Shapes();
-  const std::int32_t lCount = oShapes->Count();
-  for (std::int32_t i = 1; i <= lCount; ++i) {
-    auto oShape = oShapes->Item(i);
-    if (oShape->Type() == lType && oShape->AlternativeText() == sID) return oShape;
-    YieldToHost();
-  }
-  return nullptr;
 }
 
 /// Loads one row; False if it has no place on the sheet any more.
@@ -161,6 +151,18 @@ void SaveChartDefinition(const IXMLDOMDocument2& oDoc) {
     }
     oSheet->SetCellValueAt(lRow, 1, oDoc.xml());
   });
+}
+
+Ref<excel::Shape> FindShape(const Ref<excel::Worksheet>& oSheet, std::int32_t lType, const std::string& sID) {
+  if (sID.empty()) return nullptr;
+  const auto oShapes = oSheet->Shapes();
+  const std::int32_t lCount = oShapes->Count();
+  for (std::int32_t i = 1; i <= lCount; ++i) {
+    auto oShape = oShapes->Item(i);
+    if (oShape->Type() == lType && oShape->AlternativeText() == sID) return oShape;
+    YieldToHost();
+  }
+  return nullptr;
 }
 
 std::string FindChartSheet(const std::string& sID) {

@@ -22,6 +22,11 @@ void ValidateChartsAgainstTables();
 /// Writes a document to its row, or behind the last one if it is new.
 void SaveChartDefinition(const dom::IXMLDOMDocument2& oDoc);
 
+/// The shape of a type (MsoShapeType) that bears the id, on one sheet; the first one wins. A definition
+/// without an id has no shape: it must not lay hands on a chart of somebody else's that has no alternative
+/// text.
+runtime::Ref<excel::Shape> FindShape(const runtime::Ref<excel::Worksheet>& oSheet, std::int32_t lType,
+                                     const std::string& sID);
 /// The first worksheet that has the chart, or "".
 std::string FindChartSheet(const std::string& sID);
 runtime::Ref<excel::Chart> FindChartObject(const std::string& sID, const std::string& sSheetName);

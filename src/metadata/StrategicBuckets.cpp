@@ -1,7 +1,10 @@
 #include "metadata/StrategicBuckets.h"
 
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
+#include "runtime/Ref.h"
 #include "runtime/Strings.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 
@@ -55,7 +58,7 @@ Ref<Dictionary> GetStrategicBuckets(const IXMLDOMDocument2& oTableDoc) {
     for (std::int32_t lRow = lFirst; lRow <= lLast; ++lRow) {
       const std::string sKey = runtime::UCase(GetCellText(*oSheet, lRow, lLeft, sScratch));
       runtime::Variant& vTotal = oBuckets->Item(sKey);
-      vTotal = runtime::CDbl(vTotal) + GetCellDouble(*oSheet, lRow, lLeft + 1);
+      vTotal = runtime::Sum(runtime::CDbl(vTotal), GetCellDouble(*oSheet, lRow, lLeft + 1));
       YieldToHost();
     }
     return oBuckets;

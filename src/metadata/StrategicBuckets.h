@@ -1,10 +1,9 @@
 #pragma once
 
-#include <memory>
-
 #include "common/RunVariables.h"
 #include "dom/Dom.h"
 #include "runtime/Dictionary.h"
+#include "runtime/Ref.h"
 
 /// Module PSFunctions: the second table of a strategic bucket chart.
 namespace plotsmith {

@@ -3,8 +3,10 @@
 #include <array>
 
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/RunVariables.h"
 #include "runtime/Strings.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 
@@ -56,8 +58,8 @@ class TableBuilder {
   std::int32_t lNumbers_ = 0;
 };
 
-/// True for a value that makes its column a label column: any but a number, a text that reads as one, and
-/// blanks.
+/// True for a value that makes its column a label column: any but a number, a Boolean, a text that reads as a
+/// number, and blanks.
 bool IsLabelValue(const excel::CellValue& vValue) {
   using Kind = excel::CellValue::Kind;
   switch (vValue.kind) {

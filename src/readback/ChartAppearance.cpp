@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <string>
-#include <vector>
 
 #include "common/CommonFunctions.h"
 #include "common/ErrorBlocks.h"
 #include "runtime/Dictionary.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith {
 
@@ -162,7 +162,7 @@ void RevEngineerAutoPersistence(const Ref<excel::Chart>& oChart, IXMLDOMDocument
   // the name under which a failure here has always been reported
   ReportErrors("PSRevEngineerChart.RevEngineerNumberFormat", [&] {
     auto oChartElement = oChartDoc.documentElement();
-    if (auto oOld = oChartElement.selectSingleNode("auto-persistence")) oChartElement.removeChild(oOld);
+    RemoveChild(oChartElement, "auto-persistence");
     oChartElement.appendChild(oChartDoc.createElement("auto-persistence"));
     RevEngineerAxisLabels(oChart, oChartDoc);
     RevEngineerChartLegend(oChart, oChartDoc);
@@ -185,7 +185,7 @@ void RevEngineerAxisLabels(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& oC
     auto oOldAxes = oChartElement.selectSingleNode("axes");
     ReadDefinition(oLabelAxis, oOldAxes);
     ReadDefinition(oValueAxis, oOldAxes);
-    if (oOldAxes) oChartElement.removeChild(oOldAxes);
+    RemoveChild(oChartElement, "axes");
     ReadChart(oValueAxis, oChart);
     ReadChart(oLabelAxis, oChart);
     auto oAxes = oChartDoc.createElement("axes");
@@ -267,10 +267,10 @@ void RevEngineerChartDataLabels(const Ref<excel::Chart>& oChart, IXMLDOMDocument
 
     auto oChartElement = oChartDoc.documentElement();
     std::string sManualLabels;
-    if (auto oOld = oChartElement.selectSingleNode("data-labels")) {
+    if (const auto oOld = oChartElement.selectSingleNode("data-labels")) {
       sManualLabels = GetAttributeText(oOld, "manual-labels");
-      oChartElement.removeChild(oOld);
     }
+    RemoveChild(oChartElement, "data-labels");
     auto oDataLabels = oChartDoc.createElement("data-labels");
     if (!sManualLabels.empty()) oDataLabels.setAttribute("manual-labels", sManualLabels);
     oChartElement.appendChild(oDataLabels);

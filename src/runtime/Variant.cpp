@@ -128,6 +128,38 @@ std::string NumberText(double value) {
 
 namespace {
 
+/// The number whose digits begin at `i`, with `commas` among them or not; infinity if it is too large, and
+/// nothing without a digit. `i` moves behind it. An exponent is part of it only if that has digits.
+std::optional<double> NumberAt(std::string_view text, std::size_t& i, bool commas) {
+  const auto at = [&](std::size_t p) { return p < text.size() ? text[p] : '\0'; };
+  std::string decimal;
+  bool digits = false;
+  for (; IsDigit(at(i)) || (commas && digits && at(i) == ','); ++i) {
+    if (at(i) == ',') continue;
+    decimal += at(i);
+    digits = true;
+  }
+  if (at(i) == '.') {
+    decimal += at(i++);
+    for (; IsDigit(at(i)); ++i) {
+      decimal += at(i);
+      digits = true;
+    }
+  }
+  if (!digits) return {};
+  if (i < text.size() && std::string_view("eEdD").find(text[i]) != std::string_view::npos) {
+    const bool sign = at(i + 1) == '+' || at(i + 1) == '-';
+    std::size_t j = sign ? i + 2 : i + 1;
+    if (IsDigit(at(j))) {
+      decimal += at(i + 1) == '-' ? "e-" : "e";
+      for (; IsDigit(at(j)); ++j) decimal += at(j);
+      i = j;
+    }
+  }
+  if (decimal[0] == '.') decimal.insert(0, "0");
+  return DecimalValue(decimal);
+}
+
 /// The number that a text stands for; infinity if it stands for one that is too large.
 std::optional<double> ReadNumber(std::string_view text) {
   std::size_t i = 0;
@@ -155,33 +187,8 @@ std::optional<double> ReadNumber(std::string_view text) {
     return RadixValue(rest);
   }
 
-  std::string decimal;
-  bool digits = false;
-  for (; IsDigit(at(i)) || (at(i) == ',' && digits); ++i) {
-    if (at(i) == ',') continue;
-    decimal += at(i);
-    digits = true;
-  }
-  if (at(i) == '.') {
-    decimal += at(i++);
-    for (; IsDigit(at(i)); ++i) {
-      decimal += at(i);
-      digits = true;
-    }
-  }
-  if (!digits) return {};
-  if (std::string_view("eEdD").find(at(i)) != std::string_view::npos && at(i) != '\0') {
-    std::size_t j = i + 1;
-    std::string exponent = "e";
-    if (at(j) == '+' || at(j) == '-') {
-      if (at(j) == '-') exponent += '-';
-      ++j;
-    }
-    if (!IsDigit(at(j))) return {};
-    for (; IsDigit(at(j)); ++j) exponent += at(j);
-    decimal += exponent;
-    i = j;
-  }
+  const auto number = NumberAt(text, i, true);
+  if (!number) return {};
 
   for (bool again = true; again;) {  // and behind
     skipSpace();
@@ -195,9 +202,7 @@ std::optional<double> ReadNumber(std::string_view text) {
     }
   }
   if (parenthesis || i != text.size()) return {};
-  if (decimal[0] == '.') decimal.insert(0, "0");
-  const double value = DecimalValue(decimal);
-  return minus ? -value : value;
+  return minus ? -*number : *number;
 }
 
 }  // namespace
@@ -228,39 +233,23 @@ double Val(std::string_view source) {
     if (length < text.size() && text[length] == '&') ++length;
     return RadixValue(std::string_view(text).substr(1, length - 1)).value_or(0);
   }
-  std::size_t i = 0;
-  const auto at = [&](std::size_t p) { return p < text.size() ? text[p] : '\0'; };
-  const bool minus = at(0) == '-';
-  if (at(0) == '-' || at(0) == '+') ++i;
-  std::string decimal;
-  bool digits = false;
-  for (; IsDigit(at(i)); ++i) decimal += at(i), digits = true;
-  if (at(i) == '.') {
-    decimal += at(i++);
-    for (; IsDigit(at(i)); ++i) decimal += at(i), digits = true;
-  }
-  if (!digits) return 0;
-  if (at(i) != '\0' && std::string_view("eEdD").find(at(i)) != std::string_view::npos) {
-    std::size_t j = i + 1;
-    std::string exponent = "e";
-    if (at(j) == '+' || at(j) == '-') {
-      if (at(j) == '-') exponent += '-';
-      ++j;
-    }
-    if (IsDigit(at(j))) {
-      for (; IsDigit(at(j)); ++j) exponent += at(j);
-      decimal += exponent;
-    }
-  }
-  if (decimal[0] == '.') decimal.insert(0, "0");
-  const double value = DecimalValue(decimal);
-  if (!std::isfinite(value)) throw RuntimeError(error::kOverflow);
-  return minus ? -value : value;
+  const bool minus = text.starts_with('-');
+  std::size_t i = minus || text.starts_with('+') ? 1 : 0;
+  const auto number = NumberAt(text, i, false);
+  if (!number) return 0;
+  if (!std::isfinite(*number)) throw RuntimeError(error::kOverflow);
+  return minus ? -*number : *number;
 }
 
 double Val(const Variant& value) {
   if (const auto* number = value.If<double>()) return *number;
   return Val(std::string_view(CStr(value)));
+}
+
+double Sum(double a, double b) {
+  const double sum = a + b;
+  if (!std::isfinite(sum)) throw RuntimeError(error::kOverflow);
+  return sum;
 }
 
 std::string CStr(const Variant& value) {

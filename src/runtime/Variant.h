@@ -104,6 +104,9 @@ double Val(std::string_view text);
 double Val(const Variant& value);
 ///@}
 
+/// The language's addition; error 6 for a sum beyond all numbers.
+double Sum(double a, double b);
+
 /// A number as the language writes it: 15 digits, a point, "1E+50" where it would be longer than that.
 std::string NumberText(double value);
 

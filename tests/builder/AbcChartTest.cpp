@@ -4,7 +4,7 @@
 #include "builder/BuilderVariables.h"
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
-#include "tests/support/DrawingTest.h"
+#include "tests/support/ChartCallsTest.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith {
@@ -14,10 +14,10 @@ using test::Definition;
 using S = std::string;
 using test::Lines;
 
-class AbcChartTest : public test::DrawingTest {
+class AbcChartTest : public test::ChartCallsTest {
  protected:
   Lines ChartCalls(const Definition& definition, const S& version = "16.0") {
-    return test::DrawingTest::ChartCalls(test::SalesBook({definition}), version);
+    return test::ChartCallsTest::ChartCalls(test::SalesBook({definition}), version);
   }
 };
 
@@ -124,11 +124,7 @@ TEST_F(AbcChartTest, WhatAreaAndColumnChartsDoOtherwise) {
 }
 
 TEST_F(AbcChartTest, SettingsMakeTheType) {
-  const auto settings = [](std::initializer_list<const char*> names) {
-    S xml = "<dynamic-attributes>";
-    for (const char* name : names) xml += "<attribute setting=\"" + S(name) + "\"/>";
-    return xml + "</dynamic-attributes>";
-  };
+  const auto settings = [](std::initializer_list<const char*> names) { return test::Settings(names); };
   const S plain = settings({}), d3 = settings({"3D"}), st = settings({"stacked"}),
           d3st = settings({"3D", "stacked"}), full = settings({"stacked", "100%"}),
           d3full = settings({"3D", "stacked", "100%"});

@@ -3,7 +3,7 @@
 #include "builder/BuilderVariables.h"
 #include "builder/ChartRefreshDriver.h"
 #include "common/RunVariables.h"
-#include "tests/support/DrawingTest.h"
+#include "tests/support/ChartCallsTest.h"
 #include "tests/support/FamilyBooks.h"
 
 namespace plotsmith {
@@ -14,6 +14,7 @@ using test::BubbleBook;
 using test::BubbleDefinition;
 using test::Definition;
 using test::Lines;
+using test::Settings;
 using test::With;
 using S = std::string;
 
@@ -53,7 +54,7 @@ void AppendPaint(Lines& lines, int number, const S& text) {
   lines.push_back(series + "DataLabels.Position = -4108");
 }
 
-class BubbleChartTest : public test::DrawingTest {
+class BubbleChartTest : public test::ChartCallsTest {
  protected:
   /// The calls up to the drawing of the legend, without what colours they set.
   Lines Calls(const test::PlainBook& book, const S& version = "16.0") {
@@ -70,8 +71,8 @@ TEST_F(BubbleChartTest, OrderOfCalls) {
   Definition definition = BubbleDefinition();
   definition.attributes = "table-id=\"Data1\" title=\"World\"";
   definition.rest +=
-      "<axes><axis type=\"label\" label=\"Wealth\"/><axis type=\"value\" label=\"\"/></axes>"
-      "<dynamic-attributes><attribute setting=\"3D\"/></dynamic-attributes>";
+      S("<axes><axis type=\"label\" label=\"Wealth\"/><axis type=\"value\" label=\"\"/></axes>") +
+      Settings({"3D"});
   const auto book = BubbleBook(
       {{"Ada", "Red", 1, 2, 10}, {"Bo", "Blue", 3, 4, 30}, {" Cy ", "Red ", 5, 6, 20}}, definition);
   Lines expected = {"Chart.ChartArea.AutoScaleFont = False", "Chart.ChartType = 15"};
@@ -201,17 +202,12 @@ TEST_F(BubbleChartTest, TypeAndLegendByTheDefinition) {
     definition.rest += settings;
     return Calls(BubbleBook({{"A", "Red", 1, 2, 30}}, definition), "11.0");
   };
-  const auto settings = [](std::initializer_list<const char*> names) {
-    S xml = "<dynamic-attributes>";
-    for (const char* name : names) xml += "<attribute setting=\"" + S(name) + "\"/>";
-    return xml + "</dynamic-attributes>";
-  };
   const S rows = BubbleDefinition().series, none = "<series headings-in=\"none\"/>";
-  const std::pair<S, Lines> types[] = {{settings({}), {}},
-                                       {settings({"3D"}), {"Chart.ChartType = 87"}},
-                                       {settings({"quadrants"}), {"Chart.ChartType = 15"}},
-                                       {settings({"quadrants", "3D"}), {"Chart.ChartType = 87"}},
-                                       {settings({"quadrants", "quadrants"}), {}}};
+  const std::pair<S, Lines> types[] = {{Settings({}), {}},
+                                       {Settings({"3D"}), {"Chart.ChartType = 87"}},
+                                       {Settings({"quadrants"}), {"Chart.ChartType = 15"}},
+                                       {Settings({"quadrants", "3D"}), {"Chart.ChartType = 87"}},
+                                       {Settings({"quadrants", "quadrants"}), {}}};
   for (const auto& [xml, lines] : types) {
     Lines expected = {"Chart.ChartType = -4169", "Chart.ChartType = 15"};
     expected.insert(expected.end(), lines.begin(), lines.end());

@@ -99,9 +99,7 @@ TEST_F(BubbleDataTest, TinyBubblesAreRaisedAndEmptyOnesIfTheChartShowsThem) {
     double first, second, third;
     S without, with;
   };
-  const S option =
-      "<static-attributes><attribute setting=\"quadrants\"/>"
-      "<attribute setting=\"show-zero-bubbles\"/></static-attributes>";
+  const S option = test::Settings({"quadrants", "show-zero-bubbles"}, "static-attributes");
   for (const Case& c :
        {Case{1000, 1, 0, "1000\n2\n0", "1000\n2\n2"}, Case{1000, 2, 1.5, "1000\n2\n2", "1000\n2\n2"},
         Case{0, 0, 0, "0\n0\n0", "1\n1\n1"}, Case{10, -3, -4, "10\n-3\n-4", "10\n0.02\n0.02"},

@@ -1,6 +1,6 @@
 #include "builder/ChartRefreshDriver.h"
 #include "common/RunVariables.h"
-#include "tests/support/DrawingTest.h"
+#include "tests/support/ChartCallsTest.h"
 #include "tests/support/FamilyBooks.h"
 
 namespace plotsmith {
@@ -15,13 +15,11 @@ using S = std::string;
 
 Definition WithSettings(std::initializer_list<const char*> names) {
   Definition definition = BubbleDefinition();
-  definition.rest += "<static-attributes>";
-  for (const char* name : names) definition.rest += "<attribute setting=\"" + S(name) + "\"/>";
-  definition.rest += "</static-attributes>";
+  definition.rest += test::Settings(names, "static-attributes");
   return definition;
 }
 
-class BubbleQuadrantsTest : public test::DrawingTest {
+class BubbleQuadrantsTest : public test::ChartCallsTest {
  protected:
   /// The calls of the quadrants: all from the first that shows an axis or scales one.
   Lines Quadrants(const Lines& calls) {

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "builder/BuilderVariables.h"
-#include "tests/support/DrawingTest.h"
+#include "tests/support/ChartCallsTest.h"
 #include "tests/support/FamilyBooks.h"
 
 namespace plotsmith {
@@ -16,7 +16,7 @@ using S = std::string;
 
 const S kManual = "<data-labels manual-labels=\"yes\"/>";
 
-class BucketChartTest : public test::DrawingTest {};
+class BucketChartTest : public test::ChartCallsTest {};
 
 TEST_F(BucketChartTest, OrderOfCalls) {
   Definition definition = BucketDefinition();

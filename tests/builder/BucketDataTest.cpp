@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <vector>
 
 #include "builder/BuilderVariables.h"
 #include "builder/DataSheetFinishing.h"
@@ -110,6 +111,15 @@ TEST_F(BucketDataTest, AnItemAloneIsSortedToo) {
   EXPECT_TRUE(SortDataSheet(chart_));
   EXPECT_EQ(BlockNow(), kHeader + "Alpha|New|2|10|");
   EXPECT_TRUE(Messages().empty());
+}
+
+TEST_F(BucketDataTest, BucketsBeyondAllNumbersAreAnOverflow) {
+  test::PlainBook book = BucketBook(BucketDefinition());
+  for (const int row : {3, 5}) book.Sheet("Buckets").rows[row][1] = 1E+308;
+  Open(book);
+  EXPECT_EQ(Block(BucketDefinition()), "(no map)");
+  ASSERT_FALSE(Messages().empty());
+  EXPECT_EQ(Messages()[0], "Brindle Plotsmith: PSFunctions.GetStrategicBuckets\nOverflow");
 }
 
 TEST_F(BucketDataTest, WhatKeepsAChartFromBeingSorted) {

@@ -2,7 +2,7 @@
 
 #include "common/RunVariables.h"
 #include "runtime/Strings.h"
-#include "tests/support/DrawingTest.h"
+#include "tests/support/ChartCallsTest.h"
 #include "tests/support/FamilyBooks.h"
 #include "xlsx/Worksheet.h"
 
@@ -20,7 +20,7 @@ using S = std::string;
 const S kHide =
     "<auto-persistence><persist property=\"legend-visibility\" value=\"hide\"/></auto-persistence>";
 
-class ChartLegendTest : public test::DrawingTest {
+class ChartLegendTest : public test::ChartCallsTest {
  protected:
   /// What is asked of shapes, without their names and paths: "Left = 8".
   static Lines ShapeCalls(const Lines& calls) {

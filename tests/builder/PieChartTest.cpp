@@ -1,10 +1,11 @@
-#include "tests/support/DrawingTest.h"
+#include "tests/support/ChartCallsTest.h"
 
 namespace plotsmith {
 namespace {
 
 using test::Definition;
 using test::Lines;
+using test::Settings;
 using test::With;
 using S = std::string;
 
@@ -15,13 +16,7 @@ Definition PieDefinition(const S& rest) {
   return definition;
 }
 
-S Settings(std::initializer_list<const char*> names) {
-  S xml = "<dynamic-attributes>";
-  for (const char* name : names) xml += "<attribute setting=\"" + S(name) + "\"/>";
-  return xml + "</dynamic-attributes>";
-}
-
-class PieChartTest : public test::DrawingTest {
+class PieChartTest : public test::ChartCallsTest {
  protected:
   Lines Calls(const S& rest) { return ChartCalls(test::SalesBook({PieDefinition(rest)})); }
 };

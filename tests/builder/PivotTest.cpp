@@ -1,12 +1,5 @@
-#include <algorithm>
-
 #include "builder/BuilderVariables.h"
-#include "builder/SourceValidation.h"
-#include "common/CommonFunctions.h"
-#include "common/RunVariables.h"
-#include "metadata/TableDefinitions.h"
 #include "tests/support/BlockTest.h"
-#include "xlsx/Worksheet.h"
 
 namespace plotsmith {
 namespace {
@@ -16,10 +9,7 @@ using test::Definition;
 using test::PlainBook;
 using S = std::string;
 
-class PivotTest : public test::BlockTest {
- protected:
-  void OpenSales() { Open(test::SalesBook({})); }
-};
+class PivotTest : public test::BlockTest {};
 
 TEST_F(PivotTest, TheFiveWaysToLayATableOut) {
   struct Case {
@@ -47,7 +37,7 @@ TEST_F(PivotTest, TheFiveWaysToLayATableOut) {
       {"values without a column", region, none, "<values/>", "(no map)"},
       {"a heading twice", Columns("categories", {"Amount", "AMOUNT"}), none, "", "(no map)"},
   };
-  OpenSales();
+  Open(test::SalesBook({}));
   for (const Case& c : cases) {
     SCOPED_TRACE(c.what);
     EXPECT_EQ(Block({"VEX_Chart1", "column", "table-id=\"Data1\"", c.categories, c.series, c.values}),
@@ -61,71 +51,6 @@ TEST_F(PivotTest, TheFiveWaysToLayATableOut) {
   EXPECT_EQ(Messages()[2],
             "Brindle Plotsmith: PSChartBuilder.BuildPivotMap\nThis key is already associated with an element "
             "of this collection");
-}
-
-TEST_F(PivotTest, ValidationCarriesTheTablesGeometryIntoTheDefinition) {
-  OpenSales();
-  RetrieveTableDefinitions();
-  auto document = NewXMLDocument();
-  ASSERT_TRUE(
-      document.loadXML("<chart name=\"C\" table-id=\"Data1\"><categories><column name=\"REGION\"/>"
-                       "<column name=\"Nowhere\"/><column name=\"Cost\"/></categories></chart>"));
-  auto chart = document.documentElement();
-  EXPECT_FALSE(ValidateSourceData(chart));
-  EXPECT_EQ(Messages().back(),
-            "Brindle Plotsmith: Chart 'C' has become unavailable because column 'Nowhere'\nin table "
-            "'Data1' is missing or contains invalid data.");
-  EXPECT_EQ(document.xml(),
-            "<chart name=\"C\" table-id=\"Data1\" table-worksheet=\"Data1\" table-top-row=\"1\" "
-            "table-left-column=\"1\" "
-            "table-height=\"5\" header-row-count=\"1\"><categories><column name=\"REGION\" "
-            "worksheet-column-number=\"1\"/>"
-            "<column name=\"Nowhere\"/><column name=\"Cost\"/></categories></chart>")
-      << "what was carried before the failure stays, what lies behind it isn't touched";
-}
-
-TEST_F(PivotTest, WhatMakesAChartUnavailable) {
-  PlainBook book = test::SalesBook({});
-  test::PlainSheet bare{"Bare"};
-  bare.rows = {{S("Only a title")}, {}, {S("Region"), S("Amount")}};
-  test::PlainSheet buckets{"Buckets"};
-  buckets.rows = {{S("B")}, {}, {S("Product"), S("Amount")}, {S("Widget"), 5.0}};
-  test::PlainSheet strangers = buckets;
-  strangers.name = "Strangers";
-  strangers.rows[2] = {S("Product"), S("Weight")};
-  book.sheets.insert(book.sheets.end(), {bare, buckets, strangers});
-  book.names = {{"VEX_TableRangeBare", "Bare!$A$1:$B$3"},
-                {"VEX_SB1", "Buckets!$A$1:$B$4"},
-                {"VEX_SB2", "Strangers!$A$1:$B$4"}};
-  Open(book);
-  RetrieveTableDefinitions();
-  const std::pair<const char*, const char*> cases[] = {
-      {"table-id=\"Gone\"",
-       "Chart 'C' has become unavailable because its source table no longer exists in this workbook."},
-      {"table-id=\"VEX_TableRangeBare\"",
-       "Chart 'C' has become unavailable because table 'Only a title' \ncurrently contains no data.The chart "
-       "will reappear "
-       "the next time the table is refreshed with one or more rows of data."},
-      {"table-id=\"Data1\" strategic-bucket-table-id=\"Gone\"",
-       "Chart 'C' has become unavailable because its strategic bucket table no longer exists in this "
-       "workbook."},
-      {"table-id=\"Data1\" strategic-bucket-table-id=\"VEX_SB2\"",
-       "Chart 'C' has become unavailable because its strategic bucket table doesn't match the source table."},
-      {"table-id=\"Data1\" strategic-bucket-table-id=\"VEX_SB1\"", ""},
-      {"table-id=\"Data1\" strategic-bucket-table-id=\"\"", ""}};
-  for (const auto& [attributes, message] : cases) {
-    auto document = NewXMLDocument();
-    ASSERT_TRUE(document.loadXML("<chart name=\"C\" " + S(attributes) + "/>"));
-    auto chart = document.documentElement();
-    const std::size_t before = Messages().size();
-    EXPECT_EQ(ValidateSourceData(chart), S(message).empty()) << attributes;
-    const S said = Messages().size() > before ? Messages().back() : "";
-    EXPECT_EQ(said, S(message).empty() ? "" : "Brindle Plotsmith: " + S(message));
-    if (S(attributes).find("VEX_SB1") != S::npos) {
-      EXPECT_EQ(GetAttributeText(chart, "bucket-name-column-position"), "2");
-      EXPECT_EQ(GetAttributeText(chart, "bucket-value-column-position"), "3");
-    }
-  }
 }
 
 TEST_F(PivotTest, TheLimitOfSeriesIsMetOnTwoRoads) {
@@ -179,77 +104,6 @@ TEST_F(PivotTest, TheLimitOfSeriesIsMetOnTwoRoads) {
   ASSERT_EQ(Messages().size() - before, 1u);
   EXPECT_EQ(Messages().back(), test::kLimitMessage);
   EXPECT_EQ(Cells("VEX_ChartData", 1, 256, 2, 257), "C254|\n254|");
-}
-
-TEST_F(PivotTest, CellsCountByWhatTheyShow) {
-  PlainBook book;
-  test::PlainSheet sheet{"Data1"};
-  const auto day = [](const S& serial, const S& style) {
-    return test::RawCell{" s=\"" + style + "\"><v>" + serial + "</v></c>"};
-  };
-  sheet.rows = {{S("Day"), S("Amount")},
-                {day("43831", "1"), 1.0},
-                {day("43831", "2"), 2.0},
-                {day("43862", "2"), 4.0},
-                {day("43832", "2"), 8.0},
-                {{}, S("text")},
-                {S("2020"), test::RawCell{" t=\"e\"><v>#DIV/0!</v></c>"}},
-                {2020.0, S("$16")},
-                {S("x"), test::RawCell{" t=\"b\"><v>1</v></c>"}}};
-  book.sheets.push_back(sheet);
-  book.styles =
-      "<styleSheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><numFmts><numFmt "
-      "numFmtId=\"200\" "
-      "formatCode=\"mmm yy\"/></numFmts><cellXfs><xf numFmtId=\"0\"/><xf numFmtId=\"14\"/><xf "
-      "numFmtId=\"200\"/></cellXfs>"
-      "</styleSheet>";
-  Open(book);
-  Definition definition{"VEX_Chart1", "column", "table-id=\"Data1\" number-format=\"0.0\""};
-  definition.categories = Columns("categories", {"Day"}, "rows");
-  definition.series = "<series headings-in=\"none\"/>";
-  // a text and an error add nothing, a numeric text its number, True is -1
-  EXPECT_EQ(Block(definition), "|Amount\n1/1/2020|1.0\nJan 20|10.0\nFeb 20|4.0\n|0.0\n2020|16.0\nx|-1.0");
-  EXPECT_EQ(Book().FindWorksheet("VEX_ChartData")->CellValueAt(6, 2).kind, excel::CellValue::Kind::kText)
-      << "a year as category stays a text";
-}
-
-TEST_F(PivotTest, ABlockIsMadeToFitInItsPlace) {
-  OpenSales();
-  Definition first{"VEX_Chart1"}, second{"VEX_Chart2"};
-  Block(first);
-  Block(second);
-  EXPECT_EQ(Cells("VEX_ChartData", 1, 1, 7, 1),
-            "VEX_Chart1\nVEX_Chart1\nVEX_Chart1\nVEX_Chart2\nVEX_Chart2\nVEX_Chart2\n");
-  // grows by one row and a column fewer, then shrinks again
-  first.categories = Columns("categories", {"Product", "Region"}, "rows");
-  first.series = "<series headings-in=\"none\"/>";
-  EXPECT_EQ(Block(first), "|Amount\nWidget|\nGadget|\nEast|18\nWest|5");
-  EXPECT_EQ(
-      Cells("VEX_ChartData", 1, 1, 9, 1),
-      "VEX_Chart1\nVEX_Chart1\nVEX_Chart1\nVEX_Chart1\nVEX_Chart1\nVEX_Chart2\nVEX_Chart2\nVEX_Chart2\n");
-  EXPECT_EQ(Cells("VEX_ChartData", 1, 4, 1, 4), "Gadget") << "what lies right of a narrower block stays";
-  first.categories = Columns("categories", {"Region"}, "rows");
-  EXPECT_EQ(Block(first), "|Amount\nEast|18\nWest|5");
-  EXPECT_EQ(Cells("VEX_ChartData", 4, 1, 7, 3),
-            "VEX_Chart2||Widget\nVEX_Chart2|East|11\nVEX_Chart2|West|5\n||");
-  const auto moved = [&](const S& line) {
-    return line.find(".Insert") != S::npos || line.find(".Delete") != S::npos;
-  };
-  std::vector<std::string> rows;
-  std::copy_if(journal_.begin(), journal_.end(), std::back_inserter(rows), moved);
-  EXPECT_EQ(rows, (std::vector<std::string>{"Sheets(\"VEX_ChartData\").Rows(3).Insert",
-                                            "Sheets(\"VEX_ChartData\").Rows(3).Insert",
-                                            "Sheets(\"VEX_ChartData\").Rows(3).Delete(-4162)",
-                                            "Sheets(\"VEX_ChartData\").Rows(3).Delete(-4162)"}));
-}
-
-TEST_F(PivotTest, AFormatThatIsNoneStopsTheBlockWithBothMessages) {
-  OpenSales();
-  EXPECT_EQ(Block({"VEX_Chart1", "column", "table-id=\"Data1\" number-format=\"0.0.&quot;\""}), "(no block)");
-  ASSERT_EQ(Messages().size(), 2u);
-  EXPECT_TRUE(Messages()[0].starts_with("Brindle Plotsmith: PSChartBuilder.MoveToDataSheet\n"));
-  EXPECT_TRUE(Messages()[1].starts_with(
-      "Brindle Plotsmith: PSChartBuilder.PopulateDataSheetOffi2007\nUnable to set"));
 }
 
 }  // namespace

@@ -1,15 +1,11 @@
 #include <algorithm>
+#include <vector>
 
-#include "builder/BuilderVariables.h"
 #include "builder/ChartRefreshDriver.h"
-#include "builder/PersistedProperties.h"
-#include "common/CommonFunctions.h"
+#include "common/PSConstants.h"
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
-#include "metadata/MetadataStore.h"
-#include "metadata/TableDefinitions.h"
-#include "tests/support/HostTest.h"
-#include "xlsx/Worksheet.h"
+#include "tests/support/ChartTest.h"
 
 namespace plotsmith {
 namespace {
@@ -67,8 +63,6 @@ TEST_F(RefreshDriverTest, AnUnavailableChartRecoversByItself) {
   Refresh();
   SaveAndReopen();
   ASSERT_NE(ChartXml(1).find("<c:ser>"), S::npos);
-  const S good = folder_ / "good.xlsx";
-  Book().Save(good);
 
   // the table loses its rows: no series, crosshatch, the message at each refresh
   book.Sheet("Data1").rows.resize(1);
@@ -118,115 +112,19 @@ TEST_F(RefreshDriverTest, OneTableRefreshesWhatHangsOnIt) {
   EXPECT_EQ(Count("Application.Run(\"VEXEvents.VEXChartRefreshComplete\")"), 1);
   const S saved = Definitions();
   EXPECT_EQ(std::count(saved.begin(), saved.end(), '\n'), 7);
-  std::size_t versions = 0;
-  for (auto at = saved.find("schema-version"); at != S::npos; at = saved.find("schema-version", at + 1))
-    ++versions;
-  EXPECT_EQ(versions, 4u) << "every definition is saved, not only those refreshed";
+  EXPECT_EQ(test::CountOf(saved, "schema-version"), 4u)
+      << "every definition is saved, not only those refreshed";
   EXPECT_TRUE(colTables) << "nothing ends the run on this road";
   EXPECT_EQ(Count("Chart.PlotArea.Interior.ColorIndex = -4142"), 0) << "the charts aren't new";
 }
 
 TEST_F(RefreshDriverTest, ANewChartGetsABarePlotArea) {
   Open(SalesBook({{"VEX_Chart1"}}));
-  lMethodType = 0;
+  lMethodType = method::kNew;
   RefreshChart("VEX_Chart1");
   EXPECT_EQ(Count("Chart.PlotArea.Interior.ColorIndex = -4142"), 1);
   EXPECT_EQ(Count("Chart.PlotArea.Border.LineStyle = 0"), 1);
   EXPECT_EQ(Count("Chart.ChartArea.AutoScaleFont = False"), 0);
-}
-
-TEST_F(RefreshDriverTest, StoredPropertiesAndTheirDefaults) {
-  auto document = NewXMLDocument();
-  const auto read = [&](const S& persist) {
-    EXPECT_TRUE(document.loadXML("<chart><auto-persistence>" + persist + "</auto-persistence></chart>"));
-    RetrievePersistedProperties(document.documentElement());
-  };
-  read("<persist property=\"legend-left\" value=\"0\"/>");
-  EXPECT_EQ(mLegendPosition, runtime::Variant(0)) << "a place beats a position, also at the edge";
-  EXPECT_EQ(mLegendTop, kUnsetPlace);
-  read(
-      "<persist property=\"legend-position\" value=\"-4131\"/><persist property=\"bucket-label-font-color\" "
-      "value=\"\"/>"
-      "<persist property=\"label-font-name\" value=\"\"/><persist property=\"LabelAxis-font-autoscale\" "
-      "value=\"0\"/>"
-      "<persist property=\"LABEL-FONT-SIZE\" value=\"20\"/>");
-  EXPECT_EQ(mLegendPosition, runtime::Variant("-4131"));
-  EXPECT_EQ(mLegendLeft, kUnsetPlace) << "each call starts from the defaults";
-  EXPECT_EQ(mBucketLabelFontColor, runtime::Variant(16777215));
-  EXPECT_EQ(mLabelFontName, runtime::Variant("")) << "labels take an empty text as it stands";
-  EXPECT_EQ(mLabelAxisFontAutoScale, runtime::Variant(false));
-  EXPECT_EQ(mLabelFontSize, runtime::Variant(9));
-  EXPECT_TRUE(mLabelFontBackgroundColor.IsEmpty());
-  read(
-      "<persist property=\"label-font-size\" value=\"11\"/><persist property=\"legend-top\" value=\"high\"/>"
-      "<persist property=\"label-font-size\" value=\"12\"/>");
-  EXPECT_EQ(mLabelFontSize, runtime::Variant(11.0)) << "what was read before the failure stays in force";
-  EXPECT_EQ(Messages(),
-            std::vector<S>{"Brindle Plotsmith: PSChartBuilder.RetrievePersistedProperties\nType mismatch"});
-}
-
-/// Puts a comment into a definition in memory, as a person does in the wizard, and builds the chart.
-void Comment(const S& id, const S& text) {
-  RetrieveTableDefinitions();
-  RetrieveChartDefinitions();
-  const auto document = colCharts->Item(id);
-  auto chart = document.documentElement();
-  if (auto old = chart.selectSingleNode("comment")) chart.removeChild(old);
-  auto comment = document.createElement("comment");
-  comment.appendChild(document.createTextNode(text));
-  chart.appendChild(comment);
-  PopulateChart(id);
-  SaveChartDefinition(document);
-  colTables = colCharts = nullptr;
-}
-
-TEST_F(RefreshDriverTest, CommentsComeAndGoInPieces) {
-  S text;
-  for (int i = 0; i < 40; ++i) text += "0123456789";
-  text.replace(199, 2, "\xF0\x9D\x84\x9E");  // units 200 and 201: the cut goes through the character
-  text.insert(300, "\n");
-  Open(SalesBook({Definition{"VEX_Chart1"}}));
-  Comment("VEX_Chart1", text);
-  const auto calls = [&](const char* what) {
-    return std::count_if(journal_.begin(), journal_.end(),
-                         [&](const S& line) { return line.find(what) != S::npos; });
-  };
-  EXPECT_EQ(calls("Sheets(\"Charts\").Shapes.AddTextbox(1, 379, 5, 180, 120)"), 1);
-  EXPECT_EQ(calls(".Insert("), 2);
-  SaveAndReopen();
-  const auto shapes = [&] { return oWorkbook->Worksheets()->Item("Charts")->Shapes(); };
-  const auto box = [&] { return shapes()->Item(2); };
-  ASSERT_EQ(shapes()->Count(), 2);
-  EXPECT_EQ(box()->Type(), excel::msoTextBox);
-  EXPECT_EQ(box()->AlternativeText(), "VEX_Chart1");
-  EXPECT_EQ(box()->TextFrame()->Characters()->Text(), text);
-  EXPECT_NEAR(box()->Left(), shapes()->Item(1)->Left() + shapes()->Item(1)->Width() - 5, 0.01);
-  EXPECT_NEAR(box()->Top(), 5, 0.01);
-  EXPECT_NEAR(box()->Width(), 180, 0.01);
-  EXPECT_NEAR(box()->Height(), 120, 0.01);
-
-  // what a person writes into the box is the comment from then on
-  Refresh();
-  SaveAndReopen();
-  EXPECT_EQ(box()->TextFrame()->Characters()->Text(), text);
-  box()->TextFrame()->Characters()->SetText(text + " and more");
-  Refresh();
-  SaveAndReopen();
-  EXPECT_EQ(shapes()->Count(), 2);
-  EXPECT_EQ(box()->TextFrame()->Characters()->Text(), text + " and more");
-  EXPECT_NE(Cells("VEX_ChartDefinitions", 2, 1, 2, 1).find(" and more</comment>"), S::npos);
-
-  // an empty comment takes the box away, and a box taken away the comment
-  Comment("VEX_Chart1", "");
-  SaveAndReopen();
-  EXPECT_EQ(shapes()->Count(), 1);
-  Comment("VEX_Chart1", "again");
-  SaveAndReopen();
-  shapes()->Item(2)->Delete();
-  Refresh();
-  SaveAndReopen();
-  EXPECT_EQ(shapes()->Count(), 1);
-  EXPECT_EQ(Cells("VEX_ChartDefinitions", 2, 1, 2, 1).find("<comment"), S::npos);
 }
 
 }  // namespace

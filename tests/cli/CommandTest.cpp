@@ -1,28 +1,24 @@
+#include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <vector>
 
 #include "cli/CommandLine.h"
 #include "cli/Session.h"
 #include "tests/support/HostTest.h"
+#include "tests/support/RunCommand.h"
 
 namespace plotsmith::cli {
 namespace {
 
+using test::CommandResult;
+using test::RunCommand;
 using test::SalesBook;
 using S = std::string;
 
 class CommandTest : public ::testing::Test {
  protected:
-  struct Result {
-    int code;
-    S out, err;
-  };
-  Result Run(std::vector<S> arguments, const S& input = "", bool terminal = false) {
-    std::istringstream in(input);
-    std::ostringstream out, err;
-    const int code = RunCommandLine(std::move(arguments), {in, out, err, terminal});
-    return {code, out.str(), err.str()};
-  }
   S Write(const test::PlainBook& book, const S& name = "book.xlsx") {
     book.Write(folder_ / name);
     return folder_ / name;
@@ -37,26 +33,26 @@ class CommandTest : public ::testing::Test {
 TEST_F(CommandTest, RefreshSaysNothingWhenAllIsWell) {
   const S book = Write(SalesBook({{"VEX_Chart1"}}));
   const S before = Bytes(book);
-  const Result refreshed = Run({"refresh", book, "-o", folder_ / "out.xlsx"});
+  const CommandResult refreshed = RunCommand({"refresh", book, "-o", folder_ / "out.xlsx"});
   EXPECT_EQ(refreshed.code, 0) << refreshed.err;
   EXPECT_EQ(refreshed.out + refreshed.err, "");
   EXPECT_EQ(Bytes(book), before) << "with -o the workbook itself stays";
-  EXPECT_EQ(Run({"cells", folder_ / "out.xlsx", "VEX_ChartData!A1:D3"}).out,
+  EXPECT_EQ(RunCommand({"cells", folder_ / "out.xlsx", "VEX_ChartData!A1:D3"}).out,
             "VEX_Chart1\t\tWidget\tGadget\nVEX_Chart1\tEast\t11\t7\nVEX_Chart1\tWest\t5\t\n");
-  EXPECT_EQ(Run({"refresh", book}).code, 0);
+  EXPECT_EQ(RunCommand({"refresh", book}).code, 0);
   EXPECT_NE(Bytes(book), before);
 }
 
 TEST_F(CommandTest, MessagesReachStderrWordForWord) {
   test::Definition broken{"VEX_Chart1", "column", "table-id=\"Gone\""};
   const S book = Write(SalesBook({broken}));
-  const Result result = Run({"refresh", book});
+  const CommandResult result = RunCommand({"refresh", book});
   EXPECT_EQ(result.code, 1);
   EXPECT_EQ(result.err,
             "Brindle Plotsmith: Chart 'Name of VEX_Chart1' has become unavailable because its source table "
             "no longer "
             "exists in this workbook.\n");
-  EXPECT_NE(Run({"charts", book}).out.find("table no longer fits"), S::npos);
+  EXPECT_NE(RunCommand({"charts", book}).out.find("table no longer fits"), S::npos);
 }
 
 TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
@@ -82,14 +78,14 @@ TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
       {bad, "its part /xl/worksheets/sheet1.xml can't be read: its XML is damaged"}};
   for (const auto& [path, reason] : cases) {
     const S before = Bytes(path);
-    const Result result = Run({"refresh", path, "-o", folder_ / "out.xlsx"});
+    const CommandResult result = RunCommand({"refresh", path, "-o", folder_ / "out.xlsx"});
     EXPECT_EQ(result.code, 3) << path;
     EXPECT_EQ(result.err, "plotsmith: can't read \"" + path + "\": " + reason + ".\n");
     EXPECT_FALSE(std::filesystem::exists(folder_ / "out.xlsx"));
     EXPECT_EQ(Bytes(path), before);
   }
-  EXPECT_EQ(Run({"refresh", odd}).code, 0);
-  const Result unwritable = Run({"refresh", odd, "-o", folder_ / "no/folder/x.xlsx"});
+  EXPECT_EQ(RunCommand({"refresh", odd}).code, 0);
+  const CommandResult unwritable = RunCommand({"refresh", odd, "-o", folder_ / "no/folder/x.xlsx"});
   EXPECT_EQ(unwritable.code, 3);
   EXPECT_TRUE(unwritable.err.starts_with("plotsmith: can't save ")) << unwritable.err;
 }
@@ -118,6 +114,23 @@ TEST_F(CommandTest, NothingIsSavedAfterMemoryRanOut) {
   }
 }
 
+TEST_F(CommandTest, NothingIsSavedAfterTheOutputWasLost) {
+  struct Full : std::streambuf {
+    int overflow(int) override { return traits_type::eof(); }
+  } full;
+  const S book = Write(SalesBook({{"VEX_Chart1"}}));
+  const S before = Bytes(book);
+  for (const std::vector<S>& arguments : std::vector<std::vector<S>>{
+           {"refresh", book, "--journal"}, {"cells", book, "Data1!A1"}, {"--version"}}) {
+    std::ostream out(&full);
+    std::istringstream in;
+    std::ostringstream err;
+    EXPECT_EQ(RunCommandLine(arguments, {in, out, err, false}), 3);
+    EXPECT_EQ(err.str(), "plotsmith: the output can't be written.\n");
+  }
+  EXPECT_EQ(Bytes(book), before);
+}
+
 TEST_F(CommandTest, WrongUsageIsTwo) {
   const S book = Write(SalesBook({}));
   for (const std::vector<S>& arguments :
@@ -131,25 +144,29 @@ TEST_F(CommandTest, WrongUsageIsTwo) {
                                    {"format", "0"},
                                    {"format", "0.0.\"", "1"},
                                    {"refresh", book, "--table", "Nowhere"},
+                                   {"refresh", book, "-o", ""},
+                                   {"save", book, "-o", ""},
                                    {"refresh", book, "--host-version", "old"}}) {
-    const Result result = Run(arguments);
+    const CommandResult result = RunCommand(arguments);
     EXPECT_EQ(result.code, 2);
     EXPECT_TRUE(result.err.starts_with("plotsmith: ")) << result.err;
     EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 1) << result.err;
   }
-  EXPECT_EQ(Run({"--help"}).code, 0);
-  EXPECT_NE(Run({"refresh", "--help"}).out.find("--table"), S::npos);
+  EXPECT_EQ(RunCommand({"--help"}).code, 0);
+  EXPECT_NE(RunCommand({"refresh", "--help"}).out.find("--table"), S::npos);
 }
 
 TEST_F(CommandTest, AWorkbookThatIsOpenElsewhereIsLeftAlone) {
-  const S book = Write(SalesBook({}));
   for (const char* lock : {".~lock.book.xlsx#", "~$book.xlsx"}) {
+    const S book = Write(SalesBook({{"VEX_Chart1"}}));
     std::ofstream(folder_ / lock) << "somebody";
-    const Result refused = Run({"refresh", book});
+    const S before = Bytes(book);
+    const CommandResult refused = RunCommand({"refresh", book});
     EXPECT_EQ(refused.code, 3);
     EXPECT_NE(refused.err.find("is open in another program"), S::npos);
-    EXPECT_EQ(Run({"refresh", book, "-o", folder_ / "other.xlsx"}).code, 0) << "it is only read then";
-    EXPECT_EQ(Run({"refresh", book, "--force"}).code, 0);
+    EXPECT_EQ(Bytes(book), before);
+    EXPECT_EQ(RunCommand({"refresh", book, "-o", folder_ / "other.xlsx"}).code, 0) << "it is only read then";
+    EXPECT_EQ(RunCommand({"refresh", book, "--force"}).code, 0);
     std::filesystem::remove(folder_ / lock);
   }
 }
@@ -159,37 +176,104 @@ TEST_F(CommandTest, ListsAndJson) {
   plain.Sheet("Data1").rows[1][2] = test::RawCell{" t='e'><v>#N/A</v></c>"};
   const S book = Write(plain);
   const S before = Bytes(book);
-  EXPECT_NE(Run({"tables", book}).out.find("label\tcolumn 2\tProduct\n"), S::npos);
-  EXPECT_NE(Run({"tables", book, "--json"}).out.find("\"kind\": \"label\""), S::npos);
-  EXPECT_NE(Run({"charts", book, "--json"}).out.find("\"type\": \"bar\""), S::npos);
-  EXPECT_NE(Run({"definition", book, "name of vex_chart1"}).out.find("<chart id=\"VEX_Chart1\""), S::npos);
-  EXPECT_EQ(Run({"cells", book, "data1!A2:C3", "--json"}).out,
+  EXPECT_EQ(RunCommand({"tables", book}).out,
+            "Data1  \"Data1\"\n  sheet Data1, rows 1 to 5 (4 of data), from column 1\n  label\tcolumn "
+            "1\tRegion\n  label\tcolumn 2\tProduct\n  label\tcolumn 3\tAmount\n  number\tcolumn "
+            "4\tCost\n");
+  EXPECT_EQ(RunCommand({"tables", book, "--json"}).out, R"([
+  {
+    "id": "Data1",
+    "name": "Data1",
+    "sheet": "Data1",
+    "topRow": 1,
+    "leftColumn": 1,
+    "height": 5,
+    "headerRows": 1,
+    "bucketCandidate": false,
+    "columns": [
+      {
+        "name": "Region",
+        "kind": "label",
+        "column": 1
+      },
+      {
+        "name": "Product",
+        "kind": "label",
+        "column": 2
+      },
+      {
+        "name": "Amount",
+        "kind": "label",
+        "column": 3
+      },
+      {
+        "name": "Cost",
+        "kind": "number",
+        "column": 4
+      }
+    ]
+  }
+]
+)");
+  EXPECT_EQ(RunCommand({"charts", book, "--json"}).out, R"([
+  {
+    "id": "VEX_Chart1",
+    "name": "Name of VEX_Chart1",
+    "title": "Sales",
+    "type": "bar",
+    "chartSheet": "Charts",
+    "tableSheet": "Data1",
+    "table": "Data1",
+    "state": "ok"
+  }
+]
+)");
+  EXPECT_NE(RunCommand({"definition", book, "name of vex_chart1"}).out.find("<chart id=\"VEX_Chart1\""),
+            S::npos);
+  EXPECT_EQ(RunCommand({"cells", book, "data1!A2:C3", "--json"}).out,
             "[[\"East\",\"Widget\",\"#N/A\"],[\"West\",\"Widget\",\"5\"]]\n");
-  EXPECT_EQ(Run({"cells", book, "Data1!C:C", "--value", "--json"}).out,
+  EXPECT_EQ(RunCommand({"cells", book, "Data1!C:C", "--value", "--json"}).out,
             "[[\"Amount\"],[\"#N/A\"],[5.0],[7.0],[1.0]]\n");
   EXPECT_EQ(Bytes(book), before) << "reading commands write nothing";
 }
 
+TEST_F(CommandTest, StatesOfCharts) {
+  test::Definition unsupported{"VEX_Chart1", "unknown"}, gone{"VEX_Chart2", "bar", "table-id=\"Gone\""};
+  test::Definition unavailable{"VEX_Chart3"};
+  unavailable.values = "<values><column name=\"Nowhere\"/></values>";
+  const S book = Write(SalesBook({unsupported, gone, unavailable, {"VEX_Chart4"}}));
+  EXPECT_EQ(RunCommand({"refresh", book}).code, 1);
+  std::istringstream list(RunCommand({"charts", book}).out);
+  std::vector<S> states;
+  for (S id, where, state; std::getline(list, id) && std::getline(list, where) && std::getline(list, state);)
+    states.push_back(id.substr(0, 10) + state);
+  EXPECT_EQ(states, (std::vector<S>{"VEX_Chart1  unsupported type", "VEX_Chart2  table no longer fits",
+                                    "VEX_Chart3  unavailable", "VEX_Chart4  ok"}));
+}
+
 TEST_F(CommandTest, Formats) {
-  EXPECT_EQ(Run({"format", "#,##0.00", "-1234.5"}).out, "-1,234.50\n");
-  EXPECT_EQ(Run({"format", "--date1904", "yyyy-mm-dd", "0"}).out, "1904-01-01\n");
+  EXPECT_EQ(RunCommand({"format", "#,##0.00", "-1234.5"}).out, "-1,234.50\n");
+  EXPECT_EQ(RunCommand({"format", "--date1904", "yyyy-mm-dd", "0"}).out, "1904-01-01\n");
   for (const std::vector<S>& arguments :
        std::vector<std::vector<S>>{{"format", "-0.0", "-2"},
                                    {"format", "--host-version", "11", "-0.0", "-2"},
                                    {"format", "--host-version=11", "-0.0", "-2"},
                                    {"format", "-0.0", "-2", "--force"},
+                                   {"--force", "--host-version", "11", "format", "-0.0", "-2"},
+                                   {"--host-version=11", "format", "-0.0", "-2"},
                                    {"format", "--", "-0.0", "-2"}})
-    EXPECT_EQ(Run(arguments).out, "--2.0\n");
-  EXPECT_EQ(Run({"format", "--tsv"}, "0.0\t2.25\n@\" x\"\tabc\n0\"\t1\n;;;\t5\r\nGeneral\tTRUE\n").out,
+    EXPECT_EQ(RunCommand(arguments).out, "--2.0\n");
+  EXPECT_EQ(RunCommand({"format", "--tsv"}, "0.0\t2.25\n@\" x\"\tabc\n0\"\t1\n;;;\t5\r\nGeneral\tTRUE\n").out,
             "2.3\nabc x\n(invalid format)\n\nTRUE\n");
 }
 
 TEST_F(CommandTest, JournalVersionAndProgress) {
   const S book = Write(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}}));
-  const S journal = Run({"refresh", book, "--journal", "--host-version", "11", "-o", folder_ / "o.xlsx"}).out;
+  const S journal =
+      RunCommand({"refresh", book, "--journal", "--host-version", "11", "-o", folder_ / "o.xlsx"}).out;
   EXPECT_NE(journal.find("\nChart.ChartType = 57\n"), S::npos);
   EXPECT_NE(journal.find("Chart.SeriesCollection(1).Name = \"=VEX_ChartData!R1C3\""), S::npos);
-  const Result watched = Run({"refresh", book, "-o", folder_ / "o.xlsx"}, "", true);
+  const CommandResult watched = RunCommand({"refresh", book, "-o", folder_ / "o.xlsx"}, "", true);
   EXPECT_NE(watched.err.find("\rRefreshing chart 2 ..."), S::npos);
   EXPECT_TRUE(watched.err.ends_with("\r")) << "and the line is wiped";
   EXPECT_EQ(watched.code, 0);
@@ -202,18 +286,18 @@ TEST_F(CommandTest, OneTableOnly) {
   test::PlainBook plain = SalesBook({{"VEX_Chart1"}, other});
   plain.sheets.push_back(test::SalesSheet("Data2"));
   const S book = Write(plain);
-  EXPECT_EQ(Run({"refresh", book, "--table", "Data2"}).code, 0);
-  EXPECT_EQ(Run({"cells", book, "VEX_ChartData!A1:A4"}).out, "VEX_Chart2\nVEX_Chart2\nVEX_Chart2\n\n");
+  EXPECT_EQ(RunCommand({"refresh", book, "--table", "Data2"}).code, 0);
+  EXPECT_EQ(RunCommand({"cells", book, "VEX_ChartData!A1:A4"}).out, "VEX_Chart2\nVEX_Chart2\nVEX_Chart2\n\n");
 }
 
 TEST_F(CommandTest, RenamedColumnsAreCarriedIntoTheCharts) {
   auto sales = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "bar", "table-id=\"Data2\" title=\"\""}});
   sales.Sheet("Charts").frames[1].alternativeText = "VEX_Chart2";
   const S book = Write(sales);
-  const auto definition = [&](const S& chart) { return Run({"definition", book, chart}).out; };
+  const auto definition = [&](const S& chart) { return RunCommand({"definition", book, chart}).out; };
   // a swap, a chain and a plain one, all at once
-  Result result =
-      Run({"rename-columns", book, "--table", "Data1", "Region=Product", "Product=Region", "Amount=Units"});
+  CommandResult result = RunCommand(
+      {"rename-columns", book, "--table", "Data1", "Region=Product", "Product=Region", "Amount=Units"});
   EXPECT_EQ(result.code, 0) << result.err;
   EXPECT_NE(definition("VEX_Chart1").find("<categories headings-in=\"rows\"><column name=\"Product\""),
             S::npos);
@@ -228,21 +312,24 @@ TEST_F(CommandTest, RenamedColumnsAreCarriedIntoTheCharts) {
       "sticky=\"yes\"/></axes>";
   auto renamed = SalesBook({titled});
   const S other = Write(renamed, "titled.xlsx");
-  EXPECT_EQ(Run({"refresh", other}).code, 0);
-  {
-    auto package = xlsx::Package::Open(other);
-    S sheet = package.Read("/xl/worksheets/sheet1.xml");
-    sheet.replace(sheet.find("Region"), 6, "Land");
-    package.Replace("/xl/worksheets/sheet1.xml", sheet);
-    package.Save(other);
-  }
-  EXPECT_EQ(Run({"rename-columns", other, "--table", "Data1", "Region=Land"}).code, 0);
-  EXPECT_EQ(Run({"refresh", other}).code, 0);
-  const S axes = Run({"definition", other, "VEX_Chart1"}).out;
+  EXPECT_EQ(RunCommand({"refresh", other}).code, 0);
+  test::EditPart(other, "/xl/worksheets/sheet1.xml",
+                 [](S& sheet) { sheet.replace(sheet.find("Region"), 6, "Land"); });
+  EXPECT_EQ(RunCommand({"rename-columns", other, "--table", "Data1", "Region=Land"}).code, 0);
+  EXPECT_EQ(RunCommand({"refresh", other}).code, 0);
+  const S axes = RunCommand({"definition", other, "VEX_Chart1"}).out;
   EXPECT_NE(axes.find("<axis type=\"label\" label=\"Land\" sticky=\"no\"/>"), S::npos) << axes;
   EXPECT_NE(axes.find("<axis type=\"value\" label=\"Region\" sticky=\"yes\"/>"), S::npos) << axes;
 
   const S before = Bytes(book);
+  result = RunCommand({"rename-columns", book, "--table", "Data1", "Amount=Units"});
+  EXPECT_EQ(result.code, 0) << "it is renamed already";
+  result = RunCommand({"rename-columns", book, "--table", "Data1", "Amuont=Money", "label=Text"});
+  EXPECT_EQ(result.code, 1);
+  EXPECT_EQ(result.err,
+            "plotsmith: no chart of the table \"Data1\" has a column \"Amuont\".\n"
+            "plotsmith: no chart of the table \"Data1\" has a column \"label\".\n");
+  EXPECT_EQ(Bytes(book), before);
   for (const auto& [arguments, said] : std::vector<std::pair<std::vector<S>, S>>{
            {{"--table", "Data1", "Region"}, "\"Region\" is no renaming"},
            {{"--table", "Data1", "A=B", "A=C"}, "\"A\" is renamed twice"},
@@ -251,7 +338,7 @@ TEST_F(CommandTest, RenamedColumnsAreCarriedIntoTheCharts) {
            {{"--table", "Data1"}, "OLD=NEW is required"}}) {
     std::vector<S> line = {"rename-columns", book};
     line.insert(line.end(), arguments.begin(), arguments.end());
-    result = Run(line);
+    result = RunCommand(line);
     EXPECT_EQ(result.code, 2);
     EXPECT_NE(result.err.find(said), S::npos) << result.err;
   }

@@ -1,8 +1,10 @@
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <regex>
 #include <sstream>
+#include <vector>
 
 #include "cli/manual/Manual.h"
 #include "tests/support/HostTest.h"
@@ -53,7 +55,7 @@ TEST(ManualTest, NoLineOfThePageIsMistakenForARequest) {
   std::istringstream page(ManualPage(CommandLine()));
   for (S text; std::getline(page, text);) {
     EXPECT_TRUE(std::regex_search(text, std::regex(R"(^(\.(TH|SH|SS|TP|br)\b|\.\\"|[^.']))"))) << text;
-    EXPECT_FALSE(std::regex_search(text, std::regex(R"([^\\ a-zA-Z]--)"))) << "bare hyphens: " << text;
+    EXPECT_FALSE(std::regex_search(text, std::regex(R"((^|[^\\])-)"))) << "a bare hyphen: " << text;
   }
 }
 
@@ -110,6 +112,15 @@ TEST_F(CompletionTest, EveryVerbAndOptionIsOffered) {
       EXPECT_EQ(Offered("plotsmith " + verb->get_name() + " " + name), std::vector<S>{name});
       EXPECT_NE(ZshCompletion(line).find(name), S::npos) << name;
     }
+  }
+}
+
+TEST_F(CompletionTest, EachScriptIsGoodForItsShell) {
+  std::ofstream(folder_ / "_plotsmith") << ZshCompletion(CommandLine());
+  const std::pair<S, S> cases[] = {{"bash", "plotsmith.bash"}, {"zsh", "_plotsmith"}};
+  for (const auto& [shell, script] : cases) {
+    if (std::system(("command -v " + shell + " >/dev/null").c_str()) != 0) GTEST_SKIP() << "no " << shell;
+    EXPECT_EQ(std::system((shell + " -n '" + (folder_ / script) + "'").c_str()), 0);
   }
 }
 

@@ -1,10 +1,15 @@
+#include <algorithm>
+#include <functional>
 #include <map>
+#include <memory>
+#include <vector>
 
 #include "common/App.h"
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
 #include "controller/PSController.h"
+#include "controller/ResetSystem.h"
 #include "tests/support/HostTest.h"
 
 namespace plotsmith {
@@ -198,23 +203,29 @@ TEST_F(EntryTest, GuardsSpeakInTheirOrder) {
   }
 
   host_ = xlsx::Application::Create();
-  ResetRunVariables();
+  ResetSystem();
   Refresh();
   EXPECT_EQ(Messages().back(), "Brindle Plotsmith: You must have a workbook open to use the Plotsmith.");
   EXPECT_EQ(Messages().size(), 4u);
 }
 
-/// A host that is in the middle of something: it refuses to be made deaf.
-class EditingHost : public excel::Application {
+/// A host that is in the middle of something and refuses what it is told.
+class RefusingHost : public excel::Application {
  public:
-  explicit EditingHost(std::shared_ptr<excel::Application> inner) : inner_(std::move(inner)) {}
+  explicit RefusingHost(std::shared_ptr<excel::Application> inner) : inner_(std::move(inner)) {}
   excel::Ref<excel::Workbook> ActiveWorkbook() override { return inner_->ActiveWorkbook(); }
   excel::Ref<excel::Chart> ActiveChart() override { return inner_->ActiveChart(); }
   std::string Version() override { return inner_->Version(); }
   bool ScreenUpdating() override { return inner_->ScreenUpdating(); }
-  void SetScreenUpdating(bool value) override { inner_->SetScreenUpdating(value); }
+  void SetScreenUpdating(bool value) override {
+    if (screensRefused-- > 0) throw runtime::RuntimeError(1004);
+    inner_->SetScreenUpdating(value);
+  }
   bool Interactive() override { return interactive; }
-  void SetInteractive(bool) override { throw runtime::RuntimeError(1004); }
+  void SetInteractive(bool value) override {
+    if (editing) throw runtime::RuntimeError(1004);
+    inner_->SetInteractive(value);
+  }
   std::int32_t Calculation() override { return inner_->Calculation(); }
   void SetCalculation(std::int32_t value) override { inner_->SetCalculation(value); }
   void SetDisplayAlerts(bool value) override { inner_->SetDisplayAlerts(value); }
@@ -223,6 +234,8 @@ class EditingHost : public excel::Application {
   double StandardFontSize() override { return inner_->StandardFontSize(); }
 
   bool interactive = true;
+  bool editing = false;
+  int screensRefused = 0;
 
  private:
   std::shared_ptr<excel::Application> inner_;
@@ -230,8 +243,9 @@ class EditingHost : public excel::Application {
 
 TEST_F(EntryTest, EditModeIsFoundByTheHostsRefusal) {
   Open(SalesBook({}));
-  ResetRunVariables();
-  const auto editing = std::make_shared<EditingHost>(host_);
+  ResetSystem();
+  const auto editing = std::make_shared<RefusingHost>(host_);
+  editing->editing = true;
   CPlotsmithController controller;
   controller.RefreshPlotsmithData(editing, "", "");
   EXPECT_EQ(Messages(),
@@ -243,9 +257,44 @@ TEST_F(EntryTest, EditModeIsFoundByTheHostsRefusal) {
   EXPECT_EQ(Messages().size(), 1u);
 }
 
+TEST_F(EntryTest, ARunThatWasBrokenOffIsNotComplete) {
+  Open(SalesBook({{"VEX_Chart1"}}));
+  ResetSystem();
+  std::vector<S> macros;
+  for (const char* macro : {"VEXEvents.VEXChartRefreshStarted", "VEXEvents.VEXChartRefreshComplete"}) {
+    host_->DefineMacro(macro, [&macros, macro](const auto&) { macros.emplace_back(macro); });
+  }
+  const auto refusing = std::make_shared<RefusingHost>(host_);
+  refusing->screensRefused = 1;
+  CPlotsmithController controller;
+  controller.RefreshPlotsmithData(refusing, "", "");
+  EXPECT_EQ(macros, std::vector<S>{"VEXEvents.VEXChartRefreshStarted"});
+  ASSERT_EQ(Messages().size(), 1u);
+  EXPECT_TRUE(Messages()[0].starts_with("Brindle Plotsmith: PSController.PSJumpToStep\n")) << Messages()[0];
+  EXPECT_TRUE(bRunAborted);
+  controller.RefreshPlotsmithData(refusing, "", "");
+  EXPECT_EQ(macros.back(), "VEXEvents.VEXChartRefreshComplete") << "the next run is a new one";
+}
+
+TEST_F(EntryTest, AChartSheetInFrontDoesNotStopARefresh) {
+  PlainBook book = SalesBook({{"VEX_Chart1"}});
+  book.sheets.push_back({"Front", {}, 1, 1, "", {{"somebody's", ""}}});
+  book.workbookExtra = "<bookViews><workbookView activeTab=\"3\"/></bookViews>";
+  book.Write(folder_ / "front.xlsx");
+  test::EditPart(folder_ / "front.xlsx", "/xl/_rels/workbook.xml.rels",
+                 [](S& links) { links.replace(links.rfind("/worksheet\""), 11, "/chartsheet\""); });
+  OpenFile(folder_ / "front.xlsx");
+  ASSERT_TRUE(host_->ActiveChart());
+  Refresh();
+  EXPECT_TRUE(Messages().empty()) << Messages()[0];
+  EXPECT_NE(std::find(journal_.begin(), journal_.end(), "Chart.ChartType = 51"), journal_.end());
+  EXPECT_EQ(journal_.back(), "Application.Run(\"VEXEvents.VEXChartRefreshComplete\")");
+  EXPECT_FALSE(colCharts) << "the run has ended";
+}
+
 TEST_F(EntryTest, TheFirstCallersHostAndNameStay) {
   Open(SalesBook({{"VEX_Chart1"}}));
-  ResetRunVariables();
+  ResetSystem();
   const auto first = host_;
   CPlotsmithController controller;
   S table = "Data1";
@@ -259,7 +308,7 @@ TEST_F(EntryTest, TheFirstCallersHostAndNameStay) {
   EXPECT_EQ(sCustomAppName, "");
   EXPECT_EQ(App.HelpFile, "second.chm");
   EXPECT_TRUE(oApplication == excel::Ref<excel::Application>(first));
-  ResetRunVariables();
+  ResetSystem();
   controller.RefreshChartsForTable(second, table);  // no workbook, and no guard that says so
   ASSERT_EQ(Messages().size(), 3u);
   EXPECT_EQ(Messages()[1],
@@ -277,7 +326,7 @@ TEST_F(EntryTest, RenamedColumnsReportUnderTheShorterName) {
   controller.UpdateChartColumnNamesForTable(host_, "Data1", before, after);
   EXPECT_TRUE(Messages().empty());
   EXPECT_NE(Cells("VEX_ChartDefinitions", 2, 1, 2, 1).find("<column name=\"Area\""), S::npos);
-  ResetRunVariables();
+  ResetSystem();
   controller.UpdateChartColumnNamesForTable(nullptr, "Data1", before, after);
   EXPECT_EQ(
       Messages(),

@@ -1,10 +1,11 @@
+#include <filesystem>
 #include <fstream>
 #include <map>
 
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
 #include "readback/ChartAppearance.h"
-#include "readback/ChartIdentity.h"
+#include "readback/ChartReadBack.h"
 #include "tests/support/ChartTest.h"
 #include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
@@ -290,6 +291,27 @@ TEST_F(ReadBackTest, WaysToSayTheSame) {
     EXPECT_TRUE(said.ends_with(c.expected) || c.expected.find("Arial 9") == S::npos) << said;
   }
   EXPECT_TRUE(Messages().empty()) << Messages()[0];
+}
+
+TEST_F(ReadBackTest, SomeChartsLeaveTheFormatAlone) {
+  const S chart = Bar(Ser(),
+                      "<c:catAx><c:axId val=\"1\"/></c:catAx><c:valAx><c:axId val=\"2\"/><c:numFmt "
+                      "formatCode=\"0.00\" sourceLinked=\"0\"/></c:valAx>");
+  struct {
+    const char *type, *setting, *format;
+  } const cases[] = {{"column", "stacked", "0.00"},
+                     {"column", "100%", "#"},
+                     {"strategic bucket", "", "0.00"},
+                     {"pie", "", "#"},
+                     {"bubble", "", "#"},
+                     {"unknown", "", "#"}};
+  for (const auto& c : cases) {
+    auto document = NewXMLDocument();
+    ASSERT_TRUE(document.loadXML(S("<chart number-format=\"#\" type=\"") + c.type + "\">" +
+                                 test::Settings({c.setting}) + "</chart>"));
+    RevEngineerNumberFormat(OpenChart(test::ChartPartXml(chart)), document);
+    EXPECT_EQ(GetAttributeText(document.documentElement(), "number-format"), c.format) << c.type << c.setting;
+  }
 }
 
 TEST_F(ReadBackTest, TypesOfCharts) {

@@ -2,20 +2,12 @@
 
 #include "runtime/RuntimeError.h"
 #include "runtime/Variant.h"
+#include "tests/support/ErrorOf.h"
 
 namespace plotsmith::runtime {
 namespace {
 
-/// The number of the error that a conversion ends in, 0 for none.
-template <class Convert>
-int ErrorOf(Convert&& convert) {
-  try {
-    convert();
-    return 0;
-  } catch (const RuntimeError& e) {
-    return e.Number();
-  }
-}
+using test::ErrorOf;
 
 TEST(VariantTest, NumbersAsText) {
   const std::pair<double, const char*> cases[] = {{0, "0"},

@@ -1,24 +1,37 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <set>
+#include <string>
 
 #include "fuzz/Targets.h"
 
 namespace plotsmith {
 namespace {
 
-/// Inputs that the fuzzers once found, each of which crashed, hung or ate memory.
+namespace fs = std::filesystem;
+
+/// Inputs that the fuzzers once found, or that somebody made of a fault found otherwise. Each crashed, hung
+/// or ate memory, or would where nobody takes care.
 TEST(FuzzFindingsTest, WhatOnceFailedIsMended) {
+  const fs::path findings = fs::path(PLOTSMITH_SOURCE_DIR) / "fuzz" / "findings";
+  std::set<std::string> folders, targets;
+  for (const auto& folder : fs::directory_iterator(findings)) folders.insert(folder.path().filename());
   for (const fuzz::Target& target : fuzz::kTargets) {
-    const auto folder = std::filesystem::path(PLOTSMITH_SOURCE_DIR) / "fuzz" / "findings" / target.name;
-    if (!std::filesystem::is_directory(folder)) continue;
-    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    targets.insert(target.name);
+    int inputs = 0;
+    for (const auto& entry : fs::directory_iterator(findings / target.name)) {
+      if (entry.path().filename().string().starts_with('.')) continue;
       SCOPED_TRACE(entry.path().string());
       std::ifstream file(entry.path(), std::ios::binary);
       const std::string bytes((std::istreambuf_iterator<char>(file)), {});
+      EXPECT_FALSE(bytes.empty());
       target.run(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
+      ++inputs;
     }
+    EXPECT_GT(inputs, 0) << target.name;
   }
+  EXPECT_EQ(folders, targets) << "scripts/fuzz.sh runs a fuzzer for each folder";
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 #include <functional>
+#include <vector>
 
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
+#include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
 #include "xlsx/Worksheet.h"
 
@@ -35,11 +37,8 @@ class HandEditsTest : public test::HostTest {
     OpenFile(folder_ / "saved.xlsx");
   }
   void EditChart(const std::function<void(S&)>& edit) {
-    Edit([&](xlsx::Package& package) {
-      S xml = package.Read(kChart);
-      edit(xml);
-      package.Replace(kChart, xml);
-    });
+    test::EditPart(folder_ / "saved.xlsx", kChart, edit);
+    OpenFile(folder_ / "saved.xlsx");
   }
   void DrawChart(const S& rest) {
     Definition definition{"VEX_Chart1", "column", "table-id=\"Data1\" title=\"Sales\" number-format=\"0\""};
@@ -53,7 +52,6 @@ class HandEditsTest : public test::HostTest {
   static constexpr const char* kChart = "/xl/charts/chart1.xml";
 };
 
-const S kPart = "<c:chart>";
 const S kRed = "<a:solidFill><a:srgbClr val=\"FF0000\"/></a:solidFill>";
 const S kGradient =
     "<c:spPr><a:gradFill><a:gsLst><a:gs pos=\"0\"><a:srgbClr val=\"FFFFFF\"/></a:gs><a:gs "
@@ -201,8 +199,39 @@ TEST_F(HandEditsTest, WhatAPersonDidToAChartSurvives) {
   }
 }
 
+TEST_F(HandEditsTest, TheMarksOfBucketsKeepTheFontOfTheirLabels) {
+  Open(test::BucketBook(test::BucketDefinition()));
+  Refresh();
+  SaveAndReopen();
+  const S labels = "<c:dLbls>", georgia = "<a:latin typeface=\"Georgia\"/>";
+  EditChart([&](S& xml) {
+    const auto marks = xml.rfind(labels);
+    ASSERT_NE(marks, S::npos);
+    S dressed = xml.substr(marks);
+    ReplaceSpan(dressed, "<a:defRPr", "</a:pPr>",
+                "<a:defRPr sz=\"1400\" b=\"0\" i=\"1\">" + kRed + georgia + "</a:defRPr>");
+    xml = xml.substr(0, marks) + dressed;
+  });
+  for (int i = 0; i < 2; ++i) {
+    Refresh();
+    SaveAndReopen();
+    const S chart = SavedPart(kChart), marks = chart.substr(chart.rfind(labels));
+    EXPECT_NE(marks.find("sz=\"1400\""), S::npos) << marks;
+    EXPECT_NE(marks.find(kRed), S::npos) << marks;
+    EXPECT_NE(marks.find(georgia), S::npos) << marks;
+    for (const auto& [property, value] :
+         {std::pair{"name", "Georgia"}, {"size", "14"}, {"style", "Italic"}, {"color", "255"}}) {
+      EXPECT_NE(StoredDefinition().find(S("<persist property=\"bucket-label-font-") + property +
+                                        "\" value=\"" + value + "\"/>"),
+                S::npos)
+          << property << ' ' << StoredDefinition();
+    }
+  }
+  EXPECT_TRUE(Messages().empty());
+}
+
 TEST_F(HandEditsTest, ThreeDimensionsKeepTheirView) {
-  DrawChart("<dynamic-attributes><attribute setting=\"3D\"/></dynamic-attributes>");
+  DrawChart(test::Settings({"3D"}));
   EditChart([](S& xml) {
     ReplaceSpan(xml, "<c:view3D>", "<c:floor",
                 "<c:view3D><c:rotX val=\"40\"/><c:rotY val=\"120\"/><c:rAngAx val=\"0\"/><c:perspective "

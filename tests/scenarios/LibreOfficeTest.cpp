@@ -1,5 +1,7 @@
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
+#include <vector>
 
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
@@ -91,7 +93,7 @@ class LibreOfficeTest : public test::HostTest {
 TEST_F(LibreOfficeTest, SeesTheSameSeries) {
   Definition bar{"VEX_Chart1", "bar"}, area{"VEX_Chart2", "area"},
       column{"VEX_Chart3", "column", "table-id=\"Data1\" title=\"3-D\""};
-  bar.rest = "<dynamic-attributes><attribute setting=\"stacked\"/></dynamic-attributes>";
+  bar.rest = test::Settings({"stacked"});
   column.rest =
       "<data-labels><data-label show=\"values\"/></data-labels><dynamic-attributes><attribute "
       "setting=\"3D\"/></dynamic-attributes>";

@@ -5,6 +5,7 @@
 #include <regex>
 #include <set>
 #include <sstream>
+#include <vector>
 
 #include "cli/CommandLine.h"
 #include "tests/support/HostTest.h"

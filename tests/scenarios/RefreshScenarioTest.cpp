@@ -1,8 +1,10 @@
 #include <set>
+#include <vector>
 
 #include "controller/CPlotsmithController.h"
 #include "host/excel/Excel.h"
 #include "runtime/Strings.h"
+#include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
 
 namespace plotsmith {
@@ -135,24 +137,44 @@ TEST_F(RefreshScenarioTest, WhatIsNotOursKeepsItsBytes) {
 }
 
 TEST_F(RefreshScenarioTest, ARefreshTwiceChangesNothingMore) {
-  Definition definition{"VEX_Chart1", "area", "table-id=\"Data1\" title=\"T\" number-format=\"$#,##0.00\""};
-  definition.rest =
-      "<axes><axis type=\"label\" label=\"L\"/></axes><data-labels><data-label "
-      "show=\"values\"/></data-labels>"
-      "<dynamic-attributes><attribute setting=\"3D\"/></dynamic-attributes>";
-  Open(SalesBook({definition}));
-  Refresh();
-  SaveAndReopen();
-  Refresh();  // the first that finds a drawn chart, whose look it writes down
-  SaveAndReopen();
-  const auto first = xlsx::Package::Open(folder_ / "saved.xlsx");
-  std::vector<std::pair<S, S>> parts;
-  for (const S& part : first.Parts()) parts.emplace_back(part, first.Read(part));
-  Refresh();
-  SaveAndReopen();
-  const auto second = xlsx::Package::Open(folder_ / "saved.xlsx");
-  EXPECT_EQ(second.Parts().size(), parts.size());
-  for (const auto& [part, bytes] : parts) EXPECT_TRUE(second.Read(part) == bytes) << part;
+  const S axes =
+      "<axes><axis type=\"label\" label=\"L\"/><axis type=\"value\" label=\"V\" sticky=\"yes\"/></axes>";
+  const auto labels = [](const S& show) {
+    return "<data-labels><data-label show=\"" + show + "\"/></data-labels>";
+  };
+  const auto sales = [&](const S& type, const S& rest) {
+    Definition definition{"VEX_Chart1", type, "table-id=\"Data1\" title=\"T\" number-format=\"$#,##0.00\""};
+    definition.rest = rest + "<comment>Said of it</comment>";
+    return SalesBook({definition});
+  };
+  Definition bubbles = test::BubbleDefinition(), buckets = test::BucketDefinition();
+  bubbles.rest += axes + test::Settings({"quadrants", "autoscale-x"}, "static-attributes");
+  buckets.rest += axes + "<data-labels manual-labels=\"yes\"/>";
+  const std::pair<const char*, PlainBook> cases[] = {
+      {"area", sales("area", axes + labels("values") + test::Settings({"3D"}))},
+      {"bar", sales("bar", axes)},
+      {"column", sales("column", axes + labels("values") + test::Settings({"stacked", "100%"}))},
+      {"pie", sales("pie", labels("percentages") + test::Settings({"exploded"}))},
+      {"bubble", test::BubbleBook({{"a", "X", 1, 2, 3}, {"b", "Y", 4, 5, 6}, {"c", "X", 7, 8, 9}}, bubbles)},
+      {"strategic bucket", test::BucketBook(buckets)}};
+  for (const auto& [what, book] : cases) {
+    SCOPED_TRACE(what);
+    Open(book);
+    Refresh();
+    SaveAndReopen();
+    Refresh();  // the first that finds a drawn chart, whose look it writes down
+    SaveAndReopen();
+    const auto first = xlsx::Package::Open(folder_ / "saved.xlsx");
+    std::vector<std::pair<S, S>> parts;
+    for (const S& part : first.Parts()) parts.emplace_back(part, first.Read(part));
+    EXPECT_NE(Chart(1).find("<c:ser>"), S::npos);
+    Refresh();
+    SaveAndReopen();
+    const auto second = xlsx::Package::Open(folder_ / "saved.xlsx");
+    EXPECT_EQ(second.Parts().size(), parts.size());
+    for (const auto& [part, bytes] : parts) EXPECT_TRUE(second.Read(part) == bytes) << part;
+    EXPECT_TRUE(Messages().empty()) << Messages()[0];
+  }
 }
 
 }  // namespace

@@ -2,11 +2,10 @@
 
 #include <unistd.h>
 
-#include "builder/BuilderVariables.h"
 #include "common/App.h"
-#include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
+#include "controller/ResetSystem.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith::test {
@@ -22,22 +21,27 @@ TempFolder::~TempFolder() {
   std::filesystem::remove_all(path_, ignored);
 }
 
+void EditPart(const std::string& path, const std::string& part,
+              const std::function<void(std::string& text)>& edit) {
+  auto package = xlsx::Package::Open(path);
+  std::string text = package.Read(part);
+  edit(text);
+  package.Replace(part, text);
+  package.Save(path);
+}
+
 HostTest::HostTest() : desktop_(std::make_shared<cli::ConsoleDesktop>()) {
-  ResetRunVariables();
-  ResetBuilderVariables();
-  ResetYield();
+  ResetSystem();
   App = {"", desktop_, desktop_};
 }
 
 HostTest::~HostTest() {
-  ResetRunVariables();
-  ResetBuilderVariables();
+  ResetSystem();
   App = {};
 }
 
 void HostTest::Start(const std::string& version) {
-  ResetRunVariables();
-  ResetBuilderVariables();
+  ResetSystem();
   host_ = xlsx::Application::Create(version);
   host_->Journal().SetSink([this](std::string_view line) { journal_.emplace_back(line); });
 }
@@ -96,6 +100,12 @@ PlainSheet SalesSheet(const std::string& name) {
 std::string Definition::Xml() const {
   return "<chart id=\"" + id + "\" name=\"Name of " + id + "\" type=\"" + type + "\" " + attributes + ">" +
          categories + series + values + rest + "</chart>";
+}
+
+std::string Settings(std::initializer_list<const char*> settings, const std::string& group) {
+  std::string xml = "<" + group + ">";
+  for (const char* setting : settings) xml += std::string("<attribute setting=\"") + setting + "\"/>";
+  return xml + "</" + group + ">";
 }
 
 PlainBook SalesBook(const std::vector<Definition>& definitions) {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <gtest/gtest.h>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <vector>
@@ -25,6 +27,10 @@ class TempFolder {
  private:
   std::filesystem::path path_;
 };
+
+/// What another program does to one part of a saved workbook.
+void EditPart(const std::string& path, const std::string& part,
+              const std::function<void(std::string& text)>& edit);
 
 /// A test of the system on the embedded host: before each case all module variables are as the component
 /// starts.
@@ -72,6 +78,10 @@ struct Definition {
 
   std::string Xml() const;
 };
+
+/// Settings of a chart, as they stand in a definition.
+std::string Settings(std::initializer_list<const char*> settings,
+                     const std::string& group = "dynamic-attributes");
 
 /// A sheet of data, a sheet with one empty frame for each definition, and the definitions.
 PlainBook SalesBook(const std::vector<Definition>& definitions);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <utility>
 #include <variant>
@@ -33,7 +32,8 @@ struct PlainSheet {
   std::string extraAnchors;           ///< raw XML in the drawing
 };
 
-/// A workbook as some other program writes it: parts written by hand, with nothing of the product's own.
+/// A workbook as some other program writes it: parts written by hand. Only the zip file around them is of the
+/// product's making.
 struct PlainBook {
   std::vector<PlainSheet> sheets;
   std::vector<std::pair<std::string, std::string>> names;  ///< defined names and what they refer to

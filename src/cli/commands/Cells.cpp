@@ -3,6 +3,8 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/Session.h"
+#include "runtime/RuntimeError.h"
+#include "runtime/Variant.h"
 #include "xlsx/Limits.h"
 #include "xlsx/Worksheet.h"
 

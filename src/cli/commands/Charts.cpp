@@ -5,6 +5,7 @@
 #include "cli/Session.h"
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
+#include "dom/Dom.h"
 
 namespace plotsmith::cli {
 namespace {

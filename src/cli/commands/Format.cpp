@@ -3,7 +3,6 @@
 #include <istream>
 #include <optional>
 
-#include "runtime/Strings.h"
 #include "xlsx/numberformat/NumberFormat.h"
 #include "xlsx/package/Xml.h"
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "cli/Command.h"
 
 namespace plotsmith::cli {

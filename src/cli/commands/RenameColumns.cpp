@@ -7,6 +7,7 @@
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
+#include "dom/Dom.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -38,6 +39,17 @@ bool HasColumns(const std::string& table, const std::vector<Renaming>& renamings
   return std::all_of(renamings.begin(), renamings.end(), [&](const Renaming& renaming) {
     return std::any_of(columns.begin(), columns.end(), [&](const dom::IXMLDOMElement& column) {
       return GetAttributeText(column, "name") == renaming.second;
+    });
+  });
+}
+
+/// Whether one of the table's charts names the column.
+bool IsCharted(const std::string& table, const std::string& column) {
+  return std::any_of(colCharts->begin(), colCharts->end(), [&](const dom::IXMLDOMDocument2& document) {
+    if (GetAttributeText(document.selectSingleNode("chart"), "table-id") != table) return false;
+    const auto columns = document.selectNodes("//column");
+    return std::any_of(columns.begin(), columns.end(), [&](const dom::IXMLDOMElement& element) {
+      return GetAttributeText(element, "name") == column;
     });
   });
 }
@@ -92,7 +104,17 @@ int RenameColumnsCommand::Run(const GlobalOptions& options, const Streams& strea
   // Axis titles that bear a column's name go along. They must be drawn from these definitions: to the next
   // run a title with the old name would be one that a person typed.
   if (HasColumns(table_, renamings)) controller.RefreshChartsForTable(session.Host(), table_);
-  return session.Save(output_);
+  // An old name that no chart had, and that didn't become its new one in an earlier run either, is perhaps
+  // mistyped.
+  std::vector<std::string> strangers;
+  for (const auto& [oldName, newName] : renamings) {
+    if (colCharts && !IsCharted(table_, newName)) strangers.push_back(oldName);
+  }
+  const int code = session.Save(output_);
+  for (const std::string& name : strangers) {
+    streams.err << "plotsmith: no chart of the table \"" << table_ << "\" has a column \"" << name << "\".\n";
+  }
+  return strangers.empty() ? code : exit_code::kSaidSomething;
 }
 
 }  // namespace plotsmith::cli

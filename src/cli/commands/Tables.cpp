@@ -1,10 +1,12 @@
 #include "cli/commands/Tables.h"
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 
 #include "cli/Session.h"
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
+#include "dom/Dom.h"
 
 namespace plotsmith::cli {
 namespace {

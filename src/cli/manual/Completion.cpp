@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <map>
+#include <vector>
 
 #include "cli/manual/Manual.h"
 

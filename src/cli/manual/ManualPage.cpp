@@ -1,4 +1,4 @@
-#include <algorithm>
+#include <vector>
 
 #include "cli/manual/Manual.h"
 
@@ -73,8 +73,8 @@ std::string ManualPage(const CommandLine& line) {
   }
   page += ".SH DESCRIPTION\n" + Plain(line.app.get_description()) + "\n.SH COMMANDS\n";
   for (const CLI::App* verb : line.verbs) {
-    page +=
-        ".SS " + verb->get_name() + "\n" + Plain(verb->get_description()) + ".\n" + Entries(OptionsOf(*verb));
+    page += ".SS " + Plain(verb->get_name()) + "\n" + Plain(verb->get_description()) + ".\n" +
+            Entries(OptionsOf(*verb));
   }
   page += ".SH OPTIONS\nThey hold for every command.\n" + Entries(OptionsOf(line.app));
   page += ".SH EXIT STATUS\n" + Plain(line.app.get_footer()) + "\n";

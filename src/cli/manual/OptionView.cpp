@@ -1,4 +1,4 @@
-#include <algorithm>
+#include <vector>
 
 #include "cli/manual/Manual.h"
 

@@ -171,6 +171,9 @@ inline constexpr std::int32_t msoShapeRectangle = 1;
 inline constexpr std::int32_t msoShapeOval = 9;
 ///@}
 
+/// MsoAutoSize.
+inline constexpr std::int32_t msoAutoSizeShapeToFitText = 1;
+
 /// MsoTextOrientation.
 inline constexpr std::int32_t msoTextOrientationHorizontal = 1;
 

@@ -1,4 +1,4 @@
-#include "readback/ChartIdentity.h"
+#include "readback/ChartReadBack.h"
 
 #include <algorithm>
 #include <array>
@@ -62,10 +62,6 @@ const TypeEntry* FindType(std::int32_t lChartType) {
   return oFound == kTypes.end() ? nullptr : &*oFound;
 }
 
-void RemoveChild(IXMLDOMElement& oChartElement, const char* sName) {
-  if (auto oChild = oChartElement.selectSingleNode(sName)) oChartElement.removeChild(oChild);
-}
-
 }  // namespace
 
 void RevEngineerChart(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& oChartDoc) {
@@ -90,7 +86,8 @@ void RevEngineerChartType(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& oCh
     const std::string sType = oNamed != nullptr        ? std::string(oNamed->sType)
                               : IsStrBuckChart(oChart) ? "strategic bucket"
                                                        : "unknown";
-    const TypeEntry* oSet = FindType(oChart->ChartType());
+    // asked again, as a host may answer otherwise once its series were looked at
+    const TypeEntry* oEntry = FindType(oChart->ChartType());
     oChartElement.setAttribute("type", sType);
     RemoveChild(oChartElement, "dynamic-attributes");
     auto oSettings = oChartDoc.createElement("dynamic-attributes");
@@ -101,11 +98,11 @@ void RevEngineerChartType(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& oCh
       oAttribute.setAttribute("setting", sSetting);
       oSettings.appendChild(oAttribute);
     };
-    if (oSet == nullptr) return;
-    append(oSet->b3D, "3D");
-    append(oSet->bStacked, "stacked");
-    append(oSet->b100, "100%");
-    append(oSet->bExploded, "exploded");
+    if (oEntry == nullptr) return;
+    append(oEntry->b3D, "3D");
+    append(oEntry->bStacked, "stacked");
+    append(oEntry->b100, "100%");
+    append(oEntry->bExploded, "exploded");
   });
 }
 
@@ -116,10 +113,7 @@ void RevEngineerNumberFormat(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& 
     const std::string sType = GetAttributeText(oChartElement, "type");
     std::string sNumberFormat = GetAttributeText(oChartElement, "number-format");
     if (ArrayContains(sType, kUnformatted)) return;
-    bool b100 = false;
-    for (const IXMLDOMElement& oAttribute : oChartElement.selectNodes("dynamic-attributes/attribute")) {
-      if (GetAttributeText(oAttribute, "setting") == "100%") b100 = true;
-    }
+    const bool b100 = HasSetting(oChartElement, "dynamic-attributes", "100%");
     if (oChart->HasAxis(excel::xlValue)) {
       const auto oTickLabels = oChart->Axes(excel::xlValue, excel::xlPrimary)->TickLabels();
       if (!oTickLabels->NumberFormatLinked() && !b100) sNumberFormat = oTickLabels->NumberFormat();

@@ -12,7 +12,7 @@ namespace plotsmith::test {
 using Lines = std::vector<std::string>;
 
 /// A test of what the drawing of a chart asks the host for, and of what is on the chart then.
-class DrawingTest : public HostTest {
+class ChartCallsTest : public HostTest {
  protected:
   /// The calls on the chart during a refresh of the book.
   Lines ChartCalls(const PlainBook& book, const std::string& version = "16.0");

@@ -1,14 +1,11 @@
-#include "metadata/ChartDefinitionOperations.h"
+#include "metadata/NewChart.h"
 
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/RunVariables.h"
-#include "metadata/MetadataStore.h"
-#include "metadata/TableDefinitions.h"
 #include "runtime/Strings.h"
 
 namespace plotsmith {
-
-using dom::IXMLDOMElement;
 
 namespace {
 
@@ -18,23 +15,6 @@ constexpr std::string_view kIdPrefix = "VEX_Chart";
 constexpr double kFrameStep = 20;
 constexpr double kFrameWidth = 420;
 constexpr double kFrameHeight = 345;
-
-/// `newName` is only asked for where the old name is found.
-template <class NewName>
-void RenameColumn(const dom::IXMLDOMDocument2& oDoc, const std::string& sOld, const NewName& newName) {
-  for (IXMLDOMElement oColumn : oDoc.selectNodes("//column")) {
-    if (GetAttributeText(oColumn, "name") == sOld) oColumn.setAttribute("name", newName());
-    // The axes are looked at for each column, so that a definition without columns keeps its labels. A label
-    // that the user typed is sticky and stays.
-    for (IXMLDOMElement oAxis : oDoc.selectNodes("//axis")) {
-      const std::string sType = GetAttributeText(oAxis, "type");
-      if ((sType == "value" || sType == "label") && GetAttributeText(oAxis, "label") == sOld &&
-          GetAttributeText(oAxis, "sticky") == "no") {
-        oAxis.setAttribute("label", newName());
-      }
-    }
-  }
-}
 
 }  // namespace
 
@@ -93,27 +73,6 @@ void CreateEmptyChart(const std::string& sSheetName, const std::string& sID) {
     oArea->Border()->SetLineStyle(0);
     oArea->Interior()->SetColorIndex(excel::xlColorIndexNone);
     colChartObjects->Add(oFrame->Chart(), sID);
-  });
-}
-
-void UpdateChartColumnNames(const std::string& sTableRangeName,
-                            const std::vector<std::string>& aOldColumnNames,
-                            const std::vector<std::string>& aNewColumnNames) {
-  ReportErrors("PSFunctions.UpdateChartColumnNames", [&] {
-    RetrieveTableDefinitions();
-    if (!colCharts) RetrieveChartDefinitions();
-    for (const auto& oDoc : *colCharts) {
-      if (GetAttributeText(oDoc.selectSingleNode("chart"), "table-id") == sTableRangeName) {
-        for (std::size_t i = 0; i < aOldColumnNames.size(); ++i) {
-          RenameColumn(oDoc, aOldColumnNames[i], [&] {
-            if (i >= aNewColumnNames.size()) throw runtime::RuntimeError(runtime::error::kSubscript);
-            return aNewColumnNames[i];
-          });
-        }
-      }
-      SaveChartDefinition(oDoc);
-      YieldToHost();
-    }
   });
 }
 

@@ -1,15 +1,15 @@
-#include "tests/support/DrawingTest.h"
+#include "tests/support/ChartCallsTest.h"
 
 #include <algorithm>
 
 namespace plotsmith::test {
 
-Lines DrawingTest::ChartCalls(const PlainBook& book, const std::string& version) {
+Lines ChartCallsTest::ChartCalls(const PlainBook& book, const std::string& version) {
   Open(book, version);
   return ChartCalls();
 }
 
-Lines DrawingTest::ChartCalls() {
+Lines ChartCallsTest::ChartCalls() {
   journal_.clear();
   Refresh();
   Lines calls;
@@ -18,7 +18,7 @@ Lines DrawingTest::ChartCalls() {
   return calls;
 }
 
-excel::Ref<excel::Chart> DrawingTest::Chart() {
+excel::Ref<excel::Chart> ChartCallsTest::Chart() {
   // the run has let go of its workbook
   return host_->ActiveWorkbook()->Worksheets()->Item("Charts")->ChartObjects()->Item("Chart 1")->Chart();
 }

@@ -1,0 +1,17 @@
+#include "tests/support/RunCommand.h"
+
+#include <sstream>
+#include <utility>
+
+#include "cli/CommandLine.h"
+
+namespace plotsmith::test {
+
+CommandResult RunCommand(std::vector<std::string> arguments, const std::string& input, bool terminal) {
+  std::istringstream in(input);
+  std::ostringstream out, err;
+  const int code = cli::RunCommandLine(std::move(arguments), {in, out, err, terminal});
+  return {code, out.str(), err.str()};
+}
+
+}  // namespace plotsmith::test
