@@ -6,6 +6,7 @@
 
 #include "cli/CommandLine.h"
 #include "cli/Session.h"
+#include "runtime/Strings.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/RunCommand.h"
 
@@ -224,7 +225,7 @@ TEST_F(CommandTest, ListsAndJson) {
     "chartSheet": "Charts",
     "tableSheet": "Data1",
     "table": "Data1",
-    "state": "ok"
+    "state": "not drawn"
   }
 ]
 )");
@@ -241,14 +242,26 @@ TEST_F(CommandTest, StatesOfCharts) {
   test::Definition unsupported{"VEX_Chart1", "unknown"}, gone{"VEX_Chart2", "bar", "table-id=\"Gone\""};
   test::Definition unavailable{"VEX_Chart3"};
   unavailable.values = "<values><column name=\"Nowhere\"/></values>";
-  const S book = Write(SalesBook({unsupported, gone, unavailable, {"VEX_Chart4"}}));
+  test::PlainBook plain = SalesBook({unsupported, gone, unavailable, {"VEX_Chart4"}, unavailable});
+  plain.Sheet("VEX_ChartDefinitions").rows.back()[0] =
+      runtime::Replace(unavailable.Xml(), "Chart3", "Chart5");
+  auto& filled = plain.Sheet("Charts").frames.back();
+  filled.alternativeText = "VEX_Chart5";
+  filled.chartXml = runtime::Replace(test::EmptyFrameChart(), "<a:noFill/>",
+                                     "<a:solidFill><a:srgbClr val=\"FFFFFF\"/></a:solidFill>");
+  const S book = Write(plain);
+  const auto states = [&] {
+    std::istringstream list(RunCommand({"charts", book}).out);
+    std::vector<S> lines;
+    for (S id, place, state;
+         std::getline(list, id) && std::getline(list, place) && std::getline(list, state);)
+      lines.push_back(id.substr(0, 10) + state);
+    return lines;
+  };
+  EXPECT_EQ(states()[3], "VEX_Chart4  not drawn");
   EXPECT_EQ(RunCommand({"refresh", book}).code, 1);
-  std::istringstream list(RunCommand({"charts", book}).out);
-  std::vector<S> states;
-  for (S id, where, state; std::getline(list, id) && std::getline(list, where) && std::getline(list, state);)
-    states.push_back(id.substr(0, 10) + state);
-  EXPECT_EQ(states, (std::vector<S>{"VEX_Chart1  unsupported type", "VEX_Chart2  table no longer fits",
-                                    "VEX_Chart3  unavailable", "VEX_Chart4  ok"}));
+  EXPECT_EQ(states(), (std::vector<S>{"VEX_Chart1  unsupported type", "VEX_Chart2  table no longer fits",
+                                      "VEX_Chart3  unavailable", "VEX_Chart4  ok", "VEX_Chart5  not drawn"}));
 }
 
 TEST_F(CommandTest, Formats) {

@@ -4,20 +4,26 @@
 
 #include "cli/Session.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/RunVariables.h"
 #include "dom/Dom.h"
+#include "host/excel/Excel.h"
 
 namespace plotsmith::cli {
 namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// How a chart stands, as its definition tells.
+/// How a chart stands, as its definition tells and the chart shows.
 const char* State(const dom::IXMLDOMElement& chart) {
   if (GetAttributeText(chart, "type") == "unknown") return "unsupported type";
   if (GetAttributeText(chart, "table-corrupted") == "yes") return "table no longer fits";
   if (GetAttributeText(chart, "chart-area-crosshatched") == "yes") return "unavailable";
-  return "ok";
+  // one whose area has a filling of its own isn't crosshatched, but it has lost its series
+  const bool drawn = ValueOr(false, [&] {
+    return colChartObjects->Item(GetAttributeText(chart, "id"))->SeriesCollection()->Count() > 0;
+  });
+  return drawn ? "ok" : "not drawn";
 }
 
 Json Describe(const dom::IXMLDOMElement& chart) {
