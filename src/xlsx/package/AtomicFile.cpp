@@ -16,14 +16,15 @@ namespace {
   throw PackageError("can't write " + path + ": " + std::strerror(errno));
 }
 
-void Sync(const std::string& path, int flags) {
+/// False, with the reason in errno, if the file or folder can't be written through.
+bool Sync(const std::string& path, int flags) {
   const int file = open(path.c_str(), flags | O_CLOEXEC);
-  if (file < 0) Fail(path);
+  if (file < 0) return false;
   const bool synced = fsync(file) == 0 || errno == EINVAL;  // some file systems can't sync a folder
   const int error = errno;
   close(file);
   errno = error;
-  if (!synced) Fail(path);
+  return synced;
 }
 
 mode_t NewFileMode() {
@@ -63,13 +64,12 @@ void AtomicFile::Commit() {
   if (replaces && chown(temporary_.c_str(), old.st_uid, old.st_gid) != 0) {
     // only root may give a file away; the copy then belongs to who made it
   }
-  Sync(temporary_, O_RDONLY);
+  if (!Sync(temporary_, O_RDONLY)) Fail(temporary_);
   if (rename(temporary_.c_str(), path_.c_str()) != 0) Fail(path_);
   committed_ = true;
-  Sync(std::filesystem::path(path_).parent_path().empty()
-           ? "."
-           : std::filesystem::path(path_).parent_path().string(),
-       O_RDONLY | O_DIRECTORY);
+  // the new file is in place, whatever becomes of this
+  const auto folder = std::filesystem::path(path_).parent_path();
+  Sync(folder.empty() ? "." : folder.string(), O_RDONLY | O_DIRECTORY);
 }
 
 }  // namespace plotsmith::xlsx
