@@ -116,7 +116,8 @@ Section TextsAndLook() {
       Labels("values") + Look(Persist("label-font-style", "Bold") + Persist("label-font-color", "16777215") +
                               Persist("legend-visibility", "show") + Persist("legend-font-size", "12") +
                               Persist("legend-font-style", "Italic")));
-  add("comment", "a comment box, whose text the definition repeats", "", "<comment>West has caught up.</comment>", "West has caught up.");
+  add("comment", "a comment box, whose text the definition repeats", "",
+      "<comment>West has caught up.</comment>", "West has caught up.");
   section.pictures.push_back({"unavailable", "a chart without a filling whose table is gone",
                               "table-id=\"Gone\" type=\"column\" title=\"Revenue\"", kByQuarter,
                               "table-id=\"Gone\"", ""});
@@ -146,7 +147,7 @@ Section Bubbles() {
                   "middle of both axes divide the chart in four.",
                   {}};
   const std::string columns = Columns("categories", "rows", {"Country"}) +
-                              Columns("values", "", {"Life expectancy"}) +
+                              Columns("values", "", {"City dwellers"}) +
                               Columns("x-values", "", {"GDP per head"});
   const std::string sizes = Columns("bubble-sizes", "", {"Population"});
   const std::string regions = Columns("series", "rows", {"Region"}), none = Columns("series", "none", {});
@@ -163,8 +164,8 @@ Section Bubbles() {
   add("-no-series", "no series", none + sizes, none);
   add("-zero", "with those of size zero", regions + sizes + options({"show-zero-bubbles"}),
       options({"show-zero-bubbles"}));
-  add("-axis-labels", "axis labels", regions + sizes + Axes("GDP per head", "Life expectancy"),
-      Axes("GDP per head", "Life expectancy"));
+  add("-axis-labels", "axis labels", regions + sizes + Axes("GDP per head", "City dwellers"),
+      Axes("GDP per head", "City dwellers"));
   add("-quadrants", "quadrants", regions + sizes + options({"quadrants"}), options({"quadrants"}));
   const std::string scaled = options({"quadrants", "autoscale-x", "autoscale-y"});
   add("-autoscale", "quadrants, both axes scaled to the data", regions + sizes + scaled, scaled);
@@ -225,14 +226,14 @@ void MakeTables(ExampleBook& book) {
   }
   const auto nations = book.Sheet("Nations");
   Fill(*nations, 1, {"Nations"});
-  Fill(*nations, 3, {"Country", "Region", "GDP per head", "Life expectancy", "Population"});
-  Fill(*nations, 4, {"China", "Asia", 10.1, 78.0, 1408.0});
-  Fill(*nations, 5, {"India", "Asia", 2.1, 71.0, 1383.0});
-  Fill(*nations, 6, {"Japan", "Asia", 40.5, 84.0, 127.0});
-  Fill(*nations, 7, {"United States", "Americas", 65.1, 79.0, 328.0});
+  Fill(*nations, 3, {"Country", "Region", "GDP per head", "City dwellers", "Population"});
+  Fill(*nations, 4, {"China", "Asia", 10.1, 64.0, 1408.0});
+  Fill(*nations, 5, {"India", "Asia", 2.1, 36.0, 1383.0});
+  Fill(*nations, 6, {"Japan", "Asia", 34.0, 92.0, 127.0});
+  Fill(*nations, 7, {"United States", "Americas", 65.1, 83.0, 328.0});
   Fill(*nations, 8, {"Canada", "Americas", 46.3, 82.0, 38.0});
   Fill(*nations, 9, {"Nigeria", "Africa", 2.4, 53.0, 203.0});
-  Fill(*nations, 10, {"South Africa", "Africa", 6.7, 62.0, 59.0});
+  Fill(*nations, 10, {"Algeria", "Africa", 4.2, 75.0, 45.0});
   Fill(*nations, 11, {"Atlantis", "Africa", 30.0, 60.0, 0.0});
   book.Name("VEX_TableRange_Nations", "Nations!$A$1:$E$11");
 
