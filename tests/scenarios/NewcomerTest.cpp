@@ -9,6 +9,7 @@
 
 #include "cli/CommandLine.h"
 #include "tests/support/HostTest.h"
+#include "xlsx/Worksheet.h"
 
 namespace plotsmith {
 namespace {
@@ -86,6 +87,28 @@ TEST_F(NewcomerTest, TheExamplesAreRefreshedWithoutAWord) {
       EXPECT_EQ(state, "  ok") << out << ' ' << id;
   }
   EXPECT_GE(books, 4);
+}
+
+TEST_F(NewcomerTest, TheDefinitionsOfThePageOfFormatsAreDrawn) {
+  const S page = Text(kRoot / "docs/file-formats.md");
+  for (const auto& [type, example] :
+       {std::pair<S, S>{"bubble", "countries"}, {"strategic bucket", "investments"}}) {
+    SCOPED_TRACE(type);
+    const auto begin = page.rfind("<chart ", page.find("type=\"" + type + "\""));
+    S definition = page.substr(begin, page.find("```", begin) - begin);
+    definition = std::regex_replace(definition, std::regex("id=\"VEX_Chart[0-9]\""), "id=\"VEX_Chart1\"");
+    {
+      const auto host = xlsx::Application::Create();
+      host->Open((kRoot / "examples" / (example + ".xlsx")).string());
+      host->Book().FindWorksheet("VEX_ChartDefinitions")->Cells(2, 1)->SetValue(definition);
+      host->Book().Save(folder_ / "book.xlsx");
+    }
+    EXPECT_EQ(Shell(S(PLOTSMITH_COMMAND) + " refresh " + (folder_ / "book.xlsx")), "");
+    const S charts = Shell(S(PLOTSMITH_COMMAND) + " charts " + (folder_ / "book.xlsx"));
+    EXPECT_TRUE(charts.starts_with("VEX_Chart1  \"" + S(type == "bubble" ? "Wealth" : "Investments") + "\""))
+        << charts;
+    EXPECT_EQ(charts.find("not drawn"), S::npos) << charts;
+  }
 }
 
 TEST_F(NewcomerTest, TheReadmeNamesEachVerb) {
