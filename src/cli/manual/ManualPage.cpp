@@ -1,3 +1,4 @@
+#include <utility>
 #include <vector>
 
 #include "cli/manual/Manual.h"
@@ -31,6 +32,14 @@ std::string Plain(const std::string& text) {
 
 std::string Bold(const std::string& text) { return "\\fB" + Plain(text) + "\\fR"; }
 std::string Italic(const std::string& text) { return "\\fI" + Plain(text) + "\\fR"; }
+
+const std::pair<std::string, std::string> kExamples[] = {
+    {"refresh sales.xlsx --table Data1 -o new.xlsx",
+     "Rebuild the charts that hang on the table Data1, and leave the workbook as it is."},
+    {"rename-columns sales.xlsx --table Data1 Region=Area",
+     "Carry a heading that was changed in the table into its charts."},
+    {"charts sales.xlsx --json", "See how each chart stands, for a program to read."},
+    {"cells sales.xlsx 'VEX_ChartData!A1:D9'", "Look at the data that a chart draws."}};
 
 /// "-o, --output FILE"
 std::string Heading(const OptionView& option) {
@@ -77,6 +86,9 @@ std::string ManualPage(const CommandLine& line) {
             Entries(OptionsOf(*verb));
   }
   page += ".SH OPTIONS\nThey hold for every command.\n" + Entries(OptionsOf(line.app));
+  page += ".SH EXAMPLES\n";
+  for (const auto& [command, sentence] : kExamples)
+    page += ".TP\n" + Bold(name + " " + command) + "\n" + Plain(sentence) + "\n";
   page += ".SH EXIT STATUS\n" + Plain(line.app.get_footer()) + "\n";
   return page;
 }
