@@ -29,14 +29,20 @@ std::size_t OptionLength(const CLI::App& app, const std::string& argument) {
   return option->get_items_expected_min() > 0 && sign == argument.npos ? 2 : 1;
 }
 
-/// A number format or a value may look like an option ("-0.0", "-h:mm"): behind the verb `format`, what isn't
-/// an option in full goes behind "--".
-std::vector<std::string> WithFormatsBehindTheOptions(std::vector<std::string> arguments,
-                                                     const CLI::App& app) {
+/// Where the verb stands: behind options that hold for every command.
+std::size_t VerbPosition(const std::vector<std::string>& arguments, const CLI::App& app) {
   std::size_t at = 0;
   while (at < arguments.size() && OptionLength(app, arguments[at]) > 0) {
     at += OptionLength(app, arguments[at]);
   }
+  return at;
+}
+
+/// A number format or a value may look like an option ("-0.0", "-h:mm"): behind the verb `format`, what isn't
+/// an option in full goes behind "--".
+std::vector<std::string> WithFormatsBehindTheOptions(std::vector<std::string> arguments,
+                                                     const CLI::App& app) {
+  std::size_t at = VerbPosition(arguments, app);
   if (at >= arguments.size() || arguments[at] != "format") return arguments;
   const CLI::App& verb = *app.get_subcommand("format");
   std::vector<std::string> options(arguments.begin(), arguments.begin() + static_cast<std::ptrdiff_t>(++at));
@@ -83,6 +89,12 @@ int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
     return exit_code::kUsage;
   };
   try {
+    const std::size_t at = VerbPosition(arguments, line.app);
+    const bool known = at >= arguments.size() || arguments[at].starts_with('-') ||
+                       std::any_of(line.verbs.begin(), line.verbs.end(),
+                                   [&](const CLI::App* verb) { return verb->get_name() == arguments[at]; });
+    if (!known)
+      return fail("there is no command \"" + arguments[at] + "\" (try plotsmith --help)", exit_code::kUsage);
     arguments = WithFormatsBehindTheOptions(std::move(arguments), line.app);
     std::reverse(arguments.begin(), arguments.end());  // as the parser wants them
     int code = exit_code::kDone;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <fstream>
 #include <set>
 
@@ -77,6 +78,7 @@ bool IsSheetName(std::string_view name) {
 Workbook::~Workbook() = default;
 
 std::shared_ptr<Workbook> Workbook::Open(xlsx::Application& application, const std::string& path) {
+  if (std::filesystem::is_directory(path)) throw PackageError("it is a folder");
   if (!std::ifstream(path)) throw PackageError("it can't be opened");
   if (const char* kind = ForeignKind(path)) throw PackageError(kind);
   std::shared_ptr<Workbook> book(new Workbook(application));

@@ -86,6 +86,8 @@ TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
     EXPECT_EQ(Bytes(path), before);
   }
   EXPECT_EQ(RunCommand({"refresh", odd}).code, 0);
+  EXPECT_EQ(RunCommand({"refresh", folder_.Path().string()}).err,
+            "plotsmith: can't read \"" + folder_.Path().string() + "\": it is a folder.\n");
   const CommandResult unwritable = RunCommand({"refresh", odd, "-o", folder_ / "no/folder/x.xlsx"});
   EXPECT_EQ(unwritable.code, 3);
   EXPECT_TRUE(unwritable.err.starts_with("plotsmith: can't save ")) << unwritable.err;
@@ -153,6 +155,8 @@ TEST_F(CommandTest, WrongUsageIsTwo) {
     EXPECT_TRUE(result.err.starts_with("plotsmith: ")) << result.err;
     EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 1) << result.err;
   }
+  EXPECT_EQ(RunCommand({"--journal", "dance"}).err,
+            "plotsmith: there is no command \"dance\" (try plotsmith --help)\n");
   EXPECT_EQ(RunCommand({"--help"}).code, 0);
   EXPECT_NE(RunCommand({"refresh", "--help"}).out.find("--table"), S::npos);
 }
