@@ -39,10 +39,9 @@ std::size_t VerbPosition(const std::vector<std::string>& arguments, const CLI::A
 }
 
 /// A number format or a value may look like an option ("-0.0", "-h:mm"): behind the verb `format`, what isn't
-/// an option in full goes behind "--".
-std::vector<std::string> WithFormatsBehindTheOptions(std::vector<std::string> arguments,
+/// an option in full goes behind "--". `at` is the verb's position.
+std::vector<std::string> WithFormatsBehindTheOptions(std::vector<std::string> arguments, std::size_t at,
                                                      const CLI::App& app) {
-  std::size_t at = VerbPosition(arguments, app);
   if (at >= arguments.size() || arguments[at] != "format") return arguments;
   const CLI::App& verb = *app.get_subcommand("format");
   std::vector<std::string> options(arguments.begin(), arguments.begin() + static_cast<std::ptrdiff_t>(++at));
@@ -95,7 +94,7 @@ int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
                                    [&](const CLI::App* verb) { return verb->get_name() == arguments[at]; });
     if (!known)
       return fail("there is no command \"" + arguments[at] + "\" (try plotsmith --help)", exit_code::kUsage);
-    arguments = WithFormatsBehindTheOptions(std::move(arguments), line.app);
+    arguments = WithFormatsBehindTheOptions(std::move(arguments), at, line.app);
     std::reverse(arguments.begin(), arguments.end());  // as the parser wants them
     int code = exit_code::kDone;
     try {

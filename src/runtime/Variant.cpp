@@ -7,13 +7,15 @@
 #include <ctime>
 #include <limits>
 
+#include "runtime/Ascii.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 
 namespace plotsmith::runtime {
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+using ascii::IsDigit;
+
 bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
 /// `text` is digits, an optional point and an optional exponent, and nothing else; infinity if it is too

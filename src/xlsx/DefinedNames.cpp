@@ -7,6 +7,7 @@
 #include "host/excel/DefinedName.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Range.h"
 #include "xlsx/Worksheet.h"
 
@@ -43,7 +44,7 @@ class BookName final : public excel::DefinedName {
     const auto range = ParseSheetRange(definition);
     const auto sheet = range ? book_.FindWorksheet(range->sheet) : nullptr;
     if (!sheet) {
-      throw RuntimeError(runtime::error::kApplication, "Method 'RefersToRange' of object 'Name' failed");
+      throw MethodFailed("RefersToRange", "Name");
     }
     return MakeRange(sheet, range->range);
   }

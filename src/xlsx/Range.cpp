@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Limits.h"
 #include "xlsx/Worksheet.h"
 
@@ -78,12 +79,12 @@ class SheetRangeObject final : public excel::Range {
     const bool inside = column >= cells_.column1 && column <= cells_.column2;
     if (!plain || (order1 != excel::xlAscending && order1 != excel::xlDescending) ||
         (header != excel::xlYes && header != excel::xlNo)) {
-      throw RuntimeError(runtime::error::kApplication, "Sort method of Range class failed");
+      throw Refusal("Sort method of Range class failed");
     }
     if (!inside) {
-      throw RuntimeError(runtime::error::kApplication,
-                         "The sort reference is not valid. Make sure that it's within the data you want to "
-                         "sort, and the first Sort By box isn't the same or blank.");
+      throw Refusal(
+          "The sort reference is not valid. Make sure that it's within the data you want to "
+          "sort, and the first Sort By box isn't the same or blank.");
     }
     CellRange rows = cells_;
     if (header == excel::xlYes) ++rows.row1;
@@ -104,7 +105,7 @@ class SheetRangeObject final : public excel::Range {
 
   void CheckWholeRows() const {
     if (cells_.ColumnCount() != limits::kColumns) {
-      throw RuntimeError(runtime::error::kApplication, "Only whole rows can be inserted or deleted.");
+      throw Refusal("Only whole rows can be inserted or deleted.");
     }
   }
 

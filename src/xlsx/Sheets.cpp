@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "runtime/RuntimeError.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith::xlsx {
@@ -29,7 +30,7 @@ class BookSheets final : public excel::Sheets {
 
   Ref<excel::Worksheet> Add(Ref<excel::Sheet> before, Ref<excel::Sheet> after) override {
     if (book_.ProtectStructure()) {
-      throw RuntimeError(runtime::error::kApplication, "Method 'Add' of object 'Sheets' failed");
+      throw MethodFailed("Add", "Sheets");
     }
     const auto name = [](const Ref<excel::Sheet>& sheet) {
       return sheet ? runtime::Variant(sheet->Name()) : runtime::Variant();

@@ -10,6 +10,7 @@
 #include "runtime/Strings.h"
 #include "xlsx/Application.h"
 #include "xlsx/DefinedNames.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Limits.h"
 #include "xlsx/Sheets.h"
 #include "xlsx/Worksheet.h"
@@ -261,7 +262,7 @@ std::shared_ptr<Worksheet> Workbook::AddWorksheet(std::size_t position) {
 
 void Workbook::RemoveSheet(const SheetEntry& sheet) {
   if (!sheet.worksheet || !sheet.worksheet->IsNew()) {
-    throw RuntimeError(runtime::error::kApplication, "The sheets of users can't be deleted.");
+    throw Refusal("The sheets of users can't be deleted.");
   }
   const std::size_t position = PositionOf(sheet);
   pugi::xml_node node = sheet.node;
@@ -297,13 +298,13 @@ void Workbook::RenumberTabs(std::size_t position, int step) {
 void Workbook::RenameSheet(SheetEntry& sheet, std::string_view name) {
   const auto other = FindSheet(name);
   if (!IsSheetName(name)) {
-    throw RuntimeError(runtime::error::kApplication, "You typed an invalid name for a sheet or chart.");
+    throw Refusal("You typed an invalid name for a sheet or chart.");
   }
   if (other && other.get() != &sheet) {
-    throw RuntimeError(runtime::error::kApplication, "That name is already taken. Try a different one.");
+    throw Refusal("That name is already taken. Try a different one.");
   }
   if (!sheet.worksheet || !sheet.worksheet->IsNew()) {
-    throw RuntimeError(runtime::error::kApplication, "The sheets of users can't be renamed.");
+    throw Refusal("The sheets of users can't be renamed.");
   }
   sheet.name = name;
   xml::SetAttribute(sheet.node, "name", name);
@@ -354,8 +355,7 @@ Ref<excel::Chart> Workbook::ActiveChart() {
 
 void Workbook::RaiseDamage(const PackageError& error) {
   if (!damage_) damage_ = error.what();
-  throw RuntimeError(runtime::error::kApplication,
-                     "The workbook can't be read: " + std::string(error.what()) + ".");
+  throw Refusal("The workbook can't be read: " + std::string(error.what()) + ".");
 }
 
 bool Workbook::Changed() const {

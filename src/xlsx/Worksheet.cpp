@@ -7,6 +7,7 @@
 
 #include "runtime/RuntimeError.h"
 #include "xlsx/Application.h"
+#include "xlsx/Errors.h"
 #include "xlsx/Limits.h"
 #include "xlsx/Range.h"
 #include "xlsx/SheetDrawing.h"
@@ -97,7 +98,7 @@ CellGrid& Worksheet::Grid() {
   }
   const SheetContents& contents = Contents();
   if (!isNew_ && contents.formulas) {
-    throw RuntimeError(runtime::error::kApplication, "A sheet with formulas can't be written.");
+    throw Refusal("A sheet with formulas can't be written.");
   }
   if (contents.used && contents.used->CellCount() > std::int64_t{limits::kGridCells}) {
     CellGrid::CheckRoom(RoomOf(contents.cells));
@@ -208,8 +209,7 @@ void Worksheet::ClearCells(const CellRange& range) {
 
 void Worksheet::SetNumberFormat(const CellRange& range, std::string_view code) {
   if (!NumberFormat::Parse(code)) {
-    throw RuntimeError(runtime::error::kApplication,
-                       "Unable to set the NumberFormat property of the Range class");
+    throw CantSet("NumberFormat", "Range");
   }
   for (std::int32_t row = range.row1; row <= range.row2; ++row) {
     for (std::int32_t column = range.column1; column <= range.column2; ++column) {
@@ -251,8 +251,7 @@ bool Worksheet::HasMergedCells() {
 void Worksheet::SortCells(const CellRange& range, const SortOptions& options) {
   CellGrid& grid = Grid();
   if (book_.Guarded([&] { return HasMergedCells(); })) {
-    throw RuntimeError(runtime::error::kApplication,
-                       "To do this, all the merged cells need to be the same size.");
+    throw Refusal("To do this, all the merged cells need to be the same size.");
   }
   SortRows(grid, range, options);
 }
@@ -273,7 +272,7 @@ Ref<excel::Range> Worksheet::Cells(std::int32_t row, std::int32_t column) {
 Ref<excel::Range> Worksheet::Range(std::string_view cell1, std::string_view cell2) {
   const auto first = ParseA1(cell1), second = ParseA1(cell2);
   if (!first || !second) {
-    throw RuntimeError(runtime::error::kApplication, "Method 'Range' of object '_Worksheet' failed");
+    throw MethodFailed("Range", "_Worksheet");
   }
   return MakeRange(shared_from_this(),
                    {std::min(first->row1, second->row1), std::min(first->column1, second->column1),
@@ -314,7 +313,7 @@ SheetDrawing* Worksheet::FindDrawing() {
 SheetDrawing& Worksheet::EnsureDrawing() {
   if (SheetDrawing* drawing = FindDrawing()) return *drawing;
   if (drawingDamage_) {
-    throw RuntimeError(runtime::error::kApplication, "The drawing can't be read: " + *drawingDamage_ + ".");
+    throw Refusal("The drawing can't be read: " + *drawingDamage_ + ".");
   }
   auto& package = book_.Package();
   const std::string part = package.FreeName(book_.Folder() + "drawings/drawing", ".xml");

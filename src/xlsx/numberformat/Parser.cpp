@@ -157,13 +157,13 @@ class Reader {
   std::string_view code_;
   std::size_t position_ = 0;
   Section* section_ = nullptr;
-  bool has_bracket_ = false;
-  bool has_color_ = false;
-  bool has_field_ = false;  // anything but literals
+  bool hasBracket_ = false;
+  bool hasColor_ = false;
+  bool hasField_ = false;  // anything but literals
   bool hasDigit_ = false;
-  std::string_view system_format_;
-  std::size_t literal_letter_end_ = 0;
-  std::size_t buddhist_year_end_ = 0;
+  std::string_view systemFormat_;
+  std::size_t literalLetterEnd_ = 0;
+  std::size_t buddhistYearEnd_ = 0;
 };
 
 void Reader::Add(Kind kind, std::string_view text, char symbol) {
@@ -171,7 +171,7 @@ void Reader::Add(Kind kind, std::string_view text, char symbol) {
   section_->tokens.push_back(
       {kind, symbol, static_cast<std::uint32_t>(texts.size()), static_cast<std::uint32_t>(text.size())});
   texts += text;
-  has_field_ |= kind != Kind::kLiteral && kind != Kind::kPlainDigit;
+  hasField_ |= kind != Kind::kLiteral && kind != Kind::kPlainDigit;
   hasDigit_ |= kind == Kind::kDigit;
 }
 
@@ -183,14 +183,14 @@ std::string_view Reader::Run() const {
 
 bool Reader::ReadSection(Section& section) {
   section_ = &section;
-  has_bracket_ = has_color_ = has_field_ = hasDigit_ = false;
-  system_format_ = {};
+  hasBracket_ = hasColor_ = hasField_ = hasDigit_ = false;
+  systemFormat_ = {};
   while (position_ < code_.size() && code_[position_] != ';') {
     if (!ReadToken()) return false;
   }
-  if (!system_format_.empty()) return UseSystemFormat(system_format_);
+  if (!systemFormat_.empty()) return UseSystemFormat(systemFormat_);
   // Only a colour or a condition: numbers are shown as ever.
-  if (section.tokens.empty() && has_bracket_) Add(Kind::kGeneral, {});
+  if (section.tokens.empty() && hasBracket_) Add(Kind::kGeneral, {});
   return SettleSection();
 }
 
@@ -259,21 +259,21 @@ bool Reader::ReadBracket() {
   }
 
   // The rest says something about the whole section and stands ahead of it.
-  if (has_field_) return false;
-  has_bracket_ = true;
+  if (hasField_) return false;
+  hasBracket_ = true;
   if (content[0] == '<' || content[0] == '=' || content[0] == '>') {
     if (section_->condition) return false;
     section_->condition = ParseCondition(content);
     return section_->condition.has_value();
   }
-  if (IsColor(content)) return !std::exchange(has_color_, true);
+  if (IsColor(content)) return !std::exchange(hasColor_, true);
   // Other numerals for the digits, which en-US hasn't got.
   return content.size() == 6 && StartsWith(content, "dbnum") && content[5] >= '1' && content[5] <= '4';
 }
 
 /// A currency text and a locale: numerals, calendar and language, two, two and four hexadecimal digits.
 bool Reader::ReadLocale(std::string_view content) {
-  has_bracket_ = true;
+  hasBracket_ = true;
   const std::size_t dash = content.find('-');
   if (dash != 0) Add(Kind::kLiteral, content.substr(0, dash));
   if (dash == std::string_view::npos) return true;
@@ -281,8 +281,8 @@ bool Reader::ReadLocale(std::string_view content) {
   std::uint32_t id = 0;
   const auto [end, error] = std::from_chars(locale.data(), locale.data() + locale.size(), id, 16);
   const bool isNumber = error == std::errc() && end == locale.data() + locale.size();
-  if (Equals(locale, "x-sysdate") || (isNumber && id == 0xF800)) system_format_ = kSystemDate;
-  if (Equals(locale, "x-systime") || (isNumber && id == 0xF400)) system_format_ = kSystemTime;
+  if (Equals(locale, "x-sysdate") || (isNumber && id == 0xF800)) systemFormat_ = kSystemDate;
+  if (Equals(locale, "x-systime") || (isNumber && id == 0xF400)) systemFormat_ = kSystemTime;
   if (!isNumber) return true;  // a name; its language makes no difference
 
   section_->language = static_cast<std::uint16_t>(id & 0xFFFF);
@@ -306,12 +306,12 @@ bool Reader::ReadLetter() {
   if (Lower(rest[0]) == 'n') return false;  // reserved
 
   const Kind kind = KindOf(rest[0]);
-  const bool behindLiteral = position_ > 0 && literal_letter_end_ == position_;
-  const bool behindBuddhistYear = position_ > 0 && buddhist_year_end_ == position_;
+  const bool behindLiteral = position_ > 0 && literalLetterEnd_ == position_;
+  const bool behindBuddhistYear = position_ > 0 && buddhistYearEnd_ == position_;
   if (kind == Kind::kLiteral) {
     if (behindBuddhistYear) return false;
     take(kind, rest.substr(0, 1));
-    literal_letter_end_ = position_;
+    literalLetterEnd_ = position_;
     return true;
   }
   const std::string_view run = Run();
@@ -324,7 +324,7 @@ bool Reader::ReadLetter() {
   } else {
     take(kind, run);
   }
-  buddhist_year_end_ = position_;
+  buddhistYearEnd_ = position_;
   return true;
 }
 
