@@ -1,9 +1,11 @@
 #include "xlsx/sheet/SheetFormulas.h"
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <optional>
 
+#include "xlsx/Limits.h"
 #include "xlsx/package/Xml.h"
 #include "xlsx/package/XmlStream.h"
 #include "xlsx/package/XmlTags.h"
@@ -59,7 +61,7 @@ class FormulaShifter {
       // rows and cells without a reference follow the one before
       if (local == "row") {
         const auto row = xml::ParseInteger(AttributeIn(tag->attributes, "r"));
-        row_ = row ? static_cast<std::int32_t>(*row) : row_ + 1;
+        row_ = row ? static_cast<std::int32_t>(std::clamp<long long>(*row, 0, limits::kRows)) : row_ + 1;
         column_ = 0;
       } else if (local == "c") {
         const auto cell = ParseA1(AttributeIn(tag->attributes, "r"));
