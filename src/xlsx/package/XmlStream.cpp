@@ -178,19 +178,23 @@ void XmlStream::Drain() {
   } while (Fill());
 }
 
+std::optional<XmlAttribute> TakeAttribute(std::string_view& attributes) {
+  const auto equals = attributes.find('=');
+  const auto open = attributes.find_first_of("\"'", equals);
+  const auto close = open == std::string_view::npos ? open : attributes.find(attributes[open], open + 1);
+  if (close == std::string_view::npos) return std::nullopt;
+  std::string_view name = attributes.substr(0, equals);
+  while (!name.empty() && IsSpace(name.front())) name.remove_prefix(1);
+  while (!name.empty() && IsSpace(name.back())) name.remove_suffix(1);
+  const XmlAttribute attribute{attributes.substr(0, close + 1), name,
+                               attributes.substr(open + 1, close - open - 1)};
+  attributes.remove_prefix(close + 1);
+  return attribute;
+}
+
 std::string AttributeIn(std::string_view attributes, std::string_view name) {
-  while (!attributes.empty()) {
-    const auto equals = attributes.find('=');
-    if (equals == std::string_view::npos) break;
-    std::string_view found = attributes.substr(0, equals);
-    while (!found.empty() && IsSpace(found.front())) found.remove_prefix(1);
-    while (!found.empty() && IsSpace(found.back())) found.remove_suffix(1);
-    const auto open = attributes.find_first_of("\"'", equals);
-    if (open == std::string_view::npos) break;
-    const auto close = attributes.find(attributes[open], open + 1);
-    if (close == std::string_view::npos) break;
-    if (found == name) return xml::Decode(attributes.substr(open + 1, close - open - 1));
-    attributes.remove_prefix(close + 1);
+  while (const auto attribute = TakeAttribute(attributes)) {
+    if (attribute->name == name) return xml::Decode(attribute->value);
   }
   return {};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -55,7 +56,17 @@ class XmlStream {
   bool isConverted_ = false;
 };
 
-/// The value of an attribute in the text between a tag's name and its end, decoded; empty if it is absent.
+/// An attribute as it is written in a tag.
+struct XmlAttribute {
+  std::string_view all;    ///< with the space before it
+  std::string_view name;   ///< with its prefix
+  std::string_view value;  ///< not decoded
+};
+
+/// The first attribute in the text between a tag's name and its end, which is moved behind it; nothing if
+/// there is no other, or what follows isn't one.
+std::optional<XmlAttribute> TakeAttribute(std::string_view& attributes);
+/// The value of an attribute in such a text, decoded; empty if it is absent.
 std::string AttributeIn(std::string_view attributes, std::string_view name);
 /// The same of a boolean, false if it is absent.
 bool BooleanIn(std::string_view attributes, std::string_view name);

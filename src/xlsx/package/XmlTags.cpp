@@ -43,18 +43,13 @@ std::optional<XmlTag> NextTag(std::string_view text, std::size_t from) {
   return std::nullopt;
 }
 
-TextSpan FindAttribute(std::string_view text, const TextSpan& tag, std::string_view name) {
-  constexpr std::string_view kBlanks = " \t\r\n";
-  for (std::size_t from = tag.begin;;) {
-    const auto equals = text.find('=', from);
-    const auto open = text.find_first_of("\"'", equals);
-    if (equals >= tag.end || open >= tag.end) return {};
-    const auto nameEnd = text.find_last_not_of(kBlanks, equals - 1) + 1;
-    const auto blank = text.find_last_of(kBlanks, nameEnd - 1);
-    const auto close = text.find(text[open], open + 1);
-    if (text.substr(blank + 1, nameEnd - blank - 1) == name) return {blank, close + 1};
-    from = close + 1;
+TextSpan FindAttribute(std::string_view text, const XmlTag& tag, std::string_view name) {
+  std::string_view rest = tag.attributes;
+  while (const auto attribute = TakeAttribute(rest)) {
+    const auto begin = static_cast<std::size_t>(attribute->all.data() - text.data());
+    if (attribute->name == name) return {begin, begin + attribute->all.size()};
   }
+  return {};
 }
 
 std::string TextBetween(std::string_view content) {

@@ -26,8 +26,8 @@ struct XmlTag {
 /// The next tag from a place on; comments, instructions and character data hold none.
 std::optional<XmlTag> NextTag(std::string_view text, std::size_t from);
 
-/// An attribute inside a tag, from the space before it to behind its closing quote.
-TextSpan FindAttribute(std::string_view text, const TextSpan& tag, std::string_view name);
+/// An attribute of a tag of the text, from the space before it to behind its closing quote.
+TextSpan FindAttribute(std::string_view text, const XmlTag& tag, std::string_view name);
 
 /// The decoded text of an element, as written between its tags.
 std::string TextBetween(std::string_view content);

@@ -26,16 +26,9 @@ bool HoldsFormula(std::string_view local) {
 /// The attributes of a shared formula without those that share it.
 std::string Unshared(std::string_view attributes) {
   std::string kept;
-  while (!attributes.empty()) {
-    const auto equals = attributes.find('=');
-    const auto open = attributes.find_first_of("\"'", equals);
-    const auto close = open == std::string_view::npos ? open : attributes.find(attributes[open], open + 1);
-    if (close == std::string_view::npos) break;
-    const std::string_view attribute = attributes.substr(0, close + 1);
-    const auto begin = attribute.find_first_not_of(" \t\r\n");
-    const std::string_view name = attribute.substr(begin, attribute.find_first_of(" \t\r\n=", begin) - begin);
-    if (name != "t" && name != "ref" && name != "si") kept += attribute;
-    attributes.remove_prefix(close + 1);
+  while (const auto attribute = TakeAttribute(attributes)) {
+    const std::string_view name = attribute->name;
+    if (name != "t" && name != "ref" && name != "si") kept += attribute->all;
   }
   return kept;
 }

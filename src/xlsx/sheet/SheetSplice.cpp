@@ -56,7 +56,7 @@ void ReplaceSheetData(std::string& part, const std::function<std::string(const s
   const auto [data, prefix] = FindSheetData(part);
   part.replace(data.begin, data.end - data.begin, sheetData(prefix));
   const auto dimension = FindInHead(std::string_view(part).substr(0, data.begin), "dimension");
-  const TextSpan ref = dimension ? FindAttribute(part, dimension->span, "ref") : TextSpan();
+  const TextSpan ref = dimension ? FindAttribute(part, *dimension, "ref") : TextSpan();
   if (!ref.Found()) return;
   std::string address = CellAddress(used.row1, used.column1, false);
   if (used.CellCount() > 1) address += ":" + CellAddress(used.row2, used.column2, false);
@@ -79,7 +79,7 @@ bool SelectTab(std::string& part, bool selected) {
   if (const auto view = FindInHead(part, "sheetView")) {
     if (selected == BooleanIn(view->attributes, "tabSelected")) return false;
     const std::size_t nameEnd = view->span.begin + 1 + view->name.size();
-    TextSpan place = FindAttribute(part, view->span, "tabSelected");
+    TextSpan place = FindAttribute(part, *view, "tabSelected");
     if (!place.Found()) place = {nameEnd, nameEnd};
     part.replace(place.begin, place.end - place.begin, selected ? " tabSelected=\"1\"" : "");
     return true;

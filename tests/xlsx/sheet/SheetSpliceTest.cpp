@@ -76,8 +76,9 @@ TEST(SheetSpliceTest, ATabIsSelectedOrNot) {
        "workbookViewId='0'><pane/></sheetView></sheetViews>"
        "<sheetData/></w>",
        false,
-       "<w><sheetViews><sheetView a='>'\n "
-       "workbookViewId='0'><pane/></sheetView></sheetViews><sheetData/></w>"},
+       "<w><sheetViews><sheetView a='>' workbookViewId='0'><pane/></sheetView></sheetViews><sheetData/></w>"},
+      {"<w><sheetViews><sheetView \"='\"/></sheetViews><sheetData/></w>", true,
+       "<w><sheetViews><sheetView tabSelected=\"1\" \"='\"/></sheetViews><sheetData/></w>"},
       {"<w><sheetViews><sheetView tabSelected='0'/></sheetViews><sheetData/></w>", true,
        "<w><sheetViews><sheetView tabSelected=\"1\"/></sheetViews><sheetData/></w>"},
       {"<?xml version='1.0'?><w><sheetPr><tabColor/></sheetPr><dimension/><sheetFormatPr/><sheetData/></w>",
