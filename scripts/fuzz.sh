@@ -1,6 +1,7 @@
 #!/bin/sh
 # Runs each fuzzer for a while, from seeds taken from the examples and from whatever other workbooks are at hand.
 # Usage: scripts/fuzz.sh [SECONDS-EACH [TARGET...]]
+# FUZZ_SEED=N makes the same choices on every run; without it each run makes others.
 set -eu
 cd "$(dirname "$0")/.."
 seconds=${1:-60}
@@ -13,14 +14,28 @@ cmake --build build-fuzz
 seeds=build-fuzz/seeds
 rm -rf "$seeds"
 build-fuzz/fuzz/make_seeds "$seeds" examples/*.xlsx $(ls ../shared/corpus/*/*.xls* 2>/dev/null || true)
-status=0
+found=
 for target in $targets; do
   [ -d "$seeds/$target" ] || { echo "fuzz.sh: there are no seeds for $target" >&2; exit 2; }
-  mkdir -p "build-fuzz/corpus/$target" "build-fuzz/findings/$target"
+  artifacts=build-fuzz/findings/$target
+  log=build-fuzz/$target.log
+  mkdir -p "build-fuzz/corpus/$target" "$artifacts"
   echo "== $target"
-  PLOTSMITH_FUZZ_TARGET=$target build-fuzz/fuzz/fuzzer -max_total_time="$seconds" -timeout=20 -rss_limit_mb=2048 -print_final_stats=1 -verbosity=0 \
-    -artifact_prefix="build-fuzz/findings/$target/" "build-fuzz/corpus/$target" "$seeds/$target" "fuzz/findings/$target" \
-    2>build-fuzz/"$target".log || { status=1; tail -n 40 build-fuzz/"$target".log; }
-  grep -E 'number_of_executed_units|peak_rss_mb' build-fuzz/"$target".log | sed 's/^stat:://' || true
+  PLOTSMITH_FUZZ_TARGET=$target build-fuzz/fuzz/fuzzer -max_total_time="$seconds" -seed="${FUZZ_SEED:-0}" -timeout=20 \
+    -rss_limit_mb=2048 -print_final_stats=1 -verbosity=0 -artifact_prefix="$artifacts/" \
+    "build-fuzz/corpus/$target" "$seeds/$target" "fuzz/findings/$target" 2>"$log" || found="$found $target"
+  grep -E 'number_of_executed_units|peak_rss_mb' "$log" | sed 's/^stat:://' || true
 done
-exit $status
+# what was found comes last, where it isn't overlooked, with the input that shows it
+for target in $found; do
+  log=build-fuzz/$target.log
+  echo "== found in $target"
+  input=$(sed -n 's/.*Test unit written to //p' "$log" | tail -n 1)
+  if [ -f "$input" ]; then
+    echo "$input"
+    packed=$(gzip -9 -c "$input" | base64 -w 0)
+    [ ${#packed} -gt 4000 ] || echo "gzip, base64: $packed"
+  fi
+  grep -E 'runtime error|ERROR:|#[0-9]+ .* in plotsmith|SUMMARY:' "$log" | cut -c1-200 | head -n 12
+done
+[ -z "$found" ]
