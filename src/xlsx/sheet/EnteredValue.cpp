@@ -1,9 +1,11 @@
 #include "xlsx/sheet/EnteredValue.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <string>
 
+#include "runtime/Ascii.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "xlsx/Limits.h"
@@ -20,12 +22,27 @@ void Put(GridCell& cell, Kind kind, double number, std::string text = {}) {
   cell.text = std::move(text);
 }
 
-/// A number as a person types it. Other than the language, a sheet knows percentages and no radix.
+/// Whether every comma stands behind a digit and before three of them, and none behind the point.
+bool GroupsThousands(std::string_view text) {
+  for (std::size_t i = 0; i < text.size() && text[i] != '.'; ++i) {
+    if (text[i] != ',') continue;
+    const auto digits = text.substr(i + 1).find_first_not_of("0123456789");
+    if (i == 0 || !ascii::IsDigit(text[i - 1])) return false;
+    if (std::min(digits, text.size() - i - 1) != 3) return false;
+  }
+  return text.find(',', std::min(text.find('.'), text.size())) == std::string_view::npos;
+}
+
+/// A number as a person types it. A sheet knows percentages, but less than the language otherwise: no radix,
+/// no D for an exponent, no sign behind, and commas only between thousands.
 std::optional<double> TypedNumber(std::string_view text) {
   text = runtime::Trim(text);
-  if (text.find('&') != std::string_view::npos) return std::nullopt;
   const bool percent = text.ends_with('%');
   if (percent) text.remove_suffix(1);
+  if (text.find_first_of("&dD") != std::string_view::npos || text.ends_with('+') || text.ends_with('-') ||
+      !GroupsThousands(text)) {
+    return std::nullopt;
+  }
   const auto number = runtime::ParseNumber(text);
   if (!number) return std::nullopt;
   return percent ? *number / 100 : *number;
@@ -44,8 +61,6 @@ void EnterText(GridCell& cell, std::string_view text) {
     for (const auto& [shown, code] : kErrorValues) {
       if (shown == text) return Put(cell, Kind::kError, code, std::string(shown));
     }
-  } else if (text.starts_with('=')) {
-    throw runtime::RuntimeError(runtime::error::kApplication, "This host has no formulas to enter.");
   }
   if (text.size() > limits::kCellText && runtime::Len(text) > limits::kCellText) {
     throw runtime::RuntimeError(runtime::error::kApplication, "The text is longer than a cell can hold.");
