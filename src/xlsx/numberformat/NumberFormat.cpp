@@ -94,9 +94,15 @@ std::shared_ptr<const NumberFormat> NumberFormat::Parse(std::string_view code) {
 }
 
 bool NumberFormat::IsDate() const {
-  const auto& numbers = program_->numbers;
-  return std::any_of(numbers.begin(), numbers.end(),
-                     [](const Section& section) { return section.kind == Section::Kind::kDate; });
+  const auto ofCalendar = [](const Token& token) {
+    using enum Token::Kind;
+    return token.kind == kYear || token.kind == kMonth || token.kind == kDay || token.kind == kEra ||
+           token.kind == kEraYear || token.kind == kBuddhistYear;
+  };
+  return std::any_of(program_->numbers.begin(), program_->numbers.end(), [&](const Section& section) {
+    return section.kind == Section::Kind::kDate &&
+           std::any_of(section.tokens.begin(), section.tokens.end(), ofCalendar);
+  });
 }
 
 bool NumberFormat::IsGeneral() const {

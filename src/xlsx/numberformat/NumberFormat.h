@@ -18,7 +18,8 @@ class NumberFormat {
   static std::shared_ptr<const NumberFormat> Parse(std::string_view code);
   ~NumberFormat();
 
-  /// True if a number in this format is a date or a time, so that a cell's value reads as a date.
+  /// True if the format shows a day, a month or a year, so that a cell's value reads as a date. A time or a
+  /// duration alone stays a number, as Excel's Range.Value has it.
   bool IsDate() const;
   bool IsGeneral() const;
 

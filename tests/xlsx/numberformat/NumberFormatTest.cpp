@@ -362,9 +362,10 @@ TEST(NumberFormatTest, TextsAndBooleans) {
 }
 
 TEST(NumberFormatTest, KindsOfFormats) {
-  for (const char* code : {"m/d/yyyy", "[h]", "AM/PM", "0;mm", "[$-F400]", "e", "[Red]d;@"})
+  for (const char* code : {"m/d/yyyy", "m/d/yy h:mm", "[h]:mm dd", "0;mm", "[$-F800]", "e", "[Red]d;@"})
     EXPECT_TRUE(NumberFormat::Parse(code)->IsDate()) << code;
-  for (const char* code : {"General", "0", "@", "\"m/d\"", "\\d0", "[Red]0", "[$USD]0", "_d0"})
+  for (const char* code : {"General", "0", "@", "\"m/d\"", "\\d0", "[Red]0", "[$USD]0", "_d0", "h:mm", "[h]",
+                           "[mm]:ss.0", "AM/PM", "[$-F400]"})
     EXPECT_FALSE(NumberFormat::Parse(code)->IsDate()) << code;
   for (const char* code : {"", "General", "GENERAL", "[Red]General", "[$-409]General"})
     EXPECT_TRUE(NumberFormat::Parse(code)->IsGeneral()) << code;
@@ -405,7 +406,7 @@ TEST(NumberFormatTest, BuiltinFormats) {
     const auto code = BuiltinNumberFormat(id);
     count += code.empty() ? 0 : 1;
     EXPECT_NE(NumberFormat::Parse(code), nullptr) << id;
-    const bool is_date = (id >= 14 && id <= 22) || (id >= 45 && id <= 47);
+    const bool is_date = (id >= 14 && id <= 17) || id == 22;
     EXPECT_EQ(NumberFormat::Parse(code)->IsDate(), is_date) << id;
   }
   EXPECT_EQ(count, 36);
