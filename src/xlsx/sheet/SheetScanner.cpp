@@ -86,11 +86,22 @@ class SheetScanner : public XmlStream {
       throw PackageError("it has more cells than we can hold");
     if (row_ == 0) row_ = 1;  // a cell outside of any row
     column_ = column;
+    // blank and without a style it is no cell to Excel, and makes no table longer
+    if (value.GetKind() != PackedValue::Kind::kEmpty || style != 0) Use(column);
+    contents_.cells.Append(row_, column, value, style);
+  }
+
+  /// Of the cell that came last: it counts even while its result is missing.
+  void TakeFormula() {
+    contents_.formulas = true;
+    Use(column_);
+  }
+
+  void Use(std::int32_t column) {
     used_.row1 = std::min(used_.row1, row_);
     used_.row2 = std::max(used_.row2, row_);
     used_.column1 = std::min(used_.column1, column);
     used_.column2 = std::max(used_.column2, column);
-    contents_.cells.Append(row_, column, value, style);
   }
 
   /// Whether the element at `p`, behind its "<" or "</", has the name; `p` is then moved behind it.
@@ -322,6 +333,7 @@ SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
   }
 
   std::string_view text;
+  bool formula = false;
   while (open) {  // what the cell holds
     while (*p != '<' && *p != '\0') ++p;
     if (*p == '\0') return Piece::kCut;
@@ -341,7 +353,7 @@ SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
       if (*inner == '\0') return Piece::kCut;
       p = inner + 1;
     } else if (At(inner, "f")) {
-      contents_.formulas = true;
+      formula = true;
       p = PassFormula(inner);
       if (p == nullptr) return Piece::kCut;
     } else {
@@ -349,6 +361,7 @@ SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
     }
   }
   Store(column, type, style, text);
+  if (formula) TakeFormula();
   position_ = p;
   return Piece::kTaken;
 }
@@ -371,7 +384,7 @@ SheetScanner::Piece SheetScanner::ReadRareCell(const char* p, std::int32_t colum
   const std::string typeCopy(type);
   text_ = xml::Decode(value);
   bool hasText = value.data() != nullptr;
-  bool inlineText = false;
+  bool inlineText = false, formula = false;
   position_ = p;
   for (int depth = 1; depth > 0;) {
     const Tag tag = Next();
@@ -386,13 +399,14 @@ SheetScanner::Piece SheetScanner::ReadRareCell(const char* p, std::int32_t colum
       text_ += runOfText ? DecodeXString(piece_) : piece_;
       hasText = true;
     } else if (tag.name == "rPh" || tag.name == "f" || tag.name == "extLst") {
-      contents_.formulas |= tag.name == "f";
+      formula |= tag.name == "f";
       SkipElement();
     } else {
       ++depth;
     }
   }
   Store(column, inlineText ? "inlineStr" : typeCopy, style, hasText ? text_ : std::string_view(), true);
+  if (formula) TakeFormula();
   return Piece::kTaken;
 }
 
