@@ -44,7 +44,7 @@ bool RowHoldsChart(std::int32_t lRow, const std::string& sText, const std::strin
     ReadRow oRead{sText};
     auto oDoc = NewXMLDocument();
     oRead.bParses = oDoc.loadXML(sText);
-    if (oRead.bParses) oRead.sID = GetAttributeText(oDoc.selectSingleNode("chart"), "id");
+    if (const auto oChart = oDoc.selectSingleNode("chart")) oRead.sID = GetAttributeText(oChart, "id");
     aReadRows[lIndex] = std::move(oRead);
   }
   return aReadRows[lIndex].bParses && aReadRows[lIndex].sID == sID;

@@ -20,7 +20,9 @@ constexpr std::array<std::string_view, 2> kTableNamePrefixes = {"VEX_TableRange"
 constexpr std::array<std::string_view, 5> kDataSheets = {"Data1", "Data2", "Data3", "Data4", "Data5"};
 constexpr std::int32_t kRangeHeaderRows = 3;
 
+/// A name of one sheet alone marks no table; it bears that sheet's name in front, which may begin likewise.
 bool NamesTable(std::string_view sName) {
+  if (sName.find('!') != std::string_view::npos) return false;
   for (const std::string_view sPrefix : kTableNamePrefixes) {
     if (runtime::EqualsIgnoreCase(sName.substr(0, sPrefix.size()), sPrefix)) return true;
   }

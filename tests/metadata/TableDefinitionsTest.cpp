@@ -58,7 +58,7 @@ TEST_F(TableDefinitionsTest, RangeTableOfANameInAnyCaseOnAQuotedSheet) {
 
 TEST_F(TableDefinitionsTest, NamesThatAreNoTables) {
   PlainBook book;
-  book.sheets.push_back(RangeSheet("Sheet1"));
+  book.sheets = {RangeSheet("Sheet1"), RangeSheet("VEX_SBold")};
   book.names = {{"VEX_SB_constant", "42"},
                 {"VEX_SB_text", "\"Sheet1!$A$1\""},
                 {"VEX_SB_computed", "OFFSET(Sheet1!$B$3,0,0,5,2)"},
@@ -69,7 +69,15 @@ TEST_F(TableDefinitionsTest, NamesThatAreNoTables) {
                 {"VEX_TableRang", "Sheet1!$B$3:$C$7"},
                 {"vex_sb_lower", "sheet1!$B$3:$C$7"},
                 {"VEX_TABLERANGE", "Sheet1!$B$3:$C$7,Sheet1!$F$1"}};
-  Open(book);
+  // a name of one sheet alone: VEX_SBold!Print_Area
+  const std::string path = folder_ / "names.xlsx";
+  book.Write(path);
+  test::EditPart(path, "/xl/workbook.xml", [](std::string& workbook) {
+    workbook.insert(
+        workbook.find("</definedNames>"),
+        "<definedName name=\"_xlnm.Print_Area\" localSheetId=\"1\">VEX_SBold!$B$3:$C$7</definedName>");
+  });
+  OpenFile(path);
   EXPECT_EQ(Ids(), "vex_sb_lower VEX_TABLERANGE ") << "sorted by name, whatever the file's order";
   EXPECT_EQ(Messages().size(), 0u);
   EXPECT_NE(Xml("vex_sb_lower").find("table-worksheet=\"sheet1\""), std::string::npos)
@@ -90,8 +98,8 @@ TEST_F(TableDefinitionsTest, DataSheetsByTheirExactNames) {
 TEST_F(TableDefinitionsTest, ClassifiesColumns) {
   PlainBook book;
   PlainSheet sheet{"Data1"};
-  const RawCell date{" s=\"1\"><v>43831</v></c>"}, error{" t=\"e\"><v>#N/A</v></c>"},
-      truth{" t=\"b\"><v>1</v></c>"};
+  const RawCell date{" s=\"1\"><v>43831</v></c>"}, time{" s=\"2\"><v>1.5</v></c>"},
+      error{" t=\"e\"><v>#N/A</v></c>"}, truth{" t=\"b\"><v>1</v></c>"};
   sheet.rows = {{S("blank"),
                  S("spaces"),
                  S("numeric text"),
@@ -100,21 +108,22 @@ TEST_F(TableDefinitionsTest, ClassifiesColumns) {
                  S("error"),
                  S("truth"),
                  {},
-                 S("2020")},
-                {{}, S("  "), S("$1,5"), 1.0, date, 1.0, truth, S("unheaded"), 1.0},
+                 S("2020"),
+                 S("time")},
+                {{}, S("  "), S("$1,5"), 1.0, date, 1.0, truth, S("unheaded"), 1.0, time},
                 {{}, 5.0, 2.0, S("x"), 1.0, error, 2.0, 1.0, 2.0}};
   book.sheets.push_back(sheet);
   book.styles =
       "<styleSheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><cellXfs><xf "
       "numFmtId=\"0\"/>"
-      "<xf numFmtId=\"14\"/></cellXfs></styleSheet>";
+      "<xf numFmtId=\"14\"/><xf numFmtId=\"46\"/></cellXfs></styleSheet>";
   Open(book);
   Ids();
   std::string kinds;
   for (const auto& column : colTables->Item("Data1").selectSingleNode("table").childElements()) {
     kinds += GetAttributeText(column, "name") + "=" + column.tagName().substr(0, 1) + " ";
   }
-  EXPECT_EQ(kinds, "blank=n spaces=n numeric text=n text=l date=l error=l truth=n 2020=n ");
+  EXPECT_EQ(kinds, "blank=n spaces=n numeric text=n text=l date=l error=l truth=n 2020=n time=n ");
 }
 
 TEST_F(TableDefinitionsTest, UntitledTableAndBucketColumnsInTheWrongPlace) {
