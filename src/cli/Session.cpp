@@ -52,6 +52,10 @@ bool IsTableKnown(const std::string& id) {
 
 }  // namespace
 
+void RequireTableId(const std::string& id) {
+  if (id.empty()) throw CommandError(exit_code::kUsage, "--table wants the id of a table.");
+}
+
 std::string VersionText(double version) {
   const std::string text = runtime::NumberText(version);
   return text.find('.') == std::string::npos ? text + ".0" : text;

@@ -52,6 +52,9 @@ class Session {
   std::size_t progressWidth_ = 0;
 };
 
+/// Refuses a table's id that is empty, which no table has.
+void RequireTableId(const std::string& id);
+
 /// The host's version as Excel would tell it, "16.0".
 std::string VersionText(double version);
 

@@ -315,7 +315,10 @@ TEST_F(CommandTest, RenamedColumnsAreCarriedIntoTheCharts) {
   // a swap, a chain and a plain one, all at once
   CommandResult result = RunCommand(
       {"rename-columns", book, "--table", "Data1", "Region=Product", "Product=Region", "Amount=Units"});
-  EXPECT_EQ(result.code, 0) << result.err;
+  const S waiting =
+      "plotsmith: the table \"Data1\" has no column \"Units\" yet, so its charts weren't drawn.\n";
+  EXPECT_EQ(result.err, waiting);
+  EXPECT_EQ(result.code, 1);
   EXPECT_NE(definition("VEX_Chart1").find("<categories headings-in=\"rows\"><column name=\"Product\""),
             S::npos);
   EXPECT_NE(definition("VEX_Chart1").find("<series headings-in=\"rows\"><column name=\"Region\""), S::npos);
@@ -338,9 +341,27 @@ TEST_F(CommandTest, RenamedColumnsAreCarriedIntoTheCharts) {
   EXPECT_NE(axes.find("<axis type=\"label\" label=\"Land\" sticky=\"no\"/>"), S::npos) << axes;
   EXPECT_NE(axes.find("<axis type=\"value\" label=\"Region\" sticky=\"yes\"/>"), S::npos) << axes;
 
+  // a heading may bear the new name in other letters
+  test::EditPart(other, "/xl/worksheets/sheet1.xml",
+                 [](S& sheet) { sheet.replace(sheet.find("Land"), 4, "AREA"); });
+  EXPECT_EQ(RunCommand({"rename-columns", other, "--table", "Data1", "Land=Area"}).code, 0);
+  EXPECT_EQ(RunCommand({"refresh", other}).code, 0);
+  EXPECT_NE(RunCommand({"definition", other, "VEX_Chart1"}).out.find("label=\"Area\" sticky=\"no\""),
+            S::npos);
+
+  // what is one chart's id is not looked for among the names of others
+  auto alike = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}});
+  alike.Sheet("Charts").frames[1].alternativeText = "VEX_Chart2";
+  const S twins = Write(alike, "twins.xlsx");
+  test::EditPart(twins, "/xl/worksheets/sheet3.xml", [](S& sheet) {
+    const S name = "Name of VEX_Chart1";
+    sheet.replace(sheet.find(name), name.size(), "VEX_Chart2");
+  });
+  EXPECT_NE(RunCommand({"definition", twins, "VEX_Chart2"}).out.find("<chart id=\"VEX_Chart2\""), S::npos);
+
   const S before = Bytes(book);
   result = RunCommand({"rename-columns", book, "--table", "Data1", "Amount=Units"});
-  EXPECT_EQ(result.code, 0) << "it is renamed already";
+  EXPECT_EQ(result.err, waiting) << "it is renamed already";
   result = RunCommand({"rename-columns", book, "--table", "Data1", "Amuont=Money", "label=Text"});
   EXPECT_EQ(result.code, 1);
   EXPECT_EQ(result.err,
@@ -351,6 +372,7 @@ TEST_F(CommandTest, RenamedColumnsAreCarriedIntoTheCharts) {
            {{"--table", "Data1", "Region"}, "\"Region\" is no renaming"},
            {{"--table", "Data1", "A=B", "A=C"}, "\"A\" is renamed twice"},
            {{"--table", "Data9", "A=B"}, "has no table \"Data9\""},
+           {{"--table", "", "A=B"}, "--table wants the id of a table."},
            {{"A=B"}, "--table is required"},
            {{"--table", "Data1"}, "OLD=NEW is required"}}) {
     std::vector<S> line = {"rename-columns", book};

@@ -18,14 +18,20 @@ int DefinitionCommand::Run(const GlobalOptions& options, const Streams& streams)
   Session session(book_, options, streams);
   session.LoadTablesAndCharts();
   const int code = session.Finish();
-  for (const auto& document : *colCharts) {
-    const auto chart = document.selectSingleNode("chart");
-    if (GetAttributeText(chart, "id") == chart_ ||
-        runtime::EqualsIgnoreCase(GetAttributeText(chart, "name"), chart_)) {
+  // an id is one chart's alone, a name may be another's id
+  const auto byId = [&](const dom::IXMLDOMElement& chart) { return GetAttributeText(chart, "id") == chart_; };
+  const auto byName = [&](const dom::IXMLDOMElement& chart) {
+    return runtime::EqualsIgnoreCase(GetAttributeText(chart, "name"), chart_);
+  };
+  const auto print = [&](const auto& isMeant) {
+    for (const auto& document : *colCharts) {
+      if (!isMeant(document.selectSingleNode("chart"))) continue;
       streams.out << document.xml() << '\n';
-      return code;
+      return true;
     }
-  }
+    return false;
+  };
+  if (print(byId) || print(byName)) return code;
   throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no chart \"" + chart_ +
                                             "\" (plotsmith charts lists those it has).");
 }

@@ -19,7 +19,7 @@ CLI::App* RefreshCommand::Declare(CLI::App& app) {
 }
 
 int RefreshCommand::Run(const GlobalOptions& options, const Streams& streams) {
-  if (table_ && table_->empty()) throw CommandError(exit_code::kUsage, "--table wants the id of a table.");
+  if (table_) RequireTableId(*table_);
   Session session(book_, options, streams);
   session.CheckWritable(output_);
   CPlotsmithController controller;

@@ -8,6 +8,7 @@
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
 #include "dom/Dom.h"
+#include "runtime/Strings.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -32,14 +33,12 @@ std::vector<Renaming> Parse(const std::vector<std::string>& texts) {
   return renamings;
 }
 
-/// Whether the table's headings bear all of the names already.
-bool HasColumns(const std::string& table, const std::vector<Renaming>& renamings) {
+/// Whether the table has a column of the name; the case doesn't matter, as it doesn't to a chart.
+bool HasColumn(const std::string& table, const std::string& name) {
   if (!colTables || !CollectionHasKey(table, colTables)) return false;
   const auto columns = colTables->Item(table).selectSingleNode("table").childElements();
-  return std::all_of(renamings.begin(), renamings.end(), [&](const Renaming& renaming) {
-    return std::any_of(columns.begin(), columns.end(), [&](const dom::IXMLDOMElement& column) {
-      return GetAttributeText(column, "name") == renaming.second;
-    });
+  return std::any_of(columns.begin(), columns.end(), [&](const dom::IXMLDOMElement& column) {
+    return runtime::EqualsIgnoreCase(GetAttributeText(column, "name"), name);
   });
 }
 
@@ -90,6 +89,7 @@ CLI::App* RenameColumnsCommand::Declare(CLI::App& app) {
 }
 
 int RenameColumnsCommand::Run(const GlobalOptions& options, const Streams& streams) {
+  RequireTableId(table_);
   std::vector<std::string> oldNames, newNames;
   const auto renamings = Parse(renamings_);
   for (auto& [oldName, newName] : InSteps(renamings)) {
@@ -101,20 +101,27 @@ int RenameColumnsCommand::Run(const GlobalOptions& options, const Streams& strea
   CPlotsmithController controller;
   controller.UpdateChartColumnNamesForTable(session.Host(), table_, oldNames, newNames);
   session.CheckTable(table_);
+  std::vector<std::string> complaints;
+  bool renamed = false, ready = true;
+  for (const auto& [oldName, newName] : renamings) {
+    if (colCharts && !IsCharted(table_, newName)) {
+      // it didn't become its new one in an earlier run either: perhaps it is mistyped
+      complaints.push_back("no chart of the table \"" + table_ + "\" has a column \"" + oldName + "\".");
+      continue;
+    }
+    renamed = true;
+    if (!HasColumn(table_, newName)) {
+      complaints.push_back("the table \"" + table_ + "\" has no column \"" + newName +
+                           "\" yet, so its charts weren't drawn.");
+      ready = false;
+    }
+  }
   // Axis titles that bear a column's name go along. They must be drawn from these definitions: to the next
   // run a title with the old name would be one that a person typed.
-  if (HasColumns(table_, renamings)) controller.RefreshChartsForTable(session.Host(), table_);
-  // An old name that no chart had, and that didn't become its new one in an earlier run either, is perhaps
-  // mistyped.
-  std::vector<std::string> strangers;
-  for (const auto& [oldName, newName] : renamings) {
-    if (colCharts && !IsCharted(table_, newName)) strangers.push_back(oldName);
-  }
+  if (renamed && ready) controller.RefreshChartsForTable(session.Host(), table_);
   const int code = session.Save(output_);
-  for (const std::string& name : strangers) {
-    streams.err << "plotsmith: no chart of the table \"" << table_ << "\" has a column \"" << name << "\".\n";
-  }
-  return strangers.empty() ? code : exit_code::kSaidSomething;
+  for (const std::string& complaint : complaints) streams.err << "plotsmith: " << complaint << '\n';
+  return complaints.empty() ? code : exit_code::kSaidSomething;
 }
 
 }  // namespace plotsmith::cli
