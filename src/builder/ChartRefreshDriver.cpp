@@ -107,9 +107,9 @@ void MarkUnavailable(IXMLDOMElement& oChartElement) {
 void DeleteAllSeries() {
   IgnoreErrors([] {
     const auto oCollection = mChart->SeriesCollection();
-    for (std::int32_t i = oCollection->Count(); i >= 1; --i) {
-      IgnoreErrors([&] { oCollection->Item(i)->Delete(); });
-    }
+    std::vector<excel::Ref<excel::Series>> aSeries;
+    for (std::int32_t i = 1; i <= oCollection->Count(); ++i) aSeries.push_back(oCollection->Item(i));
+    for (const auto& oSeries : aSeries) IgnoreErrors([&] { oSeries->Delete(); });
   });
 }
 

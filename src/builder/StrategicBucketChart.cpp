@@ -33,8 +33,8 @@ std::string BucketCells(const Block& oBlock, std::int32_t lRow) {
   return DataCells(lRow, bucket_column::kFirstBucket, lRow, oBlock.lLastColumn);
 }
 
-/// The bucket names in the header row. In the newer form a column is one letter: what comes behind Z is no
-/// reference, and the host refuses it.
+/// The bucket names in the header row. In the newer form a column is one character: those next behind Z make
+/// no reference, and the host refuses it; the small letters behind them name the columns from A again.
 std::string BucketNames(const Block& oBlock) {
   if (HostVersion(mChart->Application()) <= kLastClassicVersion)
     return BucketCells(oBlock, oBlock.lHeaderRow);

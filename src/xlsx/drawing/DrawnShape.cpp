@@ -1,6 +1,7 @@
 #include "xlsx/drawing/DrawnShape.h"
 
 #include <cmath>
+#include <limits>
 #include <string>
 
 #include "host/excel/Constants.h"
@@ -183,7 +184,10 @@ Ref<excel::FillFormat> DrawnShape::Fill() { return MakeFill(shared_from_this());
 Ref<excel::LineFormat> DrawnShape::Line() { return MakeLine(shared_from_this()); }
 
 void CheckPlace(const Frame& frame) {
-  if (!std::isfinite(frame.left + frame.top + frame.width + frame.height)) throw OutOfRange();
+  // places are of the type Single in Excel
+  for (const double points : {frame.left, frame.top, frame.width, frame.height}) {
+    if (!(std::abs(points) <= std::numeric_limits<float>::max())) throw OutOfRange();
+  }
 }
 
 }  // namespace plotsmith::xlsx
