@@ -20,6 +20,7 @@
 #include "xlsx/package/FreeNumber.h"
 #include "xlsx/package/Namespaces.h"
 #include "xlsx/package/Xml.h"
+#include "xlsx/sheet/DrawingLink.h"
 #include "xlsx/sheet/SelectedTab.h"
 #include "xlsx/sheet/SharedStrings.h"
 
@@ -347,7 +348,7 @@ std::shared_ptr<ChartPart> Workbook::Chart(const std::string& part) {
 
 Ref<excel::Chart> Workbook::ActiveChart() {
   if (activeSheet_ >= sheets_.size() || sheets_[activeSheet_]->worksheet) return nullptr;
-  const auto drawing = package_.FindRelationshipOfType(sheets_[activeSheet_]->part, "drawing");
+  const auto drawing = FindDrawingLink(package_, sheets_[activeSheet_]->part);
   const auto chart = drawing ? package_.FindRelationshipOfType(drawing->target, "chart") : std::nullopt;
   if (!chart) return nullptr;
   return std::make_shared<xlsx::Chart>(Chart(chart->target), std::weak_ptr<SheetShape>());

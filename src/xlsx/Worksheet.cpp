@@ -14,6 +14,7 @@
 #include "xlsx/SheetShape.h"
 #include "xlsx/package/Namespaces.h"
 #include "xlsx/package/Xml.h"
+#include "xlsx/sheet/DrawingLink.h"
 #include "xlsx/sheet/EnteredValue.h"
 #include "xlsx/sheet/ErrorValues.h"
 #include "xlsx/sheet/SheetFormulas.h"
@@ -294,7 +295,7 @@ SheetDrawing* Worksheet::FindDrawing() {
   if (!drawingSought_) {
     book_.Guarded([&] {
       const auto& package = book_.Package();
-      const auto link = package.FindRelationshipOfType(Entry().part, "drawing");
+      const auto link = FindDrawingLink(package, Entry().part);
       if (!link) return;
       try {
         drawing_ = std::make_unique<SheetDrawing>(*this, link->target);

@@ -236,6 +236,22 @@ TEST_F(ForeignBookTest, TheFirstStyleStaysThatOfAllOtherCells) {
   }
 }
 
+TEST_F(ForeignBookTest, OfSeveralDrawingsTheSheetNamesItsOwn) {
+  const PlainBook book = SalesBook({{"VEX_Chart1"}});
+  book.Write(folder_ / "plain.xlsx");
+  const xlsx::Package plain = Package::Open(folder_ / "plain.xlsx");
+  const S rels = "/xl/worksheets/_rels/sheet2.xml.rels";
+  const S link = plain.Read(rels).substr(plain.Read(rels).find("<Relationship "));
+  const S stray = Replacing("drawing2.xml",
+                            "drawing9.xml")(Replacing("rId1", "rId9")(link.substr(0, link.find('>') + 1)));
+  OpenEdited(book, {{rels, Replacing("<Relationship ", stray + "<Relationship ")}});
+  Refresh();
+  EXPECT_TRUE(Messages().empty()) << Messages()[0];
+  SaveAndReopen();
+  EXPECT_NE(Cells("VEX_ChartDefinitions", 1, 1, 9, 1).find("VEX_Chart1"), S::npos);
+  EXPECT_TRUE(Holds("/xl/charts/chart1.xml", "<c:ser>"));
+}
+
 TEST_F(ForeignBookTest, NewShapesGetNamesOfTheirOwn) {
   PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}});
   OpenEdited(book, {{"/xl/drawings/drawing2.xml", Replacing("name=\"Chart 2\"", "name=\"chart 3\"")}});
