@@ -10,6 +10,7 @@
 #include "xlsx/Errors.h"
 #include "xlsx/chart/ChartTypeRules.h"
 #include "xlsx/chart/ChartTypes.h"
+#include "xlsx/chart/DataLabels.h"
 #include "xlsx/chart/GroupAxes.h"
 #include "xlsx/chart/LegendEntries.h"
 #include "xlsx/drawing/DrawingSchema.h"
@@ -99,6 +100,20 @@ void PutInDrawingOrder(pugi::xml_node group) {
   }
 }
 
+/// The series that a person has filtered out. They are in the groups' extensions, and no part of the chart
+/// otherwise.
+std::vector<pugi::xml_node> FilteredSeriesOf(ChartPart& part) {
+  std::vector<pugi::xml_node> filtered;
+  for (const pugi::xml_node& group : GroupsOf(part)) {
+    for (const pugi::xml_node& extension : xml::Children(xml::Child(group, "extLst"), "ext")) {
+      for (const pugi::xml_node& list : extension.children()) {
+        for (const pugi::xml_node& series : xml::Children(list, "ser")) filtered.push_back(series);
+      }
+    }
+  }
+  return filtered;
+}
+
 [[noreturn]] void CantCombine() {
   throw Refusal("Some chart types cannot be combined with other chart types.");
 }
@@ -131,10 +146,12 @@ SeriesRef AddSeries(ChartPart& part) {
   if (GroupsOf(part).empty()) SetType(part, *FindChartType(excel::xlColumnClustered));
   auto& all = part.Series();
   std::set<long long> indices, orders;
-  for (const SeriesRef& entry : all) {
-    indices.insert(schema::IntegerVal(entry->node, "idx", 0));
-    orders.insert(schema::IntegerVal(entry->node, "order", 0));
-  }
+  const auto take = [&](pugi::xml_node taken) {
+    indices.insert(schema::IntegerVal(taken, "idx", 0));
+    orders.insert(schema::IntegerVal(taken, "order", 0));
+  };
+  for (const SeriesRef& entry : all) take(entry->node);
+  for (const pugi::xml_node& filtered : FilteredSeriesOf(part)) take(filtered);
   constexpr long long kLast = std::numeric_limits<std::int32_t>::max();
   const pugi::xml_node last = all.empty() ? pugi::xml_node() : all.back()->node;
   const pugi::xml_node group = last ? last.parent() : GroupsOf(part)[0];
@@ -146,6 +163,7 @@ SeriesRef AddSeries(ChartPart& part) {
   } else if (const ChartTypeEntry* ofGroup = TypeOfGroup(group)) {
     FitToGroup(part, series, *ofGroup);
   }
+  SetLabels(series, false);  // a new one has none, whatever its group has for all
   ClearStaleLegendEntries(part, all.size());
   if (all.empty() && part.CameEmpty()) ShowAxes(part);
   all.push_back(std::make_shared<SeriesEntry>(SeriesEntry{series}));

@@ -26,6 +26,39 @@ const S kNothing = Part("<c:plotArea><c:layout/></c:plotArea>");
 
 class ChartFamiliesTest : public test::ChartTest {};
 
+TEST_F(ChartFamiliesTest, ANewSeriesHasNoLabelsAndANumberOfItsOwn) {
+  // as Excel writes a chart of which somebody took away all labels, and filtered one series out
+  const S bars =
+      "<c:plotArea><c:barChart><c:barDir val=\"bar\"/><c:grouping val=\"clustered\"/><c:ser><c:idx "
+      "val=\"0\"/><c:order val=\"0\"/><c:dLbls><c:delete val=\"1\"/></c:dLbls></c:ser><c:dLbls><c:showVal "
+      "val=\"1\"/></c:dLbls><c:axId val=\"1\"/><c:axId val=\"2\"/><c:extLst><c:ext "
+      "uri=\"{02D57815-91ED-43cb-92C2-25804820EDAC}\" "
+      "xmlns:c15=\"http://schemas.microsoft.com/office/drawing/2012/"
+      "chart\"><c15:filteredBarSeries><c15:ser><c:idx val=\"1\"/><c:order "
+      "val=\"1\"/></c15:ser></c15:filteredBarSeries></c:ext></c:extLst></c:barChart><c:catAx><c:axId "
+      "val=\"1\"/><c:scaling/><c:axPos val=\"l\"/><c:crossAx val=\"2\"/></c:catAx><c:valAx><c:axId "
+      "val=\"2\"/><c:scaling/><c:axPos val=\"b\"/><c:crossAx val=\"1\"/></c:valAx></c:plotArea>";
+  const auto draw = [](Chart& chart) {
+    DeleteSeries(chart);
+    for (int i = 0; i < 2; ++i) {
+      const auto series = chart.SeriesCollection()->NewSeries();
+      series->SetValues("=Sheet1!R2C3:R5C3");
+      EXPECT_FALSE(series->HasDataLabels());
+    }
+  };
+  const S after = Sound(Part(bars), draw);
+  EXPECT_EQ(test::CountOf(after, "<c:idx val=\"1\"/>"), 1U) << after;
+  EXPECT_TRUE(Has(after, "<c:idx val=\"2\"/><c:order val=\"2\"/>")) << after;
+  // of another type as well, and none again when they were shown meanwhile
+  const S column = Sound(after, [&](Chart& chart) {
+    chart.SetChartType(excel::xlColumnStacked);
+    for (int i = 1; i <= 2; ++i) EXPECT_FALSE(chart.SeriesCollection()->Item(i)->HasDataLabels());
+    chart.SeriesCollection()->Item(1)->SetHasDataLabels(true);
+  });
+  EXPECT_EQ(test::CountOf(column, "<c:showVal val=\"1\"/>"), 2U) << column;
+  Sound(column, draw);
+}
+
 TEST_F(ChartFamiliesTest, APieThatSomebodyDressedComesOutOfARefreshAsItWentIn) {
   const S pie =
       "<c:view3D><c:rotX val=\"75\"/><c:rotY val=\"120\"/></c:view3D><c:plotArea><c:pie3DChart><c:varyColors "
