@@ -35,7 +35,7 @@ inline constexpr long long kSheetId = 65'534;
 inline constexpr std::uint64_t kCells = 400'000'000;
 /// The same of a sheet that is written to, where a row takes room up to its last cell.
 inline constexpr std::size_t kGridCells = 20'000'000;
-/// Cells that one reference of a chart brings into the chart's cache.
+/// Cells that all series of a chart bring into its cache.
 inline constexpr std::int64_t kCachePoints = 4'000'000;
 
 }  // namespace plotsmith::xlsx::limits

@@ -66,6 +66,17 @@ std::vector<Variant> CachedNumbers(pugi::xml_node data) {
 
 std::size_t PointCount(pugi::xml_node data) { return PointsIn(NumbersOf(data)); }
 
+std::size_t CachedPoints(pugi::xml_node series) {
+  std::size_t points = 0;
+  for (const char* data : {"cat", "val", "xVal", "yVal", "bubbleSize"}) {
+    for (const pugi::xml_node& source : xml::Child(series, data).children()) {
+      points += PointsIn(source);
+      for (const pugi::xml_node& cache : source.children()) points += PointsIn(cache);
+    }
+  }
+  return points;
+}
+
 CacheWriter::CacheWriter(pugi::xml_node cache, std::size_t count) : cache_(cache) {
   schema::SetVal(cache, "ptCount", std::to_string(count));
   const std::string prefix(xml::Prefix(cache.name()));

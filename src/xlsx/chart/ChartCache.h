@@ -24,6 +24,8 @@ std::map<std::size_t, std::string> CachedTexts(pugi::xml_node data);
 std::vector<runtime::Variant> CachedNumbers(pugi::xml_node data);
 /// The number of points in a series' data.
 std::size_t PointCount(pugi::xml_node data);
+/// The points of all that a series shows.
+std::size_t CachedPoints(pugi::xml_node series);
 
 /// Fills an empty cache (c:strCache, c:numCache) with its points.
 class CacheWriter {

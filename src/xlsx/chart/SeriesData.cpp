@@ -100,9 +100,21 @@ pugi::xml_node Emptied(pugi::xml_node series, std::string_view local) {
   return data;
 }
 
-void PointAt(pugi::xml_node data, const Source& source, bool texts) {
+/// Whether a chart can hold the source's points besides those that it holds. They are repeated in it for
+/// readers without the cells; where there are too many, it points at the cells alone, which is as good to
+/// Excel.
+bool HasRoom(ChartPart& part, const Source& source) {
+  constexpr std::int64_t kReferences = std::int64_t{3} * 255;  // of a series, of Excel's largest chart
+  if (source.range.CellCount() <= limits::kCachePoints / kReferences) return true;
+  std::size_t points = source.CellCount();
+  for (const SeriesRef& entry : part.Series()) points += CachedPoints(entry->node);
+  return points <= limits::kCachePoints;
+}
+
+void PointAt(ChartPart& part, pugi::xml_node data, const Source& source, bool texts) {
   pugi::xml_node reference = schema::Ensure(data, texts ? "strRef" : "numRef");
   xml::SetText(schema::Ensure(reference, "f"), source.formula);
+  if (!HasRoom(part, source)) return;
   if (texts) {
     FillTexts(reference, source);
   } else {
@@ -136,16 +148,16 @@ void SetSeriesData(ChartPart& part, pugi::xml_node series, SeriesData which, con
     const bool hasX = type != nullptr && type->HasXValues();
     switch (which) {
       case SeriesData::kName:
-        PointAt(Emptied(series, "tx"), source, true);
+        PointAt(part, Emptied(series, "tx"), source, true);
         break;
       case SeriesData::kCategories:
-        PointAt(Emptied(series, hasX ? "xVal" : "cat"), source, HoldsText(source));
+        PointAt(part, Emptied(series, hasX ? "xVal" : "cat"), source, HoldsText(source));
         break;
       case SeriesData::kValues:
-        PointAt(Emptied(series, hasX ? "yVal" : "val"), source, false);
+        PointAt(part, Emptied(series, hasX ? "yVal" : "val"), source, false);
         break;
       case SeriesData::kBubbleSizes:
-        PointAt(Emptied(series, "bubbleSize"), source, false);
+        PointAt(part, Emptied(series, "bubbleSize"), source, false);
         break;
     }
   }

@@ -231,6 +231,15 @@ TEST_F(ChartPropertiesTest, PropertiesOfSeriesLabelsAndAxesAreWrittenInPlace) {
   }
 }
 
+TEST_F(ChartPropertiesTest, AChartRepeatsNoMoreCellsThanItCanHold) {
+  const S after = Sound(kNothing, [](Chart& chart) {
+    for (int i = 0; i < 2; ++i)
+      AddOfType(chart, excel::xlColumnClustered)->SetValues("=Sheet1!R1C1:R1048576C2");
+  });
+  EXPECT_EQ(test::CountOf(after, "<c:f>Sheet1!$A:$B</c:f>"), 2U) << after;
+  EXPECT_EQ(test::CountOf(after, "<c:ptCount val=\"2097152\"/>"), 1U);
+}
+
 TEST_F(ChartPropertiesTest, ScalesCoverWhatIsDrawn) {
   struct Case {
     std::int32_t type;
