@@ -20,10 +20,9 @@ namespace plotsmith {
 /// The values of a block: category by series, both from 1, Empty where no row of the table reaches.
 class Rectangle {
  public:
+  /// Error 7 for more values than a data sheet has room for, before the memory is taken.
   Rectangle(std::int32_t lCategories, std::int32_t lSeries)
-      : lCategories_(lCategories),
-        lSeries_(lSeries),
-        aValues_(static_cast<std::size_t>(lCategories) * static_cast<std::size_t>(lSeries)) {}
+      : lCategories_(lCategories), lSeries_(lSeries), aValues_(SizeOf(lCategories, lSeries)) {}
 
   /// Error 9 outside.
   runtime::Variant& At(std::int32_t lCategory, std::int32_t lSeries) {
@@ -35,6 +34,13 @@ class Rectangle {
   }
 
  private:
+  static std::size_t SizeOf(std::int32_t lCategories, std::int32_t lSeries) {
+    constexpr std::size_t kMostValues = 20'000'000;
+    const auto lSize = static_cast<std::size_t>(lCategories) * static_cast<std::size_t>(lSeries);
+    if (lSize > kMostValues) throw runtime::RuntimeError(runtime::error::kOutOfMemory);
+    return lSize;
+  }
+
   std::int32_t lCategories_;
   std::int32_t lSeries_;
   std::vector<runtime::Variant> aValues_;

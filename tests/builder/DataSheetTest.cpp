@@ -3,6 +3,7 @@
 
 #include "builder/DataSheet.h"
 #include "tests/support/BlockTest.h"
+#include "tests/support/ErrorOf.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith {
@@ -45,6 +46,11 @@ TEST_F(DataSheetTest, CellsCountByWhatTheyShow) {
   EXPECT_EQ(Block(definition), "|Amount\n1/1/2020|1.0\nJan 20|10.0\nFeb 20|4.0\n|0.0\n2020|16.0\nx|-1.0");
   EXPECT_EQ(Book().FindWorksheet("VEX_ChartData")->CellValueAt(6, 2).kind, excel::CellValue::Kind::kText)
       << "a year as category stays a text";
+}
+
+TEST_F(DataSheetTest, ABlockLargerThanASheetIsRefusedBeforeItTakesMemory) {
+  EXPECT_EQ(test::ErrorOf([] { Rectangle(1'000'000, 254); }), runtime::error::kOutOfMemory);
+  EXPECT_EQ(test::ErrorOf([] { Rectangle(100, 254).At(101, 1); }), runtime::error::kSubscript);
 }
 
 TEST_F(DataSheetTest, ABlockIsMadeToFitInItsPlace) {
