@@ -12,8 +12,9 @@ namespace {
 /// What a cell shows that can't show its number.
 constexpr std::string_view kOverflow = "########";
 
-/// No cell holds a longer text, in bytes; a code that repeats the text over and over stops there.
-constexpr std::size_t kMostText = std::size_t{4} * 32767;
+/// Excel displays so many characters of a cell (its specifications and limits). A code that repeats the
+/// cell's text over and over stops there; a text that is shown once is shown whole.
+constexpr std::size_t kMostRepeated = 1024;
 
 /// The formats that a file names by a number only.
 struct Builtin {
@@ -63,12 +64,15 @@ constexpr Builtin kBuiltins[] = {
 void AppendLiterals(std::string& out, const Section& section, Token::Kind placeholder,
                     std::string_view text) {
   const std::size_t begin = out.size();
+  bool repeated = false;
   for (const Token& token : section.tokens) {
-    if (out.size() - begin > kMostText) return;
-    if (token.kind == Token::Kind::kLiteral)
+    if (token.kind == Token::Kind::kLiteral) {
       out += section.Text(token);
-    else if (token.kind == placeholder)
+    } else if (token.kind == placeholder) {
+      if (repeated && out.size() - begin > kMostRepeated) return;
       out += text;
+      repeated = true;
+    }
   }
 }
 

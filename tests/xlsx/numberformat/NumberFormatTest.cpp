@@ -355,6 +355,12 @@ TEST(NumberFormatTest, TextsAndBooleans) {
   for (const auto& c : cases) EXPECT_EQ(ShowText(c.code, c.text), c.shown) << c.code;
   ExpectShown({{"@", 1234567890000, "1.23457E+12"}, {"\"a\"@", -26.5, "-26.5"}});
 
+  // whole, and again only as long as somebody can see it
+  const std::string text(2000, 'x');
+  EXPECT_EQ(ShowText("@", text), text);
+  EXPECT_EQ(ShowText("(@)@@", text), "(" + text + ")");
+  EXPECT_EQ(ShowText("@@", text.substr(0, 1000)), text);
+
   std::string out;
   NumberFormat::Parse("-@-")->AppendBoolean(out, true);
   NumberFormat::Parse("0.00")->AppendBoolean(out, false);
