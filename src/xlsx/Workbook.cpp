@@ -80,7 +80,8 @@ bool IsSheetName(std::string_view name) {
 Workbook::~Workbook() = default;
 
 std::shared_ptr<Workbook> Workbook::Open(xlsx::Application& application, const std::string& path) {
-  if (std::filesystem::is_directory(path)) throw PackageError("it is a folder");
+  std::error_code ignored;  // of what can't be looked at, the opening tells
+  if (std::filesystem::is_directory(path, ignored)) throw PackageError("it is a folder");
   if (!std::ifstream(path)) throw PackageError("it can't be opened");
   if (const char* kind = ForeignKind(path)) throw PackageError(kind);
   std::shared_ptr<Workbook> book(new Workbook(application));
@@ -348,10 +349,14 @@ std::shared_ptr<ChartPart> Workbook::Chart(const std::string& part) {
 
 Ref<excel::Chart> Workbook::ActiveChart() {
   if (activeSheet_ >= sheets_.size() || sheets_[activeSheet_]->worksheet) return nullptr;
-  const auto drawing = FindDrawingLink(package_, sheets_[activeSheet_]->part);
-  const auto chart = drawing ? package_.FindRelationshipOfType(drawing->target, "chart") : std::nullopt;
-  if (!chart) return nullptr;
-  return std::make_shared<xlsx::Chart>(Chart(chart->target), std::weak_ptr<SheetShape>());
+  try {
+    const auto drawing = FindDrawingLink(package_, sheets_[activeSheet_]->part);
+    const auto chart = drawing ? package_.FindRelationshipOfType(drawing->target, "chart") : std::nullopt;
+    if (!chart) return nullptr;
+    return std::make_shared<xlsx::Chart>(Chart(chart->target), std::weak_ptr<SheetShape>());
+  } catch (const PackageError&) {
+    return nullptr;  // a chart sheet that can't be read shows none
+  }
 }
 
 void Workbook::RaiseDamage(const PackageError& error) {

@@ -134,6 +134,15 @@ TEST_F(CommandTest, NothingIsSavedAfterTheOutputWasLost) {
   EXPECT_EQ(Bytes(book), before);
 }
 
+TEST_F(CommandTest, WhatIsNoFileSaysSo) {
+  std::filesystem::create_symlink("round", folder_.Path() / "round");
+  for (const S& path : {folder_ / "nothing.xlsx", folder_ / S(300, 'x'), folder_ / "round", folder_ / ""}) {
+    const CommandResult result = RunCommand({"refresh", path});
+    EXPECT_EQ(result.code, 3);
+    EXPECT_TRUE(result.err.starts_with("plotsmith: can't read \"" + path + "\": it ")) << result.err;
+  }
+}
+
 TEST_F(CommandTest, WrongUsageIsTwo) {
   const S book = Write(SalesBook({}));
   for (const std::vector<S>& arguments :

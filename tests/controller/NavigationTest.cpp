@@ -290,6 +290,14 @@ TEST_F(EntryTest, AChartSheetInFrontDoesNotStopARefresh) {
   EXPECT_NE(std::find(journal_.begin(), journal_.end(), "Chart.ChartType = 51"), journal_.end());
   EXPECT_EQ(journal_.back(), "Application.Run(\"VEXEvents.VEXChartRefreshComplete\")");
   EXPECT_FALSE(colCharts) << "the run has ended";
+  // one that can't be read is no active chart, and none of the others' business
+  test::EditPart(folder_ / "front.xlsx", "/xl/worksheets/_rels/sheet4.xml.rels",
+                 [](S& links) { links += "<"; });
+  OpenFile(folder_ / "front.xlsx");
+  EXPECT_FALSE(host_->ActiveChart());
+  Refresh();
+  EXPECT_TRUE(Messages().empty()) << Messages()[0];
+  EXPECT_NE(std::find(journal_.begin(), journal_.end(), "Chart.ChartType = 51"), journal_.end());
 }
 
 TEST_F(EntryTest, TheFirstCallersHostAndNameStay) {

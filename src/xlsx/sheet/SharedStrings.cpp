@@ -23,10 +23,10 @@ void ReadSharedStrings(Archive::Stream& source, TextPool& strings) {
       text.clear();
       stream.ReadText(text);
       item += DecodeXString(text);
+      if (bytes + item.size() > limits::kHeldPart) throw PackageError("its texts are too long");
     } else if (tag.name == "si") {
       if (tag.kind == Kind::kEmpty) item.clear();
       bytes += item.size();
-      if (bytes > limits::kHeldPart) throw PackageError("its texts are too long");
       if (strings.Count() >= limits::kSharedStrings) throw PackageError("it has more texts than we can hold");
       strings.Add(item);
     }

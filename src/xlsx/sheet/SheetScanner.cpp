@@ -119,6 +119,7 @@ class SheetScanner : public XmlStream {
 /// Up to and with the start tag of sheetData; false if there is none, as in an empty element.
 bool SheetScanner::ReadHead() {
   for (;;) {
+    if (contents_.head.size() > limits::kXmlToken) throw PackageError("it has no cells where they should be");
     const char* open = position_;
     const auto find = [&] {
       return static_cast<const char*>(std::memchr(open, '<', static_cast<std::size_t>(end_ - open)));
@@ -154,7 +155,6 @@ bool SheetScanner::ReadHead() {
     }
     contents_.head.append(position_, close + 1);
     position_ = close + 1;
-    if (contents_.head.size() > limits::kXmlToken) throw PackageError("it has no cells where they should be");
   }
 }
 
