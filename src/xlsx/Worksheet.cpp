@@ -341,8 +341,9 @@ void Worksheet::FollowShifts(std::size_t followed) {
   auto& package = book_.Package();
   if (isNew_ || grid_ || !PartMentions(package, Entry().part, shifts)) return;
   std::string text = xml::ToUtf8(package.Read(Entry().part));
-  if (ShiftSheetFormulas(text, Entry().name, shifts, followed))
-    package.Replace(Entry().part, std::move(text));
+  const bool shifted =
+      InPart(Entry().part, [&] { return ShiftSheetFormulas(text, Entry().name, shifts, followed); });
+  if (shifted) package.Replace(Entry().part, std::move(text));
 }
 
 bool Worksheet::NeedsWriting() const { return gridChanged_ || (drawing_ && drawing_->Changed()); }
