@@ -100,6 +100,7 @@ std::string UCase(std::string_view text) {
 }
 
 bool EqualsIgnoreCase(std::string_view a, std::string_view b) {
+  if (a == b) return true;
   const auto same = [](char x, char y) { return AsciiUpper(x) == AsciiUpper(y); };
   const auto [stopA, stopB] = std::mismatch(a.begin(), a.end(), b.begin(), b.end(), same);
   if (stopA == a.end() || stopB == b.end()) return stopA == a.end() && stopB == b.end();
