@@ -153,9 +153,11 @@ std::optional<std::string> ShiftRows(std::string_view formula, std::string_view 
         if (lost) break;
       }
     }
-    const std::string text = lost      ? std::string(kLost)
-                             : touched ? piece->reference->Text()
-                                       : std::string(piece->text);
+    if (!touched) {
+      shifted += piece->text;
+      continue;
+    }
+    const std::string text = lost ? std::string(kLost) : piece->reference->Text();
     changed |= text != piece->text;
     shifted += text;
   }
