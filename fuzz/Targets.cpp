@@ -1,6 +1,5 @@
 #include "fuzz/Targets.h"
 
-#include <array>
 #include <fcntl.h>
 #include <filesystem>
 #include <memory>
@@ -23,6 +22,7 @@
 #include "xlsx/package/Package.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/sheet/Formula.h"
+#include "xlsx/sheet/RowShifts.h"
 #include "xlsx/sheet/SharedStrings.h"
 #include "xlsx/sheet/SheetFormulas.h"
 #include "xlsx/sheet/SheetScanner.h"
@@ -252,9 +252,11 @@ void NumberFormat(const std::uint8_t* data, std::size_t size) {
 
 void Formula(const std::uint8_t* data, std::size_t size) {
   const std::string_view text = Text(data, size);
-  const std::array<xlsx::RowShift, 2> shifts = {{{"Sheet1", 5, 3}, {"Sheet1", 4, -3}}};
-  xlsx::ShiftRows(text, "Sheet1", shifts);
-  xlsx::ShiftRows(text, "", shifts);
+  xlsx::RowShifts shifts;
+  shifts.Add("Sheet1", 5, 3);
+  shifts.Add("Sheet1", 4, -3);
+  shifts.Follow(text, "Sheet1", 0);
+  shifts.Follow(text, "", 0);
   xlsx::OffsetFormula(text, 1000000, -5);
   xlsx::ParseSheetRange(text);
   xlsx::ParseR1C1(text);

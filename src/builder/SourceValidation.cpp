@@ -28,12 +28,20 @@ constexpr const char* kNoBucketTable =
 constexpr const char* kBucketMismatch =
     "Chart '/TKN/' has become unavailable because its strategic bucket table doesn't match the source table.";
 
-/// The sheet column of the first of `aColumns` with the name, as the table has it; "" if there is none.
-std::string ColumnNumber(const dom::IXMLDOMNodeList& aColumns, const std::string& sName, bool bYield) {
-  for (const IXMLDOMElement& oColumn : aColumns) {
-    if (runtime::EqualsIgnoreCase(GetAttributeText(oColumn, "name"), sName)) {
-      return GetAttributeText(oColumn, "worksheet-column-number");
-    }
+std::vector<TableColumns::Column> ColumnsOf(const IXMLDOMElement& oTable, const char* sKind) {
+  std::vector<TableColumns::Column> aColumns;
+  for (const IXMLDOMElement& oColumn : oTable.selectNodes(sKind)) {
+    aColumns.push_back(
+        {GetAttributeText(oColumn, "name"), GetAttributeText(oColumn, "worksheet-column-number")});
+  }
+  return aColumns;
+}
+
+/// The sheet column of the first of `aColumns` with the name; "" if there is none.
+std::string ColumnNumber(const std::vector<TableColumns::Column>& aColumns, const std::string& sName,
+                         bool bYield) {
+  for (const TableColumns::Column& oColumn : aColumns) {
+    if (runtime::EqualsIgnoreCase(oColumn.sName, sName)) return oColumn.sNumber;
     if (bYield) YieldToHost();
   }
   return {};
@@ -45,6 +53,9 @@ bool Fail(const char* sTemplate, std::initializer_list<runtime::Variant> aTokens
 }
 
 }  // namespace
+
+TableColumns::TableColumns(const IXMLDOMElement& oTable)
+    : aLabels(ColumnsOf(oTable, "label-column")), aNumbers(ColumnsOf(oTable, "number-column")) {}
 
 bool ValidateSourceData(IXMLDOMElement& oChartElement) {
   return ReportErrors("PSChartBuilder.ValidateSourceData", false, [&] {
@@ -65,6 +76,7 @@ bool ValidateSourceData(IXMLDOMElement& oChartElement) {
     oChartElement.setAttribute("header-row-count", lHeaders);
     if (lHeight <= lHeaders) return Fail(kNoData, {sName, sTableName});
 
+    const TableColumns oColumns(oTable);
     for (const char* sGroup : {"categories", "series", "values", "x-values", "bubble-sizes", "sort-order"}) {
       const auto oGroup = oChartElement.selectSingleNode(sGroup);
       if (!oGroup) continue;
@@ -72,7 +84,7 @@ bool ValidateSourceData(IXMLDOMElement& oChartElement) {
           sGroup == std::string_view("categories") || sGroup == std::string_view("series");
       const std::string sHeadingsIn = bOwnHeadings ? GetAttributeText(oGroup, "headings-in") : "columns";
       for (IXMLDOMElement oColumn : oGroup.selectNodes("column")) {
-        if (!ValidateSourceColumn(oColumn, oTable, sHeadingsIn)) {
+        if (!ValidateSourceColumn(oColumn, oColumns, sHeadingsIn)) {
           return Fail(kBadColumn, {sName, GetAttributeText(oColumn, "name"), sTableName});
         }
         YieldToHost();
@@ -84,7 +96,8 @@ bool ValidateSourceData(IXMLDOMElement& oChartElement) {
     if (!CollectionHasKey(sBucketTable, colTables)) return Fail(kNoBucketTable, {sName});
     const auto oBucketTable = colTables->Item(sBucketTable).selectSingleNode("table");
     for (const char* sKind : {"bucket-name-column", "bucket-value-column"}) {
-      const std::int32_t lColumn = BucketColumnPosition(GetAttributeText(oBucketTable, sKind), sKind, oTable);
+      const std::int32_t lColumn =
+          BucketColumnPosition(GetAttributeText(oBucketTable, sKind), sKind, oColumns);
       if (lColumn == 0) return Fail(kBucketMismatch, {sName});
       oChartElement.setAttribute((std::string(sKind) + "-position").c_str(), lColumn);
     }
@@ -93,12 +106,12 @@ bool ValidateSourceData(IXMLDOMElement& oChartElement) {
 }
 
 // Only the name decides, wherever the headings are: a text is as good in the columns of values as a number.
-bool ValidateSourceColumn(IXMLDOMElement& oColumnElement, const IXMLDOMElement& oTableElement,
+bool ValidateSourceColumn(IXMLDOMElement& oColumnElement, const TableColumns& oTable,
                           std::string_view /*sHeadingsIn*/) {
   return ReportErrors("PSChartBuilder.ValidateSourceColumn", false, [&] {
     const std::string sName = GetAttributeText(oColumnElement, "name");
-    for (const char* sKind : {"label-column", "number-column"}) {
-      const std::string sNumber = ColumnNumber(oTableElement.selectNodes(sKind), sName, true);
+    for (const auto* aColumns : {&oTable.aLabels, &oTable.aNumbers}) {
+      const std::string sNumber = ColumnNumber(*aColumns, sName, true);
       if (sNumber.empty()) continue;
       oColumnElement.setAttribute("worksheet-column-number", runtime::CLng(sNumber));
       return true;
@@ -108,13 +121,13 @@ bool ValidateSourceColumn(IXMLDOMElement& oColumnElement, const IXMLDOMElement& 
 }
 
 std::int32_t BucketColumnPosition(const std::string& sColumnName, std::string_view sColumnKind,
-                                  const IXMLDOMElement& oTableElement) {
+                                  const TableColumns& oTable) {
   return ReportErrors("PSChartBuilder.BucketColumnPosition", std::int32_t{0}, [&] {
-    const char* sKind = sColumnKind == "bucket-name-column"    ? "label-column"
-                        : sColumnKind == "bucket-value-column" ? "number-column"
-                                                               : nullptr;
-    if (sKind == nullptr) return std::int32_t{0};
-    const std::string sNumber = ColumnNumber(oTableElement.selectNodes(sKind), sColumnName, false);
+    const auto* aColumns = sColumnKind == "bucket-name-column"    ? &oTable.aLabels
+                           : sColumnKind == "bucket-value-column" ? &oTable.aNumbers
+                                                                  : nullptr;
+    if (aColumns == nullptr) return std::int32_t{0};
+    const std::string sNumber = ColumnNumber(*aColumns, sColumnName, false);
     return sNumber.empty() ? 0 : runtime::CLng(sNumber);
   });
 }

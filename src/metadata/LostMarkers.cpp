@@ -38,46 +38,58 @@ std::string ShownID(const Ref<excel::Chart>& oChart, excel::Worksheet& oDataShee
   return std::string(GetCellText(oDataSheet, lRow, data_column::kId, sScratch));
 }
 
-/// The first shape of a type that has lost its alternative text and satisfies `isIt`; Nothing if there is
-/// none.
-template <class IsIt>
-Ref<excel::Shape> FindUnmarked(excel::Worksheet& oSheet, std::int32_t lType, const IsIt& isIt) {
-  const auto oShapes = oSheet.Shapes();
-  for (std::int32_t i = 1; i <= oShapes->Count(); ++i) {
-    auto oShape = oShapes->Item(i);
-    if (oShape->Type() != lType || !oShape->AlternativeText().empty()) continue;
-    // what can't be read isn't it
-    if (ValueOr(false, [&] { return isIt(*oShape); })) return oShape;
-  }
-  return nullptr;
+bool IsUnmarked(excel::Shape& oShape, std::int32_t lType) {
+  return oShape.Type() == lType && oShape.AlternativeText().empty();
 }
 
 }  // namespace
 
-std::string RestoreChartMarker(const std::string& sID) {
+std::string UnmarkedCharts::RestoreMarker(const std::string& sID) {
   if (!SheetExists(kDataSheet)) return "";
-  const auto oDataSheet = SheetWithCells(kDataSheet);
-  const auto oSheets = oWorkbook->Worksheets();
-  for (std::int32_t i = 1; i <= oSheets->Count(); ++i) {
-    const auto oSheet = oSheets->Item(i);
-    auto oShape = FindUnmarked(*oSheet, excel::msoChart, [&](excel::Shape& oCandidate) {
-      return ShownID(oSheet->ChartObjects()->Item(oCandidate.Name())->Chart(), *oDataSheet) == sID;
-    });
-    if (!oShape) continue;
-    oShape->SetAlternativeText(sID);
-    return oSheet->Name();
+  for (std::size_t i = 0; i < aRead_.size() || ReadNext(); ++i) {
+    if (aRead_[i].sShownID != sID) continue;
+    aRead_[i].oShape->SetAlternativeText(sID);
+    std::string sSheet = aRead_[i].oSheet->Name();
+    aRead_.erase(aRead_.begin() + static_cast<std::ptrdiff_t>(i));
+    return sSheet;
   }
   return "";
+}
+
+bool UnmarkedCharts::ReadNext() {
+  const auto oDataSheet = SheetWithCells(kDataSheet);
+  const auto oSheets = oWorkbook->Worksheets();
+  for (; lSheet_ <= oSheets->Count(); ++lSheet_, lShape_ = 1) {
+    const auto oSheet = oSheets->Item(lSheet_);
+    const auto oShapes = oSheet->Shapes();
+    while (lShape_ <= oShapes->Count()) {
+      const auto oShape = oShapes->Item(lShape_++);
+      if (!IsUnmarked(*oShape, excel::msoChart)) continue;
+      // what can't be read shows nothing
+      std::string sShownID = ValueOr(std::string(), [&] {
+        return ShownID(oSheet->ChartObjects()->Item(oShape->Name())->Chart(), *oDataSheet);
+      });
+      if (sShownID.empty()) continue;
+      aRead_.push_back({oSheet, oShape, std::move(sShownID)});
+      return true;
+    }
+  }
+  return false;
 }
 
 void RestoreCommentMarker(const std::string& sID, const std::string& sSheetName,
                           const std::string& sComment) {
   if (sComment.empty()) return;
   const auto oSheet = SheetWithCells(sSheetName);
-  auto oShape = FindUnmarked(*oSheet, excel::msoTextBox, [&](excel::Shape& oCandidate) {
-    return oCandidate.TextFrame()->Characters()->Text() == sComment;
-  });
-  if (oShape) oShape->SetAlternativeText(sID);
+  const auto oShapes = oSheet->Shapes();
+  for (std::int32_t i = 1; i <= oShapes->Count(); ++i) {
+    const auto oShape = oShapes->Item(i);
+    if (!IsUnmarked(*oShape, excel::msoTextBox)) continue;
+    // what can't be read isn't it
+    if (!ValueOr(false, [&] { return oShape->TextFrame()->Characters()->Text() == sComment; })) continue;
+    oShape->SetAlternativeText(sID);
+    return;
+  }
 }
 
 }  // namespace plotsmith

@@ -1,16 +1,41 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <vector>
+
+#include "host/excel/Excel.h"
+#include "runtime/Ref.h"
 
 /// Charts and comment boxes belong to a definition by its id in their alternative text. LibreOffice up to 7.4
 /// drops that text when it saves a workbook. But a drawn chart still shows the data block of its definition,
 /// and by that it is known again.
 namespace plotsmith {
 
-/// Looks for a chart without an alternative text that shows a data block of the id, and gives it its marker
-/// back. The sheet's name, or "" if there is none.
-std::string RestoreChartMarker(const std::string& sID);
-/// The same for the chart's comment box, known by its text.
+/// The charts of `oWorkbook` without an alternative text. Each is read once, when the search first comes to
+/// it.
+class UnmarkedCharts {
+ public:
+  /// Looks for a chart that shows a data block of the id, and gives it its marker back. The sheet's name, or
+  /// "" if there is none.
+  std::string RestoreMarker(const std::string& sID);
+
+ private:
+  struct Unmarked {
+    runtime::Ref<excel::Worksheet> oSheet;
+    runtime::Ref<excel::Shape> oShape;
+    std::string sShownID;
+  };
+
+  /// Goes on to the next one that shows a data block; False behind the last.
+  bool ReadNext();
+
+  std::vector<Unmarked> aRead_;
+  std::int32_t lSheet_ = 1, lShape_ = 1;  ///< where to go on
+};
+
+/// Looks on the sheet for a text box without an alternative text that has the text of the chart's comment,
+/// and gives it its marker back.
 void RestoreCommentMarker(const std::string& sID, const std::string& sSheetName, const std::string& sComment);
 
 }  // namespace plotsmith

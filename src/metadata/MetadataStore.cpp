@@ -51,14 +51,14 @@ bool RowHoldsChart(std::int32_t lRow, const std::string& sText, const std::strin
 }
 
 /// Loads one row; False if it has no place on the sheet any more.
-bool LoadChartDefinition(const std::string& sText) {
+bool LoadChartDefinition(const std::string& sText, UnmarkedCharts& oUnmarked) {
   auto oDoc = NewXMLDocument();
   if (!oDoc.loadXML(sText)) return false;
   auto oChart = oDoc.selectSingleNode("chart");
   const std::string sID = GetAttributeText(oChart, "id");
   std::string sSheet = FindChartSheet(sID);
   if (sSheet.empty() && !sID.empty()) {
-    sSheet = RestoreChartMarker(sID);
+    sSheet = oUnmarked.RestoreMarker(sID);
     if (!sSheet.empty()) {
       RestoreCommentMarker(sID, sSheet, GetChildText(oChart, "comment"));
     }
@@ -112,11 +112,12 @@ void RetrieveChartDefinitions() {
       oWorkbook->Worksheets()->Item(kDefinitionsSheet)->SetCellValueAt(1, 1, kDefinitionsSheetMark);
     } else {
       const auto oSheet = oWorkbook->Worksheets()->Item(kDefinitionsSheet);
+      UnmarkedCharts oUnmarked;
       for (std::int32_t lRow = kFirstDefinitionRow;;) {
         const std::string sText = runtime::CStr(GetCellValue(*oSheet, lRow, 1, cell::kString));
         if (sText.empty()) break;
         // whatever goes wrong with a row is that row's fault
-        const bool bLoaded = ValueOr(false, [&] { return LoadChartDefinition(sText); });
+        const bool bLoaded = ValueOr(false, [&] { return LoadChartDefinition(sText, oUnmarked); });
         if (bLoaded || !DeleteSheetRow(oSheet, lRow)) ++lRow;
       }
     }

@@ -185,7 +185,13 @@ IXMLDOMElement GetColumnDefinitionAsXML(const Ref<excel::Worksheet>& oSheet, std
     bool bNumber = true;
     excel::Worksheet& oCells = *oSheet;
     for (std::int32_t lRow = lHeaderRow + 1; bNumber && lRow <= lLastRow; ++lRow) {
-      bNumber = !IsLabelValue(oCells.CellValueAt(lRow, lColumn));
+      const excel::CellValue vValue = oCells.CellValueAt(lRow, lColumn);
+      bNumber = !IsLabelValue(vValue);
+      if (vValue.kind != excel::CellValue::Kind::kEmpty) continue;
+      // blanks change nothing, and there may be a million of them
+      const std::int32_t lNext = oCells.NextRowAt(lRow, lColumn);
+      if (lNext == 0) break;
+      lRow = lNext - 1;
     }
     const auto oDoc = NewXMLDocument();
     auto oColumn = oDoc.createElement(bNumber ? "number-column" : "label-column");

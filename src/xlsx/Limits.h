@@ -28,6 +28,7 @@ inline constexpr std::size_t kXmlToken = std::size_t{64} << 20;
 inline constexpr std::int32_t kRows = 1'048'576;
 inline constexpr std::int32_t kColumns = 16'384;
 inline constexpr std::size_t kCellText = 32'767;
+inline constexpr std::size_t kFormula = 8'192;
 inline constexpr std::size_t kSheetName = 31;
 inline constexpr long long kSheetId = 65'534;
 

@@ -54,16 +54,10 @@ class BookWorksheets final : public excel::Worksheets {
  public:
   explicit BookWorksheets(Workbook& book) : book_(book) {}
 
-  std::int32_t Count() override {
-    const auto& sheets = book_.AllSheets();
-    return static_cast<std::int32_t>(std::count_if(
-        sheets.begin(), sheets.end(), [](const auto& entry) { return entry->worksheet != nullptr; }));
-  }
+  std::int32_t Count() override { return static_cast<std::int32_t>(book_.AllWorksheets().size()); }
   Ref<excel::Worksheet> Item(std::int32_t index) override {
-    for (const auto& entry : book_.AllSheets()) {
-      if (entry->worksheet && --index == 0) return entry->worksheet;
-    }
-    throw RuntimeError(runtime::error::kSubscript);
+    if (index < 1 || index > Count()) throw RuntimeError(runtime::error::kSubscript);
+    return book_.AllWorksheets()[static_cast<std::size_t>(index) - 1];
   }
   Ref<excel::Worksheet> Item(std::string_view name) override {
     auto sheet = book_.FindWorksheet(name);

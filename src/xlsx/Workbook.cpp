@@ -126,19 +126,25 @@ void Workbook::Load() {
 }
 
 void Workbook::LoadSheets() {
-  const auto& relationships = package_.Relationships(part_);
+  std::map<std::string_view, const Relationship*> links;
+  for (const Relationship& link : package_.Relationships(part_)) links.emplace(link.id, &link);
+  std::map<std::string_view, std::string_view> owners;  // by part
   for (const pugi::xml_node& node : xml::Children(xml::Child(Root(), "sheets"), "sheet")) {
     auto entry = std::make_shared<SheetEntry>();
     entry->name = xml::Attribute(node, "name");
     entry->node = node;
-    const std::string id = xml::RelationshipId(node);
-    const auto link = std::find_if(relationships.begin(), relationships.end(),
-                                   [&](const Relationship& r) { return r.id == id; });
-    if (link == relationships.end() || !package_.Has(link->target)) {
+    const auto found = links.find(xml::RelationshipId(node));
+    if (found == links.end() || !package_.Has(found->second->target)) {
       throw PackageError("the part of its sheet " + entry->name + " is missing");
     }
-    entry->part = link->target;
-    if (link->type == "worksheet") {
+    const Relationship& link = *found->second;
+    const auto [owner, free] = owners.emplace(link.target, entry->name);
+    if (!free) {
+      throw PackageError("its sheets " + std::string(owner->second) + " and " + entry->name +
+                         " have one part in common");
+    }
+    entry->part = link.target;
+    if (link.type == "worksheet") {
       entry->worksheet = std::make_shared<Worksheet>(*this, entry, false);
       entry->object = entry->worksheet;
     } else {
@@ -146,11 +152,19 @@ void Workbook::LoadSheets() {
     }
     sheets_.push_back(std::move(entry));
   }
+  ListWorksheets();
   const auto view = xml::Child(Root(), "bookViews", "workbookView");
   const auto active = xml::IntegerAttribute(view, "activeTab", 0);
   if (active >= 0 && active < static_cast<long long>(sheets_.size()))
     activeSheet_ = static_cast<std::size_t>(active);
   if (!sheets_.empty()) openedSheet_ = sheets_[activeSheet_];
+}
+
+void Workbook::ListWorksheets() {
+  worksheets_.clear();
+  for (const auto& sheet : sheets_) {
+    if (sheet->worksheet) worksheets_.push_back(sheet->worksheet);
+  }
 }
 
 void Workbook::LoadNames() {
@@ -238,9 +252,13 @@ std::shared_ptr<Worksheet> Workbook::AddWorksheet(std::size_t position) {
   const std::string link = package_.AddRelationship(part_, Vocabulary().RelationshipType("worksheet"), part);
 
   std::set<long long> ids;
-  for (const auto& sheet : sheets_) ids.insert(xml::IntegerAttribute(sheet->node, "sheetId", 0));
-  std::string name;
-  for (int n = 1; name.empty() || FindSheet(name); ++n) name = "Sheet" + std::to_string(n);
+  std::set<std::string> names;
+  for (const auto& sheet : sheets_) {
+    ids.insert(xml::IntegerAttribute(sheet->node, "sheetId", 0));
+    names.insert(runtime::UCase(sheet->name));
+  }
+  std::string name = "Sheet1";
+  for (int n = 2; names.contains(runtime::UCase(name)); ++n) name = "Sheet" + std::to_string(n);
 
   pugi::xml_node list = xml::Child(Root(), "sheets");
   const std::string tag = std::string(xml::Prefix(Root().name())) + "sheet";
@@ -256,6 +274,7 @@ std::shared_ptr<Worksheet> Workbook::AddWorksheet(std::size_t position) {
   entry->worksheet = std::make_shared<Worksheet>(*this, entry, true);
   entry->object = entry->worksheet;
   sheets_.insert(sheets_.begin() + static_cast<std::ptrdiff_t>(position), entry);
+  ListWorksheets();
   RenumberTabs(position, 1);
   activeSheet_ = position;
   changed_ = true;
@@ -271,6 +290,7 @@ void Workbook::RemoveSheet(const SheetEntry& sheet) {
   node.parent().remove_child(node);
   package_.Remove(sheet.part, part_);
   sheets_.erase(sheets_.begin() + static_cast<std::ptrdiff_t>(position));
+  ListWorksheets();
   RenumberTabs(position, -1);
   if (activeSheet_ >= position && activeSheet_ > 0) --activeSheet_;
   changed_ = true;

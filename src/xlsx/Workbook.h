@@ -75,6 +75,8 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   RowShifts& Shifts() { return shifts_; }
   /// In the order of their tabs.
   const std::vector<std::shared_ptr<SheetEntry>>& AllSheets() const { return sheets_; }
+  /// Those of them that have cells.
+  const std::vector<std::shared_ptr<Worksheet>>& AllWorksheets() const { return worksheets_; }
   /// Null if there is none of the name, ignoring case.
   std::shared_ptr<SheetEntry> FindSheet(std::string_view name) const;
   std::shared_ptr<Worksheet> FindWorksheet(std::string_view name) const;
@@ -112,6 +114,7 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   explicit Workbook(xlsx::Application& application) : application_(application) {}
   void Load();
   void LoadSheets();
+  void ListWorksheets();
   void LoadNames();
   pugi::xml_node Root() const;
   std::size_t PositionOf(const SheetEntry& sheet) const;
@@ -133,6 +136,7 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   std::unique_ptr<xlsx::Styles> styles_;
   std::optional<TextPool> sharedStrings_;
   std::vector<std::shared_ptr<SheetEntry>> sheets_;
+  std::vector<std::shared_ptr<Worksheet>> worksheets_;  ///< of sheets_
   std::size_t activeSheet_ = 0;
   std::shared_ptr<SheetEntry> openedSheet_;  ///< the active sheet as the file tells
   std::vector<NameEntry> names_;

@@ -56,11 +56,11 @@ bool PartMentions(const Package& package, const std::string& part, const RowShif
 std::size_t RoomOf(const CellStore& cells) {
   std::vector<std::int32_t> ends;
   for (std::int32_t column = 1; column <= cells.ColumnCount(); ++column) {
-    const std::int32_t last = cells.LastRow(column);
-    if (last > static_cast<std::int32_t>(ends.size())) ends.resize(static_cast<std::size_t>(last));
-    for (std::int32_t row = 1; row <= last; ++row) {
+    for (std::int32_t row = 0; (row = cells.NextRow(row, column)) != 0;) {
       const bool blank = cells.ValueAt(row, column).GetKind() == PackedValue::Kind::kEmpty;
-      if (!blank || cells.StyleAt(row, column) != 0) ends[static_cast<std::size_t>(row) - 1] = column;
+      if (blank && cells.StyleAt(row, column) == 0) continue;
+      if (row > static_cast<std::int32_t>(ends.size())) ends.resize(static_cast<std::size_t>(row));
+      ends[static_cast<std::size_t>(row) - 1] = column;
     }
   }
   return std::accumulate(ends.begin(), ends.end(), std::size_t{0});
@@ -106,8 +106,7 @@ CellGrid& Worksheet::Grid() {
   }
   CellGrid grid;
   for (std::int32_t column = 1; column <= contents.cells.ColumnCount(); ++column) {
-    const std::int32_t last = contents.cells.LastRow(column);
-    for (std::int32_t row = 1; row <= last; ++row) {
+    for (std::int32_t row = 0; (row = contents.cells.NextRow(row, column)) != 0;) {
       const std::uint32_t style = contents.cells.StyleAt(row, column);
       const CellValue value = Unpack(contents.cells.ValueAt(row, column), style);
       if (value.kind == CellValue::Kind::kEmpty && style == 0) continue;
@@ -151,6 +150,15 @@ CellValue Worksheet::CellValueAt(std::int32_t row, std::int32_t column) {
   // the language counts days in one system only
   if (value.kind == CellValue::Kind::kDate) value.number += SerialOffset(book_.Dates());
   return value;
+}
+
+std::int32_t Worksheet::NextRowAt(std::int32_t row, std::int32_t column) {
+  CheckCell(row, column);
+  if (!grid_) return Contents().cells.NextRow(row, column);
+  while (++row <= grid_->RowCount()) {
+    if (grid_->Find(row, column) != nullptr) return row;
+  }
+  return 0;
 }
 
 CellValue Worksheet::Stored(std::int32_t row, std::int32_t column) {
@@ -333,8 +341,9 @@ void Worksheet::FollowShifts(std::size_t followed) {
   auto& package = book_.Package();
   if (isNew_ || grid_ || !PartMentions(package, Entry().part, shifts)) return;
   std::string text = xml::ToUtf8(package.Read(Entry().part));
-  if (ShiftSheetFormulas(text, Entry().name, shifts, followed))
-    package.Replace(Entry().part, std::move(text));
+  const bool shifted =
+      InPart(Entry().part, [&] { return ShiftSheetFormulas(text, Entry().name, shifts, followed); });
+  if (shifted) package.Replace(Entry().part, std::move(text));
 }
 
 bool Worksheet::NeedsWriting() const { return gridChanged_ || (drawing_ && drawing_->Changed()); }

@@ -66,6 +66,10 @@ TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
   const S odd = Write(damaged, "odd.xlsx");
   damaged.Sheet("Data1").rows.push_back({test::RawCell{" t='x><v>1</v></c>"}});
   const S bad = Write(damaged, "bad.xlsx");
+  damaged.workbookExtra =
+      "<sheets><sheet name='One' r:id='rId1'/><sheet name='Two' r:id='rId2'/><sheet name='Three' "
+      "r:id='rId1'/></sheets>";
+  const S shared = Write(damaged, "shared.xlsx");
   S encrypted = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1";
   encrypted += S(1000, '\0');
   const S old = file("old.xls", encrypted);
@@ -76,6 +80,7 @@ TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
       {file("text.xlsx", "hello"), "Not a zip archive"},
       {file("secret.xlsx", encrypted), "it is encrypted with a password"},
       {old, "it is a workbook of Excel 97-2003 (.xls), not .xlsx"},
+      {shared, "its sheets One and Three have one part in common"},
       {bad, "its part /xl/worksheets/sheet1.xml can't be read: its XML is damaged"}};
   for (const auto& [path, reason] : cases) {
     const S before = Bytes(path);

@@ -22,6 +22,15 @@ class TableDefinitionsTest : public test::HostTest {
     return ids;
   }
   std::string Xml(const std::string& id) { return colTables->Item(id).xml(); }
+  /// The columns of Data1 with the first letters of their kinds.
+  std::string Kinds() {
+    Ids();
+    std::string kinds;
+    for (const auto& column : colTables->Item("Data1").selectSingleNode("table").childElements()) {
+      kinds += GetAttributeText(column, "name") + "=" + column.tagName().substr(0, 1) + " ";
+    }
+    return kinds;
+  }
 };
 
 /// Title, a blank row, headings, two rows of data; at B3 of the sheet.
@@ -118,12 +127,21 @@ TEST_F(TableDefinitionsTest, ClassifiesColumns) {
       "numFmtId=\"0\"/>"
       "<xf numFmtId=\"14\"/><xf numFmtId=\"46\"/></cellXfs></styleSheet>";
   Open(book);
-  Ids();
-  std::string kinds;
-  for (const auto& column : colTables->Item("Data1").selectSingleNode("table").childElements()) {
-    kinds += GetAttributeText(column, "name") + "=" + column.tagName().substr(0, 1) + " ";
-  }
-  EXPECT_EQ(kinds, "blank=n spaces=n numeric text=n text=l date=l error=l truth=n 2020=n time=n ");
+  EXPECT_EQ(Kinds(), "blank=n spaces=n numeric text=n text=l date=l error=l truth=n 2020=n time=n ");
+}
+
+TEST_F(TableDefinitionsTest, BlankStretchesHideNoText) {
+  PlainBook book;
+  PlainSheet sheet{"Data1"};
+  // the last row of the sheet, and behind it in the file one above
+  const RawCell rows{
+      "/></row><row r=\"1048576\"><c r=\"B1048576\" t=\"str\"><v>x</v></c><c "
+      "r=\"C1048576\"><v>1</v></c></row>"
+      "<row r=\"9\"><c r=\"C9\"><v>1</v></c><c r=\"D9\" t=\"str\"><v>x</v></c>"};
+  sheet.rows = {{S("none"), S("last"), S("numbers"), S("stray")}, {{}, 1.0, {}, 1.0, rows}};
+  book.sheets.push_back(sheet);
+  Open(book);
+  EXPECT_EQ(Kinds(), "none=n last=l numbers=n stray=l ");
 }
 
 TEST_F(TableDefinitionsTest, UntitledTableAndBucketColumnsInTheWrongPlace) {

@@ -24,7 +24,13 @@ TEST(StringsTest, UpperCase) {
   const std::string upper = "ALREADY 1";
   EXPECT_EQ(UCase(upper, scratch).data(), upper.data()) << "nothing to do, nothing copied";
   EXPECT_TRUE(EqualsIgnoreCase("Größe", "GRÖßE"));
-  EXPECT_FALSE(EqualsIgnoreCase("a", "ab"));
+  EXPECT_TRUE(EqualsIgnoreCase("", ""));
+  const std::pair<const char*, const char*> different[] = {
+      {"a", "ab"}, {"ab", ""}, {"a", "é"}, {"ſ", "S"}, {"größe", "GRößi"}, {"ı", "I"}, {"[", "{"}};
+  for (const auto& [a, b] : different) {
+    EXPECT_FALSE(EqualsIgnoreCase(a, b)) << a << b;
+    EXPECT_FALSE(EqualsIgnoreCase(b, a)) << b << a;
+  }
   EXPECT_EQ(Trim("  a b\t "), "a b\t");
   EXPECT_EQ(Replace("aXbXX", "X", "--"), "a--b----");
 }

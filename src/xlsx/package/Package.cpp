@@ -1,6 +1,7 @@
 #include "xlsx/package/Package.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 #include "runtime/Ascii.h"
@@ -89,11 +90,10 @@ struct Package::Part {
   std::optional<std::string> bytes;
 };
 
-Package::Package() : contentTypes_(std::make_unique<pugi::xml_document>()) {
-  xml::Parse(*contentTypes_,
-             std::string(kXmlDeclaration) + R"(<Types xmlns=")" + std::string(kContentTypesAddress) +
-                 R"("><Default Extension="rels" ContentType=")" + std::string(kRelationshipsType) +
-                 R"("/><Default Extension="xml" ContentType="application/xml"/></Types>)");
+Package::Package() {
+  ParseContentTypes(std::string(kXmlDeclaration) + R"(<Types xmlns=")" + std::string(kContentTypesAddress) +
+                    R"("><Default Extension="rels" ContentType=")" + std::string(kRelationshipsType) +
+                    R"("/><Default Extension="xml" ContentType="application/xml"/></Types>)");
   Put(kContentTypes, "");
   contentTypesChanged_ = true;
 }
@@ -119,14 +119,23 @@ Package Package::Open(const std::string& path) {
     package.parts_.push_back(std::move(part));
   }
   package.contentTypesChanged_ = package.changed_ = false;
-  package.LoadContentTypes();
+  if (!package.Has(kContentTypes)) {
+    throw PackageError("it is not an Office document: it has no content types");
+  }
+  InPart(kContentTypes, [&] { package.ParseContentTypes(package.Read(kContentTypes)); });
   return package;
 }
 
-void Package::LoadContentTypes() {
-  if (!Has(kContentTypes)) throw PackageError("it is not an Office document: it has no content types");
+void Package::ParseContentTypes(std::string_view bytes) {
   contentTypes_ = std::make_unique<pugi::xml_document>();
-  InPart(kContentTypes, [&] { xml::Parse(*contentTypes_, Read(kContentTypes)); });
+  xml::Parse(*contentTypes_, bytes);
+  overrides_.clear();
+  defaults_.clear();
+  for (const pugi::xml_node& type : xml::Root(*contentTypes_).children()) {
+    // of several for one, the first counts
+    if (xml::Is(type, "Override")) overrides_.emplace(PartNameOf(type), type);
+    if (xml::Is(type, "Default")) defaults_.emplace(Folded(xml::Attribute(type, "Extension")), type);
+  }
 }
 
 Package::Part* Package::Find(std::string_view part) const {
@@ -162,16 +171,13 @@ std::vector<std::string> Package::Parts() const {
 }
 
 std::string Package::ContentType(std::string_view part) const {
-  const pugi::xml_node types = xml::Root(*contentTypes_);
   const std::string key = Folded(part);
-  for (pugi::xml_node type = xml::Child(types, "Override"); type; type = xml::NextSame(type)) {
-    if (PartNameOf(type) == key) return xml::Attribute(type, "ContentType");
+  auto type = overrides_.find(key);
+  if (type == overrides_.end()) {
+    type = defaults_.find(key.substr(key.rfind('.') + 1));
+    if (type == defaults_.end()) return {};
   }
-  const std::string extension = key.substr(key.rfind('.') + 1);
-  for (pugi::xml_node type = xml::Child(types, "Default"); type; type = xml::NextSame(type)) {
-    if (Folded(xml::Attribute(type, "Extension")) == extension) return xml::Attribute(type, "ContentType");
-  }
-  return {};
+  return xml::Attribute(type->second, "ContentType");
 }
 
 namespace {
@@ -230,12 +236,8 @@ void Package::Replace(std::string_view part, std::string bytes) {
 void Package::Add(std::string_view part, std::string_view contentType, std::string bytes) {
   Put(part, std::move(bytes));
   if (ContentType(part) == contentType) return;
-  pugi::xml_node types = xml::Root(*contentTypes_);
-  pugi::xml_node type;
-  for (const pugi::xml_node& other : xml::Children(types, "Override")) {
-    if (PartNameOf(other) == Folded(part)) type = other;  // a part that was here once left it behind
-  }
-  if (!type) type = xml::AppendChild(types, "Override");
+  pugi::xml_node& type = overrides_[Folded(part)];  // a part that was here once may have left it behind
+  if (!type) type = xml::AppendChild(xml::Root(*contentTypes_), "Override");
   xml::SetAttribute(type, "PartName", PercentEncoded(part));
   xml::SetAttribute(type, "ContentType", contentType);
   contentTypesChanged_ = true;
@@ -255,6 +257,7 @@ void Package::Remove(std::string_view name, std::string_view source) {
   for (pugi::xml_node type : xml::Children(types, "Override")) {
     if (PartNameOf(type) == key) types.remove_child(type);
   }
+  overrides_.erase(key);
   contentTypesChanged_ = changed_ = true;
   // a part that gets the name later has links of its own
   const std::string links = RelationshipsPart(part->name);
@@ -322,15 +325,12 @@ std::string Package::AddRelationship(std::string_view part, std::string_view typ
                              std::string(kRelationshipsAddress) + R"("/>)");
   }
   pugi::xml_node root = xml::Root(document);
-  std::string id;
-  for (int n = 1; id.empty(); ++n) {
-    const std::string candidate = "rId" + std::to_string(n);
-    bool taken = false;
-    for (const pugi::xml_node& node : xml::Children(root, "Relationship")) {
-      taken |= Folded(xml::Attribute(node, "Id")) == Folded(candidate);
-    }
-    if (!taken) id = candidate;
+  std::set<std::string> taken;
+  for (const pugi::xml_node& node : xml::Children(root, "Relationship")) {
+    taken.insert(Folded(xml::Attribute(node, "Id")));
   }
+  std::string id = "rId1";
+  for (int n = 2; taken.contains(Folded(id)); ++n) id = "rId" + std::to_string(n);
   pugi::xml_node node = xml::AppendChild(root, "Relationship");
   xml::SetAttribute(node, "Id", id);
   xml::SetAttribute(node, "Type", typeAddress);

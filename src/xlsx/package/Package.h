@@ -72,7 +72,7 @@ class Package {
   Part& Put(std::string_view part, std::string bytes);
   /// Takes it out of the list.
   void Forget(const Part& part);
-  void LoadContentTypes();
+  void ParseContentTypes(std::string_view bytes);
 
   std::unique_ptr<Archive> archive_;
   std::vector<std::unique_ptr<Part>> parts_;          // in the order of the file
@@ -80,6 +80,8 @@ class Package {
   /// By the name of the part that holds them; read once, as each shape of a drawing looks its own up.
   mutable std::map<std::string, std::vector<Relationship>, std::less<>> relationships_;
   std::unique_ptr<pugi::xml_document> contentTypes_;
+  std::map<std::string, pugi::xml_node, std::less<>> overrides_;  ///< in that document, by part, folded
+  std::map<std::string, pugi::xml_node, std::less<>> defaults_;   ///< likewise by extension
   bool contentTypesChanged_ = false;
   bool changed_ = false;
 };

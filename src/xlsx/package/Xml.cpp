@@ -225,12 +225,13 @@ std::string Decode(std::string_view raw) {
       if (i + 1 < raw.size() && raw[i + 1] == '\n') ++i;
       continue;
     }
-    const auto end = raw[i] == '&' ? raw.find(';', i) : std::string_view::npos;
-    if (end == std::string_view::npos || end - i > 12) {
+    constexpr std::size_t kLongest = 12;  // from the "&" to the ";"
+    const auto length = raw[i] == '&' ? raw.substr(i, kLongest + 1).find(';') : std::string_view::npos;
+    if (length == std::string_view::npos) {
       text += raw[i];
       continue;
     }
-    const std::string_view name = raw.substr(i + 1, end - i - 1);
+    const std::string_view name = raw.substr(i + 1, length - 1);
     static constexpr std::array<std::pair<std::string_view, char>, 5> kEntities = {
         {{"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}}};
     bool known = false;
@@ -246,7 +247,7 @@ std::string Decode(std::string_view raw) {
       if (known) runtime::AppendUtf8(text, code);
     }
     if (known) {
-      i = end;
+      i += length;
     } else {
       text += '&';
     }

@@ -1,6 +1,7 @@
 #include "xlsx/sheet/CellGrid.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "runtime/RuntimeError.h"
 #include "xlsx/Limits.h"
@@ -17,14 +18,17 @@ void CellGrid::CheckRoom(std::size_t cells) {
 
 const GridCell* CellGrid::Find(std::int32_t row, std::int32_t column) const {
   if (row < 1 || row > RowCount()) return nullptr;
-  const Row& cells = rows_[static_cast<std::size_t>(row) - 1];
+  const Row& cells = RowAt(row);
   if (column < 1 || column > static_cast<std::int32_t>(cells.size())) return nullptr;
   return &cells[static_cast<std::size_t>(column) - 1];
 }
 
 GridCell& CellGrid::At(std::int32_t row, std::int32_t column) {
-  if (row > RowCount()) rows_.resize(static_cast<std::size_t>(row));
-  Row& cells = rows_[static_cast<std::size_t>(row) - 1];
+  if (row > RowCount()) {
+    DivideAt(RowCount() + 1);
+    above_.resize(static_cast<std::size_t>(row));
+  }
+  Row& cells = const_cast<Row&>(RowAt(row));
   if (column > static_cast<std::int32_t>(cells.size())) {
     held_ += static_cast<std::size_t>(column) - cells.size();
     CheckRoom(held_);
@@ -40,20 +44,38 @@ void CellGrid::InsertRow(std::int32_t row) {
         runtime::error::kApplication,
         "To prevent possible loss of data, rows can't be shifted off of the worksheet.");
   }
-  rows_.insert(rows_.begin() + (row - 1), Row());
+  DivideAt(row);
+  below_.emplace_back();
 }
 
 void CellGrid::DeleteRow(std::int32_t row) {
   if (row > RowCount()) return;
-  const auto gone = rows_.begin() + (row - 1);
-  held_ -= gone->size();
-  rows_.erase(gone);
+  DivideAt(row);
+  held_ -= below_.back().size();
+  below_.pop_back();
+}
+
+const CellGrid::Row& CellGrid::RowAt(std::int32_t row) const {
+  const std::size_t index = static_cast<std::size_t>(row) - 1;
+  return index < above_.size() ? above_[index] : below_[below_.size() - 1 - (index - above_.size())];
+}
+
+void CellGrid::DivideAt(std::int32_t row) {
+  const std::size_t above = static_cast<std::size_t>(row) - 1;
+  while (above_.size() > above) {
+    below_.push_back(std::move(above_.back()));
+    above_.pop_back();
+  }
+  while (above_.size() < above) {
+    above_.push_back(std::move(below_.back()));
+    below_.pop_back();
+  }
 }
 
 std::optional<CellRange> CellGrid::Used() const {
   CellRange used{limits::kRows, limits::kColumns, 0, 0};
   for (std::int32_t row = 1; row <= RowCount(); ++row) {
-    const Row& cells = rows_[static_cast<std::size_t>(row) - 1];
+    const Row& cells = RowAt(row);
     for (std::int32_t column = 1; column <= static_cast<std::int32_t>(cells.size()); ++column) {
       if (cells[static_cast<std::size_t>(column) - 1].IsBlank()) continue;
       used.row1 = std::min(used.row1, row);
@@ -76,7 +98,7 @@ std::string CellGrid::SheetData(const std::string& prefix) const {
   const std::string textEnd = close + "t>" + close + "is>" + close + "c>";
   std::string out = open + "sheetData>";
   for (std::int32_t row = 1; row <= RowCount(); ++row) {
-    const Row& cells = rows_[static_cast<std::size_t>(row) - 1];
+    const Row& cells = RowAt(row);
     bool rowOpen = false;
     for (std::int32_t column = 1; column <= static_cast<std::int32_t>(cells.size()); ++column) {
       const GridCell& cell = cells[static_cast<std::size_t>(column) - 1];

@@ -34,7 +34,7 @@ class CellGrid {
   void InsertRow(std::int32_t row);
   void DeleteRow(std::int32_t row);
 
-  std::int32_t RowCount() const { return static_cast<std::int32_t>(rows_.size()); }
+  std::int32_t RowCount() const { return static_cast<std::int32_t>(above_.size() + below_.size()); }
   /// The rectangle around all cells that aren't blank.
   std::optional<CellRange> Used() const;
   /// The `sheetData` element, texts inline; `prefix` is that of the part's elements, with its colon.
@@ -42,7 +42,13 @@ class CellGrid {
 
  private:
   using Row = std::vector<GridCell>;
-  std::vector<Row> rows_;
+  const Row& RowAt(std::int32_t row) const;
+  /// Makes the row the first of those below.
+  void DivideAt(std::int32_t row);
+
+  /// The rows, divided where one last went in or out: many go at one place, and those behind needn't move for
+  /// each. `below_` begins with the last row of the sheet.
+  std::vector<Row> above_, below_;
   std::size_t held_ = 0;  ///< cells, with those that only fill a row up
 };
 

@@ -56,10 +56,12 @@ std::uint32_t CellStore::Column::StyleAt(std::int32_t row) const {
   return styles_[recentStyle_].style;
 }
 
-std::int32_t CellStore::Column::LastRow() const {
-  std::int32_t last = runs_.empty() ? 0 : runs_.back().lastRow;
-  for (const auto& [row, stray] : strays_) last = std::max(last, row);
-  return last;
+std::int32_t CellStore::Column::NextRow(std::int32_t row) const {
+  const auto run = std::upper_bound(runs_.begin(), runs_.end(), row,
+                                    [](std::int32_t r, const Run& other) { return r < other.lastRow; });
+  const auto stray = strays_.upper_bound(row);
+  const std::int32_t next = run == runs_.end() ? 0 : std::max(row + 1, run->firstRow);
+  return stray == strays_.end() || (next != 0 && next < stray->first) ? next : stray->first;
 }
 
 }  // namespace plotsmith::xlsx

@@ -2,9 +2,9 @@
 
 #include <bit>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "xlsx/sheet/Reference.h"
@@ -74,9 +74,10 @@ class CellStore {
   }
 
   std::int32_t ColumnCount() const { return static_cast<std::int32_t>(columns_.size()); }
-  /// The last row of a column that has a cell, 0 if none has.
-  std::int32_t LastRow(std::int32_t column) const {
-    return columns_[static_cast<std::size_t>(column) - 1].LastRow();
+  /// The next row behind that one that may hold a cell, 0 if there is none.
+  std::int32_t NextRow(std::int32_t row, std::int32_t column) const {
+    if (column < 1 || column > static_cast<std::int32_t>(columns_.size())) return 0;
+    return columns_[static_cast<std::size_t>(column) - 1].NextRow(row);
   }
   std::uint64_t CellCount() const { return count_; }
 
@@ -106,7 +107,7 @@ class CellStore {
       return FindValue(row);
     }
     std::uint32_t StyleAt(std::int32_t row) const;
-    std::int32_t LastRow() const;
+    std::int32_t NextRow(std::int32_t row) const;
 
    private:
     static constexpr std::int32_t kFilledGap = 4;
@@ -132,7 +133,7 @@ class CellStore {
     std::uint32_t lastStyle_ = 0;
     mutable std::size_t recentRun_ = 0;
     mutable std::size_t recentStyle_ = 0;
-    std::unordered_map<std::int32_t, Stray> strays_;  ///< cells of a file that doesn't keep its rows in order
+    std::map<std::int32_t, Stray> strays_;  ///< cells of a file that doesn't keep its rows in order
   };
 
   std::vector<Column> columns_;

@@ -53,6 +53,12 @@ bool Shift(A1Reference& reference, std::int32_t row, std::int32_t count) {
 
 }  // namespace
 
+// what is too long for a sheet's name is none
+void FormulaReader::PointTo(std::string sheet, bool elsewhere) {
+  place_ = elsewhere || runtime::Len(sheet) > limits::kSheetName ? Place::kElsewhere : Place::kSheet;
+  sheet_ = place_ == Place::kSheet ? std::move(sheet) : std::string();
+}
+
 FormulaReader::Piece FormulaReader::Take(std::size_t length) {
   Piece piece;
   piece.text = rest_.substr(0, length);
@@ -65,8 +71,8 @@ FormulaReader::Piece FormulaReader::TakeQuoted() {
   std::string_view behind = rest_;
   std::string name = TakeQuotedSheetName(behind);
   if (behind.starts_with('!')) behind.remove_prefix(1);
-  place_ = name.find_first_of("[:") == std::string::npos ? Place::kSheet : Place::kElsewhere;
-  sheet_ = std::move(name);
+  const bool elsewhere = name.find_first_of("[:") != std::string::npos;
+  PointTo(std::move(name), elsewhere);
   return Take(rest_.size() - behind.size());
 }
 
@@ -110,8 +116,7 @@ FormulaReader::Piece FormulaReader::TakeName() {
     for (++sheetEnd; sheetEnd < rest_.size() && IsNameCharacter(rest_[sheetEnd]);) ++sheetEnd;
   }
   if (sheetEnd == rest_.size() || rest_[sheetEnd] != '!') return Take(std::max<std::size_t>(end, 1));
-  place_ = several ? Place::kElsewhere : Place::kSheet;
-  sheet_ = rest_.substr(0, end);
+  PointTo(std::string(rest_.substr(0, end)), several);
   return Take(sheetEnd + 1);
 }
 
@@ -133,7 +138,7 @@ std::optional<FormulaReader::Piece> FormulaReader::Next() {
 }
 
 std::optional<std::string> ShiftRows(std::string_view formula, std::string_view home,
-                                     std::span<const RowShift> shifts) {
+                                     const ShiftsOf& shiftsOf) {
   std::string shifted;
   bool changed = false;
   FormulaReader reader(formula);
@@ -142,16 +147,17 @@ std::optional<std::string> ShiftRows(std::string_view formula, std::string_view 
     if (piece->reference && piece->reference->first.row > 0 &&
         piece->place != FormulaReader::Place::kElsewhere) {
       const std::string_view sheet = piece->place == FormulaReader::Place::kSheet ? piece->sheet : home;
-      for (const RowShift& shift : shifts) {
-        if (!runtime::EqualsIgnoreCase(sheet, shift.sheet)) continue;
+      for (const RowShift& shift : shiftsOf(sheet)) {
         touched = true;
         lost = !Shift(*piece->reference, shift.row, shift.count);
         if (lost) break;
       }
     }
-    const std::string text = lost      ? std::string(kLost)
-                             : touched ? piece->reference->Text()
-                                       : std::string(piece->text);
+    if (!touched) {
+      shifted += piece->text;
+      continue;
+    }
+    const std::string text = lost ? std::string(kLost) : piece->reference->Text();
     changed |= text != piece->text;
     shifted += text;
   }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -32,6 +34,8 @@ class FormulaReader {
   std::optional<Piece> Next();
 
  private:
+  /// The sheet of the reference that comes next.
+  void PointTo(std::string sheet, bool elsewhere);
   Piece Take(std::size_t length);
   Piece TakeQuoted();
   Piece TakeBracketed();
@@ -45,17 +49,19 @@ class FormulaReader {
 
 /// `count` rows inserted at `row` of a sheet, or, if it is negative, deleted.
 struct RowShift {
-  std::string sheet;
   std::int32_t row;
   std::int32_t count;
+  std::size_t number;  ///< counts the changes to all sheets
 };
+/// Those of one sheet, in order; case doesn't matter in its name.
+using ShiftsOf = std::function<std::span<const RowShift>(std::string_view sheet)>;
 
 /// A formula in which references follow when rows are inserted and deleted, one change after the other.
 /// `home` is the sheet that references without a sheet mean, empty if there is none. Nothing if the formula
 /// stays as it is. What is deleted whole becomes #REF!. References over several sheets keep their rows, as in
 /// Excel.
 std::optional<std::string> ShiftRows(std::string_view formula, std::string_view home,
-                                     std::span<const RowShift> shifts);
+                                     const ShiftsOf& shiftsOf);
 
 /// A formula as it reads when it is copied to a cell so many rows below and columns to the right: relative
 /// references move along. What leaves the sheet becomes #REF!.

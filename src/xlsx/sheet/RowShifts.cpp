@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "runtime/Ascii.h"
+#include "runtime/Strings.h"
 
 namespace plotsmith::xlsx {
 
@@ -28,27 +29,34 @@ bool Mentions(std::string_view text, std::string_view name) {
 }  // namespace
 
 void RowShifts::Add(std::string_view sheet, std::int32_t row, std::int32_t count) {
-  if (!shifts_.empty() && !marked_) {
-    RowShift& last = shifts_.back();
+  auto& shifts = shifts_[runtime::UCase(sheet)];
+  if (!shifts.empty() && shifts.back().number + 1 == count_ && !marked_) {
+    RowShift& last = shifts.back();
     // rows that go in, or out, at one place one by one are one change
-    if (last.sheet == sheet && last.row == row && (last.count > 0) == (count > 0)) {
+    if (last.row == row && (last.count > 0) == (count > 0)) {
       last.count += count;
       return;
     }
   }
-  shifts_.push_back({std::string(sheet), row, count});
-  sheets_.emplace(sheet);
+  shifts.push_back({row, count, count_++});
   marked_ = false;
 }
 
 std::optional<std::string> RowShifts::Follow(std::string_view formula, std::string_view home,
                                              std::size_t followed) const {
-  return ShiftRows(formula, home, std::span(shifts_).subspan(followed));
+  std::string scratch;
+  return ShiftRows(formula, home, [&](std::string_view sheet) -> std::span<const RowShift> {
+    const auto found = shifts_.find(runtime::UCase(sheet, scratch));
+    if (found == shifts_.end()) return {};
+    const auto behind = std::partition_point(found->second.begin(), found->second.end(),
+                                             [&](const RowShift& shift) { return shift.number < followed; });
+    return {behind, found->second.end()};
+  });
 }
 
 bool RowShifts::MayConcern(std::string_view text) const {
-  return std::any_of(sheets_.begin(), sheets_.end(),
-                     [&](const std::string& sheet) { return Mentions(text, sheet); });
+  return std::any_of(shifts_.begin(), shifts_.end(),
+                     [&](const auto& sheet) { return Mentions(text, sheet.first); });
 }
 
 }  // namespace plotsmith::xlsx

@@ -2,8 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,13 +19,13 @@ class RowShifts {
  public:
   /// `count` rows at `row`; negative: deleted.
   void Add(std::string_view sheet, std::int32_t row, std::int32_t count);
-  bool None() const { return shifts_.empty(); }
+  bool None() const { return count_ == 0; }
   /// Whether any came behind a mark.
-  bool AnyBehind(std::size_t mark) const { return shifts_.size() > mark; }
+  bool AnyBehind(std::size_t mark) const { return count_ > mark; }
   /// The mark to remember once all shifts are followed.
   std::size_t Mark() {
     marked_ = true;
-    return shifts_.size();
+    return count_;
   }
 
   /// A formula that has followed `followed` of the shifts, brought up to date; nothing if it stays as it is.
@@ -36,9 +36,9 @@ class RowShifts {
   bool MayConcern(std::string_view text) const;
 
  private:
-  std::vector<RowShift> shifts_;
-  std::set<std::string> sheets_;  ///< on which they are
-  bool marked_ = false;           ///< the last shift is somebody's mark and must not grow any more
+  std::map<std::string, std::vector<RowShift>, std::less<>> shifts_;  ///< by sheet, in upper case
+  std::size_t count_ = 0;
+  bool marked_ = false;  ///< the last shift is somebody's mark and must not grow any more
 };
 
 }  // namespace plotsmith::xlsx

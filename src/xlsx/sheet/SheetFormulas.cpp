@@ -5,7 +5,9 @@
 #include <map>
 #include <optional>
 
+#include "runtime/Strings.h"
 #include "xlsx/Limits.h"
+#include "xlsx/package/PackageError.h"
 #include "xlsx/package/Xml.h"
 #include "xlsx/package/XmlStream.h"
 #include "xlsx/package/XmlTags.h"
@@ -88,7 +90,8 @@ class FormulaShifter {
       const std::string group = AttributeIn(tag.attributes, "si");
       if (!formula.empty()) {
         shared_.erase(group);  // numbers of groups are used again
-        if (shifts_.MayConcern(formula)) shared_[group] = {row_, column_, formula};
+        const bool sound = runtime::Len(formula) <= limits::kFormula;
+        if (sound && shifts_.MayConcern(formula)) shared_[group] = {row_, column_, formula};
       } else if (const auto found = shared_.find(group); found != shared_.end()) {
         const SharedFormula& full = found->second;
         formula = OffsetFormula(full.formula, row_ - full.row, column_ - full.column);
@@ -112,6 +115,10 @@ class FormulaShifter {
   void Replace(const TextSpan& stretch, const std::string& by) {
     out_.append(part_, copied_, stretch.begin - copied_).append(by);
     copied_ = stretch.end;
+    if (out_.size() > limits::kHeldPart) {
+      throw PackageError("its formulas come to more than " + std::to_string(limits::kHeldPart) +
+                         " bytes, which no sound workbook needs");
+    }
   }
 
   const std::string& part_;

@@ -90,9 +90,16 @@ void Styles::Load() {
   for (const pugi::xml_node& format : Listed(Root(), "numFmts", "numFmt")) {
     formats_[FormatIdOf(format)] = xml::Attribute(format, "formatCode");
   }
+  for (const auto& [id, code] : formats_) formatIds_.emplace(code, id);
   for (const pugi::xml_node& style : Listed(Root(), "cellXfs", "xf")) {
-    cellStyles_.emplace_back().formatId = FormatIdOf(style);
+    AddStyle(style);
   }
+}
+
+void Styles::AddStyle(pugi::xml_node node) {
+  CellStyle& style = cellStyles_.emplace_back();
+  style.node = node;
+  style.formatId = FormatIdOf(node);
 }
 
 std::string Styles::CodeOf(int formatId) const {
@@ -117,14 +124,12 @@ void Styles::Parse(const CellStyle& style) const {
 
 int Styles::FormatId(std::string_view code) {
   if (runtime::EqualsIgnoreCase(code, "General") || code.empty()) return 0;
-  std::set<long long> taken;
-  for (const auto& [id, custom] : formats_) {
-    if (custom == code) return id;
-    taken.insert(id);
-  }
+  if (const auto custom = formatIds_.find(code); custom != formatIds_.end()) return custom->second;
   for (int id = 1; id < 50; ++id) {
     if (BuiltinNumberFormat(id) == code && !formats_.contains(id)) return id;
   }
+  std::set<long long> taken;
+  for (const auto& [id, custom] : formats_) taken.insert(id);
   const auto next = static_cast<int>(FreeNumber(taken, kFirstCustomFormat, kLastFormat));
   pugi::xml_node list = xml::EnsureInOrder(Root(), "numFmts", kOrder);
   pugi::xml_node format = xml::AppendChild(list, "numFmt");
@@ -132,6 +137,7 @@ int Styles::FormatId(std::string_view code) {
   xml::SetAttribute(format, "formatCode", code);
   xml::SetAttribute(list, "count", std::to_string(Listed(Root(), "numFmts", "numFmt").size()));
   formats_[next] = code;
+  formatIds_.emplace(code, next);
   return next;
 }
 
@@ -143,20 +149,20 @@ std::uint32_t Styles::WithFormat(std::uint32_t base, std::string_view code) {
   const int id = FormatId(code);
   if ((base < cellStyles_.size() ? cellStyles_[base].formatId : 0) == id) {
     changed_ = wasChanged;
-    return base;
+    return made_[{base, std::string(code)}] = base;
   }
   pugi::xml_node list = xml::EnsureInOrder(Root(), "cellXfs", kOrder);
   const std::string name = std::string(xml::Prefix(list.name())) + "xf";
   if (cellStyles_.empty()) {  // the first style is that of all cells that name none
-    xml::SetAttribute(list.append_child(name.c_str()), "numFmtId", "0");
-    cellStyles_.emplace_back();
+    pugi::xml_node first = list.append_child(name.c_str());
+    xml::SetAttribute(first, "numFmtId", "0");
+    AddStyle(first);
   }
-  const auto styles = Listed(Root(), "cellXfs", "xf");
   pugi::xml_node style =
-      base < styles.size() ? list.append_copy(styles[base]) : list.append_child(name.c_str());
+      base < cellStyles_.size() ? list.append_copy(cellStyles_[base].node) : list.append_child(name.c_str());
   xml::SetAttribute(style, "numFmtId", std::to_string(id));
   xml::SetAttribute(style, "applyNumberFormat", "1");
-  cellStyles_.emplace_back().formatId = id;
+  AddStyle(style);
   xml::SetAttribute(list, "count", std::to_string(cellStyles_.size()));
   const auto made = static_cast<std::uint32_t>(cellStyles_.size() - 1);
   made_[{base, std::string(code)}] = made;

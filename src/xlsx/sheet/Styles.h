@@ -44,6 +44,7 @@ class Styles {
 
  private:
   struct CellStyle {
+    pugi::xml_node node;
     int formatId = 0;
     mutable std::shared_ptr<const NumberFormat> format;  // parsed when first asked for, with what it says
     mutable bool general = false, date = false;
@@ -60,9 +61,11 @@ class Styles {
   std::string CodeOf(int formatId) const;
   int FormatId(std::string_view code);
   void Load();
+  void AddStyle(pugi::xml_node node);
 
   pugi::xml_document document_;
   std::map<int, std::string> formats_;
+  std::map<std::string, int, std::less<>> formatIds_;  ///< the way back, to the first of several
   std::vector<CellStyle> cellStyles_;
   CellStyle noStyle_;
   std::map<std::pair<std::uint32_t, std::string>, std::uint32_t> made_;

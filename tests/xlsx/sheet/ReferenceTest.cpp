@@ -1,7 +1,5 @@
-#include <array>
 #include <gtest/gtest.h>
 
-#include "xlsx/sheet/Formula.h"
 #include "xlsx/sheet/RowShifts.h"
 
 namespace plotsmith::xlsx {
@@ -105,11 +103,15 @@ TEST(ReferenceTest, FormulasFollowRows) {
       {"Data!A5:Other!B6", 1, 1, false, "Data!A6:Other!B6"},
       {"Other!A5:A6+A5:Data!A5", 1, 1, false, "Other!A5:A6+A5:Data!A6"},
       {"Data!A5#+@A5", 1, 1, true, "Data!A6#+@A6"},
+      // no sheet has so long a name, and no corner behind it a sheet of its own
+      {"DataDataDataDataDataDataDataData!A5:A9:B9+Data!A5", 5, 1, true,
+       "DataDataDataDataDataDataDataData!A5:A9:B9+Data!A6"},
       {"(Data!$B$6:$B$7,Data!$B$9)", 7, 2, false, "(Data!$B$6:$B$9,Data!$B$11)"},
   };
   for (const Case& c : cases) {
-    const auto shifted =
-        ShiftRows(c.formula, c.home ? "Data" : "", std::array{RowShift{"Data", c.row, c.count}});
+    RowShifts shifts;
+    shifts.Add("Data", c.row, c.count);
+    const auto shifted = shifts.Follow(c.formula, c.home ? "Data" : "", 0);
     EXPECT_EQ(shifted.value_or("(same)"), c.shifted == nullptr ? "(same)" : c.shifted)
         << c.formula << " row " << c.row << " count " << c.count;
   }

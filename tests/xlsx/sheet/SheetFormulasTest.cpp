@@ -46,8 +46,15 @@ TEST(SheetFormulasTest, OnlyTheFormulasConcernedChange) {
     EXPECT_TRUE(ShiftSheetFormulas(part, "Sheet1", shifts)) << before;
     EXPECT_EQ(part, std::string("<w>\r\n<!-- 'My Data'!A5 -->") + after + "</w>");
   }
-  for (const char* same : {"<c r='A1'><f>A5+Other!A5</f></c>", "<c r='A1'><f>'My Data'!A4</f></c>",
-                           "<c t='str'><v>'My Data'!A5</v></c>", "<f", "<f>"}) {
+  const std::string unchanged[] = {// longer than any formula may be
+                                   "<c><f t='shared' si='0'>'My Data'!A5" + std::string(8192, ' ') +
+                                       "</f></c><c><f t='shared' si='0'/></c>",
+                                   "<c r='A1'><f>A5+Other!A5</f></c>",
+                                   "<c r='A1'><f>'My Data'!A4</f></c>",
+                                   "<c t='str'><v>'My Data'!A5</v></c>",
+                                   "<f",
+                                   "<f>"};
+  for (const std::string& same : unchanged) {
     std::string part = same;
     EXPECT_FALSE(ShiftSheetFormulas(part, "Sheet1", shifts)) << same;
     EXPECT_EQ(part, same);
