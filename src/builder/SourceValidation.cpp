@@ -28,20 +28,12 @@ constexpr const char* kNoBucketTable =
 constexpr const char* kBucketMismatch =
     "Chart '/TKN/' has become unavailable because its strategic bucket table doesn't match the source table.";
 
-std::vector<TableColumns::Column> ColumnsOf(const IXMLDOMElement& oTable, const char* sKind) {
-  std::vector<TableColumns::Column> aColumns;
-  for (const IXMLDOMElement& oColumn : oTable.selectNodes(sKind)) {
-    aColumns.push_back(
-        {GetAttributeText(oColumn, "name"), GetAttributeText(oColumn, "worksheet-column-number")});
-  }
-  return aColumns;
-}
-
-/// The sheet column of the first of `aColumns` with the name; "" if there is none.
-std::string ColumnNumber(const std::vector<TableColumns::Column>& aColumns, const std::string& sName,
-                         bool bYield) {
-  for (const TableColumns::Column& oColumn : aColumns) {
-    if (runtime::EqualsIgnoreCase(oColumn.sName, sName)) return oColumn.sNumber;
+/// The sheet column of the first of `aColumns` with the name, as the table has it; "" if there is none.
+std::string ColumnNumber(const dom::IXMLDOMNodeList& aColumns, const std::string& sName, bool bYield) {
+  for (const IXMLDOMElement& oColumn : aColumns) {
+    if (runtime::EqualsIgnoreCase(GetAttributeText(oColumn, "name"), sName)) {
+      return GetAttributeText(oColumn, "worksheet-column-number");
+    }
     if (bYield) YieldToHost();
   }
   return {};
@@ -53,9 +45,6 @@ bool Fail(const char* sTemplate, std::initializer_list<runtime::Variant> aTokens
 }
 
 }  // namespace
-
-TableColumns::TableColumns(const IXMLDOMElement& oTable)
-    : aLabels(ColumnsOf(oTable, "label-column")), aNumbers(ColumnsOf(oTable, "number-column")) {}
 
 bool ValidateSourceData(IXMLDOMElement& oChartElement) {
   return ReportErrors("PSChartBuilder.ValidateSourceData", false, [&] {
@@ -76,7 +65,6 @@ bool ValidateSourceData(IXMLDOMElement& oChartElement) {
     oChartElement.setAttribute("header-row-count", lHeaders);
     if (lHeight <= lHeaders) return Fail(kNoData, {sName, sTableName});
 
-    const TableColumns oColumns(oTable);
     for (const char* sGroup : {"categories", "series", "values", "x-values", "bubble-sizes", "sort-order"}) {
       const auto oGroup = oChartElement.selectSingleNode(sGroup);
       if (!oGroup) continue;
@@ -84,7 +72,7 @@ bool ValidateSourceData(IXMLDOMElement& oChartElement) {
           sGroup == std::string_view("categories") || sGroup == std::string_view("series");
       const std::string sHeadingsIn = bOwnHeadings ? GetAttributeText(oGroup, "headings-in") : "columns";
       for (IXMLDOMElement oColumn : oGroup.selectNodes("column")) {
-        if (!ValidateSourceColumn(oColumn, oColumns, sHeadingsIn)) {
+        if (!ValidateSourceColumn(oColumn, oTable, sHeadingsIn)) {
           return Fail(kBadColumn, {sName, GetAttributeText(oColumn, "name"), sTableName});
         }
         YieldToHost();
@@ -96,8 +84,7 @@ bool ValidateSourceData(IXMLDOMElement& oChartElement) {
     if (!CollectionHasKey(sBucketTable, colTables)) return Fail(kNoBucketTable, {sName});
     const auto oBucketTable = colTables->Item(sBucketTable).selectSingleNode("table");
     for (const char* sKind : {"bucket-name-column", "bucket-value-column"}) {
-      const std::int32_t lColumn =
-          BucketColumnPosition(GetAttributeText(oBucketTable, sKind), sKind, oColumns);
+      const std::int32_t lColumn = BucketColumnPosition(GetAttributeText(oBucketTable, sKind), sKind, oTable);
       if (lColumn == 0) return Fail(kBucketMismatch, {sName});
       oChartElement.setAttribute((std::string(sKind) + "-position").c_str(), lColumn);
     }
@@ -106,12 +93,12 @@ bool ValidateSourceData(IXMLDOMElement& oChartElement) {
 }
 
 // Only the name decides, wherever the headings are: a text is as good in the columns of values as a number.
-bool ValidateSourceColumn(IXMLDOMElement& oColumnElement, const TableColumns& oTable,
+bool ValidateSourceColumn(IXMLDOMElement& oColumnElement, const IXMLDOMElement& oTableElement,
                           std::string_view /*sHeadingsIn*/) {
   return ReportErrors("PSChartBuilder.ValidateSourceColumn", false, [&] {
     const std::string sName = GetAttributeText(oColumnElement, "name");
-    for (const auto* aColumns : {&oTable.aLabels, &oTable.aNumbers}) {
-      const std::string sNumber = ColumnNumber(*aColumns, sName, true);
+    for (const char* sKind : {"label-column", "number-column"}) {
+      const std::string sNumber = ColumnNumber(oTableElement.selectNodes(sKind), sName, true);
       if (sNumber.empty()) continue;
       oColumnElement.setAttribute("worksheet-column-number", runtime::CLng(sNumber));
       return true;
@@ -121,13 +108,13 @@ bool ValidateSourceColumn(IXMLDOMElement& oColumnElement, const TableColumns& oT
 }
 
 std::int32_t BucketColumnPosition(const std::string& sColumnName, std::string_view sColumnKind,
-                                  const TableColumns& oTable) {
+                                  const IXMLDOMElement& oTableElement) {
   return ReportErrors("PSChartBuilder.BucketColumnPosition", std::int32_t{0}, [&] {
-    const auto* aColumns = sColumnKind == "bucket-name-column"    ? &oTable.aLabels
-                           : sColumnKind == "bucket-value-column" ? &oTable.aNumbers
-                                                                  : nullptr;
-    if (aColumns == nullptr) return std::int32_t{0};
-    const std::string sNumber = ColumnNumber(*aColumns, sColumnName, false);
+    const char* sKind = sColumnKind == "bucket-name-column"    ? "label-column"
+                        : sColumnKind == "bucket-value-column" ? "number-column"
+                                                               : nullptr;
+    if (sKind == nullptr) return std::int32_t{0};
+    const std::string sNumber = ColumnNumber(oTableElement.selectNodes(sKind), sColumnName, false);
     return sNumber.empty() ? 0 : runtime::CLng(sNumber);
   });
 }

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "dom/Dom.h"
 
@@ -11,26 +10,15 @@
 /// definition, and everything behind this step reads the geometry from there.
 namespace plotsmith {
 
-/// The columns of a table, read once for all that are looked up among them.
-struct TableColumns {
-  struct Column {
-    std::string sName;
-    std::string sNumber;  ///< of the sheet's column
-  };
-  explicit TableColumns(const dom::IXMLDOMElement& oTable);
-
-  std::vector<Column> aLabels, aNumbers;
-};
-
 /// False, after a message, if the chart can't be built.
 bool ValidateSourceData(dom::IXMLDOMElement& oChartElement);
 /// Whether the table has a column of that name, of either kind, ignoring case; then the chart's column gets
 /// its sheet column.
-bool ValidateSourceColumn(dom::IXMLDOMElement& oColumnElement, const TableColumns& oTable,
+bool ValidateSourceColumn(dom::IXMLDOMElement& oColumnElement, const dom::IXMLDOMElement& oTableElement,
                           std::string_view sHeadingsIn);
 /// The sheet column, 0 if there is none, of a bucket table's heading in the source table. `sColumnKind` is
 /// "bucket-name-column", sought among the label columns, or "bucket-value-column", among the number columns.
 std::int32_t BucketColumnPosition(const std::string& sColumnName, std::string_view sColumnKind,
-                                  const TableColumns& oTable);
+                                  const dom::IXMLDOMElement& oTableElement);
 
 }  // namespace plotsmith
