@@ -195,6 +195,15 @@ TEST_F(ChartViewTest, ASeriesShowsItsCells) {
       << "categories without a text are numbers";
 }
 
+TEST_F(ChartViewTest, NumbersOfSeriesEndWhereTheirTypeDoes) {
+  After(Part("<c:plotArea><c:barChart><c:ser><c:idx val=\"9223372036854775807\"/><c:order "
+             "val=\"9223372036854775807\"/></c:ser></c:barChart></c:plotArea>"),
+        [](Chart& chart) {
+          EXPECT_EQ(chart.SeriesCollection()->Item(1)->Name(), "Series4294967296");
+          EXPECT_EQ(chart.SeriesCollection()->Item(1)->Formula(), "=SERIES(,,,4294967296)");
+        });
+}
+
 TEST_F(ChartViewTest, AnEmptyChartShowsItsAxesWithTheFirstSeries) {
   const S hidden = runtime::Replace(kAxes, "<c:axPos", "<c:delete val=\"1\"/><c:axPos"),
           series = "<c:ser><c:idx val=\"0\"/></c:ser>";
