@@ -265,6 +265,12 @@ TEST_F(ChartShapesTest, WhatOthersDrewOnTheChartStays) {
   Chart()->SetHasTitle(true);
   SaveAndReopen();
   EXPECT_EQ(SavedPart(kPart), "<c:userShapes>");
+
+  // nor are links that nobody can read
+  OpenChart(chart, user);
+  Book().Package().Replace("/xl/charts/_rels/chart1.xml.rels", "<");
+  ExpectError1004([&] { Chart()->Shapes()->Count(); });
+  EXPECT_FALSE(Book().Damage());
 }
 
 TEST_F(ChartShapesTest, AStrictWorkbookStaysStrict) {
