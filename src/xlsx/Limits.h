@@ -35,6 +35,8 @@ inline constexpr long long kSheetId = 65'534;
 inline constexpr std::uint64_t kCells = 400'000'000;
 /// The same of a sheet that is written to, where a row takes room up to its last cell.
 inline constexpr std::size_t kGridCells = 20'000'000;
+/// Units in a shape's text. It is written anew with each piece that somebody adds.
+inline constexpr std::size_t kShapeText = 131'072;
 /// Series of one chart, a plot group without any counted as one. Excel has up to 255.
 inline constexpr std::size_t kSeries = 1024;
 /// Cells that one reference of a chart brings into the chart's cache.
