@@ -20,6 +20,8 @@ inline constexpr int kXmlDepth = 512;
 /// Tags and attributes of a part that becomes a tree, which takes many times the bytes of a short tag. The
 /// largest chart, with kCachePoints points, stays below.
 inline constexpr std::ptrdiff_t kXmlMarks = 24'000'000;
+/// Attributes of one element, namespaces among them, which are looked through at each use.
+inline constexpr std::size_t kXmlAttributes = 1000;
 inline constexpr std::size_t kSharedStrings = 32'000'000;
 /// One tag or one text between tags, while a sheet is streamed.
 inline constexpr std::size_t kXmlToken = std::size_t{64} << 20;
