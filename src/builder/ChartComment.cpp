@@ -48,11 +48,13 @@ void SetChartComment(const dom::IXMLDOMElement& oChartElement) {
       oBox = AddCommentBox(GetAttributeText(oChartElement, "chart-worksheet"), sID);
     if (!oBox) return;
     const auto oFrame = oBox->TextFrame();
-    oFrame->Characters()->SetText(runtime::Mid(sComment, 1, kPiece));
-    for (std::size_t lStart = kPiece + 1;; lStart += kPiece) {
-      const std::string sPiece = runtime::Mid(sComment, lStart, kPiece);
-      if (sPiece.empty()) break;
-      oFrame->Characters(static_cast<std::int32_t>(lStart))->Insert(sPiece);
+    const std::u16string sUnits = runtime::ToUtf16(sComment);
+    const auto piece = [&](std::size_t lFrom) {
+      return runtime::ToUtf8(std::u16string_view(sUnits).substr(lFrom, kPiece));
+    };
+    oFrame->Characters()->SetText(piece(0));
+    for (std::size_t lFrom = kPiece; lFrom < sUnits.size(); lFrom += kPiece) {
+      oFrame->Characters(static_cast<std::int32_t>(lFrom + 1))->Insert(piece(lFrom));
     }
   });
 }

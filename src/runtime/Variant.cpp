@@ -33,6 +33,8 @@ double DecimalValue(std::string text) {
   if (mark != std::string::npos) {
     const auto parsed = std::from_chars(text.data() + mark + 1, text.data() + text.size(), exponent);
     if (parsed.ec != std::errc()) return text[mark + 1] == '-' ? 0 : std::numeric_limits<double>::infinity();
+    constexpr long long kBeyond = 1LL << 40;  // more than a text has digits
+    exponent = std::clamp(exponent, -kBeyond, kBeyond);
   }
   const std::string_view mantissa = std::string_view(text).substr(0, mark);
   const auto point = std::min(mantissa.find('.'), mantissa.size());

@@ -20,6 +20,8 @@ inline constexpr int kXmlDepth = 512;
 /// Tags and attributes of a part that becomes a tree, which takes many times the bytes of a short tag. The
 /// largest chart, with kCachePoints points, stays below.
 inline constexpr std::ptrdiff_t kXmlMarks = 24'000'000;
+/// Attributes of one element, namespaces among them, which are looked through at each use.
+inline constexpr std::size_t kXmlAttributes = 1000;
 inline constexpr std::size_t kSharedStrings = 32'000'000;
 /// One tag or one text between tags, while a sheet is streamed.
 inline constexpr std::size_t kXmlToken = std::size_t{64} << 20;
@@ -36,6 +38,10 @@ inline constexpr long long kSheetId = 65'534;
 inline constexpr std::uint64_t kCells = 400'000'000;
 /// The same of a sheet that is written to, where a row takes room up to its last cell.
 inline constexpr std::size_t kGridCells = 20'000'000;
+/// Units in a shape's text. It is written anew with each piece that somebody adds.
+inline constexpr std::size_t kShapeText = 131'072;
+/// Series of one chart, a plot group without any counted as one. Excel has up to 255.
+inline constexpr std::size_t kSeries = 1024;
 /// Cells that all series of a chart bring into its cache.
 inline constexpr std::int64_t kCachePoints = 4'000'000;
 

@@ -232,6 +232,13 @@ TEST_F(ReadBackTest, WaysToSayTheSame) {
       {"by name",
        untitled + two + "<c:legend>" + Props(">" + Fill("<a:prstClr val=\"navy\"/>")) + "</c:legend>", "",
        "Calibri 10 Regular 8388608 |"},
+      {"modified beyond numbers",
+       untitled + two + "<c:legend>" +
+           Props(">" +
+                 Fill("<a:srgbClr val=\"336699\"><a:shade val=\"1e300\"/><a:shade val=\"1e300\"/><a:shade "
+                      "val=\"1e300\"/><a:shade val=\"0\"/></a:srgbClr>")) +
+           "</c:legend>",
+       "", "Calibri 10 Regular 0 |"},
       // the legend
       {"its place", untitled + two + "<c:legend><c:legendPos val=\"b\"/></c:legend>", "", "show -4107,"},
       {"only its size by hand",

@@ -50,7 +50,9 @@ TEST(VariantTest, TextsAsNumbers) {
 TEST(VariantTest, NumbersOutOfRange) {
   const std::string small = "0." + std::string(400, '0') + "1e3", large = std::string(400, '9') + "e-3";
   EXPECT_EQ(CDbl(small), 0);
-  for (const std::string& text : {large, std::string("1E+400"), std::string("-1E+400")}) {
+  EXPECT_EQ(CDbl(".001e-9223372036854775808"), 0);
+  for (const std::string& text :
+       {large, std::string("1E+400"), std::string("-1E+400"), std::string("10e9223372036854775807")}) {
     EXPECT_EQ(ErrorOf([&] { CDbl(text); }), error::kOverflow) << text;
     EXPECT_EQ(ErrorOf([&] { Val(std::string_view(text)); }), error::kOverflow) << text;
     EXPECT_FALSE(IsNumeric(Variant(text)));

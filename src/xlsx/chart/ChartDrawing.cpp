@@ -65,10 +65,10 @@ class ChartShapesObject final : public DrawnShapes {
 
 ChartDrawing::ChartDrawing(ChartPart& chart) : chart_(chart) {
   const Package& package = chart.Book().Package();
-  const auto link =
-      package.FindRelationship(chart.Part(), xml::RelationshipId(xml::Child(chart.Space(), "userShapes")));
-  if (link && !link->external && package.Has(link->target)) part_ = link->target;
+  const std::string id = xml::RelationshipId(xml::Child(chart.Space(), "userShapes"));
   try {
+    const auto link = package.FindRelationship(chart.Part(), id);
+    if (link && !link->external && package.Has(link->target)) part_ = link->target;
     InPart(part_, [&] {
       xml::Parse(document_, part_.empty() ? EmptyUserShapes(chart.Book().Vocabulary()) : package.Read(part_));
       if (!xml::Is(xml::Root(document_), "userShapes")) throw PackageError("it holds no shapes of a chart");

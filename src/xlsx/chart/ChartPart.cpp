@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "xlsx/Errors.h"
+#include "xlsx/Limits.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/ChartDrawing.h"
 #include "xlsx/chart/GroupAxes.h"
@@ -20,6 +21,19 @@ std::string EmptyChart(bool strict) {
          R"("><c:roundedCorners val="0"/><c:chart><c:autoTitleDeleted val="1"/><c:plotArea><c:layout/></c:plotArea>)"
          R"(<c:plotVisOnly val="1"/><c:dispBlanksAs val="gap"/></c:chart></c:chartSpace>)";
 }
+
+namespace {
+
+/// A plot group without any counts as one.
+std::size_t CountSeries(pugi::xml_node space) {
+  std::size_t count = 0;
+  for (const pugi::xml_node& child : xml::Child(space, "chart", "plotArea").children()) {
+    if (schema::IsGroup(child)) count += std::max<std::size_t>(xml::Children(child, "ser").size(), 1);
+  }
+  return count;
+}
+
+}  // namespace
 
 ChartPart::ChartPart(Workbook& book, std::string part) : book_(book), part_(std::move(part)) {}
 
@@ -45,6 +59,9 @@ void ChartPart::Load() {
     InPart(part_, [&] {
       xml::Parse(*document, book_.Package().Read(part_));
       if (!xml::Is(xml::Root(*document), "chartSpace")) throw PackageError("it is no chart");
+      if (CountSeries(xml::Root(*document)) > limits::kSeries) {
+        throw PackageError("it has more series than we can hold");
+      }
     });
     document_ = std::move(document);
   } catch (const PackageError& e) {

@@ -103,8 +103,11 @@ void TurnAxis(pugi::xml_node axis, bool upright) {
 }  // namespace
 
 std::vector<pugi::xml_node> AxesOf(pugi::xml_node group) {
+  constexpr std::size_t kMost = 3;  // with that of the depth
   std::vector<pugi::xml_node> axes;
-  for (const pugi::xml_node& link : xml::Children(group, "axId")) {
+  auto links = xml::Children(group, "axId");
+  links.resize(std::min(links.size(), kMost));
+  for (const pugi::xml_node& link : links) {
     if (const auto axis = AxisOfId(group.parent(), xml::Attribute(link, "val"))) axes.push_back(axis);
   }
   return axes;

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <pugixml.hpp>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,9 +40,11 @@ class AnchoredShapes {
  protected:
   /// A name that no shape has yet, from a number on.
   std::string FreeName(std::string_view stem, std::size_t number) const {
+    std::set<std::string> taken;
+    for (const auto& shape : shapes_) taken.insert(runtime::UCase(shape->Name()));
     for (;; ++number) {
       std::string name = std::string(stem) + " " + std::to_string(number);
-      if (!FindShape(name)) return name;
+      if (!taken.contains(runtime::UCase(name))) return name;
     }
   }
 

@@ -1,6 +1,8 @@
 #include "xlsx/drawing/DrawingSchema.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <limits>
 #include <span>
 
 #include "xlsx/package/Namespaces.h"
@@ -229,7 +231,9 @@ std::string Val(pugi::xml_node parent, std::string_view local, std::string_view 
 }
 
 long long IntegerVal(pugi::xml_node parent, std::string_view local, long long fallback) {
-  return xml::IntegerAttribute(xml::Child(parent, local), "val", fallback);
+  constexpr long long kLeast = std::numeric_limits<std::int32_t>::min();
+  constexpr long long kMost = std::numeric_limits<std::uint32_t>::max();
+  return std::clamp(xml::IntegerAttribute(xml::Child(parent, local), "val", fallback), kLeast, kMost);
 }
 
 std::optional<double> NumberVal(pugi::xml_node parent, std::string_view local) {

@@ -25,7 +25,8 @@ void Remove(pugi::xml_node parent, std::string_view local);
 
 /// The `val` attribute of a child; `fallback` where the child or its attribute is absent.
 std::string Val(pugi::xml_node parent, std::string_view local, std::string_view fallback = {});
-/// `fallback`, or nothing, where it isn't a number either.
+/// `fallback`, or nothing, where it isn't a number either. Whole numbers are of 32 bits, as all in the
+/// schema.
 long long IntegerVal(pugi::xml_node parent, std::string_view local, long long fallback);
 std::optional<double> NumberVal(pugi::xml_node parent, std::string_view local);
 /// Of a child that is a CT_Boolean, whose `val` is true when it isn't written.

@@ -5,8 +5,10 @@
 #include <string>
 
 #include "host/excel/Constants.h"
+#include "runtime/Strings.h"
 #include "xlsx/Errors.h"
 #include "xlsx/Journal.h"
+#include "xlsx/Limits.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/FillAndLine.h"
@@ -73,6 +75,21 @@ std::string DrawnShape::AlternativeText() { return xml::Attribute(IdentityOf(obj
 void DrawnShape::SetAlternativeText(std::string_view text) {
   Log().Put([this] { return JournalPath(); }, "AlternativeText", text);
   xml::SetAttribute(IdentityOf(Object()), "descr", text);
+  MarkChanged();
+}
+
+const std::u16string& DrawnShape::Text() {
+  const TextBody body(Object());
+  if (!text_) text_ = runtime::ToUtf16(body.Text());
+  return *text_;
+}
+
+void DrawnShape::SetText(std::u16string_view text) {
+  TextBody body(Object());
+  if (text.size() > limits::kShapeText) throw Refusal("The text is longer than a shape can hold.");
+  body.SetText(runtime::ToUtf8(text));
+  text_.reset();  // what the body holds may differ, as in its line ends
+  FitToText();
   MarkChanged();
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <pugixml.hpp>
 #include <string>
 #include <string_view>
@@ -52,6 +53,9 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   pugi::xml_node Properties() const;
   pugi::xml_node Anchor() const { return anchor_; }
   const Journal& Log() const;
+  /// What the shape says, in units; whoever reads it in pieces gets them from one conversion.
+  const std::u16string& Text();
+  void SetText(std::u16string_view text);
   /// Puts the shape elsewhere, as near as its drawing allows. Error 1004 for a place that isn't finite.
   void Place(const Frame& frame);
   /// A shape that follows its text takes the size that its text now needs.
@@ -69,7 +73,8 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   bool KeepsItsProportions() const;
 
   pugi::xml_node anchor_, object_;
-  std::int32_t type_;  ///< read once: whoever seeks a chart asks all shapes
+  std::optional<std::u16string> text_;  ///< kept until it changes
+  std::int32_t type_;                   ///< read once: whoever seeks a chart asks all shapes
 };
 
 /// Error 1004 unless all of it is finite.

@@ -77,10 +77,11 @@ void SetBodyText(pugi::xml_node body, std::string_view text) {
 
   std::string lines = runtime::Replace(text, "\r\n", "\n");
   lines = runtime::Replace(lines, "\r", "\n");
+  pugi::xml_node paragraph;
   for (std::string_view rest = lines;;) {
     const auto end = rest.find('\n');
     const std::string_view line = rest.substr(0, end);
-    pugi::xml_node paragraph = schema::Insert(body, "p");
+    paragraph = paragraph ? body.insert_child_after(paragraph.name(), paragraph) : schema::Insert(body, "p");
     if (paragraphProperties) paragraph.append_copy(paragraphProperties);
     if (!line.empty()) {
       pugi::xml_node run = schema::Ensure(paragraph, "r");

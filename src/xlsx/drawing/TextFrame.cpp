@@ -36,7 +36,9 @@ class CharactersObject final : public excel::Characters {
     Replace(text);
   }
   std::string Text() override {
-    return runtime::Mid(TextBody(shape_->Object()).Text(), start_, length_.value_or(std::string::npos));
+    const std::u16string_view units = shape_->Text();
+    if (start_ > units.size()) return {};
+    return runtime::ToUtf8(units.substr(start_ - 1, length_.value_or(std::u16string::npos)));
   }
   Ref<excel::Font> Font() override {
     return MakeShapeFont(shape_, start_ - 1, length_.value_or(std::u16string::npos), Path() + ".Font");
@@ -50,13 +52,10 @@ class CharactersObject final : public excel::Characters {
   }
 
   void Replace(std::string_view text) {
-    TextBody whole(shape_->Object());
-    std::u16string units = runtime::ToUtf16(whole.Text());
+    std::u16string units = shape_->Text();
     const std::size_t at = std::min(start_ - 1, units.size());
     units.replace(at, length_.value_or(std::u16string::npos), runtime::ToUtf16(text));
-    whole.SetText(runtime::ToUtf8(units));
-    shape_->FitToText();
-    shape_->MarkChanged();
+    shape_->SetText(units);
   }
 
   std::shared_ptr<DrawnShape> shape_;

@@ -51,7 +51,8 @@ Rgb Channels(std::int32_t color) {
 std::int32_t Packed(const Rgb& rgb) {
   const auto byte = [](double channel) {
     // halves go down: half of white is 7F7F7F, as Excel's palette shows it
-    return static_cast<std::int32_t>(std::ceil(std::clamp(channel, 0.0, 1.0) * 255 - 0.5));
+    const double inside = channel > 0 ? std::min(channel, 1.0) : 0;  // also where it is no number
+    return static_cast<std::int32_t>(std::ceil(inside * 255 - 0.5));
   };
   return byte(rgb.red) | byte(rgb.green) << 8 | byte(rgb.blue) << 16;
 }

@@ -55,7 +55,10 @@ std::string Encode(std::string_view text, bool attribute) {
 
 /// Values go out between double quotes, undecoded, so that a bare one inside would end them.
 void QuoteSafe(pugi::xml_node element) {
+  std::size_t count = 0;
   for (pugi::xml_attribute attribute : element.attributes()) {
+    if (++count > limits::kXmlAttributes)
+      throw PackageError("an element of it has more attributes than we can hold");
     if (std::string_view(attribute.value()).find('"') != std::string_view::npos) {
       attribute.set_value(runtime::Replace(attribute.value(), "\"", "&quot;").c_str());
     }

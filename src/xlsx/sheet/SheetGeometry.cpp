@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "runtime/Strings.h"
 #include "xlsx/Limits.h"
@@ -56,7 +57,7 @@ double DefaultColumnPoints(int characters, int digit) {
 void GridLines::SetSize(std::int32_t first, std::int32_t last, double size) {
   last = std::min(last, count_ - 1);
   if (first < 0 || first > last || (!own_.empty() && first <= own_.back().last)) return;
-  own_.push_back({first, last, size});
+  own_.push_back({first, last, size, EdgeOf(first)});
 }
 
 double GridLines::SizeOf(std::int32_t index) const {
@@ -66,37 +67,32 @@ double GridLines::SizeOf(std::int32_t index) const {
 }
 
 double GridLines::EdgeOf(std::int32_t index) const {
-  double edge = 0;
-  std::int32_t at = 0;
-  for (const Own& range : own_) {
-    if (range.first >= index) break;
-    edge += (range.first - at) * default_;
-    at = std::min(range.last + 1, index);
-    edge += (at - range.first) * range.size;
-  }
-  return edge + (index - at) * default_;
+  const auto next = std::lower_bound(own_.begin(), own_.end(), index,
+                                     [](const Own& range, std::int32_t i) { return range.first < i; });
+  if (next == own_.begin()) return index * default_;
+  const Own& range = *std::prev(next);
+  const std::int32_t at = std::min(range.last + 1, index);
+  return range.edge + (at - range.first) * range.size + (index - at) * default_;
 }
 
 std::pair<std::int32_t, double> GridLines::IndexAt(double points) const {
   points = std::max(points, 0.0);
+  const auto next = std::upper_bound(own_.begin(), own_.end(), points,
+                                     [](double p, const Own& range) { return p < range.edge; });
   std::int32_t at = 0;
-  const auto walk = [&](std::int32_t end, double size) {
-    const double span = (end - at) * size;
-    if (size <= 0 || points >= span) {
-      points -= std::max(span, 0.0);
-      at = end;
-      return false;
-    }
-    const auto whole = static_cast<std::int32_t>(points / size);
-    at += whole;
-    points -= whole * size;
-    return true;
-  };
-  for (const Own& range : own_) {
-    if (walk(range.first, default_) || walk(range.last + 1, range.size)) return {at, points};
+  double edge = 0, size = default_;
+  if (next != own_.begin()) {
+    const Own& range = *std::prev(next);
+    const double span = (range.last + 1 - range.first) * range.size;
+    const bool inside = points - range.edge < span;
+    at = inside ? range.first : range.last + 1;
+    edge = inside ? range.edge : range.edge + span;
+    if (inside) size = range.size;
   }
-  if (walk(count_, default_)) return {at, points};
-  return {count_ - 1, SizeOf(count_ - 1)};
+  const bool beyond = next == own_.end() && points - edge >= (count_ - at) * size;
+  if (size <= 0 || beyond) return {count_ - 1, SizeOf(count_ - 1)};
+  const auto whole = static_cast<std::int32_t>((points - edge) / size);
+  return {at + whole, points - edge - whole * size};
 }
 
 SheetGeometry ReadGeometry(const std::string& head,

@@ -27,6 +27,7 @@ class GridLines {
   struct Own {
     std::int32_t first, last;
     double size;
+    double edge;  ///< the left or upper one of the first
   };
   double default_;
   std::int32_t count_;

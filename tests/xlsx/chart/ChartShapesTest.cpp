@@ -6,6 +6,7 @@
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
+#include "xlsx/Limits.h"
 #include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/package/Archive.h"
@@ -265,6 +266,12 @@ TEST_F(ChartShapesTest, WhatOthersDrewOnTheChartStays) {
   Chart()->SetHasTitle(true);
   SaveAndReopen();
   EXPECT_EQ(SavedPart(kPart), "<c:userShapes>");
+
+  // nor are links that nobody can read
+  OpenChart(chart, user);
+  Book().Package().Replace("/xl/charts/_rels/chart1.xml.rels", "<");
+  ExpectError1004([&] { Chart()->Shapes()->Count(); });
+  EXPECT_FALSE(Book().Damage());
 }
 
 TEST_F(ChartShapesTest, AStrictWorkbookStaysStrict) {
@@ -450,6 +457,7 @@ TEST_F(ChartShapesTest, WhatCantBeIsError1004) {
       [&] { box->TextFrame2()->SetAutoSize(7); },
       [&] { box->TextFrame()->SetVerticalAlignment(7); },
       [&] { box->TextFrame()->Characters(0); },
+      [&] { box->TextFrame()->Characters()->Insert(S(limits::kShapeText + 1, 'x')); },
       [&] { box->TextFrame()->Characters()->Font()->SetSize(0); },
       [&] { box->Fill()->ForeColor()->SetRGB(-1); },
       [&] { box->Line()->SetWeight(-1); },

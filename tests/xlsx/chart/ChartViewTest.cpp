@@ -3,6 +3,7 @@
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
+#include "xlsx/Limits.h"
 #include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/chart/ChartTypes.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
@@ -195,6 +196,15 @@ TEST_F(ChartViewTest, ASeriesShowsItsCells) {
       << "categories without a text are numbers";
 }
 
+TEST_F(ChartViewTest, NumbersOfSeriesEndWhereTheirTypeDoes) {
+  After(Part("<c:plotArea><c:barChart><c:ser><c:idx val=\"9223372036854775807\"/><c:order "
+             "val=\"9223372036854775807\"/></c:ser></c:barChart></c:plotArea>"),
+        [](Chart& chart) {
+          EXPECT_EQ(chart.SeriesCollection()->Item(1)->Name(), "Series4294967296");
+          EXPECT_EQ(chart.SeriesCollection()->Item(1)->Formula(), "=SERIES(,,,4294967296)");
+        });
+}
+
 TEST_F(ChartViewTest, AnEmptyChartShowsItsAxesWithTheFirstSeries) {
   const S hidden = runtime::Replace(kAxes, "<c:axPos", "<c:delete val=\"1\"/><c:axPos"),
           series = "<c:ser><c:idx val=\"0\"/></c:ser>";
@@ -315,7 +325,17 @@ TEST_F(ChartViewTest, WhatAChartDoesNotHaveIsError1004) {
     ExpectError1004([&] { chart.Legend()->Font()->SetSize(0.0); });
   });
   // a chart that can't be read is this chart's trouble and nobody else's
-  After("<c:chartSpace><c:chart>", [](Chart& chart) { ExpectError1004([&] { chart.SetHasTitle(true); }); });
+  const auto barred = [](std::size_t groups) {
+    S plot = "<c:plotArea>";
+    for (std::size_t i = 0; i < groups; ++i)
+      plot += "<c:barChart><c:ser/><c:ser/></c:barChart><c:lineChart/>";
+    return Part(plot + "</c:plotArea>");
+  };
+  for (const S& part : {S("<c:chartSpace><c:chart>"), barred(limits::kSeries / 3 + 1)}) {
+    After(part, [](Chart& chart) { ExpectError1004([&] { chart.SetHasTitle(true); }); });
+    EXPECT_EQ(SavedPart("/xl/charts/chart1.xml"), part);
+  }
+  EXPECT_NO_THROW(After(barred(limits::kSeries / 3), [](Chart& chart) { chart.SetHasTitle(true); }));
   EXPECT_FALSE(Book().Damage());
 }
 

@@ -190,8 +190,11 @@ TEST(XmlTest, WhatNoPartMayBringIsRefused) {
   S deep;
   for (int i = 0; i < 500000; ++i) deep += "<a>";
   for (int i = 0; i < 500000; ++i) deep += "</a>";
+  S wide = "<a";
+  for (std::size_t i = 0; i <= limits::kXmlAttributes; ++i) wide += " a='1'";
   const std::pair<S, const char*> cases[] = {
       {deep, "its XML nests too deep"},
+      {wide + "/>", "an element of it has more attributes than we can hold"},
       {"<?xml version='1.0?><!--'>" + deep + "<!-- -->", "its XML is damaged"},
       {"<!DOCTYPE a [<!-- ' -->]>" + deep, "its XML nests too deep"},
       {S(limits::kXmlMarks + 1, '<'), "it has more elements than we can hold"},
