@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utf8proc.h>
 
+#include "runtime/Ascii.h"
 #include "runtime/RuntimeError.h"
 
 namespace plotsmith::runtime {
@@ -13,8 +14,6 @@ bool IsAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
 bool IsAscii(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return IsAscii(c); });
 }
-
-char AsciiUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
 bool HasAsciiLower(std::string_view text) {
   return std::any_of(text.begin(), text.end(), [](char c) { return c >= 'a' && c <= 'z'; });
@@ -81,7 +80,9 @@ std::string_view UCase(std::string_view text, std::string& scratch) {
   if (IsAscii(text)) {
     if (!HasAsciiLower(text)) return text;
     scratch.assign(text);
-    for (char& c : scratch) c = AsciiUpper(c);
+    for (char& c : scratch) {
+      if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    }
     return scratch;
   }
   scratch.clear();
@@ -101,7 +102,7 @@ std::string UCase(std::string_view text) {
 
 bool EqualsIgnoreCase(std::string_view a, std::string_view b) {
   if (a == b) return true;
-  const auto same = [](char x, char y) { return AsciiUpper(x) == AsciiUpper(y); };
+  const auto same = [](char x, char y) { return ascii::Lower(x) == ascii::Lower(y); };
   const auto [stopA, stopB] = std::mismatch(a.begin(), a.end(), b.begin(), b.end(), same);
   if (stopA == a.end() || stopB == b.end()) return stopA == a.end() && stopB == b.end();
   if (IsAscii(*stopA) && IsAscii(*stopB)) return false;

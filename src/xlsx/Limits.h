@@ -42,7 +42,7 @@ inline constexpr std::size_t kGridCells = 20'000'000;
 inline constexpr std::size_t kShapeText = 131'072;
 /// Series of one chart, a plot group without any counted as one. Excel has up to 255.
 inline constexpr std::size_t kSeries = 1024;
-/// Cells that all series of a chart bring into its cache.
+/// Cells that all series of a chart bring into its cache; no one reference has more.
 inline constexpr std::int64_t kCachePoints = 4'000'000;
 
 }  // namespace plotsmith::xlsx::limits

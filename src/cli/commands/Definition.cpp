@@ -1,5 +1,7 @@
 #include "cli/commands/Definition.h"
 
+#include <algorithm>
+
 #include "cli/Session.h"
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
@@ -18,22 +20,25 @@ int DefinitionCommand::Run(const GlobalOptions& options, const Streams& streams)
   Session session(book_, options, streams);
   session.LoadTablesAndCharts();
   const int code = session.Finish();
-  // an id is one chart's alone, a name may be another's id
-  const auto byId = [&](const dom::IXMLDOMElement& chart) { return GetAttributeText(chart, "id") == chart_; };
-  const auto byName = [&](const dom::IXMLDOMElement& chart) {
-    return runtime::EqualsIgnoreCase(GetAttributeText(chart, "name"), chart_);
+  const auto find = [&](const auto& isMeant) {
+    return std::find_if(colCharts->begin(), colCharts->end(), [&](const dom::IXMLDOMDocument2& document) {
+      return isMeant(document.selectSingleNode("chart"));
+    });
   };
-  const auto print = [&](const auto& isMeant) {
-    for (const auto& document : *colCharts) {
-      if (!isMeant(document.selectSingleNode("chart"))) continue;
-      streams.out << document.xml() << '\n';
-      return true;
-    }
-    return false;
-  };
-  if (print(byId) || print(byName)) return code;
-  throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no chart \"" + chart_ +
-                                            "\" (plotsmith charts lists those it has).");
+  // the id before the name, which may be another chart's id
+  auto found =
+      find([&](const dom::IXMLDOMElement& chart) { return GetAttributeText(chart, "id") == chart_; });
+  if (found == colCharts->end()) {
+    found = find([&](const dom::IXMLDOMElement& chart) {
+      return runtime::EqualsIgnoreCase(GetAttributeText(chart, "name"), chart_);
+    });
+  }
+  if (found == colCharts->end()) {
+    throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no chart \"" + chart_ +
+                                              "\" (plotsmith charts lists those it has).");
+  }
+  streams.out << (*found).xml() << '\n';
+  return code;
 }
 
 }  // namespace plotsmith::cli

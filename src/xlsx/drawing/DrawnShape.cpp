@@ -201,7 +201,6 @@ Ref<excel::FillFormat> DrawnShape::Fill() { return MakeFill(shared_from_this());
 Ref<excel::LineFormat> DrawnShape::Line() { return MakeLine(shared_from_this()); }
 
 void CheckPlace(const Frame& frame) {
-  // places are of the type Single in Excel
   for (const double points : {frame.left, frame.top, frame.width, frame.height}) {
     if (!(std::abs(points) <= std::numeric_limits<float>::max())) throw OutOfRange();
   }

@@ -56,7 +56,8 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   /// What the shape says, in units; whoever reads it in pieces gets them from one conversion.
   const std::u16string& Text();
   void SetText(std::u16string_view text);
-  /// Puts the shape elsewhere, as near as its drawing allows. Error 1004 for a place that isn't finite.
+  /// Puts the shape elsewhere, as near as its drawing allows. Error 1004 for one that
+  /// CheckPlace refuses.
   void Place(const Frame& frame);
   /// A shape that follows its text takes the size that its text now needs.
   void FitToText();
@@ -77,7 +78,7 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   std::int32_t type_;                   ///< read once: whoever seeks a chart asks all shapes
 };
 
-/// Error 1004 unless all of it is finite.
+/// Error 1004 unless all of it fits into the type of Excel's places, Single.
 void CheckPlace(const Frame& frame);
 
 }  // namespace plotsmith::xlsx

@@ -12,8 +12,8 @@ namespace {
 /// What a cell shows that can't show its number.
 constexpr std::string_view kOverflow = "########";
 
-/// Excel displays so many characters of a cell (its specifications and limits). A code that repeats the
-/// cell's text over and over stops there; a text that is shown once is shown whole.
+/// Of a long text Excel displays so many characters in a cell. A code that repeats the cell's text over and
+/// over stops there; a text that is shown once is shown whole.
 constexpr std::size_t kMostRepeated = 1024;
 
 /// The formats that a file names by a number only.

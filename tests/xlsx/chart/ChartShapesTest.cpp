@@ -453,6 +453,7 @@ TEST_F(ChartShapesTest, WhatCantBeIsError1004) {
       [&] { box->SetAutoShapeType(0); },
       [&] { box->SetWidth(-1); },
       [&] { box->SetLeft(1e308 * 10); },
+      [&] { box->SetTop(-1e50); },
       [&] { box->SetName(""); },
       [&] { box->TextFrame2()->SetAutoSize(7); },
       [&] { box->TextFrame()->SetVerticalAlignment(7); },
