@@ -22,6 +22,12 @@ const char* StandardDescription(int number) {
       return "Object variable or With block variable not set";
     case error::kInvalidNull:
       return "Invalid use of Null";
+    case error::kInvalidPropertyValue:
+      return "Invalid property value";
+    case error::kInvalidArrayIndex:
+      return "Invalid property array index";
+    case error::kReadOnlyProperty:
+      return "Property is read-only";
     case error::kNoSuchMember:
       return "Object doesn't support this property or method";
     case error::kAutomation:

@@ -17,17 +17,18 @@ const std::set<std::string> kSystem = {"common", "metadata", "builder", "readbac
 const std::map<std::string, std::set<std::string>> kAllowed = {
     {"runtime", {}},
     {"dom", {"runtime"}},
+    {"forms", {"runtime"}},
     {"host", {"runtime"}},
-    {"common", {"runtime", "dom", "host"}},
+    {"common", {"runtime", "dom", "forms", "host"}},
     {"readback", {"runtime", "dom", "host", "common"}},
     {"metadata", {"runtime", "dom", "host", "common", "readback"}},
-    // the driver shows the busy window, and the busy window runs the driver: each knows the other by name
-    {"builder", {"runtime", "dom", "host", "common", "metadata", "pages"}},
-    {"pages", {"runtime", "dom", "host", "common", "metadata", "builder", "controller"}},
-    {"controller", {"runtime", "dom", "host", "common", "metadata", "builder"}},
+    {"builder", {"runtime", "dom", "host", "common", "metadata"}},
+    {"pages", {"runtime", "dom", "forms", "host", "common", "metadata"}},
+    {"controller", {"runtime", "dom", "forms", "host", "common", "metadata", "builder", "pages"}},
     {"xlsx", {"runtime", "dom", "host"}},
     {"cli",
-     {"runtime", "dom", "host", "common", "metadata", "builder", "readback", "pages", "controller", "xlsx"}},
+     {"runtime", "dom", "forms", "host", "common", "metadata", "builder", "readback", "pages", "controller",
+      "xlsx"}},
 };
 
 /// The folders that each folder of the embedded host may look into, itself not counted; "" holds the objects

@@ -1,0 +1,85 @@
+#include "forms/Form.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "forms/Buttons.h"
+#include "forms/TextBox.h"
+
+namespace plotsmith::forms {
+namespace {
+
+/// The button of the form for which `wanted` holds; null if there is none.
+CommandButton* FindButton(const Form& form, bool (CommandButton::*wanted)() const) {
+  for (Control* control : form.Controls()) {
+    auto* button = dynamic_cast<CommandButton*>(control);
+    if (button != nullptr && (button->*wanted)()) return button;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+Form::Form(const char* name) : name_(name) {
+  static std::uint64_t made = 0;
+  id_ = ++made;
+}
+
+void Form::SetCaption(std::string value) {
+  caption_ = std::move(value);
+  ++changes_;
+}
+
+Control* Form::FindControl(std::string_view fullName) const {
+  const auto found = std::find_if(controls_.begin(), controls_.end(),
+                                  [&](const Control* control) { return control->FullName() == fullName; });
+  return found == controls_.end() ? nullptr : *found;
+}
+
+void Form::Load() {
+  if (std::exchange(loaded_, true)) return;
+  Form_Load();
+}
+
+void Form::Unload() {
+  if (std::exchange(unloaded_, true)) return;
+  visible_ = false;
+  if (loaded_) Form_Unload();
+}
+
+void Form::Activate() {
+  Form_Activate();
+  if (!visible_ || activeControl_ != nullptr) return;
+  if (Control* first = FirstInTabOrder()) first->UserFocus();
+}
+
+void Form::MoveFocus(Control& control) {
+  if (activeControl_ == &control) return;
+  Control* const left = std::exchange(activeControl_, &control);
+  if (left != nullptr) Control::Raise(left->Validate);
+  Control::Raise(control.GotFocus);
+}
+
+Control* Form::FirstInTabOrder() const {
+  const auto canBeFirst = [](const Control* control) {
+    // the tab stop of a group of options is the one that is chosen
+    const auto* option = dynamic_cast<const OptionButton*>(control);
+    return control->Obstacle().empty() && (option == nullptr || option->Value());
+  };
+  const auto found = std::find_if(controls_.begin(), controls_.end(), canBeFirst);
+  return found == controls_.end() ? nullptr : *found;
+}
+
+bool Form::UserEnter() {
+  auto* text = dynamic_cast<TextBox*>(activeControl_);
+  if (text != nullptr && text->MultiLine()) return text->UserType(text->Text() + "\r\n");
+  CommandButton* button = FindButton(*this, &CommandButton::Default);
+  return button != nullptr && button->UserPressByKey();
+}
+
+bool Form::UserEscape() {
+  CommandButton* button = FindButton(*this, &CommandButton::Cancel);
+  return button != nullptr && button->UserPressByKey();
+}
+
+}  // namespace plotsmith::forms

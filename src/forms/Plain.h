@@ -1,0 +1,87 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+
+#include "forms/Control.h"
+
+namespace plotsmith::forms {
+
+/// A text that is only read.
+class Label : public CaptionControl {
+ public:
+  using CaptionControl::CaptionControl;
+  const char* TypeName() const override { return "Label"; }
+
+ protected:
+  bool TakesFocus() const override { return false; }
+};
+
+/// A box with a title around other controls.
+class Frame : public CaptionControl {
+ public:
+  static constexpr std::int32_t kFlat = 0, k3D = 1;
+
+  using CaptionControl::CaptionControl;
+  const char* TypeName() const override { return "Frame"; }
+
+  bool FontBold() const { return bold_; }
+  void SetFontBold(bool value);
+  /// kFlat or k3D.
+  ///@{
+  std::int32_t Appearance() const { return appearance_; }
+  void SetAppearance(std::int32_t value);
+  ///@}
+
+ protected:
+  bool TakesFocus() const override { return false; }
+
+ private:
+  bool bold_ = false;
+  std::int32_t appearance_ = k3D;
+};
+
+/// A sample picture. Its drawing is known by the control's name.
+class Image : public Control {
+ public:
+  using Control::Control;
+  const char* TypeName() const override { return "Image"; }
+
+ protected:
+  bool TakesFocus() const override { return false; }
+};
+
+/// A bar that fills up.
+class ProgressBar : public Control {
+ public:
+  static constexpr std::int32_t kMin = 0, kMax = 100;
+
+  using Control::Control;
+  const char* TypeName() const override { return "ProgressBar"; }
+
+  std::int32_t Value() const { return value_; }
+  void SetValue(std::int32_t value);
+
+ protected:
+  bool TakesFocus() const override { return false; }
+
+ private:
+  std::int32_t value_ = kMin;
+};
+
+inline void Frame::SetFontBold(bool value) {
+  bold_ = value;
+  Changed();
+}
+
+inline void Frame::SetAppearance(std::int32_t value) {
+  appearance_ = value;
+  Changed();
+}
+
+inline void ProgressBar::SetValue(std::int32_t value) {
+  value_ = std::clamp(value, kMin, kMax);
+  Changed();
+}
+
+}  // namespace plotsmith::forms

@@ -1,0 +1,33 @@
+#include "forms/TextBox.h"
+
+#include "runtime/Strings.h"
+
+namespace plotsmith::forms {
+
+void TextBox::SetText(std::string_view value) {
+  text_ = value;
+  Changed();
+}
+
+std::string TextBox::ObstacleTo(std::string_view text) const {
+  const std::string typed = WithLineEnds(text, "\r\n");
+  if (!multiLine_ && typed.find('\n') != std::string::npos) return "takes one line";
+  if (maxLength_ > 0 && runtime::Len(typed) > maxLength_) {
+    return "takes " + std::to_string(maxLength_) + " characters";
+  }
+  return {};
+}
+
+bool TextBox::UserType(std::string_view text) {
+  const std::string typed = WithLineEnds(text, "\r\n");
+  if (!ObstacleTo(text).empty() || !Reach()) return false;
+  SetText(typed);
+  return true;
+}
+
+std::string WithLineEnds(std::string_view text, std::string_view lineEnd) {
+  const std::string folded = runtime::Replace(runtime::Replace(text, "\r\n", "\n"), "\r", "\n");
+  return runtime::Replace(folded, "\n", lineEnd);
+}
+
+}  // namespace plotsmith::forms

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "forms/Control.h"
+
+namespace plotsmith::forms {
+
+/// Where a text is in its box.
+enum class Alignment { kLeft, kCenter };
+
+/// A text to edit. Lines end in CR LF.
+class TextBox : public FontControl {
+ public:
+  using FontControl::FontControl;
+  const char* TypeName() const override { return "TextBox"; }
+
+  const std::string& Text() const { return text_; }
+  /// Raises nothing.
+  void SetText(std::string_view value);
+
+  /// How many UTF-16 units a hand can type; 0 is no limit.
+  ///@{
+  std::size_t MaxLength() const { return maxLength_; }
+  void SetMaxLength(std::size_t value) { maxLength_ = value; }
+  ///@}
+
+  /// Whether the text can have several lines, so that Enter ends a line.
+  ///@{
+  bool MultiLine() const { return multiLine_; }
+  void SetMultiLine(bool value) { multiLine_ = value; }
+  ///@}
+
+  forms::Alignment Alignment() const { return alignment_; }
+  void SetAlignment(forms::Alignment value) { alignment_ = value; }
+
+  /// Why a hand can't type the text, as the end of a sentence; empty if it can.
+  std::string ObstacleTo(std::string_view text) const;
+  /// Replaces the text. Line ends of any kind become CR LF.
+  bool UserType(std::string_view text);
+
+ protected:
+  const char* KindText() const override { return "text"; }
+
+ private:
+  std::string text_;
+  std::size_t maxLength_ = 0;
+  bool multiLine_ = false;
+  forms::Alignment alignment_ = Alignment::kLeft;
+};
+
+/// The text with every line end, of whatever kind, replaced by `lineEnd`.
+std::string WithLineEnds(std::string_view text, std::string_view lineEnd);
+
+}  // namespace plotsmith::forms
