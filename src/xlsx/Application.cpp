@@ -1,5 +1,6 @@
 #include "xlsx/Application.h"
 
+#include "xlsx/Window.h"
 #include "xlsx/Workbook.h"
 
 namespace plotsmith::xlsx {
@@ -34,6 +35,10 @@ excel::Ref<excel::Workbook> Application::ActiveWorkbook() { return workbook_; }
 
 excel::Ref<excel::Chart> Application::ActiveChart() {
   return workbook_ ? workbook_->ActiveChart() : excel::Ref<excel::Chart>();
+}
+
+excel::Ref<excel::Window> Application::ActiveWindow() {
+  return workbook_ ? MakeWindow(*workbook_) : excel::Ref<excel::Window>();
 }
 
 void Application::SetScreenUpdating(bool value) {

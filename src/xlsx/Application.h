@@ -35,6 +35,7 @@ class Application : public excel::Application, public std::enable_shared_from_th
 
   excel::Ref<excel::Workbook> ActiveWorkbook() override;
   excel::Ref<excel::Chart> ActiveChart() override;
+  excel::Ref<excel::Window> ActiveWindow() override;
   std::string Version() override { return version_; }
   bool ScreenUpdating() override { return screenUpdating_; }
   void SetScreenUpdating(bool value) override;

@@ -347,6 +347,10 @@ void Workbook::Activate(const SheetEntry& sheet) {
   if (position < sheets_.size()) activeSheet_ = position;
 }
 
+std::shared_ptr<Worksheet> Workbook::ActiveWorksheet() const {
+  return activeSheet_ < sheets_.size() ? sheets_[activeSheet_]->worksheet : nullptr;
+}
+
 void Workbook::DefineName(std::string name, std::string definition) {
   // what comes behind the names in CT_Workbook
   static constexpr std::array<std::string_view, 11> kOrder = {

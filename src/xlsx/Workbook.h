@@ -87,6 +87,8 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   void RenameSheet(SheetEntry& sheet, std::string_view name);
   void SetVisible(SheetEntry& sheet, std::int32_t visible);
   void Activate(const SheetEntry& sheet);
+  /// Null if the active sheet has no cells.
+  std::shared_ptr<Worksheet> ActiveWorksheet() const;
   /// The chart of a part, which is read when something of the chart is asked for.
   std::shared_ptr<ChartPart> Chart(const std::string& part);
   excel::Ref<excel::Chart> ActiveChart();

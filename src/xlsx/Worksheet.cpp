@@ -329,11 +329,24 @@ SheetDrawing& Worksheet::EnsureDrawing() {
   package.Add(part, content_type::kDrawing, EmptyDrawing(book_.IsStrict()));
   const std::string id =
       package.AddRelationship(Entry().part, book_.Vocabulary().RelationshipType("drawing"), part);
-  std::string text = xml::ToUtf8(package.Read(Entry().part));
-  InsertDrawingLink(text, book_.Vocabulary().relationships, id);
-  package.Replace(Entry().part, std::move(text));
+  ChangePart([&](std::string& text) {
+    InsertDrawingLink(text, book_.Vocabulary().relationships, id);
+    return true;
+  });
   drawing_ = std::make_unique<SheetDrawing>(*this, part);
   return *drawing_;
+}
+
+void Worksheet::SetView(const ViewSetting& setting, bool value) {
+  ChangePart([&](std::string& text) { return SetViewSetting(text, setting, value); });
+}
+
+void Worksheet::ChangePart(const std::function<bool(std::string& text)>& change) {
+  book_.Guarded([&] {
+    auto& package = book_.Package();
+    std::string text = xml::ToUtf8(package.Read(Entry().part));
+    if (InPart(Entry().part, [&] { return change(text); })) package.Replace(Entry().part, std::move(text));
+  });
 }
 
 void Worksheet::FollowShifts(std::size_t followed) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -17,6 +18,7 @@
 namespace plotsmith::xlsx {
 
 class SheetDrawing;
+struct ViewSetting;
 
 /// A worksheet. Its cells are read when the first one is asked for. A sheet whose cells are written is
 /// written whole, without what a cell had beside its value and style; so a sheet with formulas can't be. The
@@ -60,6 +62,9 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   /// The same, made if need be. Error 1004 if there is one that can't be read.
   SheetDrawing& EnsureDrawing();
 
+  /// Changes how the workbook's first window shows the sheet.
+  void SetView(const ViewSetting& setting, bool value);
+
   /// Brings formulas up to date with rows that moved on other sheets since a mark.
   void FollowShifts(std::size_t followed);
   /// Whether this program made the sheet, so that it is free to change it in any way.
@@ -81,6 +86,9 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   excel::CellValue Unpack(PackedValue value, std::uint32_t style);
 
   bool HasMergedCells();
+  /// Changes the XML of the part at once; `change` returns whether there was anything to change. What the
+  /// part lacks for it is the workbook's damage.
+  void ChangePart(const std::function<bool(std::string& text)>& change);
 
   bool isNew_;
   std::optional<bool> merged_;

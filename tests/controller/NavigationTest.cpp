@@ -215,6 +215,7 @@ class RefusingHost : public excel::Application {
   explicit RefusingHost(std::shared_ptr<excel::Application> inner) : inner_(std::move(inner)) {}
   excel::Ref<excel::Workbook> ActiveWorkbook() override { return inner_->ActiveWorkbook(); }
   excel::Ref<excel::Chart> ActiveChart() override { return inner_->ActiveChart(); }
+  excel::Ref<excel::Window> ActiveWindow() override { return inner_->ActiveWindow(); }
   std::string Version() override { return inner_->Version(); }
   bool ScreenUpdating() override { return inner_->ScreenUpdating(); }
   void SetScreenUpdating(bool value) override {

@@ -7,6 +7,7 @@
 namespace plotsmith::excel {
 
 class Chart;
+class Window;
 class Workbook;
 
 /// The spreadsheet program itself, or what stands in for it.
@@ -18,6 +19,8 @@ class Application {
   virtual Ref<Workbook> ActiveWorkbook() = 0;
   /// The chart that is selected or whose chart sheet is active, or Nothing.
   virtual Ref<Chart> ActiveChart() = 0;
+  /// The window in front. Nothing while no workbook is open.
+  virtual Ref<Window> ActiveWindow() = 0;
 
   /// The host's version, such as "16.0": up to 11 and above 11 differ in what they can do.
   virtual std::string Version() = 0;

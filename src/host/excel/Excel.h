@@ -43,6 +43,7 @@
 #include "host/excel/TextFrame2.h"
 #include "host/excel/TickLabels.h"
 #include "host/excel/Using.h"
+#include "host/excel/Window.h"
 #include "host/excel/Workbook.h"
 #include "host/excel/Worksheet.h"
 #include "host/excel/Worksheets.h"

@@ -199,8 +199,8 @@ std::string AttributeIn(std::string_view attributes, std::string_view name) {
   return {};
 }
 
-bool BooleanIn(std::string_view attributes, std::string_view name) {
-  return xml::ParseBoolean(AttributeIn(attributes, name)).value_or(false);
+bool BooleanIn(std::string_view attributes, std::string_view name, bool fallback) {
+  return xml::ParseBoolean(AttributeIn(attributes, name)).value_or(fallback);
 }
 
 }  // namespace plotsmith::xlsx

@@ -68,7 +68,7 @@ struct XmlAttribute {
 std::optional<XmlAttribute> TakeAttribute(std::string_view& attributes);
 /// The value of an attribute in such a text, decoded; empty if it is absent.
 std::string AttributeIn(std::string_view attributes, std::string_view name);
-/// The same of a boolean, false if it is absent.
-bool BooleanIn(std::string_view attributes, std::string_view name);
+/// The same of a boolean; `fallback` if it is absent or isn't one.
+bool BooleanIn(std::string_view attributes, std::string_view name, bool fallback = false);
 
 }  // namespace plotsmith::xlsx

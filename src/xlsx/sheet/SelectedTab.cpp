@@ -15,7 +15,7 @@ bool MaySayIsSelected(const Package& package, const std::string& sheet) {
   std::size_t size = 0;
   while (const std::size_t count = stream->Read(head.data() + size, head.size() - size)) size += count;
   head.resize(size);
-  return xml::NeedsConversion(head) || head.find("tabSelected") != std::string::npos;
+  return xml::NeedsConversion(head) || head.find(kTabSelected.name) != std::string::npos;
 }
 
 }  // namespace
@@ -25,7 +25,7 @@ void SelectOnlyTab(Package& package, const std::vector<std::string>& sheets, con
     try {
       if (sheet != selected && !MaySayIsSelected(package, sheet)) continue;
       std::string text = xml::ToUtf8(package.Read(sheet));
-      if (SelectTab(text, sheet == selected)) package.Replace(sheet, std::move(text));
+      if (SetViewSetting(text, kTabSelected, sheet == selected)) package.Replace(sheet, std::move(text));
     } catch (const PackageError&) {
       // a sheet that can't be read stays as it is
     }

@@ -13,6 +13,8 @@
 namespace plotsmith::xlsx {
 namespace {
 
+constexpr const char* kNoCells = "it has no cells where they should be";
+
 /// The next start of an element, up to where the cells begin.
 std::optional<XmlTag> FindInHead(std::string_view text, std::string_view local) {
   for (auto tag = NextTag(text, 0); tag; tag = NextTag(text, tag->span.end)) {
@@ -38,7 +40,7 @@ XmlTag FindChild(std::string_view text, std::size_t from, const Wanted& wanted) 
 /// The whole sheetData element, and its prefix.
 std::pair<TextSpan, std::string> FindSheetData(std::string_view text) {
   const auto tag = FindInHead(text, "sheetData");
-  if (!tag) throw PackageError("it has no cells where they should be");
+  if (!tag) throw PackageError(kNoCells);
   TextSpan span = tag->span;
   const std::string prefix(xml::Prefix(tag->name));
   if (tag->kind == XmlTag::Kind::kEmpty) return {span, prefix};
@@ -47,6 +49,27 @@ std::pair<TextSpan, std::string> FindSheetData(std::string_view text) {
   if (end == std::string_view::npos) throw PackageError("its XML is damaged");
   span.end = end + 1;
   return {span, prefix};
+}
+
+/// Where an attribute of a view is, or else where Excel writes it: in front of the view's window.
+TextSpan PlaceOfAttribute(std::string_view part, const XmlTag& view, std::string_view name) {
+  if (const TextSpan found = FindAttribute(part, view, name); found.Found()) return found;
+  const TextSpan window = FindAttribute(part, view, "workbookViewId");
+  const std::size_t place = window.Found() ? window.begin : view.span.begin + 1 + view.name.size();
+  return {place, place};
+}
+
+/// Gives a sheet without a view one with the attribute.
+void InsertView(std::string& part, const std::string& attribute) {
+  const auto root = NextTag(part, 0);
+  if (!root || root->kind != XmlTag::Kind::kStart) throw PackageError(kNoCells);
+  const XmlTag behind = FindChild(part, root->span.end, [](std::string_view local) {
+    return local == "sheetFormatPr" || local == "cols" || local == "sheetData";
+  });
+  if (behind.kind == XmlTag::Kind::kEnd) throw PackageError(kNoCells);
+  const std::string prefix(xml::Prefix(root->name));
+  part.insert(behind.span.begin, "<" + prefix + "sheetViews><" + prefix + "sheetView" + attribute +
+                                     " workbookViewId=\"0\"/></" + prefix + "sheetViews>");
 }
 
 }  // namespace
@@ -75,24 +98,18 @@ void InsertDrawingLink(std::string& part, std::string_view relationships, std::s
                                      "\" r:id=\"" + xml::EncodeAttribute(id) + "\"/>");
 }
 
-bool SelectTab(std::string& part, bool selected) {
-  if (const auto view = FindInHead(part, "sheetView")) {
-    if (selected == BooleanIn(view->attributes, "tabSelected")) return false;
-    const std::size_t nameEnd = view->span.begin + 1 + view->name.size();
-    TextSpan place = FindAttribute(part, *view, "tabSelected");
-    if (!place.Found()) place = {nameEnd, nameEnd};
-    part.replace(place.begin, place.end - place.begin, selected ? " tabSelected=\"1\"" : "");
-    return true;
+bool SetViewSetting(std::string& part, const ViewSetting& setting, bool value) {
+  const auto view = FindInHead(part, "sheetView");
+  const bool before = view ? BooleanIn(view->attributes, setting.name, setting.ifAbsent) : setting.ifAbsent;
+  if (value == before) return false;
+  const std::string attribute =
+      value == setting.ifAbsent ? "" : " " + std::string(setting.name) + (value ? "=\"1\"" : "=\"0\"");
+  if (view) {
+    const TextSpan place = PlaceOfAttribute(part, *view, setting.name);
+    part.replace(place.begin, place.end - place.begin, attribute);
+  } else {
+    InsertView(part, attribute);
   }
-  const auto root = NextTag(part, 0);
-  if (!selected || !root || root->kind != XmlTag::Kind::kStart) return false;
-  const XmlTag behind = FindChild(part, root->span.end, [](std::string_view local) {
-    return local == "sheetFormatPr" || local == "cols" || local == "sheetData";
-  });
-  const std::string open = "<" + std::string(xml::Prefix(root->name));
-  part.insert(behind.span.begin, open + "sheetViews>" + open +
-                                     "sheetView tabSelected=\"1\" workbookViewId=\"0\"/></" + open.substr(1) +
-                                     "sheetViews>");
   return true;
 }
 

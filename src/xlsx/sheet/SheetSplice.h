@@ -19,8 +19,18 @@ void ReplaceSheetData(std::string& part,
 /// address of the relationships' namespace.
 void InsertDrawingLink(std::string& part, std::string_view relationships, std::string_view id);
 
-/// Marks the sheet's tab as one of those selected, or not; false if it is so already. The sheet's first view
-/// counts, which is that of the workbook's first window.
-bool SelectTab(std::string& part, bool selected);
+/// A boolean attribute of a sheet's view (CT_SheetView).
+struct ViewSetting {
+  std::string_view name;
+  bool ifAbsent;  ///< its value where the attribute, or the view, is absent
+};
+inline constexpr ViewSetting kTabSelected = {"tabSelected", false};
+inline constexpr ViewSetting kShowGridLines = {"showGridLines", true};
+inline constexpr ViewSetting kShowHeadings = {"showRowColHeaders", true};
+
+/// Changes a setting of the sheet's first view, which is that of the workbook's first window. Returns false,
+/// and leaves the part alone, if the setting has the value already. Throws PackageError for a part without a
+/// view in which there is no place for one.
+bool SetViewSetting(std::string& part, const ViewSetting& setting, bool value);
 
 }  // namespace plotsmith::xlsx

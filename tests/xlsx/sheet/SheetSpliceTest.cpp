@@ -58,43 +58,75 @@ TEST(SheetSpliceTest, CellsAreReplacedWithWhatTheSheetSaysOfThem) {
   }
 }
 
-TEST(SheetSpliceTest, ATabIsSelectedOrNot) {
-  const S view = "<sheetViews><sheetView showGridLines=\"0\" workbookViewId=\"0\"/></sheetViews>";
-  const S selected = "<sheetViews><sheetView tabSelected=\"1\" workbookViewId=\"0\"/></sheetViews>";
+TEST(SheetSpliceTest, ASettingOfTheViewIsChangedInPlace) {
   struct Case {
-    S before;
-    bool select;
-    S after;  ///< empty: stays as it is
+    ViewSetting setting;
+    bool value;
+    S before, after;  ///< `after` is empty where the part stays as it is
   };
+  const S plain = "<w><sheetViews><sheetView workbookViewId='0'/></sheetViews><sheetData/></w>";
+  const S noGrid =
+      "<w><sheetViews><sheetView showGridLines=\"0\" workbookViewId='0'/></sheetViews><sheetData/></w>";
+  const S pane =
+      "<sheetView a='>' workbookViewId='0'><pane/><selection/></sheetView><sheetView workbookViewId='1'/>"
+      "</sheetViews><sheetData/></w>";
   const Case cases[] = {
-      {"<w>" + view + "<sheetData/></w>", false, ""},
-      {"<w>" + view + "<sheetData/></w>", true,
-       "<w><sheetViews><sheetView tabSelected=\"1\" showGridLines=\"0\" workbookViewId=\"0\"/></sheetViews>"
+      {kTabSelected, false, plain, ""},
+      {kTabSelected, true, plain,
+       "<w><sheetViews><sheetView tabSelected=\"1\" workbookViewId='0'/></sheetViews><sheetData/></w>"},
+      {kTabSelected, true, noGrid,
+       "<w><sheetViews><sheetView showGridLines=\"0\" tabSelected=\"1\" workbookViewId='0'/></sheetViews>"
        "<sheetData/></w>"},
-      {"<w>" + selected + "<sheetData/></w>", true, ""},
-      {"<w><sheetViews><sheetView a='>'\n tabSelected = 'true' "
-       "workbookViewId='0'><pane/></sheetView></sheetViews>"
-       "<sheetData/></w>",
-       false,
-       "<w><sheetViews><sheetView a='>' workbookViewId='0'><pane/></sheetView></sheetViews><sheetData/></w>"},
-      {"<w><sheetViews><sheetView \"='\"/></sheetViews><sheetData/></w>", true,
-       "<w><sheetViews><sheetView tabSelected=\"1\" \"='\"/></sheetViews><sheetData/></w>"},
-      {"<w><sheetViews><sheetView tabSelected='0'/></sheetViews><sheetData/></w>", true,
+      {kTabSelected, true, "<w><sheetViews><sheetView tabSelected='1'/></sheetViews><sheetData/></w>", ""},
+      {kTabSelected, true, "<w><sheetViews><sheetView tabSelected='0'/></sheetViews><sheetData/></w>",
        "<w><sheetViews><sheetView tabSelected=\"1\"/></sheetViews><sheetData/></w>"},
-      {"<?xml version='1.0'?><w><sheetPr><tabColor/></sheetPr><dimension/><sheetFormatPr/><sheetData/></w>",
-       true,
-       "<?xml version='1.0'?><w><sheetPr><tabColor/></sheetPr><dimension/>" + selected +
-           "<sheetFormatPr/><sheetData/></w>"},
-      {"<x:w><x:sheetData/></x:w>", true,
-       "<x:w><x:sheetViews><x:sheetView tabSelected=\"1\" workbookViewId=\"0\"/></x:sheetViews><x:sheetData/>"
-       "</x:w>"},
-      {"<w><sheetData/></w>", false, ""},
-      {"<chartsheet><sheetViews><sheetView tabSelected=\"1\"/></sheetViews><drawing/></chartsheet>", false,
-       "<chartsheet><sheetViews><sheetView/></sheetViews><drawing/></chartsheet>"}};
+      {kTabSelected, true, "<w><sheetViews><sheetView \"='\"/></sheetViews><sheetData/></w>",
+       "<w><sheetViews><sheetView tabSelected=\"1\" \"='\"/></sheetViews><sheetData/></w>"},
+      {kTabSelected, false, "<w><sheetData/></w>", ""},
+      {kTabSelected, false,
+       "<chartsheet><sheetViews><sheetView tabSelected=\"1\"/></sheetViews><drawing/></chartsheet>",
+       "<chartsheet><sheetViews><sheetView/></sheetViews><drawing/></chartsheet>"},
+      // what is on by default is written when it is off
+      {kShowGridLines, true, plain, ""},
+      {kShowGridLines, true, "<w><sheetData/></w>", ""},
+      {kShowGridLines, false, plain, noGrid},
+      {kShowGridLines, false, noGrid, ""},
+      {kShowGridLines, true, noGrid, plain},
+      {kShowGridLines, false,
+       "<w><sheetViews><sheetView showGridLines = 'true' workbookViewId='0'/></sheetViews><sheetData/></w>",
+       noGrid},
+      {kShowHeadings, false, noGrid,
+       "<w><sheetViews><sheetView showGridLines=\"0\" showRowColHeaders=\"0\" workbookViewId='0'/>"
+       "</sheetViews><sheetData/></w>"},
+      {kShowHeadings, true,
+       "<w><sheetViews><sheetView showRowColHeaders='false' "
+       "workbookViewId='0'/></sheetViews><sheetData/></w>",
+       plain},
+      // of several views the first is that of the first window
+      {kShowHeadings, false, "<w><sheetViews>" + pane,
+       "<w><sheetViews><sheetView a='>' showRowColHeaders=\"0\"" + pane.substr(S("<sheetView a='>'").size())},
+      // a sheet without a view gets one in front of what comes behind it
+      {kTabSelected, true,
+       "<?xml version='1.0'?><w><sheetPr><tabColor/></sheetPr><dimension/><sheetFormatPr/><sheetData/></w>",
+       "<?xml version='1.0'?><w><sheetPr><tabColor/></sheetPr><dimension/><sheetViews><sheetView "
+       "tabSelected=\"1\" workbookViewId=\"0\"/></sheetViews><sheetFormatPr/><sheetData/></w>"},
+      {kShowGridLines, false, "<w><dimension ref='A1'/><cols><col/></cols><sheetData/></w>",
+       "<w><dimension ref='A1'/><sheetViews><sheetView showGridLines=\"0\" "
+       "workbookViewId=\"0\"/></sheetViews>"
+       "<cols><col/></cols><sheetData/></w>"},
+      {kShowGridLines, false, "<x:w><x:sheetData/></x:w>",
+       "<x:w><x:sheetViews><x:sheetView showGridLines=\"0\" workbookViewId=\"0\"/></x:sheetViews>"
+       "<x:sheetData/></x:w>"},
+      {kShowHeadings, true,
+       "<x:w><x:sheetViews><x:sheetView showRowColHeaders=\"0\"/></x:sheetViews><x:sheetData/></x:w>",
+       "<x:w><x:sheetViews><x:sheetView/></x:sheetViews><x:sheetData/></x:w>"}};
   for (const Case& c : cases) {
     S part = c.before;
-    EXPECT_EQ(SelectTab(part, c.select), !c.after.empty()) << c.before;
+    EXPECT_EQ(SetViewSetting(part, c.setting, c.value), !c.after.empty()) << c.before;
     EXPECT_EQ(part, c.after.empty() ? c.before : c.after);
+  }
+  for (S damaged : {"", "<worksheet/>", "<chartsheet><drawing/></chartsheet>"}) {
+    EXPECT_THROW(SetViewSetting(damaged, kTabSelected, true), PackageError);
   }
 }
 
