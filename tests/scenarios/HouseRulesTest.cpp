@@ -18,16 +18,18 @@ const std::map<std::string, std::set<std::string>> kAllowed = {
     {"runtime", {}},
     {"dom", {"runtime"}},
     {"host", {"runtime"}},
-    {"common", {"runtime", "dom", "host"}},
+    {"forms", {"runtime"}},
+    {"common", {"runtime", "dom", "host", "forms"}},
     {"readback", {"runtime", "dom", "host", "common"}},
     {"metadata", {"runtime", "dom", "host", "common", "readback"}},
     // the driver shows the busy window, and the busy window runs the driver: each knows the other by name
     {"builder", {"runtime", "dom", "host", "common", "metadata", "pages"}},
-    {"pages", {"runtime", "dom", "host", "common", "metadata", "builder", "controller"}},
+    {"pages", {"runtime", "dom", "host", "common", "metadata", "builder", "controller", "forms"}},
     {"controller", {"runtime", "dom", "host", "common", "metadata", "builder"}},
     {"xlsx", {"runtime", "dom", "host"}},
     {"cli",
-     {"runtime", "dom", "host", "common", "metadata", "builder", "readback", "pages", "controller", "xlsx"}},
+     {"runtime", "dom", "host", "common", "metadata", "builder", "readback", "pages", "controller", "xlsx",
+      "forms"}},
 };
 
 /// The folders that each folder of the embedded host may look into, itself not counted; "" holds the objects
