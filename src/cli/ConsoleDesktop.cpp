@@ -2,6 +2,7 @@
 
 #include <ctime>
 
+#include "cli/UserLocale.h"
 #include "common/PSConstants.h"
 #include "runtime/Strings.h"
 
@@ -30,6 +31,8 @@ double ConsoleDesktop::Timer() {
   clock_gettime(CLOCK_REALTIME_COARSE, &now);
   return static_cast<double>((now.tv_sec + offset) % 86400) + static_cast<double>(now.tv_nsec) / 1e9;
 }
+
+std::int32_t ConsoleDesktop::UserDefaultLCID() { return LCIDOfLocale(UserLocale()); }
 
 void ConsoleDesktop::DoEvents() {
   if (shown_.empty()) return;

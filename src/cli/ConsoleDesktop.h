@@ -17,6 +17,8 @@ class ConsoleDesktop final : public desktop::Desktop, public forms::Views {
   void DoEvents() override;
   double Timer() override;
   void SetMousePointer(std::int32_t) override {}
+  /// From the environment: UserLocale.h.
+  std::int32_t UserDefaultLCID() override;
 
   /// Runs the window's events in their order. Its timer ticks where events are handled, if its interval is
   /// over.

@@ -103,6 +103,7 @@ class ClockDesktop : public desktop::Desktop {
   void DoEvents() override { ++yields; }
   double Timer() override { return now; }
   void SetMousePointer(std::int32_t) override {}
+  std::int32_t UserDefaultLCID() override { return 1033; }
   double now = 0;
   int yields = 0;
 };

@@ -36,6 +36,9 @@ class Desktop {
   virtual double Timer() = 0;
   /// kPointerDefault or kPointerHourglass.
   virtual void SetMousePointer(std::int32_t pointer) = 0;
+  /// The identifier of the user's locale, as Windows' GetUserDefaultLCID gives it (MS-LCID): 1033 is English
+  /// (United States).
+  virtual std::int32_t UserDefaultLCID() = 0;
 };
 
 }  // namespace plotsmith::desktop

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "forms/Font.h"
+
+/// Module Intl: the pages' fonts fit the script of the user's locale. The texts stay in English.
+namespace plotsmith {
+
+/// Sets the character set of the user's locale, which the desktop tells, and for East Asian languages a
+/// typeface of at least 9 points. A locale whose script every font has gets DEFAULT_CHARSET, and the font
+/// keeps its typeface and size.
+void ApplyLocaleFont(forms::Font& oFont);
+/// Lets the system choose its user interface font, of at least 8 points.
+void SetDefaultLocaleFont(forms::Font& oFont);
+
+}  // namespace plotsmith

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "pages/pictures/Picture.h"
+
+/// The sample pictures of the wizard's pages: small charts that show what a setting does.
+namespace plotsmith {
+
+/// The names that an image of a page may have.
+extern const std::array<std::string_view, 41> aSamplePictureNames;
+
+/// Draws the picture of that name, which is compared case-sensitively; error 5 if there is none.
+pictures::Picture SamplePicture(std::string_view sName);
+
+}  // namespace plotsmith

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <variant>
+#include <vector>
+
+/// Drawings of coloured shapes, which each view of the forms paints with its own toolkit. Lengths are points;
+/// x runs to the right and y downwards, from the top left corner of the picture.
+namespace plotsmith::pictures {
+
+struct Rgb {
+  std::uint8_t red = 0;
+  std::uint8_t green = 0;
+  std::uint8_t blue = 0;
+  bool operator==(const Rgb&) const = default;
+};
+
+/// A place, or the way from one place to another.
+struct Point {
+  double x = 0;
+  double y = 0;
+  bool operator==(const Point&) const = default;
+};
+
+inline Point operator+(Point a, Point b) { return {a.x + b.x, a.y + b.y}; }
+inline Point operator*(Point a, double dFactor) { return {a.x * dFactor, a.y * dFactor}; }
+
+/// The corners in their order; the last one is joined to the first.
+struct Polygon {
+  std::vector<Point> aPoints;
+  bool operator==(const Polygon&) const = default;
+};
+
+struct Ellipse {
+  Point oCenter;
+  double dRadiusX = 0;
+  double dRadiusY = 0;
+  bool operator==(const Ellipse&) const = default;
+};
+
+/// A line along the edge of a shape, half of it inside the shape and half outside.
+struct Outline {
+  Rgb oColor;
+  double dWidth = 0;
+  bool operator==(const Outline&) const = default;
+};
+
+struct Shape {
+  std::variant<Polygon, Ellipse> oForm;
+  Rgb oFill;
+  std::optional<Outline> oOutline;
+  bool operator==(const Shape&) const = default;
+};
+
+struct Picture {
+  double dWidth = 0;
+  double dHeight = 0;
+  std::vector<Shape> aShapes;  ///< back to front
+  bool operator==(const Picture&) const = default;
+};
+
+}  // namespace plotsmith::pictures

@@ -1,0 +1,89 @@
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+
+#include "common/App.h"
+#include "common/Intl.h"
+
+namespace plotsmith {
+namespace {
+
+using S = std::string;
+
+/// A desktop in a locale of the test's choice.
+class LocaleDesktop : public desktop::Desktop {
+ public:
+  std::int32_t MsgBox(std::string_view, desktop::Buttons, desktop::Icon, std::string_view) override {
+    return desktop::kOk;
+  }
+  void DoEvents() override {}
+  double Timer() override { return 0; }
+  void SetMousePointer(std::int32_t) override {}
+  std::int32_t UserDefaultLCID() override { return lcid; }
+  std::int32_t lcid = 0;
+};
+
+class IntlTest : public ::testing::Test {
+ protected:
+  void SetUp() override { App.Desktop = desktop_; }
+  void TearDown() override { App.Desktop = nullptr; }
+  std::shared_ptr<LocaleDesktop> desktop_ = std::make_shared<LocaleDesktop>();
+};
+
+void ExpectFont(const forms::Font& font, const S& name, double size, std::int32_t charset) {
+  EXPECT_EQ(font.Name, name);
+  EXPECT_EQ(font.Size, size);
+  EXPECT_EQ(font.Charset, charset);
+  EXPECT_TRUE(font.Bold) << "the weight is the page's own";
+}
+
+TEST_F(IntlTest, FontsFitTheLocale) {
+  const S asDesigned = "Tahoma", systems = "";
+  const struct {
+    std::int32_t lcid, charset;
+    S typeface;
+    double least;  ///< points; 0 where the size stays
+  } cases[] = {
+      {1025, 178, systems, 8},
+      {1028, 136, "新細明體", 9},
+      {1029, 238, systems, 8},
+      {1032, 161, systems, 8},
+      {1037, 177, systems, 8},
+      {1038, 238, systems, 8},
+      // full-width letters, an ASCII blank, full-width again
+      {1041, 128, "\uFF2D\uFF33 \uFF30\u30B4\u30B7\u30C3\u30AF", 9},
+      {1042, 129, "굴림", 9},
+      {1045, 238, systems, 8},
+      {1048, 238, systems, 8},
+      {1049, 204, systems, 8},
+      {1050, 238, systems, 8},
+      {1051, 238, systems, 8},
+      {1054, 222, systems, 8},
+      {1055, 162, systems, 8},
+      {1060, 238, systems, 8},
+      {1066, 163, systems, 8},
+      {2052, 134, "宋体", 9},
+      {1033, 1, asDesigned, 0},
+      {3076, 1, asDesigned, 0},
+      {0, 1, asDesigned, 0},
+  };
+  for (const auto& expected : cases) {
+    desktop_->lcid = expected.lcid;
+    for (const double size : {6.0, 8.0, 8.5, 9.0, 10.0}) {
+      SCOPED_TRACE(std::to_string(expected.lcid) + " at " + std::to_string(size));
+      forms::Font font{asDesigned, size, 0, true};
+      ApplyLocaleFont(font);
+      ExpectFont(font, expected.typeface, std::max(size, expected.least), expected.charset);
+    }
+  }
+}
+
+TEST_F(IntlTest, TheDefaultFontKeepsItsCharacterSet) {
+  forms::Font font{"Tahoma", 7.5, 204, true};
+  SetDefaultLocaleFont(font);
+  ExpectFont(font, "", 8, 204);
+}
+
+}  // namespace
+}  // namespace plotsmith
