@@ -37,7 +37,7 @@ class AnchoredShapes {
     anchor.parent().remove_child(anchor);
     shape.Leave();
     changed_ = true;
-    if (part_.empty()) return;
+    if (part_.empty() || ids.empty()) return;
     const std::set<std::string> used = xml::RelationshipIdsIn(xml::Root(document_));
     Workbook& book = shape.Book();
     book.Guarded([&] {
