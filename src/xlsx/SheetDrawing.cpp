@@ -18,7 +18,8 @@ std::string EmptyDrawing(bool strict) {
          "\" xmlns:a=\"" + std::string(names.drawing) + "\"/>";
 }
 
-SheetDrawing::SheetDrawing(Worksheet& sheet, std::string part) : sheet_(sheet), part_(std::move(part)) {
+SheetDrawing::SheetDrawing(Worksheet& sheet, std::string part) : sheet_(sheet) {
+  part_ = std::move(part);
   InPart(part_, [&] { xml::Parse(document_, sheet.Book().Package().Read(part_)); });
   ForEachAnchor(xml::Root(document_), kAnchors, [this](pugi::xml_node anchor, pugi::xml_node object) {
     shapes_.push_back(std::make_shared<SheetShape>(*this, anchor, object));

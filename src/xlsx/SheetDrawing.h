@@ -32,7 +32,6 @@ class SheetDrawing : public AnchoredShapes<SheetShape> {
   std::shared_ptr<SheetShape> AddAnchor(const Frame& frame, const std::string& object);
 
   Worksheet& sheet_;
-  std::string part_;
 };
 
 /// A drawing part without a shape.

@@ -287,8 +287,8 @@ void Workbook::RemoveSheet(const SheetEntry& sheet) {
   }
   const std::size_t position = PositionOf(sheet);
   pugi::xml_node node = sheet.node;
+  RemoveRelationship(part_, xml::RelationshipId(node));
   node.parent().remove_child(node);
-  package_.Remove(sheet.part, part_);
   sheets_.erase(sheets_.begin() + static_cast<std::ptrdiff_t>(position));
   ListWorksheets();
   RenumberTabs(position, -1);
@@ -369,6 +369,16 @@ std::shared_ptr<ChartPart> Workbook::Chart(const std::string& part) {
   auto& chart = charts_[part];
   if (!chart) chart = std::make_shared<ChartPart>(*this, part);
   return chart;
+}
+
+void Workbook::RemoveRelationship(const std::string& part, const std::string& id) {
+  for (const std::string& gone : package_.RemoveRelationship(part, id)) {
+    const auto chart = charts_.find(gone);
+    if (chart == charts_.end()) continue;
+    chart->second->Leave();
+    deletedCharts_.push_back(std::move(chart->second));
+    charts_.erase(chart);
+  }
 }
 
 Ref<excel::Chart> Workbook::ActiveChart() {

@@ -92,6 +92,9 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   /// The chart of a part, which is read when something of the chart is asked for.
   std::shared_ptr<ChartPart> Chart(const std::string& part);
   excel::Ref<excel::Chart> ActiveChart();
+  /// Takes out a relationship of a part, and the parts that nothing else refers to. Charts among them are
+  /// deleted.
+  void RemoveRelationship(const std::string& part, const std::string& id);
   const Namespaces& Vocabulary() const { return strict_ ? kStrict : kTransitional; }
   bool IsStrict() const { return strict_; }
   /// The workbook's theme, or the one that it gets when a chart is drawn in it.
@@ -144,6 +147,7 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   std::vector<NameEntry> names_;
   excel::Ref<excel::Names> nameObjects_;  ///< made when first asked for, until a name changes
   std::map<std::string, std::shared_ptr<ChartPart>, std::less<>> charts_;  ///< those in use, by part
+  std::vector<std::shared_ptr<ChartPart>> deletedCharts_;  ///< kept for the objects that refer to them
   std::optional<xlsx::Theme> theme_;
   RowShifts shifts_;
   std::size_t namesFollowed_ = 0;   ///< of the shifts

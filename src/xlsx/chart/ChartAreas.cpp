@@ -99,7 +99,10 @@ class ChartAreaObject final : public excel::ChartArea {
   void SetAutoScaleFont(const Variant& value) override {
     area_.Log().Put(area_.path, "AutoScaleFont", value);
   }
-  double Width() override { return ChartSize(frame_).width; }
+  double Width() override {
+    area_.find();  // error 1004 if the chart was deleted
+    return ChartSize(frame_).width;
+  }
 
  private:
   FormattedElement area_;

@@ -151,15 +151,11 @@ std::shared_ptr<ChartShape> ChartDrawing::Group(const std::vector<std::shared_pt
   return group;
 }
 
-/// With the chart's link to it. A part that has links of its own stays, without a shape.
+/// With the chart's relationship to it.
 void ChartDrawing::RemovePart() {
-  Package& package = chart_.Book().Package();
-  if (!package.Relationships(part_).empty()) {
-    package.Replace(part_, xml::Serialize(document_));
-    return;
-  }
-  package.Remove(part_, chart_.Part());
-  schema::Remove(chart_.Space(), "userShapes");
+  const pugi::xml_node space = chart_.Space();
+  chart_.Book().RemoveRelationship(chart_.Part(), xml::RelationshipId(xml::Child(space, "userShapes")));
+  schema::Remove(space, "userShapes");
   chart_.MarkChanged();
   part_.clear();
 }

@@ -43,7 +43,6 @@ class ChartDrawing : public AnchoredShapes<ChartShape> {
 
   ChartPart& chart_;
   std::weak_ptr<SheetShape> frame_;
-  std::string part_;  ///< empty while there is none
 };
 
 /// The shapes on a chart, for the port.

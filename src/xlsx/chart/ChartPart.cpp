@@ -44,6 +44,18 @@ bool ChartPart::IsReadable() {
   return static_cast<bool>(document_);
 }
 
+void ChartPart::Leave() {
+  deleted_ = true;
+  if (series_) {
+    for (const SeriesRef& entry : *series_) entry->node = {};
+    series_->clear();
+  }
+  if (drawing_) {
+    for (const auto& shape : drawing_->Shapes()) shape->Leave();
+  }
+  document_.reset();
+}
+
 pugi::xml_node ChartPart::Space() {
   Load();
   // One chart that can't be read is no reason to give the workbook up: the error is this chart's.
@@ -52,6 +64,7 @@ pugi::xml_node ChartPart::Space() {
 }
 
 void ChartPart::Load() {
+  if (deleted_) throw Refusal("The object has been deleted.");
   if (document_ || unreadable_) return;  // what can't be read isn't tried again at each use
   auto document = std::make_unique<pugi::xml_document>();
   try {
@@ -92,6 +105,7 @@ std::optional<std::int32_t> ChartPart::Color(pugi::xml_node holder) {
 }
 
 ChartDrawing& ChartPart::Drawing() {
+  Space();
   if (!drawing_) drawing_ = std::make_unique<ChartDrawing>(*this);
   return *drawing_;
 }
@@ -99,6 +113,7 @@ ChartDrawing& ChartPart::Drawing() {
 bool ChartPart::Changed() const { return changed_ || (drawing_ && drawing_->Changed()); }
 
 std::vector<SeriesRef>& ChartPart::Series() {
+  Space();
   if (!series_) {
     series_.emplace();
     for (const pugi::xml_node& group : GroupsOf(*this)) {

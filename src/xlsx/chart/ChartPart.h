@@ -31,8 +31,11 @@ class ChartPart {
 
   Workbook& Book() const { return book_; }
   const std::string& Part() const { return part_; }
-  /// The chartSpace element; error 1004 if the part can't be read.
+  /// The chart was deleted: every use of it, its series and its shapes is error 1004 from now on.
+  void Leave();
+  /// The chartSpace element; error 1004 if the part can't be read, or the chart was deleted.
   pugi::xml_node Space();
+  /// Error 1004 if the chart was deleted.
   bool IsReadable();
   /// The chart element, and the plot area, made if they are missing.
   pugi::xml_node Chart();
@@ -79,6 +82,7 @@ class ChartPart {
   std::optional<std::vector<SeriesRef>> series_;
   bool cameEmpty_ = false;  ///< known with series_
   bool changed_ = false;
+  bool deleted_ = false;
   std::size_t followed_ = 0;
 };
 

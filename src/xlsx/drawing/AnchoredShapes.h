@@ -8,7 +8,9 @@
 #include <vector>
 
 #include "runtime/Strings.h"
+#include "xlsx/Workbook.h"
 #include "xlsx/drawing/DrawnShape.h"
+#include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
 
@@ -26,12 +28,23 @@ class AnchoredShapes {
     }
     return nullptr;
   }
-  /// Takes the shape and its anchor out of the drawing.
-  void Remove(const DrawnShape& shape) {
+  /// Takes the shape and its anchor out of the drawing, and with them the relationships that nothing else in
+  /// the drawing uses.
+  void Remove(DrawnShape& shape) {
     pugi::xml_node anchor = shape.Anchor();
+    const std::set<std::string> ids = xml::RelationshipIdsIn(anchor);
     std::erase_if(shapes_, [&](const auto& other) { return other.get() == &shape; });
     anchor.parent().remove_child(anchor);
+    shape.Leave();
     changed_ = true;
+    if (part_.empty() || ids.empty()) return;
+    const std::set<std::string> used = xml::RelationshipIdsIn(xml::Root(document_));
+    Workbook& book = shape.Book();
+    book.Guarded([&] {
+      for (const std::string& id : ids) {
+        if (!used.contains(id)) book.RemoveRelationship(part_, id);
+      }
+    });
   }
 
   void MarkChanged() { changed_ = true; }
@@ -48,6 +61,7 @@ class AnchoredShapes {
     }
   }
 
+  std::string part_;  ///< empty while there is none
   pugi::xml_document document_;
   std::vector<std::shared_ptr<Shape>> shapes_;
   bool changed_ = false;

@@ -49,6 +49,11 @@ pugi::xml_node DrawnShape::Object() const {
   return object_;
 }
 
+pugi::xml_node DrawnShape::Anchor() const {
+  Object();
+  return anchor_;
+}
+
 pugi::xml_node DrawnShape::Properties() const {
   const auto properties = ShapePropertiesOf(Object());
   if (!properties) throw OutOfRange();
@@ -61,7 +66,12 @@ std::string DrawnShape::JournalPathUnder(const std::string& drawing) const {
   return drawing + ".Shapes(" + Journal::Literal(xml::Attribute(IdentityOf(object_), "name")) + ")";
 }
 
-std::string DrawnShape::Name() { return xml::Attribute(IdentityOf(object_), "name"); }
+std::int32_t DrawnShape::Type() {
+  Object();
+  return type_;
+}
+
+std::string DrawnShape::Name() { return xml::Attribute(IdentityOf(Object()), "name"); }
 
 void DrawnShape::SetName(std::string_view name) {
   Log().Put([this] { return JournalPath(); }, "Name", name);
@@ -70,7 +80,7 @@ void DrawnShape::SetName(std::string_view name) {
   MarkChanged();
 }
 
-std::string DrawnShape::AlternativeText() { return xml::Attribute(IdentityOf(object_), "descr"); }
+std::string DrawnShape::AlternativeText() { return xml::Attribute(IdentityOf(Object()), "descr"); }
 
 void DrawnShape::SetAlternativeText(std::string_view text) {
   Log().Put([this] { return JournalPath(); }, "AlternativeText", text);
@@ -187,7 +197,6 @@ void DrawnShape::Delete() {
   Object();
   const auto alive = shared_from_this();  // the drawing may be the last to know it
   RemoveFromDrawing();
-  Leave();
 }
 
 void DrawnShape::Leave() { anchor_ = object_ = {}; }

@@ -21,7 +21,7 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
  public:
   DrawnShape(pugi::xml_node anchor, pugi::xml_node object);
 
-  std::int32_t Type() override { return type_; }
+  std::int32_t Type() override;
   std::string Name() override;
   void SetName(std::string_view name) override;
   std::string AlternativeText() override;
@@ -51,7 +51,8 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   pugi::xml_node Object() const;
   /// spPr, or a group's grpSpPr; error 1004 for what has neither.
   pugi::xml_node Properties() const;
-  pugi::xml_node Anchor() const { return anchor_; }
+  /// The anchor's element; error 1004 once the shape was deleted.
+  pugi::xml_node Anchor() const;
   const Journal& Log() const;
   /// What the shape says, in units; whoever reads it in pieces gets them from one conversion.
   const std::u16string& Text();
@@ -67,6 +68,7 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
  protected:
   /// Moves the anchor and answers where that allows the shape to lie.
   virtual Frame MoveAnchor(const Frame& wanted) = 0;
+  /// Takes the shape out of its drawing, and leaves.
   virtual void RemoveFromDrawing() = 0;
   std::string JournalPathUnder(const std::string& drawing) const;
 

@@ -57,6 +57,9 @@ std::string PercentDecoded(std::string_view target) {
   return text;
 }
 
+/// The content types and the relationships are in the file like parts, but no relationship may refer to them.
+bool IsBookkeeping(std::string_view part) { return part == kContentTypes || Folded(part).ends_with(".rels"); }
+
 /// The part that an override is about, to be compared.
 std::string PartNameOf(pugi::xml_node type) {
   return Folded(PercentDecoded(xml::Attribute(type, "PartName")));
@@ -243,32 +246,23 @@ void Package::Add(std::string_view part, std::string_view contentType, std::stri
   contentTypesChanged_ = true;
 }
 
-void Package::Remove(std::string_view name, std::string_view source) {
-  const Part* part = &Get(name);
-  const std::string key = Folded(name), rels = RelationshipsPart(source);
-  pugi::xml_document document;
-  xml::Parse(document, Read(rels));
-  pugi::xml_node root = xml::Root(document);
-  for (pugi::xml_node node : xml::Children(root, "Relationship")) {
-    if (Folded(ResolveTarget(source, xml::Attribute(node, "Target"))) == key) root.remove_child(node);
+void Package::Remove(const std::string& part) {
+  const std::string key = Folded(part);
+  if (overrides_.erase(key) > 0) {
+    pugi::xml_node types = xml::Root(*contentTypes_);
+    for (pugi::xml_node type : xml::Children(types, "Override")) {
+      if (PartNameOf(type) == key) types.remove_child(type);
+    }
+    contentTypesChanged_ = true;
   }
-  Replace(rels, xml::Serialize(document));
-  pugi::xml_node types = xml::Root(*contentTypes_);
-  for (pugi::xml_node type : xml::Children(types, "Override")) {
-    if (PartNameOf(type) == key) types.remove_child(type);
-  }
-  overrides_.erase(key);
-  contentTypesChanged_ = changed_ = true;
-  // a part that gets the name later has links of its own
-  const std::string links = RelationshipsPart(part->name);
-  if (Has(links)) Forget(Get(links));
-  relationships_.erase(Folded(links));
-  Forget(*part);
-}
-
-void Package::Forget(const Part& part) {
-  byName_.erase(Folded(part.name));
-  std::erase_if(parts_, [&](const auto& other) { return other.get() == &part; });
+  // a part that gets the name later has relationships of its own
+  const std::string links = RelationshipsPart(part);
+  if (Has(links)) Remove(links);
+  relationships_.erase(key);
+  const Part* gone = Find(part);
+  byName_.erase(key);
+  std::erase_if(parts_, [&](const auto& other) { return other.get() == gone; });
+  changed_ = true;
 }
 
 std::string Package::FreeName(std::string_view prefix, std::string_view suffix) const {
@@ -337,6 +331,61 @@ std::string Package::AddRelationship(std::string_view part, std::string_view typ
   xml::SetAttribute(node, "Target", RelativeTarget(part, target));
   Add(rels, kRelationshipsType, xml::Serialize(document));
   return id;
+}
+
+std::set<std::string> Package::Closure(const std::string& part) const {
+  std::set<std::string> closure = {part};
+  for (std::vector<std::string> open = {part}; !open.empty();) {
+    const std::string source = std::move(open.back());
+    open.pop_back();
+    for (const Relationship& link : Relationships(source)) {
+      if (link.external || !Has(link.target) || IsBookkeeping(link.target)) continue;
+      if (closure.insert(link.target).second) open.push_back(link.target);
+    }
+  }
+  return closure;
+}
+
+std::set<std::string> Package::OnlyThrough(const std::string& part) const {
+  const std::set<std::string> closure = Closure(part);
+  std::set<std::string> gone = closure;
+  const auto keepTargetsOf = [&](const std::string& source) {
+    for (const Relationship& link : Relationships(source)) {
+      if (!gone.contains(link.target)) continue;
+      for (const std::string& kept : Closure(link.target)) gone.erase(kept);
+    }
+  };
+  keepTargetsOf("");
+  for (const auto& source : parts_) {
+    if (!IsBookkeeping(source->name) && !closure.contains(source->name)) keepTargetsOf(source->name);
+  }
+  return gone;
+}
+
+std::vector<std::string> Package::RemoveRelationship(std::string_view source, std::string_view id) {
+  const auto link = FindRelationship(source, id);
+  if (!link) return {};
+  const std::string rels = RelationshipsPart(source);
+  pugi::xml_document document;
+  xml::Parse(document, Read(rels));
+  pugi::xml_node root = xml::Root(document);
+  for (pugi::xml_node node : xml::Children(root, "Relationship")) {
+    if (xml::Attribute(node, "Id") == id) root.remove_child(node);
+  }
+  if (xml::Child(root, "Relationship")) {
+    Replace(rels, xml::Serialize(document));
+  } else {
+    Remove(rels);
+  }
+  if (link->external || !Has(link->target) || IsBookkeeping(link->target)) return {};
+  std::set<std::string> gone;
+  try {
+    gone = OnlyThrough(link->target);
+  } catch (const PackageError&) {
+    return {};  // the part whose relationships can't be read may refer to any of them
+  }
+  for (const std::string& part : gone) Remove(part);
+  return {gone.begin(), gone.end()};
 }
 
 void Package::Save(const std::string& path) {

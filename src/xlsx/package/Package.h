@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <pugixml.hpp>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -47,8 +48,6 @@ class Package {
   /// Replaces the bytes of a part that is there.
   void Replace(std::string_view part, std::string bytes);
   void Add(std::string_view part, std::string_view contentType, std::string bytes);
-  /// Takes out a part that `source` alone points at, with that relationship.
-  void Remove(std::string_view part, std::string_view source);
   /// The first unused part name of the form prefix, number, suffix; numbers from 1.
   std::string FreeName(std::string_view prefix, std::string_view suffix) const;
 
@@ -59,6 +58,10 @@ class Package {
   std::optional<Relationship> FindRelationshipOfType(std::string_view part, std::string_view type) const;
   /// Returns the new relationship's id. `typeAddress` is the whole address.
   std::string AddRelationship(std::string_view part, std::string_view typeAddress, std::string_view target);
+  /// Takes out a relationship of a part, if there is one of the id, and the parts that no other part refers
+  /// to without it: its target, and what only such parts refer to. Returns the names of the parts that went.
+  /// While some part's relationships can't be read, none goes.
+  std::vector<std::string> RemoveRelationship(std::string_view part, std::string_view id);
 
   bool Changed() const { return changed_; }
   /// Writes the package to a new file beside `path`, and then puts that in the place of `path`: whoever looks
@@ -70,8 +73,12 @@ class Package {
   const Part& Get(std::string_view part) const;
   Part* Find(std::string_view part) const;
   Part& Put(std::string_view part, std::string bytes);
-  /// Takes it out of the list.
-  void Forget(const Part& part);
+  /// The part and all that it refers to, directly or through others.
+  std::set<std::string> Closure(const std::string& part) const;
+  /// Those of the closure that no part outside of it refers to, directly or through others.
+  std::set<std::string> OnlyThrough(const std::string& part) const;
+  /// Takes a part out, with its relationships and its content type.
+  void Remove(const std::string& part);
   void ParseContentTypes(std::string_view bytes);
 
   std::unique_ptr<Archive> archive_;

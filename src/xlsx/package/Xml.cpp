@@ -347,6 +347,16 @@ std::string RelationshipId(pugi::xml_node node) {
   return {};
 }
 
+std::set<std::string> RelationshipIdsIn(pugi::xml_node element) {
+  std::set<std::string> ids;
+  for (const pugi::xml_attribute& attribute : element.attributes()) {
+    const std::string_view prefix = Prefix(attribute.name());
+    if (!prefix.empty() && prefix != "xmlns:") ids.insert(Decode(attribute.value()));
+  }
+  for (const pugi::xml_node& child : element.children()) ids.merge(RelationshipIdsIn(child));
+  return ids;
+}
+
 std::string Text(pugi::xml_node node) {
   std::string text;
   for (const pugi::xml_node& child : node.children()) {

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <pugixml.hpp>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -68,6 +69,9 @@ bool BooleanAttribute(pugi::xml_node node, const char* name, bool fallback);
 void SetAttribute(pugi::xml_node node, const char* name, std::string_view value);
 /// The value of the attribute that links to a relationship (r:id, whatever the prefix), or empty.
 std::string RelationshipId(pugi::xml_node node);
+/// The values of all attributes of an element and those inside of it that may link to a relationship (r:id,
+/// r:embed, r:link, ...): those with a prefix.
+std::set<std::string> RelationshipIdsIn(pugi::xml_node element);
 
 /// The decoded text directly inside an element.
 std::string Text(pugi::xml_node node);

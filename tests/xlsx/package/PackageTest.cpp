@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <fstream>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -71,16 +72,67 @@ TEST_F(PackageFileTest, UntouchedPartsKeepTheirBytesOrderAndNames) {
   EXPECT_EQ(again.FindRelationship("/xl/workbook.xml", id)->type, "new");
 }
 
-TEST_F(PackageFileTest, APartThatGoesTakesItsLinksAlong) {
+/// A package of relationships as in "a>b": the id is the same text, and the package itself is "".
+Package Linked(const std::vector<S>& links) {
   Package package;
-  for (const S part : {"/xl/sheet.xml", "/xl/drawing.xml"}) package.Add(part, "application/x", "<x/>");
-  package.AddRelationship("", "http://x/sheet", "/xl/sheet.xml");
-  package.AddRelationship("/xl/sheet.xml", "http://x/drawing", "/xl/drawing.xml");
-  EXPECT_TRUE(package.FindRelationshipOfType("/xl/sheet.xml", "drawing"));
-  package.Remove("/xl/sheet.xml", "");
-  package.Add("/xl/sheet.xml", "application/x", "<x/>");
-  EXPECT_FALSE(package.FindRelationshipOfType("/xl/sheet.xml", "drawing"));
-  EXPECT_FALSE(package.Has("/xl/_rels/sheet.xml.rels"));
+  for (const S& link : links) {
+    for (const S& end : {link.substr(0, link.find('>')), link.substr(link.find('>') + 1)}) {
+      if (!end.empty()) package.Add("/" + end, "application/" + end, "<x/>");
+    }
+  }
+  for (const S& link : links) {
+    const auto at = link.find('>');
+    package.AddRelationship(at == 0 ? "" : "/" + link.substr(0, at), "http://x/x", "/" + link.substr(at + 1));
+  }
+  return package;
+}
+
+TEST_F(PackageFileTest, WhatNothingElseRefersToGoesWithItsRelationship) {
+  struct Case {
+    std::vector<S> links;
+    S source, id;
+    std::vector<S> gone;
+  };
+  const Case cases[] = {
+      {{">d", "d>c", "c>s", "c>b"}, "/d", "rId1", {"/b", "/c", "/s"}},
+      {{">d", "d>c", "d>e", "c>s", "e>s"}, "/d", "rId1", {"/c"}},                // s is shared
+      {{">d", "d>c", "d>e", "c>s", "c>t", "e>s", "s>t"}, "/d", "rId1", {"/c"}},  // and so is what s uses
+      {{">d", "d>c", "d>c", "c>s"}, "/d", "rId1", {}},                           // referred to twice
+      {{">d", "d>c", "c>s", "s>c"}, "/d", "rId1", {"/c", "/s"}},  // parts that refer to each other
+      {{">d", "d>c", "c>d", "c>s"}, "/d", "rId1", {"/c", "/s"}},  // back to where it came from
+      {{">d", ">d", "d>c"}, "", "rId1", {}},
+      {{">d", "d>c"}, "", "rId1", {"/c", "/d"}},
+      {{">d", "d>c"}, "/d", "rId9", {}},
+      {{">d", "d>c", "c>_rels/.rels", "c>[Content_Types].xml"}, "/d", "rId1", {"/c"}}};
+  for (const Case& c : cases) {
+    Package package = Linked(c.links);
+    std::vector<S> left;
+    for (const S& part : package.Parts()) {
+      const S owner = runtime::Replace(runtime::Replace(part, "/_rels/", "/"), ".rels", "");
+      const bool goes = std::find(c.gone.begin(), c.gone.end(), owner) != c.gone.end();
+      if (!goes) left.push_back(part);
+    }
+    const auto links = package.Relationships(c.source).size();
+    EXPECT_EQ(package.RemoveRelationship(c.source, c.id), c.gone);
+    EXPECT_EQ(package.Relationships(c.source).size(), c.id == "rId9" ? links : links - 1);
+    if (package.Relationships(c.source).empty()) {  // an empty list of relationships isn't kept
+      std::erase(left, c.source.empty() ? "/_rels/.rels" : "/_rels/" + c.source.substr(1) + ".rels");
+    }
+    EXPECT_EQ(package.Parts(), left);
+    for (const S& gone : c.gone) {
+      EXPECT_EQ(package.ContentType(gone), "");
+      package.Add(gone, "application/new", "<x/>");
+      EXPECT_TRUE(package.Relationships(gone).empty());
+    }
+  }
+}
+
+TEST_F(PackageFileTest, NoPartGoesWhileRelationshipsCantBeRead) {
+  Package package = Linked({">d", "d>c", "d>e", "e>s"});
+  package.Replace("/_rels/e.rels", "<Relationships");
+  EXPECT_EQ(package.RemoveRelationship("/d", "rId1"), std::vector<S>{});
+  EXPECT_TRUE(package.Has("/c"));
+  EXPECT_FALSE(package.FindRelationship("/d", "rId1"));
 }
 
 TEST_F(PackageFileTest, ForeignEntriesAreCopiedByWhateverMethodTheyCame) {
