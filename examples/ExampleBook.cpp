@@ -4,11 +4,11 @@
 #include <stdexcept>
 
 #include "builder/ChartComment.h"
-#include "common/App.h"
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
-#include "controller/ResetSystem.h"
+#include "controller/System.h"
+#include "forms/UnattendedView.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
 #include "xlsx/Worksheet.h"
@@ -17,14 +17,12 @@ namespace plotsmith::examples {
 
 ExampleBook::ExampleBook()
     : desktop_(std::make_shared<cli::ConsoleDesktop>()), host_(xlsx::Application::Create()) {
-  ResetSystem();
-  App = {"", desktop_, desktop_};
+  StartSystem(desktop_, std::make_shared<forms::UnattendedView>());
   host_->NewWorkbook();
 }
 
 ExampleBook::~ExampleBook() {
-  ResetSystem();
-  App = {};
+  StopSystem();
 }
 
 excel::Ref<excel::Worksheet> ExampleBook::Sheet(const std::string& name) {

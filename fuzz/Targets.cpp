@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "cli/ConsoleDesktop.h"
-#include "common/App.h"
 #include "controller/CPlotsmithController.h"
-#include "controller/ResetSystem.h"
+#include "controller/System.h"
+#include "forms/UnattendedView.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/Application.h"
 #include "xlsx/SheetDrawing.h"
@@ -75,11 +75,9 @@ std::string TemporaryBook() {
 /// The system on a workbook: a whole refresh.
 void Refresh(const std::shared_ptr<xlsx::Application>& host) {
   const auto desktop = std::make_shared<cli::ConsoleDesktop>();
-  App = {"", desktop, desktop};
-  ResetSystem();
+  StartSystem(desktop, std::make_shared<forms::UnattendedView>());
   CPlotsmithController().RefreshPlotsmithData(host, "fuzz", "");
-  ResetSystem();
-  App = {};
+  StopSystem();
 }
 
 void Package(const std::uint8_t* data, std::size_t size) {

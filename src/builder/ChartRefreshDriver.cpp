@@ -24,13 +24,14 @@
 #include "host/desktop/Desktop.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
-#include "pages/frmBusyPS.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Variant.h"
 
 namespace plotsmith {
 
 using dom::IXMLDOMElement;
+
+void (*ShowBusyWindow)(std::int32_t lMethodType, const std::string& sChartID) = nullptr;
 
 namespace {
 
@@ -82,11 +83,7 @@ void RunBehindBusyWindow(void (*work)(const std::string&), std::int32_t lWork, c
           work(sID);
           oApplication->SetInteractive(true);
         } else {
-          frmBusyPS oWindow;
-          oWindow.bWorking = false;
-          oWindow.sChartID = sID;
-          oWindow.lMethodType = lWork;
-          App.Views->ShowModal(oWindow);
+          ShowBusyWindow(lWork, sID);
         }
       },
       [&](const runtime::RuntimeError& oErr) {
@@ -162,10 +159,10 @@ void BuildChart(IXMLDOMElement& oChartElement, bool bCrosshatched) {
 }  // namespace
 
 void RefreshAllCharts() {
-  RunBehindBusyWindow([](const std::string&) { PopulateAllCharts(); }, frmBusyPS::kAllCharts, "");
+  RunBehindBusyWindow([](const std::string&) { PopulateAllCharts(); }, busy::kAllCharts, "");
 }
 
-void RefreshChart(const std::string& sID) { RunBehindBusyWindow(PopulateChart, frmBusyPS::kOneChart, sID); }
+void RefreshChart(const std::string& sID) { RunBehindBusyWindow(PopulateChart, busy::kOneChart, sID); }
 
 void PopulateAllCharts() {
   QuietHost oQuiet;

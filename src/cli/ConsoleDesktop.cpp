@@ -34,25 +34,9 @@ double ConsoleDesktop::Timer() {
 
 std::int32_t ConsoleDesktop::UserDefaultLCID() { return LCIDOfLocale(UserLocale()); }
 
-void ConsoleDesktop::DoEvents() {
-  if (shown_.empty()) return;
-  forms::Form* form = shown_.back();
-  if (form->TimerInterval() == 0 || Timer() < nextTick_) return;
-  nextTick_ = Timer() + form->TimerInterval() / 1000.0;
-  form->TimerTick();
-}
-
-void ConsoleDesktop::ShowModal(forms::Form& form) {
-  struct Shown {
-    std::vector<forms::Form*>& list;
-    ~Shown() { list.pop_back(); }
-  };
-  shown_.push_back(&form);
-  const Shown shown{shown_};
-  form.Load();
-  form.Activate();
-  while (form.IsVisible()) DoEvents();
-  form.Deactivate();
+void ConsoleDesktop::ShowHelp(std::intptr_t, const std::string&, std::int32_t topic) {
+  messages_.push_back(std::string(kProductTitle) + ": Help topic " + std::to_string(topic) +
+                      " can't be shown without a screen.");
 }
 
 }  // namespace plotsmith::cli

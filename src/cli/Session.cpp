@@ -4,12 +4,12 @@
 #include <filesystem>
 #include <vector>
 
-#include "common/App.h"
 #include "common/CommonFunctions.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
-#include "controller/ResetSystem.h"
+#include "controller/System.h"
 #include "dom/Dom.h"
+#include "forms/UnattendedView.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
 #include "runtime/Ref.h"
@@ -67,8 +67,7 @@ Session::Session(std::string path, const GlobalOptions& options, const Streams& 
       streams_(streams),
       desktop_(std::make_shared<ConsoleDesktop>()),
       host_(xlsx::Application::Create(VersionText(options.hostVersion))) {
-  ResetSystem();
-  App = {"", desktop_, desktop_};
+  StartSystem(desktop_, std::make_shared<forms::UnattendedView>());
   if (options.journal) {
     host_->Journal().SetSink([this](std::string_view line) { streams_.out << line << '\n'; });
   }
@@ -84,8 +83,7 @@ Session::Session(std::string path, const GlobalOptions& options, const Streams& 
 }
 
 Session::~Session() {
-  ResetSystem();
-  App = {};
+  StopSystem();
 }
 
 void Session::LoadTablesAndCharts() {

@@ -2,18 +2,18 @@
 
 #include <string>
 
+#include "forms/ModalLoop.h"
 #include "host/desktop/Desktop.h"
-#include "host/forms/Form.h"
 #include "runtime/Ref.h"
 
 namespace plotsmith {
 
-/// What the component finds around it, apart from the spreadsheet. Whoever puts the component and a host
-/// together sets it once.
+/// What the component finds around it, apart from the spreadsheet. The program that puts the component and a
+/// host together sets it once.
 struct AppObject {
   std::string HelpFile;  ///< opened by the pages' Help buttons
   runtime::Ref<desktop::Desktop> Desktop;
-  runtime::Ref<forms::Views> Views;
+  runtime::Ref<forms::ModalLoop> Forms;  ///< runs the modal forms
 };
 
 extern AppObject App;

@@ -164,13 +164,13 @@ void YieldToHost() {
   // After midnight the difference is negative until the clock has passed the stored time: no yield so long.
   if (dNow - lLastYieldTime < 2.0) return;
   lLastYieldTime = static_cast<std::int32_t>(std::nearbyint(dNow));
-  App.Desktop->DoEvents();
+  App.Forms->DoEvents();
 }
 
 void ResetYield() { lLastYieldTime = 0; }
 
 std::string FormatSampleNumber(const std::string& sNumberFormat) {
-  return ValueOr(std::string("(invalid format)"), [&] {
+  return ValueOr(std::string(kInvalidFormat), [&] {
     // beside the mark of the sheet, where nobody looks
     const auto oCell = oWorkbook->Worksheets()->Item(kDefinitionsSheet)->Cells(1, 2);
     oCell->SetValue(12345.6789);

@@ -69,7 +69,9 @@ void YieldToHost();
 /// Puts back what YieldToHost remembers.
 void ResetYield();
 
-/// What 12345.6789 looks like in a number format, "(invalid format)" if the host refuses it.
+/// What FormatSampleNumber gives for a format that the host refuses.
+inline constexpr const char* kInvalidFormat = "(invalid format)";
+/// What 12345.6789 looks like in a number format, or kInvalidFormat.
 std::string FormatSampleNumber(const std::string& sNumberFormat);
 
 /// The host's version as a number.

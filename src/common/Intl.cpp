@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
+#include <string_view>
 
 #include "common/App.h"
+#include "common/ErrorBlocks.h"
+#include "runtime/RuntimeError.h"
 
 namespace plotsmith {
 namespace {
@@ -61,6 +64,18 @@ void ApplyLocaleFont(forms::Font& oFont) {
 void SetDefaultLocaleFont(forms::Font& oFont) {
   oFont.Name.clear();
   oFont.Size = std::max(oFont.Size, kLeastSize);
+}
+
+void ApplyLocaleFontsToForm(forms::Form& oForm) {
+  ApplyLocaleFont(oForm.Font());
+  for (forms::Control* oControl : oForm.Controls()) {
+    if (std::string_view(oControl->TypeName()) == "VSFlexGrid") continue;
+    HandleErrors([&] { ApplyLocaleFont(oControl->Font()); },
+                 [](const runtime::RuntimeError& oErr) {
+                   // a control without a font, such as a picture, is passed over
+                   if (oErr.Number() != runtime::error::kNoSuchMember) throw oErr;
+                 });
+  }
 }
 
 }  // namespace plotsmith

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/Font.h"
+#include "forms/Form.h"
 
 /// Module Intl: the pages' fonts fit the script of the user's locale. The texts stay in English.
 namespace plotsmith {
@@ -11,5 +11,7 @@ namespace plotsmith {
 void ApplyLocaleFont(forms::Font& oFont);
 /// Lets the system choose its user interface font, of at least 8 points.
 void SetDefaultLocaleFont(forms::Font& oFont);
+/// Applies the locale to the font of a form and to those of its controls. Grids keep theirs.
+void ApplyLocaleFontsToForm(forms::Form& oForm);
 
 }  // namespace plotsmith

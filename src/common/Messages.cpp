@@ -33,6 +33,11 @@ void ShowRuntimeError(const runtime::RuntimeError& oErr) {
   App.Desktop->MsgBox(sText, desktop::Buttons::kOk, desktop::Icon::kCritical, "");
 }
 
+void ShowEventError(const runtime::RuntimeError& oErr) {
+  App.Desktop->MsgBox(oErr.Description(), desktop::Buttons::kOk, desktop::Icon::kNone,
+                      sCustomAppName + " " + kProductTitle);
+}
+
 void ShowComplaint(std::string_view sProcedure, std::string_view sComplaint) {
   App.Desktop->MsgBox(std::string(sProcedure) + kLineBreak + std::string(sComplaint), desktop::Buttons::kOk,
                       desktop::Icon::kNone, "");

@@ -17,6 +17,9 @@ void ShowMessage(std::string_view sMessage);
 std::int32_t AskOkCancel(std::string_view sMessage);
 /// The critical box that shows all of an error, one line each.
 void ShowRuntimeError(const runtime::RuntimeError& oErr);
+/// The report of an event procedure: a plain box with the description, titled with the host's name for itself
+/// and the product's title.
+void ShowEventError(const runtime::RuntimeError& oErr);
 /// A complaint of the program about itself: a plain box of two lines without a title.
 void ShowComplaint(std::string_view sProcedure, std::string_view sComplaint);
 /// The report of an error block: the procedure's name, a line break, the description.

@@ -19,6 +19,9 @@ inline constexpr std::int32_t kName = 2;
 inline constexpr std::int32_t kFirstSeries = 3;
 }  // namespace data_column
 
+/// What a chart's definition says of its table's sheet when the table is gone.
+inline constexpr const char* kDeletedTable = "[Deleted]";
+
 inline constexpr const char* kRefreshStartedMacro = "VEXEvents.VEXChartRefreshStarted";
 inline constexpr const char* kRefreshCompleteMacro = "VEXEvents.VEXChartRefreshComplete";
 

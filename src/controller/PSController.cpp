@@ -1,10 +1,12 @@
 #include "controller/PSController.h"
 
 #include <array>
+#include <memory>
 #include <optional>
 #include <string_view>
 
 #include "builder/ChartRefreshDriver.h"
+#include "common/App.h"
 #include "common/CommonFunctions.h"
 #include "common/ErrorBlocks.h"
 #include "common/Messages.h"
@@ -12,27 +14,60 @@
 #include "common/RunVariables.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
+#include "pages/frmPSChartLocation.h"
+#include "pages/frmPSLayoutABC.h"
+#include "pages/frmPSLayoutBubble.h"
+#include "pages/frmPSLayoutPie.h"
+#include "pages/frmPSLayoutStrBuck.h"
+#include "pages/frmPSSelectAction.h"
+#include "pages/frmPSSelectTable.h"
 #include "runtime/Ref.h"
 #include "runtime/RuntimeError.h"
 
 namespace plotsmith {
 
-runtime::Ref<PageSet> oPages;
-
 namespace {
 
-/// The form behind each page number.
-constexpr std::array kForms = {
-    FormName::frmPSSelectAction,  FormName::frmPSSelectTable,  FormName::frmPSLayoutABC,
-    FormName::frmPSLayoutABC,     FormName::frmPSLayoutBubble, FormName::frmPSLayoutABC,
-    FormName::frmPSLayoutStrBuck, FormName::frmPSLayoutPie,    FormName::frmPSChartLocation};
+/// The way from page to page, as the pages call it.
+class ControllerNavigation final : public Navigation {
+ public:
+  void PSJumpToStep(std::int32_t lStep, std::int32_t lFromPage, Page* oPage) override {
+    plotsmith::PSJumpToStep(lStep, lFromPage, oPage);
+  }
+};
+
+ControllerNavigation oNavigation;
+
+template <class Form>
+std::shared_ptr<Page> MakePage() {
+  return std::make_shared<Form>(oNavigation);
+}
+
+/// One form: how it is made, and the instance that is loaded at present.
+struct FormVariable {
+  std::shared_ptr<Page> (*Make)();
+  std::shared_ptr<Page> oLoaded;
+};
+
+FormVariable oSelectAction{MakePage<frmPSSelectAction>, nullptr};
+FormVariable oSelectTable{MakePage<frmPSSelectTable>, nullptr};
+FormVariable oLayoutABC{MakePage<frmPSLayoutABC>, nullptr};
+FormVariable oLayoutBubble{MakePage<frmPSLayoutBubble>, nullptr};
+FormVariable oLayoutStrBuck{MakePage<frmPSLayoutStrBuck>, nullptr};
+FormVariable oLayoutPie{MakePage<frmPSLayoutPie>, nullptr};
+FormVariable oChartLocation{MakePage<frmPSChartLocation>, nullptr};
+
+/// The form of each page number; area, bar and column have one in common.
+const std::array<FormVariable*, 9> kForms = {&oSelectAction,  &oSelectTable,  &oLayoutABC,
+                                             &oLayoutABC,     &oLayoutBubble, &oLayoutABC,
+                                             &oLayoutStrBuck, &oLayoutPie,    &oChartLocation};
 constexpr std::int32_t kSelectActionPage = 0;
 constexpr std::int32_t kSelectTablePage = 1;
 constexpr std::int32_t kAreaLayoutPage = 2;
 constexpr std::int32_t kChartLocationPage = 8;
 
 /// The layout page of `sChartType`.
-std::optional<std::int32_t> LayoutPage() {
+std::optional<std::int32_t> LayoutPageNumber() {
   constexpr std::array<std::string_view, 6> kTypes = {"area", "bar", "bubble", "column", "strategic bucket",
                                                       "pie"};
   for (std::size_t i = 0; i < kTypes.size(); ++i) {
@@ -41,15 +76,17 @@ std::optional<std::int32_t> LayoutPage() {
   return std::nullopt;
 }
 
-Page& PageOf(FormName eForm) {
-  if (!oPages)
-    throw runtime::RuntimeError(runtime::error::kApplication,
-                                "The pages of the wizard are not part of this program.");
-  return oPages->Form(eForm);
+/// The page of a number, loaded. A page that was unloaded never comes back; a new one takes its place.
+std::shared_ptr<Page> LoadedPage(std::int32_t lPage) {
+  FormVariable& oForm = *kForms[static_cast<std::size_t>(lPage)];
+  if (!oForm.oLoaded || oForm.oLoaded->IsUnloaded()) oForm.oLoaded = oForm.Make();
+  const std::shared_ptr<Page> oPage = oForm.oLoaded;
+  oPage->Load();
+  return oPage;
 }
 
 void ShowLayoutPage(const char* sProcedure) {
-  if (const auto lPage = LayoutPage()) {
+  if (const auto lPage = LayoutPageNumber()) {
     ShowPage(*lPage);
   } else {
     ShowComplaint(sProcedure, "Unknown chart type");
@@ -63,9 +100,9 @@ void ComplainOfOrigin(const char* sProcedure) {
 /// Asks a page that isn't shown. On True it goes and `next` follows, on False it opens and says why.
 template <class Next>
 void PassOrShow(std::int32_t lPage, Next&& next) {
-  Page& oPage = PageOf(kForms[static_cast<std::size_t>(lPage)]);
-  if (oPage.ValidSelections()) {
-    UnloadPage(oPage);
+  const std::shared_ptr<Page> oPage = LoadedPage(lPage);
+  if (oPage->ValidSelections()) {
+    UnloadPage(*oPage);
     next();
   } else {
     ShowPage(lPage);
@@ -76,6 +113,7 @@ void PassOrShow(std::int32_t lPage, Next&& next) {
 
 void ExecuteRun(std::int32_t lMode) {
   bRunAborted = false;
+  ResetPages();  // an error may have left a page loaded
   if (lMode == 1) IgnoreErrors([] { oApplication->Run(kRefreshStartedMacro, {}); });
   const auto jump = [&] {
     PSJumpToStep(lMode == 0 ? step::kStart : step::kRefresh, origin::kOutside, nullptr);
@@ -192,9 +230,9 @@ void JumpFinish(std::int32_t lFromPage) {
       PassOrShow(kSelectTablePage, [] { JumpFinish(origin::kSelectTable); });
       break;
     case origin::kSelectTable:
-      if (const auto lPage = LayoutPage()) {
+      if (const auto lPage = LayoutPageNumber()) {
         // area, bar and column share a form, which opens under the first of their numbers
-        const bool bShared = kForms[static_cast<std::size_t>(*lPage)] == FormName::frmPSLayoutABC;
+        const bool bShared = kForms[static_cast<std::size_t>(*lPage)] == &oLayoutABC;
         PassOrShow(bShared ? kAreaLayoutPage : *lPage, [] { JumpFinish(origin::kLayout); });
       } else {
         ShowComplaint("PSController.JumpFinish", "Unknown chart type");
@@ -214,13 +252,17 @@ void JumpFinish(std::int32_t lFromPage) {
 void ShowPage(std::int32_t lPage) {
   oApplication->SetScreenUpdating(true);
   if (lPage < 0 || lPage >= static_cast<std::int32_t>(kForms.size())) return;
-  PageOf(kForms[static_cast<std::size_t>(lPage)]).ShowModal();
+  App.Forms->ShowModal(LoadedPage(lPage));
 }
 
 void UnloadPage(Page& oPage) {
   bUnloadingPage = true;
   oPage.Unload();  // an error here leaves the mark set: there is no error block to take it back
   bUnloadingPage = false;
+}
+
+void ResetPages() {
+  for (FormVariable* oForm : kForms) oForm->oLoaded = nullptr;
 }
 
 void EndRun() {

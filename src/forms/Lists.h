@@ -13,7 +13,9 @@ namespace plotsmith::forms {
 /// What a combo box and a list box have in common: entries, of which one may be the current one.
 class EntryList : public FontControl {
  public:
-  using FontControl::FontControl;
+  EntryList(Form& form, const char* name, Control* container) : FontControl(form, name, container) {
+    SetBackColor(kWhite);
+  }
 
   std::int32_t ListCount() const { return static_cast<std::int32_t>(list_.size()); }
   /// The text of an entry, from 0; empty outside of the list.

@@ -14,7 +14,9 @@ enum class Alignment { kLeft, kCenter };
 /// A text to edit. Lines end in CR LF.
 class TextBox : public FontControl {
  public:
-  using FontControl::FontControl;
+  TextBox(Form& form, const char* name, Control* container) : FontControl(form, name, container) {
+    SetBackColor(kWhite);
+  }
   const char* TypeName() const override { return "TextBox"; }
 
   const std::string& Text() const { return text_; }

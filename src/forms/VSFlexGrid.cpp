@@ -37,6 +37,7 @@ SortKey KeyOf(const std::string& text, SortSetting setting) {
 VSFlexGrid::VSFlexGrid(Form& form, const char* name, Control* container, forms::MultiSelect multiSelect,
                        std::int32_t cols, std::int32_t fixedRows)
     : FontControl(form, name, container), multiSelect_(multiSelect), fixedRows_(fixedRows) {
+  SetBackColor(kWhite);
   SetCols(cols);
   SetRows(fixedRows);
 }

@@ -187,7 +187,7 @@ Ref<excel::Shape> FindChartComment(const std::string& sID, const std::string& sS
 }
 
 std::string GetTableSheetName(const std::string& sID) {
-  if (!CollectionHasKey(sID, colTables)) return "[Deleted]";
+  if (!CollectionHasKey(sID, colTables)) return kDeletedTable;
   return GetAttributeText(colTables->Item(sID).selectSingleNode("table"), "table-worksheet");
 }
 

@@ -23,7 +23,7 @@ void CreateChartDoc() {
     oChartDoc = NewXMLDocument();
     auto oChart = oChartDoc.createElement("chart");
     sChartID = NextChartID();
-    const std::string sBaseName = "Chart" + sChartID.substr(kIdPrefix.size());
+    const std::string sBaseName = "Chart" + ChartNumber(sChartID);
     std::string sName = sBaseName;
     for (int i = 1; ChartNameInUse(sName); ++i) sName = sBaseName + " (" + std::to_string(i) + ")";
     oChart.setAttribute("ps-chart-schema-version", "2");
@@ -39,6 +39,10 @@ void CreateChartDoc() {
     oChart.setAttribute("chart-area-crosshatched", "no");
     oChartDoc.appendChild(oChart);
   });
+}
+
+std::string ChartNumber(const std::string& sID) {
+  return sID.starts_with(kIdPrefix) ? sID.substr(kIdPrefix.size()) : std::string();
 }
 
 std::string NextChartID() {

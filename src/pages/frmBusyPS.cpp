@@ -1,51 +1,57 @@
 #include "pages/frmBusyPS.h"
 
-#include "builder/ChartRefreshDriver.h"
+#include <utility>
+
 #include "common/CommonFunctions.h"
-#include "controller/PSController.h"
 
 namespace plotsmith {
 namespace {
 
 constexpr std::int32_t kTickInterval = 100;  // milliseconds
 constexpr std::int32_t kProgressStep = 5;
-constexpr std::int32_t kProgressEnd = 100;
 
 }  // namespace
 
-void frmBusyPS::Load() { lInterval_ = kTickInterval; }
+frmBusyPS::frmBusyPS(BusyWork oWork) : Form("frmBusyPS"), oWork_(std::move(oWork)) {
+  SetCaption("Please Wait");
+  Timer1.Tick = [this] { Timer1_Timer(); };
+}
 
-void frmBusyPS::Activate() {
-  lProgress_ = 0;
-  bTimerEnabled_ = true;
+void frmBusyPS::Form_Load() { Timer1.SetInterval(kTickInterval); }
+
+void frmBusyPS::Form_Activate() {
+  ProgressBar1.SetValue(forms::ProgressBar::kMin);
+  Timer1.SetEnabled(true);
   if (!bWorking) {
     bWorking = true;  // a second activation while the work runs must not start it again
     Work();
   }
-  bVisible_ = false;
+  Hide();
 }
 
-void frmBusyPS::Deactivate() {
-  lProgress_ = 0;
-  bTimerEnabled_ = false;
+void frmBusyPS::Form_Deactivate() {
+  ProgressBar1.SetValue(forms::ProgressBar::kMin);
+  Timer1.SetEnabled(false);
 }
 
-void frmBusyPS::TimerTick() {
-  lInterval_ = kTickInterval;
-  lProgress_ = lProgress_ < kProgressEnd ? lProgress_ + kProgressStep : 0;
+void frmBusyPS::Timer1_Timer() {
+  Timer1.SetInterval(kTickInterval);
+  const std::int32_t lValue = ProgressBar1.Value();
+  ProgressBar1.SetValue(lValue < forms::ProgressBar::kMax ? lValue + kProgressStep
+                                                          : forms::ProgressBar::kMin);
   YieldToHost();
 }
 
-void frmBusyPS::Work() {
+void frmBusyPS::Work() const {
   switch (lMethodType) {
-    case kAllCharts:
-      PopulateAllCharts();
+    case 0:
+      oWork_.PopulateAllCharts();
       break;
-    case kOneChart:
-      PopulateChart(sChartID);
+    case 1:
+      oWork_.PopulateChart(sChartID);
       break;
-    case kRun:
-      ExecuteRun(rMode);
+    case 2:
+      oWork_.ExecuteRun(rMode);
       break;
     default:
       break;

@@ -1,45 +1,48 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
-#include "host/forms/Form.h"
+#include "forms/Form.h"
+#include "forms/Plain.h"
+#include "forms/Timer.h"
 
 namespace plotsmith {
 
-/// The small modal window that carries a long run of work: it does the work inside its own activation, keeps
-/// a bar moving meanwhile, and hides itself. The caller fills the public members and shows it.
-class frmBusyPS : public forms::Form {
- public:
-  static constexpr std::int32_t kAllCharts = 0;
-  static constexpr std::int32_t kOneChart = 1;
-  static constexpr std::int32_t kRun = 2;
+/// The procedures that the busy window can run. They stand above the pages, so whoever makes the window hands
+/// them in.
+struct BusyWork {
+  std::function<void()> PopulateAllCharts;
+  std::function<void(const std::string& sChartID)> PopulateChart;
+  std::function<void(std::int32_t lMode)> ExecuteRun;
+};
 
-  static constexpr const char* kCaption = "Please Wait";
-  static constexpr const char* kWaitLabel = "Loading . . .";
+/// The small modal window that carries a long run of work. It does the work inside of its own activation,
+/// keeps a bar moving meanwhile, and hides itself. The caller fills the public members and shows it.
+class frmBusyPS final : public forms::Form {
+ public:
+  explicit frmBusyPS(BusyWork oWork);
 
   bool bWorking = false;         ///< the work has been started
-  std::int32_t lMethodType = 0;  ///< which work: one of the three above; any other does nothing
+  std::int32_t lMethodType = 0;  ///< 0 PopulateAllCharts, 1 PopulateChart, 2 ExecuteRun; others do nothing
   std::int32_t rMode = 0;        ///< the mode of a run
   std::string sChartID;          ///< the one chart
 
-  void Load() override;
-  void Activate() override;
-  void Deactivate() override;
-  bool IsVisible() const override { return bVisible_; }
-  std::int32_t TimerInterval() const override { return bTimerEnabled_ ? lInterval_ : 0; }
-  void TimerTick() override;
+  forms::Label WaitLabel{*this, "WaitLabel", nullptr, "Loading . . ."};
+  forms::ProgressBar ProgressBar1{*this, "ProgressBar1", nullptr};
+  forms::Timer Timer1{*this, "Timer1", false};
 
-  /// 0 to 100: it shows life, not progress.
-  std::int32_t ProgressBarValue() const { return lProgress_; }
+ protected:
+  void Form_Load() override;
+  void Form_Activate() override;
+  void Form_Deactivate() override;
 
  private:
-  void Work();
+  void Timer1_Timer();
+  void Work() const;
 
-  bool bVisible_ = true;
-  bool bTimerEnabled_ = false;
-  std::int32_t lInterval_ = 0;
-  std::int32_t lProgress_ = 0;
+  BusyWork oWork_;
 };
 
 }  // namespace plotsmith

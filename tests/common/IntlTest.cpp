@@ -5,6 +5,9 @@
 
 #include "common/App.h"
 #include "common/Intl.h"
+#include "forms/Plain.h"
+#include "forms/TextBox.h"
+#include "forms/VSFlexGrid.h"
 
 namespace plotsmith {
 namespace {
@@ -17,7 +20,7 @@ class LocaleDesktop : public desktop::Desktop {
   std::int32_t MsgBox(std::string_view, desktop::Buttons, desktop::Icon, std::string_view) override {
     return desktop::kOk;
   }
-  void DoEvents() override {}
+  void ShowHelp(std::intptr_t, const std::string&, std::int32_t) override {}
   double Timer() override { return 0; }
   void SetMousePointer(std::int32_t) override {}
   std::int32_t UserDefaultLCID() override { return lcid; }
@@ -83,6 +86,23 @@ TEST_F(IntlTest, TheDefaultFontKeepsItsCharacterSet) {
   forms::Font font{"Tahoma", 7.5, 204, true};
   SetDefaultLocaleFont(font);
   ExpectFont(font, "", 8, 204);
+}
+
+TEST_F(IntlTest, AFormAndItsControlsButForGridsTakeTheLocale) {
+  struct SomeForm : forms::Form {
+    SomeForm() : Form("frmSome") {}
+    forms::Image imgOne{*this, "imgOne", nullptr};  // has no font, and doesn't stop the walk
+    forms::VSFlexGrid grdOne{*this, "grdOne", nullptr, forms::MultiSelect::kNone, 1, 0};
+    forms::TextBox txtOne{*this, "txtOne", nullptr};
+  } form;
+  form.txtOne.Font().Size = 10;
+  desktop_->lcid = 1041;
+  ApplyLocaleFontsToForm(form);
+  EXPECT_EQ(form.Font().Charset, 128);
+  EXPECT_EQ(form.Font().Size, 9);
+  EXPECT_EQ(form.txtOne.Font().Charset, 128);
+  EXPECT_EQ(form.txtOne.Font().Size, 10);
+  EXPECT_EQ(form.grdOne.Font().Charset, forms::Font().Charset);
 }
 
 }  // namespace

@@ -1,6 +1,4 @@
 #include <algorithm>
-#include <functional>
-#include <map>
 #include <memory>
 #include <vector>
 
@@ -9,7 +7,9 @@
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
 #include "controller/PSController.h"
-#include "controller/ResetSystem.h"
+#include "controller/System.h"
+#include "pages/Page.h"
+#include "tests/support/HandView.h"
 #include "tests/support/HostTest.h"
 
 namespace plotsmith {
@@ -19,85 +19,63 @@ using test::PlainBook;
 using test::SalesBook;
 using S = std::string;
 
-/// Pages that a script plays: each shown page does what comes next, and writes down what happens to it.
-class ScriptedPages : public PageSet {
- public:
-  struct ScriptedPage : Page {
-    ScriptedPages& set;
-    S name;
-    ScriptedPage(ScriptedPages& owner, S pageName) : set(owner), name(std::move(pageName)) {}
-    void ShowModal() override {
-      set.log += "show " + name + "; ";
-      if (set.script.empty()) return Unload();
-      const auto step = set.script.front();
-      set.script.erase(set.script.begin());
-      step(*this);
-    }
-    void Unload() override {
-      set.log += "unload " + name + "; ";
-      if (set.failOnUnload) throw runtime::RuntimeError(5);
-      PSJumpToStep(step::kEnd, 3, nullptr);  // as the unload event of a page does
-    }
-    bool ValidSelections() override {
-      set.log += "ask " + name + "; ";
-      return !set.invalid.contains(name);
-    }
-  };
-
-  Page& Form(FormName form) override {
-    static const char* kNames[] = {"Action", "Table", "ABC", "Bubble", "Pie", "StrBuck", "Location"};
-    auto& page = pages[form];
-    if (!page) page = std::make_unique<ScriptedPage>(*this, kNames[static_cast<int>(form)]);
-    return *page;
-  }
-
-  std::map<FormName, std::unique_ptr<ScriptedPage>> pages;
-  std::vector<std::function<void(ScriptedPage&)>> script;
-  std::map<S, bool> invalid;
-  bool failOnUnload = false;
-  S log;
-};
-
+/// Runs the wizard with a hand that asks for moves, as the buttons of the pages do.
 class NavigationTest : public test::HostTest {
  protected:
-  NavigationTest() { oPages = pages_; }
-  ~NavigationTest() override { oPages = nullptr; }
-  S Run(std::vector<std::function<void(ScriptedPages::ScriptedPage&)>> script) {
-    pages_->log.clear();
-    pages_->script = std::move(script);
+  NavigationTest() { StartSystem(desktop_, view_); }
+  S Run(std::vector<test::HandView::Gesture> gestures) {
+    view_->log.clear();
+    view_->gestures = std::move(gestures);
     CPlotsmithController().RunPlotsmith(host_, "Host", "help.chm");
-    return pages_->log;
+    return view_->log;
   }
-  static auto Jump(int step, int origin) {
-    return [=](ScriptedPages::ScriptedPage& page) { PSJumpToStep(step, origin, &page); };
+  static auto Jump(int lStep, int lOrigin) {
+    return [=](forms::Form& front) { PSJumpToStep(lStep, lOrigin, &dynamic_cast<Page&>(front)); };
   }
-  static auto Choose(int method, const S& type) {
-    return [=](ScriptedPages::ScriptedPage& page) {
-      lMethodType = method;
+  /// Takes up the chart VEX_Chart1 as a button of the first page would, with another type.
+  static auto Choose(int lMethod, const S& type) {
+    return [=](forms::Form& front) {
+      lMethodType = lMethod;
+      sChartID = "VEX_Chart1";
+      sTableID = "Data1";
       sChartType = type;
-      PSJumpToStep(step::kNext, origin::kSelectAction, &page);
+      oChartDoc = colCharts->Item(sChartID);
+      PSJumpToStep(step::kNext, origin::kSelectAction, &dynamic_cast<Page&>(front));
     };
   }
-  std::shared_ptr<ScriptedPages> pages_ = std::make_shared<ScriptedPages>();
+  std::shared_ptr<test::HandView> view_ = std::make_shared<test::HandView>();
 };
+
+const S kAction = "show frmPSSelectAction; close frmPSSelectAction; ";
+const S kTable = "show frmPSSelectTable; close frmPSSelectTable; ";
+const S kAbc = "show frmPSLayoutABC; close frmPSLayoutABC; ";
+const S kLocation = "show frmPSChartLocation; close frmPSChartLocation; ";
+
+/// What the log tells of pages that each open out of the one before: a page closes when the handler that
+/// opened the next one returns.
+S Nested(const std::vector<S>& names) {
+  S opened, closed;
+  for (const S& name : names) {
+    opened += "show " + name + "; ";
+    closed = "close " + name + "; " + closed;
+  }
+  return opened + closed;
+}
 
 TEST_F(NavigationTest, WaysThroughTheWizard) {
   Open(SalesBook({{"VEX_Chart1"}}));
   const auto next = [](int from) { return Jump(step::kNext, from); };
-  EXPECT_EQ(Run({}), "show Action; unload Action; ");
+  const auto back = [](int from) { return Jump(step::kPrevious, from); };
+  EXPECT_EQ(Run({}), kAction);
   EXPECT_EQ(Run({Choose(0, "bubble"), next(3), next(4)}),
-            "show Action; unload Action; show Table; unload Table; show Bubble; unload Bubble; show "
-            "Location; unload Location; ");
-  EXPECT_EQ(Run({Choose(1, "pie")}),
-            "show Action; unload Action; ask Table; unload Table; show Pie; unload Pie; ")
+            Nested({"frmPSSelectAction", "frmPSSelectTable", "frmPSLayoutBubble", "frmPSChartLocation"}));
+  EXPECT_EQ(Run({Choose(1, "pie")}), Nested({"frmPSSelectAction", "frmPSLayoutPie"}))
       << "to modify a chart whose table is good starts at its layout";
-  pages_->invalid["Table"] = true;
-  EXPECT_EQ(Run({Choose(2, "pie")}), "show Action; unload Action; ask Table; show Table; unload Table; ");
-  pages_->invalid.clear();
-  EXPECT_EQ(Run({Choose(0, "area"), next(3), Jump(step::kPrevious, 4), Jump(step::kPrevious, 3)}),
-            "show Action; unload Action; show Table; unload Table; show ABC; unload ABC; show Table; unload "
-            "Table; show Action; "
-            "unload Action; ");
+  EXPECT_EQ(Run({Choose(0, "area"), next(3), back(4), back(3)}),
+            Nested({"frmPSSelectAction", "frmPSSelectTable", "frmPSLayoutABC", "frmPSSelectTable",
+                    "frmPSSelectAction"}));
+  EXPECT_EQ(Run({Choose(1, "column"), next(4), back(5)}),
+            Nested({"frmPSSelectAction", "frmPSLayoutABC", "frmPSChartLocation", "frmPSLayoutABC"}));
   EXPECT_EQ(sChartType, "unknown");
   EXPECT_TRUE(Messages().empty());
   EXPECT_FALSE(colCharts) << "the run is over";
@@ -106,24 +84,25 @@ TEST_F(NavigationTest, WaysThroughTheWizard) {
 
 TEST_F(NavigationTest, FinishStopsAtTheFirstPageThatIsNotSatisfied) {
   Open(SalesBook({{"VEX_Chart1"}}));
-  const auto finishFrom = [&](const S& type) {
-    return Run({Choose(0, type), [](ScriptedPages::ScriptedPage& page) {
-                  sChartID = "VEX_Chart1";
-                  PSJumpToStep(step::kFinish, origin::kSelectTable, &page);
-                }});
+  // the page's options know no such choice for this table, so the test makes it behind their backs
+  const auto finish = [](const S& type) {
+    return [=](forms::Form& front) {
+      sChartType = type;
+      PSJumpToStep(step::kFinish, origin::kSelectTable, &dynamic_cast<Page&>(front));
+    };
   };
-  const S start = "show Action; unload Action; show Table; unload Table; ";
-  EXPECT_EQ(finishFrom("column"), start + "ask ABC; unload ABC; ask Location; unload Location; ");
+  EXPECT_EQ(Run({Choose(0, "column"), finish("column")}),
+            Nested({"frmPSSelectAction", "frmPSSelectTable", "frmBusyPS"}));
   EXPECT_NE(std::find(journal_.begin(), journal_.end(), "Chart.ChartType = 51"), journal_.end())
       << "the chart was drawn";
-  pages_->invalid["Location"] = true;
-  EXPECT_EQ(finishFrom("strategic bucket"),
-            start + "ask StrBuck; unload StrBuck; ask Location; show Location; unload Location; ");
-  pages_->invalid["ABC"] = true;
-  EXPECT_EQ(finishFrom("column"), start + "ask ABC; show ABC; unload ABC; ");
-  EXPECT_TRUE(Messages().empty());
-  finishFrom("unknown");
-  EXPECT_EQ(Messages(), std::vector<S>{"Brindle Plotsmith: PSController.JumpFinish\nUnknown chart type"});
+  sCustomAppName = "Host";
+  EXPECT_EQ(Run({Choose(0, "column"), finish("strategic bucket")}),
+            Nested({"frmPSSelectAction", "frmPSSelectTable", "frmPSLayoutStrBuck"}));
+  EXPECT_EQ(Messages(), (std::vector<S>{"Host Brindle Plotsmith: Invalid property value",
+                                        "Brindle Plotsmith: Please select a 'Strategic Buckets' entry"}))
+      << "there is no bucket table";
+  Run({Choose(0, "column"), finish("unknown")});
+  EXPECT_EQ(Messages().back(), "Brindle Plotsmith: PSController.JumpFinish\nUnknown chart type");
 }
 
 TEST_F(NavigationTest, ComplaintsAndErrors) {
@@ -136,15 +115,12 @@ TEST_F(NavigationTest, ComplaintsAndErrors) {
                       "Brindle Plotsmith: PSController.JumpNext\nDon't know where you're coming from!",
                       "Brindle Plotsmith: PSController.JumpPrevious\nDon't know where you're coming from!",
                       "Brindle Plotsmith: PSController.JumpFinish\nDon't know where you're coming from!"}));
-  Run({[](ScriptedPages::ScriptedPage&) { throw runtime::RuntimeError(13); }});
+  EXPECT_EQ(Run({[](forms::Form&) { throw runtime::RuntimeError(13); }}), kAction);
   EXPECT_EQ(Messages().back(), "Brindle Plotsmith: PSController.PSJumpToStep\nType mismatch");
   EXPECT_TRUE(bRunAborted);
   EXPECT_FALSE(colTables);
-  // an error while a page is unloaded leaves the mark that keeps the end of the run from doing anything
-  pages_->failOnUnload = true;
-  Run({Jump(step::kNext, 2)});
-  EXPECT_TRUE(bUnloadingPage);
-  EXPECT_TRUE(colTables);
+  EXPECT_EQ(Run({}), kAction) << "the next run has a page of its own";
+  EXPECT_FALSE(bRunAborted);
 }
 
 TEST_F(NavigationTest, OpeningWithoutChartsOrTables) {
@@ -159,13 +135,8 @@ TEST_F(NavigationTest, OpeningWithoutChartsOrTables) {
   EXPECT_FALSE(colTables);
   bare.sheets = {test::SalesSheet("Data1")};
   Open(bare);
-  EXPECT_EQ(Run({}), "show Table; unload Table; ");
+  EXPECT_EQ(Run({}), kTable);
   EXPECT_EQ(lMethodType, 0);
-  oPages = nullptr;
-  Run({});
-  EXPECT_EQ(
-      Messages().back(),
-      "Brindle Plotsmith: PSController.PSJumpToStep\nThe pages of the wizard are not part of this program.");
 }
 
 class EntryTest : public test::HostTest {};

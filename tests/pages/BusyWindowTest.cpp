@@ -1,34 +1,72 @@
+#include <memory>
+#include <vector>
+
 #include "common/App.h"
+#include "controller/System.h"
 #include "pages/frmBusyPS.h"
+#include "tests/support/HandView.h"
 #include "tests/support/HostTest.h"
 
 namespace plotsmith {
 namespace {
 
-class BusyWindowTest : public test::HostTest {};
+using S = std::string;
 
-TEST_F(BusyWindowTest, TheBusyWindowWorksOnceAndShowsLife) {
-  Open(test::SalesBook({{"VEX_Chart1"}}));
-  frmBusyPS window;
-  window.lMethodType = frmBusyPS::kAllCharts;
-  window.Load();
-  window.Activate();
-  EXPECT_FALSE(window.IsVisible());
-  const auto lines = journal_.size();
-  EXPECT_GT(lines, 0u);
-  window.Activate();
-  EXPECT_EQ(journal_.size(), lines) << "a second activation starts no second run";
-  EXPECT_EQ(window.TimerInterval(), 100);
-  for (int tick = 1; tick <= 20; ++tick) window.TimerTick();
-  EXPECT_EQ(window.ProgressBarValue(), 100);
-  window.TimerTick();
-  EXPECT_EQ(window.ProgressBarValue(), 0);
-  window.Deactivate();
-  EXPECT_EQ(window.TimerInterval(), 0);
-  frmBusyPS idle;
-  idle.lMethodType = 3;
-  App.Views->ShowModal(idle);
-  EXPECT_EQ(journal_.size(), lines);
+class BusyWindowTest : public test::HostTest {
+ protected:
+  BusyWindowTest() { StartSystem(desktop_, view_); }
+  /// Shows a window with that work; `during` runs in the middle of it.
+  void Show(
+      std::int32_t method, std::function<void(frmBusyPS&)> during = [](frmBusyPS&) {}) {
+    auto* const self = this;
+    std::shared_ptr<frmBusyPS> window;
+    window = std::make_shared<frmBusyPS>(
+        BusyWork{[&] { self->works_.push_back("all"), during(*window); },
+                 [&](const S& id) { self->works_.push_back("one " + id), during(*window); },
+                 [&](std::int32_t mode) { self->works_.push_back("run " + std::to_string(mode)); }});
+    window->lMethodType = method;
+    window->sChartID = "VEX_Chart7";
+    window->rMode = 1;
+    EXPECT_EQ(window->WaitLabel.Caption(), "Loading . . .");
+    EXPECT_EQ(window->Caption(), "Please Wait");
+    App.Forms->ShowModal(window);
+    EXPECT_FALSE(window->Visible());
+    EXPECT_FALSE(window->Timer1.Enabled());
+    EXPECT_EQ(window->ProgressBar1.Value(), 0);
+  }
+  std::shared_ptr<test::HandView> view_ = std::make_shared<test::HandView>();
+  std::vector<S> works_;
+};
+
+TEST_F(BusyWindowTest, ItDoesTheWorkThatItWasGiven) {
+  for (const std::int32_t method : {0, 1, 2, 3}) Show(method);
+  EXPECT_EQ(works_, (std::vector<S>{"all", "one VEX_Chart7", "run 1"}));
+  S log;
+  for (int i = 0; i < 4; ++i) log += "show frmBusyPS; close frmBusyPS; ";
+  EXPECT_EQ(view_->log, log) << "it goes by itself, without a hand";
+}
+
+TEST_F(BusyWindowTest, TheBarShowsLifeWhileTheWorkYields) {
+  Show(0, [](frmBusyPS& window) {
+    ASSERT_TRUE(window.Timer1.Enabled());
+    EXPECT_EQ(window.Timer1.Interval(), 100);
+    for (int tick = 1; tick <= 20; ++tick) window.Timer1.Fire();
+    EXPECT_EQ(window.ProgressBar1.Value(), 100);
+    window.Timer1.Fire();
+    EXPECT_EQ(window.ProgressBar1.Value(), 0);
+    window.Timer1.SetInterval(1);
+    while (window.Timer1.UntilDue()->count() > 0) {
+    }
+    App.Forms->DoEvents();
+    EXPECT_EQ(window.ProgressBar1.Value(), 5) << "a yield lets the timer tick";
+    EXPECT_EQ(window.Timer1.Interval(), 100);
+  });
+}
+
+TEST_F(BusyWindowTest, AnErrorOfTheWorkReachesTheCallerAndTheWindowGoes) {
+  EXPECT_THROW(Show(0, [](frmBusyPS&) { throw runtime::RuntimeError(13); }), runtime::RuntimeError);
+  EXPECT_EQ(view_->log, "show frmBusyPS; close frmBusyPS; ");
+  EXPECT_EQ(App.Forms->Front(), nullptr);
 }
 
 }  // namespace

@@ -2,10 +2,10 @@
 
 #include <unistd.h>
 
-#include "common/App.h"
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
-#include "controller/ResetSystem.h"
+#include "controller/System.h"
+#include "forms/UnattendedView.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith::test {
@@ -31,13 +31,11 @@ void EditPart(const std::string& path, const std::string& part,
 }
 
 HostTest::HostTest() : desktop_(std::make_shared<cli::ConsoleDesktop>()) {
-  ResetSystem();
-  App = {"", desktop_, desktop_};
+  StartSystem(desktop_, std::make_shared<forms::UnattendedView>());
 }
 
 HostTest::~HostTest() {
-  ResetSystem();
-  App = {};
+  StopSystem();
 }
 
 void HostTest::Start(const std::string& version) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 /// The port to the desktop. Numbers are those of Visual Basic.
@@ -30,8 +31,9 @@ class Desktop {
 
   /// A modal box; an empty title means the application's own. Answers kOk or kCancel.
   virtual std::int32_t MsgBox(std::string_view text, Buttons buttons, Icon icon, std::string_view title) = 0;
-  /// Lets waiting messages, and timers that are due, be handled.
-  virtual void DoEvents() = 0;
+  /// Opens a help file at a topic, as HtmlHelp with HH_HELP_CONTEXT does. `owner` is the handle of the window
+  /// that asks, 0 where there is none.
+  virtual void ShowHelp(std::intptr_t owner, const std::string& file, std::int32_t topic) = 0;
   /// Seconds since midnight, local time.
   virtual double Timer() = 0;
   /// kPointerDefault or kPointerHourglass.
