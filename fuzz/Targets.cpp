@@ -13,6 +13,8 @@
 #include "controller/CPlotsmithController.h"
 #include "controller/System.h"
 #include "forms/UnattendedView.h"
+#include "fuzz/TemporaryBook.h"
+#include "fuzz/Wizard.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/Application.h"
 #include "xlsx/SheetDrawing.h"
@@ -65,12 +67,6 @@ class MemoryFile {
  private:
   int file_;
 };
-
-/// A workbook of this process alone, for a target to write and to take away.
-std::string TemporaryBook() {
-  return (std::filesystem::temp_directory_path() / ("plotsmith-fuzz-" + std::to_string(getpid()) + ".xlsx"))
-      .string();
-}
 
 /// The system on a workbook: a whole refresh.
 void Refresh(const std::shared_ptr<xlsx::Application>& host) {
@@ -274,6 +270,7 @@ constexpr Target kAll[] = {
     {"formula", Formula},
     {"number-format", NumberFormat},
     {"chart-shapes", ChartShapes},
+    {"wizard", Wizard},
 };
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <string>
 
 #include "xlsx/package/Package.h"
@@ -44,11 +45,22 @@ void WriteTexts(const fs::path& folder, std::size_t& number, const std::string& 
   }
 }
 
+/// Choices for the target that plays the wizard: none that mean anything, but many different ones.
+void WriteRandomChoices(const fs::path& folder) {
+  std::minstd_rand random(1);
+  for (std::size_t number = 1; number <= 60; ++number) {
+    std::string bytes(40 * number, '\0');
+    for (char& byte : bytes) byte = static_cast<char>(random());
+    Write(folder, number, bytes);
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   const fs::path folder = argc > 1 ? argv[1] : "";
   std::size_t number = 0;
+  WriteRandomChoices(folder / "wizard");
   for (int i = 2; i < argc; ++i) {
     std::ifstream file(argv[i], std::ios::binary);
     const std::string bytes((std::istreambuf_iterator<char>(file)), {});

@@ -21,7 +21,7 @@ class Sheet {
   virtual void SetVisible(std::int32_t value) = 0;
   ///@}
 
-  /// Brings the sheet to the front. A workbook that is saved then opens on it.
+  /// Brings the sheet to the front. A workbook that is saved then opens on it. Error 1004 for a hidden sheet.
   virtual void Activate() = 0;
   /// The sheet goes with all that is on it; whether the user is asked first, Application::SetDisplayAlerts
   /// says. A host may refuse it, with error 1004, for sheets that the system didn't make.
