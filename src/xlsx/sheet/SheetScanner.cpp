@@ -92,8 +92,9 @@ class SheetScanner : public XmlStream {
   }
 
   /// Of the cell that came last: it counts even while its result is missing.
-  void TakeFormula() {
+  void TakeFormula(bool hasResult) {
     contents_.formulas = true;
+    if (!hasResult) contents_.formulasWithoutResult.push_back({row_, column_});
     Use(column_);
   }
 
@@ -361,7 +362,8 @@ SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
     }
   }
   Store(column, type, style, text);
-  if (formula) TakeFormula();
+  // a result of the type "str" may be the empty text
+  if (formula) TakeFormula(!text.empty() || type == "str");
   position_ = p;
   return Piece::kTaken;
 }
@@ -406,7 +408,7 @@ SheetScanner::Piece SheetScanner::ReadRareCell(const char* p, std::int32_t colum
     }
   }
   Store(column, inlineText ? "inlineStr" : typeCopy, style, hasText ? text_ : std::string_view(), true);
-  if (formula) TakeFormula();
+  if (formula) TakeFormula(!text_.empty() || typeCopy == "str");
   return Piece::kTaken;
 }
 
