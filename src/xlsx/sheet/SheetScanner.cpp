@@ -74,7 +74,7 @@ class SheetScanner : public XmlStream {
   Piece ReadPiece();
   Piece ReadCell(const char* p);
   Piece ReadRareCell(const char* p, std::int32_t column, std::string_view type, std::uint32_t style,
-                     std::string_view value);
+                     std::string_view value, bool formula);
   const char* PassFormula(const char* p) const;
   void ReadRow(std::string_view attributes);
   /// `value` is as written unless it was decoded, and a null view for an empty cell.
@@ -349,7 +349,7 @@ SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
       while (*inner != '<' && *inner != '\0') ++inner;
       text = {from, static_cast<std::size_t>(inner - from)};
       if (inner[0] == '<' && inner[1] != '/' && inner[1] != '\0')
-        return ReadRareCell(p, column, type, style, {});
+        return ReadRareCell(p, column, type, style, {}, formula);
       while (*inner != '>' && *inner != '\0') ++inner;
       if (*inner == '\0') return Piece::kCut;
       p = inner + 1;
@@ -358,7 +358,7 @@ SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
       p = PassFormula(inner);
       if (p == nullptr) return Piece::kCut;
     } else {
-      return ReadRareCell(p, column, type, style, text);
+      return ReadRareCell(p, column, type, style, text, formula);
     }
   }
   Store(column, type, style, text);
@@ -380,13 +380,13 @@ const char* SheetScanner::PassFormula(const char* p) const {
 
 /// A cell with an inline string, character data, or what some extension put there. It is read with the
 /// general reader from `p`, the "<" of a child of the cell, on; that may move the window, so the views are
-/// copied first.
+/// copied first. `value` and `formula` tell of the children before that one.
 SheetScanner::Piece SheetScanner::ReadRareCell(const char* p, std::int32_t column, std::string_view type,
-                                               std::uint32_t style, std::string_view value) {
+                                               std::uint32_t style, std::string_view value, bool formula) {
   const std::string typeCopy(type);
   text_ = xml::Decode(value);
   bool hasText = value.data() != nullptr;
-  bool inlineText = false, formula = false;
+  bool inlineText = false;
   position_ = p;
   for (int depth = 1; depth > 0;) {
     const Tag tag = Next();

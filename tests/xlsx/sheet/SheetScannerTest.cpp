@@ -106,7 +106,8 @@ TEST(SheetScannerTest, WhatCountsAsUsed) {
       {"<c r='C9'/><c r='D9'></c><c r='E9' t='inlineStr'><is/></c>", {2, 2, 2, 2}},
       {"<c r='C9' s='1'/>", {2, 2, 9, 3}},
       {"<c r='C9'><f>1+1</f></c>", {2, 2, 9, 3}},
-      {"<c r='C9'><a/><f>1+1</f></c>", {2, 2, 9, 3}}};
+      {"<c r='C9'><a/><f>1+1</f></c>", {2, 2, 9, 3}},
+      {"<c r='C9'><f>1+1</f><v/></c>", {2, 2, 9, 3}}};
   for (const auto& [cells, used] : cases) {
     const std::string row9 = std::string("<row r='9'>") + cells + "</row>";
     EXPECT_EQ(Scan("<w><sheetData><row r='2'><c r='B2'><v>1</v></c></row>" + row9 + "</sheetData></w>").used,
