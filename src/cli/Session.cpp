@@ -88,10 +88,14 @@ Session::~Session() {
   App = {};
 }
 
-void Session::LoadTablesAndCharts() {
+void Session::LoadTables() {
   oApplication = host_;
   oWorkbook = host_->ActiveWorkbook();
   RetrieveTableDefinitions();
+}
+
+void Session::LoadTablesAndCharts() {
+  LoadTables();
   if (SheetExists(kDefinitionsSheet)) {
     RetrieveChartDefinitions();
   } else {

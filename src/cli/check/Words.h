@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace plotsmith::cli {
+
+/// The text in single quotes on one line; a long one is cut short.
+std::string Quoted(std::string_view text);
+/// "a, b and c", with `word` before the last item; `none` for an empty list.
+std::string Listed(const std::vector<std::string>& items, const char* word = "and",
+                   const char* none = "none");
+/// "1 cell", "2 cells".
+std::string Counted(std::size_t count, const std::string& noun);
+/// "Data1!C5"; the sheet's name is in quotes where a formula needs them.
+std::string CellText(std::string_view sheet, std::int32_t row, std::int32_t column);
+
+}  // namespace plotsmith::cli
