@@ -5,6 +5,7 @@
 #include <sstream>
 #include <vector>
 
+#include "cli/check/Words.h"
 #include "runtime/Strings.h"
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
@@ -60,6 +61,17 @@ class CheckTest : public ::testing::Test {
   test::TempFolder folder_;
 };
 
+TEST(CheckWordsTest, ListsAndQuotations) {
+  EXPECT_EQ(ThereAre({}), "there are none");
+  EXPECT_EQ(ThereAre({"a"}), "there is a");
+  EXPECT_EQ(ThereAre({"a", "b", "c"}), "there are a, b and c");
+  EXPECT_EQ(Listed({"a", "b"}, "or"), "a or b");
+  EXPECT_TRUE(Listed(List(43, "x")).ends_with("x, x and 3 more")) << Listed(List(43, "x"));
+  EXPECT_EQ(Quoted("a\nb"), "'a b'");
+  EXPECT_EQ(Quoted(S(61, 'x')), "'" + S(60, 'x') + "...'");
+  EXPECT_EQ(CellText("My sheet", 5, 28), "'My sheet'!AB5");
+}
+
 TEST_F(CheckTest, AGoodWorkbookIsListedAndFine) {
   const auto result = Check(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}}));
   EXPECT_EQ(result.code, 0);
@@ -113,7 +125,7 @@ TEST_F(CheckTest, RowsThatALoadRemovesOrNeverReads) {
       {{runtime::Replace(good, "id=\"VEX_Chart1\"", "")}, {"The definition has no 'id'" + removed}},
       {{runtime::Replace(good, "id=\"VEX_Chart1\"", "id=\"VEX_Chart7\"")},
        {"The next refresh removes this definition, because no chart has the alternative text 'VEX_Chart7'; "
-        "there are charts with 'VEX_Chart1'."}},
+        "there is a chart with 'VEX_Chart1'."}},
       {{good, good},
        {"VEX_ChartDefinitions!A3: The id 'VEX_Chart1' is that of VEX_ChartDefinitions!A2 already" + removed}},
       {{"", good},
@@ -138,7 +150,12 @@ TEST_F(CheckTest, ChartsThatAreNotSeen) {
   book.Sheet("Charts").frames[0].alternativeText = "";
   EXPECT_EQ(Found(book),
             List{"The next refresh removes this definition, because no chart has the alternative text "
-                 "'VEX_Chart1'; there are 1 chart without any."});
+                 "'VEX_Chart1'; there is 1 chart without any."});
+  book.Sheet("Charts").frames.push_back({"Other"});
+  book.Sheet("Charts").frames.push_back({"Third"});
+  EXPECT_EQ(Found(book),
+            List{"The next refresh removes this definition, because no chart has the alternative text "
+                 "'VEX_Chart1'; there are charts with 'Other' and 'Third' and 1 chart without any."});
   book.Sheet("Charts").frames.clear();
   EXPECT_EQ(Found(book),
             List{"The next refresh removes this definition, because no chart has the alternative text "
@@ -177,7 +194,9 @@ TEST_F(CheckTest, NamesAndValuesThatADefinitionCannotHave) {
   const S types = "area, bar, column, pie, bubble or strategic bucket.";
   const std::pair<Definition, List> cases[] = {
       {typed("line"), {"The attribute 'type' has an unknown value 'line'; it can be " + types}},
-      {typed("unknown"), {"The attribute 'type' has an unknown value 'unknown'; it can be " + types}},
+      {typed("unknown"),
+       {"The type is 'unknown', since the chart was changed by hand to one that isn't supported; it can be " +
+        types}},
       {typed(""), {"The element 'chart' has no 'type'; it can be " + types}},
       {attributes("colour=\"red\" xmlns:x=\"y\" x:z=\"1\" table-height=\"5\""),
        {"The element 'chart' has an unknown attribute 'colour'; there are id, name, title, type, table-id, "
@@ -267,7 +286,7 @@ TEST_F(CheckTest, TablesAndColumnsThatAreNotThere) {
           "is no range of cells.",
           "VEX_TableRange4: The name 'VEX_TableRange4' marks no table, because it refers to 2 rows, and the "
           "head of a table alone has three."}));
-  EXPECT_EQ(Found(over("")), List{"The definition has no 'table-id'; there are the tables Data1."});
+  EXPECT_EQ(Found(over("")), List{"The definition has no 'table-id'; there is Data1."});
   EXPECT_EQ(Found(over("table-id=\"data1\"")), List{}) << "the case of an id doesn't matter";
 
   Definition mistyped;
@@ -298,9 +317,8 @@ TEST_F(CheckTest, BucketTablesThatDoNotFit) {
   };
   const S usual = test::BucketDefinition().attributes;
   const auto asItIs = [](PlainBook&) {};
-  EXPECT_EQ(
-      found("table-id=\"Data1\"", asItIs),
-      List{"The definition has no 'strategic-bucket-table-id'; there are the tables VEX_SB1 and Data1."});
+  EXPECT_EQ(found("table-id=\"Data1\"", asItIs),
+            List{"The definition has no 'strategic-bucket-table-id'; there are VEX_SB1 and Data1."});
   EXPECT_EQ(found(runtime::Replace(usual, "VEX_SB1", "VEX_SB2"), asItIs),
             List{"There is no bucket table 'VEX_SB2'; there are VEX_SB1 and Data1."});
   EXPECT_EQ(found(runtime::Replace(usual, "VEX_SB1", "Data1"), asItIs),
@@ -363,7 +381,7 @@ TEST_F(CheckTest, JsonHasTheSameFacts) {
     "place": "VEX_ChartDefinitions!A2", "id": "VEX_Chart1", "name": "Name of VEX_Chart1", "type": "column",
     "table": "Gone", "chartSheet": "Charts",
     "findings": [{"place": "VEX_ChartDefinitions!A2", "kind": "table",
-                  "sentence": "There is no table 'Gone'; there are Data1."}]}])"));
+                  "sentence": "There is no table 'Gone'; there is Data1."}]}])"));
   ASSERT_EQ(json["tables"].size(), 2u);
   const auto& table = json["tables"][0];
   EXPECT_EQ(table["columns"], nlohmann::ordered_json::parse(

@@ -58,10 +58,12 @@ std::string ChartMarkers::Absence(const std::string& id) const {
   std::vector<std::string> others;
   for (const auto& [text, sheet] : sheets_) others.push_back(Quoted(text));
   std::vector<std::string> charts;
-  if (!others.empty()) charts.push_back("charts with " + Listed(others));
+  if (!others.empty())
+    charts.push_back((others.size() == 1 ? "a chart with " : "charts with ") + Listed(others));
   if (unmarked_ > 0) charts.push_back(Counted(unmarked_, "chart") + " without any");
-  return "no chart has the alternative text " + Quoted(id) + "; there are " +
-         Listed(charts, "and", "no charts");
+  const std::string start = "no chart has the alternative text " + Quoted(id) + "; ";
+  if (charts.empty()) return start + "there are no charts";
+  return start + (others.size() + unmarked_ == 1 ? "there is " : "there are ") + Listed(charts);
 }
 
 }  // namespace plotsmith::cli

@@ -124,23 +124,24 @@ bool Contains(const Names& names, std::string_view name) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-std::string ListedNames(const Names& names, const char* word) {
-  return Listed({names.begin(), names.end()}, word);
+/// What an attribute can be, as the end of a sentence.
+std::string Allowed(const AttributeFormat& attribute) {
+  return "; it can be " + Listed({attribute.values.begin(), attribute.values.end()}, "or") + ".";
 }
 
-/// Those that a person or a program writes.
-std::string ListedAttributes(const ElementFormat& format) {
-  Names names;
+/// The attributes that a person or a program writes, as the end of a sentence.
+std::string KnownAttributes(const ElementFormat& format) {
+  std::vector<std::string> names;
   for (const AttributeFormat& attribute : format.attributes) {
-    if (!attribute.isOwn) names.push_back(attribute.name);
+    if (!attribute.isOwn) names.emplace_back(attribute.name);
   }
-  return ListedNames(names, "and");
+  return "; " + ThereAre(names) + ".";
 }
 
-std::string ListedChildren(const ElementFormat& format) {
-  Names names;
-  for (const ElementFormat& child : format.children) names.push_back(child.name);
-  return ListedNames(names, "and");
+std::string KnownChildren(const ElementFormat& format) {
+  std::vector<std::string> names;
+  for (const ElementFormat& child : format.children) names.emplace_back(child.name);
+  return "; " + ThereAre(names) + ".";
 }
 
 /// The walk over the elements of one definition.
@@ -182,22 +183,26 @@ class FormatCheck {
       if (known != format.attributes.end()) {
         CheckValue(*known, value);
       } else if (!IsForeign(name)) {
-        Report(owner + " has an unknown attribute " + Quoted(name) + "; there are " +
-               ListedAttributes(format) + ".");
+        Report(owner + " has an unknown attribute " + Quoted(name) + KnownAttributes(format));
       }
     }
     for (const AttributeFormat& attribute : format.attributes) {
       if (!attribute.required || !GetAttributeText(element, std::string(attribute.name).c_str()).empty())
         continue;
       Report(owner + " has no " + Quoted(attribute.name) +
-             (attribute.values.empty() ? "." : "; it can be " + ListedNames(attribute.values, "or") + "."));
+             (attribute.values.empty() ? "." : Allowed(attribute)));
     }
   }
 
   void CheckValue(const AttributeFormat& attribute, const std::string& value) {
     if (value.empty() || attribute.values.empty() || Contains(attribute.values, value)) return;
-    Report("The attribute " + Quoted(attribute.name) + " has an unknown value " + Quoted(value) +
-           "; it can be " + ListedNames(attribute.values, "or") + ".");
+    if (attribute.values == kTypes && value == "unknown") {
+      Report("The type is 'unknown', since the chart was changed by hand to one that isn't supported" +
+             Allowed(attribute));
+    } else {
+      Report("The attribute " + Quoted(attribute.name) + " has an unknown value " + Quoted(value) +
+             Allowed(attribute));
+    }
   }
 
   void CheckChildren(const dom::IXMLDOMElement& element, const ElementFormat& format) {
@@ -208,7 +213,7 @@ class FormatCheck {
                                       [&](const ElementFormat& other) { return other.name == name; });
       if (known == format.children.end()) {
         Report("The element " + Quoted(format.name) + " has an unknown child " + Quoted(name) +
-               "; there are " + ListedChildren(format) + ".");
+               KnownChildren(format));
         continue;
       }
       if (!known->repeated && Contains(seen, known->name)) {

@@ -18,12 +18,13 @@ using dom::IXMLDOMNodeList;
 
 constexpr const char* kBucketType = "strategic bucket";
 
-std::string TableIds() {
+/// The tables that there are, as the end of a sentence.
+std::string OtherTables() {
   std::vector<std::string> ids;
   for (const auto& document : *colTables) {
     ids.push_back(GetAttributeText(document.selectSingleNode("table"), "id"));
   }
-  return Listed(ids);
+  return ThereAre(ids);
 }
 
 std::string Headings(const IXMLDOMNodeList& columns) {
@@ -117,13 +118,12 @@ class SourceCheck {
   IXMLDOMElement FindTable(const char* attribute, const std::string& noun) {
     const std::string id = GetAttributeText(chart_, attribute);
     if (id.empty()) {
-      Report(FindingKind::kTable,
-             "The definition has no " + Quoted(attribute) + "; there are the tables " + TableIds() + ".");
+      Report(FindingKind::kTable, "The definition has no " + Quoted(attribute) + "; " + OtherTables() + ".");
     } else if (CollectionHasKey(id, colTables)) {
       return colTables->Item(id).selectSingleNode("table");
     } else {
       Report(FindingKind::kTable,
-             "There is no " + noun + " " + Quoted(id) + WhyNot(id) + "; there are " + TableIds() + ".");
+             "There is no " + noun + " " + Quoted(id) + WhyNot(id) + "; " + OtherTables() + ".");
     }
     return {};
   }

@@ -1,5 +1,7 @@
 #include "cli/check/Words.h"
 
+#include <algorithm>
+
 #include "runtime/Strings.h"
 #include "xlsx/sheet/Reference.h"
 
@@ -8,6 +10,8 @@ namespace {
 
 /// UTF-16 units of a text that a sentence quotes.
 constexpr std::size_t kLongest = 60;
+/// Items of a list that a sentence names.
+constexpr std::size_t kMostItems = 40;
 
 }  // namespace
 
@@ -20,13 +24,17 @@ std::string Quoted(std::string_view text) {
   return "'" + line + "'";
 }
 
-std::string Listed(const std::vector<std::string>& items, const char* word, const char* none) {
-  if (items.empty()) return none;
+std::string Listed(const std::vector<std::string>& items, const char* word) {
+  if (items.empty()) return "none";
+  const std::size_t shown = std::min(items.size(), kMostItems), left = items.size() - shown;
+  const std::string last = std::string(" ") + word + " ";
   std::string text = items.front();
-  for (std::size_t i = 1; i < items.size(); ++i) {
-    text += i + 1 < items.size() ? ", " + items[i] : std::string(" ") + word + " " + items[i];
-  }
-  return text;
+  for (std::size_t i = 1; i < shown; ++i) text += (i + 1 == items.size() ? last : ", ") + items[i];
+  return left == 0 ? text : text + last + std::to_string(left) + " more";
+}
+
+std::string ThereAre(const std::vector<std::string>& items) {
+  return (items.size() == 1 ? "there is " : "there are ") + Listed(items);
 }
 
 std::string Counted(std::size_t count, const std::string& noun) {

@@ -10,9 +10,10 @@ namespace plotsmith::cli {
 
 /// The text in single quotes on one line; a long one is cut short.
 std::string Quoted(std::string_view text);
-/// "a, b and c", with `word` before the last item; `none` for an empty list.
-std::string Listed(const std::vector<std::string>& items, const char* word = "and",
-                   const char* none = "none");
+/// "a, b and c", with `word` before the last item; of a long list the beginning. "none" for an empty one.
+std::string Listed(const std::vector<std::string>& items, const char* word = "and");
+/// "there is a", "there are a and b", "there are none".
+std::string ThereAre(const std::vector<std::string>& items);
 /// "1 cell", "2 cells".
 std::string Counted(std::size_t count, const std::string& noun);
 /// "Data1!C5"; the sheet's name is in quotes where a formula needs them.
