@@ -73,7 +73,7 @@ void PrintCandidates(const std::vector<std::string>& arguments, const Streams& s
     for (const std::string& word : Candidates(arguments)) streams.out << word << '\n';
     streams.out.flush();
   } catch (const std::exception&) {
-    // whoever pressed a key for a completion wants no message
+    // a message would only disturb the line that is being typed
   }
 }
 

@@ -112,6 +112,12 @@ TEST_F(CheckTest, AWorkbookWithoutDefinitionsOrTablesIsFine) {
             "headings in row 1; or give the data a name that begins with VEX_TableRange, with a title in its "
             "first cell and headings in its third row.\n");
   EXPECT_EQ(RunCommand({"check", folder_ / "none.xlsx"}).code, 3);
+  book.sheets.push_back({"VEX_ChartDefinitions", {{RawCell{" t='x><v>1</v></c>"}}}});
+  book.Write(folder_ / "damaged.xlsx");
+  const auto damaged = RunCommand({"check", folder_ / "damaged.xlsx"});
+  EXPECT_EQ(damaged.code, 3);
+  EXPECT_EQ(damaged.out, "");
+  EXPECT_TRUE(damaged.err.ends_with("sheet2.xml can't be read: its XML is damaged.\n")) << damaged.err;
 }
 
 TEST_F(CheckTest, RowsThatALoadRemovesOrNeverReads) {
@@ -368,6 +374,21 @@ TEST_F(CheckTest, CellsThatAreErrorsTextsOrFormulasWithoutAResult) {
               rows[1].push_back(RawCell{" t=\"str\"><f>\"\"</f><v></v></c>"});
             }),
             List{});
+}
+
+TEST_F(CheckTest, DatesAreNumbersToAChart) {
+  Definition definition = test::BubbleDefinition();
+  PlainBook book = test::BubbleBook({{"a", "b", 1, 2, 3}, {"c", "b", 1, 2, 3}}, definition);
+  book.styles =
+      "<styleSheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><cellXfs><xf/><xf "
+      "numFmtId=\"14\"/></cellXfs></styleSheet>";
+  auto& rows = book.Sheet("Data1").rows;
+  rows[1][2] = RawCell{" s=\"1\"><v>45000</v></c>"};
+  EXPECT_EQ(Found(book), List{});
+  rows[2][2] = RawCell{" t=\"e\"><v>#REF!</v></c>"};
+  EXPECT_EQ(Found(book), List{"Data1!C3: The column 'Across' is no number column, as 'x-values' wants, since "
+                              "this cell holds the error #REF!, which counts as 0."})
+      << "without the error it would be a label column all the same";
 }
 
 TEST_F(CheckTest, JsonHasTheSameFacts) {
