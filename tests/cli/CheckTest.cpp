@@ -376,6 +376,23 @@ TEST_F(CheckTest, CellsThatAreErrorsTextsOrFormulasWithoutAResult) {
             List{});
 }
 
+TEST_F(CheckTest, LineBreaksInNamesBreakNoLine) {
+  Definition definition{"VEX_Chart1", "column", "table-id=\"VEX_TableRange1\""};
+  PlainBook book = SalesBook({definition});
+  auto& rows = book.Sheet("Data1").rows;
+  rows[0][3] = S("Cost\nin euros");
+  rows.insert(rows.begin(), {{S("Sales\nand more")}, {}});
+  book.sheets[0].name = "Sales";
+  book.names = {{"VEX_TableRange1", "Sales!$A$1:$D$7"}};
+  rows[2][2] = S("Price");
+  EXPECT_EQ(Check(book).out,
+            "VEX_ChartDefinitions!A2  VEX_Chart1  \"Name of VEX_Chart1\"  column chart on sheet Charts, from "
+            "table VEX_TableRange1:\n  VEX_ChartDefinitions!A2: The table 'VEX_TableRange1' has no column "
+            "'Amount' for 'values'; it has Region, Product, Price and Cost in euros.\n"
+            "VEX_TableRange1  \"Sales and more\"  sheet Sales, rows 1 to 7 (4 of data), from column 1; label "
+            "Region, label Product, number Price, number Cost in euros: ok\n");
+}
+
 TEST_F(CheckTest, DatesAreNumbersToAChart) {
   Definition definition = test::BubbleDefinition();
   PlainBook book = test::BubbleBook({{"a", "b", 1, 2, 3}, {"c", "b", 1, 2, 3}}, definition);

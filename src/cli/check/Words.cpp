@@ -1,6 +1,7 @@
 #include "cli/check/Words.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "runtime/Strings.h"
 #include "xlsx/sheet/Reference.h"
@@ -15,13 +16,16 @@ constexpr std::size_t kMostItems = 40;
 
 }  // namespace
 
-std::string Quoted(std::string_view text) {
-  std::string line =
-      runtime::Len(text) <= kLongest ? std::string(text) : runtime::Mid(text, 1, kLongest) + "...";
-  for (char& c : line) {
+std::string OneLine(std::string text) {
+  for (char& c : text) {
     if (static_cast<unsigned char>(c) < ' ') c = ' ';
   }
-  return "'" + line + "'";
+  return text;
+}
+
+std::string Quoted(std::string_view text) {
+  if (runtime::Len(text) <= kLongest) return "'" + OneLine(std::string(text)) + "'";
+  return "'" + OneLine(runtime::Mid(text, 1, kLongest)) + "...'";
 }
 
 std::string Listed(const std::vector<std::string>& items, const char* word) {
@@ -30,6 +34,7 @@ std::string Listed(const std::vector<std::string>& items, const char* word) {
   const std::string last = std::string(" ") + word + " ";
   std::string text = items.front();
   for (std::size_t i = 1; i < shown; ++i) text += (i + 1 == items.size() ? last : ", ") + items[i];
+  text = OneLine(std::move(text));
   return left == 0 ? text : text + last + std::to_string(left) + " more";
 }
 

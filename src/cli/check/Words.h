@@ -8,6 +8,8 @@
 
 namespace plotsmith::cli {
 
+/// The text with blanks for line breaks and other control characters.
+std::string OneLine(std::string text);
 /// The text in single quotes on one line; a long one is cut short.
 std::string Quoted(std::string_view text);
 /// "a, b and c", with `word` before the last item; of a long list the beginning. "none" for an empty one.

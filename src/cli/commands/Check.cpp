@@ -7,6 +7,7 @@
 #include "cli/TableFacts.h"
 #include "cli/check/DefinitionCheck.h"
 #include "cli/check/TableCheck.h"
+#include "cli/check/Words.h"
 #include "runtime/RuntimeError.h"
 
 namespace plotsmith::cli {
@@ -69,26 +70,28 @@ void Print(std::ostream& out, const Findings& findings) {
 }
 
 void Print(std::ostream& out, const CheckedDefinition& definition) {
-  out << definition.place;
-  if (!definition.id.empty()) out << "  " << definition.id;
-  if (!definition.name.empty()) out << "  \"" << definition.name << '"';
-  if (!definition.type.empty()) out << "  " << definition.type << " chart";
-  if (!definition.chartSheet.empty()) out << " on sheet " << definition.chartSheet;
-  if (!definition.table.empty()) out << ", from table " << definition.table;
+  std::string line = definition.place;
+  if (!definition.id.empty()) line += "  " + definition.id;
+  if (!definition.name.empty()) line += "  \"" + definition.name + '"';
+  if (!definition.type.empty()) line += "  " + definition.type + " chart";
+  if (!definition.chartSheet.empty()) line += " on sheet " + definition.chartSheet;
+  if (!definition.table.empty()) line += ", from table " + definition.table;
+  out << OneLine(line);
   Print(out, definition.findings);
 }
 
 void Print(std::ostream& out, const CheckedTable& checked) {
-  out << checked.id;
+  std::string line = checked.id;
   if (checked.table) {
     const Json facts = TableFacts(checked.table);
-    out << "  \"" << facts["name"].get<std::string>() << "\"  " << TablePlace(facts);
+    line += "  \"" + facts["name"].get<std::string>() + "\"  " + TablePlace(facts);
     const char* separator = "; ";
     for (const Json& column : facts["columns"]) {
-      out << separator << column["kind"].get<std::string>() << ' ' << column["name"].get<std::string>();
+      line += separator + column["kind"].get<std::string>() + ' ' + column["name"].get<std::string>();
       separator = ", ";
     }
   }
+  out << OneLine(line);
   Print(out, checked.findings);
 }
 
