@@ -139,10 +139,9 @@ std::string ZshArguments(const CLI::App& app) {
   return text;
 }
 
-}  // namespace
-
-std::string BashCompletion(const CommandLine& line) {
-  std::string script = R"(# Completion of plotsmith for bash; made from the command's own table of options.
+/// What the function of the completion calls.
+std::string BashHelpers() {
+  return std::string(R"(# Completion of plotsmith for bash; made from the command's own table of options.
 
 # Puts a word as the shell would pass it on into the variable plain.
 _plotsmith_plain() {
@@ -179,11 +178,18 @@ _plotsmith_ask() {
   _plotsmith_plain "$book"; file=$plain
   _plotsmith_plain "$table"; id=$plain
   [[ -n $file ]] || return
-  _plotsmith_match < <("$command" )" +
-                       std::string(kComplete) + R"( "$1" "$file" ${id:+--table "$id"} 2>/dev/null)
+  _plotsmith_match < <("$command" )") +
+         kComplete +
+         R"( "$1" "$file" ${id:+--table "$id"} 2>/dev/null)
 }
 
-_plotsmith() {
+)";
+}
+
+}  // namespace
+
+std::string BashCompletion(const CommandLine& line) {
+  std::string script = BashHelpers() + R"(_plotsmith() {
   local word=${COMP_WORDS[COMP_CWORD]} verb= book= table= option= value= many= again= options= count=0 one i
   local -a places=()
   for ((i = 1; i < COMP_CWORD; ++i)); do
