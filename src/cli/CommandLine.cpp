@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 
+#include "cli/Candidates.h"
 #include "cli/commands/AllCommands.h"
 #include "xlsx/package/PackageError.h"
 
@@ -76,6 +77,10 @@ CommandLine::CommandLine() : app(kDescription, "plotsmith"), commands(MakeComman
 }
 
 int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
+  if (!arguments.empty() && arguments.front() == kComplete) {
+    PrintCandidates({arguments.begin() + 1, arguments.end()}, streams);
+    return exit_code::kDone;
+  }
   CommandLine line;
   const auto fail = [&](const std::string& sentence, int code) {
     streams.err << "plotsmith: " << sentence << '\n';

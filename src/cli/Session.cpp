@@ -86,10 +86,14 @@ Session::~Session() {
   StopSystem();
 }
 
-void Session::LoadTablesAndCharts() {
+void Session::LoadTables() {
   oApplication = host_;
   oWorkbook = host_->ActiveWorkbook();
   RetrieveTableDefinitions();
+}
+
+void Session::LoadTablesAndCharts() {
+  LoadTables();
   if (SheetExists(kDefinitionsSheet)) {
     RetrieveChartDefinitions();
   } else {

@@ -26,6 +26,8 @@ class Session {
   std::shared_ptr<xlsx::Application> Host() const { return host_; }
   xlsx::Workbook& Book() const { return host_->Book(); }
 
+  /// Discovers the tables.
+  void LoadTables();
   /// Discovers the tables and loads the definitions, for commands that only read.
   void LoadTablesAndCharts();
   /// Refuses, before any work is done, to write where another program has the workbook open.

@@ -19,12 +19,15 @@ namespace {
 /// Elements within elements. A definition has four levels.
 constexpr int kDeepest = 256;
 
-/// pugixml reads much that isn't XML; whether a text is, a stricter parser tells.
-bool IsWellFormed(std::string_view xml) {
+/// pugixml reads much that isn't XML, so a stricter parser tells what is wrong with a text.
+IXMLDOMParseError FindError(std::string_view xml) {
   const std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser(XML_ParserCreate("UTF-8"),
                                                                             XML_ParserFree);
-  return parser && xml.size() <= INT_MAX &&
-         XML_Parse(parser.get(), xml.data(), static_cast<int>(xml.size()), XML_TRUE) == XML_STATUS_OK;
+  if (!parser || xml.size() > INT_MAX) return {"the text is too long", 1, 1};
+  if (XML_Parse(parser.get(), xml.data(), static_cast<int>(xml.size()), XML_TRUE) == XML_STATUS_OK) return {};
+  return {XML_ErrorString(XML_GetErrorCode(parser.get())),
+          static_cast<std::int32_t>(XML_GetCurrentLineNumber(parser.get())),
+          static_cast<std::int32_t>(XML_GetCurrentColumnNumber(parser.get())) + 1};
 }
 
 }  // namespace
@@ -37,6 +40,7 @@ struct IXMLDOMNode::Tree {
   pugi::xml_document document;
   pugi::xml_node content;
   pugi::xml_node detached;
+  IXMLDOMParseError error;  ///< of the last text that was read
 };
 
 pugi::xml_node IXMLDOMNode::Checked() const {
@@ -112,6 +116,12 @@ Variant IXMLDOMElement::getAttribute(const char* name) const {
   return attribute ? Variant(attribute.value()) : runtime::kNull;
 }
 
+std::vector<IXMLDOMAttribute> IXMLDOMElement::attributes() const {
+  std::vector<IXMLDOMAttribute> list;
+  for (const auto& attribute : Checked().attributes()) list.push_back({attribute.name(), attribute.value()});
+  return list;
+}
+
 IXMLDOMDocument2 IXMLDOMDocument2::Create() {
   auto tree = std::make_shared<Tree>();
   const pugi::xml_node content = tree->content;
@@ -120,16 +130,27 @@ IXMLDOMDocument2 IXMLDOMDocument2::Create() {
 
 bool IXMLDOMDocument2::loadXML(std::string_view xml) {
   Checked().remove_children();
-  if (!IsWellFormed(xml)) return false;
+  tree_->error = FindError(xml);
+  if (!tree_->error.reason.empty()) return false;
   pugi::xml_document parsed;
-  if (!parsed.load_buffer(xml.data(), xml.size(), pugi::parse_full | pugi::parse_ws_pcdata,
-                          pugi::encoding_utf8) ||
-      NestsDeeperThan(parsed, kDeepest)) {
+  const pugi::xml_parse_result result = parsed.load_buffer(
+      xml.data(), xml.size(), pugi::parse_full | pugi::parse_ws_pcdata, pugi::encoding_utf8);
+  if (!result) {
+    tree_->error = {result.description(), 1, static_cast<std::int32_t>(result.offset) + 1};
+    return false;
+  }
+  if (NestsDeeperThan(parsed, kDeepest)) {
+    tree_->error = {"elements nest deeper than " + std::to_string(kDeepest), 1, 1};
     return false;
   }
   // a declaration or a document type can't stand below the tree's own root, and says nothing that we keep
   for (const pugi::xml_node& node : parsed.children()) node_.append_copy(node);
   return static_cast<bool>(documentElement());
+}
+
+const IXMLDOMParseError& IXMLDOMDocument2::parseError() const {
+  Checked();
+  return tree_->error;
 }
 
 IXMLDOMElement IXMLDOMDocument2::documentElement() const {

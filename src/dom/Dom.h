@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <pugixml.hpp>
 #include <string>
@@ -15,6 +16,20 @@
 namespace plotsmith::dom {
 
 class IXMLDOMElement;
+
+/// An attribute as its element has it.
+struct IXMLDOMAttribute {
+  std::string name;  ///< with its prefix if it has one
+  std::string value;
+};
+
+/// Why and where a text is no document. Without an error the reason is empty.
+struct IXMLDOMParseError {
+  std::string reason;        ///< the parser's words, without a full stop
+  std::int32_t line = 0;     ///< from 1
+  std::int32_t linepos = 0;  ///< the character in that line, from 1
+};
+
 /// What a query finds, in document order.
 using IXMLDOMNodeList = std::vector<IXMLDOMElement>;
 
@@ -80,6 +95,8 @@ class IXMLDOMElement : public IXMLDOMNode {
   void setAttribute(const char* name, const runtime::Variant& value);
   /// A text; Null where there is no such attribute.
   runtime::Variant getAttribute(const char* name) const;
+  /// In the order of the text.
+  std::vector<IXMLDOMAttribute> attributes() const;
 
  private:
   friend class IXMLDOMNode;
@@ -98,6 +115,8 @@ class IXMLDOMDocument2 : public IXMLDOMNode {
   /// Reads a new content; handles to the old one must not be used any more. False, with the document left
   /// empty, if `xml` isn't well-formed, or nests deeper than any definition would.
   bool loadXML(std::string_view xml);
+  /// What was wrong with the text of the last loadXML.
+  const IXMLDOMParseError& parseError() const;
   /// The root; Nothing in an empty document.
   IXMLDOMElement documentElement() const;
 

@@ -45,15 +45,27 @@ bool IsUnmarked(excel::Shape& oShape, std::int32_t lType) {
 }  // namespace
 
 std::string UnmarkedCharts::RestoreMarker(const std::string& sID) {
-  if (!SheetExists(kDataSheet)) return "";
-  for (std::size_t i = 0; i < aRead_.size() || ReadNext(); ++i) {
-    if (aRead_[i].sShownID != sID) continue;
-    aRead_[i].oShape->SetAlternativeText(sID);
-    std::string sSheet = aRead_[i].oSheet->Name();
-    aRead_.erase(aRead_.begin() + static_cast<std::ptrdiff_t>(i));
-    return sSheet;
+  const std::size_t i = Find(sID);
+  if (i == aRead_.size()) return "";
+  aRead_[i].oShape->SetAlternativeText(sID);
+  std::string sSheet = aRead_[i].oSheet->Name();
+  aRead_.erase(aRead_.begin() + static_cast<std::ptrdiff_t>(i));
+  return sSheet;
+}
+
+std::string UnmarkedCharts::SheetOf(const std::string& sID) {
+  const std::size_t i = Find(sID);
+  return i == aRead_.size() ? "" : aRead_[i].oSheet->Name();
+}
+
+std::size_t UnmarkedCharts::Find(const std::string& sID) {
+  if (!SheetExists(kDataSheet)) return aRead_.size();
+  std::size_t i = 0;
+  while (i < aRead_.size() || ReadNext()) {
+    if (aRead_[i].sShownID == sID) return i;
+    ++i;
   }
-  return "";
+  return aRead_.size();
 }
 
 bool UnmarkedCharts::ReadNext() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -19,6 +20,8 @@ class UnmarkedCharts {
   /// Looks for a chart that shows a data block of the id, and gives it its marker back. The sheet's name, or
   /// "" if there is none.
   std::string RestoreMarker(const std::string& sID);
+  /// The sheet of the chart that RestoreMarker would take; "" if there is none. Changes nothing.
+  std::string SheetOf(const std::string& sID);
 
  private:
   struct Unmarked {
@@ -27,6 +30,8 @@ class UnmarkedCharts {
     std::string sShownID;
   };
 
+  /// Where in aRead_ a chart is that shows a data block of the id; its size if there is none.
+  std::size_t Find(const std::string& sID);
   /// Goes on to the next one that shows a data block; False behind the last.
   bool ReadNext();
 

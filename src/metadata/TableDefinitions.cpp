@@ -20,15 +20,6 @@ constexpr std::array<std::string_view, 2> kTableNamePrefixes = {"VEX_TableRange"
 constexpr std::array<std::string_view, 5> kDataSheets = {"Data1", "Data2", "Data3", "Data4", "Data5"};
 constexpr std::int32_t kRangeHeaderRows = 3;
 
-/// A name of one sheet alone marks no table; it bears that sheet's name in front, which may begin likewise.
-bool NamesTable(std::string_view sName) {
-  if (sName.find('!') != std::string_view::npos) return false;
-  for (const std::string_view sPrefix : kTableNamePrefixes) {
-    if (runtime::EqualsIgnoreCase(sName.substr(0, sPrefix.size()), sPrefix)) return true;
-  }
-  return false;
-}
-
 /// A table document under construction: the columns are appended and counted as they come.
 class TableBuilder {
  public:
@@ -60,8 +51,17 @@ class TableBuilder {
   std::int32_t lNumbers_ = 0;
 };
 
-/// True for a value that makes its column a label column: any but a number, a Boolean, a text that reads as a
-/// number, and blanks.
+}  // namespace
+
+// A name of one sheet bears that sheet's name in front, which may begin as a table's does.
+bool NamesTable(std::string_view sName) {
+  if (sName.find('!') != std::string_view::npos) return false;
+  for (const std::string_view sPrefix : kTableNamePrefixes) {
+    if (runtime::EqualsIgnoreCase(sName.substr(0, sPrefix.size()), sPrefix)) return true;
+  }
+  return false;
+}
+
 bool IsLabelValue(const excel::CellValue& vValue) {
   using Kind = excel::CellValue::Kind;
   switch (vValue.kind) {
@@ -77,8 +77,6 @@ bool IsLabelValue(const excel::CellValue& vValue) {
   }
   return true;
 }
-
-}  // namespace
 
 void RetrieveTableDefinitions() {
   ReportErrors("PSFunctions.RetrieveTableDefinitions", [] {

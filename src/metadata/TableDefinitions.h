@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "dom/Dom.h"
 #include "host/excel/Excel.h"
@@ -13,6 +14,12 @@ namespace plotsmith {
 
 /// Replaces `colTables`: range tables in the order of their names, then data sheets.
 void RetrieveTableDefinitions();
+
+/// Whether a defined name is to mark a table, by its beginning. A name of one sheet alone marks none.
+bool NamesTable(std::string_view sName);
+/// True for a value that makes its column a label column: any but a number, a Boolean, a text that reads as a
+/// number, and blanks.
+bool IsLabelValue(const excel::CellValue& vValue);
 
 /// The table under a defined name, or Nothing if the name is no range of at least three rows.
 dom::IXMLDOMDocument2 GetTableDefinitionAsXML(const std::string& sTableRangeName);

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "host/excel/Worksheet.h"
 #include "xlsx/Sheet.h"
@@ -49,6 +50,8 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   /// system.
   excel::CellValue Stored(std::int32_t row, std::int32_t column);
   CellRange UsedCells();
+  /// Cells of the file with a formula but no result, in the order of the file; they read as empty.
+  const std::vector<CellPlace>& FormulasWithoutResult() { return Contents().formulasWithoutResult; }
   void ClearCells(const CellRange& range);
   void SetNumberFormat(const CellRange& range, std::string_view code);
   std::string NumberFormatAt(std::int32_t row, std::int32_t column);

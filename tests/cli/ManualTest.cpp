@@ -7,7 +7,10 @@
 #include <vector>
 
 #include "cli/manual/Manual.h"
+#include "runtime/Strings.h"
+#include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
+#include "tests/support/RunCommand.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -68,10 +71,10 @@ class CompletionTest : public ::testing::Test {
       std::ofstream(folder_ / name) << "";
   }
   std::vector<S> Offered(const S& words) {
-    const S command = "cd '" + folder_.Path().string() +
-                      "' && bash --norc -c 'set -u; . ./plotsmith.bash; COMP_WORDS=(" + words +
-                      "); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _plotsmith; printf \"%s\\n\" " +
-                      "\"${COMPREPLY[@]}\" | sort -u' 2>&1";
+    std::ofstream(folder_ / "ask.bash") << "set -u\n. ./plotsmith.bash\nCOMP_WORDS=(" << words
+                                        << ")\nCOMP_CWORD=$((${#COMP_WORDS[@]} - 1))\n_plotsmith\nprintf "
+                                           "'%s\\n' \"${COMPREPLY[@]}\" | sort -u\n";
+    const S command = "cd '" + folder_.Path().string() + "' && LC_ALL=C bash --norc ask.bash 2>&1";
     std::vector<S> lines;
     FILE* pipe = popen(command.c_str(), "r");
     char buffer[512];
@@ -100,6 +103,94 @@ TEST_F(CompletionTest, BashOffersWhatFits) {
       {"plotsmith format \"\"", {}},
   };
   for (const auto& [words, offered] : cases) EXPECT_EQ(Offered(words), offered) << words;
+}
+
+/// The same with a verb that has arguments of every name that a workbook completes.
+class BookCompletionTest : public CompletionTest {
+ protected:
+  BookCompletionTest() {
+    CommandLine line;
+    CLI::App* verb = line.app.add_subcommand("draw", "Draw");
+    line.verbs.push_back(verb);
+    verb->add_option("BOOK", text_);
+    verb->add_option("CHART", texts_);
+    verb->add_option("--table", text_)->type_name("ID");
+    verb->add_option("--bucket-table", text_)->type_name("ID");
+    verb->add_option("--type", text_)->type_name("TYPE");
+    verb->add_option("--values", text_)->type_name("COL");
+    verb->add_option("--series-columns", texts_)->type_name("COL");
+    std::ofstream(folder_ / "plotsmith.bash") << BashCompletion(line);
+    std::ofstream(folder_ / "_plotsmith") << ZshCompletion(line);
+    auto book = test::BucketBook(test::BucketDefinition());
+    book.Sheet("Data1").rows[0].push_back(S("Sum in \"$\" & more"));
+    book.Write(folder_ / "my book.xlsx");
+  }
+  S text_;
+  std::vector<S> texts_;
+};
+
+TEST_F(BookCompletionTest, TheCommandListsWhatAWorkbookHas) {
+  const S book = folder_ / "my book.xlsx";
+  using List = std::vector<S>;
+  const std::pair<List, S> cases[] = {
+      {{"tables", book}, "VEX_SB1\nData1\n"},
+      {{"charts", book}, "VEX_Chart1\nName of VEX_Chart1\n"},
+      {{"columns", book}, "bucket\nSUM\nProject\nTheme\nBucket\nSum\nRank\nSum in \"$\" & more\n"},
+      {{"columns", book, "--table", "vex_sb1"}, "bucket\nSUM\n"},
+      {{"columns", book, "--table", "Gone"}, ""},
+      {{"dances", book}, ""},
+      {{"tables", folder_ / "notes.txt"}, ""},
+      {{"tables"}, ""},
+      {{}, ""}};
+  for (const auto& [arguments, out] : cases) {
+    List line = {"complete"};
+    line.insert(line.end(), arguments.begin(), arguments.end());
+    const auto result = test::RunCommand(line);
+    EXPECT_EQ(result.code, 0);
+    EXPECT_EQ(result.out, out);
+    EXPECT_EQ(result.err, "");
+  }
+  EXPECT_EQ(test::RunCommand({"--help"}).out.find("complete"), S::npos);
+}
+
+TEST_F(BookCompletionTest, BashAsksTheWorkbook) {
+  using List = std::vector<S>;
+  const S draw = S(PLOTSMITH_COMMAND) + " draw";
+  const List charts = {R"(Name\ of\ VEX_Chart1)", "VEX_Chart1"};
+  const S quotedBook = "'my book.xlsx'", sum = R"(Sum\ in\ \"\$\"\ \&\ more)";
+  // each word as it was typed, the last one perhaps in part
+  const std::pair<List, List> cases[] = {
+      {{quotedBook, "--table", ""}, {"Data1", "VEX_SB1"}},
+      {{R"(my\ book.xlsx)", "--table", "D"}, {"Data1"}},
+      {{R"("my book.xlsx")", "--bucket-table", "=", "VEX"}, {"VEX_SB1"}},
+      {{R"("my book.xlsx")", "--bucket-table", "="}, {"Data1", "VEX_SB1"}},
+      {{quotedBook, ""}, charts},
+      {{quotedBook, "VEX_Chart1", "N"}, {charts[0]}},
+      {{quotedBook, R"(Name\ of)"}, {charts[0]}},
+      {{quotedBook, "'Name o"}, {"Name of VEX_Chart1"}},
+      {{quotedBook, "--table", "Data1", "--values", ""}, {"Bucket", "Project", "Rank", "Sum", sum, "Theme"}},
+      {{quotedBook, "--table", "VEX_SB1", "--values", ""}, {"SUM", "bucket"}},
+      {{"--table", "Data1", quotedBook, "--series-columns", "Rank", "Th"}, {"Theme"}},
+      {{quotedBook, "--values", "\"Sum "}, {R"(Sum in \"\$\" & more)"}},
+      {{quotedBook, "--values", "Rank", "VEX"}, {"VEX_Chart1"}},
+      {{quotedBook, "--type", "s"}, {R"(strategic\ bucket)"}},
+      {{"--table", ""}, {}},
+      {{"notes.txt", "--table", ""}, {}},
+      {{quotedBook, "--s"}, {"--series-columns"}}};
+  for (const auto& [words, offered] : cases) {
+    S line = draw;
+    for (const S& word : words) line += " '" + runtime::Replace(word, "'", R"('\'')") + "'";
+    EXPECT_EQ(Offered(line), offered) << line;
+  }
+}
+
+TEST_F(BookCompletionTest, ZshCallsWhatItsScriptDefines) {
+  std::ifstream file(folder_ / "_plotsmith");
+  const S script((std::istreambuf_iterator<char>(file)), {});
+  for (const S word : {"tables", "charts", "columns", "types"}) {
+    EXPECT_NE(script.find("\n_plotsmith_" + word + "() {"), S::npos) << word;
+    EXPECT_NE(script.find(":_plotsmith_" + word + "'"), S::npos) << word;
+  }
 }
 
 TEST_F(CompletionTest, EveryVerbAndOptionIsOffered) {

@@ -26,6 +26,26 @@ TEST(DomTest, WhatDoesNotParseLeavesAnEmptyDocument) {
   EXPECT_FALSE(document.loadXML(deep)) << "a branch that deep can't even be taken down";
 }
 
+TEST(DomTest, AParseErrorTellsReasonLineAndCharacter) {
+  auto document = IXMLDOMDocument2::Create();
+  std::string deep;
+  for (int i = 0; i < 300; ++i) deep += "<a>";
+  for (int i = 0; i < 300; ++i) deep += "</a>";
+  const std::tuple<std::string, const char*, int, int> cases[] = {
+      {"<a>\n  <b></c></a>", "mismatched tag", 2, 8},
+      {"<\xC3\xA4 x='\xC3\xB6'><b></\xC3\xA4>", "mismatched tag", 1, 15},
+      {"", "no element found", 1, 1},
+      {"<a b='1' b='2'/>", "duplicate attribute", 1, 10},
+      {deep, "elements nest deeper than 256", 1, 1},
+      {"<a/>", "", 0, 0}};
+  for (const auto& [xml, reason, line, linepos] : cases) {
+    EXPECT_EQ(document.loadXML(xml), *reason == '\0') << xml;
+    EXPECT_EQ(document.parseError().reason, reason) << xml;
+    EXPECT_EQ(document.parseError().line, line) << xml;
+    EXPECT_EQ(document.parseError().linepos, linepos) << xml;
+  }
+}
+
 TEST(DomTest, TextsAndAttributesSurviveARoundTrip) {
   auto document = IXMLDOMDocument2::Create();
   auto chart = document.createElement("chart");
@@ -45,6 +65,10 @@ TEST(DomTest, TextsAndAttributesSurviveARoundTrip) {
   EXPECT_EQ(root.getAttribute("title"), runtime::Variant("a < b & \"c\"\n\t d"));
   EXPECT_EQ(root.getAttribute("number"), runtime::Variant("2.5"));
   EXPECT_TRUE(root.getAttribute("absent").IsNull());
+  const auto attributes = root.attributes();
+  ASSERT_EQ(attributes.size(), 3u);
+  EXPECT_EQ(attributes[1].name, "number");
+  EXPECT_EQ(attributes[1].value, "2.5");
   EXPECT_EQ(root.getAttribute("control"), runtime::Variant("ab"));
   EXPECT_EQ(root.selectSingleNode("comment").firstChild().nodeValue(), "  two\nlines ") << "line ends fold";
 }

@@ -2,6 +2,7 @@
 
 #include "cli/commands/Cells.h"
 #include "cli/commands/Charts.h"
+#include "cli/commands/Check.h"
 #include "cli/commands/Definition.h"
 #include "cli/commands/Format.h"
 #include "cli/commands/Refresh.h"
@@ -15,6 +16,7 @@ std::vector<std::unique_ptr<Command>> MakeCommands() {
   std::vector<std::unique_ptr<Command>> commands;
   commands.push_back(std::make_unique<RefreshCommand>());
   commands.push_back(std::make_unique<RenameColumnsCommand>());
+  commands.push_back(std::make_unique<CheckCommand>());
   commands.push_back(std::make_unique<TablesCommand>());
   commands.push_back(std::make_unique<ChartsCommand>());
   commands.push_back(std::make_unique<DefinitionCommand>());

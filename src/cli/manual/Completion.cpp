@@ -2,14 +2,25 @@
 #include <map>
 #include <vector>
 
+#include "cli/Candidates.h"
+#include "cli/check/DefinitionFormat.h"
 #include "cli/manual/Manual.h"
 
 namespace plotsmith::cli {
 namespace {
 
-/// Which arguments name files: the workbook, and what is written.
+/// The names of arguments that files complete: the workbook, and what is written.
 constexpr const char* kBook = "BOOK";
 constexpr const char* kFile = "FILE";
+/// That of a chart type.
+constexpr const char* kType = "TYPE";
+
+/// The names of arguments that the workbook completes, and the words by which it is asked for them.
+struct BookValue {
+  const char* name;
+  const char* word;
+};
+constexpr BookValue kBookValues[] = {{"ID", "tables"}, {"CHART", "charts"}, {"COL", "columns"}};
 
 std::string Joined(const std::vector<std::string>& words, const std::string& separator) {
   std::string text;
@@ -25,25 +36,26 @@ std::vector<std::string> OptionNames(const CLI::App& app) {
   return names;
 }
 
-bool WantsBook(const CLI::App& verb) {
-  const auto options = OptionsOf(verb);
-  return std::any_of(options.begin(), options.end(),
-                     [](const OptionView& option) { return option.names.front() == kBook; });
-}
-
 std::vector<std::string> VerbNames(const CommandLine& line) {
   std::vector<std::string> names;
   for (const CLI::App* verb : line.verbs) names.push_back(verb->get_name());
   return names;
 }
 
-/// The options that want a value, by the name of the value.
-std::map<std::string, std::vector<std::string>> ValueOptions(const CommandLine& line) {
-  std::map<std::string, std::vector<std::string>> options;
+/// What is to be said of an option that wants a value: the name of the value, and whether several may follow.
+struct WantedValue {
+  std::string name;
+  bool many;
+  auto operator<=>(const WantedValue&) const = default;
+};
+
+/// The options that want a value, by that.
+std::map<WantedValue, std::vector<std::string>> ValueOptions(const CommandLine& line) {
+  std::map<WantedValue, std::vector<std::string>> options;
   const auto add = [&](const CLI::App& app) {
     for (const OptionView& option : OptionsOf(app)) {
       if (option.positional || option.value.empty()) continue;
-      auto& names = options[option.value];
+      auto& names = options[{option.value, option.repeated}];
       for (const std::string& name : option.names) {
         if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
       }
@@ -52,6 +64,24 @@ std::map<std::string, std::vector<std::string>> ValueOptions(const CommandLine& 
   add(line.app);
   for (const CLI::App* verb : line.verbs) add(*verb);
   return options;
+}
+
+/// Each text as one word of a shell.
+std::vector<std::string> QuotedWords(std::vector<std::string> texts) {
+  for (std::string& text : texts) text = "'" + text + "'";
+  return texts;
+}
+
+/// The positional arguments of a verb for bash: their names, and whether the last one may come again.
+std::string BashPlaces(const CLI::App& verb) {
+  std::vector<std::string> places;
+  bool repeated = false;
+  for (const OptionView& option : OptionsOf(verb)) {
+    if (!option.positional) continue;
+    places.push_back(option.names.front());
+    repeated = option.repeated;
+  }
+  return "places=(" + Joined(QuotedWords(places), " ") + ")" + (repeated ? " again=yes" : "");
 }
 
 /// Inside of single quotes, with what _arguments takes for its own made harmless.
@@ -68,18 +98,38 @@ std::string ZshText(const std::string& text) {
   return plain;
 }
 
+/// What zsh calls for an argument of the name; empty where nothing completes it.
+std::string ZshAction(const std::string& name) {
+  if (name == kBook) return "_files -g \"*.xls[xm]\"";
+  if (name == kFile) return "_files";
+  if (name == kType) return "_plotsmith_types";
+  for (const BookValue& value : kBookValues) {
+    if (name == value.name) return std::string("_plotsmith_") + value.word;
+  }
+  return "";
+}
+
 std::string ZshArgument(const OptionView& option, int& position) {
   if (option.positional) {
     const std::string place = option.repeated ? "*" : std::to_string(++position);
-    const std::string action = option.names.front() == kBook ? "_files -g \"*.xls[xm]\"" : "";
-    return "'" + place + ":" + ZshText(option.names.front()) + ":" + action + "'";
+    return "'" + place + ":" + ZshText(option.names.front()) + ":" + ZshAction(option.names.front()) + "'";
   }
   const std::string names = option.names.size() == 1
-                                ? "'" + option.names.front()
+                                ? (option.repeated ? "'*" : "'") + option.names.front()
                                 : "'(" + Joined(option.names, " ") + ")'{" + Joined(option.names, ",") + "}'";
   const std::string value =
-      option.value.empty() ? "" : ":" + ZshText(option.value) + ":" + (option.value == kFile ? "_files" : "");
+      option.value.empty() ? "" : ":" + ZshText(option.value) + ":" + ZshAction(option.value);
   return names + "[" + ZshText(option.description) + "]" + value + "'";
+}
+
+/// The functions that ZshAction names.
+std::string ZshQuestions() {
+  std::string text = std::string("_plotsmith_types() { compadd \"$@\" -- ") +
+                     Joined(QuotedWords(ChartTypes()), " ") + " }\n";
+  for (const BookValue& value : kBookValues) {
+    text += std::string("_plotsmith_") + value.word + "() { _plotsmith_ask " + value.word + " \"$@\" }\n";
+  }
+  return text;
 }
 
 std::string ZshArguments(const CLI::App& app) {
@@ -89,43 +139,116 @@ std::string ZshArguments(const CLI::App& app) {
   return text;
 }
 
+/// What the function of the completion calls.
+std::string BashHelpers() {
+  return std::string(R"(# Completion of plotsmith for bash; made from the command's own table of options.
+
+# Puts a word as the shell would pass it on into the variable plain.
+_plotsmith_plain() {
+  plain=$1
+  case $plain in
+    \'*) plain=${plain#\'} plain=${plain%\'} ;;
+    \"*) plain=${plain#\"} plain=${plain%\"} plain=${plain//\\/} ;;
+    *)
+      plain=${plain//\\/}
+      if [[ $plain == '~/'* ]]; then plain=$HOME/${plain:2}; fi ;;
+  esac
+}
+
+# Offers those lines of the input that begin as the word does, quoted as it is.
+_plotsmith_match() {
+  local plain candidate
+  _plotsmith_plain "$word"
+  while IFS= read -r candidate; do
+    [[ $candidate == "$plain"* ]] || continue
+    case $word in
+      \'*) [[ $candidate != *\'* ]] || continue ;;
+      \"*) candidate=${candidate//\\/\\\\} candidate=${candidate//\"/\\\"}
+        candidate=${candidate//\$/\\\$} candidate=${candidate//\`/\\\`} ;;
+      *) printf -v candidate %q "$candidate" ;;
+    esac
+    COMPREPLY+=("$candidate")
+  done
+}
+
+# Offers what the workbook on the line has.
+_plotsmith_ask() {
+  local plain command file id
+  _plotsmith_plain "${COMP_WORDS[0]}"; command=$plain
+  _plotsmith_plain "$book"; file=$plain
+  _plotsmith_plain "$table"; id=$plain
+  [[ -n $file ]] || return
+  _plotsmith_match < <("$command" )") +
+         kComplete +
+         R"( "$1" "$file" ${id:+--table "$id"} 2>/dev/null)
+}
+
+)";
+}
+
 }  // namespace
 
 std::string BashCompletion(const CommandLine& line) {
-  std::string script = R"(# Completion of plotsmith for bash; made from the command's own table of options.
-_plotsmith() {
-  local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} verb= book= options= i
+  std::string script = BashHelpers() + R"(_plotsmith() {
+  local word=${COMP_WORDS[COMP_CWORD]} verb= book= table= option= value= many= again= options= count=0 one i
+  local -a places=()
   for ((i = 1; i < COMP_CWORD; ++i)); do
-    case ${COMP_WORDS[i]} in
-      )" + Joined(VerbNames(line), " | ") +
-                       R"() verb=${COMP_WORDS[i]}; break ;;
-    esac
-  done
-  COMPREPLY=()
-  case $before in
+    one=${COMP_WORDS[i]}
+    if [[ $one == -* ]]; then
+      option=$one value= many=
+      case $option in
 )";
   for (const auto& [value, names] : ValueOptions(line)) {
-    script += "    " + Joined(names, " | ") + ") " +
-              (value == kFile
-                   ? "compopt -o filenames 2>/dev/null; mapfile -t COMPREPLY < <(compgen -f -- \"$word\"); "
-                   : "") +
-              "return ;;\n";
+    script += "        " + Joined(names, " | ") + ") value='" + value.name + "'" +
+              (value.many ? " many=yes" : "") + " ;;\n";
   }
-  script += "  esac\n  case $verb in\n";
+  script += R"(      esac
+    elif [[ -n $value && $one == = ]]; then
+      continue
+    elif [[ -n $value ]]; then
+      if [[ $option == --table ]]; then table=$one; fi
+      if [[ -z $many ]]; then value=; fi
+    elif [[ -z $verb ]]; then
+      verb=$one
+    else
+      if ((++count == 1)); then book=$one; fi
+    fi
+  done
+  if [[ $word == = ]]; then word=; fi
+  case $verb in
+)";
   for (const CLI::App* verb : line.verbs) {
-    script += "    " + verb->get_name() + ") options='" + Joined(OptionNames(*verb), " ") + "'" +
-              (WantsBook(*verb) ? " book=yes" : "") + " ;;\n";
+    script += "    " + verb->get_name() + ") options='" + Joined(OptionNames(*verb), " ") + "' " +
+              BashPlaces(*verb) + " ;;\n";
   }
   script += "  esac\n  options+=' " + Joined(OptionNames(line.app), " ") + R"('
+  COMPREPLY=()
   if [[ $word == -* ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
-  elif [[ -z $verb ]]; then
+    return
+  elif [[ -z $value && -z $verb ]]; then
     mapfile -t COMPREPLY < <(compgen -W ')" +
             Joined(VerbNames(line), " ") + R"(' -- "$word")
-  elif [[ -n $book ]]; then
-    compopt -o filenames 2>/dev/null
-    mapfile -t COMPREPLY < <(compgen -f -X '!*.xls[xm]' -- "$word"; compgen -d -- "$word")
+    return
+  elif [[ -z $value ]]; then
+    if [[ -n $again ]] && ((count >= ${#places[@]})); then count=$((${#places[@]} - 1)); fi
+    value=${places[count]-}
   fi
+  case $value in
+    )" + kFile +
+            R"()
+      compopt -o filenames 2>/dev/null
+      mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
+    )" + kBook +
+            R"()
+      compopt -o filenames 2>/dev/null
+      mapfile -t COMPREPLY < <(compgen -f -X '!*.xls[xm]' -- "$word"; compgen -d -- "$word") ;;
+    )" + kType +
+            ") _plotsmith_match < <(printf '%s\\n' " + Joined(QuotedWords(ChartTypes()), " ") + ") ;;\n";
+  for (const BookValue& value : kBookValues) {
+    script += std::string("    ") + value.name + ") _plotsmith_ask " + value.word + " ;;\n";
+  }
+  script += R"(  esac
 }
 complete -F _plotsmith plotsmith
 )";
@@ -135,8 +258,22 @@ complete -F _plotsmith plotsmith
 std::string ZshCompletion(const CommandLine& line) {
   std::string script = R"(#compdef plotsmith
 # Completion of plotsmith for zsh; made from the command's own table of options.
+
+# Offers what the workbook on the line has.
+_plotsmith_ask() {
+  local kind=$1 book=${(Q)words[(r)*.xls[xm]*]} id=
+  local -i at=${words[(i)--table]}
+  local -a found
+  shift
+  if ((at < CURRENT - 1)); then id=${(Q)words[at + 1]}; fi
+  found=("${(@f)$("$plotsmith" )" +
+                       std::string(kComplete) +
+                       R"( $kind "${book/#\~\//$HOME/}" ${id:+--table} ${id:+"$id"} 2>/dev/null)}")
+  if [[ -n $found ]]; then compadd "$@" -a found; fi
+}
+)" + ZshQuestions() + R"(
 _plotsmith() {
-  local curcontext=$curcontext state line
+  local curcontext=$curcontext state line plotsmith=${(Q)words[1]}
   local -a verbs common
   verbs=()";
   for (const CLI::App* verb : line.verbs) {

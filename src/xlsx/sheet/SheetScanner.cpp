@@ -74,7 +74,7 @@ class SheetScanner : public XmlStream {
   Piece ReadPiece();
   Piece ReadCell(const char* p);
   Piece ReadRareCell(const char* p, std::int32_t column, std::string_view type, std::uint32_t style,
-                     std::string_view value);
+                     std::string_view value, bool formula);
   const char* PassFormula(const char* p) const;
   void ReadRow(std::string_view attributes);
   /// `value` is as written unless it was decoded, and a null view for an empty cell.
@@ -92,8 +92,9 @@ class SheetScanner : public XmlStream {
   }
 
   /// Of the cell that came last: it counts even while its result is missing.
-  void TakeFormula() {
+  void TakeFormula(bool hasResult) {
     contents_.formulas = true;
+    if (!hasResult) contents_.formulasWithoutResult.push_back({row_, column_});
     Use(column_);
   }
 
@@ -348,7 +349,7 @@ SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
       while (*inner != '<' && *inner != '\0') ++inner;
       text = {from, static_cast<std::size_t>(inner - from)};
       if (inner[0] == '<' && inner[1] != '/' && inner[1] != '\0')
-        return ReadRareCell(p, column, type, style, {});
+        return ReadRareCell(p, column, type, style, {}, formula);
       while (*inner != '>' && *inner != '\0') ++inner;
       if (*inner == '\0') return Piece::kCut;
       p = inner + 1;
@@ -357,11 +358,12 @@ SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
       p = PassFormula(inner);
       if (p == nullptr) return Piece::kCut;
     } else {
-      return ReadRareCell(p, column, type, style, text);
+      return ReadRareCell(p, column, type, style, text, formula);
     }
   }
   Store(column, type, style, text);
-  if (formula) TakeFormula();
+  // a result of the type "str" may be the empty text
+  if (formula) TakeFormula(!text.empty() || type == "str");
   position_ = p;
   return Piece::kTaken;
 }
@@ -378,13 +380,13 @@ const char* SheetScanner::PassFormula(const char* p) const {
 
 /// A cell with an inline string, character data, or what some extension put there. It is read with the
 /// general reader from `p`, the "<" of a child of the cell, on; that may move the window, so the views are
-/// copied first.
+/// copied first. `value` and `formula` tell of the children before that one.
 SheetScanner::Piece SheetScanner::ReadRareCell(const char* p, std::int32_t column, std::string_view type,
-                                               std::uint32_t style, std::string_view value) {
+                                               std::uint32_t style, std::string_view value, bool formula) {
   const std::string typeCopy(type);
   text_ = xml::Decode(value);
   bool hasText = value.data() != nullptr;
-  bool inlineText = false, formula = false;
+  bool inlineText = false;
   position_ = p;
   for (int depth = 1; depth > 0;) {
     const Tag tag = Next();
@@ -406,7 +408,7 @@ SheetScanner::Piece SheetScanner::ReadRareCell(const char* p, std::int32_t colum
     }
   }
   Store(column, inlineText ? "inlineStr" : typeCopy, style, hasText ? text_ : std::string_view(), true);
-  if (formula) TakeFormula();
+  if (formula) TakeFormula(!text_.empty() || typeCopy == "str");
   return Piece::kTaken;
 }
 

@@ -11,6 +11,12 @@
 
 namespace plotsmith::xlsx {
 
+/// One cell of a sheet; both numbers from 1.
+struct CellPlace {
+  std::int32_t row = 0, column = 0;
+  bool operator==(const CellPlace&) const = default;
+};
+
 /// What a sheet's part says, as far as we ask.
 struct SheetContents {
   CellStore cells;
@@ -21,6 +27,9 @@ struct SheetContents {
   std::string head;
   /// Whether a cell has a formula. What stands behind the cells may hold some too.
   bool formulas = false;
+  /// Cells with a formula whose result the file doesn't hold, in the order of the file. A program that writes
+  /// formulas without calculating them leaves such cells.
+  std::vector<CellPlace> formulasWithoutResult;
   /// Heights of rows that have their own, in points, in the order of the file; 0 is a hidden row.
   std::vector<std::pair<std::int32_t, double>> rowHeights;
 };

@@ -91,12 +91,23 @@ TEST(SheetScannerTest, SpaceIsSpaceInAnyWriting) {
   EXPECT_EQ(sheet.rowHeights, (std::vector<std::pair<std::int32_t, double>>{{3, 30}, {4, 0}}));
 }
 
+TEST(SheetScannerTest, FormulasWithoutAResultAreToldByTheirCells) {
+  const SheetContents sheet = Scan(
+      "<w><sheetData><row r='2'><c r='A2'><f>1</f><v>1</v></c><c r='B2'><f>1</f><v></v></c>"
+      "<c r='C2'><f>1</f><v/></c><c r='D2'><f>1</f></c><c r='E2' t='str'><f>\"\"</f><v></v></c>"
+      "<c r='F2' t='str'><f>\"\"</f><v/></c><c r='G2'/></row><row r='4'><c r='C4' s='1'><f t='shared' "
+      "si='0'/></c>"
+      "<c r='D4' t='e'><f>1</f><v>#N/A</v></c></row></sheetData></w>");
+  EXPECT_EQ(sheet.formulasWithoutResult, (std::vector<CellPlace>{{2, 2}, {2, 3}, {2, 4}, {4, 3}}));
+}
+
 TEST(SheetScannerTest, WhatCountsAsUsed) {
   const std::pair<const char*, CellRange> cases[] = {
       {"<c r='C9'/><c r='D9'></c><c r='E9' t='inlineStr'><is/></c>", {2, 2, 2, 2}},
       {"<c r='C9' s='1'/>", {2, 2, 9, 3}},
       {"<c r='C9'><f>1+1</f></c>", {2, 2, 9, 3}},
-      {"<c r='C9'><a/><f>1+1</f></c>", {2, 2, 9, 3}}};
+      {"<c r='C9'><a/><f>1+1</f></c>", {2, 2, 9, 3}},
+      {"<c r='C9'><f>1+1</f><v/></c>", {2, 2, 9, 3}}};
   for (const auto& [cells, used] : cases) {
     const std::string row9 = std::string("<row r='9'>") + cells + "</row>";
     EXPECT_EQ(Scan("<w><sheetData><row r='2'><c r='B2'><v>1</v></c></row>" + row9 + "</sheetData></w>").used,

@@ -1,0 +1,69 @@
+#include "cli/check/ChartMarkers.h"
+
+#include <vector>
+
+#include "cli/check/Words.h"
+#include "host/excel/Constants.h"
+#include "xlsx/SheetDrawing.h"
+#include "xlsx/Worksheet.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::cli {
+namespace {
+
+/// The alternative texts of the charts in a group, however deep.
+std::vector<std::string> TextsInGroup(pugi::xml_node group) {
+  struct Walker : pugi::xml_tree_walker {
+    std::vector<std::string> texts;
+    bool for_each(pugi::xml_node& node) override {
+      if (xlsx::ChartLinkOf(node)) texts.push_back(xlsx::xml::Attribute(xlsx::IdentityOf(node), "descr"));
+      return true;
+    }
+  } walker;
+  group.traverse(walker);
+  return walker.texts;
+}
+
+}  // namespace
+
+ChartMarkers::ChartMarkers(xlsx::Workbook& book) {
+  for (const auto& sheet : book.AllWorksheets()) {
+    const xlsx::SheetDrawing* const drawing = sheet->FindDrawing();
+    if (drawing == nullptr) continue;
+    for (const auto& shape : drawing->Shapes()) {
+      if (shape->Type() == excel::msoChart) {
+        const std::string text = shape->AlternativeText();
+        if (text.empty())
+          ++unmarked_;
+        else
+          sheets_.emplace(text, sheet->SheetName());
+      } else if (shape->Type() == excel::msoGroup) {
+        for (const std::string& text : TextsInGroup(shape->Object()))
+          grouped_.emplace(text, sheet->SheetName());
+      }
+    }
+  }
+}
+
+std::string ChartMarkers::SheetOf(const std::string& id) {
+  const auto found = sheets_.find(id);
+  return found == sheets_.end() ? lost_.SheetOf(id) : found->second;
+}
+
+std::string ChartMarkers::Absence(const std::string& id) const {
+  if (const auto group = grouped_.find(id); group != grouped_.end()) {
+    return "the chart with the alternative text " + Quoted(id) + " is in a group of shapes on the sheet " +
+           Quoted(group->second) + ", where it isn't seen; ungroup it";
+  }
+  std::vector<std::string> others;
+  for (const auto& [text, sheet] : sheets_) others.push_back(Quoted(text));
+  std::vector<std::string> charts;
+  if (!others.empty())
+    charts.push_back((others.size() == 1 ? "a chart with " : "charts with ") + Listed(others));
+  if (unmarked_ > 0) charts.push_back(Counted(unmarked_, "chart") + " without any");
+  const std::string start = "no chart has the alternative text " + Quoted(id) + "; ";
+  if (charts.empty()) return start + "there are no charts";
+  return start + (others.size() + unmarked_ == 1 ? "there is " : "there are ") + Listed(charts);
+}
+
+}  // namespace plotsmith::cli

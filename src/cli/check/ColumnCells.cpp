@@ -1,0 +1,37 @@
+#include "cli/check/ColumnCells.h"
+
+#include "common/CommonFunctions.h"
+#include "metadata/TableDefinitions.h"
+
+namespace plotsmith::cli {
+
+TableArea::TableArea(const dom::IXMLDOMElement& table)
+    : sheet(GetAttributeText(table, "table-worksheet")),
+      leftColumn(GetAttributeLong(table, "table-left-column")) {
+  const std::int32_t top = GetAttributeLong(table, "table-top-row");
+  firstRow = top + GetAttributeLong(table, "header-row-count");
+  lastRow = top + GetAttributeLong(table, "table-height") - 1;
+}
+
+ColumnCells::ColumnCells(xlsx::Worksheet& sheet, const TableArea& area, std::int32_t column) {
+  using Kind = excel::CellValue::Kind;
+  for (std::int32_t row = area.HeadingRow();
+       (row = sheet.NextRowAt(row, column)) != 0 && row <= area.lastRow;) {
+    const excel::CellValue value = sheet.CellValueAt(row, column);
+    if (!IsLabelValue(value)) continue;
+    if (value.kind == Kind::kDate) {
+      hasDates = true;
+    } else if (value.kind == Kind::kError) {
+      if (errors++ == 0) {
+        firstError = row;
+        error = value.text;
+      }
+    } else {
+      firstText = row;
+      text = value.text;
+      return;
+    }
+  }
+}
+
+}  // namespace plotsmith::cli

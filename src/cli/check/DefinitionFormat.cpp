@@ -1,0 +1,260 @@
+#include "cli/check/DefinitionFormat.h"
+
+#include <algorithm>
+
+#include "cli/check/Words.h"
+#include "common/CommonFunctions.h"
+
+namespace plotsmith::cli {
+namespace {
+
+using Names = std::vector<std::string_view>;
+
+const Names kTypes = {"area", "bar", "column", "pie", "bubble", "strategic bucket"};
+const Names kPivotTypes = {"area", "bar", "column", "pie"};
+const Names kBlockTypes = {"bubble", "strategic bucket"};
+const Names kYesNo = {"yes", "no"};
+
+struct AttributeFormat {
+  std::string_view name;
+  Names values = {};      ///< empty: any
+  bool required = false;  ///< an empty one counts as missing
+  bool isOwn = false;     ///< only the system writes it
+};
+
+struct ElementFormat {
+  std::string_view name;
+  std::vector<AttributeFormat> attributes = {};
+  std::vector<ElementFormat> children = {};
+  bool repeated = false;  ///< may come more than once
+};
+
+/// An option that can be changed on the chart by hand, and the types that have it.
+struct DynamicSetting {
+  std::string_view name;
+  Names types;
+};
+
+// A strategic bucket chart is drawn as stacked columns, and a look at the chart may find it so.
+const DynamicSetting kDynamicSettings[] = {{"3D", kTypes},
+                                           {"stacked", {"area", "bar", "column", "strategic bucket"}},
+                                           {"100%", {"area", "bar", "column", "strategic bucket"}},
+                                           {"exploded", {"pie"}}};
+
+Names DynamicSettings() {
+  Names names;
+  for (const DynamicSetting& setting : kDynamicSettings) names.push_back(setting.name);
+  return names;
+}
+
+ElementFormat SettingFormat(Names settings) {
+  return {"attribute", {{"setting", std::move(settings), true}}, {}, true};
+}
+
+/// The properties of a font by what their names begin with.
+void AppendFont(std::vector<std::string>& properties, const std::string& stem) {
+  for (const char* end : {"name", "size", "style", "color", "autoscale"}) {
+    properties.push_back(stem + "-font-" + end);
+  }
+}
+
+ElementFormat PersistFormat() {
+  static const std::vector<std::string> properties = [] {
+    std::vector<std::string> list = {"legend-visibility", "legend-position", "legend-left", "legend-top",
+                                     "label-font-background-color"};
+    for (const char* stem : {"legend", "label", "bucket-label", "LabelAxis", "ValueAxis"})
+      AppendFont(list, stem);
+    return list;
+  }();
+  return {"persist", {{"property", Names(properties.begin(), properties.end()), true}, {"value"}}, {}, true};
+}
+
+std::vector<ElementFormat> GroupFormats() {
+  const ElementFormat column = {
+      "column", {{"name", {}, true}, {"worksheet-column-number", {}, false, true}}, {}, true};
+  std::vector<ElementFormat> formats;
+  for (const ColumnGroup& group : ColumnGroups()) {
+    ElementFormat& format = formats.emplace_back(ElementFormat{group.element, {}, {column}});
+    if (!group.headingsIn.empty()) format.attributes.push_back({"headings-in", group.headingsIn, true});
+    if (format.name == "sort-order") format.attributes.push_back({"sort", {"ascending", "descending"}, true});
+  }
+  return formats;
+}
+
+std::vector<AttributeFormat> ChartAttributes() {
+  std::vector<AttributeFormat> attributes = {{"id"},           {"name"},
+                                             {"title"},        {"type", kTypes, true},
+                                             {"table-id"},     {"strategic-bucket-table-id"},
+                                             {"number-format"}};
+  for (const char* name :
+       {"ps-chart-schema-version", "chart-worksheet", "table-worksheet", "table-corrupted",
+        "chart-area-crosshatched", "table-top-row", "table-left-column", "table-height", "header-row-count",
+        "bucket-name-column-position", "bucket-value-column-position", "data-start-row"}) {
+    attributes.push_back({name, {}, false, true});
+  }
+  return attributes;
+}
+
+const ElementFormat& ChartFormat() {
+  static const ElementFormat chart = [] {
+    ElementFormat format = {"chart", ChartAttributes(), GroupFormats()};
+    const ElementFormat others[] = {
+        {"axes",
+         {},
+         {{"axis", {{"type", {"label", "value"}, true}, {"label"}, {"sticky", kYesNo}}, {}, true}}},
+        {"data-labels",
+         {{"manual-labels", kYesNo}},
+         {{"data-label", {{"show", {"values", "percentages"}, true}}, {}, true}}},
+        {"dynamic-attributes", {}, {SettingFormat(DynamicSettings())}},
+        {"static-attributes",
+         {},
+         {SettingFormat({"show-zero-bubbles", "quadrants", "autoscale-x", "autoscale-y"})}},
+        {"comment"},
+        {"auto-persistence", {}, {PersistFormat()}}};
+    format.children.insert(format.children.end(), std::begin(others), std::end(others));
+    return format;
+  }();
+  return chart;
+}
+
+/// Declarations of name spaces and attributes of foreign ones say nothing to the system.
+bool IsForeign(const std::string& name) { return name == "xmlns" || name.find(':') != std::string::npos; }
+
+bool Contains(const Names& names, std::string_view name) {
+  return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+/// What an attribute can be, as the end of a sentence.
+std::string Allowed(const AttributeFormat& attribute) {
+  return "; it can be " + Listed({attribute.values.begin(), attribute.values.end()}, "or") + ".";
+}
+
+/// The attributes that a person or a program writes, as the end of a sentence.
+std::string KnownAttributes(const ElementFormat& format) {
+  std::vector<std::string> names;
+  for (const AttributeFormat& attribute : format.attributes) {
+    if (!attribute.isOwn) names.emplace_back(attribute.name);
+  }
+  return "; " + ThereAre(names) + ".";
+}
+
+std::string KnownChildren(const ElementFormat& format) {
+  std::vector<std::string> names;
+  for (const ElementFormat& child : format.children) names.emplace_back(child.name);
+  return "; " + ThereAre(names) + ".";
+}
+
+/// The walk over the elements of one definition.
+class FormatCheck {
+ public:
+  explicit FormatCheck(const std::string& place) : place_(place) {}
+
+  void CheckElement(const dom::IXMLDOMElement& element, const ElementFormat& format) {
+    CheckAttributes(element, format);
+    CheckChildren(element, format);
+  }
+  /// A known setting that charts of the type don't have.
+  void CheckSettings(const dom::IXMLDOMElement& chart) {
+    const std::string type = GetAttributeText(chart, "type");
+    if (!Contains(kTypes, type)) return;
+    std::vector<std::string> allowed;
+    for (const DynamicSetting& setting : kDynamicSettings) {
+      if (Contains(setting.types, type)) allowed.emplace_back(setting.name);
+    }
+    for (const DynamicSetting& setting : kDynamicSettings) {
+      if (Contains(setting.types, type) || !HasSetting(chart, "dynamic-attributes", setting.name)) continue;
+      Report("A " + type + " chart has no setting " + Quoted(setting.name) + "; it can have " +
+             Listed(allowed) + ".");
+    }
+  }
+  Findings Take() { return std::move(findings_); }
+
+ private:
+  void Report(std::string sentence) {
+    findings_.push_back({place_, FindingKind::kFormat, std::move(sentence)});
+  }
+
+  void CheckAttributes(const dom::IXMLDOMElement& element, const ElementFormat& format) {
+    const std::string owner = "The element " + Quoted(format.name);
+    for (const auto& [name, value] : element.attributes()) {
+      const auto known =
+          std::find_if(format.attributes.begin(), format.attributes.end(),
+                       [&, &text = name](const AttributeFormat& other) { return other.name == text; });
+      if (known != format.attributes.end()) {
+        CheckValue(*known, value);
+      } else if (!IsForeign(name)) {
+        Report(owner + " has an unknown attribute " + Quoted(name) + KnownAttributes(format));
+      }
+    }
+    for (const AttributeFormat& attribute : format.attributes) {
+      if (!attribute.required || !GetAttributeText(element, std::string(attribute.name).c_str()).empty())
+        continue;
+      Report(owner + " has no " + Quoted(attribute.name) +
+             (attribute.values.empty() ? "." : Allowed(attribute)));
+    }
+  }
+
+  void CheckValue(const AttributeFormat& attribute, const std::string& value) {
+    if (value.empty() || attribute.values.empty() || Contains(attribute.values, value)) return;
+    if (attribute.values == kTypes && value == "unknown") {
+      Report("The type is 'unknown', since the chart was changed by hand to one that isn't supported" +
+             Allowed(attribute));
+    } else {
+      Report("The attribute " + Quoted(attribute.name) + " has an unknown value " + Quoted(value) +
+             Allowed(attribute));
+    }
+  }
+
+  void CheckChildren(const dom::IXMLDOMElement& element, const ElementFormat& format) {
+    Names seen;
+    for (const dom::IXMLDOMElement& child : element.childElements()) {
+      const std::string name = child.tagName();
+      const auto known = std::find_if(format.children.begin(), format.children.end(),
+                                      [&](const ElementFormat& other) { return other.name == name; });
+      if (known == format.children.end()) {
+        Report("The element " + Quoted(format.name) + " has an unknown child " + Quoted(name) +
+               KnownChildren(format));
+        continue;
+      }
+      if (!known->repeated && Contains(seen, known->name)) {
+        Report("The element " + Quoted(name) + " comes twice, and only the first one counts.");
+      }
+      seen.push_back(known->name);
+      CheckElement(child, *known);
+    }
+  }
+
+  const std::string& place_;
+  Findings findings_;
+};
+
+}  // namespace
+
+std::vector<std::string> ChartTypes() { return {kTypes.begin(), kTypes.end()}; }
+
+Findings CheckFormat(const dom::IXMLDOMElement& chart, const std::string& place) {
+  FormatCheck check(place);
+  check.CheckElement(chart, ChartFormat());
+  check.CheckSettings(chart);
+  return check.Take();
+}
+
+bool ColumnGroup::IsReadFor(std::string_view type) const { return Contains(readFor, type); }
+bool ColumnGroup::IsNeededFor(std::string_view type) const { return Contains(neededFor, type); }
+
+const std::vector<ColumnGroup>& ColumnGroups() {
+  static const std::vector<ColumnGroup> groups = [] {
+    Names valueTypes = kPivotTypes;
+    valueTypes.emplace_back("bubble");
+    return std::vector<ColumnGroup>{
+        {"categories", kTypes, kTypes, false, {"rows", "columns"}},
+        {"series", kTypes, kPivotTypes, false, {"rows", "columns", "none"}},
+        {"values", valueTypes, {"bubble"}, true},  // of the others, headings in columns can take its place
+        {"x-values", {"bubble"}, {}, true},
+        {"bubble-sizes", {"bubble"}, {}, true},
+        {"sort-order", {"strategic bucket"}, {}, true}};
+  }();
+  return groups;
+}
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,236 @@
+#include "cli/check/SourceCheck.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "cli/check/ColumnCells.h"
+#include "cli/check/DefinitionFormat.h"
+#include "cli/check/Words.h"
+#include "common/CommonFunctions.h"
+#include "common/RunVariables.h"
+#include "runtime/Strings.h"
+
+namespace plotsmith::cli {
+namespace {
+
+using dom::IXMLDOMElement;
+using dom::IXMLDOMNodeList;
+
+constexpr const char* kBucketType = "strategic bucket";
+
+/// The tables that there are, as the end of a sentence.
+std::string OtherTables() {
+  std::vector<std::string> ids;
+  for (const auto& document : *colTables) {
+    ids.push_back(GetAttributeText(document.selectSingleNode("table"), "id"));
+  }
+  return ThereAre(ids);
+}
+
+std::string Headings(const IXMLDOMNodeList& columns) {
+  std::vector<std::string> names;
+  for (const IXMLDOMElement& column : columns) names.push_back(GetAttributeText(column, "name"));
+  return Listed(names);
+}
+
+/// The column of that name as a chart finds it, ignoring case; Nothing if there is none.
+IXMLDOMElement FindColumn(const IXMLDOMNodeList& columns, const std::string& name) {
+  const auto found = std::find_if(columns.begin(), columns.end(), [&](const IXMLDOMElement& column) {
+    return runtime::EqualsIgnoreCase(GetAttributeText(column, "name"), name);
+  });
+  return found == columns.end() ? IXMLDOMElement() : *found;
+}
+
+/// The checks of one definition; each method is about one kind of fault.
+class SourceCheck {
+ public:
+  SourceCheck(xlsx::Workbook& book, const IXMLDOMElement& chart, const std::string& place)
+      : book_(book), chart_(chart), place_(place), type_(GetAttributeText(chart, "type")) {}
+
+  Findings Run() {
+    for (const ColumnGroup& group : ColumnGroups()) CheckGroup(group);
+    CheckValuesHaveASource();
+    CheckHeadingsInColumns();
+    table_ = FindTable("table-id", "table");
+    if (table_) {
+      CheckTableServes();
+      for (const ColumnGroup& group : ColumnGroups()) CheckColumns(group);
+    }
+    CheckBucketTable();
+    return std::move(findings_);
+  }
+
+ private:
+  void Report(FindingKind kind, std::string sentence) {
+    findings_.push_back({place_, kind, std::move(sentence)});
+  }
+
+  IXMLDOMElement Group(const char* element) const { return chart_.selectSingleNode(element); }
+  std::string HeadingsIn(const char* element) const {
+    const auto group = Group(element);
+    return group ? GetAttributeText(group, "headings-in") : "";
+  }
+
+  /// Whether an element is there that the type needs, and names as many columns as it takes.
+  void CheckGroup(const ColumnGroup& group) {
+    const std::string quoted = Quoted(group.element);
+    const auto element = Group(group.element);
+    if (!element) {
+      if (group.IsNeededFor(type_)) {
+        Report(FindingKind::kFormat, "A " + type_ + " chart needs the element " + quoted + ".");
+      }
+      return;
+    }
+    const std::string headingsIn = GetAttributeText(element, "headings-in");
+    if (!group.IsReadFor(type_) || headingsIn == "none") return;
+    const std::size_t count = element.selectNodes("column").size();
+    if (count == 0) {
+      Report(FindingKind::kFormat, "The element " + quoted + " names no column.");
+    } else if (count > 1 && headingsIn != "columns") {
+      Report(FindingKind::kFormat, "The element " + quoted +
+                                       (headingsIn == "rows" ? " with headings in rows" : "") +
+                                       " takes one column, and it names " + std::to_string(count) + ".");
+    }
+  }
+
+  /// Values come from the element of that name, or from the columns whose names are the headings.
+  void CheckValuesHaveASource() {
+    const bool isPivot = type_ == "area" || type_ == "bar" || type_ == "column" || type_ == "pie";
+    if (!isPivot || Group("values")) return;
+    if (HeadingsIn("categories") == "columns" || HeadingsIn("series") == "columns") return;
+    Report(FindingKind::kFormat,
+           "A " + type_ + " chart needs the element 'values', unless its headings are in columns.");
+  }
+
+  void CheckHeadingsInColumns() {
+    const bool categories = HeadingsIn("categories") == "columns", series = HeadingsIn("series") == "columns";
+    if (categories && series) {
+      Report(FindingKind::kFormat,
+             "Categories and series both have their headings in columns; only one of them can.");
+    }
+    if ((categories || series) && (type_ == "bubble" || type_ == kBucketType)) {
+      Report(FindingKind::kFormat,
+             "A " + type_ + " chart has no headings in columns; 'headings-in' is rows, or none for series.");
+    }
+  }
+
+  /// The table that an attribute names; Nothing, with a finding, if there is none.
+  IXMLDOMElement FindTable(const char* attribute, const std::string& noun) {
+    const std::string id = GetAttributeText(chart_, attribute);
+    if (id.empty()) {
+      Report(FindingKind::kTable, "The definition has no " + Quoted(attribute) + "; " + OtherTables() + ".");
+    } else if (CollectionHasKey(id, colTables)) {
+      return colTables->Item(id).selectSingleNode("table");
+    } else {
+      Report(FindingKind::kTable,
+             "There is no " + noun + " " + Quoted(id) + WhyNot(id) + "; " + OtherTables() + ".");
+    }
+    return {};
+  }
+
+  /// A sheet that has the name of a data sheet may be no table for want of data.
+  std::string WhyNot(const std::string& id) const {
+    const auto sheet = book_.FindWorksheet(id);
+    return id.starts_with("Data") && sheet && sheet->UsedCells().row2 < 2
+               ? ", as its sheet has no row of data"
+               : "";
+  }
+
+  void CheckTableServes() {
+    const std::string quoted = "The table " + Quoted(GetAttributeText(table_, "id"));
+    if (!TableArea(table_).HasData()) Report(FindingKind::kTable, quoted + " has no row of data.");
+    const std::string columns = ", which a chart needs; it has " + Headings(table_.childElements()) + ".";
+    for (const char* kind : {"label", "number"}) {
+      if (!table_.selectSingleNode((std::string(kind) + "-column").c_str())) {
+        Report(FindingKind::kTable, quoted + " has no " + kind + " column" + columns);
+      }
+    }
+  }
+
+  /// Whether the table has the columns of a group, and numbers in those that give numbers. A refresh looks
+  /// for the columns of all groups, whatever the type.
+  void CheckColumns(const ColumnGroup& group) {
+    const auto element = Group(group.element);
+    if (!element) return;
+    const bool numbers = group.IsReadFor(type_) && (group.numbers || HeadingsIn(group.element) == "columns");
+    for (const IXMLDOMElement& column : element.selectNodes("column")) {
+      const std::string name = GetAttributeText(column, "name");
+      if (name.empty()) continue;
+      if (const auto found = FindColumn(Columns(), name)) {
+        if (numbers && found.tagName() == "label-column") CheckNumbers(group, found);
+      } else {
+        Report(FindingKind::kColumn, "The table " + Quoted(GetAttributeText(table_, "id")) +
+                                         " has no column " + Quoted(name) + " for " + Quoted(group.element) +
+                                         "; it has " + Headings(table_.childElements()) + ".");
+      }
+    }
+  }
+
+  /// Label columns come first, as they do for a refresh.
+  IXMLDOMNodeList Columns() const {
+    IXMLDOMNodeList columns = table_.selectNodes("label-column");
+    for (auto& column : table_.selectNodes("number-column")) columns.push_back(column);
+    return columns;
+  }
+
+  /// Says which cell makes a column that is to give numbers a label column. Dates count as numbers here.
+  void CheckNumbers(const ColumnGroup& group, const IXMLDOMElement& column) {
+    const TableArea area(table_);
+    const auto sheet = book_.FindWorksheet(area.sheet);
+    if (!sheet) return;
+    const std::int32_t number = GetAttributeLong(column, "worksheet-column-number");
+    const ColumnCells cells(*sheet, area, number);
+    const bool isError = cells.firstError != 0;  // the search for errors ends at the first text
+    const std::int32_t row = isError ? cells.firstError : cells.firstText;
+    if (row == 0) return;
+    findings_.push_back({CellText(area.sheet, row, number), FindingKind::kColumn,
+                         "The column " + Quoted(GetAttributeText(column, "name")) +
+                             " is no number column, as " + Quoted(group.element) +
+                             " wants, since this cell holds " +
+                             (isError ? "the error " + cells.error : "the text " + Quoted(cells.text)) +
+                             ", which counts as 0."});
+  }
+
+  void CheckBucketTable() {
+    if (GetAttributeText(chart_, "strategic-bucket-table-id").empty() && type_ != kBucketType) return;
+    const auto bucketTable = FindTable("strategic-bucket-table-id", "bucket table");
+    if (!bucketTable || !table_) return;
+    const std::string id = GetAttributeText(bucketTable, "id"), quoted = "The table " + Quoted(id);
+    if (id == GetAttributeText(table_, "id")) {
+      Report(FindingKind::kTable, quoted + " can't be the bucket table of its own chart.");
+    } else if (GetAttributeText(bucketTable, "is-bucket-candidate") != "yes") {
+      Report(FindingKind::kTable, quoted +
+                                      " can't be a bucket table, as that is a range table with a label "
+                                      "column first and a number column second.");
+    } else {
+      CheckBucketColumn(bucketTable, "bucket-name-column", "label");
+      CheckBucketColumn(bucketTable, "bucket-value-column", "number");
+    }
+  }
+
+  /// The source table has a column of the same heading and kind.
+  void CheckBucketColumn(const IXMLDOMElement& bucketTable, const char* attribute, const std::string& kind) {
+    const std::string heading = GetAttributeText(bucketTable, attribute);
+    const auto columns = table_.selectNodes((kind + "-column").c_str());
+    if (FindColumn(columns, heading)) return;
+    Report(FindingKind::kTable, "The bucket table " + Quoted(GetAttributeText(bucketTable, "id")) +
+                                    " doesn't go with the table " + Quoted(GetAttributeText(table_, "id")) +
+                                    ", which has no " + kind + " column " + Quoted(heading) + "; its " +
+                                    kind + " columns are " + Headings(columns) + ".");
+  }
+
+  xlsx::Workbook& book_;
+  const IXMLDOMElement& chart_;
+  const std::string& place_;
+  std::string type_;
+  IXMLDOMElement table_;  ///< the source table; Nothing if it isn't there
+  Findings findings_;
+};
+
+}  // namespace
+
+Findings CheckSource(xlsx::Workbook& book, const IXMLDOMElement& chart, const std::string& place) {
+  return SourceCheck(book, chart, place).Run();
+}
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,53 @@
+#include "cli/check/Words.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "runtime/Strings.h"
+#include "xlsx/sheet/Reference.h"
+
+namespace plotsmith::cli {
+namespace {
+
+/// UTF-16 units of a text that a sentence quotes.
+constexpr std::size_t kLongest = 60;
+/// Items of a list that a sentence names.
+constexpr std::size_t kMostItems = 40;
+
+}  // namespace
+
+std::string OneLine(std::string text) {
+  for (char& c : text) {
+    if (static_cast<unsigned char>(c) < ' ') c = ' ';
+  }
+  return text;
+}
+
+std::string Quoted(std::string_view text) {
+  if (runtime::Len(text) <= kLongest) return "'" + OneLine(std::string(text)) + "'";
+  return "'" + OneLine(runtime::Mid(text, 1, kLongest)) + "...'";
+}
+
+std::string Listed(const std::vector<std::string>& items, const char* word) {
+  if (items.empty()) return "none";
+  const std::size_t shown = std::min(items.size(), kMostItems), left = items.size() - shown;
+  const std::string last = std::string(" ") + word + " ";
+  std::string text = items.front();
+  for (std::size_t i = 1; i < shown; ++i) text += (i + 1 == items.size() ? last : ", ") + items[i];
+  text = OneLine(std::move(text));
+  return left == 0 ? text : text + last + std::to_string(left) + " more";
+}
+
+std::string ThereAre(const std::vector<std::string>& items) {
+  return (items.size() == 1 ? "there is " : "there are ") + Listed(items);
+}
+
+std::string Counted(std::size_t count, const std::string& noun) {
+  return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
+std::string CellText(std::string_view sheet, std::int32_t row, std::int32_t column) {
+  return xlsx::QuotedSheetName(sheet) + "!" + xlsx::CellAddress(row, column, false);
+}
+
+}  // namespace plotsmith::cli

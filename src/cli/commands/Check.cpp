@@ -1,0 +1,136 @@
+#include "cli/commands/Check.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+#include "cli/Session.h"
+#include "cli/TableFacts.h"
+#include "cli/check/DefinitionCheck.h"
+#include "cli/check/TableCheck.h"
+#include "cli/check/Words.h"
+#include "runtime/RuntimeError.h"
+
+namespace plotsmith::cli {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr const char* kNoDefinitions = "There are no definitions of charts.";
+constexpr const char* kNoTables =
+    "There are no tables. To make one, call a sheet Data1, with headings in row 1; or give the data a name "
+    "that begins with VEX_TableRange, with a title in its first cell and headings in its third row.";
+
+struct Report {
+  std::vector<CheckedDefinition> definitions;
+  std::vector<CheckedTable> tables;
+
+  bool IsFine() const {
+    const auto isFine = [](const auto& checked) { return checked.findings.empty(); };
+    return std::all_of(definitions.begin(), definitions.end(), isFine) &&
+           std::all_of(tables.begin(), tables.end(), isFine);
+  }
+};
+
+Json Describe(const Findings& findings) {
+  Json list = Json::array();
+  for (const Finding& finding : findings) {
+    list.push_back(
+        {{"place", finding.place}, {"kind", KindName(finding.kind)}, {"sentence", finding.sentence}});
+  }
+  return list;
+}
+
+Json Describe(const CheckedDefinition& definition) {
+  return {{"place", definition.place},
+          {"id", definition.id},
+          {"name", definition.name},
+          {"type", definition.type},
+          {"table", definition.table},
+          {"chartSheet", definition.chartSheet},
+          {"findings", Describe(definition.findings)}};
+}
+
+Json Describe(const CheckedTable& checked) {
+  Json facts = checked.table ? TableFacts(checked.table) : Json{{"id", checked.id}};
+  facts["findings"] = Describe(checked.findings);
+  return facts;
+}
+
+template <class List>
+Json DescribeAll(const List& list) {
+  Json described = Json::array();
+  for (const auto& item : list) described.push_back(Describe(item));
+  return described;
+}
+
+/// Ends a line that says what was looked at, and puts a sentence a line below it.
+void Print(std::ostream& out, const Findings& findings) {
+  out << (findings.empty() ? ": ok\n" : ":\n");
+  for (const Finding& finding : findings) out << "  " << finding.place << ": " << finding.sentence << '\n';
+}
+
+void Print(std::ostream& out, const CheckedDefinition& definition) {
+  std::string line = definition.place;
+  if (!definition.id.empty()) line += "  " + definition.id;
+  if (!definition.name.empty()) line += "  \"" + definition.name + '"';
+  if (!definition.type.empty()) line += "  " + definition.type + " chart";
+  if (!definition.chartSheet.empty()) line += " on sheet " + definition.chartSheet;
+  if (!definition.table.empty()) line += ", from table " + definition.table;
+  out << OneLine(line);
+  Print(out, definition.findings);
+}
+
+void Print(std::ostream& out, const CheckedTable& checked) {
+  std::string line = checked.id;
+  if (checked.table) {
+    const Json facts = TableFacts(checked.table);
+    line += "  \"" + facts["name"].get<std::string>() + "\"  " + TablePlace(facts);
+    const char* separator = "; ";
+    for (const Json& column : facts["columns"]) {
+      line += separator + column["kind"].get<std::string>() + ' ' + column["name"].get<std::string>();
+      separator = ", ";
+    }
+  }
+  out << OneLine(line);
+  Print(out, checked.findings);
+}
+
+void Print(std::ostream& out, const Report& report) {
+  for (const CheckedDefinition& definition : report.definitions) Print(out, definition);
+  if (report.definitions.empty()) out << kNoDefinitions << '\n';
+  for (const CheckedTable& table : report.tables) Print(out, table);
+  if (report.tables.empty()) out << kNoTables << '\n';
+}
+
+}  // namespace
+
+CLI::App* CheckCommand::Declare(CLI::App& app) {
+  CLI::App* verb =
+      app.add_subcommand("check", "Say what is wrong with definitions and tables, and change nothing");
+  verb->add_option("BOOK", book_, "The workbook")->required();
+  verb->add_flag("--json", json_, "As JSON");
+  return verb;
+}
+
+int CheckCommand::Run(const GlobalOptions& options, const Streams& streams) {
+  Session session(book_, options, streams);
+  Report report;
+  try {
+    session.LoadTables();
+    report = {CheckDefinitions(session.Book()), CheckTables(session.Book())};
+  } catch (const runtime::RuntimeError&) {
+    session.Finish();  // says what is damaged
+    throw;
+  }
+  const int code = session.Finish();
+  if (json_) {
+    const Json json = {{"definitions", DescribeAll(report.definitions)},
+                       {"tables", DescribeAll(report.tables)}};
+    streams.out << json.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+  } else {
+    Print(streams.out, report);
+  }
+  return report.IsFine() ? code : exit_code::kSaidSomething;
+}
+
+}  // namespace plotsmith::cli

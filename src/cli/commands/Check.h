@@ -1,0 +1,18 @@
+#pragma once
+
+#include "cli/Command.h"
+
+namespace plotsmith::cli {
+
+/// Says what is wrong with the definitions and tables of a workbook, and changes nothing.
+class CheckCommand final : public Command {
+ public:
+  CLI::App* Declare(CLI::App& app) override;
+  int Run(const GlobalOptions& options, const Streams& streams) override;
+
+ private:
+  std::string book_;
+  bool json_ = false;
+};
+
+}  // namespace plotsmith::cli
