@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <unistd.h>
 #include <vector>
@@ -223,14 +224,17 @@ std::string ChoicesIn(const dom::IXMLDOMDocument2& document) {
   for (const char* attribute : {"name", "title", "type", "table-id", "number-format"}) {
     text += GetAttributeText(chart, attribute) + "\n";
   }
-  for (const auto& element : chart.selectNodes("//column")) text += GetAttributeText(element, "name") + "\n";
-  for (const char* group : {"categories", "series"}) {
+  for (const char* group : {"categories", "series", "values", "x-values", "bubble-sizes", "sort-order"}) {
     const auto element = chart.selectSingleNode(group);
-    if (element) text += GetAttributeText(element, "headings-in") + "\n";
+    if (!element) continue;
+    text += std::string(group) + " " + GetAttributeText(element, "headings-in") + "\n";
+    for (const auto& column : element.childElements()) text += GetAttributeText(column, "name") + "\n";
   }
+  std::set<std::string> settings;  // the load has an order of its own
   for (const auto& element : chart.selectNodes("//attribute")) {
-    text += GetAttributeText(element, "setting") + "\n";
+    settings.insert(GetAttributeText(element, "setting"));
   }
+  for (const std::string& setting : settings) text += setting + "\n";
   return text;
 }
 
