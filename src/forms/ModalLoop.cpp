@@ -60,7 +60,8 @@ class ModalLoop::Shown {
   ModalLoop& loop_;
 };
 
-void ModalLoop::ShowModal(const std::shared_ptr<Form>& form) {
+// The form is kept by value: an event of the form may put another one into the variable that it came from.
+void ModalLoop::ShowModal(std::shared_ptr<Form> form) {
   form->Load();
   if (form->IsUnloaded()) return;
   {

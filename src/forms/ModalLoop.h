@@ -56,7 +56,7 @@ class ModalLoop {
   /// Loads a form, if it isn't loaded yet, and shows it in front of the others. Returns when the form has
   /// gone from the screen; an error of one of its events ends the show and goes to the caller. Gestures on a
   /// form that isn't the one in front are dropped.
-  void ShowModal(const std::shared_ptr<Form>& form);
+  void ShowModal(std::shared_ptr<Form> form);
   /// Lets the view work, and timers of the form in front tick, in the middle of an event. Gestures wait until
   /// that event is over.
   void DoEvents();

@@ -34,8 +34,8 @@ class Timer : public Control {
   /// How long until the next tick is due; zero or less when it is, absent while the timer is off.
   std::optional<std::chrono::milliseconds> UntilDue() const {
     if (!Enabled() || interval_ <= 0) return std::nullopt;
-    return std::chrono::duration_cast<std::chrono::milliseconds>(
-        started_ + std::chrono::milliseconds(interval_) - Clock::now());
+    return std::chrono::ceil<std::chrono::milliseconds>(started_ + std::chrono::milliseconds(interval_) -
+                                                        Clock::now());
   }
   /// Raises Tick and starts the interval anew.
   void Fire() {
