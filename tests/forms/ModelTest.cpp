@@ -1,0 +1,329 @@
+#include <deque>
+#include <gtest/gtest.h>
+#include <thread>
+
+#include "forms/Timer.h"
+#include "runtime/RuntimeError.h"
+#include "tests/support/ErrorOf.h"
+#include "tests/support/SmallForm.h"
+
+namespace plotsmith::forms {
+namespace {
+
+using S = std::string;
+using Log = std::vector<S>;
+using test::SmallForm;
+
+struct Rule {
+  const char* name;
+  std::function<void(SmallForm&)> act;
+  Log events;
+};
+
+Log EventsOf(const Rule& rule) {
+  Log log;
+  SmallForm form(log);
+  rule.act(form);
+  return log;
+}
+
+TEST(ModelTest, CodeThatSetsAPropertyRaisesWhatAHandWould) {
+  const Rule rules[] = {
+      {"another entry", [](auto& form) { form.cboValues.SetListIndex(1); }, {"cboValues click"}},
+      {"the same entry", [](auto& form) { form.cboValues.SetListIndex(-1); }, {}},
+      {"no entry",
+       [](auto& form) {
+         form.lstOne.SetListIndex(0);
+         form.lstOne.SetListIndex(-1);
+       },
+       {"lstOne click", "lstOne click"}},
+      {"an entry that isn't there",
+       [](auto& form) {
+         EXPECT_EQ(test::ErrorOf([&] { form.cboValues.SetListIndex(3); }), 380);
+         EXPECT_EQ(test::ErrorOf([&] { form.cboValues.SetListIndex(-2); }), 380);
+         EXPECT_EQ(form.cboValues.ListIndex(), -1);
+       },
+       {}},
+      {"an option",
+       [](auto& form) {
+         form.optOther0.SetValue(true);
+         form.optType0.SetValue(true);
+         EXPECT_FALSE(form.optType1.Value());
+         EXPECT_TRUE(form.optOther0.Value()) << "it is in another container";
+       },
+       {"optOther(0) click", "optType(0) click"}},
+      {"an option off", [](auto& form) { form.optType1.SetValue(false); }, {}},
+      {"a box",
+       [](auto& form) {
+         form.chk3D.SetValue(CheckBox::kChecked);
+         form.chk3D.SetValue(CheckBox::kChecked);
+         form.chk3D.SetValue(CheckBox::kUnchecked);
+       },
+       {"chk3D click", "chk3D click"}},
+      {"values of controls that are off",
+       [](auto& form) {
+         form.chk3D.SetEnabled(false);
+         form.optType0.SetEnabled(false);
+         form.chk3D.SetValue(CheckBox::kChecked);
+         form.optType0.SetValue(true);
+         EXPECT_EQ(form.chk3D.Value(), CheckBox::kChecked);
+       },
+       {"chk3D click", "optType(0) click"}},
+      {"rows, entries and texts",
+       [](auto& form) {
+         form.grdRows.SetIsSelected(1, true);
+         form.grdRows.Select(2, 0);
+         form.lstMany.SetSelected(0, true);
+         form.txtTitle.SetText("longer than five");
+         form.cboFormat.SetText("0");
+       },
+       {}},
+      {"what can't have the focus",
+       [](auto& form) {
+         EXPECT_EQ(test::ErrorOf([&] { form.cmdOff.SetFocus(); }), 5);
+         EXPECT_EQ(test::ErrorOf([&] { form.Frame1.SetFocus(); }), 5);
+         EXPECT_EQ(test::ErrorOf([&] { form.imgPie.Font(); }), 438);
+       },
+       {}},
+  };
+  for (const Rule& rule : rules) EXPECT_EQ(EventsOf(rule), rule.events) << rule.name;
+}
+
+TEST(ModelTest, HandsMoveTheFocusAndRaiseEvents) {
+  const Rule rules[] = {
+      {"from control to control",
+       [](auto& form) {
+         form.txtTitle.UserFocus();
+         form.txtNote.UserFocus();
+         form.txtNote.UserFocus();
+       },
+       {"txtTitle got-focus", "txtTitle validate", "txtNote got-focus"}},
+      {"a button", [](auto& form) { form.cmdOK.UserPress(); }, {"cmdOK got-focus", "cmdOK click"}},
+      {"Enter leaves the focus",
+       [](auto& form) {
+         form.txtTitle.UserFocus();
+         EXPECT_TRUE(form.UserEnter());
+       },
+       {"txtTitle got-focus", "cmdOK click"}},
+      {"Enter in a text of several lines",
+       [](auto& form) {
+         form.txtNote.UserType("a");
+         EXPECT_TRUE(form.UserEnter());
+         EXPECT_EQ(form.txtNote.Text(), "a\r\n");
+       },
+       {"txtNote got-focus"}},
+      {"Enter without a button",
+       [](auto& form) {
+         form.cmdOK.SetEnabled(false);
+         EXPECT_FALSE(form.UserEnter());
+         form.cmdOK.SetEnabled(true);
+         form.cmdOK.SetDefault(false);
+         EXPECT_FALSE(form.UserEnter());
+       },
+       {}},
+      {"Escape", [](auto& form) { form.UserEscape(); }, {}},
+      {"the current entry once more",
+       [](auto& form) {
+         form.cboValues.UserChoose(1);
+         form.cboValues.UserChoose(1);
+       },
+       {"cboValues got-focus", "cboValues click", "cboValues click"}},
+      {"two rows",
+       [](auto& form) {
+         form.grdRows.UserSelect({1, 3});
+       },
+       {"grdRows got-focus", "grdRows after-selection-change", "grdRows click"}},
+      {"a double click",
+       [](auto& form) { form.grdRows.UserDoubleClick(1); },
+       {"grdRows got-focus", "grdRows after-selection-change", "grdRows click", "grdRows double-click"}},
+      {"controls that are off or hidden",
+       [](auto& form) {
+         for (Control* control : form.Controls()) control->SetEnabled(false);
+         form.txtTitle.SetEnabled(true);
+         form.txtTitle.SetVisible(false);
+         EXPECT_FALSE(form.txtTitle.UserType("a"));
+         EXPECT_FALSE(form.cmdOK.UserPress());
+         EXPECT_FALSE(form.UserEnter());
+         EXPECT_FALSE(form.UserEscape());
+         EXPECT_FALSE(form.chk3D.UserToggle(true));
+         EXPECT_FALSE(form.optType0.UserChoose());
+         EXPECT_FALSE(form.cboValues.UserChoose(0));
+         EXPECT_FALSE(form.cboFormat.UserType("0"));
+         EXPECT_FALSE(form.lstOne.UserSelect({0}));
+         EXPECT_FALSE(form.grdRows.UserSelect({1}));
+         EXPECT_FALSE(form.grdRows.UserDoubleClick(1));
+       },
+       {}},
+      {"what isn't there",
+       [](auto& form) {
+         EXPECT_FALSE(form.cboValues.UserChoose(3));
+         EXPECT_FALSE(form.lstOne.UserSelect({0, 1}));
+         EXPECT_FALSE(form.lstMany.UserSelect({3}));
+         EXPECT_FALSE(form.grdRows.UserSelect({0}));
+         EXPECT_FALSE(form.txtTitle.UserType("123456"));
+         EXPECT_FALSE(form.cboValues.UserType("Cost"));
+       },
+       {}},
+  };
+  for (const Rule& rule : rules) EXPECT_EQ(EventsOf(rule), rule.events) << rule.name;
+}
+
+/// A view that posts one prepared gesture at each wait, on the form in front, and closes it when there is
+/// none left.
+class PreparedView final : public View {
+ public:
+  void Open(Form& form) override { open_.push_back(&form); }
+  void Close(Form&) override { open_.pop_back(); }
+  void Wait(EventQueue& queue, std::optional<std::chrono::milliseconds>) override {
+    Form* const front = open_.back();
+    if (gestures.empty()) return queue.Post(*front, [front] { front->UserClose(); });
+    const auto gesture = gestures.front();
+    gestures.pop_front();
+    queue.Post(*front, [front, gesture] { gesture(static_cast<SmallForm&>(*front)); });
+  }
+  void HandleEvents(EventQueue& queue) override {
+    for (Form* form : open_)
+      queue.Post(*form, [form] { static_cast<SmallForm&>(*form).chk3D.UserToggle(true); });
+  }
+
+  std::deque<std::function<void(SmallForm&)>> gestures;
+
+ private:
+  std::vector<Form*> open_;
+};
+
+class ModalLoopTest : public ::testing::Test {
+ protected:
+  std::shared_ptr<PreparedView> view_ = std::make_shared<PreparedView>();
+  ModalLoop loop_{view_};
+  Log log_;
+  std::shared_ptr<SmallForm> form_ = std::make_shared<SmallForm>(log_);
+};
+
+TEST_F(ModalLoopTest, AShownFormIsLoadedActivatedAndHasTheFocus) {
+  loop_.ShowModal(form_);
+  EXPECT_EQ(log_, (Log{"load", "activate", "txtTitle got-focus", "unload"}));
+  EXPECT_FALSE(form_->Visible());
+  EXPECT_EQ(loop_.Front(), nullptr);
+  log_.clear();
+  form_->Unload();
+  loop_.ShowModal(form_);
+  EXPECT_EQ(log_, Log{}) << "a form lives once";
+}
+
+TEST_F(ModalLoopTest, TheFirstFocusIsAtTheOptionThatIsChosen) {
+  form_->txtTitle.SetEnabled(false);
+  form_->txtNote.SetVisible(false);
+  loop_.ShowModal(form_);
+  EXPECT_EQ(log_[2], "optType(1) got-focus");
+}
+
+TEST_F(ModalLoopTest, AFormThatHidesItselfWhileItIsActivatedReturns) {
+  form_->OnActivate = [&] { form_->Hide(); };
+  loop_.ShowModal(form_);
+  EXPECT_EQ(log_, (Log{"load", "activate", "deactivate"}));
+}
+
+TEST_F(ModalLoopTest, AFormMayGoInsideOfItsOwnEvent) {
+  std::weak_ptr<SmallForm> first = form_;
+  form_->OnOK = [&] {
+    SmallForm& self = *form_;
+    self.Unload();
+    // the variable that the form came from gets the next instance, and nothing else holds the first one
+    form_ = std::make_shared<SmallForm>(log_, "frmSecond");
+    loop_.ShowModal(form_);
+    EXPECT_FALSE(first.expired()) << "its event is still running";
+  };
+  view_->gestures = {[](auto& form) { form.UserEnter(); }, [](auto& form) { form.UserEscape(); }};
+  loop_.ShowModal(form_);
+  EXPECT_TRUE(first.expired());
+  EXPECT_EQ(form_->Name(), "frmSecond");
+  EXPECT_EQ(log_, (Log{"load", "activate", "txtTitle got-focus", "cmdOK click", "unload", "load", "activate",
+                       "txtTitle got-focus", "unload"}));
+}
+
+TEST_F(ModalLoopTest, AnErrorGoesThroughFormsThatAreNested) {
+  const auto second = std::make_shared<SmallForm>(log_, "frmSecond");
+  form_->OnOK = [&] {
+    const int number = test::ErrorOf([&] { loop_.ShowModal(second); });
+    log_.push_back("error " + std::to_string(number));
+    EXPECT_EQ(loop_.Front(), form_.get());
+    throw runtime::RuntimeError(91);
+  };
+  second->OnOK = [] { throw runtime::RuntimeError(9); };
+  view_->gestures = {[](auto& form) { form.cmdOK.UserPress(); }, [](auto& form) { form.cmdOK.UserPress(); }};
+  EXPECT_EQ(test::ErrorOf([&] { loop_.ShowModal(form_); }), 91);
+  EXPECT_EQ(log_.back(), "error 9");
+  EXPECT_FALSE(form_->Visible());
+  EXPECT_FALSE(second->Visible());
+  EXPECT_EQ(loop_.Front(), nullptr);
+}
+
+TEST_F(ModalLoopTest, AFormNestedInAnotherOneLeavesItAsItWas) {
+  const auto second = std::make_shared<SmallForm>(log_, "frmSecond");
+  form_->OnOK = [&] {
+    loop_.ShowModal(second);
+    log_.push_back("back");
+  };
+  view_->gestures = {[](auto& form) { form.cmdOK.UserPress(); }, [](auto& form) { form.UserClose(); },
+                     [](auto& form) { form.chk3D.UserToggle(true); }};
+  loop_.ShowModal(form_);
+  EXPECT_EQ(log_, (Log{"load", "activate", "txtTitle got-focus", "txtTitle validate", "cmdOK got-focus",
+                       "cmdOK click", "load", "activate", "txtTitle got-focus", "unload", "back",
+                       "cmdOK validate", "chk3D got-focus", "chk3D click", "unload"}));
+}
+
+TEST_F(ModalLoopTest, GesturesOnAFormBelowAreDropped) {
+  const auto second = std::make_shared<SmallForm>(log_, "frmSecond");
+  second->OnActivate = [&] { loop_.DoEvents(); };
+  form_->OnOK = [&] { loop_.ShowModal(second); };
+  view_->gestures = {[](auto& form) { form.UserEnter(); }};
+  loop_.ShowModal(form_);
+  EXPECT_EQ(form_->chk3D.Value(), CheckBox::kUnchecked);
+  EXPECT_EQ(second->chk3D.Value(), CheckBox::kChecked);
+}
+
+/// A form with a timer that ticks twice while the form works, and hides it at the second tick after that.
+class TickingForm : public Form {
+ public:
+  explicit TickingForm(ModalLoop& loop) : Form("frmTicking"), loop_(loop) {
+    Timer1.SetInterval(20);
+    Timer1.Tick = [this] {
+      if (++ticks == 4) Hide();
+    };
+  }
+  Timer Timer1{*this, "Timer1", false};
+  int ticks = 0;
+  int ticksInActivate = 0;
+
+ protected:
+  void Form_Activate() override {
+    Timer1.SetEnabled(true);
+    loop_.DoEvents();
+    EXPECT_EQ(ticks, 0) << "the interval isn't over";
+    for (; ticks < 2; std::this_thread::sleep_for(std::chrono::milliseconds(1))) loop_.DoEvents();
+    ticksInActivate = ticks;
+  }
+
+ private:
+  ModalLoop& loop_;
+};
+
+TEST_F(ModalLoopTest, TimersTickWhileEventsAreHandledAndWhileTheLoopWaits) {
+  class Idle final : public View {
+    void Open(Form&) override {}
+    void Close(Form&) override {}
+    void Wait(EventQueue&, std::optional<std::chrono::milliseconds> atMost) override {
+      std::this_thread::sleep_for(atMost.value());
+    }
+    void HandleEvents(EventQueue&) override {}
+  };
+  ModalLoop loop(std::make_shared<Idle>());
+  const auto form = std::make_shared<TickingForm>(loop);
+  loop.ShowModal(form);
+  EXPECT_EQ(form->ticksInActivate, 2);
+  EXPECT_EQ(form->ticks, 4);
+}
+
+}  // namespace
+}  // namespace plotsmith::forms
