@@ -160,7 +160,8 @@ TEST_F(ScriptPlayerTest, LinesThatCannotBeDoneSayWhatThereIsInstead) {
       {"answer ok\nenter\nenter\nexpect question Sure?",
        "4: the question is 'Sure?\\n\\nOK deletes.', not 'Sure?'"},
       {"answer ok\nenter\nenter\nexpect message Two", "4: the message is 'One\\nis done.', not 'Two'"},
-      {"answer ok\nenter\nenter\npage none", "4: there was a message that no line expects: 'One\\nis done.'"},
+      {"answer ok\nenter\nenter\npage none\nexpect message \"One\\nis done.\"\nexpect message Two",
+       "4: there was a message that no line expects: 'One\\nis done.'"},
       {"answer ok\nenter\nenter\nexpect message \"One\\nis done.\"\n",
        "4: there was a message that no line expects: 'Two'"},
   };
