@@ -62,17 +62,22 @@ std::string VersionText(double version) {
 }
 
 Session::Session(std::string path, const GlobalOptions& options, const Streams& streams)
+    : Session(std::move(path), options, streams, std::make_shared<ConsoleDesktop>(),
+              std::make_shared<forms::UnattendedView>()) {}
+
+Session::Session(std::string path, const GlobalOptions& options, const Streams& streams,
+                 std::shared_ptr<ConsoleDesktop> desktop, std::shared_ptr<forms::View> view)
     : path_(std::move(path)),
       options_(options),
       streams_(streams),
-      desktop_(std::make_shared<ConsoleDesktop>()),
+      desktop_(std::move(desktop)),
       host_(xlsx::Application::Create(VersionText(options.hostVersion))) {
-  StartSystem(desktop_, std::make_shared<forms::UnattendedView>());
+  StartSystem(desktop_, std::move(view));
   if (options.journal) {
     host_->Journal().SetSink([this](std::string_view line) { streams_.out << line << '\n'; });
   }
+  host_->DefineMacro(kRefreshStartedMacro, [this](const auto& arguments) { ChartStarted(arguments); });
   if (streams.terminal) {
-    host_->DefineMacro(kRefreshStartedMacro, [this](const auto& arguments) { ShowProgress(arguments); });
     host_->DefineMacro(kRefreshCompleteMacro, [this](const auto&) { ClearProgress(); });
   }
   try {
@@ -82,9 +87,7 @@ Session::Session(std::string path, const GlobalOptions& options, const Streams& 
   }
 }
 
-Session::~Session() {
-  StopSystem();
-}
+Session::~Session() { StopSystem(); }
 
 void Session::LoadTables() {
   oApplication = host_;
@@ -117,10 +120,12 @@ void Session::CheckTable(const std::string& id) const {
                      "\"" + path_ + "\" has no table \"" + id + "\" (plotsmith tables lists those it has).");
 }
 
-void Session::ShowProgress(const std::vector<runtime::Variant>& arguments) {
+void Session::ChartStarted(const std::vector<runtime::Variant>& arguments) {
   // without an argument it is the whole run that begins
   if (arguments.empty() || !colCharts) return;
-  const std::string line = "Refreshing chart " + std::to_string(++chartsStarted_) + " ...";
+  ++chartsStarted_;
+  if (!streams_.terminal) return;
+  const std::string line = "Refreshing chart " + std::to_string(chartsStarted_) + " ...";
   streams_.err << '\r' << line << std::flush;
   progressWidth_ = line.size();
 }

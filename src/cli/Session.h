@@ -8,6 +8,7 @@
 #include "cli/Command.h"
 #include "cli/ConsoleDesktop.h"
 #include "cli/Streams.h"
+#include "forms/ModalLoop.h"
 #include "runtime/Variant.h"
 #include "xlsx/Application.h"
 #include "xlsx/Workbook.h"
@@ -17,8 +18,11 @@ namespace plotsmith::cli {
 /// One workbook, open in the embedded host, with the system set up to work on it.
 class Session {
  public:
-  /// Throws a CommandError if the workbook can't be read.
+  /// With forms that nobody sees or uses. Throws a CommandError if the workbook can't be read.
   Session(std::string path, const GlobalOptions& options, const Streams& streams);
+  /// With forms on a view of the caller's, and message boxes on its desktop.
+  Session(std::string path, const GlobalOptions& options, const Streams& streams,
+          std::shared_ptr<ConsoleDesktop> desktop, std::shared_ptr<forms::View> view);
   ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
@@ -34,13 +38,15 @@ class Session {
   void CheckWritable(const std::optional<std::string>& output) const;
   /// After the system has worked: refuses an id of which the workbook has neither a table nor a chart.
   void CheckTable(const std::string& id) const;
+  /// How many charts the system has begun to build.
+  int ChartsStarted() const { return chartsStarted_; }
   /// Ends the work: saves to `output`, or, if something changed, to where the workbook came from.
   int Save(const std::optional<std::string>& output);
   /// Ends the work of a command that only reads.
   int Finish();
 
  private:
-  void ShowProgress(const std::vector<runtime::Variant>& arguments);
+  void ChartStarted(const std::vector<runtime::Variant>& arguments);
   void ClearProgress();
   void CheckDamage() const;
   int ReportMessages();
@@ -53,6 +59,9 @@ class Session {
   int chartsStarted_ = 0;
   std::size_t progressWidth_ = 0;
 };
+
+/// The name by which the command introduces itself to the system.
+inline constexpr const char* kHostName = "plotsmith";
 
 /// Refuses a table's id that is empty, which no table has.
 void RequireTableId(const std::string& id);

@@ -9,12 +9,14 @@
 #include "cli/commands/RenameColumns.h"
 #include "cli/commands/Save.h"
 #include "cli/commands/Tables.h"
+#include "cli/commands/Wizard.h"
 
 namespace plotsmith::cli {
 
 std::vector<std::unique_ptr<Command>> MakeCommands() {
   std::vector<std::unique_ptr<Command>> commands;
   commands.push_back(std::make_unique<RefreshCommand>());
+  commands.push_back(std::make_unique<WizardCommand>());
   commands.push_back(std::make_unique<RenameColumnsCommand>());
   commands.push_back(std::make_unique<CheckCommand>());
   commands.push_back(std::make_unique<TablesCommand>());

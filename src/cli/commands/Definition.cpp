@@ -1,11 +1,8 @@
 #include "cli/commands/Definition.h"
 
-#include <algorithm>
-
+#include "cli/ChartLookup.h"
 #include "cli/Session.h"
-#include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
-#include "runtime/Strings.h"
 
 namespace plotsmith::cli {
 
@@ -20,24 +17,13 @@ int DefinitionCommand::Run(const GlobalOptions& options, const Streams& streams)
   Session session(book_, options, streams);
   session.LoadTablesAndCharts();
   const int code = session.Finish();
-  const auto find = [&](const auto& isMeant) {
-    return std::find_if(colCharts->begin(), colCharts->end(), [&](const dom::IXMLDOMDocument2& document) {
-      return isMeant(document.selectSingleNode("chart"));
-    });
-  };
-  // the id before the name, which may be another chart's id
-  auto found =
-      find([&](const dom::IXMLDOMElement& chart) { return GetAttributeText(chart, "id") == chart_; });
-  if (found == colCharts->end()) {
-    found = find([&](const dom::IXMLDOMElement& chart) {
-      return runtime::EqualsIgnoreCase(GetAttributeText(chart, "name"), chart_);
-    });
-  }
-  if (found == colCharts->end()) {
+  const ChartNames charts = LoadedCharts();
+  const auto place = FindChart(charts, chart_);
+  if (!place) {
     throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no chart \"" + chart_ +
                                               "\" (plotsmith charts lists those it has).");
   }
-  streams.out << (*found).xml() << '\n';
+  streams.out << colCharts->Item(charts[*place].first).xml() << '\n';
   return code;
 }
 

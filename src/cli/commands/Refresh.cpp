@@ -4,11 +4,6 @@
 #include "controller/CPlotsmithController.h"
 
 namespace plotsmith::cli {
-namespace {
-
-constexpr const char* kHostName = "plotsmith";
-
-}  // namespace
 
 CLI::App* RefreshCommand::Declare(CLI::App& app) {
   CLI::App* verb = app.add_subcommand("refresh", "Rebuild the charts of a workbook from its tables");

@@ -1,0 +1,61 @@
+#include "cli/commands/Wizard.h"
+
+#include <fstream>
+
+#include "cli/FormPrinter.h"
+#include "cli/wizard/WizardRun.h"
+
+namespace plotsmith::cli {
+namespace {
+
+constexpr const char* kStandardInput = "-";
+
+}  // namespace
+
+CLI::App* WizardCommand::Declare(CLI::App& app) {
+  CLI::App* verb =
+      app.add_subcommand("wizard", "Go through the pages of the wizard by a script, a gesture a line");
+  verb->footer("plotsmith wizard BOOK --script FILE [-o FILE] [--show] [--json]");
+  verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm)")->required();
+  verb->add_option("--script", script_, "The script; \"-\" is the standard input")->type_name("FILE");
+  verb->add_option("-o,--output", output_, "Write to this file and leave BOOK as it is")->type_name("FILE");
+  verb->add_flag("--show", show_, "Print the page that is open when the script ends");
+  verb->add_flag("--json", json_, "Print pages as JSON");
+  return verb;
+}
+
+int WizardCommand::Run(const GlobalOptions& options, const Streams& streams) {
+  if (!script_) {
+    throw CommandError(
+        exit_code::kUsage,
+        "a wizard to click through needs a window, which plotsmith-wizard has; without one there "
+        "is --script FILE.");
+  }
+  if (*script_ == kStandardInput) return Play(streams.in, options, streams);
+  std::ifstream file(*script_, std::ios::binary);
+  // a folder can be opened, but nothing can be read from it
+  if (!file || (file.peek() == std::ifstream::traits_type::eof() && !file.eof())) {
+    throw CommandError(exit_code::kFile, "can't read \"" + *script_ + "\".");
+  }
+  return Play(file, options, streams);
+}
+
+int WizardCommand::Play(std::istream& script, const GlobalOptions& options, const Streams& streams) const {
+  forms::StreamLines lines(script);
+  const auto print = [&](const forms::FormState& form) {
+    (json_ ? PrintFormAsJson : PrintForm)(streams.out, form);
+    streams.out.flush();
+  };
+  WizardRun run(book_, options, streams, lines, print, Outside::kScript);
+  run.Workbook().CheckWritable(output_);
+  run.Play();
+  if (const auto& failure = run.Player().Failed()) {
+    run.Workbook().Finish();
+    throw CommandError(exit_code::kUsage,
+                       *script_ + ":" + std::to_string(failure->line) + ": " + failure->sentence + ".");
+  }
+  if (show_ && run.Player().LastState()) print(*run.Player().LastState());
+  return run.CameToSomething() ? run.Workbook().Save(output_) : run.Workbook().Finish();
+}
+
+}  // namespace plotsmith::cli

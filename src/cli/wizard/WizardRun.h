@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "cli/Session.h"
+#include "cli/wizard/ScriptDesktop.h"
+#include "forms/script/LineSource.h"
+#include "forms/script/ScriptPlayer.h"
+
+namespace plotsmith::cli {
+
+/// A run of the wizard on a workbook, with a script in place of the hands.
+class WizardRun {
+ public:
+  /// `lines` must outlive the run. `show` prints what the script asks to be shown.
+  WizardRun(const std::string& book, const GlobalOptions& options, const Streams& streams,
+            forms::LineSource& lines, forms::ScriptPlayer::Show show, Outside outside);
+
+  void Play();
+
+  Session& Workbook() { return session_; }
+  const forms::ScriptPlayer& Player() const { return *player_; }
+  const ScriptDesktop& Desktop() const { return *desktop_; }
+  /// Whether the run came to build a chart, or to delete one. Only then is there anything to save.
+  bool CameToSomething() const { return session_.ChartsStarted() > 0 || desktop_->Confirmed(); }
+
+ private:
+  std::shared_ptr<forms::ScriptPlayer> player_;
+  std::shared_ptr<ScriptDesktop> desktop_;
+  Session session_;
+};
+
+}  // namespace plotsmith::cli
