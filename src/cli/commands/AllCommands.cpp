@@ -3,8 +3,12 @@
 #include "cli/commands/Cells.h"
 #include "cli/commands/Charts.h"
 #include "cli/commands/Check.h"
+#include "cli/commands/CopyChart.h"
 #include "cli/commands/Definition.h"
+#include "cli/commands/DeleteCharts.h"
 #include "cli/commands/Format.h"
+#include "cli/commands/ModifyChart.h"
+#include "cli/commands/NewChart.h"
 #include "cli/commands/Refresh.h"
 #include "cli/commands/RenameColumns.h"
 #include "cli/commands/Save.h"
@@ -16,6 +20,10 @@ namespace plotsmith::cli {
 std::vector<std::unique_ptr<Command>> MakeCommands() {
   std::vector<std::unique_ptr<Command>> commands;
   commands.push_back(std::make_unique<RefreshCommand>());
+  commands.push_back(std::make_unique<NewChartCommand>());
+  commands.push_back(std::make_unique<ModifyChartCommand>());
+  commands.push_back(std::make_unique<CopyChartCommand>());
+  commands.push_back(std::make_unique<DeleteChartsCommand>());
   commands.push_back(std::make_unique<WizardCommand>());
   commands.push_back(std::make_unique<RenameColumnsCommand>());
   commands.push_back(std::make_unique<CheckCommand>());

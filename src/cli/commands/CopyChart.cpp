@@ -1,0 +1,23 @@
+#include "cli/commands/CopyChart.h"
+
+#include "cli/wizard/ChartScript.h"
+
+namespace plotsmith::cli {
+
+CLI::App* CopyChartCommand::Declare(CLI::App& app) {
+  CLI::App* verb = app.add_subcommand("copy", "Copy a chart; what isn't named is as it is on the chart");
+  DeclareBook(*verb, verb_);
+  verb->add_option("CHART", id_, "The chart's id or name")->required();
+  DeclareChartOptions(*verb, chart_);
+  DeclarePlaceOptions(*verb, chart_);
+  DeclareOutput(*verb, verb_);
+  return verb;
+}
+
+int CopyChartCommand::Run(const GlobalOptions& options, const Streams& streams) {
+  CheckChartOptions(chart_);
+  ChartScript script(ChartWork::kCopy, id_, chart_);
+  return PlayVerb(script, verb_, options, streams);
+}
+
+}  // namespace plotsmith::cli

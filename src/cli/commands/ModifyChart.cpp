@@ -1,0 +1,22 @@
+#include "cli/commands/ModifyChart.h"
+
+#include "cli/wizard/ChartScript.h"
+
+namespace plotsmith::cli {
+
+CLI::App* ModifyChartCommand::Declare(CLI::App& app) {
+  CLI::App* verb = app.add_subcommand("modify", "Change a chart; what isn't named stays as it is");
+  DeclareBook(*verb, verb_);
+  verb->add_option("CHART", id_, "The chart's id or name")->required();
+  DeclareChartOptions(*verb, chart_);
+  DeclareOutput(*verb, verb_);
+  return verb;
+}
+
+int ModifyChartCommand::Run(const GlobalOptions& options, const Streams& streams) {
+  CheckChartOptions(chart_);
+  ChartScript script(ChartWork::kModify, id_, chart_);
+  return PlayVerb(script, verb_, options, streams);
+}
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+#include "cli/Command.h"
+#include "cli/wizard/ChartOptions.h"
+#include "cli/wizard/PlayVerb.h"
+
+namespace plotsmith::cli {
+
+/// Changes a chart in the wizard.
+class ModifyChartCommand final : public Command {
+ public:
+  CLI::App* Declare(CLI::App& app) override;
+  int Run(const GlobalOptions& options, const Streams& streams) override;
+
+ private:
+  VerbOptions verb_;
+  std::string id_;  ///< or its name
+  ChartOptions chart_;
+};
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+#include "cli/Command.h"
+#include "cli/wizard/ChartOptions.h"
+#include "cli/wizard/PlayVerb.h"
+
+namespace plotsmith::cli {
+
+/// Makes a chart, as a person does who goes through the wizard.
+class NewChartCommand final : public Command {
+ public:
+  CLI::App* Declare(CLI::App& app) override;
+  int Run(const GlobalOptions& options, const Streams& streams) override;
+
+ private:
+  VerbOptions verb_;
+  ChartOptions chart_;
+};
+
+}  // namespace plotsmith::cli

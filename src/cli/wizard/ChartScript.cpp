@@ -1,0 +1,163 @@
+#include "cli/wizard/ChartScript.h"
+
+#include <utility>
+
+#include "cli/ChartLookup.h"
+#include "cli/wizard/LayoutControls.h"
+#include "cli/wizard/LayoutSteps.h"
+#include "common/CommonFunctions.h"
+#include "common/RunVariables.h"
+#include "forms/Buttons.h"
+#include "forms/script/ScriptError.h"
+#include "forms/script/Wording.h"
+
+namespace plotsmith::cli {
+namespace {
+
+using forms::ScriptError;
+
+/// The pages by the names of their forms.
+namespace page_name {
+constexpr std::string_view kSelectAction = "frmPSSelectAction";
+constexpr std::string_view kSelectTable = "frmPSSelectTable";
+constexpr std::string_view kChartLocation = "frmPSChartLocation";
+}  // namespace page_name
+
+/// The row of a grid that bears the chart's id, which is its data, or its name, which is its text.
+std::int32_t RowOfChart(const forms::VSFlexGrid& grid, const std::string& idOrName) {
+  ChartNames charts;
+  for (std::int32_t row = grid.FixedRows(); row < grid.Rows(); ++row) {
+    charts.emplace_back(grid.RowData(row), grid.TextMatrix(row, 0));
+  }
+  if (const auto place = FindChart(charts, idOrName)) {
+    return grid.FixedRows() + static_cast<std::int32_t>(*place);
+  }
+  std::vector<std::string> names;
+  for (const auto& [id, name] : charts) names.push_back(id + " " + forms::Named(name));
+  throw ScriptError("no chart " + forms::Named(idOrName) + "; " + forms::ThereAre(names));
+}
+
+std::int32_t RowOfTable(const forms::VSFlexGrid& grid, const std::string& id) {
+  std::vector<std::string> ids;
+  for (std::int32_t row = grid.FixedRows(); row < grid.Rows(); ++row) {
+    if (grid.RowData(row) == id) return row;
+    ids.push_back(grid.RowData(row));
+  }
+  throw ScriptError("no table " + forms::Named(id) + "; " + forms::ThereAre(ids));
+}
+
+/// Presses the button that modifies or copies the selected chart, which is off for a chart without a table.
+Step WorkStep(const char* button, const std::string& chart) {
+  return [button, chart](const forms::Form& page) {
+    if (!page.FindControl(button)->Enabled()) {
+      throw ScriptError("the table of the chart " + forms::Named(chart) +
+                        " is gone, so the chart can only be deleted");
+    }
+    return std::string("press ") + button;
+  };
+}
+
+/// Chooses a type of chart that the selected table allows.
+Step ChartTypeStep(const std::string& type) {
+  return [type](const forms::Form& page) -> std::optional<std::string> {
+    const auto optionOf = [](const std::string& name) {
+      return "optType(" + std::to_string(OptionOfType(name)) + ")";
+    };
+    const auto& option = ControlOn<forms::OptionButton>(page, optionOf(type));
+    if (option.Value()) return std::nullopt;
+    if (option.Enabled()) return "choose " + optionOf(type);
+    std::vector<std::string> offered;
+    for (const std::string& name : ChartTypes()) {
+      if (page.FindControl(optionOf(name))->Enabled()) offered.push_back(name);
+    }
+    throw ScriptError("the table " + forms::Named(sTableID) + " doesn't allow the type " +
+                      forms::Named(type) + "; " + forms::ThereAre(offered));
+  };
+}
+
+}  // namespace
+
+Steps ChartScript::StepsOn(const forms::Form& page) {
+  if (page.Name() == page_name::kSelectAction) return OnSelectAction(page);
+  if (page.Name() == page_name::kSelectTable) return OnSelectTable(page);
+  if (page.Name() == page_name::kChartLocation) return OnChartLocation();
+  return OnLayout();
+}
+
+bool ChartScript::Deals(const forms::Form& page, const std::string&) {
+  // the page opens by itself, and with a message, where the chart's table fits no longer
+  return page.Name() == page_name::kSelectTable && options_.table && !beenOnSelectTable_;
+}
+
+Steps ChartScript::OnSelectAction(const forms::Form& page) const {
+  if (work_ == ChartWork::kNew) return {PressStep("cmdNew")};
+  const std::int32_t row = RowOfChart(ControlOn<forms::VSFlexGrid>(page, "grdCharts"), chart_);
+  return {RowsStep("grdCharts", {row}),
+          WorkStep(work_ == ChartWork::kModify ? "cmdModify" : "cmdCopy", chart_)};
+}
+
+Steps ChartScript::OnSelectTable(const forms::Form& page) {
+  beenOnSelectTable_ = true;
+  if (work_ != ChartWork::kNew && colCharts->Count() == 0) {
+    throw ScriptError("no chart " + forms::Named(chart_) + "; the workbook has no charts");
+  }
+  Steps steps;
+  if (options_.table) {
+    const std::int32_t row = RowOfTable(ControlOn<forms::VSFlexGrid>(page, "grdTables"), *options_.table);
+    steps.push_back(RowsStep("grdTables", {row}));
+  }
+  if (options_.type) steps.push_back(ChartTypeStep(*options_.type));
+  steps.push_back(PressStep("cmdNext"));
+  return steps;
+}
+
+Steps ChartScript::OnLayout() const {
+  if (WantsSelectTable()) return {PressStep("cmdBack")};
+  Steps steps = LayoutSteps(options_.layout, sChartType);
+  steps.push_back(PressStep(WantsChartLocation() ? "cmdNext" : "cmdFinish"));
+  return steps;
+}
+
+Steps ChartScript::OnChartLocation() const {
+  Steps steps;
+  if (options_.sheet) {
+    steps.push_back(OptionStep("optTargetSheet(1)", "--sheet"));
+    steps.push_back(EntriesStep("cboSheet", {*options_.sheet}, "--sheet", "sheet"));
+  }
+  if (options_.newSheet) {
+    steps.push_back(OptionStep("optTargetSheet(0)", "--new-sheet"));
+    steps.push_back(TypeStep("txtSheet", *options_.newSheet, "--new-sheet"));
+  }
+  if (options_.name) {
+    steps.push_back(TypeStep("txtName", *options_.name, "--name"));
+  } else if (work_ == ChartWork::kCopy) {
+    // the page proposes the title, which is mostly the name of the chart that was copied
+    const std::string name = GetAttributeText(oChartDoc.selectSingleNode("chart"), "name");
+    steps.push_back(TypeStep("txtName", name, "--name"));
+  }
+  steps.push_back(PressStep("cmdFinish"));
+  return steps;
+}
+
+bool ChartScript::WantsSelectTable() const {
+  return (options_.table || options_.type) && !beenOnSelectTable_;
+}
+
+bool ChartScript::WantsChartLocation() const {
+  return options_.name || options_.sheet || options_.newSheet || work_ == ChartWork::kCopy;
+}
+
+Steps DeleteScript::StepsOn(const forms::Form& page) {
+  if (std::exchange(done_, true)) return {};  // the page has opened again without the charts
+  if (page.Name() != page_name::kSelectAction) {
+    throw ScriptError("no chart " + forms::Named(charts_.front()) + "; the workbook has no charts");
+  }
+  std::vector<std::int32_t> rows;
+  for (const std::string& chart : charts_) {
+    rows.push_back(RowOfChart(ControlOn<forms::VSFlexGrid>(page, "grdCharts"), chart));
+  }
+  return {RowsStep("grdCharts", std::move(rows)), [](const forms::Form&) { return std::string("answer ok"); },
+          PressStep("cmdDelete")};
+}
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,48 @@
+#include "cli/wizard/PlayVerb.h"
+
+#include "cli/wizard/WizardRun.h"
+
+namespace plotsmith::cli {
+namespace {
+
+/// The sentence with a full stop, if it has no end of its own.
+std::string Ended(const std::string& sentence) {
+  return sentence.ends_with('.') || sentence.ends_with('!') ? sentence : sentence + ".";
+}
+
+}  // namespace
+
+void DeclareBook(CLI::App& verb, VerbOptions& options) {
+  verb.add_option("BOOK", options.book, "The workbook (.xlsx, .xlsm)")->required();
+}
+
+void DeclareOutput(CLI::App& verb, VerbOptions& options) {
+  verb.add_option("-o,--output", options.output, "Write to this file and leave BOOK as it is")
+      ->type_name("FILE");
+  verb.add_flag("--print-script", options.printScript,
+                "Print the script of the wizard that does the same, and save nothing");
+}
+
+int PlayVerb(VerbScript& script, const VerbOptions& verb, const GlobalOptions& options,
+             const Streams& streams) {
+  WizardRun run(
+      verb.book, options, streams, script, [](const forms::FormState&) {}, Outside::kCommand);
+  script.SetSaidByPages(run.Desktop().SaidByPages());
+  if (!verb.printScript) run.Workbook().CheckWritable(verb.output);
+  run.Play();
+  if (const auto& failure = run.Player().Failed()) {
+    run.Workbook().Finish();
+    throw CommandError(exit_code::kUsage, Ended(failure->sentence));
+  }
+  if (!run.CameToSomething()) {
+    // the run ended before the pages did, and has said why
+    run.Workbook().Finish();
+    throw CommandError(exit_code::kUsage, "nothing was done, and nothing is saved.");
+  }
+  if (!verb.printScript) return run.Workbook().Save(verb.output);
+  const int code = run.Workbook().Finish();
+  for (const std::string& line : script.Lines()) streams.out << line << '\n';
+  return code;
+}
+
+}  // namespace plotsmith::cli

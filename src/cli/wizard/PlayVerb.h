@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "cli/Command.h"
+#include "cli/wizard/VerbScript.h"
+
+namespace plotsmith::cli {
+
+/// What all verbs that go through the wizard's pages have in common.
+struct VerbOptions {
+  std::string book;
+  std::optional<std::string> output;
+  bool printScript = false;
+};
+
+/// Declares the workbook.
+void DeclareBook(CLI::App& verb, VerbOptions& options);
+/// Declares the output and the printing of the script.
+void DeclareOutput(CLI::App& verb, VerbOptions& options);
+
+/// Plays the verb's script and saves, or prints the script. Answers an exit code. A CommandError where a page
+/// isn't satisfied or an option can't be used; nothing is saved then.
+int PlayVerb(VerbScript& script, const VerbOptions& verb, const GlobalOptions& options,
+             const Streams& streams);
+
+}  // namespace plotsmith::cli

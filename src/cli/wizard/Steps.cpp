@@ -1,0 +1,141 @@
+#include "cli/wizard/Steps.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "forms/Buttons.h"
+#include "forms/Lists.h"
+#include "forms/TextBox.h"
+#include "forms/script/ScriptError.h"
+#include "forms/script/ScriptLine.h"
+#include "forms/script/Wording.h"
+#include "runtime/Strings.h"
+
+namespace plotsmith::cli {
+namespace {
+
+using forms::ScriptError;
+using forms::WordFor;
+
+/// Refuses an option whose control can't be used at present.
+void CheckUsable(const forms::Control& control, const std::string& option) {
+  const std::string obstacle = control.Obstacle();
+  if (obstacle.empty()) return;
+  throw ScriptError(option + " can't be used with this layout: " + control.FullName() + " " + obstacle);
+}
+
+std::vector<std::string> EntriesOf(const forms::EntryList& list) {
+  std::vector<std::string> entries;
+  for (std::int32_t i = 0; i < list.ListCount(); ++i) entries.push_back(list.List(i));
+  return entries;
+}
+
+/// The entry with the text, or else one that differs from it in case only.
+std::string EntryOf(const forms::EntryList& list, const std::string& text, const char* option,
+                    const char* kind) {
+  const auto entries = EntriesOf(list);
+  if (std::find(entries.begin(), entries.end(), text) != entries.end()) return text;
+  const auto found = std::find_if(entries.begin(), entries.end(), [&](const std::string& entry) {
+    return runtime::EqualsIgnoreCase(entry, text);
+  });
+  if (found != entries.end()) return *found;
+  throw ScriptError(std::string("no ") + kind + " " + forms::Named(text) + " for " + option + "; " +
+                    forms::ThereAre(entries));
+}
+
+std::vector<std::string> SelectedOf(const forms::ListBox& list) {
+  std::vector<std::string> entries;
+  for (std::int32_t i = 0; i < list.ListCount(); ++i) {
+    if (list.Selected(i)) entries.push_back(list.List(i));
+  }
+  return entries;
+}
+
+bool HasSame(std::vector<std::string> a, std::vector<std::string> b) {
+  std::sort(a.begin(), a.end());
+  std::sort(b.begin(), b.end());
+  return a == b;
+}
+
+/// The row by its text, or by its number where the text isn't enough.
+std::string WordForRow(const forms::VSFlexGrid& grid, std::int32_t row) {
+  const std::string& text = grid.TextMatrix(row, 0);
+  int same = 0;
+  for (std::int32_t other = grid.FixedRows(); other < grid.Rows(); ++other) {
+    if (grid.TextMatrix(other, 0) == text) ++same;
+  }
+  if (same > 1 || text.starts_with('#')) return "#" + std::to_string(row - grid.FixedRows() + 1);
+  return WordFor(text);
+}
+
+}  // namespace
+
+Step PressStep(const char* button) {
+  return [button](const forms::Form&) { return std::string("press ") + button; };
+}
+
+Step TypeStep(const char* control, std::string text, const char* option) {
+  return [control, text = std::move(text), option](const forms::Form& page) {
+    CheckUsable(*page.FindControl(control), option);
+    const auto* box = dynamic_cast<const forms::TextBox*>(page.FindControl(control));
+    const std::string obstacle = box == nullptr ? std::string() : box->ObstacleTo(text);
+    if (!obstacle.empty()) throw ScriptError(std::string(option) + " " + obstacle);
+    return std::string("type ") + control + " " + WordFor(text);
+  };
+}
+
+Step OptionStep(std::string control, std::string option) {
+  return [control = std::move(control),
+          option = std::move(option)](const forms::Form& page) -> std::optional<std::string> {
+    const auto& button = ControlOn<forms::OptionButton>(page, control);
+    if (button.Value()) return std::nullopt;
+    CheckUsable(button, option);
+    return "choose " + control;
+  };
+}
+
+Step TickStep(const char* control, bool checked, std::string option) {
+  return
+      [control, checked, option = std::move(option)](const forms::Form& page) -> std::optional<std::string> {
+        const auto& box = ControlOn<forms::CheckBox>(page, control);
+        if ((box.Value() == forms::CheckBox::kChecked) == checked) return std::nullopt;
+        CheckUsable(box, option);
+        return std::string(checked ? "check " : "uncheck ") + control;
+      };
+}
+
+Step EntriesStep(const char* control, std::vector<std::string> texts, const char* option, const char* kind) {
+  return [control, texts = std::move(texts), option,
+          kind](const forms::Form& page) -> std::optional<std::string> {
+    const auto& list = ControlOn<forms::EntryList>(page, control);
+    CheckUsable(list, option);
+    std::vector<std::string> entries;
+    for (const std::string& text : texts) entries.push_back(EntryOf(list, text, option, kind));
+    const auto* open = dynamic_cast<const forms::ListBox*>(&list);
+    const auto current = open != nullptr ? SelectedOf(*open) : std::vector{list.List(list.ListIndex())};
+    if (HasSame(entries, current)) return std::nullopt;
+    std::string line = std::string(open != nullptr ? "select " : "choose ") + control;
+    for (const std::string& entry : entries) line += " " + WordFor(entry);
+    return line;
+  };
+}
+
+Step FirstEntryStep(const char* control, const char* option) {
+  return [control, option](const forms::Form& page) -> std::optional<std::string> {
+    const auto& combo = ControlOn<forms::ComboBox>(page, control);
+    if (combo.ListIndex() == 0) return std::nullopt;
+    CheckUsable(combo, option);
+    return std::string("choose ") + control + " " + WordFor(combo.List(0));
+  };
+}
+
+Step RowsStep(const char* grid, std::vector<std::int32_t> rows) {
+  return [grid, rows = std::move(rows)](const forms::Form& page) {
+    const auto& shown = ControlOn<forms::VSFlexGrid>(page, grid);
+    std::string line = std::string("select ") + grid;
+    for (const std::int32_t row : rows) line += " " + WordForRow(shown, row);
+    return line;
+  };
+}
+
+}  // namespace plotsmith::cli
