@@ -147,6 +147,33 @@ void WriteDataBook(const std::string& path, std::uint32_t rows, std::uint32_t ch
   package.Save(path);
 }
 
+void WriteWideBook(const std::string& path, std::uint32_t rows, std::uint32_t columns) {
+  constexpr std::array kLabels = {"North", "South", "East", "West", "Centre"};
+  Random random;
+  std::string xml =
+      "<worksheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><sheetData><row>";
+  const auto text = [&](const std::string& value) {
+    xml += "<c t=\"inlineStr\"><is><t>" + value + "</t></is></c>";
+  };
+  for (std::uint32_t i = 1; i <= columns; ++i) text((i <= 2 ? "Label " : "Number ") + std::to_string(i));
+  for (std::uint32_t row = 0; row < rows; ++row) {
+    xml += "</row><row>";
+    text(kLabels[random.Below(kLabels.size())]);
+    text(kLabels[random.Below(kLabels.size())]);
+    for (std::uint32_t i = 3; i <= columns; ++i) {
+      xml += "<c><v>";
+      xml += std::to_string(random.Below(1000));
+      xml += "</v></c>";
+    }
+  }
+  test::PlainBook book;
+  book.sheets = {test::PlainSheet{"Data1"}};
+  book.Write(path);
+  auto package = xlsx::Package::Open(path);
+  package.Replace(kDataPart, xml + "</row></sheetData></worksheet>");
+  package.Save(path);
+}
+
 void ChangeRegions(const std::string& path, std::uint32_t rows, std::uint32_t regions) {
   auto package = xlsx::Package::Open(path);
   package.Replace(kDataPart, DataSheet(rows, regions));

@@ -23,4 +23,7 @@ void ChangeRegions(const std::string& path, std::uint32_t rows, std::uint32_t re
 /// over the first table.
 void WriteNamesBook(const std::string& path, std::uint32_t names);
 
+/// A book with a table on the sheet Data1 that has never seen Plotsmith: two columns of labels, then numbers.
+void WriteWideBook(const std::string& path, std::uint32_t rows, std::uint32_t columns);
+
 }  // namespace plotsmith::bench

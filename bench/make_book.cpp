@@ -2,6 +2,7 @@
 //   make_book data FILE ROWS CHARTS      a table of eight columns and charts over it
 //   make_book regions FILE ROWS COUNT    gives the charts of such a book another number of categories
 //   make_book names FILE COUNT           a book full of defined names
+//   make_book wide FILE ROWS COLUMNS     a plain table, without a chart
 
 #include <cstdlib>
 #include <iostream>
@@ -19,8 +20,12 @@ int main(int argc, char** argv) {
     ChangeRegions(argv[2], number(3), number(4));
   } else if (kind == "names" && argc == 4) {
     WriteNamesBook(argv[2], number(3));
+  } else if (kind == "wide" && argc == 5) {
+    WriteWideBook(argv[2], number(3), number(4));
   } else {
-    std::cerr << "usage: make_book data FILE ROWS CHARTS | regions FILE ROWS COUNT | names FILE COUNT\n";
+    std::cerr
+        << "usage: make_book data FILE ROWS CHARTS | regions FILE ROWS COUNT | names FILE COUNT | wide FILE "
+           "ROWS COLUMNS\n";
     return 2;
   }
   return 0;

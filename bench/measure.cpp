@@ -2,6 +2,7 @@
 // ratios that mean the same on any machine. Usage:
 //   measure pairs PLOTSMITH BOOK OUT COUNT          a refresh beside `unzip -p` of the book's first sheet
 //   measure growth PLOTSMITH OUT WHAT N=BOOK...     a refresh of ever larger books
+//   measure beside WHAT COUNT COMMAND... -- COMMAND...   one command beside another one
 
 #include <algorithm>
 #include <chrono>
@@ -83,6 +84,22 @@ void MeasurePairs(const std::string& plotsmith, const std::string& book, const s
               peak / kMebibyte, sheet / kMebibyte);
 }
 
+/// One command beside another, which is the measure.
+void MeasureBeside(const std::string& what, int count, const std::vector<std::string>& words) {
+  const auto sign = std::find(words.begin(), words.end(), "--");
+  if (sign == words.end()) throw std::runtime_error("there is no second command behind \"--\"");
+  const std::vector<std::string> measured(words.begin(), sign), baseline(sign + 1, words.end());
+  Run(baseline);
+  std::vector<double> ratios;
+  for (int i = 0; i < count; ++i) {
+    const double beside = Run(baseline).processor;
+    ratios.push_back(Run(measured).processor / beside);
+  }
+  std::sort(ratios.begin(), ratios.end());
+  std::printf("  %s    %.2f   (median of %d; %.2f to %.2f)\n", what.c_str(), ratios[ratios.size() / 2], count,
+              ratios.front(), ratios.back());
+}
+
 /// The least of a few runs, in processor time: what else the machine does only ever adds to it.
 void MeasureGrowth(const std::string& plotsmith, const std::string& out, const std::string& what,
                    const std::vector<std::string>& books) {
@@ -123,9 +140,13 @@ int main(int argc, char** argv) {
       MeasurePairs(arguments[1], arguments[2], arguments[3], std::max(1, std::atoi(argv[5])));
     } else if (arguments.size() > 4 && arguments[0] == "growth") {
       MeasureGrowth(arguments[1], arguments[2], arguments[3], {arguments.begin() + 4, arguments.end()});
+    } else if (arguments.size() > 5 && arguments[0] == "beside") {
+      MeasureBeside(arguments[1], std::max(1, std::atoi(argv[3])), {arguments.begin() + 3, arguments.end()});
     } else {
-      std::fputs("usage: measure pairs PLOTSMITH BOOK OUT COUNT | growth PLOTSMITH OUT WHAT N=BOOK...\n",
-                 stderr);
+      std::fputs(
+          "usage: measure pairs PLOTSMITH BOOK OUT COUNT | growth PLOTSMITH OUT WHAT N=BOOK... | beside WHAT "
+          "COUNT COMMAND... -- COMMAND...\n",
+          stderr);
       return 2;
     }
   } catch (const std::exception& e) {

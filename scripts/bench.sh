@@ -48,5 +48,16 @@ grow "charts over one table of 10,000 rows, drawn for the first time" charts 100
 grow "the same charts, drawn again" again 100 200 400
 grow "the same charts, with twice the categories" grown 100 200 400
 grow "defined names, every tenth a table; one chart" names 2500 5000 10000
+echo "== The wizard over a table of 100,000 rows by 200 columns"
+[ -f "$books/wide.xlsx" ] || "$bench/make_book" wide "$books/wide.xlsx" 100000 200
+new="$command new $books/wide.xlsx --table Data1 --type column --series-columns"
+$new "Number 3" -o "$books/wide-made.xlsx"
+# shellcheck disable=SC2086  # lists of words
+{
+  "$bench/measure" beside "processor time of new / refresh of the same chart" 5 $new "Number 3" -o "$out" -- \
+    $command refresh "$books/wide-made.xlsx" -o "$out"
+  "$bench/measure" beside "processor time of new --print-script / tables" 5 $new "Number 3" --print-script -- \
+    $command tables "$books/wide.xlsx"
+}
 echo "== The parts"
 "$bench/plotsmith_bench" --benchmark_min_time=0.2 2>/dev/null
