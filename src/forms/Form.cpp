@@ -43,8 +43,13 @@ void Form::Load() {
 
 void Form::Unload() {
   if (std::exchange(unloaded_, true)) return;
-  visible_ = false;
+  Hide();
   if (loaded_) Form_Unload();
+}
+
+void Form::Hide() {
+  visible_ = false;
+  ++changes_;
 }
 
 void Form::Activate() {
@@ -74,7 +79,10 @@ bool Form::UserEnter() {
   auto* text = dynamic_cast<TextBox*>(activeControl_);
   if (text != nullptr && text->MultiLine()) return text->UserType(text->Text() + "\r\n");
   CommandButton* button = FindButton(*this, &CommandButton::Default);
-  return button != nullptr && button->UserPressByKey();
+  if (button == nullptr || !button->Obstacle().empty()) return false;
+  // what was typed counts as finished, as if the focus had gone to the button
+  if (activeControl_ != nullptr) Control::Raise(activeControl_->Validate);
+  return button->UserPressByKey();
 }
 
 bool Form::UserEscape() {

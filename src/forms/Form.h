@@ -43,13 +43,14 @@ class Form {
   /// Raises Form_Unload, at the first call only, and takes the form off the screen for good.
   void Unload();
   /// Takes the form off the screen. That ends its modal show.
-  void Hide() { visible_ = false; }
+  void Hide();
   bool IsUnloaded() const { return unloaded_; }
 
   /// A hand closes the window.
   void UserClose() { Unload(); }
   /// A hand presses Enter: a text of several lines takes it for itself, else it presses the default button
-  /// without moving the focus. False if there is no such button, or it can't be pressed.
+  /// without moving the focus. The control of the focus raises Validate first, so that a text that is being
+  /// typed isn't lost. False if there is no such button, or it can't be pressed.
   bool UserEnter();
   /// A hand presses Escape: the cancel button is pressed likewise.
   bool UserEscape();

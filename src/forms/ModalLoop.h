@@ -32,7 +32,9 @@ class EventQueue {
   std::deque<Entry> events_;
 };
 
-/// What shows forms and watches hands: windows of a toolkit, or a script.
+/// What shows forms and watches hands: windows of a toolkit, or a script. Its members throw nothing. A form
+/// that was unloaded isn't Visible any more, and must not be seen, but it is closed only when its last event
+/// has returned; the next form has been opened by then.
 class View {
  public:
   virtual ~View() = default;

@@ -46,6 +46,7 @@ std::string ChartNumber(const std::string& sID) {
 }
 
 std::string NextChartID() {
+  colCharts->Count();  // error 91 if no charts are loaded, which would seem to hold every id
   for (int n = 1;; ++n) {
     std::string sID = std::string(kIdPrefix) + std::to_string(n);
     if (!CollectionHasKey(sID, colCharts)) return sID;

@@ -133,7 +133,7 @@ template <class List>
 std::vector<std::string> CurrentEntry(const List& oList) {
   return oList.ListIndex() < 0 ? std::vector<std::string>() : std::vector<std::string>{oList.Text()};
 }
-/// The check box's value for a Boolean, and back.
+/// Whether the box is ticked.
 inline bool IsChecked(const forms::CheckBox& oBox) { return oBox.Value() == forms::CheckBox::kChecked; }
 
 }  // namespace plotsmith

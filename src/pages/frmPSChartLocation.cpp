@@ -131,6 +131,12 @@ std::string frmPSChartLocation::PrepareSheet(const std::string& sSheet) const {
 }
 
 bool frmPSChartLocation::ValidSelections() {
+  bool bResult = false;
+  RunEventProcedure([&] { bResult = PlaceChart(); });
+  return bResult;
+}
+
+bool frmPSChartLocation::PlaceChart() {
   const std::string sName(runtime::Trim(txtName.Text()));
   const std::string sSheet = SheetName();
   std::string sMessage = FirstFault(sName, sSheet);

@@ -47,6 +47,8 @@ class frmPSChartLocation final : public Page {
   /// Makes the new worksheet if one is asked for, and activates the chart's sheet. Answers a message where
   /// the host refuses.
   std::string PrepareSheet(const std::string& sSheet) const;
+  /// Judges the input, stores the definition and puts the empty chart on its sheet.
+  bool PlaceChart();
   void UpdateChartMetadata(const std::string& sSheetName);
 
   bool bNewChart = false;  ///< the chart has no object on a sheet yet

@@ -223,8 +223,14 @@ void frmPSLayoutABC::SetValueState() {
 }
 
 void frmPSLayoutABC::SetCategoryStates() {
-  optSeries2.SetEnabled(!optCategories2.Value());
-  optCategories2.SetEnabled(optCategories2.Value() || !optSeries2.Value());
+  if (optCategories2.Value()) {
+    optSeries2.SetEnabled(false);
+  } else if (optSeries2.Value()) {
+    optCategories2.SetEnabled(false);
+  } else {
+    optCategories2.SetEnabled(true);
+    optSeries2.SetEnabled(true);
+  }
   if (optCategories1.Value()) {
     SetInputEnabled(cboCategories, true);
     SwitchOff(lstCategories);

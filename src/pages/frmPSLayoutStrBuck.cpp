@@ -24,7 +24,8 @@ constexpr double kNameWidth = 0.6, kValueWidth = 0.4;  // of the grid's width
 
 /// A bucket's value as "#,###" shows it: whole, with thousands set off, and nothing for zero.
 std::string BucketValueText(double dValue) {
-  const double dRounded = std::floor(std::abs(dValue) + 0.5);
+  // of a sum, the digits that a number shows count, and not the error of its last bit
+  const double dRounded = std::floor(std::abs(runtime::Val(std::string_view(runtime::NumberText(dValue)))) + 0.5);
   if (dRounded == 0) return {};
   std::array<char, 400> aBuffer;  // the largest number has 309 digits
   const auto oEnd = std::to_chars(aBuffer.begin(), aBuffer.end(), dRounded, std::chars_format::fixed, 0);

@@ -230,8 +230,6 @@ class FormatCheck {
 
 }  // namespace
 
-std::vector<std::string> ChartTypes() { return {kTypes.begin(), kTypes.end()}; }
-
 Findings CheckFormat(const dom::IXMLDOMElement& chart, const std::string& place) {
   FormatCheck check(place);
   check.CheckElement(chart, ChartFormat());

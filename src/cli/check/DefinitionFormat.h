@@ -10,9 +10,6 @@
 /// What a definition can say: the one list of its elements, attributes and values.
 namespace plotsmith::cli {
 
-/// The chart types that a definition can ask for.
-std::vector<std::string> ChartTypes();
-
 /// What of the element `chart` and all below it is no part of a definition, or is missing from it.
 Findings CheckFormat(const dom::IXMLDOMElement& chart, const std::string& place);
 

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "cli/Candidates.h"
-#include "cli/check/DefinitionFormat.h"
+#include "cli/wizard/LayoutControls.h"
 #include "cli/manual/Manual.h"
 
 namespace plotsmith::cli {
