@@ -504,6 +504,44 @@ TEST_F(VerbTest, AChartWhoseTableFitsNoLongerGetsAnotherOne) {
   EXPECT_EQ(Bytes(folder_ / "played.xlsx"), Bytes(out_));
 }
 
+TEST_F(VerbTest, OptionsReachTheirControlsFromAnyLayout) {
+  test::Definition columns{"VEX_Chart1"};
+  columns.series = "<series headings-in=\"columns\"><column name=\"Amount\"/></series>";
+  columns.values = "";
+  test::PlainBook book = SalesBook({columns});
+  const S twoNumbers = Write(book, "two.xlsx");
+  for (test::PlainRow& row : book.Sheet("Data1").rows) row.pop_back();
+  const S oneNumber = Write(book, "one.xlsx");
+  const S byColumn = "<categories headings-in=\"columns\"><column name=\"Amount\"/></categories>",
+          byProduct = "<series headings-in=\"rows\"><column name=\"Product\"/></series>";
+  struct Case {
+    S book;
+    std::vector<S> options;
+    S piece;
+  };
+  const Case cases[] = {
+      // a click on the only number column takes the series away
+      {oneNumber,
+       {"--series", "Product", "--values", "Amount"},
+       byProduct + "<values><column name=\"Amount\"/></values>"},
+      // columns can't be the categories while they are the series
+      {twoNumbers,
+       {"--category-columns", "Amount", "--no-series"},
+       byColumn + "<series headings-in=\"none\"/>"},
+      {twoNumbers, {"--category-columns", "Amount", "--series", "Product"}, byColumn + byProduct},
+  };
+  for (const Case& item : cases) {
+    book_ = item.book;
+    std::vector<S> arguments = {"modify", "VEX_Chart1"};
+    arguments.insert(arguments.end(), item.options.begin(), item.options.end());
+    const CommandResult result = Verb(arguments);
+    EXPECT_EQ(result.code, 0) << result.err;
+    EXPECT_NE(Definition(out_, "VEX_Chart1").find(item.piece), S::npos) << Definition(out_, "VEX_Chart1");
+  }
+  EXPECT_EQ(Verb({"modify", "VEX_Chart1", "--category-columns", "Amount"}).err,
+            "plotsmith: --category-columns can't be used with this layout: optCategories(2) is off.\n");
+}
+
 TEST_F(VerbTest, AChartOfAnUnknownTypeGetsAnotherOne) {
   book_ = Write(SalesBook({{"VEX_Chart1", "unknown"}}));
   EXPECT_EQ(Verb({"modify", "VEX_Chart1", "--title", "x"}).err, "plotsmith: Please select a chart type.\n");

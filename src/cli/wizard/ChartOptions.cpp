@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "cli/Command.h"
-#include "cli/check/DefinitionFormat.h"
 #include "cli/check/Words.h"
 #include "cli/wizard/LayoutControls.h"
 

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "cli/ChartLookup.h"
-#include "cli/check/DefinitionFormat.h"
 #include "cli/check/Words.h"
 #include "cli/wizard/LayoutControls.h"
 #include "cli/wizard/LayoutSteps.h"

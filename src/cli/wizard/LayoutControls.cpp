@@ -65,6 +65,12 @@ const LayoutControls* FindLayout(std::string_view type) {
   return found == nullptr ? nullptr : &found->layout;
 }
 
+std::vector<std::string> ChartTypes() {
+  std::vector<std::string> names;
+  for (const TypeOfChart& type : kTypes) names.emplace_back(type.name);
+  return names;
+}
+
 std::int32_t OptionOfType(std::string_view type) { return FindType(type)->option; }
 
 std::vector<std::string> OptionsOf(const LayoutControls& layout) {

@@ -34,6 +34,8 @@ struct LayoutControls {
 /// The layout page of a chart type; null for a type that there isn't.
 const LayoutControls* FindLayout(std::string_view type);
 
+/// The names of all chart types.
+std::vector<std::string> ChartTypes();
 /// The place of a type, which there is, among the options of the Source Table page.
 std::int32_t OptionOfType(std::string_view type);
 
