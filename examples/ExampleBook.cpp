@@ -64,6 +64,8 @@ void ExampleBook::Comment(const excel::Ref<excel::Worksheet>& sheet, const std::
       ->SetText(text);
 }
 
+void ExampleBook::FinishAsData(const std::string& path) { host_->Book().Save(path); }
+
 void ExampleBook::Finish(const std::string& path) {
   ResetSystem();
   host_->Book().AllSheets().front()->object->Activate();

@@ -30,6 +30,8 @@ class ExampleBook {
              const std::string& attributes, const std::string& content);
   /// The comment box of the last chart, which is on that sheet.
   void Comment(const excel::Ref<excel::Worksheet>& sheet, const std::string& text);
+  /// Saves the tables alone, as a book that has never seen Plotsmith.
+  void FinishAsData(const std::string& path);
   /// Refreshes and saves; what the refresh had to say goes to stderr.
   void Finish(const std::string& path);
 

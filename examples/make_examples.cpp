@@ -234,6 +234,38 @@ void MakeInvestments(const std::string& path) {
   book.Finish(path);
 }
 
+/// Two plain tables, for first steps: what was ordered, and what each region was to sell.
+void MakeOrders(const std::string& path) {
+  ExampleBook book;
+  const auto orders = book.Sheet("Data1");
+  Fill(*orders, 1, {"Region", "Product", "Quarter", "Amount", "Cost", "Units"});
+  constexpr std::array kRegions = {"North", "South", "East", "West"};
+  constexpr std::array kProducts = {"Kettle", "Lamp", "Radio"};
+  constexpr std::array kPrices = {24.0, 38.0, 61.0};
+  constexpr int kUnits[4][3] = {{120, 80, 45}, {95, 130, 60}, {70, 55, 90}, {150, 40, 30}};
+  int row = 1;
+  for (int quarter = 1; quarter <= 4; ++quarter) {
+    for (std::size_t region = 0; region < kRegions.size(); ++region) {
+      for (std::size_t product = 0; product < kProducts.size(); ++product) {
+        const double units = kUnits[region][product] + 10 * ((quarter + static_cast<int>(product)) % 4);
+        const double amount = units * kPrices[product];
+        Fill(*orders, ++row,
+             {kRegions[region], kProducts[product], "Q" + std::to_string(quarter), amount,
+              std::round(amount * (product == 2 ? 0.8 : 0.65)), units});
+      }
+    }
+  }
+  const auto targets = book.Sheet("Targets");
+  targets->SetCellValueAt(1, 1, "Targets of the year");
+  Fill(*targets, 3, {"Region", "Amount"});
+  row = 3;
+  for (const char* region : kRegions) {
+    Fill(*targets, ++row, {region, 45000.0 - 2500.0 * (row % 3)});
+  }
+  book.Name("VEX_SB_Targets", "Targets!$A$1:$B$" + std::to_string(row));
+  book.FinishAsData(path);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -247,6 +279,7 @@ int main(int argc, char** argv) {
     MakeElectricity(folder + "/electricity.xlsx");
     MakeCountries(folder + "/countries.xlsx");
     MakeInvestments(folder + "/investments.xlsx");
+    MakeOrders(folder + "/data/orders.xlsx");
     return 0;
   } catch (const std::exception& e) {
     std::cerr << "make_examples: " << e.what() << '\n';

@@ -1,19 +1,43 @@
 #!/bin/sh
-# Refreshes the example workbooks and, where LibreOffice is there, makes a picture of their charts.
+# Refreshes the example workbooks, makes the charts of one from plain tables, and takes pictures where LibreOffice is.
 set -eu
 cd "$(dirname "$0")/.."
 mkdir -p demo
-for book in examples/*.xlsx; do
-  name=$(basename "$book" .xlsx)
-  build/plotsmith refresh "$book" -o "demo/$name.xlsx"
-  echo "demo/$name.xlsx: refreshed; these are its charts:"
+
+# Says which charts a book of demo/ has, and takes a picture of a page of it: NAME PAGE.
+show() {
+  name=$1
   build/plotsmith charts "demo/$name.xlsx" | sed 's/^/    /'
   if command -v soffice >/dev/null && command -v pdftoppm >/dev/null; then
     scripts/print.sh "demo/$name.xlsx" demo
-    pdftoppm -png -r 96 -f 2 -l 2 -singlefile "demo/$name.pdf" "demo/$name"
+    pdftoppm -png -r 96 -f "$2" -l "$2" -singlefile "demo/$name.pdf" "demo/$name"
     rm "demo/$name.pdf"
     echo "demo/$name.png: a picture of its sheet Charts"
   else
     echo "    (LibreOffice and pdftoppm would make a picture of it)"
   fi
+}
+
+for book in examples/*.xlsx; do
+  name=$(basename "$book" .xlsx)
+  build/plotsmith refresh "$book" -o "demo/$name.xlsx"
+  echo "demo/$name.xlsx: refreshed; these are its charts:"
+  show "$name" 2
 done
+
+# A book with plain tables gets a chart of each type, each on a sheet of its own.
+book=demo/orders.xlsx
+cp examples/data/orders.xlsx "$book"
+new() {
+  build/plotsmith new "$book" --table Data1 --type "$@"
+}
+new column --title "Amount by region" --series Product --set stacked --new-sheet Charts
+new bar --title "Costs against amounts" --series-columns Amount Cost --new-sheet Bars
+new area --title "Shares of the products" --categories Quarter --series Product --set stacked 100% --new-sheet Areas
+new pie --title "Where the amounts come from" --categories Product --labels percentages --set exploded --new-sheet Pies
+new bubble --title "Products" --categories Product --values Amount --x-values Cost --sizes Units --series Product \
+  --new-sheet Bubbles
+new "strategic bucket" --title "Amounts and targets" --categories Product --series Product --bucket-table VEX_SB_Targets \
+  --labels names --new-sheet Buckets
+echo "$book: made from two plain tables; these are its charts:"
+show orders 4

@@ -26,7 +26,12 @@ while read -r page dpi name; do
 done <"$out/pages"
 cp "$out/gallery.md" docs/gallery.md
 
-# What the README shows: the sheets Charts of two examples.
+# What the README shows: its first chart, and the sheets Charts of two examples.
+cp examples/data/orders.xlsx "$out/orders.xlsx"
+build/plotsmith new "$out/orders.xlsx" --table Data1 --type column --title "Amount by region" --series Product --set stacked \
+  --new-sheet Charts
+scripts/print.sh "$out/orders.xlsx" "$out"
+take orders 4 60 380 300 orders
 for book in bicycle-sales investments; do
   build/plotsmith refresh "examples/$book.xlsx" -o "$out/$book.xlsx"
   scripts/print.sh "$out/$book.xlsx" "$out"

@@ -9,6 +9,7 @@
 
 #include "cli/CommandLine.h"
 #include "tests/support/HostTest.h"
+#include "tests/support/RunCommand.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith {
@@ -109,6 +110,52 @@ TEST_F(NewcomerTest, TheDefinitionsOfThePageOfFormatsAreDrawn) {
         << charts;
     EXPECT_EQ(charts.find("not drawn"), S::npos) << charts;
   }
+}
+
+TEST_F(NewcomerTest, TheFirstStepsOfTheReadmeMakeAChart) {
+  std::istringstream commands(Block(readme_, "\ncp examples/data/orders.xlsx") +
+                              Block(readme_, "\nbuild/plotsmith refresh book.xlsx"));
+  const S book = folder_ / "book.xlsx";
+  S line;
+  int steps = 0;
+  for (; std::getline(commands, line); ++steps) {
+    line = Replaced(line, "build/plotsmith", PLOTSMITH_COMMAND);
+    line = Replaced(line, "examples/", (kRoot / "examples/").string());
+    Shell(Replaced(line, "book.xlsx", book));
+  }
+  EXPECT_EQ(steps, 4);
+  EXPECT_EQ(Shell(S(PLOTSMITH_COMMAND) + " charts " + book),
+            "VEX_Chart1  \"Amount by region\"\n  column chart on sheet Charts, from table Data1 on sheet "
+            "Data1\n  ok\n");
+}
+
+TEST_F(NewcomerTest, TheScriptsOfTheWizardsPagePlayAndPrintWhatItSays) {
+  const S page = Text(kRoot / "docs/wizard.md");
+  const S book = folder_ / "orders.xlsx";
+  fs::copy_file(kRoot / "examples/data/orders.xlsx", book);
+  const S begin = "```script\n", end = "```\n", printed = "\n```text\n";
+  int scripts = 0;
+  for (auto at = page.find(begin); at != S::npos; at = page.find(begin, at), ++scripts) {
+    const auto to = page.find(end, at + begin.size());
+    const S script = page.substr(at + begin.size(), to - at - begin.size());
+    at = to + end.size();
+    S expected;
+    if (page.compare(at, printed.size(), printed) == 0) {
+      const auto from = at + printed.size();
+      expected = page.substr(from, page.find(end, from) - from);
+    }
+    const auto result = test::RunCommand({"wizard", book, "--script", "-"}, script);
+    EXPECT_EQ(result.code, 0) << result.err << script;
+    EXPECT_EQ(result.err, "");
+    EXPECT_EQ(result.out, expected) << "run scripts/wizard-page.py";
+  }
+  EXPECT_GE(scripts, 10);
+  std::set<S> types;
+  const S charts = test::RunCommand({"charts", book}).out;
+  const std::regex type("  ([a-z ]+) chart on sheet");
+  for (std::sregex_iterator it(charts.begin(), charts.end(), type), last; it != last; ++it)
+    types.insert((*it)[1]);
+  EXPECT_EQ(types, (std::set<S>{"area", "bar", "bubble", "column", "pie", "strategic bucket"}));
 }
 
 TEST_F(NewcomerTest, TheReadmeNamesEachVerb) {
