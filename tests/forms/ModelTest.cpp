@@ -99,12 +99,13 @@ TEST(ModelTest, HandsMoveTheFocusAndRaiseEvents) {
        },
        {"txtTitle got-focus", "txtTitle validate", "txtNote got-focus"}},
       {"a button", [](auto& form) { form.cmdOK.UserPress(); }, {"cmdOK got-focus", "cmdOK click"}},
-      {"Enter leaves the focus",
+      {"Enter finishes what was typed, and leaves the focus",
        [](auto& form) {
          form.txtTitle.UserFocus();
          EXPECT_TRUE(form.UserEnter());
+         EXPECT_EQ(form.ActiveControl(), &form.txtTitle);
        },
-       {"txtTitle got-focus", "cmdOK click"}},
+       {"txtTitle got-focus", "txtTitle validate", "cmdOK click"}},
       {"Enter in a text of several lines",
        [](auto& form) {
          form.txtNote.UserType("a");
@@ -238,8 +239,8 @@ TEST_F(ModalLoopTest, AFormMayGoInsideOfItsOwnEvent) {
   loop_.ShowModal(form_);
   EXPECT_TRUE(first.expired());
   EXPECT_EQ(form_->Name(), "frmSecond");
-  EXPECT_EQ(log_, (Log{"load", "activate", "txtTitle got-focus", "cmdOK click", "unload", "load", "activate",
-                       "txtTitle got-focus", "unload"}));
+  EXPECT_EQ(log_, (Log{"load", "activate", "txtTitle got-focus", "txtTitle validate", "cmdOK click", "unload",
+                       "load", "activate", "txtTitle got-focus", "unload"}));
 }
 
 TEST_F(ModalLoopTest, AnErrorGoesThroughFormsThatAreNested) {

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "cli/Command.h"
+#include "cli/check/Words.h"
 #include "cli/wizard/LayoutControls.h"
-#include "forms/script/Wording.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -101,7 +101,7 @@ std::vector<std::string> GivenOptions(const LayoutOptions& layout) {
 void CheckChartOptions(const ChartOptions& options) {
   if (options.type && FindLayout(*options.type) == nullptr) {
     throw CommandError(exit_code::kUsage,
-                       "no type " + forms::Named(*options.type) + "; " + forms::ThereAre(ChartTypes()) + ".");
+                       "no type " + Quoted(*options.type) + "; " + ThereAre(ChartTypes()) + ".");
   }
   const auto& unset = options.layout.unset;
   for (const std::string& setting : options.layout.set) {

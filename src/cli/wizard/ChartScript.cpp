@@ -3,13 +3,13 @@
 #include <utility>
 
 #include "cli/ChartLookup.h"
+#include "cli/check/Words.h"
 #include "cli/wizard/LayoutControls.h"
 #include "cli/wizard/LayoutSteps.h"
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
 #include "forms/Buttons.h"
 #include "forms/script/ScriptError.h"
-#include "forms/script/Wording.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -23,6 +23,16 @@ constexpr std::string_view kSelectTable = "frmPSSelectTable";
 constexpr std::string_view kChartLocation = "frmPSChartLocation";
 }  // namespace page_name
 
+/// What the Source Table page says to a chart of a type that can't be drawn.
+constexpr std::string_view kNoType = "Please select a chart type";
+
+/// The type of the chart in hand; absent if it is none that can be drawn.
+std::optional<std::string> TypeInHand() {
+  if (!oChartDoc) return std::nullopt;
+  const std::string type = GetAttributeText(oChartDoc.selectSingleNode("chart"), "type");
+  return FindLayout(type) == nullptr ? std::nullopt : std::optional(type);
+}
+
 /// The row of a grid that bears the chart's id, which is its data, or its name, which is its text.
 std::int32_t RowOfChart(const forms::VSFlexGrid& grid, const std::string& idOrName) {
   ChartNames charts;
@@ -33,8 +43,8 @@ std::int32_t RowOfChart(const forms::VSFlexGrid& grid, const std::string& idOrNa
     return grid.FixedRows() + static_cast<std::int32_t>(*place);
   }
   std::vector<std::string> names;
-  for (const auto& [id, name] : charts) names.push_back(id + " " + forms::Named(name));
-  throw ScriptError("no chart " + forms::Named(idOrName) + "; " + forms::ThereAre(names));
+  for (const auto& [id, name] : charts) names.push_back(id + " " + Quoted(name));
+  throw ScriptError("no chart " + Quoted(idOrName) + "; " + ThereAre(names));
 }
 
 std::int32_t RowOfTable(const forms::VSFlexGrid& grid, const std::string& id) {
@@ -43,14 +53,14 @@ std::int32_t RowOfTable(const forms::VSFlexGrid& grid, const std::string& id) {
     if (grid.RowData(row) == id) return row;
     ids.push_back(grid.RowData(row));
   }
-  throw ScriptError("no table " + forms::Named(id) + "; " + forms::ThereAre(ids));
+  throw ScriptError("no table " + Quoted(id) + "; " + ThereAre(ids));
 }
 
 /// Presses the button that modifies or copies the selected chart, which is off for a chart without a table.
 Step WorkStep(const char* button, const std::string& chart) {
   return [button, chart](const forms::Form& page) {
     if (!page.FindControl(button)->Enabled()) {
-      throw ScriptError("the table of the chart " + forms::Named(chart) +
+      throw ScriptError("the table of the chart " + Quoted(chart) +
                         " is gone, so the chart can only be deleted");
     }
     return std::string("press ") + button;
@@ -70,8 +80,8 @@ Step ChartTypeStep(const std::string& type) {
     for (const std::string& name : ChartTypes()) {
       if (page.FindControl(optionOf(name))->Enabled()) offered.push_back(name);
     }
-    throw ScriptError("the table " + forms::Named(sTableID) + " doesn't allow the type " +
-                      forms::Named(type) + "; " + forms::ThereAre(offered));
+    throw ScriptError("the table " + Quoted(sTableID) + " doesn't allow the type " + Quoted(type) + "; " +
+                      ThereAre(offered));
   };
 }
 
@@ -84,9 +94,10 @@ Steps ChartScript::StepsOn(const forms::Form& page) {
   return OnLayout();
 }
 
-bool ChartScript::Deals(const forms::Form& page, const std::string&) {
-  // the page opens by itself, and with a message, where the chart's table fits no longer
-  return page.Name() == page_name::kSelectTable && options_.table && !beenOnSelectTable_;
+bool ChartScript::Deals(const forms::Form& page, const std::string& message) {
+  // the page opens by itself, and with a message, where the chart's table or type is of no use
+  if (page.Name() != page_name::kSelectTable || beenOnSelectTable_) return false;
+  return message == kNoType ? options_.type.has_value() : options_.table.has_value();
 }
 
 Steps ChartScript::OnSelectAction(const forms::Form& page) const {
@@ -99,14 +110,16 @@ Steps ChartScript::OnSelectAction(const forms::Form& page) const {
 Steps ChartScript::OnSelectTable(const forms::Form& page) {
   beenOnSelectTable_ = true;
   if (work_ != ChartWork::kNew && colCharts->Count() == 0) {
-    throw ScriptError("no chart " + forms::Named(chart_) + "; the workbook has no charts");
+    throw ScriptError("no chart " + Quoted(chart_) + "; the workbook has no charts");
   }
   Steps steps;
   if (options_.table) {
     const std::int32_t row = RowOfTable(ControlOn<forms::VSFlexGrid>(page, "grdTables"), *options_.table);
     steps.push_back(RowsStep("grdTables", {row}));
   }
-  if (options_.type) steps.push_back(ChartTypeStep(*options_.type));
+  // a table of no use has switched the chart's own type off
+  const auto type = options_.type ? options_.type : TypeInHand();
+  if (type) steps.push_back(ChartTypeStep(*type));
   steps.push_back(PressStep("cmdNext"));
   return steps;
 }
@@ -150,7 +163,7 @@ bool ChartScript::WantsChartLocation() const {
 Steps DeleteScript::StepsOn(const forms::Form& page) {
   if (std::exchange(done_, true)) return {};  // the page has opened again without the charts
   if (page.Name() != page_name::kSelectAction) {
-    throw ScriptError("no chart " + forms::Named(charts_.front()) + "; the workbook has no charts");
+    throw ScriptError("no chart " + Quoted(charts_.front()) + "; the workbook has no charts");
   }
   std::vector<std::int32_t> rows;
   for (const std::string& chart : charts_) {

@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "cli/check/Words.h"
 #include "cli/wizard/LayoutControls.h"
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
 #include "forms/Buttons.h"
 #include "forms/script/ScriptError.h"
-#include "forms/script/Wording.h"
 #include "metadata/StrategicBuckets.h"
 
 namespace plotsmith::cli {
@@ -22,7 +22,7 @@ void CheckOptions(const LayoutOptions& options, const LayoutControls& layout, co
   const auto has = OptionsOf(layout);
   for (const std::string& option : GivenOptions(options)) {
     if (std::find(has.begin(), has.end(), option) == has.end()) {
-      throw ScriptError(ChartOf(type) + " has no " + option + "; it has " + forms::Listed(has));
+      throw ScriptError(ChartOf(type) + " has no " + option + "; it has " + Listed(has));
     }
   }
 }
@@ -35,8 +35,7 @@ const NamedControl& ControlOfWord(const std::vector<NamedControl>& controls, con
   if (found != controls.end()) return *found;
   std::vector<std::string> words;
   for (const NamedControl& control : controls) words.emplace_back(control.word);
-  throw ScriptError(ChartOf(type) + " has no " + kind + " " + forms::Named(word) + "; it has " +
-                    forms::Listed(words));
+  throw ScriptError(ChartOf(type) + " has no " + kind + " " + Quoted(word) + "; it has " + Listed(words));
 }
 
 /// Frees optCategories(2), which is off while columns are the series, if the series are to be others anyway.
@@ -98,8 +97,8 @@ std::string NameOfBucketTable(const std::string& id) {
       if (ids.back() == id) return GetAttributeText(table, "name");
     }
   }
-  throw ScriptError("no table " + forms::Named(id) + " that can be the bucket table of " + sTableID + "; " +
-                    forms::ThereAre(ids));
+  throw ScriptError("no table " + Quoted(id) + " that can be the bucket table of " + sTableID + "; " +
+                    ThereAre(ids));
 }
 
 void AddLabels(Steps& steps, const LayoutOptions& options, const LayoutControls& layout,

@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "cli/check/Words.h"
 #include "forms/Buttons.h"
 #include "forms/Lists.h"
 #include "forms/TextBox.h"
 #include "forms/script/ScriptError.h"
 #include "forms/script/ScriptLine.h"
-#include "forms/script/Wording.h"
 #include "runtime/Strings.h"
 
 namespace plotsmith::cli {
@@ -39,8 +39,8 @@ std::string EntryOf(const forms::EntryList& list, const std::string& text, const
     return runtime::EqualsIgnoreCase(entry, text);
   });
   if (found != entries.end()) return *found;
-  throw ScriptError(std::string("no ") + kind + " " + forms::Named(text) + " for " + option + "; " +
-                    forms::ThereAre(entries));
+  throw ScriptError(std::string("no ") + kind + " " + Quoted(text) + " for " + option + "; " +
+                    ThereAre(entries));
 }
 
 std::vector<std::string> SelectedOf(const forms::ListBox& list) {

@@ -5,7 +5,6 @@
 
 #include "forms/script/ScriptError.h"
 #include "forms/script/ScriptLine.h"
-#include "forms/script/Wording.h"
 
 namespace plotsmith::cli {
 

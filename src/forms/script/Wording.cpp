@@ -26,11 +26,6 @@ std::string SomeOf(const std::vector<std::string>& names) {
   return text + "... (" + std::to_string(names.size()) + " in all)";
 }
 
-std::string ThereAre(const std::vector<std::string>& names) {
-  if (names.empty()) return "there is none";
-  return (names.size() == 1 ? "there is " : "there are ") + SomeOf(names);
-}
-
 std::string Named(std::string_view text) { return "'" + WithLineEnds(text, "\\n") + "'"; }
 
 }  // namespace plotsmith::forms

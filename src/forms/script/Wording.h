@@ -11,9 +11,6 @@ std::string Listed(const std::vector<std::string>& names);
 /// What there is of something, as the end of a sentence: "A, B and C", or the first few of many with their
 /// number.
 std::string SomeOf(const std::vector<std::string>& names);
-/// What there is instead of something that was asked for: "there are A, B and C", "there is A", "there is
-/// none".
-std::string ThereAre(const std::vector<std::string>& names);
 /// A text in single quotes, with its line ends as "\n".
 std::string Named(std::string_view text);
 
