@@ -178,8 +178,8 @@ TEST_F(WizardCommandTest, FilesAndLocksAreSeenTo) {
   result = RunCommand({"wizard", book});
   EXPECT_EQ(result.code, 2);
   EXPECT_EQ(result.err,
-            "plotsmith: a wizard to click through needs a window, which plotsmith-wizard has; without "
-            "one there is --script FILE.\n");
+            "plotsmith: the wizard has no window yet; --script FILE plays a script on its pages, and new, "
+            "modify, copy and delete go through them by themselves.\n");
   for (const S& path : {folder_ / "none.txt", folder_.Path().string()}) {
     result = RunCommand({"wizard", book, "--script", path});
     EXPECT_EQ(result.code, 3);

@@ -18,12 +18,13 @@ using Json = nlohmann::ordered_json;
 const char* State(const dom::IXMLDOMElement& chart) {
   if (GetAttributeText(chart, "type") == "unknown") return "unsupported type";
   if (GetAttributeText(chart, "table-corrupted") == "yes") return "table no longer fits";
-  if (GetAttributeText(chart, "chart-area-crosshatched") == "yes") return "unavailable";
-  // one whose area has a filling of its own isn't crosshatched, but it has lost its series
+  // A chart that can't be built has lost its series. It isn't crosshatched if its area has a filling of its
+  // own, and the wizard mends a chart without storing that it is crosshatched no more.
   const bool drawn = ValueOr(false, [&] {
     return colChartObjects->Item(GetAttributeText(chart, "id"))->SeriesCollection()->Count() > 0;
   });
-  return drawn ? "ok" : "not drawn";
+  if (drawn) return "ok";
+  return GetAttributeText(chart, "chart-area-crosshatched") == "yes" ? "unavailable" : "not drawn";
 }
 
 Json Describe(const dom::IXMLDOMElement& chart) {

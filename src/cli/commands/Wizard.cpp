@@ -1,6 +1,7 @@
 #include "cli/commands/Wizard.h"
 
 #include <fstream>
+#include <utility>
 
 #include "cli/FormPrinter.h"
 #include "cli/wizard/WizardRun.h"
@@ -28,8 +29,8 @@ int WizardCommand::Run(const GlobalOptions& options, const Streams& streams) {
   if (!script_) {
     throw CommandError(
         exit_code::kUsage,
-        "a wizard to click through needs a window, which plotsmith-wizard has; without one there "
-        "is --script FILE.");
+        "the wizard has no window yet; --script FILE plays a script on its pages, and new, modify, copy and "
+        "delete go through them by themselves.");
   }
   if (*script_ == kStandardInput) return Play(streams.in, options, streams);
   std::ifstream file(*script_, std::ios::binary);
@@ -42,7 +43,9 @@ int WizardCommand::Run(const GlobalOptions& options, const Streams& streams) {
 
 int WizardCommand::Play(std::istream& script, const GlobalOptions& options, const Streams& streams) const {
   forms::StreamLines lines(script);
+  bool isFirst = true;
   const auto print = [&](const forms::FormState& form) {
+    if (!std::exchange(isFirst, false) && !json_) streams.out << '\n';
     (json_ ? PrintFormAsJson : PrintForm)(streams.out, form);
     streams.out.flush();
   };
