@@ -147,6 +147,12 @@ void AddItems(forms::EntryList& oList, const std::vector<std::string>& aTexts) {
   for (const std::string& sText : aTexts) oList.AddItem(sText);
 }
 
+void FillList(forms::EntryList& oList, const std::vector<std::string>& aTexts, const char* sFirst) {
+  if (sFirst != nullptr) oList.AddItem(sFirst);
+  AddItems(oList, aTexts);
+  oList.SetListIndex(0);
+}
+
 void SelectEntries(forms::EntryList& oList, const std::vector<std::string>& aNames) {
   for (const std::string& sName : aNames) {
     for (std::int32_t i = 0; i < oList.ListCount(); ++i) {

@@ -126,6 +126,9 @@ class CommentBox {
 void SetInputEnabled(forms::Control& oControl, bool bEnabled);
 /// Puts texts at the end of a list.
 void AddItems(forms::EntryList& oList, const std::vector<std::string>& aTexts);
+/// Puts texts into a list, behind `sFirst` if that is given, and makes the first entry the current one. Error
+/// 380 where there is none.
+void FillList(forms::EntryList& oList, const std::vector<std::string>& aTexts, const char* sFirst = nullptr);
 /// Makes each entry of one of these names, ignoring case, the current one in turn.
 void SelectEntries(forms::EntryList& oList, const std::vector<std::string>& aNames);
 /// The text of the current entry as a list: one text, or none.

@@ -44,6 +44,17 @@ LayoutPage::LayoutPage(const char* sName, Navigation& oNavigation)
   txtTitle.Font().Size = kTitleSize;
 }
 
+bool LayoutPage::ValidSelections() {
+  PrepareSelections();
+  const std::string sFault = FirstFault();
+  if (!sFault.empty()) {
+    DisplayMessage(sFault);
+    return false;
+  }
+  UpdateChartMetadata();
+  return true;
+}
+
 void LayoutPage::LoadColumnNames() {
   const auto oTable = colTables->Item(sTableID).selectSingleNode("table");
   colLabelColumns = NamesOf(oTable, "label-column");

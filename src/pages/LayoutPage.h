@@ -15,12 +15,18 @@ namespace plotsmith {
 /// the focus, which is marked.
 class LayoutPage : public Page {
  public:
+  bool ValidSelections() final;
+
   forms::Frame Frame1{*this, "Frame1", nullptr, "1. Chart Title"};
   forms::TextBox txtTitle{*this, "txtTitle", &Frame1};
 
  protected:
   LayoutPage(const char* sName, Navigation& oNavigation);
 
+  /// Brings the controls into order before they are judged.
+  virtual void PrepareSelections() {}
+  /// The message of the first rule that the page breaks, or an empty text.
+  virtual std::string FirstFault() const = 0;
   /// Reads the names of the source table's columns, in the order of the sheet.
   void LoadColumnNames();
   /// Wires the buttons, and the marking of the focus to all controls. `bHelpUnmarks` says whether the help

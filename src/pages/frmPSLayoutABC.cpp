@@ -170,22 +170,17 @@ void frmPSLayoutABC::SetFrameCaptions() {
 }
 
 void frmPSLayoutABC::FillCategoryControls() {
-  AddItems(cboCategories, colLabelColumns);
-  cboCategories.SetListIndex(0);
+  FillList(cboCategories, colLabelColumns);
   AddItems(lstCategories, colNumberColumns);
   Axes.FillLabelAxis(cboCategories.Text());
 }
 
 void frmPSLayoutABC::FillSeriesControls() {
-  AddItems(cboSeries, colLabelColumns);
-  cboSeries.SetListIndex(0);
+  FillList(cboSeries, colLabelColumns);
   AddItems(lstSeries, colNumberColumns);
 }
 
-void frmPSLayoutABC::FillValueControl() {
-  AddItems(cboValues, colNumberColumns);
-  cboValues.SetListIndex(0);
-}
+void frmPSLayoutABC::FillValueControl() { FillList(cboValues, colNumberColumns); }
 
 void frmPSLayoutABC::SetControlStates(Trigger lTrigger) {
   ChooseFittingOptions(lTrigger);
@@ -264,18 +259,11 @@ void frmPSLayoutABC::ShowChartPicture() {
   Pictures.Show(sName);
 }
 
-bool frmPSLayoutABC::ValidSelections() {
+void frmPSLayoutABC::PrepareSelections() {
   NumberFormat.ShowNumberExample();
   const bool bNoColor =
       (optSeries1.Value() && cboSeries.ListIndex() < 0) || (optSeries2.Value() && lstSeries.SelCount() == 0);
   if (bNoColor) optSeries0.SetValue(true);
-  const std::string sFault = FirstFault();
-  if (!sFault.empty()) {
-    DisplayMessage(sFault);
-    return false;
-  }
-  UpdateChartMetadata();
-  return true;
 }
 
 std::string frmPSLayoutABC::FirstFault() const {

@@ -16,7 +16,6 @@ namespace plotsmith {
 class frmPSLayoutABC final : public LayoutPage {
  public:
   explicit frmPSLayoutABC(Navigation& oNavigation);
-  bool ValidSelections() override;
 
   forms::Frame Frame2{*this, "Frame2", nullptr, "2. Vertical (Y-axis) Shows"};
   forms::OptionButton optCategories1{*this, "optCategories", 1, &Frame2, ""};
@@ -47,6 +46,8 @@ class frmPSLayoutABC final : public LayoutPage {
  protected:
   void FillPage() override;
   std::int32_t HelpTopic() const override;
+  void PrepareSelections() override;
+  std::string FirstFault() const override;
   void UpdateChartMetadata() override;
   forms::Control* FocusAfter(const std::string& sMessage) override;
 
@@ -75,8 +76,6 @@ class frmPSLayoutABC final : public LayoutPage {
   bool RestoreChartSelections();
   void RestoreHeadings();
   void RestoreStyle();
-  /// The message of the first rule that the page breaks, or an empty text.
-  std::string FirstFault() const;
   bool ColumnsGiveSize() const { return optCategories2.Value() || optSeries2.Value(); }
 };
 

@@ -63,45 +63,18 @@ void frmPSLayoutBubble::FillPage() {
   ShowChartPicture();
 }
 
-void frmPSLayoutBubble::FillCategories() {
-  AddItems(cboCategories, colLabelColumns);
-  cboCategories.SetListIndex(0);
-}
+void frmPSLayoutBubble::FillCategories() { FillList(cboCategories, colLabelColumns); }
 
-void frmPSLayoutBubble::FillColors() {
-  AddItems(cboSeries, colLabelColumns);
-  cboSeries.AddItem(kOneColor, 0);
-  cboSeries.SetListIndex(0);
-}
+void frmPSLayoutBubble::FillColors() { FillList(cboSeries, colLabelColumns, kOneColor); }
 
-void frmPSLayoutBubble::FillYValues() {
-  AddItems(lstYValues, colNumberColumns);
-  lstYValues.SetListIndex(0);
-}
+void frmPSLayoutBubble::FillYValues() { FillList(lstYValues, colNumberColumns); }
 
-void frmPSLayoutBubble::FillSizes() {
-  AddItems(cboSizes, colNumberColumns);
-  cboSizes.AddItem(kOneSize, 0);
-  cboSizes.SetListIndex(0);
-}
+void frmPSLayoutBubble::FillSizes() { FillList(cboSizes, colNumberColumns, kOneSize); }
 
-void frmPSLayoutBubble::FillXValues() {
-  AddItems(cboXValues, colNumberColumns);
-  cboXValues.SetListIndex(0);
-}
+void frmPSLayoutBubble::FillXValues() { FillList(cboXValues, colNumberColumns); }
 
 void frmPSLayoutBubble::ShowChartPicture() {
   Pictures.Show(kPictures[(IsChecked(chk3D) ? 1u : 0u) + (IsChecked(chkQuadrants) ? 2u : 0u)]);
-}
-
-bool frmPSLayoutBubble::ValidSelections() {
-  const std::string sFault = FirstFault();
-  if (!sFault.empty()) {
-    DisplayMessage(sFault);
-    return false;
-  }
-  UpdateChartMetadata();
-  return true;
 }
 
 std::string frmPSLayoutBubble::FirstFault() const {

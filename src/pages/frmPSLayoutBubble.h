@@ -14,7 +14,6 @@ namespace plotsmith {
 class frmPSLayoutBubble final : public LayoutPage {
  public:
   explicit frmPSLayoutBubble(Navigation& oNavigation);
-  bool ValidSelections() override;
 
   forms::Frame Frame2{*this, "Frame2", nullptr, "2. Vertical (Y-axis)"};
   forms::ListBox lstYValues{*this, "lstYValues", &Frame2, forms::MultiSelect::kNone};
@@ -42,6 +41,7 @@ class frmPSLayoutBubble final : public LayoutPage {
  protected:
   void FillPage() override;
   std::int32_t HelpTopic() const override { return 7; }
+  std::string FirstFault() const override;
   void UpdateChartMetadata() override;
   forms::Control* FocusAfter(const std::string& sMessage) override;
 
@@ -55,7 +55,6 @@ class frmPSLayoutBubble final : public LayoutPage {
   void ShowChartPicture();
   void RestoreChartSelections();
   void RestoreStyle();
-  std::string FirstFault() const;
 };
 
 }  // namespace plotsmith

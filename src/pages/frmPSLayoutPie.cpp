@@ -37,30 +37,15 @@ void frmPSLayoutPie::FillPage() {
   ShowChartPicture();
 }
 
-void frmPSLayoutPie::FillCategoryList() {
-  AddItems(lstCategories, colLabelColumns);
-  lstCategories.SetListIndex(0);
-}
+void frmPSLayoutPie::FillCategoryList() { FillList(lstCategories, colLabelColumns); }
 
-void frmPSLayoutPie::FillValueControl() {
-  AddItems(cboValues, colNumberColumns);
-  cboValues.SetListIndex(0);
-}
+void frmPSLayoutPie::FillValueControl() { FillList(cboValues, colNumberColumns); }
 
 void frmPSLayoutPie::ShowChartPicture() {
   Pictures.Show(kPictures[(IsChecked(chk3D) ? 1u : 0u) + (IsChecked(chkExploded) ? 2u : 0u)]);
 }
 
-bool frmPSLayoutPie::ValidSelections() {
-  NumberFormat.ShowNumberExample();
-  const std::string sFault = FirstFault();
-  if (!sFault.empty()) {
-    DisplayMessage(sFault);
-    return false;
-  }
-  UpdateChartMetadata();
-  return true;
-}
+void frmPSLayoutPie::PrepareSelections() { NumberFormat.ShowNumberExample(); }
 
 std::string frmPSLayoutPie::FirstFault() const {
   if (lstCategories.SelCount() == 0) return kNoSlice;

@@ -13,7 +13,6 @@ namespace plotsmith {
 class frmPSLayoutPie final : public LayoutPage {
  public:
   explicit frmPSLayoutPie(Navigation& oNavigation);
-  bool ValidSelections() override;
 
   forms::Frame Frame4{*this, "Frame4", nullptr, "2. Slice Size"};
   forms::ComboBox cboValues{*this, "cboValues", &Frame4, forms::ComboStyle::kDropDownList};
@@ -35,6 +34,8 @@ class frmPSLayoutPie final : public LayoutPage {
  protected:
   void FillPage() override;
   std::int32_t HelpTopic() const override { return 6; }
+  void PrepareSelections() override;
+  std::string FirstFault() const override;
   void UpdateChartMetadata() override;
   forms::Control* FocusAfter(const std::string& sMessage) override;
 
@@ -43,7 +44,6 @@ class frmPSLayoutPie final : public LayoutPage {
   void FillValueControl();
   void ShowChartPicture();
   void RestoreChartSelections();
-  std::string FirstFault() const;
 };
 
 }  // namespace plotsmith

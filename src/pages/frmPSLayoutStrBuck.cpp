@@ -25,7 +25,8 @@ constexpr double kNameWidth = 0.6, kValueWidth = 0.4;  // of the grid's width
 /// A bucket's value as "#,###" shows it: whole, with thousands set off, and nothing for zero.
 std::string BucketValueText(double dValue) {
   // of a sum, the digits that a number shows count, and not the error of its last bit
-  const double dRounded = std::floor(std::abs(runtime::Val(std::string_view(runtime::NumberText(dValue)))) + 0.5);
+  const double dRounded =
+      std::floor(std::abs(runtime::Val(std::string_view(runtime::NumberText(dValue)))) + 0.5);
   if (dRounded == 0) return {};
   std::array<char, 400> aBuffer;  // the largest number has 309 digits
   const auto oEnd = std::to_chars(aBuffer.begin(), aBuffer.end(), dRounded, std::chars_format::fixed, 0);
@@ -79,22 +80,11 @@ void frmPSLayoutStrBuck::FillBucketTables() {
   cboBucketTables.SetListIndex(0);
 }
 
-void frmPSLayoutStrBuck::FillCategories() {
-  AddItems(cboCategories, colLabelColumns);
-  cboCategories.SetListIndex(0);
-}
+void frmPSLayoutStrBuck::FillCategories() { FillList(cboCategories, colLabelColumns); }
 
-void frmPSLayoutStrBuck::FillColors() {
-  AddItems(cboSeries, colLabelColumns);
-  cboSeries.AddItem(kOneColor, 0);
-  cboSeries.SetListIndex(0);
-}
+void frmPSLayoutStrBuck::FillColors() { FillList(cboSeries, colLabelColumns, kOneColor); }
 
-void frmPSLayoutStrBuck::FillBlockSequence() {
-  AddItems(cboBlockSequence, colNumberColumns);
-  cboBlockSequence.AddItem(kNoSequence, 0);
-  cboBlockSequence.SetListIndex(0);
-}
+void frmPSLayoutStrBuck::FillBlockSequence() { FillList(cboBlockSequence, colNumberColumns, kNoSequence); }
 
 void frmPSLayoutStrBuck::ShowBuckets() {
   const auto& oDoc = *std::next(colBucketTables->begin(), cboBucketTables.ListIndex());
@@ -115,16 +105,7 @@ void frmPSLayoutStrBuck::ShowBuckets() {
   SetBucketColumns();
 }
 
-bool frmPSLayoutStrBuck::ValidSelections() {
-  NumberFormat.ShowNumberExample();
-  const std::string sFault = FirstFault();
-  if (!sFault.empty()) {
-    DisplayMessage(sFault);
-    return false;
-  }
-  UpdateChartMetadata();
-  return true;
-}
+void frmPSLayoutStrBuck::PrepareSelections() { NumberFormat.ShowNumberExample(); }
 
 std::string frmPSLayoutStrBuck::FirstFault() const {
   if (cboBucketTables.ListIndex() < 0) return kNoBuckets;

@@ -18,7 +18,6 @@ namespace plotsmith {
 class frmPSLayoutStrBuck final : public LayoutPage {
  public:
   explicit frmPSLayoutStrBuck(Navigation& oNavigation);
-  bool ValidSelections() override;
 
   forms::Frame Frame2{*this, "Frame2", nullptr, "2. Strategic Buckets"};
   forms::ComboBox cboBucketTables{*this, "cboBucketTables", &Frame2, forms::ComboStyle::kDropDownList};
@@ -43,6 +42,8 @@ class frmPSLayoutStrBuck final : public LayoutPage {
  protected:
   void FillPage() override;
   std::int32_t HelpTopic() const override { return 18; }
+  void PrepareSelections() override;
+  std::string FirstFault() const override;
   void UpdateChartMetadata() override;
   forms::Control* FocusAfter(const std::string& sMessage) override;
 
@@ -56,7 +57,6 @@ class frmPSLayoutStrBuck final : public LayoutPage {
   void ShowBuckets();
   void RestoreChartSelections();
   void RestoreSortOrder();
-  std::string FirstFault() const;
 
   runtime::Ref<DocumentCollection> colBucketTables;  ///< in the order of cboBucketTables
   runtime::Dictionary dicBucketIndex;                ///< the place in cboBucketTables by table id
