@@ -11,7 +11,8 @@ namespace plotsmith::cli {
 namespace {
 
 constexpr const char* kDescription =
-    "Plotsmith rebuilds the charts of an Excel workbook from its tables, without Excel.\n"
+    "Plotsmith makes charts over the tables of an Excel workbook and keeps them up to date,\n"
+    "without Excel.\n"
     "Tables are found by their names (VEX_TableRange..., VEX_SB...) or as sheets Data1 to Data5;\n"
     "the charts' definitions travel inside the workbook. Without -o the workbook itself is replaced,\n"
     "in one step: it is always whole.";

@@ -34,6 +34,10 @@ std::string Bold(const std::string& text) { return "\\fB" + Plain(text) + "\\fR"
 std::string Italic(const std::string& text) { return "\\fI" + Plain(text) + "\\fR"; }
 
 const std::pair<std::string, std::string> kExamples[] = {
+    {"new sales.xlsx --table Data1 --type column --title Sales --series Product --new-sheet Charts",
+     "Make a column chart, with a colour for each product, on a sheet of its own."},
+    {"modify sales.xlsx Sales --set stacked 100% --labels values",
+     "Stack its columns to 100%, and show the values."},
     {"refresh sales.xlsx --table Data1 -o new.xlsx",
      "Rebuild the charts that hang on the table Data1, and leave the workbook as it is."},
     {"rename-columns sales.xlsx --table Data1 Region=Area",
@@ -74,9 +78,10 @@ std::string Entries(const std::vector<OptionView>& options) {
 
 std::string ManualPage(const CommandLine& line) {
   const std::string name = line.app.get_name();
-  std::string page = ".\\\" Made from the command's own table of options.\n.TH PLOTSMITH 1 \"\" \"" + name +
-                     " " + PLOTSMITH_VERSION + "\" \"User Commands\"\n.SH NAME\n" + name +
-                     " \\- rebuild the charts of Excel workbooks from their tables\n.SH SYNOPSIS\n";
+  std::string page =
+      ".\\\" Made from the command's own table of options.\n.TH PLOTSMITH 1 \"\" \"" + name + " " +
+      PLOTSMITH_VERSION + "\" \"User Commands\"\n.SH NAME\n" + name +
+      " \\- make charts over the tables of Excel workbooks, and keep them up to date\n.SH SYNOPSIS\n";
   for (const CLI::App* verb : line.verbs) {
     page += Bold(name) + " " + Bold(verb->get_name()) + Usage(OptionsOf(*verb)) + "\n.br\n";
   }
