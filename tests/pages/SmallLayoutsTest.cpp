@@ -1,0 +1,103 @@
+#include "tests/support/FamilyBooks.h"
+#include "tests/support/PagesTest.h"
+
+namespace plotsmith {
+namespace {
+
+using test::ModifyChart;
+using test::NewChart;
+using test::PlainBook;
+using test::SalesBook;
+using S = std::string;
+
+/// The layout pages of pie, bubble and strategic bucket charts.
+class SmallLayoutsTest : public test::PagesTest {
+ protected:
+  /// A step on a page, and what is off and which pictures show after it.
+  struct State {
+    S script, off, pictures;
+  };
+};
+
+constexpr int kPie = 3, kBubble = 4, kBucket = 5;
+
+PlainBook Bubbles() {
+  PlainBook book = test::BubbleBook({{"a", "x", 1, 2, 3}, {"b", "y", 4, 5, 6}}, test::BubbleDefinition());
+  book.Sheet("VEX_ChartDefinitions").rows.resize(1);
+  return book;
+}
+
+/// Two tables qualify as bucket tables.
+PlainBook Buckets() {
+  PlainBook book = test::BucketBook(test::BucketDefinition());
+  book.Sheet("VEX_ChartDefinitions").rows.resize(1);
+  test::PlainSheet others{"Others"};
+  others.rows = {{S("Others")}, {}, {S("Theme"), S("Rank")}, {S("New"), 1234.5}, {S("old"), -2.0}};
+  book.sheets.push_back(others);
+  book.names.emplace_back("VEX_SB2", "Others!$A$1:$B$5");
+  return book;
+}
+
+TEST_F(SmallLayoutsTest, StatesAndPicturesOfPies) {
+  const State cases[] = {
+      {"expect lstCategories.Text Region; expect cboValues.Text Amount; expect optDataLabels(2).Value yes", "",
+       "imgLegend imgPieBasic"},
+      {"check chk3D", "", "imgLegend imgPie3DBasic"},
+      {"check chkExploded", "", "imgLegend imgPieExplode"},
+      {"check chkExploded; check chk3D", "", "imgLegend imgPie3DExplode"},
+      {"check chkExploded; check chk3D; uncheck chkExploded; choose optDataLabels(1)", "", "imgLegend imgPie3DBasic"},
+  };
+  for (const auto& [script, off, pictures] : cases) {
+    EXPECT_EQ(Play(SalesBook({}), NewChart(kPie) + script + "; look off " + off + "; look pictures " + pictures), "");
+  }
+}
+
+TEST_F(SmallLayoutsTest, StatesAndPicturesOfBubbles) {
+  const S all = "chkShowZeroBubbles chkScaleXAxis chkScaleYAxis";
+  const State cases[] = {
+      {"expect lstYValues.Text Across; expect cboXValues.Text Across; expect cboSizes.List "
+       "\"[all the same size]|Across|Up|Size\"; expect cboSeries.List \"[all the same color]|Name|Group\"; "
+       "expect txtHAxis.Text Across; expect txtVAxis.Text Across; expect cboSeries.ListIndex 0",
+       all, "imgLegendDim imgBubbleBasic"},
+      {"check chk3D; choose cboSeries Name", all, "imgLegend imgBubble3DBasic"},
+      {"choose cboSeries Group; choose cboSeries \"[all the same color]\"", all, "imgLegendDim imgBubbleBasic"},
+      {"check chkQuadrants", "chkShowZeroBubbles", "imgLegendDim imgBubbleQuad"},
+      {"check chkQuadrants; check chk3D", "chkShowZeroBubbles", "imgLegendDim imgBubble3DQuad"},
+      {"check chkQuadrants; check chkScaleXAxis; check chkScaleYAxis; uncheck chkQuadrants; "
+       "expect chkScaleXAxis.Value 0; expect chkScaleYAxis.Value 0",
+       all, "imgLegendDim imgBubbleBasic"},
+      {"choose cboSizes Across", "chkScaleXAxis chkScaleYAxis", "imgLegendDim imgBubbleBasic"},
+      {"choose cboSizes Size; check chkShowZeroBubbles; choose cboSizes Up; expect chkShowZeroBubbles.Value 1",
+       "chkScaleXAxis chkScaleYAxis", "imgLegendDim imgBubbleBasic"},
+      {"choose cboSizes Size; check chkShowZeroBubbles; choose cboSizes \"[all the same size]\"; "
+       "expect chkShowZeroBubbles.Value 0",
+       all, "imgLegendDim imgBubbleBasic"},
+      {"select lstYValues Up; choose cboXValues Size; expect txtVAxis.Text Up; expect txtHAxis.Text Size", all,
+       "imgLegendDim imgBubbleBasic"},
+  };
+  for (const auto& [script, off, pictures] : cases) {
+    EXPECT_EQ(Play(Bubbles(), NewChart(kBubble) + script + "; look off " + off + "; look pictures " + pictures), "");
+  }
+}
+
+TEST_F(SmallLayoutsTest, StatesAndPicturesOfStrategicBuckets) {
+  const State cases[] = {
+      {"expect cboBucketTables.Text Buckets; expect grdBuckets.Rows 3; expect txtHAxis.Text bucket; "
+       "expect txtVAxis.Text SUM; expect optBlockSequence(0).Value yes; expect cboBlockSequence.List "
+       "[none]|Sum|Rank; expect cboSeries.ListIndex 0; select grdBuckets GROWTH CORE",
+       "", "imgLegendDim imgStrBuckBasic"},
+      {"choose cboBucketTables Others; expect txtHAxis.Text Theme; expect txtVAxis.Text Rank; "
+       "select grdBuckets OLD",
+       "", "imgLegendDim imgStrBuckBasic"},
+      {"type txtVAxis Mine; choose cboBucketTables Others; expect txtHAxis.Text Theme; expect txtVAxis.Text Mine",
+       "", "imgLegendDim imgStrBuckBasic"},
+      {"choose cboSeries Theme", "", "imgLegend imgStrBuckBasic"},
+      {"choose cboSeries Theme; choose cboSeries \"[all the same color]\"", "", "imgLegendDim imgStrBuckBasic"},
+  };
+  for (const auto& [script, off, pictures] : cases) {
+    EXPECT_EQ(Play(Buckets(), NewChart(kBucket) + script + "; look off " + off + "; look pictures " + pictures), "");
+  }
+}
+
+}  // namespace
+}  // namespace plotsmith
