@@ -82,12 +82,12 @@ TEST_F(SmallLayoutsTest, StatesAndPicturesOfBubbles) {
 
 TEST_F(SmallLayoutsTest, StatesAndPicturesOfStrategicBuckets) {
   const State cases[] = {
-      {"expect cboBucketTables.Text Buckets; expect grdBuckets.Rows 3; expect txtHAxis.Text bucket; "
+      {"expect cboBucketTables.Text Buckets; look grdBuckets bucket,SUM|GROWTH,120|CORE,50; expect txtHAxis.Text bucket; "
        "expect txtVAxis.Text SUM; expect optBlockSequence(0).Value yes; expect cboBlockSequence.List "
-       "[none]|Sum|Rank; expect cboSeries.ListIndex 0; select grdBuckets GROWTH CORE",
+       "[none]|Sum|Rank; expect cboSeries.ListIndex 0",
        "", "imgLegendDim imgStrBuckBasic"},
       {"choose cboBucketTables Others; expect txtHAxis.Text Theme; expect txtVAxis.Text Rank; "
-       "select grdBuckets OLD",
+       "look grdBuckets Theme,Rank|NEW,1,235|OLD,-2",
        "", "imgLegendDim imgStrBuckBasic"},
       {"type txtVAxis Mine; choose cboBucketTables Others; expect txtHAxis.Text Theme; expect txtVAxis.Text Mine",
        "", "imgLegendDim imgStrBuckBasic"},
@@ -97,6 +97,43 @@ TEST_F(SmallLayoutsTest, StatesAndPicturesOfStrategicBuckets) {
   for (const auto& [script, off, pictures] : cases) {
     EXPECT_EQ(Play(Buckets(), NewChart(kBucket) + script + "; look off " + off + "; look pictures " + pictures), "");
   }
+}
+
+TEST_F(SmallLayoutsTest, MessagesMoveTheFocus) {
+  const S badFormat = "The requested number format is not supported by Excel";
+  struct Case {
+    PlainBook book;
+    int type;
+    S script, message, focus;
+    bool outlivesBack = false;  ///< the page doesn't come back with its first entries instead
+  };
+  const Case cases[] = {
+      {SalesBook({}), kPie, "select lstCategories; clear cboValues", "Please select a 'Slice Represents' entry",
+       "lstCategories"},
+      {SalesBook({}), kPie, "clear cboValues; type cboNumberMask \"0 [\"", "Please select a 'Slice Size' entry",
+       "cboValues"},
+      {SalesBook({}), kPie, "type cboNumberMask \"0 [\"", badFormat, "cboNumberMask", true},
+      {Bubbles(), kBubble, "select lstYValues; clear cboXValues", "Please select a 'Vertical (Y-axis)' entry",
+       "lstYValues"},
+      {Bubbles(), kBubble, "clear cboXValues; clear cboCategories", "Please select a 'Horizontal (X-axis)' entry",
+       "cboXValues"},
+      {Bubbles(), kBubble, "clear cboCategories", "Please select a 'Bubble Represents' entry", "cboCategories"},
+      {Buckets(), kBucket, "clear cboCategories; type cboDataLabelMask \"0 [\"",
+       "Please select a 'Block Represents' entry", "cboCategories"},
+      {Buckets(), kBucket, "type cboDataLabelMask \"0 [\"", badFormat, "cboDataLabelMask", true},
+  };
+  for (const auto& [book, type, script, message, focus, outlivesBack] : cases) {
+    const S start = NewChart(type) + script;
+    const S said = "; expect message \"" + message + "\"; look focus " + focus + "; expect cmdNext.Enabled yes";
+    EXPECT_EQ(Play(book, start + "; press cmdNext" + said), "");
+    if (!outlivesBack) continue;
+    EXPECT_EQ(Play(book, start + "; press cmdBack; press cmdFinish" + said), "");
+  }
+  EXPECT_EQ(Play(SalesBook({}), NewChart(kPie) + "press cmdBack; force strategic bucket; press cmdFinish; "
+                                                 "expect message \"Invalid property value\"; expect message "
+                                                 "\"Please select a 'Strategic Buckets' entry\"; page "
+                                                 "frmPSLayoutStrBuck; look focus cboBucketTables"),
+            "");
 }
 
 }  // namespace

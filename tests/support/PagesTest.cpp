@@ -11,6 +11,7 @@
 #include "forms/Lists.h"
 #include "forms/Plain.h"
 #include "forms/TextBox.h"
+#include "forms/VSFlexGrid.h"
 #include "forms/script/ScriptError.h"
 #include "forms/script/ScriptPlayer.h"
 
@@ -77,7 +78,18 @@ std::optional<S> DefaultMark(Control& control) {
   return button != nullptr && button->Default() ? std::optional<S>("") : std::nullopt;
 }
 
+S CellsOf(const forms::VSFlexGrid& grid) {
+  S text;
+  for (std::int32_t row = 0; row < grid.Rows(); ++row) {
+    for (std::int32_t column = 0; column < grid.Cols(); ++column) {
+      text += (column > 0 ? "," : row > 0 ? "|" : "") + grid.TextMatrix(row, column);
+    }
+  }
+  return text;
+}
+
 S Seen(const forms::Form& form, const S& what) {
+  if (const auto* grid = dynamic_cast<const forms::VSFlexGrid*>(form.FindControl(what))) return CellsOf(*grid);
   if (what == "focus") return form.ActiveControl() == nullptr ? "" : form.ActiveControl()->FullName();
   if (what == "default") return Names(form, DefaultMark);
   if (what == "off") return Names(form, OffMark);

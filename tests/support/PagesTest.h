@@ -21,6 +21,7 @@ namespace plotsmith::test {
 /// | `look pictures IMAGE...` | all images that show |
 /// | `look marked CONTROL...` | all controls in the colour of the mark; a frame that isn't bold and flat as
 /// well, or is so without the colour, has "!" behind it |
+/// | `look GRID ROW|ROW...` | all rows of a grid, their cells with commas between them |
 /// | `clear LIST` | takes the current entry away, as no hand can |
 /// | `force TYPE` | makes this the chart's type, whatever the page offers |
 /// | `definition` | writes down the document being edited |
