@@ -35,7 +35,8 @@ TEST_F(LayoutABCTest, StatesFollowEachClick) {
       {"choose optSeries(1); choose cboSeries Product; check chkStacked", "lstCategories lstSeries", ""},
       {"choose optSeries(1); check chkStacked; check chk100Pct; uncheck chkStacked",
        "lstCategories lstSeries chk100Pct", "expect chk100Pct.Value 0"},
-      {"choose optSeries(1); choose cboSeries Product; check chkStacked; check chk100Pct; choose optSeries(0)",
+      {"choose optSeries(1); choose cboSeries Product; check chkStacked; check chk100Pct; choose "
+       "optSeries(0)",
        fresh, "expect chkStacked.Value 0; expect chk100Pct.Value 0; expect cboSeries.ListIndex -1"},
       {"choose optSeries(2); select lstSeries Amount Cost",
        "optCategories(2) lstCategories cboSeries cboValues chk100Pct",
@@ -72,15 +73,20 @@ TEST_F(LayoutABCTest, TheNumbersOfColumnsDecideAboutColors) {
       {{"A"}, {"N"}, "", "lstCategories optSeries(1) cboSeries lstSeries" + rest},
       {{"A", "B"}, {"N"}, "", "lstCategories cboSeries lstSeries" + rest},
       {{"A"}, {"N", "M"}, "", "lstCategories cboSeries lstSeries" + rest},
-      {{"A"}, {"N"}, "choose optSeries(2); choose optSeries(0)",
+      {{"A"},
+       {"N"},
+       "choose optSeries(2); choose optSeries(0)",
        "lstCategories optSeries(1) cboSeries lstSeries" + rest},
-      {{"A", "B"}, {"N"}, "choose optSeries(1); choose cboSeries B; choose cboValues N; expect optSeries(0).Value yes",
+      {{"A", "B"},
+       {"N"},
+       "choose optSeries(1); choose cboSeries B; choose cboValues N; expect optSeries(0).Value yes",
        "lstCategories cboSeries lstSeries" + rest},
   };
   for (const auto& [labels, numbers, script, off] : cases) {
     EXPECT_EQ(Play(BookOfColumns(labels, numbers), NewChart(kColumn) + script + "; look off " + off), "");
   }
-  EXPECT_EQ(Play(BookOfColumns({"A"}, {"N"}), NewChart(kColumn) + "press cmdNext; page frmPSChartLocation"), "");
+  EXPECT_EQ(Play(BookOfColumns({"A"}, {"N"}), NewChart(kColumn) + "press cmdNext; page frmPSChartLocation"),
+            "");
 }
 
 TEST_F(LayoutABCTest, RestoredStatesAreSettledAtTheEnd) {
@@ -90,14 +96,18 @@ TEST_F(LayoutABCTest, RestoredStatesAreSettledAtTheEnd) {
   both.series = "<series headings-in=\"columns\">" + columns + "</series>";
   hundred.rest = test::Settings({"100%"});
   gone.categories = "<categories headings-in=\"rows\"><column name=\"Country\"/></categories>";
-  gone.rest = "<axes><axis type=\"other\" label=\"No\"/><axis type=\"label\" label=\"Old\" sticky=\"yes\"/></axes>";
+  gone.rest =
+      "<axes><axis type=\"other\" label=\"No\"/><axis type=\"label\" label=\"Old\" sticky=\"yes\"/></axes>";
   const std::pair<Definition, S> cases[] = {
       {both,
-       "expect optCategories(1).Value yes; expect optSeries(2).Value yes; expect lstSeries.Selected Amount|Cost; "
+       "expect optCategories(1).Value yes; expect optSeries(2).Value yes; expect lstSeries.Selected "
+       "Amount|Cost; "
        "look off optCategories(2) lstCategories cboSeries optSeries(2) cboValues chk100Pct"},
-      {hundred, "expect chk100Pct.Value 1; look off lstCategories lstSeries chk100Pct; look pictures imgLegend"},
-      {gone, "expect cboCategories.Text Region; expect txtHAxis.Text Old; choose cboCategories Product; "
-             "expect txtHAxis.Text Old"},
+      {hundred,
+       "expect chk100Pct.Value 1; look off lstCategories lstSeries chk100Pct; look pictures imgLegend"},
+      {gone,
+       "expect cboCategories.Text Region; expect txtHAxis.Text Old; choose cboCategories Product; "
+       "expect txtHAxis.Text Old"},
   };
   for (const auto& [definition, expected] : cases) {
     EXPECT_EQ(Play(SalesBook({definition}), ModifyChart() + "page frmPSLayoutABC; " + expected), "");
@@ -111,17 +121,26 @@ TEST_F(LayoutABCTest, CaptionsAndHelpFollowTheType) {
     S captions;
   };
   const Case cases[] = {
-      {kBar, {3},
-       "expect Frame2.Caption \"2. Vertical (Y-axis) Shows\"; expect Frame4.Caption \"4. Bar Length\"; expect "
-       "Frame5.Caption \"5. Bar and Axis Labels\"; expect chkShowValues.Caption \"Show Values on Bars\"; expect "
+      {kBar,
+       {3},
+       "expect Frame2.Caption \"2. Vertical (Y-axis) Shows\"; expect Frame4.Caption \"4. Bar Length\"; "
+       "expect "
+       "Frame5.Caption \"5. Bar and Axis Labels\"; expect chkShowValues.Caption \"Show Values on Bars\"; "
+       "expect "
        "chkStacked.Caption \"Stacked Bars\"; expect txtVAxis.Text Region; expect txtHAxis.Text Amount"},
-      {kColumn, {4},
-       "expect Frame2.Caption \"2. Horizontal (X-axis) Shows\"; expect Frame4.Caption \"4. Column Height\"; expect "
-       "Frame5.Caption \"5. Column and Axis Labels\"; expect chkShowValues.Caption \"Show Values on Columns\"; "
+      {kColumn,
+       {4},
+       "expect Frame2.Caption \"2. Horizontal (X-axis) Shows\"; expect Frame4.Caption \"4. Column Height\"; "
+       "expect "
+       "Frame5.Caption \"5. Column and Axis Labels\"; expect chkShowValues.Caption \"Show Values on "
+       "Columns\"; "
        "expect chkStacked.Caption \"Stacked Columns\"; expect txtHAxis.Text Region"},
-      {kArea, {5},
-       "expect Frame2.Caption \"2. Horizontal (X-axis) Shows\"; expect Frame4.Caption \"4. Area Size\"; expect "
-       "Frame5.Caption \"5. Area and Axis Labels\"; expect chkShowValues.Caption \"Show Values on Areas\"; expect "
+      {kArea,
+       {5},
+       "expect Frame2.Caption \"2. Horizontal (X-axis) Shows\"; expect Frame4.Caption \"4. Area Size\"; "
+       "expect "
+       "Frame5.Caption \"5. Area and Axis Labels\"; expect chkShowValues.Caption \"Show Values on Areas\"; "
+       "expect "
        "chkStacked.Caption \"Stacked Areas\"; expect txtHAxis.Text Region"},
   };
   for (const auto& [type, topics, captions] : cases) {
@@ -155,10 +174,12 @@ TEST_F(LayoutABCTest, EachCodeHasItsPicture) {
 TEST_F(LayoutABCTest, MessagesMoveTheFocus) {
   const S noX = "\"Please select a 'Horizontal (X-axis) Shows' entry\"";
   const S noY = "\"Please select a 'Vertical (Y-axis) Shows' entry\"";
-  const S sameX = "\"You cannot use the same entry for the 'Horizontal (X-axis) Shows'\\nand 'A Color Represents' "
-                  "selections\"";
-  const S sameY = "\"You cannot use the same entry for the 'Vertical (Y-axis) Shows'\\nand 'A Color Represents' "
-                  "selections\"";
+  const S sameX =
+      "\"You cannot use the same entry for the 'Horizontal (X-axis) Shows'\\nand 'A Color Represents' "
+      "selections\"";
+  const S sameY =
+      "\"You cannot use the same entry for the 'Vertical (Y-axis) Shows'\\nand 'A Color Represents' "
+      "selections\"";
   const S badFormat = "\"The requested number format is not supported by Excel\"";
   const S noList = "choose optCategories(2)", noCombo = "choose optCategories(2); choose optCategories(1)";
   const S noSize = noCombo + "; choose cboCategories Region";
@@ -190,9 +211,10 @@ TEST_F(LayoutABCTest, MessagesMoveTheFocus) {
     EXPECT_EQ(Play(SalesBook({}), NewChart(type) + script + "; press cmdBack; press cmdFinish" + said), "")
         << "the page was loaded before it was shown";
   }
-  EXPECT_EQ(Play(SalesBook({}), NewChart(kColumn) +
-                                    "choose optSeries(2); choose optSeries(1); choose cboValues Cost; press cmdNext; "
-                                    "press cmdBack; expect optSeries(0).Value yes"),
+  EXPECT_EQ(Play(SalesBook({}),
+                 NewChart(kColumn) +
+                     "choose optSeries(2); choose optSeries(1); choose cboValues Cost; press cmdNext; "
+                     "press cmdBack; expect optSeries(0).Value yes"),
             "")
       << "a colour without a choice is none";
 }

@@ -40,15 +40,18 @@ PlainBook Buckets() {
 
 TEST_F(SmallLayoutsTest, StatesAndPicturesOfPies) {
   const State cases[] = {
-      {"expect lstCategories.Text Region; expect cboValues.Text Amount; expect optDataLabels(2).Value yes", "",
-       "imgLegend imgPieBasic"},
+      {"expect lstCategories.Text Region; expect cboValues.Text Amount; expect optDataLabels(2).Value yes",
+       "", "imgLegend imgPieBasic"},
       {"check chk3D", "", "imgLegend imgPie3DBasic"},
       {"check chkExploded", "", "imgLegend imgPieExplode"},
       {"check chkExploded; check chk3D", "", "imgLegend imgPie3DExplode"},
-      {"check chkExploded; check chk3D; uncheck chkExploded; choose optDataLabels(1)", "", "imgLegend imgPie3DBasic"},
+      {"check chkExploded; check chk3D; uncheck chkExploded; choose optDataLabels(1)", "",
+       "imgLegend imgPie3DBasic"},
   };
   for (const auto& [script, off, pictures] : cases) {
-    EXPECT_EQ(Play(SalesBook({}), NewChart(kPie) + script + "; look off " + off + "; look pictures " + pictures), "");
+    EXPECT_EQ(
+        Play(SalesBook({}), NewChart(kPie) + script + "; look off " + off + "; look pictures " + pictures),
+        "");
   }
 }
 
@@ -60,42 +63,51 @@ TEST_F(SmallLayoutsTest, StatesAndPicturesOfBubbles) {
        "expect txtHAxis.Text Across; expect txtVAxis.Text Across; expect cboSeries.ListIndex 0",
        all, "imgLegendDim imgBubbleBasic"},
       {"check chk3D; choose cboSeries Name", all, "imgLegend imgBubble3DBasic"},
-      {"choose cboSeries Group; choose cboSeries \"[all the same color]\"", all, "imgLegendDim imgBubbleBasic"},
+      {"choose cboSeries Group; choose cboSeries \"[all the same color]\"", all,
+       "imgLegendDim imgBubbleBasic"},
       {"check chkQuadrants", "chkShowZeroBubbles", "imgLegendDim imgBubbleQuad"},
       {"check chkQuadrants; check chk3D", "chkShowZeroBubbles", "imgLegendDim imgBubble3DQuad"},
       {"check chkQuadrants; check chkScaleXAxis; check chkScaleYAxis; uncheck chkQuadrants; "
        "expect chkScaleXAxis.Value 0; expect chkScaleYAxis.Value 0",
        all, "imgLegendDim imgBubbleBasic"},
       {"choose cboSizes Across", "chkScaleXAxis chkScaleYAxis", "imgLegendDim imgBubbleBasic"},
-      {"choose cboSizes Size; check chkShowZeroBubbles; choose cboSizes Up; expect chkShowZeroBubbles.Value 1",
+      {"choose cboSizes Size; check chkShowZeroBubbles; choose cboSizes Up; expect chkShowZeroBubbles.Value "
+       "1",
        "chkScaleXAxis chkScaleYAxis", "imgLegendDim imgBubbleBasic"},
       {"choose cboSizes Size; check chkShowZeroBubbles; choose cboSizes \"[all the same size]\"; "
        "expect chkShowZeroBubbles.Value 0",
        all, "imgLegendDim imgBubbleBasic"},
-      {"select lstYValues Up; choose cboXValues Size; expect txtVAxis.Text Up; expect txtHAxis.Text Size", all,
-       "imgLegendDim imgBubbleBasic"},
+      {"select lstYValues Up; choose cboXValues Size; expect txtVAxis.Text Up; expect txtHAxis.Text Size",
+       all, "imgLegendDim imgBubbleBasic"},
   };
   for (const auto& [script, off, pictures] : cases) {
-    EXPECT_EQ(Play(Bubbles(), NewChart(kBubble) + script + "; look off " + off + "; look pictures " + pictures), "");
+    EXPECT_EQ(
+        Play(Bubbles(), NewChart(kBubble) + script + "; look off " + off + "; look pictures " + pictures),
+        "");
   }
 }
 
 TEST_F(SmallLayoutsTest, StatesAndPicturesOfStrategicBuckets) {
   const State cases[] = {
-      {"expect cboBucketTables.Text Buckets; look grdBuckets bucket,SUM|GROWTH,120|CORE,50; expect txtHAxis.Text bucket; "
+      {"expect cboBucketTables.Text Buckets; look grdBuckets bucket,SUM|GROWTH,120|CORE,50; expect "
+       "txtHAxis.Text bucket; "
        "expect txtVAxis.Text SUM; expect optBlockSequence(0).Value yes; expect cboBlockSequence.List "
        "[none]|Sum|Rank; expect cboSeries.ListIndex 0",
        "", "imgLegendDim imgStrBuckBasic"},
       {"choose cboBucketTables Others; expect txtHAxis.Text Theme; expect txtVAxis.Text Rank; "
        "look grdBuckets Theme,Rank|NEW,1,235|OLD,-2",
        "", "imgLegendDim imgStrBuckBasic"},
-      {"type txtVAxis Mine; choose cboBucketTables Others; expect txtHAxis.Text Theme; expect txtVAxis.Text Mine",
+      {"type txtVAxis Mine; choose cboBucketTables Others; expect txtHAxis.Text Theme; expect txtVAxis.Text "
+       "Mine",
        "", "imgLegendDim imgStrBuckBasic"},
       {"choose cboSeries Theme", "", "imgLegend imgStrBuckBasic"},
-      {"choose cboSeries Theme; choose cboSeries \"[all the same color]\"", "", "imgLegendDim imgStrBuckBasic"},
+      {"choose cboSeries Theme; choose cboSeries \"[all the same color]\"", "",
+       "imgLegendDim imgStrBuckBasic"},
   };
   for (const auto& [script, off, pictures] : cases) {
-    EXPECT_EQ(Play(Buckets(), NewChart(kBucket) + script + "; look off " + off + "; look pictures " + pictures), "");
+    EXPECT_EQ(
+        Play(Buckets(), NewChart(kBucket) + script + "; look off " + off + "; look pictures " + pictures),
+        "");
   }
 }
 
@@ -108,23 +120,25 @@ TEST_F(SmallLayoutsTest, MessagesMoveTheFocus) {
     bool outlivesBack = false;  ///< the page doesn't come back with its first entries instead
   };
   const Case cases[] = {
-      {SalesBook({}), kPie, "select lstCategories; clear cboValues", "Please select a 'Slice Represents' entry",
-       "lstCategories"},
-      {SalesBook({}), kPie, "clear cboValues; type cboNumberMask \"0 [\"", "Please select a 'Slice Size' entry",
-       "cboValues"},
+      {SalesBook({}), kPie, "select lstCategories; clear cboValues",
+       "Please select a 'Slice Represents' entry", "lstCategories"},
+      {SalesBook({}), kPie, "clear cboValues; type cboNumberMask \"0 [\"",
+       "Please select a 'Slice Size' entry", "cboValues"},
       {SalesBook({}), kPie, "type cboNumberMask \"0 [\"", badFormat, "cboNumberMask", true},
       {Bubbles(), kBubble, "select lstYValues; clear cboXValues", "Please select a 'Vertical (Y-axis)' entry",
        "lstYValues"},
-      {Bubbles(), kBubble, "clear cboXValues; clear cboCategories", "Please select a 'Horizontal (X-axis)' entry",
-       "cboXValues"},
-      {Bubbles(), kBubble, "clear cboCategories", "Please select a 'Bubble Represents' entry", "cboCategories"},
+      {Bubbles(), kBubble, "clear cboXValues; clear cboCategories",
+       "Please select a 'Horizontal (X-axis)' entry", "cboXValues"},
+      {Bubbles(), kBubble, "clear cboCategories", "Please select a 'Bubble Represents' entry",
+       "cboCategories"},
       {Buckets(), kBucket, "clear cboCategories; type cboDataLabelMask \"0 [\"",
        "Please select a 'Block Represents' entry", "cboCategories"},
       {Buckets(), kBucket, "type cboDataLabelMask \"0 [\"", badFormat, "cboDataLabelMask", true},
   };
   for (const auto& [book, type, script, message, focus, outlivesBack] : cases) {
     const S start = NewChart(type) + script;
-    const S said = "; expect message \"" + message + "\"; look focus " + focus + "; expect cmdNext.Enabled yes";
+    const S said =
+        "; expect message \"" + message + "\"; look focus " + focus + "; expect cmdNext.Enabled yes";
     EXPECT_EQ(Play(book, start + "; press cmdNext" + said), "");
     if (!outlivesBack) continue;
     EXPECT_EQ(Play(book, start + "; press cmdBack; press cmdFinish" + said), "");

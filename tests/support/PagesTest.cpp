@@ -45,7 +45,8 @@ class PagesDesktop final : public cli::ConsoleDesktop {
 S Names(const forms::Form& form, const std::function<std::optional<S>(Control&)>& mark) {
   S names;
   for (Control* control : form.Controls()) {
-    if (const auto behind = mark(*control)) names += (names.empty() ? "" : " ") + control->FullName() + *behind;
+    if (const auto behind = mark(*control))
+      names += (names.empty() ? "" : " ") + control->FullName() + *behind;
   }
   return names;
 }
@@ -89,7 +90,8 @@ S CellsOf(const forms::VSFlexGrid& grid) {
 }
 
 S Seen(const forms::Form& form, const S& what) {
-  if (const auto* grid = dynamic_cast<const forms::VSFlexGrid*>(form.FindControl(what))) return CellsOf(*grid);
+  if (const auto* grid = dynamic_cast<const forms::VSFlexGrid*>(form.FindControl(what)))
+    return CellsOf(*grid);
   if (what == "focus") return form.ActiveControl() == nullptr ? "" : form.ActiveControl()->FullName();
   if (what == "default") return Names(form, DefaultMark);
   if (what == "off") return Names(form, OffMark);

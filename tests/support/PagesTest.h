@@ -44,8 +44,8 @@ class PageLines final : public forms::LineSource {
 /// A test of the wizard's pages by scripts.
 class PagesTest : public HostTest {
  protected:
-  /// Runs the wizard on the open workbook by a script for PageLines. Answers "" where it was played to its end,
-  /// else the line that failed and why.
+  /// Runs the wizard on the open workbook by a script for PageLines. Answers "" where it was played to its
+  /// end, else the line that failed and why.
   std::string Play(const std::string& script);
   /// The same on a new workbook.
   std::string Play(const PlainBook& book, const std::string& script) {
@@ -58,8 +58,8 @@ class PagesTest : public HostTest {
   std::string Shapes(const std::string& sheet);
   std::string ActiveSheet() { return Book().ActiveSheet()->Name(); }
 
-  std::vector<std::string> definitions_;       ///< of the last script, a text for each line `definition`
-  std::vector<std::int32_t> helpTopics_;       ///< that the last script asked for
+  std::vector<std::string> definitions_;  ///< of the last script, a text for each line `definition`
+  std::vector<std::int32_t> helpTopics_;  ///< that the last script asked for
 };
 
 /// The lines that lead from a workbook without charts to the layout page of a new one. `type` is the index of

@@ -1,0 +1,219 @@
+#include "tests/support/FamilyBooks.h"
+#include "tests/support/PagesTest.h"
+
+namespace plotsmith {
+namespace {
+
+using test::ModifyChart;
+using test::NewChart;
+using test::PlainBook;
+using test::SalesBook;
+using S = std::string;
+
+/// What the layout pages write, and what they make of it when they read it again.
+class RoundTripTest : public test::PagesTest {
+ protected:
+  struct Case {
+    int type;
+    PlainBook book;
+    S on;        ///< all settings of the page
+    S onXml;     ///< the elements of `chart` then
+    S restored;  ///< what the page shows of it
+    S off;       ///< takes all of them back
+    S offXml;
+  };
+  static std::vector<Case> Cases();
+};
+
+PlainBook WithoutCharts(PlainBook book) {
+  book.Sheet("VEX_ChartDefinitions").rows.resize(1);
+  book.Sheet("Charts").frames.clear();
+  return book;
+}
+
+constexpr int kBubble = 4, kBucket = 5;
+
+/// A definition as it is before the chart is drawn.
+S Document(int type, const S& name, const S& title, const S& sheet, const S& format, const S& elements) {
+  const S types[] = {"bar", "column", "area", "pie", "bubble", "strategic bucket"};
+  return "<chart ps-chart-schema-version=\"2\" id=\"VEX_Chart1\" name=\"" + name + "\" title=\"" + title +
+         "\" type=\"" + types[type] + "\" chart-worksheet=\"" + sheet +
+         "\" table-id=\"Data1\" strategic-bucket-table-id=\"" + (type == kBucket ? "VEX_SB1" : "") +
+         "\" number-format=\"" + format + "\" table-corrupted=\"no\" chart-area-crosshatched=\"no\">" +
+         elements + "</chart>";
+}
+
+/// A definition without what a chart that was drawn adds to it.
+S WithoutReadBack(S xml) {
+  const S sheet = " table-worksheet=\"Data1\"", open = "<auto-persistence>", close = "</auto-persistence>";
+  const auto at = xml.find(sheet);
+  if (at != xml.npos) xml.erase(at, sheet.size());
+  const auto from = xml.find(open), to = xml.find(close);
+  return to == xml.npos ? xml : xml.erase(from, to + close.size() - from);
+}
+
+std::vector<RoundTripTest::Case> RoundTripTest::Cases() {
+  const PlainBook bubbles =
+      WithoutCharts(test::BubbleBook({{"a", "x", 1, 2, 3}, {"b", "y", 4, 5, 6}}, test::BubbleDefinition()));
+  const PlainBook buckets = WithoutCharts(test::BucketBook(test::BucketDefinition()));
+  const S style = "check chk3D; check chkStacked; check chk100Pct; type txtComment \" One\\nTwo \"";
+  const S plain =
+      "uncheck chk3D; choose optCategories(1); choose cboCategories Region; choose optSeries(0); choose "
+      "cboValues Cost; type txtComment \"\"; uncheck chkShowValues; type txtTitle \"\"; "
+      "type cboDataLabelMask \"\"; type txtHAxis \"\"; type txtVAxis \"\"";
+  return {
+      {0, SalesBook({}),
+       "type txtTitle \" Sales \"; choose cboCategories Product; choose optSeries(1); choose cboSeries "
+       "Region; choose cboValues Cost; check chkShowValues; type cboDataLabelMask \" 0.0\"; type txtHAxis \" "
+       "Across \"; " +
+           style,
+       R"(<categories headings-in="rows"><column name="Product"/></categories>)"
+       R"(<series headings-in="rows"><column name="Region"/></series><values><column name="Cost"/></values>)"
+       R"(<axes><axis type="value" label="Across" sticky="yes"/><axis type="label" label="Product" sticky="no"/></axes>)"
+       R"(<data-labels><data-label show="values"/></data-labels>)"
+       R"(<dynamic-attributes><attribute setting="3D"/><attribute setting="stacked"/><attribute setting="100%"/></dynamic-attributes>)"
+       R"(<comment>One)"
+       "\n"
+       R"(Two</comment>)",
+       "expect txtTitle.Text Sales; expect cboCategories.Text Product; expect optSeries(1).Value yes; expect "
+       "cboSeries.Text Region; expect cboValues.Text Cost; expect chkShowValues.Value 1; expect "
+       "cboDataLabelMask.Text 0.0; expect txtHAxis.Text Across; expect txtVAxis.Text Product; expect "
+       "chk3D.Value 1; expect chkStacked.Value 1; expect chk100Pct.Value 1; expect txtComment.Text "
+       "\"One\\nTwo\"; look off lstCategories lstSeries",
+       plain,
+       R"(<categories headings-in="rows"><column name="Region"/></categories><series headings-in="none"/>)"
+       R"(<values><column name="Cost"/></values><axes/><data-labels/><dynamic-attributes/>)"
+       R"(<comment></comment>)"},
+      {1, SalesBook({}),
+       "type txtTitle Sales; choose optSeries(2); select lstSeries Amount Cost; check chkShowValues; type "
+       "cboDataLabelMask 0.0; type txtVAxis Up; " +
+           style,
+       R"(<categories headings-in="rows"><column name="Region"/></categories>)"
+       R"(<series headings-in="columns"><column name="Amount"/><column name="Cost"/></series>)"
+       R"(<axes><axis type="label" label="Region" sticky="no"/><axis type="value" label="Up" sticky="yes"/></axes>)"
+       R"(<data-labels><data-label show="values"/></data-labels>)"
+       R"(<dynamic-attributes><attribute setting="3D"/><attribute setting="stacked"/><attribute setting="100%"/></dynamic-attributes>)"
+       R"(<comment>One)"
+       "\n"
+       R"(Two</comment>)",
+       "expect cboCategories.Text Region; expect optSeries(2).Value yes; expect lstSeries.Selected "
+       "Amount|Cost; expect cboValues.ListIndex -1; expect txtHAxis.Text Region; expect txtVAxis.Text Up; "
+       "look off optCategories(2) lstCategories cboSeries cboValues; look pictures imgLegend "
+       "imgColumn3DStack100",
+       plain,
+       R"(<categories headings-in="rows"><column name="Region"/></categories><series headings-in="none"/>)"
+       R"(<values><column name="Cost"/></values><axes/><data-labels/><dynamic-attributes/>)"
+       R"(<comment></comment>)"},
+      {2, SalesBook({}),
+       "type txtTitle Sales; choose optCategories(2); select lstCategories Amount Cost; choose optSeries(1); "
+       "choose cboSeries Product; check chkShowValues; type cboDataLabelMask 0.0; type txtHAxis Across; " +
+           style,
+       R"(<categories headings-in="columns"><column name="Amount"/><column name="Cost"/></categories>)"
+       R"(<series headings-in="rows"><column name="Product"/></series>)"
+       R"(<axes><axis type="label" label="Across" sticky="yes"/></axes>)"
+       R"(<data-labels><data-label show="values"/></data-labels>)"
+       R"(<dynamic-attributes><attribute setting="3D"/><attribute setting="stacked"/><attribute setting="100%"/></dynamic-attributes>)"
+       R"(<comment>One)"
+       "\n"
+       R"(Two</comment>)",
+       "expect optCategories(2).Value yes; expect lstCategories.Selected Amount|Cost; expect cboSeries.Text "
+       "Product; expect txtHAxis.Text Across; expect txtVAxis.Text \"\"; look off cboCategories optSeries(2) "
+       "lstSeries cboValues; look pictures imgLegend imgArea3DStack100",
+       plain,
+       R"(<categories headings-in="rows"><column name="Region"/></categories><series headings-in="none"/>)"
+       R"(<values><column name="Cost"/></values><axes/><data-labels/><dynamic-attributes/>)"
+       R"(<comment></comment>)"},
+      {3, SalesBook({}),
+       "type txtTitle Sales; choose cboValues Cost; select lstCategories Product; choose optDataLabels(1); "
+       "type cboNumberMask 0.0; check chk3D; check chkExploded; type txtComment Said",
+       R"(<categories headings-in="rows"><column name="Product"/></categories><series headings-in="none"/>)"
+       R"(<values><column name="Cost"/></values><data-labels><data-label show="percentages"/></data-labels>)"
+       R"(<dynamic-attributes><attribute setting="3D"/><attribute setting="exploded"/></dynamic-attributes>)"
+       R"(<comment>Said</comment>)",
+       "expect txtTitle.Text Sales; expect lstCategories.Text Product; expect cboValues.Text Cost; expect "
+       "optDataLabels(1).Value yes; expect cboNumberMask.Text 0.0; expect lblMaskExample.Caption 12345.7; "
+       "expect chk3D.Value 1; expect chkExploded.Value 1; expect txtComment.Text Said; look pictures "
+       "imgLegend imgPie3DExplode",
+       "type txtTitle \"\"; choose optDataLabels(2); type cboNumberMask \"\"; uncheck chk3D; uncheck "
+       "chkExploded; type txtComment \"\"",
+       R"(<categories headings-in="rows"><column name="Product"/></categories><series headings-in="none"/>)"
+       R"(<values><column name="Cost"/></values><data-labels/><dynamic-attributes/><comment></comment>)"},
+      {4, bubbles,
+       "type txtTitle Sales; select lstYValues Up; choose cboXValues Size; choose cboCategories Group; "
+       "choose cboSizes Across; check chkShowZeroBubbles; choose cboSeries Name; type txtHAxis Mine; check "
+       "chk3D; check chkQuadrants; check chkScaleXAxis; check chkScaleYAxis; type txtComment Said",
+       R"(<categories headings-in="rows"><column name="Group"/></categories>)"
+       R"(<series headings-in="rows"><column name="Name"/></series><values><column name="Up"/></values>)"
+       R"(<x-values><column name="Size"/></x-values><bubble-sizes><column name="Across"/></bubble-sizes>)"
+       R"(<axes><axis type="label" label="Mine" sticky="yes"/><axis type="value" label="Up" sticky="no"/></axes>)"
+       R"(<dynamic-attributes><attribute setting="3D"/></dynamic-attributes>)"
+       R"(<static-attributes><attribute setting="show-zero-bubbles"/><attribute setting="quadrants"/><attribute setting="autoscale-x"/><attribute setting="autoscale-y"/></static-attributes>)"
+       R"(<comment>Said</comment>)",
+       "expect txtTitle.Text Sales; expect lstYValues.Text Up; expect cboXValues.Text Size; expect "
+       "cboCategories.Text Group; expect cboSizes.Text Across; expect chkShowZeroBubbles.Value 1; expect "
+       "cboSeries.Text Name; expect txtHAxis.Text Mine; expect txtVAxis.Text Up; expect chkScaleXAxis.Value "
+       "1; expect chkScaleYAxis.Value 1; expect txtComment.Text Said; look off ; look pictures imgLegend "
+       "imgBubble3DQuad",
+       "type txtTitle \"\"; choose cboSizes \"[all the same size]\"; choose cboSeries \"[all the same "
+       "color]\"; type txtHAxis \"\"; type txtVAxis \"\"; uncheck chk3D; uncheck chkQuadrants; type "
+       "txtComment \"\"",
+       R"(<categories headings-in="rows"><column name="Group"/></categories><series headings-in="none"/>)"
+       R"(<values><column name="Up"/></values><x-values><column name="Size"/></x-values><axes/>)"
+       R"(<dynamic-attributes/><static-attributes/><comment></comment>)"},
+      {5, buckets,
+       "type txtTitle Sales; choose cboCategories Theme; choose cboSeries Project; choose cboBlockSequence "
+       "Rank; choose optBlockSequence(1); check chkShowNames; type cboDataLabelMask 0.0; type txtVAxis Mine; "
+       "type txtComment Said",
+       R"(<categories headings-in="rows"><column name="Theme"/></categories>)"
+       R"(<series headings-in="rows"><column name="Project"/></series><values><column name="SUM"/></values>)"
+       R"(<sort-order sort="descending"><column name="Rank"/></sort-order>)"
+       R"(<axes><axis type="label" label="bucket" sticky="no"/><axis type="value" label="Mine" sticky="yes"/></axes>)"
+       R"(<data-labels manual-labels="yes"/><dynamic-attributes/><comment>Said</comment>)",
+       "expect txtTitle.Text Sales; expect cboBucketTables.Text Buckets; expect cboCategories.Text Theme; "
+       "expect cboSeries.Text Project; expect cboBlockSequence.Text Rank; expect optBlockSequence(1).Value "
+       "yes; expect chkShowNames.Value 1; expect cboDataLabelMask.Text 0.0; expect txtHAxis.Text bucket; "
+       "expect txtVAxis.Text Mine; expect txtComment.Text Said; look pictures imgLegend imgStrBuckBasic",
+       "type txtTitle \"\"; choose cboSeries \"[all the same color]\"; choose cboBlockSequence [none]; "
+       "uncheck chkShowNames; type cboDataLabelMask \"\"; type txtHAxis \"\"; type txtVAxis \"\"; type "
+       "txtComment \"\"",
+       R"(<categories headings-in="rows"><column name="Theme"/></categories><series headings-in="none"/>)"
+       R"(<values><column name="SUM"/></values><axes/><data-labels manual-labels="no"/><dynamic-attributes/>)"
+       R"(<comment></comment>)"},
+  };
+}
+
+TEST_F(RoundTripTest, WhatAPageWritesItReadsAgain) {
+  for (const Case& c : Cases()) {
+    SCOPED_TRACE("optType(" + std::to_string(c.type) + ")");
+    const S writeOut = "; press cmdNext; page frmPSChartLocation; definition";
+    EXPECT_EQ(Play(c.book, NewChart(c.type) + c.on + writeOut + "; press cmdBack; " + c.restored + "; " +
+                               c.off + writeOut),
+              "");
+    ASSERT_EQ(definitions_.size(), 2u);
+    const S format = c.type == kBubble ? "" : "0.0";
+    EXPECT_EQ(definitions_[0], Document(c.type, "Chart1", "Sales", "", format, c.onXml));
+    EXPECT_EQ(definitions_[1], Document(c.type, "Sales", "", "Data1", "", c.offXml))
+        << "the way back took the proposed name and the first sheet along";
+  }
+}
+
+TEST_F(RoundTripTest, FinishAgainLeavesTheDefinitionAsItIs) {
+  for (const Case& c : Cases()) {
+    for (const S& script : {c.on, c.on + "; " + c.off}) {
+      SCOPED_TRACE("optType(" + std::to_string(c.type) + "); " + script);
+      const S again =
+          ModifyChart() + (script == c.on ? c.restored + "; " : "") + "press cmdFinish; page none";
+      EXPECT_EQ(Play(c.book, NewChart(c.type) + script + "; press cmdFinish; page none"), "");
+      const S first = Stored();
+      EXPECT_EQ(Play(again), "");
+      const S second = Stored();
+      EXPECT_EQ(WithoutReadBack(second), first);
+      SaveAndReopen();
+      EXPECT_EQ(Play(again), "");
+      EXPECT_EQ(Stored(), second);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace plotsmith
