@@ -1,6 +1,8 @@
 #include "tests/support/PagesTest.h"
 
+#include <algorithm>
 #include <functional>
+#include <memory>
 #include <sstream>
 
 #include "common/RunVariables.h"
@@ -113,6 +115,11 @@ PageLines::PageLines(const S& script) {
 std::optional<S> PageLines::NextLine(const forms::Scene& scene) {
   if (next_ == lines_.size()) return std::nullopt;
   const S& line = lines_[next_++];
+  if (scene.page != nullptr) {
+    for (const Control* control : scene.page->Controls()) {
+      if (dynamic_cast<const forms::Image*>(control) != nullptr) images.insert(control->Name());
+    }
+  }
   return PlayOwn(line, scene.page) ? "" : line;
 }
 
@@ -140,6 +147,7 @@ S PagesTest::Play(const S& script) {
   CPlotsmithController().RunPlotsmith(host_, "Test", "");
   player->PlayRest();
   definitions_ = lines.definitions;
+  images_.insert(lines.images.begin(), lines.images.end());
   const auto& failure = player->Failed();
   return failure ? lines.LastLine() + " -> " + failure->sentence : "";
 }
@@ -161,6 +169,29 @@ S NewChart(int type, const S& table) {
 
 S ModifyChart(int row) {
   return "page frmPSSelectAction; select grdCharts #" + std::to_string(row) + "; press cmdModify; ";
+}
+
+PlainBook BookOfCharts(const std::vector<PlacedChart>& charts) {
+  PlainBook book;
+  book.sheets.push_back(SalesSheet());
+  std::vector<S> definitions;
+  for (const PlacedChart& chart : charts) {
+    const S id = "VEX_Chart" + std::to_string(definitions.size() + 1);
+    const auto isOfSheet = [&](const PlainSheet& sheet) { return sheet.name == chart.sheet; };
+    if (std::ranges::none_of(book.sheets, isOfSheet)) {
+      book.sheets.push_back({chart.sheet});
+      if (chart.sheet == "Hidden") book.sheets.back().state = "hidden";
+      if (chart.sheet == "Very") book.sheets.back().state = "veryHidden";
+    }
+    auto& frames = book.Sheet(chart.sheet).frames;
+    frames.push_back({id, "", 0, static_cast<int>(frames.size()) * 20});
+    Definition definition{id, "column", "table-id=\"" + chart.table + "\" " + chart.attributes};
+    S xml = definition.Xml();
+    const S name = "Name of " + id;
+    definitions.push_back(xml.replace(xml.find(name), name.size(), chart.name));
+  }
+  book.AddDefinitions(definitions);
+  return book;
 }
 
 PlainBook BookOfColumns(const std::vector<S>& labels, const std::vector<S>& numbers) {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
+#include <initializer_list>
+#include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -32,6 +34,7 @@ class PageLines final : public forms::LineSource {
 
   const std::string& LastLine() const { return lines_[next_ - 1]; }
   std::vector<std::string> definitions;
+  std::set<std::string> images;  ///< names of all images of all pages that were open
 
  private:
   /// Whether the line is one of the verbs above; a ScriptError where it can't be done.
@@ -59,6 +62,7 @@ class PagesTest : public HostTest {
   std::string ActiveSheet() { return Book().ActiveSheet()->Name(); }
 
   std::vector<std::string> definitions_;  ///< of the last script, a text for each line `definition`
+  std::set<std::string> images_;          ///< of all pages that it came to
   std::vector<std::int32_t> helpTopics_;  ///< that the last script asked for
 };
 
@@ -67,6 +71,16 @@ class PagesTest : public HostTest {
 std::string NewChart(int type, const std::string& table = "Data1");
 /// The lines that lead to the layout page of the chart in the row of the list, from 1.
 std::string ModifyChart(int row = 1);
+
+/// A chart that waits on a sheet.
+struct PlacedChart {
+  std::string sheet;  ///< a sheet named Hidden is hidden, one named Very is very hidden
+  std::string name;
+  std::string table = "Data1";
+  std::string attributes = "";  ///< of its definition, such as its title
+};
+/// The table Data1 and column charts, whose ids are VEX_Chart1 and so on.
+PlainBook BookOfCharts(const std::vector<PlacedChart>& charts);
 
 /// A workbook without charts whose table Data1 has these columns, with a row of texts or numbers below.
 PlainBook BookOfColumns(const std::vector<std::string>& labels, const std::vector<std::string>& numbers);
