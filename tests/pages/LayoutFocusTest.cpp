@@ -1,21 +1,15 @@
-#include "tests/support/FamilyBooks.h"
 #include "tests/support/PagesTest.h"
 
 namespace plotsmith {
 namespace {
 
+using test::NewBucketBook;
 using test::NewChart;
 using test::SalesBook;
 using S = std::string;
 
 /// What follows the focus on the layout pages: the mark of the frame, the axis boxes, the default button.
 class LayoutFocusTest : public test::PagesTest {};
-
-test::PlainBook Buckets() {
-  auto book = test::BucketBook(test::BucketDefinition());
-  book.Sheet("VEX_ChartDefinitions").rows.resize(1);
-  return book;
-}
 
 constexpr int kBar = 0, kColumn = 1, kPie = 3, kBubble = 4, kBucket = 5;
 
@@ -51,7 +45,7 @@ TEST_F(LayoutFocusTest, TheFrameOfTheFocusIsMarked) {
       {kBucket, "check chkShowNames; press cmdHelp", ""},
   };
   for (const auto& [type, script, marked] : cases) {
-    EXPECT_EQ(Play(type == kBucket ? Buckets() : SalesBook({}),
+    EXPECT_EQ(Play(type == kBucket ? NewBucketBook() : SalesBook({}),
                    NewChart(type) + script + "; look marked " + marked),
               "");
   }
@@ -91,7 +85,7 @@ TEST_F(LayoutFocusTest, AxisBoxesFollowTheColumnsUntilTheUserTypes) {
 TEST_F(LayoutFocusTest, EnterEndsALineOfTheComment) {
   for (const int type : {kColumn, kPie, kBubble, kBucket}) {
     EXPECT_EQ(
-        Play(type == kBucket ? Buckets() : SalesBook({}),
+        Play(type == kBucket ? NewBucketBook() : SalesBook({}),
              NewChart(type) + "look default cmdNext; type txtComment a; look default ; enter; expect "
                               "txtComment.Text \"a\\n\"; focus txtTitle; look default cmdNext; enter; page "
                               "frmPSChartLocation; look default cmdFinish"),
@@ -105,13 +99,13 @@ TEST_F(LayoutFocusTest, TheExampleShowsTheNumberFormat) {
       {kColumn, "cboDataLabelMask"}, {kPie, "cboNumberMask"}, {kBucket, "cboDataLabelMask"}};
   for (const auto& [type, mask] : pages) {
     const auto example = [](const S& text) { return "; expect lblMaskExample.Caption " + text; };
-    EXPECT_EQ(
-        Play(Buckets(), NewChart(type) + "expect " + mask + ".List " + list + example("12345.6789") +
-                            "; choose " + mask + " \"$#,###;($#,###);\"" + example("$12,346") + "; type " +
-                            mask + " 0.0" + example("$12,346") + "; focus txtTitle" + example("12345.7") +
-                            "; type " + mask + " \"0 [\"; focus txtTitle" + example("\"(invalid format)\"") +
-                            "; type " + mask + " \"\"; focus txtTitle" + example("12345.6789")),
-        "");
+    EXPECT_EQ(Play(NewBucketBook(), NewChart(type) + "expect " + mask + ".List " + list +
+                                        example("12345.6789") + "; choose " + mask + " \"$#,###;($#,###);\"" +
+                                        example("$12,346") + "; type " + mask + " 0.0" + example("$12,346") +
+                                        "; focus txtTitle" + example("12345.7") + "; type " + mask +
+                                        " \"0 [\"; focus txtTitle" + example("\"(invalid format)\"") +
+                                        "; type " + mask + " \"\"; focus txtTitle" + example("12345.6789")),
+              "");
   }
 }
 

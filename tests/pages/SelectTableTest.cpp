@@ -1,5 +1,4 @@
 #include "pages/SamplePictures.h"
-#include "tests/support/FamilyBooks.h"
 #include "tests/support/PagesTest.h"
 
 namespace plotsmith {
@@ -7,6 +6,7 @@ namespace {
 
 using test::BookOfColumns;
 using test::ModifyChart;
+using test::NewBucketBook;
 using test::PlainBook;
 using test::SalesBook;
 using S = std::string;
@@ -14,12 +14,6 @@ using S = std::string;
 class SelectTableTest : public test::PagesTest {};
 
 const S kAllTypes = "optType(0) optType(1) optType(2) optType(3) optType(4) optType(5)";
-
-PlainBook Buckets() {
-  PlainBook book = test::BucketBook(test::BucketDefinition());
-  book.Sheet("VEX_ChartDefinitions").rows.resize(1);
-  return book;
-}
 
 /// Data1, and a table Data2 that has no numbers.
 PlainBook TwoTables(const std::vector<test::Definition>& definitions) {
@@ -29,16 +23,17 @@ PlainBook TwoTables(const std::vector<test::Definition>& definitions) {
 }
 
 TEST_F(SelectTableTest, TheTableDecidesAboutTheTypes) {
-  PlainBook oneLabel = Buckets();
+  PlainBook oneLabel = NewBucketBook();
   oneLabel.Sheet("Data1").rows = {{S("Bucket"), S("Sum")}, {S("Growth"), 10.0}, {S("core"), 20.0}};
-  PlainBook noMatch = Buckets();
+  PlainBook noMatch = NewBucketBook();
   noMatch.Sheet("Data1").rows[0][3] = S("Other");
+  noMatch.Sheet("Data1").rows[0][4] = S("One more");
   const std::pair<PlainBook, S> cases[] = {
       {BookOfColumns({"A"}, {"N"}), "optType(5)"},
       {BookOfColumns({"A", "B"}, {"N"}), "optType(5)"},
       {BookOfColumns({"A"}, {}), kAllTypes},
       {BookOfColumns({}, {"N"}), kAllTypes},
-      {Buckets(), ""},
+      {NewBucketBook(), ""},
       {oneLabel, "optType(5)"},
       {noMatch, "optType(5)"},
   };
@@ -53,7 +48,7 @@ TEST_F(SelectTableTest, TheTableDecidesAboutTheTypes) {
 
 TEST_F(SelectTableTest, TheTypeOutlivesATableThatAllowsIt) {
   PlainBook two = TwoTables({});
-  PlainBook buckets = Buckets();
+  PlainBook buckets = NewBucketBook();
   buckets.sheets.push_back(test::SalesSheet("Data2"));
   const std::pair<PlainBook, S> cases[] = {
       {two,
@@ -81,9 +76,9 @@ TEST_F(SelectTableTest, EachTypeHasItsPictureAndItsPage) {
                                    {"imgBubble", "frmPSLayoutBubble"}, {"imgStrBuck", "frmPSLayoutStrBuck"}};
   const std::int32_t topics[] = {3, 4, 5, 6, 7, 18};
   for (int type = 0; type < 6; ++type) {
-    EXPECT_EQ(Play(Buckets(), "select grdTables Data1; choose optType(" + std::to_string(type) +
-                                  "); look pictures " + types[type].first + "; press cmdNext; page " +
-                                  types[type].second + "; press cmdHelp"),
+    EXPECT_EQ(Play(NewBucketBook(), "select grdTables Data1; choose optType(" + std::to_string(type) +
+                                        "); look pictures " + types[type].first + "; press cmdNext; page " +
+                                        types[type].second + "; press cmdHelp"),
               "");
     EXPECT_EQ(helpTopics_, std::vector{topics[type]});
   }

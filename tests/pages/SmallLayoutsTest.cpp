@@ -1,10 +1,10 @@
-#include "tests/support/FamilyBooks.h"
 #include "tests/support/PagesTest.h"
 
 namespace plotsmith {
 namespace {
 
-using test::ModifyChart;
+using test::NewBubbleBook;
+using test::NewBucketBook;
 using test::NewChart;
 using test::PlainBook;
 using test::SalesBook;
@@ -20,23 +20,6 @@ class SmallLayoutsTest : public test::PagesTest {
 };
 
 constexpr int kPie = 3, kBubble = 4, kBucket = 5;
-
-PlainBook Bubbles() {
-  PlainBook book = test::BubbleBook({{"a", "x", 1, 2, 3}, {"b", "y", 4, 5, 6}}, test::BubbleDefinition());
-  book.Sheet("VEX_ChartDefinitions").rows.resize(1);
-  return book;
-}
-
-/// Two tables qualify as bucket tables.
-PlainBook Buckets() {
-  PlainBook book = test::BucketBook(test::BucketDefinition());
-  book.Sheet("VEX_ChartDefinitions").rows.resize(1);
-  test::PlainSheet others{"Others"};
-  others.rows = {{S("Others")}, {}, {S("Theme"), S("Rank")}, {S("New"), 1234.5}, {S("old"), -2.0}};
-  book.sheets.push_back(others);
-  book.names.emplace_back("VEX_SB2", "Others!$A$1:$B$5");
-  return book;
-}
 
 TEST_F(SmallLayoutsTest, StatesAndPicturesOfPies) {
   const State cases[] = {
@@ -81,9 +64,9 @@ TEST_F(SmallLayoutsTest, StatesAndPicturesOfBubbles) {
        all, "imgLegendDim imgBubbleBasic"},
   };
   for (const auto& [script, off, pictures] : cases) {
-    EXPECT_EQ(
-        Play(Bubbles(), NewChart(kBubble) + script + "; look off " + off + "; look pictures " + pictures),
-        "");
+    EXPECT_EQ(Play(NewBubbleBook(),
+                   NewChart(kBubble) + script + "; look off " + off + "; look pictures " + pictures),
+              "");
   }
 }
 
@@ -105,9 +88,9 @@ TEST_F(SmallLayoutsTest, StatesAndPicturesOfStrategicBuckets) {
        "imgLegendDim imgStrBuckBasic"},
   };
   for (const auto& [script, off, pictures] : cases) {
-    EXPECT_EQ(
-        Play(Buckets(), NewChart(kBucket) + script + "; look off " + off + "; look pictures " + pictures),
-        "");
+    EXPECT_EQ(Play(NewBucketBook(),
+                   NewChart(kBucket) + script + "; look off " + off + "; look pictures " + pictures),
+              "");
   }
 }
 
@@ -125,15 +108,15 @@ TEST_F(SmallLayoutsTest, MessagesMoveTheFocus) {
       {SalesBook({}), kPie, "clear cboValues; type cboNumberMask \"0 [\"",
        "Please select a 'Slice Size' entry", "cboValues"},
       {SalesBook({}), kPie, "type cboNumberMask \"0 [\"", badFormat, "cboNumberMask", true},
-      {Bubbles(), kBubble, "select lstYValues; clear cboXValues", "Please select a 'Vertical (Y-axis)' entry",
-       "lstYValues"},
-      {Bubbles(), kBubble, "clear cboXValues; clear cboCategories",
+      {NewBubbleBook(), kBubble, "select lstYValues; clear cboXValues",
+       "Please select a 'Vertical (Y-axis)' entry", "lstYValues"},
+      {NewBubbleBook(), kBubble, "clear cboXValues; clear cboCategories",
        "Please select a 'Horizontal (X-axis)' entry", "cboXValues"},
-      {Bubbles(), kBubble, "clear cboCategories", "Please select a 'Bubble Represents' entry",
+      {NewBubbleBook(), kBubble, "clear cboCategories", "Please select a 'Bubble Represents' entry",
        "cboCategories"},
-      {Buckets(), kBucket, "clear cboCategories; type cboDataLabelMask \"0 [\"",
+      {NewBucketBook(), kBucket, "clear cboCategories; type cboDataLabelMask \"0 [\"",
        "Please select a 'Block Represents' entry", "cboCategories"},
-      {Buckets(), kBucket, "type cboDataLabelMask \"0 [\"", badFormat, "cboDataLabelMask", true},
+      {NewBucketBook(), kBucket, "type cboDataLabelMask \"0 [\"", badFormat, "cboDataLabelMask", true},
   };
   for (const auto& [book, type, script, message, focus, outlivesBack] : cases) {
     const S start = NewChart(type) + script;

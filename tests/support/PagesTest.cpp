@@ -16,6 +16,7 @@
 #include "forms/VSFlexGrid.h"
 #include "forms/script/ScriptError.h"
 #include "forms/script/ScriptPlayer.h"
+#include "tests/support/FamilyBooks.h"
 
 namespace plotsmith::test {
 namespace {
@@ -208,6 +209,24 @@ PlainBook BookOfColumns(const std::vector<S>& labels, const std::vector<S>& numb
     rows[1].emplace_back(1.0);
     rows[2].emplace_back(2.0);
   }
+  return book;
+}
+
+PlainBook NewBubbleBook() {
+  PlainBook book = BubbleBook({{"a", "x", 1, 2, 3}, {"b", "y", 4, 5, 6}}, BubbleDefinition());
+  book.Sheet("VEX_ChartDefinitions").rows.resize(1);
+  book.Sheet("Charts").frames.clear();
+  return book;
+}
+
+PlainBook NewBucketBook() {
+  PlainBook book = BucketBook(BucketDefinition());
+  book.Sheet("VEX_ChartDefinitions").rows.resize(1);
+  book.Sheet("Charts").frames.clear();
+  PlainSheet others{"Others"};
+  others.rows = {{S("Others")}, {}, {S("Theme"), S("Rank")}, {S("New"), 1234.5}, {S("old"), -2.0}};
+  book.sheets.push_back(others);
+  book.names.emplace_back("VEX_SB2", "Others!$A$1:$B$5");
   return book;
 }
 

@@ -84,5 +84,9 @@ PlainBook BookOfCharts(const std::vector<PlacedChart>& charts);
 
 /// A workbook without charts whose table Data1 has these columns, with a row of texts or numbers below.
 PlainBook BookOfColumns(const std::vector<std::string>& labels, const std::vector<std::string>& numbers);
+/// Such a workbook with the table of bubbles of FamilyBooks.
+PlainBook NewBubbleBook();
+/// Such a workbook with the tables of FamilyBooks, and with Others, a second table of buckets.
+PlainBook NewBucketBook();
 
 }  // namespace plotsmith::test
