@@ -57,7 +57,8 @@ std::vector<RoundTripTest::Case> RoundTripTest::Cases() {
       "cboValues Cost; type txtComment \"\"; uncheck chkShowValues; type txtTitle \"\"; "
       "type cboDataLabelMask \"\"; type txtHAxis \"\"; type txtVAxis \"\"";
   const S plainXml =
-      R"(<categories headings-in="rows"><column name="Region"/></categories><series headings-in="none"/><values>)"
+      R"(<categories headings-in="rows"><column name="Region"/></categories>)"
+      R"(<series headings-in="none"/><values>)"
       R"(<column name="Cost"/></values><axes/><data-labels/><dynamic-attributes/><comment></comment>)";
   return {
       {0, SalesBook({}),
@@ -67,7 +68,8 @@ std::vector<RoundTripTest::Case> RoundTripTest::Cases() {
            style,
        R"(<categories headings-in="rows"><column name="Product"/></categories>)"
        R"(<series headings-in="rows"><column name="Region"/></series><values><column name="Cost"/></values>)"
-       R"(<axes><axis type="value" label="Across" sticky="yes"/><axis type="label" label="Product" sticky="no"/></axes>)" +
+       R"(<axes><axis type="value" label="Across" sticky="yes"/>)"
+       R"(<axis type="label" label="Product" sticky="no"/></axes>)" +
            styleXml,
        "expect txtTitle.Text Sales; expect cboCategories.Text Product; expect optSeries(1).Value yes; expect "
        "cboSeries.Text Region; expect cboValues.Text Cost; expect chkShowValues.Value 1; expect "
@@ -81,7 +83,8 @@ std::vector<RoundTripTest::Case> RoundTripTest::Cases() {
            style,
        R"(<categories headings-in="rows"><column name="Region"/></categories>)"
        R"(<series headings-in="columns"><column name="Amount"/><column name="Cost"/></series>)"
-       R"(<axes><axis type="label" label="Region" sticky="no"/><axis type="value" label="Up" sticky="yes"/></axes>)" +
+       R"(<axes><axis type="label" label="Region" sticky="no"/>)"
+       R"(<axis type="value" label="Up" sticky="yes"/></axes>)" +
            styleXml,
        "expect cboCategories.Text Region; expect optSeries(2).Value yes; expect lstSeries.Selected "
        "Amount|Cost; expect cboValues.ListIndex -1; expect txtHAxis.Text Region; expect txtVAxis.Text Up; "
@@ -130,9 +133,11 @@ std::vector<RoundTripTest::Case> RoundTripTest::Cases() {
        R"(<categories headings-in="rows"><column name="Group"/></categories>)"
        R"(<series headings-in="rows"><column name="Name"/></series><values><column name="Up"/></values>)"
        R"(<x-values><column name="Size"/></x-values><bubble-sizes><column name="Across"/></bubble-sizes>)"
-       R"(<axes><axis type="label" label="Mine" sticky="yes"/><axis type="value" label="Up" sticky="no"/></axes>)"
+       R"(<axes><axis type="label" label="Mine" sticky="yes"/>)"
+       R"(<axis type="value" label="Up" sticky="no"/></axes>)"
        R"(<dynamic-attributes><attribute setting="3D"/></dynamic-attributes>)"
-       R"(<static-attributes><attribute setting="show-zero-bubbles"/><attribute setting="quadrants"/><attribute setting="autoscale-x"/><attribute setting="autoscale-y"/></static-attributes>)"
+       R"(<static-attributes><attribute setting="show-zero-bubbles"/>)"
+       R"(<attribute setting="quadrants"/><attribute setting="autoscale-x"/><attribute setting="autoscale-y"/></static-attributes>)"
        R"(<comment>Said</comment>)",
        "expect txtTitle.Text Sales; expect lstYValues.Text Up; expect cboXValues.Text Size; expect "
        "cboCategories.Text Group; expect cboSizes.Text Across; expect chkShowZeroBubbles.Value 1; expect "
@@ -153,7 +158,8 @@ std::vector<RoundTripTest::Case> RoundTripTest::Cases() {
        R"(<categories headings-in="rows"><column name="Theme"/></categories>)"
        R"(<series headings-in="rows"><column name="Project"/></series><values><column name="Rank"/></values>)"
        R"(<sort-order sort="descending"><column name="Rank"/></sort-order>)"
-       R"(<axes><axis type="label" label="Theme" sticky="no"/><axis type="value" label="Mine" sticky="yes"/></axes>)"
+       R"(<axes><axis type="label" label="Theme" sticky="no"/>)"
+       R"(<axis type="value" label="Mine" sticky="yes"/></axes>)"
        R"(<data-labels manual-labels="yes"/><dynamic-attributes/><comment>Said</comment>)",
        "expect txtTitle.Text Sales; expect cboBucketTables.Text Others; expect cboCategories.Text Theme; "
        "expect cboSeries.Text Project; expect cboBlockSequence.Text Rank; expect optBlockSequence(1).Value "

@@ -108,7 +108,7 @@ TEST_F(SelectActionTest, CopiesHaveANameOfTheirOwn) {
 
 TEST_F(SelectActionTest, DeleteTakesChartsAndTheirComments) {
   test::PlainBook book = BookOfCharts({{"Charts", "a"}, {"Other", "b"}, {"Charts", "c"}});
-  // somebody's drawing bears the id too
+  // a drawing of the user's own bears the id too
   book.Sheet("Charts").extraAnchors =
       "<xdr:twoCellAnchor><xdr:from><xdr:col>0</xdr:col><xdr:colOff>0</xdr:colOff><xdr:row>60</xdr:row>"
       "<xdr:rowOff>0</xdr:rowOff></xdr:from><xdr:to><xdr:col>2</xdr:col><xdr:colOff>0</"
