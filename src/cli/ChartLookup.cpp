@@ -1,7 +1,6 @@
 #include "cli/ChartLookup.h"
 
-#include <algorithm>
-
+#include "cli/check/Words.h"
 #include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
 #include "runtime/Strings.h"
@@ -17,16 +16,20 @@ ChartNames LoadedCharts() {
   return charts;
 }
 
-std::optional<std::size_t> FindChart(const ChartNames& charts, const std::string& idOrName) {
-  auto found =
-      std::find_if(charts.begin(), charts.end(), [&](const auto& chart) { return chart.first == idOrName; });
-  if (found == charts.end()) {
-    found = std::find_if(charts.begin(), charts.end(), [&](const auto& chart) {
-      return runtime::EqualsIgnoreCase(chart.second, idOrName);
-    });
+std::vector<std::size_t> FindCharts(const ChartNames& charts, const std::string& idOrName) {
+  std::vector<std::size_t> named;
+  for (std::size_t i = 0; i < charts.size(); ++i) {
+    if (charts[i].first == idOrName) return {i};
+    if (runtime::EqualsIgnoreCase(charts[i].second, idOrName)) named.push_back(i);
   }
-  if (found == charts.end()) return std::nullopt;
-  return static_cast<std::size_t>(found - charts.begin());
+  return named;
+}
+
+std::string SeveralCharts(const ChartNames& charts, const std::vector<std::size_t>& places,
+                          const std::string& name) {
+  std::vector<std::string> ids;
+  for (const std::size_t place : places) ids.push_back(charts[place].first);
+  return "several charts have the name " + Quoted(name) + ": " + Listed(ids) + "; an id names one of them";
 }
 
 }  // namespace plotsmith::cli

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -13,8 +13,11 @@ using ChartNames = std::vector<std::pair<std::string, std::string>>;
 /// Those of the charts that are loaded, in their order; `colCharts` must be set.
 ChartNames LoadedCharts();
 
-/// The place of the chart that bears the id or, ignoring case, the name. An id goes before a name, as a name
-/// may be another chart's id. Absent if there is no such chart.
-std::optional<std::size_t> FindChart(const ChartNames& charts, const std::string& idOrName);
+/// The places of the charts that bear the id or, ignoring case, the name. An id goes before a name, as a name
+/// may be another chart's id. Several charts may have one name, since a modified chart can take any.
+std::vector<std::size_t> FindCharts(const ChartNames& charts, const std::string& idOrName);
+/// Says that several charts bear a name; the sentence has no full stop.
+std::string SeveralCharts(const ChartNames& charts, const std::vector<std::size_t>& places,
+                          const std::string& name);
 
 }  // namespace plotsmith::cli

@@ -64,11 +64,14 @@ bool ComboBox::UserChoose(std::int32_t index) {
   return true;
 }
 
+std::string ComboBox::ObstacleTo(std::string_view text) const {
+  if (style_ == ComboStyle::kDropDownList) return "can't be typed into";
+  if (text.find_first_of("\r\n") != std::string_view::npos) return "takes one line";
+  return HasControlCharacters(text) ? "takes no control characters" : "";
+}
+
 bool ComboBox::UserType(std::string_view text) {
-  if (style_ == ComboStyle::kDropDownList || text.find_first_of("\r\n") != std::string_view::npos ||
-      !Reach()) {
-    return false;
-  }
+  if (!ObstacleTo(text).empty() || !Reach()) return false;
   SetText(text);
   return true;
 }

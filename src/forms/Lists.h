@@ -63,7 +63,9 @@ class ComboBox : public EntryList {
 
   /// Chooses an entry, from 0; raises Click, for the entry that is the current one as well.
   bool UserChoose(std::int32_t index);
-  /// Types over the text, in a box that can be typed into.
+  /// Why a hand can't type the text, as the end of a sentence; empty if it can.
+  std::string ObstacleTo(std::string_view text) const;
+  /// Types over the text.
   bool UserType(std::string_view text);
 
  protected:

@@ -1,5 +1,7 @@
 #include "forms/TextBox.h"
 
+#include <algorithm>
+
 #include "runtime/Strings.h"
 
 namespace plotsmith::forms {
@@ -11,6 +13,7 @@ void TextBox::SetText(std::string_view value) {
 
 std::string TextBox::ObstacleTo(std::string_view text) const {
   const std::string typed = WithLineEnds(text, "\r\n");
+  if (HasControlCharacters(text)) return "takes no control characters";
   if (!multiLine_ && typed.find('\n') != std::string::npos) return "takes one line";
   if (maxLength_ > 0 && runtime::Len(typed) > maxLength_) {
     return "takes " + std::to_string(maxLength_) + " characters";
@@ -23,6 +26,12 @@ bool TextBox::UserType(std::string_view text) {
   if (!ObstacleTo(text).empty() || !Reach()) return false;
   SetText(typed);
   return true;
+}
+
+bool HasControlCharacters(std::string_view text) {
+  return std::any_of(text.begin(), text.end(), [](char c) {
+    return static_cast<unsigned char>(c) < ' ' && c != '\t' && c != '\n' && c != '\r';
+  });
 }
 
 std::string WithLineEnds(std::string_view text, std::string_view lineEnd) {

@@ -53,6 +53,10 @@ class TextBox : public FontControl {
   forms::Alignment alignment_ = Alignment::kLeft;
 };
 
+/// Whether the text has characters that a keyboard can't type into a box, and XML can't hold. Tabs and line
+/// ends are none.
+bool HasControlCharacters(std::string_view text);
+
 /// The text with every line end, of whatever kind, replaced by `lineEnd`.
 std::string WithLineEnds(std::string_view text, std::string_view lineEnd);
 

@@ -109,8 +109,8 @@ TEST_F(CheckTest, AWorkbookWithoutDefinitionsOrTablesIsFine) {
   EXPECT_EQ(result.code, 0);
   EXPECT_EQ(result.out,
             "There are no definitions of charts.\nThere are no tables. To make one, call a sheet Data1, with "
-            "headings in row 1; or give the data a name that begins with VEX_TableRange, with a title in its "
-            "first cell and headings in its third row.\n");
+            "headings in row 1 and data below them; or give the data a name that begins with VEX_TableRange, "
+            "with a title in its first cell and headings in its third row.\n");
   EXPECT_EQ(RunCommand({"check", folder_ / "none.xlsx"}).code, 3);
   book.sheets.push_back({"VEX_ChartDefinitions", {{RawCell{" t='x><v>1</v></c>"}}}});
   book.Write(folder_ / "damaged.xlsx");

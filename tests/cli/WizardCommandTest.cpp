@@ -392,7 +392,7 @@ TEST_F(VerbTest, WhatIsNotThereIsOneSentenceAndNothingIsSaved) {
        "no chart 'Chart9'; there are VEX_Chart1 'Name of VEX_Chart1' and VEX_Chart2 'Name of VEX_Chart2'."},
       // columns and sheets
       {{"modify", "VEX_Chart1", "--values", "Region"},
-       "no column 'Region' for --values; there are Amount and Cost."},
+       "no column 'Region' for --values; there are Amount and Cost; 'Region' is a label column."},
       {{"modify", "VEX_Chart1", "--category-columns", "Amount", "Gain", "--no-series"},
        "no column 'Gain' for --category-columns; there are Amount and Cost."},
       {{"new", "--table", "Data1", "--type", "bar", "--sheet", "Sheet1"},
@@ -411,12 +411,15 @@ TEST_F(VerbTest, WhatIsNotThereIsOneSentenceAndNothingIsSaved) {
        "a column chart has no setting 'exploded'; it has 3D, stacked and 100%."},
       {{"modify", "VEX_Chart1", "--type", "area", "--labels", "names"},
        "an area chart has no labels 'names'; it has values and none."},
-      {{"modify", "VEX_Chart1", "--set", "100%"},
-       "--set 100% can't be used with this layout: chk100Pct is off."},
+      {{"modify", "VEX_Chart1", "--set", "100%"}, "--set 100% needs --set stacked."},
       {{"modify", "VEX_Chart1", "--series-columns", "Cost", "--values", "Cost"},
-       "--values can't be used with this layout: cboValues is off."},
+       "--values needs categories and series that are no number columns."},
       {{"modify", "VEX_Chart1", "--set", "3D", "--unset", "3D"}, "3D can't be both set and unset."},
       {{"modify", "VEX_Chart1", "--title", S(256, 'x')}, "--title takes 255 characters."},
+      {{"modify", "VEX_Chart1", "--name", "a\x02"}, "--name takes no control characters."},
+      {{"modify", "VEX_Chart1", "--number-format", "\x01"}, "--number-format takes no control characters."},
+      {{"new", "--table", "Data1", "--type", "bar", "--new-sheet", "vex_chartdata"},
+       "--new-sheet can't be 'VEX_ChartData', which is a sheet of Plotsmith's own."},
       // what the pages say
       {{"modify", "VEX_Chart1", "--number-format", "0\""},
        "The requested number format is not supported by Excel."},
@@ -538,8 +541,9 @@ TEST_F(VerbTest, OptionsReachTheirControlsFromAnyLayout) {
     EXPECT_EQ(result.code, 0) << result.err;
     EXPECT_NE(Definition(out_, "VEX_Chart1").find(item.piece), S::npos) << Definition(out_, "VEX_Chart1");
   }
-  EXPECT_EQ(Verb({"modify", "VEX_Chart1", "--category-columns", "Amount"}).err,
-            "plotsmith: --category-columns can't be used with this layout: optCategories(2) is off.\n");
+  EXPECT_EQ(
+      Verb({"modify", "VEX_Chart1", "--category-columns", "Amount"}).err,
+      "plotsmith: --category-columns needs series that are no number columns, by --series or --no-series.\n");
 }
 
 TEST_F(VerbTest, AChartOfAnUnknownTypeGetsAnotherOne) {
@@ -609,7 +613,10 @@ TEST_F(VerbTest, RowsAreNamedByNumberWhereTheirTextIsNotEnough) {
   EXPECT_EQ(selected("VEX_Chart2"), "select grdCharts #1");
   EXPECT_EQ(selected("VEX_Chart1"), "select grdCharts #2");
   EXPECT_EQ(selected("VEX_Chart3"), "select grdCharts #3");
-  EXPECT_EQ(selected("same"), "select grdCharts #2") << "of equal names the first";
+  const S sentence =
+      "several charts have the name 'same': VEX_Chart1 and VEX_Chart3; an id names one of them.\n";
+  EXPECT_EQ(Verb({"delete", "same"}).err, "plotsmith: " + sentence);
+  EXPECT_EQ(RunCommand({"definition", book_, "same"}).err, "plotsmith: " + sentence);
 }
 
 TEST_F(VerbTest, WhatTheBuildHasToSayIsSavedAndSaid) {

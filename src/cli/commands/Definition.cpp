@@ -18,12 +18,15 @@ int DefinitionCommand::Run(const GlobalOptions& options, const Streams& streams)
   session.LoadTablesAndCharts();
   const int code = session.Finish();
   const ChartNames charts = LoadedCharts();
-  const auto place = FindChart(charts, chart_);
-  if (!place) {
+  const auto places = FindCharts(charts, chart_);
+  if (places.size() > 1) {
+    throw CommandError(exit_code::kUsage, SeveralCharts(charts, places, chart_) + ".");
+  }
+  if (places.empty()) {
     throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no chart \"" + chart_ +
                                               "\" (plotsmith charts lists those it has).");
   }
-  streams.out << colCharts->Item(charts[*place].first).xml() << '\n';
+  streams.out << colCharts->Item(charts[places.front()].first).xml() << '\n';
   return code;
 }
 

@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "cli/Candidates.h"
-#include "cli/wizard/LayoutControls.h"
 #include "cli/manual/Manual.h"
+#include "cli/wizard/LayoutControls.h"
 
 namespace plotsmith::cli {
 namespace {

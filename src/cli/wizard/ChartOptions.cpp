@@ -5,6 +5,8 @@
 #include "cli/Command.h"
 #include "cli/check/Words.h"
 #include "cli/wizard/LayoutControls.h"
+#include "common/PSConstants.h"
+#include "runtime/Strings.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -102,6 +104,12 @@ void CheckChartOptions(const ChartOptions& options) {
   if (options.type && FindLayout(*options.type) == nullptr) {
     throw CommandError(exit_code::kUsage,
                        "no type " + Quoted(*options.type) + "; " + ThereAre(ChartTypes()) + ".");
+  }
+  for (const char* own : {kDefinitionsSheet, kDataSheet}) {
+    if (options.newSheet && runtime::EqualsIgnoreCase(*options.newSheet, own)) {
+      throw CommandError(exit_code::kUsage,
+                         "--new-sheet can't be " + Quoted(own) + ", which is a sheet of Plotsmith's own.");
+    }
   }
   const auto& unset = options.layout.unset;
   for (const std::string& setting : options.layout.set) {

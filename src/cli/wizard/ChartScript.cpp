@@ -39,9 +39,9 @@ std::int32_t RowOfChart(const forms::VSFlexGrid& grid, const std::string& idOrNa
   for (std::int32_t row = grid.FixedRows(); row < grid.Rows(); ++row) {
     charts.emplace_back(grid.RowData(row), grid.TextMatrix(row, 0));
   }
-  if (const auto place = FindChart(charts, idOrName)) {
-    return grid.FixedRows() + static_cast<std::int32_t>(*place);
-  }
+  const auto places = FindCharts(charts, idOrName);
+  if (places.size() > 1) throw ScriptError(SeveralCharts(charts, places, idOrName));
+  if (!places.empty()) return grid.FixedRows() + static_cast<std::int32_t>(places.front());
   std::vector<std::string> names;
   for (const auto& [id, name] : charts) names.push_back(id + " " + Quoted(name));
   throw ScriptError("no chart " + Quoted(idOrName) + "; " + ThereAre(names));

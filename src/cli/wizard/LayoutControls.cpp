@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace plotsmith::cli {
 namespace {
@@ -72,6 +73,23 @@ std::vector<std::string> ChartTypes() {
 }
 
 std::int32_t OptionOfType(std::string_view type) { return FindType(type)->option; }
+
+const char* NeedOf(std::string_view control) {
+  static constexpr std::pair<std::string_view, const char*> kNeeds[] = {
+      {"chkStacked", "several series, by --series or --series-columns"},
+      {"chk100Pct", "--set stacked"},
+      {"chkScaleXAxis", "--set quadrants"},
+      {"chkScaleYAxis", "--set quadrants"},
+      {"chkShowZeroBubbles", "--sizes"},
+      {"cboValues", "categories and series that are no number columns"},
+      {"optCategories(2)", "series that are no number columns, by --series or --no-series"},
+      {"optSeries(1)", "a table with another label column"},
+      {"optSeries(2)", "categories that are no number columns, by --categories"}};
+  for (const auto& [name, need] : kNeeds) {
+    if (name == control) return need;
+  }
+  return nullptr;
+}
 
 std::vector<std::string> OptionsOf(const LayoutControls& layout) {
   const std::pair<const char*, bool> all[] = {{"--title", true},

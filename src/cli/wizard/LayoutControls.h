@@ -39,6 +39,9 @@ std::vector<std::string> ChartTypes();
 /// The place of a type, which there is, among the options of the Source Table page.
 std::int32_t OptionOfType(std::string_view type);
 
+/// What an option needs whose control is off at present: "--set stacked"; null where there is no one answer.
+const char* NeedOf(std::string_view control);
+
 /// The options that the page has controls for: "--title".
 std::vector<std::string> OptionsOf(const LayoutControls& layout);
 

@@ -4,6 +4,9 @@
 #include <utility>
 
 #include "cli/check/Words.h"
+#include "cli/wizard/LayoutControls.h"
+#include "common/CommonFunctions.h"
+#include "common/RunVariables.h"
 #include "forms/Buttons.h"
 #include "forms/Lists.h"
 #include "forms/TextBox.h"
@@ -21,6 +24,7 @@ using forms::WordFor;
 void CheckUsable(const forms::Control& control, const std::string& option) {
   const std::string obstacle = control.Obstacle();
   if (obstacle.empty()) return;
+  if (const char* need = NeedOf(control.FullName())) throw ScriptError(option + " needs " + need);
   throw ScriptError(option + " can't be used with this layout: " + control.FullName() + " " + obstacle);
 }
 
@@ -28,6 +32,17 @@ std::vector<std::string> EntriesOf(const forms::EntryList& list) {
   std::vector<std::string> entries;
   for (std::int32_t i = 0; i < list.ListCount(); ++i) entries.push_back(list.List(i));
   return entries;
+}
+
+/// What is to be said of a column that the table has, but of the other kind.
+std::string OtherKindOf(const std::string& text) {
+  if (!colTables || !CollectionHasKey(sTableID, colTables)) return {};
+  for (const auto& column : colTables->Item(sTableID).selectSingleNode("table").childElements()) {
+    if (GetAttributeText(column, "name") != text) continue;
+    return "; " + Quoted(text) + " is a " + (column.tagName() == "label-column" ? "label" : "number") +
+           " column";
+  }
+  return {};
 }
 
 /// The entry with the text, or else one that differs from it in case only.
@@ -40,7 +55,7 @@ std::string EntryOf(const forms::EntryList& list, const std::string& text, const
   });
   if (found != entries.end()) return *found;
   throw ScriptError(std::string("no ") + kind + " " + Quoted(text) + " for " + option + "; " +
-                    ThereAre(entries));
+                    ThereAre(entries) + OtherKindOf(text));
 }
 
 std::vector<std::string> SelectedOf(const forms::ListBox& list) {
@@ -77,8 +92,11 @@ Step PressStep(const char* button) {
 Step TypeStep(const char* control, std::string text, const char* option) {
   return [control, text = std::move(text), option](const forms::Form& page) {
     CheckUsable(*page.FindControl(control), option);
-    const auto* box = dynamic_cast<const forms::TextBox*>(page.FindControl(control));
-    const std::string obstacle = box == nullptr ? std::string() : box->ObstacleTo(text);
+    const forms::Control* const target = page.FindControl(control);
+    const auto* box = dynamic_cast<const forms::TextBox*>(target);
+    const std::string obstacle = box != nullptr
+                                     ? box->ObstacleTo(text)
+                                     : dynamic_cast<const forms::ComboBox&>(*target).ObstacleTo(text);
     if (!obstacle.empty()) throw ScriptError(std::string(option) + " " + obstacle);
     return std::string("type ") + control + " " + WordFor(text);
   };

@@ -169,7 +169,8 @@ void Type(const Gesture& gesture) {
       throw ScriptError("nothing can be typed into " + control.FullName() +
                         "; 'choose' takes one of its entries");
     }
-    if (text.find_first_of("\r\n") != text.npos) throw ScriptError(control.FullName() + " takes one line");
+    const std::string obstacle = combo->ObstacleTo(text);
+    if (!obstacle.empty()) throw ScriptError(control.FullName() + " " + obstacle);
     gesture.hand.TypeText(gesture.queue, *combo, text);
   } else {
     throw WrongKind(gesture, control, "a text box or a combo box");
