@@ -21,9 +21,7 @@ ExampleBook::ExampleBook()
   host_->NewWorkbook();
 }
 
-ExampleBook::~ExampleBook() {
-  StopSystem();
-}
+ExampleBook::~ExampleBook() { StopSystem(); }
 
 excel::Ref<excel::Worksheet> ExampleBook::Sheet(const std::string& name) {
   auto& book = host_->Book();

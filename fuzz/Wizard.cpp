@@ -92,7 +92,7 @@ void FillBook(xlsx::Workbook& book, Choices& choices) {
   }
 }
 
-/// The hand: it does to the page in front whatever the input says.
+/// The hand: the input says what it does to the page in front.
 class RandomHand final : public forms::View {
  public:
   explicit RandomHand(Choices& choices) : choices_(choices) {}

@@ -18,7 +18,7 @@ namespace plotsmith::cli {
 /// One workbook, open in the embedded host, with the system set up to work on it.
 class Session {
  public:
-  /// With forms that nobody sees or uses. Throws a CommandError if the workbook can't be read.
+  /// With forms that are closed as soon as they wait. Throws a CommandError if the workbook can't be read.
   Session(std::string path, const GlobalOptions& options, const Streams& streams);
   /// With forms on a view of the caller's, and message boxes on its desktop.
   Session(std::string path, const GlobalOptions& options, const Streams& streams,

@@ -52,7 +52,7 @@ class Form {
   /// without moving the focus. The control of the focus raises Validate first, so that a text that is being
   /// typed isn't lost. False if there is no such button, or it can't be pressed.
   bool UserEnter();
-  /// A hand presses Escape: the cancel button is pressed likewise.
+  /// A hand presses Escape: the cancel button is pressed, and the focus stays.
   bool UserEscape();
 
   /// Grows with each change of the form's own properties.

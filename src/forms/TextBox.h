@@ -57,7 +57,7 @@ class TextBox : public FontControl {
 /// ends are none.
 bool HasControlCharacters(std::string_view text);
 
-/// The text with every line end, of whatever kind, replaced by `lineEnd`.
+/// The text with every line end (CR LF, CR or LF) replaced by `lineEnd`.
 std::string WithLineEnds(std::string_view text, std::string_view lineEnd);
 
 }  // namespace plotsmith::forms

@@ -38,7 +38,7 @@ class VSFlexGrid : public FontControl {
 
   const std::string& TextMatrix(std::int32_t row, std::int32_t col) const;
   void SetTextMatrix(std::int32_t row, std::int32_t col, std::string value);
-  /// What a row stands for, which is not shown.
+  /// A text that belongs to a row and is not shown, such as an id.
   ///@{
   const std::string& RowData(std::int32_t row) const;
   void SetRowData(std::int32_t row, std::string value);

@@ -3,8 +3,8 @@
 #include <string>
 
 /// Module PSFunctions: a new chart's identity and its place in the workbook. A chart has an id, which is
-/// never shown and never changes; a name, unique ignoring case, which lists show; and a title, which stands on
-/// the chart.
+/// never shown and never changes; a name, unique ignoring case, which lists show; and a title, which stands
+/// on the chart.
 namespace plotsmith {
 
 /// Makes `oChartDoc` for a new chart and sets `sChartID`. It is neither saved nor entered in `colCharts`

@@ -10,7 +10,7 @@
 
 namespace plotsmith {
 
-/// The procedures that the busy window can run. They stand above the pages, so whoever makes the window hands
+/// The procedures that the busy window can run. Their modules are above the pages, so the controller hands
 /// them in.
 struct BusyWork {
   std::function<void()> PopulateAllCharts;

@@ -10,7 +10,7 @@
 namespace plotsmith {
 
 /// The layout of bubble charts: a bubble has its place from two number columns, its size from a third one,
-/// its colour from a label column, and it stands for a label.
+/// its colour from a label column, and its label from another one.
 class frmPSLayoutBubble final : public LayoutPage {
  public:
   explicit frmPSLayoutBubble(Navigation& oNavigation);

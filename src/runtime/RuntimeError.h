@@ -31,18 +31,18 @@ class RuntimeError : public std::exception {
 
 /// Error numbers of the language and of Excel that the system and the hosts raise.
 namespace error {
-inline constexpr int kInvalidCall = 5;     ///< Invalid procedure call or argument
-inline constexpr int kOverflow = 6;        ///< Overflow
-inline constexpr int kOutOfMemory = 7;     ///< Out of memory
-inline constexpr int kSubscript = 9;       ///< Subscript out of range
-inline constexpr int kTypeMismatch = 13;   ///< Type mismatch
-inline constexpr int kObjectNotSet = 91;   ///< Object variable or With block variable not set
-inline constexpr int kInvalidNull = 94;    ///< Invalid use of Null
+inline constexpr int kInvalidCall = 5;             ///< Invalid procedure call or argument
+inline constexpr int kOverflow = 6;                ///< Overflow
+inline constexpr int kOutOfMemory = 7;             ///< Out of memory
+inline constexpr int kSubscript = 9;               ///< Subscript out of range
+inline constexpr int kTypeMismatch = 13;           ///< Type mismatch
+inline constexpr int kObjectNotSet = 91;           ///< Object variable or With block variable not set
+inline constexpr int kInvalidNull = 94;            ///< Invalid use of Null
 inline constexpr int kInvalidPropertyValue = 380;  ///< Invalid property value
 inline constexpr int kInvalidArrayIndex = 381;     ///< Invalid property array index
 inline constexpr int kReadOnlyProperty = 383;      ///< Property is read-only
-inline constexpr int kNoSuchMember = 438;  ///< Object doesn't support this property or method
-inline constexpr int kAutomation = 440;    ///< Automation error
+inline constexpr int kNoSuchMember = 438;          ///< Object doesn't support this property or method
+inline constexpr int kAutomation = 440;            ///< Automation error
 inline constexpr int kKeyExists = 457;  ///< This key is already associated with an element of this collection
 inline constexpr int kApplication = 1004;  ///< Application-defined or object-defined error
 }  // namespace error

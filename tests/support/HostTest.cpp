@@ -34,9 +34,7 @@ HostTest::HostTest() : desktop_(std::make_shared<cli::ConsoleDesktop>()) {
   StartSystem(desktop_, std::make_shared<forms::UnattendedView>());
 }
 
-HostTest::~HostTest() {
-  StopSystem();
-}
+HostTest::~HostTest() { StopSystem(); }
 
 void HostTest::Start(const std::string& version) {
   ResetSystem();

@@ -13,7 +13,7 @@
 namespace plotsmith::cli {
 
 /// The script of a verb that goes through the wizard's pages. It looks at each page that opens and says what
-/// is to be done there, whatever the way through the pages is.
+/// is to be done there, so the way through the pages need not be known.
 class VerbScript : public forms::LineSource {
  public:
   std::optional<std::string> NextLine(const forms::Scene& scene) final;
