@@ -19,8 +19,8 @@ class IXMLDOMElement;
 
 /// An attribute as its element has it.
 struct IXMLDOMAttribute {
-  std::string name;  ///< with its prefix if it has one
-  std::string value;
+  std::string name;   ///< with its prefix if it has one
+  std::string value;  ///< with its entities resolved
 };
 
 /// Why and where a text is no document. Without an error the reason is empty.
