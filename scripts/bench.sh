@@ -50,7 +50,7 @@ grow "the same charts, with twice the categories" grown 100 200 400
 grow "defined names, every tenth a table; one chart" names 2500 5000 10000
 echo "== The wizard over a table of 100,000 rows by 200 columns"
 [ -f "$books/wide.xlsx" ] || "$bench/make_book" wide "$books/wide.xlsx" 100000 200
-new="$command new $books/wide.xlsx --table Data1 --type column --series-columns"
+new="$command new $books/wide.xlsx --table Data1 --type column --new-sheet Charts --series-columns"
 $new "Number 3" -o "$books/wide-made.xlsx"
 # shellcheck disable=SC2086  # lists of words
 {
