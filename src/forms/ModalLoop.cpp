@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "forms/Timer.h"
+#include "runtime/RuntimeError.h"
 
 namespace plotsmith::forms {
 namespace {
@@ -62,6 +63,7 @@ class ModalLoop::Shown {
 
 // The form is kept by value: an event of the form may put another one into the variable that it came from.
 void ModalLoop::ShowModal(std::shared_ptr<Form> form) {
+  if (shown_.size() >= kMostForms) throw runtime::RuntimeError(runtime::error::kOutOfStackSpace);
   form->Load();
   if (form->IsUnloaded()) return;
   {

@@ -18,6 +18,8 @@ const char* StandardDescription(int number) {
       return "Subscript out of range";
     case error::kTypeMismatch:
       return "Type mismatch";
+    case error::kOutOfStackSpace:
+      return "Out of stack space";
     case error::kObjectNotSet:
       return "Object variable or With block variable not set";
     case error::kInvalidNull:

@@ -36,6 +36,7 @@ inline constexpr int kOverflow = 6;                ///< Overflow
 inline constexpr int kOutOfMemory = 7;             ///< Out of memory
 inline constexpr int kSubscript = 9;               ///< Subscript out of range
 inline constexpr int kTypeMismatch = 13;           ///< Type mismatch
+inline constexpr int kOutOfStackSpace = 28;        ///< Out of stack space
 inline constexpr int kObjectNotSet = 91;           ///< Object variable or With block variable not set
 inline constexpr int kInvalidNull = 94;            ///< Invalid use of Null
 inline constexpr int kInvalidPropertyValue = 380;  ///< Invalid property value

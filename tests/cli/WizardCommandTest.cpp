@@ -145,6 +145,21 @@ TEST_F(WizardCommandTest, WhatTheWizardSaysIsExpectedByTheScript) {
   EXPECT_EQ(Wizard(empty, "").code, 2);
 }
 
+TEST_F(WizardCommandTest, PagesDoNotNestWithoutEnd) {
+  const S book = Write(PlainSales());
+  const S start = "select grdTables Data1\nchoose optType(1)\n";
+  const auto forthAndBack = [](int times) {
+    S lines;
+    for (int i = 0; i < times; ++i) lines += "press cmdNext\npress cmdBack\n";
+    return lines;
+  };
+  EXPECT_EQ(Wizard(book, start + forthAndBack(200) + "page frmPSSelectTable").err, "");
+  EXPECT_EQ(Wizard(book, start + forthAndBack(249) + "press cmdNext\npress cmdBack\n" +
+                             "expect message \"PSController.PSJumpToStep\\nOut of stack space\"\npage none")
+                .err,
+            "");
+}
+
 TEST_F(WizardCommandTest, PagesAreShown) {
   const S book = Write(PlainSales());
   const CommandResult shown =
