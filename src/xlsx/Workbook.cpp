@@ -345,7 +345,8 @@ void Workbook::SetVisible(SheetEntry& sheet, std::int32_t visible) {
 void Workbook::Activate(const SheetEntry& sheet) {
   const std::size_t position = PositionOf(sheet);
   if (position >= sheets_.size()) return;
-  // Excel can't show a hidden sheet. A file may nevertheless open with one in front, which then may come back.
+  // Excel can't show a hidden sheet. A file may nevertheless open with one in front, which then may come
+  // back.
   const bool isHidden = sheet.object->Visible() != excel::xlSheetVisible;
   if (isHidden && sheets_[position] != openedSheet_) {
     throw Refusal("Activate method of Worksheet class failed");

@@ -71,7 +71,8 @@ TEST_F(ScriptPlayerTest, PlaysToTheEnd) {
            "select grdRows Sales\nexpect grdRows.Selected Sales\nexpect grdRows.Rows 4",
            "select grdRows #2 #3\nexpect grdRows.Selected \"Sales|\\\"Cost\\\"\"",
            "expect chk3D.Caption 3-&D\nexpect cmdOff.Enabled no\nexpect imgBar.Visible no",
-           "expect fraType.BackColor 0x8000000f\nexpect txtTitle.BackColor 0xFFFFFF\nexpect fraType.Caption Type",
+           "expect fraType.BackColor 0x8000000f\nexpect txtTitle.BackColor 0xFFFFFF\nexpect fraType.Caption "
+           "Type",
            "answer ok\nenter\npage frmSecond\nenter\nexpect question \"Sure?\\n\\nOK deletes.\"\n"
            "expect message \"One\\nis done.\"\nexpect message Two\npage none",
            "press cmdOK\nanswer cancel\nanswer ok\npress cmdOK\npage frmSecond\npress cmdOK\n"
