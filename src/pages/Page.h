@@ -29,7 +29,7 @@ class Page : public forms::Form {
   virtual bool ValidSelections() { return true; }
 
  protected:
-  /// `sTitle` stands in the caption behind the product's title; `lOrigin` is one of `origin`.
+  /// The caption is the product's title and `sTitle`; `lOrigin` is one of `origin`.
   Page(const char* sName, const char* sTitle, Navigation& oNavigation, std::int32_t lOrigin);
 
   /// Fills the controls, after fonts and caption are set.

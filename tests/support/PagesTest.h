@@ -25,7 +25,7 @@ namespace plotsmith::test {
 /// well, or is so without the colour, has "!" behind it |
 /// | `look GRID ROW|ROW...` | all rows of a grid, their cells with commas between them |
 /// | `clear LIST` | takes the current entry away, as no hand can |
-/// | `force TYPE` | makes this the chart's type, whatever the page offers |
+/// | `force TYPE` | makes this the chart's type, even if the page doesn't offer it |
 /// | `definition` | writes down the document being edited |
 class PageLines final : public forms::LineSource {
  public:

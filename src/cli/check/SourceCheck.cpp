@@ -148,7 +148,7 @@ class SourceCheck {
   }
 
   /// Whether the table has the columns of a group, and numbers in those that give numbers. A refresh looks
-  /// for the columns of all groups, whatever the type.
+  /// for the columns of all groups of every type.
   void CheckColumns(const ColumnGroup& group) {
     const auto element = Group(group.element);
     if (!element) return;

@@ -42,7 +42,7 @@ constexpr std::array kVerbs = {
     VerbForm{"show", "show", 0, 0},
 };
 
-/// What stands for a character behind a backslash; `at` moves behind it.
+/// The character that an escape means; `at` is behind the backslash, and moves behind the escape.
 char Unescaped(std::string_view line, std::size_t& at) {
   const char c = at < line.size() ? line[at++] : '\0';
   if (c == 'n') return '\n';

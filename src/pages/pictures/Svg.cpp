@@ -13,7 +13,7 @@ long Tenths(double dLength) {
   return std::lround(dLength * 10 + kTie);
 }
 
-/// Tenths as a decimal number, without a needless ".0" and whatever the locale.
+/// Tenths as a decimal number with a point in every locale, without a needless ".0".
 std::string Decimal(long lTenths) {
   const long lSize = std::labs(lTenths);
   std::string sNumber = (lTenths < 0 ? "-" : "") + std::to_string(lSize / 10);
