@@ -4,7 +4,9 @@
 #include <utility>
 
 #include "forms/Buttons.h"
+#include "forms/Plain.h"
 #include "forms/TextBox.h"
+#include "forms/Timer.h"
 
 namespace plotsmith::forms {
 namespace {
@@ -34,6 +36,22 @@ Control* Form::FindControl(std::string_view fullName) const {
   const auto found = std::find_if(controls_.begin(), controls_.end(),
                                   [&](const Control* control) { return control->FullName() == fullName; });
   return found == controls_.end() ? nullptr : *found;
+}
+
+Layout Form::Layout() const {
+  const auto inside = [this](const Control* container, const auto& self) -> forms::Layout {
+    std::vector<forms::Layout> parts;
+    for (const Control* control : controls_) {
+      if (control->Container() != container) continue;
+      if (dynamic_cast<const Frame*>(control) != nullptr) {
+        parts.push_back(Framed(*control, self(control, self)));
+      } else if (dynamic_cast<const Timer*>(control) == nullptr) {
+        parts.push_back(Item(*control));
+      }
+    }
+    return Column(std::move(parts));
+  };
+  return inside(nullptr, inside);
 }
 
 void Form::Load() {

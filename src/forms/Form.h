@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/Control.h"
+#include "forms/Layout.h"
 
 namespace plotsmith::forms {
 
@@ -35,6 +36,8 @@ class Form {
   const std::vector<Control*>& Controls() const { return controls_; }
   /// By its full name ("optType(1)"); null if there is none.
   Control* FindControl(std::string_view fullName) const;
+  /// How the controls lie. Without a layout of its own a form has them one below the other.
+  virtual forms::Layout Layout() const;
   /// The control that has the focus; null while none has.
   Control* ActiveControl() const { return activeControl_; }
 

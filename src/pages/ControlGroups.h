@@ -35,6 +35,7 @@ class LegendPictures {
  public:
   LegendPictures(forms::Form& oForm, forms::Control* oContainer)
       : oPictures_(oForm, oContainer, {"imgLegend", "imgLegendDim"}) {}
+  const PictureGroup& Pictures() const { return oPictures_; }
   void Show(bool bBright) { oPictures_.Show(bBright ? "imgLegend" : "imgLegendDim"); }
 
  private:

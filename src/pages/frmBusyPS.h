@@ -33,6 +33,8 @@ class frmBusyPS final : public forms::Form {
   forms::ProgressBar ProgressBar1{*this, "ProgressBar1", nullptr};
   forms::Timer Timer1{*this, "Timer1", false};
 
+  forms::Layout Layout() const override;
+
  protected:
   void Form_Load() override;
   void Form_Activate() override;

@@ -27,6 +27,8 @@ class frmPSChartLocation final : public Page {
   forms::TextBox txtName{*this, "txtName", &Frame1};
   WizardButtons Buttons{*this};
 
+  forms::Layout Layout() const override;
+
  protected:
   void FillPage() override;
   std::int32_t HelpTopic() const override { return 8; }

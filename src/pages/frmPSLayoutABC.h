@@ -43,6 +43,8 @@ class frmPSLayoutABC final : public LayoutPage {
   PictureGroup Pictures;
   WizardButtons Buttons{*this};
 
+  forms::Layout Layout() const override;
+
  protected:
   void FillPage() override;
   std::int32_t HelpTopic() const override;

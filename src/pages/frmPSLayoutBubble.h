@@ -38,6 +38,8 @@ class frmPSLayoutBubble final : public LayoutPage {
   PictureGroup Pictures;
   WizardButtons Buttons{*this};
 
+  forms::Layout Layout() const override;
+
  protected:
   void FillPage() override;
   std::int32_t HelpTopic() const override { return 7; }

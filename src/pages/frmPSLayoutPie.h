@@ -31,6 +31,8 @@ class frmPSLayoutPie final : public LayoutPage {
   PictureGroup Pictures;
   WizardButtons Buttons{*this};
 
+  forms::Layout Layout() const override;
+
  protected:
   void FillPage() override;
   std::int32_t HelpTopic() const override { return 6; }

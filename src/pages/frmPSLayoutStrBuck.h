@@ -39,6 +39,8 @@ class frmPSLayoutStrBuck final : public LayoutPage {
   forms::Image imgStrBuckBasic{*this, "imgStrBuckBasic", nullptr};
   WizardButtons Buttons{*this};
 
+  forms::Layout Layout() const override;
+
  protected:
   void FillPage() override;
   std::int32_t HelpTopic() const override { return 18; }

@@ -24,6 +24,8 @@ class frmPSSelectAction final : public Page {
   forms::CommandButton cmdHelp{*this, "cmdHelp", nullptr, "&Help"};
   forms::CommandButton cmdCancel{*this, "cmdCancel", nullptr, "Cancel"};
 
+  forms::Layout Layout() const override;
+
  protected:
   void FillPage() override;
   std::int32_t HelpTopic() const override { return 1; }

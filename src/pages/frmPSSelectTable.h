@@ -29,6 +29,8 @@ class frmPSSelectTable final : public Page {
       *this, &fraChartType, {"imgBar", "imgColumn", "imgArea", "imgPie", "imgBubble", "imgStrBuck"}};
   WizardButtons Buttons{*this};
 
+  forms::Layout Layout() const override;
+
  protected:
   void FillPage() override;
   std::int32_t HelpTopic() const override { return 2; }

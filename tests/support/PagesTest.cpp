@@ -103,7 +103,13 @@ S Seen(const forms::Form& form, const S& what) {
   throw forms::ScriptError("nothing is known of " + what);
 }
 
+Hands HandsOnModel() {
+  return {std::make_unique<forms::ModelHand>(), [](const auto& player) { return player; }};
+}
+
 }  // namespace
+
+std::function<Hands()> MakeHands = HandsOnModel;
 
 PageLines::PageLines(const S& script) {
   for (std::size_t from = 0; from <= script.size();) {
@@ -143,8 +149,10 @@ bool PageLines::PlayOwn(const S& line, const forms::Form* form) {
 S PagesTest::Play(const S& script) {
   helpTopics_.clear();
   PageLines lines(script);
-  const auto player = std::make_shared<forms::ScriptPlayer>(lines, [](const forms::FormState&) {});
-  StartSystem(std::make_shared<PagesDesktop>(player, helpTopics_), player);
+  Hands hands = MakeHands();
+  const auto player = std::make_shared<forms::ScriptPlayer>(lines, [](const forms::FormState&) {},
+                                                            std::move(hands.hand));
+  StartSystem(std::make_shared<PagesDesktop>(player, helpTopics_), hands.viewOf(player));
   CPlotsmithController().RunPlotsmith(host_, "Test", "");
   player->PlayRest();
   definitions_ = lines.definitions;

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <initializer_list>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -9,6 +11,7 @@
 
 #include "forms/Form.h"
 #include "forms/script/LineSource.h"
+#include "forms/script/ScriptPlayer.h"
 #include "tests/support/HostTest.h"
 
 namespace plotsmith::test {
@@ -43,6 +46,14 @@ class PageLines final : public forms::LineSource {
   std::vector<std::string> lines_;
   std::size_t next_ = 0;
 };
+
+/// What plays a script: a hand, and the view on which it works.
+struct Hands {
+  std::unique_ptr<forms::Hand> hand;
+  std::function<std::shared_ptr<forms::View>(const std::shared_ptr<forms::ScriptPlayer>& player)> viewOf;
+};
+/// Makes the hands of the next script. As long as nothing else is put here, they work on the model alone.
+extern std::function<Hands()> MakeHands;
 
 /// A test of the wizard's pages by scripts.
 class PagesTest : public HostTest {

@@ -1,0 +1,48 @@
+#include "qt/forms/ButtonViews.h"
+
+namespace plotsmith::qt {
+
+CommandButtonView::CommandButtonView(forms::CommandButton& model, QWidget* parent, const Post& post)
+    : ControlView(model, post), model_(model), button_(new QPushButton(parent)) {
+  button_->setAutoDefault(false);
+  button_->setFocusPolicy(Qt::StrongFocus);
+  QObject::connect(button_, &QPushButton::clicked, button_, [this] { Report([this] { model_.UserPress(); }); });
+  Dress();
+}
+
+void CommandButtonView::Show() {
+  button_->setText(TextOf(model_.Caption()));
+  button_->setDefault(model_.Default());
+}
+
+CheckBoxView::CheckBoxView(forms::CheckBox& model, QWidget* parent, const Post& post)
+    : ControlView(model, post), model_(model), box_(new QCheckBox(parent)) {
+  box_->setFocusPolicy(Qt::StrongFocus);
+  QObject::connect(box_, &QCheckBox::clicked, box_, [this](bool checked) {
+    Report([this, checked] { model_.UserToggle(checked); });
+  });
+  Dress();
+}
+
+void CheckBoxView::Show() {
+  box_->setText(TextOf(model_.Caption()));
+  box_->setChecked(model_.Value() == forms::CheckBox::kChecked);
+}
+
+OptionButtonView::OptionButtonView(forms::OptionButton& model, QWidget* parent, const Post& post)
+    : ControlView(model, post), model_(model), button_(new QRadioButton(parent)) {
+  button_->setFocusPolicy(Qt::StrongFocus);
+  QObject::connect(button_, &QRadioButton::clicked, button_,
+                   [this] { Report([this] { model_.UserChoose(); }); });
+  Dress();
+}
+
+// Qt doesn't let go of the last option that is chosen among exclusive ones; the model does.
+void OptionButtonView::Show() {
+  button_->setText(TextOf(model_.Caption()));
+  button_->setAutoExclusive(false);
+  button_->setChecked(model_.Value());
+  button_->setAutoExclusive(true);
+}
+
+}  // namespace plotsmith::qt

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QRadioButton>
+
+#include "forms/Buttons.h"
+#include "qt/forms/ControlView.h"
+
+namespace plotsmith::qt {
+
+/// A button. The one that Enter presses is drawn as the default one.
+class CommandButtonView final : public ControlView {
+ public:
+  CommandButtonView(forms::CommandButton& model, QWidget* parent, const Post& post);
+  QWidget& Widget() override { return *button_; }
+
+ protected:
+  void Show() override;
+
+ private:
+  forms::CommandButton& model_;
+  QPushButton* button_;
+};
+
+class CheckBoxView final : public ControlView {
+ public:
+  CheckBoxView(forms::CheckBox& model, QWidget* parent, const Post& post);
+  QWidget& Widget() override { return *box_; }
+
+ protected:
+  void Show() override;
+
+ private:
+  forms::CheckBox& model_;
+  QCheckBox* box_;
+};
+
+/// An option. The arrow keys go from one option of a container to the next.
+class OptionButtonView final : public ControlView {
+ public:
+  OptionButtonView(forms::OptionButton& model, QWidget* parent, const Post& post);
+  QWidget& Widget() override { return *button_; }
+
+ protected:
+  void Show() override;
+
+ private:
+  forms::OptionButton& model_;
+  QRadioButton* button_;
+};
+
+}  // namespace plotsmith::qt

@@ -1,0 +1,175 @@
+#include "qt/forms/FormWindow.h"
+
+#include <QtGui/QCloseEvent>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
+#include <QtGui/QScreen>
+#include <QtGui/QStyleHints>
+#include <QtWidgets/QLayout>
+#include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+#include <utility>
+
+#include "forms/Buttons.h"
+#include "qt/forms/LayoutBuilder.h"
+
+namespace plotsmith::qt {
+namespace {
+
+constexpr Qt::WindowFlags kDialogFlags =
+    Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+constexpr const char* kHelpButton = "cmdHelp";
+
+}  // namespace
+
+FormWindow::FormWindow(forms::Form& form, QWidget* owner, Post post, LastPress& lastPress)
+    : QWidget(owner, kDialogFlags),
+      form_(form),
+      post_(std::move(post)),
+      lastPress_(lastPress),
+      scroll_(new QScrollArea(this)) {
+  setObjectName(TextOf(form.Name()));
+  setFont(FontOf(form.Font()));
+  MakeViews();
+  Update();
+  auto* const whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->addWidget(scroll_);
+  QLayout* const layout =
+      BuildLayout(form.Layout(), [this](const forms::Control& control) { return WidgetOf(control); });
+  const int margin = fontMetrics().height() / 2;
+  layout->setContentsMargins(margin, margin, margin, margin);
+  scroll_->widget()->setLayout(layout);
+  SetTabOrders();
+  FitScreen();
+  form.hWnd = static_cast<std::intptr_t>(winId());
+}
+
+FormWindow::~FormWindow() { form_.hWnd = 0; }
+
+void FormWindow::MakeViews() {
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  scroll_->setWidgetResizable(true);
+  scroll_->setWidget(new QWidget);
+  const Post post = [this](std::function<void()> gesture) { post_(std::move(gesture)); };
+  for (forms::Control* control : form_.Controls()) {
+    QWidget* parent = control->Container() == nullptr ? nullptr : WidgetOf(*control->Container());
+    auto view = MakeControlView(*control, parent == nullptr ? scroll_->widget() : parent, post);
+    if (view == nullptr) continue;
+    view->Widget().installEventFilter(this);
+    views_.push_back(std::move(view));
+  }
+}
+
+QWidget* FormWindow::WidgetOf(const forms::Control& control) const {
+  for (const auto& view : views_) {
+    if (&view->Model() == &control) return &view->Widget();
+  }
+  return nullptr;
+}
+
+forms::Control* FormWindow::ControlOf(const QObject* object) const {
+  for (const auto& view : views_) {
+    if (&view->Widget() == object) return &view->Model();
+  }
+  return nullptr;
+}
+
+void FormWindow::SetTabOrders() {
+  QWidget* previous = nullptr;
+  for (const auto& view : views_) {
+    QWidget& widget = view->Widget();
+    if (widget.focusPolicy() == Qt::NoFocus) continue;
+    if (previous != nullptr) setTabOrder(previous, &widget);
+    previous = &widget;
+  }
+}
+
+// A page that is larger than the screen is scrolled.
+void FormWindow::FitScreen() {
+  const QSize wanted = scroll_->widget()->sizeHint();
+  const QRect available = screen()->availableGeometry();
+  setMinimumSize(scroll_->widget()->minimumSizeHint().boundedTo(available.size()));
+  resize(wanted.boundedTo(available.size()));
+  const QRect middle = parentWidget() == nullptr ? available : parentWidget()->window()->geometry();
+  QRect place = rect();
+  place.moveCenter(middle.center());
+  place.moveLeft(std::max(available.left(), std::min(place.left(), available.right() - place.width())));
+  place.moveTop(std::max(available.top(), std::min(place.top(), available.bottom() - place.height())));
+  move(place.topLeft());
+}
+
+void FormWindow::Update() {
+  setWindowTitle(TextOf(form_.Caption()));
+  for (const auto& view : views_) view->Update();
+  if (!form_.Visible()) {
+    hide();
+  } else if (isVisible()) {
+    UpdateFocus();
+  }
+}
+
+void FormWindow::UpdateFocus() {
+  const forms::Control* const active = form_.ActiveControl();
+  QWidget* const widget = active == nullptr ? nullptr : WidgetOf(*active);
+  if (widget == nullptr || widget == focusWidget()) return;
+  movesFocus_ = true;
+  widget->setFocus(Qt::OtherFocusReason);
+  scroll_->ensureWidgetVisible(widget);
+  movesFocus_ = false;
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();  // the form decides, and its window goes when the form goes
+  post_([this] { form_.UserClose(); });
+}
+
+bool FormWindow::eventFilter(QObject* object, QEvent* event) {
+  forms::Control* const control = ControlOf(object);
+  if (control == nullptr) return false;
+  switch (event->type()) {
+    case QEvent::FocusIn: {
+      const auto reason = static_cast<QFocusEvent*>(event)->reason();
+      const bool isReturn = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+      if (!movesFocus_ && !isReturn) post_([control] { control->UserFocus(); });
+      return false;
+    }
+    case QEvent::KeyPress:
+      return TakeKey(static_cast<QWidget&>(*object), static_cast<QKeyEvent&>(*event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+      return qobject_cast<QPushButton*>(object) != nullptr && IsSecondPress(static_cast<QMouseEvent&>(*event));
+    default:
+      return false;
+  }
+}
+
+// A key that is held down counts once: it must not run through all pages.
+bool FormWindow::TakeKey(const QWidget& widget, const QKeyEvent& event) {
+  const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  if (isEnter && qobject_cast<const QPlainTextEdit*>(&widget) != nullptr) return false;
+  if (!isEnter && event.key() != Qt::Key_Escape && event.key() != Qt::Key_F1) return false;
+  if (event.isAutoRepeat()) return true;
+  if (isEnter) {
+    post_([this] { form_.UserEnter(); });
+  } else if (event.key() == Qt::Key_Escape) {
+    post_([this] { form_.UserEscape(); });
+  } else if (auto* help = dynamic_cast<forms::CommandButton*>(form_.FindControl(kHelpButton))) {
+    post_([help] { help->UserPressByKey(); });
+  }
+  return true;
+}
+
+bool FormWindow::IsSecondPress(const QMouseEvent& event) {
+  const LastPress last = std::exchange(lastPress_, {this, event.timestamp(), event.globalPosition()});
+  if (event.type() == QEvent::MouseButtonDblClick) return true;
+  const auto interval = static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+  const int reach = QGuiApplication::styleHints()->mouseDoubleClickDistance();
+  return last.window != nullptr && last.window != this && event.timestamp() - last.time < interval &&
+         (event.globalPosition() - last.place).manhattanLength() <= reach;
+}
+
+}  // namespace plotsmith::qt

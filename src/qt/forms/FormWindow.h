@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QtCore/QPointF>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QWidget>
+#include <memory>
+#include <vector>
+
+#include "forms/Form.h"
+#include "qt/forms/ControlView.h"
+
+class QMouseEvent;
+class QKeyEvent;
+
+namespace plotsmith::qt {
+
+/// The last press of the mouse on a button of any window. The second half of a double click on a button that
+/// opens the next page must not press the button of that page which happens to lie below the pointer.
+struct LastPress {
+  const QWidget* window = nullptr;
+  quint64 time = 0;  ///< milliseconds, by the events' own clock
+  QPointF place;     ///< on the screen
+};
+
+/// The window of a form.
+class FormWindow final : public QWidget {
+ public:
+  /// `owner` is the window that this one stays in front of; null if there is none. `lastPress` is shared by all
+  /// windows, and outlives them.
+  FormWindow(forms::Form& form, QWidget* owner, Post post, LastPress& lastPress);
+  ~FormWindow() override;
+
+  forms::Form& Model() const { return form_; }
+  /// Shows the state of the form, where it has changed.
+  void Update();
+  /// The widget of a control; null for a control that isn't seen.
+  QWidget* WidgetOf(const forms::Control& control) const;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* object, QEvent* event) override;
+
+ private:
+  void MakeViews();
+  void SetTabOrders();
+  void FitScreen();
+  void UpdateFocus();
+  /// The control whose widget this is; null for other objects.
+  forms::Control* ControlOf(const QObject* object) const;
+  bool TakeKey(const QWidget& widget, const QKeyEvent& event);
+  bool IsSecondPress(const QMouseEvent& event);
+
+  forms::Form& form_;
+  Post post_;
+  LastPress& lastPress_;
+  QScrollArea* scroll_;
+  std::vector<std::unique_ptr<ControlView>> views_;
+  bool movesFocus_ = false;  ///< the focus moves because the model says so
+};
+
+}  // namespace plotsmith::qt

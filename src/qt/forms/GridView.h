@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QtWidgets/QTableWidget>
+
+#include "forms/VSFlexGrid.h"
+#include "qt/forms/ControlView.h"
+
+namespace plotsmith::qt {
+
+/// A grid, of which whole rows are selected. Fixed rows are its head.
+class GridView final : public ControlView {
+ public:
+  GridView(forms::VSFlexGrid& model, QWidget* parent, const Post& post);
+  QWidget& Widget() override { return *table_; }
+
+ protected:
+  void Show() override;
+
+ private:
+  void ReportSelection();
+  void ShowHeads();
+  void ShowCells();
+  void ShowSelection();
+  void ShareOutWidth();
+
+  forms::VSFlexGrid& model_;
+  QTableWidget* table_;
+};
+
+}  // namespace plotsmith::qt

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QtWidgets/QGroupBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QProgressBar>
+
+#include "forms/Plain.h"
+#include "qt/forms/ControlView.h"
+
+namespace plotsmith::qt {
+
+class LabelView final : public ControlView {
+ public:
+  LabelView(forms::Label& model, QWidget* parent, const Post& post);
+  QWidget& Widget() override { return *label_; }
+
+ protected:
+  void Show() override;
+
+ private:
+  forms::Label& model_;
+  QLabel* label_;
+};
+
+/// A box with a title; the views of the controls inside are its children.
+class FrameView final : public ControlView {
+ public:
+  FrameView(forms::Frame& model, QWidget* parent, const Post& post);
+  QWidget& Widget() override { return *box_; }
+
+ protected:
+  void Show() override;
+
+ private:
+  forms::Frame& model_;
+  QGroupBox* box_;
+};
+
+/// A sample picture, drawn by the control's name.
+class ImageView final : public ControlView {
+ public:
+  ImageView(forms::Image& model, QWidget* parent, const Post& post);
+  QWidget& Widget() override { return *picture_; }
+
+ protected:
+  void Show() override {}
+
+ private:
+  QWidget* picture_;
+};
+
+class ProgressBarView final : public ControlView {
+ public:
+  ProgressBarView(forms::ProgressBar& model, QWidget* parent, const Post& post);
+  QWidget& Widget() override { return *bar_; }
+
+ protected:
+  void Show() override;
+
+ private:
+  forms::ProgressBar& model_;
+  QProgressBar* bar_;
+};
+
+}  // namespace plotsmith::qt

@@ -1,0 +1,60 @@
+#include "qt/forms/QtView.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QEventLoop>
+#include <QtCore/QTimer>
+#include <utility>
+
+namespace plotsmith::qt {
+
+void QtView::Open(forms::Form& form) {
+  const Post post = [this, &form](std::function<void()> gesture) {
+    pending_.push_back({&form, std::move(gesture)});
+  };
+  windows_.push_back(std::make_unique<FormWindow>(form, owner_, post, lastPress_));
+  windows_.back()->show();
+  windows_.back()->activateWindow();
+  ShowChanges();  // after the new window has come, so that the screen is never without one
+}
+
+void QtView::Close(forms::Form& form) {
+  std::erase_if(pending_, [&](const Gesture& gesture) { return gesture.form == &form; });
+  windows_.pop_back();
+  if (Front() != nullptr && Front()->Model().Visible()) Front()->activateWindow();
+}
+
+void QtView::ShowChanges() {
+  for (const auto& window : windows_) window->Update();
+  Shown();
+}
+
+void QtView::PostTo(forms::EventQueue& queue) {
+  for (Gesture& gesture : std::exchange(pending_, {})) queue.Post(*gesture.form, std::move(gesture.gesture));
+}
+
+void QtView::CloseFront() {
+  if (Front() == nullptr) return;
+  forms::Form* const form = &Front()->Model();
+  pending_.push_back({form, [form] { form->UserClose(); }});
+}
+
+void QtView::Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) {
+  ShowChanges();
+  const QDeadlineTimer deadline = atMost ? QDeadlineTimer(*atMost) : QDeadlineTimer(QDeadlineTimer::Forever);
+  QTimer alarm;  // events are waited for without an end of the waiting
+  if (atMost) alarm.start(*atMost);
+  while (pending_.empty() && !deadline.hasExpired()) {
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  PostTo(queue);
+}
+
+void QtView::HandleEvents(forms::EventQueue& queue) {
+  ShowChanges();
+  QCoreApplication::processEvents();
+  PostTo(queue);
+}
+
+}  // namespace plotsmith::qt

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "forms/ModalLoop.h"
+#include "qt/forms/FormWindow.h"
+
+namespace plotsmith::qt {
+
+/// Forms as windows on the screen. Needs a QApplication.
+class QtView final : public forms::View {
+ public:
+  /// Windows stay in front of `owner`, which may be null.
+  explicit QtView(QWidget* owner = nullptr) : owner_(owner) {}
+
+  void Open(forms::Form& form) override;
+  void Close(forms::Form& form) override;
+  void Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) override;
+  void HandleEvents(forms::EventQueue& queue) override;
+
+  /// Called each time when the forms have been shown, for a window that shows something else beside them.
+  std::function<void()> Shown = [] {};
+
+  /// The window of the form in front; null while there is none.
+  FormWindow* Front() const { return windows_.empty() ? nullptr : windows_.back().get(); }
+  /// Shows what has changed.
+  void ShowChanges();
+  /// Moves to the queue what hands did.
+  void PostTo(forms::EventQueue& queue);
+  /// Closes the form in front, as a hand would.
+  void CloseFront();
+
+ private:
+  struct Gesture {
+    forms::Form* form;
+    std::function<void()> gesture;
+  };
+
+  QWidget* owner_;
+  LastPress lastPress_;
+  std::vector<std::unique_ptr<FormWindow>> windows_;
+  std::vector<Gesture> pending_;
+};
+
+}  // namespace plotsmith::qt

@@ -1,0 +1,108 @@
+#include "qt/forms/TextViews.h"
+
+#include <QtCore/QSignalBlocker>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPlainTextEdit>
+#include <algorithm>
+
+namespace plotsmith::qt {
+namespace {
+
+void ReplaceUntypeable(QString& text, const QString& allowed) {
+  for (QChar& character : text) {
+    if (character < QLatin1Char(' ') && !allowed.contains(character)) character = QLatin1Char(' ');
+  }
+}
+
+class LineView final : public ControlView {
+ public:
+  LineView(forms::TextBox& model, QWidget* parent, const Post& post)
+      : ControlView(model, post), model_(model), edit_(new QLineEdit(parent)) {
+    if (model.MaxLength() > 0) edit_->setMaxLength(static_cast<int>(model.MaxLength()));
+    QObject::connect(edit_, &QLineEdit::textEdited, edit_, [this](const QString& text) {
+      Report([this, text] { model_.UserType(TextOf(OneLine(text))); });
+    });
+    Dress();
+  }
+  QWidget& Widget() override { return *edit_; }
+
+ protected:
+  void Show() override {
+    const QString text = TextOf(model_.Text());
+    if (edit_->text() != text) {
+      const int cursor = edit_->cursorPosition();
+      edit_->setText(text);
+      edit_->setCursorPosition(cursor);
+    }
+    edit_->setAlignment(model_.Alignment() == forms::Alignment::kCenter ? Qt::AlignCenter
+                                                                        : Qt::AlignLeading | Qt::AlignVCenter);
+  }
+
+ private:
+  forms::TextBox& model_;
+  QLineEdit* edit_;
+};
+
+class LinesView final : public ControlView {
+ public:
+  LinesView(forms::TextBox& model, QWidget* parent, const Post& post)
+      : ControlView(model, post), model_(model), edit_(new QPlainTextEdit(parent)) {
+    edit_->setTabChangesFocus(true);
+    QObject::connect(edit_, &QPlainTextEdit::textChanged, edit_, [this] {
+      const QSignalBlocker blocker(edit_);
+      CutOff();
+      QString text = edit_->toPlainText();
+      ReplaceUntypeable(text, QStringLiteral("\n\t"));
+      Report([this, text] { model_.UserType(TextOf(text)); });
+    });
+    Dress();
+  }
+  QWidget& Widget() override { return *edit_; }
+
+ protected:
+  void Show() override {
+    const QString text = TextOf(forms::WithLineEnds(model_.Text(), "\n"));
+    if (edit_->toPlainText() == text) return;
+    const QSignalBlocker blocker(edit_);
+    const int place = edit_->textCursor().position();
+    edit_->setPlainText(text);
+    QTextCursor cursor = edit_->textCursor();
+    cursor.setPosition(std::min(place, static_cast<int>(text.size())));
+    edit_->setTextCursor(cursor);
+  }
+
+ private:
+  /// How many UTF-16 units the text has too many, where a line end counts as the two that the model has.
+  qsizetype TooMany() const {
+    const auto most = static_cast<qsizetype>(model_.MaxLength());
+    return most == 0 ? 0 : edit_->toPlainText().size() + edit_->blockCount() - 1 - most;
+  }
+
+  /// Takes away what was typed or pasted last and has no room.
+  void CutOff() {
+    QTextCursor cursor = edit_->textCursor();
+    for (qsizetype over = TooMany(); over > 0 && !cursor.atStart(); over = TooMany()) {
+      const qsizetype units = std::max<qsizetype>(over / 2, 1);  // at worst, all of them are line ends
+      cursor.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor, static_cast<int>(units));
+      cursor.removeSelectedText();
+    }
+  }
+
+  forms::TextBox& model_;
+  QPlainTextEdit* edit_;
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> MakeTextBoxView(forms::TextBox& model, QWidget* parent, const Post& post) {
+  if (model.MultiLine()) return std::make_unique<LinesView>(model, parent, post);
+  return std::make_unique<LineView>(model, parent, post);
+}
+
+QString OneLine(QString text) {
+  text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  ReplaceUntypeable(text, {});
+  return text;
+}
+
+}  // namespace plotsmith::qt

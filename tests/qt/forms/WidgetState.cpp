@@ -1,0 +1,147 @@
+#include "tests/qt/forms/WidgetState.h"
+
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QGroupBox>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QProgressBar>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QRadioButton>
+#include <QtWidgets/QTableWidget>
+#include <algorithm>
+
+namespace plotsmith::test {
+namespace {
+
+using forms::ControlState;
+using qt::TextOf;
+
+void Read(const QListWidget& list, ControlState& state) {
+  state.list.emplace();
+  state.selected.emplace();
+  for (int i = 0; i < list.count(); ++i) {
+    state.list->push_back(TextOf(list.item(i)->text()));
+    if (list.item(i)->isSelected()) state.selected->push_back(i);
+  }
+}
+
+void Read(const QComboBox& box, ControlState& state) {
+  state.list.emplace();
+  for (int i = 0; i < box.count(); ++i) state.list->push_back(TextOf(box.itemText(i)));
+  state.listIndex = box.currentIndex();
+  state.text = TextOf(box.currentText());
+}
+
+void Read(const QTableWidget& table, ControlState& state) {
+  state.rows.emplace();
+  state.selected.emplace();
+  state.fixedRows = table.horizontalHeader()->isHidden() ? 0 : 1;
+  if (state.fixedRows == 1) {
+    auto& heads = state.rows->emplace_back();
+    for (int col = 0; col < table.columnCount(); ++col) {
+      heads.push_back(TextOf(table.horizontalHeaderItem(col)->text()));
+    }
+  }
+  for (int row = 0; row < table.rowCount(); ++row) {
+    auto& cells = state.rows->emplace_back();
+    for (int col = 0; col < table.columnCount(); ++col)
+      cells.push_back(TextOf(table.item(row, col)->text()));
+    if (table.selectionModel()->isRowSelected(row)) state.selected->push_back(row + state.fixedRows);
+  }
+}
+
+ControlState Read(const QWidget& widget) {
+  ControlState state;
+  state.name = TextOf(widget.objectName());
+  state.accessibleName = TextOf(widget.accessibleName());
+  state.enabled = widget.isEnabled();
+  state.visible = widget.isVisible();
+  state.focus = widget.window()->focusWidget() == &widget;
+  state.backColor = widget.backgroundRole() == QPalette::ToolTipBase && widget.autoFillBackground()
+                        ? forms::kToolTipBackground
+                        : forms::kButtonFace;
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
+    state.caption = TextOf(button->text());
+    if (button->isCheckable()) state.value = button->isChecked();
+  }
+  if (const auto* button = qobject_cast<const QPushButton*>(&widget)) state.isDefault = button->isDefault();
+  if (const auto* box = qobject_cast<const QGroupBox*>(&widget)) state.caption = TextOf(box->title());
+  if (const auto* label = qobject_cast<const QLabel*>(&widget)) state.caption = TextOf(label->text());
+  if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) state.text = TextOf(edit->text());
+  if (const auto* edit = qobject_cast<const QPlainTextEdit*>(&widget))
+    state.text = TextOf(edit->toPlainText());
+  if (const auto* list = qobject_cast<const QListWidget*>(&widget)) Read(*list, state);
+  if (const auto* box = qobject_cast<const QComboBox*>(&widget)) Read(*box, state);
+  if (const auto* table = qobject_cast<const QTableWidget*>(&widget)) Read(*table, state);
+  return state;
+}
+
+/// The model's state as far as a widget can show it.
+ControlState Showable(ControlState state) {
+  state.kind.clear();
+  state.container.clear();
+  state.isCancel = false;
+  if (state.backColor != forms::kToolTipBackground) state.backColor = forms::kButtonFace;
+  return state;
+}
+
+template <class Value>
+void Compare(std::string& differences, const std::string& what, const Value& model, const Value& widget) {
+  if (!(model == widget)) differences += what + " differs\n";
+}
+
+void Compare(std::string& differences, const ControlState& model, const ControlState& widget) {
+  const auto compare = [&](const char* what, const auto& left, const auto& right) {
+    Compare(differences, model.name + "." + what, left, right);
+  };
+  compare("AccessibleName", model.accessibleName, widget.accessibleName);
+  compare("Enabled", model.enabled, widget.enabled);
+  compare("Visible", model.visible, widget.visible);
+  compare("focus", model.focus, widget.focus);
+  compare("BackColor", model.backColor, widget.backColor);
+  compare("Caption", model.caption, widget.caption);
+  compare("Text", model.text, widget.text);
+  compare("Value", model.value, widget.value);
+  compare("List", model.list, widget.list);
+  compare("Rows", model.rows, widget.rows);
+  compare("FixedRows", model.fixedRows, widget.fixedRows);
+  compare("Selected", model.selected, widget.selected);
+  compare("Default", model.isDefault, widget.isDefault);
+}
+
+}  // namespace
+
+forms::FormState StateOfWidgets(const qt::FormWindow& window) {
+  forms::FormState state{TextOf(window.objectName()), TextOf(window.windowTitle()), {}};
+  for (const forms::Control* control : window.Model().Controls()) {
+    const auto* widget = window.findChild<QWidget*>(TextOf(control->FullName()));
+    if (widget != nullptr) state.controls.push_back(Read(*widget));
+  }
+  return state;
+}
+
+std::string DifferencesFromModel(const qt::FormWindow& window) {
+  const forms::FormState model = forms::StateOf(window.Model()), widgets = StateOfWidgets(window);
+  std::string differences;
+  Compare(differences, "Name", model.name, widgets.name);
+  Compare(differences, "Caption", model.caption, widgets.caption);
+  for (const ControlState& control : model.controls) {
+    if (control.kind == "Timer") continue;
+    const auto found = std::find_if(widgets.controls.begin(), widgets.controls.end(),
+                                    [&](const ControlState& widget) { return widget.name == control.name; });
+    if (found == widgets.controls.end()) {
+      differences += control.name + " has no widget\n";
+      continue;
+    }
+    ControlState widget = *found;
+    if (control.kind == "ListBox") widget.text = control.text;  // it shows in the selection
+    Compare(differences, Showable(control), widget);
+  }
+  return differences;
+}
+
+}  // namespace plotsmith::test

@@ -1,0 +1,27 @@
+#include <QtWidgets/QApplication>
+#include <gtest/gtest.h>
+#include <memory>
+
+#include "tests/qt/forms/QtHand.h"
+#include "tests/qt/forms/QtStage.h"
+#include "tests/support/PagesTest.h"
+
+namespace {
+
+/// Plays the scripts of the pages' tests on windows, by mouse and keyboard.
+plotsmith::test::Hands HandsOnWindows() {
+  auto windows = std::make_shared<plotsmith::qt::QtView>();
+  return {std::make_unique<plotsmith::test::QtHand>(*windows), [windows](const auto& player) {
+            return std::make_shared<plotsmith::test::QtStage>(windows, player);
+          }};
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  plotsmith::test::MakeHands = HandsOnWindows;
+  return RUN_ALL_TESTS();
+}
