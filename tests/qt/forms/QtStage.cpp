@@ -19,6 +19,8 @@ void QtStage::Close(forms::Form& form) {
 
 void QtStage::Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) {
   windows_->ShowChanges();
+  // without a window manager, a window doesn't become active again when a list that it had opened closes
+  windows_->Front()->activateWindow();
   QCoreApplication::processEvents();
   windows_->ShowChanges();
   EXPECT_EQ(DifferencesFromModel(*windows_->Front()), "") << windows_->Front()->Model().Name();
