@@ -70,13 +70,20 @@ Layout GridOf(const NumberFormatBox& oBox) {
                   Item(oBox.lblMaskExample)});
 }
 
+Layout GridOf(const NumberFormatBox& oBox, const AxisBoxes& oAxes) {
+  Layout oGrid = GridOf(oBox);
+  Layout oOther = GridOf(oAxes);
+  for (Layout& oPart : oOther.parts) oGrid.parts.push_back(std::move(oPart));
+  return oGrid;
+}
+
 Layout Framed(const CommentBox& oComment) {
   return Framed(oComment.Frame7, Item(oComment.txtComment).AtLeast(kColumnNameWidth, kCommentLines))
       .Stretch(1);
 }
 
 Layout frmPSSelectAction::Layout() const {
-  return Row({Framed(Frame2, Item(grdCharts).AtLeast(80, 14)).Stretch(1),
+  return Row({Framed(Frame2, Item(grdCharts).AtLeast(92, 14)).Stretch(1),
               Column({Item(cmdNew), Item(cmdModify), Item(cmdCopy), Item(cmdDelete), Space(),
                       Item(cmdGoToChart), Item(cmdGoToTable), Space(), Item(cmdHelp), Item(cmdCancel)})});
 }
@@ -105,8 +112,8 @@ Layout frmPSLayoutABC::Layout() const {
          Framed(Frame4, ColumnBox(cboValues))});
   };
   const auto oLook = [this] {
-    return Column({StackOf(Pictures),
-                   Framed(Frame5, Column({Item(chkShowValues), GridOf(NumberFormat), GridOf(Axes)})),
+    return Column({StackOf(Pictures).Stretch(2),
+                   Framed(Frame5, Column({Item(chkShowValues), GridOf(NumberFormat, Axes)})),
                    Framed(Frame6, Row({Item(chk3D), Item(chkStacked), Item(chk100Pct), Space()})),
                    plotsmith::Framed(Comment)});
   };
@@ -119,7 +126,7 @@ Layout frmPSLayoutPie::Layout() const {
                    Framed(Frame2, Row({ColumnList(lstCategories), Item(imgLegend)})).Stretch(1)});
   };
   const auto oLook = [this] {
-    return Column({StackOf(Pictures),
+    return Column({StackOf(Pictures).Stretch(2),
                    Framed(Frame5, Column({Row({Item(optDataLabels0), Item(optDataLabels1),
                                                Item(optDataLabels2), Space()}),
                                           GridOf(NumberFormat)})),
@@ -138,7 +145,7 @@ Layout frmPSLayoutBubble::Layout() const {
   };
   const auto oLook = [this] {
     return Column(
-        {StackOf(Pictures), Framed(Frame5, GridOf(Axes)),
+        {StackOf(Pictures).Stretch(2), Framed(Frame5, GridOf(Axes)),
          Framed(Frame6,
                 Grid(2, {Item(chk3D), Item(chkQuadrants), Item(chkScaleXAxis), Item(chkScaleYAxis)})),
          plotsmith::Framed(Comment)});
@@ -159,8 +166,8 @@ Layout frmPSLayoutStrBuck::Layout() const {
                                 Row({Item(optBlockSequence0), Item(optBlockSequence1), Space()})}))});
   };
   const auto oLook = [this] {
-    return Column({Item(imgStrBuckBasic),
-                   Framed(Frame5, Column({Item(chkShowNames), GridOf(NumberFormat), GridOf(Axes)})),
+    return Column({Item(imgStrBuckBasic).Stretch(2),
+                   Framed(Frame5, Column({Item(chkShowNames), GridOf(NumberFormat, Axes)})),
                    plotsmith::Framed(Comment)});
   };
   return WithButtons(Row({oData().Stretch(1), oLook().Stretch(1)}), Buttons);

@@ -13,10 +13,11 @@ forms::Layout WithButtons(forms::Layout oBody, const WizardButtons& oButtons);
 /// Pictures in the same place.
 forms::Layout StackOf(const PictureGroup& oPictures);
 forms::Layout StackOf(const LegendPictures& oLegend);
-/// A label in front of each box.
+/// A label in front of each box, so that all of them line up.
 ///@{
 forms::Layout GridOf(const AxisBoxes& oAxes);
 forms::Layout GridOf(const NumberFormatBox& oBox);
+forms::Layout GridOf(const NumberFormatBox& oBox, const AxisBoxes& oAxes);
 ///@}
 forms::Layout Framed(const CommentBox& oComment);
 

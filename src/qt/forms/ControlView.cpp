@@ -87,7 +87,8 @@ void ControlView::ShowColors() {
   const bool isMarked = model_.BackColor() == forms::kToolTipBackground;
   widget.setBackgroundRole(isMarked ? QPalette::ToolTipBase : QPalette::NoRole);
   widget.setForegroundRole(isMarked ? QPalette::ToolTipText : QPalette::NoRole);
-  widget.setAutoFillBackground(isMarked);
+  // what is inside of a frame shows the frame's own background
+  if (dynamic_cast<forms::Frame*>(&model_) != nullptr) widget.setAutoFillBackground(isMarked);
 }
 
 void ControlView::ShowFont() {

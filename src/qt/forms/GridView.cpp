@@ -3,10 +3,13 @@
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QHeaderView>
 #include <algorithm>
+#include <numeric>
 #include <vector>
 
 namespace plotsmith::qt {
 namespace {
+
+constexpr int kRowGap = 6;  // pixels
 
 Qt::Alignment AlignmentOf(forms::ColumnAlignment alignment) {
   const bool isRight = alignment == forms::ColumnAlignment::flexAlignRightCenter;
@@ -32,10 +35,11 @@ class Table final : public QTableWidget {
 
  private:
   void ShareOut() {
-    double sum = 0;
-    for (const double share : shares_) sum += share;
-    for (int i = 0; i < columnCount() && sum > 0; ++i) {
-      setColumnWidth(i, static_cast<int>(viewport()->width() * shares_[static_cast<std::size_t>(i)] / sum));
+    const double sum = std::accumulate(shares_.begin(), shares_.end(), 0.0);
+    for (int i = 0; i < columnCount(); ++i) {
+      // a page that gives no widths wants equal ones
+      const double share = sum > 0 ? shares_[static_cast<std::size_t>(i)] / sum : 1.0 / columnCount();
+      setColumnWidth(i, static_cast<int>(viewport()->width() * share));
     }
   }
 
@@ -59,6 +63,8 @@ GridView::GridView(forms::VSFlexGrid& model, QWidget* parent, const Post& post)
   table_->horizontalHeader()->setHighlightSections(false);
   table_->horizontalHeader()->setSectionsClickable(false);
   table_->verticalHeader()->hide();
+  table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + kRowGap);
   QObject::connect(table_, &QTableWidget::itemSelectionChanged, table_, [this] { ReportSelection(); });
   QObject::connect(table_, &QTableWidget::cellDoubleClicked, table_, [this](int row, int) {
     Report([this, row] { model_.UserDoubleClick(row + model_.FixedRows()); });

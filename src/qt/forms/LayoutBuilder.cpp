@@ -1,7 +1,7 @@
 #include "qt/forms/LayoutBuilder.h"
 
 #include <QtGui/QFontMetrics>
-#include <QtWidgets/QAbstractScrollArea>
+#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QVBoxLayout>
@@ -38,11 +38,13 @@ class Builder {
  private:
   QLayout* Box(const Layout& layout, QBoxLayout* box) {
     box->setContentsMargins(0, 0, 0, 0);
+    const bool isBesideList = layout.kind == Layout::Kind::kRow && HasLines(layout);
     for (const Layout& part : layout.parts) {
       if (part.kind == Layout::Kind::kSpace) {
         box->addStretch(part.stretch);
       } else if (QWidget* widget = WidgetOf(part)) {
-        box->addWidget(widget, part.stretch);
+        const bool isOption = qobject_cast<QAbstractButton*>(widget) != nullptr;
+        box->addWidget(widget, part.stretch, isBesideList && isOption ? Qt::AlignTop : Qt::Alignment());
       } else {
         box->addLayout(Build(part), part.stretch);
       }
@@ -89,13 +91,17 @@ class Builder {
     return inside;
   }
 
+  static bool HasLines(const Layout& layout) {
+    return std::any_of(layout.parts.begin(), layout.parts.end(), [](const Layout& part) { return part.lines > 0; });
+  }
+
   static void SetLeastSize(QWidget& widget, const Layout& part) {
     const QFontMetrics metrics(widget.font());
     if (part.characters > 0) widget.setMinimumWidth(part.characters * metrics.averageCharWidth());
     if (part.lines == 0) return;
     // a list asks for more lines than it needs, and that is what a layout would give it
     widget.setMinimumHeight(part.lines * (metrics.height() + kLineGap) + kListBorders);
-    widget.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    widget.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
   }
 
   static constexpr int kFrameMargin = 8;

@@ -61,7 +61,7 @@ ControlState Read(const QWidget& widget) {
   state.enabled = widget.isEnabled();
   state.visible = widget.isVisible();
   state.focus = widget.window()->focusWidget() == &widget;
-  state.backColor = widget.backgroundRole() == QPalette::ToolTipBase && widget.autoFillBackground()
+  state.backColor = widget.backgroundRole() == QPalette::ToolTipBase
                         ? forms::kToolTipBackground
                         : forms::kButtonFace;
   if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
