@@ -44,6 +44,12 @@ BookView::BookView(std::shared_ptr<xlsx::Application> host, QWidget* parent)
   content_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   address_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   address_->setFixedWidth(address_->fontMetrics().horizontalAdvance(QStringLiteral("XFD1048576")) + 16);
+  address_->setAlignment(Qt::AlignCenter);
+  for (QLabel* label : {address_, content_}) {
+    label->setBackgroundRole(QPalette::Base);
+    label->setForegroundRole(QPalette::Text);
+    label->setAutoFillBackground(true);
+  }
   tabs_->setShape(QTabBar::RoundedSouth);
   tabs_->setDocumentMode(true);
   tabs_->setExpanding(false);
@@ -53,12 +59,14 @@ BookView::BookView(std::shared_ptr<xlsx::Application> host, QWidget* parent)
   tabs_->setAccessibleName(QStringLiteral("Sheets"));
 
   auto* bar = new QHBoxLayout;
+  bar->setSpacing(1);
   bar->addWidget(address_);
   bar->addWidget(content_, 1);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   layout->addLayout(bar);
+  layout->addSpacing(1);
   layout->addWidget(pages_, 1);
   layout->addWidget(tabs_);
   connect(tabs_, &QTabBar::currentChanged, this, [this](int tab) { ShowTab(tab); });
