@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <initializer_list>
 #include <string>
@@ -19,15 +20,20 @@ class Journal {
 
   void SetSink(Sink sink) { sink_ = std::move(sink); }
   explicit operator bool() const { return static_cast<bool>(sink_); }
+  /// How many changing calls there were, counted whether or not there is a sink. Somebody who shows the
+  /// workbook looks at it again when the count has grown.
+  std::uint64_t CallCount() const { return calls_; }
 
   /// `object` names the object by its path, and is only asked when the journal is on.
   template <class Path>
   void Put(const Path& object, std::string_view property, const runtime::Variant& value) const {
+    ++calls_;
     if (sink_) sink_(object() + "." + std::string(property) + " = " + Literal(value));
   }
   template <class Path>
   void Call(const Path& object, std::string_view method,
             std::initializer_list<runtime::Variant> arguments = {}) const {
+    ++calls_;
     if (!sink_) return;
     std::string line = object() + "." + std::string(method);
     if (arguments.size() > 0) line += "(" + Literals(arguments) + ")";
@@ -40,6 +46,7 @@ class Journal {
 
  private:
   Sink sink_;
+  mutable std::uint64_t calls_ = 0;
 };
 
 }  // namespace plotsmith::xlsx

@@ -54,8 +54,10 @@ class SheetRangeObject final : public excel::Range {
     Log().Call(Path(), "Clear");
     sheet_->ClearCells(cells_);
   }
-  // the file keeps no selection of ours
-  void Activate() override { Log().Call(Path(), "Activate"); }
+  void Activate() override {
+    Log().Call(Path(), "Activate");
+    sheet_->ActivateCell({cells_.row1, cells_.column1});
+  }
 
   void Insert() override {
     CheckWholeRows();

@@ -277,6 +277,7 @@ std::shared_ptr<Worksheet> Workbook::AddWorksheet(std::size_t position) {
   ListWorksheets();
   RenumberTabs(position, 1);
   activeSheet_ = position;
+  CountActivation();
   changed_ = true;
   return entry->worksheet;
 }
@@ -352,6 +353,7 @@ void Workbook::Activate(const SheetEntry& sheet) {
     throw Refusal("Activate method of Worksheet class failed");
   }
   activeSheet_ = position;
+  CountActivation();
 }
 
 std::shared_ptr<Worksheet> Workbook::ActiveWorksheet() const {
@@ -389,9 +391,13 @@ void Workbook::RemoveRelationship(const std::string& part, const std::string& id
 }
 
 Ref<excel::Chart> Workbook::ActiveChart() {
-  if (activeSheet_ >= sheets_.size() || sheets_[activeSheet_]->worksheet) return nullptr;
+  return activeSheet_ < sheets_.size() ? ChartOf(*sheets_[activeSheet_]) : nullptr;
+}
+
+Ref<excel::Chart> Workbook::ChartOf(const SheetEntry& sheet) {
+  if (sheet.worksheet) return nullptr;
   try {
-    const auto drawing = FindDrawingLink(package_, sheets_[activeSheet_]->part);
+    const auto drawing = FindDrawingLink(package_, sheet.part);
     const auto chart = drawing ? package_.FindRelationshipOfType(drawing->target, "chart") : std::nullopt;
     if (!chart) return nullptr;
     return std::make_shared<xlsx::Chart>(Chart(chart->target), std::weak_ptr<SheetShape>());

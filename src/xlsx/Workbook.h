@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "host/excel/Excel.h"
+#include "runtime/RuntimeError.h"
 #include "xlsx/Journal.h"
 #include "xlsx/drawing/Theme.h"
 #include "xlsx/package/Namespaces.h"
@@ -87,11 +88,17 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   void RenameSheet(SheetEntry& sheet, std::string_view name);
   void SetVisible(SheetEntry& sheet, std::int32_t visible);
   void Activate(const SheetEntry& sheet);
+  /// How often a sheet or a cell was made the active one. A window that shows another sheet meanwhile, since
+  /// its user turned to it, then comes back to the active one.
+  std::uint64_t Activations() const { return activations_; }
+  void CountActivation() { ++activations_; }
   /// Null if the active sheet has no cells.
   std::shared_ptr<Worksheet> ActiveWorksheet() const;
   /// The chart of a part, which is read when something of the chart is asked for.
   std::shared_ptr<ChartPart> Chart(const std::string& part);
   excel::Ref<excel::Chart> ActiveChart();
+  /// The chart of a chart sheet; Nothing for another sheet, and for one that can't be read.
+  excel::Ref<excel::Chart> ChartOf(const SheetEntry& sheet);
   /// Takes out a relationship of a part, and the parts that nothing else refers to. Charts among them are
   /// deleted.
   void RemoveRelationship(const std::string& part, const std::string& id);
@@ -112,6 +119,19 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
       RaiseDamage(e);
     } catch (const std::bad_alloc&) {
       RaiseDamage(PackageError("there is not enough memory for it"));
+    }
+  }
+
+  /// Runs what reads the workbook only to show it: what it finds damaged fails as ever, but is no reason not
+  /// to save the workbook, as nothing is built on it.
+  template <class Read>
+  auto Viewed(Read&& read) -> decltype(read()) {
+    const auto before = damage_;
+    try {
+      return read();
+    } catch (const runtime::RuntimeError&) {
+      damage_ = before;
+      throw;
     }
   }
 
@@ -143,6 +163,7 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   std::vector<std::shared_ptr<SheetEntry>> sheets_;
   std::vector<std::shared_ptr<Worksheet>> worksheets_;  ///< of sheets_
   std::size_t activeSheet_ = 0;
+  std::uint64_t activations_ = 0;
   std::shared_ptr<SheetEntry> openedSheet_;  ///< the active sheet as the file tells
   std::vector<NameEntry> names_;
   excel::Ref<excel::Names> nameObjects_;  ///< made when first asked for, until a name changes

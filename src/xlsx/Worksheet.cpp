@@ -249,17 +249,9 @@ void Worksheet::DeleteRow(std::int32_t row) {
   book_.Shifts().Add(Entry().name, row, -1);
 }
 
-bool Worksheet::HasMergedCells() {
-  if (!merged_) {
-    merged_ =
-        !isNew_ && xml::ToUtf8(book_.Package().Read(Entry().part)).find("mergeCell ") != std::string::npos;
-  }
-  return *merged_;
-}
-
 void Worksheet::SortCells(const CellRange& range, const SortOptions& options) {
   CellGrid& grid = Grid();
-  if (book_.Guarded([&] { return HasMergedCells(); })) {
+  if (!MergedCells().empty()) {
     throw Refusal("To do this, all the merged cells need to be the same size.");
   }
   SortRows(grid, range, options);
@@ -271,6 +263,19 @@ const SheetGeometry& Worksheet::Geometry() {
     geometry_ = ReadGeometry(contents.head, contents.rowHeights, book_.Styles());
   }
   return *geometry_;
+}
+
+SheetView Worksheet::View() {
+  SheetView view = book_.Guarded([&] {
+    return InPart(Entry().part, [&] { return ReadSheetView(*book_.Package().Stream(Entry().part)); });
+  });
+  if (activeCell_) view.activeCell = *activeCell_;
+  return view;
+}
+
+void Worksheet::ActivateCell(const CellPlace& cell) {
+  activeCell_ = cell;
+  book_.CountActivation();
 }
 
 Ref<excel::Range> Worksheet::Cells(std::int32_t row, std::int32_t column) {

@@ -15,6 +15,7 @@
 #include "xlsx/sheet/Reference.h"
 #include "xlsx/sheet/SheetGeometry.h"
 #include "xlsx/sheet/SheetScanner.h"
+#include "xlsx/sheet/SheetView.h"
 
 namespace plotsmith::xlsx {
 
@@ -60,6 +61,14 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   /// Error 1004 on a sheet with merged cells, which would have to move as they are.
   void SortCells(const CellRange& range, const SortOptions& options);
   const SheetGeometry& Geometry();
+  /// An index into the workbook's cell styles; 0 where there is no cell.
+  std::uint32_t StyleAt(std::int32_t row, std::int32_t column);
+  /// Cells that are shown as one, as the file has them.
+  const std::vector<CellRange>& MergedCells() { return Contents().mergedCells; }
+  /// How the workbook's first window shows the sheet.
+  SheetView View();
+  /// Makes a cell the active one. The file keeps the one that it has.
+  void ActivateCell(const CellPlace& cell);
   /// The sheet's drawing; null if it has none, or one without charts that can't be read.
   SheetDrawing* FindDrawing();
   /// The same, made if need be. Error 1004 if there is one that can't be read.
@@ -85,21 +94,19 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   }
   /// The cells for writing. Error 1004 on a sheet that isn't ours to write.
   CellGrid& Grid();
-  std::uint32_t StyleAt(std::int32_t row, std::int32_t column);
   excel::CellValue Unpack(PackedValue value, std::uint32_t style);
 
-  bool HasMergedCells();
   /// Changes the XML of the part at once; `change` returns whether there was anything to change. What the
   /// part lacks for it is the workbook's damage.
   void ChangePart(const std::function<bool(std::string& text)>& change);
 
   bool isNew_;
-  std::optional<bool> merged_;
   std::optional<SheetContents> contents_;  ///< as read
   const TextPool* sharedTexts_ = nullptr;  ///< the workbook's, once a cell has asked for one
   std::optional<CellGrid> grid_;           ///< as changed; of contents_ only the geometry counts then
   bool gridChanged_ = false;
   std::optional<SheetGeometry> geometry_;
+  std::optional<CellPlace> activeCell_;  ///< since the file was read
   std::unique_ptr<SheetDrawing> drawing_;
   bool drawingSought_ = false;
   std::optional<std::string> drawingDamage_;  ///< why the sheet's drawing can't be read

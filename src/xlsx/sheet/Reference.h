@@ -8,6 +8,12 @@
 
 namespace plotsmith::xlsx {
 
+/// One cell of a sheet; both numbers from 1.
+struct CellPlace {
+  std::int32_t row = 0, column = 0;
+  bool operator==(const CellPlace&) const = default;
+};
+
 /// A rectangle of cells: rows and columns from 1, both ends inside.
 struct CellRange {
   std::int32_t row1 = 1, column1 = 1, row2 = 1, column2 = 1;

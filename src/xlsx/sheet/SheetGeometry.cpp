@@ -20,9 +20,22 @@ constexpr int kDefaultCharacters = 8;
 // What a file says beyond these (Excel's limits) is no size.
 constexpr double kMostCharacters = 255, kMostRowHeight = 409.5, kMostFontSize = 409;
 
-/// The width of the widest digit in the Normal font, in pixels, by which column widths count. Known for the
-/// fonts that workbooks come with; for others it grows with the size as theirs does.
+/// A column's width in the file, in characters, as pixels (ECMA-376-1, 18.3.1.13).
+double ColumnPoints(double characters, int digit) {
+  return std::floor((256 * characters + std::floor(128.0 / digit)) / 256 * digit) * kPointsPerPixel;
+}
+
+/// A width that wasn't written: whole characters, padding of a quarter digit on both sides and a grid line,
+/// up to a multiple of eight pixels.
+double DefaultColumnPoints(int characters, int digit) {
+  const double pixels = characters * digit + 2 * std::ceil(digit / 4.0) + 1;
+  return std::ceil(pixels / 8) * 8 * kPointsPerPixel;
+}
+
+}  // namespace
+
 int DigitWidth(const Styles& styles) {
+  // known for the fonts that workbooks come with; for others it grows with the size as theirs does
   struct Known {
     std::string_view font;
     double size;
@@ -40,23 +53,14 @@ int DigitWidth(const Styles& styles) {
   return std::max(1, static_cast<int>(std::lround(size * 96 / 72 * 0.48)));
 }
 
-/// A column's width in the file, in characters, as pixels (ECMA-376-1, 18.3.1.13).
-double ColumnPoints(double characters, int digit) {
-  return std::floor((256 * characters + std::floor(128.0 / digit)) / 256 * digit) * kPointsPerPixel;
-}
-
-/// A width that wasn't written: whole characters, padding of a quarter digit on both sides and a grid line,
-/// up to a multiple of eight pixels.
-double DefaultColumnPoints(int characters, int digit) {
-  const double pixels = characters * digit + 2 * std::ceil(digit / 4.0) + 1;
-  return std::ceil(pixels / 8) * 8 * kPointsPerPixel;
-}
-
-}  // namespace
-
 void GridLines::SetSize(std::int32_t first, std::int32_t last, double size) {
   last = std::min(last, count_ - 1);
   if (first < 0 || first > last || (!own_.empty() && first <= own_.back().last)) return;
+  // some programs give each row its height, the same for a million of them
+  if (!own_.empty() && first == own_.back().last + 1 && size == own_.back().size) {
+    own_.back().last = last;
+    return;
+  }
   own_.push_back({first, last, size, EdgeOf(first)});
 }
 

@@ -39,6 +39,9 @@ struct SheetGeometry {
   GridLines rows;
 };
 
+/// The width of the widest digit in the Normal font, in pixels at 96 dots an inch, by which column widths count.
+int DigitWidth(const Styles& styles);
+
 /// From the part before `sheetData` and the heights that rows have of their own.
 SheetGeometry ReadGeometry(const std::string& head,
                            const std::vector<std::pair<std::int32_t, double>>& rowHeights,

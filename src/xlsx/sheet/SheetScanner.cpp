@@ -1,6 +1,7 @@
 #include "xlsx/sheet/SheetScanner.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 #include "runtime/Ascii.h"
@@ -56,6 +57,7 @@ class SheetScanner : public XmlStream {
 
   SheetContents Scan() {
     if (ReadHead()) ReadRows();
+    ReadMergedCells();
     Drain();
     if (used_.row2 > 0) contents_.used = used_;
     return std::move(contents_);
@@ -67,6 +69,7 @@ class SheetScanner : public XmlStream {
 
   bool ReadHead();
   void ReadRows();
+  void ReadMergedCells();
   /// Behind the cell, or the row's tag, at `p` if it has the plain shape and lies whole in the window; else
   /// null, with nothing taken.
   const char* TakePlainCell(const char* p);
@@ -174,6 +177,26 @@ void SheetScanner::ReadRows() {
       case Piece::kCut:
         if (!Fill()) Damaged();
         break;
+    }
+  }
+}
+
+/// From behind the cells up to the first element that the schema puts behind `mergeCells` (CT_Worksheet).
+void SheetScanner::ReadMergedCells() {
+  static constexpr std::array<std::string_view, 10> kUpToMergedCells = {
+      "sheetCalcPr", "sheetProtection", "protectedRanges",  "scenarios",  "autoFilter",
+      "sortState",   "dataConsolidate", "customSheetViews", "mergeCells", "mergeCell"};
+  for (;;) {
+    const Tag tag = Next();
+    if (tag.kind == Kind::kEnd && tag.name == "mergeCells") return;
+    if (tag.kind == Kind::kEnd) continue;
+    if (std::find(kUpToMergedCells.begin(), kUpToMergedCells.end(), tag.name) == kUpToMergedCells.end())
+      return;
+    if (tag.name == "mergeCell") {
+      if (const auto range = ParseA1(AttributeIn(tag.attributes, "ref")))
+        contents_.mergedCells.push_back(*range);
+    } else if (tag.name != "mergeCells" && tag.kind == Kind::kStart) {
+      SkipElement();
     }
   }
 }

@@ -11,12 +11,6 @@
 
 namespace plotsmith::xlsx {
 
-/// One cell of a sheet; both numbers from 1.
-struct CellPlace {
-  std::int32_t row = 0, column = 0;
-  bool operator==(const CellPlace&) const = default;
-};
-
 /// What a sheet's part says, as far as we ask.
 struct SheetContents {
   CellStore cells;
@@ -32,6 +26,8 @@ struct SheetContents {
   std::vector<CellPlace> formulasWithoutResult;
   /// Heights of rows that have their own, in points, in the order of the file; 0 is a hidden row.
   std::vector<std::pair<std::int32_t, double>> rowHeights;
+  /// Cells that are shown as one, in the order of the file.
+  std::vector<CellRange> mergedCells;
 };
 
 /// Reads a sheet in one pass. Throws PackageError.

@@ -202,19 +202,34 @@ void Styles::SetPaletteColor(std::int32_t index, std::int32_t color) {
                     "FF" + RgbText(color));
 }
 
+pugi::xml_node Styles::EntryAt(std::string_view list, std::string_view local, long long index) const {
+  const auto found = Listed(Root(), list, local);
+  const bool known = index >= 0 && index < static_cast<long long>(found.size());
+  return known ? found[static_cast<std::size_t>(index)] : pugi::xml_node();
+}
+
+pugi::xml_node Styles::FontOf(std::uint32_t style) const {
+  const auto node = style < cellStyles_.size() ? cellStyles_[style].node : pugi::xml_node();
+  return EntryAt("fonts", "font", xml::IntegerAttribute(node, "fontId", 0));
+}
+
+pugi::xml_node Styles::FillOf(std::uint32_t style) const {
+  const auto node = style < cellStyles_.size() ? cellStyles_[style].node : pugi::xml_node();
+  return EntryAt("fills", "fill", xml::IntegerAttribute(node, "fillId", 0));
+}
+
+pugi::xml_node Styles::AlignmentOf(std::uint32_t style) const {
+  return style < cellStyles_.size() ? xml::Child(cellStyles_[style].node, "alignment") : pugi::xml_node();
+}
+
 pugi::xml_node Styles::NormalFont() const {
-  const auto at = [&](std::string_view list, std::string_view local, long long index) {
-    const auto found = Listed(Root(), list, local);
-    const bool known = index >= 0 && index < static_cast<long long>(found.size());
-    return known ? found[static_cast<std::size_t>(index)] : pugi::xml_node();
-  };
   long long format = 0;
   for (const pugi::xml_node& style : Listed(Root(), "cellStyles", "cellStyle")) {
     if (xml::IntegerAttribute(style, "builtinId", -1) == 0) format = xml::IntegerAttribute(style, "xfId", 0);
   }
   const pugi::xml_node font =
-      at("fonts", "font", xml::IntegerAttribute(at("cellStyleXfs", "xf", format), "fontId", 0));
-  return font ? font : at("fonts", "font", 0);
+      EntryAt("fonts", "font", xml::IntegerAttribute(EntryAt("cellStyleXfs", "xf", format), "fontId", 0));
+  return font ? font : EntryAt("fonts", "font", 0);
 }
 
 std::string Styles::NormalFontName() const {

@@ -29,6 +29,14 @@ class Styles {
   /// The style that is like `base` but has the number format, made if need be. The code must be valid.
   std::uint32_t WithFormat(std::uint32_t base, std::string_view code);
 
+  /// The elements that say how a cell of a style looks (CT_Font, CT_Fill, CT_CellAlignment); null nodes where
+  /// there are none.
+  ///@{
+  pugi::xml_node FontOf(std::uint32_t style) const;
+  pugi::xml_node FillOf(std::uint32_t style) const;
+  pugi::xml_node AlignmentOf(std::uint32_t style) const;
+  ///@}
+
   /// Entry 1 to 56 of the palette, as red + 256 * green + 65536 * blue.
   std::int32_t PaletteColor(std::int32_t index) const;
   void SetPaletteColor(std::int32_t index, std::int32_t color);
@@ -58,6 +66,8 @@ class Styles {
 
   pugi::xml_node Root() const;
   pugi::xml_node NormalFont() const;
+  /// An entry of one of the part's lists, from 0; a null node outside.
+  pugi::xml_node EntryAt(std::string_view list, std::string_view local, long long index) const;
   std::string CodeOf(int formatId) const;
   int FormatId(std::string_view code);
   void Load();

@@ -1,0 +1,50 @@
+#include "qt/book/SheetAccessible.h"
+
+#include <QtGui/QAccessible>
+#include <QtWidgets/QAccessibleWidget>
+
+#include "qt/book/SheetView.h"
+#include "qt/book/Texts.h"
+
+namespace plotsmith::qtbook {
+namespace {
+
+class SheetAccessible final : public QAccessibleWidget {
+ public:
+  explicit SheetAccessible(SheetView* view) : QAccessibleWidget(view, QAccessible::Table), view_(view) {}
+
+  /// The name is the widget's accessible name; the value is such as "B3: 1,200".
+  QString text(QAccessible::Text kind) const override {
+    if (kind != QAccessible::Value) return QAccessibleWidget::text(kind);
+    const xlsx::CellPlace cell = view_->ActiveCell();
+    const QString address = ToQString(xlsx::CellAddress(cell.row, cell.column, false));
+    const QString shown = view_->ActiveText();
+    return shown.isEmpty() ? address : address + QStringLiteral(": ") + shown;
+  }
+
+ private:
+  SheetView* view_;
+};
+
+QAccessibleInterface* MakeSheetAccessible(const QString&, QObject* object) {
+  auto* view = dynamic_cast<SheetView*>(object);
+  return view == nullptr ? nullptr : new SheetAccessible(view);
+}
+
+}  // namespace
+
+void InstallSheetAccessible() {
+  static const bool installed = [] {
+    QAccessible::installFactory(MakeSheetAccessible);
+    return true;
+  }();
+  static_cast<void>(installed);
+}
+
+void ReportActiveCell(SheetView& view) {
+  if (!QAccessible::isActive()) return;
+  QAccessibleValueChangeEvent event(&view, QVariant());
+  QAccessible::updateAccessibility(&event);
+}
+
+}  // namespace plotsmith::qtbook
