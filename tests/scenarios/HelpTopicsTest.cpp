@@ -65,9 +65,9 @@ S TextOf(const pugi::xml_node& node) {
 /// A file of the help.
 struct HelpFile {
   pugi::xml_document document;
-  S text;                  ///< all of its words
-  std::set<S> emphasised;  ///< texts of headings, bold words and code
-  std::set<S> cells;       ///< texts of table cells
+  S text;                 ///< all of its words
+  std::set<S> described;  ///< texts of headings, of first cells and list entries, and code in cells
+  std::set<S> cells;      ///< texts of table cells
 };
 
 HelpFile Read(const S& name) {
@@ -76,10 +76,8 @@ HelpFile Read(const S& name) {
       file.document.load_file((kHelp / name).c_str(), pugi::parse_full | pugi::parse_ws_pcdata);
   EXPECT_TRUE(result) << name << ": " << result.description() << " at " << result.offset;
   file.text = TextOf(file.document.child("html").child("body"));
-  for (const char* tag : {"h3", "b", "code"}) {
-    for (const auto& node : file.document.select_nodes((S("//") + tag).c_str()))
-      file.emphasised.insert(TextOf(node.node()));
-  }
+  for (const auto& node : file.document.select_nodes("//h3 | //td[1]/b | //li/b[1] | //td/code"))
+    file.described.insert(TextOf(node.node()));
   for (const auto& node : file.document.select_nodes("//td")) file.cells.insert(TextOf(node.node()));
   return file;
 }
@@ -245,7 +243,7 @@ TEST_F(HelpTopicsTest, EachTopicNamesTheControlsAndTheMessagesOfItsPage) {
     const HelpFile help = Read(fileOf.at(topic));
     helpOfForm[page.form] += help.text + "\n";
     EXPECT_NE(help.text.find("\"" + page.caption + "\""), S::npos) << page.caption;
-    for (const S& caption : page.captions) EXPECT_TRUE(help.emphasised.contains(caption)) << caption;
+    for (const S& caption : page.captions) EXPECT_TRUE(help.described.contains(caption)) << caption;
     for (const S& message : page.messages) EXPECT_TRUE(help.cells.contains(message)) << message;
     EXPECT_EQ(page.messages.size(), messageCounts.at(topic));
     EXPECT_NE(help.text.find("F1"), S::npos);
