@@ -1,5 +1,6 @@
 #include "qt/help/HelpWindow.h"
 
+#include <QtCore/QUrl>
 #include <QtGui/QAction>
 #include <QtGui/QKeySequence>
 #include <QtWidgets/QListWidget>
@@ -47,7 +48,8 @@ HelpWindow::HelpWindow(const QString& folder, QWidget* parent)
   setCentralWidget(splitter);
   FillTopics();
   MakeActions();
-  connect(browser_, &QTextBrowser::sourceChanged, this, [this] { PageChanged(); });
+  connect(browser_, &QTextBrowser::sourceChanged, this,
+          [this](const QUrl& address) { PageChanged(address); });
   resize(kWidth, kHeight);
 }
 
@@ -144,8 +146,8 @@ void HelpWindow::BringToFront() {
   browser_->setFocus(Qt::OtherFocusReason);
 }
 
-void HelpWindow::PageChanged() {
-  const QString file = browser_->source().fileName();
+void HelpWindow::PageChanged(const QUrl& address) {
+  const QString file = address.fileName();
   const auto topic = std::find_if(topics_.begin(), topics_.end(),
                                   [&file](const HelpTopic& each) { return each.file == file; });
   const QSignalBlocker blocker(list_);

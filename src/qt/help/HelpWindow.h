@@ -9,6 +9,7 @@
 
 class QAction;
 class QListWidget;
+class QUrl;
 
 namespace plotsmith::qt {
 
@@ -38,8 +39,8 @@ class HelpWindow final : public QMainWindow {
   void FillTopics();
   void ShowFile(const QString& file);
   void BringToFront();
-  /// The title and the entry of the list follow the page that is read.
-  void PageChanged();
+  /// Another page is read: the title and the entry of the list follow.
+  void PageChanged(const QUrl& address);
 
   std::vector<HelpTopic> topics_;
   HelpBrowser* browser_;
