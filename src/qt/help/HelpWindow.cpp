@@ -1,0 +1,159 @@
+#include "qt/help/HelpWindow.h"
+
+#include <QtCore/QUrl>
+#include <QtGui/QAction>
+#include <QtGui/QKeySequence>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QSplitter>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QToolBar>
+#include <QtWidgets/QVBoxLayout>
+#include <algorithm>
+
+#include "qt/help/FindBar.h"
+#include "qt/help/HelpBrowser.h"
+
+namespace plotsmith::qt {
+namespace {
+
+constexpr const char* kTitle = "Plotsmith Help";
+constexpr const char* kFirstPage = "index.html";
+constexpr int kWidth = 900, kHeight = 680, kListWidth = 230;  // pixels at scale 1
+
+}  // namespace
+
+HelpWindow::HelpWindow(const QString& folder, QWidget* parent)
+    : QMainWindow(parent, Qt::Window),
+      topics_(ReadHelpTopics(folder)),
+      browser_(new HelpBrowser(folder)),
+      list_(new QListWidget),
+      findBar_(new FindBar(*browser_)) {
+  setWindowModality(Qt::NonModal);
+  setAttribute(Qt::WA_QuitOnClose, false);
+  setWindowTitle(kTitle);
+  browser_->setObjectName("helpText");
+  list_->setObjectName("topicList");
+  list_->setAccessibleName("Topics");
+  auto* const reading = new QWidget;
+  auto* const column = new QVBoxLayout(reading);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(browser_, 1);
+  column->addWidget(findBar_);
+  auto* const splitter = new QSplitter;
+  splitter->addWidget(list_);
+  splitter->addWidget(reading);
+  splitter->setStretchFactor(1, 1);
+  splitter->setSizes({kListWidth, kWidth - kListWidth});
+  setCentralWidget(splitter);
+  FillTopics();
+  MakeActions();
+  connect(browser_, &QTextBrowser::sourceChanged, this,
+          [this](const QUrl& address) { PageChanged(address); });
+  resize(kWidth, kHeight);
+}
+
+QAction* HelpWindow::MakeAction(const char* name, const QString& text, const QList<QKeySequence>& keys) {
+  auto* const action = new QAction(text, this);
+  action->setObjectName(name);
+  action->setShortcuts(keys);
+  if (!keys.isEmpty()) {
+    action->setToolTip(
+        QString("%1 (%2)").arg(text, keys.first().toString(QKeySequence::NativeText)).remove('&'));
+  }
+  addAction(action);
+  return action;
+}
+
+void HelpWindow::MakeActions() {
+  QAction* const back = MakeAction("back", "&Back", QKeySequence::keyBindings(QKeySequence::Back));
+  QAction* const forward =
+      MakeAction("forward", "For&ward", QKeySequence::keyBindings(QKeySequence::Forward));
+  QAction* const home = MakeAction("home", "&Home", {QKeySequence("Alt+Home")});
+  QAction* const topics = MakeAction("topics", "&Topics", {QKeySequence("Ctrl+T")});
+  QAction* const find = MakeAction("find", "&Find", {QKeySequence(QKeySequence::Find)});
+  QAction* const findNext = MakeAction("findNext", "Find next", {QKeySequence("F3")});
+  QAction* const findPrevious = MakeAction("findPrevious", "Find previous", {QKeySequence("Shift+F3")});
+  QAction* const larger =
+      MakeAction("larger", "Larger text", {QKeySequence(QKeySequence::ZoomIn), QKeySequence("Ctrl+=")});
+  QAction* const smaller = MakeAction("smaller", "Smaller text", {QKeySequence(QKeySequence::ZoomOut)});
+  QAction* const close = MakeAction("close", "Close", {QKeySequence("Esc"), QKeySequence("Ctrl+W")});
+  back->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
+  forward->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
+  home->setIcon(style()->standardIcon(QStyle::SP_DirHomeIcon));
+  back->setEnabled(false);
+  forward->setEnabled(false);
+  topics->setCheckable(true);
+  topics->setChecked(true);
+
+  connect(back, &QAction::triggered, browser_, &QTextBrowser::backward);
+  connect(forward, &QAction::triggered, browser_, &QTextBrowser::forward);
+  connect(browser_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+  connect(browser_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+  connect(home, &QAction::triggered, this, [this] { ShowFile(kFirstPage); });
+  connect(topics, &QAction::toggled, list_, &QWidget::setVisible);
+  connect(find, &QAction::triggered, this, [this] { findBar_->Open(); });
+  connect(findNext, &QAction::triggered, this, [this] { findBar_->FindNext(); });
+  connect(findPrevious, &QAction::triggered, this, [this] { findBar_->FindPrevious(); });
+  connect(larger, &QAction::triggered, this, [this] { browser_->zoomIn(); });
+  connect(smaller, &QAction::triggered, this, [this] { browser_->zoomOut(); });
+  connect(close, &QAction::triggered, this, [this] {
+    if (findBar_->isVisible()) {
+      findBar_->Close();
+    } else {
+      QWidget::close();
+    }
+  });
+
+  QToolBar* const bar = addToolBar("Help");
+  bar->setObjectName("helpBar");
+  bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  bar->setMovable(false);
+  bar->setContextMenuPolicy(Qt::PreventContextMenu);  // a hidden bar couldn't be had back
+  bar->addActions({back, forward, home, topics, find});
+}
+
+void HelpWindow::FillTopics() {
+  for (const HelpTopic& topic : topics_) list_->addItem(topic.title);
+  connect(list_, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (row >= 0) ShowFile(topics_[static_cast<std::size_t>(row)].file);
+  });
+}
+
+void HelpWindow::ShowTopic(std::int32_t number) {
+  const auto topic = std::find_if(topics_.begin(), topics_.end(),
+                                  [number](const HelpTopic& each) { return each.number == number; });
+  if (topic == topics_.end()) {
+    browser_->setSource(HelpBrowser::AddressOfUnknownTopic(number));
+  } else {
+    ShowFile(topic->file);
+  }
+  BringToFront();
+}
+
+void HelpWindow::ShowFirstPage() {
+  ShowFile(kFirstPage);
+  BringToFront();
+}
+
+void HelpWindow::ShowFile(const QString& file) { browser_->setSource(browser_->AddressOf(file)); }
+
+void HelpWindow::BringToFront() {
+  if (isMinimized()) showNormal();
+  show();
+  raise();
+  activateWindow();
+  browser_->setFocus(Qt::OtherFocusReason);
+}
+
+void HelpWindow::PageChanged(const QUrl& address) {
+  const QString file = address.fileName();
+  const auto topic = std::find_if(topics_.begin(), topics_.end(),
+                                  [&file](const HelpTopic& each) { return each.file == file; });
+  const QSignalBlocker blocker(list_);
+  const bool isKnown = topic != topics_.end();
+  list_->setCurrentRow(isKnown ? static_cast<int>(topic - topics_.begin()) : -1);
+  setWindowTitle(isKnown && file != kFirstPage ? topic->title + " - " + kTitle : QString(kTitle));
+}
+
+}  // namespace plotsmith::qt
