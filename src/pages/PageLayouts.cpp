@@ -61,8 +61,8 @@ Layout StackOf(const PictureGroup& oPictures) {
 Layout StackOf(const LegendPictures& oLegend) { return StackOf(oLegend.Pictures()); }
 
 Layout GridOf(const AxisBoxes& oAxes) {
-  return Grid(2, {Item(oAxes.lblHAxis), Item(oAxes.txtHAxis).Stretch(1), Item(oAxes.lblVAxis),
-                  Item(oAxes.txtVAxis)});
+  return Grid(
+      2, {Item(oAxes.lblHAxis), Item(oAxes.txtHAxis).Stretch(1), Item(oAxes.lblVAxis), Item(oAxes.txtVAxis)});
 }
 
 Layout GridOf(const NumberFormatBox& oBox) {
@@ -126,12 +126,12 @@ Layout frmPSLayoutPie::Layout() const {
                    Framed(Frame2, Row({ColumnList(lstCategories), Item(imgLegend)})).Stretch(1)});
   };
   const auto oLook = [this] {
-    return Column({StackOf(Pictures).Stretch(2),
-                   Framed(Frame5, Column({Row({Item(optDataLabels0), Item(optDataLabels1),
-                                               Item(optDataLabels2), Space()}),
-                                          GridOf(NumberFormat)})),
-                   Framed(Frame6, Row({Item(chk3D), Item(chkExploded), Space()})),
-                   plotsmith::Framed(Comment)});
+    return Column(
+        {StackOf(Pictures).Stretch(2),
+         Framed(Frame5,
+                Column({Row({Item(optDataLabels0), Item(optDataLabels1), Item(optDataLabels2), Space()}),
+                        GridOf(NumberFormat)})),
+         Framed(Frame6, Row({Item(chk3D), Item(chkExploded), Space()})), plotsmith::Framed(Comment)});
   };
   return WithButtons(Row({oData().Stretch(1), oLook().Stretch(1)}), Buttons);
 }
@@ -146,8 +146,7 @@ Layout frmPSLayoutBubble::Layout() const {
   const auto oLook = [this] {
     return Column(
         {StackOf(Pictures).Stretch(2), Framed(Frame5, GridOf(Axes)),
-         Framed(Frame6,
-                Grid(2, {Item(chk3D), Item(chkQuadrants), Item(chkScaleXAxis), Item(chkScaleYAxis)})),
+         Framed(Frame6, Grid(2, {Item(chk3D), Item(chkQuadrants), Item(chkScaleXAxis), Item(chkScaleYAxis)})),
          plotsmith::Framed(Comment)});
   };
   return WithButtons(Row({oData().Stretch(1), oLook().Stretch(1)}), Buttons);
@@ -160,8 +159,7 @@ Layout frmPSLayoutStrBuck::Layout() const {
          Framed(Frame2, Column({ColumnBox(cboBucketTables),
                                 Item(grdBuckets).AtLeast(kColumnNameWidth, kListLines).Stretch(1)}))
              .Stretch(1),
-         Framed(Frame3, ColumnBox(cboCategories)),
-         Framed(Frame4, BesideLegend(ColumnBox(cboSeries), Legend)),
+         Framed(Frame3, ColumnBox(cboCategories)), Framed(Frame4, BesideLegend(ColumnBox(cboSeries), Legend)),
          Framed(Frame6, Column({ColumnBox(cboBlockSequence),
                                 Row({Item(optBlockSequence0), Item(optBlockSequence1), Space()})}))});
   };
@@ -175,15 +173,13 @@ Layout frmPSLayoutStrBuck::Layout() const {
 
 Layout frmPSChartLocation::Layout() const {
   return WithButtons(
-      Column({Framed(Frame1, Column({Grid(2, {Item(optTargetSheet0), Item(txtSheet).AtLeast(40, 0).Stretch(1),
-                                              Item(optTargetSheet1), Item(cboSheet), Item(lblName),
-                                              Item(txtName)})})),
+      Column({Framed(Frame1, Column({Grid(
+                                 2, {Item(optTargetSheet0), Item(txtSheet).AtLeast(40, 0).Stretch(1),
+                                     Item(optTargetSheet1), Item(cboSheet), Item(lblName), Item(txtName)})})),
               Space()}),
       Buttons);
 }
 
-Layout frmBusyPS::Layout() const {
-  return Column({Item(WaitLabel), Item(ProgressBar1).AtLeast(40, 0)});
-}
+Layout frmBusyPS::Layout() const { return Column({Item(WaitLabel), Item(ProgressBar1).AtLeast(40, 0)}); }
 
 }  // namespace plotsmith

@@ -150,8 +150,8 @@ S PagesTest::Play(const S& script) {
   helpTopics_.clear();
   PageLines lines(script);
   Hands hands = MakeHands();
-  const auto player = std::make_shared<forms::ScriptPlayer>(lines, [](const forms::FormState&) {},
-                                                            std::move(hands.hand));
+  const auto player = std::make_shared<forms::ScriptPlayer>(
+      lines, [](const forms::FormState&) {}, std::move(hands.hand));
   StartSystem(std::make_shared<PagesDesktop>(player, helpTopics_), hands.viewOf(player));
   CPlotsmithController().RunPlotsmith(host_, "Test", "");
   player->PlayRest();

@@ -6,7 +6,8 @@ CommandButtonView::CommandButtonView(forms::CommandButton& model, QWidget* paren
     : ControlView(model, post), model_(model), button_(new QPushButton(parent)) {
   button_->setAutoDefault(false);
   button_->setFocusPolicy(Qt::StrongFocus);
-  QObject::connect(button_, &QPushButton::clicked, button_, [this] { Report([this] { model_.UserPress(); }); });
+  QObject::connect(button_, &QPushButton::clicked, button_,
+                   [this] { Report([this] { model_.UserPress(); }); });
   Dress();
 }
 
@@ -18,9 +19,8 @@ void CommandButtonView::Show() {
 CheckBoxView::CheckBoxView(forms::CheckBox& model, QWidget* parent, const Post& post)
     : ControlView(model, post), model_(model), box_(new QCheckBox(parent)) {
   box_->setFocusPolicy(Qt::StrongFocus);
-  QObject::connect(box_, &QCheckBox::clicked, box_, [this](bool checked) {
-    Report([this, checked] { model_.UserToggle(checked); });
-  });
+  QObject::connect(box_, &QCheckBox::clicked, box_,
+                   [this](bool checked) { Report([this, checked] { model_.UserToggle(checked); }); });
   Dress();
 }
 

@@ -80,8 +80,8 @@ void ControlView::Update() {
   Show();
 }
 
-// The model knows three colours: that of a button's face, that of tool tips, and white for what can be edited.
-// Each is a role of the palette, so that they follow a dark theme or one of high contrast.
+// The model knows three colours: that of a button's face, that of tool tips, and white for what can be
+// edited. Each is a role of the palette, so that they follow a dark theme or one of high contrast.
 void ControlView::ShowColors() {
   QWidget& widget = Widget();
   const bool isMarked = model_.BackColor() == forms::kToolTipBackground;

@@ -9,8 +9,8 @@
 
 #include "forms/Control.h"
 
-/// Windows for forms, on Qt Widgets. A view shows the state of the model and reports what hands do. It decides
-/// nothing: the model refuses a gesture or performs it, and the view then shows what came of it.
+/// Windows for forms, on Qt Widgets. A view shows the state of the model and reports what hands do. It
+/// decides nothing: the model refuses a gesture or performs it, and the view then shows what came of it.
 namespace plotsmith::qt {
 
 /// Takes a gesture down. It is performed later, outside of Qt's callbacks.

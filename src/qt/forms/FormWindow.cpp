@@ -141,7 +141,8 @@ bool FormWindow::eventFilter(QObject* object, QEvent* event) {
       return TakeKey(static_cast<QWidget&>(*object), static_cast<QKeyEvent&>(*event));
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-      return qobject_cast<QPushButton*>(object) != nullptr && IsSecondPress(static_cast<QMouseEvent&>(*event));
+      return qobject_cast<QPushButton*>(object) != nullptr &&
+             IsSecondPress(static_cast<QMouseEvent&>(*event));
     default:
       return false;
   }

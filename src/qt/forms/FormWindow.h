@@ -25,8 +25,8 @@ struct LastPress {
 /// The window of a form.
 class FormWindow final : public QWidget {
  public:
-  /// `owner` is the window that this one stays in front of; null if there is none. `lastPress` is shared by all
-  /// windows, and outlives them.
+  /// `owner` is the window that this one stays in front of; null if there is none. `lastPress` is shared by
+  /// all windows, and outlives them.
   FormWindow(forms::Form& form, QWidget* owner, Post post, LastPress& lastPress);
   ~FormWindow() override;
 

@@ -92,7 +92,8 @@ class Builder {
   }
 
   static bool HasLines(const Layout& layout) {
-    return std::any_of(layout.parts.begin(), layout.parts.end(), [](const Layout& part) { return part.lines > 0; });
+    return std::any_of(layout.parts.begin(), layout.parts.end(),
+                       [](const Layout& part) { return part.lines > 0; });
   }
 
   static void SetLeastSize(QWidget& widget, const Layout& part) {

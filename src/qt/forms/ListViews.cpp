@@ -37,16 +37,16 @@ ComboBoxView::ComboBoxView(forms::ComboBox& model, QWidget* parent, const Post& 
       Report([this, text] { model_.UserType(TextOf(OneLine(text))); });
     });
   }
-  QObject::connect(box_, &QComboBox::activated, box_, [this](int entry) {
-    Report([this, entry] { model_.UserChoose(entry); });
-  });
+  QObject::connect(box_, &QComboBox::activated, box_,
+                   [this](int entry) { Report([this, entry] { model_.UserChoose(entry); }); });
   Dress();
 }
 
 void ComboBoxView::Show() {
   const QSignalBlocker blocker(box_);
   const QStringList entries = EntriesOf(model_);
-  if (ShownEntries<QComboBox>(*box_, [](const QComboBox& box, int i) { return box.itemText(i); }) != entries) {
+  if (ShownEntries<QComboBox>(*box_, [](const QComboBox& box, int i) { return box.itemText(i); }) !=
+      entries) {
     box_->clear();
     box_->addItems(entries);
   }
@@ -76,8 +76,8 @@ void ListBoxView::ReportSelection() {
 void ListBoxView::Show() {
   const QSignalBlocker blocker(list_);
   const QStringList entries = EntriesOf(model_);
-  if (ShownEntries<QListWidget>(*list_, [](const QListWidget& list, int i) { return list.item(i)->text(); }) !=
-      entries) {
+  if (ShownEntries<QListWidget>(
+          *list_, [](const QListWidget& list, int i) { return list.item(i)->text(); }) != entries) {
     list_->clear();
     list_->addItems(entries);
   }

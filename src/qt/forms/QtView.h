@@ -20,6 +20,7 @@ class QtView final : public forms::View {
   void Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) override;
   void HandleEvents(forms::EventQueue& queue) override;
 
+  void SetOwner(QWidget* owner) { owner_ = owner; }
   /// Called each time when the forms have been shown, for a window that shows something else beside them.
   std::function<void()> Shown = [] {};
 

@@ -34,8 +34,9 @@ class LineView final : public ControlView {
       edit_->setText(text);
       edit_->setCursorPosition(cursor);
     }
-    edit_->setAlignment(model_.Alignment() == forms::Alignment::kCenter ? Qt::AlignCenter
-                                                                        : Qt::AlignLeading | Qt::AlignVCenter);
+    edit_->setAlignment(model_.Alignment() == forms::Alignment::kCenter
+                            ? Qt::AlignCenter
+                            : Qt::AlignLeading | Qt::AlignVCenter);
   }
 
  private:

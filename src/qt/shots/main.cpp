@@ -11,8 +11,9 @@
 #include "qt/forms/QtView.h"
 
 /// @file
-/// Takes pictures of the wizard's pages for the documents: plotsmith_wizard_shots BOOK FOLDER SUFFIX LOOK < SCRIPT.
-/// A script has one line more here, "shot NAME", which writes FOLDER/NAME + SUFFIX.png. LOOK is light or dark.
+/// Takes pictures of the wizard's pages for the documents: plotsmith_wizard_shots BOOK FOLDER SUFFIX LOOK <
+/// SCRIPT. A script has one line more here, "shot NAME", which writes FOLDER/NAME + SUFFIX.png. LOOK is light
+/// or dark.
 namespace plotsmith {
 namespace {
 
@@ -36,8 +37,8 @@ class ShotLines final : public forms::LineSource {
     if (!std::getline(std::cin, line)) return std::nullopt;
     if (!line.starts_with(kShot)) return line;
     QApplication::processEvents();
-    windows_.Front()->grab().save(folder_ + '/' + QString::fromStdString(line.substr(kShot.size())) + suffix_ +
-                                  ".png");
+    windows_.Front()->grab().save(folder_ + '/' + QString::fromStdString(line.substr(kShot.size())) +
+                                  suffix_ + ".png");
     return "";
   }
 

@@ -28,7 +28,8 @@ void ClickRows(QAbstractItemView& view, const std::vector<int>& rows) {
   const auto click = [&](const QModelIndex& index, Qt::KeyboardModifiers modifiers) {
     view.scrollTo(index);
     const QRect place = view.visualRect(index);
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, place.intersected(view.viewport()->rect()).center());
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers,
+                      place.intersected(view.viewport()->rect()).center());
   };
   if (rows.empty()) {
     view.setFocus(Qt::TabFocusReason);
@@ -82,7 +83,8 @@ void QtHand::DoubleClickRow(forms::EventQueue& queue, forms::VSFlexGrid& grid, s
   view_.PostTo(queue);
 }
 
-void QtHand::SelectEntries(forms::EventQueue& queue, forms::ListBox& list, std::vector<std::int32_t> entries) {
+void QtHand::SelectEntries(forms::EventQueue& queue, forms::ListBox& list,
+                           std::vector<std::int32_t> entries) {
   ClickRows(Find<QListWidget>(list), entries);
   view_.PostTo(queue);
 }

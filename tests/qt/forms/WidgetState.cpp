@@ -48,8 +48,7 @@ void Read(const QTableWidget& table, ControlState& state) {
   }
   for (int row = 0; row < table.rowCount(); ++row) {
     auto& cells = state.rows->emplace_back();
-    for (int col = 0; col < table.columnCount(); ++col)
-      cells.push_back(TextOf(table.item(row, col)->text()));
+    for (int col = 0; col < table.columnCount(); ++col) cells.push_back(TextOf(table.item(row, col)->text()));
     if (table.selectionModel()->isRowSelected(row)) state.selected->push_back(row + state.fixedRows);
   }
 }
@@ -61,9 +60,8 @@ ControlState Read(const QWidget& widget) {
   state.enabled = widget.isEnabled();
   state.visible = widget.isVisible();
   state.focus = widget.window()->focusWidget() == &widget;
-  state.backColor = widget.backgroundRole() == QPalette::ToolTipBase
-                        ? forms::kToolTipBackground
-                        : forms::kButtonFace;
+  state.backColor =
+      widget.backgroundRole() == QPalette::ToolTipBase ? forms::kToolTipBackground : forms::kButtonFace;
   if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
     state.caption = TextOf(button->text());
     if (button->isCheckable()) state.value = button->isChecked();

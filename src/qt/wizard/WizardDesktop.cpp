@@ -1,0 +1,52 @@
+#include "qt/wizard/WizardDesktop.h"
+
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QMessageBox>
+#include <utility>
+
+#include "common/PSConstants.h"
+#include "forms/TextBox.h"
+#include "qt/help/HelpWindow.h"
+#include "qt/wizard/EventLoop.h"
+
+namespace plotsmith::qt {
+
+WizardDesktop::WizardDesktop(std::shared_ptr<QtView> pages) : pages_(std::move(pages)) {}
+WizardDesktop::~WizardDesktop() = default;
+
+QWidget* WizardDesktop::Owner() const {
+  QWidget* const page = pages_->Front();
+  return page != nullptr && page->isVisible() ? page : owner_;
+}
+
+std::int32_t WizardDesktop::MsgBox(std::string_view text, desktop::Buttons buttons, desktop::Icon icon,
+                                   std::string_view title) {
+  QMessageBox box(Owner());
+  box.setWindowTitle(TextOf(title.empty() ? std::string_view(kProductTitle) : title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(TextOf(forms::WithLineEnds(text, "\n")));
+  box.setIcon(icon == desktop::Icon::kCritical ? QMessageBox::Critical : QMessageBox::NoIcon);
+  const bool isQuestion = buttons == desktop::Buttons::kOkCancel;
+  box.setStandardButtons(isQuestion ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
+  box.setDefaultButton(QMessageBox::Ok);
+  const bool isOk = RunDialog(box) == QMessageBox::Ok;
+  confirmed_ = confirmed_ || (isQuestion && isOk);
+  return isOk || !isQuestion ? desktop::kOk : desktop::kCancel;
+}
+
+HelpWindow& WizardDesktop::Help() {
+  if (help_ == nullptr) help_ = std::make_unique<HelpWindow>();
+  return *help_;
+}
+
+void WizardDesktop::ShowHelp(std::intptr_t, const std::string&, std::int32_t topic) {
+  Help().ShowTopic(topic);
+}
+
+void WizardDesktop::SetMousePointer(std::int32_t pointer) {
+  const bool isWaiting = QApplication::overrideCursor() != nullptr;
+  if (pointer == desktop::kPointerHourglass && !isWaiting) QApplication::setOverrideCursor(Qt::WaitCursor);
+  if (pointer == desktop::kPointerDefault && isWaiting) QApplication::restoreOverrideCursor();
+}
+
+}  // namespace plotsmith::qt

@@ -1,0 +1,135 @@
+#include "qt/wizard/WizardProgram.h"
+
+#include <QtCore/QFileInfo>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QMessageBox>
+#include <utility>
+
+#include "common/PSConstants.h"
+#include "controller/CPlotsmithController.h"
+#include "qt/book/BookView.h"
+#include "qt/help/HelpWindow.h"
+#include "qt/wizard/EventLoop.h"
+
+namespace plotsmith::qt {
+namespace {
+
+constexpr const char* kWorkbooks = "Workbooks (*.xlsx *.xlsm)";
+
+}  // namespace
+
+void Tell(QWidget* owner, const std::string& sentence, const cli::Streams& streams) {
+  streams.err << "plotsmith-wizard: " << sentence << '\n';
+  QMessageBox box(QMessageBox::Critical, TextOf(std::string_view(kProductTitle)), TextOf(sentence),
+                  QMessageBox::Ok, owner);
+  box.setTextFormat(Qt::PlainText);
+  RunDialog(box);
+}
+
+WizardProgram::WizardProgram(WizardOptions options, const cli::Streams& streams)
+    : options_(std::move(options)),
+      pages_(std::make_shared<QtView>()),
+      desktop_(std::make_shared<WizardDesktop>(pages_)),
+      session_(options_.book, options_.global, streams, desktop_, pages_),
+      streams_(streams) {
+  session_.CheckWritable(options_.output);
+  window_ = std::make_unique<WizardWindow>(session_.Host(), QFileInfo(TextOf(options_.book)).fileName());
+  pages_->SetOwner(window_.get());
+  desktop_->SetOwner(window_.get());
+  pages_->Shown = [this] { window_->Book().Update(); };
+  window_->CloseAsked = [this] {
+    closing_ = true;
+    pages_->CloseFront();
+  };
+  window_->HelpAsked = [this] { desktop_->Help().ShowFirstPage(); };
+}
+
+int WizardProgram::Run() {
+  window_->show();
+  while (RunPages() && Finish() == Next::kRunAgain && !closing_) {
+  }
+  return cli::exit_code::kDone;
+}
+
+bool WizardProgram::RunPages() {
+  chartsBefore_ = session_.ChartsStarted();
+  desktop_->Forget();
+  CPlotsmithController().RunPlotsmith(session_.Host(), cli::kHostName, "");
+  window_->Book().Update();
+  return session_.ChartsStarted() > chartsBefore_ || desktop_->Confirmed();
+}
+
+QString WizardProgram::Outcome() const {
+  const int built = session_.ChartsStarted() - chartsBefore_;
+  if (built == 0) return QStringLiteral("What you chose was deleted.");
+  const QString what =
+      built == 1 ? QStringLiteral("The chart is built.") : QStringLiteral("%1 charts are built.").arg(built);
+  return desktop_->Confirmed() ? what + QStringLiteral(" What you chose was deleted.") : what;
+}
+
+WizardProgram::Next WizardProgram::Finish() {
+  if (options_.output) {
+    if (const auto next = SaveTo(options_.output)) return *next;
+  }
+  for (;;) {
+    if (const auto next = closing_ ? AskBeforeClosing() : AskToSave(Outcome())) return *next;
+  }
+}
+
+std::optional<WizardProgram::Next> WizardProgram::AskToSave(const QString& outcome) {
+  const QString text = outcome + QStringLiteral(" \"%1\" isn't saved yet.").arg(TextOf(options_.book));
+  switch (window_->Ask(
+      text, {QStringLiteral("&Save"), QStringLiteral("Save &As..."), QStringLiteral("&Discard")})) {
+    case 0:
+      return SaveTo(std::nullopt);
+    case 1:
+      return SaveAs();
+    case 2:
+      return Next::kQuit;
+    default:
+      return AskBeforeClosing();
+  }
+}
+
+std::optional<WizardProgram::Next> WizardProgram::AskBeforeClosing() {
+  closing_ = true;
+  QMessageBox box(QMessageBox::Question, TextOf(std::string_view(kProductTitle)),
+                  QStringLiteral("Save the changes to \"%1\"?").arg(TextOf(options_.book)),
+                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, window_.get());
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(QMessageBox::Save);
+  const int answer = RunDialog(box);
+  if (answer == QMessageBox::Save) {
+    if (const auto next = SaveTo(std::nullopt)) return next;
+  } else if (answer == QMessageBox::Discard) {
+    return Next::kQuit;
+  }
+  closing_ = false;
+  return std::nullopt;
+}
+
+std::optional<WizardProgram::Next> WizardProgram::SaveAs() {
+  QFileDialog dialog(window_.get(), QStringLiteral("Save As"), TextOf(options_.book),
+                     QString::fromLatin1(kWorkbooks));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QFileInfo(TextOf(options_.book)).suffix());
+  if (RunDialog(dialog) != QDialog::Accepted) return std::nullopt;
+  return SaveTo(TextOf(dialog.selectedFiles().front()));
+}
+
+std::optional<WizardProgram::Next> WizardProgram::SaveTo(const std::optional<std::string>& output) {
+  try {
+    session_.CheckWritable(output);
+    session_.Save(output);
+  } catch (const cli::CommandError& e) {
+    Tell(window_.get(), e.what(), streams_);
+    return std::nullopt;
+  }
+  if (closing_) return Next::kQuit;
+  const QString saved =
+      Outcome() + QStringLiteral(" Saved in \"%1\".").arg(TextOf(output.value_or(options_.book)));
+  const int answer = window_->Ask(saved, {QStringLiteral("&Close"), QStringLiteral("Chart &Wizard...")});
+  return answer == 1 ? Next::kRunAgain : Next::kQuit;
+}
+
+}  // namespace plotsmith::qt

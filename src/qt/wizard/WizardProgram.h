@@ -1,0 +1,60 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "cli/Command.h"
+#include "cli/Session.h"
+#include "qt/forms/QtView.h"
+#include "qt/wizard/WizardDesktop.h"
+#include "qt/wizard/WizardWindow.h"
+
+namespace plotsmith::qt {
+
+/// What the wizard is started with.
+struct WizardOptions {
+  std::string book;
+  std::optional<std::string> output;  ///< absent: the person is asked when there is something to save
+  cli::GlobalOptions global;
+};
+
+/// The wizard on one workbook: its window, the pages in front of it, and what becomes of the work. The file
+/// is written only when the person says so.
+class WizardProgram {
+ public:
+  /// Throws a CommandError where the workbook can't be opened, or where another program has it open.
+  WizardProgram(WizardOptions options, const cli::Streams& streams);
+
+  /// Until the person is done. Answers an exit code.
+  int Run();
+
+ private:
+  /// How the work on a workbook goes on.
+  enum class Next { kRunAgain, kQuit };
+
+  /// Goes through the pages; true if a chart was built or deleted.
+  bool RunPages();
+  Next Finish();
+  /// Asks Save, Save As or Discard; absent where the person goes back to the window.
+  std::optional<Next> AskToSave(const QString& outcome);
+  std::optional<Next> AskBeforeClosing();
+  std::optional<Next> SaveAs();
+  /// Saves, and asks what is next. Absent where that failed, which the person was told.
+  std::optional<Next> SaveTo(const std::optional<std::string>& output);
+  QString Outcome() const;
+
+  WizardOptions options_;
+  std::shared_ptr<QtView> pages_;
+  std::shared_ptr<WizardDesktop> desktop_;
+  cli::Session session_;
+  cli::Streams streams_;
+  std::unique_ptr<WizardWindow> window_;
+  int chartsBefore_ = 0;  ///< charts that earlier runs have built
+  bool closing_ = false;  ///< the window was closed while a page was open
+};
+
+/// Says why something can't be done, in a window of its own, and on stderr for who started the program there.
+void Tell(QWidget* owner, const std::string& sentence, const cli::Streams& streams);
+
+}  // namespace plotsmith::qt

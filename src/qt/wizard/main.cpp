@@ -1,0 +1,65 @@
+#include <CLI/CLI.hpp>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QFileDialog>
+#include <iostream>
+
+#include "qt/wizard/EventLoop.h"
+#include "qt/wizard/WizardProgram.h"
+
+namespace {
+
+using plotsmith::qt::TextOf;
+
+/// The workbook that a person picks who started the program without one; empty if none.
+std::string PickBook() {
+  QFileDialog dialog(nullptr, QStringLiteral("Open a workbook"), QString(),
+                     QStringLiteral("Workbooks (*.xlsx *.xlsm)"));
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  if (plotsmith::qt::RunDialog(dialog) != QDialog::Accepted) return {};
+  return TextOf(dialog.selectedFiles().front());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  namespace cli = plotsmith::cli;
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("plotsmith-wizard"));
+  QApplication::setApplicationDisplayName(QString());
+  QApplication::setDesktopFileName(QStringLiteral("plotsmith-wizard"));
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  CLI::App app("Makes, changes, copies and deletes the charts of a workbook, page by page.",
+               "plotsmith-wizard");
+  plotsmith::qt::WizardOptions options;
+  app.add_option("BOOK", options.book, "The workbook (.xlsx, .xlsm); without one, you are asked for it");
+  app.add_option("-o,--output", options.output, "Write to this file and leave BOOK as it is")
+      ->type_name("FILE");
+  app.add_flag("--force", options.global.force, "Also write a workbook that another program holds open");
+  app.add_option("--host-version", options.global.hostVersion,
+                 "Behave as Plotsmith does in this version of Excel; up to 11 and above 11 differ")
+      ->type_name("NUMBER")
+      ->capture_default_str();
+  app.set_version_flag("-V,--version", std::string("plotsmith-wizard ") + PLOTSMITH_VERSION);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::Success& e) {
+    return app.exit(e);
+  } catch (const CLI::ParseError& e) {
+    std::cerr << "plotsmith-wizard: " << e.what() << " (try plotsmith-wizard --help)\n";
+    return cli::exit_code::kUsage;
+  }
+  if (options.book.empty()) options.book = PickBook();
+  if (options.book.empty()) return cli::exit_code::kDone;
+
+  const cli::Streams streams{std::cin, std::cout, std::cerr};
+  try {
+    return plotsmith::qt::WizardProgram(options, streams).Run();
+  } catch (const cli::CommandError& e) {
+    plotsmith::qt::Tell(nullptr, e.what(), streams);
+    return e.ExitCode();
+  } catch (const std::exception& e) {
+    plotsmith::qt::Tell(nullptr, std::string("something went wrong: ") + e.what(), streams);
+    return cli::exit_code::kFile;
+  }
+}
