@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -327,6 +328,32 @@ TEST_F(HelpTopicsTest, TheLanguageIsPlain) {
         EXPECT_LE(std::ranges::count(it->str(), ' '), 45) << "a long sentence: " << it->str();
     }
   }
+}
+
+TEST_F(HelpTopicsTest, TheProjectOpensEachTopicByItsNumber) {
+  const S script = S(PLOTSMITH_SOURCE_DIR) + "/scripts/help-project.py ";
+  const S folder = folder_ / "help";
+  ASSERT_EQ(std::system(("python3 " + script + folder + " 2> " + (folder_ / "err.txt")).c_str()), 0);
+  const S project = FileText(folder + "/Plotsmith.hhp"), contents = FileText(folder + "/Plotsmith.hhc");
+  for (const TopicRow& row : TopicRows()) {
+    SCOPED_TRACE(row.file);
+    EXPECT_EQ(FileText(folder + "/help/" + row.file), FileText(kHelp / row.file));
+    EXPECT_NE(project.find("\nhelp/" + row.file + "\n"), S::npos);
+    EXPECT_NE(contents.find("<param name=\"Name\" value=\"" + row.title +
+                            "\">\n<param name=\"Local\" value=\"help/" + row.file + "\">"),
+              S::npos);
+    if (row.number == 0) continue;
+    const S number = std::to_string(row.number);
+    EXPECT_NE(project.find("\nTOPIC_" + number + "=help/" + row.file + "\n"), S::npos);
+    EXPECT_NE(project.find("\n#define TOPIC_" + number + " " + number + "\n"), S::npos);
+  }
+  std::istringstream lines(project.substr(project.find("[FILES]\n") + 8));
+  int files = 0;
+  for (S line; std::getline(lines, line) && !line.empty(); ++files)
+    EXPECT_TRUE(fs::exists(fs::path(folder) / line)) << line;
+  EXPECT_GT(files, 50);
+  EXPECT_NE(std::system(("python3 " + script + "/dev/null/help 2> " + (folder_ / "err.txt")).c_str()), 0);
+  EXPECT_NE(FileText(folder_ / "err.txt").find("/dev/null/help/help can't be written: "), S::npos);
 }
 
 }  // namespace
