@@ -2,7 +2,7 @@
 """Puts the help into a folder as a project of HTML Help, which chmcmd makes one CHM file of.
 
 Usage: scripts/help-project.py FOLDER
-       cd FOLDER && chmcmd Plotsmith.hhp
+scripts/help-chm.sh runs chmcmd as well.
 
 The folder gets the pages and pictures of docs/, the project, its contents, and the numbers by which HtmlHelp opens the
 topics. All of it comes from docs/help/topics.tsv.
