@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -205,6 +206,20 @@ std::vector<Walk> Walks() {
   return walks;
 }
 
+/// The texts of four words or more in a file of the sources, which are what it says to people.
+std::set<S> SentencesOf(const S& file) {
+  const std::regex comment("//[^\n]*"), literal("(?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+"), seam("\"\\s*\""),
+      lineBreak(R"(\\r\\n)");
+  const S source = std::regex_replace(FileText(fs::path(PLOTSMITH_SOURCE_DIR) / "src" / file), comment, "");
+  std::set<S> sentences;
+  for (std::sregex_iterator it(source.begin(), source.end(), literal), end; it != end; ++it) {
+    const S text = std::regex_replace(std::regex_replace(it->str(), seam, ""), lineBreak, " ");
+    const S sentence = WithoutNames(runtime::Replace(text, "\"", ""));
+    if (std::ranges::count(sentence, ' ') >= 3) sentences.insert(sentence);
+  }
+  return sentences;
+}
+
 class HelpTopicsTest : public test::HostTest {
  protected:
   /// What all pages say.
@@ -249,21 +264,26 @@ TEST_F(HelpTopicsTest, EachTopicNamesTheControlsAndTheMessagesOfItsPage) {
     EXPECT_NE(help.text.find("F1"), S::npos);
   }
   // what a page says, even if no hand gets there
-  const std::regex literal("((?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+)"), seam("\"\\s*\""), lineBreak(R"(\\r\\n)"),
-      comment("//[^\n]*");
-  int literals = 0;
+  std::size_t sentences = 0;
   for (const auto& [form, text] : helpOfForm) {
-    const S source = std::regex_replace(
-        FileText(fs::path(PLOTSMITH_SOURCE_DIR) / "src/pages" / (form + ".cpp")), comment, "");
-    for (std::sregex_iterator it(source.begin(), source.end(), literal), end; it != end; ++it) {
-      S value = std::regex_replace(std::regex_replace((*it)[1].str(), seam, ""), lineBreak, " ");
-      value = WithoutNames(runtime::Replace(value, "\"", ""));
-      if (std::ranges::count(value, ' ') < 3) continue;
-      ++literals;
-      EXPECT_NE(text.find(value), S::npos) << form << ": " << value;
+    for (const S& sentence : SentencesOf("pages/" + form + ".cpp")) {
+      ++sentences;
+      EXPECT_NE(text.find(sentence), S::npos) << form << ": " << sentence;
     }
   }
-  EXPECT_GT(literals, 20);
+  EXPECT_GT(sentences, 20u);
+}
+
+TEST_F(HelpTopicsTest, MessagesAboutChartsAreExplained) {
+  const HelpFile help = Read("refresh.html");
+  std::size_t sentences = 0;
+  for (const char* file : {"builder/SourceValidation.cpp", "builder/MapSteps.cpp"}) {
+    for (const S& sentence : SentencesOf(file)) {
+      ++sentences;
+      EXPECT_TRUE(help.cells.contains(sentence)) << file << ": " << sentence;
+    }
+  }
+  EXPECT_EQ(sentences, 6u);
 }
 
 TEST_F(HelpTopicsTest, TheTableListsAllFilesByTheirTitles) {
@@ -327,6 +347,32 @@ TEST_F(HelpTopicsTest, TheLanguageIsPlain) {
         EXPECT_LE(std::ranges::count(it->str(), ' '), 45) << "a long sentence: " << it->str();
     }
   }
+}
+
+TEST_F(HelpTopicsTest, TheProjectOpensEachTopicByItsNumber) {
+  const S script = S(PLOTSMITH_SOURCE_DIR) + "/scripts/help-project.py ";
+  const S folder = folder_ / "help";
+  ASSERT_EQ(std::system(("python3 " + script + folder + " 2> " + (folder_ / "err.txt")).c_str()), 0);
+  const S project = FileText(folder + "/Plotsmith.hhp"), contents = FileText(folder + "/Plotsmith.hhc");
+  for (const TopicRow& row : TopicRows()) {
+    SCOPED_TRACE(row.file);
+    EXPECT_EQ(FileText(folder + "/help/" + row.file), FileText(kHelp / row.file));
+    EXPECT_NE(project.find("\nhelp/" + row.file + "\n"), S::npos);
+    EXPECT_NE(contents.find("<param name=\"Name\" value=\"" + row.title +
+                            "\">\n<param name=\"Local\" value=\"help/" + row.file + "\">"),
+              S::npos);
+    if (row.number == 0) continue;
+    const S number = std::to_string(row.number);
+    EXPECT_NE(project.find("\nTOPIC_" + number + "=help/" + row.file + "\n"), S::npos);
+    EXPECT_NE(project.find("\n#define TOPIC_" + number + " " + number + "\n"), S::npos);
+  }
+  std::istringstream lines(project.substr(project.find("[FILES]\n") + 8));
+  int files = 0;
+  for (S line; std::getline(lines, line) && !line.empty(); ++files)
+    EXPECT_TRUE(fs::exists(fs::path(folder) / line)) << line;
+  EXPECT_GT(files, 50);
+  EXPECT_NE(std::system(("python3 " + script + "/dev/null/help 2> " + (folder_ / "err.txt")).c_str()), 0);
+  EXPECT_NE(FileText(folder_ / "err.txt").find("/dev/null/help/help can't be written: "), S::npos);
 }
 
 }  // namespace

@@ -34,6 +34,7 @@ HelpWindow::HelpWindow(const QString& folder, QWidget* parent)
   browser_->setObjectName("helpText");
   list_->setObjectName("topicList");
   list_->setAccessibleName("Topics");
+  list_->setSpacing(2);
   auto* const reading = new QWidget;
   auto* const column = new QVBoxLayout(reading);
   column->setContentsMargins(0, 0, 0, 0);
