@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
+#include <regex>
+#include <set>
 #include <vector>
 
 #include "tests/support/FamilyBooks.h"
@@ -84,6 +86,14 @@ class LibreOfficeTest : public test::HostTest {
     }
     return text;
   }
+  /// Where the texts of the drawn legend begin, from the left edge of the chart.
+  static std::set<S> LegendTextLefts(const S& content) {
+    static const std::regex text("draw:name=\"[^\"]* Text\"[^>]* svg:x=\"([^\"]*)\"");
+    std::set<S> lefts;
+    for (std::sregex_iterator it(content.begin(), content.end(), text), end; it != end; ++it)
+      lefts.insert((*it)[1]);
+    return lefts;
+  }
   static S Class(const S& content) {
     const auto at = content.find("chart:class=\"chart:");
     return content.substr(at + 19, content.find('"', at + 19) - at - 19);
@@ -128,7 +138,8 @@ TEST_F(LibreOfficeTest, SeesPiesBubblesAndBuckets) {
   EXPECT_EQ(Class(charts[0]), "circle");
   EXPECT_NE(Data(charts[0]).find("East|18\nWest|5"), S::npos) << Data(charts[0]);
 
-  Open(test::BubbleBook({{"A", "North", 1, 2, 30}, {"B", "South", 3, 4, 20}}, test::BubbleDefinition()));
+  Open(test::BubbleBook({{"A", "North", 1, 2, 30}, {"B", "South", 3, 4, 20}, {"C", "HR", 5, 6, 10}},
+                        test::BubbleDefinition()));
   Refresh();
   SaveAndReopen();
   charts = Charts();
@@ -138,6 +149,7 @@ TEST_F(LibreOfficeTest, SeesPiesBubblesAndBuckets) {
                            "office:value=\"30\"", "office:value=\"20\""}) {
     EXPECT_NE(charts[0].find(seen), S::npos) << seen;
   }
+  EXPECT_EQ(LegendTextLefts(charts[0]).size(), 1u) << "the texts are aligned to the left";
 
   Open(test::BucketBook(test::BucketDefinition()));
   Refresh();

@@ -132,6 +132,7 @@ void DrawnShape::SetWidth(double points) {
   Frame frame = PlacedFrame();
   if (KeepsItsProportions() && frame.width > 0) frame.height *= points / frame.width;
   frame.width = points;
+  StopFittingToText();
   Place(frame);
 }
 
@@ -141,6 +142,7 @@ void DrawnShape::SetHeight(double points) {
   Frame frame = PlacedFrame();
   if (KeepsItsProportions() && frame.height > 0) frame.width *= points / frame.height;
   frame.height = points;
+  StopFittingToText();
   Place(frame);
 }
 
@@ -190,6 +192,15 @@ void DrawnShape::FitToText() {
   if (!wraps) frame.width = extent.width + across;
   frame.height = extent.height + down;
   Place(frame);
+}
+
+void DrawnShape::StopFittingToText() {
+  const pugi::xml_node body = xml::Child(object_, "txBody", "bodyPr");
+  if (!xml::Child(body, "spAutoFit")) return;
+  // A program that fits boxes when it opens the file would undo the size. LibreOffice even does it from the
+  // middle of the box, which leaves texts that were aligned to the left at different places.
+  schema::Remove(body, "spAutoFit");
+  schema::Ensure(body, "noAutofit");
 }
 
 void DrawnShape::Delete() {

@@ -74,6 +74,8 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
 
  private:
   bool KeepsItsProportions() const;
+  /// Turns TextFrame2.AutoSize off, because the shape gets a size of its own.
+  void StopFittingToText();
 
   pugi::xml_node anchor_, object_;
   std::optional<std::u16string> text_;  ///< kept until it changes
