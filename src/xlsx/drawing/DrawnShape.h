@@ -74,7 +74,8 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
 
  private:
   bool KeepsItsProportions() const;
-  /// Turns TextFrame2.AutoSize off, because the shape gets a size of its own.
+  /// Turns TextFrame2.AutoSize off, because the shape gets a size of its own. Margins at the sides of a line
+  /// that doesn't break become narrow, unless they were set.
   void StopFittingToText();
 
   pugi::xml_node anchor_, object_;

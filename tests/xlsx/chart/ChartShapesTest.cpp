@@ -178,7 +178,7 @@ TEST_F(ChartShapesTest, ALegendIsDrawnBesideThePlotArea) {
         "<cdr:cNvPr id=\"4\" name=\"Beta Two Text\" descr=\"VEX_LS_Beta Two Text\"/><cdr:cNvSpPr "
         "txBox=\"1\"/>",
         "<a:bodyPr vertOverflow=\"clip\" wrap=\"none\" rtlCol=\"0\" tIns=\"0\" "
-        "anchor=\"t\"><a:noAutofit/></a:bodyPr>",
+        "anchor=\"t\" lIns=\"27432\" rIns=\"27432\"><a:noAutofit/></a:bodyPr>",
         "<a:pPr algn=\"l\"/><a:r><a:rPr lang=\"en-US\" sz=\"900\" b=\"0\"><a:solidFill><a:srgbClr "
         "val=\"FF0000\"/></a:solidFill><a:latin typeface=\"Arial\"/><a:cs "
         "typeface=\"Arial\"/></a:rPr><a:t>Alpha</a:t></a:r>",
