@@ -23,6 +23,7 @@
 #include "xlsx/sheet/DrawingLink.h"
 #include "xlsx/sheet/SelectedTab.h"
 #include "xlsx/sheet/SharedStrings.h"
+#include "xlsx/sheet/SheetGeometry.h"
 
 namespace plotsmith::xlsx {
 
@@ -62,10 +63,13 @@ constexpr std::string_view kEmptyWorkbook =
     R"(xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships">)"
     R"(<bookViews><workbookView/></bookViews><sheets/></workbook>)";
 
+/// The height of rows stands in the sheet, as in Excel's, because other programs have a default of their own,
+/// which would change the height of charts.
 std::string EmptySheet(bool strict) {
   return std::string(kXmlDeclaration) + "<worksheet xmlns=\"" +
          std::string((strict ? kStrict : kTransitional).main) +
-         "\"><dimension ref=\"A1\"/><sheetData/></worksheet>";
+         "\"><dimension ref=\"A1\"/><sheetFormatPr defaultRowHeight=\"" + xml::Number(kDefaultRowHeight) +
+         "\"/><sheetData/></worksheet>";
 }
 
 /// Whether a sheet can have the name (Excel's rules).
