@@ -228,4 +228,19 @@ S Schemas::NewFaults(const xlsx::Package& before, const xlsx::Package& after) {
   return text;
 }
 
+void MakeStrict(const S& from, const S& to) {
+  const auto package = xlsx::Package::Open(from);
+  std::vector<std::pair<S, S>> parts;  // the writer reads them when it finishes
+  for (const S& part : package.Parts()) {
+    S bytes = package.Read(part);
+    for (const auto& [strict, transitional] : kStrictAddresses) {
+      bytes = runtime::Replace(bytes, transitional, strict);
+    }
+    parts.emplace_back(part.substr(1), std::move(bytes));
+  }
+  xlsx::ArchiveWriter writer(to);
+  for (const auto& [name, bytes] : parts) writer.Add(name, bytes);
+  writer.Finish();
+}
+
 }  // namespace plotsmith::test

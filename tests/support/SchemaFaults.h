@@ -34,4 +34,7 @@ class Schemas {
   int judged_ = 0;
 };
 
+/// Rewrites a workbook file of the transitional vocabulary in the strict one.
+void MakeStrict(const std::string& from, const std::string& to);
+
 }  // namespace plotsmith::test
