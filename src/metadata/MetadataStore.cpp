@@ -10,6 +10,7 @@
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
 #include "metadata/LostMarkers.h"
+#include "metadata/SavingPrograms.h"
 #include "metadata/StrategicBuckets.h"
 #include "readback/ChartReadBack.h"
 #include "runtime/Collection.h"
@@ -50,15 +51,21 @@ bool RowHoldsChart(std::int32_t lRow, const std::string& sText, const std::strin
   return aReadRows[lIndex].bParses && aReadRows[lIndex].sID == sID;
 }
 
-/// Loads one row; False if it has no place on the sheet any more.
-bool LoadChartDefinition(const std::string& sText, UnmarkedCharts& oUnmarked) {
+/// Whether a program dropped the box of a chart that has a comment: then nobody has deleted the comment.
+bool CommentBoxWasDropped(const IXMLDOMElement& oChart) {
+  return !GetChildText(oChart, "comment").empty() && LossesOfLastSave().bTextBoxes;
+}
+
+/// Loads one row; False if it has no place on the sheet any more. A null `oUnmarked` looks for no chart that
+/// has lost its marker.
+bool LoadChartDefinition(const std::string& sText, UnmarkedCharts* oUnmarked) {
   auto oDoc = NewXMLDocument();
   if (!oDoc.loadXML(sText)) return false;
   auto oChart = oDoc.selectSingleNode("chart");
   const std::string sID = GetAttributeText(oChart, "id");
   std::string sSheet = FindChartSheet(sID);
-  if (sSheet.empty() && !sID.empty()) {
-    sSheet = oUnmarked.RestoreMarker(sID);
+  if (sSheet.empty() && !sID.empty() && oUnmarked != nullptr) {
+    sSheet = oUnmarked->RestoreMarker(sID);
     if (!sSheet.empty()) {
       RestoreCommentMarker(sID, sSheet, GetChildText(oChart, "comment"));
     }
@@ -70,7 +77,7 @@ bool LoadChartDefinition(const std::string& sText, UnmarkedCharts& oUnmarked) {
   const auto oChartObject = FindChartObject(sID, sSheet);
   const auto oComment = FindChartComment(sID, sSheet);
   RevEngineerChart(oChartObject, oDoc);
-  RevEngineerComment(oComment, oDoc);
+  if (oComment || !CommentBoxWasDropped(oChart)) RevEngineerComment(oComment, oDoc);
   colChartObjects->Add(oChartObject, sID);
   colCharts->Add(oDoc, sID);
   if (oComment) colChartShapes->Add(oComment, sID);
@@ -100,6 +107,9 @@ constexpr std::int32_t Rgb(std::int32_t lRed, std::int32_t lGreen, std::int32_t 
 void RetrieveChartDefinitions() {
   ReportErrors("PSFunctions.RetrieveChartDefinitions", [] {
     aReadRows.clear();
+    // Only a deletion makes a run load the definitions again. What it has deleted must not be found again in
+    // a copy of the chart.
+    const bool bReload = static_cast<bool>(colChartObjects);
     colCharts = runtime::MakeRef<DocumentCollection>();
     colChartObjects = runtime::MakeRef<runtime::Collection<Ref<excel::Chart>>>();
     colChartShapes = runtime::MakeRef<runtime::Collection<Ref<excel::Shape>>>();
@@ -116,8 +126,9 @@ void RetrieveChartDefinitions() {
       for (std::int32_t lRow = kFirstDefinitionRow;;) {
         const std::string sText = runtime::CStr(GetCellValue(*oSheet, lRow, 1, cell::kString));
         if (sText.empty()) break;
-        // whatever goes wrong with a row is that row's fault
-        const bool bLoaded = ValueOr(false, [&] { return LoadChartDefinition(sText, oUnmarked); });
+        // Whatever goes wrong with a row is that row's fault.
+        const bool bLoaded =
+            ValueOr(false, [&] { return LoadChartDefinition(sText, bReload ? nullptr : &oUnmarked); });
         if (bLoaded || !DeleteSheetRow(oSheet, lRow)) ++lRow;
       }
     }

@@ -10,6 +10,7 @@
 #include "runtime/Strings.h"
 #include "xlsx/Application.h"
 #include "xlsx/DefinedNames.h"
+#include "xlsx/DocumentProperties.h"
 #include "xlsx/Errors.h"
 #include "xlsx/Limits.h"
 #include "xlsx/Sheets.h"
@@ -191,6 +192,10 @@ bool Workbook::ProtectStructure() {
 // a shared workbook keeps the log of its users' changes
 bool Workbook::MultiUserEditing() {
   return package_.FindRelationshipOfType(part_, "revisionHeaders").has_value();
+}
+
+Ref<excel::DocumentProperty> Workbook::BuiltinDocumentProperties(std::string_view name) {
+  return MakeDocumentProperty(*this, name);
 }
 
 bool Workbook::CalculatesManually() const {

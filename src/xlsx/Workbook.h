@@ -46,6 +46,7 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   excel::Ref<excel::Application> Application() override;
   bool ProtectStructure() override;
   bool MultiUserEditing() override;
+  excel::Ref<excel::DocumentProperty> BuiltinDocumentProperties(std::string_view name) override;
   excel::Ref<excel::Sheet> ActiveSheet() override;
   excel::Ref<excel::Sheets> Sheets() override;
   excel::Ref<excel::Worksheets> Worksheets() override;
