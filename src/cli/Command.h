@@ -40,6 +40,10 @@ inline void Deliver(const Streams& streams) {
   if (!streams.out.flush()) throw CommandError(exit_code::kFile, "the output can't be written.");
 }
 
+/// What `-o` is for, where a verb can also write the workbook itself.
+inline constexpr const char* kOutputDescription =
+    "Write to this file and leave BOOK as it is; \"-\" is the standard output";
+
 /// One verb of the command line.
 class Command {
  public:

@@ -26,6 +26,10 @@ CommandError CantRead(const std::string& path, const std::string& reason) {
   return CommandError(exit_code::kFile, "can't read \"" + path + "\": " + reason + ".");
 }
 
+CommandError CantSave(const std::string& path, const std::string& reason) {
+  return CommandError(exit_code::kFile, "can't save \"" + path + "\": " + reason + "; nothing was changed.");
+}
+
 /// The file beside a workbook by which another program shows that it has it open, or "".
 std::string LockOf(const fs::path& book) {
   for (const std::string& name :
@@ -52,6 +56,8 @@ bool IsTableKnown(const std::string& id) {
 
 }  // namespace
 
+bool IsStandardOutput(const std::optional<std::string>& output) { return output == "-"; }
+
 void RequireTableId(const std::string& id) {
   if (id.empty()) throw CommandError(exit_code::kUsage, "--table wants the id of a table.");
 }
@@ -74,7 +80,8 @@ Session::Session(std::string path, const GlobalOptions& options, const Streams& 
       host_(xlsx::Application::Create(VersionText(options.hostVersion))) {
   StartSystem(desktop_, std::move(view));
   if (options.journal) {
-    host_->Journal().SetSink([this](std::string_view line) { streams_.out << line << '\n'; });
+    host_->Journal().SetSink(
+        [this](std::string_view line) { (bookToOut_ ? streams_.err : streams_.out) << line << '\n'; });
   }
   host_->DefineMacro(kRefreshStartedMacro, [this](const auto& arguments) { ChartStarted(arguments); });
   if (streams.terminal) {
@@ -104,13 +111,27 @@ void Session::LoadTablesAndCharts() {
   }
 }
 
-void Session::CheckWritable(const std::optional<std::string>& output) const {
+void Session::CheckWritable(const std::optional<std::string>& output) {
   if (output && output->empty()) throw CommandError(exit_code::kUsage, "-o wants the name of a file.");
-  const std::string target = output.value_or(path_);
+  bookToOut_ = IsStandardOutput(output);
+  if (!bookToOut_) {
+    CheckFree(output.value_or(path_));
+  } else if (streams_.outTerminal) {
+    throw CommandError(exit_code::kUsage,
+                       "a workbook isn't written to a terminal; redirect the output, or name a file.");
+  }
+}
+
+void Session::CheckFree(const std::string& target) const {
   const std::string lock = LockOf(fs::absolute(target));
   if (!lock.empty() && !options_.force) {
     throw CommandError(exit_code::kFile, "\"" + target + "\" is open in another program (\"" + lock +
                                              "\" says so); close it there, or use --force.");
+  }
+  try {
+    Book().CheckName(target);
+  } catch (const xlsx::PackageError& e) {
+    throw CantSave(target, e.what());
   }
 }
 
@@ -152,14 +173,22 @@ int Session::Save(const std::optional<std::string>& output) {
   Deliver(streams_);  // while nothing is changed yet
   if (output || Book().Changed()) {
     try {
-      Book().Save(output.value_or(path_));
+      WriteBook(output);
     } catch (const xlsx::PackageError& e) {
       ReportMessages();
-      throw CommandError(exit_code::kFile, "can't save \"" + output.value_or(path_) + "\": " + e.what() +
-                                               "; nothing was changed.");
+      throw CantSave(output.value_or(path_), e.what());
     }
   }
   return ReportMessages();
+}
+
+void Session::WriteBook(const std::optional<std::string>& output) {
+  if (!IsStandardOutput(output)) {
+    Book().Save(output.value_or(path_));
+    return;
+  }
+  Book().Save(streams_.out);
+  Deliver(streams_);
 }
 
 int Session::Finish() {

@@ -34,8 +34,9 @@ class Session {
   void LoadTables();
   /// Discovers the tables and loads the definitions, for commands that only read.
   void LoadTablesAndCharts();
-  /// Refuses, before any work is done, to write where another program has the workbook open.
-  void CheckWritable(const std::optional<std::string>& output) const;
+  /// Refuses, before any work is done, to write where another program has the workbook open, or a file that
+  /// the workbook can't be. If `output` is the standard output, the journal goes to `err` from here on.
+  void CheckWritable(const std::optional<std::string>& output);
   /// After the system has worked: refuses an id of which the workbook has neither a table nor a chart.
   void CheckTable(const std::string& id) const;
   /// How many charts the system has begun to build.
@@ -46,6 +47,8 @@ class Session {
   int Finish();
 
  private:
+  void CheckFree(const std::string& target) const;
+  void WriteBook(const std::optional<std::string>& output);
   void ChartStarted(const std::vector<runtime::Variant>& arguments);
   void ClearProgress();
   void CheckDamage() const;
@@ -58,10 +61,14 @@ class Session {
   std::shared_ptr<xlsx::Application> host_;
   int chartsStarted_ = 0;
   std::size_t progressWidth_ = 0;
+  bool bookToOut_ = false;  ///< the workbook goes to the standard output, and so nothing else may
 };
 
 /// The name by which the command introduces itself to the system.
 inline constexpr const char* kHostName = "plotsmith";
+
+/// Whether the name of an output is "-", the standard output.
+bool IsStandardOutput(const std::optional<std::string>& output);
 
 /// Refuses a table's id that is empty, which no table has.
 void RequireTableId(const std::string& id);

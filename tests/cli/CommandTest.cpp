@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <sys/stat.h>
 #include <vector>
 
 #include "cli/CommandLine.h"
@@ -9,6 +10,7 @@
 #include "runtime/Strings.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/RunCommand.h"
+#include "xlsx/package/Archive.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -61,6 +63,17 @@ TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
     std::ofstream(folder_ / name, std::ios::binary) << bytes;
     return folder_ / name;
   };
+  const auto zip = [&](const S& name, const S& entry, const S& bytes) {
+    xlsx::ArchiveWriter writer(folder_ / name);
+    writer.Add(entry, bytes, false);
+    writer.Finish();
+    return folder_ / name;
+  };
+  const auto other = [](const S& format) {
+    return "it is " + format + "; save it as .xlsx first, as only .xlsx, .xlsm, .xltx and .xltm can be read";
+  };
+  const S pipe = folder_ / "pipe.xlsx";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
   test::PlainBook damaged = SalesBook({{"VEX_Chart1"}});
   damaged.Sheet("Data1").afterData = "</worksheet><";  // after the cells: of no interest
   const S odd = Write(damaged, "odd.xlsx");
@@ -75,20 +88,29 @@ TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
   const S old = file("old.xls", encrypted);
   for (const char c : S("EncryptedPackage")) encrypted += {c, '\0'};
   const std::pair<S, S> cases[] = {
-      {folder_ / "none.xlsx", "it can't be opened"},
+      {folder_ / "none.xlsx", "there is no such file"},
       {file("empty.xlsx", ""), "it is empty"},
-      {file("text.xlsx", "hello"), "Not a zip archive"},
+      {file("noise.xlsx", S("hello\0world", 11)), "Not a zip archive"},
       {file("secret.xlsx", encrypted), "it is encrypted with a password"},
-      {old, "it is a workbook of Excel 97-2003 (.xls), not .xlsx"},
+      {old, other("a workbook of Excel 97-2003 (.xls)")},
+      {file("text.csv", "Region,Amount\n"), other("a text file, such as .csv")},
+      {file("page.xls", "<HTML><table></table></HTML>"), other("a web page (.html)")},
+      {file("flat.fods", "<d xmlns:o='urn:oasis:names:tc:opendocument:xmlns:office:1.0'/>"),
+       other("an OpenDocument spreadsheet of plain XML (.fods)")},
+      {zip("book.ods", "mimetype", "application/vnd.oasis.opendocument.spreadsheet"),
+       other("an OpenDocument file, such as .ods")},
+      {zip("book.numbers", "Index/Document.iwa", "x"), other("a spreadsheet of Numbers (.numbers)")},
+      {zip("other.zip", "readme", "x"), "it is not an Office document: it has no content types"},
+      {pipe, "it is not a regular file"},
       {shared, "its sheets One and Three have one part in common"},
       {bad, "its part /xl/worksheets/sheet1.xml can't be read: its XML is damaged"}};
   for (const auto& [path, reason] : cases) {
-    const S before = Bytes(path);
+    const S before = path == pipe ? "" : Bytes(path);  // to read the pipe would wait for a writer
     const CommandResult result = RunCommand({"refresh", path, "-o", folder_ / "out.xlsx"});
     EXPECT_EQ(result.code, 3) << path;
     EXPECT_EQ(result.err, "plotsmith: can't read \"" + path + "\": " + reason + ".\n");
     EXPECT_FALSE(std::filesystem::exists(folder_ / "out.xlsx"));
-    EXPECT_EQ(Bytes(path), before);
+    EXPECT_EQ(path == pipe ? "" : Bytes(path), before);
   }
   EXPECT_EQ(RunCommand({"refresh", odd}).code, 0);
   EXPECT_EQ(RunCommand({"refresh", folder_.Path().string()}).err,
@@ -144,7 +166,8 @@ TEST_F(CommandTest, WhatIsNoFileSaysSo) {
   for (const S& path : {folder_ / "nothing.xlsx", folder_ / S(300, 'x'), folder_ / "round", folder_ / ""}) {
     const CommandResult result = RunCommand({"refresh", path});
     EXPECT_EQ(result.code, 3);
-    EXPECT_TRUE(result.err.starts_with("plotsmith: can't read \"" + path + "\": it ")) << result.err;
+    EXPECT_TRUE(result.err.starts_with("plotsmith: can't read \"" + path + "\": ")) << result.err;
+    EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 1) << result.err;
   }
 }
 
@@ -314,7 +337,8 @@ TEST_F(CommandTest, JournalVersionAndProgress) {
       RunCommand({"refresh", book, "--journal", "--host-version", "11", "-o", folder_ / "o.xlsx"}).out;
   EXPECT_NE(journal.find("\nChart.ChartType = 57\n"), S::npos);
   EXPECT_NE(journal.find("Chart.SeriesCollection(1).Name = \"=VEX_ChartData!R1C3\""), S::npos);
-  const CommandResult watched = RunCommand({"refresh", book, "-o", folder_ / "o.xlsx"}, "", true);
+  const CommandResult watched =
+      RunCommand({"refresh", book, "-o", folder_ / "o.xlsx"}, "", test::Watched::kMessages);
   EXPECT_NE(watched.err.find("\rRefreshing chart 2 ..."), S::npos);
   EXPECT_TRUE(watched.err.ends_with("\r")) << "and the line is wiped";
   EXPECT_EQ(watched.code, 0);

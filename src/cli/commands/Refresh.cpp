@@ -9,7 +9,7 @@ CLI::App* RefreshCommand::Declare(CLI::App& app) {
   CLI::App* verb = app.add_subcommand("refresh", "Rebuild the charts of a workbook from its tables");
   verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm)")->required();
   verb->add_option("--table", table_, "Only the charts that hang on the table of this id")->type_name("ID");
-  verb->add_option("-o,--output", output_, "Write to this file and leave BOOK as it is")->type_name("FILE");
+  verb->add_option("-o,--output", output_, kOutputDescription)->type_name("FILE");
   return verb;
 }
 

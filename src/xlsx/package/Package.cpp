@@ -1,6 +1,9 @@
 #include "xlsx/package/Package.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
 #include <set>
 #include <utility>
 
@@ -11,6 +14,7 @@
 #include "xlsx/package/MemoryStream.h"
 #include "xlsx/package/Namespaces.h"
 #include "xlsx/package/PackageError.h"
+#include "xlsx/package/WorkbookKind.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
@@ -84,6 +88,11 @@ std::string PercentEncoded(std::string_view name) {
   return text;
 }
 
+struct FileCloser {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+constexpr std::size_t kCopiedBlock = 256 * 1024;
+
 }  // namespace
 
 /// Bytes are held only of a part that is new or changed; of any other there is the entry in the archive.
@@ -122,11 +131,18 @@ Package Package::Open(const std::string& path) {
     package.parts_.push_back(std::move(part));
   }
   package.contentTypesChanged_ = package.changed_ = false;
-  if (!package.Has(kContentTypes)) {
-    throw PackageError("it is not an Office document: it has no content types");
-  }
+  if (!package.Has(kContentTypes)) package.ThrowForeignFormat();
   InPart(kContentTypes, [&] { package.ParseContentTypes(package.Read(kContentTypes)); });
   return package;
+}
+
+void Package::ThrowForeignFormat() const {
+  if (Has("/mimetype") && Read("/mimetype").starts_with("application/vnd.oasis.opendocument")) {
+    throw OtherFormat("an OpenDocument file, such as .ods");
+  }
+  if (Has("/Index/Document.iwa") || Has("/Index.zip"))
+    throw OtherFormat("a spreadsheet of Numbers (.numbers)");
+  throw PackageError("it is not an Office document: it has no content types");
 }
 
 void Package::ParseContentTypes(std::string_view bytes) {
@@ -238,6 +254,10 @@ void Package::Replace(std::string_view part, std::string bytes) {
 
 void Package::Add(std::string_view part, std::string_view contentType, std::string bytes) {
   Put(part, std::move(bytes));
+  SetContentType(part, contentType);
+}
+
+void Package::SetContentType(std::string_view part, std::string_view contentType) {
   if (ContentType(part) == contentType) return;
   pugi::xml_node& type = overrides_[Folded(part)];  // a part that was here once may have left it behind
   if (!type) type = xml::AppendChild(xml::Root(*contentTypes_), "Override");
@@ -389,9 +409,26 @@ std::vector<std::string> Package::RemoveRelationship(std::string_view source, st
 }
 
 void Package::Save(const std::string& path) {
-  if (contentTypesChanged_) Replace(kContentTypes, xml::Serialize(*contentTypes_));
   AtomicFile file(path);
-  ArchiveWriter writer(file.TemporaryPath());
+  Write(file.Descriptor());
+  file.Commit();
+}
+
+void Package::Save(std::ostream& out) {
+  const std::unique_ptr<std::FILE, FileCloser> scratch(std::tmpfile());
+  if (!scratch)
+    throw PackageError(std::string("there is no room for a temporary file: ") + std::strerror(errno));
+  Write(fileno(scratch.get()));
+  std::vector<char> block(kCopiedBlock);
+  while (const std::size_t count = std::fread(block.data(), 1, block.size(), scratch.get())) {
+    out.write(block.data(), static_cast<std::streamsize>(count));
+  }
+  if (std::ferror(scratch.get())) throw PackageError("its temporary file can't be read again");
+}
+
+void Package::Write(int descriptor) {
+  if (contentTypesChanged_) Replace(kContentTypes, xml::Serialize(*contentTypes_));
+  ArchiveWriter writer(descriptor);
   for (const auto& part : parts_) {
     if (part->bytes) {
       const bool stored = part->entry && archive_->Entries()[*part->entry].method == 0;
@@ -405,7 +442,6 @@ void Package::Save(const std::string& path) {
   }
   if (archive_) writer.CopyComment(*archive_);
   writer.Finish();
-  file.Commit();
 }
 
 std::string ResolveTarget(std::string_view source, std::string_view target) {

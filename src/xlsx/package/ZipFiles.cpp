@@ -19,7 +19,8 @@ constexpr std::size_t kBlock = 256 * 1024;
 /// What both kinds of file share: a descriptor, a position and the library's way to be told of errors.
 class ZipFile {
  public:
-  ZipFile(const std::string& path, int flags) : file_(open(path.c_str(), flags | O_CLOEXEC, 0600)) {
+  /// Takes the descriptor over; where it is none, errno says why.
+  explicit ZipFile(int file) : file_(file) {
     zip_error_init(&error_);
     struct stat status {};
     if (file_ < 0 || fstat(file_, &status) != 0) {
@@ -77,7 +78,7 @@ class ZipFile {
 
 class ReadFile final : public ZipFile {
  public:
-  explicit ReadFile(const std::string& path) : ZipFile(path, O_RDONLY) {}
+  using ZipFile::ZipFile;
 
   zip_int64_t Handle(void* data, zip_uint64_t length, zip_source_cmd_t command) override {
     switch (command) {
@@ -129,9 +130,7 @@ class ReadFile final : public ZipFile {
 
 class WriteFile final : public ZipFile {
  public:
-  explicit WriteFile(const std::string& path) : ZipFile(path, O_RDWR | O_CREAT | O_TRUNC) {
-    block_.reserve(kBlock);
-  }
+  explicit WriteFile(int file) : ZipFile(file) { block_.reserve(kBlock); }
 
   zip_int64_t Handle(void* data, zip_uint64_t length, zip_source_cmd_t command) override {
     switch (command) {
@@ -203,8 +202,17 @@ zip_source_t* MakeSource(std::unique_ptr<ZipFile> file) {
 
 }  // namespace
 
-zip_source_t* OpenZipFile(const std::string& path) { return MakeSource(std::make_unique<ReadFile>(path)); }
+zip_source_t* OpenZipFile(const std::string& path) {
+  return MakeSource(std::make_unique<ReadFile>(open(path.c_str(), O_RDONLY | O_CLOEXEC)));
+}
 
-zip_source_t* CreateZipFile(const std::string& path) { return MakeSource(std::make_unique<WriteFile>(path)); }
+zip_source_t* CreateZipFile(const std::string& path) {
+  return MakeSource(
+      std::make_unique<WriteFile>(open(path.c_str(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, 0600)));
+}
+
+zip_source_t* CreateZipFile(int descriptor) {
+  return MakeSource(std::make_unique<WriteFile>(fcntl(descriptor, F_DUPFD_CLOEXEC, 0)));
+}
 
 }  // namespace plotsmith::xlsx
