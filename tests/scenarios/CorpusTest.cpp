@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "tests/support/HostTest.h"
+#include "tests/support/Paths.h"
 #include "tests/support/RunCommand.h"
 #include "xlsx/package/PackageError.h"
 
@@ -45,7 +46,7 @@ std::vector<fs::path> Corpus() {
   std::vector<fs::path> files;
   for (const char* folder : {"charts", "real", "made", "broken"}) {
     std::error_code ignored;
-    for (const auto& entry : fs::directory_iterator(fs::path(PLOTSMITH_CORPUS_DIR) / folder, ignored)) {
+    for (const auto& entry : fs::directory_iterator(fs::path(test::kCorpusFolder) / folder, ignored)) {
       files.push_back(entry.path());
     }
   }

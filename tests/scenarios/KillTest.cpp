@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "tests/support/HostTest.h"
+#include "tests/support/Paths.h"
 
 namespace plotsmith {
 namespace {
@@ -28,7 +29,7 @@ class KillTest : public ::testing::Test {
   pid_t Start() {
     const pid_t child = fork();
     if (child == 0) {
-      execl(PLOTSMITH_COMMAND, "plotsmith", "refresh", path_.c_str(), nullptr);
+      execl(test::kCommand, "plotsmith", "refresh", path_.c_str(), nullptr);
       _exit(127);
     }
     return child;

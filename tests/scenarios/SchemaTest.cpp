@@ -7,6 +7,7 @@
 #include "runtime/RuntimeError.h"
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
+#include "tests/support/Paths.h"
 #include "tests/support/RunCommand.h"
 #include "tests/support/SchemaFaults.h"
 #include "xlsx/Worksheet.h"
@@ -46,7 +47,9 @@ class SchemaTest : public test::HostTest {
     const auto refresh = [&](const S& from, const S& to) {
       const auto result = RunCommand({"refresh", from, "-o", to, "--host-version", version});
       EXPECT_LE(result.code, 1) << result.err;
-      if (result.code <= 1) EXPECT_EQ(Faults(path, to), "");
+      if (result.code <= 1) {
+        EXPECT_EQ(Faults(path, to), "");
+      }
     };
     refresh(path, first);
     refresh(first, second);
@@ -103,10 +106,10 @@ test::PlainSheet Targets() {
 
 TEST_F(SchemaTest, TheExamplesAndTheGallery) {
   const S gallery = folder_ / "gallery.xlsx";
-  const S command = S(PLOTSMITH_MAKE_GALLERY) + " " + folder_.Path().string() + " > /dev/null 2>&1";
+  const S command = S(test::kMakeGallery) + " " + folder_.Path().string() + " > /dev/null 2>&1";
   ASSERT_EQ(std::system(command.c_str()), 0);
   std::vector<S> books = {gallery};
-  for (const auto& file : fs::directory_iterator(fs::path(PLOTSMITH_SOURCE_DIR) / "examples")) {
+  for (const auto& file : fs::directory_iterator(fs::path(test::kSourceFolder) / "examples")) {
     if (file.path().extension() == ".xlsx") books.push_back(file.path().string());
   }
   EXPECT_EQ(books.size(), 5u);
@@ -145,7 +148,7 @@ TEST_F(SchemaTest, ChartsOfTheCorpusTakenOver) {
   std::vector<fs::path> files;
   for (const char* folder : {"charts", "real"}) {
     std::error_code ignored;
-    for (const auto& entry : fs::directory_iterator(fs::path(PLOTSMITH_CORPUS_DIR) / folder, ignored)) {
+    for (const auto& entry : fs::directory_iterator(fs::path(test::kCorpusFolder) / folder, ignored)) {
       files.push_back(entry.path());
     }
   }

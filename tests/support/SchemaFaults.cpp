@@ -1,3 +1,4 @@
+#include "tests/support/Paths.h"
 #include "tests/support/SchemaFaults.h"
 
 #include <filesystem>
@@ -152,7 +153,7 @@ S Key(const S& fault) { return fault.substr(0, fault.find(" Expected is")); }
 
 struct Schemas::Schema {
   explicit Schema(const S& file) : name(file) {
-    const S path = std::filesystem::path(PLOTSMITH_SCHEMAS_DIR) / file;
+    const S path = std::filesystem::path(test::kSchemasFolder) / file;
     const xmlSchemaParserCtxtPtr parser = xmlSchemaNewParserCtxt(path.c_str());
     // The schemas import each other, which the library warns of.
     xmlSchemaSetParserStructuredErrors(parser, KeepQuiet, nullptr);
@@ -167,7 +168,7 @@ struct Schemas::Schema {
 };
 
 bool Schemas::Present() {
-  return std::filesystem::exists(std::filesystem::path(PLOTSMITH_SCHEMAS_DIR) / "dml-chart.xsd");
+  return std::filesystem::exists(std::filesystem::path(test::kSchemasFolder) / "dml-chart.xsd");
 }
 
 Schemas::Schemas() {

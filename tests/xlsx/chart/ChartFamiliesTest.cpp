@@ -4,6 +4,7 @@
 
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
+#include "tests/support/Paths.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/package/Package.h"
 
@@ -315,7 +316,7 @@ TEST_F(ChartFamiliesTest, ColumnsAndALineShareTheirAxes) {
 
 TEST_F(ChartFamiliesTest, ChartsOfOthersGoThroughAllFamilies) {
   std::error_code absent;
-  const auto folder = std::filesystem::path(PLOTSMITH_CORPUS_DIR) / "charts";
+  const auto folder = std::filesystem::path(test::kCorpusFolder) / "charts";
   if (!std::filesystem::is_directory(folder, absent)) GTEST_SKIP() << "the corpus isn't there";
   const auto mix = [](Chart& chart) {
     DeleteSeries(chart);
