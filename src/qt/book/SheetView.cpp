@@ -177,7 +177,6 @@ void SheetView::UpdateScrollBars() {
 /// Scrolls so far that a place, in pixels from the sheet's corner, is seen; if it is too large, its
 /// beginning.
 void SheetView::ScrollTo(const QRect& place) {
-  const QRect body = BodyArea();
   const QSize frozen = FrozenSize();
   const auto scroll = [](QScrollBar& bar, int first, int last, int page) {
     if (last < 0) return;  // it is frozen
@@ -187,9 +186,11 @@ void SheetView::ScrollTo(const QRect& place) {
     bar.setMaximum(std::max(bar.maximum(), value));
     bar.setValue(value);
   };
-  scroll(*horizontalScrollBar(), place.left() - frozen.width(), place.right() - frozen.width(), body.width());
   scroll(*verticalScrollBar(), place.top() - frozen.height(), place.bottom() - frozen.height(),
-         body.height());
+         BodyArea().height());
+  MeasureHeads();  // they are wider beside rows of more digits
+  scroll(*horizontalScrollBar(), place.left() - frozen.width(), place.right() - frozen.width(),
+         BodyArea().width());
   UpdateScrollBars();
 }
 

@@ -175,7 +175,7 @@ void SheetView::PaintTextFromOutside(QPainter& painter, const Pane& pane, const 
   const std::int32_t number = shown.rows[row].number, first = shown.columns.front().number;
   const bool isBody = pane.area.left() > headWidth_ + 1;
   const std::int32_t from = std::max(isBody ? view_.frozenColumns + 1 : 1, first - kMostSpread);
-  std::int32_t column = first - 1;
+  std::int32_t column = std::min(first - 1, used_.column2);
   while (column >= from && source_.IsEmptyAt(number, column)) --column;
   if (column < from) return;
   const ShownCell cell = source_.CellAt(number, column);
