@@ -102,6 +102,8 @@ void SheetView::SetZoom(double zoom) {
   viewport()->update();
 }
 
+void SheetView::StepZoom(int steps) { SetZoom((std::round(zoom_ / kZoomStep) + steps) * kZoomStep); }
+
 void SheetView::MeasureHeads() {
   if (!view_.headings) {
     headWidth_ = headHeight_ = 0;
@@ -300,8 +302,7 @@ void SheetView::mousePressEvent(QMouseEvent* event) {
 
 void SheetView::wheelEvent(QWheelEvent* event) {
   if ((event->modifiers() & Qt::ControlModifier) == 0) return QAbstractScrollArea::wheelEvent(event);
-  if (const int turned = event->angleDelta().y(); turned != 0)
-    SetZoom(std::round(zoom_ / kZoomStep + (turned > 0 ? 1 : -1)) * kZoomStep);
+  if (const int turned = event->angleDelta().y(); turned != 0) StepZoom(turned > 0 ? 1 : -1);
   event->accept();
 }
 
@@ -342,6 +343,10 @@ bool SheetView::MoveByKey(QKeyEvent& event) {
       return !control;  // with Ctrl it turns to another sheet
     case Qt::Key_0:
       if (control) SetZoom(1);
+      return control;
+    case Qt::Key_Plus:
+    case Qt::Key_Minus:
+      if (control) StepZoom(event.key() == Qt::Key_Plus ? 1 : -1);
       return control;
     default:
       return false;

@@ -136,6 +136,8 @@ class SheetView : public QAbstractScrollArea, public SheetPage {
   void PaintHead(QPainter& painter, const QRect& area, const QString& text, bool active);
   void PaintFreezeLines(QPainter& painter);
 
+  void StepZoom(int steps);
+
   // keys
   bool MoveByKey(QKeyEvent& event);
   xlsx::CellPlace Step(int rows, int columns);

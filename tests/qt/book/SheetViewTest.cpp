@@ -141,7 +141,7 @@ TEST_F(SheetViewTest, CellsAndFramesLieWhereTheHostHasThem) {
   book.workbookExtra = "<bookViews><workbookView activeTab=\"1\"/></bookViews>";
   Show(book);
   const auto sheet = Book().FindWorksheet("Charts");
-  for (const double zoom : {1.0, 1.5, 0.5}) {
+  for (const double zoom : {1.0, 1.5, 0.5, 1.2}) {
     Sheet().SetZoom(zoom);
     const QPoint corner = Sheet().CellArea({1, 1}).topLeft();
     const auto pixel = [&](double points) { return static_cast<int>(std::lround(points * zoom * 96 / 72)); };
@@ -233,6 +233,21 @@ TEST_F(SheetViewTest, KeysMoveTheActiveCell) {
   EXPECT_EQ(ActiveCell(), "A7");
   Click(QPoint(2, 2));  // a head
   EXPECT_EQ(ActiveCell(), "A7");
+}
+
+TEST_F(SheetViewTest, KeysMakeCellsLargerAroundTheCorner) {
+  Show(test::SalesBook({}));
+  Sheet().SetActiveCell({500, 1});
+  Sheet().verticalScrollBar()->setValue(Sheet().verticalScrollBar()->value() / 20 * 20);
+  const int corner = Sheet().verticalScrollBar()->value();
+  for (int i = 0; i < 3; ++i) Press(Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_DOUBLE_EQ(Sheet().Zoom(), 1.3);
+  EXPECT_EQ(Sheet().CellArea({1, 1}).height(), 26);
+  EXPECT_EQ(Sheet().verticalScrollBar()->value(), corner * 13 / 10);
+  for (int i = 0; i < 20; ++i) Press(Qt::Key_Minus, Qt::ControlModifier);
+  EXPECT_DOUBLE_EQ(Sheet().Zoom(), 0.5);
+  Press(Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(Sheet().verticalScrollBar()->value(), corner);
 }
 
 TEST_F(SheetViewTest, FrozenRowsAndColumnsStayWhileTheRestScrolls) {
