@@ -177,7 +177,7 @@ void SheetView::UpdateScrollBars() {
 }
 
 /// Scrolls so far that a place, in pixels from the sheet's corner, is seen; if it is too large, its
-/// beginning.
+/// beginning. Rows come first, since the heads beside those of more digits leave less room for the columns.
 void SheetView::ScrollTo(const QRect& place) {
   const QSize frozen = FrozenSize();
   const auto scroll = [](QScrollBar& bar, int first, int last, int page) {
@@ -190,7 +190,6 @@ void SheetView::ScrollTo(const QRect& place) {
   };
   scroll(*verticalScrollBar(), place.top() - frozen.height(), place.bottom() - frozen.height(),
          BodyArea().height());
-  MeasureHeads();  // they are wider beside rows of more digits
   scroll(*horizontalScrollBar(), place.left() - frozen.width(), place.right() - frozen.width(),
          BodyArea().width());
   UpdateScrollBars();

@@ -1,4 +1,5 @@
 #include <QtWidgets/QApplication>
+#include <filesystem>
 
 #include "host/excel/Constants.h"
 #include "host/excel/Sheets.h"
@@ -6,6 +7,7 @@
 #include "tests/qt/book/BookTest.h"
 #include "tests/support/ErrorOf.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/package/PackageError.h"
 
 namespace plotsmith::qtbook {
 namespace {
@@ -152,6 +154,41 @@ TEST_F(BookViewTest, AChartSheetShowsItsChart) {
   EXPECT_EQ(view.ShownSheet(), nullptr);
   ASSERT_EQ(drawn.size(), 1U);
   EXPECT_GT(drawn[0].width(), 700);
+}
+
+TEST_F(BookViewTest, WorkbooksOfAllKindsAreShownAndStayAsTheyAre) {
+  std::vector<std::filesystem::path> books;
+  for (const S& folder : {S(PLOTSMITH_SOURCE_DIR) + "/examples", S(PLOTSMITH_CORPUS_DIR) + "/charts",
+                          S(PLOTSMITH_CORPUS_DIR) + "/real", S(PLOTSMITH_CORPUS_DIR) + "/made"}) {
+    std::error_code ignored;  // a corpus may be there
+    for (const auto& entry : std::filesystem::directory_iterator(folder, ignored)) {
+      if (entry.path().extension() == ".xlsx") books.push_back(entry.path());
+    }
+  }
+  int shown = 0;
+  for (const auto& path : books) {
+    SCOPED_TRACE(path.filename());
+    view_.reset();
+    try {
+      OpenFile(path);
+    } catch (const xlsx::PackageError&) {
+      continue;  // which are refused is told elsewhere
+    }
+    BookView& view = Show();
+    for (int tab = 0; tab < view.Tabs().count(); ++tab) {
+      view.Tabs().setCurrentIndex(tab);
+      view.grab();
+      if (SheetView* sheet = view.ShownSheet()) {
+        Press(Qt::Key_End, Qt::ControlModifier);
+        for (const ShownFrame& frame : sheet->Frames()) CaptionOf(frame);
+      }
+      view.grab();
+    }
+    EXPECT_FALSE(Book().Changed());
+    EXPECT_FALSE(Book().Damage());
+    ++shown;
+  }
+  EXPECT_GE(shown, 4);
 }
 
 TEST_F(BookViewTest, ASheetThatCannotBeReadSaysSoAndTheWorkbookCanBeSaved) {

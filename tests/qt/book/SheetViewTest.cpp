@@ -5,6 +5,8 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
+#include "host/excel/ChartObject.h"
+#include "host/excel/ChartObjects.h"
 #include "host/excel/Constants.h"
 #include "host/excel/Shape.h"
 #include "host/excel/Shapes.h"
@@ -328,17 +330,22 @@ TEST_F(SheetViewTest, ChartsAreDrawnWhenTheyAreSeenAndWhenTheyChange) {
   EXPECT_EQ(Shot().pixelColor(place), QColor(Qt::red));
   Shot();
   EXPECT_EQ(drawn, (std::vector<S>{"51 512"}));  // the other one is far below
-  Book().FindWorksheet("Charts")->Shapes()->Item(1)->SetWidth(192);
+  const auto sheet = Book().FindWorksheet("Charts");
+  sheet->Shapes()->Item(1)->SetWidth(192);
   view.Update();
   EXPECT_EQ(drawn.size(), 1U);
   Shot();
   EXPECT_EQ(drawn.back(), "51 256");
+  sheet->ChartObjects()->Item("Chart 1")->Chart()->SetChartType(excel::xlPie);
+  view.Update();
+  Shot();
+  EXPECT_EQ(drawn.back(), "5 256");
   draws = false;
-  Book().FindWorksheet("Charts")->Shapes()->Item(1)->SetWidth(300);
+  sheet->Shapes()->Item(1)->SetWidth(300);
   view.Update();
   EXPECT_NE(Shot().pixelColor(place), QColor(Qt::red));
   // a chart that is gone before the window hears of it
-  Book().FindWorksheet("Charts")->Shapes()->Item(1)->Delete();
+  sheet->Shapes()->Item(1)->Delete();
   Shot();
   view.Update();
   EXPECT_EQ(Sheet().Frames().size(), 1U);
