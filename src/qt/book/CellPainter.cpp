@@ -78,7 +78,9 @@ const CellPainter::Face& CellPainter::FaceOf(std::uint32_t style) {
 
 QColor CellPainter::Background(const ShownCell& cell) {
   const auto& fill = source_.LookOf(cell.style).fillColor;
-  return fill ? FromExcel(*fill) : palette_.color(QPalette::Base);
+  // white is the ground that a workbook is made on, so that it is the window's here
+  constexpr std::int32_t kWhite = 0xFFFFFF;
+  return fill && *fill != kWhite ? FromExcel(*fill) : palette_.color(QPalette::Base);
 }
 
 Qt::Alignment CellPainter::SideOf(const ShownCell& cell) {

@@ -32,7 +32,8 @@ class BookTest : public HostTest {
   std::unique_ptr<qtbook::BookView> view_;
 };
 
-/// Styles from 1 on: a filling of FFEE00; centred; bold and right; a date; wrapped; white text.
+/// Styles from 1 on: a filling of FFEE00; centred; bold and right; a date; wrapped; white text; a
+/// line below.
 std::string SomeStyles();
 
 }  // namespace plotsmith::test

@@ -276,7 +276,7 @@ TEST_F(SheetViewTest, FrozenRowsAndColumnsStayWhileTheRestScrolls) {
 
 TEST_F(SheetViewTest, ColorsAreRolesOfThePaletteAndThoseOfTheWorkbook) {
   auto book = RowBook({RawCell{"><v>1</v></c>"}, RawCell{" s=\"1\"><v>5</v></c>"},
-                       RawCell{" s=\"6\" t=\"str\"><v>white</v></c>"}});
+                       RawCell{" s=\"6\" t=\"str\"><v>white</v></c>"}, RawCell{" s=\"7\"/"}});
   Show(book);
   const QPalette light = view_->palette();
   QPalette dark = light;
@@ -301,6 +301,8 @@ TEST_F(SheetViewTest, ColorsAreRolesOfThePaletteAndThoseOfTheWorkbook) {
   EXPECT_EQ(cell, light.color(QPalette::Base));
   EXPECT_EQ(head, light.color(QPalette::Button));
   EXPECT_EQ(filled, filling);
+  const QRect bordered = Sheet().CellArea({1, 4});
+  EXPECT_EQ(Shot().pixelColor(bordered.center().x(), bordered.bottom()), light.color(QPalette::Text));
   EXPECT_EQ(SideOfInk({1, 3}), "left");  // white on white would not be seen
   view_->setPalette(dark);
   QApplication::processEvents();
