@@ -31,6 +31,8 @@ const std::map<std::string, std::set<std::string>> kAllowed = {
     {"cli",
      {"runtime", "dom", "forms", "host", "common", "metadata", "builder", "readback", "pages", "controller",
       "xlsx"}},
+    {"qt/forms", {"runtime", "forms", "pages"}},
+    {"qt/book", {"runtime", "host", "xlsx"}},
     {"qt/help", {"runtime"}},
 };
 
