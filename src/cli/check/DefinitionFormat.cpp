@@ -175,7 +175,7 @@ class FormatCheck {
   }
 
   void CheckAttributes(const dom::IXMLDOMElement& element, const ElementFormat& format) {
-    const std::string owner = "The element " + Quoted(format.name);
+    const auto owner = [&] { return "The element " + Quoted(format.name); };
     for (const auto& [name, value] : element.attributes()) {
       const auto known =
           std::find_if(format.attributes.begin(), format.attributes.end(),
@@ -183,13 +183,13 @@ class FormatCheck {
       if (known != format.attributes.end()) {
         CheckValue(*known, value);
       } else if (!IsForeign(name)) {
-        Report(owner + " has an unknown attribute " + Quoted(name) + KnownAttributes(format));
+        Report(owner() + " has an unknown attribute " + Quoted(name) + KnownAttributes(format));
       }
     }
     for (const AttributeFormat& attribute : format.attributes) {
       if (!attribute.required || !GetAttributeText(element, std::string(attribute.name).c_str()).empty())
         continue;
-      Report(owner + " has no " + Quoted(attribute.name) +
+      Report(owner() + " has no " + Quoted(attribute.name) +
              (attribute.values.empty() ? "." : Allowed(attribute)));
     }
   }

@@ -1,0 +1,140 @@
+#include "cli/check/RunLook.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "cli/check/BubbleLabels.h"
+#include "cli/check/ReadBackCheck.h"
+#include "cli/check/SourceCheck.h"
+#include "cli/check/Words.h"
+#include "common/CommonFunctions.h"
+#include "common/PSConstants.h"
+#include "common/RunVariables.h"
+
+namespace plotsmith::cli {
+namespace {
+
+using dom::IXMLDOMElement;
+
+constexpr const char* kBubbleType = "bubble";
+
+/// How a line calls a chart: by its name, or else by its id; "" for a row without either.
+std::string Called(const std::string& id, const std::string& name) {
+  return name.empty() ? id : "'" + OneLine(name) + "'";
+}
+
+std::string Line(const std::string& place, std::vector<std::string> charts, const std::string& sentence) {
+  std::erase(charts, "");
+  if (charts.empty()) return place + ": " + sentence;
+  return place + (charts.size() == 1 ? " (chart " : " (charts ") + Listed(charts) + "): " + sentence;
+}
+
+}  // namespace
+
+RunLook::RunLook(xlsx::Workbook& book, DefinitionsAre definitions)
+    : book_(book), definitions_(definitions), rows_(CheckRows(book)) {}
+
+std::vector<std::string> RunLook::Refusals() const {
+  std::vector<std::string> lines;
+  for (const CheckedDefinition& row : rows_) {
+    for (const Finding& finding : row.findings) {
+      if (finding.severity != Severity::kRefuses) continue;
+      lines.push_back(Line(finding.place, {Called(row.id, row.name)}, finding.sentence));
+    }
+  }
+  return lines;
+}
+
+const CheckedDefinition* RunLook::FindRow(const std::string& id) const {
+  const auto found = std::find_if(rows_.begin(), rows_.end(), [&](const CheckedDefinition& row) {
+    return row.id == id && !row.IsLost() && !row.IsUnread();
+  });
+  return found == rows_.end() ? nullptr : &*found;
+}
+
+void RunLook::ChartStarted(const std::string& id) {
+  const auto chart = colCharts->Item(id).selectSingleNode("chart");
+  Findings& findings = started_[id];
+  findings = CheckSources(book_, chart, "");
+  if (const CheckedDefinition* const row = FindRow(id)) CompareStored(*row, chart, findings);
+  if (GetAttributeText(chart, "type") == kBubbleType && HostVersion(oApplication) > kLastClassicVersion) {
+    drewBubbles_ = true;
+  }
+}
+
+void RunLook::CompareStored(const CheckedDefinition& row, const IXMLDOMElement& read, Findings& findings) {
+  if (definitions_ == DefinitionsAre::kEdited) return;
+  const auto stored = row.document.selectSingleNode("chart");
+  Findings differences = CheckReadBack(stored, read, "");
+  if (!differences.empty() && IsDefinitionNewer(book_, stored, row.chartPart)) {
+    Append(findings, std::move(differences));
+  }
+}
+
+bool RunLook::IsFine() const {
+  const auto isFine = [](const auto& findings) { return findings.empty(); };
+  return !drewBubbles_ &&
+         std::all_of(rows_.begin(), rows_.end(), [&](const auto& row) { return isFine(row.findings); }) &&
+         std::all_of(started_.begin(), started_.end(),
+                     [&](const auto& chart) { return isFine(chart.second); });
+}
+
+void RunLook::CollectLost(std::vector<ChartFinding>& collected) const {
+  for (const CheckedDefinition& row : rows_) {
+    for (const Finding& finding : row.findings) {
+      if (finding.severity != Severity::kSaid) collected.push_back({finding, Called(row.id, row.name)});
+    }
+  }
+}
+
+void RunLook::CollectKept(const CheckedDefinition& row, std::vector<ChartFinding>& collected) const {
+  const auto collect = [&](Finding finding) {
+    if (finding.place.empty()) finding.place = row.place;
+    collected.push_back({std::move(finding), Called(row.id, row.name)});
+  };
+  if (row.IsUnread()) {
+    collect(row.findings.front());
+    return;
+  }
+  const auto started = started_.find(row.id);
+  if (started == started_.end()) return;
+  if (const CheckedDefinition* const before = FindRow(row.id)) {
+    for (Finding finding : before->findings) {
+      finding.place = row.place;  // rows above may have gone
+      collect(std::move(finding));
+    }
+  }
+  for (const Finding& finding : started->second) collect(finding);
+  if (drewBubbles_ && row.type == kBubbleType) {
+    for (Finding& finding : CheckBubbleLabels(book_, row.document.selectSingleNode("chart"))) {
+      collect(std::move(finding));
+    }
+  }
+}
+
+std::vector<std::string> RunLook::Lines(const std::vector<ChartFinding>& collected) {
+  std::vector<std::pair<const Finding*, std::vector<std::string>>> groups;
+  for (const ChartFinding& each : collected) {
+    const auto group = std::find_if(groups.begin(), groups.end(), [&](const auto& other) {
+      return other.first->place == each.finding.place && other.first->sentence == each.finding.sentence;
+    });
+    if (group == groups.end())
+      groups.push_back({&each.finding, {each.chart}});
+    else
+      group->second.push_back(each.chart);
+  }
+  std::vector<std::string> lines;
+  for (const auto& [finding, charts] : groups)
+    lines.push_back(Line(finding->place, charts, Reported(*finding)));
+  return lines;
+}
+
+std::vector<std::string> RunLook::Finish() {
+  if (IsFine()) return {};
+  std::vector<ChartFinding> collected;
+  CollectLost(collected);
+  for (const CheckedDefinition& row : CheckRows(book_)) CollectKept(row, collected);
+  return Lines(collected);
+}
+
+}  // namespace plotsmith::cli
