@@ -193,6 +193,28 @@ TEST_F(RunLookTest, ADefinitionThatAProgramChangedIsToldFromAChartThatAPersonCha
   EXPECT_EQ(Refresh(), Line("The chart's own title 'Sales' was kept; the definition said 'Costs'."));
 }
 
+TEST_F(RunLookTest, AVerbThatChangesDefinitionsSaysWhatIsLeftOfTheOldOnes) {
+  Definition definition{"VEX_Chart1"};
+  definition.rest = "<axes><axis type=\"value\" label=\"Amount\" sticky=\"no\"/></axes>";
+  Write(SalesBook({definition}));
+  EXPECT_EQ(Refresh(), "");
+  Edit(kDefinitions, "title=\"Sales\"", "title=\"Costs\" colour=\"red\"");
+  Edit("/xl/worksheets/sheet1.xml", "Amount", "Turnover");
+  const S colour = Line(
+      "The element 'chart' has an unknown attribute 'colour'; there are id, name, title, type, table-id, "
+      "strategic-bucket-table-id and number-format.");
+  EXPECT_EQ(RunCommand({"rename-columns", path_, "--table", "Data1", "Amount=Turnover"}).err,
+            colour + Line("The chart's own title 'Sales' was kept; the definition said 'Costs'."))
+      << "the axis title has its new name from the command";
+
+  Definition typeless{"VEX_Chart1", "line"};
+  typeless.attributes += " colour=\"red\"";
+  Write(SalesBook({typeless, {"VEX_Chart2", "line"}}));
+  EXPECT_EQ(RunCommand({"modify", path_, "VEX_Chart1", "--type", "pie"}).err,
+            runtime::Replace(colour, "Name of VEX_Chart1", "Sales"))
+      << "the type has changed, and the other chart isn't drawn";
+}
+
 TEST_F(RunLookTest, CellsThatMakeAWrongPictureAreSaid) {
   const RawCell formula{"><f>1+1</f><v></v></c>"}, error{" t=\"e\"><v>#N/A</v></c>"};
   const auto refresh = [&](const auto& change, const Definition& definition = {}) {

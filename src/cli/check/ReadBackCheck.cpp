@@ -66,16 +66,18 @@ Aspect ListAspect(const IXMLDOMElement& stored, const IXMLDOMElement& read, cons
           AttributeList(read, query.c_str(), attribute)};
 }
 
-std::vector<Aspect> Aspects(const IXMLDOMElement& stored, const IXMLDOMElement& read) {
+std::vector<Aspect> Aspects(const IXMLDOMElement& stored, const IXMLDOMElement& read, AxisTitles axisTitles) {
   std::vector<Aspect> aspects = {
       AttributeAspect(stored, read, "title", "title"),
       AttributeAspect(stored, read, "type", "type"),
       AttributeAspect(stored, read, "number-format", "number format"),
       ListAspect(stored, read, "dynamic-attributes", "attribute", "setting", "setting"),
-      AxisAspect(stored, read, "label", "title of the label axis"),
-      AxisAspect(stored, read, "value", "title of the value axis"),
       {"comment", static_cast<bool>(stored.selectSingleNode("comment")), GetChildText(stored, "comment"),
        GetChildText(read, "comment")}};
+  if (axisTitles == AxisTitles::kCompared) {
+    aspects.push_back(AxisAspect(stored, read, "label", "title of the label axis"));
+    aspects.push_back(AxisAspect(stored, read, "value", "title of the value axis"));
+  }
   // A strategic bucket chart always has values on the marks of its buckets.
   if (GetAttributeText(read, "type") != "strategic bucket") {
     aspects.push_back(ListAspect(stored, read, "data-labels", "data-label", "show", "data label"));
@@ -94,9 +96,10 @@ std::string Sentence(const Aspect& aspect) {
 
 }  // namespace
 
-Findings CheckReadBack(const IXMLDOMElement& stored, const IXMLDOMElement& read, const std::string& place) {
+Findings CheckReadBack(const IXMLDOMElement& stored, const IXMLDOMElement& read, const std::string& place,
+                       AxisTitles axisTitles) {
   Findings findings;
-  for (const Aspect& aspect : Aspects(stored, read)) {
+  for (const Aspect& aspect : Aspects(stored, read, axisTitles)) {
     if (!aspect.stored || aspect.saidByDefinition == aspect.keptOnChart) continue;
     findings.push_back({place, FindingKind::kChart, Sentence(aspect)});
   }

@@ -8,11 +8,14 @@
 
 namespace plotsmith::cli {
 
+/// Whether axis titles count as differences, or have just been given the new names of columns.
+enum class AxisTitles { kCompared, kRenamed };
+
 /// Where a definition says one thing of a drawn chart and the chart another, which counts. `stored` is the
 /// `chart` element of the row, `read` the same after a load has read the chart back. What `stored` doesn't
 /// say at all is no difference.
 Findings CheckReadBack(const dom::IXMLDOMElement& stored, const dom::IXMLDOMElement& read,
-                       const std::string& place);
+                       const std::string& place, AxisTitles axisTitles);
 
 /// Whether it was the definition that somebody changed last, and not the chart. A person changes a chart in a
 /// spreadsheet program, which writes the chart's part anew in its own form. So a chart whose part still has

@@ -65,7 +65,9 @@ void RunLook::ChartStarted(const std::string& id) {
 void RunLook::CompareStored(const CheckedDefinition& row, const IXMLDOMElement& read, Findings& findings) {
   if (definitions_ == DefinitionsAre::kEdited) return;
   const auto stored = row.document.selectSingleNode("chart");
-  Findings differences = CheckReadBack(stored, read, "");
+  Findings differences =
+      CheckReadBack(stored, read, "",
+                    definitions_ == DefinitionsAre::kRenamed ? AxisTitles::kRenamed : AxisTitles::kCompared);
   if (!differences.empty() && IsDefinitionNewer(book_, stored, row.chartPart)) {
     Append(findings, std::move(differences));
   }
@@ -98,7 +100,10 @@ void RunLook::CollectKept(const CheckedDefinition& row, std::vector<ChartFinding
   }
   const auto started = started_.find(row.id);
   if (started == started_.end()) return;
-  if (const CheckedDefinition* const before = FindRow(row.id)) {
+  // A load takes unknown settings off a drawn chart's definition; what a page has changed is no matter any
+  // more.
+  const CheckedDefinition* const before = definitions_ == DefinitionsAre::kEdited ? &row : FindRow(row.id);
+  if (before != nullptr) {
     for (Finding finding : before->findings) {
       finding.place = row.place;  // rows above may have gone
       collect(std::move(finding));

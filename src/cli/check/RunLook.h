@@ -10,8 +10,12 @@
 
 namespace plotsmith::cli {
 
-/// Whether a run takes the definitions as the rows have them, or lets pages and options change them.
-enum class DefinitionsAre { kTaken, kEdited };
+/// What a run does to the definitions of the charts that it builds.
+enum class DefinitionsAre {
+  kTaken,    ///< it takes them as the rows have them
+  kRenamed,  ///< the names of columns change, and axis titles with them
+  kEdited    ///< pages and options change them
+};
 
 /// The look at a workbook around a run that writes it: at the rows of definitions before, at each chart when
 /// its build begins, and at what came out. So a person hears of everything that the run does to their work.
