@@ -273,6 +273,11 @@ TEST_F(RunLookTest, AColumnThatLooksRenamedIsNamed) {
           Line("The table 'Data1' has no column 'Amount' for 'values'; it has Region, Product, Turnover "
                "and Cost; 'Turnover' is in its place, and if that is its new name, plotsmith "
                "rename-columns BOOK --table Data1 'Amount=Turnover' carries it into the charts."));
+  const S drawnAt = "&lt;values&gt;&lt;column name=\"Amount\" worksheet-column-number=\"3\"";
+  Edit(kDefinitions, drawnAt, runtime::Replace(drawnAt, "\"3\"", "\"C\""));
+  EXPECT_EQ(Refresh(), missing + Line("The table 'Data1' has no column 'Amount' for 'values'; it has Region, "
+                                      "Product, Turnover and Cost."))
+      << "the number was garbled";
   const CommandResult renamed = RunCommand({"rename-columns", path_, "--table", "Data1", "Amount=Turnover"});
   EXPECT_EQ(renamed.code, 0) << renamed.err;
   EXPECT_EQ(Refresh(), "");
@@ -302,6 +307,8 @@ TEST_F(RunLookTest, ABubbleWithoutALabelTakesTheLegendAlong) {
     EXPECT_EQ(Refresh(), Line(start + sentence + again, "Data1!B5"));
     EXPECT_EQ(Refresh({"--host-version", "11"}), "") << "there the chart's own legend is used";
   }
+  Edit("/xl/worksheets/sheet1.xml", "Size", "Weight");
+  EXPECT_EQ(Refresh().find("Data1!B5"), S::npos) << "a chart that can't be drawn has other troubles";
   Write(test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"c", "g|h", 3, 4, 5}},
                          test::BubbleDefinition()));
   EXPECT_EQ(Refresh(), "") << "each piece has a colour";

@@ -36,8 +36,8 @@ std::string AttributeList(const IXMLDOMElement& chart, const char* query, const 
 
 Aspect AttributeAspect(const IXMLDOMElement& stored, const IXMLDOMElement& read, const char* attribute,
                        const char* what) {
-  return {what, HasAttribute(stored, attribute), GetAttributeText(stored, attribute),
-          GetAttributeText(read, attribute)};
+  const std::string said = GetAttributeText(stored, attribute);
+  return {what, !said.empty() || HasAttribute(stored, attribute), said, GetAttributeText(read, attribute)};
 }
 
 /// The axis of a type, "label" or "value"; Nothing if the definition names none.

@@ -29,6 +29,12 @@ std::string Line(const std::string& place, std::vector<std::string> charts, cons
   return place + (charts.size() == 1 ? " (chart " : " (charts ") + Listed(charts) + "): " + sentence;
 }
 
+/// Whether a chart can't be drawn for a finding: a table or a column isn't there.
+bool ForbidsDrawing(const Finding& finding) {
+  return finding.kind == FindingKind::kTable ||
+         (finding.kind == FindingKind::kColumn && finding.place.empty());
+}
+
 }  // namespace
 
 RunLook::RunLook(xlsx::Workbook& book, DefinitionsAre definitions)
@@ -57,8 +63,9 @@ void RunLook::ChartStarted(const std::string& id) {
   Findings& findings = started_[id];
   findings = CheckSources(book_, chart, "");
   if (const CheckedDefinition* const row = FindRow(id)) CompareStored(*row, chart, findings);
-  if (GetAttributeText(chart, "type") == kBubbleType && HostVersion(oApplication) > kLastClassicVersion) {
-    drewBubbles_ = true;
+  if (GetAttributeText(chart, "type") == kBubbleType && HostVersion(oApplication) > kLastClassicVersion &&
+      std::none_of(findings.begin(), findings.end(), ForbidsDrawing)) {
+    bubbles_.insert(id);
   }
 }
 
@@ -75,7 +82,7 @@ void RunLook::CompareStored(const CheckedDefinition& row, const IXMLDOMElement& 
 
 bool RunLook::IsFine() const {
   const auto isFine = [](const auto& findings) { return findings.empty(); };
-  return !drewBubbles_ &&
+  return bubbles_.empty() &&
          std::all_of(rows_.begin(), rows_.end(), [&](const auto& row) { return isFine(row.findings); }) &&
          std::all_of(started_.begin(), started_.end(),
                      [&](const auto& chart) { return isFine(chart.second); });
@@ -110,7 +117,7 @@ void RunLook::CollectKept(const CheckedDefinition& row, std::vector<ChartFinding
     }
   }
   for (const Finding& finding : started->second) collect(finding);
-  if (drewBubbles_ && row.type == kBubbleType) {
+  if (bubbles_.contains(row.id)) {
     for (Finding& finding : CheckBubbleLabels(book_, row.document.selectSingleNode("chart"))) {
       collect(std::move(finding));
     }

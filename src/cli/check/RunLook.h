@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -53,7 +54,7 @@ class RunLook {
   DefinitionsAre definitions_;
   std::vector<CheckedDefinition> rows_;      ///< before the run
   std::map<std::string, Findings> started_;  ///< about each chart whose build began, by id
-  bool drewBubbles_ = false;
+  std::set<std::string> bubbles_;            ///< ids of bubble charts with a drawn legend that were drawn
 };
 
 }  // namespace plotsmith::cli

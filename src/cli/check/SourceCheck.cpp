@@ -8,6 +8,7 @@
 #include "cli/check/TableCheck.h"
 #include "cli/check/Words.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
 #include "metadata/StrategicBuckets.h"
@@ -48,6 +49,7 @@ class SourceCheck {
     CheckHeadingsInColumns();
     table_ = FindTable("table-id", "table");
     if (table_) {
+      columns_ = Columns();
       CheckTableServes();
       for (const ColumnGroup& group : ColumnGroups()) CheckColumns(group);
     }
@@ -155,7 +157,7 @@ class SourceCheck {
     for (const IXMLDOMElement& column : element.selectNodes("column")) {
       const std::string name = GetAttributeText(column, "name");
       if (name.empty()) continue;
-      if (const auto found = FindColumn(Columns(), name)) {
+      if (const auto found = FindColumn(columns_, name)) {
         if (numbers && found.tagName() == "label-column") CheckNumbers(group, found);
       } else {
         Report(FindingKind::kColumn, "The table " + Quoted(GetAttributeText(table_, "id")) +
@@ -180,10 +182,11 @@ class SourceCheck {
   /// The heading where the column was when the chart was drawn last; "" if there is none, or if the
   /// definition names that column itself.
   std::string ColumnInPlaceOf(const IXMLDOMElement& missing) const {
-    if (GetAttributeText(missing, "worksheet-column-number").empty()) return "";
-    const std::int32_t shift = TableArea(table_).leftColumn - DrawnLeftColumn();
-    const std::int32_t number = GetAttributeLong(missing, "worksheet-column-number") + shift;
-    for (const IXMLDOMElement& column : table_.childElements()) {
+    const std::int32_t drawnAt = StoredNumber(missing, "worksheet-column-number");
+    const std::int32_t drawnLeft = StoredNumber(chart_, "table-left-column");
+    if (drawnAt == 0 || drawnLeft == 0) return "";
+    const std::int32_t number = drawnAt + TableArea(table_).leftColumn - drawnLeft;
+    for (const IXMLDOMElement& column : columns_) {
       if (GetAttributeLong(column, "worksheet-column-number") != number) continue;
       const std::string name = GetAttributeText(column, "name");
       return IsNamed(name) ? "" : name;
@@ -191,11 +194,9 @@ class SourceCheck {
     return "";
   }
 
-  /// The left edge of the table when the chart was drawn last.
-  std::int32_t DrawnLeftColumn() const {
-    return GetAttributeText(chart_, "table-left-column").empty()
-               ? TableArea(table_).leftColumn
-               : GetAttributeLong(chart_, "table-left-column");
+  /// A number that the last refresh has stored in the definition; 0 if there is none.
+  static std::int32_t StoredNumber(const IXMLDOMElement& element, const char* attribute) {
+    return ValueOr(std::int32_t{0}, [&] { return GetAttributeLong(element, attribute); });
   }
 
   /// Whether a group of the definition names the column.
@@ -208,8 +209,9 @@ class SourceCheck {
 
   /// Label columns come first, as they do for a refresh.
   IXMLDOMNodeList Columns() const {
-    IXMLDOMNodeList columns = table_.selectNodes("label-column");
-    for (auto& column : table_.selectNodes("number-column")) columns.push_back(column);
+    IXMLDOMNodeList columns = table_.childElements();
+    std::stable_partition(columns.begin(), columns.end(),
+                          [](const IXMLDOMElement& column) { return column.tagName() == "label-column"; });
     return columns;
   }
 
@@ -284,7 +286,8 @@ class SourceCheck {
   const IXMLDOMElement& chart_;
   const std::string& place_;
   std::string type_;
-  IXMLDOMElement table_;  ///< the source table; Nothing if it isn't there
+  IXMLDOMElement table_;     ///< the source table; Nothing if it isn't there
+  IXMLDOMNodeList columns_;  ///< its columns
   Findings findings_;
 };
 
