@@ -170,7 +170,9 @@ TEST_F(RunLookTest, RowsThatAreNotReadAndNamesThatAreUnknownAreSaid) {
 TEST_F(RunLookTest, ADefinitionThatAProgramChangedIsToldFromAChartThatAPersonChanged) {
   Definition definition{"VEX_Chart1"};
   definition.rest = "<axes><axis type=\"value\" label=\"Euro\" sticky=\"no\"/></axes>";
-  Write(SalesBook({definition}));
+  PlainBook book = SalesBook({definition});
+  book.sheets.push_back(test::SalesSheet("Data2"));
+  Write(book);
   EXPECT_EQ(Refresh(), "");
   EXPECT_EQ(Refresh(), "") << "what was drawn reads back as it was stored";
   const auto edit = [&] {
@@ -179,11 +181,13 @@ TEST_F(RunLookTest, ADefinitionThatAProgramChangedIsToldFromAChartThatAPersonCha
     Edit(kDefinitions, "label=\"Euro\"", "label=\"Dollar\"");
   };
   edit();
-  EXPECT_EQ(Refresh(),
-            Line("The chart's own title 'Sales' was kept; the definition said 'Costs'.") +
-                Line("The chart's own type 'column' was kept; the definition said 'bar'.") +
-                Line("The chart's own title of the value axis 'Euro' was kept; the definition said "
-                     "'Dollar'."));
+  const S kept =
+      Line("The chart's own title 'Sales' was kept; the definition said 'Costs'.") +
+      Line("The chart's own type 'column' was kept; the definition said 'bar'.") +
+      Line("The chart's own title of the value axis 'Euro' was kept; the definition said 'Dollar'.");
+  EXPECT_EQ(RunCommand({"refresh", path_, "--table", "Data2", "-o", folder_ / "other.xlsx"}).err, kept)
+      << "all definitions are stored, whichever table is refreshed";
+  EXPECT_EQ(Refresh(), kept);
   EXPECT_EQ(Refresh(), "");
   Edit(kChart, "?><c:chartSpace", "?>\r\n<c:chartSpace");  // a spreadsheet program has saved it
   edit();
@@ -204,7 +208,7 @@ TEST_F(RunLookTest, AVerbThatChangesDefinitionsSaysWhatIsLeftOfTheOldOnes) {
       "The element 'chart' has an unknown attribute 'colour'; there are id, name, title, type, table-id, "
       "strategic-bucket-table-id and number-format.");
   EXPECT_EQ(RunCommand({"rename-columns", path_, "--table", "Data1", "Amount=Turnover"}).err,
-            colour + Line("The chart's own title 'Sales' was kept; the definition said 'Costs'."))
+            Line("The chart's own title 'Sales' was kept; the definition said 'Costs'.") + colour)
       << "the axis title has its new name from the command";
 
   Definition typeless{"VEX_Chart1", "line"};

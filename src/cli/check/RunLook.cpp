@@ -62,27 +62,31 @@ void RunLook::ChartStarted(const std::string& id) {
   const auto chart = colCharts->Item(id).selectSingleNode("chart");
   Findings& findings = started_[id];
   findings = CheckSources(book_, chart, "");
-  if (const CheckedDefinition* const row = FindRow(id)) CompareStored(*row, chart, findings);
+  CompareStored();
   if (GetAttributeText(chart, "type") == kBubbleType && HostVersion(oApplication) > kLastClassicVersion &&
       std::none_of(findings.begin(), findings.end(), ForbidsDrawing)) {
     bubbles_.insert(id);
   }
 }
 
-void RunLook::CompareStored(const CheckedDefinition& row, const IXMLDOMElement& read, Findings& findings) {
-  if (definitions_ == DefinitionsAre::kEdited) return;
-  const auto stored = row.document.selectSingleNode("chart");
-  Findings differences =
-      CheckReadBack(stored, read, "",
-                    definitions_ == DefinitionsAre::kRenamed ? AxisTitles::kRenamed : AxisTitles::kCompared);
-  if (!differences.empty() && IsDefinitionNewer(book_, stored, row.chartPart)) {
-    Append(findings, std::move(differences));
+void RunLook::CompareStored() {
+  if (definitions_ == DefinitionsAre::kEdited || !colCharts || std::exchange(compared_, true)) return;
+  const AxisTitles axisTitles =
+      definitions_ == DefinitionsAre::kRenamed ? AxisTitles::kRenamed : AxisTitles::kCompared;
+  for (const dom::IXMLDOMDocument2& document : *colCharts) {
+    const auto read = document.selectSingleNode("chart");
+    const CheckedDefinition* const row = FindRow(GetAttributeText(read, "id"));
+    if (row == nullptr) continue;
+    const auto stored = row->document.selectSingleNode("chart");
+    Findings differences = CheckReadBack(stored, read, "", axisTitles);
+    if (differences.empty() || !IsDefinitionNewer(book_, stored, row->chartPart)) continue;
+    differences_[row->id] = std::move(differences);
   }
 }
 
 bool RunLook::IsFine() const {
   const auto isFine = [](const auto& findings) { return findings.empty(); };
-  return bubbles_.empty() &&
+  return bubbles_.empty() && differences_.empty() &&
          std::all_of(rows_.begin(), rows_.end(), [&](const auto& row) { return isFine(row.findings); }) &&
          std::all_of(started_.begin(), started_.end(),
                      [&](const auto& chart) { return isFine(chart.second); });
@@ -104,6 +108,10 @@ void RunLook::CollectKept(const CheckedDefinition& row, std::vector<ChartFinding
   if (row.IsUnread()) {
     collect(row.findings.front());
     return;
+  }
+  // All definitions are stored, also those of charts that aren't built.
+  if (const auto differences = differences_.find(row.id); differences != differences_.end()) {
+    for (const Finding& finding : differences->second) collect(finding);
   }
   const auto started = started_.find(row.id);
   if (started == started_.end()) return;
@@ -142,6 +150,7 @@ std::vector<std::string> RunLook::Lines(const std::vector<ChartFinding>& collect
 }
 
 std::vector<std::string> RunLook::Finish() {
+  CompareStored();
   if (IsFine()) return {};
   std::vector<ChartFinding> collected;
   CollectLost(collected);

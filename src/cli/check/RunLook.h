@@ -40,7 +40,8 @@ class RunLook {
   };
 
   const CheckedDefinition* FindRow(const std::string& id) const;
-  void CompareStored(const CheckedDefinition& row, const dom::IXMLDOMElement& read, Findings& findings);
+  /// Compares the definitions of the rows with what a load has read back from their charts, once in a run.
+  void CompareStored();
   /// Whether there is nothing to say, so that the rows need not be looked at again.
   bool IsFine() const;
   /// What was found before the run about rows that the run took off the sheet.
@@ -52,9 +53,11 @@ class RunLook {
 
   xlsx::Workbook& book_;
   DefinitionsAre definitions_;
-  std::vector<CheckedDefinition> rows_;      ///< before the run
-  std::map<std::string, Findings> started_;  ///< about each chart whose build began, by id
-  std::set<std::string> bubbles_;            ///< ids of bubble charts with a drawn legend that were drawn
+  std::vector<CheckedDefinition> rows_;          ///< before the run
+  std::map<std::string, Findings> started_;      ///< about each chart whose build began, by id
+  std::map<std::string, Findings> differences_;  ///< where a chart counts and not its definition, by id
+  bool compared_ = false;
+  std::set<std::string> bubbles_;  ///< ids of bubble charts with a drawn legend that were drawn
 };
 
 }  // namespace plotsmith::cli
