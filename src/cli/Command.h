@@ -12,7 +12,8 @@ namespace plotsmith::cli {
 struct GlobalOptions {
   double hostVersion = 16;
   bool journal = false;
-  bool force = false;  ///< also write a workbook that another program holds open
+  bool force = false;       ///< also write a workbook that another program holds open
+  bool dropBroken = false;  ///< also write a workbook whose broken definitions are lost by that
 };
 
 /// How a command ends.
@@ -20,7 +21,8 @@ namespace exit_code {
 inline constexpr int kDone = 0;
 inline constexpr int kSaidSomething = 1;  ///< done, but Plotsmith had something to say
 inline constexpr int kUsage = 2;
-inline constexpr int kFile = 3;  ///< a workbook or the output can't be read or written; nothing was changed
+/// A workbook or the output can't be read or written, or definitions would be lost; nothing was changed.
+inline constexpr int kFile = 3;
 }  // namespace exit_code
 
 /// A sentence for the user, and the exit code that goes with it.

@@ -19,7 +19,8 @@ constexpr const char* kDescription =
 
 constexpr const char* kFooter =
     "Exit codes: 0 done, 1 done but Plotsmith had something to say, 2 wrong usage,\n"
-    "3 the workbook or the output could not be read or written, and nothing was changed.";
+    "3 the workbook or the output could not be read or written, or definitions of charts would\n"
+    "have been lost, and nothing was changed.";
 
 /// How many arguments an option takes up that `argument` names in full, alone or with its value behind "=";
 /// 0 if it names none.
@@ -73,6 +74,8 @@ CommandLine::CommandLine() : app(kDescription, "plotsmith"), commands(MakeComman
       ->capture_default_str();
   app.add_flag("--journal", options.journal,
                "Write down each change to the workbook as it is made, a line each");
+  app.add_flag("--drop-broken", options.dropBroken,
+               "Also write a workbook with definitions that are broken or have no chart, and drop them");
   app.add_flag("--force", options.force, "Also write a workbook that another program holds open");
   for (const auto& command : commands) verbs.push_back(command->Declare(app));
 }

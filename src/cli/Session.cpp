@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 #include <vector>
 
+#include "cli/check/Words.h"
 #include "common/CommonFunctions.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
@@ -141,10 +143,45 @@ void Session::CheckTable(const std::string& id) const {
                      "\"" + path_ + "\" has no table \"" + id + "\" (plotsmith tables lists those it has).");
 }
 
+void Session::Look(const std::function<void()>& look) const {
+  struct Restored {
+    runtime::Ref<excel::Application> application = oApplication;
+    runtime::Ref<excel::Workbook> workbook = oWorkbook;
+    ~Restored() {
+      oApplication = application;
+      oWorkbook = workbook;
+    }
+  } restored;
+  oApplication = host_;
+  oWorkbook = host_->ActiveWorkbook();
+  try {
+    look();
+  } catch (const runtime::RuntimeError&) {
+    CheckDamage();  // says what is damaged
+    throw;
+  }
+  CheckDamage();
+}
+
+void Session::LookBeforeRun(DefinitionsAre definitions) {
+  Look([&] { look_.emplace(Book(), definitions); });
+  if (!look_ || options_.dropBroken) return;
+  const std::vector<std::string> lines = look_->Refusals();
+  if (!ReportFindings(lines)) return;
+  throw CommandError(exit_code::kFile, "nothing was changed, as " + Counted(lines.size(), "definition") +
+                                           " would be lost; mend what is said, or use --drop-broken.");
+}
+
+bool Session::ReportFindings(const std::vector<std::string>& lines) const {
+  for (const std::string& line : lines) streams_.err << "plotsmith: " << line << '\n';
+  return !lines.empty();
+}
+
 void Session::ChartStarted(const std::vector<runtime::Variant>& arguments) {
   // without an argument it is the whole run that begins
   if (arguments.empty() || !colCharts) return;
   ++chartsStarted_;
+  if (look_) look_->ChartStarted(runtime::CStr(arguments[0]));
   if (!streams_.terminal) return;
   const std::string line = "Refreshing chart " + std::to_string(chartsStarted_) + " ...";
   streams_.err << '\r' << line << std::flush;
@@ -169,7 +206,10 @@ int Session::ReportMessages() {
 }
 
 int Session::Save(const std::optional<std::string>& output) {
-  CheckDamage();
+  std::vector<std::string> findings;
+  Look([&] {
+    if (look_) findings = look_->Finish();
+  });
   Deliver(streams_);  // while nothing is changed yet
   if (output || Book().Changed()) {
     try {
@@ -179,7 +219,8 @@ int Session::Save(const std::optional<std::string>& output) {
       throw CantSave(output.value_or(path_), e.what());
     }
   }
-  return ReportMessages();
+  const int code = ReportMessages();
+  return ReportFindings(findings) ? exit_code::kSaidSomething : code;
 }
 
 void Session::WriteBook(const std::optional<std::string>& output) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -8,6 +9,7 @@
 #include "cli/Command.h"
 #include "cli/ConsoleDesktop.h"
 #include "cli/Streams.h"
+#include "cli/check/RunLook.h"
 #include "forms/ModalLoop.h"
 #include "runtime/Variant.h"
 #include "xlsx/Application.h"
@@ -37,6 +39,9 @@ class Session {
   /// Refuses, before any work is done, to write where another program has the workbook open, or a file that
   /// the workbook can't be. If `output` is the standard output, the journal goes to `err` from here on.
   void CheckWritable(const std::optional<std::string>& output);
+  /// Looks at the definitions before a run that writes. A CommandError, after a line for each on `err`, where
+  /// the run would lose some, unless the options allow it. What else is found is said after a save.
+  void LookBeforeRun(DefinitionsAre definitions);
   /// After the system has worked: refuses an id of which the workbook has neither a table nor a chart.
   void CheckTable(const std::string& id) const;
   /// How many charts the system has begun to build.
@@ -53,12 +58,17 @@ class Session {
   void ClearProgress();
   void CheckDamage() const;
   int ReportMessages();
+  /// Runs a look at the workbook with the system's variables set to it, and puts them back.
+  void Look(const std::function<void()>& look) const;
+  /// Says what the look has found about the run; false if there is nothing.
+  bool ReportFindings(const std::vector<std::string>& lines) const;
 
   std::string path_;
   GlobalOptions options_;
   Streams streams_;
   std::shared_ptr<ConsoleDesktop> desktop_;
   std::shared_ptr<xlsx::Application> host_;
+  std::optional<RunLook> look_;
   int chartsStarted_ = 0;
   std::size_t progressWidth_ = 0;
   bool bookToOut_ = false;  ///< the workbook goes to the standard output, and so nothing else may

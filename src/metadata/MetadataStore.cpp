@@ -34,21 +34,26 @@ struct ReadRow {
   std::string sID;
 };
 
-/// Each save walks the rows before its own. What they hold is kept beside their texts, so that a row is only
-/// parsed again when its text has changed.
+/// Each save walks the rows before its own. What they hold is kept beside their texts, from the load or the
+/// save on, so that a row is only parsed again when something else has changed its text.
 std::vector<ReadRow> aReadRows;
 
-bool RowHoldsChart(std::int32_t lRow, const std::string& sText, const std::string& sID) {
+ReadRow& ReadRowAt(std::int32_t lRow) {
   const auto lIndex = static_cast<std::size_t>(lRow - kFirstDefinitionRow);
   if (lIndex >= aReadRows.size()) aReadRows.resize(lIndex + 1);
-  if (aReadRows[lIndex].sText != sText) {
+  return aReadRows[lIndex];
+}
+
+bool RowHoldsChart(std::int32_t lRow, const std::string& sText, const std::string& sID) {
+  ReadRow& oRow = ReadRowAt(lRow);
+  if (oRow.sText != sText) {
     ReadRow oRead{sText};
     auto oDoc = NewXMLDocument();
     oRead.bParses = oDoc.loadXML(sText);
     if (const auto oChart = oDoc.selectSingleNode("chart")) oRead.sID = GetAttributeText(oChart, "id");
-    aReadRows[lIndex] = std::move(oRead);
+    oRow = std::move(oRead);
   }
-  return aReadRows[lIndex].bParses && aReadRows[lIndex].sID == sID;
+  return oRow.bParses && oRow.sID == sID;
 }
 
 /// Whether a program dropped the box of a chart that has a comment: then nobody has deleted the comment.
@@ -58,7 +63,7 @@ bool CommentBoxWasDropped(const IXMLDOMElement& oChart) {
 
 /// Loads one row; False if it has no place on the sheet any more. A null `oUnmarked` looks for no chart that
 /// has lost its marker.
-bool LoadChartDefinition(const std::string& sText, UnmarkedCharts* oUnmarked) {
+bool LoadChartDefinition(std::int32_t lRow, const std::string& sText, UnmarkedCharts* oUnmarked) {
   auto oDoc = NewXMLDocument();
   if (!oDoc.loadXML(sText)) return false;
   auto oChart = oDoc.selectSingleNode("chart");
@@ -81,6 +86,7 @@ bool LoadChartDefinition(const std::string& sText, UnmarkedCharts* oUnmarked) {
   colChartObjects->Add(oChartObject, sID);
   colCharts->Add(oDoc, sID);
   if (oComment) colChartShapes->Add(oComment, sID);
+  ReadRowAt(lRow) = {sText, true, sID};
   return true;
 }
 
@@ -126,9 +132,9 @@ void RetrieveChartDefinitions() {
       for (std::int32_t lRow = kFirstDefinitionRow;;) {
         const std::string sText = runtime::CStr(GetCellValue(*oSheet, lRow, 1, cell::kString));
         if (sText.empty()) break;
-        // Whatever goes wrong with a row is that row's fault.
+        // whatever goes wrong with a row is that row's fault
         const bool bLoaded =
-            ValueOr(false, [&] { return LoadChartDefinition(sText, bReload ? nullptr : &oUnmarked); });
+            ValueOr(false, [&] { return LoadChartDefinition(lRow, sText, bReload ? nullptr : &oUnmarked); });
         if (bLoaded || !DeleteSheetRow(oSheet, lRow)) ++lRow;
       }
     }
@@ -161,7 +167,9 @@ void SaveChartDefinition(const IXMLDOMDocument2& oDoc) {
       if (sText.empty()) break;
       if (RowHoldsChart(lRow, sText, sID)) break;
     }
-    oSheet->SetCellValueAt(lRow, 1, oDoc.xml());
+    const std::string sSaved = oDoc.xml();
+    oSheet->SetCellValueAt(lRow, 1, sSaved);
+    ReadRowAt(lRow) = {sSaved, true, sID};
   });
 }
 

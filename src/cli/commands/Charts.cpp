@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/Session.h"
+#include "cli/check/SourceCheck.h"
 #include "common/CommonFunctions.h"
 #include "common/ErrorBlocks.h"
 #include "common/RunVariables.h"
@@ -38,6 +39,13 @@ Json Describe(const dom::IXMLDOMElement& chart) {
           {"state", State(chart)}};
 }
 
+/// What makes the picture wrong, a line each, in the words of a refresh.
+void PrintFindings(std::ostream& out, xlsx::Workbook& book, const dom::IXMLDOMDocument2& document) {
+  for (const Finding& finding : CheckSources(book, document.selectSingleNode("chart"), "")) {
+    out << "    " << (finding.place.empty() ? "" : finding.place + ": ") << finding.sentence << '\n';
+  }
+}
+
 }  // namespace
 
 CLI::App* ChartsCommand::Declare(CLI::App& app) {
@@ -62,6 +70,7 @@ int ChartsCommand::Run(const GlobalOptions& options, const Streams& streams) {
     streams.out << text("id") << "  \"" << text("name") << "\"\n  " << text("type") << " chart on sheet "
                 << text("chartSheet") << ", from table " << text("table") << " on sheet "
                 << text("tableSheet") << "\n  " << text("state") << '\n';
+    PrintFindings(streams.out, session.Book(), colCharts->Item(chart["id"].get<std::string>()));
   }
   return code;
 }

@@ -17,6 +17,7 @@ int RefreshCommand::Run(const GlobalOptions& options, const Streams& streams) {
   if (table_) RequireTableId(*table_);
   Session session(book_, options, streams);
   session.CheckWritable(output_);
+  session.LookBeforeRun(DefinitionsAre::kTaken);
   CPlotsmithController controller;
   if (table_) {
     controller.RefreshChartsForTable(session.Host(), *table_);

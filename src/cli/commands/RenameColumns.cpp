@@ -98,6 +98,7 @@ int RenameColumnsCommand::Run(const GlobalOptions& options, const Streams& strea
   }
   Session session(book_, options, streams);
   session.CheckWritable(output_);
+  session.LookBeforeRun(DefinitionsAre::kRenamed);
   CPlotsmithController controller;
   controller.UpdateChartColumnNamesForTable(session.Host(), table_, oldNames, newNames);
   session.CheckTable(table_);

@@ -52,6 +52,7 @@ int WizardCommand::Play(std::istream& script, const GlobalOptions& options, cons
   };
   WizardRun run(book_, options, streams, lines, print, Outside::kScript);
   run.Workbook().CheckWritable(output_);
+  run.Workbook().LookBeforeRun(DefinitionsAre::kEdited);
   run.Play();
   if (const auto& failure = run.Player().Failed()) {
     run.Workbook().Finish();

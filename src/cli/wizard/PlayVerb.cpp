@@ -27,7 +27,10 @@ int PlayVerb(VerbScript& script, const VerbOptions& verb, const GlobalOptions& o
   WizardRun run(
       verb.book, options, streams, script, [](const forms::FormState&) {}, Outside::kCommand);
   script.SetSaidByPages(run.Desktop().SaidByPages());
-  if (!verb.printScript) run.Workbook().CheckWritable(verb.output);
+  if (!verb.printScript) {
+    run.Workbook().CheckWritable(verb.output);
+    run.Workbook().LookBeforeRun(DefinitionsAre::kEdited);
+  }
   run.Play();
   if (const auto& failure = run.Player().Failed()) {
     run.Workbook().Finish();
