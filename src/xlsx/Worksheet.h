@@ -49,6 +49,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   /// A cell as it is stored: other than for the port, the serial of a date counts in the workbook's own
   /// system.
   excel::CellValue Stored(std::int32_t row, std::int32_t column);
+  std::uint32_t StyleAt(std::int32_t row, std::int32_t column);
   CellRange UsedCells();
   /// Cells of the file with a formula but no result, in the order of the file; they read as empty.
   const std::vector<CellPlace>& FormulasWithoutResult() { return Contents().formulasWithoutResult; }
@@ -85,7 +86,6 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   }
   /// The cells for writing. Error 1004 on a sheet that isn't ours to write.
   CellGrid& Grid();
-  std::uint32_t StyleAt(std::int32_t row, std::int32_t column);
   excel::CellValue Unpack(PackedValue value, std::uint32_t style);
 
   bool HasMergedCells();
