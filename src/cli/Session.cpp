@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "cli/ChartState.h"
 #include "common/CommonFunctions.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
@@ -144,11 +145,20 @@ void Session::CheckTable(const std::string& id) const {
 void Session::ChartStarted(const std::vector<runtime::Variant>& arguments) {
   // without an argument it is the whole run that begins
   if (arguments.empty() || !colCharts) return;
-  ++chartsStarted_;
+  const std::string id = runtime::CStr(arguments[0]);
+  started_.push_back({colCharts->Item(id).selectSingleNode("chart"), colChartObjects->Item(id)});
   if (!streams_.terminal) return;
-  const std::string line = "Refreshing chart " + std::to_string(chartsStarted_) + " ...";
+  const std::string line = "Refreshing chart " + std::to_string(started_.size()) + " ...";
   streams_.err << '\r' << line << std::flush;
   progressWidth_ = line.size();
+}
+
+RefreshCounts Session::Counts() const {
+  RefreshCounts counts;
+  for (const StartedChart& chart : started_) {
+    ++(StateOf(chart.definition, chart.object) == ChartState::kOk ? counts.refreshed : counts.unavailable);
+  }
+  return counts;
 }
 
 void Session::ClearProgress() {
