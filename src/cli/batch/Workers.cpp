@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstdint>
 #include <cstring>
+#include <ctime>
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
@@ -33,13 +34,12 @@ class SignalWatch {
     stopSignal = 0;
     struct sigaction action {};
     action.sa_handler = NoteSignal;
-    sigset_t blocked;
-    sigemptyset(&blocked);
+    sigemptyset(&watched_);
     for (std::size_t i = 0; i < kStopSignals.size(); ++i) {
       sigaction(kStopSignals[i], &action, &old_[i]);
-      sigaddset(&blocked, kStopSignals[i]);
+      sigaddset(&watched_, kStopSignals[i]);
     }
-    sigprocmask(SIG_BLOCK, &blocked, &oldMask_);
+    sigprocmask(SIG_BLOCK, &watched_, &oldMask_);
   }
   ~SignalWatch() { Leave(); }
   SignalWatch(const SignalWatch&) = delete;
@@ -51,9 +51,18 @@ class SignalWatch {
     sigprocmask(SIG_SETMASK, &oldMask_, nullptr);
   }
   void WaitFor(std::vector<pollfd>& files) const { ppoll(files.data(), files.size(), nullptr, &oldMask_); }
+  /// The signal that is to stop the work, or 0. An interrupt reaches the workers as well, and may end them
+  /// before WaitFor has let it in here.
+  int Stopped() const {
+    const timespec atOnce{};
+    const int waiting = stopSignal == 0 ? sigtimedwait(&watched_, nullptr, &atOnce) : 0;
+    if (waiting > 0) stopSignal = waiting;
+    return stopSignal;
+  }
 
  private:
   std::array<struct sigaction, kStopSignals.size()> old_{};
+  sigset_t watched_{};
   sigset_t oldMask_{};
 };
 
@@ -113,13 +122,12 @@ class WorkerPool {
   WorkerPool& operator=(const WorkerPool&) = delete;
 
   int Run() {
-    while (!workers_.empty() && stopSignal == 0) {
+    while (!workers_.empty() && signals_.Stopped() == 0) {
       std::vector<pollfd> files;
       for (const Worker& worker : workers_) files.push_back({worker.file, POLLIN, 0});
       signals_.WaitFor(files);
-      if (stopSignal != 0) break;
       for (const pollfd& file : files) {
-        if (file.revents != 0) Receive(file.fd);
+        if (file.revents != 0 && signals_.Stopped() == 0) Receive(file.fd);
       }
     }
     if (stopSignal != 0) {
