@@ -186,7 +186,7 @@ class WorkerPool {
     }
     if (task == kNoTask) return;
     tasks_.ended(task, std::move(ending));
-    // without a new worker the others do the rest; without any, nobody is left to wait for
+    // without a new worker the others do the rest; without any of them, the run is over
     if (!whole && next_ < tasks_.count) static_cast<void>(Start());
   }
 

@@ -21,7 +21,7 @@ using Json = nlohmann::ordered_json;
 /// Why a chart is in its state, in sentences: what the check says of its definition.
 std::string ReasonOf(ChartState state, const std::string& id, const std::vector<CheckedDefinition>& checked) {
   if (state == ChartState::kOk) return {};
-  // a chart that nobody has refreshed yet waits for that, whatever else is found
+  // a chart that was never refreshed waits for that, whatever else is found
   std::string sentences = state == ChartState::kNotDrawn ? StateReason(state) : "";
   for (const CheckedDefinition& definition : checked) {
     if (definition.id != id) continue;
