@@ -1,11 +1,19 @@
 # The newcomer's commands. All building is done by CMake; see CMakePresets.json for the ways to build.
 
-.PHONY: build demo check sanitize fuzz bench docs clean
+.PHONY: build install uninstall demo check sanitize fuzz bench docs clean
 
 build:
 	@scripts/install-dependencies.sh
 	@cmake --preset release
 	@cmake --build build
+
+# Puts the command, its manual page, completions and documentation into their places below PREFIX.
+install: build
+	@cmake --install build --prefix "$(or $(PREFIX),/usr/local)"
+
+# Removes what the last `make install` put in place.
+uninstall:
+	@scripts/uninstall.sh
 
 # Builds the command, refreshes the example workbooks into demo/ and makes pictures of them where LibreOffice is present.
 demo:

@@ -1,11 +1,10 @@
 #include "cli/CommandLine.h"
 
 #include <algorithm>
-#include <exception>
 
 #include "cli/Candidates.h"
+#include "cli/Failures.h"
 #include "cli/commands/AllCommands.h"
-#include "xlsx/package/PackageError.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -67,7 +66,7 @@ CommandLine::CommandLine() : app(kDescription, "plotsmith"), commands(MakeComman
   app.footer(kFooter);
   app.require_subcommand(1);
   app.fallthrough();
-  app.set_version_flag("--version", std::string("plotsmith ") + PLOTSMITH_VERSION);
+  app.set_version_flag("-V,--version", std::string("plotsmith ") + PLOTSMITH_VERSION);
   app.add_option("--host-version", options.hostVersion,
                  "Behave as Plotsmith does in this version of Excel; up to 11 and above 11 differ")
       ->type_name("NUMBER")
@@ -80,29 +79,28 @@ CommandLine::CommandLine() : app(kDescription, "plotsmith"), commands(MakeComman
   for (const auto& command : commands) verbs.push_back(command->Declare(app));
 }
 
+std::string NoSuchVerb(const std::string& name) {
+  return "there is no command \"" + name + "\" (try plotsmith --help)";
+}
+
 int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
   if (!arguments.empty() && arguments.front() == kComplete) {
     PrintCandidates({arguments.begin() + 1, arguments.end()}, streams);
     return exit_code::kDone;
   }
   CommandLine line;
-  const auto fail = [&](const std::string& sentence, int code) {
-    streams.err << "plotsmith: " << sentence << '\n';
-    return code;
-  };
   const auto run = [&] {
     for (std::size_t i = 0; i < line.commands.size(); ++i) {
       if (line.verbs[i]->parsed()) return line.commands[i]->Run(line.options, streams);
     }
     return exit_code::kUsage;
   };
-  try {
+  return Guarded(streams.err, [&] {
     const std::size_t at = VerbPosition(arguments, line.app);
     const bool known = at >= arguments.size() || arguments[at].starts_with('-') ||
                        std::any_of(line.verbs.begin(), line.verbs.end(),
                                    [&](const CLI::App* verb) { return verb->get_name() == arguments[at]; });
-    if (!known)
-      return fail("there is no command \"" + arguments[at] + "\" (try plotsmith --help)", exit_code::kUsage);
+    if (!known) throw CommandError(exit_code::kUsage, NoSuchVerb(arguments[at]));
     arguments = WithFormatsBehindTheOptions(std::move(arguments), at, line.app);
     std::reverse(arguments.begin(), arguments.end());  // as the parser wants them
     int code = exit_code::kDone;
@@ -114,15 +112,7 @@ int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
     }
     Deliver(streams);
     return code;
-  } catch (const CLI::ParseError& e) {
-    return fail(std::string(e.what()) + " (try plotsmith --help)", exit_code::kUsage);
-  } catch (const CommandError& e) {
-    return fail(e.what(), e.ExitCode());
-  } catch (const xlsx::PackageError& e) {
-    return fail(e.what(), exit_code::kFile);
-  } catch (const std::exception& e) {
-    return fail(std::string("something went wrong: ") + e.what(), exit_code::kFile);
-  }
+  });
 }
 
 }  // namespace plotsmith::cli

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "cli/ChartState.h"
 #include "cli/check/Words.h"
 #include "common/CommonFunctions.h"
 #include "common/PSConstants.h"
@@ -180,12 +181,21 @@ bool Session::ReportFindings(const std::vector<std::string>& lines) const {
 void Session::ChartStarted(const std::vector<runtime::Variant>& arguments) {
   // without an argument it is the whole run that begins
   if (arguments.empty() || !colCharts) return;
-  ++chartsStarted_;
-  if (look_) look_->ChartStarted(runtime::CStr(arguments[0]));
+  const std::string id = runtime::CStr(arguments[0]);
+  started_.push_back({colCharts->Item(id).selectSingleNode("chart"), colChartObjects->Item(id)});
+  if (look_) look_->ChartStarted(id);
   if (!streams_.terminal) return;
-  const std::string line = "Refreshing chart " + std::to_string(chartsStarted_) + " ...";
+  const std::string line = "Refreshing chart " + std::to_string(started_.size()) + " ...";
   streams_.err << '\r' << line << std::flush;
   progressWidth_ = line.size();
+}
+
+RefreshCounts Session::Counts() const {
+  RefreshCounts counts;
+  for (const StartedChart& chart : started_) {
+    ++(StateOf(chart.definition, chart.object) == ChartState::kOk ? counts.refreshed : counts.unavailable);
+  }
+  return counts;
 }
 
 void Session::ClearProgress() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -10,12 +11,20 @@
 #include "cli/ConsoleDesktop.h"
 #include "cli/Streams.h"
 #include "cli/check/RunLook.h"
+#include "dom/Dom.h"
 #include "forms/ModalLoop.h"
+#include "host/excel/Excel.h"
 #include "runtime/Variant.h"
 #include "xlsx/Application.h"
 #include "xlsx/Workbook.h"
 
 namespace plotsmith::cli {
+
+/// What became of the charts of a refresh.
+struct RefreshCounts {
+  std::size_t refreshed = 0;
+  std::size_t unavailable = 0;  ///< they could not be drawn
+};
 
 /// One workbook, open in the embedded host, with the system set up to work on it.
 class Session {
@@ -45,13 +54,23 @@ class Session {
   /// After the system has worked: refuses an id of which the workbook has neither a table nor a chart.
   void CheckTable(const std::string& id) const;
   /// How many charts the system has begun to build.
-  int ChartsStarted() const { return chartsStarted_; }
+  int ChartsStarted() const { return static_cast<int>(started_.size()); }
+  /// What became of those.
+  RefreshCounts Counts() const;
+  /// Whether the system had anything to say.
+  bool HasMessages() const { return !desktop_->Messages().empty(); }
   /// Ends the work: saves to `output`, or, if something changed, to where the workbook came from.
   int Save(const std::optional<std::string>& output);
   /// Ends the work of a command that only reads.
   int Finish();
 
  private:
+  /// A chart that the system has begun to build.
+  struct StartedChart {
+    dom::IXMLDOMElement definition;
+    excel::Ref<excel::Chart> object;
+  };
+
   void CheckFree(const std::string& target) const;
   void WriteBook(const std::optional<std::string>& output);
   void ChartStarted(const std::vector<runtime::Variant>& arguments);
@@ -69,7 +88,7 @@ class Session {
   std::shared_ptr<ConsoleDesktop> desktop_;
   std::shared_ptr<xlsx::Application> host_;
   std::optional<RunLook> look_;
-  int chartsStarted_ = 0;
+  std::vector<StartedChart> started_;
   std::size_t progressWidth_ = 0;
   bool bookToOut_ = false;  ///< the workbook goes to the standard output, and so nothing else may
 };

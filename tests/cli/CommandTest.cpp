@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <nlohmann/json.hpp>
 #include <sstream>
 #include <sys/stat.h>
 #include <vector>
@@ -269,7 +270,8 @@ TEST_F(CommandTest, ListsAndJson) {
     "chartSheet": "Charts",
     "tableSheet": "Data1",
     "table": "Data1",
-    "state": "not drawn"
+    "state": "not drawn",
+    "reason": "The chart waits for a refresh. The column 'Amount' is no number column, as 'values' wants, since this cell holds the error #N/A, which counts as 0."
   }
 ]
 )");
@@ -322,6 +324,84 @@ TEST_F(CommandTest, StatesOfCharts) {
                                       "VEX_Chart3  unavailable", "VEX_Chart4  ok", "VEX_Chart5  not drawn"}));
 }
 
+TEST_F(CommandTest, AStateHasItsReason) {
+  test::Definition gone{"VEX_Chart1", "bar", "table-id=\"Gone\""}, column{"VEX_Chart2"};
+  column.values = "<values><column name=\"Nowhere\"/></values>";
+  auto plain = SalesBook({gone, column, {"VEX_Chart3"}, {"VEX_Chart4", "unknown"}});
+  const S book = Write(plain);
+  EXPECT_EQ(RunCommand({"refresh", book}).code, 1);
+  const auto charts = nlohmann::json::parse(RunCommand({"charts", book, "--json"}).out);
+  const auto definitions = nlohmann::json::parse(RunCommand({"check", book, "--json"}).out)["definitions"];
+  const S states[] = {"table no longer fits", "unavailable", "ok", "unsupported type"};
+  const S words[] = {"Gone", "Nowhere", "", "unknown"};
+  ASSERT_EQ(charts.size(), 4u);
+  for (std::size_t i = 0; i < 4; ++i) {
+    EXPECT_EQ(charts[i]["state"], states[i]);
+    const S reason = charts[i]["reason"];
+    EXPECT_EQ(reason.empty(), states[i] == "ok");
+    EXPECT_NE(reason.find(words[i]), S::npos) << reason;
+    if (reason.empty()) continue;
+    EXPECT_NE(reason.find(definitions[i]["findings"][0]["sentence"]), S::npos) << "as check says it";
+  }
+}
+
+TEST_F(CommandTest, ARunWithoutChartsSaysSo) {
+  const S none = Write(SalesBook({}), "none.xlsx"), one = Write(SalesBook({{"VEX_Chart1"}}), "one.xlsx");
+  test::PlainBook other = SalesBook({{"VEX_Chart1"}});
+  other.sheets.push_back(test::SalesSheet("Data2"));
+  const S two = Write(other, "two.xlsx");
+  CommandResult result = RunCommand({"refresh", none, "-o", folder_ / "out.xlsx"});
+  EXPECT_EQ(result.code, 1);
+  EXPECT_EQ(result.err,
+            "plotsmith: \"" + none + "\" has no charts of Plotsmith, so nothing was refreshed.\n");
+  EXPECT_TRUE(std::filesystem::exists(folder_ / "out.xlsx"));
+  result = RunCommand({"refresh", two, "--table", "Data2"});
+  EXPECT_EQ(result.code, 1);
+  EXPECT_EQ(result.err, "plotsmith: no chart of \"" + two +
+                            "\" hangs on the table \"Data2\", so nothing was refreshed.\n");
+  result = RunCommand({"refresh", one, "--verbose"});
+  EXPECT_EQ(result.code, 0);
+  EXPECT_EQ(result.err, "1 chart refreshed\n");
+}
+
+TEST_F(CommandTest, DatesHaveAnIsoTextBesideTheirNumber) {
+  test::PlainBook plain = SalesBook({});
+  plain.styles =
+      "<styleSheet xmlns='http://schemas.openxmlformats.org/spreadsheetml/2006/main'><numFmts>"
+      "<numFmt numFmtId='170' formatCode='yyyy-mm-dd'/><numFmt numFmtId='171' formatCode='d/m/yy h:mm'/>"
+      "</numFmts><cellXfs><xf/><xf numFmtId='170'/><xf numFmtId='20'/><xf numFmtId='171'/>"
+      "<xf numFmtId='46'/></cellXfs></styleSheet>";
+  plain.Sheet("Data1").rows = {
+      {test::RawCell{" s='1'><v>45000.25</v></c>"}, test::RawCell{" s='2'><v>45000.25</v></c>"},
+       test::RawCell{" s='3'><v>45000.25</v></c>"}, test::RawCell{" s='4'><v>1.5</v></c>"}, 45000.25,
+       S("text"), test::RawCell{" s='1'><v>-1</v></c>"}}};
+  const auto cells = [&](std::vector<S> more) {
+    const S book = Write(plain);
+    more.insert(more.begin(), {"cells", book, "Data1!A1:G1"});
+    return RunCommand(more).out;
+  };
+  EXPECT_EQ(cells({"--value", "--json"}),
+            R"([[{"number":45000.25,"iso":"2023-03-15"},{"number":45000.25,"iso":"06:00:00"},)"
+            R"({"number":45000.25,"iso":"2023-03-15T06:00:00"},{"number":1.5,"iso":"PT36H"},)"
+            "45000.25,\"text\",-1.0]]\n");
+  EXPECT_EQ(cells({"--value"}), "45000.25\t45000.25\t45000.25\t1.5\t45000.25\ttext\t-1\n");
+  EXPECT_EQ(cells({"--json"}),
+            "[[\"2023-03-15\",\"6:00\",\"15/3/23 6:00\",\"36:00:00\",\"45000.25\",\"text\",\"########\"]]\n");
+  plain.workbookExtra = "<workbookPr date1904='1'/>";
+  EXPECT_EQ(cells({"--value", "--json"}).substr(0, 44), R"([[{"number":45000.25,"iso":"2027-03-16"},{"n)");
+}
+
+TEST_F(CommandTest, HelpAndVersionAreToldInEveryWay) {
+  const S all = RunCommand({"--help"}).out, refresh = RunCommand({"refresh", "--help"}).out;
+  EXPECT_EQ(RunCommand({"help"}).out, all);
+  EXPECT_EQ(RunCommand({"help", "refresh"}).out, refresh);
+  EXPECT_EQ(RunCommand({"-V"}).out, RunCommand({"--version"}).out);
+  EXPECT_EQ(RunCommand({"-V"}).code + RunCommand({"help"}).code, 0);
+  const CommandResult unknown = RunCommand({"help", "dance"});
+  EXPECT_EQ(unknown.code, 2);
+  EXPECT_EQ(unknown.err, "plotsmith: there is no command \"dance\" (try plotsmith --help)\n");
+}
+
 TEST_F(CommandTest, Formats) {
   EXPECT_EQ(RunCommand({"format", "#,##0.00", "-1234.5"}).out, "-1,234.50\n");
   EXPECT_EQ(RunCommand({"format", "--date1904", "yyyy-mm-dd", "0"}).out, "1904-01-01\n");
@@ -347,7 +427,7 @@ TEST_F(CommandTest, JournalVersionAndProgress) {
   const CommandResult watched =
       RunCommand({"refresh", book, "-o", folder_ / "o.xlsx"}, "", test::Watched::kMessages);
   EXPECT_NE(watched.err.find("\rRefreshing chart 2 ..."), S::npos);
-  EXPECT_TRUE(watched.err.ends_with("\r")) << "and the line is wiped";
+  EXPECT_TRUE(watched.err.ends_with("\r2 charts refreshed\n")) << "and the line is wiped";
   EXPECT_EQ(watched.code, 0);
   EXPECT_EQ(VersionText(16), "16.0");
   EXPECT_EQ(VersionText(11.5), "11.5");

@@ -6,6 +6,7 @@ namespace plotsmith::test {
 /// clone at another place need not compile all others anew.
 ///@{
 extern const char* const kSourceFolder;   ///< the root of the repository
+extern const char* const kBuildFolder;    ///< where CMake has built
 extern const char* const kCorpusFolder;   ///< workbooks of other programs; may be absent
 extern const char* const kSchemasFolder;  ///< the published schemas of the file format; may be absent
 extern const char* const kCommand;        ///< the program plotsmith

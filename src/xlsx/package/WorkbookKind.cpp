@@ -44,7 +44,7 @@ constexpr std::array<TextKind, 3> kTextKinds = {{
 
 constexpr std::string_view kCompoundFile = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1";
 constexpr std::string_view kZipEntry = "PK\x03\x04";
-constexpr std::size_t kStart = 64 * 1024;
+constexpr std::size_t kStart = 4 * 1024;
 
 /// A compound file is a workbook from before 2007, or one behind a password.
 [[noreturn]] void ThrowCompoundKind(const std::string& start, std::istream& file) {

@@ -107,7 +107,7 @@ class ReadFile final : public ZipFile {
     zip_uint64_t done = 0;
     while (done < length && position_ < size_) {
       if (position_ < blockAt_ || position_ >= blockAt_ + block_.size()) {
-        block_.resize(kBlock);
+        block_.resize(std::min<std::uint64_t>(kBlock, size_ - position_));
         const auto count = pread(file_, block_.data(), block_.size(), static_cast<off_t>(position_));
         if (count < 0) return Fail(ZIP_ER_READ);
         block_.resize(static_cast<std::size_t>(count));
