@@ -14,6 +14,7 @@
 namespace plotsmith::qt {
 namespace {
 
+constexpr const char* kLinePrefix = "plotsmith: ";  ///< in front of each line of the session
 constexpr const char* kWorkbooks = "Workbooks (*.xlsx *.xlsm)";
 
 }  // namespace
@@ -30,7 +31,8 @@ WizardProgram::WizardProgram(WizardOptions options, const cli::Streams& streams)
     : options_(std::move(options)),
       pages_(std::make_shared<QtView>()),
       desktop_(std::make_shared<WizardDesktop>(pages_)),
-      session_(options_.book, options_.global, streams, desktop_, pages_),
+      session_(options_.book, options_.global, cli::Streams{streams.in, streams.out, said_}, desktop_,
+               pages_),
       streams_(streams) {
   session_.CheckWritable(options_.output);
   window_ = std::make_unique<WizardWindow>(session_.Host(), QFileInfo(TextOf(options_.book)).fileName());
@@ -46,9 +48,39 @@ WizardProgram::WizardProgram(WizardOptions options, const cli::Streams& streams)
 
 int WizardProgram::Run() {
   window_->show();
-  while (RunPages() && Finish() == Next::kRunAgain && !closing_) {
+  while (LookBeforeRun() && RunPages() && Finish() == Next::kRunAgain && !closing_) {
   }
   return cli::exit_code::kDone;
+}
+
+QString WizardProgram::TakeSaid() {
+  QString text = TextOf(said_.str());
+  said_.str({});
+  return text.remove(QLatin1String(kLinePrefix)).trimmed();
+}
+
+void WizardProgram::ShowSaid() {
+  const QString text = TakeSaid();
+  if (text.isEmpty()) return;
+  QMessageBox box(QMessageBox::Information, TextOf(std::string_view(kProductTitle)), text, QMessageBox::Ok,
+                  window_.get());
+  box.setTextFormat(Qt::PlainText);
+  RunDialog(box);
+}
+
+bool WizardProgram::LookBeforeRun() {
+  try {
+    session_.LookBeforeRun(cli::DefinitionsAre::kEdited);
+    return true;
+  } catch (const cli::CommandError&) {
+    QMessageBox box(
+        QMessageBox::Warning, TextOf(std::string_view(kProductTitle)),
+        TakeSaid() + QStringLiteral("\n\nThe wizard would lose what is said here. Go on without it?"),
+        QMessageBox::Ok | QMessageBox::Cancel, window_.get());
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Cancel);
+    return RunDialog(box) == QMessageBox::Ok;
+  }
 }
 
 bool WizardProgram::RunPages() {
@@ -121,6 +153,7 @@ std::optional<WizardProgram::Next> WizardProgram::SaveTo(const std::optional<std
   try {
     session_.CheckWritable(output);
     session_.Save(output);
+    ShowSaid();
   } catch (const cli::CommandError& e) {
     Tell(window_.get(), e.what(), streams_);
     return std::nullopt;

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <sstream>
 #include <string>
 
 #include "cli/Command.h"
@@ -33,6 +34,12 @@ class WizardProgram {
   /// How the work on a workbook goes on.
   enum class Next { kRunAgain, kQuit };
 
+  /// Looks at the definitions. Where the run would lose some, the person decides; false if it must not begin.
+  bool LookBeforeRun();
+  /// Shows what the session has to say, if anything.
+  void ShowSaid();
+  /// The lines of the session since the last call, without the name of the program.
+  QString TakeSaid();
   /// Goes through the pages; true if a chart was built or deleted.
   bool RunPages();
   Next Finish();
@@ -47,6 +54,7 @@ class WizardProgram {
   WizardOptions options_;
   std::shared_ptr<QtView> pages_;
   std::shared_ptr<WizardDesktop> desktop_;
+  std::ostringstream said_;  ///< what the session has to say, a line each
   cli::Session session_;
   cli::Streams streams_;
   std::unique_ptr<WizardWindow> window_;
