@@ -87,6 +87,12 @@ ControlState Showable(ControlState state) {
   return state;
 }
 
+/// Whether a page may mark controls of the kind with a colour. Other widgets answer with the colour of what
+/// is around them.
+bool IsMarkable(const std::string& kind) {
+  return kind == "Frame" || kind == "OptionButton" || kind == "CheckBox" || kind == "Label";
+}
+
 template <class Value>
 void Compare(std::string& differences, const std::string& what, const Value& model, const Value& widget) {
   if (!(model == widget)) differences += what + " differs\n";
@@ -137,6 +143,7 @@ std::string DifferencesFromModel(const qt::FormWindow& window) {
     }
     ControlState widget = *found;
     if (control.kind == "ListBox") widget.text = control.text;  // it shows in the selection
+    if (!IsMarkable(control.kind)) widget.backColor = Showable(control).backColor;
     Compare(differences, Showable(control), widget);
   }
   return differences;
