@@ -24,7 +24,7 @@ WizardWindow::WizardWindow(std::shared_ptr<xlsx::Application> host, const QStrin
       text_(new QLabel(bar_)),
       row_(new QHBoxLayout(bar_)) {
   setObjectName(QStringLiteral("WizardWindow"));
-  setWindowTitle(name + QStringLiteral(" - Plotsmith"));
+  SetBookName(name);
   bar_->setObjectName(QStringLiteral("bar"));
   bar_->setAutoFillBackground(true);
   bar_->setBackgroundRole(QPalette::ToolTipBase);
@@ -46,6 +46,8 @@ WizardWindow::WizardWindow(std::shared_ptr<xlsx::Application> host, const QStrin
   connect(help, &QShortcut::activated, this, [this] { HelpAsked(); });
   resize(kFirstSize);
 }
+
+void WizardWindow::SetBookName(const QString& name) { setWindowTitle(name + QStringLiteral(" - Plotsmith")); }
 
 void WizardWindow::ShowBar(const QString& text, const QStringList& buttons) {
   for (QPushButton* old : bar_->findChildren<QPushButton*>()) delete old;

@@ -23,6 +23,8 @@ class WizardWindow final : public QMainWindow {
   /// `name` is that of the workbook's file.
   WizardWindow(std::shared_ptr<xlsx::Application> host, const QString& name);
 
+  /// The name of the workbook's file, which the title shows.
+  void SetBookName(const QString& name);
   qtbook::BookView& Book() { return *book_; }
   /// What Ask answers where the window was closed instead.
   static constexpr int kClosed = -1;
