@@ -1,0 +1,38 @@
+#include "tests/qt/wizard/ProgramTest.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+#include "qt/wizard/WizardProgram.h"
+
+namespace plotsmith::test {
+
+ProgramTest::ProgramTest() : book_(folder_ / "orders.xlsx") {
+  std::filesystem::copy_file(PLOTSMITH_SOURCE_DIR "/examples/data/orders.xlsx", book_);
+  fresh_ = BytesOf(book_);
+}
+
+ProgramResult ProgramTest::Run(const std::string& script, Robot::Deeds deeds,
+                               const std::optional<std::string>& output) {
+  std::istringstream in;
+  std::ostringstream out, err;
+  const Robot robot(script, std::move(deeds));
+  int code = 0;
+  std::string refusal;
+  try {
+    code = qt::WizardProgram({book_, output, {}}, {in, out, err}).Run();
+  } catch (const cli::CommandError& e) {
+    code = e.ExitCode();
+    refusal = e.what();
+  }
+  return {code, robot.Failure(), robot.Seen(), robot.Told(), err.str() + refusal};
+}
+
+std::string BytesOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+}  // namespace plotsmith::test
