@@ -4,6 +4,7 @@
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QWidget>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "forms/Form.h"
@@ -17,9 +18,8 @@ namespace plotsmith::qt {
 /// The last press of the mouse on a button of any window. The second half of a double click on a button that
 /// opens the next page must not press the button of that page which happens to lie below the pointer.
 struct LastPress {
-  const QWidget* window = nullptr;
-  quint64 time = 0;  ///< milliseconds, by the events' own clock
-  QPointF place;     ///< on the screen
+  std::optional<quint64> time;  ///< milliseconds, by the events' own clock; absent: there was none
+  QPointF place;                ///< on the screen
 };
 
 /// The window of a form.
@@ -38,6 +38,8 @@ class FormWindow final : public QWidget {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  /// Keys go to the window itself while none of its controls has the focus.
+  void keyPressEvent(QKeyEvent* event) override;
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
