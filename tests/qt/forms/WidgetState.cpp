@@ -71,7 +71,7 @@ ControlState Read(const QWidget& widget) {
   if (const auto* label = qobject_cast<const QLabel*>(&widget)) state.caption = TextOf(label->text());
   if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) state.text = TextOf(edit->text());
   if (const auto* edit = qobject_cast<const QPlainTextEdit*>(&widget))
-    state.text = TextOf(edit->toPlainText());
+    state.text = TextOf(edit->document()->toRawText().replace(QChar::ParagraphSeparator, '\n'));
   if (const auto* list = qobject_cast<const QListWidget*>(&widget)) Read(*list, state);
   if (const auto* box = qobject_cast<const QComboBox*>(&widget)) Read(*box, state);
   if (const auto* table = qobject_cast<const QTableWidget*>(&widget)) Read(*table, state);
