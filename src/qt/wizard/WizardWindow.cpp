@@ -10,6 +10,7 @@
 
 #include "qt/book/BookView.h"
 #include "qt/wizard/EventLoop.h"
+#include "qt/wizard/SecondPress.h"
 
 namespace plotsmith::qt {
 namespace {
@@ -67,6 +68,7 @@ void WizardWindow::ShowBar(const QString& text, const QStringList& buttons) {
     }
   }
   bar_->show();
+  delete std::exchange(secondPress_, new SecondPress(*bar_));
 }
 
 int WizardWindow::Ask(const QString& text, const QStringList& buttons) {

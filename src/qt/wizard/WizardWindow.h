@@ -16,6 +16,8 @@ class BookView;
 
 namespace plotsmith::qt {
 
+class SecondPress;
+
 /// The window behind the pages: the workbook, and above it, once a run is over, a line that says what came of
 /// it and asks what is to be done.
 class WizardWindow final : public QMainWindow {
@@ -47,6 +49,7 @@ class WizardWindow final : public QMainWindow {
   QWidget* bar_;
   QLabel* text_;
   QHBoxLayout* row_;
+  SecondPress* secondPress_ = nullptr;
   bool asks_ = false;
   int answer_ = kClosed;
   bool answered_ = false;
