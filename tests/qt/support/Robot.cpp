@@ -13,6 +13,7 @@ namespace plotsmith::test {
 namespace {
 
 constexpr qint64 kPatience = 10000;  // milliseconds until a window must have come
+constexpr qint64 kPause = 100;       // milliseconds
 constexpr const char* kBusyWindow = "frmBusyPS";
 
 std::pair<std::string, std::string> VerbAndRest(const std::string& line) {
@@ -70,9 +71,10 @@ void Robot::Work() {
     CloseAll();
   } else if (const std::string line = lines_[next_]; Play(line)) {
     ++next_;
+    obstacle_.clear();
     sinceLine_.start();
   } else if (failure_.empty() && sinceLine_.hasExpired(kPatience)) {
-    failure_ = line + " -> in front is: " + lastSeen_;
+    failure_ = line + " -> " + (obstacle_.empty() ? "in front is: " + lastSeen_ : obstacle_);
   }
   works_ = false;
 }
@@ -90,6 +92,7 @@ bool Robot::Play(const std::string& line) {
   const auto [verb, rest] = VerbAndRest(line);
   QWidget* const front = FrontWindow();
   const std::string name = NameOf(front);
+  if (line == "do wait") return sinceLine_.hasExpired(kPause) && front != nullptr;
   if (verb == "do") {
     deeds_.at(rest)();
     return true;
@@ -114,9 +117,10 @@ bool Robot::PlayOnPage(const std::string& line) {
     forms::EventQueue unused;
     forms::MakeGesture(forms::ParseLine(line), page->Model(), hand_, unused);
   } catch (const forms::ScriptError& e) {
-    failure_ = line + " -> " + e.what();
+    obstacle_ = e.what();
+    return false;
   }
-  return failure_.empty();
+  return true;
 }
 
 void Robot::CloseAll() {

@@ -23,9 +23,11 @@ namespace plotsmith::test {
 /// | `bar BUTTON` | presses the button of the bar above the workbook |
 /// | `file NAME` | types the name into the choice of files, and Enter |
 /// | `quit` | closes the window on the workbook |
+/// | `do wait` | waits a moment, until some window is in front |
 /// | `do NAME` | does the deed of that name, at once |
 ///
-/// When a line can't be done, or at the end of the script, it closes what is open and saves nothing.
+/// The program may be in the middle of its work, so a line that can't be done is tried again for a while.
+/// When it still can't be done, or at the end of the script, it closes what is open and saves nothing.
 class Robot {
  public:
   using Deeds = std::map<std::string, std::function<void()>>;
@@ -54,6 +56,7 @@ class Robot {
   QElapsedTimer sinceLine_;
   bool works_ = false;
   std::string failure_, seen_, lastSeen_;
+  std::string obstacle_;  ///< why the line couldn't be done yet
   std::vector<std::string> told_;
 };
 

@@ -49,11 +49,11 @@ TEST_F(WizardProgramTest, TheBarAsksAndTheAnswerIsDone) {
       {"bar Save As; file OTHER; bar Chart Wizard; close", "bar file bar frmPSSelectAction", false, true},
       {"bar Save As; file BOOK; box Yes; bar Close", "bar file box bar", true, false},
       {"bar Save As; file BOOK; box No; do escape; bar Discard", "bar file box file bar", false, false},
-      {"quit; box Save", "bar box", true, false},
-      {"quit; box Discard", "bar box", false, false},
-      {"quit; box Cancel; bar Save; quit", "bar box bar bar", true, false},
+      {"do wait; quit; box Save", "bar box", true, false},
+      {"do wait; quit; box Discard", "bar box", false, false},
+      {"do wait; quit; box Cancel; bar Save; quit", "bar box bar bar", true, false},
       {"bar Close", "bar", false, true, true},
-      {"quit", "bar", false, true, true},
+      {"do wait; quit", "bar", false, true, true},
   };
   for (const auto& [script, seen, bookChanges, otherIsThere, withOutput] : cases) {
     SCOPED_TRACE(script + (withOutput ? " -o" : ""));
