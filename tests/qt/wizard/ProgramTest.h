@@ -25,6 +25,9 @@ class ProgramTest : public ::testing::Test {
   ProgramResult Run(const std::string& script, Robot::Deeds deeds = {},
                     const std::optional<std::string>& output = std::nullopt);
 
+  /// Builds a chart in the workbook, so that the wizard has all its pages.
+  void AddChart();
+
   TempFolder folder_;
   std::string book_;   ///< the copy: one table of orders, no chart
   std::string fresh_;  ///< its bytes
@@ -37,5 +40,12 @@ std::string BytesOf(const std::string& path);
 inline constexpr const char* kNewChart =
     "page frmPSSelectTable; select grdTables Data1; choose optType(1); press cmdNext; page frmPSLayoutABC; "
     "type txtTitle Sums; press cmdNext; page frmPSChartLocation; ";
+
+/// The lines that lead to a page of the workbook with a chart.
+struct Way {
+  std::string page, lines;
+};
+extern const std::string kToTable;
+extern const std::vector<Way> kWays;
 
 }  // namespace plotsmith::test

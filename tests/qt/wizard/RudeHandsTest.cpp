@@ -10,7 +10,6 @@
 #include "tests/qt/forms/WidgetState.h"
 #include "tests/qt/support/Windows.h"
 #include "tests/qt/wizard/ProgramTest.h"
-#include "tests/support/RunCommand.h"
 
 namespace plotsmith {
 namespace {
@@ -21,15 +20,9 @@ using test::FrontPage;
 using test::FrontWindow;
 using test::kNewChart;
 
-/// Works on a workbook that has a chart, so that the wizard has all its pages.
 class RudeHandsTest : public test::ProgramTest {
  protected:
-  RudeHandsTest() {
-    const auto made = test::RunCommand({"new", book_, "--table", "Data1", "--type", "pie", "--title", "Units",
-                                        "--categories", "Product", "--values", "Units"});
-    EXPECT_EQ(made.code, 0) << made.err;
-    fresh_ = BytesOf(book_);
-  }
+  RudeHandsTest() { AddChart(); }
   /// Plays a script on the program, which must not save anything.
   test::ProgramResult RunUnsaved(const S& script, test::Robot::Deeds deeds) {
     SCOPED_TRACE(script);
@@ -40,28 +33,6 @@ class RudeHandsTest : public test::ProgramTest {
     EXPECT_TRUE(BytesOf(book_) == fresh_);
     return run;
   }
-};
-
-/// The lines that lead to a page.
-struct Way {
-  S page, lines;
-};
-
-const S kToTable =
-    "page frmPSSelectAction; select grdCharts #1; press cmdNew; page frmPSSelectTable; select grdTables "
-    "Data1; ";
-S ToLayout(int type, const S& page) {
-  return kToTable + "choose optType(" + std::to_string(type) + "); press cmdNext; page " + page + "; ";
-}
-const Way kWays[] = {
-    {"frmPSSelectAction", "page frmPSSelectAction; select grdCharts #1; "},
-    {"frmPSSelectTable", kToTable + "choose optType(1); "},
-    {"frmPSLayoutABC", ToLayout(1, "frmPSLayoutABC") + "type txtTitle A; "},
-    {"frmPSLayoutPie", ToLayout(3, "frmPSLayoutPie") + "type txtTitle A; select lstCategories Region; "},
-    {"frmPSLayoutBubble", ToLayout(4, "frmPSLayoutBubble")},
-    {"frmPSLayoutStrBuck", ToLayout(5, "frmPSLayoutStrBuck")},
-    {"frmPSChartLocation",
-     ToLayout(1, "frmPSLayoutABC") + "type txtTitle A; press cmdNext; page frmPSChartLocation; "},
 };
 
 QPushButton* ButtonOf(const QWidget& page, const S& name) {
@@ -89,7 +60,7 @@ void Repeat(Qt::Key key) {
 }
 
 TEST_F(RudeHandsTest, ADoublePressIsOnePress) {
-  for (const Way& way : kWays) {
+  for (const test::Way& way : test::kWays) {
     std::vector<S> buttons;
     RunUnsaved(way.lines + "do list",
                {{"list", [&] {
@@ -130,7 +101,7 @@ TEST_F(RudeHandsTest, TheSecondPressDoesNotGoThroughTheNextPage) {
     SendMouse(button, QEvent::MouseButtonRelease, place, time + 20);
   };
   const auto run = RunUnsaved(
-      kWays[1].lines +
+      test::kWays[1].lines +
           "do press; page frmPSLayoutABC; type txtTitle A; do soon; do wait; page frmPSLayoutABC; do later; "
           "page frmPSChartLocation",
       {{"press", press}, {"soon", [&] { time += 100, press(); }}, {"later", [&] { time += 1000, press(); }}});
@@ -145,16 +116,16 @@ TEST_F(RudeHandsTest, AKeyThatIsHeldDownCountsOnce) {
     S script, seen;
   };
   const Case cases[] = {
-      {kToTable +
+      {test::kToTable +
            "choose optType(1); do enter; do repeat; page frmPSLayoutABC; do repeat; page frmPSLayoutABC",
        "frmPSSelectAction frmPSSelectTable frmPSLayoutABC"},
       {"page frmPSSelectAction; press cmdNew; page frmPSSelectTable; do enter; do repeat; do repeat; box OK",
        "frmPSSelectAction frmPSSelectTable box frmPSSelectTable"},
-      {kWays[0].lines + "press cmdDelete; do repeat; do escape; do repeat; box Cancel",
+      {test::kWays[0].lines + "press cmdDelete; do repeat; do escape; do repeat; box Cancel",
        "frmPSSelectAction box frmPSSelectAction"},
-      {kWays[6].lines + "press cmdFinish; do wait; do repeat; do repeat; bar Discard",
+      {test::kWays[6].lines + "press cmdFinish; do wait; do repeat; do repeat; bar Discard",
        "frmPSSelectAction frmPSSelectTable frmPSLayoutABC frmPSChartLocation bar"},
-      {kWays[1].lines + "do escape; page frmPSSelectTable", "frmPSSelectAction frmPSSelectTable"},
+      {test::kWays[1].lines + "do escape; page frmPSSelectTable", "frmPSSelectAction frmPSSelectTable"},
   };
   for (const auto& [script, seen] : cases) {
     const auto run = RunUnsaved(script, {{"enter", enter}, {"repeat", repeat}, {"escape", escape}});
@@ -163,7 +134,7 @@ TEST_F(RudeHandsTest, AKeyThatIsHeldDownCountsOnce) {
 }
 
 TEST_F(RudeHandsTest, EachPageIsClosedOnce) {
-  for (const Way& way : kWays) {
+  for (const test::Way& way : test::kWays) {
     const auto close = [] {
       for (int i = 0; i < 3; ++i) FrontPage()->close();
       ButtonOf(*FrontPage(), "cmdCancel")->click();
@@ -258,7 +229,7 @@ TEST_F(RudeHandsTest, BoxesTakeWhatFitsAndShowIt) {
       {S("x") + Times(8000, "\xF0\x9F\x98\x80"), S("x") + Times(8000, "\xF0\x9F\x98\x80"),
        S("x") + Times(8000, "\xF0\x9F\x98\x80")},
   };
-  for (const Way& way : kWays) {
+  for (const test::Way& way : test::kWays) {
     test::Robot::Deeds deeds;
     S script = way.lines;
     int checked = 0;
