@@ -113,6 +113,11 @@ void FormWindow::Update() {
   }
 }
 
+void FormWindow::ComeBack() {
+  for (const auto& view : views_) view->ForgetGestures();
+  if (form_.Visible()) activateWindow();
+}
+
 void FormWindow::UpdateFocus() {
   const forms::Control* const active = form_.ActiveControl();
   QWidget* const widget = active == nullptr ? nullptr : WidgetOf(*active);

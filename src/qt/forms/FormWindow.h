@@ -33,6 +33,8 @@ class FormWindow final : public QWidget {
   forms::Form& Model() const { return form_; }
   /// Shows the state of the form, where it has changed.
   void Update();
+  /// The window is in front again. Gestures on it were dropped while it wasn't.
+  void ComeBack();
   /// The widget of a control; null for a control that isn't seen.
   QWidget* WidgetOf(const forms::Control& control) const;
 
