@@ -13,7 +13,7 @@ namespace plotsmith::test {
 namespace {
 
 constexpr qint64 kPatience = 10000;  // milliseconds until a window must have come
-constexpr qint64 kPause = 100;       // milliseconds
+constexpr qint64 kPause = 30;       // milliseconds
 constexpr const char* kBusyWindow = "frmBusyPS";
 
 std::pair<std::string, std::string> VerbAndRest(const std::string& line) {
