@@ -103,5 +103,13 @@ TEST(HouseRulesTest, TheSystemCatchesOnlyInItsErrorBlocks) {
   });
 }
 
+// A loop of Qt's own on the stack would be between an error of a page and the procedure that handles it.
+TEST(HouseRulesTest, WindowsRunNoLoopOfTheToolkit) {
+  const std::regex nested("\\bexec\\(");
+  ForEachSource([&](const std::string& room, const std::string& file, const std::string& text) {
+    if (room == "qt") EXPECT_FALSE(std::regex_search(text, nested)) << file;
+  });
+}
+
 }  // namespace
 }  // namespace plotsmith

@@ -46,9 +46,12 @@ class WizardProgram {
   /// Asks Save, Save As or Discard; absent where the person goes back to the window.
   std::optional<Next> AskToSave(const QString& outcome);
   std::optional<Next> AskBeforeClosing();
+  /// Saves to a file of the person's choice, where Save saves from then on.
   std::optional<Next> SaveAs();
-  /// Saves, and asks what is next. Absent where that failed, which the person was told.
-  std::optional<Next> SaveTo(const std::optional<std::string>& output);
+  /// Saves to the target, and asks what is next. Absent where that failed, which the person was told.
+  std::optional<Next> Save();
+  /// The file that Save writes.
+  QString Target() const;
   QString Outcome() const;
 
   WizardOptions options_;
@@ -57,6 +60,7 @@ class WizardProgram {
   std::ostringstream said_;  ///< what the session has to say, a line each
   cli::Session session_;
   cli::Streams streams_;
+  std::optional<std::string> target_;  ///< where Save saves; absent: the workbook's own file
   std::unique_ptr<WizardWindow> window_;
   int chartsBefore_ = 0;  ///< charts that earlier runs have built
   bool closing_ = false;  ///< the window was closed while a page was open
