@@ -1,6 +1,6 @@
 # The newcomer's commands. All building is done by CMake; see CMakePresets.json for the ways to build.
 
-.PHONY: build demo check sanitize fuzz bench docs clean
+.PHONY: build demo check package sanitize fuzz bench docs clean
 
 build:
 	@scripts/install-dependencies.sh
@@ -17,6 +17,10 @@ demo:
 # Builds, then runs all tests, as they are and under a locale with a decimal comma.
 check: build
 	@scripts/check.sh
+
+# Makes the Debian packages in build/packages: plotsmith, and plotsmith-wizard.
+package:
+	@scripts/package.sh
 
 # All tests under the address and undefined-behaviour sanitizers.
 sanitize:
