@@ -7,7 +7,8 @@ build:
 	@cmake --preset release
 	@cmake --build build
 
-# Builds the command, refreshes the example workbooks into demo/ and makes pictures of them where LibreOffice is present.
+# Builds the command, refreshes the example workbooks into demo/ and makes pictures of them where LibreOffice is present,
+# and of the pages of the wizard.
 demo:
 	@scripts/install-dependencies.sh
 	@cmake --preset release
