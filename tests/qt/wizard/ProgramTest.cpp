@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "qt/wizard/WizardProgram.h"
+#include "tests/support/Paths.h"
 #include "tests/support/RunCommand.h"
 
 namespace plotsmith::test {
@@ -34,7 +35,7 @@ const std::vector<Way> kWays = {
 };
 
 ProgramTest::ProgramTest() : book_(folder_ / "orders.xlsx") {
-  std::filesystem::copy_file(PLOTSMITH_SOURCE_DIR "/examples/data/orders.xlsx", book_);
+  std::filesystem::copy_file(std::string(test::kSourceFolder) + "/examples/data/orders.xlsx", book_);
   fresh_ = BytesOf(book_);
 }
 
