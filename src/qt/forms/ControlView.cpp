@@ -85,6 +85,7 @@ void ControlView::Update() {
   widget.setEnabled(model_.Enabled());
   widget.setVisible(model_.Visible());
   widget.setAccessibleName(TextOf(model_.AccessibleName()));
+  widget.setAccessibleDescription(TextOf(model_.AccessibleDescription()));
   ShowColors();
   ShowFont();
   Show();

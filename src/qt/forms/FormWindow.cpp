@@ -138,6 +138,7 @@ bool FormWindow::eventFilter(QObject* object, QEvent* event) {
   if (control == nullptr) return false;
   switch (event->type()) {
     case QEvent::FocusIn: {
+      scroll_->ensureWidgetVisible(static_cast<QWidget*>(object));
       const auto reason = static_cast<QFocusEvent*>(event)->reason();
       const bool isReturn = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
       if (!movesFocus_ && !isReturn) post_([control] { control->UserFocus(); });

@@ -3,6 +3,7 @@
 #include <QtWidgets/QApplication>
 #include <chrono>
 #include <cstdlib>
+#include <fstream>
 #include <random>
 
 #include "qt/help/HelpWindow.h"
@@ -173,6 +174,7 @@ class MonkeyTest : public test::ProgramTest, public testing::WithParamInterface<
   /// Lets the monkey loose on a page. The run may end early, when it has closed the program.
   void Play(const test::Way& way, unsigned seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
+    std::ofstream(book_, std::ios::binary) << fresh_;  // an earlier run may have saved
     Monkey monkey(seed);
     S script = way.lines;
     for (int i = 0; i < kEvents; ++i) script += "do monkey; ";
