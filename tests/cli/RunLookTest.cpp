@@ -60,6 +60,10 @@ class RunLookTest : public ::testing::Test {
     });
   }
 
+  S NothingToRefresh() const {
+    return "plotsmith: \"" + path_ + "\" has no charts of Plotsmith, so nothing was refreshed.\n";
+  }
+
   test::TempFolder folder_;
   S path_ = folder_ / "book.xlsx";
 };
@@ -102,10 +106,11 @@ TEST_F(RunLookTest, NothingIsWrittenWhereADefinitionWouldBeLost) {
                                  "what is said, or use --drop-broken.\n");
       EXPECT_EQ(Bytes(path_), before) << verb[0];
     }
-    EXPECT_EQ(Refresh({"--drop-broken"}), line + "; the row was dropped.\n");
+    const S noCharts = row.charts == 0 ? NothingToRefresh() : "";
+    EXPECT_EQ(Refresh({"--drop-broken"}), line + "; the row was dropped.\n" + noCharts);
     EXPECT_EQ(RunCommand({"check", path_}).code, 0) << RunCommand({"check", path_}).out;
     EXPECT_EQ(Charts().find("VEX_Chart1") != S::npos, row.charts == 1) << Charts();
-    EXPECT_EQ(Refresh(), "");
+    EXPECT_EQ(Refresh(), noCharts);
   }
 }
 
@@ -185,7 +190,9 @@ TEST_F(RunLookTest, ADefinitionThatAProgramChangedIsToldFromAChartThatAPersonCha
       Line("The chart's own title 'Sales' was kept; the definition said 'Costs'.") +
       Line("The chart's own type 'column' was kept; the definition said 'bar'.") +
       Line("The chart's own title of the value axis 'Euro' was kept; the definition said 'Dollar'.");
-  EXPECT_EQ(RunCommand({"refresh", path_, "--table", "Data2", "-o", folder_ / "other.xlsx"}).err, kept)
+  EXPECT_EQ(RunCommand({"refresh", path_, "--table", "Data2", "-o", folder_ / "other.xlsx"}).err,
+            kept + "plotsmith: no chart of \"" + path_ +
+                "\" hangs on the table \"Data2\", so nothing was refreshed.\n")
       << "all definitions are stored, whichever table is refreshed";
   EXPECT_EQ(Refresh(), kept);
   EXPECT_EQ(Refresh(), "");
@@ -362,13 +369,13 @@ TEST_F(RunLookTest, MoreBucketsThanAChartCanNameAreSaid) {
   EXPECT_NE(Charts().find("strategic bucket chart"), S::npos) << Charts();
 }
 
-TEST_F(RunLookTest, AWorkbookThatNeverSawPlotsmithIsSilent) {
+TEST_F(RunLookTest, OfAWorkbookThatNeverSawPlotsmithNothingElseIsSaid) {
   PlainBook book;
   book.sheets.push_back(test::SalesSheet("Sheet1"));
   book.sheets[0].rows[1][2] = RawCell{"><f>1+1</f><v></v></c>"};
   book.sheets[0].frames = {{"", "", 0, 0, 8, 18}, {"VEX_Chart1"}};
   Write(book);
-  EXPECT_EQ(Refresh(), "");
+  EXPECT_EQ(Refresh(), NothingToRefresh());
 }
 
 }  // namespace

@@ -40,9 +40,8 @@ class InstallTest : public ::testing::Test {
 
 TEST_F(InstallTest, EverythingIsInItsPlaceAndGoesAgain) {
   const S build = test::kBuildFolder;
-  ASSERT_EQ(
-      Shell("cmake --install '" + build + "' --component Unspecified --prefix '" + prefix_.string() + "'"),
-      0);
+  ASSERT_EQ(Shell("cmake --install '" + build + "' --component command --prefix '" + prefix_.string() + "'"),
+            0);
   const std::set<S> files = Files();
   for (const char* file :
        {"bin/plotsmith", "share/man/man1/plotsmith.1", "share/bash-completion/completions/plotsmith",
@@ -64,9 +63,9 @@ TEST_F(InstallTest, EverythingIsInItsPlaceAndGoesAgain) {
   EXPECT_GT(links, 50);
 
   std::ofstream(prefix_ / "share/man/man1/other.1") << "of another program";
-  ASSERT_EQ(Shell(S(test::kSourceFolder) + "/scripts/uninstall.sh '" + build +
-                  "/install_manifest_Unspecified.txt'"),
-            0);
+  ASSERT_EQ(
+      Shell(S(test::kSourceFolder) + "/scripts/uninstall.sh '" + build + "/install_manifest_command.txt'"),
+      0);
   EXPECT_EQ(Files(), std::set<S>{"share/man/man1/other.1"});
   EXPECT_FALSE(fs::exists(prefix_ / "share/doc/plotsmith"));
 }

@@ -31,6 +31,8 @@ void TypeFileName(QWidget& dialog, const std::string& name) {
   });
 }
 
+constexpr const char* kBusyWindow = "frmBusyPS";
+
 }  // namespace
 
 std::vector<std::string> LinesOf(const std::string& script) {
@@ -84,6 +86,7 @@ void Robot::LookAround() {
   const std::string name = NameOf(front);
   const std::string text = name == "box" || name == "bar" ? TextIn(*front) : "";
   if (std::exchange(lastSeen_, name + text) == name + text || name.empty()) return;
+  if (name == kBusyWindow) return;  // it may be gone before a look
   seen_ += (seen_.empty() ? "" : " ") + name;
   if (!text.empty()) told_.push_back(text);
 }
