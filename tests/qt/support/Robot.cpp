@@ -13,7 +13,7 @@ namespace plotsmith::test {
 namespace {
 
 constexpr qint64 kPatience = 10000;  // milliseconds until a window must have come
-constexpr qint64 kPause = 30;       // milliseconds
+constexpr qint64 kPause = 30;        // milliseconds
 constexpr const char* kBusyWindow = "frmBusyPS";
 
 std::pair<std::string, std::string> VerbAndRest(const std::string& line) {
@@ -30,8 +30,6 @@ void TypeFileName(QWidget& dialog, const std::string& name) {
     QTest::keyClick(box, Qt::Key_Return);
   });
 }
-
-constexpr const char* kBusyWindow = "frmBusyPS";
 
 }  // namespace
 
@@ -85,8 +83,8 @@ void Robot::LookAround() {
   const QWidget* const front = FrontWindow();
   const std::string name = NameOf(front);
   const std::string text = name == "box" || name == "bar" ? TextIn(*front) : "";
-  if (std::exchange(lastSeen_, name + text) == name + text || name.empty()) return;
-  if (name == kBusyWindow) return;  // it may be gone before a look
+  if (name.empty() || name == kBusyWindow) return;  // how long that one stays is a matter of the machine
+  if (std::exchange(lastSeen_, name + text) == name + text) return;
   seen_ += (seen_.empty() ? "" : " ") + name;
   if (!text.empty()) told_.push_back(text);
 }

@@ -35,7 +35,7 @@ class Robot {
 
   /// Why the script wasn't played to its end; "" if it was.
   std::string Failure() const;
-  /// The windows that came to the front, by NameOf, with blanks between them.
+  /// The windows that came to the front, by NameOf, with blanks between them, the busy window left out.
   const std::string& Seen() const { return seen_; }
   /// What message boxes and the bar said, in this order.
   const std::vector<std::string>& Told() const { return told_; }

@@ -13,6 +13,7 @@
 #include "forms/script/FormState.h"
 #include "tests/qt/support/Windows.h"
 #include "tests/qt/wizard/ProgramTest.h"
+#include "tests/support/Paths.h"
 
 namespace plotsmith {
 namespace {
@@ -141,7 +142,7 @@ S Spoken(QAccessibleInterface& item, int depth) {
 }
 
 TEST_F(KeyboardTest, ScreenReadersAreTold) {
-  const S folder = PLOTSMITH_SOURCE_DIR "/tests/qt/wizard/golden/";
+  const S folder = test::kSourceFolder "/tests/qt/wizard/golden/";
   OnEachPage([&](qt::FormWindow& page) {
     for (const forms::Control* control : page.Model().Controls()) {
       EXPECT_NE(control->AccessibleName(), "");
