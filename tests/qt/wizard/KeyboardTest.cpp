@@ -142,7 +142,7 @@ S Spoken(QAccessibleInterface& item, int depth) {
 }
 
 TEST_F(KeyboardTest, ScreenReadersAreTold) {
-  const S folder = test::kSourceFolder "/tests/qt/wizard/golden/";
+  const S folder = S(test::kSourceFolder) + "/tests/qt/wizard/golden/";
   OnEachPage([&](qt::FormWindow& page) {
     for (const forms::Control* control : page.Model().Controls()) {
       EXPECT_NE(control->AccessibleName(), "");
