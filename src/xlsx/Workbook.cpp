@@ -8,6 +8,7 @@
 
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
+#include "runtime/Utf8Path.h"
 #include "xlsx/Application.h"
 #include "xlsx/DefinedNames.h"
 #include "xlsx/Errors.h"
@@ -39,7 +40,7 @@ class OtherSheet final : public SheetMembers<excel::Sheet> {
 
 /// What a file is that isn't a zip archive, or null if it may be one.
 const char* ForeignKind(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
+  std::ifstream file(runtime::PathOf(path), std::ios::binary);
   std::string start(64 * 1024, '\0');
   file.read(start.data(), static_cast<std::streamsize>(start.size()));
   start.resize(static_cast<std::size_t>(file.gcount()));
@@ -81,8 +82,8 @@ Workbook::~Workbook() = default;
 
 std::shared_ptr<Workbook> Workbook::Open(xlsx::Application& application, const std::string& path) {
   std::error_code ignored;  // of what can't be looked at, the opening tells
-  if (std::filesystem::is_directory(path, ignored)) throw PackageError("it is a folder");
-  if (!std::ifstream(path)) throw PackageError("it can't be opened");
+  if (std::filesystem::is_directory(runtime::PathOf(path), ignored)) throw PackageError("it is a folder");
+  if (!std::ifstream(runtime::PathOf(path))) throw PackageError("it can't be opened");
   if (const char* kind = ForeignKind(path)) throw PackageError(kind);
   std::shared_ptr<Workbook> book(new Workbook(application));
   book->package_ = xlsx::Package::Open(path);

@@ -5,6 +5,7 @@
 
 #include "cli/FormPrinter.h"
 #include "cli/wizard/WizardRun.h"
+#include "runtime/Utf8Path.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -33,7 +34,7 @@ int WizardCommand::Run(const GlobalOptions& options, const Streams& streams) {
         "delete go through them by themselves.");
   }
   if (*script_ == kStandardInput) return Play(streams.in, options, streams);
-  std::ifstream file(*script_, std::ios::binary);
+  std::ifstream file(runtime::PathOf(*script_), std::ios::binary);
   // a folder can be opened, but nothing can be read from it
   if (!file || (file.peek() == std::ifstream::traits_type::eof() && !file.eof())) {
     throw CommandError(exit_code::kFile, "can't read \"" + *script_ + "\".");

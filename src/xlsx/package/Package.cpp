@@ -1,11 +1,13 @@
 #include "xlsx/package/Package.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <set>
 #include <utility>
 
 #include "runtime/Ascii.h"
 #include "runtime/Strings.h"
+#include "runtime/Utf8Path.h"
 #include "xlsx/Limits.h"
 #include "xlsx/package/AtomicFile.h"
 #include "xlsx/package/MemoryStream.h"
@@ -405,7 +407,32 @@ void Package::Save(const std::string& path) {
   }
   if (archive_) writer.CopyComment(*archive_);
   writer.Finish();
-  file.Commit();
+  Commit(file, path);
+}
+
+/// Windows doesn't replace a file that is open. A package that is saved over its own file therefore closes
+/// it, and reads the new one from then on, in which the parts have the order that they have here.
+void Package::Commit(AtomicFile& file, const std::string& path) {
+  std::error_code ignored;
+  if (!archive_ ||
+      !std::filesystem::equivalent(runtime::PathOf(archive_->Path()), runtime::PathOf(path), ignored)) {
+    file.Commit();
+    return;
+  }
+  const std::string source = archive_->Path();
+  archive_->Close();
+  try {
+    file.Commit();
+  } catch (const PackageError&) {
+    archive_ = std::make_unique<Archive>(source);
+    throw;
+  }
+  try {
+    archive_ = std::make_unique<Archive>(source);
+  } catch (const PackageError&) {
+    return;  // the workbook is saved; only what is yet to be read of it can't be
+  }
+  for (std::size_t i = 0; i < parts_.size(); ++i) parts_[i]->entry = i;
 }
 
 std::string ResolveTarget(std::string_view source, std::string_view target) {

@@ -14,6 +14,8 @@
 
 namespace plotsmith::xlsx {
 
+class AtomicFile;
+
 /// One relationship of a part, or of the package.
 struct Relationship {
   std::string id;
@@ -80,6 +82,7 @@ class Package {
   /// Takes a part out, with its relationships and its content type.
   void Remove(const std::string& part);
   void ParseContentTypes(std::string_view bytes);
+  void Commit(AtomicFile& file, const std::string& path);
 
   std::unique_ptr<Archive> archive_;
   std::vector<std::unique_ptr<Part>> parts_;          // in the order of the file

@@ -3,12 +3,10 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <fcntl.h>
 #include <memory>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <vector>
 
+#include "xlsx/package/FileSystem.h"
 #include "xlsx/package/PackageError.h"
 
 namespace plotsmith::xlsx {
@@ -19,18 +17,19 @@ constexpr std::size_t kBlock = 256 * 1024;
 /// What both kinds of file share: a descriptor, a position and the library's way to be told of errors.
 class ZipFile {
  public:
-  ZipFile(const std::string& path, int flags) : file_(open(path.c_str(), flags | O_CLOEXEC, 0600)) {
+  /// Takes the descriptor over; where it is none, errno says why.
+  explicit ZipFile(int file) : file_(file) {
     zip_error_init(&error_);
-    struct stat status {};
-    if (file_ < 0 || fstat(file_, &status) != 0) {
+    const auto size = file_ < 0 ? std::nullopt : file_system::SizeOf(file_);
+    if (!size) {
       const std::string reason = std::strerror(errno);
-      if (file_ >= 0) close(file_);
+      if (file_ >= 0) file_system::Close(file_);
       throw PackageError(reason);
     }
-    size_ = static_cast<std::uint64_t>(status.st_size);
+    size_ = *size;
   }
   virtual ~ZipFile() {
-    close(file_);
+    file_system::Close(file_);
     zip_error_fini(&error_);
   }
   ZipFile(const ZipFile&) = delete;
@@ -77,7 +76,7 @@ class ZipFile {
 
 class ReadFile final : public ZipFile {
  public:
-  explicit ReadFile(const std::string& path) : ZipFile(path, O_RDONLY) {}
+  using ZipFile::ZipFile;
 
   zip_int64_t Handle(void* data, zip_uint64_t length, zip_source_cmd_t command) override {
     switch (command) {
@@ -107,7 +106,7 @@ class ReadFile final : public ZipFile {
     while (done < length && position_ < size_) {
       if (position_ < blockAt_ || position_ >= blockAt_ + block_.size()) {
         block_.resize(kBlock);
-        const auto count = pread(file_, block_.data(), block_.size(), static_cast<off_t>(position_));
+        const auto count = file_system::ReadAt(file_, block_.data(), block_.size(), position_);
         if (count < 0) return Fail(ZIP_ER_READ);
         block_.resize(static_cast<std::size_t>(count));
         blockAt_ = position_;
@@ -129,9 +128,7 @@ class ReadFile final : public ZipFile {
 
 class WriteFile final : public ZipFile {
  public:
-  explicit WriteFile(const std::string& path) : ZipFile(path, O_RDWR | O_CREAT | O_TRUNC) {
-    block_.reserve(kBlock);
-  }
+  explicit WriteFile(int file) : ZipFile(file) { block_.reserve(kBlock); }
 
   zip_int64_t Handle(void* data, zip_uint64_t length, zip_source_cmd_t command) override {
     switch (command) {
@@ -176,8 +173,7 @@ class WriteFile final : public ZipFile {
     std::size_t done = 0;
     while (done < block_.size()) {
       const auto count =
-          pwrite(file_, block_.data() + done, block_.size() - done, static_cast<off_t>(position_ + done));
-      if (count < 0 && errno == EINTR) continue;
+          file_system::WriteAt(file_, block_.data() + done, block_.size() - done, position_ + done);
       if (count <= 0) return false;
       done += static_cast<std::size_t>(count);
     }
@@ -203,8 +199,12 @@ zip_source_t* MakeSource(std::unique_ptr<ZipFile> file) {
 
 }  // namespace
 
-zip_source_t* OpenZipFile(const std::string& path) { return MakeSource(std::make_unique<ReadFile>(path)); }
+zip_source_t* OpenZipFile(const std::string& path) {
+  return MakeSource(std::make_unique<ReadFile>(file_system::OpenToRead(path)));
+}
 
-zip_source_t* CreateZipFile(const std::string& path) { return MakeSource(std::make_unique<WriteFile>(path)); }
+zip_source_t* CreateZipFile(const std::string& path) {
+  return MakeSource(std::make_unique<WriteFile>(file_system::OpenToWrite(path)));
+}
 
 }  // namespace plotsmith::xlsx

@@ -1,5 +1,3 @@
-#include "xlsx/package/AtomicFile.h"
-
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -7,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "xlsx/package/AtomicFile.h"
 #include "xlsx/package/PackageError.h"
 
 namespace plotsmith::xlsx {

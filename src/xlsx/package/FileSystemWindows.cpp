@@ -1,0 +1,50 @@
+#include <algorithm>
+#include <fcntl.h>
+#include <io.h>
+#include <limits>
+#include <share.h>
+#include <sys/stat.h>
+
+#include "runtime/Utf8Path.h"
+#include "xlsx/package/FileSystem.h"
+
+namespace plotsmith::xlsx::file_system {
+namespace {
+
+/// The C run-time counts in int.
+unsigned CountOf(std::size_t size) {
+  return static_cast<unsigned>(std::min<std::size_t>(size, std::numeric_limits<int>::max()));
+}
+
+int Open(const std::string& path, int flags) {
+  int file = -1;
+  _wsopen_s(&file, runtime::PathOf(path).c_str(), flags | _O_BINARY | _O_NOINHERIT, _SH_DENYNO,
+            _S_IREAD | _S_IWRITE);
+  return file;
+}
+
+}  // namespace
+
+int OpenToRead(const std::string& path) { return Open(path, _O_RDONLY); }
+
+int OpenToWrite(const std::string& path) { return Open(path, _O_RDWR | _O_CREAT | _O_TRUNC); }
+
+void Close(int file) { _close(file); }
+
+std::optional<std::uint64_t> SizeOf(int file) {
+  const std::int64_t size = _filelengthi64(file);
+  if (size < 0) return std::nullopt;
+  return static_cast<std::uint64_t>(size);
+}
+
+std::int64_t ReadAt(int file, void* data, std::size_t size, std::uint64_t position) {
+  if (_lseeki64(file, static_cast<std::int64_t>(position), SEEK_SET) < 0) return -1;
+  return _read(file, data, CountOf(size));
+}
+
+std::int64_t WriteAt(int file, const void* data, std::size_t size, std::uint64_t position) {
+  if (_lseeki64(file, static_cast<std::int64_t>(position), SEEK_SET) < 0) return -1;
+  return _write(file, data, CountOf(size));
+}
+
+}  // namespace plotsmith::xlsx::file_system
