@@ -1,11 +1,19 @@
 # The newcomer's commands. All building is done by CMake; see CMakePresets.json for the ways to build.
 
-.PHONY: build demo check sanitize fuzz bench docs clean
+.PHONY: build install uninstall demo check check-windows sanitize fuzz bench docs clean
 
 build:
 	@scripts/install-dependencies.sh
 	@cmake --preset release
 	@cmake --build build
+
+# Puts the command, its manual page, completions and documentation into their places below PREFIX.
+install: build
+	@cmake --install build --prefix "$(or $(PREFIX),/usr/local)"
+
+# Removes what the last `make install` put in place.
+uninstall:
+	@scripts/uninstall.sh
 
 # Builds the command, refreshes the example workbooks into demo/ and makes pictures of them where LibreOffice is present.
 demo:
@@ -17,6 +25,10 @@ demo:
 # Builds, then runs all tests, as they are and under a locale with a decimal comma.
 check: build
 	@scripts/check.sh
+
+# Builds for Windows and compares the command under Wine with the one for Linux.
+check-windows:
+	@scripts/check-windows.sh
 
 # All tests under the address and undefined-behaviour sanitizers.
 sanitize:
@@ -40,4 +52,4 @@ docs:
 	@cmake --build build --target docs
 
 clean:
-	@rm -rf build build-debug build-sanitizers build-fuzz demo
+	@rm -rf build build-debug build-sanitizers build-fuzz build-windows-x64 build-windows-x86 demo

@@ -2,7 +2,8 @@
 // ratios that mean the same on any machine. Usage:
 //   measure pairs PLOTSMITH BOOK OUT COUNT          a refresh beside `unzip -p` of the book's first sheet
 //   measure growth PLOTSMITH OUT WHAT N=BOOK...     a refresh of ever larger books
-//   measure beside WHAT COUNT COMMAND... -- COMMAND...   one command beside another one
+//   measure beside WHAT COUNT COMMAND... -- COMMAND...   the processor time of one command beside another one
+//   measure faster WHAT COUNT COMMAND... -- COMMAND...   how many times as fast the first is, by the clock
 
 #include <algorithm>
 #include <chrono>
@@ -15,6 +16,7 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 #include "xlsx/package/Archive.h"
@@ -84,20 +86,43 @@ void MeasurePairs(const std::string& plotsmith, const std::string& book, const s
               peak / kMebibyte, sheet / kMebibyte);
 }
 
-/// One command beside another, which is the measure.
-void MeasureBeside(const std::string& what, int count, const std::vector<std::string>& words) {
-  const auto sign = std::find(words.begin(), words.end(), "--");
-  if (sign == words.end()) throw std::runtime_error("there is no second command behind \"--\"");
-  const std::vector<std::string> measured(words.begin(), sign), baseline(sign + 1, words.end());
-  Run(baseline);
+/// The two commands of a line, parted by "--".
+struct CommandPair {
+  explicit CommandPair(const std::vector<std::string>& words) {
+    const auto sign = std::find(words.begin(), words.end(), "--");
+    if (sign == words.end()) throw std::runtime_error("there is no second command behind \"--\"");
+    measured.assign(words.begin(), sign);
+    baseline.assign(sign + 1, words.end());
+  }
+  std::vector<std::string> measured, baseline;
+};
+
+void PrintMedian(const std::string& what, std::vector<double> ratios) {
+  std::sort(ratios.begin(), ratios.end());
+  std::printf("  %s    %.2f   (median of %zu; %.2f to %.2f)\n", what.c_str(), ratios[ratios.size() / 2],
+              ratios.size(), ratios.front(), ratios.back());
+}
+
+/// The processor time of one command, with the other one for the measure.
+void MeasureBeside(const std::string& what, int count, const CommandPair& pair) {
+  Run(pair.baseline);
   std::vector<double> ratios;
   for (int i = 0; i < count; ++i) {
-    const double beside = Run(baseline).processor;
-    ratios.push_back(Run(measured).processor / beside);
+    const double beside = Run(pair.baseline).processor;
+    ratios.push_back(Run(pair.measured).processor / beside);
   }
-  std::sort(ratios.begin(), ratios.end());
-  std::printf("  %s    %.2f   (median of %d; %.2f to %.2f)\n", what.c_str(), ratios[ratios.size() / 2], count,
-              ratios.front(), ratios.back());
+  PrintMedian(what, std::move(ratios));
+}
+
+/// By the clock, as a command may work on several processors at a time.
+void MeasureFaster(const std::string& what, int count, const CommandPair& pair) {
+  Run(pair.baseline);
+  std::vector<double> ratios;
+  for (int i = 0; i < count; ++i) {
+    const double beside = Run(pair.baseline).wall;
+    ratios.push_back(beside / Run(pair.measured).wall);
+  }
+  PrintMedian(what, std::move(ratios));
 }
 
 /// The least of a few runs, in processor time: what else the machine does only ever adds to it.
@@ -141,11 +166,15 @@ int main(int argc, char** argv) {
     } else if (arguments.size() > 4 && arguments[0] == "growth") {
       MeasureGrowth(arguments[1], arguments[2], arguments[3], {arguments.begin() + 4, arguments.end()});
     } else if (arguments.size() > 5 && arguments[0] == "beside") {
-      MeasureBeside(arguments[1], std::max(1, std::atoi(argv[3])), {arguments.begin() + 3, arguments.end()});
+      MeasureBeside(arguments[1], std::max(1, std::atoi(argv[3])),
+                    CommandPair({arguments.begin() + 3, arguments.end()}));
+    } else if (arguments.size() > 5 && arguments[0] == "faster") {
+      MeasureFaster(arguments[1], std::max(1, std::atoi(argv[3])),
+                    CommandPair({arguments.begin() + 3, arguments.end()}));
     } else {
       std::fputs(
           "usage: measure pairs PLOTSMITH BOOK OUT COUNT | growth PLOTSMITH OUT WHAT N=BOOK... | beside WHAT "
-          "COUNT COMMAND... -- COMMAND...\n",
+          "COUNT COMMAND... -- COMMAND... | faster WHAT COUNT COMMAND... -- COMMAND...\n",
           stderr);
       return 2;
     }

@@ -35,8 +35,9 @@ void ExampleBook::Name(const std::string& name, const std::string& refersTo) {
   host_->Book().DefineName(name, refersTo);
 }
 
-void ExampleBook::Chart(const excel::Ref<excel::Worksheet>& sheet, double left, double top, double width,
-                        double height, const std::string& attributes, const std::string& content) {
+excel::Ref<excel::ChartObject> ExampleBook::Chart(const excel::Ref<excel::Worksheet>& sheet, double left,
+                                                  double top, double width, double height,
+                                                  const std::string& attributes, const std::string& content) {
   if (!colCharts) {
     oApplication = host_;
     oWorkbook = host_->ActiveWorkbook();
@@ -53,6 +54,7 @@ void ExampleBook::Chart(const excel::Ref<excel::Worksheet>& sheet, double left, 
     throw std::runtime_error("a definition that doesn't parse: " + content);
   }
   SaveChartDefinition(document);
+  return frame;
 }
 
 void ExampleBook::Comment(const excel::Ref<excel::Worksheet>& sheet, const std::string& text) {
@@ -64,10 +66,14 @@ void ExampleBook::Comment(const excel::Ref<excel::Worksheet>& sheet, const std::
 
 void ExampleBook::FinishAsData(const std::string& path) { host_->Book().Save(path); }
 
-void ExampleBook::Finish(const std::string& path) {
+void ExampleBook::Refresh() {
   ResetSystem();
   host_->Book().AllSheets().front()->object->Activate();
   CPlotsmithController().RefreshPlotsmithData(host_, "make_examples", "");
+}
+
+void ExampleBook::Finish(const std::string& path) {
+  Refresh();
   for (const std::string& message : desktop_->Messages()) std::cerr << path << ": " << message << '\n';
   host_->Book().Save(path);
 }

@@ -26,12 +26,16 @@ class ExampleBook {
   excel::Ref<excel::Worksheet> Sheet(const std::string& name);
   void Name(const std::string& name, const std::string& refersTo);
   /// Puts the frame of a chart on a sheet (points) and stores its definition, to which id and name are added.
-  void Chart(const excel::Ref<excel::Worksheet>& sheet, double left, double top, double width, double height,
-             const std::string& attributes, const std::string& content);
+  /// Returns the frame, whose chart is empty until the next refresh.
+  excel::Ref<excel::ChartObject> Chart(const excel::Ref<excel::Worksheet>& sheet, double left, double top,
+                                       double width, double height, const std::string& attributes,
+                                       const std::string& content);
   /// The comment box of the last chart, which is on that sheet.
   void Comment(const excel::Ref<excel::Worksheet>& sheet, const std::string& text);
   /// Saves the tables alone, as a book that has never seen Plotsmith.
   void FinishAsData(const std::string& path);
+  /// Draws the charts, so that they can be changed as by hand; the next refresh keeps such changes.
+  void Refresh();
   /// Refreshes and saves; what the refresh had to say goes to stderr.
   void Finish(const std::string& path);
 

@@ -10,6 +10,7 @@
 namespace {
 
 using namespace plotsmith::examples;
+namespace excel = plotsmith::excel;
 
 /// A range table, marked by its name: sales of a bicycle maker, a row for each quarter, region and line.
 void MakeSales(const std::string& path) {
@@ -74,10 +75,11 @@ void MakeElectricity(const std::string& path) {
     const char* kind;
     std::array<double, 6> generation;
   };
-  const Source kSources[] = {{"Lignite", "fossil", {131, 102, 83, 99, 104, 77}},
+  // nuclear power comes first, as an area chart with depth hides what stands behind larger values
+  const Source kSources[] = {{"Nuclear", "nuclear", {72, 71, 61, 65, 33, 7}},
+                             {"Lignite", "fossil", {131, 102, 83, 99, 104, 77}},
                              {"Hard coal", "fossil", {72, 48, 35, 47, 56, 36}},
                              {"Gas", "fossil", {44, 55, 59, 53, 47, 46}},
-                             {"Nuclear", "nuclear", {72, 71, 61, 65, 33, 7}},
                              {"Wind", "renewable", {109, 125, 131, 113, 124, 140}},
                              {"Solar", "renewable", {42, 43, 47, 47, 56, 56}},
                              {"Biomass", "renewable", {45, 44, 45, 44, 43, 42}},
@@ -98,7 +100,8 @@ void MakeElectricity(const std::string& path) {
   book.Chart(charts, 450, 10, 420, 290,
              table + "type=\"column\" title=\"Electricity by source\" number-format=\"0\"",
              Columns("categories", "rows", {"Year"}) + Columns("series", "rows", {"Source"}) +
-                 Columns("values", "", {"TWh"}) + Axes("", "TWh") + Settings({"stacked", "100%"}));
+                 Columns("values", "", {"TWh"}) + Axes("", "Share of the year") +
+                 Settings({"stacked", "100%"}));
   book.Chart(charts, 10, 320, 420, 290,
              table + "type=\"area\" title=\"Fossil, nuclear, renewable\" number-format=\"0\"",
              Columns("categories", "rows", {"Year"}) + Columns("series", "rows", {"Kind"}) +
@@ -106,68 +109,79 @@ void MakeElectricity(const std::string& path) {
   book.Finish(path);
 }
 
-/// Bubbles: what a country earns, how long its people live, and how many they are.
+/// Bubbles: how rich, how old, how urban and how connected the people of a country are, and how many. The
+/// countries are some of the large ones, so few and so different that no name lies on another.
 void MakeCountries(const std::string& path) {
   ExampleBook book;
   const auto sheet = book.Sheet("Countries");
   sheet->SetCellValueAt(1, 1, "Countries in 2019");
   sheet->SetCellValueAt(2, 1,
-                        "World Bank, World Development Indicators 2019, rounded; dollars, years, millions");
-  Fill(*sheet, 3, {"Country", "Region", "GDP per head", "Life expectancy", "Population"});
+                        "Approximate, after the World Bank's World Development Indicators; dollars, years, "
+                        "millions, per cent, per cent");
+  Fill(*sheet, 3,
+       {"Country", "Region", "GDP per head", "Life expectancy", "Population", "City dwellers", "Online"});
   struct Country {
     const char* name;
     const char* region;
-    double gdpPerHead, lifeExpectancy, population;
+    double gdpPerHead, lifeExpectancy, population, cityDwellers, online;
   };
-  const Country kCountries[] = {{"China", "Asia", 10100, 78, 1408},
-                                {"India", "Asia", 2050, 71, 1383},
-                                {"United States", "Americas", 65100, 79, 328},
-                                {"Indonesia", "Asia", 4150, 71, 270},
-                                {"Pakistan", "Asia", 1450, 67, 223},
-                                {"Brazil", "Americas", 8900, 75, 212},
-                                {"Nigeria", "Africa", 2350, 53, 203},
-                                {"Bangladesh", "Asia", 2150, 73, 166},
-                                {"Russia", "Europe", 11500, 73, 144},
-                                {"Japan", "Asia", 40500, 84, 127},
-                                {"Mexico", "Americas", 10100, 74, 125},
-                                {"Ethiopia", "Africa", 850, 66, 114},
-                                {"Philippines", "Asia", 3400, 72, 110},
-                                {"Egypt", "Africa", 2850, 71, 106},
-                                {"Vietnam", "Asia", 3450, 74, 96},
-                                {"Germany", "Europe", 46800, 81, 83},
-                                {"Turkey", "Asia", 9150, 78, 83},
-                                {"Thailand", "Asia", 7650, 79, 71},
-                                {"France", "Europe", 40500, 83, 67},
-                                {"United Kingdom", "Europe", 42700, 81, 67},
-                                {"Italy", "Europe", 33700, 83, 60},
-                                {"South Africa", "Africa", 6700, 66, 58},
-                                {"South Korea", "Asia", 31900, 83, 52},
-                                {"Kenya", "Africa", 1950, 63, 51},
-                                {"Colombia", "Americas", 6400, 77, 50},
-                                {"Spain", "Europe", 29600, 84, 47},
-                                {"Argentina", "Americas", 9950, 77, 45},
-                                {"Poland", "Europe", 15700, 78, 38},
-                                {"Canada", "Americas", 46300, 82, 38},
-                                {"Australia", "Oceania", 54900, 83, 25},
-                                {"Chile", "Americas", 14600, 80, 19},
-                                {"New Zealand", "Oceania", 42800, 82, 5}};
+  const Country kCountries[] = {{"China", "Asia", 10100, 78, 1408, 60, 64},
+                                {"India", "Asia", 2050, 71, 1383, 34, 29},
+                                {"United States", "Americas", 65100, 79, 328, 82, 89},
+                                {"Indonesia", "Asia", 4150, 71, 270, 56, 48},
+                                {"Pakistan", "Asia", 1450, 67, 223, 37, 17},
+                                {"Brazil", "Americas", 8900, 75, 212, 87, 74},
+                                {"Nigeria", "Africa", 2350, 53, 203, 51, 34},
+                                {"Bangladesh", "Asia", 2150, 73, 166, 37, 13},
+                                {"Russia", "Europe", 11500, 73, 144, 75, 83},
+                                {"Japan", "Asia", 40500, 84, 127, 92, 93},
+                                {"Mexico", "Americas", 10100, 74, 125, 80, 70},
+                                {"Philippines", "Asia", 3400, 72, 110, 47, 43},
+                                {"Egypt", "Africa", 2850, 71, 106, 43, 57},
+                                {"Vietnam", "Asia", 3450, 74, 96, 37, 69},
+                                {"Thailand", "Asia", 7650, 79, 71, 51, 67},
+                                {"France", "Europe", 40500, 83, 67, 81, 83},
+                                {"United Kingdom", "Europe", 42700, 81, 67, 84, 93},
+                                {"South Africa", "Africa", 6700, 66, 58, 67, 68},
+                                {"Kenya", "Africa", 1950, 63, 51, 27, 23},
+                                {"Colombia", "Americas", 6400, 77, 50, 81, 65},
+                                {"Argentina", "Americas", 9950, 77, 45, 92, 80},
+                                {"Poland", "Europe", 15700, 78, 38, 60, 80},
+                                {"Canada", "Americas", 46300, 82, 38, 82, 97},
+                                {"Chile", "Americas", 14600, 80, 19, 88, 86}};
   int row = 3;
   for (const Country& country : kCountries) {
     Fill(*sheet, ++row,
-         {country.name, country.region, country.gdpPerHead, country.lifeExpectancy, country.population});
+         {country.name, country.region, country.gdpPerHead, country.lifeExpectancy, country.population,
+          country.cityDwellers, country.online});
   }
   sheet->Range("$C$4", "$C$" + std::to_string(row))->SetNumberFormat("#,##0");
-  book.Name("VEX_TableRange_Countries", "Countries!$A$1:$E$" + std::to_string(row));
+  book.Name("VEX_TableRange_Countries", "Countries!$A$1:$G$" + std::to_string(row));
 
   const auto charts = book.Sheet("Charts");
-  const std::string content =
-      Columns("categories", "rows", {"Country"}) + Columns("series", "rows", {"Region"}) +
-      Columns("values", "", {"Life expectancy"}) + Columns("x-values", "", {"GDP per head"}) +
-      Columns("bubble-sizes", "", {"Population"}) + Axes("GDP per head", "Life expectancy") + Settings({});
-  const std::string table = "table-id=\"VEX_TableRange_Countries\" type=\"bubble\" ";
-  book.Chart(charts, 10, 10, 760, 480, table + "title=\"Wealth and health of nations\"", content);
-  book.Chart(charts, 10, 510, 760, 480, table + "title=\"The same, in quadrants\"",
-             content + Settings({"quadrants", "autoscale-x", "autoscale-y"}, "static-attributes"));
+  const std::string table = "table-id=\"VEX_TableRange_Countries\" type=\"bubble\" number-format=\"#,##0\" ";
+  const auto content = [](const char* x, const char* y) {
+    return Columns("categories", "rows", {"Country"}) + Columns("series", "rows", {"Region"}) +
+           Columns("values", "", {y}) + Columns("x-values", "", {x}) +
+           Columns("bubble-sizes", "", {"Population"}) + Axes(x, y) + Settings({});
+  };
+  const double w = 840, h = 560;
+  const auto wealth = book.Chart(charts, 10, 10, w, h, table + "title=\"Wealth and health of nations\"",
+                                 content("GDP per head", "Life expectancy"));
+  book.Chart(charts, 10, 590, w, h, table + "title=\"In town and online, in per cent\"",
+             content("City dwellers", "Online") +
+                 Settings({"quadrants", "autoscale-x", "autoscale-y"}, "static-attributes"));
+  book.Refresh();
+  // The scales are set on the chart, as by hand: the poor countries would lie on each other on a linear axis,
+  // and nobody lives for less than 50 years.
+  constexpr std::int32_t kLogarithmic = -4133;  // xlScaleLogarithmic
+  const auto gdp = wealth->Chart()->Axes(excel::xlCategory, excel::xlPrimary);
+  gdp->SetScaleType(kLogarithmic);
+  gdp->SetMinimumScale(1000);
+  gdp->SetMaximumScale(100000);
+  const auto years = wealth->Chart()->Axes(excel::xlValue, excel::xlPrimary);
+  years->SetMinimumScale(50);
+  years->SetMaximumScale(90);
   book.Finish(path);
 }
 
@@ -193,9 +207,9 @@ void MakeInvestments(const std::string& path) {
                                {"Dealer portal", "Digital", "Grow", 1.5, 65},
                                {"Robot welding", "Plant", "Get leaner", 2.2, 75},
                                {"Stock planning", "Digital", "Get leaner", 0.8, 80},
-                               {"Cargo bike", "Product", "Try out", 1.6, 50},
-                               {"Rental fleet", "Service", "Try out", 0.6, 35},
-                               {"Repair at home", "Service", "Try out", 0.4, 30}};
+                               {"Cargo bike", "Product", "Try out", 2.2, 50},
+                               {"Rental fleet", "Service", "Try out", 0.8, 35},
+                               {"Repair at home", "Service", "Try out", 0.7, 30}};
   int row = 3;
   for (const Project& project : kProjects) {
     Fill(*sheet, ++row,
@@ -210,10 +224,10 @@ void MakeInvestments(const std::string& path) {
   targets->SetCellValueAt(1, 1, "Targets 2026");
   targets->SetCellValueAt(2, 1, "millions of euros");
   Fill(*targets, 3, {"Strategy", "Amount"});
-  Fill(*targets, 4, {"Keep going", 3.5});
+  Fill(*targets, 4, {"Keep going", 2.9});
   Fill(*targets, 5, {"Grow", 12.0});
   Fill(*targets, 6, {"Get leaner", 4.0});
-  Fill(*targets, 7, {"Try out", 2.0});
+  Fill(*targets, 7, {"Try out", 1.8});
   book.Name("VEX_SB_Targets", "Targets!$A$1:$B$7");
 
   const std::string table = "table-id=\"VEX_TableRange_Investments\" number-format=\"0.0\" ";

@@ -117,7 +117,7 @@ Section TextsAndLook() {
                               Persist("legend-visibility", "show") + Persist("legend-font-size", "12") +
                               Persist("legend-font-style", "Italic")));
   add("comment", "a comment box, whose text the definition repeats", "",
-      "<comment>West has caught up.</comment>", "West has caught up.");
+      "<comment>North has caught up.</comment>", "North has caught up.");
   section.pictures.push_back({"unavailable", "a chart without a filling whose table is gone",
                               "table-id=\"Gone\" type=\"column\" title=\"Revenue\"", kByQuarter,
                               "table-id=\"Gone\"", ""});
@@ -146,9 +146,8 @@ Section Bubbles() {
                   "Two numbers place a bubble, a third one gives its size. In quadrants, lines through the "
                   "middle of both axes divide the chart in four.",
                   {}};
-  const std::string columns = Columns("categories", "rows", {"Country"}) +
-                              Columns("values", "", {"City dwellers"}) +
-                              Columns("x-values", "", {"GDP per head"});
+  const std::string columns = Columns("categories", "rows", {"Country"}) + Columns("values", "", {"Online"}) +
+                              Columns("x-values", "", {"City dwellers"});
   const std::string sizes = Columns("bubble-sizes", "", {"Population"});
   const std::string regions = Columns("series", "rows", {"Region"}), none = Columns("series", "none", {});
   const auto add = [&](const std::string& name, const std::string& caption, const std::string& content,
@@ -164,8 +163,8 @@ Section Bubbles() {
   add("-no-series", "no series", none + sizes, none);
   add("-zero", "with those of size zero", regions + sizes + options({"show-zero-bubbles"}),
       options({"show-zero-bubbles"}));
-  add("-axis-labels", "axis labels", regions + sizes + Axes("GDP per head", "City dwellers"),
-      Axes("GDP per head", "City dwellers"));
+  add("-axis-labels", "axis labels", regions + sizes + Axes("City dwellers", "Online"),
+      Axes("City dwellers", "Online"));
   add("-quadrants", "quadrants", regions + sizes + options({"quadrants"}), options({"quadrants"}));
   const std::string scaled = options({"quadrants", "autoscale-x", "autoscale-y"});
   add("-autoscale", "quadrants, both axes scaled to the data", regions + sizes + scaled, scaled);
@@ -214,7 +213,7 @@ void MakeTables(ExampleBook& book) {
   const auto sales = book.Sheet("Data1");
   Fill(*sales, 1, {"Quarter", "Region", "Revenue", "Cost"});
   constexpr std::array kRegions = {"North", "South", "West"};
-  constexpr double kRevenue[4][3] = {{42, 31, 18}, {55, 44, 29}, {47, 39, 41}, {38, 35, 52}};
+  constexpr double kRevenue[4][3] = {{18, 31, 42}, {29, 44, 55}, {41, 39, 47}, {52, 35, 38}};
   int row = 1;
   for (std::size_t quarter = 0; quarter < 4; ++quarter) {
     for (std::size_t region = 0; region < 3; ++region) {
@@ -225,23 +224,23 @@ void MakeTables(ExampleBook& book) {
     }
   }
   const auto nations = book.Sheet("Nations");
-  Fill(*nations, 1, {"Nations"});
-  Fill(*nations, 3, {"Country", "Region", "GDP per head", "City dwellers", "Population"});
-  Fill(*nations, 4, {"China", "Asia", 10.1, 64.0, 1408.0});
-  Fill(*nations, 5, {"India", "Asia", 2.1, 36.0, 1383.0});
-  Fill(*nations, 6, {"Japan", "Asia", 34.0, 92.0, 127.0});
-  Fill(*nations, 7, {"United States", "Americas", 65.1, 83.0, 328.0});
-  Fill(*nations, 8, {"Canada", "Americas", 46.3, 82.0, 38.0});
-  Fill(*nations, 9, {"Nigeria", "Africa", 2.4, 53.0, 203.0});
-  Fill(*nations, 10, {"Algeria", "Africa", 4.2, 75.0, 45.0});
-  Fill(*nations, 11, {"Atlantis", "Africa", 30.0, 60.0, 0.0});
+  Fill(*nations, 1, {"Nations, approximate figures of 2019: per cent, per cent, millions"});
+  Fill(*nations, 3, {"Country", "Region", "City dwellers", "Online", "Population"});
+  Fill(*nations, 4, {"China", "Asia", 60.0, 64.0, 1408.0});
+  Fill(*nations, 5, {"India", "Asia", 34.0, 29.0, 1383.0});
+  Fill(*nations, 6, {"USA", "Americas", 82.0, 89.0, 328.0});
+  Fill(*nations, 7, {"Brazil", "Americas", 87.0, 74.0, 212.0});
+  Fill(*nations, 8, {"Nigeria", "Africa", 51.0, 34.0, 203.0});
+  Fill(*nations, 9, {"Vietnam", "Asia", 37.0, 69.0, 96.0});
+  Fill(*nations, 10, {"Algeria", "Africa", 73.0, 57.0, 43.0});
+  Fill(*nations, 11, {"Atlantis", "Africa", 20.0, 50.0, 0.0});
   book.Name("VEX_TableRange_Nations", "Nations!$A$1:$E$11");
 
   const auto projects = book.Sheet("Projects");
   Fill(*projects, 1, {"Projects"});
   Fill(*projects, 3, {"Project", "Programme", "Strategy", "Amount", "Priority"});
-  Fill(*projects, 4, {"Paint shop", "Plant", "Keep going", 2.4, 60.0});
-  Fill(*projects, 5, {"Payroll", "Digital", "Keep going", 0.9, 40.0});
+  Fill(*projects, 4, {"Paint shop", "Plant", "Keep going", 3.4, 60.0});
+  Fill(*projects, 5, {"Payroll", "Digital", "Keep going", 1.2, 40.0});
   Fill(*projects, 6, {"E-Bike line", "Plant", "Grow", 3.8, 90.0});
   Fill(*projects, 7, {"Own motor", "Product", "Grow", 2.1, 95.0});
   Fill(*projects, 8, {"Portal", "Digital", "Grow", 1.5, 65.0});
@@ -251,7 +250,7 @@ void MakeTables(ExampleBook& book) {
   const auto targets = book.Sheet("Targets");
   Fill(*targets, 1, {"Targets"});
   Fill(*targets, 3, {"Strategy", "Amount"});
-  Fill(*targets, 4, {"Keep going", 3.0});
+  Fill(*targets, 4, {"Keep going", 2.8});
   Fill(*targets, 5, {"Grow", 8.5});
   Fill(*targets, 6, {"Get leaner", 4.0});
   book.Name("VEX_SB_Targets", "Targets!$A$1:$B$6");

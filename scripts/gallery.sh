@@ -22,7 +22,7 @@ take() {
 build/examples/make_gallery "$out" >"$out/pages"
 scripts/print.sh "$out/gallery.xlsx" "$out"
 while read -r page dpi name; do
-  take gallery "$page" "$dpi" 300 174 "gallery/$name"
+  take gallery "$page" "$dpi" 308 202 "gallery/$name"
 done <"$out/pages"
 cp "$out/gallery.md" docs/gallery.md
 
@@ -31,11 +31,11 @@ cp examples/data/orders.xlsx "$out/orders.xlsx"
 build/plotsmith new "$out/orders.xlsx" --table Data1 --type column --title "Amount by region" --series Product --set stacked \
   --new-sheet Charts
 scripts/print.sh "$out/orders.xlsx" "$out"
-take orders 4 60 380 300 orders
+take orders 4 60 390 320 orders
 for book in bicycle-sales investments; do
   build/plotsmith refresh "examples/$book.xlsx" -o "$out/$book.xlsx"
   scripts/print.sh "$out/$book.xlsx" "$out"
 done
-take bicycle-sales 2 60 650 415 bicycle-sales
-take investments 2 60 810 340 investments
+take bicycle-sales 2 60 666 480 bicycle-sales
+take investments 2 60 832 396 investments
 du -ch "$images"/*.png "$images"/gallery/*.png | tail -n 1

@@ -3,7 +3,7 @@
 set -eu
 
 packages="g++ cmake ninja-build pkg-config libpugixml-dev libexpat1-dev libzip-dev libisal-dev libutf8proc-dev libcli11-dev
-nlohmann-json3-dev libgtest-dev libbenchmark-dev python3"
+nlohmann-json3-dev libxml2-dev libgtest-dev libbenchmark-dev python3"
 
 missing=""
 for package in $packages "$@"; do

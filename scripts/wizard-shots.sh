@@ -64,6 +64,8 @@ choose optType(1)
 press cmdNext
 press cmdNext
 shot frmPSChartLocation
+press cmdFinish
+page none
 END
 
 for look in light dark; do

@@ -10,6 +10,7 @@
 #include "common/CommonFunctions.h"
 #include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
+#include "metadata/SavingPrograms.h"
 #include "runtime/Ref.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
@@ -25,6 +26,7 @@ namespace {
 constexpr const char* kLegendName = "VEX_Legend";
 constexpr const char* kEntryMark = "VEX_LS_";
 constexpr const char* kOwnMark = "VEX_L";  // the legend and its entries
+constexpr double kWidestMargin = 15;       // points, of a plot area without a legend beside it
 constexpr std::int32_t kBlack = 0;
 constexpr std::int32_t kWhite = 0xFFFFFF;
 
@@ -154,6 +156,15 @@ void PlaceLegend() {
   }
 }
 
+/// Whether a program dropped the drawn legend. A chart whose legend somebody deleted has a plot area of its
+/// full width since the next refresh; where a legend was drawn, its room is still free.
+bool DrawnLegendWasDropped() {
+  if (!LossesOfLastSave().bShapesOnCharts) return false;
+  const auto oPlotArea = mChart->PlotArea();
+  const double dFree = mChart->ChartArea()->Width() - oPlotArea->Left() - oPlotArea->Width();
+  return dFree > kWidestMargin;
+}
+
 }  // namespace
 
 bool LegendIsDrawn() { return HostVersion(mChart->Application()) > kLastClassicVersion; }
@@ -167,7 +178,9 @@ void ApplyDrawnLegend() {
         } else if (mLegendVisibility == "hide") {
           // A chart with a drawn legend has no built-in one, and so was read back as "hide": only the shape
           // tells whether somebody wants it.
-          if (mChart->Shapes()->Range({kLegendName})->Name() == kLegendName) BuildChartLegend(true);
+          if (DrawnLegendWasDropped() || mChart->Shapes()->Range({kLegendName})->Name() == kLegendName) {
+            BuildChartLegend(true);
+          }
         } else if (mLegendVisibility == "auto") {
           BuildChartLegend(true);
         }

@@ -12,7 +12,8 @@ namespace plotsmith::cli {
 struct GlobalOptions {
   double hostVersion = 16;
   bool journal = false;
-  bool force = false;  ///< also write a workbook that another program holds open
+  bool force = false;       ///< also write a workbook that another program holds open
+  bool dropBroken = false;  ///< also write a workbook whose broken definitions are lost by that
 };
 
 /// How a command ends.
@@ -20,7 +21,8 @@ namespace exit_code {
 inline constexpr int kDone = 0;
 inline constexpr int kSaidSomething = 1;  ///< done, but Plotsmith had something to say
 inline constexpr int kUsage = 2;
-inline constexpr int kFile = 3;  ///< a workbook or the output can't be read or written; nothing was changed
+/// A workbook or the output can't be read or written, or definitions would be lost; nothing was changed.
+inline constexpr int kFile = 3;
 }  // namespace exit_code
 
 /// A sentence for the user, and the exit code that goes with it.
@@ -39,6 +41,10 @@ class CommandError : public std::runtime_error {
 inline void Deliver(const Streams& streams) {
   if (!streams.out.flush()) throw CommandError(exit_code::kFile, "the output can't be written.");
 }
+
+/// What `-o` is for, where a verb can also write the workbook itself.
+inline constexpr const char* kOutputDescription =
+    "Write to this file and leave BOOK as it is; \"-\" is the standard output";
 
 /// One verb of the command line.
 class Command {

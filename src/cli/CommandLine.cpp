@@ -1,11 +1,10 @@
 #include "cli/CommandLine.h"
 
 #include <algorithm>
-#include <exception>
 
 #include "cli/Candidates.h"
+#include "cli/Failures.h"
 #include "cli/commands/AllCommands.h"
-#include "xlsx/package/PackageError.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -19,7 +18,8 @@ constexpr const char* kDescription =
 
 constexpr const char* kFooter =
     "Exit codes: 0 done, 1 done but Plotsmith had something to say, 2 wrong usage,\n"
-    "3 the workbook or the output could not be read or written, and nothing was changed.";
+    "3 the workbook or the output could not be read or written, or definitions of charts would\n"
+    "have been lost, and nothing was changed.";
 
 /// How many arguments an option takes up that `argument` names in full, alone or with its value behind "=";
 /// 0 if it names none.
@@ -67,15 +67,21 @@ CommandLine::CommandLine() : app(kDescription, "plotsmith"), commands(MakeComman
   app.require_subcommand(1);
   app.fallthrough();
   app.allow_windows_style_options(false);  // what begins with a slash is a path on every system
-  app.set_version_flag("--version", std::string("plotsmith ") + PLOTSMITH_VERSION);
+  app.set_version_flag("-V,--version", std::string("plotsmith ") + PLOTSMITH_VERSION);
   app.add_option("--host-version", options.hostVersion,
                  "Behave as Plotsmith does in this version of Excel; up to 11 and above 11 differ")
       ->type_name("NUMBER")
       ->capture_default_str();
   app.add_flag("--journal", options.journal,
                "Write down each change to the workbook as it is made, a line each");
+  app.add_flag("--drop-broken", options.dropBroken,
+               "Also write a workbook with definitions that are broken or have no chart, and drop them");
   app.add_flag("--force", options.force, "Also write a workbook that another program holds open");
   for (const auto& command : commands) verbs.push_back(command->Declare(app));
+}
+
+std::string NoSuchVerb(const std::string& name) {
+  return "there is no command \"" + name + "\" (try plotsmith --help)";
 }
 
 int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
@@ -84,23 +90,18 @@ int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
     return exit_code::kDone;
   }
   CommandLine line;
-  const auto fail = [&](const std::string& sentence, int code) {
-    streams.err << "plotsmith: " << sentence << '\n';
-    return code;
-  };
   const auto run = [&] {
     for (std::size_t i = 0; i < line.commands.size(); ++i) {
       if (line.verbs[i]->parsed()) return line.commands[i]->Run(line.options, streams);
     }
     return exit_code::kUsage;
   };
-  try {
+  return Guarded(streams.err, [&] {
     const std::size_t at = VerbPosition(arguments, line.app);
     const bool known = at >= arguments.size() || arguments[at].starts_with('-') ||
                        std::any_of(line.verbs.begin(), line.verbs.end(),
                                    [&](const CLI::App* verb) { return verb->get_name() == arguments[at]; });
-    if (!known)
-      return fail("there is no command \"" + arguments[at] + "\" (try plotsmith --help)", exit_code::kUsage);
+    if (!known) throw CommandError(exit_code::kUsage, NoSuchVerb(arguments[at]));
     arguments = WithFormatsBehindTheOptions(std::move(arguments), at, line.app);
     std::reverse(arguments.begin(), arguments.end());  // as the parser wants them
     int code = exit_code::kDone;
@@ -112,15 +113,7 @@ int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
     }
     Deliver(streams);
     return code;
-  } catch (const CLI::ParseError& e) {
-    return fail(std::string(e.what()) + " (try plotsmith --help)", exit_code::kUsage);
-  } catch (const CommandError& e) {
-    return fail(e.what(), e.ExitCode());
-  } catch (const xlsx::PackageError& e) {
-    return fail(e.what(), exit_code::kFile);
-  } catch (const std::exception& e) {
-    return fail(std::string("something went wrong: ") + e.what(), exit_code::kFile);
-  }
+  });
 }
 
 }  // namespace plotsmith::cli

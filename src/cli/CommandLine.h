@@ -21,6 +21,9 @@ struct CommandLine {
   std::vector<CLI::App*> verbs;  ///< what each of `commands` has declared
 };
 
+/// That no verb has the name, as a sentence.
+std::string NoSuchVerb(const std::string& name);
+
 /// The whole command: `arguments` without the program's name. Answers an exit code; nothing escapes.
 int RunCommandLine(std::vector<std::string> arguments, const Streams& streams);
 

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 #include <vector>
 
+#include "cli/ChartState.h"
+#include "cli/check/Words.h"
 #include "common/CommonFunctions.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
@@ -25,6 +28,10 @@ namespace fs = std::filesystem;
 
 CommandError CantRead(const std::string& path, const std::string& reason) {
   return CommandError(exit_code::kFile, "can't read \"" + path + "\": " + reason + ".");
+}
+
+CommandError CantSave(const std::string& path, const std::string& reason) {
+  return CommandError(exit_code::kFile, "can't save \"" + path + "\": " + reason + "; nothing was changed.");
 }
 
 /// The file beside a workbook by which another program shows that it has it open, or "".
@@ -53,6 +60,8 @@ bool IsTableKnown(const std::string& id) {
 
 }  // namespace
 
+bool IsStandardOutput(const std::optional<std::string>& output) { return output == "-"; }
+
 void RequireTableId(const std::string& id) {
   if (id.empty()) throw CommandError(exit_code::kUsage, "--table wants the id of a table.");
 }
@@ -75,7 +84,8 @@ Session::Session(std::string path, const GlobalOptions& options, const Streams& 
       host_(xlsx::Application::Create(VersionText(options.hostVersion))) {
   StartSystem(desktop_, std::move(view));
   if (options.journal) {
-    host_->Journal().SetSink([this](std::string_view line) { streams_.out << line << '\n'; });
+    host_->Journal().SetSink(
+        [this](std::string_view line) { (bookToOut_ ? streams_.err : streams_.out) << line << '\n'; });
   }
   host_->DefineMacro(kRefreshStartedMacro, [this](const auto& arguments) { ChartStarted(arguments); });
   if (streams.terminal) {
@@ -105,13 +115,27 @@ void Session::LoadTablesAndCharts() {
   }
 }
 
-void Session::CheckWritable(const std::optional<std::string>& output) const {
+void Session::CheckWritable(const std::optional<std::string>& output) {
   if (output && output->empty()) throw CommandError(exit_code::kUsage, "-o wants the name of a file.");
-  const std::string target = output.value_or(path_);
+  bookToOut_ = IsStandardOutput(output);
+  if (!bookToOut_) {
+    CheckFree(output.value_or(path_));
+  } else if (streams_.outTerminal) {
+    throw CommandError(exit_code::kUsage,
+                       "a workbook isn't written to a terminal; redirect the output, or name a file.");
+  }
+}
+
+void Session::CheckFree(const std::string& target) const {
   const std::string lock = LockOf(fs::absolute(runtime::PathOf(target)));
   if (!lock.empty() && !options_.force) {
     throw CommandError(exit_code::kFile, "\"" + target + "\" is open in another program (\"" + lock +
                                              "\" says so); close it there, or use --force.");
+  }
+  try {
+    Book().CheckName(target);
+  } catch (const xlsx::PackageError& e) {
+    throw CantSave(target, e.what());
   }
 }
 
@@ -121,14 +145,58 @@ void Session::CheckTable(const std::string& id) const {
                      "\"" + path_ + "\" has no table \"" + id + "\" (plotsmith tables lists those it has).");
 }
 
+void Session::Look(const std::function<void()>& look) const {
+  struct Restored {
+    runtime::Ref<excel::Application> application = oApplication;
+    runtime::Ref<excel::Workbook> workbook = oWorkbook;
+    ~Restored() {
+      oApplication = application;
+      oWorkbook = workbook;
+    }
+  } restored;
+  oApplication = host_;
+  oWorkbook = host_->ActiveWorkbook();
+  try {
+    look();
+  } catch (const runtime::RuntimeError&) {
+    CheckDamage();  // says what is damaged
+    throw;
+  }
+  CheckDamage();
+}
+
+void Session::LookBeforeRun(DefinitionsAre definitions) {
+  Look([&] { look_.emplace(Book(), definitions); });
+  if (!look_ || options_.dropBroken) return;
+  const std::vector<std::string> lines = look_->Refusals();
+  if (!ReportFindings(lines)) return;
+  throw CommandError(exit_code::kFile, "nothing was changed, as " + Counted(lines.size(), "definition") +
+                                           " would be lost; mend what is said, or use --drop-broken.");
+}
+
+bool Session::ReportFindings(const std::vector<std::string>& lines) const {
+  for (const std::string& line : lines) streams_.err << "plotsmith: " << line << '\n';
+  return !lines.empty();
+}
+
 void Session::ChartStarted(const std::vector<runtime::Variant>& arguments) {
   // without an argument it is the whole run that begins
   if (arguments.empty() || !colCharts) return;
-  ++chartsStarted_;
+  const std::string id = runtime::CStr(arguments[0]);
+  started_.push_back({colCharts->Item(id).selectSingleNode("chart"), colChartObjects->Item(id)});
+  if (look_) look_->ChartStarted(id);
   if (!streams_.terminal) return;
-  const std::string line = "Refreshing chart " + std::to_string(chartsStarted_) + " ...";
+  const std::string line = "Refreshing chart " + std::to_string(started_.size()) + " ...";
   streams_.err << '\r' << line << std::flush;
   progressWidth_ = line.size();
+}
+
+RefreshCounts Session::Counts() const {
+  RefreshCounts counts;
+  for (const StartedChart& chart : started_) {
+    ++(StateOf(chart.definition, chart.object) == ChartState::kOk ? counts.refreshed : counts.unavailable);
+  }
+  return counts;
 }
 
 void Session::ClearProgress() {
@@ -149,18 +217,30 @@ int Session::ReportMessages() {
 }
 
 int Session::Save(const std::optional<std::string>& output) {
-  CheckDamage();
+  std::vector<std::string> findings;
+  Look([&] {
+    if (look_) findings = look_->Finish();
+  });
   Deliver(streams_);  // while nothing is changed yet
   if (output || Book().Changed()) {
     try {
-      Book().Save(output.value_or(path_));
+      WriteBook(output);
     } catch (const xlsx::PackageError& e) {
       ReportMessages();
-      throw CommandError(exit_code::kFile, "can't save \"" + output.value_or(path_) + "\": " + e.what() +
-                                               "; nothing was changed.");
+      throw CantSave(output.value_or(path_), e.what());
     }
   }
-  return ReportMessages();
+  const int code = ReportMessages();
+  return ReportFindings(findings) ? exit_code::kSaidSomething : code;
+}
+
+void Session::WriteBook(const std::optional<std::string>& output) {
+  if (!IsStandardOutput(output)) {
+    Book().Save(output.value_or(path_));
+    return;
+  }
+  Book().Save(streams_.out);
+  Deliver(streams_);
 }
 
 int Session::Finish() {

@@ -7,6 +7,7 @@
 #include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "metadata/SavingPrograms.h"
 #include "runtime/Ref.h"
 
 namespace plotsmith {
@@ -42,6 +43,16 @@ bool IsUnmarked(excel::Shape& oShape, std::int32_t lType) {
   return oShape.Type() == lType && oShape.AlternativeText().empty();
 }
 
+/// The kind of a shape can't be changed, so a new text box takes the place of the rectangle.
+Ref<excel::Shape> ReplaceByTextBox(const Ref<excel::Shapes>& oShapes, const Ref<excel::Shape>& oRectangle,
+                                   const std::string& sText) {
+  const auto oBox = oShapes->AddTextbox(excel::msoTextOrientationHorizontal, oRectangle->Left(),
+                                        oRectangle->Top(), oRectangle->Width(), oRectangle->Height());
+  oBox->TextFrame()->Characters()->SetText(sText);
+  oRectangle->Delete();
+  return oBox;
+}
+
 }  // namespace
 
 std::string UnmarkedCharts::RestoreMarker(const std::string& sID) {
@@ -59,7 +70,8 @@ std::string UnmarkedCharts::SheetOf(const std::string& sID) {
 }
 
 std::size_t UnmarkedCharts::Find(const std::string& sID) {
-  if (!SheetExists(kDataSheet)) return aRead_.size();
+  if (!bTextsLost_) bTextsLost_ = LossesOfLastSave().bAlternativeTexts && SheetExists(kDataSheet);
+  if (!*bTextsLost_) return aRead_.size();
   std::size_t i = 0;
   while (i < aRead_.size() || ReadNext()) {
     if (aRead_[i].sShownID == sID) return i;
@@ -77,7 +89,7 @@ bool UnmarkedCharts::ReadNext() {
     while (lShape_ <= oShapes->Count()) {
       const auto oShape = oShapes->Item(lShape_++);
       if (!IsUnmarked(*oShape, excel::msoChart)) continue;
-      // what can't be read shows nothing
+      // A chart that can't be read shows nothing.
       std::string sShownID = ValueOr(std::string(), [&] {
         return ShownID(oSheet->ChartObjects()->Item(oShape->Name())->Chart(), *oDataSheet);
       });
@@ -92,13 +104,15 @@ bool UnmarkedCharts::ReadNext() {
 void RestoreCommentMarker(const std::string& sID, const std::string& sSheetName,
                           const std::string& sComment) {
   if (sComment.empty()) return;
-  const auto oSheet = SheetWithCells(sSheetName);
-  const auto oShapes = oSheet->Shapes();
+  const bool bRectangles = LossesOfLastSave().bTextBoxKind;
+  const auto oShapes = SheetWithCells(sSheetName)->Shapes();
   for (std::int32_t i = 1; i <= oShapes->Count(); ++i) {
-    const auto oShape = oShapes->Item(i);
-    if (!IsUnmarked(*oShape, excel::msoTextBox)) continue;
-    // what can't be read isn't it
+    auto oShape = oShapes->Item(i);
+    const bool bRectangle = bRectangles && IsUnmarked(*oShape, excel::msoAutoShape);
+    if (!bRectangle && !IsUnmarked(*oShape, excel::msoTextBox)) continue;
+    // A shape that can't be read is not the one.
     if (!ValueOr(false, [&] { return oShape->TextFrame()->Characters()->Text() == sComment; })) continue;
+    if (bRectangle) oShape = ReplaceByTextBox(oShapes, oShape, sComment);
     oShape->SetAlternativeText(sID);
     return;
   }

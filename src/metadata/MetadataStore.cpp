@@ -10,6 +10,7 @@
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
 #include "metadata/LostMarkers.h"
+#include "metadata/SavingPrograms.h"
 #include "metadata/StrategicBuckets.h"
 #include "readback/ChartReadBack.h"
 #include "runtime/Collection.h"
@@ -33,32 +34,43 @@ struct ReadRow {
   std::string sID;
 };
 
-/// Each save walks the rows before its own. What they hold is kept beside their texts, so that a row is only
-/// parsed again when its text has changed.
+/// Each save walks the rows before its own. What they hold is kept beside their texts, from the load or the
+/// save on, so that a row is only parsed again when something else has changed its text.
 std::vector<ReadRow> aReadRows;
 
-bool RowHoldsChart(std::int32_t lRow, const std::string& sText, const std::string& sID) {
+ReadRow& ReadRowAt(std::int32_t lRow) {
   const auto lIndex = static_cast<std::size_t>(lRow - kFirstDefinitionRow);
   if (lIndex >= aReadRows.size()) aReadRows.resize(lIndex + 1);
-  if (aReadRows[lIndex].sText != sText) {
+  return aReadRows[lIndex];
+}
+
+bool RowHoldsChart(std::int32_t lRow, const std::string& sText, const std::string& sID) {
+  ReadRow& oRow = ReadRowAt(lRow);
+  if (oRow.sText != sText) {
     ReadRow oRead{sText};
     auto oDoc = NewXMLDocument();
     oRead.bParses = oDoc.loadXML(sText);
     if (const auto oChart = oDoc.selectSingleNode("chart")) oRead.sID = GetAttributeText(oChart, "id");
-    aReadRows[lIndex] = std::move(oRead);
+    oRow = std::move(oRead);
   }
-  return aReadRows[lIndex].bParses && aReadRows[lIndex].sID == sID;
+  return oRow.bParses && oRow.sID == sID;
 }
 
-/// Loads one row; False if it has no place on the sheet any more.
-bool LoadChartDefinition(const std::string& sText, UnmarkedCharts& oUnmarked) {
+/// Whether a program dropped the box of a chart that has a comment: then nobody has deleted the comment.
+bool CommentBoxWasDropped(const IXMLDOMElement& oChart) {
+  return !GetChildText(oChart, "comment").empty() && LossesOfLastSave().bTextBoxes;
+}
+
+/// Loads one row; False if it has no place on the sheet any more. A null `oUnmarked` looks for no chart that
+/// has lost its marker.
+bool LoadChartDefinition(std::int32_t lRow, const std::string& sText, UnmarkedCharts* oUnmarked) {
   auto oDoc = NewXMLDocument();
   if (!oDoc.loadXML(sText)) return false;
   auto oChart = oDoc.selectSingleNode("chart");
   const std::string sID = GetAttributeText(oChart, "id");
   std::string sSheet = FindChartSheet(sID);
-  if (sSheet.empty() && !sID.empty()) {
-    sSheet = oUnmarked.RestoreMarker(sID);
+  if (sSheet.empty() && !sID.empty() && oUnmarked != nullptr) {
+    sSheet = oUnmarked->RestoreMarker(sID);
     if (!sSheet.empty()) {
       RestoreCommentMarker(sID, sSheet, GetChildText(oChart, "comment"));
     }
@@ -70,10 +82,11 @@ bool LoadChartDefinition(const std::string& sText, UnmarkedCharts& oUnmarked) {
   const auto oChartObject = FindChartObject(sID, sSheet);
   const auto oComment = FindChartComment(sID, sSheet);
   RevEngineerChart(oChartObject, oDoc);
-  RevEngineerComment(oComment, oDoc);
+  if (oComment || !CommentBoxWasDropped(oChart)) RevEngineerComment(oComment, oDoc);
   colChartObjects->Add(oChartObject, sID);
   colCharts->Add(oDoc, sID);
   if (oComment) colChartShapes->Add(oComment, sID);
+  ReadRowAt(lRow) = {sText, true, sID};
   return true;
 }
 
@@ -100,6 +113,9 @@ constexpr std::int32_t Rgb(std::int32_t lRed, std::int32_t lGreen, std::int32_t 
 void RetrieveChartDefinitions() {
   ReportErrors("PSFunctions.RetrieveChartDefinitions", [] {
     aReadRows.clear();
+    // Only a deletion makes a run load the definitions again. What it has deleted must not be found again in
+    // a copy of the chart.
+    const bool bReload = static_cast<bool>(colChartObjects);
     colCharts = runtime::MakeRef<DocumentCollection>();
     colChartObjects = runtime::MakeRef<runtime::Collection<Ref<excel::Chart>>>();
     colChartShapes = runtime::MakeRef<runtime::Collection<Ref<excel::Shape>>>();
@@ -117,7 +133,8 @@ void RetrieveChartDefinitions() {
         const std::string sText = runtime::CStr(GetCellValue(*oSheet, lRow, 1, cell::kString));
         if (sText.empty()) break;
         // whatever goes wrong with a row is that row's fault
-        const bool bLoaded = ValueOr(false, [&] { return LoadChartDefinition(sText, oUnmarked); });
+        const bool bLoaded =
+            ValueOr(false, [&] { return LoadChartDefinition(lRow, sText, bReload ? nullptr : &oUnmarked); });
         if (bLoaded || !DeleteSheetRow(oSheet, lRow)) ++lRow;
       }
     }
@@ -150,7 +167,9 @@ void SaveChartDefinition(const IXMLDOMDocument2& oDoc) {
       if (sText.empty()) break;
       if (RowHoldsChart(lRow, sText, sID)) break;
     }
-    oSheet->SetCellValueAt(lRow, 1, oDoc.xml());
+    const std::string sSaved = oDoc.xml();
+    oSheet->SetCellValueAt(lRow, 1, sSaved);
+    ReadRowAt(lRow) = {sSaved, true, sID};
   });
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <initializer_list>
 #include <pugixml.hpp>
 #include <string_view>
 #include <utility>
@@ -84,6 +85,19 @@ VerticalAlignment VerticalOf(const std::string& text) {
   return text == "center" || text == "distributed" ? VerticalAlignment::kCenter : VerticalAlignment::kBottom;
 }
 
+/// `edges` are the names of an edge: a file says "start" where it doesn't say "left".
+BorderLine BorderOf(pugi::xml_node border, std::initializer_list<std::string_view> edges,
+                    const Styles& styles, const Theme& theme) {
+  for (const std::string_view edge : edges) {
+    const auto line = xml::Child(border, edge);
+    const std::string style = xml::Attribute(line, "style", "none");
+    if (style == "none") continue;
+    const int width = style == "thick" ? 3 : style.starts_with("medium") || style == "double" ? 2 : 1;
+    return {width, ColorOf(xml::Child(line, "color"), styles, theme)};
+  }
+  return {};
+}
+
 /// Whether a font has what an element such as `b` switches on.
 bool Has(pugi::xml_node font, std::string_view element) {
   const auto node = xml::Child(font, element);
@@ -112,6 +126,12 @@ CellLook LookOf(const Styles& styles, const Theme& theme, std::uint32_t style) {
   look.size = std::clamp(size, kLeastFontSize, kMostFontSize);
   look.textColor = ColorOf(xml::Child(font, "color"), styles, theme);
   look.fillColor = FillColorOf(styles.FillOf(style), styles, theme);
+
+  const auto border = styles.BorderOf(style);
+  look.left = BorderOf(border, {"left", "start"}, styles, theme);
+  look.top = BorderOf(border, {"top"}, styles, theme);
+  look.right = BorderOf(border, {"right", "end"}, styles, theme);
+  look.bottom = BorderOf(border, {"bottom"}, styles, theme);
   return look;
 }
 

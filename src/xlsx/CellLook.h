@@ -15,7 +15,15 @@ enum class HorizontalAlignment { kGeneral, kLeft, kCenter, kRight, kFill, kCente
 /// ST_VerticalAlignment.
 enum class VerticalAlignment { kTop, kCenter, kBottom };
 
-/// What a cell style says of the look of a cell, beside its number format. Borders are left out.
+/// A line at an edge of a cell (CT_BorderPr). Dashes are left out.
+struct BorderLine {
+  int width = 0;                      ///< pixels at 96 dots an inch; 0 for no line
+  std::optional<std::int32_t> color;  ///< Excel's colour; nothing for that of texts
+
+  bool operator==(const BorderLine&) const = default;
+};
+
+/// What a cell style says of the look of a cell, beside its number format.
 struct CellLook {
   HorizontalAlignment horizontal = HorizontalAlignment::kGeneral;
   VerticalAlignment vertical = VerticalAlignment::kBottom;
@@ -28,6 +36,8 @@ struct CellLook {
   ///@{
   std::optional<std::int32_t> textColor, fillColor;
   ///@}
+
+  BorderLine left, top, right, bottom;
 
   bool operator==(const CellLook&) const = default;
 };

@@ -63,6 +63,9 @@ std::shared_ptr<SheetShape> SheetDrawing::AddChart(const Frame& frame) {
   const Namespaces& names = book.Vocabulary();
   const std::string chartPart = book.Package().FreeName(book.Folder() + "charts/chart", ".xml");
   book.Package().Add(chartPart, content_type::kChart, EmptyChart(book.IsStrict()));
+  const auto chart = book.Chart(chartPart);
+  chart->CatchUp();
+  chart->MarkChanged();
   const std::string link = book.Package().AddRelationship(part_, names.RelationshipType("chart"), chartPart);
   return AddAnchor(
       frame,

@@ -2,15 +2,13 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
-#include <fstream>
 #include <set>
 
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
-#include "runtime/Utf8Path.h"
 #include "xlsx/Application.h"
 #include "xlsx/DefinedNames.h"
+#include "xlsx/DocumentProperties.h"
 #include "xlsx/Errors.h"
 #include "xlsx/Limits.h"
 #include "xlsx/Sheets.h"
@@ -20,10 +18,12 @@
 #include "xlsx/drawing/DefaultTheme.h"
 #include "xlsx/package/FreeNumber.h"
 #include "xlsx/package/Namespaces.h"
+#include "xlsx/package/WorkbookKind.h"
 #include "xlsx/package/Xml.h"
 #include "xlsx/sheet/DrawingLink.h"
 #include "xlsx/sheet/SelectedTab.h"
 #include "xlsx/sheet/SharedStrings.h"
+#include "xlsx/sheet/SheetGeometry.h"
 
 namespace plotsmith::xlsx {
 
@@ -38,35 +38,18 @@ class OtherSheet final : public SheetMembers<excel::Sheet> {
   using SheetMembers::SheetMembers;
 };
 
-/// What a file is that isn't a zip archive, or null if it may be one.
-const char* ForeignKind(const std::string& path) {
-  std::ifstream file(runtime::PathOf(path), std::ios::binary);
-  std::string start(64 * 1024, '\0');
-  file.read(start.data(), static_cast<std::streamsize>(start.size()));
-  start.resize(static_cast<std::size_t>(file.gcount()));
-  if (start.empty()) return "it is empty";
-  if (start.starts_with("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1")) {
-    // a compound file: a workbook behind a password, or one from before 2007
-    std::string name;
-    for (const char c : std::string_view("EncryptedPackage")) name.append({c, '\0'});
-    // the directory may lie anywhere in the file
-    std::string rest((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-    const bool encrypted = start.find(name) != std::string::npos || rest.find(name) != std::string::npos;
-    return encrypted ? "it is encrypted with a password"
-                     : "it is a workbook of Excel 97-2003 (.xls), not .xlsx";
-  }
-  return nullptr;
-}
-
 constexpr std::string_view kEmptyWorkbook =
     R"(<workbook xmlns="http://schemas.openxmlformats.org/spreadsheetml/2006/main" )"
     R"(xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships">)"
     R"(<bookViews><workbookView/></bookViews><sheets/></workbook>)";
 
+/// The height of rows stands in the sheet, as in Excel's, because other programs have a default of their own,
+/// which would change the height of charts.
 std::string EmptySheet(bool strict) {
   return std::string(kXmlDeclaration) + "<worksheet xmlns=\"" +
          std::string((strict ? kStrict : kTransitional).main) +
-         "\"><dimension ref=\"A1\"/><sheetData/></worksheet>";
+         "\"><dimension ref=\"A1\"/><sheetFormatPr defaultRowHeight=\"" + xml::Number(kDefaultRowHeight) +
+         "\"/><sheetData/></worksheet>";
 }
 
 /// Whether a sheet can have the name (Excel's rules).
@@ -81,12 +64,10 @@ bool IsSheetName(std::string_view name) {
 Workbook::~Workbook() = default;
 
 std::shared_ptr<Workbook> Workbook::Open(xlsx::Application& application, const std::string& path) {
-  std::error_code ignored;  // of what can't be looked at, the opening tells
-  if (std::filesystem::is_directory(runtime::PathOf(path), ignored)) throw PackageError("it is a folder");
-  if (!std::ifstream(runtime::PathOf(path))) throw PackageError("it can't be opened");
-  if (const char* kind = ForeignKind(path)) throw PackageError(kind);
+  CheckFile(path);
   std::shared_ptr<Workbook> book(new Workbook(application));
   book->package_ = xlsx::Package::Open(path);
+  book->extension_ = ExtensionOf(path);
   book->Load();
   return book;
 }
@@ -109,7 +90,7 @@ void Workbook::Load() {
   part_ = main->target;
   const std::string type = package_.ContentType(part_);
   if (type.find("sheet.binary") != std::string::npos) {
-    throw PackageError("it is a binary workbook (.xlsb), not .xlsx");
+    throw OtherFormat("a binary workbook (.xlsb)");
   }
   InPart(part_, [&] { xml::Parse(document_, package_.Read(part_)); });
   if (!xml::Is(Root(), "workbook")) throw PackageError("it is not a workbook");
@@ -188,6 +169,10 @@ bool Workbook::ProtectStructure() {
 // a shared workbook keeps the log of its users' changes
 bool Workbook::MultiUserEditing() {
   return package_.FindRelationshipOfType(part_, "revisionHeaders").has_value();
+}
+
+Ref<excel::DocumentProperty> Workbook::BuiltinDocumentProperties(std::string_view name) {
+  return MakeDocumentProperty(*this, name);
 }
 
 bool Workbook::CalculatesManually() const {
@@ -469,7 +454,42 @@ void Workbook::WriteActiveTab() {
   changed_ = true;
 }
 
+bool Workbook::HasMacros() const {
+  const auto parts = package_.Parts();
+  return std::any_of(parts.begin(), parts.end(),
+                     [&](const std::string& part) { return HoldsMacros(package_.ContentType(part)); });
+}
+
+const WorkbookKind* Workbook::OtherKind(const std::string& path) const {
+  const std::string extension = ExtensionOf(path);
+  return extension == extension_ ? nullptr : KindOfName(path);
+}
+
+void Workbook::CheckName(const std::string& path) const {
+  if (IsForeignName(path)) {
+    throw PackageError("a workbook can't be written as " + ExtensionOf(path) +
+                       ", only as .xlsx, .xlsm, .xltx or .xltm");
+  }
+  const WorkbookKind* kind = OtherKind(path);
+  if (kind != nullptr && !kind->macros && HasMacros()) {
+    throw PackageError("the workbook has macros, which a file " + std::string(kind->extension) +
+                       " can't hold; give it the extension .xlsm");
+  }
+}
+
 void Workbook::Save(const std::string& path) {
+  CheckName(path);
+  if (const WorkbookKind* kind = OtherKind(path)) package_.SetContentType(part_, kind->contentType);
+  WriteModels();
+  package_.Save(path);
+}
+
+void Workbook::Save(std::ostream& out) {
+  WriteModels();
+  package_.Save(out);
+}
+
+void Workbook::WriteModels() {
   for (const auto& sheet : sheets_) {
     if (sheet->worksheet) sheet->worksheet->Write();
   }
@@ -485,7 +505,6 @@ void Workbook::Save(const std::string& path) {
   WriteActiveTab();
   if (changed_) package_.Replace(part_, xml::Serialize(document_));
   changed_ = false;
-  package_.Save(path);
 }
 
 /// Charts in use write what was changed on them. Others are looked at only if rows have moved, and touched

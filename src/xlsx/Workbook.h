@@ -5,6 +5,7 @@
 #include <memory>
 #include <new>
 #include <optional>
+#include <ostream>
 #include <pugixml.hpp>
 #include <string>
 #include <string_view>
@@ -27,6 +28,7 @@ class Application;
 class ChartPart;
 class Worksheet;
 struct SheetEntry;
+struct WorkbookKind;
 
 /// A defined name as the workbook part holds it.
 struct NameEntry {
@@ -46,6 +48,7 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   excel::Ref<excel::Application> Application() override;
   bool ProtectStructure() override;
   bool MultiUserEditing() override;
+  excel::Ref<excel::DocumentProperty> BuiltinDocumentProperties(std::string_view name) override;
   excel::Ref<excel::Sheet> ActiveSheet() override;
   excel::Ref<excel::Sheets> Sheets() override;
   excel::Ref<excel::Worksheets> Worksheets() override;
@@ -56,8 +59,12 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   // the file
   /// Whether Save would write anything but what was read.
   bool Changed() const;
-  /// Throws PackageError; then the file is as it was.
+  /// Saves as the kind of workbook that the extension tells, if it isn't the one that was opened. Throws
+  /// PackageError; then the file is as it was.
   void Save(const std::string& path);
+  void Save(std::ostream& out);
+  /// Throws a PackageError if the workbook can't be saved as the kind that the name's extension tells.
+  void CheckName(const std::string& path) const;
   /// What was found damaged while the workbook was in use, as a sentence. A workbook that has this must not
   /// be saved: what was built on it is incomplete.
   const std::optional<std::string>& Damage() const { return damage_; }
@@ -145,6 +152,11 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
   std::size_t PositionOf(const SheetEntry& sheet) const;
   void RenumberTabs(std::size_t position, int step);
   void ShiftNames();
+  bool HasMacros() const;
+  /// The kind that the name's extension tells; null if it is the one that was opened, or none.
+  const WorkbookKind* OtherKind(const std::string& path) const;
+  /// Writes what was changed into the package.
+  void WriteModels();
   void WriteCharts();
   void WriteActiveTab();
   void WriteStyles();
@@ -153,7 +165,8 @@ class Workbook : public excel::Workbook, public std::enable_shared_from_this<Wor
 
   xlsx::Application& application_;
   xlsx::Package package_;
-  std::string part_;  ///< the workbook part
+  std::string part_;       ///< the workbook part
+  std::string extension_;  ///< of the file that was opened, in lower case
   pugi::xml_document document_;
   bool changed_ = false;
   bool strict_ = false;

@@ -1,7 +1,9 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <nlohmann/json.hpp>
 #include <sstream>
+#include <sys/stat.h>
 #include <vector>
 
 #include "cli/CommandLine.h"
@@ -9,6 +11,7 @@
 #include "runtime/Strings.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/RunCommand.h"
+#include "xlsx/package/Archive.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -49,10 +52,13 @@ TEST_F(CommandTest, MessagesReachStderrWordForWord) {
   const S book = Write(SalesBook({broken}));
   const CommandResult result = RunCommand({"refresh", book});
   EXPECT_EQ(result.code, 1);
-  EXPECT_EQ(result.err,
-            "Brindle Plotsmith: Chart 'Name of VEX_Chart1' has become unavailable because its source table "
-            "no longer "
-            "exists in this workbook.\n");
+  EXPECT_EQ(
+      result.err,
+      "Brindle Plotsmith: Chart 'Name of VEX_Chart1' has become unavailable because its source table "
+      "no longer "
+      "exists in this workbook.\n"
+      "plotsmith: VEX_ChartDefinitions!A2 (chart 'Name of VEX_Chart1'): There is no table 'Gone'; there "
+      "is Data1, and a sheet counts as a table when it is called exactly Data1 to Data5.\n");
   EXPECT_NE(RunCommand({"charts", book}).out.find("table no longer fits"), S::npos);
 }
 
@@ -61,6 +67,17 @@ TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
     std::ofstream(folder_ / name, std::ios::binary) << bytes;
     return folder_ / name;
   };
+  const auto zip = [&](const S& name, const S& entry, const S& bytes) {
+    xlsx::ArchiveWriter writer(folder_ / name);
+    writer.Add(entry, bytes, false);
+    writer.Finish();
+    return folder_ / name;
+  };
+  const auto other = [](const S& format) {
+    return "it is " + format + "; save it as .xlsx first, as only .xlsx, .xlsm, .xltx and .xltm can be read";
+  };
+  const S pipe = folder_ / "pipe.xlsx";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
   test::PlainBook damaged = SalesBook({{"VEX_Chart1"}});
   damaged.Sheet("Data1").afterData = "</worksheet><";  // after the cells: of no interest
   const S odd = Write(damaged, "odd.xlsx");
@@ -75,20 +92,29 @@ TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
   const S old = file("old.xls", encrypted);
   for (const char c : S("EncryptedPackage")) encrypted += {c, '\0'};
   const std::pair<S, S> cases[] = {
-      {folder_ / "none.xlsx", "it can't be opened"},
+      {folder_ / "none.xlsx", "there is no such file"},
       {file("empty.xlsx", ""), "it is empty"},
-      {file("text.xlsx", "hello"), "Not a zip archive"},
+      {file("noise.xlsx", S("hello\0world", 11)), "Not a zip archive"},
       {file("secret.xlsx", encrypted), "it is encrypted with a password"},
-      {old, "it is a workbook of Excel 97-2003 (.xls), not .xlsx"},
+      {old, other("a workbook of Excel 97-2003 (.xls)")},
+      {file("text.csv", "Region,Amount\n"), other("a text file, such as .csv")},
+      {file("page.xls", "<HTML><table></table></HTML>"), other("a web page (.html)")},
+      {file("flat.fods", "<d xmlns:o='urn:oasis:names:tc:opendocument:xmlns:office:1.0'/>"),
+       other("an OpenDocument spreadsheet of plain XML (.fods)")},
+      {zip("book.ods", "mimetype", "application/vnd.oasis.opendocument.spreadsheet"),
+       other("an OpenDocument file, such as .ods")},
+      {zip("book.numbers", "Index/Document.iwa", "x"), other("a spreadsheet of Numbers (.numbers)")},
+      {zip("other.zip", "readme", "x"), "it is not an Office document: it has no content types"},
+      {pipe, "it is not a regular file"},
       {shared, "its sheets One and Three have one part in common"},
       {bad, "its part /xl/worksheets/sheet1.xml can't be read: its XML is damaged"}};
   for (const auto& [path, reason] : cases) {
-    const S before = Bytes(path);
+    const S before = path == pipe ? "" : Bytes(path);  // to read the pipe would wait for a writer
     const CommandResult result = RunCommand({"refresh", path, "-o", folder_ / "out.xlsx"});
     EXPECT_EQ(result.code, 3) << path;
     EXPECT_EQ(result.err, "plotsmith: can't read \"" + path + "\": " + reason + ".\n");
     EXPECT_FALSE(std::filesystem::exists(folder_ / "out.xlsx"));
-    EXPECT_EQ(Bytes(path), before);
+    EXPECT_EQ(path == pipe ? "" : Bytes(path), before);
   }
   EXPECT_EQ(RunCommand({"refresh", odd}).code, 0);
   EXPECT_EQ(RunCommand({"refresh", folder_.Path().string()}).err,
@@ -144,7 +170,8 @@ TEST_F(CommandTest, WhatIsNoFileSaysSo) {
   for (const S& path : {folder_ / "nothing.xlsx", folder_ / S(300, 'x'), folder_ / "round", folder_ / ""}) {
     const CommandResult result = RunCommand({"refresh", path});
     EXPECT_EQ(result.code, 3);
-    EXPECT_TRUE(result.err.starts_with("plotsmith: can't read \"" + path + "\": it ")) << result.err;
+    EXPECT_TRUE(result.err.starts_with("plotsmith: can't read \"" + path + "\": ")) << result.err;
+    EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 1) << result.err;
   }
 }
 
@@ -243,7 +270,8 @@ TEST_F(CommandTest, ListsAndJson) {
     "chartSheet": "Charts",
     "tableSheet": "Data1",
     "table": "Data1",
-    "state": "not drawn"
+    "state": "not drawn",
+    "reason": "The chart waits for a refresh. The column 'Amount' is no number column, as 'values' wants, since this cell holds the error #N/A, which counts as 0."
   }
 ]
 )");
@@ -281,15 +309,97 @@ TEST_F(CommandTest, StatesOfCharts) {
   const auto states = [&] {
     std::istringstream list(RunCommand({"charts", book}).out);
     std::vector<S> lines;
-    for (S id, place, state;
-         std::getline(list, id) && std::getline(list, place) && std::getline(list, state);)
-      lines.push_back(id.substr(0, 10) + state);
+    for (S line; std::getline(list, line);) {
+      if (line.starts_with("    ")) continue;  // what is wrong with the chart
+      if (!line.starts_with("  "))
+        lines.push_back(line.substr(0, 10));
+      else if (line.find(" on sheet ") == S::npos)
+        lines.back() += line;
+    }
     return lines;
   };
   EXPECT_EQ(states()[3], "VEX_Chart4  not drawn");
   EXPECT_EQ(RunCommand({"refresh", book}).code, 1);
   EXPECT_EQ(states(), (std::vector<S>{"VEX_Chart1  unsupported type", "VEX_Chart2  table no longer fits",
                                       "VEX_Chart3  unavailable", "VEX_Chart4  ok", "VEX_Chart5  not drawn"}));
+}
+
+TEST_F(CommandTest, AStateHasItsReason) {
+  test::Definition gone{"VEX_Chart1", "bar", "table-id=\"Gone\""}, column{"VEX_Chart2"};
+  column.values = "<values><column name=\"Nowhere\"/></values>";
+  auto plain = SalesBook({gone, column, {"VEX_Chart3"}, {"VEX_Chart4", "unknown"}});
+  const S book = Write(plain);
+  EXPECT_EQ(RunCommand({"refresh", book}).code, 1);
+  const auto charts = nlohmann::json::parse(RunCommand({"charts", book, "--json"}).out);
+  const auto definitions = nlohmann::json::parse(RunCommand({"check", book, "--json"}).out)["definitions"];
+  const S states[] = {"table no longer fits", "unavailable", "ok", "unsupported type"};
+  const S words[] = {"Gone", "Nowhere", "", "unknown"};
+  ASSERT_EQ(charts.size(), 4u);
+  for (std::size_t i = 0; i < 4; ++i) {
+    EXPECT_EQ(charts[i]["state"], states[i]);
+    const S reason = charts[i]["reason"];
+    EXPECT_EQ(reason.empty(), states[i] == "ok");
+    EXPECT_NE(reason.find(words[i]), S::npos) << reason;
+    if (reason.empty()) continue;
+    EXPECT_NE(reason.find(definitions[i]["findings"][0]["sentence"]), S::npos) << "as check says it";
+  }
+}
+
+TEST_F(CommandTest, ARunWithoutChartsSaysSo) {
+  const S none = Write(SalesBook({}), "none.xlsx"), one = Write(SalesBook({{"VEX_Chart1"}}), "one.xlsx");
+  test::PlainBook other = SalesBook({{"VEX_Chart1"}});
+  other.sheets.push_back(test::SalesSheet("Data2"));
+  const S two = Write(other, "two.xlsx");
+  CommandResult result = RunCommand({"refresh", none, "-o", folder_ / "out.xlsx"});
+  EXPECT_EQ(result.code, 1);
+  EXPECT_EQ(result.err,
+            "plotsmith: \"" + none + "\" has no charts of Plotsmith, so nothing was refreshed.\n");
+  EXPECT_TRUE(std::filesystem::exists(folder_ / "out.xlsx"));
+  result = RunCommand({"refresh", two, "--table", "Data2"});
+  EXPECT_EQ(result.code, 1);
+  EXPECT_EQ(result.err, "plotsmith: no chart of \"" + two +
+                            "\" hangs on the table \"Data2\", so nothing was refreshed.\n");
+  result = RunCommand({"refresh", one, "--verbose"});
+  EXPECT_EQ(result.code, 0);
+  EXPECT_EQ(result.err, "1 chart refreshed\n");
+}
+
+TEST_F(CommandTest, DatesHaveAnIsoTextBesideTheirNumber) {
+  test::PlainBook plain = SalesBook({});
+  plain.styles =
+      "<styleSheet xmlns='http://schemas.openxmlformats.org/spreadsheetml/2006/main'><numFmts>"
+      "<numFmt numFmtId='170' formatCode='yyyy-mm-dd'/><numFmt numFmtId='171' formatCode='d/m/yy h:mm'/>"
+      "</numFmts><cellXfs><xf/><xf numFmtId='170'/><xf numFmtId='20'/><xf numFmtId='171'/>"
+      "<xf numFmtId='46'/></cellXfs></styleSheet>";
+  plain.Sheet("Data1").rows = {
+      {test::RawCell{" s='1'><v>45000.25</v></c>"}, test::RawCell{" s='2'><v>45000.25</v></c>"},
+       test::RawCell{" s='3'><v>45000.25</v></c>"}, test::RawCell{" s='4'><v>1.5</v></c>"}, 45000.25,
+       S("text"), test::RawCell{" s='1'><v>-1</v></c>"}}};
+  const auto cells = [&](std::vector<S> more) {
+    const S book = Write(plain);
+    more.insert(more.begin(), {"cells", book, "Data1!A1:G1"});
+    return RunCommand(more).out;
+  };
+  EXPECT_EQ(cells({"--value", "--json"}),
+            R"([[{"number":45000.25,"iso":"2023-03-15"},{"number":45000.25,"iso":"06:00:00"},)"
+            R"({"number":45000.25,"iso":"2023-03-15T06:00:00"},{"number":1.5,"iso":"PT36H"},)"
+            "45000.25,\"text\",-1.0]]\n");
+  EXPECT_EQ(cells({"--value"}), "45000.25\t45000.25\t45000.25\t1.5\t45000.25\ttext\t-1\n");
+  EXPECT_EQ(cells({"--json"}),
+            "[[\"2023-03-15\",\"6:00\",\"15/3/23 6:00\",\"36:00:00\",\"45000.25\",\"text\",\"########\"]]\n");
+  plain.workbookExtra = "<workbookPr date1904='1'/>";
+  EXPECT_EQ(cells({"--value", "--json"}).substr(0, 44), R"([[{"number":45000.25,"iso":"2027-03-16"},{"n)");
+}
+
+TEST_F(CommandTest, HelpAndVersionAreToldInEveryWay) {
+  const S all = RunCommand({"--help"}).out, refresh = RunCommand({"refresh", "--help"}).out;
+  EXPECT_EQ(RunCommand({"help"}).out, all);
+  EXPECT_EQ(RunCommand({"help", "refresh"}).out, refresh);
+  EXPECT_EQ(RunCommand({"-V"}).out, RunCommand({"--version"}).out);
+  EXPECT_EQ(RunCommand({"-V"}).code + RunCommand({"help"}).code, 0);
+  const CommandResult unknown = RunCommand({"help", "dance"});
+  EXPECT_EQ(unknown.code, 2);
+  EXPECT_EQ(unknown.err, "plotsmith: there is no command \"dance\" (try plotsmith --help)\n");
 }
 
 TEST_F(CommandTest, Formats) {
@@ -314,9 +424,10 @@ TEST_F(CommandTest, JournalVersionAndProgress) {
       RunCommand({"refresh", book, "--journal", "--host-version", "11", "-o", folder_ / "o.xlsx"}).out;
   EXPECT_NE(journal.find("\nChart.ChartType = 57\n"), S::npos);
   EXPECT_NE(journal.find("Chart.SeriesCollection(1).Name = \"=VEX_ChartData!R1C3\""), S::npos);
-  const CommandResult watched = RunCommand({"refresh", book, "-o", folder_ / "o.xlsx"}, "", true);
+  const CommandResult watched =
+      RunCommand({"refresh", book, "-o", folder_ / "o.xlsx"}, "", test::Watched::kMessages);
   EXPECT_NE(watched.err.find("\rRefreshing chart 2 ..."), S::npos);
-  EXPECT_TRUE(watched.err.ends_with("\r")) << "and the line is wiped";
+  EXPECT_TRUE(watched.err.ends_with("\r2 charts refreshed\n")) << "and the line is wiped";
   EXPECT_EQ(watched.code, 0);
   EXPECT_EQ(VersionText(16), "16.0");
   EXPECT_EQ(VersionText(11.5), "11.5");

@@ -11,6 +11,7 @@
 #include "runtime/Strings.h"
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
+#include "tests/support/Paths.h"
 #include "tests/support/RunCommand.h"
 
 namespace plotsmith::cli {
@@ -156,7 +157,7 @@ TEST_F(BookCompletionTest, TheCommandListsWhatAWorkbookHas) {
 
 TEST_F(BookCompletionTest, BashAsksTheWorkbook) {
   using List = std::vector<S>;
-  const S draw = S(PLOTSMITH_COMMAND) + " draw";
+  const S draw = S(test::kCommand) + " draw";
   const List charts = {R"(Name\ of\ VEX_Chart1)", "VEX_Chart1"};
   const S quotedBook = "'my book.xlsx'", sum = R"(Sum\ in\ \"\$\"\ \&\ more)";
   // each word as it was typed, the last one perhaps in part

@@ -12,6 +12,7 @@
 #include "pages/pictures/Canvas.h"
 #include "pages/pictures/Svg.h"
 #include "tests/support/ErrorOf.h"
+#include "tests/support/Paths.h"
 
 namespace plotsmith {
 namespace {
@@ -38,7 +39,7 @@ Rectangle Bounds(const Shape& shape) {
 }
 
 S FileText(const S& name) {
-  std::ifstream file(S(PLOTSMITH_SOURCE_DIR) + "/" + name, std::ios::binary);
+  std::ifstream file(S(test::kSourceFolder) + "/" + name, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }
 

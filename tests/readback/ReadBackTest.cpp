@@ -7,6 +7,7 @@
 #include "readback/ChartAppearance.h"
 #include "readback/ChartReadBack.h"
 #include "tests/support/ChartTest.h"
+#include "tests/support/Paths.h"
 #include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
 
@@ -69,7 +70,7 @@ class ReadBackTest : public test::ChartTest {
 /// What stands in tests/readback/corpus.tsv: of each chart by file and number what the read-back says.
 std::map<S, S> ExpectedOfCorpus() {
   std::map<S, S> expected;
-  std::ifstream file(fs::path(PLOTSMITH_SOURCE_DIR) / "tests" / "readback" / "corpus.tsv");
+  std::ifstream file(fs::path(test::kSourceFolder) / "tests" / "readback" / "corpus.tsv");
   for (S line; std::getline(file, line);) {
     const auto tab = line.find('\t');
     expected[line.substr(0, tab)] = line.substr(tab + 1);
@@ -79,7 +80,7 @@ std::map<S, S> ExpectedOfCorpus() {
 
 TEST_F(ReadBackTest, ChartsAsExcelAndOthersSavedThem) {
   std::error_code absent;
-  const auto folder = fs::path(PLOTSMITH_CORPUS_DIR) / "charts";
+  const auto folder = fs::path(test::kCorpusFolder) / "charts";
   if (!fs::is_directory(folder, absent)) GTEST_SKIP() << "the corpus isn't there";
   auto expected = ExpectedOfCorpus();
   for (const auto& file : fs::directory_iterator(folder)) {

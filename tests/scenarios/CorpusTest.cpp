@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "tests/support/HostTest.h"
+#include "tests/support/Paths.h"
 #include "tests/support/RunCommand.h"
 #include "xlsx/package/PackageError.h"
 
@@ -34,7 +35,7 @@ const std::map<S, S> kRefused = {
     {"made_encrypted_flag.xlsx", "encrypted"},
     {"made_missing_wb_rels.xlsx", "the part of its sheet Sheet1 is missing"},
     {"made_prefix_junk.xlsx", "Not a zip archive"},
-    {"made_text.xlsx", "Not a zip archive"},
+    {"made_text.xlsx", "it is a text file"},
     {"made_truncated_half.xlsx", "Not a zip archive"},
     {"made_truncated_tail.xlsx", "Not a zip archive"},
     {"protect.xlsx", "encrypted"},
@@ -45,7 +46,7 @@ std::vector<fs::path> Corpus() {
   std::vector<fs::path> files;
   for (const char* folder : {"charts", "real", "made", "broken"}) {
     std::error_code ignored;
-    for (const auto& entry : fs::directory_iterator(fs::path(PLOTSMITH_CORPUS_DIR) / folder, ignored)) {
+    for (const auto& entry : fs::directory_iterator(fs::path(test::kCorpusFolder) / folder, ignored)) {
       files.push_back(entry.path());
     }
   }
@@ -82,7 +83,7 @@ class CorpusTest : public ::testing::Test {
 
 TEST_F(CorpusTest, SaveChangesNoPartOfAnyWorkbook) {
   for (const fs::path& path : Corpus()) {
-    const S name = path.filename().string(), out = folder_ / "out.xlsx";
+    const S name = path.filename().string(), out = folder_ / ("out" + path.extension().string());
     SCOPED_TRACE(name);
     fs::remove(out);
     const auto [code, printed, err] = RunCommand({"save", path.string(), "-o", out});
@@ -122,7 +123,7 @@ TEST_F(CorpusTest, LibreOfficeOpensWhatWasSaved) {
 
 TEST_F(CorpusTest, RefreshTouchesOnlyWhatIsItsOwn) {
   for (const fs::path& path : Corpus()) {
-    const S name = path.filename().string(), out = folder_ / "out.xlsx";
+    const S name = path.filename().string(), out = folder_ / ("out" + path.extension().string());
     if (kRefused.contains(name)) continue;
     SCOPED_TRACE(name);
     fs::remove(out);

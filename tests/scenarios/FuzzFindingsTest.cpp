@@ -6,6 +6,8 @@
 
 #include "fuzz/Targets.h"
 
+#include "tests/support/Paths.h"
+
 namespace plotsmith {
 namespace {
 
@@ -14,7 +16,7 @@ namespace fs = std::filesystem;
 /// Inputs that the fuzzers once found, or that somebody made of a fault found otherwise. Each crashed, hung
 /// or ate memory, or would where nobody takes care.
 TEST(FuzzFindingsTest, WhatOnceFailedIsMended) {
-  const fs::path findings = fs::path(PLOTSMITH_SOURCE_DIR) / "fuzz" / "findings";
+  const fs::path findings = fs::path(test::kSourceFolder) / "fuzz" / "findings";
   std::set<std::string> folders, targets;
   for (const auto& folder : fs::directory_iterator(findings)) folders.insert(folder.path().filename());
   for (const fuzz::Target& target : fuzz::kTargets) {

@@ -291,6 +291,7 @@ TEST_F(HandEditsTest, ChartsThatLostTheirMarkersAreKnownByTheirData) {
     for (const S marker : {"VEX_Chart1", "VEX_Chart2", "VEX_Chart2"})
       Replace(xml, " descr=\"" + marker + "\"", "");
     package.Replace("/xl/drawings/drawing2.xml", xml);
+    test::SetSavingProgram(package, "LibreOffice/7.4.7.2$Linux_X86_64");
   });
   Refresh();
   SaveAndReopen();

@@ -1,10 +1,14 @@
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
+#include <optional>
+#include <regex>
+#include <set>
 #include <vector>
 
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
+#include "xlsx/Worksheet.h"
 #include "xlsx/package/Package.h"
 #include "xlsx/package/Xml.h"
 
@@ -47,23 +51,30 @@ class LibreOfficeTest : public test::HostTest {
     Office("'macro:///Standard.Module1.Main'");
   }
 
+  /// Has LibreOffice write the saved workbook in its own format.
+  xlsx::Archive Convert() {
+    Office("--convert-to ods --outdir " + folder_.Path().string() + " " + (folder_ / "saved.xlsx"));
+    return xlsx::Archive(folder_ / "saved.ods");
+  }
+  /// The text of an entry; nothing if the archive doesn't have it.
+  static std::optional<S> Entry(const xlsx::Archive& archive, const S& name) {
+    const auto& entries = archive.Entries();
+    const auto entry =
+        std::find_if(entries.begin(), entries.end(), [&](const auto& e) { return e.name == name; });
+    if (entry == entries.end()) return std::nullopt;
+    S text(entry->size, '\0');
+    const auto stream = archive.Open(static_cast<std::size_t>(entry - entries.begin()));
+    std::size_t total = 0;
+    while (const auto count = stream->Read(text.data() + total, text.size() - total)) total += count;
+    return text;
+  }
   /// The saved workbook's charts as LibreOffice writes them, by their number in its package.
   std::vector<S> Charts() {
-    Office("--convert-to ods --outdir " + folder_.Path().string() + " " + (folder_ / "saved.xlsx"));
-    const xlsx::Archive archive(folder_ / "saved.ods");
+    const xlsx::Archive archive = Convert();
     std::vector<S> charts;
-    for (int n = 1;; ++n) {
-      const S name = "Object " + std::to_string(n) + "/content.xml";
-      const auto& entries = archive.Entries();
-      const auto entry =
-          std::find_if(entries.begin(), entries.end(), [&](const auto& e) { return e.name == name; });
-      if (entry == entries.end()) return charts;
-      S text(entry->size, '\0');
-      const auto stream = archive.Open(static_cast<std::size_t>(entry - entries.begin()));
-      std::size_t total = 0;
-      while (const auto count = stream->Read(text.data() + total, text.size() - total)) total += count;
-      charts.push_back(text);
-    }
+    while (auto text = Entry(archive, "Object " + std::to_string(charts.size() + 1) + "/content.xml"))
+      charts.push_back(std::move(*text));
+    return charts;
   }
 
   /// The data of a chart, rows by "\n", cells by "|".
@@ -83,6 +94,14 @@ class LibreOfficeTest : public test::HostTest {
       }
     }
     return text;
+  }
+  /// Where the texts of the drawn legend begin, from the left edge of the chart.
+  static std::set<S> LegendTextLefts(const S& content) {
+    static const std::regex text("draw:name=\"[^\"]* Text\"[^>]* svg:x=\"([^\"]*)\"");
+    std::set<S> lefts;
+    for (std::sregex_iterator it(content.begin(), content.end(), text), end; it != end; ++it)
+      lefts.insert((*it)[1]);
+    return lefts;
   }
   static S Class(const S& content) {
     const auto at = content.find("chart:class=\"chart:");
@@ -128,7 +147,8 @@ TEST_F(LibreOfficeTest, SeesPiesBubblesAndBuckets) {
   EXPECT_EQ(Class(charts[0]), "circle");
   EXPECT_NE(Data(charts[0]).find("East|18\nWest|5"), S::npos) << Data(charts[0]);
 
-  Open(test::BubbleBook({{"A", "North", 1, 2, 30}, {"B", "South", 3, 4, 20}}, test::BubbleDefinition()));
+  Open(test::BubbleBook({{"A", "North", 1, 2, 30}, {"B", "South", 3, 4, 20}, {"C", "HR", 5, 6, 10}},
+                        test::BubbleDefinition()));
   Refresh();
   SaveAndReopen();
   charts = Charts();
@@ -138,6 +158,7 @@ TEST_F(LibreOfficeTest, SeesPiesBubblesAndBuckets) {
                            "office:value=\"30\"", "office:value=\"20\""}) {
     EXPECT_NE(charts[0].find(seen), S::npos) << seen;
   }
+  EXPECT_EQ(LegendTextLefts(charts[0]).size(), 1u) << "the texts are aligned to the left";
 
   Open(test::BucketBook(test::BucketDefinition()));
   Refresh();
@@ -147,6 +168,20 @@ TEST_F(LibreOfficeTest, SeesPiesBubblesAndBuckets) {
   EXPECT_NE(Data(charts[0]).find("GROWTH|"), S::npos) << Data(charts[0]);
   EXPECT_NE(charts[0].find(">Strategic Buckets<"), S::npos);
   EXPECT_NE(charts[0].find("chart:class=\"chart:line\""), S::npos) << "the buckets' own values";
+}
+
+TEST_F(LibreOfficeTest, AChartOnANewSheetHasItsHeight) {
+  Open(test::SalesBook({}));
+  const auto sheet = Book().AddWorksheet(1);
+  sheet->SetName("New");
+  sheet->ChartObjects()->Add(48, 45, 480, 300);
+  SaveAndReopen();
+  pugi::xml_document content;
+  xlsx::xml::Parse(content, Entry(Convert(), "content.xml").value_or(""));
+  const auto frame = content.select_node("//table:table[@table:name='New']//draw:frame").node();
+  const S height = frame.attribute("svg:height").value();
+  EXPECT_NEAR(std::strtod(height.c_str(), nullptr) * (height.ends_with("in") ? 72 : 72 / 2.54), 300, 1)
+      << height;
 }
 
 TEST_F(LibreOfficeTest, WhatWasEditedThereSurvivesTheNextRefresh) {

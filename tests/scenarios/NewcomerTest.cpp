@@ -9,6 +9,7 @@
 
 #include "cli/CommandLine.h"
 #include "tests/support/HostTest.h"
+#include "tests/support/Paths.h"
 #include "tests/support/RunCommand.h"
 #include "xlsx/Worksheet.h"
 
@@ -18,7 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 using S = std::string;
 
-const fs::path kRoot = PLOTSMITH_SOURCE_DIR;
+const fs::path kRoot = test::kSourceFolder;
 
 S Text(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);
@@ -59,14 +60,14 @@ TEST_F(NewcomerTest, TheWorkbookOfTheReadmeIsRefreshedAsItSays) {
   std::istringstream commands(Block(readme_, "\npython3 examples/write_book.py"));
   S line, last;
   while (std::getline(commands, line)) {
-    line = Replaced(line, "build/plotsmith", PLOTSMITH_COMMAND);
+    line = Replaced(line, "build/plotsmith", test::kCommand);
     line = Replaced(line, "examples/", (kRoot / "examples/").string());
     last = Shell(Replaced(line, "book.xlsx", folder_ / "book.xlsx"));
     if (line.find("write_book") == S::npos) continue;
     // it writes the definition that stands above
     const S definition = std::regex_replace(Block(readme_, "xml\n"), std::regex("\n *"), "");
     EXPECT_EQ(
-        Shell(S(PLOTSMITH_COMMAND) + " cells " + (folder_ / "book.xlsx") + " 'VEX_ChartDefinitions!A2'"),
+        Shell(S(test::kCommand) + " cells " + (folder_ / "book.xlsx") + " 'VEX_ChartDefinitions!A2'"),
         definition + "\n");
   }
   EXPECT_EQ(last,
@@ -79,8 +80,8 @@ TEST_F(NewcomerTest, TheExamplesAreRefreshedWithoutAWord) {
     if (entry.path().extension() != ".xlsx") continue;
     ++books;
     const S out = folder_ / entry.path().filename().string();
-    EXPECT_EQ(Shell(S(PLOTSMITH_COMMAND) + " refresh " + entry.path().string() + " -o " + out), "");
-    const S charts = Shell(S(PLOTSMITH_COMMAND) + " charts " + out);
+    EXPECT_EQ(Shell(S(test::kCommand) + " refresh " + entry.path().string() + " -o " + out), "");
+    const S charts = Shell(S(test::kCommand) + " charts " + out);
     EXPECT_NE(charts, "");
     std::istringstream lines(charts);
     for (S id, place, state;
@@ -104,8 +105,8 @@ TEST_F(NewcomerTest, TheDefinitionsOfThePageOfFormatsAreDrawn) {
       host->Book().FindWorksheet("VEX_ChartDefinitions")->Cells(2, 1)->SetValue(definition);
       host->Book().Save(folder_ / "book.xlsx");
     }
-    EXPECT_EQ(Shell(S(PLOTSMITH_COMMAND) + " refresh " + (folder_ / "book.xlsx")), "");
-    const S charts = Shell(S(PLOTSMITH_COMMAND) + " charts " + (folder_ / "book.xlsx"));
+    EXPECT_EQ(Shell(S(test::kCommand) + " refresh " + (folder_ / "book.xlsx")), "");
+    const S charts = Shell(S(test::kCommand) + " charts " + (folder_ / "book.xlsx"));
     EXPECT_TRUE(charts.starts_with("VEX_Chart1  \"" + S(type == "bubble" ? "Wealth" : "Investments") + "\""))
         << charts;
     EXPECT_EQ(charts.find("not drawn"), S::npos) << charts;
@@ -119,12 +120,12 @@ TEST_F(NewcomerTest, TheFirstStepsOfTheReadmeMakeAChart) {
   S line;
   int steps = 0;
   for (; std::getline(commands, line); ++steps) {
-    line = Replaced(line, "build/plotsmith", PLOTSMITH_COMMAND);
+    line = Replaced(line, "build/plotsmith", test::kCommand);
     line = Replaced(line, "examples/", (kRoot / "examples/").string());
     Shell(Replaced(line, "book.xlsx", book));
   }
   EXPECT_EQ(steps, 4);
-  EXPECT_EQ(Shell(S(PLOTSMITH_COMMAND) + " charts " + book),
+  EXPECT_EQ(Shell(S(test::kCommand) + " charts " + book),
             "VEX_Chart1  \"Amount by region\"\n  column chart on sheet Charts, from table Data1 on sheet "
             "Data1\n  ok\n");
 }

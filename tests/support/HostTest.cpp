@@ -30,6 +30,16 @@ void EditPart(const std::string& path, const std::string& part,
   package.Save(path);
 }
 
+void SetSavingProgram(xlsx::Package& package, const std::string& program, const std::string& version) {
+  const std::string office = "http://schemas.openxmlformats.org/officeDocument/2006/";
+  std::string xml = "<Properties xmlns=\"" + office + "extended-properties\"><Application>" + program +
+                    "</Application>" + (version.empty() ? "" : "<AppVersion>" + version + "</AppVersion>") +
+                    "</Properties>";
+  package.Add("/docProps/app.xml", "application/vnd.openxmlformats-officedocument.extended-properties+xml",
+              std::move(xml));
+  package.AddRelationship("", office + "relationships/extended-properties", "/docProps/app.xml");
+}
+
 HostTest::HostTest() : desktop_(std::make_shared<cli::ConsoleDesktop>()) {
   StartSystem(desktop_, std::make_shared<forms::UnattendedView>());
 }

@@ -32,6 +32,9 @@ class TempFolder {
 void EditPart(const std::string& path, const std::string& part,
               const std::function<void(std::string& text)>& edit);
 
+/// Says in the package which program saved it last, as the program itself does. An empty version is left out.
+void SetSavingProgram(xlsx::Package& package, const std::string& program, const std::string& version = "");
+
 /// A test of the system on the embedded host: before each case all module variables are as the component
 /// starts.
 class HostTest : public ::testing::Test {

@@ -7,10 +7,11 @@
 
 namespace plotsmith::test {
 
-CommandResult RunCommand(std::vector<std::string> arguments, const std::string& input, bool terminal) {
+CommandResult RunCommand(std::vector<std::string> arguments, const std::string& input, Watched watched) {
   std::istringstream in(input);
   std::ostringstream out, err;
-  const int code = cli::RunCommandLine(std::move(arguments), {in, out, err, terminal});
+  const int code = cli::RunCommandLine(
+      std::move(arguments), {in, out, err, watched != Watched::kNothing, watched == Watched::kEverything});
   return {code, out.str(), err.str()};
 }
 

@@ -10,8 +10,11 @@ struct CommandResult {
   std::string out, err;
 };
 
-/// Runs the command in this process; on a terminal it shows its progress.
+/// What of a run goes to a terminal.
+enum class Watched { kNothing, kMessages, kEverything };
+
+/// Runs the command in this process.
 CommandResult RunCommand(std::vector<std::string> arguments, const std::string& input = "",
-                         bool terminal = false);
+                         Watched watched = Watched::kNothing);
 
 }  // namespace plotsmith::test

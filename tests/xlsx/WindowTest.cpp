@@ -38,7 +38,7 @@ TEST_F(WindowTest, ANewSheetKeepsItsViewWithCellsAndTab) {
   EXPECT_EQ(SavedHead("Sheet1"),
             "<worksheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\">"
             "<dimension ref=\"C2\"/><sheetViews><sheetView showGridLines=\"0\" showRowColHeaders=\"0\" "
-            "tabSelected=\"1\" workbookViewId=\"0\"/></sheetViews>");
+            "tabSelected=\"1\" workbookViewId=\"0\"/></sheetViews><sheetFormatPr defaultRowHeight=\"15\"/>");
   EXPECT_EQ(Cells("Sheet1", 2, 3, 2, 3), "1");
 }
 

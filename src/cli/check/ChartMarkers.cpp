@@ -26,44 +26,67 @@ std::vector<std::string> TextsInGroup(pugi::xml_node group) {
 
 }  // namespace
 
-ChartMarkers::ChartMarkers(xlsx::Workbook& book) {
-  for (const auto& sheet : book.AllWorksheets()) {
-    const xlsx::SheetDrawing* const drawing = sheet->FindDrawing();
-    if (drawing == nullptr) continue;
-    for (const auto& shape : drawing->Shapes()) {
-      if (shape->Type() == excel::msoChart) {
-        const std::string text = shape->AlternativeText();
-        if (text.empty())
-          ++unmarked_;
-        else
-          sheets_.emplace(text, sheet->SheetName());
-      } else if (shape->Type() == excel::msoGroup) {
-        for (const std::string& text : TextsInGroup(shape->Object()))
-          grouped_.emplace(text, sheet->SheetName());
-      }
+bool ChartMarkers::ReadNextSheet() {
+  const auto& sheets = book_.AllWorksheets();
+  if (sheetsRead_ >= sheets.size()) return false;
+  xlsx::Worksheet& sheet = *sheets[sheetsRead_++];
+  const xlsx::SheetDrawing* const drawing = sheet.FindDrawing();
+  if (drawing == nullptr) return true;
+  for (const auto& shape : drawing->Shapes()) {
+    if (shape->Type() == excel::msoChart) {
+      const std::string text = shape->AlternativeText();
+      if (text.empty())
+        ++unmarked_;
+      else
+        charts_.emplace(text, MarkedChart{sheet.SheetName(), shape});
+    } else if (shape->Type() == excel::msoGroup) {
+      for (const std::string& text : TextsInGroup(shape->Object())) grouped_.emplace(text, sheet.SheetName());
     }
   }
+  return true;
+}
+
+void ChartMarkers::ReadAll() {
+  while (ReadNextSheet()) {
+  }
+}
+
+const ChartMarkers::MarkedChart* ChartMarkers::Find(const std::string& id) {
+  auto found = charts_.find(id);
+  while (found == charts_.end() && ReadNextSheet()) found = charts_.find(id);
+  return found == charts_.end() ? nullptr : &found->second;
+}
+
+std::shared_ptr<xlsx::SheetShape> ChartMarkers::ShapeOf(const std::string& id) {
+  const MarkedChart* const found = Find(id);
+  return found == nullptr ? nullptr : found->shape;
 }
 
 std::string ChartMarkers::SheetOf(const std::string& id) {
-  const auto found = sheets_.find(id);
-  return found == sheets_.end() ? lost_.SheetOf(id) : found->second;
+  const MarkedChart* const found = Find(id);
+  return found == nullptr ? lost_.SheetOf(id) : found->sheet;
 }
 
-std::string ChartMarkers::Absence(const std::string& id) const {
+bool ChartMarkers::IsGrouped(const std::string& id) {
+  ReadAll();
+  return grouped_.contains(id);
+}
+
+std::string ChartMarkers::Absence(const std::string& id) {
+  ReadAll();
   if (const auto group = grouped_.find(id); group != grouped_.end()) {
-    return "the chart with the alternative text " + Quoted(id) + " is in a group of shapes on the sheet " +
-           Quoted(group->second) + ", where it isn't seen; ungroup it";
+    return "The chart with the alternative text " + Quoted(id) + " is in a group of shapes on the sheet " +
+           Quoted(group->second) + ", where it isn't seen, and has to be ungrouped.";
   }
   std::vector<std::string> others;
-  for (const auto& [text, sheet] : sheets_) others.push_back(Quoted(text));
+  for (const auto& [text, chart] : charts_) others.push_back(Quoted(text));
   std::vector<std::string> charts;
   if (!others.empty())
     charts.push_back((others.size() == 1 ? "a chart with " : "charts with ") + Listed(others));
   if (unmarked_ > 0) charts.push_back(Counted(unmarked_, "chart") + " without any");
-  const std::string start = "no chart has the alternative text " + Quoted(id) + "; ";
-  if (charts.empty()) return start + "there are no charts";
-  return start + (others.size() + unmarked_ == 1 ? "there is " : "there are ") + Listed(charts);
+  const std::string start = "No chart has the alternative text " + Quoted(id) + "; ";
+  if (charts.empty()) return start + "there are no charts.";
+  return start + (others.size() + unmarked_ == 1 ? "there is " : "there are ") + Listed(charts) + ".";
 }
 
 }  // namespace plotsmith::cli

@@ -1,7 +1,10 @@
 #include "cli/check/ColumnCells.h"
 
+#include <algorithm>
+
 #include "common/CommonFunctions.h"
 #include "metadata/TableDefinitions.h"
+#include "runtime/Strings.h"
 
 namespace plotsmith::cli {
 
@@ -32,6 +35,13 @@ ColumnCells::ColumnCells(xlsx::Worksheet& sheet, const TableArea& area, std::int
       return;
     }
   }
+}
+
+dom::IXMLDOMElement FindColumn(const dom::IXMLDOMNodeList& columns, const std::string& name) {
+  const auto found = std::find_if(columns.begin(), columns.end(), [&](const dom::IXMLDOMElement& column) {
+    return runtime::EqualsIgnoreCase(GetAttributeText(column, "name"), name);
+  });
+  return found == columns.end() ? dom::IXMLDOMElement() : *found;
 }
 
 }  // namespace plotsmith::cli

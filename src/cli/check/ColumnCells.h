@@ -34,4 +34,7 @@ struct ColumnCells {
   std::string error, text;  ///< what those two cells show
 };
 
+/// The column of that name as a chart finds it, ignoring case; Nothing if there is none.
+dom::IXMLDOMElement FindColumn(const dom::IXMLDOMNodeList& columns, const std::string& name);
+
 }  // namespace plotsmith::cli

@@ -1,6 +1,10 @@
 #include "cli/check/DefinitionCheck.h"
 
+#include <algorithm>
 #include <map>
+#include <optional>
+#include <set>
+#include <utility>
 
 #include "cli/check/ChartMarkers.h"
 #include "cli/check/DefinitionFormat.h"
@@ -9,7 +13,6 @@
 #include "common/CommonFunctions.h"
 #include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
-#include "metadata/MetadataStore.h"
 #include "runtime/Strings.h"
 #include "xlsx/Worksheet.h"
 
@@ -17,14 +20,11 @@ namespace plotsmith::cli {
 namespace {
 
 constexpr std::int32_t kFirstRow = 2;
-/// How sentences end about what makes a load remove the row.
-constexpr const char* kRemoved = ", so the next refresh removes this definition.";
 
 /// The walk over the rows of one sheet.
-class DefinitionCheck {
+class RowCheck {
  public:
-  DefinitionCheck(xlsx::Workbook& book, xlsx::Worksheet& sheet)
-      : book_(book), sheet_(sheet), markers_(book) {}
+  RowCheck(xlsx::Workbook& book, xlsx::Worksheet& sheet) : book_(book), sheet_(sheet), markers_(book) {}
 
   std::vector<CheckedDefinition> Run() {
     CheckHead();
@@ -33,34 +33,39 @@ class DefinitionCheck {
       const std::string text = TextAt(row);
       if (text.empty()) continue;
       CheckedDefinition& definition = Add(row);
-      if (row > expected) {
-        Report(definition, FindingKind::kUnread,
-               "This definition is never read, because " + Place(expected) + " is blank and ends the list.");
-      } else {
-        ++expected;
-      }
       CheckRow(definition, text);
+      if (row == expected) {
+        ++expected;
+      } else {
+        MarkUnread(definition, DefinitionPlace(expected) + " is blank and ends the list");
+      }
     }
     return std::move(definitions_);
   }
 
  private:
   std::string TextAt(std::int32_t row) { return runtime::CStr(GetCellValue(sheet_, row, 1, cell::kString)); }
-  std::string Place(std::int32_t row) const { return CellText(sheet_.SheetName(), row, 1); }
   CheckedDefinition& Add(std::int32_t row) {
     CheckedDefinition& definition = definitions_.emplace_back();
-    definition.place = Place(row);
+    definition.row = row;
+    definition.place = DefinitionPlace(row);
     return definition;
   }
-  static void Report(CheckedDefinition& definition, FindingKind kind, std::string sentence) {
-    definition.findings.push_back({definition.place, kind, std::move(sentence)});
+  static void Report(CheckedDefinition& definition, FindingKind kind, std::string sentence,
+                     Severity severity = Severity::kSaid) {
+    definition.findings.push_back({definition.place, kind, std::move(sentence), severity});
+  }
+  /// A row that is never read is in no danger either.
+  static void MarkUnread(CheckedDefinition& definition, const std::string& reason) {
+    for (Finding& finding : definition.findings) finding.severity = Severity::kSaid;
+    definition.findings.insert(
+        definition.findings.begin(),
+        {definition.place, FindingKind::kUnread, "This definition is never read, because " + reason + "."});
   }
 
   /// The first row is for the mark of the sheet.
   void CheckHead() {
-    if (!TextAt(1).starts_with('<')) return;
-    Report(Add(1), FindingKind::kUnread,
-           "This definition is never read, because the list begins in " + Place(kFirstRow) + ".");
+    if (TextAt(1).starts_with('<')) MarkUnread(Add(1), "the list begins in " + DefinitionPlace(kFirstRow));
   }
 
   void CheckRow(CheckedDefinition& definition, const std::string& text) {
@@ -69,70 +74,112 @@ class DefinitionCheck {
       const dom::IXMLDOMParseError& error = document.parseError();
       Report(definition, FindingKind::kXml,
              "The text is not well-formed XML (" + error.reason + " in line " + std::to_string(error.line) +
-                 ", character " + std::to_string(error.linepos) + ")" + kRemoved);
+                 ", character " + std::to_string(error.linepos) + ").",
+             Severity::kRefuses);
       return;
     }
     const auto chart = document.selectSingleNode("chart");
     if (!chart) {
       Report(definition, FindingKind::kXml,
-             "The root element is " + Quoted(document.documentElement().tagName()) + " and not 'chart'" +
-                 kRemoved);
+             "The root element is " + Quoted(document.documentElement().tagName()) + " and not 'chart'.",
+             Severity::kRefuses);
       return;
     }
     definition.id = GetAttributeText(chart, "id");
     definition.name = GetAttributeText(chart, "name");
     definition.type = GetAttributeText(chart, "type");
     definition.table = GetAttributeText(chart, "table-id");
+    definition.document = document;
     CheckChart(definition);
-    for (Findings more :
-         {CheckFormat(chart, definition.place), CheckSource(book_, chart, definition.place)}) {
-      definition.findings.insert(definition.findings.end(), more.begin(), more.end());
-    }
+    Append(definition.findings, CheckFormat(chart, definition.place));
   }
 
   /// The tie to the chart: an id that no earlier row has, and one chart that bears it.
   void CheckChart(CheckedDefinition& definition) {
     if (definition.id.empty()) {
-      Report(definition, FindingKind::kId, std::string("The definition has no 'id'") + kRemoved);
+      Report(definition, FindingKind::kId, "The definition has no 'id'.", Severity::kRefuses);
       return;
     }
+    const auto shape = markers_.ShapeOf(definition.id);
     definition.chartSheet = markers_.SheetOf(definition.id);
     if (definition.chartSheet.empty()) {
-      Report(definition, FindingKind::kChart,
-             "The next refresh removes this definition, because " + markers_.Absence(definition.id) + ".");
+      const bool isGone = !markers_.IsGrouped(definition.id) && WasDrawn(definition.id);
+      Report(definition, FindingKind::kChart, markers_.Absence(definition.id),
+             isGone ? Severity::kRemoves : Severity::kRefuses);
       return;
     }
     const auto [first, isNew] = rowsById_.emplace(runtime::UCase(definition.id), definition.place);
     if (!isNew) {
       Report(definition, FindingKind::kId,
-             "The id " + Quoted(definition.id) + " is that of " + first->second + " already" + kRemoved);
-    } else if (!IsReadable(definition)) {
-      Report(definition, FindingKind::kChart, std::string("The chart can't be read") + kRemoved);
+             "The id " + Quoted(definition.id) + " is that of " + first->second + " already.",
+             Severity::kRefuses);
+    } else if (shape) {
+      definition.chartPart = shape->ChartPartName();
+      if (!IsReadable(*shape)) {
+        Report(definition, FindingKind::kChart, "The chart can't be read.", Severity::kRefuses);
+      }
     }
   }
 
   /// A chart that is known by its data alone was read for that.
-  static bool IsReadable(const CheckedDefinition& definition) {
+  static bool IsReadable(xlsx::SheetShape& shape) {
     return ValueOr(false, [&] {
-      if (const auto chart = FindChartObject(definition.id, definition.chartSheet))
-        chart->SeriesCollection()->Count();
+      shape.Chart()->SeriesCollection()->Count();
       return true;
     });
+  }
+
+  /// Whether the data sheet has a block of the id.
+  bool WasDrawn(const std::string& id) {
+    if (!drawn_) drawn_ = ReadDrawn();
+    return drawn_->contains(id);
+  }
+  std::set<std::string> ReadDrawn() {
+    std::set<std::string> ids;
+    const auto sheet = book_.FindWorksheet(kDataSheet);
+    if (!sheet) return ids;
+    std::string scratch;
+    for (std::int32_t row = 1; row != 0; row = sheet->NextRowAt(row, data_column::kId)) {
+      ids.emplace(GetCellText(*sheet, row, data_column::kId, scratch));
+    }
+    return ids;
   }
 
   xlsx::Workbook& book_;
   xlsx::Worksheet& sheet_;
   ChartMarkers markers_;
   std::map<std::string, std::string> rowsById_;  ///< cells of definitions by their upper-cased ids
+  std::optional<std::set<std::string>> drawn_;   ///< the ids on the data sheet, once they were asked for
   std::vector<CheckedDefinition> definitions_;
 };
 
 }  // namespace
 
-std::vector<CheckedDefinition> CheckDefinitions(xlsx::Workbook& book) {
+bool CheckedDefinition::IsLost() const {
+  return std::any_of(findings.begin(), findings.end(),
+                     [](const Finding& finding) { return finding.severity != Severity::kSaid; });
+}
+
+bool CheckedDefinition::IsUnread() const {
+  return !findings.empty() && findings.front().kind == FindingKind::kUnread;
+}
+
+std::string DefinitionPlace(std::int32_t row) { return CellText(kDefinitionsSheet, row, 1); }
+
+std::vector<CheckedDefinition> CheckRows(xlsx::Workbook& book) {
   const auto sheet = book.FindWorksheet(kDefinitionsSheet);
   if (!sheet) return {};
-  return DefinitionCheck(book, *sheet).Run();
+  return RowCheck(book, *sheet).Run();
+}
+
+std::vector<CheckedDefinition> CheckDefinitions(xlsx::Workbook& book) {
+  std::vector<CheckedDefinition> definitions = CheckRows(book);
+  for (CheckedDefinition& definition : definitions) {
+    if (!definition.document) continue;
+    Append(definition.findings,
+           CheckSource(book, definition.document.selectSingleNode("chart"), definition.place));
+  }
+  return definitions;
 }
 
 }  // namespace plotsmith::cli

@@ -175,23 +175,29 @@ class FormatCheck {
   }
 
   void CheckAttributes(const dom::IXMLDOMElement& element, const ElementFormat& format) {
-    const std::string owner = "The element " + Quoted(format.name);
-    for (const auto& [name, value] : element.attributes()) {
+    const auto owner = [&] { return "The element " + Quoted(format.name); };
+    const auto attributes = element.attributes();
+    for (const auto& [name, value] : attributes) {
       const auto known =
           std::find_if(format.attributes.begin(), format.attributes.end(),
                        [&, &text = name](const AttributeFormat& other) { return other.name == text; });
       if (known != format.attributes.end()) {
         CheckValue(*known, value);
       } else if (!IsForeign(name)) {
-        Report(owner + " has an unknown attribute " + Quoted(name) + KnownAttributes(format));
+        Report(owner() + " has an unknown attribute " + Quoted(name) + KnownAttributes(format));
       }
     }
     for (const AttributeFormat& attribute : format.attributes) {
-      if (!attribute.required || !GetAttributeText(element, std::string(attribute.name).c_str()).empty())
-        continue;
-      Report(owner + " has no " + Quoted(attribute.name) +
+      if (!attribute.required || HasText(attributes, attribute.name)) continue;
+      Report(owner() + " has no " + Quoted(attribute.name) +
              (attribute.values.empty() ? "." : Allowed(attribute)));
     }
+  }
+
+  static bool HasText(const std::vector<dom::IXMLDOMAttribute>& attributes, std::string_view name) {
+    return std::any_of(attributes.begin(), attributes.end(), [&](const dom::IXMLDOMAttribute& attribute) {
+      return attribute.name == name && !attribute.value.empty();
+    });
   }
 
   void CheckValue(const AttributeFormat& attribute, const std::string& value) {

@@ -1,6 +1,20 @@
 #include "cli/check/Finding.h"
 
+#include <iterator>
+
 namespace plotsmith::cli {
+namespace {
+
+/// The sentence with another clause before its full stop.
+std::string With(const std::string& sentence, const char* clause) {
+  return sentence.substr(0, sentence.find_last_not_of('.') + 1) + "; " + clause + ".";
+}
+
+}  // namespace
+
+void Append(Findings& findings, Findings more) {
+  findings.insert(findings.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
+}
 
 const char* KindName(FindingKind kind) {
   switch (kind) {
@@ -22,6 +36,43 @@ const char* KindName(FindingKind kind) {
       return "cells";
   }
   return "";
+}
+
+const char* SeverityName(Severity severity) {
+  switch (severity) {
+    case Severity::kSaid:
+      return "said";
+    case Severity::kRemoves:
+      return "removes";
+    case Severity::kRefuses:
+      return "refuses";
+  }
+  return "";
+}
+
+std::string Foretold(const Finding& finding) {
+  switch (finding.severity) {
+    case Severity::kSaid:
+      break;
+    case Severity::kRemoves:
+      return With(finding.sentence,
+                  "the chart was drawn and is gone, and the next refresh removes its definition");
+    case Severity::kRefuses:
+      return With(finding.sentence, "until that is mended, the workbook is only written with --drop-broken");
+  }
+  return finding.sentence;
+}
+
+std::string Reported(const Finding& finding) {
+  switch (finding.severity) {
+    case Severity::kSaid:
+      break;
+    case Severity::kRemoves:
+      return With(finding.sentence, "the chart was drawn and is gone, and its definition was removed");
+    case Severity::kRefuses:
+      return With(finding.sentence, "the row was dropped");
+  }
+  return finding.sentence;
 }
 
 }  // namespace plotsmith::cli

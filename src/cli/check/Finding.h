@@ -17,16 +17,33 @@ enum class FindingKind {
   kCells    ///< cells of a table hold errors or formulas without a result
 };
 
+/// What a command that writes the workbook does about a finding.
+enum class Severity {
+  kSaid,     ///< it says the sentence and goes on
+  kRemoves,  ///< it removes the definition, whose chart was drawn and is gone, and says so
+  kRefuses   ///< it would lose the definition, and so writes nothing without --drop-broken
+};
+
 /// Something that is wrong in a workbook.
 struct Finding {
   std::string place;  ///< a cell such as "Data1!C5", or a defined name
   FindingKind kind;
   std::string sentence;
+  Severity severity = Severity::kSaid;
 };
 
 using Findings = std::vector<Finding>;
 
+/// Puts findings behind others.
+void Append(Findings& findings, Findings more);
+
 /// The kind in one word, for programs.
 const char* KindName(FindingKind kind);
+/// The severity in one word, for programs.
+const char* SeverityName(Severity severity);
+/// The sentence with what the next command that writes the workbook does about it.
+std::string Foretold(const Finding& finding);
+/// The sentence with what a command that wrote the workbook has done about it.
+std::string Reported(const Finding& finding);
 
 }  // namespace plotsmith::cli

@@ -5,9 +5,13 @@
 
 #include "cli/check/ColumnCells.h"
 #include "cli/check/DefinitionFormat.h"
+#include "cli/check/TableCheck.h"
 #include "cli/check/Words.h"
 #include "common/CommonFunctions.h"
+#include "common/ErrorBlocks.h"
+#include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "metadata/StrategicBuckets.h"
 #include "runtime/Strings.h"
 
 namespace plotsmith::cli {
@@ -33,14 +37,6 @@ std::string Headings(const IXMLDOMNodeList& columns) {
   return Listed(names);
 }
 
-/// The column of that name as a chart finds it, ignoring case; Nothing if there is none.
-IXMLDOMElement FindColumn(const IXMLDOMNodeList& columns, const std::string& name) {
-  const auto found = std::find_if(columns.begin(), columns.end(), [&](const IXMLDOMElement& column) {
-    return runtime::EqualsIgnoreCase(GetAttributeText(column, "name"), name);
-  });
-  return found == columns.end() ? IXMLDOMElement() : *found;
-}
-
 /// The checks of one definition; each method is about one kind of fault.
 class SourceCheck {
  public:
@@ -53,6 +49,7 @@ class SourceCheck {
     CheckHeadingsInColumns();
     table_ = FindTable("table-id", "table");
     if (table_) {
+      columns_ = Columns();
       CheckTableServes();
       for (const ColumnGroup& group : ColumnGroups()) CheckColumns(group);
     }
@@ -122,8 +119,12 @@ class SourceCheck {
     } else if (CollectionHasKey(id, colTables)) {
       return colTables->Item(id).selectSingleNode("table");
     } else {
+      const std::string why = WhyNot(id);
+      const bool tellsOfSheets = noun == "table" && why.empty();
       Report(FindingKind::kTable,
-             "There is no " + noun + " " + Quoted(id) + WhyNot(id) + "; " + OtherTables() + ".");
+             "There is no " + noun + " " + Quoted(id) + why + "; " + OtherTables() +
+                 (tellsOfSheets ? ", and a sheet counts as a table when it is called exactly Data1 to Data5."
+                                : "."));
     }
     return {};
   }
@@ -137,12 +138,12 @@ class SourceCheck {
   }
 
   void CheckTableServes() {
-    const std::string quoted = "The table " + Quoted(GetAttributeText(table_, "id"));
-    if (!TableArea(table_).HasData()) Report(FindingKind::kTable, quoted + " has no row of data.");
-    const std::string columns = ", which a chart needs; it has " + Headings(table_.childElements()) + ".";
+    const auto quoted = [&] { return "The table " + Quoted(GetAttributeText(table_, "id")); };
+    if (!TableArea(table_).HasData()) Report(FindingKind::kTable, quoted() + " has no row of data.");
     for (const char* kind : {"label", "number"}) {
       if (!table_.selectSingleNode((std::string(kind) + "-column").c_str())) {
-        Report(FindingKind::kTable, quoted + " has no " + kind + " column" + columns);
+        Report(FindingKind::kTable, quoted() + " has no " + kind + " column, which a chart needs; it has " +
+                                        Headings(table_.childElements()) + ".");
       }
     }
   }
@@ -156,20 +157,61 @@ class SourceCheck {
     for (const IXMLDOMElement& column : element.selectNodes("column")) {
       const std::string name = GetAttributeText(column, "name");
       if (name.empty()) continue;
-      if (const auto found = FindColumn(Columns(), name)) {
+      if (const auto found = FindColumn(columns_, name)) {
         if (numbers && found.tagName() == "label-column") CheckNumbers(group, found);
       } else {
         Report(FindingKind::kColumn, "The table " + Quoted(GetAttributeText(table_, "id")) +
                                          " has no column " + Quoted(name) + " for " + Quoted(group.element) +
-                                         "; it has " + Headings(table_.childElements()) + ".");
+                                         "; it has " + Headings(table_.childElements()) +
+                                         RenamingHint(column) + ".");
       }
     }
   }
 
+  /// The end of a sentence about a column that is gone: how to follow its heading, if it looks renamed.
+  std::string RenamingHint(const IXMLDOMElement& missing) const {
+    const std::string renamed = ColumnInPlaceOf(missing);
+    if (renamed.empty()) return "";
+    return "; " + Quoted(renamed) +
+           " is in its place, and if that is its new name, plotsmith rename-columns BOOK"
+           " --table " +
+           GetAttributeText(table_, "id") + " " + Quoted(GetAttributeText(missing, "name") + "=" + renamed) +
+           " carries it into the charts";
+  }
+
+  /// The heading where the column was when the chart was drawn last; "" if there is none, or if the
+  /// definition names that column itself.
+  std::string ColumnInPlaceOf(const IXMLDOMElement& missing) const {
+    const std::int32_t drawnAt = StoredNumber(missing, "worksheet-column-number");
+    const std::int32_t drawnLeft = StoredNumber(chart_, "table-left-column");
+    if (drawnAt == 0 || drawnLeft == 0) return "";
+    const std::int32_t number = drawnAt + TableArea(table_).leftColumn - drawnLeft;
+    for (const IXMLDOMElement& column : columns_) {
+      if (GetAttributeLong(column, "worksheet-column-number") != number) continue;
+      const std::string name = GetAttributeText(column, "name");
+      return IsNamed(name) ? "" : name;
+    }
+    return "";
+  }
+
+  /// A number that the last refresh has stored in the definition; 0 if there is none.
+  static std::int32_t StoredNumber(const IXMLDOMElement& element, const char* attribute) {
+    return ValueOr(std::int32_t{0}, [&] { return GetAttributeLong(element, attribute); });
+  }
+
+  /// Whether a group of the definition names the column.
+  bool IsNamed(const std::string& name) const {
+    return std::any_of(ColumnGroups().begin(), ColumnGroups().end(), [&](const ColumnGroup& group) {
+      const auto element = Group(group.element);
+      return element && FindColumn(element.selectNodes("column"), name);
+    });
+  }
+
   /// Label columns come first, as they do for a refresh.
   IXMLDOMNodeList Columns() const {
-    IXMLDOMNodeList columns = table_.selectNodes("label-column");
-    for (auto& column : table_.selectNodes("number-column")) columns.push_back(column);
+    IXMLDOMNodeList columns = table_.childElements();
+    std::stable_partition(columns.begin(), columns.end(),
+                          [](const IXMLDOMElement& column) { return column.tagName() == "label-column"; });
     return columns;
   }
 
@@ -205,7 +247,28 @@ class SourceCheck {
     } else {
       CheckBucketColumn(bucketTable, "bucket-name-column", "label");
       CheckBucketColumn(bucketTable, "bucket-value-column", "number");
+      if (type_ == kBucketType) CheckBucketCount(id);
     }
+  }
+
+  /// The chart refers to its buckets' names by one letter for the last column, from E on. Behind Z come six
+  /// characters that are no letters, then the small letters, which are read as A to Z.
+  void CheckBucketCount(const std::string& id) {
+    constexpr std::int32_t kMost = 22, kFirstMisnamed = 29, kLastMisnamed = 54;
+    if (HostVersion(oApplication) <= kLastClassicVersion) return;
+    const std::int32_t count = GetStrategicBuckets(colTables->Item(id))->Count();
+    if (count <= kMost) return;
+    const std::string start = "The bucket table " + Quoted(id) + " has " + std::to_string(count) +
+                              " buckets, and a chart has room for the names of " + std::to_string(kMost);
+    const bool misnamed = count >= kFirstMisnamed && count <= kLastMisnamed;
+    Report(
+        FindingKind::kTable,
+        start + (misnamed ? ", so that the columns have wrong names; leave " + std::to_string(kMost) +
+                                " buckets or fewer."
+                          : ", so that its drawing breaks off and it is left a column chart; leave " +
+                                std::to_string(kMost) +
+                                " buckets or fewer, and then draw it anew with plotsmith modify BOOK CHART "
+                                "--type 'strategic bucket'."));
   }
 
   /// The source table has a column of the same heading and kind.
@@ -223,7 +286,8 @@ class SourceCheck {
   const IXMLDOMElement& chart_;
   const std::string& place_;
   std::string type_;
-  IXMLDOMElement table_;  ///< the source table; Nothing if it isn't there
+  IXMLDOMElement table_;     ///< the source table; Nothing if it isn't there
+  IXMLDOMNodeList columns_;  ///< its columns
   Findings findings_;
 };
 
@@ -231,6 +295,12 @@ class SourceCheck {
 
 Findings CheckSource(xlsx::Workbook& book, const IXMLDOMElement& chart, const std::string& place) {
   return SourceCheck(book, chart, place).Run();
+}
+
+Findings CheckSources(xlsx::Workbook& book, const IXMLDOMElement& chart, const std::string& place) {
+  Findings findings = CheckSource(book, chart, place);
+  Append(findings, CheckUsedCells(book, chart));
+  return findings;
 }
 
 }  // namespace plotsmith::cli

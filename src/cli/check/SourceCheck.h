@@ -12,4 +12,7 @@ namespace plotsmith::cli {
 /// type needs. `place` is the cell of the definition. Changes nothing.
 Findings CheckSource(xlsx::Workbook& book, const dom::IXMLDOMElement& chart, const std::string& place);
 
+/// The same, and what is wrong in the cells that the chart draws from: all that makes its picture wrong.
+Findings CheckSources(xlsx::Workbook& book, const dom::IXMLDOMElement& chart, const std::string& place);
+
 }  // namespace plotsmith::cli

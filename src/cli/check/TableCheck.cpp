@@ -1,8 +1,12 @@
 #include "cli/check/TableCheck.h"
 
 #include <map>
+#include <memory>
+#include <optional>
+#include <set>
 
 #include "cli/check/ColumnCells.h"
+#include "cli/check/DefinitionFormat.h"
 #include "cli/check/Words.h"
 #include "common/CommonFunctions.h"
 #include "common/ErrorBlocks.h"
@@ -48,17 +52,26 @@ std::map<std::int32_t, UncalculatedCells> FindUncalculated(xlsx::Worksheet& shee
   return columns;
 }
 
-void CheckFormulas(xlsx::Worksheet& sheet, const TableArea& area, Findings& findings) {
+/// Which formulas without a result a check is about.
+struct FormulaScope {
+  bool headings = true;
+  std::optional<std::set<std::int32_t>> columns = std::nullopt;  ///< of data; without a value all
+
+  bool HasColumn(std::int32_t column) const { return !columns || columns->contains(column); }
+};
+
+void CheckFormulas(xlsx::Worksheet& sheet, const TableArea& area, const FormulaScope& scope,
+                   Findings& findings) {
   std::string scratch;
   for (const auto& [column, cells] : FindUncalculated(sheet, area)) {
-    if (cells.heading) {
+    if (cells.heading && scope.headings) {
       findings.push_back({CellText(area.sheet, area.HeadingRow(), column), FindingKind::kCells,
                           std::string("The heading is a formula without a result, so that its column "
                                       "doesn't exist; ") +
                               kHowToCalculate});
     }
     const std::string heading(GetCellText(sheet, area.HeadingRow(), column, scratch));
-    if (heading.empty() || cells.count == 0) continue;
+    if (heading.empty() || cells.count == 0 || !scope.HasColumn(column)) continue;
     findings.push_back({CellText(area.sheet, cells.firstRow, column), FindingKind::kCells,
                         "The column " + Quoted(heading) + " has " + Counted(cells.count, "formula") +
                             " without a result, the first one here, which count as blank; " +
@@ -80,7 +93,70 @@ void CheckErrors(xlsx::Worksheet& sheet, const TableArea& area, const dom::IXMLD
   }
 }
 
+/// The names of the columns of a table that a definition draws from.
+std::vector<std::string> UsedColumns(const dom::IXMLDOMElement& chart) {
+  std::vector<std::string> names;
+  const std::string type = GetAttributeText(chart, "type");
+  for (const ColumnGroup& group : ColumnGroups()) {
+    if (!group.IsReadFor(type)) continue;
+    const auto element = chart.selectSingleNode(group.element);
+    if (!element) continue;
+    for (const dom::IXMLDOMElement& column : element.selectNodes("column")) {
+      names.push_back(GetAttributeText(column, "name"));
+    }
+  }
+  return names;
+}
+
+dom::IXMLDOMElement FindTable(const std::string& id) {
+  return CollectionHasKey(id, colTables) ? colTables->Item(id).selectSingleNode("table")
+                                         : dom::IXMLDOMElement();
+}
+
+/// The sheet of a table if it has formulas without a result; null otherwise, as nearly always.
+std::shared_ptr<xlsx::Worksheet> UncalculatedSheet(xlsx::Workbook& book, const dom::IXMLDOMElement& table) {
+  if (!table) return nullptr;
+  const auto sheet = book.FindWorksheet(GetAttributeText(table, "table-worksheet"));
+  return sheet && !sheet->FormulasWithoutResult().empty() ? sheet : nullptr;
+}
+
+/// The formulas of those columns, and the headings if one of the columns isn't there.
+Findings CheckFormulasOf(xlsx::Worksheet& sheet, const dom::IXMLDOMElement& table,
+                         const std::vector<std::string>& names) {
+  FormulaScope scope{.headings = false, .columns = std::set<std::int32_t>()};
+  for (const std::string& name : names) {
+    if (const auto column = FindColumn(table.childElements(), name))
+      scope.columns->insert(GetAttributeLong(column, "worksheet-column-number"));
+    else
+      scope.headings = true;
+  }
+  Findings findings;
+  CheckFormulas(sheet, TableArea(table), scope, findings);
+  return findings;
+}
+
 }  // namespace
+
+Findings CheckUsedCells(xlsx::Workbook& book, const dom::IXMLDOMElement& chart) {
+  const std::string bucketTable = GetAttributeText(chart, "strategic-bucket-table-id");
+  const auto buckets = bucketTable.empty() ? dom::IXMLDOMElement() : FindTable(bucketTable);
+  std::vector<std::string> bucketColumns;
+  if (buckets) {
+    bucketColumns = {GetAttributeText(buckets, "bucket-name-column"),
+                     GetAttributeText(buckets, "bucket-value-column")};
+  }
+  Findings findings;
+  if (const auto sheet = UncalculatedSheet(book, buckets)) {
+    findings = CheckFormulasOf(*sheet, buckets, bucketColumns);
+  }
+  const auto table = FindTable(GetAttributeText(chart, "table-id"));
+  if (const auto sheet = UncalculatedSheet(book, table)) {
+    std::vector<std::string> names = UsedColumns(chart);
+    names.insert(names.end(), bucketColumns.begin(), bucketColumns.end());
+    Append(findings, CheckFormulasOf(*sheet, table, names));
+  }
+  return findings;
+}
 
 std::vector<CheckedTable> CheckTables(xlsx::Workbook& book) {
   std::vector<CheckedTable> tables;
@@ -91,7 +167,7 @@ std::vector<CheckedTable> CheckTables(xlsx::Workbook& book) {
     const auto sheet = book.FindWorksheet(area.sheet);
     if (!sheet) continue;
     CheckErrors(*sheet, area, table, checked.findings);
-    CheckFormulas(*sheet, area, checked.findings);
+    CheckFormulas(*sheet, area, FormulaScope(), checked.findings);
   }
   const auto names = oWorkbook->Names();
   for (std::int32_t i = 1; i <= names->Count(); ++i) {

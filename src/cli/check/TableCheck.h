@@ -15,6 +15,11 @@ struct CheckedTable {
   Findings findings;
 };
 
+/// Looks at the cells of those columns that the definition of the element `chart` draws from, in the tables
+/// of `colTables`: formulas without a result. Where a column isn't there, it looks at the headings too.
+/// Changes nothing.
+Findings CheckUsedCells(xlsx::Workbook& book, const dom::IXMLDOMElement& chart);
+
 /// Looks at all tables of `colTables`, and at the names of the workbook. Changes nothing.
 std::vector<CheckedTable> CheckTables(xlsx::Workbook& book);
 

@@ -1,5 +1,6 @@
 #include "cli/commands/Cells.h"
 
+#include <cstdint>
 #include <nlohmann/json.hpp>
 
 #include "cli/Session.h"
@@ -7,6 +8,7 @@
 #include "runtime/Variant.h"
 #include "xlsx/Limits.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/sheet/IsoDate.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -30,6 +32,16 @@ Json ValueOf(const excel::CellValue& value) {
   return std::string(value.text);
 }
 
+/// The number with the date, time or duration that its format shows, as a text of ISO 8601 beside it. Any
+/// other value is as it is.
+Json WithIsoText(Json value, xlsx::Workbook& book, std::uint32_t style) {
+  if (!value.is_number()) return value;
+  const double number = value.get<double>();
+  const std::string iso = xlsx::IsoText(number, book.Styles().Format(style).FieldsOf(number), book.Dates());
+  if (iso.empty()) return value;
+  return {{"number", number}, {"iso", iso}};
+}
+
 /// A value on a line of tab-separated ones.
 std::string Flat(const Json& value) {
   if (value.is_null()) return {};
@@ -49,7 +61,10 @@ CLI::App* CellsCommand::Declare(CLI::App& app) {
   verb->add_option("BOOK", book_, "The workbook")->required();
   verb->add_option("RANGE", range_, "Such as 'Sheet1!A1:D9'")->required();
   verb->add_flag("--value", value_, "The values instead of the displayed texts");
-  verb->add_flag("--json", json_, "As JSON, a list of rows");
+  verb->add_flag(
+      "--json", json_,
+      "As JSON, a list of rows; of the values, dates and times have their number and a text of ISO "
+      "8601");
   return verb;
 }
 
@@ -72,8 +87,12 @@ int CellsCommand::Run(const GlobalOptions& options, const Streams& streams) {
     for (std::int32_t row = range->range.row1; row <= lastRow; ++row) {
       Json cells = Json::array();
       for (std::int32_t column = range->range.column1; column <= lastColumn; ++column) {
-        cells.push_back(value_ ? ValueOf(sheet->Stored(row, column))
-                               : Json(std::string(sheet->CellTextAt(row, column, scratch))));
+        if (!value_) {
+          cells.push_back(std::string(sheet->CellTextAt(row, column, scratch)));
+          continue;
+        }
+        const Json value = ValueOf(sheet->Stored(row, column));
+        cells.push_back(json_ ? WithIsoText(value, session.Book(), sheet->StyleAt(row, column)) : value);
       }
       if (json_) {
         rows.push_back(std::move(cells));

@@ -1,8 +1,13 @@
 #include "cli/commands/Charts.h"
 
 #include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
 
+#include "cli/ChartState.h"
 #include "cli/Session.h"
+#include "cli/check/DefinitionCheck.h"
+#include "cli/check/SourceCheck.h"
 #include "common/CommonFunctions.h"
 #include "common/ErrorBlocks.h"
 #include "common/RunVariables.h"
@@ -14,28 +19,39 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// How a chart stands, as its definition tells and the chart shows.
-const char* State(const dom::IXMLDOMElement& chart) {
-  if (GetAttributeText(chart, "type") == "unknown") return "unsupported type";
-  if (GetAttributeText(chart, "table-corrupted") == "yes") return "table no longer fits";
-  // A chart that can't be built has lost its series. It isn't crosshatched if its area has a filling of its
-  // own, and the wizard mends a chart without storing that it is crosshatched no more.
-  const bool drawn = ValueOr(false, [&] {
-    return colChartObjects->Item(GetAttributeText(chart, "id"))->SeriesCollection()->Count() > 0;
-  });
-  if (drawn) return "ok";
-  return GetAttributeText(chart, "chart-area-crosshatched") == "yes" ? "unavailable" : "not drawn";
+/// Why a chart is in its state, in sentences: what the check says of its definition.
+std::string ReasonOf(ChartState state, const std::string& id, const std::vector<CheckedDefinition>& checked) {
+  if (state == ChartState::kOk) return {};
+  // a chart that was never refreshed waits for that, whatever else is found
+  std::string sentences = state == ChartState::kNotDrawn ? StateReason(state) : "";
+  for (const CheckedDefinition& definition : checked) {
+    if (definition.id != id) continue;
+    for (const Finding& finding : definition.findings)
+      sentences += (sentences.empty() ? "" : " ") + finding.sentence;
+  }
+  return sentences.empty() ? StateReason(state) : sentences;
 }
 
-Json Describe(const dom::IXMLDOMElement& chart) {
-  return {{"id", GetAttributeText(chart, "id")},
+Json Describe(const dom::IXMLDOMElement& chart, const std::vector<CheckedDefinition>& checked) {
+  const std::string id = GetAttributeText(chart, "id");
+  const ChartState state =
+      StateOf(chart, ValueOr(excel::Ref<excel::Chart>(), [&] { return colChartObjects->Item(id); }));
+  return {{"id", id},
           {"name", GetAttributeText(chart, "name")},
           {"title", GetAttributeText(chart, "title")},
           {"type", GetAttributeText(chart, "type")},
           {"chartSheet", GetAttributeText(chart, "chart-worksheet")},
           {"tableSheet", GetAttributeText(chart, "table-worksheet")},
           {"table", GetAttributeText(chart, "table-id")},
-          {"state", State(chart)}};
+          {"state", StateName(state)},
+          {"reason", ReasonOf(state, id, checked)}};
+}
+
+/// What makes the picture wrong, a line each, in the words of a refresh.
+void PrintFindings(std::ostream& out, xlsx::Workbook& book, const dom::IXMLDOMDocument2& document) {
+  for (const Finding& finding : CheckSources(book, document.selectSingleNode("chart"), "")) {
+    out << "    " << (finding.place.empty() ? "" : finding.place + ": ") << finding.sentence << '\n';
+  }
 }
 
 }  // namespace
@@ -52,7 +68,12 @@ int ChartsCommand::Run(const GlobalOptions& options, const Streams& streams) {
   session.LoadTablesAndCharts();
   const int code = session.Finish();
   Json list = Json::array();
-  for (const auto& document : *colCharts) list.push_back(Describe(document.selectSingleNode("chart")));
+  if (colCharts->Count() > 0) {
+    const auto checked = CheckDefinitions(session.Book());
+    for (const auto& document : *colCharts) {
+      list.push_back(Describe(document.selectSingleNode("chart"), checked));
+    }
+  }
   if (json_) {
     streams.out << list.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
     return code;
@@ -62,6 +83,7 @@ int ChartsCommand::Run(const GlobalOptions& options, const Streams& streams) {
     streams.out << text("id") << "  \"" << text("name") << "\"\n  " << text("type") << " chart on sheet "
                 << text("chartSheet") << ", from table " << text("table") << " on sheet "
                 << text("tableSheet") << "\n  " << text("state") << '\n';
+    PrintFindings(streams.out, session.Book(), colCharts->Item(chart["id"].get<std::string>()));
   }
   return code;
 }

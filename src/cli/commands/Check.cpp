@@ -37,8 +37,10 @@ struct Report {
 Json Describe(const Findings& findings) {
   Json list = Json::array();
   for (const Finding& finding : findings) {
-    list.push_back(
-        {{"place", finding.place}, {"kind", KindName(finding.kind)}, {"sentence", finding.sentence}});
+    list.push_back({{"place", finding.place},
+                    {"kind", KindName(finding.kind)},
+                    {"severity", SeverityName(finding.severity)},
+                    {"sentence", Foretold(finding)}});
   }
   return list;
 }
@@ -69,7 +71,7 @@ Json DescribeAll(const List& list) {
 /// Ends a line that says what was looked at, and puts a sentence a line below it.
 void Print(std::ostream& out, const Findings& findings) {
   out << (findings.empty() ? ": ok\n" : ":\n");
-  for (const Finding& finding : findings) out << "  " << finding.place << ": " << finding.sentence << '\n';
+  for (const Finding& finding : findings) out << "  " << finding.place << ": " << Foretold(finding) << '\n';
 }
 
 void Print(std::ostream& out, const CheckedDefinition& definition) {

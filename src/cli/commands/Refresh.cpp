@@ -1,30 +1,62 @@
 #include "cli/commands/Refresh.h"
 
 #include "cli/Session.h"
+#include "cli/batch/Workers.h"
 #include "controller/CPlotsmithController.h"
 
 namespace plotsmith::cli {
 
 CLI::App* RefreshCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("refresh", "Rebuild the charts of a workbook from its tables");
-  verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm)")->required();
+  CLI::App* verb = app.add_subcommand("refresh", "Rebuild the charts of workbooks from their tables");
+  verb->add_option("BOOK", books_, "The workbooks (.xlsx, .xlsm)")->required();
   verb->add_option("--table", table_, "Only the charts that hang on the table of this id")->type_name("ID");
-  verb->add_option("-o,--output", output_, "Write to this file and leave BOOK as it is")->type_name("FILE");
+  verb->add_option("-o,--output", output_,
+                   "Write to this file, or into this folder, and leave BOOK as it is; \"-\" is the standard "
+                   "output")
+      ->type_name("FILE");
+  verb->add_option("--jobs", jobs_,
+                   "Work on so many workbooks at a time (without it: two for each processor). "
+                   "Under Windows they come one after the other")
+      ->type_name("N");
+  verb->add_flag("--verbose", verbose_, "Say at the end how many charts were refreshed");
   return verb;
 }
 
 int RefreshCommand::Run(const GlobalOptions& options, const Streams& streams) {
   if (table_) RequireTableId(*table_);
-  Session session(book_, options, streams);
-  session.CheckWritable(output_);
+  if (jobs_ && *jobs_ < 1) throw CommandError(exit_code::kUsage, "--jobs wants a number from 1 on.");
+  const std::vector<BookRun> runs = PlanRuns(books_, output_);
+  const auto refresh = [&](const BookRun& run, const Streams& to) { return RefreshBook(run, options, to); };
+  if (runs.size() > 1) {
+    return RunBatch(runs, refresh, jobs_ ? static_cast<std::size_t>(*jobs_) : UsualProcesses(), verbose_,
+                    streams);
+  }
+  const BookResult result = refresh(runs.front(), streams);
+  if (verbose_ || streams.terminal) streams.err << CountsText(result.counts) << '\n';
+  return result.code;
+}
+
+BookResult RefreshCommand::RefreshBook(const BookRun& run, const GlobalOptions& options,
+                                       const Streams& streams) const {
+  Session session(run.book, options, streams);
+  session.CheckWritable(run.output);
+  session.LookBeforeRun(DefinitionsAre::kTaken);
   CPlotsmithController controller;
   if (table_) {
-    controller.RefreshChartsForTable(session.Host(), *table_);
-    session.CheckTable(*table_);
+    std::string table = *table_;
+    controller.RefreshChartsForTable(session.Host(), table);
+    session.CheckTable(table);
   } else {
     controller.RefreshPlotsmithData(session.Host(), kHostName, "");
   }
-  return session.Save(output_);
+  const RefreshCounts counts = session.Counts();
+  const int code = session.Save(run.output);
+  if (session.ChartsStarted() > 0 || session.HasMessages()) return {code, counts};
+  streams.err << "plotsmith: "
+              << (table_ ? "no chart of \"" + run.book + "\" hangs on the table \"" + *table_ + "\""
+                         : "\"" + run.book + "\" has no charts of Plotsmith")
+              << ", so nothing was refreshed.\n";
+  return {exit_code::kSaidSomething, counts};
 }
 
 }  // namespace plotsmith::cli

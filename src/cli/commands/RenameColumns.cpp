@@ -84,7 +84,7 @@ CLI::App* RenameColumnsCommand::Declare(CLI::App& app) {
   verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm)")->required();
   verb->add_option("OLD=NEW", renamings_, "A column's name so far, and its new name")->required();
   verb->add_option("--table", table_, "The id of the table")->required()->type_name("ID");
-  verb->add_option("-o,--output", output_, "Write to this file and leave BOOK as it is")->type_name("FILE");
+  verb->add_option("-o,--output", output_, kOutputDescription)->type_name("FILE");
   return verb;
 }
 
@@ -98,6 +98,7 @@ int RenameColumnsCommand::Run(const GlobalOptions& options, const Streams& strea
   }
   Session session(book_, options, streams);
   session.CheckWritable(output_);
+  session.LookBeforeRun(DefinitionsAre::kRenamed);
   CPlotsmithController controller;
   controller.UpdateChartColumnNamesForTable(session.Host(), table_, oldNames, newNames);
   session.CheckTable(table_);

@@ -20,7 +20,7 @@ CLI::App* WizardCommand::Declare(CLI::App& app) {
   verb->footer("plotsmith wizard BOOK --script FILE [-o FILE] [--show] [--json]");
   verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm)")->required();
   verb->add_option("--script", script_, "The script; \"-\" is the standard input")->type_name("FILE");
-  verb->add_option("-o,--output", output_, "Write to this file and leave BOOK as it is")->type_name("FILE");
+  verb->add_option("-o,--output", output_, kOutputDescription)->type_name("FILE");
   verb->add_flag("--show", show_, "Print the page that is open when the script ends");
   verb->add_flag("--json", json_, "Print pages as JSON");
   return verb;
@@ -45,13 +45,15 @@ int WizardCommand::Run(const GlobalOptions& options, const Streams& streams) {
 int WizardCommand::Play(std::istream& script, const GlobalOptions& options, const Streams& streams) const {
   forms::StreamLines lines(script);
   bool isFirst = true;
+  std::ostream& pages = IsStandardOutput(output_) ? streams.err : streams.out;
   const auto print = [&](const forms::FormState& form) {
-    if (!std::exchange(isFirst, false) && !json_) streams.out << '\n';
-    (json_ ? PrintFormAsJson : PrintForm)(streams.out, form);
-    streams.out.flush();
+    if (!std::exchange(isFirst, false) && !json_) pages << '\n';
+    (json_ ? PrintFormAsJson : PrintForm)(pages, form);
+    pages.flush();
   };
   WizardRun run(book_, options, streams, lines, print, Outside::kScript);
   run.Workbook().CheckWritable(output_);
+  run.Workbook().LookBeforeRun(DefinitionsAre::kEdited);
   run.Play();
   if (const auto& failure = run.Player().Failed()) {
     run.Workbook().Finish();

@@ -40,10 +40,22 @@ const std::pair<std::string, std::string> kExamples[] = {
      "Stack its columns to 100%, and show the values."},
     {"refresh sales.xlsx --table Data1 -o new.xlsx",
      "Rebuild the charts that hang on the table Data1, and leave the workbook as it is."},
+    {"refresh reports/*.xlsx --jobs 4 --verbose",
+     "Rebuild the charts of many workbooks, four at a time, and say how many there were."},
+    {"refresh sales.xlsx -o - | mail-it", "Hand the refreshed workbook on to another program."},
     {"rename-columns sales.xlsx --table Data1 Region=Area",
      "Carry a heading that was changed in the table into its charts."},
     {"charts sales.xlsx --json", "See how each chart stands, for a program to read."},
     {"cells sales.xlsx 'VEX_ChartData!A1:D9'", "Look at the data that a chart draws."}};
+
+constexpr const char* kDefinitions =
+    "The definition of a chart is an XML text in the hidden sheet VEX_ChartDefinitions of its workbook. The "
+    "command new makes it, together with the chart; modify and copy change it or make another one, "
+    "definition "
+    "prints it, and check says what is wrong with it. A program can write definitions as well: the page "
+    "file-formats.md of the documentation that is installed with the command, in share/doc/plotsmith/docs, "
+    "has "
+    "all there is to them.";
 
 /// "-o, --output FILE"
 std::string Heading(const OptionView& option) {
@@ -90,7 +102,8 @@ std::string ManualPage(const CommandLine& line) {
     page += ".SS " + Plain(verb->get_name()) + "\n" + Plain(verb->get_description()) + ".\n" +
             Entries(OptionsOf(*verb));
   }
-  page += ".SH OPTIONS\nThey hold for every command.\n" + Entries(OptionsOf(line.app));
+  page += ".SH DEFINITIONS\n" + Plain(kDefinitions) + "\n.SH OPTIONS\nThey hold for every command.\n" +
+          Entries(OptionsOf(line.app));
   page += ".SH EXAMPLES\n";
   for (const auto& [command, sentence] : kExamples)
     page += ".TP\n" + Bold(name + " " + command) + "\n" + Plain(sentence) + "\n";

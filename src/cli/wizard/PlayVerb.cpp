@@ -17,8 +17,7 @@ void DeclareBook(CLI::App& verb, VerbOptions& options) {
 }
 
 void DeclareOutput(CLI::App& verb, VerbOptions& options) {
-  verb.add_option("-o,--output", options.output, "Write to this file and leave BOOK as it is")
-      ->type_name("FILE");
+  verb.add_option("-o,--output", options.output, kOutputDescription)->type_name("FILE");
   verb.add_flag("--print-script", options.printScript,
                 "Print the script of the wizard that does the same, and save nothing");
 }
@@ -28,7 +27,10 @@ int PlayVerb(VerbScript& script, const VerbOptions& verb, const GlobalOptions& o
   WizardRun run(
       verb.book, options, streams, script, [](const forms::FormState&) {}, Outside::kCommand);
   script.SetSaidByPages(run.Desktop().SaidByPages());
-  if (!verb.printScript) run.Workbook().CheckWritable(verb.output);
+  if (!verb.printScript) {
+    run.Workbook().CheckWritable(verb.output);
+    run.Workbook().LookBeforeRun(DefinitionsAre::kEdited);
+  }
   run.Play();
   if (const auto& failure = run.Player().Failed()) {
     run.Workbook().Finish();

@@ -22,6 +22,7 @@
 #include "host/excel/DataLabel.h"
 #include "host/excel/DataLabels.h"
 #include "host/excel/DefinedName.h"
+#include "host/excel/DocumentProperty.h"
 #include "host/excel/FillFormat.h"
 #include "host/excel/Font.h"
 #include "host/excel/Interior.h"

@@ -13,7 +13,7 @@ class TextFrame2 {
   /// Whether lines break at the box's edge.
   virtual void SetWordWrap(bool value) = 0;
   /// MsoAutoSize; error 1004 for others. At 1 the shape takes the size of its text, now and whenever the text
-  /// changes.
+  /// changes, until its width or height is set.
   virtual void SetAutoSize(std::int32_t value) = 0;
   /// Points, as TextFrame::SetMarginTop.
   virtual void SetMarginTop(double points) = 0;

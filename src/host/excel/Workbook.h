@@ -5,6 +5,7 @@
 namespace plotsmith::excel {
 
 class Application;
+class DocumentProperty;
 class Names;
 class Sheet;
 class Sheets;
@@ -21,6 +22,9 @@ class Workbook {
   virtual bool ProtectStructure() = 0;
   /// Whether the workbook is shared.
   virtual bool MultiUserEditing() = 0;
+  /// A property by Excel's English name for it, capitals or not; error 5 if there is none of the name. A host
+  /// has at least "Application name", the program that saved the workbook last.
+  virtual Ref<DocumentProperty> BuiltinDocumentProperties(std::string_view name) = 0;
 
   /// The sheet in front, of any kind.
   virtual Ref<Sheet> ActiveSheet() = 0;

@@ -2,6 +2,7 @@
 
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QVBoxLayout>
 #include <algorithm>
@@ -22,6 +23,16 @@ namespace {
 
 /// A tab takes "&" for the mark of a key.
 QString TabText(const QString& name) { return QString(name).replace(QLatin1Char('&'), QLatin1String("&&")); }
+
+/// The pointer is busy as long as this is there: the host reads a sheet when it is first shown, and it may be
+/// large.
+class BusyPointer {
+ public:
+  BusyPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+  ~BusyPointer() { QApplication::restoreOverrideCursor(); }
+  BusyPointer(const BusyPointer&) = delete;
+  BusyPointer& operator=(const BusyPointer&) = delete;
+};
 
 QLabel* NewLabel(const QString& accessibleName) {
   auto* label = new QLabel;
@@ -152,6 +163,7 @@ SheetPage* BookView::MakePage(const Tab& tab) {
   const auto entry = tab.sheet.lock();
   if (!entry) return nullptr;
   SheetPage* page = nullptr;
+  const BusyPointer busy;
   if (entry->worksheet) {
     auto* view = new SheetView(host_->Book(), tab.sheet);
     view->OnActiveCell([this] { ShowActiveCell(); });

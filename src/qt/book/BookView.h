@@ -23,7 +23,8 @@ class SheetView;
 
 /// The workbook that the host has open, in a window, to be looked at: the sheets with a tab for each, and
 /// above them the active cell and what it shows. Hidden sheets have dimmed tabs, very hidden ones have none.
-/// To turn to another sheet here doesn't make it the active sheet of the workbook.
+/// To turn to another sheet here doesn't make it the active sheet of the workbook. The host has to keep the
+/// workbook open as long as the window is there.
 class BookView : public QWidget {
  public:
   explicit BookView(std::shared_ptr<xlsx::Application> host, QWidget* parent = nullptr);

@@ -78,7 +78,9 @@ const CellPainter::Face& CellPainter::FaceOf(std::uint32_t style) {
 
 QColor CellPainter::Background(const ShownCell& cell) {
   const auto& fill = source_.LookOf(cell.style).fillColor;
-  return fill ? FromExcel(*fill) : palette_.color(QPalette::Base);
+  // white is the ground that a workbook is made on, so that it is the window's here
+  constexpr std::int32_t kWhite = 0xFFFFFF;
+  return fill && *fill != kWhite ? FromExcel(*fill) : palette_.color(QPalette::Base);
 }
 
 Qt::Alignment CellPainter::SideOf(const ShownCell& cell) {
@@ -104,19 +106,24 @@ bool CellPainter::MaySpread(const ShownCell& cell) {
 
 int CellPainter::Padding() const { return std::max(1, static_cast<int>(std::lround(2 * scale_))); }
 
-int CellPainter::WidthOf(const ShownCell& cell) {
-  const QFontMetrics& metrics = FaceOf(cell.style).metrics;
-  const int indent = source_.LookOf(cell.style).indent * kBlanksPerIndent;
-  return metrics.horizontalAdvance(cell.text) + indent * metrics.horizontalAdvance(QLatin1Char(' ')) +
-         2 * Padding() + 1;
+int CellPainter::IndentOf(const ShownCell& cell) {
+  const int blank = FaceOf(cell.style).metrics.horizontalAdvance(QLatin1Char(' '));
+  return source_.LookOf(cell.style).indent * kBlanksPerIndent * blank;
 }
 
-QString CellPainter::FittedNumber(const ShownCell& cell, const QFontMetrics& metrics, int width) const {
-  const auto fits = [&](const QString& text) { return metrics.horizontalAdvance(text) <= width; };
+int CellPainter::WidthOf(const ShownCell& cell) {
+  return FaceOf(cell.style).metrics.horizontalAdvance(cell.text) + IndentOf(cell) + 2 * Padding() + 1;
+}
+
+QString CellPainter::FittedText(const ShownCell& cell, int width) {
+  if (!IsNumber(cell)) return cell.text;
+  const QFontMetrics& metrics = FaceOf(cell.style).metrics;
+  const int room = width - IndentOf(cell) - Padding() - 1;
+  const auto fits = [&](const QString& text) { return metrics.horizontalAdvance(text) <= room; };
   if (fits(cell.text)) return cell.text;
   const QString shorter = cell.general ? ShorterNumber(cell.number, cell.text, fits) : QString();
   if (!shorter.isEmpty()) return shorter;
-  const int marks = width / std::max(1, metrics.horizontalAdvance(QLatin1Char('#')));
+  const int marks = room / std::max(1, metrics.horizontalAdvance(QLatin1Char('#')));
   return QString(std::max(marks, 1), QLatin1Char('#'));
 }
 
@@ -127,14 +134,12 @@ void CellPainter::Paint(QPainter& painter, const ShownCell& cell, const QRect& a
   const Qt::Alignment side = SideOf(cell);
   // the last pixel at the right and below is the line between cells
   QRect inside = area.adjusted(Padding(), 0, -Padding() - 1, -1);
-  const int indent = look.indent * kBlanksPerIndent * face.metrics.horizontalAdvance(QLatin1Char(' '));
-  if (side == Qt::AlignLeft) inside.setLeft(inside.left() + indent);
-  if (side == Qt::AlignRight) inside.setRight(inside.right() - indent);
+  if (side == Qt::AlignLeft) inside.setLeft(inside.left() + IndentOf(cell));
+  if (side == Qt::AlignRight) inside.setRight(inside.right() - IndentOf(cell));
 
-  const bool number = IsNumber(cell);
-  QString text = number ? FittedNumber(cell, face.metrics, inside.width() + Padding()) : cell.text;
+  QString text = FittedText(cell, area.width());
   int flags = static_cast<int>(side | HeightOf(look.vertical)) | Qt::TextDontClip;
-  if (look.wrap && !number) {
+  if (look.wrap && !IsNumber(cell)) {
     flags |= Qt::TextWordWrap;
   } else {
     // a line break is shown only in a cell that wraps

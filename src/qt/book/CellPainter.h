@@ -30,8 +30,9 @@ class CellPainter {
   bool MaySpread(const ShownCell& cell);
   /// How wide the text is, with the space to the edges of the cell, in pixels.
   int WidthOf(const ShownCell& cell);
+  /// The text that a cell of this width shows: a number that doesn't fit has fewer decimals, or is "####".
+  QString FittedText(const ShownCell& cell, int width);
   /// Paints the text of a cell in `area`: the cell, or with the empty ones beside it that the text goes over.
-  /// A number that doesn't fit is shown with fewer decimals, or as "####".
   void Paint(QPainter& painter, const ShownCell& cell, const QRect& area);
 
  private:
@@ -42,7 +43,7 @@ class CellPainter {
   const Face& FaceOf(std::uint32_t style);
   QFont FontOf(const xlsx::CellLook& look) const;
   int Padding() const;
-  QString FittedNumber(const ShownCell& cell, const QFontMetrics& metrics, int width) const;
+  int IndentOf(const ShownCell& cell);
 
   SheetSource& source_;
   QPalette palette_;

@@ -16,7 +16,7 @@ double Luminance(const QColor& color) {
 
 /// From 1, for equal colours, to 21.
 double Contrast(const QColor& a, const QColor& b) {
-  const auto [darker, lighter] = std::minmax(Luminance(a), Luminance(b));
+  const auto [darker, lighter] = std::minmax({Luminance(a), Luminance(b)});
   return (lighter + 0.05) / (darker + 0.05);
 }
 

@@ -102,6 +102,8 @@ void SheetView::SetZoom(double zoom) {
   viewport()->update();
 }
 
+void SheetView::StepZoom(int steps) { SetZoom((std::round(zoom_ / kZoomStep) + steps) * kZoomStep); }
+
 void SheetView::MeasureHeads() {
   if (!view_.headings) {
     headWidth_ = headHeight_ = 0;
@@ -175,9 +177,8 @@ void SheetView::UpdateScrollBars() {
 }
 
 /// Scrolls so far that a place, in pixels from the sheet's corner, is seen; if it is too large, its
-/// beginning.
+/// beginning. Rows come first, since the heads beside those of more digits leave less room for the columns.
 void SheetView::ScrollTo(const QRect& place) {
-  const QRect body = BodyArea();
   const QSize frozen = FrozenSize();
   const auto scroll = [](QScrollBar& bar, int first, int last, int page) {
     if (last < 0) return;  // it is frozen
@@ -187,9 +188,10 @@ void SheetView::ScrollTo(const QRect& place) {
     bar.setMaximum(std::max(bar.maximum(), value));
     bar.setValue(value);
   };
-  scroll(*horizontalScrollBar(), place.left() - frozen.width(), place.right() - frozen.width(), body.width());
   scroll(*verticalScrollBar(), place.top() - frozen.height(), place.bottom() - frozen.height(),
-         body.height());
+         BodyArea().height());
+  scroll(*horizontalScrollBar(), place.left() - frozen.width(), place.right() - frozen.width(),
+         BodyArea().width());
   UpdateScrollBars();
 }
 
@@ -299,8 +301,7 @@ void SheetView::mousePressEvent(QMouseEvent* event) {
 
 void SheetView::wheelEvent(QWheelEvent* event) {
   if ((event->modifiers() & Qt::ControlModifier) == 0) return QAbstractScrollArea::wheelEvent(event);
-  if (const int turned = event->angleDelta().y(); turned != 0)
-    SetZoom(std::round(zoom_ / kZoomStep + (turned > 0 ? 1 : -1)) * kZoomStep);
+  if (const int turned = event->angleDelta().y(); turned != 0) StepZoom(turned > 0 ? 1 : -1);
   event->accept();
 }
 
@@ -341,6 +342,10 @@ bool SheetView::MoveByKey(QKeyEvent& event) {
       return !control;  // with Ctrl it turns to another sheet
     case Qt::Key_0:
       if (control) SetZoom(1);
+      return control;
+    case Qt::Key_Plus:
+    case Qt::Key_Minus:
+      if (control) StepZoom(event.key() == Qt::Key_Plus ? 1 : -1);
       return control;
     default:
       return false;

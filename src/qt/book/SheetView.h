@@ -130,11 +130,14 @@ class SheetView : public QAbstractScrollArea, public SheetPage {
   void PaintTextFromOutside(QPainter& painter, const Pane& pane, const PaneCells& shown, std::size_t row,
                             CellPainter& cellPainter);
   void PaintMerged(QPainter& painter, const Pane& pane, const PaneCells& shown, CellPainter& cellPainter);
+  void PaintBorders(QPainter& painter, const Pane& pane, const PaneCells& shown);
   void PaintFrames(QPainter& painter, const Pane& pane);
   void PaintActiveCell(QPainter& painter, const Pane& pane);
   void PaintHeads(QPainter& painter);
   void PaintHead(QPainter& painter, const QRect& area, const QString& text, bool active);
   void PaintFreezeLines(QPainter& painter);
+
+  void StepZoom(int steps);
 
   // keys
   bool MoveByKey(QKeyEvent& event);

@@ -1,6 +1,7 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QScrollBar>
 #include <algorithm>
+#include <cmath>
 
 #include "qt/book/Colors.h"
 #include "qt/book/SheetView.h"
@@ -84,6 +85,7 @@ void SheetView::PaintPane(QPainter& painter, const Pane& pane, CellPainter& cell
   PaintFillings(painter, pane, shown, cellPainter);
   PaintTexts(painter, pane, shown, cellPainter);
   PaintMerged(painter, pane, shown, cellPainter);
+  PaintBorders(painter, pane, shown);
   PaintFrames(painter, pane);
   PaintActiveCell(painter, pane);
 }
@@ -175,7 +177,7 @@ void SheetView::PaintTextFromOutside(QPainter& painter, const Pane& pane, const 
   const std::int32_t number = shown.rows[row].number, first = shown.columns.front().number;
   const bool isBody = pane.area.left() > headWidth_ + 1;
   const std::int32_t from = std::max(isBody ? view_.frozenColumns + 1 : 1, first - kMostSpread);
-  std::int32_t column = first - 1;
+  std::int32_t column = std::min(first - 1, used_.column2);
   while (column >= from && source_.IsEmptyAt(number, column)) --column;
   if (column < from) return;
   const ShownCell cell = source_.CellAt(number, column);
@@ -205,6 +207,30 @@ void SheetView::PaintMerged(QPainter& painter, const Pane& pane, const PaneCells
     painter.fillRect(filled ? area.adjusted(-1, -1, 0, 0) : area.adjusted(0, 0, -1, -1),
                      cellPainter.Background(cell));
     cellPainter.Paint(painter, cell, area);
+  }
+}
+
+/// A border lies on the line between two cells; one of several pixels reaches into both.
+void SheetView::PaintBorders(QPainter& painter, const Pane& pane, const PaneCells& shown) {
+  const QColor base = palette().color(QPalette::Base), text = palette().color(QPalette::Text);
+  const auto paint = [&](const xlsx::BorderLine& line, int x, int y, int length, bool upright) {
+    if (line.width == 0) return;
+    const int width = std::max(1, static_cast<int>(std::lround(line.width * zoom_)));
+    const QColor color = line.color ? Readable(FromExcel(*line.color), base, palette()) : text;
+    const int from = (width - 1) / 2;
+    const QRect area = upright ? QRect(x - from, y, width, length) : QRect(x, y - from, length, width);
+    painter.fillRect(area, color);
+  };
+  for (std::size_t row = 0; row < shown.rows.size(); ++row) {
+    for (std::size_t column = 0; column < shown.columns.size(); ++column) {
+      const xlsx::CellLook& look = source_.LookOf(shown.At(row, column).style);
+      const QRect area = AreaOf(shown.rows[row], shown.columns[column]).translated(pane.origin);
+      const int left = area.left() - 1, top = area.top() - 1;
+      paint(look.left, left, top, area.height() + 1, true);
+      paint(look.right, area.right(), top, area.height() + 1, true);
+      paint(look.top, left, top, area.width() + 1, false);
+      paint(look.bottom, left, area.bottom(), area.width() + 1, false);
+    }
   }
 }
 

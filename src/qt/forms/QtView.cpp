@@ -16,6 +16,8 @@ void QtView::Open(forms::Form& form) {
   windows_.back()->show();
   windows_.back()->activateWindow();
   ShowChanges();  // after the new window has come, so that the screen is never without one
+  // a form may work for long before it waits, and should be seen meanwhile
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void QtView::Close(forms::Form& form) {

@@ -18,7 +18,7 @@ namespace {
 
 constexpr const char* kTitle = "Plotsmith Help";
 constexpr const char* kFirstPage = "index.html";
-constexpr int kWidth = 900, kHeight = 680, kListWidth = 230;  // pixels at scale 1
+constexpr int kWidth = 1080, kHeight = 760, kListWidth = 230;  // pixels at scale 1
 
 }  // namespace
 

@@ -12,8 +12,8 @@
 
 /// @file
 /// Takes pictures of the wizard's pages for the documents: plotsmith_wizard_shots BOOK FOLDER SUFFIX LOOK <
-/// SCRIPT. A script has one line more here, "shot NAME", which writes FOLDER/NAME + SUFFIX.png. LOOK is light
-/// or dark.
+/// SCRIPT. A script has one line more here, "shot NAME", which writes FOLDER/NAME + SUFFIX.png; the busy
+/// window is taken when it comes. LOOK is light or dark.
 namespace plotsmith {
 namespace {
 
@@ -37,9 +37,12 @@ class ShotLines final : public forms::LineSource {
     if (!std::getline(std::cin, line)) return std::nullopt;
     if (!line.starts_with(kShot)) return line;
     QApplication::processEvents();
-    windows_.Front()->grab().save(folder_ + '/' + QString::fromStdString(line.substr(kShot.size())) +
-                                  suffix_ + ".png");
+    Take(QString::fromStdString(line.substr(kShot.size())));
     return "";
+  }
+
+  void Take(const QString& name) const {
+    windows_.Front()->grab().save(folder_ + '/' + name + suffix_ + ".png");
   }
 
  private:
@@ -51,11 +54,12 @@ class ShotLines final : public forms::LineSource {
 /// Windows that a script plays on, without a hand of their own.
 class Stage final : public forms::View {
  public:
-  Stage(qt::QtView& windows, std::shared_ptr<forms::ScriptPlayer> player)
-      : windows_(windows), player_(std::move(player)) {}
+  Stage(qt::QtView& windows, ShotLines& lines, std::shared_ptr<forms::ScriptPlayer> player)
+      : windows_(windows), lines_(lines), player_(std::move(player)) {}
   void Open(forms::Form& form) override {
     player_->Open(form);
     windows_.Open(form);
+    if (form.Name() == kBusyWindow) lines_.Take(kBusyWindow);  // it waits for no line
   }
   void Close(forms::Form& form) override {
     windows_.Close(form);
@@ -68,7 +72,10 @@ class Stage final : public forms::View {
   void HandleEvents(forms::EventQueue& queue) override { windows_.HandleEvents(queue); }
 
  private:
+  static constexpr const char* kBusyWindow = "frmBusyPS";
+
   qt::QtView& windows_;
+  ShotLines& lines_;
   std::shared_ptr<forms::ScriptPlayer> player_;
 };
 
@@ -78,7 +85,7 @@ int TakeShots(const std::string& book, const QString& folder, const QString& suf
   const auto player = std::make_shared<forms::ScriptPlayer>(lines, [](const forms::FormState&) {});
   const auto desktop = std::make_shared<cli::ScriptDesktop>(player, cli::Outside::kScript);
   const cli::Session session(book, {}, {std::cin, std::cout, std::cerr}, desktop,
-                             std::make_shared<Stage>(windows, player));
+                             std::make_shared<Stage>(windows, lines, player));
   CPlotsmithController().RunPlotsmith(session.Host(), cli::kHostName, "");
   player->PlayRest();
   if (!player->Failed()) return 0;

@@ -27,6 +27,7 @@ namespace {
 // points.
 constexpr double kTitlePadding = 7.2;  // above and below a title's text together: a text box's insets
 constexpr double kTitleShare = 0.8;    // of the chart's width, before a title breaks
+constexpr double kTitleGap = 5;        // between the chart's title and the plot area
 constexpr double kLabelGap = 5;        // between an axis and its labels
 constexpr double kLegendPadding = 8;   // around all entries together
 constexpr double kKeyEms = 2.4;        // a legend key with the gaps around it, which grows with the text
@@ -117,7 +118,9 @@ std::vector<std::string> LabelsOf(ChartPart& part, pugi::xml_node axis) {
 
 Frame AutomaticPlotArea(ChartPart& part, const Frame& chart) {
   Edges taken{kChartInset, kChartInset, kChartInset, kChartInset};
-  taken.top += TitleDepth(part, xml::Child(part.Chart(), "title"), TextRole::kChartTitle, chart.width);
+  const double title =
+      TitleDepth(part, xml::Child(part.Chart(), "title"), TextRole::kChartTitle, chart.width);
+  if (title > 0) taken.top += title + kTitleGap;
   SetLegendAside(part, chart, taken);
   ForEachAxis(part, [&](pugi::xml_node axis, const std::string& side, bool upright) {
     SideOf(taken, side) += TitleDepth(part, xml::Child(axis, "title"), TextRole::kAxisTitle,

@@ -170,6 +170,7 @@ void ChartPart::Write() {
   Follow();
   if (drawing_) drawing_->Write();
   if (!changed_) return;
+  EnsureGroup(*this);
   UpdateLinkedFormats(*this);
   book_.Package().Replace(part_, xml::Serialize(*document_));
   changed_ = false;

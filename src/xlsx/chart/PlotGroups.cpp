@@ -114,6 +114,16 @@ std::vector<pugi::xml_node> FilteredSeriesOf(ChartPart& part) {
   return filtered;
 }
 
+/// The standard wants three or four series in a stock chart (CT_StockChart). One of any other number becomes
+/// a line chart, which may have the same lines, bars and labels.
+void KeepStockWhole(pugi::xml_node group) {
+  constexpr std::size_t kFewest = 3, kMost = 4;  // high, low and close; open before them
+  const std::size_t count = xml::Children(group, "ser").size();
+  if (!xml::Is(group, "stockChart") || (count >= kFewest && count <= kMost)) return;
+  group.set_name((std::string(xml::Prefix(group.name())) + "lineChart").c_str());
+  FitGroup(group, *FindChartType(excel::xlLine), false);
+}
+
 [[noreturn]] void CantCombine() {
   throw Refusal("Some chart types cannot be combined with other chart types.");
 }
@@ -156,6 +166,7 @@ SeriesRef AddSeries(ChartPart& part) {
   const pugi::xml_node last = all.empty() ? pugi::xml_node() : all.back()->node;
   const pugi::xml_node group = last ? last.parent() : GroupsOf(part)[0];
   pugi::xml_node series = schema::Insert(group, "ser");
+  KeepStockWhole(group);
   schema::SetVal(series, "idx", std::to_string(FreeNumber(indices, 0, kLast)));
   schema::SetVal(series, "order", std::to_string(FreeNumber(orders, 0, kLast)));
   if (const ChartTypeEntry* type = FindChartType(TypeOfSeries(last ? last : series))) {
@@ -171,14 +182,22 @@ SeriesRef AddSeries(ChartPart& part) {
   return all.back();
 }
 
+void EnsureGroup(ChartPart& part) {
+  if (!GroupsOf(part).empty()) return;
+  SetType(part, *FindChartType(excel::xlColumnClustered));
+  for (const pugi::xml_node& axis : AxesOf(GroupsOf(part)[0])) schema::SetBooleanVal(axis, "delete", true);
+}
+
 void DeleteSeries(ChartPart& part, const SeriesRef& series) {
   auto& all = part.Series();
   const auto at = std::find(all.begin(), all.end(), series);
   if (at == all.end()) return;
   DropLegendEntry(part, static_cast<std::size_t>(at - all.begin()));
   ForgetSeries(part, series->node);
+  const pugi::xml_node group = series->node.parent();
   series->node.parent().remove_child(series->node);
   series->node = {};
+  KeepStockWhole(group);
   all.erase(at);
   part.MarkChanged();
 }

@@ -17,10 +17,15 @@ std::vector<pugi::xml_node> DrawnGroups(ChartPart& part);
 /// All series, in plot order.
 std::vector<pugi::xml_node> SeriesOf(ChartPart& part);
 /// A new, empty series at the end, of the type of the last one; without one, in the first group. A chart
-/// without a group gets one of clustered columns. As Excel does it.
+/// without a group gets one of clustered columns. As Excel does it. A stock chart with more than four series
+/// becomes a line chart.
 SeriesRef AddSeries(ChartPart& part);
-/// Deletes a series, and what hangs on it in the legend. Its group stays, also as the last one's: there is
-/// what somebody gave it.
+/// Gives a chart without a group an empty one of clustered columns, with hidden axes, as Excel writes a chart
+/// without data. A plot area without a group is not valid.
+void EnsureGroup(ChartPart& part);
+/// Deletes a series and its entry in the legend. The group stays, also without a series, and with it what
+/// somebody gave the group. A stock chart becomes a line chart, because it can't have fewer than three
+/// series.
 void DeleteSeries(ChartPart& part, const SeriesRef& series);
 
 /// Moves all series into one group of the type. What the type before had, and this one can't have, is laid

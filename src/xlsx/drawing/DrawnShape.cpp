@@ -26,6 +26,9 @@ namespace {
 constexpr std::int32_t kLine = 9;  // msoLine
 // the insets of a text box that says nothing (ECMA-376-1, 21.1.2.1.1): 0.1 and 0.05 inches, in points
 constexpr double kUsualMarginAcross = 7.2, kUsualMarginDown = 3.6;
+// the inset at the sides that Excel writes for a box that leaves its margins to Excel (AutoMargins), in
+// points
+constexpr double kAutomaticMargin = 2.16;
 
 std::int32_t TypeOf(pugi::xml_node object) {
   const std::string_view kind = xml::LocalName(object);
@@ -132,6 +135,7 @@ void DrawnShape::SetWidth(double points) {
   Frame frame = PlacedFrame();
   if (KeepsItsProportions() && frame.width > 0) frame.height *= points / frame.width;
   frame.width = points;
+  StopFittingToText();
   Place(frame);
 }
 
@@ -141,6 +145,7 @@ void DrawnShape::SetHeight(double points) {
   Frame frame = PlacedFrame();
   if (KeepsItsProportions() && frame.height > 0) frame.width *= points / frame.height;
   frame.height = points;
+  StopFittingToText();
   Place(frame);
 }
 
@@ -190,6 +195,20 @@ void DrawnShape::FitToText() {
   if (!wraps) frame.width = extent.width + across;
   frame.height = extent.height + down;
   Place(frame);
+}
+
+void DrawnShape::StopFittingToText() {
+  pugi::xml_node body = xml::Child(object_, "txBody", "bodyPr");
+  if (!xml::Child(body, "spAutoFit")) return;
+  // A program that fits boxes when it opens the file would undo the size. LibreOffice even does it from the
+  // middle of the box, which leaves texts that were aligned to the left at different places.
+  schema::Remove(body, "spAutoFit");
+  schema::Ensure(body, "noAutofit");
+  if (xml::Attribute(body, "wrap", "square") != "none") return;
+  // A line that doesn't break would run over the right edge by the margins that the size left no room for.
+  for (const char* margin : {"lIns", "rIns"}) {
+    if (!body.attribute(margin)) xml::SetAttribute(body, margin, std::to_string(Emu(kAutomaticMargin)));
+  }
 }
 
 void DrawnShape::Delete() {

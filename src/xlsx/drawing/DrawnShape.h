@@ -74,6 +74,9 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
 
  private:
   bool KeepsItsProportions() const;
+  /// Turns TextFrame2.AutoSize off, because the shape gets a size of its own. Margins at the sides of a line
+  /// that doesn't break become narrow, unless they were set.
+  void StopFittingToText();
 
   pugi::xml_node anchor_, object_;
   std::optional<std::u16string> text_;  ///< kept until it changes

@@ -76,6 +76,21 @@ void AppendLiterals(std::string& out, const Section& section, Token::Kind placeh
   }
 }
 
+bool IsOfCalendar(const Token& token) {
+  using enum Token::Kind;
+  return token.kind == kYear || token.kind == kMonth || token.kind == kDay || token.kind == kEra ||
+         token.kind == kEraYear || token.kind == kBuddhistYear;
+}
+
+bool IsOfClock(const Token& token) {
+  using enum Token::Kind;
+  return token.kind == kHour || token.kind == kMinute || token.kind == kSecond || token.kind == kSubsecond;
+}
+
+bool Shows(const Section& section, bool (*isOfKind)(const Token&)) {
+  return std::any_of(section.tokens.begin(), section.tokens.end(), isOfKind);
+}
+
 void AppendGeneralSection(std::string& out, const Section& section, double magnitude, bool negative) {
   if (negative) out += '-';
   for (const Token& token : section.tokens) {
@@ -98,15 +113,18 @@ std::shared_ptr<const NumberFormat> NumberFormat::Parse(std::string_view code) {
 }
 
 bool NumberFormat::IsDate() const {
-  const auto ofCalendar = [](const Token& token) {
-    using enum Token::Kind;
-    return token.kind == kYear || token.kind == kMonth || token.kind == kDay || token.kind == kEra ||
-           token.kind == kEraYear || token.kind == kBuddhistYear;
-  };
   return std::any_of(program_->numbers.begin(), program_->numbers.end(), [&](const Section& section) {
-    return section.kind == Section::Kind::kDate &&
-           std::any_of(section.tokens.begin(), section.tokens.end(), ofCalendar);
+    return section.kind == Section::Kind::kDate && Shows(section, IsOfCalendar);
   });
+}
+
+DateFields NumberFormat::FieldsOf(double value) const {
+  const Section* section = std::isfinite(value) ? program_->Select(value) : nullptr;
+  if (section == nullptr || section->kind != Section::Kind::kDate) return DateFields::kNone;
+  if (Shows(*section, IsOfCalendar)) {
+    return Shows(*section, IsOfClock) ? DateFields::kDateTime : DateFields::kDate;
+  }
+  return section->elapsed == Token::Kind::kLiteral ? DateFields::kTime : DateFields::kDuration;
 }
 
 bool NumberFormat::IsGeneral() const {

@@ -8,6 +8,15 @@
 
 namespace plotsmith::xlsx {
 
+/// What of a day and a time a format shows.
+enum class DateFields {
+  kNone,      ///< the number is shown as a number
+  kDate,      ///< a day, a month or a year
+  kTime,      ///< a time of the day
+  kDateTime,  ///< both
+  kDuration   ///< hours, minutes or seconds that don't begin again, "[h]:mm"
+};
+
 /// A number format code (`formatCode` of SpreadsheetML, en-US), parsed once and used for many cells.
 ///
 /// Displayed text is what a cell of sufficient width shows: `_x` gives one blank, `?` pads with blanks, `*x`
@@ -21,6 +30,8 @@ class NumberFormat {
   /// True if the format shows a day, a month or a year, so that a cell's value reads as a date. A time or a
   /// duration alone stays a number, as Excel's Range.Value has it.
   bool IsDate() const;
+  /// What the format shows of the number, which picks its section.
+  DateFields FieldsOf(double value) const;
   bool IsGeneral() const;
 
   /// Append the displayed text to `out`. Where Excel fills the cell with "#" this gives "########": for a

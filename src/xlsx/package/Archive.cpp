@@ -144,6 +144,10 @@ ArchiveWriter::ArchiveWriter(const std::string& path) : handle_(std::make_unique
   handle_->zip = OpenFrom(CreateZipFile(path), ZIP_CREATE | ZIP_TRUNCATE);
 }
 
+ArchiveWriter::ArchiveWriter(int descriptor) : handle_(std::make_unique<Handle>()) {
+  handle_->zip = OpenFrom(CreateZipFile(descriptor), ZIP_CREATE | ZIP_TRUNCATE);
+}
+
 ArchiveWriter::~ArchiveWriter() = default;
 
 void ArchiveWriter::Copy(const Archive& source, std::size_t index) {

@@ -56,6 +56,8 @@ class Archive {
 class ArchiveWriter {
  public:
   explicit ArchiveWriter(const std::string& path);
+  /// Into an empty file that is open for writing, and stays so.
+  explicit ArchiveWriter(int descriptor);
   ~ArchiveWriter();
 
   /// Copies an entry as it lies, compressed by whatever method.

@@ -15,15 +15,42 @@ namespace {
   throw PackageError("can't write " + path + ": " + std::strerror(errno));
 }
 
-/// False, with the reason in errno, if the file or folder can't be written through.
-bool Sync(const std::string& path, int flags) {
-  const int file = open(path.c_str(), flags | O_CLOEXEC);
-  if (file < 0) return false;
-  const bool synced = fsync(file) == 0 || errno == EINVAL;  // some file systems can't sync a folder
-  const int error = errno;
+constexpr const char* kDescriptors = "/proc/self/fd";
+
+/// A file in the folder that no name leads to; -1 where the system has none such, or could not name it later.
+int OpenNameless(const std::string& folder) {
+  if (access(kDescriptors, X_OK) != 0) return -1;
+  return open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600);
+}
+
+std::string FolderOf(const std::string& path) {
+  const auto folder = std::filesystem::path(path).parent_path();
+  return folder.empty() ? "." : folder.string();
+}
+
+/// Makes the names in a folder reach the disk. The files are in place whatever becomes of this, and some file
+/// systems can't do it.
+void SyncFolder(const std::string& folder) {
+  const int file = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (file < 0) return;
+  static_cast<void>(fsync(file));
   close(file);
-  errno = error;
-  return synced;
+}
+
+/// Gives the nameless file a name. False, with the reason in errno, if it can't have that one.
+bool LinkTo(int file, const std::string& path) {
+  const std::string self = std::string(kDescriptors) + "/" + std::to_string(file);
+  return linkat(AT_FDCWD, self.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0;
+}
+
+/// Gives the nameless file a name beside `path` and answers it.
+std::string LinkBeside(int file, const std::string& path) {
+  const std::string stem = path + "." + std::to_string(getpid()) + "-";
+  for (int n = 1;; ++n) {
+    std::string name = stem + std::to_string(n);
+    if (LinkTo(file, name)) return name;
+    if (errno != EEXIST) Fail(path);
+  }
 }
 
 mode_t NewFileMode() {
@@ -43,32 +70,34 @@ AtomicFile::AtomicFile(const std::string& path) {
     if (!S_ISREG(old.st_mode)) throw PackageError("can't write " + path + ": it is not a regular file");
     if (access(path_.c_str(), W_OK) != 0) Fail(path);
   }
+  file_ = OpenNameless(FolderOf(path_));
+  if (file_ >= 0) return;
   temporary_ = path_ + ".XXXXXX";
-  const int file = mkstemp(temporary_.data());
-  if (file < 0) {
-    temporary_.clear();
-    Fail(path);
-  }
-  close(file);
+  file_ = mkostemp(temporary_.data(), O_CLOEXEC);
+  if (file_ < 0) Fail(path);
 }
 
 AtomicFile::~AtomicFile() {
-  if (!committed_ && !temporary_.empty()) unlink(temporary_.c_str());
+  close(file_);
+  if (!temporary_.empty()) unlink(temporary_.c_str());
 }
 
 void AtomicFile::Commit() {
   struct stat old {};
   const bool replaces = stat(path_.c_str(), &old) == 0;
-  if (chmod(temporary_.c_str(), replaces ? old.st_mode & 07777 : NewFileMode()) != 0) Fail(temporary_);
-  if (replaces && chown(temporary_.c_str(), old.st_uid, old.st_gid) != 0) {
+  if (fchmod(file_, replaces ? old.st_mode & 07777 : NewFileMode()) != 0) Fail(path_);
+  if (replaces && fchown(file_, old.st_uid, old.st_gid) != 0) {
     // only root may give a file away; the copy then belongs to who made it
   }
-  if (!Sync(temporary_, O_RDONLY)) Fail(temporary_);
-  if (rename(temporary_.c_str(), path_.c_str()) != 0) Fail(path_);
-  committed_ = true;
-  // the new file is in place, whatever becomes of this
-  const auto folder = std::filesystem::path(path_).parent_path();
-  Sync(folder.empty() ? "." : folder.string(), O_RDONLY | O_DIRECTORY);
+  if (fsync(file_) != 0 && errno != EINVAL) Fail(path_);
+  // a link can't replace a file, so that there it takes a name for a moment
+  const bool placed = temporary_.empty() && !replaces && LinkTo(file_, path_);
+  if (!placed) {
+    if (temporary_.empty()) temporary_ = LinkBeside(file_, path_);
+    if (rename(temporary_.c_str(), path_.c_str()) != 0) Fail(path_);
+    temporary_.clear();
+  }
+  SyncFolder(FolderOf(path_));
 }
 
 }  // namespace plotsmith::xlsx

@@ -1,5 +1,8 @@
+#include <fcntl.h>
 #include <filesystem>
+#include <io.h>
 #include <memory>
+#include <utility>
 #include <windows.h>
 
 #include "runtime/Utf8Path.h"
@@ -60,7 +63,9 @@ void CheckReplaceable(const std::filesystem::path& target, const std::string& pa
   if (attributes == INVALID_FILE_ATTRIBUTES) return;  // a new file
   if (attributes & FILE_ATTRIBUTE_DIRECTORY)
     throw PackageError("can't write " + path + ": it is not a regular file");
-  if (!Open(target, GENERIC_WRITE | DELETE, OPEN_EXISTING)) Fail(path);
+  if (attributes & FILE_ATTRIBUTE_READONLY) SetLastError(ERROR_ACCESS_DENIED);
+  if (attributes & FILE_ATTRIBUTE_READONLY || !Open(target, GENERIC_WRITE | DELETE, OPEN_EXISTING))
+    Fail(path);
 }
 
 }  // namespace
@@ -73,8 +78,9 @@ AtomicFile::AtomicFile(const std::string& path) {
   const std::string stem = path_ + "." + std::to_string(GetCurrentProcessId()) + "-";
   for (int n = 1; temporary_.empty(); ++n) {
     const std::string name = stem + std::to_string(n);
-    if (Open(PathOf(name), GENERIC_WRITE, CREATE_NEW)) {
+    if (Handle handle = Open(PathOf(name), GENERIC_READ | GENERIC_WRITE, CREATE_NEW)) {
       temporary_ = name;
+      file_ = _open_osfhandle(reinterpret_cast<std::intptr_t>(handle.release()), _O_BINARY);
     } else if (GetLastError() != ERROR_FILE_EXISTS) {
       Fail(path);
     }
@@ -82,21 +88,20 @@ AtomicFile::AtomicFile(const std::string& path) {
 }
 
 AtomicFile::~AtomicFile() {
-  if (!committed_ && !temporary_.empty()) DeleteFileW(PathOf(temporary_).c_str());
+  if (file_ >= 0) _close(file_);
+  if (!temporary_.empty()) DeleteFileW(PathOf(temporary_).c_str());
 }
 
 void AtomicFile::Commit() {
+  if (!FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file_)))) Fail(path_);
+  _close(std::exchange(file_, -1));
   const auto target = PathOf(path_), temporary = PathOf(temporary_);
-  {
-    const Handle file = Open(temporary, GENERIC_WRITE, OPEN_EXISTING);
-    if (!file || !FlushFileBuffers(file.get())) Fail(temporary_);
-  }
+  const bool replaces = GetFileAttributesW(target.c_str()) != INVALID_FILE_ATTRIBUTES;
   // ReplaceFile keeps what a user has set on the old file: access rights, attributes, the time of creation
-  const bool placed = GetFileAttributesW(target.c_str()) == INVALID_FILE_ATTRIBUTES
-                          ? MoveFileExW(temporary.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH)
-                          : ReplaceFileW(target.c_str(), temporary.c_str(), nullptr, 0, nullptr, nullptr);
+  const BOOL placed = replaces ? ReplaceFileW(target.c_str(), temporary.c_str(), nullptr, 0, nullptr, nullptr)
+                               : MoveFileExW(temporary.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH);
   if (!placed) Fail(path_);
-  committed_ = true;
+  temporary_.clear();
 }
 
 }  // namespace plotsmith::xlsx

@@ -13,6 +13,10 @@ namespace plotsmith::xlsx::file_system {
 int OpenToRead(const std::string& path);
 /// Makes the file or empties it, and opens it to be written. -1 if that can't be done.
 int OpenToWrite(const std::string& path);
+/// An empty file, open for reading and writing, that is gone when it is closed. -1 if there is no room.
+int OpenScratch();
+/// A second descriptor of an open file.
+int Duplicate(int file);
 void Close(int file);
 
 /// The size in bytes.

@@ -1,4 +1,5 @@
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -25,6 +26,16 @@ int OpenToRead(const std::string& path) { return open(path.c_str(), O_RDONLY | O
 int OpenToWrite(const std::string& path) {
   return open(path.c_str(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
 }
+
+int OpenScratch() {
+  std::FILE* const scratch = std::tmpfile();
+  if (scratch == nullptr) return -1;
+  const int file = Duplicate(fileno(scratch));
+  std::fclose(scratch);
+  return file;
+}
+
+int Duplicate(int file) { return fcntl(file, F_DUPFD_CLOEXEC, 0); }
 
 void Close(int file) { close(file); }
 

@@ -1,9 +1,11 @@
 #include <algorithm>
+#include <cerrno>
 #include <fcntl.h>
 #include <io.h>
 #include <limits>
 #include <share.h>
 #include <sys/stat.h>
+#include <windows.h>
 
 #include "runtime/Utf8Path.h"
 #include "xlsx/package/FileSystem.h"
@@ -25,9 +27,31 @@ int Open(const std::string& path, int flags) {
 
 }  // namespace
 
-int OpenToRead(const std::string& path) { return Open(path, _O_RDONLY); }
+// Others may replace the file meanwhile, which the C run-time's ways to open a file don't let them.
+int OpenToRead(const std::string& path) {
+  const HANDLE handle = CreateFileW(runtime::PathOf(path).c_str(), GENERIC_READ,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (handle == INVALID_HANDLE_VALUE) {
+    const DWORD error = GetLastError();
+    errno = error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND ? ENOENT : EACCES;
+    return -1;
+  }
+  return _open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_RDONLY | _O_BINARY);
+}
 
 int OpenToWrite(const std::string& path) { return Open(path, _O_RDWR | _O_CREAT | _O_TRUNC); }
+
+int OpenScratch() {
+  wchar_t folder[MAX_PATH + 1], name[MAX_PATH + 1];
+  errno = EACCES;
+  if (GetTempPathW(MAX_PATH, folder) == 0 || GetTempFileNameW(folder, L"plo", 0, name) == 0) return -1;
+  int file = -1;
+  _wsopen_s(&file, name, _O_RDWR | _O_TEMPORARY | _O_BINARY | _O_NOINHERIT, _SH_DENYNO, _S_IREAD | _S_IWRITE);
+  return file;
+}
+
+int Duplicate(int file) { return _dup(file); }
 
 void Close(int file) { _close(file); }
 

@@ -1,6 +1,8 @@
 #include "xlsx/package/Package.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 #include <filesystem>
 #include <set>
 #include <utility>
@@ -10,9 +12,11 @@
 #include "runtime/Utf8Path.h"
 #include "xlsx/Limits.h"
 #include "xlsx/package/AtomicFile.h"
+#include "xlsx/package/FileSystem.h"
 #include "xlsx/package/MemoryStream.h"
 #include "xlsx/package/Namespaces.h"
 #include "xlsx/package/PackageError.h"
+#include "xlsx/package/WorkbookKind.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
@@ -86,6 +90,24 @@ std::string PercentEncoded(std::string_view name) {
   return text;
 }
 
+/// A file that is gone when it is closed.
+class ScratchFile {
+ public:
+  ScratchFile() : file_(file_system::OpenScratch()) {
+    if (file_ < 0) {
+      throw PackageError(std::string("there is no room for a temporary file: ") + std::strerror(errno));
+    }
+  }
+  ~ScratchFile() { file_system::Close(file_); }
+  ScratchFile(const ScratchFile&) = delete;
+  ScratchFile& operator=(const ScratchFile&) = delete;
+  int Descriptor() const { return file_; }
+
+ private:
+  int file_;
+};
+constexpr std::size_t kCopiedBlock = 256 * 1024;
+
 }  // namespace
 
 /// Bytes are held only of a part that is new or changed; of any other there is the entry in the archive.
@@ -124,11 +146,18 @@ Package Package::Open(const std::string& path) {
     package.parts_.push_back(std::move(part));
   }
   package.contentTypesChanged_ = package.changed_ = false;
-  if (!package.Has(kContentTypes)) {
-    throw PackageError("it is not an Office document: it has no content types");
-  }
+  if (!package.Has(kContentTypes)) package.ThrowForeignFormat();
   InPart(kContentTypes, [&] { package.ParseContentTypes(package.Read(kContentTypes)); });
   return package;
+}
+
+void Package::ThrowForeignFormat() const {
+  if (Has("/mimetype") && Read("/mimetype").starts_with("application/vnd.oasis.opendocument")) {
+    throw OtherFormat("an OpenDocument file, such as .ods");
+  }
+  if (Has("/Index/Document.iwa") || Has("/Index.zip"))
+    throw OtherFormat("a spreadsheet of Numbers (.numbers)");
+  throw PackageError("it is not an Office document: it has no content types");
 }
 
 void Package::ParseContentTypes(std::string_view bytes) {
@@ -240,6 +269,10 @@ void Package::Replace(std::string_view part, std::string bytes) {
 
 void Package::Add(std::string_view part, std::string_view contentType, std::string bytes) {
   Put(part, std::move(bytes));
+  SetContentType(part, contentType);
+}
+
+void Package::SetContentType(std::string_view part, std::string_view contentType) {
   if (ContentType(part) == contentType) return;
   pugi::xml_node& type = overrides_[Folded(part)];  // a part that was here once may have left it behind
   if (!type) type = xml::AppendChild(xml::Root(*contentTypes_), "Override");
@@ -391,22 +424,8 @@ std::vector<std::string> Package::RemoveRelationship(std::string_view source, st
 }
 
 void Package::Save(const std::string& path) {
-  if (contentTypesChanged_) Replace(kContentTypes, xml::Serialize(*contentTypes_));
   AtomicFile file(path);
-  ArchiveWriter writer(file.TemporaryPath());
-  for (const auto& part : parts_) {
-    if (part->bytes) {
-      const bool stored = part->entry && archive_->Entries()[*part->entry].method == 0;
-      writer.Add(part->entry                   ? archive_->Entries()[*part->entry].name
-                 : part->name == kContentTypes ? part->name.substr(1)  // no part, and so by its own name
-                                               : PercentEncoded(part->name.substr(1)),
-                 *part->bytes, !stored);
-    } else {
-      writer.Copy(*archive_, *part->entry);
-    }
-  }
-  if (archive_) writer.CopyComment(*archive_);
-  writer.Finish();
+  Write(file.Descriptor());
   Commit(file, path);
 }
 
@@ -433,6 +452,37 @@ void Package::Commit(AtomicFile& file, const std::string& path) {
     return;  // the workbook is saved; only what is yet to be read of it can't be
   }
   for (std::size_t i = 0; i < parts_.size(); ++i) parts_[i]->entry = i;
+}
+
+void Package::Save(std::ostream& out) {
+  const ScratchFile scratch;
+  Write(scratch.Descriptor());
+  std::vector<char> block(kCopiedBlock);
+  for (std::uint64_t position = 0;;) {
+    const auto count = file_system::ReadAt(scratch.Descriptor(), block.data(), block.size(), position);
+    if (count < 0) throw PackageError("its temporary file can't be read again");
+    if (count == 0) break;
+    out.write(block.data(), static_cast<std::streamsize>(count));
+    position += static_cast<std::uint64_t>(count);
+  }
+}
+
+void Package::Write(int descriptor) {
+  if (contentTypesChanged_) Replace(kContentTypes, xml::Serialize(*contentTypes_));
+  ArchiveWriter writer(descriptor);
+  for (const auto& part : parts_) {
+    if (part->bytes) {
+      const bool stored = part->entry && archive_->Entries()[*part->entry].method == 0;
+      writer.Add(part->entry                   ? archive_->Entries()[*part->entry].name
+                 : part->name == kContentTypes ? part->name.substr(1)  // no part, and so by its own name
+                                               : PercentEncoded(part->name.substr(1)),
+                 *part->bytes, !stored);
+    } else {
+      writer.Copy(*archive_, *part->entry);
+    }
+  }
+  if (archive_) writer.CopyComment(*archive_);
+  writer.Finish();
 }
 
 std::string ResolveTarget(std::string_view source, std::string_view target) {

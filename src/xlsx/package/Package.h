@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <ostream>
 #include <pugixml.hpp>
 #include <set>
 #include <string>
@@ -50,6 +51,7 @@ class Package {
   /// Replaces the bytes of a part that is there.
   void Replace(std::string_view part, std::string bytes);
   void Add(std::string_view part, std::string_view contentType, std::string bytes);
+  void SetContentType(std::string_view part, std::string_view contentType);
   /// The first unused part name of the form prefix, number, suffix; numbers from 1.
   std::string FreeName(std::string_view prefix, std::string_view suffix) const;
 
@@ -66,9 +68,11 @@ class Package {
   std::vector<std::string> RemoveRelationship(std::string_view part, std::string_view id);
 
   bool Changed() const { return changed_; }
-  /// Writes the package to a new file beside `path`, and then puts that in the place of `path`: whoever looks
+  /// Writes the package to a new file beside `path`, and then puts that in the place of `path`: who looks
   /// finds the old file or the new one, whole. The file keeps its permissions; a link keeps pointing at it.
   void Save(const std::string& path);
+  /// Writes the package to a stream. It is complete before the stream gets its first byte.
+  void Save(std::ostream& out);
 
  private:
   struct Part;
@@ -79,8 +83,12 @@ class Package {
   std::set<std::string> Closure(const std::string& part) const;
   /// Those of the closure that no part outside of it refers to, directly or through others.
   std::set<std::string> OnlyThrough(const std::string& part) const;
+  /// Into an empty file.
+  void Write(int descriptor);
   /// Takes a part out, with its relationships and its content type.
   void Remove(const std::string& part);
+  /// Says what a zip archive without content types is.
+  [[noreturn]] void ThrowForeignFormat() const;
   void ParseContentTypes(std::string_view bytes);
   void Commit(AtomicFile& file, const std::string& path);
 

@@ -105,7 +105,7 @@ class ReadFile final : public ZipFile {
     zip_uint64_t done = 0;
     while (done < length && position_ < size_) {
       if (position_ < blockAt_ || position_ >= blockAt_ + block_.size()) {
-        block_.resize(kBlock);
+        block_.resize(std::min<std::uint64_t>(kBlock, size_ - position_));
         const auto count = file_system::ReadAt(file_, block_.data(), block_.size(), position_);
         if (count < 0) return Fail(ZIP_ER_READ);
         block_.resize(static_cast<std::size_t>(count));
@@ -205,6 +205,10 @@ zip_source_t* OpenZipFile(const std::string& path) {
 
 zip_source_t* CreateZipFile(const std::string& path) {
   return MakeSource(std::make_unique<WriteFile>(file_system::OpenToWrite(path)));
+}
+
+zip_source_t* CreateZipFile(int descriptor) {
+  return MakeSource(std::make_unique<WriteFile>(file_system::Duplicate(descriptor)));
 }
 
 }  // namespace plotsmith::xlsx

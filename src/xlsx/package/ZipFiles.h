@@ -12,5 +12,7 @@ namespace plotsmith::xlsx {
 zip_source_t* OpenZipFile(const std::string& path);
 /// A file to write anew, in place and in one go; what a failure leaves of it is the caller's to remove.
 zip_source_t* CreateZipFile(const std::string& path);
+/// The same of an empty file that is open for writing; the descriptor stays the caller's.
+zip_source_t* CreateZipFile(int descriptor);
 
 }  // namespace plotsmith::xlsx

@@ -1,6 +1,9 @@
 #include "xlsx/sheet/IsoDate.h"
 
 #include <chrono>
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
 
 #include "xlsx/package/Xml.h"
 
@@ -39,7 +42,63 @@ std::optional<double> TakeTime(std::string_view& text) {
   return (*hour * 3600 + *minute * 60 + second) / 86400;
 }
 
+constexpr std::int64_t kSecond = 1000;  // milliseconds
+constexpr std::int64_t kMinute = 60 * kSecond;
+constexpr std::int64_t kHour = 60 * kMinute;
+constexpr std::int64_t kDay = 24 * kHour;
+
+std::string TwoDigits(std::int64_t number) { return (number < 10 ? "0" : "") + std::to_string(number); }
+
+/// ".5", without zeros at its end; empty for a whole second.
+std::string FractionText(std::int64_t milliseconds) {
+  if (milliseconds == 0) return {};
+  std::string digits = std::to_string(kSecond + milliseconds).substr(1);
+  digits.erase(digits.find_last_not_of('0') + 1);
+  return "." + digits;
+}
+
+std::string TimeText(std::int64_t ofDay) {
+  return TwoDigits(ofDay / kHour) + ":" + TwoDigits(ofDay % kHour / kMinute) + ":" +
+         TwoDigits(ofDay % kMinute / kSecond) + FractionText(ofDay % kSecond);
+}
+
+/// Parts that are zero are left out.
+std::string DurationText(std::int64_t milliseconds) {
+  const std::int64_t rest = std::abs(milliseconds);
+  std::string text = milliseconds < 0 ? "-PT" : "PT";
+  if (rest >= kHour) text += std::to_string(rest / kHour) + "H";
+  if (rest % kHour >= kMinute) text += std::to_string(rest % kHour / kMinute) + "M";
+  if (rest % kMinute > 0 || rest == 0) {
+    text += std::to_string(rest % kMinute / kSecond) + FractionText(rest % kSecond) + "S";
+  }
+  return text;
+}
+
+/// Empty for a day that the system doesn't have.
+std::string DateText(std::int64_t day, DateSystem dates) {
+  using namespace std::chrono;
+  const bool is1900 = dates == DateSystem::k1900;
+  std::int64_t serial = day + SerialOffset(dates);
+  if (day < (is1900 ? 1 : 0) || serial > kLastSerial || (is1900 && serial == kPhantomLeapDay)) return {};
+  if (is1900 && serial < kPhantomLeapDay) ++serial;
+  const year_month_day date(sys_days(days(serial - kSerialOf1970)));
+  return std::to_string(static_cast<int>(date.year())) + "-" +
+         TwoDigits(static_cast<unsigned>(date.month())) + "-" + TwoDigits(static_cast<unsigned>(date.day()));
+}
+
 }  // namespace
+
+std::string IsoText(double serial, DateFields fields, DateSystem dates) {
+  // the last day that any format shows; also keeps the product below within its type
+  if (fields == DateFields::kNone || !(std::fabs(serial) <= kLastSerial + 1)) return {};
+  const auto milliseconds = static_cast<std::int64_t>(std::llround(serial * static_cast<double>(kDay)));
+  if (fields == DateFields::kDuration) return DurationText(milliseconds);
+  if (milliseconds < 0) return {};
+  if (fields == DateFields::kTime) return TimeText(milliseconds % kDay);
+  const std::string date = DateText(milliseconds / kDay, dates);
+  if (fields == DateFields::kDate || date.empty()) return date;
+  return date + "T" + TimeText(milliseconds % kDay);
+}
 
 std::optional<double> ParseIsoDate(std::string_view text, DateSystem dates) {
   using namespace std::chrono;

@@ -15,7 +15,6 @@ namespace plotsmith::xlsx {
 namespace {
 
 constexpr double kPointsPerPixel = 0.75;  // at 96 dots an inch
-constexpr double kDefaultRowHeight = 15;
 constexpr int kDefaultCharacters = 8;
 // What a file says beyond these (Excel's limits) is no size.
 constexpr double kMostCharacters = 255, kMostRowHeight = 409.5, kMostFontSize = 409;

@@ -9,6 +9,9 @@ namespace plotsmith::xlsx {
 
 class Styles;
 
+/// The height of rows of a sheet that doesn't say it, in points.
+inline constexpr double kDefaultRowHeight = 15;
+
 /// Where the lines between columns, or rows, of a sheet lie. Indices count from 0, as anchors do; distances
 /// are points.
 class GridLines {

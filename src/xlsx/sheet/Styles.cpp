@@ -208,14 +208,18 @@ pugi::xml_node Styles::EntryAt(std::string_view list, std::string_view local, lo
   return known ? found[static_cast<std::size_t>(index)] : pugi::xml_node();
 }
 
-pugi::xml_node Styles::FontOf(std::uint32_t style) const {
+pugi::xml_node Styles::EntryOf(std::uint32_t style, const char* attribute, std::string_view list,
+                               std::string_view local) const {
   const auto node = style < cellStyles_.size() ? cellStyles_[style].node : pugi::xml_node();
-  return EntryAt("fonts", "font", xml::IntegerAttribute(node, "fontId", 0));
+  return EntryAt(list, local, xml::IntegerAttribute(node, attribute, 0));
 }
 
-pugi::xml_node Styles::FillOf(std::uint32_t style) const {
-  const auto node = style < cellStyles_.size() ? cellStyles_[style].node : pugi::xml_node();
-  return EntryAt("fills", "fill", xml::IntegerAttribute(node, "fillId", 0));
+pugi::xml_node Styles::FontOf(std::uint32_t style) const { return EntryOf(style, "fontId", "fonts", "font"); }
+
+pugi::xml_node Styles::FillOf(std::uint32_t style) const { return EntryOf(style, "fillId", "fills", "fill"); }
+
+pugi::xml_node Styles::BorderOf(std::uint32_t style) const {
+  return EntryOf(style, "borderId", "borders", "border");
 }
 
 pugi::xml_node Styles::AlignmentOf(std::uint32_t style) const {

@@ -29,11 +29,12 @@ class Styles {
   /// The style that is like `base` but has the number format, made if need be. The code must be valid.
   std::uint32_t WithFormat(std::uint32_t base, std::string_view code);
 
-  /// The elements that say how a cell of a style looks (CT_Font, CT_Fill, CT_CellAlignment); null nodes where
-  /// there are none.
+  /// The elements that say how a cell of a style looks (CT_Font, CT_Fill, CT_Border, CT_CellAlignment); null
+  /// nodes where there are none.
   ///@{
   pugi::xml_node FontOf(std::uint32_t style) const;
   pugi::xml_node FillOf(std::uint32_t style) const;
+  pugi::xml_node BorderOf(std::uint32_t style) const;
   pugi::xml_node AlignmentOf(std::uint32_t style) const;
   ///@}
 
@@ -66,6 +67,9 @@ class Styles {
 
   pugi::xml_node Root() const;
   pugi::xml_node NormalFont() const;
+  /// The entry of one of the part's lists that a cell style names by an attribute.
+  pugi::xml_node EntryOf(std::uint32_t style, const char* attribute, std::string_view list,
+                         std::string_view local) const;
   /// An entry of one of the part's lists, from 0; a null node outside.
   pugi::xml_node EntryAt(std::string_view list, std::string_view local, long long index) const;
   std::string CodeOf(int formatId) const;

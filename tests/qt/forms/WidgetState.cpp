@@ -53,6 +53,15 @@ void Read(const QTableWidget& table, ControlState& state) {
   }
 }
 
+/// Whether the widget is in the colour of the mark. What can be typed into or chosen from has a colour of its
+/// own, although the widget inherits the role of the frame around it.
+bool IsMarked(const QWidget& widget) {
+  const bool hasFrameColor = qobject_cast<const QGroupBox*>(&widget) != nullptr ||
+                             qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+                             qobject_cast<const QLabel*>(&widget) != nullptr;
+  return hasFrameColor && widget.backgroundRole() == QPalette::ToolTipBase;
+}
+
 ControlState Read(const QWidget& widget) {
   ControlState state;
   state.name = TextOf(widget.objectName());
@@ -60,8 +69,7 @@ ControlState Read(const QWidget& widget) {
   state.enabled = widget.isEnabled();
   state.visible = widget.isVisible();
   state.focus = widget.window()->focusWidget() == &widget;
-  state.backColor =
-      widget.backgroundRole() == QPalette::ToolTipBase ? forms::kToolTipBackground : forms::kButtonFace;
+  state.backColor = IsMarked(widget) ? forms::kToolTipBackground : forms::kButtonFace;
   if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
     state.caption = TextOf(button->text());
     if (button->isCheckable()) state.value = button->isChecked();

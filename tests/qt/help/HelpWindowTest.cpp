@@ -17,6 +17,8 @@
 #include "forms/ModalLoop.h"
 #include "qt/help/HelpWindow.h"
 
+#include "tests/support/Paths.h"
+
 namespace plotsmith::qt {
 namespace {
 
@@ -47,7 +49,7 @@ class HelpWindowTest : public testing::Test {
 };
 
 TEST_F(HelpWindowTest, EachPageIsThereWithItsPictures) {
-  const auto topics = ReadHelpTopics(PLOTSMITH_SOURCE_DIR "/docs/help");
+  const auto topics = ReadHelpTopics(QString(test::kSourceFolder) + "/docs/help");
   ASSERT_EQ(topics.size(), 13u);
   std::set<std::int32_t> numbers;
   for (const HelpTopic& topic : topics) {
@@ -71,7 +73,7 @@ TEST_F(HelpWindowTest, EachPageIsThereWithItsPictures) {
         const auto format = part.fragment().charFormat().toImageFormat();
         if (!format.isValid()) continue;
         const QUrl address = Text().source().resolved(QUrl(format.name()));
-        const bool isMade = QFile::exists(PLOTSMITH_SOURCE_DIR + address.path());
+        const bool isMade = QFile::exists(test::kSourceFolder + address.path());
         const bool isBuiltIn = QFile::exists(":" + address.path());
         EXPECT_EQ(isBuiltIn, isMade) << format.name().toStdString();
         EXPECT_EQ(QImage(":" + address.path()).isNull(), !isBuiltIn);

@@ -4,6 +4,7 @@
 
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
+#include "tests/support/Paths.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/package/Package.h"
 
@@ -92,6 +93,52 @@ TEST_F(ChartFamiliesTest, APieThatSomebodyDressedComesOutOfARefreshAsItWentIn) {
   EXPECT_TRUE(Has(solid, "<c:view3D><c:rotX val=\"30\"/><c:rotY val=\"0\"/>"))
       << "a column's view is no pie's";
   EXPECT_FALSE(Has(solid, "floor"));
+}
+
+/// A stock chart has three or four series; of any other number it is a line chart with the same look.
+TEST_F(ChartFamiliesTest, AStockChartOfAnotherNumberOfSeriesIsALineChart) {
+  const auto stock = [](int count) {
+    S series;
+    for (int i = 0; i < count; ++i) {
+      const S n = std::to_string(i);
+      series += "<c:ser><c:idx val=\"" + n + "\"/><c:order val=\"" + n + "\"/></c:ser>";
+    }
+    return Part("<c:plotArea><c:stockChart>" + series +
+                "<c:hiLowLines/><c:upDownBars/><c:axId val=\"1\"/><c:axId val=\"2\"/></c:stockChart>"
+                "<c:catAx><c:axId val=\"1\"/><c:scaling/><c:axPos val=\"b\"/><c:crossAx val=\"2\"/></c:catAx>"
+                "<c:valAx><c:axId val=\"2\"/><c:scaling/><c:axPos val=\"l\"/><c:crossAx val=\"1\"/></c:valAx>"
+                "</c:plotArea>");
+  };
+  const auto remove = [](int count) {
+    return [count](Chart& chart) {
+      for (int i = 0; i < count; ++i) chart.SeriesCollection()->Item(1)->Delete();
+    };
+  };
+  const auto add = [](Chart& chart) { chart.SeriesCollection()->NewSeries(); };
+  const struct {
+    int before;
+    std::function<void(Chart&)> change;
+    const char* group;
+    std::size_t series;
+  } cases[] = {{3, remove(1), "lineChart", 2},  {3, remove(3), "lineChart", 0},
+               {4, remove(1), "stockChart", 3}, {4, add, "lineChart", 5},
+               {3, add, "stockChart", 4},       {0, add, "lineChart", 1}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(std::to_string(c.before) + " to " + std::to_string(c.series));
+    const S after = After(stock(c.before), c.change);
+    EXPECT_TRUE(Has(after, S("</c:") + c.group + ">")) << after;
+    EXPECT_EQ(CountOf(after, "<c:ser>"), c.series);
+    EXPECT_TRUE(Has(after, "<c:hiLowLines/><c:upDownBars/>")) << after;
+    if (c.group == S("lineChart")) Sound(stock(c.before), c.change);
+  }
+}
+
+TEST_F(ChartFamiliesTest, AChartWithoutAGroupIsWrittenWithAnEmptyOne) {
+  const S after = Sound(kNothing, [](Chart& chart) { chart.SetHasTitle(false); });
+  EXPECT_EQ(CountOf(after, "<c:delete val=\"1\"/>"), 2u) << after;
+  EXPECT_EQ(CountOf(after, "<c:ser>"), 0u);
+  const S drawn = Sound(after, [](Chart& chart) { AddOfType(chart, excel::xlColumnClustered); });
+  EXPECT_EQ(CountOf(drawn, "<c:delete val=\"0\"/>"), 2u) << drawn;
 }
 
 TEST_F(ChartFamiliesTest, AxesComeBackFromTypesWithoutThem) {
@@ -269,7 +316,7 @@ TEST_F(ChartFamiliesTest, ColumnsAndALineShareTheirAxes) {
 
 TEST_F(ChartFamiliesTest, ChartsOfOthersGoThroughAllFamilies) {
   std::error_code absent;
-  const auto folder = std::filesystem::path(PLOTSMITH_CORPUS_DIR) / "charts";
+  const auto folder = std::filesystem::path(test::kCorpusFolder) / "charts";
   if (!std::filesystem::is_directory(folder, absent)) GTEST_SKIP() << "the corpus isn't there";
   const auto mix = [](Chart& chart) {
     DeleteSeries(chart);

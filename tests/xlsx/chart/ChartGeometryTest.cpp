@@ -60,7 +60,8 @@ TEST_F(ChartGeometryTest, TitlesTakeTheRoomThatTheirTextTakes) {
   const S run = "<a:r><a:rPr sz=\"2000\"/><a:t>";
   const S plain = "<c:txPr><a:bodyPr/><a:p><a:pPr><a:defRPr b=\"0\"/></a:pPr></a:p></c:txPr>";
   const auto depth = [&](const S& text, const S& behind) {
-    return OpenChart(test::ChartPartXml(title(text) + "<c:plotArea/>", behind))->PlotArea()->Top() - 7 - 7.2;
+    return OpenChart(test::ChartPartXml(title(text) + "<c:plotArea/>", behind))->PlotArea()->Top() - 7 - 7.2 -
+           5;
   };
   const double line = 20 * 1.2207;
   EXPECT_NEAR(depth("<a:p>" + run + letters + "</a:t></a:r></a:p>", ""), 2 * line, 0.01)
@@ -124,7 +125,7 @@ TEST_F(ChartGeometryTest, ThePlotAreaIsWhereItsLayoutSaysOrWhatTheOthersLeave) {
     return "<c:layout><c:manualLayout>" + content + "</c:manualLayout></c:layout>";
   };
   const S edges = "<c:xMode val=\"edge\"/><c:yMode val=\"edge\"/>";
-  const double line = 12.207, titleDepth = 20 * 1.2207 + 7.2;
+  const double line = 12.207, titleDepth = 20 * 1.2207 + 7.2 + 5;
   // 1250 in Calibri 10, and a gap
   const double labels = 4 * 5.07 + 5;
   const double entry = 0.01 * (890 + 229 + 525 + 471 + 498 + 335 + 391 - 4.0) + 24 + 8;

@@ -178,7 +178,7 @@ TEST_F(ChartShapesTest, ALegendIsDrawnBesideThePlotArea) {
         "<cdr:cNvPr id=\"4\" name=\"Beta Two Text\" descr=\"VEX_LS_Beta Two Text\"/><cdr:cNvSpPr "
         "txBox=\"1\"/>",
         "<a:bodyPr vertOverflow=\"clip\" wrap=\"none\" rtlCol=\"0\" tIns=\"0\" "
-        "anchor=\"t\"><a:spAutoFit/></a:bodyPr>",
+        "anchor=\"t\" lIns=\"27432\" rIns=\"27432\"><a:noAutofit/></a:bodyPr>",
         "<a:pPr algn=\"l\"/><a:r><a:rPr lang=\"en-US\" sz=\"900\" b=\"0\"><a:solidFill><a:srgbClr "
         "val=\"FF0000\"/></a:solidFill><a:latin typeface=\"Arial\"/><a:cs "
         "typeface=\"Arial\"/></a:rPr><a:t>Alpha</a:t></a:r>",
@@ -349,13 +349,20 @@ TEST_F(ChartShapesTest, ABoxFollowsItsTextUntilItIsSized) {
   EXPECT_NEAR(box->Height(), 7.2 + 2 * 1.2207 * 22, 0.001);
   box->TextFrame2()->SetMarginTop(0);
   EXPECT_NEAR(box->Height(), 3.6 + 2 * 1.2207 * 22, 0.001);
-  box->SetHeight(18);
-  box->SetWidth(30);
-  EXPECT_EQ(box->Height(), 18);
-  EXPECT_EQ(box->Width(), 30);
+  const double widest = box->Width();
   box->TextFrame2()->SetWordWrap(true);
-  EXPECT_EQ(box->Width(), 30) << "wrapped text has a width to keep to";
+  EXPECT_EQ(box->Width(), widest) << "wrapped text has a width to keep to";
+  box->SetWidth(30);
+  EXPECT_EQ(box->Width(), 30);
+  box->TextFrame2()->SetAutoSize(1);
   EXPECT_NEAR(box->Height(), 3.6 + 4 * 1.2207 * 22, 0.001) << "a word a line";
+  box->SetHeight(18);
+  box->TextFrame()->Characters()->SetText("Other sales\nof another year");
+  box->TextFrame2()->SetWordWrap(false);
+  SaveAndReopen();
+  const auto again = Chart()->Shapes()->Item(1);
+  EXPECT_NEAR(again->Width(), 30, 0.001) << "the text no longer decides";
+  EXPECT_NEAR(again->Height(), 18, 0.001);
 }
 
 TEST_F(ChartShapesTest, StretchesOfATextHaveTheirOwnFont) {

@@ -12,6 +12,8 @@
 
 #include "xlsx/numberformat/NumberFormat.h"
 
+#include "tests/support/Paths.h"
+
 namespace plotsmith::xlsx {
 namespace {
 
@@ -486,11 +488,6 @@ TEST(NumberFormatTest, SurvivesAnyCodeAndValue) {
   EXPECT_LT(out.size(), 1'000'000u);
 }
 
-#ifdef PLOTSMITH_CORPUS_DIR
-constexpr const char* kCorpus = PLOTSMITH_CORPUS_DIR;
-#else
-constexpr const char* kCorpus = "";
-#endif
 
 /// Where Excel shows something else than the collection says.
 struct CorpusException {
@@ -527,7 +524,7 @@ std::string ShowCorpusCase(const std::vector<std::string>& fields) {
 }
 
 TEST(NumberFormatTest, CollectedCases) {
-  std::ifstream file(std::filesystem::path(kCorpus) / "number_formats.tsv");
+  std::ifstream file(std::filesystem::path(test::kCorpusFolder) / "number_formats.tsv");
   if (!file) GTEST_SKIP() << "The collection of number format cases (number_formats.tsv) isn't here.";
   std::string line;
   std::getline(file, line);  // the names of the columns

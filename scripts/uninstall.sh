@@ -1,0 +1,18 @@
+#!/bin/sh
+# Removes what the last installation put in place, by the list that it left; DESTDIR as it was then.
+# Usage: scripts/uninstall.sh [LIST]
+set -eu
+cd "$(dirname "$0")/.."
+list=${1:-build/install_manifest.txt}
+if [ ! -f "$list" ]; then
+  echo "There is no list of installed files in $list." >&2
+  exit 1
+fi
+root=${DESTDIR:-}
+while IFS= read -r file || [ -n "$file" ]; do
+  rm -f -- "$root$file"
+done <"$list"
+# The folder of the pages is the only one that belongs to nothing else.
+sed -n 's|^\(.*/doc/plotsmith\)/.*|\1|p' "$list" | sort -u | while IFS= read -r folder; do
+  if [ -d "$root$folder" ]; then find "$root$folder" -depth -type d -empty -delete; fi
+done

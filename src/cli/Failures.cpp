@@ -1,0 +1,29 @@
+#include "cli/Failures.h"
+
+#include <exception>
+#include <string>
+
+#include "cli/Command.h"
+#include "xlsx/package/PackageError.h"
+
+namespace plotsmith::cli {
+
+int Guarded(std::ostream& err, const std::function<int()>& work) {
+  const auto fail = [&](const std::string& sentence, int code) {
+    err << "plotsmith: " << sentence << '\n';
+    return code;
+  };
+  try {
+    return work();
+  } catch (const CLI::ParseError& e) {
+    return fail(std::string(e.what()) + " (try plotsmith --help)", exit_code::kUsage);
+  } catch (const CommandError& e) {
+    return fail(e.what(), e.ExitCode());
+  } catch (const xlsx::PackageError& e) {
+    return fail(e.what(), exit_code::kFile);
+  } catch (const std::exception& e) {
+    return fail(std::string("something went wrong: ") + e.what(), exit_code::kFile);
+  }
+}
+
+}  // namespace plotsmith::cli

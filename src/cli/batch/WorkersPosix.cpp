@@ -1,0 +1,216 @@
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdint>
+#include <cstring>
+#include <ctime>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <system_error>
+#include <thread>
+#include <unistd.h>
+#include <utility>
+#include <vector>
+
+#include "cli/batch/Workers.h"
+
+namespace plotsmith::cli {
+namespace {
+
+constexpr std::size_t kNoTask = static_cast<std::size_t>(-1);
+constexpr std::array<int, 2> kStopSignals = {SIGINT, SIGTERM};
+
+volatile std::sig_atomic_t stopSignal = 0;
+
+void NoteSignal(int signal) { stopSignal = signal; }
+
+/// Notes the signals that are to stop the work, and lets them in only while WaitFor sleeps, so that none is
+/// missed.
+class SignalWatch {
+ public:
+  SignalWatch() {
+    stopSignal = 0;
+    struct sigaction action {};
+    action.sa_handler = NoteSignal;
+    sigemptyset(&watched_);
+    for (std::size_t i = 0; i < kStopSignals.size(); ++i) {
+      sigaction(kStopSignals[i], &action, &old_[i]);
+      sigaddset(&watched_, kStopSignals[i]);
+    }
+    sigprocmask(SIG_BLOCK, &watched_, &oldMask_);
+  }
+  ~SignalWatch() { Leave(); }
+  SignalWatch(const SignalWatch&) = delete;
+  SignalWatch& operator=(const SignalWatch&) = delete;
+
+  /// Puts everything back as it was, in a worker too.
+  void Leave() {
+    for (std::size_t i = 0; i < kStopSignals.size(); ++i) sigaction(kStopSignals[i], &old_[i], nullptr);
+    sigprocmask(SIG_SETMASK, &oldMask_, nullptr);
+  }
+  void WaitFor(std::vector<pollfd>& files) const { ppoll(files.data(), files.size(), nullptr, &oldMask_); }
+  /// The signal that is to stop the work, or 0. An interrupt reaches the workers as well, and may end them
+  /// before WaitFor has let it in here.
+  int Stopped() const {
+    const timespec atOnce{};
+    const int waiting = stopSignal == 0 ? sigtimedwait(&watched_, nullptr, &atOnce) : 0;
+    if (waiting > 0) stopSignal = waiting;
+    return stopSignal;
+  }
+
+ private:
+  std::array<struct sigaction, kStopSignals.size()> old_{};
+  sigset_t watched_{};
+  sigset_t oldMask_{};
+};
+
+bool ReadAll(int file, void* data, std::size_t size) {
+  for (auto* at = static_cast<char*>(data); size > 0;) {
+    const ssize_t count = read(file, at, size);
+    if (count < 0 && errno == EINTR) continue;
+    if (count <= 0) return false;
+    at += count;
+    size -= static_cast<std::size_t>(count);
+  }
+  return true;
+}
+
+/// False if the other end is gone, without the signal that a write to it would raise.
+bool SendAll(int file, const void* data, std::size_t size) {
+  for (const auto* at = static_cast<const char*>(data); size > 0;) {
+    const ssize_t count = send(file, at, size, MSG_NOSIGNAL);
+    if (count < 0 && errno == EINTR) continue;
+    if (count <= 0) return false;
+    at += count;
+    size -= static_cast<std::size_t>(count);
+  }
+  return true;
+}
+
+/// A worker process as this one sees it.
+struct Worker {
+  pid_t process = 0;
+  int file = -1;
+  std::size_t task = kNoTask;  ///< the one that it is at
+};
+
+/// The life of a worker: reads the number of a task, does it, sends the length of the report and the report.
+/// Ends when the parent closes its end, or is gone.
+[[noreturn]] void Work(int file, const std::function<std::string(std::size_t)>& run) {
+  for (std::uint64_t task = 0; ReadAll(file, &task, sizeof task);) {
+    const std::string report = run(static_cast<std::size_t>(task));
+    const std::uint64_t size = report.size();
+    if (!SendAll(file, &size, sizeof size) || !SendAll(file, report.data(), report.size())) break;
+  }
+  _exit(0);  // what the parent has still to write is not this process's
+}
+
+class WorkerPool {
+ public:
+  WorkerPool(const WorkerTasks& tasks, std::size_t processes) : tasks_(tasks) {
+    for (std::size_t i = 0; i < std::min(processes, tasks.count); ++i) {
+      if (!Start() && workers_.empty())
+        throw std::system_error(errno, std::generic_category(), "no process can be started");
+    }
+  }
+  ~WorkerPool() {
+    for (Worker& worker : workers_) End(worker);
+  }
+  WorkerPool(const WorkerPool&) = delete;
+  WorkerPool& operator=(const WorkerPool&) = delete;
+
+  int Run() {
+    while (!workers_.empty() && signals_.Stopped() == 0) {
+      std::vector<pollfd> files;
+      for (const Worker& worker : workers_) files.push_back({worker.file, POLLIN, 0});
+      signals_.WaitFor(files);
+      for (const pollfd& file : files) {
+        if (file.revents != 0 && signals_.Stopped() == 0) Receive(file.fd);
+      }
+    }
+    if (stopSignal != 0) {
+      for (const Worker& worker : workers_) kill(worker.process, SIGTERM);
+    }
+    return stopSignal;
+  }
+
+ private:
+  /// Starts a worker and gives it a task. False, with the reason in errno, if there can be none.
+  bool Start() {
+    std::array<int, 2> ends{};
+    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) return false;
+    const pid_t process = fork();
+    if (process == 0) {
+      signals_.Leave();
+      close(ends[0]);
+      for (const Worker& other : workers_) close(other.file);  // or the others would outlive the parent
+      Work(ends[1], tasks_.run);
+    }
+    const int reason = errno;
+    close(ends[1]);
+    if (process < 0) close(ends[0]);
+    errno = reason;
+    if (process < 0) return false;
+    workers_.push_back({process, ends[0], kNoTask});
+    GiveTask(workers_.back());
+    return true;
+  }
+
+  /// Without a task that is left, the worker is sent home.
+  void GiveTask(Worker& worker) {
+    worker.task = next_ < tasks_.count ? next_++ : kNoTask;
+    const std::uint64_t number = worker.task;
+    // a worker that can't be reached is found dead when its answer is read
+    if (worker.task == kNoTask || !SendAll(worker.file, &number, sizeof number))
+      shutdown(worker.file, SHUT_WR);
+  }
+
+  void Receive(int file) {
+    const auto worker =
+        std::find_if(workers_.begin(), workers_.end(), [&](const Worker& one) { return one.file == file; });
+    std::uint64_t size = 0;
+    TaskEnding ending;
+    bool whole = ReadAll(file, &size, sizeof size);
+    if (whole) {
+      ending.report.resize(size);
+      whole = ReadAll(file, ending.report.data(), size);
+    }
+    const std::size_t task = worker->task;
+    if (whole) {
+      GiveTask(*worker);
+    } else {
+      ending = {"", End(*worker)};
+      workers_.erase(worker);
+    }
+    if (task == kNoTask) return;
+    tasks_.ended(task, std::move(ending));
+    // without a new worker the others do the rest; without any of them, the run is over
+    if (!whole && next_ < tasks_.count) static_cast<void>(Start());
+  }
+
+  /// Waits for the process, which has nothing more to read. Answers how it died.
+  static std::string End(Worker& worker) {
+    close(worker.file);
+    int status = 0;
+    while (waitpid(worker.process, &status, 0) < 0 && errno == EINTR) {
+    }
+    return WIFSIGNALED(status) ? strsignal(WTERMSIG(status)) : "it left early";
+  }
+
+  const WorkerTasks& tasks_;
+  SignalWatch signals_;
+  std::vector<Worker> workers_;
+  std::size_t next_ = 0;
+};
+
+}  // namespace
+
+int RunInWorkers(const WorkerTasks& tasks, std::size_t processes) {
+  return WorkerPool(tasks, processes).Run();
+}
+
+std::size_t UsualProcesses() { return 2 * std::max<std::size_t>(1, std::thread::hardware_concurrency()); }
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,161 @@
+#include "cli/check/RunLook.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "cli/check/BubbleLabels.h"
+#include "cli/check/ReadBackCheck.h"
+#include "cli/check/SourceCheck.h"
+#include "cli/check/Words.h"
+#include "common/CommonFunctions.h"
+#include "common/PSConstants.h"
+#include "common/RunVariables.h"
+
+namespace plotsmith::cli {
+namespace {
+
+using dom::IXMLDOMElement;
+
+constexpr const char* kBubbleType = "bubble";
+
+/// How a line calls a chart: by its name, or else by its id; "" for a row without either.
+std::string Called(const std::string& id, const std::string& name) {
+  return name.empty() ? id : "'" + OneLine(name) + "'";
+}
+
+std::string Line(const std::string& place, std::vector<std::string> charts, const std::string& sentence) {
+  std::erase(charts, "");
+  if (charts.empty()) return place + ": " + sentence;
+  return place + (charts.size() == 1 ? " (chart " : " (charts ") + Listed(charts) + "): " + sentence;
+}
+
+/// Whether a chart can't be drawn for a finding: a table or a column isn't there.
+bool ForbidsDrawing(const Finding& finding) {
+  return finding.kind == FindingKind::kTable ||
+         (finding.kind == FindingKind::kColumn && finding.place.empty());
+}
+
+}  // namespace
+
+RunLook::RunLook(xlsx::Workbook& book, DefinitionsAre definitions)
+    : book_(book), definitions_(definitions), rows_(CheckRows(book)) {}
+
+std::vector<std::string> RunLook::Refusals() const {
+  std::vector<std::string> lines;
+  for (const CheckedDefinition& row : rows_) {
+    for (const Finding& finding : row.findings) {
+      if (finding.severity != Severity::kRefuses) continue;
+      lines.push_back(Line(finding.place, {Called(row.id, row.name)}, finding.sentence));
+    }
+  }
+  return lines;
+}
+
+const CheckedDefinition* RunLook::FindRow(const std::string& id) const {
+  const auto found = std::find_if(rows_.begin(), rows_.end(), [&](const CheckedDefinition& row) {
+    return row.id == id && !row.IsLost() && !row.IsUnread();
+  });
+  return found == rows_.end() ? nullptr : &*found;
+}
+
+void RunLook::ChartStarted(const std::string& id) {
+  const auto chart = colCharts->Item(id).selectSingleNode("chart");
+  Findings& findings = started_[id];
+  findings = CheckSources(book_, chart, "");
+  CompareStored();
+  if (GetAttributeText(chart, "type") == kBubbleType && HostVersion(oApplication) > kLastClassicVersion &&
+      std::none_of(findings.begin(), findings.end(), ForbidsDrawing)) {
+    bubbles_.insert(id);
+  }
+}
+
+void RunLook::CompareStored() {
+  if (definitions_ == DefinitionsAre::kEdited || !colCharts || std::exchange(compared_, true)) return;
+  const AxisTitles axisTitles =
+      definitions_ == DefinitionsAre::kRenamed ? AxisTitles::kRenamed : AxisTitles::kCompared;
+  for (const dom::IXMLDOMDocument2& document : *colCharts) {
+    const auto read = document.selectSingleNode("chart");
+    const CheckedDefinition* const row = FindRow(GetAttributeText(read, "id"));
+    if (row == nullptr) continue;
+    const auto stored = row->document.selectSingleNode("chart");
+    Findings differences = CheckReadBack(stored, read, "", axisTitles);
+    if (differences.empty() || !IsDefinitionNewer(book_, stored, row->chartPart)) continue;
+    differences_[row->id] = std::move(differences);
+  }
+}
+
+bool RunLook::IsFine() const {
+  const auto isFine = [](const auto& findings) { return findings.empty(); };
+  return bubbles_.empty() && differences_.empty() &&
+         std::all_of(rows_.begin(), rows_.end(), [&](const auto& row) { return isFine(row.findings); }) &&
+         std::all_of(started_.begin(), started_.end(),
+                     [&](const auto& chart) { return isFine(chart.second); });
+}
+
+void RunLook::CollectLost(std::vector<ChartFinding>& collected) const {
+  for (const CheckedDefinition& row : rows_) {
+    for (const Finding& finding : row.findings) {
+      if (finding.severity != Severity::kSaid) collected.push_back({finding, Called(row.id, row.name)});
+    }
+  }
+}
+
+void RunLook::CollectKept(const CheckedDefinition& row, std::vector<ChartFinding>& collected) const {
+  const auto collect = [&](Finding finding) {
+    if (finding.place.empty()) finding.place = row.place;
+    collected.push_back({std::move(finding), Called(row.id, row.name)});
+  };
+  if (row.IsUnread()) {
+    collect(row.findings.front());
+    return;
+  }
+  // All definitions are stored, also those of charts that aren't built.
+  if (const auto differences = differences_.find(row.id); differences != differences_.end()) {
+    for (const Finding& finding : differences->second) collect(finding);
+  }
+  const auto started = started_.find(row.id);
+  if (started == started_.end()) return;
+  // A load takes unknown settings off a drawn chart's definition; what a page has changed is no matter any
+  // more.
+  const CheckedDefinition* const before = definitions_ == DefinitionsAre::kEdited ? &row : FindRow(row.id);
+  if (before != nullptr) {
+    for (Finding finding : before->findings) {
+      finding.place = row.place;  // rows above may have gone
+      collect(std::move(finding));
+    }
+  }
+  for (const Finding& finding : started->second) collect(finding);
+  if (bubbles_.contains(row.id)) {
+    for (Finding& finding : CheckBubbleLabels(book_, row.document.selectSingleNode("chart"))) {
+      collect(std::move(finding));
+    }
+  }
+}
+
+std::vector<std::string> RunLook::Lines(const std::vector<ChartFinding>& collected) {
+  std::vector<std::pair<const Finding*, std::vector<std::string>>> groups;
+  for (const ChartFinding& each : collected) {
+    const auto group = std::find_if(groups.begin(), groups.end(), [&](const auto& other) {
+      return other.first->place == each.finding.place && other.first->sentence == each.finding.sentence;
+    });
+    if (group == groups.end())
+      groups.push_back({&each.finding, {each.chart}});
+    else
+      group->second.push_back(each.chart);
+  }
+  std::vector<std::string> lines;
+  for (const auto& [finding, charts] : groups)
+    lines.push_back(Line(finding->place, charts, Reported(*finding)));
+  return lines;
+}
+
+std::vector<std::string> RunLook::Finish() {
+  CompareStored();
+  if (IsFine()) return {};
+  std::vector<ChartFinding> collected;
+  CollectLost(collected);
+  for (const CheckedDefinition& row : CheckRows(book_)) CollectKept(row, collected);
+  return Lines(collected);
+}
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,197 @@
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <unistd.h>
+#include <vector>
+
+#include "cli/batch/BookBatch.h"
+#include "cli/batch/Workers.h"
+#include "runtime/Strings.h"
+#include "tests/support/HostTest.h"
+#include "tests/support/RunCommand.h"
+
+namespace plotsmith::cli {
+namespace {
+
+namespace fs = std::filesystem;
+using test::CommandResult;
+using test::RunCommand;
+using test::SalesBook;
+using S = std::string;
+
+/// A refresh of several workbooks. What is printed names them without their folder.
+class BatchTest : public ::testing::Test {
+ protected:
+  S Write(const S& name, const test::PlainBook& book) {
+    fs::create_directories(fs::path(folder_ / name).parent_path());
+    book.Write(folder_ / name);
+    return folder_ / name;
+  }
+  S Write(const S& name) { return Write(name, SalesBook({{"VEX_Chart1"}})); }
+  /// One with a chart that is drawn and one whose table is gone.
+  S WriteHalf(const S& name) {
+    auto book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "column", "table-id=\"Gone\""}});
+    book.Sheet("Charts").frames[1].alternativeText = "VEX_Chart2";
+    return Write(name, book);
+  }
+  static S Bytes(const S& path) {
+    std::ifstream file(path, std::ios::binary);
+    return S((std::istreambuf_iterator<char>(file)), {});
+  }
+  /// Whether the chart of a workbook is drawn.
+  static bool IsDrawn(const S& path) { return RunCommand({"charts", path}).out.ends_with("\n  ok\n"); }
+  S Plain(const S& text) const { return runtime::Replace(text, folder_.Path().string() + "/", ""); }
+
+  test::TempFolder folder_;
+};
+
+TEST_F(BatchTest, OneThatFailsDoesNotStopTheOthers) {
+  const S first = Write("a.xlsx"), half = WriteHalf("b.xlsx"), none = folder_ / "none.xlsx",
+          text = folder_ / "text.xlsx", last = Write("z.xlsx");
+  std::ofstream(text) << "hello";
+  const S gone =
+      "Brindle Plotsmith: Chart 'Name of VEX_Chart2' has become unavailable because its source table no "
+      "longer "
+      "exists in this workbook.\n";
+  const S said =
+      "b.xlsx: " + gone +
+      "none.xlsx: plotsmith: can't read \"none.xlsx\": there is no such file.\n"
+      "text.xlsx: plotsmith: can't read \"text.xlsx\": it is a text file, such as .csv; save it as "
+      ".xlsx first, as only .xlsx, .xlsm, .xltx and .xltm can be read.\n";
+  for (const S jobs : {"1", "2", "9"}) {
+    Write("a.xlsx"), WriteHalf("b.xlsx"), Write("z.xlsx");
+    // messages come in the order of the arguments, whichever workbook is done first
+    const CommandResult result =
+        RunCommand({"refresh", first, half, none, text, last, first, "--jobs", jobs});
+    EXPECT_EQ(result.code, 3) << "the worst";
+    EXPECT_EQ(Plain(result.err), said);
+    EXPECT_EQ(result.out, "");
+    EXPECT_TRUE(IsDrawn(first) && IsDrawn(last)) << jobs;
+  }
+  const CommandResult verbose = RunCommand({"refresh", first, half, none, "--verbose"});
+  EXPECT_EQ(Plain(verbose.err), "a.xlsx: 1 chart refreshed\nb.xlsx: " + gone +
+                                    "b.xlsx: 1 chart refreshed, 1 unavailable\n"
+                                    "none.xlsx: plotsmith: can't read \"none.xlsx\": there is no such file.\n"
+                                    "3 workbooks: 2 charts refreshed, 1 unavailable, 1 workbook failed\n");
+  const CommandResult watched = RunCommand({"refresh", first, last}, "", test::Watched::kMessages);
+  EXPECT_EQ(watched.code, 0);
+  EXPECT_TRUE(watched.err.starts_with("Refreshed 1 of 2 workbooks ...\r")) << watched.err;
+  EXPECT_TRUE(watched.err.ends_with("\r2 workbooks: 2 charts refreshed\n")) << watched.err;
+}
+
+TEST_F(BatchTest, OptionsHoldForEachWorkbook) {
+  auto two = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "column", "table-id=\"Data2\""}});
+  two.sheets.push_back(test::SalesSheet("Data2"));
+  const S both = Write("both.xlsx", two), one = Write("one.xlsx");
+  const CommandResult table = RunCommand({"refresh", both, one, "--table", "Data2", "--journal"});
+  EXPECT_EQ(table.code, 2) << "the second has no such table";
+  EXPECT_EQ(
+      Plain(table.err),
+      "one.xlsx: plotsmith: \"one.xlsx\" has no table \"Data2\" (plotsmith tables lists those it has).\n");
+  EXPECT_EQ(RunCommand({"cells", both, "VEX_ChartData!A1:A4"}).out, "VEX_Chart2\nVEX_Chart2\nVEX_Chart2\n\n");
+  std::istringstream journal(table.out);
+  bool ofSecond = false;
+  int lines = 0;
+  for (S line; std::getline(journal, line); ++lines) {
+    ofSecond = ofSecond || Plain(line).starts_with("one.xlsx: ");
+    EXPECT_TRUE(Plain(line).starts_with(ofSecond ? "one.xlsx: " : "both.xlsx: ")) << line;
+  }
+  EXPECT_GT(lines, 10);
+}
+
+TEST_F(BatchTest, ResultsGoIntoAFolderEachByItsName) {
+  const S first = Write("one/a.xlsx"), second = Write("two/b.xlsx"), twin = Write("two/a.xlsx"),
+          out = folder_ / "out";
+  const S before = Bytes(first);
+  fs::create_directory(out);
+  std::ofstream(folder_ / "file") << "x";
+  EXPECT_EQ(RunCommand({"refresh", first, second, "-o", out}).code, 0);
+  EXPECT_TRUE(IsDrawn(out + "/a.xlsx") && IsDrawn(out + "/b.xlsx"));
+  EXPECT_EQ(Bytes(first), before);
+  fs::remove(out + "/a.xlsx");
+  EXPECT_EQ(RunCommand({"refresh", first, "-o", out}).code, 0) << "also a single one";
+  EXPECT_TRUE(fs::exists(out + "/a.xlsx"));
+  fs::remove_all(out);
+  fs::create_directory(out);
+
+  const std::pair<std::vector<S>, S> cases[] = {
+      {{first, twin, "-o", out},
+       "\"one/a.xlsx\" and \"two/a.xlsx\" would both be written to \"a.xlsx\" in \"out\"."},
+      {{first, second, "-o", folder_ / "file"},
+       "\"file\" is no folder, and several workbooks can only be written into one."},
+      {{first, second, "-o", folder_ / "nowhere"},
+       "\"nowhere\" is no folder, and several workbooks can only be written into one."},
+      {{first, second, "-o", "-"}, "\"-\" is no folder, and several workbooks can only be written into one."},
+      {{second, first, "-o", folder_ / "one"},
+       "\"one/a.xlsx\" is in the folder \"one\" itself; without -o it is refreshed where it is."},
+      {{first, second, "--jobs", "0"}, "--jobs wants a number from 1 on."}};
+  for (auto [arguments, said] : cases) {
+    arguments.insert(arguments.begin(), "refresh");
+    const CommandResult result = RunCommand(arguments);
+    EXPECT_EQ(result.code, 2);
+    EXPECT_EQ(Plain(result.err), "plotsmith: " + said + "\n");
+  }
+  EXPECT_TRUE(fs::is_empty(out)) << "all of it is refused before any work";
+  EXPECT_EQ(Bytes(first), before);
+}
+
+TEST_F(BatchTest, AWorkbookIsDoneOnceHoweverItIsNamed) {
+  const S book = Write("a.xlsx"), link = folder_ / "link.xlsx";
+  fs::create_symlink("a.xlsx", link);
+  const CommandResult result =
+      RunCommand({"refresh", book, folder_ / "./a.xlsx", link, "--verbose", "--jobs", "4"});
+  EXPECT_EQ(result.code, 0);
+  EXPECT_EQ(result.err, "1 chart refreshed\n");
+}
+
+TEST_F(BatchTest, AWorkerThatDiesTakesOnlyItsOwnWorkbookAlong) {
+  std::vector<BookRun> runs;
+  for (const char* name : {"a", "b", "c", "d", "e"}) runs.push_back({name, std::nullopt});
+  const auto doRun = [](const BookRun& run, const Streams& to) -> BookResult {
+    if (run.book == "b") std::raise(SIGKILL);
+    if (run.book == "d") _exit(7);
+    if (run.book == "e") throw std::bad_alloc();
+    to.err << "done\nwell\n";
+    to.out << run.book << '\n';
+    return {exit_code::kDone, {2, 0}};
+  };
+  const S whole = "; the workbook is as it was, or whole and new.\n";
+  for (const std::size_t processes : {1u, 3u}) {
+    std::istringstream in;
+    std::ostringstream out, err;
+    EXPECT_EQ(RunBatch(runs, doRun, processes, false, {in, out, err}), 3);
+    EXPECT_EQ(out.str(), "a: a\nc: c\n");
+    EXPECT_EQ(err.str(),
+              "a: done\na: well\nb: plotsmith: the process that worked on it died (Killed)" + whole +
+                  "c: done\nc: well\nd: plotsmith: the process that worked on it died (it left early)" +
+                  whole + "e: plotsmith: something went wrong: std::bad_alloc\n");
+  }
+}
+
+TEST_F(BatchTest, AnInterruptStopsTheWorkBetweenOldAndNew) {
+  std::vector<BookRun> runs;
+  for (int i = 0; i < 40; ++i) runs.push_back({Write(std::to_string(i) + ".xlsx"), std::nullopt});
+  const S before = Bytes(runs[0].book);
+  const pid_t self = getpid();
+  const auto doRun = [&](const BookRun& run, const Streams& to) -> BookResult {
+    if (run.book == runs[5].book) kill(self, SIGINT);
+    Session session(run.book, {}, to);
+    session.Book().DefineName("Changed", "1");
+    return {session.Save({}), {}};
+  };
+  std::istringstream in;
+  std::ostringstream out, err;
+  EXPECT_EQ(RunBatch(runs, doRun, 2, false, {in, out, err}), 128 + SIGINT);
+  EXPECT_TRUE(err.str().starts_with("plotsmith: stopped by a signal; ")) << err.str();
+  EXPECT_EQ(Bytes(runs[39].book), before) << "and the rest is left";
+  int files = 0;
+  for (const auto& entry : fs::directory_iterator(folder_.Path())) {
+    ++files;
+    EXPECT_NO_THROW(xlsx::Package::Open(entry.path()).Parts());
+  }
+  EXPECT_EQ(files, 40) << "nothing is left beside them";
+}
+
+}  // namespace
+}  // namespace plotsmith::cli

@@ -1,0 +1,172 @@
+#include <gtest/gtest.h>
+#include <regex>
+#include <vector>
+
+#include "tests/support/WizardVerbsTest.h"
+#include "xlsx/package/Package.h"
+
+namespace plotsmith::cli {
+namespace {
+
+using test::CommandResult;
+using test::RunCommand;
+using S = std::string;
+
+struct NewChart {
+  S type;
+  std::vector<S> options;  ///< of the layout
+  S block;                 ///< its rows on the data sheet
+  S definition;            ///< what the pages write into it
+};
+
+const NewChart kNewCharts[] = {
+    {"area",
+     {"--series-columns", "cost", "Amount"},
+     "\t\tAmount\tCost\n\tEast\t18\t13\n\tWest\t5\t4\n",
+     R"(<categories headings-in="rows"><column name="Region"/></categories>
+<series headings-in="columns"><column name="Amount"/><column name="Cost"/></series><dynamic-attributes/>
+<axes><axis type="label" label="Region" sticky="no"/><axis type="value" label="" sticky="yes"/></axes>
+<data-labels/>)"},
+    {"bar",
+     {"--category-columns", "Amount", "Cost", "--x-axis", "Sum"},
+     "\t\tValue\n\tAmount\t23\n\tCost\t17\n",
+     R"(<categories headings-in="columns"><column name="Amount"/><column name="Cost"/></categories>
+<series headings-in="none"/><dynamic-attributes/>
+<axes><axis type="label" label="" sticky="yes"/><axis type="value" label="Sum" sticky="yes"/></axes>
+<data-labels/>)"},
+    {"column",
+     {"--categories", "PRODUCT", "--series", "Region", "--values", "Cost", "--set", "100%", "stacked"},
+     "\t\tEast\tWest\n\tWidget\t8\t4\n\tGadget\t5\n",
+     R"(<categories headings-in="rows"><column name="Product"/></categories>
+<series headings-in="rows"><column name="Region"/></series><values><column name="Cost"/></values>
+<dynamic-attributes><attribute setting="stacked"/><attribute setting="100%"/></dynamic-attributes>
+<axes><axis type="label" label="Product" sticky="no"/><axis type="value" label="Cost" sticky="no"/></axes>
+<data-labels/>)"},
+    {"pie",
+     {"--categories", "Product", "--labels", "percentages", "--set", "exploded", "--comment", "a b"},
+     "\t\tAmount\n\tWidget\t16\n\tGadget\t7\n",
+     R"(<categories headings-in="rows"><column name="Product"/></categories><series headings-in="none"/>
+<values><column name="Amount"/></values>
+<dynamic-attributes><attribute setting="exploded"/></dynamic-attributes>
+<data-labels><data-label show="percentages"/></data-labels><comment>a b</comment>)"},
+    {"bubble",
+     {"--x-values", "Cost", "--series", "Product", "--sizes", "Amount", "--set", "show-zero-bubbles"},
+     "\t\t[-BubbleColor-]\t[-XAxisValue-]\t[-YAxisValue-]\t[-BubbleSize-]\n\tEast\tWidget\t13\t18\t18\n"
+     "\tWest\tWidget\t4\t5\t5\n",
+     R"(<categories headings-in="rows"><column name="Region"/></categories>
+<series headings-in="rows"><column name="Product"/></series><values><column name="Amount"/></values>
+<x-values><column name="Cost"/></x-values><bubble-sizes><column name="Amount"/></bubble-sizes>
+<static-attributes><attribute setting="show-zero-bubbles"/></static-attributes><dynamic-attributes/>
+<axes><axis type="label" label="Cost" sticky="no"/><axis type="value" label="Amount" sticky="no"/></axes>
+<data-labels><data-label show="values"/></data-labels>)"},
+    {"strategic bucket",
+     {"--categories", "Product", "--bucket-table", "VEX_SB1", "--labels", "names", "--sort-by", "Cost",
+      "--descending", "--number-format", "0.0"},
+     "\t\t[-BlockColor-]\t[-BlockSort-]\tEAST\tWEST\n\t[-StrategicBuckets-]\t\t\t100.0\t50.0\n"
+     "\tWidget\t[none]\t12.0\t11.0\t5.0\n\tGadget\t[none]\t5.0\t7.0\n",
+     R"(<categories headings-in="rows"><column name="Product"/></categories><series headings-in="none"/>
+<values><column name="Amount"/></values><sort-order sort="descending"><column name="Cost"/></sort-order>
+<dynamic-attributes/>
+<axes><axis type="label" label="Region" sticky="no"/><axis type="value" label="Amount" sticky="no"/></axes>
+<data-labels manual-labels="yes"><data-label show="values"/></data-labels>)"},
+};
+
+class NewChartTest : public test::WizardVerbsTest {
+ protected:
+  /// The arguments of `new` that make the chart.
+  static std::vector<S> Arguments(const S& book, const NewChart& chart) {
+    std::vector<S> arguments = {"new",    book,       "--table", "Data1",
+                                "--type", chart.type, "--title", "A " + chart.type};
+    arguments.insert(arguments.end(), chart.options.begin(), chart.options.end());
+    return arguments;
+  }
+  static std::vector<S> With(std::vector<S> arguments, const std::vector<S>& more) {
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return arguments;
+  }
+  /// The rows of the one chart on the data sheet, without its id.
+  static S Block(const S& book) {
+    const S cells = RunCommand({"cells", book, "VEX_ChartData!A1:F9"}).out;
+    const S rows = std::regex_replace(cells, std::regex("VEX_Chart1"), "");
+    return std::regex_replace(std::regex_replace(rows, std::regex("\t+\n"), "\n"), std::regex("\n+$"), "\n");
+  }
+  /// The definition without what was read from the chart, and without what a refresh copies from the table.
+  static S Written(const S& book) {
+    const std::regex copied(
+        " (table-top-row|table-left-column|table-height|header-row-count|data-start-row|worksheet-column-"
+        "number|"
+        "bucket-[a-z]+-column-position)=\"[0-9]+\"");
+    const S text = std::regex_replace(Definition(book, "VEX_Chart1"), copied, "");
+    return std::regex_replace(text, std::regex("<auto-persistence>.*</auto-persistence>"), "");
+  }
+  /// The part of the one chart, without its legend.
+  static S ChartPart(const S& book) {
+    const S part = xlsx::Package::Open(book).Read("/xl/charts/chart1.xml");
+    return std::regex_replace(part, std::regex("<c:legend>.*</c:legend>"), "");
+  }
+};
+
+TEST_F(NewChartTest, ChartsOfAllTypesAreMadeOnAPlainWorkbook) {
+  const S book = Write(test::PlainSales()), out = folder_ / "out.xlsx";
+  for (const NewChart& chart : kNewCharts) {
+    const CommandResult result = RunCommand(With(Arguments(book, chart), {"-o", out}));
+    EXPECT_EQ(result.code, 0) << chart.type;
+    EXPECT_EQ(result.out + result.err, "") << chart.type;
+    EXPECT_EQ(Charts(out), "VEX_Chart1  \"A " + chart.type + "\"\n  " + chart.type +
+                               " chart on sheet Data1, from table Data1 on sheet Data1\n  ok\n");
+    EXPECT_EQ(Block(out), chart.block) << chart.type;
+    const S definition = Written(out);
+    EXPECT_EQ(definition.substr(definition.find("><") + 1),
+              std::regex_replace(chart.definition, std::regex("\n"), "") + "</chart>\n")
+        << chart.type;
+  }
+}
+
+TEST_F(NewChartTest, ARefreshFindsNothingToDoAfterIt) {
+  const S book = Write(test::PlainSales()), out = folder_ / "out.xlsx",
+          refreshed = folder_ / "refreshed.xlsx";
+  for (const NewChart& chart : kNewCharts) {
+    ASSERT_EQ(RunCommand(With(Arguments(book, chart), {"-o", out})).code, 0) << chart.type;
+    ASSERT_EQ(RunCommand({"refresh", out, "-o", refreshed}).code, 0) << chart.type;
+    EXPECT_EQ(Written(out), Written(refreshed)) << chart.type;
+    EXPECT_EQ(Block(out), Block(refreshed)) << chart.type;
+    // a legend gets the font that was read back from it
+    EXPECT_EQ(ChartPart(out), ChartPart(refreshed)) << chart.type;
+  }
+}
+
+TEST_F(NewChartTest, TheScriptThatIsPrintedDoesTheSame) {
+  const S book = Write(test::PlainSales()), out = folder_ / "out.xlsx", played = folder_ / "played.xlsx";
+  const S before = Bytes(book);
+  for (const NewChart& chart : kNewCharts) {
+    ASSERT_EQ(RunCommand(With(Arguments(book, chart), {"-o", out})).code, 0) << chart.type;
+    const CommandResult printed = RunCommand(With(Arguments(book, chart), {"--print-script"}));
+    EXPECT_EQ(printed.code, 0) << chart.type;
+    EXPECT_EQ(Bytes(book), before);
+    EXPECT_EQ(Wizard(book, printed.out, {"-o", played}).code, 0) << printed.out;
+    EXPECT_EQ(Bytes(played), Bytes(out)) << chart.type;
+  }
+  EXPECT_EQ(RunCommand(With(Arguments(book, kNewCharts[2]), {"--new-sheet", "Mine", "--print-script"})).out,
+            R"(page frmPSSelectTable
+select grdTables Data1
+choose optType(1)
+press cmdNext
+page frmPSLayoutABC
+type txtTitle "A column"
+choose cboCategories Product
+choose optSeries(1)
+choose cboSeries Region
+choose cboValues Cost
+check chkStacked
+check chk100Pct
+press cmdNext
+page frmPSChartLocation
+choose optTargetSheet(0)
+type txtSheet Mine
+press cmdFinish
+page none
+)");
+}
+
+}  // namespace
+}  // namespace plotsmith::cli

@@ -1,0 +1,143 @@
+#include <filesystem>
+#include <fstream>
+#include <vector>
+
+#include "runtime/Strings.h"
+#include "tests/support/HostTest.h"
+#include "tests/support/PackageComplaints.h"
+#include "tests/support/RunCommand.h"
+
+namespace plotsmith::cli {
+namespace {
+
+using test::CommandResult;
+using test::RunCommand;
+using test::SalesBook;
+using S = std::string;
+
+/// What a verb writes, and where.
+class OutputTest : public ::testing::Test {
+ protected:
+  S Write(const S& name, bool macros = false) {
+    test::PlainBook book = SalesBook({{"VEX_Chart1"}});
+    const S path = folder_ / name;
+    book.Write(path);
+    if (!macros) return path;
+    auto package = xlsx::Package::Open(path);
+    package.Add("/xl/vbaProject.bin", "application/vnd.ms-office.vbaProject", "macros");
+    package.AddRelationship("/xl/workbook.xml",
+                            "http://schemas.microsoft.com/office/2006/relationships/vbaProject",
+                            "/xl/vbaProject.bin");
+    package.SetContentType("/xl/workbook.xml", "application/vnd.ms-excel.sheet.macroEnabled.main+xml");
+    package.Save(path);
+    return path;
+  }
+  static S Bytes(const S& path) {
+    std::ifstream file(path, std::ios::binary);
+    return S((std::istreambuf_iterator<char>(file)), {});
+  }
+  static S MainType(const S& path) { return xlsx::Package::Open(path).ContentType("/xl/workbook.xml"); }
+  /// Each verb that writes a workbook, without its output.
+  std::vector<std::vector<S>> WritingVerbs(const S& book) {
+    const S script = folder_ / "steps.txt";
+    const auto made = RunCommand({"delete", book, "VEX_Chart1", "--print-script"});
+    std::ofstream(script) << made.out;
+    return {{"refresh", book},
+            {"save", book},
+            {"new", book, "--table", "Data1", "--type", "column", "--title", "Other", "--new-sheet", "More"},
+            {"modify", book, "VEX_Chart1", "--title", "Other"},
+            {"copy", book, "VEX_Chart1", "--title", "Other", "--new-sheet", "More"},
+            {"delete", book, "VEX_Chart1"},
+            {"wizard", book, "--script", script, "--show"},
+            {"rename-columns", book, "--table", "Data1", "Cost=Price"}};
+  }
+  test::TempFolder folder_;
+};
+
+TEST_F(OutputTest, EachWritingVerbWritesTheSameToTheStandardOutputAsToAFile) {
+  const S book = Write("book.xlsx"), file = folder_ / "file.xlsx";
+  ASSERT_EQ(RunCommand({"refresh", book}).code, 0);
+  const S before = Bytes(book);
+  for (const std::vector<S>& verb : WritingVerbs(book)) {
+    const auto with = [&](std::vector<S> more) {
+      std::vector<S> line = verb;
+      line.insert(line.end(), more.begin(), more.end());
+      return RunCommand(line);
+    };
+    SCOPED_TRACE(verb.front());
+    const CommandResult saved = with({"-o", file, "--journal"});
+    const CommandResult printed = with({"-o", "-", "--journal"});
+    EXPECT_LE(printed.code, 1) << printed.err;
+    EXPECT_EQ(printed.code, saved.code);
+    EXPECT_EQ(printed.out, Bytes(file)) << "and nothing else";
+    EXPECT_EQ(printed.err, saved.out + saved.err) << "what would go to the output, and the messages";
+    EXPECT_EQ(Bytes(book), before);
+    std::filesystem::remove(file);
+  }
+  EXPECT_FALSE(std::filesystem::exists("-"));
+}
+
+TEST_F(OutputTest, AWorkbookIsNotWrittenToATerminal) {
+  const S book = Write("book.xlsx");
+  for (const std::vector<S>& verb : WritingVerbs(book)) {
+    std::vector<S> line = verb;
+    line.insert(line.end(), {"-o", "-"});
+    const CommandResult refused = RunCommand(line, "", test::Watched::kEverything);
+    EXPECT_EQ(refused.code, 2) << verb.front();
+    EXPECT_EQ(refused.out, "");
+    EXPECT_EQ(refused.err,
+              "plotsmith: a workbook isn't written to a terminal; redirect the output, or name a file.\n");
+  }
+}
+
+TEST_F(OutputTest, TheContentTypeFollowsTheExtension) {
+  const S stem = "application/vnd.openxmlformats-officedocument.spreadsheetml.";
+  const std::pair<S, S> types[] = {{"xlsx", stem + "sheet.main+xml"},
+                                   {"xltx", stem + "template.main+xml"},
+                                   {"xlsm", "application/vnd.ms-excel.sheet.macroEnabled.main+xml"},
+                                   {"xltm", "application/vnd.ms-excel.template.macroEnabled.main+xml"}};
+  S book = Write("book.xlsx");
+  for (const auto& from : types) {
+    const S source = folder_ / ("from." + from.first);
+    ASSERT_EQ(RunCommand({"save", book, "-o", source}).code, 0);
+    for (const auto& to : types) {
+      const S out = folder_ / ("out." + runtime::UCase(to.first));
+      const CommandResult saved = RunCommand({"refresh", source, "-o", out});
+      EXPECT_EQ(saved.code, 0) << saved.err;
+      EXPECT_EQ(MainType(out), to.second) << "from " << from.first;
+      EXPECT_EQ(test::PackageComplaints(out), "");
+    }
+    EXPECT_EQ(MainType(source), from.second);
+  }
+}
+
+TEST_F(OutputTest, WhatAFileCannotHoldIsRefusedBeforeTheWork) {
+  const S plain = Write("plain.xlsx"), macros = Write("macros.xlsm", true);
+  const S hasMacros = "the workbook has macros, which a file ",
+          hold = " can't hold; give it the extension .xlsm";
+  struct Case {
+    S book, out, reason;
+  };
+  const Case cases[] = {
+      {macros, "out.xlsx", hasMacros + ".xlsx" + hold},
+      {macros, "out.XLTX", hasMacros + ".xltx" + hold},
+      {plain, "out.ods", "a workbook can't be written as .ods, only as .xlsx, .xlsm, .xltx or .xltm"},
+      {plain, "out.XLS", "a workbook can't be written as .xls, only as .xlsx, .xlsm, .xltx or .xltm"}};
+  for (const Case& refused : cases) {
+    const S out = folder_ / refused.out;
+    const CommandResult result = RunCommand({"refresh", refused.book, "-o", out, "--journal"});
+    EXPECT_EQ(result.code, 3);
+    EXPECT_EQ(result.err,
+              "plotsmith: can't save \"" + out + "\": " + refused.reason + "; nothing was changed.\n");
+    EXPECT_EQ(result.out, "") << "no work was done";
+    EXPECT_FALSE(std::filesystem::exists(out));
+  }
+  for (const char* out : {"out.xlsm", "out.xltm", "out.bak"}) {
+    EXPECT_EQ(RunCommand({"refresh", macros, "-o", folder_ / out}).code, 0) << out;
+    EXPECT_EQ(xlsx::Package::Open(folder_ / out).Read("/xl/vbaProject.bin"), "macros");
+  }
+  EXPECT_EQ(RunCommand({"refresh", macros}).code, 0);
+}
+
+}  // namespace
+}  // namespace plotsmith::cli

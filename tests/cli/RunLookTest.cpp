@@ -1,0 +1,375 @@
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <vector>
+
+#include "runtime/Strings.h"
+#include "tests/support/FamilyBooks.h"
+#include "tests/support/HostTest.h"
+#include "tests/support/RunCommand.h"
+
+namespace plotsmith::cli {
+namespace {
+
+using test::CommandResult;
+using test::Definition;
+using test::EditPart;
+using test::PlainBook;
+using test::PlainRow;
+using test::RawCell;
+using test::RunCommand;
+using test::SalesBook;
+using S = std::string;
+using List = std::vector<S>;
+
+const S kDefinitions = "/xl/worksheets/sheet3.xml";
+const S kDrawing = "/xl/drawings/drawing2.xml";
+const S kChart = "/xl/charts/chart1.xml";
+
+/// What the commands that write say of a person's work, line by line on stderr.
+class RunLookTest : public ::testing::Test {
+ protected:
+  static S Bytes(const S& path) {
+    std::ifstream file(path, std::ios::binary);
+    return S((std::istreambuf_iterator<char>(file)), {});
+  }
+  S Write(const PlainBook& book) {
+    book.Write(path_);
+    return path_;
+  }
+  /// A book with these texts in the rows of the definitions, and a chart for VEX_Chart1.
+  S WriteRows(const List& rows) {
+    PlainBook book = SalesBook({{"VEX_Chart1"}});
+    book.sheets.pop_back();
+    book.AddDefinitions(rows);
+    return Write(book);
+  }
+  /// A refresh, with the code that goes with saying something and with silence.
+  S Refresh(const List& options = {}) {
+    List arguments = {"refresh", path_};
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    const CommandResult result = RunCommand(arguments);
+    EXPECT_EQ(result.code, result.err.empty() ? 0 : 1) << result.err;
+    return result.err;
+  }
+  S Charts() { return RunCommand({"charts", path_}).out; }
+  void Edit(const S& part, const S& from, const S& to) {
+    EditPart(path_, part, [&](S& text) {
+      ASSERT_NE(text.find(from), S::npos) << from;
+      text = runtime::Replace(text, from, to);
+    });
+  }
+
+  test::TempFolder folder_;
+  S path_ = folder_ / "book.xlsx";
+};
+
+/// A line about the first definition of a sales book.
+S Line(const S& sentence, const S& place = "VEX_ChartDefinitions!A2") {
+  return "plotsmith: " + place + " (chart 'Name of VEX_Chart1'): " + sentence + "\n";
+}
+
+TEST_F(RunLookTest, NothingIsWrittenWhereADefinitionWouldBeLost) {
+  const S good = Definition{"VEX_Chart1"}.Xml();
+  const S named = " (chart 'Name of VEX_Chart1'): ";
+  const struct {
+    List rows;
+    S place, sentence;
+    int charts;  ///< that are left when the row is dropped
+  } cases[] = {
+      {{runtime::Replace(good, "Name of", "This & that"), good},
+       "A2: ",
+       "The text is not well-formed XML (not well-formed (invalid token) in line 1, character 36)",
+       1},
+      {{good, "<charts/>"}, "A3: ", "The root element is 'charts' and not 'chart'", 1},
+      {{runtime::Replace(good, " id=\"VEX_Chart1\"", "")}, "A2" + named, "The definition has no 'id'", 0},
+      {{good, good}, "A3" + named, "The id 'VEX_Chart1' is that of VEX_ChartDefinitions!A2 already", 1},
+      {{runtime::Replace(good, "id=\"VEX_Chart1\"", "id=\"VEX_Chart7\"")},
+       "A2" + named,
+       "No chart has the alternative text 'VEX_Chart7'; there is a chart with 'VEX_Chart1'",
+       0}};
+  for (const auto& row : cases) {
+    WriteRows(row.rows);
+    const S before = Bytes(path_), line = "plotsmith: VEX_ChartDefinitions!" + row.place + row.sentence;
+    for (const List& verb : {List{"refresh", path_}, List{"delete", path_, "VEX_Chart1"},
+                             List{"new", path_, "--table", "Data1", "--type", "pie"},
+                             List{"rename-columns", path_, "--table", "Data1", "Amount=Sum"},
+                             List{"wizard", path_, "--script", "-"}}) {
+      const CommandResult refused = RunCommand(verb);
+      EXPECT_EQ(refused.code, 3) << verb[0];
+      EXPECT_EQ(refused.err, line +
+                                 ".\nplotsmith: nothing was changed, as 1 definition would be lost; mend "
+                                 "what is said, or use --drop-broken.\n");
+      EXPECT_EQ(Bytes(path_), before) << verb[0];
+    }
+    EXPECT_EQ(Refresh({"--drop-broken"}), line + "; the row was dropped.\n");
+    EXPECT_EQ(RunCommand({"check", path_}).code, 0) << RunCommand({"check", path_}).out;
+    EXPECT_EQ(Charts().find("VEX_Chart1") != S::npos, row.charts == 1) << Charts();
+    EXPECT_EQ(Refresh(), "");
+  }
+}
+
+TEST_F(RunLookTest, ADrawnChartThatIsGoneTakesItsDefinitionAlong) {
+  Write(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}}));
+  EXPECT_EQ(Refresh(), "");
+  Edit(kDrawing, "descr=\"VEX_Chart1\"", "descr=\"Mine\"");
+  EXPECT_EQ(
+      Refresh(),
+      Line("No chart has the alternative text 'VEX_Chart1'; there are charts with 'Mine' and 'VEX_Chart2'; "
+           "the chart was drawn and is gone, and its definition was removed."));
+  EXPECT_TRUE(Charts().starts_with("VEX_Chart2")) << Charts();
+  EXPECT_EQ(Refresh(), "");
+}
+
+TEST_F(RunLookTest, AGroupedChartIsNotLost) {
+  Write(SalesBook({{"VEX_Chart1"}}));
+  EXPECT_EQ(Refresh(), "");
+  const S group =
+      "<xdr:grpSp><xdr:nvGrpSpPr><xdr:cNvPr id=\"9\" name=\"Group 9\"/><xdr:cNvGrpSpPr/></xdr:nvGrpSpPr>"
+      "<xdr:grpSpPr/>";
+  Edit(kDrawing, "<xdr:graphicFrame macro", group + "<xdr:graphicFrame macro");
+  Edit(kDrawing, "</xdr:graphicFrame>", "</xdr:graphicFrame></xdr:grpSp>");
+  const CommandResult refused = RunCommand({"refresh", path_});
+  EXPECT_EQ(refused.code, 3);
+  EXPECT_TRUE(refused.err.starts_with(
+      Line("The chart with the alternative text 'VEX_Chart1' is in a group of shapes on the sheet 'Charts', "
+           "where it isn't seen, and has to be ungrouped.")))
+      << refused.err;
+  Edit(kDrawing, group, "");
+  Edit(kDrawing, "</xdr:grpSp>", "");
+  EXPECT_EQ(Refresh(), "") << "the definition is still there";
+}
+
+TEST_F(RunLookTest, RowsThatAreNotReadAndNamesThatAreUnknownAreSaid) {
+  Definition odd{"VEX_Chart1"};
+  odd.attributes += " colour=\"red\"";
+  odd.rest = test::Settings({"staked"});
+  WriteRows({"Notes", odd.Xml(), "", odd.Xml()});
+  const S settings =
+      "The attribute 'setting' has an unknown value 'staked'; it can be 3D, stacked, 100% or "
+      "exploded.";
+  const S colour =
+      "The element 'chart' has an unknown attribute 'colour'; there are id, name, title, type, table-id, "
+      "strategic-bucket-table-id and number-format.";
+  EXPECT_EQ(
+      Refresh({"--drop-broken"}),
+      "plotsmith: VEX_ChartDefinitions!A2: The text is not well-formed XML (syntax error in line 1, "
+      "character 1); the row was dropped.\n" +
+          Line(colour) + Line(settings) +
+          Line("This definition is never read, because VEX_ChartDefinitions!A3 is blank and ends the list.",
+               "VEX_ChartDefinitions!A4"))
+      << "the places are those after the run";
+
+  Write(SalesBook({{"VEX_Chart1", "line"}}));
+  EXPECT_EQ(Refresh(),
+            "Brindle Plotsmith: PSChartBuilder.PopulateChart\nUnknown chart type\n" +
+                Line("The attribute 'type' has an unknown value 'line'; it can be area, bar, column, "
+                     "pie, bubble or strategic bucket."));
+}
+
+TEST_F(RunLookTest, ADefinitionThatAProgramChangedIsToldFromAChartThatAPersonChanged) {
+  Definition definition{"VEX_Chart1"};
+  definition.rest = "<axes><axis type=\"value\" label=\"Euro\" sticky=\"no\"/></axes>";
+  PlainBook book = SalesBook({definition});
+  book.sheets.push_back(test::SalesSheet("Data2"));
+  Write(book);
+  EXPECT_EQ(Refresh(), "");
+  EXPECT_EQ(Refresh(), "") << "what was drawn reads back as it was stored";
+  const auto edit = [&] {
+    Edit(kDefinitions, "title=\"Sales\"", "title=\"Costs\"");
+    Edit(kDefinitions, "type=\"column\"", "type=\"bar\"");
+    Edit(kDefinitions, "label=\"Euro\"", "label=\"Dollar\"");
+  };
+  edit();
+  const S kept =
+      Line("The chart's own title 'Sales' was kept; the definition said 'Costs'.") +
+      Line("The chart's own type 'column' was kept; the definition said 'bar'.") +
+      Line("The chart's own title of the value axis 'Euro' was kept; the definition said 'Dollar'.");
+  EXPECT_EQ(RunCommand({"refresh", path_, "--table", "Data2", "-o", folder_ / "other.xlsx"}).err, kept)
+      << "all definitions are stored, whichever table is refreshed";
+  EXPECT_EQ(Refresh(), kept);
+  EXPECT_EQ(Refresh(), "");
+  Edit(kChart, "?><c:chartSpace", "?>\r\n<c:chartSpace");  // a spreadsheet program has saved it
+  edit();
+  EXPECT_EQ(Refresh(), "") << "perhaps a person has changed the chart";
+  Edit(kDefinitions, "title=\"Sales\"", "title=\"Costs\"");
+  Edit(kDefinitions, "ps-chart-schema-version=\"2\"", "");
+  EXPECT_EQ(Refresh(), Line("The chart's own title 'Sales' was kept; the definition said 'Costs'."));
+}
+
+TEST_F(RunLookTest, AVerbThatChangesDefinitionsSaysWhatIsLeftOfTheOldOnes) {
+  Definition definition{"VEX_Chart1"};
+  definition.rest = "<axes><axis type=\"value\" label=\"Amount\" sticky=\"no\"/></axes>";
+  Write(SalesBook({definition}));
+  EXPECT_EQ(Refresh(), "");
+  Edit(kDefinitions, "title=\"Sales\"", "title=\"Costs\" colour=\"red\"");
+  Edit("/xl/worksheets/sheet1.xml", "Amount", "Turnover");
+  const S colour = Line(
+      "The element 'chart' has an unknown attribute 'colour'; there are id, name, title, type, table-id, "
+      "strategic-bucket-table-id and number-format.");
+  EXPECT_EQ(RunCommand({"rename-columns", path_, "--table", "Data1", "Amount=Turnover"}).err,
+            Line("The chart's own title 'Sales' was kept; the definition said 'Costs'.") + colour)
+      << "the axis title has its new name from the command";
+
+  Definition typeless{"VEX_Chart1", "line"};
+  typeless.attributes += " colour=\"red\"";
+  Write(SalesBook({typeless, {"VEX_Chart2", "line"}}));
+  EXPECT_EQ(RunCommand({"modify", path_, "VEX_Chart1", "--type", "pie"}).err,
+            runtime::Replace(colour, "Name of VEX_Chart1", "Sales"))
+      << "the type has changed, and the other chart isn't drawn";
+}
+
+TEST_F(RunLookTest, CellsThatMakeAWrongPictureAreSaid) {
+  const RawCell formula{"><f>1+1</f><v></v></c>"}, error{" t=\"e\"><v>#N/A</v></c>"};
+  const auto refresh = [&](const auto& change, const Definition& definition = {}) {
+    PlainBook book = SalesBook({definition});
+    change(book.Sheet("Data1").rows);
+    Write(book);
+    return Refresh();
+  };
+  using Rows = std::vector<PlainRow>;
+  const S calculate = "which count as blank; have a spreadsheet program calculate and save the workbook.";
+  EXPECT_EQ(refresh([&](Rows& rows) { rows[2][2] = rows[3][2] = rows[2][3] = formula; }),
+            Line("The column 'Amount' has 2 formulas without a result, the first one here, " + calculate,
+                 "Data1!C3"))
+      << "of Cost, no chart is drawn";
+  EXPECT_EQ(
+      refresh([&](Rows& rows) { rows[0][2] = formula; }),
+      "Brindle Plotsmith: Chart 'Name of VEX_Chart1' has become unavailable because column 'Amount'\nin "
+      "table 'Data1' is missing or contains invalid data.\n" +
+          Line("The table 'Data1' has no column 'Amount' for 'values'; it has Region, Product and Cost.") +
+          Line("The heading is a formula without a result, so that its column doesn't exist; have a "
+               "spreadsheet program calculate and save the workbook.",
+               "Data1!C1"));
+  const S start = "The column 'Amount' is no number column, as 'values' wants, since this cell holds ";
+  EXPECT_EQ(refresh([&](Rows& rows) { rows[2][2] = S("5 pcs"); }),
+            Line(start + "the text '5 pcs', which counts as 0.", "Data1!C3"));
+  const S said = start + "the error #N/A, which counts as 0.";
+  EXPECT_EQ(refresh([&](Rows& rows) { rows[4][2] = error; }), Line(said, "Data1!C5"));
+  EXPECT_NE(Charts().find("  ok\n    Data1!C5: " + said + "\n"), S::npos) << Charts();
+  Definition forgotten;
+  forgotten.values = "";
+  EXPECT_EQ(refresh([](Rows&) {}, forgotten),
+            Line("A column chart needs the element 'values', unless its headings are in columns."));
+}
+
+TEST_F(RunLookTest, WhatSeveralChartsHaveInCommonIsOneLine) {
+  PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}});
+  book.Sheet("Data1").rows[2][2] = S("5 pcs");
+  Write(book);
+  EXPECT_EQ(
+      Refresh(),
+      "plotsmith: Data1!C3 (charts 'Name of VEX_Chart1' and 'Name of VEX_Chart2'): The column 'Amount' is no "
+      "number column, as 'values' wants, since this cell holds the text '5 pcs', which counts as 0.\n");
+}
+
+TEST_F(RunLookTest, AColumnThatLooksRenamedIsNamed) {
+  PlainBook book = SalesBook({{"VEX_Chart1"}});
+  Write(book);
+  EXPECT_EQ(Refresh(), "");
+  Edit("/xl/worksheets/sheet1.xml", "Amount", "Turnover");
+  const S missing =
+      "Brindle Plotsmith: Chart 'Name of VEX_Chart1' has become unavailable because column "
+      "'Amount'\nin table 'Data1' is missing or contains invalid data.\n";
+  EXPECT_EQ(
+      Refresh(),
+      missing +
+          Line("The table 'Data1' has no column 'Amount' for 'values'; it has Region, Product, Turnover "
+               "and Cost; 'Turnover' is in its place, and if that is its new name, plotsmith "
+               "rename-columns BOOK --table Data1 'Amount=Turnover' carries it into the charts."));
+  const S drawnAt = "&lt;values&gt;&lt;column name=\"Amount\" worksheet-column-number=\"3\"";
+  Edit(kDefinitions, drawnAt, runtime::Replace(drawnAt, "\"3\"", "\"C\""));
+  EXPECT_EQ(Refresh(), missing + Line("The table 'Data1' has no column 'Amount' for 'values'; it has Region, "
+                                      "Product, Turnover and Cost."))
+      << "the number was garbled";
+  const CommandResult renamed = RunCommand({"rename-columns", path_, "--table", "Data1", "Amount=Turnover"});
+  EXPECT_EQ(renamed.code, 0) << renamed.err;
+  EXPECT_EQ(Refresh(), "");
+  Edit("/xl/worksheets/sheet1.xml", "Turnover", "Product");
+  const S taken = Refresh();
+  EXPECT_NE(taken.find("; it has Region, Product, Product and Cost.\n"), S::npos)
+      << taken << "a column that the chart has already is no new name";
+}
+
+TEST_F(RunLookTest, ABubbleWithoutALabelTakesTheLegendAlong) {
+  const S start = "The column 'Group' has ";
+  const S again =
+      ", and then switch the chart's own legend on in a spreadsheet program; the next refresh draws "
+      "it.";
+  const struct {
+    S label, sentence;
+  } cases[] = {{"",
+                "no label here for the bubble 'C', so that it isn't shown and the chart has no drawn legend; "
+                "fill the cell in"},
+               {"g|x",
+                "a label here with the character '|', so that the chart has no drawn legend; take the "
+                "character out"}};
+  for (const auto& [label, sentence] : cases) {
+    Write(test::BubbleBook(
+        {{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"C", "h", 1, 1, 1}, {"c", label, 3, 4, 5}},
+        test::BubbleDefinition()));
+    EXPECT_EQ(Refresh(), Line(start + sentence + again, "Data1!B5"));
+    EXPECT_EQ(Refresh({"--host-version", "11"}), "") << "there the chart's own legend is used";
+  }
+  Edit("/xl/worksheets/sheet1.xml", "Size", "Weight");
+  EXPECT_EQ(Refresh().find("Data1!B5"), S::npos) << "a chart that can't be drawn has other troubles";
+  Write(test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"c", "g|h", 3, 4, 5}},
+                         test::BubbleDefinition()));
+  EXPECT_EQ(Refresh(), "") << "each piece has a colour";
+}
+
+TEST_F(RunLookTest, MoreBucketsThanAChartCanNameAreSaid) {
+  const auto write = [&](int count) {
+    PlainBook book = test::BucketBook(test::BucketDefinition());
+    auto& rows = book.Sheet("Buckets").rows;
+    rows.resize(3);
+    for (int i = 1; i <= count; ++i) rows.push_back({"b" + std::to_string(i), 1.0 * i});
+    book.Sheet("Data1").rows[1][2] = S("b1");
+    book.names = {{"VEX_SB1", "Buckets!$A$1:$B$" + std::to_string(count + 3)}};
+    Write(book);
+  };
+  const auto start = [](int count) {
+    return "The bucket table 'VEX_SB1' has " + std::to_string(count) +
+           " buckets, and a chart has room for the names of 22, so that ";
+  };
+  const S breaks =
+      "its drawing breaks off and it is left a column chart; leave 22 buckets or fewer, and then "
+      "draw it anew with plotsmith modify BOOK CHART --type 'strategic bucket'.";
+  const S misnamed = "the columns have wrong names; leave 22 buckets or fewer.";
+  const S error =
+      "Brindle Plotsmith: PSChartBuilder.PopulateStrBuckChart\nUnable to set the XValues property of the "
+      "Series "
+      "class\n";
+  const std::pair<int, S> cases[] = {{22, ""},
+                                     {23, error + Line(start(23) + breaks)},
+                                     {28, error + Line(start(28) + breaks)},
+                                     {29, Line(start(29) + misnamed)},
+                                     {54, Line(start(54) + misnamed)},
+                                     {55, error + Line(start(55) + breaks)}};
+  for (const auto& [count, said] : cases) {
+    write(count);
+    EXPECT_EQ(Refresh({"--host-version", "11"}), "") << count;
+    write(count);
+    EXPECT_EQ(Refresh(), said) << count;
+  }
+  EXPECT_EQ(
+      Refresh().find(Line("The chart's own type 'column' was kept; the definition said 'strategic bucket'.")),
+      0u);
+  Edit("/xl/workbook.xml", "$B$58", "$B$9");
+  const CommandResult mended = RunCommand({"modify", path_, "VEX_Chart1", "--type", "strategic bucket"});
+  EXPECT_EQ(mended.code, 0) << mended.err;
+  EXPECT_EQ(Refresh(), "");
+  EXPECT_NE(Charts().find("strategic bucket chart"), S::npos) << Charts();
+}
+
+TEST_F(RunLookTest, AWorkbookThatNeverSawPlotsmithIsSilent) {
+  PlainBook book;
+  book.sheets.push_back(test::SalesSheet("Sheet1"));
+  book.sheets[0].rows[1][2] = RawCell{"><f>1+1</f><v></v></c>"};
+  book.sheets[0].frames = {{"", "", 0, 0, 8, 18}, {"VEX_Chart1"}};
+  Write(book);
+  EXPECT_EQ(Refresh(), "");
+}
+
+}  // namespace
+}  // namespace plotsmith::cli

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QtCore/QEvent>
+#include <QtGui/QImage>
+#include <memory>
+#include <string>
+
+#include "qt/book/BookView.h"
+#include "qt/book/SheetView.h"
+#include "tests/support/HostTest.h"
+
+namespace plotsmith::test {
+
+/// A test of the window on the workbook, over the workbook that the host has open.
+class BookTest : public HostTest {
+ protected:
+  /// Shows the open workbook in a window of 800 by 600 pixels.
+  qtbook::BookView& Show();
+  qtbook::BookView& Show(const PlainBook& book) {
+    Open(book);
+    return Show();
+  }
+  qtbook::SheetView& Sheet() { return *view_->ShownSheet(); }
+  /// The tabs with "|" between them, the current one in brackets.
+  std::string Tabs();
+  /// The active cell, such as "B3".
+  std::string ActiveCell();
+  /// What the cells look like, without scroll bars.
+  QImage Shot();
+  void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
+  std::unique_ptr<qtbook::BookView> view_;
+};
+
+/// Styles from 1 on: a filling of FFEE00; centred; bold and right; a date; wrapped; white text; a
+/// line below.
+std::string SomeStyles();
+
+}  // namespace plotsmith::test

@@ -1,0 +1,75 @@
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <regex>
+#include <set>
+#include <string>
+
+#include "tests/support/HostTest.h"
+#include "tests/support/Paths.h"
+
+namespace plotsmith {
+namespace {
+
+namespace fs = std::filesystem;
+using S = std::string;
+
+/// An installation into a folder of its own. It is a component, so that the list of files of a developer's
+/// own installation stays.
+class InstallTest : public ::testing::Test {
+ protected:
+  static int Shell(const S& command) { return std::system((command + " > /dev/null").c_str()); }
+  static S Text(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    EXPECT_TRUE(file) << path;
+    return S(std::istreambuf_iterator<char>(file), {});
+  }
+  std::set<S> Files() const {
+    std::set<S> files;
+    for (const auto& entry : fs::recursive_directory_iterator(prefix_)) {
+      if (!entry.is_directory()) files.insert(fs::relative(entry.path(), prefix_).string());
+    }
+    return files;
+  }
+
+  test::TempFolder folder_;
+  const fs::path prefix_ = folder_.Path() / "a prefix";
+};
+
+TEST_F(InstallTest, EverythingIsInItsPlaceAndGoesAgain) {
+  const S build = test::kBuildFolder;
+  ASSERT_EQ(
+      Shell("cmake --install '" + build + "' --component Unspecified --prefix '" + prefix_.string() + "'"),
+      0);
+  const std::set<S> files = Files();
+  for (const char* file :
+       {"bin/plotsmith", "share/man/man1/plotsmith.1", "share/bash-completion/completions/plotsmith",
+        "share/zsh/site-functions/_plotsmith", "share/doc/plotsmith/README.md",
+        "share/doc/plotsmith/docs/file-formats.md", "share/doc/plotsmith/docs/images/orders.png"}) {
+    EXPECT_TRUE(files.contains(file)) << file;
+  }
+  EXPECT_EQ(Shell("'" + (prefix_ / "bin/plotsmith").string() + "' --version"), 0);
+
+  // the pages find each other, their pictures, and the examples
+  const std::regex link(R"x((?:\]\(|src=")([^)"#:]+))x");
+  int links = 0;
+  for (const S& file : files) {
+    if (!file.ends_with(".md")) continue;
+    const S text = Text(prefix_ / file);
+    for (std::sregex_iterator it(text.begin(), text.end(), link), end; it != end; ++it, ++links)
+      EXPECT_TRUE(fs::exists((prefix_ / file).parent_path() / S((*it)[1]))) << file << ": " << (*it)[1];
+  }
+  EXPECT_GT(links, 50);
+
+  std::ofstream(prefix_ / "share/man/man1/other.1") << "of another program";
+  ASSERT_EQ(Shell(S(test::kSourceFolder) + "/scripts/uninstall.sh '" + build +
+                  "/install_manifest_Unspecified.txt'"),
+            0);
+  EXPECT_EQ(Files(), std::set<S>{"share/man/man1/other.1"});
+  EXPECT_FALSE(fs::exists(prefix_ / "share/doc/plotsmith"));
+}
+
+}  // namespace
+}  // namespace plotsmith

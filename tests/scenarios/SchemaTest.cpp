@@ -1,0 +1,252 @@
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <vector>
+
+#include "common/RunVariables.h"
+#include "runtime/RuntimeError.h"
+#include "tests/support/FamilyBooks.h"
+#include "tests/support/HostTest.h"
+#include "tests/support/Paths.h"
+#include "tests/support/RunCommand.h"
+#include "tests/support/SchemaFaults.h"
+#include "xlsx/Worksheet.h"
+#include "xlsx/package/PackageError.h"
+
+namespace plotsmith {
+namespace {
+
+namespace fs = std::filesystem;
+using test::Definition;
+using test::RunCommand;
+using test::Schemas;
+using test::Settings;
+using S = std::string;
+
+/// Every part that we write or change is as the published schemas want it. A part of another program may stay
+/// as faulty as it was.
+class SchemaTest : public test::HostTest {
+ protected:
+  static void SetUpTestSuite() {
+    if (Schemas::Present()) schemas_ = std::make_unique<Schemas>();
+  }
+  static void TearDownTestSuite() { schemas_.reset(); }
+  void SetUp() override {
+    if (!schemas_) GTEST_SKIP() << "the schemas aren't there";
+  }
+
+  /// The faults in `after` that weren't in `before`; of an empty path, all of them.
+  static S Faults(const S& before, const S& after) {
+    return schemas_->NewFaults(before.empty() ? xlsx::Package() : xlsx::Package::Open(before),
+                               xlsx::Package::Open(after));
+  }
+  /// Refreshes the file twice with the host version, and judges what was written each time.
+  void RefreshTwice(const S& path, const S& version) {
+    SCOPED_TRACE(version);
+    const S first = folder_ / "first.xlsx", second = folder_ / "second.xlsx";
+    const auto refresh = [&](const S& from, const S& to) {
+      const auto result = RunCommand({"refresh", from, "-o", to, "--host-version", version});
+      EXPECT_LE(result.code, 1) << result.err;
+      if (result.code <= 1) {
+        EXPECT_EQ(Faults(path, to), "");
+      }
+    };
+    refresh(path, first);
+    refresh(first, second);
+  }
+
+  static std::unique_ptr<Schemas> schemas_;
+};
+std::unique_ptr<Schemas> SchemaTest::schemas_;
+
+constexpr const char* kVersions[] = {"16.0", "11.0"};
+
+/// A definition over the table of sales, of any family.
+Definition SalesDefinition(const S& id, const S& type, const S& rest = "") {
+  Definition definition{id, type};
+  definition.rest = rest;
+  if (type == "bubble") {
+    definition.rest +=
+        "<x-values><column name=\"Cost\"/></x-values><bubble-sizes><column name=\"Amount\"/></bubble-sizes>";
+  }
+  if (type == "strategic bucket") {
+    definition.attributes += " strategic-bucket-table-id=\"VEX_SB1\"";
+    definition.categories = "<categories headings-in=\"rows\"><column name=\"Product\"/></categories>";
+    definition.rest += "<data-labels manual-labels=\"yes\"><data-label show=\"values\"/></data-labels>";
+  }
+  return definition;
+}
+
+/// One of each family, with what changes the elements that are written.
+std::vector<Definition> AllKinds() {
+  const S axes =
+      "<axes><axis type=\"label\" label=\"L\" sticky=\"no\"/><axis type=\"value\" label=\"V\" "
+      "sticky=\"no\"/></axes>";
+  const S labels = "<data-labels><data-label show=\"values\"/></data-labels>";
+  const S look =
+      "<auto-persistence><persist property=\"legend-visibility\" value=\"show\"/><persist "
+      "property=\"legend-left\" value=\"20\"/><persist property=\"legend-top\" "
+      "value=\"30\"/></auto-persistence>";
+  return {SalesDefinition("", "column", axes + labels + Settings({"stacked"})),
+          SalesDefinition("", "bubble", axes + Settings({"quadrants", "autoscale-x"}, "static-attributes")),
+          SalesDefinition("", "pie", labels + Settings({"exploded"})),
+          SalesDefinition("", "strategic bucket", axes),
+          SalesDefinition("", "area", labels + Settings({"3D"})),
+          SalesDefinition("", "bar", look + Settings({"3D", "stacked", "100%"})),
+          SalesDefinition("", "pie", Settings({"3D", "exploded"}) + look),
+          SalesDefinition("", "bubble", Settings({"3D"}) + look),
+          SalesDefinition("", "unknown")};
+}
+
+test::PlainSheet Targets() {
+  test::PlainSheet targets{"Targets"};
+  targets.rows = {{S("Targets")}, {}, {S("Region"), S("Amount")}, {S("East"), 100.0}, {S("West"), 50.0}};
+  return targets;
+}
+
+TEST_F(SchemaTest, TheExamplesAndTheGallery) {
+  const S gallery = folder_ / "gallery.xlsx";
+  const S command = S(test::kMakeGallery) + " " + folder_.Path().string() + " > /dev/null 2>&1";
+  ASSERT_EQ(std::system(command.c_str()), 0);
+  std::vector<S> books = {gallery};
+  for (const auto& file : fs::directory_iterator(fs::path(test::kSourceFolder) / "examples")) {
+    if (file.path().extension() == ".xlsx") books.push_back(file.path().string());
+  }
+  EXPECT_EQ(books.size(), 5u);
+  for (const S& book : books) {
+    SCOPED_TRACE(book);
+    EXPECT_EQ(Faults("", book), "") << "made through the host";
+    for (const char* version : kVersions) RefreshTwice(book, version);
+  }
+  EXPECT_GT(schemas_->Judged(), 100);
+}
+
+TEST_F(SchemaTest, ChartsOfEveryKindFromEmptyFrames) {
+  std::vector<Definition> definitions = AllKinds();
+  for (std::size_t i = 0; i < definitions.size(); ++i)
+    definitions[i].id = "VEX_Chart" + std::to_string(i + 1);
+  auto book = test::SalesBook(definitions);
+  book.sheets.push_back(Targets());
+  book.names = {{"VEX_SB1", "Targets!$A$1:$B$5"}};
+  const S path = folder_ / "book.xlsx";
+  book.Write(path);
+  const S strict = folder_ / "strict.xlsx";
+  test::MakeStrict(path, strict);
+  for (const char* version : kVersions) {
+    RefreshTwice(path, version);
+    RefreshTwice(strict, version);
+    for (const S& part : xlsx::Package::Open(folder_ / "second.xlsx").Parts()) {
+      const S bytes = xlsx::Package::Open(folder_ / "second.xlsx").Read(part);
+      EXPECT_EQ(bytes.find("openxmlformats.org/drawingml/2006"), S::npos) << part << " is transitional";
+    }
+  }
+}
+
+TEST_F(SchemaTest, ChartsOfTheCorpusTakenOver) {
+  int taken = 0;
+  const auto kinds = AllKinds();
+  std::vector<fs::path> files;
+  for (const char* folder : {"charts", "real"}) {
+    std::error_code ignored;
+    for (const auto& entry : fs::directory_iterator(fs::path(test::kCorpusFolder) / folder, ignored)) {
+      files.push_back(entry.path());
+    }
+  }
+  std::sort(files.begin(), files.end());
+  if (files.empty()) GTEST_SKIP() << "the corpus isn't there";
+  for (const fs::path& file : files) {
+    for (std::size_t pass = 0; pass < kinds.size(); ++pass) {
+      const S version = kVersions[pass % 2];
+      SCOPED_TRACE(file.filename().string() + ", beginning with a " + kinds[pass].type + " " + version);
+      OpenFile(file.string(), version);
+      if (Book().ProtectStructure()) break;
+      const auto add = [&](const S& name, const std::vector<test::PlainRow>& rows) {
+        if (Book().FindSheet(name)) return Book().FindWorksheet(name);
+        const auto sheet = Book().AddWorksheet(Book().AllSheets().size());
+        Book().RenameSheet(*Book().FindSheet(sheet->SheetName()), name);
+        for (std::size_t r = 0; r < rows.size(); ++r) {
+          for (std::size_t c = 0; c < rows[r].size(); ++c) {
+            const auto row = static_cast<std::int32_t>(r + 1), column = static_cast<std::int32_t>(c + 1);
+            if (const auto* number = std::get_if<double>(&rows[r][c]))
+              sheet->SetCellValueAt(row, column, *number);
+            if (const auto* text = std::get_if<S>(&rows[r][c])) sheet->SetCellValueAt(row, column, *text);
+          }
+        }
+        return sheet;
+      };
+      std::vector<test::PlainRow> definitions = {{S("Plotsmith Version 2.0")}};
+      const auto sheets = Book().AllWorksheets();
+      for (const auto& sheet : sheets) {
+        const auto shapes = sheet->Shapes();
+        for (int i = 1; i <= shapes->Count(); ++i) {
+          if (shapes->Item(i)->Type() != excel::msoChart) continue;
+          Definition definition = kinds[(pass + definitions.size() - 1) % kinds.size()];
+          definition.id = "VEX_Chart" + std::to_string(definitions.size());
+          shapes->Item(i)->SetAlternativeText(definition.id);
+          // The chart's own type and look would win over the definition's, but for the unknown one.
+          const auto series = sheet->ChartObjects()->Item(shapes->Item(i)->Name())->Chart();
+          if (definition.type != "unknown") {
+            for (auto all = series->SeriesCollection(); all->Count() > 0;) all->Item(1)->Delete();
+          }
+          definitions.push_back({definition.Xml()});
+        }
+      }
+      if (definitions.size() == 1) break;
+      add("Data1", test::SalesSheet().rows);
+      add("Targets", Targets().rows);
+      Book().DefineName("VEX_SB1", "Targets!$A$1:$B$5");
+      add("VEX_ChartDefinitions", definitions);
+      for (int refresh = 1; refresh <= 2; ++refresh) {
+        Refresh();
+        SaveAndReopen();
+        EXPECT_EQ(Faults(file.string(), folder_ / "saved.xlsx"), "") << "refresh " << refresh;
+      }
+      ++taken;
+    }
+  }
+  EXPECT_GT(taken, 500);
+}
+
+TEST_F(SchemaTest, WhatTheVerbsOfTheWizardWrite) {
+  const S book = folder_ / "book.xlsx", before = folder_ / "before.xlsx";
+  test::PlainBook plain;
+  plain.sheets = {test::SalesSheet(), Targets()};
+  plain.names = {{"VEX_SB1", "Targets!$A$1:$B$5"}};
+  plain.Write(book);
+  const std::vector<std::vector<S>> verbs = {
+      {"new", "--table", "Data1", "--type", "column", "--series", "Product", "--comment", "a b"},
+      {"new", "--table", "Data1", "--type", "bar", "--new-sheet"},
+      {"new", "--table", "Data1", "--type", "area", "--labels", "values"},
+      {"new", "--table", "Data1", "--type", "pie", "--labels", "percentages"},
+      {"new", "--table", "Data1", "--type", "bubble", "--x-values", "Cost", "--sizes", "Amount"},
+      {"new", "--table", "Data1", "--type", "strategic bucket", "--categories", "Product", "--bucket-table",
+       "VEX_SB1"},
+      {"copy", "VEX_Chart1"},
+      {"copy", "VEX_Chart5"},
+      {"copy", "VEX_Chart6"},
+      {"modify", "VEX_Chart5", "--title", "Bubbles"},
+      {"delete", "VEX_Chart2"},
+      {"delete", "VEX_Chart5"}};
+  for (const char* version : kVersions) {
+    for (std::vector<S> arguments : verbs) {
+      SCOPED_TRACE(::testing::PrintToString(arguments) + version);
+      fs::copy_file(book, before, fs::copy_options::overwrite_existing);
+      arguments.insert(arguments.begin() + 1, book);
+      if (arguments.back() == "--new-sheet") arguments.push_back("Bars " + S(version));
+      arguments.insert(arguments.end(), {"--host-version", version});
+      const auto result = RunCommand(arguments);
+      EXPECT_LE(result.code, 1) << result.err;
+      EXPECT_EQ(Faults(before, book), "");
+    }
+  }
+  // Without their table, all charts become unavailable.
+  test::EditPart(book, "/xl/workbook.xml", [](S& xml) {
+    const auto at = xml.find("\"Data1\"");
+    ASSERT_NE(at, S::npos);
+    xml.replace(at, 7, "\"Gone\"");
+  });
+  for (const char* version : kVersions) RefreshTwice(book, version);
+}
+
+}  // namespace
+}  // namespace plotsmith

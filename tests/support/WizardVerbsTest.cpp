@@ -1,0 +1,42 @@
+#include "tests/support/WizardVerbsTest.h"
+
+#include <fstream>
+#include <iterator>
+
+namespace plotsmith::test {
+
+using S = std::string;
+
+PlainBook PlainSales() {
+  PlainBook book;
+  book.sheets.push_back(SalesSheet());
+  PlainSheet targets{"Targets"};
+  targets.rows = {{S("Targets")}, {}, {S("Region"), S("Amount")}, {S("East"), 100.0}, {S("West"), 50.0}};
+  book.sheets.push_back(targets);
+  book.names = {{"VEX_SB1", "Targets!$A$1:$B$5"}};
+  return book;
+}
+
+std::string WizardVerbsTest::Write(const PlainBook& book, const std::string& name) {
+  book.Write(folder_ / name);
+  return folder_ / name;
+}
+
+std::string WizardVerbsTest::Bytes(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return S((std::istreambuf_iterator<char>(file)), {});
+}
+
+CommandResult WizardVerbsTest::Wizard(const std::string& book, const std::string& script,
+                                      std::vector<std::string> more) {
+  more.insert(more.begin(), {"wizard", book, "--script", "-"});
+  return RunCommand(more, script);
+}
+
+std::string WizardVerbsTest::Charts(const std::string& book) { return RunCommand({"charts", book}).out; }
+
+std::string WizardVerbsTest::Definition(const std::string& book, const std::string& chart) {
+  return RunCommand({"definition", book, chart}).out;
+}
+
+}  // namespace plotsmith::test

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "tests/support/HostTest.h"
+#include "tests/support/RunCommand.h"
+
+namespace plotsmith::test {
+
+/// Sales by region and product, and a table of regions that can serve as buckets. It has never seen a chart.
+PlainBook PlainSales();
+
+/// Runs of the verbs that go through the wizard, on files of their own.
+class WizardVerbsTest : public ::testing::Test {
+ protected:
+  std::string Write(const PlainBook& book, const std::string& name = "book.xlsx");
+  static std::string Bytes(const std::string& path);
+  /// Plays a script on the pages, with further arguments.
+  static CommandResult Wizard(const std::string& book, const std::string& script,
+                              std::vector<std::string> more = {});
+  static std::string Charts(const std::string& book);
+  static std::string Definition(const std::string& book, const std::string& chart);
+
+  TempFolder folder_;
+};
+
+}  // namespace plotsmith::test

@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+
+#include "xlsx/CellLook.h"
+#include "xlsx/drawing/Theme.h"
+#include "xlsx/sheet/Styles.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+using S = std::string;
+
+/// Excel's colour from red, green and blue.
+constexpr std::int32_t Rgb(std::int32_t rgb) { return (rgb & 0xFF) << 16 | (rgb & 0xFF00) | rgb >> 16; }
+
+TEST(CellLookTest, BordersHaveWidthAndColor) {
+  const Styles styles(
+      "<styleSheet><borders><border/><border><start style=\"thin\"><color rgb=\"FFFF0000\"/></start>"
+      "<right style=\"none\"/><top style=\"thick\"/><bottom style=\"mediumDashed\"><color "
+      "auto=\"1\"/></bottom>"
+      "</border></borders><cellXfs><xf/><xf borderId=\"1\"/></cellXfs></styleSheet>");
+  const CellLook look = LookOf(styles, Theme(""), 1);
+  EXPECT_EQ(look.left, (BorderLine{1, Rgb(0xFF0000)}));
+  EXPECT_EQ(look.top, (BorderLine{3, std::nullopt}));
+  EXPECT_EQ(look.right, BorderLine());
+  EXPECT_EQ(look.bottom, (BorderLine{2, std::nullopt}));
+}
+
+TEST(CellLookTest, FontFillingAndAlignmentComeFromTheStyle) {
+  const struct {
+    const char* font;
+    const char* fill;
+    const char* style;  ///< attributes and content of xf
+    CellLook look;
+  } cases[] = {
+      {"<sz val=\"11\"/><name val=\"Calibri\"/>",
+       "<patternFill patternType=\"none\"/>",
+       "/>",
+       {.font = "Calibri", .size = 11}},
+      {"<b/><i val=\"1\"/><u/><strike/><sz val=\"20\"/><color rgb=\"FF123456\"/><name val=\"Arial\"/>",
+       "<patternFill patternType=\"solid\"><fgColor rgb=\"FFFFEE00\"/><bgColor "
+       "indexed=\"64\"/></patternFill>",
+       "><alignment horizontal=\"center\" vertical=\"top\" wrapText=\"1\" indent=\"2\"/></xf>",
+       {HorizontalAlignment::kCenter, VerticalAlignment::kTop, 2, true, true, true, true, true, "Arial", 20,
+        Rgb(0x123456), Rgb(0xFFEE00)}},
+      // off again, and out of any range
+      {"<b val=\"0\"/><u val=\"none\"/><sz val=\"9999\"/><name val=\"Arial\"/><color auto=\"1\"/>",
+       "<patternFill patternType=\"solid\"><fgColor indexed=\"64\"/></patternFill>",
+       "><alignment horizontal=\"right\" vertical=\"center\" indent=\"-3\"/></xf>",
+       {.horizontal = HorizontalAlignment::kRight,
+        .vertical = VerticalAlignment::kCenter,
+        .font = "Arial",
+        .size = 409}},
+      // the theme's first accent, and its dark text colour made lighter by half
+      {"<name val=\"Arial\"/><sz val=\"8\"/><color theme=\"4\"/>",
+       "<patternFill patternType=\"solid\"><fgColor theme=\"1\" tint=\"0.5\"/></patternFill>",
+       "/>",
+       {.font = "Arial", .size = 8, .textColor = Rgb(0x4F81BD), .fillColor = Rgb(0x7F7F7F)}},
+      {"<name val=\"Arial\"/><sz val=\"8\"/><color rgb=\"FF808080\" tint=\"-0.5\"/>",
+       "<patternFill patternType=\"solid\"><fgColor indexed=\"10\"/></patternFill>",
+       "/>",
+       {.font = "Arial", .size = 8, .textColor = Rgb(0x404040), .fillColor = Rgb(0xFF0000)}},
+      // one colour for a pattern and for a gradient
+      {"<name val=\"Arial\"/><sz val=\"8\"/>",
+       "<patternFill patternType=\"gray125\"><fgColor rgb=\"FF000000\"/><bgColor "
+       "rgb=\"FF00FF00\"/></patternFill>",
+       "/>",
+       {.font = "Arial", .size = 8, .fillColor = Rgb(0x00FF00)}},
+      {"<name val=\"Arial\"/><sz val=\"8\"/>",
+       "<gradientFill><stop position=\"0\"><color rgb=\"FF0000FF\"/></stop><stop "
+       "position=\"1\"/></gradientFill>",
+       "/>",
+       {.font = "Arial", .size = 8, .fillColor = Rgb(0x0000FF)}},
+  };
+  const Theme theme("");
+  for (const auto& c : cases) {
+    const Styles styles("<styleSheet><fonts><font><name val=\"X\"/></font><font>" + S(c.font) +
+                        "</font></fonts><fills><fill/><fill>" + c.fill +
+                        "</fill></fills><cellXfs><xf/><xf fontId=\"1\" fillId=\"1\"" + c.style +
+                        "</cellXfs></styleSheet>");
+    const CellLook look = LookOf(styles, theme, 1);
+    EXPECT_EQ(look, c.look) << c.font << c.fill << c.style << "\ntext " << look.textColor.value_or(-1)
+                            << " fill " << look.fillColor.value_or(-1);
+    EXPECT_EQ(LookOf(styles, theme, 7).font, "X");  // of a style that isn't there
+  }
+}
+
+}  // namespace
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,62 @@
+#include <cmath>
+#include <gtest/gtest.h>
+#include <string>
+
+#include "xlsx/sheet/IsoDate.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+struct Case {
+  double serial;
+  const char* format;
+  DateSystem dates;
+  const char* iso;  ///< empty for a number that is shown without one
+};
+
+constexpr auto k1900 = DateSystem::k1900, k1904 = DateSystem::k1904;
+
+TEST(IsoDateTest, ASerialIsWhatItsFormatShows) {
+  const Case cases[] = {
+      {45000, "yyyy-mm-dd", k1900, "2023-03-15"},
+      {45000.999, "d mmm", k1900, "2023-03-15"},
+      {43538, "yyyy", k1904, "2023-03-15"},
+      {0, "d", k1904, "1904-01-01"},
+      {1, "d", k1900, "1900-01-01"},
+      {59, "d", k1900, "1900-02-28"},
+      {60, "d", k1900, ""},
+      {61, "d", k1900, "1900-03-01"},
+      {0, "d", k1900, ""},
+      {-1, "d", k1904, ""},
+      {2958465, "d", k1900, "9999-12-31"},
+      {2958466, "d", k1900, ""},
+      {2957004, "d", k1904, ""},
+      {1e300, "d", k1900, ""},
+      {45000.5, "yyyy-mm-dd hh:mm", k1900, "2023-03-15T12:00:00"},
+      {45000, "m/d h AM/PM", k1900, "2023-03-15T00:00:00"},
+      {45000.99999999999, "d h:mm", k1900, "2023-03-16T00:00:00"},
+      {0.75, "h:mm", k1900, "18:00:00"},
+      {45000.75, "h:mm AM/PM", k1900, "18:00:00"},
+      {0.5 + 1.5 / 86400, "mm:ss.0", k1900, "12:00:01.5"},
+      {-0.5, "h:mm", k1900, ""},
+      {1.5, "[h]:mm", k1900, "PT36H"},
+      {-1.0 / 24 - 61.25 / 86400, "[m]", k1904, "-PT1H1M1.25S"},
+      {0, "[ss]", k1900, "PT0S"},
+      {45000, "0.00", k1900, ""},
+      {45000, "General", k1900, ""},
+      {-5, "d;0.0", k1904, ""},
+  };
+  for (const Case& one : cases) {
+    const DateFields fields = NumberFormat::Parse(one.format)->FieldsOf(one.serial);
+    const std::string text = IsoText(one.serial, fields, one.dates);
+    EXPECT_EQ(text, one.iso) << one.serial << ' ' << one.format;
+    const auto read = ParseIsoDate(text, one.dates);
+    const bool isWhole = fields == DateFields::kDateTime ||
+                         (fields == DateFields::kDate && one.serial == std::floor(one.serial));
+    if (text.empty() || !isWhole) continue;
+    EXPECT_NEAR(read.value_or(-1), one.serial, 1e-8) << text;
+  }
+}
+
+}  // namespace
+}  // namespace plotsmith::xlsx

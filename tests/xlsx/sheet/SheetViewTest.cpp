@@ -1,0 +1,109 @@
+#include <gtest/gtest.h>
+
+#include "runtime/RuntimeError.h"
+#include "tests/support/ErrorOf.h"
+#include "tests/support/HostTest.h"
+#include "xlsx/Worksheet.h"
+#include "xlsx/package/MemoryStream.h"
+#include "xlsx/sheet/SheetView.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+using S = std::string;
+
+S Text(const SheetView& view) {
+  const auto cell = [](const CellPlace& place) {
+    return " " + std::to_string(place.row) + "," + std::to_string(place.column);
+  };
+  return S(view.gridLines ? "lines " : "") + (view.headings ? "heads" : "") + cell(view.topLeft) +
+         cell(view.activeCell) + cell({view.frozenRows, view.frozenColumns});
+}
+
+TEST(SheetViewTest, TellsHowTheFirstWindowShowsTheSheet) {
+  const struct {
+    const char* views;
+    SheetView view;
+  } cases[] = {
+      {"", {}},
+      {"<sheetViews><sheetView workbookViewId=\"0\"/></sheetViews>", {}},
+      {"<sheetViews><sheetView showGridLines=\"0\" showRowColHeaders=\"false\" "
+       "topLeftCell=\"C9\"/></sheetViews>",
+       {false, false, {9, 3}, {1, 1}, 0, 0}},
+      {"<x:sheetViews><x:sheetView><x:selection activeCell=\"B7\" "
+       "sqref=\"A1:B7\"/></x:sheetView></x:sheetViews>",
+       {true, true, {1, 1}, {7, 2}, 0, 0}},
+      {"<sheetViews><sheetView><pane xSplit=\"2\" ySplit=\"1\" topLeftCell=\"F90\" "
+       "activePane=\"bottomRight\" "
+       "state=\"frozen\"/><selection pane=\"topRight\" activeCell=\"D1\"/>"
+       "<selection pane=\"bottomRight\" activeCell=\"G95\"/></sheetView></sheetViews>",
+       {true, true, {90, 6}, {95, 7}, 1, 2}},
+      // a split that isn't frozen counts in points, and what no sheet has is nothing
+      {"<sheetViews><sheetView><pane xSplit=\"2000\" ySplit=\"300\"/></sheetView></sheetViews>", {}},
+      {"<sheetViews><sheetView topLeftCell=\"?\"><pane ySplit=\"-4\" xSplit=\"99999\" state=\"frozen\"/>"
+       "</sheetView></sheetViews>",
+       {true, true, {1, 1}, {1, 1}, 0, 16383}},
+      // the second view is another window's
+      {"<sheetViews><sheetView/><sheetView showGridLines=\"0\" topLeftCell=\"C9\"/></sheetViews>", {}},
+  };
+  for (const auto& c : cases) {
+    const S part = "<worksheet>" + S(c.views) + "<sheetData/></worksheet>";
+    MemoryStream stream(part);
+    EXPECT_EQ(Text(ReadSheetView(stream)), Text(c.view)) << c.views;
+  }
+}
+
+class LookedAtTest : public test::HostTest {};
+
+TEST_F(LookedAtTest, TheViewFollowsTheWindowAndTheActiveCell) {
+  Open(test::SalesBook({}));
+  const auto sheet = Book().FindWorksheet("Data1");
+  const auto calls = host_->Journal().CallCount(), activations = Book().Activations();
+  EXPECT_EQ(sheet->View(), SheetView());
+  EXPECT_EQ(host_->Journal().CallCount(), calls);
+
+  host_->ActiveWindow()->SetDisplayGridlines(false);
+  EXPECT_EQ(Book().Activations(), activations);
+  sheet->Cells(4, 2)->Activate();
+  EXPECT_EQ(sheet->View(), (SheetView{false, true, {1, 1}, {4, 2}, 0, 0}));
+  EXPECT_EQ(host_->Journal().CallCount(), calls + 2);
+  EXPECT_EQ(Book().Activations(), activations + 1);
+  Book().FindWorksheet("Charts")->Activate();
+  EXPECT_EQ(Book().Activations(), activations + 2);
+}
+
+TEST_F(LookedAtTest, MergedCellsComeFromThePlaceWhereTheSchemaHasThem) {
+  const struct {
+    const char* behindCells;
+    std::vector<CellRange> merged;
+  } cases[] = {
+      {"", {}},
+      {"<mergeCells count=\"2\"><mergeCell ref=\"A8:B8\"/><mergeCell ref=\"D1:D3\"></mergeCell></mergeCells>",
+       {{8, 1, 8, 2}, {1, 4, 3, 4}}},
+      {"<sheetProtection/><autoFilter ref=\"A1:D5\"><filterColumn colId=\"0\"><mergeCell ref=\"A1:B1\"/>"
+       "</filterColumn></autoFilter><mergeCells><mergeCell ref=\"C2:D2\"/><mergeCell "
+       "ref=\"?\"/></mergeCells>",
+       {{2, 3, 2, 4}}},
+      {"<pageMargins/><mergeCells><mergeCell ref=\"C2:D2\"/></mergeCells>", {}},
+  };
+  for (const auto& c : cases) {
+    auto book = test::SalesBook({});
+    book.Sheet("Data1").afterData = c.behindCells;
+    Open(book);
+    EXPECT_EQ(Book().FindWorksheet("Data1")->MergedCells(), c.merged) << c.behindCells;
+  }
+}
+
+TEST_F(LookedAtTest, WhatIsOnlyLookedAtDoesNotDamageTheWorkbook) {
+  auto book = test::SalesBook({});
+  book.Sheet("Charts").beforeData = "<!DOCTYPE a>";
+  Open(book);
+  const auto read = [&] { Book().FindWorksheet("Charts")->UsedCells(); };
+  EXPECT_EQ(test::ErrorOf([&] { Book().Viewed(read); }), runtime::error::kApplication);
+  EXPECT_FALSE(Book().Damage());
+  EXPECT_EQ(test::ErrorOf(read), runtime::error::kApplication);
+  EXPECT_TRUE(Book().Damage());
+}
+
+}  // namespace
+}  // namespace plotsmith::xlsx
