@@ -1,7 +1,9 @@
 #include <fcntl.h>
 #include <io.h>
-#include <shellapi.h>
+// clang-format off: windows.h comes before what builds upon it
 #include <windows.h>
+#include <shellapi.h>
+// clang-format on
 
 #include "cli/Platform.h"
 
