@@ -122,6 +122,8 @@ build() {
     -DBUILD_TOOLS=OFF -DBUILD_REGRESS=OFF -DBUILD_EXAMPLES=OFF -DBUILD_DOC=OFF
   build_with_cmake /usr/src/googletest googletest -DBUILD_GMOCK=OFF
   build_isal
+  # beside it in its own folder lies the library for zlib1.dll, which CMake would take first
+  cp "/usr/$triple/lib/libz.a" "$prefix/lib/"
   describe pugixml 1 -lpugixml
   describe expat 1 -lexpat -DXML_STATIC
   describe libutf8proc 1 -lutf8proc -DUTF8PROC_STATIC
