@@ -1,6 +1,7 @@
 #include <fcntl.h>
 #include <io.h>
-// clang-format off: windows.h comes before what builds upon it
+// windows.h comes before what builds upon it
+// clang-format off
 #include <windows.h>
 #include <shellapi.h>
 // clang-format on
