@@ -1,6 +1,6 @@
 # The newcomer's commands. All building is done by CMake; see CMakePresets.json for the ways to build.
 
-.PHONY: build install uninstall demo check check-windows sanitize fuzz bench docs clean
+.PHONY: build install uninstall demo check check-windows package sanitize fuzz bench docs clean
 
 build:
 	@scripts/install-dependencies.sh
@@ -15,7 +15,8 @@ install: build
 uninstall:
 	@scripts/uninstall.sh
 
-# Builds the command, refreshes the example workbooks into demo/ and makes pictures of them where LibreOffice is present.
+# Builds the command, refreshes the example workbooks into demo/ and makes pictures of them where LibreOffice is present,
+# and of the pages of the wizard.
 demo:
 	@scripts/install-dependencies.sh
 	@cmake --preset release
@@ -29,6 +30,10 @@ check: build
 # Builds for Windows and compares the command under Wine with the one for Linux.
 check-windows:
 	@scripts/check-windows.sh
+
+# Makes the Debian packages in build/packages: plotsmith, and plotsmith-wizard.
+package:
+	@scripts/package.sh
 
 # All tests under the address and undefined-behaviour sanitizers.
 sanitize:

@@ -10,4 +10,9 @@ if [ ! -d "$locales/de_DE.UTF-8" ]; then
 fi
 echo "With a decimal comma:"
 LOCPATH=$locales LC_ALL=de_DE.UTF-8 build/tests/plotsmith_tests --gtest_brief=1
+if [ -x build/tests/qt/plotsmith_qt_tests ]; then
+  LOCPATH=$locales LC_ALL=de_DE.UTF-8 build/tests/qt/plotsmith_qt_tests --gtest_brief=1
+else
+  echo "The tests of the wizard's windows are left out, as Qt 6 Widgets isn't there."
+fi
 ctest --preset release -j "$(nproc)"

@@ -1,5 +1,6 @@
 #!/bin/sh
-# Refreshes the example workbooks, makes the charts of one from plain tables, and takes pictures where LibreOffice is.
+# Refreshes the example workbooks, makes the charts of one from plain tables, and takes pictures where LibreOffice is;
+# then of the pages of the wizard where Qt is.
 set -eu
 cd "$(dirname "$0")/.."
 mkdir -p demo
@@ -41,3 +42,12 @@ new "strategic bucket" --title "Amounts and targets" --categories Product --seri
   --labels names --new-sheet Buckets
 echo "$book: made from two plain tables; these are its charts:"
 show orders 4
+
+if grep -q '^Qt6Widgets_DIR:PATH=/' build/CMakeCache.txt; then
+  cmake --build build --target plotsmith-wizard plotsmith_wizard_shots
+  scripts/wizard-shots.sh build demo/wizard
+  echo "demo/wizard: the pages of the wizard, light and dark"
+  echo "build/plotsmith wizard demo/orders.xlsx opens the wizard on that workbook"
+else
+  echo "(Qt 6 Widgets would make the wizard's window and pictures of its pages)"
+fi

@@ -1,9 +1,11 @@
 #!/bin/sh
 # Installs what the build needs and isn't there, from Debian's packages; and those named as arguments.
+# PLOTSMITH_NO_QT=1 leaves out Qt; then everything is built but the wizard's windows.
 set -eu
 
 packages="g++ cmake ninja-build pkg-config libpugixml-dev libexpat1-dev libzip-dev libisal-dev libutf8proc-dev libcli11-dev
 nlohmann-json3-dev libxml2-dev libgtest-dev libbenchmark-dev python3"
+[ -n "${PLOTSMITH_NO_QT:-}" ] || packages="$packages qt6-base-dev"
 
 missing=""
 for package in $packages "$@"; do

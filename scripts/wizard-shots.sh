@@ -1,9 +1,10 @@
 #!/bin/sh
-# Takes the pictures of the wizard's pages anew: docs/images/wizard, light and dark, at scale 1 and 2.
+# Takes the pictures of the wizard's pages anew, light and dark, at scale 1 and 2.
+# Usage: scripts/wizard-shots.sh [BUILD [FOLDER]]; FOLDER is docs/images/wizard unless it is given.
 set -eu
 cd "$(dirname "$0")/.."
 build=${1:-build}
-folder=docs/images/wizard
+folder=${2:-docs/images/wizard}
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 mkdir -p "$folder"

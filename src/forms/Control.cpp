@@ -52,6 +52,12 @@ std::string Control::AccessibleName() const {
   return container_->AccessibleName() + (kind.empty() ? "" : ", " + kind);
 }
 
+std::string Control::AccessibleDescription() const {
+  if (container_ == nullptr) return {};
+  const std::string frame = container_->AccessibleName();
+  return AccessibleName().starts_with(frame) ? std::string() : frame;
+}
+
 void Control::SetFocus() {
   if (!UserFocus()) throw RuntimeError(runtime::error::kInvalidCall);
 }

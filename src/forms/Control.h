@@ -69,6 +69,8 @@ class Control {
   std::string AccessibleName() const;
   void SetAccessibleName(std::string value);
   ///@}
+  /// What a screen reader says behind the name: which frame the control is in, unless its name says so.
+  std::string AccessibleDescription() const;
 
   /// Moves the focus here: the control that had it raises Validate, then this one raises GotFocus. Error 5 if
   /// the control is off or hidden or takes no focus.

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <algorithm>
+#include <cctype>
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 #include "forms/Control.h"
 
@@ -48,6 +51,8 @@ class Image : public Control {
   const char* TypeName() const override { return "Image"; }
 
  protected:
+  /// The name in words, "Sample: column stack" for imgColumnStack.
+  std::string CaptionText() const override;
   bool TakesFocus() const override { return false; }
 };
 
@@ -68,6 +73,17 @@ class ProgressBar : public Control {
  private:
   std::int32_t value_ = kMin;
 };
+
+inline std::string Image::CaptionText() const {
+  std::string words = "Sample:";
+  for (std::size_t i = std::string_view("img").size(); i < Name().size(); ++i) {
+    const auto character = static_cast<unsigned char>(Name()[i]);
+    const bool isInNumber = i > 0 && std::isdigit(static_cast<unsigned char>(Name()[i - 1])) != 0;
+    if (std::isupper(character) != 0 && !isInNumber) words += ' ';
+    words += static_cast<char>(std::tolower(character));
+  }
+  return words;
+}
 
 inline void Frame::SetFontBold(bool value) {
   bold_ = value;

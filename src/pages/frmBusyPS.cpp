@@ -14,6 +14,7 @@ constexpr std::int32_t kProgressStep = 5;
 
 frmBusyPS::frmBusyPS(BusyWork oWork) : Form("frmBusyPS"), oWork_(std::move(oWork)) {
   SetCaption("Please Wait");
+  ProgressBar1.SetAccessibleName("Progress");
   Timer1.Tick = [this] { Timer1_Timer(); };
 }
 

@@ -61,8 +61,6 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   /// Error 1004 on a sheet with merged cells, which would have to move as they are.
   void SortCells(const CellRange& range, const SortOptions& options);
   const SheetGeometry& Geometry();
-  /// An index into the workbook's cell styles; 0 where there is no cell.
-  std::uint32_t StyleAt(std::int32_t row, std::int32_t column);
   /// Cells that are shown as one, as the file has them.
   const std::vector<CellRange>& MergedCells() { return Contents().mergedCells; }
   /// How the workbook's first window shows the sheet.

@@ -157,11 +157,9 @@ TEST_F(WizardCommandTest, FilesAndLocksAreSeenTo) {
   EXPECT_TRUE(
       result.err.starts_with("plotsmith: " + script + ":3: frmPSLayoutABC has no control 'cmdBak'; it has "))
       << result.err;
-  result = RunCommand({"wizard", book});
+  result = RunCommand({"wizard", book, "--show"});
   EXPECT_EQ(result.code, 2);
-  EXPECT_EQ(result.err,
-            "plotsmith: the wizard has no window yet; --script FILE plays a script on its pages, and new, "
-            "modify, copy and delete go through them by themselves.\n");
+  EXPECT_EQ(result.err, "plotsmith: --show requires --script (try plotsmith --help)\n");
   for (const S& path : {folder_ / "none.txt", folder_.Path().string()}) {
     result = RunCommand({"wizard", book, "--script", path});
     EXPECT_EQ(result.code, 3);

@@ -2,37 +2,42 @@
 
 #include <fstream>
 #include <utility>
+#include <vector>
 
 #include "cli/FormPrinter.h"
+#include "cli/OtherProgram.h"
 #include "cli/wizard/WizardRun.h"
 #include "runtime/Utf8Path.h"
+#include "runtime/Variant.h"
 
 namespace plotsmith::cli {
 namespace {
 
 constexpr const char* kStandardInput = "-";
+/// The program that has the pages' windows. It is one of its own because the command would start more slowly
+/// if it were linked with a toolkit.
+constexpr const char* kWindowProgram = "plotsmith-wizard";
 
 }  // namespace
 
 CLI::App* WizardCommand::Declare(CLI::App& app) {
   CLI::App* verb =
-      app.add_subcommand("wizard", "Go through the pages of the wizard by a script, a gesture a line");
-  verb->footer("plotsmith wizard BOOK --script FILE [-o FILE] [--show] [--json]");
+      app.add_subcommand("wizard", "Open the wizard's window, or go through its pages by a script");
+  verb->footer(
+      "plotsmith wizard BOOK [-o FILE]\n"
+      "plotsmith wizard BOOK --script FILE [-o FILE] [--show] [--json]");
   verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm)")->required();
-  verb->add_option("--script", script_, "The script; \"-\" is the standard input")->type_name("FILE");
+  CLI::Option* const script =
+      verb->add_option("--script", script_, "The script, a gesture a line; \"-\" is the standard input")
+          ->type_name("FILE");
   verb->add_option("-o,--output", output_, kOutputDescription)->type_name("FILE");
-  verb->add_flag("--show", show_, "Print the page that is open when the script ends");
-  verb->add_flag("--json", json_, "Print pages as JSON");
+  verb->add_flag("--show", show_, "Print the page that is open when the script ends")->needs(script);
+  verb->add_flag("--json", json_, "Print pages as JSON")->needs(script);
   return verb;
 }
 
 int WizardCommand::Run(const GlobalOptions& options, const Streams& streams) {
-  if (!script_) {
-    throw CommandError(
-        exit_code::kUsage,
-        "the wizard has no window yet; --script FILE plays a script on its pages, and new, modify, copy and "
-        "delete go through them by themselves.");
-  }
+  if (!script_) OpenWindow(options);
   if (*script_ == kStandardInput) return Play(streams.in, options, streams);
   std::ifstream file(runtime::PathOf(*script_), std::ios::binary);
   // a folder can be opened, but nothing can be read from it
@@ -40,6 +45,24 @@ int WizardCommand::Run(const GlobalOptions& options, const Streams& streams) {
     throw CommandError(exit_code::kFile, "can't read \"" + *script_ + "\".");
   }
   return Play(file, options, streams);
+}
+
+void WizardCommand::OpenWindow(const GlobalOptions& options) const {
+  const std::string program = FindProgram(kWindowProgram);
+  if (program.empty()) {
+    throw CommandError(
+        exit_code::kUsage,
+        "the wizard's window is the program plotsmith-wizard, which isn't installed; --script FILE "
+        "plays a script on the wizard's pages, and new, modify, copy and delete go through them by "
+        "themselves.");
+  }
+  // The equals sign and "--" are there for file names that begin with a dash.
+  std::vector<std::string> arguments = {"--host-version", runtime::NumberText(options.hostVersion)};
+  if (options.journal) arguments.emplace_back("--journal");
+  if (options.force) arguments.emplace_back("--force");
+  if (output_) arguments.push_back("--output=" + *output_);
+  arguments.insert(arguments.end(), {"--", book_});
+  BecomeProgram(program, arguments);
 }
 
 int WizardCommand::Play(std::istream& script, const GlobalOptions& options, const Streams& streams) const {

@@ -63,11 +63,21 @@ std::unique_ptr<ControlView> MakeControlView(forms::Control& control, QWidget* p
 void ControlView::Dress() { Widget().setObjectName(TextOf(model_.FullName())); }
 
 void ControlView::Report(std::function<void()> gesture) {
+  ++waiting_;
+  post_([this, gesture = std::move(gesture)] {
+    --waiting_;
+    touched_ = true;
+    gesture();
+  });
+}
+
+void ControlView::ForgetGestures() {
+  waiting_ = 0;
   touched_ = true;
-  post_(std::move(gesture));
 }
 
 void ControlView::Update() {
+  if (waiting_ > 0) return;  // the widget is ahead of the control, as when a hand types while a page works
   if (model_.Changes() == shown_ && !std::exchange(touched_, false)) return;
   touched_ = false;
   shown_ = model_.Changes();
@@ -75,6 +85,7 @@ void ControlView::Update() {
   widget.setEnabled(model_.Enabled());
   widget.setVisible(model_.Visible());
   widget.setAccessibleName(TextOf(model_.AccessibleName()));
+  widget.setAccessibleDescription(TextOf(model_.AccessibleDescription()));
   ShowColors();
   ShowFont();
   Show();

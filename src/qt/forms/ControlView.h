@@ -36,6 +36,8 @@ class ControlView {
   virtual QWidget& Widget() = 0;
   /// Shows the state of the control, if it has changed since the last time or a hand has touched the widget.
   void Update();
+  /// Gestures that were reported and not performed by now never will be.
+  void ForgetGestures();
 
  protected:
   ControlView(forms::Control& model, Post post) : model_(model), post_(std::move(post)) {}
@@ -56,6 +58,7 @@ class ControlView {
   Post post_;
   std::uint64_t shown_ = 0;
   bool touched_ = true;
+  int waiting_ = 0;  ///< gestures that were reported and not performed yet
 };
 
 /// The view for a control; null for a kind that isn't seen, such as a timer.

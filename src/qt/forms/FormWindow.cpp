@@ -6,6 +6,7 @@
 #include <QtGui/QMouseEvent>
 #include <QtGui/QScreen>
 #include <QtGui/QStyleHints>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QPushButton>
@@ -112,6 +113,11 @@ void FormWindow::Update() {
   }
 }
 
+void FormWindow::ComeBack() {
+  for (const auto& view : views_) view->ForgetGestures();
+  if (form_.Visible()) activateWindow();
+}
+
 void FormWindow::UpdateFocus() {
   const forms::Control* const active = form_.ActiveControl();
   QWidget* const widget = active == nullptr ? nullptr : WidgetOf(*active);
@@ -132,6 +138,7 @@ bool FormWindow::eventFilter(QObject* object, QEvent* event) {
   if (control == nullptr) return false;
   switch (event->type()) {
     case QEvent::FocusIn: {
+      scroll_->ensureWidgetVisible(static_cast<QWidget*>(object));
       const auto reason = static_cast<QFocusEvent*>(event)->reason();
       const bool isReturn = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
       if (!movesFocus_ && !isReturn) post_([control] { control->UserFocus(); });
@@ -139,6 +146,13 @@ bool FormWindow::eventFilter(QObject* object, QEvent* event) {
     }
     case QEvent::KeyPress:
       return TakeKey(static_cast<QWidget&>(*object), static_cast<QKeyEvent&>(*event));
+    case QEvent::Wheel: {
+      // The wheel that scrolls the page must not change a box that comes below the pointer.
+      const auto* box = qobject_cast<QComboBox*>(object);
+      if (box == nullptr || box->hasFocus()) return false;
+      event->ignore();
+      return true;
+    }
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
       return qobject_cast<QPushButton*>(object) != nullptr &&
@@ -148,12 +162,14 @@ bool FormWindow::eventFilter(QObject* object, QEvent* event) {
   }
 }
 
-// A key that is held down counts once: it must not run through all pages.
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (!TakeKey(*this, *event)) QWidget::keyPressEvent(event);
+}
+
 bool FormWindow::TakeKey(const QWidget& widget, const QKeyEvent& event) {
   const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
   if (isEnter && qobject_cast<const QPlainTextEdit*>(&widget) != nullptr) return false;
   if (!isEnter && event.key() != Qt::Key_Escape && event.key() != Qt::Key_F1) return false;
-  if (event.isAutoRepeat()) return true;
   if (isEnter) {
     post_([this] { form_.UserEnter(); });
   } else if (event.key() == Qt::Key_Escape) {
@@ -165,11 +181,11 @@ bool FormWindow::TakeKey(const QWidget& widget, const QKeyEvent& event) {
 }
 
 bool FormWindow::IsSecondPress(const QMouseEvent& event) {
-  const LastPress last = std::exchange(lastPress_, {this, event.timestamp(), event.globalPosition()});
+  const LastPress last = std::exchange(lastPress_, {event.timestamp(), event.globalPosition()});
   if (event.type() == QEvent::MouseButtonDblClick) return true;
   const auto interval = static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
   const int reach = QGuiApplication::styleHints()->mouseDoubleClickDistance();
-  return last.window != nullptr && last.window != this && event.timestamp() - last.time < interval &&
+  return last.time && event.timestamp() - *last.time < interval &&
          (event.globalPosition() - last.place).manhattanLength() <= reach;
 }
 

@@ -4,6 +4,7 @@
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QWidget>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "forms/Form.h"
@@ -17,9 +18,8 @@ namespace plotsmith::qt {
 /// The last press of the mouse on a button of any window. The second half of a double click on a button that
 /// opens the next page must not press the button of that page which happens to lie below the pointer.
 struct LastPress {
-  const QWidget* window = nullptr;
-  quint64 time = 0;  ///< milliseconds, by the events' own clock
-  QPointF place;     ///< on the screen
+  std::optional<quint64> time;  ///< milliseconds, by the events' own clock; absent: there was none
+  QPointF place;                ///< on the screen
 };
 
 /// The window of a form.
@@ -33,11 +33,15 @@ class FormWindow final : public QWidget {
   forms::Form& Model() const { return form_; }
   /// Shows the state of the form, where it has changed.
   void Update();
+  /// The window is in front again. Gestures on it were dropped while it wasn't.
+  void ComeBack();
   /// The widget of a control; null for a control that isn't seen.
   QWidget* WidgetOf(const forms::Control& control) const;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  /// Keys go to the window itself while none of its controls has the focus.
+  void keyPressEvent(QKeyEvent* event) override;
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:

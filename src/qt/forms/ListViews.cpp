@@ -51,6 +51,8 @@ void ComboBoxView::Show() {
     box_->addItems(entries);
   }
   box_->setCurrentIndex(model_.ListIndex());
+  // on Linux, Qt tells the current entry where the name of a box belongs
+  box_->setAccessibleDescription(TextOf(model_.AccessibleName()));
   if (!box_->isEditable()) return;
   const QString text = TextOf(model_.Text());
   if (box_->currentText() != text) box_->setEditText(text);

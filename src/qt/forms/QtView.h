@@ -6,6 +6,7 @@
 
 #include "forms/ModalLoop.h"
 #include "qt/forms/FormWindow.h"
+#include "qt/forms/HeldKeys.h"
 
 namespace plotsmith::qt {
 
@@ -40,6 +41,7 @@ class QtView final : public forms::View {
   };
 
   QWidget* owner_;
+  HeldKeys heldKeys_;
   LastPress lastPress_;
   std::vector<std::unique_ptr<FormWindow>> windows_;
   std::vector<Gesture> pending_;

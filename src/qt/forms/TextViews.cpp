@@ -1,6 +1,7 @@
 #include "qt/forms/TextViews.h"
 
 #include <QtCore/QSignalBlocker>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPlainTextEdit>
 #include <algorithm>
@@ -8,10 +9,25 @@
 namespace plotsmith::qt {
 namespace {
 
+/// What can't be typed becomes a blank: control characters other than those allowed, and half of a character
+/// of two UTF-16 units, which is left where there was no room for the whole.
 void ReplaceUntypeable(QString& text, const QString& allowed) {
-  for (QChar& character : text) {
-    if (character < QLatin1Char(' ') && !allowed.contains(character)) character = QLatin1Char(' ');
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    const bool isPair = text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
+    if (isPair) {
+      ++i;
+    } else if (text[i].isSurrogate() || (text[i] < QLatin1Char(' ') && !allowed.contains(text[i]))) {
+      text[i] = QLatin1Char(' ');
+    }
   }
+}
+
+/// The text with a line end for each kind of line end that the box has. QPlainTextEdit::toPlainText would
+/// turn no-break spaces into blanks.
+QString LinesIn(const QPlainTextEdit& edit) {
+  QString text = edit.document()->toRawText();
+  return text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'))
+      .replace(QChar::LineSeparator, QLatin1Char('\n'));
 }
 
 class LineView final : public ControlView {
@@ -22,6 +38,7 @@ class LineView final : public ControlView {
     QObject::connect(edit_, &QLineEdit::textEdited, edit_, [this](const QString& text) {
       Report([this, text] { model_.UserType(TextOf(OneLine(text))); });
     });
+    QObject::connect(edit_, &QLineEdit::inputRejected, edit_, [] { QApplication::beep(); });
     Dress();
   }
   QWidget& Widget() override { return *edit_; }
@@ -52,7 +69,7 @@ class LinesView final : public ControlView {
     QObject::connect(edit_, &QPlainTextEdit::textChanged, edit_, [this] {
       const QSignalBlocker blocker(edit_);
       CutOff();
-      QString text = edit_->toPlainText();
+      QString text = LinesIn(*edit_);
       ReplaceUntypeable(text, QStringLiteral("\n\t"));
       Report([this, text] { model_.UserType(TextOf(text)); });
     });
@@ -63,7 +80,7 @@ class LinesView final : public ControlView {
  protected:
   void Show() override {
     const QString text = TextOf(forms::WithLineEnds(model_.Text(), "\n"));
-    if (edit_->toPlainText() == text) return;
+    if (LinesIn(*edit_) == text) return;
     const QSignalBlocker blocker(edit_);
     const int place = edit_->textCursor().position();
     edit_->setPlainText(text);
@@ -76,15 +93,20 @@ class LinesView final : public ControlView {
   /// How many UTF-16 units the text has too many, where a line end counts as the two that the model has.
   qsizetype TooMany() const {
     const auto most = static_cast<qsizetype>(model_.MaxLength());
-    return most == 0 ? 0 : edit_->toPlainText().size() + edit_->blockCount() - 1 - most;
+    if (most == 0) return 0;
+    const QString text = LinesIn(*edit_);
+    return text.size() + text.count(QLatin1Char('\n')) - most;
   }
 
   /// Takes away what was typed or pasted last and has no room.
   void CutOff() {
+    if (TooMany() > 0) QApplication::beep();
     QTextCursor cursor = edit_->textCursor();
     for (qsizetype over = TooMany(); over > 0 && !cursor.atStart(); over = TooMany()) {
       const qsizetype units = std::max<qsizetype>(over / 2, 1);  // at worst, all of them are line ends
-      cursor.movePosition(QTextCursor::PreviousCharacter, QTextCursor::KeepAnchor, static_cast<int>(units));
+      int from = std::max(cursor.position() - static_cast<int>(units), 0);
+      if (edit_->document()->characterAt(from).isLowSurrogate()) --from;
+      cursor.setPosition(from, QTextCursor::KeepAnchor);
       cursor.removeSelectedText();
     }
   }

@@ -4,6 +4,8 @@
 #include <QtCore/QEventLoop>
 #include <QtWidgets/QDialog>
 
+#include "qt/wizard/SecondPress.h"
+
 namespace plotsmith::qt {
 
 /// Lets windows work until `isDone` holds. No loop of Qt's own is left running, so an exception of the system
@@ -17,6 +19,7 @@ void ProcessEventsUntil(const Condition& isDone) {
 inline int RunDialog(QDialog& dialog) {
   dialog.setModal(true);
   dialog.show();
+  new SecondPress(dialog);
   ProcessEventsUntil([&] { return !dialog.isVisible(); });
   return dialog.result();
 }

@@ -4,12 +4,19 @@
 #include <QtWidgets/QMessageBox>
 #include <utility>
 
+#include "common/App.h"
 #include "common/PSConstants.h"
 #include "forms/TextBox.h"
 #include "qt/help/HelpWindow.h"
 #include "qt/wizard/EventLoop.h"
 
 namespace plotsmith::qt {
+
+namespace {
+
+constexpr qint64 kYieldInterval = 30;  // milliseconds
+
+}  // namespace
 
 WizardDesktop::WizardDesktop(std::shared_ptr<QtView> pages) : pages_(std::move(pages)) {}
 WizardDesktop::~WizardDesktop() = default;
@@ -32,6 +39,17 @@ std::int32_t WizardDesktop::MsgBox(std::string_view text, desktop::Buttons butto
   const bool isOk = RunDialog(box) == QMessageBox::Ok;
   confirmed_ = confirmed_ || (isQuestion && isOk);
   return isOk || !isQuestion ? desktop::kOk : desktop::kCancel;
+}
+
+double WizardDesktop::Timer() {
+  // A tick of the busy window asks for the time as well.
+  if (!yields_ && (!sinceYield_.isValid() || sinceYield_.hasExpired(kYieldInterval))) {
+    yields_ = true;
+    App.Forms->DoEvents();
+    yields_ = false;
+    sinceYield_.start();
+  }
+  return ConsoleDesktop::Timer();
 }
 
 HelpWindow& WizardDesktop::Help() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QElapsedTimer>
 #include <memory>
 #include <string>
 
@@ -21,6 +22,9 @@ class WizardDesktop final : public cli::ConsoleDesktop {
                       std::string_view title) override;
   /// The help is the program's own, so `file` isn't asked for.
   void ShowHelp(std::intptr_t owner, const std::string& file, std::int32_t topic) override;
+  /// The system asks for the time in the middle of its work, wherever it could yield. Often enough for a
+  /// person, but no more often, windows may work then.
+  double Timer() override;
   void SetMousePointer(std::int32_t pointer) override;
 
   /// The window that messages stay in front of while no page is open; null for none.
@@ -39,6 +43,8 @@ class WizardDesktop final : public cli::ConsoleDesktop {
   QWidget* owner_ = nullptr;
   std::unique_ptr<HelpWindow> help_;
   bool confirmed_ = false;
+  bool yields_ = false;
+  QElapsedTimer sinceYield_;
 };
 
 }  // namespace plotsmith::qt

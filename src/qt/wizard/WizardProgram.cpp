@@ -14,6 +14,7 @@
 namespace plotsmith::qt {
 namespace {
 
+constexpr const char* kLinePrefix = "plotsmith: ";  ///< in front of each line of the session
 constexpr const char* kWorkbooks = "Workbooks (*.xlsx *.xlsm)";
 
 }  // namespace
@@ -30,9 +31,11 @@ WizardProgram::WizardProgram(WizardOptions options, const cli::Streams& streams)
     : options_(std::move(options)),
       pages_(std::make_shared<QtView>()),
       desktop_(std::make_shared<WizardDesktop>(pages_)),
-      session_(options_.book, options_.global, streams, desktop_, pages_),
-      streams_(streams) {
-  session_.CheckWritable(options_.output);
+      session_(options_.book, options_.global, cli::Streams{streams.in, streams.out, said_}, desktop_,
+               pages_),
+      streams_(streams),
+      target_(options_.output) {
+  session_.CheckWritable(target_);
   window_ = std::make_unique<WizardWindow>(session_.Host(), QFileInfo(TextOf(options_.book)).fileName());
   pages_->SetOwner(window_.get());
   desktop_->SetOwner(window_.get());
@@ -46,9 +49,39 @@ WizardProgram::WizardProgram(WizardOptions options, const cli::Streams& streams)
 
 int WizardProgram::Run() {
   window_->show();
-  while (RunPages() && Finish() == Next::kRunAgain && !closing_) {
+  while (LookBeforeRun() && RunPages() && Finish() == Next::kRunAgain && !closing_) {
   }
   return cli::exit_code::kDone;
+}
+
+QString WizardProgram::TakeSaid() {
+  QString text = TextOf(said_.str());
+  said_.str({});
+  return text.remove(QLatin1String(kLinePrefix)).trimmed();
+}
+
+void WizardProgram::ShowSaid() {
+  const QString text = TakeSaid();
+  if (text.isEmpty()) return;
+  QMessageBox box(QMessageBox::Information, TextOf(std::string_view(kProductTitle)), text, QMessageBox::Ok,
+                  window_.get());
+  box.setTextFormat(Qt::PlainText);
+  RunDialog(box);
+}
+
+bool WizardProgram::LookBeforeRun() {
+  try {
+    session_.LookBeforeRun(cli::DefinitionsAre::kEdited);
+    return true;
+  } catch (const cli::CommandError&) {
+    QMessageBox box(
+        QMessageBox::Warning, TextOf(std::string_view(kProductTitle)),
+        TakeSaid() + QStringLiteral("\n\nThe wizard would lose what is said here. Go on without it?"),
+        QMessageBox::Ok | QMessageBox::Cancel, window_.get());
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::Cancel);
+    return RunDialog(box) == QMessageBox::Ok;
+  }
 }
 
 bool WizardProgram::RunPages() {
@@ -58,6 +91,8 @@ bool WizardProgram::RunPages() {
   window_->Book().Update();
   return session_.ChartsStarted() > chartsBefore_ || desktop_->Confirmed();
 }
+
+QString WizardProgram::Target() const { return TextOf(target_.value_or(options_.book)); }
 
 QString WizardProgram::Outcome() const {
   const int built = session_.ChartsStarted() - chartsBefore_;
@@ -69,7 +104,7 @@ QString WizardProgram::Outcome() const {
 
 WizardProgram::Next WizardProgram::Finish() {
   if (options_.output) {
-    if (const auto next = SaveTo(options_.output)) return *next;
+    if (const auto next = Save()) return *next;
   }
   for (;;) {
     if (const auto next = closing_ ? AskBeforeClosing() : AskToSave(Outcome())) return *next;
@@ -77,11 +112,11 @@ WizardProgram::Next WizardProgram::Finish() {
 }
 
 std::optional<WizardProgram::Next> WizardProgram::AskToSave(const QString& outcome) {
-  const QString text = outcome + QStringLiteral(" \"%1\" isn't saved yet.").arg(TextOf(options_.book));
+  const QString text = outcome + QStringLiteral(" \"%1\" isn't saved yet.").arg(Target());
   switch (window_->Ask(
       text, {QStringLiteral("&Save"), QStringLiteral("Save &As..."), QStringLiteral("&Discard")})) {
     case 0:
-      return SaveTo(std::nullopt);
+      return Save();
     case 1:
       return SaveAs();
     case 2:
@@ -94,13 +129,13 @@ std::optional<WizardProgram::Next> WizardProgram::AskToSave(const QString& outco
 std::optional<WizardProgram::Next> WizardProgram::AskBeforeClosing() {
   closing_ = true;
   QMessageBox box(QMessageBox::Question, TextOf(std::string_view(kProductTitle)),
-                  QStringLiteral("Save the changes to \"%1\"?").arg(TextOf(options_.book)),
+                  QStringLiteral("Save the changes to \"%1\"?").arg(Target()),
                   QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, window_.get());
   box.setTextFormat(Qt::PlainText);
   box.setDefaultButton(QMessageBox::Save);
   const int answer = RunDialog(box);
   if (answer == QMessageBox::Save) {
-    if (const auto next = SaveTo(std::nullopt)) return next;
+    if (const auto next = Save()) return next;
   } else if (answer == QMessageBox::Discard) {
     return Next::kQuit;
   }
@@ -109,25 +144,28 @@ std::optional<WizardProgram::Next> WizardProgram::AskBeforeClosing() {
 }
 
 std::optional<WizardProgram::Next> WizardProgram::SaveAs() {
-  QFileDialog dialog(window_.get(), QStringLiteral("Save As"), TextOf(options_.book),
-                     QString::fromLatin1(kWorkbooks));
+  QFileDialog dialog(window_.get(), QStringLiteral("Save As"), Target(), QString::fromLatin1(kWorkbooks));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QFileInfo(TextOf(options_.book)).suffix());
   if (RunDialog(dialog) != QDialog::Accepted) return std::nullopt;
-  return SaveTo(TextOf(dialog.selectedFiles().front()));
+  const auto before = std::exchange(target_, TextOf(dialog.selectedFiles().front()));
+  const auto next = Save();
+  if (!next) target_ = before;
+  return next;
 }
 
-std::optional<WizardProgram::Next> WizardProgram::SaveTo(const std::optional<std::string>& output) {
+std::optional<WizardProgram::Next> WizardProgram::Save() {
   try {
-    session_.CheckWritable(output);
-    session_.Save(output);
+    session_.CheckWritable(target_);
+    session_.Save(target_);
+    ShowSaid();
   } catch (const cli::CommandError& e) {
     Tell(window_.get(), e.what(), streams_);
     return std::nullopt;
   }
   if (closing_) return Next::kQuit;
-  const QString saved =
-      Outcome() + QStringLiteral(" Saved in \"%1\".").arg(TextOf(output.value_or(options_.book)));
+  window_->SetBookName(QFileInfo(Target()).fileName());
+  const QString saved = Outcome() + QStringLiteral(" Saved in \"%1\".").arg(Target());
   const int answer = window_->Ask(saved, {QStringLiteral("&Close"), QStringLiteral("Chart &Wizard...")});
   return answer == 1 ? Next::kRunAgain : Next::kQuit;
 }

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <sstream>
 #include <string>
 
 #include "cli/Command.h"
@@ -33,22 +34,33 @@ class WizardProgram {
   /// How the work on a workbook goes on.
   enum class Next { kRunAgain, kQuit };
 
+  /// Looks at the definitions. Where the run would lose some, the person decides; false if it must not begin.
+  bool LookBeforeRun();
+  /// Shows what the session has to say, if anything.
+  void ShowSaid();
+  /// The lines of the session since the last call, without the name of the program.
+  QString TakeSaid();
   /// Goes through the pages; true if a chart was built or deleted.
   bool RunPages();
   Next Finish();
   /// Asks Save, Save As or Discard; absent where the person goes back to the window.
   std::optional<Next> AskToSave(const QString& outcome);
   std::optional<Next> AskBeforeClosing();
+  /// Saves to a file of the person's choice, where Save saves from then on.
   std::optional<Next> SaveAs();
-  /// Saves, and asks what is next. Absent where that failed, which the person was told.
-  std::optional<Next> SaveTo(const std::optional<std::string>& output);
+  /// Saves to the target, and asks what is next. Absent where that failed, which the person was told.
+  std::optional<Next> Save();
+  /// The file that Save writes.
+  QString Target() const;
   QString Outcome() const;
 
   WizardOptions options_;
   std::shared_ptr<QtView> pages_;
   std::shared_ptr<WizardDesktop> desktop_;
+  std::ostringstream said_;  ///< what the session has to say, a line each
   cli::Session session_;
   cli::Streams streams_;
+  std::optional<std::string> target_;  ///< where Save saves; absent: the workbook's own file
   std::unique_ptr<WizardWindow> window_;
   int chartsBefore_ = 0;  ///< charts that earlier runs have built
   bool closing_ = false;  ///< the window was closed while a page was open

@@ -10,6 +10,7 @@
 
 #include "qt/book/BookView.h"
 #include "qt/wizard/EventLoop.h"
+#include "qt/wizard/SecondPress.h"
 
 namespace plotsmith::qt {
 namespace {
@@ -24,7 +25,7 @@ WizardWindow::WizardWindow(std::shared_ptr<xlsx::Application> host, const QStrin
       text_(new QLabel(bar_)),
       row_(new QHBoxLayout(bar_)) {
   setObjectName(QStringLiteral("WizardWindow"));
-  setWindowTitle(name + QStringLiteral(" - Plotsmith"));
+  SetBookName(name);
   bar_->setObjectName(QStringLiteral("bar"));
   bar_->setAutoFillBackground(true);
   bar_->setBackgroundRole(QPalette::ToolTipBase);
@@ -47,6 +48,8 @@ WizardWindow::WizardWindow(std::shared_ptr<xlsx::Application> host, const QStrin
   resize(kFirstSize);
 }
 
+void WizardWindow::SetBookName(const QString& name) { setWindowTitle(name + QStringLiteral(" - Plotsmith")); }
+
 void WizardWindow::ShowBar(const QString& text, const QStringList& buttons) {
   for (QPushButton* old : bar_->findChildren<QPushButton*>()) delete old;
   text_->setText(text);
@@ -65,6 +68,7 @@ void WizardWindow::ShowBar(const QString& text, const QStringList& buttons) {
     }
   }
   bar_->show();
+  delete std::exchange(secondPress_, new SecondPress(*bar_));
 }
 
 int WizardWindow::Ask(const QString& text, const QStringList& buttons) {

@@ -16,6 +16,8 @@ class BookView;
 
 namespace plotsmith::qt {
 
+class SecondPress;
+
 /// The window behind the pages: the workbook, and above it, once a run is over, a line that says what came of
 /// it and asks what is to be done.
 class WizardWindow final : public QMainWindow {
@@ -23,6 +25,8 @@ class WizardWindow final : public QMainWindow {
   /// `name` is that of the workbook's file.
   WizardWindow(std::shared_ptr<xlsx::Application> host, const QString& name);
 
+  /// The name of the workbook's file, which the title shows.
+  void SetBookName(const QString& name);
   qtbook::BookView& Book() { return *book_; }
   /// What Ask answers where the window was closed instead.
   static constexpr int kClosed = -1;
@@ -45,6 +49,7 @@ class WizardWindow final : public QMainWindow {
   QWidget* bar_;
   QLabel* text_;
   QHBoxLayout* row_;
+  SecondPress* secondPress_ = nullptr;
   bool asks_ = false;
   int answer_ = kClosed;
   bool answered_ = false;

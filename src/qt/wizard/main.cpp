@@ -2,6 +2,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QFileDialog>
 #include <iostream>
+#include <utility>
 
 #include "qt/wizard/EventLoop.h"
 #include "qt/wizard/WizardProgram.h"
@@ -19,28 +20,53 @@ std::string PickBook() {
   return TextOf(dialog.selectedFiles().front());
 }
 
-}  // namespace
+/// Without a screen, Qt would end the program with a report of a crash instead of a sentence.
+bool HasScreen() {
+  return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+         qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
 
-int main(int argc, char** argv) {
-  namespace cli = plotsmith::cli;
-  QApplication application(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("plotsmith-wizard"));
-  QApplication::setApplicationDisplayName(QString());
-  QApplication::setDesktopFileName(QStringLiteral("plotsmith-wizard"));
-  QApplication::setQuitOnLastWindowClosed(false);
-
-  CLI::App app("Makes, changes, copies and deletes the charts of a workbook, page by page.",
-               "plotsmith-wizard");
-  plotsmith::qt::WizardOptions options;
+/// Declares the arguments.
+void Declare(CLI::App& app, plotsmith::qt::WizardOptions& options) {
   app.add_option("BOOK", options.book, "The workbook (.xlsx, .xlsm); without one, you are asked for it");
   app.add_option("-o,--output", options.output, "Write to this file and leave BOOK as it is")
       ->type_name("FILE");
   app.add_flag("--force", options.global.force, "Also write a workbook that another program holds open");
+  app.add_flag("--journal", options.global.journal,
+               "Write down each change to the workbook as it is made, a line each");
   app.add_option("--host-version", options.global.hostVersion,
                  "Behave as Plotsmith does in this version of Excel; up to 11 and above 11 differ")
       ->type_name("NUMBER")
       ->capture_default_str();
   app.set_version_flag("-V,--version", std::string("plotsmith-wizard ") + PLOTSMITH_VERSION);
+}
+
+/// Opens the workbook, for which the person is asked where the command line names none.
+int Run(plotsmith::qt::WizardOptions options) {
+  namespace cli = plotsmith::cli;
+  if (options.book.empty()) options.book = PickBook();
+  if (options.book.empty()) return cli::exit_code::kDone;
+  const cli::Streams streams{std::cin, std::cout, std::cerr};
+  try {
+    return plotsmith::qt::WizardProgram(std::move(options), streams).Run();
+  } catch (const cli::CommandError& e) {
+    plotsmith::qt::Tell(nullptr, e.what(), streams);
+    return e.ExitCode();
+  } catch (const std::exception& e) {
+    plotsmith::qt::Tell(nullptr, std::string("something went wrong: ") + e.what(), streams);
+    return cli::exit_code::kFile;
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  namespace cli = plotsmith::cli;
+  CLI::App app("Makes, changes, copies and deletes the charts of a workbook, page by page.",
+               "plotsmith-wizard");
+  plotsmith::qt::WizardOptions options;
+  Declare(app, options);
+  // Help and version need no screen, so the arguments are read before Qt starts.
   try {
     app.parse(argc, argv);
   } catch (const CLI::Success& e) {
@@ -49,17 +75,16 @@ int main(int argc, char** argv) {
     std::cerr << "plotsmith-wizard: " << e.what() << " (try plotsmith-wizard --help)\n";
     return cli::exit_code::kUsage;
   }
-  if (options.book.empty()) options.book = PickBook();
-  if (options.book.empty()) return cli::exit_code::kDone;
-
-  const cli::Streams streams{std::cin, std::cout, std::cerr};
-  try {
-    return plotsmith::qt::WizardProgram(options, streams).Run();
-  } catch (const cli::CommandError& e) {
-    plotsmith::qt::Tell(nullptr, e.what(), streams);
-    return e.ExitCode();
-  } catch (const std::exception& e) {
-    plotsmith::qt::Tell(nullptr, std::string("something went wrong: ") + e.what(), streams);
-    return cli::exit_code::kFile;
+  if (!HasScreen()) {
+    std::cerr
+        << "plotsmith-wizard: there is no screen to show a window on; \"plotsmith new\" and its other verbs "
+           "make and change charts without one.\n";
+    return cli::exit_code::kUsage;
   }
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("plotsmith-wizard"));
+  QApplication::setApplicationDisplayName(QString());
+  QApplication::setDesktopFileName(QStringLiteral("plotsmith-wizard"));
+  QApplication::setQuitOnLastWindowClosed(false);
+  return Run(std::move(options));
 }

@@ -64,7 +64,7 @@ void TypeOver(QWidget& widget, const std::string& text) {
 
 template <class Kind>
 Kind& QtHand::Find(const forms::Control& control) const {
-  auto* widget = view_.Front()->findChild<Kind*>(qt::TextOf(control.FullName()));
+  auto* widget = front_()->findChild<Kind*>(qt::TextOf(control.FullName()));
   if (widget == nullptr) throw std::logic_error("no widget is named " + control.FullName());
   return *widget;
 }
@@ -72,7 +72,7 @@ Kind& QtHand::Find(const forms::Control& control) const {
 void QtHand::SelectRows(forms::EventQueue& queue, forms::VSFlexGrid& grid, std::vector<std::int32_t> rows) {
   for (std::int32_t& row : rows) row -= grid.FixedRows();
   ClickRows(Find<QTableWidget>(grid), rows);
-  view_.PostTo(queue);
+  post_(queue);
 }
 
 void QtHand::DoubleClickRow(forms::EventQueue& queue, forms::VSFlexGrid& grid, std::int32_t row) {
@@ -80,13 +80,13 @@ void QtHand::DoubleClickRow(forms::EventQueue& queue, forms::VSFlexGrid& grid, s
   ClickRows(table, {row - grid.FixedRows()});
   const QModelIndex index = table.model()->index(row - grid.FixedRows(), 0);
   QTest::mouseDClick(table.viewport(), Qt::LeftButton, Qt::NoModifier, table.visualRect(index).center());
-  view_.PostTo(queue);
+  post_(queue);
 }
 
 void QtHand::SelectEntries(forms::EventQueue& queue, forms::ListBox& list,
                            std::vector<std::int32_t> entries) {
   ClickRows(Find<QListWidget>(list), entries);
-  view_.PostTo(queue);
+  post_(queue);
 }
 
 void QtHand::ChooseEntry(forms::EventQueue& queue, forms::ComboBox& combo, std::int32_t entry) {
@@ -96,13 +96,13 @@ void QtHand::ChooseEntry(forms::EventQueue& queue, forms::ComboBox& combo, std::
   QTest::keyClick(entries, Qt::Key_Home);
   for (std::int32_t i = 0; i < entry; ++i) QTest::keyClick(entries, Qt::Key_Down);
   QTest::keyClick(entries, Qt::Key_Return);
-  view_.PostTo(queue);
+  post_(queue);
 }
 
 void QtHand::ChooseOption(forms::EventQueue& queue, forms::OptionButton& option) {
   auto& button = Find<QRadioButton>(option);
   QTest::mouseClick(&button, Qt::LeftButton, Qt::NoModifier, OnMark(button));
-  view_.PostTo(queue);
+  post_(queue);
 }
 
 void QtHand::Toggle(forms::EventQueue& queue, forms::CheckBox& box, bool checked) {
@@ -111,7 +111,7 @@ void QtHand::Toggle(forms::EventQueue& queue, forms::CheckBox& box, bool checked
   for (int i = 0; i < clicks; ++i) {
     QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, OnMark(widget));
   }
-  view_.PostTo(queue);
+  post_(queue);
 }
 
 void QtHand::TypeText(forms::EventQueue& queue, forms::TextBox& box, std::string text) {
@@ -119,44 +119,45 @@ void QtHand::TypeText(forms::EventQueue& queue, forms::TextBox& box, std::string
   auto* const area = qobject_cast<QPlainTextEdit*>(&widget);
   QTest::mouseClick(area == nullptr ? &widget : area->viewport(), Qt::LeftButton);
   TypeOver(widget, text);
-  view_.PostTo(queue);
+  post_(queue);
 }
 
 void QtHand::TypeText(forms::EventQueue& queue, forms::ComboBox& combo, std::string text) {
   auto& box = Find<QComboBox>(combo);
   QTest::mouseClick(box.lineEdit(), Qt::LeftButton);
   TypeOver(box, text);
-  view_.PostTo(queue);
+  post_(queue);
 }
 
 void QtHand::Press(forms::EventQueue& queue, forms::CommandButton& button) {
   QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton);
-  view_.PostTo(queue);
+  post_(queue);
 }
 
 void QtHand::Focus(forms::EventQueue& queue, forms::Control& control) {
   Find<QWidget>(control).setFocus(Qt::TabFocusReason);
-  view_.PostTo(queue);
+  post_(queue);
 }
 
 void QtHand::Key(int key) {
-  QWidget* const focus = view_.Front()->focusWidget();
-  QTest::keyClick(focus == nullptr ? view_.Front() : focus, static_cast<Qt::Key>(key));
+  QWidget* const window = front_();
+  QWidget* const focus = window->focusWidget();
+  QTest::keyClick(focus == nullptr ? window : focus, static_cast<Qt::Key>(key));
 }
 
 void QtHand::Enter(forms::EventQueue& queue, forms::Form&) {
   Key(Qt::Key_Return);
-  view_.PostTo(queue);
+  post_(queue);
 }
 
 void QtHand::Escape(forms::EventQueue& queue, forms::Form&) {
   Key(Qt::Key_Escape);
-  view_.PostTo(queue);
+  post_(queue);
 }
 
 void QtHand::Close(forms::EventQueue& queue, forms::Form&) {
-  view_.Front()->close();
-  view_.PostTo(queue);
+  front_()->close();
+  post_(queue);
 }
 
 }  // namespace plotsmith::test

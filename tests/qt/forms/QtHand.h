@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "forms/script/Hand.h"
 #include "qt/forms/QtView.h"
 
@@ -9,7 +11,12 @@ namespace plotsmith::test {
 class QtHand final : public forms::Hand {
  public:
   /// `view` must outlive the hand.
-  explicit QtHand(qt::QtView& view) : view_(view) {}
+  explicit QtHand(qt::QtView& view)
+      : front_([&view] { return view.Front(); }),
+        post_([&view](forms::EventQueue& queue) { view.PostTo(queue); }) {}
+  /// A hand for a program that runs. The gestures stay with the window, whose own view takes them.
+  explicit QtHand(std::function<QWidget*()> front)
+      : front_(std::move(front)), post_([](forms::EventQueue&) {}) {}
 
   void SelectRows(forms::EventQueue& queue, forms::VSFlexGrid& grid, std::vector<std::int32_t> rows) override;
   void DoubleClickRow(forms::EventQueue& queue, forms::VSFlexGrid& grid, std::int32_t row) override;
@@ -32,7 +39,8 @@ class QtHand final : public forms::Hand {
   Kind& Find(const forms::Control& control) const;
   void Key(int key);
 
-  qt::QtView& view_;
+  std::function<QWidget*()> front_;
+  std::function<void(forms::EventQueue& queue)> post_;
 };
 
 }  // namespace plotsmith::test

@@ -79,7 +79,7 @@ ControlState Read(const QWidget& widget) {
   if (const auto* label = qobject_cast<const QLabel*>(&widget)) state.caption = TextOf(label->text());
   if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) state.text = TextOf(edit->text());
   if (const auto* edit = qobject_cast<const QPlainTextEdit*>(&widget))
-    state.text = TextOf(edit->toPlainText());
+    state.text = TextOf(edit->document()->toRawText().replace(QChar::ParagraphSeparator, '\n'));
   if (const auto* list = qobject_cast<const QListWidget*>(&widget)) Read(*list, state);
   if (const auto* box = qobject_cast<const QComboBox*>(&widget)) Read(*box, state);
   if (const auto* table = qobject_cast<const QTableWidget*>(&widget)) Read(*table, state);
@@ -93,6 +93,12 @@ ControlState Showable(ControlState state) {
   state.isCancel = false;
   if (state.backColor != forms::kToolTipBackground) state.backColor = forms::kButtonFace;
   return state;
+}
+
+/// Whether a page may mark controls of the kind with a colour. Other widgets answer with the colour of what
+/// is around them.
+bool IsMarkable(const std::string& kind) {
+  return kind == "Frame" || kind == "OptionButton" || kind == "CheckBox" || kind == "Label";
 }
 
 template <class Value>
@@ -145,6 +151,7 @@ std::string DifferencesFromModel(const qt::FormWindow& window) {
     }
     ControlState widget = *found;
     if (control.kind == "ListBox") widget.text = control.text;  // it shows in the selection
+    if (!IsMarkable(control.kind)) widget.backColor = Showable(control).backColor;
     Compare(differences, Showable(control), widget);
   }
   return differences;

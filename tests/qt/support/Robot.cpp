@@ -1,0 +1,140 @@
+#include "tests/qt/support/Robot.h"
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+#include "forms/script/Gestures.h"
+#include "forms/script/ScriptError.h"
+#include "tests/qt/support/Windows.h"
+
+namespace plotsmith::test {
+namespace {
+
+constexpr qint64 kPatience = 10000;  // milliseconds until a window must have come
+constexpr qint64 kPause = 30;       // milliseconds
+constexpr const char* kBusyWindow = "frmBusyPS";
+
+std::pair<std::string, std::string> VerbAndRest(const std::string& line) {
+  const auto blank = line.find(' ');
+  return {line.substr(0, blank), blank == line.npos ? "" : line.substr(blank + 1)};
+}
+
+void TypeFileName(QWidget& dialog, const std::string& name) {
+  auto* const box = dialog.findChild<QLineEdit*>("fileNameEdit");
+  // Where the file is there, the dialog asks and waits for the answer inside of this key. Only a timer of its
+  // own leaves the robot free to give it.
+  QTimer::singleShot(0, box, [box, name] {
+    box->setText(qt::TextOf(name));
+    QTest::keyClick(box, Qt::Key_Return);
+  });
+}
+
+}  // namespace
+
+std::vector<std::string> LinesOf(const std::string& script) {
+  std::vector<std::string> lines;
+  for (std::size_t from = 0; from < script.size();) {
+    const std::size_t to = std::min(script.find("; ", from), script.size());
+    if (to > from) lines.push_back(script.substr(from, to - from));
+    from = to + 2;
+  }
+  return lines;
+}
+
+bool PressButton(QWidget& window, const std::string& text) {
+  for (QPushButton* button : window.findChildren<QPushButton*>()) {
+    const QString shown = button->text().remove('&').remove("...");
+    if (!button->isVisible() || qt::TextOf(shown) != text) continue;
+    QTest::mouseClick(button, Qt::LeftButton);
+    return true;
+  }
+  return false;
+}
+
+Robot::Robot(const std::string& script, Deeds deeds)
+    : lines_(LinesOf(script)), deeds_(std::move(deeds)), hand_([] { return FrontWindow(); }) {
+  QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Work(); });
+  sinceLine_.start();
+  timer_.start(0);
+}
+
+std::string Robot::Failure() const {
+  return failure_.empty() && next_ < lines_.size() ? "the program ended before: " + lines_[next_] : failure_;
+}
+
+void Robot::Work() {
+  if (std::exchange(works_, true)) return;
+  LookAround();
+  if (!failure_.empty() || next_ == lines_.size()) {
+    CloseAll();
+  } else if (const std::string line = lines_[next_]; Play(line)) {
+    ++next_;
+    obstacle_.clear();
+    sinceLine_.start();
+  } else if (failure_.empty() && sinceLine_.hasExpired(kPatience)) {
+    failure_ = line + " -> " + (obstacle_.empty() ? "in front is: " + lastSeen_ : obstacle_);
+  }
+  works_ = false;
+}
+
+void Robot::LookAround() {
+  const QWidget* const front = FrontWindow();
+  const std::string name = NameOf(front);
+  const std::string text = name == "box" || name == "bar" ? TextIn(*front) : "";
+  if (std::exchange(lastSeen_, name + text) == name + text || name.empty()) return;
+  seen_ += (seen_.empty() ? "" : " ") + name;
+  if (!text.empty()) told_.push_back(text);
+}
+
+bool Robot::Play(const std::string& line) {
+  const auto [verb, rest] = VerbAndRest(line);
+  QWidget* const front = FrontWindow();
+  const std::string name = NameOf(front);
+  if (line == "do wait") return sinceLine_.hasExpired(kPause) && front != nullptr;
+  if (verb == "do") {
+    deeds_.at(rest)();
+    return true;
+  }
+  if (verb == "page") return name == rest;
+  if (verb == "quit") {
+    BookWindow()->close();
+    return true;
+  }
+  if (verb == "file" && name == "file") {
+    TypeFileName(*front, rest);
+    return true;
+  }
+  if (verb == "box" || verb == "bar") return name == verb && PressButton(*front, rest);
+  return verb != "file" && PlayOnPage(line);
+}
+
+bool Robot::PlayOnPage(const std::string& line) {
+  qt::FormWindow* const page = FrontPage();
+  if (page == nullptr || page->Model().Name() == kBusyWindow) return false;
+  try {
+    forms::EventQueue unused;
+    forms::MakeGesture(forms::ParseLine(line), page->Model(), hand_, unused);
+  } catch (const forms::ScriptError& e) {
+    obstacle_ = e.what();
+    return false;
+  }
+  return true;
+}
+
+void Robot::CloseAll() {
+  QWidget* const front = FrontWindow();
+  const std::string name = NameOf(front);
+  if (name == "box") {
+    for (const char* button : {"Discard", "No", "Cancel", "OK"}) {
+      if (PressButton(*front, button)) break;
+    }
+  } else if (name == "bar") {
+    if (!PressButton(*front, "Discard")) PressButton(*front, "Close");
+  } else if (front != nullptr && name != kBusyWindow) {
+    front->close();
+  }
+}
+
+}  // namespace plotsmith::test

@@ -1,0 +1,151 @@
+#include <filesystem>
+#include <fstream>
+
+#include "runtime/Strings.h"
+#include "tests/qt/support/Windows.h"
+#include "tests/qt/wizard/ProgramTest.h"
+#include "tests/support/RunCommand.h"
+
+namespace plotsmith {
+namespace {
+
+using S = std::string;
+using test::BytesOf;
+using test::kNewChart;
+
+/// How a run ends once a chart is built, and what becomes of the files. "BOOK" is the workbook, "OTHER" a
+/// file beside it.
+struct Ending {
+  S script;
+  S seen;  ///< behind the pages
+  bool bookChanges, otherIsThere;
+  bool withOutput = false;  ///< started with -o OTHER
+};
+
+class WizardProgramTest : public test::ProgramTest {
+ protected:
+  S Other() { return folder_ / "other.xlsx"; }
+  /// What the command makes of the same gestures.
+  S BytesByCommand() {
+    S script;
+    for (const S& line : test::LinesOf(S(kNewChart) + "press cmdFinish")) script += line + "\n";
+    const S result = folder_ / "command.xlsx";
+    const auto run =
+        test::RunCommand({"wizard", folder_ / "start.xlsx", "--script", "-", "-o", result}, script);
+    EXPECT_EQ(run.code, 0) << run.err;
+    return BytesOf(result);
+  }
+};
+
+TEST_F(WizardProgramTest, TheBarAsksAndTheAnswerIsDone) {
+  const S start = folder_ / "start.xlsx", pages = "frmPSSelectTable frmPSLayoutABC frmPSChartLocation ";
+  std::filesystem::copy_file(book_, start);
+  const S wanted = BytesByCommand();
+  ASSERT_NE(wanted, fresh_);
+  const Ending cases[] = {
+      {"bar Save; bar Close", "bar bar", true, false},
+      {"bar Discard", "bar", false, false},
+      {"bar Save As; file OTHER; bar Close", "bar file bar", false, true},
+      {"bar Save As; file OTHER; bar Chart Wizard; close", "bar file bar frmPSSelectAction", false, true},
+      {"bar Save As; file BOOK; box Yes; bar Close", "bar file box bar", true, false},
+      {"bar Save As; file BOOK; box No; do escape; bar Discard", "bar file box file bar", false, false},
+      {"do wait; quit; box Save", "bar box", true, false},
+      {"do wait; quit; box Discard", "bar box", false, false},
+      {"do wait; quit; box Cancel; bar Save; quit", "bar box bar bar", true, false},
+      {"bar Close", "bar", false, true, true},
+      {"do wait; quit", "bar", false, true, true},
+  };
+  for (const auto& [script, seen, bookChanges, otherIsThere, withOutput] : cases) {
+    SCOPED_TRACE(script + (withOutput ? " -o" : ""));
+    std::filesystem::copy_file(start, book_, std::filesystem::copy_options::overwrite_existing);
+    std::filesystem::remove(Other());
+    S line = S(kNewChart) + "press cmdFinish; " + script;
+    line = runtime::Replace(runtime::Replace(line, "OTHER", Other()), "BOOK", book_);
+    const auto run = Run(line, {{"escape", [] { test::FrontWindow()->close(); }}},
+                         withOutput ? std::optional(Other()) : std::nullopt);
+    EXPECT_EQ(run.failure, "");
+    EXPECT_EQ(run.code, 0);
+    EXPECT_EQ(run.seen, pages + seen);
+    EXPECT_EQ(run.err, "");
+    EXPECT_TRUE(BytesOf(book_) == (bookChanges ? wanted : fresh_));
+    EXPECT_TRUE(BytesOf(Other()) == (otherIsThere ? wanted : ""));
+  }
+}
+
+TEST_F(WizardProgramTest, WhatIsNotAskedForIsNotSaved) {
+  struct Case {
+    S script, seen;
+  };
+  const Case cases[] = {
+      {"page frmPSSelectTable; close", "frmPSSelectTable"},
+      {"page frmPSSelectTable; escape", "frmPSSelectTable"},
+      {"page frmPSSelectTable; press cmdCancel", "frmPSSelectTable"},
+      {"page frmPSSelectTable; quit", "frmPSSelectTable"},
+      {"page frmPSSelectTable; do close twice", "frmPSSelectTable"},
+      {S(kNewChart) + "quit", "frmPSSelectTable frmPSLayoutABC frmPSChartLocation"},
+      {S(kNewChart) + "press cmdBack; page frmPSLayoutABC; close",
+       "frmPSSelectTable frmPSLayoutABC frmPSChartLocation frmPSLayoutABC"},
+      {"press cmdNext; box OK; close", "frmPSSelectTable box frmPSSelectTable"},
+  };
+  for (const auto& [script, seen] : cases) {
+    SCOPED_TRACE(script);
+    const auto twice = [] {
+      for (int i = 0; i < 2; ++i) test::BookWindow()->close();
+    };
+    const auto run = Run(script, {{"close twice", twice}});
+    EXPECT_EQ(run.failure, "");
+    EXPECT_EQ(run.seen, seen);
+    EXPECT_EQ(run.code, 0);
+    EXPECT_TRUE(BytesOf(book_) == fresh_);
+  }
+}
+
+TEST_F(WizardProgramTest, AFileThatCannotBeWrittenIsTold) {
+  const S folder = folder_ / "none";
+  const S elsewhere = folder + "/out.xlsx";
+  const auto make = [&] { std::filesystem::create_directory(folder); };
+  const auto run =
+      Run(S(kNewChart) + "press cmdFinish; box OK; bar Save; box OK; do make; bar Save; bar Close",
+          {{"make", make}}, elsewhere);
+  EXPECT_EQ(run.failure, "");
+  EXPECT_EQ(run.seen, "frmPSSelectTable frmPSLayoutABC frmPSChartLocation box bar box bar bar");
+  ASSERT_EQ(run.told.size(), 5u);
+  EXPECT_NE(run.told[0].find("can't save \"" + elsewhere + "\""), S::npos) << run.told[0];
+  EXPECT_EQ(run.told[2], run.told[0]);
+  EXPECT_EQ(run.err, "plotsmith-wizard: " + run.told[0] + "\nplotsmith-wizard: " + run.told[0] + "\n");
+  EXPECT_NE(BytesOf(elsewhere), "");
+  EXPECT_TRUE(BytesOf(book_) == fresh_) << "-o leaves the workbook alone";
+}
+
+TEST_F(WizardProgramTest, ALockStopsTheProgramWithTheWordsOfTheCommand) {
+  std::ofstream(folder_ / ".~lock.orders.xlsx#") << "someone";
+  const auto run = Run("page frmPSSelectTable");
+  const auto command = test::RunCommand({"wizard", book_, "--script", "-"}, "close\n");
+  EXPECT_EQ(run.code, 3);
+  EXPECT_EQ(command.code, 3);
+  EXPECT_EQ("plotsmith: " + run.err + "\n", command.err);
+  EXPECT_EQ(run.seen, "");
+}
+
+TEST_F(WizardProgramTest, AnotherRunGoesOnFromTheFirst) {
+  const S removed =
+      "press cmdFinish; bar Save; bar Chart Wizard; page frmPSSelectAction; select grdCharts #1; "
+      "press cmdDelete; box OK; page frmPSSelectTable; close; bar Discard";
+  const auto run = Run(S(kNewChart) + removed);
+  EXPECT_EQ(run.failure, "");
+  EXPECT_EQ(run.told.back(), "What you chose was deleted. \"" + book_ + "\" isn't saved yet.");
+  const S once = BytesOf(book_);
+
+  // the chart was saved, and its deletion was not
+  const S add = "page frmPSSelectAction; press cmdNew; ";
+  const S saved =
+      "type txtName Second; press cmdFinish; bar Save As; file " + Other() + "; bar Chart Wizard; ";
+  const auto second = Run(add + kNewChart + saved + add + kNewChart +
+                          "type txtName Third; press cmdFinish; bar Save; bar Close");
+  EXPECT_EQ(second.failure, "");
+  EXPECT_EQ(second.told.back(), "The chart is built. Saved in \"" + Other() + "\".");
+  EXPECT_TRUE(BytesOf(book_) == once) << "after Save As, Save writes the other file";
+}
+
+}  // namespace
+}  // namespace plotsmith
