@@ -50,6 +50,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   /// A cell as it is stored: other than for the port, the serial of a date counts in the workbook's own
   /// system.
   excel::CellValue Stored(std::int32_t row, std::int32_t column);
+  std::uint32_t StyleAt(std::int32_t row, std::int32_t column);
   CellRange UsedCells();
   /// Cells of the file with a formula but no result, in the order of the file; they read as empty.
   const std::vector<CellPlace>& FormulasWithoutResult() { return Contents().formulasWithoutResult; }
