@@ -1,6 +1,6 @@
 # The newcomer's commands. All building is done by CMake; see CMakePresets.json for the ways to build.
 
-.PHONY: build install uninstall demo check package sanitize fuzz bench docs clean
+.PHONY: build install uninstall demo check check-windows package sanitize fuzz bench docs clean
 
 build:
 	@scripts/install-dependencies.sh
@@ -26,6 +26,10 @@ demo:
 # Builds, then runs all tests, as they are and under a locale with a decimal comma.
 check: build
 	@scripts/check.sh
+
+# Builds for Windows and compares the command under Wine with the one for Linux.
+check-windows:
+	@scripts/check-windows.sh
 
 # Makes the Debian packages in build/packages: plotsmith, and plotsmith-wizard.
 package:
@@ -53,4 +57,4 @@ docs:
 	@cmake --build build --target docs
 
 clean:
-	@rm -rf build build-debug build-sanitizers build-fuzz demo
+	@rm -rf build build-debug build-sanitizers build-fuzz build-windows-x64 build-windows-x86 demo

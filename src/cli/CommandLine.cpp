@@ -66,6 +66,7 @@ CommandLine::CommandLine() : app(kDescription, "plotsmith"), commands(MakeComman
   app.footer(kFooter);
   app.require_subcommand(1);
   app.fallthrough();
+  app.allow_windows_style_options(false);  // what begins with a slash is a path on every system
   app.set_version_flag("-V,--version", std::string("plotsmith ") + PLOTSMITH_VERSION);
   app.add_option("--host-version", options.hostVersion,
                  "Behave as Plotsmith does in this version of Excel; up to 11 and above 11 differ")

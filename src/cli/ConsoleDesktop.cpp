@@ -1,19 +1,24 @@
 #include "cli/ConsoleDesktop.h"
 
+#include <chrono>
 #include <ctime>
 
-#include "cli/UserLocale.h"
+#include "cli/Platform.h"
 #include "common/PSConstants.h"
 #include "runtime/Strings.h"
 
 namespace plotsmith::cli {
 namespace {
 
-/// Seconds between UTC and the local time, as they are at the start.
-long LocalOffset() {
+constexpr std::int64_t kDaySeconds = 86400;
+
+/// Seconds of the day by which the local time is ahead of UTC, as it is at the start.
+std::int64_t LocalOffset() {
   const std::time_t now = std::time(nullptr);
-  std::tm local{};
-  return localtime_r(&now, &local) == nullptr ? 0 : local.tm_gmtoff;
+  const std::tm* local = std::localtime(&now);
+  if (local == nullptr) return 0;
+  const std::int64_t ofDay = (local->tm_hour * 60 + local->tm_min) * 60 + local->tm_sec;
+  return (ofDay - now % kDaySeconds + kDaySeconds) % kDaySeconds;
 }
 
 }  // namespace
@@ -26,13 +31,15 @@ std::int32_t ConsoleDesktop::MsgBox(std::string_view text, desktop::Buttons, des
 }
 
 double ConsoleDesktop::Timer() {
-  static const long offset = LocalOffset();
-  std::timespec now{};
-  clock_gettime(CLOCK_REALTIME_COARSE, &now);
-  return static_cast<double>((now.tv_sec + offset) % 86400) + static_cast<double>(now.tv_nsec) / 1e9;
+  static const std::int64_t offset = LocalOffset();
+  using Microseconds = std::chrono::microseconds;
+  constexpr std::int64_t kSecond = 1'000'000;
+  const auto now =
+      std::chrono::duration_cast<Microseconds>(std::chrono::system_clock::now().time_since_epoch());
+  return static_cast<double>((now.count() + offset * kSecond) % (kDaySeconds * kSecond)) / kSecond;
 }
 
-std::int32_t ConsoleDesktop::UserDefaultLCID() { return LCIDOfLocale(UserLocale()); }
+std::int32_t ConsoleDesktop::UserDefaultLCID() { return UserLCID(); }
 
 void ConsoleDesktop::ShowHelp(std::intptr_t, const std::string&, std::int32_t topic) {
   messages_.push_back(std::string(kProductTitle) + ": Help topic " + std::to_string(topic) +

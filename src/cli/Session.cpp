@@ -17,6 +17,7 @@
 #include "metadata/TableDefinitions.h"
 #include "runtime/Ref.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Utf8Path.h"
 #include "runtime/Variant.h"
 #include "xlsx/package/PackageError.h"
 
@@ -35,11 +36,11 @@ CommandError CantSave(const std::string& path, const std::string& reason) {
 
 /// The file beside a workbook by which another program shows that it has it open, or "".
 std::string LockOf(const fs::path& book) {
-  for (const std::string& name :
-       {".~lock." + book.filename().string() + "#", "~$" + book.filename().string()}) {
+  const std::string file = runtime::Utf8Of(book.filename());
+  for (const std::string& name : {".~lock." + file + "#", "~$" + file}) {
     std::error_code ignored;
-    const fs::path lock = book.parent_path() / name;
-    if (fs::exists(lock, ignored)) return lock.string();
+    const fs::path lock = book.parent_path() / runtime::PathOf(name);
+    if (fs::exists(lock, ignored)) return runtime::Utf8Of(lock);
   }
   return {};
 }
@@ -126,7 +127,7 @@ void Session::CheckWritable(const std::optional<std::string>& output) {
 }
 
 void Session::CheckFree(const std::string& target) const {
-  const std::string lock = LockOf(fs::absolute(target));
+  const std::string lock = LockOf(fs::absolute(runtime::PathOf(target)));
   if (!lock.empty() && !options_.force) {
     throw CommandError(exit_code::kFile, "\"" + target + "\" is open in another program (\"" + lock +
                                              "\" says so); close it there, or use --force.");

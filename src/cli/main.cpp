@@ -1,13 +1,13 @@
+#include <cstdio>
 #include <iostream>
-#include <string>
-#include <unistd.h>
-#include <vector>
 
 #include "cli/CommandLine.h"
+#include "cli/Platform.h"
 
 int main(int argc, char** argv) {
+  using namespace plotsmith::cli;
   std::ios::sync_with_stdio(false);
-  const plotsmith::cli::Streams streams{std::cin, std::cout, std::cerr, isatty(STDERR_FILENO) == 1,
-                                        isatty(STDOUT_FILENO) == 1};
-  return plotsmith::cli::RunCommandLine(std::vector<std::string>(argv + 1, argv + argc), streams);
+  const StandardStreams standard;
+  const Streams streams{std::cin, std::cout, std::cerr, IsTerminal(stderr), IsTerminal(stdout)};
+  return RunCommandLine(Arguments(argc, argv), streams);
 }

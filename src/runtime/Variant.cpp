@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <chrono>
 #include <cmath>
-#include <ctime>
 #include <limits>
 
 #include "runtime/Ascii.h"
@@ -60,7 +60,7 @@ std::optional<double> RadixValue(std::string_view digits) {
 /// Days of the language's calendar: 1 January 100 to 31 December 9999.
 constexpr double kFirstDay = -657434, kLastDay = 2958465;
 constexpr std::int64_t kDaySeconds = 86400;
-constexpr std::int64_t kDaysTo1970 = 25569;
+constexpr std::int32_t kDaysTo1970 = 25569;
 
 /// The short date and the long time of the United States, each where it says something.
 std::string DateText(double serial) {
@@ -71,19 +71,21 @@ std::string DateText(double serial) {
     days += 1;
     seconds = 0;
   }
-  const std::time_t moment = (static_cast<std::int64_t>(days) - kDaysTo1970) * kDaySeconds + seconds;
-  std::tm parts{};
-  if (gmtime_r(&moment, &parts) == nullptr) throw RuntimeError(error::kTypeMismatch);
   std::string text;
   if (days != 0) {
-    text = std::to_string(parts.tm_mon + 1) + "/" + std::to_string(parts.tm_mday) + "/" +
-           std::to_string(parts.tm_year + 1900);
+    const std::chrono::sys_days day{std::chrono::days(static_cast<std::int32_t>(days) - kDaysTo1970)};
+    const std::chrono::year_month_day date{day};
+    text = std::to_string(static_cast<unsigned>(date.month())) + "/" +
+           std::to_string(static_cast<unsigned>(date.day())) + "/" +
+           std::to_string(static_cast<int>(date.year()));
   }
   if (days == 0 || seconds != 0) {
     std::array<char, 32> time{};
-    const int hour = parts.tm_hour % 12 == 0 ? 12 : parts.tm_hour % 12;
-    std::snprintf(time.data(), time.size(), "%d:%02d:%02d %s", hour, parts.tm_min, parts.tm_sec,
-                  parts.tm_hour < 12 ? "AM" : "PM");
+    const std::chrono::hh_mm_ss clock{std::chrono::seconds(seconds)};
+    const auto hour = static_cast<int>(clock.hours().count());
+    std::snprintf(time.data(), time.size(), "%d:%02d:%02d %s", hour % 12 == 0 ? 12 : hour % 12,
+                  static_cast<int>(clock.minutes().count()), static_cast<int>(clock.seconds().count()),
+                  hour < 12 ? "AM" : "PM");
     if (!text.empty()) text += ' ';
     text += time.data();
   }

@@ -71,6 +71,8 @@ TEST(VariantTest, ConversionsOfOtherTypes) {
   EXPECT_EQ(CStr(Variant::Date{0}), "12:00:00 AM");
   EXPECT_EQ(CStr(Variant::Date{43831.9999999}), "1/2/2020");
   EXPECT_EQ(CStr(Variant::Date{-1.25}), "12/29/1899 6:00:00 AM");
+  EXPECT_EQ(CStr(Variant::Date{-657434}), "1/1/100");
+  EXPECT_EQ(CStr(Variant::Date{2958465.75}), "12/31/9999 6:00:00 PM");
   EXPECT_EQ(ErrorOf([] { CStr(Variant::Date{1e300}); }), error::kTypeMismatch);
   for (const auto& value : {kNull, Variant(Variant::Error{2007})}) {
     const int number = value.IsNull() ? error::kInvalidNull : error::kTypeMismatch;

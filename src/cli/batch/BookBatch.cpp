@@ -10,6 +10,7 @@
 #include "cli/Failures.h"
 #include "cli/batch/Workers.h"
 #include "cli/check/Words.h"
+#include "runtime/Utf8Path.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -19,8 +20,8 @@ namespace fs = std::filesystem;
 /// Where a path leads, so that two names of one file compare equal.
 fs::path Place(const std::string& path) {
   std::error_code error;
-  const fs::path place = fs::weakly_canonical(path, error);
-  return error ? fs::path(path) : place;
+  const fs::path place = fs::weakly_canonical(runtime::PathOf(path), error);
+  return error ? runtime::PathOf(path) : place;
 }
 
 std::vector<std::string> EachOnce(const std::vector<std::string>& books) {
@@ -37,14 +38,14 @@ std::vector<BookRun> RunsInto(const std::string& folder, const std::vector<std::
   std::vector<BookRun> runs;
   std::map<std::string, std::string> named;
   for (const std::string& book : books) {
-    const std::string name = fs::path(book).filename().string();
+    const std::string name = runtime::Utf8Of(runtime::PathOf(book).filename());
     const auto [other, isNew] = named.emplace(name, book);
     if (!isNew) {
       throw CommandError(exit_code::kUsage, "\"" + other->second + "\" and \"" + book +
                                                 "\" would both be written to \"" + name + "\" in \"" +
                                                 folder + "\".");
     }
-    const std::string output = (fs::path(folder) / name).string();
+    const std::string output = runtime::Utf8Of(runtime::PathOf(folder) / runtime::PathOf(name));
     if (Place(output) == Place(book)) {
       throw CommandError(exit_code::kUsage, "\"" + book + "\" is in the folder \"" + folder +
                                                 "\" itself; without -o it is refreshed where it is.");
@@ -174,7 +175,7 @@ std::vector<BookRun> PlanRuns(const std::vector<std::string>& books,
                               const std::optional<std::string>& output) {
   const std::vector<std::string> once = EachOnce(books);
   std::error_code ignored;
-  if (output && fs::is_directory(*output, ignored)) return RunsInto(*output, once);
+  if (output && fs::is_directory(runtime::PathOf(*output), ignored)) return RunsInto(*output, once);
   if (output && once.size() > 1) {
     throw CommandError(exit_code::kUsage, "\"" + *output +
                                               "\" is no folder, and several workbooks can only be written "

@@ -25,13 +25,13 @@ struct WorkerTasks {
   std::function<void(std::size_t, TaskEnding)> ended;
 };
 
-/// Runs all tasks in at most `processes` at a time. Where an interrupt (Ctrl-C) or a termination arrives, the
-/// workers are ended and the rest is left; answers the number of that signal, or 0. Throws std::system_error
-/// if there can't be any worker.
+/// Runs all tasks in at most `processes` at a time; under Windows all in this process. Where an interrupt
+/// (Ctrl-C) or a termination arrives, the workers are ended and the rest is left; answers the number of that
+/// signal, or 0. Throws std::system_error if there can't be any worker.
 int RunInWorkers(const WorkerTasks& tasks, std::size_t processes);
 
 /// How many processes keep this machine busy with workbooks: two for each processor, as a process spends
-/// about half of its time waiting for what it has saved to reach the disk.
+/// about half of its time waiting for what it has saved to reach the disk. One under Windows.
 std::size_t UsualProcesses();
 
 }  // namespace plotsmith::cli

@@ -15,7 +15,8 @@ CLI::App* RefreshCommand::Declare(CLI::App& app) {
                    "output")
       ->type_name("FILE");
   verb->add_option("--jobs", jobs_,
-                   "Work on so many workbooks at a time (without it: two for each processor)")
+                   "Work on so many workbooks at a time (without it: two for each processor). "
+                   "Under Windows they come one after the other")
       ->type_name("N");
   verb->add_flag("--verbose", verbose_, "Say at the end how many charts were refreshed");
   return verb;

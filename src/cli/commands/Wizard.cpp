@@ -7,6 +7,7 @@
 #include "cli/FormPrinter.h"
 #include "cli/OtherProgram.h"
 #include "cli/wizard/WizardRun.h"
+#include "runtime/Utf8Path.h"
 #include "runtime/Variant.h"
 
 namespace plotsmith::cli {
@@ -38,7 +39,7 @@ CLI::App* WizardCommand::Declare(CLI::App& app) {
 int WizardCommand::Run(const GlobalOptions& options, const Streams& streams) {
   if (!script_) OpenWindow(options);
   if (*script_ == kStandardInput) return Play(streams.in, options, streams);
-  std::ifstream file(*script_, std::ios::binary);
+  std::ifstream file(runtime::PathOf(*script_), std::ios::binary);
   // a folder can be opened, but nothing can be read from it
   if (!file || (file.peek() == std::ifstream::traits_type::eof() && !file.eof())) {
     throw CommandError(exit_code::kFile, "can't read \"" + *script_ + "\".");

@@ -80,7 +80,7 @@ struct Archive::Handle {
   std::unique_ptr<zip_t, ZipCloser> zip;
 };
 
-Archive::Archive(const std::string& path) : handle_(std::make_unique<Handle>()) {
+Archive::Archive(const std::string& path) : path_(path), handle_(std::make_unique<Handle>()) {
   handle_->zip = OpenFrom(OpenZipFile(path), ZIP_RDONLY);
   zip_t* zip = handle_->zip.get();
   const auto count = zip_get_num_entries(zip, 0);
@@ -105,8 +105,11 @@ Archive::Archive(const std::string& path) : handle_(std::make_unique<Handle>()) 
 
 Archive::~Archive() = default;
 
+void Archive::Close() { handle_.reset(); }
+
 std::unique_ptr<Archive::Stream> Archive::Open(std::size_t index) const {
   const ArchiveEntry& entry = entries_.at(index);
+  if (!handle_) throw PackageError("the file is closed");
   if (entry.encrypted) throw PackageError("it is encrypted");
   if (entry.method != ZIP_CM_STORE && entry.method != ZIP_CM_DEFLATE) {
     throw PackageError("it is compressed by a method that no workbook uses");

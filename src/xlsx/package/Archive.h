@@ -29,7 +29,10 @@ class Archive {
   Archive(const Archive&) = delete;
   Archive& operator=(const Archive&) = delete;
 
+  const std::string& Path() const { return path_; }
   const std::vector<ArchiveEntry>& Entries() const { return entries_; }
+  /// Lets go of the file. The entries can't be opened any more.
+  void Close();
 
   /// The inflated bytes of an entry, piece by piece; size and checksum are proved at the end.
   class Stream {
@@ -43,7 +46,8 @@ class Archive {
  private:
   friend class ArchiveWriter;
   struct Handle;
-  std::unique_ptr<Handle> handle_;
+  std::string path_;
+  std::unique_ptr<Handle> handle_;  ///< null after Close
   std::vector<ArchiveEntry> entries_;
 };
 

@@ -19,10 +19,6 @@ class AtomicFile {
   void Commit();
 
  private:
-  /// Gives the nameless file the name `path`. False, with the reason in errno, if it can't.
-  bool LinkTo(const std::string& path) const;
-  void LinkToTemporaryName();
-
   std::string path_;       ///< what a link at the given path points at
   std::string temporary_;  ///< the name of the file before Commit; empty while it has none
   int file_ = -1;

@@ -2,15 +2,17 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <set>
 #include <utility>
 
 #include "runtime/Ascii.h"
 #include "runtime/Strings.h"
+#include "runtime/Utf8Path.h"
 #include "xlsx/Limits.h"
 #include "xlsx/package/AtomicFile.h"
+#include "xlsx/package/FileSystem.h"
 #include "xlsx/package/MemoryStream.h"
 #include "xlsx/package/Namespaces.h"
 #include "xlsx/package/PackageError.h"
@@ -88,8 +90,21 @@ std::string PercentEncoded(std::string_view name) {
   return text;
 }
 
-struct FileCloser {
-  void operator()(std::FILE* file) const { std::fclose(file); }
+/// A file that is gone when it is closed.
+class ScratchFile {
+ public:
+  ScratchFile() : file_(file_system::OpenScratch()) {
+    if (file_ < 0) {
+      throw PackageError(std::string("there is no room for a temporary file: ") + std::strerror(errno));
+    }
+  }
+  ~ScratchFile() { file_system::Close(file_); }
+  ScratchFile(const ScratchFile&) = delete;
+  ScratchFile& operator=(const ScratchFile&) = delete;
+  int Descriptor() const { return file_; }
+
+ private:
+  int file_;
 };
 constexpr std::size_t kCopiedBlock = 256 * 1024;
 
@@ -411,19 +426,45 @@ std::vector<std::string> Package::RemoveRelationship(std::string_view source, st
 void Package::Save(const std::string& path) {
   AtomicFile file(path);
   Write(file.Descriptor());
-  file.Commit();
+  Commit(file, path);
+}
+
+/// Windows doesn't replace a file that is open. A package that is saved over its own file therefore closes
+/// it, and reads the new one from then on, in which the parts have the order that they have here.
+void Package::Commit(AtomicFile& file, const std::string& path) {
+  std::error_code ignored;
+  if (!archive_ ||
+      !std::filesystem::equivalent(runtime::PathOf(archive_->Path()), runtime::PathOf(path), ignored)) {
+    file.Commit();
+    return;
+  }
+  const std::string source = archive_->Path();
+  archive_->Close();
+  try {
+    file.Commit();
+  } catch (const PackageError&) {
+    archive_ = std::make_unique<Archive>(source);
+    throw;
+  }
+  try {
+    archive_ = std::make_unique<Archive>(source);
+  } catch (const PackageError&) {
+    return;  // the workbook is saved; only what is yet to be read of it can't be
+  }
+  for (std::size_t i = 0; i < parts_.size(); ++i) parts_[i]->entry = i;
 }
 
 void Package::Save(std::ostream& out) {
-  const std::unique_ptr<std::FILE, FileCloser> scratch(std::tmpfile());
-  if (!scratch)
-    throw PackageError(std::string("there is no room for a temporary file: ") + std::strerror(errno));
-  Write(fileno(scratch.get()));
+  const ScratchFile scratch;
+  Write(scratch.Descriptor());
   std::vector<char> block(kCopiedBlock);
-  while (const std::size_t count = std::fread(block.data(), 1, block.size(), scratch.get())) {
+  for (std::uint64_t position = 0;;) {
+    const auto count = file_system::ReadAt(scratch.Descriptor(), block.data(), block.size(), position);
+    if (count < 0) throw PackageError("its temporary file can't be read again");
+    if (count == 0) break;
     out.write(block.data(), static_cast<std::streamsize>(count));
+    position += static_cast<std::uint64_t>(count);
   }
-  if (std::ferror(scratch.get())) throw PackageError("its temporary file can't be read again");
 }
 
 void Package::Write(int descriptor) {

@@ -15,6 +15,8 @@
 
 namespace plotsmith::xlsx {
 
+class AtomicFile;
+
 /// One relationship of a part, or of the package.
 struct Relationship {
   std::string id;
@@ -88,6 +90,7 @@ class Package {
   /// Says what a zip archive without content types is.
   [[noreturn]] void ThrowForeignFormat() const;
   void ParseContentTypes(std::string_view bytes);
+  void Commit(AtomicFile& file, const std::string& path);
 
   std::unique_ptr<Archive> archive_;
   std::vector<std::unique_ptr<Part>> parts_;          // in the order of the file

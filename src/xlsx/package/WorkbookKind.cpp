@@ -9,6 +9,7 @@
 #include <iterator>
 
 #include "runtime/Ascii.h"
+#include "runtime/Utf8Path.h"
 #include "xlsx/package/Namespaces.h"
 #include "xlsx/package/PackageError.h"
 
@@ -68,13 +69,13 @@ const char* FormatOfText(const std::string& start) {
 
 void CheckCanBeOpened(const std::string& path) {
   std::error_code error;
-  const auto status = std::filesystem::status(path, error);
+  const auto status = std::filesystem::status(runtime::PathOf(path), error);
   if (status.type() == std::filesystem::file_type::not_found) throw PackageError("there is no such file");
   if (std::filesystem::is_directory(status)) throw PackageError("it is a folder");
   if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
     throw PackageError("it is not a regular file");
   }
-  if (std::ifstream(path)) return;
+  if (std::ifstream(runtime::PathOf(path))) return;
   const int reason = error ? error.value() : errno;
   if (reason == EACCES) throw PackageError("you have no permission to read it");
   throw PackageError(std::string("it can't be opened: ") + std::strerror(reason));
@@ -83,7 +84,7 @@ void CheckCanBeOpened(const std::string& path) {
 }  // namespace
 
 std::string ExtensionOf(std::string_view path) {
-  std::string extension = std::filesystem::path(path).extension().string();
+  std::string extension = runtime::Utf8Of(runtime::PathOf(path).extension());
   for (char& c : extension) c = ascii::Lower(c);
   return extension;
 }
@@ -111,7 +112,7 @@ PackageError OtherFormat(const std::string& format) {
 
 void CheckFile(const std::string& path) {
   CheckCanBeOpened(path);
-  std::ifstream file(path, std::ios::binary);
+  std::ifstream file(runtime::PathOf(path), std::ios::binary);
   std::string start(kStart, '\0');
   file.read(start.data(), static_cast<std::streamsize>(start.size()));
   start.resize(static_cast<std::size_t>(file.gcount()));

@@ -3,12 +3,10 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <fcntl.h>
 #include <memory>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <vector>
 
+#include "xlsx/package/FileSystem.h"
 #include "xlsx/package/PackageError.h"
 
 namespace plotsmith::xlsx {
@@ -22,16 +20,16 @@ class ZipFile {
   /// Takes the descriptor over; where it is none, errno says why.
   explicit ZipFile(int file) : file_(file) {
     zip_error_init(&error_);
-    struct stat status {};
-    if (file_ < 0 || fstat(file_, &status) != 0) {
+    const auto size = file_ < 0 ? std::nullopt : file_system::SizeOf(file_);
+    if (!size) {
       const std::string reason = std::strerror(errno);
-      if (file_ >= 0) close(file_);
+      if (file_ >= 0) file_system::Close(file_);
       throw PackageError(reason);
     }
-    size_ = static_cast<std::uint64_t>(status.st_size);
+    size_ = *size;
   }
   virtual ~ZipFile() {
-    close(file_);
+    file_system::Close(file_);
     zip_error_fini(&error_);
   }
   ZipFile(const ZipFile&) = delete;
@@ -108,7 +106,7 @@ class ReadFile final : public ZipFile {
     while (done < length && position_ < size_) {
       if (position_ < blockAt_ || position_ >= blockAt_ + block_.size()) {
         block_.resize(std::min<std::uint64_t>(kBlock, size_ - position_));
-        const auto count = pread(file_, block_.data(), block_.size(), static_cast<off_t>(position_));
+        const auto count = file_system::ReadAt(file_, block_.data(), block_.size(), position_);
         if (count < 0) return Fail(ZIP_ER_READ);
         block_.resize(static_cast<std::size_t>(count));
         blockAt_ = position_;
@@ -175,8 +173,7 @@ class WriteFile final : public ZipFile {
     std::size_t done = 0;
     while (done < block_.size()) {
       const auto count =
-          pwrite(file_, block_.data() + done, block_.size() - done, static_cast<off_t>(position_ + done));
-      if (count < 0 && errno == EINTR) continue;
+          file_system::WriteAt(file_, block_.data() + done, block_.size() - done, position_ + done);
       if (count <= 0) return false;
       done += static_cast<std::size_t>(count);
     }
@@ -203,16 +200,15 @@ zip_source_t* MakeSource(std::unique_ptr<ZipFile> file) {
 }  // namespace
 
 zip_source_t* OpenZipFile(const std::string& path) {
-  return MakeSource(std::make_unique<ReadFile>(open(path.c_str(), O_RDONLY | O_CLOEXEC)));
+  return MakeSource(std::make_unique<ReadFile>(file_system::OpenToRead(path)));
 }
 
 zip_source_t* CreateZipFile(const std::string& path) {
-  return MakeSource(
-      std::make_unique<WriteFile>(open(path.c_str(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, 0600)));
+  return MakeSource(std::make_unique<WriteFile>(file_system::OpenToWrite(path)));
 }
 
 zip_source_t* CreateZipFile(int descriptor) {
-  return MakeSource(std::make_unique<WriteFile>(fcntl(descriptor, F_DUPFD_CLOEXEC, 0)));
+  return MakeSource(std::make_unique<WriteFile>(file_system::Duplicate(descriptor)));
 }
 
 }  // namespace plotsmith::xlsx

@@ -72,6 +72,25 @@ TEST_F(PackageFileTest, UntouchedPartsKeepTheirBytesOrderAndNames) {
   EXPECT_EQ(again.FindRelationship("/xl/workbook.xml", id)->type, "new");
 }
 
+TEST_F(PackageFileTest, APackageThatIsSavedOverItsOwnFileGoesOnWithTheNewOne) {
+  const S path = Book();
+  Package package = Package::Open(path);
+  const S noise = package.Read("/xl/media/noise.bin");
+  package.Add("/xl/new.xml", "application/x-new", "<new/>");
+  // a part in front of others goes, so that they lie in other places of the new file
+  package.RemoveRelationship("/xl/workbook.xml",
+                             package.FindRelationshipOfType("/xl/workbook.xml", "worksheet")->id);
+  package.Save(path);
+  EXPECT_EQ(package.Read("/xl/media/noise.bin"), noise);
+  package.Replace("/xl/new.xml", "<newer/>");
+  package.Save(path);
+
+  const Package again = Package::Open(path);
+  EXPECT_EQ(again.Parts(), package.Parts());
+  for (const S& part : again.Parts()) EXPECT_EQ(again.Read(part), package.Read(part)) << part;
+  EXPECT_EQ(again.Read("/xl/new.xml"), "<newer/>");
+}
+
 /// A package of relationships as in "a>b": the id is the same text, and the package itself is "".
 Package Linked(const std::vector<S>& links) {
   Package package;

@@ -1,5 +1,3 @@
-#include "cli/batch/Workers.h"
-
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -15,6 +13,8 @@
 #include <unistd.h>
 #include <utility>
 #include <vector>
+
+#include "cli/batch/Workers.h"
 
 namespace plotsmith::cli {
 namespace {

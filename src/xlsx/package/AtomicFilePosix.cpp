@@ -1,5 +1,3 @@
-#include "xlsx/package/AtomicFile.h"
-
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -7,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "xlsx/package/AtomicFile.h"
 #include "xlsx/package/PackageError.h"
 
 namespace plotsmith::xlsx {
@@ -38,6 +37,22 @@ void SyncFolder(const std::string& folder) {
   close(file);
 }
 
+/// Gives the nameless file a name. False, with the reason in errno, if it can't have that one.
+bool LinkTo(int file, const std::string& path) {
+  const std::string self = std::string(kDescriptors) + "/" + std::to_string(file);
+  return linkat(AT_FDCWD, self.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0;
+}
+
+/// Gives the nameless file a name beside `path` and answers it.
+std::string LinkBeside(int file, const std::string& path) {
+  const std::string stem = path + "." + std::to_string(getpid()) + "-";
+  for (int n = 1;; ++n) {
+    std::string name = stem + std::to_string(n);
+    if (LinkTo(file, name)) return name;
+    if (errno != EEXIST) Fail(path);
+  }
+}
+
 mode_t NewFileMode() {
   const mode_t mask = umask(0);
   umask(mask);
@@ -67,23 +82,6 @@ AtomicFile::~AtomicFile() {
   if (!temporary_.empty()) unlink(temporary_.c_str());
 }
 
-bool AtomicFile::LinkTo(const std::string& path) const {
-  const std::string self = std::string(kDescriptors) + "/" + std::to_string(file_);
-  return linkat(AT_FDCWD, self.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0;
-}
-
-void AtomicFile::LinkToTemporaryName() {
-  const std::string stem = path_ + "." + std::to_string(getpid()) + "-";
-  for (int n = 1; temporary_.empty(); ++n) {
-    const std::string name = stem + std::to_string(n);
-    if (LinkTo(name)) {
-      temporary_ = name;
-    } else if (errno != EEXIST) {
-      Fail(path_);
-    }
-  }
-}
-
 void AtomicFile::Commit() {
   struct stat old {};
   const bool replaces = stat(path_.c_str(), &old) == 0;
@@ -93,9 +91,9 @@ void AtomicFile::Commit() {
   }
   if (fsync(file_) != 0 && errno != EINVAL) Fail(path_);
   // a link can't replace a file, so that there it takes a name for a moment
-  const bool placed = temporary_.empty() && !replaces && LinkTo(path_);
+  const bool placed = temporary_.empty() && !replaces && LinkTo(file_, path_);
   if (!placed) {
-    if (temporary_.empty()) LinkToTemporaryName();
+    if (temporary_.empty()) temporary_ = LinkBeside(file_, path_);
     if (rename(temporary_.c_str(), path_.c_str()) != 0) Fail(path_);
     temporary_.clear();
   }

@@ -1,0 +1,52 @@
+#include <fcntl.h>
+#include <io.h>
+// windows.h comes before what builds upon it
+// clang-format off
+#include <windows.h>
+#include <shellapi.h>
+// clang-format on
+
+#include "cli/Platform.h"
+
+namespace plotsmith::cli {
+namespace {
+
+/// Half a pair of surrogates, which a file name may hold, becomes a replacement character.
+std::string Utf8Of(const wchar_t* text) {
+  const int size = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
+  std::string utf8(static_cast<std::size_t>(size), '\0');
+  WideCharToMultiByte(CP_UTF8, 0, text, -1, utf8.data(), size, nullptr, nullptr);
+  utf8.pop_back();  // the null
+  return utf8;
+}
+
+}  // namespace
+
+// what `main` is given has lost the characters that the code page of the system lacks
+std::vector<std::string> Arguments(int, char**) {
+  std::vector<std::string> arguments;
+  int count = 0;
+  wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
+  for (int i = 1; i < count; ++i) arguments.push_back(Utf8Of(words[i]));
+  LocalFree(words);
+  return arguments;
+}
+
+StandardStreams::StandardStreams() : oldCodePage_(GetConsoleOutputCP()) {
+  for (std::FILE* stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
+  if (oldCodePage_ != 0) SetConsoleOutputCP(CP_UTF8);
+}
+
+StandardStreams::~StandardStreams() {
+  if (oldCodePage_ != 0) SetConsoleOutputCP(oldCodePage_);
+}
+
+// the null device is a terminal to the C run-time
+bool IsTerminal(std::FILE* stream) {
+  DWORD mode = 0;
+  return GetConsoleMode(reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream))), &mode) != 0;
+}
+
+std::int32_t UserLCID() { return static_cast<std::int32_t>(GetUserDefaultLCID()); }
+
+}  // namespace plotsmith::cli
