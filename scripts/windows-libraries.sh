@@ -81,9 +81,11 @@ build_isal() {
   cp -r "$folder/source/libisal" "$work/libisal"
   # the assembler files are for x64 alone
   [ "$word" = x64 ] && kind="arch=mingw host_cpu=x86_64 AS=nasm" || kind="arch=noarch host_cpu=base_aliases"
-  # shellcheck disable=SC2086  # two words
-  logged "$work/libisal.log" make -C "$work/libisal" -f Makefile.unx -j"$(nproc)" $kind CC="$triple-gcc-posix" \
-    AR="$triple-ar" lib
+  # it knows how each compiler swaps bytes, but for this one
+  swaps="isal_bswap16=__builtin_bswap16 isal_bswap32=__builtin_bswap32 isal_bswap64=__builtin_bswap64"
+  # shellcheck disable=SC2086  # words
+  logged "$work/libisal.log" make -C "$work/libisal" -f Makefile.unx -j"$(nproc)" $kind D="$swaps" \
+    CC="$triple-gcc-posix" AR="$triple-ar" lib
   cp "$(find "$work/libisal/bin" -name '*.a')" "$prefix/lib/libisal.a"
   mkdir -p "$prefix/include/isa-l"
   cp "$work"/libisal/include/*.h "$prefix/include/isa-l/"
