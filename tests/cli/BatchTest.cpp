@@ -52,8 +52,9 @@ TEST_F(BatchTest, OneThatFailsDoesNotStopTheOthers) {
   std::ofstream(text) << "hello";
   const S gone =
       "Brindle Plotsmith: Chart 'Name of VEX_Chart2' has become unavailable because its source table no "
-      "longer "
-      "exists in this workbook.\n";
+      "longer exists in this workbook.\n"
+      "b.xlsx: plotsmith: VEX_ChartDefinitions!A3 (chart 'Name of VEX_Chart2'): There is no table 'Gone'; "
+      "there is Data1, and a sheet counts as a table when it is called exactly Data1 to Data5.\n";
   const S said =
       "b.xlsx: " + gone +
       "none.xlsx: plotsmith: can't read \"none.xlsx\": there is no such file.\n"
