@@ -271,7 +271,13 @@ TEST_F(CommandTest, ListsAndJson) {
     "tableSheet": "Data1",
     "table": "Data1",
     "state": "not drawn",
-    "reason": "The chart waits for a refresh. The column 'Amount' is no number column, as 'values' wants, since this cell holds the error #N/A, which counts as 0."
+    "reason": "The chart waits for a refresh. The column 'Amount' is no number column, as 'values' wants, since this cell holds the error #N/A, which counts as 0.",
+    "findings": [
+      {
+        "place": "Data1!C2",
+        "sentence": "The column 'Amount' is no number column, as 'values' wants, since this cell holds the error #N/A, which counts as 0."
+      }
+    ]
   }
 ]
 )");

@@ -318,8 +318,18 @@ TEST_F(RunLookTest, ABubbleWithoutALabelTakesTheLegendAlong) {
     EXPECT_EQ(Refresh(), Line(start + sentence + again, "Data1!B5"));
     EXPECT_EQ(Refresh({"--host-version", "11"}), "") << "there the chart's own legend is used";
   }
+  PlainBook plain = test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "", 2, 3, 4}}, test::BubbleDefinition());
+  plain.Sheet("VEX_ChartDefinitions").rows.resize(1);
+  plain.Sheet("Charts").frames.clear();
+  Write(plain);
+  const CommandResult made =
+      RunCommand({"new", path_, "--table", "Data1", "--type", "bubble", "--series", "Group"});
+  EXPECT_EQ(made.code, 1);
+  EXPECT_NE(made.err.find("Data1!B3 (chart"), S::npos)
+      << made.err << "its definition has no numbers of columns yet";
+  Write(test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "", 2, 3, 4}}, test::BubbleDefinition()));
   Edit("/xl/worksheets/sheet1.xml", "Size", "Weight");
-  EXPECT_EQ(Refresh().find("Data1!B5"), S::npos) << "a chart that can't be drawn has other troubles";
+  EXPECT_EQ(Refresh().find("Data1!B3"), S::npos) << "a chart that can't be drawn has other troubles";
   Write(test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"c", "g|h", 3, 4, 5}},
                          test::BubbleDefinition()));
   EXPECT_EQ(Refresh(), "") << "each piece has a colour";

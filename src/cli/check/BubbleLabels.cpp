@@ -46,23 +46,26 @@ std::vector<Bubble> BubblesOf(xlsx::Workbook& book, const std::string& id) {
   return bubbles;
 }
 
-std::int32_t FirstColumnNumber(const IXMLDOMElement& chart, const char* query) {
-  const auto column = chart.selectSingleNode(query);
+/// Where the table has the first column that a group of the definition names; 0 if it has none.
+std::int32_t FirstColumnNumber(const IXMLDOMElement& chart, const IXMLDOMElement& table, const char* query) {
+  const auto named = chart.selectSingleNode(query);
+  const auto column = FindColumn(table.childElements(), GetAttributeText(named, "name"));
   return column ? GetAttributeLong(column, "worksheet-column-number") : 0;
 }
 
 /// The cell that gives a bubble its label: that of the last row with its name.
-std::string LabelPlace(xlsx::Workbook& book, const IXMLDOMElement& chart, const Bubble& bubble) {
-  const TableArea area(chart);
-  const std::int32_t names = FirstColumnNumber(chart, "categories/column");
-  const std::int32_t labels = FirstColumnNumber(chart, "series/column");
+std::string LabelPlace(xlsx::Workbook& book, const IXMLDOMElement& chart, const IXMLDOMElement& table,
+                       const Bubble& bubble) {
+  const TableArea area(table);
+  const std::int32_t names = FirstColumnNumber(chart, table, "categories/column");
+  const std::int32_t labels = FirstColumnNumber(chart, table, "series/column");
   const auto sheet = book.FindWorksheet(area.sheet);
   std::int32_t found = area.firstRow;
   std::string scratch;
-  for (std::int32_t row = area.firstRow; sheet && row <= area.lastRow; ++row) {
+  for (std::int32_t row = area.firstRow; sheet && names != 0 && row <= area.lastRow; ++row) {
     if (runtime::EqualsIgnoreCase(GetCellText(*sheet, row, names, scratch), bubble.name)) found = row;
   }
-  return CellText(area.sheet, found, labels);
+  return labels == 0 ? "" : CellText(area.sheet, found, labels);
 }
 
 /// Whether the legend takes the label apart, and finds no colour for a piece.
@@ -78,7 +81,7 @@ bool FallsApart(const std::string& label, const std::vector<Bubble>& bubbles) {
 
 }  // namespace
 
-Findings CheckBubbleLabels(xlsx::Workbook& book, const IXMLDOMElement& chart) {
+Findings CheckBubbleLabels(xlsx::Workbook& book, const IXMLDOMElement& chart, const IXMLDOMElement& table) {
   const auto series = chart.selectSingleNode("series/column");
   if (!series || GetAttributeText(chart.selectSingleNode("series"), "headings-in") == "none") return {};
   const std::vector<Bubble> bubbles = BubblesOf(book, GetAttributeText(chart, "id"));
@@ -86,7 +89,7 @@ Findings CheckBubbleLabels(xlsx::Workbook& book, const IXMLDOMElement& chart) {
     const bool isBlank = bubble.label.empty();
     if (!isBlank && !FallsApart(bubble.label, bubbles)) continue;
     const std::string start = "The column " + Quoted(GetAttributeText(series, "name")) + " has ";
-    return {{LabelPlace(book, chart, bubble), FindingKind::kCells,
+    return {{LabelPlace(book, chart, table, bubble), FindingKind::kCells,
              start +
                  (isBlank ? "no label here for the bubble " + Quoted(bubble.name) +
                                 ", so that it isn't shown and the chart has no drawn legend; fill the cell in"

@@ -65,7 +65,7 @@ void RunLook::ChartStarted(const std::string& id) {
   CompareStored();
   if (GetAttributeText(chart, "type") == kBubbleType && HostVersion(oApplication) > kLastClassicVersion &&
       std::none_of(findings.begin(), findings.end(), ForbidsDrawing)) {
-    bubbles_.insert(id);
+    bubbles_.insert_or_assign(id, colTables->Item(GetAttributeText(chart, "table-id")));
   }
 }
 
@@ -125,8 +125,9 @@ void RunLook::CollectKept(const CheckedDefinition& row, std::vector<ChartFinding
     }
   }
   for (const Finding& finding : started->second) collect(finding);
-  if (bubbles_.contains(row.id)) {
-    for (Finding& finding : CheckBubbleLabels(book_, row.document.selectSingleNode("chart"))) {
+  if (const auto table = bubbles_.find(row.id); table != bubbles_.end()) {
+    for (Finding& finding : CheckBubbleLabels(book_, row.document.selectSingleNode("chart"),
+                                              table->second.selectSingleNode("table"))) {
       collect(std::move(finding));
     }
   }

@@ -57,7 +57,8 @@ class RunLook {
   std::map<std::string, Findings> started_;      ///< about each chart whose build began, by id
   std::map<std::string, Findings> differences_;  ///< where a chart counts and not its definition, by id
   bool compared_ = false;
-  std::set<std::string> bubbles_;  ///< ids of bubble charts with a drawn legend that were drawn
+  /// The tables of the bubble charts with a drawn legend that were drawn, by the charts' ids.
+  std::map<std::string, dom::IXMLDOMDocument2> bubbles_;
 };
 
 }  // namespace plotsmith::cli

@@ -32,7 +32,17 @@ std::string ReasonOf(ChartState state, const std::string& id, const std::vector<
   return sentences.empty() ? StateReason(state) : sentences;
 }
 
-Json Describe(const dom::IXMLDOMElement& chart, const std::vector<CheckedDefinition>& checked) {
+/// What makes the picture wrong, in the words of a refresh.
+Json FindingsOf(const dom::IXMLDOMElement& chart, xlsx::Workbook& book) {
+  Json list = Json::array();
+  for (const Finding& finding : CheckSources(book, chart, "")) {
+    list.push_back({{"place", finding.place}, {"sentence", finding.sentence}});
+  }
+  return list;
+}
+
+Json Describe(const dom::IXMLDOMElement& chart, const std::vector<CheckedDefinition>& checked,
+              xlsx::Workbook& book) {
   const std::string id = GetAttributeText(chart, "id");
   const ChartState state =
       StateOf(chart, ValueOr(excel::Ref<excel::Chart>(), [&] { return colChartObjects->Item(id); }));
@@ -44,14 +54,8 @@ Json Describe(const dom::IXMLDOMElement& chart, const std::vector<CheckedDefinit
           {"tableSheet", GetAttributeText(chart, "table-worksheet")},
           {"table", GetAttributeText(chart, "table-id")},
           {"state", StateName(state)},
-          {"reason", ReasonOf(state, id, checked)}};
-}
-
-/// What makes the picture wrong, a line each, in the words of a refresh.
-void PrintFindings(std::ostream& out, xlsx::Workbook& book, const dom::IXMLDOMDocument2& document) {
-  for (const Finding& finding : CheckSources(book, document.selectSingleNode("chart"), "")) {
-    out << "    " << (finding.place.empty() ? "" : finding.place + ": ") << finding.sentence << '\n';
-  }
+          {"reason", ReasonOf(state, id, checked)},
+          {"findings", FindingsOf(chart, book)}};
 }
 
 }  // namespace
@@ -71,7 +75,7 @@ int ChartsCommand::Run(const GlobalOptions& options, const Streams& streams) {
   if (colCharts->Count() > 0) {
     const auto checked = CheckDefinitions(session.Book());
     for (const auto& document : *colCharts) {
-      list.push_back(Describe(document.selectSingleNode("chart"), checked));
+      list.push_back(Describe(document.selectSingleNode("chart"), checked, session.Book()));
     }
   }
   if (json_) {
@@ -83,7 +87,11 @@ int ChartsCommand::Run(const GlobalOptions& options, const Streams& streams) {
     streams.out << text("id") << "  \"" << text("name") << "\"\n  " << text("type") << " chart on sheet "
                 << text("chartSheet") << ", from table " << text("table") << " on sheet "
                 << text("tableSheet") << "\n  " << text("state") << '\n';
-    PrintFindings(streams.out, session.Book(), colCharts->Item(chart["id"].get<std::string>()));
+    for (const Json& finding : chart["findings"]) {
+      const std::string place = finding["place"];
+      streams.out << "    " << (place.empty() ? "" : place + ": ") << finding["sentence"].get<std::string>()
+                  << '\n';
+    }
   }
   return code;
 }

@@ -6,6 +6,8 @@
 #include <numeric>
 #include <vector>
 
+#include "qt/forms/FirstRow.h"
+
 namespace plotsmith::qt {
 namespace {
 
@@ -18,9 +20,9 @@ Qt::Alignment AlignmentOf(forms::ColumnAlignment alignment) {
 
 /// Shares its width out among the columns in proportion to what the page wants, so that nothing is cut off as
 /// long as there is room.
-class Table final : public QTableWidget {
+class Table final : public FromFirstRow<QTableWidget> {
  public:
-  using QTableWidget::QTableWidget;
+  using FromFirstRow::FromFirstRow;
 
   void SetShares(std::vector<double> shares) {
     shares_ = std::move(shares);
@@ -29,7 +31,7 @@ class Table final : public QTableWidget {
 
  protected:
   void resizeEvent(QResizeEvent* event) override {
-    QTableWidget::resizeEvent(event);
+    FromFirstRow::resizeEvent(event);
     ShareOut();
   }
 

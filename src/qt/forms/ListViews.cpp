@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "qt/forms/FirstRow.h"
 #include "qt/forms/TextViews.h"
 
 namespace plotsmith::qt {
@@ -59,7 +60,7 @@ void ComboBoxView::Show() {
 }
 
 ListBoxView::ListBoxView(forms::ListBox& model, QWidget* parent, const Post& post)
-    : ControlView(model, post), model_(model), list_(new QListWidget(parent)) {
+    : ControlView(model, post), model_(model), list_(new FromFirstRow<QListWidget>(parent)) {
   list_->setSelectionMode(model.MultiSelect() == forms::MultiSelect::kExtended
                               ? QAbstractItemView::ExtendedSelection
                               : QAbstractItemView::SingleSelection);

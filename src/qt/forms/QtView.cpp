@@ -23,6 +23,7 @@ void QtView::Open(forms::Form& form) {
 void QtView::Close(forms::Form& form) {
   std::erase_if(pending_, [&](const Gesture& gesture) { return gesture.form == &form; });
   windows_.pop_back();
+  if (windows_.empty()) closesAll_ = false;
   if (Front() != nullptr) Front()->ComeBack();
 }
 
@@ -35,27 +36,28 @@ void QtView::PostTo(forms::EventQueue& queue) {
   for (Gesture& gesture : std::exchange(pending_, {})) queue.Post(*gesture.form, std::move(gesture.gesture));
 }
 
-void QtView::CloseFront() {
-  if (Front() == nullptr) return;
-  forms::Form* const form = &Front()->Model();
-  pending_.push_back({form, [form] { form->UserClose(); }});
-}
-
 void QtView::Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) {
   ShowChanges();
   const QDeadlineTimer deadline = atMost ? QDeadlineTimer(*atMost) : QDeadlineTimer(QDeadlineTimer::Forever);
   QTimer alarm;  // events are waited for without an end of the waiting
   if (atMost) alarm.start(*atMost);
-  while (pending_.empty() && !deadline.hasExpired()) {
+  while (pending_.empty() && !closesAll_ && !deadline.hasExpired()) {
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  if (closesAll_) {
+    pending_.clear();
+    forms::Form& form = Front()->Model();
+    queue.Post(form, [&form] { form.UserClose(); });
   }
   PostTo(queue);
 }
 
+// The system is in the middle of its work. What hands do waits until it is over, so that nothing is looked at
+// or changed half-way; windows are painted, and answer their manager.
 void QtView::HandleEvents(forms::EventQueue& queue) {
   ShowChanges();
-  QCoreApplication::processEvents();
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   PostTo(queue);
 }
 

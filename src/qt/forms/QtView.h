@@ -31,8 +31,8 @@ class QtView final : public forms::View {
   void ShowChanges();
   /// Moves to the queue what hands did.
   void PostTo(forms::EventQueue& queue);
-  /// Closes the form in front, as a hand would.
-  void CloseFront();
+  /// Closes the form that waits next, as a hand would, and those behind it.
+  void CloseAll() { closesAll_ = true; }
 
  private:
   struct Gesture {
@@ -45,6 +45,7 @@ class QtView final : public forms::View {
   LastPress lastPress_;
   std::vector<std::unique_ptr<FormWindow>> windows_;
   std::vector<Gesture> pending_;
+  bool closesAll_ = false;
 };
 
 }  // namespace plotsmith::qt

@@ -1,5 +1,6 @@
 #include "qt/wizard/WizardDesktop.h"
 
+#include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMessageBox>
 #include <utility>
@@ -44,9 +45,8 @@ std::int32_t WizardDesktop::MsgBox(std::string_view text, desktop::Buttons butto
 double WizardDesktop::Timer() {
   // A tick of the busy window asks for the time as well.
   if (!yields_ && (!sinceYield_.isValid() || sinceYield_.hasExpired(kYieldInterval))) {
-    yields_ = true;
+    const QScopedValueRollback<bool> yields(yields_, true);
     App.Forms->DoEvents();
-    yields_ = false;
     sinceYield_.start();
   }
   return ConsoleDesktop::Timer();

@@ -21,8 +21,10 @@ constexpr const char* kWorkbooks = "Workbooks (*.xlsx *.xlsm)";
 
 void Tell(QWidget* owner, const std::string& sentence, const cli::Streams& streams) {
   streams.err << "plotsmith-wizard: " << sentence << '\n';
-  QMessageBox box(QMessageBox::Critical, TextOf(std::string_view(kProductTitle)), TextOf(sentence),
-                  QMessageBox::Ok, owner);
+  QString text = TextOf(sentence);
+  if (!text.isEmpty()) text[0] = text[0].toUpper();
+  QMessageBox box(QMessageBox::Critical, TextOf(std::string_view(kProductTitle)), text, QMessageBox::Ok,
+                  owner);
   box.setTextFormat(Qt::PlainText);
   RunDialog(box);
 }
@@ -42,14 +44,20 @@ WizardProgram::WizardProgram(WizardOptions options, const cli::Streams& streams)
   pages_->Shown = [this] { window_->Book().Update(); };
   window_->CloseAsked = [this] {
     closing_ = true;
-    pages_->CloseFront();
+    pages_->CloseAll();
   };
   window_->HelpAsked = [this] { desktop_->Help().ShowFirstPage(); };
 }
 
 int WizardProgram::Run() {
   window_->show();
-  while (LookBeforeRun() && RunPages() && Finish() == Next::kRunAgain && !closing_) {
+  Next next = Next::kRunAgain;
+  while (next == Next::kRunAgain && LookBeforeRun()) {
+    if (RunPages()) {
+      next = Finish();
+    } else {
+      next = isSaved_ && !closing_ ? AskWhatIsNext(QStringLiteral("Nothing was changed.")) : Next::kQuit;
+    }
   }
   return cli::exit_code::kDone;
 }
@@ -103,7 +111,7 @@ QString WizardProgram::Outcome() const {
 }
 
 WizardProgram::Next WizardProgram::Finish() {
-  if (options_.output) {
+  if (options_.output && !closing_) {
     if (const auto next = Save()) return *next;
   }
   for (;;) {
@@ -147,11 +155,29 @@ std::optional<WizardProgram::Next> WizardProgram::SaveAs() {
   QFileDialog dialog(window_.get(), QStringLiteral("Save As"), Target(), QString::fromLatin1(kWorkbooks));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QFileInfo(TextOf(options_.book)).suffix());
-  if (RunDialog(dialog) != QDialog::Accepted) return std::nullopt;
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);  // Qt would ask in a loop of its own
+  do {
+    if (RunDialog(dialog) != QDialog::Accepted) return std::nullopt;
+  } while (!MayReplace(dialog.selectedFiles().front()));
   const auto before = std::exchange(target_, TextOf(dialog.selectedFiles().front()));
   const auto next = Save();
   if (!next) target_ = before;
   return next;
+}
+
+bool WizardProgram::MayReplace(const QString& file) {
+  if (!QFileInfo::exists(file)) return true;
+  QMessageBox box(QMessageBox::Question, TextOf(std::string_view(kProductTitle)),
+                  QStringLiteral("\"%1\" is there already. Replace it?").arg(file),
+                  QMessageBox::Yes | QMessageBox::No, window_.get());
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(QMessageBox::No);
+  return RunDialog(box) == QMessageBox::Yes;
+}
+
+WizardProgram::Next WizardProgram::AskWhatIsNext(const QString& outcome) {
+  const int answer = window_->Ask(outcome, {QStringLiteral("&Close"), QStringLiteral("Chart &Wizard...")});
+  return answer == 1 ? Next::kRunAgain : Next::kQuit;
 }
 
 std::optional<WizardProgram::Next> WizardProgram::Save() {
@@ -163,11 +189,10 @@ std::optional<WizardProgram::Next> WizardProgram::Save() {
     Tell(window_.get(), e.what(), streams_);
     return std::nullopt;
   }
+  isSaved_ = true;
   if (closing_) return Next::kQuit;
   window_->SetBookName(QFileInfo(Target()).fileName());
-  const QString saved = Outcome() + QStringLiteral(" Saved in \"%1\".").arg(Target());
-  const int answer = window_->Ask(saved, {QStringLiteral("&Close"), QStringLiteral("Chart &Wizard...")});
-  return answer == 1 ? Next::kRunAgain : Next::kQuit;
+  return AskWhatIsNext(Outcome() + QStringLiteral(" Saved in \"%1\".").arg(Target()));
 }
 
 }  // namespace plotsmith::qt

@@ -48,6 +48,10 @@ class WizardProgram {
   std::optional<Next> AskBeforeClosing();
   /// Saves to a file of the person's choice, where Save saves from then on.
   std::optional<Next> SaveAs();
+  /// Whether a file may be written that is there already: the person says so.
+  bool MayReplace(const QString& file);
+  /// Says what came of a run, and asks whether another one is wanted.
+  Next AskWhatIsNext(const QString& outcome);
   /// Saves to the target, and asks what is next. Absent where that failed, which the person was told.
   std::optional<Next> Save();
   /// The file that Save writes.
@@ -63,6 +67,7 @@ class WizardProgram {
   std::optional<std::string> target_;  ///< where Save saves; absent: the workbook's own file
   std::unique_ptr<WizardWindow> window_;
   int chartsBefore_ = 0;  ///< charts that earlier runs have built
+  bool isSaved_ = false;  ///< an earlier run was saved
   bool closing_ = false;  ///< the window was closed while a page was open
 };
 

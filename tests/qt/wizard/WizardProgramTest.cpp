@@ -46,7 +46,8 @@ TEST_F(WizardProgramTest, TheBarAsksAndTheAnswerIsDone) {
       {"bar Save; bar Close", "bar bar", true, false},
       {"bar Discard", "bar", false, false},
       {"bar Save As; file OTHER; bar Close", "bar file bar", false, true},
-      {"bar Save As; file OTHER; bar Chart Wizard; close", "bar file bar frmPSSelectAction", false, true},
+      {"bar Save As; file OTHER; bar Chart Wizard; close; bar Close", "bar file bar frmPSSelectAction bar",
+       false, true},
       {"bar Save As; file BOOK; box Yes; bar Close", "bar file box bar", true, false},
       {"bar Save As; file BOOK; box No; do escape; bar Discard", "bar file box file bar", false, false},
       {"do wait; quit; box Save", "bar box", true, false},
@@ -70,6 +71,15 @@ TEST_F(WizardProgramTest, TheBarAsksAndTheAnswerIsDone) {
     EXPECT_TRUE(BytesOf(book_) == (bookChanges ? wanted : fresh_));
     EXPECT_TRUE(BytesOf(Other()) == (otherIsThere ? wanted : ""));
   }
+}
+
+TEST_F(WizardProgramTest, ClosingAsksBeforeItSavesWithAnOutputToo) {
+  AddChart();
+  const auto run =
+      Run("page frmPSSelectAction; select grdCharts #1; press cmdDelete; box OK; do wait; quit; box Discard",
+          {}, Other());
+  EXPECT_EQ(run.failure, "");
+  EXPECT_EQ(BytesOf(Other()), "");
 }
 
 TEST_F(WizardProgramTest, WhatIsNotAskedForIsNotSaved) {
@@ -110,9 +120,10 @@ TEST_F(WizardProgramTest, AFileThatCannotBeWrittenIsTold) {
   EXPECT_EQ(run.failure, "");
   EXPECT_EQ(run.seen, "frmPSSelectTable frmPSLayoutABC frmPSChartLocation box bar box bar bar");
   ASSERT_EQ(run.told.size(), 5u);
-  EXPECT_NE(run.told[0].find("can't save \"" + elsewhere + "\""), S::npos) << run.told[0];
+  EXPECT_NE(run.told[0].find("Can't save \"" + elsewhere + "\""), S::npos) << run.told[0];
   EXPECT_EQ(run.told[2], run.told[0]);
-  EXPECT_EQ(run.err, "plotsmith-wizard: " + run.told[0] + "\nplotsmith-wizard: " + run.told[0] + "\n");
+  const S line = "plotsmith-wizard: c" + run.told[0].substr(1) + "\n";
+  EXPECT_EQ(run.err, line + line);
   EXPECT_NE(BytesOf(elsewhere), "");
   EXPECT_TRUE(BytesOf(book_) == fresh_) << "-o leaves the workbook alone";
 }

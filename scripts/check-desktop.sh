@@ -1,0 +1,101 @@
+#!/bin/sh
+# Uses the wizard's window as a person would: on a real X display, with a window manager, by the events of a mouse and
+# a keyboard. What is saved must be what the command saves by the same gestures. BUILD is the folder of the programs.
+set -eu
+cd "$(dirname "$0")/.."
+build=$PWD/${1:-build}
+scripts/install-dependencies.sh xvfb openbox xdotool
+work=$(mktemp -d)
+clean() {
+  [ -z "${wizard:-}" ] || kill "$wizard" 2>/dev/null || true
+  [ -z "${manager:-}" ] || kill "$manager" 2>/dev/null || true
+  [ -z "${display:-}" ] || kill "$display" 2>/dev/null || true
+  rm -rf "$work"
+}
+trap clean EXIT
+
+Xvfb -displayfd 3 -screen 0 1366x768x24 3>"$work/display" 2>/dev/null &
+display=$!
+while [ ! -s "$work/display" ]; do sleep 0.1; done
+DISPLAY=:$(cat "$work/display")
+export DISPLAY
+unset QT_QPA_PLATFORM
+openbox 2>/dev/null &
+manager=$!
+
+passed=0
+failed=0
+expect() { # WHAT, then a command that must succeed
+  what=$1
+  shift
+  if "$@"; then
+    passed=$((passed + 1))
+  else
+    failed=$((failed + 1))
+    echo "failed: $what" >&2
+  fi
+}
+
+# Waits until the window of this title is in front, and gives it the keys: TITLE KEY...
+keys() {
+  title=$1
+  shift
+  window=$(timeout 20 xdotool search --sync --onlyvisible --name "$title" | tail -1)
+  xdotool windowactivate --sync "$window" 2>/dev/null || true
+  for key in "$@"; do
+    case $key in
+      text:*) xdotool type --delay 5 "${key#text:}" ;;
+      *) xdotool key --delay 30 "$key" ;;
+    esac
+  done
+}
+
+start() { # the program, with arguments
+  "$build/plotsmith-wizard" "$@" 2>"$work/err" &
+  wizard=$!
+}
+ended() { # CODE
+  code=0
+  wait "$wizard" || code=$?
+  wizard=
+  [ "$code" -eq "$1" ]
+}
+
+# A chart made with the keyboard alone, and saved.
+fresh=examples/data/orders.xlsx
+cp "$fresh" "$work/orders.xlsx"
+start "$work/orders.xlsx"
+keys "Source Table and Chart Type" Home space Tab Down Alt+n
+keys "Chart Layout" "text:By hand" Alt+n
+keys "Chart Location" Return
+keys "orders.xlsx - Plotsmith" Return
+sleep 1
+keys "orders.xlsx - Plotsmith" Return
+expect "the program ends" ended 0
+cat > "$work/script" <<'END'
+select grdTables #1
+choose optType(1)
+press cmdNext
+type txtTitle "By hand"
+press cmdNext
+press cmdFinish
+END
+"$build/plotsmith" wizard "$fresh" --script "$work/script" -o "$work/command.xlsx"
+expect "what a hand saves is what the command saves" cmp "$work/orders.xlsx" "$work/command.xlsx"
+
+# The window's close box on the first page: nothing is saved.
+cp "$fresh" "$work/orders.xlsx"
+start "$work/orders.xlsx"
+keys "Source Table and Chart Type" alt+F4
+expect "closing ends the program" ended 0
+expect "nothing is saved" cmp "$work/orders.xlsx" "$fresh"
+
+# A workbook that another program has open.
+: > "$work/.~lock.orders.xlsx#"
+start "$work/orders.xlsx"
+keys "Plotsmith" Return
+expect "a locked workbook is refused" ended 3
+rm "$work/.~lock.orders.xlsx#"
+
+echo "$passed passed, $failed failed"
+[ "$failed" -eq 0 ]
