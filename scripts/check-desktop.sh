@@ -41,7 +41,9 @@ keys() {
   title=$1
   shift
   window=$(timeout 20 xdotool search --sync --onlyvisible --name "$title" | tail -1)
-  xdotool windowactivate --sync "$window" 2>/dev/null || true
+  [ -n "$window" ] || { echo "failed: no window of the title $title came" >&2; exit 1; }
+  timeout 5 xdotool windowactivate --sync "$window" 2>/dev/null || true
+  sleep 0.5 # the keyboard follows a moment after the window
   for key in "$@"; do
     case $key in
       text:*) xdotool type --delay 5 "${key#text:}" ;;
@@ -56,7 +58,10 @@ start() { # the program, with arguments
 }
 ended() { # CODE
   code=0
+  (sleep 20 && kill -9 "$wizard") 2>/dev/null &
+  watchdog=$!
   wait "$wizard" || code=$?
+  kill "$watchdog" 2>/dev/null || true
   wizard=
   [ "$code" -eq "$1" ]
 }
@@ -65,8 +70,8 @@ ended() { # CODE
 fresh=examples/data/orders.xlsx
 cp "$fresh" "$work/orders.xlsx"
 start "$work/orders.xlsx"
-keys "Source Table and Chart Type" Home space Tab Down Alt+n
-keys "Chart Layout" "text:By hand" Alt+n
+keys "Source Table and Chart Type" Home Tab Down space alt+n
+keys "Chart Layout" "text:By hand" alt+n
 keys "Chart Location" Return
 keys "orders.xlsx - Plotsmith" Return
 sleep 1
@@ -93,7 +98,7 @@ expect "nothing is saved" cmp "$work/orders.xlsx" "$fresh"
 # A workbook that another program has open.
 : > "$work/.~lock.orders.xlsx#"
 start "$work/orders.xlsx"
-keys "Plotsmith" Return
+keys "^Brindle Plotsmith$" Return
 expect "a locked workbook is refused" ended 3
 rm "$work/.~lock.orders.xlsx#"
 

@@ -296,6 +296,15 @@ TEST_F(RunLookTest, AColumnThatLooksRenamedIsNamed) {
   const S taken = Refresh();
   EXPECT_NE(taken.find("; it has Region, Product, Product and Cost.\n"), S::npos)
       << taken << "a column that the chart has already is no new name";
+
+  test::Definition other{"VEX_Chart2"};
+  other.values = "<values><column name=\"Cost\"/></values>";
+  Write(SalesBook({{"VEX_Chart1"}, other}));
+  EXPECT_EQ(Refresh(), "");
+  Edit("/xl/worksheets/sheet1.xml", "Cost", "Rest");
+  Edit("/xl/worksheets/sheet1.xml", "Amount", "Cost");
+  EXPECT_NE(Refresh().find("; it has Region, Product, Cost and Rest.\n"), S::npos)
+      << "nor is one that another chart has";
 }
 
 TEST_F(RunLookTest, ABubbleWithoutALabelTakesTheLegendAlong) {

@@ -199,10 +199,21 @@ class SourceCheck {
     return ValueOr(std::int32_t{0}, [&] { return GetAttributeLong(element, attribute); });
   }
 
-  /// Whether a group of the definition names the column.
+  /// Whether a definition over the table, as far as they are loaded, names the column: then that is no new
+  /// name.
   bool IsNamed(const std::string& name) const {
+    if (Names(chart_, name)) return true;
+    const std::string table = GetAttributeText(chart_, "table-id");
+    return colCharts && std::any_of(colCharts->begin(), colCharts->end(), [&](const auto& document) {
+             const auto other = document.selectSingleNode("chart");
+             return GetAttributeText(other, "table-id") == table && Names(other, name);
+           });
+  }
+
+  /// Whether a group of the definition names the column.
+  static bool Names(const IXMLDOMElement& chart, const std::string& name) {
     return std::any_of(ColumnGroups().begin(), ColumnGroups().end(), [&](const ColumnGroup& group) {
-      const auto element = Group(group.element);
+      const auto element = chart.selectSingleNode(group.element);
       return element && FindColumn(element.selectNodes("column"), name);
     });
   }
