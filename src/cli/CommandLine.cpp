@@ -4,6 +4,7 @@
 
 #include "cli/Candidates.h"
 #include "cli/Failures.h"
+#include "cli/HostVersionOption.h"
 #include "cli/commands/AllCommands.h"
 
 namespace plotsmith::cli {
@@ -68,10 +69,7 @@ CommandLine::CommandLine() : app(kDescription, "plotsmith"), commands(MakeComman
   app.fallthrough();
   app.allow_windows_style_options(false);  // what begins with a slash is a path on every system
   app.set_version_flag("-V,--version", std::string("plotsmith ") + PLOTSMITH_VERSION);
-  app.add_option("--host-version", options.hostVersion,
-                 "Behave as Plotsmith does in this version of Excel; up to 11 and above 11 differ")
-      ->type_name("NUMBER")
-      ->capture_default_str();
+  DeclareHostVersion(app, options.hostVersion);
   app.add_flag("--journal", options.journal,
                "Write down each change to the workbook as it is made, a line each");
   app.add_flag("--drop-broken", options.dropBroken,

@@ -20,7 +20,7 @@ class StandardStreams {
   StandardStreams& operator=(const StandardStreams&) = delete;
 
  private:
-  unsigned oldCodePage_ = 0;  ///< of the console's output; 0 without a console
+  [[maybe_unused]] unsigned oldCodePage_ = 0;  ///< of the console's output; 0 without a console
 };
 
 bool IsTerminal(std::FILE* stream);

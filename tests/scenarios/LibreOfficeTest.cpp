@@ -6,6 +6,7 @@
 #include <set>
 #include <vector>
 
+#include "runtime/Variant.h"
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
 #include "xlsx/Worksheet.h"
@@ -180,7 +181,7 @@ TEST_F(LibreOfficeTest, AChartOnANewSheetHasItsHeight) {
   xlsx::xml::Parse(content, Entry(Convert(), "content.xml").value_or(""));
   const auto frame = content.select_node("//table:table[@table:name='New']//draw:frame").node();
   const S height = frame.attribute("svg:height").value();
-  EXPECT_NEAR(std::strtod(height.c_str(), nullptr) * (height.ends_with("in") ? 72 : 72 / 2.54), 300, 1)
+  EXPECT_NEAR(runtime::Val(std::string_view(height)) * (height.ends_with("in") ? 72 : 72 / 2.54), 300, 1)
       << height;
 }
 

@@ -196,7 +196,7 @@ class WorkerPool {
     int status = 0;
     while (waitpid(worker.process, &status, 0) < 0 && errno == EINTR) {
     }
-    return WIFSIGNALED(status) ? strsignal(WTERMSIG(status)) : "it left early";
+    return WIFSIGNALED(status) ? sigdescr_np(WTERMSIG(status)) : "it left early";
   }
 
   const WorkerTasks& tasks_;

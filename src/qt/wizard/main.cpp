@@ -4,6 +4,7 @@
 #include <iostream>
 #include <utility>
 
+#include "cli/HostVersionOption.h"
 #include "qt/wizard/EventLoop.h"
 #include "qt/wizard/WizardProgram.h"
 
@@ -34,10 +35,7 @@ void Declare(CLI::App& app, plotsmith::qt::WizardOptions& options) {
   app.add_flag("--force", options.global.force, "Also write a workbook that another program holds open");
   app.add_flag("--journal", options.global.journal,
                "Write down each change to the workbook as it is made, a line each");
-  app.add_option("--host-version", options.global.hostVersion,
-                 "Behave as Plotsmith does in this version of Excel; up to 11 and above 11 differ")
-      ->type_name("NUMBER")
-      ->capture_default_str();
+  plotsmith::cli::DeclareHostVersion(app, options.global.hostVersion);
   app.set_version_flag("-V,--version", std::string("plotsmith-wizard ") + PLOTSMITH_VERSION);
 }
 
