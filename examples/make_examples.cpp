@@ -75,7 +75,7 @@ void MakeElectricity(const std::string& path) {
     const char* kind;
     std::array<double, 6> generation;
   };
-  // nuclear power comes first, as an area chart with depth hides what stands behind larger values
+  // nuclear power comes first, as an area chart with depth hides what is behind larger values
   const Source kSources[] = {{"Nuclear", "nuclear", {72, 71, 61, 65, 33, 7}},
                              {"Lignite", "fossil", {131, 102, 83, 99, 104, 77}},
                              {"Hard coal", "fossil", {72, 48, 35, 47, 56, 36}},
@@ -173,7 +173,7 @@ void MakeCountries(const std::string& path) {
                  Settings({"quadrants", "autoscale-x", "autoscale-y"}, "static-attributes"));
   book.Refresh();
   // The scales are set on the chart, as by hand: the poor countries would lie on each other on a linear axis,
-  // and nobody lives for less than 50 years.
+  // and no life expectancy is below 50 years.
   constexpr std::int32_t kLogarithmic = -4133;  // xlScaleLogarithmic
   const auto gdp = wealth->Chart()->Axes(excel::xlCategory, excel::xlPrimary);
   gdp->SetScaleType(kLogarithmic);

@@ -156,7 +156,7 @@ void PlaceLegend() {
   }
 }
 
-/// Whether a program dropped the drawn legend. A chart whose legend somebody deleted has a plot area of its
+/// Whether a program dropped the drawn legend. A chart whose legend a person deleted has a plot area of its
 /// full width since the next refresh; where a legend was drawn, its room is still free.
 bool DrawnLegendWasDropped() {
   if (!LossesOfLastSave().bShapesOnCharts) return false;

@@ -1,5 +1,3 @@
-#include "cli/OtherProgram.h"
-
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -8,6 +6,7 @@
 #include <unistd.h>
 
 #include "cli/Command.h"
+#include "cli/OtherProgram.h"
 
 namespace plotsmith::cli {
 namespace {

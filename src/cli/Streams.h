@@ -10,7 +10,7 @@ struct Streams {
   std::istream& in;
   std::ostream& out;
   std::ostream& err;
-  bool terminal = false;     ///< somebody watches `err`, so progress is worth showing
+  bool terminal = false;     ///< a person watches `err`, so progress is worth showing
   bool outTerminal = false;  ///< `out` is a terminal, which is no place for a workbook
 };
 

@@ -56,7 +56,7 @@ bool RowHoldsChart(std::int32_t lRow, const std::string& sText, const std::strin
   return oRow.bParses && oRow.sID == sID;
 }
 
-/// Whether a program dropped the box of a chart that has a comment: then nobody has deleted the comment.
+/// Whether a program dropped the box of a chart that has a comment: then no person has deleted the comment.
 bool CommentBoxWasDropped(const IXMLDOMElement& oChart) {
   return !GetChildText(oChart, "comment").empty() && LossesOfLastSave().bTextBoxes;
 }

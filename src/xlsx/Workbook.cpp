@@ -43,7 +43,7 @@ constexpr std::string_view kEmptyWorkbook =
     R"(xmlns:r="http://schemas.openxmlformats.org/officeDocument/2006/relationships">)"
     R"(<bookViews><workbookView/></bookViews><sheets/></workbook>)";
 
-/// The height of rows stands in the sheet, as in Excel's, because other programs have a default of their own,
+/// The sheet has the height of rows, as in Excel's, because other programs have a default of their own,
 /// which would change the height of charts.
 std::string EmptySheet(bool strict) {
   return std::string(kXmlDeclaration) + "<worksheet xmlns=\"" +

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "fuzz/Targets.h"
-
 #include "tests/support/Paths.h"
 
 namespace plotsmith {

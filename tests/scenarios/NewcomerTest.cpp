@@ -66,9 +66,8 @@ TEST_F(NewcomerTest, TheWorkbookOfTheReadmeIsRefreshedAsItSays) {
     if (line.find("write_book") == S::npos) continue;
     // it writes the definition that stands above
     const S definition = std::regex_replace(Block(readme_, "xml\n"), std::regex("\n *"), "");
-    EXPECT_EQ(
-        Shell(S(test::kCommand) + " cells " + (folder_ / "book.xlsx") + " 'VEX_ChartDefinitions!A2'"),
-        definition + "\n");
+    EXPECT_EQ(Shell(S(test::kCommand) + " cells " + (folder_ / "book.xlsx") + " 'VEX_ChartDefinitions!A2'"),
+              definition + "\n");
   }
   EXPECT_EQ(last,
             "VEX_Chart1  \"Sales\"\n  column chart on sheet Data1, from table Data1 on sheet Data1\n  ok\n");

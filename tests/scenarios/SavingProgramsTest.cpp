@@ -100,7 +100,7 @@ TEST_F(SavingProgramsTest, WhatAProgramIsKnownToLoseComesBack) {
       {"LibreOffice/24.2.0.3$Linux_X86_64", "15.0000", "", none},
       {"Microsoft Excel", "3.0", "shapes", all},
       {"Microsoft Excel Compatible / Openpyxl 3.1.5", "3.1", "shapes", all},
-      // in the file of any other program somebody has detached the chart
+      // in the file of any other program a person has detached the chart
       {"Microsoft Excel", "16.0300", "", none},
       {"Microsoft Excel", "", "", none},
       {"Microsoft Macintosh Excel", "15.0300", "", none},
@@ -144,7 +144,7 @@ TEST_F(SavingProgramsTest, TheHostSaysWhoSavedTheWorkbook) {
 
 TEST_F(SavingProgramsTest, WhatWasDeletedDoesNotComeBack) {
   Draw();
-  // A copy that somebody made in LibreOffice shows the same data, and has no alternative text either.
+  // A copy that a person made in LibreOffice shows the same data, and has no alternative text either.
   test::EditPart(folder_ / "saved.xlsx", kDrawing, [](S& xml) {
     const auto first = xml.find("<xdr:twoCellAnchor"), end = xml.find("</xdr:twoCellAnchor>") + 20;
     xml.insert(end, xml.substr(first, end - first));

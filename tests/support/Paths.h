@@ -2,8 +2,8 @@
 
 namespace plotsmith::test {
 
-/// Where things are on the machine that builds the tests. One file alone is compiled with these names, so that a
-/// clone at another place need not compile all others anew.
+/// Where things are on the machine that builds the tests. One file alone is compiled with these names, so
+/// that a clone at another place need not compile all others anew.
 ///@{
 extern const char* const kSourceFolder;   ///< the root of the repository
 extern const char* const kBuildFolder;    ///< where CMake has built

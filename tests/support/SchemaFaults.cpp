@@ -1,4 +1,3 @@
-#include "tests/support/Paths.h"
 #include "tests/support/SchemaFaults.h"
 
 #include <filesystem>
@@ -9,6 +8,7 @@
 #include <string_view>
 
 #include "runtime/Strings.h"
+#include "tests/support/Paths.h"
 
 namespace plotsmith::test {
 namespace {

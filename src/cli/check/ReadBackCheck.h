@@ -17,7 +17,7 @@ enum class AxisTitles { kCompared, kRenamed };
 Findings CheckReadBack(const dom::IXMLDOMElement& stored, const dom::IXMLDOMElement& read,
                        const std::string& place, AxisTitles axisTitles);
 
-/// Whether it was the definition that somebody changed last, and not the chart. A person changes a chart in a
+/// Whether it was the definition that a person changed last, and not the chart. A person changes a chart in a
 /// spreadsheet program, which writes the chart's part anew in its own form. So a chart whose part still has
 /// Plotsmith's form has not been changed by hand since it was drawn. The same goes for a definition that
 /// Plotsmith has not stored yet.

@@ -11,7 +11,7 @@
 
 namespace plotsmith::qtbook {
 
-/// Paints what stands in cells. Fonts are made so large that a digit is no wider than the sheet's columns
+/// Paints the contents of cells. Fonts are made so large that a digit is no wider than the sheet's columns
 /// count on, since the workbook's own font may be missing here.
 class CellPainter {
  public:

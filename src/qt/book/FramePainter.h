@@ -16,7 +16,7 @@ namespace plotsmith::qtbook {
 /// Draws a chart into an area, in pixels of the painter. Returns false if it can't, with nothing drawn.
 using ChartPainter = std::function<bool(QPainter&, const excel::Ref<excel::Chart>&, const QRectF&)>;
 
-/// What stands in the frame of a chart while there is no picture of it.
+/// The texts in the frame of a chart while there is no picture of it.
 struct ChartCaption {
   QString title;  ///< the chart's, or the name of its shape
   QString type;   ///< in words, such as "Stacked bar chart"

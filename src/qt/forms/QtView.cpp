@@ -23,7 +23,6 @@ void QtView::Open(forms::Form& form) {
 void QtView::Close(forms::Form& form) {
   std::erase_if(pending_, [&](const Gesture& gesture) { return gesture.form == &form; });
   windows_.pop_back();
-  if (windows_.empty()) closesAll_ = false;
   if (Front() != nullptr) Front()->ComeBack();
 }
 

@@ -13,14 +13,12 @@ namespace plotsmith::qt {
 /// Forms as windows on the screen. Needs a QApplication.
 class QtView final : public forms::View {
  public:
-  /// Windows stay in front of `owner`, which may be null.
-  explicit QtView(QWidget* owner = nullptr) : owner_(owner) {}
-
   void Open(forms::Form& form) override;
   void Close(forms::Form& form) override;
   void Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) override;
   void HandleEvents(forms::EventQueue& queue) override;
 
+  /// Windows stay in front of `owner` from now on; null for none.
   void SetOwner(QWidget* owner) { owner_ = owner; }
   /// Called each time when the forms have been shown, for a window that shows something else beside them.
   std::function<void()> Shown = [] {};
@@ -33,6 +31,8 @@ class QtView final : public forms::View {
   void PostTo(forms::EventQueue& queue);
   /// Closes the form that waits next, as a hand would, and those behind it.
   void CloseAll() { closesAll_ = true; }
+  /// Takes that back, for a new run.
+  void StayOpen() { closesAll_ = false; }
 
  private:
   struct Gesture {
@@ -40,7 +40,7 @@ class QtView final : public forms::View {
     std::function<void()> gesture;
   };
 
-  QWidget* owner_;
+  QWidget* owner_ = nullptr;
   HeldKeys heldKeys_;
   LastPress lastPress_;
   std::vector<std::unique_ptr<FormWindow>> windows_;

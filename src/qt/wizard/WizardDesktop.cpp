@@ -2,14 +2,12 @@
 
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QMessageBox>
 #include <utility>
 
 #include "common/App.h"
-#include "common/PSConstants.h"
 #include "forms/TextBox.h"
 #include "qt/help/HelpWindow.h"
-#include "qt/wizard/EventLoop.h"
+#include "qt/wizard/MessageBox.h"
 
 namespace plotsmith::qt {
 
@@ -29,15 +27,13 @@ QWidget* WizardDesktop::Owner() const {
 
 std::int32_t WizardDesktop::MsgBox(std::string_view text, desktop::Buttons buttons, desktop::Icon icon,
                                    std::string_view title) {
-  QMessageBox box(Owner());
-  box.setWindowTitle(TextOf(title.empty() ? std::string_view(kProductTitle) : title));
-  box.setTextFormat(Qt::PlainText);
-  box.setText(TextOf(forms::WithLineEnds(text, "\n")));
-  box.setIcon(icon == desktop::Icon::kCritical ? QMessageBox::Critical : QMessageBox::NoIcon);
   const bool isQuestion = buttons == desktop::Buttons::kOkCancel;
-  box.setStandardButtons(isQuestion ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
-  box.setDefaultButton(QMessageBox::Ok);
-  const bool isOk = RunDialog(box) == QMessageBox::Ok;
+  const auto answer = ShowMessageBox(
+      Owner(), icon == desktop::Icon::kCritical ? QMessageBox::Critical : QMessageBox::NoIcon,
+      TextOf(forms::WithLineEnds(text, "\n")),
+      isQuestion ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::StandardButtons(QMessageBox::Ok),
+      QMessageBox::Ok, title);
+  const bool isOk = answer == QMessageBox::Ok;
   confirmed_ = confirmed_ || (isQuestion && isOk);
   return isOk || !isQuestion ? desktop::kOk : desktop::kCancel;
 }

@@ -2,14 +2,13 @@
 
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QFileDialog>
-#include <QtWidgets/QMessageBox>
 #include <utility>
 
-#include "common/PSConstants.h"
 #include "controller/CPlotsmithController.h"
 #include "qt/book/BookView.h"
 #include "qt/help/HelpWindow.h"
 #include "qt/wizard/EventLoop.h"
+#include "qt/wizard/MessageBox.h"
 
 namespace plotsmith::qt {
 namespace {
@@ -23,10 +22,7 @@ void Tell(QWidget* owner, const std::string& sentence, const cli::Streams& strea
   streams.err << "plotsmith-wizard: " << sentence << '\n';
   QString text = TextOf(sentence);
   if (!text.isEmpty()) text[0] = text[0].toUpper();
-  QMessageBox box(QMessageBox::Critical, TextOf(std::string_view(kProductTitle)), text, QMessageBox::Ok,
-                  owner);
-  box.setTextFormat(Qt::PlainText);
-  RunDialog(box);
+  ShowMessageBox(owner, QMessageBox::Critical, text);
 }
 
 WizardProgram::WizardProgram(WizardOptions options, const cli::Streams& streams)
@@ -70,11 +66,7 @@ QString WizardProgram::TakeSaid() {
 
 void WizardProgram::ShowSaid() {
   const QString text = TakeSaid();
-  if (text.isEmpty()) return;
-  QMessageBox box(QMessageBox::Information, TextOf(std::string_view(kProductTitle)), text, QMessageBox::Ok,
-                  window_.get());
-  box.setTextFormat(Qt::PlainText);
-  RunDialog(box);
+  if (!text.isEmpty()) ShowMessageBox(window_.get(), QMessageBox::Information, text);
 }
 
 bool WizardProgram::LookBeforeRun() {
@@ -82,18 +74,16 @@ bool WizardProgram::LookBeforeRun() {
     session_.LookBeforeRun(cli::DefinitionsAre::kEdited);
     return true;
   } catch (const cli::CommandError&) {
-    QMessageBox box(
-        QMessageBox::Warning, TextOf(std::string_view(kProductTitle)),
-        TakeSaid() + QStringLiteral("\n\nThe wizard would lose what is said here. Go on without it?"),
-        QMessageBox::Ok | QMessageBox::Cancel, window_.get());
-    box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(QMessageBox::Cancel);
-    return RunDialog(box) == QMessageBox::Ok;
+    return ShowMessageBox(
+               window_.get(), QMessageBox::Warning,
+               TakeSaid() + QStringLiteral("\n\nThe wizard would lose what is said here. Go on without it?"),
+               QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Ok;
   }
 }
 
 bool WizardProgram::RunPages() {
   chartsBefore_ = session_.ChartsStarted();
+  pages_->StayOpen();
   desktop_->Forget();
   CPlotsmithController().RunPlotsmith(session_.Host(), cli::kHostName, "");
   window_->Book().Update();
@@ -136,12 +126,9 @@ std::optional<WizardProgram::Next> WizardProgram::AskToSave(const QString& outco
 
 std::optional<WizardProgram::Next> WizardProgram::AskBeforeClosing() {
   closing_ = true;
-  QMessageBox box(QMessageBox::Question, TextOf(std::string_view(kProductTitle)),
-                  QStringLiteral("Save the changes to \"%1\"?").arg(Target()),
-                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, window_.get());
-  box.setTextFormat(Qt::PlainText);
-  box.setDefaultButton(QMessageBox::Save);
-  const int answer = RunDialog(box);
+  const auto answer = ShowMessageBox(
+      window_.get(), QMessageBox::Question, QStringLiteral("Save the changes to \"%1\"?").arg(Target()),
+      QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
   if (answer == QMessageBox::Save) {
     if (const auto next = Save()) return next;
   } else if (answer == QMessageBox::Discard) {
@@ -166,13 +153,10 @@ std::optional<WizardProgram::Next> WizardProgram::SaveAs() {
 }
 
 bool WizardProgram::MayReplace(const QString& file) {
-  if (!QFileInfo::exists(file)) return true;
-  QMessageBox box(QMessageBox::Question, TextOf(std::string_view(kProductTitle)),
-                  QStringLiteral("\"%1\" is there already. Replace it?").arg(file),
-                  QMessageBox::Yes | QMessageBox::No, window_.get());
-  box.setTextFormat(Qt::PlainText);
-  box.setDefaultButton(QMessageBox::No);
-  return RunDialog(box) == QMessageBox::Yes;
+  return !QFileInfo::exists(file) ||
+         ShowMessageBox(window_.get(), QMessageBox::Question,
+                        QStringLiteral("\"%1\" is there already. Replace it?").arg(file),
+                        QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
 WizardProgram::Next WizardProgram::AskWhatIsNext(const QString& outcome) {

@@ -42,7 +42,8 @@ struct SheetGeometry {
   GridLines rows;
 };
 
-/// The width of the widest digit in the Normal font, in pixels at 96 dots an inch, by which column widths count.
+/// The width of the widest digit in the Normal font, in pixels at 96 dots an inch, by which column widths
+/// count.
 int DigitWidth(const Styles& styles);
 
 /// From the part before `sheetData` and the heights that rows have of their own.

@@ -16,7 +16,6 @@
 #include "forms/Buttons.h"
 #include "forms/ModalLoop.h"
 #include "qt/help/HelpWindow.h"
-
 #include "tests/support/Paths.h"
 
 namespace plotsmith::qt {

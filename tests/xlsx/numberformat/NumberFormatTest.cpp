@@ -10,9 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "xlsx/numberformat/NumberFormat.h"
-
 #include "tests/support/Paths.h"
+#include "xlsx/numberformat/NumberFormat.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -487,7 +486,6 @@ TEST(NumberFormatTest, SurvivesAnyCodeAndValue) {
   NumberFormat::Parse(std::string(1000, '@'))->AppendText(out, std::string(30000, 'x'));
   EXPECT_LT(out.size(), 1'000'000u);
 }
-
 
 /// Where Excel shows something else than the collection says.
 struct CorpusException {
