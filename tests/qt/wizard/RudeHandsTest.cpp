@@ -50,6 +50,7 @@ void SendMouse(QWidget& widget, QEvent::Type type, QPointF onScreen, quint64 tim
 
 void SendKey(Qt::Key key, bool isRepeated) {
   QWidget* const front = FrontWindow();
+  if (front == nullptr) return;  // between two windows a key goes nowhere
   QWidget* const target = front->focusWidget() == nullptr ? front : front->focusWidget();
   QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, key == Qt::Key_Return ? "\r" : "", isRepeated);
   QApplication::sendEvent(target, &event);
