@@ -20,8 +20,13 @@ while [ ! -s "$work/display" ]; do sleep 0.1; done
 DISPLAY=:$(cat "$work/display")
 export DISPLAY
 unset QT_QPA_PLATFORM
-openbox 2>/dev/null &
+# A window that comes while the manager takes the display over is never shown, so the first one waits for it.
+openbox --startup "touch $work/managed" 2>/dev/null &
 manager=$!
+for _ in $(seq 200); do
+  [ ! -e "$work/managed" ] || break
+  sleep 0.1
+done
 
 passed=0
 failed=0
