@@ -20,7 +20,8 @@ constexpr const char* kDescription =
 constexpr const char* kFooter =
     "Exit codes: 0 done, 1 done but Plotsmith had something to say, 2 wrong usage,\n"
     "3 the workbook or the output could not be read or written, or definitions of charts would\n"
-    "have been lost, and nothing was changed.";
+    "have been lost, and nothing was changed; 128 and the number of a\n"
+    "signal that stopped it.";
 
 /// How many arguments an option takes up that `argument` names in full, alone or with its value behind "=";
 /// 0 if it names none.

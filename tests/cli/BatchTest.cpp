@@ -123,7 +123,8 @@ TEST_F(BatchTest, ResultsGoIntoAFolderEachByItsName) {
        "\"file\" is no folder, and several workbooks can only be written into one."},
       {{first, second, "-o", folder_ / "nowhere"},
        "\"nowhere\" is no folder, and several workbooks can only be written into one."},
-      {{first, second, "-o", "-"}, "\"-\" is no folder, and several workbooks can only be written into one."},
+      {{first, second, "-o", "-"},
+       "the standard output takes one workbook; several can be written into a folder."},
       {{second, first, "-o", folder_ / "one"},
        "\"one/a.xlsx\" is in the folder \"one\" itself; without -o it is refreshed where it is."},
       {{first, second, "--jobs", "0"}, "--jobs wants a number from 1 on."}};

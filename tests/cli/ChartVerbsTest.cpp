@@ -59,7 +59,8 @@ TEST_F(ChartVerbsTest, WhatIsNotThereIsOneSentenceAndNothingIsSaved) {
        "no chart 'Chart9'; there are VEX_Chart1 'Name of VEX_Chart1' and VEX_Chart2 'Name of VEX_Chart2'."},
       // columns and sheets
       {{"modify", "VEX_Chart1", "--values", "Region"},
-       "no column 'Region' for --values; there are Amount and Cost; 'Region' is a label column."},
+       "no column 'Region' for --values; there are Amount and Cost; 'Region' is a label column, since "
+       "Data1!A2 holds the text 'East'."},
       {{"modify", "VEX_Chart1", "--category-columns", "Amount", "Gain", "--no-series"},
        "no column 'Gain' for --category-columns; there are Amount and Cost."},
       {{"new", "--table", "Data1", "--type", "bar", "--sheet", "Sheet1"},
@@ -230,7 +231,7 @@ TEST_F(ChartVerbsTest, AChartWithoutATableCanOnlyBeDeleted) {
   EXPECT_EQ(Verb({"modify", "VEX_Chart1", "--table", "Data1"}).err, sentence);
   EXPECT_EQ(Verb({"copy", "VEX_Chart1"}).err, sentence);
   EXPECT_EQ(Verb({"delete", "VEX_Chart1"}).code, 0);
-  EXPECT_EQ(Charts(out_), "");
+  EXPECT_EQ(Charts(out_), "There are no charts of Plotsmith.\n");
   book_ = out_;
   out_ = folder_ / "again.xlsx";
   EXPECT_EQ(Verb({"delete", "VEX_Chart1"}).err,
@@ -259,7 +260,7 @@ TEST_F(ChartVerbsTest, CopiesStandWhereTheyAreTold) {
 
 TEST_F(ChartVerbsTest, DeletesSeveralCharts) {
   EXPECT_EQ(Verb({"delete", "VEX_Chart2", "name of VEX_Chart1", "VEX_Chart2"}).code, 0);
-  EXPECT_EQ(Charts(out_), "");
+  EXPECT_EQ(Charts(out_), "There are no charts of Plotsmith.\n");
   EXPECT_EQ(Verb({"delete", "VEX_Chart2"}).code, 0);
   EXPECT_TRUE(Charts(out_).starts_with("VEX_Chart1"));
   EXPECT_EQ(RunCommand({"delete", book_, "VEX_Chart2", "--print-script"}).out,

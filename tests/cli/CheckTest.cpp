@@ -70,6 +70,8 @@ TEST(CheckWordsTest, ListsAndQuotations) {
   EXPECT_EQ(Quoted("a\nb"), "'a b'");
   EXPECT_EQ(Quoted(S(61, 'x')), "'" + S(60, 'x') + "...'");
   EXPECT_EQ(CellText("My sheet", 5, 28), "'My sheet'!AB5");
+  EXPECT_EQ(ShellWord("VEX_SB1"), "VEX_SB1");
+  EXPECT_EQ(ShellWord("Region=Gebiet O'Neil"), "'Region=Gebiet O'\\''Neil'");
 }
 
 TEST_F(CheckTest, AGoodWorkbookIsListedAndFine) {
@@ -112,7 +114,7 @@ TEST_F(CheckTest, AWorkbookWithoutDefinitionsOrTablesIsFine) {
   const auto result = Check(book);
   EXPECT_EQ(result.code, 0);
   EXPECT_EQ(result.out,
-            "There are no definitions of charts.\nThere are no tables. To make one, call a sheet Data1, with "
+            "There are no charts of Plotsmith.\nThere are no tables. To make one, call a sheet Data1, with "
             "headings in row 1 and data below them; or give the data a name that begins with VEX_TableRange, "
             "with a title in its first cell and headings in its third row.\n");
   EXPECT_EQ(RunCommand({"check", folder_ / "none.xlsx"}).code, 3);
@@ -146,6 +148,10 @@ TEST_F(CheckTest, RowsThatALoadRemovesOrNeverReads) {
     book.sheets.pop_back();
     book.AddDefinitions(texts);
     EXPECT_EQ(Found(book), findings) << texts.front();
+    const auto listed = RunCommand({"charts", folder_ / "book.xlsx"});
+    const S place = findings[0].starts_with("VEX") ? "" : "VEX_ChartDefinitions!A2: ";
+    EXPECT_EQ(listed.err, "plotsmith: " + place + findings[0] + "\n");
+    EXPECT_EQ(listed.code, 1);
   }
   PlainBook book = SalesBook({{"VEX_Chart1"}});
   book.Sheet("VEX_ChartDefinitions").rows.erase(book.Sheet("VEX_ChartDefinitions").rows.begin());

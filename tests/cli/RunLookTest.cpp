@@ -60,13 +60,16 @@ class RunLookTest : public ::testing::Test {
     });
   }
 
-  S NothingToRefresh() const {
-    return "plotsmith: \"" + path_ + "\" has no charts of Plotsmith, so nothing was refreshed.\n";
+  S NothingToRefresh(const S& none) const {
+    return "plotsmith: \"" + path_ + "\" has " + none + ", so nothing was refreshed.\n";
   }
 
   test::TempFolder folder_;
   S path_ = folder_ / "book.xlsx";
 };
+
+const S kNoDefinition =
+    "no definitions of charts of Plotsmith, though a chart with the alternative text VEX_Chart1 is there";
 
 /// A line about the first definition of a sales book.
 S Line(const S& sentence, const S& place = "VEX_ChartDefinitions!A2") {
@@ -106,7 +109,7 @@ TEST_F(RunLookTest, NothingIsWrittenWhereADefinitionWouldBeLost) {
                                  "what is said, or use --drop-broken.\n");
       EXPECT_EQ(Bytes(path_), before) << verb[0];
     }
-    const S noCharts = row.charts == 0 ? NothingToRefresh() : "";
+    const S noCharts = row.charts == 0 ? NothingToRefresh(kNoDefinition) : "";
     EXPECT_EQ(Refresh({"--drop-broken"}), line + "; the row was dropped.\n" + noCharts);
     EXPECT_EQ(RunCommand({"check", path_}).code, 0) << RunCommand({"check", path_}).out;
     EXPECT_EQ(Charts().find("VEX_Chart1") != S::npos, row.charts == 1) << Charts();
@@ -184,12 +187,23 @@ TEST_F(RunLookTest, ADefinitionThatAProgramChangedIsToldFromAChartThatAPersonCha
     Edit(kDefinitions, "title=\"Sales\"", "title=\"Costs\"");
     Edit(kDefinitions, "type=\"column\"", "type=\"bar\"");
     Edit(kDefinitions, "label=\"Euro\"", "label=\"Dollar\"");
+    Edit(kDefinitions, "\"legend-visibility\" value=\"show\"", "\"legend-visibility\" value=\"hide\"");
   };
   edit();
   const S kept =
-      Line("The chart's own title 'Sales' was kept; the definition said 'Costs'.") +
-      Line("The chart's own type 'column' was kept; the definition said 'bar'.") +
-      Line("The chart's own title of the value axis 'Euro' was kept; the definition said 'Dollar'.");
+      Line("The title is 'Sales' on the chart and 'Costs' in the definition; that of the chart was kept.") +
+      Line("The type is 'column' on the chart and 'bar' in the definition; that of the chart was kept.") +
+      Line(
+          "The title of the value axis is 'Euro' on the chart and 'Dollar' in the definition; that of the "
+          "chart was kept.") +
+      Line(
+          "The visibility of the legend is 'show' on the chart and 'hide' in the definition; that of the "
+          "chart was kept.");
+  const S checked = RunCommand({"check", path_}).out;
+  EXPECT_NE(checked.find("  VEX_ChartDefinitions!A2: The type is 'column' on the chart and 'bar' in the "
+                         "definition; the next refresh keeps that of the chart.\n"),
+            S::npos)
+      << checked;
   EXPECT_EQ(RunCommand({"refresh", path_, "--table", "Data2", "-o", folder_ / "other.xlsx"}).err,
             kept + "plotsmith: no chart of \"" + path_ +
                 "\" hangs on the table \"Data2\", so nothing was refreshed.\n")
@@ -201,7 +215,9 @@ TEST_F(RunLookTest, ADefinitionThatAProgramChangedIsToldFromAChartThatAPersonCha
   EXPECT_EQ(Refresh(), "") << "perhaps a person has changed the chart";
   Edit(kDefinitions, "title=\"Sales\"", "title=\"Costs\"");
   Edit(kDefinitions, "ps-chart-schema-version=\"2\"", "");
-  EXPECT_EQ(Refresh(), Line("The chart's own title 'Sales' was kept; the definition said 'Costs'."));
+  EXPECT_EQ(
+      Refresh(),
+      Line("The title is 'Sales' on the chart and 'Costs' in the definition; that of the chart was kept."));
 }
 
 TEST_F(RunLookTest, AVerbThatChangesDefinitionsSaysWhatIsLeftOfTheOldOnes) {
@@ -214,8 +230,10 @@ TEST_F(RunLookTest, AVerbThatChangesDefinitionsSaysWhatIsLeftOfTheOldOnes) {
   const S colour = Line(
       "The element 'chart' has an unknown attribute 'colour'; there are id, name, title, type, table-id, "
       "strategic-bucket-table-id and number-format.");
-  EXPECT_EQ(RunCommand({"rename-columns", path_, "--table", "Data1", "Amount=Turnover"}).err,
-            Line("The chart's own title 'Sales' was kept; the definition said 'Costs'.") + colour)
+  EXPECT_EQ(
+      RunCommand({"rename-columns", path_, "--table", "Data1", "Amount=Turnover"}).err,
+      Line("The title is 'Sales' on the chart and 'Costs' in the definition; that of the chart was kept.") +
+          colour)
       << "the axis title has its new name from the command";
 
   Definition typeless{"VEX_Chart1", "line"};
@@ -359,8 +377,11 @@ TEST_F(RunLookTest, MoreBucketsThanAChartCanNameAreSaid) {
            " buckets, and a chart has room for the names of 22, so that ";
   };
   const S breaks =
-      "its drawing breaks off and it is left a column chart; leave 22 buckets or fewer, and then "
-      "draw it anew with plotsmith modify BOOK CHART --type 'strategic bucket'.";
+      "its drawing breaks off and it is left a column chart without a legend; leave 22 buckets or fewer, "
+      "then "
+      "draw it anew with plotsmith modify BOOK CHART --type 'strategic bucket', and switch its legend on in "
+      "a "
+      "spreadsheet program; the next refresh draws that.";
   const S misnamed = "the columns have wrong names; leave 22 buckets or fewer.";
   const S error =
       "Brindle Plotsmith: PSChartBuilder.PopulateStrBuckChart\nUnable to set the XValues property of the "
@@ -379,8 +400,12 @@ TEST_F(RunLookTest, MoreBucketsThanAChartCanNameAreSaid) {
     EXPECT_EQ(Refresh(), said) << count;
   }
   EXPECT_EQ(
-      Refresh().find(Line("The chart's own type 'column' was kept; the definition said 'strategic bucket'.")),
-      0u);
+      Refresh(),
+      Line(
+          "The type is 'column' on the chart and 'strategic bucket' in the definition; that of the chart was "
+          "kept.") +
+          Line(start(55) + breaks));
+  EXPECT_EQ(Refresh(), Line(start(55) + breaks)) << "as long as it lasts";
   Edit("/xl/workbook.xml", "$B$58", "$B$9");
   const CommandResult mended = RunCommand({"modify", path_, "VEX_Chart1", "--type", "strategic bucket"});
   EXPECT_EQ(mended.code, 0) << mended.err;
@@ -388,13 +413,21 @@ TEST_F(RunLookTest, MoreBucketsThanAChartCanNameAreSaid) {
   EXPECT_NE(Charts().find("strategic bucket chart"), S::npos) << Charts();
 }
 
+TEST_F(RunLookTest, ChartsWithoutASheetOfDefinitionsAreNamed) {
+  PlainBook book = SalesBook({{"VEX_Chart1"}});
+  book.sheets.pop_back();
+  Write(book);
+  EXPECT_EQ(Refresh(), NothingToRefresh(kNoDefinition));
+  EXPECT_TRUE(RunCommand({"check", path_}).out.starts_with("There are " + kNoDefinition + ".\n"));
+}
+
 TEST_F(RunLookTest, OfAWorkbookThatNeverSawPlotsmithNothingElseIsSaid) {
   PlainBook book;
   book.sheets.push_back(test::SalesSheet("Sheet1"));
   book.sheets[0].rows[1][2] = RawCell{"><f>1+1</f><v></v></c>"};
-  book.sheets[0].frames = {{"", "", 0, 0, 8, 18}, {"VEX_Chart1"}};
+  book.sheets[0].frames = {{"", "", 0, 0, 8, 18}, {"VEX_Table1"}};
   Write(book);
-  EXPECT_EQ(Refresh(), NothingToRefresh());
+  EXPECT_EQ(Refresh(), NothingToRefresh("no charts of Plotsmith"));
 }
 
 }  // namespace

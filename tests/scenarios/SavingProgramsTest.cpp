@@ -154,7 +154,7 @@ TEST_F(SavingProgramsTest, WhatWasDeletedDoesNotComeBack) {
   ASSERT_EQ(RunCommand({"refresh", path}).code, 0);
   ASSERT_EQ(RunCommand({"delete", path, "VEX_Chart1"}).code, 0);
   ASSERT_EQ(RunCommand({"refresh", path}).code, 1) << "there is no chart left to refresh";
-  EXPECT_EQ(RunCommand({"charts", path}).out, "");
+  EXPECT_EQ(RunCommand({"charts", path}).out, "There are no charts of Plotsmith.\n");
   const S xml = xlsx::Package::Open(path).Read(kDrawing);
   EXPECT_NE(xml.find("graphicFrame"), S::npos) << "the copy is a chart of its own";
   EXPECT_EQ(xml.find("VEX_Chart1"), S::npos);

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "cli/Failures.h"
+#include "cli/Session.h"
 #include "cli/batch/Workers.h"
 #include "cli/check/Words.h"
 #include "runtime/Utf8Path.h"
@@ -176,6 +177,10 @@ std::vector<BookRun> PlanRuns(const std::vector<std::string>& books,
   const std::vector<std::string> once = EachOnce(books);
   std::error_code ignored;
   if (output && fs::is_directory(runtime::PathOf(*output), ignored)) return RunsInto(*output, once);
+  if (IsStandardOutput(output) && once.size() > 1) {
+    throw CommandError(exit_code::kUsage,
+                       "the standard output takes one workbook; several can be written into a folder.");
+  }
   if (output && once.size() > 1) {
     throw CommandError(exit_code::kUsage, "\"" + *output +
                                               "\" is no folder, and several workbooks can only be written "

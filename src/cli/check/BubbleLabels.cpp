@@ -9,13 +9,16 @@
 #include "cli/check/Words.h"
 #include "common/CommonFunctions.h"
 #include "common/PSConstants.h"
+#include "common/RunVariables.h"
 #include "runtime/Strings.h"
+#include "xlsx/Worksheet.h"
 
 namespace plotsmith::cli {
 namespace {
 
 using dom::IXMLDOMElement;
 
+constexpr const char* kBubbleType = "bubble";
 constexpr char kSeparator = '|';
 constexpr const char* kHowToShowAgain =
     ", and then switch the chart's own legend on in a spreadsheet program; the next refresh draws it.";
@@ -82,6 +85,8 @@ bool FallsApart(const std::string& label, const std::vector<Bubble>& bubbles) {
 }  // namespace
 
 Findings CheckBubbleLabels(xlsx::Workbook& book, const IXMLDOMElement& chart, const IXMLDOMElement& table) {
+  if (GetAttributeText(chart, "type") != kBubbleType || HostVersion(oApplication) <= kLastClassicVersion)
+    return {};
   const auto series = chart.selectSingleNode("series/column");
   if (!series || GetAttributeText(chart.selectSingleNode("series"), "headings-in") == "none") return {};
   const std::vector<Bubble> bubbles = BubblesOf(book, GetAttributeText(chart, "id"));

@@ -1,9 +1,8 @@
 #include "cli/check/ChartMarkers.h"
 
-#include <vector>
-
 #include "cli/check/Words.h"
 #include "host/excel/Constants.h"
+#include "metadata/NewChart.h"
 #include "xlsx/SheetDrawing.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/package/Xml.h"
@@ -70,6 +69,15 @@ std::string ChartMarkers::SheetOf(const std::string& id) {
 bool ChartMarkers::IsGrouped(const std::string& id) {
   ReadAll();
   return grouped_.contains(id);
+}
+
+std::vector<std::string> ChartMarkers::Ids() {
+  ReadAll();
+  std::vector<std::string> ids;
+  for (const auto& [text, chart] : charts_) {
+    if (!ChartNumber(text).empty()) ids.push_back(text);
+  }
+  return ids;
 }
 
 std::string ChartMarkers::Absence(const std::string& id) {

@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "metadata/LostMarkers.h"
 #include "xlsx/SheetShape.h"
@@ -24,6 +25,8 @@ class ChartMarkers {
   std::string SheetOf(const std::string& id);
   /// Whether the chart of the id is in a group of shapes.
   bool IsGrouped(const std::string& id);
+  /// The alternative texts of all charts that are ids of Plotsmith's.
+  std::vector<std::string> Ids();
   /// Why no chart belongs to the id, and which charts there are, as a sentence.
   std::string Absence(const std::string& id);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "cli/check/Words.h"
 #include "common/CommonFunctions.h"
 #include "metadata/TableDefinitions.h"
 #include "runtime/Strings.h"
@@ -16,7 +17,7 @@ TableArea::TableArea(const dom::IXMLDOMElement& table)
   lastRow = top + GetAttributeLong(table, "table-height") - 1;
 }
 
-ColumnCells::ColumnCells(xlsx::Worksheet& sheet, const TableArea& area, std::int32_t column) {
+ColumnCells::ColumnCells(excel::Worksheet& sheet, const TableArea& area, std::int32_t column) {
   using Kind = excel::CellValue::Kind;
   for (std::int32_t row = area.HeadingRow();
        (row = sheet.NextRowAt(row, column)) != 0 && row <= area.lastRow;) {
@@ -35,6 +36,10 @@ ColumnCells::ColumnCells(xlsx::Worksheet& sheet, const TableArea& area, std::int
       return;
     }
   }
+}
+
+std::string ColumnCells::LabelCell() const {
+  return firstError != 0 ? "the error " + error : "the text " + Quoted(text);
 }
 
 dom::IXMLDOMElement FindColumn(const dom::IXMLDOMNodeList& columns, const std::string& name) {

@@ -5,8 +5,7 @@
 #include <string>
 
 #include "dom/Dom.h"
-#include "xlsx/Workbook.h"
-#include "xlsx/Worksheet.h"
+#include "host/excel/Worksheet.h"
 
 namespace plotsmith::cli {
 
@@ -25,7 +24,13 @@ struct TableArea {
 /// What the cells of one column hold. A place with the row 0 means that there is no such cell.
 struct ColumnCells {
   /// Reads the column down to the first cell that makes it a label column for its text.
-  ColumnCells(xlsx::Worksheet& sheet, const TableArea& area, std::int32_t column);
+  ColumnCells(excel::Worksheet& sheet, const TableArea& area, std::int32_t column);
+
+  /// Row of the cell that makes it a label column: an error comes before the first text. 0 if there is none,
+  /// or if only dates do.
+  std::int32_t LabelRow() const { return firstError != 0 ? firstError : firstText; }
+  /// What that cell holds: "the error #N/A", "the text '5 pcs'".
+  std::string LabelCell() const;
 
   std::size_t errors = 0;
   std::int32_t firstError = 0;  ///< row of the first error value

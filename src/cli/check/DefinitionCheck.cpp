@@ -155,16 +155,22 @@ class RowCheck {
 
 }  // namespace
 
-bool CheckedDefinition::IsLost() const {
-  return std::any_of(findings.begin(), findings.end(),
-                     [](const Finding& finding) { return finding.severity != Severity::kSaid; });
-}
+bool CheckedDefinition::IsLost() const { return std::any_of(findings.begin(), findings.end(), LosesRow); }
 
 bool CheckedDefinition::IsUnread() const {
   return !findings.empty() && findings.front().kind == FindingKind::kUnread;
 }
 
 std::string DefinitionPlace(std::int32_t row) { return CellText(kDefinitionsSheet, row, 1); }
+
+std::string NoDefinitions(xlsx::Workbook& book) {
+  const std::vector<std::string> ids = ChartMarkers(book).Ids();
+  if (ids.empty()) return "no charts of Plotsmith";
+  return "no definitions of charts of Plotsmith, though " +
+         std::string(ForCount(ids.size(), "a chart", "charts")) + " with the alternative " +
+         ForCount(ids.size(), "text ", "texts ") + Listed(ids) +
+         ForCount(ids.size(), " is there", " are there");
+}
 
 std::vector<CheckedDefinition> CheckRows(xlsx::Workbook& book) {
   const auto sheet = book.FindWorksheet(kDefinitionsSheet);

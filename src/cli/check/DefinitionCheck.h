@@ -33,6 +33,10 @@ std::vector<CheckedDefinition> CheckRows(xlsx::Workbook& book);
 /// The same, and whether the definitions go with the tables of `colTables`.
 std::vector<CheckedDefinition> CheckDefinitions(xlsx::Workbook& book);
 
+/// "no charts of Plotsmith", for a workbook without definitions; and which charts bear ids all the same, as
+/// when somebody deleted the sheet.
+std::string NoDefinitions(xlsx::Workbook& book);
+
 /// The cell of a definition, "VEX_ChartDefinitions!A2".
 std::string DefinitionPlace(std::int32_t row);
 

@@ -16,6 +16,10 @@ void Append(Findings& findings, Findings more) {
   findings.insert(findings.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
 }
 
+bool LosesRow(const Finding& finding) {
+  return finding.severity == Severity::kRemoves || finding.severity == Severity::kRefuses;
+}
+
 const char* KindName(FindingKind kind) {
   switch (kind) {
     case FindingKind::kXml:
@@ -42,6 +46,8 @@ const char* SeverityName(Severity severity) {
   switch (severity) {
     case Severity::kSaid:
       return "said";
+    case Severity::kKeeps:
+      return "keeps";
     case Severity::kRemoves:
       return "removes";
     case Severity::kRefuses:
@@ -54,6 +60,8 @@ std::string Foretold(const Finding& finding) {
   switch (finding.severity) {
     case Severity::kSaid:
       break;
+    case Severity::kKeeps:
+      return With(finding.sentence, "the next refresh keeps that of the chart");
     case Severity::kRemoves:
       return With(finding.sentence,
                   "the chart was drawn and is gone, and the next refresh removes its definition");
@@ -67,6 +75,8 @@ std::string Reported(const Finding& finding) {
   switch (finding.severity) {
     case Severity::kSaid:
       break;
+    case Severity::kKeeps:
+      return With(finding.sentence, "that of the chart was kept");
     case Severity::kRemoves:
       return With(finding.sentence, "the chart was drawn and is gone, and its definition was removed");
     case Severity::kRefuses:

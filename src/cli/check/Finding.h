@@ -20,6 +20,7 @@ enum class FindingKind {
 /// What a command that writes the workbook does about a finding.
 enum class Severity {
   kSaid,     ///< it says the sentence and goes on
+  kKeeps,    ///< it keeps what the chart has against the definition, and says so
   kRemoves,  ///< it removes the definition, whose chart was drawn and is gone, and says so
   kRefuses   ///< it would lose the definition, and so writes nothing without --drop-broken
 };
@@ -33,6 +34,9 @@ struct Finding {
 };
 
 using Findings = std::vector<Finding>;
+
+/// Whether a command that writes the workbook loses the row for this, or would lose it.
+bool LosesRow(const Finding& finding);
 
 /// Puts findings behind others.
 void Append(Findings& findings, Findings more);

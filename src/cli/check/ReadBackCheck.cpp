@@ -1,10 +1,11 @@
 #include "cli/check/ReadBackCheck.h"
 
 #include <algorithm>
-#include <vector>
+#include <utility>
 
 #include "cli/check/Words.h"
 #include "common/CommonFunctions.h"
+#include "common/RunVariables.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -66,6 +67,51 @@ Aspect ListAspect(const IXMLDOMElement& stored, const IXMLDOMElement& read, cons
           AttributeList(read, query.c_str(), attribute)};
 }
 
+/// A part of the look that read-back keeps in `auto-persistence`.
+struct PersistedLook {
+  const char* property;
+  const char* what;
+};
+
+constexpr PersistedLook kPersistedLooks[] = {
+    {"legend-visibility", "visibility of the legend"},
+    {"legend-position", "position of the legend"},
+    {"legend-font-name", "font of the legend"},
+    {"legend-font-size", "font size of the legend"},
+    {"legend-font-style", "font style of the legend"},
+    {"legend-font-color", "font colour of the legend"},
+    {"label-font-name", "font of the labels"},
+    {"label-font-size", "font size of the labels"},
+    {"label-font-style", "font style of the labels"},
+    {"label-font-color", "font colour of the labels"},
+    {"bucket-label-font-name", "font of the labels on the marks"},
+    {"bucket-label-font-size", "font size of the labels on the marks"},
+    {"bucket-label-font-style", "font style of the labels on the marks"},
+    {"bucket-label-font-color", "font colour of the labels on the marks"},
+    {"LabelAxis-font-name", "font of the title of the label axis"},
+    {"LabelAxis-font-size", "font size of the title of the label axis"},
+    {"LabelAxis-font-style", "font style of the title of the label axis"},
+    {"LabelAxis-font-color", "font colour of the title of the label axis"},
+    {"ValueAxis-font-name", "font of the title of the value axis"},
+    {"ValueAxis-font-size", "font size of the title of the value axis"},
+    {"ValueAxis-font-style", "font style of the title of the value axis"},
+    {"ValueAxis-font-color", "font colour of the title of the value axis"}};
+
+Aspect PersistAspect(const IXMLDOMElement& stored, const IXMLDOMElement& read, const PersistedLook& look) {
+  const auto find = [&](const IXMLDOMElement& chart) {
+    for (const IXMLDOMElement& persist : chart.selectNodes("auto-persistence/persist")) {
+      if (GetAttributeText(persist, "property") == look.property) return persist;
+    }
+    return IXMLDOMElement();
+  };
+  const IXMLDOMElement said = find(stored), kept = find(read);
+  if (!said || !kept) return {look.what};
+  Aspect aspect{look.what, true, GetAttributeText(said, "value"), GetAttributeText(kept, "value")};
+  // An empty value is that of a title or of marks that the chart didn't have.
+  aspect.stored = !aspect.saidByDefinition.empty() && !aspect.keptOnChart.empty();
+  return aspect;
+}
+
 std::vector<Aspect> Aspects(const IXMLDOMElement& stored, const IXMLDOMElement& read, AxisTitles axisTitles) {
   std::vector<Aspect> aspects = {
       AttributeAspect(stored, read, "title", "title"),
@@ -82,30 +128,33 @@ std::vector<Aspect> Aspects(const IXMLDOMElement& stored, const IXMLDOMElement& 
   if (GetAttributeText(read, "type") != "strategic bucket") {
     aspects.push_back(ListAspect(stored, read, "data-labels", "data-label", "show", "data label"));
   }
+  for (const PersistedLook& look : kPersistedLooks) aspects.push_back(PersistAspect(stored, read, look));
   return aspects;
 }
 
 std::string Sentence(const Aspect& aspect) {
-  const std::string kept =
-      aspect.keptOnChart.empty()
-          ? std::string("The chart was kept without ") + aspect.what
-          : std::string("The chart's own ") + aspect.what + " " + Quoted(aspect.keptOnChart) + " was kept";
-  return kept + "; the definition said " +
-         (aspect.saidByDefinition.empty() ? "none" : Quoted(aspect.saidByDefinition)) + ".";
+  const auto shown = [](const std::string& text) { return text.empty() ? "none" : Quoted(text); };
+  return std::string("The ") + aspect.what + " is " + shown(aspect.keptOnChart) + " on the chart and " +
+         shown(aspect.saidByDefinition) + " in the definition.";
 }
 
-}  // namespace
-
-Findings CheckReadBack(const IXMLDOMElement& stored, const IXMLDOMElement& read, const std::string& place,
-                       AxisTitles axisTitles) {
+/// Where a definition says one thing of a drawn chart and the chart another, which counts. `stored` is the
+/// `chart` element of the row, `read` the same after a load has read the chart back. What `stored` doesn't
+/// say at all is no difference.
+Findings Differences(const IXMLDOMElement& stored, const IXMLDOMElement& read, const std::string& place,
+                     AxisTitles axisTitles) {
   Findings findings;
   for (const Aspect& aspect : Aspects(stored, read, axisTitles)) {
     if (!aspect.stored || aspect.saidByDefinition == aspect.keptOnChart) continue;
-    findings.push_back({place, FindingKind::kChart, Sentence(aspect)});
+    findings.push_back({place, FindingKind::kChart, Sentence(aspect), Severity::kKeeps});
   }
   return findings;
 }
 
+/// Whether it was the definition that a person changed last, and not the chart. A person changes a chart in a
+/// spreadsheet program, which writes the chart's part anew in its own form. So a chart whose part still has
+/// Plotsmith's form has not been changed by hand since it was drawn. The same goes for a definition that
+/// Plotsmith has not stored yet.
 bool IsDefinitionNewer(xlsx::Workbook& book, const IXMLDOMElement& stored, const std::string& chartPart) {
   if (GetAttributeText(stored, "ps-chart-schema-version").empty()) return true;
   if (!book.Package().Has(chartPart)) return false;
@@ -113,6 +162,23 @@ bool IsDefinitionNewer(xlsx::Workbook& book, const IXMLDOMElement& stored, const
   // Spreadsheet programs end the line of the XML declaration, which Plotsmith doesn't.
   const auto end = part.find("?>");
   return !part.starts_with("<?xml") || end + 2 >= part.size() || part[end + 2] == '<';
+}
+
+}  // namespace
+
+std::map<std::string, Findings> CheckReadBack(xlsx::Workbook& book,
+                                              const std::vector<CheckedDefinition>& rows,
+                                              AxisTitles axisTitles) {
+  std::map<std::string, Findings> found;
+  for (const CheckedDefinition& row : rows) {
+    if (row.IsLost() || row.IsUnread() || !CollectionHasKey(row.id, colCharts)) continue;
+    const auto stored = row.document.selectSingleNode("chart");
+    Findings differences =
+        Differences(stored, colCharts->Item(row.id).selectSingleNode("chart"), row.place, axisTitles);
+    if (differences.empty() || !IsDefinitionNewer(book, stored, row.chartPart)) continue;
+    found[row.id] = std::move(differences);
+  }
+  return found;
 }
 
 }  // namespace plotsmith::cli

@@ -63,7 +63,7 @@ void RunLook::ChartStarted(const std::string& id) {
   Findings& findings = started_[id];
   findings = CheckSources(book_, chart, "");
   CompareStored();
-  if (GetAttributeText(chart, "type") == kBubbleType && HostVersion(oApplication) > kLastClassicVersion &&
+  if (GetAttributeText(chart, "type") == kBubbleType &&
       std::none_of(findings.begin(), findings.end(), ForbidsDrawing)) {
     bubbles_.insert_or_assign(id, colTables->Item(GetAttributeText(chart, "table-id")));
   }
@@ -71,17 +71,8 @@ void RunLook::ChartStarted(const std::string& id) {
 
 void RunLook::CompareStored() {
   if (definitions_ == DefinitionsAre::kEdited || !colCharts || std::exchange(compared_, true)) return;
-  const AxisTitles axisTitles =
-      definitions_ == DefinitionsAre::kRenamed ? AxisTitles::kRenamed : AxisTitles::kCompared;
-  for (const dom::IXMLDOMDocument2& document : *colCharts) {
-    const auto read = document.selectSingleNode("chart");
-    const CheckedDefinition* const row = FindRow(GetAttributeText(read, "id"));
-    if (row == nullptr) continue;
-    const auto stored = row->document.selectSingleNode("chart");
-    Findings differences = CheckReadBack(stored, read, "", axisTitles);
-    if (differences.empty() || !IsDefinitionNewer(book_, stored, row->chartPart)) continue;
-    differences_[row->id] = std::move(differences);
-  }
+  differences_ = CheckReadBack(
+      book_, rows_, definitions_ == DefinitionsAre::kRenamed ? AxisTitles::kRenamed : AxisTitles::kCompared);
 }
 
 bool RunLook::IsFine() const {
@@ -95,7 +86,7 @@ bool RunLook::IsFine() const {
 void RunLook::CollectLost(std::vector<ChartFinding>& collected) const {
   for (const CheckedDefinition& row : rows_) {
     for (const Finding& finding : row.findings) {
-      if (finding.severity != Severity::kSaid) collected.push_back({finding, Called(row.id, row.name)});
+      if (LosesRow(finding)) collected.push_back({finding, Called(row.id, row.name)});
     }
   }
 }
@@ -111,7 +102,10 @@ void RunLook::CollectKept(const CheckedDefinition& row, std::vector<ChartFinding
   }
   // All definitions are stored, also those of charts that aren't built.
   if (const auto differences = differences_.find(row.id); differences != differences_.end()) {
-    for (const Finding& finding : differences->second) collect(finding);
+    for (Finding finding : differences->second) {
+      finding.place = row.place;
+      collect(std::move(finding));
+    }
   }
   const auto started = started_.find(row.id);
   if (started == started_.end()) return;

@@ -13,6 +13,7 @@
 #include "common/RunVariables.h"
 #include "metadata/StrategicBuckets.h"
 #include "runtime/Strings.h"
+#include "xlsx/Worksheet.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -21,6 +22,7 @@ using dom::IXMLDOMElement;
 using dom::IXMLDOMNodeList;
 
 constexpr const char* kBucketType = "strategic bucket";
+constexpr const char* kBrokenBucketType = "column";
 
 /// The tables that there are, as the end of a sentence.
 std::string OtherTables() {
@@ -175,8 +177,8 @@ class SourceCheck {
     return "; " + Quoted(renamed) +
            " is in its place, and if that is its new name, plotsmith rename-columns BOOK"
            " --table " +
-           GetAttributeText(table_, "id") + " " + Quoted(GetAttributeText(missing, "name") + "=" + renamed) +
-           " carries it into the charts";
+           ShellWord(GetAttributeText(table_, "id")) + " " +
+           ShellWord(GetAttributeText(missing, "name") + "=" + renamed) + " carries it into the charts";
   }
 
   /// The heading where the column was when the chart was drawn last; "" if there is none, or if the
@@ -233,15 +235,11 @@ class SourceCheck {
     if (!sheet) return;
     const std::int32_t number = GetAttributeLong(column, "worksheet-column-number");
     const ColumnCells cells(*sheet, area, number);
-    const bool isError = cells.firstError != 0;  // the search for errors ends at the first text
-    const std::int32_t row = isError ? cells.firstError : cells.firstText;
-    if (row == 0) return;
-    findings_.push_back({CellText(area.sheet, row, number), FindingKind::kColumn,
+    if (cells.LabelRow() == 0) return;
+    findings_.push_back({CellText(area.sheet, cells.LabelRow(), number), FindingKind::kColumn,
                          "The column " + Quoted(GetAttributeText(column, "name")) +
                              " is no number column, as " + Quoted(group.element) +
-                             " wants, since this cell holds " +
-                             (isError ? "the error " + cells.error : "the text " + Quoted(cells.text)) +
-                             ", which counts as 0."});
+                             " wants, since this cell holds " + cells.LabelCell() + ", which counts as 0."});
   }
 
   void CheckBucketTable() {
@@ -258,12 +256,13 @@ class SourceCheck {
     } else {
       CheckBucketColumn(bucketTable, "bucket-name-column", "label");
       CheckBucketColumn(bucketTable, "bucket-value-column", "number");
-      if (type_ == kBucketType) CheckBucketCount(id);
+      if (type_ == kBucketType || type_ == kBrokenBucketType) CheckBucketCount(id);
     }
   }
 
   /// The chart refers to its buckets' names by one letter for the last column, from E on. Behind Z come six
-  /// characters that are no letters, then the small letters, which are read as A to Z.
+  /// characters that are no letters, then the small letters, which are read as A to Z. A chart whose drawing
+  /// broke off for that reads as a column chart that has a bucket table.
   void CheckBucketCount(const std::string& id) {
     constexpr std::int32_t kMost = 22, kFirstMisnamed = 29, kLastMisnamed = 54;
     if (HostVersion(oApplication) <= kLastClassicVersion) return;
@@ -271,15 +270,16 @@ class SourceCheck {
     if (count <= kMost) return;
     const std::string start = "The bucket table " + Quoted(id) + " has " + std::to_string(count) +
                               " buckets, and a chart has room for the names of " + std::to_string(kMost);
-    const bool misnamed = count >= kFirstMisnamed && count <= kLastMisnamed;
-    Report(
-        FindingKind::kTable,
-        start + (misnamed ? ", so that the columns have wrong names; leave " + std::to_string(kMost) +
-                                " buckets or fewer."
-                          : ", so that its drawing breaks off and it is left a column chart; leave " +
-                                std::to_string(kMost) +
-                                " buckets or fewer, and then draw it anew with plotsmith modify BOOK CHART "
-                                "--type 'strategic bucket'."));
+    const std::string mend = "; leave " + std::to_string(kMost) + " buckets or fewer";
+    if (count < kFirstMisnamed || count > kLastMisnamed) {
+      Report(FindingKind::kTable,
+             start + ", so that its drawing breaks off and it is left a column chart without a legend" +
+                 mend +
+                 ", then draw it anew with plotsmith modify BOOK CHART --type 'strategic bucket', and switch "
+                 "its legend on in a spreadsheet program; the next refresh draws that.");
+    } else if (type_ == kBucketType) {
+      Report(FindingKind::kTable, start + ", so that the columns have wrong names" + mend + ".");
+    }
   }
 
   /// The source table has a column of the same heading and kind.

@@ -12,6 +12,8 @@
 #include "common/ErrorBlocks.h"
 #include "common/RunVariables.h"
 #include "metadata/TableDefinitions.h"
+#include "xlsx/Workbook.h"
+#include "xlsx/Worksheet.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -72,10 +74,11 @@ void CheckFormulas(xlsx::Worksheet& sheet, const TableArea& area, const FormulaS
     }
     const std::string heading(GetCellText(sheet, area.HeadingRow(), column, scratch));
     if (heading.empty() || cells.count == 0 || !scope.HasColumn(column)) continue;
-    findings.push_back({CellText(area.sheet, cells.firstRow, column), FindingKind::kCells,
-                        "The column " + Quoted(heading) + " has " + Counted(cells.count, "formula") +
-                            " without a result, the first one here, which count as blank; " +
-                            kHowToCalculate});
+    findings.push_back(
+        {CellText(area.sheet, cells.firstRow, column), FindingKind::kCells,
+         "The column " + Quoted(heading) + " has " + Counted(cells.count, "formula") + " without a result" +
+             ForCount(cells.count, ", here, which counts", ", the first one here, which count") +
+             " as blank; " + kHowToCalculate});
   }
 }
 
@@ -88,8 +91,11 @@ void CheckErrors(xlsx::Worksheet& sheet, const TableArea& area, const dom::IXMLD
     if (cells.errors == 0 || cells.firstText != 0 || cells.hasDates) continue;
     findings.push_back({CellText(area.sheet, cells.firstError, number), FindingKind::kCells,
                         "The column " + Quoted(GetAttributeText(column, "name")) + " has " +
-                            Counted(cells.errors, "error") + ", the first one here, " + cells.error +
-                            ", which make it a label column; without them it is a number column."});
+                            Counted(cells.errors, "error") +
+                            ForCount(cells.errors, ", here, ", ", the first one here, ") + cells.error +
+                            ForCount(cells.errors, ", which makes it a label column; without it",
+                                     ", which make it a label column; without them") +
+                            " it is a number column."});
   }
 }
 

@@ -1,6 +1,7 @@
 #include "cli/check/Words.h"
 
 #include <algorithm>
+#include <cctype>
 #include <utility>
 
 #include "runtime/Strings.h"
@@ -28,6 +29,13 @@ std::string Quoted(std::string_view text) {
   return "'" + OneLine(runtime::Mid(text, 1, kLongest)) + "...'";
 }
 
+std::string ShellWord(const std::string& text) {
+  const bool isPlain = !text.empty() && std::all_of(text.begin(), text.end(), [](unsigned char c) {
+    return std::isalnum(c) != 0 || c == '_' || c == '-' || c == '.' || c >= 0x80;
+  });
+  return isPlain ? text : "'" + runtime::Replace(OneLine(text), "'", "'\\''") + "'";
+}
+
 std::string Listed(const std::vector<std::string>& items, const char* word) {
   if (items.empty()) return "none";
   const std::size_t shown = std::min(items.size(), kMostItems), left = items.size() - shown;
@@ -44,6 +52,10 @@ std::string ThereAre(const std::vector<std::string>& items) {
 
 std::string Counted(std::size_t count, const std::string& noun) {
   return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
+const char* ForCount(std::size_t count, const char* one, const char* several) {
+  return count == 1 ? one : several;
 }
 
 std::string CellText(std::string_view sheet, std::int32_t row, std::int32_t column) {

@@ -58,6 +58,18 @@ Json Describe(const dom::IXMLDOMElement& chart, const std::vector<CheckedDefinit
           {"findings", FindingsOf(chart, book)}};
 }
 
+/// Says which rows of the sheet of definitions are no charts, and why; false if there are none.
+bool ReportUnlisted(const std::vector<CheckedDefinition>& checked, std::ostream& err) {
+  bool isAny = false;
+  for (const CheckedDefinition& definition : checked) {
+    if (!definition.IsLost() && !definition.IsUnread()) continue;
+    const Finding& finding = definition.findings.front();
+    err << "plotsmith: " << finding.place << ": " << Foretold(finding) << '\n';
+    isAny = true;
+  }
+  return isAny;
+}
+
 }  // namespace
 
 CLI::App* ChartsCommand::Declare(CLI::App& app) {
@@ -69,19 +81,20 @@ CLI::App* ChartsCommand::Declare(CLI::App& app) {
 
 int ChartsCommand::Run(const GlobalOptions& options, const Streams& streams) {
   Session session(book_, options, streams);
+  session.LoadTables();
+  const auto checked = CheckDefinitions(session.Book());  // a load drops rows that are no definitions
   session.LoadTablesAndCharts();
-  const int code = session.Finish();
+  int code = session.Finish();
+  if (ReportUnlisted(checked, streams.err)) code = exit_code::kSaidSomething;
   Json list = Json::array();
-  if (colCharts->Count() > 0) {
-    const auto checked = CheckDefinitions(session.Book());
-    for (const auto& document : *colCharts) {
-      list.push_back(Describe(document.selectSingleNode("chart"), checked, session.Book()));
-    }
+  for (const auto& document : *colCharts) {
+    list.push_back(Describe(document.selectSingleNode("chart"), checked, session.Book()));
   }
   if (json_) {
     streams.out << list.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
     return code;
   }
+  if (list.empty()) streams.out << "There are no charts of Plotsmith.\n";
   for (const Json& chart : list) {
     const auto text = [&](const char* key) { return chart[key].get<std::string>(); };
     streams.out << text("id") << "  \"" << text("name") << "\"\n  " << text("type") << " chart on sheet "

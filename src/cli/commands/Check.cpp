@@ -5,9 +5,13 @@
 
 #include "cli/Session.h"
 #include "cli/TableFacts.h"
+#include "cli/check/BubbleLabels.h"
 #include "cli/check/DefinitionCheck.h"
+#include "cli/check/ReadBackCheck.h"
 #include "cli/check/TableCheck.h"
 #include "cli/check/Words.h"
+#include "common/CommonFunctions.h"
+#include "common/RunVariables.h"
 #include "runtime/RuntimeError.h"
 
 namespace plotsmith::cli {
@@ -15,7 +19,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr const char* kNoDefinitions = "There are no definitions of charts.";
 constexpr const char* kNoTables =
     "There are no tables. To make one, call a sheet Data1, with headings in row 1 and data below them; or "
     "give "
@@ -26,6 +29,7 @@ constexpr const char* kNoTables =
 struct Report {
   std::vector<CheckedDefinition> definitions;
   std::vector<CheckedTable> tables;
+  std::string noDefinitions;  ///< says so, where there are none
 
   bool IsFine() const {
     const auto isFine = [](const auto& checked) { return checked.findings.empty(); };
@@ -102,9 +106,24 @@ void Print(std::ostream& out, const CheckedTable& checked) {
 
 void Print(std::ostream& out, const Report& report) {
   for (const CheckedDefinition& definition : report.definitions) Print(out, definition);
-  if (report.definitions.empty()) out << kNoDefinitions << '\n';
+  if (report.definitions.empty()) out << "There are " << report.noDefinitions << ".\n";
   for (const CheckedTable& table : report.tables) Print(out, table);
   if (report.tables.empty()) out << kNoTables << '\n';
+}
+
+/// What the definitions say otherwise than their charts, and labels that cost a bubble chart its legend. To
+/// see that, the charts have to be loaded, which changes the workbook in memory.
+void CheckDrawn(Session& session, std::vector<CheckedDefinition>& definitions) {
+  session.LoadTablesAndCharts();
+  auto differences = CheckReadBack(session.Book(), definitions, AxisTitles::kCompared);
+  for (CheckedDefinition& definition : definitions) {
+    Append(definition.findings, std::move(differences[definition.id]));
+    if (definition.IsLost() || definition.IsUnread() || !CollectionHasKey(definition.table, colTables))
+      continue;
+    Append(definition.findings,
+           CheckBubbleLabels(session.Book(), definition.document.selectSingleNode("chart"),
+                             colTables->Item(definition.table).selectSingleNode("table")));
+  }
 }
 
 }  // namespace
@@ -122,7 +141,11 @@ int CheckCommand::Run(const GlobalOptions& options, const Streams& streams) {
   Report report;
   try {
     session.LoadTables();
-    report = {CheckDefinitions(session.Book()), CheckTables(session.Book())};
+    report = {CheckDefinitions(session.Book()), CheckTables(session.Book()), ""};
+    if (report.definitions.empty())
+      report.noDefinitions = NoDefinitions(session.Book());
+    else
+      CheckDrawn(session, report.definitions);
   } catch (const runtime::RuntimeError&) {
     session.Finish();  // says what is damaged
     throw;

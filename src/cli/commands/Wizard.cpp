@@ -60,6 +60,7 @@ void WizardCommand::OpenWindow(const GlobalOptions& options) const {
   std::vector<std::string> arguments = {"--host-version", runtime::NumberText(options.hostVersion)};
   if (options.journal) arguments.emplace_back("--journal");
   if (options.force) arguments.emplace_back("--force");
+  if (options.dropBroken) arguments.emplace_back("--drop-broken");
   if (output_) arguments.push_back("--output=" + *output_);
   arguments.insert(arguments.end(), {"--", book_});
   BecomeProgram(program, arguments);

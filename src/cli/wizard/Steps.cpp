@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "cli/check/ColumnCells.h"
 #include "cli/check/Words.h"
 #include "cli/wizard/LayoutControls.h"
 #include "common/CommonFunctions.h"
@@ -12,6 +13,7 @@
 #include "forms/TextBox.h"
 #include "forms/script/ScriptError.h"
 #include "forms/script/ScriptLine.h"
+#include "host/excel/Excel.h"
 #include "runtime/Strings.h"
 
 namespace plotsmith::cli {
@@ -34,13 +36,23 @@ std::vector<std::string> EntriesOf(const forms::EntryList& list) {
   return entries;
 }
 
+/// The cell that makes a column a label column, as the end of a sentence; "" if only dates do.
+std::string WhyLabel(const dom::IXMLDOMElement& table, const dom::IXMLDOMElement& column) {
+  const TableArea area(table);
+  const std::int32_t number = GetAttributeLong(column, "worksheet-column-number");
+  const ColumnCells cells(*oWorkbook->Worksheets()->Item(area.sheet), area, number);
+  if (cells.LabelRow() == 0) return {};
+  return ", since " + CellText(area.sheet, cells.LabelRow(), number) + " holds " + cells.LabelCell();
+}
+
 /// What is to be said of a column that the table has, but of the other kind.
 std::string OtherKindOf(const std::string& text) {
   if (!colTables || !CollectionHasKey(sTableID, colTables)) return {};
-  for (const auto& column : colTables->Item(sTableID).selectSingleNode("table").childElements()) {
+  const auto table = colTables->Item(sTableID).selectSingleNode("table");
+  for (const auto& column : table.childElements()) {
     if (GetAttributeText(column, "name") != text) continue;
-    return "; " + Quoted(text) + " is a " + (column.tagName() == "label-column" ? "label" : "number") +
-           " column";
+    if (column.tagName() != "label-column") return "; " + Quoted(text) + " is a number column";
+    return "; " + Quoted(text) + " is a label column" + WhyLabel(table, column);
   }
   return {};
 }

@@ -33,6 +33,8 @@ void Declare(CLI::App& app, plotsmith::qt::WizardOptions& options) {
   app.add_option("-o,--output", options.output, "Write to this file and leave BOOK as it is")
       ->type_name("FILE");
   app.add_flag("--force", options.global.force, "Also write a workbook that another program holds open");
+  app.add_flag("--drop-broken", options.global.dropBroken,
+               "Also write a workbook with definitions that are broken or have no chart, and drop them");
   app.add_flag("--journal", options.global.journal,
                "Write down each change to the workbook as it is made, a line each");
   plotsmith::cli::DeclareHostVersion(app, options.global.hostVersion);
