@@ -31,11 +31,11 @@ void LabelBubble(const Ref<excel::Series>& oSeries) {
   Ref<excel::DataLabels> oLabels;
   IgnoreErrors([&] { oSeries->SetHasDataLabels(true); }, [&] { oLabels = oSeries->DataLabels(); });
   if (!oLabels) return;
-  IgnoreErrors([&] { oLabels->SetAutoScaleFont(SafeBool(mLabelFontAutoScale)); },
-               [&] { oLabels->Font()->SetName(mLabelFontName); },
-               [&] { oLabels->Font()->SetFontStyle(mLabelFontStyle); },
-               [&] { oLabels->Font()->SetSize(runtime::Val(mLabelFontSize)); },
-               [&] { oLabels->Font()->SetColor(mLabelFontColor); },
+  IgnoreErrors([&] { oLabels->SetAutoScaleFont(SafeBool(mLabelFont.vAutoScale)); },
+               [&] { oLabels->Font()->SetName(mLabelFont.vName); },
+               [&] { oLabels->Font()->SetFontStyle(mLabelFont.vStyle); },
+               [&] { oLabels->Font()->SetSize(runtime::Val(mLabelFont.vSize)); },
+               [&] { oLabels->Font()->SetColor(mLabelFont.vColor); },
                [&] { oLabels->SetHorizontalAlignment(excel::xlCenter); },
                [&] { oLabels->SetVerticalAlignment(excel::xlCenter); },
                [&] { oLabels->SetOrientation(excel::xlHorizontal); });

@@ -27,15 +27,8 @@ std::string mLegendVisibility;
 Variant mLegendPosition;
 double mLegendLeft = 0;
 double mLegendTop = 0;
-Variant mLegendFontName, mLegendFontStyle, mLegendFontSize, mLegendFontColor, mLegendFontAutoScale;
-Variant mLabelFontName, mLabelFontStyle, mLabelFontSize, mLabelFontColor, mLabelFontBackgroundColor,
-    mLabelFontAutoScale;
-Variant mBucketLabelFontName, mBucketLabelFontSize, mBucketLabelFontStyle, mBucketLabelFontColor,
-    mBucketLabelFontAutoScale;
-Variant mLabelAxisFontName, mLabelAxisFontSize, mLabelAxisFontStyle, mLabelAxisFontColor,
-    mLabelAxisFontAutoScale;
-Variant mValueAxisFontName, mValueAxisFontSize, mValueAxisFontStyle, mValueAxisFontColor,
-    mValueAxisFontAutoScale;
+StoredFont mLegendFont, mLabelFont, mBucketLabelFont, mLabelAxisFont, mValueAxisFont;
+Variant mLabelFontBackgroundColor;
 
 void ResetMap() {
   mCategoryPositions = {};

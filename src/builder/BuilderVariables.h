@@ -6,6 +6,7 @@
 
 #include "builder/CPSColor.h"
 #include "builder/CPSMapInstruction.h"
+#include "builder/StoredFont.h"
 #include "host/excel/Chart.h"
 #include "runtime/Collection.h"
 #include "runtime/Dictionary.h"
@@ -40,32 +41,12 @@ extern std::string mLegendVisibility;
 extern runtime::Variant mLegendPosition;
 extern double mLegendLeft;
 extern double mLegendTop;
-extern runtime::Variant mLegendFontName;
-extern runtime::Variant mLegendFontStyle;
-extern runtime::Variant mLegendFontSize;
-extern runtime::Variant mLegendFontColor;
-extern runtime::Variant mLegendFontAutoScale;
-extern runtime::Variant mLabelFontName;
-extern runtime::Variant mLabelFontStyle;
-extern runtime::Variant mLabelFontSize;
-extern runtime::Variant mLabelFontColor;
+extern StoredFont mLegendFont;
+extern StoredFont mLabelFont;
 extern runtime::Variant mLabelFontBackgroundColor;  ///< kept, but no chart is drawn with it
-extern runtime::Variant mLabelFontAutoScale;
-extern runtime::Variant mBucketLabelFontName;
-extern runtime::Variant mBucketLabelFontSize;
-extern runtime::Variant mBucketLabelFontStyle;
-extern runtime::Variant mBucketLabelFontColor;
-extern runtime::Variant mBucketLabelFontAutoScale;
-extern runtime::Variant mLabelAxisFontName;
-extern runtime::Variant mLabelAxisFontSize;
-extern runtime::Variant mLabelAxisFontStyle;
-extern runtime::Variant mLabelAxisFontColor;
-extern runtime::Variant mLabelAxisFontAutoScale;
-extern runtime::Variant mValueAxisFontName;
-extern runtime::Variant mValueAxisFontSize;
-extern runtime::Variant mValueAxisFontStyle;
-extern runtime::Variant mValueAxisFontColor;
-extern runtime::Variant mValueAxisFontAutoScale;
+extern StoredFont mBucketLabelFont;                 ///< of the labels on the marks of buckets
+extern StoredFont mLabelAxisFont;
+extern StoredFont mValueAxisFont;
 
 /// All of them back to how the component starts.
 void ResetBuilderVariables();

@@ -13,21 +13,8 @@ using runtime::Val;
 
 namespace {
 
-struct AxisFont {
-  const runtime::Variant& vName;
-  const runtime::Variant& vSize;
-  const runtime::Variant& vStyle;
-  const runtime::Variant& vColor;
-  const runtime::Variant& vAutoScale;
-};
-
-AxisFont FontOfAxis(std::int32_t lAxis) {
-  if (lAxis == excel::xlCategory) {
-    return {mLabelAxisFontName, mLabelAxisFontSize, mLabelAxisFontStyle, mLabelAxisFontColor,
-            mLabelAxisFontAutoScale};
-  }
-  return {mValueAxisFontName, mValueAxisFontSize, mValueAxisFontStyle, mValueAxisFontColor,
-          mValueAxisFontAutoScale};
+const StoredFont& FontOfAxis(std::int32_t lAxis) {
+  return lAxis == excel::xlCategory ? mLabelAxisFont : mValueAxisFont;
 }
 
 }  // namespace
@@ -58,7 +45,7 @@ void ApplyAxisTitles(const IXMLDOMElement& oChartElement, const AxisTitleManner&
     const std::string sLabel = GetAttributeText(oAxisElement, "label");
     if ((sType == "label" || sType == "value") && !sLabel.empty()) {
       const std::int32_t lAxis = sType == "label" ? excel::xlCategory : excel::xlValue;
-      const AxisFont oStored = FontOfAxis(lAxis);
+      const StoredFont& oStored = FontOfAxis(lAxis);
       if (oManner.bSwitchAxisOn) mChart->SetHasAxis(lAxis, true);
       const auto oAxis = mChart->Axes(lAxis, excel::xlPrimary);
       oAxis->SetHasTitle(true);
@@ -90,10 +77,10 @@ void FinishAxes() {
 }
 
 void SetLabelFont(const runtime::Ref<excel::Font>& oFont) {
-  oFont->SetName(mLabelFontName);
-  oFont->SetFontStyle(mLabelFontStyle);
-  oFont->SetSize(Val(mLabelFontSize));
-  oFont->SetColor(mLabelFontColor);
+  oFont->SetName(mLabelFont.vName);
+  oFont->SetFontStyle(mLabelFont.vStyle);
+  oFont->SetSize(Val(mLabelFont.vSize));
+  oFont->SetColor(mLabelFont.vColor);
 }
 
 void DressLabels(const runtime::Ref<excel::DataLabels>& oLabels, std::int32_t lPosition,
@@ -108,7 +95,7 @@ void ApplyLabels(std::int32_t lType, std::int32_t lPosition) {
   for (std::int32_t i = 1; i <= oCollection->Count(); ++i) {
     const auto oSeries = oCollection->Item(i);
     oSeries->ApplyDataLabels(lType);
-    if (const auto oLabels = oSeries->DataLabels()) DressLabels(oLabels, lPosition, mLabelFontAutoScale);
+    if (const auto oLabels = oSeries->DataLabels()) DressLabels(oLabels, lPosition, mLabelFont.vAutoScale);
   }
 }
 
@@ -141,11 +128,11 @@ void DeleteLastLegendEntry() {
 
 void ApplyLegendAttributes() {
   runtime::Ref<excel::Legend> oLegend;
-  IgnoreErrors([&] { oLegend = mChart->Legend(); }, [&] { oLegend->Font()->SetName(mLegendFontName); },
-               [&] { oLegend->Font()->SetSize(Val(mLegendFontSize)); },
-               [&] { oLegend->Font()->SetFontStyle(mLegendFontStyle); },
-               [&] { oLegend->Font()->SetColor(mLegendFontColor); },
-               [&] { oLegend->SetAutoScaleFont(mLegendFontAutoScale); });
+  IgnoreErrors([&] { oLegend = mChart->Legend(); }, [&] { oLegend->Font()->SetName(mLegendFont.vName); },
+               [&] { oLegend->Font()->SetSize(Val(mLegendFont.vSize)); },
+               [&] { oLegend->Font()->SetFontStyle(mLegendFont.vStyle); },
+               [&] { oLegend->Font()->SetColor(mLegendFont.vColor); },
+               [&] { oLegend->SetAutoScaleFont(mLegendFont.vAutoScale); });
   const bool bPlaced = ValueOr(false, [] { return runtime::CDbl(mLegendPosition) == 0; });
   if (!bPlaced) {
     IgnoreErrors([&] { oLegend->SetPosition(runtime::CLng(Val(mLegendPosition))); });

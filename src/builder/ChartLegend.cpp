@@ -81,9 +81,9 @@ void AddEntryText(const std::string& sName, double dFontSize, Extent& oExtent) {
   NameShape(oText, sName + " Text");
   const auto oCharacters = oText->TextFrame()->Characters();
   const auto oFont = oCharacters->Font();
-  oFont->SetName(mLegendFontName);
+  oFont->SetName(mLegendFont.vName);
   oFont->SetSize(dFontSize);
-  oFont->SetColor(mLegendFontColor);
+  oFont->SetColor(mLegendFont.vColor);
   oFont->SetBold(false);
   oCharacters->SetText(sName);
   const auto oFrame2 = oText->TextFrame2();
@@ -200,7 +200,7 @@ void BuildChartLegend(bool bDraw) {
   mChart->SetHasLegend(false);
   const std::vector<std::string> aNames = DistinctNames();
   RemoveLegendShapes();
-  const double dFontSize = runtime::Val(mLegendFontSize);
+  const double dFontSize = runtime::Val(mLegendFont.vSize);
   Extent oExtent;
   for (const std::string& sName : aNames) {
     if (sName == kBucketSeriesName) continue;

@@ -15,76 +15,72 @@ using runtime::Variant;
 
 namespace {
 
-/// How a stored text becomes the variable's value.
-enum class Reading { kText, kVal, kBool };
-
-struct Property {
-  std::string_view sKey;  ///< `property` of a `persist`
-  Variant* vVariable;
-  Variant vDefault;
-  Reading eReading = Reading::kText;
-  /// Read-back stores an empty text where the chart has no such thing; it means the default.
+/// A font among the properties, which begin with its key: "legend-font-name".
+struct FontGroup {
+  std::string_view sKey;
+  StoredFont& oFont;
+  StoredFont oDefaults;
+  /// Read-back stores empty texts where the chart has no such text; these mean the defaults.
   bool bEmptyIsDefault = false;
 };
 
-const auto& Properties() {
-  using enum Reading;
+/// One property of a font: what its key ends with, and how a stored text becomes its value.
+struct FontProperty {
+  std::string_view sSuffix;
+  Variant StoredFont::*vValue;
+  Variant (*read)(const Variant& vStored);
+};
+
+const auto& FontGroups() {
+  static const std::array aGroups = {
+      FontGroup{"legend", mLegendFont, {"Arial", "Regular", 9, 0, "True"}},
+      FontGroup{"label", mLabelFont, {"Arial", "Regular", 9, 0, "True"}},
+      FontGroup{"bucket-label", mBucketLabelFont, {"Arial", "Bold", 9, 16777215, "False"}, true},
+      FontGroup{"LabelAxis", mLabelAxisFont, {"Arial", "Bold", 10, 0, "True"}, true},
+      FontGroup{"ValueAxis", mValueAxisFont, {"Arial", "Bold", 10, 0, "True"}, true},
+  };
+  return aGroups;
+}
+
+const auto& FontProperties() {
+  static constexpr auto asStored = [](const Variant& vStored) { return vStored; };
   static const std::array aProperties = {
-      Property{"legend-position", &mLegendPosition, excel::xlLegendPositionRight},
-      Property{"legend-font-name", &mLegendFontName, "Arial"},
-      Property{"legend-font-style", &mLegendFontStyle, "Regular"},
-      Property{"legend-font-size", &mLegendFontSize, 9, kVal},
-      Property{"legend-font-color", &mLegendFontColor, 0},
-      Property{"legend-font-autoscale", &mLegendFontAutoScale, "True", kBool},
-      Property{"label-font-name", &mLabelFontName, "Arial"},
-      Property{"label-font-style", &mLabelFontStyle, "Regular"},
-      Property{"label-font-size", &mLabelFontSize, 9, kVal},
-      Property{"label-font-color", &mLabelFontColor, 0},
-      Property{"label-font-background-color", &mLabelFontBackgroundColor, Variant()},
-      Property{"label-font-autoscale", &mLabelFontAutoScale, "True", kBool},
-      Property{"bucket-label-font-name", &mBucketLabelFontName, "Arial", kText, true},
-      Property{"bucket-label-font-size", &mBucketLabelFontSize, 9, kVal, true},
-      Property{"bucket-label-font-style", &mBucketLabelFontStyle, "Bold", kText, true},
-      Property{"bucket-label-font-color", &mBucketLabelFontColor, 16777215, kText, true},
-      Property{"bucket-label-font-autoscale", &mBucketLabelFontAutoScale, "False", kBool, true},
-      Property{"LabelAxis-font-name", &mLabelAxisFontName, "Arial", kText, true},
-      Property{"LabelAxis-font-size", &mLabelAxisFontSize, 10, kVal, true},
-      Property{"LabelAxis-font-style", &mLabelAxisFontStyle, "Bold", kText, true},
-      Property{"LabelAxis-font-color", &mLabelAxisFontColor, 0, kText, true},
-      Property{"LabelAxis-font-autoscale", &mLabelAxisFontAutoScale, "True", kBool, true},
-      Property{"ValueAxis-font-name", &mValueAxisFontName, "Arial", kText, true},
-      Property{"ValueAxis-font-size", &mValueAxisFontSize, 10, kVal, true},
-      Property{"ValueAxis-font-style", &mValueAxisFontStyle, "Bold", kText, true},
-      Property{"ValueAxis-font-color", &mValueAxisFontColor, 0, kText, true},
-      Property{"ValueAxis-font-autoscale", &mValueAxisFontAutoScale, "True", kBool, true},
+      FontProperty{"-font-name", &StoredFont::vName, asStored},
+      FontProperty{"-font-style", &StoredFont::vStyle, asStored},
+      FontProperty{"-font-size", &StoredFont::vSize,
+                   [](const Variant& vStored) { return Variant(runtime::Val(vStored)); }},
+      FontProperty{"-font-color", &StoredFont::vColor, asStored},
+      FontProperty{"-font-autoscale", &StoredFont::vAutoScale,
+                   [](const Variant& vStored) { return Variant(SafeBool(vStored)); }},
   };
   return aProperties;
 }
 
-Variant ValueOf(const Property& oProperty, const std::string& sValue) {
-  const Variant vValue = sValue.empty() && oProperty.bEmptyIsDefault ? oProperty.vDefault : Variant(sValue);
-  switch (oProperty.eReading) {
-    case Reading::kVal:
-      return runtime::Val(vValue);
-    case Reading::kBool:
-      return SafeBool(vValue);
-    case Reading::kText:
-      break;
+void StoreFontProperty(std::string_view sKey, const std::string& sValue) {
+  for (const FontGroup& oGroup : FontGroups()) {
+    if (!sKey.starts_with(oGroup.sKey)) continue;
+    for (const FontProperty& oProperty : FontProperties()) {
+      if (sKey.substr(oGroup.sKey.size()) != oProperty.sSuffix) continue;
+      const bool bDefault = sValue.empty() && oGroup.bEmptyIsDefault;
+      oGroup.oFont.*oProperty.vValue =
+          oProperty.read(bDefault ? oGroup.oDefaults.*oProperty.vValue : Variant(sValue));
+    }
   }
-  return vValue;
 }
 
 void StoreProperty(const std::string& sKey, const std::string& sValue) {
   if (sKey == "legend-visibility") {
     mLegendVisibility = sValue;
+  } else if (sKey == "legend-position") {
+    mLegendPosition = sValue;
   } else if (sKey == "legend-left") {
     mLegendLeft = runtime::CDbl(sValue);
   } else if (sKey == "legend-top") {
     mLegendTop = runtime::CDbl(sValue);
+  } else if (sKey == "label-font-background-color") {
+    mLabelFontBackgroundColor = sValue;
   } else {
-    for (const Property& oProperty : Properties()) {
-      if (oProperty.sKey == sKey) *oProperty.vVariable = ValueOf(oProperty, sValue);
-    }
+    StoreFontProperty(sKey, sValue);
   }
 }
 
@@ -93,7 +89,9 @@ void StoreProperty(const std::string& sKey, const std::string& sValue) {
 void SetPropertyDefaults() {
   mLegendVisibility = "auto";
   mLegendLeft = mLegendTop = kUnsetPlace;
-  for (const Property& oProperty : Properties()) *oProperty.vVariable = oProperty.vDefault;
+  mLegendPosition = excel::xlLegendPositionRight;
+  mLabelFontBackgroundColor = Variant();
+  for (const FontGroup& oGroup : FontGroups()) oGroup.oFont = oGroup.oDefaults;
 }
 
 void RetrievePersistedProperties(const dom::IXMLDOMElement& oChartElement) {

@@ -36,7 +36,7 @@ void PopulatePieChart(const IXMLDOMElement& oChartElement) {
       oSeries->SetXValues(sCategories);
       oSeries->SetValues(oBlock.Values(c));
       if (!oSeries->HasDataLabels()) continue;
-      if (const auto oFont = oSeries->DataLabels()->Font()) oFont->SetSize(runtime::Val(mLabelFontSize));
+      if (const auto oFont = oSeries->DataLabels()->Font()) oFont->SetSize(runtime::Val(mLabelFont.vSize));
     }
   });
 }

@@ -57,7 +57,7 @@ void LabelItem(const Ref<excel::Series>& oSeries, const std::string& sText) {
   const auto oLabels = oSeries->DataLabels();
   if (oLabels) {
     SetLabelFont(oLabels->Font());
-    oLabels->SetAutoScaleFont(SafeBool(mLabelFontAutoScale));
+    oLabels->SetAutoScaleFont(SafeBool(mLabelFont.vAutoScale));
     oLabels->SetHorizontalAlignment(excel::xlCenter);
     oLabels->SetVerticalAlignment(excel::xlCenter);
     oLabels->SetPosition(excel::xlLabelPositionCenter);
@@ -109,12 +109,12 @@ void AddBucketSeries(const Block& oBlock, const std::string& sBucketNames) {
   if (!oLabels) return;
   oLabels->SetPosition(excel::xlLabelPositionCenter);
   const auto oFont = oLabels->Font();
-  oFont->SetName(mBucketLabelFontName);
-  oFont->SetFontStyle(mBucketLabelFontStyle);
-  oFont->SetSize(runtime::Val(mBucketLabelFontSize));
-  oFont->SetColor(mBucketLabelFontColor);
+  oFont->SetName(mBucketLabelFont.vName);
+  oFont->SetFontStyle(mBucketLabelFont.vStyle);
+  oFont->SetSize(runtime::Val(mBucketLabelFont.vSize));
+  oFont->SetColor(mBucketLabelFont.vColor);
   oFont->SetBackground(excel::xlBackgroundTransparent);
-  oLabels->SetAutoScaleFont(SafeBool(mBucketLabelFontAutoScale));
+  oLabels->SetAutoScaleFont(SafeBool(mBucketLabelFont.vAutoScale));
 }
 
 /// Below version 12 an entry that doesn't fit into the legend isn't there to be deleted; at size 1 all fit.
@@ -172,7 +172,7 @@ void SetStrBuckChartAttributes(const IXMLDOMElement& oChartElement) {
         if (oSeries->ChartType() == excel::xlColumnStacked) {
           // the items' own fonts go with the scaling of the buckets' labels, on purpose
           if (const auto oLabels = oSeries->DataLabels())
-            DressLabels(oLabels, excel::xlLabelPositionCenter, mBucketLabelFontAutoScale);
+            DressLabels(oLabels, excel::xlLabelPositionCenter, mBucketLabelFont.vAutoScale);
         }
         YieldToHost();
       }

@@ -1,12 +1,12 @@
 #include "readback/ChartAppearance.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "common/CommonFunctions.h"
 #include "common/ErrorBlocks.h"
-#include "runtime/Dictionary.h"
 #include "runtime/Variant.h"
 
 namespace plotsmith {
@@ -105,55 +105,133 @@ void WriteAxis(LabelledAxis& oAxis, IXMLDOMDocument2& oChartDoc, IXMLDOMElement&
   oAxes.appendChild(oElement);
 }
 
-/// The font of labels by the texts of its properties, in the order in which they are stored.
-using LabelFont = std::array<std::string, 6>;  // name, style, size, color, background color, autoscale
+/// The font of the labels of a series, by the texts of its properties.
+struct LabelFont {
+  std::string sName = "Arial", sStyle = "Regular", sSize = "9", sColor = "0", sBackgroundColor = "-4105",
+              sAutoScale = "True";
 
-const LabelFont& DefaultLabelFont() {
-  static const LabelFont aFont = {"Arial", "Regular", "9", "0", "-4105", "True"};
-  return aFont;
+  bool operator==(const LabelFont&) const = default;
+};
+
+std::string OrDefault(const Variant& vValue, const std::string& sDefault) {
+  return vValue.IsNull() ? sDefault : SafeString(vValue);
 }
-
-constexpr char kFontSeparator = '@';
 
 /// A property on which the labels of a series disagree counts as its default.
-std::string LabelFontKey(excel::DataLabels& oLabels, excel::Font& oFont) {
-  const std::array<Variant, 6> aValues = {oFont.Name(),  oFont.FontStyle(),  oFont.Size(),
-                                          oFont.Color(), oFont.Background(), oLabels.AutoScaleFont()};
-  std::string sKey;
-  for (std::size_t i = 0; i < aValues.size(); ++i) {
-    if (i > 0) sKey += kFontSeparator;
-    sKey += aValues[i].IsNull() ? DefaultLabelFont()[i] : SafeString(aValues[i]);
-  }
-  return sKey;
+LabelFont ReadLabelFont(excel::DataLabels& oLabels, excel::Font& oFont) {
+  LabelFont oRead;
+  const auto read = [](std::string& sProperty, const Variant& vValue) {
+    sProperty = OrDefault(vValue, sProperty);
+  };
+  read(oRead.sName, oFont.Name());
+  read(oRead.sStyle, oFont.FontStyle());
+  read(oRead.sSize, oFont.Size());
+  read(oRead.sColor, oFont.Color());
+  read(oRead.sBackgroundColor, oFont.Background());
+  read(oRead.sAutoScale, oLabels.AutoScaleFont());
+  return oRead;
 }
 
-LabelFont SplitLabelFont(const std::string& sKey) {
-  LabelFont aFont;
-  std::size_t lFrom = 0;
-  for (std::string& sPart : aFont) {
-    const std::size_t lTo = std::min(sKey.find(kFontSeparator, lFrom), sKey.size());
-    sPart = sKey.substr(lFrom, lTo - lFrom);
-    lFrom = std::min(lTo + 1, sKey.size());
+/// How many series have a font; in the order in which the fonts were met.
+using FontCounts = std::vector<std::pair<LabelFont, std::int32_t>>;
+
+void Count(FontCounts& aCounts, const LabelFont& oFont) {
+  const auto oCount =
+      std::find_if(aCounts.begin(), aCounts.end(), [&](const auto& oOther) { return oOther.first == oFont; });
+  if (oCount == aCounts.end()) {
+    aCounts.emplace_back(oFont, 1);
+  } else {
+    ++oCount->second;
   }
-  return aFont;
 }
 
-/// The rarest of the fonts, the first of equals. Nothing rarer than `kOften` series is looked for.
-LabelFont RarestFont(const runtime::Dictionary& oFonts) {
+/// The rarest of the fonts, the first of equals. A font of `kOften` series or more is never taken.
+LabelFont RarestFont(const FontCounts& aCounts) {
   constexpr std::int32_t kOften = 9999;
-  LabelFont aFont = DefaultLabelFont();
+  LabelFont oRarest;
   std::int32_t lBest = kOften;
-  for (const auto& [sKey, vCount] : oFonts) {
-    const std::int32_t lCount = runtime::CLng(vCount);
+  for (const auto& [oFont, lCount] : aCounts) {
     if (lCount >= lBest) continue;
-    aFont = SplitLabelFont(sKey);
+    oRarest = oFont;
     lBest = lCount;
   }
-  return aFont;
+  return oRarest;
 }
 
-std::string OrDefault(const Variant& vValue, const char* sDefault) {
-  return vValue.IsNull() ? sDefault : SafeString(vValue);
+/// What the data labels of a chart look like, and what they show.
+struct Labels {
+  FontCounts aFonts;
+  LabelFont oBucketFont = {"", "", "", "", "", ""};  ///< of the bucket value series; "" without one
+  bool bValues = false, bPercentages = false;
+};
+
+LabelFont ReadBucketFont(excel::DataLabels& oLabels, excel::Font& oFont) {
+  return {OrDefault(oFont.Name(), "Arial"),
+          OrDefault(oFont.FontStyle(), "Bold"),
+          OrDefault(oFont.Size(), "9"),
+          OrDefault(oFont.Color(), "16777215"),
+          "",
+          OrDefault(oLabels.AutoScaleFont(), "False")};
+}
+
+void ReadLabels(excel::Series& oSeries, Labels& oRead) {
+  const auto oLabels = oSeries.DataLabels();
+  const auto oFont = oLabels->Font();
+  if (oSeries.ChartType() == excel::xlCombination) {
+    oRead.oBucketFont = ReadBucketFont(*oLabels, *oFont);
+    return;
+  }
+  if (oFont) Count(oRead.aFonts, ReadLabelFont(*oLabels, *oFont));
+  const Variant vType = oLabels->Type();
+  if (vType == Variant(excel::xlDataLabelsShowValue)) oRead.bValues = true;
+  if (vType == Variant(excel::xlDataLabelsShowPercent)) oRead.bPercentages = true;
+}
+
+Labels ReadAllLabels(const Ref<excel::Chart>& oChart) {
+  Labels oRead;
+  const auto oSeriesCollection = oChart->SeriesCollection();
+  const std::int32_t lSeries = oSeriesCollection->Count();
+  for (std::int32_t i = 1; i <= lSeries; ++i) {
+    const auto oSeries = oSeriesCollection->Item(i);
+    if (ValueOr(false, [&] { return oSeries->HasDataLabels(); })) ReadLabels(*oSeries, oRead);
+  }
+  return oRead;
+}
+
+void AppendLabelFonts(IXMLDOMDocument2& oChartDoc, const Labels& oRead) {
+  const LabelFont oFont = RarestFont(oRead.aFonts);
+  AppendPersist(oChartDoc, "label-font-name", oFont.sName);
+  AppendPersist(oChartDoc, "label-font-style", oFont.sStyle);
+  AppendPersist(oChartDoc, "label-font-size", oFont.sSize);
+  AppendPersist(oChartDoc, "label-font-color", oFont.sColor);
+  AppendPersist(oChartDoc, "label-font-background-color", oFont.sBackgroundColor);
+  AppendPersist(oChartDoc, "label-font-autoscale", oFont.sAutoScale);
+  AppendPersist(oChartDoc, "bucket-label-font-name", oRead.oBucketFont.sName);
+  AppendPersist(oChartDoc, "bucket-label-font-size", oRead.oBucketFont.sSize);
+  AppendPersist(oChartDoc, "bucket-label-font-color", oRead.oBucketFont.sColor);
+  AppendPersist(oChartDoc, "bucket-label-font-style", oRead.oBucketFont.sStyle);
+  AppendPersist(oChartDoc, "bucket-label-font-autoscale", oRead.oBucketFont.sAutoScale);
+}
+
+/// Makes `data-labels` anew. Whether the labels are put by hand is no matter of the chart.
+void WriteDataLabels(IXMLDOMDocument2& oChartDoc, const Labels& oRead) {
+  auto oChartElement = oChartDoc.documentElement();
+  std::string sManualLabels;
+  if (const auto oOld = oChartElement.selectSingleNode("data-labels")) {
+    sManualLabels = GetAttributeText(oOld, "manual-labels");
+  }
+  RemoveChild(oChartElement, "data-labels");
+  auto oDataLabels = oChartDoc.createElement("data-labels");
+  if (!sManualLabels.empty()) oDataLabels.setAttribute("manual-labels", sManualLabels);
+  oChartElement.appendChild(oDataLabels);
+  const auto append = [&](bool bSet, const char* sShow) {
+    if (!bSet) return;
+    auto oDataLabel = oChartDoc.createElement("data-label");
+    oDataLabel.setAttribute("show", sShow);
+    oDataLabels.appendChild(oDataLabel);
+  };
+  append(oRead.bValues, "values");
+  append(oRead.bPercentages, "percentages");
 }
 
 }  // namespace
@@ -224,64 +302,9 @@ void RevEngineerChartLegend(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& o
 
 void RevEngineerChartDataLabels(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& oChartDoc) {
   ReportErrors("PSRevEngineerChart.RevEngineerChartDataLabels", [&] {
-    runtime::Dictionary oFonts;
-    bool bValues = false, bPercentages = false;
-    std::string sBucketName, sBucketStyle, sBucketSize, sBucketColor, sBucketAutoScale;
-    const auto oSeriesCollection = oChart->SeriesCollection();
-    const std::int32_t lSeries = oSeriesCollection->Count();
-    for (std::int32_t i = 1; i <= lSeries; ++i) {
-      const auto oSeries = oSeriesCollection->Item(i);
-      if (!ValueOr(false, [&] { return oSeries->HasDataLabels(); })) continue;
-      const auto oLabels = oSeries->DataLabels();
-      const auto oFont = oLabels->Font();
-      if (oSeries->ChartType() == excel::xlCombination) {
-        sBucketName = OrDefault(oFont->Name(), "Arial");
-        sBucketStyle = OrDefault(oFont->FontStyle(), "Bold");
-        sBucketSize = OrDefault(oFont->Size(), "9");
-        sBucketColor = OrDefault(oFont->Color(), "16777215");
-        sBucketAutoScale = OrDefault(oLabels->AutoScaleFont(), "False");
-        continue;
-      }
-      if (oFont) {
-        Variant& vCount = oFonts.Item(LabelFontKey(*oLabels, *oFont));
-        vCount = runtime::CLng(vCount) + 1;
-      }
-      const Variant vType = oLabels->Type();
-      if (vType == Variant(excel::xlDataLabelsShowValue)) bValues = true;
-      if (vType == Variant(excel::xlDataLabelsShowPercent)) bPercentages = true;
-    }
-
-    const LabelFont aFont = RarestFont(oFonts);
-    static constexpr std::array<const char*, 6> kKeys = {"label-font-name",
-                                                         "label-font-style",
-                                                         "label-font-size",
-                                                         "label-font-color",
-                                                         "label-font-background-color",
-                                                         "label-font-autoscale"};
-    for (std::size_t i = 0; i < kKeys.size(); ++i) AppendPersist(oChartDoc, kKeys[i], aFont[i]);
-    AppendPersist(oChartDoc, "bucket-label-font-name", sBucketName);
-    AppendPersist(oChartDoc, "bucket-label-font-size", sBucketSize);
-    AppendPersist(oChartDoc, "bucket-label-font-color", sBucketColor);
-    AppendPersist(oChartDoc, "bucket-label-font-style", sBucketStyle);
-    AppendPersist(oChartDoc, "bucket-label-font-autoscale", sBucketAutoScale);
-
-    auto oChartElement = oChartDoc.documentElement();
-    std::string sManualLabels;
-    if (const auto oOld = oChartElement.selectSingleNode("data-labels")) {
-      sManualLabels = GetAttributeText(oOld, "manual-labels");
-    }
-    RemoveChild(oChartElement, "data-labels");
-    auto oDataLabels = oChartDoc.createElement("data-labels");
-    if (!sManualLabels.empty()) oDataLabels.setAttribute("manual-labels", sManualLabels);
-    oChartElement.appendChild(oDataLabels);
-    const auto append = [&](bool bSet, const char* sShow) {
-      if (!bSet) return;
-      auto oDataLabel = oChartDoc.createElement("data-label");
-      oDataLabel.setAttribute("show", sShow);
-      oDataLabels.appendChild(oDataLabel);
-    };
-    append(bValues, "values");
-    append(bPercentages, "percentages");
+    const Labels oRead = ReadAllLabels(oChart);
+    AppendLabelFonts(oChartDoc, oRead);
+    WriteDataLabels(oChartDoc, oRead);
   });
 }
 

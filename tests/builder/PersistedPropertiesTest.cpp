@@ -29,15 +29,15 @@ TEST_F(PersistedPropertiesTest, StoredPropertiesAndTheirDefaults) {
       "<persist property=\"LABEL-FONT-SIZE\" value=\"20\"/>");
   EXPECT_EQ(mLegendPosition, runtime::Variant("-4131"));
   EXPECT_EQ(mLegendLeft, kUnsetPlace) << "each call starts from the defaults";
-  EXPECT_EQ(mBucketLabelFontColor, runtime::Variant(16777215));
-  EXPECT_EQ(mLabelFontName, runtime::Variant("")) << "labels take an empty text as it stands";
-  EXPECT_EQ(mLabelAxisFontAutoScale, runtime::Variant(false));
-  EXPECT_EQ(mLabelFontSize, runtime::Variant(9));
+  EXPECT_EQ(mBucketLabelFont.vColor, runtime::Variant(16777215));
+  EXPECT_EQ(mLabelFont.vName, runtime::Variant("")) << "labels take an empty text as it stands";
+  EXPECT_EQ(mLabelAxisFont.vAutoScale, runtime::Variant(false));
+  EXPECT_EQ(mLabelFont.vSize, runtime::Variant(9));
   EXPECT_TRUE(mLabelFontBackgroundColor.IsEmpty());
   read(
       "<persist property=\"label-font-size\" value=\"11\"/><persist property=\"legend-top\" value=\"high\"/>"
       "<persist property=\"label-font-size\" value=\"12\"/>");
-  EXPECT_EQ(mLabelFontSize, runtime::Variant(11.0)) << "what was read before the failure stays in force";
+  EXPECT_EQ(mLabelFont.vSize, runtime::Variant(11.0)) << "what was read before the failure stays in force";
   EXPECT_EQ(Messages(),
             std::vector<S>{"Brindle Plotsmith: PSChartBuilder.RetrievePersistedProperties\nType mismatch"});
 }

@@ -14,7 +14,7 @@ using dom::IXMLDOMElement;
 
 /// One thing that read-back overwrites, in the definition and on the chart.
 struct Aspect {
-  const char* what;     ///< "title"
+  std::string what;     ///< "title"
   bool stored = false;  ///< whether the definition says anything about it
   std::string saidByDefinition = {}, keptOnChart = {};
 };
@@ -67,35 +67,30 @@ Aspect ListAspect(const IXMLDOMElement& stored, const IXMLDOMElement& read, cons
           AttributeList(read, query.c_str(), attribute)};
 }
 
-/// A part of the look that read-back keeps in `auto-persistence`.
+/// A part of the look that read-back keeps in `auto-persistence`: its property, and what a person calls it.
 struct PersistedLook {
-  const char* property;
-  const char* what;
+  std::string property, what;
 };
 
-constexpr PersistedLook kPersistedLooks[] = {
-    {"legend-visibility", "visibility of the legend"},
-    {"legend-position", "position of the legend"},
-    {"legend-font-name", "font of the legend"},
-    {"legend-font-size", "font size of the legend"},
-    {"legend-font-style", "font style of the legend"},
-    {"legend-font-color", "font colour of the legend"},
-    {"label-font-name", "font of the labels"},
-    {"label-font-size", "font size of the labels"},
-    {"label-font-style", "font style of the labels"},
-    {"label-font-color", "font colour of the labels"},
-    {"bucket-label-font-name", "font of the labels on the marks"},
-    {"bucket-label-font-size", "font size of the labels on the marks"},
-    {"bucket-label-font-style", "font style of the labels on the marks"},
-    {"bucket-label-font-color", "font colour of the labels on the marks"},
-    {"LabelAxis-font-name", "font of the title of the label axis"},
-    {"LabelAxis-font-size", "font size of the title of the label axis"},
-    {"LabelAxis-font-style", "font style of the title of the label axis"},
-    {"LabelAxis-font-color", "font colour of the title of the label axis"},
-    {"ValueAxis-font-name", "font of the title of the value axis"},
-    {"ValueAxis-font-size", "font size of the title of the value axis"},
-    {"ValueAxis-font-style", "font style of the title of the value axis"},
-    {"ValueAxis-font-color", "font colour of the title of the value axis"}};
+const std::vector<PersistedLook>& PersistedLooks() {
+  static const std::vector<PersistedLook> looks = [] {
+    std::vector<PersistedLook> list = {{"legend-visibility", "visibility of the legend"},
+                                       {"legend-position", "position of the legend"}};
+    const std::pair<std::string, std::string> texts[] = {{"legend", "legend"},
+                                                         {"label", "labels"},
+                                                         {"bucket-label", "labels on the marks"},
+                                                         {"LabelAxis", "title of the label axis"},
+                                                         {"ValueAxis", "title of the value axis"}};
+    const std::pair<std::string, std::string> properties[] = {
+        {"name", "font"}, {"size", "font size"}, {"style", "font style"}, {"color", "font colour"}};
+    for (const auto& [key, text] : texts) {
+      for (const auto& [property, what] : properties)
+        list.push_back({key + "-font-" + property, what + " of the " + text});
+    }
+    return list;
+  }();
+  return looks;
+}
 
 Aspect PersistAspect(const IXMLDOMElement& stored, const IXMLDOMElement& read, const PersistedLook& look) {
   const auto find = [&](const IXMLDOMElement& chart) {
@@ -128,13 +123,13 @@ std::vector<Aspect> Aspects(const IXMLDOMElement& stored, const IXMLDOMElement& 
   if (GetAttributeText(read, "type") != "strategic bucket") {
     aspects.push_back(ListAspect(stored, read, "data-labels", "data-label", "show", "data label"));
   }
-  for (const PersistedLook& look : kPersistedLooks) aspects.push_back(PersistAspect(stored, read, look));
+  for (const PersistedLook& look : PersistedLooks()) aspects.push_back(PersistAspect(stored, read, look));
   return aspects;
 }
 
 std::string Sentence(const Aspect& aspect) {
   const auto shown = [](const std::string& text) { return text.empty() ? "none" : Quoted(text); };
-  return std::string("The ") + aspect.what + " is " + shown(aspect.keptOnChart) + " on the chart and " +
+  return "The " + aspect.what + " is " + shown(aspect.keptOnChart) + " on the chart and " +
          shown(aspect.saidByDefinition) + " in the definition.";
 }
 
