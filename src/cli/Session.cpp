@@ -168,10 +168,13 @@ void Session::Look(const std::function<void()>& look) const {
 void Session::LookBeforeRun(DefinitionsAre definitions) {
   Look([&] { look_.emplace(Book(), definitions); });
   if (!look_ || options_.dropBroken) return;
-  const std::vector<std::string> lines = look_->Refusals();
-  if (!ReportFindings(lines)) return;
-  throw CommandError(exit_code::kFile, "nothing was changed, as " + Counted(lines.size(), "definition") +
-                                           " would be lost; mend what is said, or use --drop-broken.");
+  const RunRefusals refusals = look_->Refusals();
+  if (!ReportFindings(refusals.lines)) return;
+  throw CommandError(exit_code::kFile,
+                     "nothing was changed, as " +
+                         (refusals.lost > 0 ? Counted(refusals.lost, "definition") + " would be lost"
+                                            : "charts could be taken for each other") +
+                         "; mend what is said, or use --drop-broken.");
 }
 
 bool Session::ReportFindings(const std::vector<std::string>& lines) const {

@@ -25,6 +25,10 @@ using List = std::vector<S>;
 
 const S kFormula = "><f>1+1</f><v></v></c>";
 
+const S kStray =
+    "A chart here has the alternative text 'VEX_Chart1', and there is no definition of that id; a new chart "
+    "could get the same id. Delete the chart, or clear its alternative text";
+
 /// What `check` finds: the lines that are indented, without the place of the first definition.
 class CheckTest : public ::testing::Test {
  protected:
@@ -114,7 +118,7 @@ TEST_F(CheckTest, AWorkbookWithoutDefinitionsOrTablesIsFine) {
   const auto result = Check(book);
   EXPECT_EQ(result.code, 0);
   EXPECT_EQ(result.out,
-            "There are no charts of Plotsmith.\nThere are no tables. To make one, call a sheet Data1, with "
+            "There are no definitions of charts.\nThere are no tables. To make one, call a sheet Data1, with "
             "headings in row 1 and data below them; or give the data a name that begins with VEX_TableRange, "
             "with a title in its first cell and headings in its third row.\n");
   EXPECT_EQ(RunCommand({"check", folder_ / "none.xlsx"}).code, 3);
@@ -129,6 +133,7 @@ TEST_F(CheckTest, AWorkbookWithoutDefinitionsOrTablesIsFine) {
 TEST_F(CheckTest, RowsThatALoadRemovesOrNeverReads) {
   const S good = Definition{"VEX_Chart1"}.Xml();
   const S refused = "; until that is mended, the workbook is only written with --drop-broken.";
+  const S confused = "; until that is mended, charts are only made, changed or deleted with --drop-broken.";
   const std::pair<List, List> cases[] = {
       {{"<chart id='VEX_Chart1'>\n<a></chart>"},
        {"The text is not well-formed XML (mismatched tag in line 2, character 6)" + refused}},
@@ -141,8 +146,8 @@ TEST_F(CheckTest, RowsThatALoadRemovesOrNeverReads) {
        {"VEX_ChartDefinitions!A3: The id 'VEX_Chart1' is that of VEX_ChartDefinitions!A2 already" + refused}},
       {{"", good},
        {"VEX_ChartDefinitions!A3: This definition is never read, because VEX_ChartDefinitions!A2 is blank "
-        "and "
-        "ends the list."}}};
+        "and ends the list" +
+        confused}}};
   for (const auto& [texts, findings] : cases) {
     PlainBook book = SalesBook({{"VEX_Chart1"}});
     book.sheets.pop_back();
@@ -156,8 +161,10 @@ TEST_F(CheckTest, RowsThatALoadRemovesOrNeverReads) {
   PlainBook book = SalesBook({{"VEX_Chart1"}});
   book.Sheet("VEX_ChartDefinitions").rows.erase(book.Sheet("VEX_ChartDefinitions").rows.begin());
   EXPECT_EQ(Found(book),
-            List{"VEX_ChartDefinitions!A1: This definition is never read, because the list begins in "
-                 "VEX_ChartDefinitions!A2."});
+            (List{"VEX_ChartDefinitions!A1: This definition is never read, because the list begins in "
+                  "VEX_ChartDefinitions!A2" +
+                      confused,
+                  "Charts: " + kStray + confused}));
 }
 
 TEST_F(CheckTest, ChartsThatAreNotSeen) {
@@ -235,7 +242,7 @@ TEST_F(CheckTest, NamesAndValuesThatADefinitionCannotHave) {
       {rest("<data-labels><data-label show=\"names\"/></data-labels>"),
        {"The attribute 'show' has an unknown value 'names'; it can be values or percentages."}},
       {rest(test::Settings({"3d"})),
-       {"The attribute 'setting' has an unknown value '3d'; it can be 3D, stacked, 100% or exploded."}},
+       {"A column chart has no setting '3d'; it can have 3D, stacked and 100%."}},
       {rest(test::Settings({"3D", "exploded"})),
        {"A column chart has no setting 'exploded'; it can have 3D, stacked and 100%."}},
       {rest("<sort-order sort=\"down\"><column name=\"Cost\"/></sort-order>"),

@@ -60,16 +60,18 @@ class RunLookTest : public ::testing::Test {
     });
   }
 
-  S NothingToRefresh(const S& none) const {
-    return "plotsmith: \"" + path_ + "\" has " + none + ", so nothing was refreshed.\n";
+  S NothingToRefresh() const {
+    return "plotsmith: \"" + path_ + "\" has no charts of Plotsmith, so nothing was refreshed.\n";
   }
 
   test::TempFolder folder_;
   S path_ = folder_ / "book.xlsx";
 };
 
-const S kNoDefinition =
-    "no definitions of charts of Plotsmith, though a chart with the alternative text VEX_Chart1 is there";
+const S kStray =
+    "plotsmith: Charts: A chart here has the alternative text 'VEX_Chart1', and there is no definition of "
+    "that "
+    "id; a new chart could get the same id. Delete the chart, or clear its alternative text.\n";
 
 /// A line about the first definition of a sales book.
 S Line(const S& sentence, const S& place = "VEX_ChartDefinitions!A2") {
@@ -109,9 +111,9 @@ TEST_F(RunLookTest, NothingIsWrittenWhereADefinitionWouldBeLost) {
                                  "what is said, or use --drop-broken.\n");
       EXPECT_EQ(Bytes(path_), before) << verb[0];
     }
-    const S noCharts = row.charts == 0 ? NothingToRefresh(kNoDefinition) : "";
+    const S noCharts = row.charts == 0 ? kStray + NothingToRefresh() : "";
     EXPECT_EQ(Refresh({"--drop-broken"}), line + "; the row was dropped.\n" + noCharts);
-    EXPECT_EQ(RunCommand({"check", path_}).code, 0) << RunCommand({"check", path_}).out;
+    EXPECT_EQ(RunCommand({"check", path_}).code, 1 - row.charts) << RunCommand({"check", path_}).out;
     EXPECT_EQ(Charts().find("VEX_Chart1") != S::npos, row.charts == 1) << Charts();
     EXPECT_EQ(Refresh(), noCharts);
   }
@@ -153,9 +155,7 @@ TEST_F(RunLookTest, RowsThatAreNotReadAndNamesThatAreUnknownAreSaid) {
   odd.attributes += " colour=\"red\"";
   odd.rest = test::Settings({"staked"});
   WriteRows({"Notes", odd.Xml(), "", odd.Xml()});
-  const S settings =
-      "The attribute 'setting' has an unknown value 'staked'; it can be 3D, stacked, 100% or "
-      "exploded.";
+  const S settings = "A column chart has no setting 'staked'; it can have 3D, stacked and 100%.";
   const S colour =
       "The element 'chart' has an unknown attribute 'colour'; there are id, name, title, type, table-id, "
       "strategic-bucket-table-id and number-format.";
@@ -413,12 +413,38 @@ TEST_F(RunLookTest, MoreBucketsThanAChartCanNameAreSaid) {
   EXPECT_NE(Charts().find("strategic bucket chart"), S::npos) << Charts();
 }
 
-TEST_F(RunLookTest, ChartsWithoutASheetOfDefinitionsAreNamed) {
-  PlainBook book = SalesBook({{"VEX_Chart1"}});
-  book.sheets.pop_back();
-  Write(book);
-  EXPECT_EQ(Refresh(), NothingToRefresh(kNoDefinition));
-  EXPECT_TRUE(RunCommand({"check", path_}).out.starts_with("There are " + kNoDefinition + ".\n"));
+TEST_F(RunLookTest, ChartsThatCouldBeTakenForOthersStopWhatMakesOrDeletesCharts) {
+  const S drop =
+      "plotsmith: nothing was changed, as charts could be taken for each other; mend what is said, or "
+      "use --drop-broken.\n";
+  const S second =
+      "plotsmith: More: A second chart here has the alternative text 'VEX_Chart1', and only the first one, "
+      "on "
+      "the sheet 'Charts', is refreshed. Delete the second chart, or clear its alternative text.\n";
+  const S unread =
+      Line("This definition is never read, because VEX_ChartDefinitions!A3 is blank and ends the list.",
+           "VEX_ChartDefinitions!A4");
+  PlainBook bare = SalesBook({{"VEX_Chart1"}});
+  bare.sheets.pop_back();
+  PlainBook twice = SalesBook({{"VEX_Chart1"}});
+  twice.sheets.push_back({.name = "More", .rows = {}, .frames = {{"VEX_Chart1"}}});
+  PlainBook gap = SalesBook({{"VEX_Chart1"}});
+  gap.sheets.pop_back();
+  const S good = Definition{"VEX_Chart1"}.Xml();
+  gap.AddDefinitions({good, "", runtime::Replace(good, "id=\"VEX_Chart1\"", "id=\"VEX_Chart2\"")});
+  const std::pair<PlainBook, S> cases[] = {{bare, kStray}, {twice, second}, {gap, unread}};
+  for (const auto& [book, said] : cases) {
+    Write(book);
+    const S before = Bytes(path_);
+    for (const List& verb : {List{"new", path_, "--table", "Data1", "--type", "pie"},
+                             List{"delete", path_, "VEX_Chart1"}, List{"wizard", path_, "--script", "-"}}) {
+      const CommandResult refused = RunCommand(verb);
+      EXPECT_EQ(refused.code, 3) << said;
+      EXPECT_EQ(refused.err, said + drop);
+      EXPECT_EQ(Bytes(path_), before);
+    }
+    EXPECT_EQ(Refresh(), said + (said == kStray ? NothingToRefresh() : ""));
+  }
 }
 
 TEST_F(RunLookTest, OfAWorkbookThatNeverSawPlotsmithNothingElseIsSaid) {
@@ -427,7 +453,7 @@ TEST_F(RunLookTest, OfAWorkbookThatNeverSawPlotsmithNothingElseIsSaid) {
   book.sheets[0].rows[1][2] = RawCell{"><f>1+1</f><v></v></c>"};
   book.sheets[0].frames = {{"", "", 0, 0, 8, 18}, {"VEX_Table1"}};
   Write(book);
-  EXPECT_EQ(Refresh(), NothingToRefresh("no charts of Plotsmith"));
+  EXPECT_EQ(Refresh(), NothingToRefresh());
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdint>
 #include <sstream>
+#include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "cli/check/ColumnCells.h"
@@ -23,52 +25,38 @@ constexpr char kSeparator = '|';
 constexpr const char* kHowToShowAgain =
     ", and then switch the chart's own legend on in a spreadsheet program; the next refresh draws it.";
 
-/// A bubble of a block: its name and its colour label.
+/// A bubble: its name, and the colour label of the last row that has that name.
 struct Bubble {
   std::string name, label;
+  std::int32_t row = 0;
 };
-
-/// The bubbles of one chart on the data sheet; the first row of a block is its head.
-std::vector<Bubble> BubblesOf(xlsx::Workbook& book, const std::string& id) {
-  std::vector<Bubble> bubbles;
-  const auto sheet = book.FindWorksheet(kDataSheet);
-  if (!sheet) return bubbles;
-  std::string scratch;
-  bool isHead = true;
-  for (std::int32_t row = 1; row != 0; row = sheet->NextRowAt(row, data_column::kId)) {
-    if (GetCellText(*sheet, row, data_column::kId, scratch) != id) continue;
-    if (isHead) {
-      isHead = false;
-      continue;
-    }
-    Bubble bubble;
-    bubble.name = GetCellText(*sheet, row, data_column::kName, scratch);
-    bubble.label = runtime::Trim(GetCellText(*sheet, row, data_column::kFirstSeries, scratch));
-    bubbles.push_back(std::move(bubble));
-  }
-  return bubbles;
-}
 
 /// Where the table has the first column that a group of the definition names; 0 if it has none.
 std::int32_t FirstColumnNumber(const IXMLDOMElement& chart, const IXMLDOMElement& table, const char* query) {
   const auto named = chart.selectSingleNode(query);
+  if (!named) return 0;
   const auto column = FindColumn(table.childElements(), GetAttributeText(named, "name"));
   return column ? GetAttributeLong(column, "worksheet-column-number") : 0;
 }
 
-/// The cell that gives a bubble its label: that of the last row with its name.
-std::string LabelPlace(xlsx::Workbook& book, const IXMLDOMElement& chart, const IXMLDOMElement& table,
-                       const Bubble& bubble) {
-  const TableArea area(table);
-  const std::int32_t names = FirstColumnNumber(chart, table, "categories/column");
-  const std::int32_t labels = FirstColumnNumber(chart, table, "series/column");
-  const auto sheet = book.FindWorksheet(area.sheet);
-  std::int32_t found = area.firstRow;
+/// The bubbles that the rows of a table make, in the order of their names' first appearance.
+std::vector<Bubble> BubblesOf(excel::Worksheet& sheet, const TableArea& area, std::int32_t names,
+                              std::int32_t labels) {
+  constexpr std::size_t kMostBubbles = 254;
+  std::vector<Bubble> bubbles;
+  std::unordered_map<std::string, std::size_t> byName;
   std::string scratch;
-  for (std::int32_t row = area.firstRow; sheet && names != 0 && row <= area.lastRow; ++row) {
-    if (runtime::EqualsIgnoreCase(GetCellText(*sheet, row, names, scratch), bubble.name)) found = row;
+  for (std::int32_t row = area.firstRow; row <= area.lastRow; ++row) {
+    std::string name(GetCellText(sheet, row, names, scratch));
+    const auto [found, isNew] = byName.try_emplace(runtime::UCase(name), bubbles.size());
+    if (isNew && bubbles.size() == kMostBubbles) continue;  // the map has no room for it
+    if (isNew) bubbles.push_back({std::move(name), "", row});
+    if (found->second >= bubbles.size()) continue;
+    Bubble& bubble = bubbles[found->second];
+    bubble.label = runtime::Trim(GetCellText(sheet, row, labels, scratch));
+    bubble.row = row;
   }
-  return labels == 0 ? "" : CellText(area.sheet, found, labels);
+  return bubbles;
 }
 
 /// Whether the legend takes the label apart, and finds no colour for a piece.
@@ -87,15 +75,20 @@ bool FallsApart(const std::string& label, const std::vector<Bubble>& bubbles) {
 Findings CheckBubbleLabels(xlsx::Workbook& book, const IXMLDOMElement& chart, const IXMLDOMElement& table) {
   if (GetAttributeText(chart, "type") != kBubbleType || HostVersion(oApplication) <= kLastClassicVersion)
     return {};
-  const auto series = chart.selectSingleNode("series/column");
-  if (!series || GetAttributeText(chart.selectSingleNode("series"), "headings-in") == "none") return {};
-  const std::vector<Bubble> bubbles = BubblesOf(book, GetAttributeText(chart, "id"));
+  const auto series = chart.selectSingleNode("series");
+  if (!series || GetAttributeText(series, "headings-in") == "none") return {};
+  const TableArea area(table);
+  const auto sheet = book.FindWorksheet(area.sheet);
+  const std::int32_t names = FirstColumnNumber(chart, table, "categories/column");
+  const std::int32_t labels = FirstColumnNumber(chart, table, "series/column");
+  if (!sheet || names == 0 || labels == 0) return {};
+  const std::vector<Bubble> bubbles = BubblesOf(*sheet, area, names, labels);
   for (const Bubble& bubble : bubbles) {
     const bool isBlank = bubble.label.empty();
     if (!isBlank && !FallsApart(bubble.label, bubbles)) continue;
-    const std::string start = "The column " + Quoted(GetAttributeText(series, "name")) + " has ";
-    return {{LabelPlace(book, chart, table, bubble), FindingKind::kCells,
-             start +
+    const std::string column = GetAttributeText(chart.selectSingleNode("series/column"), "name");
+    return {{CellText(area.sheet, bubble.row, labels), FindingKind::kCells,
+             "The column " + Quoted(column) + " has " +
                  (isBlank ? "no label here for the bubble " + Quoted(bubble.name) +
                                 ", so that it isn't shown and the chart has no drawn legend; fill the cell in"
                           : "a label here with the character '|', so that the chart has no drawn legend; "

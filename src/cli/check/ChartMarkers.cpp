@@ -2,7 +2,6 @@
 
 #include "cli/check/Words.h"
 #include "host/excel/Constants.h"
-#include "metadata/NewChart.h"
 #include "xlsx/SheetDrawing.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/package/Xml.h"
@@ -34,10 +33,12 @@ bool ChartMarkers::ReadNextSheet() {
   for (const auto& shape : drawing->Shapes()) {
     if (shape->Type() == excel::msoChart) {
       const std::string text = shape->AlternativeText();
-      if (text.empty())
+      if (text.empty()) {
         ++unmarked_;
-      else
-        charts_.emplace(text, MarkedChart{sheet.SheetName(), shape});
+        continue;
+      }
+      const auto [first, isNew] = charts_.try_emplace(text, MarkedChart{sheet.SheetName(), shape});
+      if (!isNew) first->second.others.push_back(sheet.SheetName());
     } else if (shape->Type() == excel::msoGroup) {
       for (const std::string& text : TextsInGroup(shape->Object())) grouped_.emplace(text, sheet.SheetName());
     }
@@ -71,13 +72,15 @@ bool ChartMarkers::IsGrouped(const std::string& id) {
   return grouped_.contains(id);
 }
 
-std::vector<std::string> ChartMarkers::Ids() {
+std::map<std::string, std::vector<std::string>> ChartMarkers::SheetsByText() {
   ReadAll();
-  std::vector<std::string> ids;
+  std::map<std::string, std::vector<std::string>> sheets;
   for (const auto& [text, chart] : charts_) {
-    if (!ChartNumber(text).empty()) ids.push_back(text);
+    std::vector<std::string>& list = sheets[text];
+    list = chart.others;
+    list.insert(list.begin(), chart.sheet);
   }
-  return ids;
+  return sheets;
 }
 
 std::string ChartMarkers::Absence(const std::string& id) {

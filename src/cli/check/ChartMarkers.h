@@ -25,8 +25,9 @@ class ChartMarkers {
   std::string SheetOf(const std::string& id);
   /// Whether the chart of the id is in a group of shapes.
   bool IsGrouped(const std::string& id);
-  /// The alternative texts of all charts that are ids of Plotsmith's.
-  std::vector<std::string> Ids();
+  /// The charts by their alternative texts: the sheets of those that have the same, in the order of the
+  /// sheets.
+  std::map<std::string, std::vector<std::string>> SheetsByText();
   /// Why no chart belongs to the id, and which charts there are, as a sentence.
   std::string Absence(const std::string& id);
 
@@ -34,6 +35,7 @@ class ChartMarkers {
   struct MarkedChart {
     std::string sheet;
     std::shared_ptr<xlsx::SheetShape> shape;
+    std::vector<std::string> others = {};  ///< the sheets of further charts with the same text
   };
 
   const MarkedChart* Find(const std::string& id);

@@ -1,6 +1,7 @@
 #include "cli/check/DefinitionCheck.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -13,8 +14,10 @@
 #include "common/CommonFunctions.h"
 #include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
+#include "metadata/NewChart.h"
 #include "runtime/Strings.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/sheet/Reference.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -60,7 +63,8 @@ class RowCheck {
     for (Finding& finding : definition.findings) finding.severity = Severity::kSaid;
     definition.findings.insert(
         definition.findings.begin(),
-        {definition.place, FindingKind::kUnread, "This definition is never read, because " + reason + "."});
+        {definition.place, FindingKind::kUnread, "This definition is never read, because " + reason + ".",
+         Severity::kConfuses});
   }
 
   /// The first row is for the mark of the sheet.
@@ -163,13 +167,31 @@ bool CheckedDefinition::IsUnread() const {
 
 std::string DefinitionPlace(std::int32_t row) { return CellText(kDefinitionsSheet, row, 1); }
 
-std::string NoDefinitions(xlsx::Workbook& book) {
-  const std::vector<std::string> ids = ChartMarkers(book).Ids();
-  if (ids.empty()) return "no charts of Plotsmith";
-  return "no definitions of charts of Plotsmith, though " +
-         std::string(ForCount(ids.size(), "a chart", "charts")) + " with the alternative " +
-         ForCount(ids.size(), "text ", "texts ") + Listed(ids) +
-         ForCount(ids.size(), " is there", " are there");
+Findings CheckStrayCharts(xlsx::Workbook& book, const std::vector<CheckedDefinition>& rows) {
+  // While a row is broken, the chart without a definition is most likely that row's.
+  const bool isAnyLost = std::any_of(rows.begin(), rows.end(), std::mem_fn(&CheckedDefinition::IsLost));
+  const auto isDefined = [&](const std::string& id) {
+    return isAnyLost ||
+           std::any_of(rows.begin(), rows.end(), [&](const CheckedDefinition& row) { return row.id == id; });
+  };
+  Findings findings;
+  const auto report = [&](const std::string& sheet, const std::string& sentence) {
+    findings.push_back({xlsx::QuotedSheetName(sheet), FindingKind::kChart, sentence, Severity::kConfuses});
+  };
+  for (const auto& [id, sheets] : ChartMarkers(book).SheetsByText()) {
+    if (ChartNumber(id).empty()) continue;
+    if (!isDefined(id)) {
+      report(sheets.front(),
+             "A chart here has the alternative text " + Quoted(id) +
+                 ", and there is no definition of that id; a new chart could get the same id. "
+                 "Delete the chart, or clear its alternative text.");
+    } else if (sheets.size() > 1) {
+      report(sheets[1], "A second chart here has the alternative text " + Quoted(id) +
+                            ", and only the first one, on the sheet " + Quoted(sheets[0]) +
+                            ", is refreshed. Delete the second chart, or clear its alternative text.");
+    }
+  }
+  return findings;
 }
 
 std::vector<CheckedDefinition> CheckRows(xlsx::Workbook& book) {

@@ -33,9 +33,9 @@ std::vector<CheckedDefinition> CheckRows(xlsx::Workbook& book);
 /// The same, and whether the definitions go with the tables of `colTables`.
 std::vector<CheckedDefinition> CheckDefinitions(xlsx::Workbook& book);
 
-/// "no charts of Plotsmith", for a workbook without definitions; and which charts bear ids all the same, as
-/// when somebody deleted the sheet.
-std::string NoDefinitions(xlsx::Workbook& book);
+/// Charts whose ids lead astray: those without a definition among `rows`, and further ones with the same id.
+/// A finding's place is the sheet.
+Findings CheckStrayCharts(xlsx::Workbook& book, const std::vector<CheckedDefinition>& rows);
 
 /// The cell of a definition, "VEX_ChartDefinitions!A2".
 std::string DefinitionPlace(std::int32_t row);

@@ -41,12 +41,6 @@ const DynamicSetting kDynamicSettings[] = {{"3D", kTypes},
                                            {"100%", {"area", "bar", "column", "strategic bucket"}},
                                            {"exploded", {"pie"}}};
 
-Names DynamicSettings() {
-  Names names;
-  for (const DynamicSetting& setting : kDynamicSettings) names.push_back(setting.name);
-  return names;
-}
-
 ElementFormat SettingFormat(Names settings) {
   return {"attribute", {{"setting", std::move(settings), true}}, {}, true};
 }
@@ -105,7 +99,7 @@ const ElementFormat& ChartFormat() {
         {"data-labels",
          {{"manual-labels", kYesNo}},
          {{"data-label", {{"show", {"values", "percentages"}, true}}, {}, true}}},
-        {"dynamic-attributes", {}, {SettingFormat(DynamicSettings())}},
+        {"dynamic-attributes", {}, {SettingFormat({})}},  // see CheckSettings
         {"static-attributes",
          {},
          {SettingFormat({"show-zero-bubbles", "quadrants", "autoscale-x", "autoscale-y"})}},
@@ -153,18 +147,32 @@ class FormatCheck {
     CheckAttributes(element, format);
     CheckChildren(element, format);
   }
-  /// A known setting that charts of the type don't have.
+  /// A setting that charts of the type don't have.
   void CheckSettings(const dom::IXMLDOMElement& chart) {
     const std::string type = GetAttributeText(chart, "type");
-    if (!Contains(kTypes, type)) return;
+    const bool isKnownType = Contains(kTypes, type);
     std::vector<std::string> allowed;
     for (const DynamicSetting& setting : kDynamicSettings) {
-      if (Contains(setting.types, type)) allowed.emplace_back(setting.name);
+      if (!isKnownType || Contains(setting.types, type)) allowed.emplace_back(setting.name);
     }
-    for (const DynamicSetting& setting : kDynamicSettings) {
-      if (Contains(setting.types, type) || !HasSetting(chart, "dynamic-attributes", setting.name)) continue;
-      Report("A " + type + " chart has no setting " + Quoted(setting.name) + "; it can have " +
-             Listed(allowed) + ".");
+    for (const auto& attribute : chart.selectNodes("dynamic-attributes/attribute")) {
+      const std::string setting = GetAttributeText(attribute, "setting");
+      if (setting.empty() || std::find(allowed.begin(), allowed.end(), setting) != allowed.end()) continue;
+      Report("A " + (isKnownType ? type + " " : "") + "chart has no setting " + Quoted(setting) +
+             "; it can have " + Listed(allowed) + ".");
+    }
+  }
+  /// Values that a property of the look can't have.
+  void CheckPersisted(const dom::IXMLDOMElement& chart) {
+    const std::pair<std::string_view, Names> values[] = {
+        {"legend-visibility", {"show", "hide"}},
+        {"-font-style", {"Regular", "Bold", "Italic", "Bold Italic"}},
+        {"-font-autoscale", {"True", "False"}}};
+    for (const auto& persist : chart.selectNodes("auto-persistence/persist")) {
+      const std::string property = GetAttributeText(persist, "property");
+      for (const auto& [end, allowed] : values) {
+        if (property.ends_with(end)) CheckValue({property, allowed}, GetAttributeText(persist, "value"));
+      }
     }
   }
   Findings Take() { return std::move(findings_); }
@@ -240,6 +248,7 @@ Findings CheckFormat(const dom::IXMLDOMElement& chart, const std::string& place)
   FormatCheck check(place);
   check.CheckElement(chart, ChartFormat());
   check.CheckSettings(chart);
+  check.CheckPersisted(chart);
   return check.Take();
 }
 

@@ -48,6 +48,8 @@ const char* SeverityName(Severity severity) {
       return "said";
     case Severity::kKeeps:
       return "keeps";
+    case Severity::kConfuses:
+      return "confuses";
     case Severity::kRemoves:
       return "removes";
     case Severity::kRefuses:
@@ -62,6 +64,9 @@ std::string Foretold(const Finding& finding) {
       break;
     case Severity::kKeeps:
       return With(finding.sentence, "the next refresh keeps that of the chart");
+    case Severity::kConfuses:
+      return With(finding.sentence,
+                  "until that is mended, charts are only made, changed or deleted with --drop-broken");
     case Severity::kRemoves:
       return With(finding.sentence,
                   "the chart was drawn and is gone, and the next refresh removes its definition");
@@ -74,6 +79,7 @@ std::string Foretold(const Finding& finding) {
 std::string Reported(const Finding& finding) {
   switch (finding.severity) {
     case Severity::kSaid:
+    case Severity::kConfuses:
       break;
     case Severity::kKeeps:
       return With(finding.sentence, "that of the chart was kept");

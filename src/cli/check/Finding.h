@@ -19,10 +19,11 @@ enum class FindingKind {
 
 /// What a command that writes the workbook does about a finding.
 enum class Severity {
-  kSaid,     ///< it says the sentence and goes on
-  kKeeps,    ///< it keeps what the chart has against the definition, and says so
-  kRemoves,  ///< it removes the definition, whose chart was drawn and is gone, and says so
-  kRefuses   ///< it would lose the definition, and so writes nothing without --drop-broken
+  kSaid,      ///< it says the sentence and goes on
+  kKeeps,     ///< it keeps what the chart has against the definition, and says so
+  kConfuses,  ///< it says the sentence; to make, change or delete charts it wants --drop-broken
+  kRemoves,   ///< it removes the definition, whose chart was drawn and is gone, and says so
+  kRefuses    ///< it would lose the definition, and so writes nothing without --drop-broken
 };
 
 /// Something that is wrong in a workbook.

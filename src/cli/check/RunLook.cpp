@@ -38,17 +38,28 @@ bool ForbidsDrawing(const Finding& finding) {
 }  // namespace
 
 RunLook::RunLook(xlsx::Workbook& book, DefinitionsAre definitions)
-    : book_(book), definitions_(definitions), rows_(CheckRows(book)) {}
+    : book_(book),
+      definitions_(definitions),
+      rows_(CheckRows(book)),
+      strayCharts_(CheckStrayCharts(book, rows_)) {}
 
-std::vector<std::string> RunLook::Refusals() const {
-  std::vector<std::string> lines;
+RunRefusals RunLook::Refusals() const {
+  RunRefusals refusals;
+  const auto refuses = [&](const Finding& finding) {
+    return finding.severity == Severity::kRefuses ||
+           (finding.severity == Severity::kConfuses && definitions_ == DefinitionsAre::kEdited);
+  };
   for (const CheckedDefinition& row : rows_) {
     for (const Finding& finding : row.findings) {
-      if (finding.severity != Severity::kRefuses) continue;
-      lines.push_back(Line(finding.place, {Called(row.id, row.name)}, finding.sentence));
+      if (!refuses(finding)) continue;
+      refusals.lines.push_back(Line(finding.place, {Called(row.id, row.name)}, finding.sentence));
+      if (LosesRow(finding)) ++refusals.lost;
     }
   }
-  return lines;
+  for (const Finding& stray : strayCharts_) {
+    if (refuses(stray)) refusals.lines.push_back(Line(stray.place, {}, stray.sentence));
+  }
+  return refusals;
 }
 
 const CheckedDefinition* RunLook::FindRow(const std::string& id) const {
@@ -77,7 +88,7 @@ void RunLook::CompareStored() {
 
 bool RunLook::IsFine() const {
   const auto isFine = [](const auto& findings) { return findings.empty(); };
-  return bubbles_.empty() && differences_.empty() &&
+  return bubbles_.empty() && differences_.empty() && strayCharts_.empty() &&
          std::all_of(rows_.begin(), rows_.end(), [&](const auto& row) { return isFine(row.findings); }) &&
          std::all_of(started_.begin(), started_.end(),
                      [&](const auto& chart) { return isFine(chart.second); });
@@ -149,7 +160,9 @@ std::vector<std::string> RunLook::Finish() {
   if (IsFine()) return {};
   std::vector<ChartFinding> collected;
   CollectLost(collected);
-  for (const CheckedDefinition& row : CheckRows(book_)) CollectKept(row, collected);
+  const std::vector<CheckedDefinition> rows = CheckRows(book_);
+  for (const CheckedDefinition& row : rows) CollectKept(row, collected);
+  for (Finding& stray : CheckStrayCharts(book_, rows)) collected.push_back({std::move(stray), ""});
   return Lines(collected);
 }
 

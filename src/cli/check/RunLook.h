@@ -18,6 +18,12 @@ enum class DefinitionsAre {
   kEdited    ///< pages and options change them
 };
 
+/// What forbids a run.
+struct RunRefusals {
+  std::vector<std::string> lines;  ///< each with its place
+  std::size_t lost = 0;            ///< definitions that the run would lose
+};
+
 /// The look at a workbook around a run that writes it: at the rows of definitions before, at each chart when
 /// its build begins, and at what came out. So a person hears of everything that the run does to their work.
 class RunLook {
@@ -25,8 +31,9 @@ class RunLook {
   /// Looks at the rows. It wants `oWorkbook` set, and `book`, which must outlive the look, is that workbook.
   RunLook(xlsx::Workbook& book, DefinitionsAre definitions);
 
-  /// What forbids the run, a line each with its place: rows that it would lose.
-  std::vector<std::string> Refusals() const;
+  /// Rows that the run would lose. A run that makes, changes or deletes charts is also forbidden where charts
+  /// could be taken for others.
+  RunRefusals Refusals() const;
   /// The build of a chart begins. The tables and definitions are loaded.
   void ChartStarted(const std::string& id);
   /// What there is to say once the run is over, a line each with its place and the charts it is about.
@@ -54,6 +61,7 @@ class RunLook {
   xlsx::Workbook& book_;
   DefinitionsAre definitions_;
   std::vector<CheckedDefinition> rows_;          ///< before the run
+  Findings strayCharts_;                         ///< before the run
   std::map<std::string, Findings> started_;      ///< about each chart whose build began, by id
   std::map<std::string, Findings> differences_;  ///< where a chart counts and not its definition, by id
   bool compared_ = false;

@@ -7,7 +7,7 @@
 #include "cli/ChartState.h"
 #include "cli/Session.h"
 #include "cli/check/DefinitionCheck.h"
-#include "cli/check/SourceCheck.h"
+#include "cli/check/TableCheck.h"
 #include "common/CommonFunctions.h"
 #include "common/ErrorBlocks.h"
 #include "common/RunVariables.h"
@@ -19,31 +19,36 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// Why a chart is in its state, in sentences: what the check says of its definition.
-std::string ReasonOf(ChartState state, const std::string& id, const std::vector<CheckedDefinition>& checked) {
+/// What is wrong with a chart's definition and with the cells that it is drawn from, in the words of a
+/// refresh.
+Findings FindingsOf(const dom::IXMLDOMElement& chart, const std::vector<CheckedDefinition>& checked,
+                    xlsx::Workbook& book) {
+  const std::string id = GetAttributeText(chart, "id");
+  Findings findings;
+  for (const CheckedDefinition& definition : checked) {
+    if (definition.id == id && !definition.IsLost() && !definition.IsUnread()) findings = definition.findings;
+  }
+  Append(findings, CheckUsedCells(book, chart));
+  return findings;
+}
+
+/// Why a chart is in its state, in sentences.
+std::string ReasonOf(ChartState state, const Findings& findings) {
   if (state == ChartState::kOk) return {};
   // a chart that was never refreshed waits for that, whatever else is found
   std::string sentences = state == ChartState::kNotDrawn ? StateReason(state) : "";
-  for (const CheckedDefinition& definition : checked) {
-    if (definition.id != id) continue;
-    for (const Finding& finding : definition.findings)
-      sentences += (sentences.empty() ? "" : " ") + finding.sentence;
-  }
+  for (const Finding& finding : findings) sentences += (sentences.empty() ? "" : " ") + finding.sentence;
   return sentences.empty() ? StateReason(state) : sentences;
-}
-
-/// What makes the picture wrong, in the words of a refresh.
-Json FindingsOf(const dom::IXMLDOMElement& chart, xlsx::Workbook& book) {
-  Json list = Json::array();
-  for (const Finding& finding : CheckSources(book, chart, "")) {
-    list.push_back({{"place", finding.place}, {"sentence", finding.sentence}});
-  }
-  return list;
 }
 
 Json Describe(const dom::IXMLDOMElement& chart, const std::vector<CheckedDefinition>& checked,
               xlsx::Workbook& book) {
   const std::string id = GetAttributeText(chart, "id");
+  const Findings findings = FindingsOf(chart, checked, book);
+  Json list = Json::array();
+  for (const Finding& finding : findings) {
+    list.push_back({{"place", finding.place}, {"sentence", finding.sentence}});
+  }
   const ChartState state =
       StateOf(chart, ValueOr(excel::Ref<excel::Chart>(), [&] { return colChartObjects->Item(id); }));
   return {{"id", id},
@@ -54,8 +59,8 @@ Json Describe(const dom::IXMLDOMElement& chart, const std::vector<CheckedDefinit
           {"tableSheet", GetAttributeText(chart, "table-worksheet")},
           {"table", GetAttributeText(chart, "table-id")},
           {"state", StateName(state)},
-          {"reason", ReasonOf(state, id, checked)},
-          {"findings", FindingsOf(chart, book)}};
+          {"reason", ReasonOf(state, findings)},
+          {"findings", std::move(list)}};
 }
 
 /// Says which rows of the sheet of definitions are no charts, and why; false if there are none.

@@ -19,6 +19,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+constexpr const char* kNoDefinitions = "There are no definitions of charts.";
 constexpr const char* kNoTables =
     "There are no tables. To make one, call a sheet Data1, with headings in row 1 and data below them; or "
     "give "
@@ -29,11 +30,11 @@ constexpr const char* kNoTables =
 struct Report {
   std::vector<CheckedDefinition> definitions;
   std::vector<CheckedTable> tables;
-  std::string noDefinitions;  ///< says so, where there are none
+  Findings strayCharts;
 
   bool IsFine() const {
     const auto isFine = [](const auto& checked) { return checked.findings.empty(); };
-    return std::all_of(definitions.begin(), definitions.end(), isFine) &&
+    return strayCharts.empty() && std::all_of(definitions.begin(), definitions.end(), isFine) &&
            std::all_of(tables.begin(), tables.end(), isFine);
   }
 };
@@ -106,7 +107,10 @@ void Print(std::ostream& out, const CheckedTable& checked) {
 
 void Print(std::ostream& out, const Report& report) {
   for (const CheckedDefinition& definition : report.definitions) Print(out, definition);
-  if (report.definitions.empty()) out << "There are " << report.noDefinitions << ".\n";
+  if (report.definitions.empty()) out << kNoDefinitions << '\n';
+  for (const Finding& finding : report.strayCharts) {
+    out << "  " << finding.place << ": " << Foretold(finding) << '\n';
+  }
   for (const CheckedTable& table : report.tables) Print(out, table);
   if (report.tables.empty()) out << kNoTables << '\n';
 }
@@ -141,11 +145,9 @@ int CheckCommand::Run(const GlobalOptions& options, const Streams& streams) {
   Report report;
   try {
     session.LoadTables();
-    report = {CheckDefinitions(session.Book()), CheckTables(session.Book()), ""};
-    if (report.definitions.empty())
-      report.noDefinitions = NoDefinitions(session.Book());
-    else
-      CheckDrawn(session, report.definitions);
+    report = {CheckDefinitions(session.Book()), CheckTables(session.Book()), {}};
+    report.strayCharts = CheckStrayCharts(session.Book(), report.definitions);
+    if (!report.definitions.empty()) CheckDrawn(session, report.definitions);
   } catch (const runtime::RuntimeError&) {
     session.Finish();  // says what is damaged
     throw;
@@ -153,6 +155,7 @@ int CheckCommand::Run(const GlobalOptions& options, const Streams& streams) {
   const int code = session.Finish();
   if (json_) {
     const Json json = {{"definitions", DescribeAll(report.definitions)},
+                       {"strayCharts", Describe(report.strayCharts)},
                        {"tables", DescribeAll(report.tables)}};
     streams.out << json.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
   } else {

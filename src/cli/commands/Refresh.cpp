@@ -2,7 +2,6 @@
 
 #include "cli/Session.h"
 #include "cli/batch/Workers.h"
-#include "cli/check/DefinitionCheck.h"
 #include "controller/CPlotsmithController.h"
 
 namespace plotsmith::cli {
@@ -55,7 +54,7 @@ BookResult RefreshCommand::RefreshBook(const BookRun& run, const GlobalOptions& 
   if (session.ChartsStarted() > 0 || session.HasMessages()) return {code, counts};
   streams.err << "plotsmith: "
               << (table_ ? "no chart of \"" + run.book + "\" hangs on the table \"" + *table_ + "\""
-                         : "\"" + run.book + "\" has " + NoDefinitions(session.Book()))
+                         : "\"" + run.book + "\" has no charts of Plotsmith")
               << ", so nothing was refreshed.\n";
   return {exit_code::kSaidSomething, counts};
 }
