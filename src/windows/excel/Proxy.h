@@ -135,6 +135,9 @@ struct TakenAs<excel::Variant> {
 template <class T>
 using Taken = typename TakenAs<T>::Type;
 
+/// MsoTriState.
+inline constexpr std::int32_t kTrue = -1, kFalse = 0;
+
 /// Makes a proxy of the class P for Wrap.
 template <class P>
 std::shared_ptr<P> MakeProxy(com::ComPtr<IDispatch> object) {
