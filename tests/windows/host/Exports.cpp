@@ -36,7 +36,7 @@ class Factory final : public IClassFactory {
 HRESULT SetText(const std::wstring& key, const wchar_t* name, const std::wstring& text) {
   const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
   return HRESULT_FROM_WIN32(static_cast<DWORD>(
-      RegSetKeyValueW(HKEY_CURRENT_USER, (kClasses + key).c_str(), name, REG_SZ, text.c_str(), size)));
+      RegSetKeyValueW(HKEY_LOCAL_MACHINE, (kClasses + key).c_str(), name, REG_SZ, text.c_str(), size)));
 }
 
 }  // namespace
@@ -69,8 +69,8 @@ STDAPI DllRegisterServer() {
 }
 
 STDAPI DllUnregisterServer() {
-  RegDeleteTreeW(HKEY_CURRENT_USER, (kClasses + kProgId).c_str());
-  RegDeleteTreeW(HKEY_CURRENT_USER, (kClasses + L"CLSID\\" + kClassText).c_str());
+  RegDeleteTreeW(HKEY_LOCAL_MACHINE, (kClasses + kProgId).c_str());
+  RegDeleteTreeW(HKEY_LOCAL_MACHINE, (kClasses + L"CLSID\\" + kClassText).c_str());
   return S_OK;
 }
 }
