@@ -71,8 +71,10 @@ class Boxes final : public IDispatch {
   static std::string Text(const DISPPARAMS& sent, UINT position) {
     return CStr(com::FromVariant(Last(sent, position)));
   }
+  /// JScript's null is no object, too.
   static com::ComPtr<IDispatch> Object(const DISPPARAMS& sent, UINT position) {
-    return com::ObjectOf(Last(sent, position));
+    const VARIANT& object = Last(sent, position);
+    return object.vt == VT_NULL ? nullptr : com::ObjectOf(object);
   }
 
   std::atomic<ULONG> references_ = 1;
