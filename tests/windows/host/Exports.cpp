@@ -1,4 +1,5 @@
-// The library's entries for COM: one class, PlotsmithTestHost.Application, registered for all users, as Wine wants it.
+// The library's entries for COM: one class, PlotsmithTestHost.Application, registered for all users, as Wine
+// wants it.
 #include <array>
 #include <string>
 
