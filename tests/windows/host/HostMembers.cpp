@@ -122,8 +122,7 @@ void AddHostMembers(Table<excel::Application>& table) {
   table.Add({L"LiveObjects", DISPATCH_PROPERTYGET, 0, 0, nullptr, LiveObjects});
 }
 
-IDispatch* NewApplication() {
-  auto host = std::make_shared<Host>();
+IDispatch* NewApplication(HostPtr host) {
   const Ref<excel::Application> application(host->application);
   return new Dressed<excel::Application>(application, std::move(host));
 }
