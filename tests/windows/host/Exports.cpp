@@ -1,4 +1,5 @@
-// The library's entries for COM: one class, PlotsmithTestHost.Application, registered for the user.
+// The library's entries for COM: one class, PlotsmithTestHost.Application, registered for all users, as Wine
+// wants it.
 #include <array>
 #include <string>
 
@@ -32,7 +33,7 @@ class Factory final : public IClassFactory {
   HRESULT STDMETHODCALLTYPE LockServer(BOOL) noexcept override { return S_OK; }
 };
 
-/// Sets the default value, or another one, of a key of the user's classes.
+/// Sets the default value, or another one, of a key of the classes.
 HRESULT SetText(const std::wstring& key, const wchar_t* name, const std::wstring& text) {
   const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
   return HRESULT_FROM_WIN32(static_cast<DWORD>(
