@@ -66,10 +66,10 @@ script_checks() {
   } >"$work/$name.js"
   shift
   output=$(timeout 300 wine cscript //nologo "$(windows_path "$work/$name.js")" "$@" 2>/dev/null | tr -d '\r') || true
-  last=$(echo "$output" | tail -n 1)
+  last=$(printf '%s\n' "$output" | tail -n 1)
   case $last in
     *" passed, "*" failed")
-      echo "$output" | sed '$d'
+      printf '%s\n' "$output" | sed '$d'
       passed=$((passed + ${last%% *}))
       failed=$((failed + $(echo "$last" | cut -d ' ' -f 3)))
       ;;

@@ -5,7 +5,8 @@ cd "$(dirname "$0")/../.."
 
 new_prefix "$root/build/wine-server"
 register "$windows/Plotsmith.dll" "$windows/PlotsmithTestHost.dll" "$windows/PlotsmithTestBoxes.dll"
-for script in tests/windows/server/*.js; do
+# Usage: tests/windows/run-server.sh [SCRIPT]...
+for script in ${*:-tests/windows/server/*.js}; do
   script_checks "$script" "$(windows_path "$work")" "$(windows_path "$root/examples")"
 done
 finish
