@@ -33,7 +33,7 @@ operations() {
 # The DLL of a preset is as it should be: PRESET FORMAT.
 look_at() {
   library=$root/build-$1/Plotsmith.dll
-  objdump -p "$library" | sed -n '/Name Pointer/,$s/^\t\[ *[0-9]*\] \(.*\)$/\1/p' >"$work/exports"
+  objdump -p "$library" | sed -n 's/^\t\[ *[0-9]*\] \(Dll.*\)$/\1/p' >"$work/exports"
   same_file "$1: exports" "$work/exports" "$work/expected-exports"
   objdump -p "$library" | sed -n 's/^\tDLL Name: //p' | LC_ALL=C sort >"$work/imports"
   same_file "$1: libraries that it needs" "$work/imports" "$work/expected-imports"
