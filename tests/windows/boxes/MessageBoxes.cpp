@@ -52,9 +52,10 @@ BOOL CALLBACK Look(HWND child, LPARAM content) {
 void Remember(HWND window) {
   Content content;
   EnumChildWindows(window, Look, reinterpret_cast<LPARAM>(&content));
+  const HWND owner = GetWindow(window, GW_OWNER);
   const std::string text = runtime::Replace(runtime::Replace(content.text, "\r", "\\r"), "\n", "\\n");
   taken += (taken.empty() ? "" : "\n") + TextOf(window) + " [" + (content.hasIcon ? "critical " : "") +
-           content.buttons + "]: " + text;
+           content.buttons + "]" + (owner == nullptr ? "" : " of " + TextOf(owner)) + ": " + text;
 }
 
 /// A box has its texts only when it handles messages, so it is answered by one.
