@@ -2,7 +2,7 @@
 # What the port answers directly and through COM, and the conversions between the language and Automation.
 cd "$(dirname "$0")/../.."
 . tests/windows/lib.sh
-new_prefix "$work/wine"
+new_prefix
 code=0
 wine "$windows/plotsmith_windows_tests.exe" --gtest_brief=1 >"$work/said.txt" 2>&1 || code=$?
 tr -d '\r' <"$work/said.txt" | sed -n 's/^\[  PASSED  \] \([0-9]*\) test.*/\1/p' >"$work/passed.txt"

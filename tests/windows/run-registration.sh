@@ -4,7 +4,7 @@
 cd "$(dirname "$0")/../.."
 . tests/windows/lib.sh
 
-new_prefix "$root/build/wine-registration"
+new_prefix
 folder="$work/Plötsmith für Excel"
 mkdir -p "$folder"
 cp "$windows/Plotsmith.dll" "$folder"

@@ -3,7 +3,7 @@
 cd "$(dirname "$0")/../.."
 . tests/windows/lib.sh
 
-new_prefix "$root/build/wine-server"
+new_prefix
 register "$windows/Plotsmith.dll" "$windows/PlotsmithTestHost.dll" "$windows/PlotsmithTestBoxes.dll"
 # Usage: tests/windows/run-server.sh [SCRIPT]...
 for script in ${*:-tests/windows/server/*.js}; do
