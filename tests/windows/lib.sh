@@ -65,11 +65,12 @@ run_script() {
   wine cscript //nologo "$@" 2>/dev/null | tr -d '\r'
 }
 
-# Runs a script that checks by itself, with what tests/windows/check.js has: SCRIPT ARGUMENT...
+# Runs a script that checks by itself, with what tests/windows/check.js and the host add-in of the examples have:
+# SCRIPT ARGUMENT...
 script_checks() {
   name=$(basename "$1" .js)
   {
-    cat tests/windows/check.js
+    cat tests/windows/check.js examples/excel/plotsmith.js
     echo 'try {'
     cat "$1"
     echo '} catch (error) { WScript.Echo("0x" + (error.number >>> 0).toString(16) + " " + error.message); }'
