@@ -28,12 +28,13 @@ const std::map<std::string, std::set<std::string>> kAllowed = {
     {"pages", {"runtime", "dom", "forms", "host", "common", "metadata"}},
     {"controller", {"runtime", "dom", "forms", "host", "common", "metadata", "builder", "pages"}},
     {"xlsx", {"runtime", "dom", "host"}},
+    {"render", {"runtime", "host", "xlsx"}},
     {"cli",
      {"runtime", "dom", "forms", "host", "common", "metadata", "builder", "readback", "pages", "controller",
-      "xlsx"}},
+      "xlsx", "render"}},
     {"qt",
      {"runtime", "dom", "forms", "host", "common", "metadata", "builder", "readback", "pages", "controller",
-      "xlsx", "cli"}},
+      "xlsx", "render", "cli"}},
 };
 
 /// The rooms and the folders of its own that each folder of the windows may look into, itself not counted.

@@ -31,20 +31,6 @@ constexpr std::int32_t kWidestGap = 500;  // percent of a column's width
 
 std::string Self() { return "Chart"; }
 
-/// The title that the chart shows; nothing if it shows none. A chart of one series is titled by its name
-/// without a title of its own, as long as nobody took that away.
-std::optional<std::string> ShownTitle(ChartPart& part) {
-  const auto title = xml::Child(part.Chart(), "title");
-  if (title && xml::Child(title, "tx")) return TitleText(title);
-  if (!title && schema::BooleanVal(part.Chart(), "autoTitleDeleted", false)) return std::nullopt;
-  const auto series = SeriesOf(part);
-  if (series.size() == 1) {
-    const std::string name = SeriesName(series[0]);
-    if (title || !name.empty()) return name.empty() ? "Chart Title" : name;
-  }
-  return title ? std::optional<std::string>("Chart Title") : std::nullopt;
-}
-
 pugi::xml_node EnsureTitle(ChartPart& part) {
   if (const auto title = xml::Child(part.Chart(), "title")) return title;
   const pugi::xml_node title = schema::Ensure(part.Chart(), "title");

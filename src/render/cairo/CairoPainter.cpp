@@ -1,0 +1,163 @@
+#include "render/cairo/CairoPainter.h"
+
+#include <cairo-pdf.h>
+#include <cairo.h>
+#include <cmath>
+#include <memory>
+#include <numbers>
+#include <stdexcept>
+
+#include "render/cairo/CairoPaint.h"
+
+namespace plotsmith::render {
+namespace {
+
+struct DestroySurface {
+  void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
+};
+struct DestroyContext {
+  void operator()(cairo_t* cr) const { cairo_destroy(cr); }
+};
+using Surface = std::unique_ptr<cairo_surface_t, DestroySurface>;
+using Context = std::unique_ptr<cairo_t, DestroyContext>;
+
+cairo_status_t Append(void* bytes, const unsigned char* data, unsigned length) {
+  static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);
+  return CAIRO_STATUS_SUCCESS;
+}
+
+void Trace(cairo_t* cr, const Path& path) {
+  cairo_new_path(cr);
+  for (const PathStep& step : path.Steps()) {
+    switch (step.kind) {
+      case PathStep::Kind::kMove:
+        cairo_move_to(cr, step.to.x, step.to.y);
+        break;
+      case PathStep::Kind::kLine:
+        cairo_line_to(cr, step.to.x, step.to.y);
+        break;
+      case PathStep::Kind::kCurve:
+        cairo_curve_to(cr, step.control1.x, step.control1.y, step.control2.x, step.control2.y, step.to.x,
+                       step.to.y);
+        break;
+      case PathStep::Kind::kClose:
+        cairo_close_path(cr);
+        break;
+    }
+  }
+}
+
+void SetStroke(cairo_t* cr, const Stroke& stroke) {
+  SetSource(cr, SolidFill{stroke.color}, {});
+  cairo_set_line_width(cr, stroke.width);
+  cairo_set_dash(cr, stroke.dashes.data(), static_cast<int>(stroke.dashes.size()), 0);
+  cairo_set_line_cap(cr, stroke.cap == LineCap::kRound    ? CAIRO_LINE_CAP_ROUND
+                         : stroke.cap == LineCap::kSquare ? CAIRO_LINE_CAP_SQUARE
+                                                          : CAIRO_LINE_CAP_BUTT);
+  cairo_set_line_join(cr, stroke.join == LineJoin::kRound   ? CAIRO_LINE_JOIN_ROUND
+                          : stroke.join == LineJoin::kBevel ? CAIRO_LINE_JOIN_BEVEL
+                                                            : CAIRO_LINE_JOIN_MITER);
+}
+
+class Painter {
+ public:
+  Painter(cairo_t* cr, const Fonts& fonts) : cr_(cr), fonts_(fonts) {}
+  ~Painter() {
+    for (; clips_ > 0; --clips_) cairo_restore(cr_);
+  }
+  Painter(const Painter&) = delete;
+  Painter& operator=(const Painter&) = delete;
+
+  void operator()(const PathItem& item) {
+    Trace(cr_, item.path);
+    if (SetSource(cr_, item.fill, item.path.Bounds())) cairo_fill_preserve(cr_);
+    if (item.stroke.width > 0) {
+      SetStroke(cr_, item.stroke);
+      cairo_stroke_preserve(cr_);
+    }
+    cairo_new_path(cr_);
+  }
+  void operator()(const TextItem& item) {
+    cairo_save(cr_);
+    cairo_translate(cr_, item.anchor.x, item.anchor.y);
+    if (item.rotation != 0) cairo_rotate(cr_, item.rotation * std::numbers::pi / 180);
+    if (item.align != TextAlign::kStart) {
+      cairo_translate(cr_, item.align == TextAlign::kMiddle ? -item.width / 2 : -item.width, 0);
+    }
+    SetSource(cr_, SolidFill{item.color}, {});
+    fonts_.Show(cr_, item.text, item.font);
+    cairo_restore(cr_);
+  }
+  void operator()(const PushClip& clip) {
+    cairo_save(cr_);
+    ++clips_;
+    Trace(cr_, clip.path);
+    cairo_clip(cr_);
+  }
+  void operator()(const PopClip&) {
+    if (clips_ == 0) return;
+    --clips_;
+    cairo_restore(cr_);
+  }
+  void operator()(const ImageItem&) {}
+
+ private:
+  cairo_t* cr_;
+  const Fonts& fonts_;
+  int clips_ = 0;
+};
+
+void Check(cairo_status_t status) {
+  if (status == CAIRO_STATUS_NO_MEMORY) throw std::bad_alloc();
+  if (status != CAIRO_STATUS_SUCCESS) throw std::runtime_error(cairo_status_to_string(status));
+}
+
+}  // namespace
+
+void Paint(cairo_t* cr, const Drawing& drawing, const Fonts& fonts) {
+  cairo_set_miter_limit(cr, 4);
+  Painter painter(cr, fonts);
+  for (const Item& item : drawing.items) std::visit(painter, item.content);
+}
+
+std::string MakePng(const Drawing& drawing, const Fonts& fonts, double dpi) {
+  constexpr double kMostPixels = 1e8;
+  const double scale = dpi / 72;
+  const double width = std::round(drawing.width * scale), height = std::round(drawing.height * scale);
+  if (!(width >= 1 && height >= 1 && width <= 32767 && height <= 32767 && width * height <= kMostPixels)) {
+    throw std::length_error("A picture of this size can't be made.");
+  }
+  const Surface surface(
+      cairo_image_surface_create(CAIRO_FORMAT_RGB24, static_cast<int>(width), static_cast<int>(height)));
+  const Context cr(cairo_create(surface.get()));
+  cairo_set_source_rgb(cr.get(), 1, 1, 1);
+  cairo_paint(cr.get());
+  cairo_scale(cr.get(), width / drawing.width, height / drawing.height);
+  Paint(cr.get(), drawing, fonts);
+  Check(cairo_status(cr.get()));
+  std::string bytes;
+  Check(cairo_surface_write_to_png_stream(surface.get(), Append, &bytes));
+  return bytes;
+}
+
+std::string MakePdf(std::span<const Drawing> pages, const Fonts& fonts) {
+  std::string bytes;
+  const Surface surface(cairo_pdf_surface_create_for_stream(Append, &bytes, 1, 1));
+  // a moment that never changes, so that the same drawings give the same bytes
+  cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_CREATE_DATE, "2000-01-01T00:00:00Z");
+  if (!pages.empty()) {
+    cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_TITLE, pages.front().title.c_str());
+  }
+  for (const Drawing& page : pages) {
+    cairo_pdf_surface_set_size(surface.get(), page.width, page.height);
+    const Context cr(cairo_create(surface.get()));
+    Paint(cr.get(), page, fonts);
+    Check(cairo_status(cr.get()));
+    cairo_show_page(cr.get());
+  }
+  cairo_surface_finish(surface.get());
+  Check(cairo_surface_status(surface.get()));
+  return bytes;
+}
+
+}  // namespace plotsmith::render
