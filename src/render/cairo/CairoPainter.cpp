@@ -3,6 +3,7 @@
 #include <cairo-pdf.h>
 #include <cairo.h>
 #include <cmath>
+#include <cstring>
 #include <memory>
 #include <numbers>
 #include <stdexcept>
@@ -120,14 +121,17 @@ void Paint(cairo_t* cr, const Drawing& drawing, const Fonts& fonts) {
   for (const Item& item : drawing.items) std::visit(painter, item.content);
 }
 
-std::string MakePng(const Drawing& drawing, const Fonts& fonts, double dpi) {
+namespace {
+
+/// The drawing on a white ground.
+Surface PaintImage(const Drawing& drawing, const Fonts& fonts, double dpi) {
   constexpr double kMostPixels = 1e8;
   const double scale = dpi / 72;
   const double width = std::round(drawing.width * scale), height = std::round(drawing.height * scale);
   if (!(width >= 1 && height >= 1 && width <= 32767 && height <= 32767 && width * height <= kMostPixels)) {
     throw std::length_error("A picture of this size can't be made.");
   }
-  const Surface surface(
+  Surface surface(
       cairo_image_surface_create(CAIRO_FORMAT_RGB24, static_cast<int>(width), static_cast<int>(height)));
   const Context cr(cairo_create(surface.get()));
   cairo_set_source_rgb(cr.get(), 1, 1, 1);
@@ -135,9 +139,30 @@ std::string MakePng(const Drawing& drawing, const Fonts& fonts, double dpi) {
   cairo_scale(cr.get(), width / drawing.width, height / drawing.height);
   Paint(cr.get(), drawing, fonts);
   Check(cairo_status(cr.get()));
+  return surface;
+}
+
+}  // namespace
+
+std::string MakePng(const Drawing& drawing, const Fonts& fonts, double dpi) {
+  const Surface surface = PaintImage(drawing, fonts, dpi);
   std::string bytes;
   Check(cairo_surface_write_to_png_stream(surface.get(), Append, &bytes));
   return bytes;
+}
+
+Pixels MakePixels(const Drawing& drawing, const Fonts& fonts, double dpi) {
+  const Surface surface = PaintImage(drawing, fonts, dpi);
+  cairo_surface_flush(surface.get());
+  Pixels pixels{
+      cairo_image_surface_get_width(surface.get()), cairo_image_surface_get_height(surface.get()), {}};
+  const auto width = static_cast<std::size_t>(pixels.width);
+  const auto stride = static_cast<std::size_t>(cairo_image_surface_get_stride(surface.get()));
+  const unsigned char* row = cairo_image_surface_get_data(surface.get());
+  pixels.values.resize(width * static_cast<std::size_t>(pixels.height));
+  for (std::size_t at = 0; at < pixels.values.size(); at += width, row += stride)
+    std::memcpy(pixels.values.data() + at, row, width * sizeof(std::uint32_t));
+  return pixels;
 }
 
 std::string MakePdf(std::span<const Drawing> pages, const Fonts& fonts) {
