@@ -10,6 +10,7 @@
 #include "xlsx/chart/ChartAreas.h"
 #include "xlsx/chart/ChartDrawing.h"
 #include "xlsx/chart/ChartEnumerations.h"
+#include "xlsx/chart/ChartGeometry.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/ChartTypes.h"
@@ -168,5 +169,7 @@ Ref<excel::ChartArea> Chart::ChartArea() { return MakeChartArea(part_, frame_); 
 Ref<excel::PlotArea> Chart::PlotArea() { return MakePlotArea(part_, frame_); }
 
 Ref<excel::Shapes> Chart::Shapes() { return MakeChartShapes(part_, frame_); }
+
+Frame Chart::Size() const { return ChartSize(frame_); }
 
 }  // namespace plotsmith::xlsx
