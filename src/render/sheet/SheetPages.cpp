@@ -34,6 +34,7 @@ Drawing EmptyPage(const xlsx::PageSetup& setup, const std::string& title) {
 void NoteMissing(const xlsx::Workbook& book, const xlsx::SheetEntry& sheet, const xlsx::PageSetup& setup,
                  Notes& notes) {
   if (setup.hasHeaderOrFooter) notes.emplace_back("headers and footers aren't drawn.");
+  if (setup.hasConditionalFormats) notes.emplace_back("conditional formats of cells aren't drawn.");
   if (setup.headings) notes.emplace_back("the letters of columns and the numbers of rows aren't drawn.");
   const auto& sheets = book.AllSheets();
   const bool hasTitles =

@@ -113,6 +113,8 @@ PageSetup ReadPageSetup(Archive::Stream& part) {
       ReadPaper(tag.attributes, setup);
     } else if (tag.name == "headerFooter") {
       setup.hasHeaderOrFooter = tag.kind == XmlStream::Kind::kStart;
+    } else if (tag.name == "conditionalFormatting") {
+      setup.hasConditionalFormats = true;
     } else if (tag.name == "rowBreaks" || tag.name == "colBreaks") {
       const bool rows = tag.name == "rowBreaks";
       breaks = rows ? &setup.rowBreaks : &setup.columnBreaks;

@@ -20,6 +20,7 @@ struct PageSetup {
   /// Rows and columns that a page ends with because somebody wants it, in ascending order, from 1.
   std::vector<std::int32_t> rowBreaks, columnBreaks;
   bool hasHeaderOrFooter = false;
+  bool hasConditionalFormats = false;  ///< which change the look of cells
 
   bool operator==(const PageSetup&) const = default;
 };

@@ -39,8 +39,8 @@ TEST(PageSetupTest, TellsHowTheSheetIsPrinted) {
        {.fits = true, .fitWidth = 2, .fitHeight = 0, .hasHeaderOrFooter = true}},
       {"",
        "<rowBreaks><brk id=\"40\" man=\"1\"/><brk id=\"20\"/><brk id=\"40\"/><brk id=\"0\"/></rowBreaks>"
-       "<colBreaks><brk id=\"5\"/><brk id=\"16384\"/></colBreaks><headerFooter/>",
-       {.rowBreaks = {20, 40}, .columnBreaks = {5}}},
+       "<colBreaks><brk id=\"5\"/><brk id=\"16384\"/></colBreaks><headerFooter/><conditionalFormatting/>",
+       {.rowBreaks = {20, 40}, .columnBreaks = {5}, .hasConditionalFormats = true}},
       // out of all ranges, and papers that nobody knows
       {"",
        "<pageMargins left=\"-1\" right=\"nan\"/><pageSetup paperSize=\"77\" scale=\"-3\" fitToWidth=\"-1\" "
