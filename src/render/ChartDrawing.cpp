@@ -3,6 +3,7 @@
 #include "render/Canvas.h"
 #include "render/families/Plot.h"
 #include "render/model/ChartReader.h"
+#include "render/threed/Pie3D.h"
 #include "render/threed/Plot3D.h"
 #include "xlsx/chart/ChartGeometry.h"
 #include "xlsx/chart/ChartPart.h"
@@ -29,6 +30,10 @@ Drawing DrawChart(xlsx::ChartPart& part, double width, double height, const Text
   const xlsx::Frame frame = xlsx::PlotAreaFrame(part, {0, 0, width, height});
   Plot plot{chart, {frame.left, frame.top, frame.width, frame.height}, canvas};
   if (chart.Is3D() && DrawPlot3D(part, plot)) return drawing;
+  if (!chart.groups.empty() && chart.groups.front().family == Family::kPie && chart.groups.front().is3D) {
+    DrawPie3D(part, plot, chart.groups.front());
+    return drawing;
+  }
   canvas.Add({Role::kPlotArea}, Path().AddRect(plot.area), chart.plotArea.fill, chart.plotArea.stroke);
   canvas.PushClip(Path().AddRect(plot.area));
   for (const GroupModel& group : chart.groups) {

@@ -46,6 +46,14 @@ Fill Lit(const Fill& fill, double light) {
   return lit;
 }
 
+Stroke SeamOf(const Fill& fill) {
+  constexpr double kWidth = 0.3;  // points
+  Stroke seam;
+  seam.color = MainColor(fill);
+  if (seam.color.alpha == 1 && !std::holds_alternative<PatternFill>(fill)) seam.width = kWidth;
+  return seam;
+}
+
 Color MainColor(const Fill& fill) {
   if (const auto* solid = std::get_if<SolidFill>(&fill)) return solid->color;
   if (const auto* pattern = std::get_if<PatternFill>(&fill)) return pattern->background;

@@ -10,23 +10,9 @@ namespace plotsmith::render {
 namespace {
 
 constexpr std::size_t kRingCorners = 32;
-/// Neighbouring faces would show a hairline of what is behind them where their edges are smoothed.
-constexpr double kSeam = 0.3;
-
-/// The line around a face: its own, or one that closes the seam.
-Stroke EdgeOf(const Look& look, const Fill& lit) {
-  if (look.stroke.width > 0) return look.stroke;
-  const auto* solid = std::get_if<SolidFill>(&lit);
-  if (solid == nullptr || solid->color.alpha < 1) return {};
-  Stroke seam;
-  seam.color = solid->color;
-  seam.width = kSeam;
-  return seam;
-}
-
 void AddPolygon(Canvas& canvas, const std::vector<Point>& corners, Tag tag, const Fill& lit,
                 const Look& look) {
-  canvas.Add(tag, Path().AddPolygon(corners), lit, EdgeOf(look, lit));
+  canvas.Add(tag, Path().AddPolygon(corners), lit, look.stroke.width > 0 ? look.stroke : SeamOf(lit));
 }
 
 std::vector<Point> Projected(const Projection& projection, const Face& face) {
