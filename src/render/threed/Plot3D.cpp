@@ -4,6 +4,7 @@
 
 #include "render/threed/Areas3D.h"
 #include "render/threed/Bars3D.h"
+#include "render/threed/Pie3D.h"
 #include "render/threed/StageAxes.h"
 #include "render/threed/Walls.h"
 #include "xlsx/chart/ChartPart.h"
@@ -12,12 +13,13 @@
 namespace plotsmith::render {
 namespace {
 
-/// The first group that stands in a box. Excel doesn't mix groups in 3-D.
+/// The first group that is drawn as bodies. Excel doesn't mix groups in 3-D.
 const GroupModel* FindGroup(const ChartModel& chart) {
   for (const GroupModel& group : chart.groups) {
-    const bool drawn =
+    const bool boxed =
         group.family == Family::kBar || group.family == Family::kArea || group.family == Family::kLine;
-    if (group.is3D && drawn && group.category >= 0 && group.value >= 0) return &group;
+    const bool hasAxes = group.category >= 0 && group.value >= 0;
+    if (group.is3D && (group.family == Family::kPie || (boxed && hasAxes))) return &group;
   }
   return nullptr;
 }
@@ -42,14 +44,18 @@ Projection FitWithLabels(const Stage& stage, const StageAxes& axes, const View& 
 
 }  // namespace
 
-bool DrawPlot3D(xlsx::ChartPart& part, Plot& plot) {
+bool DrawPlot3D(xlsx::ChartPart& part, Plot& plot, const Rect& outer) {
   const GroupModel* group = FindGroup(plot.chart);
   if (group == nullptr) return false;
   if (plot.chart.groups.size() > 1) plot.canvas.Note("Only the first group of a chart in 3-D is drawn.");
+  if (group->family == Family::kPie) {
+    DrawPie3D(part, plot, *group);
+    return true;
+  }
   const View view = ReadView(xlsx::xml::Child(part.Space(), "chart"), false);
   const Stage stage(plot.chart, *group);
   const StageAxes axes(stage, plot.canvas.Measure(), plot.chart.dates);
-  const Projection projection = FitWithLabels(stage, axes, view, plot.area);
+  const Projection projection = FitWithLabels(stage, axes, view, outer);
   DrawWalls(plot.canvas, stage, projection, ReadWalls(part), plot.chart.dates);
   if (group->family == Family::kBar) DrawBars3D(plot, stage, projection);
   if (group->family == Family::kArea) DrawAreas3D(plot.canvas, stage, projection);
