@@ -44,6 +44,7 @@ void DrawBars(Plot& plot, const GroupModel& group) {
   const BarSlots slots = SlotsOf(group, categories.CategoryWidth());
   const double direction = categories.High() < categories.Low() ? -1 : 1;
   const Extents extents = StackValues(group);
+  plot.canvas.PushClip(Path().AddRect(plot.area));
   for (std::size_t s = 0; s < group.series.size(); ++s) {
     const SeriesModel& series = group.series[s];
     const double slot = group.IsStacked() ? 0 : static_cast<double>(s);
@@ -63,6 +64,7 @@ void DrawBars(Plot& plot, const GroupModel& group) {
       plot.points.push_back({&group, &series, i, box, negative});
     }
   }
+  plot.canvas.PopClip();
 }
 
 }  // namespace plotsmith::render

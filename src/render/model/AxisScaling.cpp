@@ -71,7 +71,22 @@ void MakeSound(AxisModel& axis) {
   }
 }
 
+void Rescale(AxisModel& axis, const xlsx::AxisSettings& settings) {
+  axis.scale =
+      axis.least ? xlsx::ScaleAxis(*axis.least, *axis.greatest, settings) : xlsx::ScaleEmptyAxis(settings);
+  MakeSound(axis);
+}
+
 }  // namespace
+
+void CoarsenScale(AxisModel& axis) {
+  const double unit = axis.scale.majorUnit;
+  const double power = std::pow(10, std::floor(std::log10(unit) + 1e-9));
+  const double leading = unit / power;
+  xlsx::AxisSettings settings = axis.settings;
+  settings.majorUnit = power * (leading < 1.5 ? 2 : leading < 3 ? 5 : 10);
+  Rescale(axis, settings);
+}
 
 void ScaleAxes(ChartModel& chart) {
   for (std::size_t i = 0; i < chart.axes.size(); ++i) {
@@ -86,12 +101,12 @@ void ScaleAxes(ChartModel& chart) {
       AddGroup(group, isX, extent);
     }
     const auto scaling = xml::Child(axis.node, "scaling");
-    xlsx::AxisSettings settings{Limit(scaling, "min"), Limit(scaling, "max"),
-                                schema::NumberVal(axis.node, "majorUnit"), axis.logBase, headroom};
-    if (!(settings.majorUnit.value_or(1) > 0)) settings.majorUnit.reset();
-    axis.scale = extent.least ? xlsx::ScaleAxis(*extent.least, *extent.greatest, settings)
-                              : xlsx::ScaleEmptyAxis(settings);
-    MakeSound(axis);
+    axis.settings = {Limit(scaling, "min"), Limit(scaling, "max"), schema::NumberVal(axis.node, "majorUnit"),
+                     axis.logBase, headroom};
+    if (!(axis.settings.majorUnit.value_or(1) > 0)) axis.settings.majorUnit.reset();
+    axis.least = extent.least;
+    axis.greatest = extent.greatest;
+    Rescale(axis, axis.settings);
   }
 }
 

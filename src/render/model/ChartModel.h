@@ -140,6 +140,7 @@ struct GroupModel {
   bool is3D = false;
   bool horizontal = false;  ///< bars
   bool varyColors = false;
+  bool markersOnly = false;            ///< a scatter chart without lines
   double gapWidth = 150, overlap = 0;  ///< percent
   double firstSliceAngle = 0;          ///< degrees clockwise from twelve o'clock
   double holeSize = 10;                ///< percent
@@ -175,7 +176,9 @@ struct AxisModel {
   bool hidden = false;
   bool reversed = false;
   std::optional<double> logBase;
-  xlsx::AxisScale scale;  ///< of an axis of values
+  xlsx::AxisScale scale;                  ///< of an axis of values
+  xlsx::AxisSettings settings;            ///< what of the scale is set by hand
+  std::optional<double> least, greatest;  ///< of the data along an axis of values
   std::optional<double> minorUnit;
   FormatPointer format;
   std::string tickLabels = "nextTo";                    ///< ST_TickLblPos

@@ -48,6 +48,8 @@ TitleModel ReadTitle(ReadingContext& context, pugi::xml_node title, xlsx::TextRo
 std::optional<LegendModel> ReadLegend(ReadingContext& context);
 /// Scales the axes of values by the data of their groups.
 void ScaleAxes(ChartModel& chart);
+/// Gives an axis the next larger major unit of 1, 2, 5, 10, ...
+void CoarsenScale(AxisModel& axis);
 
 /// The numbers of a series' data (c:val, c:xVal, ...), one for each point, NaN where there is none.
 std::vector<double> ReadNumbers(ReadingContext& context, pugi::xml_node data);

@@ -72,10 +72,10 @@ std::vector<double> DashesOf(std::string_view name, double width) {
   return lengths;
 }
 
-Fill ReadGradient(xlsx::ChartPart& part, pugi::xml_node fill, const Fill& automatic) {
+Fill ReadGradient(const Palette& palette, pugi::xml_node fill, const Fill& automatic) {
   GradientFill gradient;
   for (const pugi::xml_node& stop : xml::Children(xml::Child(fill, "gsLst"), "gs")) {
-    if (const auto color = ReadColor(part, stop)) {
+    if (const auto color = ReadColor(palette, stop)) {
       gradient.stops.push_back({std::clamp(FractionOf(stop, "pos", 0), 0.0, 1.0), *color});
     }
   }
@@ -114,33 +114,39 @@ void ReadRotation(pugi::xml_node body, std::optional<double>& rotation, bool& st
 
 }  // namespace
 
-std::optional<Color> ReadColor(xlsx::ChartPart& part, pugi::xml_node holder) {
-  const auto color = part.Color(holder);
+std::optional<std::int32_t> Palette::Color(pugi::xml_node holder) const {
+  return part_ != nullptr ? part_->Color(holder) : theme_->Color(holder);
+}
+
+const xlsx::Theme& Palette::Theme() const { return part_ != nullptr ? part_->Theme() : *theme_; }
+
+std::optional<Color> ReadColor(const Palette& palette, pugi::xml_node holder) {
+  const auto color = palette.Color(holder);
   if (!color) return std::nullopt;
   return FromExcel(*color, AlphaOf(holder));
 }
 
-Fill ReadFill(xlsx::ChartPart& part, pugi::xml_node fill, const Fill& automatic) {
+Fill ReadFill(const Palette& palette, pugi::xml_node fill, const Fill& automatic) {
   const std::string_view kind = xml::LocalName(fill);
   if (kind == "noFill") return {};
   if (kind == "solidFill") {
-    const auto color = ReadColor(part, fill);
+    const auto color = ReadColor(palette, fill);
     return color ? Fill(SolidFill{*color}) : automatic;
   }
-  if (kind == "gradFill") return ReadGradient(part, fill, automatic);
+  if (kind == "gradFill") return ReadGradient(palette, fill, automatic);
   if (kind == "pattFill") {
-    const auto foreground = ReadColor(part, xml::Child(fill, "fgClr"));
-    const auto background = ReadColor(part, xml::Child(fill, "bgClr"));
+    const auto foreground = ReadColor(palette, xml::Child(fill, "fgClr"));
+    const auto background = ReadColor(palette, xml::Child(fill, "bgClr"));
     return PatternFill{xml::Attribute(fill, "prst", "pct50"), foreground.value_or(Color{0, 0, 0, 1}),
                        background.value_or(Color{255, 255, 255, 1})};
   }
   return automatic;
 }
 
-Stroke ReadStroke(xlsx::ChartPart& part, pugi::xml_node line, const Stroke& automatic) {
+Stroke ReadStroke(const Palette& palette, pugi::xml_node line, const Stroke& automatic) {
   Stroke stroke = automatic;
   if (!line) return stroke;
-  const Fill fill = ReadFill(part, xlsx::FindFill(line), Fill());
+  const Fill fill = ReadFill(palette, xlsx::FindFill(line), Fill());
   if (const auto* solid = std::get_if<SolidFill>(&fill)) {
     stroke.color = solid->color;
     if (!(stroke.width > 0)) stroke.width = kHairline;
@@ -169,9 +175,9 @@ Stroke ReadStroke(xlsx::ChartPart& part, pugi::xml_node line, const Stroke& auto
   return stroke;
 }
 
-ShapeStyle ReadStyle(xlsx::ChartPart& part, pugi::xml_node properties, const ShapeStyle& automatic) {
-  return {ReadFill(part, xlsx::FindFill(properties), automatic.fill),
-          ReadStroke(part, xml::Child(properties, "ln"), automatic.stroke)};
+ShapeStyle ReadStyle(const Palette& palette, pugi::xml_node properties, const ShapeStyle& automatic) {
+  return {ReadFill(palette, xlsx::FindFill(properties), automatic.fill),
+          ReadStroke(palette, xml::Child(properties, "ln"), automatic.stroke)};
 }
 
 TextStyle ReadTextStyle(xlsx::ChartPart& part, pugi::xml_node element, xlsx::TextRole role) {
