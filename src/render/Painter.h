@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "render/Drawing.h"
-#include "render/Pixels.h"
+#include "render/Raster.h"
 #include "render/TextMeasure.h"
 
 namespace plotsmith::render {
@@ -18,7 +18,7 @@ class Painter {
   virtual const TextMeasure& Measure() const = 0;
   /// On a white ground; `scale` is pixels for a point. A picture of more than a hundred million pixels, or of
   /// none, is a std::length_error.
-  virtual Pixels Rasterize(const Drawing& drawing, double scale) const = 0;
+  virtual Raster Rasterize(const Drawing& drawing, double scale) const = 0;
   virtual std::string Png(const Drawing& drawing, double scale) const = 0;
   /// A page for each drawing, of its size.
   virtual std::string Pdf(const std::vector<Drawing>& pages) const = 0;

@@ -29,7 +29,7 @@ const render::Painter* FindPainter() {
   return painter;
 }
 
-QImage ImageOf(const render::Pixels& pixels) {
+QImage ImageOf(const render::Raster& pixels) {
   QImage image(pixels.width, pixels.height, QImage::Format_RGB32);
   const auto width = static_cast<std::size_t>(pixels.width);
   for (int row = 0; row < pixels.height; ++row) {

@@ -3,12 +3,12 @@
 #include <cairo-pdf.h>
 #include <cairo.h>
 #include <cmath>
-#include <cstring>
 #include <memory>
 #include <numbers>
 #include <stdexcept>
 
 #include "render/cairo/CairoPaint.h"
+#include "render/cairo/PngWriter.h"
 
 namespace plotsmith::render {
 namespace {
@@ -139,30 +139,35 @@ Surface PaintImage(const Drawing& drawing, const Fonts& fonts, double dpi) {
   cairo_scale(cr.get(), width / drawing.width, height / drawing.height);
   Paint(cr.get(), drawing, fonts);
   Check(cairo_status(cr.get()));
+  cairo_surface_flush(surface.get());
   return surface;
+}
+
+/// The pixels of an image that was painted.
+Pixels PixelsOf(cairo_surface_t* image) {
+  return {reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(image)),
+          static_cast<std::size_t>(cairo_image_surface_get_width(image)),
+          static_cast<std::size_t>(cairo_image_surface_get_height(image)),
+          static_cast<std::size_t>(cairo_image_surface_get_stride(image)) / sizeof(std::uint32_t)};
 }
 
 }  // namespace
 
 std::string MakePng(const Drawing& drawing, const Fonts& fonts, double dpi) {
   const Surface surface = PaintImage(drawing, fonts, dpi);
-  std::string bytes;
-  Check(cairo_surface_write_to_png_stream(surface.get(), Append, &bytes));
-  return bytes;
+  return EncodePng(PixelsOf(surface.get()), dpi);
 }
 
-Pixels MakePixels(const Drawing& drawing, const Fonts& fonts, double dpi) {
+Raster MakeRaster(const Drawing& drawing, const Fonts& fonts, double dpi) {
   const Surface surface = PaintImage(drawing, fonts, dpi);
-  cairo_surface_flush(surface.get());
-  Pixels pixels{
-      cairo_image_surface_get_width(surface.get()), cairo_image_surface_get_height(surface.get()), {}};
-  const auto width = static_cast<std::size_t>(pixels.width);
-  const auto stride = static_cast<std::size_t>(cairo_image_surface_get_stride(surface.get()));
-  const unsigned char* row = cairo_image_surface_get_data(surface.get());
-  pixels.values.resize(width * static_cast<std::size_t>(pixels.height));
-  for (std::size_t at = 0; at < pixels.values.size(); at += width, row += stride)
-    std::memcpy(pixels.values.data() + at, row, width * sizeof(std::uint32_t));
-  return pixels;
+  const Pixels pixels = PixelsOf(surface.get());
+  Raster raster{static_cast<int>(pixels.width), static_cast<int>(pixels.height), {}};
+  raster.values.reserve(pixels.width * pixels.height);
+  for (std::size_t row = 0; row < pixels.height; ++row) {
+    const std::uint32_t* const begin = pixels.data + row * pixels.stride;
+    raster.values.insert(raster.values.end(), begin, begin + pixels.width);
+  }
+  return raster;
 }
 
 std::string MakePdf(std::span<const Drawing> pages, const Fonts& fonts) {

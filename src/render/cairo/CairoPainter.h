@@ -4,7 +4,7 @@
 #include <string>
 
 #include "render/Drawing.h"
-#include "render/Pixels.h"
+#include "render/Raster.h"
 #include "render/cairo/Fonts.h"
 
 typedef struct _cairo cairo_t;
@@ -18,7 +18,7 @@ void Paint(cairo_t* cr, const Drawing& drawing, const Fonts& fonts);
 /// million pixels, or of none, is a std::length_error.
 std::string MakePng(const Drawing& drawing, const Fonts& fonts, double dpi = 96);
 /// The same picture as pixels.
-Pixels MakePixels(const Drawing& drawing, const Fonts& fonts, double dpi = 96);
+Raster MakeRaster(const Drawing& drawing, const Fonts& fonts, double dpi = 96);
 /// The bytes of a PDF document with a page for each drawing, the same on every run.
 std::string MakePdf(std::span<const Drawing> pages, const Fonts& fonts);
 

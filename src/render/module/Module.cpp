@@ -14,8 +14,8 @@ constexpr double kPointsPerInch = 72;
 class CairoPainter final : public Painter {
  public:
   const TextMeasure& Measure() const override { return fonts_; }
-  Pixels Rasterize(const Drawing& drawing, double scale) const override {
-    return MakePixels(drawing, fonts_, scale * kPointsPerInch);
+  Raster Rasterize(const Drawing& drawing, double scale) const override {
+    return MakeRaster(drawing, fonts_, scale * kPointsPerInch);
   }
   std::string Png(const Drawing& drawing, double scale) const override {
     return MakePng(drawing, fonts_, scale * kPointsPerInch);

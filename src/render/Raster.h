@@ -7,7 +7,7 @@ namespace plotsmith::render {
 
 /// A picture without transparency, row by row from the top: red, green and blue in the lower three bytes of
 /// each number, from the highest on.
-struct Pixels {
+struct Raster {
   int width = 0, height = 0;
   std::vector<std::uint32_t> values;
 };
