@@ -9,7 +9,7 @@
 
 #include "cli/Command.h"
 #include "cli/render/LoadPainter.h"
-#include "render/Placement.h"
+#include "render/Composition.h"
 #include "render/svg/SvgWriter.h"
 #include "runtime/Utf8Path.h"
 

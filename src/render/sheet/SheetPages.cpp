@@ -5,7 +5,7 @@
 #include <string>
 
 #include "render/Canvas.h"
-#include "render/Placement.h"
+#include "render/Composition.h"
 #include "render/sheet/CellDrawing.h"
 #include "render/sheet/PageCuts.h"
 #include "render/sheet/SheetReader.h"

@@ -58,7 +58,7 @@ class PreviewTest : public test::ProgramTest {
 
 TEST_F(PreviewTest, FollowsThePageAndLeavesTheWorkbookAlone) {
   const auto run = RunAndAwait(S(kToLayout) +
-                               "do await; select lstSeries Product; do await; check chkStacked; do await; "
+                               "do await; choose optSeries(1); choose cboSeries Product; do await; check chkStacked; do await; "
                                "type txtTitle Sums; do await; press cmdCancel");
   EXPECT_EQ(run.failure, "");
   EXPECT_EQ(run.seen, "frmPSSelectTable frmPSLayoutABC");

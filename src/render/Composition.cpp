@@ -1,4 +1,4 @@
-#include "render/Placement.h"
+#include "render/Composition.h"
 
 namespace plotsmith::render {
 namespace {
