@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "render/cairo/CairoPaint.h"
+#include "render/cairo/PngWriter.h"
 
 namespace plotsmith::render {
 namespace {
@@ -135,9 +136,11 @@ std::string MakePng(const Drawing& drawing, const Fonts& fonts, double dpi) {
   cairo_scale(cr.get(), width / drawing.width, height / drawing.height);
   Paint(cr.get(), drawing, fonts);
   Check(cairo_status(cr.get()));
-  std::string bytes;
-  Check(cairo_surface_write_to_png_stream(surface.get(), Append, &bytes));
-  return bytes;
+  cairo_surface_flush(surface.get());
+  const Pixels pixels{reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(surface.get())),
+                      static_cast<std::size_t>(width), static_cast<std::size_t>(height),
+                      static_cast<std::size_t>(cairo_image_surface_get_stride(surface.get())) / 4};
+  return EncodePng(pixels, dpi);
 }
 
 std::string MakePdf(std::span<const Drawing> pages, const Fonts& fonts) {

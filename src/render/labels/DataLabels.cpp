@@ -58,6 +58,13 @@ double ReachOf(Half half, double degrees) {
   return half.height / std::max(cosine, 1e-6);
 }
 
+/// The farthest place of a box's centre in a direction at which the box is inside of a circle.
+double FarthestInside(Half half, double degrees, double radius) {
+  const double b = std::abs(std::sin(degrees * kRadian)) * half.width + std::abs(std::cos(degrees * kRadian)) * half.height;
+  const double rest = b * b + radius * radius - half.width * half.width - half.height * half.height;
+  return rest > 0 ? std::max(std::sqrt(rest) - b, 0.0) : 0;
+}
+
 Point CenterInSlice(const DrawnPoint& point, Half half, std::string position) {
   const double middle = point.angle + point.sweep / 2;
   const double radius = point.circle.width / 2;
@@ -65,7 +72,7 @@ Point CenterInSlice(const DrawnPoint& point, Half half, std::string position) {
     position = FitsInSlice(point, 2 * half.width, 2 * half.height) ? "inEnd" : "outEnd";
   double distance = radius * (1 + point.hole) / 2;
   if (position == "outEnd") distance = radius + ReachOf(half, middle) + kGap;
-  if (position == "inEnd") distance = std::max(radius - ReachOf(half, middle) - kGap, radius * 0.3);
+  if (position == "inEnd") distance = FarthestInside(half, middle, radius - kGap);
   // of a pie in 3-D it is an ellipse
   const double flat = point.circle.width > 0 ? point.circle.height / point.circle.width : 1;
   const Rect circle{point.circle.Center().x - distance, point.circle.Center().y - distance * flat,
@@ -123,14 +130,12 @@ bool FitsInSlice(const DrawnPoint& slice, double width, double height) {
   const double radius = slice.circle.width / 2;
   if (slice.sweep >= 350) return width < radius;
   const double middle = slice.angle + slice.sweep / 2;
-  const double distance = radius - ReachOf({width / 2, height / 2}, middle) - kGap;
-  if (distance < radius * 0.3) return false;
+  const double distance = FarthestInside({width / 2, height / 2}, middle, radius - kGap);
   const Point direction = OnEllipse({-distance, -distance, 2 * distance, 2 * distance}, middle);
-  // each corner has to lie between the slice's edges and inside of its circle
+  // each corner has to lie between the slice's edges
   for (const double x : {-width / 2, width / 2}) {
     for (const double y : {-height / 2, height / 2}) {
       const Point corner{direction.x + x, direction.y + y};
-      if (std::hypot(corner.x, corner.y) > radius) return false;
       double angle = std::atan2(corner.x, -corner.y) / kRadian - middle;
       angle -= 360 * std::round(angle / 360);
       if (std::abs(angle) > slice.sweep / 2) return false;

@@ -36,7 +36,7 @@ std::vector<const LegendEntry*> InOrder(const ChartModel& chart, bool upright) {
   for (const LegendEntry& entry : chart.legend->entries) entries.push_back(&entry);
   const bool piled =
       !chart.groups.empty() && std::all_of(chart.groups.begin(), chart.groups.end(), [](const auto& group) {
-        return group.IsStacked() && !group.horizontal && !group.is3D;
+        return group.IsStacked() && !group.horizontal;
       });
   if (upright && piled) std::reverse(entries.begin(), entries.end());
   return entries;
