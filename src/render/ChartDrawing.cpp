@@ -10,6 +10,7 @@
 #include "render/labels/DataLabels.h"
 #include "render/layout/ChartLayout.h"
 #include "render/model/ChartReader.h"
+#include "render/shapes/UserShapes.h"
 #include "render/threed/Plot3D.h"
 #include "xlsx/chart/ChartPart.h"
 
@@ -124,6 +125,7 @@ Drawing DrawChart(xlsx::ChartPart& part, double width, double height, const Text
   DrawDataLabels(plot);
   DrawTitles(canvas, chart, layout);
   if (layout.legend) DrawLegend(canvas, chart, *layout.legend);
+  DrawUserShapes(part, canvas);
   NoteMissing(canvas, chart);
   Describe(chart, drawing);
   return drawing;

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "render/families/Plot.h"
+#include "render/fills/BallFill.h"
 
 namespace plotsmith::render {
 namespace {
@@ -49,6 +50,7 @@ void DrawBubbles(Plot& plot, const GroupModel& group) {
       const bool inverted = size < 0 && series.invertIfNegative;
       if (inverted && std::holds_alternative<SolidFill>(style.fill))
         style.fill = SolidFill{{255, 255, 255, 1}};
+      if (series.bubble3D) style.fill = AsBall(style.fill);
       plot.canvas.Add({Role::kBubble, series.number, static_cast<int>(i + 1)}, Path().AddEllipse(box),
                       style.fill, style.stroke);
       if (Overlap(box, plot.area)) plot.points.push_back({&group, &series, i, box, size < 0});

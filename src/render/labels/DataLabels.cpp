@@ -73,8 +73,10 @@ Point CenterInSlice(const DrawnPoint& point, Half half, std::string position) {
   double distance = radius * (1 + point.hole) / 2;
   if (position == "outEnd") distance = radius + ReachOf(half, middle) + kGap;
   if (position == "inEnd") distance = FarthestInside(half, middle, radius - kGap);
-  const Rect circle{point.circle.Center().x - distance, point.circle.Center().y - distance, 2 * distance,
-                    2 * distance};
+  // of a pie in 3-D it is an ellipse
+  const double flat = point.circle.width > 0 ? point.circle.height / point.circle.width : 1;
+  const Rect circle{point.circle.Center().x - distance, point.circle.Center().y - distance * flat,
+                    2 * distance, 2 * distance * flat};
   return OnEllipse(circle, middle);
 }
 

@@ -78,7 +78,8 @@ Path Triangle(const Frame& frame) {
 }
 
 Path RightTriangle(const Frame& frame) {
-  return Polygon({{frame.Left(), frame.Bottom()}, {frame.Left(), frame.Top()}, {frame.Right(), frame.Bottom()}});
+  return Polygon(
+      {{frame.Left(), frame.Bottom()}, {frame.Left(), frame.Top()}, {frame.Right(), frame.Bottom()}});
 }
 
 Path Diamond(const Frame& frame) {
@@ -151,7 +152,8 @@ Path Star(Point center, double across, double down, int points, double inner) {
   for (int i = 0; i < count; ++i) {
     const double angle = 2 * std::numbers::pi * i / count;
     const double share = inner < 1 && i % 2 == 1 ? inner : 1;
-    corners.push_back({center.x + across * share * std::sin(angle), center.y - down * share * std::cos(angle)});
+    corners.push_back(
+        {center.x + across * share * std::sin(angle), center.y - down * share * std::cos(angle)});
   }
   return Polygon(corners);
 }
@@ -198,8 +200,8 @@ std::vector<Point> ArrowCorners(double length, double breadth, double head, doub
 Path Arrow(const Frame& frame, bool upright, bool backwards) {
   const double length = upright ? frame.Bounds().height : frame.Bounds().width;
   const double breadth = upright ? frame.Bounds().width : frame.Bounds().height;
-  std::vector<Point> corners = ArrowCorners(length, breadth, frame.Cut(50000, length, "adj2"),
-                                            frame.Adjustment("adj1", 50000, 1));
+  std::vector<Point> corners =
+      ArrowCorners(length, breadth, frame.Cut(50000, length, "adj2"), frame.Adjustment("adj1", 50000, 1));
   for (Point& corner : corners) {
     const double along = backwards ? length - corner.x : corner.x;
     corner = upright ? Point{frame.MiddleX() + corner.y, frame.Top() + along}

@@ -13,7 +13,8 @@ struct ShapeForm {
   bool open = false;  ///< a line, which has no inside
 };
 
-/// The form that a geometry (a:prstGeom with its adjustments) has in a frame; nothing for one that isn't known.
+/// The form that a geometry (a:prstGeom with its adjustments) has in a frame; nothing for one that isn't
+/// known.
 std::optional<ShapeForm> FormOf(pugi::xml_node geometry, const Rect& frame);
 
 }  // namespace plotsmith::render
