@@ -100,7 +100,7 @@ class WorksheetPages {
       Canvas canvas(onSheet, measure_, notes_);
       DrawCells(reader_, cells, setup_.gridLines, canvas);
       for (const DrawnShape& shape : shapes_) {
-        if (Overlap(shape.place, area)) Place(onSheet, shape.drawing, {shape.place.left, shape.place.top});
+        if (Overlap(shape.place, area)) Place(onSheet, shape.drawing, shape.corner);
       }
       Place(content, onSheet, {-area.left, -area.top});
     }

@@ -1,8 +1,10 @@
 #include "render/sheet/SheetShapes.h"
 
-#include <memory>
+#include <algorithm>
 
 #include "host/excel/Constants.h"
+#include "render/ChartDrawing.h"
+#include "render/shapes/ShapeObjects.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/SheetDrawing.h"
 #include "xlsx/SheetShape.h"
@@ -19,6 +21,20 @@ Drawing DrawnChart(xlsx::SheetShape& shape, const Rect& place, const TextMeasure
   return DrawChart(held.Part(), place.width, place.height, measure, notes);
 }
 
+/// A shape that is no chart, with room around it for what sticks out.
+DrawnShape DrawnObject(xlsx::SheetShape& shape, const Rect& place, int number, const TextMeasure& measure,
+                       Notes& notes) {
+  constexpr double kThickLine = 12;
+  const double room = std::max(place.width, place.height) / 2 + kThickLine;
+  DrawnShape drawn{place, {}, {place.left - room, place.top - room}};
+  drawn.drawing.width = place.width + 2 * room;
+  drawn.drawing.height = place.height + 2 * room;
+  Canvas canvas(drawn.drawing, measure, notes);
+  DrawShapeObject(canvas, Palette(shape.Book().Theme()), shape.Object(),
+                  {room, room, place.width, place.height}, number);
+  return drawn;
+}
+
 }  // namespace
 
 std::vector<DrawnShape> DrawShapes(xlsx::Workbook& book, xlsx::Worksheet& sheet, const TextMeasure& measure,
@@ -26,19 +42,23 @@ std::vector<DrawnShape> DrawShapes(xlsx::Workbook& book, xlsx::Worksheet& sheet,
   std::vector<DrawnShape> shapes;
   const xlsx::SheetDrawing* const drawing = sheet.FindDrawing();
   if (drawing == nullptr) return shapes;
+  int number = 0;
   for (const auto& shape : drawing->Shapes()) {
+    ++number;
     const xlsx::Frame frame = shape->PlacedFrame();
-    if (frame.width <= 0 || frame.height <= 0) continue;  // its rows or columns are hidden
     const Rect place{frame.left, frame.top, frame.width, frame.height};
+    const bool isChart = shape->Type() == excel::msoChart;
+    // its rows or columns are hidden; a line may have no height, or no width
+    if (isChart ? place.width <= 0 || place.height <= 0 : place.width <= 0 && place.height <= 0) continue;
     Notes own;
     try {
-      if (shape->Type() == excel::msoChart) {
-        shapes.push_back({place, book.Viewed([&] { return DrawnChart(*shape, place, measure, own); })});
-      } else {
-        own.emplace_back("a shape of this kind isn't drawn.");
-      }
+      book.Viewed([&] {
+        shapes.push_back(
+            isChart ? DrawnShape{place, DrawnChart(*shape, place, measure, own), {place.left, place.top}}
+                    : DrawnObject(*shape, place, number, measure, own));
+      });
     } catch (const runtime::RuntimeError&) {
-      own.emplace_back("the chart can't be read; nothing is drawn.");
+      own.emplace_back("it can't be read; nothing is drawn.");
     }
     for (const std::string& note : own) notes.push_back("\"" + shape->Name() + "\": " + note);
   }

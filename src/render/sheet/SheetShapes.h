@@ -15,7 +15,8 @@ namespace plotsmith::render {
 /// What is drawn on a sheet, and where, in points from the sheet's corner.
 struct DrawnShape {
   Rect place;
-  Drawing drawing;  ///< of the place's size, at its corner
+  Drawing drawing;
+  Point corner;  ///< of the drawing; a shape that is turned, or has a thick line, sticks out of its place
 };
 
 /// All charts and shapes of a sheet, from back to front.
