@@ -17,6 +17,7 @@ CLI::App* RenderCommand::Declare(CLI::App& app) {
       "Without one, all charts of Plotsmith");
   verb->add_option("--sheet", sheet_, "Draw this sheet instead, its cells and charts, as it would be printed")
       ->type_name("SHEET");
+  verb->add_flag("--one-page", onePage_, "Draw the sheet on one page that is as large as what it shows");
   DeclarePictureOptions(*verb, pictures_);
   verb->add_option("-o,--output", output_,
                    "Write to this file or into this folder (without it: the current folder); \"-\" is the "
@@ -28,6 +29,7 @@ CLI::App* RenderCommand::Declare(CLI::App& app) {
 int RenderCommand::Run(const GlobalOptions& options, const Streams& streams) {
   if (sheet_ && !charts_.empty())
     throw CommandError(exit_code::kUsage, "--sheet draws a whole sheet, so no chart can be named with it.");
+  if (onePage_ && !sheet_) throw CommandError(exit_code::kUsage, "--one-page goes with --sheet.");
   const PicturePlan plan = PlanPictures(pictures_, output_);
   Session session(book_, options, streams);
   return sheet_ ? RenderSheet(session, plan, streams) : RenderCharts(session, plan, streams);
@@ -55,8 +57,9 @@ int RenderCommand::RenderCharts(Session& session, const PicturePlan& plan, const
 int RenderCommand::RenderSheet(Session& session, const PicturePlan& plan, const Streams& streams) const {
   const auto sheet = session.Book().FindSheet(*sheet_);
   if (!sheet) throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no sheet \"" + *sheet_ + "\".");
-  return WriteSheet(session.Book(), book_, *sheet, plan, streams) ? exit_code::kSaidSomething
-                                                                  : session.Finish();
+  const auto paper = onePage_ ? render::Paper::kOne : render::Paper::kPrinted;
+  return WriteSheet(session.Book(), book_, *sheet, paper, plan, streams) ? exit_code::kSaidSomething
+                                                                         : session.Finish();
 }
 
 }  // namespace plotsmith::cli

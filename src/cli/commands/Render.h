@@ -24,6 +24,7 @@ class RenderCommand final : public Command {
   std::string book_;
   std::vector<std::string> charts_;
   std::optional<std::string> sheet_;
+  bool onePage_ = false;
   std::optional<std::string> output_;
   PictureOptions pictures_;
 };

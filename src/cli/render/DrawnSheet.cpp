@@ -8,16 +8,16 @@
 #include "cli/render/LoadPainter.h"
 #include "cli/render/PictureNames.h"
 #include "cli/render/PictureWriter.h"
-#include "render/sheet/SheetPages.h"
 #include "xlsx/Sheet.h"
 #include "xlsx/Workbook.h"
 
 namespace plotsmith::cli {
 
 bool WriteSheet(xlsx::Workbook& workbook, const std::string& book, const xlsx::SheetEntry& sheet,
-                const PicturePlan& plan, const Streams& streams) {
+                render::Paper paper, const PicturePlan& plan, const Streams& streams) {
   render::Notes notes;
-  std::vector<render::Drawing> pages = render::DrawSheet(workbook, sheet, LoadPainter().Measure(), notes);
+  std::vector<render::Drawing> pages =
+      render::DrawSheet(workbook, sheet, paper, LoadPainter().Measure(), notes);
   for (const std::string& note : notes) streams.err << "plotsmith: " << sheet.name << ": " << note << '\n';
   if (pages.empty()) {
     throw CommandError(exit_code::kUsage, "the sheet \"" + sheet.name + "\" has nothing to print.");

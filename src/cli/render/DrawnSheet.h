@@ -4,6 +4,7 @@
 
 #include "cli/Streams.h"
 #include "cli/render/PictureOptions.h"
+#include "render/sheet/SheetPages.h"
 
 namespace plotsmith::xlsx {
 class Workbook;
@@ -12,9 +13,9 @@ struct SheetEntry;
 
 namespace plotsmith::cli {
 
-/// Draws a sheet of the workbook at `book` as it would be printed. Returns true if something isn't drawn,
+/// Draws a sheet of the workbook at `book`. Returns true if something isn't drawn,
 /// which was said on `err`. A CommandError for a sheet without anything to print.
 bool WriteSheet(xlsx::Workbook& workbook, const std::string& book, const xlsx::SheetEntry& sheet,
-                const PicturePlan& plan, const Streams& streams);
+                render::Paper paper, const PicturePlan& plan, const Streams& streams);
 
 }  // namespace plotsmith::cli

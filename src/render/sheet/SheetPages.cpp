@@ -30,6 +30,17 @@ Drawing EmptyPage(const xlsx::PageSetup& setup, const std::string& title) {
   return page;
 }
 
+/// One page, as large as PDF allows, in place of the setup's own.
+xlsx::PageSetup OnePage(const xlsx::PageSetup& setup) {
+  constexpr double kLargest = 14400;  // points
+  xlsx::PageSetup one;
+  one.paperWidth = one.paperHeight = kLargest;
+  one.left = one.top = one.right = one.bottom = 0;
+  one.gridLines = setup.gridLines;
+  one.hasConditionalFormats = setup.hasConditionalFormats;
+  return one;
+}
+
 /// Says what of a printed page isn't drawn.
 void NoteMissing(const xlsx::Workbook& book, const xlsx::SheetEntry& sheet, const xlsx::PageSetup& setup,
                  Notes& notes) {
@@ -48,11 +59,13 @@ void NoteMissing(const xlsx::Workbook& book, const xlsx::SheetEntry& sheet, cons
 /// The pages of a sheet with cells.
 class WorksheetPages {
  public:
-  WorksheetPages(xlsx::Workbook& book, const xlsx::SheetEntry& sheet, const TextMeasure& measure,
+  WorksheetPages(xlsx::Workbook& book, const xlsx::SheetEntry& sheet, Paper paper, const TextMeasure& measure,
                  Notes& notes)
       : sheet_(sheet),
         reader_(book, *sheet.worksheet),
-        setup_(xlsx::PageSetupOf(book, sheet)),
+        paper_(paper),
+        setup_(paper == Paper::kOne ? OnePage(xlsx::PageSetupOf(book, sheet))
+                                    : xlsx::PageSetupOf(book, sheet)),
         shapes_(DrawShapes(book, *sheet.worksheet, measure, notes)),
         measure_(measure),
         notes_(notes) {
@@ -64,7 +77,8 @@ class WorksheetPages {
   }
 
   std::vector<Drawing> Draw() {
-    const PageCuts cuts = CutPages(setup_, reader_.Geometry(), ranges_, kMostPages);
+    const PageCuts cuts =
+        CutPages(setup_, reader_.Geometry(), ranges_, paper_ == Paper::kOne ? 1 : kMostPages);
     if (cuts.count > cuts.pages.size()) {
       notes_.push_back("the sheet has " + std::to_string(cuts.count) + " pages; the first " +
                        std::to_string(cuts.pages.size()) + " are drawn.");
@@ -94,6 +108,10 @@ class WorksheetPages {
 
   Drawing DrawPage(const xlsx::CellRange& cells, double scale) {
     const Rect area = reader_.AreaOf(cells);
+    if (paper_ == Paper::kOne) {
+      setup_.paperWidth = std::max(area.width, 1.0);
+      setup_.paperHeight = std::max(area.height, 1.0);
+    }
     Drawing content{area.width, area.height, {}, {}, {}};
     {
       Drawing onSheet{area.Right(), area.Bottom(), {}, {}, {}};
@@ -133,6 +151,7 @@ class WorksheetPages {
 
   const xlsx::SheetEntry& sheet_;
   SheetReader reader_;
+  Paper paper_;
   xlsx::PageSetup setup_;
   std::vector<DrawnShape> shapes_;
   const TextMeasure& measure_;
@@ -159,10 +178,10 @@ std::vector<Drawing> DrawChartSheet(xlsx::Workbook& book, const xlsx::SheetEntry
 
 }  // namespace
 
-std::vector<Drawing> DrawSheet(xlsx::Workbook& book, const xlsx::SheetEntry& sheet,
+std::vector<Drawing> DrawSheet(xlsx::Workbook& book, const xlsx::SheetEntry& sheet, Paper paper,
                                const TextMeasure& measure, Notes& notes) {
   if (!sheet.worksheet) return DrawChartSheet(book, sheet, measure, notes);
-  return WorksheetPages(book, sheet, measure, notes).Draw();
+  return WorksheetPages(book, sheet, paper, measure, notes).Draw();
 }
 
 }  // namespace plotsmith::render
