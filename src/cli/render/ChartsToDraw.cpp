@@ -1,8 +1,8 @@
 #include "cli/render/ChartsToDraw.h"
 
 #include <algorithm>
-#include <optional>
 #include <set>
+#include <utility>
 
 #include "cli/ChartLookup.h"
 #include "cli/Command.h"
@@ -43,9 +43,14 @@ std::vector<std::shared_ptr<xlsx::SheetShape>> ChartShapes(xlsx::Workbook& book,
   return charts;
 }
 
-/// The sheet and the shape that a name such as "'My sheet'!Chart 1" means. A sheet's name without quotes may
-/// have an exclamation mark as well.
-excel::Ref<excel::Chart> ChartOnSheet(xlsx::Workbook& book, const std::string& name) {
+/// What a shape's chart is called.
+std::string LabelOf(const xlsx::SheetEntry& sheet, xlsx::SheetShape& shape) {
+  return xlsx::QuotedSheetName(sheet.name) + "!" + shape.Name();
+}
+
+/// The chart of the sheet and the shape that a name such as "'My sheet'!Chart 1" means, or of a chart sheet;
+/// Nothing if there is none. A sheet's name without quotes may have an exclamation mark as well.
+ChartToDraw ChartOnSheet(xlsx::Workbook& book, const std::string& name) {
   for (auto mark = name.find('!'); mark != std::string::npos; mark = name.find('!', mark + 1)) {
     std::string_view text(name);
     const std::string sheetName =
@@ -54,11 +59,13 @@ excel::Ref<excel::Chart> ChartOnSheet(xlsx::Workbook& book, const std::string& n
     if (!sheet) continue;
     const std::string shapeName = name.substr(mark + 1);
     for (const auto& shape : ChartShapes(book, *sheet)) {
-      if (runtime::EqualsIgnoreCase(shape->Name(), shapeName)) return shape->Chart();
+      if (runtime::EqualsIgnoreCase(shape->Name(), shapeName))
+        return {LabelOf(*sheet, *shape), shape->Chart()};
     }
   }
   const auto sheet = book.FindSheet(name);
-  return sheet && !sheet->worksheet ? book.ChartOf(*sheet) : nullptr;
+  if (!sheet || sheet->worksheet) return {name, nullptr};
+  return {sheet->name, book.ChartOf(*sheet)};
 }
 
 CommandError NoSuchChart(xlsx::Workbook& book, const std::string& path, const std::string& name) {
@@ -91,8 +98,8 @@ std::vector<ChartToDraw> NamedChartsToDraw(xlsx::Workbook& book, const std::stri
     if (!places.empty()) {
       const std::string& id = loaded[places.front()].first;
       add({id, LoadedChart(id)});
-    } else if (const auto chart = ChartOnSheet(book, name)) {
-      add({name, chart});
+    } else if (ChartToDraw found = ChartOnSheet(book, name); found.chart) {
+      add(std::move(found));
     } else {
       throw NoSuchChart(book, path, name);
     }
@@ -106,8 +113,7 @@ std::vector<std::string> OtherCharts(xlsx::Workbook& book) {
   std::vector<std::string> names;
   for (const auto& sheet : book.AllSheets()) {
     for (const auto& shape : ChartShapes(book, *sheet)) {
-      if (!known.contains(shape->AlternativeText()))
-        names.push_back(xlsx::QuotedSheetName(sheet->name) + "!" + shape->Name());
+      if (!known.contains(shape->AlternativeText())) names.push_back(LabelOf(*sheet, *shape));
     }
     if (!sheet->worksheet && book.ChartOf(*sheet)) names.push_back(sheet->name);
   }
