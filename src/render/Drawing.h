@@ -100,7 +100,7 @@ class Path {
 
   const std::vector<PathStep>& Steps() const { return steps_; }
   bool IsEmpty() const { return steps_.empty(); }
-  /// Around all points, those that only control a curve included.
+  /// Around all lines and curves.
   Rect Bounds() const;
 
  private:
