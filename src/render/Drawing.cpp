@@ -163,6 +163,15 @@ Point OnEllipse(const Rect& bounds, double degrees) {
           center.y - bounds.height / 2 * std::cos(degrees * kRadian)};
 }
 
+void Path::Move(Point by) {
+  for (PathStep& step : steps_) {
+    for (Point* point : {&step.to, &step.control1, &step.control2}) {
+      point->x += by.x;
+      point->y += by.y;
+    }
+  }
+}
+
 std::string_view NameOf(Role role) {
   constexpr std::array<std::string_view, 32> kNames = {
       "Other",         "ChartArea",  "PlotArea", "Title",         "AxisTitle",    "AxisLine", "TickMark",
@@ -190,6 +199,23 @@ Rect BoundsOf(const Item& item) {
   if (const auto* text = std::get_if<TextItem>(&item.content)) return text->Bounds();
   if (const auto* image = std::get_if<ImageItem>(&item.content)) return image->place;
   return {};
+}
+
+Item Moved(Item item, Point by) {
+  if (auto* path = std::get_if<PathItem>(&item.content)) path->path.Move(by);
+  if (auto* clip = std::get_if<PushClip>(&item.content)) clip->path.Move(by);
+  if (auto* text = std::get_if<TextItem>(&item.content)) {
+    text->anchor = {text->anchor.x + by.x, text->anchor.y + by.y};
+  }
+  if (auto* image = std::get_if<ImageItem>(&item.content)) {
+    image->place.left += by.x;
+    image->place.top += by.y;
+  }
+  return item;
+}
+
+void Append(Drawing& page, const Drawing& drawing, Point at) {
+  for (const Item& item : drawing.items) page.items.push_back(Moved(item, at));
 }
 
 }  // namespace plotsmith::render
