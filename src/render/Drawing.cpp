@@ -28,6 +28,33 @@ class Hull {
   bool empty_ = true;
 };
 
+/// Where a cubic curve turns round in one direction: its parameters, between 0 and 1.
+std::array<double, 2> TurnsOf(double from, double control1, double control2, double to) {
+  // the zeros of its derivative, a t^2 + b t + c
+  const double a = -from + 3 * control1 - 3 * control2 + to;
+  const double b = 2 * (from - 2 * control1 + control2), c = control1 - from;
+  if (std::abs(a) < 1e-12) return {b == 0 ? 0 : -c / b, 0};
+  const double root = std::sqrt(std::max(b * b - 4 * a * c, 0.0));
+  return {(-b + root) / (2 * a), (-b - root) / (2 * a)};
+}
+
+void AddCurve(Hull& hull, Point from, const PathStep& step) {
+  const auto at = [&](double t) {
+    const double u = 1 - t;
+    const auto mix = [&](double a, double b, double c, double d) {
+      return u * u * u * a + 3 * u * u * t * b + 3 * u * t * t * c + t * t * t * d;
+    };
+    return Point{mix(from.x, step.control1.x, step.control2.x, step.to.x),
+                 mix(from.y, step.control1.y, step.control2.y, step.to.y)};
+  };
+  for (const auto& turns : {TurnsOf(from.x, step.control1.x, step.control2.x, step.to.x),
+                            TurnsOf(from.y, step.control1.y, step.control2.y, step.to.y)}) {
+    for (const double t : turns) {
+      if (t > 0 && t < 1) hull.Add(at(t));
+    }
+  }
+}
+
 }  // namespace
 
 Rect Inset(const Rect& rect, double horizontal, double vertical) {
@@ -120,12 +147,12 @@ Path& Path::ArcTo(const Rect& bounds, double from, double sweep) {
 
 Rect Path::Bounds() const {
   Hull hull;
+  Point at;
   for (const PathStep& step : steps_) {
     if (step.kind == PathStep::Kind::kClose) continue;
+    if (step.kind == PathStep::Kind::kCurve) AddCurve(hull, at, step);
     hull.Add(step.to);
-    if (step.kind != PathStep::Kind::kCurve) continue;
-    hull.Add(step.control1);
-    hull.Add(step.control2);
+    at = step.to;
   }
   return hull.Box();
 }
@@ -134,6 +161,15 @@ Point OnEllipse(const Rect& bounds, double degrees) {
   const Point center = bounds.Center();
   return {center.x + bounds.width / 2 * std::sin(degrees * kRadian),
           center.y - bounds.height / 2 * std::cos(degrees * kRadian)};
+}
+
+void Path::Move(Point by) {
+  for (PathStep& step : steps_) {
+    for (Point* point : {&step.to, &step.control1, &step.control2}) {
+      point->x += by.x;
+      point->y += by.y;
+    }
+  }
 }
 
 std::string_view NameOf(Role role) {
@@ -163,6 +199,23 @@ Rect BoundsOf(const Item& item) {
   if (const auto* text = std::get_if<TextItem>(&item.content)) return text->Bounds();
   if (const auto* image = std::get_if<ImageItem>(&item.content)) return image->place;
   return {};
+}
+
+Item Moved(Item item, Point by) {
+  if (auto* path = std::get_if<PathItem>(&item.content)) path->path.Move(by);
+  if (auto* clip = std::get_if<PushClip>(&item.content)) clip->path.Move(by);
+  if (auto* text = std::get_if<TextItem>(&item.content)) {
+    text->anchor = {text->anchor.x + by.x, text->anchor.y + by.y};
+  }
+  if (auto* image = std::get_if<ImageItem>(&item.content)) {
+    image->place.left += by.x;
+    image->place.top += by.y;
+  }
+  return item;
+}
+
+void Append(Drawing& page, const Drawing& drawing, Point at) {
+  for (const Item& item : drawing.items) page.items.push_back(Moved(item, at));
 }
 
 }  // namespace plotsmith::render

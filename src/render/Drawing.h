@@ -100,8 +100,9 @@ class Path {
 
   const std::vector<PathStep>& Steps() const { return steps_; }
   bool IsEmpty() const { return steps_.empty(); }
-  /// Around all points, those that only control a curve included.
+  /// Around all lines and curves.
   Rect Bounds() const;
+  void Move(Point by);
 
  private:
   std::vector<PathStep> steps_;
@@ -206,6 +207,8 @@ struct Item {
 
 /// Around what the item paints; empty for clips.
 Rect BoundsOf(const Item& item);
+/// The item elsewhere.
+Item Moved(Item item, Point by);
 
 struct Drawing {
   double width = 0, height = 0;
@@ -213,5 +216,8 @@ struct Drawing {
   std::string description;  ///< the values, as lines of text
   std::vector<Item> items;
 };
+
+/// Appends the items of a drawing to a page, on which its corner is at a point.
+void Append(Drawing& page, const Drawing& drawing, Point at);
 
 }  // namespace plotsmith::render

@@ -97,8 +97,9 @@ std::string ColorRows(const Pixels& pixels) {
 std::string Deflated(const std::string& rows) {
   uLongf size = compressBound(static_cast<uLong>(rows.size()));
   std::string bytes(size, '\0');
-  const int result = compress2(reinterpret_cast<Bytef*>(bytes.data()), &size,
-                               reinterpret_cast<const Bytef*>(rows.data()), static_cast<uLong>(rows.size()), kCompression);
+  const int result =
+      compress2(reinterpret_cast<Bytef*>(bytes.data()), &size, reinterpret_cast<const Bytef*>(rows.data()),
+                static_cast<uLong>(rows.size()), kCompression);
   if (result != Z_OK) throw std::bad_alloc();
   bytes.resize(size);
   return bytes;

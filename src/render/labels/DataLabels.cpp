@@ -60,7 +60,8 @@ double ReachOf(Half half, double degrees) {
 
 /// The farthest place of a box's centre in a direction at which the box is inside of a circle.
 double FarthestInside(Half half, double degrees, double radius) {
-  const double b = std::abs(std::sin(degrees * kRadian)) * half.width + std::abs(std::cos(degrees * kRadian)) * half.height;
+  const double b = std::abs(std::sin(degrees * kRadian)) * half.width +
+                   std::abs(std::cos(degrees * kRadian)) * half.height;
   const double rest = b * b + radius * radius - half.width * half.width - half.height * half.height;
   return rest > 0 ? std::max(std::sqrt(rest) - b, 0.0) : 0;
 }

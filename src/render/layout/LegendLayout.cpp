@@ -34,10 +34,9 @@ bool HasLineKey(const ChartModel& chart, const LegendEntry& entry) {
 std::vector<const LegendEntry*> InOrder(const ChartModel& chart, bool upright) {
   std::vector<const LegendEntry*> entries;
   for (const LegendEntry& entry : chart.legend->entries) entries.push_back(&entry);
-  const bool piled =
-      !chart.groups.empty() && std::all_of(chart.groups.begin(), chart.groups.end(), [](const auto& group) {
-        return group.IsStacked() && !group.horizontal;
-      });
+  const bool piled = !chart.groups.empty() &&
+                     std::all_of(chart.groups.begin(), chart.groups.end(),
+                                 [](const auto& group) { return group.IsStacked() && !group.horizontal; });
   if (upright && piled) std::reverse(entries.begin(), entries.end());
   return entries;
 }

@@ -95,8 +95,8 @@ AxisModel ReadAxis(ReadingContext& context, pugi::xml_node node) {
     axis.format = context.Format(xml::Attribute(format, "formatCode"));
   }
   axis.tickLabels = schema::Val(node, "tickLblPos", "nextTo");
-  axis.majorTicks = schema::Val(node, "majorTickMark", "cross");
-  axis.minorTicks = schema::Val(node, "minorTickMark", "cross");
+  axis.majorTicks = schema::Val(node, "majorTickMark", "out");
+  axis.minorTicks = schema::Val(node, "minorTickMark", "none");
   const Stroke automatic = context.styles.AxisLine();
   axis.line = ReadStroke(context.part, xml::Child(node, "spPr", "ln"), automatic);
   if (const auto lines = xml::Child(node, "majorGridlines")) {

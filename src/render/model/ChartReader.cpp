@@ -35,6 +35,13 @@ int IndexOf(const std::vector<AxisModel>& axes, pugi::xml_node node) {
   return found == axes.end() ? -1 : static_cast<int>(found - axes.begin());
 }
 
+/// Two axes that a file has on the same side, or on opposite ones, are laid across each other.
+void LayAcross(const GroupModel& group, AxisModel& category, AxisModel& value) {
+  if (category.IsUpright() != value.IsUpright()) return;
+  category.side = group.horizontal ? Side::kLeft : Side::kBottom;
+  value.side = group.horizontal ? Side::kBottom : Side::kLeft;
+}
+
 /// Ties a group to its axes, and gives those what they have of the group.
 void Attach(ReadingContext& context, GroupModel& group, std::vector<AxisModel>& axes) {
   const xlsx::AxisRoles roles = xlsx::RolesOf(xlsx::AxesOf(group.node));
@@ -52,6 +59,7 @@ void Attach(ReadingContext& context, GroupModel& group, std::vector<AxisModel>& 
     }
   }
   AxisModel* value = axisAt(group.value);
+  if (value != nullptr && group.category >= 0) LayAcross(group, *axisAt(group.category), *value);
   if (value != nullptr && !value->format) {
     value->format =
         group.grouping == Grouping::kPercent ? context.Format("0%") : group.series.front().valueFormat;
@@ -113,7 +121,7 @@ ChartModel ReadChart(xlsx::ChartPart& part, Notes& notes) {
   ChartModel chart;
   chart.dates = part.Book().Dates();
   chart.chartArea = ReadStyle(part, xml::Child(space, "spPr"), context.styles.ChartArea());
-  chart.roundedCorners = schema::BooleanVal(space, "roundedCorners", true);
+  chart.roundedCorners = schema::BooleanVal(space, "roundedCorners", false);
   chart.blanks = schema::Val(node, "dispBlanksAs", "zero");
   chart.layout = ReadLayout(plotArea);
   chart.axes = ReadAxes(context, plotArea);
