@@ -61,6 +61,19 @@ Side SideOf(const PrintedCell& cell, const CellLook& look) {
 
 Font FontOf(const CellLook& look) { return {look.font, look.size, look.bold, look.italic, look.underline}; }
 
+/// Whether a text that is too long for its cell goes over empty ones beside it.
+bool MaySpread(const PrintedCell& cell, const CellLook& look) {
+  return cell.kind == Kind::kText && !look.wrap && look.horizontal != HorizontalAlignment::kFill;
+}
+
+/// How wide a cell would have to be for its text.
+double RoomFor(const PrintedCell& cell, const CellLook& look, const TextMeasure& measure) {
+  const Font font = FontOf(look);
+  const double indent =
+      look.indent == 0 ? 0 : look.indent * kBlanksPerIndent * measure.Measure(" ", font).width;
+  return measure.Measure(cell.text, font).width + indent + 2 * kPadding;
+}
+
 /// The cells of one page on their canvas.
 class CellDrawing {
  public:
@@ -177,13 +190,11 @@ class CellDrawing {
     const CellLook& look = sheet_.LookOf(cell.style);
     const Rect own = sheet_.AreaOf({row, column, row, column});
     if (own.width <= 0) return;
-    const bool spreads =
-        cell.kind == Kind::kText && !look.wrap && look.horizontal != HorizontalAlignment::kFill;
-    if (!spreads) {
+    if (!MaySpread(cell, look)) {
       if (onPage) DrawIn(cell, own, own);
       return;
     }
-    const double missing = WidthOfText(cell.text, FontOf(look)) + IndentOf(look) + 2 * kPadding - own.width;
+    const double missing = RoomFor(cell, look, canvas_.Measure()) - own.width;
     const Side side = SideOf(cell, look);
     const double half = side == Side::kMiddle ? missing / 2 : missing;
     Rect seen = own;
@@ -299,6 +310,19 @@ class CellDrawing {
 };
 
 }  // namespace
+
+std::int32_t LastColumnOfText(SheetReader& sheet, std::int32_t row, std::int32_t column,
+                              const TextMeasure& measure) {
+  const PrintedCell cell = sheet.CellAt(row, column);
+  const CellLook& look = sheet.LookOf(cell.style);
+  if (!MaySpread(cell, look) || SideOf(cell, look) == Side::kRight) return column;
+  const double width = sheet.Geometry().columns.SizeOf(column - 1);
+  const double missing = RoomFor(cell, look, measure) - width;
+  if (missing <= 0) return column;
+  const double end =
+      sheet.Geometry().columns.EdgeOf(column) + (SideOf(cell, look) == Side::kMiddle ? missing / 2 : missing);
+  return sheet.Geometry().columns.IndexAt(end).first + 1;
+}
 
 void DrawCells(SheetReader& sheet, const CellRange& page, bool gridLines, Canvas& canvas) {
   CellDrawing drawing(sheet, page, canvas);

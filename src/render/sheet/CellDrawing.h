@@ -10,4 +10,9 @@ namespace plotsmith::render {
 /// from the sheet's corner.
 void DrawCells(SheetReader& sheet, const xlsx::CellRange& page, bool gridLines, Canvas& canvas);
 
+/// The column in which the text of a row's last cell ends, as it goes over the empty cells behind it; the
+/// cell's own column if the text doesn't.
+std::int32_t LastColumnOfText(SheetReader& sheet, std::int32_t row, std::int32_t column,
+                              const TextMeasure& measure);
+
 }  // namespace plotsmith::render

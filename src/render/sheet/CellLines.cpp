@@ -28,6 +28,7 @@ std::size_t FittingPart(std::string_view word, double width, const WidthOf& widt
 /// The lines of one paragraph, appended.
 void WrapParagraph(std::string_view text, double width, const WidthOf& widthOf,
                    std::vector<std::string>& lines) {
+  if (text.empty()) lines.emplace_back();
   std::string line;
   while (!text.empty()) {
     // a word with the blanks before it
@@ -47,7 +48,7 @@ void WrapParagraph(std::string_view text, double width, const WidthOf& widthOf,
       text.remove_prefix(part);
     }
   }
-  lines.push_back(std::move(line));
+  if (!line.empty()) lines.push_back(std::move(line));
 }
 
 /// The number with `decimals` digits behind the point.

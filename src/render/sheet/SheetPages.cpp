@@ -92,12 +92,25 @@ class WorksheetPages {
   /// From A1 to the last cell, chart or shape; absent for an empty sheet.
   std::optional<xlsx::CellRange> AllThatShows() {
     auto all = reader_.PrintedCells();
+    if (all) AddLongTexts(*all);
     for (const DrawnShape& shape : shapes_) {
       if (!all) all = xlsx::CellRange{1, 1, 1, 1};
       all->row2 = std::max(all->row2, LineAt(reader_.Geometry().rows, shape.place.Bottom()));
       all->column2 = std::max(all->column2, LineAt(reader_.Geometry().columns, shape.place.Right()));
     }
     return all;
+  }
+
+  /// Long texts in the last cells of rows go over the columns behind. Of a large sheet only the beginning is
+  /// looked at.
+  void AddLongTexts(xlsx::CellRange& all) {
+    constexpr std::int32_t kMostCells = 200000;
+    const std::int32_t columns = all.column2, rows = std::min(all.row2, kMostCells / columns + 1);
+    for (std::int32_t row = 1; row <= rows; ++row) {
+      std::int32_t column = columns;
+      while (column > 0 && reader_.IsEmptyAt(row, column)) --column;
+      if (column > 0) all.column2 = std::max(all.column2, LastColumnOfText(reader_, row, column, measure_));
+    }
   }
 
   /// The row or column, from 1, in which something ends.
