@@ -47,7 +47,7 @@ TEST_F(InstallTest, EverythingIsInItsPlaceAndGoesAgain) {
        {"bin/plotsmith", "lib/plotsmith/render.so", "share/man/man1/plotsmith.1",
         "share/bash-completion/completions/plotsmith", "share/zsh/site-functions/_plotsmith",
         "share/doc/plotsmith/README.md", "share/doc/plotsmith/docs/file-formats.md",
-        "share/doc/plotsmith/docs/images/orders.png"}) {
+        "share/doc/plotsmith/docs/images/orders.svg"}) {
     EXPECT_TRUE(files.contains(file)) << file;
   }
   const S command = "'" + (prefix_ / "bin/plotsmith").string() + "'", book = folder_ / "book.xlsx";
