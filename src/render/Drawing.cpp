@@ -28,6 +28,30 @@ class Hull {
   bool empty_ = true;
 };
 
+/// The point of a cubic curve at a share of its way.
+Point OnCurve(Point from, const PathStep& curve, double t) {
+  const double u = 1 - t;
+  const auto along = [&](double a, double b, double c, double d) {
+    return u * u * u * a + 3 * u * u * t * b + 3 * u * t * t * c + t * t * t * d;
+  };
+  return {along(from.x, curve.control1.x, curve.control2.x, curve.to.x),
+          along(from.y, curve.control1.y, curve.control2.y, curve.to.y)};
+}
+
+/// Adds the points at which a curve turns round, to the left or right, up or down.
+void AddTurns(Point from, const PathStep& curve, Hull& hull) {
+  const auto add = [&](double a, double b, double c, double d) {
+    // the roots of the derivative, p * t * t + q * t + r
+    const double p = -a + 3 * b - 3 * c + d, q = 2 * (a - 2 * b + c), r = b - a;
+    const double root = std::sqrt(std::max(q * q - 4 * p * r, 0.0));
+    for (const double t : {(-q + root) / (2 * p), (-q - root) / (2 * p), -r / q}) {
+      if (t > 0 && t < 1) hull.Add(OnCurve(from, curve, t));
+    }
+  };
+  add(from.x, curve.control1.x, curve.control2.x, curve.to.x);
+  add(from.y, curve.control1.y, curve.control2.y, curve.to.y);
+}
+
 }  // namespace
 
 Rect Inset(const Rect& rect, double horizontal, double vertical) {
@@ -120,12 +144,12 @@ Path& Path::ArcTo(const Rect& bounds, double from, double sweep) {
 
 Rect Path::Bounds() const {
   Hull hull;
+  Point at;
   for (const PathStep& step : steps_) {
     if (step.kind == PathStep::Kind::kClose) continue;
     hull.Add(step.to);
-    if (step.kind != PathStep::Kind::kCurve) continue;
-    hull.Add(step.control1);
-    hull.Add(step.control2);
+    if (step.kind == PathStep::Kind::kCurve) AddTurns(at, step, hull);
+    at = step.to;
   }
   return hull.Box();
 }
