@@ -28,31 +28,28 @@ class Hull {
   bool empty_ = true;
 };
 
-/// Where a cubic curve turns round in one direction: its parameters, between 0 and 1.
-std::array<double, 2> TurnsOf(double from, double control1, double control2, double to) {
-  // the zeros of its derivative, a t^2 + b t + c
-  const double a = -from + 3 * control1 - 3 * control2 + to;
-  const double b = 2 * (from - 2 * control1 + control2), c = control1 - from;
-  if (std::abs(a) < 1e-12) return {b == 0 ? 0 : -c / b, 0};
-  const double root = std::sqrt(std::max(b * b - 4 * a * c, 0.0));
-  return {(-b + root) / (2 * a), (-b - root) / (2 * a)};
+/// The point of a cubic curve at a share of its way.
+Point OnCurve(Point from, const PathStep& curve, double t) {
+  const double u = 1 - t;
+  const auto along = [&](double a, double b, double c, double d) {
+    return u * u * u * a + 3 * u * u * t * b + 3 * u * t * t * c + t * t * t * d;
+  };
+  return {along(from.x, curve.control1.x, curve.control2.x, curve.to.x),
+          along(from.y, curve.control1.y, curve.control2.y, curve.to.y)};
 }
 
-void AddCurve(Hull& hull, Point from, const PathStep& step) {
-  const auto at = [&](double t) {
-    const double u = 1 - t;
-    const auto mix = [&](double a, double b, double c, double d) {
-      return u * u * u * a + 3 * u * u * t * b + 3 * u * t * t * c + t * t * t * d;
-    };
-    return Point{mix(from.x, step.control1.x, step.control2.x, step.to.x),
-                 mix(from.y, step.control1.y, step.control2.y, step.to.y)};
-  };
-  for (const auto& turns : {TurnsOf(from.x, step.control1.x, step.control2.x, step.to.x),
-                            TurnsOf(from.y, step.control1.y, step.control2.y, step.to.y)}) {
-    for (const double t : turns) {
-      if (t > 0 && t < 1) hull.Add(at(t));
+/// Adds the points at which a curve turns round, to the left or right, up or down.
+void AddTurns(Point from, const PathStep& curve, Hull& hull) {
+  const auto add = [&](double a, double b, double c, double d) {
+    // the roots of the derivative, p * t * t + q * t + r
+    const double p = -a + 3 * b - 3 * c + d, q = 2 * (a - 2 * b + c), r = b - a;
+    const double root = std::sqrt(std::max(q * q - 4 * p * r, 0.0));
+    for (const double t : {(-q + root) / (2 * p), (-q - root) / (2 * p), -r / q}) {
+      if (t > 0 && t < 1) hull.Add(OnCurve(from, curve, t));
     }
-  }
+  };
+  add(from.x, curve.control1.x, curve.control2.x, curve.to.x);
+  add(from.y, curve.control1.y, curve.control2.y, curve.to.y);
 }
 
 }  // namespace
@@ -150,8 +147,8 @@ Rect Path::Bounds() const {
   Point at;
   for (const PathStep& step : steps_) {
     if (step.kind == PathStep::Kind::kClose) continue;
-    if (step.kind == PathStep::Kind::kCurve) AddCurve(hull, at, step);
     hull.Add(step.to);
+    if (step.kind == PathStep::Kind::kCurve) AddTurns(at, step, hull);
     at = step.to;
   }
   return hull.Box();

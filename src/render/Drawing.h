@@ -100,7 +100,7 @@ class Path {
 
   const std::vector<PathStep>& Steps() const { return steps_; }
   bool IsEmpty() const { return steps_.empty(); }
-  /// Around all lines and curves.
+  /// Around the line itself; the points that only control a curve may lie outside.
   Rect Bounds() const;
   void Move(Point by);
 

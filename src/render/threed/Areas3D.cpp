@@ -171,17 +171,15 @@ void PaintRibbon(Canvas& canvas, const Stage& stage, const Projection& projectio
   const SeriesModel& one = stage.Group().series[series];
   const Span depth = stage.Depth(series);
   const auto missing = [&](std::size_t i) { return i >= one.values.size() || !std::isfinite(one.values[i]); };
-  // a line is filled with the colour that it is drawn in elsewhere
-  const Look look{{Role::kLine, one.number, 0}, SolidFill{one.style.stroke.color}, {}};
+  Look look{{Role::kLine, one.number, 0}, one.style.fill, one.style.stroke};
   for (const std::size_t i : stretches) {
     if (missing(i) || missing(i + 1)) continue;
     const auto at = [&](std::size_t point, double back) {
       return stage.At(projection, stage.Category(point).Middle(), stage.Value(one.values[point]), back);
     };
-    Look stretch = look;
-    stretch.tag.point = static_cast<int>(i) + 1;
+    look.tag.point = static_cast<int>(i) + 1;
     AddSheet(canvas, projection,
-             {at(i, depth.from), at(i + 1, depth.from), at(i + 1, depth.to), at(i, depth.to)}, stretch);
+             {at(i, depth.from), at(i + 1, depth.from), at(i + 1, depth.to), at(i, depth.to)}, look);
   }
 }
 

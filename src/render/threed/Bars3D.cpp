@@ -21,15 +21,20 @@ struct Standing {
   bool negative = false;
 };
 
+constexpr std::size_t kMostBars = 60'000;  // more can't be told apart, and each has several faces
+
 std::vector<Standing> BarsOf(const Stage& stage) {
   const GroupModel& group = stage.Group();
   const Extents extents = StackValues(group);
+  const bool drawsBlanks = stage.BlanksAreZero() && !group.IsStacked();
   std::vector<Standing> bars;
   for (std::size_t s = 0; s < group.series.size(); ++s) {
-    for (std::size_t i = 0; i < extents.to[s].size(); ++i) {
-      if (!std::isfinite(extents.to[s][i])) continue;
+    for (std::size_t i = 0; i < extents.to[s].size() && bars.size() <= kMostBars; ++i) {
+      double to = extents.to[s][i];
+      if (!std::isfinite(to) && drawsBlanks) to = 0;
+      if (!std::isfinite(to)) continue;
       const double from = group.IsStacked() ? extents.from[s][i] : stage.Base();
-      const Span along{stage.Value(from), stage.Value(extents.to[s][i])};
+      const Span along{stage.Value(from), stage.Value(to)};
       bars.push_back({s, i, stage.Bar(i, s), stage.Depth(s), along, along.to < along.from});
     }
   }
@@ -102,6 +107,10 @@ Rect FrontOf(const Projection& projection, const BarSpace& space) {
 
 void DrawBars3D(Plot& plot, const Stage& stage, const Projection& projection) {
   std::vector<Standing> bars = BarsOf(stage);
+  if (bars.size() > kMostBars) {
+    plot.canvas.Note("The chart has more bars than are drawn in 3-D; the rest is left out.");
+    bars.pop_back();
+  }
   SortBackToFront(bars, stage.EyeShares(projection));
   const Tips tips(stage, bars);
   const GroupModel& group = stage.Group();

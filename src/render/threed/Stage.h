@@ -23,6 +23,8 @@ class Stage {
   Stage(const ChartModel& chart, const GroupModel& group);
 
   const GroupModel& Group() const { return group_; }
+  /// Whether a missing value counts as zero, which has a body without a height.
+  bool BlanksAreZero() const { return chart_.blanks == "zero"; }
   const AxisModel& Categories() const { return chart_.axes[static_cast<std::size_t>(group_.category)]; }
   const AxisModel& Values() const { return chart_.axes[static_cast<std::size_t>(group_.value)]; }
   /// Null where all series stand at the same depth.
