@@ -230,8 +230,7 @@ void DrawKey(Canvas& canvas, const ChartModel& chart, Tag tag, const Rect& box) 
 }
 
 void DrawLegend(Canvas& canvas, const ChartModel& chart, const LegendLayout& layout) {
-  canvas.Add({Role::kLegend}, Path().AddRect(layout.box), chart.legend->style.fill,
-             chart.legend->style.stroke);
+  canvas.AddFrame({Role::kLegend}, layout.box, chart.legend->style.fill, chart.legend->style.stroke);
   for (const PlacedEntry& placed : layout.entries) {
     const LegendEntry& entry = *placed.entry;
     DrawKey(canvas, chart, {Role::kLegendKey, entry.series, entry.point}, placed.key);
