@@ -15,11 +15,15 @@
 #include "forms/UnattendedView.h"
 #include "fuzz/TemporaryBook.h"
 #include "fuzz/Wizard.h"
+#include "render/ChartDrawing.h"
+#include "render/cairo/CairoPainter.h"
+#include "render/svg/SvgWriter.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/Application.h"
 #include "xlsx/SheetDrawing.h"
 #include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/chart/ChartPart.h"
 #include "xlsx/package/MemoryStream.h"
 #include "xlsx/package/Package.h"
 #include "xlsx/package/PackageError.h"
@@ -182,7 +186,28 @@ void RefreshWith(const char* part, std::string_view bytes) {
   unlink(path.c_str());
 }
 
+/// A picture of a chart whose part is made of the bytes, in each of the forms.
+void DrawChartOf(std::string_view bytes) {
+  static const render::Fonts fonts;
+  const auto host = xlsx::Application::Create();
+  auto& book = host->NewWorkbook();
+  book.AllSheets()[0]->worksheet->ChartObjects()->Add(0, 0, 100, 100);
+  const std::string path = TemporaryBook();
+  book.Save(path);
+  Tolerate([&] {
+    host->Open(path);
+    host->Book().Package().Replace("/xl/charts/chart1.xml", std::string(bytes));
+    render::Notes notes;
+    const auto part = host->Book().Chart("/xl/charts/chart1.xml");
+    const render::Drawing drawing = render::DrawChart(*part, 300, 200, fonts, notes);
+    MakeSvg(drawing);
+    MakePng(drawing, fonts, 36);
+  });
+  unlink(path.c_str());
+}
+
 void Chart(const std::uint8_t* data, std::size_t size) {
+  DrawChartOf(Text(data, size));
   RefreshWith("/xl/charts/chart1.xml", Text(data, size));
 }
 void Drawing(const std::uint8_t* data, std::size_t size) {
