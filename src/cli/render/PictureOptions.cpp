@@ -75,7 +75,7 @@ const char* EndingOf(PictureFormat format) {
 
 void DeclarePictureOptions(CLI::App& verb, PictureOptions& options) {
   verb.add_option("--format", options.format, "svg, png or pdf (without it: as -o ends, else svg)")
-      ->type_name("FORMAT");
+      ->type_name("KIND");
   verb.add_option("--dpi", options.dpi, "Pixels of a PNG for an inch (without it: 96)")->type_name("N");
   verb.add_option("--scale", options.scale, "Draw so many times as large")->type_name("N");
 }
