@@ -25,6 +25,10 @@ void Canvas::Add(Tag tag, Path path, const Fill& fill, const Stroke& stroke) {
   drawing_.items.push_back({tag, PathItem{std::move(path), fill, stroke}});
 }
 
+void Canvas::AddFrame(Tag tag, const Rect& box, const Fill& fill, const Stroke& stroke) {
+  drawing_.items.push_back({tag, PathItem{Path().AddRect(box), fill, stroke}});
+}
+
 void Canvas::AddLine(Tag tag, Point from, Point to, const Stroke& stroke) {
   Add(tag, Path().MoveTo(from).LineTo(to), {}, stroke);
 }

@@ -18,6 +18,8 @@ class Canvas {
 
   /// Appends a path unless it has neither filling nor line, or no finite place.
   void Add(Tag tag, Path path, const Fill& fill, const Stroke& stroke = {});
+  /// Appends a rectangle that readers of the drawing look for, even if nothing of it is seen.
+  void AddFrame(Tag tag, const Rect& box, const Fill& fill, const Stroke& stroke);
   void AddLine(Tag tag, Point from, Point to, const Stroke& stroke);
   /// Appends one line of text and fills in its measures.
   void AddText(Tag tag, TextItem text);

@@ -84,7 +84,7 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
 void DrawPlot(Plot& plot, const ChartLayout& layout) {
   const ChartModel& chart = plot.chart;
   if (chart.groups.empty()) return;  // a chart without data shows nothing of its plot area
-  plot.canvas.Add({Role::kPlotArea}, Path().AddRect(plot.area), chart.plotArea.fill, chart.plotArea.stroke);
+  plot.canvas.AddFrame({Role::kPlotArea}, plot.area, chart.plotArea.fill, chart.plotArea.stroke);
   for (const AxisModel& axis : chart.axes) DrawGridlines(plot.canvas, chart, axis, plot.area);
   for (const GroupModel& group : chart.groups) DrawGroup(plot, group);
   for (std::size_t i = 0; i < chart.axes.size(); ++i) {

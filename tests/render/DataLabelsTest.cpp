@@ -125,5 +125,22 @@ TEST_F(DataLabelsTest, OfPiesAreInsideOfTheirSliceOrOutsideOfTheCircle) {
   EXPECT_LT(BoxOf(best, Role::kSlice).width, BoxOf(draw("ctr", {1, 99}), Role::kSlice).width);
 }
 
+TEST_F(DataLabelsTest, ADraggedLabelIsTiedToItsSlice) {
+  const S dragged =
+      "<c:dLbl><c:idx val=\"0\"/><c:layout><c:manualLayout><c:x val=\"0.2\"/><c:y "
+      "val=\"0.1\"/></c:manualLayout>"
+      "</c:layout></c:dLbl><c:dLblPos val=\"outEnd\"/>" +
+      Shown("showVal");
+  const Drawing with = DrawLabels("pieChart", "", dragged + Shown("showLeaderLines"));
+  const Drawing without = DrawLabels("pieChart", "", dragged);
+  const Drawing still =
+      DrawLabels("pieChart", "", "<c:dLblPos val=\"outEnd\"/>" + Shown("showVal") + Shown("showLeaderLines"));
+  ASSERT_EQ(ItemsOf(with, Role::kLeaderLine).size(), 1u);
+  EXPECT_TRUE(ItemsOf(without, Role::kLeaderLine).empty());
+  EXPECT_TRUE(ItemsOf(still, Role::kLeaderLine).empty());
+  const Rect line = BoxOf(with, Role::kLeaderLine), label = BoxesOf(with, Role::kDataLabel)[0];
+  EXPECT_NEAR(line.Right(), label.left, 4);
+}
+
 }  // namespace
 }  // namespace plotsmith

@@ -1,6 +1,7 @@
 #include <numbers>
 
 #include "tests/render/DrawingTest.h"
+#include "xlsx/Worksheet.h"
 
 namespace plotsmith {
 namespace {
@@ -135,6 +136,25 @@ TEST_F(FamiliesTest, LinesAndAreasGoThroughTheirValues) {
     EXPECT_NEAR(steps[i].to.x, inner.left + inner.width * expected[i][0], 1e-6) << i;
     EXPECT_NEAR(steps[i].to.y, inner.Bottom() - inner.height * expected[i][1] / 10, 1e-6) << i;
   }
+}
+
+TEST_F(FamiliesTest, ValuesWithoutACacheAreThoseOfTheCells) {
+  const S series =
+      "<c:ser><c:idx val=\"0\"/><c:order "
+      "val=\"0\"/><c:cat><c:strRef><c:f>Sheet1!$A$2:$A$4</c:f></c:strRef></c:cat>"
+      "<c:val><c:numRef><c:f>Sheet1!$C$2:$C$4</c:f></c:numRef></c:val></c:ser>";
+  const Drawing drawing = Draw(PlotXml(
+      GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>", series) + AxesXml()));
+  const auto sheet = Book().FindWorksheet("Sheet1");
+  const auto bars = BoxesOf(drawing, Role::kBar);
+  ASSERT_EQ(bars.size(), 3u);
+  const auto value = [&](int row) { return sheet->Stored(row, 3).number; };
+  for (int i = 0; i < 3; ++i) {
+    const auto& bar = bars[static_cast<std::size_t>(i)];
+    EXPECT_NEAR(bar.height / bars[0].height, value(i + 2) / value(2), 1e-9) << i;
+  }
+  std::string scratch;
+  EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1)[0], sheet->CellTextAt(2, 1, scratch));
 }
 
 TEST_F(FamiliesTest, SeriesOfTwoAxesFollowTheirOwnScale) {

@@ -1,5 +1,6 @@
 #include "render/cairo/CairoPainter.h"
 
+#include <algorithm>
 #include <cairo-pdf.h>
 #include <cairo.h>
 #include <cmath>
@@ -60,6 +61,37 @@ void SetStroke(cairo_t* cr, const Stroke& stroke) {
                                                             : CAIRO_LINE_JOIN_MITER);
 }
 
+/// A long line is stroked in pieces: Cairo looks for crossings in all of a line at once, which takes minutes
+/// for thousands of corners. Pieces share a step, so that no corner shows where they meet.
+void StrokeInPieces(cairo_t* cr, const Path& path) {
+  constexpr std::size_t kPiece = 12;
+  const auto& steps = path.Steps();
+  Path piece;
+  for (std::size_t i = 0; i < steps.size(); ++i) {
+    const PathStep& step = steps[i];
+    const bool begins = step.kind == PathStep::Kind::kMove;
+    if (begins || piece.Steps().size() >= kPiece) {
+      Trace(cr, piece);
+      cairo_stroke(cr);
+      piece = Path();
+      if (!begins) piece.MoveTo(steps[i - 2].to).LineTo(steps[i - 1].to);
+    }
+    begins ? piece.MoveTo(step.to) : piece.LineTo(step.to);
+  }
+  Trace(cr, piece);
+  cairo_stroke(cr);
+}
+
+/// Whether pieces of the line look like the whole: straight steps in an opaque colour without dashes.
+bool MayBeStrokedInPieces(const PathItem& item) {
+  constexpr std::size_t kLong = 200;
+  const auto& steps = item.path.Steps();
+  return steps.size() > kLong && item.stroke.dashes.empty() && item.stroke.color.alpha == 1 &&
+         std::all_of(steps.begin(), steps.end(), [](const PathStep& step) {
+           return step.kind == PathStep::Kind::kMove || step.kind == PathStep::Kind::kLine;
+         });
+}
+
 class Painter {
  public:
   Painter(cairo_t* cr, const Fonts& fonts) : cr_(cr), fonts_(fonts) {}
@@ -74,7 +106,11 @@ class Painter {
     if (SetSource(cr_, item.fill, item.path.Bounds())) cairo_fill_preserve(cr_);
     if (item.stroke.width > 0) {
       SetStroke(cr_, item.stroke);
-      cairo_stroke_preserve(cr_);
+      if (MayBeStrokedInPieces(item)) {
+        StrokeInPieces(cr_, item.path);
+      } else {
+        cairo_stroke_preserve(cr_);
+      }
     }
     cairo_new_path(cr_);
   }

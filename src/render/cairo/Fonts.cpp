@@ -1,7 +1,8 @@
 #include "render/cairo/Fonts.h"
 
+#include <cmath>
 #include <fontconfig/fontconfig.h>
-#include <functional>
+#include <hb-ot.h>
 #include <pango/pangocairo.h>
 #include <string>
 #include <unordered_map>
@@ -75,6 +76,31 @@ struct Fonts::State {
     return layout;
   }
 
+  /// Ascent and descent as Windows has them: what a font says for clipping, and the gap between its lines as
+  /// far as that isn't in it already.
+  void MeasureHeight(FontEntry& entry, double size) const {
+    const std::unique_ptr<PangoFont, Release> found(
+        pango_font_map_load_font(map.get(), context.get(), entry.description.get()));
+    hb_font_t* font = found ? pango_font_get_hb_font(found.get()) : nullptr;
+    int scale = 0;
+    if (font != nullptr) hb_font_get_scale(font, nullptr, &scale);
+    const auto ems = [&](hb_ot_metrics_tag_t tag) {
+      hb_position_t position = 0;
+      const bool known = scale != 0 && hb_ot_metrics_get_position(font, tag, &position);
+      return known ? std::abs(static_cast<double>(position) / scale) : 0;
+    };
+    entry.ascent = ems(HB_OT_METRICS_TAG_HORIZONTAL_CLIPPING_ASCENT);
+    entry.descent = ems(HB_OT_METRICS_TAG_HORIZONTAL_CLIPPING_DESCENT);
+    const double line = ems(HB_OT_METRICS_TAG_HORIZONTAL_ASCENDER) +
+                        ems(HB_OT_METRICS_TAG_HORIZONTAL_DESCENDER) +
+                        ems(HB_OT_METRICS_TAG_HORIZONTAL_LINE_GAP);
+    if (!(entry.ascent + entry.descent > 0))
+      entry = {std::move(entry.description), 0.9, 0.25, {}};  // no OpenType
+    entry.descent = std::max(entry.descent, line - entry.ascent);
+    entry.ascent *= size;
+    entry.descent *= size;
+  }
+
   FontEntry& EntryOf(const Font& font) {
     const auto [found, isNew] = fonts.try_emplace(KeyOf(font));
     FontEntry& entry = found->second;
@@ -88,12 +114,7 @@ struct Fonts::State {
                                       font.bold ? PANGO_WEIGHT_BOLD : PANGO_WEIGHT_NORMAL);
     pango_font_description_set_style(entry.description.get(),
                                      font.italic ? PANGO_STYLE_ITALIC : PANGO_STYLE_NORMAL);
-    const Layout sample = MakeLayout("x", entry, false);
-    PangoRectangle logical;
-    pango_layout_get_extents(sample.get(), nullptr, &logical);
-    const int baseline = pango_layout_get_baseline(sample.get());
-    entry.ascent = pango_units_to_double(baseline - logical.y);
-    entry.descent = pango_units_to_double(logical.y + logical.height - baseline);
+    MeasureHeight(entry, font.size);
     return entry;
   }
 

@@ -5,11 +5,11 @@
 namespace plotsmith::render {
 namespace {
 
-/// Points of a dense line: of those that share a tenth of a point across, the first, the least, the greatest
+/// Points of a dense line: of those that share half a point across, the first, the least, the greatest
 /// and the last are left.
 std::vector<Point> Thinned(const std::vector<Point>& points) {
   constexpr std::size_t kDense = 2000;
-  constexpr double kColumn = 0.25;  // points
+  constexpr double kColumn = 0.5;  // points, less than a pixel
   if (points.size() <= kDense) return points;
   std::vector<Point> kept;
   for (std::size_t from = 0; from < points.size();) {

@@ -96,6 +96,23 @@ Point CenterOf(const Plot& plot, const DrawnPoint& point, const LabelModel& labe
   }
 }
 
+/// The line from a slice to its label, once that was dragged away from it.
+void DrawLeader(Plot& plot, const DrawnPoint& point, const Rect& label) {
+  const LabelsModel& labels = point.series->labels;
+  if (!labels.leaderLines || point.sweep <= 0) return;
+  const Point from = OnEllipse(point.circle, point.angle + point.sweep / 2), center = label.Center();
+  if (std::hypot(center.x - point.circle.Center().x, center.y - point.circle.Center().y) <=
+      point.circle.width / 2) {
+    return;  // a label inside of the circle
+  }
+  const Point to{std::clamp(from.x, label.left, label.Right()),
+                 std::clamp(from.y, label.top, label.Bottom())};
+  constexpr double kShortest = 5;  // points
+  if (std::hypot(to.x - from.x, to.y - from.y) < kShortest) return;
+  plot.canvas.AddLine({Role::kLeaderLine, point.series->number, static_cast<int>(point.index + 1)}, from, to,
+                      labels.leaderStroke);
+}
+
 void DrawLabel(Plot& plot, const DrawnPoint& point, const LabelModel& label) {
   const RichText text = LabelText(plot.chart, *point.group, *point.series, point.index, label, point.share);
   if (text.IsEmpty()) return;
@@ -117,6 +134,7 @@ void DrawLabel(Plot& plot, const DrawnPoint& point, const LabelModel& label) {
   center.y = std::max(std::min(center.y, bottom), half.height);
   const Tag tag{Role::kDataLabel, point.series->number, static_cast<int>(point.index + 1)};
   const Rect box{center.x - half.width, center.y - half.height, 2 * half.width, 2 * half.height};
+  if (label.layout) DrawLeader(plot, point, box);
   plot.canvas.Add(tag, Path().AddRect(box), label.style.fill, label.style.stroke);
   if (label.showsKey) {
     DrawKey(plot.canvas, plot.chart, {Role::kLegendKey, tag.series, tag.point},

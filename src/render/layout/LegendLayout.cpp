@@ -188,7 +188,12 @@ LegendLayout LayOutLegend(const ChartModel& chart, const Rect& bounds, Rect& fre
   }
   Rect box = layout.box;
   Dock(legend, box, free, kGap);
-  if (legend.layout) ApplyLayout(*legend.layout, bounds, box);
+  if (legend.layout) {
+    ApplyLayout(*legend.layout, bounds, box);
+    // wherever it was dragged, it is on the chart
+    box.left = std::max(std::min(box.left, bounds.Right() - box.width), bounds.left);
+    box.top = std::max(std::min(box.top, bounds.Bottom() - box.height), bounds.top);
+  }
   // entries keep to the middle of a box that is larger than they need
   const double right = std::max(box.width - layout.box.width, 0.0) / 2;
   const double down = std::max(box.height - layout.box.height, 0.0) / 2;
@@ -225,8 +230,7 @@ void DrawKey(Canvas& canvas, const ChartModel& chart, Tag tag, const Rect& box) 
 }
 
 void DrawLegend(Canvas& canvas, const ChartModel& chart, const LegendLayout& layout) {
-  canvas.Add({Role::kLegend}, Path().AddRect(layout.box), chart.legend->style.fill,
-             chart.legend->style.stroke);
+  canvas.AddFrame({Role::kLegend}, layout.box, chart.legend->style.fill, chart.legend->style.stroke);
   for (const PlacedEntry& placed : layout.entries) {
     const LegendEntry& entry = *placed.entry;
     DrawKey(canvas, chart, {Role::kLegendKey, entry.series, entry.point}, placed.key);

@@ -11,8 +11,8 @@
 namespace plotsmith::render {
 
 /// Points of one series, and of all series of a chart, that are drawn. Excel's own limits were 32,000 and
-/// 256,000 for long.
-inline constexpr std::size_t kMostPoints = 100'000, kMostPointsOfAll = 1'000'000;
+/// 256,000 for long. Numbers and texts count alike.
+inline constexpr std::size_t kMostPoints = 100'000, kMostPointsOfAll = 2'000'000;
 
 /// What the readers of a chart's parts share.
 struct ReadingContext {

@@ -17,8 +17,9 @@ namespace xml = xlsx::xml;
 
 namespace {
 
-constexpr double kLineWidth = 2.25;  // points, of an automatic line of a series
-constexpr double kMarkerSize = 7;    // points, of an automatic marker
+constexpr std::size_t kMostColors = 54;  // until the colourful palette begins again
+constexpr double kLineWidth = 2.25;      // points, of an automatic line of a series
+constexpr double kMarkerSize = 7;        // points, of an automatic marker
 
 struct Kind {
   std::string_view element;
@@ -124,8 +125,10 @@ bool DrawsMarkers(const GroupModel& group) {
 void ReadPoints(ReadingContext& context, const GroupModel& group, SeriesModel& series, bool drawsMarkers,
                 bool varies) {
   if (varies) {
+    // nobody tells more colours apart
+    const std::size_t colors = std::min(series.values.size(), kMostColors);
     for (std::size_t i = 0; i < series.values.size(); ++i) {
-      const Color color = context.styles.SeriesColor(i, series.values.size());
+      const Color color = context.styles.SeriesColor(i % kMostColors, colors);
       PointModel& point = series.points[i];
       point.style = ReadStyle(context.part, xml::Child(series.node, "spPr"), AutomaticStyle(group, color));
       point.marker =

@@ -118,6 +118,7 @@ std::string FontFamilies(const std::string& family) {
 class Writer {
  public:
   void operator()(const PathItem& item) {
+    if (std::holds_alternative<std::monostate>(item.fill) && !(item.stroke.width > 0)) return;
     body_ += "<path d=\"" + PathData(item.path) + '"' +
              FillAttributes(item.fill, item.path.Bounds(), definitions_) + StrokeAttributes(item.stroke) +
              "/>\n";
