@@ -13,6 +13,7 @@
 #include "render/shapes/UserShapes.h"
 #include "render/threed/Plot3D.h"
 #include "xlsx/chart/ChartPart.h"
+#include "xlsx/package/Xml.h"
 
 namespace plotsmith::render {
 namespace {
@@ -64,17 +65,18 @@ void DrawGroup(Plot& plot, const GroupModel& group) {
   }
 }
 
-/// What of a group's series is known but not drawn.
+/// What of a chart is known but not drawn.
 void NoteMissing(Canvas& canvas, const ChartModel& chart) {
   const auto has = [](pugi::xml_node node, std::string_view local) {
-    return std::any_of(node.begin(), node.end(), [&](pugi::xml_node child) {
-      const std::string_view name = child.name();
-      return name.substr(name.find(':') + 1) == local;
-    });
+    return bool(xlsx::xml::Child(node, local));
   };
   for (const GroupModel& group : chart.groups) {
     if (has(group.node, "upDownBars")) canvas.Note("Up and down bars aren't drawn.");
+    if (has(group.node.parent(), "dTable")) canvas.Note("The data table below the chart isn't drawn.");
     for (const SeriesModel& series : group.series) {
+      if (xlsx::xml::Child(series.node, "cat", "multiLvlStrRef")) {
+        canvas.Note("Of categories in several levels, only the innermost are drawn.");
+      }
       if (has(series.node, "trendline")) canvas.Note("Trendlines aren't drawn.");
       if (has(series.node, "errBars")) canvas.Note("Error bars aren't drawn.");
     }

@@ -157,6 +157,53 @@ INSTANTIATE_TEST_SUITE_P(
                   true}),
     [](const auto& info) { return S(info.param.name); });
 
+TEST_F(AxesTest, DatesLieWhereTheirDayMonthOrYearIs) {
+  struct {
+    const char* what;
+    S axis;
+    std::vector<double> serials, slots;  // 45292 is 1 January 2024
+    Texts labels;
+  } cases[] = {
+      {"days", "", {45292, 45293, 45296}, {0, 1, 4}, {"1-1", "1-2", "1-3", "1-4", "1-5"}},
+      {"months by themselves", "", {45292, 45352, 45383}, {0, 2, 3}, {"1-1", "2-1", "3-1", "4-1"}},
+      {"years by hand",
+       "<c:baseTimeUnit val=\"years\"/>",
+       {45292, 45352, 46023},
+       {0, 0, 2},
+       {"1-1", "1-1", "1-1"}},
+      {"each second month",
+       "<c:baseTimeUnit val=\"days\"/><c:majorUnit val=\"2\"/><c:majorTimeUnit val=\"months\"/>",
+       {45322, 45323, 45412},
+       {0, 1, 90},
+       {"1-31", "3-31"}},
+      {"no dates", "", {1, 1e9}, {}, {"1-1", "########"}},
+  };
+  for (const auto& test : cases) {
+    S cache, values;
+    for (std::size_t i = 0; i < test.serials.size(); ++i) {
+      cache +=
+          "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + std::to_string(test.serials[i]) + "</c:v></c:pt>";
+    }
+    const S categories = "<c:cat><c:numLit><c:formatCode>m-d</c:formatCode><c:ptCount val=\"" +
+                         std::to_string(test.serials.size()) + "\"/>" + cache + "</c:numLit></c:cat>";
+    S axes = AxesXml("<c:numFmt formatCode=\"m-d\" sourceLinked=\"0\"/>" + test.axis);
+    for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "dateAx");
+    const Drawing drawing =
+        Draw(PlotXml(GroupXml("lineChart", "",
+                              SeriesXml(0, std::vector<double>(test.serials.size(), 2), "", "", categories),
+                              "<c:marker val=\"1\"/>") +
+                     axes));
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), test.labels) << test.what;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
+    const Rect plot = BoxOf(drawing, Role::kPlotArea);
+    const auto markers = BoxesOf(drawing, Role::kMarker);
+    for (std::size_t i = 0; i < test.slots.size(); ++i) {
+      const double expected = plot.left + plot.width * (test.slots[i] + 0.5) / (test.slots.back() + 1);
+      EXPECT_NEAR(markers[i].Center().x, expected, 1e-6) << test.what << i;
+    }
+  }
+}
+
 TEST_F(AxesTest, LongNamesBesideBarsLeaveRoomForThem) {
   const Drawing drawing = DrawWith(
       {3, 5}, "", "", {"A name that goes on and on until nothing is left of the chart at all", "B"}, true);

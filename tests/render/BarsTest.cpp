@@ -93,6 +93,20 @@ TEST_P(BarsTest, GoTheOtherWayFromZeroWhereTheyAreNegative) {
   EXPECT_NEAR(base(first[0], false), base(second[2], false), 1e-6);
 }
 
+TEST_F(DrawingTest, BarsOverlapOrStandApartByAShareOfTheirWidth) {
+  for (const double overlap : {-100, -50, 0, 40, 100}) {
+    const Drawing drawing = Draw(
+        PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>",
+                         SeriesXml(0, {4, 2}) + SeriesXml(1, {1, 3}),
+                         "<c:gapWidth val=\"100\"/><c:overlap val=\"" + std::to_string(overlap) + "\"/>") +
+                AxesXml()));
+    const Rect first = BoxesOf(drawing, Role::kBar, 1)[0], second = BoxesOf(drawing, Role::kBar, 2)[0];
+    EXPECT_NEAR((first.Right() - second.left) / first.width, overlap / 100, 1e-6) << overlap;
+    const double category = BoxOf(drawing, Role::kPlotArea).width / 2;
+    EXPECT_NEAR(category, Union(first, second).width + first.width, 1e-6) << overlap;
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Kinds, BarsTest,
                          ::testing::Values(BarCase{"Columns", "col", "clustered", ""},
                                            BarCase{"StackedColumns", "col", "stacked", ""},

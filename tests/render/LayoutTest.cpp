@@ -118,6 +118,7 @@ TEST_F(LayoutTest, TitlesBreakKeepTheirRunsAndMakeRoom) {
   EXPECT_EQ(HexOf(red.color), "#C00000");
   EXPECT_NEAR(plain.Bounds().Right(), red.Bounds().left, 1e-6);
   EXPECT_EQ(plain.anchor.y, red.anchor.y);
+  EXPECT_NEAR(BoundsOf(runs[2]).top, plain.Bounds().Bottom(), 1e-6);
   EXPECT_NEAR(BoxOf(with, Role::kTitle).Center().x, 192, 0.01);
   EXPECT_LT(BoxOf(with, Role::kTitle).Bottom(), BoxOf(with, Role::kPlotArea).top);
   EXPECT_LT(BoxOf(without, Role::kPlotArea).top, BoxOf(with, Role::kPlotArea).top);

@@ -6,6 +6,7 @@
 
 #include "render/axes/AxisMap.h"
 #include "render/axes/AxisPlace.h"
+#include "render/axes/DateAxis.h"
 #include "xlsx/chart/AutomaticLayout.h"
 
 namespace plotsmith::render {
@@ -21,11 +22,18 @@ std::vector<double> MajorPlaces(const AxisModel& axis, const AxisMap& map, xlsx:
     for (const Tick& tick : MajorTicks(axis, dates)) places.push_back(map.OfValue(tick.value));
     return places;
   }
+  if (axis.dates) {
+    for (const DateTick& tick : DateTicks(axis, dates)) {
+      places.push_back(map.OfSlot(tick.slot - (axis.crossesBetween ? 0.5 : 0)));
+    }
+    if (axis.crossesBetween) places.push_back(map.High());
+    return places;
+  }
   const auto count = static_cast<long long>(axis.categories.size());
   const long long marks = axis.crossesBetween ? count + 1 : count;
   const long long step = std::max(axis.tickSkip, marks / static_cast<long long>(kMostMarks) + 1);
   for (long long i = 0; i < marks; i += step) {
-    places.push_back(map.OfCategory(static_cast<double>(i) - (axis.crossesBetween ? 0.5 : 0)));
+    places.push_back(map.OfSlot(static_cast<double>(i) - (axis.crossesBetween ? 0.5 : 0)));
   }
   return places;
 }
@@ -34,9 +42,9 @@ std::vector<double> MinorPlaces(const AxisModel& axis, const AxisMap& map) {
   std::vector<double> places;
   if (axis.IsOfValues()) {
     for (const double value : MinorTicks(axis)) places.push_back(map.OfValue(value));
-  } else if (axis.categories.size() < kMostMarks) {
+  } else if (!axis.dates && axis.categories.size() < kMostMarks) {
     for (std::size_t i = 0; i < axis.categories.size(); ++i) {
-      places.push_back(map.OfCategory(static_cast<double>(i) + (axis.crossesBetween ? 0 : 0.5)));
+      places.push_back(map.OfSlot(static_cast<double>(i) + (axis.crossesBetween ? 0 : 0.5)));
     }
   }
   return places;
@@ -125,7 +133,7 @@ void DrawTickLabels(Canvas& canvas, const ChartModel& chart, const AxisModel& ax
   const AxisPlace place = PlaceOf(chart, axis, plot);
   const AxisMap map = AxisMap::Along(axis, plot);
   for (const TickLabel& label : labels.labels) {
-    const double along = label.category ? map.OfCategory(label.place) : map.OfValue(label.place);
+    const double along = label.category ? map.OfSlot(label.place) : map.OfValue(label.place);
     const TextAlign align = !axis.IsUpright()                ? TextAlign::kMiddle
                             : place.labelSide == Side::kLeft ? TextAlign::kEnd
                                                              : TextAlign::kStart;

@@ -16,7 +16,7 @@ AxisMap::AxisMap(const AxisModel& axis, double low, double high)
     : axis_(axis),
       low_(axis.reversed ? high : low),
       high_(axis.reversed ? low : high),
-      categories_(static_cast<double>(std::max<std::size_t>(axis.categories.size(), 1))) {}
+      slots_(std::max(axis.dates ? axis.dates->count : static_cast<double>(axis.categories.size()), 1.0)) {}
 
 AxisMap AxisMap::Along(const AxisModel& axis, const Rect& plot) {
   return axis.IsUpright() ? AxisMap(axis, plot.Bottom(), plot.top) : AxisMap(axis, plot.left, plot.Right());
@@ -35,12 +35,19 @@ double AxisMap::OfValue(double value) const {
 }
 
 double AxisMap::OfCategory(double index) const {
-  if (axis_.crossesBetween) return low_ + (index + 0.5) / categories_ * (high_ - low_);
-  return categories_ < 2 ? (low_ + high_) / 2 : low_ + index / (categories_ - 1) * (high_ - low_);
+  if (!axis_.dates) return OfSlot(index);
+  const auto& positions = axis_.dates->positions;
+  const auto number = static_cast<std::size_t>(std::max(index, 0.0));
+  return OfSlot(number < positions.size() ? positions[number] : index);
+}
+
+double AxisMap::OfSlot(double index) const {
+  if (axis_.crossesBetween) return low_ + (index + 0.5) / slots_ * (high_ - low_);
+  return slots_ < 2 ? (low_ + high_) / 2 : low_ + index / (slots_ - 1) * (high_ - low_);
 }
 
 double AxisMap::CategoryWidth() const {
-  return std::abs(high_ - low_) / (axis_.crossesBetween ? categories_ : std::max(categories_ - 1, 1.0));
+  return std::abs(high_ - low_) / (axis_.crossesBetween ? slots_ : std::max(slots_ - 1, 1.0));
 }
 
 double AxisMap::Base() const {

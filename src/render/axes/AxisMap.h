@@ -20,6 +20,9 @@ class AxisMap {
   double OfValue(double value) const;
   /// The middle of a category, from 0; on the axis of values' crossings where those are on categories.
   double OfCategory(double index) const;
+  /// The same of a place between categories, or of a date on an axis of dates, counted in slots from the
+  /// first.
+  double OfSlot(double index) const;
   /// From one category to the next; never negative.
   double CategoryWidth() const;
   /// The place where bars and areas begin: zero, or the limit that is nearest to it.
@@ -32,7 +35,7 @@ class AxisMap {
 
   const AxisModel& axis_;
   double low_, high_;
-  double categories_;
+  double slots_;  ///< categories, or days, months or years
 };
 
 struct Tick {

@@ -17,10 +17,12 @@ double CrossingOn(const AxisModel& crossed, const AxisModel& axis, const AxisMap
     const double value = std::clamp(*axis.crossesAt, crossed.scale.minimum, crossed.scale.maximum);
     return map.OfValue(value);
   }
-  const double count = static_cast<double>(std::max<std::size_t>(crossed.categories.size(), 1));
+  const double categories =
+      crossed.dates ? crossed.dates->count : static_cast<double>(crossed.categories.size());
+  const double count = std::max(categories, 1.0);
   const double number = std::clamp(axis.crossesAt.value_or(1), 1.0, count + (crossed.crossesBetween ? 1 : 0));
   // between categories, an axis crosses in front of the one with the number
-  return map.OfCategory(number - 1 - (crossed.crossesBetween ? 0.5 : 0));
+  return map.OfSlot(number - 1 - (crossed.crossesBetween ? 0.5 : 0));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "render/axes/DateAxis.h"
 #include "render/model/ChartReader.h"
 
 namespace plotsmith::render {
@@ -127,14 +128,23 @@ TickLabels LayOutTickLabels(const AxisModel& axis, double length, double depth, 
       texts.push_back(std::move(tick.label));
       places.push_back(tick.value);
     }
+  } else if (axis.dates) {
+    for (DateTick& tick : DateTicks(axis, dates)) {
+      texts.push_back(std::move(tick.label));
+      places.push_back(tick.slot);
+    }
   } else {
     texts = axis.categories;
+    for (std::size_t i = 0; i < texts.size(); ++i) places.push_back(static_cast<double>(i));
   }
   if (texts.empty()) return result;
   const Sizes sizes = Measure(texts, axis.text, measure);
   const double count = static_cast<double>(texts.size());
   const bool onTicks = axis.IsOfValues() || !axis.crossesBetween;
-  const double slot = length / std::max(onTicks ? count - 1 : count, 1.0);
+  double slot = length / std::max(onTicks ? count - 1 : count, 1.0);
+  for (std::size_t i = 1; axis.dates && i < places.size(); ++i) {  // months differ
+    slot = std::min(slot, length * (places[i] - places[i - 1]) / std::max(axis.dates->count, 1.0));
+  }
   const Setting setting = axis.IsUpright() ? SettingForUpright(axis, sizes, slot, depth)
                                            : SettingForFlat(axis, sizes, slot, depth);
   result.rotation = setting.rotation;
@@ -142,8 +152,8 @@ TickLabels LayOutTickLabels(const AxisModel& axis, double length, double depth, 
   style.rotation = setting.rotation;
   const auto skip = static_cast<std::size_t>(std::max(setting.skip, 1.0));
   for (std::size_t i = 0; i < texts.size(); i += skip) {
-    TickLabel label{static_cast<int>(i + 1), axis.IsOfValues() ? places[i] : static_cast<double>(i),
-                    !axis.IsOfValues(), LayOut(texts[i], style, measure, setting.wrap)};
+    TickLabel label{static_cast<int>(i + 1), places[i], !axis.IsOfValues(),
+                    LayOut(texts[i], style, measure, setting.wrap)};
     if (setting.rotation != 0 && !axis.IsUpright()) {
       const double sine = std::abs(std::sin(setting.rotation * kRadian));
       if (sine > 0.05) Shorten(label.block, std::max(depth / sine, 3 * sizes.lineHeight), measure);

@@ -10,7 +10,7 @@ namespace plotsmith::render {
 
 struct TickLabel {
   int number = 1;    ///< of the tick or of the category, from 1
-  double place = 0;  ///< of the value, or the number of the category from 0
+  double place = 0;  ///< the value, or the slot of the category or date from 0
   bool category = false;
   TextBlock block;
 };

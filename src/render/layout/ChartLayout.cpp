@@ -191,7 +191,7 @@ class Layouter {
     const AxisMap map(axis, 0, length);
     double before = 0, behind = 0;
     for (const TickLabel* label : {&labels.labels.front(), &labels.labels.back()}) {
-      const double place = label->category ? map.OfCategory(label->place) : map.OfValue(label->place);
+      const double place = label->category ? map.OfSlot(label->place) : map.OfValue(label->place);
       const double turn = std::sin(labels.rotation * std::numbers::pi / 180);
       const bool slanted = !axis.IsUpright() && std::abs(turn) > 0.05 && std::abs(turn) < 0.99;
       const double along = axis.IsUpright() ? label->block.TurnedHeight() : label->block.TurnedWidth();

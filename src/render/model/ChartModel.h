@@ -168,6 +168,17 @@ struct DisplayUnits {
   std::optional<TitleModel> label;
 };
 
+/// The days, months or years along an axis of dates. A slot is one of them.
+enum class TimeUnit : std::uint8_t { kDays, kMonths, kYears };
+struct DateSlots {
+  TimeUnit base = TimeUnit::kDays;
+  long long first = 0;            ///< the number of the first slot, days from 1970 or months or years from 0
+  double count = 0;               ///< of slots
+  std::vector<double> positions;  ///< of the categories, in slots from the first
+  double majorUnit = 0;           ///< from label to label; 0 where Excel decides
+  TimeUnit majorBase = TimeUnit::kDays;
+};
+
 struct AxisModel {
   pugi::xml_node node;
   int number = 1;  ///< in the chart part, from 1
@@ -194,6 +205,7 @@ struct AxisModel {
   long long labelSkip = 0, tickSkip = 1;  ///< 0 where Excel decides
   DisplayUnits units;
   std::vector<std::string> categories;  ///< of its first group
+  std::optional<DateSlots> dates;       ///< of an axis of dates whose categories are dates
 
   bool IsUpright() const { return side == Side::kLeft || side == Side::kRight; }
   bool IsOfValues() const { return kind == AxisKind::kValue; }

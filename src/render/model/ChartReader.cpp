@@ -53,6 +53,9 @@ void Attach(ReadingContext& context, GroupModel& group, std::vector<AxisModel>& 
     if (category->categories.size() < group.categories.size()) category->categories = group.categories;
     const std::string fallback(xlsx::CrossBetween(xml::LocalName(group.node)));
     category->crossesBetween = schema::Val(roles.value, "crossBetween", fallback) == "between";
+    if (category->kind == AxisKind::kDate && !category->dates) {
+      ReadDates(context, xml::Child(group.series.front().node, "cat"), *category);
+    }
     if (!category->format && category->IsOfValues()) {
       const auto x = xml::Child(group.series.front().node, "xVal");
       category->format = context.Format(xml::Text(xml::Child(x, "numRef", "numCache", "formatCode")));

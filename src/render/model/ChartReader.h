@@ -46,6 +46,9 @@ AxisModel ReadAxis(ReadingContext& context, pugi::xml_node axis);
 TitleModel ReadTitle(ReadingContext& context, pugi::xml_node title, xlsx::TextRole role,
                      const std::string& automatic);
 std::optional<LegendModel> ReadLegend(ReadingContext& context);
+/// Lays the categories of an axis of dates (c:cat) out by their dates; leaves it as one of categories where
+/// they are none.
+void ReadDates(ReadingContext& context, pugi::xml_node categories, AxisModel& axis);
 /// Scales the axes of values by the data of their groups.
 void ScaleAxes(ChartModel& chart);
 /// Gives an axis the next larger major unit of 1, 2, 5, 10, ...
