@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
 """Compares drawings with LibreOffice's pictures of the same charts, and makes the page that shows them.
 
-Usage: compare-drawings.py FOLDER
+Usage: compare-drawings.py FOLDER [BOOK...]
 
 FOLDER is what scripts/render-pairs.sh makes: a folder for each workbook, with the lists of bench/draw_charts and a
-PDF whose first pages are LibreOffice's. Prints for each kind of item how many were found in both, and the median and
-the worst distance in points: of texts that of their middles, of all else that of the farthest edges. The worst are
-listed in FOLDER/worst.tsv.
+PDF whose first pages are LibreOffice's; with names of such folders only those are compared. Prints for each kind of
+item how many were found in both, and the median and the worst distance in points: of texts that of their middles, of
+all else that of the farthest edges. The worst are listed in FOLDER/worst.tsv.
 """
 
 import html
@@ -180,10 +180,12 @@ def compare_book(book, distances, missing, worst):
         yield row_of(book, number, width, height, sheet, notes, own)
 
 
-def main(folder):
+def main(folder, *names):
     folder = Path(folder)
     distances, missing, worst, rows = {}, {}, [], []
     for book in sorted(path.parent for path in folder.glob("*/charts.tsv")):
+        if names and book.name not in names:
+            continue
         rows += compare_book(book, distances, missing, worst)
     (folder / "index.html").write_text(PAGE.format(rows="\n".join(rows)), encoding="utf-8")
     worst.sort(reverse=True)
@@ -196,6 +198,6 @@ def main(folder):
               f"{values[int(len(values) * 0.9)]:>8.2f}{values[-1]:>8.2f}")
 
 
-if len(sys.argv) != 2:
-    sys.exit("usage: compare-drawings.py FOLDER")
-main(sys.argv[1])
+if len(sys.argv) < 2:
+    sys.exit("usage: compare-drawings.py FOLDER [BOOK...]")
+main(*sys.argv[1:])

@@ -70,11 +70,41 @@ TEST_F(Bodies3DTest, FrontsHaveTheColorAndSidesAreDarker) {
   const Drawing drawing = Draw({});
   const render::Color own{0x4F, 0x81, 0xBD, 1};
   for (const Item* front : ItemsOf(drawing, Role::kBar, 1)) EXPECT_EQ(FillOf(*front), own);
-  std::vector<render::Color> sides;
-  for (const Item* side : ItemsOf(drawing, Role::kSide, 1)) sides.push_back(FillOf(*side));
+  const auto sides = ItemsOf(drawing, Role::kSide, 1);
   ASSERT_EQ(sides.size(), 8);  // of each bar one at the right and one above
-  EXPECT_EQ(std::count(sides.begin(), sides.end(), render::Lit(own, render::kSideLight)), 4);
-  EXPECT_EQ(std::count(sides.begin(), sides.end(), render::Lit(own, render::kTopLight)), 4);
+  for (const Item* side : sides) {
+    const Rect front = FrontOf(drawing, 1, side->tag.point), bounds = BoundsOf(*side);
+    const bool atRight = std::abs(bounds.left - front.Right()) < 1e-6;
+    EXPECT_NE(atRight, std::abs(bounds.Bottom() - front.top) < 1e-6);
+    EXPECT_EQ(FillOf(*side), render::Lit(own, atRight ? render::kSideLight : render::kTopLight));
+  }
+}
+
+TEST_F(Bodies3DTest, BarsShareOutTheWidthAndTheDepth) {
+  struct Case {
+    const char* grouping;
+    const char* behind;
+    double depthOfBox;         ///< of its width
+    double firstBar, lastBar;  ///< where the bars of the second of four categories begin and end
+    double front, back;        ///< of the second series, of the depth
+  };
+  // a bar is as deep as it is wide, with the gap to half in front of it and to half behind
+  for (const Case& c :
+       {Case{"clustered", "", 2.5 / 18, 0.25 + 0.75 / 18, 0.5 - 0.75 / 18, 0.3, 0.7},
+        Case{"clustered", R"(<c:gapWidth val="0"/><c:gapDepth val="0"/>)", 1.0 / 12, 0.25, 0.5, 0, 1},
+        Case{"stacked", R"(<c:gapWidth val="100"/><c:gapDepth val="300"/>)", 0.5, 0.3125, 0.4375, 0.375,
+             0.625},
+        Case{"standard", R"(<c:gapWidth val="100"/><c:gapDepth val="100"/>)", 0.75, 0.3125, 0.4375, 5.0 / 12,
+             7.0 / 12}}) {
+    OpenChart(Part({.grouping = c.grouping, .behind = c.behind}));
+    const render::ChartModel chart = render::ReadChart(*Book().Chart("/xl/charts/chart1.xml"), notes_);
+    const render::Stage stage(chart, chart.groups[0]);
+    EXPECT_NEAR(stage.Shape({}).depth, c.depthOfBox, 1e-9) << c.grouping;
+    EXPECT_NEAR(stage.Bar(1, 0).from, c.firstBar, 1e-9) << c.grouping;
+    EXPECT_NEAR(stage.Bar(1, 2).to, c.lastBar, 1e-9) << c.grouping;
+    EXPECT_NEAR(stage.Depth(1).from, c.front, 1e-9) << c.grouping;
+    EXPECT_NEAR(stage.Depth(1).to, c.back, 1e-9) << c.grouping;
+  }
 }
 
 /// A place on the surface of a bar: where it is seen, and how far from the eye.

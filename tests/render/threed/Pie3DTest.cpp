@@ -56,7 +56,7 @@ TEST_F(Pie3DTest, SlicesMeetOnTheirEdgesAndBeginWhereTheViewIsTurnedTo) {
     }
     const render::Point begin = stepsOf(0)[1].to;
     EXPECT_NEAR(begin.x, disc.Center().x + disc.width / 2 * std::sin(rotation * std::numbers::pi / 180),
-                0.01);
+                0.02);
   }
 }
 
@@ -77,6 +77,23 @@ TEST_F(Pie3DTest, NothingIsPaintedOverTheUpperSides) {
     const std::size_t walls = ItemsOf(drawing, Role::kSide).size();
     EXPECT_TRUE(exploded.empty() ? walls <= 4 : walls > 4) << walls;
   }
+}
+
+TEST_F(Pie3DTest, SlicesGoOutAlongTheDisc) {
+  std::string part = Part(
+      {.view = "<c:rotX val=\"30\"/><c:rotY val=\"0\"/>", .group = "pie3DChart", .values = {1, 1, 1, 1}});
+  part.insert(part.find("<c:cat>"), "<c:explosion val=\"50\"/>");
+  OpenChart(part);
+  const Drawing drawing = DrawChart(*Book().Chart("/xl/charts/chart1.xml"), 384, 270, fonts_, notes_);
+  const auto slices = ItemsOf(drawing, Role::kSlice);
+  ASSERT_EQ(slices.size(), 4);
+  const auto tipOf = [&](std::size_t i) {
+    return std::get<render::PathItem>(slices[i]->content).path.Steps()[0].to;
+  };
+  const Rect slice = BoundsOf(*slices[0]);  // a quarter: as wide as the radius
+  // each is half of the radius away, at 45 degrees of the disc
+  EXPECT_NEAR((tipOf(0).x - tipOf(3).x) / 2, slice.width * 0.5 * std::numbers::sqrt2 / 2, 0.02);
+  EXPECT_NEAR((tipOf(1).y - tipOf(0).y) / 2, slice.height * 0.5 * std::numbers::sqrt2 / 2, 0.02);
 }
 
 }  // namespace
