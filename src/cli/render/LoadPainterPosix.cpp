@@ -2,6 +2,7 @@
 #include <dlfcn.h>
 #include <filesystem>
 #include <string>
+#include <sys/auxv.h>
 
 #include "cli/Command.h"
 #include "cli/render/LoadPainter.h"
@@ -16,9 +17,19 @@ namespace fs = std::filesystem;
 /// a build below it, and for the tests below one of the folders above.
 constexpr std::array kFolders = {"../lib/plotsmith", "lib/plotsmith", "../../lib/plotsmith"};
 
+/// The folder of this program. Where /proc isn't there, as in some clean roots, the name by which it was
+/// started tells.
+fs::path FolderOfProgram() {
+  std::error_code error;
+  fs::path program = fs::read_symlink("/proc/self/exe", error);
+  const auto* const started = reinterpret_cast<const char*>(getauxval(AT_EXECFN));
+  if (error && started != nullptr) program = fs::canonical(started, error);
+  return program.parent_path();
+}
+
 fs::path FindModule() {
   std::error_code ignored;
-  const fs::path folder = fs::read_symlink("/proc/self/exe", ignored).parent_path();
+  const fs::path folder = FolderOfProgram();
   for (const char* const relative : kFolders) {
     const fs::path module = (folder / relative / render::kModuleFile).lexically_normal();
     if (module.is_absolute() && fs::exists(module, ignored)) return module;
