@@ -40,22 +40,25 @@ PreviewWindow::PreviewWindow(QWidget* owner)
   setAccessibleName(QStringLiteral("Preview of the chart"));
 }
 
+bool PreviewWindow::PlaceBeside(const QRect& page, const QRect& screen) {
+  QRect best;
+  for (const QRect& side : SidesOf(page, screen)) {
+    const QSize size = kUsualSize.boundedTo(side.size());
+    if (size.width() < kLeastSize.width() || size.height() < kLeastSize.height()) continue;
+    if (size.width() * size.height() <= best.width() * best.height()) continue;
+    best = QRect(QPoint(), size);
+    best.moveCenter(page.center());
+    best.moveLeft(std::clamp(best.left(), side.left(), side.right() - best.width() + 1));
+    best.moveTop(std::clamp(best.top(), side.top(), side.bottom() - best.height() + 1));
+  }
+  if (best.isEmpty()) return false;
+  setGeometry(best);
+  return true;
+}
+
 void PreviewWindow::ShowBeside(const QWidget& page) {
   if (closed_ || isVisible()) return;
-  if (!placed_) {
-    const QRect taken = page.frameGeometry();
-    for (const QRect& side : SidesOf(taken, page.screen()->availableGeometry())) {
-      const QSize size = kUsualSize.boundedTo(side.size());
-      if (size.width() < kLeastSize.width() || size.height() < kLeastSize.height()) continue;
-      QRect place(QPoint(), size);
-      place.moveCenter(taken.center());
-      place.moveLeft(std::clamp(place.left(), side.left(), side.right() - place.width() + 1));
-      place.moveTop(std::clamp(place.top(), side.top(), side.bottom() - place.height() + 1));
-      setGeometry(place);
-      placed_ = true;
-      break;
-    }
-  }
+  if (!placed_) placed_ = PlaceBeside(page.frameGeometry(), page.screen()->availableGeometry());
   if (placed_) show();
 }
 

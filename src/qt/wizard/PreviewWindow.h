@@ -37,6 +37,8 @@ class PreviewWindow final : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  /// Moves the window to the side of the page with the most room; false if none has enough.
+  bool PlaceBeside(const QRect& page, const QRect& screen);
   int MessageHeight(const QString& message) const;
 
   Preview shown_;
