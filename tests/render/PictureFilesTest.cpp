@@ -54,7 +54,8 @@ class PictureFilesTest : public DrawingTest {
 TEST_F(PictureFilesTest, SvgHasTextsAsTextsAndFewBytes) {
   EXPECT_EQ(MakeSvg(Small()),
             "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"72pt\" height=\"36pt\" viewBox=\"0 0 72 36\" "
-            "role=\"img\">\n"
+            "role=\"img\" "
+            "font-family=\"Calibri,Carlito,sans-serif\" font-size=\"12\">\n"
             "<title>Bread &amp; butter</title>\n<desc>Series &quot;A&quot;: 1 &lt; 2</desc>\n"
             "<defs><clipPath id=\"f1\"><path d=\"M10 10h20v20h-20z\"/></clipPath></defs>\n"
             "<path d=\"M0 0h72v36h-72z\" fill=\"#FF0\"/>\n"
@@ -64,7 +65,7 @@ TEST_F(PictureFilesTest, SvgHasTextsAsTextsAndFewBytes) {
             "stroke-dasharray=\"3 1.5\" stroke-linecap=\"round\" stroke-linejoin=\"round\"/>\n"
             "</g>\n"
             "<text x=\"36\" y=\"30\" transform=\"rotate(-90 36 30)\" text-anchor=\"middle\" "
-            "font-family=\"Calibri,Carlito,sans-serif\" font-size=\"12\" font-weight=\"bold\" "
+            "font-weight=\"bold\" "
             "font-style=\"italic\" "
             "text-decoration=\"underline\" fill=\"#008000\">&lt;Größe&gt;</text>\n</svg>\n");
 }
@@ -79,6 +80,16 @@ TEST_F(PictureFilesTest, SvgOfAChartIsWellFormedAndTellsItsValues) {
   EXPECT_STREQ(root.child_value("title"), "Column chart");
   EXPECT_STREQ(root.child_value("desc"), "Column chart.\nSeries 0: 1 1, 2 1, 3 1\nSeries 1: 1 2, 2 2, 3 2");
   EXPECT_LT(svg.size(), 6000u);
+}
+
+TEST_F(PictureFilesTest, TextsHoldOnlyWhatXmlCan) {
+  const std::pair<S, S> cases[] = {{"a & b <c> \"d\"", "a &amp; b &lt;c&gt; &quot;d&quot;"},
+                                   {"1\n2\t3", "1\n2\t3"},
+                                   {S("x\x01\0\x1Fy", 5), "xy"},
+                                   {"\xFF\xC3", "\uFFFD\uFFFD"},
+                                   {"\xEF\xBF\xBF\xED\xA0\x80z", "z"},
+                                   {"Größe \U0001F600", "Größe \U0001F600"}};
+  for (const auto& [text, escaped] : cases) EXPECT_EQ(render::SvgEscape(text), escaped) << text;
 }
 
 TEST_F(PictureFilesTest, NumbersAreShort) {

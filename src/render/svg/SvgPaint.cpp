@@ -4,6 +4,7 @@
 
 #include "render/fills/GradientGeometry.h"
 #include "render/fills/Patterns.h"
+#include "runtime/Strings.h"
 
 namespace plotsmith::render {
 namespace {
@@ -41,8 +42,12 @@ std::string SvgNumber(double value) {
 
 std::string SvgEscape(std::string_view text) {
   std::string escaped;
-  for (const char c : text) {
-    switch (c) {
+  for (std::size_t at = 0; at < text.size();) {
+    const char32_t character = runtime::NextCharacter(text, at);
+    const bool isText = character >= 0x20 || character == '\n' || character == '\t';
+    const bool isHalf = character >= 0xD800 && character <= 0xDFFF;
+    if (!isText || isHalf || character == 0xFFFE || character == 0xFFFF) continue;
+    switch (character) {
       case '&':
         escaped += "&amp;";
         break;
@@ -56,7 +61,7 @@ std::string SvgEscape(std::string_view text) {
         escaped += "&quot;";
         break;
       default:
-        if (static_cast<unsigned char>(c) >= 0x20 || c == '\n' || c == '\t') escaped += c;
+        runtime::AppendUtf8(escaped, character);
     }
   }
   return escaped;

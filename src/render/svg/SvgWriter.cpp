@@ -1,6 +1,8 @@
 #include "render/svg/SvgWriter.h"
 
 #include <cmath>
+#include <map>
+#include <utility>
 
 #include "render/FontSubstitutes.h"
 #include "render/svg/SvgPaint.h"
@@ -79,7 +81,8 @@ std::string PathData(const Path& path) {
   return text.Text();
 }
 
-std::string StrokeAttributes(const Stroke& stroke) {
+/// `hasCorners` says that joins are seen.
+std::string StrokeAttributes(const Stroke& stroke, bool hasCorners) {
   if (!(stroke.width > 0)) return {};
   std::string text = " stroke=\"" + HexOf(stroke.color) + '"';
   if (stroke.color.alpha < 1) text += " stroke-opacity=\"" + SvgNumber(stroke.color.alpha) + '"';
@@ -93,7 +96,7 @@ std::string StrokeAttributes(const Stroke& stroke) {
   if (stroke.cap != LineCap::kFlat) {
     text += stroke.cap == LineCap::kRound ? " stroke-linecap=\"round\"" : " stroke-linecap=\"square\"";
   }
-  if (stroke.join != LineJoin::kMiter) {
+  if (hasCorners && stroke.join != LineJoin::kMiter) {
     text += stroke.join == LineJoin::kRound ? " stroke-linejoin=\"round\"" : " stroke-linejoin=\"bevel\"";
   }
   return text;
@@ -115,13 +118,38 @@ std::string FontFamilies(const std::string& family) {
   return list + std::string(GenericFamilyOf(family));
 }
 
+std::string FontAttributes(const std::string& family, double size, const Font& usual) {
+  std::string text;
+  if (family != usual.family) text += " font-family=\"" + FontFamilies(family) + '"';
+  if (size != usual.size) text += " font-size=\"" + SvgNumber(size) + '"';
+  return text;
+}
+
+/// Family and size of most texts, which the root element says for all. Empty without a text.
+Font UsualFont(const Drawing& drawing) {
+  std::map<std::pair<std::string, double>, int> counts;
+  int most = 0;
+  Font usual{"", 0};
+  for (const Item& item : drawing.items) {
+    const auto* text = std::get_if<TextItem>(&item.content);
+    if (text == nullptr) continue;
+    const int count = ++counts[{text->font.family, text->font.size}];
+    if (count <= most) continue;
+    most = count;
+    usual = {text->font.family, text->font.size};
+  }
+  return usual;
+}
+
 class Writer {
  public:
+  explicit Writer(Font usual) : usual_(std::move(usual)) {}
+
   void operator()(const PathItem& item) {
     if (std::holds_alternative<std::monostate>(item.fill) && !(item.stroke.width > 0)) return;
     body_ += "<path d=\"" + PathData(item.path) + '"' +
-             FillAttributes(item.fill, item.path.Bounds(), definitions_) + StrokeAttributes(item.stroke) +
-             "/>\n";
+             FillAttributes(item.fill, item.path.Bounds(), definitions_) +
+             StrokeAttributes(item.stroke, item.path.Steps().size() > 2) + "/>\n";
   }
   void operator()(const TextItem& item) {
     const Font& font = item.font;
@@ -133,7 +161,7 @@ class Writer {
     if (item.align != TextAlign::kStart) {
       body_ += item.align == TextAlign::kMiddle ? " text-anchor=\"middle\"" : " text-anchor=\"end\"";
     }
-    body_ += " font-family=\"" + FontFamilies(font.family) + "\" font-size=\"" + SvgNumber(font.size) + '"';
+    body_ += FontAttributes(font.family, font.size, usual_);
     if (font.bold) body_ += " font-weight=\"bold\"";
     if (font.italic) body_ += " font-style=\"italic\"";
     if (font.underline) body_ += " text-decoration=\"underline\"";
@@ -160,6 +188,7 @@ class Writer {
   }
 
  private:
+  const Font usual_;
   SvgDefinitions definitions_;
   std::string body_;
   int groups_ = 0;
@@ -169,11 +198,13 @@ class Writer {
 
 std::string MakeSvg(const Drawing& drawing) {
   const std::string width = SvgNumber(drawing.width), height = SvgNumber(drawing.height);
+  const Font usual = UsualFont(drawing);
   std::string svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + width + "pt\" height=\"" + height +
-                    "pt\" viewBox=\"0 0 " + width + ' ' + height + "\" role=\"img\">\n";
+                    "pt\" viewBox=\"0 0 " + width + ' ' + height + "\" role=\"img\"" +
+                    FontAttributes(usual.family, usual.size, Font{"", 0}) + ">\n";
   if (!drawing.title.empty()) svg += "<title>" + SvgEscape(drawing.title) + "</title>\n";
   if (!drawing.description.empty()) svg += "<desc>" + SvgEscape(drawing.description) + "</desc>\n";
-  Writer writer;
+  Writer writer(usual);
   for (const Item& item : drawing.items) std::visit(writer, item.content);
   return svg + writer.Finish() + "</svg>\n";
 }
