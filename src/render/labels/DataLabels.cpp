@@ -69,13 +69,19 @@ double FarthestInside(Half half, double degrees, double radius) {
 Point CenterInSlice(const DrawnPoint& point, Half half, std::string position) {
   const double middle = point.angle + point.sweep / 2;
   const double radius = point.circle.width / 2;
-  if (position == "bestFit")
-    position = FitsInSlice(point, 2 * half.width, 2 * half.height) ? "inEnd" : "outEnd";
-  double distance = radius * (1 + point.hole) / 2;
-  if (position == "outEnd") distance = radius + ReachOf(half, middle) + kGap;
-  if (position == "inEnd") distance = FarthestInside(half, middle, radius - kGap);
-  // of a pie in 3-D it is an ellipse
+  // of a pie in 3-D the circle is an ellipse; upright it would have labels as much higher
   const double flat = point.circle.width > 0 ? point.circle.height / point.circle.width : 1;
+  const Half round{half.width, half.height / std::max(flat, 1e-6)};
+  if (position == "bestFit")
+    position = FitsInSlice(point, 2 * round.width, 2 * round.height) ? "inEnd" : "outEnd";
+  if (position == "outEnd") {
+    const Point edge = OnEllipse(point.circle, middle), way = OnEllipse({-1, -1, 2, 2}, middle);
+    const double reach = ReachOf(half, middle) + kGap;
+    const double rim = (point.box.height - point.circle.height) * std::max(way.y, 0.0);
+    return {edge.x + way.x * reach, edge.y + way.y * reach + rim};
+  }
+  double distance = radius * (1 + point.hole) / 2;
+  if (position == "inEnd") distance = FarthestInside(round, middle, radius - kGap);
   const Rect circle{point.circle.Center().x - distance, point.circle.Center().y - distance * flat,
                     2 * distance, 2 * distance * flat};
   return OnEllipse(circle, middle);

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "render/axes/AxisMap.h"
+#include "render/axes/DateAxis.h"
 
 namespace plotsmith::render {
 namespace {
@@ -25,7 +26,7 @@ StageAxes::StageAxes(const Stage& stage, const TextMeasure& measure, xlsx::DateS
     : stage_(stage),
       measure_(measure),
       values_(ReadValues(dates)),
-      categories_(ReadCategories()),
+      categories_(stage.Categories().dates ? ReadDates(dates) : ReadCategories()),
       series_(ReadSeries()) {
   for (Ruler* ruler : {&values_, &categories_, &series_}) {
     if (ruler->axis == nullptr || ruler->axis->hidden || ruler->axis->tickLabels == "none") {
@@ -60,6 +61,18 @@ StageAxes::Ruler StageAxes::ReadCategories() const {
     }
     ruler.ticks.push_back(room.from);
     if (i + every >= count) ruler.ticks.push_back(room.to);
+  }
+  return ruler;
+}
+
+StageAxes::Ruler StageAxes::ReadDates(xlsx::DateSystem dates) const {
+  const AxisModel& axis = stage_.Categories();
+  const AxisMap map(axis, 0, 1);
+  Ruler ruler{&axis, {}, {}};
+  int number = 0;
+  for (const DateTick& tick : DateTicks(axis, dates)) {
+    ruler.labels.push_back({tick.label, map.OfSlot(tick.slot), ++number});
+    ruler.ticks.push_back(map.OfSlot(tick.slot - (axis.crossesBetween ? 0.5 : 0)));
   }
   return ruler;
 }

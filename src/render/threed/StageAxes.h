@@ -39,6 +39,7 @@ class StageAxes {
 
   Ruler ReadValues(xlsx::DateSystem dates) const;
   Ruler ReadCategories() const;
+  Ruler ReadDates(xlsx::DateSystem dates) const;
   Ruler ReadSeries() const;
 
   BoxEdge UprightEdge(const Projection& projection) const;
