@@ -121,7 +121,8 @@ TEST_F(PictureFilesTest, LinesAndEdgesOfPicturesLieOnPixels) {
   const render::PixelScale scale{4.0 / 3, 4.0 / 3};
   const auto places = [&](const Path& path, double width) {
     std::vector<double> pixels;
-    for (const auto& step : OnPixels(path, scale, width).Steps()) {
+    const Path snapped = OnPixels(path, scale, width);
+    for (const auto& step : snapped.Steps()) {
       if (step.kind == render::PathStep::Kind::kClose) continue;
       pixels.push_back(step.to.x * scale.x);
       pixels.push_back(step.to.y * scale.y);
