@@ -66,6 +66,34 @@ double FarthestInside(Half half, double degrees, double radius) {
   return rest > 0 ? std::max(std::sqrt(rest) - b, 0.0) : 0;
 }
 
+/// Whether a label keeps clear of a circle, or of the ellipse of a pie in 3-D and of its rim below.
+bool IsBeside(const DrawnPoint& point, Point center, Half half) {
+  const Point middle = point.circle.Center();
+  for (const double drop : {0.0, point.box.height - point.circle.height}) {
+    const Point nearest{std::clamp(middle.x, center.x - half.width, center.x + half.width),
+                        std::clamp(middle.y + drop, center.y - half.height, center.y + half.height)};
+    const double across = (nearest.x - middle.x) / (point.circle.width / 2);
+    const double down = (nearest.y - middle.y - drop) / (point.circle.height / 2);
+    if (std::hypot(across, down) < 1) return false;
+  }
+  return true;
+}
+
+/// As near to the middle of the slice's edge as a label can be.
+Point CenterBesideSlice(const DrawnPoint& point, Half half, double degrees) {
+  const Point edge = OnEllipse(point.circle, degrees), way = OnEllipse({-1, -1, 2, 2}, degrees);
+  const auto at = [&](double distance) {
+    return Point{edge.x + way.x * distance, edge.y + way.y * distance};
+  };
+  double near = 0, far = half.width + half.height + point.box.height - point.circle.height;
+  constexpr int kSteps = 20;
+  for (int step = 0; step < kSteps; ++step) {
+    const double middle = (near + far) / 2;
+    (IsBeside(point, at(middle), half) ? far : near) = middle;
+  }
+  return at(far + kGap);
+}
+
 Point CenterInSlice(const DrawnPoint& point, Half half, std::string position) {
   const double middle = point.angle + point.sweep / 2;
   const double radius = point.circle.width / 2;
@@ -74,12 +102,7 @@ Point CenterInSlice(const DrawnPoint& point, Half half, std::string position) {
   const Half round{half.width, half.height / std::max(flat, 1e-6)};
   if (position == "bestFit")
     position = FitsInSlice(point, 2 * round.width, 2 * round.height) ? "inEnd" : "outEnd";
-  if (position == "outEnd") {
-    const Point edge = OnEllipse(point.circle, middle), way = OnEllipse({-1, -1, 2, 2}, middle);
-    const double reach = ReachOf(half, middle) + kGap;
-    const double rim = (point.box.height - point.circle.height) * std::max(way.y, 0.0);
-    return {edge.x + way.x * reach, edge.y + way.y * reach + rim};
-  }
+  if (position == "outEnd") return CenterBesideSlice(point, half, middle);
   double distance = radius * (1 + point.hole) / 2;
   if (position == "inEnd") distance = FarthestInside(round, middle, radius - kGap);
   const Rect circle{point.circle.Center().x - distance, point.circle.Center().y - distance * flat,
