@@ -125,7 +125,7 @@ Point CenterOf(const Plot& plot, const DrawnPoint& point, const LabelModel& labe
   }
 }
 
-/// The line from a slice to its label, once that was dragged away from it.
+/// The line from a slice to its label, once that is away from it.
 void DrawLeader(Plot& plot, const DrawnPoint& point, const Rect& label) {
   const LabelsModel& labels = point.series->labels;
   if (!labels.leaderLines || point.sweep <= 0) return;
@@ -163,7 +163,7 @@ void DrawLabel(Plot& plot, const DrawnPoint& point, const LabelModel& label) {
   center.y = std::max(std::min(center.y, bottom), half.height);
   const Tag tag{Role::kDataLabel, point.series->number, static_cast<int>(point.index + 1)};
   const Rect box{center.x - half.width, center.y - half.height, 2 * half.width, 2 * half.height};
-  if (label.layout) DrawLeader(plot, point, box);
+  DrawLeader(plot, point, box);
   plot.canvas.Add(tag, Path().AddRect(box), label.style.fill, label.style.stroke);
   if (label.showsKey) {
     DrawKey(plot.canvas, plot.chart, {Role::kLegendKey, tag.series, tag.point},
