@@ -19,7 +19,9 @@ from pathlib import Path
 
 TEXTS = {"Title", "AxisTitle", "TickLabel", "LegendEntry", "DataLabel", "ShapeText"}
 FILLED = {"Bar", "Slice", "Bubble", "Area", "LegendKey", "Shape"}
+SIGNS = {"LegendKey", "Shape"}
 LINES = {"Gridline", "AxisLine"}
+SOLID = {"Wall", "Floor", "Side"}
 COLOR_SLACK = 3   # of 255, by which LibreOffice rounds
 FARTHEST = 60     # points, beyond which an item counts as not found
 
@@ -121,13 +123,15 @@ def compare(items, words, filled, stroked):
     """Pairs of an item and its distance; None for one that wasn't found."""
     used_words, used_fills, used_lines = set(), set(), set()
     lines = [box for box in stroked if is_thin(box)]
+    # LibreOffice's bodies in 3-D are pixels
+    flat = not any(item["role"] in SOLID for item in items)
     matched_lines = []
     for item in items:
         role, box = item["role"], item["box"]
         found = None
         if role in TEXTS and item["text"].strip():
             found = nearest(box, candidates_for_text(item["text"], words), between_middles, used_words)
-        elif role in FILLED and item["color"] and not item["text"]:
+        elif role in FILLED and item["color"] and not item["text"] and (flat or role in SIGNS):
             wanted = rgb(item["color"])
             same = ((i, other) for i, (color, other) in enumerate(filled) if same_color(wanted, color))
             found = nearest(box, same, between_edges, used_fills)

@@ -5,7 +5,7 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr std::size_t kMostPoints = 200;  // of all series, that somebody would listen to
+constexpr std::size_t kMostPoints = 200;  // of all series; a longer list helps no listener
 
 const char* NameOf(const GroupModel& group) {
   switch (group.family) {

@@ -12,7 +12,7 @@ using render::Drawing;
 using render::Role;
 using S = std::string;
 
-/// Chart parts that nobody would write by mistake.
+/// Chart parts as no program writes them by mistake.
 struct HostileCase {
   const char* name;
   S chart;

@@ -1,6 +1,7 @@
 #include <pugixml.hpp>
 
 #include "render/cairo/CairoPainter.h"
+#include "render/cairo/PixelGrid.h"
 #include "render/svg/SvgPaint.h"
 #include "render/svg/SvgWriter.h"
 #include "tests/render/DrawingTest.h"
@@ -114,6 +115,34 @@ TEST_F(PictureFilesTest, PngIsTheSameOnEveryRunAndAsLargeAsAsked) {
   EXPECT_EQ(number(20), 360u);
   EXPECT_THROW(MakePng(drawing, SharedFonts(), 1e9), std::length_error);
   EXPECT_THROW(MakePng(Drawing(), SharedFonts(), 96), std::length_error);
+}
+
+TEST_F(PictureFilesTest, LinesAndEdgesOfPicturesLieOnPixels) {
+  const render::PixelScale scale{4.0 / 3, 4.0 / 3};
+  const auto places = [&](const Path& path, double width) {
+    std::vector<double> pixels;
+    const Path snapped = OnPixels(path, scale, width);
+    for (const auto& step : snapped.Steps()) {
+      if (step.kind == render::PathStep::Kind::kClose) continue;
+      pixels.push_back(step.to.x * scale.x);
+      pixels.push_back(step.to.y * scale.y);
+    }
+    return pixels;
+  };
+  const auto expectNear = [](const std::vector<double>& a, const std::vector<double>& b) {
+    ASSERT_EQ(a.size(), b.size());
+    for (std::size_t i = 0; i < a.size(); ++i) EXPECT_NEAR(a[i], b[i], 1e-9) << i;
+  };
+  const Path line = Path().MoveTo({10, 20.3}).LineTo({30, 20.3});
+  expectNear(places(line, 0.75), {13.5, 27.5, 40.5, 27.5});  // one pixel
+  expectNear(places(line, 1.5), {13, 27, 40, 27});           // two
+  // pieces that touch still do
+  const Path lower = Path().AddRect({0, 10.2, 3, 5}), upper = Path().AddRect({0, 4, 3, 6.2});
+  EXPECT_EQ(OnPixels(lower, scale, 0).Bounds().top, OnPixels(upper, scale, 0).Bounds().Bottom());
+  EXPECT_NEAR(render::WidthOnPixels(0.25, scale), 0.75, 1e-9);
+  EXPECT_TRUE(IsUpright(lower));
+  EXPECT_FALSE(IsUpright(Path().MoveTo({0, 0}).LineTo({1, 1})));
+  EXPECT_FALSE(IsUpright(Path().AddEllipse({0, 0, 1, 1})));
 }
 
 TEST_F(PictureFilesTest, PdfHasAPageForEachDrawing) {

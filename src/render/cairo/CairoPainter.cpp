@@ -6,9 +6,11 @@
 #include <cmath>
 #include <memory>
 #include <numbers>
+#include <optional>
 #include <stdexcept>
 
 #include "render/cairo/CairoPaint.h"
+#include "render/cairo/PixelGrid.h"
 #include "render/cairo/PngWriter.h"
 
 namespace plotsmith::render {
@@ -94,12 +96,27 @@ bool MayBeStrokedInPieces(const PathItem& item) {
 
 class Painter {
  public:
-  Painter(cairo_t* cr, const Fonts& fonts) : cr_(cr), fonts_(fonts) {}
+  /// With `pixels`, upright lines and edges are brought onto the pixels of a picture.
+  Painter(cairo_t* cr, const Fonts& fonts, std::optional<PixelScale> pixels)
+      : cr_(cr), fonts_(fonts), pixels_(pixels) {}
   ~Painter() {
     for (; clips_ > 0; --clips_) cairo_restore(cr_);
   }
   Painter(const Painter&) = delete;
   Painter& operator=(const Painter&) = delete;
+
+  void Draw(const Item& item) {
+    const auto* path = std::get_if<PathItem>(&item.content);
+    const auto* clip = std::get_if<PushClip>(&item.content);
+    // markers keep their shape and their place on the line
+    if (pixels_ && path != nullptr && item.tag.role != Role::kMarker && IsUpright(path->path)) {
+      DrawOnPixels(*path);
+    } else if (pixels_ && clip != nullptr && IsUpright(clip->path)) {
+      (*this)(PushClip{OnPixels(clip->path, *pixels_, 0)});
+    } else {
+      std::visit(*this, item.content);
+    }
+  }
 
   void operator()(const PathItem& item) {
     Trace(cr_, item.path);
@@ -139,8 +156,18 @@ class Painter {
   void operator()(const ImageItem&) {}
 
  private:
+  void DrawOnPixels(const PathItem& item) {
+    PathItem snapped{OnPixels(item.path, *pixels_, item.stroke.width), item.fill, item.stroke};
+    const Rect box = snapped.path.Bounds();
+    const bool isLost = !(item.stroke.width > 0) && !(box.width > 0 && box.height > 0);
+    if (isLost) return (*this)(item);  // thinner than a pixel
+    if (item.stroke.width > 0) snapped.stroke.width = WidthOnPixels(item.stroke.width, *pixels_);
+    (*this)(snapped);
+  }
+
   cairo_t* cr_;
   const Fonts& fonts_;
+  const std::optional<PixelScale> pixels_;
   int clips_ = 0;
 };
 
@@ -149,12 +176,16 @@ void Check(cairo_status_t status) {
   if (status != CAIRO_STATUS_SUCCESS) throw std::runtime_error(cairo_status_to_string(status));
 }
 
+void PaintItems(cairo_t* cr, const Drawing& drawing, const Fonts& fonts, std::optional<PixelScale> pixels) {
+  cairo_set_miter_limit(cr, 4);
+  Painter painter(cr, fonts, pixels);
+  for (const Item& item : drawing.items) painter.Draw(item);
+}
+
 }  // namespace
 
 void Paint(cairo_t* cr, const Drawing& drawing, const Fonts& fonts) {
-  cairo_set_miter_limit(cr, 4);
-  Painter painter(cr, fonts);
-  for (const Item& item : drawing.items) std::visit(painter, item.content);
+  PaintItems(cr, drawing, fonts, std::nullopt);
 }
 
 namespace {
@@ -172,8 +203,9 @@ Surface PaintImage(const Drawing& drawing, const Fonts& fonts, double dpi) {
   const Context cr(cairo_create(surface.get()));
   cairo_set_source_rgb(cr.get(), 1, 1, 1);
   cairo_paint(cr.get());
-  cairo_scale(cr.get(), width / drawing.width, height / drawing.height);
-  Paint(cr.get(), drawing, fonts);
+  const PixelScale perPoint{width / drawing.width, height / drawing.height};
+  cairo_scale(cr.get(), perPoint.x, perPoint.y);
+  PaintItems(cr.get(), drawing, fonts, perPoint);
   Check(cairo_status(cr.get()));
   cairo_surface_flush(surface.get());
   return surface;

@@ -14,7 +14,7 @@ namespace plotsmith::render {
 namespace {
 
 constexpr double kPointsPerInch = 72;  // a unit of the picture is a point
-constexpr std::size_t kMostTexts = 20000;
+constexpr std::size_t kMostTexts = 8000;
 constexpr std::size_t kLongestText = 4096;  // bytes that are laid out; more doesn't fit on any chart
 
 struct Release {

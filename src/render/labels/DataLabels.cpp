@@ -66,16 +66,45 @@ double FarthestInside(Half half, double degrees, double radius) {
   return rest > 0 ? std::max(std::sqrt(rest) - b, 0.0) : 0;
 }
 
+/// Whether a label keeps clear of a circle, or of the ellipse of a pie in 3-D and of its rim below.
+bool IsBeside(const DrawnPoint& point, Point center, Half half) {
+  const Point middle = point.circle.Center();
+  for (const double drop : {0.0, point.box.height - point.circle.height}) {
+    const Point nearest{std::clamp(middle.x, center.x - half.width, center.x + half.width),
+                        std::clamp(middle.y + drop, center.y - half.height, center.y + half.height)};
+    const double across = (nearest.x - middle.x) / (point.circle.width / 2);
+    const double down = (nearest.y - middle.y - drop) / (point.circle.height / 2);
+    if (std::hypot(across, down) < 1) return false;
+  }
+  return true;
+}
+
+/// As near to the middle of the slice's edge as a label can be.
+Point CenterBesideSlice(const DrawnPoint& point, Half half, double degrees) {
+  const Point edge = OnEllipse(point.circle, degrees), way = OnEllipse({-1, -1, 2, 2}, degrees);
+  const auto at = [&](double distance) {
+    return Point{edge.x + way.x * distance, edge.y + way.y * distance};
+  };
+  double near = 0, far = half.width + half.height + point.box.height - point.circle.height;
+  constexpr int kSteps = 20;
+  for (int step = 0; step < kSteps; ++step) {
+    const double middle = (near + far) / 2;
+    (IsBeside(point, at(middle), half) ? far : near) = middle;
+  }
+  return at(far + kGap);
+}
+
 Point CenterInSlice(const DrawnPoint& point, Half half, std::string position) {
   const double middle = point.angle + point.sweep / 2;
   const double radius = point.circle.width / 2;
-  if (position == "bestFit")
-    position = FitsInSlice(point, 2 * half.width, 2 * half.height) ? "inEnd" : "outEnd";
-  double distance = radius * (1 + point.hole) / 2;
-  if (position == "outEnd") distance = radius + ReachOf(half, middle) + kGap;
-  if (position == "inEnd") distance = FarthestInside(half, middle, radius - kGap);
-  // of a pie in 3-D it is an ellipse
+  // of a pie in 3-D the circle is an ellipse; upright it would have labels as much higher
   const double flat = point.circle.width > 0 ? point.circle.height / point.circle.width : 1;
+  const Half round{half.width, half.height / std::max(flat, 1e-6)};
+  if (position == "bestFit")
+    position = FitsInSlice(point, 2 * round.width, 2 * round.height) ? "inEnd" : "outEnd";
+  if (position == "outEnd") return CenterBesideSlice(point, half, middle);
+  double distance = radius * (1 + point.hole) / 2;
+  if (position == "inEnd") distance = FarthestInside(round, middle, radius - kGap);
   const Rect circle{point.circle.Center().x - distance, point.circle.Center().y - distance * flat,
                     2 * distance, 2 * distance * flat};
   return OnEllipse(circle, middle);
@@ -96,7 +125,7 @@ Point CenterOf(const Plot& plot, const DrawnPoint& point, const LabelModel& labe
   }
 }
 
-/// The line from a slice to its label, once that was dragged away from it.
+/// The line from a slice to its label, once that is away from it.
 void DrawLeader(Plot& plot, const DrawnPoint& point, const Rect& label) {
   const LabelsModel& labels = point.series->labels;
   if (!labels.leaderLines || point.sweep <= 0) return;
@@ -134,7 +163,7 @@ void DrawLabel(Plot& plot, const DrawnPoint& point, const LabelModel& label) {
   center.y = std::max(std::min(center.y, bottom), half.height);
   const Tag tag{Role::kDataLabel, point.series->number, static_cast<int>(point.index + 1)};
   const Rect box{center.x - half.width, center.y - half.height, 2 * half.width, 2 * half.height};
-  if (label.layout) DrawLeader(plot, point, box);
+  DrawLeader(plot, point, box);
   plot.canvas.Add(tag, Path().AddRect(box), label.style.fill, label.style.stroke);
   if (label.showsKey) {
     DrawKey(plot.canvas, plot.chart, {Role::kLegendKey, tag.series, tag.point},

@@ -122,18 +122,26 @@ bool DrawsMarkers(const GroupModel& group) {
   return false;
 }
 
+/// The looks of points that differ in colour, until they begin again.
+std::vector<PointModel> VariedPoints(ReadingContext& context, const GroupModel& group,
+                                     const SeriesModel& series, bool drawsMarkers) {
+  std::vector<PointModel> points;
+  const std::size_t count = std::clamp<std::size_t>(series.values.size(), 1, kMostColors);
+  for (std::size_t i = 0; i < count; ++i) {
+    const Color color = context.styles.SeriesColor(i, count);
+    PointModel& point = points.emplace_back();
+    point.style = ReadStyle(context.part, xml::Child(series.node, "spPr"), AutomaticStyle(group, color));
+    point.marker =
+        ReadMarker(context, xml::Child(series.node, "marker"), AutomaticMarker(color, i), drawsMarkers);
+  }
+  return points;
+}
+
 void ReadPoints(ReadingContext& context, const GroupModel& group, SeriesModel& series, bool drawsMarkers,
                 bool varies) {
   if (varies) {
-    // nobody tells more colours apart
-    const std::size_t colors = std::min(series.values.size(), kMostColors);
-    for (std::size_t i = 0; i < series.values.size(); ++i) {
-      const Color color = context.styles.SeriesColor(i % kMostColors, colors);
-      PointModel& point = series.points[i];
-      point.style = ReadStyle(context.part, xml::Child(series.node, "spPr"), AutomaticStyle(group, color));
-      point.marker =
-          ReadMarker(context, xml::Child(series.node, "marker"), AutomaticMarker(color, i), drawsMarkers);
-    }
+    const std::vector<PointModel> palette = VariedPoints(context, group, series, drawsMarkers);
+    for (std::size_t i = 0; i < series.values.size(); ++i) series.points[i] = palette[i % palette.size()];
   }
   for (const pugi::xml_node& node : xml::Children(series.node, "dPt")) {
     const long long number = schema::NumberOf(node);

@@ -34,6 +34,13 @@ std::vector<std::pair<Border, Border>> BordersOf(const Stage& stage) {
   return borders;
 }
 
+/// A point for the label of a value, if there is one.
+void AddPoint(Plot& plot, const GroupModel& group, std::size_t series, std::size_t point, Point at) {
+  const SeriesModel& one = group.series[series];
+  if (point >= one.values.size() || !std::isfinite(one.values[point])) return;
+  plot.points.push_back({&group, &one, point, {at.x, at.y, 0, 0}});
+}
+
 /// The numbers of the series in the order in which their places in the depth are painted.
 std::vector<std::size_t> SeriesBackToFront(const Stage& stage, double eye) {
   std::vector<double> middles;
@@ -60,8 +67,9 @@ Edge EdgeOf(const Border& border, std::size_t stretch) { return {border[stretch]
 
 class AreaPainter {
  public:
-  AreaPainter(Canvas& canvas, const Stage& stage, const Projection& projection)
-      : canvas_(canvas),
+  AreaPainter(Plot& plot, const Stage& stage, const Projection& projection)
+      : plot_(plot),
+        canvas_(plot.canvas),
         stage_(stage),
         projection_(projection),
         eye_(stage.EyeShares(projection)),
@@ -151,6 +159,11 @@ class AreaPainter {
     for (std::size_t i = 0; i < above.size(); ++i) add(i, above);
     for (std::size_t i = below.size(); i-- > 0;) add(i, below);
     AddSheet(canvas_, projection_, face, LookOf(series, Role::kArea));
+    for (std::size_t i = 0; i < above.size(); ++i) {
+      const Point at = projection_.Project(
+          stage_.At(projection_, stage_.Category(i).Middle(), (above[i] + below[i]) / 2, place));
+      AddPoint(plot_, stage_.Group(), series, i, at);
+    }
   }
 
   Look LookOf(std::size_t series, Role role) const {
@@ -158,6 +171,7 @@ class AreaPainter {
     return {{role, one.number, 0}, one.style.fill, one.style.stroke};
   }
 
+  Plot& plot_;
   Canvas& canvas_;
   const Stage& stage_;
   const Projection& projection_;
@@ -166,7 +180,8 @@ class AreaPainter {
   std::vector<std::size_t> stretches_;
 };
 
-void PaintRibbon(Canvas& canvas, const Stage& stage, const Projection& projection, std::size_t series,
+/// Paints the line of a series, stretch by stretch.
+void PaintRibbon(Plot& plot, const Stage& stage, const Projection& projection, std::size_t series,
                  const std::vector<std::size_t>& stretches) {
   const SeriesModel& one = stage.Group().series[series];
   const Span depth = stage.Depth(series);
@@ -178,22 +193,28 @@ void PaintRibbon(Canvas& canvas, const Stage& stage, const Projection& projectio
       return stage.At(projection, stage.Category(point).Middle(), stage.Value(one.values[point]), back);
     };
     look.tag.point = static_cast<int>(i) + 1;
-    AddSheet(canvas, projection,
+    AddSheet(plot.canvas, projection,
              {at(i, depth.from), at(i + 1, depth.from), at(i + 1, depth.to), at(i, depth.to)}, look);
+  }
+  for (std::size_t i = 0; i < one.values.size(); ++i) {
+    if (missing(i)) continue;
+    const Point3 place =
+        stage.At(projection, stage.Category(i).Middle(), stage.Value(one.values[i]), depth.Middle());
+    AddPoint(plot, stage.Group(), series, i, projection.Project(place));
   }
 }
 
 }  // namespace
 
-void DrawAreas3D(Canvas& canvas, const Stage& stage, const Projection& projection) {
-  AreaPainter(canvas, stage, projection).Paint();
+void DrawAreas3D(Plot& plot, const Stage& stage, const Projection& projection) {
+  AreaPainter(plot, stage, projection).Paint();
 }
 
-void DrawRibbons3D(Canvas& canvas, const Stage& stage, const Projection& projection) {
+void DrawRibbons3D(Plot& plot, const Stage& stage, const Projection& projection) {
   const Point3 eye = stage.EyeShares(projection);
   const auto stretches = StretchesBackToFront(stage, eye.x);
   for (const std::size_t series : SeriesBackToFront(stage, eye.z)) {
-    PaintRibbon(canvas, stage, projection, series, stretches);
+    PaintRibbon(plot, stage, projection, series, stretches);
   }
 }
 

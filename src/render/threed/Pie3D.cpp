@@ -5,6 +5,8 @@
 #include <numbers>
 #include <vector>
 
+#include "render/labels/DataLabels.h"
+#include "render/labels/LabelText.h"
 #include "render/threed/Shading.h"
 #include "render/threed/View.h"
 #include "xlsx/chart/ChartPart.h"
@@ -59,6 +61,7 @@ class Disc {
   }
 
   double Drop() const { return drop_; }
+  double Flatness() const { return flat_; }
   /// The upper ellipse that a slice is cut from.
   Rect EllipseOf(const Slice& slice) const {
     const double away = slice.explosion * radius_, angle = slice.Middle() * kRadian;
@@ -165,13 +168,52 @@ void DrawWalls(Canvas& canvas, std::vector<Wall>& walls) {
 
 }  // namespace
 
+namespace {
+
+DrawnPoint PointOf(const GroupModel& group, const Slice& slice, const Disc& disc) {
+  const Rect ellipse = disc.EllipseOf(slice);
+  DrawnPoint point{&group, &group.series.front(), slice.point};
+  // the box has the rim too, which labels in front of the disc stay clear of
+  point.box = {ellipse.left, ellipse.top, ellipse.width, ellipse.height + disc.Drop()};
+  point.angle = slice.from;
+  point.sweep = slice.sweep;
+  point.circle = ellipse;
+  point.share = slice.share;
+  return point;
+}
+
+/// What labels beside a disc leave of its room.
+Rect WithoutLabels(const Plot& plot, const GroupModel& group, const std::vector<Slice>& slices,
+                   const Disc& disc) {
+  const LabelsModel& labels = group.series.front().labels;
+  double across = 0, down = 0;
+  for (const Slice& slice : slices) {
+    const LabelModel* label = labels.Of(slice.point);
+    if (label == nullptr || label->layout || label->position == "ctr" || label->position == "inEnd") continue;
+    const RichText text =
+        LabelText(plot.chart, group, group.series.front(), slice.point, *label, slice.share);
+    const TextBlock block = LayOut(text, plot.canvas.Measure());
+    const double width = block.TurnedWidth() + 2 * kLabelPadding, height = block.TurnedHeight();
+    const DrawnPoint point = PointOf(group, slice, disc);
+    if (label->position == "bestFit" && FitsInSlice(point, width, height / disc.Flatness())) continue;
+    across = std::max(across, std::abs(std::sin(slice.Middle() * kRadian)) * width + 2);
+    down = std::max(down, std::abs(std::cos(slice.Middle() * kRadian)) * height + 2);
+  }
+  constexpr double kMost = 0.35;  // of the room that labels take on either side
+  return Inset(plot.area, std::min(across, plot.area.width * kMost),
+               std::min(down, plot.area.height * kMost));
+}
+
+}  // namespace
+
 void DrawPie3D(xlsx::ChartPart& part, Plot& plot, const GroupModel& group) {
   const View view = ReadView(xlsx::xml::Child(part.Space(), "chart"), true);
   const SeriesModel& series = group.series.front();  // a pie shows one
   const std::vector<Slice> slices = SlicesOf(series, view.rotation);
   double explosion = 0;
   for (const Slice& slice : slices) explosion = std::max(explosion, slice.explosion);
-  const Disc disc(view, plot.area, explosion);
+  Disc disc(view, plot.area, explosion);
+  if (!plot.chart.layout) disc = Disc(view, WithoutLabels(plot, group, slices, disc), explosion);
   std::vector<Wall> walls;
   SliceWalls adder(disc, series, walls);
   for (const Slice& slice : slices) {
@@ -181,19 +223,11 @@ void DrawPie3D(xlsx::ChartPart& part, Plot& plot, const GroupModel& group) {
   // no wall is in front of an upper side, as all of them lie below
   DrawWalls(plot.canvas, walls);
   for (const Slice& slice : slices) {
-    const Rect ellipse = disc.EllipseOf(slice);
     const ShapeStyle& style = series.StyleOf(slice.point);
-    plot.canvas.Add({Role::kSlice, series.number, static_cast<int>(slice.point) + 1}, TopOf(ellipse, slice),
-                    style.fill, style.stroke.width > 0 ? style.stroke : SeamOf(style.fill));
-    DrawnPoint& drawn = plot.points.emplace_back();
-    drawn.group = &group;
-    drawn.series = &series;
-    drawn.index = slice.point;
-    drawn.angle = slice.from;
-    drawn.sweep = slice.sweep;
-    drawn.circle = ellipse;
-    drawn.box = ellipse;
-    drawn.share = slice.share;
+    plot.canvas.Add({Role::kSlice, series.number, static_cast<int>(slice.point) + 1},
+                    TopOf(disc.EllipseOf(slice), slice), style.fill,
+                    style.stroke.width > 0 ? style.stroke : SeamOf(style.fill));
+    plot.points.push_back(PointOf(group, slice, disc));
   }
 }
 

@@ -58,8 +58,8 @@ bool DrawPlot3D(xlsx::ChartPart& part, Plot& plot, const Rect& outer) {
   const Projection projection = FitWithLabels(stage, axes, view, outer);
   DrawWalls(plot.canvas, stage, projection, ReadWalls(part), plot.chart.dates);
   if (group->family == Family::kBar) DrawBars3D(plot, stage, projection);
-  if (group->family == Family::kArea) DrawAreas3D(plot.canvas, stage, projection);
-  if (group->family == Family::kLine) DrawRibbons3D(plot.canvas, stage, projection);
+  if (group->family == Family::kArea) DrawAreas3D(plot, stage, projection);
+  if (group->family == Family::kLine) DrawRibbons3D(plot, stage, projection);
   axes.Draw(plot.canvas, projection);
   return true;
 }

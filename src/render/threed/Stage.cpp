@@ -41,7 +41,10 @@ double Stage::BarShare() const {
 }
 
 BoxShape Stage::Shape(const View& view) const {
-  const double bar = BarShare() / static_cast<double>(categories_);
+  // a bar on an axis of dates is as wide as its day; other bodies go from date to date
+  const bool byDay = Categories().dates && group_.family == Family::kBar;
+  const double slots = byDay ? std::max(Categories().dates->count, 1.0) : static_cast<double>(categories_);
+  const double bar = BarShare() / slots;
   const double depth = static_cast<double>(DepthSlots()) * bar * (1 + gapDepth_) * view.depthPercent / 100;
   return {std::clamp(depth, kLeastDepth, kMostDepth), Lying()};
 }
@@ -51,6 +54,11 @@ bool Stage::StandsOnTicks() const {
 }
 
 Span Stage::Category(std::size_t index) const {
+  if (Categories().dates) {
+    const AxisMap map(Categories(), 0, 1);
+    const double middle = map.OfCategory(static_cast<double>(index)), half = map.CategoryWidth() / 2;
+    return {middle - half, middle + half};
+  }
   const double count = static_cast<double>(categories_);
   Span span{static_cast<double>(index) / count, static_cast<double>(index + 1) / count};
   if (StandsOnTicks()) {

@@ -5,12 +5,14 @@
 #include <cmath>
 
 #include "render/axes/AxisMap.h"
+#include "render/axes/DateAxis.h"
 
 namespace plotsmith::render {
 namespace {
 
 constexpr double kTickLength = 3.75;  // points
 constexpr double kLabelGap = 5;       // from the axis to its labels
+constexpr double kInkOfLine = 0.8;    // of the height of a line, what its letters take
 constexpr std::size_t kMostLabels = 1000;
 
 Point Along(const Projection& projection, const Point3& from, const Point3& to, double share) {
@@ -24,9 +26,13 @@ StageAxes::StageAxes(const Stage& stage, const TextMeasure& measure, xlsx::DateS
     : stage_(stage),
       measure_(measure),
       values_(ReadValues(dates)),
-      categories_(ReadCategories()),
+      categories_(stage.Categories().dates ? ReadDates(dates) : ReadCategories()),
       series_(ReadSeries()) {
-  for (Ruler* ruler : {&values_, &categories_, &series_}) Measure(*ruler);
+  for (Ruler* ruler : {&values_, &categories_, &series_}) {
+    if (ruler->axis == nullptr || ruler->axis->hidden || ruler->axis->tickLabels == "none") {
+      ruler->labels.clear();
+    }
+  }
 }
 
 StageAxes::Ruler StageAxes::ReadValues(xlsx::DateSystem dates) const {
@@ -34,7 +40,7 @@ StageAxes::Ruler StageAxes::ReadValues(xlsx::DateSystem dates) const {
   int number = 0;
   for (const Tick& tick : MajorTicks(stage_.Values(), dates)) {
     const double share = stage_.Value(tick.value);
-    ruler.labels.push_back({tick.label, share, {}, ++number});
+    ruler.labels.push_back({tick.label, share, ++number});
     ruler.ticks.push_back(share);
   }
   return ruler;
@@ -48,7 +54,7 @@ StageAxes::Ruler StageAxes::ReadCategories() const {
   for (std::size_t i = 0; i < count; i += every) {
     const Span room = stage_.Category(i);
     const std::string text = i < texts.size() ? texts[i] : std::to_string(i + 1);
-    ruler.labels.push_back({text, room.Middle(), {}, static_cast<int>(i) + 1});
+    ruler.labels.push_back({text, room.Middle(), static_cast<int>(i) + 1});
     if (stage_.StandsOnTicks()) {
       ruler.ticks.push_back(room.Middle());
       continue;
@@ -59,21 +65,28 @@ StageAxes::Ruler StageAxes::ReadCategories() const {
   return ruler;
 }
 
+StageAxes::Ruler StageAxes::ReadDates(xlsx::DateSystem dates) const {
+  const AxisModel& axis = stage_.Categories();
+  const AxisMap map(axis, 0, 1);
+  Ruler ruler{&axis, {}, {}};
+  int number = 0;
+  for (const DateTick& tick : DateTicks(axis, dates)) {
+    ruler.labels.push_back({tick.label, map.OfSlot(tick.slot), ++number});
+    ruler.ticks.push_back(map.OfSlot(tick.slot - (axis.crossesBetween ? 0.5 : 0)));
+  }
+  return ruler;
+}
+
 StageAxes::Ruler StageAxes::ReadSeries() const {
   Ruler ruler{stage_.Series(), {}, {}};
   if (ruler.axis == nullptr) return ruler;
   const auto& all = stage_.Group().series;
   for (std::size_t i = 0; i < all.size(); ++i) {
-    ruler.labels.push_back({all[i].name, stage_.Depth(i).Middle(), {}, static_cast<int>(i) + 1});
+    ruler.labels.push_back({all[i].name, stage_.Depth(i).Middle(), static_cast<int>(i) + 1});
     ruler.ticks.push_back(static_cast<double>(i) / static_cast<double>(all.size()));
   }
   ruler.ticks.push_back(1);
   return ruler;
-}
-
-void StageAxes::Measure(Ruler& ruler) const {
-  if (ruler.axis == nullptr || ruler.axis->hidden || ruler.axis->tickLabels == "none") ruler.labels.clear();
-  for (Label& label : ruler.labels) label.extent = measure_.Measure(label.text, ruler.axis->text.font);
 }
 
 /// The upright edge that is leftmost on the picture.
@@ -115,50 +128,56 @@ std::vector<StageAxes::PlacedRuler> StageAxes::Place(const Projection& projectio
   return placed;
 }
 
-std::size_t StageAxes::StrideOf(const PlacedRuler& placed, const Projection& projection) const {
-  const auto& labels = placed.ruler->labels;
-  if (labels.size() < 2) return 1;
-  const AxisModel& axis = *placed.ruler->axis;
-  if (!axis.IsOfValues() && axis.labelSkip > 0) return static_cast<std::size_t>(axis.labelSkip);
-  double widest = 0, highest = 0;
-  for (const Label& label : labels) {
-    widest = std::max(widest, label.extent.width + kLabelGap);
-    highest = std::max(highest, label.extent.Height());
-  }
-  const Point a = Along(projection, placed.edge.from, placed.edge.to, labels[0].share);
-  const Point b = Along(projection, placed.edge.from, placed.edge.to, labels[1].share);
-  // two labels are apart if they are so in one of the directions
-  const double across = std::abs(a.x - b.x) / widest, down = std::abs(a.y - b.y) / highest;
-  const double fitting = std::max({across, down, 1e-3});
-  return std::max<std::size_t>(static_cast<std::size_t>(std::ceil(1 / fitting - 1e-6)), 1);
+Rect StageAxes::PlacedLabel::Bounds() const {
+  const double width = block.TurnedWidth(), height = block.TurnedHeight();
+  return {center.x - width / 2, center.y - height / 2, width, height};
 }
 
-TextItem StageAxes::ItemOf(const PlacedRuler& placed, const Label& label,
-                           const Projection& projection) const {
-  const AxisModel& axis = *placed.ruler->axis;
-  const Point at = Along(projection, placed.edge.from, placed.edge.to, label.share);
-  TextItem item;
-  item.text = label.text;
-  item.font = axis.text.font;
-  item.color = axis.text.color;
-  item.width = label.extent.width;
-  item.ascent = label.extent.ascent;
-  item.descent = label.extent.descent;
-  const double middle = at.y + (label.extent.ascent - label.extent.descent) / 2;
+StageAxes::PlacedLabel StageAxes::PlaceLabel(const PlacedRuler& placed, const Label& label, TextBlock block,
+                                             const Projection& projection) const {
+  Point center = Along(projection, placed.edge.from, placed.edge.to, label.share);
   switch (placed.edge.beside) {
     case Beside::kLeft:
-      item.anchor = {at.x - kLabelGap, middle};
-      item.align = TextAlign::kEnd;
+      center.x -= kLabelGap + block.TurnedWidth() / 2;
       break;
     case Beside::kRight:
-      item.anchor = {at.x + kLabelGap, middle};
+      center.x += kLabelGap + block.TurnedWidth() / 2;
       break;
     case Beside::kBelow:
-      item.anchor = {at.x, at.y + kLabelGap + label.extent.ascent};
-      item.align = TextAlign::kMiddle;
+      center.y += kLabelGap + block.TurnedHeight() / 2;
       break;
   }
-  return item;
+  return {&label, std::move(block), center};
+}
+
+std::vector<StageAxes::PlacedLabel> StageAxes::LabelsOf(const PlacedRuler& placed,
+                                                        const Projection& projection) const {
+  const auto& labels = placed.ruler->labels;
+  if (labels.empty()) return {};
+  const AxisModel& axis = *placed.ruler->axis;
+  Point step{kUnlimited, kUnlimited};  // from one label to the next
+  if (labels.size() > 1) {
+    const Point a = Along(projection, placed.edge.from, placed.edge.to, labels[0].share);
+    const Point b = Along(projection, placed.edge.from, placed.edge.to, labels[1].share);
+    step = {std::abs(a.x - b.x), std::abs(a.y - b.y)};
+  }
+  // names below a picture break at their blanks before any is left out
+  const bool breaks = placed.edge.beside == Beside::kBelow && !axis.IsOfValues() && !axis.text.rotation;
+  const double room = breaks ? std::max(step.x - kLabelGap, 1.0) : kUnlimited;
+  double widest = 1, highest = 1;
+  std::vector<PlacedLabel> all;
+  for (const Label& label : labels) {
+    all.push_back(PlaceLabel(placed, label, LayOut(label.text, axis.text, measure_, room), projection));
+    widest = std::max(widest, all.back().block.TurnedWidth() + kLabelGap);
+    highest = std::max(highest, all.back().block.TurnedHeight() * kInkOfLine);
+  }
+  // two labels are apart if they are so in one of the directions
+  const double fitting = std::max({step.x / widest, step.y / highest, 1e-3});
+  std::size_t stride = static_cast<std::size_t>(std::max(std::ceil(1 / fitting - 1e-6), 1.0));
+  if (!axis.IsOfValues() && axis.labelSkip > 0) stride = static_cast<std::size_t>(axis.labelSkip);
+  std::vector<PlacedLabel> shown;
+  for (std::size_t i = 0; i < all.size(); i += stride) shown.push_back(std::move(all[i]));
+  return shown;
 }
 
 Rect StageAxes::BoundsOf(const Projection& projection) const {
@@ -175,9 +194,7 @@ Rect StageAxes::BoundsOf(const Projection& projection) const {
     }
   }
   for (const PlacedRuler& placed : Place(projection)) {
-    for (const Label& label : placed.ruler->labels) {
-      bounds = Union(bounds, ItemOf(placed, label, projection).Bounds());
-    }
+    for (const PlacedLabel& label : LabelsOf(placed, projection)) bounds = Union(bounds, label.Bounds());
   }
   return bounds;
 }
@@ -197,10 +214,10 @@ void StageAxes::DrawRuler(Canvas& canvas, const PlacedRuler& placed, const Proje
       canvas.AddLine({Role::kTickMark, axis.number, ++number}, at, {at.x + way.x, at.y + way.y}, axis.line);
     }
   }
-  const std::size_t stride = StrideOf(placed, projection);
-  for (std::size_t i = 0; i < placed.ruler->labels.size(); i += stride) {
-    const Label& label = placed.ruler->labels[i];
-    canvas.AddText({Role::kTickLabel, axis.number, label.number}, ItemOf(placed, label, projection));
+  constexpr TextAlign kAligns[] = {TextAlign::kEnd, TextAlign::kMiddle, TextAlign::kStart};
+  for (const PlacedLabel& label : LabelsOf(placed, projection)) {
+    DrawBlock(canvas, {Role::kTickLabel, axis.number, label.label->number}, label.block, label.center,
+              kAligns[static_cast<std::size_t>(placed.edge.beside)]);
   }
 }
 

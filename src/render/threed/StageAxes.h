@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "render/Canvas.h"
+#include "render/layout/TextBlock.h"
 #include "render/threed/Stage.h"
 
 namespace plotsmith::render {
@@ -21,7 +22,6 @@ class StageAxes {
   struct Label {
     std::string text;
     double share = 0;
-    TextExtent extent;
     int number = 0;  ///< of the tick
   };
   struct Ruler {
@@ -39,8 +39,8 @@ class StageAxes {
 
   Ruler ReadValues(xlsx::DateSystem dates) const;
   Ruler ReadCategories() const;
+  Ruler ReadDates(xlsx::DateSystem dates) const;
   Ruler ReadSeries() const;
-  void Measure(Ruler& ruler) const;
 
   BoxEdge UprightEdge(const Projection& projection) const;
   BoxEdge LowerEdge(const Projection& projection) const;
@@ -50,9 +50,17 @@ class StageAxes {
     BoxEdge edge;
   };
   std::vector<PlacedRuler> Place(const Projection& projection) const;
-  /// How many labels one is shown of, so that they don't touch each other.
-  std::size_t StrideOf(const PlacedRuler& placed, const Projection& projection) const;
-  TextItem ItemOf(const PlacedRuler& placed, const Label& label, const Projection& projection) const;
+  struct PlacedLabel {
+    const Label* label;
+    TextBlock block;
+    Point center;
+
+    Rect Bounds() const;
+  };
+  /// The labels of an axis, of which some are left out where they would touch each other.
+  std::vector<PlacedLabel> LabelsOf(const PlacedRuler& placed, const Projection& projection) const;
+  PlacedLabel PlaceLabel(const PlacedRuler& placed, const Label& label, TextBlock block,
+                         const Projection& projection) const;
   void DrawRuler(Canvas& canvas, const PlacedRuler& placed, const Projection& projection) const;
 
   const Stage& stage_;

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <numbers>
@@ -94,6 +95,36 @@ TEST_F(Pie3DTest, SlicesGoOutAlongTheDisc) {
   // each is half of the radius away, at 45 degrees of the disc
   EXPECT_NEAR((tipOf(0).x - tipOf(3).x) / 2, slice.width * 0.5 * std::numbers::sqrt2 / 2, 0.02);
   EXPECT_NEAR((tipOf(1).y - tipOf(0).y) / 2, slice.height * 0.5 * std::numbers::sqrt2 / 2, 0.02);
+}
+
+TEST_F(Pie3DTest, LabelsOutsideStayClearOfTheDiscAndItsRim) {
+  for (const std::string rotation : {"0", "45", "100"}) {
+    std::string part =
+        Part({.view = "<c:rotX val=\"30\"/><c:rotY val=\"" + rotation + "\"/>", .group = "pie3DChart"});
+    part.insert(
+        part.find("<c:cat>"),
+        "<c:dLbls><c:dLblPos val=\"outEnd\"/><c:showVal val=\"1\"/><c:showCatName val=\"1\"/></c:dLbls>");
+    OpenChart(part);
+    const Drawing drawing = DrawChart(*Book().Chart("/xl/charts/chart1.xml"), 384, 270, fonts_, notes_);
+    const Rect top = BoundsOfAll(ItemsOf(drawing, Role::kSlice));
+    const double drop = BoundsOfAll(ItemsOf(drawing, Role::kSide)).Bottom() - top.Bottom();
+    const auto labels = ItemsOf(drawing, Role::kDataLabel);
+    EXPECT_EQ(labels.size(), 4);
+    for (const Item* label : labels) {
+      const Rect box = BoundsOf(*label);
+      EXPECT_TRUE(box.left >= 0 && box.top >= 0 && box.Right() <= 384 && box.Bottom() <= 270);
+      for (const double x : {box.left, box.Center().x, box.Right()}) {
+        for (const double y : {box.top, box.Bottom()}) {
+          // in the upper ellipse, the lower one, or between them
+          const double across = (x - top.Center().x) / (top.width / 2);
+          const double reach = std::sqrt(std::max(1 - across * across, 0.0)) * top.height / 2;
+          EXPECT_FALSE(std::abs(across) < 1 && y > top.Center().y - reach + 0.5 &&
+                       y < top.Center().y + drop + reach - 0.5)
+              << rotation << " at " << x << ", " << y;
+        }
+      }
+    }
+  }
 }
 
 }  // namespace
