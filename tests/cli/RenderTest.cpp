@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 #include <vector>
 
+#include "cli/render/PictureNames.h"
 #include "runtime/Strings.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"
@@ -94,6 +95,31 @@ class RenderTest : public ::testing::Test {
   S book_ = folder_ / "book.xlsx";
   S fresh_;
 };
+
+TEST(PictureNamesTest, NamesAreSafeShortAndToldFromEachOther) {
+  const struct {
+    S book, what, name;
+  } cases[] = {
+      {"/a/My book.xlsx", "VEX_Chart1", "My-book-VEX_Chart1"},
+      {"book.v2.xlsx", "'It''s'!Chart 2", "book.v2-It-s-Chart-2"},
+      {"book.xlsx", "../../etc/passwd", "book-etc-passwd"},
+      {"book.xlsx", "a\\b:c*?\"<>|\n\t", "book-a-b-c"},
+      {"book.xlsx", "...", "book"},
+      {"-.xlsx", "$(rm)", "rm"},
+      {".xlsx", "", "xlsx"},
+      {"book.xlsx",
+       "\xC3\x9C"
+       "bersicht",
+       "book-\xC3\x9C"
+       "bersicht"},
+      {"book.xlsx", S(99, 'x') + "\xC3\xA4", "book-" + S(99, 'x')},
+  };
+  for (const auto& c : cases) EXPECT_EQ(PictureNames(c.book).NameFor(c.what), c.name);
+  PictureNames names("b.xlsx");
+  EXPECT_EQ(names.NameFor("Chart 1"), "b-Chart-1");
+  EXPECT_EQ(names.NameFor("chart/1"), "b-chart-1-2");
+  EXPECT_EQ(names.NameFor("Chart:1"), "b-Chart-1-3");
+}
 
 TEST_F(RenderTest, PicturesGoWhereTheOutputSays) {
   const struct {

@@ -34,8 +34,8 @@ std::string Safe(std::string_view text) {
     name.resize(end);
   }
   while (!name.empty() && (name.back() == '-' || name.back() == '.')) name.pop_back();
-  // a name that begins with a dot is hidden
-  name.erase(0, name.find_first_not_of('.'));
+  // a name that begins with a dot is hidden, and one with a dash looks like an option
+  name.erase(0, name.find_first_not_of(".-"));
   return name;
 }
 
