@@ -49,7 +49,9 @@ class PreviewTest : public test::ProgramTest {
     shown_.push_back(last_);
   }
   test::ProgramResult RunAndAwait(const S& script) {
-    return Run(script, {{"await", [this] { Await(); }}});
+    return Run(script, {{"await", [this] { Await(); }},
+                        // where the page leaves room for the preview on a small screen
+                        {"corner", [] { test::FrontPage()->move(0, 0); }}});
   }
 
   qt::Preview last_;
@@ -68,6 +70,26 @@ TEST_F(PreviewTest, FollowsThePageAndLeavesTheWorkbookAlone) {
     EXPECT_FALSE(preview.picture.isNull());
     EXPECT_GT(ColoredPixels(preview.picture), 200);
   }
+  EXPECT_TRUE(BytesOf(book_) == fresh_);
+}
+
+TEST_F(PreviewTest, EachLayoutPageHasOneAndAlsoAChartThatIsModified) {
+  AddChart();
+  for (const auto& [page, lines] : test::kWays) {
+    if (page.find("Layout") == S::npos) continue;
+    last_ = {};
+    const auto run = RunAndAwait(lines + "do corner; type txtTitle B; do await; press cmdCancel");
+    EXPECT_EQ(run.failure, "") << page;
+    EXPECT_TRUE(!last_.picture.isNull() || !last_.message.empty()) << page;
+  }
+  EXPECT_EQ(shown_.size(), 4u);
+  last_ = {};
+  const auto run = RunAndAwait(
+      "page frmPSSelectAction; select grdCharts #1; press cmdModify; page frmPSLayoutPie; do await; press "
+      "cmdCancel");
+  EXPECT_EQ(run.failure, "");
+  EXPECT_GT(ColoredPixels(last_.picture), 200);
+  EXPECT_EQ(last_.message, "");
   EXPECT_TRUE(BytesOf(book_) == fresh_);
 }
 
