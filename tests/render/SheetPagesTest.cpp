@@ -256,11 +256,11 @@ TEST_F(SheetPagesTest, WhatIsntDrawnIsNotedAndPagesAreBounded) {
       "<conditionalFormatting sqref=\"A1\"/><printOptions headings=\"1\"/>"
       "<headerFooter><oddHeader>x</oddHeader></headerFooter>";
   EXPECT_EQ(Pages(sheet).size(), 1u);
-  EXPECT_EQ(notes_, (Notes{"headers and footers aren't drawn.", "conditional formats of cells aren't drawn.",
-                           "the letters of columns and the numbers of rows aren't drawn."}));
+  EXPECT_EQ(notes_, (Notes{"Headers and footers aren't drawn.", "Conditional formats of cells aren't drawn.",
+                           "The letters of columns and the numbers of rows aren't drawn."}));
   PlainSheet far{.name = "Sheet1", .rows = {{1.0}}, .top = 1000000, .left = 3};
   EXPECT_EQ(Pages(far).size(), 100u);
-  EXPECT_EQ(notes_, Notes{"the sheet has 22223 pages; the first 100 are drawn."});
+  EXPECT_EQ(notes_, Notes{"The sheet has 22223 pages; the first 100 are drawn."});
   EXPECT_EQ(Pages({.name = "Sheet1"}).size(), 0u);
 }
 

@@ -19,7 +19,7 @@ namespace {
 std::optional<render::Drawing> Draw(xlsx::Workbook& workbook, const excel::Ref<excel::Chart>& chart,
                                     render::Notes& notes) {
   if (!chart) {
-    notes.emplace_back("the workbook has its definition, but no chart; nothing is drawn.");
+    notes.emplace_back("The workbook has its definition, but no chart; nothing is drawn.");
     return std::nullopt;
   }
   try {
@@ -29,7 +29,7 @@ std::optional<render::Drawing> Draw(xlsx::Workbook& workbook, const excel::Ref<e
       return render::DrawChart(held.Part(), size.width, size.height, LoadPainter().Measure(), notes);
     });
   } catch (const runtime::RuntimeError&) {
-    notes.emplace_back("the chart can't be read; nothing is drawn.");
+    notes.emplace_back("The chart can't be read; nothing is drawn.");
     return std::nullopt;
   }
 }

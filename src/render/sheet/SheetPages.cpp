@@ -44,16 +44,16 @@ xlsx::PageSetup OnePage(const xlsx::PageSetup& setup) {
 /// Says what of a printed page isn't drawn.
 void NoteMissing(const xlsx::Workbook& book, const xlsx::SheetEntry& sheet, const xlsx::PageSetup& setup,
                  Notes& notes) {
-  if (setup.hasHeaderOrFooter) notes.emplace_back("headers and footers aren't drawn.");
-  if (setup.hasConditionalFormats) notes.emplace_back("conditional formats of cells aren't drawn.");
-  if (setup.headings) notes.emplace_back("the letters of columns and the numbers of rows aren't drawn.");
+  if (setup.hasHeaderOrFooter) notes.emplace_back("Headers and footers aren't drawn.");
+  if (setup.hasConditionalFormats) notes.emplace_back("Conditional formats of cells aren't drawn.");
+  if (setup.headings) notes.emplace_back("The letters of columns and the numbers of rows aren't drawn.");
   const auto& sheets = book.AllSheets();
   const bool hasTitles =
       std::any_of(book.AllNames().begin(), book.AllNames().end(), [&](const xlsx::NameEntry& name) {
         return name.sheet && *name.sheet < sheets.size() && sheets[*name.sheet].get() == &sheet &&
                name.name == kPrintTitles;
       });
-  if (hasTitles) notes.emplace_back("rows and columns that repeat on each page are drawn once.");
+  if (hasTitles) notes.emplace_back("Rows and columns that repeat on each page are drawn once.");
 }
 
 /// The pages of a sheet with cells.
@@ -80,7 +80,7 @@ class WorksheetPages {
     const PageCuts cuts =
         CutPages(setup_, reader_.Geometry(), ranges_, paper_ == Paper::kOne ? 1 : kMostPages);
     if (cuts.count > cuts.pages.size()) {
-      notes_.push_back("the sheet has " + std::to_string(cuts.count) + " pages; the first " +
+      notes_.push_back("The sheet has " + std::to_string(cuts.count) + " pages; the first " +
                        std::to_string(cuts.pages.size()) + " are drawn.");
     }
     std::vector<Drawing> pages;

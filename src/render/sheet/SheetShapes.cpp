@@ -58,9 +58,11 @@ std::vector<DrawnShape> DrawShapes(xlsx::Workbook& book, xlsx::Worksheet& sheet,
                     : DrawnObject(*shape, place, number, measure, own));
       });
     } catch (const runtime::RuntimeError&) {
-      own.emplace_back("it can't be read; nothing is drawn.");
+      notes.push_back("\"" + shape->Name() + "\": It can't be read; nothing is drawn.");
     }
-    for (const std::string& note : own) notes.push_back("\"" + shape->Name() + "\": " + note);
+    // the notes on a shape name it themselves
+    for (const std::string& note : own)
+      notes.push_back((isChart ? "\"" + shape->Name() + "\": " : "") + note);
   }
   return shapes;
 }
