@@ -9,6 +9,7 @@
 #include <optional>
 #include <stdexcept>
 
+#include "render/cairo/CairoImage.h"
 #include "render/cairo/CairoPaint.h"
 #include "render/cairo/PixelGrid.h"
 #include "render/cairo/PngWriter.h"
@@ -153,7 +154,7 @@ class Painter {
     --clips_;
     cairo_restore(cr_);
   }
-  void operator()(const ImageItem&) {}
+  void operator()(const ImageItem& item) { PaintImage(cr_, item); }
 
  private:
   void DrawOnPixels(const PathItem& item) {

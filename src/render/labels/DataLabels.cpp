@@ -51,13 +51,6 @@ Point CenterAtMarker(const DrawnPoint& point, const std::string& position, Half 
   return center;
 }
 
-/// How far the centre of a box is from a line through its edge in a direction: the box's reach that way.
-double ReachOf(Half half, double degrees) {
-  const double sine = std::abs(std::sin(degrees * kRadian)), cosine = std::abs(std::cos(degrees * kRadian));
-  if (sine * half.height > cosine * half.width) return half.width / std::max(sine, 1e-6);
-  return half.height / std::max(cosine, 1e-6);
-}
-
 /// The farthest place of a box's centre in a direction at which the box is inside of a circle.
 double FarthestInside(Half half, double degrees, double radius) {
   const double b = std::abs(std::sin(degrees * kRadian)) * half.width +

@@ -5,12 +5,15 @@
 #include <cmath>
 #include <string>
 
+#include "render/Images.h"
 #include "render/shapes/Placement.h"
 #include "render/shapes/ShapeForms.h"
 #include "render/shapes/ShapeText.h"
+#include "xlsx/Workbook.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/ShapeXml.h"
 #include "xlsx/drawing/Theme.h"
+#include "xlsx/package/PackageError.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::render {
@@ -74,8 +77,8 @@ StyleOfShape ReadStyleOfShape(const Palette& palette, pugi::xml_node object) {
 
 class ObjectPainter {
  public:
-  ObjectPainter(Canvas& canvas, const Palette& palette, int number)
-      : canvas_(canvas), palette_(palette), number_(number) {}
+  ObjectPainter(Canvas& canvas, const Palette& palette, int number, const ImageSource& images)
+      : canvas_(canvas), palette_(palette), number_(number), images_(images) {}
 
   void Paint(pugi::xml_node object, const Rect& frame, const Placement& outer, const Fill& ofGroup,
              int depth) {
@@ -88,7 +91,7 @@ class ObjectPainter {
     } else if (xml::Is(object, "sp") || xml::Is(object, "cxnSp")) {
       PaintShape(object, frame, placement, ofGroup);
     } else if (xml::Is(object, "pic")) {
-      canvas_.Note("A picture among the shapes isn't drawn: " + NameOf(object) + ".");
+      PaintPicture(object, frame, transform, placement);
     }
   }
 
@@ -131,16 +134,63 @@ class ObjectPainter {
                   frame, placement);
   }
 
+  void PaintPicture(pugi::xml_node object, const Rect& frame, const Transform& transform,
+                    const Placement& placement) {
+    const auto fill = xml::Child(object, "blipFill");
+    std::string bytes;
+    for (const pugi::xml_attribute& link : xml::Child(fill, "blip").attributes()) {
+      if (images_ && xml::LocalName(link.name()) == "embed") bytes = images_(link.value());
+    }
+    const bool turned = placement.Rotation() != 0 || transform.flipX || transform.flipY;
+    if (turned || !IsDrawableImage(bytes)) {
+      canvas_.Note("A picture among the shapes isn't drawn, as it is turned or of another kind than PNG: " +
+                   NameOf(object) + ".");
+      return;
+    }
+    const Rect place = Uncropped(xml::Child(fill, "srcRect"), frame);
+    if (place != frame) canvas_.PushClip(Path().AddRect(frame));
+    canvas_.Target().items.push_back({{Role::kShape, 0, number_}, ImageItem{std::move(bytes), place}});
+    if (place != frame) canvas_.PopClip();
+    const ShapeStyle style = ReadStyle(palette_, xlsx::ShapePropertiesOf(object), {});
+    canvas_.Add({Role::kShape, 0, number_}, Path().AddRect(frame), {}, style.stroke);
+  }
+  /// Where all of a picture would be, of which a frame shows a part.
+  static Rect Uncropped(pugi::xml_node crop, const Rect& frame) {
+    const auto share = [&](const char* side) {
+      const double thousandths = xml::NumberAttribute(crop, side, 0) / 100000;
+      return std::isfinite(thousandths) ? std::clamp(thousandths, -1.0, 0.95) : 0;
+    };
+    const double left = share("l"), top = share("t"), across = 1 - left - share("r"),
+                 down = 1 - top - share("b");
+    constexpr double kLeast = 0.01;  // of the picture
+    if (across < kLeast || down < kLeast) return frame;
+    const double width = frame.width / across, height = frame.height / down;
+    return {frame.left - left * width, frame.top - top * height, width, height};
+  }
+
   Canvas& canvas_;
   const Palette& palette_;
   int number_;
+  const ImageSource& images_;
 };
 
 }  // namespace
 
+ImageSource ImagesOf(xlsx::Workbook& book, std::string part) {
+  return [&book, part = std::move(part)](const std::string& relationship) -> std::string {
+    try {
+      const auto link = book.Package().FindRelationship(part, relationship);
+      if (!link || link->external || !book.Package().Has(link->target)) return {};
+      return book.Package().Read(link->target);
+    } catch (const xlsx::PackageError&) {
+      return {};  // a picture that can't be read is no reason to give the drawing up
+    }
+  };
+}
+
 void DrawShapeObject(Canvas& canvas, const Palette& palette, pugi::xml_node object, const Rect& frame,
-                     int number) {
-  ObjectPainter(canvas, palette, number).Paint(object, frame, {}, {}, 0);
+                     int number, const ImageSource& images) {
+  ObjectPainter(canvas, palette, number, images).Paint(object, frame, {}, {}, 0);
 }
 
 }  // namespace plotsmith::render

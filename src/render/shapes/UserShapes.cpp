@@ -4,6 +4,7 @@
 
 #include "render/shapes/ShapeObjects.h"
 #include "runtime/RuntimeError.h"
+#include "xlsx/Workbook.h"
 #include "xlsx/chart/ChartDrawing.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/package/Xml.h"
@@ -34,11 +35,15 @@ Rect FrameOf(pugi::xml_node anchor, const Rect& chart) {
 }  // namespace
 
 void DrawUserShapes(xlsx::ChartPart& part, Canvas& canvas) {
-  if (!xml::Child(part.Space(), "userShapes")) return;
+  const auto link = xml::Child(part.Space(), "userShapes");
+  if (!link) return;
   try {
+    const auto target = part.Book().Package().FindRelationship(part.Part(), xml::RelationshipId(link));
+    const ImageSource images = ImagesOf(part.Book(), target ? target->target : "");
     int number = 0;
     for (const auto& shape : part.Drawing().Shapes()) {
-      DrawShapeObject(canvas, part, shape->Object(), FrameOf(shape->Anchor(), canvas.Bounds()), ++number);
+      DrawShapeObject(canvas, part, shape->Object(), FrameOf(shape->Anchor(), canvas.Bounds()), ++number,
+                      images);
     }
   } catch (const runtime::RuntimeError& e) {
     canvas.Note(e.what());

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "render/FontSubstitutes.h"
+#include "render/svg/SvgImage.h"
 #include "render/svg/SvgPaint.h"
 #include "runtime/Strings.h"
 
@@ -180,7 +181,7 @@ class Writer {
     --groups_;
     body_ += "</g>\n";
   }
-  void operator()(const ImageItem&) {}
+  void operator()(const ImageItem& item) { body_ += ImageElement(item); }
 
   std::string Finish() {
     for (; groups_ > 0; --groups_) body_ += "</g>\n";

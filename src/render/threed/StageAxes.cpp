@@ -104,20 +104,38 @@ StageAxes::BoxEdge StageAxes::UprightEdge(const Projection& projection) const {
   return best;
 }
 
-/// The edge along x that is lowest on the picture.
-StageAxes::BoxEdge StageAxes::LowerEdge(const Projection& projection) const {
-  const double front = Along(projection, {0, 0, 0}, {1, 0, 0}, 0.5).y;
-  const double back = Along(projection, {0, 0, 1}, {1, 0, 1}, 0.5).y;
-  const double z = back > front + 1e-6 ? 1 : 0;
-  return {{0, 0, z}, {1, 0, z}, Beside::kBelow};
+/// Of two edges of the floor the one that is lower on the picture, and so nearer to the viewer; at the same
+/// height the first.
+StageAxes::BoxEdge StageAxes::LowerOf(const Projection& projection, BoxEdge first, const BoxEdge& second) {
+  const double lower = Along(projection, second.from, second.to, 0.5).y;
+  return lower > Along(projection, first.from, first.to, 0.5).y + 1e-6 ? second : first;
 }
 
-/// The edge of the floor along z that is rightmost on the picture.
+/// The edge along x. Labels stand beside it where it goes up more than aside.
+StageAxes::BoxEdge StageAxes::LowerEdge(const Projection& projection) const {
+  BoxEdge edge = LowerOf(projection, {{0, 0, 0}, {1, 0, 0}}, {{0, 0, 1}, {1, 0, 1}});
+  edge.beside = IsSteep(projection, edge) ? SideOf(projection, edge) : Beside::kBelow;
+  return edge;
+}
+
+/// The edge of the floor along z.
 StageAxes::BoxEdge StageAxes::SeriesEdge(const Projection& projection) const {
-  const double left = Along(projection, {0, 0, 0}, {0, 0, 1}, 0.5).x;
-  const double right = Along(projection, {1, 0, 0}, {1, 0, 1}, 0.5).x;
-  const double x = left > right ? 0 : 1;
-  return {{x, 0, 0}, {x, 0, 1}, Beside::kRight};
+  BoxEdge edge = LowerOf(projection, {{1, 0, 0}, {1, 0, 1}}, {{0, 0, 0}, {0, 0, 1}});
+  edge.beside = SideOf(projection, edge);
+  // at the left there are the labels of the upright edge, too
+  if (edge.beside == Beside::kLeft && !IsSteep(projection, edge)) edge.beside = Beside::kBelow;
+  return edge;
+}
+
+bool StageAxes::IsSteep(const Projection& projection, const BoxEdge& edge) {
+  const Point a = Along(projection, edge.from, edge.to, 0), b = Along(projection, edge.from, edge.to, 1);
+  return std::abs(a.y - b.y) > std::abs(a.x - b.x);
+}
+
+/// The side of the picture that an edge of the floor is on.
+StageAxes::Beside StageAxes::SideOf(const Projection& projection, const BoxEdge& edge) {
+  const double middle = Along(projection, {0, 0, 0}, {1, 0, 1}, 0.5).x;
+  return Along(projection, edge.from, edge.to, 0.5).x < middle - 1e-6 ? Beside::kLeft : Beside::kRight;
 }
 
 std::vector<StageAxes::PlacedRuler> StageAxes::Place(const Projection& projection) const {

@@ -43,6 +43,9 @@ class StageAxes {
   Ruler ReadSeries() const;
 
   BoxEdge UprightEdge(const Projection& projection) const;
+  static BoxEdge LowerOf(const Projection& projection, BoxEdge first, const BoxEdge& second);
+  static Beside SideOf(const Projection& projection, const BoxEdge& edge);
+  static bool IsSteep(const Projection& projection, const BoxEdge& edge);
   BoxEdge LowerEdge(const Projection& projection) const;
   BoxEdge SeriesEdge(const Projection& projection) const;
   struct PlacedRuler {

@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "render/ChartDrawing.h"
+#include "render/cairo/CairoPainter.h"
 #include "render/shapes/Placement.h"
+#include "render/svg/SvgWriter.h"
 #include "tests/render/threed/Chart3DTest.h"
 #include "xlsx/chart/ChartPart.h"
 
@@ -166,6 +168,60 @@ TEST_F(UserShapesTest, ADrawingThatCantBeReadIsNoted) {
   DrawChart(*Book().Chart("/xl/charts/chart1.xml"), kWidth, kHeight, fonts_, notes_);
   ASSERT_EQ(notes_.size(), 1);
   EXPECT_EQ(notes_[0].rfind("The chart's shapes can't be read", 0), 0) << notes_[0];
+}
+
+/// A chart with a picture among its shapes: `bytes` behind the relationship.
+std::string PictureXml(const std::string& crop, const std::string& turn) {
+  return "<cdr:pic><cdr:nvPicPr><cdr:cNvPr id=\"2\" "
+         "name=\"Logo\"/><cdr:cNvPicPr/></cdr:nvPicPr><cdr:blipFill>"
+         "<a:blip xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\" "
+         "r:embed=\"rId1\"/>" +
+         crop + "</cdr:blipFill><cdr:spPr><a:xfrm" + turn + "/></cdr:spPr></cdr:pic>";
+}
+
+TEST_F(UserShapesTest, PicturesFillTheirFrameAsFarAsTheyAreNotCropped) {
+  Drawing red{9, 9, "", "", {}};
+  red.items.push_back(
+      {{}, render::PathItem{render::Path().AddRect({0, 0, 9, 9}), render::SolidFill{{255, 0, 0, 1}}, {}}});
+  const std::string png = MakePng(red, fonts_);
+  struct Case {
+    std::string bytes, crop, turn;
+    Rect place;
+  };
+  for (const Case& c : {Case{png, "", "", {100, 50, 200, 50}},
+                        Case{png, R"(<a:srcRect l="50000" b="75000"/>)", "", {-100, 50, 400, 200}},
+                        Case{"GIF89a", "", "", {}}, Case{png, "", " rot=\"5400000\"", {}}}) {
+    OpenChart(ChartPartXml("<c:plotArea/>",
+                           "<c:userShapes r:id=\"rId7\" "
+                           "xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/"
+                           "relationships\"/>"),
+              "<c:userShapes xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\" "
+              "xmlns:cdr=\"http://schemas.openxmlformats.org/drawingml/2006/chartDrawing\" "
+              "xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\">" +
+                  Anchor(PictureXml(c.crop, c.turn)) + "</c:userShapes>");
+    xlsx::Package& package = Book().Package();
+    package.Add("/xl/media/image1.png", "image/png", c.bytes);
+    package.AddRelationship("/xl/drawings/drawing2.xml", "image", "/xl/media/image1.png");  // rId1
+    notes_.clear();
+    const Drawing drawing =
+        DrawChart(*Book().Chart("/xl/charts/chart1.xml"), kWidth, kHeight, fonts_, notes_);
+    const auto pictures = ItemsOf(drawing, Role::kShape);
+    if (c.place.width == 0) {
+      EXPECT_TRUE(pictures.empty());
+      EXPECT_EQ(notes_,
+                render::Notes{"A picture among the shapes isn't drawn, as it is turned or of another kind "
+                              "than PNG: Logo."});
+      continue;
+    }
+    ASSERT_EQ(pictures.size(), 1);
+    ExpectNear(BoundsOf(*pictures[0]), c.place, c.crop);
+    const std::string svg = MakeSvg(drawing);
+    EXPECT_NE(svg.find("data:image/png;base64,iVBORw0KGgo"), std::string::npos);
+    Drawing without = drawing;
+    std::erase_if(without.items, [](const Item& item) { return item.tag.role == Role::kShape; });
+    EXPECT_NE(MakePng(drawing, fonts_), MakePng(without, fonts_));
+    EXPECT_TRUE(notes_.empty());
+  }
 }
 
 TEST(PlacementTest, InnerTurnsComeBeforeOuterOnes) {

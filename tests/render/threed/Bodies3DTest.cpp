@@ -218,16 +218,32 @@ TEST_F(Bodies3DTest, AreasStandBehindEachOtherWithTheFirstInFront) {
   EXPECT_EQ(names, (std::vector<std::string>{"S1", "S2", "S3"}));
 }
 
-TEST_F(Bodies3DTest, AxisLabelsStayOnTheChartAndApart) {
+/// Whether a point is inside of a polygon: a ray from it crosses the outline an odd number of times.
+bool IsInside(Point point, const std::vector<render::PathStep>& outline) {
+  bool inside = false;
+  for (std::size_t i = 0; i + 1 < outline.size(); ++i) {
+    const Point a = outline[i].to, b = outline[(i + 1) % (outline.size() - 1)].to;
+    const bool crosses = (a.y > point.y) != (b.y > point.y);
+    if (crosses && point.x < a.x + (point.y - a.y) / (b.y - a.y) * (b.x - a.x)) inside = !inside;
+  }
+  return inside;
+}
+
+TEST_F(Bodies3DTest, AxisLabelsStayOnTheChartApartAndOffTheFloor) {
   for (const std::string view : {R"(<c:rotX val="15"/><c:rotY val="20"/><c:rAngAx val="1"/>)",
                                  R"(<c:rotX val="30"/><c:rotY val="45"/><c:perspective val="60"/>)",
                                  R"(<c:rotX val="80"/><c:rotY val="200"/><c:perspective val="200"/>)",
                                  R"(<c:rotX val="-20"/><c:rotY val="320"/><c:perspective val="30"/>)",
+                                 R"(<c:rotX val="30"/><c:rotY val="120"/><c:perspective val="60"/>)",
                                  R"(<c:hPercent val="30"/><c:rotY val="70"/><c:depthPercent val="300"/>)"}) {
     for (const std::string grouping : {"standard", "clustered"}) {
       const Drawing drawing = Draw({.view = view, .grouping = grouping});
       const auto labels = ItemsOf(drawing, Role::kTickLabel);
       EXPECT_GE(labels.size(), 4);
+      const auto& floor = std::get<render::PathItem>(ItemsOf(drawing, Role::kFloor).at(0)->content).path;
+      for (const Item* label : labels) {
+        EXPECT_FALSE(IsInside(BoundsOf(*label).Center(), floor.Steps())) << view << grouping;
+      }
       for (std::size_t i = 0; i < labels.size(); ++i) {
         const Rect box = BoundsOf(*labels[i]);
         EXPECT_TRUE(box.left >= 0 && box.top >= 0 && box.Right() <= 384 && box.Bottom() <= 270) << view;
