@@ -22,8 +22,8 @@ Drawing DrawnChart(xlsx::SheetShape& shape, const Rect& place, const TextMeasure
 }
 
 /// A shape that is no chart, with room around it for what sticks out.
-DrawnShape DrawnObject(xlsx::SheetShape& shape, const Rect& place, int number, const TextMeasure& measure,
-                       Notes& notes) {
+DrawnShape DrawnObject(xlsx::SheetShape& shape, const Rect& place, int number, const ImageSource& images,
+                       const TextMeasure& measure, Notes& notes) {
   constexpr double kThickLine = 12;
   const double room = std::max(place.width, place.height) / 2 + kThickLine;
   DrawnShape drawn{place, {}, {place.left - room, place.top - room}};
@@ -31,7 +31,7 @@ DrawnShape DrawnObject(xlsx::SheetShape& shape, const Rect& place, int number, c
   drawn.drawing.height = place.height + 2 * room;
   Canvas canvas(drawn.drawing, measure, notes);
   DrawShapeObject(canvas, Palette(shape.Book().Theme()), shape.Object(),
-                  {room, room, place.width, place.height}, number);
+                  {room, room, place.width, place.height}, number, images);
   return drawn;
 }
 
@@ -42,6 +42,7 @@ std::vector<DrawnShape> DrawShapes(xlsx::Workbook& book, xlsx::Worksheet& sheet,
   std::vector<DrawnShape> shapes;
   const xlsx::SheetDrawing* const drawing = sheet.FindDrawing();
   if (drawing == nullptr) return shapes;
+  const ImageSource images = ImagesOf(book, drawing->Part());
   int number = 0;
   for (const auto& shape : drawing->Shapes()) {
     ++number;
@@ -55,7 +56,7 @@ std::vector<DrawnShape> DrawShapes(xlsx::Workbook& book, xlsx::Worksheet& sheet,
       book.Viewed([&] {
         shapes.push_back(
             isChart ? DrawnShape{place, DrawnChart(*shape, place, measure, own), {place.left, place.top}}
-                    : DrawnObject(*shape, place, number, measure, own));
+                    : DrawnObject(*shape, place, number, images, measure, own));
       });
     } catch (const runtime::RuntimeError&) {
       notes.push_back("\"" + shape->Name() + "\": It can't be read; nothing is drawn.");
