@@ -1,5 +1,5 @@
 // Makes the gallery: a workbook with a chart of every type and setting, each on a sheet of its own, and the
-// page that shows their pictures. scripts/gallery.sh takes the pictures. Usage: make_gallery FOLDER
+// page that shows their pictures. scripts/gallery.sh has them drawn. Usage: make_gallery FOLDER
 
 #include <array>
 #include <fstream>
@@ -14,8 +14,8 @@ namespace {
 using namespace plotsmith::examples;
 
 constexpr double kWidth = 300, kHeight = 200;  // points
-constexpr int kResolution = 72;                // dots an inch
-constexpr int kFarResolution = 45;             // of a picture that shows more than the chart
+constexpr int kResolution = 72;                // dots an inch, of LibreOffice's picture
+constexpr int kFarResolution = 45;             // of one that shows more than the chart
 
 /// A picture: one chart, and what is to be said about it.
 struct Picture {
@@ -258,7 +258,8 @@ void MakeTables(ExampleBook& book) {
 
 constexpr std::size_t kTableSheets = 4;
 
-/// The workbook, and on stdout for each picture its page in the printed workbook, its resolution, its name.
+/// The workbook, and on stdout for each picture: its page in the workbook as LibreOffice prints it, the
+/// resolution of that, its name, and what is drawn, "chart" or "sheet".
 void MakeBook(const std::vector<Section>& gallery, const std::string& path) {
   ExampleBook book;
   MakeTables(book);
@@ -274,7 +275,7 @@ void MakeBook(const std::vector<Section>& gallery, const std::string& path) {
       book.Chart(sheet, 0, 0, kWidth, kHeight, picture.attributes, picture.content);
       if (!picture.comment.empty()) book.Comment(sheet, picture.comment);
       std::cout << kTableSheets + next << ' ' << (picture.comment.empty() ? kResolution : kFarResolution)
-                << ' ' << picture.name << '\n';
+                << ' ' << picture.name << ' ' << (picture.comment.empty() ? "chart" : "sheet") << '\n';
     }
   }
   book.Finish(path);
@@ -283,19 +284,24 @@ void MakeBook(const std::vector<Section>& gallery, const std::string& path) {
 void MakePage(const std::vector<Section>& gallery, const std::string& path) {
   std::ofstream page(path);
   page << "# Gallery\n\n"
-          "Every chart type and setting, drawn by LibreOffice from `build/gallery/gallery.xlsx`, with the "
-          "piece "
-          "of the\ndefinition that makes it. `scripts/gallery.sh` makes the workbook, the pictures and this "
-          "page anew;\n[file-formats.md](file-formats.md) describes the definition as a whole.\n";
+          "Every chart type and setting, drawn by `plotsmith render` from `build/gallery/gallery.xlsx`, with "
+          "the "
+          "piece of the\ndefinition that makes it. Behind \"LibreOffice\" is the picture that LibreOffice "
+          "makes of "
+          "the same chart.\n`scripts/gallery.sh` makes the workbook, the pictures and this page anew;\n"
+          "[file-formats.md](file-formats.md) describes the definition as a whole, and "
+          "[render.md](render.md) how "
+          "charts are drawn.\n";
   for (const Section& section : gallery) {
     page << "\n## " << static_cast<char>(std::toupper(section.title[0])) << section.title.substr(1) << "\n\n"
          << section.text << "\n\n<table>\n";
     for (std::size_t i = 0; i < section.pictures.size(); ++i) {
       const Picture& picture = section.pictures[i];
       if (i % 3 == 0) page << "<tr valign=\"top\">\n";
-      page << "<td><img src=\"images/gallery/" << picture.name << ".png\" alt=\"" << section.title << ": "
-           << picture.caption << "\"><br><b>" << picture.caption << "</b><br><code>" << Escaped(picture.shown)
-           << "</code></td>\n";
+      page << "<td><img src=\"images/gallery/" << picture.name << ".svg\" alt=\"" << section.title << ": "
+           << picture.caption << "\"><br><b>" << picture.caption
+           << "</b> (<a href=\"images/gallery/libreoffice/" << picture.name
+           << ".png\">LibreOffice</a>)<br><code>" << Escaped(picture.shown) << "</code></td>\n";
       if (i % 3 == 2 || i + 1 == section.pictures.size()) page << "</tr>\n";
     }
     page << "</table>\n";

@@ -13,6 +13,7 @@
 #include "controller/CPlotsmithController.h"
 #include "controller/System.h"
 #include "forms/UnattendedView.h"
+#include "fuzz/Pictures.h"
 #include "fuzz/TemporaryBook.h"
 #include "fuzz/Wizard.h"
 #include "runtime/RuntimeError.h"
@@ -142,7 +143,10 @@ void Styles(const std::uint8_t* data, std::size_t size) {
   });
 }
 
-/// A drawing with one chart, the one or the other part made of the bytes, and a refresh over it.
+constexpr const char* kChartPart = "/xl/charts/chart1.xml";
+
+/// A drawing with one chart, the one or the other part made of the bytes, and a refresh over it. The
+/// chart is drawn before and after.
 void RefreshWith(const char* part, std::string_view bytes) {
   const auto host = xlsx::Application::Create();
   auto& book = host->NewWorkbook();
@@ -174,7 +178,9 @@ void RefreshWith(const char* part, std::string_view bytes) {
     host->Open(path);
     auto& package = host->Book().Package();
     if (package.Has(part)) package.Replace(part, std::string(bytes));
+    Tolerate([&] { DrawPictures(host->Book(), kChartPart); });
     Refresh(host);
+    Tolerate([&] { DrawPictures(host->Book(), kChartPart); });
     host->Book().Save(path);
     host->Open(path);
     Refresh(host);
@@ -182,9 +188,7 @@ void RefreshWith(const char* part, std::string_view bytes) {
   unlink(path.c_str());
 }
 
-void Chart(const std::uint8_t* data, std::size_t size) {
-  RefreshWith("/xl/charts/chart1.xml", Text(data, size));
-}
+void Chart(const std::uint8_t* data, std::size_t size) { RefreshWith(kChartPart, Text(data, size)); }
 void Drawing(const std::uint8_t* data, std::size_t size) {
   RefreshWith("/xl/drawings/drawing1.xml", Text(data, size));
 }
@@ -192,7 +196,7 @@ void Definition(const std::uint8_t* data, std::size_t size) {
   if (size < 30000 && size > 0 && data[0] == '<') RefreshWith("definition", Text(data, size));
 }
 
-/// The shapes on a chart, each read, dressed, moved and at last grouped or deleted.
+/// The shapes on a chart, drawn, and each read, dressed, moved and at last grouped or deleted.
 void ChartShapes(const std::uint8_t* data, std::size_t size) {
   const auto host = xlsx::Application::Create();
   auto& book = host->NewWorkbook();
@@ -207,6 +211,7 @@ void ChartShapes(const std::uint8_t* data, std::size_t size) {
   Tolerate([&] {
     host->Open(path);
     host->Book().Package().Replace("/xl/drawings/drawing2.xml", std::string(Text(data, size)));
+    Tolerate([&] { DrawPictures(host->Book(), kChartPart); });
     const auto frame = host->Book().AllSheets()[0]->worksheet->ChartObjects()->Item("Chart 1");
     const auto shapes = frame->Chart()->Shapes();
     std::vector<std::string> names;

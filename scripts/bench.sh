@@ -1,5 +1,5 @@
 #!/bin/sh
-# Measures: the large refresh beside unzip, how whole runs grow, and the parts. Figures are ratios within this run.
+# Measures: the large refresh beside unzip, how whole runs grow, pictures beside LibreOffice's, and the parts. Figures are ratios within this run.
 # Usage: scripts/bench.sh [PAIRS]
 set -eu
 cd "$(dirname "$0")/.."
@@ -69,5 +69,23 @@ $new "Number 3" -o "$books/wide-made.xlsx"
   "$bench/measure" beside "processor time of new --print-script / tables" 5 $new "Number 3" --print-script -- \
     $command tables "$books/wide.xlsx"
 }
+echo "== Pictures of charts over a table of 100 rows"
+for n in 1 50 200; do
+  [ -f "$books/drawn-$n.xlsx" ] || { "$bench/make_book" data "$books/drawn-$n.xlsx" 100 "$n" && $command refresh "$books/drawn-$n.xlsx"; }
+done
+pictures=$bench/pictures
+"$bench/measure" beside "processor time of 200 charts as PNG / of one" 5 \
+  $command render "$books/drawn-200.xlsx" -o "$pictures/" --format png -- \
+  $command render "$books/drawn-1.xlsx" -o "$pictures/" --format png
+if command -v soffice >/dev/null; then
+  for n in 1 50; do
+    # shellcheck disable=SC2016
+    "$bench/measure" faster "$n charts as PDF beside LibreOffice, times as fast" 3 \
+      $command render "$books/drawn-$n.xlsx" -o "$bench/drawn-$n.pdf" -- \
+      scripts/print.sh "$books/drawn-$n.xlsx" "$pictures"
+  done
+else
+  echo "(LibreOffice isn't there to be measured beside)"
+fi
 echo "== The parts"
 "$bench/plotsmith_bench" --benchmark_min_time=0.2 2>/dev/null

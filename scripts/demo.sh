@@ -1,29 +1,22 @@
 #!/bin/sh
-# Refreshes the example workbooks, makes the charts of one from plain tables, and takes pictures where LibreOffice is;
-# then of the pages of the wizard where Qt is.
+# Refreshes the example workbooks, makes the charts of one from plain tables, and draws them; then takes pictures of the
+# pages of the wizard where Qt is.
 set -eu
 cd "$(dirname "$0")/.."
 mkdir -p demo
 
-# Says which charts a book of demo/ has, and takes a picture of a page of it: NAME PAGE.
+# Says which charts a book of demo/ has, and draws its sheet Charts: NAME.
 show() {
-  name=$1
-  build/plotsmith charts "demo/$name.xlsx" | sed 's/^/    /'
-  if command -v soffice >/dev/null && command -v pdftoppm >/dev/null; then
-    scripts/print.sh "demo/$name.xlsx" demo
-    pdftoppm -png -r 96 -f "$2" -l "$2" -singlefile "demo/$name.pdf" "demo/$name"
-    rm "demo/$name.pdf"
-    echo "demo/$name.png: a picture of its sheet Charts"
-  else
-    echo "    (LibreOffice and pdftoppm would make a picture of it)"
-  fi
+  build/plotsmith charts "demo/$1.xlsx" | sed 's/^/    /'
+  build/plotsmith render "demo/$1.xlsx" --sheet Charts --one-page -o "demo/$1.png"
+  echo "demo/$1.png: a picture of its sheet Charts"
 }
 
 for book in examples/*.xlsx; do
   name=$(basename "$book" .xlsx)
   build/plotsmith refresh "$book" -o "demo/$name.xlsx"
   echo "demo/$name.xlsx: refreshed; these are its charts:"
-  show "$name" 2
+  show "$name"
 done
 
 # A book with plain tables gets a chart of each type, each on a sheet of its own.
@@ -41,7 +34,7 @@ new bubble --title "Products" --categories Product --values Amount --x-values Co
 new "strategic bucket" --title "Amounts and targets" --categories Product --series Product --bucket-table VEX_SB_Targets \
   --labels names --new-sheet Buckets
 echo "$book: made from two plain tables; these are its charts:"
-show orders 4
+show orders
 
 if grep -q '^Qt6Widgets_DIR:PATH=/' build/CMakeCache.txt; then
   cmake --build build --target plotsmith-wizard plotsmith_wizard_shots

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Makes docs/gallery.md and the pictures in docs/images anew, through LibreOffice.
+# Makes docs/gallery.md and the pictures in docs/images anew: ours with `plotsmith render`, and LibreOffice's beside them.
 set -eu
 cd "$(dirname "$0")/.."
 for needed in soffice pdftoppm; do
@@ -11,18 +11,20 @@ cmake --build build --target plotsmith make_gallery
 out=build/gallery
 images=docs/images
 rm -rf "$out" "$images/gallery"
-mkdir -p "$out" "$images/gallery"
-
-# Takes the top left corner of a page: PDF PAGE DPI WIDTH HEIGHT PICTURE, in pixels.
-take() {
-  pdftoppm -png -r "$3" -x 0 -y 0 -W "$4" -H "$5" -f "$2" -l "$2" -singlefile "$out/$1.pdf" "$images/$6"
-}
+mkdir -p "$out" "$images/gallery/libreoffice"
 
 # A chart whose table is gone is part of the gallery; the refresh says so.
 build/examples/make_gallery "$out" >"$out/pages"
 scripts/print.sh "$out/gallery.xlsx" "$out"
-while read -r page dpi name; do
-  take gallery "$page" "$dpi" 308 202 "gallery/$name"
+while read -r page dpi name what; do
+  if [ "$what" = chart ]; then
+    build/plotsmith render "$out/gallery.xlsx" "$name!Chart 1" -o "$images/gallery/$name.svg"
+  else
+    build/plotsmith render "$out/gallery.xlsx" --sheet "$name" --one-page -o "$images/gallery/$name.svg"
+  fi
+  # the top left corner of the page
+  pdftoppm -png -r "$dpi" -x 0 -y 0 -W 308 -H 202 -f "$page" -l "$page" -singlefile "$out/gallery.pdf" \
+    "$images/gallery/libreoffice/$name"
 done <"$out/pages"
 cp "$out/gallery.md" docs/gallery.md
 
@@ -30,12 +32,9 @@ cp "$out/gallery.md" docs/gallery.md
 cp examples/data/orders.xlsx "$out/orders.xlsx"
 build/plotsmith new "$out/orders.xlsx" --table Data1 --type column --title "Amount by region" --series Product --set stacked \
   --new-sheet Charts
-scripts/print.sh "$out/orders.xlsx" "$out"
-take orders 4 60 390 320 orders
+build/plotsmith render "$out/orders.xlsx" "Amount by region" -o "$images/orders.svg"
 for book in bicycle-sales investments; do
   build/plotsmith refresh "examples/$book.xlsx" -o "$out/$book.xlsx"
-  scripts/print.sh "$out/$book.xlsx" "$out"
+  build/plotsmith render "$out/$book.xlsx" --sheet Charts --one-page --scale 0.8 -o "$images/$book.svg"
 done
-take bicycle-sales 2 60 666 480 bicycle-sales
-take investments 2 60 832 396 investments
-du -ch "$images"/*.png "$images"/gallery/*.png | tail -n 1
+du -ch "$images"/*.svg "$images"/gallery/*.svg | tail -n 1

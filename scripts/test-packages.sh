@@ -92,6 +92,9 @@ inside plotsmith --version
 expect "plotsmith $version"
 inside plotsmith refresh /tmp/book.xlsx -o /tmp/out.xlsx
 expect ""
+inside plotsmith render /tmp/out.xlsx -o /tmp/charts.pdf
+expect ""
+inside test -s /tmp/charts.pdf
 inside sh -c 'plotsmith wizard /tmp/book.xlsx; [ $? -eq 2 ]'
 expect "plotsmith: the wizard's window is the program plotsmith-wizard, which isn't installed; --script FILE plays a script on the wizard's pages, and new, modify, copy and delete go through them by themselves."
 

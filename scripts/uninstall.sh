@@ -12,7 +12,7 @@ root=${DESTDIR:-}
 while IFS= read -r file || [ -n "$file" ]; do
   rm -f -- "$root$file"
 done <"$list"
-# The folder of the pages is the only one that belongs to nothing else.
-sed -n 's|^\(.*/doc/plotsmith\)/.*|\1|p' "$list" | sort -u | while IFS= read -r folder; do
+# The folders of the pages and of the library are the only ones that belong to nothing else.
+sed -n -e 's|^\(.*/doc/plotsmith\)/.*|\1|p' -e 's|^\(.*/lib/plotsmith\)/.*|\1|p' "$list" | sort -u | while IFS= read -r folder; do
   if [ -d "$root$folder" ]; then find "$root$folder" -depth -type d -empty -delete; fi
 done

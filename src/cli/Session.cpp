@@ -202,6 +202,13 @@ RefreshCounts Session::Counts() const {
   return counts;
 }
 
+std::vector<std::pair<std::string, excel::Ref<excel::Chart>>> Session::StartedCharts() const {
+  std::vector<std::pair<std::string, excel::Ref<excel::Chart>>> charts;
+  for (const StartedChart& chart : started_)
+    charts.emplace_back(GetAttributeText(chart.definition, "id"), chart.object);
+  return charts;
+}
+
 void Session::ClearProgress() {
   if (progressWidth_ > 0) streams_.err << '\r' << std::string(progressWidth_, ' ') << '\r' << std::flush;
   progressWidth_ = 0;

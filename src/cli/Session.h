@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "cli/Command.h"
@@ -57,6 +58,8 @@ class Session {
   int ChartsStarted() const { return static_cast<int>(started_.size()); }
   /// What became of those.
   RefreshCounts Counts() const;
+  /// Those charts, with their ids; Nothing for one that is on no sheet.
+  std::vector<std::pair<std::string, excel::Ref<excel::Chart>>> StartedCharts() const;
   /// Whether the system had anything to say.
   bool HasMessages() const { return !desktop_->Messages().empty(); }
   /// Ends the work: saves to `output`, or, if something changed, to where the workbook came from.

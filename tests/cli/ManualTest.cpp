@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <regex>
@@ -71,6 +72,7 @@ class CompletionTest : public ::testing::Test {
     std::ofstream(folder_ / "plotsmith.bash") << BashCompletion(CommandLine());
     for (const char* name : {"book.xlsx", "macro book.xlsm", "notes.txt"})
       std::ofstream(folder_ / name) << "";
+    std::filesystem::create_directory(folder_ / "folder");
   }
   std::vector<S> Offered(const S& words) {
     std::ofstream(folder_ / "ask.bash") << "set -u\n. ./plotsmith.bash\nCOMP_WORDS=(" << words
@@ -93,16 +95,19 @@ class CompletionTest : public ::testing::Test {
 TEST_F(CompletionTest, BashOffersWhatFits) {
   using List = std::vector<S>;
   const std::pair<S, List> cases[] = {
-      {"plotsmith re", {"refresh", "rename-columns"}},
+      {"plotsmith re", {"refresh", "rename-columns", "render"}},
       {"plotsmith --force ta", {"tables"}},
       {"plotsmith refresh --ta", {"--table"}},
       {"plotsmith refresh --js", {}},
       {"plotsmith tables --js", {"--json"}},
       {"plotsmith cells --jo", {"--journal"}},
-      {"plotsmith refresh \"\"", {"book.xlsx", "macro book.xlsm"}},
+      {"plotsmith refresh \"\"", {"book.xlsx", "folder", "macro book.xlsm"}},
       {"plotsmith refresh --table \"\"", {}},
       {"plotsmith save book.xlsx -o no", {"notes.txt"}},
       {"plotsmith format \"\"", {}},
+      {"plotsmith render book.xlsx --format p", {"pdf", "png"}},
+      {"plotsmith refresh book.xlsx --render fol", {"folder"}},
+      {"plotsmith refresh book.xlsx --render no", {}},
   };
   for (const auto& [words, offered] : cases) EXPECT_EQ(Offered(words), offered) << words;
 }

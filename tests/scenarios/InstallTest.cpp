@@ -44,12 +44,17 @@ TEST_F(InstallTest, EverythingIsInItsPlaceAndGoesAgain) {
             0);
   const std::set<S> files = Files();
   for (const char* file :
-       {"bin/plotsmith", "share/man/man1/plotsmith.1", "share/bash-completion/completions/plotsmith",
-        "share/zsh/site-functions/_plotsmith", "share/doc/plotsmith/README.md",
-        "share/doc/plotsmith/docs/file-formats.md", "share/doc/plotsmith/docs/images/orders.png"}) {
+       {"bin/plotsmith", "lib/plotsmith/render.so", "share/man/man1/plotsmith.1",
+        "share/bash-completion/completions/plotsmith", "share/zsh/site-functions/_plotsmith",
+        "share/doc/plotsmith/README.md", "share/doc/plotsmith/docs/file-formats.md",
+        "share/doc/plotsmith/docs/images/orders.svg"}) {
     EXPECT_TRUE(files.contains(file)) << file;
   }
-  EXPECT_EQ(Shell("'" + (prefix_ / "bin/plotsmith").string() + "' --version"), 0);
+  const S command = "'" + (prefix_ / "bin/plotsmith").string() + "'", book = folder_ / "book.xlsx";
+  EXPECT_EQ(Shell(command + " --version"), 0);
+  EXPECT_EQ(Shell(command + " refresh '" + test::kSourceFolder + "/examples/investments.xlsx' -o " + book),
+            0);
+  EXPECT_EQ(Shell(command + " render " + book + " -o " + (folder_ / "charts.pdf")), 0);
 
   // the pages find each other, their pictures, and the examples
   const std::regex link(R"x((?:\]\(|src=")([^)"#:]+))x");
@@ -68,6 +73,7 @@ TEST_F(InstallTest, EverythingIsInItsPlaceAndGoesAgain) {
       0);
   EXPECT_EQ(Files(), std::set<S>{"share/man/man1/other.1"});
   EXPECT_FALSE(fs::exists(prefix_ / "share/doc/plotsmith"));
+  EXPECT_FALSE(fs::exists(prefix_ / "lib/plotsmith"));
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "cli/commands/NewChart.h"
 #include "cli/commands/Refresh.h"
 #include "cli/commands/RenameColumns.h"
+#include "cli/commands/Render.h"
 #include "cli/commands/Save.h"
 #include "cli/commands/Tables.h"
 #include "cli/commands/Wizard.h"
@@ -21,6 +22,7 @@ namespace plotsmith::cli {
 std::vector<std::unique_ptr<Command>> MakeCommands() {
   std::vector<std::unique_ptr<Command>> commands;
   commands.push_back(std::make_unique<RefreshCommand>());
+  commands.push_back(std::make_unique<RenderCommand>());
   commands.push_back(std::make_unique<NewChartCommand>());
   commands.push_back(std::make_unique<ModifyChartCommand>());
   commands.push_back(std::make_unique<CopyChartCommand>());

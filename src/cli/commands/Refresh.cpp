@@ -1,7 +1,11 @@
 #include "cli/commands/Refresh.h"
 
+#include <map>
+
 #include "cli/Session.h"
 #include "cli/batch/Workers.h"
+#include "cli/render/DrawnCharts.h"
+#include "cli/render/PictureNames.h"
 #include "controller/CPlotsmithController.h"
 
 namespace plotsmith::cli {
@@ -19,6 +23,9 @@ CLI::App* RefreshCommand::Declare(CLI::App& app) {
                    "Under Windows they come one after the other")
       ->type_name("N");
   verb->add_flag("--verbose", verbose_, "Say at the end how many charts were refreshed");
+  verb->add_option("--render", pictureFolder_, "Also draw the refreshed charts, into this folder")
+      ->type_name("FOLDER");
+  DeclarePictureOptions(*verb, pictures_);
   return verb;
 }
 
@@ -26,6 +33,7 @@ int RefreshCommand::Run(const GlobalOptions& options, const Streams& streams) {
   if (table_) RequireTableId(*table_);
   if (jobs_ && *jobs_ < 1) throw CommandError(exit_code::kUsage, "--jobs wants a number from 1 on.");
   const std::vector<BookRun> runs = PlanRuns(books_, output_);
+  CheckPictures(runs);
   const auto refresh = [&](const BookRun& run, const Streams& to) { return RefreshBook(run, options, to); };
   if (runs.size() > 1) {
     return RunBatch(runs, refresh, jobs_ ? static_cast<std::size_t>(*jobs_) : UsualProcesses(), verbose_,
@@ -34,6 +42,29 @@ int RefreshCommand::Run(const GlobalOptions& options, const Streams& streams) {
   const BookResult result = refresh(runs.front(), streams);
   if (verbose_ || streams.terminal) streams.err << CountsText(result.counts) << '\n';
   return result.code;
+}
+
+PicturePlan RefreshCommand::PlanOfPictures() const {
+  return PlanPictures(pictures_, pictureFolder_->ends_with('/') ? *pictureFolder_ : *pictureFolder_ + "/");
+}
+
+void RefreshCommand::CheckPictures(const std::vector<BookRun>& runs) const {
+  if (!pictureFolder_) {
+    if (pictures_.AreGiven())
+      throw CommandError(exit_code::kUsage, "--format, --dpi and --scale are for the pictures of --render.");
+    return;
+  }
+  if (pictureFolder_->empty()) throw CommandError(exit_code::kUsage, "--render wants the name of a folder.");
+  PlanOfPictures();
+  std::map<std::string, std::string> books;  // by the beginning of their pictures' names
+  for (const BookRun& run : runs) {
+    const auto [other, isNew] = books.emplace(PictureNames(run.book).NameFor(""), run.book);
+    if (!isNew) {
+      throw CommandError(exit_code::kUsage, "the charts of \"" + other->second + "\" and \"" + run.book +
+                                                "\" would have the same names in \"" + *pictureFolder_ +
+                                                "\".");
+    }
+  }
 }
 
 BookResult RefreshCommand::RefreshBook(const BookRun& run, const GlobalOptions& options,
@@ -50,7 +81,14 @@ BookResult RefreshCommand::RefreshBook(const BookRun& run, const GlobalOptions& 
     controller.RefreshPlotsmithData(session.Host(), kHostName, "");
   }
   const RefreshCounts counts = session.Counts();
-  const int code = session.Save(run.output);
+  int code = session.Save(run.output);
+  if (pictureFolder_) {
+    std::vector<ChartToDraw> charts;
+    for (auto& [id, chart] : session.StartedCharts()) charts.push_back({id, chart});
+    const bool list = !IsStandardOutput(run.output);
+    const auto drawn = WriteCharts(session.Book(), run.book, charts, PlanOfPictures(), streams, list);
+    if (drawn.said && code == exit_code::kDone) code = exit_code::kSaidSomething;
+  }
   if (session.ChartsStarted() > 0 || session.HasMessages()) return {code, counts};
   streams.err << "plotsmith: "
               << (table_ ? "no chart of \"" + run.book + "\" hangs on the table \"" + *table_ + "\""

@@ -6,10 +6,11 @@
 
 #include "cli/Command.h"
 #include "cli/batch/BookBatch.h"
+#include "cli/render/PictureOptions.h"
 
 namespace plotsmith::cli {
 
-/// Rebuilds the charts of workbooks: all of them, or those of one table.
+/// Rebuilds the charts of workbooks: all of them, or those of one table. Draws them into a folder, if wanted.
 class RefreshCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& app) override;
@@ -17,12 +18,17 @@ class RefreshCommand final : public Command {
 
  private:
   BookResult RefreshBook(const BookRun& run, const GlobalOptions& options, const Streams& streams) const;
+  /// Refuses pictures that the command line can't mean.
+  void CheckPictures(const std::vector<BookRun>& runs) const;
+  PicturePlan PlanOfPictures() const;
 
   std::vector<std::string> books_;
   std::optional<std::string> table_;
   std::optional<std::string> output_;
   std::optional<int> jobs_;
   bool verbose_ = false;
+  std::optional<std::string> pictureFolder_;
+  PictureOptions pictures_;
 };
 
 }  // namespace plotsmith::cli

@@ -12,8 +12,11 @@ namespace {
 /// The names of arguments that files complete: the workbook, and what is written.
 constexpr const char* kBook = "BOOK";
 constexpr const char* kFile = "FILE";
-/// That of a chart type.
+constexpr const char* kFolder = "FOLDER";
+/// That of a chart type, and of a format of pictures.
 constexpr const char* kType = "TYPE";
+constexpr const char* kFormat = "KIND";
+constexpr const char* kFormats = "svg png pdf";
 
 /// The names of arguments that the workbook completes, and the words by which it is asked for them.
 struct BookValue {
@@ -102,6 +105,8 @@ std::string ZshText(const std::string& text) {
 std::string ZshAction(const std::string& name) {
   if (name == kBook) return "_files -g \"*.xls[xm]\"";
   if (name == kFile) return "_files";
+  if (name == kFolder) return "_files -/";
+  if (name == kFormat) return "(" + std::string(kFormats) + ")";
   if (name == kType) return "_plotsmith_types";
   for (const BookValue& value : kBookValues) {
     if (name == value.name) return std::string("_plotsmith_") + value.word;
@@ -239,6 +244,13 @@ std::string BashCompletion(const CommandLine& line) {
             R"()
       compopt -o filenames 2>/dev/null
       mapfile -t COMPREPLY < <(compgen -f -- "$word") ;;
+    )" + kFolder +
+            R"()
+      compopt -o filenames 2>/dev/null
+      mapfile -t COMPREPLY < <(compgen -d -- "$word") ;;
+    )" + kFormat +
+            R"() mapfile -t COMPREPLY < <(compgen -W ')" + kFormats +
+            R"(' -- "$word") ;;
     )" + kBook +
             R"()
       compopt -o filenames 2>/dev/null

@@ -40,10 +40,12 @@ void QtView::Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseco
   const QDeadlineTimer deadline = atMost ? QDeadlineTimer(*atMost) : QDeadlineTimer(QDeadlineTimer::Forever);
   QTimer alarm;  // events are waited for without an end of the waiting
   if (atMost) alarm.start(*atMost);
+  waits_ = true;
   while (pending_.empty() && !closesAll_ && !deadline.hasExpired()) {
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
+  waits_ = false;
   if (closesAll_) {
     pending_.clear();
     forms::Form& form = Front()->Model();

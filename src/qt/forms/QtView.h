@@ -23,6 +23,8 @@ class QtView final : public forms::View {
   /// Called each time when the forms have been shown, for a window that shows something else beside them.
   std::function<void()> Shown = [] {};
 
+  /// Whether a form waits for hands: the system isn't in the middle of anything.
+  bool IsWaiting() const { return waits_; }
   /// The window of the form in front; null while there is none.
   FormWindow* Front() const { return windows_.empty() ? nullptr : windows_.back().get(); }
   /// Shows what has changed.
@@ -46,6 +48,7 @@ class QtView final : public forms::View {
   std::vector<std::unique_ptr<FormWindow>> windows_;
   std::vector<Gesture> pending_;
   bool closesAll_ = false;
+  bool waits_ = false;
 };
 
 }  // namespace plotsmith::qt

@@ -7,6 +7,7 @@
 #include "controller/CPlotsmithController.h"
 #include "qt/book/BookView.h"
 #include "qt/help/HelpWindow.h"
+#include "qt/wizard/ChartPicture.h"
 #include "qt/wizard/EventLoop.h"
 #include "qt/wizard/MessageBox.h"
 
@@ -35,9 +36,14 @@ WizardProgram::WizardProgram(WizardOptions options, const cli::Streams& streams)
       target_(options_.output) {
   session_.CheckWritable(target_);
   window_ = std::make_unique<WizardWindow>(session_.Host(), QFileInfo(TextOf(options_.book)).fileName());
+  window_->Book().SetChartPainter(MakeChartPainter());
   pages_->SetOwner(window_.get());
   desktop_->SetOwner(window_.get());
-  pages_->Shown = [this] { window_->Book().Update(); };
+  preview_ = std::make_unique<LivePreview>(*pages_, session_.Host(), window_.get());
+  pages_->Shown = [this] {
+    window_->Book().Update();
+    preview_->Look();
+  };
   window_->CloseAsked = [this] {
     closing_ = true;
     pages_->CloseAll();
@@ -84,9 +90,11 @@ bool WizardProgram::LookBeforeRun() {
 bool WizardProgram::RunPages() {
   chartsBefore_ = session_.ChartsStarted();
   pages_->StayOpen();
+  preview_->Restart();
   desktop_->Forget();
   CPlotsmithController().RunPlotsmith(session_.Host(), cli::kHostName, "");
   window_->Book().Update();
+  preview_->Look();
   return session_.ChartsStarted() > chartsBefore_ || desktop_->Confirmed();
 }
 

@@ -8,6 +8,7 @@
 #include "cli/Command.h"
 #include "cli/Session.h"
 #include "qt/forms/QtView.h"
+#include "qt/wizard/LivePreview.h"
 #include "qt/wizard/WizardDesktop.h"
 #include "qt/wizard/WizardWindow.h"
 
@@ -66,6 +67,7 @@ class WizardProgram {
   cli::Streams streams_;
   std::optional<std::string> target_;  ///< where Save saves; absent: the workbook's own file
   std::unique_ptr<WizardWindow> window_;
+  std::unique_ptr<LivePreview> preview_;
   int chartsBefore_ = 0;  ///< charts that earlier runs have built
   bool isSaved_ = false;  ///< an earlier run was saved
   bool closing_ = false;  ///< the window was closed while a page was open

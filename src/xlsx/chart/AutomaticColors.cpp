@@ -69,8 +69,11 @@ Variation Faded(std::size_t index, std::size_t count) {
 }  // namespace
 
 std::int32_t AutomaticColor(ChartPart& part, pugi::xml_node series) {
-  const long long number = std::max(schema::IntegerVal(series, "idx", 0), 0LL);
-  const auto index = static_cast<std::size_t>(number);
+  const auto index = static_cast<std::size_t>(std::max(schema::IntegerVal(series, "idx", 0), 0LL));
+  return AutomaticColor(part, index, part.Series().size());
+}
+
+std::int32_t AutomaticColor(ChartPart& part, std::size_t index, std::size_t count) {
   const long long column = (StyleOf(part) - 1) % kStyleColumns;  // of the gallery that the styles came from
   if (column == 0) {
     const int kept = static_cast<int>(std::lround(kGreys[index % kGreys.size()] * 1000));
@@ -80,8 +83,7 @@ std::int32_t AutomaticColor(ChartPart& part, pugi::xml_node series) {
     return Varied(part, "accent" + std::to_string(index % kAccents + 1),
                   kRounds[index / kAccents % kRounds.size()]);
   }
-  const std::size_t count = std::max(part.Series().size(), index + 1);
-  return Varied(part, "accent" + std::to_string(column - 1), Faded(index, count));
+  return Varied(part, "accent" + std::to_string(column - 1), Faded(index, std::max(count, index + 1)));
 }
 
 }  // namespace plotsmith::xlsx

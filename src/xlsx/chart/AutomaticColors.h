@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <pugixml.hpp>
 
@@ -9,5 +10,7 @@ class ChartPart;
 
 /// The colour that a series without a filling of its own has, by its number, the chart's style and the theme.
 std::int32_t AutomaticColor(ChartPart& part, pugi::xml_node series);
+/// The same of number `index`, from 0, of `count` series, or of as many points that differ in colour.
+std::int32_t AutomaticColor(ChartPart& part, std::size_t index, std::size_t count);
 
 }  // namespace plotsmith::xlsx

@@ -23,15 +23,9 @@
 namespace plotsmith::xlsx {
 namespace {
 
-// Excel's layout is nowhere written down. These make plain charts come out as Excel draws them, to a few
-// points.
-constexpr double kTitlePadding = 7.2;  // above and below a title's text together: a text box's insets
-constexpr double kTitleShare = 0.8;    // of the chart's width, before a title breaks
-constexpr double kTitleGap = 5;        // between the chart's title and the plot area
-constexpr double kLabelGap = 5;        // between an axis and its labels
+// Beside those in the header.
 constexpr double kLegendPadding = 8;   // around all entries together
 constexpr double kKeyEms = 2.4;        // a legend key with the gaps around it, which grows with the text
-constexpr double kLeastShare = 0.1;    // of the chart that the plot area keeps, whatever the texts take
 
 /// How an element's text is set, by its beginning.
 TextFace FaceOf(ChartPart& part, pugi::xml_node element, TextRole role) {

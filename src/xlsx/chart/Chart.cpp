@@ -10,6 +10,7 @@
 #include "xlsx/chart/ChartAreas.h"
 #include "xlsx/chart/ChartDrawing.h"
 #include "xlsx/chart/ChartEnumerations.h"
+#include "xlsx/chart/ChartGeometry.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/ChartTypes.h"
@@ -30,20 +31,6 @@ namespace {
 constexpr std::int32_t kWidestGap = 500;  // percent of a column's width
 
 std::string Self() { return "Chart"; }
-
-/// The title that the chart shows; nothing if it shows none. A chart of one series is titled by its name
-/// without a title of its own, as long as nobody took that away.
-std::optional<std::string> ShownTitle(ChartPart& part) {
-  const auto title = xml::Child(part.Chart(), "title");
-  if (title && xml::Child(title, "tx")) return TitleText(title);
-  if (!title && schema::BooleanVal(part.Chart(), "autoTitleDeleted", false)) return std::nullopt;
-  const auto series = SeriesOf(part);
-  if (series.size() == 1) {
-    const std::string name = SeriesName(series[0]);
-    if (title || !name.empty()) return name.empty() ? "Chart Title" : name;
-  }
-  return title ? std::optional<std::string>("Chart Title") : std::nullopt;
-}
 
 pugi::xml_node EnsureTitle(ChartPart& part) {
   if (const auto title = xml::Child(part.Chart(), "title")) return title;
@@ -182,5 +169,7 @@ Ref<excel::ChartArea> Chart::ChartArea() { return MakeChartArea(part_, frame_); 
 Ref<excel::PlotArea> Chart::PlotArea() { return MakePlotArea(part_, frame_); }
 
 Ref<excel::Shapes> Chart::Shapes() { return MakeChartShapes(part_, frame_); }
+
+Frame Chart::Size() const { return ChartSize(frame_); }
 
 }  // namespace plotsmith::xlsx

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "host/excel/Chart.h"
+#include "xlsx/drawing/ShapeXml.h"
 
 namespace plotsmith::xlsx {
 
@@ -31,6 +32,11 @@ class Chart final : public excel::Chart {
   excel::Ref<excel::ChartArea> ChartArea() override;
   excel::Ref<excel::PlotArea> PlotArea() override;
   excel::Ref<excel::Shapes> Shapes() override;
+
+  // for the other classes of this host
+  ChartPart& Part() const { return *part_; }
+  /// Width and height in points: of the frame on the sheet, or of the chart sheet's page.
+  Frame Size() const;
 
  private:
   std::shared_ptr<ChartPart> part_;

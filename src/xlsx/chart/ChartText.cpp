@@ -2,6 +2,9 @@
 
 #include "host/excel/Constants.h"
 #include "xlsx/chart/ChartCache.h"
+#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/PlotGroups.h"
+#include "xlsx/chart/SeriesData.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/TextBody.h"
 #include "xlsx/package/Xml.h"
@@ -14,6 +17,18 @@ std::string TitleText(pugi::xml_node title) {
   std::string text;
   for (const auto& [point, line] : CachedTexts(tx)) text += (text.empty() ? "" : " ") + line;
   return text;
+}
+
+std::optional<std::string> ShownTitle(ChartPart& part) {
+  const auto title = xml::Child(part.Chart(), "title");
+  if (title && xml::Child(title, "tx")) return TitleText(title);
+  if (!title && schema::BooleanVal(part.Chart(), "autoTitleDeleted", false)) return std::nullopt;
+  const auto series = SeriesOf(part);
+  if (series.size() == 1) {
+    const std::string name = SeriesName(series[0]);
+    if (title || !name.empty()) return name.empty() ? "Chart Title" : name;
+  }
+  return title ? std::optional<std::string>("Chart Title") : std::nullopt;
 }
 
 void SetTitleText(pugi::xml_node title, std::string_view text) {

@@ -49,6 +49,9 @@ TextLook Look(ChartPart& part, Chain chain, TextRole role) {
   if (title) chain.push_back(chart);
   look.italic = xml::ParseBoolean(AttributeOf(chain, "i")).value_or(false);
 
+  const std::string underline = AttributeOf(chain, "u");
+  look.underline = !underline.empty() && underline != "none";
+
   look.typeface = part.Theme().MinorFont();
   for (const pugi::xml_node& properties : chain) {
     const std::string typeface = xml::Attribute(xml::Child(properties, "latin"), "typeface");

@@ -1,6 +1,7 @@
 #include "xlsx/chart/LegendEntries.h"
 
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -97,19 +98,26 @@ Ref<excel::LegendEntries> MakeLegendEntries(std::shared_ptr<ChartPart> part) {
   return std::make_shared<LegendEntriesObject>(std::move(part));
 }
 
-std::vector<std::string> LegendTexts(ChartPart& part) {
+std::vector<LegendLine> LegendLines(ChartPart& part) {
   const bool points = ListsPoints(part);
   const auto categories =
       points ? CachedTexts(xml::Child(part.Series()[0]->node, "cat")) : std::map<std::size_t, std::string>();
-  std::vector<std::string> texts;
+  std::vector<LegendLine> lines;
   for (const std::size_t number : EntriesLeft(part)) {
     if (!points) {
-      texts.push_back(ShownName(part.Series()[number]->node));
+      lines.push_back({number, number, std::nullopt, ShownName(part.Series()[number]->node)});
     } else {
       const auto text = categories.find(number);
-      texts.push_back(text == categories.end() ? std::to_string(number + 1) : text->second);
+      lines.push_back(
+          {number, 0, number, text == categories.end() ? std::to_string(number + 1) : text->second});
     }
   }
+  return lines;
+}
+
+std::vector<std::string> LegendTexts(ChartPart& part) {
+  std::vector<std::string> texts;
+  for (LegendLine& line : LegendLines(part)) texts.push_back(std::move(line.text));
   return texts;
 }
 

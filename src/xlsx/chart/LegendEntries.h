@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,14 @@ class ChartPart;
 /// The file only names those that somebody deleted or dressed, by their numbers.
 excel::Ref<excel::LegendEntries> MakeLegendEntries(std::shared_ptr<ChartPart> part);
 
+/// An entry of the legend that is left. Numbers count from 0.
+struct LegendLine {
+  std::size_t number;                ///< among all entries, deleted ones included
+  std::size_t series;                ///< the place in plot order of the series that the key shows
+  std::optional<std::size_t> point;  ///< where points have entries
+  std::string text;
+};
+std::vector<LegendLine> LegendLines(ChartPart& part);
 /// What the entries that are left say, from the first.
 std::vector<std::string> LegendTexts(ChartPart& part);
 

@@ -18,6 +18,7 @@ struct TextLook {
   double points = 0;
   bool bold = false, italic = false;
   std::int32_t color = 0;
+  bool underline = false;
 
   bool operator==(const TextLook&) const = default;
 };

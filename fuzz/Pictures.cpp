@@ -1,0 +1,20 @@
+#include "fuzz/Pictures.h"
+
+#include "render/ChartDrawing.h"
+#include "render/cairo/CairoPainter.h"
+#include "render/cairo/Fonts.h"
+#include "render/svg/SvgWriter.h"
+#include "xlsx/chart/ChartPart.h"
+
+namespace plotsmith::fuzz {
+
+void DrawPictures(xlsx::Workbook& book, const std::string& part) {
+  static const render::Fonts fonts;
+  render::Notes notes;
+  constexpr double kWidth = 200, kHeight = 150;  // points
+  const render::Drawing drawing = DrawChart(*book.Chart(part), kWidth, kHeight, fonts, notes);
+  MakeSvg(drawing);
+  MakePng(drawing, fonts);
+}
+
+}  // namespace plotsmith::fuzz

@@ -1,0 +1,65 @@
+#include "cli/commands/Render.h"
+
+#include "cli/Session.h"
+#include "cli/check/Words.h"
+#include "cli/render/ChartsToDraw.h"
+#include "cli/render/DrawnCharts.h"
+#include "cli/render/DrawnSheet.h"
+
+namespace plotsmith::cli {
+
+CLI::App* RenderCommand::Declare(CLI::App& app) {
+  CLI::App* verb = app.add_subcommand("render", "Draw charts into files: SVG, PNG or PDF");
+  verb->add_option("BOOK", book_, "The workbook")->required();
+  verb->add_option(
+      "CHART", charts_,
+      "A chart's id or name; any chart by its sheet and shape, 'Sheet1!Chart 2', or by its chart sheet. "
+      "Without one, all charts of Plotsmith");
+  verb->add_option("--sheet", sheet_, "Draw this sheet instead, its cells and charts, as it would be printed")
+      ->type_name("SHEET");
+  verb->add_flag("--one-page", onePage_, "Draw the sheet on one page that is as large as what it shows");
+  DeclarePictureOptions(*verb, pictures_);
+  verb->add_option("-o,--output", output_,
+                   "Write to this file or into this folder (without it: the current folder); \"-\" is the "
+                   "standard output")
+      ->type_name("FILE");
+  return verb;
+}
+
+int RenderCommand::Run(const GlobalOptions& options, const Streams& streams) {
+  if (sheet_ && !charts_.empty())
+    throw CommandError(exit_code::kUsage, "--sheet draws a whole sheet, so no chart can be named with it.");
+  if (onePage_ && !sheet_) throw CommandError(exit_code::kUsage, "--one-page goes with --sheet.");
+  const PicturePlan plan = PlanPictures(pictures_, output_);
+  Session session(book_, options, streams);
+  return sheet_ ? RenderSheet(session, plan, streams) : RenderCharts(session, plan, streams);
+}
+
+int RenderCommand::RenderCharts(Session& session, const PicturePlan& plan, const Streams& streams) const {
+  session.LoadTablesAndCharts();
+  const int code = session.Finish();
+  const auto charts =
+      charts_.empty() ? LoadedChartsToDraw() : NamedChartsToDraw(session.Book(), book_, charts_);
+  if (charts.empty()) {
+    const auto others = OtherCharts(session.Book());
+    streams.err << "plotsmith: \"" << book_ << "\" has no charts of Plotsmith, so nothing was drawn";
+    if (!others.empty()) streams.err << "; named as an argument, others are drawn too: " << Listed(others);
+    streams.err << ".\n";
+    return exit_code::kSaidSomething;
+  }
+  CheckRoom(plan, charts.size(), "chart", streams);
+  const bool list = plan.target == PicturePlan::Target::kFolder;
+  const DrawnCounts counts = WriteCharts(session.Book(), book_, charts, plan, streams, list);
+  if (counts.drawn == 0) throw CommandError(exit_code::kFile, "nothing was drawn.");
+  return counts.said ? exit_code::kSaidSomething : code;
+}
+
+int RenderCommand::RenderSheet(Session& session, const PicturePlan& plan, const Streams& streams) const {
+  const auto sheet = session.Book().FindSheet(*sheet_);
+  if (!sheet) throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no sheet \"" + *sheet_ + "\".");
+  const auto paper = onePage_ ? render::Paper::kOne : render::Paper::kPrinted;
+  return WriteSheet(session.Book(), book_, *sheet, paper, plan, streams) ? exit_code::kSaidSomething
+                                                                         : session.Finish();
+}
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/Command.h"
+#include "cli/render/PictureOptions.h"
+
+namespace plotsmith::cli {
+
+class Session;
+
+/// Draws charts, or a sheet as it would be printed, into files.
+class RenderCommand final : public Command {
+ public:
+  CLI::App* Declare(CLI::App& app) override;
+  int Run(const GlobalOptions& options, const Streams& streams) override;
+
+ private:
+  int RenderCharts(Session& session, const PicturePlan& plan, const Streams& streams) const;
+  int RenderSheet(Session& session, const PicturePlan& plan, const Streams& streams) const;
+
+  std::string book_;
+  std::vector<std::string> charts_;
+  std::optional<std::string> sheet_;
+  bool onePage_ = false;
+  std::optional<std::string> output_;
+  PictureOptions pictures_;
+};
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,123 @@
+#include "cli/render/ChartsToDraw.h"
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+#include "cli/ChartLookup.h"
+#include "cli/Command.h"
+#include "cli/check/Words.h"
+#include "common/ErrorBlocks.h"
+#include "common/RunVariables.h"
+#include "host/excel/Constants.h"
+#include "xlsx/Sheet.h"
+#include "xlsx/SheetDrawing.h"
+#include "xlsx/SheetShape.h"
+#include "xlsx/Workbook.h"
+#include "xlsx/Worksheet.h"
+#include "xlsx/sheet/Reference.h"
+
+namespace plotsmith::cli {
+namespace {
+
+excel::Ref<excel::Chart> LoadedChart(const std::string& id) {
+  return ValueOr(excel::Ref<excel::Chart>(), [&] { return colChartObjects->Item(id); });
+}
+
+/// The charts on a sheet with cells; none where its drawing can't be read.
+std::vector<std::shared_ptr<xlsx::SheetShape>> ChartShapes(xlsx::Workbook& book,
+                                                           const xlsx::SheetEntry& sheet) {
+  std::vector<std::shared_ptr<xlsx::SheetShape>> charts;
+  if (!sheet.worksheet) return charts;
+  try {
+    book.Viewed([&] {
+      const xlsx::SheetDrawing* const drawing = sheet.worksheet->FindDrawing();
+      if (drawing == nullptr) return;
+      for (const auto& shape : drawing->Shapes()) {
+        if (shape->Type() == excel::msoChart) charts.push_back(shape);
+      }
+    });
+  } catch (const runtime::RuntimeError&) {
+    // then it shows no chart
+  }
+  return charts;
+}
+
+/// What a shape's chart is called.
+std::string LabelOf(const xlsx::SheetEntry& sheet, xlsx::SheetShape& shape) {
+  return xlsx::QuotedSheetName(sheet.name) + "!" + shape.Name();
+}
+
+/// The chart of the sheet and the shape that a name such as "'My sheet'!Chart 1" means, or of a chart sheet;
+/// Nothing if there is none. A sheet's name without quotes may have an exclamation mark as well.
+ChartToDraw ChartOnSheet(xlsx::Workbook& book, const std::string& name) {
+  for (auto mark = name.find('!'); mark != std::string::npos; mark = name.find('!', mark + 1)) {
+    std::string_view text(name);
+    const std::string sheetName =
+        text.starts_with('\'') ? xlsx::TakeQuotedSheetName(text) : name.substr(0, mark);
+    const auto sheet = book.FindSheet(sheetName);
+    if (!sheet) continue;
+    const std::string shapeName = name.substr(mark + 1);
+    for (const auto& shape : ChartShapes(book, *sheet)) {
+      if (runtime::EqualsIgnoreCase(shape->Name(), shapeName))
+        return {LabelOf(*sheet, *shape), shape->Chart()};
+    }
+  }
+  const auto sheet = book.FindSheet(name);
+  if (!sheet || sheet->worksheet) return {name, nullptr};
+  return {sheet->name, book.ChartOf(*sheet)};
+}
+
+CommandError NoSuchChart(xlsx::Workbook& book, const std::string& path, const std::string& name) {
+  std::vector<std::string> there;
+  for (const auto& [id, ignored] : LoadedCharts()) there.push_back(id);
+  for (const std::string& other : OtherCharts(book)) there.push_back(Quoted(other));
+  return CommandError(exit_code::kUsage,
+                      "\"" + path + "\" has no chart " + Quoted(name) + "; " + ThereAre(there) + ".");
+}
+
+}  // namespace
+
+std::vector<ChartToDraw> LoadedChartsToDraw() {
+  std::vector<ChartToDraw> charts;
+  for (const auto& [id, ignored] : LoadedCharts()) charts.push_back({id, LoadedChart(id)});
+  return charts;
+}
+
+std::vector<ChartToDraw> NamedChartsToDraw(xlsx::Workbook& book, const std::string& path,
+                                           const std::vector<std::string>& names) {
+  const ChartNames loaded = LoadedCharts();
+  std::vector<ChartToDraw> charts;
+  std::set<std::string> labels;
+  const auto add = [&](ChartToDraw chart) {
+    if (labels.insert(chart.label).second) charts.push_back(std::move(chart));
+  };
+  for (const std::string& name : names) {
+    const auto places = FindCharts(loaded, name);
+    if (places.size() > 1) throw CommandError(exit_code::kUsage, SeveralCharts(loaded, places, name) + ".");
+    if (!places.empty()) {
+      const std::string& id = loaded[places.front()].first;
+      add({id, LoadedChart(id)});
+    } else if (ChartToDraw found = ChartOnSheet(book, name); found.chart) {
+      add(std::move(found));
+    } else {
+      throw NoSuchChart(book, path, name);
+    }
+  }
+  return charts;
+}
+
+std::vector<std::string> OtherCharts(xlsx::Workbook& book) {
+  std::set<std::string> known;
+  for (const auto& [id, ignored] : LoadedCharts()) known.insert(id);
+  std::vector<std::string> names;
+  for (const auto& sheet : book.AllSheets()) {
+    for (const auto& shape : ChartShapes(book, *sheet)) {
+      if (!known.contains(shape->AlternativeText())) names.push_back(LabelOf(*sheet, *shape));
+    }
+    if (!sheet->worksheet && book.ChartOf(*sheet)) names.push_back(sheet->name);
+  }
+  return names;
+}
+
+}  // namespace plotsmith::cli

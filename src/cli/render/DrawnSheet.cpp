@@ -1,0 +1,38 @@
+#include "cli/render/DrawnSheet.h"
+
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+#include "cli/Command.h"
+#include "cli/render/LoadPainter.h"
+#include "cli/render/PictureNames.h"
+#include "cli/render/PictureWriter.h"
+#include "xlsx/Sheet.h"
+#include "xlsx/Workbook.h"
+
+namespace plotsmith::cli {
+
+bool WriteSheet(xlsx::Workbook& workbook, const std::string& book, const xlsx::SheetEntry& sheet,
+                render::Paper paper, const PicturePlan& plan, const Streams& streams) {
+  render::Notes notes;
+  std::vector<render::Drawing> pages =
+      render::DrawSheet(workbook, sheet, paper, LoadPainter().Measure(), notes);
+  for (const std::string& note : notes) streams.err << "plotsmith: " << sheet.name << ": " << note << '\n';
+  if (pages.empty()) {
+    throw CommandError(exit_code::kUsage, "the sheet \"" + sheet.name + "\" has nothing to print.");
+  }
+  CheckRoom(plan, pages.size(), "page", streams);
+  PictureWriter writer(plan, streams, plan.target == PicturePlan::Target::kFolder);
+  const std::string name = PictureNames(book).NameFor(sheet.name);
+  if (plan.format == PictureFormat::kPdf || pages.size() == 1) {
+    writer.AddDocument(name, std::move(pages));
+  } else {
+    for (std::size_t i = 0; i < pages.size(); ++i)
+      writer.Add(name + "-" + std::to_string(i + 1), std::move(pages[i]));
+  }
+  writer.Finish();
+  return !notes.empty();
+}
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+#include "cli/Streams.h"
+#include "cli/render/PictureOptions.h"
+#include "render/sheet/SheetPages.h"
+
+namespace plotsmith::xlsx {
+class Workbook;
+struct SheetEntry;
+}  // namespace plotsmith::xlsx
+
+namespace plotsmith::cli {
+
+/// Draws a sheet of the workbook at `book`. Returns true if something isn't drawn,
+/// which was said on `err`. A CommandError for a sheet without anything to print.
+bool WriteSheet(xlsx::Workbook& workbook, const std::string& book, const xlsx::SheetEntry& sheet,
+                render::Paper paper, const PicturePlan& plan, const Streams& streams);
+
+}  // namespace plotsmith::cli

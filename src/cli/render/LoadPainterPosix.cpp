@@ -1,0 +1,75 @@
+#include <array>
+#include <dlfcn.h>
+#include <filesystem>
+#include <string>
+#include <sys/auxv.h>
+
+#include "cli/Command.h"
+#include "cli/render/LoadPainter.h"
+#include "render/module/Module.h"
+
+namespace plotsmith::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Where the module is from the folder of a program: in an installation beside that folder, in the folder of
+/// a build below it, and for the tests below one of the folders above.
+constexpr std::array kFolders = {"../lib/plotsmith", "lib/plotsmith", "../../lib/plotsmith"};
+
+/// The folder of this program. Where /proc isn't there, as in some clean roots, the name by which it was
+/// started tells.
+fs::path FolderOfProgram() {
+  std::error_code error;
+  fs::path program = fs::read_symlink("/proc/self/exe", error);
+  const auto* const started = reinterpret_cast<const char*>(getauxval(AT_EXECFN));
+  if (error && started != nullptr) program = fs::canonical(started, error);
+  return program.parent_path();
+}
+
+fs::path FindModule() {
+  std::error_code ignored;
+  const fs::path folder = FolderOfProgram();
+  for (const char* const relative : kFolders) {
+    const fs::path module = (folder / relative / render::kModuleFile).lexically_normal();
+    if (module.is_absolute() && fs::exists(module, ignored)) return module;
+  }
+  throw CommandError(exit_code::kUsage,
+                     "nothing can be drawn: \"" +
+                         (folder / kFolders[0] / render::kModuleFile).lexically_normal().string() +
+                         "\", which draws, isn't installed.");
+}
+
+template <class Function>
+Function* Find(void* module, const char* name) {
+  return reinterpret_cast<Function*>(dlsym(module, name));
+}
+
+const render::Painter& Load() {
+  const fs::path path = FindModule();
+  const auto refuse = [&](const std::string& why) -> CommandError {
+    return CommandError(exit_code::kUsage, "nothing can be drawn: \"" + path.string() + "\" " + why + ".");
+  };
+  void* const module = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+  if (module == nullptr) {
+    const char* const reason = dlerror();
+    throw refuse("can't be loaded: " + std::string(reason == nullptr ? "no reason is given" : reason));
+  }
+  auto* const version = Find<render::ModuleVersion>(module, render::kVersionFunction);
+  auto* const painter = Find<render::ModulePainter>(module, render::kPainterFunction);
+  if (version == nullptr || painter == nullptr) throw refuse("isn't the part of Plotsmith that draws");
+  if (version() != std::string(PLOTSMITH_VERSION)) {
+    throw refuse("is of version " + std::string(version()) + ", and this program of version " +
+                 PLOTSMITH_VERSION);
+  }
+  return *painter();
+}
+
+}  // namespace
+
+const render::Painter& LoadPainter() {
+  static const render::Painter& painter = Load();
+  return painter;
+}
+
+}  // namespace plotsmith::cli

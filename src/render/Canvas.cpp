@@ -1,0 +1,54 @@
+#include "render/Canvas.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace plotsmith::render {
+namespace {
+
+/// Beyond this no page reaches, and painters begin to lose digits.
+constexpr double kFarthest = 1e6;
+
+bool IsNear(Point point) { return std::abs(point.x) <= kFarthest && std::abs(point.y) <= kFarthest; }
+
+bool IsNear(const Path& path) {
+  return std::all_of(path.Steps().begin(), path.Steps().end(), [](const PathStep& step) {
+    return IsNear(step.to) && IsNear(step.control1) && IsNear(step.control2);
+  });
+}
+
+}  // namespace
+
+void Canvas::Add(Tag tag, Path path, const Fill& fill, const Stroke& stroke) {
+  const bool visible = !std::holds_alternative<std::monostate>(fill) || stroke.width > 0;
+  if (!visible || path.IsEmpty() || !IsNear(path)) return;
+  drawing_.items.push_back({tag, PathItem{std::move(path), fill, stroke}});
+}
+
+void Canvas::AddFrame(Tag tag, const Rect& box, const Fill& fill, const Stroke& stroke) {
+  drawing_.items.push_back({tag, PathItem{Path().AddRect(box), fill, stroke}});
+}
+
+void Canvas::AddLine(Tag tag, Point from, Point to, const Stroke& stroke) {
+  Add(tag, Path().MoveTo(from).LineTo(to), {}, stroke);
+}
+
+void Canvas::AddText(Tag tag, TextItem text) {
+  if (text.text.empty() || !IsNear(text.anchor)) return;
+  const TextExtent extent = measure_.Measure(text.text, text.font);
+  text.width = extent.width;
+  text.ascent = extent.ascent;
+  text.descent = extent.descent;
+  drawing_.items.push_back({tag, std::move(text)});
+}
+
+void Canvas::PushClip(const Path& path) { drawing_.items.push_back({{}, render::PushClip{path}}); }
+
+void Canvas::PopClip() { drawing_.items.push_back({{}, render::PopClip{}}); }
+
+void Canvas::Note(std::string sentence) {
+  if (std::find(notes_.begin(), notes_.end(), sentence) == notes_.end())
+    notes_.push_back(std::move(sentence));
+}
+
+}  // namespace plotsmith::render

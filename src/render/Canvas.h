@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "render/ChartDrawing.h"
+#include "render/Drawing.h"
+#include "render/TextMeasure.h"
+
+namespace plotsmith::render {
+
+/// Appends items to a drawing, and says what isn't drawn. A sentence is kept once.
+class Canvas {
+ public:
+  Canvas(Drawing& drawing, const TextMeasure& measure, Notes& notes)
+      : drawing_(drawing), measure_(measure), notes_(notes) {}
+
+  /// Appends a path unless it has neither filling nor line, or no finite place.
+  void Add(Tag tag, Path path, const Fill& fill, const Stroke& stroke = {});
+  /// Appends a rectangle that readers of the drawing look for, even if nothing of it is seen.
+  void AddFrame(Tag tag, const Rect& box, const Fill& fill, const Stroke& stroke);
+  void AddLine(Tag tag, Point from, Point to, const Stroke& stroke);
+  /// Appends one line of text and fills in its measures.
+  void AddText(Tag tag, TextItem text);
+  void PushClip(const Path& path);
+  void PopClip();
+  void Note(std::string sentence);
+
+  const TextMeasure& Measure() const { return measure_; }
+  Rect Bounds() const { return {0, 0, drawing_.width, drawing_.height}; }
+  Drawing& Target() { return drawing_; }
+
+ private:
+  Drawing& drawing_;
+  const TextMeasure& measure_;
+  Notes& notes_;
+};
+
+}  // namespace plotsmith::render

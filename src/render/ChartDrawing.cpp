@@ -1,0 +1,136 @@
+#include "render/ChartDrawing.h"
+
+#include <algorithm>
+#include <string>
+
+#include "render/Canvas.h"
+#include "render/Description.h"
+#include "render/axes/AxisDrawing.h"
+#include "render/families/Plot.h"
+#include "render/labels/DataLabels.h"
+#include "render/layout/ChartLayout.h"
+#include "render/model/ChartReader.h"
+#include "render/shapes/UserShapes.h"
+#include "render/threed/Plot3D.h"
+#include "xlsx/chart/ChartPart.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::render {
+namespace {
+
+void DrawChartArea(Canvas& canvas, const ChartModel& chart) {
+  const Stroke& stroke = chart.chartArea.stroke;
+  const Rect box = Inset(canvas.Bounds(), stroke.width / 2, stroke.width / 2);
+  Path path;
+  if (chart.roundedCorners) {
+    constexpr double kRadius = 8;  // points
+    const double r = std::min({kRadius, box.width / 2, box.height / 2});
+    const auto corner = [&](double left, double top) { return Rect{left, top, 2 * r, 2 * r}; };
+    path.MoveTo({box.left + r, box.top}).LineTo({box.Right() - r, box.top});
+    path.ArcTo(corner(box.Right() - 2 * r, box.top), 0, 90).LineTo({box.Right(), box.Bottom() - r});
+    path.ArcTo(corner(box.Right() - 2 * r, box.Bottom() - 2 * r), 90, 90)
+        .LineTo({box.left + r, box.Bottom()});
+    path.ArcTo(corner(box.left, box.Bottom() - 2 * r), 180, 90).LineTo({box.left, box.top + r});
+    path.ArcTo(corner(box.left, box.top), 270, 90).Close();
+  } else {
+    path.AddRect(box);
+  }
+  canvas.Add({Role::kChartArea}, std::move(path), chart.chartArea.fill, stroke);
+}
+
+void DrawGroup(Plot& plot, const GroupModel& group) {
+  switch (group.family) {
+    case Family::kBar:
+      return DrawBars(plot, group);
+    case Family::kArea:
+      return DrawAreas(plot, group);
+    case Family::kLine:
+    case Family::kStock:
+      return DrawLines(plot, group);
+    case Family::kScatter:
+      return DrawScatter(plot, group);
+    case Family::kBubble:
+      return DrawBubbles(plot, group);
+    case Family::kPie:
+    case Family::kDoughnut:
+      return DrawPie(plot, group);
+    case Family::kOfPie:
+      plot.canvas.Note(
+          "The second plot of a pie of pie or bar of pie isn't drawn; all slices are in the first.");
+      return DrawPie(plot, group);
+    case Family::kRadar:
+      return plot.canvas.Note("Radar charts aren't drawn.");
+    case Family::kSurface:
+      return plot.canvas.Note("Surface charts aren't drawn.");
+  }
+}
+
+/// What of a chart is known but not drawn.
+void NoteMissing(Canvas& canvas, const ChartModel& chart) {
+  const auto has = [](pugi::xml_node node, std::string_view local) {
+    return bool(xlsx::xml::Child(node, local));
+  };
+  for (const GroupModel& group : chart.groups) {
+    if (has(group.node, "upDownBars")) canvas.Note("Up and down bars aren't drawn.");
+    if (has(group.node.parent(), "dTable")) canvas.Note("The data table below the chart isn't drawn.");
+    for (const SeriesModel& series : group.series) {
+      if (xlsx::xml::Child(series.node, "cat", "multiLvlStrRef")) {
+        canvas.Note("Of categories in several levels, only the innermost are drawn.");
+      }
+      if (has(series.node, "trendline")) canvas.Note("Trendlines aren't drawn.");
+      if (has(series.node, "errBars")) canvas.Note("Error bars aren't drawn.");
+    }
+  }
+}
+
+void DrawPlot(Plot& plot, const ChartLayout& layout) {
+  const ChartModel& chart = plot.chart;
+  if (chart.groups.empty()) return;  // a chart without data shows nothing of its plot area
+  plot.canvas.AddFrame({Role::kPlotArea}, plot.area, chart.plotArea.fill, chart.plotArea.stroke);
+  for (const AxisModel& axis : chart.axes) DrawGridlines(plot.canvas, chart, axis, plot.area);
+  for (const GroupModel& group : chart.groups) DrawGroup(plot, group);
+  for (std::size_t i = 0; i < chart.axes.size(); ++i) {
+    DrawAxisLine(plot.canvas, chart, chart.axes[i], plot.area);
+    DrawTickLabels(plot.canvas, chart, chart.axes[i], layout.axes[i].labels, plot.area);
+  }
+}
+
+void DrawTitle(Canvas& canvas, Tag tag, const PlacedTitle& placed, const ShapeStyle& style) {
+  canvas.Add(tag, Path().AddRect(placed.box), style.fill, style.stroke);
+  DrawBlock(canvas, tag, placed.block, placed.box.Center());
+}
+
+void DrawTitles(Canvas& canvas, const ChartModel& chart, const ChartLayout& layout) {
+  if (layout.title) DrawTitle(canvas, {Role::kTitle}, *layout.title, chart.title->style);
+  for (std::size_t i = 0; i < chart.axes.size(); ++i) {
+    const AxisModel& axis = chart.axes[i];
+    const AxisLayout& placed = layout.axes[i];
+    if (placed.title) DrawTitle(canvas, {Role::kAxisTitle, axis.number}, *placed.title, axis.title->style);
+    if (placed.units)
+      DrawTitle(canvas, {Role::kDisplayUnits, axis.number}, *placed.units, axis.units.label->style);
+  }
+}
+
+}  // namespace
+
+Drawing DrawChart(xlsx::ChartPart& part, double width, double height, const TextMeasure& measure,
+                  Notes& notes) {
+  ChartModel chart = ReadChart(part, notes);
+  Drawing drawing;
+  drawing.width = width;
+  drawing.height = height;
+  Canvas canvas(drawing, measure, notes);
+  DrawChartArea(canvas, chart);
+  const ChartLayout layout = LayOutChart(chart, canvas.Bounds(), measure);
+  Plot plot{chart, layout.plot, canvas};
+  if (!DrawPlot3D(part, plot, layout.outer)) DrawPlot(plot, layout);
+  DrawDataLabels(plot);
+  DrawTitles(canvas, chart, layout);
+  if (layout.legend) DrawLegend(canvas, chart, *layout.legend);
+  DrawUserShapes(part, canvas);
+  NoteMissing(canvas, chart);
+  Describe(chart, drawing);
+  return drawing;
+}
+
+}  // namespace plotsmith::render

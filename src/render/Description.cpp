@@ -1,0 +1,95 @@
+#include "render/Description.h"
+
+#include <cmath>
+
+namespace plotsmith::render {
+namespace {
+
+constexpr std::size_t kMostPoints = 200;  // of all series; a longer list helps no listener
+
+const char* NameOf(const GroupModel& group) {
+  switch (group.family) {
+    case Family::kArea:
+      return "Area chart";
+    case Family::kBar:
+      return group.horizontal ? "Bar chart" : "Column chart";
+    case Family::kLine:
+      return "Line chart";
+    case Family::kPie:
+    case Family::kOfPie:
+      return "Pie chart";
+    case Family::kDoughnut:
+      return "Doughnut chart";
+    case Family::kScatter:
+      return "Scatter chart";
+    case Family::kBubble:
+      return "Bubble chart";
+    case Family::kStock:
+      return "Stock chart";
+    case Family::kRadar:
+      return "Radar chart";
+    case Family::kSurface:
+      break;
+  }
+  return "Surface chart";
+}
+
+std::string Formatted(const FormatPointer& format, double value, xlsx::DateSystem dates) {
+  std::string text;
+  if (format) format->AppendNumber(text, value, dates);
+  return text;
+}
+
+std::string PointText(const ChartModel& chart, const GroupModel& group, const SeriesModel& series,
+                      std::size_t i) {
+  std::string text;
+  if (group.HasXValues()) {
+    const AxisModel* axis =
+        group.category < 0 ? nullptr : &chart.axes[static_cast<std::size_t>(group.category)];
+    if (axis != nullptr && i < series.x.size()) text = Formatted(axis->format, series.x[i], chart.dates);
+  } else if (i < group.categories.size()) {
+    text = group.categories[i];
+  }
+  for (char& c : text) {
+    if (c == '\n') c = ' ';
+  }
+  text += (text.empty() ? "" : " ") + Formatted(series.valueFormat, series.values[i], chart.dates);
+  if (group.family == Family::kBubble && i < series.sizes.size() && std::isfinite(series.sizes[i])) {
+    text += " (" + Formatted(series.sizeFormat, series.sizes[i], chart.dates) + ")";
+  }
+  return text;
+}
+
+std::string TextOf(const RichText& rich) {
+  std::string text;
+  for (const auto& runs : rich.paragraphs) {
+    if (!text.empty()) text += ' ';
+    for (const TextRun& run : runs) text += run.text;
+  }
+  return text;
+}
+
+}  // namespace
+
+void Describe(const ChartModel& chart, Drawing& drawing) {
+  if (chart.title) drawing.title = TextOf(chart.title->text);
+  if (drawing.title.empty() && !chart.groups.empty()) drawing.title = NameOf(chart.groups.front());
+  std::size_t left = kMostPoints;
+  for (const GroupModel& group : chart.groups) {
+    drawing.description += std::string(drawing.description.empty() ? "" : "\n") + NameOf(group) + ".";
+    for (const SeriesModel& series : group.series) {
+      if (left == 0) break;
+      drawing.description += "\n" + series.name + ":";
+      const char* comma = " ";
+      for (std::size_t i = 0; i < series.values.size() && left > 0; ++i) {
+        if (!std::isfinite(series.values[i])) continue;
+        --left;
+        drawing.description += comma + PointText(chart, group, series, i);
+        comma = ", ";
+      }
+    }
+  }
+  if (left == 0) drawing.description += ", and more";
+}
+
+}  // namespace plotsmith::render

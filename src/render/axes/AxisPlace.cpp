@@ -1,0 +1,83 @@
+#include "render/axes/AxisPlace.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "render/axes/AxisMap.h"
+
+namespace plotsmith::render {
+namespace {
+
+/// The place on the crossed axis where this one crosses it.
+double CrossingOn(const AxisModel& crossed, const AxisModel& axis, const AxisMap& map) {
+  if (axis.crosses == "max" && !axis.crossesAt) return map.High();
+  if (axis.crosses == "min" && !axis.crossesAt) return map.Low();
+  if (crossed.IsOfValues()) {
+    if (!axis.crossesAt) return map.Base();
+    const double value = std::clamp(*axis.crossesAt, crossed.scale.minimum, crossed.scale.maximum);
+    return map.OfValue(value);
+  }
+  const double categories =
+      crossed.dates ? crossed.dates->count : static_cast<double>(crossed.categories.size());
+  const double count = std::max(categories, 1.0);
+  const double number = std::clamp(axis.crossesAt.value_or(1), 1.0, count + (crossed.crossesBetween ? 1 : 0));
+  // between categories, an axis crosses in front of the one with the number
+  return map.OfSlot(number - 1 - (crossed.crossesBetween ? 0.5 : 0));
+}
+
+}  // namespace
+
+double EdgeOf(const Rect& rect, Side side) {
+  switch (side) {
+    case Side::kLeft:
+      return rect.left;
+    case Side::kRight:
+      return rect.Right();
+    case Side::kTop:
+      return rect.top;
+    case Side::kBottom:
+      break;
+  }
+  return rect.Bottom();
+}
+
+Side Opposite(Side side) {
+  switch (side) {
+    case Side::kLeft:
+      return Side::kRight;
+    case Side::kRight:
+      return Side::kLeft;
+    case Side::kTop:
+      return Side::kBottom;
+    case Side::kBottom:
+      break;
+  }
+  return Side::kTop;
+}
+
+AxisPlace PlaceOf(const ChartModel& chart, const AxisModel& axis, const Rect& plot) {
+  AxisPlace place;
+  const Side usual = axis.IsUpright() ? Side::kLeft : Side::kBottom;
+  const bool crosses = axis.crossed >= 0 && axis.crossed < static_cast<int>(chart.axes.size());
+  const AxisModel* crossed = crosses ? &chart.axes[static_cast<std::size_t>(axis.crossed)] : nullptr;
+  if (crossed == nullptr || crossed->IsUpright() == axis.IsUpright()) {
+    place.side = place.labelSide = axis.side;
+    place.at = place.labelsAt = EdgeOf(plot, axis.side);
+    return place;
+  }
+  const AxisMap map = AxisMap::Along(*crossed, plot);
+  place.at = CrossingOn(*crossed, axis, map);
+  constexpr double kClose = 0.5;  // points: an axis this near to an edge lies on it
+  const bool far = std::abs(place.at - EdgeOf(plot, Opposite(usual))) < kClose;
+  place.side = far ? Opposite(usual) : usual;
+  place.labelSide = place.side;
+  place.labelsAt = place.at;
+  if (axis.tickLabels == "low" || axis.tickLabels == "high") {
+    const double edge = axis.tickLabels == "low" ? map.Low() : map.High();
+    place.labelSide = std::abs(edge - EdgeOf(plot, usual)) < kClose ? usual : Opposite(usual);
+    place.labelsAt = edge;
+  }
+  return place;
+}
+
+}  // namespace plotsmith::render

@@ -1,0 +1,108 @@
+#include "render/axes/DateAxis.h"
+
+#include <array>
+#include <chrono>
+#include <cmath>
+
+namespace plotsmith::render {
+namespace {
+
+using std::chrono::day;
+using std::chrono::days;
+using std::chrono::month;
+using std::chrono::sys_days;
+using std::chrono::year;
+using std::chrono::year_month_day;
+
+constexpr std::size_t kMostTicks = 400;
+constexpr double kUsualTicks = 32;  // that an axis has at most where nothing is set
+
+long long DayOf(double serial, xlsx::DateSystem dates) {
+  const double shifted = serial + xlsx::SerialOffset(dates) - xlsx::kSerialOf1970;
+  return static_cast<long long>(std::floor(shifted));
+}
+
+/// From label to label, in a unit of time.
+struct Step {
+  double count = 1;
+  TimeUnit unit = TimeUnit::kDays;
+};
+
+/// Rough lengths, to choose a step by.
+double SlotsIn(const Step& step, TimeUnit base) {
+  constexpr double kDaysIn[] = {1, 30.5, 365.25};
+  return step.count * kDaysIn[static_cast<int>(step.unit)] / kDaysIn[static_cast<int>(base)];
+}
+
+Step StepOf(const DateSlots& slots) {
+  if (slots.majorUnit > 0) return {slots.majorUnit, slots.majorBase};
+  using enum TimeUnit;
+  constexpr std::array<Step, 14> kSteps = {{{1, kDays},
+                                            {2, kDays},
+                                            {7, kDays},
+                                            {14, kDays},
+                                            {1, kMonths},
+                                            {2, kMonths},
+                                            {3, kMonths},
+                                            {6, kMonths},
+                                            {1, kYears},
+                                            {2, kYears},
+                                            {5, kYears},
+                                            {10, kYears},
+                                            {50, kYears},
+                                            {100, kYears}}};
+  for (const Step& step : kSteps) {
+    if (step.unit >= slots.base && slots.count / SlotsIn(step, slots.base) <= kUsualTicks) return step;
+  }
+  return kSteps.back();
+}
+
+/// The slot of the tick number `index`: counted in months, the day of the month stays as it was.
+long long TickSlot(const DateSlots& slots, const Step& step, long long index) {
+  const auto count = static_cast<long long>(step.count) * index;
+  if (slots.base == TimeUnit::kYears) return slots.first + count;
+  if (slots.base == TimeUnit::kMonths) return slots.first + count * (step.unit == TimeUnit::kYears ? 12 : 1);
+  if (step.unit == TimeUnit::kDays) return slots.first + count;
+  const year_month_day first{sys_days(days(slots.first))};
+  const auto moved = first + std::chrono::months(count * (step.unit == TimeUnit::kYears ? 12 : 1));
+  const auto date = moved.ok() ? moved : year_month_day(moved.year() / moved.month() / std::chrono::last);
+  return sys_days(date).time_since_epoch().count();
+}
+
+}  // namespace
+
+long long SlotOf(double serial, TimeUnit base, xlsx::DateSystem dates) {
+  const long long number = DayOf(serial, dates);
+  if (base == TimeUnit::kDays) return number;
+  const year_month_day date{sys_days(days(number))};
+  const long long years = static_cast<int>(date.year());
+  return base == TimeUnit::kYears ? years : years * 12 + static_cast<unsigned>(date.month()) - 1;
+}
+
+double SerialOf(long long slot, TimeUnit base, xlsx::DateSystem dates) {
+  long long number = slot;
+  if (base != TimeUnit::kDays) {
+    const long long months = base == TimeUnit::kYears ? slot * 12 : slot;
+    const year_month_day date{year(static_cast<int>(months / 12)),
+                              month(static_cast<unsigned>(months % 12 + 1)), day(1)};
+    number = sys_days(date).time_since_epoch().count();
+  }
+  return static_cast<double>(number + xlsx::kSerialOf1970 - xlsx::SerialOffset(dates));
+}
+
+std::vector<DateTick> DateTicks(const AxisModel& axis, xlsx::DateSystem dates) {
+  std::vector<DateTick> ticks;
+  const DateSlots& slots = *axis.dates;
+  const Step step = StepOf(slots);
+  for (long long i = 0; ticks.size() < kMostTicks; ++i) {
+    const long long slot = TickSlot(slots, step, i);
+    const auto place = static_cast<double>(slot - slots.first);
+    if (!(place < slots.count)) break;
+    DateTick& tick = ticks.emplace_back();
+    tick.slot = place;
+    axis.format->AppendNumber(tick.label, SerialOf(slot, slots.base, dates), dates);
+  }
+  return ticks;
+}
+
+}  // namespace plotsmith::render

@@ -1,0 +1,190 @@
+#include "render/axes/TickLabels.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "render/axes/DateAxis.h"
+#include "render/model/ChartReader.h"
+
+namespace plotsmith::render {
+namespace {
+
+constexpr double kRadian = std::numbers::pi / 180;
+constexpr double kGapEms = 0.3;        // that flat neighbours keep between them
+constexpr double kLineSpacing = 1.15;  // of a line's height, from one turned or stacked label to the next
+constexpr double kUnitSpacing = 1.25;  // the same along an upright axis of values
+constexpr double kSlanted = -45, kUpwards = -90;
+constexpr double kShortEms = 2.6;            // labels up to this width are rather skipped than turned
+constexpr std::size_t kMostMeasured = 2000;  // labels whose width decides
+
+struct Sizes {
+  double widest = 0, widestWord = 0, lineHeight = 0;
+};
+
+Sizes Measure(const std::vector<std::string>& texts, const TextStyle& style, const TextMeasure& measure) {
+  Sizes sizes;
+  sizes.lineHeight = measure.Measure("0", style.font).Height();
+  const std::size_t step = std::max<std::size_t>(texts.size() / kMostMeasured, 1);
+  for (std::size_t i = 0; i < texts.size(); i += step) {
+    const std::string& text = texts[i];
+    for (std::size_t from = 0; from <= text.size();) {
+      const std::size_t end = std::min(text.find_first_of(" \n", from), text.size());
+      sizes.widestWord =
+          std::max(sizes.widestWord, measure.Measure(text.substr(from, end - from), style.font).width);
+      from = end + 1;
+    }
+    for (const TextLine& line : LayOut(text, style, measure).lines)
+      sizes.widest = std::max(sizes.widest, line.width);
+  }
+  return sizes;
+}
+
+/// How labels are set: turned, wrapped at a width, and only each so many.
+struct Setting {
+  double rotation = 0;
+  double wrap = kUnlimited;
+  double skip = 1;
+};
+
+/// What turned labels need along the axis, from one to the next.
+double NeededAlong(const Sizes& sizes, double rotation, double emGap) {
+  const double sine = std::abs(std::sin(rotation * kRadian));
+  if (sine < 0.05) return sizes.widest + emGap;
+  return std::min(sizes.lineHeight * kLineSpacing / sine,
+                  sizes.widest * std::abs(std::cos(rotation * kRadian)) + sizes.lineHeight * sine + emGap);
+}
+
+double SkipFor(double needed, double slot) {
+  return std::max(std::ceil(needed / std::max(slot, 1e-6) - 1e-9), 1.0);
+}
+
+Setting SettingForFlat(const AxisModel& axis, const Sizes& sizes, double slot, double depth) {
+  const double gap = kGapEms * axis.text.font.size;
+  const double given = static_cast<double>(axis.labelSkip);
+  const bool skips = axis.labelSkip == 0;
+  const double room = slot * std::max(given, 1.0);
+  if (axis.text.rotation) {
+    const double rotation = *axis.text.rotation;
+    const bool flat = std::abs(std::sin(rotation * kRadian)) < 0.05;
+    const bool wraps = flat && !axis.IsOfValues() && sizes.widestWord + gap <= room;
+    if (wraps) return {rotation, room - gap, std::max(given, 1.0)};
+    return {rotation, kUnlimited, skips ? SkipFor(NeededAlong(sizes, rotation, gap), slot) : given};
+  }
+  if (sizes.widest + gap <= room) return {0, kUnlimited, std::max(given, 1.0)};
+  if (!axis.IsOfValues() && sizes.widestWord + gap <= room) {
+    const double lines = std::ceil(sizes.widest / std::max(room - gap, 1.0));
+    if (lines * sizes.lineHeight <= depth) return {0, room - gap, std::max(given, 1.0)};
+  }
+  const bool isShort = sizes.widest <= kShortEms * axis.text.font.size;
+  if (isShort && skips) return {0, kUnlimited, SkipFor(sizes.widest + gap, slot)};
+  for (const double rotation : {kSlanted, kUpwards}) {
+    if (NeededAlong(sizes, rotation, gap) <= room) return {rotation, kUnlimited, std::max(given, 1.0)};
+  }
+  return {kUpwards, kUnlimited, skips ? SkipFor(sizes.lineHeight * kLineSpacing, slot) : given};
+}
+
+Setting SettingForUpright(const AxisModel& axis, const Sizes& sizes, double slot, double depth) {
+  const double rotation = axis.text.rotation.value_or(0);
+  Setting setting{rotation, kUnlimited, std::max(static_cast<double>(axis.labelSkip), 1.0)};
+  const double turned = std::abs(std::sin(rotation * kRadian));
+  if (turned < 0.05 && !axis.IsOfValues()) setting.wrap = std::max(depth, sizes.widestWord);
+  if (axis.labelSkip == 0) {
+    const double needed = turned < 0.05 ? sizes.lineHeight : NeededAlong(sizes, 90 - std::abs(rotation), 0);
+    setting.skip = SkipFor(needed, slot);
+  }
+  return setting;
+}
+
+/// A label that is too long for the room across the axis ends in dots.
+void Shorten(TextBlock& block, double most, const TextMeasure& measure) {
+  if (block.width <= most || block.lines.size() != 1 || block.lines[0].runs.size() != 1) return;
+  TextRun run = block.lines[0].runs[0];
+  constexpr const char* kDots = "...";
+  std::size_t low = 0, high = run.text.size();
+  while (low < high) {
+    const std::size_t middle = (low + high + 1) / 2;
+    if (measure.Measure(run.text.substr(0, middle) + kDots, run.font).width <= most) {
+      low = middle;
+    } else {
+      high = middle - 1;
+    }
+  }
+  while (low > 0 && (static_cast<unsigned char>(run.text[low]) & 0xC0) == 0x80) --low;
+  const TextStyle style{run.font, run.color, block.rotation, false};
+  block = LayOut(run.text.substr(0, low) + kDots, style, measure);
+}
+
+}  // namespace
+
+TickLabels LayOutTickLabels(const AxisModel& axis, double length, double depth, xlsx::DateSystem dates,
+                            const TextMeasure& measure) {
+  TickLabels result;
+  if (axis.hidden || axis.tickLabels == "none" || axis.kind == AxisKind::kSeries) return result;
+  std::vector<std::string> texts;
+  std::vector<double> places;
+  if (axis.IsOfValues()) {
+    for (Tick& tick : MajorTicks(axis, dates)) {
+      texts.push_back(std::move(tick.label));
+      places.push_back(tick.value);
+    }
+  } else if (axis.dates) {
+    for (DateTick& tick : DateTicks(axis, dates)) {
+      texts.push_back(std::move(tick.label));
+      places.push_back(tick.slot);
+    }
+  } else {
+    texts = axis.categories;
+    for (std::size_t i = 0; i < texts.size(); ++i) places.push_back(static_cast<double>(i));
+  }
+  if (texts.empty()) return result;
+  const Sizes sizes = Measure(texts, axis.text, measure);
+  const double count = static_cast<double>(texts.size());
+  const bool onTicks = axis.IsOfValues() || !axis.crossesBetween;
+  double slot = length / std::max(onTicks ? count - 1 : count, 1.0);
+  for (std::size_t i = 1; axis.dates && i < places.size(); ++i) {  // months differ
+    slot = std::min(slot, length * (places[i] - places[i - 1]) / std::max(axis.dates->count, 1.0));
+  }
+  const Setting setting = axis.IsUpright() ? SettingForUpright(axis, sizes, slot, depth)
+                                           : SettingForFlat(axis, sizes, slot, depth);
+  result.rotation = setting.rotation;
+  TextStyle style = axis.text;
+  style.rotation = setting.rotation;
+  const auto skip = static_cast<std::size_t>(std::max(setting.skip, 1.0));
+  for (std::size_t i = 0; i < texts.size(); i += skip) {
+    TickLabel label{static_cast<int>(i + 1), places[i], !axis.IsOfValues(),
+                    LayOut(texts[i], style, measure, setting.wrap)};
+    if (setting.rotation != 0 && !axis.IsUpright()) {
+      const double sine = std::abs(std::sin(setting.rotation * kRadian));
+      if (sine > 0.05) Shorten(label.block, std::max(depth / sine, 3 * sizes.lineHeight), measure);
+    }
+    const double across = axis.IsUpright() ? label.block.TurnedWidth() : label.block.TurnedHeight();
+    const double along = axis.IsUpright() ? label.block.TurnedHeight() : label.block.TurnedWidth();
+    result.depth = std::max(result.depth, across);
+    result.halfWidth = std::max(result.halfWidth, along / 2);
+    result.labels.push_back(std::move(label));
+  }
+  return result;
+}
+
+void FitMajorUnit(AxisModel& axis, double length, xlsx::DateSystem dates, const TextMeasure& measure) {
+  if (!axis.IsOfValues() || axis.hidden || axis.logBase || axis.settings.majorUnit ||
+      axis.tickLabels == "none")
+    return;
+  const double lineHeight = measure.Measure("0", axis.text.font).Height();
+  for (int tries = 0; tries < 12; ++tries) {
+    const auto ticks = MajorTicks(axis, dates);
+    if (ticks.size() < 3) return;
+    double needed = lineHeight * kUnitSpacing;
+    if (!axis.IsUpright()) {
+      double widest = 0;
+      for (const Tick& tick : ticks)
+        widest = std::max(widest, measure.Measure(tick.label, axis.text.font).width);
+      needed = widest + 2 * kGapEms * axis.text.font.size;
+    }
+    if (length / static_cast<double>(ticks.size() - 1) >= needed) return;
+    CoarsenScale(axis);
+  }
+}
+
+}  // namespace plotsmith::render

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <vector>
+
+#include "render/axes/AxisMap.h"
+#include "render/layout/TextBlock.h"
+#include "render/model/ChartModel.h"
+
+namespace plotsmith::render {
+
+struct TickLabel {
+  int number = 1;    ///< of the tick or of the category, from 1
+  double place = 0;  ///< the value, or the slot of the category or date from 0
+  bool category = false;
+  TextBlock block;
+};
+
+/// The labels along an axis, skipped, wrapped or turned so that none touches its neighbour.
+struct TickLabels {
+  std::vector<TickLabel> labels;
+  double rotation = 0;   ///< degrees clockwise
+  double depth = 0;      ///< the room that they take across the axis, without the gap to it
+  double halfWidth = 0;  ///< what the widest takes along the axis to either side of its tick
+
+  bool IsEmpty() const { return labels.empty(); }
+};
+
+/// Lays out the labels of an axis of a length in points. `depth` is the room across it that they may take.
+TickLabels LayOutTickLabels(const AxisModel& axis, double length, double depth, xlsx::DateSystem dates,
+                            const TextMeasure& measure);
+
+/// Takes larger major units for an axis without a unit set by hand, until its labels have room along it.
+void FitMajorUnit(AxisModel& axis, double length, xlsx::DateSystem dates, const TextMeasure& measure);
+
+}  // namespace plotsmith::render

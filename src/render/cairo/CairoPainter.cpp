@@ -1,0 +1,262 @@
+#include "render/cairo/CairoPainter.h"
+
+#include <algorithm>
+#include <cairo-pdf.h>
+#include <cairo.h>
+#include <cmath>
+#include <memory>
+#include <numbers>
+#include <optional>
+#include <stdexcept>
+
+#include "render/cairo/CairoImage.h"
+#include "render/cairo/CairoPaint.h"
+#include "render/cairo/PixelGrid.h"
+#include "render/cairo/PngWriter.h"
+
+namespace plotsmith::render {
+namespace {
+
+struct DestroySurface {
+  void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
+};
+struct DestroyContext {
+  void operator()(cairo_t* cr) const { cairo_destroy(cr); }
+};
+using Surface = std::unique_ptr<cairo_surface_t, DestroySurface>;
+using Context = std::unique_ptr<cairo_t, DestroyContext>;
+
+cairo_status_t Append(void* bytes, const unsigned char* data, unsigned length) {
+  static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);
+  return CAIRO_STATUS_SUCCESS;
+}
+
+void Trace(cairo_t* cr, const Path& path) {
+  cairo_new_path(cr);
+  for (const PathStep& step : path.Steps()) {
+    switch (step.kind) {
+      case PathStep::Kind::kMove:
+        cairo_move_to(cr, step.to.x, step.to.y);
+        break;
+      case PathStep::Kind::kLine:
+        cairo_line_to(cr, step.to.x, step.to.y);
+        break;
+      case PathStep::Kind::kCurve:
+        cairo_curve_to(cr, step.control1.x, step.control1.y, step.control2.x, step.control2.y, step.to.x,
+                       step.to.y);
+        break;
+      case PathStep::Kind::kClose:
+        cairo_close_path(cr);
+        break;
+    }
+  }
+}
+
+void SetStroke(cairo_t* cr, const Stroke& stroke) {
+  SetSource(cr, SolidFill{stroke.color}, {});
+  cairo_set_line_width(cr, stroke.width);
+  cairo_set_dash(cr, stroke.dashes.data(), static_cast<int>(stroke.dashes.size()), 0);
+  cairo_set_line_cap(cr, stroke.cap == LineCap::kRound    ? CAIRO_LINE_CAP_ROUND
+                         : stroke.cap == LineCap::kSquare ? CAIRO_LINE_CAP_SQUARE
+                                                          : CAIRO_LINE_CAP_BUTT);
+  cairo_set_line_join(cr, stroke.join == LineJoin::kRound   ? CAIRO_LINE_JOIN_ROUND
+                          : stroke.join == LineJoin::kBevel ? CAIRO_LINE_JOIN_BEVEL
+                                                            : CAIRO_LINE_JOIN_MITER);
+}
+
+/// A long line is stroked in pieces: Cairo looks for crossings in all of a line at once, which takes minutes
+/// for thousands of corners. Pieces share a step, so that no corner shows where they meet.
+void StrokeInPieces(cairo_t* cr, const Path& path) {
+  constexpr std::size_t kPiece = 12;
+  const auto& steps = path.Steps();
+  Path piece;
+  for (std::size_t i = 0; i < steps.size(); ++i) {
+    const PathStep& step = steps[i];
+    const bool begins = step.kind == PathStep::Kind::kMove;
+    if (begins || piece.Steps().size() >= kPiece) {
+      Trace(cr, piece);
+      cairo_stroke(cr);
+      piece = Path();
+      if (!begins) piece.MoveTo(steps[i - 2].to).LineTo(steps[i - 1].to);
+    }
+    begins ? piece.MoveTo(step.to) : piece.LineTo(step.to);
+  }
+  Trace(cr, piece);
+  cairo_stroke(cr);
+}
+
+/// Whether pieces of the line look like the whole: straight steps in an opaque colour without dashes.
+bool MayBeStrokedInPieces(const PathItem& item) {
+  constexpr std::size_t kLong = 200;
+  const auto& steps = item.path.Steps();
+  return steps.size() > kLong && item.stroke.dashes.empty() && item.stroke.color.alpha == 1 &&
+         std::all_of(steps.begin(), steps.end(), [](const PathStep& step) {
+           return step.kind == PathStep::Kind::kMove || step.kind == PathStep::Kind::kLine;
+         });
+}
+
+class Painter {
+ public:
+  /// With `pixels`, upright lines and edges are brought onto the pixels of a picture.
+  Painter(cairo_t* cr, const Fonts& fonts, std::optional<PixelScale> pixels)
+      : cr_(cr), fonts_(fonts), pixels_(pixels) {}
+  ~Painter() {
+    for (; clips_ > 0; --clips_) cairo_restore(cr_);
+  }
+  Painter(const Painter&) = delete;
+  Painter& operator=(const Painter&) = delete;
+
+  void Draw(const Item& item) {
+    const auto* path = std::get_if<PathItem>(&item.content);
+    const auto* clip = std::get_if<PushClip>(&item.content);
+    // markers keep their shape and their place on the line
+    if (pixels_ && path != nullptr && item.tag.role != Role::kMarker && IsUpright(path->path)) {
+      DrawOnPixels(*path);
+    } else if (pixels_ && clip != nullptr && IsUpright(clip->path)) {
+      (*this)(PushClip{OnPixels(clip->path, *pixels_, 0)});
+    } else {
+      std::visit(*this, item.content);
+    }
+  }
+
+  void operator()(const PathItem& item) {
+    Trace(cr_, item.path);
+    if (SetSource(cr_, item.fill, item.path.Bounds())) cairo_fill_preserve(cr_);
+    if (item.stroke.width > 0) {
+      SetStroke(cr_, item.stroke);
+      if (MayBeStrokedInPieces(item)) {
+        StrokeInPieces(cr_, item.path);
+      } else {
+        cairo_stroke_preserve(cr_);
+      }
+    }
+    cairo_new_path(cr_);
+  }
+  void operator()(const TextItem& item) {
+    cairo_save(cr_);
+    cairo_translate(cr_, item.anchor.x, item.anchor.y);
+    if (item.rotation != 0) cairo_rotate(cr_, item.rotation * std::numbers::pi / 180);
+    if (item.align != TextAlign::kStart) {
+      cairo_translate(cr_, item.align == TextAlign::kMiddle ? -item.width / 2 : -item.width, 0);
+    }
+    SetSource(cr_, SolidFill{item.color}, {});
+    fonts_.Show(cr_, item.text, item.font);
+    cairo_restore(cr_);
+  }
+  void operator()(const PushClip& clip) {
+    cairo_save(cr_);
+    ++clips_;
+    Trace(cr_, clip.path);
+    cairo_clip(cr_);
+  }
+  void operator()(const PopClip&) {
+    if (clips_ == 0) return;
+    --clips_;
+    cairo_restore(cr_);
+  }
+  void operator()(const ImageItem& item) { PaintImage(cr_, item); }
+
+ private:
+  void DrawOnPixels(const PathItem& item) {
+    PathItem snapped{OnPixels(item.path, *pixels_, item.stroke.width), item.fill, item.stroke};
+    const Rect box = snapped.path.Bounds();
+    const bool isLost = !(item.stroke.width > 0) && !(box.width > 0 && box.height > 0);
+    if (isLost) return (*this)(item);  // thinner than a pixel
+    if (item.stroke.width > 0) snapped.stroke.width = WidthOnPixels(item.stroke.width, *pixels_);
+    (*this)(snapped);
+  }
+
+  cairo_t* cr_;
+  const Fonts& fonts_;
+  const std::optional<PixelScale> pixels_;
+  int clips_ = 0;
+};
+
+void Check(cairo_status_t status) {
+  if (status == CAIRO_STATUS_NO_MEMORY) throw std::bad_alloc();
+  if (status != CAIRO_STATUS_SUCCESS) throw std::runtime_error(cairo_status_to_string(status));
+}
+
+void PaintItems(cairo_t* cr, const Drawing& drawing, const Fonts& fonts, std::optional<PixelScale> pixels) {
+  cairo_set_miter_limit(cr, 4);
+  Painter painter(cr, fonts, pixels);
+  for (const Item& item : drawing.items) painter.Draw(item);
+}
+
+}  // namespace
+
+void Paint(cairo_t* cr, const Drawing& drawing, const Fonts& fonts) {
+  PaintItems(cr, drawing, fonts, std::nullopt);
+}
+
+namespace {
+
+/// The drawing on a white ground.
+Surface PaintImage(const Drawing& drawing, const Fonts& fonts, double dpi) {
+  constexpr double kMostPixels = 1e8;
+  const double scale = dpi / 72;
+  const double width = std::round(drawing.width * scale), height = std::round(drawing.height * scale);
+  if (!(width >= 1 && height >= 1 && width <= 32767 && height <= 32767 && width * height <= kMostPixels)) {
+    throw std::length_error("A picture of this size can't be made.");
+  }
+  Surface surface(
+      cairo_image_surface_create(CAIRO_FORMAT_RGB24, static_cast<int>(width), static_cast<int>(height)));
+  const Context cr(cairo_create(surface.get()));
+  cairo_set_source_rgb(cr.get(), 1, 1, 1);
+  cairo_paint(cr.get());
+  const PixelScale perPoint{width / drawing.width, height / drawing.height};
+  cairo_scale(cr.get(), perPoint.x, perPoint.y);
+  PaintItems(cr.get(), drawing, fonts, perPoint);
+  Check(cairo_status(cr.get()));
+  cairo_surface_flush(surface.get());
+  return surface;
+}
+
+/// The pixels of an image that was painted.
+Pixels PixelsOf(cairo_surface_t* image) {
+  return {reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(image)),
+          static_cast<std::size_t>(cairo_image_surface_get_width(image)),
+          static_cast<std::size_t>(cairo_image_surface_get_height(image)),
+          static_cast<std::size_t>(cairo_image_surface_get_stride(image)) / sizeof(std::uint32_t)};
+}
+
+}  // namespace
+
+std::string MakePng(const Drawing& drawing, const Fonts& fonts, double dpi) {
+  const Surface surface = PaintImage(drawing, fonts, dpi);
+  return EncodePng(PixelsOf(surface.get()), dpi);
+}
+
+Raster MakeRaster(const Drawing& drawing, const Fonts& fonts, double dpi) {
+  const Surface surface = PaintImage(drawing, fonts, dpi);
+  const Pixels pixels = PixelsOf(surface.get());
+  Raster raster{static_cast<int>(pixels.width), static_cast<int>(pixels.height), {}};
+  raster.values.reserve(pixels.width * pixels.height);
+  for (std::size_t row = 0; row < pixels.height; ++row) {
+    const std::uint32_t* const begin = pixels.data + row * pixels.stride;
+    raster.values.insert(raster.values.end(), begin, begin + pixels.width);
+  }
+  return raster;
+}
+
+std::string MakePdf(std::span<const Drawing> pages, const Fonts& fonts) {
+  std::string bytes;
+  const Surface surface(cairo_pdf_surface_create_for_stream(Append, &bytes, 1, 1));
+  // a moment that never changes, so that the same drawings give the same bytes
+  cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_CREATE_DATE, "2000-01-01T00:00:00Z");
+  if (!pages.empty()) {
+    cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_TITLE, pages.front().title.c_str());
+  }
+  for (const Drawing& page : pages) {
+    cairo_pdf_surface_set_size(surface.get(), page.width, page.height);
+    const Context cr(cairo_create(surface.get()));
+    Paint(cr.get(), page, fonts);
+    Check(cairo_status(cr.get()));
+    cairo_show_page(cr.get());
+  }
+  cairo_surface_finish(surface.get());
+  Check(cairo_surface_status(surface.get()));
+  return bytes;
+}
+
+}  // namespace plotsmith::render

@@ -1,0 +1,179 @@
+#include "render/cairo/Fonts.h"
+
+#include <cmath>
+#include <fontconfig/fontconfig.h>
+#include <hb-ot.h>
+#include <pango/pangocairo.h>
+#include <string>
+#include <unordered_map>
+
+#include "render/FontSubstitutes.h"
+#include "runtime/Strings.h"
+
+namespace plotsmith::render {
+namespace {
+
+constexpr double kPointsPerInch = 72;  // a unit of the picture is a point
+constexpr std::size_t kMostTexts = 8000;
+constexpr std::size_t kLongestText = 4096;  // bytes that are laid out; more doesn't fit on any chart
+
+struct Release {
+  void operator()(gpointer object) const { g_object_unref(object); }
+};
+struct FreeDescription {
+  void operator()(PangoFontDescription* description) const { pango_font_description_free(description); }
+};
+using Layout = std::unique_ptr<PangoLayout, Release>;
+using Description = std::unique_ptr<PangoFontDescription, FreeDescription>;
+
+std::string KeyOf(const Font& font) {
+  return font.family + '\n' + std::to_string(font.size) + (font.bold ? 'b' : '-') +
+         (font.italic ? 'i' : '-') + (font.underline ? 'u' : '-');
+}
+
+/// The part of a text that is laid out. Bytes that are no UTF-8 are replaced.
+std::string Presentable(std::string_view text) {
+  char* valid = g_utf8_make_valid(text.data(), static_cast<gssize>(std::min(text.size(), kLongestText)));
+  std::string result(valid);
+  g_free(valid);
+  for (char& byte : result) {
+    if (static_cast<unsigned char>(byte) < 0x20) byte = ' ';
+  }
+  return result;
+}
+
+}  // namespace
+
+/// A text that was laid out in a font, and its width in points.
+struct LaidOut {
+  Layout layout;
+  double width = 0;
+};
+
+struct FontEntry {
+  Description description;
+  double ascent = 0, descent = 0;
+  std::unordered_map<std::string, LaidOut> texts;
+};
+
+struct Fonts::State {
+  std::unique_ptr<PangoFontMap, Release> map;
+  std::unique_ptr<PangoContext, Release> context;
+  std::unordered_map<std::string, FontEntry> fonts;
+  std::size_t texts = 0;
+
+  Layout MakeLayout(const std::string& text, const FontEntry& entry, bool underline) const {
+    Layout layout(pango_layout_new(context.get()));
+    pango_layout_set_font_description(layout.get(), entry.description.get());
+    pango_layout_set_single_paragraph_mode(layout.get(), TRUE);
+    pango_layout_set_text(layout.get(), text.data(), static_cast<int>(text.size()));
+    if (underline) {
+      PangoAttrList* attributes = pango_attr_list_new();
+      pango_attr_list_insert(attributes, pango_attr_underline_new(PANGO_UNDERLINE_SINGLE));
+      pango_layout_set_attributes(layout.get(), attributes);
+      pango_attr_list_unref(attributes);
+    }
+    return layout;
+  }
+
+  /// Ascent and descent as Windows has them: what a font says for clipping, and the gap between its lines as
+  /// far as that isn't in it already.
+  void MeasureHeight(FontEntry& entry, double size) const {
+    const std::unique_ptr<PangoFont, Release> found(
+        pango_font_map_load_font(map.get(), context.get(), entry.description.get()));
+    hb_font_t* font = found ? pango_font_get_hb_font(found.get()) : nullptr;
+    int scale = 0;
+    if (font != nullptr) hb_font_get_scale(font, nullptr, &scale);
+    const auto ems = [&](hb_ot_metrics_tag_t tag) {
+      hb_position_t position = 0;
+      const bool known = scale != 0 && hb_ot_metrics_get_position(font, tag, &position);
+      return known ? std::abs(static_cast<double>(position) / scale) : 0;
+    };
+    entry.ascent = ems(HB_OT_METRICS_TAG_HORIZONTAL_CLIPPING_ASCENT);
+    entry.descent = ems(HB_OT_METRICS_TAG_HORIZONTAL_CLIPPING_DESCENT);
+    const double line = ems(HB_OT_METRICS_TAG_HORIZONTAL_ASCENDER) +
+                        ems(HB_OT_METRICS_TAG_HORIZONTAL_DESCENDER) +
+                        ems(HB_OT_METRICS_TAG_HORIZONTAL_LINE_GAP);
+    if (!(entry.ascent + entry.descent > 0))
+      entry = {std::move(entry.description), 0.9, 0.25, {}};  // no OpenType
+    entry.descent = std::max(entry.descent, line - entry.ascent);
+    entry.ascent *= size;
+    entry.descent *= size;
+  }
+
+  FontEntry& EntryOf(const Font& font) {
+    const auto [found, isNew] = fonts.try_emplace(KeyOf(font));
+    FontEntry& entry = found->second;
+    if (!isNew) return entry;
+    const bool installed = !font.family.empty() && IsInstalled(font.family);
+    const std::string family = installed ? font.family : std::string(SubstituteFor(font.family));
+    entry.description.reset(pango_font_description_new());
+    pango_font_description_set_family(entry.description.get(), family.c_str());
+    pango_font_description_set_size(entry.description.get(), static_cast<int>(font.size * PANGO_SCALE));
+    pango_font_description_set_weight(entry.description.get(),
+                                      font.bold ? PANGO_WEIGHT_BOLD : PANGO_WEIGHT_NORMAL);
+    pango_font_description_set_style(entry.description.get(),
+                                     font.italic ? PANGO_STYLE_ITALIC : PANGO_STYLE_NORMAL);
+    MeasureHeight(entry, font.size);
+    return entry;
+  }
+
+  const LaidOut& TextOf(FontEntry& entry, std::string_view line, const Font& font) {
+    const std::string text = Presentable(line);
+    const auto found = entry.texts.find(text);
+    if (found != entry.texts.end()) return found->second;
+    if (++texts > kMostTexts) {
+      for (auto& [key, other] : fonts) other.texts.clear();
+      texts = 1;
+    }
+    LaidOut laidOut{MakeLayout(text, entry, font.underline), 0};
+    PangoRectangle logical;
+    pango_layout_get_extents(laidOut.layout.get(), nullptr, &logical);
+    laidOut.width = pango_units_to_double(logical.width);
+    return entry.texts.emplace(text, std::move(laidOut)).first->second;
+  }
+};
+
+Fonts::Fonts() : state_(std::make_unique<State>()) {
+  state_->map.reset(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT));
+  pango_cairo_font_map_set_resolution(PANGO_CAIRO_FONT_MAP(state_->map.get()), kPointsPerInch);
+  state_->context.reset(pango_font_map_create_context(state_->map.get()));
+  cairo_font_options_t* options = cairo_font_options_create();
+  cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
+  cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
+  cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
+  pango_cairo_context_set_font_options(state_->context.get(), options);
+  cairo_font_options_destroy(options);
+  pango_context_set_round_glyph_positions(state_->context.get(), FALSE);
+  pango_context_set_language(state_->context.get(), pango_language_from_string("en"));
+}
+
+Fonts::~Fonts() = default;
+
+TextExtent Fonts::Measure(std::string_view line, const Font& font) const {
+  FontEntry& entry = state_->EntryOf(font);
+  return {state_->TextOf(entry, line, font).width, entry.ascent, entry.descent};
+}
+
+void Fonts::Show(cairo_t* cr, std::string_view line, const Font& font) const {
+  const LaidOut& text = state_->TextOf(state_->EntryOf(font), line, font);
+  cairo_move_to(cr, 0, 0);
+  pango_cairo_show_layout_line(cr, pango_layout_get_line_readonly(text.layout.get(), 0));
+}
+
+bool Fonts::IsInstalled(std::string_view family) {
+  thread_local std::unordered_map<std::string, bool> known;
+  const auto [entry, isNew] = known.try_emplace(std::string(family));
+  if (!isNew) return entry->second;
+  FcPattern* wanted = FcPatternCreate();
+  FcPatternAddString(wanted, FC_FAMILY, reinterpret_cast<const FcChar8*>(entry->first.c_str()));
+  FcObjectSet* nothing = FcObjectSetBuild(FC_FAMILY, nullptr);
+  FcFontSet* fonts = FcFontList(nullptr, wanted, nothing);
+  entry->second = fonts != nullptr && fonts->nfont > 0;
+  if (fonts != nullptr) FcFontSetDestroy(fonts);
+  FcObjectSetDestroy(nothing);
+  FcPatternDestroy(wanted);
+  return entry->second;
+}
+
+}  // namespace plotsmith::render

@@ -1,0 +1,62 @@
+#include <algorithm>
+#include <cmath>
+
+#include "render/families/Plot.h"
+#include "render/fills/BallFill.h"
+
+namespace plotsmith::render {
+namespace {
+
+constexpr double kLargest = 0.25;  // of the plot area's shorter side, at a scale of 100 percent
+
+double SizeOf(const SeriesModel& series, std::size_t point) {
+  if (series.sizes.empty()) return 1;  // bubbles without sizes are all alike
+  return point < series.sizes.size() ? series.sizes[point] : 0;
+}
+
+/// Whether a bubble is drawn at all.
+bool IsShown(const GroupModel& group, double size) {
+  return std::isfinite(size) && (size > 0 || (size < 0 && group.showNegativeBubbles));
+}
+
+}  // namespace
+
+void DrawBubbles(Plot& plot, const GroupModel& group) {
+  const AxisModel* xAxis = plot.CategoryAxisOf(group);
+  const AxisModel* valueAxis = plot.ValueAxisOf(group);
+  if (xAxis == nullptr || valueAxis == nullptr) return;
+  const AxisMap across = AxisMap::Along(*xAxis, plot.area);
+  const AxisMap values = AxisMap::Along(*valueAxis, plot.area);
+  double most = 0;
+  for (const SeriesModel& series : group.series) {
+    for (std::size_t i = 0; i < series.values.size(); ++i) {
+      const double size = SizeOf(series, i);
+      if (IsShown(group, size)) most = std::max(most, std::abs(size));
+    }
+  }
+  const double largest = kLargest * std::min(plot.area.width, plot.area.height) * group.bubbleScale / 100;
+  plot.canvas.PushClip(Path().AddRect(plot.area));
+  for (const SeriesModel& series : group.series) {
+    for (std::size_t i = 0; i < series.values.size(); ++i) {
+      const double size = SizeOf(series, i);
+      const bool present =
+          i < series.x.size() && std::isfinite(series.x[i]) && std::isfinite(series.values[i]);
+      if (!present || !IsShown(group, size)) continue;
+      const double share = std::abs(size) / most;
+      const double diameter = largest * (group.sizeIsWidth ? share : std::sqrt(share));
+      const Point center{across.OfValue(series.x[i]), values.OfValue(series.values[i])};
+      const Rect box{center.x - diameter / 2, center.y - diameter / 2, diameter, diameter};
+      ShapeStyle style = series.StyleOf(i);
+      const bool inverted = size < 0 && series.invertIfNegative;
+      if (inverted && std::holds_alternative<SolidFill>(style.fill))
+        style.fill = SolidFill{{255, 255, 255, 1}};
+      if (series.bubble3D) style.fill = AsBall(style.fill);
+      plot.canvas.Add({Role::kBubble, series.number, static_cast<int>(i + 1)}, Path().AddEllipse(box),
+                      style.fill, style.stroke);
+      if (Overlap(box, plot.area)) plot.points.push_back({&group, &series, i, box, size < 0});
+    }
+  }
+  plot.canvas.PopClip();
+}
+
+}  // namespace plotsmith::render

@@ -1,0 +1,147 @@
+#include <cmath>
+#include <limits>
+
+#include "render/families/Curves.h"
+#include "render/families/Markers.h"
+#include "render/families/Plot.h"
+
+namespace plotsmith::render {
+namespace {
+
+/// A point of a line; one without a place interrupts it.
+struct LinePoint {
+  Point place;
+  bool present = false;
+  std::size_t index = 0;
+};
+
+/// The pieces of a line between its gaps. A gap is nothing where lines go on over it.
+std::vector<std::vector<Point>> Pieces(const std::vector<LinePoint>& points, bool spansGaps) {
+  std::vector<std::vector<Point>> pieces(1);
+  for (const LinePoint& point : points) {
+    if (point.present) {
+      pieces.back().push_back(point.place);
+    } else if (!spansGaps && !pieces.back().empty()) {
+      pieces.emplace_back();
+    }
+  }
+  return pieces;
+}
+
+/// Draws the line piecewise where points have strokes of their own.
+void DrawSegments(Plot& plot, const SeriesModel& series, const std::vector<LinePoint>& points) {
+  const LinePoint* previous = nullptr;
+  for (const LinePoint& point : points) {
+    if (!point.present) {
+      if (plot.chart.blanks != "span") previous = nullptr;
+      continue;
+    }
+    if (previous != nullptr) {
+      plot.canvas.AddLine({Role::kLine, series.number, static_cast<int>(point.index + 1)}, previous->place,
+                          point.place, series.StyleOf(point.index).stroke);
+    }
+    previous = &point;
+  }
+}
+
+void DrawLineOf(Plot& plot, const SeriesModel& series, const std::vector<LinePoint>& points) {
+  const Rect clip{plot.area.left - 1, plot.area.top - 1, plot.area.width + 2, plot.area.height + 2};
+  plot.canvas.PushClip(Path().AddRect(clip));
+  if (!series.points.empty() && !series.smooth) {
+    DrawSegments(plot, series, points);
+  } else {
+    Path path;
+    for (const auto& piece : Pieces(points, plot.chart.blanks == "span")) {
+      if (piece.size() > 1) AddCurve(path, piece, series.smooth);
+    }
+    plot.canvas.Add({Role::kLine, series.number}, std::move(path), {}, series.style.stroke);
+  }
+  plot.canvas.PopClip();
+}
+
+void DrawMarkersOf(Plot& plot, const GroupModel& group, const SeriesModel& series,
+                   const std::vector<LinePoint>& points) {
+  constexpr double kSlack = 0.5;  // a marker on the edge of the plot area is inside
+  for (const LinePoint& point : points) {
+    const bool inside = point.present && point.place.x >= plot.area.left - kSlack &&
+                        point.place.x <= plot.area.Right() + kSlack &&
+                        point.place.y >= plot.area.top - kSlack &&
+                        point.place.y <= plot.area.Bottom() + kSlack;
+    if (!inside) continue;
+    const MarkerModel& marker = series.MarkerOf(point.index);
+    DrawMarker(plot.canvas, {Role::kMarker, series.number, static_cast<int>(point.index + 1)}, marker,
+               point.place);
+    const double size = marker.symbol == "none" ? 0 : marker.size;
+    plot.points.push_back(
+        {&group, &series, point.index, {point.place.x - size / 2, point.place.y - size / 2, size, size}});
+  }
+}
+
+/// From the greatest to the least value of each category, or from it to the category axis.
+void DrawUprights(Plot& plot, const AxisMap& categories, const AxisMap& values, const Extents& extents,
+                  std::size_t count, const Stroke& stroke, bool toAxis) {
+  for (std::size_t i = 0; i < count; ++i) {
+    double least = std::numeric_limits<double>::infinity(), greatest = -least;
+    for (const auto& series : extents.to) {
+      if (i >= series.size() || !std::isfinite(series[i])) continue;
+      least = std::min(least, series[i]);
+      greatest = std::max(greatest, series[i]);
+    }
+    if (!(greatest >= least)) continue;
+    const double x = categories.OfCategory(static_cast<double>(i));
+    plot.canvas.AddLine({Role::kDropLine, 0, static_cast<int>(i + 1)}, {x, values.OfValue(greatest)},
+                        {x, toAxis ? values.Base() : values.OfValue(least)}, stroke);
+  }
+}
+
+}  // namespace
+
+void DrawLines(Plot& plot, const GroupModel& group) {
+  const AxisModel* categoryAxis = plot.CategoryAxisOf(group);
+  const AxisModel* valueAxis = plot.ValueAxisOf(group);
+  if (categoryAxis == nullptr || valueAxis == nullptr) return;
+  const AxisMap categories = AxisMap::Along(*categoryAxis, plot.area);
+  const AxisMap values = AxisMap::Along(*valueAxis, plot.area);
+  const Extents extents = StackValues(group);
+  if (group.dropLines) {
+    DrawUprights(plot, categories, values, extents, group.PointCount(), *group.dropLines, true);
+  }
+  if (group.highLowLines) {
+    DrawUprights(plot, categories, values, extents, group.PointCount(), *group.highLowLines, false);
+  }
+  for (std::size_t s = 0; s < group.series.size(); ++s) {
+    const SeriesModel& series = group.series[s];
+    std::vector<LinePoint> points;
+    for (std::size_t i = 0; i < series.values.size(); ++i) {
+      double value = extents.to[s][i];
+      if (!std::isfinite(value) && (plot.chart.blanks == "zero" || group.IsStacked())) value = 0;
+      LinePoint& point = points.emplace_back();
+      point.index = i;
+      point.present = std::isfinite(value) && (!valueAxis->logBase || value > 0);
+      if (point.present) point.place = {categories.OfCategory(static_cast<double>(i)), values.OfValue(value)};
+    }
+    DrawLineOf(plot, series, points);
+    DrawMarkersOf(plot, group, series, points);
+  }
+}
+
+void DrawScatter(Plot& plot, const GroupModel& group) {
+  const AxisModel* xAxis = plot.CategoryAxisOf(group);
+  const AxisModel* valueAxis = plot.ValueAxisOf(group);
+  if (xAxis == nullptr || valueAxis == nullptr) return;
+  const AxisMap across = AxisMap::Along(*xAxis, plot.area);
+  const AxisMap values = AxisMap::Along(*valueAxis, plot.area);
+  for (const SeriesModel& series : group.series) {
+    std::vector<LinePoint> points;
+    for (std::size_t i = 0; i < series.values.size(); ++i) {
+      LinePoint& point = points.emplace_back();
+      point.index = i;
+      point.present = i < series.x.size() && std::isfinite(series.values[i]) && std::isfinite(series.x[i]);
+      if (point.present) point.place = {across.OfValue(series.x[i]), values.OfValue(series.values[i])};
+    }
+    if (!group.markersOnly) DrawLineOf(plot, series, points);
+    DrawMarkersOf(plot, group, series, points);
+  }
+}
+
+}  // namespace plotsmith::render

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "render/Canvas.h"
+#include "render/model/ChartModel.h"
+
+namespace plotsmith::render {
+
+/// Draws a marker about a point.
+void DrawMarker(Canvas& canvas, Tag tag, const MarkerModel& marker, Point center);
+
+}  // namespace plotsmith::render

@@ -1,0 +1,140 @@
+#include <algorithm>
+#include <cmath>
+
+#include "render/families/Plot.h"
+#include "render/labels/DataLabels.h"
+#include "render/labels/LabelText.h"
+
+namespace plotsmith::render {
+namespace {
+
+constexpr double kLeastRadius = 0.3;  // of the radius without labels, that labels outside leave
+
+double ExplosionOf(const SeriesModel& series, std::size_t point) {
+  const auto special = series.points.find(point);
+  const bool own = special != series.points.end() && special->second.explosion;
+  return (own ? *special->second.explosion : series.explosion) / 100;
+}
+
+/// The slices of a series, in a circle of radius 1 about the origin.
+std::vector<DrawnPoint> SlicesOf(const GroupModel& group, const SeriesModel& series) {
+  double whole = 0;
+  for (const double value : series.values) {
+    if (std::isfinite(value)) whole += std::abs(value);
+  }
+  std::vector<DrawnPoint> slices;
+  if (!(whole > 0) || !std::isfinite(whole)) return slices;
+  double sum = 0;
+  for (std::size_t i = 0; i < series.values.size(); ++i) {
+    const double value = series.values[i];
+    if (!std::isfinite(value)) continue;
+    DrawnPoint slice{&group, &series, i};
+    slice.share = std::abs(value) / whole;
+    slice.angle = group.firstSliceAngle + 360 * sum / whole;
+    slice.sweep = 360 * slice.share;
+    slice.circle = {-1, -1, 2, 2};
+    sum += std::abs(value);
+    slices.push_back(slice);
+  }
+  return slices;
+}
+
+/// The share of a free square that is left for the circle beside labels outside.
+struct LabelRoom {
+  double width = 0, height = 0;
+};
+
+LabelRoom RoomForLabels(const Plot& plot, const std::vector<DrawnPoint>& slices, double radius) {
+  LabelRoom room;
+  for (DrawnPoint slice : slices) {
+    const LabelModel* label = slice.series->labels.Of(slice.index);
+    if (label == nullptr || label->layout) continue;
+    const TextBlock block =
+        LayOut(LabelText(plot.chart, *slice.group, *slice.series, slice.index, *label, slice.share),
+               plot.canvas.Measure());
+    const double width = block.TurnedWidth() + 2 * kLabelPadding, height = block.TurnedHeight();
+    slice.circle = {-radius, -radius, 2 * radius, 2 * radius};
+    const bool inside = label->position == "ctr" || label->position == "inEnd" ||
+                        (label->position == "bestFit" && FitsInSlice(slice, width, height));
+    if (inside) continue;
+    const Point way = OnEllipse({-1, -1, 2, 2}, slice.angle + slice.sweep / 2);
+    room.width = std::max(room.width, std::abs(way.x) * width + 2);
+    room.height = std::max(room.height, std::abs(way.y) * height + 2);
+  }
+  return room;
+}
+
+Path SliceOutline(const Rect& circle, const DrawnPoint& slice) {
+  Path path;
+  const Point center = circle.Center();
+  if (slice.sweep >= 360 - 1e-9) {
+    path.AddEllipse(circle);
+    if (slice.hole > 0) {
+      const Rect inner =
+          Inset(circle, circle.width / 2 * (1 - slice.hole), circle.height / 2 * (1 - slice.hole));
+      path.MoveTo(OnEllipse(inner, 360)).ArcTo(inner, 360, -360).Close();
+    }
+    return path;
+  }
+  if (slice.hole > 0) {
+    const Rect inner =
+        Inset(circle, circle.width / 2 * (1 - slice.hole), circle.height / 2 * (1 - slice.hole));
+    path.MoveTo(OnEllipse(circle, slice.angle)).ArcTo(circle, slice.angle, slice.sweep);
+    path.LineTo(OnEllipse(inner, slice.angle + slice.sweep))
+        .ArcTo(inner, slice.angle + slice.sweep, -slice.sweep);
+    return path.Close();
+  }
+  path.MoveTo(center).LineTo(OnEllipse(circle, slice.angle)).ArcTo(circle, slice.angle, slice.sweep);
+  return path.Close();
+}
+
+Rect CircleAbout(Point center, double radius) {
+  return {center.x - radius, center.y - radius, 2 * radius, 2 * radius};
+}
+
+void DrawSlices(Plot& plot, std::vector<DrawnPoint> slices, Point center, double radius, double hole) {
+  for (DrawnPoint& slice : slices) {
+    const SeriesModel& series = *slice.series;
+    const double shift = radius * ExplosionOf(series, slice.index);
+    slice.circle = CircleAbout(OnEllipse(CircleAbout(center, shift), slice.angle + slice.sweep / 2), radius);
+    slice.box = slice.circle;
+    slice.hole = hole;
+    if (slice.sweep > 0) {
+      const ShapeStyle& style = series.StyleOf(slice.index);
+      plot.canvas.Add({Role::kSlice, series.number, static_cast<int>(slice.index + 1)},
+                      SliceOutline(slice.circle, slice), style.fill, style.stroke);
+    }
+    plot.points.push_back(slice);
+  }
+}
+
+}  // namespace
+
+void DrawPie(Plot& plot, const GroupModel& group) {
+  const Point center = plot.area.Center();
+  const double free = std::min(plot.area.width, plot.area.height) / 2;
+  if (group.family == Family::kDoughnut) {
+    // the first series is the innermost ring
+    const double count = static_cast<double>(group.series.size());
+    const double hole = group.holeSize / 100, ring = (1 - hole) / count;
+    for (std::size_t s = 0; s < group.series.size(); ++s) {
+      const double outer = hole + ring * static_cast<double>(s + 1);
+      DrawSlices(plot, SlicesOf(group, group.series[s]), center, free * outer, (outer - ring) / outer);
+    }
+    return;
+  }
+  const SeriesModel& series = group.series.front();  // a pie shows one series
+  const std::vector<DrawnPoint> slices = SlicesOf(group, series);
+  double explosion = 0;
+  for (const DrawnPoint& slice : slices) explosion = std::max(explosion, ExplosionOf(series, slice.index));
+  double radius = free / (1 + explosion);
+  if (!plot.chart.layout) {
+    const LabelRoom room = RoomForLabels(plot, slices, radius);
+    const double across = plot.area.width / 2 - room.width, down = plot.area.height / 2 - room.height;
+    radius = std::max(std::min(across, down) / (1 + explosion), radius * kLeastRadius);
+    radius = std::min(radius, free / (1 + explosion));
+  }
+  DrawSlices(plot, slices, center, radius, 0);
+}
+
+}  // namespace plotsmith::render

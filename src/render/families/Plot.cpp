@@ -1,0 +1,59 @@
+#include "render/families/Plot.h"
+
+#include <cmath>
+#include <limits>
+
+namespace plotsmith::render {
+namespace {
+
+const AxisModel* AxisAt(const ChartModel& chart, int index) {
+  return index < 0 ? nullptr : &chart.axes[static_cast<std::size_t>(index)];
+}
+
+/// The sum of all magnitudes of a point, which is its 100 percent.
+std::vector<double> Wholes(const GroupModel& group) {
+  std::vector<double> wholes(group.PointCount());
+  for (const SeriesModel& series : group.series) {
+    for (std::size_t i = 0; i < series.values.size(); ++i) {
+      if (std::isfinite(series.values[i])) wholes[i] += std::abs(series.values[i]);
+    }
+  }
+  return wholes;
+}
+
+}  // namespace
+
+const AxisModel* Plot::CategoryAxisOf(const GroupModel& group) const { return AxisAt(chart, group.category); }
+
+const AxisModel* Plot::ValueAxisOf(const GroupModel& group) const { return AxisAt(chart, group.value); }
+
+Extents StackValues(const GroupModel& group) {
+  constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
+  Extents extents;
+  const bool percent = group.grouping == Grouping::kPercent;
+  const std::vector<double> wholes = percent ? Wholes(group) : std::vector<double>();
+  // bars below zero are stacked downwards; areas and lines are sums
+  const bool split = group.family == Family::kBar;
+  std::vector<double> above(group.PointCount()), below(group.PointCount());
+  for (const SeriesModel& series : group.series) {
+    auto& from = extents.from.emplace_back(series.values.size(), kNothing);
+    auto& to = extents.to.emplace_back(series.values.size(), kNothing);
+    for (std::size_t i = 0; i < series.values.size(); ++i) {
+      double value = series.values[i];
+      if (!std::isfinite(value)) continue;
+      if (percent) value = wholes[i] > 0 ? value / wholes[i] : 0;
+      if (!group.IsStacked()) {
+        from[i] = 0;
+        to[i] = value;
+        continue;
+      }
+      double& pile = split && value < 0 ? below[i] : above[i];
+      from[i] = pile;
+      pile += value;
+      to[i] = pile;
+    }
+  }
+  return extents;
+}
+
+}  // namespace plotsmith::render

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <vector>
+
+#include "render/Canvas.h"
+#include "render/axes/AxisMap.h"
+#include "render/model/ChartModel.h"
+
+namespace plotsmith::render {
+
+/// A point of a series as it was drawn, for its label: the rectangle of a bar or bubble, or the place of a
+/// marker with no extent.
+struct DrawnPoint {
+  const GroupModel* group = nullptr;
+  const SeriesModel* series = nullptr;
+  std::size_t index = 0;  ///< from 0
+  Rect box;
+  bool negative = false;
+  // of slices: angles in degrees clockwise from twelve o'clock, and the circle that it is of
+  double angle = 0, sweep = 0;
+  Rect circle;
+  double hole = 0;   ///< of the radius
+  double share = 0;  ///< of the whole, where there is one: what a percentage shows
+};
+
+/// The chart, the rectangle inside of its axes, and the canvas.
+struct Plot {
+  const ChartModel& chart;
+  Rect area;
+  Canvas& canvas;
+  std::vector<DrawnPoint> points = {};  ///< filled by the families
+
+  const AxisModel* CategoryAxisOf(const GroupModel& group) const;
+  const AxisModel* ValueAxisOf(const GroupModel& group) const;
+};
+
+/// Lower and upper end of each value of a group's series, stacked or in percent as the group says:
+/// [series][point]. NaN where a point has no value.
+struct Extents {
+  std::vector<std::vector<double>> from, to;
+};
+Extents StackValues(const GroupModel& group);
+
+// One function for each family draws the series of a group.
+void DrawBars(Plot& plot, const GroupModel& group);
+void DrawAreas(Plot& plot, const GroupModel& group);
+/// Lines of a line chart; those of a stock chart with the bars from low to high.
+void DrawLines(Plot& plot, const GroupModel& group);
+void DrawScatter(Plot& plot, const GroupModel& group);
+void DrawBubbles(Plot& plot, const GroupModel& group);
+/// A pie or a doughnut in the middle of the plot area, from which labels outside take their room.
+void DrawPie(Plot& plot, const GroupModel& group);
+
+}  // namespace plotsmith::render

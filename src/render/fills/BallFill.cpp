@@ -1,0 +1,34 @@
+#include "render/fills/BallFill.h"
+
+#include <cmath>
+
+#include "render/threed/Shading.h"
+
+namespace plotsmith::render {
+namespace {
+
+constexpr double kHighlight = 0.65;  // of the way to white, where the light falls
+constexpr double kShadow = 0.6;      // of the colour, at the edge that is turned away
+
+Color Towards(const Color& color, std::uint8_t level, double share) {
+  const auto channel = [&](std::uint8_t value) {
+    return static_cast<std::uint8_t>(std::lround(value + (level - value) * share));
+  };
+  return {channel(color.red), channel(color.green), channel(color.blue), color.alpha};
+}
+
+}  // namespace
+
+Fill AsBall(const Fill& fill) {
+  const auto* solid = std::get_if<SolidFill>(&fill);
+  if (solid == nullptr) return fill;
+  GradientFill ball;
+  ball.radial = true;
+  ball.focus = {0.35, 0.3};
+  // the farthest point of the circle is at three quarters of the way to the farthest corner
+  ball.stops = {
+      {0, Towards(solid->color, 255, kHighlight)}, {0.3, solid->color}, {0.8, Lit(solid->color, kShadow)}};
+  return ball;
+}
+
+}  // namespace plotsmith::render

@@ -1,0 +1,249 @@
+#include "render/layout/ChartLayout.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "render/axes/AxisPlace.h"
+#include "xlsx/chart/AutomaticLayout.h"
+
+namespace plotsmith::render {
+
+using xlsx::Edges;
+using xlsx::kChartInset;
+using xlsx::kLabelGap;
+using xlsx::kLeastShare;
+using xlsx::kTitleGap;
+using xlsx::kTitlePadding;
+using xlsx::kTitleShare;
+
+namespace {
+
+constexpr double kDeepestLabels = 0.4;  // of the chart that the labels of one axis may take
+constexpr double kEdgeMargin = 2;       // that labels keep to the chart's edge
+
+double& RoomAt(Edges& edges, Side side) {
+  switch (side) {
+    case Side::kLeft:
+      return edges.left;
+    case Side::kRight:
+      return edges.right;
+    case Side::kTop:
+      return edges.top;
+    case Side::kBottom:
+      break;
+  }
+  return edges.bottom;
+}
+
+Rect Without(const Rect& rect, const Edges& edges) {
+  return {rect.left + edges.left, rect.top + edges.top, rect.width - edges.left - edges.right,
+          rect.height - edges.top - edges.bottom};
+}
+
+/// A rectangle that keeps a least share of the chart, whatever was taken from it.
+Rect KeepLeast(Rect rect, const Rect& bounds) {
+  const double width = kLeastShare * bounds.width, height = kLeastShare * bounds.height;
+  if (rect.width < width) {
+    rect.left = std::min(rect.left, bounds.Right() - width);
+    rect.width = width;
+  }
+  if (rect.height < height) {
+    rect.top = std::min(rect.top, bounds.Bottom() - height);
+    rect.height = height;
+  }
+  return rect;
+}
+
+/// A layout by hand over the automatic place.
+Rect Applied(const ManualLayout& layout, const Rect& bounds, Rect rect) {
+  const auto apply = [](std::optional<double> place, bool isEdge, std::optional<double> extent,
+                        bool extentIsEdge, double whole, double& from, double& length) {
+    if (place) from = isEdge ? *place * whole : from + *place * whole;
+    if (extent) length = extentIsEdge ? *extent * whole - from : *extent * whole;
+  };
+  apply(layout.x, layout.xIsEdge, layout.width, layout.widthIsEdge, bounds.width, rect.left, rect.width);
+  apply(layout.y, layout.yIsEdge, layout.height, layout.heightIsEdge, bounds.height, rect.top, rect.height);
+  return rect;
+}
+
+/// A title whose box is centred on a point, or where its layout says.
+PlacedTitle PlaceTitle(const TitleModel& title, TextBlock block, Point center, const Rect& bounds) {
+  PlacedTitle placed;
+  const double width = block.TurnedWidth() + kTitlePadding, height = block.TurnedHeight() + kTitlePadding;
+  placed.box = {center.x - width / 2, center.y - height / 2, width, height};
+  placed.block = std::move(block);
+  if (title.layout) {
+    ManualLayout place = *title.layout;
+    place.width.reset();  // the size of a title is that of its text
+    place.height.reset();
+    placed.box = Applied(place, bounds, placed.box);
+  }
+  const auto keep = [](double from, double extent, double whole) {
+    return std::max(std::min(from, whole - extent), 0.0);
+  };
+  placed.box.left = keep(placed.box.left, width, bounds.width);
+  placed.box.top = keep(placed.box.top, height, bounds.height);
+  return placed;
+}
+
+class Layouter {
+ public:
+  Layouter(ChartModel& chart, const Rect& bounds, const TextMeasure& measure)
+      : chart_(chart), bounds_(bounds), measure_(measure) {}
+
+  ChartLayout Run() {
+    layout_.axes.resize(chart_.axes.size());
+    free_ = Inset(bounds_, kChartInset, kChartInset);
+    SetTitle();
+    if (chart_.legend && !chart_.legend->entries.empty()) {
+      layout_.legend = LayOutLegend(chart_, bounds_, free_, measure_);
+    }
+    MeasureAxisTitles();
+    SetPlot();
+    PlaceAxisTitles();
+    return std::move(layout_);
+  }
+
+ private:
+  void SetTitle() {
+    if (!chart_.title || chart_.title->text.IsEmpty()) return;
+    TextBlock block = LayOut(chart_.title->text, measure_, bounds_.width * kTitleShare);
+    const double height = block.TurnedHeight() + kTitlePadding;
+    layout_.title = PlaceTitle(*chart_.title, std::move(block),
+                               {bounds_.Center().x, bounds_.top + kChartInset + height / 2}, bounds_);
+    if (chart_.title->overlay) return;
+    const double taken = std::min(height + kTitleGap, free_.height * 0.8);
+    free_.top += taken;
+    free_.height -= taken;
+  }
+
+  /// The texts beside an axis, and the room that they ask for.
+  void MeasureAxisTitles() {
+    for (std::size_t i = 0; i < chart_.axes.size(); ++i) {
+      const AxisModel& axis = chart_.axes[i];
+      if (axis.hidden) continue;
+      AddAxisTitle(axis, axis.title, layout_.axes[i].title);
+      AddAxisTitle(axis, axis.units.label, layout_.axes[i].units);
+    }
+  }
+
+  void AddAxisTitle(const AxisModel& axis, const std::optional<TitleModel>& title,
+                    std::optional<PlacedTitle>& placed) {
+    if (!title || title->text.IsEmpty()) return;
+    RichText text = title->text;
+    if (!text.rotation && axis.IsUpright()) text.rotation = -90;
+    placed.emplace();
+    placed->block = LayOut(text, measure_, (axis.IsUpright() ? bounds_.height : bounds_.width) * kTitleShare);
+    if (title->overlay) return;
+    RoomAt(titles_, PlaceOf(chart_, axis, free_).labelSide) +=
+        (axis.IsUpright() ? placed->block.TurnedWidth() : placed->block.TurnedHeight()) + kTitlePadding;
+  }
+
+  void SetPlot() {
+    layout_.outer = KeepLeast(Without(free_, titles_), bounds_);
+    layout_.plot = layout_.outer;
+    const bool inner = chart_.layout && chart_.layout->inner;
+    if (chart_.layout && !inner) {
+      layout_.outer = KeepLeast(Applied(*chart_.layout, bounds_, layout_.outer), bounds_);
+    }
+    // the labels decide about the plot area, and its size about the labels
+    for (int pass = 0; pass < 3; ++pass) {
+      layout_.plot = KeepLeast(Without(layout_.outer, rooms_), bounds_);
+      if (inner) layout_.plot = KeepLeast(Applied(*chart_.layout, bounds_, layout_.plot), bounds_);
+      SetTickLabels();
+    }
+    if (inner) {
+      layout_.outer = {layout_.plot.left - rooms_.left, layout_.plot.top - rooms_.top,
+                       layout_.plot.width + rooms_.left + rooms_.right,
+                       layout_.plot.height + rooms_.top + rooms_.bottom};
+    }
+  }
+
+  void SetTickLabels() {
+    rooms_ = {};
+    Edges overhang;
+    for (std::size_t i = 0; i < chart_.axes.size(); ++i) {
+      AxisModel& axis = chart_.axes[i];
+      const double length = axis.IsUpright() ? layout_.plot.height : layout_.plot.width;
+      const double depth = kDeepestLabels * (axis.IsUpright() ? bounds_.width : bounds_.height);
+      FitMajorUnit(axis, length, chart_.dates, measure_);
+      TickLabels& labels = layout_.axes[i].labels;
+      labels = LayOutTickLabels(axis, length, depth, chart_.dates, measure_);
+      if (labels.IsEmpty()) continue;
+      const AxisPlace place = PlaceOf(chart_, axis, layout_.plot);
+      const double inside = std::abs(place.labelsAt - EdgeOf(layout_.plot, place.labelSide));
+      double& room = RoomAt(rooms_, place.labelSide);
+      room = std::max(room, labels.depth + kLabelGap - inside);
+      AddOverhang(axis, labels, length, overhang);
+    }
+    // what sticks out at the ends of an axis may use the inset, but not leave the chart
+    const auto widen = [](double& room, double wanted, double available) {
+      room = std::max(room, wanted - std::max(available - kEdgeMargin, 0.0));
+    };
+    widen(rooms_.left, overhang.left, layout_.outer.left - bounds_.left);
+    widen(rooms_.right, overhang.right, bounds_.Right() - layout_.outer.Right());
+    widen(rooms_.top, overhang.top, layout_.outer.top - bounds_.top);
+    widen(rooms_.bottom, overhang.bottom, bounds_.Bottom() - layout_.outer.Bottom());
+  }
+
+  void AddOverhang(const AxisModel& axis, const TickLabels& labels, double length, Edges& overhang) const {
+    const AxisMap map(axis, 0, length);
+    double before = 0, behind = 0;
+    for (const TickLabel* label : {&labels.labels.front(), &labels.labels.back()}) {
+      const double place = label->category ? map.OfSlot(label->place) : map.OfValue(label->place);
+      const double turn = std::sin(labels.rotation * std::numbers::pi / 180);
+      const bool slanted = !axis.IsUpright() && std::abs(turn) > 0.05 && std::abs(turn) < 0.99;
+      const double along = axis.IsUpright() ? label->block.TurnedHeight() : label->block.TurnedWidth();
+      const double start = slanted ? (turn < 0 ? along : 0) : along / 2;
+      before = std::max(before, start - place);
+      behind = std::max(behind, along - start - (length - place));
+    }
+    // upright axes begin at the bottom
+    double& first = axis.IsUpright() ? overhang.bottom : overhang.left;
+    double& second = axis.IsUpright() ? overhang.top : overhang.right;
+    first = std::max(first, before);
+    second = std::max(second, behind);
+  }
+
+  void PlaceAxisTitles() {
+    Edges used = rooms_;
+    for (std::size_t i = 0; i < chart_.axes.size(); ++i) {
+      const AxisModel& axis = chart_.axes[i];
+      const Side side = PlaceOf(chart_, axis, layout_.plot).labelSide;
+      if (auto& units = layout_.axes[i].units) PlaceBeside(axis, *axis.units.label, side, true, used, *units);
+      if (auto& title = layout_.axes[i].title) PlaceBeside(axis, *axis.title, side, false, used, *title);
+    }
+  }
+
+  /// Puts a title outside of the labels of its axis: at its middle, or at its end.
+  void PlaceBeside(const AxisModel& axis, const TitleModel& title, Side side, bool atEnd, Edges& used,
+                   PlacedTitle& placed) {
+    const Rect& plot = layout_.plot;
+    double& room = RoomAt(used, side);
+    const double depth =
+        (axis.IsUpright() ? placed.block.TurnedWidth() : placed.block.TurnedHeight()) + kTitlePadding;
+    const bool back = side == Side::kLeft || side == Side::kTop;
+    const double across = EdgeOf(plot, side) + (back ? -1 : 1) * (room + depth / 2);
+    Point center = axis.IsUpright() ? Point{across, plot.Center().y} : Point{plot.Center().x, across};
+    if (atEnd && axis.IsUpright()) center.y = plot.top + placed.block.TurnedHeight() / 2;
+    if (atEnd && !axis.IsUpright()) center.x = plot.Right() - placed.block.TurnedWidth() / 2;
+    room += depth;
+    placed = PlaceTitle(title, std::move(placed.block), center, bounds_);
+  }
+
+  ChartModel& chart_;
+  const Rect bounds_;
+  const TextMeasure& measure_;
+  ChartLayout layout_;
+  Rect free_;
+  Edges titles_, rooms_;
+};
+
+}  // namespace
+
+ChartLayout LayOutChart(ChartModel& chart, const Rect& bounds, const TextMeasure& measure) {
+  return Layouter(chart, bounds, measure).Run();
+}
+
+}  // namespace plotsmith::render

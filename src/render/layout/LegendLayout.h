@@ -1,0 +1,32 @@
+#pragma once
+
+#include <vector>
+
+#include "render/layout/TextBlock.h"
+#include "render/model/ChartModel.h"
+
+namespace plotsmith::render {
+
+/// Where an entry lies, from the legend's corner.
+struct PlacedEntry {
+  const LegendEntry* entry = nullptr;
+  Rect key;
+  TextBlock text;
+  Point textCenter;
+};
+
+struct LegendLayout {
+  Rect box;
+  std::vector<PlacedEntry> entries;  ///< those for which there is room
+};
+
+/// Lays a legend out in what title and insets leave of the chart. `free` loses the room that it takes.
+LegendLayout LayOutLegend(const ChartModel& chart, const Rect& bounds, Rect& free,
+                          const TextMeasure& measure);
+/// Draws the frame, the keys and the texts.
+void DrawLegend(Canvas& canvas, const ChartModel& chart, const LegendLayout& layout);
+
+/// The sign for a series in a rectangle: a piece of its filling, or of its line with a marker.
+void DrawKey(Canvas& canvas, const ChartModel& chart, Tag tag, const Rect& box);
+
+}  // namespace plotsmith::render

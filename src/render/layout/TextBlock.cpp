@@ -1,0 +1,174 @@
+#include "render/layout/TextBlock.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <utility>
+
+#include "runtime/Strings.h"
+
+namespace plotsmith::render {
+namespace {
+
+constexpr double kRadian = std::numbers::pi / 180;
+constexpr std::size_t kMostLines = 200;  // more don't fit on any chart
+
+/// A piece of a run up to the next place where a line may break; blanks stay behind it.
+struct Word {
+  TextRun run;
+  double width = 0, trimmed = 0;  ///< with and without the blanks at its end
+};
+
+std::vector<Word> WordsOf(const std::vector<TextRun>& runs, const TextMeasure& measure) {
+  std::vector<Word> words;
+  for (const TextRun& run : runs) {
+    for (std::size_t from = 0; from < run.text.size();) {
+      std::size_t end = run.text.find(' ', from);
+      end = end == std::string::npos ? run.text.size() : run.text.find_first_not_of(' ', end);
+      if (end == std::string::npos) end = run.text.size();
+      Word& word = words.emplace_back();
+      word.run = {run.text.substr(from, end - from), run.font, run.color};
+      word.width = measure.Measure(word.run.text, run.font).width;
+      const auto last = word.run.text.find_last_not_of(' ');
+      word.trimmed = last + 1 == word.run.text.size()
+                         ? word.width
+                         : measure.Measure(word.run.text.substr(0, last + 1), run.font).width;
+      from = end;
+    }
+  }
+  return words;
+}
+
+/// Joins neighbours of the same look and measures the line.
+TextLine Finished(std::vector<TextRun> runs, const TextMeasure& measure) {
+  TextLine line;
+  for (TextRun& run : runs) {
+    const bool same =
+        !line.runs.empty() && line.runs.back().font == run.font && line.runs.back().color == run.color;
+    if (same) {
+      line.runs.back().text += run.text;
+    } else {
+      line.runs.push_back(std::move(run));
+    }
+  }
+  if (!line.runs.empty()) {
+    std::string& last = line.runs.back().text;
+    last.erase(last.find_last_not_of(' ') + 1);
+  }
+  for (const TextRun& run : line.runs) {
+    const TextExtent extent = measure.Measure(run.text, run.font);
+    line.widths.push_back(extent.width);
+    line.width += extent.width;
+    line.ascent = std::max(line.ascent, extent.ascent);
+    line.descent = std::max(line.descent, extent.descent);
+  }
+  return line;
+}
+
+void AddParagraph(const std::vector<TextRun>& runs, const TextMeasure& measure, double width,
+                  TextBlock& block) {
+  if (width == kUnlimited) {
+    block.lines.push_back(Finished(runs, measure));
+    return;
+  }
+  std::vector<TextRun> line;
+  double taken = 0;
+  for (Word& word : WordsOf(runs, measure)) {
+    if (!line.empty() && taken + word.trimmed > width) {
+      block.lines.push_back(Finished(std::exchange(line, {}), measure));
+      taken = 0;
+      if (block.lines.size() > kMostLines) return;
+    }
+    taken += word.width;
+    line.push_back(std::move(word.run));
+  }
+  block.lines.push_back(Finished(std::move(line), measure));
+}
+
+/// One letter below the other.
+RichText Stacked(const RichText& text) {
+  RichText stacked;
+  for (const auto& runs : text.paragraphs) {
+    for (const TextRun& run : runs) {
+      for (std::size_t from = 0; from < run.text.size() && stacked.paragraphs.size() < kMostLines;) {
+        std::size_t end = from + 1;
+        while (end < run.text.size() && (static_cast<unsigned char>(run.text[end]) & 0xC0) == 0x80) ++end;
+        stacked.paragraphs.push_back({{run.text.substr(from, end - from), run.font, run.color}});
+        from = end;
+      }
+    }
+  }
+  return stacked;
+}
+
+}  // namespace
+
+double TextBlock::TurnedWidth() const {
+  return width * std::abs(std::cos(rotation * kRadian)) + height * std::abs(std::sin(rotation * kRadian));
+}
+
+double TextBlock::TurnedHeight() const {
+  return width * std::abs(std::sin(rotation * kRadian)) + height * std::abs(std::cos(rotation * kRadian));
+}
+
+TextBlock LayOut(const RichText& text, const TextMeasure& measure, double width) {
+  if (text.stacked) return LayOut(Stacked(text), measure);
+  TextBlock block;
+  block.rotation = text.rotation.value_or(0);
+  for (const auto& runs : text.paragraphs) {
+    if (block.lines.size() > kMostLines) break;
+    AddParagraph(runs, measure, width, block);
+  }
+  for (const TextLine& line : block.lines) {
+    block.width = std::max(block.width, line.width);
+    block.height += line.Height();
+  }
+  return block;
+}
+
+TextBlock LayOut(const std::string& text, const TextStyle& style, const TextMeasure& measure, double width) {
+  return LayOut(Plain(text, style), measure, width);
+}
+
+RichText Plain(const std::string& text, const TextStyle& style) {
+  RichText rich;
+  rich.rotation = style.rotation;
+  rich.stacked = style.stacked;
+  for (std::size_t from = 0;;) {
+    const auto end = text.find('\n', from);
+    rich.paragraphs.push_back({{text.substr(from, end - from), style.font, style.color}});
+    if (end == std::string::npos) return rich;
+    from = end + 1;
+  }
+}
+
+void DrawBlock(Canvas& canvas, Tag tag, const TextBlock& block, Point center, TextAlign align) {
+  const double cosine = std::cos(block.rotation * kRadian), sine = std::sin(block.rotation * kRadian);
+  double y = -block.height / 2;
+  for (const TextLine& line : block.lines) {
+    const double free = block.width - line.width;
+    double x = -block.width / 2 + (align == TextAlign::kStart    ? 0
+                                   : align == TextAlign::kMiddle ? free / 2
+                                                                 : free);
+    y += line.ascent;
+    // of a line of one run, the anchor is where a viewer with other fonts had better keep it
+    const bool single = line.runs.size() == 1;
+    const double shift = !single || align == TextAlign::kStart ? 0
+                         : align == TextAlign::kMiddle         ? line.width / 2
+                                                               : line.width;
+    for (std::size_t i = 0; i < line.runs.size(); ++i) {
+      const double at = x + shift;
+      TextItem item{line.runs[i].text,
+                    line.runs[i].font,
+                    line.runs[i].color,
+                    {center.x + at * cosine - y * sine, center.y + at * sine + y * cosine}};
+      item.align = single ? align : TextAlign::kStart;
+      item.rotation = block.rotation;
+      canvas.AddText(tag, std::move(item));
+      x += line.widths[i];
+    }
+    y += line.descent;
+  }
+}
+
+}  // namespace plotsmith::render

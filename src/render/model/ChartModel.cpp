@@ -1,0 +1,62 @@
+#include "render/model/ChartModel.h"
+
+#include <algorithm>
+
+namespace plotsmith::render {
+
+bool RichText::IsEmpty() const {
+  return std::all_of(paragraphs.begin(), paragraphs.end(), [](const auto& runs) {
+    return std::all_of(runs.begin(), runs.end(), [](const TextRun& run) { return run.text.empty(); });
+  });
+}
+
+bool LabelModel::ShowsAnything() const {
+  return showsValue || showsPercent || showsCategory || showsSeries || showsBubbleSize || !own.IsEmpty();
+}
+
+const LabelModel* LabelsModel::Of(std::size_t point) const {
+  if (deleted.contains(point)) return nullptr;
+  const auto special = points.find(point);
+  const LabelModel& label = special == points.end() ? common : special->second;
+  return label.ShowsAnything() ? &label : nullptr;
+}
+
+const ShapeStyle& SeriesModel::StyleOf(std::size_t point) const {
+  const auto special = points.find(point);
+  return special == points.end() ? style : special->second.style;
+}
+
+const MarkerModel& SeriesModel::MarkerOf(std::size_t point) const {
+  const auto special = points.find(point);
+  return special == points.end() || !special->second.marker ? marker : *special->second.marker;
+}
+
+std::size_t GroupModel::PointCount() const {
+  std::size_t count = 0;
+  for (const SeriesModel& one : series) count = std::max(count, one.values.size());
+  return count;
+}
+
+bool ChartModel::Is3D() const {
+  return std::any_of(groups.begin(), groups.end(), [](const GroupModel& group) { return group.is3D; });
+}
+
+const GroupModel* ChartModel::GroupOfSeries(int number) const {
+  for (const GroupModel& group : groups) {
+    for (const SeriesModel& one : group.series) {
+      if (one.number == number) return &group;
+    }
+  }
+  return nullptr;
+}
+
+const SeriesModel* ChartModel::FindSeries(int number) const {
+  for (const GroupModel& group : groups) {
+    for (const SeriesModel& one : group.series) {
+      if (one.number == number) return &one;
+    }
+  }
+  return nullptr;
+}
+
+}  // namespace plotsmith::render

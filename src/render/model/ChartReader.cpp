@@ -1,0 +1,145 @@
+#include "render/model/ChartReader.h"
+
+#include <algorithm>
+
+#include "xlsx/Workbook.h"
+#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/ChartText.h"
+#include "xlsx/chart/GroupAxes.h"
+#include "xlsx/chart/LegendEntries.h"
+#include "xlsx/chart/PlotGroups.h"
+#include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::render {
+
+namespace schema = xlsx::schema;
+namespace xml = xlsx::xml;
+
+namespace {
+
+std::vector<AxisModel> ReadAxes(ReadingContext& context, pugi::xml_node plotArea) {
+  constexpr std::size_t kMostAxes = 16;  // Excel has four, and a fifth in depth
+  std::vector<AxisModel> axes;
+  for (const pugi::xml_node& node : plotArea.children()) {
+    if (!schema::IsAxis(node) || axes.size() == kMostAxes) continue;
+    axes.push_back(ReadAxis(context, node));
+    axes.back().number = static_cast<int>(axes.size());
+  }
+  return axes;
+}
+
+int IndexOf(const std::vector<AxisModel>& axes, pugi::xml_node node) {
+  const auto found = std::find_if(axes.begin(), axes.end(),
+                                  [&](const AxisModel& axis) { return node && axis.node == node; });
+  return found == axes.end() ? -1 : static_cast<int>(found - axes.begin());
+}
+
+/// Two axes that a file has on the same side, or on opposite ones, are laid across each other.
+void LayAcross(const GroupModel& group, AxisModel& category, AxisModel& value) {
+  if (category.IsUpright() != value.IsUpright()) return;
+  category.side = group.horizontal ? Side::kLeft : Side::kBottom;
+  value.side = group.horizontal ? Side::kBottom : Side::kLeft;
+}
+
+/// Ties a group to its axes, and gives those what they have of the group.
+void Attach(ReadingContext& context, GroupModel& group, std::vector<AxisModel>& axes) {
+  const xlsx::AxisRoles roles = xlsx::RolesOf(xlsx::AxesOf(group.node));
+  group.category = IndexOf(axes, group.HasXValues() ? roles.x : roles.category);
+  group.value = IndexOf(axes, roles.value);
+  group.depth = IndexOf(axes, roles.depth);
+  const auto axisAt = [&](int index) { return index < 0 ? nullptr : &axes[static_cast<std::size_t>(index)]; };
+  if (AxisModel* category = axisAt(group.category)) {
+    if (category->categories.size() < group.categories.size()) category->categories = group.categories;
+    const std::string fallback(xlsx::CrossBetween(xml::LocalName(group.node)));
+    category->crossesBetween = schema::Val(roles.value, "crossBetween", fallback) == "between";
+    if (category->kind == AxisKind::kDate && !category->dates) {
+      ReadDates(context, xml::Child(group.series.front().node, "cat"), *category);
+    }
+    if (!category->format && category->IsOfValues()) {
+      const auto x = xml::Child(group.series.front().node, "xVal");
+      category->format = context.Format(xml::Text(xml::Child(x, "numRef", "numCache", "formatCode")));
+    }
+  }
+  AxisModel* value = axisAt(group.value);
+  if (value != nullptr && group.category >= 0) LayAcross(group, *axisAt(group.category), *value);
+  if (value != nullptr && !value->format) {
+    value->format =
+        group.grouping == Grouping::kPercent ? context.Format("0%") : group.series.front().valueFormat;
+  }
+}
+
+void ReadGroups(ReadingContext& context, ChartModel& chart) {
+  std::map<pugi::xml_node, int> numbers;
+  int number = 0;
+  for (const xlsx::SeriesRef& series : context.part.Series()) numbers[series->node] = ++number;
+  for (const pugi::xml_node& node : xlsx::DrawnGroups(context.part)) {
+    if (!IsKnownGroup(node)) {
+      context.notes.push_back(
+          "The chart has a group of a kind that isn't drawn: " + std::string(xml::LocalName(node)) + ".");
+      continue;
+    }
+    GroupModel group = ReadGroup(context, node, numbers);
+    if (group.series.empty()) continue;
+    Attach(context, group, chart.axes);
+    chart.groups.push_back(std::move(group));
+  }
+}
+
+}  // namespace
+
+FormatPointer ReadingContext::Format(const std::string& code) {
+  FormatPointer& format = formats[code];
+  if (!format) format = xlsx::NumberFormat::Parse(code);
+  if (!format) format = xlsx::NumberFormat::Parse("General");
+  return format;
+}
+
+std::optional<LegendModel> ReadLegend(ReadingContext& context) {
+  const auto node = xml::Child(context.part.Space(), "chart", "legend");
+  if (!node) return std::nullopt;
+  LegendModel legend;
+  legend.position = schema::Val(node, "legendPos", "r");
+  legend.overlay = schema::BooleanVal(node, "overlay", false);
+  legend.layout = ReadLayout(node);
+  legend.style = ReadStyle(context.part, xml::Child(node, "spPr"), {});
+  legend.text = ReadTextStyle(context.part, node, xlsx::TextRole::kOther);
+  constexpr std::size_t kMostEntries = 2000;
+  for (const xlsx::LegendLine& line : xlsx::LegendLines(context.part)) {
+    if (legend.entries.size() == kMostEntries) break;
+    LegendEntry entry{line.text, legend.text, static_cast<int>(line.series + 1),
+                      line.point ? static_cast<int>(*line.point + 1) : 0};
+    const auto own = schema::FindNumbered(node, "legendEntry", static_cast<long long>(line.number));
+    if (xml::Child(own, "txPr")) entry.style = ReadTextStyle(context.part, own, xlsx::TextRole::kOther);
+    legend.entries.push_back(std::move(entry));
+  }
+  return legend;
+}
+
+ChartModel ReadChart(xlsx::ChartPart& part, Notes& notes) {
+  ReadingContext context(part, notes);
+  const auto space = part.Space();
+  const auto node = xml::Child(space, "chart");
+  const auto plotArea = xml::Child(node, "plotArea");
+  ChartModel chart;
+  chart.dates = part.Book().Dates();
+  chart.chartArea = ReadStyle(part, xml::Child(space, "spPr"), context.styles.ChartArea());
+  chart.roundedCorners = schema::BooleanVal(space, "roundedCorners", false);
+  chart.blanks = schema::Val(node, "dispBlanksAs", "zero");
+  chart.layout = ReadLayout(plotArea);
+  chart.axes = ReadAxes(context, plotArea);
+  ReadGroups(context, chart);
+  for (AxisModel& axis : chart.axes) {
+    axis.crossed = IndexOf(chart.axes, xlsx::FindCrossedAxis(axis.node));
+    if (!axis.format) axis.format = context.Format("General");
+  }
+  chart.plotArea = ReadStyle(part, xml::Child(plotArea, "spPr"), context.styles.PlotArea(chart.Is3D()));
+  if (const auto title = xlsx::ShownTitle(part)) {
+    chart.title = ReadTitle(context, xml::Child(node, "title"), xlsx::TextRole::kChartTitle, *title);
+  }
+  chart.legend = ReadLegend(context);
+  ScaleAxes(chart);
+  return chart;
+}
+
+}  // namespace plotsmith::render

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "render/ChartDrawing.h"
+#include "render/model/ChartModel.h"
+#include "render/model/StyleReader.h"
+
+namespace plotsmith::render {
+
+/// Points of one series, and of all series of a chart, that are drawn. Excel's own limits were 32,000 and
+/// 256,000 for long. Numbers and texts count alike.
+inline constexpr std::size_t kMostPoints = 100'000, kMostPointsOfAll = 2'000'000;
+
+/// What the readers of a chart's parts share.
+struct ReadingContext {
+  xlsx::ChartPart& part;
+  Notes& notes;
+  AutomaticStyles styles;
+  std::map<std::string, FormatPointer> formats = {};
+  std::size_t pointsLeft = kMostPointsOfAll;
+
+  ReadingContext(xlsx::ChartPart& chart, Notes& sentences) : part(chart), notes(sentences), styles(chart) {}
+  /// The format of a code; General for a code that Excel refuses.
+  FormatPointer Format(const std::string& code);
+};
+
+/// Reads all of a chart that is drawn. Error 1004 for one that can't be read.
+ChartModel ReadChart(xlsx::ChartPart& part, Notes& notes);
+
+// The parts of it.
+
+/// A plot group (c:barChart and the like) with its series; its axes are left open. `numbers` has the places
+/// of the series in plot order, from 1.
+GroupModel ReadGroup(ReadingContext& context, pugi::xml_node group,
+                     const std::map<pugi::xml_node, int>& numbers);
+/// Whether the element is a group of a kind that is known.
+bool IsKnownGroup(pugi::xml_node group);
+/// The labels of a series; `position` is where those stand that don't say it.
+LabelsModel ReadLabels(ReadingContext& context, pugi::xml_node series, const std::string& position);
+/// An axis but for its scale and its categories.
+AxisModel ReadAxis(ReadingContext& context, pugi::xml_node axis);
+/// A title element; `automatic` is its text where it has none of its own.
+TitleModel ReadTitle(ReadingContext& context, pugi::xml_node title, xlsx::TextRole role,
+                     const std::string& automatic);
+std::optional<LegendModel> ReadLegend(ReadingContext& context);
+/// Lays the categories of an axis of dates (c:cat) out by their dates; leaves it as one of categories where
+/// they are none.
+void ReadDates(ReadingContext& context, pugi::xml_node categories, AxisModel& axis);
+/// Scales the axes of values by the data of their groups.
+void ScaleAxes(ChartModel& chart);
+/// Gives an axis the next larger major unit of 1, 2, 5, 10, ...
+void CoarsenScale(AxisModel& axis);
+
+/// The numbers of a series' data (c:val, c:xVal, ...), one for each point, NaN where there is none.
+std::vector<double> ReadNumbers(ReadingContext& context, pugi::xml_node data);
+/// The texts of the categories, one for each point.
+std::vector<std::string> ReadCategories(ReadingContext& context, pugi::xml_node data);
+
+}  // namespace plotsmith::render

@@ -1,0 +1,138 @@
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+#include "render/model/ChartReader.h"
+#include "xlsx/Workbook.h"
+#include "xlsx/Worksheet.h"
+#include "xlsx/chart/ChartCache.h"
+#include "xlsx/chart/ChartPart.h"
+#include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/package/Xml.h"
+#include "xlsx/sheet/Reference.h"
+
+namespace plotsmith::render {
+
+namespace schema = xlsx::schema;
+namespace xml = xlsx::xml;
+using excel::CellValue;
+
+namespace {
+
+constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
+
+/// The points that may be read of a cache that claims so many.
+std::size_t Admitted(ReadingContext& context, long long claimed) {
+  const auto wanted = static_cast<std::size_t>(std::max(claimed, 0LL));
+  const std::size_t count = std::min({wanted, kMostPoints, context.pointsLeft});
+  context.pointsLeft -= count;
+  if (count < wanted) {
+    const std::string sentence = "The chart has more points than are drawn; the rest is left out.";
+    if (std::find(context.notes.begin(), context.notes.end(), sentence) == context.notes.end()) {
+      context.notes.push_back(sentence);
+    }
+  }
+  return count;
+}
+
+/// The cells that a reference without a cache points at.
+struct Cells {
+  std::shared_ptr<xlsx::Worksheet> sheet;
+  xlsx::CellRange range;
+
+  template <class Visit>
+  void ForEach(std::size_t count, const Visit& visit) const {
+    std::size_t index = 0;
+    for (std::int32_t row = range.row1; row <= range.row2; ++row) {
+      for (std::int32_t column = range.column1; column <= range.column2; ++column) {
+        if (index == count) return;
+        visit(index++, row, column);
+      }
+    }
+  }
+};
+
+std::optional<Cells> CellsOf(ReadingContext& context, pugi::xml_node reference) {
+  const auto formula = xml::Child(reference, "f");
+  if (!formula) return std::nullopt;
+  const auto range = xlsx::ParseSheetRange(xml::Text(formula));
+  auto sheet = range ? context.part.Book().FindWorksheet(range->sheet) : nullptr;
+  if (!sheet) return std::nullopt;
+  return Cells{std::move(sheet), range->range};
+}
+
+std::vector<double> NumbersOfCells(ReadingContext& context, const Cells& cells) {
+  std::vector<double> numbers(Admitted(context, cells.range.CellCount()), kNothing);
+  cells.ForEach(numbers.size(), [&](std::size_t index, std::int32_t row, std::int32_t column) {
+    const CellValue value = cells.sheet->Stored(row, column);
+    const bool number = value.kind == CellValue::Kind::kNumber || value.kind == CellValue::Kind::kDate;
+    if (number) {
+      numbers[index] = value.number;
+    } else if (value.kind == CellValue::Kind::kText) {
+      numbers[index] = 0;  // a text among numbers is drawn as 0
+    }
+  });
+  return numbers;
+}
+
+}  // namespace
+
+std::vector<double> ReadNumbers(ReadingContext& context, pugi::xml_node data) {
+  const auto literal = xml::Child(data, "numLit");
+  const auto reference = xml::Child(data, "numRef");
+  const auto cache = literal ? literal : xml::Child(reference, "numCache");
+  if (!cache) {
+    const auto cells = CellsOf(context, reference);
+    return cells ? NumbersOfCells(context, *cells) : std::vector<double>();
+  }
+  std::vector<double> numbers(Admitted(context, schema::IntegerVal(cache, "ptCount", 0)), kNothing);
+  for (const pugi::xml_node& point : cache.children()) {
+    if (!xml::Is(point, "pt")) continue;
+    const auto index = static_cast<unsigned long long>(xml::IntegerAttribute(point, "idx", -1));
+    if (index >= numbers.size()) continue;
+    const auto number = xml::ParseDouble(xlsx::CachedText(point));
+    if (number && std::isfinite(*number)) numbers[index] = *number;
+  }
+  return numbers;
+}
+
+std::vector<std::string> ReadCategories(ReadingContext& context, pugi::xml_node data) {
+  const auto source =
+      data.find_child([](pugi::xml_node child) { return child.type() == pugi::node_element; });
+  const bool literal = xml::Is(source, "strLit") || xml::Is(source, "numLit");
+  pugi::xml_node cache = literal ? source : pugi::xml_node();
+  for (const char* name : {"strCache", "numCache", "multiLvlStrCache"}) {
+    if (!cache) cache = xml::Child(source, name);
+  }
+  if (!cache) {
+    const auto cells = CellsOf(context, source);
+    if (!cells) return {};
+    std::vector<std::string> texts(Admitted(context, cells->range.CellCount()));
+    std::string scratch;
+    cells->ForEach(texts.size(), [&](std::size_t index, std::int32_t row, std::int32_t column) {
+      texts[index] = cells->sheet->CellTextAt(row, column, scratch);
+    });
+    return texts;
+  }
+  std::vector<std::string> texts(Admitted(context, schema::IntegerVal(cache, "ptCount", 0)));
+  const bool numbers = xml::Is(cache, "numCache") || xml::Is(cache, "numLit");
+  const FormatPointer format = numbers ? context.Format(xml::Text(xml::Child(cache, "formatCode"))) : nullptr;
+  // of several levels, the first is the one along the axis
+  const auto level = xml::Child(cache, "lvl");
+  for (const pugi::xml_node& point : (level ? level : cache).children()) {
+    if (!xml::Is(point, "pt")) continue;
+    const auto index = static_cast<unsigned long long>(xml::IntegerAttribute(point, "idx", -1));
+    if (index >= texts.size()) continue;
+    std::string text = xlsx::CachedText(point);
+    const auto number = numbers ? xml::ParseDouble(text) : std::nullopt;
+    if (number) {
+      text.clear();
+      format->AppendNumber(text, *number, context.part.Book().Dates());
+    }
+    texts[index] = std::move(text);
+  }
+  return texts;
+}
+
+}  // namespace plotsmith::render

@@ -1,0 +1,62 @@
+#include <algorithm>
+#include <cmath>
+#include <set>
+
+#include "render/axes/DateAxis.h"
+#include "render/model/ChartReader.h"
+#include "xlsx/Workbook.h"
+#include "xlsx/chart/ChartPart.h"
+#include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::render {
+
+namespace schema = xlsx::schema;
+namespace xml = xlsx::xml;
+
+namespace {
+
+std::optional<TimeUnit> UnitOf(pugi::xml_node axis, const char* name) {
+  const std::string unit = schema::Val(axis, name);
+  if (unit == "days") return TimeUnit::kDays;
+  if (unit == "months") return TimeUnit::kMonths;
+  if (unit == "years") return TimeUnit::kYears;
+  return std::nullopt;
+}
+
+/// The longest unit of which no two dates share one.
+TimeUnit BaseOf(const std::vector<double>& serials, xlsx::DateSystem dates) {
+  for (const TimeUnit unit : {TimeUnit::kYears, TimeUnit::kMonths}) {
+    std::set<long long> taken;
+    bool apart = serials.size() > 1;
+    for (const double serial : serials) apart &= taken.insert(SlotOf(serial, unit, dates)).second;
+    if (apart) return unit;
+  }
+  return TimeUnit::kDays;
+}
+
+}  // namespace
+
+void ReadDates(ReadingContext& context, pugi::xml_node categories, AxisModel& axis) {
+  const std::vector<double> serials = ReadNumbers(context, categories);
+  const auto isDate = [](double serial) { return serial >= 0 && serial <= xlsx::kLastSerial; };
+  if (serials.empty() || !std::all_of(serials.begin(), serials.end(), isDate)) return;
+  const xlsx::DateSystem dates = context.part.Book().Dates();
+  DateSlots slots;
+  slots.base = UnitOf(axis.node, "baseTimeUnit").value_or(BaseOf(serials, dates));
+  slots.majorBase = std::max(UnitOf(axis.node, "majorTimeUnit").value_or(TimeUnit::kDays), slots.base);
+  const double unit = schema::NumberVal(axis.node, "majorUnit").value_or(0);
+  slots.majorUnit = unit >= 1 && unit <= xlsx::kLastSerial ? std::floor(unit) : 0;
+  const auto [least, greatest] = std::minmax_element(serials.begin(), serials.end());
+  slots.first = SlotOf(*least, slots.base, dates);
+  slots.count = static_cast<double>(SlotOf(*greatest, slots.base, dates) - slots.first + 1);
+  for (const double serial : serials) {
+    slots.positions.push_back(static_cast<double>(SlotOf(serial, slots.base, dates) - slots.first));
+  }
+  if (!axis.format) {
+    axis.format = context.Format(xml::Text(xml::Child(categories, "numRef", "numCache", "formatCode")));
+  }
+  axis.dates = std::move(slots);
+}
+
+}  // namespace plotsmith::render

@@ -1,0 +1,52 @@
+#include "render/shapes/Placement.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace plotsmith::render {
+
+Placement Placement::Turned(Point center, double degrees, bool flipX, bool flipY) const {
+  const double angle = degrees * std::numbers::pi / 180;
+  const double cosine = std::cos(angle), sine = std::sin(angle);
+  const double mirrorX = flipX ? -1 : 1, mirrorY = flipY ? -1 : 1;
+  const double xx = cosine * mirrorX, xy = -sine * mirrorY, yx = sine * mirrorX, yy = cosine * mirrorY;
+  const double x0 = center.x - xx * center.x - xy * center.y;
+  const double y0 = center.y - yx * center.x - yy * center.y;
+  Placement inner;
+  inner.xx_ = xx_ * xx + xy_ * yx;
+  inner.xy_ = xx_ * xy + xy_ * yy;
+  inner.yx_ = yx_ * xx + yy_ * yx;
+  inner.yy_ = yx_ * xy + yy_ * yy;
+  inner.x0_ = xx_ * x0 + xy_ * y0 + x0_;
+  inner.y0_ = yx_ * x0 + yy_ * y0 + y0_;
+  // a text is turned with its shape, and stands on its head with one that was mirrored upside down
+  inner.rotation_ = rotation_ + degrees + (flipY ? 180 : 0);
+  return inner;
+}
+
+Point Placement::Map(Point point) const {
+  return {xx_ * point.x + xy_ * point.y + x0_, yx_ * point.x + yy_ * point.y + y0_};
+}
+
+Path Placement::Map(const Path& path) const {
+  Path mapped;
+  for (const PathStep& step : path.Steps()) {
+    switch (step.kind) {
+      case PathStep::Kind::kMove:
+        mapped.MoveTo(Map(step.to));
+        break;
+      case PathStep::Kind::kLine:
+        mapped.LineTo(Map(step.to));
+        break;
+      case PathStep::Kind::kCurve:
+        mapped.CurveTo(Map(step.control1), Map(step.control2), Map(step.to));
+        break;
+      case PathStep::Kind::kClose:
+        mapped.Close();
+        break;
+    }
+  }
+  return mapped;
+}
+
+}  // namespace plotsmith::render

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <optional>
+#include <pugixml.hpp>
+#include <vector>
+
+#include "render/Canvas.h"
+#include "render/model/ChartModel.h"
+#include "render/model/StyleReader.h"
+#include "render/shapes/Placement.h"
+
+namespace plotsmith::render {
+
+/// A paragraph of a shape's text.
+struct ShapeParagraph {
+  RichText text;  ///< of one paragraph, or of several where a line was broken by hand
+  TextAlign align = TextAlign::kStart;
+};
+
+/// The text of a shape, as its body (txBody) says.
+struct ShapeText {
+  std::vector<ShapeParagraph> paragraphs;
+  double left = 7.2, top = 3.6, right = 7.2, bottom = 3.6;  ///< insets in points
+  enum class Anchor { kTop, kMiddle, kBottom } anchor = Anchor::kTop;
+  bool wraps = true;
+  double rotation = 0;  ///< degrees clockwise, against the shape
+
+  bool IsEmpty() const;
+};
+
+/// Reads the text of an object (sp); `automatic` is the colour by the shape's style.
+ShapeText ReadShapeText(const Palette& palette, pugi::xml_node object, const Color& automatic);
+/// Draws a text in the frame of its shape.
+void DrawShapeText(Canvas& canvas, Tag tag, const ShapeText& text, const Rect& frame,
+                   const Placement& placement);
+
+}  // namespace plotsmith::render

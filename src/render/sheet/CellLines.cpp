@@ -1,0 +1,92 @@
+#include "render/sheet/CellLines.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstddef>
+
+namespace plotsmith::render {
+namespace {
+
+/// The end of the character that begins at a place.
+std::size_t CharacterEnd(std::string_view text, std::size_t at) {
+  for (++at; at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80;) ++at;
+  return at;
+}
+
+/// How many bytes of a word fit, whole characters and at least one.
+std::size_t FittingPart(std::string_view word, double width, const WidthOf& widthOf) {
+  std::size_t end = CharacterEnd(word, 0);
+  while (end < word.size()) {
+    const std::size_t next = CharacterEnd(word, end);
+    if (widthOf(word.substr(0, next)) > width) break;
+    end = next;
+  }
+  return end;
+}
+
+/// The lines of one paragraph, appended.
+void WrapParagraph(std::string_view text, double width, const WidthOf& widthOf,
+                   std::vector<std::string>& lines) {
+  if (text.empty()) lines.emplace_back();
+  std::string line;
+  while (!text.empty()) {
+    // a word with the blanks before it
+    const std::size_t begin = std::min(text.find_first_not_of(' '), text.size());
+    const std::size_t end = std::min(text.find(' ', begin), text.size());
+    const std::string longer = line + std::string(text.substr(0, end));
+    if (widthOf(longer) <= width) {
+      line = longer;
+      text.remove_prefix(end);
+    } else if (!line.empty()) {
+      lines.push_back(std::move(line));
+      line.clear();
+      text.remove_prefix(begin);
+    } else {
+      const std::size_t part = FittingPart(text, width, widthOf);
+      lines.emplace_back(text.substr(0, part));
+      text.remove_prefix(part);
+    }
+  }
+  if (!line.empty()) lines.push_back(std::move(line));
+}
+
+/// The number with `decimals` digits behind the point.
+std::string Fixed(double number, int decimals) {
+  std::array<char, 400> buffer;  // a double has at most 309 digits before the point
+  const auto end =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed, decimals);
+  return std::string(buffer.data(), end.ptr);
+}
+
+}  // namespace
+
+std::vector<std::string> WrappedLines(std::string_view text, double width, const WidthOf& widthOf) {
+  std::vector<std::string> lines;
+  for (std::size_t begin = 0; begin <= text.size();) {
+    const std::size_t end = std::min(text.find('\n', begin), text.size());
+    std::string_view paragraph = text.substr(begin, end - begin);
+    if (paragraph.ends_with('\r')) paragraph.remove_suffix(1);
+    WrapParagraph(paragraph, width, widthOf, lines);
+    begin = end + 1;
+  }
+  return lines;
+}
+
+std::string FittedNumber(double number, const std::string& text, bool general, double width,
+                         const WidthOf& widthOf) {
+  if (widthOf(text) <= width) return text;
+  const bool canShorten =
+      general && text.find('E') == std::string::npos;  // an exponent leaves little to gain
+  const std::size_t point = text.find_first_of(".,");
+  if (canShorten && point != std::string::npos) {
+    for (int decimals = static_cast<int>(text.size() - point) - 2; decimals >= 0; --decimals) {
+      const std::string shorter = Fixed(number, decimals);
+      if (widthOf(shorter) <= width) return shorter;
+    }
+  }
+  const double mark = std::max(widthOf("#"), 0.1);
+  return std::string(static_cast<std::size_t>(std::max(width / mark, 1.0)), '#');
+}
+
+}  // namespace plotsmith::render

@@ -1,0 +1,213 @@
+#include "render/svg/SvgWriter.h"
+
+#include <cmath>
+#include <map>
+#include <utility>
+
+#include "render/FontSubstitutes.h"
+#include "render/svg/SvgImage.h"
+#include "render/svg/SvgPaint.h"
+#include "runtime/Strings.h"
+
+namespace plotsmith::render {
+namespace {
+
+/// Writes numbers of a path one after another, with a blank only where they would run together.
+class PathText {
+ public:
+  void Command(char letter) {
+    text_ += letter;
+    afterNumber_ = false;
+  }
+  void Number(long long hundredths) {
+    const std::string number = SvgNumber(static_cast<double>(hundredths) / 100);
+    if (afterNumber_ && number[0] != '-') text_ += ' ';
+    text_ += number;
+    afterNumber_ = true;
+  }
+  const std::string& Text() const { return text_; }
+
+ private:
+  std::string text_;
+  bool afterNumber_ = false;
+};
+
+/// A point on a grid of hundredths, so that differences don't add up their rounding.
+struct GridPoint {
+  long long x = 0, y = 0;
+};
+GridPoint OnGrid(Point point) { return {std::llround(point.x * 100), std::llround(point.y * 100)}; }
+
+std::string PathData(const Path& path) {
+  PathText text;
+  GridPoint at, start;
+  for (const PathStep& step : path.Steps()) {
+    const GridPoint to = OnGrid(step.to);
+    const auto relative = [&](GridPoint point) {
+      text.Number(point.x - at.x);
+      text.Number(point.y - at.y);
+    };
+    switch (step.kind) {
+      case PathStep::Kind::kMove:
+        text.Command('M');
+        text.Number(to.x);
+        text.Number(to.y);
+        start = to;
+        break;
+      case PathStep::Kind::kLine:
+        if (to.y == at.y) {
+          text.Command('h');
+          text.Number(to.x - at.x);
+        } else if (to.x == at.x) {
+          text.Command('v');
+          text.Number(to.y - at.y);
+        } else {
+          text.Command('l');
+          relative(to);
+        }
+        break;
+      case PathStep::Kind::kCurve:
+        text.Command('c');
+        relative(OnGrid(step.control1));
+        relative(OnGrid(step.control2));
+        relative(to);
+        break;
+      case PathStep::Kind::kClose:
+        text.Command('z');
+        at = start;
+        continue;
+    }
+    at = to;
+  }
+  return text.Text();
+}
+
+/// `hasCorners` says that joins are seen.
+std::string StrokeAttributes(const Stroke& stroke, bool hasCorners) {
+  if (!(stroke.width > 0)) return {};
+  std::string text = " stroke=\"" + HexOf(stroke.color) + '"';
+  if (stroke.color.alpha < 1) text += " stroke-opacity=\"" + SvgNumber(stroke.color.alpha) + '"';
+  if (stroke.width != 1) text += " stroke-width=\"" + SvgNumber(stroke.width) + '"';
+  if (!stroke.dashes.empty()) {
+    text += " stroke-dasharray=\"";
+    for (std::size_t i = 0; i < stroke.dashes.size(); ++i)
+      text += (i ? " " : "") + SvgNumber(stroke.dashes[i]);
+    text += '"';
+  }
+  if (stroke.cap != LineCap::kFlat) {
+    text += stroke.cap == LineCap::kRound ? " stroke-linecap=\"round\"" : " stroke-linecap=\"square\"";
+  }
+  if (hasCorners && stroke.join != LineJoin::kMiter) {
+    text += stroke.join == LineJoin::kRound ? " stroke-linejoin=\"round\"" : " stroke-linejoin=\"bevel\"";
+  }
+  return text;
+}
+
+/// The original font first, then its substitute, then whatever the viewer has of the kind.
+std::string FontFamilies(const std::string& family) {
+  const std::string_view substitute = SubstituteFor(family);
+  std::string list;
+  const auto add = [&](std::string_view name) {
+    const std::string quoted = SvgEscape(name);
+    list += quoted.find_first_of(" ,0123456789'") == std::string::npos
+                ? quoted
+                : "'" + runtime::Replace(quoted, "'", "") + "'";
+    list += ',';
+  };
+  if (!family.empty()) add(family);
+  if (!runtime::EqualsIgnoreCase(substitute, family)) add(substitute);
+  return list + std::string(GenericFamilyOf(family));
+}
+
+std::string FontAttributes(const std::string& family, double size, const Font& usual) {
+  std::string text;
+  if (family != usual.family) text += " font-family=\"" + FontFamilies(family) + '"';
+  if (size != usual.size) text += " font-size=\"" + SvgNumber(size) + '"';
+  return text;
+}
+
+/// Family and size of most texts, which the root element says for all. Empty without a text.
+Font UsualFont(const Drawing& drawing) {
+  std::map<std::pair<std::string, double>, int> counts;
+  int most = 0;
+  Font usual{"", 0};
+  for (const Item& item : drawing.items) {
+    const auto* text = std::get_if<TextItem>(&item.content);
+    if (text == nullptr) continue;
+    const int count = ++counts[{text->font.family, text->font.size}];
+    if (count <= most) continue;
+    most = count;
+    usual = {text->font.family, text->font.size};
+  }
+  return usual;
+}
+
+class Writer {
+ public:
+  explicit Writer(Font usual) : usual_(std::move(usual)) {}
+
+  void operator()(const PathItem& item) {
+    if (std::holds_alternative<std::monostate>(item.fill) && !(item.stroke.width > 0)) return;
+    body_ += "<path d=\"" + PathData(item.path) + '"' +
+             FillAttributes(item.fill, item.path.Bounds(), definitions_) +
+             StrokeAttributes(item.stroke, item.path.Steps().size() > 2) + "/>\n";
+  }
+  void operator()(const TextItem& item) {
+    const Font& font = item.font;
+    body_ += "<text x=\"" + SvgNumber(item.anchor.x) + "\" y=\"" + SvgNumber(item.anchor.y) + '"';
+    if (item.rotation != 0) {
+      body_ += " transform=\"rotate(" + SvgNumber(item.rotation) + ' ' + SvgNumber(item.anchor.x) + ' ' +
+               SvgNumber(item.anchor.y) + ")\"";
+    }
+    if (item.align != TextAlign::kStart) {
+      body_ += item.align == TextAlign::kMiddle ? " text-anchor=\"middle\"" : " text-anchor=\"end\"";
+    }
+    body_ += FontAttributes(font.family, font.size, usual_);
+    if (font.bold) body_ += " font-weight=\"bold\"";
+    if (font.italic) body_ += " font-style=\"italic\"";
+    if (font.underline) body_ += " text-decoration=\"underline\"";
+    const Color black;
+    if (item.color != black) body_ += FillAttributes(SolidFill{item.color}, {}, definitions_);
+    body_ += '>' + SvgEscape(item.text) + "</text>\n";
+  }
+  void operator()(const PushClip& clip) {
+    const std::string id =
+        definitions_.IdOf("<clipPath id=\"@\"><path d=\"" + PathData(clip.path) + "\"/></clipPath>");
+    body_ += "<g clip-path=\"url(#" + id + ")\">\n";
+    ++groups_;
+  }
+  void operator()(const PopClip&) {
+    if (groups_ == 0) return;
+    --groups_;
+    body_ += "</g>\n";
+  }
+  void operator()(const ImageItem& item) { body_ += ImageElement(item); }
+
+  std::string Finish() {
+    for (; groups_ > 0; --groups_) body_ += "</g>\n";
+    return definitions_.Text() + body_;
+  }
+
+ private:
+  const Font usual_;
+  SvgDefinitions definitions_;
+  std::string body_;
+  int groups_ = 0;
+};
+
+}  // namespace
+
+std::string MakeSvg(const Drawing& drawing) {
+  const std::string width = SvgNumber(drawing.width), height = SvgNumber(drawing.height);
+  const Font usual = UsualFont(drawing);
+  std::string svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + width + "pt\" height=\"" + height +
+                    "pt\" viewBox=\"0 0 " + width + ' ' + height + "\" role=\"img\"" +
+                    FontAttributes(usual.family, usual.size, Font{"", 0}) + ">\n";
+  if (!drawing.title.empty()) svg += "<title>" + SvgEscape(drawing.title) + "</title>\n";
+  if (!drawing.description.empty()) svg += "<desc>" + SvgEscape(drawing.description) + "</desc>\n";
+  Writer writer(usual);
+  for (const Item& item : drawing.items) std::visit(writer, item.content);
+  return svg + writer.Finish() + "</svg>\n";
+}
+
+}  // namespace plotsmith::render

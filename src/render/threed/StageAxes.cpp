@@ -1,0 +1,246 @@
+#include "render/threed/StageAxes.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "render/axes/AxisMap.h"
+#include "render/axes/DateAxis.h"
+
+namespace plotsmith::render {
+namespace {
+
+constexpr double kTickLength = 3.75;  // points
+constexpr double kLabelGap = 5;       // from the axis to its labels
+constexpr double kInkOfLine = 0.8;    // of the height of a line, what its letters take
+constexpr std::size_t kMostLabels = 1000;
+
+Point Along(const Projection& projection, const Point3& from, const Point3& to, double share) {
+  return projection.Project(projection.Place(
+      from.x + (to.x - from.x) * share, from.y + (to.y - from.y) * share, from.z + (to.z - from.z) * share));
+}
+
+}  // namespace
+
+StageAxes::StageAxes(const Stage& stage, const TextMeasure& measure, xlsx::DateSystem dates)
+    : stage_(stage),
+      measure_(measure),
+      values_(ReadValues(dates)),
+      categories_(stage.Categories().dates ? ReadDates(dates) : ReadCategories()),
+      series_(ReadSeries()) {
+  for (Ruler* ruler : {&values_, &categories_, &series_}) {
+    if (ruler->axis == nullptr || ruler->axis->hidden || ruler->axis->tickLabels == "none") {
+      ruler->labels.clear();
+    }
+  }
+}
+
+StageAxes::Ruler StageAxes::ReadValues(xlsx::DateSystem dates) const {
+  Ruler ruler{&stage_.Values(), {}, {}};
+  int number = 0;
+  for (const Tick& tick : MajorTicks(stage_.Values(), dates)) {
+    const double share = stage_.Value(tick.value);
+    ruler.labels.push_back({tick.label, share, ++number});
+    ruler.ticks.push_back(share);
+  }
+  return ruler;
+}
+
+StageAxes::Ruler StageAxes::ReadCategories() const {
+  Ruler ruler{&stage_.Categories(), {}, {}};
+  const auto& texts = stage_.Categories().categories;
+  const std::size_t count = stage_.CategoryCount();
+  const std::size_t every = (count + kMostLabels - 1) / kMostLabels;
+  for (std::size_t i = 0; i < count; i += every) {
+    const Span room = stage_.Category(i);
+    const std::string text = i < texts.size() ? texts[i] : std::to_string(i + 1);
+    ruler.labels.push_back({text, room.Middle(), static_cast<int>(i) + 1});
+    if (stage_.StandsOnTicks()) {
+      ruler.ticks.push_back(room.Middle());
+      continue;
+    }
+    ruler.ticks.push_back(room.from);
+    if (i + every >= count) ruler.ticks.push_back(room.to);
+  }
+  return ruler;
+}
+
+StageAxes::Ruler StageAxes::ReadDates(xlsx::DateSystem dates) const {
+  const AxisModel& axis = stage_.Categories();
+  const AxisMap map(axis, 0, 1);
+  Ruler ruler{&axis, {}, {}};
+  int number = 0;
+  for (const DateTick& tick : DateTicks(axis, dates)) {
+    ruler.labels.push_back({tick.label, map.OfSlot(tick.slot), ++number});
+    ruler.ticks.push_back(map.OfSlot(tick.slot - (axis.crossesBetween ? 0.5 : 0)));
+  }
+  return ruler;
+}
+
+StageAxes::Ruler StageAxes::ReadSeries() const {
+  Ruler ruler{stage_.Series(), {}, {}};
+  if (ruler.axis == nullptr) return ruler;
+  const auto& all = stage_.Group().series;
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    ruler.labels.push_back({all[i].name, stage_.Depth(i).Middle(), static_cast<int>(i) + 1});
+    ruler.ticks.push_back(static_cast<double>(i) / static_cast<double>(all.size()));
+  }
+  ruler.ticks.push_back(1);
+  return ruler;
+}
+
+/// The upright edge that is leftmost on the picture.
+StageAxes::BoxEdge StageAxes::UprightEdge(const Projection& projection) const {
+  BoxEdge best;
+  double leftmost = 0;
+  bool first = true;
+  for (const auto& [x, z] : {std::pair{0.0, 0.0}, {1.0, 0.0}, {0.0, 1.0}, {1.0, 1.0}}) {
+    const double at = Along(projection, {x, 0, z}, {x, 1, z}, 0.5).x;
+    if (!first && at >= leftmost - 1e-6) continue;
+    first = false;
+    leftmost = at;
+    best = {{x, 0, z}, {x, 1, z}, Beside::kLeft};
+  }
+  return best;
+}
+
+/// Of two edges of the floor the one that is lower on the picture, and so nearer to the viewer; at the same
+/// height the first.
+StageAxes::BoxEdge StageAxes::LowerOf(const Projection& projection, BoxEdge first, const BoxEdge& second) {
+  const double lower = Along(projection, second.from, second.to, 0.5).y;
+  return lower > Along(projection, first.from, first.to, 0.5).y + 1e-6 ? second : first;
+}
+
+/// The edge along x. Labels stand beside it where it goes up more than aside.
+StageAxes::BoxEdge StageAxes::LowerEdge(const Projection& projection) const {
+  BoxEdge edge = LowerOf(projection, {{0, 0, 0}, {1, 0, 0}}, {{0, 0, 1}, {1, 0, 1}});
+  edge.beside = IsSteep(projection, edge) ? SideOf(projection, edge) : Beside::kBelow;
+  return edge;
+}
+
+/// The edge of the floor along z.
+StageAxes::BoxEdge StageAxes::SeriesEdge(const Projection& projection) const {
+  BoxEdge edge = LowerOf(projection, {{1, 0, 0}, {1, 0, 1}}, {{0, 0, 0}, {0, 0, 1}});
+  edge.beside = SideOf(projection, edge);
+  // at the left there are the labels of the upright edge, too
+  if (edge.beside == Beside::kLeft && !IsSteep(projection, edge)) edge.beside = Beside::kBelow;
+  return edge;
+}
+
+bool StageAxes::IsSteep(const Projection& projection, const BoxEdge& edge) {
+  const Point a = Along(projection, edge.from, edge.to, 0), b = Along(projection, edge.from, edge.to, 1);
+  return std::abs(a.y - b.y) > std::abs(a.x - b.x);
+}
+
+/// The side of the picture that an edge of the floor is on.
+StageAxes::Beside StageAxes::SideOf(const Projection& projection, const BoxEdge& edge) {
+  const double middle = Along(projection, {0, 0, 0}, {1, 0, 1}, 0.5).x;
+  return Along(projection, edge.from, edge.to, 0.5).x < middle - 1e-6 ? Beside::kLeft : Beside::kRight;
+}
+
+std::vector<StageAxes::PlacedRuler> StageAxes::Place(const Projection& projection) const {
+  const BoxEdge upright = UprightEdge(projection), lower = LowerEdge(projection);
+  std::vector<PlacedRuler> placed = {{&values_, stage_.Lying() ? lower : upright},
+                                     {&categories_, stage_.Lying() ? upright : lower}};
+  if (series_.axis != nullptr) placed.push_back({&series_, SeriesEdge(projection)});
+  return placed;
+}
+
+Rect StageAxes::PlacedLabel::Bounds() const {
+  const double width = block.TurnedWidth(), height = block.TurnedHeight();
+  return {center.x - width / 2, center.y - height / 2, width, height};
+}
+
+StageAxes::PlacedLabel StageAxes::PlaceLabel(const PlacedRuler& placed, const Label& label, TextBlock block,
+                                             const Projection& projection) const {
+  Point center = Along(projection, placed.edge.from, placed.edge.to, label.share);
+  switch (placed.edge.beside) {
+    case Beside::kLeft:
+      center.x -= kLabelGap + block.TurnedWidth() / 2;
+      break;
+    case Beside::kRight:
+      center.x += kLabelGap + block.TurnedWidth() / 2;
+      break;
+    case Beside::kBelow:
+      center.y += kLabelGap + block.TurnedHeight() / 2;
+      break;
+  }
+  return {&label, std::move(block), center};
+}
+
+std::vector<StageAxes::PlacedLabel> StageAxes::LabelsOf(const PlacedRuler& placed,
+                                                        const Projection& projection) const {
+  const auto& labels = placed.ruler->labels;
+  if (labels.empty()) return {};
+  const AxisModel& axis = *placed.ruler->axis;
+  Point step{kUnlimited, kUnlimited};  // from one label to the next
+  if (labels.size() > 1) {
+    const Point a = Along(projection, placed.edge.from, placed.edge.to, labels[0].share);
+    const Point b = Along(projection, placed.edge.from, placed.edge.to, labels[1].share);
+    step = {std::abs(a.x - b.x), std::abs(a.y - b.y)};
+  }
+  // names below a picture break at their blanks before any is left out
+  const bool breaks = placed.edge.beside == Beside::kBelow && !axis.IsOfValues() && !axis.text.rotation;
+  const double room = breaks ? std::max(step.x - kLabelGap, 1.0) : kUnlimited;
+  double widest = 1, highest = 1;
+  std::vector<PlacedLabel> all;
+  for (const Label& label : labels) {
+    all.push_back(PlaceLabel(placed, label, LayOut(label.text, axis.text, measure_, room), projection));
+    widest = std::max(widest, all.back().block.TurnedWidth() + kLabelGap);
+    highest = std::max(highest, all.back().block.TurnedHeight() * kInkOfLine);
+  }
+  // two labels are apart if they are so in one of the directions
+  const double fitting = std::max({step.x / widest, step.y / highest, 1e-3});
+  std::size_t stride = static_cast<std::size_t>(std::max(std::ceil(1 / fitting - 1e-6), 1.0));
+  if (!axis.IsOfValues() && axis.labelSkip > 0) stride = static_cast<std::size_t>(axis.labelSkip);
+  std::vector<PlacedLabel> shown;
+  for (std::size_t i = 0; i < all.size(); i += stride) shown.push_back(std::move(all[i]));
+  return shown;
+}
+
+Rect StageAxes::BoundsOf(const Projection& projection) const {
+  Rect bounds;
+  bool first = true;
+  for (const double x : {0.0, 1.0}) {
+    for (const double y : {0.0, 1.0}) {
+      for (const double z : {0.0, 1.0}) {
+        const Point corner = projection.Project(projection.Place(x, y, z));
+        const Rect at{corner.x, corner.y, 0, 0};
+        bounds = first ? at : Union(bounds, at);
+        first = false;
+      }
+    }
+  }
+  for (const PlacedRuler& placed : Place(projection)) {
+    for (const PlacedLabel& label : LabelsOf(placed, projection)) bounds = Union(bounds, label.Bounds());
+  }
+  return bounds;
+}
+
+void StageAxes::DrawRuler(Canvas& canvas, const PlacedRuler& placed, const Projection& projection) const {
+  const AxisModel& axis = *placed.ruler->axis;
+  if (axis.hidden) return;
+  canvas.AddLine({Role::kAxisLine, axis.number}, Along(projection, placed.edge.from, placed.edge.to, 0),
+                 Along(projection, placed.edge.from, placed.edge.to, 1), axis.line);
+  if (axis.majorTicks == "out" || axis.majorTicks == "cross") {
+    const Point way = placed.edge.beside == Beside::kBelow  ? Point{0, kTickLength}
+                      : placed.edge.beside == Beside::kLeft ? Point{-kTickLength, 0}
+                                                            : Point{kTickLength, 0};
+    int number = 0;
+    for (const double share : placed.ruler->ticks) {
+      const Point at = Along(projection, placed.edge.from, placed.edge.to, share);
+      canvas.AddLine({Role::kTickMark, axis.number, ++number}, at, {at.x + way.x, at.y + way.y}, axis.line);
+    }
+  }
+  constexpr TextAlign kAligns[] = {TextAlign::kEnd, TextAlign::kMiddle, TextAlign::kStart};
+  for (const PlacedLabel& label : LabelsOf(placed, projection)) {
+    DrawBlock(canvas, {Role::kTickLabel, axis.number, label.label->number}, label.block, label.center,
+              kAligns[static_cast<std::size_t>(placed.edge.beside)]);
+  }
+}
+
+void StageAxes::Draw(Canvas& canvas, const Projection& projection) const {
+  for (const PlacedRuler& placed : Place(projection)) DrawRuler(canvas, placed, projection);
+}
+
+}  // namespace plotsmith::render

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "render/Canvas.h"
+#include "render/layout/TextBlock.h"
+#include "render/threed/Stage.h"
+
+namespace plotsmith::render {
+
+/// The axes of a chart in 3-D: which edges of the box they lie on, and where their labels are.
+class StageAxes {
+ public:
+  StageAxes(const Stage& stage, const TextMeasure& measure, xlsx::DateSystem dates);
+
+  /// Around the box and all labels.
+  Rect BoundsOf(const Projection& projection) const;
+  void Draw(Canvas& canvas, const Projection& projection) const;
+
+ private:
+  struct Label {
+    std::string text;
+    double share = 0;
+    int number = 0;  ///< of the tick
+  };
+  struct Ruler {
+    const AxisModel* axis = nullptr;
+    std::vector<Label> labels;
+    std::vector<double> ticks;  ///< shares
+  };
+  /// Which side of the picture the labels of an axis are on.
+  enum class Beside { kLeft, kBelow, kRight };
+  /// An edge of the box: places by their share of it.
+  struct BoxEdge {
+    Point3 from, to;
+    Beside beside = Beside::kLeft;
+  };
+
+  Ruler ReadValues(xlsx::DateSystem dates) const;
+  Ruler ReadCategories() const;
+  Ruler ReadDates(xlsx::DateSystem dates) const;
+  Ruler ReadSeries() const;
+
+  BoxEdge UprightEdge(const Projection& projection) const;
+  static BoxEdge LowerOf(const Projection& projection, BoxEdge first, const BoxEdge& second);
+  static Beside SideOf(const Projection& projection, const BoxEdge& edge);
+  static bool IsSteep(const Projection& projection, const BoxEdge& edge);
+  BoxEdge LowerEdge(const Projection& projection) const;
+  BoxEdge SeriesEdge(const Projection& projection) const;
+  struct PlacedRuler {
+    const Ruler* ruler;
+    BoxEdge edge;
+  };
+  std::vector<PlacedRuler> Place(const Projection& projection) const;
+  struct PlacedLabel {
+    const Label* label;
+    TextBlock block;
+    Point center;
+
+    Rect Bounds() const;
+  };
+  /// The labels of an axis, of which some are left out where they would touch each other.
+  std::vector<PlacedLabel> LabelsOf(const PlacedRuler& placed, const Projection& projection) const;
+  PlacedLabel PlaceLabel(const PlacedRuler& placed, const Label& label, TextBlock block,
+                         const Projection& projection) const;
+  void DrawRuler(Canvas& canvas, const PlacedRuler& placed, const Projection& projection) const;
+
+  const Stage& stage_;
+  const TextMeasure& measure_;
+  Ruler values_, categories_, series_;
+};
+
+}  // namespace plotsmith::render

@@ -1,0 +1,38 @@
+#include "render/threed/View.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::render {
+namespace {
+
+constexpr double kPieElevation = 15;
+constexpr double kUsualPerspective = 30;
+
+/// `fallback` for what is missing or no number.
+double Number(pugi::xml_node view, const char* name, double fallback, double least, double most) {
+  const double value = xlsx::schema::NumberVal(view, name).value_or(fallback);
+  return std::isfinite(value) ? std::clamp(value, least, most) : fallback;
+}
+
+}  // namespace
+
+View ReadView(pugi::xml_node chart, bool pie) {
+  const auto element = xlsx::xml::Child(chart, "view3D");
+  View view;
+  view.elevation = Number(element, "rotX", pie ? kPieElevation : view.elevation, -90, 90);
+  view.rotation = std::fmod(Number(element, "rotY", pie ? 0 : view.rotation, 0, 360), 360);
+  view.rightAngles = xlsx::schema::BooleanVal(element, "rAngAx", false);
+  // the file counts perspective in half degrees
+  view.fieldOfView = Number(element, "perspective", kUsualPerspective, 0, 240) / 2;
+  if (xlsx::schema::NumberVal(element, "hPercent")) {
+    view.heightPercent = Number(element, "hPercent", 100, 5, 500);
+  }
+  view.depthPercent = Number(element, "depthPercent", 100, 20, 2000);
+  return view;
+}
+
+}  // namespace plotsmith::render

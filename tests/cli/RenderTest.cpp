@@ -1,0 +1,344 @@
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <libxml/parser.h>
+#include <sys/wait.h>
+#include <vector>
+
+#include "cli/render/PictureNames.h"
+#include "runtime/Strings.h"
+#include "tests/support/HostTest.h"
+#include "tests/support/Paths.h"
+#include "tests/support/RunCommand.h"
+
+namespace plotsmith::cli {
+namespace {
+
+namespace fs = std::filesystem;
+using test::CommandResult;
+using test::RunCommand;
+using S = std::string;
+
+/// What another program's chart looks like in its part: one series of columns.
+constexpr const char* kForeignChart =
+    "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\"><c:chart><c:plotArea>"
+    "<c:barChart><c:barDir val=\"col\"/><c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:val><c:numLit>"
+    "<c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>3</c:v></c:pt><c:pt idx=\"1\"><c:v>5</c:v></c:pt></c:numLit>"
+    "</c:val></c:ser><c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart><c:catAx><c:axId val=\"1\"/>"
+    "<c:crossAx val=\"2\"/></c:catAx><c:valAx><c:axId val=\"2\"/><c:crossAx "
+    "val=\"1\"/></c:valAx></c:plotArea>"
+    "</c:chart></c:chartSpace>";
+
+S BytesOf(const S& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// The format that the bytes are of.
+S FormatOf(const S& bytes) {
+  if (bytes.starts_with("\x89PNG\r\n")) return "png";
+  if (bytes.starts_with("%PDF-")) return "pdf";
+  return bytes.find("<svg ") < 100 ? "svg" : "none";
+}
+
+int CountOf(const S& text, const S& part) {
+  int count = 0;
+  for (auto at = text.find(part); at != S::npos; at = text.find(part, at + 1)) ++count;
+  return count;
+}
+
+/// The workbook "book.xlsx" in a folder of its own: two refreshed charts of Plotsmith and one of another
+/// program, and a sheet of 100 rows.
+class RenderTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    test::PlainBook book = test::SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}});
+    book.Sheet("Charts").frames.push_back({"", kForeignChart, 0, 40});
+    test::PlainSheet rows;
+    rows.name = "Many rows";
+    for (int i = 1; i <= 100; ++i) rows.rows.push_back({S("Row " + std::to_string(i)), double(i)});
+    book.sheets.push_back(rows);
+    book.sheets.push_back({.name = "Empty"});
+    book.Write(book_);
+    ASSERT_EQ(RunCommand({"refresh", book_}).code, 0);
+    fresh_ = BytesOf(book_);
+  }
+  void TearDown() override { EXPECT_TRUE(BytesOf(book_) == fresh_) << "the workbook was changed"; }
+
+  /// "BOOK" is the workbook and "DIR" an empty folder, also in the answer.
+  CommandResult Run(const std::vector<S>& arguments, test::Watched watched = test::Watched::kNothing) {
+    fs::remove_all(folder_ / "dir");
+    fs::create_directory(folder_ / "dir");
+    std::vector<S> words;
+    for (const S& argument : arguments)
+      words.push_back(runtime::Replace(runtime::Replace(argument, "BOOK", book_), "DIR", folder_ / "dir"));
+    CommandResult result = RunCommand(words, "", watched);
+    for (S* text : {&result.out, &result.err})
+      *text = runtime::Replace(runtime::Replace(*text, book_, "BOOK"), folder_ / "dir", "DIR");
+    return result;
+  }
+  /// The names in the folder and what they are, "a.svg svg, b.png png".
+  S Files() {
+    std::vector<S> names;
+    for (const auto& entry : fs::recursive_directory_iterator(folder_ / "dir")) {
+      if (!entry.is_regular_file()) continue;
+      names.push_back(entry.path().filename().string() + " " + FormatOf(BytesOf(entry.path().string())));
+    }
+    std::sort(names.begin(), names.end());
+    S text;
+    for (const S& name : names) text += (text.empty() ? "" : ", ") + name;
+    return text;
+  }
+
+  test::TempFolder folder_;
+  S book_ = folder_ / "book.xlsx";
+  S fresh_;
+};
+
+TEST(PictureNamesTest, NamesAreSafeShortAndToldFromEachOther) {
+  const struct {
+    S book, what, name;
+  } cases[] = {
+      {"/a/My book.xlsx", "VEX_Chart1", "My-book-VEX_Chart1"},
+      {"book.v2.xlsx", "'It''s'!Chart 2", "book.v2-It-s-Chart-2"},
+      {"book.xlsx", "../../etc/passwd", "book-etc-passwd"},
+      {"book.xlsx", "a\\b:c*?\"<>|\n\t", "book-a-b-c"},
+      {"book.xlsx", "...", "book"},
+      {"-.xlsx", "$(rm)", "rm"},
+      {".xlsx", "", "xlsx"},
+      {"book.xlsx",
+       "\xC3\x9C"
+       "bersicht",
+       "book-\xC3\x9C"
+       "bersicht"},
+      {"book.xlsx", S(99, 'x') + "\xC3\xA4", "book-" + S(99, 'x')},
+  };
+  for (const auto& c : cases) EXPECT_EQ(PictureNames(c.book).NameFor(c.what), c.name);
+  PictureNames names("b.xlsx");
+  EXPECT_EQ(names.NameFor("Chart 1"), "b-Chart-1");
+  EXPECT_EQ(names.NameFor("chart/1"), "b-chart-1-2");
+  EXPECT_EQ(names.NameFor("Chart:1"), "b-Chart-1-3");
+}
+
+TEST_F(RenderTest, PicturesGoWhereTheOutputSays) {
+  const struct {
+    std::vector<S> arguments;  ///< behind the verb
+    S files, out;
+  } cases[] = {
+      {{"BOOK", "-o", "DIR"},
+       "book-VEX_Chart1.svg svg, book-VEX_Chart2.svg svg",
+       "DIR/book-VEX_Chart1.svg\nDIR/book-VEX_Chart2.svg\n"},
+      {{"BOOK", "-o", "DIR", "--format", "png", "name of vex_chart2"},
+       "book-VEX_Chart2.png png",
+       "DIR/book-VEX_Chart2.png\n"},
+      {{"BOOK", "VEX_Chart2", "VEX_Chart2", "-o", "DIR/a.png"}, "a.png png", ""},
+      {{"BOOK", "-o", "DIR/both.pdf"}, "both.pdf pdf", ""},
+      {{"BOOK", "VEX_Chart1", "-o", "DIR/picture", "--format", "SVG"}, "picture svg", ""},
+      {{"BOOK", "Charts!Chart 3", "'Charts'!chart 3", "-o", "DIR/new/"},
+       "book-Charts-Chart-3.svg svg",
+       "DIR/new/book-Charts-Chart-3.svg\n"},
+      {{"BOOK", "--sheet", "Many rows", "-o", "DIR"},
+       "book-Many-rows-1.svg svg, book-Many-rows-2.svg svg, book-Many-rows-3.svg svg",
+       "DIR/book-Many-rows-1.svg\nDIR/book-Many-rows-2.svg\nDIR/book-Many-rows-3.svg\n"},
+      {{"BOOK", "--sheet", "many rows", "-o", "DIR/rows.pdf"}, "rows.pdf pdf", ""},
+      {{"BOOK", "--sheet", "Many rows", "--one-page", "-o", "DIR/rows.png"}, "rows.png png", ""},
+  };
+  for (const auto& c : cases) {
+    std::vector<S> arguments = c.arguments;
+    arguments.insert(arguments.begin(), "render");
+    const CommandResult result = Run(arguments);
+    EXPECT_EQ(result.code, 0) << result.err;
+    EXPECT_EQ(result.err, "");
+    EXPECT_EQ(Files(), c.files);
+    EXPECT_EQ(result.out, c.out);
+  }
+}
+
+TEST_F(RenderTest, WhatCantBeMeantIsRefusedInOneSentence) {
+  const S there = "there are VEX_Chart1, VEX_Chart2 and 'Charts!Chart 3'.\n";
+  const struct {
+    std::vector<S> arguments;
+    int code;
+    S sentence;
+  } cases[] = {
+      {{"BOOK", "Nothing", "-o", "DIR"}, 2, "\"BOOK\" has no chart 'Nothing'; " + there},
+      {{"BOOK", "Data1!Chart 3", "-o", "DIR"}, 2, "\"BOOK\" has no chart 'Data1!Chart 3'; " + there},
+      {{"BOOK", "-o", "DIR/a.png"},
+       2,
+       "\"DIR/a.png\" takes one picture, and there are 2 charts; a folder or a PDF takes several.\n"},
+      {{"BOOK", "-o", "-"},
+       2,
+       "the standard output takes one picture, and there are 2 charts; a folder or a PDF takes several.\n"},
+      {{"BOOK", "-o", "DIR/a.gif"},
+       2,
+       "the name \"DIR/a.gif\" doesn't tell a format: use .svg, .png or .pdf, or --format; a folder has to "
+       "be "
+       "there, or ends with \"/\".\n"},
+      {{"BOOK", "-o", "DIR/a.png", "--format", "svg"},
+       2,
+       "\"DIR/a.png\" and --format svg are two formats.\n"},
+      {{"BOOK", "--format", "gif"}, 2, "--format wants svg, png or pdf, not 'gif'.\n"},
+      {{"BOOK", "--dpi", "300", "-o", "DIR"},
+       2,
+       "--dpi is for PNG; --scale makes a picture of any format larger.\n"},
+      {{"BOOK", "--dpi", "nan", "-o", "DIR", "--format", "png"},
+       2,
+       "--dpi wants a number from 10 to 2400.\n"},
+      {{"BOOK", "--scale", "0", "-o", "DIR"}, 2, "--scale wants a number from 0.01 to 100.\n"},
+      {{"BOOK", "VEX_Chart1", "--scale", "100", "--dpi", "2400", "-o", "DIR/a.png"},
+       2,
+       "a picture would have more than a hundred million pixels; use a smaller --dpi or --scale.\n"},
+      {{"BOOK", "-o", ""}, 2, "-o wants the name of a file or a folder.\n"},
+      {{"BOOK", "--sheet", "Nowhere", "-o", "DIR"}, 2, "\"BOOK\" has no sheet \"Nowhere\".\n"},
+      {{"BOOK", "--sheet", "Empty", "-o", "DIR"}, 2, "the sheet \"Empty\" has nothing to print.\n"},
+      {{"BOOK", "--sheet", "Many rows", "-o", "DIR/a.svg"},
+       2,
+       "\"DIR/a.svg\" takes one picture, and there are 3 pages; a folder or a PDF takes several.\n"},
+      {{"BOOK", "VEX_Chart1", "--sheet", "Charts"},
+       2,
+       "--sheet draws a whole sheet, so no chart can be named with it.\n"},
+      {{"BOOK", "--one-page"}, 2, "--one-page goes with --sheet.\n"},
+      {{"BOOK", "VEX_Chart1", "-o", "DIR/no/a.svg"},
+       3,
+       "can't write \"DIR/no/a.svg\": No such file or directory.\n"},
+      {{"BOOK.no", "-o", "DIR"}, 3, "can't read \"BOOK.no\": there is no such file.\n"},
+  };
+  for (const auto& c : cases) {
+    std::vector<S> arguments = c.arguments;
+    arguments.insert(arguments.begin(), "render");
+    const CommandResult result = Run(arguments);
+    EXPECT_EQ(result.code, c.code);
+    EXPECT_EQ(result.err, "plotsmith: " + c.sentence);
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(Files(), "");
+  }
+  EXPECT_EQ(
+      Run({"render", "BOOK", "VEX_Chart1", "--format", "png", "-o", "-"}, test::Watched::kEverything).err,
+      "plotsmith: a picture isn't written to a terminal; redirect the output, or name a file.\n");
+}
+
+TEST_F(RenderTest, TheSameBytesComeOutOfEveryRunToFilesAndToTheStandardOutput) {
+  for (const S format : {"svg", "png", "pdf"}) {
+    const CommandResult out = Run({"render", "BOOK", "VEX_Chart1", "--format", format, "-o", "-"});
+    EXPECT_EQ(out.code, 0) << out.err;
+    EXPECT_EQ(FormatOf(out.out), format);
+    for (int run = 0; run < 2; ++run) {
+      ASSERT_EQ(Run({"render", "BOOK", "VEX_Chart1", "-o", "DIR/a." + format}).code, 0);
+      EXPECT_TRUE(BytesOf(folder_ / ("dir/a." + format)) == out.out) << format;
+    }
+  }
+}
+
+TEST_F(RenderTest, SizesFollowScaleAndResolution) {
+  const auto png = [&](const std::vector<S>& options) {
+    std::vector<S> arguments = {"render", "BOOK", "VEX_Chart1", "--format", "png", "-o", "-"};
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    const S bytes = Run(arguments).out;
+    const auto number = [&](std::size_t at) {
+      int value = 0;
+      for (std::size_t i = at; i < at + 4; ++i) value = value * 256 + static_cast<unsigned char>(bytes.at(i));
+      return value;
+    };
+    return std::pair(number(16), number(20));  // of the header's width and height
+  };
+  const auto [width, height] = png({});
+  EXPECT_EQ(png({"--dpi", "192"}), std::pair(2 * width, 2 * height));
+  EXPECT_EQ(png({"--scale", "2"}), std::pair(2 * width, 2 * height));
+  EXPECT_EQ(png({"--dpi", "48", "--scale", "2"}), std::pair(width, height));
+}
+
+TEST_F(RenderTest, SvgIsWellFormedAndSaysItsValues) {
+  ASSERT_EQ(Run({"render", "BOOK", "-o", "DIR"}).code, 0);
+  for (const auto& entry : fs::directory_iterator(folder_ / "dir")) {
+    const S bytes = BytesOf(entry.path().string());
+    xmlDocPtr document =
+        xmlReadMemory(bytes.data(), static_cast<int>(bytes.size()), "a.svg", nullptr, XML_PARSE_NONET);
+    ASSERT_NE(document, nullptr) << bytes;
+    xmlFreeDoc(document);
+    EXPECT_EQ(CountOf(bytes, "<title>"), CountOf(bytes, "</title>"));
+    EXPECT_NE(bytes.find("<desc>"), S::npos);
+    EXPECT_NE(bytes.find("West"), S::npos) << "a category of the table";
+  }
+}
+
+TEST_F(RenderTest, APdfHasAPageForEachChartAndEachPageOfASheet) {
+  ASSERT_EQ(Run({"render", "BOOK", "-o", "DIR/a.pdf"}).code, 0);
+  EXPECT_EQ(CountOf(BytesOf(folder_ / "dir/a.pdf"), "/Type /Page "), 2);
+  ASSERT_EQ(Run({"render", "BOOK", "--sheet", "Many rows", "-o", "DIR/a.pdf"}).code, 0);
+  EXPECT_EQ(CountOf(BytesOf(folder_ / "dir/a.pdf"), "/Type /Page "), 3);
+}
+
+TEST_F(RenderTest, AWorkbookWithoutChartsOfPlotsmithNamesTheOthers) {
+  test::PlainBook book;
+  book.sheets.push_back({.name = "It's", .frames = {{"", kForeignChart}}});
+  const S path = folder_ / "other.xlsx";
+  book.Write(path);
+  CommandResult result = Run({"render", path, "-o", "DIR"});
+  EXPECT_EQ(result.code, 1);
+  EXPECT_EQ(result.err,
+            "plotsmith: \"" + path +
+                "\" has no charts of Plotsmith, so nothing was drawn; named as an argument, others "
+                "are drawn too: 'It''s'!Chart 1.\n");
+  result = Run({"render", path, "'It''s'!Chart 1", "-o", "DIR"});
+  EXPECT_EQ(result.code, 0) << result.err;
+  EXPECT_EQ(Files(), "other-It-s-Chart-1.svg svg");
+}
+
+TEST_F(RenderTest, ARefreshDrawsWhatItHasRefreshed) {
+  const struct {
+    std::vector<S> options;
+    int code;
+    S files, err;
+  } cases[] = {
+      {{"--render", "DIR"}, 0, "book-VEX_Chart1.svg svg, book-VEX_Chart2.svg svg", ""},
+      {{"--render", "DIR", "--format", "png", "--dpi", "48"},
+       0,
+       "book-VEX_Chart1.png png, book-VEX_Chart2.png png",
+       ""},
+      {{"--format", "png"},
+       2,
+       "",
+       "plotsmith: --format, --dpi and --scale are for the pictures of --render.\n"},
+      {{"--render", ""}, 2, "", "plotsmith: --render wants the name of a folder.\n"},
+      {{"--render", "DIR", "--format", "gif"},
+       2,
+       "",
+       "plotsmith: --format wants svg, png or pdf, not 'gif'.\n"},
+  };
+  for (const auto& c : cases) {
+    std::vector<S> arguments = {"refresh", "BOOK", "-o", folder_ / "out.xlsx"};
+    arguments.insert(arguments.end(), c.options.begin(), c.options.end());
+    const CommandResult result = Run(arguments);
+    EXPECT_EQ(result.code, c.code);
+    EXPECT_EQ(result.err, c.err);
+    EXPECT_EQ(Files(), c.files);
+  }
+  const S twin = folder_ / "twin";
+  fs::create_directory(twin);
+  fs::copy_file(book_, twin + "/book.xlsx");
+  const CommandResult result = Run({"refresh", "BOOK", twin + "/book.xlsx", "--render", "DIR"});
+  EXPECT_EQ(result.code, 2);
+  EXPECT_EQ(result.err, "plotsmith: the charts of \"BOOK\" and \"" + twin +
+                            "/book.xlsx\" would have the same names in \"DIR\".\n");
+  // with the workbook on the standard output, nothing else goes there
+  const CommandResult streamed = Run({"refresh", "BOOK", "-o", "-", "--render", "DIR"});
+  EXPECT_EQ(streamed.code, 0);
+  EXPECT_TRUE(streamed.out.starts_with("PK"));
+  EXPECT_EQ(streamed.out.find("VEX_Chart1.svg"), S::npos);
+}
+
+TEST_F(RenderTest, WithoutTheModuleThatDrawsTheCommandSaysSo) {
+  fs::create_directory(folder_ / "bin");
+  fs::copy_file(test::kCommand, folder_ / "bin/plotsmith");
+  const S err = folder_ / "err.txt";
+  const int status = std::system(
+      ((folder_ / "bin/plotsmith") + " render " + book_ + " -o " + folder_.Path().string() + " 2> " + err)
+          .c_str());
+  EXPECT_EQ(WEXITSTATUS(status), 2);
+  EXPECT_EQ(BytesOf(err), "plotsmith: nothing can be drawn: \"" + (folder_ / "lib/plotsmith/render.so") +
+                              "\", which draws, isn't installed.\n");
+}
+
+}  // namespace
+}  // namespace plotsmith::cli

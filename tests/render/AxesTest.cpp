@@ -1,0 +1,243 @@
+#include <set>
+
+#include "tests/render/DrawingTest.h"
+
+namespace plotsmith {
+namespace {
+
+using namespace test;
+using render::Drawing;
+using render::Rect;
+using render::Role;
+using S = std::string;
+using Texts = std::vector<S>;
+
+class AxesTest : public DrawingTest {
+ protected:
+  /// A clustered column or bar chart of one series.
+  Drawing DrawWith(const std::vector<double>& values, const S& value, const S& category = "",
+                   const Texts& names = {}, bool horizontal = false, double width = 384) {
+    const S first =
+        S("<c:barDir val=\"") + (horizontal ? "bar" : "col") + "\"/><c:grouping val=\"clustered\"/>";
+    const S categories = names.empty() ? "" : CategoriesXml(names);
+    return Draw(PlotXml(GroupXml("barChart", first, SeriesXml(0, values, "", "", categories)) +
+                        AxesXml(category, value, horizontal)),
+                "", width);
+  }
+};
+
+TEST_F(AxesTest, AxesOfValuesShowTheirMajorUnits) {
+  struct {
+    const char* what;
+    std::vector<double> values;
+    S axis;
+    Texts labels;
+  } cases[] = {
+      {"a plain axis", {7, 42, 18}, "", {"0", "5", "10", "15", "20", "25", "30", "35", "40", "45"}},
+      {"limits and a unit by hand",
+       {7, 42},
+       "<c:scaling><c:max val=\"60\"/><c:min val=\"-20\"/></c:scaling><c:majorUnit val=\"40\"/>",
+       {"-20", "20", "60"}},
+      {"a number format",
+       {0.25, 1},
+       "<c:scaling><c:max val=\"1\"/><c:min val=\"0\"/></c:scaling><c:numFmt formatCode=\"0.0%\" "
+       "sourceLinked=\"0\"/><c:majorUnit val=\"0.5\"/>",
+       {"0.0%", "50.0%", "100.0%"}},
+      {"powers of ten",
+       {3, 1200},
+       "<c:scaling><c:logBase val=\"10\"/></c:scaling>",
+       {"1", "10", "100", "1000", "10000"}},
+      {"thousands",
+       {1000, 4000},
+       "<c:majorUnit val=\"2000\"/><c:dispUnits><c:builtInUnit val=\"thousands\"/></c:dispUnits>",
+       {"0", "2", "4", "6"}},
+      {"a unit too small for its labels",
+       {1000},
+       "<c:majorUnit val=\"0\"/>",
+       {"0", "200", "400", "600", "800", "1000", "1200"}},
+  };
+  for (const auto& test : cases) {
+    const Drawing drawing = DrawWith(test.values, test.axis);
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), test.labels) << test.what;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
+  }
+}
+
+TEST_F(AxesTest, LabelsAndGridlinesStandWhereTheirValuesAre) {
+  for (const bool reversed : {false, true}) {
+    for (const bool horizontal : {false, true}) {
+      const S scaling =
+          S("<c:scaling><c:orientation val=\"") + (reversed ? "maxMin" : "minMax") +
+          "\"/><c:max val=\"4\"/><c:min val=\"0\"/></c:scaling><c:majorGridlines/><c:majorUnit val=\"1\"/>";
+      const Drawing drawing = DrawWith({1, 4}, scaling, "", {}, horizontal);
+      const Rect plot = BoxOf(drawing, Role::kPlotArea);
+      const auto lines = BoxesOf(drawing, Role::kGridline, 2), labels = BoxesOf(drawing, Role::kTickLabel, 2);
+      ASSERT_EQ(lines.size(), 5u);
+      ASSERT_EQ(labels.size(), 5u);
+      for (std::size_t i = 0; i < 5; ++i) {
+        const double share = static_cast<double>(reversed ? 4 - i : i) / 4;
+        const auto place = [&](const Rect& box) { return horizontal ? box.Center().x : box.Center().y; };
+        const double expected =
+            horizontal ? plot.left + plot.width * share : plot.Bottom() - plot.height * share;
+        EXPECT_NEAR(place(lines[i]), expected, 1e-6) << reversed << horizontal << i;
+        EXPECT_NEAR(place(labels[i]), expected, 1e-6) << reversed << horizontal << i;
+      }
+      EXPECT_EQ(DrawingComplaints(drawing), "");
+    }
+  }
+}
+
+TEST_F(AxesTest, AnAxisLiesWhereItCrossesTheOther) {
+  struct {
+    const char* what;
+    S category, value;
+    double share;  // of the plot area's height, from the bottom
+    bool labelsBelowPlot;
+  } cases[] = {
+      {"at zero", "", "", 1.0 / 3, false},
+      {"at the least", "<c:crosses val=\"min\"/>", "", 0, true},
+      {"at a value", "<c:crossesAt val=\"5\"/>", "", 0.5, false},
+      {"labels at the low end", "<c:tickLblPos val=\"low\"/>", "", 1.0 / 3, true},
+  };
+  for (const auto& test : cases) {
+    const Drawing drawing =
+        DrawWith({-5, 15}, "<c:scaling><c:max val=\"20\"/><c:min val=\"-10\"/></c:scaling>" + test.value,
+                 test.category);
+    const Rect plot = BoxOf(drawing, Role::kPlotArea);
+    EXPECT_NEAR(BoxOf(drawing, Role::kAxisLine, 1).top, plot.Bottom() - plot.height * test.share, 1e-6)
+        << test.what;
+    EXPECT_EQ(BoxOf(drawing, Role::kTickLabel, 1).top >= plot.Bottom(), test.labelsBelowPlot) << test.what;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
+  }
+}
+
+/// How the labels of the category axis look.
+struct LabelCase {
+  const char* name;
+  std::size_t count;
+  S text;  // the number of the category goes behind it
+  S axis;
+  double rotation;
+  bool all;  // no label is left out
+};
+
+class CategoryLabelsTest : public AxesTest, public ::testing::WithParamInterface<LabelCase> {};
+
+TEST_P(CategoryLabelsTest, AreWrappedTurnedOrSkippedUntilNoneTouchesAnother) {
+  const LabelCase& test = GetParam();
+  Texts names;
+  for (std::size_t i = 0; i < test.count; ++i) names.push_back(test.text + std::to_string(i + 1));
+  const Drawing drawing = DrawWith(std::vector<double>(test.count, 5), "", test.axis, names);
+  EXPECT_EQ(DrawingComplaints(drawing), "");
+  const auto labels = ItemsOf(drawing, Role::kTickLabel, 1);
+  ASSERT_FALSE(labels.empty());
+  std::set<int> numbers;
+  for (const auto& label : labels) {
+    numbers.insert(label.tag.point);
+    EXPECT_EQ(std::get<render::TextItem>(label.content).rotation, test.rotation);
+  }
+  EXPECT_EQ(numbers.size() == test.count, test.all) << numbers.size();
+  EXPECT_TRUE(numbers.contains(1));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, CategoryLabelsTest,
+    ::testing::Values(
+        LabelCase{"Plain", 4, "Quarter ", "", 0, true},
+        LabelCase{"WrappedAtBlanks", 6, "Northern hemisphere ", "", 0, true},
+        LabelCase{"Slanted", 12, "Septembers", "", -45, true},
+        LabelCase{"Upright", 24, "Septembers", "", -90, true},
+        LabelCase{"UprightAndSkipped", 90, "Septembers", "", -90, false},
+        LabelCase{"NumbersAreSkipped", 200, "", "", 0, false},
+        LabelCase{"SkippedByHand", 10, "Q", "<c:tickLblSkip val=\"3\"/>", 0, false},
+        LabelCase{"FlatByHand", 40, "Septembers",
+                  "<c:txPr><a:bodyPr rot=\"0\"/><a:p><a:pPr><a:defRPr/></a:pPr></a:p></c:txPr>", 0, false},
+        LabelCase{"TurnedByHand", 5, "Q",
+                  "<c:txPr><a:bodyPr rot=\"5400000\"/><a:p><a:pPr><a:defRPr/></a:pPr></a:p></c:txPr>", 90,
+                  true}),
+    [](const auto& info) { return S(info.param.name); });
+
+TEST_F(AxesTest, DatesLieWhereTheirDayMonthOrYearIs) {
+  struct {
+    const char* what;
+    S axis;
+    std::vector<double> serials, slots;  // 45292 is 1 January 2024
+    Texts labels;
+  } cases[] = {
+      {"days", "", {45292, 45293, 45296}, {0, 1, 4}, {"1-1", "1-2", "1-3", "1-4", "1-5"}},
+      {"months by themselves", "", {45292, 45352, 45383}, {0, 2, 3}, {"1-1", "2-1", "3-1", "4-1"}},
+      {"years by hand",
+       "<c:baseTimeUnit val=\"years\"/>",
+       {45292, 45352, 46023},
+       {0, 0, 2},
+       {"1-1", "1-1", "1-1"}},
+      {"the last day of each month",
+       "<c:baseTimeUnit val=\"days\"/><c:majorUnit val=\"1\"/><c:majorTimeUnit val=\"months\"/>",
+       {45322, 45323, 45412},
+       {0, 1, 90},
+       {"1-31", "2-29", "3-31", "4-30"}},
+      {"a label a year",
+       "<c:baseTimeUnit val=\"months\"/><c:majorUnit val=\"1\"/><c:majorTimeUnit val=\"years\"/>",
+       {45323, 45352, 46054},
+       {0, 1, 24},
+       {"2-1", "2-1", "2-1"}},
+      {"no dates", "", {1, 1e9}, {}, {"1-1", "########"}},
+  };
+  for (const auto& test : cases) {
+    S cache, values;
+    for (std::size_t i = 0; i < test.serials.size(); ++i) {
+      cache +=
+          "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + std::to_string(test.serials[i]) + "</c:v></c:pt>";
+    }
+    const S categories = "<c:cat><c:numLit><c:formatCode>m-d</c:formatCode><c:ptCount val=\"" +
+                         std::to_string(test.serials.size()) + "\"/>" + cache + "</c:numLit></c:cat>";
+    S axes = AxesXml("<c:numFmt formatCode=\"m-d\" sourceLinked=\"0\"/>" + test.axis);
+    for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "dateAx");
+    const Drawing drawing =
+        Draw(PlotXml(GroupXml("lineChart", "",
+                              SeriesXml(0, std::vector<double>(test.serials.size(), 2), "", "", categories),
+                              "<c:marker val=\"1\"/>") +
+                     axes));
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), test.labels) << test.what;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
+    const Rect plot = BoxOf(drawing, Role::kPlotArea);
+    const auto markers = BoxesOf(drawing, Role::kMarker);
+    for (std::size_t i = 0; i < test.slots.size(); ++i) {
+      const double expected = plot.left + plot.width * (test.slots[i] + 0.5) / (test.slots.back() + 1);
+      EXPECT_NEAR(markers[i].Center().x, expected, 1e-6) << test.what << i;
+    }
+  }
+}
+
+TEST_F(AxesTest, LongNamesBesideBarsLeaveRoomForThem) {
+  const Drawing drawing = DrawWith(
+      {3, 5}, "", "", {"A name that goes on and on until nothing is left of the chart at all", "B"}, true);
+  EXPECT_GT(BoxOf(drawing, Role::kPlotArea).width, 384 * 0.3);
+  EXPECT_GT(TextsOf(drawing, Role::kTickLabel, 1).size(), 2u);  // lines
+  EXPECT_EQ(DrawingComplaints(drawing), "");
+}
+
+TEST_F(AxesTest, TitlesStandOutsideOfTheLabels) {
+  const auto title = [](const S& text, const S& body = "<a:bodyPr/>") {
+    return "<c:title><c:tx><c:rich>" + body + "<a:p><a:r><a:t>" + text +
+           "</a:t></a:r></a:p></c:rich></c:tx></c:title>";
+  };
+  const Drawing drawing = DrawWith(
+      {1, 2},
+      title("Sales") + "<c:dispUnits><c:builtInUnit val=\"thousands\"/><c:dispUnitsLbl/></c:dispUnits>",
+      title("Quarter"));
+  EXPECT_EQ(DrawingComplaints(drawing), "");
+  EXPECT_EQ(TextsOf(drawing, Role::kAxisTitle, 2), Texts{"Sales"});
+  EXPECT_EQ(std::get<render::TextItem>(ItemsOf(drawing, Role::kAxisTitle, 2)[0].content).rotation, -90);
+  EXPECT_LT(BoxOf(drawing, Role::kAxisTitle, 2).Right(), BoxOf(drawing, Role::kTickLabel, 2).left);
+  EXPECT_EQ(TextsOf(drawing, Role::kDisplayUnits), Texts{"Thousands"});
+  EXPECT_LT(BoxOf(drawing, Role::kTickLabel, 1).Bottom(), BoxOf(drawing, Role::kAxisTitle, 1).top);
+  EXPECT_NEAR(BoxOf(drawing, Role::kAxisTitle, 1).Center().x, BoxOf(drawing, Role::kPlotArea).Center().x,
+              0.5);
+  // a horizontal title by hand
+  const Drawing flat = DrawWith({1, 2}, title("Sales", "<a:bodyPr rot=\"0\" vert=\"horz\"/>"));
+  EXPECT_EQ(std::get<render::TextItem>(ItemsOf(flat, Role::kAxisTitle, 2)[0].content).rotation, 0);
+}
+
+}  // namespace
+}  // namespace plotsmith

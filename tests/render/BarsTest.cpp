@@ -1,0 +1,122 @@
+#include "tests/render/DrawingTest.h"
+
+namespace plotsmith {
+namespace {
+
+using namespace test;
+using render::Drawing;
+using render::Rect;
+using render::Role;
+using S = std::string;
+
+/// How values of three categories become bars.
+struct BarCase {
+  const char* name;
+  const char* direction;
+  const char* grouping;
+  S valueAxis;
+};
+
+class BarsTest : public DrawingTest, public ::testing::WithParamInterface<BarCase> {
+ protected:
+  Drawing DrawCase(const std::vector<std::vector<double>>& values) {
+    const BarCase& test = GetParam();
+    S series;
+    for (std::size_t s = 0; s < values.size(); ++s) series += SeriesXml(static_cast<int>(s), values[s]);
+    const bool stacked = S(test.grouping) != "clustered";
+    const S first =
+        S("<c:barDir val=\"") + test.direction + "\"/><c:grouping val=\"" + test.grouping + "\"/>";
+    return Draw(PlotXml(
+        GroupXml("barChart", first, series,
+                 stacked ? "<c:gapWidth val=\"50\"/><c:overlap val=\"100\"/>" : "<c:gapWidth val=\"50\"/>") +
+        AxesXml("", test.valueAxis, Horizontal())));
+  }
+  bool Horizontal() const { return S(GetParam().direction) == "bar"; }
+  double Length(const Rect& box) const { return Horizontal() ? box.width : box.height; }
+  double Thickness(const Rect& box) const { return Horizontal() ? box.height : box.width; }
+};
+
+TEST_P(BarsTest, AreAsLongAsTheirValues) {
+  const std::vector<std::vector<double>> values = {{10, 25, 0.5}, {30, 5, 12}};
+  const Drawing drawing = DrawCase(values);
+  EXPECT_EQ(DrawingComplaints(drawing), "");
+  const bool percent = S(GetParam().grouping) == "percentStacked";
+  std::optional<double> pointsPerUnit;
+  for (int s = 0; s < 2; ++s) {
+    const auto boxes = BoxesOf(drawing, Role::kBar, s + 1);
+    ASSERT_EQ(boxes.size(), 3u);
+    for (std::size_t i = 0; i < 3; ++i) {
+      const double value =
+          values[static_cast<std::size_t>(s)][i] / (percent ? values[0][i] + values[1][i] : 1);
+      const double scale = Length(boxes[i]) / value;
+      EXPECT_NEAR(scale / pointsPerUnit.value_or(scale), 1, 1e-9) << s << ' ' << i;
+      pointsPerUnit = scale;
+      EXPECT_NEAR(Thickness(boxes[i]), Thickness(boxes[0]), 1e-9);
+    }
+  }
+  // half a bar's width is the gap, so a category is two and a half bars wide, or one and a half
+  const Rect plot = BoxOf(drawing, Role::kPlotArea);
+  const double slots = S(GetParam().grouping) == "clustered" ? 2.5 : 1.5;
+  EXPECT_NEAR(Thickness(BoxesOf(drawing, Role::kBar)[0]) * slots * 3, Thickness(plot), 1e-6);
+}
+
+TEST_P(BarsTest, TouchWhereTheyArePiledUpAndStandBesideEachOtherElsewhere) {
+  const Drawing drawing = DrawCase({{10, 25, 3}, {30, 5, 12}, {5, 5, 5}});
+  for (std::size_t i = 0; i < 3; ++i) {
+    for (int s = 1; s < 3; ++s) {
+      const Rect a = BoxesOf(drawing, Role::kBar, s)[i], b = BoxesOf(drawing, Role::kBar, s + 1)[i];
+      EXPECT_FALSE(Overlap(a, b, 1e-6));
+      const Rect both = Union(a, b);
+      EXPECT_NEAR(both.width * both.height,
+                  S(GetParam().grouping) == "clustered" ? both.width * both.height
+                                                        : a.width * a.height + b.width * b.height,
+                  1e-6);
+      const double step = Horizontal() ? a.top - b.top : b.left - a.left;
+      EXPECT_NEAR(step, S(GetParam().grouping) == "clustered" ? Thickness(a) : 0, 1e-6);
+    }
+  }
+}
+
+TEST_P(BarsTest, GoTheOtherWayFromZeroWhereTheyAreNegative) {
+  const Drawing drawing = DrawCase({{10, -20, kNoValue}, {-5, -10, 15}});
+  EXPECT_EQ(DrawingComplaints(drawing), "");
+  const auto first = BoxesOf(drawing, Role::kBar, 1), second = BoxesOf(drawing, Role::kBar, 2);
+  ASSERT_EQ(first.size(), 2u);
+  ASSERT_EQ(second.size(), 3u);
+  const auto base = [&](const Rect& box, bool negative) {
+    const bool reversed = GetParam().valueAxis.find("maxMin") != S::npos;
+    if (Horizontal()) return negative != reversed ? box.Right() : box.left;
+    return negative != reversed ? box.top : box.Bottom();
+  };
+  EXPECT_NEAR(base(first[0], false), base(first[1], true), 1e-6);
+  EXPECT_NEAR(base(first[0], false), base(second[0], true), 1e-6);
+  EXPECT_NEAR(base(first[0], false), base(second[2], false), 1e-6);
+}
+
+TEST_F(DrawingTest, BarsOverlapOrStandApartByAShareOfTheirWidth) {
+  for (const double overlap : {-100, -50, 0, 40, 100}) {
+    const Drawing drawing = Draw(
+        PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>",
+                         SeriesXml(0, {4, 2}) + SeriesXml(1, {1, 3}),
+                         "<c:gapWidth val=\"100\"/><c:overlap val=\"" + std::to_string(overlap) + "\"/>") +
+                AxesXml()));
+    const Rect first = BoxesOf(drawing, Role::kBar, 1)[0], second = BoxesOf(drawing, Role::kBar, 2)[0];
+    EXPECT_NEAR((first.Right() - second.left) / first.width, overlap / 100, 1e-6) << overlap;
+    const double category = BoxOf(drawing, Role::kPlotArea).width / 2;
+    EXPECT_NEAR(category, Union(first, second).width + first.width, 1e-6) << overlap;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, BarsTest,
+                         ::testing::Values(BarCase{"Columns", "col", "clustered", ""},
+                                           BarCase{"StackedColumns", "col", "stacked", ""},
+                                           BarCase{"PercentColumns", "col", "percentStacked", ""},
+                                           BarCase{"Bars", "bar", "clustered", ""},
+                                           BarCase{"StackedBars", "bar", "stacked", ""},
+                                           BarCase{"PercentBars", "bar", "percentStacked", ""},
+                                           BarCase{"HangingColumns", "col", "clustered",
+                                                   "<c:scaling><c:orientation val=\"maxMin\"/></c:scaling>"}),
+                         [](const auto& info) { return S(info.param.name); });
+
+}  // namespace
+}  // namespace plotsmith

@@ -1,0 +1,196 @@
+#include "tests/render/DrawingTest.h"
+
+#include <array>
+#include <map>
+#include <numbers>
+
+#include "xlsx/chart/ChartPart.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::test {
+
+using render::Drawing;
+using render::Item;
+using render::PathItem;
+using render::Point;
+using render::Rect;
+using render::Role;
+using render::TextItem;
+
+namespace {
+
+std::string Cache(const std::vector<double>& values) {
+  std::string xml = "<c:ptCount val=\"" + std::to_string(values.size()) + "\"/>";
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    if (std::isnan(values[i])) continue;
+    xml += "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + xlsx::xml::Number(values[i]) + "</c:v></c:pt>";
+  }
+  return "<c:numLit><c:formatCode>General</c:formatCode>" + xml + "</c:numLit>";
+}
+
+std::string Axis(const char* element, int number, int other, const char* side, const std::string& more) {
+  return "<c:" + std::string(element) + "><c:axId val=\"" + std::to_string(number) + "\"/>" +
+         (more.find("<c:scaling>") == std::string::npos ? "<c:scaling/>" : "") +
+         "<c:delete val=\"0\"/><c:axPos val=\"" + side + "\"/>" + more + "<c:crossAx val=\"" +
+         std::to_string(other) + "\"/></c:" + element + ">";
+}
+
+/// The corners of a turned text.
+std::array<Point, 4> CornersOf(const TextItem& text) {
+  using render::TextAlign;
+  const double shift = text.align == TextAlign::kStart    ? 0
+                       : text.align == TextAlign::kMiddle ? text.width / 2
+                                                          : text.width;
+  const double angle = text.rotation * std::numbers::pi / 180;
+  const auto at = [&](double x, double y) {
+    return Point{text.anchor.x + x * std::cos(angle) - y * std::sin(angle),
+                 text.anchor.y + x * std::sin(angle) + y * std::cos(angle)};
+  };
+  return {at(-shift, -text.ascent), at(text.width - shift, -text.ascent),
+          at(text.width - shift, text.descent), at(-shift, text.descent)};
+}
+
+/// Whether a line in the direction of one of the first one's edges parts two turned texts.
+bool ArePartedBy(const std::array<Point, 4>& a, const std::array<Point, 4>& b) {
+  constexpr double kSlack = 0.3;  // points
+  for (int edge = 0; edge < 2; ++edge) {
+    const Point from = a[static_cast<std::size_t>(edge)], to = a[static_cast<std::size_t>(edge) + 1];
+    const double length = std::hypot(to.x - from.x, to.y - from.y);
+    if (length == 0) return true;
+    const auto along = [&](Point p) { return (p.x * (to.x - from.x) + p.y * (to.y - from.y)) / length; };
+    const auto [leastA, mostA] = std::minmax({along(a[0]), along(a[1]), along(a[2]), along(a[3])});
+    const auto [leastB, mostB] = std::minmax({along(b[0]), along(b[1]), along(b[2]), along(b[3])});
+    if (mostA <= leastB + kSlack || mostB <= leastA + kSlack) return true;
+  }
+  return false;
+}
+
+std::string LabelComplaints(const Drawing& drawing) {
+  std::string complaints;
+  std::map<int, std::vector<std::pair<int, const TextItem*>>> labels;  // by the number of the axis
+  for (const Item& item : drawing.items) {
+    const auto* text = std::get_if<TextItem>(&item.content);
+    if (text != nullptr && item.tag.role == Role::kTickLabel)
+      labels[item.tag.series].push_back({item.tag.point, text});
+  }
+  for (const auto& [axis, list] : labels) {
+    for (std::size_t i = 1; i < list.size(); ++i) {
+      const bool same = list[i].first == list[i - 1].first;  // lines of one label
+      const auto a = CornersOf(*list[i - 1].second), b = CornersOf(*list[i].second);
+      if (same || ArePartedBy(a, b) || ArePartedBy(b, a)) continue;
+      complaints += "axis " + std::to_string(axis) + ": \"" + list[i - 1].second->text + "\" lies on \"" +
+                    list[i].second->text + "\"\n";
+    }
+  }
+  return complaints;
+}
+
+}  // namespace
+
+std::string CategoriesXml(const std::vector<std::string>& texts) {
+  std::string xml = "<c:cat><c:strLit><c:ptCount val=\"" + std::to_string(texts.size()) + "\"/>";
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    xml += "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + texts[i] + "</c:v></c:pt>";
+  }
+  return xml + "</c:strLit></c:cat>";
+}
+
+std::string SeriesXml(int index, const std::vector<double>& values, const std::string& more,
+                      const std::string& behind, const std::string& categories) {
+  const std::string number = std::to_string(index);
+  return "<c:ser><c:idx val=\"" + number + "\"/><c:order val=\"" + number + "\"/><c:tx><c:v>Series " +
+         number + "</c:v></c:tx>" + more + categories + "<c:val>" + Cache(values) + "</c:val>" + behind +
+         "</c:ser>";
+}
+
+std::string AxesXml(const std::string& category, const std::string& value, bool horizontal) {
+  return Axis("catAx", 1, 2, horizontal ? "l" : "b", category) +
+         Axis("valAx", 2, 1, horizontal ? "b" : "l", value);
+}
+
+std::string GroupXml(const std::string& element, const std::string& first, const std::string& series,
+                     const std::string& last) {
+  return "<c:" + element + ">" + first + series + last +
+         "<c:axId val=\"1\"/><c:axId val=\"2\"/></c:" + element + ">";
+}
+
+std::string PlotXml(const std::string& content, const std::string& behind) {
+  return "<c:autoTitleDeleted val=\"1\"/><c:plotArea>" + content + "</c:plotArea>" + behind;
+}
+
+render::Fonts& DrawingTest::SharedFonts() {
+  static render::Fonts fonts;
+  return fonts;
+}
+
+Drawing DrawingTest::Draw(const std::string& chart, const std::string& behind, double width, double height) {
+  OpenChart(ChartPartXml(chart, behind));
+  for (const std::string& part : Book().Package().Parts()) {
+    if (part.find("/charts/chart") == std::string::npos || !part.ends_with(".xml")) continue;
+    notes_.clear();
+    return render::DrawChart(*Book().Chart(part), width, height, SharedFonts(), notes_);
+  }
+  ADD_FAILURE() << "the workbook has no chart part";
+  return {};
+}
+
+std::vector<Item> ItemsOf(const Drawing& drawing, Role role, int series) {
+  std::vector<Item> items;
+  for (const Item& item : drawing.items) {
+    if (item.tag.role == role && (series == 0 || item.tag.series == series)) items.push_back(item);
+  }
+  return items;
+}
+
+std::vector<Rect> BoxesOf(const Drawing& drawing, Role role, int series) {
+  std::vector<Rect> boxes;
+  for (const Item& item : ItemsOf(drawing, role, series)) boxes.push_back(BoundsOf(item));
+  return boxes;
+}
+
+std::vector<std::string> TextsOf(const Drawing& drawing, Role role, int series) {
+  std::vector<std::string> texts;
+  for (const Item& item : ItemsOf(drawing, role, series)) {
+    if (const auto* text = std::get_if<TextItem>(&item.content)) texts.push_back(text->text);
+  }
+  return texts;
+}
+
+Rect BoxOf(const Drawing& drawing, Role role, int series) {
+  const auto boxes = BoxesOf(drawing, role, series);
+  if (boxes.empty()) return {};
+  Rect all = boxes.front();
+  for (const Rect& box : boxes) all = Union(all, box);
+  return all;
+}
+
+std::string FillOf(const Item& item) {
+  const auto* path = std::get_if<PathItem>(&item.content);
+  const auto* solid = path == nullptr ? nullptr : std::get_if<render::SolidFill>(&path->fill);
+  return solid == nullptr ? "none" : HexOf(solid->color);
+}
+
+std::string DrawingComplaints(const Drawing& drawing) {
+  std::string complaints;
+  int clips = 0;
+  for (const Item& item : drawing.items) {
+    clips += std::holds_alternative<render::PushClip>(item.content);
+    clips -= std::holds_alternative<render::PopClip>(item.content);
+    if (clips < 0) complaints += "a clip ends that didn't begin\n";
+    const Rect box = BoundsOf(item);
+    if (!std::isfinite(box.left + box.top + box.width + box.height)) {
+      complaints += "a " + std::string(NameOf(item.tag.role)) + " is nowhere\n";
+    }
+    const auto* text = std::get_if<TextItem>(&item.content);
+    constexpr double kSlack = 1;  // points
+    const bool outside = box.left < -kSlack || box.top < -kSlack || box.Right() > drawing.width + kSlack ||
+                         box.Bottom() > drawing.height + kSlack;
+    if (text != nullptr && outside) {
+      complaints += std::string(NameOf(item.tag.role)) + " \"" + text->text + "\" leaves the chart\n";
+    }
+  }
+  if (clips != 0) complaints += "a clip doesn't end\n";
+  return complaints + LabelComplaints(drawing);
+}
+
+}  // namespace plotsmith::test

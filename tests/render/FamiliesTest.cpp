@@ -1,0 +1,191 @@
+#include <numbers>
+
+#include "tests/render/DrawingTest.h"
+#include "xlsx/Worksheet.h"
+
+namespace plotsmith {
+namespace {
+
+using namespace test;
+using render::Drawing;
+using render::Item;
+using render::PathItem;
+using render::PathStep;
+using render::Point;
+using render::Rect;
+using render::Role;
+using S = std::string;
+
+class FamiliesTest : public DrawingTest {
+ protected:
+  Drawing DrawPie(const std::vector<double>& values, const S& more = "", const S& last = "",
+                  const S& behind = "") {
+    return Draw(
+        PlotXml("<c:pieChart><c:varyColors val=\"1\"/>" + SeriesXml(0, values, more) + last + "</c:pieChart>",
+                behind));
+  }
+  /// A bubble chart of one series; each bubble is X, Y and size.
+  Drawing DrawBubbles(const std::vector<std::array<double, 3>>& bubbles, const S& last) {
+    const auto data = [&](const char* element, std::size_t which) {
+      S xml = "<c:" + S(element) + "><c:numLit><c:ptCount val=\"" + std::to_string(bubbles.size()) + "\"/>";
+      for (std::size_t i = 0; i < bubbles.size(); ++i) {
+        xml += "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + std::to_string(bubbles[i][which]) +
+               "</c:v></c:pt>";
+      }
+      return xml + "</c:numLit></c:" + element + ">";
+    };
+    const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>" + data("xVal", 0) + data("yVal", 1) +
+                     data("bubbleSize", 2) + "</c:ser>";
+    S axes = AxesXml("", "");
+    for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "valAx");
+    return Draw(PlotXml(GroupXml("bubbleChart", "", series, last) + axes));
+  }
+};
+
+/// The angles in degrees at which a slice begins and ends, clockwise from twelve o'clock about its point.
+std::pair<double, double> AnglesOf(const Item& slice) {
+  const auto& steps = std::get<PathItem>(slice.content).path.Steps();
+  const Point center = steps[0].to;
+  const auto angle = [&](Point p) {
+    const double degrees = std::atan2(p.x - center.x, center.y - p.y) * 180 / std::numbers::pi;
+    return degrees < -1e-9 ? degrees + 360 : degrees;
+  };
+  return {angle(steps[1].to), angle(steps[steps.size() - 2].to)};
+}
+
+TEST_F(FamiliesTest, SlicesShareTheCircleByTheirValues) {
+  const std::vector<double> values = {30, 10, -20, 60};  // a pie counts how far from zero a value is
+  const Drawing drawing = DrawPie(values, "", "<c:firstSliceAng val=\"90\"/>");
+  const auto slices = ItemsOf(drawing, Role::kSlice);
+  ASSERT_EQ(slices.size(), 4u);
+  double at = 90, sum = 0;
+  for (std::size_t i = 0; i < 4; ++i) {
+    const auto [from, to] = AnglesOf(slices[i]);
+    EXPECT_NEAR(std::fmod(at, 360), from, 1e-6) << i;
+    const double sweep = std::fmod(to - from + 360, 360);
+    EXPECT_NEAR(sweep, 360 * std::abs(values[i]) / 120, 1e-6) << i;
+    at += sweep;
+    sum += sweep;
+  }
+  EXPECT_NEAR(sum, 360, 1e-6);
+  EXPECT_EQ(FillOf(slices[0]), "#4F81BD");
+  EXPECT_EQ(FillOf(slices[1]), "#C0504D");
+}
+
+TEST_F(FamiliesTest, ExplodedSlicesMoveOutAlongTheirMiddle) {
+  const Drawing whole = DrawPie({1, 1});
+  const Drawing exploded = DrawPie({1, 1}, "<c:explosion val=\"25\"/>");
+  const auto before = BoxesOf(whole, Role::kSlice), after = BoxesOf(exploded, Role::kSlice);
+  const double radius = after[0].width;
+  EXPECT_NEAR(before[0].left, before[1].Right(), 1e-6);
+  EXPECT_NEAR(after[0].left - after[1].Right(), 2 * 0.25 * radius, 1e-6);
+  EXPECT_NEAR(before[0].width, radius * 1.25, 1e-6);  // so that the moved slices keep to the same place
+}
+
+TEST_F(FamiliesTest, BubblesShowTheirSizeAsAreaOrAsWidth) {
+  const std::vector<std::array<double, 3>> bubbles = {{1, 1, 100}, {2, 3, 25}, {3, 2, -50}, {4, 4, 0}};
+  struct {
+    const char* last;
+    std::vector<double> shares;  // of the largest width
+  } cases[] = {
+      {"", {1, 0.5}},
+      {"<c:sizeRepresents val=\"w\"/>", {1, 0.25}},
+      {"<c:bubbleScale val=\"200\"/>", {2, 1}},
+      {"<c:showNegBubbles val=\"1\"/>", {1, 0.5, std::sqrt(0.5)}},
+  };
+  for (const auto& test : cases) {
+    const Drawing drawing = DrawBubbles(bubbles, test.last);
+    const auto boxes = BoxesOf(drawing, Role::kBubble);
+    const Rect plot = BoxOf(drawing, Role::kPlotArea);
+    ASSERT_EQ(boxes.size(), test.shares.size()) << test.last;
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+      EXPECT_NEAR(boxes[i].width, std::min(plot.width, plot.height) / 4 * test.shares[i], 1e-6)
+          << test.last << i;
+      EXPECT_NEAR(boxes[i].width, boxes[i].height, 1e-9);
+    }
+  }
+}
+
+TEST_F(FamiliesTest, LinesAndAreasGoThroughTheirValues) {
+  const auto value = "<c:scaling><c:max val=\"10\"/><c:min val=\"0\"/></c:scaling>";
+  const Drawing lines =
+      Draw(PlotXml(GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
+                            SeriesXml(0, {2, kNoValue, 10, 5},
+                                      "<c:marker><c:symbol val=\"square\"/><c:size val=\"6\"/></c:marker>")) +
+                       AxesXml("", value),
+                   "<c:dispBlanksAs val=\"gap\"/>"));
+  const Rect plot = BoxOf(lines, Role::kPlotArea);
+  const auto markers = BoxesOf(lines, Role::kMarker);
+  ASSERT_EQ(markers.size(), 3u);
+  EXPECT_NEAR(markers[0].Center().y, plot.Bottom() - plot.height * 0.2, 1e-6);
+  EXPECT_NEAR(markers[1].Center().y, plot.top, 1e-6);
+  EXPECT_NEAR(markers[2].Center().x, plot.left + plot.width * 3.5 / 4, 1e-6);
+  // the value before the gap is alone, so that only the last two are joined
+  const Rect line = BoxOf(lines, Role::kLine);
+  EXPECT_NEAR(line.left, markers[1].Center().x, 1e-6);
+  EXPECT_NEAR(line.Right(), markers[2].Center().x, 1e-6);
+
+  const Drawing areas = Draw(PlotXml(
+      GroupXml("areaChart", "<c:grouping val=\"stacked\"/>", SeriesXml(0, {2, 4}) + SeriesXml(1, {3, 6})) +
+      AxesXml("", value + S("<c:crossBetween val=\"midCat\"/>"))));
+  const Rect inner = BoxOf(areas, Role::kPlotArea);
+  const auto steps = std::get<PathItem>(ItemsOf(areas, Role::kArea, 2)[0].content).path.Steps();
+  const double expected[][2] = {{0, 5}, {1, 10}, {1, 4}, {0, 2}};
+  ASSERT_EQ(steps.size(), 5u);
+  for (std::size_t i = 0; i < 4; ++i) {
+    EXPECT_NEAR(steps[i].to.x, inner.left + inner.width * expected[i][0], 1e-6) << i;
+    EXPECT_NEAR(steps[i].to.y, inner.Bottom() - inner.height * expected[i][1] / 10, 1e-6) << i;
+  }
+}
+
+TEST_F(FamiliesTest, ValuesWithoutACacheAreThoseOfTheCells) {
+  const S series =
+      "<c:ser><c:idx val=\"0\"/><c:order "
+      "val=\"0\"/><c:cat><c:strRef><c:f>Sheet1!$A$2:$A$4</c:f></c:strRef></c:cat>"
+      "<c:val><c:numRef><c:f>Sheet1!$C$2:$C$4</c:f></c:numRef></c:val></c:ser>";
+  const Drawing drawing = Draw(PlotXml(
+      GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>", series) + AxesXml()));
+  const auto sheet = Book().FindWorksheet("Sheet1");
+  const auto bars = BoxesOf(drawing, Role::kBar);
+  ASSERT_EQ(bars.size(), 3u);
+  const auto value = [&](int row) { return sheet->Stored(row, 3).number; };
+  for (int i = 0; i < 3; ++i) {
+    const auto& bar = bars[static_cast<std::size_t>(i)];
+    EXPECT_NEAR(bar.height / bars[0].height, value(i + 2) / value(2), 1e-9) << i;
+  }
+  std::string scratch;
+  EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1)[0], sheet->CellTextAt(2, 1, scratch));
+}
+
+TEST_F(FamiliesTest, SeriesOfTwoAxesFollowTheirOwnScale) {
+  S second =
+      AxesXml("", "<c:scaling><c:max val=\"1\"/><c:min val=\"0\"/></c:scaling><c:crosses val=\"max\"/>");
+  const auto renumber = [](S xml) {
+    for (const auto& [from, to] : {std::pair{"\"1\"/>", "\"11\"/>"}, {"\"2\"/>", "\"12\"/>"}}) {
+      for (const char* name : {"axId val=", "crossAx val="}) {
+        const S wanted = S(name) + from;
+        for (std::size_t at; (at = xml.find(wanted)) != S::npos;)
+          xml.replace(at, wanted.size(), S(name) + to);
+      }
+    }
+    return xml;
+  };
+  second = renumber(second);
+  second.replace(second.find("<c:delete val=\"0\"/>"), 19, "<c:delete val=\"1\"/>");
+  const Drawing drawing = Draw(
+      PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>",
+                       SeriesXml(0, {50, 100})) +
+              renumber(GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
+                                SeriesXml(1, {0.5, 1}, "<c:marker><c:symbol val=\"dash\"/></c:marker>"))) +
+              AxesXml("", "<c:scaling><c:max val=\"100\"/><c:min val=\"0\"/></c:scaling>") + second));
+  const auto bars = BoxesOf(drawing, Role::kBar), markers = BoxesOf(drawing, Role::kMarker);
+  ASSERT_EQ(markers.size(), 2u);
+  for (std::size_t i = 0; i < 2; ++i) EXPECT_NEAR(markers[i].Center().y, bars[i].top, 1e-6) << i;
+  const Rect plot = BoxOf(drawing, Role::kPlotArea);
+  EXPECT_LT(BoxOf(drawing, Role::kTickLabel, 2).Right(), plot.left);
+  EXPECT_GT(BoxOf(drawing, Role::kTickLabel, 4).left, plot.Right());
+  EXPECT_EQ(DrawingComplaints(drawing), "");
+}
+
+}  // namespace
+}  // namespace plotsmith

@@ -1,0 +1,142 @@
+#include <chrono>
+
+#include "render/cairo/CairoPainter.h"
+#include "render/svg/SvgWriter.h"
+#include "tests/render/DrawingTest.h"
+
+namespace plotsmith {
+namespace {
+
+using namespace test;
+using render::Drawing;
+using render::Role;
+using S = std::string;
+
+/// Chart parts as no program writes them by mistake.
+struct HostileCase {
+  const char* name;
+  S chart;
+};
+
+const S kColumns = "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>";
+
+S ColumnsOn(const S& category, const S& value, const std::vector<double>& values = {1, 2, 3}) {
+  return PlotXml(
+      GroupXml("barChart", kColumns, SeriesXml(0, values, "<c:dLbls><c:showVal val=\"1\"/></c:dLbls>")) +
+          AxesXml(category, value),
+      "<c:legend/>");
+}
+
+S ScalingXml(const S& least, const S& most, const S& more = "") {
+  return "<c:scaling>" + more + "<c:max val=\"" + most + "\"/><c:min val=\"" + least + "\"/></c:scaling>";
+}
+
+S ManySeries(int count) {
+  S series;
+  for (int i = 0; i < count; ++i) series += SeriesXml(i, {1, 2});
+  return series;
+}
+
+S Claiming(const S& count) {
+  return "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:val><c:numLit><c:ptCount val=\"" + count +
+         "\"/><c:pt idx=\"0\"><c:v>1</c:v></c:pt></c:numLit></c:val></c:ser>";
+}
+
+class HostileTest : public DrawingTest, public ::testing::WithParamInterface<HostileCase> {};
+
+TEST_P(HostileTest, IsDrawnSomehowInLittleTimeAndSpace) {
+  const auto start = std::chrono::steady_clock::now();
+  for (const auto& [width, height] : {std::pair{384.0, 270.0}, {3.0, 2000.0}, {1.0, 1.0}}) {
+    const Drawing drawing = Draw(GetParam().chart, "", width, height);
+    EXPECT_LT(drawing.items.size(), 400'000u);
+    for (const auto& item : drawing.items) {
+      const auto box = BoundsOf(item);
+      ASSERT_TRUE(std::isfinite(box.left + box.top + box.width + box.height)) << NameOf(item.tag.role);
+    }
+    EXPECT_FALSE(MakeSvg(drawing).empty());
+    EXPECT_FALSE(MakePng(drawing, SharedFonts()).empty());
+  }
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Parts, HostileTest,
+    ::testing::Values(
+        HostileCase{"Empty", ""}, HostileCase{"OnlyAGroup", PlotXml("<c:barChart/>")},
+        HostileCase{"NoAxes", PlotXml(GroupXml("barChart", kColumns, SeriesXml(0, {1, 2})))},
+        HostileCase{"NoPoints", ColumnsOn("", "", {})},
+        HostileCase{"NoValues", ColumnsOn("", "", {kNoValue, kNoValue})},
+        HostileCase{"Huge", ColumnsOn("", "", {1e308, -1e308, 1e-308})},
+        HostileCase{"HugeStacked",
+                    PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"stacked\"/>",
+                                     SeriesXml(0, {1e308, 1}) + SeriesXml(1, {1e308, 1})) +
+                            AxesXml())},
+        HostileCase{"HugePercent", PlotXml(GroupXml("areaChart", "<c:grouping val=\"percentStacked\"/>",
+                                                    SeriesXml(0, {1e308, 1}) + SeriesXml(1, {1e308, 1})) +
+                                           AxesXml())},
+        HostileCase{"HugePie", PlotXml("<c:pieChart>" + SeriesXml(0, {1e308, 1e308}) + "</c:pieChart>")},
+        HostileCase{"ZeroPie", PlotXml("<c:pieChart>" + SeriesXml(0, {0, 0}) + "</c:pieChart>")},
+        HostileCase{"ReversedLimits", ColumnsOn("", ScalingXml("10", "-10"))},
+        HostileCase{"NoRange", ColumnsOn("", ScalingXml("5", "5"))},
+        HostileCase{"EndlessRange", ColumnsOn("", ScalingXml("-1e308", "1e308"))},
+        HostileCase{"NoNumbers", ColumnsOn("", ScalingXml("NaN", "INF"))},
+        HostileCase{"Ticks", ColumnsOn("", "<c:majorGridlines/>" + ScalingXml("0", "1000000") +
+                                               "<c:majorUnit val=\"1\"/>")},
+        HostileCase{
+            "TinyUnit",
+            ColumnsOn("", "<c:minorGridlines/><c:majorUnit val=\"1e-300\"/><c:minorUnit val=\"1e-300\"/>")},
+        HostileCase{"Logarithm", ColumnsOn("", ScalingXml("-5", "0", "<c:logBase val=\"0.5\"/>"))},
+        HostileCase{"FarCrossing",
+                    ColumnsOn("<c:crossesAt val=\"1e300\"/>", "<c:crossesAt val=\"-1e300\"/>")},
+        HostileCase{
+            "Skips",
+            ColumnsOn("<c:tickLblSkip val=\"9223372036854775807\"/><c:tickMarkSkip val=\"-5\"/>", "")},
+        HostileCase{"ManySeries",
+                    PlotXml(GroupXml("barChart", kColumns, ManySeries(1000)) + AxesXml(), "<c:legend/>")},
+        HostileCase{"ClaimedPoints",
+                    PlotXml(GroupXml("lineChart", "", Claiming("4000000")) + AxesXml(), "<c:legend/>")},
+        HostileCase{"ClaimedSlices",
+                    PlotXml("<c:pieChart>" + Claiming("99999999999") + "</c:pieChart>", "<c:legend/>")},
+        HostileCase{"NegativeClaim", PlotXml(GroupXml("lineChart", "", Claiming("-7")) + AxesXml())},
+        HostileCase{
+            "Layouts",
+            PlotXml("<c:layout><c:manualLayout><c:xMode val=\"edge\"/><c:x val=\"-9\"/><c:w val=\"-3\"/><c:h "
+                    "val=\"1e300\"/></c:manualLayout></c:layout>" +
+                        GroupXml("barChart", kColumns, SeriesXml(0, {1, 2})) + AxesXml(),
+                    "<c:legend><c:layout><c:manualLayout><c:x val=\"7\"/><c:w val=\"0\"/><c:h val=\"-1\"/>"
+                    "</c:manualLayout></c:layout></c:legend>")},
+        HostileCase{
+            "Fonts",
+            PlotXml(
+                GroupXml("barChart", kColumns, SeriesXml(0, {1, 2})) +
+                AxesXml(
+                    "<c:txPr><a:bodyPr rot=\"99999999999\"/><a:p><a:pPr><a:defRPr sz=\"999999999\"/></a:pPr>"
+                    "</a:p></c:txPr>",
+                    "<c:txPr><a:bodyPr rot=\"2700000\"/><a:p><a:pPr><a:defRPr sz=\"-5\"/></a:pPr></a:p>"
+                    "</c:txPr>"))},
+        HostileCase{"LongText",
+                    PlotXml(GroupXml("barChart", kColumns,
+                                     SeriesXml(0, {1, 2}, "", "",
+                                               CategoriesXml({S(200'000, 'x'), S(100'000, ' ')}))) +
+                                AxesXml(),
+                            "<c:legend/>")},
+        HostileCase{"Explosion",
+                    PlotXml("<c:doughnutChart>" + SeriesXml(0, {1, 2}, "<c:explosion val=\"4000000000\"/>") +
+                            "<c:firstSliceAng val=\"-1e9\"/><c:holeSize val=\"1000\"/></c:doughnutChart>")}),
+    [](const auto& info) { return S(info.param.name); });
+
+TEST_F(DrawingTest, FiveThousandPointsOf254SeriesStayUsable) {
+  std::vector<double> values;
+  for (int i = 0; i < 5000; ++i) values.push_back(std::sin(i / 50.0) + i % 7);
+  S series;
+  for (int s = 0; s < 254; ++s) series += SeriesXml(s, values);
+  const S chart =
+      PlotXml(GroupXml("lineChart", "<c:grouping val=\"standard\"/>", series) + AxesXml(), "<c:legend/>");
+  const Drawing drawing = Draw(chart);
+  EXPECT_LT(drawing.items.size(), 5000u);
+  EXPECT_EQ(DrawingComplaints(drawing), "");
+  EXPECT_EQ(ItemsOf(drawing, Role::kLine).size(), 254u);
+}
+
+}  // namespace
+}  // namespace plotsmith

@@ -1,0 +1,160 @@
+#include "tests/render/DrawingTest.h"
+
+namespace plotsmith {
+namespace {
+
+using namespace test;
+using render::Drawing;
+using render::Item;
+using render::PathItem;
+using render::Rect;
+using render::Role;
+using render::TextItem;
+using S = std::string;
+using Texts = std::vector<S>;
+
+class LayoutTest : public DrawingTest {
+ protected:
+  Drawing DrawColumns(const S& behind, const S& plotMore = "", const S& before = "",
+                      const S& grouping = "clustered") {
+    const S first = "<c:barDir val=\"col\"/><c:grouping val=\"" + grouping + "\"/>";
+    S chart = PlotXml(
+        plotMore +
+            GroupXml("barChart", first, SeriesXml(0, {1, 2}) + SeriesXml(1, {3, 1}) + SeriesXml(2, {2, 2})) +
+            AxesXml(),
+        behind);
+    if (!before.empty()) chart.replace(0, chart.find("<c:plotArea>"), before);
+    return Draw(chart);
+  }
+};
+
+S LegendXml(const S& position, const S& more = "") {
+  return "<c:legend><c:legendPos val=\"" + position + "\"/>" + more + "</c:legend>";
+}
+
+TEST_F(LayoutTest, TheLegendTakesItsSide) {
+  for (const S position : {"r", "l", "t", "b", "tr"}) {
+    const Drawing drawing = DrawColumns(LegendXml(position));
+    EXPECT_EQ(DrawingComplaints(drawing), "") << position;
+    EXPECT_EQ(TextsOf(drawing, Role::kLegendEntry), (Texts{"Series 0", "Series 1", "Series 2"})) << position;
+    const Rect entries = BoxOf(drawing, Role::kLegendEntry), plot = BoxOf(drawing, Role::kPlotArea);
+    if (position == "r" || position == "tr") EXPECT_GT(entries.left, plot.Right()) << position;
+    if (position == "l") EXPECT_LT(entries.Right(), plot.left);
+    if (position == "t") EXPECT_LT(entries.Bottom(), plot.top);
+    if (position == "b") EXPECT_GT(entries.top, BoxOf(drawing, Role::kTickLabel, 1).Bottom());
+    if (position == "r") EXPECT_NEAR(entries.Center().y, 135, 1);
+    if (position == "tr") EXPECT_LT(entries.top, 15);
+    // a key for each entry, on its line and in front of it
+    const auto keys = ItemsOf(drawing, Role::kLegendKey);
+    const auto texts = BoxesOf(drawing, Role::kLegendEntry);
+    ASSERT_EQ(keys.size(), 3u);
+    for (std::size_t i = 0; i < 3; ++i) {
+      EXPECT_EQ(FillOf(keys[i]), FillOf(ItemsOf(drawing, Role::kBar, static_cast<int>(i + 1))[0]))
+          << position;
+      EXPECT_LT(BoundsOf(keys[i]).Right(), texts[i].left) << position;
+      EXPECT_NEAR(BoundsOf(keys[i]).Center().y, texts[i].Center().y, 0.1) << position;
+    }
+  }
+}
+
+TEST_F(LayoutTest, TheLegendLeavesOutEntriesAndGoesWhereItWasDragged) {
+  const Drawing deleted =
+      DrawColumns(LegendXml("r", "<c:legendEntry><c:idx val=\"1\"/><c:delete val=\"1\"/></c:legendEntry>"));
+  EXPECT_EQ(TextsOf(deleted, Role::kLegendEntry), (Texts{"Series 0", "Series 2"}));
+  EXPECT_EQ(ItemsOf(deleted, Role::kLegendKey)[1].tag.series, 3);
+  const Drawing piled = DrawColumns(LegendXml("r"), "", "", "stacked");
+  EXPECT_EQ(TextsOf(piled, Role::kLegendEntry), (Texts{"Series 2", "Series 1", "Series 0"}));
+
+  const S layout =
+      "<c:layout><c:manualLayout><c:xMode val=\"edge\"/><c:yMode val=\"edge\"/><c:x val=\"0.5\"/><c:y "
+      "val=\"0.25\"/>"
+      "<c:w val=\"0.4\"/><c:h val=\"0.5\"/></c:manualLayout></c:layout>";
+  const Drawing dragged =
+      DrawColumns(LegendXml("r", layout + "<c:spPr><a:ln w=\"12700\"><a:solidFill><a:srgbClr "
+                                          "val=\"FF0000\"/></a:solidFill></a:ln></c:spPr>"));
+  const Rect box = BoxOf(dragged, Role::kLegend);
+  EXPECT_NEAR(box.left, 192, 1e-6);
+  EXPECT_NEAR(box.top, 67.5, 1e-6);
+  EXPECT_NEAR(box.width, 153.6, 1e-6);
+  EXPECT_NEAR(box.height, 135, 1e-6);
+  for (const Rect& entry : BoxesOf(dragged, Role::kLegendEntry)) EXPECT_TRUE(Union(box, entry) == box);
+}
+
+TEST_F(LayoutTest, APlotAreaByHandIsWhereItsLayoutSays) {
+  const auto layout = [](const S& target) {
+    return "<c:layout><c:manualLayout><c:layoutTarget val=\"" + target +
+           "\"/><c:xMode val=\"edge\"/><c:yMode val=\"edge\"/><c:x val=\"0.25\"/><c:y val=\"0.2\"/><c:w "
+           "val=\"0.5\"/>"
+           "<c:h val=\"0.6\"/></c:manualLayout></c:layout>";
+  };
+  const Rect wanted{96, 54, 192, 162};
+  const Drawing inner = DrawColumns("", layout("inner"));
+  const Rect plot = BoxOf(inner, Role::kPlotArea);
+  EXPECT_NEAR(plot.left, wanted.left, 1e-6);
+  EXPECT_NEAR(plot.Bottom(), wanted.Bottom(), 1e-6);
+  EXPECT_NEAR(plot.width, wanted.width, 1e-6);
+  const Drawing outer = DrawColumns("", layout("outer"));
+  Rect all = Union(BoxOf(outer, Role::kPlotArea), BoxOf(outer, Role::kTickLabel));
+  EXPECT_NEAR(all.left, wanted.left, 0.5);
+  EXPECT_NEAR(all.Right(), wanted.Right(), 0.5);
+  EXPECT_NEAR(all.Bottom(), wanted.Bottom(), 0.5);
+}
+
+TEST_F(LayoutTest, TitlesBreakKeepTheirRunsAndMakeRoom) {
+  const S title =
+      "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:rPr sz=\"1400\" b=\"0\" u=\"sng\"/><a:t>Plain and "
+      "</a:t></a:r><a:r>"
+      "<a:rPr sz=\"1400\" i=\"1\"><a:solidFill><a:srgbClr "
+      "val=\"C00000\"/></a:solidFill></a:rPr><a:t>red</a:t></a:r></a:p>"
+      "<a:p><a:r><a:t>below</a:t></a:r></a:p></c:rich></c:tx></c:title>";
+  const Drawing with = DrawColumns("", "", title), without = DrawColumns("");
+  EXPECT_EQ(DrawingComplaints(with), "");
+  EXPECT_EQ(TextsOf(with, Role::kTitle), (Texts{"Plain and ", "red", "below"}));
+  const auto runs = ItemsOf(with, Role::kTitle);
+  const auto& plain = std::get<TextItem>(runs[0].content);
+  const auto& red = std::get<TextItem>(runs[1].content);
+  EXPECT_EQ(plain.font, (render::Font{"Calibri", 14, false, false, true}));
+  EXPECT_EQ(red.font, (render::Font{"Calibri", 14, true, true, false}));
+  EXPECT_EQ(HexOf(red.color), "#C00000");
+  EXPECT_NEAR(plain.Bounds().Right(), red.Bounds().left, 1e-6);
+  EXPECT_EQ(plain.anchor.y, red.anchor.y);
+  EXPECT_NEAR(BoundsOf(runs[2]).top, plain.Bounds().Bottom(), 1e-6);
+  EXPECT_NEAR(BoxOf(with, Role::kTitle).Center().x, 192, 0.01);
+  EXPECT_LT(BoxOf(with, Role::kTitle).Bottom(), BoxOf(with, Role::kPlotArea).top);
+  EXPECT_LT(BoxOf(without, Role::kPlotArea).top, BoxOf(with, Role::kPlotArea).top);
+  // one that lies over the plot area takes no room
+  S overlay = title;
+  overlay.insert(overlay.find("</c:title>"), "<c:overlay val=\"1\"/>");
+  EXPECT_EQ(BoxOf(DrawColumns("", "", overlay), Role::kPlotArea), BoxOf(without, Role::kPlotArea));
+}
+
+TEST_F(LayoutTest, FillingsAndLinesAreTheChartParts) {
+  const S look =
+      "<c:spPr><a:solidFill><a:srgbClr val=\"00B050\"><a:alpha "
+      "val=\"50000\"/></a:srgbClr></a:solidFill><a:ln w=\"25400\" "
+      "cap=\"rnd\"><a:solidFill><a:schemeClr val=\"accent2\"/></a:solidFill><a:prstDash "
+      "val=\"dash\"/></a:ln></c:spPr>";
+  const S series =
+      SeriesXml(0, {1, 2}, look + "<c:dPt><c:idx val=\"1\"/><c:spPr><a:noFill/></c:spPr></c:dPt>");
+  const Drawing drawing =
+      Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>", series) +
+                   AxesXml() + "<c:spPr><a:solidFill><a:srgbClr val=\"FFFF99\"/></a:solidFill></c:spPr>"),
+           "<c:spPr><a:solidFill><a:srgbClr val=\"EEEEEE\"/></a:solidFill><a:ln><a:noFill/></a:ln></c:spPr>");
+  const auto bars = ItemsOf(drawing, Role::kBar);
+  const auto& first = std::get<PathItem>(bars[0].content);
+  EXPECT_EQ(std::get<render::SolidFill>(first.fill).color, (render::Color{0, 0xB0, 0x50, 0.5}));
+  EXPECT_EQ(HexOf(first.stroke.color), "#C0504D");
+  EXPECT_EQ(first.stroke.width, 2);
+  EXPECT_EQ(first.stroke.dashes, (std::vector<double>{8, 6}));
+  EXPECT_EQ(first.stroke.cap, render::LineCap::kRound);
+  EXPECT_EQ(FillOf(bars[1]), "none");
+  EXPECT_EQ(std::get<PathItem>(bars[1].content).stroke.width,
+            2);  // a point takes over what it doesn't change
+  EXPECT_EQ(FillOf(ItemsOf(drawing, Role::kPlotArea)[0]), "#FFFF99");
+  const auto area = ItemsOf(drawing, Role::kChartArea)[0];
+  EXPECT_EQ(FillOf(area), "#EEEEEE");
+  EXPECT_EQ(std::get<PathItem>(area.content).stroke.width, 0);
+}
+
+}  // namespace
+}  // namespace plotsmith

@@ -1,0 +1,268 @@
+#include "render/sheet/CellLines.h"
+#include "render/sheet/PageCuts.h"
+#include "render/sheet/SheetPages.h"
+#include "tests/render/DrawingTest.h"
+#include "xlsx/Sheet.h"
+
+namespace plotsmith::render {
+namespace {
+
+using S = std::string;
+using test::BoxesOf;
+using test::ItemsOf;
+using test::PlainSheet;
+using test::TextsOf;
+using xlsx::CellRange;
+
+/// Each character is a point wide.
+double CountedWidth(std::string_view text) { return static_cast<double>(text.size()); }
+
+S Text(const CellRange& range) {
+  return xlsx::CellAddress(range.row1, range.column1, false) + ":" +
+         xlsx::CellAddress(range.row2, range.column2, false);
+}
+
+TEST(PageCutsTest, PagesHoldWholeRowsAndColumnsUpToBreaks) {
+  // a room of 100 by 100 points; columns of 30 and rows of 40, row 3 hidden
+  xlsx::PageSetup plain;
+  plain.paperWidth = plain.paperHeight = 120;
+  plain.left = plain.right = plain.top = plain.bottom = 10;
+  const auto with = [&](auto&& change) {
+    xlsx::PageSetup setup = plain;
+    change(setup);
+    return setup;
+  };
+  xlsx::SheetGeometry geometry{xlsx::GridLines(30, 16384), xlsx::GridLines(40, 1048576)};
+  geometry.rows.SetSize(2, 2, 0);
+  const struct {
+    xlsx::PageSetup setup;
+    std::vector<CellRange> ranges;
+    S pages;
+    double scale = 1;
+  } cases[] = {
+      {plain, {{1, 1, 1, 1}}, "A1:A1 "},
+      {plain, {{1, 1, 3, 3}}, "A1:C3 "},
+      {plain, {{1, 1, 5, 4}}, "A1:C3 A4:C5 D1:D3 D4:D5 "},
+      {with([](auto& setup) { setup.overThenDown = true; }), {{1, 1, 5, 4}}, "A1:C3 D1:D3 A4:C5 D4:D5 "},
+      {plain, {{2, 2, 2, 2}, {4, 1, 4, 5}}, "B2:B2 A4:C4 D4:E4 "},
+      {with([](auto& setup) {
+         setup.rowBreaks = {1, 4};
+       }),
+       {{1, 1, 5, 1}},
+       "A1:A1 A2:A4 A5:A5 "},
+      {with([](auto& setup) { setup.columnBreaks = {2}; }), {{1, 1, 1, 4}}, "A1:B1 C1:D1 "},
+      // more than a page is wide still takes a page
+      {with([](auto& setup) { setup.scale = 4; }), {{1, 1, 2, 1}}, "A1:A1 A2:A2 ", 4},
+      // 4 columns are 120 points, 6 rows 200: so is the scale, and breaks don't count
+      {with([](auto& setup) {
+         setup.fits = true;
+         setup.rowBreaks = {1};
+       }),
+       {{1, 1, 6, 4}},
+       "A1:D6 ",
+       0.5},
+      {with([](auto& setup) {
+         setup.fits = true;
+         setup.fitHeight = 0;
+       }),
+       {{1, 1, 6, 4}},
+       "A1:D4 A5:D6 ",
+       0.83},
+      {with([](auto& setup) { setup.fits = true; }), {{1, 1, 1, 1}}, "A1:A1 "},
+  };
+  for (const auto& c : cases) {
+    const PageCuts cuts = CutPages(c.setup, geometry, c.ranges, 100);
+    S pages;
+    for (const CellRange& page : cuts.pages) pages += Text(page) + " ";
+    EXPECT_EQ(pages, c.pages);
+    EXPECT_DOUBLE_EQ(cuts.scale, c.scale) << c.pages;
+    EXPECT_EQ(cuts.count, cuts.pages.size());
+  }
+  const PageCuts all = CutPages(plain, geometry, {{1, 1, 1048576, 16384}}, 3);
+  EXPECT_EQ(all.pages.size(), 3u);
+  EXPECT_EQ(all.count, std::size_t{524288} * 5462);
+}
+
+TEST(CellLinesTest, TextsWrapAtBlanksAndInsideOfLongWords) {
+  const struct {
+    const char* text;
+    double width;
+    std::vector<S> lines;
+  } cases[] = {
+      {"", 5, {""}},
+      {"one two", 7, {"one two"}},
+      {"one two", 6, {"one", "two"}},
+      {"one  two three", 9, {"one  two", "three"}},
+      {"a\nb\r\n\nc", 5, {"a", "b", "", "c"}},
+      {"abcdefgh ij", 3, {"abc", "def", "gh", "ij"}},
+      {"\xC3\xA4\xC3\xB6\xC3\xBC", 2, {"\xC3\xA4", "\xC3\xB6", "\xC3\xBC"}},
+      {"ab", 0, {"a", "b"}},
+  };
+  for (const auto& c : cases) EXPECT_EQ(WrappedLines(c.text, c.width, CountedWidth), c.lines) << c.text;
+}
+
+TEST(CellLinesTest, NumbersThatDontFitLoseDecimalsOrAreMarks) {
+  const struct {
+    double number;
+    const char* text;
+    bool general;
+    double width;
+    const char* fitted;
+  } cases[] = {
+      {1.5, "1.5", true, 3, "1.5"},
+      {2.0 / 3, "0.666666667", true, 5, "0.667"},
+      {1234.56, "1234.56", true, 4, "1235"},
+      {1234.56, "1234.56", true, 3, "###"},
+      {1234.56, "1,234.56", false, 5, "#####"},
+      {1e20, "1E+20", true, 4, "####"},
+      {7, "7", true, 0.5, "#"},
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(FittedNumber(c.number, c.text, c.general, c.width, CountedWidth), c.fitted) << c.text;
+}
+
+/// The pages of a sheet, in a workbook with a bold style (1), one with a red filling and a line below (2),
+/// one that wraps (3), one in the centre (4) and a number format (5).
+class SheetPagesTest : public test::DrawingTest {
+ protected:
+  static constexpr const char* kStyles =
+      "<styleSheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\">"
+      "<fonts><font><sz val=\"11\"/><name val=\"Calibri\"/></font>"
+      "<font><b/><sz val=\"20\"/><color rgb=\"FF0000FF\"/><name val=\"Arial\"/></font></fonts>"
+      "<fills><fill/><fill><patternFill patternType=\"solid\"><fgColor "
+      "rgb=\"FFFF0000\"/></patternFill></fill>"
+      "</fills><borders><border/><border><bottom style=\"thick\"/></border></borders><cellXfs><xf/>"
+      "<xf fontId=\"1\"/><xf fillId=\"1\" borderId=\"1\"/><xf><alignment wrapText=\"1\"/></xf>"
+      "<xf><alignment horizontal=\"center\"/></xf><xf numFmtId=\"4\"/></cellXfs></styleSheet>";
+
+  std::vector<Drawing> Pages(const PlainSheet& sheet, Paper paper = Paper::kPrinted) {
+    test::PlainBook book;
+    book.sheets = {sheet};
+    book.styles = kStyles;
+    book.workbookExtra = workbookExtra_;
+    xlsx::Workbook& opened = Open(book);
+    notes_.clear();
+    return DrawSheet(opened, *opened.AllSheets().front(), paper, SharedFonts(), notes_);
+  }
+  static test::RawCell Cell(int style, const S& text) {
+    return {" s=\"" + std::to_string(style) + "\" t=\"str\"><v>" + text + "</v></c>"};
+  }
+  S workbookExtra_;
+};
+
+TEST_F(SheetPagesTest, CellsHaveTheirTextsFillingsAndBorders) {
+  PlainSheet sheet{.name = "Sheet1"};
+  sheet.rows = {
+      {Cell(1, "Bold"), 12.0}, {Cell(2, "Red")}, {Cell(4, "Mid"), std::monostate(), S("right of it")}};
+  const auto pages = Pages(sheet);
+  ASSERT_EQ(pages.size(), 1u);
+  const Drawing& page = pages.front();
+  EXPECT_EQ(page.width, 612);
+  EXPECT_EQ(page.height, 792);
+  EXPECT_EQ(page.title, "Sheet1");
+  EXPECT_EQ(TextsOf(page, Role::kCellText), (std::vector<S>{"Bold", "12", "Red", "Mid", "right of it"}));
+  const auto texts = ItemsOf(page, Role::kCellText);
+  const auto& bold = std::get<TextItem>(texts[0].content);
+  EXPECT_EQ(bold.font, (Font{"Arial", 20, true, false, false}));
+  EXPECT_EQ(HexOf(bold.color), "#0000FF");
+  const auto boxes = BoxesOf(page, Role::kCellText);
+  // in the first cell at the left, in the second at the right, and in the middle
+  const double column = 48, left = 50.4;
+  EXPECT_NEAR(boxes[0].left, left + 1.5, 0.01);
+  EXPECT_NEAR(boxes[1].Right(), left + 2 * column - 1.5, 0.01);
+  EXPECT_NEAR(boxes[3].Center().x, left + column / 2, 0.01);
+  for (std::size_t row : {0u, 2u, 3u})
+    EXPECT_GE(boxes[row].top, 54 + 15 * (row == 0 ? 0 : row == 2 ? 1 : 2) - 11.0);
+  const auto cells = ItemsOf(page, Role::kCell);
+  ASSERT_EQ(cells.size(), 2u);
+  EXPECT_EQ(test::FillOf(cells[0]), "#FF0000");
+  EXPECT_EQ(std::get<PathItem>(cells[1].content).stroke.width, 2.25);
+  EXPECT_EQ(notes_, Notes());
+}
+
+TEST_F(SheetPagesTest, LongTextsGoOverEmptyCellsOnlyAndWrapWhereTheyAreTo) {
+  const S words = "far too long for a cell of this width";
+  const struct {
+    std::vector<test::PlainRow> rows;
+    std::size_t lines;
+    bool clipped;  ///< at the end of the cell
+  } cases[] = {
+      {{{words}}, 1, false},
+      {{{words, 1.0}}, 2, true},
+      {{{words, S("x")}}, 2, true},
+      {{{Cell(3, words), std::monostate()}}, 5, true},
+  };
+  for (const auto& c : cases) {
+    PlainSheet sheet{.name = "Sheet1"};
+    sheet.rows = c.rows;
+    const auto pages = Pages(sheet);
+    ASSERT_EQ(pages.size(), 1u);
+    EXPECT_GE(TextsOf(pages[0], Role::kCellText).size(), std::min<std::size_t>(c.lines, 2));
+    double seen = 1e9;
+    for (const Item& item : pages[0].items) {
+      if (const auto* clip = std::get_if<PushClip>(&item.content))
+        seen = std::min(seen, clip->path.Bounds().width);
+    }
+    EXPECT_EQ(seen < 49, c.clipped);
+  }
+}
+
+TEST_F(SheetPagesTest, MergedCellsAreOneAndHiddenRowsAreNone) {
+  PlainSheet sheet{.name = "Sheet1"};
+  sheet.rows = {{Cell(2, "Over"), Cell(2, "lost"), S("C")}, {S("next")}};
+  sheet.afterData = "<mergeCells><mergeCell ref=\"A1:B1\"/></mergeCells>";
+  const auto pages = Pages(sheet);
+  EXPECT_EQ(TextsOf(pages.at(0), Role::kCellText), (std::vector<S>{"C", "next", "Over"}));
+  EXPECT_NEAR(BoxesOf(pages[0], Role::kCell).at(0).width, 96, 0.01);
+}
+
+TEST_F(SheetPagesTest, ThePrintAreaIsAllThatIsPrinted) {
+  PlainSheet sheet{.name = "Sheet1"};
+  sheet.rows = {{S("A1"), S("B1")}, {S("A2"), S("B2")}, {S("A3"), S("B3")}};
+  workbookExtra_ =
+      "<definedNames><definedName name=\"_xlnm.Print_Area\" localSheetId=\"0\">Sheet1!$B$1:$B$2,Sheet1!$A$3"
+      "</definedName></definedNames>";
+  const auto pages = Pages(sheet);
+  ASSERT_EQ(pages.size(), 2u);
+  EXPECT_EQ(TextsOf(pages[0], Role::kCellText), (std::vector<S>{"B1", "B2"}));
+  EXPECT_EQ(TextsOf(pages[1], Role::kCellText), (std::vector<S>{"A3"}));
+}
+
+TEST_F(SheetPagesTest, ChartsLieInTheirPlacesAndPagesGoOn) {
+  PlainSheet sheet{.name = "Sheet1"};
+  sheet.rows = {{S("Above")}};
+  const S bars = test::GroupXml("barChart", "<c:barDir val=\"col\"/>", test::SeriesXml(0, {1, 2}));
+  const S chart = test::ChartPartXml(test::PlotXml(bars + test::AxesXml()));
+  sheet.frames = {{"", chart, 1, 40, 4, 10}};
+  const auto printed = Pages(sheet);
+  ASSERT_EQ(printed.size(), 2u) << "rows 1 to 45 are on the first page";
+  for (const Drawing& page : printed) EXPECT_EQ(ItemsOf(page, Role::kBar).size(), 2u);
+  const auto one = Pages(sheet, Paper::kOne);
+  ASSERT_EQ(one.size(), 1u);
+  EXPECT_EQ(one[0].width, 5 * 48);
+  EXPECT_EQ(one[0].height, 50 * 15);
+  const Rect area = test::BoxOf(one[0], Role::kChartArea);
+  EXPECT_NEAR(area.left, 48, 1);
+  EXPECT_NEAR(area.top, 600, 1);
+  EXPECT_NEAR(area.width, 192, 2);
+  EXPECT_EQ(BoxesOf(one[0], Role::kBar).size(), 2u);
+  EXPECT_NE(one[0].description, "");
+}
+
+TEST_F(SheetPagesTest, WhatIsntDrawnIsNotedAndPagesAreBounded) {
+  PlainSheet sheet{.name = "Sheet1"};
+  sheet.rows = {{1.0}};
+  sheet.afterData =
+      "<conditionalFormatting sqref=\"A1\"/><printOptions headings=\"1\"/>"
+      "<headerFooter><oddHeader>x</oddHeader></headerFooter>";
+  EXPECT_EQ(Pages(sheet).size(), 1u);
+  EXPECT_EQ(notes_, (Notes{"Headers and footers aren't drawn.", "Conditional formats of cells aren't drawn.",
+                           "The letters of columns and the numbers of rows aren't drawn."}));
+  PlainSheet far{.name = "Sheet1", .rows = {{1.0}}, .top = 1000000, .left = 3};
+  EXPECT_EQ(Pages(far).size(), 100u);
+  EXPECT_EQ(notes_, Notes{"The sheet has 22223 pages; the first 100 are drawn."});
+  EXPECT_EQ(Pages({.name = "Sheet1"}).size(), 0u);
+}
+
+}  // namespace
+}  // namespace plotsmith::render

@@ -1,0 +1,131 @@
+#include <algorithm>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <numbers>
+
+#include "tests/render/threed/Chart3DTest.h"
+
+namespace plotsmith::test {
+namespace {
+
+using render::Drawing;
+using render::Item;
+using render::Rect;
+using render::Role;
+
+class Pie3DTest : public Chart3DTest {};
+
+Rect BoundsOfAll(const std::vector<const Item*>& items) {
+  Rect bounds = BoundsOf(*items.at(0));
+  for (const Item* item : items) bounds = Union(bounds, BoundsOf(*item));
+  return bounds;
+}
+
+TEST_F(Pie3DTest, TheDiscIsAsFlatAsTheElevationSays) {
+  for (const double elevation : {10, 30, 45, 80}) {
+    const Drawing drawing =
+        Draw({.view = "<c:rotX val=\"" + std::to_string(elevation) + "\"/><c:rotY val=\"0\"/>",
+              .group = "pie3DChart"});
+    const auto slices = ItemsOf(drawing, Role::kSlice);
+    ASSERT_EQ(slices.size(), 4);
+    const Rect top = BoundsOfAll(slices), sides = BoundsOfAll(ItemsOf(drawing, Role::kSide));
+    EXPECT_NEAR(top.height / top.width, std::sin(elevation * std::numbers::pi / 180), 1e-3) << elevation;
+    // the rim is below the upper side, the thinner the more one looks from above
+    EXPECT_NEAR((sides.Bottom() - top.Bottom()) / top.width,
+                0.12 * std::cos(elevation * std::numbers::pi / 180), 1e-3);
+    EXPECT_TRUE(top.left >= 0 && top.top >= 0 && top.Right() <= 384 && sides.Bottom() <= 270);
+  }
+}
+
+TEST_F(Pie3DTest, SlicesMeetOnTheirEdgesAndBeginWhereTheViewIsTurnedTo) {
+  for (const double rotation : {0, 90, 275}) {
+    const Drawing drawing =
+        Draw({.view = "<c:rotX val=\"30\"/><c:rotY val=\"" + std::to_string(rotation) + "\"/>",
+              .group = "pie3DChart",
+              .values = {1, 1, 2}});
+    const auto slices = ItemsOf(drawing, Role::kSlice);
+    ASSERT_EQ(slices.size(), 3);
+    const Rect disc = BoundsOfAll(slices);
+    const auto stepsOf = [&](std::size_t i) {
+      return std::get<render::PathItem>(slices[i % 3]->content).path.Steps();
+    };
+    for (std::size_t i = 0; i < 3; ++i) {
+      // a slice goes from the middle to the edge, along it, and back
+      const auto end = stepsOf(i)[stepsOf(i).size() - 2].to, next = stepsOf(i + 1)[1].to;
+      EXPECT_NEAR(end.x, next.x, 1e-6);
+      EXPECT_NEAR(end.y, next.y, 1e-6);
+    }
+    const render::Point begin = stepsOf(0)[1].to;
+    EXPECT_NEAR(begin.x, disc.Center().x + disc.width / 2 * std::sin(rotation * std::numbers::pi / 180),
+                0.02);
+  }
+}
+
+TEST_F(Pie3DTest, NothingIsPaintedOverTheUpperSides) {
+  for (const std::string exploded : {"", "<c:explosion val=\"40\"/>"}) {
+    OpenChart(Part({.group = "pie3DChart"}));
+    std::string part = Part({.view = "<c:rotX val=\"30\"/>", .group = "pie3DChart"});
+    part.insert(part.find("<c:cat>"), exploded);
+    OpenChart(part);
+    const Drawing drawing = DrawChart(*Book().Chart("/xl/charts/chart1.xml"), 384, 270, fonts_, notes_);
+    int slices = 0;
+    for (const Item& item : drawing.items) {
+      if (item.tag.role == Role::kSlice) ++slices;
+      if (item.tag.role == Role::kSide) EXPECT_EQ(slices, 0);
+    }
+    EXPECT_EQ(slices, 4);
+    // of an exploded pie one also sees the cuts
+    const std::size_t walls = ItemsOf(drawing, Role::kSide).size();
+    EXPECT_TRUE(exploded.empty() ? walls <= 4 : walls > 4) << walls;
+  }
+}
+
+TEST_F(Pie3DTest, SlicesGoOutAlongTheDisc) {
+  std::string part = Part(
+      {.view = "<c:rotX val=\"30\"/><c:rotY val=\"0\"/>", .group = "pie3DChart", .values = {1, 1, 1, 1}});
+  part.insert(part.find("<c:cat>"), "<c:explosion val=\"50\"/>");
+  OpenChart(part);
+  const Drawing drawing = DrawChart(*Book().Chart("/xl/charts/chart1.xml"), 384, 270, fonts_, notes_);
+  const auto slices = ItemsOf(drawing, Role::kSlice);
+  ASSERT_EQ(slices.size(), 4);
+  const auto tipOf = [&](std::size_t i) {
+    return std::get<render::PathItem>(slices[i]->content).path.Steps()[0].to;
+  };
+  const Rect slice = BoundsOf(*slices[0]);  // a quarter: as wide as the radius
+  // each is half of the radius away, at 45 degrees of the disc
+  EXPECT_NEAR((tipOf(0).x - tipOf(3).x) / 2, slice.width * 0.5 * std::numbers::sqrt2 / 2, 0.02);
+  EXPECT_NEAR((tipOf(1).y - tipOf(0).y) / 2, slice.height * 0.5 * std::numbers::sqrt2 / 2, 0.02);
+}
+
+TEST_F(Pie3DTest, LabelsOutsideStayClearOfTheDiscAndItsRim) {
+  for (const std::string rotation : {"0", "45", "100"}) {
+    std::string part =
+        Part({.view = "<c:rotX val=\"30\"/><c:rotY val=\"" + rotation + "\"/>", .group = "pie3DChart"});
+    part.insert(
+        part.find("<c:cat>"),
+        "<c:dLbls><c:dLblPos val=\"outEnd\"/><c:showVal val=\"1\"/><c:showCatName val=\"1\"/></c:dLbls>");
+    OpenChart(part);
+    const Drawing drawing = DrawChart(*Book().Chart("/xl/charts/chart1.xml"), 384, 270, fonts_, notes_);
+    const Rect top = BoundsOfAll(ItemsOf(drawing, Role::kSlice));
+    const double drop = BoundsOfAll(ItemsOf(drawing, Role::kSide)).Bottom() - top.Bottom();
+    const auto labels = ItemsOf(drawing, Role::kDataLabel);
+    EXPECT_EQ(labels.size(), 4);
+    for (const Item* label : labels) {
+      const Rect box = BoundsOf(*label);
+      EXPECT_TRUE(box.left >= 0 && box.top >= 0 && box.Right() <= 384 && box.Bottom() <= 270);
+      for (const double x : {box.left, box.Center().x, box.Right()}) {
+        for (const double y : {box.top, box.Bottom()}) {
+          // in the upper ellipse, the lower one, or between them
+          const double across = (x - top.Center().x) / (top.width / 2);
+          const double reach = std::sqrt(std::max(1 - across * across, 0.0)) * top.height / 2;
+          EXPECT_FALSE(std::abs(across) < 1 && y > top.Center().y - reach + 0.5 &&
+                       y < top.Center().y + drop + reach - 0.5)
+              << rotation << " at " << x << ", " << y;
+        }
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace plotsmith::test
