@@ -16,10 +16,16 @@ const char* StandardDescription(int number) {
       return "Out of memory";
     case error::kSubscript:
       return "Subscript out of range";
+    case error::kArrayLocked:
+      return "This array is fixed or temporarily locked";
+    case error::kDivisionByZero:
+      return "Division by zero";
     case error::kTypeMismatch:
       return "Type mismatch";
     case error::kOutOfStackSpace:
       return "Out of stack space";
+    case error::kPermission:
+      return "Permission denied";
     case error::kObjectNotSet:
       return "Object variable or With block variable not set";
     case error::kInvalidNull:
@@ -30,12 +36,34 @@ const char* StandardDescription(int number) {
       return "Invalid property array index";
     case error::kReadOnlyProperty:
       return "Property is read-only";
+    case error::kObjectRequired:
+      return "Object required";
+    case error::kNoSuchInterface:
+      return "Class does not support Automation or does not support expected interface";
     case error::kNoSuchMember:
       return "Object doesn't support this property or method";
     case error::kAutomation:
       return "Automation error";
+    case error::kNoSuchAction:
+      return "Object doesn't support this action";
+    case error::kNoNamedArguments:
+      return "Object doesn't support named arguments";
+    case error::kNoSuchLocale:
+      return "Object doesn't support current locale setting";
+    case error::kNoSuchNamedArgument:
+      return "Named argument not found";
+    case error::kArgumentNotOptional:
+      return "Argument not optional";
+    case error::kArgumentCount:
+      return "Wrong number of arguments or invalid property assignment";
+    case error::kNotACollection:
+      return "Object not a collection";
     case error::kKeyExists:
       return "This key is already associated with an element of this collection";
+    case error::kNoSuchVariantType:
+      return "Variable uses an Automation type not supported in Visual Basic";
+    case error::kServerUnavailable:
+      return "The remote server machine does not exist or is unavailable";
     default:
       return "Application-defined or object-defined error";
   }

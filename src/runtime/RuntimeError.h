@@ -35,17 +35,31 @@ inline constexpr int kInvalidCall = 5;             ///< Invalid procedure call o
 inline constexpr int kOverflow = 6;                ///< Overflow
 inline constexpr int kOutOfMemory = 7;             ///< Out of memory
 inline constexpr int kSubscript = 9;               ///< Subscript out of range
+inline constexpr int kArrayLocked = 10;            ///< This array is fixed or temporarily locked
+inline constexpr int kDivisionByZero = 11;         ///< Division by zero
 inline constexpr int kTypeMismatch = 13;           ///< Type mismatch
 inline constexpr int kOutOfStackSpace = 28;        ///< Out of stack space
+inline constexpr int kPermission = 70;             ///< Permission denied
 inline constexpr int kObjectNotSet = 91;           ///< Object variable or With block variable not set
 inline constexpr int kInvalidNull = 94;            ///< Invalid use of Null
 inline constexpr int kInvalidPropertyValue = 380;  ///< Invalid property value
 inline constexpr int kInvalidArrayIndex = 381;     ///< Invalid property array index
 inline constexpr int kReadOnlyProperty = 383;      ///< Property is read-only
+inline constexpr int kObjectRequired = 424;        ///< Object required
+inline constexpr int kNoSuchInterface = 430;       ///< Class does not support Automation
 inline constexpr int kNoSuchMember = 438;          ///< Object doesn't support this property or method
 inline constexpr int kAutomation = 440;            ///< Automation error
+inline constexpr int kNoSuchAction = 445;          ///< Object doesn't support this action
+inline constexpr int kNoNamedArguments = 446;      ///< Object doesn't support named arguments
+inline constexpr int kNoSuchLocale = 447;          ///< Object doesn't support current locale setting
+inline constexpr int kNoSuchNamedArgument = 448;   ///< Named argument not found
+inline constexpr int kArgumentNotOptional = 449;   ///< Argument not optional
+inline constexpr int kArgumentCount = 450;         ///< Wrong number of arguments
+inline constexpr int kNotACollection = 451;        ///< Object not a collection
 inline constexpr int kKeyExists = 457;  ///< This key is already associated with an element of this collection
-inline constexpr int kApplication = 1004;  ///< Application-defined or object-defined error
+inline constexpr int kNoSuchVariantType = 458;  ///< Variable uses an Automation type that isn't supported
+inline constexpr int kServerUnavailable = 462;  ///< The remote server machine is unavailable
+inline constexpr int kApplication = 1004;       ///< Application-defined or object-defined error
 }  // namespace error
 
 /// The exception being handled, as a run-time error. Call it inside a catch block only.

@@ -1,0 +1,129 @@
+#include "windows/com/Calls.h"
+
+#include <algorithm>
+#include <array>
+#include <dispex.h>
+
+#include "runtime/RuntimeError.h"
+#include "windows/com/Failures.h"
+
+namespace plotsmith::com {
+
+using runtime::RuntimeError;
+
+namespace {
+
+std::uint64_t calls = 0;
+std::uint64_t changes = 0;
+
+/// The language of names, texts and formulas, whatever the user's is: English (United States).
+constexpr LCID kEnglish = 0x0409;
+
+/// The table of functions that an object's class has, which comes first in every COM object.
+const void* ClassOf(IDispatch& object) { return *reinterpret_cast<const void* const*>(&object); }
+
+/// Objects of scripts number their members one by one, each object in its own way.
+bool NumbersItsOwnMembers(IDispatch& object) {
+  return static_cast<bool>(ComPtr<IDispatch>(&object).As<IDispatchEx>());
+}
+
+HRESULT LookUp(IDispatch& object, const wchar_t* name, DISPID& id) {
+  auto* text = const_cast<wchar_t*>(name);
+  return object.GetIDsOfNames(IID_NULL, &text, 1, kEnglish, &id);
+}
+
+/// What a server answers that can't take a call just now, and did nothing.
+bool IsBusy(HRESULT result) {
+  constexpr auto kSuspended = static_cast<HRESULT>(0x800AC472);  // Excel, while a dialog or a cell is open
+  return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER || result == kSuspended;
+}
+
+/// Waits between two attempts, for so long in all. Once the time has been used up, calls fail at once until
+/// one of them is taken: a run of a thousand calls would wait for hours else.
+class Waiting {
+ public:
+  /// False if there is no time left.
+  bool WaitOnce() {
+    constexpr DWORD kStep = 100, kMost = 2000;  // milliseconds
+    if (waited_ >= kMost) return false;
+    waited_ += kStep;
+    // an event that nobody sets: meanwhile calls that come in are served, which the server may wait for
+    HANDLE event = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    if (event == nullptr) return false;
+    DWORD index = 0;
+    if (CoWaitForMultipleHandles(0, kStep, 1, &event, &index) != RPC_S_CALLPENDING) Sleep(kStep);
+    CloseHandle(event);
+    return true;
+  }
+  void Taken() { waited_ = 0; }
+
+ private:
+  DWORD waited_ = 0;
+} waiting;
+
+/// Application.Run has the most, with the macro and thirty of its arguments.
+constexpr std::size_t kMostArguments = 31;
+
+/// The arguments of one call as Automation wants them: the last one first, not owned.
+struct Parameters {
+  explicit Parameters(std::span<const OwnedVariant> arguments, Kind kind) {
+    if (arguments.size() > kMostArguments) throw RuntimeError(runtime::error::kArgumentCount);
+    std::transform(arguments.rbegin(), arguments.rend(), values.begin(),
+                   [](const OwnedVariant& argument) { return argument.Get(); });
+    passed.rgvarg = values.data();
+    passed.cArgs = static_cast<UINT>(arguments.size());
+    if (kind != Kind::kPut) return;
+    passed.rgdispidNamedArgs = &valueName;
+    passed.cNamedArgs = 1;
+  }
+
+  std::array<VARIANT, kMostArguments> values;
+  DISPID valueName = DISPID_PROPERTYPUT;
+  DISPPARAMS passed{};
+};
+
+}  // namespace
+
+DISPID Member::IdOn(IDispatch& object) {
+  if (class_ == ClassOf(object)) return id_;
+  DISPID id = DISPID_UNKNOWN;
+  const HRESULT result = LookUp(object, name_, id);
+  if (FAILED(result)) throw ErrorOf(result);
+  if (!NumbersItsOwnMembers(object)) {
+    class_ = ClassOf(object);
+    id_ = id;
+  }
+  return id;
+}
+
+OwnedVariant Call(IDispatch* object, Member& member, Kind kind, std::span<const OwnedVariant> arguments,
+                  WhenBusy whenBusy) {
+  if (object == nullptr) throw RuntimeError(runtime::error::kObjectNotSet);
+  const DISPID id = member.IdOn(*object);
+  Parameters parameters(arguments, kind);
+  if (kind != Kind::kGet) ++changes;
+  OwnedVariant answer;
+  while (true) {
+    ++calls;
+    EXCEPINFO exception{};
+    const HRESULT result = object->Invoke(id, IID_NULL, kEnglish, static_cast<WORD>(kind), &parameters.passed,
+                                          kind == Kind::kPut ? nullptr : answer.Put(), &exception, nullptr);
+    const bool thrown = result == DISP_E_EXCEPTION;
+    const bool busy = IsBusy(thrown ? exception.scode : result);
+    if (!busy) waiting.Taken();
+    if (SUCCEEDED(result)) return answer;
+    const RuntimeError failure = thrown ? ErrorOf(exception) : ErrorOf(result);
+    if (!busy || whenBusy == WhenBusy::kFail || !waiting.WaitOnce()) throw failure;
+  }
+}
+
+bool HasMember(IDispatch* object, const wchar_t* name) {
+  DISPID id = DISPID_UNKNOWN;
+  return object != nullptr && SUCCEEDED(LookUp(*object, name, id));
+}
+
+std::uint64_t CallCount() { return calls; }
+std::uint64_t ChangeCount() { return changes; }
+void NoteChange() { ++changes; }
+
+}  // namespace plotsmith::com

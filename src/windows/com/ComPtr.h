@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstddef>
+#include <utility>
+
+#include "windows/com/Abandon.h"
+#include "windows/com/Windows.h"
+
+namespace plotsmith::com {
+
+/// Owns one reference to a COM object, or none. T is the object's interface.
+template <class T>
+class ComPtr {
+ public:
+  /// No object.
+  ///@{
+  ComPtr() = default;
+  ComPtr(std::nullptr_t) {}
+  ///@}
+
+  /// A reference of its own to the object, or to none for null.
+  explicit ComPtr(T* object) : object_(object) {
+    if (object_ != nullptr) object_->AddRef();
+  }
+  ComPtr(const ComPtr& other) : ComPtr(other.object_) {}
+  ComPtr(ComPtr&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
+  ComPtr& operator=(ComPtr other) noexcept {
+    std::swap(object_, other.object_);
+    return *this;
+  }
+  ~ComPtr() { Reset(); }
+
+  /// Takes over a reference that the caller owns.
+  static ComPtr Attach(T* object) {
+    ComPtr pointer;
+    pointer.object_ = object;
+    return pointer;
+  }
+  /// Gives the reference to the caller, who must release it.
+  T* Detach() { return std::exchange(object_, nullptr); }
+  /// Releases the reference.
+  void Reset() {
+    T* object = Detach();
+    if (object != nullptr && !IsAbandoned()) object->Release();
+  }
+
+  /// Null for none. The reference stays here.
+  T* Get() const { return object_; }
+  T* operator->() const { return object_; }
+  /// Where a function stores the reference that it hands out. What was here is released first.
+  T** Put() {
+    Reset();
+    return &object_;
+  }
+  /// False for none.
+  explicit operator bool() const { return object_ != nullptr; }
+
+  /// Another interface of the object; none if it hasn't got it.
+  template <class U>
+  ComPtr<U> As(REFIID id = __uuidof(U)) const {
+    ComPtr<U> other;
+    if (object_ == nullptr) return other;
+    void* found = nullptr;
+    if (SUCCEEDED(object_->QueryInterface(id, &found))) other = ComPtr<U>::Attach(static_cast<U*>(found));
+    return other;
+  }
+
+ private:
+  T* object_ = nullptr;
+};
+
+}  // namespace plotsmith::com

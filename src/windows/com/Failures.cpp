@@ -1,0 +1,116 @@
+#include "windows/com/Failures.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "windows/com/Texts.h"
+
+namespace plotsmith::com {
+
+using runtime::RuntimeError;
+namespace error = runtime::error;
+
+namespace {
+
+/// Results that have a number of their own in the language.
+struct NumberedResult {
+  HRESULT result;
+  int number;
+};
+constexpr std::array kNumbers = {
+    NumberedResult{DISP_E_UNKNOWNINTERFACE, error::kNoSuchMember},
+    NumberedResult{DISP_E_MEMBERNOTFOUND, error::kNoSuchMember},
+    NumberedResult{DISP_E_UNKNOWNNAME, error::kNoSuchMember},
+    NumberedResult{DISP_E_PARAMNOTFOUND, error::kNoSuchNamedArgument},
+    NumberedResult{DISP_E_TYPEMISMATCH, error::kTypeMismatch},
+    NumberedResult{DISP_E_NONAMEDARGS, error::kNoNamedArguments},
+    NumberedResult{DISP_E_BADVARTYPE, error::kNoSuchVariantType},
+    NumberedResult{DISP_E_OVERFLOW, error::kOverflow},
+    NumberedResult{DISP_E_BADINDEX, error::kSubscript},
+    NumberedResult{DISP_E_UNKNOWNLCID, error::kNoSuchLocale},
+    NumberedResult{DISP_E_ARRAYISLOCKED, error::kArrayLocked},
+    NumberedResult{DISP_E_BADPARAMCOUNT, error::kArgumentCount},
+    NumberedResult{DISP_E_PARAMNOTOPTIONAL, error::kArgumentNotOptional},
+    NumberedResult{DISP_E_NOTACOLLECTION, error::kNotACollection},
+    NumberedResult{DISP_E_DIVBYZERO, error::kDivisionByZero},
+    NumberedResult{E_NOTIMPL, error::kNoSuchAction},
+    NumberedResult{E_NOINTERFACE, error::kNoSuchInterface},
+    NumberedResult{E_INVALIDARG, error::kInvalidCall},
+    NumberedResult{E_OUTOFMEMORY, error::kOutOfMemory},
+    NumberedResult{E_ACCESSDENIED, error::kPermission},
+    NumberedResult{static_cast<HRESULT>(0x800706BA), error::kServerUnavailable},  // RPC_S_SERVER_UNAVAILABLE
+};
+
+/// The language's own facility: errors are 0x800A0000 and their number.
+constexpr HRESULT kLanguage = static_cast<HRESULT>(0x800A0000);
+bool IsLanguages(HRESULT result) { return (result & static_cast<HRESULT>(0xFFFF0000)) == kLanguage; }
+
+/// The number of a result in the language; 0 if it has none.
+int NumberOf(HRESULT result) {
+  // the names that Excel gives its own: all that it refuses is 0x800A03EC, which is 1004
+  if (IsLanguages(result)) return result & 0xFFFF;
+  const auto* known = std::ranges::find(kNumbers, result, &NumberedResult::result);
+  return known == kNumbers.end() ? 0 : known->number;
+}
+
+/// What Windows says of a result; empty if it knows nothing.
+std::string SystemText(HRESULT result) {
+  std::array<wchar_t, 512> buffer{};
+  const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+                                      static_cast<DWORD>(result), 0, buffer.data(),
+                                      static_cast<DWORD>(buffer.size()), nullptr);
+  std::string text = Utf8(buffer.data(), length);
+  while (!text.empty() && (text.back() == '\n' || text.back() == '\r' || text.back() == ' ')) text.pop_back();
+  return text;
+}
+
+RuntimeError WithText(int number, const std::string& text, const std::string& source) {
+  const RuntimeError standard(number);
+  return RuntimeError(number, text.empty() ? standard.Description() : text,
+                      source.empty() ? standard.Source() : source);
+}
+
+std::string Taken(BSTR& text) {
+  const std::string result = Utf8(text);
+  SysFreeString(text);
+  text = nullptr;
+  return result;
+}
+
+}  // namespace
+
+RuntimeError ErrorOf(HRESULT result) {
+  if (const int number = NumberOf(result)) return RuntimeError(number);
+  const std::string text = SystemText(result);
+  const std::string automation = RuntimeError(error::kAutomation).Description();
+  return RuntimeError(result, text.empty() ? automation : automation + "\r\n" + text);
+}
+
+RuntimeError ErrorOf(EXCEPINFO& exception) {
+  if (exception.pfnDeferredFillIn != nullptr) exception.pfnDeferredFillIn(&exception);
+  const std::string text = Taken(exception.bstrDescription);
+  const std::string source = Taken(exception.bstrSource);
+  Taken(exception.bstrHelpFile);
+  if (exception.wCode != 0) return WithText(exception.wCode, text, source);
+  if (const int number = NumberOf(exception.scode)) return WithText(number, text, source);
+  const RuntimeError plain = ErrorOf(FAILED(exception.scode) ? exception.scode : E_FAIL);
+  return RuntimeError(plain.Number(), text.empty() ? plain.Description() : text,
+                      source.empty() ? plain.Source() : source);
+}
+
+HRESULT ResultOf(const RuntimeError& failure) {
+  const int number = failure.Number();
+  return number > 0 && number <= 0xFFFF ? kLanguage | number : number < 0 ? number : E_FAIL;
+}
+
+HRESULT FillException(const RuntimeError& failure, EXCEPINFO* exception) {
+  if (exception == nullptr) return DISP_E_EXCEPTION;
+  *exception = {};
+  exception->scode = ResultOf(failure);
+  exception->bstrDescription = NewBstr(failure.Description());
+  exception->bstrSource = NewBstr(failure.Source());
+  return DISP_E_EXCEPTION;
+}
+
+}  // namespace plotsmith::com

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <utility>
+
+#include "windows/com/Abandon.h"
+#include "windows/com/Windows.h"
+
+namespace plotsmith::com {
+
+/// A VARIANT that frees what it holds.
+class OwnedVariant {
+ public:
+  /// VT_EMPTY.
+  OwnedVariant() { VariantInit(&value_); }
+  /// Takes over what `value` holds.
+  explicit OwnedVariant(const VARIANT& value) : value_(value) {}
+  OwnedVariant(OwnedVariant&& other) noexcept : value_(other.Detach()) {}
+  OwnedVariant& operator=(OwnedVariant&& other) noexcept {
+    std::swap(value_, other.value_);
+    return *this;
+  }
+  OwnedVariant(const OwnedVariant&) = delete;
+  OwnedVariant& operator=(const OwnedVariant&) = delete;
+  ~OwnedVariant() {
+    if (!IsAbandoned()) VariantClear(&value_);
+  }
+
+  /// The value, which stays here.
+  const VARIANT& Get() const { return value_; }
+  /// Where a function stores its result. What was here is freed first.
+  VARIANT* Put() {
+    VariantClear(&value_);
+    return &value_;
+  }
+  /// Gives the value to the caller, who must clear it.
+  VARIANT Detach() {
+    VARIANT value = value_;
+    VariantInit(&value_);
+    return value;
+  }
+
+ private:
+  VARIANT value_;
+};
+
+}  // namespace plotsmith::com

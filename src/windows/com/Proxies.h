@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstdint>
+
+namespace plotsmith::com {
+
+/// How many proxies of the host's objects there are. Each holds one reference to the host, which can't end
+/// before it is released.
+std::int32_t LiveProxies();
+
+/// Counts an object among them as long as it exists.
+class CountedProxy {
+ public:
+  CountedProxy();
+  ~CountedProxy();
+  CountedProxy(const CountedProxy&) = delete;
+  CountedProxy& operator=(const CountedProxy&) = delete;
+};
+
+}  // namespace plotsmith::com

@@ -1,0 +1,19 @@
+#include "windows/desktop/MessagePump.h"
+
+#include <windows.h>
+
+namespace plotsmith::windows {
+
+void HandleWaitingMessages() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    if (message.message == WM_QUIT) {
+      PostQuitMessage(static_cast<int>(message.wParam));
+      return;
+    }
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+}
+
+}  // namespace plotsmith::windows

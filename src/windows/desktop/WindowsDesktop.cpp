@@ -1,0 +1,70 @@
+#include "windows/desktop/WindowsDesktop.h"
+
+#include <filesystem>
+#include <windows.h>
+
+#include "common/App.h"
+#include "common/PSConstants.h"
+#include "runtime/Utf8Path.h"
+#include "windows/com/Texts.h"
+#include "windows/desktop/HtmlHelp.h"
+
+namespace plotsmith::windows {
+namespace {
+
+HWND WindowOf(std::intptr_t handle) { return reinterpret_cast<HWND>(handle); }
+
+/// Why the help can't be shown, as a sentence; empty if it was shown.
+std::string HelpFailure(std::intptr_t owner, const std::string& file, std::int32_t topic) {
+  if (file.empty()) return "The host hasn't said where the help file is.";
+  std::error_code error;
+  if (!std::filesystem::exists(runtime::PathOf(file), error)) {
+    return "The help file \"" + file + "\" isn't there.";
+  }
+  const HtmlHelpFunction htmlHelp = FindHtmlHelp();
+  if (htmlHelp == nullptr) return "HTML Help (hhctrl.ocx) isn't installed on this computer.";
+  if (htmlHelp(WindowOf(owner), com::Wide(file).c_str(), kHelpContext, static_cast<DWORD_PTR>(topic)) ==
+      nullptr) {
+    return "HTML Help can't show topic " + std::to_string(topic) + " of \"" + file + "\".";
+  }
+  return "";
+}
+
+}  // namespace
+
+std::intptr_t WindowsDesktop::Owner() const {
+  const forms::Form* const front = App.Forms ? App.Forms->Front() : nullptr;
+  const std::intptr_t owner = front != nullptr && front->hWnd != 0 ? front->hWnd : hostWindow_;
+  return IsWindow(WindowOf(owner)) ? owner : 0;
+}
+
+std::int32_t WindowsDesktop::MsgBox(std::string_view text, desktop::Buttons buttons, desktop::Icon icon,
+                                    std::string_view title) {
+  const HWND owner = WindowOf(Owner());
+  UINT style = buttons == desktop::Buttons::kOkCancel ? MB_OKCANCEL : MB_OK;
+  if (icon == desktop::Icon::kCritical) style |= MB_ICONERROR;
+  // Without an owner the box keeps the hands off the windows of this thread itself.
+  if (owner == nullptr) style |= MB_TASKMODAL;
+  const int answer = MessageBoxW(owner, com::Wide(text).c_str(),
+                                 com::Wide(title.empty() ? kProductTitle : title).c_str(), style);
+  return buttons == desktop::Buttons::kOkCancel && answer != IDOK ? desktop::kCancel : desktop::kOk;
+}
+
+void WindowsDesktop::ShowHelp(std::intptr_t owner, const std::string& file, std::int32_t topic) {
+  const std::string failure = HelpFailure(owner, file, topic);
+  if (!failure.empty()) MsgBox(failure, desktop::Buttons::kOk, desktop::Icon::kNone, "");
+}
+
+double WindowsDesktop::Timer() {
+  SYSTEMTIME now;
+  GetLocalTime(&now);
+  return ((now.wHour * 60.0) + now.wMinute) * 60.0 + now.wSecond + now.wMilliseconds / 1000.0;
+}
+
+void WindowsDesktop::SetMousePointer(std::int32_t pointer) {
+  SetCursor(LoadCursorW(nullptr, pointer == desktop::kPointerHourglass ? IDC_WAIT : IDC_ARROW));
+}
+
+std::int32_t WindowsDesktop::UserDefaultLCID() { return static_cast<std::int32_t>(GetUserDefaultLCID()); }
+
+}  // namespace plotsmith::windows

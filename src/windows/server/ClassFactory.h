@@ -1,0 +1,22 @@
+#pragma once
+
+#include <unknwn.h>
+#include <windows.h>
+
+namespace plotsmith::windows {
+
+/// The class object: makes controllers. There is one for the life of the DLL, and its references keep the
+/// DLL.
+class ClassFactory final : public IClassFactory {
+ public:
+  static ClassFactory& Instance();
+
+  STDMETHODIMP QueryInterface(REFIID interfaceId, void** object) noexcept override;
+  STDMETHODIMP_(ULONG) AddRef() noexcept override;
+  STDMETHODIMP_(ULONG) Release() noexcept override;
+
+  STDMETHODIMP CreateInstance(IUnknown* outer, REFIID interfaceId, void** object) noexcept override;
+  STDMETHODIMP LockServer(BOOL lock) noexcept override;
+};
+
+}  // namespace plotsmith::windows

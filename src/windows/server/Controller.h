@@ -1,0 +1,44 @@
+#pragma once
+
+#include <atomic>
+#include <ocidl.h>
+#include <windows.h>
+
+#include "PlotsmithInterface.h"
+#include "windows/server/Module.h"
+
+namespace plotsmith::windows {
+
+/// The one creatable class. It holds no state: each object does the same. The interface is
+/// IPlotsmithController of the type library, whose operations never fail: every error ends in a message box.
+/// Arguments that can't be meant for an operation are refused before it begins.
+class Controller final : public IPlotsmithController, public IProvideClassInfo {
+ public:
+  STDMETHODIMP QueryInterface(REFIID interfaceId, void** object) noexcept override;
+  STDMETHODIMP_(ULONG) AddRef() noexcept override;
+  STDMETHODIMP_(ULONG) Release() noexcept override;
+
+  STDMETHODIMP GetTypeInfoCount(UINT* count) noexcept override;
+  STDMETHODIMP GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept override;
+  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) noexcept override;
+  STDMETHODIMP Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS* arguments, VARIANT* result,
+                      EXCEPINFO*, UINT* badArgument) noexcept override;
+
+  STDMETHODIMP RunPlotsmith(IDispatch* oApplication, BSTR sCustomAppName, BSTR sHelpFile) noexcept override;
+  STDMETHODIMP RefreshPlotsmithData(IDispatch* oApplication, BSTR sCustomAppName,
+                                    BSTR sHelpFile) noexcept override;
+  STDMETHODIMP RefreshChartsForTable(IDispatch* oApplication, BSTR* sTableRangeName) noexcept override;
+  STDMETHODIMP UpdateChartColumnNamesForTable(IDispatch* oApplication, BSTR sTableRangeName,
+                                              SAFEARRAY** aOldColumnNames,
+                                              SAFEARRAY** aNewColumnNames) noexcept override;
+
+  STDMETHODIMP GetClassInfo(ITypeInfo** info) noexcept override;
+
+ private:
+  ~Controller() = default;
+
+  std::atomic<ULONG> references_ = 1;
+  ModuleKeeper keeper_;
+};
+
+}  // namespace plotsmith::windows

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdint>
+#include <oaidl.h>
+#include <windows.h>
+
+namespace plotsmith::windows {
+
+/// The handle of the window of an Excel Application, which it answers as Hwnd; 0 where it has none.
+std::intptr_t HostWindow(IDispatch* application) noexcept;
+
+}  // namespace plotsmith::windows

@@ -1,0 +1,4 @@
+// Defines the identifiers that the header of the interface declares.
+#include <initguid.h>
+
+#include "PlotsmithInterface.h"

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <windows.h>
+
+/// @file
+/// The DLL as a module of the host's process.
+namespace plotsmith::windows {
+
+/// The handle of the DLL.
+HINSTANCE ModuleHandle();
+/// DllMain calls this when the DLL is loaded.
+void SetModuleHandle(HINSTANCE module);
+/// The full path of the DLL.
+std::wstring ModulePath();
+
+/// What must keep the DLL loaded: objects, locks of a client, and runs. Each counts once.
+///@{
+void KeepModule();
+void ReleaseModule();
+bool IsModuleKept();
+///@}
+
+/// Keeps the DLL loaded while it lives.
+struct ModuleKeeper {
+  ModuleKeeper() { KeepModule(); }
+  ~ModuleKeeper() { ReleaseModule(); }
+  ModuleKeeper(const ModuleKeeper&) = delete;
+  ModuleKeeper& operator=(const ModuleKeeper&) = delete;
+};
+
+}  // namespace plotsmith::windows

@@ -1,0 +1,165 @@
+#include "windows/server/Registration.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "PlotsmithInterface.h"
+#include "windows/server/Module.h"
+
+namespace plotsmith::windows {
+namespace {
+
+constexpr const wchar_t* kClasses = L"Software\\Classes";
+constexpr const wchar_t* kName = L"Plotsmith.CPlotsmithController";
+constexpr const wchar_t* kVersionedName = L"Plotsmith.CPlotsmithController.1";
+constexpr const wchar_t* kTitle = L"Plotsmith's controller";
+constexpr const wchar_t* kVersion = L"1.0";
+/// The class of OLE Automation that carries the calls of all dual interfaces between apartments.
+constexpr const wchar_t* kAutomationProxy = L"{00020424-0000-0000-C000-000000000046}";
+#ifdef _WIN64
+constexpr const wchar_t* kPlatform = L"win64";
+constexpr const wchar_t* kOtherPlatform = L"win32";
+constexpr REGSAM kOtherView = KEY_WOW64_32KEY;
+#else
+constexpr const wchar_t* kPlatform = L"win32";
+constexpr const wchar_t* kOtherPlatform = L"win64";
+constexpr REGSAM kOtherView = KEY_WOW64_64KEY;
+#endif
+
+/// The text of a value, with the key that holds it, below Software\Classes. An empty name is the key's
+/// default value.
+struct Entry {
+  std::wstring key;
+  std::wstring name;
+  std::wstring text;
+};
+
+std::wstring TextOf(REFGUID id) {
+  wchar_t text[40];
+  const int length = StringFromGUID2(id, text, static_cast<int>(std::size(text)));
+  return {text, static_cast<std::size_t>(length - 1)};
+}
+
+std::wstring ClassKey() { return L"CLSID\\" + TextOf(CLSID_CPlotsmithController); }
+std::wstring InterfaceKey() { return L"Interface\\" + TextOf(IID_IPlotsmithController); }
+std::wstring LibraryKey() { return L"TypeLib\\" + TextOf(LIBID_Plotsmith); }
+/// The key under which each kind of DLL says where the library is; 0 is the neutral language.
+std::wstring PlatformKey(const wchar_t* platform) {
+  return LibraryKey() + L"\\" + kVersion + L"\\0\\" + platform;
+}
+
+std::vector<Entry> Entries() {
+  const std::wstring path = ModulePath();
+  const std::wstring folder = path.substr(0, path.find_last_of(L'\\'));
+  const std::wstring classId = TextOf(CLSID_CPlotsmithController);
+  const std::wstring libraryId = TextOf(LIBID_Plotsmith);
+  const std::wstring version = LibraryKey() + L"\\" + kVersion;
+  return {
+      {ClassKey(), L"", kTitle},
+      {ClassKey() + L"\\InprocServer32", L"", path},
+      {ClassKey() + L"\\InprocServer32", L"ThreadingModel", L"Apartment"},
+      {ClassKey() + L"\\ProgID", L"", kVersionedName},
+      {ClassKey() + L"\\VersionIndependentProgID", L"", kName},
+      {ClassKey() + L"\\TypeLib", L"", libraryId},
+      {ClassKey() + L"\\Version", L"", kVersion},
+      {ClassKey() + L"\\Programmable", L"", L""},
+      {kVersionedName, L"", kTitle},
+      {std::wstring(kVersionedName) + L"\\CLSID", L"", classId},
+      {kName, L"", kTitle},
+      {std::wstring(kName) + L"\\CLSID", L"", classId},
+      {std::wstring(kName) + L"\\CurVer", L"", kVersionedName},
+      {version, L"", L"Brindle Plotsmith"},
+      {version + L"\\FLAGS", L"", L"0"},
+      {version + L"\\HELPDIR", L"", folder},
+      {PlatformKey(kPlatform), L"", path},
+      {InterfaceKey(), L"", L"IPlotsmithController"},
+      {InterfaceKey() + L"\\ProxyStubClsid32", L"", kAutomationProxy},
+      {InterfaceKey() + L"\\TypeLib", L"", libraryId},
+      {InterfaceKey() + L"\\TypeLib", L"Version", kVersion},
+  };
+}
+
+/// The classes that everyone or one user has.
+class Classes {
+ public:
+  explicit Classes(RegistrationScope scope)
+      : root_(scope == RegistrationScope::kUser ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE) {}
+
+  LSTATUS Write(const Entry& entry) const {
+    HKEY key = nullptr;
+    LSTATUS status = RegCreateKeyExW(root_, PathOf(entry.key).c_str(), 0, nullptr, 0, KEY_SET_VALUE, nullptr,
+                                     &key, nullptr);
+    if (status != ERROR_SUCCESS) return status;
+    const auto bytes = static_cast<DWORD>((entry.text.size() + 1) * sizeof(wchar_t));
+    status = RegSetValueExW(key, entry.name.c_str(), 0, REG_SZ,
+                            reinterpret_cast<const BYTE*>(entry.text.c_str()), bytes);
+    RegCloseKey(key);
+    return status;
+  }
+
+  /// `view` is KEY_WOW64_32KEY or KEY_WOW64_64KEY for the keys that programs of those bits see, 0 for our
+  /// own.
+  bool Has(const std::wstring& key, REGSAM view = 0) const {
+    HKEY opened = nullptr;
+    if (RegOpenKeyExW(root_, PathOf(key).c_str(), 0, KEY_READ | view, &opened) != ERROR_SUCCESS) return false;
+    RegCloseKey(opened);
+    return true;
+  }
+
+  /// Removes a key and all below it. A key that isn't there is as good as removed.
+  LSTATUS Remove(const std::wstring& key) const {
+    const LSTATUS status = RegDeleteTreeW(root_, PathOf(key).c_str());
+    return status == ERROR_FILE_NOT_FOUND ? ERROR_SUCCESS : status;
+  }
+
+  /// Removes a key in which nothing is left, such as the list of classes of a user who had none.
+  void RemoveIfEmpty(const std::wstring& key) const {
+    HKEY opened = nullptr;
+    if (RegOpenKeyExW(root_, PathOf(key).c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS) return;
+    DWORD keys = 1;
+    DWORD values = 1;
+    RegQueryInfoKeyW(opened, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values, nullptr, nullptr,
+                     nullptr, nullptr);
+    RegCloseKey(opened);
+    if (keys == 0 && values == 0) RegDeleteKeyW(root_, PathOf(key).c_str());
+  }
+
+ private:
+  static std::wstring PathOf(const std::wstring& key) {
+    return key.empty() ? kClasses : kClasses + (L"\\" + key);
+  }
+
+  HKEY root_;
+};
+
+}  // namespace
+
+HRESULT RegisterServer(RegistrationScope scope) {
+  const Classes classes(scope);
+  for (const Entry& entry : Entries()) {
+    const LSTATUS status = classes.Write(entry);
+    if (status != ERROR_SUCCESS) {
+      UnregisterServer(scope);
+      return HRESULT_FROM_WIN32(status);
+    }
+  }
+  return S_OK;
+}
+
+HRESULT UnregisterServer(RegistrationScope scope) {
+  const Classes classes(scope);
+  std::vector<std::wstring> keys = {ClassKey(), InterfaceKey()};
+  // The names and the type library are the same keys for programs of 32 and of 64 bits.
+  if (!classes.Has(ClassKey(), kOtherView)) keys.insert(keys.end(), {kVersionedName, kName});
+  keys.push_back(classes.Has(PlatformKey(kOtherPlatform)) ? PlatformKey(kPlatform) : LibraryKey());
+  LSTATUS first = ERROR_SUCCESS;
+  for (const std::wstring& key : keys) {
+    const LSTATUS status = classes.Remove(key);
+    if (first == ERROR_SUCCESS) first = status;
+  }
+  for (const wchar_t* list : {L"CLSID", L"Interface", L"TypeLib", L""}) classes.RemoveIfEmpty(list);
+  return HRESULT_FROM_WIN32(first);
+}
+
+}  // namespace plotsmith::windows

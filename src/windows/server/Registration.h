@@ -1,0 +1,21 @@
+#pragma once
+
+#include <windows.h>
+
+namespace plotsmith::windows {
+
+/// Who finds the class.
+enum class RegistrationScope {
+  kUser,     ///< the user who registers it: HKEY_CURRENT_USER
+  kMachine,  ///< all users: HKEY_LOCAL_MACHINE, which only an administrator may write
+};
+
+/// Writes what clients look the class up by: its identifier, its names, the type library, the interface. Does
+/// nothing by halves: after an error, what was written is removed again.
+HRESULT RegisterServer(RegistrationScope scope);
+
+/// Removes all that. What the DLL of the other kind, 32 bits beside 64, has registered stays, and what they
+/// share goes with the last of them.
+HRESULT UnregisterServer(RegistrationScope scope);
+
+}  // namespace plotsmith::windows

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <vector>
+#include <windows.h>
+
+namespace plotsmith::windows {
+
+/// Keeps hands off all windows of this thread while it lives: Excel has one for each workbook. Windows that
+/// were disabled before stay so.
+class DisabledWindows {
+ public:
+  DisabledWindows();
+  ~DisabledWindows();
+  DisabledWindows(const DisabledWindows&) = delete;
+  DisabledWindows& operator=(const DisabledWindows&) = delete;
+
+ private:
+  std::vector<HWND> windows_;
+};
+
+}  // namespace plotsmith::windows
