@@ -23,6 +23,8 @@ class SheetRangeObject final : public excel::Range {
   SheetRangeObject(std::shared_ptr<Worksheet> sheet, const CellRange& cells, Unit unit)
       : sheet_(std::move(sheet)), cells_(cells), unit_(unit) {}
 
+  SheetCells Where() const { return {*sheet_, cells_}; }
+
   std::int32_t Row() override { return cells_.row1; }
   std::int32_t Column() override { return cells_.column1; }
   Ref<Range> Rows() override { return std::make_shared<SheetRangeObject>(sheet_, cells_, Unit::kRows); }
@@ -120,6 +122,12 @@ class SheetRangeObject final : public excel::Range {
 
 Ref<excel::Range> MakeRange(std::shared_ptr<Worksheet> sheet, const CellRange& cells) {
   return std::make_shared<SheetRangeObject>(std::move(sheet), cells, SheetRangeObject::Unit::kCells);
+}
+
+SheetCells CellsOf(const excel::Range& range) {
+  const auto* object = dynamic_cast<const SheetRangeObject*>(&range);
+  if (object == nullptr) throw RuntimeError(runtime::error::kTypeMismatch);
+  return object->Where();
 }
 
 }  // namespace plotsmith::xlsx

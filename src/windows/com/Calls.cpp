@@ -27,6 +27,18 @@ bool NumbersItsOwnMembers(IDispatch& object) {
   return static_cast<bool>(ComPtr<IDispatch>(&object).As<IDispatchEx>());
 }
 
+/// The flags of a call as Automation has them.
+WORD FlagsOf(Kind kind) {
+  switch (kind) {
+    case Kind::kGet:
+      return DISPATCH_PROPERTYGET;
+    case Kind::kPut:
+      return DISPATCH_PROPERTYPUT;
+    default:
+      return DISPATCH_METHOD;
+  }
+}
+
 HRESULT LookUp(IDispatch& object, const wchar_t* name, DISPID& id) {
   auto* text = const_cast<wchar_t*>(name);
   return object.GetIDsOfNames(IID_NULL, &text, 1, kEnglish, &id);
@@ -101,12 +113,12 @@ OwnedVariant Call(IDispatch* object, Member& member, Kind kind, std::span<const 
   if (object == nullptr) throw RuntimeError(runtime::error::kObjectNotSet);
   const DISPID id = member.IdOn(*object);
   Parameters parameters(arguments, kind);
-  if (kind != Kind::kGet) ++changes;
+  if (kind == Kind::kPut || kind == Kind::kMethod) ++changes;
   OwnedVariant answer;
   while (true) {
     ++calls;
     EXCEPINFO exception{};
-    const HRESULT result = object->Invoke(id, IID_NULL, kEnglish, static_cast<WORD>(kind), &parameters.passed,
+    const HRESULT result = object->Invoke(id, IID_NULL, kEnglish, FlagsOf(kind), &parameters.passed,
                                           kind == Kind::kPut ? nullptr : answer.Put(), &exception, nullptr);
     const bool thrown = result == DISP_E_EXCEPTION;
     const bool busy = IsBusy(thrown ? exception.scode : result);

@@ -31,10 +31,11 @@ class Member {
 };
 
 /// What a call is (one of Automation's invoke kinds, never two of them).
-enum class Kind : WORD {
-  kGet = DISPATCH_PROPERTYGET,
-  kPut = DISPATCH_PROPERTYPUT,
-  kMethod = DISPATCH_METHOD,
+enum class Kind {
+  kGet,
+  kPut,
+  kMethod,
+  kFind,  ///< a method as well, one that changes nothing
 };
 
 /// Whether a call waits where the server says that it is busy, and is made again.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <windows.h>
+#include "windows/com/Windows.h"
 
 namespace plotsmith::windows {
 

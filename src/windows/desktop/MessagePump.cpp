@@ -1,6 +1,6 @@
 #include "windows/desktop/MessagePump.h"
 
-#include <windows.h>
+#include "windows/com/Windows.h"
 
 namespace plotsmith::windows {
 

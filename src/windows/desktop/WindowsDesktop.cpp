@@ -1,12 +1,12 @@
 #include "windows/desktop/WindowsDesktop.h"
 
 #include <filesystem>
-#include <windows.h>
 
 #include "common/App.h"
 #include "common/PSConstants.h"
 #include "runtime/Utf8Path.h"
 #include "windows/com/Texts.h"
+#include "windows/com/Windows.h"
 #include "windows/desktop/HtmlHelp.h"
 
 namespace plotsmith::windows {

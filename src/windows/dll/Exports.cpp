@@ -1,9 +1,8 @@
 // The functions that COM and regsvr32 call in the DLL.
-#include <olectl.h>
 #include <string_view>
-#include <windows.h>
 
 #include "windows/com/Abandon.h"
+#include "windows/com/Windows.h"
 #include "windows/server/ClassFactory.h"
 #include "windows/server/Component.h"
 #include "windows/server/Controller.h"

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <cstddef>
-#include <oleauto.h>
 #include <string>
 #include <vector>
 
 #include "windows/com/ComPtr.h"
+#include "windows/com/Windows.h"
 
 namespace plotsmith::windows {
 

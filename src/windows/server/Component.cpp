@@ -3,11 +3,11 @@
 #include <atomic>
 #include <memory>
 #include <string>
-#include <windows.h>
 
 #include "common/PSConstants.h"
 #include "controller/System.h"
 #include "runtime/RuntimeError.h"
+#include "windows/com/Windows.h"
 #include "windows/desktop/WindowsDesktop.h"
 #include "windows/server/Module.h"
 #include "windows/views/FormsView.h"

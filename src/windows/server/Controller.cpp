@@ -2,11 +2,11 @@
 
 #include <functional>
 #include <initializer_list>
-#include <oleauto.h>
 #include <string>
 #include <vector>
 
 #include "controller/CPlotsmithController.h"
+#include "windows/com/Windows.h"
 #include "windows/excel/WrapApplication.h"
 #include "windows/server/Arguments.h"
 #include "windows/server/Component.h"

@@ -1,10 +1,9 @@
 #pragma once
 
 #include <atomic>
-#include <ocidl.h>
-#include <windows.h>
 
 #include "PlotsmithInterface.h"
+#include "windows/com/Windows.h"
 #include "windows/server/Module.h"
 
 namespace plotsmith::windows {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <new>
-#include <windows.h>
 
+#include "windows/com/Windows.h"
 namespace plotsmith::windows {
 
 /// Runs what a client of COM has called. Exceptions of C++ must not reach a client, which may be written in

@@ -1,9 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <oaidl.h>
-#include <windows.h>
 
+#include "windows/com/Windows.h"
 namespace plotsmith::windows {
 
 /// The handle of the window of an Excel Application, which it answers as Hwnd; 0 where it has none.

@@ -2,3 +2,4 @@
 #include <initguid.h>
 
 #include "PlotsmithInterface.h"
+#include "windows/com/Windows.h"

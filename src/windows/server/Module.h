@@ -1,8 +1,8 @@
 #pragma once
 
 #include <string>
-#include <windows.h>
 
+#include "windows/com/Windows.h"
 /// @file
 /// The DLL as a module of the host's process.
 namespace plotsmith::windows {

@@ -1,7 +1,6 @@
 #include "windows/server/TypeLibrary.h"
 
-#include <oleauto.h>
-
+#include "windows/com/Windows.h"
 #include "windows/server/Module.h"
 
 namespace plotsmith::windows {

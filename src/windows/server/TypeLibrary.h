@@ -1,7 +1,6 @@
 #pragma once
 
-#include <oaidl.h>
-#include <windows.h>
+#include "windows/com/Windows.h"
 
 namespace plotsmith::windows {
 

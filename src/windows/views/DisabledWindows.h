@@ -1,8 +1,8 @@
 #pragma once
 
 #include <vector>
-#include <windows.h>
 
+#include "windows/com/Windows.h"
 namespace plotsmith::windows {
 
 /// Keeps hands off all windows of this thread while it lives: Excel has one for each workbook. Windows that

@@ -1,0 +1,183 @@
+#include "windows/excel/CellReader.h"
+
+#include <algorithm>
+
+#include "runtime/RuntimeError.h"
+#include "runtime/Strings.h"
+#include "windows/excel/Proxy.h"
+
+namespace plotsmith::proxies {
+
+using excel::CellValue;
+using runtime::RuntimeError;
+
+namespace {
+
+/// A single cell first: who goes on below reads more than one.
+constexpr std::int32_t kFirstSize = 1, kSecondSize = 16, kMostSize = 16384;
+
+std::string Letters(std::int32_t column) {
+  std::string letters;
+  for (; column > 0; column = (column - 1) / 26)
+    letters.insert(0, 1, static_cast<char>('A' + (column - 1) % 26));
+  return letters;
+}
+
+/// The address of cells of one column.
+std::string AddressOf(std::int32_t row, std::int32_t column, std::int32_t size) {
+  const std::string letters = "$" + Letters(column) + "$";
+  return letters + std::to_string(row) + ":" + letters + std::to_string(row + size - 1);
+}
+
+com::ComPtr<IDispatch> Find(IDispatch* object, com::Member& member, const excel::Variant& argument) {
+  const std::array arguments{com::ToVariant(argument)};
+  return com::ObjectOf(com::Call(object, member, com::Kind::kGet, arguments).Get());
+}
+
+com::ComPtr<IDispatch> CellAt(IDispatch* sheet, std::int32_t row, std::int32_t column) {
+  static com::Member cells(L"Cells");
+  const std::array arguments{com::ToVariant(row), com::ToVariant(column)};
+  return com::ObjectOf(com::Call(sheet, cells, com::Kind::kGet, arguments).Get());
+}
+
+com::OwnedVariant ValueOf(IDispatch* range) {
+  static com::Member value(L"Value");
+  return com::Call(range, value, com::Kind::kGet, {});
+}
+
+/// What an error value reads in English: the text of the cell, which is in the user's language, is asked for
+/// where it is wanted.
+std::string_view ErrorText(int number) {
+  switch (number) {
+    case 2000:
+      return "#NULL!";
+    case 2007:
+      return "#DIV/0!";
+    case 2015:
+      return "#VALUE!";
+    case 2023:
+      return "#REF!";
+    case 2029:
+      return "#NAME?";
+    case 2036:
+      return "#NUM!";
+    default:
+      return "#N/A";
+  }
+}
+
+/// Longer texts aren't shown as they are by every version of Excel.
+constexpr std::size_t kSurelyShown = 255;
+
+}  // namespace
+
+CellValue CellReader::Kept(const VARIANT& value) {
+  using Kind = CellValue::Kind;
+  const excel::Variant plain = com::FromVariant(value);
+  if (const auto* number = plain.If<double>()) return {Kind::kNumber, *number, {}};
+  if (const auto* whole = plain.If<std::int32_t>()) return {Kind::kNumber, static_cast<double>(*whole), {}};
+  if (const auto* date = plain.If<excel::Variant::Date>()) return {Kind::kDate, date->serial, {}};
+  if (const auto* truth = plain.If<bool>()) return {Kind::kBoolean, *truth ? 1.0 : 0.0, {}};
+  if (const auto* text = plain.If<std::string>()) return {Kind::kText, 0, *texts_.insert(*text).first};
+  if (const auto* failure = plain.If<excel::Variant::Error>()) {
+    return {Kind::kError, static_cast<double>(failure->number), ErrorText(failure->number)};
+  }
+  return {};
+}
+
+CellReader::Stretch CellReader::Fetch(std::int32_t row, std::int32_t column, std::int32_t size) {
+  if (size > 1) size = std::min(size, Bottom() - row + 1);
+  Stretch stretch{.first = row};
+  if (size > 1) {
+    // Range.Value fails as a whole where a single cell has a value that it can't tell, such as an amount of
+    // money that is too large for a Currency. The error is only that cell's, so the cells are read one by
+    // one.
+    try {
+      static com::Member range(L"Range");
+      const com::OwnedVariant values = ValueOf(Find(sheet_, range, AddressOf(row, column, size)).Get());
+      const com::CellArray cells(values.Get());
+      for (std::int32_t i = 0; i < cells.Rows(); ++i) stretch.values.push_back(Kept(cells.At(i, 0)));
+      return stretch;
+    } catch (const RuntimeError&) {
+      stretch.values.clear();
+    }
+  }
+  stretch.values.push_back(Kept(ValueOf(CellAt(sheet_, row, column).Get()).Get()));
+  return stretch;
+}
+
+void CellReader::Refresh() {
+  if (changes_ == com::ChangeCount()) return;
+  changes_ = com::ChangeCount();
+  stretches_.clear();
+  bottom_.reset();
+}
+
+CellReader::Stretch& CellReader::StretchWith(std::int32_t row, std::int32_t column) {
+  Refresh();
+  Stretch& stretch = stretches_[column];
+  if (stretch.Has(row)) return stretch;
+  const bool continues = stretch.Size() > 0 && row == stretch.End();
+  stretch =
+      Fetch(row, column, continues ? std::clamp(2 * stretch.Size(), kSecondSize, kMostSize) : kFirstSize);
+  return stretch;
+}
+
+CellValue CellReader::ValueAt(std::int32_t row, std::int32_t column) {
+  const Stretch& stretch = StretchWith(row, column);
+  return stretch.values[static_cast<std::size_t>(row - stretch.first)];
+}
+
+std::string_view CellReader::TextAt(std::int32_t row, std::int32_t column, std::string& scratch) {
+  Stretch& stretch = StretchWith(row, column);
+  const CellValue value = stretch.values[static_cast<std::size_t>(row - stretch.first)];
+  if (value.kind == CellValue::Kind::kEmpty) return {};
+  // only a text in the plain format is shown as it is, however wide its column is
+  if (value.kind == CellValue::Kind::kText && runtime::Len(value.text) <= kSurelyShown) {
+    if (!stretch.general) stretch.general = IsGeneral(stretch, column);
+    if (*stretch.general) return value.text;
+  }
+  static com::Member text(L"Text");
+  scratch = Ask<std::string>(CellAt(sheet_, row, column).Get(), text, com::Kind::kGet);
+  return scratch;
+}
+
+bool CellReader::IsGeneral(const Stretch& stretch, std::int32_t column) const {
+  // DisplayFormat also knows what conditional formats do. Versions before 14 don't have it.
+  try {
+    static com::Member range(L"Range"), displayFormat(L"DisplayFormat"), numberFormat(L"NumberFormat");
+    const auto cells = Find(sheet_, range, AddressOf(stretch.first, column, stretch.Size()));
+    const auto look = com::ObjectOf(com::Call(cells.Get(), displayFormat, com::Kind::kGet, {}).Get());
+    const auto format = Ask<excel::Variant>(look.Get(), numberFormat, com::Kind::kGet);
+    return format == excel::Variant("General");
+  } catch (const RuntimeError&) {
+    return false;
+  }
+}
+
+std::int32_t CellReader::Bottom() {
+  if (!bottom_) {
+    static com::Member usedRange(L"UsedRange"), row(L"Row"), rows(L"Rows"), count(L"Count");
+    const auto used = com::ObjectOf(com::Call(sheet_, usedRange, com::Kind::kGet, {}).Get());
+    const auto lines = com::ObjectOf(com::Call(used.Get(), rows, com::Kind::kGet, {}).Get());
+    bottom_ = Ask<std::int32_t>(used.Get(), row, com::Kind::kGet) +
+              Ask<std::int32_t>(lines.Get(), count, com::Kind::kGet) - 1;
+  }
+  return *bottom_;
+}
+
+std::int32_t CellReader::NextRow(std::int32_t row, std::int32_t column) {
+  Refresh();
+  std::int32_t next = row + 1;
+  const auto found = stretches_.find(column);
+  if (found != stretches_.end()) {
+    const Stretch& stretch = found->second;
+    while (stretch.Has(next) &&
+           stretch.values[static_cast<std::size_t>(next - stretch.first)].kind == CellValue::Kind::kEmpty) {
+      ++next;
+    }
+  }
+  return next <= Bottom() ? next : 0;
+}
+
+}  // namespace plotsmith::proxies

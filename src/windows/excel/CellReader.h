@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
+
+#include "host/excel/CellValue.h"
+#include "windows/com/Windows.h"
+
+namespace plotsmith::proxies {
+
+/// Reads cells of one sheet with few calls: a stretch of a column in one call, from which the cells after the
+/// first are answered. A stretch that continues another one is twice as long. What was fetched is asked for
+/// again as soon as any call may have changed something.
+///
+/// Values are those of Range.Value, which tells dates from numbers. A number in a currency format comes as
+/// the language's Currency there, with four decimals, as it would in a macro.
+class CellReader {
+ public:
+  /// `sheet` must outlive the reader.
+  explicit CellReader(IDispatch* sheet) : sheet_(sheet) {}
+
+  /// What a cell holds. The text of it is good as long as the reader.
+  excel::CellValue ValueAt(std::int32_t row, std::int32_t column);
+  /// What a cell shows. The view is good as long as the reader, or into `scratch`.
+  std::string_view TextAt(std::int32_t row, std::int32_t column, std::string& scratch);
+  /// The next row below that may hold anything in the column; 0 if there is none.
+  std::int32_t NextRow(std::int32_t row, std::int32_t column);
+
+ private:
+  /// Cells of a column that were fetched together.
+  struct Stretch {
+    std::int32_t first = 1;  ///< row
+    std::vector<excel::CellValue> values;
+    /// Whether the number format of all cells is General, once it was asked for.
+    std::optional<bool> general;
+
+    std::int32_t Size() const { return static_cast<std::int32_t>(values.size()); }
+    std::int32_t End() const { return first + Size(); }
+    bool Has(std::int32_t row) const { return row >= first && row < End(); }
+  };
+
+  /// Forgets what is no longer sure to be so.
+  void Refresh();
+  Stretch& StretchWith(std::int32_t row, std::int32_t column);
+  /// Cells from a row on, fewer than `size` at the end of the used range.
+  Stretch Fetch(std::int32_t row, std::int32_t column, std::int32_t size);
+  bool IsGeneral(const Stretch& stretch, std::int32_t column) const;
+  /// The last row of the used range.
+  std::int32_t Bottom();
+  excel::CellValue Kept(const VARIANT& value);
+
+  IDispatch* sheet_;
+  std::uint64_t changes_ = 0;                  ///< of com::ChangeCount
+  std::map<std::int32_t, Stretch> stretches_;  ///< by column, the latest of each
+  std::optional<std::int32_t> bottom_;
+  std::unordered_set<std::string> texts_;  ///< of all cells that were fetched, each once
+};
+
+}  // namespace plotsmith::proxies

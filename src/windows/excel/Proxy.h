@@ -1,0 +1,147 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "host/excel/Excel.h"
+#include "windows/com/Calls.h"
+#include "windows/com/ComPtr.h"
+#include "windows/com/Proxies.h"
+#include "windows/com/Values.h"
+
+/// The port's classes over Excel's own objects, late bound.
+namespace plotsmith::proxies {
+
+using excel::Ref;
+
+/// A proxy of an object that has been handed out; Nothing for null. There is one proxy for each object that
+/// is handed out, and each is released with its last Ref.
+template <class T>
+Ref<T> Wrap(com::ComPtr<IDispatch> object);
+#define CLASS_NAME(Class) \
+  template <>             \
+  Ref<excel::Class> Wrap(com::ComPtr<IDispatch> object);
+#include "windows/excel/members/Classes.inc"
+#undef CLASS_NAME
+
+/// What stands behind every proxy.
+class ProxyObject {
+ public:
+  explicit ProxyObject(com::ComPtr<IDispatch> object) : object_(std::move(object)) {}
+  virtual ~ProxyObject() = default;
+
+  IDispatch* Object() const { return object_.Get(); }
+
+ private:
+  com::ComPtr<IDispatch> object_;
+  com::CountedProxy counted_;
+};
+
+/// A value that is passed on to Excel.
+///@{
+inline com::OwnedVariant Passed(const excel::Variant& value) { return com::ToVariant(value); }
+inline com::OwnedVariant Passed(com::OwnedVariant value) { return value; }
+/// Error 13 for an object of another host.
+template <class T>
+com::OwnedVariant Passed(const Ref<T>& object) {
+  if (!object) return com::ToVariant(static_cast<IDispatch*>(nullptr));
+  const auto* proxy = dynamic_cast<const ProxyObject*>(object.shared().get());
+  if (proxy == nullptr) throw runtime::RuntimeError(runtime::error::kTypeMismatch);
+  return com::ToVariant(proxy->Object());
+}
+///@}
+
+template <class T>
+struct IsRef : std::false_type {};
+template <class T>
+struct IsRef<Ref<T>> : std::true_type {
+  using Class = T;
+};
+
+/// What Excel answered, as the port's type. It is converted as the language would convert it.
+template <class T>
+T Answer([[maybe_unused]] const com::OwnedVariant& answer) {
+  if constexpr (std::is_void_v<T>) {
+    return;
+  } else if constexpr (IsRef<T>::value) {
+    return Wrap<typename IsRef<T>::Class>(com::ObjectOf(answer.Get()));
+  } else if constexpr (std::is_same_v<T, std::vector<excel::Variant>>) {
+    return com::ListOf(answer.Get());
+  } else if constexpr (std::is_same_v<T, bool>) {
+    return runtime::CBool(com::FromVariant(answer.Get()));
+  } else if constexpr (std::is_same_v<T, std::int32_t>) {
+    return runtime::CLng(com::FromVariant(answer.Get()));
+  } else if constexpr (std::is_same_v<T, double>) {
+    return runtime::CDbl(com::FromVariant(answer.Get()));
+  } else if constexpr (std::is_same_v<T, std::string>) {
+    return runtime::CStr(com::FromVariant(answer.Get()));
+  } else {
+    static_assert(std::is_same_v<T, excel::Variant>);
+    return com::FromVariant(answer.Get());
+  }
+}
+
+/// Calls a member of an object, and gives back what it answers as a T.
+template <class T, class... Arguments>
+T Ask(IDispatch* object, com::Member& member, com::Kind kind, Arguments&&... arguments) {
+  const std::array<com::OwnedVariant, sizeof...(Arguments)> passed{
+      Passed(std::forward<Arguments>(arguments))...};
+  return Answer<T>(com::Call(object, member, kind, passed));
+}
+
+/// A proxy of the port's class Base.
+template <class Base>
+class Proxy : public Base, public ProxyObject {
+ public:
+  using ProxyObject::ProxyObject;
+
+ protected:
+  template <class T, class... Arguments>
+  T Get(com::Member& member, Arguments&&... arguments) const {
+    return Ask<T>(Object(), member, com::Kind::kGet, std::forward<Arguments>(arguments)...);
+  }
+  template <class... Arguments>
+  void Put(com::Member& member, Arguments&&... arguments) const {
+    Ask<void>(Object(), member, com::Kind::kPut, std::forward<Arguments>(arguments)...);
+  }
+  template <class T, class... Arguments>
+  T Find(com::Member& member, Arguments&&... arguments) const {
+    return Ask<T>(Object(), member, com::Kind::kFind, std::forward<Arguments>(arguments)...);
+  }
+  template <class T, class... Arguments>
+  T Method(com::Member& member, Arguments&&... arguments) const {
+    return Ask<T>(Object(), member, com::Kind::kMethod, std::forward<Arguments>(arguments)...);
+  }
+};
+
+/// The type by which the port takes a value that it gives back as a T.
+template <class T>
+struct TakenAs {
+  using Type = T;
+};
+template <>
+struct TakenAs<std::string> {
+  using Type = std::string_view;
+};
+template <>
+struct TakenAs<excel::Variant> {
+  using Type = const excel::Variant&;
+};
+template <class T>
+using Taken = typename TakenAs<T>::Type;
+
+/// MsoTriState.
+inline constexpr std::int32_t kTrue = -1, kFalse = 0;
+
+/// Makes a proxy of the class P for Wrap.
+template <class P>
+std::shared_ptr<P> MakeProxy(com::ComPtr<IDispatch> object) {
+  return object ? std::make_shared<P>(std::move(object)) : nullptr;
+}
+
+}  // namespace plotsmith::proxies

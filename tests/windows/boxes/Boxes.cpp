@@ -1,0 +1,157 @@
+#include "tests/windows/boxes/Boxes.h"
+
+#include <atomic>
+#include <map>
+#include <optional>
+#include <string>
+
+#include "runtime/RuntimeError.h"
+#include "runtime/Strings.h"
+#include "runtime/Variant.h"
+#include "tests/windows/boxes/Calls.h"
+#include "tests/windows/boxes/MessageBoxes.h"
+#include "windows/com/Failures.h"
+#include "windows/com/Texts.h"
+#include "windows/com/Values.h"
+
+namespace plotsmith::test {
+namespace {
+
+using runtime::Variant;
+
+HWND NewWindow() {
+  const HWND window = CreateWindowExW(0, L"STATIC", L"A window of the host", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                                      0, 0, 100, 100, nullptr, nullptr, nullptr, nullptr);
+  if (window == nullptr) throw runtime::RuntimeError(runtime::error::kAutomation, "There are no windows.");
+  return window;
+}
+
+std::int32_t HandleCount() {
+  DWORD handles = 0;
+  GetProcessHandleCount(GetCurrentProcess(), &handles);
+  return static_cast<std::int32_t>(handles);
+}
+
+/// The object that scripts see. Its members are in the table `kMembers`.
+class Boxes final : public IDispatch {
+ public:
+  STDMETHODIMP QueryInterface(REFIID id, void** object) override {
+    *object = id == IID_IUnknown || id == IID_IDispatch ? this : nullptr;
+    if (*object == nullptr) return E_NOINTERFACE;
+    AddRef();
+    return S_OK;
+  }
+  STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
+  STDMETHODIMP_(ULONG) Release() override {
+    const ULONG left = --references_;
+    if (left == 0) delete this;
+    return left;
+  }
+  STDMETHODIMP GetTypeInfoCount(UINT* count) override {
+    *count = 0;
+    return S_OK;
+  }
+  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override;
+  STDMETHODIMP Invoke(DISPID member, REFIID, LCID, WORD, DISPPARAMS* sent, VARIANT* result,
+                      EXCEPINFO* exception, UINT*) override;
+
+ private:
+  struct Member {
+    const char* name;
+    Variant (*call)(Boxes& boxes, const DISPPARAMS& sent);
+  };
+  static const Member kMembers[];
+
+  /// The argument at a position from 0, counted from the last one, as they are sent.
+  static const VARIANT& Last(const DISPPARAMS& sent, UINT position) {
+    if (position >= sent.cArgs) throw runtime::RuntimeError(450, "Wrong number of arguments");
+    return sent.rgvarg[position];
+  }
+  static std::string Text(const DISPPARAMS& sent, UINT position) {
+    return CStr(com::FromVariant(Last(sent, position)));
+  }
+  static com::ComPtr<IDispatch> Object(const DISPPARAMS& sent, UINT position) {
+    return com::ObjectOf(Last(sent, position));
+  }
+
+  std::atomic<ULONG> references_ = 1;
+  MessageBoxes boxes_;
+  HWND window_ = nullptr;
+};
+
+const Boxes::Member Boxes::kMembers[] = {
+    // Cancel(): the next box is answered with Cancel.
+    {"Cancel",
+     [](Boxes& boxes, const DISPPARAMS&) -> Variant {
+       boxes.boxes_.AnswerNext(IDCANCEL);
+       return {};
+     }},
+    // Take(): what the boxes showed since the last call, see MessageBoxes.
+    {"Take", [](Boxes& boxes, const DISPPARAMS&) -> Variant { return boxes.boxes_.Take(); }},
+    // LateBound(controller, call, application) and EarlyBound: see Calls.h.
+    {"LateBound",
+     [](Boxes&, const DISPPARAMS& sent) -> Variant {
+       return CallLateBound(Object(sent, 2).Get(), Text(sent, 1), Object(sent, 0).Get());
+     }},
+    {"EarlyBound",
+     [](Boxes&, const DISPPARAMS& sent) -> Variant {
+       return CallEarlyBound(Object(sent, 2).Get(), Text(sent, 1), Object(sent, 0).Get());
+     }},
+    {"Describe", [](Boxes&, const DISPPARAMS& sent) -> Variant { return Describe(Object(sent, 0).Get()); }},
+    // WithStackOf(kilobytes, function)
+    {"WithStackOf",
+     [](Boxes&, const DISPPARAMS& sent) -> Variant {
+       CallWithStackOf(static_cast<unsigned>(CDbl(com::FromVariant(Last(sent, 1)))), Object(sent, 0).Get());
+       return {};
+     }},
+    {"RefreshOnOtherThread", [](Boxes&, const DISPPARAMS&) -> Variant { return RefreshOnOtherThread(); }},
+    // Handles(): how many the process has.
+    {"Handles", [](Boxes&, const DISPPARAMS&) -> Variant { return HandleCount(); }},
+    // FreeUnusedLibraries(), and IsLoaded(library)
+    {"FreeUnusedLibraries",
+     [](Boxes&, const DISPPARAMS&) -> Variant {
+       CoFreeUnusedLibrariesEx(0, 0);
+       return {};
+     }},
+    {"IsLoaded",
+     [](Boxes&, const DISPPARAMS& sent) -> Variant {
+       return GetModuleHandleW(com::Wide(Text(sent, 0)).c_str()) != nullptr;
+     }},
+    // Window(): the handle of a window of this thread, which is made at the first call; WindowIsEnabled().
+    {"Window",
+     [](Boxes& boxes, const DISPPARAMS&) -> Variant {
+       if (boxes.window_ == nullptr) boxes.window_ = NewWindow();
+       return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(boxes.window_));
+     }},
+    {"WindowIsEnabled",
+     [](Boxes& boxes, const DISPPARAMS&) -> Variant { return IsWindowEnabled(boxes.window_) != 0; }},
+};
+
+HRESULT Boxes::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) {
+  const std::string name = com::Utf8(names[0], wcslen(names[0]));
+  for (const Member& member : kMembers) {
+    if (!runtime::EqualsIgnoreCase(member.name, name)) continue;
+    ids[0] = static_cast<DISPID>(&member - kMembers) + 1;
+    return S_OK;
+  }
+  return DISP_E_UNKNOWNNAME;
+}
+
+HRESULT Boxes::Invoke(DISPID member, REFIID, LCID, WORD, DISPPARAMS* sent, VARIANT* result,
+                      EXCEPINFO* exception, UINT*) {
+  if (member < 1 || member > static_cast<DISPID>(std::size(kMembers))) return DISP_E_MEMBERNOTFOUND;
+  try {
+    const Variant answer = kMembers[member - 1].call(*this, *sent);
+    if (result != nullptr) *result = com::ToVariant(answer).Detach();
+    return S_OK;
+  } catch (...) {
+    return com::FillException(runtime::CurrentError(), exception);
+  }
+}
+
+}  // namespace
+
+IDispatch* NewBoxes() { return new Boxes; }
+
+}  // namespace plotsmith::test

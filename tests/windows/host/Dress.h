@@ -1,0 +1,235 @@
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "host/excel/Excel.h"
+#include "windows/com/ComPtr.h"
+#include "windows/com/Values.h"
+#include "xlsx/Application.h"
+
+/// The embedded host in the dress of Excel: its objects behind IDispatch, by the tables from which the
+/// proxies are made.
+namespace plotsmith::dress {
+
+using excel::Ref;
+
+/// One embedded host, with what a script asks of it beside Excel's members.
+struct Host {
+  std::shared_ptr<xlsx::Application> application = xlsx::Application::Create();
+  std::string path;      ///< of the workbook that is open
+  std::string journal;   ///< its lines since it was opened, each with a line feed
+  bool editing = false;  ///< a cell is being edited, so Interactive can't be set
+  std::map<std::string, com::ComPtr<IDispatch>> macros;
+};
+using HostPtr = std::shared_ptr<Host>;
+
+/// How many calls all dressed objects have got, and how many objects there are.
+struct Counts {
+  std::atomic<std::int32_t> calls = 0;
+  std::atomic<std::int32_t> unsure =
+      0;  ///< calls that left open whether they read a property or call a method
+  std::atomic<std::int32_t> objects = 0;
+};
+extern Counts counts;
+
+/// The arguments of one call, in order. They belong to the caller.
+class Arguments {
+ public:
+  explicit Arguments(const DISPPARAMS& sent);
+
+  /// Without those at the end that were left out.
+  std::size_t Count() const { return count_; }
+  /// An argument that is there; what lies behind the last one counts as left out.
+  const VARIANT& operator[](std::size_t i) const;
+
+ private:
+  const DISPPARAMS& sent_;
+  std::size_t count_;
+};
+
+/// One way to call a member of a T: a property to read or to write, or a method.
+template <class T>
+struct Way {
+  std::wstring name;
+  WORD kind;          ///< one of Automation's invoke kinds
+  std::size_t least;  ///< arguments, the value of a property that is written among them
+  std::size_t most;
+  std::function<bool(const Arguments&)> accepts;  ///< tells ways of one name apart; null accepts all
+  std::function<com::OwnedVariant(T&, const Arguments&, const HostPtr&)> call;
+};
+
+/// The members of a T.
+template <class T>
+class Table {
+ public:
+  void Add(Way<T> way) {
+    if (IdOf(way.name) == DISPID_UNKNOWN) names_.push_back(way.name);
+    ways_.push_back(std::move(way));
+  }
+  /// By a name in any case; DISPID_UNKNOWN if there is no such member. What is called Item is the default
+  /// member.
+  DISPID IdOf(const std::wstring& name) const;
+  /// Null if no member of the number can be called so.
+  const Way<T>* Find(DISPID id, WORD kinds, const Arguments& arguments) const;
+
+ private:
+  std::vector<std::wstring> names_;
+  std::vector<Way<T>> ways_;
+};
+
+/// The table of a class, made when it is first asked for.
+template <class T>
+const Table<T>& TableOf();
+
+/// A COM object that is not thread-safe, as all of an apartment.
+class Dispatch : public IDispatch {
+ public:
+  Dispatch() { ++counts.objects; }
+  virtual ~Dispatch() { --counts.objects; }
+  Dispatch(const Dispatch&) = delete;
+  Dispatch& operator=(const Dispatch&) = delete;
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) noexcept override;
+  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++references_; }
+  ULONG STDMETHODCALLTYPE Release() noexcept override;
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override;
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
+                                          DISPID* ids) noexcept override;
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* sent, VARIANT* answer,
+                                   EXCEPINFO* exception, UINT* wrong) noexcept override;
+
+ private:
+  virtual DISPID IdOf(const std::wstring& name) const = 0;
+  /// Throws a RuntimeError, or an HRESULT for a call that the object can't understand.
+  virtual com::OwnedVariant Called(DISPID id, WORD kinds, const Arguments& arguments) = 0;
+
+  ULONG references_ = 1;
+};
+
+/// An object of the host behind IDispatch.
+template <class T>
+class Dressed final : public Dispatch {
+ public:
+  Dressed(Ref<T> object, HostPtr host) : host_(std::move(host)), object_(std::move(object)) {}
+
+  const Ref<T>& Object() const { return object_; }
+
+ private:
+  DISPID IdOf(const std::wstring& name) const override { return TableOf<T>().IdOf(name); }
+  com::OwnedVariant Called(DISPID id, WORD kinds, const Arguments& arguments) override;
+
+  HostPtr host_;  // outlives the object, whose destructor comes first
+  Ref<T> object_;
+};
+
+/// The default member's answer for arguments that a property of an object doesn't take itself: Sheets("A").
+com::OwnedVariant ItemOf(const com::OwnedVariant& collection, const Arguments& arguments);
+
+/// An object in its dress; Nothing for null.
+template <class T>
+com::OwnedVariant Answer(const Ref<T>& object, const HostPtr& host) {
+  if (!object) return com::ToVariant(static_cast<IDispatch*>(nullptr));
+  const auto dressed = com::ComPtr<IDispatch>::Attach(new Dressed<T>(object, host));
+  return com::ToVariant(dressed.Get());
+}
+/// In the dress of a worksheet where it is one.
+com::OwnedVariant Answer(const Ref<excel::Sheet>& sheet, const HostPtr& host);
+inline com::OwnedVariant Answer(const excel::Variant& value, const HostPtr&) { return com::ToVariant(value); }
+inline com::OwnedVariant Answer(const std::vector<excel::Variant>& values, const HostPtr&) {
+  return com::ToArray(values);
+}
+
+/// The host's object in a dress; Nothing for Nothing. Error 13 for another one.
+template <class T>
+Ref<T> Undressed(const VARIANT& value) {
+  const auto object = com::ObjectOf(value);
+  if (!object) return nullptr;
+  const auto* dressed = dynamic_cast<Dressed<T>*>(object.Get());
+  if (dressed == nullptr) throw runtime::RuntimeError(runtime::error::kTypeMismatch);
+  return dressed->Object();
+}
+
+/// What the port answered, as the type that the tables tell.
+template <class T>
+using ThePortsType = std::conditional_t<std::is_same_v<T, std::string>, excel::Variant, T>;
+
+/// What a member answers, in its dress.
+template <class T, class Member>
+com::OwnedVariant Answered(const Member& member, const HostPtr& host) {
+  if constexpr (std::is_void_v<T>) {
+    member();
+    return {};
+  } else {
+    return Answer(ThePortsType<T>(member()), host);
+  }
+}
+
+/// An argument as the type by which the port takes it.
+template <class T>
+auto Given(const VARIANT& value) {
+  if constexpr (std::is_same_v<T, bool>) {
+    return runtime::CBool(com::FromVariant(value));
+  } else if constexpr (std::is_same_v<T, std::int32_t>) {
+    return runtime::CLng(com::FromVariant(value));
+  } else if constexpr (std::is_same_v<T, double>) {
+    return runtime::CDbl(com::FromVariant(value));
+  } else if constexpr (std::is_same_v<T, std::string> || std::is_same_v<T, std::string_view>) {
+    return runtime::CStr(com::FromVariant(value));
+  } else {
+    static_assert(std::is_same_v<T, excel::Variant>);
+    return com::FromVariant(value);
+  }
+}
+
+/// Whether an argument is meant as a T where another way takes another type: an index, or a name.
+template <class T>
+bool IsMeantAs(const VARIANT& value) {
+  const bool text = com::FromVariant(value).template Is<std::string>();
+  return text == (std::is_same_v<T, std::string> || std::is_same_v<T, std::string_view>);
+}
+
+template <class T>
+DISPID Table<T>::IdOf(const std::wstring& name) const {
+  if (_wcsicmp(name.c_str(), L"Item") == 0) {
+    for (const Way<T>& way : ways_) {
+      if (way.name == L"Item") return DISPID_VALUE;
+    }
+  }
+  for (std::size_t i = 0; i < names_.size(); ++i) {
+    if (_wcsicmp(names_[i].c_str(), name.c_str()) == 0) return static_cast<DISPID>(i) + 1;
+  }
+  return DISPID_UNKNOWN;
+}
+
+template <class T>
+const Way<T>* Table<T>::Find(DISPID id, WORD kinds, const Arguments& arguments) const {
+  const Way<T>* found = nullptr;
+  for (const Way<T>& way : ways_) {
+    if ((way.kind & kinds) == 0 || IdOf(way.name) != id) continue;
+    const bool fits = arguments.Count() >= way.least && arguments.Count() <= way.most;
+    if (fits && (!way.accepts || way.accepts(arguments))) return &way;
+    if (found == nullptr) found = &way;
+  }
+  return found;
+}
+
+template <class T>
+com::OwnedVariant Dressed<T>::Called(DISPID id, WORD kinds, const Arguments& arguments) {
+  const Way<T>* way = TableOf<T>().Find(id, kinds, arguments);
+  if (way == nullptr) throw HRESULT{DISP_E_MEMBERNOTFOUND};
+  if (arguments.Count() < way->least) throw HRESULT{DISP_E_PARAMNOTOPTIONAL};
+  if (arguments.Count() <= way->most) return way->call(*object_, arguments, host_);
+  if (way->most > 0 || way->kind == DISPATCH_PROPERTYPUT) throw HRESULT{DISP_E_BADPARAMCOUNT};
+  return ItemOf(way->call(*object_, arguments, host_), arguments);
+}
+
+}  // namespace plotsmith::dress

@@ -1,0 +1,118 @@
+#include "tests/windows/host/HostMembers.h"
+
+#include "runtime/RuntimeError.h"
+#include "windows/com/Failures.h"
+#include "xlsx/Workbook.h"
+#include "xlsx/package/PackageError.h"
+
+namespace plotsmith::dress {
+namespace {
+
+using runtime::RuntimeError;
+
+/// Files that can't be read or written are errors as Excel has them.
+template <class Work>
+void OnFiles(const Work& work) {
+  try {
+    work();
+  } catch (const xlsx::PackageError& e) {
+    throw RuntimeError(runtime::error::kApplication, e.what());
+  }
+}
+
+/// Open(path): opens a workbook, and begins its journal.
+com::OwnedVariant Open(excel::Application&, const Arguments& arguments, const HostPtr& host) {
+  host->path = Given<std::string>(arguments[0]);
+  host->journal.clear();
+  OnFiles([&] { host->application->Open(host->path); });
+  host->application->Journal().SetSink([weak = std::weak_ptr(host)](std::string_view line) {
+    if (const HostPtr open = weak.lock()) open->journal.append(line) += '\n';
+  });
+  return {};
+}
+
+/// Save(): writes the workbook back if it was changed, as the command does.
+com::OwnedVariant Save(excel::Application&, const Arguments&, const HostPtr& host) {
+  OnFiles([&] {
+    if (host->application->Book().Changed()) host->application->Book().Save(host->path);
+  });
+  return {};
+}
+
+/// SaveAs(path)
+com::OwnedVariant SaveAs(excel::Application&, const Arguments& arguments, const HostPtr& host) {
+  OnFiles([&] { host->application->Book().Save(Given<std::string>(arguments[0])); });
+  return {};
+}
+
+/// Journal: what was changed since the workbook was opened, a line each.
+com::OwnedVariant Journal(excel::Application&, const Arguments&, const HostPtr& host) {
+  return com::ToVariant(host->journal);
+}
+
+/// DefineMacro(name, function): a macro that Run finds, such as a function of the script. It is called with
+/// the arguments of Run.
+com::OwnedVariant DefineMacro(excel::Application&, const Arguments& arguments, const HostPtr& host) {
+  const auto name = Given<std::string>(arguments[0]);
+  host->macros[name] = com::ObjectOf(arguments[1]);
+  host->application->DefineMacro(name, [weak = std::weak_ptr(host), name](const auto& given) {
+    const HostPtr open = weak.lock();
+    if (!open) return;
+    std::vector<com::OwnedVariant> owned;
+    for (auto argument = given.rbegin(); argument != given.rend(); ++argument) {
+      owned.push_back(com::ToVariant(*argument));
+    }
+    std::vector<VARIANT> passed;
+    for (const auto& argument : owned) passed.push_back(argument.Get());
+    DISPPARAMS parameters{passed.data(), nullptr, static_cast<UINT>(passed.size()), 0};
+    EXCEPINFO exception{};
+    const auto macro = open->macros[name];
+    const HRESULT result =
+        macro->Invoke(DISPID_VALUE, IID_NULL, 0, DISPATCH_METHOD, &parameters, nullptr, &exception, nullptr);
+    if (result == DISP_E_EXCEPTION) throw com::ErrorOf(exception);
+    if (FAILED(result)) throw com::ErrorOf(result);
+  });
+  return {};
+}
+
+/// Editing: as if a cell was being edited, while it is True.
+com::OwnedVariant SetEditing(excel::Application&, const Arguments& arguments, const HostPtr& host) {
+  host->editing = Given<bool>(arguments[0]);
+  return {};
+}
+
+/// Calls: how many calls all objects of this library have got; UnsureCalls: those of them that asked for a
+/// property and a method at once.
+com::OwnedVariant Calls(excel::Application&, const Arguments&, const HostPtr&) {
+  return com::ToVariant(counts.calls.load());
+}
+com::OwnedVariant UnsureCalls(excel::Application&, const Arguments&, const HostPtr&) {
+  return com::ToVariant(counts.unsure.load());
+}
+
+/// LiveObjects: how many objects of this library somebody refers to.
+com::OwnedVariant LiveObjects(excel::Application&, const Arguments&, const HostPtr&) {
+  return com::ToVariant(counts.objects.load());
+}
+
+}  // namespace
+
+void AddHostMembers(Table<excel::Application>& table) {
+  table.Add({L"Open", DISPATCH_METHOD, 1, 1, nullptr, Open});
+  table.Add({L"Save", DISPATCH_METHOD, 0, 0, nullptr, Save});
+  table.Add({L"SaveAs", DISPATCH_METHOD, 1, 1, nullptr, SaveAs});
+  table.Add({L"Journal", DISPATCH_PROPERTYGET, 0, 0, nullptr, Journal});
+  table.Add({L"DefineMacro", DISPATCH_METHOD, 2, 2, nullptr, DefineMacro});
+  table.Add({L"Editing", DISPATCH_PROPERTYPUT, 1, 1, nullptr, SetEditing});
+  table.Add({L"Calls", DISPATCH_PROPERTYGET, 0, 0, nullptr, Calls});
+  table.Add({L"UnsureCalls", DISPATCH_PROPERTYGET, 0, 0, nullptr, UnsureCalls});
+  table.Add({L"LiveObjects", DISPATCH_PROPERTYGET, 0, 0, nullptr, LiveObjects});
+}
+
+IDispatch* NewApplication() {
+  auto host = std::make_shared<Host>();
+  const Ref<excel::Application> application(host->application);
+  return new Dressed<excel::Application>(application, std::move(host));
+}
+
+}  // namespace plotsmith::dress
