@@ -55,6 +55,29 @@ run_script() {
   wine cscript //nologo "$@" 2>/dev/null | tr -d '\r'
 }
 
+# Runs a script that checks by itself, with what tests/windows/check.js has: SCRIPT ARGUMENT...
+script_checks() {
+  name=$(basename "$1" .js)
+  {
+    cat tests/windows/check.js
+    echo 'try {'
+    cat "$1"
+    echo '} catch (error) { WScript.Echo("0x" + (error.number >>> 0).toString(16) + " " + error.message); }'
+  } >"$work/$name.js"
+  shift
+  output=$(timeout 300 wine cscript //nologo "$(windows_path "$work/$name.js")" "$@" 2>/dev/null | tr -d '\r') || true
+  last=$(echo "$output" | tail -n 1)
+  case $last in
+    *" passed, "*" failed")
+      echo "$output" | sed '$d'
+      passed=$((passed + ${last%% *}))
+      failed=$((failed + $(echo "$last" | cut -d ' ' -f 3)))
+      ;;
+    *) fails "it ended before its end, after these lines:
+$output" "$name.js" ;;
+  esac
+}
+
 finish() {
   wineserver -w
   echo "$passed passed, $failed failed"

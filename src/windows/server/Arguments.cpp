@@ -28,12 +28,13 @@ Arguments::Arguments(const DISPPARAMS& sent, std::size_t parameters)
   }
   for (UINT position = sent.cNamedArgs; position < sent.cArgs; ++position) {
     const std::size_t parameter = sent.cArgs - 1 - position;
-    if (positions_[parameter] != kNowhere) throw ArgumentError{DISP_E_BADPARAMCOUNT, position};
+    if (positions_[parameter] != kNowhere) throw ArgumentError{DISP_E_BADPARAMCOUNT, 0};
     positions_[parameter] = position;
   }
   for (const UINT position : positions_) {
-    if (position == kNowhere) throw ArgumentError{DISP_E_PARAMNOTOPTIONAL, 0};
-    if (com::IsMissing(sent.rgvarg[position])) throw ArgumentError{DISP_E_PARAMNOTOPTIONAL, position};
+    if (position == kNowhere || com::IsMissing(sent.rgvarg[position])) {
+      throw ArgumentError{DISP_E_PARAMNOTOPTIONAL, 0};
+    }
   }
 }
 

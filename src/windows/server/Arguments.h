@@ -12,7 +12,7 @@ namespace plotsmith::windows {
 /// An argument that a call can't be made with.
 struct ArgumentError {
   HRESULT code;   ///< DISP_E_TYPEMISMATCH and its kin
-  UINT position;  ///< in the array of arguments as it was sent
+  UINT position;  ///< in the array of arguments as it was sent; 0 for what is wrong with all of them
 };
 
 /// The arguments of a late-bound call, by the position of the parameter, from 0. Clients send the same

@@ -179,7 +179,8 @@ HRESULT Controller::Invoke(DISPID member, REFIID interfaceId, LCID, WORD flags, 
     InvokeOperation(member, *arguments);
     return S_OK;
   } catch (const ArgumentError& error) {
-    if (badArgument != nullptr) *badArgument = error.position;
+    const bool isOfOne = error.code == DISP_E_TYPEMISMATCH || error.code == DISP_E_PARAMNOTFOUND;
+    if (isOfOne && badArgument != nullptr) *badArgument = error.position;
     return error.code;
   } catch (...) {
     return E_OUTOFMEMORY;

@@ -17,6 +17,7 @@
 namespace plotsmith::test {
 namespace {
 
+using com::OwnedVariant;
 using runtime::Variant;
 
 HWND NewWindow() {
@@ -59,7 +60,7 @@ class Boxes final : public IDispatch {
  private:
   struct Member {
     const char* name;
-    Variant (*call)(Boxes& boxes, const DISPPARAMS& sent);
+    OwnedVariant (*call)(Boxes& boxes, const DISPPARAMS& sent);
   };
   static const Member kMembers[];
 
@@ -71,8 +72,10 @@ class Boxes final : public IDispatch {
   static std::string Text(const DISPPARAMS& sent, UINT position) {
     return CStr(com::FromVariant(Last(sent, position)));
   }
+  /// JScript's null is no object, too.
   static com::ComPtr<IDispatch> Object(const DISPPARAMS& sent, UINT position) {
-    return com::ObjectOf(Last(sent, position));
+    const VARIANT& object = Last(sent, position);
+    return object.vt == VT_NULL ? nullptr : com::ObjectOf(object);
   }
 
   std::atomic<ULONG> references_ = 1;
@@ -83,49 +86,77 @@ class Boxes final : public IDispatch {
 const Boxes::Member Boxes::kMembers[] = {
     // Cancel(): the next box is answered with Cancel.
     {"Cancel",
-     [](Boxes& boxes, const DISPPARAMS&) -> Variant {
+     [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
        boxes.boxes_.AnswerNext(IDCANCEL);
        return {};
      }},
     // Take(): what the boxes showed since the last call, see MessageBoxes.
-    {"Take", [](Boxes& boxes, const DISPPARAMS&) -> Variant { return boxes.boxes_.Take(); }},
+    {"Take",
+     [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
+       return com::ToVariant(Variant(boxes.boxes_.Take()));
+     }},
     // LateBound(controller, call, application) and EarlyBound: see Calls.h.
     {"LateBound",
-     [](Boxes&, const DISPPARAMS& sent) -> Variant {
-       return CallLateBound(Object(sent, 2).Get(), Text(sent, 1), Object(sent, 0).Get());
+     [](Boxes&, const DISPPARAMS& sent) -> OwnedVariant {
+       return com::ToVariant(
+           Variant(CallLateBound(Object(sent, 2).Get(), Text(sent, 1), Object(sent, 0).Get())));
      }},
     {"EarlyBound",
-     [](Boxes&, const DISPPARAMS& sent) -> Variant {
-       return CallEarlyBound(Object(sent, 2).Get(), Text(sent, 1), Object(sent, 0).Get());
+     [](Boxes&, const DISPPARAMS& sent) -> OwnedVariant {
+       return com::ToVariant(
+           Variant(CallEarlyBound(Object(sent, 2).Get(), Text(sent, 1), Object(sent, 0).Get())));
      }},
-    {"Describe", [](Boxes&, const DISPPARAMS& sent) -> Variant { return Describe(Object(sent, 0).Get()); }},
+    {"Describe",
+     [](Boxes&, const DISPPARAMS& sent) -> OwnedVariant {
+       return com::ToVariant(Variant(Describe(Object(sent, 0).Get())));
+     }},
     // WithStackOf(kilobytes, function)
     {"WithStackOf",
-     [](Boxes&, const DISPPARAMS& sent) -> Variant {
+     [](Boxes&, const DISPPARAMS& sent) -> OwnedVariant {
        CallWithStackOf(static_cast<unsigned>(CDbl(com::FromVariant(Last(sent, 1)))), Object(sent, 0).Get());
        return {};
      }},
-    {"RefreshOnOtherThread", [](Boxes&, const DISPPARAMS&) -> Variant { return RefreshOnOtherThread(); }},
+    {"RefreshOnOtherThread",
+     [](Boxes&, const DISPPARAMS&) -> OwnedVariant {
+       return com::ToVariant(Variant(RefreshOnOtherThread()));
+     }},
+    // Create(progID): as CreateObject. Wine's own keeps a reference to the class object for good.
+    {"Create",
+     [](Boxes&, const DISPPARAMS& sent) -> OwnedVariant {
+       CLSID classId;
+       HRESULT result = CLSIDFromProgID(com::Wide(Text(sent, 0)).c_str(), &classId);
+       com::ComPtr<IDispatch> object;
+       if (SUCCEEDED(result)) {
+         result = CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
+                                   reinterpret_cast<void**>(object.Put()));
+       }
+       if (FAILED(result)) throw com::ErrorOf(result);
+       return com::ToVariant(object.Get());
+     }},
     // Handles(): how many the process has.
-    {"Handles", [](Boxes&, const DISPPARAMS&) -> Variant { return HandleCount(); }},
+    {"Handles",
+     [](Boxes&, const DISPPARAMS&) -> OwnedVariant { return com::ToVariant(Variant(HandleCount())); }},
     // FreeUnusedLibraries(), and IsLoaded(library)
     {"FreeUnusedLibraries",
-     [](Boxes&, const DISPPARAMS&) -> Variant {
+     [](Boxes&, const DISPPARAMS&) -> OwnedVariant {
        CoFreeUnusedLibrariesEx(0, 0);
        return {};
      }},
     {"IsLoaded",
-     [](Boxes&, const DISPPARAMS& sent) -> Variant {
-       return GetModuleHandleW(com::Wide(Text(sent, 0)).c_str()) != nullptr;
+     [](Boxes&, const DISPPARAMS& sent) -> OwnedVariant {
+       return com::ToVariant(Variant(GetModuleHandleW(com::Wide(Text(sent, 0)).c_str()) != nullptr));
      }},
     // Window(): the handle of a window of this thread, which is made at the first call; WindowIsEnabled().
     {"Window",
-     [](Boxes& boxes, const DISPPARAMS&) -> Variant {
+     [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
        if (boxes.window_ == nullptr) boxes.window_ = NewWindow();
-       return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(boxes.window_));
+       return com::ToVariant(
+           Variant(static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(boxes.window_))));
      }},
     {"WindowIsEnabled",
-     [](Boxes& boxes, const DISPPARAMS&) -> Variant { return IsWindowEnabled(boxes.window_) != 0; }},
+     [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
+       return com::ToVariant(Variant(IsWindowEnabled(boxes.window_) != 0));
+     }},
 };
 
 HRESULT Boxes::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) {
@@ -142,8 +173,8 @@ HRESULT Boxes::Invoke(DISPID member, REFIID, LCID, WORD, DISPPARAMS* sent, VARIA
                       EXCEPINFO* exception, UINT*) {
   if (member < 1 || member > static_cast<DISPID>(std::size(kMembers))) return DISP_E_MEMBERNOTFOUND;
   try {
-    const Variant answer = kMembers[member - 1].call(*this, *sent);
-    if (result != nullptr) *result = com::ToVariant(answer).Detach();
+    OwnedVariant answer = kMembers[member - 1].call(*this, *sent);
+    if (result != nullptr) *result = answer.Detach();
     return S_OK;
   } catch (...) {
     return com::FillException(runtime::CurrentError(), exception);

@@ -1,4 +1,4 @@
-// The COM server of PlotsmithTest.Boxes, which registers for the user alone.
+// The COM server of PlotsmithTest.Boxes, which registers for all: Wine finds no classes of a user.
 #include <string>
 
 #include "tests/windows/boxes/Boxes.h"
@@ -32,7 +32,7 @@ class Factory final : public IClassFactory {
 };
 
 LSTATUS Write(const std::wstring& key, const wchar_t* name, const std::wstring& text) {
-  return RegSetKeyValueW(HKEY_CURRENT_USER, (L"Software\\Classes\\" + key).c_str(), name, REG_SZ,
+  return RegSetKeyValueW(HKEY_LOCAL_MACHINE, (L"Software\\Classes\\" + key).c_str(), name, REG_SZ,
                          text.c_str(), static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
 }
 

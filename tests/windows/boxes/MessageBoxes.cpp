@@ -1,6 +1,6 @@
 #include "tests/windows/boxes/MessageBoxes.h"
 
-#include <vector>
+#include <utility>
 
 #include "runtime/Strings.h"
 #include "windows/com/Texts.h"
@@ -9,9 +9,14 @@
 namespace plotsmith::test {
 namespace {
 
-HHOOK hook = nullptr;
-int nextAnswer = IDOK;
-std::string taken;
+constexpr UINT kAnswer = WM_APP;
+
+// A hook has no data of its own, so these belong to the thread.
+thread_local HHOOK hook = nullptr;
+thread_local HWND answerer = nullptr;
+thread_local HWND shownBox = nullptr;
+thread_local int nextAnswer = IDOK;
+thread_local std::string taken;
 
 std::string TextOf(HWND window) {
   std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
@@ -37,7 +42,7 @@ BOOL CALLBACK Look(HWND child, LPARAM content) {
   const std::string text = TextOf(child);
   if (kind == "Button") box.buttons += (box.buttons.empty() ? "" : " ") + runtime::Replace(text, "&", "");
   if (kind == "Static" && (GetWindowLongW(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON) {
-    box.hasIcon = (GetWindowLongW(child, GWL_STYLE) & WS_VISIBLE) != 0;
+    box.hasIcon = SendMessageW(child, STM_GETICON, 0, 0) != 0;
   } else if (kind == "Static") {
     box.text += text;
   }
@@ -47,25 +52,43 @@ BOOL CALLBACK Look(HWND child, LPARAM content) {
 void Remember(HWND window) {
   Content content;
   EnumChildWindows(window, Look, reinterpret_cast<LPARAM>(&content));
+  const HWND owner = GetWindow(window, GW_OWNER);
   const std::string text = runtime::Replace(runtime::Replace(content.text, "\r", "\\r"), "\n", "\\n");
   taken += (taken.empty() ? "" : "\n") + TextOf(window) + " [" + (content.hasIcon ? "critical " : "") +
-           content.buttons + "]: " + text;
+           content.buttons + "]" + (owner == nullptr ? "" : " of " + TextOf(owner)) + ": " + text;
 }
 
-LRESULT CALLBACK Activated(int code, WPARAM window, LPARAM data) {
+/// A box has its texts only when it handles messages, so it is answered by one.
+LRESULT CALLBACK Answer(HWND window, UINT message, WPARAM box, LPARAM data) {
+  if (message != kAnswer) return DefWindowProcW(window, message, box, data);
+  Remember(reinterpret_cast<HWND>(box));
+  PostMessageW(reinterpret_cast<HWND>(box), WM_COMMAND, static_cast<WPARAM>(std::exchange(nextAnswer, IDOK)),
+               0);
+  return 0;
+}
+
+LRESULT CALLBACK WindowChanged(int code, WPARAM window, LPARAM data) {
   const auto box = reinterpret_cast<HWND>(window);
-  if (code == HCBT_ACTIVATE && ClassOf(box) == "#32770") {
-    Remember(box);
-    PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(std::exchange(nextAnswer, IDOK)), 0);
+  if (code == HCBT_ACTIVATE && box != shownBox && ClassOf(box) == "#32770") {
+    shownBox = box;
+    PostMessageW(answerer, kAnswer, window, 0);
   }
+  if (code == HCBT_DESTROYWND && box == shownBox) shownBox = nullptr;
   return CallNextHookEx(hook, code, window, data);
 }
 
 }  // namespace
 
-MessageBoxes::MessageBoxes() { hook = SetWindowsHookExW(WH_CBT, Activated, nullptr, GetCurrentThreadId()); }
+MessageBoxes::MessageBoxes() {
+  answerer = CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+  SetWindowLongPtrW(answerer, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Answer));
+  hook = SetWindowsHookExW(WH_CBT, WindowChanged, nullptr, GetCurrentThreadId());
+}
 
-MessageBoxes::~MessageBoxes() { UnhookWindowsHookEx(hook); }
+MessageBoxes::~MessageBoxes() {
+  UnhookWindowsHookEx(hook);
+  DestroyWindow(answerer);
+}
 
 void MessageBoxes::AnswerNext(int button) { nextAnswer = button; }
 

@@ -1,4 +1,5 @@
-// The library's entries for COM: one class, PlotsmithTestHost.Application, registered for the user.
+// The library's entries for COM: one class, PlotsmithTestHost.Application, registered for all users, as Wine
+// wants it.
 #include <array>
 #include <string>
 
@@ -32,11 +33,11 @@ class Factory final : public IClassFactory {
   HRESULT STDMETHODCALLTYPE LockServer(BOOL) noexcept override { return S_OK; }
 };
 
-/// Sets the default value, or another one, of a key of the user's classes.
+/// Sets the default value, or another one, of a key of the classes.
 HRESULT SetText(const std::wstring& key, const wchar_t* name, const std::wstring& text) {
   const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
   return HRESULT_FROM_WIN32(static_cast<DWORD>(
-      RegSetKeyValueW(HKEY_CURRENT_USER, (kClasses + key).c_str(), name, REG_SZ, text.c_str(), size)));
+      RegSetKeyValueW(HKEY_LOCAL_MACHINE, (kClasses + key).c_str(), name, REG_SZ, text.c_str(), size)));
 }
 
 }  // namespace
@@ -69,8 +70,8 @@ STDAPI DllRegisterServer() {
 }
 
 STDAPI DllUnregisterServer() {
-  RegDeleteTreeW(HKEY_CURRENT_USER, (kClasses + kProgId).c_str());
-  RegDeleteTreeW(HKEY_CURRENT_USER, (kClasses + L"CLSID\\" + kClassText).c_str());
+  RegDeleteTreeW(HKEY_LOCAL_MACHINE, (kClasses + kProgId).c_str());
+  RegDeleteTreeW(HKEY_LOCAL_MACHINE, (kClasses + L"CLSID\\" + kClassText).c_str());
   return S_OK;
 }
 }

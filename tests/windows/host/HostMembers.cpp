@@ -1,6 +1,9 @@
 #include "tests/windows/host/HostMembers.h"
 
+#include <fstream>
+
 #include "runtime/RuntimeError.h"
+#include "runtime/Utf8Path.h"
 #include "windows/com/Failures.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/package/PackageError.h"
@@ -48,6 +51,15 @@ com::OwnedVariant SaveAs(excel::Application&, const Arguments& arguments, const 
 /// Journal: what was changed since the workbook was opened, a line each.
 com::OwnedVariant Journal(excel::Application&, const Arguments&, const HostPtr& host) {
   return com::ToVariant(host->journal);
+}
+
+/// SaveJournal(path): the same as a file, in UTF-8.
+com::OwnedVariant SaveJournal(excel::Application&, const Arguments& arguments, const HostPtr& host) {
+  std::ofstream file(runtime::PathOf(Given<std::string>(arguments[0])), std::ios::binary);
+  if (!(file << host->journal << std::flush)) {
+    throw RuntimeError(runtime::error::kApplication, "The journal can't be written.");
+  }
+  return {};
 }
 
 /// DefineMacro(name, function): a macro that Run finds, such as a function of the script. It is called with
@@ -102,6 +114,7 @@ void AddHostMembers(Table<excel::Application>& table) {
   table.Add({L"Save", DISPATCH_METHOD, 0, 0, nullptr, Save});
   table.Add({L"SaveAs", DISPATCH_METHOD, 1, 1, nullptr, SaveAs});
   table.Add({L"Journal", DISPATCH_PROPERTYGET, 0, 0, nullptr, Journal});
+  table.Add({L"SaveJournal", DISPATCH_METHOD, 1, 1, nullptr, SaveJournal});
   table.Add({L"DefineMacro", DISPATCH_METHOD, 2, 2, nullptr, DefineMacro});
   table.Add({L"Editing", DISPATCH_PROPERTYPUT, 1, 1, nullptr, SetEditing});
   table.Add({L"Calls", DISPATCH_PROPERTYGET, 0, 0, nullptr, Calls});

@@ -1,0 +1,20 @@
+' Column names of a table that have changed, on a workbook that is open in the test's Excel:
+'   operate.vbs rename BOOK OUTPUT JOURNAL TABLE OLD NEW
+' Prints what operate.js prints.
+Option Explicit
+Dim given, boxes, excel, controller, calls, unsure
+Set given = WScript.Arguments
+Set boxes = CreateObject("PlotsmithTest.Boxes")
+Set excel = CreateObject("PlotsmithTestHost.Application")
+Set controller = CreateObject("Plotsmith.CPlotsmithController")
+
+excel.Open given(1)
+calls = excel.Calls
+unsure = excel.UnsureCalls
+controller.UpdateChartColumnNamesForTable excel, given(4), Array(given(5)), Array(given(6))
+unsure = excel.UnsureCalls - unsure - 1
+calls = excel.Calls - calls
+excel.SaveAs given(2)
+excel.SaveJournal given(3)
+WScript.Echo "calls " & calls & ", unsure " & unsure
+WScript.Echo boxes.Take()

@@ -1,0 +1,70 @@
+#!/bin/sh
+# Every operation on workbooks in the test's Excel, and on the embedded host by the command for Linux: what is changed,
+# line by line, and the saved files, byte by byte, must be the same.
+cd "$(dirname "$0")/../.."
+. tests/windows/lib.sh
+corpus=$root/../shared/corpus
+
+new_prefix "$work/wine"
+register "$windows/Plotsmith.dll" "$windows/PlotsmithTestHost.dll" "$windows/PlotsmithTestBoxes.dll"
+mkdir "$work/linux" "$work/windows" "$work/books"
+cp examples/*.xlsx "$work/books"
+
+# One operation on either host, if the command can do it: CASE OPERATION SCRIPT BOOK [TABLE [OLD NEW]]
+same() {
+  case=$1 operation=$2 script=$3 book=$4 table=${5:-}
+  case $operation in
+    refresh) set -- refresh "$book" ;;
+    table) set -- refresh "$book" --table "$table" ;;
+    rename) set -- rename-columns "$book" "$6=$7" --table "$table" ;;
+  esac
+  rm -f "$work/linux"/* "$work/windows"/*
+  code=0
+  build/plotsmith "$@" -o "$work/linux/book.xlsx" --drop-broken --journal >"$work/linux/journal.txt" \
+    2>"$work/said.txt" || code=$?
+  [ "$code" -le 1 ] || return 0
+  old=${6:-} new=${7:-}
+  [ "$operation" != rename ] || old=${3%=*} new=${3#*=}
+  run_script "$(windows_path "tests/windows/$script")" "$operation" "$(windows_path "$book")" \
+    "$(windows_path "$work/windows")\\book.xlsx" "$(windows_path "$work/windows")\\journal.txt" "$table" "$old" "$new" \
+    >"$work/printed.txt"
+  if ! difference=$(diff "$work/linux/journal.txt" "$work/windows/journal.txt" 2>&1); then
+    fails "$(echo "$difference" | head -n 10)" "$case: journal"
+  elif ! difference=$(cmp "$work/linux/book.xlsx" "$work/windows/book.xlsx" 2>&1); then
+    fails "$difference" "$case: file"
+  elif ! grep -q '^calls [0-9]*, unsure 0$' "$work/printed.txt"; then
+    fails "$(head -n 1 "$work/printed.txt")" "$case: kinds of calls"
+  else
+    passes
+  fi
+}
+
+# a chart of each type, made from a table
+type_of_chart() {
+  build/plotsmith new examples/data/orders.xlsx --table Data1 --type "$@" -o "$work/books/$1.xlsx" 2>/dev/null ||
+    fails "exit code $?" "new $1"
+}
+type_of_chart column --title "Amount by region" --series Product --set stacked --new-sheet Charts
+type_of_chart bar --title "Costs against amounts" --series-columns Amount Cost --new-sheet Bars
+type_of_chart area --title "Umsätze 東京" --categories Quarter --series Product --set stacked 100% --new-sheet Areas
+type_of_chart pie --title "Where they come from" --categories Product --labels percentages --set exploded --new-sheet Pies
+type_of_chart bubble --title "Products" --categories Product --values Amount --x-values Cost --sizes Units \
+  --series Product --new-sheet Bubbles
+type_of_chart "strategic bucket" --title "Amounts and targets" --categories Product --series Product \
+  --bucket-table VEX_SB_Targets --labels names --new-sheet Buckets
+
+for book in "$work"/books/*.xlsx; do
+  name=$(basename "$book")
+  same "refresh $name" refresh operate.js "$book"
+  build/plotsmith tables "$book" --json 2>/dev/null | sed -n 's/^ *"id": "\([^"]*\)".*/\1/p' >"$work/tables.txt"
+  while read -r table; do
+    same "refresh $name, table $table" table operate.js "$book" "$table"
+    same "rename in $name, table $table" rename operate.vbs "$book" "$table" Product Article
+  done <"$work/tables.txt"
+done
+if [ -d "$corpus" ]; then
+  for book in "$corpus"/charts/*.xls[xm]; do same "refresh $(basename "$book")" refresh operate.js "$book"; done
+else
+  echo "The workbooks of ../shared/corpus aren't there, so they are left out."
+fi
+finish

@@ -1,0 +1,11 @@
+#!/bin/sh
+# The component as clients of COM see it, in Wine's script hosts: arguments, guards, hostile hosts, lifetime.
+cd "$(dirname "$0")/../.."
+. tests/windows/lib.sh
+
+new_prefix "$root/build/wine-server"
+register "$windows/Plotsmith.dll" "$windows/PlotsmithTestHost.dll" "$windows/PlotsmithTestBoxes.dll"
+for script in tests/windows/server/*.js; do
+  script_checks "$script" "$(windows_path "$work")" "$(windows_path "$root/examples")"
+done
+finish
