@@ -8,12 +8,14 @@
 namespace plotsmith::windows {
 namespace {
 
+/// The class of the service, which the libraries of mingw-w64 lack.
+constexpr CLSID kAccPropServices = {0xB5F8350B, 0x0548, 0x48B1, {0xA6, 0xEE, 0x88, 0xBD, 0x00, 0xB4, 0xA5, 0xE7}};
 constexpr DWORD kClient = static_cast<DWORD>(OBJID_CLIENT);
 
 }  // namespace
 
 Annotations::Annotations() {
-  CoCreateInstance(CLSID_CAccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
+  CoCreateInstance(kAccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
                    reinterpret_cast<void**>(services_.Put()));
 }
 

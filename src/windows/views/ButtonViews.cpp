@@ -21,8 +21,10 @@ CommandButtonView::CommandButtonView(forms::CommandButton& model, const Stage& s
       model_(model),
       presses_(presses) {}
 
+// By the number, tools know which button Escape presses.
 void CommandButtonView::Show() {
   SetText(model_.Caption());
+  SetWindowLongPtrW(Window(), GWLP_ID, model_.Cancel() ? IDCANCEL : 0);
   const DWORD style = model_.Default() ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
   const auto shown = static_cast<DWORD>(GetWindowLongPtrW(Window(), GWL_STYLE)) & BS_TYPEMASK;
   if (shown != style) Send(BM_SETSTYLE, style, TRUE);

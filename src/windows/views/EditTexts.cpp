@@ -54,6 +54,8 @@ std::wstring Typeable(std::wstring text, Lines lines) {
   return {units.begin(), units.end()};
 }
 
+namespace {
+
 void PasteText(HWND edit, Lines lines) {
   std::wstring text = Typeable(ClipboardText(edit), lines);
   const std::size_t room = RoomIn(edit);
@@ -65,6 +67,16 @@ void PasteText(HWND edit, Lines lines) {
     if (isHalf) text.pop_back();
   }
   SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+}  // namespace
+
+bool HandleEditMessage(HWND edit, Lines lines, UINT message, WPARAM wParam) {
+  constexpr WPARAM kControlA = 1;  // as WM_CHAR has it
+  const bool selectsAll = message == WM_CHAR && wParam == kControlA;
+  if (selectsAll) SendMessageW(edit, EM_SETSEL, 0, -1);
+  if (message == WM_PASTE) PasteText(edit, lines);
+  return selectsAll || message == WM_PASTE;
 }
 
 }  // namespace plotsmith::windows

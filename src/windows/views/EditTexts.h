@@ -13,8 +13,9 @@ enum class Lines { kOne, kSeveral };
 /// several lines, line breaks become CR LF and tabs stay.
 std::wstring Typeable(std::wstring text, Lines lines);
 
-/// Pastes the text of the clipboard over the selection of an edit control: as much as it has room for, where
-/// a line end that a box of one line would cut it at becomes a blank. Beeps if something has no room.
-void PasteText(HWND edit, Lines lines);
+/// Does what an edit control would do otherwise than a form wants, before it gets the message; false for all
+/// other messages. A text of several lines that is pasted into a box for one isn't cut off at the first line.
+/// What has no room is left out, with a beep. Control and A select everything.
+bool HandleEditMessage(HWND edit, Lines lines, UINT message, WPARAM wParam);
 
 }  // namespace plotsmith::windows

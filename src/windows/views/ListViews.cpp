@@ -81,13 +81,10 @@ ComboBoxView::~ComboBoxView() {
 LRESULT CALLBACK ComboBoxView::EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   const auto original = reinterpret_cast<WNDPROC>(GetPropW(window, kEditOriginal));
   if (original == nullptr) return DefWindowProcW(window, message, wParam, lParam);
-  if (message == WM_PASTE) {
-    try {
-      PasteText(window, Lines::kOne);
-    } catch (...) {
-      return 0;  // there is no memory for the text
-    }
-    return 0;
+  try {
+    if (HandleEditMessage(window, Lines::kOne, message, wParam)) return 0;
+  } catch (...) {
+    return 0;  // there is no memory for the text
   }
   if (message == WM_DESTROY) {
     SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));

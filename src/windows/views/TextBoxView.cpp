@@ -7,8 +7,7 @@
 namespace plotsmith::windows {
 namespace {
 
-constexpr WPARAM kControlA = 1;  // as WM_CHAR has it
-constexpr int kTextMargin = 9;   // above and below the text, at 96 dots in an inch
+constexpr int kTextMargin = 9;  // above and below the text, at 96 dots in an inch
 constexpr int kLeastCharacters = 8;
 
 DWORD StyleOf(const forms::TextBox& model) {
@@ -46,21 +45,9 @@ void TextBoxView::Show() {
 }
 
 std::optional<LRESULT> TextBoxView::OnMessage(UINT message, WPARAM wParam, LPARAM) {
-  switch (message) {
-    case WM_GETDLGCODE:
-      // Tab leaves a text of several lines too.
-      if (lines_ == Lines::kSeveral) return DLGC_WANTCHARS | DLGC_WANTARROWS;
-      return std::nullopt;
-    case WM_CHAR:
-      if (wParam != kControlA) return std::nullopt;
-      Send(EM_SETSEL, 0, -1);
-      return 0;
-    case WM_PASTE:
-      PasteText(Window(), lines_);
-      return 0;
-    default:
-      return std::nullopt;
-  }
+  // Tab leaves a text of several lines too.
+  if (message == WM_GETDLGCODE && lines_ == Lines::kSeveral) return DLGC_WANTCHARS | DLGC_WANTARROWS;
+  return HandleEditMessage(Window(), lines_, message, wParam) ? std::optional<LRESULT>(0) : std::nullopt;
 }
 
 }  // namespace plotsmith::windows
