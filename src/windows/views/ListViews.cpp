@@ -185,17 +185,30 @@ void ListBoxView::OnCommand(WORD code) {
   if (code == LBN_SELCHANGE) Report([this, entries = Selected()] { model_.UserSelect(entries); });
 }
 
-std::optional<LRESULT> ListBoxView::OnMessage(UINT message, WPARAM wParam, LPARAM) {
-  if (message != WM_KEYDOWN || !IsCursorKey(wParam) || !Selected().empty() || model_.ListCount() == 0) {
-    return std::nullopt;
+std::optional<LRESULT> ListBoxView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message != WM_KEYDOWN && message != WM_LBUTTONDOWN) return std::nullopt;
+  const bool hasSelection = !Selected().empty();
+  if (message == WM_KEYDOWN && IsCursorKey(wParam) && !hasSelection && model_.ListCount() > 0) {
+    SelectAlone(0);
+    return 0;
   }
+  // Windows lets go of the last entry only in lists of which several entries can be selected.
+  const bool isWithControl = message == WM_LBUTTONDOWN && (wParam & MK_CONTROL) != 0;
+  if (isWithControl && !HasSeveral() && hasSelection &&
+      Send(LB_ITEMFROMPOINT, 0, lParam) == Selected().front()) {
+    SelectAlone(-1);
+    return 0;
+  }
+  return std::nullopt;
+}
+
+void ListBoxView::SelectAlone(std::int32_t entry) {
   if (HasSeveral()) {
-    Send(LB_SETSEL, TRUE, 0);
+    Send(LB_SETSEL, TRUE, entry);
   } else {
-    Send(LB_SETCURSEL, 0);
+    Send(LB_SETCURSEL, static_cast<WPARAM>(entry));
   }
   OnCommand(LBN_SELCHANGE);
-  return 0;
 }
 
 void ListBoxView::Show() {

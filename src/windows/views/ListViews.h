@@ -47,6 +47,8 @@ class ListBoxView final : public ControlView {
  private:
   bool HasSeveral() const { return model_.MultiSelect() == forms::MultiSelect::kExtended; }
   std::vector<std::int32_t> Selected() const;
+  /// Selects the entry for a hand, where nothing else is selected; -1 lets go of the only one.
+  void SelectAlone(std::int32_t entry);
   void ShowSelection();
 
   forms::ListBox& model_;
