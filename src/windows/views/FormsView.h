@@ -27,6 +27,8 @@ class FormsView final : public forms::View {
 
   /// The window of the form in front; null while there is none.
   FormWindow* Front() const { return windows_.empty() ? nullptr : windows_.back().get(); }
+  /// Whether no hand can reach the form in front any more: its window was destroyed, or the host ends.
+  bool IsFrontGone() const;
   /// Shows what has changed.
   void ShowChanges();
   /// Moves to the queue what hands did.
@@ -42,8 +44,6 @@ class FormsView final : public forms::View {
   };
 
   HWND Owner() const;
-  /// Whether no hand can reach the form in front any more: its window was destroyed, or the host ends.
-  bool IsFrontGone() const;
 
   std::function<HWND()> hostWindow_;
   std::optional<HeldKeys> heldKeys_;  ///< while a form is open

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/windows/views/Dialogs.h"
 #include "tests/windows/views/WindowState.h"
 
 namespace plotsmith::test {
@@ -21,10 +22,14 @@ void WindowsStage::Wait(forms::EventQueue& queue, std::optional<std::chrono::mil
   while (view_->HandleMessage()) {
   }
   view_->ShowChanges();
+  if (view_->IsFrontGone()) return view_->Wait(queue, atMost);
   const forms::Form& form = view_->Front()->Model();
   EXPECT_EQ(DifferencesFromModel(form, view_->Front()->Handle()), "") << form.Name();
   view_->PostTo(queue);
-  if (queue.IsEmpty()) player_->Wait(queue, atMost);
+  if (!queue.IsEmpty()) return;
+  theQueue = &queue;
+  player_->Wait(queue, atMost);
+  theQueue = nullptr;
 }
 
 }  // namespace plotsmith::test
