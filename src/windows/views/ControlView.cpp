@@ -5,6 +5,7 @@
 #include "windows/com/Texts.h"
 #include "windows/views/ActivationContext.h"
 #include "windows/views/ControlNames.h"
+#include "windows/views/Flag.h"
 
 namespace plotsmith::windows {
 namespace {
@@ -12,19 +13,6 @@ namespace {
 constexpr UINT kNews = WM_APP + 1;
 constexpr int kTextBorders = 8;  // at 96 dots in an inch
 constexpr int kLineGap = 2;      // between two lines of a list
-
-/// Sets a variable for as long as this lives.
-class Flag {
- public:
-  explicit Flag(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
-  ~Flag() { flag_ = before_; }
-  Flag(const Flag&) = delete;
-  Flag& operator=(const Flag&) = delete;
-
- private:
-  bool& flag_;
-  bool before_;
-};
 
 }  // namespace
 

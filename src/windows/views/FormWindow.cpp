@@ -10,12 +10,14 @@
 #include "windows/views/ActivationContext.h"
 #include "windows/views/Colors.h"
 #include "windows/views/ControlNames.h"
+#include "windows/views/Flag.h"
 #include "windows/views/KeyMessages.h"
+#include "windows/views/PlainViews.h"
 
 namespace plotsmith::windows {
 namespace {
 
-constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_VSCROLL | WS_HSCROLL;
+constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME;
 constexpr DWORD kExtendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
 constexpr int kMargin = 11, kLine = 24;  // at 96 dots in an inch
 
@@ -237,7 +239,7 @@ std::optional<LRESULT> FormWindow::HandleControl(UINT message, WPARAM wParam, LP
 std::optional<LRESULT> FormWindow::HandlePlace(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SIZE:
-      if (views_ != nullptr && fonts_ != nullptr) Arrange();
+      if (fonts_ != nullptr && !isArranging_) Arrange();
       return 0;
     case WM_DPICHANGED: {
       const RECT& area = *reinterpret_cast<const RECT*>(lParam);
@@ -284,17 +286,26 @@ void FormWindow::FitScreen(HWND owner) {
   Arrange();
 }
 
+// A bar takes some of the room, so that the other one may be needed as well.
 void FormWindow::Arrange() {
-  RECT room = {};
-  GetClientRect(window_, &room);
-  SetScrollBar(SB_VERT, least_.height, room.bottom);
-  GetClientRect(window_, &room);  // a bar takes some of it
-  SetScrollBar(SB_HORZ, least_.width, room.right);
-  GetClientRect(window_, &room);
-  const int margin = MulDiv(kMargin, static_cast<int>(fonts_->Dpi()), USER_DEFAULT_SCREEN_DPI);
+  const Flag flag(isArranging_);
+  const int dpi = static_cast<int>(fonts_->Dpi());
+  const int barWidth = GetSystemMetricsForDpi(SM_CXVSCROLL, fonts_->Dpi());
+  const int barHeight = GetSystemMetricsForDpi(SM_CYHSCROLL, fonts_->Dpi());
+  const LONG_PTR style = GetWindowLongPtrW(window_, GWL_STYLE);
+  RECT client = {};
+  GetClientRect(window_, &client);
+  forms::Size room = {static_cast<int>(client.right) + ((style & WS_VSCROLL) != 0 ? barWidth : 0),
+                      static_cast<int>(client.bottom) + ((style & WS_HSCROLL) != 0 ? barHeight : 0)};
+  const bool isTooWide = room.width < least_.width, isTooHigh = room.height < least_.height;
+  if (isTooHigh || (isTooWide && room.height - barHeight < least_.height)) room.width -= barWidth;
+  if (isTooWide || room.width < least_.width) room.height -= barHeight;
+  SetScrollBar(SB_VERT, least_.height, room.height);
+  SetScrollBar(SB_HORZ, least_.width, room.width);
+  const int margin = MulDiv(kMargin, dpi, USER_DEFAULT_SCREEN_DPI);
   const forms::Area area = {margin - ScrollPlace(window_, SB_HORZ), margin - ScrollPlace(window_, SB_VERT),
-                            std::max<int>(room.right, least_.width) - 2 * margin,
-                            std::max<int>(room.bottom, least_.height) - 2 * margin};
+                            std::max(room.width, least_.width) - 2 * margin,
+                            std::max(room.height, least_.height) - 2 * margin};
   for (const auto& [control, place] : forms::Arrange(form_.Layout(), *views_, area)) {
     if (ControlView* const view = views_->Find(*control)) view->Place(place);
   }
@@ -359,19 +370,18 @@ void FormWindow::Erase(HDC context) const {
   GetClientRect(window_, &area);
   FillRect(context, &area, PaintOf(forms::kButtonFace).background);
   for (const auto& view : *views_) {
-    const forms::Control& control = view->Model();
-    const bool isMarked = std::string_view(control.TypeName()) == "Frame" && control.Visible() &&
-                          control.BackColor() != forms::kButtonFace;
-    if (!isMarked) continue;
-    area = WindowArea(view->Window());
-    MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&area), 2);
-    FillRect(context, &area, PaintOf(control.BackColor()).background);
+    const auto* const frame = dynamic_cast<const FrameView*>(view.get());
+    if (frame == nullptr || frame->Model().BackColor() == forms::kButtonFace) continue;
+    area = frame->InnerArea();
+    FillRect(context, &area, PaintOf(frame->Model().BackColor()).background);
   }
 }
 
+// The parts of a combo box have its colour. An open list is no child of it, and keeps the system's.
 LRESULT FormWindow::ColorOf(HDC context, HWND control) const {
-  const ControlView* const view = ControlView::Of(control);
-  const Paint paint = PaintOf(view == nullptr ? forms::kButtonFace : view->Model().BackColor());
+  const ControlView* view = ControlView::Of(control);
+  if (view == nullptr) view = ControlView::Of(GetAncestor(control, GA_PARENT));
+  const Paint paint = PaintOf(view == nullptr ? forms::kWhite : view->Model().BackColor());
   const bool isOff = view != nullptr && !view->Model().Enabled();
   SetBkColor(context, paint.backColor);
   SetTextColor(context, isOff ? GetSysColor(COLOR_GRAYTEXT) : paint.textColor);

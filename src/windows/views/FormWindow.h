@@ -65,6 +65,7 @@ class FormWindow {
   std::optional<DisabledWindows> disabledWindows_;
   forms::Size least_;         ///< of the layout with its margins
   HWND lastFocus_ = nullptr;  ///< while another window is the active one
+  bool isArranging_ = false;  ///< a scroll bar that comes or goes changes the size of the room
 };
 
 }  // namespace plotsmith::windows

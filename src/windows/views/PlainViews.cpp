@@ -40,6 +40,14 @@ forms::Edges FrameView::Edges() const {
   return {margin, static_cast<int>(CharacterSize(Font()).cy) + margin / 2, margin, margin};
 }
 
+RECT FrameView::InnerArea() const {
+  RECT area = {};
+  GetWindowRect(Window(), &area);
+  MapWindowPoints(nullptr, GetParent(Window()), reinterpret_cast<POINT*>(&area), 2);
+  area.top += CharacterSize(Font()).cy / 2;
+  return area;
+}
+
 void FrameView::Show() {
   SetText(model_.Caption());
   const LONG_PTR style = GetWindowLongPtrW(Window(), GWL_STYLE);

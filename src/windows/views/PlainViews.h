@@ -26,6 +26,8 @@ class FrameView final : public ControlView {
   forms::Size LeastSize() const override;
   /// The room between the edges and what is inside.
   forms::Edges Edges() const;
+  /// The area inside of its line, which runs through the middle of the title, on the form's window.
+  RECT InnerArea() const;
 
  protected:
   void Show() override;

@@ -7,7 +7,7 @@
 namespace plotsmith::windows {
 namespace {
 
-constexpr int kTextMargin = 9;  // above and below the text, at 96 dots in an inch
+constexpr int kTextMargin = 7;  // above and below the text, at 96 dots in an inch
 constexpr int kLeastCharacters = 8;
 
 DWORD StyleOf(const forms::TextBox& model) {

@@ -9,7 +9,7 @@ std::shared_ptr<windows::FormsView> theDialogs;
 HWND theHostWindow = nullptr;
 forms::EventQueue* theQueue = nullptr;
 
-HWND FrontWindow() { return theDialogs->Front()->Handle(); }
+HWND FrontWindow() { return theDialogs->Front() == nullptr ? nullptr : theDialogs->Front()->Handle(); }
 forms::Form& FrontForm() { return theDialogs->Front()->Model(); }
 
 void HandleMessages() {

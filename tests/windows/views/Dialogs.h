@@ -14,7 +14,7 @@ extern std::shared_ptr<windows::FormsView> theDialogs;
 /// The window that the dialogs stay in front of; null for none.
 extern HWND theHostWindow;
 
-/// The window of the form in front, and the form; there must be one.
+/// The window of the form in front, null if none is open; and that form.
 ///@{
 HWND FrontWindow();
 forms::Form& FrontForm();

@@ -12,7 +12,7 @@ namespace {
 using S = std::string;
 
 constexpr int kEvents = 120;  ///< of one run, unless it ends early
-constexpr unsigned kSeeds = 8;
+constexpr unsigned kSeeds = 3;
 
 /// Posts random messages of a mouse and a keyboard to random controls of the window in front, the same ones
 /// for the same seed.

@@ -203,6 +203,7 @@ void Compare(std::string& differences, const ControlState& model, const ControlS
   compare("Text", model.text, window.text);
   compare("Value", model.value, window.value);
   compare("List", model.list, window.list);
+  compare("ListIndex", model.listIndex, window.listIndex);
   compare("Rows", model.rows, window.rows);
   compare("FixedRows", model.fixedRows, window.fixedRows);
   compare("Selected", model.selected, window.selected);
@@ -247,7 +248,13 @@ std::string DifferencesFromModel(const forms::Form& form, HWND window) {
     const bool hasNoColor = control.kind != "Frame" && control.kind != "OptionButton" &&
                             control.kind != "CheckBox" && control.kind != "Label";
     if (hasNoColor) control.backColor = forms::kButtonFace;
-    if (control.kind == "ListBox") control.text = shown.controls[i].text;  // it shows in the selection
+    if (control.kind == "ListBox") {  // both show in the selection
+      control.text = shown.controls[i].text;
+      control.listIndex = shown.controls[i].listIndex;
+    }
+    const HWND box = ControlWindow(window, control.name);
+    if (control.kind == "ComboBox" && SendMessageW(box, CB_GETDROPPEDSTATE, 0, 0) != 0)
+      continue;  // not decided
     Compare(differences, control, shown.controls[i]);
   }
   return differences;
