@@ -1,11 +1,13 @@
 #!/bin/sh
-# Builds the command for Windows, of 64 and of 32 bits, and runs that of 64 bits under Wine beside the one for Linux:
-# what they print, how they exit and the files that they leave must be the same, byte by byte.
+# Builds the command and the component for Windows, of 64 and of 32 bits, and runs all tests under Wine:
+# tests/windows/run-*.sh. Names of tests, such as "server", run these alone.
+# Usage: scripts/check-windows.sh [NAME]...
 set -eu
 cd "$(dirname "$0")/.."
-root=$PWD
-work=$root/build/check-windows
+passed=0
+failed=0
 
+# Says what comes next, and how long the step before took; without a text only that.
 step() {
   now=$(date +%s)
   [ -z "${began:-}" ] || echo "    $((now - began)) s"
@@ -13,166 +15,42 @@ step() {
   [ -z "${1:-}" ] || echo "$1"
 }
 
+# Runs a script of tests, and counts what its last line says.
+run_tests() {
+  output=$("$1" 2>&1) || true
+  last=$(printf '%s\n' "$output" | tail -n 1)
+  printf '%s\n' "$output"
+  case $last in
+    *" passed, "*" failed")
+      passed=$((passed + ${last%% *}))
+      last=${last% failed}
+      failed=$((failed + ${last##* }))
+      ;;
+    *)
+      failed=$((failed + 1))
+      echo "FAILED: $1 ended before its end"
+      ;;
+  esac
+}
+
 step "Libraries:"
-scripts/install-dependencies.sh wine wine64
+scripts/install-dependencies.sh wine wine64 libwine-dev
 scripts/windows-libraries.sh x64 x86
-step "Building:"
+step "Building for Linux:"
 cmake --preset release >/dev/null
 cmake --build build --target plotsmith
-for preset in windows-x64 windows-x86; do
-  cmake --preset "$preset" >/dev/null
-  cmake --build "build-$preset" --target plotsmith
+step "Building for Windows, 64 bits:"
+cmake --preset windows-x64 >/dev/null
+cmake --build build-windows-x64 --target plotsmith Plotsmith tests/windows/all
+step "Building for Windows, 32 bits:"
+cmake --preset windows-x86 >/dev/null
+cmake --build build-windows-x86 --target plotsmith Plotsmith
+
+[ $# -gt 0 ] || set -- $(ls tests/windows | sed -n 's/^run-\(.*\)\.sh$/\1/p')
+for name; do
+  step "Tests: $name"
+  run_tests "tests/windows/run-$name.sh"
 done
-step "Running:"
-
-# A prefix of our own, without the parts that Wine would fetch; quiet.
-export WINEPREFIX="$root/build/wine" WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
-export LC_ALL=C.UTF-8
-linux=$root/build/plotsmith
-windows=$root/build-windows-x64/plotsmith.exe
-passed=0
-failed=0
-
-rm -rf "$work"
-mkdir -p "$work/linux" "$work/windows"
-wineboot --init >/dev/null 2>&1
-trap 'wineserver -w' EXIT
-
-passes() { passed=$((passed + 1)); }
-# What is wrong comes first, then the name: REASON CASE.
-fails() {
-  failed=$((failed + 1))
-  echo "FAILED: $2: $1"
-}
-
-# Puts a file into the folder of either program: FROM TO.
-give() {
-  for folder in linux windows; do
-    mkdir -p "$work/$folder/$(dirname "$2")"
-    cp "$1" "$work/$folder/$2"
-  done
-}
-
-# Runs a program in its folder and keeps what it printed and its exit code there: FOLDER PROGRAM ARGUMENT...
-run_in() {
-  (
-    cd "$work/$1"
-    shift
-    code=0
-    "$@" >out.txt 2>err.txt || code=$?
-    echo "$code" >code.txt
-  )
-}
-
-# Either program does the same, from the same input: CASE ARGUMENT...
-same() {
-  case=$1
-  shift
-  run_in linux "$linux" "$@" <"$work/input.txt"
-  run_in windows wine "$windows" "$@" <"$work/input.txt"
-  if difference=$(diff -rq "$work/linux" "$work/windows"); then
-    passes
-  else
-    fails "$difference" "$case"
-    diff "$work/linux/err.txt" "$work/windows/err.txt" || true
-  fi
-}
-
-# The program for Windows refuses and leaves all other files as they are: CASE SENTENCE ARGUMENT...
-refuses() {
-  case=$1 sentence=$2
-  shift 2
-  rm -rf "$work/before"
-  cp -a "$work/windows" "$work/before"
-  run_in windows wine "$windows" "$@" <"$work/input.txt"
-  if [ "$(cat "$work/windows/code.txt")" != 3 ]; then
-    fails "exit code $(cat "$work/windows/code.txt")" "$case"
-  elif [ "$(cat "$work/windows/err.txt")" != "plotsmith: $sentence" ]; then
-    fails "$(cat "$work/windows/err.txt")" "$case"
-  elif ! difference=$(diff -rq -x out.txt -x err.txt -x code.txt "$work/before" "$work/windows"); then
-    fails "$difference" "$case"
-  else
-    passes
-  fi
-}
-
-# A program imports from the libraries of the system alone: PRESET FORMAT.
-imports_only_the_system() {
-  program=$root/build-$1/plotsmith.exe
-  foreign=$(objdump -p "$program" | sed -n 's/.*DLL Name: //p' | grep -ivxE '(kernel32|advapi32|shell32|user32|msvcrt)\.dll') || true
-  if [ -n "$foreign" ]; then
-    fails "it imports $foreign" "$1"
-  elif ! objdump -f "$program" | grep -q "file format $2\$"; then
-    fails "it is not of the format $2" "$1"
-  else
-    passes
-  fi
-}
-
-imports_only_the_system windows-x64 pei-x86-64
-imports_only_the_system windows-x86 pei-i386
-
-: >"$work/input.txt"
-for book in examples/*.xlsx; do
-  name=$(basename "$book")
-  give "$book" "$name"
-  same "refresh $name" refresh "$name"
-  same "refresh $name once more, with its journal" refresh "$name" --journal
-done
-give examples/data/orders.xlsx orders.xlsx
-new() { same "new $*" new orders.xlsx --table Data1 --type "$@"; }
-new column --title "Amount by region" --series Product --set stacked --new-sheet Charts
-new bar --title "Costs against amounts" --series-columns Amount Cost --new-sheet Bars
-new area --title "Shares of the products" --categories Quarter --series Product --set stacked 100% --new-sheet Areas
-new pie --title "Where the amounts come from" --categories Product --labels percentages --set exploded --new-sheet Pies
-new bubble --title "Products" --categories Product --values Amount --x-values Cost --sizes Units --series Product \
-  --new-sheet Bubbles
-new "strategic bucket" --title "Amounts and targets" --categories Product --series Product --bucket-table VEX_SB_Targets \
-  --labels names --new-sheet Buckets
-
-for verb in tables charts check; do same "$verb --json" "$verb" orders.xlsx --json; done
-same "several books into a folder" refresh orders.xlsx countries.xlsx -o .
-give examples/data/orders.xlsx copies/orders.xlsx
-same "several books" refresh orders.xlsx countries.xlsx --verbose
-same "several books into a folder" refresh orders.xlsx countries.xlsx -o copies
-same "the standard output" refresh orders.xlsx -o -
-same "save" save countries.xlsx -o saved.xlsx
-same "another kind of workbook" save countries.xlsx -o saved.xlsm
-same "help" new --help
-same "a missing file" refresh "fehlt: nichts.xlsx"
-same "a folder" refresh copies
-same "no such command" /refresh countries.xlsx
-give examples/countries.xlsx "Übersicht Köln/Länder – 日本.xlsx"
-same "a path with blanks and all kinds of letters" refresh "Übersicht Köln/Länder – 日本.xlsx"
-same "such a path as the output" refresh countries.xlsx -o "Übersicht Köln/neu ü.xlsx"
-same "such a title" new orders.xlsx --table Data1 --type pie --title "Umsätze „2024“ 東京" --new-sheet "Übersicht ä"
-printf '0.00\t1.005\n#,##0 "€"\t1234.5\n' >"$work/input.txt"
-same "the standard input, with line ends as they are" format --tsv
-: >"$work/input.txt"
-
-give examples/electricity.xlsx read-only.xlsx
-chmod a-w "$work/windows/read-only.xlsx"
-refuses "a read-only file" \
-  'can'"'"'t save "read-only.xlsx": can'"'"'t write read-only.xlsx: Permission denied; nothing was changed.' \
-  refresh countries.xlsx -o read-only.xlsx
-chmod u+w "$work/windows/read-only.xlsx"
-
-# a command that appends to the workbook, and waits for a line first
-give examples/electricity.xlsx held.xlsx
-mkfifo "$work/script"
-(cd "$work/windows" && exec wine cmd /c 'set /p line=>>held.xlsx' <"$work/script" >/dev/null 2>&1) &
-holder=$!
-exec 9>"$work/script"
-sleep 3
-refuses "a file that another program has open" \
-  'can'"'"'t save "held.xlsx": can'"'"'t write held.xlsx: another program has it open; nothing was changed.' \
-  refresh countries.xlsx -o held.xlsx
-echo >&9
-exec 9>&-
-wait "$holder" || true
-give examples/electricity.xlsx held.xlsx
-same "the same file when it is closed" refresh countries.xlsx -o held.xlsx
-
 step ""
 echo "$passed passed, $failed failed"
 [ "$failed" -eq 0 ]

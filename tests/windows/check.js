@@ -2,6 +2,16 @@
 var passed = 0;
 var failed = 0;
 
+// The first lines in which two texts differ.
+function difference(actual, expected) {
+  var is = String(actual).split("\n");
+  var should = String(expected).split("\n");
+  for (var i = 0; is[i] === should[i] && i < is.length; ++i) {
+  }
+  var line = is.length + should.length > 2 ? " in line " + (i + 1) : "";
+  return line + "\n  is:       " + String(is[i]).substr(0, 300) + "\n  expected: " + String(should[i]).substr(0, 300);
+}
+
 // A value is what it should be; its type counts.
 function check(name, actual, expected) {
   if (actual === expected) {
@@ -9,7 +19,7 @@ function check(name, actual, expected) {
     return;
   }
   ++failed;
-  WScript.Echo("FAILED: " + name + "\n  is:       " + actual + "\n  expected: " + expected);
+  WScript.Echo("FAILED: " + name + difference(actual, expected));
 }
 
 function finish() {
@@ -28,6 +38,7 @@ function resultOf(call) {
 
 var boxes = new ActiveXObject("PlotsmithTest.Boxes");
 
+// The script hosts of Wine keep the class object of what they create, so that its DLL stays; this one doesn't.
 function newController() {
-  return new ActiveXObject("Plotsmith.CPlotsmithController");
+  return boxes.Create("Plotsmith.CPlotsmithController");
 }

@@ -3,10 +3,12 @@
 set -eu
 root=$PWD
 work=$root/build/check-windows/$(basename "$0" .sh)
-windows=$root/build-windows-x64
 
-# A prefix of our own, without the parts that Wine would fetch; quiet.
-export WINEPREFIX="${WINEPREFIX:-$root/build/wine}" WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
+# The folder of the DLLs and programs: those of 64 bits, unless PLOTSMITH_WINDOWS names others.
+windows=${PLOTSMITH_WINDOWS:-$root/build-windows-x64}
+
+# Prefixes of our own, without the parts that Wine would fetch; quiet.
+export WINEPREFIX="$root/build/wine-new" WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
 export LC_ALL=C.UTF-8
 passed=0
 failed=0
@@ -30,20 +32,28 @@ same_file() {
   fi
 }
 
-# Makes a new prefix for what must find nothing there, with a driver that has windows and no screen: FOLDER.
+# Begins with a new prefix. Making one takes long, so it is a copy of one that is made once for each version of Wine.
+# Its driver has windows and no screen.
 new_prefix() {
-  export WINEPREFIX="$1"
+  template=$root/build/wine-template
+  if [ "$(cat "$template/version.txt" 2>/dev/null)" != "$(wine --version 2>/dev/null)" ]; then
+    rm -rf "$template"
+    (
+      export WINEPREFIX="$template"
+      wineboot --init >/dev/null 2>&1
+      wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f >/dev/null 2>&1
+      wineserver -w
+    )
+    wine --version >"$template/version.txt" 2>/dev/null
+  fi
   rm -rf "$WINEPREFIX"
-  mkdir -p "$(dirname "$WINEPREFIX")"
-  wineboot --init >/dev/null 2>&1
-  wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f >/dev/null 2>&1
-  wineserver -w
+  cp -a "$template" "$WINEPREFIX"
 }
 
 # The path of a file as Windows has it: FILE.
 windows_path() { winepath -w "$1" 2>/dev/null; }
 
-# Registers DLLs for the user, or for all by DllRegisterServer alone: DLL...
+# Registers DLLs for all users: DLL...
 register() {
   for library; do
     wine regsvr32 /s "$(windows_path "$library")" >/dev/null 2>&1
@@ -55,21 +65,22 @@ run_script() {
   wine cscript //nologo "$@" 2>/dev/null | tr -d '\r'
 }
 
-# Runs a script that checks by itself, with what tests/windows/check.js has: SCRIPT ARGUMENT...
+# Runs a script that checks by itself, with what tests/windows/check.js and the host add-in of the examples have:
+# SCRIPT ARGUMENT...
 script_checks() {
   name=$(basename "$1" .js)
   {
-    cat tests/windows/check.js
+    cat tests/windows/check.js examples/excel/plotsmith.js
     echo 'try {'
     cat "$1"
     echo '} catch (error) { WScript.Echo("0x" + (error.number >>> 0).toString(16) + " " + error.message); }'
   } >"$work/$name.js"
   shift
   output=$(timeout 300 wine cscript //nologo "$(windows_path "$work/$name.js")" "$@" 2>/dev/null | tr -d '\r') || true
-  last=$(echo "$output" | tail -n 1)
+  last=$(printf '%s\n' "$output" | tail -n 1)
   case $last in
     *" passed, "*" failed")
-      echo "$output" | sed '$d'
+      printf '%s\n' "$output" | sed '$d'
       passed=$((passed + ${last%% *}))
       failed=$((failed + $(echo "$last" | cut -d ' ' -f 3)))
       ;;
@@ -80,6 +91,7 @@ $output" "$name.js" ;;
 
 finish() {
   wineserver -w
+  rm -rf "$WINEPREFIX"
   echo "$passed passed, $failed failed"
   [ "$failed" -eq 0 ]
 }

@@ -5,7 +5,7 @@ cd "$(dirname "$0")/../.."
 . tests/windows/lib.sh
 corpus=$root/../shared/corpus
 
-new_prefix "$work/wine"
+new_prefix
 register "$windows/Plotsmith.dll" "$windows/PlotsmithTestHost.dll" "$windows/PlotsmithTestBoxes.dll"
 mkdir "$work/linux" "$work/windows" "$work/books"
 cp examples/*.xlsx "$work/books"

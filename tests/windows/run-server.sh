@@ -3,9 +3,10 @@
 cd "$(dirname "$0")/../.."
 . tests/windows/lib.sh
 
-new_prefix "$root/build/wine-server"
+new_prefix
 register "$windows/Plotsmith.dll" "$windows/PlotsmithTestHost.dll" "$windows/PlotsmithTestBoxes.dll"
-for script in tests/windows/server/*.js; do
+# Usage: tests/windows/run-server.sh [SCRIPT]...
+for script in ${*:-tests/windows/server/*.js}; do
   script_checks "$script" "$(windows_path "$work")" "$(windows_path "$root/examples")"
 done
 finish

@@ -213,10 +213,14 @@ ComPtr<IDispatch> ObjectOf(const VARIANT& value) {
   return dispatch;
 }
 
-bool IsArray(const VARIANT& value) { return ArrayIn(value) != nullptr; }
+bool IsArray(const VARIANT& value) {
+  if (V_VT(&value) == (VT_BYREF | VT_VARIANT)) return IsArray(*V_VARIANTREF(&value));
+  return (V_VT(&value) & VT_ARRAY) != 0;
+}
 
 std::vector<Variant> ListOf(const VARIANT& value) {
   SAFEARRAY* array = ArrayIn(value);
+  if (array == nullptr && IsArray(value)) return {};
   if (array == nullptr || SafeArrayGetDim(array) != 1) throw RuntimeError(error::kTypeMismatch);
   VARTYPE type = VT_EMPTY;
   LONG first = 0, last = -1;

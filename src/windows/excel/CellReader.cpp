@@ -13,8 +13,8 @@ using runtime::RuntimeError;
 
 namespace {
 
-/// A single cell first: who goes on below reads more than one.
-constexpr std::int32_t kFirstSize = 1, kSecondSize = 16, kMostSize = 16384;
+/// Rows of the first stretch, and of the longest.
+constexpr std::int32_t kFirstSize = 16, kMostSize = 16384;
 
 std::string Letters(std::int32_t column) {
   std::string letters;
@@ -23,15 +23,16 @@ std::string Letters(std::int32_t column) {
   return letters;
 }
 
-/// The address of cells of one column.
-std::string AddressOf(std::int32_t row, std::int32_t column, std::int32_t size) {
-  const std::string letters = "$" + Letters(column) + "$";
-  return letters + std::to_string(row) + ":" + letters + std::to_string(row + size - 1);
+std::string AddressOf(std::int32_t row, std::int32_t column) {
+  return "$" + Letters(column) + "$" + std::to_string(row);
 }
 
-com::ComPtr<IDispatch> Find(IDispatch* object, com::Member& member, const excel::Variant& argument) {
-  const std::array arguments{com::ToVariant(argument)};
-  return com::ObjectOf(com::Call(object, member, com::Kind::kGet, arguments).Get());
+/// Cells of one column.
+com::ComPtr<IDispatch> CellsFrom(IDispatch* sheet, std::int32_t row, std::int32_t column, std::int32_t size) {
+  static com::Member range(L"Range");
+  const std::array corners{com::ToVariant(AddressOf(row, column)),
+                           com::ToVariant(AddressOf(row + size - 1, column))};
+  return com::ObjectOf(com::Call(sheet, range, com::Kind::kGet, corners).Get());
 }
 
 com::ComPtr<IDispatch> CellAt(IDispatch* sheet, std::int32_t row, std::int32_t column) {
@@ -85,25 +86,20 @@ CellValue CellReader::Kept(const VARIANT& value) {
   return {};
 }
 
-CellReader::Stretch CellReader::Fetch(std::int32_t row, std::int32_t column, std::int32_t size) {
-  if (size > 1) size = std::min(size, Bottom() - row + 1);
-  Stretch stretch{.first = row};
-  if (size > 1) {
-    // Range.Value fails as a whole where a single cell has a value that it can't tell, such as an amount of
-    // money that is too large for a Currency. The error is only that cell's, so the cells are read one by
-    // one.
-    try {
-      static com::Member range(L"Range");
-      const com::OwnedVariant values = ValueOf(Find(sheet_, range, AddressOf(row, column, size)).Get());
-      const com::CellArray cells(values.Get());
-      for (std::int32_t i = 0; i < cells.Rows(); ++i) stretch.values.push_back(Kept(cells.At(i, 0)));
-      return stretch;
-    } catch (const RuntimeError&) {
-      stretch.values.clear();
-    }
+std::vector<CellValue> CellReader::Fetch(std::int32_t row, std::int32_t column, std::int32_t size) {
+  size = std::min(size, Bottom() - row + 1);
+  if (size < 2) return {};
+  // Range.Value fails as a whole where a single cell has a value that it can't tell, such as an amount of
+  // money that is too large for a Currency. The error is only that cell's, so the cells are read one by one.
+  try {
+    const com::OwnedVariant answer = ValueOf(CellsFrom(sheet_, row, column, size).Get());
+    const com::CellArray cells(answer.Get());
+    std::vector<CellValue> values;
+    for (std::int32_t i = 0; i < cells.Rows(); ++i) values.push_back(Kept(cells.At(i, 0)));
+    return values;
+  } catch (const RuntimeError&) {
+    return {};
   }
-  stretch.values.push_back(Kept(ValueOf(CellAt(sheet_, row, column).Get()).Get()));
-  return stretch;
 }
 
 void CellReader::Refresh() {
@@ -113,40 +109,43 @@ void CellReader::Refresh() {
   bottom_.reset();
 }
 
-CellReader::Stretch& CellReader::StretchWith(std::int32_t row, std::int32_t column) {
+CellReader::Stretch* CellReader::StretchWith(std::int32_t row, std::int32_t column) {
   Refresh();
   Stretch& stretch = stretches_[column];
-  if (stretch.Has(row)) return stretch;
-  const bool continues = stretch.Size() > 0 && row == stretch.End();
-  stretch =
-      Fetch(row, column, continues ? std::clamp(2 * stretch.Size(), kSecondSize, kMostSize) : kFirstSize);
-  return stretch;
+  if (stretch.Has(row)) return &stretch;
+  if (row == stretch.End()) {
+    const std::int32_t size = std::clamp(2 * stretch.Size(), kFirstSize, kMostSize);
+    stretch = {.first = row, .values = Fetch(row, column, size)};
+    if (stretch.Has(row)) return &stretch;
+  }
+  stretch = {.first = row + 1};
+  return nullptr;
 }
 
 CellValue CellReader::ValueAt(std::int32_t row, std::int32_t column) {
-  const Stretch& stretch = StretchWith(row, column);
-  return stretch.values[static_cast<std::size_t>(row - stretch.first)];
+  if (const Stretch* stretch = StretchWith(row, column)) return stretch->At(row);
+  return Kept(ValueOf(CellAt(sheet_, row, column).Get()).Get());
 }
 
 std::string_view CellReader::TextAt(std::int32_t row, std::int32_t column, std::string& scratch) {
-  Stretch& stretch = StretchWith(row, column);
-  const CellValue value = stretch.values[static_cast<std::size_t>(row - stretch.first)];
-  if (value.kind == CellValue::Kind::kEmpty) return {};
-  // only a text in the plain format is shown as it is, however wide its column is
-  if (value.kind == CellValue::Kind::kText && runtime::Len(value.text) <= kSurelyShown) {
-    if (!stretch.general) stretch.general = IsGeneral(stretch, column);
-    if (*stretch.general) return value.text;
+  if (Stretch* stretch = StretchWith(row, column)) {
+    const CellValue& value = stretch->At(row);
+    if (value.kind == CellValue::Kind::kEmpty) return {};
+    // only a text in the plain format is shown as it is, however wide its column is
+    if (value.kind == CellValue::Kind::kText && runtime::Len(value.text) <= kSurelyShown) {
+      if (!stretch->general) stretch->general = IsGeneral(*stretch, column);
+      if (*stretch->general) return value.text;
+    }
   }
   static com::Member text(L"Text");
-  scratch = Ask<std::string>(CellAt(sheet_, row, column).Get(), text, com::Kind::kGet);
-  return scratch;
+  return scratch = Ask<std::string>(CellAt(sheet_, row, column).Get(), text, com::Kind::kGet);
 }
 
 bool CellReader::IsGeneral(const Stretch& stretch, std::int32_t column) const {
   // DisplayFormat also knows what conditional formats do. Versions before 14 don't have it.
   try {
-    static com::Member range(L"Range"), displayFormat(L"DisplayFormat"), numberFormat(L"NumberFormat");
-    const auto cells = Find(sheet_, range, AddressOf(stretch.first, column, stretch.Size()));
+    static com::Member displayFormat(L"DisplayFormat"), numberFormat(L"NumberFormat");
+    const auto cells = CellsFrom(sheet_, stretch.first, column, stretch.Size());
     const auto look = com::ObjectOf(com::Call(cells.Get(), displayFormat, com::Kind::kGet, {}).Get());
     const auto format = Ask<excel::Variant>(look.Get(), numberFormat, com::Kind::kGet);
     return format == excel::Variant("General");
@@ -169,14 +168,8 @@ std::int32_t CellReader::Bottom() {
 std::int32_t CellReader::NextRow(std::int32_t row, std::int32_t column) {
   Refresh();
   std::int32_t next = row + 1;
-  const auto found = stretches_.find(column);
-  if (found != stretches_.end()) {
-    const Stretch& stretch = found->second;
-    while (stretch.Has(next) &&
-           stretch.values[static_cast<std::size_t>(next - stretch.first)].kind == CellValue::Kind::kEmpty) {
-      ++next;
-    }
-  }
+  const Stretch& stretch = stretches_[column];
+  while (stretch.Has(next) && stretch.At(next).kind == CellValue::Kind::kEmpty) ++next;
   return next <= Bottom() ? next : 0;
 }
 

@@ -34,21 +34,27 @@ class CellReader {
  private:
   /// Cells of a column that were fetched together.
   struct Stretch {
-    std::int32_t first = 1;  ///< row
+    std::int32_t first = 0;  ///< row; where a stretch is empty, the row below the cell that was read last
     std::vector<excel::CellValue> values;
     /// Whether the number format of all cells is General, once it was asked for.
     std::optional<bool> general;
 
     std::int32_t Size() const { return static_cast<std::int32_t>(values.size()); }
     std::int32_t End() const { return first + Size(); }
+    const excel::CellValue& At(std::int32_t row) const {
+      return values[static_cast<std::size_t>(row - first)];
+    }
     bool Has(std::int32_t row) const { return row >= first && row < End(); }
   };
 
   /// Forgets what is no longer sure to be so.
   void Refresh();
-  Stretch& StretchWith(std::int32_t row, std::int32_t column);
-  /// Cells from a row on, fewer than `size` at the end of the used range.
-  Stretch Fetch(std::int32_t row, std::int32_t column, std::int32_t size);
+  /// The stretch with a cell, fetched if the cell follows the one that was read last in its column. Null if
+  /// the cell has to be read by itself.
+  Stretch* StretchWith(std::int32_t row, std::int32_t column);
+  /// The values of cells from a row on, fewer than `size` at the end of the used range; none if they can't be
+  /// told together.
+  std::vector<excel::CellValue> Fetch(std::int32_t row, std::int32_t column, std::int32_t size);
   bool IsGeneral(const Stretch& stretch, std::int32_t column) const;
   /// The last row of the used range.
   std::int32_t Bottom();

@@ -149,15 +149,21 @@ HRESULT RegisterServer(RegistrationScope scope) {
 
 HRESULT UnregisterServer(RegistrationScope scope) {
   const Classes classes(scope);
-  std::vector<std::wstring> keys = {ClassKey(), InterfaceKey()};
-  // The names and the type library are the same keys for programs of 32 and of 64 bits.
-  if (!classes.Has(ClassKey(), kOtherView)) keys.insert(keys.end(), {kVersionedName, kName});
-  keys.push_back(classes.Has(PlatformKey(kOtherPlatform)) ? PlatformKey(kPlatform) : LibraryKey());
   LSTATUS first = ERROR_SUCCESS;
-  for (const std::wstring& key : keys) {
+  const auto remove = [&](const std::wstring& key) {
     const LSTATUS status = classes.Remove(key);
     if (first == ERROR_SUCCESS) first = status;
+  };
+  // The own keys go first: where both kinds of programs see the same keys, none is left for the other kind.
+  remove(ClassKey());
+  remove(InterfaceKey());
+  remove(PlatformKey(kPlatform));
+  // The names and the rest of the type library belong to the DLLs of 32 and of 64 bits alike.
+  if (!classes.Has(ClassKey(), kOtherView)) {
+    remove(kVersionedName);
+    remove(kName);
   }
+  if (!classes.Has(PlatformKey(kOtherPlatform))) remove(LibraryKey());
   for (const wchar_t* list : {L"CLSID", L"Interface", L"TypeLib", L""}) classes.RemoveIfEmpty(list);
   return HRESULT_FROM_WIN32(first);
 }

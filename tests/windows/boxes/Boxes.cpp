@@ -133,6 +133,11 @@ const Boxes::Member Boxes::kMembers[] = {
        if (FAILED(result)) throw com::ErrorOf(result);
        return com::ToVariant(object.Get());
      }},
+    // Nothing(): an object reference that is not set, which JScript has no word for.
+    {"Nothing",
+     [](Boxes&, const DISPPARAMS&) -> OwnedVariant {
+       return com::ToVariant(static_cast<IDispatch*>(nullptr));
+     }},
     // Handles(): how many the process has.
     {"Handles",
      [](Boxes&, const DISPPARAMS&) -> OwnedVariant { return com::ToVariant(Variant(HandleCount())); }},

@@ -64,6 +64,7 @@ struct Way {
   std::size_t most;
   std::function<bool(const Arguments&)> accepts;  ///< tells ways of one name apart; null accepts all
   std::function<com::OwnedVariant(T&, const Arguments&, const HostPtr&)> call;
+  mutable bool called = false;
 };
 
 /// The members of a T.
@@ -79,6 +80,7 @@ class Table {
   DISPID IdOf(const std::wstring& name) const;
   /// Null if no member of the number can be called so.
   const Way<T>* Find(DISPID id, WORD kinds, const Arguments& arguments) const;
+  const std::vector<Way<T>>& Ways() const { return ways_; }
 
  private:
   std::vector<std::wstring> names_;
@@ -226,6 +228,7 @@ template <class T>
 com::OwnedVariant Dressed<T>::Called(DISPID id, WORD kinds, const Arguments& arguments) {
   const Way<T>* way = TableOf<T>().Find(id, kinds, arguments);
   if (way == nullptr) throw HRESULT{DISP_E_MEMBERNOTFOUND};
+  way->called = true;
   if (arguments.Count() < way->least) throw HRESULT{DISP_E_PARAMNOTOPTIONAL};
   if (arguments.Count() <= way->most) return way->call(*object_, arguments, host_);
   if (way->most > 0 || way->kind == DISPATCH_PROPERTYPUT) throw HRESULT{DISP_E_BADPARAMCOUNT};

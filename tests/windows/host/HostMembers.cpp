@@ -1,8 +1,11 @@
 #include "tests/windows/host/HostMembers.h"
 
+#include <algorithm>
+#include <array>
 #include <fstream>
 
 #include "runtime/RuntimeError.h"
+#include "runtime/Strings.h"
 #include "runtime/Utf8Path.h"
 #include "windows/com/Failures.h"
 #include "xlsx/Workbook.h"
@@ -107,7 +110,34 @@ com::OwnedVariant LiveObjects(excel::Application&, const Arguments&, const HostP
   return com::ToVariant(counts.objects.load());
 }
 
+template <class T>
+void ListNotCalled(const std::string& name, std::vector<std::string>& list) {
+  for (const auto& way : TableOf<T>().Ways()) {
+    const char* kind = way.kind == DISPATCH_METHOD        ? " called"
+                       : way.kind == DISPATCH_PROPERTYPUT ? " put"
+                                                          : " read";
+    const std::u16string text(way.name.begin(), way.name.end());
+    if (!way.called) list.push_back(name + "." + runtime::ToUtf8(text) + kind);
+  }
+}
+
+/// The members that are here for scripts.
+constexpr std::array kHostMembers = {"Open",        "Save",    "SaveAs", "Journal",     "SaveJournal",
+                                     "DefineMacro", "Editing", "Calls",  "UnsureCalls", "LiveObjects"};
+
 }  // namespace
+
+std::vector<std::string> WaysNotCalled() {
+  std::vector<std::string> list;
+#define CLASS_NAME(Class) ListNotCalled<excel::Class>(#Class, list);
+#include "windows/excel/members/Classes.inc"
+#undef CLASS_NAME
+  std::erase_if(list, [](const std::string& way) {
+    return std::any_of(kHostMembers.begin(), kHostMembers.end(),
+                       [&](const std::string& name) { return way.starts_with("Application." + name + " "); });
+  });
+  return list;
+}
 
 void AddHostMembers(Table<excel::Application>& table) {
   table.Add({L"Open", DISPATCH_METHOD, 1, 1, nullptr, Open});
@@ -122,8 +152,7 @@ void AddHostMembers(Table<excel::Application>& table) {
   table.Add({L"LiveObjects", DISPATCH_PROPERTYGET, 0, 0, nullptr, LiveObjects});
 }
 
-IDispatch* NewApplication() {
-  auto host = std::make_shared<Host>();
+IDispatch* NewApplication(HostPtr host) {
   const Ref<excel::Application> application(host->application);
   return new Dressed<excel::Application>(application, std::move(host));
 }

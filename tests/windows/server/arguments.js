@@ -1,5 +1,5 @@
 // What the operations make of arguments as the languages of Excel's add-ins send them.
-var controller = newController();
+var controller = new ActiveXObject("Plotsmith.CPlotsmithController");
 var host = new ActiveXObject("PlotsmithTestHost.Application");
 
 var kNoWorkbook = "Brindle Plotsmith [OK]: You must have a workbook open to use the Plotsmith.";
@@ -93,6 +93,7 @@ function columnsAfter(invoke, call) {
   var session = new ActiveXObject("PlotsmithTestHost.Application");
   session.Open(book);
   newController().RefreshPlotsmithData(session, "", "");  // lets go of the workbook of the call before
+  boxes.Take();
   session.Open(book);
   check(call, boxes[invoke](controller, "UpdateChartColumnNamesForTable|" + call, session), "ok");
   check(call + ": boxes", boxes.Take(), "");

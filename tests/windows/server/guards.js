@@ -19,11 +19,6 @@ function says(name, host, expected) {
   check(name + ", wizard", boxes.Take(), expected);
 }
 
-says("protected", hostWith(true, false), kProtected);
-says("shared", hostWith(false, true), kShared);
-says("protected and shared", hostWith(true, true), kProtected);
-says("a number is as good as a Boolean", hostWith(0, 1), kShared);
-
 var host = new ActiveXObject("PlotsmithTestHost.Application");
 says("no workbook", host, kNoWorkbook);
 host.Open(WScript.Arguments(1) + "\\countries.xlsx");
@@ -35,6 +30,12 @@ check("a cell is edited: the journal", host.Journal, "");
 host.Editing = false;
 newController().RefreshChartsForTable(host, "no such table");
 check("a table that isn't there", boxes.Take(), "");
+
+// The Application of the first call stays the component's own, so that of a script comes last.
+says("protected", hostWith(true, false), kProtected);
+says("shared", hostWith(false, true), kShared);
+says("protected and shared", hostWith(true, true), kProtected);
+says("a number is as good as a Boolean", hostWith(0, 1), kShared);
 
 // The window of the host owns the boxes.
 var owned = hostWith(true, false);

@@ -1,32 +1,97 @@
-// Applications that answer what no Excel does. Every operation ends in a report, and the call succeeds.
+// Applications that answer what no Excel does. Every operation ends in reports, and the call succeeds.
 var kMismatch = "Type mismatch";
 var kNoObject = "Object required";
 var kNoMember = "Object doesn't support this property or method";
+var kNoSheet = "Brindle Plotsmith [OK]: Unable to create the metadata worksheet";
+var kTables = "PSFunctions.RetrieveTableDefinitions";
+var kRefresh = "CPlotsmithController.RefreshPlotsmithData";
 
 function report(procedure, description) {
   return "Brindle Plotsmith [OK]: " + procedure + "\\r\\n" + description;
 }
 
-function refreshSays(name, host, expected) {
+// Refreshes with an Application of its own, as no other remains once the DLL is gone.
+function refreshSays(name, host, boxesExpected) {
   check(name, resultOf(function() { newController().RefreshPlotsmithData(host, "Add-in", ""); }), "ok");
-  check(name + ": boxes", boxes.Take(), expected);
+  check(name + ": boxes", boxes.Take(), boxesExpected.join("\n"));
+  boxes.FreeUnusedLibraries();
+  check(name + ": the DLL is gone", boxes.IsLoaded("Plotsmith.dll"), false);
 }
 
-function breaks(name, host, description) {
-  refreshSays(name, host, report("CPlotsmithController.RefreshPlotsmithData", description));
+// An Application that answers this for its workbook.
+function withBook(name, workbook, description) {
+  refreshSays(name, {ActiveWorkbook: workbook}, [report(kRefresh, description)]);
 }
 
-var calls = [["nothing at all", {}, kNoMember]];
-function add(name, workbook, description) { calls.push([name, {ActiveWorkbook: workbook}, description]); }
-add("Null for a workbook", null, kNoObject);
-add("Empty for a workbook", undefined, kNoObject);
-add("a number for a workbook", 5, kNoObject);
-add("a text for a workbook", "book", kNoObject);
-add("a function for a workbook", function() { throw new Error("called"); }, kNoMember);
-add("a workbook without members", {}, kNoMember);
-add("Null for a Boolean", {ProtectStructure: null}, "Invalid use of Null");
-add("a text for a Boolean", {ProtectStructure: "perhaps"}, kMismatch);
-add("an object for a Boolean", {ProtectStructure: {}}, kMismatch);
-add("a number that no Boolean is", {ProtectStructure: Number.NaN, MultiUserEditing: true}, "?");
-for (var i = 0; i < calls.length; ++i) breaks(calls[i][0], calls[i][1], calls[i][2]);
+refreshSays("nothing at all", {}, [report(kRefresh, kNoMember)]);
+withBook("Null for a workbook", null, kNoObject);
+withBook("Empty for a workbook", undefined, kNoObject);
+withBook("a number for a workbook", 5, kNoObject);
+withBook("a text for a workbook", "book", kNoObject);
+withBook("a function for a workbook", function() { throw new Error(5, "called"); }, kNoMember);
+withBook("a workbook without members", {}, kNoMember);
+withBook("Null for a Boolean", {ProtectStructure: null}, "Invalid use of Null");
+withBook("a text for a Boolean", {ProtectStructure: "perhaps"}, kMismatch);
+withBook("an object for a Boolean", {ProtectStructure: {}}, kMismatch);
+
+// An Application that passes the guards, and whose workbook has these names and no sheets.
+function withNames(names) {
+  var nothing = {Count: 0};
+  return {
+    ActiveWorkbook: {ProtectStructure: false, MultiUserEditing: false, Names: names, Sheets: nothing, Worksheets: nothing},
+    Interactive: true, Version: "16.0", ActiveChart: boxes.Nothing(), ScreenUpdating: true, Calculation: 1
+  };
+}
+
+function namesSay(name, names, description) {
+  refreshSays(name, withNames(names), description === null ? [kNoSheet] : [report(kTables, description), kNoSheet]);
+}
+
+namesSay("no names", {Count: 0}, null);
+namesSay("no number of names", {Count: "many"}, kMismatch);
+namesSay("Null for a number", {Count: null}, "Invalid use of Null");
+namesSay("fewer names than none", {Count: -1}, null);
+namesSay("more names than there are", {Count: 3}, kNoMember);
+namesSay("names that no object is", {Count: 1, Item: function() { return "name"; }}, kNoObject);
+namesSay("names without members", {Count: 1, Item: function() { return {}; }}, kNoMember);
+namesSay("Null for a text", {Count: 1, Item: function() { return {Name: null}; }}, "Invalid use of Null");
+namesSay("an array for a text", {Count: 1, Item: function() { return {Name: {length: 0}}; }}, kMismatch);
+namesSay("names that throw", {Count: 1, Item: function() { throw new Error(5, "no name"); }},
+    "Automation error\\r\\nCall failed.");
+
+// Calls back into the component, from a member that it asks for.
+(function() {
+  var controller = newController();
+  var host = withNames({
+    Count: 1,
+    Item: function() {
+      controller.RefreshPlotsmithData(host, "Add-in", "");
+      controller.RefreshChartsForTable(host, "Data1");
+      return {};
+    }
+  });
+  var kAtWork = "Plotsmith is still at work on an earlier call. Call it again when that has returned.";
+  controller.RefreshPlotsmithData(host, "Add-in", "");
+  check("calling back", boxes.Take(), [
+    report(kRefresh, kAtWork), report("CPlotsmithController.RefreshChartsForTable", kAtWork), report(kTables, kNoMember),
+    kNoSheet
+  ].join("\n"));
+  host = null;
+})();
+
+// Lets go of all objects under the run.
+(function() {
+  var controller = newController();
+  var host = withNames({
+    Count: 1,
+    Item: function() {
+      host.ActiveWorkbook = host.Interactive = host = controller = null;
+      CollectGarbage();
+      boxes.FreeUnusedLibraries();
+      return {};
+    }
+  });
+  controller.RefreshPlotsmithData(host, "Add-in", "");
+  check("letting go", boxes.Take(), [report(kTables, kNoMember), kNoSheet].join("\n"));
+})();
 finish();

@@ -1,0 +1,69 @@
+Attribute VB_Name = "PlotsmithAddIn"
+Option Explicit
+
+' A host add-in to start from. It makes Plotsmith's controller when it is first needed, and calls it from two buttons of
+' the ribbon (customUI.xml) and when a table was filled (PlotsmithTables.cls).
+
+' What Plotsmith puts in front of its own name in the title of its error boxes.
+Public Const AddInName As String = "My Add-in"
+
+Private controller As Object   ' Plotsmith.CPlotsmithController
+Private tables As PlotsmithTables
+Private lastBook As String     ' the workbook of the last refresh of one table
+
+' Auto_Open runs when the add-in is loaded, Auto_Close when it is unloaded.
+Public Sub Auto_Open()
+    Set tables = New PlotsmithTables
+    tables.Watch Application
+End Sub
+
+Public Sub Auto_Close()
+    Set tables = Nothing
+    Set controller = Nothing
+End Sub
+
+' The button "Charts": the wizard on the active workbook.
+Public Sub OnPlotsmithCharts(control As Object)
+    Plotsmith.RunPlotsmith Application, AddInName, HelpFile
+End Sub
+
+' The button "Refresh": all charts of the active workbook.
+Public Sub OnPlotsmithRefresh(control As Object)
+    RefreshAll
+End Sub
+
+Private Sub RefreshAll()
+    Plotsmith.RefreshPlotsmithData Application, AddInName, HelpFile
+    lastBook = ""
+End Sub
+
+' The charts over one table of the active workbook, by the defined name or the sheet that the table is known by.
+' Plotsmith stays with the workbook of the first such call until all charts are refreshed, so a change of the workbook
+' takes that.
+Public Sub RefreshTable(ByVal table As String)
+    Dim book As String
+    book = Application.ActiveWorkbook.FullName
+    If lastBook <> "" And lastBook <> book Then
+        RefreshAll
+    Else
+        lastBook = book
+        Plotsmith.RefreshChartsForTable Application, table
+    End If
+End Sub
+
+' After headings of a table were changed: the charts over it name its columns, and go on with the new names.
+Public Sub RenameColumns(ByVal table As String, oldNames() As String, newNames() As String)
+    Plotsmith.UpdateChartColumnNamesForTable Application, table, oldNames, newNames
+End Sub
+
+' One object serves for as long as the add-in is loaded. Its operations raise no errors: what goes wrong is said in a
+' message box. Only CreateObject fails, with error 429, where Plotsmith isn't registered.
+Private Function Plotsmith() As Object
+    If controller Is Nothing Then Set controller = CreateObject("Plotsmith.CPlotsmithController")
+    Set Plotsmith = controller
+End Function
+
+' The help lies beside the add-in. Without it, the Help buttons of the wizard say that it isn't there.
+Private Function HelpFile() As String
+    HelpFile = ThisWorkbook.Path & Application.PathSeparator & "Plotsmith.chm"
+End Function

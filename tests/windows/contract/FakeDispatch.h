@@ -1,0 +1,47 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "windows/com/ComPtr.h"
+
+namespace plotsmith::contract {
+
+/// An Automation object whose calls a test answers.
+class FakeDispatch final : public IDispatch {
+ public:
+  using Call =
+      std::function<HRESULT(WORD flags, const DISPPARAMS& sent, VARIANT* answer, EXCEPINFO* exception)>;
+
+  explicit FakeDispatch(Call call) : call_(std::move(call)) {}
+
+  int lookUps = 0;  ///< of names
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) noexcept override {
+    *object = id == IID_IUnknown || id == IID_IDispatch ? this : nullptr;
+    return *object == nullptr ? E_NOINTERFACE : S_OK;
+  }
+  /// It belongs to the test.
+  ///@{
+  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return 2; }
+  ULONG STDMETHODCALLTYPE Release() noexcept override { return 1; }
+  ///@}
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID,
+                                          DISPID* ids) noexcept override {
+    ++lookUps;
+    ids[0] = 7;
+    return std::wstring(names[0]) == L"Known" ? S_OK : DISP_E_UNKNOWNNAME;
+  }
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD flags, DISPPARAMS* sent, VARIANT* answer,
+                                   EXCEPINFO* exception, UINT*) noexcept override {
+    return call_(flags, *sent, answer, exception);
+  }
+
+ private:
+  Call call_;
+};
+
+}  // namespace plotsmith::contract

@@ -1,0 +1,103 @@
+#include <set>
+
+#include "builder/BuilderVariables.h"
+#include "common/RunVariables.h"
+#include "controller/CPlotsmithController.h"
+#include "controller/System.h"
+#include "forms/UnattendedView.h"
+#include "tests/windows/contract/PortContract.h"
+#include "windows/com/Proxies.h"
+#include "windows/excel/WrapApplication.h"
+#include "xlsx/Workbook.h"
+
+namespace plotsmith::contract {
+namespace {
+
+/// A desktop that keeps what message boxes say.
+class QuietDesktop final : public desktop::Desktop {
+ public:
+  std::int32_t MsgBox(std::string_view text, desktop::Buttons, desktop::Icon, std::string_view) override {
+    said.append(text) += '\n';
+    return desktop::kOk;
+  }
+  void ShowHelp(std::intptr_t, const std::string&, std::int32_t) override {}
+  double Timer() override { return 0; }
+  void SetMousePointer(std::int32_t) override {}
+  std::int32_t UserDefaultLCID() override { return 1033; }
+
+  std::string said;
+};
+
+/// How many objects of Excel's the component's module variables hold, which is all that may be left of them
+/// when an operation has ended.
+std::int32_t HeldByVariables() {
+  std::set<const void*> held = {oApplication.shared().get(), oWorkbook.shared().get(), mChart.shared().get()};
+  if (colChartObjects) {
+    for (const auto& chart : *colChartObjects) held.insert(chart.shared().get());
+  }
+  if (colChartShapes) {
+    for (const auto& shape : *colChartShapes) held.insert(shape.shared().get());
+  }
+  held.erase(nullptr);
+  return static_cast<std::int32_t>(held.size());
+}
+
+/// The component inside Excel, with the example of countries open.
+class LiveProxiesTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    StartSystem(desktop_, std::make_shared<forms::UnattendedView>());
+    host_->application->Open(PLOTSMITH_SOURCE_DIR "/examples/countries.xlsx");
+    dressed_ = com::ComPtr<IDispatch>::Attach(dress::NewApplication(host_));
+  }
+  void TearDown() override {
+    StopSystem();
+    EXPECT_EQ(com::LiveProxies(), 0);
+    EXPECT_EQ(desktop_->said, said_);
+  }
+  Ref<excel::Application> Excel() { return excel::WrapApplication(dressed_.Get()); }
+
+  std::shared_ptr<QuietDesktop> desktop_ = std::make_shared<QuietDesktop>();
+  dress::HostPtr host_ = std::make_shared<dress::Host>();
+  com::ComPtr<IDispatch> dressed_;
+  CPlotsmithController controller_;
+  std::string said_;  ///< what message boxes are to say
+};
+
+TEST_F(LiveProxiesTest, ARefreshLeavesOnlyTheApplicationAndTheLastChart) {
+  controller_.RefreshPlotsmithData(Excel(), "test", "");
+  EXPECT_TRUE(oApplication);
+  EXPECT_FALSE(oWorkbook);
+  EXPECT_FALSE(colChartObjects);
+  EXPECT_EQ(com::LiveProxies(), HeldByVariables());
+  EXPECT_LE(com::LiveProxies(), 2);
+}
+
+TEST_F(LiveProxiesTest, AGuardLeavesOnlyTheApplication) {
+  host_->editing = true;
+  said_ = "You are currently editing a cell or object. Please finish editing before using the Plotsmith.\n";
+  controller_.RefreshPlotsmithData(Excel(), "test", "");
+  EXPECT_EQ(com::LiveProxies(), 1);
+}
+
+TEST_F(LiveProxiesTest, ChartsOfATableStayLoadedWithTheirWorkbook) {
+  std::string table = "VEX_TableRange_Countries";
+  controller_.RefreshChartsForTable(Excel(), table);
+  EXPECT_TRUE(oWorkbook);
+  EXPECT_GT(colChartObjects->Count(), 0);
+  EXPECT_EQ(com::LiveProxies(), HeldByVariables());
+  std::vector<std::string> oldNames = {"Continent"}, newNames = {"Part of the world"};
+  controller_.UpdateChartColumnNamesForTable(Excel(), table, oldNames, newNames);
+  EXPECT_EQ(com::LiveProxies(), HeldByVariables());
+}
+
+TEST_F(LiveProxiesTest, ManyRefreshesLeaveNoMoreThanOne) {
+  controller_.RefreshPlotsmithData(Excel(), "test", "");
+  const std::int32_t proxies = com::LiveProxies(), objects = dress::counts.objects;
+  for (int i = 0; i < 50; ++i) controller_.RefreshPlotsmithData(Excel(), "test", "");
+  EXPECT_EQ(com::LiveProxies(), proxies);
+  EXPECT_EQ(dress::counts.objects, objects);
+}
+
+}  // namespace
+}  // namespace plotsmith::contract

@@ -1,0 +1,88 @@
+#!/bin/sh
+# Registers and unregisters the component as regsvr32 does, for all users and for one, in a new prefix, and compares the
+# whole registry before, after and in between.
+cd "$(dirname "$0")/../.."
+. tests/windows/lib.sh
+
+new_prefix
+folder="$work/Plötsmith für Excel"
+mkdir -p "$folder"
+cp "$windows/Plotsmith.dll" "$folder"
+library=$(windows_path "$folder/Plotsmith.dll")
+
+# The registry as Wine writes it when the last program has ended, without times, each value behind its key: FILE.
+dump() {
+  wineserver -w
+  for root_key in system user; do
+    awk -v root="$root_key" '
+      /^#time=/ || /^"DriverDateData"/ { next }  # Wine writes the time of the start there
+      /^\[/ { sub(/ [0-9]+$/, ""); key = $0; print root, key; next }
+      key != "" && NF { print root, key, $0 }' "$WINEPREFIX/$root_key.reg"
+  done | sed 's/\\\\/\\/g' | LC_ALL=C sort >"$1"
+}
+
+# regsvr32 with these options exits with a code: CODE OPTION...
+regsvr32_exits() {
+  expected=$1
+  shift
+  code=0
+  wine regsvr32 /s "$@" "$library" >/dev/null 2>&1 || code=$?
+  [ "$code" -eq "$expected" ] && passes || fails "it exits with $code instead of $expected" "regsvr32 $*"
+}
+
+# These values were added to the registry, and no others, below Software\Classes of a root: CASE ROOT.
+values_added() {
+  dump "$work/now"
+  LC_ALL=C comm -13 "$work/before" "$work/now" | grep -E '\] ("|@)' |
+    sed -E "s/^$2 \[Software\\\\Classes\\\\//; s/^Typelib/TypeLib/; s/=\"Z:.*Plotsmith\.dll\"/=\"LIBRARY\"/; s/=\"Z:.* Excel\"/=\"FOLDER\"/" |
+    LC_ALL=C sort >"$work/added"
+  same_file "$1" "$work/added" tests/windows/registration.txt
+}
+
+# The registry is as before: CASE.
+nothing_left() {
+  dump "$work/now"
+  same_file "$1" "$work/now" "$work/before"
+}
+
+# VBScript makes the object by either name, or ends without a word: CASE EXPECTED-LINE.
+creates() {
+  cat >"$work/create.vbs" <<'END'
+WScript.Echo TypeName(CreateObject("Plotsmith.CPlotsmithController")) & " " & _
+  TypeName(CreateObject("Plotsmith.CPlotsmithController.1"))
+END
+  made=$(run_script "$(windows_path "$work/create.vbs")")
+  [ "$made" = "$2" ] && passes || fails "it says \"$made\"" "$1"
+}
+
+creates "before" ""
+dump "$work/before"
+regsvr32_exits 0
+values_added "for all" system
+creates "for all" "IPlotsmithController IPlotsmithController"
+regsvr32_exits 0
+values_added "for all, again" system
+regsvr32_exits 0 /u
+nothing_left "unregistered for all"
+regsvr32_exits 0 /u
+nothing_left "unregistered for all, again"
+
+# Wine finds no classes that one user has; what is written is the same.
+regsvr32_exits 0 /n /i:user
+values_added "for the user" user
+regsvr32_exits 0 /n /i:user
+regsvr32_exits 0 /u /n /i:user
+nothing_left "unregistered for the user"
+
+regsvr32_exits 0 /n /i
+values_added "for all, by /i" system
+regsvr32_exits 0 /n /i:user
+regsvr32_exits 0 /u /n /i:user
+values_added "unregistered for the user, and not for all" system
+regsvr32_exits 0 /u /n /i
+nothing_left "unregistered for all, by /i"
+
+regsvr32_exits 5 /n /i:everyone
+nothing_left "no such scope"
+creates "in the end" ""
+finish

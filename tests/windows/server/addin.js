@@ -1,0 +1,33 @@
+// The host add-in of the examples, with the test's Excel in Excel's place, and macros that show progress.
+var examples = WScript.Arguments(1) + "\\";
+var progress = [];
+
+function newHost(book) {
+  var host = new ActiveXObject("PlotsmithTestHost.Application");
+  host.Open(examples + book);
+  host.DefineMacro("VEXEvents.VEXChartRefreshStarted", function(id) {
+    progress.push("started" + (id === undefined ? "" : " " + id));
+  });
+  host.DefineMacro("VEXEvents.VEXChartRefreshComplete", function() { progress.push("complete"); });
+  return host;
+}
+
+function progressOf(call) {
+  progress = [];
+  call();
+  return progress.join(", ");
+}
+
+var host = newHost("countries.xlsx");
+var addIn = new PlotsmithAddIn(host);
+check("refresh", progressOf(function() { addIn.refresh(); }), "started, started VEX_Chart1, started VEX_Chart2, complete");
+var journal = host.Journal;
+check("refresh: the journal", journal.length > 1000, true);
+check("refresh a table", progressOf(function() { addIn.refreshTable("VEX_TableRange_Countries"); }),
+    "started, started VEX_Chart1, started VEX_Chart2, complete");
+check("refresh another table", progressOf(function() { addIn.refreshTable("Data5"); }), "started, complete");
+check("boxes", boxes.Take(), "");
+addIn.charts();
+check("the wizard", boxes.Take(), "Brindle Plotsmith [OK]: The pages of the wizard aren't part of this version of " +
+    "Plotsmith for Excel; it refreshes charts that are in the workbook.");
+finish();
