@@ -14,7 +14,8 @@ using runtime::RuntimeError;
 namespace {
 
 /// Rows of the first stretch, and of the longest.
-constexpr std::int32_t kFirstSize = 16, kMostSize = 16384;
+constexpr std::int32_t kFirstSize = 16;
+std::int32_t longest = 16384;
 
 std::string Letters(std::int32_t column) {
   std::string letters;
@@ -72,6 +73,8 @@ constexpr std::size_t kSurelyShown = 255;
 
 }  // namespace
 
+void CellReader::SetLongestStretch(std::int32_t rows) { longest = rows; }
+
 CellValue CellReader::Kept(const VARIANT& value) {
   using Kind = CellValue::Kind;
   const excel::Variant plain = com::FromVariant(value);
@@ -87,7 +90,7 @@ CellValue CellReader::Kept(const VARIANT& value) {
 }
 
 std::vector<CellValue> CellReader::Fetch(std::int32_t row, std::int32_t column, std::int32_t size) {
-  size = std::min(size, Bottom() - row + 1);
+  if (size > 1) size = std::min(size, Bottom() - row + 1);
   if (size < 2) return {};
   // Range.Value fails as a whole where a single cell has a value that it can't tell, such as an amount of
   // money that is too large for a Currency. The error is only that cell's, so the cells are read one by one.
@@ -114,7 +117,7 @@ CellReader::Stretch* CellReader::StretchWith(std::int32_t row, std::int32_t colu
   Stretch& stretch = stretches_[column];
   if (stretch.Has(row)) return &stretch;
   if (row == stretch.End()) {
-    const std::int32_t size = std::clamp(2 * stretch.Size(), kFirstSize, kMostSize);
+    const std::int32_t size = std::min(std::max(2 * stretch.Size(), kFirstSize), longest);
     stretch = {.first = row, .values = Fetch(row, column, size)};
     if (stretch.Has(row)) return &stretch;
   }

@@ -21,6 +21,10 @@ namespace plotsmith::proxies {
 /// the language's Currency there, with four decimals, as it would in a macro.
 class CellReader {
  public:
+  /// How many rows a stretch may have, 16384 unless told. With 1, each cell is read by itself: for
+  /// comparisons.
+  static void SetLongestStretch(std::int32_t rows);
+
   /// `sheet` must outlive the reader.
   explicit CellReader(IDispatch* sheet) : sheet_(sheet) {}
 

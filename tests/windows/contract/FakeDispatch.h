@@ -16,7 +16,8 @@ class FakeDispatch final : public IDispatch {
 
   explicit FakeDispatch(Call call) : call_(std::move(call)) {}
 
-  int lookUps = 0;  ///< of names
+  int lookUps = 0;                  ///< of names
+  std::vector<std::wstring> names;  ///< that were looked up; those that begin with "Unknown" aren't there
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) noexcept override {
     *object = id == IID_IUnknown || id == IID_IDispatch ? this : nullptr;
@@ -29,11 +30,12 @@ class FakeDispatch final : public IDispatch {
   ///@}
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) noexcept override { return E_NOTIMPL; }
   HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) noexcept override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID,
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* wanted, UINT, LCID,
                                           DISPID* ids) noexcept override {
     ++lookUps;
-    ids[0] = 7;
-    return std::wstring(names[0]) == L"Known" ? S_OK : DISP_E_UNKNOWNNAME;
+    names.push_back(wanted[0]);
+    ids[0] = static_cast<DISPID>(names.size());
+    return names.back().starts_with(L"Unknown") ? DISP_E_UNKNOWNNAME : S_OK;
   }
   HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD flags, DISPPARAMS* sent, VARIANT* answer,
                                    EXCEPINFO* exception, UINT*) noexcept override {
