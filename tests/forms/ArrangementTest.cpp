@@ -88,10 +88,10 @@ TEST(KeysTest, ArrowsGoRoundTheOptionsThatAreOn) {
   EXPECT_EQ(&form.optOther0.Neighbor(true), &form.optOther0) << "it has no other";
   form.optType1.SetEnabled(false);
   EXPECT_EQ(&form.optType0.Neighbor(true), &form.optType0);
-  EXPECT_TRUE(form.optType0.IsTabStop() && form.optType1.IsTabStop()) << "none is chosen";
-  form.optType1.SetValue(true);
   EXPECT_FALSE(form.optType0.IsTabStop());
-  EXPECT_TRUE(form.optType1.IsTabStop());
+  EXPECT_TRUE(form.optType1.IsTabStop()) << "it is chosen";
+  form.optType1.SetValue(false);
+  EXPECT_TRUE(form.optType0.IsTabStop()) << "none is chosen";
 }
 
 TEST(SecondPressTest, APressBelongsToTheOneBeforeIt) {
