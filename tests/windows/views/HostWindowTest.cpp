@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
+#include "common/App.h"
+#include "controller/System.h"
+#include "pages/frmBusyPS.h"
 #include "tests/support/SmallForm.h"
 #include "tests/windows/views/DialogTest.h"
+#include "tests/windows/views/WindowState.h"
 #include "tests/windows/views/WindowsHand.h"
 
 namespace plotsmith {
@@ -9,6 +13,8 @@ namespace {
 
 using S = std::string;
 using test::kWays;
+
+constexpr UINT kGetPlace = WM_USER + 8;  // PBM_GETPOS
 
 /// What a person can do in the host when a page has gone.
 class HostWindowTest : public test::DialogTest {
@@ -75,6 +81,30 @@ TEST_F(HostWindowTest, AnErrorOfAPageGivesItBack) {
     test::PostKey(GetFocus(), VK_SPACE);
   });
   EXPECT_THROW(loop.ShowModal(form), std::runtime_error);
+  ExpectFree();
+}
+
+TEST_F(HostWindowTest, TheBusyWindowIsModalAndItsBarMovesWhileItWorks) {
+  const auto view = std::make_shared<windows::FormsView>([this] { return hostWindow_.Handle(); });
+  StartSystem(desktop_, view);
+  std::vector<LRESULT> places;
+  const auto work = [&](const S&) {
+    const HWND window = view->Front()->Handle();
+    PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);  // work isn't stopped half-way
+    for (int i = 0; i < 3; ++i) {
+      Sleep(120);  // a little more than a tick of the window's timer
+      App.Forms->DoEvents();
+      App.Forms->DoEvents();  // what the tick has changed is seen at the next look
+      places.push_back(SendMessageW(test::ControlWindow(window, "ProgressBar1"), kGetPlace, 0, 0));
+    }
+    EXPECT_TRUE(IsWindowVisible(window));
+    EXPECT_FALSE(IsWindowEnabled(hostWindow_.Handle()));
+    EXPECT_GE(hostWindow_.Ticks(), 3);
+  };
+  const auto busy = std::make_shared<frmBusyPS>(BusyWork{[] {}, work, [](std::int32_t) {}});
+  busy->lMethodType = 1;
+  App.Forms->ShowModal(busy);
+  EXPECT_EQ(places, (std::vector<LRESULT>{5, 10, 15}));
   ExpectFree();
 }
 
