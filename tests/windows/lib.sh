@@ -35,7 +35,8 @@ same_file() {
 # Begins with a new prefix. Making one takes long, so it is a copy of one that is made once for each version of Wine.
 # Its driver has windows and no screen.
 new_prefix() {
-  template=$root/build/wine-template
+  template=$root/build/wine-template-$(basename "$windows")
+  wine --version >/dev/null 2>&1 || { echo "Wine doesn't run here" >&2; exit 1; }
   if [ "$(cat "$template/version.txt" 2>/dev/null)" != "$(wine --version 2>/dev/null)" ]; then
     rm -rf "$template"
     (
