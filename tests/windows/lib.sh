@@ -90,7 +90,12 @@ $output" "$name.js" ;;
   esac
 }
 
+# Keeps Wine's server between the programs, for scripts that start many: on a busy machine one that is just ending can
+# make the next program fail.
+keep_server() { wineserver -p; }
+
 finish() {
+  wineserver -k || true
   wineserver -w
   rm -rf "$WINEPREFIX"
   echo "$passed passed, $failed failed"

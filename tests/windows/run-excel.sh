@@ -6,6 +6,7 @@ cd "$(dirname "$0")/../.."
 corpus=$root/../shared/corpus
 
 new_prefix
+keep_server
 register "$windows/Plotsmith.dll" "$windows/PlotsmithTestHost.dll" "$windows/PlotsmithTestBoxes.dll"
 mkdir "$work/linux" "$work/windows" "$work/books"
 cp examples/*.xlsx "$work/books"
