@@ -1,5 +1,6 @@
 #include "forms/Buttons.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "forms/Form.h"
@@ -46,11 +47,29 @@ void OptionButton::SetValue(bool value) {
   value_ = value;
   Changed();
   if (!value) return;
-  for (Control* control : Parent().Controls()) {
-    auto* other = dynamic_cast<OptionButton*>(control);
-    if (other != nullptr && other != this && other->Container() == Container()) other->SetValue(false);
+  for (OptionButton* other : Group()) {
+    if (other != this) other->SetValue(false);
   }
   Raise(Click);
+}
+
+std::vector<OptionButton*> OptionButton::Group() const {
+  std::vector<OptionButton*> group;
+  for (Control* control : Parent().Controls()) {
+    auto* option = dynamic_cast<OptionButton*>(control);
+    if (option != nullptr && option->Container() == Container()) group.push_back(option);
+  }
+  return group;
+}
+
+bool OptionButton::IsTabStop() const { return value_ || std::ranges::none_of(Group(), &OptionButton::Value); }
+
+OptionButton& OptionButton::Neighbor(bool isNext) {
+  std::vector<OptionButton*> group = Group();
+  if (!isNext) std::ranges::reverse(group);
+  std::ranges::rotate(group, std::ranges::find(group, this) + 1);
+  return **std::ranges::find_if(
+      group, [this](const OptionButton* option) { return option == this || option->Obstacle().empty(); });
 }
 
 bool OptionButton::UserChoose() {

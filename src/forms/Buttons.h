@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "forms/Control.h"
 
@@ -75,10 +76,19 @@ class OptionButton : public CaptionControl {
 
   bool UserChoose();
 
+  /// Whether Tab comes to the option: to the one of a container that is chosen, or to each one while none is.
+  bool IsTabStop() const;
+  /// The option that an arrow key chooses from here: the next one of the container that a hand can use, after
+  /// the last one the first, or the one before it. This one itself where there is no other.
+  OptionButton& Neighbor(bool isNext);
+
  protected:
   const char* KindText() const override { return "option"; }
 
  private:
+  /// All options of the container, in tab order.
+  std::vector<OptionButton*> Group() const;
+
   bool value_ = false;
 };
 

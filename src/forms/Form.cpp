@@ -108,4 +108,9 @@ bool Form::UserEscape() {
   return button != nullptr && button->UserPressByKey();
 }
 
+bool Form::UserHelp() {
+  auto* button = dynamic_cast<CommandButton*>(FindControl("cmdHelp"));
+  return button != nullptr && button->UserPressByKey();
+}
+
 }  // namespace plotsmith::forms

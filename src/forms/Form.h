@@ -57,6 +57,8 @@ class Form {
   bool UserEnter();
   /// A hand presses Escape: the cancel button is pressed, and the focus stays.
   bool UserEscape();
+  /// A hand presses F1: the button cmdHelp is pressed, and the focus stays.
+  bool UserHelp();
 
   /// Grows with each change of the form's own properties.
   std::uint64_t Changes() const { return changes_; }

@@ -39,4 +39,17 @@ std::string WithLineEnds(std::string_view text, std::string_view lineEnd) {
   return runtime::Replace(folded, "\n", lineEnd);
 }
 
+void ReplaceUntypeable(std::u16string& text, std::u16string_view allowed) {
+  const auto isFirstHalf = [](char16_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; };
+  const auto isSecondHalf = [](char16_t unit) { return unit >= 0xDC00 && unit <= 0xDFFF; };
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (isFirstHalf(text[i]) && i + 1 < text.size() && isSecondHalf(text[i + 1])) {
+      ++i;
+      continue;
+    }
+    const bool isControl = text[i] < u' ' && allowed.find(text[i]) == allowed.npos;
+    if (isControl || isFirstHalf(text[i]) || isSecondHalf(text[i])) text[i] = u' ';
+  }
+}
+
 }  // namespace plotsmith::forms

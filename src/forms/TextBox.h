@@ -57,6 +57,10 @@ class TextBox : public FontControl {
 /// ends are none.
 bool HasControlCharacters(std::string_view text);
 
+/// Replaces by blanks what a hand can't have typed: control characters other than those allowed, and half of
+/// a character of two UTF-16 units, which is left where there was no room for the whole.
+void ReplaceUntypeable(std::u16string& text, std::u16string_view allowed);
+
 /// The text with every line end (CR LF, CR or LF) replaced by `lineEnd`.
 std::string WithLineEnds(std::string_view text, std::string_view lineEnd);
 

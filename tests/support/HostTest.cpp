@@ -1,6 +1,6 @@
 #include "tests/support/HostTest.h"
 
-#include <unistd.h>
+#include <random>
 
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
@@ -11,9 +11,10 @@
 namespace plotsmith::test {
 
 TempFolder::TempFolder() {
-  std::string name = (std::filesystem::temp_directory_path() / "plotsmith-XXXXXX").string();
-  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  path_ = name;
+  std::random_device random;
+  do {
+    path_ = std::filesystem::temp_directory_path() / ("plotsmith-" + std::to_string(random()));
+  } while (!std::filesystem::create_directory(path_));
 }
 
 TempFolder::~TempFolder() {

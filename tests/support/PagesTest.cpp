@@ -111,7 +111,7 @@ Hands HandsOnModel() {
 
 std::function<Hands()> MakeHands = HandsOnModel;
 
-PageLines::PageLines(const S& script) {
+PageLines::PageLines(const S& script, Deeds deeds) : deeds_(std::move(deeds)) {
   for (std::size_t from = 0; from <= script.size();) {
     const std::size_t to = std::min(script.find("; ", from), script.size());
     lines_.push_back(script.substr(from, to - from));
@@ -135,7 +135,12 @@ bool PageLines::PlayOwn(const S& line, const forms::Form* form) {
   S verb, what, rest;
   words >> verb >> what;
   std::getline(words >> std::ws, rest);
-  if (verb != "look" && verb != "clear" && verb != "force" && verb != "definition") return false;
+  if (verb != "look" && verb != "clear" && verb != "force" && verb != "definition" && verb != "do")
+    return false;
+  if (verb == "do") {
+    deeds_.at(what)();
+    return true;
+  }
   if (form == nullptr) throw forms::ScriptError("no page is open");
   if (verb == "look" && Seen(*form, what) != rest) {
     throw forms::ScriptError("there is: " + Seen(*form, what));
@@ -146,9 +151,9 @@ bool PageLines::PlayOwn(const S& line, const forms::Form* form) {
   return true;
 }
 
-S PagesTest::Play(const S& script) {
+S PagesTest::Play(const S& script, Deeds deeds) {
   helpTopics_.clear();
-  PageLines lines(script);
+  PageLines lines(script, std::move(deeds));
   Hands hands = MakeHands();
   const auto player = std::make_shared<forms::ScriptPlayer>(
       lines, [](const forms::FormState&) {}, std::move(hands.hand));

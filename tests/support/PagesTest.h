@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -15,6 +16,9 @@
 #include "tests/support/HostTest.h"
 
 namespace plotsmith::test {
+
+/// What a test does in the middle of a script, by names.
+using Deeds = std::map<std::string, std::function<void()>>;
 
 /// The lines of a script, between which "; " stands, with verbs for what a script of the command can't see:
 ///
@@ -30,9 +34,10 @@ namespace plotsmith::test {
 /// | `clear LIST` | takes the current entry away, as no hand can |
 /// | `force TYPE` | makes this the chart's type, even if the page doesn't offer it |
 /// | `definition` | writes down the document being edited |
+/// | `do NAME` | what the test has under this name |
 class PageLines final : public forms::LineSource {
  public:
-  explicit PageLines(const std::string& script);
+  explicit PageLines(const std::string& script, Deeds deeds = {});
   std::optional<std::string> NextLine(const forms::Scene& scene) override;
 
   const std::string& LastLine() const { return lines_[next_ - 1]; }
@@ -44,6 +49,7 @@ class PageLines final : public forms::LineSource {
   bool PlayOwn(const std::string& line, const forms::Form* form);
 
   std::vector<std::string> lines_;
+  Deeds deeds_;
   std::size_t next_ = 0;
 };
 
@@ -60,7 +66,7 @@ class PagesTest : public HostTest {
  protected:
   /// Runs the wizard on the open workbook by a script for PageLines. Answers "" where it was played to its
   /// end, else the line that failed and why.
-  std::string Play(const std::string& script);
+  std::string Play(const std::string& script, Deeds deeds = {});
   /// The same on a new workbook.
   std::string Play(const PlainBook& book, const std::string& script) {
     Open(book);

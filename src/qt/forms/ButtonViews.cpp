@@ -1,9 +1,5 @@
 #include "qt/forms/ButtonViews.h"
 
-#include <algorithm>
-
-#include "forms/Form.h"
-
 namespace plotsmith::qt {
 
 CommandButtonView::CommandButtonView(forms::CommandButton& model, QWidget* parent, const Post& post)
@@ -47,16 +43,7 @@ void OptionButtonView::Show() {
   button_->setAutoExclusive(false);
   button_->setChecked(model_.Value());
   button_->setAutoExclusive(true);
-  button_->setFocusPolicy(IsTabStop() ? Qt::StrongFocus : Qt::ClickFocus);
-}
-
-bool OptionButtonView::IsTabStop() const {
-  const auto isChosen = [this](const forms::Control* control) {
-    const auto* option = dynamic_cast<const forms::OptionButton*>(control);
-    return option != nullptr && option->Container() == model_.Container() && option->Value();
-  };
-  const auto& controls = model_.Parent().Controls();
-  return model_.Value() || std::none_of(controls.begin(), controls.end(), isChosen);
+  button_->setFocusPolicy(model_.IsTabStop() ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 }  // namespace plotsmith::qt

@@ -46,9 +46,6 @@ class OptionButtonView final : public ControlView {
   void Show() override;
 
  private:
-  /// Tab comes to the option of a container that is chosen, or to each one while none is.
-  bool IsTabStop() const;
-
   forms::OptionButton& model_;
   QRadioButton* button_;
 };

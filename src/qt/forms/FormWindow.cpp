@@ -13,7 +13,7 @@
 #include <QtWidgets/QVBoxLayout>
 #include <utility>
 
-#include "forms/Buttons.h"
+#include "qt/forms/HeldKeys.h"
 #include "qt/forms/LayoutBuilder.h"
 
 namespace plotsmith::qt {
@@ -21,15 +21,14 @@ namespace {
 
 constexpr Qt::WindowFlags kDialogFlags =
     Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
-constexpr const char* kHelpButton = "cmdHelp";
 
 }  // namespace
 
-FormWindow::FormWindow(forms::Form& form, QWidget* owner, Post post, LastPress& lastPress)
+FormWindow::FormWindow(forms::Form& form, QWidget* owner, Post post, forms::SecondPress& presses)
     : QWidget(owner, kDialogFlags),
       form_(form),
       post_(std::move(post)),
-      lastPress_(lastPress),
+      presses_(presses),
       scroll_(new QScrollArea(this)) {
   setObjectName(TextOf(form.Name()));
   setFont(FontOf(form.Font()));
@@ -167,26 +166,20 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 bool FormWindow::TakeKey(const QWidget& widget, const QKeyEvent& event) {
-  const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-  if (isEnter && qobject_cast<const QPlainTextEdit*>(&widget) != nullptr) return false;
-  if (!isEnter && event.key() != Qt::Key_Escape && event.key() != Qt::Key_F1) return false;
-  if (isEnter) {
-    post_([this] { form_.UserEnter(); });
-  } else if (event.key() == Qt::Key_Escape) {
-    post_([this] { form_.UserEscape(); });
-  } else if (auto* help = dynamic_cast<forms::CommandButton*>(form_.FindControl(kHelpButton))) {
-    post_([help] { help->UserPressByKey(); });
-  }
+  const forms::Key key = KeyPressOf(event).key;
+  const bool isInLines = qobject_cast<const QPlainTextEdit*>(&widget) != nullptr;
+  if (key == forms::Key::kOther || (key == forms::Key::kEnter && isInLines)) return false;
+  post_([this, key] { forms::UserKey(form_, key); });
   return true;
 }
 
 bool FormWindow::IsSecondPress(const QMouseEvent& event) {
-  const LastPress last = std::exchange(lastPress_, {event.timestamp(), event.globalPosition()});
-  if (event.type() == QEvent::MouseButtonDblClick) return true;
-  const auto interval = static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
-  const int reach = QGuiApplication::styleHints()->mouseDoubleClickDistance();
-  return last.time && event.timestamp() - *last.time < interval &&
-         (event.globalPosition() - last.place).manhattanLength() <= reach;
+  const QPoint place = event.globalPosition().toPoint();
+  const bool isSecond =
+      presses_.Note({event.timestamp(), place.x(), place.y()},
+                    {static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval()),
+                     QGuiApplication::styleHints()->mouseDoubleClickDistance()});
+  return isSecond || event.type() == QEvent::MouseButtonDblClick;
 }
 
 }  // namespace plotsmith::qt

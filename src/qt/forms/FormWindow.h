@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QtCore/QPointF>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QWidget>
 #include <memory>
-#include <optional>
 #include <vector>
 
 #include "forms/Form.h"
+#include "forms/SecondPress.h"
 #include "qt/forms/ControlView.h"
 
 class QMouseEvent;
@@ -15,19 +14,12 @@ class QKeyEvent;
 
 namespace plotsmith::qt {
 
-/// The last press of the mouse on a button of any window. The second half of a double click on a button that
-/// opens the next page must not press the button of that page which happens to lie below the pointer.
-struct LastPress {
-  std::optional<quint64> time;  ///< milliseconds, by the events' own clock; absent: there was none
-  QPointF place;                ///< on the screen
-};
-
 /// The window of a form.
 class FormWindow final : public QWidget {
  public:
-  /// `owner` is the window that this one stays in front of; null if there is none. `lastPress` is shared by
+  /// `owner` is the window that this one stays in front of; null if there is none. `presses` is shared by
   /// all windows, and outlives them.
-  FormWindow(forms::Form& form, QWidget* owner, Post post, LastPress& lastPress);
+  FormWindow(forms::Form& form, QWidget* owner, Post post, forms::SecondPress& presses);
   ~FormWindow() override;
 
   forms::Form& Model() const { return form_; }
@@ -56,7 +48,7 @@ class FormWindow final : public QWidget {
 
   forms::Form& form_;
   Post post_;
-  LastPress& lastPress_;
+  forms::SecondPress& presses_;
   QScrollArea* scroll_;
   std::vector<std::unique_ptr<ControlView>> views_;
   bool movesFocus_ = false;  ///< the focus moves because the model says so

@@ -5,23 +5,24 @@
 #include <QtWidgets/QPlainTextEdit>
 
 namespace plotsmith::qt {
-namespace {
 
-bool PressesButtons(const QObject* object, const QKeyEvent& event) {
-  if (event.modifiers().testFlag(Qt::AltModifier)) return true;
-  if (event.key() == Qt::Key_Escape) return true;
-  const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-  return isEnter && qobject_cast<const QPlainTextEdit*>(object) == nullptr;
+forms::KeyPress KeyPressOf(const QKeyEvent& event) {
+  forms::KeyPress press;
+  if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) press.key = forms::Key::kEnter;
+  if (event.key() == Qt::Key_Escape) press.key = forms::Key::kEscape;
+  if (event.key() == Qt::Key_F1) press.key = forms::Key::kHelp;
+  press.withAlt = event.modifiers().testFlag(Qt::AltModifier);
+  press.isRepeated = event.isAutoRepeat();
+  return press;
 }
-
-}  // namespace
 
 HeldKeys::HeldKeys() { QCoreApplication::instance()->installEventFilter(this); }
 
 bool HeldKeys::eventFilter(QObject* object, QEvent* event) {
   if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride) return false;
   auto& key = static_cast<QKeyEvent&>(*event);
-  if (!key.isAutoRepeat() || !PressesButtons(object, key)) return false;
+  const bool isInLines = qobject_cast<QPlainTextEdit*>(object) != nullptr;
+  if (!forms::IsHeldKey(KeyPressOf(key), isInLines)) return false;
   key.accept();  // a shortcut that was overridden comes back as a press, which ends here too
   return true;
 }

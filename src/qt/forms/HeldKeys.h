@@ -2,11 +2,17 @@
 
 #include <QtCore/QObject>
 
+#include "forms/Keys.h"
+
+class QKeyEvent;
+
 namespace plotsmith::qt {
 
-/// Lets a key that is held down count once, where it would press one button after the other: Enter and Escape
-/// outside of a text of several lines, and all keys together with Alt. It works on all windows of the program
-/// for as long as it lives.
+/// The press that an event tells of.
+forms::KeyPress KeyPressOf(const QKeyEvent& event);
+
+/// Lets a key that is held down count once, where it would press one button after the other. It works on all
+/// windows of the program for as long as it lives.
 class HeldKeys final : public QObject {
  public:
   HeldKeys();

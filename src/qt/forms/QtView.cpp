@@ -12,7 +12,7 @@ void QtView::Open(forms::Form& form) {
   const Post post = [this, &form](std::function<void()> gesture) {
     pending_.push_back({&form, std::move(gesture)});
   };
-  windows_.push_back(std::make_unique<FormWindow>(form, owner_, post, lastPress_));
+  windows_.push_back(std::make_unique<FormWindow>(form, owner_, post, presses_));
   windows_.back()->show();
   windows_.back()->activateWindow();
   ShowChanges();  // after the new window has come, so that the screen is never without one

@@ -44,7 +44,7 @@ class QtView final : public forms::View {
 
   QWidget* owner_ = nullptr;
   HeldKeys heldKeys_;
-  LastPress lastPress_;
+  forms::SecondPress presses_;
   std::vector<std::unique_ptr<FormWindow>> windows_;
   std::vector<Gesture> pending_;
   bool closesAll_ = false;

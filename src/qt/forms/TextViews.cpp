@@ -5,21 +5,17 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPlainTextEdit>
 #include <algorithm>
+#include <string>
+#include <string_view>
 
 namespace plotsmith::qt {
 namespace {
 
-/// What can't be typed becomes a blank: control characters other than those allowed, and half of a character
-/// of two UTF-16 units, which is left where there was no room for the whole.
-void ReplaceUntypeable(QString& text, const QString& allowed) {
-  for (qsizetype i = 0; i < text.size(); ++i) {
-    const bool isPair = text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
-    if (isPair) {
-      ++i;
-    } else if (text[i].isSurrogate() || (text[i] < QLatin1Char(' ') && !allowed.contains(text[i]))) {
-      text[i] = QLatin1Char(' ');
-    }
-  }
+/// What can't be typed becomes a blank.
+void ReplaceUntypeable(QString& text, std::u16string_view allowed) {
+  std::u16string units = text.toStdU16String();
+  forms::ReplaceUntypeable(units, allowed);
+  text = QString::fromStdU16String(units);
 }
 
 /// The text with a line end for each kind of line end that the box has. QPlainTextEdit::toPlainText would
@@ -70,7 +66,7 @@ class LinesView final : public ControlView {
       const QSignalBlocker blocker(edit_);
       CutOff();
       QString text = LinesIn(*edit_);
-      ReplaceUntypeable(text, QStringLiteral("\n\t"));
+      ReplaceUntypeable(text, u"\n\t");
       Report([this, text] { model_.UserType(TextOf(text)); });
     });
     Dress();
@@ -124,7 +120,7 @@ std::unique_ptr<ControlView> MakeTextBoxView(forms::TextBox& model, QWidget* par
 
 QString OneLine(QString text) {
   text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-  ReplaceUntypeable(text, {});
+  ReplaceUntypeable(text, u"");
   return text;
 }
 

@@ -22,7 +22,10 @@ class WindowsDesktop final : public desktop::Desktop {
   std::int32_t UserDefaultLCID() override;
 
   /// The handle of the host's window, which owns boxes while no page is shown; 0 for none.
+  ///@{
+  std::intptr_t HostWindow() const { return hostWindow_; }
   void SetHostWindow(std::intptr_t window) { hostWindow_ = window; }
+  ///@}
 
  private:
   /// The handle of the window that a box goes in front of; 0 for none.

@@ -64,7 +64,8 @@ void CheckThatItCanRun() {
 void Start() {
   if (theDesktop) return;
   auto started = runtime::MakeRef<WindowsDesktop>();
-  StartSystem(started, std::make_shared<FormsView>());
+  StartSystem(started,
+              std::make_shared<FormsView>([] { return reinterpret_cast<HWND>(theDesktop->HostWindow()); }));
   theDesktop = started;
 }
 

@@ -1,32 +1,110 @@
 #include "windows/views/FormsView.h"
 
-#include "common/App.h"
-#include "common/PSConstants.h"
-#include "windows/desktop/MessagePump.h"
+#include <algorithm>
+#include <utility>
+
+#include "windows/com/Calls.h"
+#include "windows/views/ThreadDpi.h"
 
 namespace plotsmith::windows {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// How long a thread may sleep, in milliseconds.
+DWORD TimeUntil(const std::optional<Clock::time_point>& deadline) {
+  if (!deadline) return INFINITE;
+  const auto left = std::chrono::ceil<std::chrono::milliseconds>(*deadline - Clock::now()).count();
+  return static_cast<DWORD>(std::max<long long>(left, 0));
+}
+
+}  // namespace
+
+HWND FormsView::Owner() const {
+  const HWND host = hostWindow_();
+  if (IsWindow(host)) return host;
+  const HWND active = GetActiveWindow();
+  return Front() != nullptr && active == Front()->Handle() ? nullptr : active;
+}
 
 void FormsView::Open(forms::Form& form) {
-  if (open_++ == 0) disabledWindows_ = std::make_unique<DisabledWindows>();
-  forms_.Open(form);
+  const ThreadDpi dpi;
+  if (windows_.empty()) heldKeys_.emplace();
+  const Post post = [this, &form](std::function<void()> gesture) {
+    pending_.push_back({&form, std::move(gesture)});
+  };
+  windows_.push_back(std::make_unique<FormWindow>(form, Owner(), post, presses_));
+  windows_.back()->ShowOnScreen();
+  ShowChanges();  // after the new window has come, so that the screen is never without one
 }
 
 void FormsView::Close(forms::Form& form) {
-  forms_.Close(form);
-  if (--open_ == 0) disabledWindows_.reset();
+  const ThreadDpi dpi;
+  std::erase_if(pending_, [&](const Gesture& gesture) { return gesture.form == &form; });
+  windows_.pop_back();
+  if (Front() != nullptr) {
+    Front()->ComeBack();
+    return;
+  }
+  heldKeys_.reset();
+  if (const auto code = std::exchange(quitCode_, std::nullopt)) PostQuitMessage(*code);
 }
 
+void FormsView::ShowChanges() {
+  for (const auto& window : windows_) window->Update();
+}
+
+void FormsView::PostTo(forms::EventQueue& queue) {
+  for (Gesture& gesture : std::exchange(pending_, {})) queue.Post(*gesture.form, std::move(gesture.gesture));
+}
+
+bool FormsView::HandleMessage(UINT kinds) {
+  MSG message;
+  if (!PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE | kinds)) return false;
+  if (message.message == WM_QUIT) {
+    quitCode_ = static_cast<int>(message.wParam);
+    return true;
+  }
+  FormWindow* const front = Front();
+  if (front != nullptr && front->TakeMessage(message)) return true;
+  TranslateMessage(&message);
+  DispatchMessageW(&message);
+  return true;
+}
+
+bool FormsView::IsFrontGone() const { return quitCode_.has_value() || Front()->Handle() == nullptr; }
+
+// The model gets one gesture at a time where messages bring several, so that each finds the form as the one
+// before it has left it.
 void FormsView::Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) {
-  App.Desktop->MsgBox(
-      "The pages of the wizard aren't part of this version of Plotsmith for Excel; it refreshes "
-      "charts that are in the workbook.",
-      desktop::Buttons::kOk, desktop::Icon::kNone, kProductTitle);
-  forms_.Wait(queue, atMost);
+  const ThreadDpi dpi;
+  ShowChanges();
+  std::optional<Clock::time_point> deadline;
+  if (atMost) deadline = Clock::now() + *atMost;
+  while (pending_.empty() && !IsFrontGone()) {
+    if (HandleMessage()) continue;
+    const DWORD time = TimeUntil(deadline);
+    if (time == 0) break;
+    MsgWaitForMultipleObjectsEx(0, nullptr, time, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+  }
+  com::NoteChange();  // the host's own windows had their turn
+  if (IsFrontGone()) {
+    pending_.clear();
+    forms::Form& form = Front()->Model();
+    queue.Post(form, [&form] { form.UserClose(); });
+  }
+  PostTo(queue);
 }
 
+// The system is in the middle of its work. What hands do waits until it is over, so that nothing is looked at
+// or changed half-way; windows are painted, and timers tick.
 void FormsView::HandleEvents(forms::EventQueue& queue) {
-  HandleWaitingMessages();
-  forms_.HandleEvents(queue);
+  const ThreadDpi dpi;
+  ShowChanges();
+  while (!quitCode_ && HandleMessage(PM_QS_PAINT | PM_QS_POSTMESSAGE | PM_QS_SENDMESSAGE)) {
+  }
+  com::NoteChange();
+  PostTo(queue);
 }
 
 }  // namespace plotsmith::windows

@@ -6,6 +6,7 @@
 
 #include "tests/qt/support/Robot.h"
 #include "tests/support/HostTest.h"
+#include "tests/support/WizardWays.h"
 
 namespace plotsmith::test {
 
@@ -40,12 +41,5 @@ std::string BytesOf(const std::string& path);
 inline constexpr const char* kNewChart =
     "page frmPSSelectTable; select grdTables Data1; choose optType(1); press cmdNext; page frmPSLayoutABC; "
     "type txtTitle Sums; press cmdNext; page frmPSChartLocation; ";
-
-/// The lines that lead to a page of the workbook with a chart.
-struct Way {
-  std::string page, lines;
-};
-extern const std::string kToTable;
-extern const std::vector<Way> kWays;
 
 }  // namespace plotsmith::test

@@ -2,14 +2,17 @@
 
 #include <atomic>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "runtime/Variant.h"
 #include "tests/windows/boxes/Calls.h"
 #include "tests/windows/boxes/MessageBoxes.h"
+#include "tests/windows/boxes/ScriptedHands.h"
 #include "windows/com/Failures.h"
 #include "windows/com/Texts.h"
 #include "windows/com/Values.h"
@@ -92,6 +95,7 @@ class Boxes final : public IDispatch {
 
   std::atomic<ULONG> references_ = 1;
   MessageBoxes boxes_;
+  std::unique_ptr<ScriptedHands> hands_;
   HWND window_ = nullptr;
   com::ComPtr<IDispatch> controller_;
 };
@@ -107,6 +111,24 @@ const Boxes::Member Boxes::kMembers[] = {
     {"Take",
      [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
        return com::ToVariant(Variant(boxes.boxes_.Take()));
+     }},
+    // PlayScript(script): dialogs and boxes are used by a script of the wizard from now on; see
+    // ScriptedHands.
+    {"PlayScript",
+     [](Boxes& boxes, const DISPPARAMS& sent) -> OwnedVariant {
+       boxes.hands_ = std::make_unique<ScriptedHands>(Text(sent, 0));
+       boxes.boxes_.AnswerBy([&boxes](const std::string& text, bool isQuestion) {
+         return boxes.hands_->AnswerBox(text, isQuestion);
+       });
+       return {};
+     }},
+    // FinishScript(): what was wrong, behind it a line feed and what the script has shown.
+    {"FinishScript",
+     [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
+       boxes.boxes_.AnswerBy({});
+       const auto hands = std::exchange(boxes.hands_, nullptr);
+       const std::string failure = hands->Finish();
+       return com::ToVariant(Variant(failure + "\n" + hands->Shown()));
      }},
     // LateBound(controller, call, application) and EarlyBound: see Calls.h.
     {"LateBound",

@@ -17,6 +17,7 @@ thread_local HWND answerer = nullptr;
 thread_local HWND shownBox = nullptr;
 thread_local int nextAnswer = IDOK;
 thread_local std::string taken;
+thread_local std::function<int(const std::string& text, bool isQuestion)> answerBy;
 
 std::string TextOf(HWND window) {
   std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
@@ -49,9 +50,14 @@ BOOL CALLBACK Look(HWND child, LPARAM content) {
   return TRUE;
 }
 
-void Remember(HWND window) {
+Content ContentOf(HWND window) {
   Content content;
   EnumChildWindows(window, Look, reinterpret_cast<LPARAM>(&content));
+  return content;
+}
+
+void Remember(HWND window) {
+  const Content content = ContentOf(window);
   const HWND owner = GetWindow(window, GW_OWNER);
   const std::string text = runtime::Replace(runtime::Replace(content.text, "\r", "\\r"), "\n", "\\n");
   taken += (taken.empty() ? "" : "\n") + TextOf(window) + " [" + (content.hasIcon ? "critical " : "") +
@@ -61,7 +67,12 @@ void Remember(HWND window) {
 /// A box has its texts only when it handles messages, so it is answered by one.
 LRESULT CALLBACK Answer(HWND window, UINT message, WPARAM box, LPARAM data) {
   if (message != kAnswer) return DefWindowProcW(window, message, box, data);
-  Remember(reinterpret_cast<HWND>(box));
+  if (answerBy) {
+    const Content content = ContentOf(reinterpret_cast<HWND>(box));
+    nextAnswer = answerBy(content.text, content.buttons.find("Cancel") != content.buttons.npos);
+  } else {
+    Remember(reinterpret_cast<HWND>(box));
+  }
   PostMessageW(reinterpret_cast<HWND>(box), WM_COMMAND, static_cast<WPARAM>(std::exchange(nextAnswer, IDOK)),
                0);
   return 0;
@@ -91,6 +102,10 @@ MessageBoxes::~MessageBoxes() {
 }
 
 void MessageBoxes::AnswerNext(int button) { nextAnswer = button; }
+
+void MessageBoxes::AnswerBy(std::function<int(const std::string& text, bool isQuestion)> answer) {
+  answerBy = std::move(answer);
+}
 
 std::string MessageBoxes::Take() { return std::exchange(taken, {}); }
 

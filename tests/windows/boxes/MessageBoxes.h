@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace plotsmith::test {
@@ -14,6 +15,9 @@ class MessageBoxes {
 
   /// What the next box is answered with, IDOK or IDCANCEL; boxes behind it are answered with OK again.
   void AnswerNext(int button);
+  /// From now on `answer` says with which button each box is answered; boxes aren't remembered then. An empty
+  /// function takes that back.
+  void AnswerBy(std::function<int(const std::string& text, bool isQuestion)> answer);
   /// What the boxes since the last call showed: "title [buttons]: text", with "critical" before the buttons
   /// of such a box, and a line end as "\r\n". Boxes are separated by a line feed.
   std::string Take();

@@ -1,0 +1,34 @@
+#!/bin/sh
+# Takes the pictures of the dialogs inside of Excel anew, under Wine, at 100 and at 200 %.
+# Usage: scripts/excel-shots.sh [FOLDER]; FOLDER is docs/images/excel unless it is given. The target plotsmith_view_tests
+# of build-windows-x64 must have been built.
+set -eu
+cd "$(dirname "$0")/.."
+folder=${1:-docs/images/excel}
+work=$(mktemp -d)
+scripts/install-dependencies.sh wine wine64 xvfb imagemagick
+
+# A prefix of our own, whose windows don't wait for a window manager, and a screen that has room for all pages.
+export WINEPREFIX="$work/wine" WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml= LC_ALL=C.UTF-8
+Xvfb -displayfd 3 -screen 0 2200x1600x24 >/dev/null 2>&1 3>"$work/display" &
+screen=$!
+trap 'wineserver -k; kill "$screen"; rm -rf "$work"' EXIT
+while [ ! -s "$work/display" ]; do sleep 0.1; done
+DISPLAY=:$(cat "$work/display")
+export DISPLAY
+wineboot --init >/dev/null 2>&1
+wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
+
+mkdir -p "$folder"
+for scale in 1 2; do
+  suffix=
+  [ "$scale" = 1 ] || suffix=@2x
+  wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d $((96 * scale)) /f >/dev/null 2>&1
+  wineserver -w
+  PLOTSMITH_SHOTS=$(winepath -w "$work" 2>/dev/null) wine build-windows-x64/plotsmith_view_tests.exe \
+    --gtest_filter='ShotsTest.*' >"$work/tests.txt" 2>/dev/null || { cat "$work/tests.txt" >&2; exit 1; }
+  for shot in "$work"/*.bmp; do
+    convert "$shot" -alpha off -colors 256 -define png:compression-level=9 "$folder/$(basename "$shot" .bmp)$suffix.png"
+    rm "$shot"
+  done
+done

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "forms/Buttons.h"
+#include "forms/SecondPress.h"
+#include "windows/views/ControlView.h"
+
+namespace plotsmith::windows {
+
+/// A button. The one that Enter presses is drawn as the default one.
+class CommandButtonView final : public ControlView {
+ public:
+  /// `presses` is shared by all windows, and outlives them.
+  CommandButtonView(forms::CommandButton& model, const Stage& stage, forms::SecondPress& presses);
+
+  forms::Size LeastSize() const override;
+  void OnCommand(WORD code) override;
+
+ protected:
+  void Show() override;
+  std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  bool IsSecondPress(LPARAM place) const;
+
+  forms::CommandButton& model_;
+  forms::SecondPress& presses_;
+};
+
+/// What a check box and an option have in common: a mark and a text beside it.
+class MarkView : public ControlView {
+ public:
+  forms::Size LeastSize() const override;
+  void OnCommand(WORD code) override;
+
+ protected:
+  MarkView(forms::CaptionControl& model, const Stage& stage, DWORD style);
+  void ShowMark(bool isMarked);
+  virtual void ReportClick() = 0;
+
+ private:
+  forms::CaptionControl& model_;
+};
+
+class CheckBoxView final : public MarkView {
+ public:
+  CheckBoxView(forms::CheckBox& model, const Stage& stage);
+
+ protected:
+  void Show() override { ShowMark(model_.Value() == forms::CheckBox::kChecked); }
+  void ReportClick() override;
+
+ private:
+  forms::CheckBox& model_;
+};
+
+/// An option. The arrow keys go from one option of a container to the next.
+class OptionButtonView final : public MarkView {
+ public:
+  OptionButtonView(forms::OptionButton& model, const Stage& stage);
+
+ protected:
+  void Show() override;
+  void ReportClick() override;
+  std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  forms::OptionButton& model_;
+};
+
+}  // namespace plotsmith::windows

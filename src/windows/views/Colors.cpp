@@ -1,0 +1,28 @@
+#include "windows/views/Colors.h"
+
+namespace plotsmith::windows {
+namespace {
+
+constexpr forms::Color kSystemColor = 0x80000000;
+
+/// The colour of texts on a background, both by their indices.
+int TextOn(int background) {
+  switch (background) {
+    case COLOR_INFOBK:
+      return COLOR_INFOTEXT;
+    case COLOR_WINDOW:
+      return COLOR_WINDOWTEXT;
+    default:
+      return COLOR_BTNTEXT;
+  }
+}
+
+}  // namespace
+
+Paint PaintOf(forms::Color backColor) {
+  const bool isSystemColor = (backColor & kSystemColor) != 0;
+  const int index = isSystemColor ? static_cast<int>(backColor & ~kSystemColor) : COLOR_WINDOW;
+  return {GetSysColorBrush(index), GetSysColor(index), GetSysColor(TextOn(index))};
+}
+
+}  // namespace plotsmith::windows

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "windows/com/Windows.h"
+
+namespace plotsmith::windows {
+
+/// Writes a name on a window, by which tools that test programs find it: the name of a form, or the full name
+/// of a control ("optType(1)"). It is the window's property "Plotsmith.Name", a global atom. The window must
+/// take it off before it is destroyed.
+///@{
+void SetWindowName(HWND window, const std::string& name);
+void RemoveWindowName(HWND window);
+/// Empty for a window without one.
+std::string WindowName(HWND window);
+///@}
+
+}  // namespace plotsmith::windows

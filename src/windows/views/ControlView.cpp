@@ -1,0 +1,165 @@
+#include "windows/views/ControlView.h"
+
+#include <utility>
+
+#include "windows/com/Texts.h"
+#include "windows/views/ActivationContext.h"
+#include "windows/views/ControlNames.h"
+#include "windows/views/Flag.h"
+
+namespace plotsmith::windows {
+namespace {
+
+constexpr UINT kNews = WM_APP + 1;
+constexpr int kTextBorders = 8;  // at 96 dots in an inch
+constexpr int kLineGap = 2;      // between two lines of a list
+
+}  // namespace
+
+ControlView::ControlView(forms::Control& model, const Stage& stage, const WindowKind& kind)
+    : model_(model), stage_(stage) {
+  window_ = CreateWindowExW(kind.extendedStyle, kind.className, L"", kind.style | WS_CHILD, 0, 0, 0, 0,
+                            stage.window, nullptr, OwnModule(), nullptr);
+  SetWindowName(window_, model.FullName());
+  SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  original_ = reinterpret_cast<WNDPROC>(
+      SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
+}
+
+// The window goes with that of its form, if it hasn't gone already.
+ControlView::~ControlView() {
+  if (window_ == nullptr) return;
+  stage_.annotations.Clear(window_);
+  RemoveWindowName(window_);
+  SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original_));
+  SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+}
+
+ControlView* ControlView::Of(HWND window) {
+  const bool isOurs =
+      window != nullptr && reinterpret_cast<WNDPROC>(GetWindowLongPtrW(window, GWLP_WNDPROC)) == Procedure;
+  return isOurs ? reinterpret_cast<ControlView*>(GetWindowLongPtrW(window, GWLP_USERDATA)) : nullptr;
+}
+
+// No exception may pass through a window procedure. What can be thrown here is that memory has run out; the
+// message is then lost.
+LRESULT CALLBACK ControlView::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto* const view = reinterpret_cast<ControlView*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (view == nullptr) return DefWindowProcW(window, message, wParam, lParam);
+  try {
+    return view->Handle(message, wParam, lParam);
+  } catch (...) {
+    return 0;
+  }
+}
+
+LRESULT ControlView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == kNews) {
+    awaitsNews_ = false;
+    OnNews();
+    return 0;
+  }
+  if (const auto answer = OnMessage(message, wParam, lParam)) return *answer;
+  const WNDPROC original = original_;
+  const HWND window = window_;
+  if (message == WM_SETFOCUS) {
+    ReportFocus();
+    const Flag flag(isTakingFocus_);
+    return CallWindowProcW(original, window, message, wParam, lParam);
+  }
+  if (message == WM_DESTROY) {  // the host has closed
+    RemoveWindowName(window);
+    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
+    window_ = nullptr;
+  }
+  return CallWindowProcW(original, window, message, wParam, lParam);
+}
+
+void ControlView::Report(std::function<void()> gesture) {
+  if (isShowing_) return;
+  ++waiting_;
+  stage_.post([this, gesture = std::move(gesture)] {
+    --waiting_;
+    touched_ = true;
+    gesture();
+  });
+}
+
+void ControlView::ReportFocus() {
+  if (movesFocus_) return;
+  stage_.post([this] { model_.UserFocus(); });
+}
+
+void ControlView::AwaitNews() {
+  if (isShowing_ || std::exchange(awaitsNews_, true)) return;
+  PostMessageW(window_, kNews, 0, 0);
+}
+
+void ControlView::ForgetGestures() {
+  waiting_ = 0;
+  touched_ = true;
+}
+
+void ControlView::TakeFocus() {
+  const Flag flag(movesFocus_);
+  SetFocus(window_);
+}
+
+void ControlView::UseFonts(Fonts& fonts) {
+  fonts_ = &fonts;
+  dpi_ = fonts.Dpi();
+  touched_ = true;
+  Update();
+}
+
+void ControlView::Update() {
+  if (window_ == nullptr) return;
+  if (waiting_ > 0 || awaitsNews_) return;  // the window is ahead of the control
+  if (model_.Changes() == shown_ && !std::exchange(touched_, false)) return;
+  touched_ = false;
+  shown_ = model_.Changes();
+  const Flag flag(isShowing_);
+  const bool isVisible = (GetWindowLongPtrW(window_, GWL_STYLE) & WS_VISIBLE) != 0;
+  if ((IsWindowEnabled(window_) != FALSE) != model_.Enabled()) EnableWindow(window_, model_.Enabled());
+  if (isVisible != model_.Visible()) ShowWindow(window_, model_.Visible() ? SW_SHOWNA : SW_HIDE);
+  ShowFont();
+  Show();
+  Spoken spoken{model_.AccessibleName(), model_.AccessibleDescription(), Role()};
+  if (spoken_ != spoken) stage_.annotations.Set(window_, spoken_.emplace(std::move(spoken)));
+}
+
+void ControlView::ShowFont() {
+  if (fonts_ == nullptr || dynamic_cast<forms::FontControl*>(&model_) == nullptr) return;
+  forms::Font wanted = model_.Font();
+  wanted.Bold = wanted.Bold || IsBold();
+  const HFONT font = fonts_->Find(wanted);
+  if (font == font_) return;
+  font_ = font;
+  Send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+}
+
+std::wstring ControlView::WindowText() const {
+  std::wstring text(static_cast<std::size_t>(Send(WM_GETTEXTLENGTH)), L'\0');
+  text.resize(
+      static_cast<std::size_t>(Send(WM_GETTEXT, text.size() + 1, reinterpret_cast<LPARAM>(text.data()))));
+  return text;
+}
+
+void ControlView::SetText(const std::string& text) {
+  const std::wstring wanted = com::Wide(text);
+  if (WindowText() != wanted) Send(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(wanted.c_str()));
+}
+
+int ControlView::WidthOf(int characters) const {
+  return (characters * CharacterSize(font_).cx) + Scaled(kTextBorders);
+}
+
+int ControlView::HeightOf(int lines) const {
+  return (lines * (CharacterSize(font_).cy + Scaled(kLineGap))) + Scaled(kTextBorders / 2);
+}
+
+void ControlView::Place(const forms::Area& area) {
+  SetWindowPos(window_, nullptr, area.left, area.top, area.width, area.height, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+}  // namespace plotsmith::windows

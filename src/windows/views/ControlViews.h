@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "forms/Form.h"
+#include "forms/SecondPress.h"
+#include "windows/views/ControlView.h"
+
+namespace plotsmith::windows {
+
+/// The view for a control; null for a kind that isn't seen, such as a timer. `presses` outlives it.
+std::unique_ptr<ControlView> MakeControlView(forms::Control& control, const Stage& stage,
+                                             forms::SecondPress& presses);
+
+/// The views of the controls of a form, in tab order, and their measures.
+class ControlViews final : public forms::Measures {
+ public:
+  /// Makes the windows. The fonts must outlive this.
+  ControlViews(forms::Form& form, const Stage& stage, forms::SecondPress& presses);
+
+  /// Null for a control that isn't seen.
+  ControlView* Find(const forms::Control& control) const;
+  auto begin() const { return views_.begin(); }
+  auto end() const { return views_.end(); }
+  void UseFonts(Fonts& fonts);
+
+  forms::Size LeastSize(const forms::Control& control) const override;
+  int WidthOf(const forms::Control& control, int characters) const override;
+  int HeightOf(const forms::Control& control, int lines) const override;
+  forms::Edges EdgesOf(const forms::Control& frame) const override;
+  int Gap() const override;
+
+ private:
+  std::vector<std::unique_ptr<ControlView>> views_;
+  UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
+};
+
+}  // namespace plotsmith::windows

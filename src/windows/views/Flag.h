@@ -1,0 +1,20 @@
+#pragma once
+
+#include <utility>
+
+namespace plotsmith::windows {
+
+/// Makes a variable true for as long as this lives.
+class Flag {
+ public:
+  explicit Flag(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
+  ~Flag() { flag_ = before_; }
+  Flag(const Flag&) = delete;
+  Flag& operator=(const Flag&) = delete;
+
+ private:
+  bool& flag_;
+  bool before_;
+};
+
+}  // namespace plotsmith::windows

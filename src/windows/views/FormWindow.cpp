@@ -1,0 +1,391 @@
+#include "windows/views/FormWindow.h"
+
+#include <algorithm>
+#include <commctrl.h>
+#include <string>
+#include <utility>
+
+#include "forms/Keys.h"
+#include "windows/com/Texts.h"
+#include "windows/views/ActivationContext.h"
+#include "windows/views/Colors.h"
+#include "windows/views/ControlNames.h"
+#include "windows/views/Flag.h"
+#include "windows/views/KeyMessages.h"
+#include "windows/views/PlainViews.h"
+
+namespace plotsmith::windows {
+namespace {
+
+constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME;
+constexpr DWORD kExtendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
+constexpr int kMargin = 11, kLine = 24;  // at 96 dots in an inch
+
+int Width(const RECT& area) { return static_cast<int>(area.right - area.left); }
+int Height(const RECT& area) { return static_cast<int>(area.bottom - area.top); }
+
+RECT WindowArea(HWND window) {
+  RECT area = {};
+  GetWindowRect(window, &area);
+  return area;
+}
+
+/// The area of the screen around a window that other programs leave free.
+RECT WorkArea(HWND window) {
+  MONITORINFO monitor = {};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+  return monitor.rcWork;
+}
+
+/// How far a scroll bar is from its start.
+int ScrollPlace(HWND window, int bar) {
+  SCROLLINFO info = {};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_POS;
+  return GetScrollInfo(window, bar, &info) ? info.nPos : 0;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(forms::Form& form, HWND owner, Post post, forms::SecondPress& presses)
+    : form_(form), post_(std::move(post)) {
+  const ActivationContext context;
+  window_ =
+      CreateWindowExW(kExtendedStyle, ClassName(), com::Wide(form.Caption()).c_str(), kStyle, CW_USEDEFAULT,
+                      CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner, nullptr, OwnModule(), this);
+  SetWindowName(window_, form.Name());
+  views_ = std::make_unique<ControlViews>(form, Stage{window_, post_, annotations_}, presses);
+  UseDpi(GetDpiForWindow(window_));
+  FitScreen(owner);
+  form.hWnd = reinterpret_cast<std::intptr_t>(window_);
+}
+
+// The windows behind can be used again before this one goes, so that Windows makes one of them the active one
+// and not a window of another program.
+FormWindow::~FormWindow() {
+  disabledWindows_.reset();
+  form_.hWnd = 0;
+  views_.reset();
+  if (window_ == nullptr) return;
+  RemoveWindowName(window_);
+  DestroyWindow(std::exchange(window_, nullptr));
+}
+
+const wchar_t* FormWindow::ClassName() {
+  static const ATOM atom = [] {
+    WNDCLASSEXW own = {};
+    own.cbSize = sizeof own;
+    own.lpfnWndProc = Procedure;
+    own.hInstance = OwnModule();
+    own.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    own.lpszClassName = L"PlotsmithForm";
+    return RegisterClassExW(&own);
+  }();
+  return MAKEINTATOM(atom);
+}
+
+void FormWindow::ShowOnScreen() {
+  disabledWindows_.emplace();
+  ShowWindow(window_, SW_SHOW);
+  SetForegroundWindow(window_);
+  UpdateWindow(window_);
+}
+
+void FormWindow::Update() {
+  if (window_ == nullptr) return;
+  const std::wstring caption = com::Wide(form_.Caption());
+  std::wstring shown(caption.size() + 2, L'\0');
+  shown.resize(
+      static_cast<std::size_t>(GetWindowTextW(window_, shown.data(), static_cast<int>(shown.size()))));
+  if (shown != caption) SetWindowTextW(window_, caption.c_str());
+  for (const auto& view : *views_) view->Update();
+  if (!form_.Visible()) {
+    ShowWindow(window_, SW_HIDE);
+  } else if (IsWindowVisible(window_)) {
+    UpdateFocus();
+  }
+}
+
+void FormWindow::ComeBack() {
+  for (const auto& view : *views_) view->ForgetGestures();
+  if (form_.Visible() && window_ != nullptr) SetActiveWindow(window_);
+}
+
+ControlView* FormWindow::FocusView() const {
+  HWND window = GetFocus();
+  while (window != nullptr && GetParent(window) != window_) window = GetAncestor(window, GA_PARENT);
+  return ControlView::Of(window);
+}
+
+void FormWindow::UpdateFocus() {
+  const forms::Control* const active = form_.ActiveControl();
+  ControlView* const view = active == nullptr ? nullptr : views_->Find(*active);
+  if (view == nullptr || view == FocusView()) return;
+  if (GetActiveWindow() != window_) {
+    lastFocus_ = view->Window();
+    return;
+  }
+  view->TakeFocus();
+  ShowFocus(*view);
+}
+
+bool FormWindow::TakeMessage(MSG& message) {
+  if (window_ == nullptr) return false;
+  const bool isOurs = message.hwnd == window_ || IsChild(window_, message.hwnd);
+  if (!isOurs) return false;
+  if (message.message == WM_KEYDOWN && TakeKey(message)) return true;
+  const ControlView* const focus = FocusView();
+  if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN && focus != nullptr &&
+      forms::TakesEnter(&focus->Model())) {
+    return false;  // the text takes it for a new line
+  }
+  return IsDialogMessageW(window_, &message) != FALSE;
+}
+
+// A list that is open takes Enter and Escape for itself.
+bool FormWindow::TakeKey(const MSG& message) {
+  const forms::KeyPress press = KeyPressOf(message);
+  const ControlView* const focus = FocusView();
+  const bool isInLines = focus != nullptr && forms::TakesEnter(&focus->Model());
+  if (press.key == forms::Key::kOther || (press.key == forms::Key::kEnter && isInLines)) return false;
+  if (focus != nullptr && SendMessageW(focus->Window(), CB_GETDROPPEDSTATE, 0, 0) == TRUE) return false;
+  if (!forms::IsHeldKey(press, isInLines)) post_([this, key = press.key] { forms::UserKey(form_, key); });
+  return true;
+}
+
+// No exception may pass through a window procedure. What can be thrown here is that memory has run out; the
+// message is then lost.
+LRESULT CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NCCREATE) {
+    const auto* const creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creation->lpCreateParams));
+  }
+  auto* const form = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (form == nullptr || form->window_ != window) return DefWindowProcW(window, message, wParam, lParam);
+  try {
+    return form->Handle(message, wParam, lParam);
+  } catch (...) {
+    return 0;
+  }
+}
+
+LRESULT FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (const auto answer = HandleControl(message, wParam, lParam)) return *answer;
+  if (const auto answer = HandlePlace(message, wParam, lParam)) return *answer;
+  switch (message) {
+    case WM_CLOSE:
+      post_([this] { form_.UserClose(); });  // the form decides, and its window goes when the form goes
+      return 0;
+    case WM_DESTROY:  // the host has closed
+      RemoveWindowName(window_);
+      form_.hWnd = 0;
+      window_ = nullptr;
+      disabledWindows_.reset();
+      return 0;
+    case WM_ACTIVATE:
+      if (LOWORD(wParam) == WA_INACTIVE) {
+        if (FocusView() != nullptr) lastFocus_ = GetFocus();
+      } else if (ControlView* const view = ControlView::Of(lastFocus_)) {
+        view->TakeFocus();
+      } else {
+        SetFocus(IsWindow(lastFocus_) ? lastFocus_ : window_);
+      }
+      return 0;
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+      for (const auto& view : *views_) SendMessageW(view->Window(), message, wParam, lParam);
+      RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+      return 0;
+    default:
+      return DefWindowProcW(window_, message, wParam, lParam);
+  }
+}
+
+/// Messages about controls.
+std::optional<LRESULT> FormWindow::HandleControl(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_COMMAND:
+      if (ControlView* const view = ControlView::Of(reinterpret_cast<HWND>(lParam)))
+        view->OnCommand(HIWORD(wParam));
+      return 0;
+    case WM_NOTIFY: {
+      auto& header = *reinterpret_cast<NMHDR*>(lParam);
+      ControlView* const view = ControlView::Of(header.hwndFrom);
+      return view == nullptr ? std::nullopt : view->OnNotify(header);
+    }
+    case WM_DRAWITEM: {
+      const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+      if (ControlView* const view = ControlView::Of(item.hwndItem)) view->OnDraw(item);
+      return TRUE;
+    }
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORLISTBOX:
+      return ColorOf(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
+    case WM_ERASEBKGND:
+      Erase(reinterpret_cast<HDC>(wParam));
+      return TRUE;
+    case WM_PRINTCLIENT:  // a themed control asks for what is behind it
+      Erase(reinterpret_cast<HDC>(wParam));
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+/// Messages about sizes and places.
+std::optional<LRESULT> FormWindow::HandlePlace(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_SIZE:
+      if (fonts_ != nullptr && !isArranging_) Arrange();
+      return 0;
+    case WM_DPICHANGED: {
+      const RECT& area = *reinterpret_cast<const RECT*>(lParam);
+      UseDpi(LOWORD(wParam));
+      SetWindowPos(window_, nullptr, area.left, area.top, Width(area), Height(area),
+                   SWP_NOZORDER | SWP_NOACTIVATE);
+      Arrange();
+      return 0;
+    }
+    case WM_VSCROLL:
+    case WM_HSCROLL:
+      ScrollTo(message == WM_VSCROLL ? SB_VERT : SB_HORZ, LOWORD(wParam));
+      return 0;
+    case WM_MOUSEWHEEL:
+      Scroll(SB_VERT, -MulDiv(GET_WHEEL_DELTA_WPARAM(wParam), 3 * kLine, WHEEL_DELTA));
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+void FormWindow::UseDpi(UINT dpi) {
+  auto fonts = std::make_unique<Fonts>(dpi);
+  views_->UseFonts(*fonts);
+  fonts_ = std::move(fonts);
+  const int margins = 2 * MulDiv(kMargin, static_cast<int>(dpi), USER_DEFAULT_SCREEN_DPI);
+  const forms::Size inside = forms::LeastSize(form_.Layout(), *views_);
+  least_ = {inside.width + margins, inside.height + margins};
+}
+
+void FormWindow::FitScreen(HWND owner) {
+  RECT outside = {0, 0, least_.width, least_.height};
+  AdjustWindowRectExForDpi(&outside, kStyle & ~static_cast<DWORD>(WS_VSCROLL | WS_HSCROLL), FALSE,
+                           kExtendedStyle, fonts_->Dpi());
+  const RECT work = WorkArea(owner == nullptr ? window_ : owner);
+  const RECT middle =
+      owner == nullptr || !IsWindowVisible(owner) || IsIconic(owner) ? work : WindowArea(owner);
+  const int width = std::min(Width(outside), Width(work)), height = std::min(Height(outside), Height(work));
+  const int left = static_cast<int>(middle.left) + (Width(middle) - width) / 2;
+  const int top = static_cast<int>(middle.top) + (Height(middle) - height) / 2;
+  SetWindowPos(window_, nullptr, std::clamp<int>(left, work.left, work.right - width),
+               std::clamp<int>(top, work.top, work.bottom - height), width, height,
+               SWP_NOZORDER | SWP_NOACTIVATE);
+  Arrange();
+}
+
+// A bar takes some of the room, so that the other one may be needed as well.
+void FormWindow::Arrange() {
+  const Flag flag(isArranging_);
+  const int dpi = static_cast<int>(fonts_->Dpi());
+  const int barWidth = GetSystemMetricsForDpi(SM_CXVSCROLL, fonts_->Dpi());
+  const int barHeight = GetSystemMetricsForDpi(SM_CYHSCROLL, fonts_->Dpi());
+  const LONG_PTR style = GetWindowLongPtrW(window_, GWL_STYLE);
+  RECT client = {};
+  GetClientRect(window_, &client);
+  forms::Size room = {static_cast<int>(client.right) + ((style & WS_VSCROLL) != 0 ? barWidth : 0),
+                      static_cast<int>(client.bottom) + ((style & WS_HSCROLL) != 0 ? barHeight : 0)};
+  const bool isTooWide = room.width < least_.width, isTooHigh = room.height < least_.height;
+  if (isTooHigh || (isTooWide && room.height - barHeight < least_.height)) room.width -= barWidth;
+  if (isTooWide || room.width < least_.width) room.height -= barHeight;
+  SetScrollBar(SB_VERT, least_.height, room.height);
+  SetScrollBar(SB_HORZ, least_.width, room.width);
+  const int margin = MulDiv(kMargin, dpi, USER_DEFAULT_SCREEN_DPI);
+  const forms::Area area = {margin - ScrollPlace(window_, SB_HORZ), margin - ScrollPlace(window_, SB_VERT),
+                            std::max(room.width, least_.width) - 2 * margin,
+                            std::max(room.height, least_.height) - 2 * margin};
+  for (const auto& [control, place] : forms::Arrange(form_.Layout(), *views_, area)) {
+    if (ControlView* const view = views_->Find(*control)) view->Place(place);
+  }
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void FormWindow::SetScrollBar(int bar, int needed, int room) {
+  SCROLLINFO info = {};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_RANGE | SIF_PAGE;
+  info.nMax = needed - 1;
+  info.nPage = static_cast<UINT>(room);
+  SetScrollInfo(window_, bar, &info, TRUE);
+}
+
+void FormWindow::Scroll(int bar, int by) {
+  const int before = ScrollPlace(window_, bar);
+  SCROLLINFO info = {};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_POS;
+  info.nPos = before + by;
+  SetScrollInfo(window_, bar, &info, TRUE);
+  if (ScrollPlace(window_, bar) != before) Arrange();
+}
+
+void FormWindow::ScrollTo(int bar, WORD request) {
+  SCROLLINFO info = {};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_ALL;
+  GetScrollInfo(window_, bar, &info);
+  const auto page = static_cast<int>(info.nPage);
+  switch (request) {
+    case SB_LINEUP:
+      return Scroll(bar, -kLine);
+    case SB_LINEDOWN:
+      return Scroll(bar, kLine);
+    case SB_PAGEUP:
+      return Scroll(bar, -page);
+    case SB_PAGEDOWN:
+      return Scroll(bar, page);
+    case SB_THUMBPOSITION:
+    case SB_THUMBTRACK:
+      return Scroll(bar, info.nTrackPos - info.nPos);
+    default:
+      return;
+  }
+}
+
+void FormWindow::ShowFocus(const ControlView& view) {
+  RECT area = WindowArea(view.Window()), room = {};
+  MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&area), 2);
+  GetClientRect(window_, &room);
+  if (area.bottom > room.bottom) Scroll(SB_VERT, static_cast<int>(area.bottom - room.bottom));
+  if (area.top < 0) Scroll(SB_VERT, static_cast<int>(area.top));
+  if (area.right > room.right) Scroll(SB_HORZ, static_cast<int>(area.right - room.right));
+  if (area.left < 0) Scroll(SB_HORZ, static_cast<int>(area.left));
+}
+
+// What is inside of a marked frame has the frame's colour, as far as it has none of its own.
+void FormWindow::Erase(HDC context) const {
+  RECT area = {};
+  GetClientRect(window_, &area);
+  FillRect(context, &area, PaintOf(forms::kButtonFace).background);
+  for (const auto& view : *views_) {
+    const auto* const frame = dynamic_cast<const FrameView*>(view.get());
+    if (frame == nullptr || frame->Model().BackColor() == forms::kButtonFace) continue;
+    area = frame->InnerArea();
+    FillRect(context, &area, PaintOf(frame->Model().BackColor()).background);
+  }
+}
+
+// The parts of a combo box have its colour. An open list is no child of it, and keeps the system's.
+LRESULT FormWindow::ColorOf(HDC context, HWND control) const {
+  const ControlView* view = ControlView::Of(control);
+  if (view == nullptr) view = ControlView::Of(GetAncestor(control, GA_PARENT));
+  const Paint paint = PaintOf(view == nullptr ? forms::kWhite : view->Model().BackColor());
+  const bool isOff = view != nullptr && !view->Model().Enabled();
+  SetBkColor(context, paint.backColor);
+  SetTextColor(context, isOff ? GetSysColor(COLOR_GRAYTEXT) : paint.textColor);
+  return reinterpret_cast<LRESULT>(paint.background);
+}
+
+}  // namespace plotsmith::windows

@@ -1,0 +1,234 @@
+#include "windows/views/ListViews.h"
+
+#include <algorithm>
+#include <commctrl.h>
+#include <utility>
+
+#include "windows/com/Texts.h"
+#include "windows/views/EditTexts.h"
+
+namespace plotsmith::windows {
+namespace {
+
+constexpr int kLeastCharacters = 12, kOpenLines = 8;
+constexpr int kArrow = 24;  // of a combo box, at 96 dots in an inch
+constexpr const wchar_t* kEditOriginal = L"Plotsmith.EditProcedure";
+
+/// The messages of a kind of list that tell its entries.
+struct EntryMessages {
+  UINT count, textLength, text, add, clear;
+};
+constexpr EntryMessages kOfCombo = {CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT, CB_ADDSTRING,
+                                    CB_RESETCONTENT};
+constexpr EntryMessages kOfList = {LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT, LB_ADDSTRING, LB_RESETCONTENT};
+
+std::vector<std::wstring> EntriesOf(const forms::EntryList& list) {
+  std::vector<std::wstring> entries;
+  for (std::int32_t i = 0; i < list.ListCount(); ++i) entries.push_back(com::Wide(list.List(i)));
+  return entries;
+}
+
+std::vector<std::wstring> EntriesOf(HWND list, const EntryMessages& messages) {
+  std::vector<std::wstring> entries;
+  const LRESULT count = SendMessageW(list, messages.count, 0, 0);
+  for (WPARAM i = 0; i < static_cast<WPARAM>(count); ++i) {
+    std::wstring text(static_cast<std::size_t>(SendMessageW(list, messages.textLength, i, 0)), L'\0');
+    SendMessageW(list, messages.text, i, reinterpret_cast<LPARAM>(text.data()));
+    entries.push_back(std::move(text));
+  }
+  return entries;
+}
+
+/// Shows the entries of the model; false if they were there already.
+bool ShowEntriesIn(HWND list, const forms::EntryList& model, const EntryMessages& messages) {
+  const std::vector<std::wstring> entries = EntriesOf(model);
+  if (EntriesOf(list, messages) == entries) return false;
+  SendMessageW(list, messages.clear, 0, 0);
+  for (const std::wstring& entry : entries) {
+    SendMessageW(list, messages.add, 0, reinterpret_cast<LPARAM>(entry.c_str()));
+  }
+  return true;
+}
+
+}  // namespace
+
+bool IsCursorKey(WPARAM key) {
+  return key == VK_DOWN || key == VK_UP || key == VK_NEXT || key == VK_PRIOR || key == VK_HOME;
+}
+
+ComboBoxView::ComboBoxView(forms::ComboBox& model, const Stage& stage)
+    : ControlView(model, stage,
+                  {WC_COMBOBOXW, WS_TABSTOP | WS_VSCROLL | CBS_AUTOHSCROLL |
+                                     (model.Style() == forms::ComboStyle::kDropDownList
+                                          ? static_cast<DWORD>(CBS_DROPDOWNLIST)
+                                          : static_cast<DWORD>(CBS_DROPDOWN))}),
+      model_(model) {
+  if (model.Style() == forms::ComboStyle::kDropDownList) return;
+  COMBOBOXINFO info = {};
+  info.cbSize = sizeof info;
+  if (!GetComboBoxInfo(Window(), &info) || info.hwndItem == nullptr) return;
+  edit_ = info.hwndItem;
+  const LONG_PTR original = SetWindowLongPtrW(edit_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(EditProcedure));
+  SetPropW(edit_, kEditOriginal, reinterpret_cast<HANDLE>(original));
+}
+
+ComboBoxView::~ComboBoxView() {
+  if (edit_ == nullptr || !IsWindow(edit_)) return;
+  SetWindowLongPtrW(edit_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(RemovePropW(edit_, kEditOriginal)));
+}
+
+// The box inside of a combo box is no control of the form, but a text is pasted into it as into any other.
+LRESULT CALLBACK ComboBoxView::EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  const auto original = reinterpret_cast<WNDPROC>(GetPropW(window, kEditOriginal));
+  if (original == nullptr) return DefWindowProcW(window, message, wParam, lParam);
+  try {
+    if (HandleEditMessage(window, Lines::kOne, message, wParam)) return 0;
+  } catch (...) {
+    return 0;  // there is no memory for the text
+  }
+  if (message == WM_DESTROY) {
+    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
+    RemovePropW(window, kEditOriginal);
+  }
+  return CallWindowProcW(original, window, message, wParam, lParam);
+}
+
+forms::Size ComboBoxView::LeastSize() const {
+  RECT area;
+  GetWindowRect(Window(), &area);  // Windows gives a closed combo box its height by the font
+  return {WidthOf(kLeastCharacters), static_cast<int>(area.bottom - area.top)};
+}
+
+void ComboBoxView::Place(const forms::Area& area) {
+  const auto lines = std::clamp(static_cast<int>(model_.ListCount()), 1, kOpenLines);
+  const auto line = static_cast<int>(Send(CB_GETITEMHEIGHT, 0));
+  ControlView::Place({area.left, area.top, area.width, area.height + (lines * line) + Scaled(2)});
+}
+
+void ComboBoxView::OnCommand(WORD code) {
+  switch (code) {
+    case CBN_SETFOCUS:
+      ReportFocus();
+      break;
+    case CBN_EDITCHANGE: {
+      const std::wstring text = Typeable(WindowText(), Lines::kOne);
+      Report([this, text = com::Utf8(text.data(), text.size())] { model_.UserType(text); });
+      break;
+    }
+    case CBN_SELENDCANCEL:
+      isDecided_ = false;
+      Touch();
+      AwaitNews();
+      break;
+    case CBN_SELENDOK:
+    case CBN_CLOSEUP:
+      isDecided_ = isDecided_ || code == CBN_SELENDOK;
+      AwaitNews();
+      break;
+    case CBN_SELCHANGE:
+      isDecided_ = isDecided_ || !IsOpen();
+      AwaitNews();
+      break;
+    default:
+      break;
+  }
+}
+
+void ComboBoxView::OnNews() {
+  if (IsOpen() || !std::exchange(isDecided_, false)) return;
+  const auto entry = static_cast<std::int32_t>(Send(CB_GETCURSEL));
+  if (entry >= 0) Report([this, entry] { model_.UserChoose(entry); });
+}
+
+std::optional<LRESULT> ComboBoxView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  // The wheel that scrolls the page must not change a box that comes below the pointer.
+  if (message != WM_MOUSEWHEEL || GetFocus() == Window() || (edit_ != nullptr && GetFocus() == edit_) ||
+      IsOpen()) {
+    return std::nullopt;
+  }
+  return SendMessageW(GetParent(Window()), message, wParam, lParam);
+}
+
+void ComboBoxView::Show() {
+  if (IsOpen()) return Touch();  // not in the middle of a choice
+  const bool hasNewEntries = ShowEntriesIn(Window(), model_, kOfCombo);
+  if (hasNewEntries || static_cast<std::int32_t>(Send(CB_GETCURSEL)) != model_.ListIndex()) {
+    Send(CB_SETCURSEL, static_cast<WPARAM>(model_.ListIndex()));
+  }
+  if (edit_ != nullptr) SetText(model_.Text());
+}
+
+ListBoxView::ListBoxView(forms::ListBox& model, const Stage& stage)
+    : ControlView(
+          model, stage,
+          {WC_LISTBOXW,
+           WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT |
+               (model.MultiSelect() == forms::MultiSelect::kExtended ? static_cast<DWORD>(LBS_EXTENDEDSEL)
+                                                                     : 0),
+           WS_EX_CLIENTEDGE}),
+      model_(model) {}
+
+forms::Size ListBoxView::LeastSize() const { return {WidthOf(kLeastCharacters), HeightOf(2)}; }
+
+std::vector<std::int32_t> ListBoxView::Selected() const {
+  if (!HasSeveral()) {
+    const auto entry = static_cast<std::int32_t>(Send(LB_GETCURSEL));
+    return entry < 0 ? std::vector<std::int32_t>() : std::vector<std::int32_t>{entry};
+  }
+  std::vector<std::int32_t> entries(static_cast<std::size_t>(std::max<LRESULT>(Send(LB_GETSELCOUNT), 0)));
+  Send(LB_GETSELITEMS, entries.size(), reinterpret_cast<LPARAM>(entries.data()));
+  std::ranges::sort(entries);
+  return entries;
+}
+
+void ListBoxView::OnCommand(WORD code) {
+  if (code == LBN_SELCHANGE) Report([this, entries = Selected()] { model_.UserSelect(entries); });
+}
+
+std::optional<LRESULT> ListBoxView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message != WM_KEYDOWN && message != WM_LBUTTONDOWN) return std::nullopt;
+  const bool hasSelection = !Selected().empty();
+  if (message == WM_KEYDOWN && IsCursorKey(wParam) && !hasSelection && model_.ListCount() > 0) {
+    SelectAlone(0);
+    return 0;
+  }
+  // Windows lets go of the last entry only in lists of which several entries can be selected.
+  const bool isWithControl = message == WM_LBUTTONDOWN && (wParam & MK_CONTROL) != 0;
+  if (isWithControl && !HasSeveral() && hasSelection &&
+      Send(LB_ITEMFROMPOINT, 0, lParam) == Selected().front()) {
+    SelectAlone(-1);
+    return 0;
+  }
+  return std::nullopt;
+}
+
+void ListBoxView::SelectAlone(std::int32_t entry) {
+  if (HasSeveral()) {
+    Send(LB_SETSEL, TRUE, entry);
+  } else {
+    Send(LB_SETCURSEL, static_cast<WPARAM>(entry));
+  }
+  OnCommand(LBN_SELCHANGE);
+}
+
+void ListBoxView::Show() {
+  ShowEntriesIn(Window(), model_, kOfList);
+  ShowSelection();
+}
+
+void ListBoxView::ShowSelection() {
+  std::vector<std::int32_t> selected;
+  for (std::int32_t i = 0; i < model_.ListCount(); ++i) {
+    if (model_.Selected(i)) selected.push_back(i);
+  }
+  if (selected == Selected()) return;
+  if (!HasSeveral()) {
+    Send(LB_SETCURSEL, static_cast<WPARAM>(selected.empty() ? -1 : selected.front()));
+    return;
+  }
+  Send(LB_SETSEL, FALSE, -1);
+  for (const std::int32_t entry : selected) Send(LB_SETSEL, TRUE, entry);
+  if (!selected.empty()) Send(LB_SETCARETINDEX, static_cast<WPARAM>(selected.front()), FALSE);
+}
+
+}  // namespace plotsmith::windows

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <vector>
+
+#include "forms/Lists.h"
+#include "windows/views/ControlView.h"
+
+namespace plotsmith::windows {
+
+/// A list that opens from a box. An entry is reported when it is decided on, not while the open list is
+/// walked through.
+class ComboBoxView final : public ControlView {
+ public:
+  ComboBoxView(forms::ComboBox& model, const Stage& stage);
+  ~ComboBoxView() override;
+
+  forms::Size LeastSize() const override;
+  void Place(const forms::Area& area) override;
+  void OnCommand(WORD code) override;
+
+ protected:
+  void Show() override;
+  std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  void OnNews() override;
+
+ private:
+  static LRESULT CALLBACK EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  bool IsOpen() const { return Send(CB_GETDROPPEDSTATE) != 0; }
+  void ShowEntries();
+
+  forms::ComboBox& model_;
+  HWND edit_ = nullptr;  ///< the box for typing inside of the combo box; null where there is none
+  bool isDecided_ = false;
+};
+
+class ListBoxView final : public ControlView {
+ public:
+  ListBoxView(forms::ListBox& model, const Stage& stage);
+
+  forms::Size LeastSize() const override;
+  void OnCommand(WORD code) override;
+
+ protected:
+  void Show() override;
+  std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  bool HasSeveral() const { return model_.MultiSelect() == forms::MultiSelect::kExtended; }
+  std::vector<std::int32_t> Selected() const;
+  /// Selects the entry for a hand, where nothing else is selected; -1 lets go of the only one.
+  void SelectAlone(std::int32_t entry);
+  void ShowSelection();
+
+  forms::ListBox& model_;
+};
+
+/// Whether the key, in a list in which nothing is selected yet, selects the first row.
+bool IsCursorKey(WPARAM key);
+
+}  // namespace plotsmith::windows

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "pages/pictures/Picture.h"
+#include "windows/com/Windows.h"
+
+namespace plotsmith::windows {
+
+/// Paints a picture as large as the area allows, in its middle, in its own proportions, with smooth edges.
+/// The rest of the area is filled with `background`.
+void PaintPicture(HDC context, const pictures::Picture& picture, const RECT& area, HBRUSH background);
+
+}  // namespace plotsmith::windows

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "forms/Plain.h"
+#include "pages/pictures/Picture.h"
+#include "windows/views/ControlView.h"
+
+namespace plotsmith::windows {
+
+class LabelView final : public ControlView {
+ public:
+  LabelView(forms::Label& model, const Stage& stage);
+  forms::Size LeastSize() const override;
+
+ protected:
+  void Show() override { SetText(model_.Caption()); }
+
+ private:
+  forms::Label& model_;
+};
+
+/// A box with a title. The controls inside are its siblings, as in all dialogs of Windows, so their form
+/// paints the colour that they have in common.
+class FrameView final : public ControlView {
+ public:
+  FrameView(forms::Frame& model, const Stage& stage);
+  forms::Size LeastSize() const override;
+  /// The room between the edges and what is inside.
+  forms::Edges Edges() const;
+  /// The area inside of its line, which runs through the middle of the title, on the form's window.
+  RECT InnerArea() const;
+
+ protected:
+  void Show() override;
+  bool IsBold() const override { return model_.FontBold(); }
+
+ private:
+  forms::Frame& model_;
+  forms::Color shownColor_ = forms::kButtonFace;
+};
+
+/// A sample picture, drawn by the control's name.
+class ImageView final : public ControlView {
+ public:
+  ImageView(forms::Image& model, const Stage& stage);
+  forms::Size LeastSize() const override;
+  void OnDraw(const DRAWITEMSTRUCT& item) override;
+
+ protected:
+  void Show() override {}
+  LONG Role() const override;
+
+ private:
+  forms::Image& model_;
+  pictures::Picture picture_;
+};
+
+class ProgressBarView final : public ControlView {
+ public:
+  ProgressBarView(forms::ProgressBar& model, const Stage& stage);
+  forms::Size LeastSize() const override;
+
+ protected:
+  void Show() override;
+
+ private:
+  forms::ProgressBar& model_;
+};
+
+}  // namespace plotsmith::windows

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "forms/TextBox.h"
+#include "windows/views/ControlView.h"
+#include "windows/views/EditTexts.h"
+
+namespace plotsmith::windows {
+
+/// A box for one line, or for several ones.
+class TextBoxView final : public ControlView {
+ public:
+  TextBoxView(forms::TextBox& model, const Stage& stage);
+  forms::Size LeastSize() const override;
+  void OnCommand(WORD code) override;
+
+ protected:
+  void Show() override;
+  std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  forms::TextBox& model_;
+  Lines lines_;
+};
+
+}  // namespace plotsmith::windows

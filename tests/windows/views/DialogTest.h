@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "tests/support/PagesTest.h"
+#include "tests/support/WizardWays.h"
+#include "tests/windows/views/Dialogs.h"
+
+namespace plotsmith::test {
+
+/// A window of a host, with a timer that ticks and an eye on what reaches it.
+class HostWindow {
+ public:
+  HostWindow();
+  ~HostWindow();
+  HostWindow(const HostWindow&) = delete;
+  HostWindow& operator=(const HostWindow&) = delete;
+
+  HWND Handle() const { return window_; }
+  int Ticks() const { return ticks_; }
+  /// How many messages of a mouse or a keyboard have come.
+  int Inputs() const { return inputs_; }
+  /// Whether a page was still on the screen each time when the window could be used again.
+  bool CameBackInTime() const { return cameBackInTime_; }
+
+ private:
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+  HWND window_;
+  int ticks_ = 0;
+  int inputs_ = 0;
+  bool cameBackInTime_ = true;
+};
+
+/// A test of the dialogs by scripts, in front of a host's window. Scripts have the verb `do` of PageLines.
+class DialogTest : public PagesTest {
+ protected:
+  DialogTest();
+  ~DialogTest() override;
+  /// Opens a copy of the orders with a chart, on which test::kWays lead to each page, and plays a script.
+  std::string PlayOnOrders(const std::string& script, Deeds deeds = {});
+
+  HostWindow hostWindow_;
+
+ private:
+  std::string orders_;
+};
+
+}  // namespace plotsmith::test

@@ -1,0 +1,178 @@
+#include <cmath>
+#include <gtest/gtest.h>
+
+#include "common/App.h"
+#include "common/Intl.h"
+#include "tests/support/SmallForm.h"
+#include "tests/windows/views/DialogTest.h"
+#include "tests/windows/views/WindowState.h"
+#include "windows/com/Texts.h"
+#include "windows/views/ControlView.h"
+#include "windows/views/ThreadDpi.h"
+
+namespace plotsmith {
+namespace {
+
+using S = std::string;
+
+/// A desktop in another country.
+class ForeignDesktop final : public cli::ConsoleDesktop {
+ public:
+  explicit ForeignDesktop(std::int32_t lcid) : lcid_(lcid) {}
+  std::int32_t UserDefaultLCID() override { return lcid_; }
+
+ private:
+  std::int32_t lcid_;
+};
+
+LOGFONTW FontOf(HWND window) {
+  LOGFONTW font = {};
+  const auto handle = reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0));
+  GetObjectW(handle, sizeof font, &font);
+  return font;
+}
+
+S MessageTypeface() {
+  NONCLIENTMETRICSW metrics = {};
+  metrics.cbSize = sizeof metrics;
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+  return com::Utf8(metrics.lfMessageFont.lfFaceName, wcslen(metrics.lfMessageFont.lfFaceName));
+}
+
+class LooksTest : public test::DialogTest {
+ protected:
+  /// Shows the form and looks at the window.
+  static void OnScreen(forms::Form& form, const std::function<void(HWND window)>& look) {
+    const windows::ThreadDpi dpi;
+    windows::FormsView view([] { return test::theHostWindow; });
+    view.Open(form);
+    look(view.Front()->Handle());
+    view.Close(form);
+  }
+};
+
+TEST_F(LooksTest, FontsAreThoseOfTheLocale) {
+  const S own = MessageTypeface();
+  const struct {
+    std::int32_t lcid;
+    BYTE charset;
+    S typeface;
+    double size;  ///< of a font of 6 points
+  } cases[] = {{1033, 1, "Tahoma", 6},
+               {1031, 1, "Tahoma", 6},
+               {1025, 178, own, 8},
+               {1029, 238, own, 8},
+               {1032, 161, own, 8},
+               {1037, 177, own, 8},
+               {1038, 238, own, 8},
+               {1045, 238, own, 8},
+               {1048, 238, own, 8},
+               {1049, 204, own, 8},
+               {1050, 238, own, 8},
+               {1051, 238, own, 8},
+               {1054, 222, own, 8},
+               {1055, 162, own, 8},
+               {1060, 238, own, 8},
+               {1066, 163, own, 8},
+               {1028, 136, "新細明體", 9},
+               {1042, 129, "굴림", 9},
+               {1041, 128, "ＭＳ Ｐゴシック", 9},
+               {2052, 134, "宋体", 9}};
+  for (const auto& [lcid, charset, typeface, size] : cases) {
+    SCOPED_TRACE(lcid);
+    App.Desktop = runtime::MakeRef<ForeignDesktop>(lcid);
+    std::vector<S> log;
+    test::SmallForm form(log);
+    for (forms::Control* control : form.Controls()) {
+      if (dynamic_cast<forms::FontControl*>(control) != nullptr) control->Font().Size = 6;
+    }
+    ApplyLocaleFontsToForm(form);
+    OnScreen(form, [&](HWND window) {
+      for (const HWND control : test::ControlWindows(window)) {
+        const auto& model = windows::ControlView::Of(control)->Model();
+        if (dynamic_cast<const forms::FontControl*>(&model) == nullptr) continue;
+        const bool isGrid = S(model.TypeName()) == "VSFlexGrid";
+        const LOGFONTW font = FontOf(control);
+        EXPECT_EQ(font.lfCharSet, isGrid ? 0 : charset) << model.FullName();
+        EXPECT_EQ(com::Utf8(font.lfFaceName, wcslen(font.lfFaceName)), isGrid ? "Tahoma" : typeface)
+            << model.FullName();
+        const double dpi = GetDpiForWindow(window);
+        EXPECT_EQ(font.lfHeight, -std::lround((isGrid ? 6 : size) * dpi / 72)) << model.FullName();
+      }
+    });
+  }
+}
+
+RECT AreaOf(HWND window) {
+  RECT area = {};
+  GetWindowRect(window, &area);
+  return area;
+}
+
+/// Controls that show less than they have to show, or overlap the one beside them.
+S CutControls(HWND form) {
+  S names;
+  std::vector<RECT> areas;
+  for (const HWND window : test::ControlWindows(form)) {
+    const windows::ControlView& view = *windows::ControlView::Of(window);
+    const S kind = view.Model().TypeName();
+    if (!view.Model().Visible()) continue;
+    const RECT area = AreaOf(window);
+    const forms::Size least = view.LeastSize();
+    const bool isCut = area.right - area.left < least.width || area.bottom - area.top < least.height;
+    if (isCut) names += view.Model().FullName() + " ";
+    if (kind == "Frame") continue;
+    for (const RECT& other : areas) {
+      RECT both = {};
+      if (IntersectRect(&both, &area, &other)) names += view.Model().FullName() + " lies on another, ";
+    }
+    areas.push_back(area);
+  }
+  return names;
+}
+
+TEST_F(LooksTest, NothingIsCutAtAnyResolution) {
+  for (const test::Way& way : test::kWays) {
+    SCOPED_TRACE(way.page);
+    const auto look = [&] {
+      const HWND window = test::FrontWindow();
+      for (const int percent : {100, 125, 150, 200, 250}) {
+        const int dpi = USER_DEFAULT_SCREEN_DPI * percent / 100;
+        RECT area = AreaOf(window);
+        SendMessageW(window, WM_DPICHANGED, static_cast<WPARAM>(MAKELONG(dpi, dpi)),
+                     reinterpret_cast<LPARAM>(&area));
+        EXPECT_EQ(CutControls(window), "") << percent << " %";
+        const auto* const button = windows::ControlView::Of(test::ControlWindow(window, "cmdCancel"));
+        EXPECT_GE(button->LeastSize().width, 75 * percent / 100) << "buttons grow with the resolution";
+      }
+      test::EndDeed();
+    };
+    EXPECT_EQ(PlayOnOrders(way.lines + "do look", {{"look", look}}), "");
+  }
+}
+
+TEST_F(LooksTest, APageThatIsTooLargeIsScrolledToTheFocus) {
+  const auto shrink = [] {
+    SetWindowPos(test::FrontWindow(), nullptr, 0, 0, 320, 240, SWP_NOMOVE | SWP_NOZORDER);
+    test::EndDeed();
+  };
+  const auto look = [] {
+    RECT room = {};
+    GetClientRect(test::FrontWindow(), &room);
+    for (forms::Control* control : test::FrontForm().Controls()) {
+      if (!control->UserFocus()) continue;
+      test::theDialogs->ShowChanges();
+      const HWND window = test::ControlWindow(test::FrontWindow(), control->FullName());
+      RECT area = AreaOf(window), seen = {};
+      MapWindowPoints(nullptr, test::FrontWindow(), reinterpret_cast<POINT*>(&area), 2);
+      EXPECT_TRUE(IntersectRect(&seen, &area, &room)) << control->FullName();
+    }
+    test::EndDeed();
+  };
+  EXPECT_EQ(PlayOnOrders(test::kWays[2].lines + "do shrink; do look; press cmdCancel; page none",
+                         {{"shrink", shrink}, {"look", look}}),
+            "");
+}
+
+}  // namespace
+}  // namespace plotsmith

@@ -1,0 +1,183 @@
+#include <gtest/gtest.h>
+
+#include "forms/Lists.h"
+#include "forms/TextBox.h"
+#include "tests/windows/views/Clipboard.h"
+#include "tests/windows/views/DialogTest.h"
+#include "tests/windows/views/WindowState.h"
+#include "tests/windows/views/WindowsHand.h"
+#include "windows/com/Texts.h"
+
+namespace plotsmith {
+namespace {
+
+using S = std::string;
+
+HWND ButtonOf(const S& name) { return test::ControlWindow(test::FrontWindow(), name); }
+
+/// Lets double clicks take as long as Windows allows, until the end of its life.
+struct SlowDoubleClicks {
+  SlowDoubleClicks() { SetDoubleClickTime(5000); }
+  ~SlowDoubleClicks() { SetDoubleClickTime(1); }
+};
+
+class RudeHandsTest : public test::DialogTest {};
+
+TEST_F(RudeHandsTest, TheSecondPressDoesNotGoThroughTheNextPage) {
+  const SlowDoubleClicks slow;
+  POINT place = {};
+  // presses the button that is at the place of the first one, wherever it is on its own window
+  const auto press = [&] {
+    const HWND button = ButtonOf("cmdNext");
+    if (place.x == 0) {
+      place = {20, 10};
+      ClientToScreen(button, &place);
+    }
+    POINT onButton = place;
+    ScreenToClient(button, &onButton);
+    PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(onButton.x, onButton.y));
+    PostMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(10, 10));
+    test::EndDeed();
+  };
+  const auto wait = [] { SetDoubleClickTime(1); };
+  const S script = test::kWays[1].lines + "do press; page frmPSLayoutABC; do press; page frmPSLayoutABC; ";
+  EXPECT_EQ(
+      PlayOnOrders(script + "type txtTitle A; do wait; do press; page frmPSChartLocation; press cmdCancel",
+                   {{"press", press}, {"wait", wait}}),
+      "");
+}
+
+TEST_F(RudeHandsTest, ADoubleClickOnAButtonIsOnePress) {
+  const auto twice = [] {
+    const HWND button = ButtonOf("cmdNext");
+    test::PostClick(button);
+    PostMessageW(button, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
+    PostMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    test::EndDeed();
+  };
+  EXPECT_EQ(PlayOnOrders(test::kWays[2].lines + "do twice; page frmPSChartLocation", {{"twice", twice}}), "");
+}
+
+TEST_F(RudeHandsTest, AKeyThatIsHeldDownCountsOnce) {
+  const auto repeat = [](WPARAM key) {
+    return [key] {
+      for (int i = 0; i < 20; ++i) test::PostKey(GetFocus(), key, true);
+      test::EndDeed();
+    };
+  };
+  const auto enter = [] { test::PostKey(GetFocus(), VK_RETURN), test::EndDeed(); };
+  EXPECT_EQ(PlayOnOrders(test::kWays[1].lines +
+                             "do enter; do repeat; page frmPSLayoutABC; do escape; page "
+                             "frmPSLayoutABC; focus txtComment; do repeat; expect txtComment.Text \"" +
+                             [] {
+                               S lines;
+                               for (int i = 0; i < 20; ++i) lines += "\\n";
+                               return lines;
+                             }() +
+                             "\"",
+                         {{"enter", enter}, {"repeat", repeat(VK_RETURN)}, {"escape", repeat(VK_ESCAPE)}}),
+            "");
+}
+
+TEST_F(RudeHandsTest, AKeyThatIsHeldDownLeavesAMessageBoxOpen) {
+  const windows::HeldKeys heldKeys;
+  int ticks = 0;
+  static int* count = nullptr;
+  count = &ticks;
+  const UINT_PTR timer = SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR, DWORD) {
+    ++*count;
+    test::PostKey(GetFocus(), VK_RETURN, *count < 10);  // at last it is pressed anew
+  });
+  EXPECT_EQ(MessageBoxW(nullptr, L"Text", L"Title", MB_OK), IDOK);
+  KillTimer(nullptr, timer);
+  EXPECT_GE(ticks, 10);
+}
+
+TEST_F(RudeHandsTest, EachPageIsClosedOnce) {
+  const auto close = [] {
+    for (int i = 0; i < 3; ++i) PostMessageW(test::FrontWindow(), WM_CLOSE, 0, 0);
+    test::PostClick(ButtonOf("cmdCancel"));
+    test::EndDeed();
+  };
+  for (const test::Way& way : test::kWays) {
+    EXPECT_EQ(PlayOnOrders(way.lines + "do close; page none", {{"close", close}}), "");
+  }
+}
+
+S Times(int count, const S& text) {
+  S result;
+  for (int i = 0; i < count; ++i) result += text;
+  return result;
+}
+
+/// A text that is pasted, and what a box takes of it where it has room.
+struct Input {
+  S pasted, oneLine, lines;
+};
+
+/// The text that a box should hold: as much of the whole as it has room for. What has no room as a whole is
+/// left out.
+std::wstring Expected(const forms::Control& control, const Input& input) {
+  const auto* box = dynamic_cast<const forms::TextBox*>(&control);
+  const bool hasLines = box != nullptr && box->MultiLine();
+  const std::size_t most = box == nullptr ? 0 : box->MaxLength();
+  std::wstring text = com::Wide(hasLines ? input.lines : input.oneLine);
+  if (most == 0 || text.size() <= most) return text;
+  text.resize(most);
+  if (IS_HIGH_SURROGATE(text.back()) || text.back() == L'\r') text.pop_back();
+  return text;
+}
+
+TEST_F(RudeHandsTest, BoxesTakeWhatFitsAndShowIt) {
+  const Input inputs[] = {
+      {Times(10000, "x"), Times(10000, "x"), Times(10000, "x")},
+      {Times(10000, "a\n"), Times(10000, "a "), Times(10000, "a\r\n")},
+      {"a\r\nb\nc\td\x01"
+       "e\x7F",
+       "a b c d e\x7F", "a\r\nb\r\nc\td e\x7F"},
+      {"a\xC2\xA0z", "a\xC2\xA0z", "a\xC2\xA0z"},
+      {S("x") + Times(8000, "\xF0\x9F\x98\x80"), S("x") + Times(8000, "\xF0\x9F\x98\x80"),
+       S("x") + Times(8000, "\xF0\x9F\x98\x80")},
+  };
+  const Input* input = nullptr;
+  int checked = 0;
+  const auto onBoxes = [](const std::function<void(const forms::Control& control, HWND edit)>& deed) {
+    for (const forms::Control* control : test::FrontForm().Controls()) {
+      const HWND window = ButtonOf(control->FullName());
+      const auto* combo = dynamic_cast<const forms::ComboBox*>(control);
+      const bool isCombo = combo != nullptr && combo->Style() == forms::ComboStyle::kDropDownCombo;
+      const bool isText = dynamic_cast<const forms::TextBox*>(control) != nullptr;
+      if (!control->Obstacle().empty() || (!isText && !isCombo)) continue;
+      deed(*control, isText ? window : GetWindow(window, GW_CHILD));
+    }
+  };
+  const auto feed = [&] {
+    test::SetClipboardText(com::Wide(input->pasted));
+    onBoxes([](const forms::Control&, HWND edit) {
+      SetFocus(edit);
+      PostMessageW(edit, WM_CHAR, 1, 0);  // Control and A, Control and V
+      PostMessageW(edit, WM_CHAR, 22, 0);
+      test::HandleMessages();
+    });
+    test::EndDeed();
+  };
+  const auto look = [&] {
+    onBoxes([&](const forms::Control& control, HWND) {
+      const std::wstring text = com::Wide(forms::WithLineEnds(*forms::StateOf(control).text, "\r\n"));
+      EXPECT_TRUE(text == Expected(control, *input))
+          << control.FullName() << " has " << text.size() << " units";
+      ++checked;
+    });
+  };
+  for (const Input& each : inputs) {
+    input = &each;
+    for (const std::size_t way : {2, 6}) {
+      EXPECT_EQ(PlayOnOrders(test::kWays[way].lines + "do feed; do look", {{"feed", feed}, {"look", look}}),
+                "");
+    }
+  }
+  EXPECT_EQ(checked, 30) << "the boxes of both pages, with each input";
+}
+
+}  // namespace
+}  // namespace plotsmith

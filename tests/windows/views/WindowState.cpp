@@ -1,0 +1,263 @@
+#include "tests/windows/views/WindowState.h"
+
+#include <algorithm>
+#include <commctrl.h>
+#include <optional>
+
+#include "forms/TextBox.h"
+#include "windows/com/Texts.h"
+#include "windows/views/ControlNames.h"
+
+namespace plotsmith::test {
+namespace {
+
+using forms::ControlState;
+
+std::string TextOf(HWND window) {
+  std::wstring text(static_cast<std::size_t>(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0)) + 1, L'\0');
+  text.resize(static_cast<std::size_t>(
+      SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
+  return com::Utf8(text.data(), text.size());
+}
+
+std::string ClassOf(HWND window) {
+  wchar_t name[64];
+  const int length = GetClassNameW(window, name, 64);
+  return com::Utf8(name, static_cast<std::size_t>(length));
+}
+
+bool HasStyle(HWND window, LONG_PTR style) { return (GetWindowLongPtrW(window, GWL_STYLE) & style) == style; }
+
+std::string KindOfButton(HWND window) {
+  switch (GetWindowLongPtrW(window, GWL_STYLE) & BS_TYPEMASK) {
+    case BS_GROUPBOX:
+      return "Frame";
+    case BS_CHECKBOX:
+      return "CheckBox";
+    case BS_RADIOBUTTON:
+      return "OptionButton";
+    default:
+      return "CommandButton";
+  }
+}
+
+/// The class of the control, by that of its window.
+std::string KindOf(HWND window) {
+  const std::string name = ClassOf(window);
+  if (name == "Button") return KindOfButton(window);
+  if (name == "Static") {
+    const bool isDrawn = (GetWindowLongPtrW(window, GWL_STYLE) & SS_TYPEMASK) == SS_OWNERDRAW;
+    return isDrawn ? "Image" : "Label";
+  }
+  if (name == "Edit") return "TextBox";
+  if (name == "SysListView32") return "VSFlexGrid";
+  return name == "msctls_progress32" ? "ProgressBar" : name;  // ComboBox, ListBox
+}
+
+std::vector<std::string> Entries(HWND list, UINT countMessage, UINT lengthMessage, UINT textMessage) {
+  std::vector<std::string> entries;
+  const LRESULT count = SendMessageW(list, countMessage, 0, 0);
+  for (WPARAM i = 0; i < static_cast<WPARAM>(count); ++i) {
+    std::wstring text(static_cast<std::size_t>(SendMessageW(list, lengthMessage, i, 0)) + 1, L'\0');
+    const LRESULT length = SendMessageW(list, textMessage, i, reinterpret_cast<LPARAM>(text.data()));
+    entries.push_back(com::Utf8(text.data(), static_cast<std::size_t>(length)));
+  }
+  return entries;
+}
+
+void ReadListBox(HWND window, ControlState& state) {
+  state.list = Entries(window, LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT);
+  state.selected.emplace();
+  for (std::int32_t i = 0; i < static_cast<std::int32_t>(state.list->size()); ++i) {
+    if (SendMessageW(window, LB_GETSEL, static_cast<WPARAM>(i), 0) > 0) state.selected->push_back(i);
+  }
+  state.listIndex = state.selected->empty() ? -1 : state.selected->back();
+  state.text = *state.listIndex < 0 ? "" : (*state.list)[static_cast<std::size_t>(*state.listIndex)];
+}
+
+void ReadComboBox(HWND window, ControlState& state) {
+  state.list = Entries(window, CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT);
+  state.listIndex = static_cast<std::int32_t>(SendMessageW(window, CB_GETCURSEL, 0, 0));
+  state.text = TextOf(window);
+}
+
+std::string CellText(HWND list, int row, int column) {
+  wchar_t text[512] = {};
+  LVITEMW item = {};
+  item.iSubItem = column;
+  item.pszText = text;
+  item.cchTextMax = 512;
+  const auto length =
+      SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
+  return com::Utf8(item.pszText, static_cast<std::size_t>(length));
+}
+
+std::string HeadText(HWND list, int column) {
+  wchar_t text[512] = {};
+  LVCOLUMNW head = {};
+  head.mask = LVCF_TEXT;
+  head.pszText = text;
+  head.cchTextMax = 512;
+  SendMessageW(list, LVM_GETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&head));
+  return com::Utf8(head.pszText, wcslen(head.pszText));
+}
+
+void ReadGrid(HWND window, ControlState& state) {
+  state.rows.emplace();
+  state.selected.emplace();
+  const int columns = Header_GetItemCount(ListView_GetHeader(window));
+  state.fixedRows = HasStyle(window, LVS_NOCOLUMNHEADER) ? 0 : 1;
+  if (state.fixedRows == 1) {
+    auto& heads = state.rows->emplace_back();
+    for (int column = 0; column < columns; ++column) heads.push_back(HeadText(window, column));
+  }
+  for (int row = 0; row < ListView_GetItemCount(window); ++row) {
+    auto& cells = state.rows->emplace_back();
+    for (int column = 0; column < columns; ++column) cells.push_back(CellText(window, row, column));
+    if (ListView_GetItemState(window, row, LVIS_SELECTED) != 0)
+      state.selected->push_back(row + state.fixedRows);
+  }
+}
+
+/// Whether a control is in the colour of the mark. What can be typed into or chosen from has a colour of its
+/// own.
+bool IsMarked(HWND window, const std::string& kind) {
+  if (kind != "Frame" && kind != "OptionButton" && kind != "CheckBox" && kind != "Label") return false;
+  const HDC context = CreateCompatibleDC(nullptr);
+  SendMessageW(GetParent(window), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(context),
+               reinterpret_cast<LPARAM>(window));
+  const COLORREF color = GetBkColor(context);
+  DeleteDC(context);
+  return color == GetSysColor(COLOR_INFOBK);
+}
+
+RECT AreaOf(HWND window) {
+  RECT area = {};
+  GetWindowRect(window, &area);
+  return area;
+}
+
+bool IsInside(const RECT& inner, const RECT& outer) {
+  return inner.left >= outer.left && inner.top >= outer.top && inner.right <= outer.right &&
+         inner.bottom <= outer.bottom;
+}
+
+/// The name of the frame around a control; empty if none is.
+std::string ContainerOf(HWND form, HWND window) {
+  for (const HWND other : ControlWindows(form)) {
+    const bool isAround =
+        other != window && KindOf(other) == "Frame" && IsInside(AreaOf(window), AreaOf(other));
+    if (isAround) return windows::WindowName(other);
+  }
+  return {};
+}
+
+ControlState Read(HWND form, HWND window) {
+  ControlState state;
+  state.name = windows::WindowName(window);
+  state.kind = KindOf(window);
+  state.container = ContainerOf(form, window);
+  state.enabled = IsWindowEnabled(window) != FALSE;
+  state.visible = HasStyle(window, WS_VISIBLE);
+  state.focus = GetFocus() == window || GetParent(GetFocus()) == window;
+  state.backColor = IsMarked(window, state.kind) ? forms::kToolTipBackground : forms::kButtonFace;
+  const bool hasCaption = ClassOf(window) == "Button" || state.kind == "Label";
+  if (hasCaption) state.caption = TextOf(window);
+  if (state.kind == "CheckBox" || state.kind == "OptionButton") {
+    state.value = SendMessageW(window, BM_GETCHECK, 0, 0) == BST_CHECKED;
+  }
+  if (state.kind == "CommandButton") {
+    state.isDefault = HasStyle(window, BS_DEFPUSHBUTTON);
+    state.isCancel = GetDlgCtrlID(window) == IDCANCEL;
+  }
+  if (state.kind == "TextBox") state.text = forms::WithLineEnds(TextOf(window), "\n");
+  if (state.kind == "ListBox") ReadListBox(window, state);
+  if (state.kind == "ComboBox") ReadComboBox(window, state);
+  if (state.kind == "VSFlexGrid") ReadGrid(window, state);
+  return state;
+}
+
+/// The model's state as far as windows can show it. They tell only colours of their own.
+ControlState Showable(ControlState state) {
+  state.accessibleName.clear();
+  if (state.backColor != forms::kToolTipBackground) state.backColor = forms::kButtonFace;
+  return state;
+}
+
+template <class Value>
+void Compare(std::string& differences, const std::string& what, const Value& model, const Value& window) {
+  if (!(model == window)) differences += what + " differs\n";
+}
+
+void Compare(std::string& differences, const ControlState& model, const ControlState& window) {
+  const auto compare = [&](const char* what, const auto& left, const auto& right) {
+    Compare(differences, model.name + "." + what, left, right);
+  };
+  compare("TypeName", model.kind, window.kind);
+  compare("Container", model.container, window.container);
+  compare("Enabled", model.enabled, window.enabled);
+  compare("Visible", model.visible, window.visible);
+  compare("focus", model.focus, window.focus);
+  compare("BackColor", model.backColor, window.backColor);
+  compare("Caption", model.caption, window.caption);
+  compare("Text", model.text, window.text);
+  compare("Value", model.value, window.value);
+  compare("List", model.list, window.list);
+  compare("ListIndex", model.listIndex, window.listIndex);
+  compare("Rows", model.rows, window.rows);
+  compare("FixedRows", model.fixedRows, window.fixedRows);
+  compare("Selected", model.selected, window.selected);
+  compare("Default", model.isDefault, window.isDefault);
+  compare("Cancel", model.isCancel, window.isCancel);
+}
+
+}  // namespace
+
+std::vector<HWND> ControlWindows(HWND form) {
+  std::vector<HWND> controls;
+  for (HWND window = GetWindow(form, GW_CHILD); window != nullptr; window = GetWindow(window, GW_HWNDNEXT)) {
+    controls.push_back(window);
+  }
+  return controls;
+}
+
+HWND ControlWindow(HWND form, const std::string& name) {
+  for (const HWND window : ControlWindows(form)) {
+    if (windows::WindowName(window) == name) return window;
+  }
+  return nullptr;
+}
+
+forms::FormState StateOfWindow(HWND form) {
+  forms::FormState state{windows::WindowName(form), TextOf(form), {}};
+  for (const HWND window : ControlWindows(form)) state.controls.push_back(Read(form, window));
+  return state;
+}
+
+std::string DifferencesFromModel(const forms::Form& form, HWND window) {
+  forms::FormState model = forms::StateOf(form);
+  const forms::FormState shown = StateOfWindow(window);
+  std::erase_if(model.controls, [](const ControlState& control) { return control.kind == "Timer"; });
+  std::string differences;
+  Compare(differences, "Name", model.name, shown.name);
+  Compare(differences, "Caption", model.caption, shown.caption);
+  if (model.controls.size() != shown.controls.size()) return differences + "the number of controls differs\n";
+  for (std::size_t i = 0; i < model.controls.size(); ++i) {
+    Compare(differences, "name of " + model.controls[i].name, model.controls[i].name, shown.controls[i].name);
+    ControlState control = Showable(model.controls[i]);
+    const bool hasNoColor = control.kind != "Frame" && control.kind != "OptionButton" &&
+                            control.kind != "CheckBox" && control.kind != "Label";
+    if (hasNoColor) control.backColor = forms::kButtonFace;
+    if (control.kind == "ListBox") {  // both show in the selection
+      control.text = shown.controls[i].text;
+      control.listIndex = shown.controls[i].listIndex;
+    }
+    const HWND box = ControlWindow(window, control.name);
+    if (control.kind == "ComboBox" && SendMessageW(box, CB_GETDROPPEDSTATE, 0, 0) != 0)
+      continue;  // not decided
+    Compare(differences, control, shown.controls[i]);
+  }
+  return differences;
+}
+
+}  // namespace plotsmith::test
