@@ -153,9 +153,12 @@ Section
   ${EndIf}
 SectionEnd
 
-; The users are those of the installation in the uninstaller's own folder.
+Var OneUser  ; whether the installation is that of one user
+
+; It is that of all users if they have it in the uninstaller's own folder.
 Function un.onInit
   SetShellVarContext current
+  StrCpy $OneUser yes
   ReadRegStr $0 HKLM "${ENTRY}" InstallLocation
   ${If} $0 != $INSTDIR
     Return
@@ -166,6 +169,7 @@ Function un.onInit
     !insertmacro StopWith "${PRODUCT} is installed for all users, so only an administrator can remove it."
   ${EndIf}
   SetShellVarContext all
+  StrCpy $OneUser no
 FunctionEnd
 
 Section Uninstall
@@ -179,5 +183,10 @@ Section Uninstall
   Delete "$INSTDIR\Uninstall.exe"
   RMDir "$INSTDIR"
   DeleteRegKey SHCTX "${ENTRY}"
-  DeleteRegKey /ifempty SHCTX "Software\Microsoft\Windows\CurrentVersion\Uninstall"
+  ; What belongs to all programs of a user may be there for this one alone.
+  ${If} $OneUser == yes
+    !insertmacro RemoveEmptyLists
+    DeleteRegKey /ifempty HKCU "Software\Microsoft\Windows\CurrentVersion\Uninstall"
+    RMDir "$LOCALAPPDATA\Programs"
+  ${EndIf}
 SectionEnd

@@ -57,7 +57,7 @@
   ${EndIf}
 !macroend
 
-; Removes what no DLL of either bits needs any more, and lists that are empty then.
+; Removes what no DLL of either bits needs any more.
 !macro UnregisterShared BITS
   SetRegView 32
   ReadRegStr $0 SHCTX "${CLASS_KEY}\InprocServer32" ""
@@ -72,9 +72,6 @@
   ${If} $0 == ""
     DeleteRegKey SHCTX "${LIBRARY_KEY}"
   ${EndIf}
-  DeleteRegKey /ifempty SHCTX "Software\Classes\CLSID"
-  DeleteRegKey /ifempty SHCTX "Software\Classes\Interface"
-  DeleteRegKey /ifempty SHCTX "Software\Classes\TypeLib"
 !macroend
 
 !macro UnregisterComponent
@@ -82,6 +79,19 @@
   !insertmacro UnregisterLibrary 64 win64 "$INSTDIR\x64\Plotsmith.dll"
   !insertmacro UnregisterShared 32
   !insertmacro UnregisterShared 64
-  DeleteRegKey /ifempty SHCTX "Software\Classes\Wow6432Node"
-  DeleteRegKey /ifempty SHCTX "Software\Classes"
+!macroend
+
+; Removes the lists of classes of a user who has none.
+!macro RemoveEmptyListsOf BITS
+  SetRegView ${BITS}
+  DeleteRegKey /ifempty HKCU "Software\Classes\CLSID"
+  DeleteRegKey /ifempty HKCU "Software\Classes\Interface"
+  DeleteRegKey /ifempty HKCU "Software\Classes\TypeLib"
+!macroend
+
+!macro RemoveEmptyLists
+  !insertmacro RemoveEmptyListsOf 32
+  !insertmacro RemoveEmptyListsOf 64
+  DeleteRegKey /ifempty HKCU "Software\Classes\Wow6432Node"
+  DeleteRegKey /ifempty HKCU "Software\Classes"
 !macroend
