@@ -27,7 +27,7 @@ demo:
 check: build
 	@scripts/check.sh
 
-# Builds for Windows and compares the command under Wine with the one for Linux.
+# Builds for Windows, and tries the command and the component under Wine.
 check-windows:
 	@scripts/check-windows.sh
 

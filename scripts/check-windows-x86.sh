@@ -40,13 +40,15 @@ cmake --preset windows-x86 >/dev/null
 cmake --build build-windows-x86 --target Plotsmith tests/windows/all
 [ -d "$root" ] || make_root
 
-# The repository is in the root under /plotsmith: what the tests read of it, and a build folder of its own.
-rm -rf "$root/plotsmith"
-mkdir -p "$root/plotsmith/build"
-cp -a tests examples "$root/plotsmith"
-mkdir "$root/plotsmith/build-windows-x86"
-cp build-windows-x86/Plotsmith*.dll "$root/plotsmith/build-windows-x86"
-for name in server; do
-  chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root PLOTSMITH_WINDOWS=/plotsmith/build-windows-x86 \
-    "/plotsmith/tests/windows/run-$name.sh"
+unshare --mount true 2>/dev/null || skip "this machine allows no mounts of its own"
+# In the root the repository is where it is here, and Wine needs /proc. Both mounts go with the program that made them.
+mkdir -p "$root$PWD"
+for name in port registration server; do
+  unshare --mount sh -ec '
+    root=$1 repository=$2
+    shift 2
+    mount --rbind /proc "$root/proc"
+    mount --bind "$repository" "$root$repository"
+    exec chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root "$@"
+  ' sh "$root" "$PWD" PLOTSMITH_WINDOWS="$PWD/build-windows-x86" "$PWD/tests/windows/run-$name.sh"
 done

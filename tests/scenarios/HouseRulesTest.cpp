@@ -34,6 +34,21 @@ const std::map<std::string, std::set<std::string>> kAllowed = {
     {"qt",
      {"runtime", "dom", "forms", "host", "common", "metadata", "builder", "readback", "pages", "controller",
       "xlsx", "cli"}},
+    {"windows",
+     {"runtime", "dom", "forms", "host", "common", "metadata", "builder", "readback", "pages", "controller"}},
+};
+
+/// The rooms, and the folders of the component inside Excel, that each of those folders may look into, itself
+/// not counted.
+const std::map<std::string, std::set<std::string>> kAllowedInExcel = {
+    {"com", {"runtime"}},
+    {"excel", {"runtime", "host", "windows/com"}},
+    {"desktop", {"runtime", "host", "common", "forms", "windows/com"}},
+    {"views", {"runtime", "host", "common", "forms", "pages", "windows/com", "windows/desktop"}},
+    {"server",
+     {"runtime", "host", "common", "forms", "controller", "windows/com", "windows/excel", "windows/desktop",
+      "windows/views"}},
+    {"dll", {"windows/com", "windows/server"}},
 };
 
 /// The rooms and the folders of its own that each folder of the windows may look into, itself not counted.
@@ -118,6 +133,24 @@ TEST(HouseRulesTest, ThePartsOfTheWindowsKnowOnlyWhatTheyShow) {
         const std::string header = (*it)[3];
         EXPECT_TRUE(header == "SamplePictures" || header.starts_with("pictures/")) << file << ' ' << header;
       }
+    }
+  });
+  EXPECT_GT(files, 30);
+}
+
+TEST(HouseRulesTest, TheComponentInsideExcelStandsInLayers) {
+  const std::regex include("#include \"((?:windows/)?[a-z]+)/");
+  int files = 0;
+  ForEachSource([&](const std::string& room, const std::string& file, const std::string& text) {
+    if (room != "windows") return;
+    ++files;
+    const std::string folder = fs::path(file).parent_path().lexically_relative("windows").begin()->string();
+    ASSERT_TRUE(kAllowedInExcel.contains(folder)) << "a folder that isn't listed: " << file;
+    for (auto it = std::sregex_iterator(text.begin(), text.end(), include); it != std::sregex_iterator();
+         ++it) {
+      const std::string other = (*it)[1];
+      EXPECT_TRUE(other == "windows/" + folder || kAllowedInExcel.at(folder).contains(other))
+          << file << " includes " << other;
     }
   });
   EXPECT_GT(files, 30);

@@ -35,7 +35,8 @@ same_file() {
 # Begins with a new prefix. Making one takes long, so it is a copy of one that is made once for each version of Wine.
 # Its driver has windows and no screen.
 new_prefix() {
-  template=$root/build/wine-template
+  template=$root/build/wine-template-$(basename "$windows")
+  wine --version >/dev/null 2>&1 || { echo "Wine doesn't run here" >&2; exit 1; }
   if [ "$(cat "$template/version.txt" 2>/dev/null)" != "$(wine --version 2>/dev/null)" ]; then
     rm -rf "$template"
     (
@@ -100,7 +101,12 @@ $output" "$name.js" ;;
   esac
 }
 
+# Keeps Wine's server between the programs, for scripts that start many: on a busy machine one that is just ending can
+# make the next program fail.
+keep_server() { wineserver -p; }
+
 finish() {
+  wineserver -k || true
   wineserver -w
   rm -rf "$WINEPREFIX"
   echo "$passed passed, $failed failed"

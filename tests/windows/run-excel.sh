@@ -6,9 +6,16 @@ cd "$(dirname "$0")/../.."
 corpus=$root/../shared/corpus
 
 new_prefix
+keep_server
 register "$windows/Plotsmith.dll" "$windows/PlotsmithTestHost.dll" "$windows/PlotsmithTestBoxes.dll"
 mkdir "$work/linux" "$work/windows" "$work/books"
 cp examples/*.xlsx "$work/books"
+
+# Compares what the command said on behalf of the component with what message boxes said, which write a line end as "\r\n".
+messages_differ() {
+  grep -v '^plotsmith: ' "$work/said.txt" | tr -d '\r' >"$work/said-by-component.txt" || true
+  sed -e 1d -e '/^$/d' -e 's/ \[OK\]:/:/' -e 's/\\r\\n/\n/g' "$work/printed.txt" | diff "$work/said-by-component.txt" -
+}
 
 # One operation on either host, if the command can do it: CASE OPERATION SCRIPT BOOK [TABLE [OLD NEW]]
 same() {
@@ -34,6 +41,8 @@ same() {
     fails "$difference" "$case: file"
   elif ! grep -q '^calls [0-9]*, unsure 0$' "$work/printed.txt"; then
     fails "$(head -n 1 "$work/printed.txt")" "$case: kinds of calls"
+  elif ! difference=$(messages_differ); then
+    fails "$difference" "$case: messages"
   else
     passes
   fi
@@ -52,6 +61,11 @@ type_of_chart bubble --title "Products" --categories Product --values Amount --x
   --series Product --new-sheet Bubbles
 type_of_chart "strategic bucket" --title "Amounts and targets" --categories Product --series Product \
   --bucket-table VEX_SB_Targets --labels names --new-sheet Buckets
+
+# one that can't be drawn any more, as its user took headings away
+run_script "$(windows_path tests/windows/spoil.js)" "$(windows_path "$work/books/column.xlsx")" \
+  "$(windows_path "$work/books")\\spoiled.xlsx" Data1 1 2 >"$work/printed.txt"
+[ "$(cat "$work/printed.txt")" = '$B$1 Something else' ] || fails "$(cat "$work/printed.txt")" "a cell of a script"
 
 for book in "$work"/books/*.xlsx; do
   name=$(basename "$book")

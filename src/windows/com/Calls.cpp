@@ -59,7 +59,7 @@ class Waiting {
     constexpr DWORD kStep = 100, kMost = 2000;  // milliseconds
     if (waited_ >= kMost) return false;
     waited_ += kStep;
-    // an event that nobody sets: meanwhile calls that come in are served, which the server may wait for
+    // nothing sets the event: meanwhile calls that come in are served, which the server may wait for
     HANDLE event = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     if (event == nullptr) return false;
     DWORD index = 0;

@@ -262,6 +262,13 @@ CellArray::CellArray(const VARIANT& value) : array_(ArrayIn(value)) {
 
 CellArray::~CellArray() { SafeArrayUnaccessData(array_); }
 
+const VARIANT& CellArray::At(std::int32_t row, std::int32_t column) const {
+  if (row < 0 || row >= rows_ || column < 0 || column >= columns_) throw RuntimeError(error::kSubscript);
+  // the first dimension, that of rows, lies closest together
+  return cells_[static_cast<std::size_t>(column) * static_cast<std::size_t>(rows_) +
+                static_cast<std::size_t>(row)];
+}
+
 CellArrayWriter::CellArrayWriter(std::int32_t rows, std::int32_t columns) {
   SAFEARRAYBOUND bounds[2] = {{static_cast<ULONG>(rows), 1}, {static_cast<ULONG>(columns), 1}};
   array_ = NewArray(2, bounds);

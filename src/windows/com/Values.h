@@ -54,11 +54,8 @@ class CellArray {
 
   std::int32_t Rows() const { return rows_; }
   std::int32_t Columns() const { return columns_; }
-  /// Counted from 0, both inside of the array.
-  const VARIANT& At(std::int32_t row, std::int32_t column) const {
-    return cells_[static_cast<std::size_t>(column) * static_cast<std::size_t>(rows_) +
-                  static_cast<std::size_t>(row)];
-  }
+  /// Counted from 0. Error 9 outside of the array.
+  const VARIANT& At(std::int32_t row, std::int32_t column) const;
 
  private:
   SAFEARRAY* array_;

@@ -1,5 +1,6 @@
 #include "windows/desktop/MessagePump.h"
 
+#include "windows/com/Calls.h"
 #include "windows/com/Windows.h"
 
 namespace plotsmith::windows {
@@ -13,6 +14,7 @@ void HandleWaitingMessages() {
     }
     TranslateMessage(&message);
     DispatchMessageW(&message);
+    com::NoteChange();  // the window may have changed cells
   }
 }
 

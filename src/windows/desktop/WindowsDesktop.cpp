@@ -5,6 +5,7 @@
 #include "common/App.h"
 #include "common/PSConstants.h"
 #include "runtime/Utf8Path.h"
+#include "windows/com/Calls.h"
 #include "windows/com/Texts.h"
 #include "windows/com/Windows.h"
 #include "windows/desktop/HtmlHelp.h"
@@ -47,6 +48,7 @@ std::int32_t WindowsDesktop::MsgBox(std::string_view text, desktop::Buttons butt
   if (owner == nullptr) style |= MB_TASKMODAL;
   const int answer = MessageBoxW(owner, com::Wide(text).c_str(),
                                  com::Wide(title.empty() ? kProductTitle : title).c_str(), style);
+  com::NoteChange();  // other windows had messages while the box was there
   return buttons == desktop::Buttons::kOkCancel && answer != IDOK ? desktop::kCancel : desktop::kOk;
 }
 

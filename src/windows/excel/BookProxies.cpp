@@ -58,11 +58,6 @@ class ExcelSheets final : public SheetsProxy {
   }
 };
 
-class ExcelSheet final : public SheetProxy {
- public:
-  using SheetProxy::SheetProxy;
-};
-
 class ExcelWorksheet final : public WorksheetProxy {
  public:
   using WorksheetProxy::WorksheetProxy;
@@ -143,7 +138,7 @@ Ref<excel::Sheets> Wrap(com::ComPtr<IDispatch> object) {
 template <>
 Ref<excel::Sheet> Wrap(com::ComPtr<IDispatch> object) {
   if (IsWorksheet(object)) return Wrap<excel::Worksheet>(std::move(object));
-  return MakeProxy<ExcelSheet>(std::move(object));
+  return MakeProxy<SheetProxy>(std::move(object));
 }
 template <>
 Ref<excel::Worksheet> Wrap(com::ComPtr<IDispatch> object) {

@@ -19,8 +19,9 @@ namespace plotsmith::proxies {
 
 using excel::Ref;
 
-/// A proxy of an object that has been handed out; Nothing for null. There is one proxy for each object that
-/// is handed out, and each is released with its last Ref.
+/// A proxy of an object that has been handed out; Nothing for null. It holds one reference to the object,
+/// until its last Ref is gone. Of an object that is handed out twice there are two: Excel itself makes new
+/// objects of many kinds for each call, so nothing can be learnt from comparing them.
 template <class T>
 Ref<T> Wrap(com::ComPtr<IDispatch> object);
 #define CLASS_NAME(Class) \

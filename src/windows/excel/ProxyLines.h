@@ -1,14 +1,13 @@
-// The lines of the tables in members/ as classes of proxies: what each means, members/README.md says. For the
-// source files of the proxies, in the namespace plotsmith::proxies; UndefLines.h takes the macros back.
+// The lines of the tables in members/ as classes of proxies: what each means, members/README.md says. For
+// source files in the namespace plotsmith::proxies, which include it once, behind all other headers.
 
+// clang-format off
 #define CLASS(Class)                                \
   class Class##Proxy : public Proxy<excel::Class> { \
    public:                                          \
     using Proxy<excel::Class>::Proxy;
-
-#define END_PARTLY(Class) \
-  }                       \
-  ;
+#define END_PARTLY(Class) };
+// clang-format on
 
 #define END(Class)                                        \
   END_PARTLY(Class)                                       \

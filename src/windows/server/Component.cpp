@@ -100,7 +100,7 @@ void RunOperation(const char* operation, std::intptr_t hostWindow,
 
 bool EndComponent() {
   const DWORD owner = ownThread;
-  if (isAtWork || (owner != 0 && owner != GetCurrentThreadId())) return false;
+  if (owner != 0 && owner != GetCurrentThreadId()) return false;
   StopSystem();
   theDesktop = nullptr;
   ownThread = 0;

@@ -12,7 +12,7 @@ void RunOperation(const char* operation, std::intptr_t hostWindow,
                   const std::function<void()>& body) noexcept;
 
 /// Ends the life of the component: it forgets the host and all else. False, with nothing done, where it
-/// works, or belongs to another thread.
+/// belongs to another thread. It must not be at work: an operation keeps the module, see Module.h.
 bool EndComponent();
 
 }  // namespace plotsmith::windows

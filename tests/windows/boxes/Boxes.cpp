@@ -33,6 +33,18 @@ std::int32_t HandleCount() {
   return static_cast<std::int32_t>(handles);
 }
 
+com::ComPtr<IDispatch> NewObject(const std::string& progId) {
+  CLSID classId;
+  com::ComPtr<IDispatch> object;
+  HRESULT result = CLSIDFromProgID(com::Wide(progId).c_str(), &classId);
+  if (SUCCEEDED(result)) {
+    result = CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
+                              reinterpret_cast<void**>(object.Put()));
+  }
+  if (FAILED(result)) throw com::ErrorOf(result);
+  return object;
+}
+
 /// The object that scripts see. Its members are in the table `kMembers`.
 class Boxes final : public IDispatch {
  public:
@@ -81,6 +93,7 @@ class Boxes final : public IDispatch {
   std::atomic<ULONG> references_ = 1;
   MessageBoxes boxes_;
   HWND window_ = nullptr;
+  com::ComPtr<IDispatch> controller_;
 };
 
 const Boxes::Member Boxes::kMembers[] = {
@@ -123,15 +136,20 @@ const Boxes::Member Boxes::kMembers[] = {
     // Create(progID): as CreateObject. Wine's own keeps a reference to the class object for good.
     {"Create",
      [](Boxes&, const DISPPARAMS& sent) -> OwnedVariant {
-       CLSID classId;
-       HRESULT result = CLSIDFromProgID(com::Wide(Text(sent, 0)).c_str(), &classId);
-       com::ComPtr<IDispatch> object;
-       if (SUCCEEDED(result)) {
-         result = CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
-                                   reinterpret_cast<void**>(object.Put()));
-       }
-       if (FAILED(result)) throw com::ErrorOf(result);
-       return com::ToVariant(object.Get());
+       return com::ToVariant(NewObject(Text(sent, 0)).Get());
+     }},
+    // Refresh(application): by a controller of this object, which holds the only reference to it; Release()
+    // releases that, also while the call is at work.
+    {"Refresh",
+     [](Boxes& boxes, const DISPPARAMS& sent) -> OwnedVariant {
+       boxes.controller_ = NewObject("Plotsmith.CPlotsmithController");
+       return com::ToVariant(Variant(
+           CallLateBound(boxes.controller_.Get(), "RefreshPlotsmithData|o|s:|s:", Object(sent, 0).Get())));
+     }},
+    {"Release",
+     [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
+       boxes.controller_.Reset();
+       return {};
      }},
     // Nothing(): an object reference that is not set, which JScript has no word for.
     {"Nothing",

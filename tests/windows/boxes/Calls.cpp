@@ -172,12 +172,19 @@ std::string CallLateBound(IDispatch* controller, const std::string& call, IDispa
       named.push_back(argument.value);
     }
   }
+  // A number is no name that the object could know.
+  std::vector<DISPID> numbers;
+  while (names.size() > 1 && names.back().starts_with(L"#")) {
+    numbers.insert(numbers.begin(), std::stoi(names.back().substr(1)));
+    names.pop_back();
+  }
   std::vector<LPOLESTR> nameTexts;
   for (std::wstring& name : names) nameTexts.push_back(name.data());
   std::vector<DISPID> ids(names.size(), DISPID_UNKNOWN);
   const HRESULT known = controller->GetIDsOfNames(IID_NULL, nameTexts.data(), static_cast<UINT>(names.size()),
                                                   LOCALE_USER_DEFAULT, ids.data());
   if (FAILED(known)) return ResultText(known, -1) + " by its name";
+  ids.insert(ids.end(), numbers.begin(), numbers.end());
   std::vector<VARIANT> arguments = named;
   arguments.insert(arguments.end(), positional.begin(), positional.end());
   DISPPARAMS parameters = {arguments.data(), ids.data() + 1, static_cast<UINT>(arguments.size()),

@@ -12,8 +12,9 @@ namespace plotsmith::test {
 /// IUnknown, "n" Nothing, "null", "empty", "missing", "as" an array of texts that are separated by commas,
 /// "av" an array of Variants, "as0" an array of texts that isn't allocated, "as2" one of two dimensions, "ai"
 /// one of numbers. With "&" before it the argument is a reference, with "&v" a reference to a Variant; NAME=
-/// before all of it makes it a named argument. The answer is the result, "0x80020005", with the position of
-/// the argument that is at fault behind "at", and "ok" for success.
+/// before all of it makes it a named argument, and #7= one whose name has the number 7; these come last. The
+/// answer is the result, "0x80020005", with the position of the argument that is at fault behind "at", and
+/// "ok" for success.
 std::string CallLateBound(IDispatch* controller, const std::string& call, IDispatch* application);
 /// The same early bound, for texts and arrays of texts.
 std::string CallEarlyBound(IDispatch* controller, const std::string& call, IDispatch* application);

@@ -98,6 +98,8 @@ TEST(ValuesTest, ArraysOfAnyTypeAreLists) {
   EXPECT_EQ(read.Columns(), 3);
   EXPECT_EQ(com::FromVariant(read.At(1, 2)), excel::Variant("last"));
   EXPECT_EQ(com::FromVariant(read.At(0, 0)), excel::Variant());
+  SAYS(com::FromVariant(read.At(0, 3)), "error 9: Subscript out of range");
+  SAYS(com::FromVariant(read.At(2, 0)), "error 9: Subscript out of range");
 }
 
 }  // namespace

@@ -9,9 +9,11 @@ namespace {
 
 using runtime::RuntimeError;
 
-/// The program refuses so while a cell is being edited.
+/// What Excel answers while a cell is being edited: 0x800AC472.
+constexpr int kSuspended = 0xC472;
+
 void CheckEditing(const HostPtr& host) {
-  if (host->editing) throw RuntimeError(runtime::error::kApplication);
+  if (host->editing) throw RuntimeError(kSuspended);
 }
 
 /// A list of a workbook's properties, of which the port has only the items.

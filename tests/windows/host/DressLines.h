@@ -1,22 +1,23 @@
 // The lines of the tables in src/windows/excel/members/ as ways into the embedded host: what each means,
 // README.md there says. For source files in the namespace plotsmith::dress.
 
+// clang-format off
 #define CLASS(Class)                                   \
   template <>                                          \
   const Table<excel::Class>& TableOf<excel::Class>() { \
     using Object = excel::Class;                       \
-    static const Table<Object> table = [] {           \
+    static const Table<Object> table = [] {            \
       Table<Object> made;
 #define END(Class) \
-  return made;     \
-  }                \
-  ();              \
-  return table;    \
+      return made; \
+    }();           \
+    return table;  \
   }
 // others are added by a function AddWays for the class
 #define END_PARTLY(Class) \
-  AddWays(made);          \
+      AddWays(made);      \
   END(Class)
+// clang-format on
 
 #define WAY(Name, Kind, Count, Accepts, ...)                                                 \
   made.Add({L"" #Name, Kind, Count, Count, Accepts,                                          \

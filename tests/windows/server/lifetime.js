@@ -62,19 +62,17 @@ var plain = journalWithoutMacros();
 unload("after a refresh without macros");
 (function() {
   var host = open("countries.xlsx");
-  var controller = newController();
   var started = [];
   var loaded = [];
   boxes.Window();
   host.DefineMacro("VEXEvents.VEXChartRefreshStarted", function(id) {
     started.push(id === undefined ? "all" : id + " " + boxes.WindowIsEnabled());
     if (id === undefined) newController().RefreshPlotsmithData(host, "Add-in", "");
-    controller = null;
-    CollectGarbage();
+    boxes.Release();
     boxes.FreeUnusedLibraries();
     loaded.push(boxes.IsLoaded("Plotsmith.dll"));
   });
-  controller.RefreshPlotsmithData(host, "Add-in", "");
+  check("released under the run", boxes.Refresh(host), "ok");
   check("macros", started.join(", "), "all, VEX_Chart1 false, VEX_Chart2 false");
   check("under a run", loaded.join(), "true,true,true");
   check("calling back", boxes.Take(), kAtWork);
