@@ -1,6 +1,6 @@
 # The newcomer's commands. All building is done by CMake; see CMakePresets.json for the ways to build.
 
-.PHONY: build install uninstall demo check check-windows package sanitize fuzz bench docs clean
+.PHONY: build install uninstall demo check check-windows package installer sanitize fuzz bench docs clean
 
 build:
 	@scripts/install-dependencies.sh
@@ -34,6 +34,10 @@ check-windows:
 # Makes the Debian packages in build/packages: plotsmith, and plotsmith-wizard.
 package:
 	@scripts/package.sh
+
+# Makes the installer for Windows, build/PlotsmithSetup.exe.
+installer:
+	@scripts/installer.sh
 
 # All tests under the address and undefined-behaviour sanitizers.
 sanitize:

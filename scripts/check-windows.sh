@@ -45,6 +45,8 @@ cmake --build build-windows-x64 --target plotsmith Plotsmith tests/windows/all
 step "Building for Windows, 32 bits:"
 cmake --preset windows-x86 >/dev/null
 cmake --build build-windows-x86 --target plotsmith Plotsmith
+step "Installer:"
+scripts/installer.sh
 
 [ $# -gt 0 ] || set -- $(ls tests/windows | sed -n 's/^run-\(.*\)\.sh$/\1/p')
 for name; do

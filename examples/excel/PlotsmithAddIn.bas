@@ -63,7 +63,13 @@ Private Function Plotsmith() As Object
     Set Plotsmith = controller
 End Function
 
-' The help lies beside the add-in. Without it, the Help buttons of the wizard say that it isn't there.
+' The help lies in the folder that Plotsmith's registration names, for one user or for all. Without it, the Help buttons
+' of the wizard say that it isn't there.
 Private Function HelpFile() As String
-    HelpFile = ThisWorkbook.Path & Application.PathSeparator & "Plotsmith.chm"
+    Const Entry As String = "HKEY_CLASSES_ROOT\TypeLib\{F04CE731-6B84-4BED-A04E-E3FE9C127813}\1.0\HELPDIR\"
+    Dim folder As String
+    On Error Resume Next
+    folder = CreateObject("WScript.Shell").RegRead(Entry)
+    On Error GoTo 0
+    If folder <> "" Then HelpFile = folder & "\Plotsmith.chm"
 End Function

@@ -5,10 +5,10 @@
 //   excel.Workbooks.Open("C:\\Reports\\Sales.xlsx");
 //   new PlotsmithAddIn(excel).refresh();
 
-// `excel` is Excel's Application, and `helpFile` the path of Plotsmith.chm, which can be left out.
+// `excel` is Excel's Application, and `helpFile` the path of Plotsmith.chm; without it, it is that of the installation.
 function PlotsmithAddIn(excel, helpFile) {
   this.excel = excel;
-  this.helpFile = helpFile || "";
+  this.helpFile = helpFile || this.installedHelp();
   this.controller = new ActiveXObject("Plotsmith.CPlotsmithController");
 }
 
@@ -29,4 +29,14 @@ PlotsmithAddIn.prototype.refresh = function() {
 // charts of one are refreshed.
 PlotsmithAddIn.prototype.refreshTable = function(table) {
   this.controller.RefreshChartsForTable(this.excel, table);
+};
+
+// The help lies in the folder that Plotsmith's registration names, for one user or for all.
+PlotsmithAddIn.prototype.installedHelp = function() {
+  var entry = "HKEY_CLASSES_ROOT\\TypeLib\\{F04CE731-6B84-4BED-A04E-E3FE9C127813}\\1.0\\HELPDIR\\";
+  try {
+    return new ActiveXObject("WScript.Shell").RegRead(entry) + "\\Plotsmith.chm";
+  } catch (error) {
+    return "";
+  }
 };

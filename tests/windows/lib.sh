@@ -61,6 +61,17 @@ register() {
   done
 }
 
+# The registry as Wine writes it when the last program has ended, without times, each value behind its key: FILE.
+dump() {
+  wineserver -w
+  for root_key in system user; do
+    awk -v root="$root_key" '
+      /^#time=/ || /^"DriverDateData"/ { next }  # Wine writes the time of the start there
+      /^\[/ { sub(/ [0-9]+$/, ""); key = $0; print root, key; next }
+      key != "" && NF { print root, key, $0 }' "$WINEPREFIX/$root_key.reg"
+  done | sed 's/\\\\/\\/g' | LC_ALL=C sort >"$1"
+}
+
 # Runs a script and prints what it says, without the carriage returns: SCRIPT ARGUMENT...
 run_script() {
   wine cscript //nologo "$@" 2>/dev/null | tr -d '\r'

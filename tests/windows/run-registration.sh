@@ -10,17 +10,6 @@ mkdir -p "$folder"
 cp "$windows/Plotsmith.dll" "$folder"
 library=$(windows_path "$folder/Plotsmith.dll")
 
-# The registry as Wine writes it when the last program has ended, without times, each value behind its key: FILE.
-dump() {
-  wineserver -w
-  for root_key in system user; do
-    awk -v root="$root_key" '
-      /^#time=/ || /^"DriverDateData"/ { next }  # Wine writes the time of the start there
-      /^\[/ { sub(/ [0-9]+$/, ""); key = $0; print root, key; next }
-      key != "" && NF { print root, key, $0 }' "$WINEPREFIX/$root_key.reg"
-  done | sed 's/\\\\/\\/g' | LC_ALL=C sort >"$1"
-}
-
 # regsvr32 with these options exits with a code: CODE OPTION...
 regsvr32_exits() {
   expected=$1

@@ -1,0 +1,45 @@
+#!/bin/sh
+# Opens the topics of Plotsmith.chm by their numbers, as the Help buttons do, with Wine's HTML Help, which says in its
+# trace which page it goes to.
+cd "$(dirname "$0")/../.."
+. tests/windows/lib.sh
+
+new_prefix
+folder="$work/Hilfe für Plotsmith"
+mkdir "$folder"
+scripts/help-chm.sh "$folder/Plotsmith.chm"
+help=$(windows_path "$folder/Plotsmith.chm")
+numbers=$(sed -n 's/^\([0-9][0-9]*\)\t.*/\1/p' docs/help/topics.tsv)
+
+# Opens topics, one after the other: FILE NUMBER...
+open_topics() {
+  WINEDEBUG=+htmlhelp timeout 20 wine "$windows/plotsmith_windows_help.exe" "$@" >"$work/printed" 2>"$work/trace" ||
+    fails "it exits with $?" "$*"
+  tr -d '\r' <"$work/printed" >"$work/said"
+}
+
+# No topic is opened, and a box says why: CASE FILE SENTENCE.
+says() {
+  open_topics "$2" 1
+  printf '1: Brindle Plotsmith [OK]: %s\n' "$3" >"$work/expected"
+  same_file "$1" "$work/said" "$work/expected"
+}
+
+# shellcheck disable=SC2086  # a list of words
+open_topics "$help" $numbers
+sed -n 's/.*:navigate_url L"mk:@MSITStore:.*::\/\(.*\)"$/\1/p' "$work/trace" >"$work/pages"
+sed -n 's/^[0-9][0-9]*\t\([^\t]*\)\t.*/help\/\1/p' docs/help/topics.tsv >"$work/expected"
+same_file "pages by number" "$work/pages" "$work/expected"
+echo "$numbers" | sed 's/$/: /' >"$work/expected"
+same_file "no boxes" "$work/said" "$work/expected"
+
+open_topics "$help" 99
+printf '99: Brindle Plotsmith [OK]: HTML Help can'"'"'t show topic 99 of "%s".\n' "$help" >"$work/expected"
+same_file "no such number" "$work/said" "$work/expected"
+says "no path" "" "The host hasn't said where the help file is."
+missing=$(windows_path "$folder")\\None.chm
+says "no file" "$missing" "The help file \"$missing\" isn't there."
+echo "not a CHM file" >"$folder/Text.chm"
+text=$(windows_path "$folder/Text.chm")
+says "not a help file" "$text" "HTML Help can't show topic 1 of \"$text\"."
+finish
