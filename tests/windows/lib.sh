@@ -20,7 +20,7 @@ passes() { passed=$((passed + 1)); }
 # What is wrong comes first, then the name: REASON CASE.
 fails() {
   failed=$((failed + 1))
-  echo "FAILED: $2: $1"
+  printf 'FAILED: %s: %s\n' "$2" "$1"
 }
 
 # A file has these contents: CASE FILE EXPECTED-FILE.
