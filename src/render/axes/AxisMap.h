@@ -25,7 +25,7 @@ class AxisMap {
   double OfSlot(double index) const;
   /// From one category to the next; never negative.
   double CategoryWidth() const;
-  /// The place where bars and areas begin: zero, or the limit that is nearest to it.
+  /// The place where stacks begin: zero, or the limit that is nearest to it.
   double Base() const;
   double Low() const { return low_; }
   double High() const { return high_; }

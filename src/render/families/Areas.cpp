@@ -12,6 +12,7 @@ void DrawAreas(Plot& plot, const GroupModel& group) {
   const AxisMap categories = AxisMap::Along(*categoryAxis, plot.area);
   const AxisMap values = AxisMap::Along(*valueAxis, plot.area);
   const Extents extents = StackValues(group);
+  const double base = plot.BaseOf(group);
   plot.canvas.PushClip(Path().AddRect(plot.area));
   std::vector<double> pile(group.PointCount());  // a series without a value leaves the pile as it is
   for (std::size_t s = 0; s < group.series.size(); ++s) {
@@ -24,7 +25,7 @@ void DrawAreas(Plot& plot, const GroupModel& group) {
       if (group.IsStacked()) pile[i] = to;
       const double x = categories.OfCategory(static_cast<double>(i));
       upper.push_back({x, values.OfValue(to)});
-      lower.push_back({x, from == 0 ? values.Base() : values.OfValue(from)});
+      lower.push_back({x, from == 0 ? base : values.OfValue(from)});
       if (!present) continue;
       const double top = std::min(upper.back().y, lower.back().y);
       plot.points.push_back(

@@ -1,5 +1,6 @@
 #include <cmath>
 #include <limits>
+#include <optional>
 
 #include "render/families/Curves.h"
 #include "render/families/Markers.h"
@@ -77,9 +78,9 @@ void DrawMarkersOf(Plot& plot, const GroupModel& group, const SeriesModel& serie
   }
 }
 
-/// From the greatest to the least value of each category, or from it to the category axis.
+/// From the greatest value of each category to a place along the axis of values, or to the least value.
 void DrawUprights(Plot& plot, const AxisMap& categories, const AxisMap& values, const Extents& extents,
-                  std::size_t count, const Stroke& stroke, bool toAxis) {
+                  std::size_t count, const Stroke& stroke, std::optional<double> end = {}) {
   for (std::size_t i = 0; i < count; ++i) {
     double least = std::numeric_limits<double>::infinity(), greatest = -least;
     for (const auto& series : extents.to) {
@@ -90,7 +91,7 @@ void DrawUprights(Plot& plot, const AxisMap& categories, const AxisMap& values, 
     if (!(greatest >= least)) continue;
     const double x = categories.OfCategory(static_cast<double>(i));
     plot.canvas.AddLine({Role::kDropLine, 0, static_cast<int>(i + 1)}, {x, values.OfValue(greatest)},
-                        {x, toAxis ? values.Base() : values.OfValue(least)}, stroke);
+                        {x, end.value_or(values.OfValue(least))}, stroke);
   }
 }
 
@@ -104,10 +105,11 @@ void DrawLines(Plot& plot, const GroupModel& group) {
   const AxisMap values = AxisMap::Along(*valueAxis, plot.area);
   const Extents extents = StackValues(group);
   if (group.dropLines) {
-    DrawUprights(plot, categories, values, extents, group.PointCount(), *group.dropLines, true);
+    DrawUprights(plot, categories, values, extents, group.PointCount(), *group.dropLines,
+                 plot.CrossingOf(group));
   }
   if (group.highLowLines) {
-    DrawUprights(plot, categories, values, extents, group.PointCount(), *group.highLowLines, false);
+    DrawUprights(plot, categories, values, extents, group.PointCount(), *group.highLowLines);
   }
   for (std::size_t s = 0; s < group.series.size(); ++s) {
     const SeriesModel& series = group.series[s];
