@@ -26,13 +26,6 @@ BarSlots SlotsOf(const GroupModel& group, double categoryWidth) {
   return slots;
 }
 
-ShapeStyle StyleOfBar(const SeriesModel& series, std::size_t point) {
-  ShapeStyle style = series.StyleOf(point);
-  const bool inverted = series.values[point] < 0 && series.invertIfNegative && !series.points.contains(point);
-  if (inverted && std::holds_alternative<SolidFill>(style.fill)) style.fill = SolidFill{{255, 255, 255, 1}};
-  return style;
-}
-
 }  // namespace
 
 void DrawBars(Plot& plot, const GroupModel& group) {
@@ -59,7 +52,7 @@ void DrawBars(Plot& plot, const GroupModel& group) {
       const double across = middle - slots.width / 2;
       const Rect box = horizontal ? Rect{std::min(begin, end), across, std::abs(end - begin), slots.width}
                                   : Rect{across, std::min(begin, end), slots.width, std::abs(end - begin)};
-      const ShapeStyle style = StyleOfBar(series, i);
+      const ShapeStyle style = series.StyleOf(i, series.values[i]);
       plot.canvas.Add({Role::kBar, series.number, static_cast<int>(i + 1)}, Path().AddRect(box), style.fill,
                       style.stroke);
       plot.points.push_back({&group, &series, i, box, to < (group.IsStacked() ? from : crossing)});

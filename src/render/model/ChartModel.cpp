@@ -1,6 +1,7 @@
 #include "render/model/ChartModel.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace plotsmith::render {
 
@@ -24,6 +25,19 @@ const LabelModel* LabelsModel::Of(std::size_t point) const {
 const ShapeStyle& SeriesModel::StyleOf(std::size_t point) const {
   const auto special = points.find(point);
   return special == points.end() ? style : special->second.style;
+}
+
+ShapeStyle SeriesModel::StyleOf(std::size_t point, double value) const {
+  ShapeStyle shape = StyleOf(point);
+  const auto special = points.find(point);
+  const bool inverts = special == points.end() ? invertIfNegative
+                                               : special->second.invertIfNegative.value_or(invertIfNegative);
+  if (!inverts || !(value < 0)) return shape;
+  if (std::holds_alternative<SolidFill>(shape.fill)) shape.fill = invertedFill;
+  if (auto* pattern = std::get_if<PatternFill>(&shape.fill)) {
+    std::swap(pattern->foreground, pattern->background);
+  }
+  return shape;
 }
 
 const MarkerModel& SeriesModel::MarkerOf(std::size_t point) const {

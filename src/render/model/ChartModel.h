@@ -95,6 +95,7 @@ struct PointModel {
   ShapeStyle style;
   std::optional<MarkerModel> marker;
   std::optional<double> explosion;
+  std::optional<bool> invertIfNegative;  ///< nothing where it is as the series says
 };
 
 struct SeriesModel {
@@ -109,12 +110,15 @@ struct SeriesModel {
   MarkerModel marker;
   bool smooth = false;
   bool invertIfNegative = false;
+  Fill invertedFill;  ///< what a solid filling becomes below zero
   bool bubble3D = false;
   double explosion = 0;                      ///< percent of the radius
   std::map<std::size_t, PointModel> points;  ///< those that differ, from 0
   LabelsModel labels;
 
   const ShapeStyle& StyleOf(std::size_t point) const;
+  /// The same with the filling that a point has by its value or size, where those below zero are inverted.
+  ShapeStyle StyleOf(std::size_t point, double value) const;
   const MarkerModel& MarkerOf(std::size_t point) const;
 };
 

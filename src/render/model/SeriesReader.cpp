@@ -156,8 +156,22 @@ void ReadPoints(ReadingContext& context, const GroupModel& group, SeriesModel& s
     } else {
       point.marker = automaticMarker;
     }
+    // a point with a filling of its own keeps it, unless it says otherwise
+    if (xml::Child(node, "invertIfNegative") || xlsx::FindFill(xml::Child(node, "spPr"))) {
+      point.invertIfNegative = schema::BooleanVal(node, "invertIfNegative", false);
+    }
     if (xml::Child(node, "explosion")) point.explosion = Limited(node, "explosion", 0, 0, 400);
   }
+}
+
+/// The colour that Excel since 2010 has for inverted points, in an extension of the series; else white.
+Fill ReadInvertedFill(ReadingContext& context, pugi::xml_node series) {
+  const Fill white = SolidFill{{255, 255, 255, 1}};
+  for (const pugi::xml_node& extension : xml::Children(xml::Child(series, "extLst"), "ext")) {
+    const auto properties = xml::Child(extension, "invertSolidFillFmt", "spPr");
+    if (properties) return ReadFill(context.part, xlsx::FindFill(properties), white);
+  }
+  return white;
 }
 
 SeriesModel ReadSeries(ReadingContext& context, const GroupModel& group, pugi::xml_node node, int number) {
@@ -191,6 +205,7 @@ SeriesModel ReadSeries(ReadingContext& context, const GroupModel& group, pugi::x
       ReadMarker(context, xml::Child(node, "marker"), AutomaticMarker(color, index), drawsMarkers);
   series.smooth = schema::BooleanVal(node, "smooth", false);
   series.invertIfNegative = schema::BooleanVal(node, "invertIfNegative", false);
+  series.invertedFill = ReadInvertedFill(context, node);
   series.bubble3D = schema::BooleanVal(node, "bubble3D", schema::BooleanVal(group.node, "bubble3D", false));
   series.explosion = Limited(node, "explosion", 0, 0, 400);
   const bool varies = group.varyColors && !xlsx::FindFill(properties);
