@@ -200,7 +200,7 @@ INSTANTIATE_TEST_SUITE_P(
         LabelCase{"TurnedByHand", 5, "Q",
                   "<c:txPr><a:bodyPr rot=\"5400000\"/><a:p><a:pPr><a:defRPr/></a:pPr></a:p></c:txPr>", 90,
                   true}),
-    [](const auto& testInfo) { return S(testInfo.param.name); });
+    [](const auto& each) { return S(each.param.name); });
 
 TEST_F(AxesTest, DatesLieWhereTheirDayMonthOrYearIs) {
   struct {

@@ -123,7 +123,7 @@ INSTANTIATE_TEST_SUITE_P(
         HostileCase{"Explosion",
                     PlotXml("<c:doughnutChart>" + SeriesXml(0, {1, 2}, "<c:explosion val=\"4000000000\"/>") +
                             "<c:firstSliceAng val=\"-1e9\"/><c:holeSize val=\"1000\"/></c:doughnutChart>")}),
-    [](const auto& info) { return S(info.param.name); });
+    [](const auto& each) { return S(each.param.name); });
 
 TEST_F(DrawingTest, FiveThousandPointsOf254SeriesStayUsable) {
   std::vector<double> values;
