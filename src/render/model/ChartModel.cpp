@@ -55,6 +55,10 @@ bool ChartModel::Is3D() const {
   return std::any_of(groups.begin(), groups.end(), [](const GroupModel& group) { return group.is3D; });
 }
 
+bool ChartModel::IsRound() const {
+  return std::all_of(groups.begin(), groups.end(), [](const GroupModel& group) { return group.IsRound(); });
+}
+
 const GroupModel* ChartModel::GroupOfSeries(int number) const {
   for (const GroupModel& group : groups) {
     for (const SeriesModel& one : group.series) {

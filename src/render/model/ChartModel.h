@@ -159,6 +159,9 @@ struct GroupModel {
   int category = -1, value = -1, depth = -1;
 
   bool IsStacked() const { return grouping == Grouping::kStacked || grouping == Grouping::kPercent; }
+  bool IsRound() const {
+    return family == Family::kPie || family == Family::kDoughnut || family == Family::kOfPie;
+  }
   bool HasXValues() const { return family == Family::kScatter || family == Family::kBubble; }
   /// The number of points of the longest series.
   std::size_t PointCount() const;
@@ -241,6 +244,8 @@ struct ChartModel {
   xlsx::DateSystem dates = xlsx::DateSystem::k1900;
 
   bool Is3D() const;
+  /// Whether all groups are pies or doughnuts.
+  bool IsRound() const;
   /// Null for a number that no series has.
   const SeriesModel* FindSeries(int number) const;
   const GroupModel* GroupOfSeries(int number) const;

@@ -133,7 +133,8 @@ ChartModel ReadChart(xlsx::ChartPart& part, Notes& notes) {
     axis.crossed = IndexOf(chart.axes, xlsx::FindCrossedAxis(axis.node));
     if (!axis.format) axis.format = context.Format("General");
   }
-  chart.plotArea = ReadStyle(part, xml::Child(plotArea, "spPr"), context.styles.PlotArea(chart.Is3D()));
+  chart.plotArea = ReadStyle(part, xml::Child(plotArea, "spPr"),
+                             context.styles.PlotArea(!chart.Is3D() && !chart.IsRound()));
   if (const auto title = xlsx::ShownTitle(part)) {
     chart.title = ReadTitle(context, xml::Child(node, "title"), xlsx::TextRole::kChartTitle, *title);
   }

@@ -245,10 +245,8 @@ GroupModel ReadGroup(ReadingContext& context, pugi::xml_node node,
   readLines("hiLowLines", group.highLowLines);
   const auto all = xml::Children(node, "ser");
   // points differ in colour where there is nothing else to tell apart
-  const bool round =
-      kind.family == Family::kPie || kind.family == Family::kDoughnut || kind.family == Family::kOfPie;
-  group.varyColors =
-      schema::BooleanVal(node, "varyColors", round) && (round || context.part.Series().size() == 1);
+  group.varyColors = schema::BooleanVal(node, "varyColors", group.IsRound()) &&
+                     (group.IsRound() || context.part.Series().size() == 1);
   for (const pugi::xml_node& series : all) {
     const auto number = numbers.find(series);
     if (number != numbers.end()) group.series.push_back(ReadSeries(context, group, series, number->second));
