@@ -121,6 +121,34 @@ TEST_F(FamiliesTest, PiesAndDoughnutsHaveNoPlotAreaOfTheirOwn) {
   }
 }
 
+TEST_F(FamiliesTest, PointsAreDrawnAlongAnAxisOfCategoriesAsWell) {
+  const S points =
+      "<c:ser><c:idx val=\"1\"/><c:order val=\"1\"/><c:marker><c:symbol val=\"square\"/></c:marker>"
+      "<c:xVal><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>1</c:v></c:pt><c:pt idx=\"1\"><c:v>2.5"
+      "</c:v></c:pt></c:numLit></c:xVal><c:yVal><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>4"
+      "</c:v></c:pt><c:pt idx=\"1\"><c:v>5</c:v></c:pt></c:numLit></c:yVal></c:ser>";
+  const S scatter = GroupXml("scatterChart", "<c:scatterStyle val=\"lineMarker\"/>", points);
+  const S columns = GroupXml("barChart", "", SeriesXml(0, {1, 2, 3}));
+  struct {
+    const char* what;
+    S groups;
+    double first, second;  // in shares of the plot area's width
+    std::vector<S> labels;
+  } cases[] = {
+      {"alone", scatter, 1.0 / 3, 2.5 / 3, {"0", "0.5", "1", "1.5", "2", "2.5", "3"}},
+      {"beside columns", columns + scatter, 1.0 / 6, 2.0 / 3, {"1", "2", "3"}},
+  };
+  for (const auto& test : cases) {
+    const Drawing drawing = Draw(PlotXml(test.groups + AxesXml()));
+    const Rect plot = BoxOf(drawing, Role::kPlotArea);
+    const auto markers = BoxesOf(drawing, Role::kMarker);
+    ASSERT_EQ(markers.size(), 2u) << test.what;
+    EXPECT_NEAR(markers[0].Center().x, plot.left + plot.width * test.first, 1e-6) << test.what;
+    EXPECT_NEAR(markers[1].Center().x, plot.left + plot.width * test.second, 1e-6) << test.what;
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), test.labels) << test.what;
+  }
+}
+
 TEST_F(FamiliesTest, BubblesShowTheirSizeAsAreaOrAsWidth) {
   const std::vector<std::array<double, 3>> bubbles = {{1, 1, 100}, {2, 3, 25}, {3, 2, -50}, {4, 4, 0}};
   struct {

@@ -38,12 +38,24 @@ TEST_F(LayoutTest, TheLegendTakesItsSide) {
     EXPECT_EQ(DrawingComplaints(drawing), "") << position;
     EXPECT_EQ(TextsOf(drawing, Role::kLegendEntry), (Texts{"Series 0", "Series 1", "Series 2"})) << position;
     const Rect entries = BoxOf(drawing, Role::kLegendEntry), plot = BoxOf(drawing, Role::kPlotArea);
-    if (position == "r" || position == "tr") EXPECT_GT(entries.left, plot.Right()) << position;
-    if (position == "l") EXPECT_LT(entries.Right(), plot.left);
-    if (position == "t") EXPECT_LT(entries.Bottom(), plot.top);
-    if (position == "b") EXPECT_GT(entries.top, BoxOf(drawing, Role::kTickLabel, 1).Bottom());
-    if (position == "r") EXPECT_NEAR(entries.Center().y, 135, 1);
-    if (position == "tr") EXPECT_LT(entries.top, 15);
+    if (position == "r" || position == "tr") {
+      EXPECT_GT(entries.left, plot.Right()) << position;
+    }
+    if (position == "l") {
+      EXPECT_LT(entries.Right(), plot.left);
+    }
+    if (position == "t") {
+      EXPECT_LT(entries.Bottom(), plot.top);
+    }
+    if (position == "b") {
+      EXPECT_GT(entries.top, BoxOf(drawing, Role::kTickLabel, 1).Bottom());
+    }
+    if (position == "r") {
+      EXPECT_NEAR(entries.Center().y, 135, 1);
+    }
+    if (position == "tr") {
+      EXPECT_LT(entries.top, 15);
+    }
     // a key for each entry, on its line and in front of it
     const auto keys = ItemsOf(drawing, Role::kLegendKey);
     const auto texts = BoxesOf(drawing, Role::kLegendEntry);
@@ -78,6 +90,22 @@ TEST_F(LayoutTest, TheLegendLeavesOutEntriesAndGoesWhereItWasDragged) {
   EXPECT_NEAR(box.width, 153.6, 1e-6);
   EXPECT_NEAR(box.height, 135, 1e-6);
   for (const Rect& entry : BoxesOf(dragged, Role::kLegendEntry)) EXPECT_TRUE(Union(box, entry) == box);
+}
+
+TEST_F(LayoutTest, ALegendThatIsTooNarrowForItsTextsShowsAllEntriesThatHaveHeight) {
+  struct {
+    const char *what, *height;
+    std::size_t entries;
+  } cases[] = {{"high enough", "0.6", 3}, {"one row", "0.08", 1}};
+  for (const auto& test : cases) {
+    const Drawing drawing = Draw(PlotXml(
+        "<c:pieChart><c:varyColors val=\"1\"/>" +
+            SeriesXml(0, {1, 2, 3}, "", "", CategoriesXml({"Task01", "Task02", "Task03"})) + "</c:pieChart>",
+        LegendXml("l", S("<c:layout><c:manualLayout><c:xMode val=\"edge\"/><c:yMode val=\"edge\"/><c:x "
+                         "val=\"0.04\"/><c:y val=\"0.3\"/><c:w val=\"0.08\"/><c:h val=\"") +
+                           test.height + "\"/></c:manualLayout></c:layout>")));
+    EXPECT_EQ(ItemsOf(drawing, Role::kLegendEntry).size(), test.entries) << test.what;
+  }
 }
 
 TEST_F(LayoutTest, APlotAreaByHandIsWhereItsLayoutSays) {

@@ -139,7 +139,7 @@ void DrawScatter(Plot& plot, const GroupModel& group) {
       LinePoint& point = points.emplace_back();
       point.index = i;
       point.present = i < series.x.size() && std::isfinite(series.values[i]) && std::isfinite(series.x[i]);
-      if (point.present) point.place = {across.OfValue(series.x[i]), values.OfValue(series.values[i])};
+      if (point.present) point.place = {across.OfX(series.x[i]), values.OfValue(series.values[i])};
     }
     if (!group.markersOnly) DrawLineOf(plot, series, points);
     DrawMarkersOf(plot, group, series, points);
