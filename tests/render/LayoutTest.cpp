@@ -156,6 +156,38 @@ TEST_F(LayoutTest, TitlesBreakKeepTheirRunsAndMakeRoom) {
   EXPECT_EQ(BoxOf(DrawColumns("", "", overlay), Role::kPlotArea), BoxOf(without, Role::kPlotArea));
 }
 
+TEST_F(LayoutTest, LooksThatArentDrawnAreSaid) {
+  const S picture = "<c:spPr><a:blipFill><a:blip/><a:stretch><a:fillRect/></a:stretch></a:blipFill></c:spPr>";
+  const S dark =
+      "The chart has style 42, whose dark backgrounds aren't drawn; it is in the colours of a light one.";
+  const S filling = "Pictures as fillings aren't drawn; what has one is in its automatic colour.";
+  struct {
+    const char* what;
+    S front, series, behind;
+    Texts notes;
+  } cases[] = {
+      {"a light style", "<c:style val=\"26\"/>", "", "", {}},
+      {"a dark style", "<c:style val=\"42\"/>", "", "", {dark}},
+      {"a dark style of newer files",
+       "<mc:AlternateContent "
+       "xmlns:mc=\"http://schemas.openxmlformats.org/markup-compatibility/2006\"><mc:Choice "
+       "Requires=\"c14\" xmlns:c14=\"http://schemas.microsoft.com/office/drawing/2007/8/2/chart\"><c14:style "
+       "val=\"142\"/></mc:Choice></mc:AlternateContent>",
+       "",
+       "",
+       {dark}},
+      {"a picture on bars", "", picture, "", {filling}},
+      {"a picture behind all", "", "", picture, {filling}},
+  };
+  for (const auto& test : cases) {
+    S part = ChartPartXml(PlotXml(GroupXml("barChart", "", SeriesXml(0, {1, 2}, test.series)) + AxesXml()),
+                          test.behind);
+    part.insert(part.find("<c:chart>"), test.front);
+    EXPECT_EQ(FillOf(ItemsOf(DrawPart(part), Role::kBar)[0]), "#4F81BD") << test.what;
+    EXPECT_EQ(notes_, test.notes) << test.what;
+  }
+}
+
 TEST_F(LayoutTest, FillingsAndLinesAreTheChartParts) {
   const S look =
       "<c:spPr><a:solidFill><a:srgbClr val=\"00B050\"><a:alpha "
