@@ -254,6 +254,37 @@ TEST_F(AxesTest, DatesLieWhereTheirDayMonthOrYearIs) {
   }
 }
 
+TEST_F(AxesTest, LinesAndAreasGoFromDateToDate) {
+  const S dates =
+      "<c:cat><c:numLit><c:formatCode>m-d</c:formatCode><c:ptCount val=\"3\"/><c:pt "
+      "idx=\"0\"><c:v>45292</c:v>"
+      "</c:pt><c:pt idx=\"1\"><c:v>45296</c:v></c:pt><c:pt "
+      "idx=\"2\"><c:v>45294</c:v></c:pt></c:numLit></c:cat>";
+  struct {
+    const char* group;
+    Role role;
+    bool hasDates;
+    std::vector<double> places;  // in shares of the way from the first point to the farthest
+  } cases[] = {{"lineChart", Role::kLine, true, {0, 0.5, 1}},
+               {"areaChart", Role::kArea, true, {0, 0.5, 1}},
+               {"lineChart", Role::kLine, false, {0, 0.5, 1}}};
+  for (const auto& test : cases) {
+    S axes = AxesXml();
+    for (std::size_t at; test.hasDates && (at = axes.find("catAx")) != S::npos;)
+      axes.replace(at, 5, "dateAx");
+    const Drawing drawing =
+        Draw(PlotXml(GroupXml(test.group, "", SeriesXml(0, {1, 3, 2}, "", "", dates)) + axes));
+    const auto steps = std::get<render::PathItem>(ItemsOf(drawing, test.role)[0].content).path.Steps();
+    ASSERT_GE(steps.size(), 3u);
+    for (std::size_t i = 0; i < 3; ++i) {
+      const double way = steps[2].to.x - steps[0].to.x;
+      EXPECT_NEAR(steps[i].to.x, steps[0].to.x + way * test.places[i], 1e-6) << test.group << i;
+    }
+    // by date the values rise, and as they come they don't
+    EXPECT_EQ(steps[1].to.y > steps[2].to.y, test.hasDates) << test.group;
+  }
+}
+
 TEST_F(AxesTest, LongNamesBesideBarsLeaveRoomForThem) {
   const Drawing drawing = DrawWith(
       {3, 5}, "", "", {"A name that goes on and on until nothing is left of the chart at all", "B"}, true);

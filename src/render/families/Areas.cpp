@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "render/axes/DateAxis.h"
 #include "render/families/Plot.h"
 
 namespace plotsmith::render {
@@ -18,7 +19,7 @@ void DrawAreas(Plot& plot, const GroupModel& group) {
   for (std::size_t s = 0; s < group.series.size(); ++s) {
     const SeriesModel& series = group.series[s];
     std::vector<Point> upper, lower;
-    for (std::size_t i = 0; i < series.values.size(); ++i) {
+    for (const std::size_t i : OrderAlong(*categoryAxis, series.values.size())) {
       const bool present = std::isfinite(extents.to[s][i]);
       const double from = group.IsStacked() ? pile[i] : 0;
       const double to = present ? extents.to[s][i] : from;

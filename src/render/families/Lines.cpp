@@ -2,6 +2,7 @@
 #include <limits>
 #include <optional>
 
+#include "render/axes/DateAxis.h"
 #include "render/families/Curves.h"
 #include "render/families/Markers.h"
 #include "render/families/Plot.h"
@@ -114,7 +115,7 @@ void DrawLines(Plot& plot, const GroupModel& group) {
   for (std::size_t s = 0; s < group.series.size(); ++s) {
     const SeriesModel& series = group.series[s];
     std::vector<LinePoint> points;
-    for (std::size_t i = 0; i < series.values.size(); ++i) {
+    for (const std::size_t i : OrderAlong(*categoryAxis, series.values.size())) {
       double value = extents.to[s][i];
       if (!std::isfinite(value) && (plot.chart.blanks == "zero" || group.IsStacked())) value = 0;
       LinePoint& point = points.emplace_back();
