@@ -49,7 +49,8 @@ void DrawSegments(Plot& plot, const SeriesModel& series, const std::vector<LineP
 void DrawLineOf(Plot& plot, const SeriesModel& series, const std::vector<LinePoint>& points) {
   const Rect clip{plot.area.left - 1, plot.area.top - 1, plot.area.width + 2, plot.area.height + 2};
   plot.canvas.PushClip(Path().AddRect(clip));
-  if (!series.points.empty() && !series.smooth) {
+  const bool differ = !series.points.empty() || !series.palette.empty();
+  if (differ && !series.smooth) {
     DrawSegments(plot, series, points);
   } else {
     Path path;

@@ -24,7 +24,8 @@ const LabelModel* LabelsModel::Of(std::size_t point) const {
 
 const ShapeStyle& SeriesModel::StyleOf(std::size_t point) const {
   const auto special = points.find(point);
-  return special == points.end() ? style : special->second.style;
+  if (special != points.end()) return special->second.style;
+  return palette.empty() ? style : palette[point % palette.size()].style;
 }
 
 ShapeStyle SeriesModel::StyleOf(std::size_t point, double value) const {
@@ -42,7 +43,9 @@ ShapeStyle SeriesModel::StyleOf(std::size_t point, double value) const {
 
 const MarkerModel& SeriesModel::MarkerOf(std::size_t point) const {
   const auto special = points.find(point);
-  return special == points.end() || !special->second.marker ? marker : *special->second.marker;
+  if (special != points.end() && special->second.marker) return *special->second.marker;
+  const auto* varied = palette.empty() ? nullptr : &palette[point % palette.size()].marker;
+  return varied != nullptr && varied->has_value() ? **varied : marker;
 }
 
 std::size_t GroupModel::PointCount() const {

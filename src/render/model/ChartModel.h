@@ -113,7 +113,8 @@ struct SeriesModel {
   Fill invertedFill;  ///< what a solid filling becomes below zero
   bool bubble3D = false;
   double explosion = 0;                      ///< percent of the radius
-  std::map<std::size_t, PointModel> points;  ///< those that differ, from 0
+  std::vector<PointModel> palette;           ///< of points in varied colours; begins again behind its end
+  std::map<std::size_t, PointModel> points;  ///< those that differ from these, from 0
   LabelsModel labels;
 
   const ShapeStyle& StyleOf(std::size_t point) const;

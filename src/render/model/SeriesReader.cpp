@@ -139,10 +139,7 @@ std::vector<PointModel> VariedPoints(ReadingContext& context, const GroupModel& 
 
 void ReadPoints(ReadingContext& context, const GroupModel& group, SeriesModel& series, bool drawsMarkers,
                 bool varies) {
-  if (varies) {
-    const std::vector<PointModel> palette = VariedPoints(context, group, series, drawsMarkers);
-    for (std::size_t i = 0; i < series.values.size(); ++i) series.points[i] = palette[i % palette.size()];
-  }
+  if (varies) series.palette = VariedPoints(context, group, series, drawsMarkers);
   for (const pugi::xml_node& node : xml::Children(series.node, "dPt")) {
     const long long number = schema::NumberOf(node);
     if (number < 0 || static_cast<std::size_t>(number) >= series.values.size()) continue;
