@@ -12,6 +12,7 @@
 #include "render/model/ChartReader.h"
 #include "render/shapes/UserShapes.h"
 #include "render/threed/Plot3D.h"
+#include "xlsx/chart/AutomaticColors.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/package/Xml.h"
 
@@ -62,6 +63,19 @@ void DrawGroup(Plot& plot, const GroupModel& group) {
       return plot.canvas.Note("Radar charts aren't drawn.");
     case Family::kSurface:
       return plot.canvas.Note("Surface charts aren't drawn.");
+  }
+}
+
+/// What of the looks of a chart is known but not drawn.
+void NoteMissingLooks(Canvas& canvas, xlsx::ChartPart& part) {
+  constexpr long long kFirstDarkStyle = 33;
+  if (const long long style = xlsx::ChartStyleOf(part); style >= kFirstDarkStyle) {
+    canvas.Note("The chart has style " + std::to_string(style) +
+                ", whose dark backgrounds aren't drawn; it is in the colours of a light one.");
+  }
+  const auto isPicture = [](pugi::xml_node node) { return xlsx::xml::Is(node, "blipFill"); };
+  if (part.Space().find_node(isPicture)) {
+    canvas.Note("Pictures as fillings aren't drawn; what has one is in its automatic colour.");
   }
 }
 
@@ -129,6 +143,7 @@ Drawing DrawChart(xlsx::ChartPart& part, double width, double height, const Text
   if (layout.legend) DrawLegend(canvas, chart, *layout.legend);
   DrawUserShapes(part, canvas);
   NoteMissing(canvas, chart);
+  NoteMissingLooks(canvas, part);
   Describe(chart, drawing);
   return drawing;
 }

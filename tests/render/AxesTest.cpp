@@ -96,6 +96,7 @@ TEST_F(AxesTest, AnAxisLiesWhereItCrossesTheOther) {
   } cases[] = {
       {"at zero", "", "", 1.0 / 3, false},
       {"at the least", "<c:crosses val=\"min\"/>", "", 0, true},
+      {"at the most", "<c:crosses val=\"max\"/>", "", 1, false},
       {"at a value", "<c:crossesAt val=\"5\"/>", "", 0.5, false},
       {"labels at the low end", "<c:tickLblPos val=\"low\"/>", "", 1.0 / 3, true},
   };
@@ -107,8 +108,52 @@ TEST_F(AxesTest, AnAxisLiesWhereItCrossesTheOther) {
     EXPECT_NEAR(BoxOf(drawing, Role::kAxisLine, 1).top, plot.Bottom() - plot.height * test.share, 1e-6)
         << test.what;
     EXPECT_EQ(BoxOf(drawing, Role::kTickLabel, 1).top >= plot.Bottom(), test.labelsBelowPlot) << test.what;
+    // a bar goes from the axis to its value, up or down
+    const double axis = BoxOf(drawing, Role::kAxisLine, 1).top;
+    const auto bars = BoxesOf(drawing, Role::kBar);
+    ASSERT_EQ(bars.size(), 2u) << test.what;
+    for (std::size_t i = 0; i < 2; ++i) {
+      const double end = plot.Bottom() - plot.height * (i == 0 ? 5 : 25) / 30;
+      EXPECT_NEAR(bars[i].top, std::min(axis, end), 1e-6) << test.what << i;
+      EXPECT_NEAR(bars[i].Bottom(), std::max(axis, end), 1e-6) << test.what << i;
+    }
     EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
   }
+}
+
+TEST_F(AxesTest, AreasAndDropLinesEndAtTheCategoryAxisUnlessTheyAreStacked) {
+  const S scaling = "<c:scaling><c:max val=\"20\"/><c:min val=\"0\"/></c:scaling>";
+  struct {
+    const char* what;
+    S group, grouping, last;
+    Role role;
+    double top, bottom;  // of what is drawn, as shares of the plot area's height from the bottom
+  } cases[] = {
+      {"areas", "areaChart", "standard", "", Role::kArea, 0.75, 0.1},
+      {"stacked areas", "areaChart", "stacked", "", Role::kArea, 0.75, 0},
+      {"drop lines", "lineChart", "standard", "<c:dropLines/>", Role::kDropLine, 0.75, 0.1},
+      {"columns", "barChart", "clustered", "", Role::kBar, 0.75, 0.1},
+      {"stacked columns", "barChart", "stacked", "", Role::kBar, 0.75, 0},
+  };
+  for (const auto& test : cases) {
+    const Drawing drawing = Draw(PlotXml(GroupXml(test.group, "<c:grouping val=\"" + test.grouping + "\"/>",
+                                                  SeriesXml(0, {2, 15}), test.last) +
+                                         AxesXml("<c:crossesAt val=\"5\"/>", scaling)));
+    const Rect plot = BoxOf(drawing, Role::kPlotArea), box = BoxOf(drawing, test.role);
+    EXPECT_NEAR(box.top, plot.Bottom() - plot.height * test.top, 1e-6) << test.what;
+    EXPECT_NEAR(box.Bottom(), plot.Bottom() - plot.height * test.bottom, 1e-6) << test.what;
+  }
+}
+
+TEST_F(AxesTest, LabelsOfBarsThatHangFromTheirAxisAreBelowThem) {
+  const Drawing drawing = Draw(PlotXml(
+      GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>",
+               SeriesXml(0, {2, 15}, "<c:dLbls><c:showVal val=\"1\"/></c:dLbls>")) +
+      AxesXml("<c:crossesAt val=\"5\"/>", "<c:scaling><c:max val=\"20\"/><c:min val=\"-5\"/></c:scaling>")));
+  const auto bars = BoxesOf(drawing, Role::kBar), labels = BoxesOf(drawing, Role::kDataLabel);
+  ASSERT_EQ(labels.size(), 2u);
+  EXPECT_GE(labels[0].top, bars[0].Bottom());
+  EXPECT_LE(labels[1].Bottom(), bars[1].top);
 }
 
 /// How the labels of the category axis look.
@@ -155,7 +200,7 @@ INSTANTIATE_TEST_SUITE_P(
         LabelCase{"TurnedByHand", 5, "Q",
                   "<c:txPr><a:bodyPr rot=\"5400000\"/><a:p><a:pPr><a:defRPr/></a:pPr></a:p></c:txPr>", 90,
                   true}),
-    [](const auto& info) { return S(info.param.name); });
+    [](const auto& each) { return S(each.param.name); });
 
 TEST_F(AxesTest, DatesLieWhereTheirDayMonthOrYearIs) {
   struct {
@@ -206,6 +251,37 @@ TEST_F(AxesTest, DatesLieWhereTheirDayMonthOrYearIs) {
       const double expected = plot.left + plot.width * (test.slots[i] + 0.5) / (test.slots.back() + 1);
       EXPECT_NEAR(markers[i].Center().x, expected, 1e-6) << test.what << i;
     }
+  }
+}
+
+TEST_F(AxesTest, LinesAndAreasGoFromDateToDate) {
+  const S dates =
+      "<c:cat><c:numLit><c:formatCode>m-d</c:formatCode><c:ptCount val=\"3\"/><c:pt "
+      "idx=\"0\"><c:v>45292</c:v>"
+      "</c:pt><c:pt idx=\"1\"><c:v>45296</c:v></c:pt><c:pt "
+      "idx=\"2\"><c:v>45294</c:v></c:pt></c:numLit></c:cat>";
+  struct {
+    const char* group;
+    Role role;
+    bool hasDates;
+    std::vector<double> places;  // in shares of the way from the first point to the farthest
+  } cases[] = {{"lineChart", Role::kLine, true, {0, 0.5, 1}},
+               {"areaChart", Role::kArea, true, {0, 0.5, 1}},
+               {"lineChart", Role::kLine, false, {0, 0.5, 1}}};
+  for (const auto& test : cases) {
+    S axes = AxesXml();
+    for (std::size_t at; test.hasDates && (at = axes.find("catAx")) != S::npos;)
+      axes.replace(at, 5, "dateAx");
+    const Drawing drawing =
+        Draw(PlotXml(GroupXml(test.group, "", SeriesXml(0, {1, 3, 2}, "", "", dates)) + axes));
+    const auto steps = std::get<render::PathItem>(ItemsOf(drawing, test.role)[0].content).path.Steps();
+    ASSERT_GE(steps.size(), 3u);
+    for (std::size_t i = 0; i < 3; ++i) {
+      const double way = steps[2].to.x - steps[0].to.x;
+      EXPECT_NEAR(steps[i].to.x, steps[0].to.x + way * test.places[i], 1e-6) << test.group << i;
+    }
+    // by date the values rise, and as they come they don't
+    EXPECT_EQ(steps[1].to.y > steps[2].to.y, test.hasDates) << test.group;
   }
 }
 

@@ -68,11 +68,21 @@ TEST_F(DataLabelsTest, StandWhereTheirPositionSaysAtBars) {
         const double base =
             flat ? (i == 2 ? bars[i].Right() : bars[i].left) : (i == 2 ? bars[i].top : bars[i].Bottom());
         const double share = std::abs((flat ? labels[i].Center().x : labels[i].Center().y) - base) / length;
-        if (position == "outEnd") EXPECT_GT(share, 1) << direction << i;
-        if (position == "outEnd") EXPECT_FALSE(Overlap(bars[i], labels[i])) << direction << i;
-        if (position == "inEnd") EXPECT_TRUE(share > 0.6 && share < 1) << direction << i << ' ' << share;
-        if (position == "ctr") EXPECT_NEAR(share, 0.5, 0.01) << direction << i;
-        if (position == "inBase") EXPECT_LT(share, 0.4) << direction << i;
+        if (position == "outEnd") {
+          EXPECT_GT(share, 1) << direction << i;
+        }
+        if (position == "outEnd") {
+          EXPECT_FALSE(Overlap(bars[i], labels[i])) << direction << i;
+        }
+        if (position == "inEnd") {
+          EXPECT_TRUE(share > 0.6 && share < 1) << direction << i << ' ' << share;
+        }
+        if (position == "ctr") {
+          EXPECT_NEAR(share, 0.5, 0.01) << direction << i;
+        }
+        if (position == "inBase") {
+          EXPECT_LT(share, 0.4) << direction << i;
+        }
         const double across =
             flat ? labels[i].Center().y - bars[i].Center().y : labels[i].Center().x - bars[i].Center().x;
         EXPECT_NEAR(across, 0, 0.01);

@@ -124,7 +124,11 @@ render::Fonts& DrawingTest::SharedFonts() {
 }
 
 Drawing DrawingTest::Draw(const std::string& chart, const std::string& behind, double width, double height) {
-  OpenChart(ChartPartXml(chart, behind));
+  return DrawPart(ChartPartXml(chart, behind), width, height);
+}
+
+Drawing DrawingTest::DrawPart(const std::string& chartPart, double width, double height) {
+  OpenChart(chartPart);
   for (const std::string& part : Book().Package().Parts()) {
     if (part.find("/charts/chart") == std::string::npos || !part.ends_with(".xml")) continue;
     notes_.clear();

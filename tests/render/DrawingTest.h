@@ -37,6 +37,9 @@ class DrawingTest : public ChartTest {
   render::Drawing Draw(const std::string& chart, const std::string& behind = "", double width = 384,
                        double height = 270);
 
+  /// The same of a whole chart part.
+  render::Drawing DrawPart(const std::string& part, double width = 384, double height = 270);
+
   static render::Fonts& SharedFonts();
   render::Notes notes_;
 };

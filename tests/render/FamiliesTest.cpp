@@ -82,6 +82,73 @@ TEST_F(FamiliesTest, ExplodedSlicesMoveOutAlongTheirMiddle) {
   EXPECT_NEAR(before[0].width, radius * 1.25, 1e-6);  // so that the moved slices keep to the same place
 }
 
+TEST_F(FamiliesTest, OnlyTheOutermostRingOfADoughnutExplodes) {
+  const S explosion = "<c:explosion val=\"25\"/>";
+  struct {
+    const char* what;
+    S first, second;
+    double width, moved;  // of the outer ring in shares of the plot area, and of its halves in radii
+  } cases[] = {{"none", "", "", 1, 0}, {"inner", explosion, "", 1, 0}, {"outer", "", explosion, 0.8, 0.25}};
+  for (const auto& test : cases) {
+    const Drawing drawing =
+        Draw(PlotXml("<c:doughnutChart>" + SeriesXml(0, {1, 1}, test.first) +
+                     SeriesXml(1, {1, 1}, test.second) + "<c:holeSize val=\"50\"/></c:doughnutChart>"));
+    const Rect plot = BoxOf(drawing, Role::kPlotArea);
+    const auto inner = BoxesOf(drawing, Role::kSlice, 1), outer = BoxesOf(drawing, Role::kSlice, 2);
+    const double free = std::min(plot.width, plot.height);
+    EXPECT_NEAR(outer[0].height, free * test.width, 1e-6) << test.what;
+    EXPECT_NEAR(inner[0].height, free * test.width * 0.75, 1e-6) << test.what;
+    EXPECT_NEAR(inner[0].left, inner[1].Right(), 1e-6) << test.what;
+    EXPECT_NEAR(outer[0].left - outer[1].Right(), outer[0].height * test.moved, 1e-6) << test.what;
+  }
+}
+
+TEST_F(FamiliesTest, PiesAndDoughnutsHaveNoPlotAreaOfTheirOwn) {
+  struct {
+    S plot, fill;
+  } cases[] = {
+      {"<c:pieChart>" + SeriesXml(0, {1, 2}) + "</c:pieChart>", "none"},
+      {"<c:doughnutChart>" + SeriesXml(0, {1, 2}) + "</c:doughnutChart>", "none"},
+      {"<c:pieChart>" + SeriesXml(0, {1, 2}) +
+           "</c:pieChart><c:spPr><a:solidFill><a:srgbClr val=\"FFFF99\"/></a:solidFill></c:spPr>",
+       "#FFFF99"},
+      {"<c:pieChart>" + SeriesXml(0, {1, 2}) + "</c:pieChart>" +
+           GroupXml("barChart", "", SeriesXml(1, {1, 2})) + AxesXml(),
+       "#FFFFFF"},
+  };
+  for (const auto& test : cases) {
+    EXPECT_EQ(FillOf(ItemsOf(Draw(PlotXml(test.plot)), Role::kPlotArea)[0]), test.fill) << test.plot;
+  }
+}
+
+TEST_F(FamiliesTest, PointsAreDrawnAlongAnAxisOfCategoriesAsWell) {
+  const S points =
+      "<c:ser><c:idx val=\"1\"/><c:order val=\"1\"/><c:marker><c:symbol val=\"square\"/></c:marker>"
+      "<c:xVal><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>1</c:v></c:pt><c:pt idx=\"1\"><c:v>2.5"
+      "</c:v></c:pt></c:numLit></c:xVal><c:yVal><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>4"
+      "</c:v></c:pt><c:pt idx=\"1\"><c:v>5</c:v></c:pt></c:numLit></c:yVal></c:ser>";
+  const S scatter = GroupXml("scatterChart", "<c:scatterStyle val=\"lineMarker\"/>", points);
+  const S columns = GroupXml("barChart", "", SeriesXml(0, {1, 2, 3}));
+  struct {
+    const char* what;
+    S groups;
+    double first, second;  // in shares of the plot area's width
+    std::vector<S> labels;
+  } cases[] = {
+      {"alone", scatter, 1.0 / 3, 2.5 / 3, {"0", "0.5", "1", "1.5", "2", "2.5", "3"}},
+      {"beside columns", columns + scatter, 1.0 / 6, 2.0 / 3, {"1", "2", "3"}},
+  };
+  for (const auto& test : cases) {
+    const Drawing drawing = Draw(PlotXml(test.groups + AxesXml()));
+    const Rect plot = BoxOf(drawing, Role::kPlotArea);
+    const auto markers = BoxesOf(drawing, Role::kMarker);
+    ASSERT_EQ(markers.size(), 2u) << test.what;
+    EXPECT_NEAR(markers[0].Center().x, plot.left + plot.width * test.first, 1e-6) << test.what;
+    EXPECT_NEAR(markers[1].Center().x, plot.left + plot.width * test.second, 1e-6) << test.what;
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), test.labels) << test.what;
+  }
+}
+
 TEST_F(FamiliesTest, BubblesShowTheirSizeAsAreaOrAsWidth) {
   const std::vector<std::array<double, 3>> bubbles = {{1, 1, 100}, {2, 3, 25}, {3, 2, -50}, {4, 4, 0}};
   struct {

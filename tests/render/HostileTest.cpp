@@ -3,6 +3,8 @@
 #include "render/cairo/CairoPainter.h"
 #include "render/svg/SvgWriter.h"
 #include "tests/render/DrawingTest.h"
+#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/LegendEntries.h"
 
 namespace plotsmith {
 namespace {
@@ -123,7 +125,19 @@ INSTANTIATE_TEST_SUITE_P(
         HostileCase{"Explosion",
                     PlotXml("<c:doughnutChart>" + SeriesXml(0, {1, 2}, "<c:explosion val=\"4000000000\"/>") +
                             "<c:firstSliceAng val=\"-1e9\"/><c:holeSize val=\"1000\"/></c:doughnutChart>")}),
-    [](const auto& info) { return S(info.param.name); });
+    [](const auto& each) { return S(each.param.name); });
+
+TEST_F(DrawingTest, LegendsAreReadAsFarAsTheyAreAskedForWhateverThePartClaims) {
+  OpenChart(ChartPartXml(PlotXml("<c:pieChart>" + Claiming("4000000") + "</c:pieChart>", "<c:legend/>")));
+  for (const S& name : Book().Package().Parts()) {
+    if (name.find("/charts/chart") == S::npos || !name.ends_with(".xml")) continue;
+    const auto lines = xlsx::LegendLines(*Book().Chart(name), 3);
+    ASSERT_EQ(lines.size(), 3u);
+    EXPECT_EQ(lines[2].text, "3");
+    return;
+  }
+  FAIL() << "the workbook has no chart part";
+}
 
 TEST_F(DrawingTest, FiveThousandPointsOf254SeriesStayUsable) {
   std::vector<double> values;

@@ -38,12 +38,24 @@ TEST_F(LayoutTest, TheLegendTakesItsSide) {
     EXPECT_EQ(DrawingComplaints(drawing), "") << position;
     EXPECT_EQ(TextsOf(drawing, Role::kLegendEntry), (Texts{"Series 0", "Series 1", "Series 2"})) << position;
     const Rect entries = BoxOf(drawing, Role::kLegendEntry), plot = BoxOf(drawing, Role::kPlotArea);
-    if (position == "r" || position == "tr") EXPECT_GT(entries.left, plot.Right()) << position;
-    if (position == "l") EXPECT_LT(entries.Right(), plot.left);
-    if (position == "t") EXPECT_LT(entries.Bottom(), plot.top);
-    if (position == "b") EXPECT_GT(entries.top, BoxOf(drawing, Role::kTickLabel, 1).Bottom());
-    if (position == "r") EXPECT_NEAR(entries.Center().y, 135, 1);
-    if (position == "tr") EXPECT_LT(entries.top, 15);
+    if (position == "r" || position == "tr") {
+      EXPECT_GT(entries.left, plot.Right()) << position;
+    }
+    if (position == "l") {
+      EXPECT_LT(entries.Right(), plot.left);
+    }
+    if (position == "t") {
+      EXPECT_LT(entries.Bottom(), plot.top);
+    }
+    if (position == "b") {
+      EXPECT_GT(entries.top, BoxOf(drawing, Role::kTickLabel, 1).Bottom());
+    }
+    if (position == "r") {
+      EXPECT_NEAR(entries.Center().y, 135, 1);
+    }
+    if (position == "tr") {
+      EXPECT_LT(entries.top, 15);
+    }
     // a key for each entry, on its line and in front of it
     const auto keys = ItemsOf(drawing, Role::kLegendKey);
     const auto texts = BoxesOf(drawing, Role::kLegendEntry);
@@ -78,6 +90,22 @@ TEST_F(LayoutTest, TheLegendLeavesOutEntriesAndGoesWhereItWasDragged) {
   EXPECT_NEAR(box.width, 153.6, 1e-6);
   EXPECT_NEAR(box.height, 135, 1e-6);
   for (const Rect& entry : BoxesOf(dragged, Role::kLegendEntry)) EXPECT_TRUE(Union(box, entry) == box);
+}
+
+TEST_F(LayoutTest, ALegendThatIsTooNarrowForItsTextsShowsAllEntriesThatHaveHeight) {
+  struct {
+    const char *what, *height;
+    std::size_t entries;
+  } cases[] = {{"high enough", "0.6", 3}, {"one row", "0.08", 1}};
+  for (const auto& test : cases) {
+    const Drawing drawing = Draw(PlotXml(
+        "<c:pieChart><c:varyColors val=\"1\"/>" +
+            SeriesXml(0, {1, 2, 3}, "", "", CategoriesXml({"Task01", "Task02", "Task03"})) + "</c:pieChart>",
+        LegendXml("l", S("<c:layout><c:manualLayout><c:xMode val=\"edge\"/><c:yMode val=\"edge\"/><c:x "
+                         "val=\"0.04\"/><c:y val=\"0.3\"/><c:w val=\"0.08\"/><c:h val=\"") +
+                           test.height + "\"/></c:manualLayout></c:layout>")));
+    EXPECT_EQ(ItemsOf(drawing, Role::kLegendEntry).size(), test.entries) << test.what;
+  }
 }
 
 TEST_F(LayoutTest, APlotAreaByHandIsWhereItsLayoutSays) {
@@ -126,6 +154,38 @@ TEST_F(LayoutTest, TitlesBreakKeepTheirRunsAndMakeRoom) {
   S overlay = title;
   overlay.insert(overlay.find("</c:title>"), "<c:overlay val=\"1\"/>");
   EXPECT_EQ(BoxOf(DrawColumns("", "", overlay), Role::kPlotArea), BoxOf(without, Role::kPlotArea));
+}
+
+TEST_F(LayoutTest, LooksThatArentDrawnAreSaid) {
+  const S picture = "<c:spPr><a:blipFill><a:blip/><a:stretch><a:fillRect/></a:stretch></a:blipFill></c:spPr>";
+  const S dark =
+      "The chart has style 42, whose dark backgrounds aren't drawn; it is in the colours of a light one.";
+  const S filling = "Pictures as fillings aren't drawn; what has one is in its automatic colour.";
+  struct {
+    const char* what;
+    S front, series, behind;
+    Texts notes;
+  } cases[] = {
+      {"a light style", "<c:style val=\"26\"/>", "", "", {}},
+      {"a dark style", "<c:style val=\"42\"/>", "", "", {dark}},
+      {"a dark style of newer files",
+       "<mc:AlternateContent "
+       "xmlns:mc=\"http://schemas.openxmlformats.org/markup-compatibility/2006\"><mc:Choice "
+       "Requires=\"c14\" xmlns:c14=\"http://schemas.microsoft.com/office/drawing/2007/8/2/chart\"><c14:style "
+       "val=\"142\"/></mc:Choice></mc:AlternateContent>",
+       "",
+       "",
+       {dark}},
+      {"a picture on bars", "", picture, "", {filling}},
+      {"a picture behind all", "", "", picture, {filling}},
+  };
+  for (const auto& test : cases) {
+    S part = ChartPartXml(PlotXml(GroupXml("barChart", "", SeriesXml(0, {1, 2}, test.series)) + AxesXml()),
+                          test.behind);
+    part.insert(part.find("<c:chart>"), test.front);
+    EXPECT_EQ(FillOf(ItemsOf(DrawPart(part), Role::kBar)[0]), "#4F81BD") << test.what;
+    EXPECT_EQ(notes_, test.notes) << test.what;
+  }
 }
 
 TEST_F(LayoutTest, FillingsAndLinesAreTheChartParts) {

@@ -41,6 +41,12 @@ double AxisMap::OfCategory(double index) const {
   return OfSlot(number < positions.size() ? positions[number] : index);
 }
 
+double AxisMap::OfX(double x) const {
+  if (axis_.IsOfValues()) return OfValue(x);
+  const double place = OfSlot(x - 1);
+  return std::isfinite(place) ? std::clamp(place, -kFarthest, kFarthest) : low_;
+}
+
 double AxisMap::OfSlot(double index) const {
   if (axis_.crossesBetween) return low_ + (index + 0.5) / slots_ * (high_ - low_);
   return slots_ < 2 ? (low_ + high_) / 2 : low_ + index / (slots_ - 1) * (high_ - low_);

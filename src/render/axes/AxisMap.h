@@ -23,9 +23,11 @@ class AxisMap {
   /// The same of a place between categories, or of a date on an axis of dates, counted in slots from the
   /// first.
   double OfSlot(double index) const;
+  /// The place of an X value: on an axis of categories they are counted from 1.
+  double OfX(double x) const;
   /// From one category to the next; never negative.
   double CategoryWidth() const;
-  /// The place where bars and areas begin: zero, or the limit that is nearest to it.
+  /// The place where stacks begin: zero, or the limit that is nearest to it.
   double Base() const;
   double Low() const { return low_; }
   double High() const { return high_; }

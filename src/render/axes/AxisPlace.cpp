@@ -10,13 +10,9 @@ namespace {
 
 /// The place on the crossed axis where this one crosses it.
 double CrossingOn(const AxisModel& crossed, const AxisModel& axis, const AxisMap& map) {
+  if (crossed.IsOfValues()) return map.OfValue(CrossingValue(crossed, axis));
   if (axis.crosses == "max" && !axis.crossesAt) return map.High();
   if (axis.crosses == "min" && !axis.crossesAt) return map.Low();
-  if (crossed.IsOfValues()) {
-    if (!axis.crossesAt) return map.Base();
-    const double value = std::clamp(*axis.crossesAt, crossed.scale.minimum, crossed.scale.maximum);
-    return map.OfValue(value);
-  }
   const double categories =
       crossed.dates ? crossed.dates->count : static_cast<double>(crossed.categories.size());
   const double count = std::max(categories, 1.0);
@@ -26,6 +22,14 @@ double CrossingOn(const AxisModel& crossed, const AxisModel& axis, const AxisMap
 }
 
 }  // namespace
+
+double CrossingValue(const AxisModel& values, const AxisModel& category) {
+  const double least = values.scale.minimum, most = values.scale.maximum;
+  if (category.crossesAt) return std::clamp(*category.crossesAt, least, most);
+  if (category.crosses == "max") return most;
+  if (category.crosses == "min" || values.logBase) return least;
+  return std::clamp(0.0, least, most);
+}
 
 double EdgeOf(const Rect& rect, Side side) {
   switch (side) {

@@ -13,6 +13,8 @@ struct AxisPlace {
   Side labelSide = Side::kLeft;
 };
 
+/// The value at which a category axis crosses an axis of values.
+double CrossingValue(const AxisModel& values, const AxisModel& category);
 AxisPlace PlaceOf(const ChartModel& chart, const AxisModel& axis, const Rect& plot);
 /// The edge of a rectangle on a side.
 double EdgeOf(const Rect& rect, Side side);

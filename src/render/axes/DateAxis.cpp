@@ -1,8 +1,10 @@
 #include "render/axes/DateAxis.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cmath>
+#include <numeric>
 
 namespace plotsmith::render {
 namespace {
@@ -88,6 +90,19 @@ double SerialOf(long long slot, TimeUnit base, xlsx::DateSystem dates) {
     number = sys_days(date).time_since_epoch().count();
   }
   return static_cast<double>(number + xlsx::kSerialOf1970 - xlsx::SerialOffset(dates));
+}
+
+std::vector<std::size_t> OrderAlong(const AxisModel& axis, std::size_t count) {
+  std::vector<std::size_t> order(count);
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  if (!axis.dates) return order;
+  const std::vector<double>& positions = axis.dates->positions;
+  const auto place = [&](std::size_t point) {
+    return point < positions.size() ? positions[point] : static_cast<double>(point);
+  };
+  std::stable_sort(order.begin(), order.end(),
+                   [&](std::size_t a, std::size_t b) { return place(a) < place(b); });
+  return order;
 }
 
 std::vector<DateTick> DateTicks(const AxisModel& axis, xlsx::DateSystem dates) {

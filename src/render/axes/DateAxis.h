@@ -15,6 +15,10 @@ struct DateTick {
 /// Where an axis of dates has its major units, with what stands there.
 std::vector<DateTick> DateTicks(const AxisModel& axis, xlsx::DateSystem dates);
 
+/// The points of a group, from 0, as they follow each other along its axis: by their dates on an axis of
+/// dates, else as they come.
+std::vector<std::size_t> OrderAlong(const AxisModel& axis, std::size_t count);
+
 /// The slot of a day: days from 1970, months or years from year 0. `serial` is Excel's number of the day.
 long long SlotOf(double serial, TimeUnit base, xlsx::DateSystem dates);
 /// Excel's number of the first day of a slot.

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "render/axes/AxisPlace.h"
 #include "render/families/Plot.h"
 
 namespace plotsmith::render {
@@ -25,13 +26,6 @@ BarSlots SlotsOf(const GroupModel& group, double categoryWidth) {
   return slots;
 }
 
-ShapeStyle StyleOfBar(const SeriesModel& series, std::size_t point, bool negative) {
-  ShapeStyle style = series.StyleOf(point);
-  const bool inverted = negative && series.invertIfNegative && !series.points.contains(point);
-  if (inverted && std::holds_alternative<SolidFill>(style.fill)) style.fill = SolidFill{{255, 255, 255, 1}};
-  return style;
-}
-
 }  // namespace
 
 void DrawBars(Plot& plot, const GroupModel& group) {
@@ -44,6 +38,7 @@ void DrawBars(Plot& plot, const GroupModel& group) {
   const BarSlots slots = SlotsOf(group, categories.CategoryWidth());
   const double direction = categories.High() < categories.Low() ? -1 : 1;
   const Extents extents = StackValues(group);
+  const double base = plot.BaseOf(group), crossing = CrossingValue(*valueAxis, *categoryAxis);
   plot.canvas.PushClip(Path().AddRect(plot.area));
   for (std::size_t s = 0; s < group.series.size(); ++s) {
     const SeriesModel& series = group.series[s];
@@ -51,17 +46,16 @@ void DrawBars(Plot& plot, const GroupModel& group) {
     for (std::size_t i = 0; i < series.values.size(); ++i) {
       const double from = extents.from[s][i], to = extents.to[s][i];
       if (!std::isfinite(to)) continue;
-      const double begin = from == 0 ? values.Base() : values.OfValue(from), end = values.OfValue(to);
+      const double begin = from == 0 ? base : values.OfValue(from), end = values.OfValue(to);
       const double middle = categories.OfCategory(static_cast<double>(i)) +
                             direction * (slots.offset + slot * slots.step + slots.width / 2);
       const double across = middle - slots.width / 2;
       const Rect box = horizontal ? Rect{std::min(begin, end), across, std::abs(end - begin), slots.width}
                                   : Rect{across, std::min(begin, end), slots.width, std::abs(end - begin)};
-      const bool negative = to < from;
-      const ShapeStyle style = StyleOfBar(series, i, negative);
+      const ShapeStyle style = series.StyleOf(i, series.values[i]);
       plot.canvas.Add({Role::kBar, series.number, static_cast<int>(i + 1)}, Path().AddRect(box), style.fill,
                       style.stroke);
-      plot.points.push_back({&group, &series, i, box, negative});
+      plot.points.push_back({&group, &series, i, box, to < (group.IsStacked() ? from : crossing)});
     }
   }
   plot.canvas.PopClip();

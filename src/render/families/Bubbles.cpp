@@ -44,12 +44,9 @@ void DrawBubbles(Plot& plot, const GroupModel& group) {
       if (!present || !IsShown(group, size)) continue;
       const double share = std::abs(size) / most;
       const double diameter = largest * (group.sizeIsWidth ? share : std::sqrt(share));
-      const Point center{across.OfValue(series.x[i]), values.OfValue(series.values[i])};
+      const Point center{across.OfX(series.x[i]), values.OfValue(series.values[i])};
       const Rect box{center.x - diameter / 2, center.y - diameter / 2, diameter, diameter};
-      ShapeStyle style = series.StyleOf(i);
-      const bool inverted = size < 0 && series.invertIfNegative;
-      if (inverted && std::holds_alternative<SolidFill>(style.fill))
-        style.fill = SolidFill{{255, 255, 255, 1}};
+      ShapeStyle style = series.StyleOf(i, size);
       if (series.bubble3D) style.fill = AsBall(style.fill);
       plot.canvas.Add({Role::kBubble, series.number, static_cast<int>(i + 1)}, Path().AddEllipse(box),
                       style.fill, style.stroke);

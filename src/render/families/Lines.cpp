@@ -1,6 +1,8 @@
 #include <cmath>
 #include <limits>
+#include <optional>
 
+#include "render/axes/DateAxis.h"
 #include "render/families/Curves.h"
 #include "render/families/Markers.h"
 #include "render/families/Plot.h"
@@ -47,7 +49,8 @@ void DrawSegments(Plot& plot, const SeriesModel& series, const std::vector<LineP
 void DrawLineOf(Plot& plot, const SeriesModel& series, const std::vector<LinePoint>& points) {
   const Rect clip{plot.area.left - 1, plot.area.top - 1, plot.area.width + 2, plot.area.height + 2};
   plot.canvas.PushClip(Path().AddRect(clip));
-  if (!series.points.empty() && !series.smooth) {
+  const bool differ = !series.points.empty() || !series.palette.empty();
+  if (differ && !series.smooth) {
     DrawSegments(plot, series, points);
   } else {
     Path path;
@@ -77,9 +80,9 @@ void DrawMarkersOf(Plot& plot, const GroupModel& group, const SeriesModel& serie
   }
 }
 
-/// From the greatest to the least value of each category, or from it to the category axis.
+/// From the greatest value of each category to a place along the axis of values, or to the least value.
 void DrawUprights(Plot& plot, const AxisMap& categories, const AxisMap& values, const Extents& extents,
-                  std::size_t count, const Stroke& stroke, bool toAxis) {
+                  std::size_t count, const Stroke& stroke, std::optional<double> end = {}) {
   for (std::size_t i = 0; i < count; ++i) {
     double least = std::numeric_limits<double>::infinity(), greatest = -least;
     for (const auto& series : extents.to) {
@@ -90,7 +93,7 @@ void DrawUprights(Plot& plot, const AxisMap& categories, const AxisMap& values, 
     if (!(greatest >= least)) continue;
     const double x = categories.OfCategory(static_cast<double>(i));
     plot.canvas.AddLine({Role::kDropLine, 0, static_cast<int>(i + 1)}, {x, values.OfValue(greatest)},
-                        {x, toAxis ? values.Base() : values.OfValue(least)}, stroke);
+                        {x, end.value_or(values.OfValue(least))}, stroke);
   }
 }
 
@@ -104,15 +107,16 @@ void DrawLines(Plot& plot, const GroupModel& group) {
   const AxisMap values = AxisMap::Along(*valueAxis, plot.area);
   const Extents extents = StackValues(group);
   if (group.dropLines) {
-    DrawUprights(plot, categories, values, extents, group.PointCount(), *group.dropLines, true);
+    DrawUprights(plot, categories, values, extents, group.PointCount(), *group.dropLines,
+                 plot.CrossingOf(group));
   }
   if (group.highLowLines) {
-    DrawUprights(plot, categories, values, extents, group.PointCount(), *group.highLowLines, false);
+    DrawUprights(plot, categories, values, extents, group.PointCount(), *group.highLowLines);
   }
   for (std::size_t s = 0; s < group.series.size(); ++s) {
     const SeriesModel& series = group.series[s];
     std::vector<LinePoint> points;
-    for (std::size_t i = 0; i < series.values.size(); ++i) {
+    for (const std::size_t i : OrderAlong(*categoryAxis, series.values.size())) {
       double value = extents.to[s][i];
       if (!std::isfinite(value) && (plot.chart.blanks == "zero" || group.IsStacked())) value = 0;
       LinePoint& point = points.emplace_back();
@@ -137,7 +141,7 @@ void DrawScatter(Plot& plot, const GroupModel& group) {
       LinePoint& point = points.emplace_back();
       point.index = i;
       point.present = i < series.x.size() && std::isfinite(series.values[i]) && std::isfinite(series.x[i]);
-      if (point.present) point.place = {across.OfValue(series.x[i]), values.OfValue(series.values[i])};
+      if (point.present) point.place = {across.OfX(series.x[i]), values.OfValue(series.values[i])};
     }
     if (!group.markersOnly) DrawLineOf(plot, series, points);
     DrawMarkersOf(plot, group, series, points);

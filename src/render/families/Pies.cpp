@@ -92,10 +92,25 @@ Rect CircleAbout(Point center, double radius) {
   return {center.x - radius, center.y - radius, 2 * radius, 2 * radius};
 }
 
-void DrawSlices(Plot& plot, std::vector<DrawnPoint> slices, Point center, double radius, double hole) {
+/// What the farthest of a series' slices is moved outwards, in radii.
+double FarthestExplosion(const SeriesModel& series, const std::vector<DrawnPoint>& slices) {
+  double most = 0;
+  for (const DrawnPoint& slice : slices) most = std::max(most, ExplosionOf(series, slice.index));
+  return most;
+}
+
+/// A circle or a ring; `hole` is the share of the radius that is left free.
+struct Ring {
+  Point center;
+  double radius = 0, hole = 0;
+  bool explodes = true;
+};
+
+void DrawSlices(Plot& plot, std::vector<DrawnPoint> slices, const Ring& ring) {
+  const auto& [center, radius, hole, explodes] = ring;
   for (DrawnPoint& slice : slices) {
     const SeriesModel& series = *slice.series;
-    const double shift = radius * ExplosionOf(series, slice.index);
+    const double shift = explodes ? radius * ExplosionOf(series, slice.index) : 0;
     slice.circle = CircleAbout(OnEllipse(CircleAbout(center, shift), slice.angle + slice.sweep / 2), radius);
     slice.box = slice.circle;
     slice.hole = hole;
@@ -108,25 +123,30 @@ void DrawSlices(Plot& plot, std::vector<DrawnPoint> slices, Point center, double
   }
 }
 
+/// Rings about each other, the first series innermost. Only slices of the outermost can move outwards.
+void DrawRings(Plot& plot, const GroupModel& group) {
+  const SeriesModel& last = group.series.back();
+  const double free =
+      std::min(plot.area.width, plot.area.height) / 2 / (1 + FarthestExplosion(last, SlicesOf(group, last)));
+  const double hole = group.holeSize / 100;
+  const double width = (1 - hole) / static_cast<double>(group.series.size());
+  for (std::size_t s = 0; s < group.series.size(); ++s) {
+    const SeriesModel& series = group.series[s];
+    const double outer = hole + width * static_cast<double>(s + 1);
+    DrawSlices(plot, SlicesOf(group, series),
+               {plot.area.Center(), free * outer, (outer - width) / outer, &series == &last});
+  }
+}
+
 }  // namespace
 
 void DrawPie(Plot& plot, const GroupModel& group) {
+  if (group.family == Family::kDoughnut) return DrawRings(plot, group);
   const Point center = plot.area.Center();
   const double free = std::min(plot.area.width, plot.area.height) / 2;
-  if (group.family == Family::kDoughnut) {
-    // the first series is the innermost ring
-    const double count = static_cast<double>(group.series.size());
-    const double hole = group.holeSize / 100, ring = (1 - hole) / count;
-    for (std::size_t s = 0; s < group.series.size(); ++s) {
-      const double outer = hole + ring * static_cast<double>(s + 1);
-      DrawSlices(plot, SlicesOf(group, group.series[s]), center, free * outer, (outer - ring) / outer);
-    }
-    return;
-  }
   const SeriesModel& series = group.series.front();  // a pie shows one series
   const std::vector<DrawnPoint> slices = SlicesOf(group, series);
-  double explosion = 0;
-  for (const DrawnPoint& slice : slices) explosion = std::max(explosion, ExplosionOf(series, slice.index));
+  const double explosion = FarthestExplosion(series, slices);
   double radius = free / (1 + explosion);
   if (!plot.chart.layout) {
     const LabelRoom room = RoomForLabels(plot, slices, radius);
@@ -134,7 +154,7 @@ void DrawPie(Plot& plot, const GroupModel& group) {
     radius = std::max(std::min(across, down) / (1 + explosion), radius * kLeastRadius);
     radius = std::min(radius, free / (1 + explosion));
   }
-  DrawSlices(plot, slices, center, radius, 0);
+  DrawSlices(plot, slices, {center, radius});
 }
 
 }  // namespace plotsmith::render

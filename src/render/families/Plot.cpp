@@ -3,6 +3,8 @@
 #include <cmath>
 #include <limits>
 
+#include "render/axes/AxisPlace.h"
+
 namespace plotsmith::render {
 namespace {
 
@@ -26,6 +28,15 @@ std::vector<double> Wholes(const GroupModel& group) {
 const AxisModel* Plot::CategoryAxisOf(const GroupModel& group) const { return AxisAt(chart, group.category); }
 
 const AxisModel* Plot::ValueAxisOf(const GroupModel& group) const { return AxisAt(chart, group.value); }
+
+double Plot::CrossingOf(const GroupModel& group) const {
+  const AxisModel& values = *ValueAxisOf(group);
+  return AxisMap::Along(values, area).OfValue(CrossingValue(values, *CategoryAxisOf(group)));
+}
+
+double Plot::BaseOf(const GroupModel& group) const {
+  return group.IsStacked() ? AxisMap::Along(*ValueAxisOf(group), area).Base() : CrossingOf(group);
+}
 
 Extents StackValues(const GroupModel& group) {
   constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();

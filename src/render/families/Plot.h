@@ -32,6 +32,10 @@ struct Plot {
 
   const AxisModel* CategoryAxisOf(const GroupModel& group) const;
   const AxisModel* ValueAxisOf(const GroupModel& group) const;
+  /// The place along the axis of values where the category axis crosses it. The group has both axes.
+  double CrossingOf(const GroupModel& group) const;
+  /// The place where the bars or areas of such a group begin: the crossing, or zero if they are stacked.
+  double BaseOf(const GroupModel& group) const;
 };
 
 /// Lower and upper end of each value of a group's series, stacked or in percent as the group says:

@@ -64,7 +64,8 @@ void Place(LegendLayout& layout, const Grid& grid, Measured& measured, double le
 void PlaceInColumns(LegendLayout& layout, const Grid& grid, std::vector<Measured>& entries,
                     const Rect& limits) {
   const double gap = kRowGapEms * grid.em;
-  double left = kPadding + kColumnGapEms * grid.em, top = kPadding, widest = 0, bottom = 0;
+  const double first = kPadding + kColumnGapEms * grid.em;
+  double left = first, top = kPadding, widest = 0, bottom = 0;
   for (Measured& measured : entries) {
     const double height = std::max(measured.text.height, grid.row);
     if (top + height > limits.height - kPadding && top > kPadding) {
@@ -72,7 +73,7 @@ void PlaceInColumns(LegendLayout& layout, const Grid& grid, std::vector<Measured
       top = kPadding;
       widest = 0;
     }
-    if (left + grid.WidthOf(measured.text.width) > limits.width && !layout.entries.empty()) break;
+    if (left + grid.WidthOf(measured.text.width) > limits.width && left > first) break;
     widest = std::max(widest, measured.text.width);
     Place(layout, grid, measured, left, top, height);
     top += height + gap;

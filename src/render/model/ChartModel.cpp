@@ -1,6 +1,7 @@
 #include "render/model/ChartModel.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace plotsmith::render {
 
@@ -23,12 +24,28 @@ const LabelModel* LabelsModel::Of(std::size_t point) const {
 
 const ShapeStyle& SeriesModel::StyleOf(std::size_t point) const {
   const auto special = points.find(point);
-  return special == points.end() ? style : special->second.style;
+  if (special != points.end()) return special->second.style;
+  return palette.empty() ? style : palette[point % palette.size()].style;
+}
+
+ShapeStyle SeriesModel::StyleOf(std::size_t point, double value) const {
+  ShapeStyle shape = StyleOf(point);
+  const auto special = points.find(point);
+  const bool inverts = special == points.end() ? invertIfNegative
+                                               : special->second.invertIfNegative.value_or(invertIfNegative);
+  if (!inverts || !(value < 0)) return shape;
+  if (std::holds_alternative<SolidFill>(shape.fill)) shape.fill = invertedFill;
+  if (auto* pattern = std::get_if<PatternFill>(&shape.fill)) {
+    std::swap(pattern->foreground, pattern->background);
+  }
+  return shape;
 }
 
 const MarkerModel& SeriesModel::MarkerOf(std::size_t point) const {
   const auto special = points.find(point);
-  return special == points.end() || !special->second.marker ? marker : *special->second.marker;
+  if (special != points.end() && special->second.marker) return *special->second.marker;
+  const auto* varied = palette.empty() ? nullptr : &palette[point % palette.size()].marker;
+  return varied != nullptr && varied->has_value() ? **varied : marker;
 }
 
 std::size_t GroupModel::PointCount() const {
@@ -39,6 +56,10 @@ std::size_t GroupModel::PointCount() const {
 
 bool ChartModel::Is3D() const {
   return std::any_of(groups.begin(), groups.end(), [](const GroupModel& group) { return group.is3D; });
+}
+
+bool ChartModel::IsRound() const {
+  return std::all_of(groups.begin(), groups.end(), [](const GroupModel& group) { return group.IsRound(); });
 }
 
 const GroupModel* ChartModel::GroupOfSeries(int number) const {

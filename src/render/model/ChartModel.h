@@ -95,6 +95,7 @@ struct PointModel {
   ShapeStyle style;
   std::optional<MarkerModel> marker;
   std::optional<double> explosion;
+  std::optional<bool> invertIfNegative;  ///< nothing where it is as the series says
 };
 
 struct SeriesModel {
@@ -109,12 +110,16 @@ struct SeriesModel {
   MarkerModel marker;
   bool smooth = false;
   bool invertIfNegative = false;
+  Fill invertedFill;  ///< what a solid filling becomes below zero
   bool bubble3D = false;
   double explosion = 0;                      ///< percent of the radius
-  std::map<std::size_t, PointModel> points;  ///< those that differ, from 0
+  std::vector<PointModel> palette;           ///< of points in varied colours; begins again behind its end
+  std::map<std::size_t, PointModel> points;  ///< those that differ from these, from 0
   LabelsModel labels;
 
   const ShapeStyle& StyleOf(std::size_t point) const;
+  /// The same with the filling that a point has by its value or size, where those below zero are inverted.
+  ShapeStyle StyleOf(std::size_t point, double value) const;
   const MarkerModel& MarkerOf(std::size_t point) const;
 };
 
@@ -155,6 +160,9 @@ struct GroupModel {
   int category = -1, value = -1, depth = -1;
 
   bool IsStacked() const { return grouping == Grouping::kStacked || grouping == Grouping::kPercent; }
+  bool IsRound() const {
+    return family == Family::kPie || family == Family::kDoughnut || family == Family::kOfPie;
+  }
   bool HasXValues() const { return family == Family::kScatter || family == Family::kBubble; }
   /// The number of points of the longest series.
   std::size_t PointCount() const;
@@ -237,6 +245,8 @@ struct ChartModel {
   xlsx::DateSystem dates = xlsx::DateSystem::k1900;
 
   bool Is3D() const;
+  /// Whether all groups are pies or doughnuts.
+  bool IsRound() const;
   /// Null for a number that no series has.
   const SeriesModel* FindSeries(int number) const;
   const GroupModel* GroupOfSeries(int number) const;

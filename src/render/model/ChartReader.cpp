@@ -45,20 +45,18 @@ void LayAcross(const GroupModel& group, AxisModel& category, AxisModel& value) {
 /// Ties a group to its axes, and gives those what they have of the group.
 void Attach(ReadingContext& context, GroupModel& group, std::vector<AxisModel>& axes) {
   const xlsx::AxisRoles roles = xlsx::RolesOf(xlsx::AxesOf(group.node));
-  group.category = IndexOf(axes, group.HasXValues() ? roles.x : roles.category);
+  group.category = IndexOf(axes, group.HasXValues() && roles.x ? roles.x : roles.category);
   group.value = IndexOf(axes, roles.value);
   group.depth = IndexOf(axes, roles.depth);
   const auto axisAt = [&](int index) { return index < 0 ? nullptr : &axes[static_cast<std::size_t>(index)]; };
   if (AxisModel* category = axisAt(group.category)) {
     if (category->categories.size() < group.categories.size()) category->categories = group.categories;
-    const std::string fallback(xlsx::CrossBetween(xml::LocalName(group.node)));
-    category->crossesBetween = schema::Val(roles.value, "crossBetween", fallback) == "between";
-    if (category->kind == AxisKind::kDate && !category->dates) {
-      ReadDates(context, xml::Child(group.series.front().node, "cat"), *category);
+    if (!group.HasXValues()) {
+      const std::string fallback(xlsx::CrossBetween(xml::LocalName(group.node)));
+      category->crossesBetween = schema::Val(roles.value, "crossBetween", fallback) == "between";
     }
-    if (!category->format && category->IsOfValues()) {
-      const auto x = xml::Child(group.series.front().node, "xVal");
-      category->format = context.Format(xml::Text(xml::Child(x, "numRef", "numCache", "formatCode")));
+    if (category->kind == AxisKind::kDate && !category->dates && !group.HasXValues()) {
+      ReadDates(context, xml::Child(group.series.front().node, "cat"), *category);
     }
   }
   AxisModel* value = axisAt(group.value);
@@ -66,6 +64,22 @@ void Attach(ReadingContext& context, GroupModel& group, std::vector<AxisModel>& 
   if (value != nullptr && !value->format) {
     value->format =
         group.grouping == Grouping::kPercent ? context.Format("0%") : group.series.front().valueFormat;
+  }
+}
+
+/// Makes an axis of categories one of values where only X values lie along it. If it has categories as well,
+/// X values are counted in them.
+void SettleXAxes(ReadingContext& context, ChartModel& chart) {
+  for (const GroupModel& group : chart.groups) {
+    if (!group.HasXValues() || group.category < 0) continue;
+    AxisModel& axis = chart.axes[static_cast<std::size_t>(group.category)];
+    const bool shared = std::any_of(chart.groups.begin(), chart.groups.end(), [&](const GroupModel& other) {
+      return !other.HasXValues() && other.category == group.category;
+    });
+    if (!shared) axis.kind = AxisKind::kValue;
+    if (!axis.IsOfValues() || axis.format) continue;
+    const auto x = xml::Child(group.series.front().node, "xVal");
+    axis.format = context.Format(xml::Text(xml::Child(x, "numRef", "numCache", "formatCode")));
   }
 }
 
@@ -105,8 +119,7 @@ std::optional<LegendModel> ReadLegend(ReadingContext& context) {
   legend.style = ReadStyle(context.part, xml::Child(node, "spPr"), {});
   legend.text = ReadTextStyle(context.part, node, xlsx::TextRole::kOther);
   constexpr std::size_t kMostEntries = 2000;
-  for (const xlsx::LegendLine& line : xlsx::LegendLines(context.part)) {
-    if (legend.entries.size() == kMostEntries) break;
+  for (const xlsx::LegendLine& line : xlsx::LegendLines(context.part, kMostEntries)) {
     LegendEntry entry{line.text, legend.text, static_cast<int>(line.series + 1),
                       line.point ? static_cast<int>(*line.point + 1) : 0};
     const auto own = schema::FindNumbered(node, "legendEntry", static_cast<long long>(line.number));
@@ -129,11 +142,13 @@ ChartModel ReadChart(xlsx::ChartPart& part, Notes& notes) {
   chart.layout = ReadLayout(plotArea);
   chart.axes = ReadAxes(context, plotArea);
   ReadGroups(context, chart);
+  SettleXAxes(context, chart);
   for (AxisModel& axis : chart.axes) {
     axis.crossed = IndexOf(chart.axes, xlsx::FindCrossedAxis(axis.node));
     if (!axis.format) axis.format = context.Format("General");
   }
-  chart.plotArea = ReadStyle(part, xml::Child(plotArea, "spPr"), context.styles.PlotArea(chart.Is3D()));
+  chart.plotArea = ReadStyle(part, xml::Child(plotArea, "spPr"),
+                             context.styles.PlotArea(!chart.Is3D() && !chart.IsRound()));
   if (const auto title = xlsx::ShownTitle(part)) {
     chart.title = ReadTitle(context, xml::Child(node, "title"), xlsx::TextRole::kChartTitle, *title);
   }

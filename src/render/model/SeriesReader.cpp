@@ -139,10 +139,7 @@ std::vector<PointModel> VariedPoints(ReadingContext& context, const GroupModel& 
 
 void ReadPoints(ReadingContext& context, const GroupModel& group, SeriesModel& series, bool drawsMarkers,
                 bool varies) {
-  if (varies) {
-    const std::vector<PointModel> palette = VariedPoints(context, group, series, drawsMarkers);
-    for (std::size_t i = 0; i < series.values.size(); ++i) series.points[i] = palette[i % palette.size()];
-  }
+  if (varies) series.palette = VariedPoints(context, group, series, drawsMarkers);
   for (const pugi::xml_node& node : xml::Children(series.node, "dPt")) {
     const long long number = schema::NumberOf(node);
     if (number < 0 || static_cast<std::size_t>(number) >= series.values.size()) continue;
@@ -156,8 +153,22 @@ void ReadPoints(ReadingContext& context, const GroupModel& group, SeriesModel& s
     } else {
       point.marker = automaticMarker;
     }
+    // a point with a filling of its own keeps it, unless it says otherwise
+    if (xml::Child(node, "invertIfNegative") || xlsx::FindFill(xml::Child(node, "spPr"))) {
+      point.invertIfNegative = schema::BooleanVal(node, "invertIfNegative", false);
+    }
     if (xml::Child(node, "explosion")) point.explosion = Limited(node, "explosion", 0, 0, 400);
   }
+}
+
+/// The colour that Excel since 2010 has for inverted points, in an extension of the series; else white.
+Fill ReadInvertedFill(ReadingContext& context, pugi::xml_node series) {
+  const Fill white = SolidFill{{255, 255, 255, 1}};
+  for (const pugi::xml_node& extension : xml::Children(xml::Child(series, "extLst"), "ext")) {
+    const auto properties = xml::Child(extension, "invertSolidFillFmt", "spPr");
+    if (properties) return ReadFill(context.part, xlsx::FindFill(properties), white);
+  }
+  return white;
 }
 
 SeriesModel ReadSeries(ReadingContext& context, const GroupModel& group, pugi::xml_node node, int number) {
@@ -191,6 +202,7 @@ SeriesModel ReadSeries(ReadingContext& context, const GroupModel& group, pugi::x
       ReadMarker(context, xml::Child(node, "marker"), AutomaticMarker(color, index), drawsMarkers);
   series.smooth = schema::BooleanVal(node, "smooth", false);
   series.invertIfNegative = schema::BooleanVal(node, "invertIfNegative", false);
+  series.invertedFill = ReadInvertedFill(context, node);
   series.bubble3D = schema::BooleanVal(node, "bubble3D", schema::BooleanVal(group.node, "bubble3D", false));
   series.explosion = Limited(node, "explosion", 0, 0, 400);
   const bool varies = group.varyColors && !xlsx::FindFill(properties);
@@ -230,10 +242,8 @@ GroupModel ReadGroup(ReadingContext& context, pugi::xml_node node,
   readLines("hiLowLines", group.highLowLines);
   const auto all = xml::Children(node, "ser");
   // points differ in colour where there is nothing else to tell apart
-  const bool round =
-      kind.family == Family::kPie || kind.family == Family::kDoughnut || kind.family == Family::kOfPie;
-  group.varyColors =
-      schema::BooleanVal(node, "varyColors", round) && (round || context.part.Series().size() == 1);
+  group.varyColors = schema::BooleanVal(node, "varyColors", group.IsRound()) &&
+                     (group.IsRound() || context.part.Series().size() == 1);
   for (const pugi::xml_node& series : all) {
     const auto number = numbers.find(series);
     if (number != numbers.end()) group.series.push_back(ReadSeries(context, group, series, number->second));

@@ -266,8 +266,8 @@ ShapeStyle AutomaticStyles::ChartArea() const {
           {TintedText(part_, kLineTint), kHairline, {}, LineCap::kFlat, LineJoin::kMiter}};
 }
 
-ShapeStyle AutomaticStyles::PlotArea(bool is3D) const {
-  if (is3D) return {};
+ShapeStyle AutomaticStyles::PlotArea(bool isFlat) const {
+  if (!isFlat) return {};
   return {SolidFill{FromExcel(part_.Theme().SchemeColor("bg1").value_or(0xFFFFFF))}, {}};
 }
 

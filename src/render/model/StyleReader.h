@@ -56,7 +56,8 @@ class AutomaticStyles {
   explicit AutomaticStyles(xlsx::ChartPart& part) : part_(part) {}
 
   ShapeStyle ChartArea() const;
-  ShapeStyle PlotArea(bool is3D) const;
+  /// `isFlat` says that values are drawn along flat axes; pies and charts in 3-D have no filling.
+  ShapeStyle PlotArea(bool isFlat) const;
   Stroke AxisLine() const;
   Stroke MinorGridline() const;
   /// The colour number `index` of `count` series or points.

@@ -70,7 +70,7 @@ std::string SvgEscape(std::string_view text) {
 std::string SvgDefinitions::IdOf(const std::string& element) {
   const auto found = ids_.find(element);
   if (found != ids_.end()) return found->second;
-  const std::string id = "f" + std::to_string(ids_.size() + 1);
+  const std::string id = prefix_ + std::to_string(ids_.size() + 1);
   std::string text = element;
   if (const auto at = text.find('@'); at != std::string::npos) text.replace(at, 1, id);
   text_ += text;

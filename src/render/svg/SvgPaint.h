@@ -2,6 +2,7 @@
 
 #include <map>
 #include <string>
+#include <utility>
 
 #include "render/Drawing.h"
 
@@ -16,12 +17,15 @@ std::string SvgEscape(std::string_view text);
 /// The definitions that fillings refer to, each written once.
 class SvgDefinitions {
  public:
+  /// `prefix` begins all ids.
+  explicit SvgDefinitions(std::string prefix = "f") : prefix_(std::move(prefix)) {}
   /// The number under which the element is known; `element` holds its tag with "@" in the place of the id.
   std::string IdOf(const std::string& element);
   /// The `defs` element, or nothing.
   std::string Text() const;
 
  private:
+  std::string prefix_;
   std::map<std::string, std::string> ids_;
   std::string text_;
 };

@@ -1,6 +1,7 @@
 #include "render/svg/SvgWriter.h"
 
 #include <cmath>
+#include <cstdint>
 #include <map>
 #include <utility>
 
@@ -142,6 +143,19 @@ Font UsualFont(const Drawing& drawing) {
   return usual;
 }
 
+/// Begins all ids until the rest of the file is known. No text has it, as XML can't hold it.
+constexpr const char* kPrefixLeftOpen = "\x01";
+
+/// A prefix that the ids of other drawings don't have, made of all that is in the file.
+std::string PrefixFor(std::string_view svg) {
+  std::uint32_t hash = 2166136261;  // FNV-1a
+  for (const char byte : svg) hash = (hash ^ static_cast<unsigned char>(byte)) * 16777619;
+  constexpr const char* kDigits = "0123456789abcdef";
+  std::string prefix = "f";
+  for (int shift = 28; shift >= 0; shift -= 4) prefix += kDigits[hash >> shift & 15];
+  return prefix + '-';
+}
+
 class Writer {
  public:
   explicit Writer(Font usual) : usual_(std::move(usual)) {}
@@ -190,7 +204,7 @@ class Writer {
 
  private:
   const Font usual_;
-  SvgDefinitions definitions_;
+  SvgDefinitions definitions_{kPrefixLeftOpen};
   std::string body_;
   int groups_ = 0;
 };
@@ -207,7 +221,8 @@ std::string MakeSvg(const Drawing& drawing) {
   if (!drawing.description.empty()) svg += "<desc>" + SvgEscape(drawing.description) + "</desc>\n";
   Writer writer(usual);
   for (const Item& item : drawing.items) std::visit(writer, item.content);
-  return svg + writer.Finish() + "</svg>\n";
+  svg += writer.Finish() + "</svg>\n";
+  return runtime::Replace(svg, kPrefixLeftOpen, PrefixFor(svg));
 }
 
 }  // namespace plotsmith::render

@@ -126,7 +126,7 @@ void DrawBars3D(Plot& plot, const Stage& stage, const Projection& projection) {
     if (shape.form == BarForm::kCone || shape.form == BarForm::kPyramid) {
       std::tie(space.baseWidth, space.endWidth) = tips.WidthsOf(stage, bar, shape.toGreatest);
     }
-    const ShapeStyle& style = series.StyleOf(bar.point);
+    const ShapeStyle style = series.StyleOf(bar.point, series.values[bar.point]);
     AddBar(plot.canvas, projection, space, shape.form,
            {{Role::kBar, series.number, static_cast<int>(bar.point) + 1}, style.fill, style.stroke});
     DrawnPoint& drawn = plot.points.emplace_back();

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "render/axes/AxisMap.h"
+#include "render/axes/AxisPlace.h"
 #include "xlsx/drawing/DrawingSchema.h"
 
 namespace plotsmith::render {
@@ -90,15 +91,7 @@ double Stage::Value(double value) const {
   return std::clamp(AxisMap(Values(), 0, 1).OfValue(value), 0.0, 1.0);
 }
 
-double Stage::Base() const {
-  const AxisModel& values = Values();
-  const double least = values.scale.minimum, most = values.scale.maximum;
-  const AxisModel& categories = Categories();
-  if (categories.crossesAt) return std::clamp(*categories.crossesAt, least, most);
-  if (categories.crosses == "max") return most;
-  if (categories.crosses == "min" || values.logBase) return least;
-  return std::clamp(0.0, least, most);
-}
+double Stage::Base() const { return CrossingValue(Values(), Categories()); }
 
 Point3 Stage::At(const Projection& projection, double category, double value, double depth) const {
   return Lying() ? projection.Place(value, category, depth) : projection.Place(category, value, depth);

@@ -36,19 +36,6 @@ constexpr std::array<Variation, 9> kRounds = {{{100000, 0},
 /// 5).
 constexpr std::array<double, 6> kGreys = {88.5, 55, 78, 92.5, 70, 30};
 
-/// A chart's style, from 1 to 48, which newer files hold twice.
-long long StyleOf(ChartPart& part) {
-  const auto space = part.Space();
-  const auto alternatives = xml::Child(space, "AlternateContent");
-  for (const pugi::xml_node& holder :
-       {space, xml::Child(alternatives, "Choice"), xml::Child(alternatives, "Fallback")}) {
-    const auto value = schema::IntegerVal(holder, "style", 0);
-    const long long style = value > kNewerStyles ? value - kNewerStyles : value;
-    if (style >= 1 && style <= kStyles) return style;
-  }
-  return kColorfulStyle;
-}
-
 std::int32_t Varied(ChartPart& part, const std::string& color, const Variation& variation) {
   pugi::xml_document holder;
   pugi::xml_node scheme = holder.append_child("solidFill").append_child("schemeClr");
@@ -68,13 +55,27 @@ Variation Faded(std::size_t index, std::size_t count) {
 
 }  // namespace
 
+long long ChartStyleOf(ChartPart& part) {
+  // newer files hold it twice
+  const auto space = part.Space();
+  const auto alternatives = xml::Child(space, "AlternateContent");
+  for (const pugi::xml_node& holder :
+       {space, xml::Child(alternatives, "Choice"), xml::Child(alternatives, "Fallback")}) {
+    const auto value = schema::IntegerVal(holder, "style", 0);
+    const long long style = value > kNewerStyles ? value - kNewerStyles : value;
+    if (style >= 1 && style <= kStyles) return style;
+  }
+  return kColorfulStyle;
+}
+
 std::int32_t AutomaticColor(ChartPart& part, pugi::xml_node series) {
   const auto index = static_cast<std::size_t>(std::max(schema::IntegerVal(series, "idx", 0), 0LL));
   return AutomaticColor(part, index, part.Series().size());
 }
 
 std::int32_t AutomaticColor(ChartPart& part, std::size_t index, std::size_t count) {
-  const long long column = (StyleOf(part) - 1) % kStyleColumns;  // of the gallery that the styles came from
+  const long long column =
+      (ChartStyleOf(part) - 1) % kStyleColumns;  // of the gallery that the styles came from
   if (column == 0) {
     const int kept = static_cast<int>(std::lround(kGreys[index % kGreys.size()] * 1000));
     return Varied(part, "tx1", {kept, 100000 - kept});

@@ -8,6 +8,9 @@ namespace plotsmith::xlsx {
 
 class ChartPart;
 
+/// The number of the chart's style, from 1 to 48, in the gallery of Excel 2007 and 2010. Those from 33 have
+/// dark backgrounds.
+long long ChartStyleOf(ChartPart& part);
 /// The colour that a series without a filling of its own has, by its number, the chart's style and the theme.
 std::int32_t AutomaticColor(ChartPart& part, pugi::xml_node series);
 /// The same of number `index`, from 0, of `count` series, or of as many points that differ in colour.

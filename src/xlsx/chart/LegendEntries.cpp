@@ -38,15 +38,15 @@ std::size_t AllEntries(ChartPart& part) {
   return ListsPoints(part) ? PointCount(FindValues(part.Series()[0]->node)) : part.Series().size();
 }
 
-/// The numbers of the entries that are left.
-std::vector<std::size_t> EntriesLeft(ChartPart& part) {
+/// The numbers of the first entries that are left.
+std::vector<std::size_t> EntriesLeft(ChartPart& part, std::size_t most = SIZE_MAX) {
   std::set<long long> deleted;
   for (const pugi::xml_node& entry : xml::Children(FindLegend(part), "legendEntry")) {
     if (schema::BooleanVal(entry, "delete", false)) deleted.insert(schema::NumberOf(entry));
   }
   std::vector<std::size_t> left;
   const std::size_t all = AllEntries(part);
-  for (std::size_t i = 0; i < all; ++i) {
+  for (std::size_t i = 0; i < all && left.size() < most; ++i) {
     if (!deleted.contains(static_cast<long long>(i))) left.push_back(i);
   }
   return left;
@@ -98,12 +98,12 @@ Ref<excel::LegendEntries> MakeLegendEntries(std::shared_ptr<ChartPart> part) {
   return std::make_shared<LegendEntriesObject>(std::move(part));
 }
 
-std::vector<LegendLine> LegendLines(ChartPart& part) {
+std::vector<LegendLine> LegendLines(ChartPart& part, std::size_t most) {
   const bool points = ListsPoints(part);
   const auto categories =
       points ? CachedTexts(xml::Child(part.Series()[0]->node, "cat")) : std::map<std::size_t, std::string>();
   std::vector<LegendLine> lines;
-  for (const std::size_t number : EntriesLeft(part)) {
+  for (const std::size_t number : EntriesLeft(part, most)) {
     if (!points) {
       lines.push_back({number, number, std::nullopt, ShownName(part.Series()[number]->node)});
     } else {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -23,7 +24,8 @@ struct LegendLine {
   std::optional<std::size_t> point;  ///< where points have entries
   std::string text;
 };
-std::vector<LegendLine> LegendLines(ChartPart& part);
+/// The first of them, `most` at most: a part may claim millions of points that it doesn't have.
+std::vector<LegendLine> LegendLines(ChartPart& part, std::size_t most = SIZE_MAX);
 /// What the entries that are left say, from the first.
 std::vector<std::string> LegendTexts(ChartPart& part);
 
