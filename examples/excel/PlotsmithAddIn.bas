@@ -41,19 +41,21 @@ End Sub
 ' Plotsmith stays with the workbook of the first such call until all charts are refreshed, so a change of the workbook
 ' takes that.
 Public Sub RefreshTable(ByVal table As String)
-    Dim book As String
-    book = Application.ActiveWorkbook.FullName
-    If lastBook <> "" And lastBook <> book Then
-        RefreshAll
-    Else
-        lastBook = book
-        Plotsmith.RefreshChartsForTable Application, table
-    End If
+    TakeActiveWorkbook
+    Plotsmith.RefreshChartsForTable Application, table
 End Sub
 
 ' After headings of a table were changed: the charts over it name its columns, and go on with the new names.
 Public Sub RenameColumns(ByVal table As String, oldNames() As String, newNames() As String)
+    TakeActiveWorkbook
     Plotsmith.UpdateChartColumnNamesForTable Application, table, oldNames, newNames
+End Sub
+
+Private Sub TakeActiveWorkbook()
+    Dim book As String
+    book = Application.ActiveWorkbook.FullName
+    If lastBook <> "" And lastBook <> book Then RefreshAll
+    lastBook = book
 End Sub
 
 ' One object serves for as long as the add-in is loaded. Its operations raise no errors: what goes wrong is said in a

@@ -10,6 +10,7 @@ DllInstall
 DllRegisterServer
 DllUnregisterServer"
 system="ADVAPI32.dll
+GDI32.dll
 KERNEL32.dll
 OLEAUT32.dll
 USER32.dll

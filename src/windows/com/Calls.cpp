@@ -121,11 +121,13 @@ OwnedVariant Call(IDispatch* object, Member& member, Kind kind, std::span<const 
     const HRESULT result = object->Invoke(id, IID_NULL, kEnglish, FlagsOf(kind), &parameters.passed,
                                           kind == Kind::kPut ? nullptr : answer.Put(), &exception, nullptr);
     const bool thrown = result == DISP_E_EXCEPTION;
-    const bool busy = IsBusy(thrown ? exception.scode : result);
+    // A method that throws such a code may have done a part of its work, as a macro that hands it on.
+    const bool busy = thrown ? kind != Kind::kMethod && IsBusy(exception.scode) : IsBusy(result);
     if (!busy) waiting.Taken();
     if (SUCCEEDED(result)) return answer;
     const RuntimeError failure = thrown ? ErrorOf(exception) : ErrorOf(result);
     if (!busy || whenBusy == WhenBusy::kFail || !waiting.WaitOnce()) throw failure;
+    ++changes;  // calls that came in meanwhile may have changed anything
   }
 }
 

@@ -32,7 +32,7 @@ ComPtr<IDispatch> ObjectOf(const VARIANT& value);
 /// Whether the value is an array of any kind.
 bool IsArray(const VARIANT& value);
 /// The items of a one-dimensional array of any type, none for an array that isn't allocated; error 13 for
-/// anything else, and for an item that is no value. An item that can't be read becomes Empty.
+/// anything else, and for an item that is no value.
 std::vector<runtime::Variant> ListOf(const VARIANT& value);
 /// The same as texts: error 13 or 94 for an item that can't be converted.
 std::vector<std::string> TextsOf(const VARIANT& value);

@@ -29,7 +29,10 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID interfaceId, void** object) {
 
 STDAPI DllCanUnloadNow() {
   if (plotsmith::windows::IsModuleKept()) return S_FALSE;
-  return Guarded([] { return plotsmith::windows::EndComponent() ? S_OK : S_FALSE; });
+  // The end releases the host's objects, and the host may make a new controller at that.
+  return Guarded([] {
+    return plotsmith::windows::EndComponent() && !plotsmith::windows::IsModuleKept() ? S_OK : S_FALSE;
+  });
 }
 
 STDAPI DllRegisterServer() {

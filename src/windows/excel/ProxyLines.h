@@ -46,10 +46,11 @@
     static com::Member member(L"" #Name);              \
     Put(member, std::int32_t{value ? kTrue : kFalse}); \
   }
-#define PUT_AT_ONCE(Type, Name)                                                                    \
-  void Set##Name(Taken<Type> value) override {                                                     \
-    static com::Member member(L"" #Name);                                                          \
-    com::Call(Object(), member, com::Kind::kPut, std::array{Passed(value)}, com::WhenBusy::kFail); \
+#define PUT_AT_ONCE(Type, Name)                                             \
+  void Set##Name(Taken<Type> value) override {                              \
+    static com::Member member(L"" #Name);                                   \
+    com::Call(Object(), member, com::Kind::kPut, std::array{Passed(value)}, \
+              value ? com::WhenBusy::kWait : com::WhenBusy::kFail);         \
   }
 #define PROPERTY(Type, Name) GET(Type, Name) PUT(Type, Name)
 #define FIND0(Type, Name)                 \

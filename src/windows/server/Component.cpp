@@ -80,12 +80,14 @@ void Report(const char* operation, const runtime::RuntimeError& error, std::intp
 
 }  // namespace
 
-void RunOperation(const char* operation, std::intptr_t hostWindow,
+void RunOperation(const char* operation, const std::function<std::intptr_t()>& findHostWindow,
                   const std::function<void()>& body) noexcept {
   try {
     const ModuleKeeper keeper;
+    std::intptr_t hostWindow = 0;
     try {
       CheckThatItCanRun();
+      hostWindow = findHostWindow();
       const AtWork atWork;
       Start();
       theDesktop->SetHostWindow(hostWindow);

@@ -29,7 +29,8 @@ using Host = runtime::Ref<excel::Application>;
 
 /// Runs an operation on the host that `application` is, under the name that its reports have.
 void Run(const char* name, IDispatch* application, const std::function<void(const Host&)>& body) {
-  RunOperation(name, HostWindow(application), [&] { body(excel::WrapApplication(application)); });
+  RunOperation(
+      name, [&] { return HostWindow(application); }, [&] { body(excel::WrapApplication(application)); });
 }
 
 void RunWizard(IDispatch* application, const std::string& name, const std::string& helpFile) {

@@ -47,6 +47,10 @@ void FormsView::Close(forms::Form& form) {
     return;
   }
   heldKeys_.reset();
+  PostQuitAgain();
+}
+
+void FormsView::PostQuitAgain() {
   if (const auto code = std::exchange(quitCode_, std::nullopt)) PostQuitMessage(*code);
 }
 
@@ -103,6 +107,7 @@ void FormsView::HandleEvents(forms::EventQueue& queue) {
   ShowChanges();
   while (!quitCode_ && HandleMessage(PM_QS_PAINT | PM_QS_POSTMESSAGE | PM_QS_SENDMESSAGE)) {
   }
+  if (windows_.empty()) PostQuitAgain();  // no window of ours will be closed and do it
   com::NoteChange();
   PostTo(queue);
 }

@@ -38,6 +38,8 @@ class FormsView final : public forms::View {
   bool HandleMessage(UINT kinds = 0);
 
  private:
+  /// Puts a WM_QUIT back that was meant for the host.
+  void PostQuitAgain();
   struct Gesture {
     forms::Form* form;
     std::function<void()> gesture;
@@ -51,7 +53,7 @@ class FormsView final : public forms::View {
   std::vector<std::unique_ptr<FormWindow>> windows_;
   std::vector<Gesture> pending_;
   /// The host's own loop was told to end, with this code. It is told so again when the last form has gone.
-  std::optional<int> quitCode_;
+  std::optional<int> quitCode_;  ///< of a WM_QUIT that was taken out of the queue
 };
 
 }  // namespace plotsmith::windows

@@ -88,7 +88,7 @@ TEST_F(LiveProxiesTest, ChartsOfATableStayLoadedWithTheirWorkbook) {
   EXPECT_TRUE(oWorkbook);
   EXPECT_GT(colChartObjects->Count(), 0);
   EXPECT_EQ(com::LiveProxies(), HeldByVariables());
-  std::vector<std::string> oldNames = {"Continent"}, newNames = {"Part of the world"};
+  std::vector<std::string> oldNames = {"Region"}, newNames = {"Part of the world"};
   controller_.UpdateChartColumnNamesForTable(Excel(), table, oldNames, newNames);
   EXPECT_EQ(com::LiveProxies(), HeldByVariables());
 }
