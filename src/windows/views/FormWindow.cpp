@@ -61,28 +61,42 @@ FormWindow::FormWindow(forms::Form& form, HWND owner, Post post, forms::SecondPr
   form.hWnd = reinterpret_cast<std::intptr_t>(window_);
 }
 
-// The windows behind can be used again before this one goes, so that Windows makes one of them the active one
-// and not a window of another program.
+// Windows makes no disabled window active by itself. An earlier page may still keep the host's window
+// disabled, so without being told, Windows would bring another program to the front.
+void FormWindow::GiveUpActivation() {
+  const HWND owner = GetWindow(window_, GW_OWNER);
+  if (owner != nullptr && GetActiveWindow() == window_) SetActiveWindow(owner);
+}
+
 FormWindow::~FormWindow() {
   disabledWindows_.reset();
   form_.hWnd = 0;
   views_.reset();
   if (window_ == nullptr) return;
   RemoveWindowName(window_);
+  GiveUpActivation();
   DestroyWindow(std::exchange(window_, nullptr));
 }
 
 const wchar_t* FormWindow::ClassName() {
-  static const ATOM atom = [] {
-    WNDCLASSEXW own = {};
-    own.cbSize = sizeof own;
-    own.lpfnWndProc = Procedure;
-    own.hInstance = OwnModule();
-    own.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    own.lpszClassName = L"PlotsmithForm";
-    return RegisterClassExW(&own);
-  }();
-  return MAKEINTATOM(atom);
+  // The class goes with the module: a module that is loaded again couldn't register it a second time.
+  static const struct WindowClass {
+    WindowClass() {
+      WNDCLASSEXW own = {};
+      own.cbSize = sizeof own;
+      own.lpfnWndProc = Procedure;
+      own.hInstance = OwnModule();
+      own.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+      own.lpszClassName = L"PlotsmithForm";
+      atom = RegisterClassExW(&own);
+    }
+    ~WindowClass() { UnregisterClassW(MAKEINTATOM(atom), OwnModule()); }
+    WindowClass(const WindowClass&) = delete;
+    WindowClass& operator=(const WindowClass&) = delete;
+
+    ATOM atom = 0;
+  } windowClass;
+  return MAKEINTATOM(windowClass.atom);
 }
 
 void FormWindow::ShowOnScreen() {
@@ -101,6 +115,7 @@ void FormWindow::Update() {
   if (shown != caption) SetWindowTextW(window_, caption.c_str());
   for (const auto& view : *views_) view->Update();
   if (!form_.Visible()) {
+    GiveUpActivation();
     ShowWindow(window_, SW_HIDE);
   } else if (IsWindowVisible(window_)) {
     UpdateFocus();

@@ -32,6 +32,8 @@ class FormWindow {
   bool TakeMessage(MSG& message);
 
  private:
+  /// Makes the host's window the active one in place of this one.
+  void GiveUpActivation();
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   static const wchar_t* ClassName();
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
