@@ -67,7 +67,7 @@ bool OptionButton::IsTabStop() const { return value_ || std::ranges::none_of(Gro
 OptionButton& OptionButton::Neighbor(bool isNext) {
   std::vector<OptionButton*> group = Group();
   if (!isNext) std::ranges::reverse(group);
-  std::ranges::rotate(group, std::ranges::find(group, this) + 1);
+  std::rotate(group.begin(), std::find(group.begin(), group.end(), this) + 1, group.end());
   return **std::ranges::find_if(
       group, [this](const OptionButton* option) { return option == this || option->Obstacle().empty(); });
 }
