@@ -205,6 +205,54 @@ TEST_F(FamiliesTest, LinesAndAreasGoThroughTheirValues) {
   }
 }
 
+/// The heights in shares of a 10 high axis at which the line of a series goes through its points; a piece
+/// behind a gap begins with NaN.
+std::vector<double> HeightsOf(const Drawing& drawing, int series) {
+  const Rect plot = BoxOf(drawing, Role::kPlotArea);
+  std::vector<double> heights;
+  for (const Item& line : ItemsOf(drawing, Role::kLine, series)) {
+    for (const PathStep& step : std::get<PathItem>(line.content).path.Steps()) {
+      if (step.kind == PathStep::Kind::kMove && !heights.empty()) heights.push_back(kNoValue);
+      heights.push_back(std::round((plot.Bottom() - step.to.y) / plot.height * 1e6) / 1e5);
+    }
+  }
+  return heights;
+}
+
+TEST_F(FamiliesTest, BlanksOfLinesAreGapsUnlessTheFileSaysOtherwise) {
+  constexpr double kGap = kNoValue;
+  struct {
+    const char *grouping, *behind;
+    std::vector<double> upper;  // where the second series is drawn
+  } cases[] = {
+      {"standard", "", {1, 1, kGap, 1, 1}},
+      {"standard", "<c:dispBlanksAs val=\"gap\"/>", {1, 1, kGap, 1, 1}},
+      {"standard", "<c:dispBlanksAs val=\"zero\"/>", {1, 1, 0, 1, 1}},
+      {"standard", "<c:dispBlanksAs val=\"span\"/>", {1, 1, 1, 1}},
+      {"stacked", "", {4, 5, 5, 6, 7}},
+      {"stacked", "<c:dispBlanksAs val=\"zero\"/>", {4, 5, 5, 6, 7}},
+      {"percentStacked", "", {10, 10, 10, 10, 10}},
+  };
+  const S value = "<c:scaling><c:max val=\"10\"/><c:min val=\"0\"/></c:scaling>";
+  const S shares = "<c:scaling><c:max val=\"1\"/><c:min val=\"0\"/></c:scaling>";
+  for (const auto& test : cases) {
+    const Drawing drawing =
+        Draw(PlotXml(GroupXml("lineChart", "<c:grouping val=\"" + S(test.grouping) + "\"/>",
+                              SeriesXml(0, {3, 4, 5, 5, 6}) + SeriesXml(1, {1, 1, kNoValue, 1, 1})) +
+                         AxesXml("", test.grouping == S("percentStacked") ? shares : value),
+                     test.behind));
+    const auto heights = HeightsOf(drawing, 2);
+    ASSERT_EQ(heights.size(), test.upper.size()) << test.grouping << test.behind;
+    for (std::size_t i = 0; i < heights.size(); ++i) {
+      if (std::isnan(test.upper[i])) {
+        EXPECT_TRUE(std::isnan(heights[i])) << test.grouping << test.behind << i;
+      } else {
+        EXPECT_NEAR(heights[i], test.upper[i], 1e-4) << test.grouping << test.behind << i;
+      }
+    }
+  }
+}
+
 TEST_F(FamiliesTest, ValuesWithoutACacheAreThoseOfTheCells) {
   const S series =
       "<c:ser><c:idx val=\"0\"/><c:order "
