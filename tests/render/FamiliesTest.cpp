@@ -253,6 +253,30 @@ TEST_F(FamiliesTest, BlanksOfLinesAreGapsUnlessTheFileSaysOtherwise) {
   }
 }
 
+TEST_F(FamiliesTest, PointsAreJoinedUnlessTheFileShowsMarkersOnly) {
+  const auto numbers = [](const char* element) {
+    return "<c:" + S(element) +
+           "><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>1</c:v></c:pt><c:pt "
+           "idx=\"1\"><c:v>2</c:v></c:pt></c:numLit></c:" +
+           element + ">";
+  };
+  struct {
+    S style, marker;
+    std::size_t lines, markers;
+  } cases[] = {
+      {"", "none", 1, 0},     {"", "square", 1, 2},       {"lineMarker", "none", 1, 0},
+      {"line", "none", 1, 0}, {"marker", "square", 0, 2},
+  };
+  for (const auto& test : cases) {
+    const S style = test.style.empty() ? "" : "<c:scatterStyle val=\"" + test.style + "\"/>";
+    const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:marker><c:symbol val=\"" + test.marker +
+                     "\"/></c:marker>" + numbers("xVal") + numbers("yVal") + "</c:ser>";
+    const Drawing drawing = Draw(PlotXml(GroupXml("scatterChart", style, series) + AxesXml()));
+    EXPECT_EQ(ItemsOf(drawing, Role::kLine, 1).size(), test.lines) << test.style << test.marker;
+    EXPECT_EQ(ItemsOf(drawing, Role::kMarker, 1).size(), test.markers) << test.style << test.marker;
+  }
+}
+
 TEST_F(FamiliesTest, ValuesWithoutACacheAreThoseOfTheCells) {
   const S series =
       "<c:ser><c:idx val=\"0\"/><c:order "
