@@ -296,6 +296,51 @@ TEST_F(FamiliesTest, ValuesWithoutACacheAreThoseOfTheCells) {
   EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1)[0], sheet->CellTextAt(2, 1, scratch));
 }
 
+TEST_F(FamiliesTest, NamesWithoutACacheAreThoseOfTheCells) {
+  const auto from = [](const char* element, const char* kind, const S& cells) {
+    return "<c:" + S(element) + "><c:" + kind + "><c:f>Sheet1!" + cells + "</c:f></c:" + kind +
+           "></c:" + element + ">";
+  };
+  const auto series = [&](const char* index, const S& name, const S& values) {
+    return "<c:ser><c:idx val=\"" + S(index) + "\"/><c:order val=\"" + index + "\"/>" + name +
+           from("cat", "strRef", "$A$2:$A$4") + from("val", "numRef", values) + "</c:ser>";
+  };
+  const S cached =
+      "<c:tx><c:strRef><c:f>Sheet1!$C$1</c:f><c:strCache><c:ptCount val=\"1\"/><c:pt idx=\"0\"><c:v>"
+      "Held</c:v></c:pt></c:strCache></c:strRef></c:tx>";
+  const S columns = "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>";
+  // the cells of the first sheet that the cases show
+  Draw(PlotXml(""));
+  const auto sheet = Book().FindWorksheet("Sheet1");
+  std::string scratch;
+  const auto text = [&](int row, int column) { return S(sheet->CellTextAt(row, column, scratch)); };
+  ASSERT_NE(text(1, 2), "");
+  const std::vector<S> names = {text(1, 2), text(1, 3)}, categories = {text(2, 1), text(3, 1), text(4, 1)};
+  struct {
+    const char* what;
+    S groups;
+    std::vector<S> legend;
+  } cases[] = {
+      {"one cell each",
+       GroupXml("barChart", columns,
+                series("0", from("tx", "strRef", "$B$1"), "$B$2:$B$4") +
+                    series("1", from("tx", "strRef", "$C$1"), "$C$2:$C$4")) +
+           AxesXml(),
+       names},
+      {"two cells",
+       GroupXml("barChart", columns, series("0", from("tx", "strRef", "$B$1:$C$1"), "$B$2:$B$4")) + AxesXml(),
+       {names[0] + " " + names[1]}},
+      {"a cache", GroupXml("barChart", columns, series("0", cached, "$C$2:$C$4")) + AxesXml(), {"Held"}},
+      {"no name", GroupXml("barChart", columns, series("0", "", "$C$2:$C$4")) + AxesXml(), {"Series1"}},
+      {"a pie", "<c:pieChart>" + series("0", from("tx", "strRef", "$C$1"), "$C$2:$C$4") + "</c:pieChart>",
+       categories},
+  };
+  for (const auto& test : cases) {
+    const Drawing drawing = Draw(PlotXml(test.groups, "<c:legend><c:legendPos val=\"r\"/></c:legend>"));
+    EXPECT_EQ(TextsOf(drawing, Role::kLegendEntry), test.legend) << test.what;
+  }
+}
+
 TEST_F(FamiliesTest, SeriesOfTwoAxesFollowTheirOwnScale) {
   S second =
       AxesXml("", "<c:scaling><c:max val=\"1\"/><c:min val=\"0\"/></c:scaling><c:crosses val=\"max\"/>");

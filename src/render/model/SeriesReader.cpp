@@ -175,7 +175,7 @@ SeriesModel ReadSeries(ReadingContext& context, const GroupModel& group, pugi::x
   SeriesModel series;
   series.node = node;
   series.number = number;
-  series.name = xlsx::ShownName(node);
+  series.name = xlsx::ShownName(context.part, node);
   const auto values = xlsx::FindValues(node);
   series.values = ReadNumbers(context, values);
   series.valueFormat = context.Format(xml::Text(xml::Child(values, "numRef", "numCache", "formatCode")));
