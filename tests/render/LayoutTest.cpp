@@ -1,3 +1,4 @@
+#include "runtime/Strings.h"
 #include "tests/render/DrawingTest.h"
 
 namespace plotsmith {
@@ -154,6 +155,36 @@ TEST_F(LayoutTest, TitlesBreakKeepTheirRunsAndMakeRoom) {
   S overlay = title;
   overlay.insert(overlay.find("</c:title>"), "<c:overlay val=\"1\"/>");
   EXPECT_EQ(BoxOf(DrawColumns("", "", overlay), Role::kPlotArea), BoxOf(without, Role::kPlotArea));
+}
+
+TEST_F(LayoutTest, AWordThatIsWiderThanItsLineBreaksInside) {
+  struct {
+    const char* what;
+    S text;
+    bool breaks;
+  } cases[] = {
+      {"a short word", "Revenue", false},
+      {"a long word", S(120, 'm'), true},
+      {"a long word among others", "Revenue " + S(80, 'm') + "  of all", true},
+      {"characters of two bytes",
+       "\u00C4" +
+           S("\u00D6\u00DC\u00C4\u00D6\u00DC\u00C4\u00D6\u00DC\u00C4\u00D6\u00DC\u00C4\u00D6\u00DC\u00C4"
+             "\u00D6\u00DC"
+             "\u00C4\u00D6\u00DC\u00C4\u00D6\u00DC\u00C4\u00D6\u00DC\u00C4\u00D6\u00DC\u00C4\u00D6\u00DC"),
+       true},
+  };
+  for (const auto& test : cases) {
+    const Drawing drawing = DrawColumns("", "",
+                                        "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>" + test.text +
+                                            "</a:t></a:r></a:p></c:rich></c:tx></c:title>");
+    const Texts lines = TextsOf(drawing, Role::kTitle);
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
+    EXPECT_EQ(lines.size() > 1, test.breaks) << test.what;
+    S all;
+    for (const S& line : lines) all += line;
+    EXPECT_EQ(runtime::Replace(all, " ", ""), runtime::Replace(test.text, " ", "")) << test.what;
+    for (const S& line : lines) EXPECT_NE(static_cast<unsigned char>(line[0]) & 0xC0, 0x80) << test.what;
+  }
 }
 
 TEST_F(LayoutTest, LooksThatArentDrawnAreSaid) {

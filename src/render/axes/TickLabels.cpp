@@ -28,12 +28,7 @@ Sizes Measure(const std::vector<std::string>& texts, const TextStyle& style, con
   const std::size_t step = std::max<std::size_t>(texts.size() / kMostMeasured, 1);
   for (std::size_t i = 0; i < texts.size(); i += step) {
     const std::string& text = texts[i];
-    for (std::size_t from = 0; from <= text.size();) {
-      const std::size_t end = std::min(text.find_first_of(" \n", from), text.size());
-      sizes.widestWord =
-          std::max(sizes.widestWord, measure.Measure(text.substr(from, end - from), style.font).width);
-      from = end + 1;
-    }
+    sizes.widestWord = std::max(sizes.widestWord, WidestWord(text, style.font, measure));
     for (const TextLine& line : LayOut(text, style, measure).lines)
       sizes.widest = std::max(sizes.widest, line.width);
   }
