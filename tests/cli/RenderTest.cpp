@@ -155,6 +155,16 @@ TEST_F(RenderTest, PicturesGoWhereTheOutputSays) {
   }
 }
 
+TEST_F(RenderTest, TheHelpSaysTheFormatThatIsTakenWithoutOne) {
+  const struct {
+    S verb, format;
+  } cases[] = {{"render", "(without it: as -o ends, else svg)"}, {"refresh", "(without it: svg)"}};
+  for (const auto& c : cases) {
+    const S help = RunCommand({c.verb, "--help"}).out;
+    EXPECT_NE(help.find("svg, png or pdf " + c.format + "\n"), S::npos) << c.verb << help;
+  }
+}
+
 TEST_F(RenderTest, WhatCantBeMeantIsRefusedInOneSentence) {
   const S there = "there are VEX_Chart1, VEX_Chart2 and 'Charts!Chart 3'.\n";
   const struct {

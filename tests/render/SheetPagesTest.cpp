@@ -286,6 +286,10 @@ TEST_F(SheetPagesTest, WhatIsntDrawnIsNotedAndPagesAreBounded) {
   PlainSheet far{.name = "Sheet1", .rows = {{1.0}}, .top = 1000000, .left = 3};
   EXPECT_EQ(Pages(far).size(), 100u);
   EXPECT_EQ(notes_, Notes{"The sheet has 22223 pages; the first 100 are drawn."});
+  EXPECT_EQ(Pages(far, Paper::kOne).size(), 1u);
+  EXPECT_EQ(notes_,
+            Notes{"The sheet is larger than one page can be, which is 14400 by 14400 points; A1 to C960 is "
+                  "drawn."});
   EXPECT_EQ(Pages({.name = "Sheet1"}).size(), 0u);
 }
 
