@@ -66,6 +66,20 @@ void DrawGroup(Plot& plot, const GroupModel& group) {
   }
 }
 
+/// Hides the axes of a chart of which no group is drawn. A radar or surface chart would look like a column
+/// chart that lost its columns.
+void HideAxesWithoutGroups(ChartModel& chart) {
+  const bool missing = std::all_of(chart.groups.begin(), chart.groups.end(), [](const GroupModel& group) {
+    return group.family == Family::kRadar || group.family == Family::kSurface;
+  });
+  if (!missing) return;
+  for (AxisModel& axis : chart.axes) {
+    axis.hidden = true;
+    axis.majorGridlines.reset();
+    axis.minorGridlines.reset();
+  }
+}
+
 /// What of the looks of a chart is known but not drawn.
 void NoteMissingLooks(Canvas& canvas, xlsx::ChartPart& part) {
   constexpr long long kFirstDarkStyle = 33;
@@ -130,6 +144,7 @@ void DrawTitles(Canvas& canvas, const ChartModel& chart, const ChartLayout& layo
 Drawing DrawChart(xlsx::ChartPart& part, double width, double height, const TextMeasure& measure,
                   Notes& notes) {
   ChartModel chart = ReadChart(part, notes);
+  HideAxesWithoutGroups(chart);
   Drawing drawing;
   drawing.width = width;
   drawing.height = height;

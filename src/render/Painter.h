@@ -16,6 +16,8 @@ class Painter {
   virtual ~Painter() = default;
 
   virtual const TextMeasure& Measure() const = 0;
+  /// Whether there is any font. Without one, texts are measured and painted as boxes or not at all.
+  virtual bool HasFonts() const = 0;
   /// On a white ground; `scale` is pixels for a point. A picture of more than a hundred million pixels, or of
   /// none, is a std::length_error.
   virtual Raster Rasterize(const Drawing& drawing, double scale) const = 0;

@@ -155,6 +155,42 @@ TEST_F(RenderTest, PicturesGoWhereTheOutputSays) {
   }
 }
 
+TEST_F(RenderTest, TheHelpSaysTheFormatThatIsTakenWithoutOne) {
+  const struct {
+    S verb, format;
+  } cases[] = {{"render", "(without it: as -o ends, else svg)"}, {"refresh", "(without it: svg)"}};
+  for (const auto& c : cases) {
+    const S help = RunCommand({c.verb, "--help"}).out;
+    EXPECT_NE(help.find("svg, png or pdf " + c.format + "\n"), S::npos) << c.verb << help;
+  }
+}
+
+TEST_F(RenderTest, AMachineWithoutFontsIsSaidOnce) {
+  const S none = folder_ / "fonts.conf", said = folder_ / "said.txt";
+  std::ofstream(none) << "<?xml version=\"1.0\"?><fontconfig></fontconfig>";
+  const S sentence =
+      "plotsmith: no fonts are installed, so texts are not where they should be, or are missing.\n";
+  const struct {
+    S environment, arguments;
+    int code;
+    S err, files;
+  } cases[] = {
+      {"FONTCONFIG_FILE=" + none, "", 1, sentence, "book-VEX_Chart1.svg svg, book-VEX_Chart2.svg svg"},
+      {"FONTCONFIG_FILE=" + none, "--format png VEX_Chart1", 1, sentence, "book-VEX_Chart1.png png"},
+      {"FONTCONFIG_FILE=" + none, "--sheet Data1", 1, sentence, "book-Data1.svg svg"},
+      {"", "VEX_Chart1", 0, "", "book-VEX_Chart1.svg svg"},
+  };
+  for (const auto& c : cases) {
+    const S folder = folder_ / "dir";
+    fs::remove_all(folder);
+    const S command = c.environment + " " + test::kCommand + " render " + book_ + " " + c.arguments + " -o " +
+                      folder + "/ > " + (folder_ / "out.txt") + " 2> " + said;
+    EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), c.code) << c.arguments;
+    EXPECT_EQ(BytesOf(said), c.err) << c.arguments;
+    EXPECT_EQ(Files(), c.files) << c.arguments;
+  }
+}
+
 TEST_F(RenderTest, WhatCantBeMeantIsRefusedInOneSentence) {
   const S there = "there are VEX_Chart1, VEX_Chart2 and 'Charts!Chart 3'.\n";
   const struct {

@@ -293,6 +293,31 @@ TEST_F(AxesTest, LongNamesBesideBarsLeaveRoomForThem) {
   EXPECT_EQ(DrawingComplaints(drawing), "");
 }
 
+TEST_F(AxesTest, LabelsOfSeveralLinesBesideBarsAreSkippedByTheirHeight) {
+  struct {
+    const char* what;
+    S text;
+    std::size_t count;
+    bool all;
+  } cases[] = {
+      {"one line", "North ", 12, true},
+      {"several lines with room", "Northern hemisphere and the islands around it, as it was counted in ", 3,
+       true},
+      {"several lines", "Northern hemisphere and the islands around it, as it was counted in the year ", 12,
+       false},
+  };
+  for (const auto& test : cases) {
+    Texts names;
+    for (std::size_t i = 0; i < test.count; ++i) names.push_back(test.text + std::to_string(i + 1));
+    const Drawing drawing = DrawWith(std::vector<double>(test.count, 5), "", "", names, true);
+    std::set<int> numbers;
+    for (const auto& label : ItemsOf(drawing, Role::kTickLabel, 1)) numbers.insert(label.tag.point);
+    EXPECT_EQ(numbers.size() == test.count, test.all) << test.what << numbers.size();
+    EXPECT_TRUE(numbers.contains(1)) << test.what;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
+  }
+}
+
 TEST_F(AxesTest, TitlesStandOutsideOfTheLabels) {
   const auto title = [](const S& text, const S& body = "<a:bodyPr/>") {
     return "<c:title><c:tx><c:rich>" + body + "<a:p><a:r><a:t>" + text +

@@ -205,6 +205,78 @@ TEST_F(FamiliesTest, LinesAndAreasGoThroughTheirValues) {
   }
 }
 
+/// The heights in shares of a 10 high axis at which the line of a series goes through its points; a piece
+/// behind a gap begins with NaN.
+std::vector<double> HeightsOf(const Drawing& drawing, int series) {
+  const Rect plot = BoxOf(drawing, Role::kPlotArea);
+  std::vector<double> heights;
+  for (const Item& line : ItemsOf(drawing, Role::kLine, series)) {
+    for (const PathStep& step : std::get<PathItem>(line.content).path.Steps()) {
+      if (step.kind == PathStep::Kind::kMove && !heights.empty()) heights.push_back(kNoValue);
+      heights.push_back(std::round((plot.Bottom() - step.to.y) / plot.height * 1e6) / 1e5);
+    }
+  }
+  return heights;
+}
+
+TEST_F(FamiliesTest, BlanksOfLinesAreGapsUnlessTheFileSaysOtherwise) {
+  constexpr double kGap = kNoValue;
+  struct {
+    const char *grouping, *behind;
+    std::vector<double> upper;  // where the second series is drawn
+  } cases[] = {
+      {"standard", "", {1, 1, kGap, 1, 1}},
+      {"standard", "<c:dispBlanksAs val=\"gap\"/>", {1, 1, kGap, 1, 1}},
+      {"standard", "<c:dispBlanksAs val=\"zero\"/>", {1, 1, 0, 1, 1}},
+      {"standard", "<c:dispBlanksAs val=\"span\"/>", {1, 1, 1, 1}},
+      {"stacked", "", {4, 5, 5, 6, 7}},
+      {"stacked", "<c:dispBlanksAs val=\"zero\"/>", {4, 5, 5, 6, 7}},
+      {"percentStacked", "", {10, 10, 10, 10, 10}},
+  };
+  const S value = "<c:scaling><c:max val=\"10\"/><c:min val=\"0\"/></c:scaling>";
+  const S shares = "<c:scaling><c:max val=\"1\"/><c:min val=\"0\"/></c:scaling>";
+  for (const auto& test : cases) {
+    const Drawing drawing =
+        Draw(PlotXml(GroupXml("lineChart", "<c:grouping val=\"" + S(test.grouping) + "\"/>",
+                              SeriesXml(0, {3, 4, 5, 5, 6}) + SeriesXml(1, {1, 1, kNoValue, 1, 1})) +
+                         AxesXml("", test.grouping == S("percentStacked") ? shares : value),
+                     test.behind));
+    const auto heights = HeightsOf(drawing, 2);
+    ASSERT_EQ(heights.size(), test.upper.size()) << test.grouping << test.behind;
+    for (std::size_t i = 0; i < heights.size(); ++i) {
+      if (std::isnan(test.upper[i])) {
+        EXPECT_TRUE(std::isnan(heights[i])) << test.grouping << test.behind << i;
+      } else {
+        EXPECT_NEAR(heights[i], test.upper[i], 1e-4) << test.grouping << test.behind << i;
+      }
+    }
+  }
+}
+
+TEST_F(FamiliesTest, PointsAreJoinedUnlessTheFileShowsMarkersOnly) {
+  const auto numbers = [](const char* element) {
+    return "<c:" + S(element) +
+           "><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>1</c:v></c:pt><c:pt "
+           "idx=\"1\"><c:v>2</c:v></c:pt></c:numLit></c:" +
+           element + ">";
+  };
+  struct {
+    S style, marker;
+    std::size_t lines, markers;
+  } cases[] = {
+      {"", "none", 1, 0},     {"", "square", 1, 2},       {"lineMarker", "none", 1, 0},
+      {"line", "none", 1, 0}, {"marker", "square", 0, 2},
+  };
+  for (const auto& test : cases) {
+    const S style = test.style.empty() ? "" : "<c:scatterStyle val=\"" + test.style + "\"/>";
+    const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:marker><c:symbol val=\"" + test.marker +
+                     "\"/></c:marker>" + numbers("xVal") + numbers("yVal") + "</c:ser>";
+    const Drawing drawing = Draw(PlotXml(GroupXml("scatterChart", style, series) + AxesXml()));
+    EXPECT_EQ(ItemsOf(drawing, Role::kLine, 1).size(), test.lines) << test.style << test.marker;
+    EXPECT_EQ(ItemsOf(drawing, Role::kMarker, 1).size(), test.markers) << test.style << test.marker;
+  }
+}
+
 TEST_F(FamiliesTest, ValuesWithoutACacheAreThoseOfTheCells) {
   const S series =
       "<c:ser><c:idx val=\"0\"/><c:order "
@@ -222,6 +294,51 @@ TEST_F(FamiliesTest, ValuesWithoutACacheAreThoseOfTheCells) {
   }
   std::string scratch;
   EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1)[0], sheet->CellTextAt(2, 1, scratch));
+}
+
+TEST_F(FamiliesTest, NamesWithoutACacheAreThoseOfTheCells) {
+  const auto from = [](const char* element, const char* kind, const S& cells) {
+    return "<c:" + S(element) + "><c:" + kind + "><c:f>Sheet1!" + cells + "</c:f></c:" + kind +
+           "></c:" + element + ">";
+  };
+  const auto series = [&](const char* index, const S& name, const S& values) {
+    return "<c:ser><c:idx val=\"" + S(index) + "\"/><c:order val=\"" + index + "\"/>" + name +
+           from("cat", "strRef", "$A$2:$A$4") + from("val", "numRef", values) + "</c:ser>";
+  };
+  const S cached =
+      "<c:tx><c:strRef><c:f>Sheet1!$C$1</c:f><c:strCache><c:ptCount val=\"1\"/><c:pt idx=\"0\"><c:v>"
+      "Held</c:v></c:pt></c:strCache></c:strRef></c:tx>";
+  const S columns = "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>";
+  // the cells of the first sheet that the cases show
+  Draw(PlotXml(""));
+  const auto sheet = Book().FindWorksheet("Sheet1");
+  std::string scratch;
+  const auto text = [&](int row, int column) { return S(sheet->CellTextAt(row, column, scratch)); };
+  ASSERT_NE(text(1, 2), "");
+  const std::vector<S> names = {text(1, 2), text(1, 3)}, categories = {text(2, 1), text(3, 1), text(4, 1)};
+  struct {
+    const char* what;
+    S groups;
+    std::vector<S> legend;
+  } cases[] = {
+      {"one cell each",
+       GroupXml("barChart", columns,
+                series("0", from("tx", "strRef", "$B$1"), "$B$2:$B$4") +
+                    series("1", from("tx", "strRef", "$C$1"), "$C$2:$C$4")) +
+           AxesXml(),
+       names},
+      {"two cells",
+       GroupXml("barChart", columns, series("0", from("tx", "strRef", "$B$1:$C$1"), "$B$2:$B$4")) + AxesXml(),
+       {names[0] + " " + names[1]}},
+      {"a cache", GroupXml("barChart", columns, series("0", cached, "$C$2:$C$4")) + AxesXml(), {"Held"}},
+      {"no name", GroupXml("barChart", columns, series("0", "", "$C$2:$C$4")) + AxesXml(), {"Series1"}},
+      {"a pie", "<c:pieChart>" + series("0", from("tx", "strRef", "$C$1"), "$C$2:$C$4") + "</c:pieChart>",
+       categories},
+  };
+  for (const auto& test : cases) {
+    const Drawing drawing = Draw(PlotXml(test.groups, "<c:legend><c:legendPos val=\"r\"/></c:legend>"));
+    EXPECT_EQ(TextsOf(drawing, Role::kLegendEntry), test.legend) << test.what;
+  }
 }
 
 TEST_F(FamiliesTest, SeriesOfTwoAxesFollowTheirOwnScale) {

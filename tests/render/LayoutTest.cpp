@@ -1,3 +1,4 @@
+#include "runtime/Strings.h"
 #include "tests/render/DrawingTest.h"
 
 namespace plotsmith {
@@ -156,6 +157,36 @@ TEST_F(LayoutTest, TitlesBreakKeepTheirRunsAndMakeRoom) {
   EXPECT_EQ(BoxOf(DrawColumns("", "", overlay), Role::kPlotArea), BoxOf(without, Role::kPlotArea));
 }
 
+TEST_F(LayoutTest, AWordThatIsWiderThanItsLineBreaksInside) {
+  struct {
+    const char* what;
+    S text;
+    bool breaks;
+  } cases[] = {
+      {"a short word", "Revenue", false},
+      {"a long word", S(120, 'm'), true},
+      {"a long word among others", "Revenue " + S(80, 'm') + "  of all", true},
+      {"characters of two bytes",
+       "\u00C4" +
+           S("\u00D6\u00DC\u00C4\u00D6\u00DC\u00C4\u00D6\u00DC\u00C4\u00D6\u00DC\u00C4\u00D6\u00DC\u00C4"
+             "\u00D6\u00DC"
+             "\u00C4\u00D6\u00DC\u00C4\u00D6\u00DC\u00C4\u00D6\u00DC\u00C4\u00D6\u00DC\u00C4\u00D6\u00DC"),
+       true},
+  };
+  for (const auto& test : cases) {
+    const Drawing drawing = DrawColumns("", "",
+                                        "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>" + test.text +
+                                            "</a:t></a:r></a:p></c:rich></c:tx></c:title>");
+    const Texts lines = TextsOf(drawing, Role::kTitle);
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
+    EXPECT_EQ(lines.size() > 1, test.breaks) << test.what;
+    S all;
+    for (const S& line : lines) all += line;
+    EXPECT_EQ(runtime::Replace(all, " ", ""), runtime::Replace(test.text, " ", "")) << test.what;
+    for (const S& line : lines) EXPECT_NE(static_cast<unsigned char>(line[0]) & 0xC0, 0x80) << test.what;
+  }
+}
+
 TEST_F(LayoutTest, LooksThatArentDrawnAreSaid) {
   const S picture = "<c:spPr><a:blipFill><a:blip/><a:stretch><a:fillRect/></a:stretch></a:blipFill></c:spPr>";
   const S dark =
@@ -185,6 +216,32 @@ TEST_F(LayoutTest, LooksThatArentDrawnAreSaid) {
     part.insert(part.find("<c:chart>"), test.front);
     EXPECT_EQ(FillOf(ItemsOf(DrawPart(part), Role::kBar)[0]), "#4F81BD") << test.what;
     EXPECT_EQ(notes_, test.notes) << test.what;
+  }
+}
+
+TEST_F(LayoutTest, AxesOfKindsThatArentDrawnAreNotDrawnEither) {
+  const S look =
+      "<c:majorGridlines/><c:minorGridlines/><c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>Values"
+      "</a:t></a:r></a:p></c:rich></c:tx></c:title>";
+  struct {
+    const char* group;
+    bool hasAxes;
+    Texts notes;
+  } cases[] = {
+      {"radarChart", false, {"Radar charts aren't drawn."}},
+      {"surfaceChart", false, {"Surface charts aren't drawn."}},
+      {"surface3DChart", false, {"Surface charts aren't drawn."}},
+      {"barChart", true, {}},
+  };
+  for (const auto& test : cases) {
+    const Drawing drawing =
+        Draw(PlotXml(GroupXml(test.group, "", SeriesXml(0, {1, 2})) + AxesXml("", look), "<c:legend/>"));
+    for (const Role role : {Role::kGridline, Role::kMinorGridline, Role::kAxisLine, Role::kTickMark,
+                            Role::kTickLabel, Role::kAxisTitle}) {
+      EXPECT_EQ(!ItemsOf(drawing, role).empty(), test.hasAxes) << test.group << NameOf(role);
+    }
+    EXPECT_EQ(TextsOf(drawing, Role::kLegendEntry), Texts{"Series 0"}) << test.group;
+    EXPECT_EQ(notes_, test.notes) << test.group;
   }
 }
 

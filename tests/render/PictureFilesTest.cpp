@@ -77,6 +77,22 @@ TEST_F(PictureFilesTest, SvgHasTextsAsTextsAndFewBytes) {
                 "text-decoration=\"underline\" fill=\"#008000\">&lt;Größe&gt;</text>\n</svg>\n");
 }
 
+TEST_F(PictureFilesTest, SvgKeepsTheBlanksOfTexts) {
+  struct {
+    S text;
+    bool keeps;
+  } cases[] = {{"one two", false}, {" before", true}, {"behind ", true},
+               {"one  two", true}, {"a\tb", true},    {"", false}};
+  for (const auto& test : cases) {
+    Drawing drawing;
+    drawing.items.push_back({{Role::kTitle}, TextItem{test.text, {"Calibri", 10}, {}, {}}});
+    const S svg = MakeSvg(drawing);
+    EXPECT_NE(svg.find((test.keeps ? " xml:space=\"preserve\">" : ">") + test.text + "</text>"), S::npos)
+        << svg;
+    EXPECT_EQ(svg.find("xml:space") != S::npos, test.keeps) << test.text;
+  }
+}
+
 TEST_F(PictureFilesTest, SvgsOfOnePageHaveIdsOfTheirOwn) {
   const auto idOf = [](const Drawing& drawing) { return Between(MakeSvg(drawing), "url(#", ")"); };
   Drawing other = Small();

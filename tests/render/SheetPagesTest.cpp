@@ -1,4 +1,5 @@
 #include "render/sheet/CellLines.h"
+#include "render/sheet/MergedCells.h"
 #include "render/sheet/PageCuts.h"
 #include "render/sheet/SheetPages.h"
 #include "tests/render/DrawingTest.h"
@@ -20,6 +21,30 @@ double CountedWidth(std::string_view text) { return static_cast<double>(text.siz
 S Text(const CellRange& range) {
   return xlsx::CellAddress(range.row1, range.column1, false) + ":" +
          xlsx::CellAddress(range.row2, range.column2, false);
+}
+
+TEST(MergedCellsTest, HoldTheSameCellsAsTheirRangesInAnyOrderOfRows) {
+  const struct {
+    const char* what;
+    std::vector<CellRange> ranges;
+  } cases[] = {
+      {"none", {}},
+      {"one", {{2, 2, 4, 3}}},
+      {"side by side", {{2, 4, 2, 5}, {2, 1, 6, 2}, {1, 3, 1, 3}}},
+      {"below each other", {{5, 1, 6, 6}, {1, 2, 2, 2}, {3, 2, 3, 4}}},
+      {"over each other", {{1, 1, 6, 2}, {2, 2, 3, 6}, {2, 3, 2, 4}}},
+  };
+  for (const auto& test : cases) {
+    MergedCells merged(test.ranges);
+    for (const std::int32_t row : {1, 2, 3, 4, 5, 6, 7, 3, 3, 1, 6, 2}) {
+      for (std::int32_t column = 1; column <= 7; ++column) {
+        const bool holds = std::any_of(test.ranges.begin(), test.ranges.end(), [&](const CellRange& range) {
+          return range.row1 <= row && row <= range.row2 && range.column1 <= column && column <= range.column2;
+        });
+        EXPECT_EQ(merged.Hold(row, column), holds) << test.what << ' ' << row << ' ' << column;
+      }
+    }
+  }
 }
 
 TEST(PageCutsTest, PagesHoldWholeRowsAndColumnsUpToBreaks) {
@@ -261,6 +286,10 @@ TEST_F(SheetPagesTest, WhatIsntDrawnIsNotedAndPagesAreBounded) {
   PlainSheet far{.name = "Sheet1", .rows = {{1.0}}, .top = 1000000, .left = 3};
   EXPECT_EQ(Pages(far).size(), 100u);
   EXPECT_EQ(notes_, Notes{"The sheet has 22223 pages; the first 100 are drawn."});
+  EXPECT_EQ(Pages(far, Paper::kOne).size(), 1u);
+  EXPECT_EQ(notes_,
+            Notes{"The sheet is larger than one page can be, which is 14400 by 14400 points; A1 to C960 is "
+                  "drawn."});
   EXPECT_EQ(Pages({.name = "Sheet1"}).size(), 0u);
 }
 

@@ -25,7 +25,7 @@ CLI::App* RefreshCommand::Declare(CLI::App& app) {
   verb->add_flag("--verbose", verbose_, "Say at the end how many charts were refreshed");
   verb->add_option("--render", pictureFolder_, "Also draw the refreshed charts, into this folder")
       ->type_name("FOLDER");
-  DeclarePictureOptions(*verb, pictures_);
+  DeclarePictureOptions(*verb, pictures_, "svg");
   return verb;
 }
 

@@ -18,7 +18,7 @@ CLI::App* RenderCommand::Declare(CLI::App& app) {
   verb->add_option("--sheet", sheet_, "Draw this sheet instead, its cells and charts, as it would be printed")
       ->type_name("SHEET");
   verb->add_flag("--one-page", onePage_, "Draw the sheet on one page that is as large as what it shows");
-  DeclarePictureOptions(*verb, pictures_);
+  DeclarePictureOptions(*verb, pictures_, "as -o ends, else svg");
   verb->add_option("-o,--output", output_,
                    "Write to this file or into this folder (without it: the current folder); \"-\" is the "
                    "standard output")

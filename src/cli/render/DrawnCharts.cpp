@@ -42,6 +42,7 @@ DrawnCounts WriteCharts(xlsx::Workbook& workbook, const std::string& book,
   PictureNames names(book);
   PictureWriter writer(plan, streams, list);
   DrawnCounts counts;
+  counts.said = !charts.empty() && SayIfFontsAreMissing(streams);
   for (const ChartToDraw& chart : charts) {
     render::Notes notes;
     auto drawing = Draw(workbook, chart.chart, notes);

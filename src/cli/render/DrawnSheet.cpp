@@ -15,6 +15,7 @@ namespace plotsmith::cli {
 
 bool WriteSheet(xlsx::Workbook& workbook, const std::string& book, const xlsx::SheetEntry& sheet,
                 render::Paper paper, const PicturePlan& plan, const Streams& streams) {
+  const bool fontsAreMissing = SayIfFontsAreMissing(streams);
   render::Notes notes;
   std::vector<render::Drawing> pages =
       render::DrawSheet(workbook, sheet, paper, LoadPainter().Measure(), notes);
@@ -32,7 +33,7 @@ bool WriteSheet(xlsx::Workbook& workbook, const std::string& book, const xlsx::S
       writer.Add(name + "-" + std::to_string(i + 1), std::move(pages[i]));
   }
   writer.Finish();
-  return !notes.empty();
+  return fontsAreMissing || !notes.empty();
 }
 
 }  // namespace plotsmith::cli

@@ -73,8 +73,8 @@ const char* EndingOf(PictureFormat format) {
       ->ending;
 }
 
-void DeclarePictureOptions(CLI::App& verb, PictureOptions& options) {
-  verb.add_option("--format", options.format, "svg, png or pdf (without it: as -o ends, else svg)")
+void DeclarePictureOptions(CLI::App& verb, PictureOptions& options, const std::string& usualFormat) {
+  verb.add_option("--format", options.format, "svg, png or pdf (without it: " + usualFormat + ")")
       ->type_name("KIND");
   verb.add_option("--dpi", options.dpi, "Pixels of a PNG for an inch (without it: 96)")->type_name("N");
   verb.add_option("--scale", options.scale, "Draw so many times as large")->type_name("N");

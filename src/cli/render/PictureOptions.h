@@ -22,7 +22,8 @@ struct PictureOptions {
 
   bool AreGiven() const { return format || dpi || scale; }
 };
-void DeclarePictureOptions(CLI::App& verb, PictureOptions& options);
+/// `usualFormat` says in the help which format is taken without --format.
+void DeclarePictureOptions(CLI::App& verb, PictureOptions& options, const std::string& usualFormat);
 
 /// Where pictures go, and how they are made.
 struct PicturePlan {

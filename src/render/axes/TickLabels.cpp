@@ -28,12 +28,7 @@ Sizes Measure(const std::vector<std::string>& texts, const TextStyle& style, con
   const std::size_t step = std::max<std::size_t>(texts.size() / kMostMeasured, 1);
   for (std::size_t i = 0; i < texts.size(); i += step) {
     const std::string& text = texts[i];
-    for (std::size_t from = 0; from <= text.size();) {
-      const std::size_t end = std::min(text.find_first_of(" \n", from), text.size());
-      sizes.widestWord =
-          std::max(sizes.widestWord, measure.Measure(text.substr(from, end - from), style.font).width);
-      from = end + 1;
-    }
+    sizes.widestWord = std::max(sizes.widestWord, WidestWord(text, style.font, measure));
     for (const TextLine& line : LayOut(text, style, measure).lines)
       sizes.widest = std::max(sizes.widest, line.width);
   }
@@ -84,13 +79,26 @@ Setting SettingForFlat(const AxisModel& axis, const Sizes& sizes, double slot, d
   return {kUpwards, kUnlimited, skips ? SkipFor(sizes.lineHeight * kLineSpacing, slot) : given};
 }
 
-Setting SettingForUpright(const AxisModel& axis, const Sizes& sizes, double slot, double depth) {
+/// The height of the highest label whose lines break at a width.
+double TallestWrapped(const std::vector<std::string>& texts, const TextStyle& style, double wrap,
+                      const TextMeasure& measure) {
+  double tallest = 0;
+  const std::size_t step = std::max<std::size_t>(texts.size() / kMostMeasured, 1);
+  for (std::size_t i = 0; i < texts.size(); i += step) {
+    tallest = std::max(tallest, LayOut(texts[i], style, measure, wrap).height);
+  }
+  return tallest;
+}
+
+Setting SettingForUpright(const AxisModel& axis, const std::vector<std::string>& texts, const Sizes& sizes,
+                          double slot, double depth, const TextMeasure& measure) {
   const double rotation = axis.text.rotation.value_or(0);
   Setting setting{rotation, kUnlimited, std::max(static_cast<double>(axis.labelSkip), 1.0)};
   const double turned = std::abs(std::sin(rotation * kRadian));
   if (turned < 0.05 && !axis.IsOfValues()) setting.wrap = std::max(depth, sizes.widestWord);
   if (axis.labelSkip == 0) {
-    const double needed = turned < 0.05 ? sizes.lineHeight : NeededAlong(sizes, 90 - std::abs(rotation), 0);
+    const double needed = turned < 0.05 ? TallestWrapped(texts, axis.text, setting.wrap, measure)
+                                        : NeededAlong(sizes, 90 - std::abs(rotation), 0);
     setting.skip = SkipFor(needed, slot);
   }
   return setting;
@@ -145,7 +153,7 @@ TickLabels LayOutTickLabels(const AxisModel& axis, double length, double depth, 
   for (std::size_t i = 1; axis.dates && i < places.size(); ++i) {  // months differ
     slot = std::min(slot, length * (places[i] - places[i - 1]) / std::max(axis.dates->count, 1.0));
   }
-  const Setting setting = axis.IsUpright() ? SettingForUpright(axis, sizes, slot, depth)
+  const Setting setting = axis.IsUpright() ? SettingForUpright(axis, texts, sizes, slot, depth, measure)
                                            : SettingForFlat(axis, sizes, slot, depth);
   result.rotation = setting.rotation;
   TextStyle style = axis.text;

@@ -17,6 +17,16 @@ constexpr double kPointsPerInch = 72;  // a unit of the picture is a point
 constexpr std::size_t kMostTexts = 8000;
 constexpr std::size_t kLongestText = 4096;  // bytes that are laid out; more doesn't fit on any chart
 
+/// Whether a font has what the pattern says.
+bool IsAnyLike(FcPattern* wanted) {
+  FcObjectSet* nothing = FcObjectSetBuild(FC_FAMILY, nullptr);
+  FcFontSet* fonts = FcFontList(nullptr, wanted, nothing);
+  const bool found = fonts != nullptr && fonts->nfont > 0;
+  if (fonts != nullptr) FcFontSetDestroy(fonts);
+  FcObjectSetDestroy(nothing);
+  return found;
+}
+
 struct Release {
   void operator()(gpointer object) const { g_object_unref(object); }
 };
@@ -167,13 +177,16 @@ bool Fonts::IsInstalled(std::string_view family) {
   if (!isNew) return entry->second;
   FcPattern* wanted = FcPatternCreate();
   FcPatternAddString(wanted, FC_FAMILY, reinterpret_cast<const FcChar8*>(entry->first.c_str()));
-  FcObjectSet* nothing = FcObjectSetBuild(FC_FAMILY, nullptr);
-  FcFontSet* fonts = FcFontList(nullptr, wanted, nothing);
-  entry->second = fonts != nullptr && fonts->nfont > 0;
-  if (fonts != nullptr) FcFontSetDestroy(fonts);
-  FcObjectSetDestroy(nothing);
+  entry->second = IsAnyLike(wanted);
   FcPatternDestroy(wanted);
   return entry->second;
+}
+
+bool Fonts::IsAnyInstalled() {
+  FcPattern* any = FcPatternCreate();
+  const bool found = IsAnyLike(any);
+  FcPatternDestroy(any);
+  return found;
 }
 
 }  // namespace plotsmith::render

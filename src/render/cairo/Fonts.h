@@ -24,6 +24,8 @@ class Fonts final : public TextMeasure {
   void Show(cairo_t* cr, std::string_view line, const Font& font) const;
   /// Whether the family is installed; case aside.
   static bool IsInstalled(std::string_view family);
+  /// Whether any font is installed.
+  static bool IsAnyInstalled();
 
  private:
   struct State;

@@ -113,12 +113,14 @@ void DrawLines(Plot& plot, const GroupModel& group) {
   if (group.highLowLines) {
     DrawUprights(plot, categories, values, extents, group.PointCount(), *group.highLowLines);
   }
+  std::vector<double> pile(group.PointCount());  // a blank in a stack is drawn on the series below it
   for (std::size_t s = 0; s < group.series.size(); ++s) {
     const SeriesModel& series = group.series[s];
     std::vector<LinePoint> points;
     for (const std::size_t i : OrderAlong(*categoryAxis, series.values.size())) {
       double value = extents.to[s][i];
-      if (!std::isfinite(value) && (plot.chart.blanks == "zero" || group.IsStacked())) value = 0;
+      if (!std::isfinite(value) && (plot.chart.blanks == "zero" || group.IsStacked())) value = pile[i];
+      if (group.IsStacked()) pile[i] = value;
       LinePoint& point = points.emplace_back();
       point.index = i;
       point.present = std::isfinite(value) && (!valueAxis->logBase || value > 0);

@@ -65,6 +65,35 @@ TextLine Finished(std::vector<TextRun> runs, const TextMeasure& measure) {
   return line;
 }
 
+/// The bytes of a text's beginning that fit into a width, at least those of one character.
+std::size_t FittingBytes(std::string_view text, const Font& font, double width, const TextMeasure& measure) {
+  std::size_t fitting = 0;
+  while (fitting < text.size()) {
+    std::size_t end = fitting + 1;
+    while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) ++end;
+    width -= measure.Measure(text.substr(fitting, end - fitting), font).width;
+    if (width < 0 && fitting > 0) break;
+    fitting = end;
+  }
+  return fitting;
+}
+
+/// Breaks a word that is wider than a line inside. Adds its full lines to the block, and leaves its end.
+void BreakInside(Word& word, double width, const TextMeasure& measure, TextBlock& block) {
+  if (word.trimmed <= width) return;
+  const TextRun& run = word.run;
+  const std::string_view letters = std::string_view(run.text).substr(0, run.text.find_last_not_of(' ') + 1);
+  std::size_t begin = 0;
+  while (block.lines.size() <= kMostLines) {
+    const std::size_t bytes = FittingBytes(letters.substr(begin), run.font, width, measure);
+    if (begin + bytes >= letters.size()) break;
+    block.lines.push_back(Finished({{run.text.substr(begin, bytes), run.font, run.color}}, measure));
+    begin += bytes;
+  }
+  word.run.text.erase(0, begin);
+  word.width = measure.Measure(word.run.text, word.run.font).width;
+}
+
 void AddParagraph(const std::vector<TextRun>& runs, const TextMeasure& measure, double width,
                   TextBlock& block) {
   if (width == kUnlimited) {
@@ -79,6 +108,8 @@ void AddParagraph(const std::vector<TextRun>& runs, const TextMeasure& measure, 
       taken = 0;
       if (block.lines.size() > kMostLines) return;
     }
+    if (line.empty()) BreakInside(word, width, measure, block);
+    if (block.lines.size() > kMostLines) return;
     taken += word.width;
     line.push_back(std::move(word.run));
   }
@@ -128,6 +159,16 @@ TextBlock LayOut(const RichText& text, const TextMeasure& measure, double width)
 
 TextBlock LayOut(const std::string& text, const TextStyle& style, const TextMeasure& measure, double width) {
   return LayOut(Plain(text, style), measure, width);
+}
+
+double WidestWord(std::string_view text, const Font& font, const TextMeasure& measure) {
+  double widest = 0;
+  for (std::size_t from = 0; from <= text.size();) {
+    const std::size_t end = std::min(text.find_first_of(" \n", from), text.size());
+    widest = std::max(widest, measure.Measure(text.substr(from, end - from), font).width);
+    from = end + 1;
+  }
+  return widest;
 }
 
 RichText Plain(const std::string& text, const TextStyle& style) {

@@ -2,6 +2,7 @@
 
 #include <limits>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "render/Canvas.h"
@@ -31,11 +32,13 @@ struct TextBlock {
   bool IsEmpty() const { return lines.empty(); }
 };
 
-/// Breaks a text at blanks, so that no line is wider than `width` if it can be helped.
+/// Breaks a text at blanks, so that no line is wider than `width`; a word that is wider breaks inside.
 TextBlock LayOut(const RichText& text, const TextMeasure& measure, double width = kUnlimited);
 /// The same of a text in one style; line feeds break lines.
 TextBlock LayOut(const std::string& text, const TextStyle& style, const TextMeasure& measure,
                  double width = kUnlimited);
+/// The width of the widest word between blanks and breaks.
+double WidestWord(std::string_view text, const Font& font, const TextMeasure& measure);
 /// A plain text as paragraphs of one run each.
 RichText Plain(const std::string& text, const TextStyle& style);
 

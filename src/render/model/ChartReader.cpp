@@ -138,7 +138,8 @@ ChartModel ReadChart(xlsx::ChartPart& part, Notes& notes) {
   chart.dates = part.Book().Dates();
   chart.chartArea = ReadStyle(part, xml::Child(space, "spPr"), context.styles.ChartArea());
   chart.roundedCorners = schema::BooleanVal(space, "roundedCorners", false);
-  chart.blanks = schema::Val(node, "dispBlanksAs", "zero");
+  // Excel writes the element unless another program left it out, and draws gaps where it is absent.
+  chart.blanks = schema::Val(node, "dispBlanksAs", "gap");
   chart.layout = ReadLayout(plotArea);
   chart.axes = ReadAxes(context, plotArea);
   ReadGroups(context, chart);

@@ -175,7 +175,7 @@ SeriesModel ReadSeries(ReadingContext& context, const GroupModel& group, pugi::x
   SeriesModel series;
   series.node = node;
   series.number = number;
-  series.name = xlsx::ShownName(node);
+  series.name = xlsx::ShownName(context.part, node);
   const auto values = xlsx::FindValues(node);
   series.values = ReadNumbers(context, values);
   series.valueFormat = context.Format(xml::Text(xml::Child(values, "numRef", "numCache", "formatCode")));
@@ -231,7 +231,8 @@ GroupModel ReadGroup(ReadingContext& context, pugi::xml_node node,
   group.bubbleScale = Limited(node, "bubbleScale", 100, 0, 300);
   group.showNegativeBubbles = schema::BooleanVal(node, "showNegBubbles", false);
   group.sizeIsWidth = schema::Val(node, "sizeRepresents", "area") == "w";
-  const std::string style = schema::Val(node, "scatterStyle", "marker");
+  // Excel joins the points with lines where a file doesn't say how they are drawn
+  const std::string style = schema::Val(node, "scatterStyle", "lineMarker");
   group.markersOnly = kind.family == Family::kScatter && (style == "marker" || style == "none");
   const auto readLines = [&](const char* name, std::optional<Stroke>& stroke) {
     const auto lines = xml::Child(node, name);

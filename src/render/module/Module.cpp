@@ -14,6 +14,7 @@ constexpr double kPointsPerInch = 72;
 class CairoPainter final : public Painter {
  public:
   const TextMeasure& Measure() const override { return fonts_; }
+  bool HasFonts() const override { return Fonts::IsAnyInstalled(); }
   Raster Rasterize(const Drawing& drawing, double scale) const override {
     return MakeRaster(drawing, fonts_, scale * kPointsPerInch);
   }

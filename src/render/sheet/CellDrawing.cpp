@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "render/sheet/CellLines.h"
+#include "render/sheet/MergedCells.h"
 #include "xlsx/Limits.h"
 
 namespace plotsmith::render {
@@ -30,12 +31,17 @@ constexpr double kStrikeHeight = 0.28, kStrikeWidth = 0.06;
 
 constexpr Tag kCellTag{Role::kCell, 0, 0}, kTextTag{Role::kCellText, 0, 0};
 
-bool Holds(const CellRange& range, std::int32_t row, std::int32_t column) {
-  return row >= range.row1 && row <= range.row2 && column >= range.column1 && column <= range.column2;
-}
-
 bool Meet(const CellRange& a, const CellRange& b) {
   return a.row1 <= b.row2 && b.row1 <= a.row2 && a.column1 <= b.column2 && b.column1 <= a.column2;
+}
+
+/// Those of the ranges that are on the page at least in part.
+std::vector<CellRange> OnPage(const std::vector<CellRange>& ranges, const CellRange& page) {
+  std::vector<CellRange> met;
+  for (const CellRange& range : ranges) {
+    if (Meet(range, page)) met.push_back(range);
+  }
+  return met;
 }
 
 Path RectPath(const Rect& rect) { return Path().AddRect(rect); }
@@ -78,11 +84,11 @@ double RoomFor(const PrintedCell& cell, const CellLook& look, const TextMeasure&
 class CellDrawing {
  public:
   CellDrawing(SheetReader& sheet, const CellRange& page, Canvas& canvas)
-      : sheet_(sheet), page_(page), canvas_(canvas) {
-    for (const CellRange& range : sheet.MergedCells()) {
-      if (Meet(range, page)) merged_.push_back(range);
-    }
-  }
+      : sheet_(sheet),
+        page_(page),
+        canvas_(canvas),
+        merged_(OnPage(sheet.MergedCells(), page)),
+        mergedCells_(merged_) {}
 
   void DrawGridLines() {
     const Stroke line{kBlack, kGridLineWidth, {}, {}, {}};
@@ -102,13 +108,12 @@ class CellDrawing {
       const auto& fill = sheet_.LookAt(row, column).fillColor;
       if (!fill || IsMerged(row, column)) return;
       // neighbours of one colour are one rectangle, so that no seam is seen between them
+      const auto isAlike = [&](std::int32_t other) {
+        return sheet_.LookAt(row, other).fillColor == fill && !IsMerged(row, other);
+      };
+      if (column > page_.column1 && isAlike(column - 1)) return;
       std::int32_t last = column;
-      while (last < page_.column2 && sheet_.LookAt(row, last + 1).fillColor == fill &&
-             !IsMerged(row, last + 1))
-        ++last;
-      if (column > page_.column1 && sheet_.LookAt(row, column - 1).fillColor == fill &&
-          !IsMerged(row, column - 1))
-        return;
+      while (last < page_.column2 && isAlike(last + 1)) ++last;
       canvas_.Add(kCellTag, RectPath(sheet_.AreaOf({row, column, row, last})), SolidFill{FromExcel(*fill)});
     });
     for (const CellRange& range : merged_) {
@@ -156,10 +161,7 @@ class CellDrawing {
     }
   }
 
-  bool IsMerged(std::int32_t row, std::int32_t column) const {
-    return std::any_of(merged_.begin(), merged_.end(),
-                       [&](const CellRange& range) { return Holds(range, row, column); });
-  }
+  bool IsMerged(std::int32_t row, std::int32_t column) { return mergedCells_.Hold(row, column); }
 
   /// Whether the text of a neighbour may go over the cell.
   bool IsFree(std::int32_t row, std::int32_t column) {
@@ -307,6 +309,7 @@ class CellDrawing {
   CellRange page_;
   Canvas& canvas_;
   std::vector<CellRange> merged_;
+  MergedCells mergedCells_;  ///< the same ranges
 };
 
 }  // namespace

@@ -20,6 +20,7 @@ namespace plotsmith::render {
 namespace {
 
 constexpr std::size_t kMostPages = 100;
+constexpr double kLargestPage = 14400;  // points, as PDF allows
 constexpr const char* kPrintTitles = "_xlnm.Print_Titles";
 constexpr Color kWhite{255, 255, 255, 1};
 
@@ -32,9 +33,8 @@ Drawing EmptyPage(const xlsx::PageSetup& setup, const std::string& title) {
 
 /// One page, as large as PDF allows, in place of the setup's own.
 xlsx::PageSetup OnePage(const xlsx::PageSetup& setup) {
-  constexpr double kLargest = 14400;  // points
   xlsx::PageSetup one;
-  one.paperWidth = one.paperHeight = kLargest;
+  one.paperWidth = one.paperHeight = kLargestPage;
   one.left = one.top = one.right = one.bottom = 0;
   one.gridLines = setup.gridLines;
   one.hasConditionalFormats = setup.hasConditionalFormats;
@@ -79,7 +79,12 @@ class WorksheetPages {
   std::vector<Drawing> Draw() {
     const PageCuts cuts =
         CutPages(setup_, reader_.Geometry(), ranges_, paper_ == Paper::kOne ? 1 : kMostPages);
-    if (cuts.count > cuts.pages.size()) {
+    if (cuts.count > cuts.pages.size() && paper_ == Paper::kOne) {
+      const xlsx::CellRange& drawn = cuts.pages.front();
+      notes_.push_back("The sheet is larger than one page can be, which is 14400 by 14400 points; " +
+                       xlsx::CellAddress(drawn.row1, drawn.column1, false) + " to " +
+                       xlsx::CellAddress(drawn.row2, drawn.column2, false) + " is drawn.");
+    } else if (cuts.count > cuts.pages.size()) {
       notes_.push_back("The sheet has " + std::to_string(cuts.count) + " pages; the first " +
                        std::to_string(cuts.pages.size()) + " are drawn.");
     }

@@ -143,6 +143,12 @@ Font UsualFont(const Drawing& drawing) {
   return usual;
 }
 
+/// Whether a viewer would drop blanks of the text unless it is told to keep them.
+bool LosesBlanks(std::string_view text) {
+  return text.starts_with(' ') || text.ends_with(' ') || text.find("  ") != std::string_view::npos ||
+         text.find_first_of("\t\n") != std::string_view::npos;
+}
+
 /// Begins all ids until the rest of the file is known. No text has it, as XML can't hold it.
 constexpr const char* kPrefixLeftOpen = "\x01";
 
@@ -182,6 +188,7 @@ class Writer {
     if (font.underline) body_ += " text-decoration=\"underline\"";
     const Color black;
     if (item.color != black) body_ += FillAttributes(SolidFill{item.color}, {}, definitions_);
+    if (LosesBlanks(item.text)) body_ += " xml:space=\"preserve\"";
     body_ += '>' + SvgEscape(item.text) + "</text>\n";
   }
   void operator()(const PushClip& clip) {

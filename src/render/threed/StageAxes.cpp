@@ -181,7 +181,10 @@ std::vector<StageAxes::PlacedLabel> StageAxes::LabelsOf(const PlacedRuler& place
   }
   // names below a picture break at their blanks before any is left out
   const bool breaks = placed.edge.beside == Beside::kBelow && !axis.IsOfValues() && !axis.text.rotation;
-  const double room = breaks ? std::max(step.x - kLabelGap, 1.0) : kUnlimited;
+  double room = breaks ? std::max(step.x - kLabelGap, 1.0) : kUnlimited;
+  for (const Label& label : labels) {
+    if (breaks) room = std::max(room, WidestWord(label.text, axis.text.font, measure_));
+  }
   double widest = 1, highest = 1;
   std::vector<PlacedLabel> all;
   for (const Label& label : labels) {

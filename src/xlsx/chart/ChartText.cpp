@@ -25,7 +25,7 @@ std::optional<std::string> ShownTitle(ChartPart& part) {
   if (!title && schema::BooleanVal(part.Chart(), "autoTitleDeleted", false)) return std::nullopt;
   const auto series = SeriesOf(part);
   if (series.size() == 1) {
-    const std::string name = SeriesName(series[0]);
+    const std::string name = SeriesName(part, series[0]);
     if (title || !name.empty()) return name.empty() ? "Chart Title" : name;
   }
   return title ? std::optional<std::string>("Chart Title") : std::nullopt;

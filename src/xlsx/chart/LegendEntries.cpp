@@ -35,7 +35,7 @@ bool ListsPoints(ChartPart& part) {
 
 std::size_t AllEntries(ChartPart& part) {
   if (part.Series().empty()) return 0;
-  return ListsPoints(part) ? PointCount(FindValues(part.Series()[0]->node)) : part.Series().size();
+  return ListsPoints(part) ? DataPoints(part, FindValues(part.Series()[0]->node)) : part.Series().size();
 }
 
 /// The numbers of the first entries that are left.
@@ -100,12 +100,12 @@ Ref<excel::LegendEntries> MakeLegendEntries(std::shared_ptr<ChartPart> part) {
 
 std::vector<LegendLine> LegendLines(ChartPart& part, std::size_t most) {
   const bool points = ListsPoints(part);
-  const auto categories =
-      points ? CachedTexts(xml::Child(part.Series()[0]->node, "cat")) : std::map<std::size_t, std::string>();
+  const auto categories = points ? DataTexts(part, xml::Child(part.Series()[0]->node, "cat"))
+                                 : std::map<std::size_t, std::string>();
   std::vector<LegendLine> lines;
   for (const std::size_t number : EntriesLeft(part, most)) {
     if (!points) {
-      lines.push_back({number, number, std::nullopt, ShownName(part.Series()[number]->node)});
+      lines.push_back({number, number, std::nullopt, ShownName(part, part.Series()[number]->node)});
     } else {
       const auto text = categories.find(number);
       lines.push_back(

@@ -31,7 +31,7 @@ class SeriesObject final : public excel::Series {
  public:
   explicit SeriesObject(SeriesHandle series) : series_(std::move(series)) {}
 
-  std::string Name() override { return ShownName(series_.Node()); }
+  std::string Name() override { return ShownName(*series_.part, series_.Node()); }
   std::string Formula() override {
     const auto series = series_.Node();
     const auto reference = [&](std::initializer_list<const char*> elements) {

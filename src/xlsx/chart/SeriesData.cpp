@@ -7,7 +7,6 @@
 #include "xlsx/Worksheet.h"
 #include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartPart.h"
-#include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/ChartTypes.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Xml.h"
@@ -41,13 +40,33 @@ const char* PropertyName(SeriesData which) {
   return "Values";
 }
 
-Source FindSource(ChartPart& part, SeriesData which, const std::string& reference) {
-  const auto range =
-      reference.starts_with('=') ? ParseSheetRange(std::string_view(reference).substr(1)) : std::nullopt;
+/// The cells of a formula without its equals sign, if they are of a sheet and no more than a cache holds.
+std::optional<Source> FindCells(ChartPart& part, std::string_view formula) {
+  const auto range = ParseSheetRange(formula);
   auto sheet = range ? part.Book().FindWorksheet(range->sheet) : nullptr;
-  if (!sheet || range->range.CellCount() > limits::kCachePoints) throw CantSet(PropertyName(which), "Series");
+  if (!sheet || range->range.CellCount() > limits::kCachePoints) return std::nullopt;
   const std::string name = sheet->SheetName();
-  return {std::move(sheet), range->range, SheetRangeAddress({name, range->range})};
+  return Source{std::move(sheet), range->range, SheetRangeAddress({name, range->range})};
+}
+
+Source FindSource(ChartPart& part, SeriesData which, const std::string& reference) {
+  auto source =
+      reference.starts_with('=') ? FindCells(part, std::string_view(reference).substr(1)) : std::nullopt;
+  if (!source) throw CantSet(PropertyName(which), "Series");
+  return *std::move(source);
+}
+
+/// The cells that a series' data points at, if the part holds no cache of them.
+std::optional<Source> FindUncached(ChartPart& part, pugi::xml_node data) {
+  for (const pugi::xml_node& reference : data.children()) {
+    const auto formula = xml::Child(reference, "f");
+    if (!formula) continue;
+    for (const char* cache : {"strCache", "numCache", "multiLvlStrCache"}) {
+      if (xml::Child(reference, cache)) return std::nullopt;
+    }
+    return FindCells(part, xml::Text(formula));
+  }
+  return std::nullopt;
 }
 
 /// Calls `visit` with the number of each cell, from 0, its place and its value.
@@ -124,14 +143,34 @@ void PointAt(ChartPart& part, pugi::xml_node data, const Source& source, bool te
 
 }  // namespace
 
-std::string SeriesName(pugi::xml_node series) {
-  const auto tx = xml::Child(series, "tx");
-  // a cell's text is held as that of a title is
-  return xml::Child(tx, "v") ? CachedText(tx) : TitleText(series);
+std::map<std::size_t, std::string> DataTexts(ChartPart& part, pugi::xml_node data) {
+  const auto source = FindUncached(part, data);
+  if (!source) return CachedTexts(data);
+  std::map<std::size_t, std::string> texts;
+  std::string scratch;
+  ForEachCell(*source, [&](std::size_t index, std::int32_t row, std::int32_t column, const CellValue& value) {
+    if (value.kind != CellValue::Kind::kEmpty) texts[index] = source->sheet->CellTextAt(row, column, scratch);
+  });
+  return texts;
 }
 
-std::string ShownName(pugi::xml_node series) {
-  if (xml::Child(series, "tx")) return SeriesName(series);
+std::size_t DataPoints(ChartPart& part, pugi::xml_node data) {
+  const auto source = FindUncached(part, data);
+  return source ? source->CellCount() : PointCount(data);
+}
+
+std::string SeriesName(ChartPart& part, pugi::xml_node series) {
+  constexpr std::size_t kMostCells = 1000;  // a chart may have many series that point at large ranges
+  const auto tx = xml::Child(series, "tx");
+  if (xml::Child(tx, "v")) return CachedText(tx);
+  if (const auto cells = FindUncached(part, tx); cells && cells->CellCount() > kMostCells) return {};
+  std::string name;
+  for (const auto& [point, text] : DataTexts(part, tx)) name += (name.empty() ? "" : " ") + text;
+  return name;
+}
+
+std::string ShownName(ChartPart& part, pugi::xml_node series) {
+  if (xml::Child(series, "tx")) return SeriesName(part, series);
   // counted from the first, whatever its place in the file
   return "Series" + std::to_string(schema::IntegerVal(series, "idx", 0) + 1);
 }

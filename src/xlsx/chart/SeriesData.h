@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <map>
 #include <pugixml.hpp>
 #include <string>
 
@@ -13,10 +15,16 @@ class ChartPart;
 /// bubbles.
 enum class SeriesData { kName, kCategories, kValues, kBubbleSizes };
 
-/// The name of a series as it is written in the part, from its cell or by itself; empty without one.
-std::string SeriesName(pugi::xml_node series);
+/// The texts of a series' data by the numbers of their points from 0: those that the part holds, or where it
+/// has no cache, those of the cells. Points without a text are left out.
+std::map<std::size_t, std::string> DataTexts(ChartPart& part, pugi::xml_node data);
+/// The number of points in a series' data, in its cache or its cells.
+std::size_t DataPoints(ChartPart& part, pugi::xml_node data);
+
+/// The name that a series has by itself or from its cells; empty without one.
+std::string SeriesName(ChartPart& part, pugi::xml_node series);
 /// What Excel calls a series: by its name, else by its number.
-std::string ShownName(pugi::xml_node series);
+std::string ShownName(ChartPart& part, pugi::xml_node series);
 
 /// Points a series at cells ("=Sheet1!$A$1:$A$5", or R1C1), and fills the chart's cache from them, so that a
 /// reader shows the chart without computing anything. A name may also be a literal text. Error 1004 for what
