@@ -1,6 +1,7 @@
 #include <set>
 
 #include "tests/render/DrawingTest.h"
+#include "xlsx/package/Xml.h"
 
 namespace plotsmith {
 namespace {
@@ -231,8 +232,8 @@ TEST_F(AxesTest, DatesLieWhereTheirDayMonthOrYearIs) {
   for (const auto& test : cases) {
     S cache, values;
     for (std::size_t i = 0; i < test.serials.size(); ++i) {
-      cache +=
-          "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + std::to_string(test.serials[i]) + "</c:v></c:pt>";
+      cache += "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + xlsx::xml::Number(test.serials[i]) +
+               "</c:v></c:pt>";
     }
     const S categories = "<c:cat><c:numLit><c:formatCode>m-d</c:formatCode><c:ptCount val=\"" +
                          std::to_string(test.serials.size()) + "\"/>" + cache + "</c:numLit></c:cat>";

@@ -1,6 +1,7 @@
 #include <map>
 
 #include "tests/render/DrawingTest.h"
+#include "xlsx/package/Xml.h"
 
 namespace plotsmith {
 namespace {
@@ -100,7 +101,7 @@ TEST_F(DrawingTest, BarsOverlapOrStandApartByAShareOfTheirWidth) {
     const Drawing drawing = Draw(
         PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>",
                          SeriesXml(0, {4, 2}) + SeriesXml(1, {1, 3}),
-                         "<c:gapWidth val=\"100\"/><c:overlap val=\"" + std::to_string(overlap) + "\"/>") +
+                         "<c:gapWidth val=\"100\"/><c:overlap val=\"" + xlsx::xml::Number(overlap) + "\"/>") +
                 AxesXml()));
     const Rect first = BoxesOf(drawing, Role::kBar, 1)[0], second = BoxesOf(drawing, Role::kBar, 2)[0];
     EXPECT_NEAR((first.Right() - second.left) / first.width, overlap / 100, 1e-6) << overlap;

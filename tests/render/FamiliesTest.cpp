@@ -2,6 +2,7 @@
 
 #include "tests/render/DrawingTest.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/package/Xml.h"
 
 namespace plotsmith {
 namespace {
@@ -29,7 +30,7 @@ class FamiliesTest : public DrawingTest {
     const auto data = [&](const char* element, std::size_t which) {
       S xml = "<c:" + S(element) + "><c:numLit><c:ptCount val=\"" + std::to_string(bubbles.size()) + "\"/>";
       for (std::size_t i = 0; i < bubbles.size(); ++i) {
-        xml += "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + std::to_string(bubbles[i][which]) +
+        xml += "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + xlsx::xml::Number(bubbles[i][which]) +
                "</c:v></c:pt>";
       }
       return xml + "</c:numLit></c:" + element + ">";

@@ -1,6 +1,7 @@
 #include "tests/render/threed/Chart3DTest.h"
 
 #include "xlsx/chart/ChartPart.h"
+#include "xlsx/package/Xml.h"
 
 namespace plotsmith::test {
 namespace {
@@ -12,7 +13,7 @@ std::string SeriesXml(int number, const std::vector<double>& values) {
   std::string points, texts;
   for (std::size_t i = 0; i < values.size(); ++i) {
     const std::string start = "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>";
-    points += start + std::to_string(values[i] * number) + "</c:v></c:pt>";
+    points += start + xlsx::xml::Number(values[i] * number) + "</c:v></c:pt>";
     texts += start + "Q" + std::to_string(i + 1) + "</c:v></c:pt>";
   }
   const std::string count = "<c:ptCount val=\"" + std::to_string(values.size()) + "\"/>";

@@ -4,6 +4,7 @@
 #include <numbers>
 
 #include "tests/render/threed/Chart3DTest.h"
+#include "xlsx/package/Xml.h"
 
 namespace plotsmith::test {
 namespace {
@@ -24,7 +25,7 @@ Rect BoundsOfAll(const std::vector<const Item*>& items) {
 TEST_F(Pie3DTest, TheDiscIsAsFlatAsTheElevationSays) {
   for (const double elevation : {10, 30, 45, 80}) {
     const Drawing drawing =
-        Draw({.view = "<c:rotX val=\"" + std::to_string(elevation) + "\"/><c:rotY val=\"0\"/>",
+        Draw({.view = "<c:rotX val=\"" + xlsx::xml::Number(elevation) + "\"/><c:rotY val=\"0\"/>",
               .group = "pie3DChart"});
     const auto slices = ItemsOf(drawing, Role::kSlice);
     ASSERT_EQ(slices.size(), 4);
@@ -40,7 +41,7 @@ TEST_F(Pie3DTest, TheDiscIsAsFlatAsTheElevationSays) {
 TEST_F(Pie3DTest, SlicesMeetOnTheirEdgesAndBeginWhereTheViewIsTurnedTo) {
   for (const double rotation : {0, 90, 275}) {
     const Drawing drawing =
-        Draw({.view = "<c:rotX val=\"30\"/><c:rotY val=\"" + std::to_string(rotation) + "\"/>",
+        Draw({.view = "<c:rotX val=\"30\"/><c:rotY val=\"" + xlsx::xml::Number(rotation) + "\"/>",
               .group = "pie3DChart",
               .values = {1, 1, 2}});
     const auto slices = ItemsOf(drawing, Role::kSlice);
