@@ -108,6 +108,10 @@ void Session::LoadTables() {
 
 void Session::LoadTablesAndCharts() {
   LoadTables();
+  LoadCharts();
+}
+
+void Session::LoadCharts() {
   if (SheetExists(kDefinitionsSheet)) {
     RetrieveChartDefinitions();
   } else {

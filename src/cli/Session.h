@@ -46,6 +46,8 @@ class Session {
   void LoadTables();
   /// Discovers the tables and loads the definitions, for commands that only read.
   void LoadTablesAndCharts();
+  /// Loads the definitions and reads their charts back. It wants the tables loaded.
+  void LoadCharts();
   /// Refuses, before any work is done, to write where another program has the workbook open, or a file that
   /// the workbook can't be. If `output` is the standard output, the journal goes to `err` from here on.
   void CheckWritable(const std::optional<std::string>& output);

@@ -9,7 +9,7 @@ namespace plotsmith::render {
 /// The size of one line of text, in points.
 struct TextExtent {
   double width = 0;
-  double ascent = 0, descent = 0;  ///< of the font, whatever the text is
+  double ascent = 0, descent = 0;  ///< of the font; the text makes no difference
 
   double Height() const { return ascent + descent; }
 };

@@ -99,7 +99,8 @@ CellGrid& Worksheet::Grid() {
   }
   const SheetContents& contents = Contents();
   if (!isNew_ && contents.formulas) {
-    throw Refusal("The sheet \"" + SheetName() + "\" has formulas, and a sheet with formulas can't be written.");
+    throw Refusal("The sheet \"" + SheetName() +
+                  "\" has formulas, and a sheet with formulas can't be written.");
   }
   if (contents.used && contents.used->CellCount() > std::int64_t{limits::kGridCells}) {
     CellGrid::CheckRoom(RoomOf(contents.cells));

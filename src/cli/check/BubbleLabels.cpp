@@ -49,9 +49,8 @@ std::vector<Bubble> BubblesOf(excel::Worksheet& sheet, const TableArea& area, st
   for (std::int32_t row = area.firstRow; row <= area.lastRow; ++row) {
     std::string name(GetCellText(sheet, row, names, scratch));
     const auto [found, isNew] = byName.try_emplace(runtime::UCase(name), bubbles.size());
-    if (isNew && bubbles.size() == kMostBubbles) continue;  // the map has no room for it
-    if (isNew) bubbles.push_back({std::move(name), "", row});
-    if (found->second >= bubbles.size()) continue;
+    if (isNew && bubbles.size() < kMostBubbles) bubbles.push_back({std::move(name), "", row});
+    if (found->second >= bubbles.size()) continue;  // the chart has no room for it
     Bubble& bubble = bubbles[found->second];
     bubble.label = runtime::Trim(GetCellText(sheet, row, labels, scratch));
     bubble.row = row;

@@ -88,7 +88,7 @@ int ChartsCommand::Run(const GlobalOptions& options, const Streams& streams) {
   Session session(book_, options, streams);
   session.LoadTables();
   const auto checked = CheckDefinitions(session.Book());  // a load drops rows that are no definitions
-  session.LoadTablesAndCharts();
+  session.LoadCharts();
   int code = session.Finish();
   if (ReportUnlisted(checked, streams.err)) code = exit_code::kSaidSomething;
   Json list = Json::array();

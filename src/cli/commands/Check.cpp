@@ -118,7 +118,7 @@ void Print(std::ostream& out, const Report& report) {
 /// What the definitions say otherwise than their charts, and labels that cost a bubble chart its legend. To
 /// see that, the charts have to be loaded, which changes the workbook in memory.
 void CheckDrawn(Session& session, std::vector<CheckedDefinition>& definitions) {
-  session.LoadTablesAndCharts();
+  session.LoadCharts();
   auto differences = CheckReadBack(session.Book(), definitions, AxisTitles::kCompared);
   for (CheckedDefinition& definition : definitions) {
     Append(definition.findings, std::move(differences[definition.id]));

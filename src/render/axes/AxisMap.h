@@ -44,7 +44,7 @@ struct Tick {
   double value = 0;
   std::string label;
 };
-/// Where an axis of values has its major units, with what stands there; a thousand at most.
+/// Where an axis of values has its major units, with their labels; a thousand at most.
 std::vector<Tick> MajorTicks(const AxisModel& axis, xlsx::DateSystem dates);
 /// Between them.
 std::vector<double> MinorTicks(const AxisModel& axis);

@@ -12,7 +12,7 @@ struct DateTick {
   std::string label;
 };
 
-/// Where an axis of dates has its major units, with what stands there.
+/// Where an axis of dates has its major units, with their labels.
 std::vector<DateTick> DateTicks(const AxisModel& axis, xlsx::DateSystem dates);
 
 /// The points of a group, from 0, as they follow each other along its axis: by their dates on an axis of

@@ -25,7 +25,7 @@ void AppendChunk(std::string& out, const char* type, const std::string& data) {
   AppendBigEndian(out, static_cast<std::uint32_t>(crc32(0, bytes, static_cast<uInt>(out.size() - from))));
 }
 
-/// The colours of a picture and where each stands in the palette, as far as there are 256.
+/// The colours of a picture and the index of each in the palette, as far as there are 256.
 class Palette {
  public:
   /// Nothing for the 257th colour.

@@ -24,8 +24,8 @@ namespace plotsmith::xlsx {
 namespace {
 
 // Beside those in the header.
-constexpr double kLegendPadding = 8;   // around all entries together
-constexpr double kKeyEms = 2.4;        // a legend key with the gaps around it, which grows with the text
+constexpr double kLegendPadding = 8;  // around all entries together
+constexpr double kKeyEms = 2.4;       // a legend key with the gaps around it, which grows with the text
 
 /// How an element's text is set, by its beginning.
 TextFace FaceOf(ChartPart& part, pugi::xml_node element, TextRole role) {

@@ -9,11 +9,12 @@ class ChartPart;
 
 // Excel's layout is nowhere written down. These make plain charts come out as Excel draws them, to a few
 // points.
-inline constexpr double kChartInset = 7;      ///< what Excel leaves free inside of a chart's edge
-inline constexpr double kTitlePadding = 7.2;  ///< above and below a title's text together: a text box's insets
-inline constexpr double kTitleShare = 0.8;    ///< of the chart's width, before a title breaks
-inline constexpr double kTitleGap = 5;        ///< between the chart's title and the plot area
-inline constexpr double kLabelGap = 5;        ///< between an axis and its labels
+inline constexpr double kChartInset = 7;  ///< what Excel leaves free inside of a chart's edge
+inline constexpr double kTitlePadding =
+    7.2;                                    ///< above and below a title's text together: a text box's insets
+inline constexpr double kTitleShare = 0.8;  ///< of the chart's width, before a title breaks
+inline constexpr double kTitleGap = 5;      ///< between the chart's title and the plot area
+inline constexpr double kLabelGap = 5;      ///< between an axis and its labels
 /// Of the chart that the plot area keeps, whatever the texts take.
 inline constexpr double kLeastShare = 0.1;
 

@@ -199,9 +199,8 @@ const Boxes::Member Boxes::kMembers[] = {
            Variant(static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(boxes.window_))));
      }},
     {"WindowIsEnabled",
-     [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
-       return com::ToVariant(Variant(IsWindowEnabled(boxes.window_) != 0));
-     }},
+     [](Boxes& boxes, const DISPPARAMS&)
+         -> OwnedVariant { return com::ToVariant(Variant(IsWindowEnabled(boxes.window_) != 0)); }},
 };
 
 HRESULT Boxes::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) {

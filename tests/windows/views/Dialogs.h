@@ -22,8 +22,8 @@ forms::Form& FrontForm();
 
 /// Has all messages handled that wait, as the loop does.
 void HandleMessages();
-/// A deed of a script calls it at last: the messages that wait are handled, and the form does what came of them
-/// before the next line.
+/// A deed of a script calls it at last: the messages that wait are handled, and the form does what came of
+/// them before the next line.
 void EndDeed();
 /// Where gestures go while a script plays a line; null otherwise.
 extern forms::EventQueue* theQueue;
