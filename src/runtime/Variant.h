@@ -85,7 +85,7 @@ inline const Variant kNull = Variant::Null{};
 std::string CStr(const Variant& value);
 /// Converts to a number: Empty to 0, True to -1, a string as ParseNumber does.
 double CDbl(const Variant& value);
-/// Converts to a 32-bit integer. Halves are rounded to the even neighbor.
+/// Converts to a 32-bit integer. Halves are rounded to the even neighbour.
 std::int32_t CLng(const Variant& value);
 /// Converts to a Boolean. A number is true unless it is 0; a string must be "True", "False" or a number.
 bool CBool(const Variant& value);
