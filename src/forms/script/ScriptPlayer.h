@@ -71,7 +71,7 @@ class ScriptPlayer final : public View {
   std::size_t line_ = 0;
   bool ended_ = false;
   std::deque<std::string> messages_;   ///< Not expected yet.
-  std::deque<std::string> questions_;  ///< not expected yet
+  std::deque<std::string> questions_;  ///< Not expected yet.
   std::deque<bool> answers_;           ///< Given in advance; true means OK.
   std::optional<Failure> failure_;
   std::optional<FormState> lastState_;
