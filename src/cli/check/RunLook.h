@@ -62,7 +62,7 @@ class RunLook {
   xlsx::Workbook& book_;
   DefinitionsAre definitions_;
   std::vector<CheckedDefinition> rows_;          ///< Before the run.
-  Findings strayCharts_;                         ///< before the run
+  Findings strayCharts_;                         ///< Before the run.
   std::map<std::string, Findings> started_;      ///< Findings about each chart whose build began, by id.
   std::map<std::string, Findings> differences_;  ///< Differences in which the chart takes precedence, by id.
   bool compared_ = false;

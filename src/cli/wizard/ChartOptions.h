@@ -32,7 +32,7 @@ struct LayoutOptions {
 
 /// All options of a chart: table, type, layout, name and sheet.
 struct ChartOptions {
-  std::optional<std::string> table;  ///< an id
+  std::optional<std::string> table;  ///< A table id.
   std::optional<std::string> type;
   LayoutOptions layout;
   std::optional<std::string> name;
