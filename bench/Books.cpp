@@ -10,7 +10,7 @@
 namespace plotsmith::bench {
 namespace {
 
-/// The same numbers on every machine.
+/// A random number generator that gives the same numbers on every machine.
 class Random {
  public:
   std::uint32_t Below(std::uint32_t limit) {
@@ -27,7 +27,7 @@ constexpr const char* kDataPart = "/xl/worksheets/sheet1.xml";
 
 std::string Column(const std::string& name) { return "<column name=\"" + name + "\"/>"; }
 
-/// A definition whose headings both stand in rows.
+/// Returns a definition with categories and series from rows.
 std::string Definition(std::uint32_t number, const std::string& type, const std::string& table,
                        const std::string& categories, const std::string& series, const std::string& values) {
   const std::string n = std::to_string(number);
@@ -37,7 +37,7 @@ std::string Definition(std::uint32_t number, const std::string& type, const std:
          Column(values) + "</values></chart>";
 }
 
-/// An empty frame for each of the charts, ten in a row.
+/// Returns a sheet with an empty frame for each chart, ten in a row.
 test::PlainSheet Frames(std::uint32_t charts) {
   test::PlainSheet sheet{"Charts"};
   for (std::uint32_t i = 0; i < charts; ++i) {
@@ -99,7 +99,7 @@ std::string DataSheet(std::uint32_t rows, std::uint32_t regions) {
     open('G', row, "\"><v>");
     number(static_cast<double>(random.Below(2000000)) / 1000 - 500);
     xml += "</v></c>";
-    if (random.Below(10) < 3) text('H', kMostRegions + 5008, 40);  // Note, mostly blank
+    if (random.Below(10) < 3) text('H', kMostRegions + 5008, 40);  // Note, mostly blank.
     xml += "</row>";
   }
   return xml + "</sheetData></worksheet>";
@@ -181,7 +181,7 @@ void ChangeRegions(const std::string& path, std::uint32_t rows, std::uint32_t re
 }
 
 void WriteNamesBook(const std::string& path, std::uint32_t names) {
-  constexpr std::uint32_t kRows = 6, kTableEvery = 10;  // title, note, headings, three rows of data
+  constexpr std::uint32_t kRows = 6, kTableEvery = 10;  // Title, note, headings, three rows of data.
   using S = std::string;
   test::PlainBook book;
   test::PlainSheet lists{"Lists"};

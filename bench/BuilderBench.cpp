@@ -1,4 +1,4 @@
-// The walks over the source table that a build of a chart makes.
+// Measures the passes over the source table when a chart is built.
 
 #include <benchmark/benchmark.h>
 #include <iostream>
@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::uint32_t kRows = 20'000;
 
-/// A book of one chart, its definition validated and its map built.
+/// A workbook with one chart, whose definition was validated and mapped.
 class Build {
  public:
   Build() {

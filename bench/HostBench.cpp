@@ -1,4 +1,4 @@
-// The parts of the embedded host.
+// Measures parts of the embedded host.
 
 #include <benchmark/benchmark.h>
 
@@ -50,7 +50,7 @@ void ParseAFormat(benchmark::State& state) {
 }
 BENCHMARK(ParseAFormat);
 
-/// Down a column of the large table by displayed text: of shared strings, of dates, of decimals.
+/// Reads the displayed texts of a column in the large table: shared strings, dates, or decimals.
 void ReadTexts(benchmark::State& state, std::int32_t column) {
   const bench::TemporaryBook file(kRows);
   const auto host = Application::Create();
@@ -80,7 +80,7 @@ void ReadValues(benchmark::State& state) {
 }
 BENCHMARK(ReadValues);
 
-/// A chart's reference after rows went in and out at so many places.
+/// Updates the references of a chart after rows were inserted and deleted at several positions.
 void FollowRows(benchmark::State& state) {
   RowShifts shifts;
   for (std::int64_t i = 0; i < state.range(0); ++i) {
@@ -98,7 +98,7 @@ void OpenAndSave(benchmark::State& state) {
 }
 BENCHMARK(OpenAndSave)->RangeMultiplier(4)->Range(1, 256)->Unit(benchmark::kMillisecond);
 
-/// A chart as a refresh draws it, with so many series of twelve points, up to as many as a chart may have.
+/// Draws a chart like a refresh, with a number of series of twelve points, up to the maximum.
 void DrawAChart(benchmark::State& state) {
   constexpr std::int32_t kPoints = 12;
   const auto series = static_cast<std::int32_t>(state.range(0));

@@ -1,5 +1,5 @@
-// What it takes to open a page of the wizard over a wide and long table, beside the search for the tables,
-// which each run of the wizard makes once.
+// Measures opening a page of the wizard on a wide and long table, and the search for tables, which each run
+// of the wizard does once.
 
 #include <benchmark/benchmark.h>
 #include <filesystem>
@@ -32,7 +32,7 @@ class NoMoves final : public Navigation {
   void PSJumpToStep(std::int32_t, std::int32_t, Page*) override {}
 };
 
-/// A run of the wizard that has come to its first page.
+/// A run of the wizard that shows its first page.
 class Run {
  public:
   Run() {
@@ -56,7 +56,7 @@ class Run {
   std::shared_ptr<xlsx::Application> host_ = xlsx::Application::Create();
 };
 
-/// One for all, as the book is large.
+/// All benchmarks share one run, because the workbook is large.
 void Prepare() { static const Run run; }
 
 template <class Form>

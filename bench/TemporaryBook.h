@@ -8,7 +8,7 @@
 
 namespace plotsmith::bench {
 
-/// A data book in a file that goes when the benchmark is over.
+/// A data workbook in a file that is deleted after the benchmark.
 class TemporaryBook {
  public:
   explicit TemporaryBook(std::uint32_t rows, std::uint32_t charts = 1)

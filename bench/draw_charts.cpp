@@ -1,9 +1,9 @@
-// Draws all charts of a workbook, for the comparison with other programs' pictures. Usage: draw_charts BOOK
+// Draws all charts of a workbook for comparison with pictures of other programs. Usage: draw_charts BOOK
 // FOLDER
 //
-// For the first chart the folder gets 1.svg, 1.png and 1.tsv, and so on. A line of the table is an item of
-// the drawing: role, series, point, left, top, width, height in points, colour, text. charts.tsv has a line
-// for each chart: number, part, width and height, sheet, and what wasn't drawn.
+// The files for the first chart are 1.svg, 1.png and 1.tsv, and so on. Each line of 1.tsv is an item of the
+// drawing: role, series, point, left, top, width, height in points, colour, text. charts.tsv has a line for
+// each chart: number, part, width and height, sheet, and what wasn't drawn.
 
 #include <fstream>
 #include <iostream>
@@ -29,7 +29,7 @@ using namespace plotsmith;
 
 constexpr double kDotsPerInch = 144;
 
-/// A colour, or the first of several, so that items can be told apart by it.
+/// Returns the colour of an item, or the first of several, which identifies items.
 std::string ColorOf(const render::Item& item) {
   if (const auto* text = std::get_if<render::TextItem>(&item.content)) return HexOf(text->color);
   const auto* path = std::get_if<render::PathItem>(&item.content);

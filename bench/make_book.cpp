@@ -1,8 +1,8 @@
-// Writes one of the workbooks that whole runs are measured on. Usage:
-//   make_book data FILE ROWS CHARTS      a table of eight columns and charts over it
-//   make_book regions FILE ROWS COUNT    gives the charts of such a book another number of categories
-//   make_book names FILE COUNT           a book full of defined names
-//   make_book wide FILE ROWS COLUMNS     a plain table, without a chart
+// Writes a workbook for measuring whole runs. Usage:
+//   make_book data FILE ROWS CHARTS      a table of eight columns, and charts of it
+//   make_book regions FILE ROWS COUNT    changes the number of categories in such a book
+//   make_book names FILE COUNT           a workbook with many defined names
+//   make_book wide FILE ROWS COLUMNS     a table without charts
 
 #include <cstdlib>
 #include <iostream>

@@ -1,9 +1,9 @@
-// Measures whole runs of the command, always beside something else in the same go, so that the figures are
-// ratios that mean the same on any machine. Usage:
-//   measure pairs PLOTSMITH BOOK OUT COUNT          a refresh beside `unzip -p` of the book's first sheet
-//   measure growth PLOTSMITH OUT WHAT N=BOOK...     a refresh of ever larger books
-//   measure beside WHAT COUNT COMMAND... -- COMMAND...   the processor time of one command beside another one
-//   measure faster WHAT COUNT COMMAND... -- COMMAND...   how many times as fast the first is, by the clock
+// Measures whole runs of the command. Each measurement compares two programs in the same session, so the
+// results are ratios, which are comparable between machines. Usage:
+//   measure pairs PLOTSMITH BOOK OUT COUNT          a refresh against `unzip -p` of the first sheet
+//   measure growth PLOTSMITH OUT WHAT N=BOOK...     refreshes of workbooks of increasing size
+//   measure beside WHAT COUNT COMMAND... -- COMMAND...   the processor times of two commands
+//   measure faster WHAT COUNT COMMAND... -- COMMAND...   the speed-up of the first command, in elapsed time
 
 #include <algorithm>
 #include <chrono>
@@ -27,11 +27,11 @@ constexpr const char* kSheet = "xl/worksheets/sheet1.xml";
 constexpr double kMebibyte = 1024 * 1024;
 
 struct Usage {
-  double wall = 0, processor = 0;  // seconds
-  double peak = 0;                 // bytes
+  double wall = 0, processor = 0;  // In seconds.
+  double peak = 0;                 // In bytes.
 };
 
-/// Runs a command, its output thrown away, to its end.
+/// Runs a command to its end and discards its output.
 Usage Run(std::vector<std::string> command) {
   std::vector<char*> arguments;
   for (std::string& argument : command) arguments.push_back(argument.data());
@@ -65,11 +65,11 @@ double InflatedSheet(const std::string& book) {
   throw std::runtime_error("\"" + book + "\" has no " + kSheet);
 }
 
-/// By turns, so that whatever else the machine does falls on both alike.
+/// The commands run alternately, so that other load on the machine affects both.
 void MeasurePairs(const std::string& plotsmith, const std::string& book, const std::string& out, int count) {
   const std::vector<std::string> refresh = {plotsmith, "refresh", book, "-o", out};
   const std::vector<std::string> unzip = {"unzip", "-p", book, kSheet};
-  Run(unzip);  // the file is in memory from here on
+  Run(unzip);  // The file is in the page cache from here on.
   Run(refresh);
   std::vector<double> ratios;
   double peak = 0;
@@ -86,7 +86,7 @@ void MeasurePairs(const std::string& plotsmith, const std::string& book, const s
               peak / kMebibyte, sheet / kMebibyte);
 }
 
-/// The two commands of a line, parted by "--".
+/// The two commands of a line, separated by "--".
 struct CommandPair {
   explicit CommandPair(const std::vector<std::string>& words) {
     const auto sign = std::find(words.begin(), words.end(), "--");
@@ -103,7 +103,7 @@ void PrintMedian(const std::string& what, std::vector<double> ratios) {
               ratios.size(), ratios.front(), ratios.back());
 }
 
-/// The processor time of one command, with the other one for the measure.
+/// Measures the processor times of two commands.
 void MeasureBeside(const std::string& what, int count, const CommandPair& pair) {
   Run(pair.baseline);
   std::vector<double> ratios;
@@ -114,7 +114,7 @@ void MeasureBeside(const std::string& what, int count, const CommandPair& pair) 
   PrintMedian(what, std::move(ratios));
 }
 
-/// By the clock, as a command may work on several processors at a time.
+/// Measures elapsed time, because a command may use several processors.
 void MeasureFaster(const std::string& what, int count, const CommandPair& pair) {
   Run(pair.baseline);
   std::vector<double> ratios;
@@ -125,7 +125,7 @@ void MeasureFaster(const std::string& what, int count, const CommandPair& pair) 
   PrintMedian(what, std::move(ratios));
 }
 
-/// The least of a few runs, in processor time: what else the machine does only ever adds to it.
+/// Uses the minimum processor time of several runs, because other load only increases it.
 void MeasureGrowth(const std::string& plotsmith, const std::string& out, const std::string& what,
                    const std::vector<std::string>& books) {
   constexpr int kRounds = 7;

@@ -75,10 +75,12 @@ Section AreaBarColumn(const std::string& type, const std::string& text) {
 }
 
 Section Dimensions() {
-  Section section{"What forms categories and series",
-                  "For area, bar and column charts alike. `rows` takes the values down one column, `columns` "
-                  "takes the names of several columns, `none` makes one series without a legend.",
-                  {}};
+  Section section{
+      "What forms categories and series",
+      "These settings apply to area, bar and column charts. `rows` uses the values in one column, "
+      "`columns` uses the headings of several columns, and `none` makes one series without a "
+      "legend.",
+      {}};
   const auto add = [&](const std::string& name, const std::string& caption, const std::string& content,
                        const std::string& shown) {
     section.pictures.push_back({name, caption, kSales + "type=\"column\"", content, shown, ""});
@@ -97,8 +99,8 @@ Section Dimensions() {
 
 Section TextsAndLook() {
   Section section{"Texts and look",
-                  "The texts are elements of the definition. What stands in `auto-persistence` is usually "
-                  "changed by hand on the chart, from where each load reads it.",
+                  "The texts are elements of the definition. The settings in `auto-persistence` are usually "
+                  "changed by hand on the chart; Plotsmith reads them from the chart.",
                   {}};
   const auto add = [&](const std::string& name, const std::string& caption, const std::string& attributes,
                        const std::string& shown, const std::string& comment = "") {
@@ -125,7 +127,7 @@ Section TextsAndLook() {
 }
 
 Section Pies() {
-  Section section{"pie", "One ring of slices: no series, no axes.", {}};
+  Section section{"pie", "A pie has one ring of slices, without series and axes.", {}};
   const auto add = [&](const std::string& name, const std::string& caption, const std::string& shown) {
     section.pictures.push_back({"pie" + name, caption, kSales + "type=\"pie\"",
                                 Columns("categories", "rows", {"Region"}) + Columns("series", "none", {}) +
@@ -143,8 +145,8 @@ Section Pies() {
 
 Section Bubbles() {
   Section section{"bubble",
-                  "Two numbers place a bubble, a third one gives its size. In quadrants, lines through the "
-                  "middle of both axes divide the chart in four.",
+                  "Two numbers give the position of a bubble, and a third one gives its size. Quadrants are "
+                  "formed by lines through the middle of both axes.",
                   {}};
   const std::string columns = Columns("categories", "rows", {"Country"}) + Columns("values", "", {"Online"}) +
                               Columns("x-values", "", {"City dwellers"});
@@ -172,10 +174,11 @@ Section Bubbles() {
 }
 
 Section Buckets() {
-  Section section{"strategic bucket",
-                  "A column of blocks for each bucket, a block for each row of the table, and a mark at what "
-                  "the bucket table gives for the bucket.",
-                  {}};
+  Section section{
+      "strategic bucket",
+      "The chart has a column of blocks for each bucket, a block for each row of the table, and a "
+      "mark at the value that the bucket table gives for the bucket.",
+      {}};
   const std::string columns = Columns("categories", "rows", {"Project"}) + Columns("values", "", {"Amount"});
   const std::string programmes = Columns("series", "rows", {"Programme"});
   const std::string none = Columns("series", "none", {});
@@ -199,9 +202,9 @@ Section Buckets() {
 }
 
 std::vector<Section> Gallery() {
-  return {AreaBarColumn("column", "Upright columns."),
-          AreaBarColumn("bar", "The same, lying."),
-          AreaBarColumn("area", "The same as areas; plain ones cover each other."),
+  return {AreaBarColumn("column", "The columns are vertical."),
+          AreaBarColumn("bar", "The same charts with horizontal bars."),
+          AreaBarColumn("area", "The same charts with areas. Plain areas cover each other."),
           Dimensions(),
           TextsAndLook(),
           Pies(),
@@ -258,12 +261,12 @@ void MakeTables(ExampleBook& book) {
 
 constexpr std::size_t kTableSheets = 4;
 
-/// The workbook, and on stdout for each picture: its page in the workbook as LibreOffice prints it, the
-/// resolution of that, its name, and what is drawn, "chart" or "sheet".
+/// Writes the workbook to `path`. Prints one line for each picture to stdout: the number of its page when
+/// LibreOffice prints the workbook, the resolution, the name, and what is drawn ("chart" or "sheet").
 void MakeBook(const std::vector<Section>& gallery, const std::string& path) {
   ExampleBook book;
   MakeTables(book);
-  // all sheets before the first chart: the hidden ones are pages too
+  // Make all sheets before the first chart: LibreOffice also prints the hidden sheets.
   std::vector<plotsmith::excel::Ref<plotsmith::excel::Worksheet>> sheets;
   for (const Section& section : gallery) {
     for (const Picture& picture : section.pictures) sheets.push_back(book.Sheet(picture.name));
@@ -284,14 +287,12 @@ void MakeBook(const std::vector<Section>& gallery, const std::string& path) {
 void MakePage(const std::vector<Section>& gallery, const std::string& path) {
   std::ofstream page(path);
   page << "# Gallery\n\n"
-          "Every chart type and setting, drawn by `plotsmith render` from `build/gallery/gallery.xlsx`, with "
-          "the "
-          "piece of the\ndefinition that makes it. Behind \"LibreOffice\" is the picture that LibreOffice "
-          "makes of "
-          "the same chart.\n`scripts/gallery.sh` makes the workbook, the pictures and this page anew;\n"
-          "[file-formats.md](file-formats.md) describes the definition as a whole, and "
-          "[render.md](render.md) how "
-          "charts are drawn.\n";
+          "This page shows every chart type and setting, with the part of the definition that makes it. "
+          "`plotsmith render`\ndrew the pictures from `build/gallery/gallery.xlsx`. The link \"LibreOffice\" "
+          "leads to LibreOffice's picture of the same\nchart. `scripts/gallery.sh` generates the workbook, "
+          "the pictures and this page.\n\n"
+          "[file-formats.md](file-formats.md) describes definitions in full, and [render.md](render.md) "
+          "describes the drawing.\n";
   for (const Section& section : gallery) {
     page << "\n## " << static_cast<char>(std::toupper(section.title[0])) << section.title.substr(1) << "\n\n"
          << section.text << "\n\n<table>\n";

@@ -1,4 +1,4 @@
-// The entry that libFuzzer calls, for the target that the environment variable PLOTSMITH_FUZZ_TARGET names.
+// The entry point for libFuzzer. The environment variable PLOTSMITH_FUZZ_TARGET selects the target.
 
 #include <cstdlib>
 #include <iostream>

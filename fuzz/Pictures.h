@@ -6,7 +6,7 @@
 
 namespace plotsmith::fuzz {
 
-/// Draws the chart of a part and makes its pictures. Throws what reading the chart throws.
+/// Draws the chart of a part and makes its pictures. Throws the exceptions of reading the chart.
 void DrawPictures(xlsx::Workbook& book, const std::string& part);
 
 }  // namespace plotsmith::fuzz

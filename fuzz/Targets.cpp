@@ -39,7 +39,7 @@ std::string_view Text(const std::uint8_t* data, std::size_t size) {
   return {reinterpret_cast<const char*>(data), size};
 }
 
-/// What may go wrong with foreign bytes, and nothing else.
+/// Calls a function and ignores the errors that invalid bytes may cause, but no others.
 template <class Body>
 void Tolerate(const Body& body) {
   try {
@@ -49,7 +49,7 @@ void Tolerate(const Body& body) {
   }
 }
 
-/// A file in memory, by a path.
+/// A file in memory with a path.
 class MemoryFile {
  public:
   MemoryFile(const std::uint8_t* data, std::size_t size) : file_(memfd_create("book", 0)) {
@@ -69,7 +69,7 @@ class MemoryFile {
   int file_;
 };
 
-/// The system on a workbook: a whole refresh.
+/// Runs a complete refresh of a workbook.
 void Refresh(const std::shared_ptr<xlsx::Application>& host) {
   const auto desktop = std::make_shared<cli::ConsoleDesktop>();
   StartSystem(desktop, std::make_shared<forms::UnattendedView>());
@@ -101,7 +101,7 @@ void Workbook(const std::uint8_t* data, std::size_t size) {
 void Sheet(const std::uint8_t* data, std::size_t size) {
   const std::string_view text = Text(data, size);
   const xlsx::Styles styles("");
-  // all at once, and in pieces so small that they cut everything, but not so many that their number is felt
+  // Read everything at once, and in pieces that split every structure but aren't too many.
   for (const std::size_t piece : {size + 1, size / 2000 + 3}) {
     Tolerate([&] {
       xlsx::MemoryStream stream(text, piece);
@@ -145,7 +145,7 @@ void Styles(const std::uint8_t* data, std::size_t size) {
 
 constexpr const char* kChartPart = "/xl/charts/chart1.xml";
 
-/// A drawing with one chart, the one or the other part made of the bytes, and a refresh over it. The
+/// Makes a workbook with a drawing and a chart, one of them consisting of the bytes, and refreshes it. The
 /// chart is drawn before and after.
 void RefreshWith(const char* part, std::string_view bytes) {
   const auto host = xlsx::Application::Create();
@@ -171,7 +171,7 @@ void RefreshWith(const char* part, std::string_view bytes) {
       "</data-labels><dynamic-attributes><attribute setting=\"3D\"/></dynamic-attributes><comment>C</comment>"
       "<auto-persistence><persist property=\"legend-visibility\" value=\"show\"/></auto-persistence></chart>";
   definitions->SetCellValueAt(2, 1, std::string(part) == "definition" ? std::string(bytes) : chart);
-  // the part is replaced in the saved book, when that is open again
+  // Replace the part in the saved workbook, and open it again.
   const std::string path = TemporaryBook();
   book.Save(path);
   Tolerate([&] {
@@ -196,7 +196,7 @@ void Definition(const std::uint8_t* data, std::size_t size) {
   if (size < 30000 && size > 0 && data[0] == '<') RefreshWith("definition", Text(data, size));
 }
 
-/// The shapes on a chart, drawn, and each read, dressed, moved and at last grouped or deleted.
+/// Draws the shapes on a chart, reads, formats and moves each, and finally groups or deletes them.
 void ChartShapes(const std::uint8_t* data, std::size_t size) {
   const auto host = xlsx::Application::Create();
   auto& book = host->NewWorkbook();

@@ -6,11 +6,11 @@
 
 namespace plotsmith::fuzz {
 
-/// What reads foreign bytes, one entry each. A target takes any bytes and returns; what it must not do is
-/// crash, hang, or take memory without bound. The fuzzers run them on inputs that they make up, and an
-/// ordinary test on the inputs that once failed.
+/// A fuzz target: code that reads bytes from outside. A target accepts any bytes. It must not crash, hang, or
+/// use memory without bound. The fuzzers run targets on generated inputs, and an ordinary test runs them on
+/// inputs that have failed.
 struct Target {
-  const char* name;  ///< also the folder of its seeds and findings
+  const char* name;  ///< The name, also of the folder of its seeds and findings.
   void (*run)(const std::uint8_t* data, std::size_t size);
 };
 

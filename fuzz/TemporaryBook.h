@@ -6,7 +6,7 @@
 
 namespace plotsmith::fuzz {
 
-/// A workbook of this process alone, for a target to write and to take away.
+/// Returns the path of a workbook that only this process uses.
 inline std::string TemporaryBook() {
   return (std::filesystem::temp_directory_path() / ("plotsmith-fuzz-" + std::to_string(getpid()) + ".xlsx"))
       .string();

@@ -1,4 +1,4 @@
-// Random gestures on the pages of the wizard, over random tables.
+// Performs random actions on the wizard's pages with random tables.
 
 #include "fuzz/Wizard.h"
 
@@ -34,7 +34,7 @@ namespace {
 
 constexpr int kMostGestures = 300;
 
-/// Choices made by the input, one byte each; zeros when it is used up.
+/// The choices in the input, one byte each. They are zero when the input is used up.
 class Choices {
  public:
   Choices(const std::uint8_t* data, std::size_t size) : data_(data), size_(size) {}
@@ -60,7 +60,7 @@ constexpr const char* kTexts[] = {
     "",       "Sales",  " two  words ", "0.00", "[[", "VEX_Chart1", "a\nb\r\nc", "Data1",
     "x]:*/y", "&<>\"'", "Chart1",       "\x01", "'",  "General;;",  "ß",         "#,##0"};
 
-/// A table from a row on: headings, then rows of labels and numbers.
+/// Writes a table from row `top`: headings, then rows of labels and numbers.
 void FillTable(xlsx::Worksheet& sheet, std::int32_t top, Choices& choices) {
   const auto columns = static_cast<std::int32_t>(1 + choices.Below(6));
   const auto rows = static_cast<std::int32_t>(choices.Below(6));
@@ -77,7 +77,7 @@ void FillTable(xlsx::Worksheet& sheet, std::int32_t top, Choices& choices) {
   }
 }
 
-/// A sheet of data, and perhaps range tables, which can serve as bucket tables.
+/// Fills a sheet with data, and possibly range tables, which can be bucket tables.
 void FillBook(xlsx::Workbook& book, Choices& choices) {
   const auto data = book.AllSheets()[0]->worksheet;
   data->SetName("Data1");
@@ -92,7 +92,7 @@ void FillBook(xlsx::Workbook& book, Choices& choices) {
   }
 }
 
-/// The hand: the input says what it does to the page in front.
+/// The simulated user. The input decides the actions on the front page.
 class RandomHand final : public forms::View {
  public:
   explicit RandomHand(Choices& choices) : choices_(choices) {}
@@ -113,7 +113,7 @@ class RandomHand final : public forms::View {
   void Gesture(forms::Form& form) {
     std::vector<forms::Control*> usable;
     for (forms::Control* control : form.Controls()) {
-      // to cancel ends the run, so it is tried less often than all else
+      // Cancel ends the run, so it is used less often than other controls.
       if (control->Obstacle().empty() && (control->Name() != "cmdCancel" || choices_.Below(8) == 0)) {
         usable.push_back(control);
       }
@@ -164,7 +164,7 @@ class RandomHand final : public forms::View {
   int gestures_ = 0;
 };
 
-/// Answers questions as the input says.
+/// Answers questions according to the input.
 class RandomDesktop final : public cli::ConsoleDesktop {
  public:
   explicit RandomDesktop(Choices& choices) : choices_(choices) {}
@@ -176,7 +176,7 @@ class RandomDesktop final : public cli::ConsoleDesktop {
   Choices& choices_;
 };
 
-using Definitions = std::map<std::string, dom::IXMLDOMDocument2>;  // by chart id
+using Definitions = std::map<std::string, dom::IXMLDOMDocument2>;  // The definitions by chart id.
 
 void UseWorkbook(const std::shared_ptr<xlsx::Application>& host) {
   ResetSystem();
@@ -190,7 +190,7 @@ void Add(Definitions& definitions, const std::string& xml) {
   definitions[GetAttributeText(document.selectSingleNode("chart"), "id")] = document;
 }
 
-/// The definitions as the open workbook has them on its sheet.
+/// Returns the definitions that are stored in the open workbook.
 Definitions StoredDefinitions(const std::shared_ptr<xlsx::Application>& host) {
   UseWorkbook(host);
   Definitions definitions;
@@ -203,7 +203,7 @@ Definitions StoredDefinitions(const std::shared_ptr<xlsx::Application>& host) {
   }
 }
 
-/// The definitions of the open workbook as a load gives them, which are then stored.
+/// Loads and stores the definitions of the open workbook, and returns them.
 Definitions LoadedDefinitions(const std::shared_ptr<xlsx::Application>& host) {
   UseWorkbook(host);
   Definitions definitions;
@@ -217,7 +217,7 @@ Definitions LoadedDefinitions(const std::shared_ptr<xlsx::Application>& host) {
   return definitions;
 }
 
-/// What a person chose on the pages, of all that a definition holds.
+/// Returns the settings in a definition that were made on the pages.
 std::string ChoicesIn(const dom::IXMLDOMDocument2& document) {
   const auto chart = document.selectSingleNode("chart");
   std::string text;
@@ -230,7 +230,7 @@ std::string ChoicesIn(const dom::IXMLDOMDocument2& document) {
     text += std::string(group) + " " + GetAttributeText(element, "headings-in") + "\n";
     for (const auto& column : element.childElements()) text += GetAttributeText(column, "name") + "\n";
   }
-  std::set<std::string> settings;  // the load has an order of its own
+  std::set<std::string> settings;  // A load may change the order.
   for (const auto& element : chart.selectNodes("//attribute")) {
     settings.insert(GetAttributeText(element, "setting"));
   }
@@ -240,8 +240,8 @@ std::string ChoicesIn(const dom::IXMLDOMDocument2& document) {
 
 std::string Xml(const dom::IXMLDOMDocument2& document) { return document.xml(); }
 
-/// Stops the program unless both hold the same, as far as `text` tells, of the charts that the second one
-/// has.
+/// Aborts the program unless both contain the same text for the charts in `after`. `text` selects what is
+/// compared.
 void Compare(const Definitions& before, const Definitions& after,
              std::string (*text)(const dom::IXMLDOMDocument2&)) {
   for (const auto& [id, document] : after) {
@@ -253,7 +253,7 @@ void Compare(const Definitions& before, const Definitions& after,
   }
 }
 
-/// A load must leave what a person chose as it is, and a second load must leave everything.
+/// A load must not change the user's settings, and a second load must not change anything.
 void CheckThatLoadsAgree(const std::shared_ptr<xlsx::Application>& host) {
   const std::string path = TemporaryBook();
   host->Book().Save(path);

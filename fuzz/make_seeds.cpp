@@ -1,4 +1,4 @@
-// Takes workbooks apart into seeds for the fuzzers. Usage: make_seeds FOLDER WORKBOOK...
+// Extracts seeds for the fuzzers from workbooks. Usage: make_seeds FOLDER WORKBOOK...
 
 #include <filesystem>
 #include <fstream>
@@ -12,7 +12,7 @@
 namespace {
 
 namespace fs = std::filesystem;
-constexpr std::size_t kLargest = 64 * 1024;  // what is larger slows a fuzzer down
+constexpr std::size_t kLargest = 64 * 1024;  // Larger seeds slow a fuzzer down.
 
 void Write(const fs::path& folder, std::size_t number, const std::string& bytes) {
   if (bytes.size() > kLargest) return;
@@ -20,7 +20,7 @@ void Write(const fs::path& folder, std::size_t number, const std::string& bytes)
   std::ofstream(folder / std::to_string(number), std::ios::binary) << bytes;
 }
 
-/// The inline texts of a sheet as shared ones, which not every workbook has.
+/// Converts the inline texts of a sheet to shared strings, which not every workbook has.
 std::string AsSharedStrings(const std::string& sheet) {
   std::string part = "<sst>";
   for (auto from = sheet.find("<is>"); from != std::string::npos; from = sheet.find("<is>", from)) {
@@ -32,7 +32,7 @@ std::string AsSharedStrings(const std::string& sheet) {
   return part + "</sst>";
 }
 
-/// The texts of all elements of a kind, for targets that read no XML.
+/// Writes the texts of all elements of a kind, for targets that don't read XML.
 void WriteTexts(const fs::path& folder, std::size_t& number, const std::string& part,
                 const std::string& element, const char* attribute) {
   for (auto at = part.find("<" + element); at != std::string::npos; at = part.find("<" + element, at + 1)) {
@@ -45,7 +45,7 @@ void WriteTexts(const fs::path& folder, std::size_t& number, const std::string& 
   }
 }
 
-/// Choices for the target that plays the wizard: none that mean anything, but many different ones.
+/// Writes random choices for the wizard target.
 void WriteRandomChoices(const fs::path& folder) {
   std::minstd_rand random(1);
   for (std::size_t number = 1; number <= 60; ++number) {
@@ -93,7 +93,7 @@ int main(int argc, char** argv) {
         WriteTexts(folder / "definition", number, text, "t xml:space=\"preserve\">&lt;chart", nullptr);
       }
     } catch (const plotsmith::xlsx::PackageError&) {
-      // a book that can't be opened is a seed all the same
+      // A workbook that can't be opened is also a seed.
     }
   }
   return 0;

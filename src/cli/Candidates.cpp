@@ -14,7 +14,7 @@ namespace {
 
 using Words = std::vector<std::string>;
 
-/// Each once, without those that don't fit on a line.
+/// Adds a word once, unless it doesn't fit on a line.
 void Add(Words& words, const std::string& word) {
   const bool isPlain =
       std::none_of(word.begin(), word.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; });
@@ -39,7 +39,7 @@ Words Charts() {
   return words;
 }
 
-/// Of one table, or of all where `table` is empty.
+/// Returns the columns of one table, or of all tables if `table` is empty.
 Words Columns(const std::string& table) {
   Words words;
   for (const auto& document : *colTables) {
@@ -73,7 +73,7 @@ void PrintCandidates(const std::vector<std::string>& arguments, const Streams& s
     for (const std::string& word : Candidates(arguments)) streams.out << word << '\n';
     streams.out.flush();
   } catch (const std::exception&) {
-    // a message would only disturb the line that is being typed
+    // A message would disturb the line that the user types.
   }
 }
 

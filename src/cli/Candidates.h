@@ -7,13 +7,13 @@
 
 namespace plotsmith::cli {
 
-/// The word by which the completions of a shell ask the command. It is no verb: neither help nor manual tells
-/// of it.
+/// The word with which shell completions call the command. It isn't a verb, and neither help nor manual
+/// mentions it.
 inline constexpr const char* kComplete = "complete";
 
-/// Prints what a shell can offer, one candidate a line. `arguments` are behind the word: "tables", "charts"
-/// or "columns", a workbook, and for columns perhaps "--table" and an id. Where anything fails there is
-/// nothing to offer, and nothing is said.
+/// Prints the candidates for a shell completion, one per line. `arguments` follow the word: "tables",
+/// "charts" or "columns", then a workbook, and for columns optionally "--table" and an id. If an error
+/// occurs, it prints nothing.
 void PrintCandidates(const std::vector<std::string>& arguments, const Streams& streams);
 
 }  // namespace plotsmith::cli

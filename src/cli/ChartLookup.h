@@ -10,13 +10,14 @@ namespace plotsmith::cli {
 /// The id and the name of each chart.
 using ChartNames = std::vector<std::pair<std::string, std::string>>;
 
-/// Those of the charts that are loaded, in their order; `colCharts` must be set.
+/// Returns the loaded charts in their order. `colCharts` must be set.
 ChartNames LoadedCharts();
 
-/// The places of the charts that bear the id or, ignoring case, the name. An id goes before a name, as a name
-/// may be another chart's id. Several charts may have one name, since a modified chart can take any.
+/// Returns the indices of the charts with an id or, ignoring case, a name. An id takes precedence, because a
+/// name can equal the id of another chart. Several charts can have the same name, since a modified chart can
+/// take any name.
 std::vector<std::size_t> FindCharts(const ChartNames& charts, const std::string& idOrName);
-/// Says that several charts bear a name; the sentence has no full stop.
+/// Returns a sentence, without full stop, that lists the charts with the same name.
 std::string SeveralCharts(const ChartNames& charts, const std::vector<std::size_t>& places,
                           const std::string& name);
 

@@ -5,22 +5,21 @@
 
 namespace plotsmith::cli {
 
-/// How a chart is.
+/// The state of a chart.
 enum class ChartState {
-  kOk,           ///< it is drawn
-  kUnsupported,  ///< it was changed to a type that isn't drawn
-  kTable,        ///< its table is gone, or no longer fits
-  kUnavailable,  ///< it couldn't be built
-  kNotDrawn      ///< it waits for its first refresh
+  kOk,           ///< The chart is drawn.
+  kUnsupported,  ///< A person changed it to an unsupported type.
+  kTable,        ///< Its table doesn't exist or no longer fits.
+  kUnavailable,  ///< It couldn't be built.
+  kNotDrawn      ///< It waits for its first refresh.
 };
 
-/// As the definition tells and the chart shows. `object` may be Nothing.
+/// Returns the state from the definition and the chart. `object` may be Nothing.
 ChartState StateOf(const dom::IXMLDOMElement& definition, const excel::Ref<excel::Chart>& object);
 
-/// The state in words.
+/// Returns the name of the state for users.
 const char* StateName(ChartState state);
-/// Why a chart is in the state, as a sentence, for a chart of which nothing more is known. Empty if it is
-/// drawn.
+/// Returns a sentence that explains the state, for charts without findings. It is empty for drawn charts.
 const char* StateReason(ChartState state);
 
 }  // namespace plotsmith::cli

@@ -8,24 +8,24 @@
 
 namespace plotsmith::cli {
 
-/// Options that hold for every command.
+/// The options of all commands.
 struct GlobalOptions {
   double hostVersion = 16;
   bool journal = false;
-  bool force = false;       ///< also write a workbook that another program holds open
-  bool dropBroken = false;  ///< also write a workbook whose broken definitions are lost by that
+  bool force = false;       ///< Also write a workbook that another program has open.
+  bool dropBroken = false;  ///< Also write a workbook if broken definitions are lost.
 };
 
-/// How a command ends.
+/// The exit codes of the command.
 namespace exit_code {
 inline constexpr int kDone = 0;
-inline constexpr int kSaidSomething = 1;  ///< done, but Plotsmith had something to say
+inline constexpr int kSaidSomething = 1;  ///< The command did its work, and there was a message.
 inline constexpr int kUsage = 2;
-/// A workbook or the output can't be read or written, or definitions would be lost; nothing was changed.
+/// A workbook or the output can't be read or written, or definitions would be lost. Nothing was changed.
 inline constexpr int kFile = 3;
 }  // namespace exit_code
 
-/// A sentence for the user, and the exit code that goes with it.
+/// An error of a command: a sentence for the user, and the exit code.
 class CommandError : public std::runtime_error {
  public:
   CommandError(int exitCode, const std::string& sentence)
@@ -36,24 +36,23 @@ class CommandError : public std::runtime_error {
   int exitCode_;
 };
 
-/// Sends off what was written to `out`; a CommandError where it can't be, as data that didn't arrive is no
-/// success.
+/// Flushes `out`. Throws CommandError if that fails, because lost data is an error.
 inline void Deliver(const Streams& streams) {
   if (!streams.out.flush()) throw CommandError(exit_code::kFile, "the output can't be written.");
 }
 
-/// What `-o` is for, where a verb can also write the workbook itself.
+/// The description of `-o` for verbs that can also write the workbook itself.
 inline constexpr const char* kOutputDescription =
     "Write to this file and leave BOOK as it is; \"-\" is the standard output";
 
-/// One verb of the command line.
+/// A verb of the command line.
 class Command {
  public:
   virtual ~Command() = default;
 
-  /// Declares the verb with its options below `app`.
+  /// Declares the verb and its options below `app`.
   virtual CLI::App* Declare(CLI::App& app) = 0;
-  /// Answers an exit code, or throws a CommandError or a PackageError.
+  /// Executes the verb. Returns an exit code, or throws a CommandError or a PackageError.
   virtual int Run(const GlobalOptions& options, const Streams& streams) = 0;
 };
 

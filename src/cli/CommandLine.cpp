@@ -23,8 +23,8 @@ constexpr const char* kFooter =
     "have been lost, and nothing was changed; 128 and the number of a\n"
     "signal that stopped it.";
 
-/// How many arguments an option takes up that `argument` names in full, alone or with its value behind "=";
-/// 0 if it names none.
+/// Returns the number of arguments of the option that `argument` names in full, alone or with its value after
+/// "="; 0 if it names none.
 std::size_t OptionLength(const CLI::App& app, const std::string& argument) {
   if (!argument.starts_with('-')) return 0;
   const auto sign = argument.starts_with("--") ? argument.find('=') : argument.npos;
@@ -33,7 +33,7 @@ std::size_t OptionLength(const CLI::App& app, const std::string& argument) {
   return option->get_items_expected_min() > 0 && sign == argument.npos ? 2 : 1;
 }
 
-/// Where the verb stands: behind options that hold for every command.
+/// Returns the position of the verb, which follows the global options.
 std::size_t VerbPosition(const std::vector<std::string>& arguments, const CLI::App& app) {
   std::size_t at = 0;
   while (at < arguments.size() && OptionLength(app, arguments[at]) > 0) {
@@ -42,8 +42,8 @@ std::size_t VerbPosition(const std::vector<std::string>& arguments, const CLI::A
   return at;
 }
 
-/// A number format or a value may look like an option ("-0.0", "-h:mm"): behind the verb `format`, what isn't
-/// an option in full goes behind "--". `at` is the verb's position.
+/// A number format or a value can look like an option ("-0.0", "-h:mm"). Therefore arguments of the verb
+/// `format` that aren't complete option names are moved behind "--". `at` is the position of the verb.
 std::vector<std::string> WithFormatsBehindTheOptions(std::vector<std::string> arguments, std::size_t at,
                                                      const CLI::App& app) {
   if (at >= arguments.size() || arguments[at] != "format") return arguments;
@@ -68,7 +68,7 @@ CommandLine::CommandLine() : app(kDescription, "plotsmith"), commands(MakeComman
   app.footer(kFooter);
   app.require_subcommand(1);
   app.fallthrough();
-  app.allow_windows_style_options(false);  // what begins with a slash is a path on every system
+  app.allow_windows_style_options(false);  // An argument that begins with a slash is a path on every system.
   app.set_version_flag("-V,--version", std::string("plotsmith ") + PLOTSMITH_VERSION);
   DeclareHostVersion(app, options.hostVersion);
   app.add_flag("--journal", options.journal,
@@ -102,7 +102,7 @@ int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
                                    [&](const CLI::App* verb) { return verb->get_name() == arguments[at]; });
     if (!known) throw CommandError(exit_code::kUsage, NoSuchVerb(arguments[at]));
     arguments = WithFormatsBehindTheOptions(std::move(arguments), at, line.app);
-    std::reverse(arguments.begin(), arguments.end());  // as the parser wants them
+    std::reverse(arguments.begin(), arguments.end());  // The parser expects them in reverse order.
     int code = exit_code::kDone;
     try {
       line.app.parse(arguments);

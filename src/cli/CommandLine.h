@@ -10,21 +10,21 @@
 
 namespace plotsmith::cli {
 
-/// The command line as it is declared, before any arguments: what is parsed, and what the manual is made
-/// from.
+/// The declared command line before parsing. The manual is generated from it.
 struct CommandLine {
   CommandLine();
 
   CLI::App app;
   GlobalOptions options;
   std::vector<std::unique_ptr<Command>> commands;
-  std::vector<CLI::App*> verbs;  ///< what each of `commands` has declared
+  std::vector<CLI::App*> verbs;  ///< The declaration of each of `commands`.
 };
 
-/// That no verb has the name, as a sentence.
+/// Returns a sentence that says that no verb has the name.
 std::string NoSuchVerb(const std::string& name);
 
-/// The whole command: `arguments` without the program's name. Answers an exit code; nothing escapes.
+/// Executes the command. `arguments` don't include the program's name. Returns an exit code and throws
+/// nothing.
 int RunCommandLine(std::vector<std::string> arguments, const Streams& streams);
 
 }  // namespace plotsmith::cli

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::int64_t kDaySeconds = 86400;
 
-/// Seconds of the day by which the local time is ahead of UTC, as it is at the start.
+/// Returns the offset of local time from UTC at the start of the program, in seconds.
 std::int64_t LocalOffset() {
   const std::time_t now = std::time(nullptr);
   const std::tm* local = std::localtime(&now);

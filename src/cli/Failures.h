@@ -5,8 +5,8 @@
 
 namespace plotsmith::cli {
 
-/// Does the work and answers its exit code. What it throws becomes a sentence on `err` and the exit code that
-/// goes with it.
+/// Performs the work and returns its exit code. An exception becomes a sentence on `err` and the matching
+/// exit code.
 int Guarded(std::ostream& err, const std::function<int()>& work);
 
 }  // namespace plotsmith::cli

@@ -17,7 +17,7 @@ using Json = nlohmann::ordered_json;
 
 constexpr std::size_t kIndent = 2;
 
-/// The caption as it is on the screen, where "&" only underlines a letter.
+/// Returns the caption without "&", which only underlines a letter on the screen.
 std::string Plain(const std::string& caption) {
   return std::string(runtime::Trim(runtime::Replace(caption, "&", "")));
 }
@@ -32,7 +32,7 @@ bool IsSelected(const ControlState& control, std::size_t place) {
   return std::find(control.selected->begin(), control.selected->end(), index) != control.selected->end();
 }
 
-/// All entries in a row: "East | >West".
+/// Returns all entries on one line, such as "East | >West".
 std::string Entries(const ControlState& control) {
   std::string text;
   for (std::size_t i = 0; i < control.list->size(); ++i) {
@@ -42,7 +42,7 @@ std::string Entries(const ControlState& control) {
   return text.empty() ? "(no entries)" : text;
 }
 
-/// What a control shows, on one line.
+/// Returns the contents of a control on one line.
 std::string Contents(const ControlState& control) {
   if (control.kind == "CommandButton") {
     return "[ " + Plain(*control.caption) + " ]" + (control.isDefault ? " Enter" : "") +
@@ -54,7 +54,7 @@ std::string Contents(const ControlState& control) {
     return mark + (control.caption->empty() ? std::string() : " " + Plain(*control.caption));
   }
   if (control.list && *control.listIndex < 0 && !control.text->empty()) {
-    return Quoted(*control.text) + " of " + Entries(control);  // it was typed
+    return Quoted(*control.text) + " of " + Entries(control);  // The text was typed.
   }
   if (control.list) return Entries(control);
   if (control.text) return Quoted(*control.text);
@@ -72,7 +72,7 @@ std::string Marks(const ControlState& control) {
   return marks.empty() ? marks : marks + ")";
 }
 
-/// How many characters a text has.
+/// Returns the number of characters.
 std::size_t WidthOf(std::string_view text) {
   return static_cast<std::size_t>(
       std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; }));
@@ -82,7 +82,7 @@ std::string Padded(const std::string& text, std::size_t width) {
   return text + std::string(width - std::min(width, WidthOf(text)), ' ');
 }
 
-/// Writes the lines of one form.
+/// Prints the lines of a form.
 class Printer {
  public:
   Printer(std::ostream& out, const FormState& form) : out_(out), form_(form) {
@@ -104,7 +104,7 @@ class Printer {
     return control.kind != "Timer" && (control.kind != "Image" || control.visible);
   }
 
-  /// The controls of a frame, or of the form itself, with those in its frames.
+  /// Prints the controls of a frame or of the form, including nested frames.
   void PrintIn(const std::string& container, std::size_t indent) const {
     for (const ControlState& control : form_.controls) {
       if (control.container != container || !IsWorthALine(control)) continue;
@@ -122,7 +122,7 @@ class Printer {
          << (contents.empty() ? "" : "  ") << contents << Marks(control) << '\n';
   }
 
-  /// The rows of a grid, the columns one below the other.
+  /// Prints the rows of a grid with aligned columns.
   void PrintRows(const ControlState& grid, std::size_t indent) const {
     std::vector<std::size_t> widths;
     for (const auto& row : *grid.rows) {

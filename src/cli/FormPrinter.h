@@ -6,11 +6,11 @@
 
 namespace plotsmith::cli {
 
-/// What a person sees of a form, a line for each control, those in a frame below it. Selected entries and
-/// rows are marked with ">", and pictures that don't show are left out.
+/// Prints the visible state of a form, one line for each control. The controls of a frame are below it.
+/// Selected entries and rows are marked with ">", and hidden pictures are left out.
 void PrintForm(std::ostream& out, const forms::FormState& form);
 
-/// The same as a JSON object, with all that is known of each control.
+/// Prints the state of a form as a JSON object, with all members of each control.
 void PrintFormAsJson(std::ostream& out, const forms::FormState& form);
 
 }  // namespace plotsmith::cli

@@ -4,7 +4,8 @@
 
 namespace plotsmith::cli {
 
-/// Declares the option --host-version, which writes to `version`. The number has a point in every locale.
+/// Declares the option --host-version, whose value is stored in `version`. The decimal separator is a point
+/// in every locale.
 void DeclareHostVersion(CLI::App& app, double& version);
 
 }  // namespace plotsmith::cli

@@ -27,7 +27,7 @@ std::string FindProgram(const std::string& name) {
   const char* const path = std::getenv("PATH");
   std::istringstream folders(path == nullptr ? "" : path);
   for (std::string folder; std::getline(folders, folder, ':');) {
-    // A relative folder would let the current folder decide which program is run.
+    // Relative folders are skipped, because the current folder must not decide which program runs.
     if (folder.starts_with('/') && IsProgram(fs::path(folder) / name)) return fs::path(folder) / name;
   }
   return {};

@@ -3,7 +3,7 @@
 
 namespace plotsmith::cli {
 
-// the command is the only program of Plotsmith's for Windows
+// On Windows the command is the only program of Plotsmith.
 std::string FindProgram(const std::string&) { return {}; }
 
 void BecomeProgram(const std::string& path, const std::vector<std::string>&) {

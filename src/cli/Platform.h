@@ -5,13 +5,13 @@
 #include <string>
 #include <vector>
 
-/// What the command asks of the operating system. Each system has a source file.
+/// Operating system functions of the command. Each system has a source file.
 namespace plotsmith::cli {
 
-/// The arguments of `main` without the program's name, in UTF-8.
+/// Returns the arguments of `main` in UTF-8, without the program's name.
 std::vector<std::string> Arguments(int argc, char** argv);
 
-/// While it lives, the standard streams carry bytes as they are, and a console shows them as UTF-8.
+/// Sets the standard streams to binary mode, and a console to UTF-8, until it is destroyed.
 class StandardStreams {
  public:
   StandardStreams();
@@ -20,12 +20,13 @@ class StandardStreams {
   StandardStreams& operator=(const StandardStreams&) = delete;
 
  private:
-  [[maybe_unused]] unsigned oldCodePage_ = 0;  ///< of the console's output; 0 without a console
+  [[maybe_unused]] unsigned oldCodePage_ =
+      0;  ///< The previous code page of the console; 0 without a console.
 };
 
 bool IsTerminal(std::FILE* stream);
 
-/// Windows' locale identifier (MS-LCID) of the user's locale.
+/// Returns the Windows locale identifier (MS-LCID) of the user's locale.
 std::int32_t UserLCID();
 
 }  // namespace plotsmith::cli

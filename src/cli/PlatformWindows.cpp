@@ -11,18 +11,18 @@
 namespace plotsmith::cli {
 namespace {
 
-/// Half a pair of surrogates, which a file name may hold, becomes a replacement character.
+/// Half of a surrogate pair, which a file name can contain, becomes a replacement character.
 std::string Utf8Of(const wchar_t* text) {
   const int size = WideCharToMultiByte(CP_UTF8, 0, text, -1, nullptr, 0, nullptr, nullptr);
   std::string utf8(static_cast<std::size_t>(size), '\0');
   WideCharToMultiByte(CP_UTF8, 0, text, -1, utf8.data(), size, nullptr, nullptr);
-  utf8.pop_back();  // the null
+  utf8.pop_back();  // Remove the terminating null.
   return utf8;
 }
 
 }  // namespace
 
-// what `main` is given has lost the characters that the code page of the system lacks
+// The arguments of `main` lack the characters that the system's code page doesn't have.
 std::vector<std::string> Arguments(int, char**) {
   std::vector<std::string> arguments;
   int count = 0;
@@ -41,7 +41,7 @@ StandardStreams::~StandardStreams() {
   if (oldCodePage_ != 0) SetConsoleOutputCP(oldCodePage_);
 }
 
-// the null device is a terminal to the C run-time
+// The C run-time library treats the null device as a terminal.
 bool IsTerminal(std::FILE* stream) {
   DWORD mode = 0;
   return GetConsoleMode(reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream))), &mode) != 0;

@@ -34,7 +34,7 @@ CommandError CantSave(const std::string& path, const std::string& reason) {
   return CommandError(exit_code::kFile, "can't save \"" + path + "\": " + reason + "; nothing was changed.");
 }
 
-/// The file beside a workbook by which another program shows that it has it open, or "".
+/// Returns the lock file with which another program shows that it has the workbook open, or "".
 std::string LockOf(const fs::path& book) {
   const std::string file = runtime::Utf8Of(book.filename());
   for (const std::string& name : {".~lock." + file + "#", "~$" + file}) {
@@ -45,7 +45,7 @@ std::string LockOf(const fs::path& book) {
   return {};
 }
 
-/// Whether the workbook knows a table of exactly that id, or has a chart that wants one.
+/// Returns true if the workbook has a table with exactly that id, or a chart that uses it.
 bool IsTableKnown(const std::string& id) {
   const auto isTable = [&](const dom::IXMLDOMDocument2& document) {
     return GetAttributeText(document.selectSingleNode("table"), "id") == id;
@@ -115,7 +115,7 @@ void Session::LoadCharts() {
   if (SheetExists(kDefinitionsSheet)) {
     RetrieveChartDefinitions();
   } else {
-    colCharts = runtime::MakeRef<DocumentCollection>();  // to load them would make the sheet
+    colCharts = runtime::MakeRef<DocumentCollection>();  // Loading the definitions would create the sheet.
   }
 }
 
@@ -163,7 +163,7 @@ void Session::Look(const std::function<void()>& look) const {
   try {
     look();
   } catch (const runtime::RuntimeError&) {
-    CheckDamage();  // says what is damaged
+    CheckDamage();  // This reports damage.
     throw;
   }
   CheckDamage();
@@ -187,7 +187,7 @@ bool Session::ReportFindings(const std::vector<std::string>& lines) const {
 }
 
 void Session::ChartStarted(const std::vector<runtime::Variant>& arguments) {
-  // without an argument it is the whole run that begins
+  // A call without arguments marks the beginning of the run.
   if (arguments.empty() || !colCharts) return;
   const std::string id = runtime::CStr(arguments[0]);
   started_.push_back({colCharts->Item(id).selectSingleNode("chart"), colChartObjects->Item(id)});
@@ -218,7 +218,7 @@ void Session::ClearProgress() {
   progressWidth_ = 0;
 }
 
-/// Damage makes all messages moot that it brought about.
+/// Damage of the workbook replaces all messages that result from it.
 void Session::CheckDamage() const {
   if (const auto& damage = host_->Book().Damage()) throw CantRead(path_, *damage);
   if (runtime::memoryRanOut) throw CantRead(path_, "there is not enough memory for it");
@@ -235,7 +235,7 @@ int Session::Save(const std::optional<std::string>& output) {
   Look([&] {
     if (look_) findings = look_->Finish();
   });
-  Deliver(streams_);  // while nothing is changed yet
+  Deliver(streams_);  // Nothing is changed yet.
   if (output || Book().Changed()) {
     try {
       WriteBook(output);

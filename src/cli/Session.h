@@ -21,18 +21,19 @@
 
 namespace plotsmith::cli {
 
-/// What became of the charts of a refresh.
+/// The results of a refresh.
 struct RefreshCounts {
   std::size_t refreshed = 0;
-  std::size_t unavailable = 0;  ///< they could not be drawn
+  std::size_t unavailable = 0;  ///< Charts that couldn't be drawn.
 };
 
-/// One workbook, open in the embedded host, with the system set up to work on it.
+/// A workbook that is open in the embedded host, with the system set up to work on it.
 class Session {
  public:
-  /// With forms that are closed as soon as they wait. Throws a CommandError if the workbook can't be read.
+  /// Opens a workbook, with forms that close as soon as they wait for the user. Throws CommandError if the
+  /// workbook can't be read.
   Session(std::string path, const GlobalOptions& options, const Streams& streams);
-  /// With forms on a view of the caller's, and message boxes on its desktop.
+  /// Opens a workbook, with the forms in the caller's view and the message boxes on its desktop.
   Session(std::string path, const GlobalOptions& options, const Streams& streams,
           std::shared_ptr<ConsoleDesktop> desktop, std::shared_ptr<forms::View> view);
   ~Session();
@@ -42,31 +43,34 @@ class Session {
   std::shared_ptr<xlsx::Application> Host() const { return host_; }
   xlsx::Workbook& Book() const { return host_->Book(); }
 
-  /// Discovers the tables.
+  /// Finds the tables.
   void LoadTables();
-  /// Discovers the tables and loads the definitions, for commands that only read.
+  /// Finds the tables and loads the definitions, for commands that only read.
   void LoadTablesAndCharts();
-  /// Loads the definitions and reads their charts back. It wants the tables loaded.
+  /// Loads the definitions and reads their charts back. The tables must be loaded.
   void LoadCharts();
-  /// Refuses, before any work is done, to write where another program has the workbook open, or a file that
-  /// the workbook can't be. If `output` is the standard output, the journal goes to `err` from here on.
+  /// Throws CommandError, before any work is done, if another program has the workbook open, or if the output
+  /// can't be a workbook. If `output` is standard output, the journal goes to `err` from here on.
   void CheckWritable(const std::optional<std::string>& output);
-  /// Looks at the definitions before a run that writes. A CommandError, after a line for each on `err`, where
-  /// the run would lose some, unless the options allow it. What else is found is said after a save.
+  /// Checks the definitions before a run that writes. If the run would lose definitions, prints a line for
+  /// each on `err` and throws CommandError, unless the options allow it. Other findings are reported after
+  /// the save.
   void LookBeforeRun(DefinitionsAre definitions);
-  /// After the system has worked: refuses an id of which the workbook has neither a table nor a chart.
+  /// Checks a table id after the run. Throws CommandError if the workbook has neither a table nor a chart
+  /// with it.
   void CheckTable(const std::string& id) const;
-  /// How many charts the system has begun to build.
+  /// The number of charts that the system has begun to build.
   int ChartsStarted() const { return static_cast<int>(started_.size()); }
-  /// What became of those.
+  /// The results for these charts.
   RefreshCounts Counts() const;
-  /// Those charts, with their ids; Nothing for one that is on no sheet.
+  /// Returns these charts with their ids. A chart that is on no sheet is Nothing.
   std::vector<std::pair<std::string, excel::Ref<excel::Chart>>> StartedCharts() const;
-  /// Whether the system had anything to say.
+  /// Returns true if the system showed a message.
   bool HasMessages() const { return !desktop_->Messages().empty(); }
-  /// Ends the work: saves to `output`, or, if something changed, to where the workbook came from.
+  /// Ends the work and saves to `output`; without it, saves to the original file if something has changed.
+  /// Returns an exit code.
   int Save(const std::optional<std::string>& output);
-  /// Ends the work of a command that only reads.
+  /// Ends the work of a command that only reads. Returns an exit code.
   int Finish();
 
  private:
@@ -82,9 +86,9 @@ class Session {
   void ClearProgress();
   void CheckDamage() const;
   int ReportMessages();
-  /// Runs a look at the workbook with the system's variables set to it, and puts them back.
+  /// Calls a check with the system's variables set to the workbook, and restores them.
   void Look(const std::function<void()>& look) const;
-  /// Says what the look has found about the run; false if there is nothing.
+  /// Prints the findings of the checks. Returns false if there are none.
   bool ReportFindings(const std::vector<std::string>& lines) const;
 
   std::string path_;
@@ -95,19 +99,19 @@ class Session {
   std::optional<RunLook> look_;
   std::vector<StartedChart> started_;
   std::size_t progressWidth_ = 0;
-  bool bookToOut_ = false;  ///< the workbook goes to the standard output, and so nothing else may
+  bool bookToOut_ = false;  ///< Whether the workbook goes to standard output, which then takes nothing else.
 };
 
-/// The name by which the command introduces itself to the system.
+/// The name of the command as a host add-in.
 inline constexpr const char* kHostName = "plotsmith";
 
-/// Whether the name of an output is "-", the standard output.
+/// Returns true if the name of an output is "-" for standard output.
 bool IsStandardOutput(const std::optional<std::string>& output);
 
-/// Refuses a table's id that is empty, which no table has.
+/// Throws CommandError if a table id is empty, because no table has an empty id.
 void RequireTableId(const std::string& id);
 
-/// The host's version as Excel would tell it, "16.0".
+/// Returns the host's version in Excel's format, such as "16.0".
 std::string VersionText(double version);
 
 }  // namespace plotsmith::cli

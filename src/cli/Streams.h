@@ -5,13 +5,13 @@
 
 namespace plotsmith::cli {
 
-/// Where a command reads and writes: data on `out`, messages and progress on `err`.
+/// The streams of a command: data on `out`, messages and progress on `err`.
 struct Streams {
   std::istream& in;
   std::ostream& out;
   std::ostream& err;
-  bool terminal = false;     ///< a person watches `err`, so progress is worth showing
-  bool outTerminal = false;  ///< `out` is a terminal, which is no place for a workbook
+  bool terminal = false;     ///< Whether `err` is a terminal, so that progress is shown.
+  bool outTerminal = false;  ///< Whether `out` is a terminal, which can't take a workbook.
 };
 
 }  // namespace plotsmith::cli

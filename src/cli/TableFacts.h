@@ -7,9 +7,9 @@
 
 namespace plotsmith::cli {
 
-/// A table document for programs: id, place, and the columns with their kinds.
+/// Returns the facts of a table document as JSON: id, position, and the columns with their kinds.
 nlohmann::ordered_json TableFacts(const dom::IXMLDOMElement& table);
-/// Where the table is, in words: "sheet Data1, rows 1 to 5 (4 of data), from column 1".
+/// Returns the position of a table in words: "sheet Data1, rows 1 to 5 (4 of data), from column 1".
 std::string TablePlace(const nlohmann::ordered_json& facts);
 
 }  // namespace plotsmith::cli

@@ -10,11 +10,11 @@ namespace {
 constexpr std::int32_t kEnglishUnitedStates = 1033;
 
 struct LocaleName {
-  std::string_view name;  ///< language_TERRITORY
+  std::string_view name;  ///< In the form language_TERRITORY.
   std::int32_t lcid;
 };
 
-/// The first line of each language is its default territory.
+/// The first line of a language is its default territory.
 constexpr LocaleName kLocaleNames[] = {
     {"ar_SA", 1025},  {"ar_IQ", 2049},  {"ar_EG", 3073},  {"ar_LY", 4097},  {"ar_DZ", 5121},
     {"ar_MA", 6145},  {"ar_TN", 7169},  {"ar_OM", 8193},  {"ar_YE", 9217},  {"ar_SY", 10241},

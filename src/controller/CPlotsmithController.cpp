@@ -18,15 +18,15 @@ using runtime::Ref;
 
 namespace {
 
-/// The first caller's host and name stay for the life of the component.
+/// The host and the name of the first caller are kept for the life of the component.
 void SetHostContext(const Ref<excel::Application>& oHost, const std::string& sName) {
   if (oApplication) return;
   oApplication = oHost;
   if (sCustomAppName.empty()) sCustomAppName = sName;
 }
 
-/// Whether a cell or an object is being edited. Excel has no query for it, but refuses then to change
-/// Interactive.
+/// Returns true if the user edits a cell or an object. Excel has no query for this, but it then refuses to
+/// change Interactive.
 bool HostIsEditing(const Ref<excel::Application>& oHost) {
   return ValueOr(true, [&] {
     if (!oHost->Interactive()) return false;
@@ -37,7 +37,7 @@ bool HostIsEditing(const Ref<excel::Application>& oHost) {
   });
 }
 
-/// What forbids a run on the workbook, or nothing.
+/// Returns the message that forbids a run on the workbook, or null.
 const char* Obstacle(const Ref<excel::Application>& oHost) {
   if (!oWorkbook) return "You must have a workbook open to use the Plotsmith.";
   if (oWorkbook->ProtectStructure()) {
@@ -64,7 +64,7 @@ void GuardedRun(const char* sOperation, const Ref<excel::Application>& oHost, co
     } else {
       ExecuteRun(lMode);
     }
-    oWorkbook = nullptr;  // an error leaves it set
+    oWorkbook = nullptr;  // An error leaves it set.
   });
 }
 
@@ -93,7 +93,7 @@ void CPlotsmithController::UpdateChartColumnNamesForTable(Ref<excel::Application
                                                           std::string sTableRangeName,
                                                           std::vector<std::string>& aOldColumnNames,
                                                           std::vector<std::string>& aNewColumnNames) {
-  // the shorter name is what the reports of this operation say
+  // Error reports of this operation use the shorter name.
   ReportErrors("CPlotsmithController.UpdateChartColumnNames", [&] {
     SetHostContext(oHost, "");
     if (!oWorkbook) oWorkbook = oHost->ActiveWorkbook();

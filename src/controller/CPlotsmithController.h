@@ -7,8 +7,8 @@
 
 namespace plotsmith {
 
-/// The one public class. It holds no state of its own: it records the host in the run's variables and hands
-/// over.
+/// The public class of the component. It has no state: it stores the host in the variables of the run and
+/// calls PSController.
 class CPlotsmithController : public IPlotsmithController {
  public:
   void RunPlotsmith(runtime::Ref<excel::Application> oApplication, std::string sCustomAppName,

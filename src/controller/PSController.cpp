@@ -28,7 +28,7 @@ namespace plotsmith {
 
 namespace {
 
-/// The way from page to page, as the pages call it.
+/// The navigation that the pages call.
 class ControllerNavigation final : public Navigation {
  public:
   void PSJumpToStep(std::int32_t lStep, std::int32_t lFromPage, Page* oPage) override {
@@ -43,7 +43,7 @@ std::shared_ptr<Page> MakePage() {
   return std::make_shared<Form>(oNavigation);
 }
 
-/// One form: how it is made, and the instance that is loaded at present.
+/// A form: its factory, and the instance that is loaded at present.
 struct FormVariable {
   std::shared_ptr<Page> (*Make)();
   std::shared_ptr<Page> oLoaded;
@@ -57,7 +57,7 @@ FormVariable oLayoutStrBuck{MakePage<frmPSLayoutStrBuck>, nullptr};
 FormVariable oLayoutPie{MakePage<frmPSLayoutPie>, nullptr};
 FormVariable oChartLocation{MakePage<frmPSChartLocation>, nullptr};
 
-/// The form of each page number; area, bar and column have one in common.
+/// The form of each page number. Area, bar and column share a form.
 const std::array<FormVariable*, 9> kForms = {&oSelectAction,  &oSelectTable,  &oLayoutABC,
                                              &oLayoutABC,     &oLayoutBubble, &oLayoutABC,
                                              &oLayoutStrBuck, &oLayoutPie,    &oChartLocation};
@@ -66,7 +66,7 @@ constexpr std::int32_t kSelectTablePage = 1;
 constexpr std::int32_t kAreaLayoutPage = 2;
 constexpr std::int32_t kChartLocationPage = 8;
 
-/// The layout page of `sChartType`.
+/// Returns the number of the layout page for `sChartType`.
 std::optional<std::int32_t> LayoutPageNumber() {
   constexpr std::array<std::string_view, 6> kTypes = {"area", "bar", "bubble", "column", "strategic bucket",
                                                       "pie"};
@@ -76,7 +76,7 @@ std::optional<std::int32_t> LayoutPageNumber() {
   return std::nullopt;
 }
 
-/// The page of a number, loaded. A page that was unloaded never comes back; a new one takes its place.
+/// Returns the page with a number and loads it. An unloaded page is replaced by a new one.
 std::shared_ptr<Page> LoadedPage(std::int32_t lPage) {
   FormVariable& oForm = *kForms[static_cast<std::size_t>(lPage)];
   if (!oForm.oLoaded || oForm.oLoaded->IsUnloaded()) oForm.oLoaded = oForm.Make();
@@ -97,7 +97,8 @@ void ComplainOfOrigin(const char* sProcedure) {
   ShowComplaint(sProcedure, "Don't know where you're coming from!");
 }
 
-/// Asks a page that isn't shown. On True it goes and `next` follows, on False it opens and says why.
+/// Checks a page that isn't shown. If its input is valid, the page is unloaded and `next` follows; otherwise
+/// the page opens and shows its message.
 template <class Next>
 void PassOrShow(std::int32_t lPage, Next&& next) {
   const std::shared_ptr<Page> oPage = LoadedPage(lPage);
@@ -113,13 +114,13 @@ void PassOrShow(std::int32_t lPage, Next&& next) {
 
 void ExecuteRun(std::int32_t lMode) {
   bRunAborted = false;
-  ResetPages();  // an error may have left a page loaded
+  ResetPages();  // An error may have left a page loaded.
   if (lMode == 1) IgnoreErrors([] { oApplication->Run(kRefreshStartedMacro, {}); });
   const auto jump = [&] {
     PSJumpToStep(lMode == 0 ? step::kStart : step::kRefresh, origin::kOutside, nullptr);
   };
   if (oApplication->ActiveChart()) {
-    // takes the selection off the chart; from here on errors are ignored, the run's own among them
+    // Deselect the chart. From here on errors are ignored, including those of the run.
     IgnoreErrors([] { SheetWithCells(oWorkbook->ActiveSheet()->Name())->Cells(1, 1)->Activate(); }, jump,
                  EndRun);
   } else {
@@ -231,7 +232,7 @@ void JumpFinish(std::int32_t lFromPage) {
       break;
     case origin::kSelectTable:
       if (const auto lPage = LayoutPageNumber()) {
-        // area, bar and column share a form, which opens under the first of their numbers
+        // Area, bar and column share a form, which is opened with the first of their numbers.
         const bool bShared = kForms[static_cast<std::size_t>(*lPage)] == &oLayoutABC;
         PassOrShow(bShared ? kAreaLayoutPage : *lPage, [] { JumpFinish(origin::kLayout); });
       } else {
@@ -257,7 +258,7 @@ void ShowPage(std::int32_t lPage) {
 
 void UnloadPage(Page& oPage) {
   bUnloadingPage = true;
-  oPage.Unload();  // an error here leaves the mark set: there is no error block to take it back
+  oPage.Unload();  // An error here leaves the flag set, because no error block resets it.
   bUnloadingPage = false;
 }
 

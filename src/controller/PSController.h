@@ -5,31 +5,32 @@
 #include "pages/Navigation.h"
 
 /// @file
-/// Module PSController: one run, from the host's call to its end, and the way through the wizard's pages.
-/// Pages never open each other; each judges its own input and calls PSJumpToStep.
+/// Module PSController: a run from the host's call to its end, and the navigation between the wizard's pages.
+/// Pages never open each other. Each page checks its own input and calls PSJumpToStep.
 namespace plotsmith {
 
-/// `lMode` 0 is the wizard, 1 the refresh of all charts.
+/// Executes a run. `lMode` is 0 for the wizard and 1 for the refresh of all charts.
 void ExecuteRun(std::int32_t lMode);
-/// The one entrance for all moves. `lStep` is a step, `lFromPage` an origin; `oPage`, if there is one, is
-/// unloaded first. An error on the way is reported and ends the run.
+/// Makes every move between pages. `lStep` is a step, and `lFromPage` is an origin. `oPage`, if given, is
+/// unloaded first. An error is reported and ends the run.
 void PSJumpToStep(std::int32_t lStep, std::int32_t lFromPage, Page* oPage);
-/// Discovers tables, loads definitions, and shows the first page.
+/// Finds the tables, loads the definitions and shows the first page.
 void JumpStart();
-/// Opens the page that follows; from the last one, refreshes the chart. `lFromPage` is an origin.
+/// Opens the next page. From the last page it refreshes the chart instead. `lFromPage` is an origin.
 void JumpNext(std::int32_t lFromPage);
-/// Opens the page before; back on Select Action, the chart in hand is forgotten.
+/// Opens the previous page. On the return to Select Action, the chart that was being edited is discarded.
 void JumpPrevious(std::int32_t lFromPage);
-/// On through the remaining pages, without showing those whose input is valid.
+/// Goes through the remaining pages and skips those whose input is valid.
 void JumpFinish(std::int32_t lFromPage);
-/// 0 Select Action, 1 Source Table, 2 to 7 the layouts of area, bar, bubble, column, strategic bucket and
-/// pie, 8 Chart Location; any other number opens none. Returns when the page is gone.
+/// Shows a page: 0 is Select Action, 1 is Source Table, 2 to 7 are the layouts of area, bar, bubble, column,
+/// strategic bucket and pie, and 8 is Chart Location. Other numbers open nothing. Returns when the page is
+/// closed.
 void ShowPage(std::int32_t lPage);
-/// Closes a page without taking it for a cancellation.
+/// Closes a page. This doesn't count as a cancellation.
 void UnloadPage(Page& oPage);
-/// Forgets all pages, loaded ones as well.
+/// Discards all pages, including loaded ones.
 void ResetPages();
-/// Releases the state of the run; does nothing while the controller itself changes pages.
+/// Releases the state of the run. Does nothing while the controller itself changes pages.
 void EndRun();
 
 }  // namespace plotsmith

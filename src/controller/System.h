@@ -8,13 +8,13 @@
 
 namespace plotsmith {
 
-/// Sets the component up on a desktop and a view of its forms. A program does so before the first call of the
-/// component.
+/// Initializes the component with a desktop and a view of its forms. A program calls this before any other
+/// function of the component.
 void StartSystem(runtime::Ref<desktop::Desktop> oDesktop, std::shared_ptr<forms::View> oView);
-/// Puts what all modules remember back to how the component starts. What the system holds of a host must not
-/// outlive it.
+/// Resets the variables of all modules to their initial state. The system's references to a host must not
+/// outlive the host, so a program calls this before it destroys the host.
 void ResetSystem();
-/// Releases everything, the desktop and the view included.
+/// Releases everything, including the desktop and the view.
 void StopSystem();
 
 }  // namespace plotsmith

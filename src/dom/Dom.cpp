@@ -16,10 +16,11 @@ using runtime::Variant;
 
 namespace {
 
-/// Elements within elements. A definition has four levels.
+/// The maximum depth of elements. A definition has four levels.
 constexpr int kDeepest = 256;
 
-/// pugixml reads much that isn't XML, so a stricter parser tells what is wrong with a text.
+/// Finds the error in a text. pugixml accepts many texts that aren't XML, so a stricter parser checks the
+/// text.
 IXMLDOMParseError FindError(std::string_view xml) {
   const std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser(XML_ParserCreate("UTF-8"),
                                                                             XML_ParserFree);
@@ -32,15 +33,15 @@ IXMLDOMParseError FindError(std::string_view xml) {
 
 }  // namespace
 
-/// One pugixml document holds the content and, beside it, the nodes that are in no tree at present: pugixml
-/// moves nodes only within one document.
+/// The nodes of a document. One pugixml document contains both the tree and the nodes outside the tree,
+/// because pugixml moves nodes only within one document.
 struct IXMLDOMNode::Tree {
   Tree() : content(document.append_child("content")), detached(document.append_child("detached")) {}
 
   pugi::xml_document document;
   pugi::xml_node content;
   pugi::xml_node detached;
-  IXMLDOMParseError error;  ///< of the last text that was read
+  IXMLDOMParseError error;  ///< The error of the last text that was parsed.
 };
 
 pugi::xml_node IXMLDOMNode::Checked() const {
@@ -143,7 +144,7 @@ bool IXMLDOMDocument2::loadXML(std::string_view xml) {
     tree_->error = {"elements nest deeper than " + std::to_string(kDeepest), 1, 1};
     return false;
   }
-  // a declaration or a document type can't stand below the tree's own root, and says nothing that we keep
+  // Declarations and document types can't be below the tree's own root, and the system doesn't need them.
   for (const pugi::xml_node& node : parsed.children()) node_.append_copy(node);
   return static_cast<bool>(documentElement());
 }

@@ -9,93 +9,97 @@
 
 #include "runtime/Variant.h"
 
-/// The document object model by the member names of MSXML, as far as the system uses it, over pugixml.
+/// The document object model, with MSXML's names for the members that the system uses, implemented with
+/// pugixml.
 ///
-/// Handles are small values: copies name the same node, a default one is Nothing, and to use a member of
-/// Nothing is error 91. A node that isn't in its tree (just created, or removed) stays usable.
+/// A handle is a small value. Copies of a handle refer to the same node. A default handle is Nothing, and
+/// using a member of Nothing raises error 91. A node outside the tree (just created, or removed) stays
+/// usable.
 namespace plotsmith::dom {
 
 class IXMLDOMElement;
 
-/// An attribute as its element has it.
+/// An attribute of an element.
 struct IXMLDOMAttribute {
-  std::string name;   ///< with its prefix if it has one
-  std::string value;  ///< with its entities resolved
+  std::string name;   ///< The name, including its prefix.
+  std::string value;  ///< The value, with entities resolved.
 };
 
-/// Why and where a text is no document. Without an error the reason is empty.
+/// The reason and position of a parse error. Without an error the reason is empty.
 struct IXMLDOMParseError {
-  std::string reason;        ///< the parser's words, without a full stop
-  std::int32_t line = 0;     ///< from 1
-  std::int32_t linepos = 0;  ///< the character in that line, from 1
+  std::string reason;        ///< The parser's message, without a full stop.
+  std::int32_t line = 0;     ///< The line, counted from 1.
+  std::int32_t linepos = 0;  ///< The character in the line, counted from 1.
 };
 
-/// What a query finds, in document order.
+/// The result of a query, in document order.
 using IXMLDOMNodeList = std::vector<IXMLDOMElement>;
 
 /// A node of a document: an element, a text, or the document itself.
 class IXMLDOMNode {
  public:
-  /// Nothing.
+  /// Makes Nothing.
   IXMLDOMNode() = default;
-  /// False for Nothing.
+  /// Returns false for Nothing.
   explicit operator bool() const { return static_cast<bool>(node_); }
-  /// Whether both name the same node, or both are Nothing.
+  /// Returns true if both refer to the same node, or if both are Nothing.
   bool operator==(const IXMLDOMNode& other) const { return node_ == other.node_; }
 
-  /// The text of a text node; empty for an element.
+  /// The text of a text node. It is empty for an element.
   std::string nodeValue() const;
-  /// Of any kind; Nothing without children.
+  /// The first child of any kind, or Nothing if there are no children.
   IXMLDOMNode firstChild() const;
-  /// The node and all below it as XML.
+  /// The node and its descendants as XML.
   std::string xml() const;
 
-  /// Elements by a path of child names ("values/column"), or by "//name" anywhere in the document; in
-  /// document order. selectSingleNode gives the first, or Nothing.
+  /// Find elements by a path of child names ("values/column"), or anywhere in the document by "//name". The
+  /// order is document order. selectSingleNode returns the first element, or Nothing.
   ///@{
   IXMLDOMElement selectSingleNode(const char* query) const;
   IXMLDOMNodeList selectNodes(const char* query) const;
   ///@}
 
-  /// Moves `child`, which may come from another document, to the end of this node's children. Error 5 for
-  /// what can't be one, such as a node above this one. Of a node from another document only `child` follows
-  /// the move: no other handle to it, or to what is below it, may be used from then on.
+  /// Moves `child` to the end of this node's children. `child` may come from another document. Raises error 5
+  /// if it can't be a child, for example because it is an ancestor of this node. After a move from another
+  /// document, `child` is the only valid handle; other handles to it or to its descendants must not be used.
   ///@{
   void appendChild(IXMLDOMNode& child);
   void appendChild(IXMLDOMNode&& child) { appendChild(child); }
   ///@}
 
-  /// `child` stays a node of the document, outside of its tree. Error 5 if it isn't a child of this node.
+  /// Removes a child from the tree. `child` stays a node of the document. Raises error 5 if it isn't a child
+  /// of this node.
   void removeChild(IXMLDOMNode& child);
 
  protected:
   struct Tree;
-  /// A handle to a node of that tree.
+  /// Makes a handle to a node of a tree.
   IXMLDOMNode(std::shared_ptr<Tree> tree, pugi::xml_node node) : tree_(std::move(tree)), node_(node) {}
-  /// The node; error 91 for Nothing.
+  /// Returns the node. Raises error 91 for Nothing.
   pugi::xml_node Checked() const;
 
-  std::shared_ptr<Tree> tree_;  ///< kept alive by each handle to a node of it
-  pugi::xml_node node_;         ///< null for Nothing
+  std::shared_ptr<Tree> tree_;  ///< The tree, shared by all handles to its nodes.
+  pugi::xml_node node_;         ///< The node, or null for Nothing.
 
   friend class IXMLDOMDocument2;
 };
 
-/// An element, with its attributes.
+/// An element with its attributes.
 class IXMLDOMElement : public IXMLDOMNode {
  public:
   using IXMLDOMNode::IXMLDOMNode;
 
-  /// With its prefix if it has one.
+  /// The name of the element, including its prefix.
   std::string tagName() const { return Checked().name(); }
   /// The child elements, in document order.
   IXMLDOMNodeList childElements() const;
 
-  /// Adds the attribute or changes it, by the value's CStr. Characters that XML can't hold are left out.
+  /// Adds or changes an attribute. The value is converted with CStr; characters that XML can't contain are
+  /// left out.
   void setAttribute(const char* name, const runtime::Variant& value);
-  /// A text; Null where there is no such attribute.
+  /// The value of an attribute as a string, or Null if it doesn't exist.
   runtime::Variant getAttribute(const char* name) const;
-  /// In the order of the text.
+  /// The attributes in document order.
   std::vector<IXMLDOMAttribute> attributes() const;
 
  private:
@@ -103,25 +107,25 @@ class IXMLDOMElement : public IXMLDOMNode {
   friend class IXMLDOMDocument2;
 };
 
-/// A document. Parsing never validates and never reaches outside the text; white space is kept, and line ends
-/// become line feeds, as XML wants it.
+/// A document. The parser doesn't validate and doesn't load external resources. White space is kept, and line
+/// ends become line feeds, as XML requires.
 class IXMLDOMDocument2 : public IXMLDOMNode {
  public:
-  /// Nothing; see Create.
+  /// Makes Nothing. See Create.
   IXMLDOMDocument2() = default;
-  /// A new document without a root.
+  /// Makes a new document without a root element.
   static IXMLDOMDocument2 Create();
 
-  /// Reads a new content; handles to the old one must not be used any more. False, with the document left
-  /// empty, if `xml` isn't well-formed, or nests deeper than any definition would.
+  /// Replaces the contents of the document. Handles to the old contents become invalid. Returns false and
+  /// leaves the document empty if `xml` isn't well-formed or nests too deeply for any definition.
   bool loadXML(std::string_view xml);
-  /// What was wrong with the text of the last loadXML.
+  /// The error of the last loadXML.
   const IXMLDOMParseError& parseError() const;
-  /// The root; Nothing in an empty document.
+  /// The root element, or Nothing if the document is empty.
   IXMLDOMElement documentElement() const;
 
-  /// A node of this document that is in its tree only when it has been appended. Of a text, characters that
-  /// XML can't hold are left out.
+  /// Create a node of this document. The node is outside the tree until it is appended. Characters that XML
+  /// can't contain are left out of a text node.
   ///@{
   IXMLDOMElement createElement(const char* name) const;
   IXMLDOMNode createTextNode(std::string_view text) const;

@@ -4,9 +4,9 @@
 
 namespace plotsmith::dom {
 
-/// Whether elements nest deeper than `limit`. Branches are torn down by recursion (whole documents aren't),
-/// so a text that nests without bound must not be worked on. The tree is asked and not the text, as only who
-/// read the text knows what in it is an element.
+/// Returns true if elements nest deeper than `limit`. pugixml destroys branches recursively (but not whole
+/// documents), so a document that nests without bound must not be modified. The check needs the parsed tree,
+/// because only the parser knows which parts of a text are elements.
 bool NestsDeeperThan(const pugi::xml_document& document, int limit);
 
 }  // namespace plotsmith::dom

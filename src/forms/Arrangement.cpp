@@ -14,12 +14,12 @@ using Lengths = std::vector<int>;
 
 bool IsControl(const Layout& part) { return part.kind == Layout::Kind::kControl; }
 
-/// Whether the part is or has a list or a text of several lines.
+/// Returns true if the part is or contains a list or a multi-line text box.
 bool HasLines(const Layout& part) {
   return part.lines > 0 || std::any_of(part.parts.begin(), part.parts.end(), HasLines);
 }
 
-/// Whether a control fills the height of its row. All others keep their own height.
+/// Returns true if a control fills the height of its row. All others keep their own height.
 bool FillsHeight(const Layout& part) {
   return !IsControl(part) || part.lines > 0 || dynamic_cast<const Frame*>(part.control) != nullptr ||
          dynamic_cast<const Image*>(part.control) != nullptr;
@@ -31,18 +31,18 @@ int Gaps(std::size_t count, const Measures& measures) {
   return count == 0 ? 0 : static_cast<int>(count - 1) * measures.Gap();
 }
 
-/// Adds the room that is left over to the lengths, by their shares. Without any share it stays as it is.
+/// Distributes extra space by shares. Without shares, the lengths don't change.
 void ShareOut(Lengths& lengths, const Lengths& shares, int room) {
   int sum = Sum(shares);
   for (std::size_t i = 0; i < lengths.size() && sum > 0; ++i) {
-    const int part = room * shares[i] / sum;  // of what the others have left
+    const int part = room * shares[i] / sum;  // A share of the remaining space.
     lengths[i] += part;
     room -= part;
     sum -= shares[i];
   }
 }
 
-/// The least sizes of the columns and rows of a grid, and their shares of the room.
+/// The minimum sizes of the columns and rows of a grid, and their shares of the extra space.
 struct GridLines {
   Lengths widths, heights, columnShares, rowShares;
 };
@@ -109,8 +109,8 @@ class Arranger {
            area.height - edges.top - edges.bottom});
   }
 
-  /// A part in its cell of a row. What doesn't fill the height is in the middle; beside a list, an option is
-  /// at the top.
+  /// Places a part in its cell. A part that doesn't fill the height is vertically centred; beside a list, an
+  /// option is at the top.
   void PlaceInCell(const Layout& part, const Area& cell, bool isBesideLines) {
     if (FillsHeight(part)) return Place(part, cell);
     const bool isOption = dynamic_cast<const OptionButton*>(part.control) != nullptr ||

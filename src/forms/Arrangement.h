@@ -4,50 +4,54 @@
 
 #include "forms/Layout.h"
 
-/// Places for the controls of a layout, for views whose toolkit has none of its own. Lengths are pixels, or
-/// any other unit of the view.
+/// Computes the positions of the controls of a layout, for views whose toolkit has no layouts. Lengths are in
+/// pixels or in any other unit of the view.
 namespace plotsmith::forms {
 
+/// The size of a rectangle.
 struct Size {
   int width = 0, height = 0;
 };
 
+/// A rectangle, relative to the form.
 struct Area {
   int left = 0, top = 0, width = 0, height = 0;
 };
 
-/// The room between the edges of a frame and what is inside.
+/// The distances between the edges of a frame and its contents.
 struct Edges {
   int left = 0, top = 0, right = 0, bottom = 0;
 };
 
-/// How large things are in a toolkit and its fonts.
+/// The sizes of controls in a toolkit and its fonts.
 class Measures {
  public:
   virtual ~Measures() = default;
 
-  /// The size at which the control shows all of its text. Of a frame it is that of its title alone.
+  /// Returns the size at which the control shows its whole text. For a frame it is the size of its title.
   virtual Size LeastSize(const Control& control) const = 0;
-  /// The width of so many average characters in the control, its borders included.
+  /// Returns the width of the control for a number of average characters, including its borders.
   virtual int WidthOf(const Control& control, int characters) const = 0;
-  /// The height of so many lines in the control, its borders included.
+  /// Returns the height of the control for a number of lines, including its borders.
   virtual int HeightOf(const Control& control, int lines) const = 0;
+  /// Returns the distances between the edges of a frame and its contents.
   virtual Edges EdgesOf(const Control& frame) const = 0;
-  /// The room between two parts that lie beside each other.
+  /// Returns the gap between two adjacent parts.
   virtual int Gap() const = 0;
 };
 
-/// The size that the layout needs.
+/// Returns the minimum size of a layout.
 Size LeastSize(const Layout& layout, const Measures& measures);
 
+/// A control with its position and size.
 struct PlacedControl {
   const Control* control;
   Area area;
 };
 
-/// The areas of all controls of a layout that gets this area, which has at least the least size. Room that is
-/// left over goes to the parts that stretch. Within a column where none does, it goes to lists and texts of
-/// several lines. A frame comes before what is inside.
+/// Computes the areas of all controls of a layout. `area` is at least as large as the minimum size. Extra
+/// space goes to the parts that stretch. In a column without such parts, it goes to lists and multi-line
+/// texts. A frame precedes the controls inside it.
 std::vector<PlacedControl> Arrange(const Layout& layout, const Measures& measures, const Area& area);
 
 }  // namespace plotsmith::forms

@@ -19,7 +19,7 @@ void CommandButton::SetCancel(bool value) {
 
 bool CommandButton::UserPress() {
   if (!Reach()) return false;
-  // the focus that moved may have switched the button off
+  // The move of the focus may have disabled the button.
   return UserPressByKey();
 }
 

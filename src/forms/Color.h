@@ -4,11 +4,10 @@
 
 namespace plotsmith::forms {
 
-/// An OLE colour: red, green and blue from the lowest byte up, or 0x80000000 and the index of a system
-/// colour.
+/// An OLE colour: red + 256 green + 65536 blue, or 0x80000000 plus the index of a system colour.
 using Color = std::uint32_t;
 
-/// System colours, by their index in GetSysColor.
+/// System colours, by their index in the Windows function GetSysColor.
 ///@{
 inline constexpr Color kButtonFace = 0x8000000F;
 inline constexpr Color kToolTipBackground = 0x80000018;

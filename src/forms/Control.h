@@ -8,95 +8,99 @@
 #include "forms/Color.h"
 #include "forms/Font.h"
 
-/// The model of dialogs: forms, their controls, and the loop that runs them. It knows no toolkit. Members
-/// have the names of Visual Basic's forms. A control holds its state. To set a property raises the control's
-/// event, whether a page sets it or a hand; a view only shows the state and reports what hands do.
+/// The model of dialogs: forms, their controls, and the loop that runs them. It doesn't depend on a GUI
+/// toolkit. The members have the names of Visual Basic's forms. A control stores its state. Setting a
+/// property raises the control's event, whether the page or the user sets it. A view only shows the state and
+/// reports the actions of the user.
 namespace plotsmith::forms {
 
 class Form;
 
-/// What a control tells its form: a procedure of the page, or nothing.
+/// An event handler: a procedure of the page, or empty.
 using Event = std::function<void()>;
 
-/// Where a control is on its form, in points from the corner of its container.
+/// The position and size of a control in points, relative to the corner of its container.
 struct Place {
   double Left = 0, Top = 0, Width = 0, Height = 0;
 };
 
-/// What all controls have in common. A control belongs to one form for as long as it lives, and counts its
-/// own changes, so that a view knows what to draw anew.
+/// The base class of controls. A control belongs to one form for its whole life. It counts its changes, so
+/// that a view knows when to redraw it.
 class Control {
  public:
-  /// `container` is the frame that holds the control; a null pointer is the form itself.
+  /// Makes a control. `container` is the frame that contains it, or null for the form.
   Control(Form& form, const char* name, Control* container);
   virtual ~Control() = default;
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 
-  /// The name, which the members of a control array have in common.
+  /// The name. All members of a control array have the same name.
   const std::string& Name() const { return name_; }
-  /// The place in a control array, from 0; absent for a control that is in none.
+  /// The index in a control array, counted from 0. It is absent if the control isn't in an array.
   std::optional<std::int32_t> Index() const { return index_; }
-  /// The name with the index of an array: "optType(1)".
+  /// The name with the index in the array, such as "optType(1)".
   std::string FullName() const;
-  /// The class, as Visual Basic's TypeName tells it.
+  /// The name of the class, as Visual Basic's TypeName returns it.
   virtual const char* TypeName() const = 0;
-  /// The frame that holds the control; null where the form does.
+  /// The frame that contains the control, or null if the form contains it.
   Control* Container() const { return container_; }
-  /// The form that the control is on.
+  /// The form of the control.
   Form& Parent() const { return form_; }
 
-  /// Whether a hand can use the control.
+  /// Whether the user can use the control.
   ///@{
   bool Enabled() const { return enabled_; }
   void SetEnabled(bool value);
   ///@}
+  /// Whether the control is shown.
   bool Visible() const { return visible_; }
   void SetVisible(bool value);
 
   Color BackColor() const { return backColor_; }
   void SetBackColor(Color value);
 
-  /// Error 438 for a control without a font, such as a picture.
+  /// The font. Raises error 438 for a control without text, such as a picture.
   virtual forms::Font& Font();
 
   const forms::Place& Place() const { return place_; }
   void SetPlace(const forms::Place& value);
 
-  /// What a screen reader says: what was set, else the control's caption, else that of its frame and the
-  /// control's kind.
+  /// The name for screen readers. It is the text that was set, or the caption of the control, or the caption
+  /// of its frame with the kind of control.
   ///@{
   std::string AccessibleName() const;
   void SetAccessibleName(std::string value);
   ///@}
-  /// What a screen reader says behind the name: which frame the control is in, unless its name says so.
+  /// The description for screen readers: the frame of the control, unless the name contains it.
   std::string AccessibleDescription() const;
 
-  /// Moves the focus here: the control that had it raises Validate, then this one raises GotFocus. Error 5 if
-  /// the control is off or hidden or takes no focus.
+  /// Moves the focus to this control. The control that had the focus raises Validate, and then this one
+  /// raises GotFocus. Raises error 5 if the control is disabled or hidden or can't have the focus.
   void SetFocus();
 
+  /// Raised when the control gets the focus.
   Event GotFocus;
-  Event Validate;  ///< the focus leaves the control for another one
+  Event Validate;  ///< Raised when the focus moves from this control to another one.
 
-  /// Why a hand can't use the control at present, as the end of a sentence ("is off"); empty if it can.
+  /// Returns why the user can't use the control at present, as the end of a sentence ("is off"). It is empty
+  /// if the user can.
   std::string Obstacle() const;
-  /// A hand moves the focus here. Like all members that begin with User it answers false, and does nothing,
-  /// where a hand can't use the control.
+  /// Handles a move of the focus by the user. Like all members that begin with User, it returns false and
+  /// does nothing if the user can't use the control.
   bool UserFocus();
 
-  /// Grows with each change of a property.
+  /// A counter that increases with each change of a property.
   std::uint64_t Changes() const { return changes_; }
 
  protected:
   void Changed() { ++changes_; }
-  /// What is written on the control; empty where nothing is.
+  /// The text on the control, or empty.
   virtual std::string CaptionText() const { return {}; }
-  /// The kind in plain words, for AccessibleName.
+  /// The kind of control in plain words, for AccessibleName.
   virtual const char* KindText() const { return ""; }
-  /// Whether the control can have the focus at all.
+  /// Returns true if controls of this class can have the focus.
   virtual bool TakesFocus() const { return true; }
-  /// Gives the focus to the control for a gesture; false where a hand can't use it.
+  /// Gives the focus to the control before a user action. Returns false if the user can't use the control.
   bool Reach();
   void SetIndex(std::int32_t index) { index_ = index; }
 
@@ -129,12 +133,13 @@ class FontControl : public Control {
   forms::Font font_;
 };
 
-/// A control that shows a fixed text. "&" marks the letter that goes to the control together with Alt.
+/// A control with a caption. "&" precedes the letter that selects the control together with Alt.
 class CaptionControl : public FontControl {
  public:
   CaptionControl(Form& form, const char* name, Control* container, std::string caption)
       : FontControl(form, name, container), caption_(std::move(caption)) {}
 
+  /// The caption, including "&".
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string value);
 

@@ -11,7 +11,7 @@
 namespace plotsmith::forms {
 namespace {
 
-/// The button of the form for which `wanted` holds; null if there is none.
+/// Returns the button of the form for which `wanted` returns true, or null.
 CommandButton* FindButton(const Form& form, bool (CommandButton::*wanted)() const) {
   for (Control* control : form.Controls()) {
     auto* button = dynamic_cast<CommandButton*>(control);
@@ -85,7 +85,7 @@ void Form::MoveFocus(Control& control) {
 
 Control* Form::FirstInTabOrder() const {
   const auto canBeFirst = [](const Control* control) {
-    // the tab stop of a group of options is the one that is chosen
+    // The tab stop of a group of options is the selected option.
     const auto* option = dynamic_cast<const OptionButton*>(control);
     return control->Obstacle().empty() && (option == nullptr || option->Value());
   };
@@ -98,7 +98,7 @@ bool Form::UserEnter() {
   if (text != nullptr && text->MultiLine()) return text->UserType(text->Text() + "\r\n");
   CommandButton* button = FindButton(*this, &CommandButton::Default);
   if (button == nullptr || !button->Obstacle().empty()) return false;
-  // what was typed counts as finished, as if the focus had gone to the button
+  // The typed text is final, as if the focus had moved to the button.
   if (activeControl_ != nullptr) Control::Raise(activeControl_->Validate);
   return button->UserPressByKey();
 }

@@ -10,57 +10,61 @@
 
 namespace plotsmith::forms {
 
-/// A dialog. A form lives once: it is loaded, shown, and unloaded; to show it again means to make a new one.
-/// Its events are the members that begin with Form_.
+/// A dialog. A form is loaded, shown and unloaded once; to show it again, make a new one. Its event handlers
+/// are the members that begin with Form_.
 class Form {
  public:
-  /// `name` is the name of the form in the code: "frmPSLayoutABC".
+  /// Makes a form. `name` is the name of the form in the code, such as "frmPSLayoutABC".
   explicit Form(const char* name);
   virtual ~Form() = default;
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
 
+  /// The name of the form in the code.
   const std::string& Name() const { return name_; }
-  /// Differs for all forms of a program, those that are gone included.
+  /// An id that is unique among all forms of the program, including destroyed ones.
   std::uint64_t Id() const { return id_; }
 
+  /// The title of the window.
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string value);
-  /// Whether the form is on the screen.
+  /// Whether the form is shown.
   bool Visible() const { return visible_; }
-  /// The window's handle, for those who draw the form; 0 where there is no window.
+  /// The handle of the window, which the view sets; 0 if there is no window.
   std::intptr_t hWnd = 0;
+  /// The font of the form.
   forms::Font& Font() { return font_; }
 
-  /// In tab order.
+  /// The controls in tab order.
   const std::vector<Control*>& Controls() const { return controls_; }
-  /// By its full name ("optType(1)"); null if there is none.
+  /// Returns a control by its full name ("optType(1)"), or null if there is none.
   Control* FindControl(std::string_view fullName) const;
-  /// How the controls lie. Without a layout of its own a form has them one below the other.
+  /// The layout of the controls. By default the controls are below each other.
   virtual forms::Layout Layout() const;
-  /// The control that has the focus; null while none has.
+  /// The control with the focus, or null if none has it.
   Control* ActiveControl() const { return activeControl_; }
 
-  /// Raises Form_Load, at the first call only.
+  /// Raises Form_Load at the first call.
   void Load();
-  /// Raises Form_Unload, at the first call only, and takes the form off the screen for good.
+  /// Raises Form_Unload at the first call and hides the form for good.
   void Unload();
-  /// Takes the form off the screen. That ends its modal show.
+  /// Hides the form. This ends its modal show.
   void Hide();
+  /// Whether the form was unloaded.
   bool IsUnloaded() const { return unloaded_; }
 
-  /// A hand closes the window.
+  /// Handles the closing of the window by the user.
   void UserClose() { Unload(); }
-  /// A hand presses Enter: a text of several lines takes it for itself, else it presses the default button
-  /// without moving the focus. The control of the focus raises Validate first, so that a text that is being
-  /// typed isn't lost. False if there is no such button, or it can't be pressed.
+  /// Handles the Enter key. A multi-line text box processes the key itself; otherwise the default button is
+  /// pressed and the focus doesn't move. The control with the focus raises Validate first, so that typed text
+  /// isn't lost. Returns false if there is no such button or it can't be pressed.
   bool UserEnter();
-  /// A hand presses Escape: the cancel button is pressed, and the focus stays.
+  /// Handles the Escape key: presses the cancel button without moving the focus.
   bool UserEscape();
-  /// A hand presses F1: the button cmdHelp is pressed, and the focus stays.
+  /// Handles the F1 key: presses the button cmdHelp without moving the focus.
   bool UserHelp();
 
-  /// Grows with each change of the form's own properties.
+  /// A counter that increases with each change of the form's own properties.
   std::uint64_t Changes() const { return changes_; }
 
  protected:
@@ -73,8 +77,8 @@ class Form {
   friend class Control;
   friend class ModalLoop;
 
-  /// The form comes to the screen. Where its event leaves the focus nowhere, the first control in tab order
-  /// that can have it gets it.
+  /// Shows the form. If its event doesn't set the focus, the first control in tab order that can have the
+  /// focus gets it.
   void Activate();
   void Deactivate() { Form_Deactivate(); }
   void MoveFocus(Control& control);

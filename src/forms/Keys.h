@@ -4,26 +4,26 @@
 
 namespace plotsmith::forms {
 
-/// The keys that a form takes for itself, wherever its focus is.
+/// The keys that a form processes itself, independent of the focus.
 enum class Key { kOther, kEnter, kEscape, kHelp };
 
-/// A press of a key, as every toolkit tells it.
+/// A key press, as toolkits report it.
 struct KeyPress {
   Key key = Key::kOther;
   bool withAlt = false;
-  bool isRepeated = false;  ///< the key is held down, and this isn't the first press that came of it
+  bool isRepeated = false;  ///< Whether this press is an automatic repetition of a held key.
 };
 
-/// Whether the control is a text of several lines, in which Enter ends a line.
+/// Returns true if the control is a multi-line text box, in which Enter ends a line.
 bool TakesEnter(const Control* control);
 
-/// Whether the press must do nothing. A key that is held down counts once where it would press one button
-/// after the other: Enter and Escape, and all keys together with Alt. `isInLines` is whether the focus is in
-/// a text of several lines.
+/// Returns true if the press must be ignored. A held key counts only once if its repetitions would press one
+/// button after another: Enter and Escape, and all keys together with Alt. `isInLines` is true if the focus
+/// is in a multi-line text box.
 bool IsHeldKey(const KeyPress& press, bool isInLines);
 
-/// The gesture of a key that the form takes for itself: the default button, the cancel button or the help
-/// button is pressed. False for other keys, and where there is no such button or it can't be pressed.
+/// Performs the action of a key that the form processes: presses the default button, the cancel button or the
+/// help button. Returns false for other keys, and if there is no such button or it can't be pressed.
 bool UserKey(Form& form, Key key);
 
 }  // namespace plotsmith::forms

@@ -10,30 +10,32 @@
 
 namespace plotsmith::forms {
 
-/// What a combo box and a list box have in common: entries, of which one may be the current one.
+/// The base class of combo boxes and list boxes: entries, of which one can be the current entry.
 class EntryList : public FontControl {
  public:
   EntryList(Form& form, const char* name, Control* container) : FontControl(form, name, container) {
     SetBackColor(kWhite);
   }
 
+  /// The number of entries.
   std::int32_t ListCount() const { return static_cast<std::int32_t>(list_.size()); }
-  /// The text of an entry, from 0; empty outside of the list.
+  /// Returns the text of an entry, counted from 0. It is empty if the index is out of range.
   std::string List(std::int32_t index) const;
-  /// From 0; -1 while no entry is the current one.
+  /// The index of the current entry, counted from 0, or -1 if there is none.
   std::int32_t ListIndex() const { return listIndex_; }
-  /// Raises Click where the entry is another one than before, for -1 as well. Error 380 beyond the list.
+  /// Sets the current entry; -1 means none. Raises Click if it changes. Raises error 380 if the index is out
+  /// of range.
   void SetListIndex(std::int32_t index);
-  /// Puts an entry before the one at `at`, or at the end. The current entry stays the same one. Raises
-  /// nothing.
+  /// Inserts an entry before index `at`, or at the end. The current entry doesn't change. Raises no event.
   virtual void AddItem(std::string_view text, std::optional<std::int32_t> at = std::nullopt);
-  /// Takes all entries away. Raises nothing.
+  /// Removes all entries. Raises no event.
   virtual void Clear();
 
+  /// Raised when the current entry or the selection changes.
   Event Click;
 
  protected:
-  /// The entry becomes the current one; `index` is in the list.
+  /// Makes an entry the current one. `index` is in range.
   virtual void ShowEntry(std::int32_t index) { listIndex_ = index; }
   const char* KindText() const override { return "list"; }
 
@@ -41,31 +43,33 @@ class EntryList : public FontControl {
   std::int32_t listIndex_ = -1;
 };
 
-/// What can be done to the text of a combo box.
+/// Whether the user can type into a combo box.
 enum class ComboStyle {
-  kDropDownCombo,  ///< it can be typed too
-  kDropDownList,   ///< it is one of the entries
+  kDropDownCombo,  ///< The user can select an entry or type a text.
+  kDropDownList,   ///< The user can only select an entry.
 };
 
-/// A list that opens from a box.
+/// A combo box: a text box with a drop-down list.
 class ComboBox : public EntryList {
  public:
   ComboBox(Form& form, const char* name, Control* container, ComboStyle style)
       : EntryList(form, name, container), style_(style) {}
   const char* TypeName() const override { return "ComboBox"; }
 
+  /// The style, which is fixed.
   ComboStyle Style() const { return style_; }
-  /// The text in the box: that of the current entry, or what was typed.
+  /// The text in the box: the text of the current entry, or the typed text.
   std::string Text() const;
-  /// Raises nothing. Error 383 where the text can't be typed.
+  /// Sets the text. Raises no event. Raises error 383 if the style doesn't allow typing.
   void SetText(std::string_view value);
   void Clear() override;
 
-  /// Chooses an entry, from 0; raises Click, for the entry that is the current one as well.
+  /// Handles the selection of an entry by the user. `index` counts from 0. Raises Click, also for the current
+  /// entry. Returns false if the user can't use the control.
   bool UserChoose(std::int32_t index);
-  /// Why a hand can't type the text, as the end of a sentence; empty if it can.
+  /// Returns why the user can't type the text, as the end of a sentence. It is empty if the user can.
   std::string ObstacleTo(std::string_view text) const;
-  /// Types over the text.
+  /// Handles typing by the user, which replaces the text. Returns false if the user can't type it.
   bool UserType(std::string_view text);
 
  protected:
@@ -73,34 +77,37 @@ class ComboBox : public EntryList {
 
  private:
   ComboStyle style_;
-  std::string text_;  ///< of a box that can be typed into
+  std::string text_;  ///< The text of a combo box with typing.
 };
 
-/// How many entries of a list box, or rows of a grid, can be selected at once.
+/// Whether several entries of a list box, or rows of a grid, can be selected.
 enum class MultiSelect {
-  kNone,      ///< one
-  kExtended,  ///< several, with Shift and Control
+  kNone,      ///< Only one.
+  kExtended,  ///< Several, with Shift and Control.
 };
 
-/// A list that is open.
+/// A list box.
 class ListBox : public EntryList {
  public:
   ListBox(Form& form, const char* name, Control* container, forms::MultiSelect multiSelect)
       : EntryList(form, name, container), multiSelect_(multiSelect) {}
   const char* TypeName() const override { return "ListBox"; }
 
+  /// Whether several entries can be selected; fixed.
   forms::MultiSelect MultiSelect() const { return multiSelect_; }
-  /// The current entry's text; empty without one.
+  /// The text of the current entry, or empty if there is none.
   std::string Text() const { return List(ListIndex()); }
-  /// Whether the entry is selected; from 0. Error 380 outside of the list.
+  /// Returns true if the entry is selected. `index` counts from 0. Raises error 380 if it is out of range.
   bool Selected(std::int32_t index) const;
-  /// Raises nothing.
+  /// Selects or deselects an entry. Raises no event.
   void SetSelected(std::int32_t index, bool value);
+  /// The number of selected entries.
   std::int32_t SelCount() const;
   void AddItem(std::string_view text, std::optional<std::int32_t> at = std::nullopt) override;
   void Clear() override;
 
-  /// Selects these entries, from 0, and no others; raises Click once.
+  /// Handles a selection by the user: exactly these entries, counted from 0. Raises Click once. Returns false
+  /// if the user can't use the control.
   bool UserSelect(const std::vector<std::int32_t>& indices);
 
  protected:

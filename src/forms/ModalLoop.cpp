@@ -17,7 +17,7 @@ std::vector<Timer*> TimersOf(const Form& form) {
   return timers;
 }
 
-/// Raises the ticks that are due; true if there were any.
+/// Raises the due ticks. Returns true if there were any.
 bool FireDueTimers(const Form& form) {
   bool fired = false;
   for (Timer* timer : TimersOf(form)) {
@@ -40,7 +40,7 @@ std::optional<std::chrono::milliseconds> UntilNextTick(const Form& form) {
 
 }  // namespace
 
-/// A form on the screen, for as long as this lives.
+/// Shows a form while it exists.
 class ModalLoop::Shown {
  public:
   Shown(ModalLoop& loop, const std::shared_ptr<Form>& form) : loop_(loop) {
@@ -61,7 +61,7 @@ class ModalLoop::Shown {
   ModalLoop& loop_;
 };
 
-// The form is kept by value: an event of the form may put another one into the variable that it came from.
+// The form is passed by value, because an event of the form may assign another form to the caller's variable.
 void ModalLoop::ShowModal(std::shared_ptr<Form> form) {
   if (shown_.size() >= kMostForms) throw runtime::RuntimeError(runtime::error::kOutOfStackSpace);
   form->Load();

@@ -12,15 +12,17 @@
 
 namespace plotsmith::forms {
 
-/// What hands did to forms, in the order in which they did it. A view never calls into a form from a callback
-/// of its toolkit: it posts the gesture here, and the loop performs it. So no exception of a form passes
-/// through the frames of a toolkit, and a form may go inside of its own event.
+/// The queue of user actions on forms, in the order in which they occurred. A view never calls a form from a
+/// callback of its toolkit. It posts the action to the queue, and the loop performs it. Therefore no
+/// exception of a form passes through the stack frames of a toolkit, and a form can be destroyed during its
+/// own event.
 class EventQueue {
  public:
-  /// `gesture` calls one of the members that begin with User.
+  /// Adds an action on a form. `gesture` calls one of the members that begin with User.
   void Post(const Form& form, std::function<void()> gesture) {
     events_.push_back({form.Id(), std::move(gesture)});
   }
+  /// Returns true if no action is waiting.
   bool IsEmpty() const { return events_.empty(); }
 
  private:
@@ -32,41 +34,42 @@ class EventQueue {
   std::deque<Entry> events_;
 };
 
-/// What shows forms and watches hands: windows of a toolkit, or a script. Its members throw nothing. A form
-/// that was unloaded isn't Visible any more, and must not be seen, but it is closed only when its last event
-/// has returned; the next form has been opened by then.
+/// Shows forms and reports the actions of the user. Implementations are windows of a toolkit, or a script.
+/// Its members throw no exceptions. An unloaded form is no longer Visible and must not be shown. It is closed
+/// only after its last event has returned, when the next form may already be open.
 class View {
  public:
   virtual ~View() = default;
 
-  /// The form comes to the screen, in front of all others.
+  /// Shows a form in front of all others.
   virtual void Open(Form& form) = 0;
-  /// The form, which was opened last, goes from the screen.
+  /// Closes the form that was opened last.
   virtual void Close(Form& form) = 0;
-  /// Shows what has changed, then blocks until something was posted, but no longer than `atMost` if that is
-  /// given. Posting nothing at all, for ever, means to hang.
+  /// Shows the changes, then waits until an action was posted, but at most `atMost` if given. The program
+  /// hangs if no action is ever posted.
   virtual void Wait(EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) = 0;
-  /// Shows what has changed and posts what hands did meanwhile, without blocking.
+  /// Shows the changes and posts the actions of the user since the last call, without waiting.
   virtual void HandleEvents(EventQueue& queue) = 0;
 };
 
-/// The one loop that runs all modal forms. Forms nest: an event of one may show the next one.
+/// The loop that runs all modal forms. Forms can nest: an event of a form may show another form.
 class ModalLoop {
  public:
+  /// Makes a loop that shows its forms in `view`.
   explicit ModalLoop(std::shared_ptr<View> view) : view_(std::move(view)) {}
 
-  /// How many forms can nest. Each step of a wizard, forth or back, is one more, and takes some of the stack.
+  /// The maximum depth of nested forms. Each step of a wizard, forward or back, adds one level and uses stack
+  /// space.
   static constexpr std::size_t kMostForms = 500;
 
-  /// Loads a form, if it isn't loaded yet, and shows it in front of the others. Returns when the form has
-  /// gone from the screen; an error of one of its events ends the show and goes to the caller. Gestures on a
-  /// form that isn't the one in front are dropped.
-  /// Error 28 where too many forms are shown already.
+  /// Loads a form if necessary and shows it in front of the others. Returns when the form was hidden or
+  /// unloaded. An error in one of its events ends the show and is passed to the caller. Actions on other
+  /// forms are discarded. Raises error 28 if too many forms are open.
   void ShowModal(std::shared_ptr<Form> form);
-  /// Lets the view work, and timers of the form in front tick, in the middle of an event. Gestures wait until
-  /// that event is over.
+  /// Lets the view and the timers of the front form work during an event. Actions of the user wait until the
+  /// event is over.
   void DoEvents();
-  /// The form in front; null while none is shown.
+  /// The front form, or null if no form is shown.
   Form* Front() const { return shown_.empty() ? nullptr : shown_.back().get(); }
 
  private:

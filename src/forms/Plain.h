@@ -10,7 +10,7 @@
 
 namespace plotsmith::forms {
 
-/// A text that is only read.
+/// A label: a text that the user can't edit.
 class Label : public CaptionControl {
  public:
   using CaptionControl::CaptionControl;
@@ -20,17 +20,19 @@ class Label : public CaptionControl {
   bool TakesFocus() const override { return false; }
 };
 
-/// A box with a title around other controls.
+/// A frame around other controls, with a title.
 class Frame : public CaptionControl {
  public:
+  /// The values of Appearance.
   static constexpr std::int32_t kFlat = 0, k3D = 1;
 
   using CaptionControl::CaptionControl;
   const char* TypeName() const override { return "Frame"; }
 
+  /// Whether the title is bold.
   bool FontBold() const { return bold_; }
   void SetFontBold(bool value);
-  /// kFlat or k3D.
+  /// The look of the border: kFlat or k3D.
   ///@{
   std::int32_t Appearance() const { return appearance_; }
   void SetAppearance(std::int32_t value);
@@ -44,26 +46,28 @@ class Frame : public CaptionControl {
   std::int32_t appearance_ = k3D;
 };
 
-/// A sample picture. Its drawing is known by the control's name.
+/// A sample picture. The name of the control identifies the drawing.
 class Image : public Control {
  public:
   using Control::Control;
   const char* TypeName() const override { return "Image"; }
 
  protected:
-  /// The name in words, "Sample: column stack" for imgColumnStack.
+  /// The name in words, such as "Sample: column stack" for imgColumnStack.
   std::string CaptionText() const override;
   bool TakesFocus() const override { return false; }
 };
 
-/// A bar that fills up.
+/// A progress bar.
 class ProgressBar : public Control {
  public:
+  /// The limits of Value.
   static constexpr std::int32_t kMin = 0, kMax = 100;
 
   using Control::Control;
   const char* TypeName() const override { return "ProgressBar"; }
 
+  /// The progress, from kMin to kMax. Values out of range are set to the nearest limit.
   std::int32_t Value() const { return value_; }
   void SetValue(std::int32_t value);
 

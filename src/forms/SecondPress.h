@@ -7,21 +7,22 @@
 
 namespace plotsmith::forms {
 
-/// Knows the last press of the mouse on a button of any form. The second half of a double click on a button
-/// that opens the next page must not press the button of that page which happens to lie below the pointer.
+/// Recognizes the second press of a double click on buttons. If the first press opens the next page, the
+/// second press must not reach a button of that page at the same position.
 class SecondPress {
  public:
+  /// A press of a mouse button.
   struct Press {
-    std::uint64_t time;  ///< milliseconds, by the events' own clock
-    int x, y;            ///< pixels on the screen
+    std::uint64_t time;  ///< The time of the event in milliseconds.
+    int x, y;            ///< The position on the screen in pixels.
   };
-  /// What the person has set for double clicks.
+  /// The user's settings for double clicks.
   struct Reach {
-    std::uint64_t time;  ///< milliseconds
-    int distance;        ///< pixels
+    std::uint64_t time;  ///< The maximum time between the presses in milliseconds.
+    int distance;        ///< The maximum distance between the presses in pixels.
   };
 
-  /// Notes a press, and tells whether it belongs to the one before it.
+  /// Stores a press. Returns true if it forms a double click with the previous press.
   bool Note(const Press& press, const Reach& reach) {
     const auto last = std::exchange(last_, press);
     return last && press.time - last->time < reach.time &&

@@ -8,10 +8,10 @@
 
 namespace plotsmith::forms {
 
-/// Where a text is in its box.
+/// The alignment of a text in its box.
 enum class Alignment { kLeft, kCenter };
 
-/// A text to edit. Lines end in CR LF.
+/// A text box. Lines end with CR LF.
 class TextBox : public FontControl {
  public:
   TextBox(Form& form, const char* name, Control* container) : FontControl(form, name, container) {
@@ -19,28 +19,31 @@ class TextBox : public FontControl {
   }
   const char* TypeName() const override { return "TextBox"; }
 
+  /// The text.
   const std::string& Text() const { return text_; }
-  /// Raises nothing.
+  /// Sets the text. Raises no event.
   void SetText(std::string_view value);
 
-  /// How many UTF-16 units a hand can type; 0 is no limit.
+  /// The maximum number of UTF-16 units that the user can type; 0 means no limit.
   ///@{
   std::size_t MaxLength() const { return maxLength_; }
   void SetMaxLength(std::size_t value) { maxLength_ = value; }
   ///@}
 
-  /// Whether the text can have several lines, so that Enter ends a line.
+  /// Whether the text can have several lines. Enter then ends a line.
   ///@{
   bool MultiLine() const { return multiLine_; }
   void SetMultiLine(bool value) { multiLine_ = value; }
   ///@}
 
+  /// The alignment of the text.
   forms::Alignment Alignment() const { return alignment_; }
   void SetAlignment(forms::Alignment value) { alignment_ = value; }
 
-  /// Why a hand can't type the text, as the end of a sentence; empty if it can.
+  /// Returns why the user can't type the text, as the end of a sentence. It is empty if the user can.
   std::string ObstacleTo(std::string_view text) const;
-  /// Replaces the text. Line ends of any kind become CR LF.
+  /// Handles typing by the user, which replaces the text. All line ends become CR LF. Returns false if the
+  /// user can't type the text.
   bool UserType(std::string_view text);
 
  protected:
@@ -53,15 +56,15 @@ class TextBox : public FontControl {
   forms::Alignment alignment_ = Alignment::kLeft;
 };
 
-/// Whether the text has characters that a keyboard can't type into a box, and XML can't hold. Tabs and line
-/// ends are none.
+/// Returns true if the text has control characters, which can't be typed and can't be stored in XML. Tabs and
+/// line ends don't count as control characters here.
 bool HasControlCharacters(std::string_view text);
 
-/// Replaces by blanks what a hand can't have typed: control characters other than those allowed, and half of
-/// a character of two UTF-16 units, which is left where there was no room for the whole.
+/// Replaces characters that a user can't have typed with blanks: control characters except those in
+/// `allowed`, and half of a surrogate pair, which is left if there was no space for both halves.
 void ReplaceUntypeable(std::u16string& text, std::u16string_view allowed);
 
-/// The text with every line end (CR LF, CR or LF) replaced by `lineEnd`.
+/// Returns the text with every line end (CR LF, CR or LF) replaced by `lineEnd`.
 std::string WithLineEnds(std::string_view text, std::string_view lineEnd);
 
 }  // namespace plotsmith::forms

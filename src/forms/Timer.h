@@ -8,36 +8,39 @@
 
 namespace plotsmith::forms {
 
-/// What raises an event again and again while it is on. Ticks come where events are handled, and none is made
-/// up for.
+/// A timer, which raises an event repeatedly while it is enabled. Ticks occur only while events are handled;
+/// missed ticks are not repeated.
 class Timer : public Control {
  public:
   using Clock = std::chrono::steady_clock;
 
+  /// Makes a timer on a form.
   Timer(Form& form, const char* name, bool enabled) : Control(form, name, nullptr) {
     Control::SetEnabled(enabled);
   }
   const char* TypeName() const override { return "Timer"; }
 
-  /// Milliseconds between two ticks.
+  /// The time between two ticks in milliseconds.
   ///@{
   std::int32_t Interval() const { return interval_; }
   void SetInterval(std::int32_t milliseconds) { interval_ = milliseconds; }
   ///@}
+  /// Enables or disables the timer. Enabling starts a new interval.
   void SetEnabled(bool value) {
     Control::SetEnabled(value);
     if (value) started_ = Clock::now();
   }
 
+  /// Raised at the end of each interval.
   Event Tick;
 
-  /// How long until the next tick is due; zero or less when it is, absent while the timer is off.
+  /// The time until the next tick: zero or negative if it is due, absent if the timer is disabled.
   std::optional<std::chrono::milliseconds> UntilDue() const {
     if (!Enabled() || interval_ <= 0) return std::nullopt;
     return std::chrono::ceil<std::chrono::milliseconds>(started_ + std::chrono::milliseconds(interval_) -
                                                         Clock::now());
   }
-  /// Raises Tick and starts the interval anew.
+  /// Raises Tick and starts a new interval.
   void Fire() {
     started_ = Clock::now();
     Raise(Tick);

@@ -6,7 +6,7 @@
 
 namespace plotsmith::forms {
 
-/// Forms without a screen and without a hand: a form that waits for a gesture is closed.
+/// A view without a screen and without a user. It closes every form that waits for an action.
 class UnattendedView final : public View {
  public:
   void Open(Form& form) override { open_.push_back(&form); }

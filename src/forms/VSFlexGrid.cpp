@@ -14,10 +14,10 @@ using runtime::RuntimeError;
 
 namespace {
 
-/// What a cell is sorted by: the number first, where numbers count.
+/// The sort key of a cell. Numbers come first if they are compared by value.
 struct SortKey {
   std::optional<double> number;
-  std::string text;  ///< in upper case
+  std::string text;  ///< The text in upper case.
 
   bool operator<(const SortKey& other) const {
     if (number.has_value() != other.number.has_value()) return number.has_value();

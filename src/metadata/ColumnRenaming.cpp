@@ -14,13 +14,13 @@ using dom::IXMLDOMElement;
 
 namespace {
 
-/// `newName` is only asked for where the old name is found.
+/// `newName` is called only if the old name is found.
 template <class NewName>
 void RenameColumn(const dom::IXMLDOMDocument2& oDoc, const std::string& sOld, const NewName& newName) {
   for (IXMLDOMElement oColumn : oDoc.selectNodes("//column")) {
     if (GetAttributeText(oColumn, "name") == sOld) oColumn.setAttribute("name", newName());
-    // The axes are looked at for each column, so that a definition without columns keeps its labels. A label
-    // that the user typed is sticky and stays.
+    // The axes are updated for each column, so a definition without columns keeps its labels. A label that
+    // the user typed is sticky and doesn't change.
     for (IXMLDOMElement oAxis : oDoc.selectNodes("//axis")) {
       const std::string sType = GetAttributeText(oAxis, "type");
       if ((sType == "value" || sType == "label") && GetAttributeText(oAxis, "label") == sOld &&

@@ -3,11 +3,11 @@
 #include <string>
 #include <vector>
 
-/// Module PSFunctions: the names of columns in definitions.
+/// Module PSFunctions: renaming columns in definitions.
 namespace plotsmith {
 
-/// Carries a renaming of columns of one table into all definitions and saves them. The names are taken in
-/// order, and a new name is visible to those behind it.
+/// Renames columns of one table in all definitions and saves them. The names are processed in order, so a
+/// column that was renamed can be renamed again by a later pair.
 void UpdateChartColumnNames(const std::string& sTableRangeName,
                             const std::vector<std::string>& aOldColumnNames,
                             const std::vector<std::string>& aNewColumnNames);

@@ -16,7 +16,7 @@ using runtime::Ref;
 
 namespace {
 
-/// The first row of the data sheet that a series' formula refers to; 0 if it refers to none.
+/// Returns the first row of the data sheet in the formula of a series, or 0 if it refers to no row.
 std::int32_t DataRowOf(std::string_view sFormula) {
   const std::string sSheet = std::string(kDataSheet) + "!$";
   const auto lAt = sFormula.find(sSheet);
@@ -29,7 +29,7 @@ std::int32_t DataRowOf(std::string_view sFormula) {
   return lResult;
 }
 
-/// The id beside the rows that the chart shows.
+/// Returns the id in column A of the rows that the chart shows.
 std::string ShownID(const Ref<excel::Chart>& oChart, excel::Worksheet& oDataSheet) {
   const auto oSeriesCollection = oChart->SeriesCollection();
   if (oSeriesCollection->Count() == 0) return "";
@@ -43,7 +43,7 @@ bool IsUnmarked(excel::Shape& oShape, std::int32_t lType) {
   return oShape.Type() == lType && oShape.AlternativeText().empty();
 }
 
-/// The kind of a shape can't be changed, so a new text box takes the place of the rectangle.
+/// Replaces a rectangle by a text box, because the type of a shape can't be changed.
 Ref<excel::Shape> ReplaceByTextBox(const Ref<excel::Shapes>& oShapes, const Ref<excel::Shape>& oRectangle,
                                    const std::string& sText) {
   const auto oBox = oShapes->AddTextbox(excel::msoTextOrientationHorizontal, oRectangle->Left(),

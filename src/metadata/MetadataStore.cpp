@@ -27,15 +27,15 @@ namespace {
 constexpr std::int32_t kFirstDefinitionRow = 2;
 constexpr const char* kSchemaVersion = "2";
 
-/// A row of the sheet as it was last read.
+/// A row of the sheet, as it was read last.
 struct ReadRow {
   std::string sText;
   bool bParses = false;
   std::string sID;
 };
 
-/// Each save walks the rows before its own. What they hold is kept beside their texts, from the load or the
-/// save on, so that a row is only parsed again when something else has changed its text.
+/// A cache of the parsed rows. Each save reads the rows above its own row. The cache keeps their contents
+/// beside their texts from the load or the save, so a row is parsed again only if its text has changed.
 std::vector<ReadRow> aReadRows;
 
 ReadRow& ReadRowAt(std::int32_t lRow) {
@@ -56,13 +56,14 @@ bool RowHoldsChart(std::int32_t lRow, const std::string& sText, const std::strin
   return oRow.bParses && oRow.sID == sID;
 }
 
-/// Whether a program dropped the box of a chart that has a comment: then no person has deleted the comment.
+/// Returns true if a program has dropped the box of a chart with a comment, so that no person has deleted the
+/// comment.
 bool CommentBoxWasDropped(const IXMLDOMElement& oChart) {
   return !GetChildText(oChart, "comment").empty() && LossesOfLastSave().bTextBoxes;
 }
 
-/// Loads one row; False if it has no place on the sheet any more. A null `oUnmarked` looks for no chart that
-/// has lost its marker.
+/// Loads a row. Returns false if the row must be removed from the sheet. If `oUnmarked` is null, charts
+/// without an alternative text are not searched.
 bool LoadChartDefinition(std::int32_t lRow, const std::string& sText, UnmarkedCharts* oUnmarked) {
   auto oDoc = NewXMLDocument();
   if (!oDoc.loadXML(sText)) return false;
@@ -113,8 +114,8 @@ constexpr std::int32_t Rgb(std::int32_t lRed, std::int32_t lGreen, std::int32_t 
 void RetrieveChartDefinitions() {
   ReportErrors("PSFunctions.RetrieveChartDefinitions", [] {
     aReadRows.clear();
-    // Only a deletion makes a run load the definitions again. What it has deleted must not be found again in
-    // a copy of the chart.
+    // A run loads the definitions again only after a deletion. A deleted chart must not be found again in its
+    // copy.
     const bool bReload = static_cast<bool>(colChartObjects);
     colCharts = runtime::MakeRef<DocumentCollection>();
     colChartObjects = runtime::MakeRef<runtime::Collection<Ref<excel::Chart>>>();
@@ -132,7 +133,7 @@ void RetrieveChartDefinitions() {
       for (std::int32_t lRow = kFirstDefinitionRow;;) {
         const std::string sText = runtime::CStr(GetCellValue(*oSheet, lRow, 1, cell::kString));
         if (sText.empty()) break;
-        // whatever goes wrong with a row is that row's fault
+        // An error in a row concerns only that row.
         const bool bLoaded =
             ValueOr(false, [&] { return LoadChartDefinition(lRow, sText, bReload ? nullptr : &oUnmarked); });
         if (bLoaded || !DeleteSheetRow(oSheet, lRow)) ++lRow;
@@ -212,7 +213,7 @@ std::string GetTableSheetName(const std::string& sID) {
 
 void EnsureWorkbookPalette() {
   constexpr std::int32_t kFirst = 17;
-  // The third number of the first is more than a colour holds; what counts is the clamped value.
+  // The third number of the first colour exceeds the range of a colour. The clamped value is used.
   constexpr std::array<std::int32_t, 6> kDefaults = {Rgb(153, 153, 256), Rgb(153, 51, 102),
                                                      Rgb(255, 255, 204), Rgb(204, 255, 255),
                                                      Rgb(102, 0, 102),   Rgb(255, 128, 128)};

@@ -6,35 +6,37 @@
 #include "host/excel/Excel.h"
 #include "runtime/Ref.h"
 
-/// Module PSFunctions: the chart definitions on their very hidden sheet, one document a row, and the charts
-/// and comment boxes that they belong to. The link is the alternative text of the shape, which holds the
-/// chart's id, so that it survives when a user moves or renames the shape.
+/// Module PSFunctions: the chart definitions on their very hidden sheet (one document per row), and their
+/// charts and comment boxes. The alternative text of a shape contains the id of its chart, so that the
+/// connection survives when a user moves or renames the shape.
 namespace plotsmith {
 
-/// Builds `colCharts`, `colChartObjects` and `colChartShapes` from the sheet, which is made if it is missing.
-/// Each definition is corrected from its live chart; one that doesn't parse, has no chart or can't be loaded
-/// leaves the sheet without a word.
+/// Fills `colCharts`, `colChartObjects` and `colChartShapes` from the sheet, which is created if it is
+/// missing. Each definition is updated from its chart. A definition that doesn't parse, has no chart or can't
+/// be loaded is removed from the sheet without a message.
 void RetrieveChartDefinitions();
 
-/// Marks in each document of `colCharts` whether its tables still fit (`table-corrupted`).
+/// Stores in each document of `colCharts` whether its tables still fit (`table-corrupted`).
 void ValidateChartsAgainstTables();
 
-/// Writes a document to its row, or behind the last one if it is new.
+/// Writes a document to its row, or below the last row if it is new.
 void SaveChartDefinition(const dom::IXMLDOMDocument2& oDoc);
 
-/// The shape of a type (MsoShapeType) that bears the id, on one sheet; the first one wins. A definition
-/// without an id has no shape: it must not lay hands on a chart of somebody else's that has no alternative
-/// text.
+/// Returns the first shape of a type (MsoShapeType) with the id on one sheet, or Nothing. A definition
+/// without an id has no shape; otherwise it would take a foreign chart that has no alternative text.
 runtime::Ref<excel::Shape> FindShape(const runtime::Ref<excel::Worksheet>& oSheet, std::int32_t lType,
                                      const std::string& sID);
-/// The first worksheet that has the chart, or "".
+/// Returns the name of the first worksheet that contains the chart, or "".
 std::string FindChartSheet(const std::string& sID);
+/// Returns the chart with the id on a sheet, or Nothing.
 runtime::Ref<excel::Chart> FindChartObject(const std::string& sID, const std::string& sSheetName);
+/// Returns the comment box of the chart with the id on a sheet, or Nothing.
 runtime::Ref<excel::Shape> FindChartComment(const std::string& sID, const std::string& sSheetName);
-/// The sheet of a table, or "[Deleted]".
+/// Returns the name of a table's sheet, or "[Deleted]".
 std::string GetTableSheetName(const std::string& sID);
 
-/// Gives a workbook that has no chart yet, and whose palette nobody changed, the chart colours of the system.
+/// Sets the palette of the workbook to the system's chart colours if the workbook has no chart yet and its
+/// palette is unchanged.
 void EnsureWorkbookPalette();
 
 }  // namespace plotsmith

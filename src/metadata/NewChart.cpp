@@ -46,7 +46,7 @@ std::string ChartNumber(const std::string& sID) {
 }
 
 std::string NextChartID() {
-  colCharts->Count();  // error 91 if no charts are loaded, which would seem to hold every id
+  colCharts->Count();  // Raises error 91 if no charts are loaded. Otherwise every id would seem to be in use.
   for (int n = 1;; ++n) {
     std::string sID = std::string(kIdPrefix) + std::to_string(n);
     if (!CollectionHasKey(sID, colCharts)) return sID;

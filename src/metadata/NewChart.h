@@ -2,21 +2,20 @@
 
 #include <string>
 
-/// Module PSFunctions: a new chart's identity and its place in the workbook. A chart has an id, which is
-/// never shown and never changes; a name, unique ignoring case, which lists show; and a title, which stands
-/// on the chart.
+/// Module PSFunctions: the identity and the position of a new chart. A chart has an id, which is never shown
+/// and never changes; a name for lists, which is unique ignoring case; and a title, which the chart shows.
 namespace plotsmith {
 
-/// Makes `oChartDoc` for a new chart and sets `sChartID`. It is neither saved nor entered in `colCharts`
-/// here.
+/// Makes `oChartDoc` for a new chart and sets `sChartID`. The document is neither saved nor added to
+/// `colCharts`.
 void CreateChartDoc();
-/// The first id that no loaded chart holds; the number of a deleted chart is used again.
+/// Returns the first id that no loaded chart has. The number of a deleted chart is used again.
 std::string NextChartID();
-/// What follows "VEX_Chart" in an id; empty for what is no such id.
+/// Returns the part of an id after "VEX_Chart". It is empty for other texts.
 std::string ChartNumber(const std::string& sID);
-/// Whether a chart other than the one in hand has the name, ignoring case.
+/// Returns true if a chart other than the current one has the name, ignoring case.
 bool ChartNameInUse(const std::string& sName);
-/// Puts the empty frame of a new chart on a sheet and enters it in `colChartObjects`.
+/// Adds the empty frame of a new chart to a sheet and to `colChartObjects`.
 void CreateEmptyChart(const std::string& sSheetName, const std::string& sID);
 
 }  // namespace plotsmith

@@ -10,10 +10,10 @@
 namespace plotsmith {
 namespace {
 
-/// A program by what its name in the file begins with. A version follows there.
+/// A program, identified by the beginning of its name in the file. A version follows the name.
 struct Program {
   std::string_view sName;
-  double dLastVersion;  ///< the last version that is known to lose these
+  double dLastVersion;  ///< The last version that is known to have these losses.
   SavingLosses oLosses;
 };
 
@@ -23,7 +23,7 @@ constexpr Program kPrograms[] = {
     // LibreOffice 7.4 writes neither the alternative text of a shape nor the mark of a text box (txBox). It
     // keeps the shapes on charts.
     {"LibreOffice/", 7.4, {.bAlternativeTexts = true, .bTextBoxKind = true}},
-    // openpyxl makes the frames of charts anew, and reads no shapes at all.
+    // openpyxl creates the frames of charts again and doesn't read shapes.
     {"openpyxl ", kAllVersions, {.bAlternativeTexts = true, .bTextBoxes = true, .bShapesOnCharts = true}},
     {"Microsoft Excel Compatible / Openpyxl ",
      kAllVersions,

@@ -1,19 +1,19 @@
 #pragma once
 
-/// Charts and comment boxes belong to a definition by its id in their alternative text. Some programs lose
-/// such things when they save a workbook. What is missing in a file of theirs was not taken away by a person;
-/// in any other file it was.
+/// A chart or comment box is connected to its definition by the id in its alternative text. Some programs
+/// lose such information when they save a workbook. If it is missing in a file of such a program, no person
+/// has removed it; in any other file, a person has.
 namespace plotsmith {
 
-/// What a program does to a workbook when it saves it.
+/// The information that a program loses when it saves a workbook.
 struct SavingLosses {
-  bool bAlternativeTexts = false;  ///< No shape has an alternative text afterwards.
-  bool bTextBoxes = false;         ///< All text boxes on the sheets are gone.
-  bool bTextBoxKind = false;       ///< Text boxes have become rectangles with a text.
-  bool bShapesOnCharts = false;    ///< All shapes on charts are gone.
+  bool bAlternativeTexts = false;  ///< All alternative texts of shapes.
+  bool bTextBoxes = false;         ///< All text boxes on sheets.
+  bool bTextBoxKind = false;       ///< The type of text boxes, which become rectangles with text.
+  bool bShapesOnCharts = false;    ///< All shapes on charts.
 };
 
-/// What the program loses that saved `oWorkbook` last; nothing for a program that isn't known to lose any.
+/// Returns the losses of the program that saved `oWorkbook` last. Unknown programs lose nothing.
 SavingLosses LossesOfLastSave();
 
 }  // namespace plotsmith

@@ -20,7 +20,7 @@ constexpr std::array<std::string_view, 2> kTableNamePrefixes = {"VEX_TableRange"
 constexpr std::array<std::string_view, 5> kDataSheets = {"Data1", "Data2", "Data3", "Data4", "Data5"};
 constexpr std::int32_t kRangeHeaderRows = 3;
 
-/// A table document under construction: the columns are appended and counted as they come.
+/// Builds a table document. It appends and counts the columns.
 class TableBuilder {
  public:
   TableBuilder() : oTable_(oDoc_.createElement("table")) {}
@@ -53,7 +53,7 @@ class TableBuilder {
 
 }  // namespace
 
-// A name of one sheet bears that sheet's name in front, which may begin as a table's does.
+// A name that belongs to one sheet begins with the sheet's name, which may begin like the name of a table.
 bool NamesTable(std::string_view sName) {
   if (sName.find('!') != std::string_view::npos) return false;
   for (const std::string_view sPrefix : kTableNamePrefixes) {
@@ -122,8 +122,8 @@ IXMLDOMDocument2 GetTableDefinitionAsXML(const std::string& sTableRangeName) {
     oTable.Set("table-height", lHeight);
     oTable.Set("header-row-count", kRangeHeaderRows);
 
-    // Only the rows come from the name. The width is the used area's, counted from the table's left edge, so
-    // that columns added beside the range belong to the table.
+    // Only the rows come from the name. The width comes from the used range, counted from the table's left
+    // edge, so that columns added beside the range belong to the table.
     const auto oSheet = oWorkbook->Worksheets()->Item(sSheet);
     const std::int32_t lWidth = oSheet->UsedRange()->Columns()->Count();
     std::string sBucketName, sBucketValue;
@@ -186,7 +186,7 @@ IXMLDOMElement GetColumnDefinitionAsXML(const Ref<excel::Worksheet>& oSheet, std
       const excel::CellValue vValue = oCells.CellValueAt(lRow, lColumn);
       bNumber = !IsLabelValue(vValue);
       if (vValue.kind != excel::CellValue::Kind::kEmpty) continue;
-      // blanks change nothing, and there may be a million of them
+      // Blank cells don't matter, and there may be a million of them.
       const std::int32_t lNext = oCells.NextRowAt(lRow, lColumn);
       if (lNext == 0) break;
       lRow = lNext - 1;
@@ -202,7 +202,7 @@ IXMLDOMElement GetColumnDefinitionAsXML(const Ref<excel::Worksheet>& oSheet, std
 std::string SheetNameFromRefersTo(const Ref<excel::DefinedName>& oName) {
   return ValueOr(std::string(), [&] {
     const std::string sText = oName->RefersTo();
-    oName->RefersToRange()->Cells(1, 1);  // fails for a name that is no range
+    oName->RefersToRange()->Cells(1, 1);  // This fails for a name that isn't a range.
     std::string sSheet;
     bool bQuoted = false;
     for (std::size_t i = 1; i < sText.size(); ++i) {

@@ -131,8 +131,7 @@ void CommentBox::Restore() {
   txtComment.SetText(forms::WithLineEnds(GetChildText(ChartElement(), "comment"), kLineBreak));
 }
 
-// A document that was stored and read again has its lines end in line feeds; the one in hand has to look the
-// same.
+// A document that was stored and read has line feeds as line ends. This document must look the same.
 void CommentBox::Append() const {
   IXMLDOMElement oComment = AppendElement(ChartElement(), "comment");
   oComment.appendChild(oChartDoc.createTextNode(forms::WithLineEnds(Trimmed(txtComment.Text()), "\n")));

@@ -14,15 +14,15 @@
 #include "forms/TextBox.h"
 
 /// @file
-/// Groups of controls that several pages have, each with the behaviour that belongs to it.
+/// Groups of controls, with their behaviour, that several pages use.
 namespace plotsmith {
 
-/// Pictures of which at most one shows.
+/// A group of pictures of which at most one is visible.
 class PictureGroup {
  public:
   PictureGroup(forms::Form& oForm, forms::Control* oContainer, const std::vector<std::string>& aNames);
 
-  /// Shows the picture of that name and hides the others; an empty name hides all.
+  /// Shows the picture with that name and hides the others. An empty name hides all.
   void Show(std::string_view sName);
   const std::vector<std::unique_ptr<forms::Image>>& Images() const { return aImages_; }
 
@@ -30,7 +30,7 @@ class PictureGroup {
   std::vector<std::unique_ptr<forms::Image>> aImages_;
 };
 
-/// The sample legend of a colour choice: bright while there is one, else dim.
+/// The sample legend of a colour setting: bright if colours have a meaning, and dim otherwise.
 class LegendPictures {
  public:
   LegendPictures(forms::Form& oForm, forms::Control* oContainer)
@@ -42,24 +42,25 @@ class LegendPictures {
   PictureGroup oPictures_;
 };
 
-/// The titles of the two axes. A title fills itself from the column that the user chooses, until the user has
-/// typed into its box.
+/// The boxes for the two axis titles. A title is filled with the name of the column that the user selects,
+/// until the user has typed into its box.
 class AxisBoxes {
  public:
   AxisBoxes(forms::Form& oForm, forms::Control* oContainer);
 
-  /// Whether the horizontal axis is the label axis, as it is on all charts but bars, which lie on their side.
+  /// Whether the horizontal axis is the label axis. This is so except for bar charts.
   bool bHorizontalIsLabel = true;
 
-  /// Fills the box of the label axis, or of the value axis, unless the user has typed there.
+  /// Fills the box of the label axis or of the value axis, unless the user has typed into it.
   ///@{
   void FillLabelAxis(const std::string& sText) { Fill(bHorizontalIsLabel, sText); }
   void FillValueAxis(const std::string& sText) { Fill(!bHorizontalIsLabel, sText); }
   ///@}
 
-  /// Reads the `axis` elements of the chart.
+  /// Fills the boxes from the `axis` elements of the chart.
   void Restore();
-  /// Appends `axes` to the chart, with an `axis` for each box that isn't empty, the horizontal one first.
+  /// Appends `axes` to the chart, with an `axis` for each box that isn't empty. The horizontal axis comes
+  /// first.
   void Append() const;
 
   forms::Label lblHAxis;
@@ -73,28 +74,28 @@ class AxisBoxes {
   void AppendAxis(const dom::IXMLDOMElement& oAxes, const forms::TextBox& oBox, bool bLabel,
                   bool bSticky) const;
 
-  std::string sPriorAxisText;  ///< what the box held when it got the focus
-  bool bHAxisSticky = false;   ///< the user has edited txtHAxis
-  bool bVAxisSticky = false;   ///< the user has edited txtVAxis
+  std::string sPriorAxisText;  ///< The text of the box when it got the focus.
+  bool bHAxisSticky = false;   ///< Whether the user has edited txtHAxis.
+  bool bVAxisSticky = false;   ///< Whether the user has edited txtVAxis.
 };
 
-/// The names of the controls of a number format box, which differ from page to page.
+/// The names of the controls of a number format box. They differ between pages.
 struct NumberFormatNames {
   const char* sMaskLabel;
   const char* sMask;
   const char* sExampleLabel;
 };
 
-/// The number format of the values, with an example of what it shows.
+/// The number format of the values, with a sample number in this format.
 class NumberFormatBox {
  public:
   NumberFormatBox(forms::Form& oForm, forms::Control* oContainer, const NumberFormatNames& aNames);
 
   void FillNumberFormats();
   void ShowNumberExample();
-  /// Whether the host has refused the format.
+  /// Returns true if the host has refused the format.
   bool IsInvalid() const;
-  /// The attribute `number-format` of the chart.
+  /// Read and write the attribute `number-format` of the chart.
   ///@{
   void Restore();
   void Update() const;
@@ -106,14 +107,14 @@ class NumberFormatBox {
   forms::Label lblMaskExample;
 };
 
-/// The comment of the chart. While it has the focus, Enter ends a line instead of pressing Next.
+/// The box for the comment of the chart. While it has the focus, Enter ends a line instead of pressing Next.
 class CommentBox {
  public:
   CommentBox(forms::Form& oForm, const char* sFrameCaption);
 
-  /// Wires the box to the page's default button.
+  /// Connects the box with the page's default button.
   void Wire(forms::CommandButton& cmdNext);
-  /// The element `comment` of the chart.
+  /// Read and write the element `comment` of the chart.
   ///@{
   void Restore();
   void Append() const;
@@ -123,21 +124,21 @@ class CommentBox {
   forms::TextBox txtComment;
 };
 
-/// Switches a text, a list or a combo box on or off, with the look that goes with it.
+/// Enables or disables a text box, a list or a combo box, with the matching look.
 void SetInputEnabled(forms::Control& oControl, bool bEnabled);
-/// Puts texts at the end of a list.
+/// Appends entries to a list.
 void AddItems(forms::EntryList& oList, const std::vector<std::string>& aTexts);
-/// Puts texts into a list, behind `sFirst` if that is given, and makes the first entry the current one. Error
-/// 380 where there is none.
+/// Fills a list with entries, after `sFirst` if given, and makes the first entry current. Raises error 380 if
+/// there is no entry.
 void FillList(forms::EntryList& oList, const std::vector<std::string>& aTexts, const char* sFirst = nullptr);
-/// Makes each entry of one of these names, ignoring case, the current one in turn.
+/// Makes each entry with one of these names current, one after the other, ignoring case.
 void SelectEntries(forms::EntryList& oList, const std::vector<std::string>& aNames);
-/// The text of the current entry as a list: one text, or none.
+/// Returns the text of the current entry as a list of one text, or an empty list.
 template <class List>
 std::vector<std::string> CurrentEntry(const List& oList) {
   return oList.ListIndex() < 0 ? std::vector<std::string>() : std::vector<std::string>{oList.Text()};
 }
-/// Whether the box is ticked.
+/// Returns true if the check box is checked.
 inline bool IsChecked(const forms::CheckBox& oBox) { return oBox.Value() == forms::CheckBox::kChecked; }
 
 }  // namespace plotsmith

@@ -6,13 +6,13 @@
 
 namespace plotsmith {
 
-/// Runs an event procedure of a page with its error block: an error ends it and is shown in a plain box.
+/// Runs an event procedure of a page. An error ends the procedure and is shown in a message box.
 template <class Body>
 void RunEventProcedure(const Body& body) {
   HandleErrors(body, [](const runtime::RuntimeError& oErr) { ShowEventError(oErr); });
 }
 
-/// The same as what a control can raise.
+/// Makes an event handler that runs a procedure in this way.
 template <class Body>
 forms::Event EventProcedure(Body body) {
   return [body] { RunEventProcedure(body); };

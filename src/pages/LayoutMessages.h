@@ -2,9 +2,9 @@
 
 namespace plotsmith {
 
-/// What all layout pages with a number format say of one that the host refuses.
+/// The message for a number format that the host refuses, used by all layout pages.
 inline constexpr const char* kBadNumberFormat = "The requested number format is not supported by Excel";
-/// The first entry of a choice of colours: none.
+/// The first entry of a list of colour columns, which selects none.
 inline constexpr const char* kOneColor = "[all the same color]";
 
 }  // namespace plotsmith

@@ -14,7 +14,7 @@ namespace {
 constexpr std::size_t kLongestTitle = 255;
 constexpr double kTitleSize = 14;  // points
 
-/// The first three letters of a control's name tell its kind.
+/// Returns the first three letters of a control's name, which indicate its kind.
 std::string PrefixOf(const forms::Control& oControl) { return runtime::UCase(oControl.Name().substr(0, 3)); }
 
 bool HasMarkColor(const std::string& sPrefix) {

@@ -11,8 +11,8 @@
 
 namespace plotsmith {
 
-/// What the layout pages have in common: the chart's title, the columns of the source table, and the frame of
-/// the focus, which is marked.
+/// The base class of layout pages: the chart's title, the columns of the source table, and the marking of the
+/// frame that has the focus.
 class LayoutPage : public Page {
  public:
   bool ValidSelections() final;
@@ -23,30 +23,30 @@ class LayoutPage : public Page {
  protected:
   LayoutPage(const char* sName, Navigation& oNavigation);
 
-  /// Brings the controls into order before they are judged.
+  /// Updates the controls before they are checked.
   virtual void PrepareSelections() {}
-  /// The message of the first rule that the page breaks, or an empty text.
+  /// Returns the message for the first invalid input, or an empty text.
   virtual std::string FirstFault() const = 0;
-  /// Reads the names of the source table's columns, in the order of the sheet.
+  /// Reads the names of the source table's columns in sheet order.
   void LoadColumnNames();
-  /// Wires the buttons, and the marking of the focus to all controls. `bHelpUnmarks` says whether the help
-  /// button takes the mark away, as the other buttons do.
+  /// Connects the buttons, and the marking of the focus with all controls. `bHelpUnmarks` is true if the help
+  /// button removes the mark, as the other buttons do.
   void WireLayout(WizardButtons& oButtons, bool bHelpUnmarks);
-  /// The attribute `title` of the chart.
+  /// Fills the title box from the attribute `title` of the chart.
   ///@{
   void RestoreTitle();
   void UpdateTitle() const;
   ///@}
   void UpdateForBack() final { UpdateChartMetadata(); }
-  /// Writes the controls into `oChartDoc`.
+  /// Writes the values of the controls to `oChartDoc`.
   virtual void UpdateChartMetadata() = 0;
 
   std::vector<std::string> colLabelColumns;
   std::vector<std::string> colNumberColumns;
 };
 
-/// Marks the frame of the focus, and the captions inside of it, by colour and bold type, and takes the mark
-/// from all others. A null pointer leaves none marked.
+/// Marks the frame that has the focus, and the captions inside it, with colour and bold type, and unmarks all
+/// others. A null pointer marks none.
 void StyleFormControls(forms::Form& oForm, const forms::Control* oCurrentContainer);
 
 }  // namespace plotsmith

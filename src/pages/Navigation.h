@@ -6,18 +6,18 @@ namespace plotsmith {
 
 class Page;
 
-/// Where a move comes from.
+/// The origin of a move.
 namespace origin {
-inline constexpr std::int32_t kOutside = 1;        ///< no page: the host's call, or the controller itself
-inline constexpr std::int32_t kSelectAction = 2;   ///< the page Select Action
-inline constexpr std::int32_t kSelectTable = 3;    ///< the page Source Table
-inline constexpr std::int32_t kLayout = 4;         ///< any of the layout pages
-inline constexpr std::int32_t kChartLocation = 5;  ///< the page Chart Location
+inline constexpr std::int32_t kOutside = 1;  ///< No page: the call of the host, or the controller itself.
+inline constexpr std::int32_t kSelectAction = 2;   ///< The page Select Action.
+inline constexpr std::int32_t kSelectTable = 3;    ///< The page Source Table.
+inline constexpr std::int32_t kLayout = 4;         ///< Any layout page.
+inline constexpr std::int32_t kChartLocation = 5;  ///< The page Chart Location.
 }  // namespace origin
 
-/// What PSJumpToStep does.
+/// The steps of PSJumpToStep.
 namespace step {
-inline constexpr std::int32_t kRefresh = 0;   ///< rebuilds all charts, without a page
+inline constexpr std::int32_t kRefresh = 0;   ///< Rebuilds all charts without showing a page.
 inline constexpr std::int32_t kStart = 1;     ///< JumpStart
 inline constexpr std::int32_t kNext = 6;      ///< JumpNext
 inline constexpr std::int32_t kPrevious = 7;  ///< JumpPrevious
@@ -25,14 +25,14 @@ inline constexpr std::int32_t kFinish = 8;    ///< JumpFinish
 inline constexpr std::int32_t kEnd = 9;       ///< EndRun
 }  // namespace step
 
-/// The way from page to page. Pages never open each other: each one asks for a move, and the controller,
-/// which stands above the pages, opens the next one.
+/// Moves between pages. Pages never open each other: a page asks for a move, and the controller opens the
+/// next page.
 class Navigation {
  public:
   virtual ~Navigation() = default;
 
-  /// `lStep` is a step, `lFromPage` an origin; `oPage`, if there is one, is unloaded first. The call returns
-  /// when the pages that the move opens have gone.
+  /// Makes a move. `lStep` is a step and `lFromPage` is an origin. `oPage`, if given, is unloaded first.
+  /// Returns when the pages that the move opens are closed.
   virtual void PSJumpToStep(std::int32_t lStep, std::int32_t lFromPage, Page* oPage) = 0;
 };
 

@@ -62,7 +62,7 @@ void Page::Form_Activate() {
   RunEventProcedure([this] { DisplayMessage(""); });
 }
 
-// While the controller changes pages, the end that is asked for here does nothing.
+// While the controller changes pages, kEnd has no effect.
 void Page::Form_Unload() {
   RunEventProcedure([this] { PSJumpToStep(step::kEnd, nullptr); });
 }

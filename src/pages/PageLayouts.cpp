@@ -24,7 +24,7 @@ using forms::Stack;
 
 namespace {
 
-constexpr int kColumnNameWidth = 26;  // characters of a list of column names
+constexpr int kColumnNameWidth = 26;  // The width of a list of column names in characters.
 constexpr int kListLines = 4;
 constexpr int kCommentLines = 3;
 
@@ -34,12 +34,12 @@ Layout ColumnList(const forms::Control& oList) {
 
 Layout ColumnBox(const forms::Control& oCombo) { return Item(oCombo).AtLeast(kColumnNameWidth, 0); }
 
-/// An option without a caption, and beside it the control that it switches on.
+/// An option without a caption, followed by the control that it enables.
 Layout Choice(const forms::Control& oOption, Layout oControl) {
   return Row({Item(oOption), std::move(oControl).Stretch(1)});
 }
 
-/// A control and the sample legend beside it.
+/// A control with the sample legend beside it.
 Layout BesideLegend(Layout oPart, const LegendPictures& oLegend) {
   return Row({std::move(oPart).Stretch(1), StackOf(oLegend)});
 }

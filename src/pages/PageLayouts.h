@@ -5,15 +5,15 @@
 #include "pages/Page.h"
 
 /// @file
-/// Parts that the layouts of several pages have in common.
+/// Parts of layouts that several pages use.
 namespace plotsmith {
 
-/// A page with its buttons at the foot.
+/// Returns the layout of a page with its buttons at the bottom.
 forms::Layout WithButtons(forms::Layout oBody, const WizardButtons& oButtons);
-/// Pictures in the same place.
+/// Returns the layout of a group of pictures, all in the same place.
 forms::Layout StackOf(const PictureGroup& oPictures);
 forms::Layout StackOf(const LegendPictures& oLegend);
-/// A label in front of each box, so that all of them line up.
+/// Returns the layout of the axis boxes, aligned with a label before each box.
 ///@{
 forms::Layout GridOf(const AxisBoxes& oAxes);
 forms::Layout GridOf(const NumberFormatBox& oBox);

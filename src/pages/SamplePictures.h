@@ -8,10 +8,10 @@
 /// The sample pictures of the wizard's pages: small charts that show what a setting does.
 namespace plotsmith {
 
-/// The names that an image of a page may have.
+/// The names of the sample pictures.
 extern const std::array<std::string_view, 41> aSamplePictureNames;
 
-/// Draws the picture of that name, which is compared case-sensitively; error 5 if there is none.
+/// Draws the picture with that name, which is case-sensitive. Raises error 5 if there is none.
 pictures::Picture SamplePicture(std::string_view sName);
 
 }  // namespace plotsmith

@@ -24,7 +24,7 @@ void frmBusyPS::Form_Activate() {
   ProgressBar1.SetValue(forms::ProgressBar::kMin);
   Timer1.SetEnabled(true);
   if (!bWorking) {
-    bWorking = true;  // a second activation while the work runs must not start it again
+    bWorking = true;  // A second activation must not start the operation again.
     Work();
   }
   Hide();

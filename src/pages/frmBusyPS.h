@@ -10,24 +10,26 @@
 
 namespace plotsmith {
 
-/// The procedures that the busy window can run. Their modules are above the pages, so the controller hands
-/// them in.
+/// The procedures that the busy window can run. They belong to modules above the pages, so the controller
+/// passes them in.
 struct BusyWork {
   std::function<void()> PopulateAllCharts;
   std::function<void(const std::string& sChartID)> PopulateChart;
   std::function<void(std::int32_t lMode)> ExecuteRun;
 };
 
-/// The small modal window that carries a long run of work. It does the work inside of its own activation,
-/// keeps a bar moving meanwhile, and hides itself. The caller fills the public members and shows it.
+/// The small modal window that is shown during a long operation. It performs the operation when it is
+/// activated, keeps a progress bar moving, and hides itself at the end. The caller sets the public members
+/// and shows the window.
 class frmBusyPS final : public forms::Form {
  public:
   explicit frmBusyPS(BusyWork oWork);
 
-  bool bWorking = false;         ///< the work has been started
-  std::int32_t lMethodType = 0;  ///< 0 PopulateAllCharts, 1 PopulateChart, 2 ExecuteRun; others do nothing
-  std::int32_t rMode = 0;        ///< the mode of a run
-  std::string sChartID;          ///< the one chart
+  bool bWorking = false;  ///< Whether the operation has started.
+  std::int32_t lMethodType =
+      0;  ///< The operation: 0 PopulateAllCharts, 1 PopulateChart, 2 ExecuteRun; other numbers do nothing.
+  std::int32_t rMode = 0;  ///< The mode of ExecuteRun.
+  std::string sChartID;    ///< The chart of PopulateChart.
 
   forms::Label WaitLabel{*this, "WaitLabel", nullptr, "Loading . . ."};
   forms::ProgressBar ProgressBar1{*this, "ProgressBar1", nullptr};

@@ -75,7 +75,7 @@ void frmPSChartLocation::FillSheets(const std::string& sChartSheet) {
     if (oSheet->Visible() != excel::xlSheetVisible) continue;
     const std::string sName = oSheet->Name();
     cboSheet.AddItem(sName);
-    // The last condition holds for the first sheet already, so the active one is never preferred.
+    // The last condition is already true for the first sheet, so the active sheet is never preferred.
     if ((!sChartSheet.empty() && sChartSheet == sName) || (cboSheet.ListIndex() < 0 && sName == sActive) ||
         cboSheet.ListIndex() < 0) {
       cboSheet.SetListIndex(cboSheet.ListCount() - 1);
@@ -92,7 +92,7 @@ std::string frmPSChartLocation::DefaultSheetName() const {
 
 void frmPSChartLocation::SetSheetControls() {
   if (!bNewChart) {
-    // a chart stays where it is
+    // An existing chart stays on its sheet.
     optTargetSheet0.SetEnabled(false);
     optTargetSheet1.SetEnabled(false);
   }

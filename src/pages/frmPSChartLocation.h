@@ -11,8 +11,8 @@
 
 namespace plotsmith {
 
-/// The last page: the chart's name and its sheet. When its input is valid, the chart begins to exist: its
-/// definition is stored, and an empty chart stands on the sheet.
+/// The last page: the name and the sheet of the chart. If its input is valid, it stores the definition and
+/// puts an empty chart on the sheet.
 class frmPSChartLocation final : public Page {
  public:
   explicit frmPSChartLocation(Navigation& oNavigation);
@@ -34,7 +34,7 @@ class frmPSChartLocation final : public Page {
   std::int32_t HelpTopic() const override { return 8; }
   void UpdateForBack() override;
   forms::Control* FocusAfter(const std::string& sMessage) override;
-  /// This page asks for no end of the run: the run ends by itself when its last page is gone.
+  /// Doesn't end the run: the run ends by itself after its last page.
   void Form_Unload() override {}
 
  private:
@@ -42,18 +42,18 @@ class frmPSChartLocation final : public Page {
   void FillSheets(const std::string& sChartSheet);
   std::string DefaultSheetName() const;
   void SetSheetControls();
-  /// The sheet that the page names, which may not be there yet.
+  /// Returns the name of the selected sheet, which may not exist yet.
   std::string SheetName() const;
-  /// The message of the first rule that the page breaks, or an empty text.
+  /// Returns the message for the first invalid input, or an empty text.
   std::string FirstFault(const std::string& sName, const std::string& sSheet) const;
-  /// Makes the new worksheet if one is asked for, and activates the chart's sheet. Answers a message where
-  /// the host refuses.
+  /// Makes the new worksheet if it is selected, and activates the chart's sheet. Returns a message if the
+  /// host refuses.
   std::string PrepareSheet(const std::string& sSheet) const;
-  /// Judges the input, stores the definition and puts the empty chart on its sheet.
+  /// Checks the input, stores the definition and puts the empty chart on its sheet.
   bool PlaceChart();
   void UpdateChartMetadata(const std::string& sSheetName);
 
-  bool bNewChart = false;  ///< the chart has no object on a sheet yet
+  bool bNewChart = false;  ///< Whether the chart has no object on a sheet yet.
 };
 
 }  // namespace plotsmith

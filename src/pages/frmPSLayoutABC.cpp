@@ -14,11 +14,11 @@
 namespace plotsmith {
 namespace {
 
-/// What the page says about one of its chart types.
+/// The texts of the page for one chart type.
 struct TypeTexts {
   const char* sType;
   std::int32_t lHelpTopic;
-  const char* sPicture;  ///< what the names of its pictures have in common, behind "img"
+  const char* sPicture;  ///< The common part of its pictures' names, after "img".
   const char* sCategoriesCaption;
   const char* sSizeCaption;
   const char* sLabelsCaption;
@@ -54,7 +54,7 @@ const TypeTexts& TextsOfType() {
   return oFound == kTypes.end() ? kTypes.back() : *oFound;
 }
 
-/// The pictures by the sum of what is chosen: 1 for 3-D, 2 stacked, 4 to 100%, 8 for several colours.
+/// The pictures by the sum of the settings: 1 for 3-D, 2 for stacked, 4 for 100%, 8 for several colours.
 struct StylePicture {
   int lCode;
   const char* sName;
@@ -79,7 +79,7 @@ void ClearSelections(forms::ListBox& oList) {
   for (std::int32_t i = 0; i < oList.ListCount(); ++i) oList.SetSelected(i, false);
 }
 
-/// Selects the entries of these names, ignoring case.
+/// Selects the entries with these names, ignoring case.
 void AddSelections(forms::ListBox& oList, const std::vector<std::string>& aNames) {
   for (std::int32_t i = 0; i < oList.ListCount(); ++i) {
     const auto isEntry = [&](const std::string& sName) {
@@ -97,7 +97,7 @@ std::vector<std::string> SelectedTexts(const forms::ListBox& oList) {
   return aTexts;
 }
 
-/// Switches one half of a choice off: the combo box loses its entry.
+/// Disables a combo box and removes its current entry.
 void SwitchOff(forms::ComboBox& oCombo) {
   SetInputEnabled(oCombo, false);
   oCombo.SetListIndex(-1);
@@ -188,7 +188,7 @@ void frmPSLayoutABC::SetControlStates(Trigger lTrigger) {
   SetCategoryStates();
   SetSeriesStates();
   if (optSeries0.Value()) {
-    // without a second dimension there is nothing to stack; the box's own click takes chk100Pct along
+    // Without colours there is nothing to stack. The Click event of this box also updates chk100Pct.
     chkStacked.SetValue(forms::CheckBox::kUnchecked);
     chkStacked.SetEnabled(false);
   } else {
@@ -203,7 +203,7 @@ void frmPSLayoutABC::ChooseFittingOptions(Trigger lTrigger) {
   if (lTrigger == Trigger::kSeries && optSeries2.Value() && !optCategories1.Value()) {
     optCategories1.SetValue(true);
   }
-  // with a single number column, a click on the values takes even a chosen label column away
+  // With a single number column, a click on the values also deselects a label column.
   const bool bNoColors = (lTrigger == Trigger::kValues && bOneNumber) ||
                          (lTrigger == Trigger::kCategories && optCategories2.Value());
   if (bNoColors && !optSeries0.Value()) optSeries0.SetValue(true);

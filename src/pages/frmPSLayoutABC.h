@@ -10,9 +10,9 @@
 
 namespace plotsmith {
 
-/// The layout of area, bar and column charts. Categories and colours come each from one label column, whose
-/// rows hold their headings, or from several number columns, which are the headings themselves; not both from
-/// columns.
+/// The layout of area, bar and column charts. Categories and colours each come either from one label column,
+/// whose rows contain the names, or from several number columns, whose headings are the names. Only one of
+/// the two can use number columns.
 class frmPSLayoutABC final : public LayoutPage {
  public:
   explicit frmPSLayoutABC(Navigation& oNavigation);
@@ -54,13 +54,13 @@ class frmPSLayoutABC final : public LayoutPage {
   forms::Control* FocusAfter(const std::string& sMessage) override;
 
  private:
-  /// Why SetControlStates runs.
+  /// The reason for calling SetControlStates.
   enum class Trigger {
-    kCategories = 0,  ///< a click on optCategories
-    kSeries = 2,      ///< a click on optSeries
-    kValues = 4,      ///< a click on cboValues
-    kRestored = 5,    ///< the page was loaded, and a definition restored
-    kNew = 6,         ///< the page was loaded, and there was nothing to restore
+    kCategories = 0,  ///< A click on optCategories.
+    kSeries = 2,      ///< A click on optSeries.
+    kValues = 4,      ///< A click on cboValues.
+    kRestored = 5,    ///< The page was loaded, and a definition was restored.
+    kNew = 6,         ///< The page was loaded, and there was nothing to restore.
   };
 
   void WireControls();
@@ -74,7 +74,7 @@ class frmPSLayoutABC final : public LayoutPage {
   void SetCategoryStates();
   void SetSeriesStates();
   void ShowChartPicture();
-  /// Answers True if any of the definition's elements was there.
+  /// Returns true if the definition has any of the elements.
   bool RestoreChartSelections();
   void RestoreHeadings();
   void RestoreStyle();

@@ -15,11 +15,11 @@ constexpr const char* kNoY = "Please select a 'Vertical (Y-axis)' entry";
 constexpr const char* kNoX = "Please select a 'Horizontal (X-axis)' entry";
 constexpr const char* kNoBubble = "Please select a 'Bubble Represents' entry";
 
-/// By the sum of what is chosen: 1 for 3-D, 2 for quadrants.
+/// The pictures by the sum of the settings: 1 for 3-D, 2 for quadrants.
 constexpr std::array<const char*, 4> kPictures = {"imgBubbleBasic", "imgBubble3DBasic", "imgBubbleQuad",
                                                   "imgBubble3DQuad"};
 
-/// Switches a box on, or off and unchecked.
+/// Enables a check box, or disables and unchecks it.
 void SetUsable(forms::CheckBox& oBox, bool bUsable) {
   if (!bUsable) oBox.SetValue(forms::CheckBox::kUnchecked);
   oBox.SetEnabled(bUsable);
@@ -42,7 +42,7 @@ void frmPSLayoutBubble::WireControls() {
     if (cboXValues.ListIndex() >= 0) Axes.FillLabelAxis(cboXValues.Text());
   });
   cboSeries.Click = EventProcedure([this] { Legend.Show(cboSeries.ListIndex() >= 1); });
-  // with equal sizes there is nothing zero or negative to show
+  // If all sizes are equal, none is zero or negative.
   cboSizes.Click = EventProcedure([this] { SetUsable(chkShowZeroBubbles, cboSizes.ListIndex() > 0); });
   chk3D.Click = EventProcedure([this] { ShowChartPicture(); });
   chkQuadrants.Click = EventProcedure([this] {

@@ -9,8 +9,8 @@
 
 namespace plotsmith {
 
-/// The layout of bubble charts: a bubble has its place from two number columns, its size from a third one,
-/// its colour from a label column, and its label from another one.
+/// The layout of bubble charts. Two number columns give the position of a bubble, a third one gives its size,
+/// one label column gives its colour, and another one gives its label.
 class frmPSLayoutBubble final : public LayoutPage {
  public:
   explicit frmPSLayoutBubble(Navigation& oNavigation);

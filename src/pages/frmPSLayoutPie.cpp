@@ -13,7 +13,7 @@ namespace {
 constexpr const char* kNoSlice = "Please select a 'Slice Represents' entry";
 constexpr const char* kNoSize = "Please select a 'Slice Size' entry";
 
-/// By the sum of what is chosen: 1 for 3-D, 2 for exploded.
+/// The pictures by the sum of the settings: 1 for 3-D, 2 for exploded.
 constexpr std::array<const char*, 4> kPictures = {"imgPieBasic", "imgPie3DBasic", "imgPieExplode",
                                                   "imgPie3DExplode"};
 
@@ -80,7 +80,7 @@ void frmPSLayoutPie::RestoreChartSelections() {
 }
 
 void frmPSLayoutPie::UpdateChartMetadata() {
-  // this report has no point between form and procedure
+  // The name in this error report has no point between form and procedure.
   ReportErrors("frmPSLayoutPieUpdateChartMetadata", [this] {
     RemoveChildren(
         {"categories", "series", "values", "axes", "data-labels", "dynamic-attributes", "comment"});

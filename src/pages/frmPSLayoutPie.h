@@ -9,7 +9,7 @@
 
 namespace plotsmith {
 
-/// The layout of pie charts: one label column names the slices, one number column sizes them.
+/// The layout of pie charts: a label column gives the slices, and a number column gives their sizes.
 class frmPSLayoutPie final : public LayoutPage {
  public:
   explicit frmPSLayoutPie(Navigation& oNavigation);

@@ -20,15 +20,16 @@ constexpr const char* kNoSequence = "[none]";
 constexpr const char* kNoBuckets = "Please select a 'Strategic Buckets' entry";
 constexpr const char* kNoBlock = "Please select a 'Block Represents' entry";
 
-constexpr double kNameWidth = 0.6, kValueWidth = 0.4;  // of the grid's width
+constexpr double kNameWidth = 0.6, kValueWidth = 0.4;  // Shares of the grid's width.
 
-/// A bucket's value as "#,###" shows it: whole, with thousands set off, and nothing for zero.
+/// Formats a bucket's value like "#,###": rounded to an integer, with thousands separators, and empty for
+/// zero.
 std::string BucketValueText(double dValue) {
-  // of a sum, the digits that a number shows count, and not the error of its last bit
+  // Round to the digits that a number shows, so that the error in the last bit of a sum has no effect.
   const double dRounded =
       std::floor(std::abs(runtime::Val(std::string_view(runtime::NumberText(dValue)))) + 0.5);
   if (dRounded == 0) return {};
-  std::array<char, 400> aBuffer;  // the largest number has 309 digits
+  std::array<char, 400> aBuffer;  // The largest number has 309 digits.
   const auto oEnd = std::to_chars(aBuffer.begin(), aBuffer.end(), dRounded, std::chars_format::fixed, 0);
   std::string sDigits(aBuffer.data(), oEnd.ptr);
   for (std::size_t i = sDigits.size(); i > 3; i -= 3) sDigits.insert(i - 3, ",");
@@ -158,7 +159,7 @@ void frmPSLayoutStrBuck::UpdateChartMetadata() {
     } else {
       AppendHeadings("series", "none", {});
     }
-    AppendColumns("values", {sBucketValueColumn});  // a column of the bucket table
+    AppendColumns("values", {sBucketValueColumn});  // This is a column of the bucket table.
     if (cboBlockSequence.ListIndex() > 0) {
       AppendColumns("sort-order", {cboBlockSequence.Text()})
           .setAttribute("sort", optBlockSequence0.Value() ? "ascending" : "descending");

@@ -13,8 +13,8 @@
 
 namespace plotsmith {
 
-/// The layout of strategic bucket charts: the rows of the source table are blocks, which are stacked in the
-/// buckets that a second table names and gives a value each.
+/// The layout of strategic bucket charts. The rows of the source table are blocks, stacked in buckets. A
+/// second table gives the names and the values of the buckets.
 class frmPSLayoutStrBuck final : public LayoutPage {
  public:
   explicit frmPSLayoutStrBuck(Navigation& oNavigation);
@@ -55,14 +55,15 @@ class frmPSLayoutStrBuck final : public LayoutPage {
   void FillColors();
   void FillBlockSequence();
   void SetBucketColumns();
-  /// Shows the buckets of the table that is chosen.
+  /// Shows the buckets of the selected table.
   void ShowBuckets();
   void RestoreChartSelections();
   void RestoreSortOrder();
 
-  runtime::Ref<DocumentCollection> colBucketTables;  ///< in the order of cboBucketTables
-  runtime::Dictionary dicBucketIndex;                ///< the place in cboBucketTables by table id
-  std::string sBucketTableID, sBucketNameColumn, sBucketValueColumn;  ///< of the table that is chosen
+  runtime::Ref<DocumentCollection> colBucketTables;  ///< The bucket tables in the order of cboBucketTables.
+  runtime::Dictionary dicBucketIndex;                ///< The index in cboBucketTables by table id.
+  std::string sBucketTableID, sBucketNameColumn,
+      sBucketValueColumn;  ///< Id and columns of the selected table.
 };
 
 }  // namespace plotsmith

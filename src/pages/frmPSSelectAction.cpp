@@ -26,10 +26,10 @@ constexpr std::int32_t kName = 0, kType = 1, kChartSheet = 2, kTableSheet = 3;
 }  // namespace column
 
 constexpr const char* kHeads[] = {"Chart Name", "Type", "Chart Worksheet", "Table Worksheet"};
-constexpr double kWidths[] = {0.4, 0.2, 0.2, 0.2};  // of the grid's width
+constexpr double kWidths[] = {0.4, 0.2, 0.2, 0.2};  // Shares of the grid's width.
 constexpr std::int32_t kFirstRow = 1;
 
-/// The shapes of a sheet that belong to the chart of an id: its frame and its comment box.
+/// Returns the shapes of a chart on a sheet: its frame and its comment box.
 std::vector<Ref<excel::Shape>> ShapesOfChart(const Ref<excel::Worksheet>& oSheet, const std::string& sID) {
   std::vector<Ref<excel::Shape>> aShapes;
   const auto oShapes = oSheet->Shapes();
@@ -55,7 +55,7 @@ bool IsNameTaken(const std::string& sName) {
   });
 }
 
-/// The first free one of "Copy of Sales", "Copy (1) of Sales", "Copy (2) of Sales" ...
+/// Returns the first unused name of "Copy of Sales", "Copy (1) of Sales", "Copy (2) of Sales", and so on.
 std::string NameOfCopy(const std::string& sOldName) {
   std::string sCounter;
   for (int n = 0;; sCounter = "(" + std::to_string(n) + ") ") {
@@ -65,7 +65,7 @@ std::string NameOfCopy(const std::string& sOldName) {
   }
 }
 
-/// Makes a private copy of the chosen chart's definition the document being edited.
+/// Copies the definition of the selected chart to the document that is being edited.
 void EditCopyOfDefinition() {
   const std::string sXml = colCharts->Item(sChartID).xml();
   oChartDoc = NewXMLDocument();
@@ -199,7 +199,7 @@ void frmPSSelectAction::cmdDelete_Click() {
     for (std::int32_t i = 0; i < grdCharts.SelectedRows(); ++i) {
       DeleteShapesOfChart(grdCharts.RowData(grdCharts.SelectedRow(i)));
     }
-    colCharts = nullptr;  // makes the next page load them anew, and drop those without a chart
+    colCharts = nullptr;  // The next page then loads the definitions again and drops those without a chart.
     PSJumpToStep(step::kStart, this);
   });
 }

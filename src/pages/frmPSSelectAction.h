@@ -8,7 +8,7 @@
 
 namespace plotsmith {
 
-/// The first page of a workbook with charts: what is to be done, and to which chart.
+/// The first page in a workbook with charts: the action, and the chart for it.
 class frmPSSelectAction final : public Page {
  public:
   explicit frmPSSelectAction(Navigation& oNavigation);
@@ -42,7 +42,7 @@ class frmPSSelectAction final : public Page {
   void cmdModify_Click();
   void cmdCopy_Click();
   void cmdDelete_Click();
-  /// Activates the sheet that a column of the grid names.
+  /// Activates the sheet that a column of the grid contains.
   void GoTo(std::int32_t lColumn);
 };
 

@@ -23,7 +23,7 @@ constexpr const char* kTableInvalid =
     "Table '/TKN/' is not currently valid for this chart. You must select a different table to continue.";
 
 constexpr const char* kUnknownType = "unknown";
-/// The chart types by the places of their options; the last one wants a bucket table.
+/// The chart types in the order of their options. The last one needs a bucket table.
 constexpr std::array<const char*, 6> kTypes = {"bar", "column", "area", "pie", "bubble", "strategic bucket"};
 constexpr std::size_t kBucketType = 5;
 
@@ -53,7 +53,7 @@ void frmPSSelectTable::FillPage() {
   CheckTableStillValid();
 }
 
-// The samples stand to the right of the options, all in one place.
+// Places all samples to the right of the options.
 void frmPSSelectTable::PlacePictures() {
   const forms::Place oFrame = fraChartType.Place(), oArea = {0, 0, kPictureWidth, kPictureHeight};
   const forms::Place oPlace = {(oFrame.Width - oArea.Width) / 2 + 0.1 * oFrame.Width,
@@ -111,7 +111,7 @@ void frmPSSelectTable::EnableChartTypes() {
   if (lLabels < 1 || lNumbers < 1) return;
   for (std::size_t i = 0; i < kBucketType; ++i) optType[i].SetEnabled(true);
   bTableUsable = true;
-  // a strategic bucket chart has buckets by one label column and blocks by another one
+  // A strategic bucket chart takes buckets from one label column and blocks from another one.
   if (lLabels >= 2 && GetBucketCandidates(oTable)->Count() > 0) optType[kBucketType].SetEnabled(true);
 }
 
@@ -132,7 +132,7 @@ void frmPSSelectTable::CheckTableStillValid() {
 }
 
 bool frmPSSelectTable::ValidSelections() {
-  if (!sPendingMessage.empty()) return false;  // the page shows it when it is opened
+  if (!sPendingMessage.empty()) return false;  // The page shows the message when it opens.
   if (sTableID.empty()) {
     DisplayMessage(kSelectTable);
     return false;
@@ -154,7 +154,8 @@ void frmPSSelectTable::UpdateChartMetadata() {
   });
 }
 
-// A message with the name of a table in it moves no focus: it is not compared with its template.
+// A message that contains the name of a table doesn't move the focus, because it isn't compared with its
+// template.
 forms::Control* frmPSSelectTable::FocusAfter(const std::string& sMessage) {
   const bool bAboutTable = sMessage == kSelectTable || sMessage == kTableGone || sMessage == kTableInvalid;
   return bAboutTable ? &grdTables : nullptr;

@@ -10,7 +10,7 @@
 
 namespace plotsmith {
 
-/// The table that the chart is built on, and the chart's type.
+/// The page for the source table and the chart type.
 class frmPSSelectTable final : public Page {
  public:
   explicit frmPSSelectTable(Navigation& oNavigation);
@@ -42,15 +42,15 @@ class frmPSSelectTable final : public Page {
   void FillTableGrid();
   void AddTableRow(const std::string& sName, const std::string& sID);
   void UpdateChartTypes();
-  /// Switches on the types that the selected table allows.
+  /// Enables the types that the selected table allows.
   void EnableChartTypes();
   void CheckTableStillValid();
-  /// The place of an option, from 0; -1 is "unknown".
+  /// Selects a chart type by the index of its option, from 0; -1 is "unknown".
   void SetChartType(std::int32_t iIndex);
   void UpdateChartMetadata();
 
-  bool bTableUsable = false;  ///< the selected table has a label column and a number column
-  std::string sTableName;     ///< of the table that was selected when the page was loaded
+  bool bTableUsable = false;  ///< Whether the selected table has a label column and a number column.
+  std::string sTableName;     ///< The name of the table that was selected when the page was loaded.
 };
 
 }  // namespace plotsmith

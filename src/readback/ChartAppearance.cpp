@@ -18,8 +18,8 @@ using runtime::Variant;
 
 namespace {
 
-/// An axis title: its text, and its font by the texts of its properties. One that isn't there, or has no one
-/// value for a property, has "".
+/// An axis title: its text and the values of its font properties. A missing title, and a property with
+/// several values, are "".
 struct AxisLabel {
   std::string sText;
   std::string sFontSize, sFontName, sFontColor, sFontStyle, sAutoScale;
@@ -27,10 +27,10 @@ struct AxisLabel {
   bool operator==(const AxisLabel&) const = default;
 };
 
-/// One of the two axes, from its element in the definition to the keys of its properties.
+/// One of the two axes, with the names that the definition uses for it.
 struct LabelledAxis {
-  const char* sType;  ///< `type` of an `axis`
-  std::string sKeys;  ///< what its properties begin with
+  const char* sType;  ///< The `type` of its `axis` element.
+  std::string sKeys;  ///< The beginning of its property names.
   std::int32_t lAxis;
   AxisLabel oOld;
   std::string sSticky;
@@ -78,7 +78,7 @@ void ReadChart(LabelledAxis& oAxis, const Ref<excel::Chart>& oChart) {
   const auto oFont = oTitle->Font();
   Variant vSize = oFont->Size();
   Variant vName = oFont->Name();
-  // a title of several fonts has none of its own
+  // A title with several fonts has no font name.
   if (vName.IsNull()) vName = oChart->Application()->StandardFont();
   if (vSize.IsNull()) vSize = oChart->Application()->StandardFontSize();
   oAxis.oNew = {oTitle->Text(),
@@ -105,7 +105,7 @@ void WriteAxis(LabelledAxis& oAxis, IXMLDOMDocument2& oChartDoc, IXMLDOMElement&
   oAxes.appendChild(oElement);
 }
 
-/// The font of the labels of a series, by the texts of its properties.
+/// The values of the font properties of a series' labels.
 struct LabelFont {
   std::string sName = "Arial", sStyle = "Regular", sSize = "9", sColor = "0", sBackgroundColor = "-4105",
               sAutoScale = "True";
@@ -117,7 +117,7 @@ std::string OrDefault(const Variant& vValue, const std::string& sDefault) {
   return vValue.IsNull() ? sDefault : SafeString(vValue);
 }
 
-/// A property on which the labels of a series disagree counts as its default.
+/// Reads the font of a series' labels. A property that differs between the labels has its default.
 LabelFont ReadLabelFont(excel::DataLabels& oLabels, excel::Font& oFont) {
   LabelFont oRead;
   const auto read = [](std::string& sProperty, const Variant& vValue) {
@@ -132,7 +132,7 @@ LabelFont ReadLabelFont(excel::DataLabels& oLabels, excel::Font& oFont) {
   return oRead;
 }
 
-/// How many series have a font; in the order in which the fonts were met.
+/// The number of series for each font, in the order of the first occurrence.
 using FontCounts = std::vector<std::pair<LabelFont, std::int32_t>>;
 
 void Count(FontCounts& aCounts, const LabelFont& oFont) {
@@ -145,7 +145,7 @@ void Count(FontCounts& aCounts, const LabelFont& oFont) {
   }
 }
 
-/// The rarest of the fonts, the first of equals. A font of `kOften` series or more is never taken.
+/// Returns the least frequent font, or the first of several. Fonts of at least `kOften` series are excluded.
 LabelFont RarestFont(const FontCounts& aCounts) {
   constexpr std::int32_t kOften = 9999;
   LabelFont oRarest;
@@ -158,10 +158,11 @@ LabelFont RarestFont(const FontCounts& aCounts) {
   return oRarest;
 }
 
-/// What the data labels of a chart look like, and what they show.
+/// The font and the contents of a chart's data labels.
 struct Labels {
   FontCounts aFonts;
-  LabelFont oBucketFont = {"", "", "", "", "", ""};  ///< of the bucket value series; "" without one
+  LabelFont oBucketFont = {"", "", "",
+                           "", "", ""};  ///< The font of the bucket value series, or "" if there is none.
   bool bValues = false, bPercentages = false;
 };
 
@@ -213,7 +214,7 @@ void AppendLabelFonts(IXMLDOMDocument2& oChartDoc, const Labels& oRead) {
   AppendPersist(oChartDoc, "bucket-label-font-autoscale", oRead.oBucketFont.sAutoScale);
 }
 
-/// Makes `data-labels` anew. Whether the labels are put by hand is no matter of the chart.
+/// Replaces `data-labels`, but keeps `manual-labels`, which isn't read from the chart.
 void WriteDataLabels(IXMLDOMDocument2& oChartDoc, const Labels& oRead) {
   auto oChartElement = oChartDoc.documentElement();
   std::string sManualLabels;
@@ -237,7 +238,7 @@ void WriteDataLabels(IXMLDOMDocument2& oChartDoc, const Labels& oRead) {
 }  // namespace
 
 void RevEngineerAutoPersistence(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& oChartDoc) {
-  // the name under which a failure here has always been reported
+  // Error reports use this name for historical reasons.
   ReportErrors("PSRevEngineerChart.RevEngineerNumberFormat", [&] {
     auto oChartElement = oChartDoc.documentElement();
     RemoveChild(oChartElement, "auto-persistence");

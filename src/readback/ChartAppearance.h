@@ -4,16 +4,17 @@
 #include "host/excel/Excel.h"
 #include "runtime/Ref.h"
 
-/// Module PSRevEngineerChart, second half: how the chart looks, as far as the definition keeps it. It goes
-/// into `auto-persistence`, from where the next rebuild takes its fonts and places, and into `axes` and
-/// `data-labels`.
+/// Module PSRevEngineerChart, part 2: reads the look of a chart into its definition. The elements are
+/// `auto-persistence` (the next rebuild takes fonts and positions from it), `axes` and `data-labels`.
 namespace plotsmith {
 
 void RevEngineerAutoPersistence(const runtime::Ref<excel::Chart>& oChart, dom::IXMLDOMDocument2& oChartDoc);
-/// A title that differs from the definition in its text or its font is the person's from now on: "sticky".
+/// Reads the axis titles. A title whose text or font differs from the definition was changed by a person and
+/// becomes "sticky".
 void RevEngineerAxisLabels(const runtime::Ref<excel::Chart>& oChart, dom::IXMLDOMDocument2& oChartDoc);
 void RevEngineerChartLegend(const runtime::Ref<excel::Chart>& oChart, dom::IXMLDOMDocument2& oChartDoc);
-/// Of the fonts among the labels the rarest is kept: it is the one that somebody chose.
+/// Reads the data labels. If the labels have several fonts, the least frequent one is kept, because a person
+/// chose it.
 void RevEngineerChartDataLabels(const runtime::Ref<excel::Chart>& oChart, dom::IXMLDOMDocument2& oChartDoc);
 
 }  // namespace plotsmith

@@ -18,7 +18,7 @@ using runtime::Ref;
 
 namespace {
 
-/// Characters of a comment that one call takes.
+/// The number of characters of a comment that are read in one call.
 constexpr std::int32_t kCommentPiece = 200;
 
 struct TypeEntry {
@@ -34,7 +34,7 @@ constexpr std::array<TypeEntry, 25> kTypes = {{
     {excel::xl3DColumnClustered, "column", true},
     {excel::xl3DColumnStacked, "column", true, true},
     {excel::xl3DColumnStacked100, "column", true, true, true},
-    // columns that stand behind each other are drawn side by side again: no setting says so
+    // Columns in depth are drawn side by side again, because no setting describes them.
     {excel::xl3DColumn, "column"},
     {excel::xlBarClustered, "bar"},
     {excel::xlBarStacked, "bar", false, true},
@@ -86,7 +86,7 @@ void RevEngineerChartType(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& oCh
     const std::string sType = oNamed != nullptr        ? std::string(oNamed->sType)
                               : IsStrBuckChart(oChart) ? "strategic bucket"
                                                        : "unknown";
-    // asked again, as a host may answer otherwise once its series were looked at
+    // Read the type again, because a host may return another type after its series were read.
     const TypeEntry* oEntry = FindType(oChart->ChartType());
     oChartElement.setAttribute("type", sType);
     RemoveChild(oChartElement, "dynamic-attributes");
@@ -152,9 +152,9 @@ void RevEngineerComment(const Ref<excel::Shape>& oShape, IXMLDOMDocument2& oChar
     const auto piece = [&](std::int32_t i) {
       return runtime::ToUtf16(oShape->TextFrame()->Characters(i * kCommentPiece + 1, kCommentPiece)->Text());
     };
-    std::u16string sComment;  // in units, as a piece may end within a character
+    std::u16string sComment;  // UTF-16, because a piece may end inside a surrogate pair.
     std::u16string sPiece = piece(0);
-    // what a failing host has given so far is kept
+    // If the host fails, the text up to that point is kept.
     IgnoreErrors([&] {
       for (std::int32_t i = 1; !sPiece.empty(); ++i) {
         sComment += sPiece;

@@ -4,21 +4,23 @@
 #include "host/excel/Excel.h"
 #include "runtime/Ref.h"
 
-/// Module PSRevEngineerChart, first half: what a person changed on a live chart or its comment box is carried
-/// back into the definition at each load, so that the next rebuild keeps it.
+/// Module PSRevEngineerChart, part 1: reads the changes that a person made to a chart or its comment box into
+/// the definition. This happens each time the definitions are loaded, so that the next rebuild keeps the
+/// changes.
 namespace plotsmith {
 
-/// A chart without series, as one that waits for its first refresh, leaves the definition as it is. Raises
-/// what the parts behind don't report themselves.
+/// Reads back all settings of a chart. A chart without series, such as one that waits for its first refresh,
+/// doesn't change the definition. Raises the errors that the functions below don't report themselves.
 void RevEngineerChart(const runtime::Ref<excel::Chart>& oChart, dom::IXMLDOMDocument2& oChartDoc);
 void RevEngineerChartTitle(const runtime::Ref<excel::Chart>& oChart, dom::IXMLDOMDocument2& oChartDoc);
-/// The type and those settings that are part of it.
+/// Reads the chart type and the settings that are part of it.
 void RevEngineerChartType(const runtime::Ref<excel::Chart>& oChart, dom::IXMLDOMDocument2& oChartDoc);
-/// A format counts as typed by hand when the axis isn't linked to the cells, as drawing always links it.
+/// Reads the number format. If the axis isn't linked to the cells, a person chose the format, because drawing
+/// always links the axis.
 void RevEngineerNumberFormat(const runtime::Ref<excel::Chart>& oChart, dom::IXMLDOMDocument2& oChartDoc);
-/// Whether the chart has the mix of series that a strategic bucket chart is drawn with.
+/// Returns true if the chart has the combination of series that a strategic bucket chart consists of.
 bool IsStrBuckChart(const runtime::Ref<excel::Chart>& oChart);
-/// `oShape` is the chart's comment box, or Nothing.
+/// Reads the comment. `oShape` is the chart's comment box, or Nothing.
 void RevEngineerComment(const runtime::Ref<excel::Shape>& oShape, dom::IXMLDOMDocument2& oChartDoc);
 
 }  // namespace plotsmith

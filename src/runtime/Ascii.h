@@ -1,15 +1,15 @@
 #pragma once
 
-/// Characters of file formats, which know ASCII alone, whatever the locale.
+/// Character functions for file formats. They handle ASCII only, independent of the locale.
 namespace plotsmith::ascii {
 
-/// 0 to 9.
+/// Returns true for 0 to 9.
 constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-/// A to Z in lower case, all else as it is.
+/// Converts A to Z to lower case; returns other characters unchanged.
 constexpr char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-/// A to Z, in either case.
+/// Returns true for A to Z and a to z.
 constexpr bool IsLetter(char c) { return Lower(c) >= 'a' && Lower(c) <= 'z'; }
-/// What XML takes for space.
+/// Returns true for the white space of XML: blank, tab, line feed and carriage return.
 constexpr bool IsSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
 
 }  // namespace plotsmith::ascii

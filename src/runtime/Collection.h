@@ -12,14 +12,14 @@
 
 namespace plotsmith::runtime {
 
-/// The language's Collection: items in order of addition, each under a key that is unique ignoring case.
+/// The class Collection of the language: items in insertion order, each with a unique key. Keys ignore case.
 template <class T>
 class Collection {
  public:
-  /// How many items there are.
+  /// The number of items.
   std::int32_t Count() const { return static_cast<std::int32_t>(items_.size()); }
 
-  /// Error 457 if the key is taken.
+  /// Adds an item. Raises error 457 if the key exists.
   void Add(T item, std::string_view key) {
     std::string upper = UCase(key);
     if (index_.contains(upper)) throw RuntimeError(error::kKeyExists);
@@ -27,13 +27,14 @@ class Collection {
     index_.emplace(std::move(upper), items_.size() - 1);
   }
 
-  /// Error 5 if there is no such key. The reference is good until an item is added or removed.
+  /// Returns the item of a key. Raises error 5 if there is no such key. The reference is valid until an item
+  /// is added or removed.
   ///@{
   T& Item(std::string_view key) { return items_[Position(key)]; }
   const T& Item(std::string_view key) const { return items_[Position(key)]; }
   ///@}
 
-  /// Error 5 if there is no such key.
+  /// Removes the item of a key. Raises error 5 if there is no such key.
   void Remove(std::string_view key) {
     const std::size_t position = Position(key);
     items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(position));
@@ -43,7 +44,7 @@ class Collection {
     }
   }
 
-  /// The items without their keys, in order of addition.
+  /// Iterates over the items in insertion order, without their keys.
   ///@{
   auto begin() const { return items_.begin(); }
   auto end() const { return items_.end(); }

@@ -10,12 +10,12 @@
 
 namespace plotsmith::runtime {
 
-/// Scripting.Dictionary: keys in order of addition, compared byte by byte.
+/// The class Scripting.Dictionary: keys with items, in insertion order. Keys are compared byte by byte.
 class Dictionary {
  public:
   Dictionary() = default;
 
-  /// Moves only: a copy's index would lead into the original.
+  /// A dictionary can be moved but not copied, because the index of a copy would refer to the original.
   ///@{
   Dictionary(Dictionary&&) = default;
   Dictionary& operator=(Dictionary&&) = default;
@@ -23,30 +23,30 @@ class Dictionary {
 
   /// A key with its item.
   struct Entry {
-    std::string key;  ///< as it was first given
-    Variant item;     ///< Empty until it is set
+    std::string key;  ///< The key.
+    Variant item;     ///< The item; Empty until it is set.
   };
 
-  /// With the keys that Item made.
+  /// The number of keys, including those that Item added.
   std::int32_t Count() const { return static_cast<std::int32_t>(entries_.size()); }
-  /// Other than Item, makes no key.
+  /// Returns true if the key exists. Unlike Item, this does not add it.
   bool Exists(std::string_view key) const { return index_.contains(key); }
 
-  /// Error 457 if the key is taken.
+  /// Adds a key with its item. Raises error 457 if the key exists.
   void Add(std::string_view key, Variant item);
 
-  /// The item of a key, to read or to set. To name a key that isn't there makes it, with an Empty item: reads
-  /// leave such keys behind, and the pivot counts on that.
+  /// Returns the item of a key, for reading or assignment. If the key doesn't exist, it is added with an
+  /// Empty item, also by a read. The pivot relies on this.
   Variant& Item(std::string_view key);
 
-  /// Key and item together, in order of addition.
+  /// Iterates over the entries in insertion order.
   ///@{
   auto begin() const { return entries_.begin(); }
   auto end() const { return entries_.end(); }
   ///@}
 
  private:
-  std::deque<Entry> entries_;  // a deque, so that the views in the index stay good
+  std::deque<Entry> entries_;  // A deque keeps its elements in place, so the views in the index stay valid.
   std::unordered_map<std::string_view, Entry*> index_;
 };
 

@@ -7,17 +7,17 @@
 
 namespace plotsmith::runtime {
 
-/// A shared object reference in which null is Nothing: to use a member of Nothing is error 91, not a crash.
+/// A shared reference to an object. A null reference is Nothing: using a member of it raises error 91.
 template <class T>
 class Ref {
  public:
-  /// Nothing.
+  /// Makes Nothing.
   ///@{
   Ref() = default;
   Ref(std::nullptr_t) {}
   ///@}
 
-  /// To the same object, of T or of a class that is derived from it; null becomes Nothing.
+  /// Makes a reference to the same object, which is of type T or derived from T. Null becomes Nothing.
   ///@{
   template <class U>
   requires std::is_convertible_v<U*, T*> Ref(std::shared_ptr<U> object) : object_(std::move(object)) {}
@@ -25,22 +25,22 @@ class Ref {
   requires std::is_convertible_v<U*, T*> Ref(const Ref<U>& other) : object_(other.shared()) {}
   ///@}
 
-  /// The object; error 91 for Nothing.
+  /// Returns the object. Raises error 91 for Nothing.
   ///@{
   T* operator->() const { return &Checked(); }
   T& operator*() const { return Checked(); }
   ///@}
 
-  /// False for Nothing.
+  /// Returns false for Nothing.
   explicit operator bool() const { return object_ != nullptr; }
 
-  /// Whether both are the same object, or both Nothing.
+  /// Returns true if both refer to the same object, or if both are Nothing.
   ///@{
   bool operator==(std::nullptr_t) const { return object_ == nullptr; }
   bool operator==(const Ref& other) const { return object_ == other.object_; }
   ///@}
 
-  /// For who only keeps or compares the object: null for Nothing, without an error.
+  /// Returns the pointer to keep or compare: null for Nothing, without an error.
   const std::shared_ptr<T>& shared() const { return object_; }
 
  private:
@@ -52,7 +52,7 @@ class Ref {
   std::shared_ptr<T> object_;
 };
 
-/// A new object.
+/// Makes a new object.
 template <class T, class... Args>
 Ref<T> MakeRef(Args&&... args) {
   return Ref<T>(std::make_shared<T>(std::forward<Args>(args)...));

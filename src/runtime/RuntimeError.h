@@ -5,22 +5,22 @@
 
 namespace plotsmith::runtime {
 
-/// The one exception of the system and of every host: a numbered run-time error with the wording that a user
-/// of Excel and of its macro language knows.
+/// The exception of the system and of every host: a numbered run-time error, with the description that Excel
+/// or its macro language gives it.
 class RuntimeError : public std::exception {
  public:
-  /// An error with the language's own description of `number`.
+  /// Makes an error with the language's description of `number`.
   explicit RuntimeError(int number);
-  /// An error with a wording of its own.
+  /// Makes an error with another description and source.
   RuntimeError(int number, std::string description, std::string source = "Plotsmith");
 
-  /// Of namespace error, or any other that the language or Excel has.
+  /// The error number: a constant of namespace error, or another number of the language or of Excel.
   int Number() const { return number_; }
-  /// What the user reads.
+  /// The description for the user.
   const std::string& Description() const { return description_; }
-  /// The component that raised it.
+  /// The name of the component that raised the error.
   const std::string& Source() const { return source_; }
-  /// The description.
+  /// Returns the description.
   const char* what() const noexcept override { return description_.c_str(); }
 
  private:
@@ -62,11 +62,11 @@ inline constexpr int kServerUnavailable = 462;  ///< The remote server machine i
 inline constexpr int kApplication = 1004;       ///< Application-defined or object-defined error
 }  // namespace error
 
-/// The exception being handled, as a run-time error. Call it inside a catch block only.
+/// Returns the exception that is being handled as a run-time error. Call it only inside a catch block.
 RuntimeError CurrentError();
 
-/// Whether memory ran out and the error was dealt with like any other. What was done since then is incomplete
-/// in ways that nobody knows, and must not be saved.
+/// True if the process ran out of memory and the error was handled like any other. The results since then may
+/// be incomplete, so they must not be saved.
 inline bool memoryRanOut = false;
 
 }  // namespace plotsmith::runtime

@@ -19,7 +19,8 @@ bool HasAsciiLower(std::string_view text) {
   return std::any_of(text.begin(), text.end(), [](char c) { return c >= 'a' && c <= 'z'; });
 }
 
-/// Unicode has capitals for these, but the language's upper case leaves them: sharp s, dotless i, long s.
+/// Returns true for letters that the language doesn't convert to upper case, although Unicode does: sharp s,
+/// dotless i, long s.
 bool KeepsItsCase(char32_t c) { return c == 0xDF || c == 0x131 || c == 0x17F; }
 
 }  // namespace

@@ -5,43 +5,44 @@
 #include <string_view>
 
 /// @file
-/// The language's string functions over UTF-8. Lengths and positions count UTF-16 units, as the language and
-/// Excel count them; a half of a surrogate pair that a cut leaves behind is carried as its own three bytes,
-/// and becomes whole again when the halves are joined in UTF-16.
+/// The language's string functions for UTF-8 strings. Lengths and positions count UTF-16 units, as in the
+/// language and in Excel. If a cut splits a surrogate pair, each half is stored in three bytes of its own;
+/// the halves become one character again when they are joined in UTF-16.
 namespace plotsmith::runtime {
 
-/// Upper case, character by character, so that the length in characters never changes (ß stays).
+/// Converts to upper case, character by character. The number of characters never changes (ß stays).
 std::string UCase(std::string_view text);
-/// The same into a buffer that the caller keeps, for hot loops; the view is into `scratch` or is `text`
-/// itself.
+/// Converts to upper case in a buffer of the caller, for inner loops. The result is a view of `scratch`, or
+/// `text` itself.
 std::string_view UCase(std::string_view text, std::string& scratch);
-/// Whether both are the same in upper case.
+/// Returns true if both strings are equal in upper case.
 bool EqualsIgnoreCase(std::string_view a, std::string_view b);
 
-/// Without the blanks (U+0020 only) at both ends.
+/// Removes the blanks (only U+0020) at both ends.
 std::string_view Trim(std::string_view text);
 
-/// How many UTF-16 units a text has.
+/// Returns the number of UTF-16 units.
 std::size_t Len(std::string_view text);
-/// `length` units from `start`, which counts from 1; error 5 before that. What lies behind the end is
-/// missing.
+/// Returns up to `length` UTF-16 units from position `start`, which counts from 1. Raises error 5 if `start`
+/// is 0. The result is shorter if the string ends before.
 std::string Mid(std::string_view text, std::size_t start, std::size_t length);
 
-/// What isn't UTF-8 becomes U+FFFD; halves of surrogate pairs pass both ways.
+/// Converts between UTF-8 and UTF-16. Invalid UTF-8 becomes U+FFFD; halves of surrogate pairs are kept in
+/// both directions.
 ///@{
 std::u16string ToUtf16(std::string_view text);
 std::string ToUtf8(std::u16string_view text);
 ///@}
 
-/// Reads one character and moves behind it; what isn't UTF-8 comes out as U+FFFD, byte by byte. Halves of
-/// surrogate pairs pass.
+/// Reads one character and moves the position behind it. Each byte of invalid UTF-8 gives U+FFFD; halves of
+/// surrogate pairs are kept.
 char32_t NextCharacter(std::string_view text, std::size_t& position);
-/// Whether a character is a letter in any script.
+/// Returns true if the character is a letter in any script.
 bool IsLetter(char32_t character);
-/// The way back: halves of surrogate pairs pass as well.
+/// Appends a character as UTF-8. Halves of surrogate pairs are kept.
 void AppendUtf8(std::string& text, char32_t character);
 
-/// Replaces every `from` in `text`, case by case; an empty `from` is nowhere.
+/// Replaces every `from` in `text`, with regard to case. An empty `from` occurs nowhere.
 std::string Replace(std::string_view text, std::string_view from, std::string_view to);
 
 }  // namespace plotsmith::runtime

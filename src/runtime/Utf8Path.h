@@ -6,12 +6,12 @@
 
 namespace plotsmith::runtime {
 
-/// The path that UTF-8 text names. Windows would take the text of a path for its own code page.
+/// Makes a path from UTF-8 text. The constructor of a path would use the system's code page on Windows.
 inline std::filesystem::path PathOf(std::string_view utf8) {
   return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
 }
 
-/// A path as UTF-8 text. The reverse of PathOf.
+/// Returns a path as UTF-8 text. It is the inverse of PathOf.
 inline std::string Utf8Of(const std::filesystem::path& path) {
   const std::u8string text = path.u8string();
   return {text.begin(), text.end()};

@@ -18,8 +18,8 @@ using ascii::IsDigit;
 
 bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
-/// `text` is digits, an optional point and an optional exponent, and nothing else; infinity if it is too
-/// large. from_chars knows no locale.
+/// Converts digits with an optional point and exponent. Returns infinity if the number is too large.
+/// from_chars doesn't depend on the locale.
 double DecimalValue(std::string text) {
   for (char& c : text) {
     if (c == 'd' || c == 'D' || c == 'E') c = 'e';
@@ -27,13 +27,14 @@ double DecimalValue(std::string text) {
   double value = 0;
   if (std::from_chars(text.data(), text.data() + text.size(), value).ec != std::errc::result_out_of_range)
     return value;
-  // Out of range, too large or too small: by where the first digit stands that isn't 0.
+  // The number is out of range. The position of the first digit that isn't 0 decides whether it is too large
+  // or too small.
   const auto mark = text.find('e');
   long long exponent = 0;
   if (mark != std::string::npos) {
     const auto parsed = std::from_chars(text.data() + mark + 1, text.data() + text.size(), exponent);
     if (parsed.ec != std::errc()) return text[mark + 1] == '-' ? 0 : std::numeric_limits<double>::infinity();
-    constexpr long long kBeyond = 1LL << 40;  // more than a text has digits
+    constexpr long long kBeyond = 1LL << 40;  // More than the number of digits in any text.
     exponent = std::clamp(exponent, -kBeyond, kBeyond);
   }
   const std::string_view mantissa = std::string_view(text).substr(0, mark);
@@ -43,7 +44,8 @@ double DecimalValue(std::string text) {
   return magnitude > 0 ? std::numeric_limits<double>::infinity() : 0.0;
 }
 
-/// Digits in base 8 or 16, as 32 bits with sign where they fill them. No value if they don't fit.
+/// Converts digits in base 8 or 16. 32 bits are interpreted with sign. Returns nothing if the number doesn't
+/// fit.
 std::optional<double> RadixValue(std::string_view digits) {
   const int base = (digits[0] == 'h' || digits[0] == 'H') ? 16 : 8;
   digits.remove_prefix(1);
@@ -52,17 +54,17 @@ std::optional<double> RadixValue(std::string_view digits) {
   std::uint32_t bits = 0;
   const auto [end, status] = std::from_chars(digits.data(), digits.data() + digits.size(), bits, base);
   if (status != std::errc() || end != digits.data() + digits.size()) return std::nullopt;
-  // up to four hexadecimal digits are a 16-bit number, unless "&" says otherwise
+  // Up to four hexadecimal digits are a signed 16-bit number, unless they end with "&".
   if (base == 16 && digits.size() <= 4 && !isLong) return static_cast<std::int16_t>(bits);
   return static_cast<std::int32_t>(bits);
 }
 
-/// Days of the language's calendar: 1 January 100 to 31 December 9999.
+/// The range of dates in the language: 1 January 100 to 31 December 9999.
 constexpr double kFirstDay = -657434, kLastDay = 2958465;
 constexpr std::int64_t kDaySeconds = 86400;
 constexpr std::int32_t kDaysTo1970 = 25569;
 
-/// The short date and the long time of the United States, each where it says something.
+/// Formats a date as the short date and the long time of the United States. Either is left out if it is zero.
 std::string DateText(double serial) {
   double days = std::trunc(serial);
   if (!(days >= kFirstDay && days <= kLastDay)) throw RuntimeError(error::kTypeMismatch);
@@ -96,8 +98,8 @@ std::string DateText(double serial) {
 
 std::string NumberText(double value) {
   if (value == 0) return "0";
-  // 15 digits, rounded once; then the digits are set out by hand, as no printf form gives the language's
-  // choice
+  // The number is rounded once to 15 digits. No printf format has the language's layout, so the digits are
+  // arranged here.
   std::array<char, 40> buffer{};
   const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
                                  std::chars_format::scientific, 14)
@@ -134,8 +136,9 @@ std::string NumberText(double value) {
 
 namespace {
 
-/// The number whose digits begin at `i`, with `commas` among them or not; infinity if it is too large, and
-/// nothing without a digit. `i` moves behind it. An exponent is part of it only if that has digits.
+/// Reads the number whose digits begin at `i`, optionally with thousands separators. Returns infinity if it
+/// is too large, and nothing if there is no digit. Moves `i` behind the number. An exponent belongs to the
+/// number only if it has digits.
 std::optional<double> NumberAt(std::string_view text, std::size_t& i, bool commas) {
   const auto at = [&](std::size_t p) { return p < text.size() ? text[p] : '\0'; };
   std::string decimal;
@@ -166,7 +169,7 @@ std::optional<double> NumberAt(std::string_view text, std::size_t& i, bool comma
   return DecimalValue(decimal);
 }
 
-/// The number that a text stands for; infinity if it stands for one that is too large.
+/// Returns the number that a text denotes. Returns infinity if it is too large.
 std::optional<double> ReadNumber(std::string_view text) {
   std::size_t i = 0;
   const auto at = [&](std::size_t p) { return p < text.size() ? text[p] : '\0'; };
@@ -175,7 +178,7 @@ std::optional<double> ReadNumber(std::string_view text) {
   };
   bool minus = false, sign = false, parenthesis = false, currency = false;
 
-  for (bool again = true; again;) {  // what may stand in front, in any order, each once
+  for (bool again = true; again;) {  // Prefixes may be in any order, each at most once.
     skipSpace();
     again = false;
     if (!sign && (at(i) == '+' || at(i) == '-')) {
@@ -196,7 +199,7 @@ std::optional<double> ReadNumber(std::string_view text) {
   const auto number = NumberAt(text, i, true);
   if (!number) return {};
 
-  for (bool again = true; again;) {  // and behind
+  for (bool again = true; again;) {  // Suffixes may be in any order, each at most once.
     skipSpace();
     again = false;
     if (parenthesis && at(i) == ')') {
@@ -288,7 +291,7 @@ double CDbl(const Variant& value) {
 std::int32_t CLng(const Variant& value) {
   if (const auto* whole = value.If<std::int32_t>()) return *whole;
   const double number = CDbl(value);
-  const double rounded = std::nearbyint(number);  // the default rounding mode takes halves to even
+  const double rounded = std::nearbyint(number);  // The default rounding mode rounds halves to even.
   if (!(rounded >= std::numeric_limits<std::int32_t>::min() &&
         rounded <= std::numeric_limits<std::int32_t>::max())) {
     throw RuntimeError(error::kOverflow);

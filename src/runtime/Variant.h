@@ -6,38 +6,39 @@
 #include <string_view>
 #include <variant>
 
-/// The run-time of Visual Basic, Excel's macro language ("the language" in these pages): values, conversions,
-/// errors, object references, collections and texts, as the system counts on them.
+/// The run-time library of Visual Basic, Excel's macro language ("the language" in this reference): values,
+/// conversions, errors, object references, collections and strings.
 namespace plotsmith::runtime {
 
-/// A value of any type, and the language's conversions between them. What can't be converted is error 13,
-/// Null is error 94 wherever a definite value is wanted, and what doesn't fit is error 6.
+/// A value of any type, with the language's conversions between types. A conversion raises error 13 if the
+/// value can't be converted, error 94 if the value is Null, and error 6 if the result is out of range.
 class Variant {
  public:
-  /// What a variable holds that nothing was put into, and a blank cell.
+  /// The value of an uninitialized variable and of a blank cell.
   struct Empty {
-    bool operator==(const Empty&) const = default;  ///< always True
+    bool operator==(const Empty&) const = default;  ///< Always true.
   };
-  /// No definite value, such as the font of a text in several fonts.
+  /// No definite value, such as the font name of a text in several fonts.
   struct Null {
-    bool operator==(const Null&) const = default;  ///< always True, other than in the language
+    bool operator==(const Null&) const =
+        default;  ///< Always true, unlike a comparison with Null in the language.
   };
-  /// A day serial, counted as the language counts: 2 is 1 January 1900, and a negative one has its time of
-  /// day in the fraction without the sign.
+  /// A date as a day serial in the language's count: 2 is 1 January 1900. The fraction is the time of day,
+  /// and it has no sign: for a negative serial the time is the absolute value of the fraction.
   struct Date {
-    double serial;                                 ///< days, with the time of day as a fraction
-    bool operator==(const Date&) const = default;  ///< by the serial
+    double serial;                                 ///< Days, with the time of day as a fraction.
+    bool operator==(const Date&) const = default;  ///< Compares the serials.
   };
-  /// An error value of a cell, by Excel's number for it (2007 is #DIV/0!).
+  /// An error value of a cell, by Excel's number for it; 2007 is #DIV/0!.
   struct Error {
-    int number;                                     ///< from 2000 on
-    bool operator==(const Error&) const = default;  ///< by the number
+    int number;                                     ///< At least 2000.
+    bool operator==(const Error&) const = default;  ///< Compares the numbers.
   };
 
-  /// Empty.
+  /// Makes an Empty value.
   Variant() = default;
 
-  /// A value of that very type; texts are copied.
+  /// Makes a value of exactly the argument's type. Strings are copied.
   ///@{
   Variant(Null value) : value_(value) {}
   Variant(Date value) : value_(value) {}
@@ -50,64 +51,69 @@ class Variant {
   Variant(const char* value) : value_(std::string(value)) {}
   ///@}
 
-  /// Empty, Null and an empty text are three different things.
+  /// Returns true if the value is of that type. Empty, Null and an empty string are three different values.
   ///@{
   bool IsEmpty() const { return Is<Empty>(); }
   bool IsNull() const { return Is<Null>(); }
   ///@}
 
-  /// Whether the value is of a type: Empty, Null, bool, std::int32_t, double, Date, Error or std::string.
+  /// Returns true if the value is of type T: Empty, Null, bool, std::int32_t, double, Date, Error or
+  /// std::string.
   template <class T>
   bool Is() const {
     return std::holds_alternative<T>(value_);
   }
-  /// The value if it is of that type, else a null pointer; good until another value is assigned.
+  /// Returns a pointer to the value if it is of type T, or a null pointer. The pointer is valid until another
+  /// value is assigned.
   template <class T>
   const T* If() const {
     return std::get_if<T>(&value_);
   }
 
-  /// Of the same type and the same: 1 as a std::int32_t isn't 1 as a double.
+  /// Compares type and value: 1 as a std::int32_t differs from 1 as a double.
   bool operator==(const Variant&) const = default;
 
  private:
   std::variant<Empty, Null, bool, std::int32_t, double, Date, Error, std::string> value_;
 };
 
-/// Null, ready made.
+/// A constant for Null.
 inline const Variant kNull = Variant::Null{};
 
-/// Empty is "", a Boolean "True" or "False", a number as NumberText writes it. Error 13 for an error value.
+/// Converts to a string: Empty to "", a Boolean to "True" or "False", a number as NumberText does. Raises
+/// error 13 for an error value.
 std::string CStr(const Variant& value);
-/// Empty is 0, True is -1; a text goes by ParseNumber.
+/// Converts to a number: Empty to 0, True to -1, a string as ParseNumber does.
 double CDbl(const Variant& value);
-/// Rounds halves to the even neighbour.
+/// Converts to a 32-bit integer. Halves are rounded to the even neighbour.
 std::int32_t CLng(const Variant& value);
-/// A number is True unless it is 0; a text says True or False, or is a number.
+/// Converts to a Boolean. A number is true unless it is 0; a string must be "True", "False" or a number.
 bool CBool(const Variant& value);
 
-/// The number that a whole text stands for, in the forms that CDbl accepts: blanks around, a sign on either
-/// side, parentheses for minus, a currency sign, thousands commas, an exponent, &H and &O. Locale-free.
+/// Returns the number that the whole text denotes, or nothing. Accepts the forms that CDbl accepts:
+/// surrounding blanks, a sign on either side, parentheses for a negative number, a currency sign, thousands
+/// separators, an exponent, and the prefixes &H and &O. The result doesn't depend on the locale.
 std::optional<double> ParseNumber(std::string_view text);
 
-/// True for what CDbl converts, but for dates, which count as not numeric.
+/// Returns true if CDbl converts the value. Dates are an exception: they are not numeric.
 ///@{
 bool IsNumeric(const Variant& value);
 bool IsNumeric(std::string_view text);
 ///@}
 
-/// The number at the beginning of a text, 0 if there is none; of another value, that of its CStr. Blanks,
-/// tabs and line ends anywhere are passed over, and the point is the decimal sign in every locale. Error 6
-/// for a number that is too large.
+/// Returns the number at the beginning of the text, or 0 if there is none; other values are converted with
+/// CStr first. Ignores blanks, tabs and line ends anywhere. The decimal separator is a point in every locale.
+/// Raises error 6 if the number is too large.
 ///@{
 double Val(std::string_view text);
 double Val(const Variant& value);
 ///@}
 
-/// The language's addition; error 6 for a sum beyond all numbers.
+/// Returns the sum of two numbers. Raises error 6 if the sum is out of range.
 double Sum(double a, double b);
 
-/// A number as the language writes it: 15 digits, a point, "1E+50" where it would be longer than that.
+/// Formats a number as the language does: up to 15 digits, a decimal point, and scientific notation ("1E+50")
+/// for numbers that would be longer.
 std::string NumberText(double value);
 
 }  // namespace plotsmith::runtime

@@ -18,7 +18,7 @@ using test::Settings;
 using test::With;
 using S = std::string;
 
-/// The calls that make one bubble of the row below the header by its number.
+/// Appends the calls that make a bubble from the row after the header with its number.
 void AppendBubble(Lines& lines, int number, const S& label) {
   const S series = "Chart.SeriesCollection(" + std::to_string(number) + ").",
           row = std::to_string(number + 1);
@@ -42,7 +42,7 @@ void AppendBubble(Lines& lines, int number, const S& label) {
   for (const S& line : own) lines.push_back(series + line);
 }
 
-/// The calls that paint it; an empty text for one without a label of its own.
+/// Appends the calls that colour it. The text is empty for a bubble without a colour label.
 void AppendPaint(Lines& lines, int number, const S& text) {
   const S series = "Chart.SeriesCollection(" + std::to_string(number) + ").";
   for (const char* line : {"Interior.Pattern", "Interior.PatternColorIndex", "Interior.PatternColor",
@@ -56,7 +56,7 @@ void AppendPaint(Lines& lines, int number, const S& text) {
 
 class BubbleChartTest : public test::ChartCallsTest {
  protected:
-  /// The calls up to the drawing of the legend, without what colours they set.
+  /// Returns the calls up to the drawing of the legend, without the colours that they set.
   Lines Calls(const test::PlainBook& book, const S& version = "16.0") {
     Lines calls = test::WithoutValues(ChartCalls(book, version), {".Interior."});
     const auto legend = std::find_if(calls.begin(), calls.end(),
@@ -77,7 +77,7 @@ TEST_F(BubbleChartTest, OrderOfCalls) {
       {{"Ada", "Red", 1, 2, 10}, {"Bo", "Blue", 3, 4, 30}, {" Cy ", "Red ", 5, 6, 20}}, definition);
   Lines expected = {"Chart.ChartArea.AutoScaleFont = False", "Chart.ChartType = 15"};
   AppendBubble(expected, 1, "Blue");
-  AppendBubble(expected, 2, "Red");  // labels are trimmed, names are not
+  AppendBubble(expected, 2, "Red");  // Labels are trimmed, and names aren't.
   AppendBubble(expected, 3, "Red");
   AppendPaint(expected, 1, "Bo");
   AppendPaint(expected, 2, " Cy ");
@@ -128,7 +128,7 @@ TEST_F(BubbleChartTest, OlderVersionsComeByWayOfAScatterChartAndKeepTheirLegend)
   }
   EXPECT_EQ(Calls(book, "11.0"), expected);
 
-  // once there is a legend, the series that repeats a name leaves it as soon as it is made
+  // If there is a legend, a series with a repeated name is removed from it as soon as it is made.
   for (int i = 0; i < 2; ++i) {
     const Lines again = ChartCalls();
     EXPECT_EQ(With(again, ".LegendEntries("), Lines{"Chart.Legend.LegendEntries(2).Delete"});

@@ -16,7 +16,7 @@ const S kHeader = "|[-BubbleColor-]|[-XAxisValue-]|[-YAxisValue-]|[-BubbleSize-]
 
 class BubbleDataTest : public test::BlockTest {
  protected:
-  /// The sizes in the block.
+  /// Returns the sizes in the block.
   S Sizes() { return Cells("VEX_ChartData", 2, 6, mCategoryCount + 1, 6); }
 };
 
@@ -127,7 +127,7 @@ TEST_F(BubbleDataTest, TheLargestBubbleComesFirst) {
   EXPECT_EQ(BlockNow(), kHeader + "B|y|3|4|500\nC|z|5|6|70\nA|x|1|2|5");
   EXPECT_EQ(Cells("VEX_ChartData", 1, 1, 4, 1), "VEX_Chart1\nVEX_Chart1\nVEX_Chart1\nVEX_Chart1");
 
-  // charts of other types keep their order
+  // Charts of other types keep their order.
   Definition column{"VEX_Chart2", "column"};
   column.categories = Columns("categories", {"Name"}, "rows");
   column.series = "<series headings-in=\"none\"/>";

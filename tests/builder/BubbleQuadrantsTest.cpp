@@ -21,7 +21,7 @@ Definition WithSettings(std::initializer_list<const char*> names) {
 
 class BubbleQuadrantsTest : public test::ChartCallsTest {
  protected:
-  /// The calls of the quadrants: all from the first that shows an axis or scales one.
+  /// Returns the calls that make the quadrants: all calls from the first that shows or scales an axis.
   Lines Quadrants(const Lines& calls) {
     for (std::size_t i = 0; i < calls.size(); ++i) {
       if (calls[i].starts_with("Chart.HasAxis("))
@@ -53,7 +53,7 @@ TEST_F(BubbleQuadrantsTest, OrderOfCalls) {
   Lines calls = Quadrants(ChartCalls(
       BubbleBook({{"A", "x", 4, -3, 5}, {"B", "x", 20, 50, 4}}, WithSettings({"autoscale-x", "quadrants"}))));
   for (S& line : calls) {
-    // the scale of the other axis is the host's
+    // The host chooses the scale of the other axis.
     if (line.starts_with("Chart.Axes(2, 1).MajorUnit = ")) line = "Chart.Axes(2, 1).MajorUnit";
   }
   EXPECT_EQ(calls, expected);

@@ -110,7 +110,7 @@ TEST_F(BucketChartTest, WhatOlderVersionsDoOtherwise) {
   EXPECT_TRUE(With(calls, ".Shapes").empty());
   EXPECT_EQ(With(calls, "HasLegend"), Lines{"Chart.HasLegend = True"});
 
-  // with a legend in place the series of the buckets leaves it, in a font in which all entries fit
+  // If there is a legend, the series of the buckets is removed from it, in a font in which all entries fit.
   calls = With(ChartCalls(), "Chart.Legend");
   ASSERT_GE(calls.size(), 3u);
   EXPECT_EQ(calls[0], "Chart.Legend.Font.Size = 1");

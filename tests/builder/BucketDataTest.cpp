@@ -26,7 +26,7 @@ TEST_F(BucketDataTest, ItemsAgainstBuckets) {
   };
   const Definition full = BucketDefinition();
   const Case cases[] = {
-      // Core is an item here: it takes the bucket's spelling as a name, and so does its label
+      // Core is an item here. Its name and its label take the spelling of the bucket.
       {"everything", full.series, full.rest, "Alpha|New|3|10|5\nBeta|old|1||20\nCORE|GROWTH|4||"},
       {"without labels", "<series headings-in=\"none\"><column name=\"Theme\"/></series>", full.rest,
        "Alpha|[none]|3|10|5\nBeta|[none]|1||20\nCORE|[none]|4||"},
@@ -48,7 +48,7 @@ TEST_F(BucketDataTest, ItemsAgainstBuckets) {
             "VEX_Chart1|[-StrategicBuckets-]|||120|50\nVEX_Chart1|Alpha|New|1|10|5");
   EXPECT_TRUE(Messages().empty());
 
-  // no category column leaves the row of the buckets, which is enough for a map
+  // Without a category column only the row of the buckets is left, which is enough for a map.
   EXPECT_EQ(
       Block({"VEX_Chart1", "strategic bucket", full.attributes, "", full.series, full.values, full.rest}),
       kHeader.substr(0, kHeader.size() - 1));
@@ -80,7 +80,7 @@ TEST_F(BucketDataTest, TheLimitCountsTheRowOfTheBuckets) {
     if (c.messages > 0) {
       EXPECT_EQ(Messages().back(), test::kLimitMessage);
     }
-    // at most 252 items; the key of the name that met the limit makes a last row without id and name
+    // At most 252 items are kept. The key of the name at the limit makes a last row without id and name.
     const int kept = std::min(c.items, 252);
     EXPECT_EQ(Cells("VEX_ChartData", kept + 2, 1, kept + 3, 2),
               "VEX_Chart1|P" + std::to_string(kept) + "\n|");

@@ -17,7 +17,7 @@ using S = std::string;
 
 class ChartCommentTest : public test::HostTest {};
 
-/// Puts a comment into a definition in memory, as a person does in the wizard, and builds the chart.
+/// Sets a comment in a definition in memory, like the wizard, and builds the chart.
 void Comment(const S& id, const S& text) {
   RetrieveTableDefinitions();
   RetrieveChartDefinitions();
@@ -35,7 +35,8 @@ void Comment(const S& id, const S& text) {
 TEST_F(ChartCommentTest, CommentsComeAndGoInPieces) {
   S text;
   for (int i = 0; i < 40; ++i) text += "0123456789";
-  text.replace(199, 2, "\xF0\x9D\x84\x9E");  // units 200 and 201: the cut goes through the character
+  text.replace(199, 2,
+               "\xF0\x9D\x84\x9E");  // These are units 200 and 201, so the cut is inside the character.
   text.insert(300, "\n");
   Open(SalesBook({Definition{"VEX_Chart1"}}));
   Comment("VEX_Chart1", text);
@@ -58,7 +59,7 @@ TEST_F(ChartCommentTest, CommentsComeAndGoInPieces) {
   EXPECT_NEAR(box()->Width(), 180, 0.01);
   EXPECT_NEAR(box()->Height(), 120, 0.01);
 
-  // what a person writes into the box is the comment from then on
+  // The text of the box becomes the comment.
   Refresh();
   SaveAndReopen();
   EXPECT_EQ(box()->TextFrame()->Characters()->Text(), text);
@@ -69,7 +70,7 @@ TEST_F(ChartCommentTest, CommentsComeAndGoInPieces) {
   EXPECT_EQ(box()->TextFrame()->Characters()->Text(), text + " and more");
   EXPECT_NE(Cells("VEX_ChartDefinitions", 2, 1, 2, 1).find(" and more</comment>"), S::npos);
 
-  // an empty comment takes the box away, and a box taken away the comment
+  // An empty comment deletes the box, and deleting the box deletes the comment.
   Comment("VEX_Chart1", "");
   SaveAndReopen();
   EXPECT_EQ(shapes()->Count(), 1);

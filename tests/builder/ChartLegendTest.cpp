@@ -22,14 +22,14 @@ const S kHide =
 
 class ChartLegendTest : public test::ChartCallsTest {
  protected:
-  /// What is asked of shapes, without their names and paths: "Left = 8".
+  /// Returns the calls on shapes without their names and paths, such as "Left = 8".
   static Lines ShapeCalls(const Lines& calls) {
     static const std::regex path(R"re(^.*?\.Shapes(\.Range)?(\((Array\()?("[^"]*"(, )?)*\)?\))?\.)re");
     Lines found;
     for (const S& line : With(calls, ".Shapes")) found.push_back(std::regex_replace(line, path, ""));
     return found;
   }
-  /// The texts of the entries that were drawn.
+  /// Returns the texts of the drawn entries.
   static Lines Entries(const Lines& calls) {
     Lines texts;
     for (const S& line : With(ShapeCalls(calls), "TextFrame.Characters.Text = ")) {
@@ -84,7 +84,7 @@ TEST_F(ChartLegendTest, AnEntryForEachNameAndAllOfThemOneShape) {
   };
   entry("North", "13");
   entry("South", "26");
-  // 8 + 22.5 rounds to the even 30, and the key adds its 8
+  // 8 + 22.5 is rounded to the even 30, and the key adds 8.
   for (const char* line : {"Group", "Name = \"VEX_Legend\"", "Width = 38", "Left", "Top"})
     expected.push_back(line);
   const Lines calls = ChartCalls(book);
@@ -102,7 +102,7 @@ TEST_F(ChartLegendTest, AnEntryForEachNameAndAllOfThemOneShape) {
   EXPECT_NEAR(legend->Width(), 38, 0.1);
   EXPECT_NE(SavedPart("/xl/charts/chart1.xml").find("userShapes"), S::npos);
 
-  // the next refresh draws it anew, in the place of the old one
+  // The next refresh draws it again in the same place.
   const Lines again = ShapeCalls(ChartCalls());
   ASSERT_FALSE(again.empty());
   EXPECT_EQ(again.front(), "Delete");
@@ -120,7 +120,7 @@ TEST_F(ChartLegendTest, WhoTookItAwayDoesNotGetItBack) {
   EXPECT_EQ(With(calls, "HasLegend").back(), "Chart.HasLegend = False");
   EXPECT_EQ(With(calls, "PlotArea.Width").size(), 1u) << "the plot area gets its width back";
 
-  // a definition that says "hide" with the shape in place is a chart whose legend is drawn
+  // If the definition says "hide" and the shape exists, the legend is drawn.
   ChartCalls(BubbleBook(bubbles, BubbleDefinition()));
   ASSERT_EQ(Names(), "VEX_Legend;");
   S stored = Cells("VEX_ChartDefinitions", 2, 1, 2, 1);
@@ -150,7 +150,7 @@ TEST_F(ChartLegendTest, NamesThatGetLostAndNamesThatSpoilIt) {
 TEST_F(ChartLegendTest, SizesAndPlacesByTheStoredFont) {
   struct Case {
     S size;
-    Lines frame;  // width, height, left and top of the text of "North", height and width of its key
+    Lines frame;  // Width, height, left and top of the text "North", and height and width of its key.
   };
   for (const Case& c :
        {Case{"4", {"Width = 10", "Height = 8", "Left = 4", "Top = 3", "Height = 3", "Width = 3"}},

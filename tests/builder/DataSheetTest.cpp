@@ -42,7 +42,7 @@ TEST_F(DataSheetTest, CellsCountByWhatTheyShow) {
   Definition definition{"VEX_Chart1", "column", "table-id=\"Data1\" number-format=\"0.0\""};
   definition.categories = Columns("categories", {"Day"}, "rows");
   definition.series = "<series headings-in=\"none\"/>";
-  // a text and an error add nothing, a numeric text its number, True is -1
+  // A text and an error add nothing, a numeric text adds its number, and True adds -1.
   EXPECT_EQ(Block(definition), "|Amount\n1/1/2020|1.0\nJan 20|10.0\nFeb 20|4.0\n|0.0\n2020|16.0\nx|-1.0");
   EXPECT_EQ(Book().FindWorksheet("VEX_ChartData")->CellValueAt(6, 2).kind, excel::CellValue::Kind::kText)
       << "a year as category stays a text";
@@ -60,7 +60,7 @@ TEST_F(DataSheetTest, ABlockIsMadeToFitInItsPlace) {
   Block(second);
   EXPECT_EQ(Cells("VEX_ChartData", 1, 1, 7, 1),
             "VEX_Chart1\nVEX_Chart1\nVEX_Chart1\nVEX_Chart2\nVEX_Chart2\nVEX_Chart2\n");
-  // grows by one row and a column fewer, then shrinks again
+  // The block grows by a row and loses a column, then shrinks again.
   first.categories = Columns("categories", {"Product", "Region"}, "rows");
   first.series = "<series headings-in=\"none\"/>";
   EXPECT_EQ(Block(first), "|Amount\nWidget|\nGadget|\nEast|18\nWest|5");

@@ -54,7 +54,7 @@ TEST_F(PivotTest, TheFiveWaysToLayATableOut) {
 }
 
 TEST_F(PivotTest, TheLimitOfSeriesIsMetOnTwoRoads) {
-  // 254 names, then one that is known already; then a new one
+  // There are 254 names, then a repeated one, then a new one.
   const auto rows = [&](int names, const S& last) {
     PlainBook book;
     test::PlainSheet sheet{"Data1"};

@@ -33,7 +33,7 @@ TEST_F(RefreshDriverTest, OneChartThatFailsDoesNotStopTheOthers) {
   EXPECT_EQ(Messages()[1],
             "Brindle Plotsmith: Chart 'Name of VEX_Chart2' has become unavailable because it was changed to "
             "an unsupported chart type.");
-  // calculation, screen and the host's macros, in their order around the charts
+  // The settings for calculation and screen, and the host's macros, in their order around the charts.
   std::vector<S> frame;
   std::copy_if(journal_.begin(), journal_.end(), std::back_inserter(frame),
                [](const S& line) { return line.starts_with("Application."); });
@@ -64,7 +64,7 @@ TEST_F(RefreshDriverTest, AnUnavailableChartRecoversByItself) {
   SaveAndReopen();
   ASSERT_NE(ChartXml(1).find("<c:ser>"), S::npos);
 
-  // the table loses its rows: no series, crosshatch, the message at each refresh
+  // The table loses its rows. The chart has no series, is crosshatched, and each refresh shows the message.
   book.Sheet("Data1").rows.resize(1);
   PlainBook emptied = book;
   emptied.Sheet("VEX_ChartDefinitions").rows[1] = {Cells("VEX_ChartDefinitions", 2, 1, 2, 1)};
@@ -80,7 +80,7 @@ TEST_F(RefreshDriverTest, AnUnavailableChartRecoversByItself) {
   const S definition = Cells("VEX_ChartDefinitions", 2, 1, 2, 1);
   EXPECT_NE(definition.find("chart-area-crosshatched=\"yes\""), S::npos);
 
-  // and it gets them back, while somebody had painted the area
+  // The table gets its rows back, and meanwhile a person has filled the area.
   PlainBook again = SalesBook({{"VEX_Chart1"}});
   again.Sheet("VEX_ChartDefinitions").rows[1] = {definition};
   S chart = ChartXml(1);

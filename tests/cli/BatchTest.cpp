@@ -20,7 +20,7 @@ using test::RunCommand;
 using test::SalesBook;
 using S = std::string;
 
-/// A refresh of several workbooks. What is printed names them without their folder.
+/// Tests refreshing several workbooks. The output names them without their folder.
 class BatchTest : public ::testing::Test {
  protected:
   S Write(const S& name, const test::PlainBook& book) {
@@ -29,7 +29,7 @@ class BatchTest : public ::testing::Test {
     return folder_ / name;
   }
   S Write(const S& name) { return Write(name, SalesBook({{"VEX_Chart1"}})); }
-  /// One with a chart that is drawn and one whose table is gone.
+  /// Writes a workbook with a chart that can be drawn and one whose table doesn't exist.
   S WriteHalf(const S& name) {
     auto book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "column", "table-id=\"Gone\""}});
     book.Sheet("Charts").frames[1].alternativeText = "VEX_Chart2";
@@ -39,7 +39,7 @@ class BatchTest : public ::testing::Test {
     std::ifstream file(path, std::ios::binary);
     return S((std::istreambuf_iterator<char>(file)), {});
   }
-  /// Whether the chart of a workbook is drawn.
+  /// Returns true if the chart of a workbook is drawn.
   static bool IsDrawn(const S& path) { return RunCommand({"charts", path}).out.ends_with("\n  ok\n"); }
   S Plain(const S& text) const { return runtime::Replace(text, folder_.Path().string() + "/", ""); }
 
@@ -62,7 +62,7 @@ TEST_F(BatchTest, OneThatFailsDoesNotStopTheOthers) {
       ".xlsx first, as only .xlsx, .xlsm, .xltx and .xltm can be read.\n";
   for (const S jobs : {"1", "2", "9"}) {
     Write("a.xlsx"), WriteHalf("b.xlsx"), Write("z.xlsx");
-    // messages come in the order of the arguments, whichever workbook is done first
+    // Messages are in the order of the arguments, independent of the order of completion.
     const CommandResult result =
         RunCommand({"refresh", first, half, none, text, last, first, "--jobs", jobs});
     EXPECT_EQ(result.code, 3) << "the worst";

@@ -25,10 +25,10 @@ class ChartVerbsTest : public test::WizardVerbsTest {
     book.sheets.push_back(numbers);
     book.sheets.push_back(test::SalesSheet("Data3"));
     book_ = Write(book);
-    // draws the first chart; the second one has something to say
+    // This draws the first chart and shows a message for the second one.
     EXPECT_EQ(RunCommand({"refresh", book_}).code, 1);
   }
-  /// Runs a verb on the workbook with the output elsewhere.
+  /// Runs a verb on the workbook with another output file.
   CommandResult Verb(std::vector<S> arguments) {
     arguments.insert(arguments.begin() + 1, book_);
     arguments.insert(arguments.end(), {"-o", out_});
@@ -65,7 +65,7 @@ TEST_F(ChartVerbsTest, WhatIsNotThereIsOneSentenceAndNothingIsSaved) {
        "no column 'Gain' for --category-columns; there are Amount and Cost."},
       {{"new", "--table", "Data1", "--type", "bar", "--sheet", "Sheet1"},
        "no sheet 'Sheet1' for --sheet; there are Data1, Charts, Data2 and Data3."},
-      // what a type or a layout doesn't have
+      // options that a type or a layout doesn't have
       {{"modify", "VEX_Chart1", "--sizes", "Cost"},
        "a column chart has no --sizes; it has --title, --categories, --category-columns, --series, "
        "--series-columns, --no-series, --values, --x-axis, --y-axis, --number-format, --labels, --set, "
@@ -88,7 +88,7 @@ TEST_F(ChartVerbsTest, WhatIsNotThereIsOneSentenceAndNothingIsSaved) {
       {{"modify", "VEX_Chart1", "--number-format", "\x01"}, "--number-format takes no control characters."},
       {{"new", "--table", "Data1", "--type", "bar", "--new-sheet", "vex_chartdata"},
        "--new-sheet can't be 'VEX_ChartData', which is a sheet of Plotsmith's own."},
-      // what the pages say
+      // messages of the pages
       {{"modify", "VEX_Chart1", "--number-format", "0\""},
        "The requested number format is not supported by Excel."},
       {{"modify", "VEX_Chart1", "--categories", "Product"},
@@ -191,11 +191,11 @@ TEST_F(ChartVerbsTest, OptionsReachTheirControlsFromAnyLayout) {
     S piece;
   };
   const Case cases[] = {
-      // a click on the only number column takes the series away
+      // A click on the only number column deselects the series.
       {oneNumber,
        {"--series", "Product", "--values", "Amount"},
        byProduct + "<values><column name=\"Amount\"/></values>"},
-      // columns can't be the categories while they are the series
+      // Number columns can't be the categories while they are the series.
       {twoNumbers,
        {"--category-columns", "Amount", "--no-series"},
        byColumn + "<series headings-in=\"none\"/>"},

@@ -29,7 +29,7 @@ const S kStray =
     "A chart here has the alternative text 'VEX_Chart1', and there is no definition of that id; a new chart "
     "could get the same id. Delete the chart, or clear its alternative text";
 
-/// What `check` finds: the lines that are indented, without the place of the first definition.
+/// Tests the findings of `check`: the indented lines, without the place of the first definition.
 class CheckTest : public ::testing::Test {
  protected:
   static S Bytes(const S& path) {
@@ -59,7 +59,7 @@ class CheckTest : public ::testing::Test {
     EXPECT_EQ(result.code, lines.empty() ? 0 : 1) << result.out;
     return lines;
   }
-  /// The findings about one definition over the sales table.
+  /// Returns the findings about one definition for the sales table.
   List Found(const Definition& definition) { return Found(SalesBook({definition})); }
 
   test::TempFolder folder_;
@@ -104,7 +104,7 @@ TEST_F(CheckTest, WhatTheSystemWritesIsFine) {
     test::EditPart(path, "/xl/drawings/drawing2.xml",
                    [](S& drawing) { drawing = runtime::Replace(drawing, "descr=", "title="); });
     EXPECT_EQ(RunCommand({"check", path}).code, 1) << "a person has detached the charts";
-    // LibreOffice drops the alternative text; a chart that was drawn is known by its data
+    // LibreOffice drops the alternative text. A drawn chart is identified by its data.
     auto package = xlsx::Package::Open(path);
     test::SetSavingProgram(package, "LibreOffice/7.4.7.2$Linux_X86_64 LibreOffice_project/40$Build-2");
     package.Save(path);

@@ -79,7 +79,8 @@ TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
   const S pipe = folder_ / "pipe.xlsx";
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
   test::PlainBook damaged = SalesBook({{"VEX_Chart1"}});
-  damaged.Sheet("Data1").afterData = "</worksheet><";  // after the cells: of no interest
+  damaged.Sheet("Data1").afterData =
+      "</worksheet><";  // The damage is after the cells, where it doesn't matter.
   const S odd = Write(damaged, "odd.xlsx");
   damaged.Sheet("Data1").rows.push_back({test::RawCell{" t='x><v>1</v></c>"}});
   const S bad = Write(damaged, "bad.xlsx");
@@ -109,7 +110,7 @@ TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
       {shared, "its sheets One and Three have one part in common"},
       {bad, "its part /xl/worksheets/sheet1.xml can't be read: its XML is damaged"}};
   for (const auto& [path, reason] : cases) {
-    const S before = path == pipe ? "" : Bytes(path);  // to read the pipe would wait for a writer
+    const S before = path == pipe ? "" : Bytes(path);  // Reading the pipe would wait for a writer.
     const CommandResult result = RunCommand({"refresh", path, "-o", folder_ / "out.xlsx"});
     EXPECT_EQ(result.code, 3) << path;
     EXPECT_EQ(result.err, "plotsmith: can't read \"" + path + "\": " + reason + ".\n");
@@ -125,7 +126,7 @@ TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
 }
 
 TEST_F(CommandTest, NothingIsSavedAfterMemoryRanOut) {
-  // there is memory for the first lines of the journal only, so that the work fails somewhere in its middle
+  // There is only enough memory for the first lines of the journal, so that the work fails in the middle.
   struct Buffer : std::streambuf {
     explicit Buffer(int lines) : left(lines) {}
     int left;
@@ -289,7 +290,7 @@ TEST_F(CommandTest, ListsAndJson) {
             "[[\"Amount\"],[\"#N/A\"],[5.0],[7.0],[1.0]]\n");
   EXPECT_EQ(Bytes(book), before) << "reading commands write nothing";
 
-  // what is one chart's id is not looked for among the names of others
+  // The id of a chart takes precedence over the names of others.
   auto alike = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}});
   alike.Sheet("Charts").frames[1].alternativeText = "VEX_Chart2";
   const S twins = Write(alike, "twins.xlsx");
@@ -316,7 +317,7 @@ TEST_F(CommandTest, StatesOfCharts) {
     std::istringstream list(RunCommand({"charts", book}).out);
     std::vector<S> lines;
     for (S line; std::getline(list, line);) {
-      if (line.starts_with("    ")) continue;  // what is wrong with the chart
+      if (line.starts_with("    ")) continue;  // This line is a problem of the chart.
       if (!line.starts_with("  "))
         lines.push_back(line.substr(0, 10));
       else if (line.find(" on sheet ") == S::npos)
@@ -453,7 +454,7 @@ TEST_F(CommandTest, RenamedColumnsAreCarriedIntoTheCharts) {
   sales.Sheet("Charts").frames[1].alternativeText = "VEX_Chart2";
   const S book = Write(sales);
   const auto definition = [&](const S& chart) { return RunCommand({"definition", book, chart}).out; };
-  // a swap, a chain and a plain one, all at once
+  // This renames a swap, a chain and a single column at once.
   CommandResult result = RunCommand(
       {"rename-columns", book, "--table", "Data1", "Region=Product", "Product=Region", "Amount=Units"});
   const S waiting =
@@ -466,7 +467,7 @@ TEST_F(CommandTest, RenamedColumnsAreCarriedIntoTheCharts) {
   EXPECT_NE(definition("VEX_Chart1").find("<values><column name=\"Units\""), S::npos);
   EXPECT_NE(definition("VEX_Chart2").find("<values><column name=\"Amount\""), S::npos) << "another table";
 
-  // a title that is the column's name goes along, one that somebody typed doesn't
+  // A title that equals the column's name is renamed, and a title that a person typed isn't.
   test::Definition titled{"VEX_Chart1"};
   titled.rest =
       "<axes><axis type=\"label\" label=\"Region\" sticky=\"no\"/><axis type=\"value\" label=\"Region\" "
@@ -482,7 +483,7 @@ TEST_F(CommandTest, RenamedColumnsAreCarriedIntoTheCharts) {
   EXPECT_NE(axes.find("<axis type=\"label\" label=\"Land\" sticky=\"no\"/>"), S::npos) << axes;
   EXPECT_NE(axes.find("<axis type=\"value\" label=\"Region\" sticky=\"yes\"/>"), S::npos) << axes;
 
-  // a heading may bear the new name in other letters
+  // A heading may have the new name in another case.
   test::EditPart(other, "/xl/worksheets/sheet1.xml",
                  [](S& sheet) { sheet.replace(sheet.find("Land"), 4, "AREA"); });
   EXPECT_EQ(RunCommand({"rename-columns", other, "--table", "Data1", "Land=Area"}).code, 0);

@@ -20,14 +20,14 @@ namespace {
 
 using S = std::string;
 
-/// The page as a reader sees it, without the language's marks.
+/// Returns the page as a reader sees it, without markup.
 S Unmarked(const S& page) {
   S text = std::regex_replace(page, std::regex(R"(\\f[BIR])"), "");
   text = std::regex_replace(text, std::regex(R"(\\-)"), "-");
   return std::regex_replace(text, std::regex(R"(\\\(aq)"), "'");
 }
 
-/// From the first line that begins so to the next line that begins as one of the same kind.
+/// Returns the text from the first line that begins with `begin` to the next line that begins with `end`.
 S Piece(const S& text, const S& begin, const S& end) {
   const auto from = text.find("\n" + begin);
   if (from == S::npos) return "";
@@ -65,7 +65,7 @@ TEST(ManualTest, NoLineOfThePageIsMistakenForARequest) {
   }
 }
 
-/// What bash offers at the end of a command line.
+/// Tests the completions that bash offers at the end of a command line.
 class CompletionTest : public ::testing::Test {
  protected:
   CompletionTest() {
@@ -112,7 +112,7 @@ TEST_F(CompletionTest, BashOffersWhatFits) {
   for (const auto& [words, offered] : cases) EXPECT_EQ(Offered(words), offered) << words;
 }
 
-/// The same with a verb that has arguments of every name that a workbook completes.
+/// Tests a verb that has all arguments that are completed from a workbook.
 class BookCompletionTest : public CompletionTest {
  protected:
   BookCompletionTest() {
@@ -165,7 +165,7 @@ TEST_F(BookCompletionTest, BashAsksTheWorkbook) {
   const S draw = S(test::kCommand) + " draw";
   const List charts = {R"(Name\ of\ VEX_Chart1)", "VEX_Chart1"};
   const S quotedBook = "'my book.xlsx'", sum = R"(Sum\ in\ \"\$\"\ \&\ more)";
-  // each word as it was typed, the last one perhaps in part
+  // The words as they were typed. The last one may be incomplete.
   const std::pair<List, List> cases[] = {
       {{quotedBook, "--table", ""}, {"Data1", "VEX_SB1"}},
       {{R"(my\ book.xlsx)", "--table", "D"}, {"Data1"}},
@@ -207,7 +207,7 @@ TEST_F(CompletionTest, EveryVerbAndOptionIsOffered) {
     for (const CLI::Option* option : verb->get_options()) {
       if (option->get_positional()) continue;
       const S name = "--" + option->get_lnames().front();
-      // an option may be the beginning of another one
+      // An option may be the beginning of another one.
       const auto offered = Offered("plotsmith " + verb->get_name() + " " + name);
       EXPECT_EQ(std::count(offered.begin(), offered.end(), name), 1) << verb->get_name() << ' ' << name;
       for (const S& other : offered) EXPECT_TRUE(other.starts_with(name)) << other;

@@ -14,9 +14,9 @@ using S = std::string;
 
 struct NewChart {
   S type;
-  std::vector<S> options;  ///< of the layout
-  S block;                 ///< its rows on the data sheet
-  S definition;            ///< what the pages write into it
+  std::vector<S> options;  ///< Options of the layout.
+  S block;                 ///< Its rows on the data sheet.
+  S definition;            ///< The part that the pages write.
 };
 
 const NewChart kNewCharts[] = {
@@ -73,7 +73,7 @@ const NewChart kNewCharts[] = {
 
 class NewChartTest : public test::WizardVerbsTest {
  protected:
-  /// The arguments of `new` that make the chart.
+  /// Returns the arguments of `new` that make the chart.
   static std::vector<S> Arguments(const S& book, const NewChart& chart) {
     std::vector<S> arguments = {"new",    book,       "--table", "Data1",
                                 "--type", chart.type, "--title", "A " + chart.type};
@@ -84,13 +84,14 @@ class NewChartTest : public test::WizardVerbsTest {
     arguments.insert(arguments.end(), more.begin(), more.end());
     return arguments;
   }
-  /// The rows of the one chart on the data sheet, without its id.
+  /// Returns the rows of the only chart on the data sheet, without its id.
   static S Block(const S& book) {
     const S cells = RunCommand({"cells", book, "VEX_ChartData!A1:F9"}).out;
     const S rows = std::regex_replace(cells, std::regex("VEX_Chart1"), "");
     return std::regex_replace(std::regex_replace(rows, std::regex("\t+\n"), "\n"), std::regex("\n+$"), "\n");
   }
-  /// The definition without what was read from the chart, and without what a refresh copies from the table.
+  /// Returns the definition without the parts that a load reads from the chart or that a refresh copies from
+  /// the table.
   static S Written(const S& book) {
     const std::regex copied(
         " (table-top-row|table-left-column|table-height|header-row-count|data-start-row|worksheet-column-"
@@ -99,7 +100,7 @@ class NewChartTest : public test::WizardVerbsTest {
     const S text = std::regex_replace(Definition(book, "VEX_Chart1"), copied, "");
     return std::regex_replace(text, std::regex("<auto-persistence>.*</auto-persistence>"), "");
   }
-  /// The part of the one chart, without its legend.
+  /// Returns the part of the only chart, without its legend.
   static S ChartPart(const S& book) {
     const S part = xlsx::Package::Open(book).Read("/xl/charts/chart1.xml");
     return std::regex_replace(part, std::regex("<c:legend>.*</c:legend>"), "");
@@ -130,7 +131,7 @@ TEST_F(NewChartTest, ARefreshFindsNothingToDoAfterIt) {
     ASSERT_EQ(RunCommand({"refresh", out, "-o", refreshed}).code, 0) << chart.type;
     EXPECT_EQ(Written(out), Written(refreshed)) << chart.type;
     EXPECT_EQ(Block(out), Block(refreshed)) << chart.type;
-    // a legend gets the font that was read back from it
+    // A legend gets the font that was read back from it.
     EXPECT_EQ(ChartPart(out), ChartPart(refreshed)) << chart.type;
   }
 }

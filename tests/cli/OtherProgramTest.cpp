@@ -15,16 +15,16 @@ namespace {
 namespace fs = std::filesystem;
 using S = std::string;
 
-/// What came of a line of the shell.
+/// The result of a line of the shell.
 struct Ended {
-  int status;  ///< as the shell tells it: 128 and more is a signal
-  S text;      ///< stdout and stderr
+  int status;  ///< The exit status in the shell's format: 128 and more is a signal.
+  S text;      ///< The text of stdout and stderr.
   bool operator==(const Ended&) const = default;
 };
 
 void PrintTo(const Ended& ended, std::ostream* out) { *out << ended.status << ": " << ended.text; }
 
-/// The command, alone in a folder, as it is after an installation.
+/// Tests the command alone in a folder, as after an installation.
 class OtherProgramTest : public testing::Test {
  protected:
   void SetUp() override {
@@ -32,7 +32,7 @@ class OtherProgramTest : public testing::Test {
     fs::copy_file(test::kCommand, folder_ / "bin/plotsmith");
   }
 
-  /// Puts a script of the shell into the folder under the name of the wizard's program.
+  /// Writes a shell script with the name of the wizard's program into the folder.
   void PutProgram(const S& folder, const S& lines, bool executable = true) {
     const S path = folder_ / (folder + "/plotsmith-wizard");
     std::ofstream(path) << "#!/bin/sh\n" << lines;
@@ -92,7 +92,7 @@ TEST_F(OtherProgramTest, TheWizardsProgramIsLookedForBesideTheCommandAndThenInPa
                           "\": No such file or directory.\n"}));
 }
 
-/// Each library costs the start of the command time, and a toolkit costs ten times as much as all others.
+/// Each library makes the start of the command slower, and a toolkit costs ten times as much as all others.
 TEST_F(OtherProgramTest, TheCommandLoadsNoToolkit) {
   const S list = folder_ / "list.txt";
   ASSERT_EQ(std::system(("ldd " + (folder_ / "bin/plotsmith") + " > " + list).c_str()), 0);

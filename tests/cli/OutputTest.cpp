@@ -15,7 +15,7 @@ using test::RunCommand;
 using test::SalesBook;
 using S = std::string;
 
-/// What a verb writes, and where.
+/// Tests the outputs of the verbs.
 class OutputTest : public ::testing::Test {
  protected:
   S Write(const S& name, bool macros = false) {
@@ -37,7 +37,7 @@ class OutputTest : public ::testing::Test {
     return S((std::istreambuf_iterator<char>(file)), {});
   }
   static S MainType(const S& path) { return xlsx::Package::Open(path).ContentType("/xl/workbook.xml"); }
-  /// Each verb that writes a workbook, without its output.
+  /// Returns each verb that writes a workbook, without its output.
   std::vector<std::vector<S>> WritingVerbs(const S& book) {
     const S script = folder_ / "steps.txt";
     const auto made = RunCommand({"delete", book, "VEX_Chart1", "--print-script"});

@@ -22,7 +22,7 @@ using test::CommandResult;
 using test::RunCommand;
 using S = std::string;
 
-/// What another program's chart looks like in its part: one series of columns.
+/// The contents of another program's chart part: one series of columns.
 constexpr const char* kForeignChart =
     "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\"><c:chart><c:plotArea>"
     "<c:barChart><c:barDir val=\"col\"/><c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:val><c:numLit>"
@@ -37,7 +37,7 @@ S BytesOf(const S& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// The format that the bytes are of.
+/// Returns the format of the bytes.
 S FormatOf(const S& bytes) {
   if (bytes.starts_with("\x89PNG\r\n")) return "png";
   if (bytes.starts_with("%PDF-")) return "pdf";
@@ -68,7 +68,7 @@ class RenderTest : public ::testing::Test {
   }
   void TearDown() override { EXPECT_TRUE(BytesOf(book_) == fresh_) << "the workbook was changed"; }
 
-  /// "BOOK" is the workbook and "DIR" an empty folder, also in the answer.
+  /// Runs the command. "BOOK" is the workbook and "DIR" is an empty folder, also in the result.
   CommandResult Run(const std::vector<S>& arguments, test::Watched watched = test::Watched::kNothing) {
     fs::remove_all(folder_ / "dir");
     fs::create_directory(folder_ / "dir");
@@ -80,7 +80,7 @@ class RenderTest : public ::testing::Test {
       *text = runtime::Replace(runtime::Replace(*text, book_, "BOOK"), folder_ / "dir", "DIR");
     return result;
   }
-  /// The names in the folder and what they are, "a.svg svg, b.png png".
+  /// Returns the names and formats of the files in the folder, such as "a.svg svg, b.png png".
   S Files() {
     std::vector<S> names;
     for (const auto& entry : fs::recursive_directory_iterator(folder_ / "dir")) {
@@ -125,7 +125,7 @@ TEST(PictureNamesTest, NamesAreSafeShortAndToldFromEachOther) {
 
 TEST_F(RenderTest, PicturesGoWhereTheOutputSays) {
   const struct {
-    std::vector<S> arguments;  ///< behind the verb
+    std::vector<S> arguments;  ///< The arguments after the verb.
     S files, out;
   } cases[] = {
       {{"BOOK", "-o", "DIR"},
@@ -278,7 +278,7 @@ TEST_F(RenderTest, SizesFollowScaleAndResolution) {
       for (std::size_t i = at; i < at + 4; ++i) value = value * 256 + static_cast<unsigned char>(bytes.at(i));
       return value;
     };
-    return std::pair(number(16), number(20));  // of the header's width and height
+    return std::pair(number(16), number(20));  // Width and height in the header.
   };
   const auto [width, height] = png({});
   EXPECT_EQ(png({"--dpi", "192"}), std::pair(2 * width, 2 * height));
@@ -359,7 +359,7 @@ TEST_F(RenderTest, ARefreshDrawsWhatItHasRefreshed) {
   EXPECT_EQ(result.code, 2);
   EXPECT_EQ(result.err, "plotsmith: the charts of \"BOOK\" and \"" + twin +
                             "/book.xlsx\" would have the same names in \"DIR\".\n");
-  // with the workbook on the standard output, nothing else goes there
+  // If the workbook goes to standard output, nothing else does.
   const CommandResult streamed = Run({"refresh", "BOOK", "-o", "-", "--render", "DIR"});
   EXPECT_EQ(streamed.code, 0);
   EXPECT_TRUE(streamed.out.starts_with("PK"));

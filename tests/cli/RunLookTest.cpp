@@ -26,7 +26,7 @@ const S kDefinitions = "/xl/worksheets/sheet3.xml";
 const S kDrawing = "/xl/drawings/drawing2.xml";
 const S kChart = "/xl/charts/chart1.xml";
 
-/// What the commands that write say of a person's work, line by line on stderr.
+/// Tests the messages on stderr with which writing commands report what happens to a person's work.
 class RunLookTest : public ::testing::Test {
  protected:
   static S Bytes(const S& path) {
@@ -37,14 +37,14 @@ class RunLookTest : public ::testing::Test {
     book.Write(path_);
     return path_;
   }
-  /// A book with these texts in the rows of the definitions, and a chart for VEX_Chart1.
+  /// Writes a workbook with these texts in the rows of the definitions, and with a chart for VEX_Chart1.
   S WriteRows(const List& rows) {
     PlainBook book = SalesBook({{"VEX_Chart1"}});
     book.sheets.pop_back();
     book.AddDefinitions(rows);
     return Write(book);
   }
-  /// A refresh, with the code that goes with saying something and with silence.
+  /// Runs a refresh and checks that its exit code fits to its messages.
   S Refresh(const List& options = {}) {
     List arguments = {"refresh", path_};
     arguments.insert(arguments.end(), options.begin(), options.end());
@@ -73,7 +73,7 @@ const S kStray =
     "that "
     "id; a new chart could get the same id. Delete the chart, or clear its alternative text.\n";
 
-/// A line about the first definition of a sales book.
+/// Returns a line about the first definition of a sales workbook.
 S Line(const S& sentence, const S& place = "VEX_ChartDefinitions!A2") {
   return "plotsmith: " + place + " (chart 'Name of VEX_Chart1'): " + sentence + "\n";
 }
@@ -84,7 +84,7 @@ TEST_F(RunLookTest, NothingIsWrittenWhereADefinitionWouldBeLost) {
   const struct {
     List rows;
     S place, sentence;
-    int charts;  ///< that are left when the row is dropped
+    int charts;  ///< The number of charts that are left when the row is dropped.
   } cases[] = {
       {{runtime::Replace(good, "Name of", "This & that"), good},
        "A2: ",
@@ -210,7 +210,7 @@ TEST_F(RunLookTest, ADefinitionThatAProgramChangedIsToldFromAChartThatAPersonCha
       << "all definitions are stored, whichever table is refreshed";
   EXPECT_EQ(Refresh(), kept);
   EXPECT_EQ(Refresh(), "");
-  Edit(kChart, "?><c:chartSpace", "?>\r\n<c:chartSpace");  // a spreadsheet program has saved it
+  Edit(kChart, "?><c:chartSpace", "?>\r\n<c:chartSpace");  // A spreadsheet program has saved the workbook.
   edit();
   EXPECT_EQ(Refresh(), "") << "perhaps a person has changed the chart";
   Edit(kDefinitions, "title=\"Sales\"", "title=\"Costs\"");

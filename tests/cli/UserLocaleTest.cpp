@@ -60,7 +60,7 @@ TEST(UserLocaleTest, PosixNamesHaveWindowsIdentifiers) {
   for (const auto& [name, lcid] : cases) EXPECT_EQ(LCIDOfLocale(name), lcid) << name;
 }
 
-/// Puts the variables that tell the locale back when the test is over.
+/// Restores the environment variables for the locale after the test.
 class LocaleVariables {
  public:
   LocaleVariables() {

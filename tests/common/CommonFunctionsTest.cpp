@@ -95,7 +95,7 @@ TEST_F(CommonFunctionsTest, SampleNumbers) {
   EXPECT_EQ(FormatSampleNumber("0.0.\""), "(invalid format)");
 }
 
-/// A desktop whose clock stands where the test puts it.
+/// A desktop whose clock is set by the test.
 class ClockDesktop : public desktop::Desktop {
  public:
   std::int32_t MsgBox(std::string_view, desktop::Buttons, desktop::Icon, std::string_view) override {
@@ -112,7 +112,7 @@ TEST_F(CommonFunctionsTest, YieldsAtMostEveryTwoSeconds) {
   const auto clock = std::make_shared<ClockDesktop>();
   const auto view = std::make_shared<test::HandView>();
   StartSystem(clock, view);
-  // the stored time is whole seconds; after midnight nothing happens until the clock has passed it
+  // The stored time is in whole seconds. After midnight nothing happens until the clock has passed it.
   const std::pair<double, int> cases[] = {{50000.4, 1}, {50001.9, 1}, {50002.0, 2}, {86399.0, 3},
                                           {5.0, 3},     {86400.9, 3}, {86401.0, 4}};
   for (const auto& [now, yields] : cases) {

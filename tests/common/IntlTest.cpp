@@ -14,7 +14,7 @@ namespace {
 
 using S = std::string;
 
-/// A desktop in a locale of the test's choice.
+/// A desktop with a locale that the test chooses.
 class LocaleDesktop : public desktop::Desktop {
  public:
   std::int32_t MsgBox(std::string_view, desktop::Buttons, desktop::Icon, std::string_view) override {
@@ -46,7 +46,7 @@ TEST_F(IntlTest, FontsFitTheLocale) {
   const struct {
     std::int32_t lcid, charset;
     S typeface;
-    double least;  ///< points; 0 where the size stays
+    double least;  ///< In points; 0 if the size doesn't change.
   } cases[] = {
       {1025, 178, systems, 8},
       {1028, 136, "新細明體", 9},
@@ -91,7 +91,7 @@ TEST_F(IntlTest, TheDefaultFontKeepsItsCharacterSet) {
 TEST_F(IntlTest, AFormAndItsControlsButForGridsTakeTheLocale) {
   struct SomeForm : forms::Form {
     SomeForm() : Form("frmSome") {}
-    forms::Image imgOne{*this, "imgOne", nullptr};  // has no font, and doesn't stop the walk
+    forms::Image imgOne{*this, "imgOne", nullptr};  // An image has no font and doesn't stop the loop.
     forms::VSFlexGrid grdOne{*this, "grdOne", nullptr, forms::MultiSelect::kNone, 1, 0};
     forms::TextBox txtOne{*this, "txtOne", nullptr};
   } form;

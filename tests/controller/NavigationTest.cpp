@@ -19,7 +19,7 @@ using test::PlainBook;
 using test::SalesBook;
 using S = std::string;
 
-/// Runs the wizard with a hand that asks for moves, as the buttons of the pages do.
+/// Runs the wizard with a simulated user that requests moves, like the buttons of the pages.
 class NavigationTest : public test::HostTest {
  protected:
   NavigationTest() { StartSystem(desktop_, view_); }
@@ -32,7 +32,7 @@ class NavigationTest : public test::HostTest {
   static auto Jump(int lStep, int lOrigin) {
     return [=](forms::Form& front) { PSJumpToStep(lStep, lOrigin, &dynamic_cast<Page&>(front)); };
   }
-  /// Takes up the chart VEX_Chart1 as a button of the first page would, with another type.
+  /// Selects the chart VEX_Chart1 like a button of the first page, with another type.
   static auto Choose(int lMethod, const S& type) {
     return [=](forms::Form& front) {
       lMethodType = lMethod;
@@ -51,8 +51,7 @@ const S kTable = "show frmPSSelectTable; close frmPSSelectTable; ";
 const S kAbc = "show frmPSLayoutABC; close frmPSLayoutABC; ";
 const S kLocation = "show frmPSChartLocation; close frmPSChartLocation; ";
 
-/// What the log tells of pages that each open out of the one before: a page closes when the handler that
-/// opened the next one returns.
+/// Returns the log of nested pages: a page closes when the handler that opened the next page returns.
 S Nested(const std::vector<S>& names) {
   S opened, closed;
   for (const S& name : names) {
@@ -84,7 +83,7 @@ TEST_F(NavigationTest, WaysThroughTheWizard) {
 
 TEST_F(NavigationTest, FinishStopsAtTheFirstPageThatIsNotSatisfied) {
   Open(SalesBook({{"VEX_Chart1"}}));
-  // the page's options know no such choice for this table, so the test makes it behind their backs
+  // The page doesn't offer this type for the table, so the test sets it directly.
   const auto finish = [](const S& type) {
     return [=](forms::Form& front) {
       sChartType = type;
@@ -152,7 +151,7 @@ TEST_F(EntryTest, GuardsSpeakInTheirOrder) {
   EXPECT_FALSE(Book().Changed());
   EXPECT_FALSE(oWorkbook);
 
-  // a shared workbook has revision headers; of one that is protected too, only the protection is told
+  // A shared workbook has revision headers. If it is also protected, only the protection is reported.
   for (const bool isProtected : {true, false}) {
     if (!isProtected) book.workbookExtra = "";
     book.extraParts = {{"xl/revisions/revisionHeaders.xml", "<headers/>"}};
@@ -180,7 +179,7 @@ TEST_F(EntryTest, GuardsSpeakInTheirOrder) {
   EXPECT_EQ(Messages().size(), 4u);
 }
 
-/// A host that is in the middle of something and refuses what it is told.
+/// A host that is busy and refuses changes.
 class RefusingHost : public excel::Application {
  public:
   explicit RefusingHost(std::shared_ptr<excel::Application> inner) : inner_(std::move(inner)) {}
@@ -224,7 +223,7 @@ TEST_F(EntryTest, EditModeIsFoundByTheHostsRefusal) {
             std::vector<S>{
                 "Brindle Plotsmith: You are currently editing a cell or object. Please finish editing before "
                 "using the Plotsmith."});
-  editing->interactive = false;  // then nobody can be editing, and the property isn't touched
+  editing->interactive = false;  // Nobody can be editing then, so the property isn't set.
   controller.RefreshPlotsmithData(editing, "", "");
   EXPECT_EQ(Messages().size(), 1u);
 }
@@ -262,7 +261,7 @@ TEST_F(EntryTest, AChartSheetInFrontDoesNotStopARefresh) {
   EXPECT_NE(std::find(journal_.begin(), journal_.end(), "Chart.ChartType = 51"), journal_.end());
   EXPECT_EQ(journal_.back(), "Application.Run(\"VEXEvents.VEXChartRefreshComplete\")");
   EXPECT_FALSE(colCharts) << "the run has ended";
-  // one that can't be read is no active chart, and none of the others' business
+  // A chart that can't be read isn't the active chart and doesn't affect others.
   test::EditPart(folder_ / "front.xlsx", "/xl/worksheets/_rels/sheet4.xml.rels",
                  [](S& links) { links += "<"; });
   OpenFile(folder_ / "front.xlsx");
@@ -289,7 +288,7 @@ TEST_F(EntryTest, TheFirstCallersHostAndNameStay) {
   EXPECT_EQ(App.HelpFile, "second.chm");
   EXPECT_TRUE(oApplication == excel::Ref<excel::Application>(first));
   ResetSystem();
-  controller.RefreshChartsForTable(second, table);  // no workbook, and no guard that says so
+  controller.RefreshChartsForTable(second, table);  // There is no workbook, and no check reports it.
   ASSERT_EQ(Messages().size(), 3u);
   EXPECT_EQ(Messages()[1],
             "Brindle Plotsmith: PSFunctions.RetrieveTableDefinitions\nObject variable or With block variable "

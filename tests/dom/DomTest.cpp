@@ -81,7 +81,7 @@ TEST(DomTest, NodesMoveBetweenTreesAndOut) {
   auto column = first.createElement("c");
   column.setAttribute("n", "3");
   root.appendChild(column);
-  column.setAttribute("n", "4");  // the handle follows into the other document
+  column.setAttribute("n", "4");  // The handle follows the node into the other document.
   EXPECT_EQ(second.xml(), "<t><c n=\"4\"/></t>");
 
   auto loose = first.createElement("c");
@@ -109,7 +109,7 @@ TEST(XmlDepthTest, CountsElementsAndNothingElse) {
       {"<a><b/><b x='>'/><!-- <c> --><![CDATA[<d>]]><?p <e>?>text</a>", 2, false},
       {"<a><b>text</b></a>", 1, true},
       {"<a></a><a></a>", 1, false},
-      // what looks like a quotation to whoever doesn't know what stands where
+      // This looks like a quotation to a scanner that ignores the context.
       {"<!DOCTYPE a [<!-- ' -->]><a><b/></a><!-- ' -->", 1, true},
       {"<!DOCTYPE a [<!ENTITY x '<a><b/></a>'>]><a/>", 1, false}};
   for (const auto& [xml, limit, deeper] : cases) {

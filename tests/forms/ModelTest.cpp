@@ -169,8 +169,7 @@ TEST(ModelTest, HandsMoveTheFocusAndRaiseEvents) {
   for (const Rule& rule : rules) EXPECT_EQ(EventsOf(rule), rule.events) << rule.name;
 }
 
-/// A view that posts one prepared gesture at each wait, on the form in front, and closes it when there is
-/// none left.
+/// A view that posts a prepared action on the front form at each wait, and closes the form when none is left.
 class PreparedView final : public View {
  public:
   void Open(Form& form) override { open_.push_back(&form); }
@@ -230,7 +229,7 @@ TEST_F(ModalLoopTest, AFormMayGoInsideOfItsOwnEvent) {
   form_->OnOK = [&] {
     SmallForm& self = *form_;
     self.Unload();
-    // the variable that the form came from gets the next instance, and nothing else holds the first one
+    // The variable of the form gets the next instance, and nothing else refers to the first one.
     form_ = std::make_shared<SmallForm>(log_, "frmSecond");
     loop_.ShowModal(form_);
     EXPECT_FALSE(first.expired()) << "its event is still running";
@@ -284,7 +283,8 @@ TEST_F(ModalLoopTest, GesturesOnAFormBelowAreDropped) {
   EXPECT_EQ(second->chk3D.Value(), CheckBox::kChecked);
 }
 
-/// A form with a timer that ticks twice while the form works, and hides it at the second tick after that.
+/// A form with a timer that ticks twice while the form works, and hides the form at the second tick after
+/// that.
 class TickingForm : public Form {
  public:
   explicit TickingForm(ModalLoop& loop) : Form("frmTicking"), loop_(loop) {

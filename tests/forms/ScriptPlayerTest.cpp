@@ -11,11 +11,11 @@ namespace {
 using S = std::string;
 using Log = std::vector<S>;
 
-/// Runs of a small wizard: OK on the first form opens a second one, which asks a question and has something
-/// to say.
+/// Tests scripts on a small wizard: OK on the first form opens a second form, which asks a question and shows
+/// a message.
 class ScriptPlayerTest : public ::testing::Test {
  protected:
-  /// "" where the script was played to its end, else "LINE: sentence".
+  /// Runs a script. Returns "", or "LINE: sentence" for the line that failed.
   S Play(const S& script) {
     log_.clear();
     shown_.clear();

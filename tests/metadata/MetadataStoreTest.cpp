@@ -31,7 +31,7 @@ class MetadataStoreTest : public test::HostTest {
   std::string Attribute(const std::string& id, const char* name) {
     return GetAttributeText(colCharts->Item(id).selectSingleNode("chart"), name);
   }
-  /// The start of each row of the definitions' sheet.
+  /// Returns the beginning of each row of the sheet of definitions.
   std::string Rows(int count) {
     std::string text;
     for (int row = 1; row <= count; ++row)
@@ -45,8 +45,8 @@ TEST_F(MetadataStoreTest, RowsWithoutAPlaceGoAndTheOthersKeepTheirOrder) {
   auto& rows = book.Sheet("VEX_ChartDefinitions").rows;
   using Row = test::PlainRow;
   const std::vector<Row> old = rows;
-  // not XML; no chart in the workbook; a second row of one id; no chart element; no id, beside a foreign
-  // chart without alternative text
+  // Not XML; no chart in the workbook; a second row with an id; no chart element; no id, beside a foreign
+  // chart without alternative text.
   book.Sheet("Charts").frames.push_back({"", "", 0, 60});
   rows = {old[0],
           old[1],
@@ -180,7 +180,7 @@ TEST_F(MetadataStoreTest, IdentityAndPlaceOfANewChart) {
   EXPECT_FALSE(ChartNameInUse("Chart2")) << "a chart doesn't collide with itself";
 
   CreateEmptyChart("Charts", "VEX_Chart2");
-  CreateEmptyChart("Data1", "VEX_Chart4");  // a sheet without a drawing
+  CreateEmptyChart("Data1", "VEX_Chart4");  // The sheet has no drawing.
   SaveAndReopen();
   EXPECT_TRUE(Messages().empty());
   Load();

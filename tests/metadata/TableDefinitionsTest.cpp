@@ -22,7 +22,7 @@ class TableDefinitionsTest : public test::HostTest {
     return ids;
   }
   std::string Xml(const std::string& id) { return colTables->Item(id).xml(); }
-  /// The columns of Data1 with the first letters of their kinds.
+  /// Returns the columns of Data1 with the first letters of their kinds.
   std::string Kinds() {
     Ids();
     std::string kinds;
@@ -33,7 +33,7 @@ class TableDefinitionsTest : public test::HostTest {
   }
 };
 
-/// Title, a blank row, headings, two rows of data; at B3 of the sheet.
+/// Returns a sheet with title, blank row, headings and two data rows, beginning at B3.
 PlainSheet RangeSheet(const std::string& name) {
   PlainSheet sheet;
   sheet.name = name;
@@ -53,7 +53,7 @@ TEST_F(TableDefinitionsTest, RangeTableOfANameInAnyCaseOnAQuotedSheet) {
   book.names = {{"vex_tablerange_1", "'It''s a sheet'!$B$3:$C$7"}};
   Open(book);
   EXPECT_EQ(Ids(), "vex_tablerange_1 ");
-  // the width comes from the used area and not from the name, so Note belongs to the table
+  // The width comes from the used range and not from the name, so Note belongs to the table.
   EXPECT_EQ(Xml("vex_tablerange_1"),
             "<table id=\"vex_tablerange_1\" name=\"Investments\" table-worksheet=\"It's a sheet\" "
             "table-top-row=\"3\" "
@@ -133,7 +133,7 @@ TEST_F(TableDefinitionsTest, ClassifiesColumns) {
 TEST_F(TableDefinitionsTest, BlankStretchesHideNoText) {
   PlainBook book;
   PlainSheet sheet{"Data1"};
-  // the last row of the sheet, and behind it in the file one above
+  // The last row of the sheet, followed in the file by a row above it.
   const RawCell rows{
       "/></row><row r=\"1048576\"><c r=\"B1048576\" t=\"str\"><v>x</v></c><c "
       "r=\"C1048576\"><v>1</v></c></row>"

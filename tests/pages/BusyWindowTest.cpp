@@ -15,7 +15,7 @@ using S = std::string;
 class BusyWindowTest : public test::HostTest {
  protected:
   BusyWindowTest() { StartSystem(desktop_, view_); }
-  /// Shows a window with that work; `during` runs in the middle of it.
+  /// Shows a window with the work. `during` runs in the middle of it.
   void Show(
       std::int32_t method, std::function<void(frmBusyPS&)> during = [](frmBusyPS&) {}) {
     auto* const self = this;

@@ -88,7 +88,7 @@ TEST_F(ChartLocationTest, MessagesMoveTheFocusAndStoreNothing) {
       {kNewBesideOthers + newSheet + "a:b",
        "Invalid worksheet name. Please enter a valid name for the worksheet.", "txtSheet"},
       {ModifyChart() + "press cmdNext; type txtName \"\"", "Please provide a name for the chart", "txtName"},
-      // the page is asked before it is shown
+      // The page is checked before it is shown.
       {"press cmdNew; " + NewChart(1) + "type txtTitle A", nameInUse, "txtName"},
   };
   for (const auto& [script, message, focus] : cases) {
@@ -108,8 +108,8 @@ TEST_F(ChartLocationTest, FinishPutsTheChartOnItsSheet) {
   const PlainBook book = BookOfCharts({{"Charts", "a"}, {"Charts", "b"}, {"Hidden", "c"}});
   struct Case {
     S script;
-    int row;        ///< of the definition
-    S name, sheet;  ///< in the definition
+    int row;        ///< The row of the definition.
+    S name, sheet;  ///< Values in the definition.
     S active, shapesOn, shapes;
   };
   const S onCharts = "3 VEX_Chart1\n3 VEX_Chart2\n";
@@ -120,10 +120,11 @@ TEST_F(ChartLocationTest, FinishPutsTheChartOnItsSheet) {
        "Mine", "Mine", "Mine", "3 VEX_Chart4\n"},
       {"press cmdNew; " + NewChart(3) + "press cmdFinish; page none", 5, "Chart4", "Data1", "Data1", "Data1",
        "3 VEX_Chart4\n"},
-      // a chart that is there already may take another one's name
+      // An existing chart may take the name of another one.
       {ModifyChart(1) + "press cmdNext; type txtName B; press cmdFinish; page none", 2, "B", "Charts",
        "Charts", "Charts", onCharts},
-      // the list has no hidden sheet, so the definition names the first one until the next run looks again
+      // The list has no hidden sheets, so the definition contains the first sheet until the next run corrects
+      // it.
       {ModifyChart(3) + "press cmdNext; expect cboSheet.Text Data1; press cmdFinish; page none", 4, "c",
        "Data1", "Data1", "Hidden", "3 VEX_Chart3\n"},
   };

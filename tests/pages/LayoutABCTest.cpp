@@ -12,11 +12,11 @@ using S = std::string;
 
 class LayoutABCTest : public test::PagesTest {
  protected:
-  /// A step on the page, and what is off and shows after it.
+  /// A step on the page, with the disabled controls and the visible pictures after it.
   struct State {
     S script;
     S off;
-    S expected;  ///< more lines
+    S expected;  ///< Further lines.
   };
 };
 
@@ -187,7 +187,8 @@ TEST_F(LayoutABCTest, MessagesMoveTheFocus) {
   struct Case {
     int type;
     S script, message, focus;
-    bool outlivesBack = true;  ///< the page doesn't come back with its first entries instead
+    bool outlivesBack =
+        true;  ///< Whether the state is kept after Back, rather than reset to the first entries.
   };
   const Case cases[] = {
       {kColumn, noList, noX, "lstCategories"},

@@ -8,7 +8,7 @@ using test::NewChart;
 using test::SalesBook;
 using S = std::string;
 
-/// What follows the focus on the layout pages: the mark of the frame, the axis boxes, the default button.
+/// Tests what depends on the focus on layout pages: the marked frame, the axis boxes, the default button.
 class LayoutFocusTest : public test::PagesTest {};
 
 constexpr int kBar = 0, kColumn = 1, kPie = 3, kBubble = 4, kBucket = 5;

@@ -9,16 +9,16 @@ using test::PlainBook;
 using test::SalesBook;
 using S = std::string;
 
-/// What the layout pages write, and what they make of it when they read it again.
+/// Tests that layout pages read what they have written.
 class RoundTripTest : public test::PagesTest {
  protected:
   struct Case {
     int type;
     PlainBook book;
-    S on;        ///< all settings of the page
-    S onXml;     ///< the elements of `chart` then
-    S restored;  ///< what the page shows of it
-    S off;       ///< takes all of them back
+    S on;        ///< Sets all settings of the page.
+    S onXml;     ///< The resulting elements of `chart`.
+    S restored;  ///< The restored state of the page.
+    S off;       ///< Resets all settings.
     S offXml;
   };
   static std::vector<Case> Cases();
@@ -26,7 +26,7 @@ class RoundTripTest : public test::PagesTest {
 
 constexpr int kBubble = 4, kBucket = 5;
 
-/// A definition as it is before the chart is drawn.
+/// Returns a definition before its chart is drawn.
 S Document(int type, const S& name, const S& title, const S& sheet, const S& format, const S& buckets,
            const S& elements) {
   const S types[] = {"bar", "column", "area", "pie", "bubble", "strategic bucket"};
@@ -37,7 +37,7 @@ S Document(int type, const S& name, const S& title, const S& sheet, const S& for
          elements + "</chart>";
 }
 
-/// A definition without what a chart that was drawn adds to it.
+/// Returns a definition without the parts that are read back from a drawn chart.
 S WithoutReadBack(S xml) {
   const S sheet = " table-worksheet=\"Data1\"", open = "<auto-persistence>", close = "</auto-persistence>";
   const auto at = xml.find(sheet);

@@ -20,7 +20,7 @@ namespace {
 using namespace pictures;
 using S = std::string;
 
-/// The smallest rectangle around a shape, its outline included.
+/// Returns the bounding rectangle of a shape, including its outline.
 Rectangle Bounds(const Shape& shape) {
   Rectangle bounds{1E9, 1E9, -1E9, -1E9};
   const auto take = [&](Point point) {
@@ -43,7 +43,7 @@ S FileText(const S& name) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// The polygons of one colour.
+/// Returns the rectangles of the polygons with a colour.
 std::vector<Rectangle> InColor(const Picture& picture, Rgb color) {
   std::vector<Rectangle> found;
   for (const Shape& shape : picture.aShapes) {
@@ -85,7 +85,7 @@ TEST(SamplePicturesTest, PicturesInOnePlaceHaveOneSize) {
 }
 
 TEST(SamplePicturesTest, StacksTo100PercentReachOneHeight) {
-  const Rgb top = {0x2F, 0xA3, 0x8C};  // of the last series
+  const Rgb top = {0x2F, 0xA3, 0x8C};  // The colour of the last series.
   const auto heights = [&](const char* name) {
     std::set<long> tops;
     for (const Rectangle& block : InColor(SamplePicture(name), top))
@@ -135,7 +135,7 @@ TEST(SamplePicturesTest, ABoxShowsTheSidesThatItsDepthTurnsToUs) {
   const Rgb fill{100, 100, 100};
   const struct {
     Point depth;
-    std::vector<Rectangle> sides;  ///< back to front, before the face
+    std::vector<Rectangle> sides;  ///< The sides from back to front, without the face.
   } cases[] = {
       {{4, -2}, {{10, 18, 24, 20}, {20, 18, 24, 30}}},  // to the upper right: top and right side
       {{0, 5}, {{10, 30, 20, 35}}},                     // downwards: the bottom

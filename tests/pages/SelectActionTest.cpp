@@ -39,7 +39,7 @@ TEST_F(SelectActionTest, ButtonsFollowTheSelection) {
                  "very,column,Very,Data1|Zeta,column,Charts,Data2; press cmdHelp; look default cmdNew"),
             "");
   EXPECT_EQ(helpTopics_, std::vector{1});
-  // no workbook of Excel's has a sheet of this name, which the list shows for a table that is gone
+  // Excel doesn't allow this sheet name, which the list shows for a deleted table.
   book.sheets.push_back({"[Deleted]"});
   Open(book);
   EXPECT_EQ(Play("select grdCharts orphan; look off cmdGoToTable; press cmdModify; expect message "
@@ -108,7 +108,7 @@ TEST_F(SelectActionTest, CopiesHaveANameOfTheirOwn) {
 
 TEST_F(SelectActionTest, DeleteTakesChartsAndTheirComments) {
   test::PlainBook book = BookOfCharts({{"Charts", "a"}, {"Other", "b"}, {"Charts", "c"}});
-  // a drawing of the user's own bears the id too
+  // A drawing of the user also has the id.
   book.Sheet("Charts").extraAnchors =
       "<xdr:twoCellAnchor><xdr:from><xdr:col>0</xdr:col><xdr:colOff>0</xdr:colOff><xdr:row>60</xdr:row>"
       "<xdr:rowOff>0</xdr:rowOff></xdr:from><xdr:to><xdr:col>2</xdr:col><xdr:colOff>0</"

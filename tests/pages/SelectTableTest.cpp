@@ -15,7 +15,7 @@ class SelectTableTest : public test::PagesTest {};
 
 const S kAllTypes = "optType(0) optType(1) optType(2) optType(3) optType(4) optType(5)";
 
-/// Data1, and a table Data2 that has no numbers.
+/// Returns a workbook with the tables Data1 and Data2, which has no numbers.
 PlainBook TwoTables(const std::vector<test::Definition>& definitions) {
   PlainBook book = SalesBook(definitions);
   book.sheets.push_back({"Data2", {{S("A"), S("B")}, {S("x"), S("y")}}});

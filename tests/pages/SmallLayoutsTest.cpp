@@ -10,10 +10,10 @@ using test::PlainBook;
 using test::SalesBook;
 using S = std::string;
 
-/// The layout pages of pie, bubble and strategic bucket charts.
+/// Tests the layout pages of pie, bubble and strategic bucket charts.
 class SmallLayoutsTest : public test::PagesTest {
  protected:
-  /// A step on a page, and what is off and which pictures show after it.
+  /// A step on a page, with the disabled controls and the visible pictures after it.
   struct State {
     S script, off, pictures;
   };
@@ -100,7 +100,8 @@ TEST_F(SmallLayoutsTest, MessagesMoveTheFocus) {
     PlainBook book;
     int type;
     S script, message, focus;
-    bool outlivesBack = false;  ///< the page doesn't come back with its first entries instead
+    bool outlivesBack =
+        false;  ///< Whether the state is kept after Back, rather than reset to the first entries.
   };
   const Case cases[] = {
       {SalesBook({}), kPie, "select lstCategories; clear cboValues",

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Plays the scripts of the pages' tests on windows, by mouse and keyboard.
+/// Returns a simulated user that runs the scripts of the tests for pages on windows, with mouse and keyboard.
 plotsmith::test::Hands HandsOnWindows() {
   auto windows = std::make_shared<plotsmith::qt::QtView>();
   return {std::make_unique<plotsmith::test::QtHand>(*windows), [windows](const auto& player) {
@@ -17,7 +17,7 @@ plotsmith::test::Hands HandsOnWindows() {
           }};
 }
 
-/// The platform without a screen tells each time that it has no windows to raise.
+/// Ignores a warning of the offscreen platform, which can't raise windows.
 void TellUnlessExpected(QtMsgType, const QMessageLogContext&, const QString& text) {
   if (!text.startsWith(QLatin1String("This plugin does not support"))) {
     std::cerr << text.toStdString() << "\n";

@@ -13,50 +13,49 @@ namespace plotsmith::test {
 
 inline constexpr double kNoValue = NAN;
 
-/// Elements of a chart part, for charts that a case makes up. `more` goes where the schema wants what the
-/// others don't name.
+/// Return elements of a chart part. `more` is inserted where the schema expects further elements.
 ///@{
 std::string SeriesXml(int index, const std::vector<double>& values, const std::string& more = "",
                       const std::string& behind = "", const std::string& categories = "");
-/// c:cat with texts.
+/// Returns a c:cat element with texts.
 std::string CategoriesXml(const std::vector<std::string>& texts);
-/// A category axis (number 1) and an axis of values (number 2), each with what a case adds; for bars that
-/// lie, the category axis is upright.
+/// Returns a category axis (number 1) and a value axis (number 2), each with additional elements. For
+/// horizontal bars, the category axis is vertical.
 std::string AxesXml(const std::string& category = "", const std::string& value = "", bool horizontal = false);
-/// A group of a kind on those axes.
+/// Returns a chart group on these axes.
 std::string GroupXml(const std::string& element, const std::string& first, const std::string& series,
                      const std::string& last = "");
-/// All of a chart's plot area in a chart without a title.
+/// Returns a chart without a title that contains a plot area.
 std::string PlotXml(const std::string& content, const std::string& behind = "");
 ///@}
 
-/// Draws charts and looks at the list of what was painted.
+/// A test that draws charts and checks the list of painted items.
 class DrawingTest : public ChartTest {
  protected:
-  /// Opens a workbook with the chart and draws it, at 384 by 270 points if nothing else is said.
+  /// Opens a workbook with the chart and draws it, by default with 384 by 270 points.
   render::Drawing Draw(const std::string& chart, const std::string& behind = "", double width = 384,
                        double height = 270);
 
-  /// The same of a whole chart part.
+  /// Draws a whole chart part.
   render::Drawing DrawPart(const std::string& part, double width = 384, double height = 270);
 
   static render::Fonts& SharedFonts();
   render::Notes notes_;
 };
 
-/// The items of a role, in painting order; of one series or axis if its number is given.
+/// Returns the items of a role in painting order, optionally of one series or axis.
 std::vector<render::Item> ItemsOf(const render::Drawing& drawing, render::Role role, int series = 0);
-/// Where they are.
+/// Returns the rectangles of these items.
 std::vector<render::Rect> BoxesOf(const render::Drawing& drawing, render::Role role, int series = 0);
-/// Their texts; those that aren't texts are left out.
+/// Returns the texts of these items, without other items.
 std::vector<std::string> TextsOf(const render::Drawing& drawing, render::Role role, int series = 0);
-/// Around all of them.
+/// Returns the rectangle around these items.
 render::Rect BoxOf(const render::Drawing& drawing, render::Role role, int series = 0);
-/// "#RRGGBB" of a path's solid filling, "none" without one.
+/// Returns the solid filling of a path as "#RRGGBB", or "none".
 std::string FillOf(const render::Item& item);
 
-/// What no chart may have, one complaint a line: text outside of the chart, tick labels of an axis on each
-/// other, numbers that are none, clips that don't end.
+/// Returns the errors of a drawing, one per line: text outside the chart, overlapping tick labels, invalid
+/// numbers, clips that don't end.
 std::string DrawingComplaints(const render::Drawing& drawing);
 
 }  // namespace plotsmith::test

@@ -19,7 +19,7 @@ Lines ChartCallsTest::ChartCalls() {
 }
 
 excel::Ref<excel::Chart> ChartCallsTest::Chart() {
-  // the run has let go of its workbook
+  // The run has released its workbook.
   return host_->ActiveWorkbook()->Worksheets()->Item("Charts")->ChartObjects()->Item("Chart 1")->Chart();
 }
 

@@ -11,20 +11,20 @@ namespace plotsmith::test {
 
 using Lines = std::vector<std::string>;
 
-/// A test of what the drawing of a chart asks the host for, and of what is on the chart then.
+/// A test of the calls that drawing a chart makes to the host, and of the resulting chart.
 class ChartCallsTest : public HostTest {
  protected:
-  /// The calls on the chart during a refresh of the book.
+  /// Returns the calls on the chart during a refresh of the workbook.
   Lines ChartCalls(const PlainBook& book, const std::string& version = "16.0");
-  /// The same of a refresh of the book that is open.
+  /// Returns the calls during a refresh of the open workbook.
   Lines ChartCalls();
-  /// The first chart on the sheet Charts.
+  /// Returns the first chart on the sheet Charts.
   excel::Ref<excel::Chart> Chart();
 };
 
-/// The lines that hold a text.
+/// Returns the lines that contain a text.
 Lines With(const Lines& lines, const std::string& text);
-/// The lines, those that hold one of the texts only up to their value: "Chart.PlotArea.Width".
+/// Returns the lines. Those that contain one of the texts end before their value: "Chart.PlotArea.Width".
 Lines WithoutValues(Lines lines, std::initializer_list<std::string> texts);
 
 }  // namespace plotsmith::test

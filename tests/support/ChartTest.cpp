@@ -13,8 +13,8 @@
 namespace plotsmith::test {
 namespace {
 
-/// Children by the schema, each once; "?" at most once, "*" any number, "a/b" one or the other. The series of
-/// each group is a type of its own.
+/// The children of each element according to the schema: once, at most once ("?"), any number ("*"), or one
+/// of several ("a/b"). The series of each group are a type of their own.
 const std::map<std::string, std::string> kTypes = {
     {"chart",
      "title? autoTitleDeleted? pivotFmts? view3D? floor? sideWall? backWall? plotArea legend? plotVisOnly? "
@@ -109,7 +109,7 @@ bool Matches(const std::string& alternatives, const std::string& name) {
   return ("/" + alternatives + "/").find("/" + name + "/") != std::string::npos;
 }
 
-/// The type of an element in kTypes.
+/// Returns the type of an element in kTypes.
 std::string TypeOf(pugi::xml_node node) {
   std::string name = Local(node);
   const std::string parent = Local(node.parent());

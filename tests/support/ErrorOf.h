@@ -4,7 +4,7 @@
 
 namespace plotsmith::test {
 
-/// The number of the run-time error that a call ends in, 0 for none.
+/// Returns the number of the run-time error that a call raises, or 0.
 template <class Call>
 int ErrorOf(Call&& call) {
   try {

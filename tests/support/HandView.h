@@ -9,8 +9,8 @@
 
 namespace plotsmith::test {
 
-/// A view whose hand does what a test says, one gesture after the other, and then closes what is open. It
-/// writes down which forms come and go.
+/// A view in which a test defines the user's actions. At the end it closes all open forms. It records the
+/// forms that open and close.
 class HandView final : public forms::View {
  public:
   using Gesture = std::function<void(forms::Form& front)>;

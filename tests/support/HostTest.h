@@ -16,7 +16,7 @@
 
 namespace plotsmith::test {
 
-/// A folder of its own for one test, gone afterwards.
+/// A temporary folder for one test, which is deleted afterwards.
 class TempFolder {
  public:
   TempFolder();
@@ -28,33 +28,34 @@ class TempFolder {
   std::filesystem::path path_;
 };
 
-/// What another program does to one part of a saved workbook.
+/// Changes a part of a saved workbook, as another program could.
 void EditPart(const std::string& path, const std::string& part,
               const std::function<void(std::string& text)>& edit);
 
-/// Says in the package which program saved it last, as the program itself does. An empty version is left out.
+/// Stores in the package which program saved it last, as the program itself does. An empty version is left
+/// out.
 void SetSavingProgram(xlsx::Package& package, const std::string& program, const std::string& version = "");
 
-/// A test of the system on the embedded host: before each case all module variables are as the component
-/// starts.
+/// A test of the system on the embedded host. Before each case, all module variables have their initial
+/// values.
 class HostTest : public ::testing::Test {
  protected:
   HostTest();
   ~HostTest() override;
 
-  /// Writes the book and opens it as the active workbook, with the run variables set to it.
+  /// Writes the workbook and opens it as the active workbook, with the run variables set to it.
   xlsx::Workbook& Open(const PlainBook& book, const std::string& version = "16.0");
   xlsx::Workbook& OpenFile(const std::string& path, const std::string& version = "16.0");
-  /// Runs the refresh of all charts, as a host add-in would.
+  /// Refreshes all charts, as a host add-in does.
   void Refresh();
   /// Saves to a file, opens it again, and makes it the active workbook.
   xlsx::Workbook& SaveAndReopen();
 
   xlsx::Workbook& Book() { return host_->Book(); }
   const std::vector<std::string>& Messages() const { return desktop_->Messages(); }
-  /// The text of a part of the saved file.
+  /// Returns the text of a part of the saved file.
   std::string SavedPart(const std::string& part) const;
-  /// Displayed texts of a range, rows by "\n", cells by "|".
+  /// Returns the displayed texts of a range, with "\n" between rows and "|" between cells.
   std::string Cells(const std::string& sheet, int row1, int column1, int row2, int column2);
 
   TempFolder folder_;
@@ -66,10 +67,10 @@ class HostTest : public ::testing::Test {
   void Start(const std::string& version);
 };
 
-/// A sales table on a sheet named Data1, of the usual columns Region, Product, Amount and Cost.
+/// Returns a sheet named Data1 with a sales table, which has the columns Region, Product, Amount and Cost.
 PlainSheet SalesSheet(const std::string& name = "Data1");
 
-/// A chart definition with the parts that most cases want; replace what a case is about.
+/// A chart definition with the parts that most cases need. A case replaces the parts that it tests.
 struct Definition {
   std::string id = "VEX_Chart1";
   std::string type = "column";
@@ -82,11 +83,12 @@ struct Definition {
   std::string Xml() const;
 };
 
-/// Settings of a chart, as they stand in a definition.
+/// Returns the element for settings of a chart in a definition.
 std::string Settings(std::initializer_list<const char*> settings,
                      const std::string& group = "dynamic-attributes");
 
-/// A sheet of data, a sheet with one empty frame for each definition, and the definitions.
+/// Returns a workbook with a data sheet, a sheet with one empty frame for each definition, and the
+/// definitions.
 PlainBook SalesBook(const std::vector<Definition>& definitions);
 
 }  // namespace plotsmith::test

@@ -4,9 +4,9 @@
 
 namespace plotsmith::test {
 
-/// What in a workbook file is not as ECMA-376-2 wants a package, one complaint a line: relationships without
-/// their target or their source, overrides without their part, parts without a content type. Parts that no
-/// relationship leads to are allowed there, but are a complaint as well.
+/// Returns the errors of a workbook file as a package (ECMA-376-2), one per line: relationships without a
+/// target or source, overrides without a part, parts without a content type. Parts without a relationship are
+/// also reported, although the standard allows them.
 std::string PackageComplaints(const std::string& path);
 
 }  // namespace plotsmith::test

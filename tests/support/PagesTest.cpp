@@ -24,7 +24,7 @@ namespace {
 using forms::Control;
 using S = std::string;
 
-/// Message boxes go to the script, calls for help to a list.
+/// A desktop whose message boxes go to the script, and whose help topics go to a list.
 class PagesDesktop final : public cli::ConsoleDesktop {
  public:
   PagesDesktop(std::shared_ptr<forms::ScriptPlayer> player, std::vector<std::int32_t>& helpTopics)
@@ -44,7 +44,7 @@ class PagesDesktop final : public cli::ConsoleDesktop {
   std::vector<std::int32_t>& helpTopics_;
 };
 
-/// The names of the controls for which `mark` answers one, a text to put behind the name.
+/// Returns the names of the controls for which `mark` returns a text, each followed by that text.
 S Names(const forms::Form& form, const std::function<std::optional<S>(Control&)>& mark) {
   S names;
   for (Control* control : form.Controls()) {

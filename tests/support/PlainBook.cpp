@@ -103,7 +103,7 @@ void PlainBook::AddDefinitions(const std::vector<std::string>& definitions) {
 }
 
 void PlainBook::Write(const std::string& path) const {
-  std::list<std::string> kept;  // the writer holds views until it finishes
+  std::list<std::string> kept;  // The writer keeps views until the end.
   std::vector<std::pair<std::string, std::string*>> parts;
   const auto add = [&](const std::string& name, std::string bytes) {
     kept.push_back(std::move(bytes));

@@ -10,7 +10,7 @@ struct CommandResult {
   std::string out, err;
 };
 
-/// What of a run goes to a terminal.
+/// The output of a run that goes to a terminal.
 enum class Watched { kNothing, kMessages, kEverything };
 
 /// Runs the command in this process.

@@ -17,7 +17,7 @@ using S = std::string;
 
 constexpr const char* kCompatibility = "http://schemas.openxmlformats.org/markup-compatibility/2006";
 
-/// Which schema judges parts of a content type; by how the type ends.
+/// The schema for parts of a content type, given by the end of the type.
 struct Judge {
   const char* contentType;
   const char* schema;
@@ -34,7 +34,7 @@ constexpr Judge kJudges[] = {
 };
 constexpr const char* kTypesSchema = "opc-xsd/opc-contentTypes.xsd";
 
-/// The addresses of the strict vocabulary and what they are in the transitional one, which the schemas know.
+/// The namespaces of the strict vocabulary and their transitional equivalents, which the schemas contain.
 constexpr std::pair<const char*, const char*> kStrictAddresses[] = {
     {"http://purl.oclc.org/ooxml/spreadsheetml/main",
      "http://schemas.openxmlformats.org/spreadsheetml/2006/main"},
@@ -56,7 +56,7 @@ void Drop(xmlNodePtr node) {
   xmlFreeNode(node);
 }
 
-/// Adds the namespaces that an element calls ignorable, and takes all marks of compatibility from it.
+/// Collects the namespaces that an element declares as ignorable, and removes all compatibility attributes.
 void ReadMarks(xmlNodePtr node, std::set<S>& ignorable) {
   for (xmlAttrPtr attribute = node->properties; attribute != nullptr;) {
     const xmlAttrPtr next = attribute->next;
@@ -89,8 +89,8 @@ void DropIgnorableAttributes(xmlNodePtr node, const std::set<S>& ignorable) {
   }
 }
 
-/// Puts the content of the fallback, if there is one, in the place of the alternatives. Returns where to go
-/// on.
+/// Replaces alternatives by the content of their fallback, if there is one. Returns the node to continue
+/// with.
 xmlNodePtr ResolveAlternatives(xmlNodePtr alternatives) {
   xmlNodePtr first = nullptr;
   for (xmlNodePtr child = alternatives->children; child != nullptr; child = child->next) {
@@ -130,7 +130,7 @@ void Prepare(xmlNodePtr node, std::set<S> ignorable) {
   }
 }
 
-/// The path of a node by the names of the elements, which stays when elements move.
+/// Returns the path of a node as element names, which doesn't change when elements move.
 S PathOf(const xmlNode* node) {
   S path;
   for (; node != nullptr && node->type == XML_ELEMENT_NODE; node = node->parent) {
@@ -146,7 +146,7 @@ extern "C" void TakeFault(void* faults, xmlErrorPtr error) {
 }
 extern "C" void KeepQuiet(void*, xmlErrorPtr) {}
 
-/// A fault without what the schema would have had instead, which changes with the elements around it.
+/// Returns an error without the list of expected elements, which depends on the elements around it.
 S Key(const S& fault) { return fault.substr(0, fault.find(" Expected is")); }
 
 }  // namespace
@@ -155,7 +155,7 @@ struct Schemas::Schema {
   explicit Schema(const S& file) : name(file) {
     const S path = std::filesystem::path(test::kSchemasFolder) / file;
     const xmlSchemaParserCtxtPtr parser = xmlSchemaNewParserCtxt(path.c_str());
-    // The schemas import each other, which the library warns of.
+    // The library warns about schemas that import each other.
     xmlSchemaSetParserStructuredErrors(parser, KeepQuiet, nullptr);
     schema = xmlSchemaParse(parser);
     xmlSchemaFreeParserCtxt(parser);
@@ -216,7 +216,7 @@ S Schemas::NewFaults(const xlsx::Package& before, const xlsx::Package& after) {
         if (before.Read(part) == after.Read(part)) continue;
       }
     } catch (const std::exception&) {
-      continue;  // a part that can't be read wasn't written by us
+      continue;  // A part that can't be read wasn't written by us.
     }
     std::set<S> known;
     if (before.Has(part)) {
@@ -231,7 +231,7 @@ S Schemas::NewFaults(const xlsx::Package& before, const xlsx::Package& after) {
 
 void MakeStrict(const S& from, const S& to) {
   const auto package = xlsx::Package::Open(from);
-  std::vector<std::pair<S, S>> parts;  // the writer reads them when it finishes
+  std::vector<std::pair<S, S>> parts;  // The writer reads them at the end.
   for (const S& part : package.Parts()) {
     S bytes = package.Read(part);
     for (const auto& [strict, transitional] : kStrictAddresses) {

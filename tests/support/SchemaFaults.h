@@ -9,23 +9,23 @@
 
 namespace plotsmith::test {
 
-/// The published schemas of Office Open XML and of packages, read once and used for many parts.
+/// The published schemas of Office Open XML and of packages. They are read once and used for many parts.
 class Schemas {
  public:
-  /// Whether the schemas are there at all.
+  /// Returns true if the schemas are installed.
   static bool Present();
   Schemas();
   ~Schemas();
 
-  /// What in the part is not as its schema wants it, each sentence once; none for a part whose content has no
-  /// schema here. Before that, the part is prepared as a reader of the standard does it (ISO/IEC 29500-3):
-  /// what is ignorable goes, and of alternatives the fallback counts. Extensions, which may hold anything, go
-  /// as well.
+  /// Returns the schema errors of a part, each once; none if there is no schema for its content. The part is
+  /// first processed like a reader of the standard does (ISO/IEC 29500-3): ignorable elements are removed,
+  /// and alternatives are replaced by their fallback. Extensions are removed, because they may contain
+  /// anything.
   std::set<std::string> Faults(const xlsx::Package& package, const std::string& part);
-  /// Faults of the parts of a workbook that it doesn't share with the one it was made from, without those
-  /// that the same part had there; a line each.
+  /// Returns the schema errors of the parts that differ from the original workbook, without errors that the
+  /// same part had there, one per line.
   std::string NewFaults(const xlsx::Package& before, const xlsx::Package& after);
-  /// How many parts were judged.
+  /// The number of parts that were checked.
   int Judged() const { return judged_; }
 
  private:
@@ -34,7 +34,7 @@ class Schemas {
   int judged_ = 0;
 };
 
-/// Rewrites a workbook file of the transitional vocabulary in the strict one.
+/// Converts a workbook file from the transitional to the strict vocabulary.
 void MakeStrict(const std::string& from, const std::string& to);
 
 }  // namespace plotsmith::test

@@ -17,7 +17,7 @@
 
 namespace plotsmith::test {
 
-/// A form with a control of each kind, which writes down its events.
+/// A form with a control of each kind, which records its events.
 class SmallForm : public forms::Form {
  public:
   explicit SmallForm(std::vector<std::string>& log, const char* name = "frmSmall");
@@ -41,9 +41,9 @@ class SmallForm : public forms::Form {
   forms::CommandButton cmdCancel{*this, "cmdCancel", nullptr, "Cancel"};
   forms::CommandButton cmdOK{*this, "cmdOK", nullptr, "&OK"};
 
-  /// What a press of cmdOK does besides what it writes down.
+  /// Called after a press of cmdOK was recorded.
   std::function<void()> OnOK = [] {};
-  /// What Form_Activate does besides.
+  /// Called after Form_Activate was recorded.
   std::function<void()> OnActivate = [] {};
 
  protected:

@@ -8,15 +8,16 @@
 
 namespace plotsmith::test {
 
-/// Sales by region and product, and a table of regions that can serve as buckets. It has never seen a chart.
+/// Returns a workbook without charts: sales by region and product, and a table of regions that can be a
+/// bucket table.
 PlainBook PlainSales();
 
-/// Runs of the verbs that go through the wizard, on files of their own.
+/// Tests of the verbs that use the wizard. Each test has its own files.
 class WizardVerbsTest : public ::testing::Test {
  protected:
   std::string Write(const PlainBook& book, const std::string& name = "book.xlsx");
   static std::string Bytes(const std::string& path);
-  /// Plays a script on the pages, with further arguments.
+  /// Runs a script on the pages, with further arguments.
   static CommandResult Wizard(const std::string& book, const std::string& script,
                               std::vector<std::string> more = {});
   static std::string Charts(const std::string& book);

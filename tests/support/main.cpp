@@ -4,8 +4,8 @@
 #include <locale>
 #include <stdexcept>
 
-/// The tests run in the locale of the environment, as the component does inside another program: nothing may
-/// depend on it.
+/// The tests run in the locale of the environment, like the component inside another program, because nothing
+/// may depend on it.
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
   try {

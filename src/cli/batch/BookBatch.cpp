@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Where a path leads, so that two names of one file compare equal.
+/// Returns the canonical path, so that two names of one file are equal.
 fs::path Place(const std::string& path) {
   std::error_code error;
   const fs::path place = fs::weakly_canonical(runtime::PathOf(path), error);
@@ -34,7 +34,7 @@ std::vector<std::string> EachOnce(const std::vector<std::string>& books) {
   return once;
 }
 
-/// Each workbook goes into the folder by its own name.
+/// Plans a run for each workbook, whose result has the same name in the folder.
 std::vector<BookRun> RunsInto(const std::string& folder, const std::vector<std::string>& books) {
   std::vector<BookRun> runs;
   std::map<std::string, std::string> named;
@@ -56,7 +56,7 @@ std::vector<BookRun> RunsInto(const std::string& folder, const std::vector<std::
   return runs;
 }
 
-/// What a worker process tells of a run: the numbers, and what it printed.
+/// The report of a worker process about a run: the counts and the output.
 struct RunReport {
   BookResult result;
   std::string out, err;
@@ -92,7 +92,7 @@ void PrintBehind(std::ostream& out, const std::string& name, const std::string& 
   for (std::string line; std::getline(lines, line);) out << name << ": " << line << '\n';
 }
 
-/// The reports as they come in, and their way out in the order of the runs.
+/// Collects the reports and prints them in the order of the runs.
 class BatchOutput {
  public:
   BatchOutput(const std::vector<BookRun>& runs, bool verbose, const Streams& streams)
@@ -106,7 +106,8 @@ class BatchOutput {
     ShowProgress();
   }
 
-  /// Prints what waits for runs that never ended, and the sum. Answers the worst exit code.
+  /// Prints the remaining reports, which wait for unfinished runs, and the summary. Returns the highest exit
+  /// code.
   int Finish(int signal) {
     ClearProgress();
     for (; printed_ < runs_.size(); ++printed_) {
@@ -142,7 +143,7 @@ class BatchOutput {
     sum_.refreshed += result.counts.refreshed;
     sum_.unavailable += result.counts.unavailable;
     worst_ = std::max(worst_, result.code);
-    reports_[run] = RunReport{};  // printed, and so of no more use
+    reports_[run] = RunReport{};  // The report was printed and isn't needed any more.
   }
 
   void ShowProgress() {

@@ -11,31 +11,31 @@
 
 namespace plotsmith::cli {
 
-/// A workbook to work on, and where the result goes; nothing for where it came from.
+/// A workbook to process, and the path of the result; empty for the original file.
 struct BookRun {
   std::string book;
   std::optional<std::string> output;
 };
 
-/// What came of it.
+/// The result of a run.
 struct BookResult {
-  int code = 0;  ///< exit code
+  int code = 0;  ///< The exit code.
   RefreshCounts counts;
 };
 
-/// The runs for the workbooks of a command line. A workbook that is named twice has one run. With several, or
-/// where it is a folder, `output` is the folder in which each result goes by its own name. A CommandError if
-/// the outputs can't be told apart, or one would be its own workbook.
+/// Returns the runs for the workbooks of a command line. A workbook that is named twice has one run. With
+/// several workbooks, or if `output` is a folder, each result goes into that folder with its own name. Throws
+/// CommandError if two outputs would be the same file, or if an output would be its own workbook.
 std::vector<BookRun> PlanRuns(const std::vector<std::string>& books,
                               const std::optional<std::string>& output);
 
-/// Does one run, with its messages and data on the streams given.
+/// Performs a run, with its messages and data on the given streams.
 using DoRun = std::function<BookResult(const BookRun&, const Streams&)>;
 
-/// Does several runs, in at most `processes` at a time. What a run prints comes out together, each line with
-/// the workbook's name before it, in the order of the runs. One that fails doesn't stop the others. Answers
-/// the worst exit code; 128 and the signal's number if one stopped the work. `verbose` has each run say its
-/// counts.
+/// Performs several runs in at most `processes` processes. The output of a run is printed together, in the
+/// order of the runs, with the workbook's name before each line. A run that fails doesn't stop the others.
+/// Returns the highest exit code, or 128 plus the signal's number if a signal stopped the work. With
+/// `verbose`, each run prints its counts.
 int RunBatch(const std::vector<BookRun>& runs, const DoRun& doRun, std::size_t processes, bool verbose,
              const Streams& streams);
 

@@ -7,31 +7,31 @@
 
 namespace plotsmith::cli {
 
-/// How a task ended that a worker process had.
+/// The result of a task in a worker process.
 struct TaskEnding {
-  std::string report;  ///< what the task answered
-  /// How the process died over the task, "Segmentation fault"; nothing if the task came to its end.
+  std::string report;  ///< The result of the task.
+  /// The reason if the process died, such as "Segmentation fault"; empty if the task was completed.
   std::optional<std::string> death;
 };
 
-/// Tasks that are shared out to worker processes, of which each does one after the other. The system keeps
-/// its state in variables of modules, so that two tasks at a time need two processes; and a task that crashes
-/// takes only its own process along.
+/// Tasks that are distributed to worker processes. Each process performs one task after the other. The system
+/// keeps its state in variables of modules, so two simultaneous tasks need two processes. A task that crashes
+/// ends only its own process.
 struct WorkerTasks {
   std::size_t count = 0;
-  /// Does a task, from 0, in a worker process.
+  /// Performs a task, counted from 0, in a worker process.
   std::function<std::string(std::size_t)> run;
-  /// A task has ended; called in this process, in the order in which the tasks end.
+  /// Called in this process after each task, in the order in which the tasks end.
   std::function<void(std::size_t, TaskEnding)> ended;
 };
 
-/// Runs all tasks in at most `processes` at a time; under Windows all in this process. Where an interrupt
-/// (Ctrl-C) or a termination arrives, the workers are ended and the rest is left; answers the number of that
-/// signal, or 0. Throws std::system_error if there can't be any worker.
+/// Performs all tasks in at most `processes` processes; on Windows, all in this process. After an interrupt
+/// (Ctrl-C) or a termination, the workers are ended and the rest is left undone. Returns the number of that
+/// signal, or 0. Throws std::system_error if no worker can be started.
 int RunInWorkers(const WorkerTasks& tasks, std::size_t processes);
 
-/// How many processes keep this machine busy with workbooks: two for each processor, as a process spends
-/// about half of its time waiting for what it has saved to reach the disk. One under Windows.
+/// Returns the number of processes that use the machine fully: two for each processor, because a process
+/// waits about half of its time for the disk. It is one on Windows.
 std::size_t UsualProcesses();
 
 }  // namespace plotsmith::cli

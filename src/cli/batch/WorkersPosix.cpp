@@ -26,7 +26,7 @@ volatile std::sig_atomic_t stopSignal = 0;
 
 void NoteSignal(int signal) { stopSignal = signal; }
 
-/// Notes the signals that are to stop the work, and lets them in only while WaitFor sleeps, so that none is
+/// Watches the signals that stop the work. They are unblocked only while WaitFor sleeps, so that none is
 /// missed.
 class SignalWatch {
  public:
@@ -45,14 +45,14 @@ class SignalWatch {
   SignalWatch(const SignalWatch&) = delete;
   SignalWatch& operator=(const SignalWatch&) = delete;
 
-  /// Puts everything back as it was, in a worker too.
+  /// Restores the previous state, also in a worker.
   void Leave() {
     for (std::size_t i = 0; i < kStopSignals.size(); ++i) sigaction(kStopSignals[i], &old_[i], nullptr);
     sigprocmask(SIG_SETMASK, &oldMask_, nullptr);
   }
   void WaitFor(std::vector<pollfd>& files) const { ppoll(files.data(), files.size(), nullptr, &oldMask_); }
-  /// The signal that is to stop the work, or 0. An interrupt reaches the workers as well, and may end them
-  /// before WaitFor has let it in here.
+  /// Returns the signal that stops the work, or 0. An interrupt also reaches the workers and may end them
+  /// before WaitFor receives it here.
   int Stopped() const {
     const timespec atOnce{};
     const int waiting = stopSignal == 0 ? sigtimedwait(&watched_, nullptr, &atOnce) : 0;
@@ -77,7 +77,7 @@ bool ReadAll(int file, void* data, std::size_t size) {
   return true;
 }
 
-/// False if the other end is gone, without the signal that a write to it would raise.
+/// Sends data. Returns false if the other end is closed, without the signal that a write would raise.
 bool SendAll(int file, const void* data, std::size_t size) {
   for (const auto* at = static_cast<const char*>(data); size > 0;) {
     const ssize_t count = send(file, at, size, MSG_NOSIGNAL);
@@ -89,22 +89,22 @@ bool SendAll(int file, const void* data, std::size_t size) {
   return true;
 }
 
-/// A worker process as this one sees it.
+/// A worker process.
 struct Worker {
   pid_t process = 0;
   int file = -1;
-  std::size_t task = kNoTask;  ///< the one that it is at
+  std::size_t task = kNoTask;  ///< The current task.
 };
 
-/// The life of a worker: reads the number of a task, does it, sends the length of the report and the report.
-/// Ends when the parent closes its end, or is gone.
+/// The main loop of a worker. It reads the number of a task, performs it, and sends the length of the report
+/// and the report. It ends when the parent closes the connection or ends.
 [[noreturn]] void Work(int file, const std::function<std::string(std::size_t)>& run) {
   for (std::uint64_t task = 0; ReadAll(file, &task, sizeof task);) {
     const std::string report = run(static_cast<std::size_t>(task));
     const std::uint64_t size = report.size();
     if (!SendAll(file, &size, sizeof size) || !SendAll(file, report.data(), report.size())) break;
   }
-  _exit(0);  // what the parent has still to write is not this process's
+  _exit(0);  // The buffered output belongs to the parent, so don't flush it.
 }
 
 class WorkerPool {
@@ -137,7 +137,7 @@ class WorkerPool {
   }
 
  private:
-  /// Starts a worker and gives it a task. False, with the reason in errno, if there can be none.
+  /// Starts a worker and gives it a task. Returns false, with the reason in errno, if that fails.
   bool Start() {
     std::array<int, 2> ends{};
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) return false;
@@ -145,7 +145,8 @@ class WorkerPool {
     if (process == 0) {
       signals_.Leave();
       close(ends[0]);
-      for (const Worker& other : workers_) close(other.file);  // or the others would outlive the parent
+      for (const Worker& other : workers_)
+        close(other.file);  // Otherwise the other workers would outlive the parent.
       Work(ends[1], tasks_.run);
     }
     const int reason = errno;
@@ -158,11 +159,11 @@ class WorkerPool {
     return true;
   }
 
-  /// Without a task that is left, the worker is sent home.
+  /// Gives a worker the next task, or closes the connection if no task is left.
   void GiveTask(Worker& worker) {
     worker.task = next_ < tasks_.count ? next_++ : kNoTask;
     const std::uint64_t number = worker.task;
-    // a worker that can't be reached is found dead when its answer is read
+    // If the worker can't be reached, reading its answer will detect that it died.
     if (worker.task == kNoTask || !SendAll(worker.file, &number, sizeof number))
       shutdown(worker.file, SHUT_WR);
   }
@@ -186,11 +187,11 @@ class WorkerPool {
     }
     if (task == kNoTask) return;
     tasks_.ended(task, std::move(ending));
-    // without a new worker the others do the rest; without any of them, the run is over
+    // If no new worker can be started, the others do the rest. If there are none, the run is over.
     if (!whole && next_ < tasks_.count) static_cast<void>(Start());
   }
 
-  /// Waits for the process, which has nothing more to read. Answers how it died.
+  /// Waits for the end of the process, whose connection is closed. Returns the reason if it died.
   static std::string End(Worker& worker) {
     close(worker.file);
     int status = 0;

@@ -2,7 +2,7 @@
 
 namespace plotsmith::cli {
 
-// Windows can't fork: a worker would have to be started from the command line and told everything anew.
+// Windows has no fork, so a worker would have to be started from the command line with all its data.
 int RunInWorkers(const WorkerTasks& tasks, std::size_t) {
   for (std::size_t task = 0; task < tasks.count; ++task) tasks.ended(task, {tasks.run(task), std::nullopt});
   return 0;

@@ -25,13 +25,14 @@ constexpr char kSeparator = '|';
 constexpr const char* kHowToShowAgain =
     ", and then switch the chart's own legend on in a spreadsheet program; the next refresh draws it.";
 
-/// A bubble: its name, and the colour label of the last row that has that name.
+/// A bubble: its name, and the colour label of the last row with that name.
 struct Bubble {
   std::string name, label;
   std::int32_t row = 0;
 };
 
-/// Where the table has the first column that a group of the definition names; 0 if it has none.
+/// Returns the number of the first column that a group of the definition names, or 0 if the table doesn't
+/// have it.
 std::int32_t FirstColumnNumber(const IXMLDOMElement& chart, const IXMLDOMElement& table, const char* query) {
   const auto named = chart.selectSingleNode(query);
   if (!named) return 0;
@@ -39,7 +40,7 @@ std::int32_t FirstColumnNumber(const IXMLDOMElement& chart, const IXMLDOMElement
   return column ? GetAttributeLong(column, "worksheet-column-number") : 0;
 }
 
-/// The bubbles that the rows of a table make, in the order of their names' first appearance.
+/// Returns the bubbles of a table in the order of the first occurrence of their names.
 std::vector<Bubble> BubblesOf(excel::Worksheet& sheet, const TableArea& area, std::int32_t names,
                               std::int32_t labels) {
   constexpr std::size_t kMostBubbles = 254;
@@ -50,7 +51,7 @@ std::vector<Bubble> BubblesOf(excel::Worksheet& sheet, const TableArea& area, st
     std::string name(GetCellText(sheet, row, names, scratch));
     const auto [found, isNew] = byName.try_emplace(runtime::UCase(name), bubbles.size());
     if (isNew && bubbles.size() < kMostBubbles) bubbles.push_back({std::move(name), "", row});
-    if (found->second >= bubbles.size()) continue;  // the chart has no room for it
+    if (found->second >= bubbles.size()) continue;  // The chart has too many bubbles.
     Bubble& bubble = bubbles[found->second];
     bubble.label = runtime::Trim(GetCellText(sheet, row, labels, scratch));
     bubble.row = row;
@@ -58,7 +59,7 @@ std::vector<Bubble> BubblesOf(excel::Worksheet& sheet, const TableArea& area, st
   return bubbles;
 }
 
-/// Whether the legend takes the label apart, and finds no colour for a piece.
+/// Returns true if the legend splits the label and finds no colour for a piece.
 bool FallsApart(const std::string& label, const std::vector<Bubble>& bubbles) {
   if (label.find(kSeparator) == std::string::npos) return false;
   std::istringstream pieces(label);

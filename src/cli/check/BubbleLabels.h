@@ -8,9 +8,9 @@
 
 namespace plotsmith::cli {
 
-/// Where the colour labels of a bubble chart leave it without a drawn legend: a blank one, or one with the
-/// character that separates the legend's entries. `chart` is the element of the definition and `table` that
-/// of the table that the chart was drawn from; the data sheet has its block. Changes nothing.
+/// Finds the colour labels that leave a bubble chart without a drawn legend: blank ones, and those with the
+/// separator of the legend's entries. `chart` is the element of the definition, and `table` is the table from
+/// which the chart was drawn. The data sheet has the chart's block. Changes nothing.
 Findings CheckBubbleLabels(xlsx::Workbook& book, const dom::IXMLDOMElement& chart,
                            const dom::IXMLDOMElement& table);
 

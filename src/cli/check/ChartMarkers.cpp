@@ -9,7 +9,7 @@
 namespace plotsmith::cli {
 namespace {
 
-/// The alternative texts of the charts in a group, however deep.
+/// Returns the alternative texts of the charts in a group and its nested groups.
 std::vector<std::string> TextsInGroup(pugi::xml_node group) {
   struct Walker : pugi::xml_tree_walker {
     std::vector<std::string> texts;

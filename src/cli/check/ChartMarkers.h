@@ -12,42 +12,41 @@
 
 namespace plotsmith::cli {
 
-/// The charts of a workbook by their alternative texts, as the definitions look for them. Sheets are read one
-/// after the other, until the chart that is asked for is found.
+/// Finds the charts of a workbook by their alternative texts, as the definitions do. Sheets are read one
+/// after the other, until the chart is found.
 class ChartMarkers {
  public:
   explicit ChartMarkers(xlsx::Workbook& book) : book_(book) {}
 
-  /// The shape that bears the id, the first one in the order of the sheets; null if there is none.
+  /// Returns the first shape with the id in sheet order, or null if there is none.
   std::shared_ptr<xlsx::SheetShape> ShapeOf(const std::string& id);
-  /// The sheet of the chart that belongs to an id, also of one that has lost its alternative text and is
-  /// known by its data; "" if there is none.
+  /// Returns the sheet of the chart with the id, or "". A chart that has lost its alternative text is
+  /// identified by its data.
   std::string SheetOf(const std::string& id);
-  /// Whether the chart of the id is in a group of shapes.
+  /// Returns true if the chart with the id is in a group of shapes.
   bool IsGrouped(const std::string& id);
-  /// The charts by their alternative texts: the sheets of those that have the same, in the order of the
-  /// sheets.
+  /// Returns the sheets of the charts by alternative text, in sheet order.
   std::map<std::string, std::vector<std::string>> SheetsByText();
-  /// Why no chart belongs to the id, and which charts there are, as a sentence.
+  /// Returns a sentence that explains why no chart has the id, and that lists the charts.
   std::string Absence(const std::string& id);
 
  private:
   struct MarkedChart {
     std::string sheet;
     std::shared_ptr<xlsx::SheetShape> shape;
-    std::vector<std::string> others = {};  ///< the sheets of further charts with the same text
+    std::vector<std::string> others = {};  ///< The sheets of further charts with the same text.
   };
 
   const MarkedChart* Find(const std::string& id);
   void ReadAll();
-  /// Reads the charts of the next sheet; false behind the last one.
+  /// Reads the charts of the next sheet. Returns false if there is none.
   bool ReadNextSheet();
 
   xlsx::Workbook& book_;
   std::size_t sheetsRead_ = 0;
-  std::map<std::string, MarkedChart> charts_;   ///< by alternative text, the first one each
-  std::map<std::string, std::string> grouped_;  ///< sheets of charts within a group, by alternative text
-  std::size_t unmarked_ = 0;                    ///< charts without an alternative text
+  std::map<std::string, MarkedChart> charts_;   ///< The first chart for each alternative text.
+  std::map<std::string, std::string> grouped_;  ///< The sheets of grouped charts by alternative text.
+  std::size_t unmarked_ = 0;                    ///< The number of charts without an alternative text.
   UnmarkedCharts lost_;
 };
 

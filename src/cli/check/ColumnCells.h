@@ -9,7 +9,7 @@
 
 namespace plotsmith::cli {
 
-/// Where a table is, in rows and columns of its sheet from 1.
+/// The position of a table on its sheet. Rows and columns count from 1.
 struct TableArea {
   explicit TableArea(const dom::IXMLDOMElement& table);
 
@@ -18,28 +18,29 @@ struct TableArea {
 
   std::string sheet;
   std::int32_t leftColumn = 0;
-  std::int32_t firstRow = 0, lastRow = 0;  ///< of the data; the last comes before the first without any
+  std::int32_t firstRow = 0,
+               lastRow = 0;  ///< The data rows. lastRow is less than firstRow if there are none.
 };
 
-/// What the cells of one column hold. A place with the row 0 means that there is no such cell.
+/// The contents of a column. A row of 0 means that there is no such cell.
 struct ColumnCells {
-  /// Reads the column down to the first cell that makes it a label column for its text.
+  /// Reads the column down to the first text that makes it a label column.
   ColumnCells(excel::Worksheet& sheet, const TableArea& area, std::int32_t column);
 
-  /// Row of the cell that makes it a label column: an error comes before the first text. 0 if there is none,
-  /// or if only dates do.
+  /// The row of the cell that makes it a label column. An error precedes the first text. It is 0 if there is
+  /// none, or if only dates make it one.
   std::int32_t LabelRow() const { return firstError != 0 ? firstError : firstText; }
-  /// What that cell holds: "the error #N/A", "the text '5 pcs'".
+  /// Describes that cell: "the error #N/A", "the text '5 pcs'".
   std::string LabelCell() const;
 
   std::size_t errors = 0;
-  std::int32_t firstError = 0;  ///< row of the first error value
-  std::int32_t firstText = 0;   ///< row of the first text that is no number
+  std::int32_t firstError = 0;  ///< The row of the first error value.
+  std::int32_t firstText = 0;   ///< The row of the first text that isn't a number.
   bool hasDates = false;
-  std::string error, text;  ///< what those two cells show
+  std::string error, text;  ///< The displayed texts of these two cells.
 };
 
-/// The column of that name as a chart finds it, ignoring case; Nothing if there is none.
+/// Returns the column with the name, ignoring case as charts do, or Nothing.
 dom::IXMLDOMElement FindColumn(const dom::IXMLDOMNodeList& columns, const std::string& name);
 
 }  // namespace plotsmith::cli

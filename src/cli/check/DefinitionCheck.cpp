@@ -24,7 +24,7 @@ namespace {
 
 constexpr std::int32_t kFirstRow = 2;
 
-/// The walk over the rows of one sheet.
+/// Checks the rows of the sheet.
 class RowCheck {
  public:
   RowCheck(xlsx::Workbook& book, xlsx::Worksheet& sheet) : book_(book), sheet_(sheet), markers_(book) {}
@@ -58,7 +58,7 @@ class RowCheck {
                      Severity severity = Severity::kSaid) {
     definition.findings.push_back({definition.place, kind, std::move(sentence), severity});
   }
-  /// A row that is never read is in no danger either.
+  /// Marks a row that is never read, and therefore never removed.
   static void MarkUnread(CheckedDefinition& definition, const std::string& reason) {
     for (Finding& finding : definition.findings) finding.severity = Severity::kSaid;
     definition.findings.insert(
@@ -67,7 +67,7 @@ class RowCheck {
          Severity::kConfuses});
   }
 
-  /// The first row is for the mark of the sheet.
+  /// Checks the first row, which is reserved for the version text.
   void CheckHead() {
     if (TextAt(1).starts_with('<')) MarkUnread(Add(1), "the list begins in " + DefinitionPlace(kFirstRow));
   }
@@ -98,7 +98,7 @@ class RowCheck {
     Append(definition.findings, CheckFormat(chart, definition.place));
   }
 
-  /// The tie to the chart: an id that no earlier row has, and one chart that bears it.
+  /// Checks the connection to the chart: an id that no earlier row has, and a chart with this id.
   void CheckChart(CheckedDefinition& definition) {
     if (definition.id.empty()) {
       Report(definition, FindingKind::kId, "The definition has no 'id'.", Severity::kRefuses);
@@ -125,7 +125,7 @@ class RowCheck {
     }
   }
 
-  /// A chart that is known by its data alone was read for that.
+  /// A chart that was identified by its data has already been read.
   static bool IsReadable(xlsx::SheetShape& shape) {
     return ValueOr(false, [&] {
       shape.Chart()->SeriesCollection()->Count();
@@ -133,7 +133,7 @@ class RowCheck {
     });
   }
 
-  /// Whether the data sheet has a block of the id.
+  /// Returns true if the data sheet has a block with the id.
   bool WasDrawn(const std::string& id) {
     if (!drawn_) drawn_ = ReadDrawn();
     return drawn_->contains(id);
@@ -152,8 +152,8 @@ class RowCheck {
   xlsx::Workbook& book_;
   xlsx::Worksheet& sheet_;
   ChartMarkers markers_;
-  std::map<std::string, std::string> rowsById_;  ///< cells of definitions by their upper-cased ids
-  std::optional<std::set<std::string>> drawn_;   ///< the ids on the data sheet, once they were asked for
+  std::map<std::string, std::string> rowsById_;  ///< The cells of definitions by id in upper case.
+  std::optional<std::set<std::string>> drawn_;   ///< The ids on the data sheet; empty until they are needed.
   std::vector<CheckedDefinition> definitions_;
 };
 
@@ -168,7 +168,7 @@ bool CheckedDefinition::IsUnread() const {
 std::string DefinitionPlace(std::int32_t row) { return CellText(kDefinitionsSheet, row, 1); }
 
 Findings CheckStrayCharts(xlsx::Workbook& book, const std::vector<CheckedDefinition>& rows) {
-  // While a row is broken, the chart without a definition is most likely that row's.
+  // If a row is broken, the chart without a definition most likely belongs to that row.
   const bool isAnyLost = std::any_of(rows.begin(), rows.end(), std::mem_fn(&CheckedDefinition::IsLost));
   const auto isDefined = [&](const std::string& id) {
     return isAnyLost ||

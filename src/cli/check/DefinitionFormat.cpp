@@ -17,25 +17,25 @@ const Names kYesNo = {"yes", "no"};
 
 struct AttributeFormat {
   std::string_view name;
-  Names values = {};      ///< empty: any
-  bool required = false;  ///< an empty one counts as missing
-  bool isOwn = false;     ///< only the system writes it
+  Names values = {};      ///< The valid values; empty means any.
+  bool required = false;  ///< Whether it is required; an empty value counts as missing.
+  bool isOwn = false;     ///< Whether only the system writes it.
 };
 
 struct ElementFormat {
   std::string_view name;
   std::vector<AttributeFormat> attributes = {};
   std::vector<ElementFormat> children = {};
-  bool repeated = false;  ///< may come more than once
+  bool repeated = false;  ///< Whether it may be repeated.
 };
 
-/// An option that can be changed on the chart by hand, and the types that have it.
+/// A setting that can be changed on the chart by hand, with the chart types that have it.
 struct DynamicSetting {
   std::string_view name;
   Names types;
 };
 
-// A strategic bucket chart is drawn as stacked columns, and a look at the chart may find it so.
+// A strategic bucket chart is drawn as stacked columns, so reading it back can find this setting.
 const DynamicSetting kDynamicSettings[] = {{"3D", kTypes},
                                            {"stacked", {"area", "bar", "column", "strategic bucket"}},
                                            {"100%", {"area", "bar", "column", "strategic bucket"}},
@@ -45,7 +45,7 @@ ElementFormat SettingFormat(Names settings) {
   return {"attribute", {{"setting", std::move(settings), true}}, {}, true};
 }
 
-/// The properties of a font by what their names begin with.
+/// Appends the properties of a font, whose names begin with `stem`.
 void AppendFont(std::vector<std::string>& properties, const std::string& stem) {
   for (const char* end : {"name", "size", "style", "color", "autoscale"}) {
     properties.push_back(stem + "-font-" + end);
@@ -99,7 +99,7 @@ const ElementFormat& ChartFormat() {
         {"data-labels",
          {{"manual-labels", kYesNo}},
          {{"data-label", {{"show", {"values", "percentages"}, true}}, {}, true}}},
-        {"dynamic-attributes", {}, {SettingFormat({})}},  // see CheckSettings
+        {"dynamic-attributes", {}, {SettingFormat({})}},  // See CheckSettings.
         {"static-attributes",
          {},
          {SettingFormat({"show-zero-bubbles", "quadrants", "autoscale-x", "autoscale-y"})}},
@@ -111,19 +111,19 @@ const ElementFormat& ChartFormat() {
   return chart;
 }
 
-/// Declarations of name spaces and attributes of foreign ones say nothing to the system.
+/// The system ignores namespace declarations and attributes of other namespaces.
 bool IsForeign(const std::string& name) { return name == "xmlns" || name.find(':') != std::string::npos; }
 
 bool Contains(const Names& names, std::string_view name) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-/// What an attribute can be, as the end of a sentence.
+/// Returns the valid values of an attribute as the end of a sentence.
 std::string Allowed(const AttributeFormat& attribute) {
   return "; it can be " + Listed({attribute.values.begin(), attribute.values.end()}, "or") + ".";
 }
 
-/// The attributes that a person or a program writes, as the end of a sentence.
+/// Returns the attributes that a person or a program writes, as the end of a sentence.
 std::string KnownAttributes(const ElementFormat& format) {
   std::vector<std::string> names;
   for (const AttributeFormat& attribute : format.attributes) {
@@ -138,7 +138,7 @@ std::string KnownChildren(const ElementFormat& format) {
   return "; " + ThereAre(names) + ".";
 }
 
-/// The walk over the elements of one definition.
+/// Checks the elements of a definition.
 class FormatCheck {
  public:
   explicit FormatCheck(const std::string& place) : place_(place) {}
@@ -147,7 +147,7 @@ class FormatCheck {
     CheckAttributes(element, format);
     CheckChildren(element, format);
   }
-  /// A setting that charts of the type don't have.
+  /// Finds settings that the chart type doesn't have.
   void CheckSettings(const dom::IXMLDOMElement& chart) {
     const std::string type = GetAttributeText(chart, "type");
     const bool isKnownType = Contains(kTypes, type);
@@ -162,7 +162,7 @@ class FormatCheck {
              "; it can have " + Listed(allowed) + ".");
     }
   }
-  /// Values that a property of the look can't have.
+  /// Finds invalid values of look properties.
   void CheckPersisted(const dom::IXMLDOMElement& chart) {
     const std::pair<std::string_view, Names> values[] = {
         {"legend-visibility", {"show", "hide"}},
@@ -262,7 +262,7 @@ const std::vector<ColumnGroup>& ColumnGroups() {
     return std::vector<ColumnGroup>{
         {"categories", kTypes, kTypes, false, {"rows", "columns"}},
         {"series", kTypes, kPivotTypes, false, {"rows", "columns", "none"}},
-        {"values", valueTypes, {"bubble"}, true},  // of the others, headings in columns can take its place
+        {"values", valueTypes, {"bubble"}, true},  // For other types, number columns can replace it.
         {"x-values", {"bubble"}, {}, true},
         {"bubble-sizes", {"bubble"}, {}, true},
         {"sort-order", {"strategic bucket"}, {}, true}};

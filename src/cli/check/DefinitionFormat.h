@@ -7,26 +7,26 @@
 #include "cli/check/Finding.h"
 #include "dom/Dom.h"
 
-/// What a definition can say: the one list of its elements, attributes and values.
+/// The format of definitions: the list of elements, attributes and values.
 namespace plotsmith::cli {
 
-/// What of the element `chart` and all below it is no part of a definition, or is missing from it.
+/// Finds unknown and missing parts in the element `chart` and its descendants.
 Findings CheckFormat(const dom::IXMLDOMElement& chart, const std::string& place);
 
-/// A child of `chart` that names columns.
+/// A child element of `chart` that names columns.
 struct ColumnGroup {
   const char* element;
-  std::vector<std::string_view> readFor;    ///< the chart types that read it
-  std::vector<std::string_view> neededFor;  ///< those that can't be drawn without it
-  bool numbers;                             ///< its columns give numbers, not headings
+  std::vector<std::string_view> readFor;    ///< The chart types that use it.
+  std::vector<std::string_view> neededFor;  ///< The chart types that require it.
+  bool numbers;                             ///< Whether its columns give numbers rather than names.
   std::vector<std::string_view> headingsIn =
-      {};  ///< values of `headings-in`; empty: it has no such attribute
+      {};  ///< The values of `headings-in`; empty if it has no such attribute.
 
   bool IsReadFor(std::string_view type) const;
   bool IsNeededFor(std::string_view type) const;
 };
 
-/// All such children, in the order in which a refresh checks them.
+/// Returns all such elements, in the order in which a refresh checks them.
 const std::vector<ColumnGroup>& ColumnGroups();
 
 }  // namespace plotsmith::cli

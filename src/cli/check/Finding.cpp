@@ -5,7 +5,7 @@
 namespace plotsmith::cli {
 namespace {
 
-/// The sentence with another clause before its full stop.
+/// Returns the sentence with another clause before its full stop.
 std::string With(const std::string& sentence, const char* clause) {
   return sentence.substr(0, sentence.find_last_not_of('.') + 1) + "; " + clause + ".";
 }

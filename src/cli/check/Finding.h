@@ -5,30 +5,30 @@
 
 namespace plotsmith::cli {
 
-/// What a finding is about.
+/// The subject of a finding.
 enum class FindingKind {
-  kXml,     ///< the text of a definition is no XML
-  kUnread,  ///< the definition lies where the system doesn't read
-  kId,      ///< the id is missing, or an earlier row has it
-  kChart,   ///< no chart bears the id, or the chart can't be read
-  kFormat,  ///< an element, an attribute or a value that a definition can't have, or one that is missing
-  kTable,   ///< a table isn't there, or doesn't fit
-  kColumn,  ///< a column isn't there, or doesn't fit
-  kCells    ///< cells of a table hold errors or formulas without a result
+  kXml,     ///< The text of a definition isn't XML.
+  kUnread,  ///< The definition is in a row that the system doesn't read.
+  kId,      ///< The id is missing, or an earlier row has it.
+  kChart,   ///< No chart has the id, or the chart can't be read.
+  kFormat,  ///< An element, an attribute or a value is invalid or missing.
+  kTable,   ///< A table is missing or doesn't fit.
+  kColumn,  ///< A column is missing or doesn't fit.
+  kCells    ///< Cells of a table contain errors or formulas without a result.
 };
 
-/// What a command that writes the workbook does about a finding.
+/// The effect of a finding on a command that writes the workbook.
 enum class Severity {
-  kSaid,      ///< it says the sentence and goes on
-  kKeeps,     ///< it keeps what the chart has against the definition, and says so
-  kConfuses,  ///< it says the sentence; to make, change or delete charts it wants --drop-broken
-  kRemoves,   ///< it removes the definition, whose chart was drawn and is gone, and says so
-  kRefuses    ///< it would lose the definition, and so writes nothing without --drop-broken
+  kSaid,      ///< It prints the sentence and continues.
+  kKeeps,     ///< It keeps the chart's setting instead of the definition's, and says so.
+  kConfuses,  ///< It prints the sentence; making, changing or deleting charts needs --drop-broken.
+  kRemoves,   ///< It removes the definition, because its drawn chart no longer exists, and says so.
+  kRefuses    ///< It would lose the definition, and writes nothing without --drop-broken.
 };
 
-/// Something that is wrong in a workbook.
+/// A problem in a workbook.
 struct Finding {
-  std::string place;  ///< a cell such as "Data1!C5", or a defined name
+  std::string place;  ///< A cell such as "Data1!C5", or a defined name.
   FindingKind kind;
   std::string sentence;
   Severity severity = Severity::kSaid;
@@ -36,19 +36,19 @@ struct Finding {
 
 using Findings = std::vector<Finding>;
 
-/// Whether a command that writes the workbook loses the row for this, or would lose it.
+/// Returns true if a command that writes the workbook loses, or would lose, the row because of this finding.
 bool LosesRow(const Finding& finding);
 
-/// Puts findings behind others.
+/// Appends findings.
 void Append(Findings& findings, Findings more);
 
-/// The kind in one word, for programs.
+/// Returns the kind in one word, for programs.
 const char* KindName(FindingKind kind);
-/// The severity in one word, for programs.
+/// Returns the severity in one word, for programs.
 const char* SeverityName(Severity severity);
-/// The sentence with what the next command that writes the workbook does about it.
+/// Returns the sentence, with what the next command that writes the workbook will do about it.
 std::string Foretold(const Finding& finding);
-/// The sentence with what a command that wrote the workbook has done about it.
+/// Returns the sentence, with what the command that wrote the workbook did about it.
 std::string Reported(const Finding& finding);
 
 }  // namespace plotsmith::cli

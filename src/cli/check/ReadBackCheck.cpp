@@ -12,10 +12,10 @@ namespace {
 
 using dom::IXMLDOMElement;
 
-/// One thing that read-back overwrites, in the definition and on the chart.
+/// A setting that read-back overwrites, in the definition and on the chart.
 struct Aspect {
-  std::string what;     ///< "title"
-  bool stored = false;  ///< whether the definition says anything about it
+  std::string what;     ///< The name for messages, such as "title".
+  bool stored = false;  ///< Whether the definition contains the setting.
   std::string saidByDefinition = {}, keptOnChart = {};
 };
 
@@ -25,7 +25,7 @@ bool HasAttribute(const IXMLDOMElement& element, std::string_view name) {
                      [&](const auto& attribute) { return attribute.name == name; });
 }
 
-/// The texts of one attribute of all elements that a query finds, as a list.
+/// Returns the values of an attribute in all elements that match a query, as a list.
 std::string AttributeList(const IXMLDOMElement& chart, const char* query, const char* attribute) {
   std::vector<std::string> texts;
   for (const IXMLDOMElement& element : chart.selectNodes(query)) {
@@ -41,7 +41,7 @@ Aspect AttributeAspect(const IXMLDOMElement& stored, const IXMLDOMElement& read,
   return {what, !said.empty() || HasAttribute(stored, attribute), said, GetAttributeText(read, attribute)};
 }
 
-/// The axis of a type, "label" or "value"; Nothing if the definition names none.
+/// Returns the axis of a type ("label" or "value"), or Nothing if the definition has none.
 IXMLDOMElement FindAxis(const IXMLDOMElement& chart, std::string_view type) {
   for (const IXMLDOMElement& axis : chart.selectNodes("axes/axis")) {
     if (GetAttributeText(axis, "type") == type) return axis;
@@ -67,7 +67,7 @@ Aspect ListAspect(const IXMLDOMElement& stored, const IXMLDOMElement& read, cons
           AttributeList(read, query.c_str(), attribute)};
 }
 
-/// A part of the look that read-back keeps in `auto-persistence`: its property, and what a person calls it.
+/// A look property that read-back stores in `auto-persistence`, with its name for messages.
 struct PersistedLook {
   std::string property, what;
 };
@@ -102,7 +102,7 @@ Aspect PersistAspect(const IXMLDOMElement& stored, const IXMLDOMElement& read, c
   const IXMLDOMElement said = find(stored), kept = find(read);
   if (!said || !kept) return {look.what};
   Aspect aspect{look.what, true, GetAttributeText(said, "value"), GetAttributeText(kept, "value")};
-  // An empty value is that of a title or of marks that the chart didn't have.
+  // An empty value means that the chart had no such title or marks.
   aspect.stored = !aspect.saidByDefinition.empty() && !aspect.keptOnChart.empty();
   return aspect;
 }
@@ -119,7 +119,7 @@ std::vector<Aspect> Aspects(const IXMLDOMElement& stored, const IXMLDOMElement& 
     aspects.push_back(AxisAspect(stored, read, "label", "title of the label axis"));
     aspects.push_back(AxisAspect(stored, read, "value", "title of the value axis"));
   }
-  // A strategic bucket chart always has values on the marks of its buckets.
+  // A strategic bucket chart always shows values on the marks of its buckets.
   if (GetAttributeText(read, "type") != "strategic bucket") {
     aspects.push_back(ListAspect(stored, read, "data-labels", "data-label", "show", "data label"));
   }
@@ -133,9 +133,9 @@ std::string Sentence(const Aspect& aspect) {
          shown(aspect.saidByDefinition) + " in the definition.";
 }
 
-/// Where a definition says one thing of a drawn chart and the chart another, which counts. `stored` is the
-/// `chart` element of the row, `read` the same after a load has read the chart back. What `stored` doesn't
-/// say at all is no difference.
+/// Finds the settings in which a definition differs from its drawn chart. `stored` is the `chart` element in
+/// the row, and `read` is the same element after a load has read the chart back. Settings that `stored`
+/// doesn't contain aren't differences.
 Findings Differences(const IXMLDOMElement& stored, const IXMLDOMElement& read, const std::string& place,
                      AxisTitles axisTitles) {
   Findings findings;
@@ -146,15 +146,15 @@ Findings Differences(const IXMLDOMElement& stored, const IXMLDOMElement& read, c
   return findings;
 }
 
-/// Whether it was the definition that a person changed last, and not the chart. A person changes a chart in a
-/// spreadsheet program, which writes the chart's part anew in its own form. So a chart whose part still has
-/// Plotsmith's form has not been changed by hand since it was drawn. The same goes for a definition that
-/// Plotsmith has not stored yet.
+/// Returns true if the definition was changed after the chart. A person changes a chart in a spreadsheet
+/// program, which rewrites the chart part in its own format. So a chart part that still has Plotsmith's
+/// format has not been changed by hand since it was drawn. A definition that Plotsmith has not stored yet is
+/// also newer.
 bool IsDefinitionNewer(xlsx::Workbook& book, const IXMLDOMElement& stored, const std::string& chartPart) {
   if (GetAttributeText(stored, "ps-chart-schema-version").empty()) return true;
   if (!book.Package().Has(chartPart)) return false;
   const std::string part = book.Package().Read(chartPart);
-  // Spreadsheet programs end the line of the XML declaration, which Plotsmith doesn't.
+  // Spreadsheet programs write a line break after the XML declaration, and Plotsmith doesn't.
   const auto end = part.find("?>");
   return !part.starts_with("<?xml") || end + 2 >= part.size() || part[end + 2] == '<';
 }

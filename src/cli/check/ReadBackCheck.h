@@ -10,12 +10,12 @@
 
 namespace plotsmith::cli {
 
-/// Whether axis titles count as differences, or have just been given the new names of columns.
+/// Whether axis titles are compared, or were just renamed with their columns.
 enum class AxisTitles { kCompared, kRenamed };
 
-/// What the definitions of rows say otherwise than their drawn charts, which count, by the ids of the charts.
-/// A chart is only compared where it was the definition that was changed last. It wants the definitions
-/// loaded, which has read the charts back into `colCharts`; `rows` were read before that.
+/// Finds the settings in which definitions differ from their drawn charts, by chart id; the chart takes
+/// precedence. A chart is compared only if its definition was changed after the chart. The definitions must
+/// be loaded, so that the charts were read back into `colCharts`; `rows` were read before that.
 std::map<std::string, Findings> CheckReadBack(xlsx::Workbook& book,
                                               const std::vector<CheckedDefinition>& rows,
                                               AxisTitles axisTitles);

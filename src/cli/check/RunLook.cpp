@@ -18,7 +18,7 @@ using dom::IXMLDOMElement;
 
 constexpr const char* kBubbleType = "bubble";
 
-/// How a line calls a chart: by its name, or else by its id; "" for a row without either.
+/// Returns the name of a chart for messages, or its id if it has no name; "" for a row without either.
 std::string Called(const std::string& id, const std::string& name) {
   return name.empty() ? id : "'" + OneLine(name) + "'";
 }
@@ -29,7 +29,7 @@ std::string Line(const std::string& place, std::vector<std::string> charts, cons
   return place + (charts.size() == 1 ? " (chart " : " (charts ") + Listed(charts) + "): " + sentence;
 }
 
-/// Whether a chart can't be drawn for a finding: a table or a column isn't there.
+/// Returns true if a finding prevents drawing, because a table or a column is missing.
 bool ForbidsDrawing(const Finding& finding) {
   return finding.kind == FindingKind::kTable ||
          (finding.kind == FindingKind::kColumn && finding.place.empty());
@@ -111,7 +111,7 @@ void RunLook::CollectKept(const CheckedDefinition& row, std::vector<ChartFinding
     collect(row.findings.front());
     return;
   }
-  // All definitions are stored, also those of charts that aren't built.
+  // All definitions are stored, including those of charts that aren't built.
   if (const auto differences = differences_.find(row.id); differences != differences_.end()) {
     for (Finding finding : differences->second) {
       finding.place = row.place;
@@ -120,12 +120,12 @@ void RunLook::CollectKept(const CheckedDefinition& row, std::vector<ChartFinding
   }
   const auto started = started_.find(row.id);
   if (started == started_.end()) return;
-  // A load takes unknown settings off a drawn chart's definition; what a page has changed is no matter any
-  // more.
+  // A load removes unknown settings from the definition of a drawn chart. Settings that a page has changed no
+  // longer matter.
   const CheckedDefinition* const before = definitions_ == DefinitionsAre::kEdited ? &row : FindRow(row.id);
   if (before != nullptr) {
     for (Finding finding : before->findings) {
-      finding.place = row.place;  // rows above may have gone
+      finding.place = row.place;  // Rows above may have been removed.
       collect(std::move(finding));
     }
   }

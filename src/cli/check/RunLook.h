@@ -11,61 +11,62 @@
 
 namespace plotsmith::cli {
 
-/// What a run does to the definitions of the charts that it builds.
+/// The effect of a run on the definitions of the charts that it builds.
 enum class DefinitionsAre {
-  kTaken,    ///< it takes them as the rows have them
-  kRenamed,  ///< the names of columns change, and axis titles with them
-  kEdited    ///< pages and options change them
+  kTaken,    ///< It uses them as stored.
+  kRenamed,  ///< It renames columns, and axis titles with them.
+  kEdited    ///< Pages and options change them.
 };
 
-/// What forbids a run.
+/// The reasons that forbid a run.
 struct RunRefusals {
-  std::vector<std::string> lines;  ///< each with its place
-  std::size_t lost = 0;            ///< definitions that the run would lose
+  std::vector<std::string> lines;  ///< The messages, each with its place.
+  std::size_t lost = 0;            ///< The number of definitions that the run would lose.
 };
 
-/// The look at a workbook around a run that writes it: at the rows of definitions before, at each chart when
-/// its build begins, and at what came out. So a person hears of everything that the run does to their work.
+/// Checks a workbook before, during and after a run that writes it: the rows of definitions before, each
+/// chart when its build begins, and the result. So the user learns everything that the run does to their
+/// work.
 class RunLook {
  public:
-  /// Looks at the rows. It wants `oWorkbook` set, and `book`, which must outlive the look, is that workbook.
+  /// Checks the rows. `oWorkbook` must be set, and `book` is that workbook. `book` must outlive this object.
   RunLook(xlsx::Workbook& book, DefinitionsAre definitions);
 
-  /// Rows that the run would lose. A run that makes, changes or deletes charts is also forbidden where charts
-  /// could be taken for others.
+  /// Returns the rows that the run would lose. A run that makes, changes or deletes charts is also forbidden
+  /// if ids are ambiguous.
   RunRefusals Refusals() const;
-  /// The build of a chart begins. The tables and definitions are loaded.
+  /// Called when the build of a chart begins. The tables and definitions are loaded.
   void ChartStarted(const std::string& id);
-  /// What there is to say once the run is over, a line each with its place and the charts it is about.
+  /// Returns the messages after the run, one line each, with the place and the charts.
   std::vector<std::string> Finish();
 
  private:
-  /// A finding, and how a line calls the chart that it is about; "" for none.
+  /// A finding, and the name of its chart in messages; "" for none.
   struct ChartFinding {
     Finding finding;
     std::string chart;
   };
 
   const CheckedDefinition* FindRow(const std::string& id) const;
-  /// Compares the definitions of the rows with what a load has read back from their charts, once in a run.
+  /// Compares the definitions in the rows with those that a load has read back from the charts, once per run.
   void CompareStored();
-  /// Whether there is nothing to say, so that the rows need not be looked at again.
+  /// Returns true if there are no messages, so that the rows need not be checked again.
   bool IsFine() const;
-  /// What was found before the run about rows that the run took off the sheet.
+  /// Adds the findings about rows that the run removed.
   void CollectLost(std::vector<ChartFinding>& collected) const;
-  /// What was found about a row that is still there. Places are as they are after the run.
+  /// Adds the findings about a row that still exists, with its place after the run.
   void CollectKept(const CheckedDefinition& row, std::vector<ChartFinding>& collected) const;
-  /// A line for each finding; what several charts have in common is one line.
+  /// Returns a line for each finding. Equal findings of several charts share a line.
   static std::vector<std::string> Lines(const std::vector<ChartFinding>& collected);
 
   xlsx::Workbook& book_;
   DefinitionsAre definitions_;
-  std::vector<CheckedDefinition> rows_;          ///< before the run
-  Findings strayCharts_;                         ///< before the run
-  std::map<std::string, Findings> started_;      ///< about each chart whose build began, by id
-  std::map<std::string, Findings> differences_;  ///< where a chart counts and not its definition, by id
+  std::vector<CheckedDefinition> rows_;          ///< Before the run.
+  Findings strayCharts_;                         ///< Before the run.
+  std::map<std::string, Findings> started_;      ///< Findings about each chart whose build began, by id.
+  std::map<std::string, Findings> differences_;  ///< Differences in which the chart takes precedence, by id.
   bool compared_ = false;
-  /// The tables of the bubble charts with a drawn legend that were drawn, by the charts' ids.
+  /// The tables of the bubble charts that were drawn with a legend, by chart id.
   std::map<std::string, dom::IXMLDOMDocument2> bubbles_;
 };
 

@@ -24,7 +24,7 @@ using dom::IXMLDOMNodeList;
 constexpr const char* kBucketType = "strategic bucket";
 constexpr const char* kBrokenBucketType = "column";
 
-/// The tables that there are, as the end of a sentence.
+/// Returns the existing tables as the end of a sentence.
 std::string OtherTables() {
   std::vector<std::string> ids;
   for (const auto& document : *colTables) {
@@ -39,7 +39,7 @@ std::string Headings(const IXMLDOMNodeList& columns) {
   return Listed(names);
 }
 
-/// The checks of one definition; each method is about one kind of fault.
+/// Checks a definition. Each method finds one kind of problem.
 class SourceCheck {
  public:
   SourceCheck(xlsx::Workbook& book, const IXMLDOMElement& chart, const std::string& place)
@@ -70,7 +70,7 @@ class SourceCheck {
     return group ? GetAttributeText(group, "headings-in") : "";
   }
 
-  /// Whether an element is there that the type needs, and names as many columns as it takes.
+  /// Checks that an element exists if the type needs it, and that it names the right number of columns.
   void CheckGroup(const ColumnGroup& group) {
     const std::string quoted = Quoted(group.element);
     const auto element = Group(group.element);
@@ -92,7 +92,7 @@ class SourceCheck {
     }
   }
 
-  /// Values come from the element of that name, or from the columns whose names are the headings.
+  /// Checks that values come from the element `values`, or from number columns in `categories` or `series`.
   void CheckValuesHaveASource() {
     const bool isPivot = type_ == "area" || type_ == "bar" || type_ == "column" || type_ == "pie";
     if (!isPivot || Group("values")) return;
@@ -113,7 +113,7 @@ class SourceCheck {
     }
   }
 
-  /// The table that an attribute names; Nothing, with a finding, if there is none.
+  /// Returns the table that an attribute names, or Nothing and a finding if it doesn't exist.
   IXMLDOMElement FindTable(const char* attribute, const std::string& noun) {
     const std::string id = GetAttributeText(chart_, attribute);
     if (id.empty()) {
@@ -131,7 +131,7 @@ class SourceCheck {
     return {};
   }
 
-  /// A sheet that has the name of a data sheet may be no table for want of data.
+  /// Explains why a data sheet is no table: it has no data.
   std::string WhyNot(const std::string& id) const {
     const auto sheet = book_.FindWorksheet(id);
     return id.starts_with("Data") && sheet && sheet->UsedCells().row2 < 2
@@ -150,8 +150,8 @@ class SourceCheck {
     }
   }
 
-  /// Whether the table has the columns of a group, and numbers in those that give numbers. A refresh looks
-  /// for the columns of all groups of every type.
+  /// Checks that the table has the columns of a group, and numbers in number columns. A refresh searches the
+  /// columns of all groups for every type.
   void CheckColumns(const ColumnGroup& group) {
     const auto element = Group(group.element);
     if (!element) return;
@@ -170,7 +170,8 @@ class SourceCheck {
     }
   }
 
-  /// The end of a sentence about a column that is gone: how to follow its heading, if it looks renamed.
+  /// Returns the end of a sentence about a missing column: how to update the name if the column was probably
+  /// renamed.
   std::string RenamingHint(const IXMLDOMElement& missing) const {
     const std::string renamed = ColumnInPlaceOf(missing);
     if (renamed.empty()) return "";
@@ -181,8 +182,8 @@ class SourceCheck {
            ShellWord(GetAttributeText(missing, "name") + "=" + renamed) + " carries it into the charts";
   }
 
-  /// The heading where the column was when the chart was drawn last; "" if there is none, or if the
-  /// definition names that column itself.
+  /// Returns the heading at the position where the column was at the last refresh. It is "" if there is none,
+  /// or if the definition names that column itself.
   std::string ColumnInPlaceOf(const IXMLDOMElement& missing) const {
     const std::int32_t drawnAt = StoredNumber(missing, "worksheet-column-number");
     const std::int32_t drawnLeft = StoredNumber(chart_, "table-left-column");
@@ -196,13 +197,12 @@ class SourceCheck {
     return "";
   }
 
-  /// A number that the last refresh has stored in the definition; 0 if there is none.
+  /// Returns a number that the last refresh has stored in the definition, or 0.
   static std::int32_t StoredNumber(const IXMLDOMElement& element, const char* attribute) {
     return ValueOr(std::int32_t{0}, [&] { return GetAttributeLong(element, attribute); });
   }
 
-  /// Whether a definition over the table, as far as they are loaded, names the column: then that is no new
-  /// name.
+  /// Returns true if a loaded definition of the table names the column, which is then not a new name.
   bool IsNamed(const std::string& name) const {
     if (Names(chart_, name)) return true;
     const std::string table = GetAttributeText(chart_, "table-id");
@@ -212,7 +212,7 @@ class SourceCheck {
            });
   }
 
-  /// Whether a group of the definition names the column.
+  /// Returns true if a group of the definition names the column.
   static bool Names(const IXMLDOMElement& chart, const std::string& name) {
     return std::any_of(ColumnGroups().begin(), ColumnGroups().end(), [&](const ColumnGroup& group) {
       const auto element = chart.selectSingleNode(group.element);
@@ -220,7 +220,7 @@ class SourceCheck {
     });
   }
 
-  /// Label columns come first, as they do for a refresh.
+  /// Returns the columns, label columns first, as in a refresh.
   IXMLDOMNodeList Columns() const {
     IXMLDOMNodeList columns = table_.childElements();
     std::stable_partition(columns.begin(), columns.end(),
@@ -228,7 +228,7 @@ class SourceCheck {
     return columns;
   }
 
-  /// Says which cell makes a column that is to give numbers a label column. Dates count as numbers here.
+  /// Reports the cell that makes a required number column a label column. Dates count as numbers here.
   void CheckNumbers(const ColumnGroup& group, const IXMLDOMElement& column) {
     const TableArea area(table_);
     const auto sheet = book_.FindWorksheet(area.sheet);
@@ -260,9 +260,10 @@ class SourceCheck {
     }
   }
 
-  /// The chart refers to its buckets' names by one letter for the last column, from E on. Behind Z come six
-  /// characters that are no letters, then the small letters, which are read as A to Z. A chart whose drawing
-  /// broke off for that reads as a column chart that has a bucket table.
+  /// The chart refers to the names of its buckets with a single letter for the last column, beginning with E.
+  /// After Z come six characters that aren't letters, then lower-case letters, which are read as A to Z. If
+  /// the drawing of a chart has failed for this reason, the chart is read back as a column chart with a
+  /// bucket table.
   void CheckBucketCount(const std::string& id) {
     constexpr std::int32_t kMost = 22, kFirstMisnamed = 29, kLastMisnamed = 54;
     if (HostVersion(oApplication) <= kLastClassicVersion) return;
@@ -282,7 +283,7 @@ class SourceCheck {
     }
   }
 
-  /// The source table has a column of the same heading and kind.
+  /// Checks that the source table has a column with the same heading and kind.
   void CheckBucketColumn(const IXMLDOMElement& bucketTable, const char* attribute, const std::string& kind) {
     const std::string heading = GetAttributeText(bucketTable, attribute);
     const auto columns = table_.selectNodes((kind + "-column").c_str());
@@ -297,8 +298,8 @@ class SourceCheck {
   const IXMLDOMElement& chart_;
   const std::string& place_;
   std::string type_;
-  IXMLDOMElement table_;     ///< the source table; Nothing if it isn't there
-  IXMLDOMNodeList columns_;  ///< its columns
+  IXMLDOMElement table_;     ///< The source table, or Nothing.
+  IXMLDOMNodeList columns_;  ///< The columns of the source table.
   Findings findings_;
 };
 

@@ -20,7 +20,7 @@ namespace {
 
 constexpr const char* kHowToCalculate = "have a spreadsheet program calculate and save the workbook.";
 
-/// Why a defined name marks no table.
+/// Returns the finding that explains why a defined name marks no table.
 Finding NoTable(const std::string& name) {
   const std::string start = "The name " + Quoted(name) + " marks no table, ";
   const auto defined = oWorkbook->Names()->Item(name);
@@ -33,7 +33,7 @@ Finding NoTable(const std::string& name) {
                          ", which is no range of cells."};
 }
 
-/// The formulas without a result in a table's headings and data, by column.
+/// The formulas without a result in the headings and data of a table, by column.
 struct UncalculatedCells {
   std::size_t count = 0;
   std::int32_t firstRow = 0;
@@ -54,10 +54,10 @@ std::map<std::int32_t, UncalculatedCells> FindUncalculated(xlsx::Worksheet& shee
   return columns;
 }
 
-/// Which formulas without a result a check is about.
+/// The formulas without a result that a check includes.
 struct FormulaScope {
   bool headings = true;
-  std::optional<std::set<std::int32_t>> columns = std::nullopt;  ///< of data; without a value all
+  std::optional<std::set<std::int32_t>> columns = std::nullopt;  ///< The data columns; all if absent.
 
   bool HasColumn(std::int32_t column) const { return !columns || columns->contains(column); }
 };
@@ -82,7 +82,7 @@ void CheckFormulas(xlsx::Worksheet& sheet, const TableArea& area, const FormulaS
   }
 }
 
-/// Errors in columns that are numbers otherwise.
+/// Finds errors in columns that otherwise contain numbers.
 void CheckErrors(xlsx::Worksheet& sheet, const TableArea& area, const dom::IXMLDOMElement& table,
                  Findings& findings) {
   for (const dom::IXMLDOMElement& column : table.selectNodes("label-column")) {
@@ -99,7 +99,7 @@ void CheckErrors(xlsx::Worksheet& sheet, const TableArea& area, const dom::IXMLD
   }
 }
 
-/// The names of the columns of a table that a definition draws from.
+/// Returns the names of the columns that a definition uses.
 std::vector<std::string> UsedColumns(const dom::IXMLDOMElement& chart) {
   std::vector<std::string> names;
   const std::string type = GetAttributeText(chart, "type");
@@ -119,14 +119,14 @@ dom::IXMLDOMElement FindTable(const std::string& id) {
                                          : dom::IXMLDOMElement();
 }
 
-/// The sheet of a table if it has formulas without a result; null otherwise, as nearly always.
+/// Returns the sheet of a table if it has formulas without a result, which is rare, or null.
 std::shared_ptr<xlsx::Worksheet> UncalculatedSheet(xlsx::Workbook& book, const dom::IXMLDOMElement& table) {
   if (!table) return nullptr;
   const auto sheet = book.FindWorksheet(GetAttributeText(table, "table-worksheet"));
   return sheet && !sheet->FormulasWithoutResult().empty() ? sheet : nullptr;
 }
 
-/// The formulas of those columns, and the headings if one of the columns isn't there.
+/// Finds formulas in the given columns, and in the headings if one of the columns is missing.
 Findings CheckFormulasOf(xlsx::Worksheet& sheet, const dom::IXMLDOMElement& table,
                          const std::vector<std::string>& names) {
   FormulaScope scope{.headings = false, .columns = std::set<std::int32_t>()};

@@ -8,19 +8,18 @@
 
 namespace plotsmith::cli {
 
-/// A table, or a defined name that was to mark one, and what is wrong with it.
+/// A table, or a defined name that should mark one, with its problems.
 struct CheckedTable {
   std::string id;
-  dom::IXMLDOMElement table;  ///< Nothing for a name that marks no table
+  dom::IXMLDOMElement table;  ///< Nothing for a name that marks no table.
   Findings findings;
 };
 
-/// Looks at the cells of those columns that the definition of the element `chart` draws from, in the tables
-/// of `colTables`: formulas without a result. Where a column isn't there, it looks at the headings too.
-/// Changes nothing.
+/// Checks the cells of the columns that the definition `chart` uses, in the tables in `colTables`, for
+/// formulas without a result. If a column is missing, it checks the headings too. Changes nothing.
 Findings CheckUsedCells(xlsx::Workbook& book, const dom::IXMLDOMElement& chart);
 
-/// Looks at all tables of `colTables`, and at the names of the workbook. Changes nothing.
+/// Checks all tables in `colTables` and the names of the workbook. Changes nothing.
 std::vector<CheckedTable> CheckTables(xlsx::Workbook& book);
 
 }  // namespace plotsmith::cli

@@ -10,9 +10,9 @@
 namespace plotsmith::cli {
 namespace {
 
-/// UTF-16 units of a text that a sentence quotes.
+/// The maximum number of UTF-16 units of a quoted text.
 constexpr std::size_t kLongest = 60;
-/// Items of a list that a sentence names.
+/// The maximum number of items in a list.
 constexpr std::size_t kMostItems = 40;
 
 }  // namespace

@@ -8,21 +8,22 @@
 
 namespace plotsmith::cli {
 
-/// The text with blanks for line breaks and other control characters.
+/// Returns the text with blanks in place of line breaks and other control characters.
 std::string OneLine(std::string text);
-/// The text in single quotes on one line; a long one is cut short.
+/// Returns the text in single quotes on one line. Long texts are shortened.
 std::string Quoted(std::string_view text);
-/// A word that a person can copy into a shell: in single quotes, where a shell would take it apart.
+/// Returns the text as a word for a shell, with single quotes if they are necessary.
 std::string ShellWord(const std::string& text);
-/// "a, b and c", with `word` before the last item; of a long list the beginning. "none" for an empty one.
+/// Joins items to "a, b and c", with `word` before the last one. Long lists are shortened. An empty list
+/// gives "none".
 std::string Listed(const std::vector<std::string>& items, const char* word = "and");
-/// "there is a", "there are a and b", "there are none".
+/// Returns "there is a", "there are a and b" or "there are none".
 std::string ThereAre(const std::vector<std::string>& items);
-/// "1 cell", "2 cells".
+/// Returns "1 cell", "2 cells" and so on.
 std::string Counted(std::size_t count, const std::string& noun);
-/// Of one and of several: ForCount(count, "makes", "make").
+/// Returns the form of a word for one or several: ForCount(count, "makes", "make").
 const char* ForCount(std::size_t count, const char* one, const char* several);
-/// "Data1!C5"; the sheet's name is in quotes where a formula needs them.
+/// Returns the address of a cell, such as "Data1!C5". The sheet's name is in quotes if a formula needs them.
 std::string CellText(std::string_view sheet, std::int32_t row, std::int32_t column);
 
 }  // namespace plotsmith::cli

@@ -32,8 +32,8 @@ Json ValueOf(const excel::CellValue& value) {
   return std::string(value.text);
 }
 
-/// The number with the date, time or duration that its format shows, as a text of ISO 8601 beside it. Any
-/// other value is as it is.
+/// Adds the ISO 8601 text of a date, time or duration to a number, according to its format. Other values
+/// don't change.
 Json WithIsoText(Json value, xlsx::Workbook& book, std::uint32_t style) {
   if (!value.is_number()) return value;
   const double number = value.get<double>();
@@ -42,7 +42,7 @@ Json WithIsoText(Json value, xlsx::Workbook& book, std::uint32_t style) {
   return {{"number", number}, {"iso", iso}};
 }
 
-/// A value on a line of tab-separated ones.
+/// Returns a value for a line of tab-separated values.
 std::string Flat(const Json& value) {
   if (value.is_null()) return {};
   if (value.is_boolean()) return value.get<bool>() ? "TRUE" : "FALSE";
@@ -79,7 +79,7 @@ int CellsCommand::Run(const GlobalOptions& options, const Streams& streams) {
   Json rows = Json::array();
   std::string scratch;
   try {
-    // whole columns end where the sheet does
+    // Whole columns end at the last used row.
     const auto used = sheet->UsedCells();
     const auto lastRow = range->range.RowCount() == xlsx::limits::kRows ? used.row2 : range->range.row2;
     const auto lastColumn =
@@ -102,7 +102,7 @@ int CellsCommand::Run(const GlobalOptions& options, const Streams& streams) {
       streams.out << '\n';
     }
   } catch (const runtime::RuntimeError&) {
-    session.Finish();  // says what is damaged
+    session.Finish();  // This reports damage.
     throw;
   }
   if (json_) streams.out << rows.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';

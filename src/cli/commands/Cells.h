@@ -4,7 +4,7 @@
 
 namespace plotsmith::cli {
 
-/// Prints the cells of a range, on very hidden sheets too.
+/// Prints the cells of a range, also on very hidden sheets.
 class CellsCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& app) override;

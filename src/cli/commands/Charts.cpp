@@ -19,8 +19,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// What is wrong with a chart's definition and with the cells that it is drawn from, in the words of a
-/// refresh.
+/// Returns the problems in a chart's definition and cells, as a refresh reports them.
 Findings FindingsOf(const dom::IXMLDOMElement& chart, const std::vector<CheckedDefinition>& checked,
                     xlsx::Workbook& book) {
   const std::string id = GetAttributeText(chart, "id");
@@ -32,10 +31,10 @@ Findings FindingsOf(const dom::IXMLDOMElement& chart, const std::vector<CheckedD
   return findings;
 }
 
-/// Why a chart is in its state, in sentences.
+/// Returns sentences that explain the state of a chart.
 std::string ReasonOf(ChartState state, const Findings& findings) {
   if (state == ChartState::kOk) return {};
-  // a chart that was never refreshed waits for that, whatever else is found
+  // A chart that was never refreshed waits for a refresh, independent of its findings.
   std::string sentences = state == ChartState::kNotDrawn ? StateReason(state) : "";
   for (const Finding& finding : findings) sentences += (sentences.empty() ? "" : " ") + finding.sentence;
   return sentences.empty() ? StateReason(state) : sentences;
@@ -63,7 +62,7 @@ Json Describe(const dom::IXMLDOMElement& chart, const std::vector<CheckedDefinit
           {"findings", std::move(list)}};
 }
 
-/// Says which rows of the sheet of definitions are no charts, and why; false if there are none.
+/// Reports the invalid rows of the sheet of definitions. Returns false if there are none.
 bool ReportUnlisted(const std::vector<CheckedDefinition>& checked, std::ostream& err) {
   bool isAny = false;
   for (const CheckedDefinition& definition : checked) {
@@ -87,7 +86,7 @@ CLI::App* ChartsCommand::Declare(CLI::App& app) {
 int ChartsCommand::Run(const GlobalOptions& options, const Streams& streams) {
   Session session(book_, options, streams);
   session.LoadTables();
-  const auto checked = CheckDefinitions(session.Book());  // a load drops rows that are no definitions
+  const auto checked = CheckDefinitions(session.Book());  // Check before the load, which drops invalid rows.
   session.LoadCharts();
   int code = session.Finish();
   if (ReportUnlisted(checked, streams.err)) code = exit_code::kSaidSomething;

@@ -73,7 +73,7 @@ Json DescribeAll(const List& list) {
   return described;
 }
 
-/// Ends a line that says what was looked at, and puts a sentence a line below it.
+/// Ends the line with the subject, and prints each finding on a line below it.
 void Print(std::ostream& out, const Findings& findings) {
   out << (findings.empty() ? ": ok\n" : ":\n");
   for (const Finding& finding : findings) out << "  " << finding.place << ": " << Foretold(finding) << '\n';
@@ -115,8 +115,8 @@ void Print(std::ostream& out, const Report& report) {
   if (report.tables.empty()) out << kNoTables << '\n';
 }
 
-/// What the definitions say otherwise than their charts, and labels that cost a bubble chart its legend. To
-/// see that, the charts have to be loaded, which changes the workbook in memory.
+/// Finds the differences between definitions and their charts, and labels that prevent the legend of a bubble
+/// chart. This needs the loaded charts, which changes the workbook in memory.
 void CheckDrawn(Session& session, std::vector<CheckedDefinition>& definitions) {
   session.LoadCharts();
   auto differences = CheckReadBack(session.Book(), definitions, AxisTitles::kCompared);
@@ -149,7 +149,7 @@ int CheckCommand::Run(const GlobalOptions& options, const Streams& streams) {
     report.strayCharts = CheckStrayCharts(session.Book(), report.definitions);
     if (!report.definitions.empty()) CheckDrawn(session, report.definitions);
   } catch (const runtime::RuntimeError&) {
-    session.Finish();  // says what is damaged
+    session.Finish();  // This reports damage.
     throw;
   }
   const int code = session.Finish();

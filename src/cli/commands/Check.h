@@ -4,7 +4,7 @@
 
 namespace plotsmith::cli {
 
-/// Says what is wrong with the definitions and tables of a workbook, and changes nothing.
+/// Lists the problems in the definitions and tables of a workbook. Changes nothing.
 class CheckCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& app) override;

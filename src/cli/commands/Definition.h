@@ -4,7 +4,7 @@
 
 namespace plotsmith::cli {
 
-/// Prints one chart's definition, as it is after it was read back from the chart.
+/// Prints the definition of a chart after it was read back from the chart.
 class DefinitionCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& app) override;

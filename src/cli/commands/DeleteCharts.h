@@ -16,7 +16,7 @@ class DeleteChartsCommand final : public Command {
 
  private:
   VerbOptions verb_;
-  std::vector<std::string> charts_;  ///< ids or names
+  std::vector<std::string> charts_;  ///< Ids or names.
 };
 
 }  // namespace plotsmith::cli

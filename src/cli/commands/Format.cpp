@@ -9,7 +9,7 @@
 namespace plotsmith::cli {
 namespace {
 
-/// The displayed text; nothing if Excel refuses the format.
+/// Returns the displayed text, or nothing if Excel refuses the format.
 std::optional<std::string> Shown(std::string_view code, std::string_view value, xlsx::DateSystem dates) {
   const auto format = xlsx::NumberFormat::Parse(code);
   if (!format) return std::nullopt;

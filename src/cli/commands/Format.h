@@ -6,7 +6,7 @@
 
 namespace plotsmith::cli {
 
-/// Shows what a number format makes of a value.
+/// Shows a value in a number format.
 class FormatCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& app) override;

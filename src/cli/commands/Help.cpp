@@ -13,7 +13,8 @@ CLI::App* HelpCommand::Declare(CLI::App& app) {
 }
 
 int HelpCommand::Run(const GlobalOptions&, const Streams& streams) {
-  const CommandLine line;  // one that has parsed nothing, as its help would be that of this verb
+  const CommandLine
+      line;  // Use a new command line, because the parsed one would print the help of this verb.
   if (verb_.empty()) {
     streams.out << line.app.help();
     return exit_code::kDone;

@@ -16,7 +16,7 @@ class ModifyChartCommand final : public Command {
 
  private:
   VerbOptions verb_;
-  std::string id_;  ///< or its name
+  std::string id_;  ///< The id or the name of the chart.
   ChartOptions chart_;
 };
 

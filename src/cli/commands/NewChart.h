@@ -8,7 +8,7 @@
 
 namespace plotsmith::cli {
 
-/// Makes a chart, as a person does who goes through the wizard.
+/// Makes a chart in the wizard.
 class NewChartCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& app) override;

@@ -56,7 +56,7 @@ void RefreshCommand::CheckPictures(const std::vector<BookRun>& runs) const {
   }
   if (pictureFolder_->empty()) throw CommandError(exit_code::kUsage, "--render wants the name of a folder.");
   PlanOfPictures();
-  std::map<std::string, std::string> books;  // by the beginning of their pictures' names
+  std::map<std::string, std::string> books;  // The workbooks by the beginning of their pictures' names.
   for (const BookRun& run : runs) {
     const auto [other, isNew] = books.emplace(PictureNames(run.book).NameFor(""), run.book);
     if (!isNew) {

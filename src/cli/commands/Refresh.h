@@ -10,7 +10,7 @@
 
 namespace plotsmith::cli {
 
-/// Rebuilds the charts of workbooks: all of them, or those of one table. Draws them into a folder, if wanted.
+/// Rebuilds the charts of workbooks: all of them, or those of one table. Optionally draws them into a folder.
 class RefreshCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& app) override;
@@ -18,7 +18,7 @@ class RefreshCommand final : public Command {
 
  private:
   BookResult RefreshBook(const BookRun& run, const GlobalOptions& options, const Streams& streams) const;
-  /// Refuses pictures that the command line can't mean.
+  /// Throws CommandError if the picture options don't fit the runs.
   void CheckPictures(const std::vector<BookRun>& runs) const;
   PicturePlan PlanOfPictures() const;
 

@@ -13,7 +13,7 @@
 namespace plotsmith::cli {
 namespace {
 
-/// A character for private use: no column is called so.
+/// A private-use character, which no column name contains.
 constexpr const char* kAside = "\xEE\x80\x80";
 
 std::vector<Renaming> Parse(const std::vector<std::string>& texts) {
@@ -33,7 +33,7 @@ std::vector<Renaming> Parse(const std::vector<std::string>& texts) {
   return renamings;
 }
 
-/// Whether the table has a column of the name; the case doesn't matter, as it doesn't to a chart.
+/// Returns true if the table has a column with the name, ignoring case as charts do.
 bool HasColumn(const std::string& table, const std::string& name) {
   if (!colTables || !CollectionHasKey(table, colTables)) return false;
   const auto columns = colTables->Item(table).selectSingleNode("table").childElements();
@@ -42,7 +42,7 @@ bool HasColumn(const std::string& table, const std::string& name) {
   });
 }
 
-/// Whether one of the table's charts names the column.
+/// Returns true if a chart of the table names the column.
 bool IsCharted(const std::string& table, const std::string& column) {
   return std::any_of(colCharts->begin(), colCharts->end(), [&](const dom::IXMLDOMDocument2& document) {
     if (GetAttributeText(document.selectSingleNode("chart"), "table-id") != table) return false;
@@ -68,7 +68,7 @@ std::vector<Renaming> InSteps(std::vector<Renaming> renamings) {
       steps.push_back(std::move(*next));
       renamings.erase(next);
     } else {
-      // all that is left goes in circles
+      // Only cycles are left.
       const std::string aside = renamings.front().first + kAside;
       steps.emplace_back(renamings.front().first, aside);
       renamings.front().first = aside;
@@ -106,7 +106,7 @@ int RenameColumnsCommand::Run(const GlobalOptions& options, const Streams& strea
   bool renamed = false, ready = true;
   for (const auto& [oldName, newName] : renamings) {
     if (colCharts && !IsCharted(table_, newName)) {
-      // it didn't become its new one in an earlier run either: perhaps it is mistyped
+      // No earlier run has renamed it either, so the name may be mistyped.
       complaints.push_back("no chart of the table \"" + table_ + "\" has a column \"" + oldName + "\".");
       continue;
     }
@@ -117,8 +117,8 @@ int RenameColumnsCommand::Run(const GlobalOptions& options, const Streams& strea
       ready = false;
     }
   }
-  // Axis titles that bear a column's name go along. They must be drawn from these definitions: to the next
-  // run a title with the old name would be one that a person typed.
+  // Axis titles that equal a column name are renamed too. They must be drawn from these definitions;
+  // otherwise the next run would treat a title with the old name as one that a person typed.
   if (renamed && ready) controller.RefreshChartsForTable(session.Host(), table_);
   const int code = session.Save(output_);
   for (const std::string& complaint : complaints) streams.err << "plotsmith: " << complaint << '\n';

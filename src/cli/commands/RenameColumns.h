@@ -9,7 +9,7 @@
 
 namespace plotsmith::cli {
 
-/// Carries new names of a table's columns into the definitions of its charts.
+/// Renames columns of a table in the definitions of its charts.
 class RenameColumnsCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& app) override;
@@ -22,11 +22,11 @@ class RenameColumnsCommand final : public Command {
   std::optional<std::string> output_;
 };
 
-using Renaming = std::pair<std::string, std::string>;  ///< old name, new name
+using Renaming = std::pair<std::string, std::string>;  ///< The old name and the new name.
 
-/// The renamings as steps that give the same when they are taken one after the other as all at once: no name
-/// is taken before the column that bears it has given it up. Columns that swap their names go by way of one
-/// that nobody has.
+/// Orders renamings so that performing them one after the other has the same effect as performing them all at
+/// once: a name is used only after its old column was renamed. Columns that swap their names use an unused
+/// name in between.
 std::vector<Renaming> InSteps(std::vector<Renaming> renamings);
 
 }  // namespace plotsmith::cli

@@ -11,7 +11,7 @@ namespace plotsmith::cli {
 
 class Session;
 
-/// Draws charts, or a sheet as it would be printed, into files.
+/// Draws charts, or a sheet as it is printed, into files.
 class RenderCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& app) override;

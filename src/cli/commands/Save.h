@@ -4,7 +4,7 @@
 
 namespace plotsmith::cli {
 
-/// Opens and saves, nothing else.
+/// Opens and saves a workbook without other changes.
 class SaveCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& app) override;

@@ -4,7 +4,7 @@
 
 namespace plotsmith::cli {
 
-/// Lists the tables that charts can be drawn from.
+/// Lists the tables for charts.
 class TablesCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& app) override;

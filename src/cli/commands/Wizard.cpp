@@ -14,8 +14,8 @@ namespace plotsmith::cli {
 namespace {
 
 constexpr const char* kStandardInput = "-";
-/// The program that has the pages' windows. It is one of its own because the command would start more slowly
-/// if it were linked with a toolkit.
+/// The program with the windows of the pages. It is a separate program because linking a toolkit would make
+/// the command start more slowly.
 constexpr const char* kWindowProgram = "plotsmith-wizard";
 
 }  // namespace
@@ -40,7 +40,7 @@ int WizardCommand::Run(const GlobalOptions& options, const Streams& streams) {
   if (!script_) OpenWindow(options);
   if (*script_ == kStandardInput) return Play(streams.in, options, streams);
   std::ifstream file(runtime::PathOf(*script_), std::ios::binary);
-  // a folder can be opened, but nothing can be read from it
+  // A folder can be opened but not read.
   if (!file || (file.peek() == std::ifstream::traits_type::eof() && !file.eof())) {
     throw CommandError(exit_code::kFile, "can't read \"" + *script_ + "\".");
   }
@@ -56,7 +56,7 @@ void WizardCommand::OpenWindow(const GlobalOptions& options) const {
         "plays a script on the wizard's pages, and new, modify, copy and delete go through them by "
         "themselves.");
   }
-  // The equals sign and "--" are there for file names that begin with a dash.
+  // The equals sign and "--" support file names that begin with a dash.
   std::vector<std::string> arguments = {"--host-version", runtime::NumberText(options.hostVersion)};
   if (options.journal) arguments.emplace_back("--journal");
   if (options.force) arguments.emplace_back("--force");

@@ -7,14 +7,14 @@
 
 namespace plotsmith::cli {
 
-/// Opens the wizard's window, or plays a script on its pages.
+/// Opens the wizard's window, or runs a script on its pages.
 class WizardCommand final : public Command {
  public:
   CLI::App* Declare(CLI::App& app) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:
-  /// The window's program takes the place of this one. Throws a CommandError where it isn't installed.
+  /// Replaces this process by the program of the window. Throws CommandError if it isn't installed.
   [[noreturn]] void OpenWindow(const GlobalOptions& options) const;
   int Play(std::istream& script, const GlobalOptions& options, const Streams& streams) const;
 

@@ -9,16 +9,16 @@
 namespace plotsmith::cli {
 namespace {
 
-/// The names of arguments that files complete: the workbook, and what is written.
+/// The names of arguments that are completed with files: the workbook, and the output.
 constexpr const char* kBook = "BOOK";
 constexpr const char* kFile = "FILE";
 constexpr const char* kFolder = "FOLDER";
-/// That of a chart type, and of a format of pictures.
+/// The names of the arguments for a chart type and for a picture format.
 constexpr const char* kType = "TYPE";
 constexpr const char* kFormat = "KIND";
 constexpr const char* kFormats = "svg png pdf";
 
-/// The names of arguments that the workbook completes, and the words by which it is asked for them.
+/// An argument that is completed from the workbook, and the word that requests its candidates.
 struct BookValue {
   const char* name;
   const char* word;
@@ -45,14 +45,14 @@ std::vector<std::string> VerbNames(const CommandLine& line) {
   return names;
 }
 
-/// What is to be said of an option that wants a value: the name of the value, and whether several may follow.
+/// The value of an option: its name, and whether several values may follow.
 struct WantedValue {
   std::string name;
   bool many;
   auto operator<=>(const WantedValue&) const = default;
 };
 
-/// The options that want a value, by that.
+/// Returns the options with a value, by that value.
 std::map<WantedValue, std::vector<std::string>> ValueOptions(const CommandLine& line) {
   std::map<WantedValue, std::vector<std::string>> options;
   const auto add = [&](const CLI::App& app) {
@@ -69,13 +69,14 @@ std::map<WantedValue, std::vector<std::string>> ValueOptions(const CommandLine& 
   return options;
 }
 
-/// Each text as one word of a shell.
+/// Returns each text as one word of a shell.
 std::vector<std::string> QuotedWords(std::vector<std::string> texts) {
   for (std::string& text : texts) text = "'" + text + "'";
   return texts;
 }
 
-/// The positional arguments of a verb for bash: their names, and whether the last one may come again.
+/// Returns the positional arguments of a verb for bash: their names, and whether the last one may be
+/// repeated.
 std::string BashPlaces(const CLI::App& verb) {
   std::vector<std::string> places;
   bool repeated = false;
@@ -87,7 +88,7 @@ std::string BashPlaces(const CLI::App& verb) {
   return "places=(" + Joined(QuotedWords(places), " ") + ")" + (repeated ? " again=yes" : "");
 }
 
-/// Inside of single quotes, with what _arguments takes for its own made harmless.
+/// Escapes a text for single quotes and for the special characters of _arguments.
 std::string ZshText(const std::string& text) {
   std::string plain;
   for (const char c : text) {
@@ -101,7 +102,7 @@ std::string ZshText(const std::string& text) {
   return plain;
 }
 
-/// What zsh calls for an argument of the name; empty where nothing completes it.
+/// Returns the zsh action for an argument, or "" if there is no completion.
 std::string ZshAction(const std::string& name) {
   if (name == kBook) return "_files -g \"*.xls[xm]\"";
   if (name == kFile) return "_files";
@@ -127,7 +128,7 @@ std::string ZshArgument(const OptionView& option, int& position) {
   return names + "[" + ZshText(option.description) + "]" + value + "'";
 }
 
-/// The functions that ZshAction names.
+/// Returns the functions that ZshAction uses.
 std::string ZshQuestions() {
   std::string text = std::string("_plotsmith_types() { compadd \"$@\" -- ") +
                      Joined(QuotedWords(ChartTypes()), " ") + " }\n";
@@ -144,7 +145,7 @@ std::string ZshArguments(const CLI::App& app) {
   return text;
 }
 
-/// What the function of the completion calls.
+/// Returns the functions that the completion calls.
 std::string BashHelpers() {
   return std::string(R"(# Completion of plotsmith for bash; made from the command's own table of options.
 

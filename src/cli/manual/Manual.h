@@ -5,29 +5,29 @@
 
 #include "cli/CommandLine.h"
 
-/// What is installed beside the command, made from its own table of verbs and options, so that it tells of
-/// those that there are.
+/// The manual page and the completions, generated from the command's table of verbs and options.
 namespace plotsmith::cli {
 
-/// The manual page, in the language of man(7).
+/// Returns the manual page in the format of man(7).
 std::string ManualPage(const CommandLine& line);
-/// Scripts by which a shell completes verbs, options and the names of workbooks.
+/// Returns a script for a shell that completes verbs, options and names of workbooks.
 std::string BashCompletion(const CommandLine& line);
 std::string ZshCompletion(const CommandLine& line);
 
-/// An option of the command line as its user sees it.
+/// An option of the command line, as shown to the user.
 struct OptionView {
   explicit OptionView(const CLI::Option& option);
 
-  std::vector<std::string> names;  ///< "-o", "--output"; the name in the usage of a positional argument
-  std::string value;               ///< the name of its value in the usage; empty for a flag
+  std::vector<std::string>
+      names;          ///< The names, such as "-o" and "--output", or the usage name of a positional argument.
+  std::string value;  ///< The usage name of its value; empty for a flag.
   std::string description;
   bool positional;
   bool required;
   bool repeated;
 };
 
-/// The options of a verb without its help, or those that hold for all; positional arguments first.
+/// Returns the options of a verb except help, or the global options. Positional arguments come first.
 std::vector<OptionView> OptionsOf(const CLI::App& app);
 
 }  // namespace plotsmith::cli

@@ -6,7 +6,7 @@
 namespace plotsmith::cli {
 namespace {
 
-/// A text on one line, with nothing in it that man(7) takes for its own.
+/// Returns a text on one line with the special characters of man(7) escaped.
 std::string Plain(const std::string& text) {
   std::string plain;
   for (const char c : text) {
@@ -71,7 +71,7 @@ std::string Usage(const std::vector<OptionView>& options) {
   for (const OptionView& option : options) {
     std::string text = option.positional ? Italic(option.names.front()) : Bold(option.names.front());
     if (!option.positional && !option.value.empty()) text += " " + Italic(option.value);
-    // "FORMAT VALUE" names its two by itself
+    // The name "FORMAT VALUE" already lists two values.
     if (option.positional && option.repeated && text.find(' ') == std::string::npos) text += "...";
     usage += " " + (option.required ? text : "[" + text + "]");
   }

@@ -1,4 +1,4 @@
-// Writes what is installed beside the command. Usage: plotsmith_manual FOLDER
+// Writes the manual page and the completions. Usage: plotsmith_manual FOLDER
 
 #include <filesystem>
 #include <fstream>

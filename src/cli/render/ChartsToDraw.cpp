@@ -24,7 +24,7 @@ excel::Ref<excel::Chart> LoadedChart(const std::string& id) {
   return ValueOr(excel::Ref<excel::Chart>(), [&] { return colChartObjects->Item(id); });
 }
 
-/// The charts on a sheet with cells; none where its drawing can't be read.
+/// Returns the charts on a worksheet, or none if its drawing can't be read.
 std::vector<std::shared_ptr<xlsx::SheetShape>> ChartShapes(xlsx::Workbook& book,
                                                            const xlsx::SheetEntry& sheet) {
   std::vector<std::shared_ptr<xlsx::SheetShape>> charts;
@@ -38,18 +38,18 @@ std::vector<std::shared_ptr<xlsx::SheetShape>> ChartShapes(xlsx::Workbook& book,
       }
     });
   } catch (const runtime::RuntimeError&) {
-    // then it shows no chart
+    // The shape shows no chart.
   }
   return charts;
 }
 
-/// What a shape's chart is called.
+/// Returns the label of a shape's chart.
 std::string LabelOf(const xlsx::SheetEntry& sheet, xlsx::SheetShape& shape) {
   return xlsx::QuotedSheetName(sheet.name) + "!" + shape.Name();
 }
 
-/// The chart of the sheet and the shape that a name such as "'My sheet'!Chart 1" means, or of a chart sheet;
-/// Nothing if there is none. A sheet's name without quotes may have an exclamation mark as well.
+/// Returns the chart with a name such as "'My sheet'!Chart 1", or the chart of a chart sheet, or Nothing. A
+/// sheet name without quotes can also contain an exclamation mark.
 ChartToDraw ChartOnSheet(xlsx::Workbook& book, const std::string& name) {
   for (auto mark = name.find('!'); mark != std::string::npos; mark = name.find('!', mark + 1)) {
     std::string_view text(name);

@@ -11,23 +11,22 @@ class Workbook;
 
 namespace plotsmith::cli {
 
-/// A chart that is to be drawn, and what it is called: its id, "Sheet1!Chart 2", or the name of its chart
-/// sheet.
+/// A chart to draw, with its label: its id, "Sheet1!Chart 2", or the name of its chart sheet.
 struct ChartToDraw {
   std::string label;
-  excel::Ref<excel::Chart> chart;  ///< Nothing where the workbook has a definition only
+  excel::Ref<excel::Chart> chart;  ///< Nothing if the workbook has only a definition.
 };
 
-/// All charts that are loaded, in the order of their definitions.
+/// Returns all loaded charts in the order of their definitions.
 std::vector<ChartToDraw> LoadedChartsToDraw();
 
-/// Those that the names mean, each once: an id or a name of a chart of Plotsmith's, or for any chart its
-/// sheet and its shape, or its chart sheet. A CommandError for a name that means none or several. `path` is
-/// the workbook's for messages.
+/// Returns the charts with the given names, each once. A name is the id or the name of a chart of Plotsmith,
+/// the sheet and shape of any chart, or a chart sheet. Throws CommandError if a name means no chart or
+/// several. `path` is the path of the workbook for messages.
 std::vector<ChartToDraw> NamedChartsToDraw(xlsx::Workbook& book, const std::string& path,
                                            const std::vector<std::string>& names);
 
-/// The names of all charts that Plotsmith doesn't keep, as NamedChartsToDraw takes them.
+/// Returns the names of all charts that aren't Plotsmith's, in the format of NamedChartsToDraw.
 std::vector<std::string> OtherCharts(xlsx::Workbook& book);
 
 }  // namespace plotsmith::cli

@@ -15,7 +15,7 @@
 namespace plotsmith::cli {
 namespace {
 
-/// The drawing of a chart; absent with a note where there is nothing to draw.
+/// Returns the drawing of a chart, or nothing and a note if there is nothing to draw.
 std::optional<render::Drawing> Draw(xlsx::Workbook& workbook, const excel::Ref<excel::Chart>& chart,
                                     render::Notes& notes) {
   if (!chart) {

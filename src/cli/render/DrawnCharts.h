@@ -14,14 +14,14 @@ class Workbook;
 
 namespace plotsmith::cli {
 
-/// What came of drawing charts.
+/// The results of drawing charts.
 struct DrawnCounts {
   std::size_t drawn = 0;
-  bool said = false;  ///< something isn't drawn, which was said on `err`
+  bool said = false;  ///< Whether something isn't drawn, which was reported on `err`.
 };
 
-/// Draws charts of the workbook at `book` and writes their pictures. What isn't drawn is said on `err`, a
-/// line each. `list` has the files printed on `out`.
+/// Draws charts of the workbook at `book` and writes their pictures. Reports what isn't drawn on `err`, one
+/// line each. With `list`, prints the files on `out`.
 DrawnCounts WriteCharts(xlsx::Workbook& workbook, const std::string& book,
                         const std::vector<ChartToDraw>& charts, const PicturePlan& plan,
                         const Streams& streams, bool list);

@@ -5,10 +5,10 @@
 
 namespace plotsmith::cli {
 
-/// The painter of this process, which is loaded by the first call. A CommandError where it isn't there, or
-/// isn't of this version.
+/// Returns the painter of this process, which is loaded by the first call. Throws CommandError if it is
+/// missing or has another version.
 const render::Painter& LoadPainter();
-/// Says on `streams` if there is no font to draw texts with. Returns true if it was said.
+/// Reports on `streams` if no font is installed. Returns true in this case.
 bool SayIfFontsAreMissing(const Streams& streams);
 
 }  // namespace plotsmith::cli

@@ -13,12 +13,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Where the module is from the folder of a program: in an installation beside that folder, in the folder of
-/// a build below it, and for the tests below one of the folders above.
+/// The folders of the module, relative to the folder of the program: beside it in an installation, below it
+/// in a build folder, and for tests below one of its parents.
 constexpr std::array kFolders = {"../lib/plotsmith", "lib/plotsmith", "../../lib/plotsmith"};
 
-/// The folder of this program. Where /proc isn't there, as in some clean roots, the name by which it was
-/// started tells.
+/// Returns the folder of this program. Without /proc, as in some minimal roots, it comes from the name with
+/// which the program was started.
 fs::path FolderOfProgram() {
   std::error_code error;
   fs::path program = fs::read_symlink("/proc/self/exe", error);

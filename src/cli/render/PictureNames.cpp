@@ -8,16 +8,17 @@
 namespace plotsmith::cli {
 namespace {
 
-/// File systems take 255 bytes; the workbook's name, a number and the ending have to fit as well.
+/// File systems allow 255 bytes, which must also include the workbook's name, a number and the extension.
 constexpr std::size_t kLongest = 100;
 
-/// What names on every system can hold, blanks aside, which shells take for an end. Bytes of UTF-8 are kept.
+/// Returns true for characters that every file system allows, except blanks, which separate words in shells.
+/// Bytes of UTF-8 are allowed.
 bool IsSafe(char c) {
   return static_cast<unsigned char>(c) >= 0x80 || (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') ||
          (c >= 'a' && c <= 'z') || c == '_' || c == '.';
 }
 
-/// The text with a dash for each run of characters that aren't safe, and none at the ends.
+/// Replaces each run of unsafe characters by a dash, and removes dashes at the ends.
 std::string Safe(std::string_view text) {
   std::string name;
   for (const char c : text) {
@@ -30,11 +31,11 @@ std::string Safe(std::string_view text) {
   if (name.size() > kLongest) {
     std::size_t end = kLongest;
     while (end > 0 && (static_cast<unsigned char>(name[end]) & 0xC0) == 0x80)
-      --end;  // not inside a character
+      --end;  // Don't cut inside a character.
     name.resize(end);
   }
   while (!name.empty() && (name.back() == '-' || name.back() == '.')) name.pop_back();
-  // a name that begins with a dot is hidden, and one with a dash looks like an option
+  // A name that begins with a dot is hidden, and a name that begins with a dash looks like an option.
   name.erase(0, name.find_first_not_of(".-"));
   return name;
 }

@@ -6,15 +6,15 @@
 
 namespace plotsmith::cli {
 
-/// The names of the pictures of a workbook in a folder, without their endings. They begin with the workbook's
-/// own name, so that the pictures of several workbooks can be in one folder.
+/// Makes the names of a workbook's pictures in a folder, without extensions. They begin with the workbook's
+/// name, so that pictures of several workbooks can be in one folder.
 class PictureNames {
  public:
-  /// `book` is the path of the workbook.
+  /// Makes names for the workbook at path `book`.
   explicit PictureNames(const std::string& book);
 
-  /// A name for the picture of what is called so. It holds nothing that a file system or a shell takes for
-  /// something else, and is told from all names before, case aside.
+  /// Returns a name for the picture of `what`. It contains only characters that are safe for file systems and
+  /// shells, and differs from all earlier names, ignoring case.
   std::string NameFor(std::string_view what);
 
  private:

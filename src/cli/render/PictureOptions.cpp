@@ -36,7 +36,7 @@ std::optional<PictureFormat> FormatOfName(const std::string& name) {
   return std::nullopt;
 }
 
-/// The format that the ending of a file's name tells.
+/// Returns the format for a file extension.
 std::optional<PictureFormat> FormatOfFile(const std::string& path) {
   const std::string ending = runtime::Utf8Of(runtime::PathOf(path).extension());
   return ending.empty() ? std::nullopt : FormatOfName(ending.substr(1));

@@ -11,10 +11,10 @@ namespace plotsmith::cli {
 
 enum class PictureFormat { kSvg, kPng, kPdf };
 
-/// The ending of a file of the format, with its dot.
+/// Returns the file extension of a format, including the dot.
 const char* EndingOf(PictureFormat format);
 
-/// What the command line says of pictures.
+/// The picture options of the command line.
 struct PictureOptions {
   std::optional<std::string> format;
   std::optional<double> dpi;
@@ -22,26 +22,26 @@ struct PictureOptions {
 
   bool AreGiven() const { return format || dpi || scale; }
 };
-/// `usualFormat` says in the help which format is taken without --format.
+/// Declares the picture options. `usualFormat` is the default of --format in the help.
 void DeclarePictureOptions(CLI::App& verb, PictureOptions& options, const std::string& usualFormat);
 
-/// Where pictures go, and how they are made.
+/// The destination and the format of pictures.
 struct PicturePlan {
   enum class Target { kFolder, kFile, kStandardOutput };
 
   PictureFormat format = PictureFormat::kSvg;
   Target target = Target::kFolder;
-  std::string path;  ///< of the folder or the file
-  double dpi = 96;   ///< of a PNG
+  std::string path;  ///< The path of the folder or the file.
+  double dpi = 96;   ///< The resolution of a PNG.
   double scale = 1;
 };
 
-/// The plan for what the options say and `-o` names. Without `-o` the pictures go into the current folder,
-/// without any word of the format they are SVG. A CommandError where the options don't go together.
+/// Makes the plan from the options and `-o`. The default destination is the current folder, and the default
+/// format is SVG. Throws CommandError if the options contradict each other.
 PicturePlan PlanPictures(const PictureOptions& options, const std::optional<std::string>& output);
 
-/// Refuses `count` pictures where the plan has room for one only, and a picture of bytes on a terminal.
-/// `noun` is what the pictures are of, "chart".
+/// Throws CommandError if `count` pictures don't fit into a single file, or if binary pictures would go to a
+/// terminal. `noun` is the subject of the pictures, such as "chart".
 void CheckRoom(const PicturePlan& plan, std::size_t count, const std::string& noun, const Streams& streams);
 
 }  // namespace plotsmith::cli

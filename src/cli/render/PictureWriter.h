@@ -9,24 +9,23 @@
 
 namespace plotsmith::cli {
 
-/// Writes pictures where the plan says, and says on `out` which files they are in, a path each, if it says
-/// nothing else.
+/// Writes pictures according to a plan. Optionally prints the paths of the files on `out`, one per line.
 class PictureWriter {
  public:
-  /// Makes the folder, if it isn't there. A CommandError where that can't be done. `list` has the paths
+  /// Makes the folder if it doesn't exist. Throws CommandError if that fails. With `list`, the paths are
   /// printed.
   PictureWriter(PicturePlan plan, const Streams& streams, bool list);
 
-  /// Takes a picture, whose file in a folder has the name, without its ending. A CommandError where it can't
-  /// be written.
+  /// Adds a picture. In a folder, `name` is the name of its file, without extension. Throws CommandError if
+  /// it can't be written.
   void Add(const std::string& name, render::Drawing drawing);
-  /// The same for the pages of one PDF document.
+  /// Adds the pages of a PDF document.
   void AddDocument(const std::string& name, std::vector<render::Drawing> pages);
-  /// Writes what goes into one file. To be called after the last picture.
+  /// Writes the single file, if the plan has one. Call this after the last picture.
   void Finish();
 
  private:
-  /// All pages as PDF, of other formats the first one.
+  /// Returns all pages as PDF, or the first page in another format.
   std::string BytesOf(std::vector<render::Drawing> pages) const;
   std::string PngOf(const render::Drawing& drawing) const;
   void WriteFile(const std::string& path, const std::string& bytes) const;
@@ -34,7 +33,7 @@ class PictureWriter {
   PicturePlan plan_;
   Streams streams_;
   bool list_;
-  std::vector<render::Drawing> pages_;  ///< of the one file
+  std::vector<render::Drawing> pages_;  ///< The pages of the single file.
 };
 
 }  // namespace plotsmith::cli

@@ -7,7 +7,7 @@
 
 namespace plotsmith::cli {
 
-/// What the layout of a chart is to be. What is absent stays as it is.
+/// The layout options of a chart. Absent options don't change the chart.
 struct LayoutOptions {
   std::optional<std::string> title;
   std::optional<std::string> categories;
@@ -18,37 +18,37 @@ struct LayoutOptions {
   std::optional<std::string> values;
   std::optional<std::string> xValues;
   std::optional<std::string> sizes;
-  std::optional<std::string> bucketTable;  ///< an id
+  std::optional<std::string> bucketTable;  ///< A table id.
   std::optional<std::string> sortBy;
   bool descending = false;
   std::optional<std::string> xAxis;
   std::optional<std::string> yAxis;
   std::optional<std::string> numberFormat;
   std::optional<std::string> labels;
-  std::vector<std::string> set;    ///< settings to switch on
-  std::vector<std::string> unset;  ///< settings to switch off
+  std::vector<std::string> set;    ///< Settings to switch on.
+  std::vector<std::string> unset;  ///< Settings to switch off.
   std::optional<std::string> comment;
 };
 
-/// What a chart is to be, from its table to its place.
+/// All options of a chart: table, type, layout, name and sheet.
 struct ChartOptions {
-  std::optional<std::string> table;  ///< an id
+  std::optional<std::string> table;  ///< A table id.
   std::optional<std::string> type;
   LayoutOptions layout;
   std::optional<std::string> name;
-  std::optional<std::string> sheet;     ///< one that is there
-  std::optional<std::string> newSheet;  ///< one to be made
+  std::optional<std::string> sheet;     ///< An existing sheet.
+  std::optional<std::string> newSheet;  ///< A new sheet.
 };
 
-/// Declares the options of table, type, layout and name.
+/// Declares the options for table, type, layout and name.
 void DeclareChartOptions(CLI::App& verb, ChartOptions& options);
-/// Declares the options that say where a chart is put that isn't there yet.
+/// Declares the options for the sheet of a new chart.
 void DeclarePlaceOptions(CLI::App& verb, ChartOptions& options);
 
-/// The names of the layout options that are given: "--title".
+/// Returns the names of the given layout options, such as "--title".
 std::vector<std::string> GivenOptions(const LayoutOptions& layout);
 
-/// A CommandError for a chart type that there isn't, and for a setting that is to be both on and off.
+/// Throws CommandError for an unknown chart type, and for a setting that is both switched on and off.
 void CheckChartOptions(const ChartOptions& options);
 
 }  // namespace plotsmith::cli

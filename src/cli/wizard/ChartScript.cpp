@@ -16,24 +16,24 @@ namespace {
 
 using forms::ScriptError;
 
-/// The pages by the names of their forms.
+/// The form names of the pages.
 namespace page_name {
 constexpr std::string_view kSelectAction = "frmPSSelectAction";
 constexpr std::string_view kSelectTable = "frmPSSelectTable";
 constexpr std::string_view kChartLocation = "frmPSChartLocation";
 }  // namespace page_name
 
-/// What the Source Table page says to a chart of a type that can't be drawn.
+/// The message of the Source Table page if the chart's type can't be drawn.
 constexpr std::string_view kNoType = "Please select a chart type";
 
-/// The type of the chart in hand; absent if it is none that can be drawn.
+/// Returns the type of the current chart, or nothing if it can't be drawn.
 std::optional<std::string> TypeInHand() {
   if (!oChartDoc) return std::nullopt;
   const std::string type = GetAttributeText(oChartDoc.selectSingleNode("chart"), "type");
   return FindLayout(type) == nullptr ? std::nullopt : std::optional(type);
 }
 
-/// The row of a grid that bears the chart's id, which is its data, or its name, which is its text.
+/// Returns the row of a grid for the chart with an id (the row's data) or a name (the row's text).
 std::int32_t RowOfChart(const forms::VSFlexGrid& grid, const std::string& idOrName) {
   ChartNames charts;
   for (std::int32_t row = grid.FixedRows(); row < grid.Rows(); ++row) {
@@ -56,7 +56,7 @@ std::int32_t RowOfTable(const forms::VSFlexGrid& grid, const std::string& id) {
   throw ScriptError("no table " + Quoted(id) + "; " + ThereAre(ids));
 }
 
-/// Presses the button that modifies or copies the selected chart, which is off for a chart without a table.
+/// Presses the button that modifies or copies the selected chart. It is disabled for a chart without a table.
 Step WorkStep(const char* button, const std::string& chart) {
   return [button, chart](const forms::Form& page) {
     if (!page.FindControl(button)->Enabled()) {
@@ -67,7 +67,7 @@ Step WorkStep(const char* button, const std::string& chart) {
   };
 }
 
-/// Chooses a type of chart that the selected table allows.
+/// Selects a chart type that the selected table allows.
 Step ChartTypeStep(const std::string& type) {
   return [type](const forms::Form& page) -> std::optional<std::string> {
     const auto optionOf = [](const std::string& name) {
@@ -95,7 +95,7 @@ Steps ChartScript::StepsOn(const forms::Form& page) {
 }
 
 bool ChartScript::Deals(const forms::Form& page, const std::string& message) {
-  // the page opens by itself, and with a message, where the chart's table or type is of no use
+  // The page opens by itself with a message if the chart's table or type can't be used.
   if (page.Name() != page_name::kSelectTable || beenOnSelectTable_) return false;
   return message == kNoType ? options_.type.has_value() : options_.table.has_value();
 }
@@ -117,7 +117,7 @@ Steps ChartScript::OnSelectTable(const forms::Form& page) {
     const std::int32_t row = RowOfTable(ControlOn<forms::VSFlexGrid>(page, "grdTables"), *options_.table);
     steps.push_back(RowsStep("grdTables", {row}));
   }
-  // a table of no use has switched the chart's own type off
+  // An unsuitable table has disabled the chart's own type.
   const auto type = options_.type ? options_.type : TypeInHand();
   if (type) steps.push_back(ChartTypeStep(*type));
   steps.push_back(PressStep("cmdNext"));
@@ -144,7 +144,7 @@ Steps ChartScript::OnChartLocation() const {
   if (options_.name) {
     steps.push_back(TypeStep("txtName", *options_.name, "--name"));
   } else if (work_ == ChartWork::kCopy) {
-    // the page proposes the title, which is mostly the name of the chart that was copied
+    // The default is the title, which is usually the name of the original chart.
     const std::string name = GetAttributeText(oChartDoc.selectSingleNode("chart"), "name");
     steps.push_back(TypeStep("txtName", name, "--name"));
   }
@@ -161,7 +161,7 @@ bool ChartScript::WantsChartLocation() const {
 }
 
 Steps DeleteScript::StepsOn(const forms::Form& page) {
-  if (std::exchange(done_, true)) return {};  // the page has opened again without the charts
+  if (std::exchange(done_, true)) return {};  // The page has opened again without the charts.
   if (page.Name() != page_name::kSelectAction) {
     throw ScriptError("no chart " + Quoted(charts_.front()) + "; the workbook has no charts");
   }

@@ -7,14 +7,14 @@
 
 namespace plotsmith::cli {
 
-/// What is done to a chart on the way through the pages.
+/// The action on a chart.
 enum class ChartWork { kNew, kModify, kCopy };
 
-/// Makes, modifies or copies a chart: what the options tell goes to the pages, all else stays as the pages
-/// have it.
+/// The script of the verbs that make, modify or copy a chart. It enters the options on the pages; all other
+/// controls keep their values.
 class ChartScript final : public VerbScript {
  public:
-  /// `chart` is an id or a name, and of no interest for a new chart.
+  /// Makes a script. `chart` is an id or a name; it isn't used for a new chart.
   ChartScript(ChartWork work, std::string chart, const ChartOptions& options)
       : work_(work), chart_(std::move(chart)), options_(options) {}
 
@@ -27,9 +27,10 @@ class ChartScript final : public VerbScript {
   Steps OnSelectTable(const forms::Form& page);
   Steps OnLayout() const;
   Steps OnChartLocation() const;
-  /// Whether the Source Table page, which the way to a chart's layout leaves out, is still to be visited.
+  /// Returns true if the script still has to visit the Source Table page, which isn't on the way to the
+  /// layout of an existing chart.
   bool WantsSelectTable() const;
-  /// Whether the Chart Location page has anything to be filled in.
+  /// Returns true if the script has input for the Chart Location page.
   bool WantsChartLocation() const;
 
   ChartWork work_;
@@ -38,10 +39,10 @@ class ChartScript final : public VerbScript {
   bool beenOnSelectTable_ = false;
 };
 
-/// Deletes charts.
+/// The script of the verb that deletes charts.
 class DeleteScript final : public VerbScript {
  public:
-  /// Ids or names.
+  /// Makes a script that deletes the charts with these ids or names.
   explicit DeleteScript(std::vector<std::string> charts) : charts_(std::move(charts)) {}
 
  protected:

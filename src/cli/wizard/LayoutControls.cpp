@@ -46,7 +46,7 @@ const LayoutControls kBucket = {.categories = "cboCategories",
 
 struct TypeOfChart {
   std::string_view name;
-  std::int32_t option;  ///< its place on the Source Table page
+  std::int32_t option;  ///< Its index on the Source Table page.
   const LayoutControls& layout;
 };
 

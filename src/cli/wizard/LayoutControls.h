@@ -7,19 +7,20 @@
 
 namespace plotsmith::cli {
 
-/// A word of an option, and the control that it is about.
+/// A value of an option, and its control.
 struct NamedControl {
   std::string_view word;
   const char* control;
-  bool on = true;  ///< of a check box: whether the word ticks it
+  bool on = true;  ///< Whether the value checks or unchecks a check box.
 };
 
-/// Which controls of a layout page the options of the command are about. A null pointer is a control that the
-/// page doesn't have. Titles, comments and the boxes of axes have the same names on all pages.
+/// The controls of a layout page that correspond to the options of the command. A null pointer means that the
+/// page doesn't have the control. Titles, comments and the boxes of axes have the same names on all pages.
 struct LayoutControls {
   const char* categories = nullptr;
   const char* series = nullptr;
-  bool hasColumns = false;  ///< number columns can be the categories or the series (optCategories, optSeries)
+  bool hasColumns =
+      false;  ///< Whether number columns can be the categories or the series (optCategories, optSeries).
   const char* values = nullptr;
   const char* xValues = nullptr;
   const char* sizes = nullptr;
@@ -28,21 +29,21 @@ struct LayoutControls {
   const char* numberFormat = nullptr;
   bool hasAxes = false;
   std::vector<NamedControl> labels;
-  std::vector<NamedControl> settings;  ///< in the order in which one switches the next one on
+  std::vector<NamedControl> settings;  ///< The settings, in the order in which one enables the next.
 };
 
-/// The layout page of a chart type; null for a type that there isn't.
+/// Returns the layout page of a chart type, or null for an unknown type.
 const LayoutControls* FindLayout(std::string_view type);
 
-/// The names of all chart types.
+/// Returns the names of all chart types.
 std::vector<std::string> ChartTypes();
-/// The place of a type, which there is, among the options of the Source Table page.
+/// Returns the index of an existing type among the options of the Source Table page.
 std::int32_t OptionOfType(std::string_view type);
 
-/// What an option needs whose control is off at present: "--set stacked"; null where there is no one answer.
+/// Returns the option that enables a control, such as "--set stacked", or null if there isn't exactly one.
 const char* NeedOf(std::string_view control);
 
-/// The options that the page has controls for: "--title".
+/// Returns the options for which the page has controls, such as "--title".
 std::vector<std::string> OptionsOf(const LayoutControls& layout);
 
 }  // namespace plotsmith::cli

@@ -27,7 +27,7 @@ void CheckOptions(const LayoutOptions& options, const LayoutControls& layout, co
   }
 }
 
-/// The control of a word; `kind` is what the words are, such as "setting".
+/// Returns the control for a value. `kind` describes the value, such as "setting".
 const NamedControl& ControlOfWord(const std::vector<NamedControl>& controls, const std::string& word,
                                   const char* kind, const std::string& type) {
   const auto found = std::find_if(controls.begin(), controls.end(),
@@ -38,7 +38,8 @@ const NamedControl& ControlOfWord(const std::vector<NamedControl>& controls, con
   throw ScriptError(ChartOf(type) + " has no " + kind + " " + Quoted(word) + "; it has " + Listed(words));
 }
 
-/// Frees optCategories(2), which is off while columns are the series, if the series are to be others anyway.
+/// Enables optCategories(2), which is disabled while number columns are the series, if the series change
+/// anyway.
 Step FreeCategoryColumns() {
   return [](const forms::Form& page) -> std::optional<std::string> {
     if (page.FindControl("optCategories(2)")->Enabled()) return std::nullopt;
@@ -80,13 +81,13 @@ void AddNumbers(Steps& steps, const LayoutOptions& options, const LayoutControls
   add(layout.values, options.values, "--values");
   add(layout.xValues, options.xValues, "--x-values");
   add(layout.sizes, options.sizes, "--sizes");
-  // with a single number column, a click on the values takes the series away
+  // With a single number column, a click on the values deselects the series.
   AddSeries(steps, options, layout);
   add(layout.sortBy, options.sortBy, "--sort-by");
   if (options.descending) steps.push_back(OptionStep("optBlockSequence(1)", "--descending"));
 }
 
-/// The name of the bucket table of an id, among those that fit to the source table of the run.
+/// Returns the name of the bucket table with an id, among those that fit the source table.
 std::string NameOfBucketTable(const std::string& id) {
   std::vector<std::string> ids;
   const auto candidates = GetBucketCandidates(colTables->Item(sTableID).selectSingleNode("table"));

@@ -7,8 +7,8 @@
 
 namespace plotsmith::cli {
 
-/// The steps that give the options to the layout page of a chart type. A ScriptError for an option, a setting
-/// or a kind of labels that the page has no control for.
+/// Returns the steps that enter the options on the layout page of a chart type. Throws ScriptError for an
+/// option, a setting or a kind of labels without a control on the page.
 Steps LayoutSteps(const LayoutOptions& options, const std::string& type);
 
 }  // namespace plotsmith::cli

@@ -5,7 +5,7 @@
 namespace plotsmith::cli {
 namespace {
 
-/// The sentence with a full stop, if it has no end of its own.
+/// Returns the sentence with a full stop unless it has punctuation at the end.
 std::string Ended(const std::string& sentence) {
   return sentence.ends_with('.') || sentence.ends_with('!') ? sentence : sentence + ".";
 }
@@ -37,7 +37,7 @@ int PlayVerb(VerbScript& script, const VerbOptions& verb, const GlobalOptions& o
     throw CommandError(exit_code::kUsage, Ended(failure->sentence));
   }
   if (!run.CameToSomething()) {
-    // the run ended before the pages did, and has said why
+    // The run ended early and has reported the reason.
     run.Workbook().Finish();
     throw CommandError(exit_code::kUsage, "nothing was done, and nothing is saved.");
   }

@@ -8,7 +8,7 @@
 
 namespace plotsmith::cli {
 
-/// What all verbs that go through the wizard's pages have in common.
+/// The options of all verbs that use the wizard's pages.
 struct VerbOptions {
   std::string book;
   std::optional<std::string> output;
@@ -20,8 +20,8 @@ void DeclareBook(CLI::App& verb, VerbOptions& options);
 /// Declares the output and the printing of the script.
 void DeclareOutput(CLI::App& verb, VerbOptions& options);
 
-/// Plays the verb's script and saves, or prints the script. Answers an exit code. A CommandError where a page
-/// isn't satisfied or an option can't be used; nothing is saved then.
+/// Runs the verb's script and saves, or prints the script. Returns an exit code. Throws CommandError if a
+/// page rejects its input or an option can't be used; nothing is saved then.
 int PlayVerb(VerbScript& script, const VerbOptions& verb, const GlobalOptions& options,
              const Streams& streams);
 

@@ -9,13 +9,13 @@
 
 namespace plotsmith::cli {
 
-/// Who answers for what the system says outside of its pages.
+/// The recipient of messages that don't come from pages.
 enum class Outside {
-  kScript,   ///< the script has to expect it, as it has to expect what the pages say
-  kCommand,  ///< the command reports it as well
+  kScript,   ///< The script must expect them, like the messages of pages.
+  kCommand,  ///< The command reports them too.
 };
 
-/// The desktop of a run that a script plays: its message boxes go to the script.
+/// The desktop of a script run. Its message boxes go to the script.
 class ScriptDesktop final : public ConsoleDesktop {
  public:
   ScriptDesktop(std::shared_ptr<forms::ScriptPlayer> player, Outside outside)
@@ -25,9 +25,10 @@ class ScriptDesktop final : public ConsoleDesktop {
                       std::string_view title) override;
   void ShowHelp(std::intptr_t, const std::string&, std::int32_t) override {}
 
-  /// Whether a question was answered with OK. The system has one question only, which precedes a deletion.
+  /// Returns true if a question was answered with OK. The system's only question is the confirmation of a
+  /// deletion.
   bool Confirmed() const { return confirmed_; }
-  /// What pages have said, in the player's spelling.
+  /// The messages of pages, in the spelling of the script player.
   const std::vector<std::string>& SaidByPages() const { return saidByPages_; }
 
  private:

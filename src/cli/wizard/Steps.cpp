@@ -22,7 +22,7 @@ namespace {
 using forms::ScriptError;
 using forms::WordFor;
 
-/// Refuses an option whose control can't be used at present.
+/// Throws ScriptError if the control of an option can't be used at present.
 void CheckUsable(const forms::Control& control, const std::string& option) {
   const std::string obstacle = control.Obstacle();
   if (obstacle.empty()) return;
@@ -36,7 +36,7 @@ std::vector<std::string> EntriesOf(const forms::EntryList& list) {
   return entries;
 }
 
-/// The cell that makes a column a label column, as the end of a sentence; "" if only dates do.
+/// Returns the cell that makes a column a label column, as the end of a sentence; "" if only dates do.
 std::string WhyLabel(const dom::IXMLDOMElement& table, const dom::IXMLDOMElement& column) {
   const TableArea area(table);
   const std::int32_t number = GetAttributeLong(column, "worksheet-column-number");
@@ -45,7 +45,7 @@ std::string WhyLabel(const dom::IXMLDOMElement& table, const dom::IXMLDOMElement
   return ", since " + CellText(area.sheet, cells.LabelRow(), number) + " holds " + cells.LabelCell();
 }
 
-/// What is to be said of a column that the table has, but of the other kind.
+/// Returns the message for a column that exists but has the other kind.
 std::string OtherKindOf(const std::string& text) {
   if (!colTables || !CollectionHasKey(sTableID, colTables)) return {};
   const auto table = colTables->Item(sTableID).selectSingleNode("table");
@@ -57,7 +57,7 @@ std::string OtherKindOf(const std::string& text) {
   return {};
 }
 
-/// The entry with the text, or else one that differs from it in case only.
+/// Returns the entry with the text, or one that differs only in case.
 std::string EntryOf(const forms::EntryList& list, const std::string& text, const char* option,
                     const char* kind) {
   const auto entries = EntriesOf(list);
@@ -84,7 +84,7 @@ bool HasSame(std::vector<std::string> a, std::vector<std::string> b) {
   return a == b;
 }
 
-/// The row by its text, or by its number where the text isn't enough.
+/// Returns the word that selects a row: its text, or its number if the text is ambiguous.
 std::string WordForRow(const forms::VSFlexGrid& grid, std::int32_t row) {
   const std::string& text = grid.TextMatrix(row, 0);
   int same = 0;

@@ -11,8 +11,8 @@
 
 namespace plotsmith::cli {
 
-/// A step of a verb on a page: the line of a script that does it, as the page is now; absent where nothing is
-/// left to do. A ScriptError where the page doesn't allow it.
+/// A step of a verb on a page. It returns the line of a script for the current state of the page, or nothing
+/// if nothing is left to do. It throws ScriptError if the page doesn't allow it.
 using Step = std::function<std::optional<std::string>(const forms::Form& page)>;
 using Steps = std::vector<Step>;
 
@@ -20,20 +20,20 @@ using Steps = std::vector<Step>;
 Step PressStep(const char* button);
 /// Types a text into a box.
 Step TypeStep(const char* control, std::string text, const char* option);
-/// Chooses an option button that isn't chosen yet.
+/// Selects an option button unless it is selected.
 Step OptionStep(std::string control, std::string option);
-/// Ticks a check box, or takes the tick away, if it isn't so yet.
+/// Checks or unchecks a check box if necessary.
 Step TickStep(const char* control, bool checked, std::string option);
-/// Chooses entries of a list or of a combo box by their texts, ignoring case, if they aren't chosen yet.
-/// `kind` is what the entries are.
+/// Selects entries of a list or of a combo box by their texts, ignoring case, unless they are selected.
+/// `kind` is the kind of entries.
 Step EntriesStep(const char* control, std::vector<std::string> texts, const char* option,
                  const char* kind = "column");
-/// Chooses the first entry of a combo box.
+/// Selects the first entry of a combo box.
 Step FirstEntryStep(const char* control, const char* option);
-/// Selects rows of a grid, by their places.
+/// Selects rows of a grid by index.
 Step RowsStep(const char* grid, std::vector<std::int32_t> rows);
 
-/// The page's control of that name; it is there.
+/// Returns the page's control with that name, which must exist.
 template <class Kind>
 const Kind& ControlOn(const forms::Form& page, std::string_view name) {
   return dynamic_cast<const Kind&>(*page.FindControl(name));

@@ -12,31 +12,31 @@
 
 namespace plotsmith::cli {
 
-/// The script of a verb that goes through the wizard's pages. It looks at each page that opens and says what
-/// is to be done there, so the way through the pages need not be known.
+/// The script of a verb that uses the wizard's pages. It chooses the steps for each page that opens, so it
+/// doesn't need to know the order of the pages.
 class VerbScript : public forms::LineSource {
  public:
   std::optional<std::string> NextLine(const forms::Scene& scene) final;
 
-  /// All lines so far.
+  /// The lines that were generated so far.
   const std::vector<std::string>& Lines() const { return lines_; }
-  /// What pages have said, so that it can be told from what a build has to say.
+  /// Sets the messages of pages, so that they can be distinguished from messages of a build.
   void SetSaidByPages(const std::vector<std::string>& texts) { saidByPages_ = &texts; }
 
  protected:
-  /// What is to be done on a page that has opened. With no steps the script ends there.
+  /// Returns the steps on a page that has opened. An empty list ends the script.
   virtual Steps StepsOn(const forms::Form& page) = 0;
-  /// Whether the verb does what a page's message asks for, so that the message is no reason to stop.
+  /// Returns true if the verb resolves the problem in a page's message, so that the script continues.
   virtual bool Deals(const forms::Form& /*page*/, const std::string& /*message*/) { return false; }
 
  private:
   std::optional<std::string> MakeLine(const forms::Scene& scene);
-  /// Expects a message, or stops because of it.
+  /// Returns the line that expects a message, or stops the script because of it.
   std::string LineFor(const std::string& message, const forms::Form* page);
   bool IsOfPage(const std::string& message) const;
 
   const std::vector<std::string>* saidByPages_ = nullptr;
-  std::uint64_t page_ = 0;  ///< the id of the form that the steps are for
+  std::uint64_t page_ = 0;  ///< The id of the form of the steps.
   std::deque<Step> steps_;
   bool over_ = false;
   std::vector<std::string> lines_;

@@ -11,10 +11,10 @@
 
 namespace plotsmith::cli {
 
-/// A run of the wizard on a workbook, with a script in place of the hands.
+/// A run of the wizard on a workbook, with a script in place of the user.
 class WizardRun {
  public:
-  /// `lines` must outlive the run. `show` prints what the script asks to be shown.
+  /// Makes a run. `lines` must outlive it. `show` prints the forms that the script shows.
   WizardRun(const std::string& book, const GlobalOptions& options, const Streams& streams,
             forms::LineSource& lines, forms::ScriptPlayer::Show show, Outside outside);
 
@@ -23,7 +23,7 @@ class WizardRun {
   Session& Workbook() { return session_; }
   const forms::ScriptPlayer& Player() const { return *player_; }
   const ScriptDesktop& Desktop() const { return *desktop_; }
-  /// Whether the run came to build a chart, or to delete one. Only then is there anything to save.
+  /// Returns true if the run has built or deleted a chart. Otherwise there is nothing to save.
   bool CameToSomething() const { return session_.ChartsStarted() > 0 || desktop_->Confirmed(); }
 
  private:

@@ -42,7 +42,7 @@ std::string Joined(const std::vector<std::string>& texts) {
   return all;
 }
 
-/// The texts of the selected entries, or of the first column of the selected rows.
+/// Returns the texts of the selected entries, or of the first column in the selected rows.
 std::string SelectedTexts(const ControlState& state) {
   std::vector<std::string> texts;
   for (const std::int32_t place : *state.selected) {

@@ -13,14 +13,14 @@
 namespace plotsmith::forms {
 namespace {
 
-/// A line on its way to the hand.
+/// A line that is being executed.
 struct Gesture {
-  const Words& words;  ///< the verb first
+  const Words& words;  ///< The words, beginning with the verb.
   Form& form;
   Hand& hand;
   EventQueue& queue;
 
-  /// The control that the line names, which a hand can use at present.
+  /// Returns the control that the line names. The user can use it at present.
   Control& Target() const {
     Control& control = ControlOf(form, words[1].text);
     const std::string obstacle = control.Obstacle();
@@ -29,7 +29,7 @@ struct Gesture {
   }
 };
 
-/// A sentence for a control that the verb isn't for; `wanted` is what it is for.
+/// Returns the error for a control of the wrong kind. `wanted` is the right kind.
 ScriptError WrongKind(const Gesture& gesture, const Control& control, const char* wanted) {
   return ScriptError(control.FullName() + " is a " + control.TypeName() + ", and '" +
                      gesture.words.front().text + "' is for " + wanted);
@@ -42,7 +42,7 @@ Kind& TargetOf(const Gesture& gesture, const char* wanted) {
   throw WrongKind(gesture, control, wanted);
 }
 
-/// What can be selected or chosen in a control, in its order.
+/// The selectable items of a control, in order.
 struct Items {
   const Control& control;
   const char* kind;  ///< "row" or "entry"
@@ -64,7 +64,7 @@ Items EntriesOf(const EntryList& list) {
   return items;
 }
 
-/// What there is instead of an item that isn't there.
+/// Returns the end of a sentence that lists the existing items.
 std::string Instead(const Items& items) {
   if (items.texts.empty()) return std::string("it has no ") + items.kinds;
   std::vector<std::string> names;
@@ -72,7 +72,7 @@ std::string Instead(const Items& items) {
   return "it has " + SomeOf(names);
 }
 
-/// The place of the item with the text; of equal texts the first.
+/// Returns the index of the first item with the text.
 std::int32_t PlaceOfText(const Items& items, const std::string& text) {
   const std::string wanted = WithLineEnds(text, "\n");
   const auto found = std::find_if(items.texts.begin(), items.texts.end(), [&](const std::string& item) {
@@ -83,7 +83,7 @@ std::int32_t PlaceOfText(const Items& items, const std::string& text) {
                     Instead(items));
 }
 
-/// The number of "#3", which counts from 1; absent for a word of another form.
+/// Returns the number in "#3", which counts from 1, or nothing for other words.
 std::optional<double> NumberOf(const Word& word) {
   if (word.quoted || word.text.size() < 2 || word.text.front() != '#' ||
       !std::all_of(word.text.begin() + 1, word.text.end(), ascii::IsDigit)) {
@@ -92,7 +92,7 @@ std::optional<double> NumberOf(const Word& word) {
   return runtime::ParseNumber(std::string_view(word.text).substr(1));
 }
 
-/// The place of an item that a word names by its text or its number.
+/// Returns the index of an item that a word names by text or number.
 std::int32_t PlaceOf(const Items& items, const Word& word) {
   const auto number = NumberOf(word);
   if (!number) return PlaceOfText(items, word.text);

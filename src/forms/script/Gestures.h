@@ -6,14 +6,14 @@
 
 namespace plotsmith::forms {
 
-/// Whether the line is a gesture on a form.
+/// Returns true if the line of a script is an action on a form.
 bool IsGesture(const Words& words);
 
-/// Lets the hand make the gesture of a line on the form in front. A ScriptError where it can't be made: there
-/// is no such control or entry, the control is of another kind, or it is off or hidden.
+/// Performs the action of a line on the front form. Throws ScriptError if this isn't possible: there is no
+/// such control or entry, the control is of another kind, or it is disabled or hidden.
 void MakeGesture(const Words& words, Form& form, Hand& hand, EventQueue& queue);
 
-/// The control of the name; a ScriptError that lists the form's controls if there is none.
+/// Returns the control with the name. Throws a ScriptError that lists the form's controls if there is none.
 Control& ControlOf(const Form& form, const std::string& name);
 
 }  // namespace plotsmith::forms

@@ -14,8 +14,8 @@
 
 namespace plotsmith::forms {
 
-/// The hand that a script moves: a member for each kind of gesture. Each one posts what it does. Rows and
-/// entries count from 0, rows with the fixed ones.
+/// The simulated user of a script, with a member for each kind of action. Each member posts its action to the
+/// queue. Rows and entries count from 0; rows include the fixed rows.
 class Hand {
  public:
   virtual ~Hand() = default;
@@ -34,12 +34,12 @@ class Hand {
   virtual void Escape(EventQueue& queue, Form& form) = 0;
   virtual void Close(EventQueue& queue, Form& form) = 0;
 
-  /// Is told of a gesture that was refused when its turn came, with the end of a sentence ("is off"). A
-  /// control that could be used before the focus moved to it may be off by then.
+  /// Called if an action was refused when it was performed, with the end of a sentence ("is off"). For
+  /// example, a control can become disabled when the focus moves to it.
   std::function<void(const std::string& sentence)> Refused = [](const std::string&) {};
 };
 
-/// A hand that works on the model alone, where no window is.
+/// A simulated user without windows, which works on the model.
 class ModelHand final : public Hand {
  public:
   void SelectRows(EventQueue& queue, VSFlexGrid& grid, std::vector<std::int32_t> rows) override;
@@ -57,7 +57,7 @@ class ModelHand final : public Hand {
   void Close(EventQueue& queue, Form& form) override;
 
  private:
-  /// Posts a gesture on a control; the gesture answers false where it is refused.
+  /// Posts an action on a control. `gesture` returns false if the action is refused.
   void Post(EventQueue& queue, const Control& control, std::function<bool()> gesture);
 };
 

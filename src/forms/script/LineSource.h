@@ -11,25 +11,25 @@
 
 namespace plotsmith::forms {
 
-/// What a script sees at the moment when its next line is due.
+/// The state of the run when the next line of the script is read.
 struct Scene {
-  const Form* page;                         ///< the form that waits for a gesture; null when the run is over
-  const std::deque<std::string>& messages;  ///< texts of message boxes that no line has expected yet
+  const Form* page;  ///< The form that waits for an action, or null if the run is over.
+  const std::deque<std::string>& messages;  ///< The texts of message boxes that no line has expected yet.
 };
 
-/// Where the lines of a script come from. A line is asked for when it is due, so it may depend on what is
-/// open by then.
+/// The source of the lines of a script. A line is requested only when it is executed, so it can depend on the
+/// open form.
 class LineSource {
  public:
   virtual ~LineSource() = default;
-  /// Absent at the end of the script. A ScriptError stops the script.
+  /// Returns the next line, or nothing at the end of the script. A ScriptError stops the script.
   virtual std::optional<std::string> NextLine(const Scene& scene) = 0;
 };
 
-/// The lines of a file or of the standard input.
+/// The lines of a file or of standard input.
 class StreamLines final : public LineSource {
  public:
-  /// The stream must outlive this.
+  /// Makes a source that reads a stream. The stream must outlive this object.
   explicit StreamLines(std::istream& stream) : stream_(stream) {}
   std::optional<std::string> NextLine(const Scene&) override {
     std::string line;

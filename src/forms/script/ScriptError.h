@@ -5,7 +5,7 @@
 
 namespace plotsmith::forms {
 
-/// Why a line of a script can't be done: a sentence without its full stop.
+/// The reason why a line of a script can't be executed, as a sentence without a full stop.
 class ScriptError : public std::runtime_error {
  public:
   explicit ScriptError(const std::string& sentence) : std::runtime_error(sentence) {}

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\r";
 
-/// How a verb is written; the counts are of its words without itself.
+/// The form of a verb. The counts are those of its arguments.
 struct VerbForm {
   const char* name;
   const char* usage;
@@ -42,7 +42,7 @@ constexpr std::array kVerbs = {
     VerbForm{"show", "show", 0, 0},
 };
 
-/// The character that an escape means; `at` is behind the backslash, and moves behind the escape.
+/// Returns the character of an escape sequence. `at` is after the backslash, and moves behind the sequence.
 char Unescaped(std::string_view line, std::size_t& at) {
   const char c = at < line.size() ? line[at++] : '\0';
   if (c == 'n') return '\n';
@@ -54,7 +54,7 @@ char Unescaped(std::string_view line, std::size_t& at) {
                     "; it can have \\\" for a quotation mark, \\\\ for a backslash and \\n for a new line");
 }
 
-/// A text in double quotes that begins at `at`, which moves behind it.
+/// Reads a text in double quotes that begins at `at`, and moves `at` behind it.
 Word QuotedWord(std::string_view line, std::size_t& at) {
   Word word{"", true};
   for (++at;;) {

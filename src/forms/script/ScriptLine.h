@@ -6,18 +6,19 @@
 
 namespace plotsmith::forms {
 
-/// A word of a script's line, or a text that was in double quotes.
+/// A word in a line of a script, or a text in double quotes.
 struct Word {
   std::string text;
   bool quoted = false;
 };
 using Words = std::vector<Word>;
 
-/// The words of a line, the verb first; none for a blank line and for a comment. A ScriptError where a text
-/// isn't well-formed, the verb is unknown, or it has too few or too many words.
+/// Returns the words of a line, beginning with the verb. Blank lines and comments have no words. Throws
+/// ScriptError if a quoted text isn't well-formed, if the verb is unknown, or if the number of words is
+/// wrong.
 Words ParseLine(std::string_view line);
 
-/// A text as a word of a line: in double quotes if it could be taken for something else without them.
+/// Returns a text as a word of a line, with double quotes if they are necessary.
 std::string WordFor(std::string_view text);
 
 }  // namespace plotsmith::forms

@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char* kNoPage = "the run is over, and no page is open";
 
-/// The number of a colour as "0x8000000F"; absent for another text.
+/// Returns the number of a colour in the format "0x8000000F", or nothing.
 std::optional<unsigned long> ColorIn(const std::string& text) {
   const bool isHex = text.size() > 2 && text.size() <= 10 && text[0] == '0' &&
                      (text[1] == 'x' || text[1] == 'X') &&
@@ -49,7 +49,7 @@ void ScriptPlayer::PlayRest() {
   while (!failure_ && PlayLine(nullptr, nullptr)) {
   }
   if (failure_) return;
-  // closing the last form may have brought a message up after the script had ended
+  // Closing the last form may have shown a message after the end of the script.
   try {
     CheckMessages();
   } catch (const ScriptError& e) {

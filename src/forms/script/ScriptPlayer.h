@@ -17,19 +17,19 @@
 
 namespace plotsmith::forms {
 
-/// A view without a screen, on which a script takes the place of the hands. After the first line that can't
-/// be done it plays no more: from then on it closes every form as a hand would, and answers questions with
-/// Cancel. At the end of the script it closes what is still open.
+/// A view without a screen, in which a script replaces the user. After the first line that fails, the player
+/// executes no more lines: it closes every form as a user would, and answers questions with Cancel. At the
+/// end of the script it closes all open forms.
 class ScriptPlayer final : public View {
  public:
-  /// Where and why the script failed.
+  /// The line at which the script failed, and the reason.
   struct Failure {
-    std::size_t line;      ///< from 1
-    std::string sentence;  ///< without a full stop
+    std::size_t line;      ///< The line number, from 1.
+    std::string sentence;  ///< The reason, without a full stop.
   };
   using Show = std::function<void(const FormState& state)>;
 
-  /// `lines` must outlive the player. `show` prints a form's state.
+  /// Makes a player. `lines` must outlive it. `show` prints the state of a form.
   ScriptPlayer(LineSource& lines, Show show, std::unique_ptr<Hand> hand = std::make_unique<ModelHand>());
 
   void Open(Form& form) override { open_.push_back(&form); }
@@ -37,22 +37,22 @@ class ScriptPlayer final : public View {
   void Wait(EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) override;
   void HandleEvents(EventQueue&) override {}
 
-  /// A message box came up.
+  /// Reports a message box to the player.
   void Heard(std::string_view text);
-  /// An OK/Cancel question came up: whether the script answers OK.
+  /// Reports a question with OK and Cancel to the player. Returns true if the script answers OK.
   bool Answer(std::string_view text);
-  /// Plays what is left of the script when the run is over and no form is open.
+  /// Executes the rest of the script after the run, when no form is open.
   void PlayRest();
 
-  /// The form on the screen that is in front of all others; null while there is none.
+  /// The front form, or null if no form is open.
   const Form* Front() const;
-  /// Absent as long as all is well.
+  /// The failure, or nothing if no line has failed.
   const std::optional<Failure>& Failed() const { return failure_; }
-  /// The form that was open at the end of the script, as it was then; absent if the run was over before.
+  /// The state of the form that was open at the end of the script. It is absent if the run ended before.
   const std::optional<FormState>& LastState() const { return lastState_; }
 
  private:
-  /// Plays the next line, with the form that waits if there is one; false at the end of the script.
+  /// Executes the next line on the form that waits, if any. Returns false at the end of the script.
   bool PlayLine(Form* form, EventQueue* queue);
   void Play(const Words& words, Form* form, EventQueue* queue);
   void PlayPage(const Words& words, const Form* form) const;
@@ -60,7 +60,7 @@ class ScriptPlayer final : public View {
   void PlayExpect(const Words& words, const Form* form);
   static void ExpectText(std::deque<std::string>& heard, const char* kind, const std::string& text);
   static void ExpectProperty(const Form& form, const std::string& property, const std::string& value);
-  /// A ScriptError if a message box came up that no line has expected.
+  /// Throws ScriptError if there was a message box that no line has expected.
   void CheckMessages() const;
   void Fail(const std::string& sentence);
 
@@ -70,9 +70,9 @@ class ScriptPlayer final : public View {
   std::vector<Form*> open_;
   std::size_t line_ = 0;
   bool ended_ = false;
-  std::deque<std::string> messages_;   ///< not expected yet
-  std::deque<std::string> questions_;  ///< not expected yet
-  std::deque<bool> answers_;           ///< given in advance; true is OK
+  std::deque<std::string> messages_;   ///< Not expected yet.
+  std::deque<std::string> questions_;  ///< Not expected yet.
+  std::deque<bool> answers_;           ///< Given in advance; true means OK.
   std::optional<Failure> failure_;
   std::optional<FormState> lastState_;
 };

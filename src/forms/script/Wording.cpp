@@ -5,7 +5,7 @@
 namespace plotsmith::forms {
 namespace {
 
-constexpr std::size_t kAllUpTo = 12;  // as many names as are read at a glance
+constexpr std::size_t kAllUpTo = 12;  // The number of names that are easy to read.
 constexpr std::size_t kFirst = 6;
 
 }  // namespace

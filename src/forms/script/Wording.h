@@ -6,12 +6,12 @@
 
 namespace plotsmith::forms {
 
-/// "A, B and C".
+/// Joins names to "A, B and C".
 std::string Listed(const std::vector<std::string>& names);
-/// What there is of something, as the end of a sentence: "A, B and C", or the first few of many with their
+/// Lists the available names as the end of a sentence: "A, B and C", or the first few of many with their
 /// number.
 std::string SomeOf(const std::vector<std::string>& names);
-/// A text in single quotes, with its line ends as "\n".
+/// Returns a text in single quotes, with line ends written as "\n".
 std::string Named(std::string_view text);
 
 }  // namespace plotsmith::forms

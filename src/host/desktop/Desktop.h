@@ -4,42 +4,42 @@
 #include <string>
 #include <string_view>
 
-/// The port to the desktop. Numbers are those of Visual Basic.
+/// The port to the desktop. Constants have the numbers of Visual Basic.
 namespace plotsmith::desktop {
 
-/// What a message box offers to press.
+/// The buttons of a message box.
 enum class Buttons { kOk, kOkCancel };
-/// The picture in a message box.
+/// The icon of a message box.
 enum class Icon { kNone, kCritical };
 
-/// What a message box answers.
+/// The button that closed a message box.
 ///@{
 inline constexpr std::int32_t kOk = 1;
 inline constexpr std::int32_t kCancel = 2;
 ///@}
 
-/// The shapes of the mouse pointer.
+/// Shapes of the mouse pointer.
 ///@{
 inline constexpr std::int32_t kPointerDefault = 0;
 inline constexpr std::int32_t kPointerHourglass = 11;
 ///@}
 
-/// What the system asks of the machine around it rather than of the spreadsheet.
+/// The services that the system needs from the desktop rather than from the spreadsheet program.
 class Desktop {
  public:
   virtual ~Desktop() = default;
 
-  /// A modal box; an empty title means the application's own. Answers kOk or kCancel.
+  /// Shows a modal message box. An empty title means the name of the application. Returns kOk or kCancel.
   virtual std::int32_t MsgBox(std::string_view text, Buttons buttons, Icon icon, std::string_view title) = 0;
-  /// Opens a help file at a topic, as HtmlHelp with HH_HELP_CONTEXT does. `owner` is the handle of the window
-  /// that asks, 0 where there is none.
+  /// Opens a help file at a topic, as HtmlHelp does with HH_HELP_CONTEXT. `owner` is the handle of the
+  /// calling window, or 0 if there is none.
   virtual void ShowHelp(std::intptr_t owner, const std::string& file, std::int32_t topic) = 0;
-  /// Seconds since midnight, local time.
+  /// Returns the local time in seconds since midnight.
   virtual double Timer() = 0;
-  /// kPointerDefault or kPointerHourglass.
+  /// Sets the shape of the mouse pointer: kPointerDefault or kPointerHourglass.
   virtual void SetMousePointer(std::int32_t pointer) = 0;
-  /// The identifier of the user's locale, as Windows' GetUserDefaultLCID gives it (MS-LCID): 1033 is English
-  /// (United States).
+  /// Returns the identifier of the user's locale, as GetUserDefaultLCID does on Windows (MS-LCID). 1033 is
+  /// English (United States).
   virtual std::int32_t UserDefaultLCID() = 0;
 };
 

@@ -10,47 +10,49 @@ class Chart;
 class Window;
 class Workbook;
 
-/// The spreadsheet program itself, or what stands in for it.
+/// The spreadsheet program, or the embedded host in its place.
 class Application {
  public:
   virtual ~Application() = default;
 
-  /// Nothing while no workbook is open.
+  /// The active workbook, or Nothing if no workbook is open.
   virtual Ref<Workbook> ActiveWorkbook() = 0;
-  /// The chart that is selected or whose chart sheet is active, or Nothing.
+  /// The selected chart, or the chart of the active chart sheet. Nothing if there is neither.
   virtual Ref<Chart> ActiveChart() = 0;
-  /// The window in front. Nothing while no workbook is open.
+  /// The active window, or Nothing if no workbook is open.
   virtual Ref<Window> ActiveWindow() = 0;
 
-  /// The host's version, such as "16.0": up to 11 and above 11 differ in what they can do.
+  /// The host's version, such as "16.0". Versions up to 11 and later versions differ in their features.
   virtual std::string Version() = 0;
-  /// The font that new workbooks get; where that is no setting of the host, the font of the active workbook's
-  /// Normal style.
+  /// The name of the font for new workbooks. A host without this setting returns the font of the active
+  /// workbook's Normal style.
   virtual std::string StandardFont() = 0;
-  /// The size of that font, in points.
+  /// The size of the standard font in points.
   virtual double StandardFontSize() = 0;
 
-  /// Whether the screen follows each change; if not, it catches up when this becomes True.
+  /// Whether the screen shows each change at once. Setting it to true updates the screen.
   ///@{
   virtual bool ScreenUpdating() = 0;
   virtual void SetScreenUpdating(bool value) = 0;
   ///@}
 
-  /// Whether keys and clicks of the user reach the host.
+  /// Whether the host accepts keyboard and mouse input from the user.
   virtual bool Interactive() = 0;
-  /// Fails while a cell or an object is being edited. There is no other way to ask for that.
+  /// Sets whether the host accepts input. Fails while the user edits a cell or an object; there is no other
+  /// way to detect this.
   virtual void SetInteractive(bool value) = 0;
 
-  /// When formulas are calculated (XlCalculation), in all workbooks.
+  /// The calculation mode of all workbooks (XlCalculation).
   ///@{
   virtual std::int32_t Calculation() = 0;
   virtual void SetCalculation(std::int32_t value) = 0;
   ///@}
 
-  /// Whether the host asks the user before it deletes a sheet.
+  /// Sets whether the host asks for confirmation before it deletes a sheet.
   virtual void SetDisplayAlerts(bool value) = 0;
 
-  /// Calls a macro of the host by name, with its arguments by position; error 1004 if there is none.
+  /// Calls a macro of the host by name, with positional arguments. Raises error 1004 if there is no such
+  /// macro.
   virtual void Run(std::string_view macro, const std::vector<Variant>& arguments) = 0;
 };
 

@@ -8,62 +8,65 @@ class AxisTitle;
 class Border;
 class TickLabels;
 
-/// One axis of a chart, of the primary group: of categories or of values. Points of two values, as scatters
-/// and bubbles have them, have two axes of values, and that of X answers to xlCategory.
+/// An axis of the primary group of a chart: a category axis or a value axis. Scatter and bubble charts have
+/// two value axes, and xlCategory selects their X axis.
 class Axis {
  public:
   virtual ~Axis() = default;
 
-  /// Whether a title stands along the axis. One that is taken away is gone with its text and its look.
+  /// Whether the axis has a title. Setting it to false deletes the text and the format of the title.
   ///@{
   virtual bool HasTitle() = 0;
   virtual void SetHasTitle(bool value) = 0;
   ///@}
 
-  /// Error 1004 while there is no title.
+  /// The title. Raises error 1004 if the axis has none.
   virtual Ref<excel::AxisTitle> AxisTitle() = 0;
 
-  /// As set, or as the host computes it from the data where it isn't. Error 1004 on an axis of categories.
+  /// The limits of the axis: the values that were set, or those that the host computes from the data. Raises
+  /// error 1004 on a category axis.
   ///@{
   virtual double MinimumScale() = 0;
   virtual double MaximumScale() = 0;
   ///@}
 
-  /// From then on the data no longer decides. Error 1004 on an axis of categories.
+  /// Fixes a limit of the axis, so that it no longer depends on the data. Raises error 1004 on a category
+  /// axis.
   ///@{
   virtual void SetMinimumScale(double value) = 0;
   virtual void SetMaximumScale(double value) = 0;
   ///@}
 
-  /// From one tick mark with a label to the next, in units of the axis; the host then no longer chooses it.
-  /// Error 1004 for 0 and below, and on an axis of categories.
+  /// Sets the distance between labelled tick marks, in units of the axis. The host then no longer chooses it.
+  /// Raises error 1004 for values of 0 or less, and on a category axis.
   virtual void SetMajorUnit(double value) = 0;
-  /// Whether the host chooses the major unit; False keeps the one that it has chosen. Error 1004 on an axis
-  /// of categories.
+  /// Sets whether the host chooses the major unit. False keeps the current unit. Raises error 1004 on a
+  /// category axis.
   virtual void SetMajorUnitIsAuto(bool value) = 0;
-  /// XlScaleType: linear, or logarithmic to base 10. Error 1004 for others, and on an axis of categories.
+  /// Sets the scale to linear or to logarithmic with base 10 (XlScaleType). Raises error 1004 for others, and
+  /// on a category axis.
   virtual void SetScaleType(std::int32_t type) = 0;
-  /// What the labels count in (XlDisplayUnit), said beside the axis; xlNone for plain values. Error 1004 for
-  /// a unit of the user's own, and on an axis of categories.
+  /// Sets the unit of the labels (XlDisplayUnit), which is shown beside the axis. xlNone means plain values.
+  /// Raises error 1004 for a custom unit, and on a category axis.
   virtual void SetDisplayUnit(std::int32_t unit) = 0;
-  /// Where the other axis crosses this one (XlAxisCrosses): automatic, or at either end. Error 1004 for a
-  /// value of the user's own.
+  /// Sets the point where the other axis crosses (XlAxisCrosses): automatic, or at either end. Raises error
+  /// 1004 for a custom value.
   virtual void SetCrosses(std::int32_t crosses) = 0;
-  /// Whether the axis runs backwards, from the last category or the greatest value.
+  /// Sets whether the axis runs backwards, beginning with the last category or the largest value.
   virtual void SetReversePlotOrder(bool value) = 0;
 
-  /// How the labels are written.
+  /// The format of the labels.
   virtual Ref<excel::TickLabels> TickLabels() = 0;
-  /// Where the labels stand (XlTickLabelPosition); error 1004 for others.
+  /// Sets the position of the labels (XlTickLabelPosition). Raises error 1004 for others.
   virtual void SetTickLabelPosition(std::int32_t position) = 0;
 
-  /// Whether lines cross the plot area at each major unit, or at each minor one.
+  /// Sets whether there are gridlines at the major or minor units.
   ///@{
   virtual void SetHasMajorGridlines(bool value) = 0;
   virtual void SetHasMinorGridlines(bool value) = 0;
   ///@}
 
-  /// The line of the axis itself.
+  /// The line of the axis.
   virtual Ref<excel::Border> Border() = 0;
 };
 

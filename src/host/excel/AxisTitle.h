@@ -6,25 +6,26 @@ namespace plotsmith::excel {
 
 class Font;
 
-/// The title along an axis.
+/// The title of an axis.
 class AxisTitle {
  public:
   virtual ~AxisTitle() = default;
 
-  /// Lines are parted by line feeds. Without a text of its own it reads "Axis Title"; one that is set looks
-  /// as the first line did.
+  /// The text, with line feeds between lines. A title without a text returns "Axis Title". A new text takes
+  /// the format of the old first line.
   ///@{
   virtual std::string Text() = 0;
   virtual void SetText(std::string_view text) = 0;
   ///@}
 
-  /// Degrees from -90 to 90, or one of xlHorizontal, xlUpward, xlDownward, xlVertical; error 1004 for others.
+  /// Sets the rotation in degrees from -90 to 90, or one of xlHorizontal, xlUpward, xlDownward, xlVertical.
+  /// Raises error 1004 for others.
   virtual void SetOrientation(std::int32_t orientation) = 0;
-  /// Of all of the text.
+  /// The font of the whole text.
   virtual Ref<excel::Font> Font() = 0;
 
-  /// Whether the font follows the chart's size: a Boolean, or Null where the text's stretches differ. Hosts
-  /// from version 12 on accept what is set, and nothing follows.
+  /// Whether the font scales with the chart: a Boolean, or Null if parts of the text differ. Hosts from
+  /// version 12 on accept the setting and ignore it.
   ///@{
   virtual Variant AutoScaleFont() = 0;
   virtual void SetAutoScaleFont(const Variant& value) = 0;

@@ -4,17 +4,17 @@
 
 namespace plotsmith::excel {
 
-/// An outline, or a line. A weight or a colour also shows a line that was hidden.
+/// An outline or a line. Setting the weight or the colour also shows a hidden line.
 class Border {
  public:
   virtual ~Border() = default;
 
-  /// One of Excel's line styles (XlLineStyle); what isn't one leaves no line, as on a chart in Excel.
-  /// xlAutomatic gives weight and colour back to the chart as well.
+  /// Sets the line style (XlLineStyle). Other numbers hide the line, as on charts in Excel. xlAutomatic also
+  /// makes the weight and the colour automatic.
   virtual void SetLineStyle(std::int32_t style) = 0;
-  /// XlBorderWeight; error 1004 for others.
+  /// Sets the weight (XlBorderWeight). Raises error 1004 for others.
   virtual void SetWeight(std::int32_t weight) = 0;
-  /// Error 1004 for a number that is no colour.
+  /// Sets the colour. Raises error 1004 for a number that isn't a colour.
   virtual void SetColor(std::int32_t color) = 0;
 };
 

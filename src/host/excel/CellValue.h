@@ -4,16 +4,17 @@
 
 namespace plotsmith::excel {
 
-/// What one cell holds, without owning it: `text` is good until the sheet is next written.
+/// The contents of a cell. It doesn't own its text, which is valid until the next change to the sheet.
 struct CellValue {
-  /// A date is a number in a date format.
+  /// The kind of contents. A date is a number in a date format.
   enum class Kind : std::uint8_t { kEmpty, kNumber, kDate, kBoolean, kError, kText };
 
-  Kind kind = Kind::kEmpty;  ///< says which of the next two count
-  double number = 0;  ///< the number; the serial of a date; 1 or 0 of a boolean; Excel's number of an error
-  std::string_view text;  ///< of a text, and of an error as the cell shows it
+  Kind kind = Kind::kEmpty;  ///< The kind, which decides whether `number` or `text` is used.
+  /// The number, the serial of a date, 1 or 0 for a Boolean, or Excel's number of an error value.
+  double number = 0;
+  std::string_view text;  ///< The text, or the displayed text of an error value.
 
-  /// The same as a value that owns its text.
+  /// Returns the contents as a value that owns its text.
   Variant ToVariant() const {
     switch (kind) {
       case Kind::kNumber:

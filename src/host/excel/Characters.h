@@ -6,20 +6,21 @@ namespace plotsmith::excel {
 
 class Font;
 
-/// A stretch of a shape's text. Positions and lengths count UTF-16 units, from 1, a line feed between two
-/// paragraphs among them.
+/// A part of a shape's text. Positions count from 1, and positions and lengths are in UTF-16 units. A line
+/// feed between two paragraphs counts as one unit.
 class Characters {
  public:
   virtual ~Characters() = default;
 
-  /// As much of it as there is: empty for a stretch behind the text's end.
+  /// The text of this part. It is empty behind the end of the shape's text.
   virtual std::string Text() = 0;
-  /// Replaces the stretch; all of the shape's text then looks as it began. Error 1004 for what can't bear a
-  /// text, such as a picture.
+  /// Replaces this part. The whole text of the shape then has the format of its beginning. Raises error 1004
+  /// for shapes without text, such as pictures.
   virtual void SetText(std::string_view text) = 0;
-  /// Replaces the stretch, as SetText; a stretch that begins behind the text's end appends.
+  /// Replaces this part in the same way as SetText. If it begins behind the end of the text, the new text is
+  /// appended.
   virtual void Insert(std::string_view text) = 0;
-  /// Of the stretch alone.
+  /// The font of this part.
   virtual Ref<excel::Font> Font() = 0;
 };
 

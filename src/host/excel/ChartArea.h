@@ -8,20 +8,20 @@ class Border;
 class ChartFillFormat;
 class Interior;
 
-/// The whole of a chart: its ground and its frame.
+/// The area of a whole chart, with its filling and its border.
 class ChartArea {
  public:
   virtual ~ChartArea() = default;
 
-  /// Points: the width of the chart's frame, in Excel less a border of its own.
+  /// The width of the chart's frame in points. Excel subtracts a border.
   virtual double Width() = 0;
-  /// The ground, by colour and XlPattern.
+  /// The filling, described by colours and XlPattern.
   virtual Ref<excel::Interior> Interior() = 0;
-  /// The same ground, by MsoPatternType and palette.
+  /// The same filling, described by MsoPatternType and palette indices.
   virtual Ref<ChartFillFormat> Fill() = 0;
-  /// The frame.
+  /// The border.
   virtual Ref<excel::Border> Border() = 0;
-  /// Whether fonts follow the chart's size. Hosts from version 12 on accept it, and nothing follows.
+  /// Sets whether fonts scale with the chart. Hosts from version 12 on accept the setting and ignore it.
   virtual void SetAutoScaleFont(const Variant& value) = 0;
 };
 

@@ -4,12 +4,12 @@
 
 namespace plotsmith::excel {
 
-/// A colour of a chart's filling.
+/// A colour of a filling on a chart.
 class ChartColorFormat {
  public:
   virtual ~ChartColorFormat() = default;
 
-  /// An index into the palette; error 9 outside.
+  /// Sets the colour to an entry of the palette. Raises error 9 if the index is out of range.
   virtual void SetSchemeColor(std::int32_t index) = 0;
 };
 

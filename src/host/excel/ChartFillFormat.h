@@ -6,19 +6,21 @@ namespace plotsmith::excel {
 
 class ChartColorFormat;
 
-/// The filling of a part of a chart, as patterns have it.
+/// The filling of a chart element.
 class ChartFillFormat {
  public:
   virtual ~ChartFillFormat() = default;
 
-  /// One of Office's pattern types (MsoPatternType), in black on white until the colours are set. Error 1004
+  /// Sets a pattern (MsoPatternType). Its colours are black on white until they are set. Raises error 1004
   /// for others.
   virtual void Patterned(std::int32_t pattern) = 0;
-  /// The colour of a pattern's lines. What has no pattern is filled with it.
+  /// The colour of the pattern's lines. Setting it on a filling without a pattern sets the colour of the
+  /// filling.
   virtual Ref<ChartColorFormat> ForeColor() = 0;
-  /// The colour of a pattern's ground. What has no pattern shows none of it.
+  /// The colour of the pattern's background. A filling without a pattern doesn't show it.
   virtual Ref<ChartColorFormat> BackColor() = 0;
-  /// False leaves no filling, True gives what has none its automatic one.
+  /// Sets whether the element is filled. False removes the filling; true gives an unfilled element its
+  /// automatic filling.
   virtual void SetVisible(bool value) = 0;
 };
 

@@ -4,13 +4,13 @@
 
 namespace plotsmith::excel {
 
-/// The series of a chart that are drawn in one way.
+/// The series of a chart that are drawn in the same way.
 class ChartGroup {
  public:
   virtual ~ChartGroup() = default;
 
-  /// Between the columns or bars of two categories: percent of a column's width, from 0 to 500. Error 1004
-  /// outside, and for a group of neither columns nor bars.
+  /// Sets the gap between the columns or bars of two categories, in percent of the column width, from 0 to
+  /// 500. Raises error 1004 if the value is out of range, and for groups other than columns and bars.
   virtual void SetGapWidth(std::int32_t percent) = 0;
 };
 

@@ -6,14 +6,15 @@ namespace plotsmith::excel {
 
 class Chart;
 
-/// The frame of a chart on a sheet.
+/// A chart frame on a worksheet.
 class ChartObject {
  public:
   virtual ~ChartObject() = default;
 
-  /// The name of its shape.
+  /// The name of the frame's shape.
   virtual std::string Name() = 0;
-  /// A chart that can't be read is handed out as well: it has no series, and all else is error 1004.
+  /// The chart. For a chart that can't be read this returns an object without series, whose other members
+  /// raise error 1004.
   virtual Ref<excel::Chart> Chart() = 0;
 };
 

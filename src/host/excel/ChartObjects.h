@@ -6,16 +6,16 @@ namespace plotsmith::excel {
 
 class ChartObject;
 
-/// The chart frames of a sheet, from back to front.
+/// The chart frames of a worksheet, from back to front.
 class ChartObjects {
  public:
   virtual ~ChartObjects() = default;
 
-  /// Of the charts; the sheet's other shapes don't count.
+  /// The number of chart frames, without other shapes.
   virtual std::int32_t Count() = 0;
-  /// By the name of its shape, case aside; error 1004 if there is none.
+  /// Returns a frame by the name of its shape, ignoring case. Raises error 1004 if there is none.
   virtual Ref<ChartObject> Item(std::string_view name) = 0;
-  /// An empty chart, in points from the sheet's corner.
+  /// Adds an empty chart. Positions are in points from the top left corner of the sheet.
   virtual Ref<ChartObject> Add(double left, double top, double width, double height) = 0;
 };
 

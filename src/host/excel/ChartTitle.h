@@ -9,10 +9,10 @@ class ChartTitle {
  public:
   virtual ~ChartTitle() = default;
 
-  /// Lines are parted by line feeds. A title without a text of its own reads as it is shown: the name of the
-  /// only series, or "Chart Title".
+  /// The text, with line feeds between lines. A title without a text of its own returns the displayed title:
+  /// the name of the only series, or "Chart Title".
   virtual std::string Text() = 0;
-  /// The new text looks as the first line did.
+  /// Sets the text. It takes the format of the old first line.
   virtual void SetText(std::string_view text) = 0;
 };
 

@@ -9,7 +9,7 @@ class ColorFormat {
  public:
   virtual ~ColorFormat() = default;
 
-  /// Error 1004 for a number that is no colour.
+  /// Sets the colour. Raises error 1004 for a number that isn't a colour.
   virtual void SetRGB(std::int32_t color) = 0;
 };
 

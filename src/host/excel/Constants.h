@@ -3,7 +3,7 @@
 #include <cstdint>
 
 /// @file
-/// Excel's enumerations, by Excel's names and numbers.
+/// Excel's enumerations, with Excel's names and numbers.
 namespace plotsmith::excel {
 
 /// XlCalculation.
@@ -34,7 +34,7 @@ inline constexpr std::int32_t xlYes = 1;
 inline constexpr std::int32_t xlNo = 2;
 ///@}
 
-/// XlSortOrientation, which calls it xlSortColumns.
+/// XlSortOrientation, where Excel calls it xlSortColumns.
 inline constexpr std::int32_t xlTopToBottom = 1;
 
 /// XlChartType: areas.
@@ -68,7 +68,7 @@ inline constexpr std::int32_t xl3DBarStacked = 61;
 inline constexpr std::int32_t xl3DBarStacked100 = 62;
 ///@}
 
-/// XlChartType: pies, points, bubbles and lines.
+/// XlChartType: pies, scatter charts, bubbles and lines.
 ///@{
 inline constexpr std::int32_t xlPie = 5;
 inline constexpr std::int32_t xl3DPie = -4102;
@@ -81,7 +81,8 @@ inline constexpr std::int32_t xlLine = 4;
 inline constexpr std::int32_t xlLineMarkers = 65;
 ///@}
 
-/// What Chart::ChartType answers for a chart of several types; of Excel's Constants, not of XlChartType.
+/// The result of Chart::ChartType for a chart with several types. It belongs to Excel's Constants, not to
+/// XlChartType.
 inline constexpr std::int32_t xlCombination = -4111;
 
 /// XlAxisType.
@@ -93,7 +94,7 @@ inline constexpr std::int32_t xlValue = 2;
 /// XlAxisGroup.
 inline constexpr std::int32_t xlPrimary = 1;
 
-/// XlScaleType, which calls it xlScaleLinear.
+/// XlScaleType, where Excel calls it xlScaleLinear.
 inline constexpr std::int32_t xlLinear = -4132;
 
 /// XlTickLabelPosition.
@@ -149,7 +150,7 @@ inline constexpr std::int32_t xlVAlignTop = -4160;
 /// XlHAlign.
 inline constexpr std::int32_t xlHAlignLeft = -4131;
 
-/// Excel's Constants, which hold for properties of several kinds.
+/// Excel's Constants, which are used for several kinds of properties.
 ///@{
 inline constexpr std::int32_t xlAutomatic = -4105;
 inline constexpr std::int32_t xlNone = -4142;

@@ -4,13 +4,12 @@
 
 namespace plotsmith::excel {
 
-/// The label of one point.
+/// The data label of a point.
 class DataLabel {
  public:
   virtual ~DataLabel() = default;
 
-  /// A text of its own, in place of what the labels of the series show. Lines are parted by line feeds. A
-  /// label that wasn't shown is shown then.
+  /// Sets a text that replaces the automatic one, with line feeds between lines. A hidden label is shown.
   virtual void SetText(std::string_view text) = 0;
 };
 

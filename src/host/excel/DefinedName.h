@@ -6,17 +6,18 @@ namespace plotsmith::excel {
 
 class Range;
 
-/// A defined name: Excel's Name, which C++ can't give to a class with a member Name.
+/// A defined name. Excel calls the class Name, but a C++ class can't have a member with its own name.
 class DefinedName {
  public:
   virtual ~DefinedName() = default;
 
-  /// With the sheet, in quotes where a formula needs them, and "!" in front if it belongs to one sheet.
+  /// The name. A name that belongs to one sheet begins with the sheet (in quotes if a formula needs them) and
+  /// "!".
   virtual std::string Name() = 0;
-  /// The definition, with "=" in front.
+  /// The definition, beginning with "=".
   virtual std::string RefersTo() = 0;
-  /// Of several areas the first. Error 1004 if the name doesn't refer to a range, and in a host without
-  /// formulas also if it computes its range.
+  /// The range that the name refers to; the first area if there are several. Raises error 1004 if the name
+  /// doesn't refer to a range. A host without formulas also raises it for names that compute their range.
   virtual Ref<Range> RefersToRange() = 0;
 };
 

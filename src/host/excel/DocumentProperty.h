@@ -4,12 +4,12 @@
 
 namespace plotsmith::excel {
 
-/// A property of a document, such as its title.
+/// A document property, such as the title.
 class DocumentProperty {
  public:
   virtual ~DocumentProperty() = default;
 
-  /// Error 1004 if the workbook has no value for it.
+  /// The value. Raises error 1004 if the workbook has no value for the property.
   virtual Variant Value() = 0;
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The whole port to the spreadsheet in one include.
+/// Includes the whole port to the spreadsheet program.
 
 #include "host/excel/Application.h"
 #include "host/excel/Axis.h"

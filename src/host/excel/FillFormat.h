@@ -11,9 +11,10 @@ class FillFormat {
  public:
   virtual ~FillFormat() = default;
 
-  /// The colour of the filling, or of a pattern's lines. What is set fills a shape that has no pattern.
+  /// The colour of the filling, or of a pattern's lines. Setting it on a shape without a pattern makes the
+  /// filling solid.
   virtual Ref<ColorFormat> ForeColor() = 0;
-  /// The colour of a pattern's ground. A shape without a pattern shows none of it.
+  /// The colour of a pattern's background. A shape without a pattern doesn't show it.
   virtual Ref<ColorFormat> BackColor() = 0;
 };
 

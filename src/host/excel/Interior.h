@@ -4,39 +4,41 @@
 
 namespace plotsmith::excel {
 
-/// The filling of an area of a chart: a colour and, where it is a pattern, lines in a colour of their own.
+/// The filling of a chart element: a colour, or a pattern with a second colour for its lines.
 class Interior {
  public:
   virtual ~Interior() = default;
 
-  /// An index into the palette (the nearest, for a colour that isn't in it), xlColorIndexNone for no filling
-  /// or xlColorIndexAutomatic. To set an index is to set the colour that it has now; error 9 for a number
-  /// that is none of these.
+  /// The colour as a palette index, xlColorIndexNone (no filling) or xlColorIndexAutomatic. For a colour
+  /// outside the palette this returns the nearest entry. Setting an index sets the current colour of that
+  /// entry. Raises error 9 for other numbers.
   ///@{
   virtual std::int32_t ColorIndex() = 0;
   virtual void SetColorIndex(std::int32_t index) = 0;
   ///@}
 
-  /// Of a pattern, its ground; of an automatic filling, what the host draws; white without a filling.
+  /// The colour. For a pattern it is the background, for an automatic filling the colour that the host draws,
+  /// and white without a filling.
   virtual std::int32_t Color() = 0;
-  /// A pattern stays, any other filling becomes a plain one. Error 1004 for a number that is no colour.
+  /// Sets the colour. A pattern is kept; any other filling becomes solid. Raises error 1004 for a number that
+  /// isn't a colour.
   virtual void SetColor(std::int32_t color) = 0;
 
-  /// XlPattern: xlNone without a filling, and solid also for one that is more than a colour, such as a
-  /// gradient. A pattern that is set takes the colours over. Error 1004 for others.
+  /// The pattern (XlPattern): xlNone without a filling, and solid also for gradients and the like. A new
+  /// pattern takes the old colours. Raises error 1004 for others.
   ///@{
   virtual std::int32_t Pattern() = 0;
   virtual void SetPattern(std::int32_t pattern) = 0;
   ///@}
 
-  /// Of the pattern's lines. Where there is no pattern it reads black, and setting it does nothing.
+  /// The colour of the pattern's lines. Without a pattern it is black, and setting it has no effect.
   ///@{
   virtual std::int32_t PatternColor() = 0;
   virtual void SetPatternColor(std::int32_t color) = 0;
   ///@}
 
-  /// Of the pattern's lines, as ColorIndex of their ground. Where there is no pattern it reads
-  /// xlColorIndexAutomatic, and setting it does nothing.
+  /// The colour of the pattern's lines as in ColorIndex. Without a pattern it is xlColorIndexAutomatic, and
+  /// setting it has no effect.
   ///@{
   virtual std::int32_t PatternColorIndex() = 0;
   virtual void SetPatternColorIndex(std::int32_t index) = 0;

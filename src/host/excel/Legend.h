@@ -15,28 +15,31 @@ class Legend {
   /// The entries that have not been deleted.
   virtual Ref<excel::LegendEntries> LegendEntries() = 0;
 
-  /// XlLegendPosition. Error 1004 where the legend stands at no such position, as when it was dragged.
+  /// The position (XlLegendPosition). Raises error 1004 if the legend is at no such position, for example
+  /// because the user has moved it.
   virtual std::int32_t Position() = 0;
-  /// What Left and Top were set to is given up. Error 1004 for a number that is no position.
+  /// Sets the position and discards the values of Left and Top. Raises error 1004 for a number that isn't a
+  /// position.
   virtual void SetPosition(std::int32_t position) = 0;
 
-  /// Points from the chart's corner; where nobody set it, roughly where the host puts the legend.
+  /// The distance from the top left corner of the chart in points. If it was never set, this is an estimate
+  /// of the host's automatic position.
   ///@{
   virtual double Left() = 0;
   virtual double Top() = 0;
   ///@}
 
-  /// Points from the chart's corner. Error 1004 outside of the chart.
+  /// Sets the distance from the top left corner of the chart in points. Raises error 1004 outside the chart.
   ///@{
   virtual void SetLeft(double points) = 0;
   virtual void SetTop(double points) = 0;
   ///@}
 
-  /// Of all entries.
+  /// The font of all entries.
   virtual Ref<excel::Font> Font() = 0;
 
-  /// Whether the font follows the chart's size: a Boolean, or Null where the entries differ. Hosts from
-  /// version 12 on accept what is set, and nothing follows.
+  /// Whether the font scales with the chart: a Boolean, or Null if the entries differ. Hosts from version 12
+  /// on accept the setting and ignore it.
   ///@{
   virtual Variant AutoScaleFont() = 0;
   virtual void SetAutoScaleFont(const Variant& value) = 0;

@@ -6,14 +6,15 @@ namespace plotsmith::excel {
 
 class LegendEntry;
 
-/// The entries of a legend that are left, in their order: one for each series or, in a pie, for each point.
+/// The entries of a legend that have not been deleted, in order: one for each series, or for each point of a
+/// pie.
 class LegendEntries {
  public:
   virtual ~LegendEntries() = default;
 
-  /// Without those that were deleted.
+  /// The number of entries, without deleted ones.
   virtual std::int32_t Count() = 0;
-  /// Error 1004 outside.
+  /// Returns an entry. Raises error 1004 if the index is out of range.
   virtual Ref<LegendEntry> Item(std::int32_t index) = 0;
 };
 

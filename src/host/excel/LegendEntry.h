@@ -4,12 +4,12 @@
 
 namespace plotsmith::excel {
 
-/// One entry of a legend.
+/// An entry of a legend.
 class LegendEntry {
  public:
   virtual ~LegendEntry() = default;
 
-  /// Takes the entry out of the legend; its series stays. The entries behind it move up.
+  /// Deletes the entry from the legend and keeps its series. The indices of the following entries decrease.
   virtual void Delete() = 0;
 };
 

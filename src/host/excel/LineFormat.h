@@ -11,13 +11,13 @@ class LineFormat {
  public:
   virtual ~LineFormat() = default;
 
-  /// A line that is shown again has its automatic colour.
+  /// Shows or hides the line. A line that is shown again has its automatic colour.
   virtual void SetVisible(bool value) = 0;
-  /// Points, from 0 to 1584; error 1004 outside.
+  /// Sets the weight in points, from 0 to 1584. Raises error 1004 if it is out of range.
   virtual void SetWeight(double points) = 0;
-  /// The colour of the line. What is set shows a line that was hidden.
+  /// The colour of the line. Setting it shows a hidden line.
   virtual Ref<ColorFormat> ForeColor() = 0;
-  /// The second colour of a line in a pattern; others show none of it.
+  /// The second colour of a patterned line. Other lines don't show it.
   virtual Ref<ColorFormat> BackColor() = 0;
 };
 

@@ -6,16 +6,17 @@ namespace plotsmith::excel {
 
 class DefinedName;
 
-/// The defined names of a workbook, sorted by name, hidden ones among them.
+/// The defined names of a workbook, sorted by name, including hidden names.
 class Names {
  public:
   virtual ~Names() = default;
 
-  /// Of the names of the workbook and of those of single sheets.
+  /// The number of names, both of the workbook and of single sheets.
   virtual std::int32_t Count() = 0;
-  /// Error 1004 outside.
+  /// Returns a name by index. Raises error 1004 if the index is out of range.
   virtual Ref<DefinedName> Item(std::int32_t index) = 0;
-  /// By DefinedName::Name, case aside. Error 1004 if there is no such name.
+  /// Returns the name whose DefinedName::Name is `name`, ignoring case. Raises error 1004 if there is no such
+  /// name.
   virtual Ref<DefinedName> Item(std::string_view name) = 0;
 };
 

@@ -7,13 +7,13 @@ namespace plotsmith::excel {
 class Border;
 class Interior;
 
-/// Where a chart draws, inside of title, legend and axis titles.
+/// The plot area of a chart: the area that title, legend and axis titles leave.
 class PlotArea {
  public:
   virtual ~PlotArea() = default;
 
-  /// Points from the chart's corner, of the area with its tick labels. Where nobody set it, as the host lays
-  /// the chart out.
+  /// The position and size of the area including tick labels, in points from the top left corner of the
+  /// chart. Without a manual layout, these are the values of the host's automatic layout.
   ///@{
   virtual double Left() = 0;
   virtual double Top() = 0;
@@ -21,13 +21,13 @@ class PlotArea {
   virtual double Height() = 0;
   ///@}
 
-  /// The area then keeps the place and the height that it has now. What is too wide for the chart is cut.
-  /// Error 1004 for 0 and below.
+  /// Sets the width in points, and fixes the current position and height. An area that is too wide for the
+  /// chart is cut off. Raises error 1004 for values of 0 or less.
   virtual void SetWidth(double points) = 0;
 
-  /// The ground behind the series.
+  /// The filling behind the series.
   virtual Ref<excel::Interior> Interior() = 0;
-  /// The frame around it.
+  /// The border of the area.
   virtual Ref<excel::Border> Border() = 0;
 };
 

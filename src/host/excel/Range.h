@@ -4,54 +4,57 @@
 
 namespace plotsmith::excel {
 
-/// Cells of one sheet: a rectangle, whole rows or whole columns. A host without formulas can't write on a
-/// sheet that has some: error 1004.
+/// A range of cells on one sheet: a rectangle, whole rows or whole columns. A host without formulas can't
+/// write to a sheet that contains formulas; it raises error 1004.
 class Range {
  public:
   virtual ~Range() = default;
 
-  /// Of the first cell, from 1.
+  /// The row or column of the first cell, counted from 1.
   ///@{
   virtual std::int32_t Row() = 0;
   virtual std::int32_t Column() = 0;
   ///@}
 
-  /// The same cells, taken by rows or by columns: it matters to Count.
+  /// The same cells as rows or as columns. This affects Count.
   ///@{
   virtual Ref<Range> Rows() = 0;
   virtual Ref<Range> Columns() = 0;
   ///@}
 
-  /// Of Rows the rows, of Columns the columns, else the cells. Error 6 for more than 2147483647.
+  /// The number of rows for Rows, of columns for Columns, and of cells otherwise. Raises error 6 above
+  /// 2147483647.
   virtual std::int32_t Count() = 0;
-  /// A cell, counted from this range's first; it may lie outside of the range. Error 1004 outside of the
-  /// sheet.
+  /// Returns a cell relative to the first cell of this range, which is (1, 1). The cell may be outside the
+  /// range. Raises error 1004 outside the sheet.
   virtual Ref<Range> Cells(std::int32_t row, std::int32_t column) = 0;
-  /// Absolute, without the sheet: "$A$1", "$A$1:$C$5".
+  /// The absolute address without the sheet, such as "$A$1" or "$A$1:$C$5".
   virtual std::string Address() = 0;
 
-  /// Of the first cell; an empty one is Empty, a cell in a date format a Date.
+  /// The value of the first cell. A blank cell is Empty, and a number in a date format is a Date.
   virtual Variant Value() = 0;
-  /// Of a single cell, as Worksheet::SetCellValueAt.
+  /// Sets the value of a single cell, like Worksheet::SetCellValueAt.
   virtual void SetValue(const Variant& value) = 0;
-  /// What the first cell shows, in its number format, however narrow its column is.
+  /// The displayed text of the first cell in its number format, independent of the column width.
   virtual std::string Text() = 0;
-  /// Of all cells. Error 1004 for a format that isn't one.
+  /// Sets the number format of all cells. Raises error 1004 for an invalid format.
   virtual void SetNumberFormat(std::string_view format) = 0;
-  /// Empties the cells and takes their formats away.
+  /// Deletes the contents and the formats of the cells.
   virtual void Clear() = 0;
-  /// Makes the first cell the active one, which takes the selection off a chart.
+  /// Makes the first cell the active cell. This deselects a selected chart.
   virtual void Activate() = 0;
 
-  /// As many rows above these; what lies below moves, and references to it follow. Error 1004 for what isn't
-  /// whole rows, and where cells would fall off the sheet's end.
+  /// Inserts the same number of rows above these. The rows below move down, and references to them are
+  /// adjusted. Raises error 1004 if the range isn't whole rows, or if cells would move beyond the end of the
+  /// sheet.
   virtual void Insert() = 0;
-  /// What lies below moves up, and references to it follow. `shift` is xlShiftUp. Error 1004 for what isn't
-  /// whole rows.
+  /// Deletes the rows. The rows below move up, and references to them are adjusted. `shift` is xlShiftUp.
+  /// Raises error 1004 if the range isn't whole rows.
   virtual void Delete(std::int32_t shift) = 0;
-  /// Sorts the rows by the column of `key1`. `order1` is xlAscending or xlDescending, `header` xlYes or xlNo,
-  /// `orderCustom` 1 for the plain order, `orientation` xlTopToBottom. Empty cells go last, whatever the
-  /// order. Error 1004 for anything else, for a column outside of the range, and where cells are merged.
+  /// Sorts the rows by the column of `key1`. `order1` is xlAscending or xlDescending, `header` is xlYes or
+  /// xlNo, `orderCustom` is 1 for the normal order, and `orientation` is xlTopToBottom. Blank cells are last
+  /// in either order. Raises error 1004 for other arguments, for a column outside the range, and for merged
+  /// cells.
   virtual void Sort(Ref<Range> key1, std::int32_t order1, std::int32_t header, std::int32_t orderCustom,
                     bool matchCase, std::int32_t orientation) = 0;
 };

@@ -10,60 +10,64 @@ class Border;
 class DataLabels;
 class Interior;
 
-/// One series of a chart. Error 1004 once it has been deleted.
+/// A series of a chart. Its members raise error 1004 after the series was deleted.
 class Series {
  public:
   virtual ~Series() = default;
 
-  /// As the legend shows it; "Series1" and so on for a series without one.
+  /// The name as the legend shows it. A series without a name has "Series1" and so on.
   virtual std::string Name() = 0;
-  /// A literal text, or the reference of a cell as SetValues takes it.
+  /// Sets the name to a literal text, or to a cell reference in the format of SetValues.
   virtual void SetName(const Variant& name) = 0;
-  /// "=SERIES(name,categories,values,order)", each as it stands in the chart.
+  /// The formula "=SERIES(name,categories,values,order)", with each reference as it is in the chart.
   virtual std::string Formula() = 0;
-  /// The reference of the categories, or of the X values, as SetValues takes it.
+  /// Sets the reference of the categories or of the X values, in the format of SetValues.
   virtual void SetXValues(const Variant& reference) = 0;
-  /// The values, one for each point; Empty where there is none.
+  /// The values, one for each point; Empty for a point without a value.
   virtual std::vector<Variant> Values() = 0;
-  /// A reference to cells of this workbook, which begins with "=", in A1 or in R1C1 style. Error 1004 for
-  /// anything else.
+  /// Sets the reference of the values. It refers to cells of this workbook and begins with "=", in A1 or R1C1
+  /// style. Raises error 1004 for anything else.
   virtual void SetValues(const Variant& reference) = 0;
-  /// As SetValues; Excel wants it in R1C1 style. Sizes of a series that isn't drawn as bubbles wait until it
-  /// is.
+  /// Sets the reference of the bubble sizes, in the format of SetValues; Excel requires R1C1 style. For a
+  /// series that isn't a bubble series, the sizes take effect when it becomes one.
   virtual void SetBubbleSizes(const Variant& reference) = 0;
 
-  /// XlChartType; xlCombination for a line of which only the markers show, as Excel has no type for it.
+  /// The type of the series (XlChartType). A line that shows only its markers returns xlCombination, because
+  /// Excel has no type for it.
   virtual std::int32_t ChartType() = 0;
-  /// A type of its own for this series. Error 1004 for one that can't stand beside the others'.
+  /// Sets the type of this series alone. Raises error 1004 for a type that can't be combined with those of
+  /// the others.
   virtual void SetChartType(std::int32_t type) = 0;
-  /// Takes the series out of the chart, and its entry out of the legend.
+  /// Deletes the series and its entry in the legend.
   virtual void Delete() = 0;
 
-  /// Whether any point shows a label. Labels that are made so show the values.
+  /// Whether any point shows a label. New labels show the values.
   ///@{
   virtual bool HasDataLabels() = 0;
   virtual void SetHasDataLabels(bool value) = 0;
   ///@}
 
-  /// Shows labels of one of Excel's types (XlDataLabelsType), other than bubble sizes; error 1004 for others.
+  /// Shows labels of a type (XlDataLabelsType, except bubble sizes). Raises error 1004 for others.
   virtual void ApplyDataLabels(std::int32_t type) = 0;
-  /// Nothing while there are no labels.
+  /// The labels, or Nothing if there are none.
   virtual Ref<excel::DataLabels> DataLabels() = 0;
 
-  /// The filling of columns, areas, slices or bubbles.
+  /// The filling of the columns, areas, slices or bubbles.
   virtual Ref<excel::Interior> Interior() = 0;
-  /// Their outline, or the line of a series that is one.
+  /// The outline of the columns, areas, slices or bubbles, or the line of a line series.
   virtual Ref<excel::Border> Border() = 0;
 
-  /// The outline and the filling of markers. Error 1004 for a series without markers, such as one of columns.
+  /// Sets the colour of the outline or the filling of the markers. Raises error 1004 for a series without
+  /// markers, such as a column series.
   ///@{
   virtual void SetMarkerForegroundColor(std::int32_t color) = 0;
   virtual void SetMarkerBackgroundColor(std::int32_t color) = 0;
   ///@}
 
-  /// XlMarkerStyle; error 1004 for others, and for a series without markers.
+  /// Sets the marker style (XlMarkerStyle). Raises error 1004 for others, and for a series without markers.
   virtual void SetMarkerStyle(std::int32_t style) = 0;
-  /// Points from 2 to 72; error 1004 outside, and for a series without markers.
+  /// Sets the marker size in points, from 2 to 72. Raises error 1004 if it is out of range, and for a series
+  /// without markers.
   virtual void SetMarkerSize(std::int32_t points) = 0;
 };
 

@@ -11,11 +11,11 @@ class SeriesCollection {
  public:
   virtual ~SeriesCollection() = default;
 
-  /// 0 for a chart that can't be read, so that such a one stops nobody who looks at all charts.
+  /// The number of series. It is 0 for a chart that can't be read, so that loops over all charts don't fail.
   virtual std::int32_t Count() = 0;
-  /// In plot order; error 1004 outside.
+  /// Returns a series by its index in plot order. Raises error 1004 if the index is out of range.
   virtual Ref<Series> Item(std::int32_t index) = 0;
-  /// Appends an empty series, of the type of the last one.
+  /// Appends an empty series with the type of the last series.
   virtual Ref<Series> NewSeries() = 0;
 };
 

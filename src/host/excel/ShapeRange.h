@@ -6,28 +6,28 @@ namespace plotsmith::excel {
 
 class Shape;
 
-/// Some shapes of a drawing, taken together.
+/// Several shapes of one drawing.
 class ShapeRange {
  public:
   virtual ~ShapeRange() = default;
 
-  /// Error 1004 for more than one shape.
+  /// The name of the shape. Raises error 1004 if there are several shapes.
   virtual std::string Name() = 0;
 
-  /// Points; error 1004 where the shapes differ.
+  /// The size in points. Raises error 1004 if the shapes differ.
   ///@{
   virtual double Width() = 0;
   virtual double Height() = 0;
   ///@}
 
-  /// Of each of the shapes, as Shape::SetLeft and Shape::SetTop.
+  /// Set the position of each shape, like Shape::SetLeft and Shape::SetTop.
   ///@{
   virtual void SetLeft(double points) = 0;
   virtual void SetTop(double points) = 0;
   ///@}
 
-  /// Makes the shapes one, which lies where the foremost of them lay; error 1004 for fewer than two. A host
-  /// may know groups on charts only, and fail with 438 on a sheet.
+  /// Groups the shapes and returns the group, which takes the place of the front shape. Raises error 1004 for
+  /// fewer than two shapes. A host may support groups only on charts and raise error 438 on a sheet.
   virtual Ref<Shape> Group() = 0;
 };
 

@@ -4,15 +4,15 @@
 
 namespace plotsmith::excel {
 
-/// The labels along an axis.
+/// The tick labels of an axis.
 class TickLabels {
  public:
   virtual ~TickLabels() = default;
 
-  /// The format that the labels are shown in, linked or not; "General" where nothing is said.
+  /// The number format of the labels, linked or not. The default is "General".
   virtual std::string NumberFormat() = 0;
 
-  /// Whether the labels take the number format of the cells. False keeps the one that they have then.
+  /// Whether the labels use the number format of the cells. Setting it to false keeps the current format.
   ///@{
   virtual bool NumberFormatLinked() = 0;
   virtual void SetNumberFormatLinked(bool value) = 0;

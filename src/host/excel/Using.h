@@ -7,12 +7,11 @@
 #include "runtime/Ref.h"
 #include "runtime/Variant.h"
 
-/// The port to the spreadsheet: abstract classes by the names of Excel's object model, with the members that
-/// the system uses. A getter bears the property's name, a setter the name behind "Set". Objects are
-/// references in which null is Nothing; rows, columns and positions in collections count from 1; distances
-/// are points; colours are Excel's long values (red + 256 * green + 65536 * blue) or indices into the
-/// workbook's palette. A host fails with a RuntimeError that bears Excel's number and wording, and with
-/// nothing else.
+/// The port to the spreadsheet program: abstract classes with the names of Excel's object model, and with the
+/// members that the system uses. A getter has the name of the property, and a setter has "Set" before the
+/// name. Objects are references, and a null reference is Nothing. Rows, columns and indices count from 1.
+/// Distances are in points. Colors are Excel's numbers (red + 256 * green + 65536 * blue) or indices into the
+/// workbook's palette. A host reports an error only as a RuntimeError with Excel's number and description.
 namespace plotsmith::excel {
 
 using runtime::Ref;

@@ -11,31 +11,31 @@ class Sheet;
 class Sheets;
 class Worksheets;
 
-/// A workbook, open in the host.
+/// A workbook that is open in the host.
 class Workbook {
  public:
   virtual ~Workbook() = default;
 
-  /// The host that has the workbook open.
+  /// The host in which the workbook is open.
   virtual Ref<excel::Application> Application() = 0;
-  /// Whether sheets can be neither added nor removed.
+  /// Whether the structure is protected, so that sheets can't be added or deleted.
   virtual bool ProtectStructure() = 0;
   /// Whether the workbook is shared.
   virtual bool MultiUserEditing() = 0;
-  /// A property by Excel's English name for it, capitals or not; error 5 if there is none of the name. A host
-  /// has at least "Application name", the program that saved the workbook last.
+  /// Returns a document property by Excel's English name, ignoring case. Raises error 5 if there is no such
+  /// property. A host has at least "Application name", the program that saved the workbook last.
   virtual Ref<DocumentProperty> BuiltinDocumentProperties(std::string_view name) = 0;
 
-  /// The sheet in front, of any kind.
+  /// The active sheet, of any kind.
   virtual Ref<Sheet> ActiveSheet() = 0;
-  /// All sheets in the order of their tabs, chart sheets among them.
+  /// All sheets in tab order, including chart sheets.
   virtual Ref<excel::Sheets> Sheets() = 0;
-  /// Those of them that have cells.
+  /// The sheets with cells.
   virtual Ref<excel::Worksheets> Worksheets() = 0;
-  /// Also those that belong to single sheets.
+  /// The defined names, including those of single sheets.
   virtual Ref<excel::Names> Names() = 0;
 
-  /// Entry `index`, from 1 to 56, of the palette; error 9 outside.
+  /// An entry of the palette. `index` is from 1 to 56; raises error 9 if it is out of range.
   ///@{
   virtual std::int32_t Colors(std::int32_t index) = 0;
   virtual void SetColors(std::int32_t index, std::int32_t color) = 0;

@@ -9,33 +9,36 @@ class ChartObjects;
 class Range;
 class Shapes;
 
-/// A sheet with cells. For single cells there is a hot road, which makes no objects: the members that end in
-/// At. Cells outside of the sheet are error 1004 everywhere.
+/// A sheet with cells. The members whose names end in At read and write single cells quickly, without making
+/// objects. All members raise error 1004 for cells outside the sheet.
 class Worksheet : public Sheet {
  public:
-  /// What a cell holds. A text in it is good until the sheet is next written.
+  /// Returns the contents of a cell. Its text is valid until the next change to the sheet.
   virtual CellValue CellValueAt(std::int32_t row, std::int32_t column) = 0;
-  /// The displayed text. The view is into the sheet or into `scratch`.
+  /// Returns the displayed text of a cell. The view refers to the sheet or to `scratch`.
   virtual std::string_view CellTextAt(std::int32_t row, std::int32_t column, std::string& scratch) = 0;
-  /// The next row below that may hold anything in the column, 0 if there is none: a way over blank stretches.
+  /// Returns the next row below `row` that may have contents in the column, or 0 if there is none. Use it to
+  /// skip blank cells.
   virtual std::int32_t NextRowAt(std::int32_t row, std::int32_t column) = 0;
-  /// Stores a value as if it was typed: a text that reads as a number becomes one, a leading apostrophe marks
-  /// a text, and Empty empties the cell. Its format stays. Error 1004 for what a cell can't hold, such as
-  /// a formula in a host without formulas, and on a sheet that can't be written: see Range.
+  /// Stores a value as if it was typed: a text that looks like a number becomes a number, a leading
+  /// apostrophe marks a text, and Empty clears the cell. The format of the cell doesn't change. Raises error
+  /// 1004 for values that a cell can't contain, such as a formula in a host without formulas, and for sheets
+  /// that can't be written (see Range).
   virtual void SetCellValueAt(std::int32_t row, std::int32_t column, const Variant& value) = 0;
 
-  /// One cell.
+  /// Returns a range of one cell.
   virtual Ref<excel::Range> Cells(std::int32_t row, std::int32_t column) = 0;
-  /// The rectangle between two cells, each by an address such as "$A$1"; error 1004 for what is no address.
+  /// Returns the rectangle between two cells, given by addresses such as "$A$1". Raises error 1004 for
+  /// invalid addresses.
   virtual Ref<excel::Range> Range(std::string_view cell1, std::string_view cell2) = 0;
-  /// One row, from the first column to the last.
+  /// Returns a whole row.
   virtual Ref<excel::Range> Rows(std::int32_t row) = 0;
-  /// The rectangle around all cells that hold anything or are formatted; A1 in an empty sheet.
+  /// The smallest rectangle that contains all cells with contents or formats. For an empty sheet it is A1.
   virtual Ref<excel::Range> UsedRange() = 0;
 
-  /// All that is drawn on the sheet.
+  /// The shapes on the sheet, including charts.
   virtual Ref<excel::Shapes> Shapes() = 0;
-  /// Those of the shapes that are charts.
+  /// The chart frames on the sheet.
   virtual Ref<excel::ChartObjects> ChartObjects() = 0;
 };
 

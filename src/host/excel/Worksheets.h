@@ -6,16 +6,16 @@ namespace plotsmith::excel {
 
 class Worksheet;
 
-/// The sheets that have cells, in the order of their tabs.
+/// The worksheets of a workbook in tab order.
 class Worksheets {
  public:
   virtual ~Worksheets() = default;
 
-  /// With the hidden ones.
+  /// The number of worksheets, including hidden ones.
   virtual std::int32_t Count() = 0;
 
-  /// By its place among them, or by its name, case aside. Error 9 if there is no such sheet, or it has no
-  /// cells.
+  /// Returns a worksheet by its index, or by its name, ignoring case. Raises error 9 if there is no such
+  /// sheet or if it has no cells.
   ///@{
   virtual Ref<Worksheet> Item(std::int32_t index) = 0;
   virtual Ref<Worksheet> Item(std::string_view name) = 0;

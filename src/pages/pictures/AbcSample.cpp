@@ -18,7 +18,7 @@ const Table kBarGroups = {{0.46, 0.7, 0.9}, {0.64, 0.5, 0.72}, {0.36, 0.58, 0.8}
 const Table kAreas = {
     {0.24, 0.16, 0.34, 0.22, 0.3}, {0.34, 0.52, 0.42, 0.58, 0.44}, {0.62, 0.74, 0.86, 0.68, 0.92}};
 const Table kOneArea = {{0.34, 0.62, 0.48, 0.86, 0.7}};
-/// The areas rise and fall in turn, so that each shows from behind those before it.
+/// The areas rise and fall alternately, so that each one is visible behind those in front of it.
 const Table kAreaLanes = {
     {0.1, 0.16, 0.24, 0.36, 0.56}, {0.2, 0.42, 0.68, 0.46, 0.28}, {0.92, 0.78, 0.5, 0.66, 0.82}};
 
@@ -32,13 +32,13 @@ const Table& AreaTable(Arrangement eArrangement) {
   return eArrangement == Arrangement::kCluster ? kAreaLanes : kAreas;
 }
 
-/// The piece of the value axis that a series covers in a category.
+/// The part of the value axis that a series covers in a category.
 struct Extent {
   double dFrom = 0;
   double dTo = 0;
 };
 
-/// By series and category, for series that share a category in this way.
+/// Returns the extents by series and category for an arrangement.
 std::vector<std::vector<Extent>> Extents(const Table& aSeries, Arrangement eArrangement) {
   constexpr double kHighestStack = 0.94;
   const bool bStacked = eArrangement == Arrangement::kStack || eArrangement == Arrangement::kStack100;
@@ -64,26 +64,26 @@ std::vector<std::vector<Extent>> Extents(const Table& aSeries, Arrangement eArra
   return aExtents;
 }
 
-/// A bar that lies in the middle of the plot's depth.
+/// Draws a bar in the middle of the plot's depth.
 void DrawBar(Canvas& oCanvas, const Plot& oPlot, Rectangle oBar, Rgb oColor) {
   if (oPlot.oDepth == Point{}) {
     oCanvas.FillRectangle(oBar, oColor);
     return;
   }
-  constexpr double kFront = 0.22, kThickness = 0.56;  // shares of the depth
+  constexpr double kFront = 0.22, kThickness = 0.56;  // Shares of the depth.
   const Point oMove = oPlot.oDepth * kFront;
   oBar = {oBar.dLeft + oMove.x, oBar.dTop + oMove.y, oBar.dRight + oMove.x, oBar.dBottom + oMove.y};
   oCanvas.FillBox(oBar, oPlot.oDepth * kThickness, oColor);
 }
 
-/// Bars and columns. The order of drawing suits both: what comes later lies to the right of what comes
-/// earlier, or above it, and so in front of its sides.
+/// Draws bars or columns. The order suits both: later ones are to the right of earlier ones or above them,
+/// and so in front of their sides.
 void DrawBars(Canvas& oCanvas, const Plot& oPlot, Arrangement eArrangement) {
   const Table& aSeries = BarTable(eArrangement);
   const auto aExtents = Extents(aSeries, eArrangement);
   const bool bSideBySide = eArrangement == Arrangement::kCluster;
   const std::size_t lSeries = aSeries.size(), lCategories = aSeries[0].size();
-  const double dFilled = bSideBySide ? 0.78 : 0.58;  // share of a category that is not gap
+  const double dFilled = bSideBySide ? 0.78 : 0.58;  // The share of a category without the gap.
   const double dBar =
       dFilled / (bSideBySide ? static_cast<double>(lSeries) : 1) / static_cast<double>(lCategories);
   for (std::size_t c = 0; c < lCategories; ++c) {
@@ -99,7 +99,7 @@ void DrawBars(Canvas& oCanvas, const Plot& oPlot, Arrangement eArrangement) {
   }
 }
 
-/// The outline of one series: along its upper edge and back along its lower one.
+/// Returns the outline of a series: along its upper edge and back along its lower edge.
 std::vector<Point> AreaOutline(const Plot& oPlot, const std::vector<Extent>& aExtents) {
   std::vector<Point> aPoints;
   const std::size_t lLast = aExtents.size() - 1;
@@ -107,26 +107,27 @@ std::vector<Point> AreaOutline(const Plot& oPlot, const std::vector<Extent>& aEx
   for (std::size_t c = 0; c <= lLast; ++c) aPoints.push_back(oPlot.At(share(c), aExtents[c].dTo));
   const bool bOnAxis = std::ranges::all_of(aExtents, [](const Extent& e) { return e.dFrom == 0; });
   for (std::size_t c = lLast + 1; c-- > 0;) {
-    if (bOnAxis && c != 0 && c != lLast) continue;  // the axis is straight
+    if (bOnAxis && c != 0 && c != lLast) continue;  // The axis is straight, so its two ends are enough.
     aPoints.push_back(oPlot.At(share(c), aExtents[c].dFrom));
   }
   return aPoints;
 }
 
-/// An area in one of several lanes of the plot's depth, lane 0 in front.
+/// Draws an area in one of several lanes in depth. Lane 0 is in front.
 void DrawAreaInLane(Canvas& oCanvas, const Plot& oPlot, std::vector<Point> aOutline, std::size_t lLane,
                     std::size_t lLanes, Rgb oColor) {
   if (oPlot.oDepth == Point{}) {
     oCanvas.FillPolygon(std::move(aOutline), oColor);
     return;
   }
-  constexpr double kGap = 0.18;  // share of a lane before and behind the area
+  constexpr double kGap = 0.18;  // The share of a lane before and behind the area.
   const Point oLane = oPlot.oDepth * (1 / static_cast<double>(lLanes));
   for (Point& point : aOutline) point = point + oLane * (static_cast<double>(lLane) + kGap);
   oCanvas.FillPrism(aOutline, oLane * (1 - 2 * kGap), oColor);
 }
 
-/// Areas of a stack lie in one lane, drawn from the bottom; others have a lane each, drawn from the back.
+/// Draws the areas. Stacked areas share a lane and are drawn from the bottom; others have a lane each and are
+/// drawn from the back.
 void DrawAreas(Canvas& oCanvas, const Plot& oPlot, Arrangement eArrangement) {
   const Table& aSeries = AreaTable(eArrangement);
   const auto aExtents = Extents(aSeries, eArrangement);

@@ -3,13 +3,13 @@
 namespace plotsmith::pictures {
 namespace {
 
-/// Places and radius as shares of the plot's width and height; the radius is one of the height.
+/// Positions are shares of the plot's width and height; the radius is a share of the height.
 struct Bubble {
   double x, y, dRadius;
   std::size_t lSeries;
 };
 
-/// The large ones first, so that small ones lie in front.
+/// Large bubbles come first, so that small ones are in front.
 constexpr Bubble kBubbles[] = {{0.74, 0.7, 0.19, 0},  {0.27, 0.3, 0.16, 2}, {0.3, 0.78, 0.13, 1},
                                {0.56, 0.42, 0.11, 3}, {0.84, 0.27, 0.1, 1}, {0.66, 0.17, 0.07, 2},
                                {0.13, 0.6, 0.06, 0}};
@@ -18,7 +18,7 @@ constexpr Rgb kTint{0xEA, 0xF1, 0xF9};
 constexpr Rgb kOtherTint{0xF7, 0xF8, 0xFA};
 constexpr Rgb kMiddle{0x7D, 0x88, 0x98};
 
-/// Four fields, of which the best and the worst are tinted alike, and lines through the middle of both axes.
+/// Draws four quadrants, two of them tinted, and lines through the middle of both axes.
 void DrawQuadrants(Canvas& oCanvas, const Plot& oPlot) {
   for (const double x : {0.0, 0.5}) {
     for (const double y : {0.0, 0.5}) {
@@ -41,7 +41,7 @@ void DrawGridlines(Canvas& oCanvas, const Plot& oPlot) {
 }  // namespace
 
 void DrawBubbles(Stage& oStage, Background eBackground, Look eLook) {
-  // The plot is flat in either look: only the bubbles are balls.
+  // The plot is always flat; only the bubbles have depth.
   const Plot oPlot = MakePlot(oStage.oArea, Values::kUpwards, Look::kFlat);
   if (eBackground == Background::kQuadrants) {
     DrawQuadrants(oStage.oCanvas, oPlot);

@@ -6,13 +6,13 @@ namespace plotsmith::pictures {
 namespace {
 
 struct Block {
-  double dSize;  ///< share of the value axis
+  double dSize;  ///< A share of the value axis.
   std::size_t lSeries;
 };
 
 struct Bucket {
-  std::vector<Block> aBlocks;  ///< from the bottom
-  double dValue;               ///< of the bucket itself, as a share of the value axis
+  std::vector<Block> aBlocks;  ///< From the bottom.
+  double dValue;               ///< The value of the bucket, as a share of the value axis.
 };
 
 const std::vector<Bucket> kBuckets = {
@@ -23,7 +23,7 @@ const std::vector<Bucket> kBuckets = {
 };
 
 constexpr Rgb kBlockEdge{0x2B, 0x33, 0x40};
-/// A light edge sets the marker off from the blocks.
+/// A light edge separates the marker from the blocks.
 constexpr Rgb kMarkerEdge{0xFF, 0xFF, 0xFF};
 constexpr Rgb kMarker{0xDD, 0x1F, 0x26};
 
@@ -37,7 +37,7 @@ void DrawBlocks(Canvas& oCanvas, const Plot& oPlot, const Bucket& oBucket, doubl
 }
 
 void DrawMarker(Canvas& oCanvas, const Plot& oPlot, const Bucket& oBucket, double dFrom, double dTo) {
-  constexpr double kInset = 0.14;  // share of the column's width
+  constexpr double kInset = 0.14;  // A share of the column's width.
   const double dInset = (dTo - dFrom) * kInset;
   const Point oFrom = oPlot.At(dFrom + dInset, oBucket.dValue), oTo = oPlot.At(dTo - dInset, oBucket.dValue);
   const Point oEdge{0.7, 0};
@@ -50,7 +50,7 @@ void DrawMarker(Canvas& oCanvas, const Plot& oPlot, const Bucket& oBucket, doubl
 void DrawBuckets(Stage& oStage) {
   const Plot oPlot = MakePlot(oStage.oArea, Values::kUpwards, Look::kFlat);
   DrawAxes(oStage.oCanvas, oPlot);
-  const double dColumn = 1 / static_cast<double>(kBuckets.size());  // the columns touch
+  const double dColumn = 1 / static_cast<double>(kBuckets.size());  // The columns have no gaps.
   for (std::size_t i = 0; i < kBuckets.size(); ++i) {
     const double dFrom = static_cast<double>(i) * dColumn;
     DrawCategoryLabel(oStage.oCanvas, oPlot, dFrom + dColumn / 2);

@@ -9,9 +9,9 @@ namespace {
 
 constexpr Rgb kWhite{255, 255, 255};
 constexpr Rgb kBlack{0, 0, 0};
-/// Where the light comes from, as a unit vector.
+/// The direction of the light, as a unit vector.
 constexpr Point kLight{-0.45, -0.89};
-/// Faces that touch overlap by half of this, so that no background shines through between them.
+/// Adjacent faces overlap by half of this, so that no background is visible between them.
 constexpr double kSeam = 0.3;  // points
 double Dot(Point a, Point b) { return a.x * b.x + a.y * b.y; }
 
@@ -19,7 +19,7 @@ std::vector<Point> Corners(const Rectangle& r) {
   return {{r.dLeft, r.dTop}, {r.dRight, r.dTop}, {r.dRight, r.dBottom}, {r.dLeft, r.dBottom}};
 }
 
-/// Twice the area, positive if the corners run clockwise on the picture.
+/// Returns twice the area, which is positive if the corners are in clockwise order in the picture.
 double SignedArea(const std::vector<Point>& aPoints) {
   double dSum = 0;
   for (std::size_t i = 0; i < aPoints.size(); ++i) {
@@ -29,11 +29,11 @@ double SignedArea(const std::vector<Point>& aPoints) {
   return dSum;
 }
 
-/// An edge of a prism's face whose side can be seen.
+/// An edge of a prism's face with a visible side.
 struct VisibleEdge {
   Point oFrom, oTo;
-  double dLight;     ///< cosine of the angle between the light and the side
-  double dNearness;  ///< greater for what lies in front
+  double dLight;     ///< The cosine of the angle between the light and the side.
+  double dNearness;  ///< Larger for sides in front.
 };
 
 std::vector<VisibleEdge> VisibleEdges(const std::vector<Point>& aFace, Point oDepth) {
@@ -96,7 +96,8 @@ void Canvas::FillBox(const Rectangle& oFace, Point oDepth, Rgb oFill) {
 }
 
 void Canvas::FillBall(Point oCenter, double dRadius, Rgb oFill) {
-  // Rings from the dark edge to the highlight; a large ball takes more of them, or their edges would show.
+  // The rings go from the dark edge to the highlight. A large ball needs more rings, so that their edges stay
+  // invisible.
   const int lRings = static_cast<int>(3.5 + dRadius / 2);
   for (int lRing = 0; lRing < lRings; ++lRing) {
     const double dInwards = static_cast<double>(lRing) / lRings;

@@ -7,6 +7,7 @@
 
 namespace plotsmith::pictures {
 
+/// A rectangle, given by its edges.
 struct Rectangle {
   double dLeft = 0;
   double dTop = 0;
@@ -14,12 +15,13 @@ struct Rectangle {
   double dBottom = 0;
 };
 
-/// The colour between two others: the first one at 0, the second one at 1.
+/// Returns a mix of two colours: the first one for a share of 0, the second one for a share of 1.
 Rgb Mix(Rgb oFrom, Rgb oTo, double dShare);
-/// Towards white for a positive amount, towards black for a negative one, at most 1 and -1.
+/// Returns a lighter colour for a positive amount, and a darker one for a negative amount. 1 is white and -1
+/// is black.
 Rgb Shade(Rgb oColor, double dAmount);
 
-/// Collects the shapes of a picture, each in front of those before it.
+/// Collects the shapes of a picture. Each shape is in front of the shapes before it.
 class Canvas {
  public:
   Canvas(double dWidth, double dHeight) : oPicture_{dWidth, dHeight, {}} {}
@@ -27,15 +29,15 @@ class Canvas {
   void FillPolygon(std::vector<Point> aPoints, Rgb oFill, std::optional<Outline> oOutline = {});
   void FillRectangle(const Rectangle& oRectangle, Rgb oFill, std::optional<Outline> oOutline = {});
   void FillCircle(Point oCenter, double dRadius, Rgb oFill, std::optional<Outline> oOutline = {});
-  /// A straight line, as a thin polygon.
+  /// Draws a straight line as a thin polygon.
   void DrawLine(Point oFrom, Point oTo, double dWidth, Rgb oColor);
 
-  /// A solid with two parallel ends: the face, which is seen in full, and its copy, which lies `oDepth` away
-  /// on the picture. The sides that can be seen are shaded by how they lie to a light from the upper left.
+  /// Draws a prism. Its front face is fully visible, and its back face is `oDepth` away in the picture.
+  /// Visible sides are shaded by their angle to a light from the upper left.
   void FillPrism(const std::vector<Point>& aFace, Point oDepth, Rgb oFill);
-  /// A prism with a rectangular face.
+  /// Draws a prism with a rectangular face.
   void FillBox(const Rectangle& oFace, Point oDepth, Rgb oFill);
-  /// A ball under the same light.
+  /// Draws a ball with the same light.
   void FillBall(Point oCenter, double dRadius, Rgb oFill);
 
   const Picture& Result() const { return oPicture_; }

@@ -3,14 +3,14 @@
 #include "pages/pictures/Canvas.h"
 #include "pages/pictures/Stage.h"
 
-/// A small sample chart of each family.
+/// Draws a small sample chart of each chart family.
 namespace plotsmith::pictures {
 
 enum class AbcType { kArea, kBar, kColumn };
-/// How the series of an area, bar or column chart share a category.
+/// The arrangement of several series in an area, bar or column chart.
 enum class Arrangement { kBasic, kCluster, kStack, kStack100 };
 
-/// Series of such a chart, unless it is basic.
+/// The number of series, except in a basic chart.
 inline constexpr std::size_t kAbcSeries = 3;
 
 void DrawAbc(Stage& oStage, AbcType eType, Arrangement eArrangement, Look eLook);
@@ -23,7 +23,7 @@ enum class Background { kGridlines, kQuadrants };
 
 void DrawBubbles(Stage& oStage, Background eBackground, Look eLook);
 
-/// Columns of blocks, and a mark at the value of each bucket.
+/// Draws columns of blocks, with a mark at the value of each bucket.
 void DrawBuckets(Stage& oStage);
 
 }  // namespace plotsmith::pictures

@@ -5,8 +5,8 @@
 #include <variant>
 #include <vector>
 
-/// Drawings of coloured shapes, which each view of the forms paints with its own toolkit. Lengths are points;
-/// x runs to the right and y downwards, from the top left corner of the picture.
+/// Drawings of coloured shapes. Each view of the forms paints them with its own toolkit. Lengths are in
+/// points; x increases to the right and y increases downwards from the top left corner of the picture.
 namespace plotsmith::pictures {
 
 struct Rgb {
@@ -16,7 +16,7 @@ struct Rgb {
   bool operator==(const Rgb&) const = default;
 };
 
-/// A place, or the way from one place to another.
+/// A position, or the vector between two positions.
 struct Point {
   double x = 0;
   double y = 0;
@@ -26,7 +26,7 @@ struct Point {
 inline Point operator+(Point a, Point b) { return {a.x + b.x, a.y + b.y}; }
 inline Point operator*(Point a, double dFactor) { return {a.x * dFactor, a.y * dFactor}; }
 
-/// The corners in their order; the last one is joined to the first.
+/// A polygon, given by its corners in order. It is closed.
 struct Polygon {
   std::vector<Point> aPoints;
   bool operator==(const Polygon&) const = default;
@@ -39,7 +39,7 @@ struct Ellipse {
   bool operator==(const Ellipse&) const = default;
 };
 
-/// A line along the edge of a shape, half of it inside the shape and half outside.
+/// A line along the edge of a shape. Half of its width is inside the shape.
 struct Outline {
   Rgb oColor;
   double dWidth = 0;
@@ -56,7 +56,7 @@ struct Shape {
 struct Picture {
   double dWidth = 0;
   double dHeight = 0;
-  std::vector<Shape> aShapes;  ///< back to front
+  std::vector<Shape> aShapes;  ///< The shapes from back to front.
   bool operator==(const Picture&) const = default;
 };
 

@@ -9,19 +9,20 @@ namespace plotsmith::pictures {
 namespace {
 
 constexpr double kShares[] = {0.31, 0.27, 0.24, 0.18};
-constexpr double kFlattening = 0.56;  // of a pie that is seen from the side
+constexpr double kFlattening = 0.56;  // The ratio of height and width for a pie in 3-D.
 constexpr double kHeight = 13;        // points
 constexpr double kStep = std::numbers::pi / 20;
 constexpr Rgb kGap{0xFF, 0xFF, 0xFF};
 
-/// The circle that the slices are cut from, and how far each is moved out.
+/// The circle of the slices, and the distance that each slice is moved outwards.
 struct Disk {
   Point oCenter;
   double dRadiusX;
   double dRadiusY;
-  double dMove;  ///< share of the radius
+  double dMove;  ///< A share of the radius.
 
-  /// `dRadius` is a share of the radius, the angle in radians runs clockwise from the right.
+  /// Returns a point on the disk. `dRadius` is a share of the radius. The angle is in radians, clockwise from
+  /// the right.
   Point At(double dAngle, double dRadius) const {
     return oCenter + Point{std::cos(dAngle) * dRadius * dRadiusX, std::sin(dAngle) * dRadius * dRadiusY};
   }
@@ -34,7 +35,7 @@ struct Slice {
   double Middle() const { return (dFrom + dTo) / 2; }
 };
 
-/// Clockwise from the top.
+/// Returns the slices in clockwise order from the top.
 std::vector<Slice> CutSlices() {
   std::vector<Slice> aSlices;
   double dAngle = -std::numbers::pi / 2;
@@ -70,7 +71,7 @@ void DrawPie(Stage& oStage, Slices eSlices, Look eLook) {
   if (b3D) oDisk.oCenter.y -= kHeight / 2;
 
   auto aSlices = CutSlices();
-  // from the back to the front
+  // Sort from back to front.
   std::ranges::sort(aSlices, {}, [](const Slice& slice) { return std::sin(slice.Middle()); });
   for (const Slice& slice : aSlices) {
     const auto aOutline = SliceOutline(oDisk, slice);

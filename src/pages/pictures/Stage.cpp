@@ -20,7 +20,7 @@ constexpr Rgb kTitle{0x6B, 0x76, 0x87};
 constexpr Point kDepth{16, -11};
 constexpr double kLabelHeight = 2;
 constexpr double kLabelWidth = 5;
-constexpr double kLabelGap = 3;  // between an axis and the middle of its labels
+constexpr double kLabelGap = 3;  // The distance between an axis and the middle of its labels.
 constexpr double kGridlines[] = {0.25, 0.5, 0.75, 1};
 
 Canvas Card(double dWidth, double dHeight) {
@@ -41,7 +41,7 @@ void DrawMarkBeside(Canvas& oCanvas, Point oPlace) {
   DrawMark(oCanvas, oPlace + Point{-kLabelGap - kLabelWidth / 2, 0}, kLabelWidth, kLabel);
 }
 
-/// The wall over the line between two places of the front.
+/// Draws the wall above the line between two positions of the front.
 void DrawWall(Canvas& oCanvas, Point oFrom, Point oTo, Point oDepth, Rgb oFill) {
   oCanvas.FillPolygon({oFrom, oTo, oTo + oDepth, oFrom + oDepth}, oFill);
 }
@@ -122,7 +122,7 @@ void DrawValueLabel(Canvas& oCanvas, const Plot& oPlot, double dValue) {
 
 void DrawLegend(Canvas& oCanvas, const Rectangle& oArea, std::size_t lSeries) {
   constexpr double kRow = 12, kSwatch = 7.5, kText = 12;  // points
-  constexpr double kTextWidths[] = {0.8, 1, 0.65, 0.9};   // shares of the room
+  constexpr double kTextWidths[] = {0.8, 1, 0.65, 0.9};   // Shares of the available width.
   const double dFirst = (oArea.dTop + oArea.dBottom - static_cast<double>(lSeries - 1) * kRow) / 2;
   for (std::size_t i = 0; i < lSeries; ++i) {
     const double dMiddle = dFirst + static_cast<double>(i) * kRow;

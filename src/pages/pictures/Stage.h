@@ -4,14 +4,14 @@
 
 #include "pages/pictures/Canvas.h"
 
-/// What the samples have in common: the palette, the card that they lie on, axes, legends.
+/// The common parts of the samples: palette, card, axes and legends.
 namespace plotsmith::pictures {
 
 /// The colours of the series.
 inline constexpr std::array<Rgb, 4> kSeriesColors = {
     {{0x2F, 0x6F, 0xB7}, {0xF2, 0x9A, 0x38}, {0x2F, 0xA3, 0x8C}, {0x8C, 0x62, 0xA8}}};
 
-/// Which way the value axis runs.
+/// The direction of the value axis.
 enum class Values { kUpwards, kRightwards };
 
 /// Whether a sample is flat or has depth.
@@ -19,43 +19,44 @@ enum class Look { kFlat, k3D };
 
 /// The area between the axes.
 struct Plot {
-  Rectangle oArea;  ///< its front, if it has depth
-  Point oDepth;     ///< the way from the front to the back wall; (0, 0) in a flat chart
+  Rectangle oArea;  ///< The area; the front face in 3-D.
+  Point oDepth;     ///< The vector from the front to the back wall; (0, 0) in a flat chart.
   Values eValues = Values::kUpwards;
 
-  /// The place of a share of the category axis and a share of the value axis, each from 0 to 1, on the front.
+  /// Returns the position of a share of the category axis and a share of the value axis, each from 0 to 1, on
+  /// the front.
   Point At(double dCategory, double dValue) const;
-  /// The rectangle between two such places.
+  /// Returns the rectangle between two such positions.
   Rectangle Between(double dCategory1, double dValue1, double dCategory2, double dValue2) const;
 };
 
-/// An empty card, and the area on it that is for the chart.
+/// An empty card, and the area for the chart on it.
 struct Stage {
   Canvas oCanvas;
   Rectangle oArea;
 };
 
-/// The card of a layout page's sample.
+/// Makes the card of a sample on a layout page.
 Stage SampleStage();
-/// The larger card of a chart type's sample, with a title and a legend of so many series.
+/// Makes the larger card of a sample for a chart type, with a title and a legend of `lSeries` series.
 Stage TypeStage(std::size_t lSeries);
 
-/// A plot in an area, which leaves room for the depth.
+/// Makes a plot in an area and reserves space for the depth.
 Plot MakePlot(const Rectangle& oArea, Values eValues, Look eLook);
-/// Walls, gridlines and axes.
+/// Draws walls, gridlines and axes.
 void DrawAxes(Canvas& oCanvas, const Plot& oPlot);
-/// A mark instead of a text at a share of the category axis, or of the value axis.
+/// Draws a mark in place of a label at a share of the category axis or of the value axis.
 ///@{
 void DrawCategoryLabel(Canvas& oCanvas, const Plot& oPlot, double dCategory);
 void DrawValueLabel(Canvas& oCanvas, const Plot& oPlot, double dValue);
 ///@}
 
-/// Swatches of the first series' colours with marks instead of texts, one below the other, in the middle of
-/// the area's height.
+/// Draws a legend: colour samples of the first series with marks in place of texts, below each other,
+/// vertically centred in the area.
 void DrawLegend(Canvas& oCanvas, const Rectangle& oArea, std::size_t lSeries);
-/// A legend alone on a small card.
+/// Draws a legend on a small card.
 Picture LegendPicture();
-/// The same where there are no colours to explain.
+/// Draws the dim legend for a chart of one colour.
 Picture DimLegendPicture();
 
 }  // namespace plotsmith::pictures

@@ -7,13 +7,13 @@
 namespace plotsmith::pictures {
 namespace {
 
-/// A length in tenths of a point.
+/// Returns a length in tenths of a point.
 long Tenths(double dLength) {
-  constexpr double kTie = 1E-6;  // lifts what lies on a half, give or take the last bits, to the same side
+  constexpr double kTie = 1E-6;  // Rounds halves up, even if their last bits are inexact.
   return std::lround(dLength * 10 + kTie);
 }
 
-/// Tenths as a decimal number with a point in every locale, without a needless ".0".
+/// Formats tenths as a decimal number with a point in every locale and without a trailing ".0".
 std::string Decimal(long lTenths) {
   const long lSize = std::labs(lTenths);
   std::string sNumber = (lTenths < 0 ? "-" : "") + std::to_string(lSize / 10);
@@ -36,8 +36,8 @@ std::string Color(Rgb oColor) {
   return sColor;
 }
 
-/// A path of relative steps, which takes half the room of absolute corners. The steps lie between the rounded
-/// corners, so that their errors don't add up.
+/// Returns the path of a polygon in relative steps, which is half as long as absolute corners. The steps
+/// connect the rounded corners, so rounding errors don't add up.
 std::string Form(const Polygon& oPolygon) {
   std::string sPath;
   long lX = 0, lY = 0;
@@ -66,7 +66,7 @@ std::string Form(const Ellipse& oEllipse) {
   return "<ellipse" + sCenter + Attribute("rx", sX) + Attribute("ry", sY);
 }
 
-/// The width that most outlines have. The root element declares it once for all.
+/// The width of most outlines. The root element declares it for all of them.
 constexpr double kUsualWidth = 0.3;
 
 std::string Stroke(const Outline& oOutline) {

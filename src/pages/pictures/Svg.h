@@ -6,7 +6,7 @@
 
 namespace plotsmith::pictures {
 
-/// The picture as a document in SVG 1.1, in points, lengths rounded to tenths.
+/// Returns the picture as an SVG 1.1 document. The unit is points, and lengths are rounded to tenths.
 std::string Svg(const Picture& oPicture);
 
 }  // namespace plotsmith::pictures

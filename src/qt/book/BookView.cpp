@@ -21,11 +21,11 @@
 namespace plotsmith::qtbook {
 namespace {
 
-/// A tab takes "&" for the mark of a key.
+/// Escapes "&", which marks a shortcut key in a tab.
 QString TabText(const QString& name) { return QString(name).replace(QLatin1Char('&'), QLatin1String("&&")); }
 
-/// The pointer is busy as long as this is there: the host reads a sheet when it is first shown, and it may be
-/// large.
+/// Shows the busy pointer while it exists. The host reads a sheet when it is first shown, which can take long
+/// for a large sheet.
 class BusyPointer {
  public:
   BusyPointer() { QApplication::setOverrideCursor(Qt::WaitCursor); }
@@ -51,7 +51,7 @@ BookView::BookView(std::shared_ptr<xlsx::Application> host, QWidget* parent)
       content_(NewLabel(QStringLiteral("Content of the active cell"))),
       pages_(new QStackedWidget),
       tabs_(new QTabBar) {
-  // the content is cut where the window ends, and doesn't widen it
+  // The content is clipped at the edge of the window and doesn't widen it.
   content_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   address_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   address_->setFixedWidth(address_->fontMetrics().horizontalAdvance(QStringLiteral("XFD1048576")) + 16);
@@ -95,7 +95,7 @@ void BookView::SetChartPainter(ChartPainter painter) {
   }
 }
 
-/// As the host has them now, with the pages that were made already.
+/// Returns the tabs for the host's current sheets, with their existing pages.
 std::vector<BookView::Tab> BookView::ListTabs() {
   std::vector<Tab> tabs;
   for (const auto& entry : host_->Book().AllSheets()) {
@@ -181,7 +181,7 @@ SheetPage* BookView::MakePage(const Tab& tab) {
   return page;
 }
 
-/// Shows the sheet of a tab that has become the current one.
+/// Shows the sheet of the current tab.
 void BookView::ShowTab(int index) {
   if (index >= 0) {
     Tab& tab = list_[static_cast<std::size_t>(index)];
@@ -231,7 +231,7 @@ void BookView::TurnTo(int tab) {
 
 bool BookView::Reveal(const std::string& alternativeText) {
   const int before = tabs_->currentIndex();
-  // the sheet that is shown first, as the others would have to be read
+  // Search the visible sheet first, because the others may have to be read.
   std::vector<int> order;
   for (int i = 0; i < tabs_->count(); ++i) order.push_back(i);
   std::stable_partition(order.begin(), order.end(), [&](int tab) { return tab == before; });
@@ -242,7 +242,7 @@ bool BookView::Reveal(const std::string& alternativeText) {
       const auto frames = SheetSource(host_->Book(), entry).Frames();
       if (FindChart(frames, alternativeText) == frames.size()) continue;
     } catch (const runtime::RuntimeError&) {
-      continue;  // a sheet that can't be read has no chart to show
+      continue;  // A sheet that can't be read has no chart.
     }
     TurnTo(i);
     return ShownSheet() != nullptr && ShownSheet()->Reveal(alternativeText);

@@ -21,29 +21,29 @@ namespace plotsmith::qtbook {
 class SheetPage;
 class SheetView;
 
-/// The workbook that the host has open, in a window, to be looked at: the sheets with a tab for each, and
-/// above them the active cell and what it shows. Hidden sheets have dimmed tabs, very hidden ones have none.
-/// To turn to another sheet here doesn't make it the active sheet of the workbook. The host has to keep the
-/// workbook open as long as the window is there.
+/// A window that shows the host's workbook, read only: a tab for each sheet, and above them the active cell
+/// and its contents. Tabs of hidden sheets are dimmed, and very hidden sheets have no tab. Selecting a tab
+/// doesn't change the active sheet of the workbook. The workbook must stay open in the host while the window
+/// exists.
 class BookView : public QWidget {
  public:
   explicit BookView(std::shared_ptr<xlsx::Application> host, QWidget* parent = nullptr);
   ~BookView() override;
 
-  /// Charts are drawn with it from now on; without one, a chart is a frame with its title and type.
+  /// Sets the function that draws charts. Without it, a chart is shown as a frame with title and type.
   void SetChartPainter(ChartPainter painter);
 
-  /// Catches up with the host: to be called when the system has run. It costs next to nothing if nothing was
-  /// changed there. The window turns to the active sheet if a sheet or a cell was made the active one.
+  /// Updates the window from the host after the system has run. It is fast if nothing has changed. The window
+  /// shows the active sheet if a sheet or a cell was activated.
   void Update();
-  /// Turns to the workbook's active sheet, wherever the user has turned to.
+  /// Shows the workbook's active sheet.
   void ShowActive();
-  /// Turns to the sheet that has the chart of the alternative text, and scrolls to it. Returns false if there
-  /// is none on a sheet with a tab.
+  /// Shows the sheet with the chart of an alternative text, and scrolls to the chart. Returns false if no
+  /// sheet with a tab has it.
   bool Reveal(const std::string& alternativeText);
 
   QTabBar& Tabs() { return *tabs_; }
-  /// The worksheet that is shown; null for a chart sheet, and in a workbook without any sheet to show.
+  /// The visible worksheet, or null for a chart sheet and in a workbook without visible sheets.
   SheetView* ShownSheet();
 
  protected:
@@ -56,8 +56,8 @@ class BookView : public QWidget {
     std::weak_ptr<xlsx::SheetEntry> sheet;
     QString name;
     bool hidden = false;
-    SheetPage* page = nullptr;  ///< made when the sheet is first shown
-    std::uint64_t seen = 0;     ///< the host's count of calls when the page last looked at it
+    SheetPage* page = nullptr;  ///< The page; null until the sheet is first shown.
+    std::uint64_t seen = 0;     ///< The host's count of calls at the page's last update.
   };
 
   std::vector<Tab> ListTabs();
@@ -71,7 +71,7 @@ class BookView : public QWidget {
   std::shared_ptr<xlsx::Application> host_;
   ChartPainter chartPainter_;
   std::vector<Tab> list_;
-  std::uint64_t calls_ = 0, activations_ = 0;  ///< the host's counts when it was last looked at
+  std::uint64_t calls_ = 0, activations_ = 0;  ///< The host's counts at the last update.
   QLabel* address_;
   QLabel* content_;
   QStackedWidget* pages_;

@@ -40,7 +40,7 @@ Qt::Alignment HeightOf(VerticalAlignment vertical) {
 }  // namespace
 
 QString ShorterNumber(double number, const QString& text, const std::function<bool(const QString&)>& fits) {
-  if (text.contains(QLatin1Char('E'))) return {};  // the exponent leaves little to gain
+  if (text.contains(QLatin1Char('E'))) return {};  // A number with an exponent can hardly become shorter.
   const auto point = text.indexOf(QLatin1Char('.'));
   const int decimals = point < 0 ? 0 : static_cast<int>(text.size() - point - 1);
   for (int kept = decimals - 1; kept >= 0; --kept) {
@@ -78,7 +78,7 @@ const CellPainter::Face& CellPainter::FaceOf(std::uint32_t style) {
 
 QColor CellPainter::Background(const ShownCell& cell) {
   const auto& fill = source_.LookOf(cell.style).fillColor;
-  // white is the ground that a workbook is made on, so that it is the window's here
+  // Workbooks assume a white background, so white becomes the window's background colour.
   constexpr std::int32_t kWhite = 0xFFFFFF;
   return fill && *fill != kWhite ? FromExcel(*fill) : palette_.color(QPalette::Base);
 }
@@ -132,7 +132,7 @@ void CellPainter::Paint(QPainter& painter, const ShownCell& cell, const QRect& a
   const xlsx::CellLook& look = source_.LookOf(cell.style);
   const Face& face = FaceOf(cell.style);
   const Qt::Alignment side = SideOf(cell);
-  // the last pixel at the right and below is the line between cells
+  // The last pixel at the right and bottom is the gridline.
   QRect inside = area.adjusted(Padding(), 0, -Padding() - 1, -1);
   if (side == Qt::AlignLeft) inside.setLeft(inside.left() + IndentOf(cell));
   if (side == Qt::AlignRight) inside.setRight(inside.right() - IndentOf(cell));
@@ -142,7 +142,7 @@ void CellPainter::Paint(QPainter& painter, const ShownCell& cell, const QRect& a
   if (look.wrap && !IsNumber(cell)) {
     flags |= Qt::TextWordWrap;
   } else {
-    // a line break is shown only in a cell that wraps
+    // Line breaks are shown only in cells with wrapped text.
     text.remove(QLatin1Char('\r')).replace(QLatin1Char('\n'), QLatin1Char(' '));
     flags |= Qt::TextSingleLine;
   }

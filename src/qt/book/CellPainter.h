@@ -11,28 +11,29 @@
 
 namespace plotsmith::qtbook {
 
-/// Paints the contents of cells. Fonts are made so large that a digit is no wider than the sheet's columns
-/// count on, since the workbook's own font may be missing here.
+/// Paints the contents of cells. Fonts are scaled so that a digit isn't wider than the column widths assume,
+/// because the workbook's font may not be installed.
 class CellPainter {
  public:
-  /// `scale` is pixels of the window for a pixel at 96 dots an inch.
+  /// Makes a painter. `scale` is the number of window pixels for a pixel at 96 dots per inch.
   CellPainter(SheetSource& source, const QPalette& palette, double scale);
 
-  /// The Normal font of the workbook.
+  /// Returns the Normal font of the workbook.
   QFont NormalFont() const;
-  /// The colour behind a cell: its filling, or that of the window.
+  /// Returns the background colour of a cell: its filling, or the colour of the window.
   QColor Background(const ShownCell& cell);
   bool HasFilling(const ShownCell& cell) { return source_.LookOf(cell.style).fillColor.has_value(); }
 
-  /// Where a cell's text goes, Qt::AlignLeft, AlignRight or AlignHCenter.
+  /// Returns the horizontal alignment of a cell's text: Qt::AlignLeft, AlignRight or AlignHCenter.
   Qt::Alignment SideOf(const ShownCell& cell);
-  /// Whether a text that is too long for the cell goes on over empty ones beside it.
+  /// Returns true if a long text may extend over empty adjacent cells.
   bool MaySpread(const ShownCell& cell);
-  /// How wide the text is, with the space to the edges of the cell, in pixels.
+  /// Returns the width of the text with its margins, in pixels.
   int WidthOf(const ShownCell& cell);
-  /// The text that a cell of this width shows: a number that doesn't fit has fewer decimals, or is "####".
+  /// Returns the text that fits into a cell of this width. A number that doesn't fit has fewer decimals or is
+  /// "####".
   QString FittedText(const ShownCell& cell, int width);
-  /// Paints the text of a cell in `area`: the cell, or with the empty ones beside it that the text goes over.
+  /// Paints the text of a cell. `area` is the cell, including empty adjacent cells under a long text.
   void Paint(QPainter& painter, const ShownCell& cell, const QRect& area);
 
  private:
@@ -48,12 +49,12 @@ class CellPainter {
   SheetSource& source_;
   QPalette palette_;
   double scale_;
-  double shrink_;  ///< of font sizes
+  double shrink_;  ///< The factor of font sizes.
   std::map<std::uint32_t, Face> faces_;
 };
 
-/// A number in the General format with as many digits as `fits` accepts, from `text`, which has all of them;
-/// empty if not even the whole ones are accepted.
+/// Returns a number in the General format with as many digits as `fits` accepts. `text` has all digits. The
+/// result is empty if not even the integer part fits.
 QString ShorterNumber(double number, const QString& text, const std::function<bool(const QString&)>& fits);
 
 }  // namespace plotsmith::qtbook

@@ -5,7 +5,8 @@
 
 namespace plotsmith::qtbook {
 
-/// A chart type (XlChartType, or xlCombination) in words; "Chart" for one that the host doesn't draw.
+/// Returns the name of a chart type (XlChartType or xlCombination), or "Chart" for a type that the host
+/// doesn't draw.
 QString ChartTypeName(std::int32_t type);
 
 }  // namespace plotsmith::qtbook

@@ -6,7 +6,7 @@
 namespace plotsmith::qtbook {
 namespace {
 
-/// Relative luminance (WCAG 2), from 0 to 1.
+/// Returns the relative luminance (WCAG 2), from 0 to 1.
 double Luminance(const QColor& color) {
   const auto linear = [](double channel) {
     return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
@@ -14,13 +14,13 @@ double Luminance(const QColor& color) {
   return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-/// From 1, for equal colours, to 21.
+/// Returns the contrast ratio, from 1 (equal colours) to 21.
 double Contrast(const QColor& a, const QColor& b) {
   const auto [darker, lighter] = std::minmax({Luminance(a), Luminance(b)});
   return (lighter + 0.05) / (darker + 0.05);
 }
 
-/// What workbooks use on a white ground, grey notes among it, stays as it is.
+/// Common colours on a white background, including grey, don't change.
 constexpr double kLeastContrast = 2;
 
 }  // namespace

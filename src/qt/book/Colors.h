@@ -4,16 +4,16 @@
 #include <QtGui/QPalette>
 #include <cstdint>
 
-/// Colours of the window. They are roles of the palette, or lie between two of them, so that dark and
-/// high-contrast themes work; the only others are those that the workbook gives its cells.
+/// Colours of the window. They come from the palette, or are mixed from two of its colours, so that dark and
+/// high-contrast themes work. The only others are the cell colours of the workbook.
 namespace plotsmith::qtbook {
 
-/// `share` of `b`, from 0 to 1, and the rest of `a`.
+/// Mixes two colours. `share` is the share of `b`, from 0 to 1.
 QColor Between(const QColor& a, const QColor& b, double share);
-/// From Excel's colour: red + 256 * green + 65536 * blue.
+/// Converts Excel's colour: red + 256 * green + 65536 * blue.
 QColor FromExcel(std::int32_t color);
-/// `wanted` if it can be read on the background, else the palette's colour of texts or of backgrounds,
-/// whichever reads better there.
+/// Returns `wanted` if it is legible on the background, or the more legible one of the palette's text and
+/// background colours.
 QColor Readable(const QColor& wanted, const QColor& background, const QPalette& palette);
 
 }  // namespace plotsmith::qtbook

@@ -15,13 +15,13 @@
 namespace plotsmith::qtbook {
 namespace {
 
-/// A picture of a chart that is drawn larger than the screen is not worth its memory.
+/// The maximum width and height of a picture. Larger ones aren't worth their memory.
 constexpr int kMostPixels = 4096;
-/// What pictures of charts may take, in KiB.
+/// The maximum memory for pictures, in KiB.
 constexpr int kMostPictures = 96 * 1024;
 constexpr int kMargin = 6;
 
-/// Text in the middle of a frame, in lines of the frame's width.
+/// Paints text in the middle of a frame, wrapped at the frame's width.
 void PaintCaption(QPainter& painter, const ChartCaption& caption, const QRect& area, const QPalette& palette,
                   const QFont& font) {
   const QRect inside = area.adjusted(kMargin, kMargin, -kMargin, -kMargin);
@@ -46,7 +46,7 @@ void PaintOutline(QPainter& painter, const QRect& area, const QPen& pen) {
   painter.drawRect(area.adjusted(0, 0, -1, -1));
 }
 
-/// What is no chart: its outline, and what it is or says.
+/// Paints a shape that isn't a chart: its outline and its text.
 void PaintOther(QPainter& painter, const ShownFrame& frame, const QRect& area, const QPalette& palette,
                 const QFont& font) {
   const QColor line = Between(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.35);
@@ -70,7 +70,7 @@ ChartCaption CaptionOf(const ShownFrame& frame) {
     }
     caption.type = ChartTypeName(chart->ChartType());
   } catch (const runtime::RuntimeError&) {
-    // then what is known so far has to do
+    // Use the texts that were read so far.
   }
   return caption;
 }
@@ -104,7 +104,7 @@ QPixmap FramePainter::DrawPicture(const ShownFrame& frame, const QSize& size, do
     const QRectF area(QPointF(0, 0), pixmap.deviceIndependentSize());
     return chartPainter_(painter, chart, area) ? pixmap : QPixmap();
   } catch (const runtime::RuntimeError&) {
-    return {};  // a chart that can't be read is shown as a frame
+    return {};  // A chart that can't be read is shown as a frame.
   }
 }
 

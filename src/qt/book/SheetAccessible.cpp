@@ -13,7 +13,7 @@ class SheetAccessible final : public QAccessibleWidget {
  public:
   explicit SheetAccessible(SheetView* view) : QAccessibleWidget(view, QAccessible::Table), view_(view) {}
 
-  /// The name is the widget's accessible name; the value is such as "B3: 1,200".
+  /// Returns the widget's accessible name as name, and a value such as "B3: 1,200".
   QString text(QAccessible::Text kind) const override {
     if (kind != QAccessible::Value) return QAccessibleWidget::text(kind);
     const xlsx::CellPlace cell = view_->ActiveCell();

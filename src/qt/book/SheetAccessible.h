@@ -4,10 +4,10 @@ namespace plotsmith::qtbook {
 
 class SheetView;
 
-/// Makes sheets known to screen readers, as tables whose value is the active cell with its address. May be
-/// called any number of times.
+/// Makes sheets accessible to screen readers, as tables whose value is the active cell with its address. It
+/// can be called repeatedly.
 void InstallSheetAccessible();
-/// Tells them that the active cell has moved.
+/// Tells screen readers that the active cell has changed.
 void ReportActiveCell(SheetView& view);
 
 }  // namespace plotsmith::qtbook

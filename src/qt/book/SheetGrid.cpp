@@ -10,14 +10,14 @@ int SheetGrid::EdgeOf(std::int32_t number) const {
 }
 
 std::int32_t SheetGrid::NumberAt(int pixels) const {
-  // an edge in the middle of a pixel is rounded up, so that the pixel still belongs to the line before
+  // An edge in the middle of a pixel is rounded up, so that the pixel belongs to the preceding line.
   constexpr double kMiddle = 0.5 - 1e-6;
   const auto [index, rest] = lines_.IndexAt((pixels + kMiddle) / scale_);
   return std::clamp(index + 1, 1, count_);
 }
 
 std::int32_t SheetGrid::NextShown(std::int32_t number, int direction) const {
-  // stretches of hidden lines have no length, so the pixel beside this line is in the next that shows
+  // Hidden lines have no size, so the adjacent pixel belongs to the next visible line.
   const int beside = direction > 0 ? EdgeOf(number + 1) : EdgeOf(number) - 1;
   if (beside < 0 || beside >= EdgeOf(count_ + 1)) return number;
   return NumberAt(beside);

@@ -10,23 +10,23 @@ namespace plotsmith::qtbook {
 
 class SheetView;
 
-/// What a window shows of one sheet of any kind.
+/// The page of a window that shows a sheet of any kind.
 class SheetPage {
  public:
   virtual ~SheetPage() = default;
-  /// The page's widget, which owns the page.
+  /// The widget of the page, which owns the page.
   virtual QWidget& Widget() = 0;
-  /// The sheet's cells; null for a chart sheet.
+  /// The view of the sheet's cells, or null for a chart sheet.
   virtual SheetView* Cells() = 0;
   virtual void SetChartPainter(const ChartPainter& painter) = 0;
-  /// Looks at the host again.
+  /// Updates the page from the host.
   virtual void Refresh() = 0;
 };
 
-/// A chart sheet: its chart fills the window.
+/// The page of a chart sheet, whose chart fills the window.
 class ChartSheetPage final : public QWidget, public SheetPage {
  public:
-  /// `chart` answers Nothing while the chart can't be read.
+  /// Makes a page. `chart` returns Nothing if the chart can't be read.
   ChartSheetPage(const QString& name, std::function<excel::Ref<excel::Chart>()> chart, QWidget* parent);
 
   QWidget& Widget() override { return *this; }

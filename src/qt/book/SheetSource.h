@@ -24,65 +24,64 @@ struct SheetEntry;
 
 namespace plotsmith::qtbook {
 
-/// A cell as a window shows it.
+/// A cell as the window shows it.
 struct ShownCell {
   excel::CellValue::Kind kind = excel::CellValue::Kind::kEmpty;
-  double number = 0;        ///< of a number
-  bool general = false;     ///< a number without a number format of its own
-  std::uint32_t style = 0;  ///< for SheetSource::LookOf
-  QString text;             ///< the same as Range.Text
+  double number = 0;        ///< The value of a number.
+  bool general = false;     ///< Whether it is a number in the General format.
+  std::uint32_t style = 0;  ///< The style for SheetSource::LookOf.
+  QString text;             ///< The displayed text, as in Range.Text.
 
   bool IsEmpty() const { return kind == excel::CellValue::Kind::kEmpty; }
 };
 
-/// Something that is drawn on a sheet.
+/// A shape on a sheet.
 struct ShownFrame {
-  QRectF place;  ///< points from the sheet's corner
+  QRectF place;  ///< The position in points from the sheet's corner.
   bool isChart = false;
-  std::string alternativeText;  ///< of a chart that Plotsmith drew, its id
-  QString label;                ///< the shape's name, or the text of a text box
-  /// The chart; Nothing once it has been deleted, and for what is no chart.
+  std::string alternativeText;  ///< The alternative text, which is the id of a chart of Plotsmith.
+  QString label;                ///< The name of the shape, or the text of a text box.
+  /// Returns the chart, or Nothing if it was deleted or the shape isn't a chart.
   std::function<excel::Ref<excel::Chart>()> chart;
 };
 
-/// Where the chart of an alternative text is among frames; their count if there is none.
+/// Returns the index of the chart with an alternative text, or the number of frames if there is none.
 std::size_t FindChart(const std::vector<ShownFrame>& frames, const std::string& alternativeText);
 
-/// A worksheet of the embedded host, as far as a window looks at it. Each question is asked of the host as it
-/// is now; of the sheet nothing is kept. What can't be read, and what was deleted meanwhile, throws
-/// RuntimeError.
+/// Reads a worksheet of the embedded host for a window. Each function asks the host for the current state,
+/// and nothing about the sheet is kept. Throws RuntimeError if the sheet was deleted or can't be read.
 class SheetSource {
  public:
   SheetSource(xlsx::Workbook& book, std::weak_ptr<xlsx::SheetEntry> sheet);
 
-  /// Rows and columns from 1.
+  /// Returns true if the cell is empty. Rows and columns count from 1.
   bool IsEmptyAt(std::int32_t row, std::int32_t column);
   ShownCell CellAt(std::int32_t row, std::int32_t column);
   const xlsx::CellLook& LookOf(std::uint32_t style);
-  /// Until the host is next asked for something else that changes it.
+  /// Returns the row heights and column widths. The reference is valid until the next change in the host.
   const xlsx::SheetGeometry& Geometry();
-  /// The width of a digit of the Normal font, in pixels at 96 dots an inch, by which columns are measured.
+  /// Returns the width of a digit in the Normal font, the unit of column widths, in pixels at 96 dots per
+  /// inch.
   int DigitWidth() const;
   const std::vector<xlsx::CellRange>& MergedCells();
   xlsx::CellRange UsedCells();
   xlsx::SheetView View();
-  /// From back to front.
+  /// Returns the shapes from back to front.
   std::vector<ShownFrame> Frames();
 
-  /// Drops what is remembered of cell styles, which are of the palette as it was.
+  /// Clears the cache of cell styles, for example after a change of the palette.
   void LookAgain() { looks_.clear(); }
-  /// How many cells the host was asked for so far: what a scrolling window costs.
+  /// The number of cells that were read from the host, which measures the cost of scrolling.
   std::uint64_t CellsAsked() const { return cellsAsked_; }
 
  private:
-  /// Runs a question to the sheet so that damage that it comes upon doesn't keep the workbook from being
-  /// saved.
+  /// Calls a function on the sheet. Damage that it finds doesn't prevent saving the workbook.
   template <class Question>
   auto Ask(Question&& question);
 
   xlsx::Workbook& book_;
   std::weak_ptr<xlsx::SheetEntry> sheet_;
-  std::map<std::uint32_t, xlsx::CellLook> looks_;  ///< those of styles that were on the screen
+  std::map<std::uint32_t, xlsx::CellLook> looks_;  ///< The looks of styles that were visible.
   std::uint64_t cellsAsked_ = 0;
 };
 

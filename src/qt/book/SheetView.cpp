@@ -25,7 +25,7 @@ namespace {
 constexpr double kPixelsPerPoint = 96.0 / 72;
 constexpr double kLeastZoom = 0.5, kMostZoom = 2, kZoomStep = 0.1;
 constexpr int kHeadPadding = 6;
-/// A scroll bar's arrow, or a third of a notch of the wheel, in pixels.
+/// The distance for an arrow of a scroll bar, or for a third of a wheel notch, in pixels.
 constexpr int kScrollStep = 20;
 
 }  // namespace
@@ -35,7 +35,7 @@ SheetView::SheetView(xlsx::Workbook& book, std::weak_ptr<xlsx::SheetEntry> sheet
   InstallSheetAccessible();
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
-  setLayoutDirection(Qt::LeftToRight);  // as the sheet's columns run, whatever the language
+  setLayoutDirection(Qt::LeftToRight);  // Columns run from left to right in every language.
   viewport()->setBackgroundRole(QPalette::Base);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -85,7 +85,7 @@ void SheetView::SetZoom(double zoom) {
   zoom = std::clamp(zoom, kLeastZoom, kMostZoom);
   if (zoom == zoom_) return;
   Guarded([&] {
-    // the cell at the corner stays there
+    // The cell at the corner doesn't move.
     const QSize frozen = FrozenSize();
     const std::int32_t row = Rows().NumberAt(verticalScrollBar()->value() + frozen.height());
     const std::int32_t column = Columns().NumberAt(horizontalScrollBar()->value() + frozen.width());
@@ -111,14 +111,14 @@ void SheetView::MeasureHeads() {
   }
   const QFontMetrics metrics(font());
   headHeight_ = metrics.height() + kHeadPadding;
-  // room for the largest number on the screen
+  // Reserve space for the largest visible row number.
   const int height = viewport()->height();
   const std::int32_t last = Rows().NumberAt(verticalScrollBar()->value() + height);
   const auto digits = std::max<qsizetype>(3, QString::number(last).size());
   headWidth_ = metrics.horizontalAdvance(QLatin1Char('0')) * static_cast<int>(digits) + 2 * kHeadPadding;
 }
 
-/// The frozen rows and columns; none of them where they would fill the window.
+/// Returns the size of the frozen rows and columns. It is empty if they would fill the window.
 QSize SheetView::FrozenSize() {
   const QSize room = viewport()->size() - QSize(headWidth_, headHeight_);
   int width = Columns().EdgeOf(view_.frozenColumns + 1), height = Rows().EdgeOf(view_.frozenRows + 1);
@@ -127,7 +127,7 @@ QSize SheetView::FrozenSize() {
   return {width, height};
 }
 
-/// Where what scrolls in both directions is shown.
+/// Returns the area that scrolls in both directions.
 QRect SheetView::BodyArea() {
   const QSize frozen = FrozenSize();
   return viewport()->rect().adjusted(headWidth_ + frozen.width(), headHeight_ + frozen.height(), 0, 0);
@@ -147,7 +147,7 @@ std::vector<SheetView::Pane> SheetView::Panes() {
   return panes;
 }
 
-/// As far as anything reaches, in pixels from the sheet's corner.
+/// Returns the extent of all contents, in pixels from the sheet's corner.
 QSize SheetView::ContentSize() {
   int width = Columns().EdgeOf(used_.column2 + 1), height = Rows().EdgeOf(used_.row2 + 1);
   for (const ShownFrame& frame : frames_) {
@@ -157,8 +157,8 @@ QSize SheetView::ContentSize() {
   return {width, height};
 }
 
-/// A bar reaches over what is on the sheet, and half a window beyond the place where the window is, up to the
-/// sheet's end.
+/// The range of a scroll bar covers the contents of the sheet, and half a window beyond the current position,
+/// up to the end of the sheet.
 void SheetView::UpdateScrollBars() {
   if (!unreadable_.isEmpty()) return;
   MeasureHeads();
@@ -176,12 +176,12 @@ void SheetView::UpdateScrollBars() {
          Rows().EdgeOf(limits::kRows + 1) - frozen.height());
 }
 
-/// Scrolls so far that a place, in pixels from the sheet's corner, is seen; if it is too large, its
-/// beginning. Rows come first, since the heads beside those of more digits leave less room for the columns.
+/// Scrolls until an area (in pixels from the sheet's corner) is visible, or its beginning if it is too large.
+/// Rows come first, because row numbers with more digits leave less space for the columns.
 void SheetView::ScrollTo(const QRect& place) {
   const QSize frozen = FrozenSize();
   const auto scroll = [](QScrollBar& bar, int first, int last, int page) {
-    if (last < 0) return;  // it is frozen
+    if (last < 0) return;  // The line is frozen.
     int value = bar.value();
     if (last - page + 1 > value) value = last - page + 1;
     value = std::max(0, std::min(value, first));
@@ -220,7 +220,7 @@ QString SheetView::ActiveText() {
   return text;
 }
 
-/// The pane in which the upper left corner of a place of the sheet is shown.
+/// Returns the pane that shows the upper left corner of an area.
 const SheetView::Pane* SheetView::PaneOf(const std::vector<Pane>& panes, const QRect& place) const {
   const int right = panes.front().area.left() - headWidth_, bottom = panes.front().area.top() - headHeight_;
   const bool isLeft = place.left() < right, isAbove = place.top() < bottom;
@@ -308,7 +308,7 @@ void SheetView::wheelEvent(QWheelEvent* event) {
 void SheetView::keyPressEvent(QKeyEvent* event) {
   bool taken = false;
   Guarded([&] { taken = MoveByKey(*event); });
-  // what is no move goes on to the window, not to the scroll bars
+  // Keys that move nothing go to the window, not to the scroll bars.
   event->setAccepted(taken);
 }
 
@@ -339,7 +339,7 @@ bool SheetView::MoveByKey(QKeyEvent& event) {
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
       if (!control) TurnPage(event.key() == Qt::Key_PageDown ? 1 : -1);
-      return !control;  // with Ctrl it turns to another sheet
+      return !control;  // With Ctrl the key selects another sheet.
     case Qt::Key_0:
       if (control) SetZoom(1);
       return control;
@@ -354,7 +354,7 @@ bool SheetView::MoveByKey(QKeyEvent& event) {
 
 CellPlace SheetView::Step(int rows, int columns) {
   CellPlace cell = activeCell_;
-  // out of cells that are shown as one in one step
+  // Leave merged cells in one step.
   for (const CellRange& range : source_.MergedCells()) {
     if (cell != CellPlace{range.row1, range.column1}) continue;
     if (rows > 0) cell.row = range.row2;
@@ -365,7 +365,7 @@ CellPlace SheetView::Step(int rows, int columns) {
   return FirstOfMerged(cell);
 }
 
-/// To the end of a stretch of cells that hold something, or over empty ones to the next that does.
+/// Moves to the end of a block of cells with contents, or over empty cells to the next block.
 CellPlace SheetView::Jump(int rows, int columns) {
   const auto inside = [](const CellPlace& cell) {
     return cell.row >= 1 && cell.row <= limits::kRows && cell.column >= 1 && cell.column <= limits::kColumns;
@@ -379,7 +379,7 @@ CellPlace SheetView::Jump(int rows, int columns) {
     while (holds(next(at))) at = next(at);
     return at;
   }
-  // beyond the used cells there is nothing up to the sheet's end
+  // All cells beyond the used range are empty.
   const bool forward = rows + columns > 0;
   while (inside(next(at)) && !holds(next(at))) {
     at = next(at);

@@ -17,11 +17,11 @@
 
 namespace plotsmith::qtbook {
 
-/// A worksheet in a window, to be looked at: cells, what is drawn over them, the heads of rows and columns.
-/// It asks the host for the cells that it paints and keeps none, so that the size of a sheet costs nothing.
+/// A window that shows a worksheet, read only: cells, shapes, and row and column headings. It reads the
+/// visible cells from the host and keeps none, so the size of the sheet doesn't matter.
 ///
-/// The host's sheet has a top left cell, frozen rows and columns, and an active cell; from there on the user
-/// scrolls and moves the active cell of this window. Neither changes the workbook.
+/// The host's sheet gives the initial top left cell, the frozen rows and columns, and the active cell. Then
+/// the user scrolls and moves the active cell of this window. Neither changes the workbook.
 class SheetView : public QAbstractScrollArea, public SheetPage {
  public:
   SheetView(xlsx::Workbook& book, std::weak_ptr<xlsx::SheetEntry> sheet, QWidget* parent = nullptr);
@@ -29,29 +29,29 @@ class SheetView : public QAbstractScrollArea, public SheetPage {
   QWidget& Widget() override { return *this; }
   SheetView* Cells() override { return this; }
   void SetChartPainter(const ChartPainter& painter) override;
-  /// A cell that was made the active one in the host meanwhile becomes the active one here, and is scrolled
-  /// to.
+  /// Updates the view. If a cell was activated in the host, it becomes the active cell here, and the view
+  /// scrolls to it.
   void Refresh() override;
 
-  /// In this window; rows and columns from 1.
+  /// The active cell of this window. Rows and columns count from 1.
   xlsx::CellPlace ActiveCell() const { return activeCell_; }
-  /// Scrolls as far as it takes to see the cell.
+  /// Sets the active cell and scrolls until it is visible.
   void SetActiveCell(const xlsx::CellPlace& cell);
-  /// Called after each move of the active cell.
+  /// Sets a function that is called when the active cell changes.
   void OnActiveCell(std::function<void()> call) { onActiveCell_ = std::move(call); }
-  /// What the active cell shows; empty if the sheet can't be read.
+  /// Returns the text of the active cell. It is empty if the sheet can't be read.
   QString ActiveText();
 
-  /// Where a cell, or what is drawn on the sheet, lies in the viewport, in pixels; it may lie outside.
+  /// Returns the position of a cell or of a shape in the viewport, in pixels. It may be outside the viewport.
   ///@{
   QRect CellArea(const xlsx::CellPlace& cell);
   QRect FrameArea(const ShownFrame& frame);
   ///@}
   const std::vector<ShownFrame>& Frames() const { return frames_; }
-  /// Scrolls to the chart of the alternative text. Returns false if the sheet has none.
+  /// Scrolls to the chart with the alternative text. Returns false if the sheet doesn't have it.
   bool Reveal(const std::string& alternativeText);
 
-  /// 1 is 96 dots an inch; from 0.5 to 2.
+  /// The zoom factor, from 0.5 to 2. 1 is 96 dots per inch.
   ///@{
   double Zoom() const { return zoom_; }
   void SetZoom(double zoom);
@@ -70,15 +70,16 @@ class SheetView : public QAbstractScrollArea, public SheetPage {
   bool viewportEvent(QEvent* event) override;
 
  private:
-  /// A part of the viewport that scrolls as one: all cells, or with frozen rows and columns up to four.
+  /// A part of the viewport that scrolls as a unit: all cells, or up to four parts with frozen rows and
+  /// columns.
   struct Pane {
     QRect area;
-    QPoint origin;  ///< where the sheet's corner lies, in the viewport
+    QPoint origin;  ///< The position of the sheet's corner in the viewport.
   };
-  /// The cells that a pane shows, and what they hold.
+  /// The visible cells of a pane and their contents.
   struct PaneCells {
     std::vector<Line> rows, columns;
-    std::vector<ShownCell> cells;  ///< row by row
+    std::vector<ShownCell> cells;  ///< The cells, row by row.
     std::vector<xlsx::CellRange> merged;
 
     const ShownCell& At(std::size_t row, std::size_t column) const {
@@ -91,7 +92,7 @@ class SheetView : public QAbstractScrollArea, public SheetPage {
   SheetGrid Rows();
   SheetGrid Columns();
   double Scale() const;
-  /// Runs what reads the sheet; what goes wrong is shown instead of the sheet from then on.
+  /// Calls a function that reads the sheet. After an error, the view shows the error instead of the sheet.
   template <class Read>
   void Guarded(Read&& read) {
     if (!unreadable_.isEmpty()) return;
@@ -108,7 +109,7 @@ class SheetView : public QAbstractScrollArea, public SheetPage {
   QSize FrozenSize();
   QRect BodyArea();
   std::vector<Pane> Panes();
-  /// In pixels from the sheet's corner.
+  /// Returns the position of a shape in pixels from the sheet's corner.
   ///@{
   QRect PlaceOf(const ShownFrame& frame) const;
   QRect PlaceOf(const xlsx::CellRange& cells);
@@ -144,17 +145,17 @@ class SheetView : public QAbstractScrollArea, public SheetPage {
   xlsx::CellPlace Step(int rows, int columns);
   xlsx::CellPlace Jump(int rows, int columns);
   void TurnPage(int direction);
-  /// The cell that stands for a place: the first of cells that are shown as one.
+  /// Returns the cell at a position; for merged cells, the first one.
   xlsx::CellPlace FirstOfMerged(const xlsx::CellPlace& cell);
 
   SheetSource source_;
   FramePainter framePainter_;
   std::function<void()> onActiveCell_;
   std::vector<ShownFrame> frames_;
-  xlsx::SheetView view_;  ///< as the host has it
+  xlsx::SheetView view_;  ///< The view settings in the host.
   xlsx::CellRange used_;
   xlsx::CellPlace activeCell_{1, 1};
-  QString unreadable_;  ///< why the sheet can't be shown
+  QString unreadable_;  ///< The error that prevents showing the sheet.
   double zoom_ = 1;
   int headWidth_ = 0, headHeight_ = 0;
 };

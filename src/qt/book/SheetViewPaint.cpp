@@ -16,9 +16,9 @@ namespace limits = xlsx::limits;
 
 namespace {
 
-/// Shares of the text colour in lines, and of the highlight in heads.
+/// Shares of the text colour in lines, and of the highlight colour in headings.
 constexpr double kGridLine = 0.13, kHeadLine = 0.2, kFreezeLine = 0.45, kActiveHead = 0.35;
-/// How many columns to the left of the window are asked for a text that reaches into it.
+/// The number of columns to the left of the window that are searched for a text that extends into it.
 constexpr std::int32_t kMostSpread = 30;
 
 QRect AreaOf(const Line& row, const Line& column) { return {column.edge, row.edge, column.size, row.size}; }
@@ -34,7 +34,7 @@ bool SheetView::PaneCells::IsMerged(std::int32_t row, std::int32_t column) const
                      [&](const CellRange& range) { return Holds(range, row, column); });
 }
 
-/// Whether the text of a neighbour may go over the cell.
+/// Returns true if the text of a neighbour may extend over the cell.
 bool SheetView::PaneCells::IsFree(std::size_t row, std::size_t column) const {
   return At(row, column).IsEmpty() && !IsMerged(rows[row].number, columns[column].number);
 }
@@ -106,7 +106,7 @@ void SheetView::PaintGridLines(QPainter& painter, const Pane& pane, const PaneCe
   }
 }
 
-/// A filling covers the lines around its cell.
+/// Paints the fillings, which cover the gridlines around their cells.
 void SheetView::PaintFillings(QPainter& painter, const Pane& pane, const PaneCells& shown,
                               CellPainter& cellPainter) {
   for (std::size_t row = 0; row < shown.rows.size(); ++row) {
@@ -129,7 +129,7 @@ void SheetView::PaintTexts(QPainter& painter, const Pane& pane, const PaneCells&
   }
 }
 
-/// The text of a cell, over empty cells beside it if it is too long.
+/// Paints the text of a cell. A long text extends over empty adjacent cells.
 void SheetView::PaintText(QPainter& painter, const Pane& pane, const PaneCells& shown, std::size_t row,
                           std::size_t column, CellPainter& cellPainter) {
   const ShownCell& cell = shown.At(row, column);
@@ -142,7 +142,7 @@ void SheetView::PaintText(QPainter& painter, const Pane& pane, const PaneCells& 
   const int half = side == Qt::AlignHCenter ? (missing + 1) / 2 : missing;
   int toRight = side == Qt::AlignRight ? 0 : half, toLeft = side == Qt::AlignLeft ? 0 : half;
   const auto cover = [&](std::size_t other, int line) {
-    // the line between both cells goes, unless the other's filling has covered it
+    // Remove the gridline between both cells, unless the other cell's filling has covered it.
     if (view_.gridLines)
       painter.fillRect(line, area.top(), 1, area.height() - 1, cellPainter.Background(shown.At(row, other)));
   };
@@ -158,7 +158,7 @@ void SheetView::PaintText(QPainter& painter, const Pane& pane, const PaneCells& 
     toLeft -= shown.columns[other].size;
     area.setLeft(area.left() - shown.columns[other].size);
   }
-  // in the middle of its own cell, not of all that it may go over
+  // Centre the text in its own cell, not in all cells that it covers.
   if (side == Qt::AlignHCenter && missing > 0) {
     const QRect own = AreaOf(shown.rows[row], shown.columns[column]).translated(pane.origin);
     painter.save();
@@ -170,7 +170,7 @@ void SheetView::PaintText(QPainter& painter, const Pane& pane, const PaneCells& 
   cellPainter.Paint(painter, cell, area);
 }
 
-/// The text of a cell at the left of the pane, which goes over empty cells into it.
+/// Paints the text of a cell to the left of the pane that extends into it.
 void SheetView::PaintTextFromOutside(QPainter& painter, const Pane& pane, const PaneCells& shown,
                                      std::size_t row, CellPainter& cellPainter) {
   if (!shown.IsFree(row, 0)) return;
@@ -210,7 +210,7 @@ void SheetView::PaintMerged(QPainter& painter, const Pane& pane, const PaneCells
   }
 }
 
-/// A border lies on the line between two cells; one of several pixels reaches into both.
+/// Paints the borders, which are on the gridlines. A wide border extends into both cells.
 void SheetView::PaintBorders(QPainter& painter, const Pane& pane, const PaneCells& shown) {
   const QColor base = palette().color(QPalette::Base), text = palette().color(QPalette::Text);
   const auto paint = [&](const xlsx::BorderLine& line, int x, int y, int length, bool upright) {

@@ -5,7 +5,7 @@
 
 namespace plotsmith::qtbook {
 
-/// A text of the host, which is UTF-8.
+/// Converts a text of the host, which is UTF-8.
 inline QString ToQString(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }

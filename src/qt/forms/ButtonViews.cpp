@@ -37,7 +37,7 @@ OptionButtonView::OptionButtonView(forms::OptionButton& model, QWidget* parent, 
   Dress();
 }
 
-// Qt doesn't let go of the last option that is chosen among exclusive ones; the model does.
+// Qt doesn't deselect the last of several exclusive options, but the model can.
 void OptionButtonView::Show() {
   button_->setText(TextOf(model_.Caption()));
   button_->setAutoExclusive(false);

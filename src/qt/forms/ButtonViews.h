@@ -9,7 +9,7 @@
 
 namespace plotsmith::qt {
 
-/// A button. The one that Enter presses is drawn as the default one.
+/// The view of a button. The default button, which Enter presses, is marked.
 class CommandButtonView final : public ControlView {
  public:
   CommandButtonView(forms::CommandButton& model, QWidget* parent, const Post& post);
@@ -36,7 +36,7 @@ class CheckBoxView final : public ControlView {
   QCheckBox* box_;
 };
 
-/// An option. The arrow keys go from one option of a container to the next.
+/// The view of an option button. The arrow keys move between the options of a container.
 class OptionButtonView final : public ControlView {
  public:
   OptionButtonView(forms::OptionButton& model, QWidget* parent, const Post& post);

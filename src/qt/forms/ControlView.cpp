@@ -77,7 +77,8 @@ void ControlView::ForgetGestures() {
 }
 
 void ControlView::Update() {
-  if (waiting_ > 0) return;  // the widget is ahead of the control, as when a hand types while a page works
+  if (waiting_ > 0)
+    return;  // The widget is newer than the control, for example because the user types while a page works.
   if (model_.Changes() == shown_ && !std::exchange(touched_, false)) return;
   touched_ = false;
   shown_ = model_.Changes();
@@ -91,14 +92,14 @@ void ControlView::Update() {
   Show();
 }
 
-// The model knows three colours: that of a button's face, that of tool tips, and white for what can be
-// edited. Each is a role of the palette, so that they follow a dark theme or one of high contrast.
+// The model uses three colours: button faces, tool tips, and white for editable controls. Each becomes a role
+// of the palette, so that dark and high-contrast themes work.
 void ControlView::ShowColors() {
   QWidget& widget = Widget();
   const bool isMarked = model_.BackColor() == forms::kToolTipBackground;
   widget.setBackgroundRole(isMarked ? QPalette::ToolTipBase : QPalette::NoRole);
   widget.setForegroundRole(isMarked ? QPalette::ToolTipText : QPalette::NoRole);
-  // what is inside of a frame shows the frame's own background
+  // Controls in a frame show the frame's background.
   if (dynamic_cast<forms::Frame*>(&model_) != nullptr) widget.setAutoFillBackground(isMarked);
 }
 

@@ -9,14 +9,14 @@
 
 #include "forms/Control.h"
 
-/// Windows for forms, on Qt Widgets. A view shows the state of the model and reports what hands do. It
-/// decides nothing: the model refuses a gesture or performs it, and the view then shows what came of it.
+/// Windows for forms, made with Qt Widgets. A view shows the state of the model and reports the actions of
+/// the user. The model performs or refuses an action, and the view then shows the result.
 namespace plotsmith::qt {
 
-/// Takes a gesture down. It is performed later, outside of Qt's callbacks.
+/// Stores an action of the user, which is performed later, outside Qt's callbacks.
 using Post = std::function<void(std::function<void()> gesture)>;
 
-/// A text of the model, which is UTF-8, and back.
+/// Convert between the UTF-8 texts of the model and Qt's strings.
 ///@{
 inline QString TextOf(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -24,8 +24,8 @@ inline QString TextOf(std::string_view text) {
 inline std::string TextOf(const QString& text) { return text.toStdString(); }
 ///@}
 
-/// A widget that shows one control. The widget's object name is the control's full name. Its owner is the
-/// widget's parent.
+/// The view of a control. The object name of its widget is the control's full name. The parent of the widget
+/// owns it.
 class ControlView {
  public:
   virtual ~ControlView() = default;
@@ -34,20 +34,21 @@ class ControlView {
 
   forms::Control& Model() const { return model_; }
   virtual QWidget& Widget() = 0;
-  /// Shows the state of the control, if it has changed since the last time or a hand has touched the widget.
+  /// Shows the state of the control if it has changed since the last update or the user has changed the
+  /// widget.
   void Update();
-  /// Gestures that were reported and not performed by now never will be.
+  /// Discards the actions that were reported but not performed.
   void ForgetGestures();
 
  protected:
   ControlView(forms::Control& model, Post post) : model_(model), post_(std::move(post)) {}
 
-  /// Puts what the kind of control has of its own on the widget, without reporting that as a gesture.
+  /// Shows the properties of this kind of control on the widget, without reporting this as an action.
   virtual void Show() = 0;
-  /// Reports a gesture.
+  /// Reports an action of the user.
   void Report(std::function<void()> gesture);
-  /// Gives the widget the name, the role of the colours, and what all kinds share. Called once the widget is
-  /// made.
+  /// Sets the object name, the colour roles and the common properties of the widget. Call this after the
+  /// widget is made.
   void Dress();
 
  private:
@@ -58,14 +59,15 @@ class ControlView {
   Post post_;
   std::uint64_t shown_ = 0;
   bool touched_ = true;
-  int waiting_ = 0;  ///< gestures that were reported and not performed yet
+  int waiting_ = 0;  ///< The number of actions that were reported but not performed.
 };
 
-/// The view for a control; null for a kind that isn't seen, such as a timer.
+/// Makes the view of a control, or returns null for an invisible kind, such as a timer.
 std::unique_ptr<ControlView> MakeControlView(forms::Control& control, QWidget* parent, const Post& post);
 
-/// The font of the program, as a form or a control wants it. The model's fonts are made for a system whose
-/// own size is 8 points, so sizes are in proportion to that, and its designed typeface means the program's.
+/// Returns the program's font with the properties of a form's or control's font. The model's fonts assume a
+/// system font of 8 points, so sizes are scaled relative to that, and the designed typeface becomes the
+/// program's.
 QFont FontOf(const forms::Font& font);
 
 }  // namespace plotsmith::qt

@@ -7,8 +7,8 @@
 
 namespace plotsmith::qt {
 
-/// A list or a table in which, while nothing is selected, the first key of the cursor selects the first row.
-/// Qt takes that row for the current one as soon as the focus comes, so that the key would go past it.
+/// A list or a table in which the first cursor key selects the first row if nothing is selected. Qt makes
+/// this row the current one when the widget gets the focus, so the key would skip it.
 template <class Base>
 class FromFirstRow : public Base {
  public:

@@ -88,7 +88,7 @@ void FormWindow::SetTabOrders() {
   }
 }
 
-// A page that is larger than the screen is scrolled.
+// Makes a page that is larger than the screen scrollable.
 void FormWindow::FitScreen() {
   const QSize wanted = scroll_->widget()->sizeHint();
   const QRect available = screen()->availableGeometry();
@@ -128,7 +128,7 @@ void FormWindow::UpdateFocus() {
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
-  event->ignore();  // the form decides, and its window goes when the form goes
+  event->ignore();  // The form decides. The window closes when the form does.
   post_([this] { form_.UserClose(); });
 }
 
@@ -146,7 +146,7 @@ bool FormWindow::eventFilter(QObject* object, QEvent* event) {
     case QEvent::KeyPress:
       return TakeKey(static_cast<QWidget&>(*object), static_cast<QKeyEvent&>(*event));
     case QEvent::Wheel: {
-      // The wheel that scrolls the page must not change a box that comes below the pointer.
+      // The wheel scrolls the page and must not change a combo box below the pointer.
       const auto* box = qobject_cast<QComboBox*>(object);
       if (box == nullptr || box->hasFocus()) return false;
       event->ignore();

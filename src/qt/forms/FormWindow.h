@@ -17,22 +17,22 @@ namespace plotsmith::qt {
 /// The window of a form.
 class FormWindow final : public QWidget {
  public:
-  /// `owner` is the window that this one stays in front of; null if there is none. `presses` is shared by
-  /// all windows, and outlives them.
+  /// Makes a window. It stays in front of `owner`, which may be null. `presses` is shared by all windows and
+  /// must outlive them.
   FormWindow(forms::Form& form, QWidget* owner, Post post, forms::SecondPress& presses);
   ~FormWindow() override;
 
   forms::Form& Model() const { return form_; }
-  /// Shows the state of the form, where it has changed.
+  /// Shows the changes of the form.
   void Update();
-  /// The window is in front again. Gestures on it were dropped while it wasn't.
+  /// Called when the window is the front window again. Actions on it were discarded meanwhile.
   void ComeBack();
-  /// The widget of a control; null for a control that isn't seen.
+  /// Returns the widget of a control, or null for an invisible control.
   QWidget* WidgetOf(const forms::Control& control) const;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
-  /// Keys go to the window itself while none of its controls has the focus.
+  /// Handles keys while none of the controls has the focus.
   void keyPressEvent(QKeyEvent* event) override;
   bool eventFilter(QObject* object, QEvent* event) override;
 
@@ -41,7 +41,7 @@ class FormWindow final : public QWidget {
   void SetTabOrders();
   void FitScreen();
   void UpdateFocus();
-  /// The control whose widget this is; null for other objects.
+  /// Returns the control of a widget, or null for other objects.
   forms::Control* ControlOf(const QObject* object) const;
   bool TakeKey(const QWidget& widget, const QKeyEvent& event);
   bool IsSecondPress(const QMouseEvent& event);
@@ -51,7 +51,7 @@ class FormWindow final : public QWidget {
   forms::SecondPress& presses_;
   QScrollArea* scroll_;
   std::vector<std::unique_ptr<ControlView>> views_;
-  bool movesFocus_ = false;  ///< the focus moves because the model says so
+  bool movesFocus_ = false;  ///< Whether the model moves the focus at present.
 };
 
 }  // namespace plotsmith::qt

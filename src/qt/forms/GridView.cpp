@@ -18,8 +18,8 @@ Qt::Alignment AlignmentOf(forms::ColumnAlignment alignment) {
   return (isRight ? Qt::AlignTrailing : Qt::AlignLeading) | Qt::AlignVCenter;
 }
 
-/// Shares its width out among the columns in proportion to what the page wants, so that nothing is cut off as
-/// long as there is room.
+/// Distributes its width among the columns in proportion to the page's widths, so that nothing is cut off if
+/// there is enough space.
 class Table final : public FromFirstRow<QTableWidget> {
  public:
   using FromFirstRow::FromFirstRow;
@@ -39,7 +39,7 @@ class Table final : public FromFirstRow<QTableWidget> {
   void ShareOut() {
     const double sum = std::accumulate(shares_.begin(), shares_.end(), 0.0);
     for (int i = 0; i < columnCount(); ++i) {
-      // a page that gives no widths wants equal ones
+      // Without widths, all columns are equal.
       const double share = sum > 0 ? shares_[static_cast<std::size_t>(i)] / sum : 1.0 / columnCount();
       setColumnWidth(i, static_cast<int>(viewport()->width() * share));
     }

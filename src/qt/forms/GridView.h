@@ -7,7 +7,7 @@
 
 namespace plotsmith::qt {
 
-/// A grid, of which whole rows are selected. Fixed rows are its head.
+/// The view of a grid with row selection. The fixed rows are its header.
 class GridView final : public ControlView {
  public:
   GridView(forms::VSFlexGrid& model, QWidget* parent, const Post& post);

@@ -23,7 +23,7 @@ bool HeldKeys::eventFilter(QObject* object, QEvent* event) {
   auto& key = static_cast<QKeyEvent&>(*event);
   const bool isInLines = qobject_cast<QPlainTextEdit*>(object) != nullptr;
   if (!forms::IsHeldKey(KeyPressOf(key), isInLines)) return false;
-  key.accept();  // a shortcut that was overridden comes back as a press, which ends here too
+  key.accept();  // Qt sends an overridden shortcut again as a key press, which ends here too.
   return true;
 }
 

@@ -8,11 +8,11 @@ class QKeyEvent;
 
 namespace plotsmith::qt {
 
-/// The press that an event tells of.
+/// Returns the key press of an event.
 forms::KeyPress KeyPressOf(const QKeyEvent& event);
 
-/// Lets a key that is held down count once, where it would press one button after the other. It works on all
-/// windows of the program for as long as it lives.
+/// Ignores repetitions of a held key that would press one button after another. It affects all windows of the
+/// program while it exists.
 class HeldKeys final : public QObject {
  public:
   HeldKeys();

@@ -76,7 +76,8 @@ class Builder {
     return grid;
   }
 
-  /// The widget of a part that is a control, at its least size and with what is inside; null for others.
+  /// Returns the widget of a part that is a control, with its minimum size and its contents, or null for
+  /// other parts.
   QWidget* WidgetOf(const Layout& part) {
     if (part.kind != Layout::Kind::kControl) return nullptr;
     QWidget* const widget = widgetOf_(*part.control);
@@ -100,7 +101,7 @@ class Builder {
     const QFontMetrics metrics(widget.font());
     if (part.characters > 0) widget.setMinimumWidth(part.characters * metrics.averageCharWidth());
     if (part.lines == 0) return;
-    // a list asks for more lines than it needs, and that is what a layout would give it
+    // The size hint of a list has more lines than necessary, and a layout would use it.
     widget.setMinimumHeight(part.lines * (metrics.height() + kLineGap) + kListBorders);
     widget.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
   }

@@ -10,8 +10,8 @@ class QWidget;
 
 namespace plotsmith::qt {
 
-/// Arranges the widgets of a form by its layout. `widgetOf` gives the widget of a control. Least sizes are in
-/// characters and lines of each widget's font.
+/// Arranges the widgets of a form according to its layout. `widgetOf` returns the widget of a control.
+/// Minimum sizes are in characters and lines of the widget's font.
 QLayout* BuildLayout(const forms::Layout& layout,
                      const std::function<QWidget*(const forms::Control&)>& widgetOf);
 

@@ -33,7 +33,7 @@ ComboBoxView::ComboBoxView(forms::ComboBox& model, QWidget* parent, const Post& 
   if (model.Style() == forms::ComboStyle::kDropDownCombo) {
     box_->setEditable(true);
     box_->setInsertPolicy(QComboBox::NoInsert);
-    box_->setCompleter(nullptr);  // a text that is typed stays as it is typed
+    box_->setCompleter(nullptr);  // Typed text must not be completed.
     QObject::connect(box_->lineEdit(), &QLineEdit::textEdited, box_, [this](const QString& text) {
       Report([this, text] { model_.UserType(TextOf(OneLine(text))); });
     });
@@ -52,7 +52,7 @@ void ComboBoxView::Show() {
     box_->addItems(entries);
   }
   box_->setCurrentIndex(model_.ListIndex());
-  // on Linux, Qt tells the current entry where the name of a box belongs
+  // On Linux, Qt reports the current entry in place of the name of a combo box.
   box_->setAccessibleDescription(TextOf(model_.AccessibleName()));
   if (!box_->isEditable()) return;
   const QString text = TextOf(model_.Text());

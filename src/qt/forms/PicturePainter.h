@@ -8,7 +8,7 @@ class QPainter;
 
 namespace plotsmith::qt {
 
-/// Paints a picture as large as the area allows, in its middle, in its own proportions.
+/// Paints a picture in the middle of the area, as large as possible without distortion.
 void PaintPicture(QPainter& painter, const pictures::Picture& picture, const QRectF& area);
 
 }  // namespace plotsmith::qt

@@ -40,7 +40,7 @@ class PictureWidget final : public QWidget {
  public:
   PictureWidget(pictures::Picture picture, QWidget* parent) : QWidget(parent), picture_(std::move(picture)) {
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-    policy.setRetainSizeWhenHidden(true);  // so that a page doesn't jump when its picture changes
+    policy.setRetainSizeWhenHidden(true);  // The page must not change its size when its picture changes.
     setSizePolicy(policy);
   }
   QSize sizeHint() const override {

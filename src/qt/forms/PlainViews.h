@@ -22,7 +22,7 @@ class LabelView final : public ControlView {
   QLabel* label_;
 };
 
-/// A box with a title; the views of the controls inside are its children.
+/// The view of a frame. The views of the controls inside are its children.
 class FrameView final : public ControlView {
  public:
   FrameView(forms::Frame& model, QWidget* parent, const Post& post);
@@ -36,7 +36,7 @@ class FrameView final : public ControlView {
   QGroupBox* box_;
 };
 
-/// A sample picture, drawn by the control's name.
+/// The view of a sample picture. The control's name identifies the picture.
 class ImageView final : public ControlView {
  public:
   ImageView(forms::Image& model, QWidget* parent, const Post& post);

@@ -15,8 +15,8 @@ void QtView::Open(forms::Form& form) {
   windows_.push_back(std::make_unique<FormWindow>(form, owner_, post, presses_));
   windows_.back()->show();
   windows_.back()->activateWindow();
-  ShowChanges();  // after the new window has come, so that the screen is never without one
-  // a form may work for long before it waits, and should be seen meanwhile
+  ShowChanges();  // Hide old windows after the new one is shown, so that there is always a window.
+  // A form may work for long before it waits, and must be visible meanwhile.
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
@@ -38,7 +38,7 @@ void QtView::PostTo(forms::EventQueue& queue) {
 void QtView::Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) {
   ShowChanges();
   const QDeadlineTimer deadline = atMost ? QDeadlineTimer(*atMost) : QDeadlineTimer(QDeadlineTimer::Forever);
-  QTimer alarm;  // events are waited for without an end of the waiting
+  QTimer alarm;  // processEvents has no timeout for waiting.
   if (atMost) alarm.start(*atMost);
   waits_ = true;
   while (pending_.empty() && !closesAll_ && !deadline.hasExpired()) {
@@ -54,8 +54,8 @@ void QtView::Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseco
   PostTo(queue);
 }
 
-// The system is in the middle of its work. What hands do waits until it is over, so that nothing is looked at
-// or changed half-way; windows are painted, and answer their manager.
+// Updates windows during the work of the system. Actions of the user wait until it is over, so that they
+// don't see intermediate states. Windows are painted and answer the window manager.
 void QtView::HandleEvents(forms::EventQueue& queue) {
   ShowChanges();
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);

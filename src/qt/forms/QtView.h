@@ -10,7 +10,7 @@
 
 namespace plotsmith::qt {
 
-/// Forms as windows on the screen. Needs a QApplication.
+/// Shows forms as windows. It needs a QApplication.
 class QtView final : public forms::View {
  public:
   void Open(forms::Form& form) override;
@@ -18,22 +18,22 @@ class QtView final : public forms::View {
   void Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) override;
   void HandleEvents(forms::EventQueue& queue) override;
 
-  /// Windows stay in front of `owner` from now on; null for none.
+  /// Sets the window that the forms stay in front of; null for none.
   void SetOwner(QWidget* owner) { owner_ = owner; }
-  /// Called each time when the forms have been shown, for a window that shows something else beside them.
+  /// Called each time the forms were updated, for example to update a window beside them.
   std::function<void()> Shown = [] {};
 
-  /// Whether a form waits for hands: the system isn't in the middle of anything.
+  /// Returns true if a form waits for the user, so that the system isn't busy.
   bool IsWaiting() const { return waits_; }
-  /// The window of the form in front; null while there is none.
+  /// The front window, or null if there is none.
   FormWindow* Front() const { return windows_.empty() ? nullptr : windows_.back().get(); }
-  /// Shows what has changed.
+  /// Shows the changes.
   void ShowChanges();
-  /// Moves to the queue what hands did.
+  /// Moves the user's actions to the queue.
   void PostTo(forms::EventQueue& queue);
-  /// Closes the form that waits next, as a hand would, and those behind it.
+  /// Closes the next form that waits, as a user would, and all forms behind it.
   void CloseAll() { closesAll_ = true; }
-  /// Takes that back, for a new run.
+  /// Cancels CloseAll before a new run.
   void StayOpen() { closesAll_ = false; }
 
  private:

@@ -11,15 +11,15 @@
 namespace plotsmith::qt {
 namespace {
 
-/// What can't be typed becomes a blank.
+/// Replaces characters that can't be typed with blanks.
 void ReplaceUntypeable(QString& text, std::u16string_view allowed) {
   std::u16string units = text.toStdU16String();
   forms::ReplaceUntypeable(units, allowed);
   text = QString::fromStdU16String(units);
 }
 
-/// The text with a line end for each kind of line end that the box has. QPlainTextEdit::toPlainText would
-/// turn no-break spaces into blanks.
+/// Returns the text with a line end for each kind of line end in the box. QPlainTextEdit::toPlainText would
+/// convert no-break spaces to blanks.
 QString LinesIn(const QPlainTextEdit& edit) {
   QString text = edit.document()->toRawText();
   return text.replace(QChar::ParagraphSeparator, QLatin1Char('\n'))
@@ -86,7 +86,7 @@ class LinesView final : public ControlView {
   }
 
  private:
-  /// How many UTF-16 units the text has too many, where a line end counts as the two that the model has.
+  /// Returns the number of UTF-16 units beyond the limit. A line end counts as two units, as in the model.
   qsizetype TooMany() const {
     const auto most = static_cast<qsizetype>(model_.MaxLength());
     if (most == 0) return 0;
@@ -94,12 +94,13 @@ class LinesView final : public ControlView {
     return text.size() + text.count(QLatin1Char('\n')) - most;
   }
 
-  /// Takes away what was typed or pasted last and has no room.
+  /// Removes the part of the last input that exceeds the limit.
   void CutOff() {
     if (TooMany() > 0) QApplication::beep();
     QTextCursor cursor = edit_->textCursor();
     for (qsizetype over = TooMany(); over > 0 && !cursor.atStart(); over = TooMany()) {
-      const qsizetype units = std::max<qsizetype>(over / 2, 1);  // at worst, all of them are line ends
+      const qsizetype units =
+          std::max<qsizetype>(over / 2, 1);  // In the worst case, all of them are line ends.
       int from = std::max(cursor.position() - static_cast<int>(units), 0);
       if (edit_->document()->characterAt(from).isLowSurrogate()) --from;
       cursor.setPosition(from, QTextCursor::KeepAnchor);

@@ -7,11 +7,10 @@
 
 namespace plotsmith::qt {
 
-/// A box for one line, or for several ones.
+/// Makes the view of a text box with one line or with several lines.
 std::unique_ptr<ControlView> MakeTextBoxView(forms::TextBox& model, QWidget* parent, const Post& post);
 
-/// The text as a box for one line takes it. A line break that was pasted, or a character that can't be typed,
-/// becomes a blank.
+/// Returns the text for a single-line box. Line breaks and characters that can't be typed become blanks.
 QString OneLine(QString text);
 
 }  // namespace plotsmith::qt

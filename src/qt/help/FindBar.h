@@ -8,16 +8,16 @@ class QTextBrowser;
 
 namespace plotsmith::qt {
 
-/// Searches the page of a browser for a text, without regard to capitals, and goes on at the other end of the
-/// page. It hides when it isn't used.
+/// A bar that searches the page of a browser for a text, ignoring case. The search continues at the other end
+/// of the page. The bar is hidden when it isn't used.
 class FindBar final : public QWidget {
  public:
-  /// `browser` outlives the bar.
+  /// Makes a bar. `browser` must outlive it.
   explicit FindBar(QTextBrowser& browser, QWidget* parent = nullptr);
 
-  /// Shows the bar with its text selected, ready to be typed over.
+  /// Shows the bar and selects its text.
   void Open();
-  /// Hides the bar and gives the focus back to the page.
+  /// Hides the bar and returns the focus to the page.
   void Close();
   void FindNext();
   void FindPrevious();
@@ -26,9 +26,10 @@ class FindBar final : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  /// Selects the next place of the text from the cursor on. An empty text finds nothing and says nothing.
+  /// Selects the next occurrence of the text after the cursor. An empty text finds nothing and shows no
+  /// message.
   void Find(bool backward);
-  /// Searches anew from where the last find began, while the text is being typed.
+  /// Repeats the search from the start of the last one, while the user types.
   void FindTyped();
 
   QTextBrowser& browser_;

@@ -13,7 +13,7 @@ namespace {
 constexpr const char* kUnknownTopicScheme = "unknown-topic";
 constexpr const char* kFirstPage = "index.html";
 
-/// The path of a file or of a resource.
+/// Returns the path of a file or of a resource.
 QString PathOf(const QUrl& address) {
   return address.scheme() == "qrc" ? ":" + address.path() : address.toLocalFile();
 }
@@ -52,7 +52,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
                       ".");
 }
 
-// The color of links is fixed when a page is read.
+// Loads the page again, because the colour of links is fixed when a page is loaded.
 void HelpBrowser::changeEvent(QEvent* event) {
   QTextBrowser::changeEvent(event);
   if (event->type() != QEvent::PaletteChange || source().isEmpty()) return;

@@ -5,14 +5,14 @@
 
 namespace plotsmith::qt {
 
-/// Shows the pages of the help from one folder. Where a page isn't there it shows a sentence that says so.
+/// Shows the help pages of a folder. If a page doesn't exist, it shows a message.
 class HelpBrowser final : public QTextBrowser {
  public:
   explicit HelpBrowser(QString folder, QWidget* parent = nullptr);
 
-  /// The address of a file of the folder.
+  /// Returns the address of a file in the folder.
   QUrl AddressOf(const QString& file) const;
-  /// The address of a sentence which says that there is no topic of this number.
+  /// Returns the address of a message that says that there is no topic with this number.
   static QUrl AddressOfUnknownTopic(std::int32_t number);
 
  protected:
@@ -20,7 +20,7 @@ class HelpBrowser final : public QTextBrowser {
   void changeEvent(QEvent* event) override;
 
  private:
-  /// A page with one sentence, and a link to the first page of the help if there is one.
+  /// Returns a page with one sentence, and with a link to the first page of the help if it exists.
   QString SentencePage(const QString& sentence) const;
 
   QString folder_;

@@ -9,7 +9,7 @@ std::vector<HelpTopic> ReadHelpTopics(const QString& folder) {
   std::vector<HelpTopic> topics;
   QFile table(folder + "/topics.tsv");
   if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) return topics;
-  table.readLine();  // the heads of the columns
+  table.readLine();  // Skip the column headings.
   while (!table.atEnd()) {
     const QStringList fields = QString::fromUtf8(table.readLine()).remove('\n').split('\t');
     if (fields.size() != 3) continue;

@@ -7,15 +7,16 @@
 
 namespace plotsmith::qt {
 
-/// A page of the help, by its row in topics.tsv.
+/// A help page, from its row in topics.tsv.
 struct HelpTopic {
-  std::optional<std::int32_t> number;  ///< that a page of the wizard opens; absent for all other pages
-  QString file;                        ///< "topic1-select-action.html"
+  std::optional<std::int32_t>
+      number;    ///< The number with which a page of the wizard opens it; absent for other pages.
+  QString file;  ///< The file name, such as "topic1-select-action.html".
   QString title;
 };
 
-/// The pages of the help in a folder, in the order in which they are read. The first one lists all others.
-/// Empty if the folder has no topics.tsv.
+/// Reads the list of help pages in a folder, in reading order. The first page lists all others. The list is
+/// empty if the folder has no topics.tsv.
 std::vector<HelpTopic> ReadHelpTopics(const QString& folder);
 
 }  // namespace plotsmith::qt

@@ -18,7 +18,7 @@ namespace {
 
 constexpr const char* kTitle = "Plotsmith Help";
 constexpr const char* kFirstPage = "index.html";
-constexpr int kWidth = 1080, kHeight = 760, kListWidth = 230;  // pixels at scale 1
+constexpr int kWidth = 1080, kHeight = 760, kListWidth = 230;  // In pixels at scale 1.
 
 }  // namespace
 
@@ -110,7 +110,7 @@ void HelpWindow::MakeActions() {
   bar->setObjectName("helpBar");
   bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   bar->setMovable(false);
-  bar->setContextMenuPolicy(Qt::PreventContextMenu);  // a hidden bar couldn't be had back
+  bar->setContextMenuPolicy(Qt::PreventContextMenu);  // A hidden toolbar couldn't be shown again.
   bar->addActions({back, forward, home, topics, find});
 }
 

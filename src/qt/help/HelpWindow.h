@@ -16,21 +16,20 @@ namespace plotsmith::qt {
 class FindBar;
 class HelpBrowser;
 
-/// The help that is built into the program.
+/// The folder of the help that is built into the program.
 inline constexpr const char* kBuiltInHelp = ":/docs/help";
 
-/// The window of the help: the page that is read, a list of all topics, the way back and forward, and a
-/// search in the page. It is not modal and blocks no other window; closing it only hides it, and the program
-/// goes on to run without it. Needs a QApplication.
+/// The help window: a page, a list of all topics, navigation back and forward, and a search in the page. It
+/// isn't modal. Closing it only hides it. It needs a QApplication.
 class HelpWindow final : public QMainWindow {
  public:
-  /// `folder` has topics.tsv and the pages that it lists.
+  /// Makes a window. `folder` contains topics.tsv and the pages that it lists.
   explicit HelpWindow(const QString& folder = kBuiltInHelp, QWidget* parent = nullptr);
 
-  /// Brings the window to the front with the topic that a page of the wizard asks for. If there is none, a
-  /// sentence in the window says so.
+  /// Shows the window with a topic that a page of the wizard requests. If the topic doesn't exist, the window
+  /// shows a message.
   void ShowTopic(std::int32_t number);
-  /// Brings the window to the front with the first page, which lists all others.
+  /// Shows the window with the first page, which lists all others.
   void ShowFirstPage();
 
  private:
@@ -39,7 +38,7 @@ class HelpWindow final : public QMainWindow {
   void FillTopics();
   void ShowFile(const QString& file);
   void BringToFront();
-  /// Another page is read: the title and the entry of the list follow.
+  /// Updates the title and the selected topic after a change of the page.
   void PageChanged(const QUrl& address);
 
   std::vector<HelpTopic> topics_;

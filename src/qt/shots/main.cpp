@@ -11,9 +11,9 @@
 #include "qt/forms/QtView.h"
 
 /// @file
-/// Takes pictures of the wizard's pages for the documents: plotsmith_wizard_shots BOOK FOLDER SUFFIX LOOK <
-/// SCRIPT. A script has one line more here, "shot NAME", which writes FOLDER/NAME + SUFFIX.png; the busy
-/// window is taken when it comes. LOOK is light or dark.
+/// Takes pictures of the wizard's pages for the documentation: plotsmith_wizard_shots BOOK FOLDER SUFFIX LOOK
+/// < SCRIPT. Scripts can contain the line "shot NAME", which writes FOLDER/NAME + SUFFIX.png. The busy window
+/// is taken when it appears. LOOK is light or dark.
 namespace plotsmith {
 namespace {
 
@@ -26,7 +26,7 @@ QPalette DarkPalette() {
   return palette;
 }
 
-/// The lines of the standard input; a line "shot" is taken out and done at once.
+/// The lines of standard input. A line "shot" is removed and executed at once.
 class ShotLines final : public forms::LineSource {
  public:
   ShotLines(qt::QtView& windows, QString folder, QString suffix)
@@ -51,7 +51,7 @@ class ShotLines final : public forms::LineSource {
   QString folder_, suffix_;
 };
 
-/// Windows that a script plays on, without a hand of their own.
+/// The windows of a script, without user input.
 class Stage final : public forms::View {
  public:
   Stage(qt::QtView& windows, ShotLines& lines, std::shared_ptr<forms::ScriptPlayer> player)
@@ -59,7 +59,7 @@ class Stage final : public forms::View {
   void Open(forms::Form& form) override {
     player_->Open(form);
     windows_.Open(form);
-    if (form.Name() == kBusyWindow) lines_.Take(kBusyWindow);  // it waits for no line
+    if (form.Name() == kBusyWindow) lines_.Take(kBusyWindow);  // The busy window doesn't wait for a line.
   }
   void Close(forms::Form& form) override {
     windows_.Close(form);

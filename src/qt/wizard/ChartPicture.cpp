@@ -16,7 +16,7 @@
 namespace plotsmith::qt {
 namespace {
 
-/// Null where it isn't installed.
+/// Returns the painter, or null if it isn't installed.
 const render::Painter* FindPainter() {
   static const render::Painter* const painter = []() -> const render::Painter* {
     try {
@@ -39,7 +39,7 @@ QImage ImageOf(const render::Raster& pixels) {
   return image;
 }
 
-/// Null for a chart of another host.
+/// Returns the embedded host's chart, or null for a chart of another host.
 const xlsx::Chart* HeldChart(const excel::Ref<excel::Chart>& chart) {
   return dynamic_cast<const xlsx::Chart*>(chart.shared().get());
 }
@@ -53,7 +53,7 @@ std::optional<QImage> PictureOf(const excel::Ref<excel::Chart>& chart, const QSi
   try {
     return held->Part().Book().Viewed([&] {
       const double width = held->Size().width, scale = pixels.width() / width;
-      render::Notes ignored;  // a window has no place to say what isn't drawn
+      render::Notes ignored;  // The window can't show what isn't drawn.
       return ImageOf(painter->Rasterize(
           render::DrawChart(held->Part(), width, pixels.height() / scale, painter->Measure(), ignored),
           scale));
@@ -61,7 +61,7 @@ std::optional<QImage> PictureOf(const excel::Ref<excel::Chart>& chart, const QSi
   } catch (const runtime::RuntimeError&) {
     return std::nullopt;
   } catch (const std::length_error&) {
-    return std::nullopt;  // too many pixels for any screen
+    return std::nullopt;  // The picture is too large for any screen.
   }
 }
 

@@ -8,15 +8,16 @@
 
 namespace plotsmith::qt {
 
-/// Draws charts as `plotsmith render` does. Where the part of Plotsmith that draws isn't installed, charts
-/// stay frames, and stderr says why, once.
+/// Returns a function that draws charts like `plotsmith render`. If the render module isn't installed, charts
+/// stay frames, and stderr reports the reason once.
 qtbook::ChartPainter MakeChartPainter();
 
-/// A chart of the embedded host as a picture of exactly so many pixels of the screen; its texts and lines are
-/// as large as the width tells. Absent for a chart that can't be read, and where nothing can be drawn.
+/// Returns the picture of a chart with exactly `size` screen pixels. Texts and lines are scaled with the
+/// width. Returns nothing if the chart can't be read or drawn.
 std::optional<QImage> PictureOf(const excel::Ref<excel::Chart>& chart, const QSize& pixels);
 
-/// The largest size with a chart's proportions that has room in `room`; empty where there is no such chart.
+/// Returns the largest size with the chart's proportions that fits into `room`, or an empty size if there is
+/// no chart.
 QSize FittingSize(const excel::Ref<excel::Chart>& chart, const QSize& room);
 
 }  // namespace plotsmith::qt

@@ -8,14 +8,14 @@
 
 namespace plotsmith::qt {
 
-/// Lets windows work until `isDone` holds. No loop of Qt's own is left running, so an exception of the system
-/// never has to pass through one.
+/// Processes events until `isDone` returns true. No loop of Qt is running meanwhile, so no exception of the
+/// system passes through one.
 template <class Condition>
 void ProcessEventsUntil(const Condition& isDone) {
   while (!isDone()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-/// Shows a dialog, which blocks the other windows, and waits until it has gone; answers its result.
+/// Shows a modal dialog, waits until it is closed, and returns its result.
 inline int RunDialog(QDialog& dialog) {
   dialog.setModal(true);
   dialog.show();

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kPause = 150;  // milliseconds
 
-/// What a person has put into a control.
+/// Returns the user's input in a control.
 std::string InputOf(const forms::Control& control) {
   if (const auto* text = dynamic_cast<const forms::TextBox*>(&control)) return text->Text();
   if (const auto* combo = dynamic_cast<const forms::ComboBox*>(&control)) return combo->Text();
@@ -76,7 +76,7 @@ void LivePreview::Look() {
 void LivePreview::Begin() {
   LayoutPage* const page = Page();
   if (page == nullptr) return;
-  // the work of a page, or a message in front of it, comes first
+  // The page is busy or shows a message, so wait.
   if (!pages_.IsWaiting()) return pause_.start();
   window_.ShowBeside(*pages_.Front());
   if (!window_.isVisible()) return;

@@ -11,16 +11,16 @@
 
 namespace plotsmith::qt {
 
-/// Shows, beside each layout page, the chart that Finish would build of it from the real data. Each change on
-/// the page begins a new preview, and ends the one that is being made.
+/// Shows beside each layout page the chart that Finish would build from the data. Each change on the page
+/// cancels the current preview and starts a new one.
 class LivePreview {
  public:
-  /// `owner` is the window that the preview stays in front of.
+  /// Makes a preview. Its window stays in front of `owner`.
   LivePreview(QtView& pages, std::shared_ptr<xlsx::Application> host, QWidget* owner);
 
-  /// To be called when the pages may have changed.
+  /// Checks for changes. Call this when the pages may have changed.
   void Look();
-  /// A new run begins: a window that was closed comes back.
+  /// Begins a new run. A preview window that the user has closed is shown again.
   void Restart();
   const PreviewWindow& Window() const { return window_; }
 
@@ -33,8 +33,8 @@ class LivePreview {
   std::shared_ptr<xlsx::Application> host_;
   PreviewWindow window_;
   PreviewWorker worker_;
-  QTimer pause_;      ///< hands that are in the middle of something don't want each step of it
-  std::string seen_;  ///< what the page had when it was last looked at
+  QTimer pause_;      ///< Delays the preview while the user is still typing.
+  std::string seen_;  ///< The state of the page at the last check.
 };
 
 }  // namespace plotsmith::qt

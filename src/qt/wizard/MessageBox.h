@@ -5,8 +5,8 @@
 
 namespace plotsmith::qt {
 
-/// Shows a text in a window of its own in front of `owner`, which may be null, and waits for the answer. The
-/// text is shown as it is, without any markup. An empty title means the product's.
+/// Shows a message box in front of `owner`, which may be null, and waits for the answer. The text is plain
+/// text. An empty title means the product's title.
 QMessageBox::StandardButton ShowMessageBox(QWidget* owner, QMessageBox::Icon icon, const QString& text,
                                            QMessageBox::StandardButtons buttons = QMessageBox::Ok,
                                            QMessageBox::StandardButton defaultButton = QMessageBox::Ok,

@@ -17,7 +17,7 @@ namespace {
 
 constexpr const char* kFinishButton = "cmdFinish";
 
-/// A message without the title of its box.
+/// Returns a message without the title of its box.
 std::string TextOfMessage(const std::string& line) {
   const std::string title = std::string(kProductTitle) + ": ";
   return line.starts_with(title) ? line.substr(title.size()) : line;

@@ -10,15 +10,15 @@
 
 namespace plotsmith::qt {
 
-/// What a page would make of the chart.
+/// The preview of a chart.
 struct Preview {
-  QImage picture;       ///< null where no chart comes of it
-  std::string message;  ///< what the page, or the build, has to say; empty for nothing
+  QImage picture;       ///< The picture; null if no chart can be built.
+  std::string message;  ///< The messages of the page or of the build; may be empty.
 };
 
-/// Presses the page's button Finish and draws the chart that comes of it, with as many pixels as have room in
-/// `room`. The workbook, the system and the forms of this process are changed by that, and can't be used any
-/// more: it is for a process that ends then.
+/// Presses the page's Finish button and draws the resulting chart, as large as `room` allows. This changes
+/// the workbook, the system and the forms of this process, so that they can't be used any more. Call it only
+/// in a process that ends afterwards.
 Preview RunPreview(LayoutPage& page, const std::shared_ptr<xlsx::Application>& host, const QSize& room);
 
 }  // namespace plotsmith::qt

@@ -18,7 +18,7 @@ constexpr int kGap = 12, kMargin = 8;
 constexpr double kDimmed = 0.35;
 constexpr int kTextFlags = Qt::AlignCenter | Qt::TextWordWrap;
 
-/// The part of the screen to the right of a page, to its left, below and above, in this order.
+/// Returns the parts of the screen to the right of a page, to its left, below it and above it.
 std::array<QRect, 4> SidesOf(const QRect& page, const QRect& screen) {
   const QRect around = page.adjusted(-kGap, -kGap, kGap, kGap);
   return {QRect(QPoint(around.right(), screen.top()), screen.bottomRight()),
@@ -108,7 +108,7 @@ void PreviewWindow::paintEvent(QPaintEvent*) {
 }
 
 void PreviewWindow::resizeEvent(QResizeEvent* event) {
-  if (event->oldSize().isValid()) Resized();  // else the window has only come
+  if (event->oldSize().isValid()) Resized();  // Otherwise the window was just shown.
 }
 
 void PreviewWindow::closeEvent(QCloseEvent* event) {

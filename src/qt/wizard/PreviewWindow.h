@@ -8,27 +8,27 @@
 
 namespace plotsmith::qt {
 
-/// The window that shows a preview beside a page. It takes no focus. Once a person has closed it, it stays
+/// The window with the preview beside a page. It never gets the focus. After the user has closed it, it stays
 /// closed until Reopen.
 class PreviewWindow final : public QWidget {
  public:
-  /// Stays in front of `owner`.
+  /// Makes a window that stays in front of `owner`.
   explicit PreviewWindow(QWidget* owner);
 
-  /// Comes up beside a page, on the side that has room for it; stays away where none has.
+  /// Shows the window beside a page, on the side with enough space. It is hidden if neither side has enough.
   void ShowBeside(const QWidget& page);
   void Reopen() { closed_ = false; }
   bool WasClosed() const { return closed_; }
 
-  /// The room for a picture, in pixels of the screen.
+  /// The available size for the picture in screen pixels.
   QSize Room() const;
-  /// Without a picture in it, the last one stays, dimmed.
+  /// Shows a preview. If it has no picture, the last picture stays and is dimmed.
   void Show(Preview preview);
-  /// Forgets what is shown.
+  /// Removes the picture and the message.
   void Clear();
   const Preview& Shown() const { return shown_; }
 
-  /// The room has changed.
+  /// Called when the available size has changed.
   std::function<void()> Resized = [] {};
 
  protected:
@@ -37,12 +37,12 @@ class PreviewWindow final : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  /// Moves the window to the side of the page with the most room; false if none has enough.
+  /// Moves the window to the side of the page with more space. Returns false if there isn't enough.
   bool PlaceBeside(const QRect& page, const QRect& screen);
   int MessageHeight(const QString& message) const;
 
   Preview shown_;
-  bool outdated_ = false;  ///< the picture is of an earlier state of the page
+  bool outdated_ = false;  ///< Whether the picture shows an earlier state of the page.
   bool closed_ = false;
   bool placed_ = false;
 };

@@ -10,13 +10,13 @@
 
 namespace plotsmith::qt {
 
-/// Works out a preview in a process of its own, a copy of this one, so that nothing of the work is seen here
-/// and the hands never wait for it. One at a time.
+/// Makes a preview in a copy of this process, so that it doesn't change this process and the user doesn't
+/// have to wait. There is one preview at a time.
 class PreviewWorker {
  public:
-  /// Makes the preview, in the other process.
+  /// A function that makes the preview in the other process.
   using Work = std::function<Preview()>;
-  /// Is called with the result, while events are handled. Not after Stop.
+  /// A function that gets the result while events are processed. It isn't called after Stop.
   using Done = std::function<void(Preview)>;
 
   explicit PreviewWorker(Done done);
@@ -24,25 +24,25 @@ class PreviewWorker {
   PreviewWorker(const PreviewWorker&) = delete;
   PreviewWorker& operator=(const PreviewWorker&) = delete;
 
-  /// Whether the operating system can copy a process.
+  /// Returns true if the operating system can copy a process.
   static bool IsPossible();
-  /// Begins, after what was going on has been stopped. Returns false if no process can be started.
+  /// Stops the current preview and starts a new one. Returns false if no process can be started.
   bool Start(const Work& work);
-  /// Ends the process, if there is one.
+  /// Stops the current preview, if there is one.
   void Stop();
   bool IsRunning() const { return process_ > 0; }
 
  private:
   void Read();
-  /// Takes leave of processes that have ended.
+  /// Collects processes that have ended.
   void Reap();
 
   Done done_;
   std::unique_ptr<QSocketNotifier> notifier_;
-  QByteArray bytes_;  ///< of the result, as far as it has come
-  int process_ = 0;   ///< 0 for none
+  QByteArray bytes_;  ///< The received part of the result.
+  int process_ = 0;   ///< The process; 0 for none.
   int pipe_ = -1;
-  std::vector<int> killed_;  ///< processes that were told to end, and may take a moment for it
+  std::vector<int> killed_;  ///< Processes that were killed but not collected yet.
 };
 
 }  // namespace plotsmith::qt

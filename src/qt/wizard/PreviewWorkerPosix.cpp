@@ -14,9 +14,9 @@
 namespace plotsmith::qt {
 namespace {
 
-/// After so many seconds a preview isn't worth waiting for.
+/// The maximum time of a preview in seconds.
 constexpr unsigned kLongest = 30;
-/// Hands go before previews.
+/// Previews have a lower priority than the user's input.
 constexpr int kNiceness = 10;
 
 QByteArray Packed(const Preview& preview) {
@@ -29,7 +29,7 @@ QByteArray Packed(const Preview& preview) {
   return bytes;
 }
 
-/// Absent for bytes that don't hold a whole preview, as of a process that has died.
+/// Returns nothing if the bytes aren't a complete preview, for example because the process died.
 std::optional<Preview> Unpacked(const QByteArray& bytes) {
   QDataStream stream(bytes);
   QByteArray message, pixels;
@@ -54,15 +54,15 @@ void WriteAll(int file, const QByteArray& bytes) {
   }
 }
 
-/// What the copy of the process does. It leaves without the destructors and the buffers of its model: windows
-/// and files belong to that.
+/// The main function of the copied process. It ends without destructors and without flushing buffers, because
+/// windows and files belong to the original process.
 [[noreturn]] void WorkInCopy(const PreviewWorker::Work& work, int output) {
   alarm(kLongest);
-  if (nice(kNiceness) == -1) errno = 0;  // then it is as fast as the others
+  if (nice(kNiceness) == -1) errno = 0;  // It then has normal priority.
   try {
     WriteAll(output, Packed(work()));
   } catch (const std::exception&) {
-    // without a result, the last preview stays
+    // Without a result, the last preview stays.
   }
   _exit(0);
 }
@@ -99,7 +99,7 @@ bool PreviewWorker::Start(const Work& work) {
 
 void PreviewWorker::Stop() {
   if (!IsRunning()) return;
-  // not deleted at once, as it may be the one that has called
+  // The notifier may be the caller, so don't delete it at once.
   notifier_->setEnabled(false);
   notifier_.release()->deleteLater();
   close(std::exchange(pipe_, -1));
@@ -125,7 +125,7 @@ void PreviewWorker::Read() {
       if (auto preview = Unpacked(bytes)) done_(std::move(*preview));
       return;
     } else if (errno != EINTR) {
-      return;  // the rest is still to come
+      return;  // More data will arrive.
     }
   }
 }

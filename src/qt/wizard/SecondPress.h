@@ -8,10 +8,10 @@ class QWidget;
 
 namespace plotsmith::qt {
 
-/// Keeps the second half of a double click away from buttons that have come up below the pointer meanwhile.
+/// Ignores the second press of a double click on buttons that have appeared below the pointer.
 class SecondPress final : public QObject {
  public:
-  /// Watches all buttons inside of `window`, which has just come, and belongs to it.
+  /// Watches all buttons in `window`, which has just been shown and owns this object.
   explicit SecondPress(QWidget& window);
 
  protected:
@@ -19,7 +19,7 @@ class SecondPress final : public QObject {
 
  private:
   QElapsedTimer sinceShown_;
-  QPoint pointer_;  ///< where it was when the window came
+  QPoint pointer_;  ///< The position of the pointer when the window was shown.
 };
 
 }  // namespace plotsmith::qt

@@ -39,7 +39,7 @@ std::int32_t WizardDesktop::MsgBox(std::string_view text, desktop::Buttons butto
 }
 
 double WizardDesktop::Timer() {
-  // A tick of the busy window asks for the time as well.
+  // A tick of the busy window also requests the time.
   if (!yields_ && (!sinceYield_.isValid() || sinceYield_.hasExpired(kYieldInterval))) {
     const QScopedValueRollback<bool> yields(yields_, true);
     App.Forms->DoEvents();

@@ -11,29 +11,29 @@ namespace plotsmith::qt {
 
 class HelpWindow;
 
-/// The desktop of a person: message boxes are windows, and help is a window too.
+/// A desktop with windows for message boxes and help.
 class WizardDesktop final : public cli::ConsoleDesktop {
  public:
   explicit WizardDesktop(std::shared_ptr<QtView> pages);
   ~WizardDesktop() override;
 
-  /// In front of the page that is open.
+  /// Shows a message box in front of the open page.
   std::int32_t MsgBox(std::string_view text, desktop::Buttons buttons, desktop::Icon icon,
                       std::string_view title) override;
-  /// The help is the program's own, so `file` isn't asked for.
+  /// Shows a topic of the built-in help. `file` isn't used.
   void ShowHelp(std::intptr_t owner, const std::string& file, std::int32_t topic) override;
-  /// The system asks for the time in the middle of its work, wherever it could yield. Often enough for a
-  /// person, but no more often, windows may work then.
+  /// Returns the time. The system calls this during its work wherever it could yield, so windows are updated
+  /// here from time to time.
   double Timer() override;
   void SetMousePointer(std::int32_t pointer) override;
 
-  /// The window that messages stay in front of while no page is open; null for none.
+  /// Sets the window that messages stay in front of if no page is open; null for none.
   void SetOwner(QWidget* owner) { owner_ = owner; }
-  /// Whether a question was answered with OK since the last call of Forget. The system has one question only,
-  /// which precedes a deletion.
+  /// Returns true if a question was answered with OK since the last Forget. The system's only question is the
+  /// confirmation of a deletion.
   bool Confirmed() const { return confirmed_; }
   void Forget() { confirmed_ = false; }
-  /// The window of the help, which is made when it is first asked for.
+  /// The help window, which is made at the first call.
   HelpWindow& Help();
 
  private:

@@ -14,7 +14,7 @@
 namespace plotsmith::qt {
 namespace {
 
-constexpr const char* kLinePrefix = "plotsmith: ";  ///< in front of each line of the session
+constexpr const char* kLinePrefix = "plotsmith: ";  ///< The beginning of each line of the session.
 constexpr const char* kWorkbooks = "Workbooks (*.xlsx *.xlsm)";
 
 }  // namespace
@@ -150,7 +150,7 @@ std::optional<WizardProgram::Next> WizardProgram::SaveAs() {
   QFileDialog dialog(window_.get(), QStringLiteral("Save As"), Target(), QString::fromLatin1(kWorkbooks));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QFileInfo(TextOf(options_.book)).suffix());
-  dialog.setOption(QFileDialog::DontConfirmOverwrite);  // Qt would ask in a loop of its own
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);  // Qt would ask in its own event loop.
   do {
     if (RunDialog(dialog) != QDialog::Accepted) return std::nullopt;
   } while (!MayReplace(dialog.selectedFiles().front()));

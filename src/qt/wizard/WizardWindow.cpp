@@ -56,7 +56,7 @@ void WizardWindow::ShowBar(const QString& text, const QStringList& buttons) {
   for (int i = 0; i < buttons.size(); ++i) {
     auto* const button = new QPushButton(buttons[i], bar_);
     button->setObjectName(QStringLiteral("btn%1").arg(i));
-    button->setAutoDefault(true);  // Enter presses the button of the focus
+    button->setAutoDefault(true);  // Enter presses the button with the focus.
     connect(button, &QPushButton::clicked, this, [this, i] {
       answer_ = i;
       answered_ = true;

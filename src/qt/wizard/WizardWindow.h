@@ -18,25 +18,25 @@ namespace plotsmith::qt {
 
 class SecondPress;
 
-/// The window behind the pages: the workbook, and above it, once a run is over, a line that says what came of
-/// it and asks what is to be done.
+/// The window behind the pages. It shows the workbook and, after a run, a bar with the result and the next
+/// actions.
 class WizardWindow final : public QMainWindow {
  public:
-  /// `name` is that of the workbook's file.
+  /// Makes a window. `name` is the name of the workbook's file.
   WizardWindow(std::shared_ptr<xlsx::Application> host, const QString& name);
 
-  /// The name of the workbook's file, which the title shows.
+  /// Sets the name of the workbook's file, which the title shows.
   void SetBookName(const QString& name);
   qtbook::BookView& Book() { return *book_; }
-  /// What Ask answers where the window was closed instead.
+  /// The result of Ask if the window was closed.
   static constexpr int kClosed = -1;
-  /// Shows a line with buttons, and waits until one is pressed: its place in `buttons`, from 0. The first one
-  /// is the default. The buttons are named btn0, btn1 and so on.
+  /// Shows a bar with buttons and waits until one is pressed. Returns its index in `buttons`, from 0. The
+  /// first button is the default. The buttons have the object names btn0, btn1 and so on.
   int Ask(const QString& text, const QStringList& buttons);
 
-  /// The window is to be closed while a page is open.
+  /// Called when the user closes the window while a page is open.
   std::function<void()> CloseAsked = [] {};
-  /// F1 in this window.
+  /// Called when the user presses F1 in this window.
   std::function<void()> HelpAsked = [] {};
 
  protected:

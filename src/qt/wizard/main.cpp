@@ -12,7 +12,7 @@ namespace {
 
 using plotsmith::qt::TextOf;
 
-/// The workbook that a person picks who started the program without one; empty if none.
+/// Asks the user for a workbook if the program was started without one. Returns "" if none is selected.
 std::string PickBook() {
   QFileDialog dialog(nullptr, QStringLiteral("Open a workbook"), QString(),
                      QStringLiteral("Workbooks (*.xlsx *.xlsm)"));
@@ -21,7 +21,8 @@ std::string PickBook() {
   return TextOf(dialog.selectedFiles().front());
 }
 
-/// Without a screen, Qt would end the program with a report of a crash instead of a sentence.
+/// Returns true if there is a screen. Without one, Qt would end the program like a crash instead of printing
+/// a message.
 bool HasScreen() {
   return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
          qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
@@ -41,7 +42,7 @@ void Declare(CLI::App& app, plotsmith::qt::WizardOptions& options) {
   app.set_version_flag("-V,--version", std::string("plotsmith-wizard ") + PLOTSMITH_VERSION);
 }
 
-/// Opens the workbook, for which the person is asked where the command line names none.
+/// Opens the workbook. If the command line names none, the user is asked for it.
 int Run(plotsmith::qt::WizardOptions options) {
   namespace cli = plotsmith::cli;
   if (options.book.empty()) options.book = PickBook();

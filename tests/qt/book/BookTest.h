@@ -11,7 +11,7 @@
 
 namespace plotsmith::test {
 
-/// A test of the window on the workbook, over the workbook that the host has open.
+/// A test of the workbook window with the host's open workbook.
 class BookTest : public HostTest {
  protected:
   /// Shows the open workbook in a window of 800 by 600 pixels.
@@ -21,19 +21,19 @@ class BookTest : public HostTest {
     return Show();
   }
   qtbook::SheetView& Sheet() { return *view_->ShownSheet(); }
-  /// The tabs with "|" between them, the current one in brackets.
+  /// Returns the tabs, separated by "|", with the current one in brackets.
   std::string Tabs();
-  /// The active cell, such as "B3".
+  /// Returns the active cell, such as "B3".
   std::string ActiveCell();
-  /// What the cells look like, without scroll bars.
+  /// Returns a picture of the cells, without scroll bars.
   QImage Shot();
   void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
   std::unique_ptr<qtbook::BookView> view_;
 };
 
-/// Styles from 1 on: a filling of FFEE00; centred; bold and right; a date; wrapped; white text; a
-/// line below.
+/// Returns styles, numbered from 1: a filling of FFEE00; centred; bold and right-aligned; a date; wrapped;
+/// white text; a line below.
 std::string SomeStyles();
 
 }  // namespace plotsmith::test

@@ -15,7 +15,7 @@ namespace {
 
 using S = std::string;
 
-/// Sheets of all kinds of visibility, with a chart VEX_Chart1 far down on Charts.
+/// Returns a workbook with visible, hidden and very hidden sheets, and a chart VEX_Chart1 far down on Charts.
 test::PlainBook BookOfSheets() {
   test::PlainBook book = test::SalesBook({test::Definition{}});
   book.Sheet("Charts").frames[0].row = 400;
@@ -51,7 +51,7 @@ TEST_F(BookViewTest, HiddenSheetsHaveDimmedTabsAndVeryHiddenOnesNone) {
 
 TEST_F(BookViewTest, TabsFollowTheSheets) {
   BookView& view = Show(BookOfSheets());
-  view.Tabs().setCurrentIndex(2);  // the user turns to another sheet
+  view.Tabs().setCurrentIndex(2);  // The user selects another sheet.
   const auto sheets = host_->ActiveWorkbook()->Sheets();
   const auto added = sheets->Add(sheets->Item("Data1"), nullptr);
   EXPECT_EQ(Tabs(), "Data1|Charts|[Notes && more]|Far");
@@ -62,7 +62,7 @@ TEST_F(BookViewTest, TabsFollowTheSheets) {
   view.Update();
   EXPECT_EQ(Tabs(), "[VEX_New]|Data1|Charts|Notes && more");
   added->Delete();
-  QApplication::processEvents();  // may paint before anybody has told the window
+  QApplication::processEvents();  // The window may be painted before it is updated.
   view.Update();
   EXPECT_EQ(Tabs(), "[Data1]|Charts|Notes && more");
 }
@@ -70,14 +70,14 @@ TEST_F(BookViewTest, TabsFollowTheSheets) {
 TEST_F(BookViewTest, TurnsToTheSheetThatWasActivatedAndStaysElse) {
   BookView& view = Show(BookOfSheets());
   view.Tabs().setCurrentIndex(0);
-  EXPECT_EQ(Book().ActiveSheet()->Name(), "Charts");  // to look at a sheet doesn't activate it
+  EXPECT_EQ(Book().ActiveSheet()->Name(), "Charts");  // Viewing a sheet doesn't activate it.
   Book().FindWorksheet("Far")->SetCellValueAt(1, 1, 5.0);
   view.Update();
   EXPECT_EQ(Tabs(), "[Data1]|Charts|Notes && more|Far");
-  Activate("Charts");  // where the workbook was already
+  Activate("Charts");  // This sheet was already active.
   EXPECT_EQ(Tabs(), "Data1|[Charts]|Notes && more|Far");
   view.Tabs().setCurrentIndex(3);
-  EXPECT_EQ(Sheet().ActiveText(), "5");  // written while it wasn't shown
+  EXPECT_EQ(Sheet().ActiveText(), "5");  // The value was written while the sheet wasn't visible.
   view.ShowActive();
   EXPECT_EQ(Tabs(), "Data1|[Charts]|Notes && more|Far");
   EXPECT_EQ(test::ErrorOf([&] { Activate("Notes & more"); }), runtime::error::kApplication);
@@ -92,7 +92,7 @@ TEST_F(BookViewTest, ACellThatWasActivatedIsScrolledTo) {
   view.Update();
   EXPECT_EQ(ActiveCell(), "BH900");
   EXPECT_TRUE(Sheet().viewport()->rect().contains(Sheet().CellArea({900, 60})));
-  // the user's own way is kept while the sheet is only written to, or activated again
+  // The user's position is kept while the sheet is only written or activated again.
   Press(Qt::Key_Home, Qt::ControlModifier);
   Activate("Data1");
   Activate("Charts");
@@ -161,7 +161,7 @@ TEST_F(BookViewTest, WorkbooksOfAllKindsAreShownAndStayAsTheyAre) {
   std::vector<std::filesystem::path> books;
   for (const S& folder : {S(test::kSourceFolder) + "/examples", S(test::kCorpusFolder) + "/charts",
                           S(test::kCorpusFolder) + "/real", S(test::kCorpusFolder) + "/made"}) {
-    std::error_code ignored;  // a corpus may be there
+    std::error_code ignored;  // The corpus may exist.
     for (const auto& entry : std::filesystem::directory_iterator(folder, ignored)) {
       if (entry.path().extension() == ".xlsx") books.push_back(entry.path());
     }
@@ -173,7 +173,7 @@ TEST_F(BookViewTest, WorkbooksOfAllKindsAreShownAndStayAsTheyAre) {
     try {
       OpenFile(path);
     } catch (const xlsx::PackageError&) {
-      continue;  // which are refused is told elsewhere
+      continue;  // Another test checks which workbooks are refused.
     }
     BookView& view = Show();
     for (int tab = 0; tab < view.Tabs().count(); ++tab) {

@@ -27,7 +27,7 @@ using xlsx::CellPlace;
 
 class SheetViewTest : public test::BookTest {
  protected:
-  /// Where in its cell the text stands: "left", "middle", "right", or "none".
+  /// Returns the position of the text in its cell: "left", "middle", "right" or "none".
   S SideOfInk(const CellPlace& cell) {
     const QRect area = Sheet().CellArea(cell).adjusted(1, 1, -2, -2);
     const QImage shot = Shot();
@@ -51,7 +51,7 @@ class SheetViewTest : public test::BookTest {
   }
 };
 
-/// One row of cells.
+/// Returns a workbook with one row of cells.
 test::PlainBook RowBook(test::PlainRow cells) {
   auto book = test::SalesBook({});
   book.styles = test::SomeStyles();
@@ -89,7 +89,7 @@ TEST_F(SheetViewTest, TextsStandWhereTheKindOfValueOrTheStyleHasThem) {
       {" s=\"1\" t=\"str\"><v>ab</v></c>", "left"},
       {"></c>", "none"},
   };
-  test::PlainRow cells = {std::monostate()};  // the active cell has a frame
+  test::PlainRow cells = {std::monostate()};  // The first cell is active and has a frame.
   for (const auto& c : cases) cells.push_back(RawCell{c.cell});
   auto book = RowBook(cells);
   book.Sheet("Data1").beforeData = "<cols><col min=\"1\" max=\"20\" width=\"12\"/></cols>";
@@ -106,13 +106,13 @@ TEST_F(SheetViewTest, ALongTextGoesOverEmptyCellsAndALongNumberDoesNot) {
                 RawCell{" s=\"4\"><v>45000</v></c>"}, std::monostate(), RawCell{" s=\"5\"" + text},
                 std::monostate()}));
   view_->resize(1000, 300);
-  EXPECT_EQ(SideOfInk({1, 3}), "middle");  // the text goes on here, from edge to edge
+  EXPECT_EQ(SideOfInk({1, 3}), "middle");  // The text continues here, from edge to edge.
   EXPECT_EQ(SideOfInk({1, 4}), "left");
   EXPECT_EQ(SideOfInk({1, 5}), "right");
-  EXPECT_EQ(SideOfInk({1, 7}), "right");  // not over a cell that holds something
+  EXPECT_EQ(SideOfInk({1, 7}), "right");  // A text doesn't extend over a cell with contents.
   EXPECT_EQ(SideOfInk({1, 9}), "none");
-  EXPECT_EQ(SideOfInk({1, 11}), "none");  // a text that wraps stays in its cell
-  // scrolled away, the text still reaches into the window
+  EXPECT_EQ(SideOfInk({1, 11}), "none");  // A wrapped text stays in its cell.
+  // After scrolling, the text still extends into the window.
   Sheet().horizontalScrollBar()->setValue(128 + 20);
   EXPECT_NE(SideOfInk({1, 4}), "none");
 }
@@ -184,7 +184,7 @@ TEST_F(SheetViewTest, AMillionRowsAreAskedForOneWindowAtATime) {
     Shot();
     return Sheet().Source().CellsAsked() - before;
   };
-  // the cells of a window, once for the event of the move and once for the picture, and a few at its edge
+  // The visible cells are read once for the move event and once for the picture, and a few more at the edge.
   const QSize size = Sheet().viewport()->size();
   const auto most = static_cast<std::uint64_t>(2 * (size.width() / 64 + 2) * (size.height() / 20 + 2) + 10);
   EXPECT_LT(asked([] {}), most);
@@ -216,7 +216,7 @@ TEST_F(SheetViewTest, KeysMoveTheActiveCell) {
       {Qt::Key_Home, Qt::NoModifier, "A5"},       {Qt::Key_Right, Qt::ControlModifier, "D5"},
       {Qt::Key_Home, Qt::ControlModifier, "A1"},  {Qt::Key_End, Qt::ControlModifier, "D5"},
       {Qt::Key_Left, Qt::NoModifier, "B5"},       {Qt::Key_Down, Qt::NoModifier, "B6"},
-      {Qt::Key_Down, Qt::NoModifier, "A7"},  // one cell with B8
+      {Qt::Key_Down, Qt::NoModifier, "A7"},  // The cell is merged with B8.
       {Qt::Key_Down, Qt::NoModifier, "A9"},       {Qt::Key_Up, Qt::NoModifier, "A7"},
       {Qt::Key_Right, Qt::NoModifier, "D7"},      {Qt::Key_F7, Qt::NoModifier, "D7"},
   };
@@ -234,7 +234,7 @@ TEST_F(SheetViewTest, KeysMoveTheActiveCell) {
   EXPECT_EQ(Sheet().verticalScrollBar()->value(), 0);
   Click(Sheet().CellArea({8, 2}).center());
   EXPECT_EQ(ActiveCell(), "A7");
-  Click(QPoint(2, 2));  // a head
+  Click(QPoint(2, 2));  // The click is on a heading.
   EXPECT_EQ(ActiveCell(), "A7");
 }
 
@@ -268,7 +268,7 @@ TEST_F(SheetViewTest, FrozenRowsAndColumnsStayWhileTheRestScrolls) {
   EXPECT_EQ(ActiveCell(), "D5");
   EXPECT_TRUE(Sheet().viewport()->rect().contains(Sheet().CellArea({5, 4})));
   EXPECT_EQ(Sheet().CellArea({1, 1}).topLeft(), corner);
-  // where they would fill the window they scroll as well
+  // Frozen rows and columns that would fill the window scroll as well.
   view_->resize(120, 150);
   QApplication::processEvents();
   Sheet().SetActiveCell({300, 1});
@@ -304,15 +304,15 @@ TEST_F(SheetViewTest, ColorsAreRolesOfThePaletteAndThoseOfTheWorkbook) {
   EXPECT_EQ(filled, filling);
   const QRect bordered = Sheet().CellArea({1, 4});
   EXPECT_EQ(Shot().pixelColor(bordered.center().x(), bordered.bottom()), light.color(QPalette::Text));
-  EXPECT_EQ(SideOfInk({1, 3}), "left");  // white on white would not be seen
+  EXPECT_EQ(SideOfInk({1, 3}), "left");  // White on white would be invisible.
   view_->setPalette(dark);
   QApplication::processEvents();
   const auto [darkCell, darkHead, darkFilled, darkBright] = colors();
   EXPECT_EQ(darkCell, dark.color(QPalette::Base));
   EXPECT_EQ(darkHead, dark.color(QPalette::Button));
   EXPECT_EQ(darkFilled, filling);
-  EXPECT_EQ(SideOfInk({1, 2}), "right");  // nor a light text on the filling
-  // texts and the filling are all that is bright
+  EXPECT_EQ(SideOfInk({1, 2}), "right");  // A light text on the filling would also be invisible.
+  // Only texts and the filling are bright.
   EXPECT_GT(bright, 0.9);
   EXPECT_LT(darkBright, 0.1);
 }
@@ -332,7 +332,7 @@ TEST_F(SheetViewTest, ChartsAreDrawnWhenTheyAreSeenAndWhenTheyChange) {
   const QPoint place = Sheet().FrameArea(Sheet().Frames()[0]).center();
   EXPECT_EQ(Shot().pixelColor(place), QColor(Qt::red));
   Shot();
-  EXPECT_EQ(drawn, (std::vector<S>{"51 512"}));  // the other one is far below
+  EXPECT_EQ(drawn, (std::vector<S>{"51 512"}));  // The other chart is far below.
   const auto sheet = Book().FindWorksheet("Charts");
   sheet->Shapes()->Item(1)->SetWidth(192);
   view.Update();
@@ -347,7 +347,7 @@ TEST_F(SheetViewTest, ChartsAreDrawnWhenTheyAreSeenAndWhenTheyChange) {
   sheet->Shapes()->Item(1)->SetWidth(300);
   view.Update();
   EXPECT_NE(Shot().pixelColor(place), QColor(Qt::red));
-  // a chart that is gone before the window hears of it
+  // The chart is deleted before the window is updated.
   sheet->Shapes()->Item(1)->Delete();
   Shot();
   view.Update();

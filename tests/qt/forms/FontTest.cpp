@@ -6,7 +6,7 @@
 namespace plotsmith {
 namespace {
 
-/// What a font of the model becomes: its first family, and its size as a share of the program's own.
+/// Checks the font for a font of the model: its first family, and its size relative to the program's font.
 TEST(FontTest, FontsFollowTheModelInProportionToTheProgramsOwn) {
   const QFont own = QApplication::font();
   const struct {

@@ -16,14 +16,14 @@
 namespace plotsmith::test {
 namespace {
 
-/// On the mark in front of the caption, which is at the right where texts run to the left.
+/// Returns a point on the mark before the caption, which is at the right for right-to-left text.
 QPoint OnMark(const QWidget& widget) {
   const int inside = 8;
   return {widget.layoutDirection() == Qt::RightToLeft ? widget.width() - inside : inside,
           widget.height() / 2};
 }
 
-/// Clicks on rows of a list or a table, so that these are selected and no others.
+/// Clicks on rows of a list or a table, so that exactly these are selected.
 void ClickRows(QAbstractItemView& view, const std::vector<int>& rows) {
   const auto click = [&](const QModelIndex& index, Qt::KeyboardModifiers modifiers) {
     view.scrollTo(index);
@@ -40,7 +40,7 @@ void ClickRows(QAbstractItemView& view, const std::vector<int>& rows) {
   }
 }
 
-/// Types a text over what is in the box of the focus, character by character.
+/// Replaces the text of the box with the focus, character by character.
 void TypeOver(QWidget& widget, const std::string& text) {
   QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
   QTest::keyClick(&widget, Qt::Key_Delete);
@@ -51,7 +51,7 @@ void TypeOver(QWidget& widget, const std::string& text) {
     if (character == QLatin1String("\n")) {
       QTest::keyClick(&widget, Qt::Key_Return);
     } else if (character == QLatin1String("\t")) {
-      // a keyboard's Tab leaves the box; a tab comes in by the clipboard only
+      // The Tab key leaves the box, so a tab can only be pasted.
       QApplication::clipboard()->setText(character);
       QTest::keyClick(&widget, Qt::Key_V, Qt::ControlModifier);
     } else {

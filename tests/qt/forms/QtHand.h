@@ -7,14 +7,14 @@
 
 namespace plotsmith::test {
 
-/// A hand that finds the widget by its control's name and sends it the events of a mouse and a keyboard.
+/// A simulated user that finds a widget by the name of its control and sends it mouse and keyboard events.
 class QtHand final : public forms::Hand {
  public:
-  /// `view` must outlive the hand.
+  /// Makes a user of `view`, which must outlive it.
   explicit QtHand(qt::QtView& view)
       : front_([&view] { return view.Front(); }),
         post_([&view](forms::EventQueue& queue) { view.PostTo(queue); }) {}
-  /// A hand for a program that runs. The gestures stay with the window, whose own view takes them.
+  /// Makes a user of a running program, whose own view receives the actions.
   explicit QtHand(std::function<QWidget*()> front)
       : front_(std::move(front)), post_([](forms::EventQueue&) {}) {}
 
@@ -34,7 +34,7 @@ class QtHand final : public forms::Hand {
   void Close(forms::EventQueue& queue, forms::Form& form) override;
 
  private:
-  /// The widget of the control, found by its name in the window in front.
+  /// Returns the widget with the control's name in the front window.
   template <class Kind>
   Kind& Find(const forms::Control& control) const;
   void Key(int key);

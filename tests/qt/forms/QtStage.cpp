@@ -19,7 +19,7 @@ void QtStage::Close(forms::Form& form) {
 
 void QtStage::Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) {
   windows_->ShowChanges();
-  // without a window manager, a window doesn't become active again when a list that it had opened closes
+  // Without a window manager, a window doesn't become active again when a drop-down list closes.
   windows_->Front()->activateWindow();
   QCoreApplication::processEvents();
   windows_->ShowChanges();

@@ -8,8 +8,8 @@
 
 namespace plotsmith::test {
 
-/// Windows on which a script plays by mouse and keyboard. Before each line it looks whether the window in
-/// front shows what its form says.
+/// Windows on which a script simulates mouse and keyboard. Before each line it checks that the front window
+/// shows the state of its form.
 class QtStage final : public forms::View {
  public:
   QtStage(std::shared_ptr<qt::QtView> windows, std::shared_ptr<forms::ScriptPlayer> player)

@@ -53,8 +53,8 @@ void Read(const QTableWidget& table, ControlState& state) {
   }
 }
 
-/// Whether the widget is in the colour of the mark. What can be typed into or chosen from has a colour of its
-/// own, although the widget inherits the role of the frame around it.
+/// Returns true if the widget has the mark's colour. Input widgets have their own colour, although they
+/// inherit the role of the frame around them.
 bool IsMarked(const QWidget& widget) {
   const bool hasFrameColor = qobject_cast<const QGroupBox*>(&widget) != nullptr ||
                              qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
@@ -86,7 +86,7 @@ ControlState Read(const QWidget& widget) {
   return state;
 }
 
-/// The model's state as far as a widget can show it.
+/// Returns the model's state without the parts that a widget can't show.
 ControlState Showable(ControlState state) {
   state.kind.clear();
   state.container.clear();
@@ -95,8 +95,8 @@ ControlState Showable(ControlState state) {
   return state;
 }
 
-/// Whether a page may mark controls of the kind with a colour. Other widgets answer with the colour of what
-/// is around them.
+/// Returns true if a page may mark this kind of control with a colour. Other widgets have the colour of their
+/// surroundings.
 bool IsMarkable(const std::string& kind) {
   return kind == "Frame" || kind == "OptionButton" || kind == "CheckBox" || kind == "Label";
 }
@@ -150,7 +150,7 @@ std::string DifferencesFromModel(const qt::FormWindow& window) {
       continue;
     }
     ControlState widget = *found;
-    if (control.kind == "ListBox") widget.text = control.text;  // it shows in the selection
+    if (control.kind == "ListBox") widget.text = control.text;  // The selection shows it.
     if (!IsMarkable(control.kind)) widget.backColor = Showable(control).backColor;
     Compare(differences, Showable(control), widget);
   }

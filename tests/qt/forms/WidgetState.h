@@ -7,10 +7,10 @@
 
 namespace plotsmith::test {
 
-/// What a person sees in the window, read from its widgets alone.
+/// Returns the visible state of the window, read from its widgets alone.
 forms::FormState StateOfWidgets(const qt::FormWindow& window);
 
-/// Where the window shows something else than its form says, a line each; empty if nowhere.
+/// Returns the differences between the window and its form, one per line, or "".
 std::string DifferencesFromModel(const qt::FormWindow& window);
 
 }  // namespace plotsmith::test

@@ -32,12 +32,12 @@ class HelpWindowTest : public testing::Test {
   S File() { return Text().source().fileName().toStdString(); }
   S Title() { return window_.windowTitle().toStdString(); }
   S Selected() { return Text().textCursor().selectedText().toStdString(); }
-  /// Shows a topic and waits until the window takes keys.
+  /// Shows a topic and waits until the window accepts keys.
   void OpenTopic(std::int32_t number) {
     window_.ShowTopic(number);
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
   }
-  /// A key that goes to the widget of the window that has the focus.
+  /// Sends a key to the widget with the focus.
   void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QWidget* const focus = window_.focusWidget();
     QTest::keyClick(focus == nullptr ? &window_ : focus, key, modifiers);
@@ -116,7 +116,7 @@ TEST_F(HelpWindowTest, KeysLeadThroughTheTopics) {
   EXPECT_EQ(File(), "index.html");
   QTest::keyClick(&List(), Qt::Key_Down);
   EXPECT_EQ(File(), "topic1-select-action.html");
-  // the first link of a topic leads to all topics
+  // The first link of a topic leads to the list of topics.
   Text().setFocus();
   Key(Qt::Key_Tab);
   Key(Qt::Key_Return);
@@ -163,7 +163,7 @@ class HelpedForm final : public forms::Form {
   forms::CommandButton cmdHelp{*this, "cmdHelp", nullptr, "&Help"};
 };
 
-/// A view that presses Help, then lets a hand work on another window, and closes the page in the end.
+/// A view that presses Help, then operates another window, and finally closes the page.
 class BesideView final : public forms::View {
  public:
   explicit BesideView(std::function<void()> hand) : hand_(std::move(hand)) {}

@@ -12,37 +12,37 @@
 
 namespace plotsmith::test {
 
-/// Works on a program with mouse and keyboard while it runs, by a script. Its lines have "; " between them.
-/// Each waits until the window is there that it is for:
+/// Operates a running program with mouse and keyboard, according to a script. The lines of the script are
+/// separated by "; ". Each line waits until its window is open:
 ///
-/// | line | what happens |
+/// | line | what it does |
 /// |---|---|
 /// | `page NAME` | waits for the page |
-/// | a gesture, as in the scripts of the command | is made on the page in front |
-/// | `box BUTTON` | presses the button of a message box, "&" left out |
+/// | an action, as in the scripts of the command | performs it on the front page |
+/// | `box BUTTON` | presses the button of a message box; "&" is left out |
 /// | `bar BUTTON` | presses the button of the bar above the workbook |
-/// | `file NAME` | types the name into the choice of files, and Enter |
-/// | `quit` | closes the window on the workbook |
-/// | `do wait` | waits a moment, until some window is in front |
-/// | `do NAME` | does the deed of that name, at once |
+/// | `file NAME` | types the name into the file dialog and presses Enter |
+/// | `quit` | closes the workbook window |
+/// | `do wait` | waits until a window is in front |
+/// | `do NAME` | calls the function with this name at once |
 ///
-/// The program may be in the middle of its work, so a line that can't be done is tried again for a while.
-/// When it still can't be done, or at the end of the script, it closes what is open and saves nothing.
+/// The program may be busy, so a line that can't be executed is repeated for a while. If it still fails, and at
+/// the end of the script, the robot closes all windows and saves nothing.
 class Robot {
  public:
   using Deeds = std::map<std::string, std::function<void()>>;
   explicit Robot(const std::string& script, Deeds deeds = {});
 
-  /// Why the script wasn't played to its end; "" if it was.
+  /// Returns the reason why the script stopped before its end, or "".
   std::string Failure() const;
-  /// The windows that came to the front, by NameOf, with blanks between them, the busy window left out.
+  /// The windows that came to the front, by NameOf, separated by blanks, without the busy window.
   const std::string& Seen() const { return seen_; }
-  /// What message boxes and the bar said, in this order.
+  /// The texts of message boxes and of the bar, in order.
   const std::vector<std::string>& Told() const { return told_; }
 
  private:
   void Work();
-  /// Whether the line was done; false where its window isn't there yet.
+  /// Executes a line. Returns false if its window isn't open yet.
   bool Play(const std::string& line);
   bool PlayOnPage(const std::string& line);
   void LookAround();
@@ -56,13 +56,14 @@ class Robot {
   QElapsedTimer sinceLine_;
   bool works_ = false;
   std::string failure_, seen_, lastSeen_;
-  std::string obstacle_;  ///< why the line couldn't be done yet
+  std::string obstacle_;  ///< The reason why the line can't be executed yet.
   std::vector<std::string> told_;
 };
 
-/// The lines of a script that has "; " between them.
+/// Returns the lines of a script, which are separated by "; ".
 std::vector<std::string> LinesOf(const std::string& script);
-/// Presses a button of a window by mouse; `text` without "&" and dots. False if there is none.
+/// Presses a button of a window with the mouse. `text` has no "&" and no dots. Returns false if there is no
+/// such button.
 bool PressButton(QWidget& window, const std::string& text);
 
 }  // namespace plotsmith::test

@@ -5,20 +5,20 @@
 
 #include "qt/forms/FormWindow.h"
 
-/// What of a program is on the screen, found as a person finds it, without a pointer to the program.
+/// Functions that find the windows of a program on the screen, without a pointer to the program.
 namespace plotsmith::test {
 
-/// The window that a person can work with: a box in front of all others, else a page, else the window on the
-/// workbook while its bar asks something. Null while there is none.
+/// Returns the window that the user can operate: a message box, a page, or the workbook window while its bar
+/// asks a question. Null if there is none.
 QWidget* FrontWindow();
-/// "box" for a message box, "file" for a choice of files, the form's name for a page, "bar" for the bar above
-/// the workbook; "" for none.
+/// Returns "box" for a message box, "file" for a file dialog, the form's name for a page, "bar" for the bar
+/// above the workbook, and "" for others.
 std::string NameOf(const QWidget* window);
-/// The page in front; null while something else is.
+/// Returns the front page, or null if another window is in front.
 qt::FormWindow* FrontPage();
-/// The window on the workbook; null while there is none.
+/// Returns the workbook window, or null.
 QWidget* BookWindow();
-/// What a message box, or the bar, says.
+/// Returns the text of a message box or of the bar.
 std::string TextIn(const QWidget& window);
 
 }  // namespace plotsmith::test

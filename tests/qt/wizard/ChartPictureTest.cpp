@@ -11,7 +11,7 @@
 namespace plotsmith::qt {
 namespace {
 
-/// The window's pictures of a refreshed column chart.
+/// Tests the window's pictures of a refreshed column chart.
 class ChartPictureTest : public test::HostTest {
  protected:
   void SetUp() override {
@@ -28,7 +28,7 @@ TEST_F(ChartPictureTest, HasTheSizeThatIsAskedForAndTheColorsOfTheChart) {
   for (const QSize size : {QSize(512, 360), QSize(1024, 720), QSize(301, 207)}) {
     const QImage picture = Picture(size);
     ASSERT_EQ(picture.size(), size);
-    // a bar in the first automatic colour, on white
+    // The picture has a bar in the first automatic colour on white.
     int bars = 0, white = 0;
     for (int y = 0; y < picture.height(); ++y) {
       for (int x = 0; x < picture.width(); ++x) {

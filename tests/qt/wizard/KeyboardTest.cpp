@@ -23,7 +23,7 @@ using S = std::string;
 class KeyboardTest : public test::ProgramTest {
  protected:
   KeyboardTest() { AddChart(); }
-  /// Does something on each page.
+  /// Calls a function on each page.
   void OnEachPage(const std::function<void(qt::FormWindow& page)>& look) {
     for (const test::Way& way : test::kWays) {
       SCOPED_TRACE(way.page);
@@ -45,7 +45,7 @@ bool IsChosenOrNoneIs(const forms::OptionButton& option) {
   return true;
 }
 
-/// The controls that Tab comes to, in this order.
+/// Returns the controls that Tab reaches, in order.
 std::vector<S> TabStops(const forms::Form& form) {
   std::vector<S> names;
   for (const forms::Control* control : form.Controls()) {
@@ -57,7 +57,7 @@ std::vector<S> TabStops(const forms::Form& form) {
   return names;
 }
 
-/// The widgets that have the focus one after the other, from that of `first` until it comes round.
+/// Returns the widgets that get the focus one after the other, from `first` until it returns there.
 std::vector<S> Walk(qt::FormWindow& page, const S& first, Qt::Key key) {
   page.findChild<QWidget*>(qt::TextOf(first))->setFocus(Qt::TabFocusReason);
   std::vector<S> names;
@@ -121,7 +121,7 @@ TEST_F(KeyboardTest, EachKindOfControlIsWorkedByKeys) {
   });
 }
 
-/// What a screen reader is told of a widget and of all inside of it.
+/// Returns the texts for screen readers of a widget and its descendants.
 S Spoken(QAccessibleInterface& item, int depth) {
   const auto role = QMetaEnum::fromType<QAccessible::Role>().valueToKey(item.role());
   const QAccessible::State state = item.state();

@@ -13,14 +13,14 @@ namespace {
 
 using S = std::string;
 
-/// Measures how long the windows have no turn, from the first one of the busy window on.
+/// Measures how long the windows don't process events, from the first event of the busy window on.
 class Watch {
  public:
   Watch() {
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Look(); });
     timer_.start(0);
   }
-  qint64 LongestGap() const { return longest_; }  ///< milliseconds
+  qint64 LongestGap() const { return longest_; }  ///< Returns the longest gap in milliseconds.
   const std::set<int>& BarValues() const { return values_; }
 
  private:
@@ -40,7 +40,7 @@ class Watch {
 
 class LongWorkTest : public test::ProgramTest {
  protected:
-  /// Replaces the workbook by one with so many rows.
+  /// Replaces the workbook by one with this number of rows.
   void MakeRows(int count) {
     test::PlainBook book = test::SalesBook({});
     auto& rows = book.Sheet("Data1").rows;
@@ -62,7 +62,7 @@ TEST_F(LongWorkTest, TheWindowsWorkDuringABuild) {
       "type txtTitle A; press cmdNext; page frmPSChartLocation; press cmdFinish; page frmBusyPS; do close; "
       "box Discard",
       {{"close", [] {
-          if (auto* busy = test::FrontPage()) busy->close();  // work isn't stopped half-way
+          if (auto* busy = test::FrontPage()) busy->close();  // The work must not be interrupted.
           test::BookWindow()->close();
         }}});
   EXPECT_EQ(run.failure, "");

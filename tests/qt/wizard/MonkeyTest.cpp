@@ -16,11 +16,11 @@ namespace {
 
 using S = std::string;
 
-constexpr int kEvents = 120;  ///< of one run, unless it ends early
+constexpr int kEvents = 120;  ///< The number of events of a run, unless it ends early.
 constexpr int kEventsBetweenLooks = 10;
 constexpr unsigned kSeeds = 8;
 
-/// Makes random events on random widgets of the window in front, the same ones for the same seed.
+/// Sends random events to random widgets of the front window. The same seed gives the same events.
 class Monkey {
  public:
   explicit Monkey(unsigned seed) : random_(seed) {}
@@ -31,9 +31,9 @@ class Monkey {
     if (front == nullptr) front = test::FrontWindow();
     if (front == nullptr) front = test::BookWindow();
     if (front == nullptr) return;
-    // without a window manager, a window doesn't become active again when a popup or the help closes
+    // Without a window manager, a window doesn't become active again when a popup or the help closes.
     if (QApplication::activePopupWidget() == nullptr) front->activateWindow();
-    if (test::NameOf(front) == "file") {  // it must not write anywhere
+    if (test::NameOf(front) == "file") {  // The monkey must not write to files.
       front->close();
       return;
     }
@@ -165,16 +165,16 @@ class MonkeyTest : public test::ProgramTest, public testing::WithParamInterface<
     QApplication::setPalette(QPalette());
     QApplication::setLayoutDirection(Qt::LeftToRight);
   }
-  /// Once all events are worked on, a page has to show what its form says.
+  /// Checks that a page shows the state of its form after all events were processed.
   static void LookAtPage() {
     const auto* const page = test::FrontPage();
     if (page == nullptr || QApplication::activePopupWidget() != nullptr) return;
     EXPECT_EQ(test::DifferencesFromModel(*page), "") << page->Model().Name();
   }
-  /// Lets the monkey loose on a page. The run may end early, when it has closed the program.
+  /// Runs the monkey on a page. The run may end early if it closes the program.
   void Play(const test::Way& way, unsigned seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
-    std::ofstream(book_, std::ios::binary) << fresh_;  // an earlier run may have saved
+    std::ofstream(book_, std::ios::binary) << fresh_;  // An earlier run may have saved the workbook.
     Monkey monkey(seed);
     S script = way.lines;
     for (int i = 0; i < kEvents; ++i) script += "do monkey; ";

@@ -16,7 +16,7 @@ namespace {
 
 using S = std::string;
 
-/// Runs on the screen that there is. ScreensTest runs it on others.
+/// Uses the existing screen. ScreensTest runs this test on others.
 class PageFitsTest : public test::ProgramTest {
  protected:
   PageFitsTest() : font_(QApplication::font()) { AddChart(); }
@@ -28,7 +28,7 @@ class PageFitsTest : public test::ProgramTest {
   const QFont font_;
 };
 
-/// Widgets that show less than they have to show, or that lie outside of what is around them.
+/// Returns widgets whose contents are cut off, or that are outside their parent.
 S CutWidgets(const qt::FormWindow& page) {
   S names;
   for (const forms::Control* control : page.Model().Controls()) {
@@ -44,7 +44,7 @@ S CutWidgets(const qt::FormWindow& page) {
   return names;
 }
 
-/// Controls that keep out of sight although they have the focus.
+/// Returns controls that aren't visible although they have the focus.
 S UnseenFocus(qt::FormWindow& page) {
   S names;
   const auto* const scroll = page.findChild<QScrollArea*>();

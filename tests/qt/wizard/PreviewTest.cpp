@@ -23,7 +23,7 @@ qt::PreviewWindow* FindPreview() {
   return nullptr;
 }
 
-/// How many pixels of a picture are of no grey.
+/// Returns the number of pixels that aren't grey.
 int ColoredPixels(const QImage& picture) {
   int colored = 0;
   for (int y = 0; y < picture.height(); ++y) {
@@ -37,7 +37,7 @@ int ColoredPixels(const QImage& picture) {
 
 class PreviewTest : public test::ProgramTest {
  protected:
-  /// Waits until the preview shows something else than last time, and keeps that.
+  /// Waits until the preview changes, and stores it.
   void Await() {
     const auto isNew = [this] {
       const auto* const preview = FindPreview();
@@ -50,7 +50,7 @@ class PreviewTest : public test::ProgramTest {
   }
   test::ProgramResult RunAndAwait(const S& script) {
     return Run(script, {{"await", [this] { Await(); }},
-                        // where the page leaves room for the preview on a small screen
+                        // The page leaves space for the preview on a small screen.
                         {"corner", [] { test::FrontPage()->move(0, 0); }}});
   }
 
@@ -111,7 +111,7 @@ TEST_F(PreviewTest, TheWorkerIsAnotherProcessAndIsEndedByTheNextStart) {
   EXPECT_EQ(done, std::vector<S>{"quick"});
   EXPECT_EQ(here, 0) << "the work was done in this process";
   EXPECT_FALSE(worker.IsRunning());
-  // one that dies has no result, and doesn't hinder the next
+  // A process that dies has no result and doesn't affect the next one.
   ASSERT_TRUE(worker.Start([]() -> qt::Preview { std::abort(); }));
   EXPECT_TRUE(QTest::qWaitFor([&] { return !worker.IsRunning(); }, 10000));
   ASSERT_TRUE(worker.Start(work("again", 1)));

@@ -10,16 +10,16 @@
 
 namespace plotsmith::test {
 
-/// A run of the program on a workbook, and what came of it.
+/// The result of a run of the program on a workbook.
 struct ProgramResult {
-  int code;             ///< the exit code
-  std::string failure;  ///< of the robot's script; "" if it was played to its end
-  std::string seen;     ///< the windows that came
+  int code;             ///< The exit code.
+  std::string failure;  ///< The failure of the robot's script, or "".
+  std::string seen;     ///< The windows that were shown.
   std::vector<std::string> told;
-  std::string err;  ///< what stderr has, or the reason why the program didn't start
+  std::string err;  ///< The text on stderr, or the reason why the program didn't start.
 };
 
-/// A test of plotsmith-wizard on a copy of a workbook, in a folder of its own.
+/// A test of plotsmith-wizard on a copy of a workbook in its own folder.
 class ProgramTest : public ::testing::Test {
  protected:
   ProgramTest();
@@ -30,14 +30,14 @@ class ProgramTest : public ::testing::Test {
   void AddChart();
 
   TempFolder folder_;
-  std::string book_;   ///< the copy: one table of orders, no chart
-  std::string fresh_;  ///< its bytes
+  std::string book_;   ///< The copy: a table of orders, without charts.
+  std::string fresh_;  ///< The bytes of the copy.
 };
 
-/// All bytes of a file; "" if there is none.
+/// Returns the bytes of a file, or "" if it doesn't exist.
 std::string BytesOf(const std::string& path);
 
-/// The gestures that make a column chart of the orders, up to the page before the last press.
+/// The actions that make a column chart of the orders, except the last press.
 inline constexpr const char* kNewChart =
     "page frmPSSelectTable; select grdTables Data1; choose optType(1); press cmdNext; page frmPSLayoutABC; "
     "type txtTitle Sums; press cmdNext; page frmPSChartLocation; ";

@@ -23,7 +23,7 @@ using test::kNewChart;
 class RudeHandsTest : public test::ProgramTest {
  protected:
   RudeHandsTest() { AddChart(); }
-  /// Plays a script on the program, which must not save anything.
+  /// Runs a script on the program, which must not save anything.
   test::ProgramResult RunUnsaved(const S& script, test::Robot::Deeds deeds) {
     SCOPED_TRACE(script);
     const auto run = Run(script, std::move(deeds));
@@ -50,7 +50,7 @@ void SendMouse(QWidget& widget, QEvent::Type type, QPointF onScreen, quint64 tim
 
 void SendKey(Qt::Key key, bool isRepeated) {
   QWidget* const front = FrontWindow();
-  if (front == nullptr) return;  // between two windows a key goes nowhere
+  if (front == nullptr) return;  // Between two windows no window gets the key.
   QWidget* const target = front->focusWidget() == nullptr ? front : front->focusWidget();
   QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, key == Qt::Key_Return ? "\r" : "", isRepeated);
   QApplication::sendEvent(target, &event);
@@ -163,7 +163,7 @@ TEST_F(RudeHandsTest, APageBehindAMessageTakesNothing) {
   EXPECT_EQ(run.seen, "frmPSSelectAction frmPSSelectTable box frmPSSelectTable");
 }
 
-/// What comes into a box, and what it takes of it where it has room.
+/// An input for a box, and the text that the box accepts if there is enough space.
 struct Input {
   S typed, oneLine, lines;
   bool byInputMethod = false;
@@ -189,7 +189,7 @@ void Feed(QWidget& widget, const Input& input) {
   QTest::keyClick(&widget, Qt::Key_V, Qt::ControlModifier);
 }
 
-/// The boxes of a page into which a hand can type.
+/// Returns the boxes of a page into which the user can type.
 std::vector<forms::Control*> BoxesOf(const qt::FormWindow& page) {
   std::vector<forms::Control*> boxes;
   for (forms::Control* control : page.Model().Controls()) {
@@ -201,7 +201,7 @@ std::vector<forms::Control*> BoxesOf(const qt::FormWindow& page) {
   return boxes;
 }
 
-/// The text that a box should hold: as much of the whole as it has room for.
+/// Returns the expected text of a box: as much of the input as fits.
 S Expected(const forms::Control& control, const Input& input) {
   const auto* box = dynamic_cast<const forms::TextBox*>(&control);
   const bool hasLines = box != nullptr && box->MultiLine();
@@ -209,7 +209,8 @@ S Expected(const forms::Control& control, const Input& input) {
   const QString whole = qt::TextOf(hasLines ? input.lines : input.oneLine);
   if (most == 0 || whole.size() <= static_cast<qsizetype>(most)) return qt::TextOf(whole);
   QString part = whole.left(static_cast<qsizetype>(most));
-  // what has no room as a whole is left out of a text of several lines; one line has a blank there
+  // A character that doesn't fit completely is left out of a multi-line text; a single-line text has a blank
+  // instead.
   if (hasLines && (part.back().isHighSurrogate() || part.back() == '\r')) part.chop(1);
   if (part.back().isHighSurrogate()) part.back() = ' ';
   return qt::TextOf(part);

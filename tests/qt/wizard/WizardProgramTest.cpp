@@ -13,19 +13,19 @@ using S = std::string;
 using test::BytesOf;
 using test::kNewChart;
 
-/// How a run ends once a chart is built, and what becomes of the files. "BOOK" is the workbook, "OTHER" a
-/// file beside it.
+/// A way to end a run after a chart was built, and the resulting files. "BOOK" is the workbook, and "OTHER"
+/// is a file beside it.
 struct Ending {
   S script;
-  S seen;  ///< behind the pages
+  S seen;  ///< The windows after the pages.
   bool bookChanges, otherIsThere;
-  bool withOutput = false;  ///< started with -o OTHER
+  bool withOutput = false;  ///< Whether the program is started with -o OTHER.
 };
 
 class WizardProgramTest : public test::ProgramTest {
  protected:
   S Other() { return folder_ / "other.xlsx"; }
-  /// What the command makes of the same gestures.
+  /// Returns the workbook that the command makes with the same actions.
   S BytesByCommand() {
     S script;
     for (const S& line : test::LinesOf(S(kNewChart) + "press cmdFinish")) script += line + "\n";
@@ -147,7 +147,7 @@ TEST_F(WizardProgramTest, AnotherRunGoesOnFromTheFirst) {
   EXPECT_EQ(run.told.back(), "What you chose was deleted. \"" + book_ + "\" isn't saved yet.");
   const S once = BytesOf(book_);
 
-  // the chart was saved, and its deletion was not
+  // The chart was saved, and its deletion wasn't.
   const S add = "page frmPSSelectAction; press cmdNew; ";
   const S saved =
       "type txtName Second; press cmdFinish; bar Save As; file " + Other() + "; bar Chart Wizard; ";

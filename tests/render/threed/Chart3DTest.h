@@ -9,7 +9,7 @@
 
 namespace plotsmith::test {
 
-/// Charts in 3-D of three series (1, 2, 3 times the values) over four categories, drawn.
+/// A test of 3-D charts with three series (1, 2 and 3 times the values) and four categories.
 class Chart3DTest : public ChartTest {
  protected:
   struct Setup {
@@ -17,14 +17,14 @@ class Chart3DTest : public ChartTest {
     std::string group = "bar3DChart";
     std::string grouping = "clustered";
     std::string direction = "col";
-    std::string behind;  ///< behind the series in the group
+    std::string behind;  ///< Elements after the series in the group.
     std::vector<double> values = {4, 8, 2, 6};
   };
 
   static std::string Part(const Setup& setup);
   render::Drawing Draw(const Setup& setup);
 
-  /// The items of a role, of one series if its number isn't 0.
+  /// Returns the items of a role, or of one series if its number isn't 0.
   static std::vector<const render::Item*> ItemsOf(const render::Drawing& drawing, render::Role role,
                                                   int series = 0);
   static render::Color FillOf(const render::Item& item);

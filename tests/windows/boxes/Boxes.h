@@ -4,7 +4,7 @@
 
 namespace plotsmith::test {
 
-/// A new object PlotsmithTest.Boxes.
+/// Makes an object PlotsmithTest.Boxes.
 IDispatch* NewBoxes();
 
 }  // namespace plotsmith::test

@@ -5,7 +5,7 @@
 
 namespace plotsmith::test {
 
-/// Answers the message boxes of the thread that makes it, as soon as they come up, and remembers them.
+/// Answers the message boxes of its thread as soon as they appear, and records them.
 class MessageBoxes {
  public:
   MessageBoxes();
@@ -13,13 +13,13 @@ class MessageBoxes {
   MessageBoxes(const MessageBoxes&) = delete;
   MessageBoxes& operator=(const MessageBoxes&) = delete;
 
-  /// What the next box is answered with, IDOK or IDCANCEL; boxes behind it are answered with OK again.
+  /// Sets the answer to the next box: IDOK or IDCANCEL. Further boxes are answered with OK again.
   void AnswerNext(int button);
-  /// From now on `answer` says with which button each box is answered; boxes aren't remembered then. An empty
-  /// function takes that back.
+  /// Sets a function that returns the answer to each box. Boxes aren't recorded then. An empty function
+  /// restores the default.
   void AnswerBy(std::function<int(const std::string& text, bool isQuestion)> answer);
-  /// What the boxes since the last call showed: "title [buttons]: text", with "critical" before the buttons
-  /// of such a box, and a line end as "\r\n". Boxes are separated by a line feed.
+  /// Returns the boxes since the last call: "title [buttons]: text", with "critical" before the buttons of a
+  /// critical box and "\r\n" for line ends. Boxes are separated by a line feed.
   std::string Take();
 };
 

@@ -9,9 +9,9 @@
 
 namespace plotsmith::test {
 
-/// Plays a script of the wizard on the dialogs of this thread, by the messages of a mouse and a keyboard. It
-/// works from outside: it finds the dialogs on the screen, reads them, and makes the next gesture each time
-/// when a timer of this thread ticks and a dialog waits.
+/// Runs a script of the wizard on the dialogs of this thread with mouse and keyboard messages. It finds the
+/// dialogs on the screen and reads them. It performs the next action when a timer of this thread ticks and a
+/// dialog waits.
 class ScriptedHands {
  public:
   explicit ScriptedHands(const std::string& script);
@@ -19,11 +19,11 @@ class ScriptedHands {
   ScriptedHands(const ScriptedHands&) = delete;
   ScriptedHands& operator=(const ScriptedHands&) = delete;
 
-  /// What the script answers to a message box: IDOK or IDCANCEL.
+  /// Returns the script's answer to a message box: IDOK or IDCANCEL.
   int AnswerBox(const std::string& text, bool isQuestion);
-  /// The run is over. What was wrong, as "line 3: ..."; empty if the script was played to its end.
+  /// Ends the run. Returns the failure, such as "line 3: ...", or "".
   std::string Finish();
-  /// What the lines `show` have printed, as the command does.
+  /// The output of the lines `show`, in the format of the command.
   std::string Shown() const { return shown_.str(); }
 
  private:

@@ -6,8 +6,8 @@
 
 namespace plotsmith::contract {
 
-/// All that the port tells of the open workbook, a line for each member and object that was asked: sheets,
-/// names, cells with values and texts, shapes, and charts with their parts. Failures are lines as well.
+/// Describes the open workbook as the port shows it, with a line for each member and object: sheets, names,
+/// cells with values and texts, shapes, and charts with their parts. Errors are lines too.
 std::string Describe(excel::Application& application);
 
 }  // namespace plotsmith::contract

@@ -8,7 +8,7 @@
 
 namespace plotsmith::contract {
 
-/// An Automation object whose calls a test answers.
+/// An Automation object whose calls are answered by a test.
 class FakeDispatch final : public IDispatch {
  public:
   using Call =
@@ -16,14 +16,15 @@ class FakeDispatch final : public IDispatch {
 
   explicit FakeDispatch(Call call) : call_(std::move(call)) {}
 
-  int lookUps = 0;                  ///< of names
-  std::vector<std::wstring> names;  ///< that were looked up; those that begin with "Unknown" aren't there
+  int lookUps = 0;  ///< The number of name look-ups.
+  std::vector<std::wstring>
+      names;  ///< The names that were looked up. Names that begin with "Unknown" don't exist.
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) noexcept override {
     *object = id == IID_IUnknown || id == IID_IDispatch ? this : nullptr;
     return *object == nullptr ? E_NOINTERFACE : S_OK;
   }
-  /// It belongs to the test.
+  /// The test owns the object.
   ///@{
   ULONG STDMETHODCALLTYPE AddRef() noexcept override { return 2; }
   ULONG STDMETHODCALLTYPE Release() noexcept override { return 1; }

@@ -17,12 +17,12 @@ namespace plotsmith::contract {
 
 using excel::Ref;
 
-/// How a test reaches the embedded host: as the system of the command does, or through proxies of its objects
-/// in their dress, as the system inside Excel does.
+/// The access to the embedded host: direct, like the system of the command, or through proxies of its COM
+/// objects, like the system inside Excel.
 enum class Way { kDirect, kThroughCom };
 
-/// What a member answered, as the journal writes it: a value; "Nothing" or "an object"; "done" for what
-/// answers nothing; of a failure its number and text.
+/// Returns the result of a member in the journal's format: a value; "Nothing" or "an object"; "done" for no
+/// result; the number and text of an error.
 ///@{
 template <class T>
 std::string Words(const Ref<T>& object) {
@@ -45,11 +45,11 @@ std::string Answer(const Member& member) {
 }
 ///@}
 
-/// A call of a member and what it answers.
+/// Checks the result of a call.
 #define SAYS(call, words) EXPECT_EQ(Answer([&] { return call; }), words)
 
-/// What every host behind the port answers, on a new workbook with some cells and a chart. Both ways must
-/// also change the same: their journals are compared.
+/// A test of the results that every host must return, on a new workbook with some cells and a chart. Both
+/// ways must also make the same changes: their journals are compared.
 class PortContract : public testing::TestWithParam<Way> {
  protected:
   void SetUp() override;

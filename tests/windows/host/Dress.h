@@ -15,39 +15,38 @@
 #include "windows/com/Values.h"
 #include "xlsx/Application.h"
 
-/// The embedded host in the dress of Excel: its objects behind IDispatch, by the tables from which the
-/// proxies are made.
+/// The embedded host as Excel: its objects as IDispatch, by the tables from which the proxies are made.
 namespace plotsmith::dress {
 
 using excel::Ref;
 
-/// One embedded host, with what a script asks of it beside Excel's members.
+/// An embedded host, with additional members for scripts.
 struct Host {
   std::shared_ptr<xlsx::Application> application = xlsx::Application::Create();
-  std::string path;      ///< of the workbook that is open
-  std::string journal;   ///< its lines since it was opened, each with a line feed
-  bool editing = false;  ///< a cell is being edited, so Interactive can't be set
+  std::string path;      ///< The path of the open workbook.
+  std::string journal;   ///< The journal since it was opened. Each line ends with a line feed.
+  bool editing = false;  ///< Whether a cell is being edited, so that Interactive can't be set.
   std::map<std::string, com::ComPtr<IDispatch>> macros;
 };
 using HostPtr = std::shared_ptr<Host>;
 
-/// How many calls all dressed objects have got, and how many objects there are.
+/// The number of calls to all objects, and the number of objects.
 struct Counts {
   std::atomic<std::int32_t> calls = 0;
   std::atomic<std::int32_t> unsure =
-      0;  ///< calls that left open whether they read a property or call a method
+      0;  ///< Calls that don't specify whether they read a property or call a method.
   std::atomic<std::int32_t> objects = 0;
 };
 extern Counts counts;
 
-/// The arguments of one call, in order. They belong to the caller.
+/// The arguments of a call, in order. The caller owns them.
 class Arguments {
  public:
   explicit Arguments(const DISPPARAMS& sent);
 
-  /// Without those at the end that were left out.
+  /// The number of arguments, without omitted ones at the end.
   std::size_t Count() const { return count_; }
-  /// An argument that is there; what lies behind the last one counts as left out.
+  /// Returns an argument. Arguments after the last one count as omitted.
   const VARIANT& operator[](std::size_t i) const;
 
  private:
@@ -55,14 +54,15 @@ class Arguments {
   std::size_t count_;
 };
 
-/// One way to call a member of a T: a property to read or to write, or a method.
+/// A way to call a member of a T: reading or writing a property, or calling a method.
 template <class T>
 struct Way {
   std::wstring name;
-  WORD kind;          ///< one of Automation's invoke kinds
-  std::size_t least;  ///< arguments, the value of a property that is written among them
+  WORD kind;          ///< An invoke kind of Automation.
+  std::size_t least;  ///< The number of arguments, including the value of a property that is written.
   std::size_t most;
-  std::function<bool(const Arguments&)> accepts;  ///< tells ways of one name apart; null accepts all
+  std::function<bool(const Arguments&)>
+      accepts;  ///< Distinguishes ways with the same name; null accepts all.
   std::function<com::OwnedVariant(T&, const Arguments&, const HostPtr&)> call;
   mutable bool called = false;
 };
@@ -75,10 +75,10 @@ class Table {
     if (IdOf(way.name) == DISPID_UNKNOWN) names_.push_back(way.name);
     ways_.push_back(std::move(way));
   }
-  /// By a name in any case; DISPID_UNKNOWN if there is no such member. What is called Item is the default
+  /// Returns the id of a member by name, ignoring case, or DISPID_UNKNOWN. The member Item is the default
   /// member.
   DISPID IdOf(const std::wstring& name) const;
-  /// Null if no member of the number can be called so.
+  /// Returns the way to call a member, or null if it can't be called in this way.
   const Way<T>* Find(DISPID id, WORD kinds, const Arguments& arguments) const;
   const std::vector<Way<T>>& Ways() const { return ways_; }
 
@@ -87,11 +87,11 @@ class Table {
   std::vector<Way<T>> ways_;
 };
 
-/// The table of a class, made when it is first asked for.
+/// Returns the table of a class, which is made at the first call.
 template <class T>
 const Table<T>& TableOf();
 
-/// A COM object that is not thread-safe, as all of an apartment.
+/// A COM object that isn't thread-safe, like all objects of an apartment.
 class Dispatch : public IDispatch {
  public:
   Dispatch() { ++counts.objects; }
@@ -111,13 +111,13 @@ class Dispatch : public IDispatch {
 
  private:
   virtual DISPID IdOf(const std::wstring& name) const = 0;
-  /// Throws a RuntimeError, or an HRESULT for a call that the object can't understand.
+  /// Performs a call. Throws RuntimeError, or an HRESULT for a call that the object doesn't support.
   virtual com::OwnedVariant Called(DISPID id, WORD kinds, const Arguments& arguments) = 0;
 
   ULONG references_ = 1;
 };
 
-/// An object of the host behind IDispatch.
+/// An object of the host as IDispatch.
 template <class T>
 class Dressed final : public Dispatch {
  public:
@@ -129,28 +129,29 @@ class Dressed final : public Dispatch {
   DISPID IdOf(const std::wstring& name) const override { return TableOf<T>().IdOf(name); }
   com::OwnedVariant Called(DISPID id, WORD kinds, const Arguments& arguments) override;
 
-  HostPtr host_;  // outlives the object, whose destructor comes first
+  HostPtr host_;  // The host outlives the object, because the object is destroyed first.
   Ref<T> object_;
 };
 
-/// The default member's answer for arguments that a property of an object doesn't take itself: Sheets("A").
+/// Returns the result of the default member for arguments that the property of an object doesn't take itself:
+/// Sheets("A").
 com::OwnedVariant ItemOf(const com::OwnedVariant& collection, const Arguments& arguments);
 
-/// An object in its dress; Nothing for null.
+/// Returns an object as IDispatch; Nothing for null.
 template <class T>
 com::OwnedVariant Answer(const Ref<T>& object, const HostPtr& host) {
   if (!object) return com::ToVariant(static_cast<IDispatch*>(nullptr));
   const auto dressed = com::ComPtr<IDispatch>::Attach(new Dressed<T>(object, host));
   return com::ToVariant(dressed.Get());
 }
-/// In the dress of a worksheet where it is one.
+/// Returns a sheet as IDispatch, as a worksheet if it is one.
 com::OwnedVariant Answer(const Ref<excel::Sheet>& sheet, const HostPtr& host);
 inline com::OwnedVariant Answer(const excel::Variant& value, const HostPtr&) { return com::ToVariant(value); }
 inline com::OwnedVariant Answer(const std::vector<excel::Variant>& values, const HostPtr&) {
   return com::ToArray(values);
 }
 
-/// The host's object in a dress; Nothing for Nothing. Error 13 for another one.
+/// Returns the host's object behind an IDispatch; Nothing for Nothing. Raises error 13 for other objects.
 template <class T>
 Ref<T> Undressed(const VARIANT& value) {
   const auto object = com::ObjectOf(value);
@@ -160,11 +161,11 @@ Ref<T> Undressed(const VARIANT& value) {
   return dressed->Object();
 }
 
-/// What the port answered, as the type that the tables tell.
+/// Converts a result of the port to the type in the tables.
 template <class T>
 using ThePortsType = std::conditional_t<std::is_same_v<T, std::string>, excel::Variant, T>;
 
-/// What a member answers, in its dress.
+/// Returns the result of a member as a COM value.
 template <class T, class Member>
 com::OwnedVariant Answered(const Member& member, const HostPtr& host) {
   if constexpr (std::is_void_v<T>) {
@@ -175,7 +176,7 @@ com::OwnedVariant Answered(const Member& member, const HostPtr& host) {
   }
 }
 
-/// An argument as the type by which the port takes it.
+/// Converts an argument to the type of the port.
 template <class T>
 auto Given(const VARIANT& value) {
   if constexpr (std::is_same_v<T, bool>) {
@@ -192,7 +193,7 @@ auto Given(const VARIANT& value) {
   }
 }
 
-/// Whether an argument is meant as a T where another way takes another type: an index, or a name.
+/// Returns true if an argument is a T, in contrast to another way with another type: an index, or a name.
 template <class T>
 bool IsMeantAs(const VARIANT& value) {
   const bool text = com::FromVariant(value).template Is<std::string>();

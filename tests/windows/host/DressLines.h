@@ -1,5 +1,5 @@
-// The lines of the tables in src/windows/excel/members/ as ways into the embedded host: what each means,
-// README.md there says. For source files in the namespace plotsmith::dress.
+// Expands the lines of the tables in src/windows/excel/members/ to ways into the embedded host. README.md
+// there explains them. For source files in the namespace plotsmith::dress.
 
 // clang-format off
 #define CLASS(Class)                                   \
@@ -13,7 +13,7 @@
     }();           \
     return table;  \
   }
-// others are added by a function AddWays for the class
+// The function AddWays of the class adds the others.
 #define END_PARTLY(Class) \
       AddWays(made);      \
   END(Class)

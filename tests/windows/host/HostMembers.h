@@ -4,13 +4,13 @@
 
 namespace plotsmith::dress {
 
-/// Adds what scripts ask of the host beside Excel's members: HostMembers.cpp lists it.
+/// Adds the host's members for scripts, which HostMembers.cpp lists.
 void AddHostMembers(Table<excel::Application>& table);
 
-/// Ways to call Excel's members that have not been called yet, such as "Axis.HasTitle read".
+/// Returns the ways to call Excel's members that were not called yet, such as "Axis.HasTitle read".
 std::vector<std::string> WaysNotCalled();
 
-/// A host in its dress, with one reference that belongs to the caller.
+/// Makes a host as IDispatch with one reference, which the caller owns.
 IDispatch* NewApplication(HostPtr host = std::make_shared<Host>());
 
 }  // namespace plotsmith::dress

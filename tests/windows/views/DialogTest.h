@@ -9,7 +9,7 @@
 
 namespace plotsmith::test {
 
-/// A window of a host, with a timer that ticks and an eye on what reaches it.
+/// A window of a host with a timer, which records the messages that it receives.
 class HostWindow {
  public:
   HostWindow();
@@ -19,9 +19,9 @@ class HostWindow {
 
   HWND Handle() const { return window_; }
   int Ticks() const { return ticks_; }
-  /// How many messages of a mouse or a keyboard have come.
+  /// The number of mouse and keyboard messages.
   int Inputs() const { return inputs_; }
-  /// Whether a page was still on the screen each time when the window could be used again.
+  /// Returns true if a page was still visible each time the window was enabled again.
   bool CameBackInTime() const { return cameBackInTime_; }
 
  private:
@@ -33,12 +33,12 @@ class HostWindow {
   bool cameBackInTime_ = true;
 };
 
-/// A test of the dialogs by scripts, in front of a host's window. Scripts have the verb `do` of PageLines.
+/// A test of the dialogs with scripts, in front of a host's window. Scripts have the verb `do` of PageLines.
 class DialogTest : public PagesTest {
  protected:
   DialogTest();
   ~DialogTest() override;
-  /// Opens a copy of the orders with a chart, on which test::kWays lead to each page, and plays a script.
+  /// Opens a copy of the orders with a chart, in which test::kWays lead to each page, and runs a script.
   std::string PlayOnOrders(const std::string& script, Deeds deeds = {});
 
   HostWindow hostWindow_;

@@ -6,7 +6,7 @@
 
 namespace plotsmith::test {
 
-/// Plays the scripts of the pages' tests on dialogs, by messages.
+/// Returns a simulated user that runs the scripts of the tests for pages on dialogs, with messages.
 Hands HandsOnDialogs();
 
 /// The view of the last script.
@@ -14,18 +14,18 @@ extern std::shared_ptr<windows::FormsView> theDialogs;
 /// The window that the dialogs stay in front of; null for none.
 extern HWND theHostWindow;
 
-/// The window of the form in front, null if none is open; and that form.
+/// Return the window of the front form, or null, and that form.
 ///@{
 HWND FrontWindow();
 forms::Form& FrontForm();
 ///@}
 
-/// Has all messages handled that wait, as the loop does.
+/// Processes all waiting messages, like the loop.
 void HandleMessages();
-/// A deed of a script calls it at last: the messages that wait are handled, and the form does what came of
-/// them before the next line.
+/// Called at the end of a function of a script. Processes the waiting messages, so that the form reacts
+/// before the next line.
 void EndDeed();
-/// Where gestures go while a script plays a line; null otherwise.
+/// The queue for actions while a script executes a line; null otherwise.
 extern forms::EventQueue* theQueue;
 
 }  // namespace plotsmith::test

@@ -9,15 +9,16 @@
 
 namespace plotsmith::test {
 
-/// The child windows that show the controls of a form, in the order in which Tab goes through them.
+/// Returns the child windows of a form's controls, in tab order.
 std::vector<HWND> ControlWindows(HWND form);
-/// The window of a control, by its name; null if there is none.
+/// Returns the window of a control by name, or null.
 HWND ControlWindow(HWND form, const std::string& name);
 
-/// What a person sees in the window of a form, read from windows alone. What a screen reader says isn't told.
+/// Returns the visible state of a form's window, read from windows alone, without the texts for screen
+/// readers.
 forms::FormState StateOfWindow(HWND form);
 
-/// Where a window shows something else than its form says, a line each; empty if nowhere.
+/// Returns the differences between a window and its form, one per line, or "".
 std::string DifferencesFromModel(const forms::Form& form, HWND window);
 
 }  // namespace plotsmith::test

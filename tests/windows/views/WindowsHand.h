@@ -9,12 +9,11 @@
 
 namespace plotsmith::test {
 
-/// A hand that finds the window of a control by its name, and posts to it the messages of a mouse and a
-/// keyboard.
+/// A simulated user that finds the window of a control by name and posts mouse and keyboard messages to it.
 class WindowsHand final : public forms::Hand {
  public:
-  /// `front` answers the window of the form in front. `handle` has the messages that wait handled, and moves
-  /// to the queue what came of them.
+  /// Makes a user. `front` returns the window of the front form. `handle` processes the waiting messages and
+  /// moves the resulting actions to the queue.
   WindowsHand(std::function<HWND()> front, std::function<void(forms::EventQueue& queue)> handle)
       : front_(std::move(front)), handle_(std::move(handle)) {}
 
@@ -40,7 +39,7 @@ class WindowsHand final : public forms::Hand {
   std::function<void(forms::EventQueue& queue)> handle_;
 };
 
-/// The messages of a hand, posted to a window. Places are pixels from the corner of its client area.
+/// Post mouse and keyboard messages to a window. Positions are in pixels from the corner of its client area.
 ///@{
 void PostClick(HWND window, POINT place, WPARAM keys = 0);
 void PostClick(HWND window);

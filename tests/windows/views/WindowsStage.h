@@ -7,8 +7,8 @@
 
 namespace plotsmith::test {
 
-/// Dialogs on which a script plays by messages. Before each line it looks whether the window in front shows
-/// what its form says.
+/// Dialogs on which a script works with messages. Before each line it checks that the front window shows the
+/// state of its form.
 class WindowsStage final : public forms::View {
  public:
   WindowsStage(std::shared_ptr<windows::FormsView> view, std::shared_ptr<forms::ScriptPlayer> player)
