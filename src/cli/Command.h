@@ -30,6 +30,7 @@ class CommandError : public std::runtime_error {
  public:
   CommandError(int exitCode, const std::string& sentence)
       : std::runtime_error(sentence), exitCode_(exitCode) {}
+  /// The exit code of the command.
   int ExitCode() const { return exitCode_; }
 
  private:

@@ -11,17 +11,16 @@ namespace plotsmith::cli {
 namespace {
 
 constexpr const char* kDescription =
-    "Plotsmith makes charts over the tables of an Excel workbook and keeps them up to date,\n"
+    "Plotsmith makes charts from the tables of an Excel workbook and keeps them up to date,\n"
     "without Excel.\n"
-    "Tables are found by their names (VEX_TableRange..., VEX_SB...) or as sheets Data1 to Data5;\n"
-    "the charts' definitions travel inside the workbook. Without -o the workbook itself is replaced,\n"
-    "in one step: it is always whole.";
+    "A table is a range with a defined name (VEX_TableRange..., VEX_SB...), or a sheet Data1 to Data5.\n"
+    "The definitions of the charts are stored in the workbook. Without -o the workbook itself is\n"
+    "replaced, in a single step.";
 
 constexpr const char* kFooter =
-    "Exit codes: 0 done, 1 done but Plotsmith had something to say, 2 wrong usage,\n"
+    "Exit codes: 0 success, 1 success with a message from Plotsmith, 2 wrong usage,\n"
     "3 the workbook or the output could not be read or written, or definitions of charts would\n"
-    "have been lost, and nothing was changed; 128 and the number of a\n"
-    "signal that stopped it.";
+    "have been lost, and nothing was changed; 128 plus the number of a signal that stopped it.";
 
 /// Returns the number of arguments of the option that `argument` names in full, alone or with its value after
 /// "="; 0 if it names none.
@@ -71,11 +70,10 @@ CommandLine::CommandLine() : app(kDescription, "plotsmith"), commands(MakeComman
   app.allow_windows_style_options(false);  // An argument that begins with a slash is a path on every system.
   app.set_version_flag("-V,--version", std::string("plotsmith ") + PLOTSMITH_VERSION);
   DeclareHostVersion(app, options.hostVersion);
-  app.add_flag("--journal", options.journal,
-               "Write down each change to the workbook as it is made, a line each");
+  app.add_flag("--journal", options.journal, "Print each change to the workbook as it is made, one per line");
   app.add_flag("--drop-broken", options.dropBroken,
-               "Also write a workbook with definitions that are broken or have no chart, and drop them");
-  app.add_flag("--force", options.force, "Also write a workbook that another program holds open");
+               "Also write a workbook whose definitions are broken or have no chart, and drop these");
+  app.add_flag("--force", options.force, "Also write a workbook that another program has open");
   for (const auto& command : commands) verbs.push_back(command->Declare(app));
 }
 

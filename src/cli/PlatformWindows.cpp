@@ -1,6 +1,6 @@
 #include <fcntl.h>
 #include <io.h>
-// windows.h comes before what builds upon it
+// Include windows.h before the headers that depend on it.
 // clang-format off
 #include <windows.h>
 #include <shellapi.h>

@@ -40,7 +40,9 @@ class Session {
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
+  /// The embedded host.
   std::shared_ptr<xlsx::Application> Host() const { return host_; }
+  /// The open workbook.
   xlsx::Workbook& Book() const { return host_->Book(); }
 
   /// Finds the tables.

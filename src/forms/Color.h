@@ -12,6 +12,7 @@ using Color = std::uint32_t;
 inline constexpr Color kButtonFace = 0x8000000F;
 inline constexpr Color kToolTipBackground = 0x80000018;
 ///@}
+/// White, the background of input controls.
 inline constexpr Color kWhite = 0x00FFFFFF;
 
 }  // namespace plotsmith::forms

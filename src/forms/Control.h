@@ -53,17 +53,25 @@ class Control {
   void SetEnabled(bool value);
   ///@}
   /// Whether the control is shown.
+  ///@{
   bool Visible() const { return visible_; }
   void SetVisible(bool value);
+  ///@}
 
+  /// The background colour.
+  ///@{
   Color BackColor() const { return backColor_; }
   void SetBackColor(Color value);
+  ///@}
 
   /// The font. Raises error 438 for a control without text, such as a picture.
   virtual forms::Font& Font();
 
+  /// The position and size in points.
+  ///@{
   const forms::Place& Place() const { return place_; }
   void SetPlace(const forms::Place& value);
+  ///@}
 
   /// The name for screen readers. It is the text that was set, or the caption of the control, or the caption
   /// of its frame with the kind of control.
@@ -93,6 +101,7 @@ class Control {
   std::uint64_t Changes() const { return changes_; }
 
  protected:
+  /// Counts a change of a property.
   void Changed() { ++changes_; }
   /// The text on the control, or empty.
   virtual std::string CaptionText() const { return {}; }
@@ -102,8 +111,10 @@ class Control {
   virtual bool TakesFocus() const { return true; }
   /// Gives the focus to the control before a user action. Returns false if the user can't use the control.
   bool Reach();
+  /// Sets the index in a control array, counted from 0.
   void SetIndex(std::int32_t index) { index_ = index; }
 
+  /// Calls an event handler unless it is empty.
   static void Raise(const Event& event) {
     if (event) event();
   }
@@ -140,8 +151,10 @@ class CaptionControl : public FontControl {
       : FontControl(form, name, container), caption_(std::move(caption)) {}
 
   /// The caption, including "&".
+  ///@{
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string value);
+  ///@}
 
  protected:
   std::string CaptionText() const override { return caption_; }

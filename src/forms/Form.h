@@ -26,8 +26,11 @@ class Form {
   std::uint64_t Id() const { return id_; }
 
   /// The title of the window.
+  ///@{
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string value);
+  ///@}
+
   /// Whether the form is shown.
   bool Visible() const { return visible_; }
   /// The handle of the window, which the view sets; 0 if there is no window.
@@ -68,10 +71,13 @@ class Form {
   std::uint64_t Changes() const { return changes_; }
 
  protected:
+  /// The event handlers of the form. They do nothing by default.
+  ///@{
   virtual void Form_Load() {}
   virtual void Form_Activate() {}
   virtual void Form_Deactivate() {}
   virtual void Form_Unload() {}
+  ///@}
 
  private:
   friend class Control;

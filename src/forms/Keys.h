@@ -10,6 +10,7 @@ enum class Key { kOther, kEnter, kEscape, kHelp };
 /// A key press, as toolkits report it.
 struct KeyPress {
   Key key = Key::kOther;
+  /// Whether the Alt key is held down.
   bool withAlt = false;
   bool isRepeated = false;  ///< Whether this press is an automatic repetition of a held key.
 };

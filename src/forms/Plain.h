@@ -30,8 +30,11 @@ class Frame : public CaptionControl {
   const char* TypeName() const override { return "Frame"; }
 
   /// Whether the title is bold.
+  ///@{
   bool FontBold() const { return bold_; }
   void SetFontBold(bool value);
+  ///@}
+
   /// The look of the border: kFlat or k3D.
   ///@{
   std::int32_t Appearance() const { return appearance_; }
@@ -68,8 +71,10 @@ class ProgressBar : public Control {
   const char* TypeName() const override { return "ProgressBar"; }
 
   /// The progress, from kMin to kMax. Values out of range are set to the nearest limit.
+  ///@{
   std::int32_t Value() const { return value_; }
   void SetValue(std::int32_t value);
+  ///@}
 
  protected:
   bool TakesFocus() const override { return false; }

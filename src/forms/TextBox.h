@@ -37,8 +37,10 @@ class TextBox : public FontControl {
   ///@}
 
   /// The alignment of the text.
+  ///@{
   forms::Alignment Alignment() const { return alignment_; }
   void SetAlignment(forms::Alignment value) { alignment_ = value; }
+  ///@}
 
   /// Returns why the user can't type the text, as the end of a sentence. It is empty if the user can.
   std::string ObstacleTo(std::string_view text) const;

@@ -12,6 +12,7 @@ namespace plotsmith::forms {
 /// missed ticks are not repeated.
 class Timer : public Control {
  public:
+  /// The clock of all timers.
   using Clock = std::chrono::steady_clock;
 
   /// Makes a timer on a form.

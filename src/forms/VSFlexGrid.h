@@ -37,12 +37,17 @@ class VSFlexGrid : public FontControl {
   /// The number of fixed rows.
   std::int32_t FixedRows() const { return fixedRows_; }
   /// The number of columns.
+  ///@{
   std::int32_t Cols() const { return static_cast<std::int32_t>(columns_.size()); }
   void SetCols(std::int32_t value);
+  ///@}
 
   /// The text of a cell.
+  ///@{
   const std::string& TextMatrix(std::int32_t row, std::int32_t col) const;
   void SetTextMatrix(std::int32_t row, std::int32_t col, std::string value);
+  ///@}
+
   /// A hidden text of a row, such as an id.
   ///@{
   const std::string& RowData(std::int32_t row) const;
@@ -68,8 +73,11 @@ class VSFlexGrid : public FontControl {
   void SetColWidth(std::int32_t col, std::int32_t width);
   ///@}
   /// The alignment of a column.
+  ///@{
   ColumnAlignment ColAlignment(std::int32_t col) const;
   void SetColAlignment(std::int32_t col, ColumnAlignment alignment);
+  ///@}
+
   /// The width inside the borders in twips, as designed.
   std::int32_t ClientWidth() const { return 7200; }
 

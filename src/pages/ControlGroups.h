@@ -24,6 +24,7 @@ class PictureGroup {
 
   /// Shows the picture with that name and hides the others. An empty name hides all.
   void Show(std::string_view sName);
+  /// The controls of the pictures.
   const std::vector<std::unique_ptr<forms::Image>>& Images() const { return aImages_; }
 
  private:
@@ -63,10 +64,13 @@ class AxisBoxes {
   /// first.
   void Append() const;
 
+  /// The labels and boxes of the two axes.
+  ///@{
   forms::Label lblHAxis;
   forms::TextBox txtHAxis;
   forms::Label lblVAxis;
   forms::TextBox txtVAxis;
+  ///@}
 
  private:
   void Track(forms::TextBox& oBox, bool& bSticky);
@@ -91,7 +95,9 @@ class NumberFormatBox {
  public:
   NumberFormatBox(forms::Form& oForm, forms::Control* oContainer, const NumberFormatNames& aNames);
 
+  /// Fills the list of number formats.
   void FillNumberFormats();
+  /// Shows the sample number in the current format.
   void ShowNumberExample();
   /// Returns true if the host has refused the format.
   bool IsInvalid() const;
@@ -101,10 +107,13 @@ class NumberFormatBox {
   void Update() const;
   ///@}
 
+  /// The controls of the group.
+  ///@{
   forms::Label lblMask;
   forms::ComboBox cboMask;
   forms::Label lblExample;
   forms::Label lblMaskExample;
+  ///@}
 };
 
 /// The box for the comment of the chart. While it has the focus, Enter ends a line instead of pressing Next.
@@ -120,8 +129,11 @@ class CommentBox {
   void Append() const;
   ///@}
 
+  /// The frame and its box.
+  ///@{
   forms::Frame Frame7;
   forms::TextBox txtComment;
+  ///@}
 };
 
 /// Enables or disables a text box, a list or a combo box, with the matching look.

@@ -32,7 +32,7 @@ class LayoutPage : public Page {
   /// Connects the buttons, and the marking of the focus with all controls. `bHelpUnmarks` is true if the help
   /// button removes the mark, as the other buttons do.
   void WireLayout(WizardButtons& oButtons, bool bHelpUnmarks);
-  /// Fills the title box from the attribute `title` of the chart.
+  /// Read and write the attribute `title` of the chart.
   ///@{
   void RestoreTitle();
   void UpdateTitle() const;
@@ -41,8 +41,11 @@ class LayoutPage : public Page {
   /// Writes the values of the controls to `oChartDoc`.
   virtual void UpdateChartMetadata() = 0;
 
+  /// The names of the source table's label columns and number columns, in sheet order.
+  ///@{
   std::vector<std::string> colLabelColumns;
   std::vector<std::string> colNumberColumns;
+  ///@}
 };
 
 /// Marks the frame that has the focus, and the captions inside it, with colour and bold type, and unmarks all

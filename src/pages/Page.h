@@ -13,11 +13,14 @@ namespace plotsmith {
 struct WizardButtons {
   explicit WizardButtons(forms::Form& oForm);
 
+  /// The buttons.
+  ///@{
   forms::CommandButton cmdHelp;
   forms::CommandButton cmdCancel;
   forms::CommandButton cmdBack;
   forms::CommandButton cmdNext;
   forms::CommandButton cmdFinish;
+  ///@}
 };
 
 /// The base class of the wizard's pages. A page checks its input, writes it to `oChartDoc` and asks the

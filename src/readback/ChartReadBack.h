@@ -12,6 +12,7 @@ namespace plotsmith {
 /// Reads back all settings of a chart. A chart without series, such as one that waits for its first refresh,
 /// doesn't change the definition. Raises the errors that the functions below don't report themselves.
 void RevEngineerChart(const runtime::Ref<excel::Chart>& oChart, dom::IXMLDOMDocument2& oChartDoc);
+/// Reads the title of the chart.
 void RevEngineerChartTitle(const runtime::Ref<excel::Chart>& oChart, dom::IXMLDOMDocument2& oChartDoc);
 /// Reads the chart type and the settings that are part of it.
 void RevEngineerChartType(const runtime::Ref<excel::Chart>& oChart, dom::IXMLDOMDocument2& oChartDoc);

@@ -17,8 +17,8 @@ namespace {
 namespace fs = std::filesystem;
 using S = std::string;
 
-/// A definition after the read-back in one line: "column 3D stacked | title | label axis | value axis |
-/// legend | labels | format", fonts as "Calibri 10 Bold 0".
+/// Returns a definition after the read-back in one line: "column 3D stacked | title | label axis | value axis
+/// | legend | labels | format". Fonts are in the format "Calibri 10 Bold 0".
 S Summary(const dom::IXMLDOMDocument2& document) {
   const auto chart = document.documentElement();
   std::map<S, S> persisted;
@@ -67,7 +67,7 @@ class ReadBackTest : public test::ChartTest {
   }
 };
 
-/// What stands in tests/readback/corpus.tsv: of each chart by file and number what the read-back says.
+/// Returns the expected read-back of each chart by file and number, from tests/readback/corpus.tsv.
 std::map<S, S> ExpectedOfCorpus() {
   std::map<S, S> expected;
   std::ifstream file(fs::path(test::kSourceFolder) / "tests" / "readback" / "corpus.tsv");
@@ -102,9 +102,9 @@ TEST_F(ReadBackTest, ChartsAsExcelAndOthersSavedThem) {
 
 struct Case {
   const char* what;
-  S chart;     ///< inside c:chart
-  S behind;    ///< behind it, in c:chartSpace
-  S expected;  ///< the summary, or a part of it
+  S chart;     ///< The contents of c:chart.
+  S behind;    ///< The elements after it, in c:chartSpace.
+  S expected;  ///< The summary, or a part of it.
 };
 
 S Bar(const S& insideGroup, const S& axes = "") {

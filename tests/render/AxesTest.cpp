@@ -15,7 +15,7 @@ using Texts = std::vector<S>;
 
 class AxesTest : public DrawingTest {
  protected:
-  /// A clustered column or bar chart of one series.
+  /// Draws a clustered column or bar chart with one series.
   Drawing DrawWith(const std::vector<double>& values, const S& value, const S& category = "",
                    const Texts& names = {}, bool horizontal = false, double width = 384) {
     const S first =
@@ -92,7 +92,7 @@ TEST_F(AxesTest, AnAxisLiesWhereItCrossesTheOther) {
   struct {
     const char* what;
     S category, value;
-    double share;  // of the plot area's height, from the bottom
+    double share;  // A share of the plot area's height, from the bottom.
     bool labelsBelowPlot;
   } cases[] = {
       {"at zero", "", "", 1.0 / 3, false},
@@ -109,7 +109,7 @@ TEST_F(AxesTest, AnAxisLiesWhereItCrossesTheOther) {
     EXPECT_NEAR(BoxOf(drawing, Role::kAxisLine, 1).top, plot.Bottom() - plot.height * test.share, 1e-6)
         << test.what;
     EXPECT_EQ(BoxOf(drawing, Role::kTickLabel, 1).top >= plot.Bottom(), test.labelsBelowPlot) << test.what;
-    // a bar goes from the axis to its value, up or down
+    // A bar extends from the axis to its value, up or down.
     const double axis = BoxOf(drawing, Role::kAxisLine, 1).top;
     const auto bars = BoxesOf(drawing, Role::kBar);
     ASSERT_EQ(bars.size(), 2u) << test.what;
@@ -128,7 +128,8 @@ TEST_F(AxesTest, AreasAndDropLinesEndAtTheCategoryAxisUnlessTheyAreStacked) {
     const char* what;
     S group, grouping, last;
     Role role;
-    double top, bottom;  // of what is drawn, as shares of the plot area's height from the bottom
+    double top,
+        bottom;  // The bounds of the drawn items, as shares of the plot area's height from the bottom.
   } cases[] = {
       {"areas", "areaChart", "standard", "", Role::kArea, 0.75, 0.1},
       {"stacked areas", "areaChart", "stacked", "", Role::kArea, 0.75, 0},
@@ -157,14 +158,14 @@ TEST_F(AxesTest, LabelsOfBarsThatHangFromTheirAxisAreBelowThem) {
   EXPECT_LE(labels[1].Bottom(), bars[1].top);
 }
 
-/// How the labels of the category axis look.
+/// The look of the labels on the category axis.
 struct LabelCase {
   const char* name;
   std::size_t count;
-  S text;  // the number of the category goes behind it
+  S text;  // The text before the number of the category.
   S axis;
   double rotation;
-  bool all;  // no label is left out
+  bool all;  // Whether all labels are drawn.
 };
 
 class CategoryLabelsTest : public AxesTest, public ::testing::WithParamInterface<LabelCase> {};
@@ -265,7 +266,7 @@ TEST_F(AxesTest, LinesAndAreasGoFromDateToDate) {
     const char* group;
     Role role;
     bool hasDates;
-    std::vector<double> places;  // in shares of the way from the first point to the farthest
+    std::vector<double> places;  // As shares of the distance from the first to the last point.
   } cases[] = {{"lineChart", Role::kLine, true, {0, 0.5, 1}},
                {"areaChart", Role::kArea, true, {0, 0.5, 1}},
                {"lineChart", Role::kLine, false, {0, 0.5, 1}}};
@@ -281,7 +282,7 @@ TEST_F(AxesTest, LinesAndAreasGoFromDateToDate) {
       const double way = steps[2].to.x - steps[0].to.x;
       EXPECT_NEAR(steps[i].to.x, steps[0].to.x + way * test.places[i], 1e-6) << test.group << i;
     }
-    // by date the values rise, and as they come they don't
+    // The values increase by date, but not in the order of the cells.
     EXPECT_EQ(steps[1].to.y > steps[2].to.y, test.hasDates) << test.group;
   }
 }
@@ -336,7 +337,7 @@ TEST_F(AxesTest, TitlesStandOutsideOfTheLabels) {
   EXPECT_LT(BoxOf(drawing, Role::kTickLabel, 1).Bottom(), BoxOf(drawing, Role::kAxisTitle, 1).top);
   EXPECT_NEAR(BoxOf(drawing, Role::kAxisTitle, 1).Center().x, BoxOf(drawing, Role::kPlotArea).Center().x,
               0.5);
-  // a horizontal title by hand
+  // The title was set to horizontal by hand.
   const Drawing flat = DrawWith({1, 2}, title("Sales", "<a:bodyPr rot=\"0\" vert=\"horz\"/>"));
   EXPECT_EQ(std::get<render::TextItem>(ItemsOf(flat, Role::kAxisTitle, 2)[0].content).rotation, 0);
 }

@@ -12,7 +12,7 @@ using render::Rect;
 using render::Role;
 using S = std::string;
 
-/// How values of three categories become bars.
+/// The bars for the values of three categories.
 struct BarCase {
   const char* name;
   const char* direction;
@@ -57,7 +57,7 @@ TEST_P(BarsTest, AreAsLongAsTheirValues) {
       EXPECT_NEAR(Thickness(boxes[i]), Thickness(boxes[0]), 1e-9);
     }
   }
-  // half a bar's width is the gap, so a category is two and a half bars wide, or one and a half
+  // The gap is half a bar's width, so a category is two and a half bars wide, or one and a half.
   const Rect plot = BoxOf(drawing, Role::kPlotArea);
   const double slots = S(GetParam().grouping) == "clustered" ? 2.5 : 1.5;
   EXPECT_NEAR(Thickness(BoxesOf(drawing, Role::kBar)[0]) * slots * 3, Thickness(plot), 1e-6);
@@ -126,7 +126,7 @@ TEST_F(DrawingTest, BarsBelowZeroAreInvertedWhereTheFileWantsIt) {
   struct {
     const char* what;
     S group, series, behind;
-    std::vector<S> fills;  // of the values 4, -3 and -1
+    std::vector<S> fills;  // The fillings for the values 4, -3 and -1.
   } cases[] = {
       {"as it is", "", solid("FF0000") + keep, "", {"#FF0000", "#FF0000", "#FF0000"}},
       {"white", "", solid("FF0000") + invert, "", {"#FF0000", "#FFFFFF", "#FFFFFF"}},
@@ -154,7 +154,7 @@ TEST_F(DrawingTest, BarsBelowZeroAreInvertedWhereTheFileWantsIt) {
           Draw(PlotXml(GroupXml(kind, "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>" + test.group,
                                 SeriesXml(0, {4, -3, -1}, test.series, test.behind)) +
                        AxesXml()));
-      std::map<int, S> fills;  // by the point; of the faces in 3-D the front is painted last
+      std::map<int, S> fills;  // By point. The front face of a 3-D bar is painted last.
       for (const auto& item : ItemsOf(drawing, Role::kBar)) fills[item.tag.point] = FillOf(item);
       std::vector<S> found;
       for (const auto& [number, fill] : fills) found.push_back(fill);

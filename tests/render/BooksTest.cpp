@@ -17,16 +17,16 @@ namespace fs = std::filesystem;
 using namespace test;
 using S = std::string;
 
-/// About what charts of those books have; places in fractions and fonts in points fit together then.
+/// A typical size of the charts in these workbooks, for which positions (in fractions) and fonts (in points)
+/// fit together.
 constexpr double kWidth = 720, kHeight = 432;
 
-/// The plot area was laid out by hand so that it ends at the chart's edge, and its labels are cut off in
-/// Excel.
+/// The plot area has a manual layout that ends at the chart's edge, so Excel also cuts its labels off.
 const std::set<S> kLabelsOutside = {"32readwriteComboChart1.xlsx"};
 
 class BooksTest : public DrawingTest {
  protected:
-  /// Draws all charts of a workbook, and looks at them. The number of those that can be read.
+  /// Draws and checks all charts of a workbook. Returns the number of readable charts.
   int DrawAll(const fs::path& book) {
     int drawn = 0;
     OpenFile(book.string());

@@ -62,7 +62,7 @@ TEST_F(DataLabelsTest, StandWhereTheirPositionSaysAtBars) {
       const auto bars = BoxesOf(drawing, Role::kBar), labels = BoxesOf(drawing, Role::kDataLabel);
       ASSERT_EQ(labels.size(), 3u);
       for (std::size_t i = 1; i < 3; ++i) {
-        // how far the label's middle is from the base of the bar, in lengths of the bar
+        // The distance of the label's middle from the base of the bar, in bar lengths.
         const bool flat = direction == "bar";
         const double length = flat ? bars[i].width : bars[i].height;
         const double base =
@@ -126,7 +126,7 @@ TEST_F(DataLabelsTest, OfPiesAreInsideOfTheirSliceOrOutsideOfTheCircle) {
   for (const double share : distances(draw("inEnd", {20, 80})))
     EXPECT_TRUE(share > 0.7 && share < 1) << share;
   for (const double share : distances(draw("ctr", {20, 80}))) EXPECT_NEAR(share, 0.5, 0.02);
-  // what doesn't fit into its slice stands outside, and the circle makes room
+  // A label that doesn't fit into its slice is outside, and the circle becomes smaller.
   const Drawing best = draw("bestFit", {1, 99});
   const auto fitted = distances(best);
   ASSERT_EQ(fitted.size(), 2u);

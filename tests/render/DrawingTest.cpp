@@ -35,7 +35,7 @@ std::string Axis(const char* element, int number, int other, const char* side, c
          std::to_string(other) + "\"/></c:" + element + ">";
 }
 
-/// The corners of a turned text.
+/// Returns the corners of a rotated text.
 std::array<Point, 4> CornersOf(const TextItem& text) {
   using render::TextAlign;
   const double shift = text.align == TextAlign::kStart    ? 0
@@ -50,7 +50,7 @@ std::array<Point, 4> CornersOf(const TextItem& text) {
           at(text.width - shift, text.descent), at(-shift, text.descent)};
 }
 
-/// Whether a line in the direction of one of the first one's edges parts two turned texts.
+/// Returns true if a line parallel to an edge of the first text separates two rotated texts.
 bool ArePartedBy(const std::array<Point, 4>& a, const std::array<Point, 4>& b) {
   constexpr double kSlack = 0.3;  // points
   for (int edge = 0; edge < 2; ++edge) {
@@ -67,7 +67,7 @@ bool ArePartedBy(const std::array<Point, 4>& a, const std::array<Point, 4>& b) {
 
 std::string LabelComplaints(const Drawing& drawing) {
   std::string complaints;
-  std::map<int, std::vector<std::pair<int, const TextItem*>>> labels;  // by the number of the axis
+  std::map<int, std::vector<std::pair<int, const TextItem*>>> labels;  // The labels by axis number.
   for (const Item& item : drawing.items) {
     const auto* text = std::get_if<TextItem>(&item.content);
     if (text != nullptr && item.tag.role == Role::kTickLabel)
@@ -75,7 +75,7 @@ std::string LabelComplaints(const Drawing& drawing) {
   }
   for (const auto& [axis, list] : labels) {
     for (std::size_t i = 1; i < list.size(); ++i) {
-      const bool same = list[i].first == list[i - 1].first;  // lines of one label
+      const bool same = list[i].first == list[i - 1].first;  // These are lines of one label.
       const auto a = CornersOf(*list[i - 1].second), b = CornersOf(*list[i].second);
       if (same || ArePartedBy(a, b) || ArePartedBy(b, a)) continue;
       complaints += "axis " + std::to_string(axis) + ": \"" + list[i - 1].second->text + "\" lies on \"" +

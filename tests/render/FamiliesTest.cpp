@@ -25,7 +25,7 @@ class FamiliesTest : public DrawingTest {
         PlotXml("<c:pieChart><c:varyColors val=\"1\"/>" + SeriesXml(0, values, more) + last + "</c:pieChart>",
                 behind));
   }
-  /// A bubble chart of one series; each bubble is X, Y and size.
+  /// Draws a bubble chart with one series. Each bubble is X, Y and size.
   Drawing DrawBubbles(const std::vector<std::array<double, 3>>& bubbles, const S& last) {
     const auto data = [&](const char* element, std::size_t which) {
       S xml = "<c:" + S(element) + "><c:numLit><c:ptCount val=\"" + std::to_string(bubbles.size()) + "\"/>";
@@ -43,7 +43,8 @@ class FamiliesTest : public DrawingTest {
   }
 };
 
-/// The angles in degrees at which a slice begins and ends, clockwise from twelve o'clock about its point.
+/// Returns the angles in degrees at which a slice begins and ends, clockwise from twelve o'clock around its
+/// tip.
 std::pair<double, double> AnglesOf(const Item& slice) {
   const auto& steps = std::get<PathItem>(slice.content).path.Steps();
   const Point center = steps[0].to;
@@ -55,7 +56,7 @@ std::pair<double, double> AnglesOf(const Item& slice) {
 }
 
 TEST_F(FamiliesTest, SlicesShareTheCircleByTheirValues) {
-  const std::vector<double> values = {30, 10, -20, 60};  // a pie counts how far from zero a value is
+  const std::vector<double> values = {30, 10, -20, 60};  // A pie uses the absolute values.
   const Drawing drawing = DrawPie(values, "", "<c:firstSliceAng val=\"90\"/>");
   const auto slices = ItemsOf(drawing, Role::kSlice);
   ASSERT_EQ(slices.size(), 4u);
@@ -80,7 +81,7 @@ TEST_F(FamiliesTest, ExplodedSlicesMoveOutAlongTheirMiddle) {
   const double radius = after[0].width;
   EXPECT_NEAR(before[0].left, before[1].Right(), 1e-6);
   EXPECT_NEAR(after[0].left - after[1].Right(), 2 * 0.25 * radius, 1e-6);
-  EXPECT_NEAR(before[0].width, radius * 1.25, 1e-6);  // so that the moved slices keep to the same place
+  EXPECT_NEAR(before[0].width, radius * 1.25, 1e-6);  // The moved slices must stay in the same area.
 }
 
 TEST_F(FamiliesTest, OnlyTheOutermostRingOfADoughnutExplodes) {
@@ -88,7 +89,8 @@ TEST_F(FamiliesTest, OnlyTheOutermostRingOfADoughnutExplodes) {
   struct {
     const char* what;
     S first, second;
-    double width, moved;  // of the outer ring in shares of the plot area, and of its halves in radii
+    double width, moved;  // The width of the outer ring as a share of the plot area, and the distance of its
+                          // halves in radii.
   } cases[] = {{"none", "", "", 1, 0}, {"inner", explosion, "", 1, 0}, {"outer", "", explosion, 0.8, 0.25}};
   for (const auto& test : cases) {
     const Drawing drawing =
@@ -133,7 +135,7 @@ TEST_F(FamiliesTest, PointsAreDrawnAlongAnAxisOfCategoriesAsWell) {
   struct {
     const char* what;
     S groups;
-    double first, second;  // in shares of the plot area's width
+    double first, second;  // As shares of the plot area's width.
     std::vector<S> labels;
   } cases[] = {
       {"alone", scatter, 1.0 / 3, 2.5 / 3, {"0", "0.5", "1", "1.5", "2", "2.5", "3"}},
@@ -154,7 +156,7 @@ TEST_F(FamiliesTest, BubblesShowTheirSizeAsAreaOrAsWidth) {
   const std::vector<std::array<double, 3>> bubbles = {{1, 1, 100}, {2, 3, 25}, {3, 2, -50}, {4, 4, 0}};
   struct {
     const char* last;
-    std::vector<double> shares;  // of the largest width
+    std::vector<double> shares;  // As shares of the largest width.
   } cases[] = {
       {"", {1, 0.5}},
       {"<c:sizeRepresents val=\"w\"/>", {1, 0.25}},
@@ -188,7 +190,7 @@ TEST_F(FamiliesTest, LinesAndAreasGoThroughTheirValues) {
   EXPECT_NEAR(markers[0].Center().y, plot.Bottom() - plot.height * 0.2, 1e-6);
   EXPECT_NEAR(markers[1].Center().y, plot.top, 1e-6);
   EXPECT_NEAR(markers[2].Center().x, plot.left + plot.width * 3.5 / 4, 1e-6);
-  // the value before the gap is alone, so that only the last two are joined
+  // The value before the gap is alone, so only the last two are connected.
   const Rect line = BoxOf(lines, Role::kLine);
   EXPECT_NEAR(line.left, markers[1].Center().x, 1e-6);
   EXPECT_NEAR(line.Right(), markers[2].Center().x, 1e-6);
@@ -206,8 +208,8 @@ TEST_F(FamiliesTest, LinesAndAreasGoThroughTheirValues) {
   }
 }
 
-/// The heights in shares of a 10 high axis at which the line of a series goes through its points; a piece
-/// behind a gap begins with NaN.
+/// Returns the heights at which the line of a series passes its points, on an axis from 0 to 10. A part after
+/// a gap begins with NaN.
 std::vector<double> HeightsOf(const Drawing& drawing, int series) {
   const Rect plot = BoxOf(drawing, Role::kPlotArea);
   std::vector<double> heights;
@@ -224,7 +226,7 @@ TEST_F(FamiliesTest, BlanksOfLinesAreGapsUnlessTheFileSaysOtherwise) {
   constexpr double kGap = kNoValue;
   struct {
     const char *grouping, *behind;
-    std::vector<double> upper;  // where the second series is drawn
+    std::vector<double> upper;  // The positions of the second series.
   } cases[] = {
       {"standard", "", {1, 1, kGap, 1, 1}},
       {"standard", "<c:dispBlanksAs val=\"gap\"/>", {1, 1, kGap, 1, 1}},
@@ -310,7 +312,7 @@ TEST_F(FamiliesTest, NamesWithoutACacheAreThoseOfTheCells) {
       "<c:tx><c:strRef><c:f>Sheet1!$C$1</c:f><c:strCache><c:ptCount val=\"1\"/><c:pt idx=\"0\"><c:v>"
       "Held</c:v></c:pt></c:strCache></c:strRef></c:tx>";
   const S columns = "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>";
-  // the cells of the first sheet that the cases show
+  // Draw a chart to make the cells that the cases use.
   Draw(PlotXml(""));
   const auto sheet = Book().FindWorksheet("Sheet1");
   std::string scratch;

@@ -14,7 +14,7 @@ using render::Drawing;
 using render::Role;
 using S = std::string;
 
-/// Chart parts as no program writes them by mistake.
+/// Malicious chart parts, which no program writes by mistake.
 struct HostileCase {
   const char* name;
   S chart;

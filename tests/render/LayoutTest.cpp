@@ -57,7 +57,7 @@ TEST_F(LayoutTest, TheLegendTakesItsSide) {
     if (position == "tr") {
       EXPECT_LT(entries.top, 15);
     }
-    // a key for each entry, on its line and in front of it
+    // Each entry has a key, on its line and before it.
     const auto keys = ItemsOf(drawing, Role::kLegendKey);
     const auto texts = BoxesOf(drawing, Role::kLegendEntry);
     ASSERT_EQ(keys.size(), 3u);
@@ -151,7 +151,7 @@ TEST_F(LayoutTest, TitlesBreakKeepTheirRunsAndMakeRoom) {
   EXPECT_NEAR(BoxOf(with, Role::kTitle).Center().x, 192, 0.01);
   EXPECT_LT(BoxOf(with, Role::kTitle).Bottom(), BoxOf(with, Role::kPlotArea).top);
   EXPECT_LT(BoxOf(without, Role::kPlotArea).top, BoxOf(with, Role::kPlotArea).top);
-  // one that lies over the plot area takes no room
+  // An overlaying title takes no space.
   S overlay = title;
   overlay.insert(overlay.find("</c:title>"), "<c:overlay val=\"1\"/>");
   EXPECT_EQ(BoxOf(DrawColumns("", "", overlay), Role::kPlotArea), BoxOf(without, Role::kPlotArea));
@@ -266,7 +266,7 @@ TEST_F(LayoutTest, FillingsAndLinesAreTheChartParts) {
   EXPECT_EQ(first.stroke.cap, render::LineCap::kRound);
   EXPECT_EQ(FillOf(bars[1]), "none");
   EXPECT_EQ(std::get<PathItem>(bars[1].content).stroke.width,
-            2);  // a point takes over what it doesn't change
+            2);  // A point inherits the properties that it doesn't set.
   EXPECT_EQ(FillOf(ItemsOf(drawing, Role::kPlotArea)[0]), "#FFFF99");
   const auto area = ItemsOf(drawing, Role::kChartArea)[0];
   EXPECT_EQ(FillOf(area), "#EEEEEE");

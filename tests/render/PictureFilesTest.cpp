@@ -133,7 +133,7 @@ TEST_F(PictureFilesTest, NumbersAreShort) {
 
 TEST_F(PictureFilesTest, PngIsTheSameOnEveryRunAndAsLargeAsAsked) {
   const Drawing drawing = Columns(3, 4);
-  render::Fonts others;  // nothing that was drawn before may matter
+  render::Fonts others;  // Earlier drawings must have no effect.
   const S png = MakePng(drawing, SharedFonts(), 96);
   EXPECT_EQ(png, MakePng(drawing, others, 96));
   EXPECT_EQ(png.substr(0, 8), "\x89PNG\r\n\x1A\n");
@@ -167,7 +167,7 @@ TEST_F(PictureFilesTest, LinesAndEdgesOfPicturesLieOnPixels) {
   const Path line = Path().MoveTo({10, 20.3}).LineTo({30, 20.3});
   expectNear(places(line, 0.75), {13.5, 27.5, 40.5, 27.5});  // one pixel
   expectNear(places(line, 1.5), {13, 27, 40, 27});           // two
-  // pieces that touch still do
+  // Adjacent paths stay adjacent.
   const Path lower = Path().AddRect({0, 10.2, 3, 5}), upper = Path().AddRect({0, 4, 3, 6.2});
   EXPECT_EQ(OnPixels(lower, scale, 0).Bounds().top, OnPixels(upper, scale, 0).Bounds().Bottom());
   EXPECT_NEAR(render::WidthOnPixels(0.25, scale), 0.75, 1e-9);
@@ -205,7 +205,7 @@ TEST_F(PictureFilesTest, FontsMeasureAsTheFilesSay) {
     return SharedFonts().Measure(text, font).width;
   };
   const render::Font calibri{"Calibri", 10};
-  // the advance widths of the font, in thousandths of an em
+  // Compare with the advance widths of the font, in thousandths of an em.
   EXPECT_NEAR(width("n", calibri), 5.25, 0.03);
   EXPECT_NEAR(width("nnnn", {"Calibri", 20}), 4 * 10.5, 0.1);
   EXPECT_NEAR(width("A", {"Arial", 10}), 6.67, 0.03);

@@ -48,7 +48,7 @@ TEST(MergedCellsTest, HoldTheSameCellsAsTheirRangesInAnyOrderOfRows) {
 }
 
 TEST(PageCutsTest, PagesHoldWholeRowsAndColumnsUpToBreaks) {
-  // a room of 100 by 100 points; columns of 30 and rows of 40, row 3 hidden
+  // The printable area is 100 by 100 points. Columns are 30 and rows 40 points; row 3 is hidden.
   xlsx::PageSetup plain;
   plain.paperWidth = plain.paperHeight = 120;
   plain.left = plain.right = plain.top = plain.bottom = 10;
@@ -76,9 +76,9 @@ TEST(PageCutsTest, PagesHoldWholeRowsAndColumnsUpToBreaks) {
        {{1, 1, 5, 1}},
        "A1:A1 A2:A4 A5:A5 "},
       {with([](auto& setup) { setup.columnBreaks = {2}; }), {{1, 1, 1, 4}}, "A1:B1 C1:D1 "},
-      // more than a page is wide still takes a page
+      // A column that is wider than a page takes a page.
       {with([](auto& setup) { setup.scale = 4; }), {{1, 1, 2, 1}}, "A1:A1 A2:A2 ", 4},
-      // 4 columns are 120 points, 6 rows 200: so is the scale, and breaks don't count
+      // 4 columns are 120 points and 6 rows are 200 points, which gives the scale. Breaks are ignored.
       {with([](auto& setup) {
          setup.fits = true;
          setup.rowBreaks = {1};
@@ -146,8 +146,8 @@ TEST(CellLinesTest, NumbersThatDontFitLoseDecimalsOrAreMarks) {
     EXPECT_EQ(FittedNumber(c.number, c.text, c.general, c.width, CountedWidth), c.fitted) << c.text;
 }
 
-/// The pages of a sheet, in a workbook with a bold style (1), one with a red filling and a line below (2),
-/// one that wraps (3), one in the centre (4) and a number format (5).
+/// Tests the pages of a sheet in a workbook with these styles: bold (1), a red filling and a line below (2),
+/// wrapped (3), centred (4), a number format (5).
 class SheetPagesTest : public test::DrawingTest {
  protected:
   static constexpr const char* kStyles =
@@ -191,7 +191,7 @@ TEST_F(SheetPagesTest, CellsHaveTheirTextsFillingsAndBorders) {
   EXPECT_EQ(bold.font, (Font{"Arial", 20, true, false, false}));
   EXPECT_EQ(HexOf(bold.color), "#0000FF");
   const auto boxes = BoxesOf(page, Role::kCellText);
-  // in the first cell at the left, in the second at the right, and in the middle
+  // The text is left-aligned in the first cell, right-aligned in the second, and centred.
   const double column = 48, left = 50.4;
   EXPECT_NEAR(boxes[0].left, left + 1.5, 0.01);
   EXPECT_NEAR(boxes[1].Right(), left + 2 * column - 1.5, 0.01);
@@ -210,7 +210,7 @@ TEST_F(SheetPagesTest, LongTextsGoOverEmptyCellsOnlyAndWrapWhereTheyAreTo) {
   const struct {
     std::vector<test::PlainRow> rows;
     std::size_t lines;
-    bool clipped;  ///< at the end of the cell
+    bool clipped;  ///< Whether the text is clipped at the end of the cell.
   } cases[] = {
       {{{words}}, 1, false},
       {{{words, 1.0}}, 2, true},

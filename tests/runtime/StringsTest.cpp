@@ -9,11 +9,11 @@ namespace {
 TEST(StringsTest, CountInUtf16Units) {
   const std::string clef =
       "a\xF0\x9D\x84\x9E"
-      "b";  // U+1D11E takes two units
+      "b";  // U+1D11E has two units.
   EXPECT_EQ(Len(clef), 4u);
   EXPECT_EQ(Mid(clef, 4, 9), "b");
   EXPECT_EQ(Mid("abc", 4, 1), "");
-  // a cut through a pair leaves halves that make a whole again when they are joined
+  // A cut through a pair leaves two halves, which are a character again when they are joined.
   EXPECT_EQ(ToUtf8(ToUtf16(Mid(clef, 1, 2)) + ToUtf16(Mid(clef, 3, 2))), clef);
   EXPECT_EQ(ToUtf16("\xFF\xC3"), (std::u16string{0xFFFD, 0xFFFD}));
 }

@@ -17,8 +17,8 @@ namespace fs = std::filesystem;
 using test::RunCommand;
 using S = std::string;
 
-/// Files that can't be opened, and what is said of them. A file that opens although it stands here fails the
-/// test as well.
+/// The files that can't be opened, and their error messages. The test also fails if one of them can be
+/// opened.
 const std::map<S, S> kRefused = {
     {"54764-2.xlsx", "it declares a document type"},
     {"60320-protected.xlsx", "encrypted"},
@@ -59,7 +59,7 @@ class CorpusTest : public ::testing::Test {
   void SetUp() override {
     if (Corpus().empty()) GTEST_SKIP() << "the corpus isn't there";
   }
-  /// The parts of the second file that differ from the first's, or are new or gone.
+  /// Returns the parts that differ between the files or exist in only one of them.
   std::set<S> Changed(const S& first, const S& second) {
     const auto before = xlsx::Package::Open(first), after = xlsx::Package::Open(second);
     std::set<S> changed;
@@ -107,7 +107,7 @@ TEST_F(CorpusTest, LibreOfficeOpensWhatWasSaved) {
   std::set<S> stems;
   for (const fs::path& path : Corpus()) {
     const bool broken = path.parent_path().filename() == "broken";
-    // LibreOffice doesn't open this one as it came, either: the names in it have backslashes
+    // LibreOffice doesn't open the original file either, because its names contain backslashes.
     if (path.filename() == "Zip-Windows-Directory-Separator.xlsx") continue;
     if (broken || kRefused.contains(path.filename().string())) continue;
     const S out = folder_ / ("saved/" + path.filename().string());
@@ -132,8 +132,8 @@ TEST_F(CorpusTest, RefreshTouchesOnlyWhatIsItsOwn) {
       ADD_FAILURE() << err;
       continue;
     }
-    // no corpus workbook has a definition: what comes in is the sheet for them, and the palette of a workbook
-    // that has no chart
+    // No workbook of the corpus has a definition, so only the sheet for definitions is added, and the palette
+    // if there is no chart.
     const auto before = xlsx::Package::Open(path.string());
     for (const S& part : Changed(path.string(), out)) {
       const bool sheet = part.find("/worksheets/") != S::npos && part.ends_with(".xml");

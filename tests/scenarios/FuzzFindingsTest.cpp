@@ -12,8 +12,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Inputs that the fuzzers once found, or that somebody made of a fault found otherwise. Each crashed, hung
-/// or ate memory, or would where nobody takes care.
+/// Runs inputs that the fuzzers have found, or that were written for errors that were found otherwise. Each
+/// of them has caused a crash, a hang or unbounded memory use.
 TEST(FuzzFindingsTest, WhatOnceFailedIsMended) {
   const fs::path findings = fs::path(test::kSourceFolder) / "fuzz" / "findings";
   std::set<std::string> folders, targets;

@@ -20,7 +20,7 @@ void Replace(S& text, const S& from, const S& to) {
   text.replace(at, from.size(), to);
 }
 void InsertBefore(S& text, const S& mark, const S& what) { Replace(text, mark, what + mark); }
-/// Replaces all from the first of `from` to the next `to`, which stays.
+/// Replaces the text from the first `from` up to the next `to`, which is kept.
 void ReplaceSpan(S& text, const S& from, const S& to, const S& what) {
   const auto begin = text.find(from);
   ASSERT_NE(begin, S::npos) << from << " isn't in " << text;
@@ -29,7 +29,7 @@ void ReplaceSpan(S& text, const S& from, const S& to, const S& what) {
 
 class HandEditsTest : public test::HostTest {
  protected:
-  /// What another program does to the saved file in between.
+  /// Changes the saved file, as another program could.
   void Edit(const std::function<void(xlsx::Package&)>& edit) {
     auto package = xlsx::Package::Open(folder_ / "saved.xlsx");
     edit(package);
@@ -58,13 +58,13 @@ const S kGradient =
     "pos=\"100000\"><a:srgbClr "
     "val=\"4472C4\"/></a:gs></a:gsLst><a:lin ang=\"5400000\"/></a:gradFill></c:spPr>";
 
-/// One thing that a person does to a chart, as it stands in the file, and what must be there two refreshes
-/// later.
+/// A change that a person makes to a chart, as it is stored in the file, and the expected contents after two
+/// refreshes.
 struct HandEdit {
   const char* what;
   std::function<void(S& xml)> edit;
-  std::vector<S> chart;       ///< in the chart part
-  std::vector<S> definition;  ///< in the definition
+  std::vector<S> chart;       ///< Expected in the chart part.
+  std::vector<S> definition;  ///< Expected in the definition.
 };
 
 TEST_F(HandEditsTest, WhatAPersonDidToAChartSurvives) {
@@ -275,8 +275,7 @@ TEST_F(HandEditsTest, AChartIsFoundOnWhicheverSheetItIsMovedTo) {
 
 TEST_F(HandEditsTest, ChartsThatLostTheirMarkersAreKnownByTheirData) {
   auto book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "bar"}});
-  book.Sheet("Charts").frames.push_back(
-      {"", ""});  // somebody else's, without an alternative text from the start
+  book.Sheet("Charts").frames.push_back({"", ""});  // A foreign chart, which never had an alternative text.
   Open(book);
   Refresh();
   const auto sheet = Book().FindWorksheet("Charts");
@@ -302,7 +301,7 @@ TEST_F(HandEditsTest, ChartsThatLostTheirMarkersAreKnownByTheirData) {
   EXPECT_NE(Cells("VEX_ChartDefinitions", 3, 1, 3, 1).find("<comment>Said of"), S::npos);
   EXPECT_TRUE(Messages().empty());
 
-  // a chart that is gone stays gone
+  // A deleted chart isn't restored.
   shapes->Item(1)->Delete();
   Refresh();
   EXPECT_EQ(Cells("VEX_ChartDefinitions", 2, 1, 3, 1).find("VEX_Chart1"), S::npos);

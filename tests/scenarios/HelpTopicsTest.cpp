@@ -40,7 +40,7 @@ S FileText(const fs::path& path) {
   return S(std::istreambuf_iterator<char>(file), {});
 }
 
-/// The words of a text with one blank between them.
+/// Returns the words of a text, separated by single blanks.
 S Words(const S& text) {
   std::istringstream words(text);
   S result;
@@ -48,7 +48,7 @@ S Words(const S& text) {
   return result;
 }
 
-/// A message as the help writes it: "NAME" in the place of a name.
+/// Returns a message in the format of the help, with "NAME" in place of names.
 S WithoutNames(const S& message) {
   return Words(std::regex_replace(message, std::regex("'(/TKN/|Data[0-9])'"), "'NAME'"));
 }
@@ -59,12 +59,12 @@ S TextOf(const pugi::xml_node& node) {
   return Words(text);
 }
 
-/// A file of the help.
+/// A help file.
 struct HelpFile {
   pugi::xml_document document;
-  S text;                 ///< all of its words
-  std::set<S> described;  ///< texts of headings, of first cells and list entries, and code in cells
-  std::set<S> cells;      ///< texts of table cells
+  S text;                 ///< All words.
+  std::set<S> described;  ///< The texts of headings, of first cells and list entries, and code in cells.
+  std::set<S> cells;      ///< The texts of table cells.
 };
 
 HelpFile Read(const S& name) {
@@ -81,7 +81,7 @@ HelpFile Read(const S& name) {
 
 /// A row of topics.tsv.
 struct TopicRow {
-  std::int32_t number;  ///< 0 for a file that no page opens
+  std::int32_t number;  ///< The number; 0 for a file that no page opens.
   S file, title;
 };
 
@@ -104,15 +104,15 @@ std::vector<TopicRow> TopicRows() {
   return rows;
 }
 
-/// What a page showed before its Help button was pressed.
+/// The texts of a page when its Help button was pressed.
 struct PageTexts {
   S form, caption;
-  std::set<S> captions;  ///< of its controls
+  std::set<S> captions;  ///< The captions of its controls.
   std::set<S> messages;
 };
 using TextsByTopic = std::map<std::int32_t, PageTexts>;
 
-/// Notes the messages, answers Cancel, and knows which topic was asked for last.
+/// Records the messages, answers Cancel, and stores the last requested topic.
 class NotingDesktop final : public cli::ConsoleDesktop {
  public:
   std::int32_t MsgBox(std::string_view text, desktop::Buttons, desktop::Icon, std::string_view) override {
@@ -121,11 +121,11 @@ class NotingDesktop final : public cli::ConsoleDesktop {
   }
   void ShowHelp(std::intptr_t, const S&, std::int32_t topic) override { asked = topic; }
 
-  std::set<S> messages;               ///< since the last page was noted
-  std::optional<std::int32_t> asked;  ///< and not noted yet
+  std::set<S> messages;               ///< The messages since the last page was recorded.
+  std::optional<std::int32_t> asked;  ///< The requested topic that was not recorded yet.
 };
 
-/// The lines of a script. It notes the open page each time its Help button was pressed.
+/// The lines of a script. It records the open page each time its Help button was pressed.
 class NotingLines final : public forms::LineSource {
  public:
   NotingLines(const S& script, NotingDesktop& desktop, TextsByTopic& texts)
@@ -157,7 +157,7 @@ class NotingLines final : public forms::LineSource {
   TextsByTopic& texts_;
 };
 
-/// A way to a page and through what it can complain of. It ends with the Help button.
+/// The lines that lead to a page and cause its messages. They end with the Help button.
 struct Walk {
   PlainBook book;
   S script;
@@ -202,7 +202,7 @@ std::vector<Walk> Walks() {
   return walks;
 }
 
-/// The texts of four words or more in a file of the sources, which are what it says to people.
+/// Returns the texts of at least four words in a source file, which are its messages.
 std::set<S> SentencesOf(const S& file) {
   const std::regex comment("//[^\n]*"), literal("(?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+"), seam("\"\\s*\""),
       lineBreak(R"(\\r\\n)");
@@ -218,7 +218,7 @@ std::set<S> SentencesOf(const S& file) {
 
 class HelpTopicsTest : public test::HostTest {
  protected:
-  /// What all pages say.
+  /// Returns the texts of all pages.
   TextsByTopic PagesTexts() {
     TextsByTopic texts;
     for (const Walk& walk : Walks()) {
@@ -247,7 +247,7 @@ TEST_F(HelpTopicsTest, EachTopicNamesTheControlsAndTheMessagesOfItsPage) {
                                                              {6, 3}, {7, 3}, {8, 6}, {18, 2}};
   for (const auto& [topic, count] : messageCounts) EXPECT_TRUE(pages.contains(topic)) << topic;
   EXPECT_EQ(pages.size(), fileOf.size()) << "topics that no page opens";
-  std::map<S, S> helpOfForm;  // area, bar and column have one form and three topics
+  std::map<S, S> helpOfForm;  // Area, bar and column share a form and have three topics.
   for (const auto& [topic, page] : pages) {
     ASSERT_TRUE(fileOf.contains(topic)) << page.form << " opens topic " << topic;
     SCOPED_TRACE(fileOf.at(topic));
@@ -259,7 +259,7 @@ TEST_F(HelpTopicsTest, EachTopicNamesTheControlsAndTheMessagesOfItsPage) {
     EXPECT_EQ(page.messages.size(), messageCounts.at(topic));
     EXPECT_NE(help.text.find("F1"), S::npos);
   }
-  // what a page says, even if no hand gets there
+  // These messages must be in the help even if no script causes them.
   std::size_t sentences = 0;
   for (const auto& [form, text] : helpOfForm) {
     for (const S& sentence : SentencesOf("pages/" + form + ".cpp")) {

@@ -16,8 +16,8 @@ namespace {
 namespace fs = std::filesystem;
 using S = std::string;
 
-/// An installation into a folder of its own. It is a component, so that the list of files of a developer's
-/// own installation stays.
+/// Installs into a temporary folder. It installs a component, so that the file list of a developer's own
+/// installation isn't changed.
 class InstallTest : public ::testing::Test {
  protected:
   static int Shell(const S& command) { return std::system((command + " > /dev/null").c_str()); }
@@ -56,7 +56,7 @@ TEST_F(InstallTest, EverythingIsInItsPlaceAndGoesAgain) {
             0);
   EXPECT_EQ(Shell(command + " render " + book + " -o " + (folder_ / "charts.pdf")), 0);
 
-  // the pages find each other, their pictures, and the examples
+  // Links between pages, and to pictures and examples, must be valid.
   const std::regex link(R"x((?:\]\(|src=")([^)"#:]+))x");
   int links = 0;
   for (const S& file : files) {

@@ -34,7 +34,7 @@ class KillTest : public ::testing::Test {
     }
     return child;
   }
-  /// Whether the process has a file of the folder open that has no name, or that isn't the workbook.
+  /// Returns true if the process has a file in the folder open that has no name or isn't the workbook.
   bool IsSaving(pid_t process) const {
     std::error_code ignored;
     for (const auto& entry : fs::directory_iterator("/proc/" + std::to_string(process) + "/fd", ignored)) {
@@ -43,7 +43,7 @@ class KillTest : public ::testing::Test {
     }
     return false;
   }
-  /// The files beside the workbook.
+  /// Returns the files beside the workbook.
   std::vector<S> Others() const {
     std::vector<S> others;
     for (const auto& entry : fs::directory_iterator(folder_.Path())) {
@@ -60,7 +60,7 @@ class KillTest : public ::testing::Test {
   S path_;
 };
 
-/// Who kills the program during a save finds the old workbook or the new one, whole, and nothing beside it.
+/// If the program is killed during a save, the complete old or new workbook exists, and no other file.
 TEST_F(KillTest, AKilledSaveLeavesTheOldWorkbookOrTheNewOne) {
   const S before = Bytes(path_);
   int status = 0;
@@ -70,7 +70,8 @@ TEST_F(KillTest, AKilledSaveLeavesTheOldWorkbookOrTheNewOne) {
   const S after = Bytes(path_);
   ASSERT_TRUE(after != before);
   int killedBefore = 0, killedAfter = 0, leftBehind = 0;
-  constexpr int kRounds = 30;  // most of them soon after the save has begun, the last when it is over
+  constexpr int kRounds =
+      30;  // Most rounds kill the program soon after the save has begun, and the last one after its end.
   for (int round = 0; round < kRounds; ++round) {
     std::ofstream(path_, std::ios::binary) << before;
     const pid_t child = Start();
@@ -83,7 +84,7 @@ TEST_F(KillTest, AKilledSaveLeavesTheOldWorkbookOrTheNewOne) {
     const S found = Bytes(path_);
     EXPECT_TRUE(found == before || found == after) << "round " << round;
     ++(found == after ? killedAfter : killedBefore);
-    // between its two names, for some microseconds, the new workbook is there twice
+    // During the rename, the new workbook has two names for some microseconds.
     for (const S& other : Others()) {
       EXPECT_TRUE(Bytes(other) == after) << "round " << round << ' ' << other;
       fs::remove(other);

@@ -19,7 +19,8 @@ namespace {
 using test::Definition;
 using S = std::string;
 
-/// A second reader that no one here wrote: LibreOffice opens what was saved and says what its charts hold.
+/// Tests with LibreOffice as an independent reader: it opens the saved workbook and returns the contents of
+/// its charts.
 class LibreOfficeTest : public test::HostTest {
  protected:
   void SetUp() override {
@@ -33,9 +34,9 @@ class LibreOfficeTest : public test::HostTest {
     EXPECT_EQ(std::system(command.c_str()), 0) << arguments;
   }
 
-  /// Lets a macro work on the saved workbook, as `book`, and stores that as a workbook again.
+  /// Runs a macro on the saved workbook (the variable `book`), and stores the result as a workbook.
   void EditInOffice(const S& statements) {
-    Office("--terminate_after_init");  // makes the profile
+    Office("--terminate_after_init");  // This creates the profile.
     const S url = "file://" + folder_.Path().string();
     std::ofstream(folder_ / "profile/user/basic/Standard/Module1.xba")
         << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<script:module "
@@ -52,12 +53,12 @@ class LibreOfficeTest : public test::HostTest {
     Office("'macro:///Standard.Module1.Main'");
   }
 
-  /// Has LibreOffice write the saved workbook in its own format.
+  /// Converts the saved workbook to LibreOffice's own format.
   xlsx::Archive Convert() {
     Office("--convert-to ods --outdir " + folder_.Path().string() + " " + (folder_ / "saved.xlsx"));
     return xlsx::Archive(folder_ / "saved.ods");
   }
-  /// The text of an entry; nothing if the archive doesn't have it.
+  /// Returns the text of an entry, or nothing if the archive doesn't contain it.
   static std::optional<S> Entry(const xlsx::Archive& archive, const S& name) {
     const auto& entries = archive.Entries();
     const auto entry =
@@ -69,7 +70,8 @@ class LibreOfficeTest : public test::HostTest {
     while (const auto count = stream->Read(text.data() + total, text.size() - total)) total += count;
     return text;
   }
-  /// The saved workbook's charts as LibreOffice writes them, by their number in its package.
+  /// Returns the charts of the saved workbook as LibreOffice writes them, in the order of their numbers in
+  /// its package.
   std::vector<S> Charts() {
     const xlsx::Archive archive = Convert();
     std::vector<S> charts;
@@ -78,7 +80,7 @@ class LibreOfficeTest : public test::HostTest {
     return charts;
   }
 
-  /// The data of a chart, rows by "\n", cells by "|".
+  /// Returns the data of a chart, with "\n" between rows and "|" between cells.
   static S Data(const S& content) {
     pugi::xml_document document;
     xlsx::xml::Parse(document, content);
@@ -96,7 +98,7 @@ class LibreOfficeTest : public test::HostTest {
     }
     return text;
   }
-  /// Where the texts of the drawn legend begin, from the left edge of the chart.
+  /// Returns the left edges of the texts in the drawn legend, from the left edge of the chart.
   static std::set<S> LegendTextLefts(const S& content) {
     static const std::regex text("draw:name=\"[^\"]* Text\"[^>]* svg:x=\"([^\"]*)\"");
     std::set<S> lefts;

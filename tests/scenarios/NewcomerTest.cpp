@@ -27,7 +27,7 @@ S Text(const fs::path& path) {
   return S(std::istreambuf_iterator<char>(file), {});
 }
 
-/// The code blocks of a page that begin so.
+/// Returns the first code block of a page that begins with `begin`.
 S Block(const S& page, const S& begin) {
   const auto from = page.find("```" + begin);
   if (from == S::npos) return {};
@@ -42,10 +42,10 @@ S Replaced(const S& text, const S& what, const S& by) {
   return result;
 }
 
-/// What the pages tell a newcomer to do, done as they say.
+/// Executes the instructions in the documentation for new users.
 class NewcomerTest : public ::testing::Test {
  protected:
-  /// What a command of the shell prints, both streams; it has to succeed.
+  /// Runs a shell command, which must succeed, and returns the output of both streams.
   S Shell(const S& command) {
     const S out = folder_ / "out.txt";
     EXPECT_EQ(std::system((command + " > " + out + " 2>&1").c_str()), 0) << command << '\n' << Text(out);
@@ -64,7 +64,7 @@ TEST_F(NewcomerTest, TheWorkbookOfTheReadmeIsRefreshedAsItSays) {
     line = Replaced(line, "examples/", (kRoot / "examples/").string());
     last = Shell(Replaced(line, "book.xlsx", folder_ / "book.xlsx"));
     if (line.find("write_book") == S::npos) continue;
-    // it writes the definition that stands above
+    // The script writes the definition that the page shows above it.
     const S definition = std::regex_replace(Block(readme_, "xml\n"), std::regex("\n *"), "");
     EXPECT_EQ(Shell(S(test::kCommand) + " cells " + (folder_ / "book.xlsx") + " 'VEX_ChartDefinitions!A2'"),
               definition + "\n");

@@ -18,7 +18,7 @@ using S = std::string;
 class RefreshScenarioTest : public test::HostTest {
  protected:
   S Refers(const S& name) { return Book().Names()->Item(name)->RefersTo(); }
-  /// The saved workbook with the first sheet of another one, as an export would fill it anew.
+  /// Opens the saved workbook with the first sheet of another workbook, as an export would replace it.
   void OpenSavedWithDataOf(const PlainBook& book) {
     book.Write(folder_ / "filled.xlsx");
     auto package = xlsx::Package::Open(folder_ / "saved.xlsx");
@@ -38,7 +38,7 @@ S ForeignChart(const S& formula) {
          formula + "</c:f></c:numRef></c:val></c:ser></c:lineChart></c:plotArea></c:chart></c:chartSpace>";
 }
 
-/// The sales table with some regions of its own.
+/// Sets the regions in the sales table.
 void SetRegions(PlainBook& book, std::initializer_list<const char*> regions) {
   auto& rows = book.Sheet("Data1").rows;
   rows.resize(1);
@@ -61,7 +61,7 @@ TEST_F(RefreshScenarioTest, ReferencesFollowABlockThatGrowsAboveThem) {
   SaveAndReopen();
   EXPECT_NE(Chart(2).find("<c:f>VEX_ChartData!$C$5:$C$6</c:f>"), S::npos);
 
-  // the table gets three rows more, and both charts are rebuilt, one behind the other
+  // The table gets three more rows, and both charts are rebuilt, one after the other.
   PlainBook grown = book;
   SetRegions(grown, {"A", "B", "C", "D", "E"});
   OpenSavedWithDataOf(grown);
@@ -79,7 +79,7 @@ TEST_F(RefreshScenarioTest, ReferencesFollowABlockThatGrowsAboveThem) {
                           "<c:pt idx=\"0\"><c:v>1</c:v></c:pt>"),
             S::npos)
       << Chart(2);
-  // what others point at the sheet follows too: three rows went in above, and three into the block
+  // References from elsewhere are adjusted too: three rows were inserted above, and three into the block.
   EXPECT_NE(Chart(3).find("VEX_ChartData!$C$8:$C$12"), S::npos) << Chart(3);
   EXPECT_NE(Chart(4).find("Data1!$C$5:$C$6"), S::npos);
   EXPECT_NE(SavedPart("/xl/worksheets/sheet4.xml")
@@ -162,7 +162,7 @@ TEST_F(RefreshScenarioTest, ARefreshTwiceChangesNothingMore) {
     Open(book);
     Refresh();
     SaveAndReopen();
-    Refresh();  // the first that finds a drawn chart, whose look it writes down
+    Refresh();  // This is the first refresh of a drawn chart, and it stores the look.
     SaveAndReopen();
     const auto first = xlsx::Package::Open(folder_ / "saved.xlsx");
     std::vector<std::pair<S, S>> parts;

@@ -18,7 +18,7 @@ using S = std::string;
 
 constexpr const char* kLibreOffice = "LibreOffice/7.4.7.2$Linux_X86_64 LibreOffice_project/40$Build-2";
 
-/// A bubble chart with a comment box and a drawn legend, and what other programs make of it.
+/// Tests a bubble chart with a comment box and a drawn legend after other programs have saved it.
 class SavingProgramsTest : public test::HostTest {
  protected:
   static constexpr const char* kDrawing = "/xl/drawings/drawing2.xml";
@@ -34,7 +34,7 @@ class SavingProgramsTest : public test::HostTest {
     Refresh();
     SaveAndReopen();
   }
-  /// Takes out of the saved file what programs lose, and names a program as the one that saved it.
+  /// Removes from the saved file what a program loses, and stores the name of that program.
   void SaveElsewhere(const S& program, const S& version, const S& lost) {
     auto package = xlsx::Package::Open(folder_ / "saved.xlsx");
     S xml = package.Read(kDrawing);
@@ -57,7 +57,7 @@ class SavingProgramsTest : public test::HostTest {
     package.Save(folder_ / "saved.xlsx");
     OpenFile(folder_ / "saved.xlsx");
   }
-  /// What there is of the chart after a refresh: "definition, chart, comment, legend".
+  /// Returns the parts of the chart that exist after a refresh: "definition, chart, comment, legend".
   S Left() {
     Refresh();
     SaveAndReopen();
@@ -76,7 +76,8 @@ class SavingProgramsTest : public test::HostTest {
     if (legend && package.Read(legend->target).find("\"VEX_Legend\"") != S::npos) left += "legend";
     return left;
   }
-  /// Of a file that a program itself has saved, and without new faults in what that program wrote.
+  /// Checks that everything is restored in a file that the program itself has saved, without new errors in
+  /// the parts of that program.
   void ExpectAllBack(const S& path) {
     const S before = folder_ / "before.xlsx";
     std::filesystem::copy_file(path, before);
@@ -100,7 +101,7 @@ TEST_F(SavingProgramsTest, WhatAProgramIsKnownToLoseComesBack) {
       {"LibreOffice/24.2.0.3$Linux_X86_64", "15.0000", "", none},
       {"Microsoft Excel", "3.0", "shapes", all},
       {"Microsoft Excel Compatible / Openpyxl 3.1.5", "3.1", "shapes", all},
-      // in the file of any other program a person has detached the chart
+      // In the file of any other program, a person has detached the chart.
       {"Microsoft Excel", "16.0300", "", none},
       {"Microsoft Excel", "", "", none},
       {"Microsoft Macintosh Excel", "15.0300", "", none},

@@ -23,8 +23,8 @@ using test::Schemas;
 using test::Settings;
 using S = std::string;
 
-/// Every part that we write or change is as the published schemas want it. A part of another program may stay
-/// as faulty as it was.
+/// Checks all written and changed parts with the published schemas. A part of another program may keep its
+/// errors.
 class SchemaTest : public test::HostTest {
  protected:
   static void SetUpTestSuite() {
@@ -35,12 +35,12 @@ class SchemaTest : public test::HostTest {
     if (!schemas_) GTEST_SKIP() << "the schemas aren't there";
   }
 
-  /// The faults in `after` that weren't in `before`; of an empty path, all of them.
+  /// Returns the errors in `after` that aren't in `before`. If `before` is an empty path, returns all errors.
   static S Faults(const S& before, const S& after) {
     return schemas_->NewFaults(before.empty() ? xlsx::Package() : xlsx::Package::Open(before),
                                xlsx::Package::Open(after));
   }
-  /// Refreshes the file twice with the host version, and judges what was written each time.
+  /// Refreshes the file twice with the host version, and checks the result each time.
   void RefreshTwice(const S& path, const S& version) {
     SCOPED_TRACE(version);
     const S first = folder_ / "first.xlsx", second = folder_ / "second.xlsx";
@@ -61,7 +61,7 @@ std::unique_ptr<Schemas> SchemaTest::schemas_;
 
 constexpr const char* kVersions[] = {"16.0", "11.0"};
 
-/// A definition over the table of sales, of any family.
+/// Returns a definition of any type for the sales table.
 Definition SalesDefinition(const S& id, const S& type, const S& rest = "") {
   Definition definition{id, type};
   definition.rest = rest;
@@ -77,7 +77,7 @@ Definition SalesDefinition(const S& id, const S& type, const S& rest = "") {
   return definition;
 }
 
-/// One of each family, with what changes the elements that are written.
+/// Returns a definition for each chart family, with the settings that change the written elements.
 std::vector<Definition> AllKinds() {
   const S axes =
       "<axes><axis type=\"label\" label=\"L\" sticky=\"no\"/><axis type=\"value\" label=\"V\" "
@@ -183,7 +183,8 @@ TEST_F(SchemaTest, ChartsOfTheCorpusTakenOver) {
           Definition definition = kinds[(pass + definitions.size() - 1) % kinds.size()];
           definition.id = "VEX_Chart" + std::to_string(definitions.size());
           shapes->Item(i)->SetAlternativeText(definition.id);
-          // The chart's own type and look would win over the definition's, but for the unknown one.
+          // Remove the series, because otherwise the type and the look of the chart take precedence over the
+          // definition, except for the unknown one.
           const auto series = sheet->ChartObjects()->Item(shapes->Item(i)->Name())->Chart();
           if (definition.type != "unknown") {
             for (auto all = series->SeriesCollection(); all->Count() > 0;) all->Item(1)->Delete();

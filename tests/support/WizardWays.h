@@ -5,13 +5,13 @@
 
 namespace plotsmith::test {
 
-/// The lines that lead to a page, in a copy of examples/data/orders.xlsx that has a chart.
+/// The lines that lead to a page, in a copy of examples/data/orders.xlsx with a chart.
 struct Way {
   std::string page, lines;
 };
 /// The lines that lead to the page of tables.
 extern const std::string kToTable;
-/// A way to each page of the wizard.
+/// The ways to each page of the wizard.
 extern const std::vector<Way> kWays;
 
 }  // namespace plotsmith::test

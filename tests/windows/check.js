@@ -1,8 +1,8 @@
-// What the scripts of the tests share. It is put before each of them, as JScript has no way to include a file.
+// Common functions of the test scripts. It is included before each script, because JScript can't include files.
 var passed = 0;
 var failed = 0;
 
-// The first lines in which two texts differ.
+// Returns the first lines in which two texts differ.
 function difference(actual, expected) {
   var is = String(actual).split("\n");
   var should = String(expected).split("\n");
@@ -12,7 +12,7 @@ function difference(actual, expected) {
   return line + "\n  is:       " + String(is[i]).substr(0, 300) + "\n  expected: " + String(should[i]).substr(0, 300);
 }
 
-// A value is what it should be; its type counts.
+// Checks a value and its type.
 function check(name, actual, expected) {
   if (actual === expected) {
     ++passed;
@@ -26,7 +26,7 @@ function finish() {
   WScript.Echo(passed + " passed, " + failed + " failed");
 }
 
-// The result that a call fails with, as "0x80020005"; "ok" if it succeeds.
+// Returns the result code of a failed call, such as "0x80020005", or "ok".
 function resultOf(call) {
   try {
     call();
@@ -38,7 +38,7 @@ function resultOf(call) {
 
 var boxes = new ActiveXObject("PlotsmithTest.Boxes");
 
-// The script hosts of Wine keep the class object of what they create, so that its DLL stays; this one doesn't.
+// Makes an object without keeping its class object. Wine's script hosts keep it, so that the DLL stays loaded.
 function newController() {
   return boxes.Create("Plotsmith.CPlotsmithController");
 }

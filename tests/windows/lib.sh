@@ -1,13 +1,13 @@
-# What the scripts that run tests under Wine share; each begins with `. tests/windows/lib.sh` at the root of the
-# repository, and ends with `finish`.
+# Common functions of the scripts that run tests under Wine. Each script begins with `. tests/windows/lib.sh` at the
+# root of the repository, and ends with `finish`.
 set -eu
 root=$PWD
 work=$root/build/check-windows/$(basename "$0" .sh)
 
-# The folder of the DLLs and programs: those of 64 bits, unless PLOTSMITH_WINDOWS names others.
+# The folder of the DLLs and programs. The default is 64 bits; PLOTSMITH_WINDOWS selects others.
 windows=${PLOTSMITH_WINDOWS:-$root/build-windows-x64}
 
-# Prefixes of our own, without the parts that Wine would fetch; quiet.
+# Use our own Wine prefixes, without the parts that Wine would download, and without debug output.
 export WINEPREFIX="$root/build/wine-new" WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
 export LC_ALL=C.UTF-8
 passed=0
@@ -17,13 +17,13 @@ rm -rf "$work"
 mkdir -p "$work"
 
 passes() { passed=$((passed + 1)); }
-# What is wrong comes first, then the name: REASON CASE.
+# Reports a failure: REASON CASE.
 fails() {
   failed=$((failed + 1))
   printf 'FAILED: %s: %s\n' "$2" "$1"
 }
 
-# A file has these contents: CASE FILE EXPECTED-FILE.
+# Checks that a file has the expected contents: CASE FILE EXPECTED-FILE.
 same_file() {
   if difference=$(diff "$3" "$2"); then
     passes
@@ -32,8 +32,8 @@ same_file() {
   fi
 }
 
-# Begins with a new prefix. Making one takes long, so it is a copy of one that is made once for each version of Wine.
-# Its driver has windows and no screen.
+# Starts with a new prefix. Making one takes long, so it is copied from a prefix that is made once for each version of
+# Wine. Its display driver has windows but no screen.
 new_prefix() {
   template=$root/build/wine-template-$(basename "$windows")
   wine --version >/dev/null 2>&1 || { echo "Wine doesn't run here" >&2; exit 1; }
@@ -51,7 +51,7 @@ new_prefix() {
   cp -a "$template" "$WINEPREFIX"
 }
 
-# The path of a file as Windows has it: FILE.
+# Prints the Windows path of a file: FILE.
 windows_path() { winepath -w "$1" 2>/dev/null; }
 
 # Registers DLLs for all users: DLL...
@@ -61,7 +61,8 @@ register() {
   done
 }
 
-# The registry as Wine writes it when the last program has ended, without times, each value behind its key: FILE.
+# Prints the registry that Wine writes when the last program has ended, without times, with each value behind its key:
+# FILE.
 dump() {
   wineserver -w
   for root_key in system user; do
@@ -72,13 +73,13 @@ dump() {
   done | sed 's/\\\\/\\/g' | LC_ALL=C sort >"$1"
 }
 
-# Runs a script and prints what it says, without the carriage returns: SCRIPT ARGUMENT...
+# Runs a script and prints its output without carriage returns: SCRIPT ARGUMENT...
 run_script() {
   wine cscript //nologo "$@" 2>/dev/null | tr -d '\r'
 }
 
-# Runs a script that checks by itself, with what tests/windows/check.js and the host add-in of the examples have:
-# SCRIPT ARGUMENT...
+# Runs a script that makes its own checks, with tests/windows/check.js and the host add-in of the examples: SCRIPT
+# ARGUMENT...
 script_checks() {
   name=$(basename "$1" .js)
   {
@@ -101,8 +102,8 @@ $output" "$name.js" ;;
   esac
 }
 
-# Keeps Wine's server between the programs, for scripts that start many: on a busy machine one that is just ending can
-# make the next program fail.
+# Keeps Wine's server alive between programs, for scripts that start many programs. On a busy machine, a server that is
+# ending can make the next program fail.
 keep_server() { wineserver -p; }
 
 finish() {

@@ -1,8 +1,8 @@
-// One operation of the component on a workbook that is open in the test's Excel:
+// Runs an operation of the component on a workbook that is open in the test's Excel:
 //   operate.js refresh BOOK OUTPUT JOURNAL
 //   operate.js table BOOK OUTPUT JOURNAL TABLE
-// Prints how many calls the host has got, how many of them left open what they called, and then what message
-// boxes said. operate.vbs has the operation that takes arrays, which JScript hasn't got.
+// Prints the number of calls to the host, the number of them without a definite kind, and the texts of message boxes.
+// operate.vbs has the operation with array arguments, which JScript can't make.
 var given = WScript.Arguments;
 var boxes = new ActiveXObject("PlotsmithTest.Boxes");
 var excel = new ActiveXObject("PlotsmithTestHost.Application");

@@ -1,6 +1,6 @@
 #!/bin/sh
-# Runs the command for Windows under Wine beside the one for Linux: what they print, how they exit and the files that
-# they leave must be the same, byte by byte.
+# Runs the commands for Windows (under Wine) and for Linux. Their output, their exit codes and their files must be the
+# same, byte by byte.
 cd "$(dirname "$0")/../.."
 . tests/windows/lib.sh
 
@@ -9,7 +9,7 @@ linux=$root/build/plotsmith
 program=$windows/plotsmith.exe
 mkdir -p "$work/linux" "$work/windows"
 
-# Puts a file into the folder of either program: FROM TO.
+# Copies a file into the folder of each program: FROM TO.
 give() {
   for folder in linux windows; do
     mkdir -p "$work/$folder/$(dirname "$2")"
@@ -17,7 +17,7 @@ give() {
   done
 }
 
-# Runs a program in its folder and keeps what it printed and its exit code there: FOLDER PROGRAM ARGUMENT...
+# Runs a program in its folder, and stores its output and its exit code there: FOLDER PROGRAM ARGUMENT...
 run_in() {
   (
     cd "$work/$1"
@@ -28,7 +28,7 @@ run_in() {
   )
 }
 
-# Either program does the same, from the same input: CASE ARGUMENT...
+# Checks that both programs do the same with the same input: CASE ARGUMENT...
 same() {
   case=$1
   shift
@@ -42,7 +42,7 @@ same() {
   fi
 }
 
-# The program for Windows refuses and leaves all other files as they are: CASE SENTENCE ARGUMENT...
+# Checks that the program for Windows refuses and doesn't change other files: CASE SENTENCE ARGUMENT...
 refuses() {
   case=$1 sentence=$2
   shift 2
@@ -60,7 +60,7 @@ refuses() {
   fi
 }
 
-# A program imports from the libraries of the system alone: PRESET FORMAT.
+# Checks that a program imports only from libraries of the system: PRESET FORMAT.
 imports_only_the_system() {
   file=$root/build-$1/plotsmith.exe
   foreign=$(objdump -p "$file" | sed -n 's/.*DLL Name: //p' | grep -ivxE '(kernel32|advapi32|shell32|user32|msvcrt)\.dll') || true
@@ -121,7 +121,7 @@ refuses "a read-only file" \
   refresh countries.xlsx -o read-only.xlsx
 chmod u+w "$work/windows/read-only.xlsx"
 
-# a command that appends to the workbook, and waits for a line first
+# This command waits for a line, then appends to the workbook.
 give examples/electricity.xlsx held.xlsx
 mkfifo "$work/script"
 (cd "$work/windows" && exec wine cmd /c 'set /p line=>>held.xlsx' <"$work/script" >/dev/null 2>&1) &

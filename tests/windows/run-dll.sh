@@ -1,6 +1,5 @@
 #!/bin/sh
-# Looks into the DLLs of 64 and of 32 bits: what they export, what they need, how large they are, what they say of
-# themselves.
+# Checks the DLLs of 64 and of 32 bits: exports, imports, size and version information.
 cd "$(dirname "$0")/../.."
 . tests/windows/lib.sh
 
@@ -18,20 +17,20 @@ msvcrt.dll
 ole32.dll"
 version=$(sed -n 's/^project(plotsmith VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
 
-# What a DLL says of itself: the name of each text, and the text on the next line: DLL.
+# Prints the version information of a DLL, each name followed by its text on the next line: DLL.
 version_texts() {
   objcopy -O binary --only-section=.rsrc "$1" /dev/stdout | iconv -f UTF-16LE -t UTF-8 -c | tr '\0' '\n' | grep -v '^$' |
     grep -A 1 -E '(FileVersion|OriginalFilename|ProductName|ProductVersion)$' | grep -v -x -e -- |
     sed -E 's/.*(FileVersion|OriginalFilename|ProductName|ProductVersion)$/\1/'
 }
 
-# The names of the operations in the type library of a DLL: DLL.
+# Prints the names of the operations in the type library of a DLL: DLL.
 operations() {
   objcopy -O binary --only-section=.rsrc "$1" /dev/stdout | strings |
     grep -oE 'RunPlotsmith|RefreshPlotsmithData|RefreshChartsForTable|UpdateChartColumnNamesForTable'
 }
 
-# The DLL of a preset is as it should be: PRESET FORMAT.
+# Checks the DLL of a preset: PRESET FORMAT.
 look_at() {
   library=$root/build-$1/Plotsmith.dll
   objdump -p "$library" | sed -n 's/^\t\[ *[0-9]*\] \(Dll.*\)$/\1/p' >"$work/exports"

@@ -1,6 +1,6 @@
 #!/bin/sh
-# Every operation on workbooks in the test's Excel, and on the embedded host by the command for Linux: what is changed,
-# line by line, and the saved files, byte by byte, must be the same.
+# Runs every operation on workbooks in the test's Excel, and on the embedded host with the command for Linux. The
+# journals must be the same line by line, and the saved files byte by byte.
 cd "$(dirname "$0")/../.."
 . tests/windows/lib.sh
 corpus=$root/../shared/corpus
@@ -11,13 +11,13 @@ register "$windows/Plotsmith.dll" "$windows/PlotsmithTestHost.dll" "$windows/Plo
 mkdir "$work/linux" "$work/windows" "$work/books"
 cp examples/*.xlsx "$work/books"
 
-# Compares what the command said on behalf of the component with what message boxes said, which write a line end as "\r\n".
+# Compares the component's messages in the command with the texts of message boxes, which write a line end as "\r\n".
 messages_differ() {
   grep -v '^plotsmith: ' "$work/said.txt" | tr -d '\r' >"$work/said-by-component.txt" || true
   sed -e 1d -e '/^$/d' -e 's/ \[OK\]:/:/' -e 's/\\r\\n/\n/g' "$work/printed.txt" | diff "$work/said-by-component.txt" -
 }
 
-# One operation on either host, if the command can do it: CASE OPERATION SCRIPT BOOK [TABLE [OLD NEW]]
+# Runs an operation on both hosts, if the command has it: CASE OPERATION SCRIPT BOOK [TABLE [OLD NEW]]
 same() {
   case=$1 operation=$2 script=$3 book=$4 table=${5:-}
   case $operation in
@@ -48,7 +48,7 @@ same() {
   fi
 }
 
-# a chart of each type, made from a table
+# Make a chart of each type from a table.
 type_of_chart() {
   build/plotsmith new examples/data/orders.xlsx --table Data1 --type "$@" -o "$work/books/$1.xlsx" 2>/dev/null ||
     fails "exit code $?" "new $1"
@@ -62,7 +62,7 @@ type_of_chart bubble --title "Products" --categories Product --values Amount --x
 type_of_chart "strategic bucket" --title "Amounts and targets" --categories Product --series Product \
   --bucket-table VEX_SB_Targets --labels names --new-sheet Buckets
 
-# one that can't be drawn any more, as its user took headings away
+# This chart can't be drawn any more, because the user has deleted headings.
 run_script "$(windows_path tests/windows/spoil.js)" "$(windows_path "$work/books/column.xlsx")" \
   "$(windows_path "$work/books")\\spoiled.xlsx" Data1 1 2 >"$work/printed.txt"
 [ "$(cat "$work/printed.txt")" = '$B$1 Something else' ] || fails "$(cat "$work/printed.txt")" "a cell of a script"

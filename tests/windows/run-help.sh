@@ -1,6 +1,6 @@
 #!/bin/sh
-# Opens the topics of Plotsmith.chm by their numbers, as the Help buttons do, with Wine's HTML Help, which says in its
-# trace which page it goes to.
+# Opens the topics of Plotsmith.chm by number, like the Help buttons, with Wine's HTML Help, whose trace names the
+# opened page.
 cd "$(dirname "$0")/../.."
 . tests/windows/lib.sh
 
@@ -11,14 +11,14 @@ scripts/help-chm.sh "$folder/Plotsmith.chm"
 help=$(windows_path "$folder/Plotsmith.chm")
 numbers=$(sed -n 's/^\([0-9][0-9]*\)\t.*/\1/p' docs/help/topics.tsv)
 
-# Opens topics, one after the other: FILE NUMBER...
+# Opens topics one after the other: FILE NUMBER...
 open_topics() {
   WINEDEBUG=+htmlhelp timeout 20 wine "$windows/plotsmith_windows_help.exe" "$@" >"$work/printed" 2>"$work/trace" ||
     fails "it exits with $?" "$*"
   tr -d '\r' <"$work/printed" >"$work/said"
 }
 
-# No topic is opened, and a box says why: CASE FILE SENTENCE.
+# Checks that no topic is opened and that a message box gives the reason: CASE FILE SENTENCE.
 says() {
   open_topics "$2" 1
   printf '1: Brindle Plotsmith [OK]: %s\n' "$3" >"$work/expected"

@@ -1,9 +1,9 @@
 #!/bin/sh
-# Installs Plotsmith for all users and for one, uses what is installed, and removes it, in a new prefix. The registry and
-# the files of the whole drive are compared before, after and in between.
+# Installs Plotsmith for all users and for one user, runs the installed programs, and uninstalls it, in a new prefix.
+# Compares the registry and all files of the drive before, between and after.
 cd "$(dirname "$0")/../.."
 . tests/windows/lib.sh
-# Wine would put the entries of the start menu into the menu of the desktop, too.
+# Wine would also put the entries of the start menu into the menu of the desktop.
 WINEDLLOVERRIDES="$WINEDLLOVERRIDES;winemenubuilder.exe="
 
 version=$(sed -n 's/^project(plotsmith VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
@@ -19,25 +19,25 @@ programs_of_user="C:\\users\\$user\\AppData\\Local\\Programs"
 for_user="$programs_of_user\\Plotsmith"
 menu_for_user="C:\\users\\$user\\AppData\\Roaming\\Microsoft\\Windows\\Start Menu\\Programs\\Plotsmith"
 
-# The folder or file that a path of Windows names: PATH.
+# Prints the folder or file of a Windows path: PATH.
 unix_path() { printf '%s\n' "$drive/${1#C:\\}" | tr '\\' /; }
 
-# The registry and the files as they are now, without the folder that held the uninstaller's copy of itself, which Wine
-# would delete before the copy: NAME.
+# Stores the current registry and files, without the folder of the uninstaller's own copy, which Wine would delete
+# before the copy: NAME.
 record() {
   dump "$work/$1.registry"
   (cd "$drive" && find . ! -path './users/*/Temp/~nsu*.tmp' | LC_ALL=C sort) >"$work/$1.files"
 }
 
-# The registry and the files are as they were: CASE NAME.
+# Checks that the registry and the files are the same as stored: CASE NAME.
 same_state() {
   record now
   same_file "$1: registry" "$work/now.registry" "$work/$2.registry"
   same_file "$1: files" "$work/now.files" "$work/$2.files"
 }
 
-# A command line, given to Windows as it is, exits with a code: CASE CODE COMMAND-LINE. What comes behind /D= and _?= in
-# the command lines of an installer has blanks and no quotes.
+# Checks the exit code of a command line that is passed unchanged to Windows: CASE CODE COMMAND-LINE. The text after /D=
+# and _?= in the command line of an installer has blanks and no quotes.
 exits() {
   printf '@%s\r\n@exit %%ERRORLEVEL%%\r\n' "$3" >"$work/command.bat"
   code=0
@@ -45,22 +45,21 @@ exits() {
   [ "$code" -eq "$2" ] && passes || fails "it exits with $code instead of $2" "$1"
 }
 
-# Removes an installation. The uninstaller leaves the work to a copy of itself, which Windows deletes when it is started
-# again: CASE FOLDER.
+# Uninstalls. The uninstaller starts a copy of itself, which Windows deletes at the next start: CASE FOLDER.
 uninstall() {
   exits "$1" 0 "\"$2\\Uninstall.exe\" /S"
   wineserver -w
   wine wineboot >/dev/null 2>&1
 }
 
-# The entries that regsvr32 makes a DLL write, but for the help's folder: FOLDER PLATFORM SUBFOLDER.
+# Prints the registry entries that a DLL writes for regsvr32, except the folder of the help: FOLDER PLATFORM SUBFOLDER.
 classes() {
   folder=$(printf '%s\n' "$1" | sed 's/\\/\\\\/g')
   sed -E "s/PLATFORM|win64/$2/; s/LIBRARY/$folder\\\\$3\\\\Plotsmith.dll/; s/FOLDER/$folder/" tests/windows/registration.txt
 }
 
-# All values that an installation adds, in the places that Wine has for them: names of classes of all users are there
-# twice, and classes of one user only once, as the last DLL has written them: ROOT FOLDER.
+# Prints all registry values that an installation adds, in Wine's locations. Wine has two copies of class names for all
+# users, and one copy of classes for one user, as the last DLL has written them: ROOT FOLDER.
 expected_values() {
   {
     classes "$2" win64 x64
@@ -84,14 +83,14 @@ expected_values() {
 END
 }
 
-# All files and folders that an installation adds: ROOT FOLDER MENU.
+# Prints all files and folders that an installation adds: ROOT FOLDER MENU.
 expected_files() {
   (cd "$stage" && find . -mindepth 1 -printf "$(printf '%s\n' "$2" | sed 's/\\/\\\\/g')\\\\%P\n")
   printf '%s\n' "$2" "$2\\Uninstall.exe" "$3" "$3\\Plotsmith Help.lnk" "$3\\Plotsmith for Excel.lnk"
   [ "$1" = system ] || printf '%s\n' "$programs_of_user"
 }
 
-# What was added since the beginning is what is installed, and nothing else: CASE ROOT FOLDER MENU.
+# Checks that exactly the installed values and files were added since the beginning: CASE ROOT FOLDER MENU.
 all_is_there() {
   record now
   LC_ALL=C comm -13 "$work/before.registry" "$work/now.registry" | grep -E '\] ("|@)' |
@@ -105,8 +104,8 @@ all_is_there() {
   same_file "$1: contents" "$work/differences" /dev/null
 }
 
-# A script of the host add-in that is installed refreshes a book with the component that is installed, as the command
-# that is installed does: CASE FOLDER.
+# Checks that an installed script of the host add-in refreshes a workbook with the installed component like the
+# installed command: CASE FOLDER.
 works() {
   copy=$(windows_path "$work")
   {
@@ -133,7 +132,7 @@ END
   same_file "$1: the book" "$work/differences" /dev/null
 }
 
-# Makes the installer of an older version, which has files that are gone since.
+# Makes the installer of an older version, which has files that no longer exist.
 make_older() {
   cp -r "$stage" "$work/older"
   mkdir "$work/older/macros"
@@ -141,8 +140,8 @@ make_older() {
   packaging/windows/make-setup.sh "$work/older" "$work/older.exe" 0.0.9
 }
 
-# A program keeps a file open until it is told to end. Windows treats a DLL that a program has loaded as such a file, but
-# Wine doesn't: FILE.
+# Keeps a file open in a program until the program is ended. Windows treats a loaded DLL like an open file, but Wine
+# doesn't: FILE.
 hold() {
   mkfifo "$work/line"
   printf '@set /p line=>>"%s"\r\n' "$1" >"$work/hold.bat"
@@ -161,7 +160,7 @@ release() {
 
 make_older
 register "$windows/PlotsmithTestHost.dll" "$windows/PlotsmithTestBoxes.dll"
-# At their first start Wine's script host and wineboot write entries of their own.
+# Wine's script host and wineboot write their own entries when they first start.
 printf 'WScript.Echo(typeof new ActiveXObject("Plotsmith.CPlotsmithController"));' >"$work/create.js"
 create() { run_script "$(windows_path "$work/create.js")"; }
 create >"$work/printed"
@@ -222,7 +221,7 @@ exits "an older version, elsewhere" 0 "$older /S /AllUsers /D=C:\Older charts"
 exits "upgrade, moved" 0 "$setup /S /AllUsers /D=C:\Brindle charts"
 all_is_there "upgrade, moved" system 'C:\Brindle charts' "$menu_for_all"
 works "upgrade, moved" 'C:\Brindle charts'
-# A component that was registered from elsewhere since is none of the uninstaller's.
+# The uninstaller must not remove a component that was registered from elsewhere meanwhile.
 register "$windows/Plotsmith.dll"
 uninstall "removed, registered from elsewhere" 'C:\Brindle charts'
 made=$(create)

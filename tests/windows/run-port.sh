@@ -1,5 +1,5 @@
 #!/bin/sh
-# What the port answers directly and through COM, and the conversions between the language and Automation.
+# Tests the results of the port, directly and through COM, and the conversions between the language and Automation.
 cd "$(dirname "$0")/../.."
 . tests/windows/lib.sh
 new_prefix

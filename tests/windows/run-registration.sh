@@ -1,6 +1,6 @@
 #!/bin/sh
-# Registers and unregisters the component as regsvr32 does, for all users and for one, in a new prefix, and compares the
-# whole registry before, after and in between.
+# Registers and unregisters the component with regsvr32, for all users and for one user, in a new prefix. Compares the
+# whole registry before, between and after.
 cd "$(dirname "$0")/../.."
 . tests/windows/lib.sh
 
@@ -10,7 +10,7 @@ mkdir -p "$folder"
 cp "$windows/Plotsmith.dll" "$folder"
 library=$(windows_path "$folder/Plotsmith.dll")
 
-# regsvr32 with these options exits with a code: CODE OPTION...
+# Checks the exit code of regsvr32 with options: CODE OPTION...
 regsvr32_exits() {
   expected=$1
   shift
@@ -19,7 +19,7 @@ regsvr32_exits() {
   [ "$code" -eq "$expected" ] && passes || fails "it exits with $code instead of $expected" "regsvr32 $*"
 }
 
-# These values were added to the registry, and no others, below Software\Classes of a root: CASE ROOT.
+# Checks that exactly these values were added to the registry below Software\Classes of a root: CASE ROOT.
 values_added() {
   dump "$work/now"
   LC_ALL=C comm -13 "$work/before" "$work/now" | grep -E '\] ("|@)' |
@@ -28,13 +28,13 @@ values_added() {
   same_file "$1" "$work/added" "$work/expected"
 }
 
-# The registry is as before: CASE.
+# Checks that the registry is the same as before: CASE.
 nothing_left() {
   dump "$work/now"
   same_file "$1" "$work/now" "$work/before"
 }
 
-# VBScript makes the object by either name, or ends without a word: CASE EXPECTED-LINE.
+# Checks that VBScript can make the object by both names, or ends without output: CASE EXPECTED-LINE.
 creates() {
   cat >"$work/create.vbs" <<'END'
 WScript.Echo TypeName(CreateObject("Plotsmith.CPlotsmithController")) & " " & _
@@ -62,7 +62,7 @@ nothing_left "unregistered for all"
 regsvr32_exits 0 /u
 nothing_left "unregistered for all, again"
 
-# Wine finds no classes that one user has; what is written is the same.
+# Wine doesn't find classes of one user, but the written values are the same.
 regsvr32_exits 0 /n /i:user
 values_added "for the user" user
 regsvr32_exits 0 /n /i:user

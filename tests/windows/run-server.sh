@@ -1,5 +1,5 @@
 #!/bin/sh
-# The component as clients of COM see it, in Wine's script hosts: arguments, guards, hostile hosts, lifetime.
+# Tests the component with COM clients in Wine's script hosts: arguments, guards, hostile hosts, lifetime.
 cd "$(dirname "$0")/../.."
 . tests/windows/lib.sh
 

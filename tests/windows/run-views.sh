@@ -1,6 +1,6 @@
 #!/bin/sh
-# The dialogs: the scripts of the pages' tests, played by messages to the windows, and whole runs of the wizard inside of
-# a script host, whose pages and files must be those of the command.
+# Tests the dialogs: runs the scripts of the tests for pages with window messages, and complete runs of the wizard
+# inside a script host, whose pages and files must be the same as those of the command.
 cd "$(dirname "$0")/../.."
 . tests/windows/lib.sh
 orders=examples/data/orders.xlsx
@@ -12,8 +12,7 @@ timeout 600 wine "$windows/plotsmith_view_tests.exe" >"$work/tests.txt" 2>/dev/n
 passed=$((passed + $(grep -c '^\[       OK \]' "$work/tests.txt" || true)))
 grep -E '^\[  FAILED  \]|Failure|Which is' "$work/tests.txt" || true
 
-# A chart of a type, from the first page to the last, with a look at each page before its button is pressed:
-# TYPE OPTION...
+# Prints a script that makes a chart of a type, and shows each page before its button is pressed: TYPE OPTION...
 same_run() {
   type=$1
   build/plotsmith new $orders --table Data1 --type "$@" --print-script | sed 's/^press /show\n&/' >"$work/script.txt"

@@ -1,4 +1,4 @@
-// Takes the heading of a column away, as a user would in Excel: spoil.js BOOK OUTPUT SHEET ROW COLUMN
+// Deletes the heading of a column, as a user does in Excel: spoil.js BOOK OUTPUT SHEET ROW COLUMN
 var given = WScript.Arguments;
 var excel = new ActiveXObject("PlotsmithTestHost.Application");
 excel.Open(given(0));

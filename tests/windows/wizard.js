@@ -1,6 +1,6 @@
-// One run of the wizard in the test's Excel, by a script:
+// Runs the wizard in the test's Excel with a script:
 //   wizard.js BOOK SCRIPT OUTPUT
-// Prints what was wrong, on a line of its own, and what the script has shown. A window of the host must be as before.
+// Prints the failure on one line, then the output of the script. Checks that the host's window hasn't changed.
 var given = WScript.Arguments;
 var files = new ActiveXObject("Scripting.FileSystemObject");
 var boxes = new ActiveXObject("PlotsmithTest.Boxes");

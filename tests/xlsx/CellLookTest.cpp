@@ -29,7 +29,7 @@ TEST(CellLookTest, FontFillingAndAlignmentComeFromTheStyle) {
   const struct {
     const char* font;
     const char* fill;
-    const char* style;  ///< attributes and content of xf
+    const char* style;  ///< Attributes and contents of xf.
     CellLook look;
   } cases[] = {
       {"<sz val=\"11\"/><name val=\"Calibri\"/>",
@@ -50,7 +50,7 @@ TEST(CellLookTest, FontFillingAndAlignmentComeFromTheStyle) {
         .vertical = VerticalAlignment::kCenter,
         .font = "Arial",
         .size = 409}},
-      // the theme's first accent, and its dark text colour made lighter by half
+      // The theme's first accent, and its dark text colour, lightened by half.
       {"<name val=\"Arial\"/><sz val=\"8\"/><color theme=\"4\"/>",
        "<patternFill patternType=\"solid\"><fgColor theme=\"1\" tint=\"0.5\"/></patternFill>",
        "/>",
@@ -80,7 +80,7 @@ TEST(CellLookTest, FontFillingAndAlignmentComeFromTheStyle) {
     const CellLook look = LookOf(styles, theme, 1);
     EXPECT_EQ(look, c.look) << c.font << c.fill << c.style << "\ntext " << look.textColor.value_or(-1)
                             << " fill " << look.fillColor.value_or(-1);
-    EXPECT_EQ(LookOf(styles, theme, 7).font, "X");  // of a style that isn't there
+    EXPECT_EQ(LookOf(styles, theme, 7).font, "X");  // This style doesn't exist.
   }
 }
 

@@ -36,8 +36,9 @@ S Picture(const S& name, const S& id) {
 
 class DeletedChartTest : public test::HostTest {
  protected:
-  /// Two charts and two pictures on one sheet. The first chart has parts of its own, as Excel writes them,
-  /// and shares an image with a picture. `links` are the relationships of the sheet's drawing.
+  /// Opens a workbook with two charts and two pictures on a sheet. The first chart has its own parts, as
+  /// Excel writes them, and shares an image with a picture. `links` are the relationships of the sheet's
+  /// drawing.
   void OpenCharts(const S& links = kOwnLinks, const S& secondChart = "rId2") {
     test::PlainBook book = test::SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}});
     book.Sheet("Charts").frames[0].chartXml = runtime::Replace(
@@ -76,7 +77,7 @@ class DeletedChartTest : public test::HostTest {
   excel::Ref<excel::Shape> Shape(const S& name) {
     return Book().FindWorksheet("Charts")->Shapes()->Item(name);
   }
-  /// The names of parts that are in the first file and not in the second.
+  /// Returns the names of parts that are in the first file and not in the second.
   std::vector<S> Missing(const S& first, const S& second) const {
     const auto package = Package::Open(folder_ / second);
     std::vector<S> parts = Package::Open(folder_ / first).Parts();
@@ -106,7 +107,7 @@ TEST_F(DeletedChartTest, TakesWhatOnlyItUsedOutOfTheFile) {
     S links, secondChart;
     const char* deleted;
     std::vector<S> gone;
-    const char* goneLink;  ///< of the drawing; empty: all stay
+    const char* goneLink;  ///< The deleted relationship of the drawing; empty if all are kept.
   };
   const Case cases[] = {{"a chart with parts of its own", kOwnLinks, "rId2", "Chart 1", ofChart1, "rId1"},
                         {"a chart without", kOwnLinks, "rId2", "Chart 2", {"/xl/charts/chart2.xml"}, "rId2"},
@@ -125,7 +126,7 @@ TEST_F(DeletedChartTest, TakesWhatOnlyItUsedOutOfTheFile) {
     const S complaints = PackageComplaints(folder_ / "book.xlsx");
     EXPECT_EQ(complaints, "");
     const auto shapes = Book().FindWorksheet("Charts")->Shapes()->Count();
-    if (S(c.deleted).starts_with("Chart")) {  // what is changed on a chart that goes is not written
+    if (S(c.deleted).starts_with("Chart")) {  // Changes to a deleted chart aren't written.
       Book().FindWorksheet("Charts")->ChartObjects()->Item(c.deleted)->Chart()->SetHasTitle(!c.gone.empty());
     }
     Shape(c.deleted)->Delete();
@@ -245,7 +246,7 @@ TEST_F(DeletedChartTest, GoesWithItsSheet) {
 TEST_F(DeletedChartTest, ANewChartGetsItsDrawingOnSheetsOfOtherPrograms) {
   struct Case {
     const char* about;
-    S behind;  ///< what follows the cells; "@" is the place of the drawing
+    S behind;  ///< The elements after the cells. "@" marks the position of the drawing.
     S links;
   };
   const S r = "xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\"";

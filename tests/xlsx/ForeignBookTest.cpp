@@ -23,10 +23,10 @@ using Edit = std::function<S(const S&)>;
 constexpr const char* kSheet1 = "/xl/worksheets/sheet1.xml";
 constexpr const char* kWorkbook = "/xl/workbook.xml";
 
-/// Workbooks as programs with habits of their own write them.
+/// Tests workbooks with the peculiarities of other programs.
 class ForeignBookTest : public test::HostTest {
  protected:
-  /// Opens the book with some of its parts changed.
+  /// Opens the workbook with some changed parts.
   void OpenEdited(const PlainBook& book, const std::vector<std::pair<S, Edit>>& edits) {
     book.Write(folder_ / "plain.xlsx");
     xlsx::Package package = Package::Open(folder_ / "plain.xlsx");
@@ -34,7 +34,7 @@ class ForeignBookTest : public test::HostTest {
     package.Save(folder_ / "edited.xlsx");
     OpenFile(folder_ / "edited.xlsx");
   }
-  /// Opens the book with other names of its parts, as the zip file and those that point at them have them.
+  /// Opens the workbook with renamed parts, both in the zip file and in the references.
   void OpenRenamed(const PlainBook& book, const S& from, const S& entry, const S& written) {
     book.Write(folder_ / "plain.xlsx");
     const xlsx::Package package = Package::Open(folder_ / "plain.xlsx");
@@ -113,7 +113,7 @@ TEST_F(ForeignBookTest, PartsAreFoundUnderAnyWritingOfTheirNames) {
     AddBox("Data1");
     SaveAndReopen();
     EXPECT_TRUE(Messages().empty()) << entry;
-    // a chart, and a drawing with its link; the data sheet and the theme
+    // A chart, a drawing with its relationship, the data sheet and the theme are added.
     EXPECT_EQ(Package::Open(folder_ / "saved.xlsx").Parts().size(), before + 5) << entry;
     ASSERT_EQ(Sheet("Charts")->ChartObjects()->Count(), 2) << entry;
     Sheet("VEX_ChartData")->InsertRow(1);
@@ -276,7 +276,7 @@ TEST_F(ForeignBookTest, OneTabIsSelectedWhenAnotherSheetBecomesActive) {
     return text;
   };
   Open(book);
-  Refresh();  // adds a sheet that nobody sees, and goes back
+  Refresh();  // The refresh adds a hidden sheet and activates the old one again.
   SaveAndReopen();
   EXPECT_EQ(tabs(), "12") << "a group that the user made stays";
   Book().Activate(*Book().FindSheet("Charts"));
@@ -311,7 +311,7 @@ TEST_F(ForeignBookTest, ADamagedDrawingIsTheFaultOfItsSheet) {
   EXPECT_TRUE(Messages().empty());
   EXPECT_EQ(SavedPart(drawing), "<xdr:wsDr");
   EXPECT_TRUE(Holds("/xl/charts/chart1.xml", "<c:ser>"));
-  // but where charts may have been, one that isn't found is not gone
+  // If the file may contain unread charts, a missing chart doesn't count as deleted.
   OpenEdited(book, {{drawing, [](const S&) { return S("<xdr:wsDr><xdr:graphicFrame"); }}});
   Refresh();
   EXPECT_TRUE(Book().Damage());

@@ -16,7 +16,7 @@ class WindowTest : public test::HostTest {
     host_->ActiveWindow()->SetDisplayGridlines(false);
     host_->ActiveWindow()->SetDisplayHeadings(false);
   }
-  /// The part of a sheet, as it was saved, up to its cells.
+  /// Returns the saved part of a sheet up to its cells.
   S SavedHead(const S& sheet) {
     const S part = SavedPart(Book().FindSheet(sheet)->part);
     return part.substr(part.find("<worksheet"), part.find("<sheetData") - part.find("<worksheet"));
@@ -30,7 +30,7 @@ TEST_F(WindowTest, IsNothingWhileNoWorkbookIsOpen) {
 TEST_F(WindowTest, ANewSheetKeepsItsViewWithCellsAndTab) {
   Open(test::SalesBook({}));
   const auto sheet = Book().AddWorksheet(2);
-  sheet->SetCellValueAt(2, 3, 1.0);  // the cells are written anew
+  sheet->SetCellValueAt(2, 3, 1.0);  // The cells are rewritten.
   HideGridAndHeadings();
   EXPECT_EQ(journal_.end()[-2], "ActiveWindow.DisplayGridlines = False");
   EXPECT_EQ(journal_.end()[-1], "ActiveWindow.DisplayHeadings = False");
@@ -48,7 +48,7 @@ TEST_F(WindowTest, OtherSheetsAndTheCellsKeepTheirBytes) {
       "<sheetPr/><dimension ref=\"A1:D5\"/><sheetFormatPr defaultRowHeight=\"15\"/>";
   Open(book);
   EXPECT_FALSE(Book().Changed());
-  host_->ActiveWindow()->SetDisplayGridlines(true);  // as it is
+  host_->ActiveWindow()->SetDisplayGridlines(true);  // This sets the current value.
   EXPECT_FALSE(Book().Changed());
   const auto window = host_->ActiveWindow();
   window->SetDisplayGridlines(false);
@@ -92,7 +92,7 @@ TEST_F(WindowTest, ASheetInTheStrictVocabularyWithAPrefixGetsItsView) {
 
 TEST_F(WindowTest, RefusesWhereThereAreNoCells) {
   struct Case {
-    const char* edited;  ///< the part that is changed
+    const char* edited;  ///< The changed part.
     const char *from, *to;
     S error;
     bool damaged;

@@ -13,7 +13,9 @@ namespace plotsmith::cli {
 struct TableArea {
   explicit TableArea(const dom::IXMLDOMElement& table);
 
+  /// Returns true if the table has a data row.
   bool HasData() const { return firstRow <= lastRow; }
+  /// Returns the row of the headings.
   std::int32_t HeadingRow() const { return firstRow - 1; }
 
   std::string sheet;

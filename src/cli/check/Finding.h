@@ -34,6 +34,7 @@ struct Finding {
   Severity severity = Severity::kSaid;
 };
 
+/// A list of findings.
 using Findings = std::vector<Finding>;
 
 /// Returns true if a command that writes the workbook loses, or would lose, the row because of this finding.

@@ -57,10 +57,10 @@ std::string Flat(const Json& value) {
 }  // namespace
 
 CLI::App* CellsCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("cells", "Print the cells of a range, also of hidden sheets");
+  CLI::App* verb = app.add_subcommand("cells", "Print the cells of a range, also on hidden sheets");
   verb->add_option("BOOK", book_, "The workbook")->required();
   verb->add_option("RANGE", range_, "Such as 'Sheet1!A1:D9'")->required();
-  verb->add_flag("--value", value_, "The values instead of the displayed texts");
+  verb->add_flag("--value", value_, "Print values instead of displayed texts");
   verb->add_flag(
       "--json", json_,
       "As JSON, a list of rows; of the values, dates and times have their number and a text of ISO "

@@ -134,7 +134,7 @@ void CheckDrawn(Session& session, std::vector<CheckedDefinition>& definitions) {
 
 CLI::App* CheckCommand::Declare(CLI::App& app) {
   CLI::App* verb =
-      app.add_subcommand("check", "Say what is wrong with definitions and tables, and change nothing");
+      app.add_subcommand("check", "List the problems in definitions and tables, and change nothing");
   verb->add_option("BOOK", book_, "The workbook")->required();
   verb->add_flag("--json", json_, "As JSON");
   return verb;

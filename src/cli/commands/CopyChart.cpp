@@ -5,7 +5,7 @@
 namespace plotsmith::cli {
 
 CLI::App* CopyChartCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("copy", "Copy a chart; what isn't named is as it is on the chart");
+  CLI::App* verb = app.add_subcommand("copy", "Copy a chart; settings without an option are copied");
   DeclareBook(*verb, verb_);
   verb->add_option("CHART", id_, "The chart's id or name")->required();
   DeclareChartOptions(*verb, chart_);

@@ -27,9 +27,9 @@ std::optional<std::string> Shown(std::string_view code, std::string_view value, 
 }  // namespace
 
 CLI::App* FormatCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("format", "Show what a number format makes of a value");
+  CLI::App* verb = app.add_subcommand("format", "Show a value in a number format");
   verb->footer("plotsmith format FORMAT VALUE\nplotsmith format --tsv < FILE");
-  verb->add_flag("--tsv", tsv_, "Read lines of format, tab, value; write a text for each");
+  verb->add_flag("--tsv", tsv_, "Read lines of format, tab, value; print a text for each");
   verb->add_flag("--date1904", date1904_, "Count days from 1904");
   verb->add_option("FORMAT VALUE", arguments_, "The format's code, and a number, TRUE, FALSE or a text");
   return verb;

@@ -7,8 +7,8 @@
 namespace plotsmith::cli {
 
 CLI::App* HelpCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("help", "Show what a command does, and its options");
-  verb->add_option("COMMAND", verb_, "The command; without it, all of them");
+  CLI::App* verb = app.add_subcommand("help", "Describe a command and its options");
+  verb->add_option("COMMAND", verb_, "The command (default: an overview of all commands)");
   return verb;
 }
 

@@ -5,7 +5,7 @@
 namespace plotsmith::cli {
 
 CLI::App* ModifyChartCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("modify", "Change a chart; what isn't named stays as it is");
+  CLI::App* verb = app.add_subcommand("modify", "Change a chart; settings without an option don't change");
   DeclareBook(*verb, verb_);
   verb->add_option("CHART", id_, "The chart's id or name")->required();
   DeclareChartOptions(*verb, chart_);

@@ -13,17 +13,17 @@ namespace plotsmith::cli {
 CLI::App* RefreshCommand::Declare(CLI::App& app) {
   CLI::App* verb = app.add_subcommand("refresh", "Rebuild the charts of workbooks from their tables");
   verb->add_option("BOOK", books_, "The workbooks (.xlsx, .xlsm)")->required();
-  verb->add_option("--table", table_, "Only the charts that hang on the table of this id")->type_name("ID");
+  verb->add_option("--table", table_, "Only the charts of the table with this id")->type_name("ID");
   verb->add_option("-o,--output", output_,
                    "Write to this file, or into this folder, and leave BOOK as it is; \"-\" is the standard "
                    "output")
       ->type_name("FILE");
   verb->add_option("--jobs", jobs_,
-                   "Work on so many workbooks at a time (without it: two for each processor). "
-                   "Under Windows they come one after the other")
+                   "Work on this many workbooks at a time (default: two for each processor). "
+                   "On Windows, one after the other")
       ->type_name("N");
-  verb->add_flag("--verbose", verbose_, "Say at the end how many charts were refreshed");
-  verb->add_option("--render", pictureFolder_, "Also draw the refreshed charts, into this folder")
+  verb->add_flag("--verbose", verbose_, "Print a summary at the end");
+  verb->add_option("--render", pictureFolder_, "Also draw the refreshed charts into this folder")
       ->type_name("FOLDER");
   DeclarePictureOptions(*verb, pictures_, "svg");
   return verb;

@@ -15,12 +15,12 @@ CLI::App* RenderCommand::Declare(CLI::App& app) {
       "CHART", charts_,
       "A chart's id or name; any chart by its sheet and shape, 'Sheet1!Chart 2', or by its chart sheet. "
       "Without one, all charts of Plotsmith");
-  verb->add_option("--sheet", sheet_, "Draw this sheet instead, its cells and charts, as it would be printed")
+  verb->add_option("--sheet", sheet_, "Draw this sheet with its cells and charts, as it is printed")
       ->type_name("SHEET");
-  verb->add_flag("--one-page", onePage_, "Draw the sheet on one page that is as large as what it shows");
+  verb->add_flag("--one-page", onePage_, "Draw the sheet on one page that is as large as its contents");
   DeclarePictureOptions(*verb, pictures_, "as -o ends, else svg");
   verb->add_option("-o,--output", output_,
-                   "Write to this file or into this folder (without it: the current folder); \"-\" is the "
+                   "Write to this file or into this folder (default: the current folder); \"-\" is the "
                    "standard output")
       ->type_name("FILE");
   return verb;

@@ -21,14 +21,13 @@ constexpr const char* kWindowProgram = "plotsmith-wizard";
 }  // namespace
 
 CLI::App* WizardCommand::Declare(CLI::App& app) {
-  CLI::App* verb =
-      app.add_subcommand("wizard", "Open the wizard's window, or go through its pages by a script");
+  CLI::App* verb = app.add_subcommand("wizard", "Open the wizard's window, or run a script on its pages");
   verb->footer(
       "plotsmith wizard BOOK [-o FILE]\n"
       "plotsmith wizard BOOK --script FILE [-o FILE] [--show] [--json]");
   verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm)")->required();
   CLI::Option* const script =
-      verb->add_option("--script", script_, "The script, a gesture a line; \"-\" is the standard input")
+      verb->add_option("--script", script_, "The script, one action per line; \"-\" is the standard input")
           ->type_name("FILE");
   verb->add_option("-o,--output", output_, kOutputDescription)->type_name("FILE");
   verb->add_flag("--show", show_, "Print the page that is open when the script ends")->needs(script);

@@ -12,6 +12,7 @@ namespace plotsmith::cli {
 std::string ManualPage(const CommandLine& line);
 /// Returns a script for a shell that completes verbs, options and names of workbooks.
 std::string BashCompletion(const CommandLine& line);
+/// Returns a script for zsh that completes verbs, options and names of workbooks.
 std::string ZshCompletion(const CommandLine& line);
 
 /// An option of the command line, as shown to the user.

@@ -35,27 +35,24 @@ std::string Italic(const std::string& text) { return "\\fI" + Plain(text) + "\\f
 
 const std::pair<std::string, std::string> kExamples[] = {
     {"new sales.xlsx --table Data1 --type column --title Sales --series Product --new-sheet Charts",
-     "Make a column chart, with a colour for each product, on a sheet of its own."},
+     "Make a column chart, with a colour for each product, on a new sheet."},
     {"modify sales.xlsx Sales --set stacked 100% --labels values",
      "Stack its columns to 100%, and show the values."},
     {"refresh sales.xlsx --table Data1 -o new.xlsx",
-     "Rebuild the charts that hang on the table Data1, and leave the workbook as it is."},
+     "Rebuild the charts of the table Data1, and leave the workbook unchanged."},
     {"refresh reports/*.xlsx --jobs 4 --verbose",
-     "Rebuild the charts of many workbooks, four at a time, and say how many there were."},
-    {"refresh sales.xlsx -o - | mail-it", "Hand the refreshed workbook on to another program."},
+     "Rebuild the charts of many workbooks, four at a time, and print a summary."},
+    {"refresh sales.xlsx -o - | mail-it", "Pass the refreshed workbook to another program."},
     {"rename-columns sales.xlsx --table Data1 Region=Area",
-     "Carry a heading that was changed in the table into its charts."},
-    {"charts sales.xlsx --json", "See how each chart stands, for a program to read."},
-    {"cells sales.xlsx 'VEX_ChartData!A1:D9'", "Look at the data that a chart draws."}};
+     "Rename a column in the charts after its heading was changed in the table."},
+    {"charts sales.xlsx --json", "Print the state of each chart for a program."},
+    {"cells sales.xlsx 'VEX_ChartData!A1:D9'", "Print the data of the charts."}};
 
 constexpr const char* kDefinitions =
-    "The definition of a chart is an XML text in the hidden sheet VEX_ChartDefinitions of its workbook. The "
-    "command new makes it, together with the chart; modify and copy change it or make another one, "
-    "definition "
-    "prints it, and check says what is wrong with it. A program can write definitions as well: the page "
-    "file-formats.md of the documentation that is installed with the command, in share/doc/plotsmith/docs, "
-    "has "
-    "all there is to them.";
+    "The definition of a chart is an XML text on the hidden sheet VEX_ChartDefinitions of its workbook. The "
+    "command new makes a definition together with the chart, modify changes it, copy copies it, definition "
+    "prints it, and check lists its problems. Programs can also write definitions. The page file-formats.md "
+    "of the installed documentation, in share/doc/plotsmith/docs, describes them in full.";
 
 /// "-o, --output FILE"
 std::string Heading(const OptionView& option) {
@@ -93,7 +90,7 @@ std::string ManualPage(const CommandLine& line) {
   std::string page =
       ".\\\" Made from the command's own table of options.\n.TH PLOTSMITH 1 \"\" \"" + name + " " +
       PLOTSMITH_VERSION + "\" \"User Commands\"\n.SH NAME\n" + name +
-      " \\- make charts over the tables of Excel workbooks, and keep them up to date\n.SH SYNOPSIS\n";
+      " \\- make charts from the tables of Excel workbooks, and keep them up to date\n.SH SYNOPSIS\n";
   for (const CLI::App* verb : line.verbs) {
     page += Bold(name) + " " + Bold(verb->get_name()) + Usage(OptionsOf(*verb)) + "\n.br\n";
   }

@@ -16,7 +16,7 @@ OptionView::OptionView(const CLI::Option& option)
     for (const std::string& name : option.get_snames()) names.push_back("-" + name);
     for (const std::string& name : option.get_lnames()) names.push_back("--" + name);
   }
-  if (!option.get_default_str().empty()) description += " (without it: " + option.get_default_str() + ")";
+  if (!option.get_default_str().empty()) description += " (default: " + option.get_default_str() + ")";
 }
 
 std::vector<OptionView> OptionsOf(const CLI::App& app) {

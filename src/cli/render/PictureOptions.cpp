@@ -74,10 +74,11 @@ const char* EndingOf(PictureFormat format) {
 }
 
 void DeclarePictureOptions(CLI::App& verb, PictureOptions& options, const std::string& usualFormat) {
-  verb.add_option("--format", options.format, "svg, png or pdf (without it: " + usualFormat + ")")
+  verb.add_option("--format", options.format, "svg, png or pdf (default: " + usualFormat + ")")
       ->type_name("KIND");
-  verb.add_option("--dpi", options.dpi, "Pixels of a PNG for an inch (without it: 96)")->type_name("N");
-  verb.add_option("--scale", options.scale, "Draw so many times as large")->type_name("N");
+  verb.add_option("--dpi", options.dpi, "Resolution of a PNG in pixels per inch (default: 96)")
+      ->type_name("N");
+  verb.add_option("--scale", options.scale, "Enlarge the picture by this factor")->type_name("N");
 }
 
 PicturePlan PlanPictures(const PictureOptions& options, const std::optional<std::string>& output) {

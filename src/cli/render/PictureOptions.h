@@ -9,6 +9,7 @@
 
 namespace plotsmith::cli {
 
+/// The format of a picture file.
 enum class PictureFormat { kSvg, kPng, kPdf };
 
 /// Returns the file extension of a format, including the dot.
@@ -20,6 +21,7 @@ struct PictureOptions {
   std::optional<double> dpi;
   std::optional<double> scale;
 
+  /// Returns true if any of the options was given.
   bool AreGiven() const { return format || dpi || scale; }
 };
 /// Declares the picture options. `usualFormat` is the default of --format in the help.

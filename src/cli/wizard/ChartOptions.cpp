@@ -13,29 +13,29 @@ namespace {
 
 void DeclareColumns(CLI::App& verb, LayoutOptions& layout) {
   auto* categories = verb.add_option("--categories", layout.categories,
-                                     "The label column that names the categories, slices, bubbles or blocks");
+                                     "The label column for the categories, slices, bubbles or blocks");
   categories->type_name("COL");
   auto* categoryColumns = verb.add_option("--category-columns", layout.categoryColumns,
                                           "The number columns that are the categories");
   categoryColumns->type_name("COL")->excludes(categories);
-  auto* series = verb.add_option("--series", layout.series, "The label column that tells the colours");
+  auto* series = verb.add_option("--series", layout.series, "The label column for the series (colours)");
   series->type_name("COL");
   auto* seriesColumns =
       verb.add_option("--series-columns", layout.seriesColumns, "The number columns that are the series");
   seriesColumns->type_name("COL")->excludes(series)->excludes(categoryColumns);
-  verb.add_flag("--no-series", layout.noSeries, "One colour for all")
+  verb.add_flag("--no-series", layout.noSeries, "Use one colour for everything")
       ->excludes(series)
       ->excludes(seriesColumns);
-  verb.add_option("--values", layout.values, "The number column of the values; of bubbles, the Y values")
+  verb.add_option("--values", layout.values,
+                  "The number column of the values; for bubble charts, the Y values")
       ->type_name("COL");
   verb.add_option("--x-values", layout.xValues, "The number column of a bubble chart's X values")
       ->type_name("COL");
-  verb.add_option("--sizes", layout.sizes, "The number column of the sizes of bubbles")->type_name("COL");
+  verb.add_option("--sizes", layout.sizes, "The number column of the bubble sizes")->type_name("COL");
   verb.add_option("--bucket-table", layout.bucketTable, "The table of a strategic bucket chart's buckets")
       ->type_name("ID");
-  verb.add_option("--sort-by", layout.sortBy, "The number column that puts blocks in order")
-      ->type_name("COL");
-  verb.add_flag("--descending", layout.descending, "The largest block first");
+  verb.add_option("--sort-by", layout.sortBy, "The number column that sorts the blocks")->type_name("COL");
+  verb.add_flag("--descending", layout.descending, "Put the largest block first");
 }
 
 void DeclareLooks(CLI::App& verb, LayoutOptions& layout) {
@@ -44,7 +44,7 @@ void DeclareLooks(CLI::App& verb, LayoutOptions& layout) {
   verb.add_option("--y-axis", layout.yAxis, "The title of the vertical axis")->type_name("TEXT");
   verb.add_option("--number-format", layout.numberFormat, "How values are written, as \"#,##0\"")
       ->type_name("FORMAT");
-  verb.add_option("--labels", layout.labels, "What the labels show: values, percentages, names or none")
+  verb.add_option("--labels", layout.labels, "Contents of the labels: values, percentages, names or none")
       ->type_name("LABELS");
   const std::string settings =
       "3D, stacked, 100%, exploded, quadrants, autoscale-x, autoscale-y or show-zero-bubbles";
@@ -61,14 +61,14 @@ void DeclareChartOptions(CLI::App& verb, ChartOptions& options) {
       ->type_name("TYPE");
   DeclareColumns(verb, options.layout);
   DeclareLooks(verb, options.layout);
-  verb.add_option("--name", options.name, "The chart's name in lists; without it, the title is its name")
+  verb.add_option("--name", options.name, "The chart's name in lists (default: the title)")
       ->type_name("NAME");
 }
 
 void DeclarePlaceOptions(CLI::App& verb, ChartOptions& options) {
-  auto* sheet = verb.add_option("--sheet", options.sheet, "The sheet to put the chart on");
+  auto* sheet = verb.add_option("--sheet", options.sheet, "The existing sheet for the chart");
   sheet->type_name("SHEET");
-  verb.add_option("--new-sheet", options.newSheet, "A sheet to make and put the chart on")
+  verb.add_option("--new-sheet", options.newSheet, "The new sheet for the chart")
       ->type_name("SHEET")
       ->excludes(sheet);
 }

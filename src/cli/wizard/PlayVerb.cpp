@@ -19,7 +19,7 @@ void DeclareBook(CLI::App& verb, VerbOptions& options) {
 void DeclareOutput(CLI::App& verb, VerbOptions& options) {
   verb.add_option("-o,--output", options.output, kOutputDescription)->type_name("FILE");
   verb.add_flag("--print-script", options.printScript,
-                "Print the script of the wizard that does the same, and save nothing");
+                "Print the wizard's script for this command, and save nothing");
 }
 
 int PlayVerb(VerbScript& script, const VerbOptions& verb, const GlobalOptions& options,

@@ -14,6 +14,7 @@ namespace plotsmith::cli {
 /// A step of a verb on a page. It returns the line of a script for the current state of the page, or nothing
 /// if nothing is left to do. It throws ScriptError if the page doesn't allow it.
 using Step = std::function<std::optional<std::string>(const forms::Form& page)>;
+/// The steps on a page, in order.
 using Steps = std::vector<Step>;
 
 /// Presses a button.

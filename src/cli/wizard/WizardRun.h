@@ -18,6 +18,7 @@ class WizardRun {
   WizardRun(const std::string& book, const GlobalOptions& options, const Streams& streams,
             forms::LineSource& lines, forms::ScriptPlayer::Show show, Outside outside);
 
+  /// Runs the wizard with the script.
   void Play();
 
   Session& Workbook() { return session_; }

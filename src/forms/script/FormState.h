@@ -17,10 +17,14 @@ struct ControlState {
   std::string kind;            ///< The class, from the control's TypeName.
   std::string container;       ///< The name of the frame; empty for the form.
   std::string accessibleName;  ///< The name for screen readers.
+  /// The properties of the control with the same names; `focus` is true if it has the focus.
+  ///@{
   bool enabled = true;
   bool visible = true;
   bool focus = false;
   Color backColor = kButtonFace;
+  ///@}
+
   std::optional<std::string> caption;            ///< The caption, with "&" before the letter for Alt.
   std::optional<std::string> text;               ///< The text in the box, or the current entry of a list.
   std::optional<bool> value;                     ///< Whether a check box is checked or an option is selected.

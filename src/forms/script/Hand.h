@@ -20,18 +20,31 @@ class Hand {
  public:
   virtual ~Hand() = default;
 
+  /// Selects exactly these rows of a grid.
   virtual void SelectRows(EventQueue& queue, VSFlexGrid& grid, std::vector<std::int32_t> rows) = 0;
+  /// Double-clicks a row of a grid.
   virtual void DoubleClickRow(EventQueue& queue, VSFlexGrid& grid, std::int32_t row) = 0;
+  /// Selects exactly these entries of a list box.
   virtual void SelectEntries(EventQueue& queue, ListBox& list, std::vector<std::int32_t> entries) = 0;
+  /// Selects an entry of a combo box.
   virtual void ChooseEntry(EventQueue& queue, ComboBox& combo, std::int32_t entry) = 0;
+  /// Selects an option button.
   virtual void ChooseOption(EventQueue& queue, OptionButton& option) = 0;
+  /// Checks or unchecks a check box.
   virtual void Toggle(EventQueue& queue, CheckBox& box, bool checked) = 0;
+  /// Replaces the text of a text box.
   virtual void TypeText(EventQueue& queue, TextBox& box, std::string text) = 0;
+  /// Replaces the text of a combo box.
   virtual void TypeText(EventQueue& queue, ComboBox& combo, std::string text) = 0;
+  /// Presses a button.
   virtual void Press(EventQueue& queue, CommandButton& button) = 0;
+  /// Moves the focus to a control.
   virtual void Focus(EventQueue& queue, Control& control) = 0;
+  /// Presses Enter on a form.
   virtual void Enter(EventQueue& queue, Form& form) = 0;
+  /// Presses Escape on a form.
   virtual void Escape(EventQueue& queue, Form& form) = 0;
+  /// Closes the window of a form.
   virtual void Close(EventQueue& queue, Form& form) = 0;
 
   /// Called if an action was refused when it was performed, with the end of a sentence ("is off"). For

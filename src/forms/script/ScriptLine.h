@@ -11,6 +11,7 @@ struct Word {
   std::string text;
   bool quoted = false;
 };
+/// The words of a line.
 using Words = std::vector<Word>;
 
 /// Returns the words of a line, beginning with the verb. Blank lines and comments have no words. Throws

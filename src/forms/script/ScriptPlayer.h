@@ -27,6 +27,7 @@ class ScriptPlayer final : public View {
     std::size_t line;      ///< The line number, from 1.
     std::string sentence;  ///< The reason, without a full stop.
   };
+  /// A function that prints the state of a form.
   using Show = std::function<void(const FormState& state)>;
 
   /// Makes a player. `lines` must outlive it. `show` prints the state of a form.

@@ -10,8 +10,8 @@ struct CellValue {
   enum class Kind : std::uint8_t { kEmpty, kNumber, kDate, kBoolean, kError, kText };
 
   Kind kind = Kind::kEmpty;  ///< The kind, which decides whether `number` or `text` is used.
-  /// The number, the serial of a date, 1 or 0 for a Boolean, or Excel's number of an error value.
-  double number = 0;
+
+  double number = 0;  ///< The number, the serial of a date, 1 or 0 for a Boolean, or Excel's error number.
   std::string_view text;  ///< The text, or the displayed text of an error value.
 
   /// Returns the contents as a value that owns its text.

@@ -26,9 +26,13 @@ class Canvas {
  public:
   Canvas(double dWidth, double dHeight) : oPicture_{dWidth, dHeight, {}} {}
 
+  /// Draws a filled shape, optionally with an outline.
+  ///@{
   void FillPolygon(std::vector<Point> aPoints, Rgb oFill, std::optional<Outline> oOutline = {});
   void FillRectangle(const Rectangle& oRectangle, Rgb oFill, std::optional<Outline> oOutline = {});
   void FillCircle(Point oCenter, double dRadius, Rgb oFill, std::optional<Outline> oOutline = {});
+  ///@}
+
   /// Draws a straight line as a thin polygon.
   void DrawLine(Point oFrom, Point oTo, double dWidth, Rgb oColor);
 
@@ -40,6 +44,7 @@ class Canvas {
   /// Draws a ball with the same light.
   void FillBall(Point oCenter, double dRadius, Rgb oFill);
 
+  /// The picture so far.
   const Picture& Result() const { return oPicture_; }
 
  private:

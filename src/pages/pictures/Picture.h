@@ -9,6 +9,7 @@
 /// points; x increases to the right and y increases downwards from the top left corner of the picture.
 namespace plotsmith::pictures {
 
+/// A colour.
 struct Rgb {
   std::uint8_t red = 0;
   std::uint8_t green = 0;
@@ -32,6 +33,7 @@ struct Polygon {
   bool operator==(const Polygon&) const = default;
 };
 
+/// An ellipse, given by its centre and its radii.
 struct Ellipse {
   Point oCenter;
   double dRadiusX = 0;
@@ -46,6 +48,7 @@ struct Outline {
   bool operator==(const Outline&) const = default;
 };
 
+/// A filled shape, optionally with an outline.
 struct Shape {
   std::variant<Polygon, Ellipse> oForm;
   Rgb oFill;
@@ -53,6 +56,7 @@ struct Shape {
   bool operator==(const Shape&) const = default;
 };
 
+/// A picture with its size in points.
 struct Picture {
   double dWidth = 0;
   double dHeight = 0;

@@ -22,6 +22,7 @@ class CellPainter {
   QFont NormalFont() const;
   /// Returns the background colour of a cell: its filling, or the colour of the window.
   QColor Background(const ShownCell& cell);
+  /// Returns true if the cell has a filling.
   bool HasFilling(const ShownCell& cell) { return source_.LookOf(cell.style).fillColor.has_value(); }
 
   /// Returns the horizontal alignment of a cell's text: Qt::AlignLeft, AlignRight or AlignHCenter.

@@ -22,10 +22,12 @@ class SheetGrid {
   SheetGrid(const xlsx::GridLines& lines, std::int32_t count, double pixelsPerPoint)
       : lines_(lines), count_(count), scale_(pixelsPerPoint) {}
 
+  /// The number of rows or columns.
   std::int32_t Count() const { return count_; }
   /// Returns the upper or left edge of a row or column, counted from 1. The edge after the last one is the
   /// end of the sheet.
   int EdgeOf(std::int32_t number) const;
+  /// Returns the size of a row or column in pixels; 0 if it is hidden.
   int SizeOf(std::int32_t number) const { return EdgeOf(number + 1) - EdgeOf(number); }
   /// Returns the row or column at a distance from the sheet's corner, or the first or last one for positions
   /// outside.

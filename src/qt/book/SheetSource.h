@@ -56,15 +56,20 @@ class SheetSource {
 
   /// Returns true if the cell is empty. Rows and columns count from 1.
   bool IsEmptyAt(std::int32_t row, std::int32_t column);
+  /// Returns a cell. Rows and columns count from 1.
   ShownCell CellAt(std::int32_t row, std::int32_t column);
+  /// Returns the look of a cell style.
   const xlsx::CellLook& LookOf(std::uint32_t style);
   /// Returns the row heights and column widths. The reference is valid until the next change in the host.
   const xlsx::SheetGeometry& Geometry();
   /// Returns the width of a digit in the Normal font, the unit of column widths, in pixels at 96 dots per
   /// inch.
   int DigitWidth() const;
+  /// Returns the merged ranges.
   const std::vector<xlsx::CellRange>& MergedCells();
+  /// Returns the used range.
   xlsx::CellRange UsedCells();
+  /// Returns the view settings of the sheet.
   xlsx::SheetView View();
   /// Returns the shapes from back to front.
   std::vector<ShownFrame> Frames();

@@ -23,6 +23,7 @@ class CommandButtonView final : public ControlView {
   QPushButton* button_;
 };
 
+/// The view of a check box.
 class CheckBoxView final : public ControlView {
  public:
   CheckBoxView(forms::CheckBox& model, QWidget* parent, const Post& post);

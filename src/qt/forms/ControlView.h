@@ -32,7 +32,9 @@ class ControlView {
   ControlView(const ControlView&) = delete;
   ControlView& operator=(const ControlView&) = delete;
 
+  /// The control.
   forms::Control& Model() const { return model_; }
+  /// The widget that shows the control.
   virtual QWidget& Widget() = 0;
   /// Shows the state of the control if it has changed since the last update or the user has changed the
   /// widget.

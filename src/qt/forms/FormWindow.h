@@ -22,6 +22,7 @@ class FormWindow final : public QWidget {
   FormWindow(forms::Form& form, QWidget* owner, Post post, forms::SecondPress& presses);
   ~FormWindow() override;
 
+  /// The form.
   forms::Form& Model() const { return form_; }
   /// Shows the changes of the form.
   void Update();

@@ -8,6 +8,7 @@
 
 namespace plotsmith::qt {
 
+/// The view of a combo box.
 class ComboBoxView final : public ControlView {
  public:
   ComboBoxView(forms::ComboBox& model, QWidget* parent, const Post& post);
@@ -21,6 +22,7 @@ class ComboBoxView final : public ControlView {
   QComboBox* box_;
 };
 
+/// The view of a list box.
 class ListBoxView final : public ControlView {
  public:
   ListBoxView(forms::ListBox& model, QWidget* parent, const Post& post);

@@ -9,6 +9,7 @@
 
 namespace plotsmith::qt {
 
+/// The view of a label.
 class LabelView final : public ControlView {
  public:
   LabelView(forms::Label& model, QWidget* parent, const Post& post);
@@ -49,6 +50,7 @@ class ImageView final : public ControlView {
   QWidget* picture_;
 };
 
+/// The view of a progress bar.
 class ProgressBarView final : public ControlView {
  public:
   ProgressBarView(forms::ProgressBar& model, QWidget* parent, const Post& post);

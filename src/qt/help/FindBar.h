@@ -19,7 +19,9 @@ class FindBar final : public QWidget {
   void Open();
   /// Hides the bar and returns the focus to the page.
   void Close();
+  /// Selects the next occurrence of the text.
   void FindNext();
+  /// Selects the previous occurrence of the text.
   void FindPrevious();
 
  protected:

@@ -17,7 +17,9 @@ class PreviewWindow final : public QWidget {
 
   /// Shows the window beside a page, on the side with enough space. It is hidden if neither side has enough.
   void ShowBeside(const QWidget& page);
+  /// Allows the window to be shown again after the user has closed it.
   void Reopen() { closed_ = false; }
+  /// Returns true if the user has closed the window.
   bool WasClosed() const { return closed_; }
 
   /// The available size for the picture in screen pixels.

@@ -30,6 +30,7 @@ class PreviewWorker {
   bool Start(const Work& work);
   /// Stops the current preview, if there is one.
   void Stop();
+  /// Returns true while a preview is being made.
   bool IsRunning() const { return process_ > 0; }
 
  private:

@@ -32,6 +32,7 @@ class WizardDesktop final : public cli::ConsoleDesktop {
   /// Returns true if a question was answered with OK since the last Forget. The system's only question is the
   /// confirmation of a deletion.
   bool Confirmed() const { return confirmed_; }
+  /// Resets Confirmed.
   void Forget() { confirmed_ = false; }
   /// The help window, which is made at the first call.
   HelpWindow& Help();

@@ -30,14 +30,14 @@ bool HasScreen() {
 
 /// Declares the arguments.
 void Declare(CLI::App& app, plotsmith::qt::WizardOptions& options) {
-  app.add_option("BOOK", options.book, "The workbook (.xlsx, .xlsm); without one, you are asked for it");
+  app.add_option("BOOK", options.book, "The workbook (.xlsx, .xlsm); without it, a dialog asks for one");
   app.add_option("-o,--output", options.output, "Write to this file and leave BOOK as it is")
       ->type_name("FILE");
-  app.add_flag("--force", options.global.force, "Also write a workbook that another program holds open");
+  app.add_flag("--force", options.global.force, "Also write a workbook that another program has open");
   app.add_flag("--drop-broken", options.global.dropBroken,
-               "Also write a workbook with definitions that are broken or have no chart, and drop them");
+               "Also write a workbook whose definitions are broken or have no chart, and drop these");
   app.add_flag("--journal", options.global.journal,
-               "Write down each change to the workbook as it is made, a line each");
+               "Print each change to the workbook as it is made, one per line");
   plotsmith::cli::DeclareHostVersion(app, options.global.hostVersion);
   app.set_version_flag("-V,--version", std::string("plotsmith-wizard ") + PLOTSMITH_VERSION);
 }

@@ -12,7 +12,7 @@
 namespace plotsmith::test {
 namespace {
 
-constexpr qint64 kPatience = 10000;  // milliseconds until a window must have come
+constexpr qint64 kPatience = 10000;  // The maximum time until a window opens, in milliseconds.
 constexpr qint64 kPause = 30;        // milliseconds
 constexpr const char* kBusyWindow = "frmBusyPS";
 
@@ -23,8 +23,8 @@ std::pair<std::string, std::string> VerbAndRest(const std::string& line) {
 
 void TypeFileName(QWidget& dialog, const std::string& name) {
   auto* const box = dialog.findChild<QLineEdit*>("fileNameEdit");
-  // Where the file is there, the dialog asks and waits for the answer inside of this key. Only a timer of its
-  // own leaves the robot free to give it.
+  // If the file exists, the dialog asks and waits for the answer during this key press. The timer lets the
+  // robot answer.
   QTimer::singleShot(0, box, [box, name] {
     box->setText(qt::TextOf(name));
     QTest::keyClick(box, Qt::Key_Return);
@@ -83,7 +83,8 @@ void Robot::LookAround() {
   const QWidget* const front = FrontWindow();
   const std::string name = NameOf(front);
   const std::string text = name == "box" || name == "bar" ? TextIn(*front) : "";
-  if (name.empty() || name == kBusyWindow) return;  // how long that one stays is a matter of the machine
+  if (name.empty() || name == kBusyWindow)
+    return;  // The time for which the busy window stays depends on the machine.
   if (std::exchange(lastSeen_, name + text) == name + text) return;
   seen_ += (seen_.empty() ? "" : " ") + name;
   if (!text.empty()) told_.push_back(text);

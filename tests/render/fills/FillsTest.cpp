@@ -26,7 +26,7 @@ TEST(FillsTest, EveryPresetPatternHasATile) {
     EXPECT_TRUE(BitsOf(*tile) > 0 && BitsOf(*tile) < 64) << entry.token;
     tiles.insert(*tile);
   }
-  EXPECT_EQ(tiles.size(), xlsx::kPatterns.entries.size() - 1);  // a cross and a large grid look alike
+  EXPECT_EQ(tiles.size(), xlsx::kPatterns.entries.size() - 1);  // A cross and a large grid look the same.
   for (const char* none : {"", "aaa", "zzz", "pct1"}) EXPECT_EQ(FindPattern(none), nullptr) << none;
 }
 

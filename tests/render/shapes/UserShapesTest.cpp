@@ -16,14 +16,14 @@ using render::Item;
 using render::Rect;
 using render::Role;
 
-constexpr double kWidth = 400, kHeight = 200;  // of the chart, in points
+constexpr double kWidth = 400, kHeight = 200;  // The size of the chart in points.
 
 std::string Anchor(const std::string& object, const std::string& x2 = "0.75", const std::string& y2 = "0.5") {
   return "<cdr:relSizeAnchor><cdr:from><cdr:x>0.25</cdr:x><cdr:y>0.25</cdr:y></cdr:from><cdr:to><cdr:x>" +
          x2 + "</cdr:x><cdr:y>" + y2 + "</cdr:y></cdr:to>" + object + "</cdr:relSizeAnchor>";
 }
 
-/// A shape with a place of its own, in points; inside of a group it counts.
+/// Returns a shape with its own position in points, which is used inside a group.
 std::string Shape(const std::string& form, const std::string& inside = "", const Rect& place = {},
                   const std::string& turn = "", const std::string& text = "") {
   const auto emu = [](double points) { return std::to_string(std::lround(points * 12700)); };
@@ -58,7 +58,7 @@ class UserShapesTest : public Chart3DTest {
     notes_.clear();
     return DrawChart(*Book().Chart("/xl/charts/chart1.xml"), kWidth, kHeight, fonts_, notes_);
   }
-  /// The bounds of the first item of a role.
+  /// Returns the bounds of the first item of a role.
   static Rect BoundsOfFirst(const Drawing& drawing, Role role) {
     const auto items = ItemsOf(drawing, role);
     return items.empty() ? Rect{-1, -1, -1, -1} : BoundsOf(*items[0]);
@@ -81,7 +81,7 @@ TEST_F(UserShapesTest, ShapesLieWhereTheirAnchorsSay) {
         "leftArrow", "upArrow",       "downArrow", "can",       "donut"}) {
     const std::string line = form == "line" ? "<a:ln w=\"12700\">" + Solid("000000") + "</a:ln>" : "";
     const Drawing drawing = DrawWith(Anchor(Shape(form, Solid("FF0000") + line)));
-    // the corners of a pentagon end a little inside of its frame
+    // The corners of a pentagon are slightly inside its frame.
     const double slack = form == "pentagon" || form == "star5" ? 0.5 : 0.01;
     const Rect bounds = BoundsOfFirst(drawing, Role::kShape);
     EXPECT_NEAR(bounds.left, frame.left, slack) << form;
@@ -109,7 +109,7 @@ TEST_F(UserShapesTest, GroupsPlaceStretchAndTurnTheirMembers) {
         "<a:chExt cx=\"1270000\" cy=\"1270000\"/></a:xfrm>" +
         Solid("00FF00") + "</cdr:grpSpPr>" + members + "</cdr:grpSp>");
   };
-  // members lie in a square of 100 points that begins at (10, 0); the group is 200 by 50 at (100, 50)
+  // The members are in a square of 100 points at (10, 0). The group is 200 by 50 points at (100, 50).
   struct Case {
     const char* turn;
     const char* memberTurn;
@@ -132,15 +132,15 @@ TEST_F(UserShapesTest, TextsStandAsTheirBodySays) {
   const std::string insets = "lIns=\"127000\" tIns=\"63500\" rIns=\"254000\" bIns=\"127000\" ";
   struct Case {
     std::string body, paragraph;
-    double x, y;                 ///< of the text's side, as far as it is known
-    double along = 0, down = 0;  ///< which side: 0 the first, 0.5 the middle, 1 the last
+    double x, y;                 ///< The position of the text's side, if it is known.
+    double along = 0, down = 0;  ///< The side: 0 for the first, 0.5 for the middle, 1 for the last.
   };
   for (const Case& c :
        {Case{insets, "", 110, 55}, Case{insets, "algn=\"r\"", 280, 55, 1},
         Case{insets, "algn=\"ctr\"", 195, 55, 0.5}, Case{insets + "anchor=\"b\"", "", 110, 90, 0, 1},
         Case{insets + "anchor=\"ctr\"", "", 110, 72.5, 0, 0.5},
         Case{insets + "wrap=\"none\"", "algn=\"r\"", 280, 55, 1}, Case{"", "", 107.2, 53.6},
-        // turned by a right angle about the middle at (200, 75)
+        // Rotated by a right angle around the middle at (200, 75).
         Case{insets + "vert=\"vert\"", "", 220, -15, 1, 0},
         Case{insets + "vert=\"vert270\"", "", 180, 165, 0, 1}}) {
     const Drawing drawing = DrawWith(Anchor(Shape("rect", "", {}, "", Text(c.body, c.paragraph, "Words"))));
@@ -170,7 +170,7 @@ TEST_F(UserShapesTest, ADrawingThatCantBeReadIsNoted) {
   EXPECT_EQ(notes_[0].rfind("The chart's shapes can't be read", 0), 0) << notes_[0];
 }
 
-/// A chart with a picture among its shapes: `bytes` behind the relationship.
+/// Returns a chart with a picture among its shapes. The relationship leads to `bytes`.
 std::string PictureXml(const std::string& crop, const std::string& turn) {
   return "<cdr:pic><cdr:nvPicPr><cdr:cNvPr id=\"2\" "
          "name=\"Logo\"/><cdr:cNvPicPr/></cdr:nvPicPr><cdr:blipFill>"
@@ -226,7 +226,7 @@ TEST_F(UserShapesTest, PicturesFillTheirFrameAsFarAsTheyAreNotCropped) {
 
 TEST(PlacementTest, InnerTurnsComeBeforeOuterOnes) {
   const auto placement = render::Placement().Turned({0, 0}, 90, false, false).Turned({10, 0}, 0, true, false);
-  const render::Point at = placement.Map({13, 1});  // mirrored to (7, 1), then turned
+  const render::Point at = placement.Map({13, 1});  // The point is mirrored to (7, 1), then rotated.
   EXPECT_NEAR(at.x, -1, 1e-9);
   EXPECT_NEAR(at.y, 7, 1e-9);
   EXPECT_EQ(placement.Rotation(), 90);

@@ -21,7 +21,7 @@ using render::Role;
 
 class Bodies3DTest : public Chart3DTest {};
 
-/// The rectangle of the front of a bar in a view along right angles.
+/// Returns the front rectangle of a bar in a view with right-angle axes.
 Rect FrontOf(const Drawing& drawing, int series, int point) {
   for (const Item& item : drawing.items) {
     if (item.tag == render::Tag{Role::kBar, series, point}) return BoundsOf(item);
@@ -71,7 +71,7 @@ TEST_F(Bodies3DTest, FrontsHaveTheColorAndSidesAreDarker) {
   const render::Color own{0x4F, 0x81, 0xBD, 1};
   for (const Item* front : ItemsOf(drawing, Role::kBar, 1)) EXPECT_EQ(FillOf(*front), own);
   const auto sides = ItemsOf(drawing, Role::kSide, 1);
-  ASSERT_EQ(sides.size(), 8);  // of each bar one at the right and one above
+  ASSERT_EQ(sides.size(), 8);  // Each bar has a side at the right and one above.
   for (const Item* side : sides) {
     const Rect front = FrontOf(drawing, 1, side->tag.point), bounds = BoundsOf(*side);
     const bool atRight = std::abs(bounds.left - front.Right()) < 1e-6;
@@ -84,11 +84,12 @@ TEST_F(Bodies3DTest, BarsShareOutTheWidthAndTheDepth) {
   struct Case {
     const char* grouping;
     const char* behind;
-    double depthOfBox;         ///< of its width
-    double firstBar, lastBar;  ///< where the bars of the second of four categories begin and end
-    double front, back;        ///< of the second series, of the depth
+    double depthOfBox;  ///< As a share of its width.
+    double firstBar,
+        lastBar;         ///< The positions at which the bars of the second of four categories begin and end.
+    double front, back;  ///< The extent of the second series, as shares of the depth.
   };
-  // a bar is as deep as it is wide, with the gap to half in front of it and to half behind
+  // A bar is as deep as it is wide, with half of the gap before it and half behind it.
   for (const Case& c :
        {Case{"clustered", "", 2.5 / 18, 0.25 + 0.75 / 18, 0.5 - 0.75 / 18, 0.3, 0.7},
         Case{"clustered", R"(<c:gapWidth val="0"/><c:gapDepth val="0"/>)", 1.0 / 12, 0.25, 0.5, 0, 1},
@@ -107,7 +108,7 @@ TEST_F(Bodies3DTest, BarsShareOutTheWidthAndTheDepth) {
   }
 }
 
-/// A place on the surface of a bar: where it is seen, and how far from the eye.
+/// A point on the surface of a bar: its position in the picture, and its distance from the eye.
 struct Sighting {
   std::size_t item = 0;
   double distance = 0;
@@ -117,7 +118,7 @@ double DistanceOf(const render::Point3& place, const render::Point3& eye) {
   return std::hypot(place.x - eye.x, place.y - eye.y, place.z - eye.z);
 }
 
-/// How many places are seen through a bar that is painted over a nearer one.
+/// Returns the number of points that are covered by a bar that is painted later although it is farther away.
 int HiddenPlaces(const render::Stage& stage, const render::Projection& projection,
                  const std::vector<Item>& items) {
   std::map<std::pair<int, int>, std::size_t> order;
@@ -151,7 +152,7 @@ int HiddenPlaces(const render::Stage& stage, const render::Projection& projectio
       }
     }
   }
-  // places that share half a point may differ by that much in depth, on a face that is seen at a slant
+  // Points within half a point of each other can differ by that much in depth on a slanted face.
   const double slack = 0.05 * std::hypot(projection.Extent().width, projection.Extent().height);
   int hidden = 0;
   for (const auto& [pixel, sightings] : seen) {
@@ -195,7 +196,8 @@ TEST_F(Bodies3DTest, AreasOfAPileShareTheirBorders) {
   for (std::size_t s = 0; s + 1 < fronts.size(); ++s) {
     const auto& lower = std::get<render::PathItem>(fronts[s]->content).path.Steps();
     const auto& upper = std::get<render::PathItem>(fronts[s + 1]->content).path.Steps();
-    ASSERT_EQ(lower.size(), 9);  // along the upper border, back along the lower one, and closed
+    ASSERT_EQ(lower.size(),
+              9);  // The path goes along the upper border, back along the lower one, and is closed.
     for (std::size_t i = 0; i < 4; ++i) {
       EXPECT_NEAR(lower[i].to.x, upper[7 - i].to.x, 1e-6);
       EXPECT_NEAR(lower[i].to.y, upper[7 - i].to.y, 1e-6);
@@ -210,7 +212,7 @@ TEST_F(Bodies3DTest, AreasStandBehindEachOtherWithTheFirstInFront) {
   std::vector<int> order;
   for (const Item* front : ItemsOf(drawing, Role::kArea)) order.push_back(front->tag.series);
   EXPECT_EQ(order, (std::vector{3, 2, 1}));
-  // the labels of the series stand along the depth, from the front to the back
+  // The labels of the series are along the depth, from front to back.
   std::vector<std::string> names;
   for (const Item* label : ItemsOf(drawing, Role::kTickLabel, 3)) {
     names.push_back(std::get<render::TextItem>(label->content).text);
@@ -218,7 +220,7 @@ TEST_F(Bodies3DTest, AreasStandBehindEachOtherWithTheFirstInFront) {
   EXPECT_EQ(names, (std::vector<std::string>{"S1", "S2", "S3"}));
 }
 
-/// Whether a point is inside of a polygon: a ray from it crosses the outline an odd number of times.
+/// Returns true if a point is inside a polygon: a ray from it crosses the outline an odd number of times.
 bool IsInside(Point point, const std::vector<render::PathStep>& outline) {
   bool inside = false;
   for (std::size_t i = 0; i + 1 < outline.size(); ++i) {
@@ -249,7 +251,7 @@ TEST_F(Bodies3DTest, AxisLabelsStayOnTheChartApartAndOffTheFloor) {
         EXPECT_TRUE(box.left >= 0 && box.top >= 0 && box.Right() <= 384 && box.Bottom() <= 270) << view;
         for (std::size_t j = 0; j < i; ++j) {
           if (labels[i]->tag.series != labels[j]->tag.series) continue;
-          // letters take less than the height of their line
+          // Letters are lower than their line.
           EXPECT_FALSE(Overlap(box, BoundsOf(*labels[j]), 0.2 * box.height + 0.1)) << view << grouping;
         }
       }
@@ -260,7 +262,8 @@ TEST_F(Bodies3DTest, AxisLabelsStayOnTheChartApartAndOffTheFloor) {
 TEST_F(Bodies3DTest, BarsHaveTheFormsOfTheFile) {
   struct Case {
     const char* shape;
-    double narrowed;  ///< the width of the second series' front at its end, of that at its base, in a pile
+    double narrowed;  ///< The ratio of the front widths of the second series at its end and at its base, in a
+                      ///< stack.
     std::size_t faces;
   };
   for (const Case& c : {Case{"box", 1, 3}, Case{"cylinder", 1, 2}, Case{"pyramid", 0.6, 3},
@@ -273,7 +276,7 @@ TEST_F(Bodies3DTest, BarsHaveTheFormsOfTheFile) {
     const auto fronts = ItemsOf(drawing, Role::kBar, 2);
     ASSERT_EQ(fronts.size(), 2) << c.shape;
     EXPECT_EQ((sides.size() + fronts.size()) / 2, c.faces) << c.shape;
-    // both bars of a category are as wide as each other where they meet
+    // Both bars of a category have the same width where they meet.
     const Rect lower = FrontOf(drawing, 1, 1), upper = FrontOf(drawing, 2, 1);
     EXPECT_TRUE(c.narrowed == 1 ? upper.width == lower.width : upper.width < lower.width * 0.99) << c.shape;
   }

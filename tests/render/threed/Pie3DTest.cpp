@@ -31,7 +31,7 @@ TEST_F(Pie3DTest, TheDiscIsAsFlatAsTheElevationSays) {
     ASSERT_EQ(slices.size(), 4);
     const Rect top = BoundsOfAll(slices), sides = BoundsOfAll(ItemsOf(drawing, Role::kSide));
     EXPECT_NEAR(top.height / top.width, std::sin(elevation * std::numbers::pi / 180), 1e-3) << elevation;
-    // the rim is below the upper side, the thinner the more one looks from above
+    // The rim is below the upper side. It is thinner in a view from above.
     EXPECT_NEAR((sides.Bottom() - top.Bottom()) / top.width,
                 0.12 * std::cos(elevation * std::numbers::pi / 180), 1e-3);
     EXPECT_TRUE(top.left >= 0 && top.top >= 0 && top.Right() <= 384 && sides.Bottom() <= 270);
@@ -51,7 +51,7 @@ TEST_F(Pie3DTest, SlicesMeetOnTheirEdgesAndBeginWhereTheViewIsTurnedTo) {
       return std::get<render::PathItem>(slices[i % 3]->content).path.Steps();
     };
     for (std::size_t i = 0; i < 3; ++i) {
-      // a slice goes from the middle to the edge, along it, and back
+      // The path of a slice goes from the middle to the edge, along it, and back.
       const auto end = stepsOf(i)[stepsOf(i).size() - 2].to, next = stepsOf(i + 1)[1].to;
       EXPECT_NEAR(end.x, next.x, 1e-6);
       EXPECT_NEAR(end.y, next.y, 1e-6);
@@ -75,7 +75,7 @@ TEST_F(Pie3DTest, NothingIsPaintedOverTheUpperSides) {
       if (item.tag.role == Role::kSide) EXPECT_EQ(slices, 0);
     }
     EXPECT_EQ(slices, 4);
-    // of an exploded pie one also sees the cuts
+    // The cuts of an exploded pie are visible.
     const std::size_t walls = ItemsOf(drawing, Role::kSide).size();
     EXPECT_TRUE(exploded.empty() ? walls <= 4 : walls > 4) << walls;
   }
@@ -92,8 +92,8 @@ TEST_F(Pie3DTest, SlicesGoOutAlongTheDisc) {
   const auto tipOf = [&](std::size_t i) {
     return std::get<render::PathItem>(slices[i]->content).path.Steps()[0].to;
   };
-  const Rect slice = BoundsOf(*slices[0]);  // a quarter: as wide as the radius
-  // each is half of the radius away, at 45 degrees of the disc
+  const Rect slice = BoundsOf(*slices[0]);  // A quarter is as wide as the radius.
+  // Each slice is moved by half of the radius, at 45 degrees on the disc.
   EXPECT_NEAR((tipOf(0).x - tipOf(3).x) / 2, slice.width * 0.5 * std::numbers::sqrt2 / 2, 0.02);
   EXPECT_NEAR((tipOf(1).y - tipOf(0).y) / 2, slice.height * 0.5 * std::numbers::sqrt2 / 2, 0.02);
 }
@@ -116,7 +116,7 @@ TEST_F(Pie3DTest, LabelsOutsideStayClearOfTheDiscAndItsRim) {
       EXPECT_TRUE(box.left >= 0 && box.top >= 0 && box.Right() <= 384 && box.Bottom() <= 270);
       for (const double x : {box.left, box.Center().x, box.Right()}) {
         for (const double y : {box.top, box.Bottom()}) {
-          // in the upper ellipse, the lower one, or between them
+          // The point is in the upper ellipse, the lower one, or between them.
           const double across = (x - top.Center().x) / (top.width / 2);
           const double reach = std::sqrt(std::max(1 - across * across, 0.0)) * top.height / 2;
           EXPECT_FALSE(std::abs(across) < 1 && y > top.Center().y - reach + 0.5 &&

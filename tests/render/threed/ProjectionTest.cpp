@@ -43,7 +43,7 @@ void ExpectNear(const Rect& actual, const Rect& expected, double slack) {
   EXPECT_NEAR(actual.Bottom(), expected.Bottom(), slack);
 }
 
-/// Which faces of a block are seen, as letters: left, right, down, up, back, front.
+/// Returns the visible faces of a block as letters: left, right, down, up, back, front.
 std::string SeenOf(const Projection& projection) {
   constexpr std::string_view kNames = "LRDUBF";
   const auto faces = BlockFaces(projection.Place(0.4, 0.4, 0.4), projection.Place(0.6, 0.6, 0.6));
@@ -96,7 +96,7 @@ TEST(ProjectionTest, GoesBackAlongTheAnglesOfTheView) {
   EXPECT_NEAR(back.x - front.x, oblique.Extent().depth * std::sin(20 * std::numbers::pi / 180), 1e-6);
   EXPECT_NEAR(front.y - back.y, oblique.Extent().depth * std::sin(15 * std::numbers::pi / 180), 1e-6);
 
-  // in perspective, what is farther away is smaller, and the smaller the wider the view
+  // In perspective, distant objects are smaller, and the effect increases with the field of view.
   double before = 1;
   for (const double field : {0.0, 15.0, 60.0, 120.0}) {
     const Projection turned(ViewOf(0, 0, false, field), {1}, kRoom);

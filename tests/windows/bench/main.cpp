@@ -1,5 +1,5 @@
-// Counts what a refresh of all charts costs through COM: calls of Excel's members, and time. A call costs
-// less here than in Excel, so the count says more than the time. Usage: plotsmith_windows_bench BOOK...
+// Measures a refresh of all charts through COM: the number of calls of Excel's members, and the time. A call
+// is faster here than in Excel, so the number is more meaningful. Usage: plotsmith_windows_bench BOOK...
 
 #include <chrono>
 #include <cstdio>
@@ -17,7 +17,7 @@
 namespace plotsmith {
 namespace {
 
-/// A desktop on which nothing is said.
+/// A desktop that shows nothing.
 class SilentDesktop final : public desktop::Desktop {
  public:
   std::int32_t MsgBox(std::string_view text, desktop::Buttons, desktop::Icon, std::string_view) override {

@@ -79,7 +79,7 @@ class Boxes final : public IDispatch {
   };
   static const Member kMembers[];
 
-  /// The argument at a position from 0, counted from the last one, as they are sent.
+  /// Returns an argument by its position from the end, from 0, because arguments are passed in reverse order.
   static const VARIANT& Last(const DISPPARAMS& sent, UINT position) {
     if (position >= sent.cArgs) throw runtime::RuntimeError(450, "Wrong number of arguments");
     return sent.rgvarg[position];
@@ -87,7 +87,7 @@ class Boxes final : public IDispatch {
   static std::string Text(const DISPPARAMS& sent, UINT position) {
     return CStr(com::FromVariant(Last(sent, position)));
   }
-  /// JScript's null is no object, too.
+  /// JScript's null also means no object.
   static com::ComPtr<IDispatch> Object(const DISPPARAMS& sent, UINT position) {
     const VARIANT& object = Last(sent, position);
     return object.vt == VT_NULL ? nullptr : com::ObjectOf(object);
@@ -101,19 +101,19 @@ class Boxes final : public IDispatch {
 };
 
 const Boxes::Member Boxes::kMembers[] = {
-    // Cancel(): the next box is answered with Cancel.
+    // Cancel(): answers the next box with Cancel.
     {"Cancel",
      [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
        boxes.boxes_.AnswerNext(IDCANCEL);
        return {};
      }},
-    // Take(): what the boxes showed since the last call, see MessageBoxes.
+    // Take(): returns the boxes since the last call (see MessageBoxes).
     {"Take",
      [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
        return com::ToVariant(Variant(boxes.boxes_.Take()));
      }},
-    // PlayScript(script): dialogs and boxes are used by a script of the wizard from now on; see
-    // ScriptedHands.
+    // PlayScript(script): lets a script of the wizard operate dialogs and boxes from now on (see
+    // ScriptedHands).
     {"PlayScript",
      [](Boxes& boxes, const DISPPARAMS& sent) -> OwnedVariant {
        boxes.hands_ = std::make_unique<ScriptedHands>(Text(sent, 0));
@@ -122,7 +122,7 @@ const Boxes::Member Boxes::kMembers[] = {
        });
        return {};
      }},
-    // FinishScript(): what was wrong, behind it a line feed and what the script has shown.
+    // FinishScript(): returns the failure, a line feed, and the output of the script.
     {"FinishScript",
      [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
        boxes.boxes_.AnswerBy({});
@@ -155,13 +155,13 @@ const Boxes::Member Boxes::kMembers[] = {
      [](Boxes&, const DISPPARAMS&) -> OwnedVariant {
        return com::ToVariant(Variant(RefreshOnOtherThread()));
      }},
-    // Create(progID): as CreateObject. Wine's own keeps a reference to the class object for good.
+    // Create(progID): like CreateObject. Wine's own function never releases the class object.
     {"Create",
      [](Boxes&, const DISPPARAMS& sent) -> OwnedVariant {
        return com::ToVariant(NewObject(Text(sent, 0)).Get());
      }},
-    // Refresh(application): by a controller of this object, which holds the only reference to it; Release()
-    // releases that, also while the call is at work.
+    // Refresh(application): refreshes with a controller of this object, which has the only reference to it.
+    // Release() releases that reference, also during the call.
     {"Refresh",
      [](Boxes& boxes, const DISPPARAMS& sent) -> OwnedVariant {
        boxes.controller_ = NewObject("Plotsmith.CPlotsmithController");
@@ -173,12 +173,12 @@ const Boxes::Member Boxes::kMembers[] = {
        boxes.controller_.Reset();
        return {};
      }},
-    // Nothing(): an object reference that is not set, which JScript has no word for.
+    // Nothing(): returns an unset object reference, which JScript doesn't have.
     {"Nothing",
      [](Boxes&, const DISPPARAMS&) -> OwnedVariant {
        return com::ToVariant(static_cast<IDispatch*>(nullptr));
      }},
-    // Handles(): how many the process has.
+    // Handles(): returns the number of handles of the process.
     {"Handles",
      [](Boxes&, const DISPPARAMS&) -> OwnedVariant { return com::ToVariant(Variant(HandleCount())); }},
     // FreeUnusedLibraries(), and IsLoaded(library)
@@ -191,7 +191,8 @@ const Boxes::Member Boxes::kMembers[] = {
      [](Boxes&, const DISPPARAMS& sent) -> OwnedVariant {
        return com::ToVariant(Variant(GetModuleHandleW(com::Wide(Text(sent, 0)).c_str()) != nullptr));
      }},
-    // Window(): the handle of a window of this thread, which is made at the first call; WindowIsEnabled().
+    // Window(): returns the handle of a window of this thread, which is made at the first call;
+    // WindowIsEnabled().
     {"Window",
      [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
        if (boxes.window_ == nullptr) boxes.window_ = NewWindow();

@@ -28,12 +28,12 @@ std::vector<std::string> Split(const std::string& text, char separator) {
   return parts;
 }
 
-/// One argument of a call, with what it refers to.
+/// An argument of a call, with the value that it refers to.
 struct Argument {
   std::string name;
   VARIANT value;
-  VARIANT target;  ///< of a reference to a Variant
-  void* data;      ///< of any other reference
+  VARIANT target;  ///< The target of a reference to a Variant.
+  void* data;      ///< The target of any other reference.
 
   Argument() {
     VariantInit(&value);
@@ -96,7 +96,7 @@ VARIANT ValueOf(const std::string& kind, const std::string& text, IDispatch* app
   throw runtime::RuntimeError(runtime::error::kInvalidCall, "There is no kind of argument \"" + kind + "\".");
 }
 
-/// Makes a value a reference to itself: "&" to what it holds, "&v" to a Variant of it.
+/// Converts a value to a reference: "&" to its contents, "&v" to a Variant.
 void Refer(Argument& argument, const std::string& reference) {
   argument.target = argument.value;
   VARIANT& value = argument.value;
@@ -123,7 +123,7 @@ void Parse(const std::string& text, IDispatch* application, Argument& argument) 
   if (!reference.empty()) Refer(argument, reference);
 }
 
-/// The arguments of a call, the last one first, as they are sent.
+/// The arguments of a call in reverse order, as they are passed.
 class Sent {
  public:
   Sent(const std::string& call, IDispatch* application) {
@@ -172,7 +172,7 @@ std::string CallLateBound(IDispatch* controller, const std::string& call, IDispa
       named.push_back(argument.value);
     }
   }
-  // A number is no name that the object could know.
+  // The object doesn't know a number as a name.
   std::vector<DISPID> numbers;
   while (names.size() > 1 && names.back().starts_with(L"#")) {
     numbers.insert(numbers.begin(), std::stoi(names.back().substr(1)));
@@ -217,7 +217,7 @@ std::string CallEarlyBound(IDispatch* controller, const std::string& call, IDisp
 
 namespace {
 
-/// The words of a type in the language of the interface's description.
+/// Returns the name of a type in the interface definition language.
 std::string TypeText(const TYPEDESC& type) {
   switch (type.vt) {
     case VT_PTR:

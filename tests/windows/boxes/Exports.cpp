@@ -1,4 +1,5 @@
-// The COM server of PlotsmithTest.Boxes, which registers for all: Wine finds no classes of a user.
+// The COM server of PlotsmithTest.Boxes. It registers for all users, because Wine doesn't support classes of
+// one user.
 #include <string>
 
 #include "tests/windows/boxes/Boxes.h"
@@ -12,7 +13,7 @@ constexpr const wchar_t* kClassIdText = L"{0355a70b-533f-4b03-b8b3-afb1445c2397}
 
 HINSTANCE library = nullptr;
 
-/// Never deleted, as the library stays loaded.
+/// It is never deleted, because the library stays loaded.
 class Factory final : public IClassFactory {
  public:
   STDMETHODIMP QueryInterface(REFIID id, void** object) override {

@@ -11,7 +11,7 @@ namespace {
 
 constexpr UINT kAnswer = WM_APP;
 
-// A hook has no data of its own, so these belong to the thread.
+// A hook has no user data, so these are thread-local.
 thread_local HHOOK hook = nullptr;
 thread_local HWND answerer = nullptr;
 thread_local HWND shownBox = nullptr;
@@ -64,7 +64,7 @@ void Remember(HWND window) {
            content.buttons + "]" + (owner == nullptr ? "" : " of " + TextOf(owner)) + ": " + text;
 }
 
-/// A box has its texts only when it handles messages, so it is answered by one.
+/// A box has its texts only when it processes messages, so a message answers it.
 LRESULT CALLBACK Answer(HWND window, UINT message, WPARAM box, LPARAM data) {
   if (message != kAnswer) return DefWindowProcW(window, message, box, data);
   if (answerBy) {

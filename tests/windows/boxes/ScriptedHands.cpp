@@ -22,9 +22,9 @@ using forms::ControlState;
 
 constexpr UINT kTickInterval = 10;  // milliseconds
 
-ScriptedHands* theHands = nullptr;  // a timer has no data of its own
+ScriptedHands* theHands = nullptr;  // A timer has no user data.
 
-/// A form with the controls that a window shows, and their states, for the script to look at.
+/// A form with the visible controls of a window and their states, for the script.
 class SeenForm final : public forms::Form {
  public:
   explicit SeenForm(const forms::FormState& state) : Form(state.name.c_str()) {
@@ -125,7 +125,7 @@ BOOL CALLBACK FindForm(HWND window, LPARAM found) {
   return waits ? FALSE : TRUE;
 }
 
-/// The dialog of this thread that waits for a hand; null if none does.
+/// Returns the dialog of this thread that waits for the user, or null.
 HWND WaitingForm() {
   HWND window = nullptr;
   EnumThreadWindows(GetCurrentThreadId(), FindForm, reinterpret_cast<LPARAM>(&window));

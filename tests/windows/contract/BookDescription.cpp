@@ -7,7 +7,7 @@
 namespace plotsmith::contract {
 namespace {
 
-/// How many rows and columns of a sheet are described, from the corner of what is used.
+/// The number of rows and columns that are described, from the corner of the used range.
 constexpr std::int32_t kRows = 150, kColumns = 30;
 
 class Description {
@@ -16,7 +16,7 @@ class Description {
   void Line(const std::string& name, const Member& member) {
     text_ += path_ + name + " = " + Answer(member) + "\n";
   }
-  /// Describes an object and what is on it, if it is there.
+  /// Describes an object and its contents, if it exists.
   template <class Find, class Describe>
   void On(const std::string& name, const Find& find, const Describe& describe) {
     try {

@@ -9,7 +9,7 @@
 namespace plotsmith::contract {
 namespace {
 
-/// A sheet with a column of texts, one of dates and one of numbers, and a proxy of it.
+/// Tests a sheet with a column of texts, one of dates and one of numbers, and its proxy.
 class CellReaderTest : public testing::Test {
  protected:
   static constexpr std::int32_t kRows = 1000;
@@ -29,7 +29,7 @@ class CellReaderTest : public testing::Test {
     proxy_ = application_->ActiveWorkbook()->Worksheets()->Item(1);
   }
 
-  /// How many calls it takes to do something.
+  /// Returns the number of calls that a function makes.
   template <class Work>
   std::uint64_t Calls(const Work& work) {
     const std::uint64_t before = com::CallCount();

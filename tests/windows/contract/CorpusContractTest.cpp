@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The first line in which two texts differ, from either.
+/// Returns the first line in which two texts differ, from both texts.
 std::string FirstDifference(const std::string& a, const std::string& b) {
   std::istringstream as(a), bs(b);
   std::string lineOfA, lineOfB;
@@ -22,7 +22,7 @@ std::string FirstDifference(const std::string& a, const std::string& b) {
   }
 }
 
-/// Workbooks of a folder of the repository, or beside it.
+/// Returns the workbooks in a folder of the repository or beside it.
 std::vector<fs::path> BooksIn(const std::string& folder) {
   std::vector<fs::path> books;
   const fs::path path = fs::path(PLOTSMITH_SOURCE_DIR) / folder;
@@ -43,7 +43,7 @@ TEST(CorpusContractTest, AllThatTheHostTellsIsTheSameThroughCom) {
       try {
         host->application->Open(runtime::Utf8Of(book));
       } catch (const xlsx::PackageError&) {
-        continue;  // the host refuses it, and says so
+        continue;  // The host refuses it and reports an error.
       }
       const auto dressed = com::ComPtr<IDispatch>::Attach(dress::NewApplication(host));
       const auto proxy = excel::WrapApplication(dressed.Get());

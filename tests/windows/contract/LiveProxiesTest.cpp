@@ -13,7 +13,7 @@
 namespace plotsmith::contract {
 namespace {
 
-/// A desktop that keeps what message boxes say.
+/// A desktop that stores the texts of message boxes.
 class QuietDesktop final : public desktop::Desktop {
  public:
   std::int32_t MsgBox(std::string_view text, desktop::Buttons, desktop::Icon, std::string_view) override {
@@ -28,8 +28,8 @@ class QuietDesktop final : public desktop::Desktop {
   std::string said;
 };
 
-/// How many objects of Excel's the component's module variables hold, which is all that may be left of them
-/// when an operation has ended.
+/// The number of Excel objects in the component's module variables. No other objects may be left after an
+/// operation.
 std::int32_t HeldByVariables() {
   std::set<const void*> held = {oApplication.shared().get(), oWorkbook.shared().get(), mChart.shared().get()};
   if (colChartObjects) {
@@ -61,7 +61,7 @@ class LiveProxiesTest : public testing::Test {
   dress::HostPtr host_ = std::make_shared<dress::Host>();
   com::ComPtr<IDispatch> dressed_;
   CPlotsmithController controller_;
-  std::string said_;  ///< what message boxes are to say
+  std::string said_;  ///< The expected texts of message boxes.
 };
 
 TEST_F(LiveProxiesTest, ARefreshLeavesOnlyTheApplicationAndTheLastChart) {

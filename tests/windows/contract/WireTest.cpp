@@ -7,7 +7,7 @@
 namespace plotsmith::contract {
 namespace {
 
-/// The letters that tell a VARIANT's type.
+/// Returns the letters for the type of a VARIANT.
 std::string TypeOf(const VARIANT& value) {
   switch (V_VT(&value)) {
     case VT_BOOL:
@@ -33,8 +33,8 @@ std::string Sent(const VARIANT& value) {
   return TypeOf(value) + Words(com::FromVariant(value));
 }
 
-/// What Excel is asked by the calls of a port's class, each as "kind: arguments". Every object that it
-/// answers is itself.
+/// Records the calls that a class of the port makes to Excel, each as "kind: arguments". All objects that the
+/// fake returns are the fake itself.
 template <class T, class Use>
 std::string Asked(const Use& use) {
   std::string asked;

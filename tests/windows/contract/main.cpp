@@ -7,12 +7,12 @@
 
 namespace {
 
-/// At the end of all tests: the tables have no line that wasn't tried, and every call said which kind it is.
+/// Checks at the end that every line of the tables was tried, and that every call specified its kind.
 class WholeTables final : public testing::Environment {
   void TearDown() override {
     if (testing::GTEST_FLAG(filter) != "*") return;
     auto notCalled = plotsmith::dress::WaysNotCalled();
-    // only the corpus has a sheet without cells, which has the lines of worksheets
+    // Only the corpus has a sheet without cells, which needs the lines of worksheets.
     if (!std::filesystem::exists(PLOTSMITH_SOURCE_DIR "/../shared/corpus")) {
       std::erase_if(notCalled, [](const std::string& way) { return way.starts_with("Sheet."); });
     }

@@ -1,4 +1,4 @@
-// Shows topics of the help as a page's Help button does, and prints what message boxes said, one line a
+// Shows help topics like the Help button of a page, and prints the texts of message boxes, one line per
 // topic: plotsmith_windows_help FILE NUMBER...
 #include <cstdio>
 #include <cwchar>

@@ -9,19 +9,19 @@ namespace {
 
 using runtime::RuntimeError;
 
-/// What Excel answers while a cell is being edited: 0x800AC472.
+/// Excel's error while a cell is being edited: 0x800AC472.
 constexpr int kSuspended = 0xC472;
 
 void CheckEditing(const HostPtr& host) {
   if (host->editing) throw RuntimeError(kSuspended);
 }
 
-/// A list of a workbook's properties, of which the port has only the items.
+/// The list of a workbook's properties, of which the port has only the items.
 struct DocumentProperties {
   Ref<excel::Workbook> book;
 };
 
-/// How cells look, of which the proxies want only the number format.
+/// The display format of cells, of which the proxies need only the number format.
 struct DisplayFormat {
   Ref<excel::Range> range;
 };
@@ -65,7 +65,7 @@ void AddWays(Table<excel::Sheets>& table) {
 void AddWays(Table<excel::Sheet>&) {}
 void AddWays(Table<excel::Worksheet>&) {}
 
-/// The value of the only cell, or those of all cells as an array.
+/// Returns the value of a single cell, or the values of all cells as an array.
 com::OwnedVariant Values(excel::Range& range) {
   const auto [sheet, cells] = xlsx::CellsOf(range);
   if (cells.CellCount() == 1) return com::ToVariant(range.Value());
@@ -78,7 +78,7 @@ com::OwnedVariant Values(excel::Range& range) {
   return values.Take();
 }
 
-/// What `of` gives for all cells alike; Null where they differ.
+/// Returns the common result of `of` for all cells, or Null if they differ.
 template <class Of>
 excel::Variant Common(excel::Range& range, const Of& of) {
   const auto [sheet, cells] = xlsx::CellsOf(range);

@@ -40,7 +40,7 @@ HRESULT Dispatch::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPI
   if (names == nullptr || ids == nullptr || count == 0) return E_INVALIDARG;
   std::fill(ids, ids + count, DISPID_UNKNOWN);
   ids[0] = IdOf(names[0]);
-  // arguments have no names here
+  // Arguments have no names here.
   return ids[0] == DISPID_UNKNOWN || count > 1 ? DISP_E_UNKNOWNNAME : S_OK;
 }
 
@@ -52,7 +52,7 @@ HRESULT Dispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* sent, 
   if (sent->cNamedArgs > (puts ? 1U : 0U)) return DISP_E_NONAMEDARGS;
   const WORD kinds = puts ? WORD{DISPATCH_PROPERTYPUT} : flags;
   if ((kinds & (kinds - 1)) != 0) ++counts.unsure;
-  // what is called may release the object
+  // The call may release the object.
   const com::ComPtr<IDispatch> self(this);
   try {
     com::OwnedVariant result = Called(id, kinds, Arguments(*sent));

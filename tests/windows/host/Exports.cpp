@@ -1,5 +1,5 @@
-// The library's entries for COM: one class, PlotsmithTestHost.Application, registered for all users, as Wine
-// wants it.
+// The COM entry points of the library. Its class PlotsmithTestHost.Application is registered for all users,
+// because Wine requires it.
 #include <array>
 #include <string>
 
@@ -15,7 +15,7 @@ const std::wstring kClasses = L"Software\\Classes\\";
 
 HMODULE module = nullptr;
 
-/// Makes applications. There is one for the life of the library.
+/// Makes applications. It exists as long as the library.
 class Factory final : public IClassFactory {
  public:
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) noexcept override {
@@ -33,7 +33,7 @@ class Factory final : public IClassFactory {
   HRESULT STDMETHODCALLTYPE LockServer(BOOL) noexcept override { return S_OK; }
 };
 
-/// Sets the default value, or another one, of a key of the classes.
+/// Sets the default value or another value of a registry key of the classes.
 HRESULT SetText(const std::wstring& key, const wchar_t* name, const std::wstring& text) {
   const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
   return HRESULT_FROM_WIN32(static_cast<DWORD>(

@@ -16,7 +16,7 @@ namespace {
 
 using runtime::RuntimeError;
 
-/// Files that can't be read or written are errors as Excel has them.
+/// Converts errors in reading and writing files to Excel's errors.
 template <class Work>
 void OnFiles(const Work& work) {
   try {
@@ -37,7 +37,7 @@ com::OwnedVariant Open(excel::Application&, const Arguments& arguments, const Ho
   return {};
 }
 
-/// Save(): writes the workbook back if it was changed, as the command does.
+/// Save(): saves the workbook if it was changed, like the command.
 com::OwnedVariant Save(excel::Application&, const Arguments&, const HostPtr& host) {
   OnFiles([&] {
     if (host->application->Book().Changed()) host->application->Book().Save(host->path);
@@ -51,12 +51,12 @@ com::OwnedVariant SaveAs(excel::Application&, const Arguments& arguments, const 
   return {};
 }
 
-/// Journal: what was changed since the workbook was opened, a line each.
+/// Journal: the changes since the workbook was opened, one per line.
 com::OwnedVariant Journal(excel::Application&, const Arguments&, const HostPtr& host) {
   return com::ToVariant(host->journal);
 }
 
-/// SaveJournal(path): the same as a file, in UTF-8.
+/// SaveJournal(path): writes the journal to a file in UTF-8.
 com::OwnedVariant SaveJournal(excel::Application&, const Arguments& arguments, const HostPtr& host) {
   std::ofstream file(runtime::PathOf(Given<std::string>(arguments[0])), std::ios::binary);
   if (!(file << host->journal << std::flush)) {
@@ -65,8 +65,8 @@ com::OwnedVariant SaveJournal(excel::Application&, const Arguments& arguments, c
   return {};
 }
 
-/// DefineMacro(name, function): a macro that Run finds, such as a function of the script. It is called with
-/// the arguments of Run.
+/// DefineMacro(name, function): defines a macro for Run, such as a function of the script, which gets the
+/// arguments of Run.
 com::OwnedVariant DefineMacro(excel::Application&, const Arguments& arguments, const HostPtr& host) {
   const auto name = Given<std::string>(arguments[0]);
   host->macros[name] = com::ObjectOf(arguments[1]);
@@ -90,14 +90,14 @@ com::OwnedVariant DefineMacro(excel::Application&, const Arguments& arguments, c
   return {};
 }
 
-/// Editing: as if a cell was being edited, while it is True.
+/// Editing: if True, the host behaves as if a cell was being edited.
 com::OwnedVariant SetEditing(excel::Application&, const Arguments& arguments, const HostPtr& host) {
   host->editing = Given<bool>(arguments[0]);
   return {};
 }
 
-/// Calls: how many calls all objects of this library have got; UnsureCalls: those of them that asked for a
-/// property and a method at once.
+/// Calls: the number of calls to all objects of this library. UnsureCalls: the number of calls that asked for
+/// a property and a method at once.
 com::OwnedVariant Calls(excel::Application&, const Arguments&, const HostPtr&) {
   return com::ToVariant(counts.calls.load());
 }
@@ -105,7 +105,7 @@ com::OwnedVariant UnsureCalls(excel::Application&, const Arguments&, const HostP
   return com::ToVariant(counts.unsure.load());
 }
 
-/// LiveObjects: how many objects of this library somebody refers to.
+/// LiveObjects: the number of objects of this library that still have references.
 com::OwnedVariant LiveObjects(excel::Application&, const Arguments&, const HostPtr&) {
   return com::ToVariant(counts.objects.load());
 }
@@ -121,7 +121,7 @@ void ListNotCalled(const std::string& name, std::vector<std::string>& list) {
   }
 }
 
-/// The members that are here for scripts.
+/// The additional members for scripts.
 constexpr std::array kHostMembers = {"Open",        "Save",    "SaveAs", "Journal",     "SaveJournal",
                                      "DefineMacro", "Editing", "Calls",  "UnsureCalls", "LiveObjects"};
 

@@ -1,4 +1,4 @@
-// The host add-in of the examples, with the test's Excel in Excel's place, and macros that show progress.
+// Tests the host add-in of the examples with the test's Excel and with macros that show progress.
 var examples = WScript.Arguments(1) + "\\";
 var progress = [];
 

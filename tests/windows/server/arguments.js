@@ -1,4 +1,4 @@
-// What the operations make of arguments as the languages of Excel's add-ins send them.
+// Tests the operations with the arguments that the languages of Excel add-ins pass.
 var controller = new ActiveXObject("Plotsmith.CPlotsmithController");
 var host = new ActiveXObject("PlotsmithTestHost.Application");
 
@@ -12,7 +12,7 @@ function report(operation, description) {
   return "Brindle Plotsmith [OK]: CPlotsmithController." + operation + "\\r\\n" + description;
 }
 
-// An operation that runs says so: without a workbook open, the guard speaks.
+// An operation that runs shows a message: without an open workbook, the guard reports it.
 function runs(call) {
   check(call, boxes.LateBound(controller, call, host), "ok");
   check(call + ": boxes", boxes.Take(), kNoWorkbook);
@@ -71,14 +71,14 @@ check("Nothing, as IUnknown", boxes.LateBound(controller, "RunPlotsmith|&n|s:|s:
 check("Nothing, as IUnknown: boxes", boxes.Take(),
     report("RunPlotsmith", "Object variable or With block variable not set"));
 
-// Early bound, as an add-in with a reference to the type library calls.
+// Early bound, like an add-in with a reference to the type library.
 check("early bound", boxes.EarlyBound(controller, "RefreshPlotsmithData|o|s:Add-in|s:", host), "ok");
 check("early bound: boxes", boxes.Take(), kNoWorkbook);
 check("early bound, Nothing", boxes.EarlyBound(controller, "RunPlotsmith|n|s:|s:", host), "ok");
 check("early bound, Nothing: boxes", boxes.Take(),
     report("RunPlotsmith", "Object variable or With block variable not set"));
 
-// As a script calls.
+// Late bound, like a script.
 check("a script without arguments", resultOf(function() { controller.RunPlotsmith(); }), kNotOptional);
 check("a script with too many", resultOf(function() { controller.RunPlotsmith(host, "", "", ""); }), kCount);
 check("a script without a host", resultOf(function() { controller.RunPlotsmith("Excel", "", ""); }), kMismatch);
@@ -86,12 +86,12 @@ check("a script that knows no better", resultOf(function() { controller.Refresh(
 check("a script that reads", resultOf(function() { var value = controller.RunPlotsmith; }), "0x80020003");
 check("a script: boxes", boxes.Take(), "");
 
-// Arrays of all kinds come to the rename as the same names, and so do names of all kinds.
+// Arrays of all kinds, and names of all kinds, reach the rename as the same names.
 var fileSystem = new ActiveXObject("Scripting.FileSystemObject");
 var book = WScript.Arguments(0) + "\\countries.xlsx";
 fileSystem.CopyFile(WScript.Arguments(1) + "\\countries.xlsx", book, true);
 
-// What the workbook's definitions say of the columns after a rename.
+// Returns the column names in the workbook's definitions after a rename.
 function columnsAfter(invoke, call) {
   var session = new ActiveXObject("PlotsmithTestHost.Application");
   session.Open(book);

@@ -1,4 +1,4 @@
-// What keeps an operation from its work, and in which order it is looked for.
+// Tests the conditions that prevent an operation, and their order.
 var kProduct = "Brindle Plotsmith [OK]: ";
 var kNoWorkbook = kProduct + "You must have a workbook open to use the Plotsmith.";
 var kProtected = kProduct +
@@ -7,7 +7,7 @@ var kShared = kProduct + "This is a shared workbook. To use the Plotsmith you ne
 var kEditing = kProduct +
     "You are currently editing a cell or object. Please finish editing before using the Plotsmith.";
 
-// An Application of the script's own, with a workbook that the wizard can't work on.
+// An Application made by the script, with a workbook that the wizard can't process.
 function hostWith(isProtected, isShared) {
   return {ActiveWorkbook: {ProtectStructure: isProtected, MultiUserEditing: isShared}, Interactive: true};
 }
@@ -26,12 +26,12 @@ host.Editing = true;
 says("a cell is edited", host, kEditing);
 check("a cell is edited: the journal", host.Journal, "");
 
-// The operations on one table have no guards: the workbook that is open is worked on.
+// The operations on one table have no guards: they process the open workbook.
 host.Editing = false;
 newController().RefreshChartsForTable(host, "no such table");
 check("a table that isn't there", boxes.Take(), "");
 
-// The Application of the first call stays the component's own, so that of a script comes last.
+// The component keeps the Application of the first call, so the script's own Application is used last.
 says("protected", hostWith(true, false), kProtected);
 says("shared", hostWith(false, true), kShared);
 says("protected and shared", hostWith(true, true), kProtected);

@@ -1,4 +1,4 @@
-// Applications that answer what no Excel does. Every operation ends in reports, and the call succeeds.
+// Tests Applications with results that Excel never returns. Every operation ends with reports, and the call succeeds.
 var kMismatch = "Type mismatch";
 var kNoObject = "Object required";
 var kNoMember = "Object doesn't support this property or method";
@@ -10,7 +10,7 @@ function report(procedure, description) {
   return "Brindle Plotsmith [OK]: " + procedure + "\\r\\n" + description;
 }
 
-// Refreshes with an Application of its own, as no other remains once the DLL is gone.
+// Refreshes with a new Application, because no other is left when the DLL is unloaded.
 function refreshSays(name, host, boxesExpected) {
   check(name, resultOf(function() { newController().RefreshPlotsmithData(host, "Add-in", ""); }), "ok");
   check(name + ": boxes", boxes.Take(), boxesExpected.join("\n"));
@@ -18,7 +18,7 @@ function refreshSays(name, host, boxesExpected) {
   check(name + ": the DLL is gone", boxes.IsLoaded("Plotsmith.dll"), false);
 }
 
-// An Application that answers this for its workbook.
+// An Application that returns this as its workbook.
 function withBook(name, workbook, description) {
   refreshSays(name, {ActiveWorkbook: workbook}, [report(kRefresh, description)]);
 }
@@ -59,7 +59,7 @@ namesSay("an array for a text", {Count: 1, Item: function() { return {Name: {len
 namesSay("names that throw", {Count: 1, Item: function() { throw new Error(5, "no name"); }},
     "Automation error\\r\\nCall failed.");
 
-// Calls back into the component, from a member that it asks for.
+// Calls the component from a member that the component calls.
 (function() {
   var controller = newController();
   var host = withNames({
@@ -79,7 +79,7 @@ namesSay("names that throw", {Count: 1, Item: function() { throw new Error(5, "n
   host = null;
 })();
 
-// Lets go of all objects under the run.
+// Releases all objects during the run.
 (function() {
   var controller = newController();
   var host = withNames({

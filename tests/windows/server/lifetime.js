@@ -1,4 +1,4 @@
-// How long the component lives, and what it leaves behind.
+// Tests the lifetime of the component, and that it leaves nothing behind.
 var examples = WScript.Arguments(1) + "\\";
 var kProduct = "Brindle Plotsmith [OK]: ";
 var kAtWork = kProduct + "CPlotsmithController.RefreshPlotsmithData\\r\\n" +
@@ -10,7 +10,7 @@ function open(name) {
   return host;
 }
 
-// The DLL goes with its last object, and comes again.
+// The DLL is unloaded with its last object, and loaded again.
 function unload(name) {
   CollectGarbage();
   boxes.FreeUnusedLibraries();
@@ -37,7 +37,7 @@ unload("after a refresh");
 })();
 unload("after a refresh of a table, which keeps its workbook");
 
-// Two Applications one after the other: each has its own workbook refreshed.
+// Two Applications, one after the other: the workbook of each is refreshed.
 (function() {
   var controller = newController();
   var first = open("countries.xlsx");
@@ -52,7 +52,7 @@ unload("after a refresh of a table, which keeps its workbook");
 })();
 unload("after two Applications");
 
-// A macro of the host calls back while the refresh is at work, and lets go of the controller.
+// A macro of the host calls the component during the refresh, and releases the controller.
 function journalWithoutMacros() {
   var host = open("countries.xlsx");
   newController().RefreshPlotsmithData(host, "Add-in", "");
@@ -81,7 +81,7 @@ unload("after a refresh without macros");
 })();
 unload("after a macro");
 
-// Another thread, and too little of the stack.
+// Another thread, and too little stack.
 (function() {
   var controller = newController();
   controller.RefreshPlotsmithData(open("countries.xlsx"), "Add-in", "");

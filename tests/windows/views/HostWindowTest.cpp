@@ -16,7 +16,7 @@ using test::kWays;
 
 constexpr UINT kGetPlace = WM_USER + 8;  // PBM_GETPOS
 
-/// What a person can do in the host when a page has gone.
+/// Tests the host's window after a page was closed.
 class HostWindowTest : public test::DialogTest {
  protected:
   void ExpectFree() {
@@ -90,11 +90,11 @@ TEST_F(HostWindowTest, TheBusyWindowIsModalAndItsBarMovesWhileItWorks) {
   std::vector<LRESULT> places;
   const auto work = [&](const S&) {
     const HWND window = view->Front()->Handle();
-    PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);  // work isn't stopped half-way
+    PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);  // The work must not be interrupted.
     for (int i = 0; i < 3; ++i) {
-      Sleep(120);  // a little more than a tick of the window's timer
+      Sleep(120);  // This is slightly longer than a tick of the window's timer.
       App.Forms->DoEvents();
-      App.Forms->DoEvents();  // what the tick has changed is seen at the next look
+      App.Forms->DoEvents();  // The changes of the tick are visible after the next update.
       places.push_back(SendMessageW(test::ControlWindow(window, "ProgressBar1"), kGetPlace, 0, 0));
     }
     EXPECT_TRUE(IsWindowVisible(window));

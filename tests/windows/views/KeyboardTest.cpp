@@ -14,7 +14,7 @@ namespace {
 
 using S = std::string;
 
-/// The controls that Tab comes to, in this order.
+/// Returns the controls that Tab reaches, in order.
 std::vector<S> TabStops(const forms::Form& form) {
   std::vector<S> names;
   for (const forms::Control* control : form.Controls()) {
@@ -25,14 +25,14 @@ std::vector<S> TabStops(const forms::Form& form) {
   return names;
 }
 
-/// The name of the control that has the focus.
+/// Returns the name of the control with the focus.
 S Focus() {
   const HWND focus = GetFocus();
   const S name = windows::WindowName(focus);
   return name.empty() ? windows::WindowName(GetParent(focus)) : name;
 }
 
-/// A key with Shift held down, as the thread sees it.
+/// Presses a key with Shift, as the thread sees it.
 void PressWithShift(WPARAM key, bool isWithShift) {
   BYTE keys[256] = {};
   keys[VK_SHIFT] = isWithShift ? 0x80 : 0;
@@ -43,7 +43,7 @@ void PressWithShift(WPARAM key, bool isWithShift) {
   SetKeyboardState(keys);
 }
 
-/// The controls that have the focus one after the other, from the first one until it comes round.
+/// Returns the controls that get the focus one after the other, from the first one until it returns there.
 std::vector<S> Walk(const S& first, bool isBack) {
   SetFocus(test::ControlWindow(test::FrontWindow(), first));
   std::vector<S> names;
@@ -56,7 +56,7 @@ std::vector<S> Walk(const S& first, bool isBack) {
 
 class KeysTest : public test::DialogTest {
  protected:
-  /// Does something on each page.
+  /// Calls a function on each page.
   void OnEachPage(const std::function<void()>& look) {
     for (const test::Way& way : test::kWays) {
       SCOPED_TRACE(way.page);

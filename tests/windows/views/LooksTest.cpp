@@ -15,7 +15,7 @@ namespace {
 
 using S = std::string;
 
-/// A desktop in another country.
+/// A desktop with another locale.
 class ForeignDesktop final : public cli::ConsoleDesktop {
  public:
   explicit ForeignDesktop(std::int32_t lcid) : lcid_(lcid) {}
@@ -41,7 +41,7 @@ S MessageTypeface() {
 
 class LooksTest : public test::DialogTest {
  protected:
-  /// Shows the form and looks at the window.
+  /// Shows the form and calls a function with its window.
   static void OnScreen(forms::Form& form, const std::function<void(HWND window)>& look) {
     const windows::ThreadDpi dpi;
     windows::FormsView view([] { return test::theHostWindow; });
@@ -57,7 +57,7 @@ TEST_F(LooksTest, FontsAreThoseOfTheLocale) {
     std::int32_t lcid;
     BYTE charset;
     S typeface;
-    double size;  ///< of a font of 6 points
+    double size;  ///< The size with a font of 6 points.
   } cases[] = {{1033, 1, "Tahoma", 6},
                {1031, 1, "Tahoma", 6},
                {1025, 178, own, 8},
@@ -109,7 +109,7 @@ RECT AreaOf(HWND window) {
   return area;
 }
 
-/// Controls that show less than they have to show, or overlap the one beside them.
+/// Returns controls whose contents are cut off, or that overlap their neighbour.
 S CutControls(HWND form) {
   S names;
   std::vector<RECT> areas;

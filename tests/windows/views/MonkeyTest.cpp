@@ -11,11 +11,11 @@ namespace {
 
 using S = std::string;
 
-constexpr int kEvents = 120;  ///< of one run, unless it ends early
+constexpr int kEvents = 120;  ///< The number of events of a run, unless it ends early.
 constexpr unsigned kSeeds = 3;
 
-/// Posts random messages of a mouse and a keyboard to random controls of the window in front, the same ones
-/// for the same seed.
+/// Posts random mouse and keyboard messages to random controls of the front window. The same seed gives the
+/// same messages.
 class Monkey {
  public:
   explicit Monkey(unsigned seed) : random_(seed) {}
@@ -110,7 +110,7 @@ class Monkey {
 
 class MonkeyTest : public test::DialogTest, public testing::WithParamInterface<std::size_t> {};
 
-// After each line of a script the stage compares the window with its form.
+// The stage compares the window with its form after each line of a script.
 TEST_P(MonkeyTest, APageStandsIt) {
   const test::Way& way = test::kWays[GetParam()];
   for (unsigned seed = 1; seed <= kSeeds; ++seed) {

@@ -8,7 +8,7 @@
 #include "tests/windows/views/WindowState.h"
 #include "windows/com/Texts.h"
 
-// The GUIDs of the annotations are variables in one file of the program.
+// Define the GUIDs of the annotations, which must be variables in one file of the program.
 #include <oleacc.h>
 
 namespace plotsmith {
@@ -19,13 +19,13 @@ using S = std::string;
 constexpr CLSID kAccPropServices = {
     0xB5F8350B, 0x0548, 0x48B1, {0xA6, 0xEE, 0x88, 0xBD, 0x00, 0xB4, 0xA5, 0xE7}};
 
-/// What is told of a window.
+/// The annotations of a window.
 struct Told {
   S name, description;
   LONG role = 0;
 };
 
-/// A service of annotations that remembers what it is told. Wine has one that does nothing.
+/// An annotation service that records the annotations. Wine's service does nothing.
 class Service final : public IAccPropServices {
  public:
   std::map<HWND, Told> told;
@@ -88,7 +88,7 @@ class Service final : public IAccPropServices {
   }
 };
 
-/// Gives out the service in place of the system's, while it lives.
+/// Replaces the system's service while it exists.
 class Factory final : public IClassFactory {
  public:
   explicit Factory(Service& service) : service_(service) {
@@ -112,7 +112,7 @@ class Factory final : public IClassFactory {
   DWORD cookie_ = 0;
 };
 
-/// The word that the desktop's list has for a kind of control.
+/// Returns the role of a kind of control in the desktop's list.
 S RoleOf(const S& kind) {
   const std::map<S, S> roles = {{"Frame", "Grouping"},           {"TextBox", "EditableText"},
                                 {"OptionButton", "RadioButton"}, {"ListBox", "List"},
@@ -122,8 +122,8 @@ S RoleOf(const S& kind) {
   return found == roles.end() ? kind : found->second;  // ComboBox, CheckBox
 }
 
-/// The lines of a page in the desktop's list that are of controls, each as role, name and description. A
-/// combo box has its current entry for a name there, and its own name for a description.
+/// Returns the lines for the controls of a page in the desktop's list, each as role, name and description. A
+/// combo box has its current entry as the name there, and its own name as the description.
 std::multiset<S> DesktopNames(const S& page) {
   std::ifstream file(S(test::kSourceFolder) + "/tests/qt/wizard/golden/" + page + ".txt");
   std::multiset<S> lines;

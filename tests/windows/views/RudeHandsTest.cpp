@@ -15,7 +15,7 @@ using S = std::string;
 
 HWND ButtonOf(const S& name) { return test::ControlWindow(test::FrontWindow(), name); }
 
-/// Lets double clicks take as long as Windows allows, until the end of its life.
+/// Sets the longest double-click time that Windows allows while it exists.
 struct SlowDoubleClicks {
   SlowDoubleClicks() { SetDoubleClickTime(5000); }
   ~SlowDoubleClicks() { SetDoubleClickTime(1); }
@@ -26,7 +26,7 @@ class RudeHandsTest : public test::DialogTest {};
 TEST_F(RudeHandsTest, TheSecondPressDoesNotGoThroughTheNextPage) {
   const SlowDoubleClicks slow;
   POINT place = {};
-  // presses the button that is at the place of the first one, wherever it is on its own window
+  // Press the button at the position of the first one, on the current window.
   const auto press = [&] {
     const HWND button = ButtonOf("cmdNext");
     if (place.x == 0) {
@@ -86,7 +86,7 @@ TEST_F(RudeHandsTest, AKeyThatIsHeldDownLeavesAMessageBoxOpen) {
   count = &ticks;
   const UINT_PTR timer = SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR, DWORD) {
     ++*count;
-    test::PostKey(GetFocus(), VK_RETURN, *count < 10);  // at last it is pressed anew
+    test::PostKey(GetFocus(), VK_RETURN, *count < 10);  // The last one is a new key press.
   });
   EXPECT_EQ(MessageBoxW(nullptr, L"Text", L"Title", MB_OK), IDOK);
   KillTimer(nullptr, timer);
@@ -110,13 +110,13 @@ S Times(int count, const S& text) {
   return result;
 }
 
-/// A text that is pasted, and what a box takes of it where it has room.
+/// A pasted text, and the part that a box accepts if there is enough space.
 struct Input {
   S pasted, oneLine, lines;
 };
 
-/// The text that a box should hold: as much of the whole as it has room for. What has no room as a whole is
-/// left out.
+/// Returns the expected text of a box: as much of the input as fits. A character that doesn't fit completely
+/// is left out.
 std::wstring Expected(const forms::Control& control, const Input& input) {
   const auto* box = dynamic_cast<const forms::TextBox*>(&control);
   const bool hasLines = box != nullptr && box->MultiLine();

@@ -10,7 +10,7 @@ namespace {
 
 using S = std::string;
 
-/// What is on the screen where the window is, as a file of Windows' bitmaps.
+/// Writes the screen area of the window to a bitmap file.
 void WriteShot(HWND window, const S& file) {
   RECT area = {};
   GetWindowRect(window, &area);
@@ -44,7 +44,7 @@ void WriteShot(HWND window, const S& file) {
 
 class ShotsTest : public test::DialogTest {};
 
-/// Takes a picture of each page, into the folder that PLOTSMITH_SHOTS names.
+/// Takes a picture of each page. PLOTSMITH_SHOTS names the folder.
 TEST_F(ShotsTest, EachPageIsShot) {
   const char* const folder = std::getenv("PLOTSMITH_SHOTS");
   if (folder == nullptr) GTEST_SKIP() << "PLOTSMITH_SHOTS names no folder";

@@ -41,7 +41,7 @@ std::string KindOfButton(HWND window) {
   }
 }
 
-/// The class of the control, by that of its window.
+/// Returns the class of a control from the class of its window.
 std::string KindOf(HWND window) {
   const std::string name = ClassOf(window);
   if (name == "Button") return KindOfButton(window);
@@ -119,8 +119,7 @@ void ReadGrid(HWND window, ControlState& state) {
   }
 }
 
-/// Whether a control is in the colour of the mark. What can be typed into or chosen from has a colour of its
-/// own.
+/// Returns true if a control has the mark's colour. Input controls have their own colour.
 bool IsMarked(HWND window, const std::string& kind) {
   if (kind != "Frame" && kind != "OptionButton" && kind != "CheckBox" && kind != "Label") return false;
   const HDC context = CreateCompatibleDC(nullptr);
@@ -142,7 +141,7 @@ bool IsInside(const RECT& inner, const RECT& outer) {
          inner.bottom <= outer.bottom;
 }
 
-/// The name of the frame around a control; empty if none is.
+/// Returns the name of the frame around a control, or "".
 std::string ContainerOf(HWND form, HWND window) {
   for (const HWND other : ControlWindows(form)) {
     const bool isAround =
@@ -177,7 +176,7 @@ ControlState Read(HWND form, HWND window) {
   return state;
 }
 
-/// The model's state as far as windows can show it. They tell only colours of their own.
+/// Returns the model's state without the parts that windows can't show. Windows have only their own colours.
 ControlState Showable(ControlState state) {
   state.accessibleName.clear();
   if (state.backColor != forms::kToolTipBackground) state.backColor = forms::kButtonFace;
@@ -248,13 +247,13 @@ std::string DifferencesFromModel(const forms::Form& form, HWND window) {
     const bool hasNoColor = control.kind != "Frame" && control.kind != "OptionButton" &&
                             control.kind != "CheckBox" && control.kind != "Label";
     if (hasNoColor) control.backColor = forms::kButtonFace;
-    if (control.kind == "ListBox") {  // both show in the selection
+    if (control.kind == "ListBox") {  // The selection shows both.
       control.text = shown.controls[i].text;
       control.listIndex = shown.controls[i].listIndex;
     }
     const HWND box = ControlWindow(window, control.name);
     if (control.kind == "ComboBox" && SendMessageW(box, CB_GETDROPPEDSTATE, 0, 0) != 0)
-      continue;  // not decided
+      continue;  // The state is undecided.
     Compare(differences, control, shown.controls[i]);
   }
   return differences;

@@ -20,7 +20,7 @@ RECT ClientArea(HWND window) {
   return area;
 }
 
-/// On the mark in front of the caption.
+/// Returns a point on the mark before the caption.
 POINT OnMark(HWND window) {
   const RECT area = ClientArea(window);
   return {area.left + 6, (area.top + area.bottom) / 2};
@@ -41,7 +41,7 @@ RECT EntryArea(HWND list, int entry) {
   return area;
 }
 
-/// Clicks on rows, so that these are selected and no others.
+/// Clicks on rows, so that exactly these are selected.
 void ClickRows(HWND list, const std::vector<int>& rows, RECT (*areaOf)(HWND, int),
                const std::vector<int>& selected) {
   if (rows.empty()) {
@@ -63,7 +63,7 @@ std::vector<int> SelectedRows(HWND form, HWND list) {
   return {};
 }
 
-/// Types a text over what is in an edit control, unit by unit.
+/// Replaces the text of an edit control, unit by unit.
 void TypeOver(HWND edit, const std::string& text) {
   constexpr WPARAM kControlA = 1, kControlV = 22;
   PostMessageW(edit, WM_CHAR, kControlA, 0);
@@ -73,12 +73,12 @@ void TypeOver(HWND edit, const std::string& text) {
       PostMessageW(edit, WM_CHAR, unit, 0);
       continue;
     }
-    SetClipboardText(L"\t");  // a keyboard's Tab leaves the box
+    SetClipboardText(L"\t");  // The Tab key leaves the box.
     PostMessageW(edit, WM_CHAR, kControlV, 0);
   }
 }
 
-/// The window inside of a combo box in which its text is typed, or its entries are listed.
+/// Returns the windows inside a combo box for its text and its entries.
 COMBOBOXINFO PartsOf(HWND combo) {
   COMBOBOXINFO info = {};
   info.cbSize = sizeof info;

@@ -28,7 +28,7 @@ const S kNothing = Part("<c:plotArea><c:layout/></c:plotArea>");
 class ChartFamiliesTest : public test::ChartTest {};
 
 TEST_F(ChartFamiliesTest, ANewSeriesHasNoLabelsAndANumberOfItsOwn) {
-  // as Excel writes a chart of which somebody took away all labels, and filtered one series out
+  // This is how Excel writes a chart without labels and with a filtered series.
   const S bars =
       "<c:plotArea><c:barChart><c:barDir val=\"bar\"/><c:grouping val=\"clustered\"/><c:ser><c:idx "
       "val=\"0\"/><c:order val=\"0\"/><c:dLbls><c:delete val=\"1\"/></c:dLbls></c:ser><c:dLbls><c:showVal "
@@ -50,7 +50,7 @@ TEST_F(ChartFamiliesTest, ANewSeriesHasNoLabelsAndANumberOfItsOwn) {
   const S after = Sound(Part(bars), draw);
   EXPECT_EQ(test::CountOf(after, "<c:idx val=\"1\"/>"), 1U) << after;
   EXPECT_TRUE(Has(after, "<c:idx val=\"2\"/><c:order val=\"2\"/>")) << after;
-  // of another type as well, and none again when they were shown meanwhile
+  // This also holds for another type, and for labels that were shown meanwhile.
   const S column = Sound(after, [&](Chart& chart) {
     chart.SetChartType(excel::xlColumnStacked);
     for (int i = 1; i <= 2; ++i) EXPECT_FALSE(chart.SeriesCollection()->Item(i)->HasDataLabels());
@@ -82,7 +82,7 @@ TEST_F(ChartFamiliesTest, APieThatSomebodyDressedComesOutOfARefreshAsItWentIn) {
   EXPECT_TRUE(Has(after, "<c:explosion val=\"25\"/><c:dLbls><c:dLblPos val=\"bestFit\"/>")) << after;
   EXPECT_TRUE(Has(after, "<c:cat><c:strRef>")) << after;
   EXPECT_FALSE(Has(after, "Ax>")) << after;
-  // a pie drawn flat again has nothing left of all that
+  // A pie that becomes flat again has none of these settings.
   const S flat = Sound(after, [](Chart& chart) { chart.SetChartType(excel::xlPie); });
   EXPECT_FALSE(Has(flat, "explosion") || Has(flat, "view3D") || Has(flat, "pie3D")) << flat;
   EXPECT_TRUE(Has(flat, "<c:firstSliceAng val=\"0\"/></c:pieChart>")) << flat;
@@ -95,7 +95,8 @@ TEST_F(ChartFamiliesTest, APieThatSomebodyDressedComesOutOfARefreshAsItWentIn) {
   EXPECT_FALSE(Has(solid, "floor"));
 }
 
-/// A stock chart has three or four series; of any other number it is a line chart with the same look.
+/// A stock chart has three or four series. With any other number, the chart is a line chart with the same
+/// look.
 TEST_F(ChartFamiliesTest, AStockChartOfAnotherNumberOfSeriesIsALineChart) {
   const auto stock = [](int count) {
     S series;
@@ -180,7 +181,7 @@ TEST_F(ChartFamiliesTest, ASeriesKeepsTheTypeThatItsGroupGivesIt) {
   struct Case {
     const char* what;
     S plot;
-    std::int32_t type, next;  ///< of the series, and of a new one behind it
+    std::int32_t type, next;  ///< The types of the series and of a new series after it.
   };
   const Case cases[] = {
       {"bubbles that only the group calls solid",
@@ -207,7 +208,7 @@ TEST_F(ChartFamiliesTest, ASeriesKeepsTheTypeThatItsGroupGivesIt) {
     });
     EXPECT_EQ(Has(after, "<c:bubbleSize>"), c.type == excel::xlBubble3DEffect) << after;
   }
-  // columns may stand beside a line, also those that a loose writer calls "standard"
+  // Columns can be combined with a line, even if a program has written the grouping "standard".
   Sound(Part("<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:grouping val=\"standard\"/>" + ser + second +
              scales + "</c:barChart>" + categoryAxes + "</c:plotArea>"),
         [](Chart& chart) {
@@ -297,7 +298,7 @@ TEST_F(ChartFamiliesTest, ColumnsAndALineShareTheirAxes) {
       << line;
   EXPECT_LT(after.find("<c:barChart>"), after.find("<c:lineChart>"));
 
-  // what somebody gave either group is there after the next refresh
+  // Settings of either group are kept by the next refresh.
   const S dressed = runtime::Replace(after, "<c:marker val=\"1\"/>", "<c:hiLowLines/><c:marker val=\"1\"/>");
   const S again = Sound(dressed, draw);
   EXPECT_TRUE(Has(again, "<c:hiLowLines/>"));
@@ -347,7 +348,7 @@ TEST_F(ChartFamiliesTest, ChartsOfOthersGoThroughAllFamilies) {
       for (const S& part : before.Parts()) {
         if (!part.starts_with("/xl/charts/chart") || !part.ends_with(".xml")) continue;
         const S after = SavedPart(part);
-        if (after == before.Read(part)) continue;  // a chart sheet's
+        if (after == before.Read(part)) continue;  // The part belongs to a chart sheet.
         const S known = test::ChartComplaints(before.Read(part));
         std::istringstream complaints(test::ChartComplaints(after));
         for (S line; std::getline(complaints, line);) {

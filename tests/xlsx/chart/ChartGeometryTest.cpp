@@ -36,7 +36,7 @@ TEST(TextMetricsTest, TextsAreAsWideAsTheirFontsMakeThem) {
 
 class ChartGeometryTest : public test::ChartTest {
  protected:
-  /// The plot area of a chart of 384 by 270 points, after `layout` has laid it out.
+  /// Returns the plot area of a chart of 384 by 270 points with the given layout.
   excel::Ref<excel::PlotArea> PlotAreaOf(const S& beforePlot, const S& layout, const S& axes,
                                          const S& behindPlot) {
     return OpenChart(
@@ -49,7 +49,7 @@ class ChartGeometryTest : public test::ChartTest {
   }
 };
 
-/// The number of letters of Calibri, bold or plain, that a title of 20 points holds in one line.
+/// The number of letters that a title of 20 points in Calibri, bold or regular, has in one line.
 constexpr int kTitleLetters = 29;
 
 TEST_F(ChartGeometryTest, TitlesTakeTheRoomThatTheirTextTakes) {
@@ -126,7 +126,7 @@ TEST_F(ChartGeometryTest, ThePlotAreaIsWhereItsLayoutSaysOrWhatTheOthersLeave) {
   };
   const S edges = "<c:xMode val=\"edge\"/><c:yMode val=\"edge\"/>";
   const double line = 12.207, titleDepth = 20 * 1.2207 + 7.2 + 5;
-  // 1250 in Calibri 10, and a gap
+  // The width of "1250" in Calibri 10, and a gap.
   const double labels = 4 * 5.07 + 5;
   const double entry = 0.01 * (890 + 229 + 525 + 471 + 498 + 335 + 391 - 4.0) + 24 + 8;
   struct Case {

@@ -245,7 +245,7 @@ TEST_F(ChartPropertiesTest, ScalesCoverWhatIsDrawn) {
     std::int32_t type;
     double minimum, maximum;
   };
-  // the amounts are 10, 5, 7 and 1, drawn twice
+  // The amounts are 10, 5, 7 and 1, in two series.
   for (const Case& c : {Case{51, 0, 12}, Case{52, 0, 25}, Case{53, 0, 1}, Case{54, 0, 10}, Case{1, 0, 12}}) {
     SCOPED_TRACE(c.type);
     After(kNothing, [&](Chart& chart) {
@@ -289,7 +289,7 @@ TEST_F(ChartPropertiesTest, LegendEntriesGoWithTheirSeries) {
   });
   EXPECT_EQ(Between(after, "<c:legendEntry>", "</c:legend>"),
             "<c:legendEntry><c:idx val=\"1\"/><c:delete val=\"1\"/></c:legendEntry>");
-  // of a pie, entries are points
+  // The legend entries of a pie are points.
   After(Part("<c:plotArea/>" + kLegend), [](Chart& chart) {
     AddOfType(chart, excel::xlPie);
     EXPECT_EQ(chart.Legend()->LegendEntries()->Count(), 4);

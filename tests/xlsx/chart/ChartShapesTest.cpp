@@ -18,15 +18,15 @@ namespace {
 using test::ExpectError1004;
 using S = std::string;
 
-const S kPart = "/xl/drawings/drawing2.xml";  // the first is the sheet's
+const S kPart = "/xl/drawings/drawing2.xml";  // The first drawing belongs to the sheet.
 const S kBubbles = test::ChartPartXml(
     "<c:plotArea><c:layout/>"
     "<c:bubbleChart><c:axId val=\"1\"/><c:axId val=\"2\"/></c:bubbleChart><c:valAx><c:axId val=\"1\"/>"
     "<c:axPos val=\"b\"/><c:crossAx val=\"2\"/></c:valAx><c:valAx><c:axId val=\"2\"/><c:axPos val=\"l\"/>"
     "<c:crossAx val=\"1\"/></c:valAx></c:plotArea>");
 
-/// Children of the elements that the host writes, in the order of their schema (ECMA-376-1, 21.3 and
-/// 20.1); "|" joins what excludes each other or may mix.
+/// The children of the elements that the host writes, in schema order (ECMA-376-1, 21.3 and 20.1). "|" joins
+/// alternatives and elements that can be mixed.
 const std::map<S, std::vector<S>> kSchema = {
     {"userShapes", {"relSizeAnchor|absSizeAnchor"}},
     {"relSizeAnchor", {"from", "to", "sp|grpSp"}},
@@ -75,7 +75,7 @@ class ChartShapesTest : public test::ChartTest {
   void OpenChart() { OpenChart(kBubbles); }
   excel::Ref<excel::Chart> Chart() { return ChartOf("Sheet1"); }
 
-  /// An entry of a drawn legend: a text box and a key. Answers the key.
+  /// Adds an entry of a drawn legend: a text box and a key. Returns the key.
   excel::Ref<excel::Shape> AddEntry(const S& name, double top) {
     const auto shapes = Chart()->Shapes();
     const auto text = shapes->AddTextbox(1, 0, 0, 0, 0);
@@ -165,7 +165,7 @@ TEST_F(ChartShapesTest, ALegendIsDrawnBesideThePlotArea) {
   EXPECT_EQ(xml::NamespaceOf(xml::Root(document).first_child()),
             "http://schemas.openxmlformats.org/drawingml/2006/chartDrawing");
   ExpectSchema(xml::Root(document));
-  // inside of the group all is as it was, and the group's own size stretches it
+  // The members of the group don't change; the size of the group stretches them.
   const auto object = xml::Child(xml::Root(document), "relSizeAnchor", "grpSp");
   const auto transform = xml::Child(object, "grpSpPr", "xfrm");
   EXPECT_EQ(xml::Attribute(xml::Child(transform, "ext"), "cx"), "660400");
@@ -187,7 +187,7 @@ TEST_F(ChartShapesTest, ALegendIsDrawnBesideThePlotArea) {
     EXPECT_NE(text.find(wanted), S::npos) << wanted << "\n" << text;
   }
 
-  // a second run over the saved file comes to the same picture; without the legend nothing is left of it
+  // A second run on the saved file gives the same picture. Without the legend, nothing is left of it.
   Chart()->Shapes()->Item(1)->Delete();
   DrawLegend();
   EXPECT_EQ(Chart()->Shapes()->Range({"VEX_Legend"})->Height(), 31);
@@ -260,14 +260,14 @@ TEST_F(ChartShapesTest, WhatOthersDrewOnTheChartStays) {
   EXPECT_EQ(Chart()->Shapes()->Count(), 1);
   EXPECT_NE(SavedPart(kPart).find(own), S::npos);
 
-  // a part that nobody can read is an error of this chart, and stays
+  // A part that can't be read is an error of this chart, and is kept.
   OpenChart(chart, "<c:userShapes>");
   ExpectError1004([&] { Chart()->Shapes()->Count(); });
   Chart()->SetHasTitle(true);
   SaveAndReopen();
   EXPECT_EQ(SavedPart(kPart), "<c:userShapes>");
 
-  // nor are links that nobody can read
+  // Relationships that can't be read are also kept.
   OpenChart(chart, user);
   Book().Package().Replace("/xl/charts/_rels/chart1.xml.rels", "<");
   ExpectError1004([&] { Chart()->Shapes()->Count(); });

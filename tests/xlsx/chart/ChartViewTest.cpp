@@ -39,8 +39,8 @@ TEST_F(ChartViewTest, SettersPutElementsWhereTheSchemaWantsThem) {
     const char* what;
     S before;
     std::function<void(Chart&)> call;
-    S after;  ///< must be found
-    S gone;   ///< must not be found
+    S after;  ///< A text that must exist.
+    S gone;   ///< A text that must not exist.
   };
   const Case cases[] = {
       {"a title goes in front", Part(columns),
@@ -224,8 +224,7 @@ TEST_F(ChartViewTest, AnEmptyChartShowsItsAxesWithTheFirstSeries) {
 }
 
 TEST_F(ChartViewTest, ATypeComesBackAsItWas) {
-  // the refresh draws every chart as clustered bars first; what somebody set on its own type must come out of
-  // that
+  // The refresh first draws every chart as clustered bars. Settings of the original type must survive this.
   const S area =
       "<c:view3D><c:rotX val=\"40\"/></c:view3D><c:floor><c:thickness "
       "val=\"5\"/></c:floor><c:plotArea><c:area3DChart>"
@@ -324,7 +323,7 @@ TEST_F(ChartViewTest, WhatAChartDoesNotHaveIsError1004) {
     ExpectError1004([&] { chart.Legend()->SetPosition(7); });
     ExpectError1004([&] { chart.Legend()->Font()->SetSize(0.0); });
   });
-  // a chart that can't be read is this chart's trouble and nobody else's
+  // A chart that can't be read doesn't affect other charts.
   const auto barred = [](std::size_t groups) {
     S plot = "<c:plotArea>";
     for (std::size_t i = 0; i < groups; ++i)

@@ -21,7 +21,7 @@ constexpr DateSystem k1904 = DateSystem::k1904;
 std::string Show(std::string_view code, double value, DateSystem dates = DateSystem::k1900) {
   const auto format = NumberFormat::Parse(code);
   if (!format) return "refused";
-  std::string out = "|";  // what is there stays there
+  std::string out = "|";  // The existing text is kept.
   format->AppendNumber(out, value, dates);
   return out.starts_with('|') ? out.substr(1) : "overwritten";
 }
@@ -157,8 +157,8 @@ TEST(NumberFormatTest, Fractions) {
       {"# ?/?", 0, "0    "},
       {"# ?/?", 1, "1    "},
       {"# ?/?", 0.5, " 1/2"},
-      {"# ?/?", 1.3, "1 1/3"},  // the convergent, though 2/7 is nearer
-      {"# ?/?", 2.3, "2 2/7"},  // its binary digits differ
+      {"# ?/?", 1.3, "1 1/3"},  // Excel uses the convergent, although 2/7 is nearer.
+      {"# ?/?", 2.3, "2 2/7"},  // The binary digits of the fraction differ.
       {"# ?/?", 0.98, "1    "},
       {"# ?/?", -0.1, "-0    "},
       {R"(# ??/??)", -1.2, "-1  1/5 "},
@@ -187,13 +187,13 @@ TEST(NumberFormatTest, SectionsConditionsAndSigns) {
       {"0;;", -5, ""},
       {"0;-0;;@", 0, ""},
       {"[Red]0.00;[Color 12]-0.0", -5, "-5.0"},
-      // Zeros only: a lone section loses the sign that it gave by itself.
+      // If only zeros are shown, a single section has no sign.
       {"0.00", -0.001, "0.00"},
       {"-0.0", -0.01, "-0.0"},
       {"0.0;-0.0", -0.01, "-0.0"},
       {"0.0;@", -0.01, "-0.0"},
       {"0.00_);(0.00)", -0.001, "(0.00)"},
-      // A section that only negative numbers get to shows no sign.
+      // A section that applies only to negative numbers shows no sign.
       {"[<-10]#\" Wow\"", -20, "20 Wow"},
       {"[>-10]#\" Wow\"", -5, "-5 Wow"},
       {"[>=-1]0;0", -2, "2"},
@@ -209,7 +209,7 @@ TEST(NumberFormatTest, SectionsConditionsAndSigns) {
       {"[>10]0.00;[>5]0.0000", 3, "########"},
       {"[>10]0.00", 3.5, "3.5"},
       {"[Green]#,##0;[Red][<-2](#,##0.00)", -5, "(5.00)"},
-      // Literals only still show that a number is negative.
+      // A section of literals still shows the sign of a negative number.
       {"\"foo\"", -1, "-foo"},
       {R"([<0]"";0%)", -1, ""},
   });
@@ -317,7 +317,7 @@ TEST(NumberFormatTest, EveryDayOfThreeCenturies) {
   const auto format = NumberFormat::Parse("yyyy m d ddd");
   int serial = 0;
   for (int year = 1900; year < 2200; ++year) {
-    // The system takes 1900 for a leap year.
+    // The date system treats 1900 as a leap year.
     const bool is_leap = (year % 4 == 0 && year % 100 != 0) || year % 400 == 0 || year == 1900;
     for (int month = 1; month <= 12; ++month) {
       const int days = kDays.at(static_cast<size_t>(month - 1)) + (month == 2 && is_leap ? 1 : 0);
@@ -356,7 +356,7 @@ TEST(NumberFormatTest, TextsAndBooleans) {
   for (const auto& c : cases) EXPECT_EQ(ShowText(c.code, c.text), c.shown) << c.code;
   ExpectShown({{"@", 1234567890000, "1.23457E+12"}, {"\"a\"@", -26.5, "-26.5"}});
 
-  // whole, and again only as long as somebody can see it
+  // The text is complete at first, and limited to a visible length in the second case.
   const std::string text(2000, 'x');
   EXPECT_EQ(ShowText("@", text), text);
   EXPECT_EQ(ShowText("(@)@@", text), "(" + text + ")");
@@ -383,19 +383,19 @@ TEST(NumberFormatTest, KindsOfFormats) {
 TEST(NumberFormatTest, RefusesWhatExcelRefuses) {
   const char* const codes[] = {// Left open.
                                "\"abc", "0\\", "0_", "0*", "[Red", "[", "0]", "[]0", "[$-409",
-                               // Too much, or in the wrong place.
+                               // Too many sections, or sections in the wrong place.
                                "0;0;0;0;0", "@;0", "0;@;0", "@;@", "[>1]0;[>2]0;[>3]0", "[>5]@", "[>1][<2]0",
                                "0[>5]", "0[Red]", "[Red][Blue]0",
-                               // No such thing.
+                               // Unknown elements.
                                "[>]0", "[>=x]0", "[=1=]0", "[>1e999]0", "[foo]0", "[Color 57]0", "[Color0]0",
                                "[DBNum5]0", "[ENG]0", "n", "0 n", "abc foo", "ss.0000",
                                // Numbers, dates, texts and General don't mix.
                                "yyyy 0", "# y", "hh:00", "m/2001", "$0.0M", "0 d", "0/km", "0@", "d@",
                                "General 0", "General d", "General@", "General%",
-                               // Numbers that make no sense.
+                               // Invalid numbers.
                                "0.0E+", "0.00e+00", "0.00E+0.0", "0E+0E+0", "0/0/0", "0.0/0", "0 ?/1#",
                                "?/1234567890",
-                               // Units that no longer show.
+                               // Elapsed units in invalid places.
                                "HH[MM]", "[m]:[s]", "[h]:[mm]", "[s]:mm"};
   for (const char* code : codes) EXPECT_EQ(NumberFormat::Parse(code), nullptr) << code;
   EXPECT_NE(NumberFormat::Parse(std::string(500, '0')), nullptr);
@@ -487,7 +487,7 @@ TEST(NumberFormatTest, SurvivesAnyCodeAndValue) {
   EXPECT_LT(out.size(), 1'000'000u);
 }
 
-/// Where Excel shows something else than the collection says.
+/// A case in which Excel's result differs from the collection.
 struct CorpusException {
   std::string_view format;
   std::string_view value;
@@ -525,7 +525,7 @@ TEST(NumberFormatTest, CollectedCases) {
   std::ifstream file(std::filesystem::path(test::kCorpusFolder) / "number_formats.tsv");
   if (!file) GTEST_SKIP() << "The collection of number format cases (number_formats.tsv) isn't here.";
   std::string line;
-  std::getline(file, line);  // the names of the columns
+  std::getline(file, line);  // Skip the names of the columns.
   int cases = 0;
   size_t exceptions = 0;
   while (std::getline(file, line)) {

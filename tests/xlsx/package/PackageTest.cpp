@@ -51,7 +51,7 @@ class PackageFileTest : public ::testing::Test {
 TEST_F(PackageFileTest, UntouchedPartsKeepTheirBytesOrderAndNames) {
   Package package = Package::Open(Book());
   const auto before = package.Parts();
-  package.Replace("/XL/Workbook.xml", "<workbook/>");  // names ignore case
+  package.Replace("/XL/Workbook.xml", "<workbook/>");  // Names ignore case.
   package.Add("/xl/new.xml", "application/x-new", "<new/>");
   const S id = package.AddRelationship("/xl/workbook.xml", "http://x/new", "/xl/new.xml");
   package.Save(folder_ / "out.xlsx");
@@ -77,7 +77,7 @@ TEST_F(PackageFileTest, APackageThatIsSavedOverItsOwnFileGoesOnWithTheNewOne) {
   Package package = Package::Open(path);
   const S noise = package.Read("/xl/media/noise.bin");
   package.Add("/xl/new.xml", "application/x-new", "<new/>");
-  // a part in front of others goes, so that they lie in other places of the new file
+  // An early part is removed, so that the others have different positions in the new file.
   package.RemoveRelationship("/xl/workbook.xml",
                              package.FindRelationshipOfType("/xl/workbook.xml", "worksheet")->id);
   package.Save(path);
@@ -91,7 +91,7 @@ TEST_F(PackageFileTest, APackageThatIsSavedOverItsOwnFileGoesOnWithTheNewOne) {
   EXPECT_EQ(again.Read("/xl/new.xml"), "<newer/>");
 }
 
-/// A package of relationships as in "a>b": the id is the same text, and the package itself is "".
+/// Returns a package with relationships such as "a>b". The id is the same text, and the package itself is "".
 Package Linked(const std::vector<S>& links) {
   Package package;
   for (const S& link : links) {
@@ -114,11 +114,14 @@ TEST_F(PackageFileTest, WhatNothingElseRefersToGoesWithItsRelationship) {
   };
   const Case cases[] = {
       {{">d", "d>c", "c>s", "c>b"}, "/d", "rId1", {"/b", "/c", "/s"}},
-      {{">d", "d>c", "d>e", "c>s", "e>s"}, "/d", "rId1", {"/c"}},                // s is shared
-      {{">d", "d>c", "d>e", "c>s", "c>t", "e>s", "s>t"}, "/d", "rId1", {"/c"}},  // and so is what s uses
-      {{">d", "d>c", "d>c", "c>s"}, "/d", "rId1", {}},                           // referred to twice
-      {{">d", "d>c", "c>s", "s>c"}, "/d", "rId1", {"/c", "/s"}},  // parts that refer to each other
-      {{">d", "d>c", "c>d", "c>s"}, "/d", "rId1", {"/c", "/s"}},  // back to where it came from
+      {{">d", "d>c", "d>e", "c>s", "e>s"}, "/d", "rId1", {"/c"}},  // s is shared.
+      {{">d", "d>c", "d>e", "c>s", "c>t", "e>s", "s>t"},
+       "/d",
+       "rId1",
+       {"/c"}},                                                   // The parts that s uses are also shared.
+      {{">d", "d>c", "d>c", "c>s"}, "/d", "rId1", {}},            // c has two references.
+      {{">d", "d>c", "c>s", "s>c"}, "/d", "rId1", {"/c", "/s"}},  // The parts refer to each other.
+      {{">d", "d>c", "c>d", "c>s"}, "/d", "rId1", {"/c", "/s"}},  // c refers back to d.
       {{">d", ">d", "d>c"}, "", "rId1", {}},
       {{">d", "d>c"}, "", "rId1", {"/c", "/d"}},
       {{">d", "d>c"}, "/d", "rId9", {}},
@@ -134,7 +137,7 @@ TEST_F(PackageFileTest, WhatNothingElseRefersToGoesWithItsRelationship) {
     const auto links = package.Relationships(c.source).size();
     EXPECT_EQ(package.RemoveRelationship(c.source, c.id), c.gone);
     EXPECT_EQ(package.Relationships(c.source).size(), c.id == "rId9" ? links : links - 1);
-    if (package.Relationships(c.source).empty()) {  // an empty list of relationships isn't kept
+    if (package.Relationships(c.source).empty()) {  // An empty list of relationships is removed.
       std::erase(left, c.source.empty() ? "/_rels/.rels" : "/_rels/" + c.source.substr(1) + ".rels");
     }
     EXPECT_EQ(package.Parts(), left);
@@ -163,7 +166,7 @@ TEST_F(PackageFileTest, ForeignEntriesAreCopiedByWhateverMethodTheyCame) {
   }
   std::ifstream in(folder_ / "odd.xlsx", std::ios::binary);
   S bytes((std::istreambuf_iterator<char>(in)), {});
-  // the method stands 22 bytes before a local name, and 36 before one in the directory
+  // The compression method is 22 bytes before a local name, and 36 bytes before a name in the directory.
   const auto local = bytes.find("foreign.bin"), central = bytes.rfind("foreign.bin");
   bytes[local - 22] = bytes[central - 36] = 14;
   const S comment = "a comment on the file";
@@ -215,7 +218,7 @@ TEST_F(PackageFileTest, DamageIsFoundWhereItLies) {
   EXPECT_THROW(Package::Open(write("")), PackageError);
   EXPECT_THROW(Package::Open(write("no zip at all")), PackageError);
   EXPECT_THROW(Package::Open(write(bytes.substr(0, bytes.size() / 2))), PackageError);
-  // one byte of one part's data: the part is damaged, the others are not
+  // Changing one byte of a part's data damages only this part.
   S flipped = bytes;
   const auto data = flipped.find("xl/media/noise.bin") + 18 + 20;
   flipped[data] = static_cast<char>(flipped[data] ^ 0x55);
@@ -315,14 +318,15 @@ TEST(XmlTest, ValuesPassThroughBothWays) {
   EXPECT_EQ(xml::Decode(xml::EncodeAttribute(value)), "a<b>&\"c'\r\n\td");
   EXPECT_EQ(xml::Decode("&#x20AC;&#8364;&lt;&unknown;&;&#xFFFFFFF;&"), "€€<&unknown;&;&#xFFFFFFF;&");
   for (const char* raw : {"&#1;", "&#xD83D;", "&#xFFFE;", "&#x110000;"}) EXPECT_EQ(xml::Decode(raw), raw);
-  // what no file may hold stays in the tree, where halves of a character wait for each other
+  // Characters that aren't allowed in a file stay in the tree, where halves of a surrogate pair can be
+  // joined.
   pugi::xml_document document;
   xml::Parse(document, "<a/>");
   xml::SetAttribute(xml::Root(document), "b", "\xED\xA0\xBD|");
   xml::SetText(xml::Root(document), "\xEF\xBF\xBF|ä");
   EXPECT_EQ(xml::Attribute(xml::Root(document), "b"), "\xED\xA0\xBD|");
   EXPECT_EQ(xml::Serialize(document), "<a b=\"|\">|ä</a>");
-  // a cell's text comes back whole, whatever is in it: here half a character, and what is none at all
+  // A cell's text is preserved completely, even with half of a surrogate pair or a noncharacter.
   EXPECT_EQ(EncodeXString("\xED\xA0\xBD \xEF\xBF\xBE"), "_xD83D_ _xFFFE_");
   for (const S& text : {S("x\r\n\x01_x0041_"), S("\xED\xA0\xBD \xEF\xBF\xBE"), S("ä😀")}) {
     EXPECT_EQ(DecodeXString(xml::Decode(EncodeXString(text))), text);

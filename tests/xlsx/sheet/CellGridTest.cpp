@@ -8,7 +8,7 @@ namespace {
 
 TEST(CellGridTest, RowsKeepTheirOrderWhereverSomeGoInAndOut) {
   CellGrid grid;
-  std::vector<double> expected;  // the first cell of each row; 0: none
+  std::vector<double> expected;  // The first cell of each row, or 0.
   std::mt19937 random(7);
   for (int step = 1; step <= 3000; ++step) {
     const auto row = 1 + static_cast<std::int32_t>(random() % (expected.size() + 3));

@@ -28,7 +28,8 @@ TEST(EnteredValueTest, TextsThatReadAsNumbers) {
 }
 
 TEST(EnteredValueTest, TextsThatStayTexts) {
-  // product codes and lists above all: two of them as one number would be one series
+  // Especially product codes and lists must stay texts, because two codes with the same number would become
+  // one series.
   for (const char* text :
        {"1D2",      "1d2",  "5-", "5 +", "1,2",        "1,2,,3", "3,", ",123", "1,2345", "1.5,000",
         "1,234,56", "&H10", "1e", "e5",  "12/05/2024", "=a+b",   "=",  "+abc", "#NEIN",  "A"}) {

@@ -11,7 +11,7 @@ struct Case {
   double serial;
   const char* format;
   DateSystem dates;
-  const char* iso;  ///< empty for a number that is shown without one
+  const char* iso;  ///< Empty for a number without a date.
 };
 
 constexpr auto k1900 = DateSystem::k1900, k1904 = DateSystem::k1904;

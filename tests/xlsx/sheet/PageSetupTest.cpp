@@ -12,7 +12,7 @@ constexpr double kMillimeter = 72 / 25.4;
 
 TEST(PageSetupTest, TellsHowTheSheetIsPrinted) {
   const struct {
-    const char* before;  ///< the cells
+    const char* before;  ///< The elements before the cells.
     const char* after;
     PageSetup setup;
   } cases[] = {
@@ -41,12 +41,12 @@ TEST(PageSetupTest, TellsHowTheSheetIsPrinted) {
        "<rowBreaks><brk id=\"40\" man=\"1\"/><brk id=\"20\"/><brk id=\"40\"/><brk id=\"0\"/></rowBreaks>"
        "<colBreaks><brk id=\"5\"/><brk id=\"16384\"/></colBreaks><headerFooter/><conditionalFormatting/>",
        {.rowBreaks = {20, 40}, .columnBreaks = {5}, .hasConditionalFormats = true}},
-      // out of all ranges, and papers that nobody knows
+      // Values out of range, and unknown papers.
       {"",
        "<pageMargins left=\"-1\" right=\"nan\"/><pageSetup paperSize=\"77\" scale=\"-3\" fitToWidth=\"-1\" "
        "fitToHeight=\"9999999\"/>",
        {.left = 0, .fitWidth = 0, .fitHeight = 32767}},
-      // the setup of another person's view
+      // The setup of a custom view.
       {"",
        "<customSheetViews><customSheetView><pageSetup scale=\"50\"/></customSheetView></customSheetViews>",
        {}},

@@ -63,22 +63,22 @@ TEST(ReferenceTest, FormulasFollowRows) {
     const char* formula;
     int row, count;
     bool home;
-    const char* shifted;  ///< null: stays as it is
+    const char* shifted;  ///< The adjusted formula; null if it doesn't change.
   };
   const Case cases[] = {
-      // inserted in front, inside, at the last row, behind
+      // Rows inserted before, inside, at the last row, after.
       {"Data!$A$5:$A$9", 3, 2, false, "Data!$A$7:$A$11"},
       {"Data!$A$5:$A$9", 5, 1, false, "Data!$A$6:$A$10"},
       {"Data!$A$5:$A$9", 9, 3, false, "Data!$A$5:$A$12"},
       {"Data!$A$5:$A$9", 10, 3, false, nullptr},
-      // deleted in front, at the start, inside, at the end, all of it
+      // Rows deleted before, at the start, inside, at the end, all of them.
       {"Data!$A$5:$A$9", 1, -2, false, "Data!$A$3:$A$7"},
       {"Data!$A$5:$A$9", 4, -3, false, "Data!$A$4:$A$6"},
       {"Data!$A$5:$A$9", 6, -1, false, "Data!$A$5:$A$8"},
       {"Data!$A$5:$A$9", 9, -5, false, "Data!$A$5:$A$8"},
       {"Data!$A$5:$A$9", 5, -5, false, "Data!#REF!"},
       {"Data!$A$5", 5, -1, false, "Data!#REF!"},
-      // whose rows: case, quotes, other sheets, the formula's own sheet
+      // Sheet names: case, quotes, other sheets, the formula's own sheet.
       {"DATA!A5+'data'!B5", 1, 1, false, "DATA!A6+'data'!B6"},
       {"Other!A5+A5", 1, 1, false, nullptr},
       {"Other!A5+A5", 1, 1, true, "Other!A5+A6"},
@@ -86,12 +86,12 @@ TEST(ReferenceTest, FormulasFollowRows) {
       {"'It''s'!A5+Data!A5", 1, 1, false, "'It''s'!A5+Data!A6"},
       {"[1]Data!A5+'[2]Data'!A5", 1, 1, false, nullptr},
       {"Data:Last!A5+'Data:Last'!A5", 1, 1, false, nullptr},
-      // what looks like a reference and isn't
+      // Texts that look like references.
       {"\"Data!A5\"&LOG10(A5)&Data!A5_x", 1, 1, false, nullptr},
       {"LOG10(5)+A5", 1, 1, true, "LOG10(5)+A6"},
       {"Table1[[#All],[A5]]+A5", 1, 1, true, "Table1[[#All],[A5]]+A6"},
       {"1.5E5+A1.B5+TRUE", 1, 1, true, nullptr},
-      // whole rows move, whole columns don't, corners may stand in any order
+      // Whole rows move, whole columns don't, and corners can be in any order.
       {"Data!5:9+Data!A:C", 5, 1, false, "Data!6:10+Data!A:C"},
       {"Data!A9:A5", 6, 1, false, "Data!A10:A5"},
       {"Data!A1048576", 1, 1, false, "Data!#REF!"},
@@ -103,7 +103,7 @@ TEST(ReferenceTest, FormulasFollowRows) {
       {"Data!A5:Other!B6", 1, 1, false, "Data!A6:Other!B6"},
       {"Other!A5:A6+A5:Data!A5", 1, 1, false, "Other!A5:A6+A5:Data!A6"},
       {"Data!A5#+@A5", 1, 1, true, "Data!A6#+@A6"},
-      // no sheet has so long a name, and no corner behind it a sheet of its own
+      // No sheet has such a long name, and the second corner has no sheet of its own.
       {"DataDataDataDataDataDataDataData!A5:A9:B9+Data!A5", 5, 1, true,
        "DataDataDataDataDataDataDataData!A5:A9:B9+Data!A6"},
       {"(Data!$B$6:$B$7,Data!$B$9)", 7, 2, false, "(Data!$B$6:$B$9,Data!$B$11)"},
@@ -122,11 +122,11 @@ TEST(RowShiftsTest, EachHolderCatchesUpFromWhereItStands) {
   for (int i = 0; i < 3; ++i) shifts.Add("Data", 5, 1);
   EXPECT_EQ(shifts.Follow("Data!$A$5", "", 0), "Data!$A$8");
   const auto mark = shifts.Mark();
-  shifts.Add("Data", 5, 1);  // the same place again, but somebody has followed up to here
+  shifts.Add("Data", 5, 1);  // The position is the same, but the earlier shift was already applied.
   EXPECT_EQ(shifts.Follow("Data!$A$8", "", mark), "Data!$A$9");
   EXPECT_EQ(shifts.Follow("Data!$A$5", "", 0), "Data!$A$9");
   EXPECT_FALSE(shifts.Follow("Data!$A$9", "", shifts.Mark()));
-  // one after the other, and each only on its sheet; what is gone stays gone
+  // Shifts apply one after the other, each only to its sheet. Deleted references stay deleted.
   shifts.Add("Other", 1, 4);
   shifts.Add("Data", 1, -3);
   EXPECT_EQ(shifts.Follow("Data!$A$5+Other!$A$5", "", 0), "Data!$A$6+Other!$A$9");

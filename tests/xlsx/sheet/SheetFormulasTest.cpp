@@ -18,7 +18,7 @@ TEST(SheetFormulasTest, OnlyTheFormulasConcernedChange) {
        "<formula>'My Data'!A7&gt;1</formula><formula1>'My Data'!A7</formula1>"},
       {"<ext><xm:f>'My Data'!A5:B9</xm:f><xm:sqref>A5</xm:sqref></ext>",
        "<ext><xm:f>'My Data'!A7:B11</xm:f><xm:sqref>A5</xm:sqref></ext>"},
-      // a shared formula can't follow as one: each cell gets its own
+      // A shared formula can't be adjusted as one: each cell gets its own.
       {"<c r='B4'><f t='shared' ref='B4:B6' si='3'>'My Data'!A4*$C$1</f><v>0</v></c><c r='B5'><f t='shared' "
        "si='3'/></c>"
        "<c r='B6'><f t='shared' si=\"3\"></f></c><c r='C1'><f t='shared' si='4' ref='C1'>A5</f></c><c "
@@ -26,19 +26,19 @@ TEST(SheetFormulasTest, OnlyTheFormulasConcernedChange) {
        "<c r='B4'><f>'My Data'!A4*$C$1</f><v>0</v></c><c r='B5'><f>'My Data'!A7*$C$1</f></c>"
        "<c r='B6'><f>'My Data'!A8*$C$1</f></c><c r='C1'><f t='shared' si='4' ref='C1'>A5</f></c><c r='C2'><f "
        "t='shared' si='4'/></c>"},
-      // which keeps what else was said of it; and the number of a group is used again
+      // The cell keeps the other attributes, and the number of a group is used again.
       {"<c r='B4'><f t='shared' ca='1' ref='B4:B5' xml:space='preserve' si='0'> 'My Data'!A5</f></c>"
        "<c r='B5'><f  si='0' t = 'shared' ca='1'/></c>"
        "<c r='D1'><f t='shared' ref='D1:D2' si='0'>B1+1</f></c><c r='D2'><f t='shared' si='0'/></c>",
        "<c r='B4'><f ca='1' xml:space='preserve'> 'My Data'!A7</f></c><c r='B5'><f ca='1'> 'My "
        "Data'!A8</f></c>"
        "<c r='D1'><f t='shared' ref='D1:D2' si='0'>B1+1</f></c><c r='D2'><f t='shared' si='0'/></c>"},
-      // rows and cells count on where they don't say their place
+      // Rows and cells without a reference follow the previous one.
       {"<row r='4'><c/><c><f t='shared' ref='B4:B5' si='0'>'My Data'!A5</f></c></row><row><c/><c><f "
        "t='shared' "
        "si='0'/></c></row>",
        "<row r='4'><c/><c><f>'My Data'!A7</f></c></row><row><c/><c><f>'My Data'!A8</f></c></row>"},
-      // and a text is a text in any writing
+      // Texts are recognized in every XML form.
       {"<c r='A1'><f a='>'><![CDATA['My Data'!A5]]>&lt;1<!-- so --></f></c>",
        "<c r='A1'><f a='>'>'My Data'!A7&lt;1</f></c>"}};
   for (const auto& [before, after] : cases) {

@@ -10,7 +10,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// A value in one letter and its content: n1.5, s3 (shared), t"text", b1, e"#N/A", or "-".
+/// Returns a value as a letter and its contents: n1.5, s3 (shared), t"text", b1, e"#N/A", or "-".
 std::string Show(const SheetContents& sheet, std::int32_t row, std::int32_t column) {
   using Kind = PackedValue::Kind;
   const PackedValue value = sheet.cells.ValueAt(row, column);
@@ -175,7 +175,7 @@ TEST(CellStoreTest, GapsRunsAndStyles) {
     }
     ASSERT_EQ(store.StyleAt(row, 2), !there || row == 13 ? 0u : row < 10 ? 1u : 2u) << row;
   }
-  // a row out of order; what is in none of the short gaps is passed over
+  // This row is out of order. Rows outside the short gaps are skipped.
   store.Append(50, 2, PackedValue(50.0), 0);
   std::vector<int> walked;
   for (int row = 0; (row = store.NextRow(row, 2)) != 0;) walked.push_back(row);

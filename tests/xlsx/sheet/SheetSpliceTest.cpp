@@ -10,13 +10,13 @@ using S = std::string;
 
 TEST(SheetSpliceTest, TheDrawingGoesWhereTheSchemaWantsIt) {
   const S drawing = "<drawing xmlns:r=\"R\" r:id=\"rId1\"/>";
-  // "@" is where it goes
+  // "@" marks the position.
   for (const S& tail : {
            S("@</worksheet>"),
            S("<pageMargins left='0.7'/>@<legacyDrawing r:id='x'/><extLst/></worksheet>"),
            S("<pageSetup/>@<tableParts count='1'><tablePart/></tableParts></worksheet>"),
            S("<pageSetup/>@<AlternateContent><Choice><controls/></Choice></AlternateContent></worksheet>"),
-           // what bears such a name further down is somebody else's
+           // Descendants with such a name belong to other elements.
            S("<conditionalFormatting><cfRule><dataBar/><extLst><ext/></extLst></cfRule></"
              "conditionalFormatting>"
              "<pageMargins/>@</worksheet>"),
@@ -24,7 +24,7 @@ TEST(SheetSpliceTest, TheDrawingGoesWhereTheSchemaWantsIt) {
              "</dataValidation></dataValidations><pageMargins/>@<extLst/></worksheet>"),
            S("<customSheetViews><customSheetView><pageMargins/><drawing/><extLst/></customSheetView>"
              "</customSheetViews>@</worksheet>"),
-           // and what isn't markup bears none
+           // Text that isn't markup has no elements.
            S("<x a='>' b=\"<extLst>\"><![CDATA[<extLst>]]></x><!-- <extLst/> --><?p <extLst> "
              "?>@</worksheet>"),
            S("@</worksheet><!-- </worksheet> -->"),
@@ -62,7 +62,7 @@ TEST(SheetSpliceTest, ASettingOfTheViewIsChangedInPlace) {
   struct Case {
     ViewSetting setting;
     bool value;
-    S before, after;  ///< `after` is empty where the part stays as it is
+    S before, after;  ///< `after` is empty if the part doesn't change.
   };
   const S plain = "<w><sheetViews><sheetView workbookViewId='0'/></sheetViews><sheetData/></w>";
   const S noGrid =
@@ -86,7 +86,7 @@ TEST(SheetSpliceTest, ASettingOfTheViewIsChangedInPlace) {
       {kTabSelected, false,
        "<chartsheet><sheetViews><sheetView tabSelected=\"1\"/></sheetViews><drawing/></chartsheet>",
        "<chartsheet><sheetViews><sheetView/></sheetViews><drawing/></chartsheet>"},
-      // what is on by default is written when it is off
+      // A setting that is on by default is written when it is off.
       {kShowGridLines, true, plain, ""},
       {kShowGridLines, true, "<w><sheetData/></w>", ""},
       {kShowGridLines, false, plain, noGrid},
@@ -102,10 +102,10 @@ TEST(SheetSpliceTest, ASettingOfTheViewIsChangedInPlace) {
        "<w><sheetViews><sheetView showRowColHeaders='false' "
        "workbookViewId='0'/></sheetViews><sheetData/></w>",
        plain},
-      // of several views the first is that of the first window
+      // The first of several views belongs to the first window.
       {kShowHeadings, false, "<w><sheetViews>" + pane,
        "<w><sheetViews><sheetView a='>' showRowColHeaders=\"0\"" + pane.substr(S("<sheetView a='>'").size())},
-      // a sheet without a view gets one in front of what comes behind it
+      // A sheet without a view gets one before the elements that follow it.
       {kTabSelected, true,
        "<?xml version='1.0'?><w><sheetPr><tabColor/></sheetPr><dimension/><sheetFormatPr/><sheetData/></w>",
        "<?xml version='1.0'?><w><sheetPr><tabColor/></sheetPr><dimension/><sheetViews><sheetView "

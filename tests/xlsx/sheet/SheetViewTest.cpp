@@ -38,12 +38,12 @@ TEST(SheetViewTest, TellsHowTheFirstWindowShowsTheSheet) {
        "state=\"frozen\"/><selection pane=\"topRight\" activeCell=\"D1\"/>"
        "<selection pane=\"bottomRight\" activeCell=\"G95\"/></sheetView></sheetViews>",
        {true, true, {90, 6}, {95, 7}, 1, 2}},
-      // a split that isn't frozen counts in points, and what no sheet has is nothing
+      // A split that isn't frozen is in points, and positions outside the sheet are ignored.
       {"<sheetViews><sheetView><pane xSplit=\"2000\" ySplit=\"300\"/></sheetView></sheetViews>", {}},
       {"<sheetViews><sheetView topLeftCell=\"?\"><pane ySplit=\"-4\" xSplit=\"99999\" state=\"frozen\"/>"
        "</sheetView></sheetViews>",
        {true, true, {1, 1}, {1, 1}, 0, 16383}},
-      // the second view is another window's
+      // The second view belongs to another window.
       {"<sheetViews><sheetView/><sheetView showGridLines=\"0\" topLeftCell=\"C9\"/></sheetViews>", {}},
   };
   for (const auto& c : cases) {

@@ -12,7 +12,7 @@ using S = std::string;
 
 class SortTest : public test::HostTest {
  protected:
-  /// Sorts a column that holds `values`; the column beside it numbers the rows.
+  /// Sorts a column that contains `values`. The column beside it numbers the rows.
   S Sorted(const std::vector<test::PlainCell>& values, bool descending, bool matchCase) {
     test::PlainBook book;
     book.sheets = {{"Data", {}}};
