@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "host/excel/Excel.h"
-#include "xlsx/Journal.h"
+#include "xlsx/base/Journal.h"
 
 namespace plotsmith::xlsx {
 

@@ -7,9 +7,9 @@
 #include "host/excel/DefinedName.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
-#include "xlsx/Errors.h"
 #include "xlsx/Range.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/base/Errors.h"
 
 namespace plotsmith::xlsx {
 

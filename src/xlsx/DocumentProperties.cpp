@@ -7,8 +7,8 @@
 
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
-#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
+#include "xlsx/base/Errors.h"
 #include "xlsx/package/Package.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/package/Xml.h"

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "runtime/Strings.h"
-#include "xlsx/Errors.h"
 #include "xlsx/Sheet.h"
 #include "xlsx/Workbook.h"
+#include "xlsx/base/Errors.h"
 
 namespace plotsmith::xlsx {
 namespace {

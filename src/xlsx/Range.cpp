@@ -3,9 +3,9 @@
 #include <functional>
 
 #include "runtime/RuntimeError.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Limits.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/base/Limits.h"
 
 namespace plotsmith::xlsx {
 

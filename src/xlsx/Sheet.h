@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "host/excel/Sheet.h"
-#include "xlsx/Journal.h"
 #include "xlsx/Workbook.h"
+#include "xlsx/base/Journal.h"
 
 namespace plotsmith::xlsx {
 
@@ -31,7 +31,7 @@ class SheetMembers : public Base {
   std::string Name() override { return Entry().name; }
   void SetName(std::string_view name) override {
     book_.Journal().Put(Path(), "Name", name);
-    book_.RenameSheet(Entry(), name);
+    book_.Tabs().Rename(Entry(), name);
   }
   std::int32_t Visible() override {
     const std::string_view state = Entry().node.attribute("state").value();
@@ -40,15 +40,15 @@ class SheetMembers : public Base {
   }
   void SetVisible(std::int32_t value) override {
     book_.Journal().Put(Path(), "Visible", value);
-    book_.SetVisible(Entry(), value);
+    book_.Tabs().SetVisible(Entry(), value);
   }
   void Activate() override {
     book_.Journal().Call(Path(), "Activate");
-    book_.Activate(Entry());
+    book_.Tabs().Activate(Entry());
   }
   void Delete() override {
     book_.Journal().Call(Path(), "Delete");
-    book_.RemoveSheet(Entry());
+    book_.Tabs().Remove(Entry());
   }
 
  protected:

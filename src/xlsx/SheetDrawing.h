@@ -16,7 +16,7 @@ class SheetDrawing : public AnchoredShapes<SheetShape> {
  public:
   /// Reads the part, which must be there. Throws PackageError.
   SheetDrawing(Worksheet& sheet, std::string part);
-  ~SheetDrawing();
+  ~SheetDrawing() override;
 
   Worksheet& Sheet() const { return sheet_; }
   const std::string& Part() const { return part_; }
@@ -27,6 +27,9 @@ class SheetDrawing : public AnchoredShapes<SheetShape> {
                                            const Frame& frame);
   std::shared_ptr<SheetShape> AddChart(const Frame& frame);
   void Write();
+
+ protected:
+  void RemoveRelationships(const std::set<std::string>& ids) override;
 
  private:
   std::shared_ptr<SheetShape> AddAnchor(const Frame& frame, const std::string& object);

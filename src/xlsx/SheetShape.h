@@ -11,6 +11,7 @@ namespace plotsmith::xlsx {
 
 class Chart;
 class SheetDrawing;
+class Workbook;
 
 /// One shape of a sheet: a view over its anchor in the sheet's drawing.
 class SheetShape final : public DrawnShape {
@@ -20,7 +21,9 @@ class SheetShape final : public DrawnShape {
   Frame PlacedFrame() const override;
   std::string JournalPath() const override;
   void MarkChanged() override;
-  Workbook& Book() const override;
+  const Journal& Log() const override;
+  const xlsx::Theme& Theme() const override;
+  Workbook& Book() const;
 
   /// The part of the chart that the shape frames; empty if it frames none, or one that isn't there.
   std::string ChartPartName() const;

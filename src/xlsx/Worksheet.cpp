@@ -7,11 +7,11 @@
 
 #include "runtime/RuntimeError.h"
 #include "xlsx/Application.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Limits.h"
 #include "xlsx/Range.h"
 #include "xlsx/SheetDrawing.h"
 #include "xlsx/SheetShape.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/package/Namespaces.h"
 #include "xlsx/package/Xml.h"
 #include "xlsx/sheet/DrawingLink.h"
@@ -276,7 +276,7 @@ SheetView Worksheet::View() {
 
 void Worksheet::ActivateCell(const CellPlace& cell) {
   activeCell_ = cell;
-  book_.CountActivation();
+  book_.Tabs().CountActivation();
 }
 
 Ref<excel::Range> Worksheet::Cells(std::int32_t row, std::int32_t column) {

@@ -10,6 +10,7 @@
 
 #include "host/excel/Worksheet.h"
 #include "xlsx/Sheet.h"
+#include "xlsx/book/CellSource.h"
 #include "xlsx/sheet/CellGrid.h"
 #include "xlsx/sheet/CellSort.h"
 #include "xlsx/sheet/Reference.h"
@@ -26,6 +27,7 @@ struct ViewSetting;
 /// written whole, without what a cell had beside its value and style; so a sheet with formulas can't be. The
 /// system writes on its own sheets only.
 class Worksheet final : public SheetMembers<excel::Worksheet>,
+                        public CellSource,
                         public std::enable_shared_from_this<Worksheet> {
  public:
   Worksheet(Workbook& book, std::weak_ptr<SheetEntry> entry, bool isNew);
@@ -44,19 +46,19 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
 
   // for the other classes of this host
   Workbook& Book() const { return book_; }
-  const std::string& SheetName() const { return Entry().name; }
+  const std::string& SheetName() const override { return Entry().name; }
   const std::string& Part() const { return Entry().part; }
   auto JournalPath() const { return Path(); }
   /// A cell as it is stored: other than for the port, the serial of a date counts in the workbook's own
   /// system.
-  excel::CellValue Stored(std::int32_t row, std::int32_t column);
+  excel::CellValue Stored(std::int32_t row, std::int32_t column) override;
   std::uint32_t StyleAt(std::int32_t row, std::int32_t column);
   CellRange UsedCells();
   /// Cells of the file with a formula but no result, in the order of the file; they read as empty.
   const std::vector<CellPlace>& FormulasWithoutResult() { return Contents().formulasWithoutResult; }
   void ClearCells(const CellRange& range);
   void SetNumberFormat(const CellRange& range, std::string_view code);
-  std::string NumberFormatAt(std::int32_t row, std::int32_t column);
+  std::string NumberFormatAt(std::int32_t row, std::int32_t column) override;
   void InsertRow(std::int32_t row);
   void DeleteRow(std::int32_t row);
   /// Error 1004 on a sheet with merged cells, which would have to move as they are.

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "xlsx/Workbook.h"
+#include "xlsx/book/BookContext.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/ChartText.h"
 #include "xlsx/chart/GroupAxes.h"

@@ -4,7 +4,7 @@
 
 #include "render/shapes/ShapeObjects.h"
 #include "runtime/RuntimeError.h"
-#include "xlsx/Workbook.h"
+#include "xlsx/book/BookContext.h"
 #include "xlsx/chart/ChartDrawing.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/package/Xml.h"

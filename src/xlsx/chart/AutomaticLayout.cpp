@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "xlsx/Workbook.h"
+#include "xlsx/book/BookContext.h"
 #include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/chart/ChartPart.h"

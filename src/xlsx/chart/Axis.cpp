@@ -5,8 +5,8 @@
 #include <string>
 
 #include "host/excel/Excel.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Workbook.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/book/BookContext.h"
 #include "xlsx/chart/Border.h"
 #include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/chart/ChartFont.h"

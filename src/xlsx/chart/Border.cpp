@@ -1,7 +1,7 @@
 #include "xlsx/chart/Border.h"
 
 #include "host/excel/Constants.h"
-#include "xlsx/Errors.h"
+#include "xlsx/base/Errors.h"
 #include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/package/HexColor.h"

@@ -3,9 +3,9 @@
 #include <optional>
 #include <string>
 
-#include "xlsx/Application.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Workbook.h"
+#include "host/excel/Excel.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/book/BookContext.h"
 #include "xlsx/chart/Axis.h"
 #include "xlsx/chart/ChartAreas.h"
 #include "xlsx/chart/ChartDrawing.h"
@@ -80,10 +80,10 @@ class ChartGroupObject final : public excel::ChartGroup {
 
 }  // namespace
 
-Chart::Chart(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame)
+Chart::Chart(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame)
     : part_(std::move(part)), frame_(std::move(frame)) {}
 
-Ref<excel::Application> Chart::Application() { return part_->Book().Application(); }
+Ref<excel::Application> Chart::Application() { return part_->Book().Host(); }
 
 std::int32_t Chart::ChartType() { return TypeOfChart(*part_); }
 

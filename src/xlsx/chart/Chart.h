@@ -8,12 +8,12 @@
 namespace plotsmith::xlsx {
 
 class ChartPart;
-class SheetShape;
+class DrawnShape;
 
 /// A chart for the port: a view over its part. `frame` is the shape that frames it on a sheet.
 class Chart final : public excel::Chart {
  public:
-  Chart(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame);
+  Chart(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame);
 
   excel::Ref<excel::Application> Application() override;
   std::int32_t ChartType() override;
@@ -40,7 +40,7 @@ class Chart final : public excel::Chart {
 
  private:
   std::shared_ptr<ChartPart> part_;
-  std::weak_ptr<SheetShape> frame_;
+  std::weak_ptr<DrawnShape> frame_;
 };
 
 }  // namespace plotsmith::xlsx

@@ -3,7 +3,8 @@
 #include <string>
 
 #include "host/excel/Excel.h"
-#include "xlsx/Errors.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/book/BookContext.h"
 #include "xlsx/chart/Border.h"
 #include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/chart/ChartGeometry.h"
@@ -90,7 +91,7 @@ class ChartFillFormatObject final : public excel::ChartFillFormat {
 
 class ChartAreaObject final : public excel::ChartArea {
  public:
-  ChartAreaObject(FormattedElement area, std::weak_ptr<SheetShape> frame)
+  ChartAreaObject(FormattedElement area, std::weak_ptr<DrawnShape> frame)
       : area_(std::move(area)), frame_(std::move(frame)) {}
 
   Ref<excel::Interior> Interior() override { return InteriorOf(area_); }
@@ -106,12 +107,12 @@ class ChartAreaObject final : public excel::ChartArea {
 
  private:
   FormattedElement area_;
-  std::weak_ptr<SheetShape> frame_;
+  std::weak_ptr<DrawnShape> frame_;
 };
 
 class PlotAreaObject final : public excel::PlotArea {
  public:
-  PlotAreaObject(FormattedElement area, std::weak_ptr<SheetShape> frame)
+  PlotAreaObject(FormattedElement area, std::weak_ptr<DrawnShape> frame)
       : area_(std::move(area)), frame_(std::move(frame)) {}
 
   Ref<excel::Interior> Interior() override { return InteriorOf(area_); }
@@ -129,18 +130,18 @@ class PlotAreaObject final : public excel::PlotArea {
   Frame Place() const { return PlotAreaFrame(*area_.part, ChartSize(frame_)); }
 
   FormattedElement area_;
-  std::weak_ptr<SheetShape> frame_;
+  std::weak_ptr<DrawnShape> frame_;
 };
 
 }  // namespace
 
-Ref<excel::ChartArea> MakeChartArea(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame) {
+Ref<excel::ChartArea> MakeChartArea(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame) {
   return std::make_shared<ChartAreaObject>(
       FormattedElement{part, [part] { return part->Space(); }, [] { return std::string("Chart.ChartArea"); }},
       std::move(frame));
 }
 
-Ref<excel::PlotArea> MakePlotArea(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame) {
+Ref<excel::PlotArea> MakePlotArea(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame) {
   return std::make_shared<PlotAreaObject>(FormattedElement{part, [part] { return part->PlotArea(); },
                                                            [] { return std::string("Chart.PlotArea"); }},
                                           std::move(frame));

@@ -10,9 +10,9 @@
 namespace plotsmith::xlsx {
 
 class ChartPart;
-class SheetShape;
+class DrawnShape;
 
-excel::Ref<excel::ChartArea> MakeChartArea(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame);
-excel::Ref<excel::PlotArea> MakePlotArea(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame);
+excel::Ref<excel::ChartArea> MakeChartArea(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame);
+excel::Ref<excel::PlotArea> MakePlotArea(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame);
 
 }  // namespace plotsmith::xlsx

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/XString.h"
 #include "xlsx/package/Xml.h"

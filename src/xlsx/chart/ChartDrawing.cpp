@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <array>
 
-#include "xlsx/Errors.h"
-#include "xlsx/Workbook.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/book/BookContext.h"
 #include "xlsx/chart/ChartGeometry.h"
 #include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/ChartParts.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/DrawnShapes.h"
 #include "xlsx/package/Namespaces.h"
@@ -31,7 +32,7 @@ std::string ShapePrefix(pugi::xml_node root, const Namespaces& names) {
 
 class ChartShapesObject final : public DrawnShapes {
  public:
-  ChartShapesObject(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame)
+  ChartShapesObject(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame)
       : part_(std::move(part)), frame_(std::move(frame)) {}
 
   std::int32_t Count() override { return static_cast<std::int32_t>(Drawing().Shapes().size()); }
@@ -58,7 +59,7 @@ class ChartShapesObject final : public DrawnShapes {
   }
 
   std::shared_ptr<ChartPart> part_;
-  std::weak_ptr<SheetShape> frame_;
+  std::weak_ptr<DrawnShape> frame_;
 };
 
 }  // namespace
@@ -151,10 +152,14 @@ std::shared_ptr<ChartShape> ChartDrawing::Group(const std::vector<std::shared_pt
   return group;
 }
 
+void ChartDrawing::RemoveRelationships(const std::set<std::string>& ids) {
+  chart_.Parts().RemoveRelationships(part_, ids);
+}
+
 /// With the chart's relationship to it.
 void ChartDrawing::RemovePart() {
   const pugi::xml_node space = chart_.Space();
-  chart_.Book().RemoveRelationship(chart_.Part(), xml::RelationshipId(xml::Child(space, "userShapes")));
+  chart_.Parts().RemoveRelationship(chart_.Part(), xml::RelationshipId(xml::Child(space, "userShapes")));
   schema::Remove(space, "userShapes");
   chart_.MarkChanged();
   part_.clear();
@@ -184,7 +189,7 @@ void ChartDrawing::Write() {
   }
 }
 
-excel::Ref<excel::Shapes> MakeChartShapes(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame) {
+excel::Ref<excel::Shapes> MakeChartShapes(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame) {
   return std::make_shared<ChartShapesObject>(std::move(part), std::move(frame));
 }
 

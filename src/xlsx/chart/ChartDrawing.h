@@ -12,7 +12,7 @@
 namespace plotsmith::xlsx {
 
 class ChartPart;
-class SheetShape;
+class DrawnShape;
 
 /// What is drawn on a chart itself: the chart's part of user shapes. Anchors there know places as fractions
 /// of the chart. The part comes into being with the first shape and goes with the last.
@@ -20,11 +20,11 @@ class ChartDrawing : public AnchoredShapes<ChartShape> {
  public:
   /// Error 1004 if the part can't be read.
   explicit ChartDrawing(ChartPart& chart);
-  ~ChartDrawing();
+  ~ChartDrawing() override;
 
   ChartPart& Chart() const { return chart_; }
   /// The shape that frames the chart on its sheet, from which the chart has its size.
-  void SetFrame(std::weak_ptr<SheetShape> frame) { frame_ = std::move(frame); }
+  void SetFrame(std::weak_ptr<DrawnShape> frame) { frame_ = std::move(frame); }
   /// Width and height in points.
   Frame Size() const;
 
@@ -37,15 +37,18 @@ class ChartDrawing : public AnchoredShapes<ChartShape> {
   /// Brings the part, and the chart's link to it, up to date.
   void Write();
 
+ protected:
+  void RemoveRelationships(const std::set<std::string>& ids) override;
+
  private:
   std::shared_ptr<ChartShape> AddAnchor(const Frame& frame, const std::string& object);
   void RemovePart();
 
   ChartPart& chart_;
-  std::weak_ptr<SheetShape> frame_;
+  std::weak_ptr<DrawnShape> frame_;
 };
 
 /// The shapes on a chart, for the port.
-excel::Ref<excel::Shapes> MakeChartShapes(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame);
+excel::Ref<excel::Shapes> MakeChartShapes(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame);
 
 }  // namespace plotsmith::xlsx

@@ -1,6 +1,6 @@
 #include "xlsx/chart/ChartFont.h"
 
-#include "xlsx/Workbook.h"
+#include "xlsx/book/BookContext.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/ChartText.h"
 #include "xlsx/drawing/DrawingFont.h"

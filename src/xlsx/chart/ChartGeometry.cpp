@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "xlsx/Errors.h"
-#include "xlsx/SheetShape.h"
+#include "xlsx/base/Errors.h"
 #include "xlsx/chart/AutomaticLayout.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/drawing/DrawnShape.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
@@ -28,7 +28,7 @@ void Apply(pugi::xml_node layout, const char* place, const char* placeMode, cons
 
 }  // namespace
 
-Frame ChartSize(const std::weak_ptr<SheetShape>& frame) {
+Frame ChartSize(const std::weak_ptr<DrawnShape>& frame) {
   const auto shape = frame.lock();
   if (!shape) return kChartSheet;
   const Frame placed = shape->PlacedFrame();

@@ -7,10 +7,10 @@
 namespace plotsmith::xlsx {
 
 class ChartPart;
-class SheetShape;
+class DrawnShape;
 
 /// Width and height of a chart, in points: those of the shape that frames it, or of a chart sheet's page.
-Frame ChartSize(const std::weak_ptr<SheetShape>& frame);
+Frame ChartSize(const std::weak_ptr<DrawnShape>& frame);
 
 /// The plot area with its tick labels, in a chart of a size: as the chart's layout says, or as Excel lays it
 /// out by itself, which is an estimate.

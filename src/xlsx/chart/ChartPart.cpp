@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "xlsx/Errors.h"
-#include "xlsx/Limits.h"
-#include "xlsx/Workbook.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/chart/ChartDrawing.h"
+#include "xlsx/chart/ChartParts.h"
 #include "xlsx/chart/GroupAxes.h"
 #include "xlsx/chart/PlotGroups.h"
 #include "xlsx/drawing/DrawingSchema.h"
@@ -35,7 +35,8 @@ std::size_t CountSeries(pugi::xml_node space) {
 
 }  // namespace
 
-ChartPart::ChartPart(Workbook& book, std::string part) : book_(book), part_(std::move(part)) {}
+ChartPart::ChartPart(ChartParts& parts, std::string part)
+    : parts_(parts), book_(parts.Book()), part_(std::move(part)) {}
 
 ChartPart::~ChartPart() = default;
 

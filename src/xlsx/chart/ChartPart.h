@@ -12,8 +12,9 @@
 
 namespace plotsmith::xlsx {
 
+class BookContext;
 class ChartDrawing;
-class Workbook;
+class ChartParts;
 
 /// A series element, which its chart may lose while somebody still holds the entry: then it is a null node.
 struct SeriesEntry {
@@ -26,10 +27,12 @@ using SeriesRef = std::shared_ptr<SeriesEntry>;
 class ChartPart {
  public:
   /// `part` may be empty, or a part that can't be read: then every use is error 1004.
-  ChartPart(Workbook& book, std::string part);
+  ChartPart(ChartParts& parts, std::string part);
   ~ChartPart();
 
-  Workbook& Book() const { return book_; }
+  BookContext& Book() const { return book_; }
+  /// The chart parts of the workbook, this one among them.
+  ChartParts& Parts() const { return parts_; }
   const std::string& Part() const { return part_; }
   /// The chart was deleted: every use of it, its series and its shapes is error 1004 from now on.
   void Leave();
@@ -71,7 +74,8 @@ class ChartPart {
   void Load();
   void Follow();
 
-  Workbook& book_;
+  ChartParts& parts_;
+  BookContext& book_;
   std::string part_;
   std::unique_ptr<pugi::xml_document> document_;
   std::optional<std::string> unreadable_;

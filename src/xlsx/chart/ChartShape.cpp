@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "xlsx/Workbook.h"
+#include "xlsx/book/BookContext.h"
 #include "xlsx/chart/ChartDrawing.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/package/Xml.h"
@@ -28,7 +28,9 @@ double Settled(double points) { return std::round(points * kEmuPerPoint) / kEmuP
 ChartShape::ChartShape(ChartDrawing& drawing, pugi::xml_node anchor, pugi::xml_node object)
     : DrawnShape(anchor, object), drawing_(drawing) {}
 
-Workbook& ChartShape::Book() const { return drawing_.Chart().Book(); }
+const Journal& ChartShape::Log() const { return drawing_.Chart().Book().Journal(); }
+
+const Theme& ChartShape::Theme() const { return drawing_.Chart().Book().Theme(); }
 
 void ChartShape::MarkChanged() { drawing_.MarkChanged(); }
 

@@ -17,7 +17,8 @@ class ChartShape final : public DrawnShape {
   Frame PlacedFrame() const override;
   std::string JournalPath() const override;
   void MarkChanged() override;
-  Workbook& Book() const override;
+  const Journal& Log() const override;
+  const xlsx::Theme& Theme() const override;
 
  protected:
   /// Inside of the chart, as its anchors can't say anything else: what would stick out is moved back, and cut

@@ -6,7 +6,7 @@
 
 #include "host/excel/Constants.h"
 #include "host/excel/DataLabel.h"
-#include "xlsx/Errors.h"
+#include "xlsx/base/Errors.h"
 #include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/chart/ChartFont.h"

@@ -5,7 +5,8 @@
 #include <string>
 
 #include "host/excel/Constants.h"
-#include "xlsx/Errors.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/book/BookContext.h"
 #include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/package/HexColor.h"

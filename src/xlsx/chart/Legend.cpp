@@ -3,8 +3,8 @@
 #include <string>
 
 #include "host/excel/Excel.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Workbook.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/book/BookContext.h"
 #include "xlsx/chart/ChartEnumerations.h"
 #include "xlsx/chart/ChartFont.h"
 #include "xlsx/chart/ChartGeometry.h"
@@ -27,7 +27,7 @@ constexpr double kNear = 0.02, kMiddle = 0.4, kFar = 0.8;
 
 class LegendObject final : public excel::Legend {
  public:
-  LegendObject(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame)
+  LegendObject(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame)
       : part_(std::move(part)), frame_(std::move(frame)) {}
 
   Ref<excel::Font> Font() override {
@@ -106,12 +106,12 @@ class LegendObject final : public excel::Legend {
   }
 
   std::shared_ptr<ChartPart> part_;
-  std::weak_ptr<SheetShape> frame_;
+  std::weak_ptr<DrawnShape> frame_;
 };
 
 }  // namespace
 
-Ref<excel::Legend> MakeLegend(std::shared_ptr<ChartPart> part, std::weak_ptr<SheetShape> frame) {
+Ref<excel::Legend> MakeLegend(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame) {
   return std::make_shared<LegendObject>(std::move(part), std::move(frame));
 }
 

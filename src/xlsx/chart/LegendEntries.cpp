@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "host/excel/LegendEntry.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Workbook.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/book/BookContext.h"
 #include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/PlotGroups.h"

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "host/excel/Constants.h"
-#include "xlsx/Errors.h"
+#include "xlsx/base/Errors.h"
 #include "xlsx/chart/ChartTypeRules.h"
 #include "xlsx/chart/ChartTypes.h"
 #include "xlsx/chart/DataLabels.h"

@@ -4,7 +4,8 @@
 #include <string>
 
 #include "host/excel/Excel.h"
-#include "xlsx/Errors.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/book/BookContext.h"
 #include "xlsx/chart/AutomaticColors.h"
 #include "xlsx/chart/Border.h"
 #include "xlsx/chart/ChartCache.h"

@@ -2,9 +2,10 @@
 
 #include <optional>
 
-#include "xlsx/Errors.h"
-#include "xlsx/Limits.h"
-#include "xlsx/Worksheet.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/base/Limits.h"
+#include "xlsx/book/BookContext.h"
+#include "xlsx/book/CellSource.h"
 #include "xlsx/chart/ChartCache.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/chart/ChartTypes.h"
@@ -19,7 +20,7 @@ using runtime::Variant;
 namespace {
 
 struct Source {
-  std::shared_ptr<Worksheet> sheet;
+  std::shared_ptr<CellSource> sheet;
   CellRange range;
   std::string formula;
 
@@ -43,7 +44,7 @@ const char* PropertyName(SeriesData which) {
 /// The cells of a formula without its equals sign, if they are of a sheet and no more than a cache holds.
 std::optional<Source> FindCells(ChartPart& part, std::string_view formula) {
   const auto range = ParseSheetRange(formula);
-  auto sheet = range ? part.Book().FindWorksheet(range->sheet) : nullptr;
+  auto sheet = range ? part.Book().FindCells(range->sheet) : nullptr;
   if (!sheet || range->range.CellCount() > limits::kCachePoints) return std::nullopt;
   const std::string name = sheet->SheetName();
   return Source{std::move(sheet), range->range, SheetRangeAddress({name, range->range})};

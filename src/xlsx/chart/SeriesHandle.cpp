@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "xlsx/Errors.h"
-#include "xlsx/Workbook.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/book/BookContext.h"
 
 namespace plotsmith::xlsx {
 

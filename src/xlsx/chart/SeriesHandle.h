@@ -4,7 +4,7 @@
 #include <pugixml.hpp>
 #include <string>
 
-#include "xlsx/Journal.h"
+#include "xlsx/base/Journal.h"
 #include "xlsx/chart/ChartPart.h"
 
 namespace plotsmith::xlsx {

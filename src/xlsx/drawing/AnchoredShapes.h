@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "runtime/Strings.h"
-#include "xlsx/Workbook.h"
 #include "xlsx/drawing/DrawnShape.h"
 #include "xlsx/package/Xml.h"
 
@@ -19,6 +18,8 @@ namespace plotsmith::xlsx {
 template <class Shape>
 class AnchoredShapes {
  public:
+  virtual ~AnchoredShapes() = default;
+
   /// From back to front, what is inside a group not counted.
   const std::vector<std::shared_ptr<Shape>>& Shapes() const { return shapes_; }
   /// Null if there is none; case aside.
@@ -32,19 +33,14 @@ class AnchoredShapes {
   /// the drawing uses.
   void Remove(DrawnShape& shape) {
     pugi::xml_node anchor = shape.Anchor();
-    const std::set<std::string> ids = xml::RelationshipIdsIn(anchor);
+    std::set<std::string> ids = xml::RelationshipIdsIn(anchor);
     std::erase_if(shapes_, [&](const auto& other) { return other.get() == &shape; });
     anchor.parent().remove_child(anchor);
     shape.Leave();
     changed_ = true;
     if (part_.empty() || ids.empty()) return;
-    const std::set<std::string> used = xml::RelationshipIdsIn(xml::Root(document_));
-    Workbook& book = shape.Book();
-    book.Guarded([&] {
-      for (const std::string& id : ids) {
-        if (!used.contains(id)) book.RemoveRelationship(part_, id);
-      }
-    });
+    for (const std::string& used : xml::RelationshipIdsIn(xml::Root(document_))) ids.erase(used);
+    RemoveRelationships(ids);
   }
 
   void MarkChanged() { changed_ = true; }
@@ -60,6 +56,9 @@ class AnchoredShapes {
       if (!taken.contains(runtime::UCase(name))) return name;
     }
   }
+
+  /// Takes relationships of the drawing's part out of the package.
+  virtual void RemoveRelationships(const std::set<std::string>& ids) = 0;
 
   std::string part_;  ///< empty while there is none
   pugi::xml_document document_;

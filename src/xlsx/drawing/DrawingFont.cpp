@@ -4,8 +4,8 @@
 
 #include "host/excel/Constants.h"
 #include "runtime/Strings.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Journal.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/base/Journal.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/HexColor.h"

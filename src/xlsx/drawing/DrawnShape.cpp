@@ -6,10 +6,9 @@
 
 #include "host/excel/Constants.h"
 #include "runtime/Strings.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Journal.h"
-#include "xlsx/Limits.h"
-#include "xlsx/Workbook.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/base/Journal.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/FillAndLine.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
@@ -62,8 +61,6 @@ pugi::xml_node DrawnShape::Properties() const {
   if (!properties) throw OutOfRange();
   return properties;
 }
-
-const Journal& DrawnShape::Log() const { return Book().Journal(); }
 
 std::string DrawnShape::JournalPathUnder(const std::string& drawing) const {
   return drawing + ".Shapes(" + Journal::Literal(xml::Attribute(IdentityOf(object_), "name")) + ")";
@@ -191,7 +188,7 @@ void DrawnShape::FitToText() {
   const bool wraps = xml::Attribute(body, "wrap", "square") != "none";
   Frame frame = PlacedFrame();
   const auto extent =
-      TextBody(object_).Measure(Book().Theme(), wraps ? std::optional(frame.width - across) : std::nullopt);
+      TextBody(object_).Measure(Theme(), wraps ? std::optional(frame.width - across) : std::nullopt);
   if (!wraps) frame.width = extent.width + across;
   frame.height = extent.height + down;
   Place(frame);

@@ -13,7 +13,7 @@
 namespace plotsmith::xlsx {
 
 class Journal;
-class Workbook;
+class Theme;
 
 /// What the shapes of a sheet and those on a chart have in common: a view over an object of a drawing (sp,
 /// grpSp, pic, ...). Where the object lies is a matter of its anchor, which each drawing has its own way for.
@@ -46,14 +46,15 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   virtual Frame PlacedFrame() const = 0;
   virtual std::string JournalPath() const = 0;
   virtual void MarkChanged() = 0;
-  virtual Workbook& Book() const = 0;
+  virtual const Journal& Log() const = 0;
+  /// The theme that the colours and fonts of the shape refer to.
+  virtual const xlsx::Theme& Theme() const = 0;
   /// The object's element; error 1004 once the shape was deleted.
   pugi::xml_node Object() const;
   /// spPr, or a group's grpSpPr; error 1004 for what has neither.
   pugi::xml_node Properties() const;
   /// The anchor's element; error 1004 once the shape was deleted.
   pugi::xml_node Anchor() const;
-  const Journal& Log() const;
   /// What the shape says, in units; whoever reads it in pieces gets them from one conversion.
   const std::u16string& Text();
   void SetText(std::u16string_view text);

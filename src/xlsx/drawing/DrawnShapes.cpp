@@ -1,8 +1,8 @@
 #include "xlsx/drawing/DrawnShapes.h"
 
 #include "host/excel/ShapeRange.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Journal.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/base/Journal.h"
 #include "xlsx/drawing/DrawnShape.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
 

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "host/excel/ColorFormat.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Journal.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/base/Journal.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/DrawnShape.h"

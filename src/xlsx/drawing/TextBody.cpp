@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "runtime/Strings.h"
-#include "xlsx/Errors.h"
+#include "xlsx/base/Errors.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/Theme.h"
 #include "xlsx/package/Xml.h"

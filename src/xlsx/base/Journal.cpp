@@ -1,4 +1,4 @@
-#include "xlsx/Journal.h"
+#include "xlsx/base/Journal.h"
 
 #include "runtime/Strings.h"
 
