@@ -1,9 +1,11 @@
 #include "builder/SourceValidation.h"
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 #include "common/RunVariables.h"
+#include "common/Values.h"
+#include "common/YieldToHost.h"
 #include "runtime/Strings.h"
 #include "runtime/Variant.h"
 

@@ -1,8 +1,8 @@
 #include <cstdio>
 #include <iostream>
 
-#include "cli/CommandLine.h"
 #include "cli/Platform.h"
+#include "cli/line/CommandLine.h"
 
 int main(int argc, char** argv) {
   using namespace plotsmith::cli;

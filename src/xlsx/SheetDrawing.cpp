@@ -1,7 +1,7 @@
 #include "xlsx/SheetDrawing.h"
 
 #include "xlsx/Worksheet.h"
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/package/Namespaces.h"
 #include "xlsx/package/Xml.h"
 

@@ -14,7 +14,7 @@
 #include "xlsx/base/Limits.h"
 #include "xlsx/book/BookPart.h"
 #include "xlsx/book/NameList.h"
-#include "xlsx/chart/ChartParts.h"
+#include "xlsx/chart/part/ChartParts.h"
 #include "xlsx/package/FreeNumber.h"
 #include "xlsx/package/Namespaces.h"
 #include "xlsx/package/Xml.h"

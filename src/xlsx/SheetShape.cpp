@@ -8,7 +8,7 @@
 #include "xlsx/Worksheet.h"
 #include "xlsx/base/Errors.h"
 #include "xlsx/base/Limits.h"
-#include "xlsx/chart/Chart.h"
+#include "xlsx/chart/objects/Chart.h"
 #include "xlsx/drawing/DrawnShapes.h"
 #include "xlsx/package/Xml.h"
 

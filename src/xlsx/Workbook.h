@@ -12,7 +12,8 @@
 #include "xlsx/book/BookContext.h"
 #include "xlsx/book/NameList.h"
 #include "xlsx/book/SaveFormat.h"
-#include "xlsx/chart/ChartParts.h"
+#include "xlsx/chart/part/ChartParts.h"
+#include "xlsx/chart/rules/PlotGroups.h"
 
 namespace plotsmith::xlsx {
 
@@ -92,7 +93,7 @@ class Workbook final : public excel::Workbook,
   SaveFormat format_;
   NameList names_{Part()};
   SheetList sheets_{*this, Part(), names_};
-  ChartParts charts_{*this};
+  ChartParts charts_{*this, CompleteChart};
   excel::Ref<excel::Names> nameObjects_;  ///< made when they are first asked for
   std::uint64_t nameRevision_ = 0;        ///< of names_, when nameObjects_ was made
 };

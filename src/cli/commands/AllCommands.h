@@ -7,7 +7,7 @@
 
 namespace plotsmith::cli {
 
-/// All verbs, in the order of the help.
+/// All verbs but `help`, in the order of the help.
 std::vector<std::unique_ptr<Command>> MakeCommands();
 
 }  // namespace plotsmith::cli

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/CommandLine.h"
+#include "cli/line/CommandLine.h"
 
 /// What is installed beside the command, made from its own table of verbs and options, so that it tells of
 /// those that there are.

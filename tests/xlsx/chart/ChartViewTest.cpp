@@ -4,8 +4,8 @@
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
 #include "xlsx/base/Limits.h"
-#include "xlsx/chart/ChartEnumerations.h"
-#include "xlsx/chart/ChartTypes.h"
+#include "xlsx/chart/part/ChartEnumerations.h"
+#include "xlsx/chart/rules/ChartTypes.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
 
 namespace plotsmith::xlsx {

@@ -1,0 +1,122 @@
+#include "builder/families/AbcChart.h"
+
+#include <algorithm>
+#include <string>
+
+#include "builder/looks/ChartAttributes.h"
+#include "builder/state/BuilderVariables.h"
+#include "builder/state/DataBlock.h"
+#include "common/Documents.h"
+#include "common/ErrorBlocks.h"
+#include "common/HostAnswers.h"
+#include "common/PSConstants.h"
+
+namespace plotsmith {
+
+using dom::IXMLDOMElement;
+
+namespace {
+
+/// The letters of sheet column `c`, for 3 to 78 only; empty beyond. More isn't wanted: what comes after the
+/// 78th column keeps the name before it.
+std::string NameColumnLetters(std::int32_t c) {
+  const auto letter = [](std::int32_t lCode) { return std::string(1, static_cast<char>(lCode)); };
+  if (c <= 26) return letter(64 + c);
+  if (c <= 52) return "A" + letter(38 + c);
+  if (c <= 78) return "B" + letter(12 + c);
+  return {};
+}
+
+std::int32_t FamilyOffset() {
+  if (mChartType == "bar") return 8;
+  if (mChartType == "column") return 16;
+  return 0;
+}
+
+std::int32_t ChartTypeOfSum(std::int32_t lSum) {
+  switch (lSum) {
+    case 0:
+      return excel::xlArea;
+    case 1:
+      return excel::xl3DArea;
+    case 2:
+      return excel::xlAreaStacked;
+    case 3:
+      return excel::xl3DAreaStacked;
+    case 6:
+      return excel::xlAreaStacked100;
+    case 7:
+      return excel::xl3DAreaStacked100;
+    case 8:
+      return excel::xlBarClustered;
+    case 9:
+      return excel::xl3DBarClustered;
+    case 10:
+      return excel::xlBarStacked;
+    case 11:
+      return excel::xl3DBarStacked;
+    case 14:
+      return excel::xlBarStacked100;
+    case 15:
+      return excel::xl3DBarStacked100;
+    case 17:
+      return excel::xl3DColumnClustered;
+    case 18:
+      return excel::xlColumnStacked;
+    case 19:
+      return excel::xl3DColumnStacked;
+    case 22:
+      return excel::xlColumnStacked100;
+    case 23:
+      return excel::xl3DColumnStacked100;
+    // "100%" without "stacked", or a setting that occurs twice, is plain columns whatever the family
+    default:
+      return excel::xlColumnClustered;
+  }
+}
+
+}  // namespace
+
+void PopulateABCChart(const IXMLDOMElement& oChartElement) {
+  ReportErrors("PSChartBuilder.PopulateABCChart", [&] {
+    const Block oBlock(oChartElement);
+    // All series are made, and all attributes applied, on clustered bars; the real type comes last.
+    mChart->SetChartType(excel::xlBarClustered);
+    const std::string sCategories = oBlock.Categories();
+    std::string sName;
+    for (std::int32_t c = data_column::kFirstSeries; c <= oBlock.lLastColumn; ++c) {
+      if (HostVersion(mChart->Application()) > kLastClassicVersion) {
+        const std::string sLetters = NameColumnLetters(c);
+        if (!sLetters.empty()) sName = DataCellA1(oBlock.lHeaderRow, sLetters);
+      } else {
+        sName = DataCell(oBlock.lHeaderRow, c);
+      }
+      const auto oSeries = mChart->SeriesCollection()->NewSeries();
+      oSeries->SetName(sName);
+      oSeries->SetXValues(sCategories);
+      oSeries->SetValues(oBlock.Values(c));
+    }
+  });
+}
+
+void SetABCChartAttributes(const IXMLDOMElement& oChartElement) {
+  ReportErrors("PSChartBuilder.SetABCChartAttributes", [&] {
+    ApplyTitle(oChartElement);
+    ApplyLegendFromHeadings(oChartElement);
+    ClearAxisTitles();
+    ApplyAxisTitles(oChartElement);
+    FinishAxes();
+
+    const auto aLabels = oChartElement.selectNodes("data-labels/data-label");
+    if (std::any_of(aLabels.begin(), aLabels.end(),
+                    [](const auto& oLabel) { return GetAttributeText(oLabel, "show") == "values"; })) {
+      ApplyLabels(excel::xlDataLabelsShowValue, excel::xlLabelPositionCenter);
+    }
+
+    const std::int32_t lSum = SumOfSettings(oChartElement, {{"3D", 1}, {"stacked", 2}, {"100%", 4}});
+    mChart->SetChartType(ChartTypeOfSum(FamilyOffset() + lSum));
+    ApplyLegendVisibility();
+  });
+}
+
+}  // namespace plotsmith
