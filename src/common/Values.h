@@ -19,8 +19,8 @@ std::string SafeString(const runtime::Variant& vValue);
 /// Whether the list has the value. The comparison is case-sensitive.
 bool ArrayContains(std::string_view sValue, std::span<const std::string_view> aValues);
 
-/// Whether the collection has the key. Only error 5 of the read means that the key is missing; any other error
-/// counts as present.
+/// Whether the collection has the key. Only error 5 of the read means that the key is missing; any other
+/// error counts as present.
 template <class T>
 bool CollectionHasKey(std::string_view sKey, const runtime::Ref<runtime::Collection<T>>& oCollection) {
   bool bHas = true;

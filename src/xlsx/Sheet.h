@@ -14,10 +14,10 @@ namespace plotsmith::xlsx {
 
 /// A sheet as the workbook part lists it.
 struct SheetEntry {
-  std::string name;
-  std::string part;
+  std::string name;     ///< on its tab
+  std::string part;     ///< in the package
   pugi::xml_node node;  ///< its element in the workbook part
-  /// What the port sees of it; `worksheet` is the same object where the sheet has cells, else null.
+  /// The sheet for the port. `worksheet` is the same object if the sheet has cells, else null.
   std::shared_ptr<excel::Sheet> object;
   std::shared_ptr<Worksheet> worksheet;
 };

@@ -31,7 +31,6 @@ class Workbook final : public excel::Workbook,
   ~Workbook() override;
 
   // The members of the port.
-  excel::Ref<excel::Application> Application() override { return Host(); }
   bool ProtectStructure() override;
   bool MultiUserEditing() override;
   excel::Ref<excel::DocumentProperty> BuiltinDocumentProperties(std::string_view name) override;

@@ -1,6 +1,7 @@
 #include "builder/families/AbcChart.h"
 
 #include <algorithm>
+#include <map>
 #include <string>
 
 #include "builder/looks/ChartAttributes.h"
@@ -33,46 +34,30 @@ std::int32_t FamilyOffset() {
   return 0;
 }
 
+/// The chart type for the sum of the family and the settings. "100%" without "stacked", or a setting that
+/// occurs twice, gives plain columns in every family.
 std::int32_t ChartTypeOfSum(std::int32_t lSum) {
-  switch (lSum) {
-    case 0:
-      return excel::xlArea;
-    case 1:
-      return excel::xl3DArea;
-    case 2:
-      return excel::xlAreaStacked;
-    case 3:
-      return excel::xl3DAreaStacked;
-    case 6:
-      return excel::xlAreaStacked100;
-    case 7:
-      return excel::xl3DAreaStacked100;
-    case 8:
-      return excel::xlBarClustered;
-    case 9:
-      return excel::xl3DBarClustered;
-    case 10:
-      return excel::xlBarStacked;
-    case 11:
-      return excel::xl3DBarStacked;
-    case 14:
-      return excel::xlBarStacked100;
-    case 15:
-      return excel::xl3DBarStacked100;
-    case 17:
-      return excel::xl3DColumnClustered;
-    case 18:
-      return excel::xlColumnStacked;
-    case 19:
-      return excel::xl3DColumnStacked;
-    case 22:
-      return excel::xlColumnStacked100;
-    case 23:
-      return excel::xl3DColumnStacked100;
-    // "100%" without "stacked", or a setting that occurs twice, is plain columns whatever the family
-    default:
-      return excel::xlColumnClustered;
-  }
+  static const std::map<std::int32_t, std::int32_t> kTypes = {
+      {0, excel::xlArea},
+      {1, excel::xl3DArea},
+      {2, excel::xlAreaStacked},
+      {3, excel::xl3DAreaStacked},
+      {6, excel::xlAreaStacked100},
+      {7, excel::xl3DAreaStacked100},
+      {8, excel::xlBarClustered},
+      {9, excel::xl3DBarClustered},
+      {10, excel::xlBarStacked},
+      {11, excel::xl3DBarStacked},
+      {14, excel::xlBarStacked100},
+      {15, excel::xl3DBarStacked100},
+      {17, excel::xl3DColumnClustered},
+      {18, excel::xlColumnStacked},
+      {19, excel::xl3DColumnStacked},
+      {22, excel::xlColumnStacked100},
+      {23, excel::xl3DColumnStacked100},
+  };
+  const auto oFound = kTypes.find(lSum);
+  return oFound == kTypes.end() ? excel::xlColumnClustered : oFound->second;
 }
 
 }  // namespace

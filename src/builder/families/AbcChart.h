@@ -6,9 +6,9 @@
 /// chart.
 namespace plotsmith {
 
-/// One series for each value column of the block, on a clustered bar chart.
+/// Draws one series for each value column of the block, as clustered bars.
 void PopulateABCChart(const dom::IXMLDOMElement& oChartElement);
-/// Title, axis titles, data labels, legend, and the chart type last.
+/// Sets the title, axis titles, data labels, legend and, at the end, the chart type.
 void SetABCChartAttributes(const dom::IXMLDOMElement& oChartElement);
 
 }  // namespace plotsmith

@@ -58,7 +58,13 @@ void AddBubble(excel::Worksheet& oSheet, std::int32_t lRow, SeriesColors& oColor
   IgnoreErrors([&] { oSeries->SetName(sName); }, [&] { oSeries->SetXValues(value(bubble_column::kX)); },
                [&] { oSeries->SetValues(value(bubble_column::kY)); },
                [&] { oSeries->SetBubbleSizes(value(bubble_column::kSize)); });
-  oColors.Harvest(oSeries, sName, [](const auto& statement) { IgnoreErrors(statement); });
+  const auto oFill = runtime::MakeRef<CPSColor>();
+  for (const auto read : kFillReads) IgnoreErrors([&] { read(*oSeries, *oFill); });
+  bool bRepeated = false;
+  IgnoreErrors([&] { bRepeated = !oColors.Take(oFill, sName); },
+               [&] {
+                 if (bRepeated && mChart->HasLegend()) DeleteLastLegendEntry();
+               });
   LabelBubble(oSeries);
 }
 

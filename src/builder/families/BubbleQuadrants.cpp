@@ -10,6 +10,7 @@
 #include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
 #include "common/Worksheets.h"
+#include "host/excel/Excel.h"
 
 namespace plotsmith {
 

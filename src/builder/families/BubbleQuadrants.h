@@ -4,8 +4,8 @@
 
 namespace plotsmith {
 
-/// Module PSChartBuilder: lets the axes of a bubble chart cross in the middle of the plot, if the definition
-/// wants quadrants.
+/// Module PSChartBuilder: makes the axes of a bubble chart cross in the middle of the plot area, if the
+/// definition has quadrants.
 void SetBubbleChartQuadrants(const dom::IXMLDOMElement& oChartElement);
 
 }  // namespace plotsmith

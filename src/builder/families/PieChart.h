@@ -5,9 +5,9 @@
 /// Module PSChartBuilder: pie charts, from a filled block of the data sheet to the finished chart.
 namespace plotsmith {
 
-/// One series, without a name, for each value column of the block.
+/// Draws one series without a name for each value column of the block.
 void PopulatePieChart(const dom::IXMLDOMElement& oChartElement);
-/// Title, data labels, chart type, and a legend unless it was hidden.
+/// Sets the title, data labels, chart type, and a legend unless it was hidden.
 void SetPieChartAttributes(const dom::IXMLDOMElement& oChartElement);
 
 }  // namespace plotsmith

@@ -153,7 +153,10 @@ void PopulateStrBuckChart(const IXMLDOMElement& oChartElement) {
       oSeries->SetName(sName);
       oSeries->SetXValues(sBucketNames);
       oSeries->SetValues(BucketCells(oBlock, lRow));
-      oColors.Harvest(oSeries, sName, [](const auto& statement) { statement(); });
+      const auto oFill = runtime::MakeRef<CPSColor>();
+      for (const auto read : kFillReads) read(*oSeries, *oFill);
+      const bool bRepeated = !oColors.Take(oFill, sName);
+      if (bRepeated && mChart->HasLegend()) DeleteLastLegendEntry();
       if (bManualLabels) LabelItem(oSeries, sText);
       YieldToHost();
     }

@@ -6,9 +6,9 @@
 /// chart.
 namespace plotsmith {
 
-/// A series of stacked columns for each item, named by the item's label, and a series of marks.
+/// Draws a series of stacked columns for each item, with the item's label as its name, and a series of marks.
 void PopulateStrBuckChart(const dom::IXMLDOMElement& oChartElement);
-/// Title, axis titles, the fonts of the items' labels, and the legend.
+/// Sets the title, axis titles, the fonts of the items' labels, and the legend.
 void SetStrBuckChartAttributes(const dom::IXMLDOMElement& oChartElement);
 
 }  // namespace plotsmith

@@ -9,45 +9,50 @@
 #include "runtime/Ref.h"
 #include "runtime/Variant.h"
 
-/// Module PSChartBuilder: the steps that the drawing of several chart families shares.
+/// Module PSChartBuilder: the drawing steps that several chart families share.
 namespace plotsmith {
 
+/// Sets the chart's title, or removes it.
 void ApplyTitle(const dom::IXMLDOMElement& oChartElement);
-/// A legend where the series have headings; nothing changes without a `series` element.
+/// Shows the legend if the series have headings. Nothing changes without a `series` element.
 void ApplyLegendFromHeadings(const dom::IXMLDOMElement& oChartElement);
+/// Removes the titles of both axes.
 void ClearAxisTitles();
-/// What a family does otherwise about its axis titles than area, bar and column charts.
+/// The ways in which a family treats its axis titles differently. The defaults are those of area, bar and
+/// column charts.
 struct AxisTitleManner {
-  bool bSwitchAxisOn = true;
-  bool bSizeThroughVal = true;
-  bool bYield = false;  ///< after each `axis`
+  bool bSwitchAxisOn = true;    ///< shows the axis that has a title
+  bool bSizeThroughVal = true;  ///< converts the font size with Val
+  bool bYield = false;          ///< lets the host handle events after each `axis`
 };
-/// The titles of the definition, with the persisted fonts, and the axes that bear them.
+/// Sets the axis titles of the definition, with the persisted fonts, and shows the axes that have titles.
 void ApplyAxisTitles(const dom::IXMLDOMElement& oChartElement, const AxisTitleManner& oManner = {});
 /// Links the tick labels of the value axis to the number format of the data, and turns the axis titles.
 void FinishAxes();
 
-/// The persisted font of data labels.
+/// Applies the persisted font of data labels.
 void SetLabelFont(const runtime::Ref<excel::Font>& oFont);
-/// The labels' place and font, in the order of most families.
+/// Sets the position (XlDataLabelPosition) and the font of labels, in the order that most families use.
 void DressLabels(const runtime::Ref<excel::DataLabels>& oLabels, std::int32_t lPosition,
                  const runtime::Variant& vAutoScale);
-/// Labels all series.
+/// Adds labels of a type (XlDataLabelsType) at a position to all series.
 void ApplyLabels(std::int32_t lType, std::int32_t lPosition);
 
+/// A setting of `dynamic-attributes`, and what it adds to a sum.
 struct SettingWeight {
   std::string_view sSetting;
   std::int32_t lWeight;
 };
-/// What the settings of `dynamic-attributes` add up to; one that occurs twice counts twice.
+/// The sum of the weights of the settings in `dynamic-attributes`. A setting that occurs twice counts twice.
 std::int32_t SumOfSettings(const dom::IXMLDOMElement& oChartElement,
                            std::initializer_list<SettingWeight> aWeights, bool bYield = false);
 
-/// The built-in legend by `mLegendVisibility`: anything but "show" and "hide" leaves it.
+/// Shows or hides the built-in legend as `mLegendVisibility` says. Values other than "show" and "hide" change
+/// nothing.
 void ApplyLegendVisibility();
-/// Takes the entry of the series added last out of the legend.
+/// Deletes the legend entry of the series that was added last.
 void DeleteLastLegendEntry();
-/// Dresses the built-in legend, which must be there. What the host refuses is passed over.
+/// Formats the built-in legend, which must exist. Calls that the host refuses are ignored.
 void ApplyLegendAttributes();
 
 }  // namespace plotsmith

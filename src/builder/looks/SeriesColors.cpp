@@ -1,6 +1,8 @@
 #include "builder/looks/SeriesColors.h"
 
+#include "builder/state/BuilderVariables.h"
 #include "common/ErrorBlocks.h"
+#include "common/Values.h"
 #include "runtime/Collection.h"
 #include "runtime/Ref.h"
 #include "runtime/Variant.h"
@@ -9,8 +11,28 @@ namespace plotsmith {
 
 using runtime::CLng;
 
+const std::array<void (*)(excel::Series& oSeries, CPSColor& oFill), 5> kFillReads = {
+    [](excel::Series& oSeries, CPSColor& oFill) { oFill.SetColor(oSeries.Interior()->Color()); },
+    [](excel::Series& oSeries, CPSColor& oFill) { oFill.SetColorIndex(oSeries.Interior()->ColorIndex()); },
+    [](excel::Series& oSeries, CPSColor& oFill) { oFill.SetPattern(oSeries.Interior()->Pattern()); },
+    [](excel::Series& oSeries, CPSColor& oFill) {
+      oFill.SetPatternColor(oSeries.Interior()->PatternColor());
+    },
+    [](excel::Series& oSeries, CPSColor& oFill) {
+      oFill.SetPatternColorIndex(oSeries.Interior()->PatternColorIndex());
+    },
+};
+
 SeriesColors::SeriesColors() {
   mSeriesColors = runtime::MakeRef<runtime::Collection<runtime::Ref<CPSColor>>>();
+}
+
+bool SeriesColors::Take(runtime::Ref<CPSColor> oFill, const std::string& sName) {
+  aFills_.push_back(std::move(oFill));
+  if (CollectionHasKey(sName, mSeriesColors)) return false;
+  ++lNames_;
+  mSeriesColors->Add(aFills_[lNames_ - 1], sName);
+  return true;
 }
 
 void SeriesColors::Paint(const runtime::Ref<excel::Series>& oSeries) {

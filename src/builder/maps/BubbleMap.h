@@ -5,8 +5,8 @@
 #include "common/PSConstants.h"
 #include "dom/Dom.h"
 
-/// Module PSChartBuilder: the map of a bubble chart. Each name in the category column is one bubble, and the
-/// series are what a bubble has: colour label, X value, Y value and size.
+/// Module PSChartBuilder: the map of a bubble chart. Each name in the category column is one bubble. The
+/// series are the bubbles' colour labels, X values, Y values and sizes.
 namespace plotsmith {
 
 /// The series columns of a bubble chart's block on the data sheet.
@@ -17,7 +17,7 @@ inline constexpr std::int32_t kY = kColor + 2;
 inline constexpr std::int32_t kSize = kColor + 3;
 }  // namespace bubble_column
 
-/// Called by BuildPivotMap, and fills the same variables.
+/// Fills the map's variables for BuildPivotMap.
 bool BuildBubbleMap(const dom::IXMLDOMElement& oChartElement);
 
 }  // namespace plotsmith

@@ -13,15 +13,17 @@
 /// Module PSChartBuilder: the steps that the map builders of all chart types share.
 namespace plotsmith {
 
-/// What each map builder compares its counts with, in a way of its own: a host draws no more series.
+/// The number of series that a host can draw. The map builders compare it with their counts in different
+/// ways.
 inline constexpr std::int32_t kSeriesLimit = 254;
+/// Shows that the chart has more series than that.
 void ShowLimitMessage(const dom::IXMLDOMElement& oChartElement);
-/// What a map builder says of a map from which nothing can come.
+/// The complaint about an empty map.
 inline constexpr const char* kEmptyMapComplaint = "Failed to populate a data definition collection";
-/// Takes the counts from the dictionaries; False if the map is empty in one of its dimensions.
+/// Sets the counts from the dictionaries. False if the map has no category or no series.
 bool FinishMap();
 
-/// The rows of the source table that hold data, by sheet row.
+/// The data rows of the source table, by sheet rows from 1.
 struct DataRows {
   std::int32_t lFirst;
   std::int32_t lCount;
@@ -30,29 +32,29 @@ struct DataRows {
   std::int32_t Last() const { return lFirst + lCount - 1; }
 };
 
-/// The sheet column of the first `column` of a group; error 91 if it has none.
+/// The sheet column of the first `column` of a group, from 1; error 91 if the group has none.
 std::int32_t FirstColumn(const dom::IXMLDOMElement& oGroup);
-/// The same of a group of the chart, or `lNone` for a chart without the group.
+/// The same for a group of the chart, by its name; `lNone` for a chart without the group.
 std::int32_t FirstColumnOf(const dom::IXMLDOMElement& oChartElement, const char* sGroup, std::int32_t lNone);
 
-/// A rule that adds up the numbers of one sheet column.
+/// An instruction that adds up the numbers of one sheet column.
 CPSMapInstruction ColumnSumRule(std::int32_t lColumn);
-/// Adds the rule of a series that the system made up: to the row that the text in `lRowColumn` names goes
-/// what stands in `lColumn` or, if that is negative, the constant. `lDataColumn` is the series' column on the
-/// data sheet.
+/// Adds the instruction for a series that the system needs beside those of the definition. The text in column
+/// `lRowColumn` names the row, and the value comes from column `lColumn`, or is the constant if `lColumn` is
+/// negative. `lDataColumn` is the series' column on the data sheet.
 void AddPseudoSeriesRule(std::int32_t lRowColumn, std::int32_t lDataColumn, std::int32_t lCellValueType,
                          std::int32_t lColumn, const runtime::Variant& vConstant);
 
-/// A position as the dictionaries hold it: Empty, which a read of an unknown key leaves behind, counts as 0.
+/// A position as the dictionaries hold it. Reading an unknown key leaves Empty behind, which counts as 0.
 std::int32_t PositionOf(const runtime::Variant& vPosition);
 
-/// Remembers the position of a text by where the text lies: the texts that a sheet hands out stay where they
-/// are while it is read, and a column of a large table shows few of them over and over. So most lookups need
-/// neither the upper case of the text nor its hash. A text that was made up for the occasion has no place of
-/// its own and isn't remembered.
+/// Remembers the positions of texts by their addresses in memory. The texts of a sheet stay at their
+/// addresses while it is read, and a column of a large table repeats few texts. Most lookups therefore need
+/// neither the upper case of the text nor its hash. A text in a scratch buffer has no lasting address and
+/// isn't remembered.
 class PositionCache {
  public:
-  /// 0 if it isn't known. `sScratch` is where made-up texts lie.
+  /// The position; 0 if it isn't known. `sScratch` is the scratch buffer.
   std::int32_t Find(std::string_view sText, const std::string& sScratch) const {
     if (sText.data() == sScratch.data()) return 0;
     const Entry& oEntry = aEntries_[Slot(sText)];
@@ -77,7 +79,7 @@ class PositionCache {
   std::vector<Entry> aEntries_ = std::vector<Entry>(kSlots);
 };
 
-/// One dimension of the rectangle while its headings are numbered, in order of first appearance.
+/// Numbers the headings of one dimension of the rectangle, in the order of their first appearance.
 class Numbering {
  public:
   Numbering(runtime::Dictionary& oPositions, runtime::Dictionary& oNames)
@@ -85,23 +87,23 @@ class Numbering {
 
   std::int32_t Count() const { return lCount_; }
 
-  /// A listed heading: one that is there already, ignoring case, is an error.
+  /// Numbers a listed heading. A heading that already has a number, ignoring case, is an error.
   std::int32_t Add(const std::string& sName);
-  /// A heading of the system's own, which keeps its spelling as key.
+  /// Numbers a heading of the system. Its key keeps its spelling.
   void AddPseudo(const std::string& sName);
-  /// Gives the name the next number, whatever it had before.
+  /// Gives a name the next number, even if it has one.
   std::int32_t Put(const std::string& sKey, const std::string& sName);
 
-  /// Whether a heading found in a row has no number yet; its key is in the dictionary from then on.
-  /// `sScratch` is where its text lies if the sheet doesn't hold it.
+  /// Whether a heading that was found in a row has no number yet. The call adds its key to the dictionary.
+  /// `sScratch` is the scratch buffer of the text.
   bool IsNew(std::string_view sText, const std::string& sScratch) {
     return oKnown_.Find(sText, sScratch) < 1 && IsNewKey(sText, sScratch);
   }
-  /// The upper-cased text that IsNew was asked for last.
+  /// The upper-cased text of the last call of IsNew.
   std::string_view Key() const { return sKey_; }
-  /// Gives that text the next number.
+  /// Gives that text the next number, under this name.
   void Number(std::string_view sName);
-  /// Both, under the text as it is.
+  /// Gives a text the next number if it is new.
   void NumberIfNew(std::string_view sText, const std::string& sScratch) {
     if (IsNew(sText, sScratch)) Number(sText);
   }

@@ -2,12 +2,12 @@
 
 #include "dom/Dom.h"
 
-/// Module PSChartBuilder: the rules that carry a table into the rectangle of categories and series. The map
-/// holds no data; it is made once a build and run for each row of the table.
+/// Module PSChartBuilder: the instructions that turn a table into the rectangle of categories and series. The
+/// map holds no data. It is made once in a build, and applied to each row of the table.
 namespace plotsmith {
 
-/// Fills the map's variables from the definition and the table, for charts of any type; False, after a
-/// message, if nothing can come of it.
+/// Fills the map's variables from the definition and the table, for charts of all types. Shows a message and
+/// returns False if the map is empty.
 bool BuildPivotMap(const dom::IXMLDOMElement& oChartElement);
 
 }  // namespace plotsmith

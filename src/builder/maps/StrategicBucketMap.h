@@ -5,8 +5,8 @@
 #include "common/PSConstants.h"
 #include "dom/Dom.h"
 
-/// Module PSChartBuilder: the map of a strategic bucket chart. A row that will carry the buckets' own values
-/// comes first, then a row for each item; the series are the item's label, its sort key, and the buckets.
+/// Module PSChartBuilder: the map of a strategic bucket chart. The first row is for the buckets' own values,
+/// the others have an item each. The series are the items' labels, their sort keys, and the buckets.
 namespace plotsmith {
 
 /// The series columns of a strategic bucket chart's block on the data sheet.
@@ -16,7 +16,7 @@ inline constexpr std::int32_t kSort = kLabel + 1;
 inline constexpr std::int32_t kFirstBucket = kLabel + 2;
 }  // namespace bucket_column
 
-/// Called by BuildPivotMap, and fills the same variables and `mStrategicBuckets`.
+/// Fills the map's variables and `mStrategicBuckets` for BuildPivotMap.
 bool BuildStrBuckMap(const dom::IXMLDOMElement& oChartElement);
 
 }  // namespace plotsmith

@@ -11,6 +11,7 @@
 #include "common/PSConstants.h"
 #include "common/Worksheets.h"
 #include "common/YieldToHost.h"
+#include "host/excel/Excel.h"
 #include "runtime/Variant.h"
 
 namespace plotsmith {

@@ -2,16 +2,17 @@
 
 #include "dom/Dom.h"
 
-/// Module PSChartBuilder: what a written block still needs before its chart is drawn. Only bubble and
-/// strategic bucket charts need anything. From the sort on, `mCategoryPositions` no longer tells the rows.
+/// Module PSChartBuilder: completes the block of a bubble or strategic bucket chart before it is drawn. After
+/// the sort, `mCategoryPositions` no longer gives the rows of the categories.
 namespace plotsmith {
 
-/// Bubbles by size, the largest first, so that small ones are drawn over large ones; items of strategic
-/// buckets by their sort key. False after an error, which was shown.
+/// Sorts bubbles by size, the largest first, so that small bubbles are drawn over large ones, and items of
+/// strategic buckets by their sort keys. Shows an error and returns False if that fails.
 bool SortDataSheet(const dom::IXMLDOMElement& oChartElement);
-/// Raises bubbles to a five-hundredth of the largest; those without a size too if the chart shows them.
+/// Raises small bubble sizes to 1/500 of the largest. Bubbles without a size are raised only if the chart
+/// shows them.
 void AdjustBubbleSizes(const dom::IXMLDOMElement& oChartNode);
-/// Puts the buckets' own values into the row that was kept for them.
+/// Writes the buckets' own values into the first row of the block.
 void InsertBucketData(const dom::IXMLDOMElement& oChartElement);
 
 }  // namespace plotsmith

@@ -14,7 +14,7 @@
 #include "runtime/Variant.h"
 
 /// The variables of module PSChartBuilder: the chart being built, its map and its persisted properties. They
-/// live until the next chart's build replaces them.
+/// keep their values until the next build.
 namespace plotsmith {
 
 /// The series of a strategic bucket chart that marks each bucket's own value. It has no legend entry.
@@ -25,8 +25,8 @@ extern runtime::Ref<excel::Chart> mChart;
 extern bool mNewOrCopiedChart;          ///< the first build of a chart that a wizard run has just made
 extern std::int32_t mSavedCalculation;  ///< `Application.Calculation` before a refresh run
 
-// The map. Keys are upper-cased texts; positions are indices into the rectangle, from 1; names are the texts
-// as first seen.
+// The map. Keys are upper-cased texts, positions are indices into the rectangle from 1, and names are the
+// texts as they first appear.
 extern runtime::Dictionary mCategoryPositions;
 extern runtime::Dictionary mCategoryNames;
 extern runtime::Dictionary mSeriesPositions;
@@ -36,7 +36,7 @@ extern std::int32_t mCategoryCount;                          ///< rows of the re
 extern std::int32_t mSeriesCount;                            ///< columns of the rectangle
 extern runtime::Ref<runtime::Dictionary> mStrategicBuckets;  ///< the buckets' values by upper-cased name
 
-/// What each series name of a bubble or strategic bucket chart is painted with, in order of first appearance.
+/// The fill of each series name of a bubble or strategic bucket chart, in the order of first appearance.
 extern runtime::Ref<runtime::Collection<runtime::Ref<CPSColor>>> mSeriesColors;
 
 // The persisted properties, see PersistedProperties.h.
@@ -46,14 +46,14 @@ extern double mLegendLeft;
 extern double mLegendTop;
 extern StoredFont mLegendFont;
 extern StoredFont mLabelFont;
-extern runtime::Variant mLabelFontBackgroundColor;  ///< kept, but no chart is drawn with it
+extern runtime::Variant mLabelFontBackgroundColor;  ///< kept, but not drawn
 extern StoredFont mBucketLabelFont;                 ///< of the labels on the marks of buckets
 extern StoredFont mLabelAxisFont;
 extern StoredFont mValueAxisFont;
 
-/// All of them back to how the component starts.
+/// Resets all of them to their values at the start of the component.
 void ResetBuilderVariables();
-/// The map's variables only, made new: so each map builder begins.
+/// Empties the map. Each map builder begins with this.
 void ResetMap();
 
 }  // namespace plotsmith

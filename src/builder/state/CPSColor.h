@@ -6,7 +6,7 @@
 
 namespace plotsmith {
 
-/// The filling of a series, as the properties of the same names of an Interior have it.
+/// The fill of a series. The properties have the values of an Interior's properties of the same names.
 class CPSColor {
  public:
   const runtime::Variant& Color() const { return vColor_; }

@@ -19,12 +19,12 @@ inline constexpr std::int32_t kCell = 0;
 inline constexpr std::int32_t kConstant = 2;
 }  // namespace value_reference
 
-/// One rule of the map from source table to rectangle, applied to each row of the table.
+/// An instruction of the map from the source table to the rectangle. It is applied to each row of the table.
 class CPSMapInstruction {
  public:
   std::int32_t RowReferenceType() const { return lRowReferenceType_; }
   void SetRowReferenceType(std::int32_t ReferenceType) { lRowReferenceType_ = ReferenceType; }
-  /// A category index or a sheet column, from 1; likewise the series below.
+  /// A category index or a sheet column, from 1; so is ColReferencePosition for the series.
   std::int32_t RowReferencePosition() const { return lRowReferencePosition_; }
   void SetRowReferencePosition(std::int32_t ColumnPosition) { lRowReferencePosition_ = ColumnPosition; }
   std::int32_t ColReferenceType() const { return lColReferenceType_; }
@@ -38,7 +38,8 @@ class CPSMapInstruction {
   void SetValuePositionOrConstant(runtime::Variant ColumnPositionOrValue) {
     vValuePositionOrConstant_ = std::move(ColumnPositionOrValue);
   }
-  /// `cell::kText` replaces what is there by the displayed text, `cell::kDouble` adds the number to it.
+  /// `cell::kText` replaces the value in the rectangle by the displayed text; `cell::kDouble` adds the number
+  /// to it.
   std::int32_t CellValueType() const { return lCellValueType_; }
   void SetCellValueType(std::int32_t CellType) { lCellValueType_ = CellType; }
 

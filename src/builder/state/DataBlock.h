@@ -6,7 +6,7 @@
 #include "common/PSConstants.h"
 #include "dom/Dom.h"
 
-/// Module PSChartBuilder: where a chart's block lies on the data sheet, and how a chart refers to it.
+/// Module PSChartBuilder: the place of a chart's block on the data sheet, and the references to it.
 namespace plotsmith {
 
 /// The sheet column of a series of the map, from 1, and the other way round.
@@ -17,11 +17,11 @@ constexpr std::int32_t SeriesOfColumn(std::int32_t lColumn) {
   return lColumn - data_column::kFirstSeries + 1;
 }
 
-/// One cell of the data sheet, as a series takes it: "=VEX_ChartData!R6C2".
+/// A reference to one cell of the data sheet: "=VEX_ChartData!R6C2".
 std::string DataCell(std::int32_t lRow, std::int32_t lColumn);
-/// Several: "=VEX_ChartData!R6C2:R17C2".
+/// A reference to several cells: "=VEX_ChartData!R6C2:R17C2".
 std::string DataCells(std::int32_t lRow1, std::int32_t lColumn1, std::int32_t lRow2, std::int32_t lColumn2);
-/// One cell in the form that newer hosts want for names: "=VEX_ChartData!$B$6".
+/// A reference to one cell in the notation that newer hosts require for names: "=VEX_ChartData!$B$6".
 std::string DataCellA1(std::int32_t lRow, const std::string& sColumnLetters);
 
 /// The rows and columns of a block, by sheet rows and sheet columns from 1.
@@ -30,13 +30,13 @@ struct Block {
   std::int32_t lLastRow;     ///< of the last category
   std::int32_t lLastColumn;  ///< of the last series
 
-  /// From `data-start-row` and the map's counts.
+  /// Reads `data-start-row` of the definition and the counts of the map.
   explicit Block(const dom::IXMLDOMElement& oChartElement);
 
   std::int32_t FirstRow() const { return lHeaderRow + 1; }  ///< of the first category
-  /// The category texts as a series takes them.
+  /// The reference to the category texts.
   std::string Categories() const;
-  /// The values of one column.
+  /// The reference to the values of one column.
   std::string Values(std::int32_t lColumn) const;
 };
 

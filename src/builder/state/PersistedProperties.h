@@ -2,16 +2,17 @@
 
 #include "dom/Dom.h"
 
-/// Module PSChartBuilder: the look that a person gave a chart by hand, as the definition's `auto-persistence`
-/// keeps it, taken into the module's variables before the chart is drawn.
+/// Module PSChartBuilder: the formats that a person has given a chart. The `auto-persistence` element of the
+/// definition keeps them; they are loaded into the module's variables before the chart is drawn.
 namespace plotsmith {
 
-/// "Unset" for a legend's place.
+/// The coordinate of a legend without a stored place.
 inline constexpr double kUnsetPlace = -1E+50;
 
-/// What each variable is without a stored value.
+/// Sets the values that the variables have without stored ones.
 void SetPropertyDefaults();
-/// Defaults, and over them what the definition stores. A stored place of the legend makes its position 0.
+/// Sets the defaults and then the values that the definition stores. With a stored place, the legend's
+/// position is 0.
 void RetrievePersistedProperties(const dom::IXMLDOMElement& oChartElement);
 
 }  // namespace plotsmith

@@ -4,7 +4,7 @@
 
 namespace plotsmith {
 
-/// A font as a definition keeps it. The host converts the values when they are set on a chart.
+/// A font as a definition stores it. The host converts the values when they are set on a chart.
 struct StoredFont {
   runtime::Variant vName;       ///< typeface
   runtime::Variant vStyle;      ///< "Regular", "Bold", "Italic" or "Bold Italic"

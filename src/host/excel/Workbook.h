@@ -4,7 +4,6 @@
 
 namespace plotsmith::excel {
 
-class Application;
 class DocumentProperty;
 class Names;
 class Sheet;
@@ -16,8 +15,6 @@ class Workbook {
  public:
   virtual ~Workbook() = default;
 
-  /// The host that has the workbook open.
-  virtual Ref<excel::Application> Application() = 0;
   /// Whether sheets can be neither added nor removed.
   virtual bool ProtectStructure() = 0;
   /// Whether the workbook is shared.

@@ -11,25 +11,28 @@
 
 namespace plotsmith::xlsx {
 
-/// Writes down each member call that changes something, one line each, in the words of Excel's macro
-/// language: `Chart.ChartType = 57`, `Chart.SeriesCollection.NewSeries`. Off unless it is given a sink; the
-/// lines aren't even made then.
+/// Writes down each member call that changes something, one line each, in Excel's macro language:
+/// `Chart.ChartType = 57`, `Chart.SeriesCollection.NewSeries`. Without a sink no lines are made.
 class Journal {
  public:
   using Sink = std::function<void(std::string_view line)>;
 
+  /// Calls `sink` with each line from now on; an empty function ends that.
   void SetSink(Sink sink) { sink_ = std::move(sink); }
+  /// Whether there is a sink.
   explicit operator bool() const { return static_cast<bool>(sink_); }
-  /// How many changing calls there were, counted whether or not there is a sink. Somebody who shows the
-  /// workbook looks at it again when the count has grown.
+  /// The number of changing calls, which are counted without a sink as well. A window that shows the workbook
+  /// draws it again when the number has grown.
   std::uint64_t CallCount() const { return calls_; }
 
-  /// `object` names the object by its path, and is only asked when the journal is on.
+  /// Notes that a property was set. `object` returns the path of the object; it is called only if there is a
+  /// sink.
   template <class Path>
   void Put(const Path& object, std::string_view property, const runtime::Variant& value) const {
     ++calls_;
     if (sink_) sink_(object() + "." + std::string(property) + " = " + Literal(value));
   }
+  /// Notes the call of a method, as Put does.
   template <class Path>
   void Call(const Path& object, std::string_view method,
             std::initializer_list<runtime::Variant> arguments = {}) const {
@@ -40,8 +43,9 @@ class Journal {
     sink_(line);
   }
 
-  /// A value as the language writes it.
+  /// A value as a literal of the macro language, such as `"text"` or `3.5`.
   static std::string Literal(const runtime::Variant& value);
+  /// Several literals with commas between them.
   static std::string Literals(std::initializer_list<runtime::Variant> values);
 
  private:

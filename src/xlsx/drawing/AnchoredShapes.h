@@ -13,24 +13,23 @@
 
 namespace plotsmith::xlsx {
 
-/// What the drawings of a sheet and of a chart have in common: a document of anchors, and on each a shape.
-/// `Shape` is the drawing's own class of DrawnShape.
+/// The common part of the drawings of sheets and of charts: a document of anchors, with a shape on each.
+/// `Shape` is the drawing's class of shapes, derived from DrawnShape.
 template <class Shape>
 class AnchoredShapes {
  public:
   virtual ~AnchoredShapes() = default;
 
-  /// From back to front, what is inside a group not counted.
+  /// The shapes from back to front. A group is one shape.
   const std::vector<std::shared_ptr<Shape>>& Shapes() const { return shapes_; }
-  /// Null if there is none; case aside.
+  /// The shape of a name, ignoring case; null if there is none.
   std::shared_ptr<Shape> FindShape(std::string_view name) const {
     for (const auto& shape : shapes_) {
       if (runtime::EqualsIgnoreCase(shape->Name(), name)) return shape;
     }
     return nullptr;
   }
-  /// Takes the shape and its anchor out of the drawing, and with them the relationships that nothing else in
-  /// the drawing uses.
+  /// Removes a shape and its anchor from the drawing, and the relationships that no other shape uses.
   void Remove(DrawnShape& shape) {
     pugi::xml_node anchor = shape.Anchor();
     std::set<std::string> ids = xml::RelationshipIdsIn(anchor);
@@ -47,7 +46,7 @@ class AnchoredShapes {
   bool Changed() const { return changed_; }
 
  protected:
-  /// A name that no shape has yet, from a number on.
+  /// A name that no shape has yet: the stem and the first free number from `number` on.
   std::string FreeName(std::string_view stem, std::size_t number) const {
     std::set<std::string> taken;
     for (const auto& shape : shapes_) taken.insert(runtime::UCase(shape->Name()));
@@ -57,7 +56,7 @@ class AnchoredShapes {
     }
   }
 
-  /// Takes relationships of the drawing's part out of the package.
+  /// Removes relationships of the drawing's part from the package.
   virtual void RemoveRelationships(const std::set<std::string>& ids) = 0;
 
   std::string part_;  ///< empty while there is none

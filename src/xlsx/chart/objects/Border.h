@@ -5,7 +5,7 @@
 
 namespace plotsmith::xlsx {
 
-/// The outline of an element of a chart; of a line, the line itself.
+/// The outline of a chart element for the port. For a line, this is the line itself.
 excel::Ref<excel::Border> MakeBorder(FormattedElement element);
 
 }  // namespace plotsmith::xlsx

@@ -10,9 +10,10 @@ namespace plotsmith::xlsx {
 class ChartPart;
 class DrawnShape;
 
-/// A chart for the port: a view over its part. `frame` is the shape that frames it on a sheet.
+/// A chart for the port: a view over its part.
 class Chart final : public excel::Chart {
  public:
+  /// `frame` is the shape that frames the chart on a sheet; empty for a chart sheet.
   Chart(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame);
 
   excel::Ref<excel::Application> Application() override;
@@ -33,9 +34,9 @@ class Chart final : public excel::Chart {
   excel::Ref<excel::PlotArea> PlotArea() override;
   excel::Ref<excel::Shapes> Shapes() override;
 
-  // for the other classes of this host
+  /// The part behind the chart.
   ChartPart& Part() const { return *part_; }
-  /// Width and height in points: of the frame on the sheet, or of the chart sheet's page.
+  /// The width and height of the frame on the sheet, or of the chart sheet's page, in points.
   Frame Size() const;
 
  private:

@@ -5,8 +5,8 @@
 #include "host/excel/ChartArea.h"
 #include "host/excel/PlotArea.h"
 
-/// The two areas of a chart: all of it, and what is plotted. `frame` is the shape that frames the chart on a
-/// sheet, from which they have their size.
+/// The chart area and the plot area for the port. `frame` is the shape that frames the chart on a sheet and
+/// gives the areas their size.
 namespace plotsmith::xlsx {
 
 class ChartPart;

@@ -12,9 +12,9 @@ namespace plotsmith::xlsx {
 
 class ChartPart;
 
-/// The font of a chart's element. A title's font is that of all its runs; of anything else, which has no text
-/// of its own, it is the default of its text properties. `looks` tells how the text looks now, `element` is
-/// what holds it, made where it is missing.
+/// The font of a chart element for the port. The font of a title is that of all its runs. Other elements have
+/// no text of their own, so theirs is the default of their text properties. `looks` returns the formats that
+/// the text has now; `element` returns the element, which it makes if it is missing.
 excel::Ref<excel::Font> MakeFont(ChartPart& part, std::function<std::vector<TextLook>()> looks,
                                  std::function<pugi::xml_node()> element, std::string journalPath);
 

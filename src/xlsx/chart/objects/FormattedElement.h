@@ -12,15 +12,16 @@
 
 namespace plotsmith::xlsx {
 
-/// An element of the chart that has shape properties, found anew at each use: it may be replaced, and `spPr`
-/// may come and go. `path` names the object for the journal.
+/// A chart element with shape properties. It is found anew at each use, because the element may be replaced,
+/// and its `spPr` added and removed, between two uses.
 struct FormattedElement {
   std::shared_ptr<ChartPart> part;
   std::function<pugi::xml_node()> find;
-  std::function<std::string()> path;
+  std::function<std::string()> path;  ///< the object's path in the journal
 
-  /// Null where there are none.
+  /// The shape properties; a null node if there are none.
   pugi::xml_node FindProperties() const { return xml::Child(find(), "spPr"); }
+  /// The shape properties, which are made if they are missing.
   pugi::xml_node Properties() const { return schema::Ensure(find(), "spPr"); }
   const Journal& Log() const { return part->Book().Journal(); }
 };

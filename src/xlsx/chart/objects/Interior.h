@@ -8,7 +8,8 @@
 
 namespace plotsmith::xlsx {
 
-/// The filling of an element of a chart. `automatic` tells the colour that it has where nothing is set.
+/// The fill of a chart element for the port. `automatic` returns the colour of an element without a fill of
+/// its own.
 excel::Ref<excel::Interior> MakeInterior(FormattedElement element, std::function<std::int32_t()> automatic);
 
 }  // namespace plotsmith::xlsx

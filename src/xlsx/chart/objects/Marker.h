@@ -5,10 +5,11 @@
 
 namespace plotsmith::xlsx {
 
+/// The properties of the markers of a series: the colours of outline and fill, the style, the size.
 enum class MarkerProperty { kOutline, kFilling, kStyle, kSize };
 
-/// Sets a colour of a series' markers, their style (XlMarkerStyle) or their size in points. False for a value
-/// that Excel doesn't take.
+/// Sets a property of a series' markers: a colour, a style (XlMarkerStyle) or a size in points. False for a
+/// value that Excel doesn't take.
 bool SetMarker(pugi::xml_node series, MarkerProperty which, std::int32_t value);
 
 }  // namespace plotsmith::xlsx

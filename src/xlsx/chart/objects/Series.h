@@ -9,7 +9,7 @@ namespace plotsmith::xlsx {
 
 class ChartPart;
 
-/// All of them in plot order; none of a chart that can't be read.
+/// All series in plot order. A chart that can't be read has none.
 excel::Ref<excel::SeriesCollection> MakeSeriesCollection(std::shared_ptr<ChartPart> part);
 
 }  // namespace plotsmith::xlsx

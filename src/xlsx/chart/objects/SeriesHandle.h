@@ -9,14 +9,14 @@
 
 namespace plotsmith::xlsx {
 
-/// A series of a chart, which the chart may lose while somebody still holds it.
+/// A series of a chart, which may be deleted while an object still refers to it.
 struct SeriesHandle {
   std::shared_ptr<ChartPart> part;
   SeriesRef entry;
 
-  /// Error 1004 when it is gone.
+  /// The series element; error 1004 if the series was deleted.
   pugi::xml_node Node() const;
-  /// Its name in the journal.
+  /// The path of the series in the journal.
   std::string Path() const;
   const Journal& Log() const;
 };

@@ -14,8 +14,8 @@ namespace plotsmith::xlsx {
 class ChartPart;
 class DrawnShape;
 
-/// What is drawn on a chart itself: the chart's part of user shapes. Anchors there know places as fractions
-/// of the chart. The part comes into being with the first shape and goes with the last.
+/// The shapes that are drawn on a chart: its user shapes part. Anchors in it give places as fractions of the
+/// chart. The part is created with the first shape and removed with the last.
 class ChartDrawing : public AnchoredShapes<ChartShape> {
  public:
   /// Error 1004 if the part can't be read.
@@ -23,16 +23,18 @@ class ChartDrawing : public AnchoredShapes<ChartShape> {
   ~ChartDrawing() override;
 
   ChartPart& Chart() const { return chart_; }
-  /// The shape that frames the chart on its sheet, from which the chart has its size.
+  /// Sets the shape that frames the chart on its sheet and gives the chart its size.
   void SetFrame(std::weak_ptr<DrawnShape> frame) { frame_ = std::move(frame); }
   /// Width and height in points.
   Frame Size() const;
 
+  /// Frames are in points from the upper left corner of the chart.
   std::shared_ptr<ChartShape> AddTextbox(const Frame& frame);
-  /// `name` begins the shape's name, `preset` is its form in the file.
+  /// The shape's name is `name` and a number; `preset` is its geometry in the file (ST_ShapeType).
   std::shared_ptr<ChartShape> AddAutoShape(std::string_view name, std::string_view preset,
                                            const Frame& frame);
-  /// Makes shapes one, which lies where the foremost of them lay. Error 1004 if one of them is gone.
+  /// Makes one shape of several. It takes the place of the foremost of them in the order of drawing. Error
+  /// 1004 if fewer than two of them are on the chart.
   std::shared_ptr<ChartShape> Group(const std::vector<std::shared_ptr<DrawnShape>>& shapes);
   /// Brings the part, and the chart's link to it, up to date.
   void Write();

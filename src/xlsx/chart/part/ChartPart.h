@@ -16,17 +16,17 @@ class BookContext;
 class ChartDrawing;
 class ChartParts;
 
-/// A series element, which its chart may lose while somebody still holds the entry: then it is a null node.
+/// A series element. It becomes a null node when the series is deleted while an object still refers to it.
 struct SeriesEntry {
   pugi::xml_node node;
 };
 using SeriesRef = std::shared_ptr<SeriesEntry>;
 
-/// A chart part: the document that the objects of a chart are views over. It is parsed when something of the
-/// chart is asked for, and written if something was changed.
+/// A chart part: the document that the objects of a chart are views over. It is parsed at the first use, and
+/// written if it was changed.
 class ChartPart {
  public:
-  /// `part` may be empty, or a part that can't be read: then every use is error 1004.
+  /// If `part` is empty, or names a part that can't be read, every use is error 1004.
   ChartPart(ChartParts& parts, std::string part);
   ~ChartPart();
 
@@ -34,28 +34,30 @@ class ChartPart {
   /// The chart parts of the workbook, this one among them.
   ChartParts& Parts() const { return parts_; }
   const std::string& Part() const { return part_; }
-  /// The chart was deleted: every use of it, its series and its shapes is error 1004 from now on.
+  /// Call this when the chart is deleted. Every use of it, its series and its shapes is error 1004 from then
+  /// on.
   void Leave();
   /// The chartSpace element; error 1004 if the part can't be read, or the chart was deleted.
   pugi::xml_node Space();
-  /// Error 1004 if the chart was deleted.
+  /// Whether the part can be parsed; error 1004 if the chart was deleted.
   bool IsReadable();
-  /// The chart element, and the plot area, made if they are missing.
+  /// The chart element and its plot area, which are made if they are missing.
   pugi::xml_node Chart();
   pugi::xml_node PlotArea();
   /// All plot groups, in the order of the part.
   std::vector<pugi::xml_node> Groups();
-  /// All series in plot order. Whoever adds or removes one does so here too.
+  /// All series in plot order. Code that adds or removes a series element must do so here as well.
   std::vector<SeriesRef>& Series();
   /// Whether the part had no series when it was opened.
   bool CameEmpty();
 
-  /// The theme that the chart's colours and fonts are of: its own override, else the workbook's.
+  /// The theme that the chart's colours and fonts refer to: its own override, else the workbook's.
   const xlsx::Theme& Theme();
-  /// What an element that holds a colour means on this chart; nothing if that can't be known.
+  /// The colour that an element such as `solidFill` gives on this chart, as red + 256 * green + 65536 * blue;
+  /// nothing if it depends on something unknown.
   std::optional<std::int32_t> Color(pugi::xml_node holder);
 
-  /// What is drawn on the chart.
+  /// The shapes that are drawn on the chart.
   ChartDrawing& Drawing();
 
   void MarkChanged() { changed_ = true; }
@@ -65,11 +67,12 @@ class ChartPart {
   /// Brings the part in the package up to date. A part that can't be read stays as it is.
   void Write();
 
-  /// What the chart had to lay aside when its type changed, by the name of the type's state: it comes back
-  /// with the type. In memory only.
+  /// The elements that were laid aside when the chart's type changed, by the name of the type's state. They
+  /// come back with the type. They exist in memory only.
   pugi::xml_node LaidAside(const std::string& state) const;
-  /// An empty place for it, whatever was there before.
+  /// An empty element for them, which replaces an earlier one.
   pugi::xml_node LayAside(const std::string& state);
+  /// Drops what was laid aside.
   void Forget(const std::string& state);
 
  private:

@@ -9,7 +9,7 @@ namespace plotsmith::xlsx {
 
 class ChartDrawing;
 
-/// One shape on a chart: a view over its anchor in the chart's drawing.
+/// A shape on a chart: a view over its anchor in the chart's drawing.
 class ChartShape final : public DrawnShape {
  public:
   ChartShape(ChartDrawing& drawing, pugi::xml_node anchor, pugi::xml_node object);
@@ -21,7 +21,7 @@ class ChartShape final : public DrawnShape {
   const xlsx::Theme& Theme() const override;
 
  protected:
-  /// Inside of the chart, as its anchors can't say anything else: what would stick out is moved back, and cut
+  /// Anchors can only give places on the chart. A shape that would stick out is moved back, and made smaller
   /// only if it is larger than the chart.
   Frame MoveAnchor(const Frame& wanted) override;
   void RemoveFromDrawing() override;

@@ -6,11 +6,12 @@ namespace plotsmith::xlsx {
 
 class ChartPart;
 
-/// The plot area with its tick labels, in a chart of a size: as the chart's layout says, or as Excel lays it
-/// out by itself, which is an estimate.
+/// The plot area with its tick labels, in points, in a chart of the size `chart`. Without a manual layout
+/// this is an estimate of Excel's own layout.
 Frame PlotAreaFrame(ChartPart& part, const Frame& chart);
-/// Lays the plot area out by hand, so that what isn't set stays as it reads now. What would leave the chart
-/// ends at its inner edge. Error 1004 for no width at all.
+/// Gives the plot area a manual layout with this width, in points; its other places and sizes stay as they
+/// read now. A width that would leave the chart ends at the chart's margin. Error 1004 for a width that isn't
+/// positive.
 void SetPlotAreaWidth(ChartPart& part, const Frame& chart, double width);
 
 }  // namespace plotsmith::xlsx

@@ -5,20 +5,20 @@
 
 #include "xlsx/drawing/DrawingFont.h"
 
-/// How the texts of a chart look, whatever of the ways to say so the file uses: properties of runs, of
-/// paragraphs, of the element or of the whole chart, and Excel's defaults where it says nothing.
+/// The formats of a chart's texts. The file can give them for runs, for paragraphs, for the element or for
+/// the whole chart; where it gives none, Excel's defaults count.
 namespace plotsmith::xlsx {
 
 class ChartPart;
 
-/// Titles have defaults of their own: Excel draws them bold, and the chart's larger.
+/// The kinds of texts with different defaults. Excel draws titles bold, and the title of the chart larger.
 enum class TextRole { kChartTitle, kAxisTitle, kOther };
 
-/// The look of each run of a title, or the one look of an element whose text isn't its own.
+/// The formats of the runs of a title, or the one format of an element without a text of its own.
 std::vector<TextLook> LooksOf(ChartPart& part, pugi::xml_node element, TextRole role);
-/// The looks in a legend, entries with a look of their own among them.
+/// The formats in a legend, with those of entries that have their own.
 std::vector<TextLook> LooksOfLegend(ChartPart& part, pugi::xml_node legend);
-/// The looks of a series' labels, of which `labels` holds the common properties.
+/// The formats of the labels of a series with `points` points; `labels` is its `dLbls` element.
 std::vector<TextLook> LooksOfLabels(ChartPart& part, pugi::xml_node labels, std::size_t points);
 
 }  // namespace plotsmith::xlsx

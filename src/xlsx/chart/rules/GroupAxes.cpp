@@ -167,8 +167,11 @@ std::string_view CrossBetween(std::string_view groupElement) {
   return onTheMark ? "midCat" : "between";
 }
 
-void ArrangeAxes(ChartPart& part, pugi::xml_node group, const std::vector<pugi::xml_node>& old,
-                 const ChartTypeEntry& type, pugi::xml_node state, bool familyChanged) {
+namespace {
+
+/// Removes the axes that the type doesn't need from the plot area, and lays them aside. Returns those that
+/// stay.
+AxisRoles KeepAxes(ChartPart& part, const std::vector<pugi::xml_node>& old, const ChartTypeEntry& type) {
   pugi::xml_node plotArea = part.PlotArea();
   AxisRoles roles = RolesOf(old);
   const auto drop = [&](pugi::xml_node& axis, bool keep, const char* role) {
@@ -186,9 +189,45 @@ void ArrangeAxes(ChartPart& part, pugi::xml_node group, const std::vector<pugi::
     if (schema::IsAxis(axis) && !keep) plotArea.remove_child(axis);
     axis = next;
   }
+  return roles;
+}
+
+/// Sets where the value axis, and an axis of X values, crosses the other one.
+void SetCrossing(pugi::xml_node first, pugi::xml_node value, const ChartTypeEntry& type, pugi::xml_node state,
+                 bool familyChanged) {
+  const std::string between = xml::Attribute(state, "crossBetween");
+  if (!between.empty()) {
+    schema::SetVal(value, "crossBetween", between);
+  } else if (familyChanged || schema::Val(value, "crossBetween").empty()) {
+    schema::SetVal(value, "crossBetween", CrossBetween(type.element));
+  }
+  if (type.HasXValues()) schema::SetVal(first, "crossBetween", CrossBetween(type.element));
+}
+
+/// Links a 3-D group to its third axis.
+void LinkDepthAxis(pugi::xml_node plotArea, pugi::xml_node group, pugi::xml_node depth, pugi::xml_node first,
+                   const ChartTypeEntry& type, pugi::xml_node state) {
+  if (type.HasDepthAxis()) {
+    if (!depth) {
+      const auto laidAside = xml::Child(state, "serAx");
+      depth = laidAside ? Restored(plotArea, laidAside) : NewAxis(plotArea, "serAx");
+    }
+    schema::SetVal(depth, "crossAx", AxisId(first));
+    Link(group, AxisId(depth));
+  } else if (type.Is3D()) {
+    Link(group, "0");  // a 3-D group names three axes even if it has two
+  }
+}
+
+}  // namespace
+
+void ArrangeAxes(ChartPart& part, pugi::xml_node group, const std::vector<pugi::xml_node>& old,
+                 const ChartTypeEntry& type, pugi::xml_node state, bool familyChanged) {
+  AxisRoles roles = KeepAxes(part, old, type);
   schema::Remove(group, "axId");
   if (!type.HasAxes()) return;
 
+  pugi::xml_node plotArea = part.PlotArea();
   const pugi::xml_node first =
       type.HasXValues() ? EnsureAxis(part, roles.x, kXRole) : EnsureAxis(part, roles.category, kCategoryRole);
   const pugi::xml_node value = EnsureAxis(part, roles.value, kValueRole);
@@ -197,26 +236,10 @@ void ArrangeAxes(ChartPart& part, pugi::xml_node group, const std::vector<pugi::
   schema::SetVal(value, "crossAx", AxisId(first));
   TurnAxis(first, type.IsHorizontal());
   TurnAxis(value, !type.IsHorizontal());
-  const std::string between = xml::Attribute(state, "crossBetween");
-  if (!between.empty()) {
-    schema::SetVal(value, "crossBetween", between);
-  } else if (familyChanged || schema::Val(value, "crossBetween").empty()) {
-    schema::SetVal(value, "crossBetween", CrossBetween(type.element));
-  }
-  if (type.HasXValues()) schema::SetVal(first, "crossBetween", CrossBetween(type.element));
-
+  SetCrossing(first, value, type, state, familyChanged);
   Link(group, AxisId(first));
   Link(group, AxisId(value));
-  if (type.HasDepthAxis()) {
-    if (!roles.depth) {
-      const auto laidAside = xml::Child(state, "serAx");
-      roles.depth = laidAside ? Restored(plotArea, laidAside) : NewAxis(plotArea, "serAx");
-    }
-    schema::SetVal(roles.depth, "crossAx", AxisId(first));
-    Link(group, AxisId(roles.depth));
-  } else if (type.Is3D()) {
-    Link(group, "0");  // a 3-D group names three axes, also where it has two
-  }
+  LinkDepthAxis(plotArea, group, roles.depth, first, type, state);
 }
 
 void ShareAxes(pugi::xml_node group, pugi::xml_node other) {

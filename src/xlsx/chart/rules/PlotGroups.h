@@ -14,22 +14,21 @@ std::vector<pugi::xml_node> DrawnGroups(ChartPart& part);
 
 /// All series, in plot order.
 std::vector<pugi::xml_node> SeriesOf(ChartPart& part);
-/// A new, empty series at the end, of the type of the last one; without one, in the first group. A chart
-/// without a group gets one of clustered columns. As Excel does it. A stock chart with more than four series
-/// becomes a line chart.
+/// Adds an empty series at the end. As in Excel, it has the type of the last series; in a chart without
+/// series it belongs to the first group, and a chart without a group gets one of clustered columns. A stock
+/// chart with more than four series becomes a line chart.
 SeriesRef AddSeries(ChartPart& part);
-/// Deletes a series and its entry in the legend. The group stays, also without a series, and with it what
-/// somebody gave the group. A stock chart becomes a line chart, because it can't have fewer than three
-/// series.
+/// Deletes a series and its legend entry. The group keeps its settings and stays, even without a series. A
+/// stock chart becomes a line chart, because a stock chart has at least three series.
 void DeleteSeries(ChartPart& part, const SeriesRef& series);
 
-/// Moves all series into one group of the type. What the type before had, and this one can't have, is laid
-/// aside and comes back when the chart returns to that type: a refresh draws every chart as clustered bars
-/// first, and a chart that somebody dressed must come out of that as it went in.
+/// Moves all series into one group of the type. Elements that the type can't have are laid aside and come
+/// back when the chart returns to its former type. A refresh draws every chart as clustered bars first, and
+/// must not lose what a person has formatted.
 void SetType(ChartPart& part, const ChartTypeEntry& type);
-/// Moves one series into a group of the type that shares the axes of the others. Series of a kind are in one
-/// group, so that another stacking of columns takes all columns with it. Error 1004 where the type can't
-/// stand beside the others.
+/// Moves one series into a group of the type, on the axes of the other groups. All series of a kind are in
+/// one group, so a change in the stacking of columns applies to all columns. Error 1004 if the types can't be
+/// combined.
 void SetSeriesType(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type);
 
 /// Completes a changed chart before it is written. A chart without a group gets an empty one of clustered

@@ -8,8 +8,8 @@ namespace plotsmith::xlsx {
 
 class ChartPart;
 
-/// The limits of an axis of values: as they are set, and as Excel computes them from the cached data of the
-/// series along the axis where they aren't.
+/// The scale of a value axis. Limits that aren't set are computed as Excel computes them, from the cached
+/// data of the series along the axis.
 AxisScale ScaleOf(ChartPart& part, pugi::xml_node axis);
 
 }  // namespace plotsmith::xlsx
