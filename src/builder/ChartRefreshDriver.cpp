@@ -41,7 +41,8 @@ void RunMacro(const char* sMacro, const std::vector<runtime::Variant>& aArgument
   IgnoreErrors([&] { oApplication->Run(sMacro, aArguments); });
 }
 
-/// The host as a run of builds wants it: calculation by hand and a still screen, both put back at the end.
+/// Sets manual calculation and turns screen updating off during a run of builds, and restores both at the
+/// end.
 class QuietHost {
  public:
   void Enter() {
@@ -53,8 +54,8 @@ class QuietHost {
     oApplication->SetScreenUpdating(false);
   }
 
-  /// After an error too. Calculation is put back if Enter has come to it; the screen follows again unless it
-  /// is known that it didn't.
+  /// Restores them after an error as well: calculation if Enter has set it, and screen updating unless it
+  /// was already off.
   void Leave() {
     IgnoreErrors(
         [&] {
@@ -74,9 +75,9 @@ void EnsureTablesAndCharts() {
   if (!colCharts) RetrieveChartDefinitions();
 }
 
-/// Runs the work directly up to host version 11, and else inside the busy window.
+/// Runs the task directly up to host version 11, and inside the busy window on newer hosts.
 void RunBehindBusyWindow(void (*work)(const std::string&), std::int32_t lWork, const std::string& sID) {
-  bool bClassic = true;  // what a version that can't be read counts as
+  bool bClassic = true;  // the value for a version that can't be read
   HandleErrors(
       [&] {
         bClassic = HostVersion(oApplication) <= kLastClassicVersion;
@@ -112,7 +113,7 @@ void DeleteAllSeries() {
   });
 }
 
-/// False for a type that nobody draws.
+/// False for an unknown chart type.
 bool DrawFamily(const IXMLDOMElement& oChartElement) {
   if (mChartType == "area" || mChartType == "bar" || mChartType == "column") {
     PopulateABCChart(oChartElement);
@@ -135,13 +136,13 @@ bool DrawFamily(const IXMLDOMElement& oChartElement) {
   return true;
 }
 
-/// The build itself, of a chart that is valid.
+/// Builds a chart whose definition is valid.
 void BuildChart(IXMLDOMElement& oChartElement, bool bCrosshatched) {
   if (!BuildPivotMap(oChartElement)) return;
   if (!PopulateDataSheetOffi2007(oChartElement)) return;
   if (!SortDataSheet(oChartElement)) return;
   RetrievePersistedProperties(oChartElement);
-  // the fonts that somebody gave this chart would shrink and grow with its frame
+  // Otherwise the fonts of this chart would scale with its frame.
   if (!mNewOrCopiedChart) mChart->ChartArea()->SetAutoScaleFont(false);
   if (!DrawFamily(oChartElement)) {
     ShowMessage(std::string("PSChartBuilder.PopulateChart") + kLineBreak + "Unknown chart type");
@@ -150,7 +151,7 @@ void BuildChart(IXMLDOMElement& oChartElement, bool bCrosshatched) {
   SetChartComment(oChartElement);
   if (mNewOrCopiedChart) {
     mChart->PlotArea()->Interior()->SetColorIndex(excel::xlColorIndexNone);
-    mChart->PlotArea()->Border()->SetLineStyle(0);  // none of Excel's line styles, and so none at all
+    mChart->PlotArea()->Border()->SetLineStyle(0);  // 0 is not a line style of Excel and removes the line
   }
   if (bCrosshatched) {
     oChartElement.setAttribute("chart-area-crosshatched", "no");
@@ -183,7 +184,7 @@ void PopulateAllCharts() {
 
 void PopulateModifiedCharts(const std::string& sTableRangeName) {
   QuietHost oQuiet;
-  lMethodType = method::kRefresh;  // these charts are there already, whatever the last run made
+  lMethodType = method::kRefresh;  // these charts already exist
   RunMacro(kRefreshStartedMacro);
   ReportErrors("PSChartBuilder.PopulateModifiedCharts", [&] {
     oQuiet.Enter();

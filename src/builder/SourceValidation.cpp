@@ -32,7 +32,7 @@ constexpr const char* kNoBucketTable =
 constexpr const char* kBucketMismatch =
     "Chart '/TKN/' has become unavailable because its strategic bucket table doesn't match the source table.";
 
-/// The sheet column of the first of `aColumns` with the name, as the table has it; "" if there is none.
+/// The sheet column of the first of `aColumns` with the name, as a text; "" if there is none.
 std::string ColumnNumber(const dom::IXMLDOMNodeList& aColumns, const std::string& sName, bool bYield) {
   for (const IXMLDOMElement& oColumn : aColumns) {
     if (runtime::EqualsIgnoreCase(GetAttributeText(oColumn, "name"), sName)) {

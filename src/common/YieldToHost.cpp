@@ -15,7 +15,8 @@ std::int32_t lLastYieldTime = 0;  // whole seconds since midnight
 
 void YieldToHost() {
   const double dNow = App.Desktop->Timer();
-  // After midnight the difference is negative until the clock has passed the stored time: no yield so long.
+  // After midnight the difference is negative until the clock has passed the stored time. There is no yield
+  // then.
   if (dNow - lLastYieldTime < 2.0) return;
   lLastYieldTime = static_cast<std::int32_t>(std::nearbyint(dNow));
   App.Forms->DoEvents();

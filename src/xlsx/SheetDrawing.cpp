@@ -42,7 +42,7 @@ std::shared_ptr<SheetShape> SheetDrawing::AddAnchor(const Frame& frame, const st
   return shapes_.emplace_back(std::move(shape));
 }
 
-// A name's number is the id, which Excel's own names rarely have taken: theirs are one below their ids.
+// The number in a name is the id. Excel's own names rarely have it, because their number is one below the id.
 
 std::shared_ptr<SheetShape> SheetDrawing::AddTextbox(const Frame& frame) {
   const unsigned id = NextShapeId(xml::Root(document_));

@@ -30,8 +30,8 @@ class OtherSheet final : public SheetMembers<excel::Sheet> {
   using SheetMembers::SheetMembers;
 };
 
-/// The sheet has the height of rows, as in Excel's, because other programs have a default of their own,
-/// which would change the height of charts.
+/// The sheet gives Excel's default height of rows, because other programs have a different default, which
+/// would change the height of charts.
 std::string EmptySheet(bool strict) {
   return std::string(kXmlDeclaration) + "<worksheet xmlns=\"" +
          std::string((strict ? kStrict : kTransitional).main) +

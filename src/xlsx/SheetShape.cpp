@@ -21,7 +21,7 @@ namespace {
 
 double Points(pugi::xml_node node) { return xml::ParseDouble(xml::Text(node)).value_or(0) / kEmuPerPoint; }
 
-/// A corner of an anchor. What lies in a cell can't lie behind its end.
+/// A corner of an anchor. An offset into a cell ends at the end of the cell.
 std::pair<double, double> PlaceOf(pugi::xml_node marker, const SheetGeometry& geometry) {
   const auto edge = [&](std::string_view index, std::string_view offset, const GridLines& lines,
                         std::int32_t most) {
@@ -54,7 +54,7 @@ class SheetShapes final : public DrawnShapes {
     return drawing == nullptr ? 0 : static_cast<std::int32_t>(drawing->Shapes().size());
   }
   std::shared_ptr<DrawnShape> Group(const std::vector<std::shared_ptr<DrawnShape>>&) override {
-    // the system groups on charts only
+    // The system groups shapes on charts only.
     throw RuntimeError(runtime::error::kNoSuchMember);
   }
   const Journal& Log() const override { return sheet_.Book().Journal(); }
@@ -152,7 +152,7 @@ Frame SheetShape::PlacedFrame() const {
 }
 
 Frame SheetShape::MoveAnchor(const Frame& wanted) {
-  // a sheet begins at its corner
+  // Cell A1 is at (0, 0) points.
   const Frame frame{std::max(wanted.left, 0.0), std::max(wanted.top, 0.0), std::max(wanted.width, 0.0),
                     std::max(wanted.height, 0.0)};
   if (xml::Is(Anchor(), "absoluteAnchor")) {

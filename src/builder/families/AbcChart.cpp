@@ -18,8 +18,8 @@ using dom::IXMLDOMElement;
 
 namespace {
 
-/// The letters of sheet column `c`, for 3 to 78 only; empty beyond. More isn't wanted: what comes after the
-/// 78th column keeps the name before it.
+/// The letters of sheet column `c` from 3 to 78; empty beyond. A series after the
+/// 78th column keeps the name of the series before it.
 std::string NameColumnLetters(std::int32_t c) {
   const auto letter = [](std::int32_t lCode) { return std::string(1, static_cast<char>(lCode)); };
   if (c <= 26) return letter(64 + c);
@@ -65,7 +65,7 @@ std::int32_t ChartTypeOfSum(std::int32_t lSum) {
 void PopulateABCChart(const IXMLDOMElement& oChartElement) {
   ReportErrors("PSChartBuilder.PopulateABCChart", [&] {
     const Block oBlock(oChartElement);
-    // All series are made, and all attributes applied, on clustered bars; the real type comes last.
+    // All series and attributes are set on clustered bars. The real type is set at the end.
     mChart->SetChartType(excel::xlBarClustered);
     const std::string sCategories = oBlock.Categories();
     std::string sName;

@@ -24,7 +24,7 @@ using runtime::Ref;
 
 namespace {
 
-/// Keeps the place of a row without a colour label, so that the series still count like the rows.
+/// Makes a series for a row without a colour label, so that the numbers of series and rows agree.
 void MakePlaceholder(const Ref<excel::Series>& oSeries) {
   const std::string sNowhere = DataCells(1, 1, 1, 1);
   IgnoreErrors([&] { oSeries->SetName(runtime::kNull); }, [&] { oSeries->SetXValues(sNowhere); },
@@ -68,7 +68,7 @@ void AddBubble(excel::Worksheet& oSheet, std::int32_t lRow, SeriesColors& oColor
   LabelBubble(oSeries);
 }
 
-/// Colours and labels, once all series are there: the series lie as the rows do.
+/// Sets colours and labels after all series were added, in the order of the rows.
 void PaintBubbles(excel::Worksheet& oSheet, std::int32_t lRow, SeriesColors& oColors) {
   const auto oCollection = mChart->SeriesCollection();
   std::string sScratch;
@@ -96,7 +96,7 @@ void PopulateBubbleChart(const IXMLDOMElement& oChartElement) {
     for (std::int32_t lRow = oBlock.FirstRow(); lRow <= oBlock.lLastRow; ++lRow)
       AddBubble(*oSheet, lRow, oColors);
     if (bClassic) {
-      // These versions don't take the series for bubbles but by way of a scatter chart.
+      // These versions accept the series of a bubble chart only after a scatter chart.
       IgnoreErrors([] { mChart->SetChartType(excel::xlXYScatter); },
                    [] { mChart->SetChartType(excel::xlBubble); });
     }
@@ -117,7 +117,7 @@ void SetBubbleChartAttributes(const IXMLDOMElement& oChartElement) {
     }
     ClearAxisTitles();
     ApplyAxisTitles(oChartElement, {.bSwitchAxisOn = false, .bSizeThroughVal = false, .bYield = true});
-    // "quadrants" stands among the static settings today, where SetBubbleChartQuadrants looks for it
+    // "quadrants" is a static setting today, which SetBubbleChartQuadrants reads.
     const std::int32_t lSum = SumOfSettings(oChartElement, {{"3D", 1}, {"quadrants", 2}});
     if (lSum == 1 || lSum == 3) mChart->SetChartType(excel::xlBubble3DEffect);
     if (lSum == 2) mChart->SetChartType(excel::xlBubble);

@@ -18,7 +18,7 @@ using dom::IXMLDOMElement;
 
 namespace {
 
-/// The values along one axis. It starts inside out: so it is known when no value was seen.
+/// The range of the values along one axis. It starts with its limits exchanged, which means no value.
 struct Span {
   static constexpr double kUnseen = 1E+50;
   double dMin = kUnseen;
@@ -30,7 +30,7 @@ struct Span {
   }
   bool IsUnseen() const { return dMax == -kUnseen || dMin == kUnseen; }
 
-  /// To zero on the side where the values don't reach it, and by a tenth on the others.
+  /// Extends the range to zero on the side where the values don't reach it, and by a tenth on the others.
   void Widen() {
     if (dMin > 0) {
       dMin = 0;
@@ -45,8 +45,8 @@ struct Span {
   }
 };
 
-/// Two major units along the axis, so that its gridlines halve the plot. A hidden axis gets its scale too,
-/// and is hidden again.
+/// Sets two major units along the axis, so that its gridlines halve the plot area. A hidden axis is shown for
+/// this and hidden again.
 void SetUpAxis(std::int32_t lType, bool bAutoScale, const Span& oSpan) {
   const bool bHadAxis = mChart->HasAxis(lType);
   mChart->SetHasAxis(lType, true);

@@ -33,13 +33,13 @@ constexpr double kFirstModernVersion = 12;
 constexpr std::int32_t kRed = 255;
 constexpr std::int32_t kMarkSize = 55;  // points
 
-/// The cells of one row in the buckets' columns.
+/// The reference to the cells of one row in the columns of the buckets.
 std::string BucketCells(const Block& oBlock, std::int32_t lRow) {
   return DataCells(lRow, bucket_column::kFirstBucket, lRow, oBlock.lLastColumn);
 }
 
-/// The bucket names in the header row. In the newer form a column is one character: those next behind Z make
-/// no reference, and the host refuses it; the small letters behind them name the columns from A again.
+/// The bucket names in the header row. In the newer notation a column is one character. The characters after
+/// Z make no valid reference, and the host refuses it; the small letters name the columns from A again.
 std::string BucketNames(const Block& oBlock) {
   if (HostVersion(mChart->Application()) <= kLastClassicVersion)
     return BucketCells(oBlock, oBlock.lHeaderRow);
@@ -68,7 +68,7 @@ void LabelItem(const Ref<excel::Series>& oSeries, const std::string& sText) {
     oLabels->SetPosition(excel::xlLabelPositionCenter);
     oLabels->SetOrientation(excel::xlHorizontal);
   }
-  // Below version 12 only the buckets in which the item has a value bear its text.
+  // Below version 12 only the buckets in which the item has a value show its text.
   const bool bOnlyValues = HostVersion(mChart->Application()) < kFirstModernVersion;
   const std::vector<runtime::Variant> aValues =
       bOnlyValues ? oSeries->Values() : std::vector<runtime::Variant>();
@@ -96,7 +96,7 @@ void PaintItems(SeriesColors& oColors) {
                });
 }
 
-/// No line, but a red dash in each bucket at the bucket's own value, and the value on it.
+/// Shows no line, but a red dash in each bucket at the bucket's own value, with the value as its label.
 void AddBucketSeries(const Block& oBlock, const std::string& sBucketNames) {
   const auto oSeries = mChart->SeriesCollection()->NewSeries();
   oSeries->SetChartType(excel::xlLineMarkers);
@@ -122,7 +122,7 @@ void AddBucketSeries(const Block& oBlock, const std::string& sBucketNames) {
   oLabels->SetAutoScaleFont(SafeBool(mBucketLabelFont.vAutoScale));
 }
 
-/// Below version 12 an entry that doesn't fit into the legend isn't there to be deleted; at size 1 all fit.
+/// Below version 12 an entry that doesn't fit into the legend can't be deleted. At size 1 all entries fit.
 void TakeBucketSeriesOutOfLegend() {
   if (!mChart->HasLegend()) return;
   const bool bOlder = HostVersion(mChart->Application()) < kFirstModernVersion;
@@ -178,7 +178,7 @@ void SetStrBuckChartAttributes(const IXMLDOMElement& oChartElement) {
       for (std::int32_t i = 1; i <= oCollection->Count(); ++i) {
         const auto oSeries = oCollection->Item(i);
         if (oSeries->ChartType() == excel::xlColumnStacked) {
-          // the items' own fonts go with the scaling of the buckets' labels, on purpose
+          // The items' fonts use the AutoScale setting of the buckets' labels on purpose.
           if (const auto oLabels = oSeries->DataLabels())
             DressLabels(oLabels, excel::xlLabelPositionCenter, mBucketLabelFont.vAutoScale);
         }

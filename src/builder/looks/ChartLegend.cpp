@@ -24,8 +24,8 @@ namespace {
 
 constexpr const char* kLegendName = "VEX_Legend";
 constexpr const char* kEntryMark = "VEX_LS_";
-constexpr const char* kOwnMark = "VEX_L";  // the legend and its entries
-constexpr double kWidestMargin = 15;       // points, of a plot area without a legend beside it
+constexpr const char* kOwnMark = "VEX_L";  // the alternative text of the legend and its entries
+constexpr double kWidestMargin = 15;       // points, beside a plot area without a legend
 constexpr std::int32_t kBlack = 0;
 constexpr std::int32_t kWhite = 0xFFFFFF;
 
@@ -45,8 +45,8 @@ void RemoveLegendShapes() {
   }
 }
 
-/// The names of the series, each once. They are gathered in one text, and a name that is part of an earlier
-/// one gets lost in it; one that holds the separator falls apart.
+/// The names of the series, each once. They are collected in one text, so a name that is part of an earlier
+/// name is missing, and a name with the separator is split.
 std::vector<std::string> DistinctNames() {
   std::string sNames;
   const auto oCollection = mChart->SeriesCollection();
@@ -68,7 +68,7 @@ void NameShape(const Ref<excel::Shape>& oShape, const std::string& sName) {
   oShape->SetAlternativeText(kEntryMark + oShape->Name());
 }
 
-/// Where the entries have got to, in whole points.
+/// The extent of the entries that were drawn, in whole points.
 struct Extent {
   std::int32_t lItemRight = 0;  ///< of the entry being drawn
   std::int32_t lItemTop = 0;    ///< of the entry before
@@ -96,7 +96,7 @@ void AddEntryText(const std::string& sName, double dFontSize, Extent& oExtent) {
 
   oText->SetWidth(static_cast<double>(runtime::Len(sName)) * dFontSize / 2);
   oText->SetHeight(dFontSize * 2);
-  // read again: the host may have fitted the box to its text
+  // The height is read again, because the host may have fitted the box to its text.
   oText->SetLeft(oText->Height() > 10 ? oText->Height() - 10 : oText->Height() / 2);
   if (oText->Height() + oExtent.lItemTop > 6) oText->SetTop(oText->Height() + oExtent.lItemTop - 5);
   oExtent.lItemRight = CLng(oText->Left() + oText->Width() + oExtent.lItemRight);
@@ -156,7 +156,7 @@ void PlaceLegend() {
 }
 
 /// Whether a program dropped the drawn legend. A chart whose legend a person deleted has a plot area of its
-/// full width since the next refresh; where a legend was drawn, its room is still free.
+/// full width since the next refresh. A legend that a program dropped leaves its room free.
 bool DrawnLegendWasDropped() {
   if (!LossesOfLastSave().bShapesOnCharts) return false;
   const auto oPlotArea = mChart->PlotArea();
@@ -175,8 +175,8 @@ void ApplyDrawnLegend() {
           mChart->SetHasLegend(true);
           BuildChartLegend(true);
         } else if (mLegendVisibility == "hide") {
-          // A chart with a drawn legend has no built-in one, and so was read back as "hide": only the shape
-          // tells whether somebody wants it.
+          // A chart with a drawn legend has no built-in one, and was read back as "hide". Only the shape
+          // says whether the legend is wanted.
           if (DrawnLegendWasDropped() || mChart->Shapes()->Range({kLegendName})->Name() == kLegendName) {
             BuildChartLegend(true);
           }

@@ -31,7 +31,7 @@ bool BuildBubbleMap(const IXMLDOMElement& oChartElement) {
       std::string sScratch;
       for (std::int32_t lRow = oRows.lFirst; lRow <= oRows.Last(); ++lRow) {
         oBubbles.NumberIfNew(GetCellText(*oSheet, lRow, lNameColumn, sScratch), sScratch);
-        // Behind the numbering: the last name that fits is charted and brings the message all the same.
+        // This comes after the numbering: the last name that fits is charted, and shows the message as well.
         if (oBubbles.Count() >= kSeriesLimit) {
           ShowLimitMessage(oChartElement);
           break;

@@ -20,9 +20,9 @@ using dom::IXMLDOMElement;
 
 namespace {
 
-/// The map of an area, bar, column or pie chart while it is made. `headings-in` of categories and series says
-/// how a person reads the table: "columns" makes each listed column one heading, "rows" makes each distinct
-/// text down the listed column one.
+/// Builds the map of an area, bar, column or pie chart. `headings-in` of categories and series says
+/// where the headings are: "columns" makes each listed column a heading, "rows" makes each distinct
+/// text in the listed column a heading.
 class PivotMap {
  public:
   explicit PivotMap(const IXMLDOMElement& oChartElement)
@@ -65,7 +65,7 @@ class PivotMap {
     }
   }
 
-  /// Notes the column of the values. A chart without a choice of series has one, named after that column.
+  /// Stores the column of the values. A chart without listed series has one series with that column's name.
   void TakeValues() {
     const auto oValues = oChartElement_.selectSingleNode("values");
     if (!oValues) return;
@@ -74,7 +74,7 @@ class PivotMap {
     if (mSeriesPositions.Count() == 0) oSeriesNumbering_.Add(GetAttributeText(oColumn, "name"));
   }
 
-  /// Gives the instructions the side that numbering has left open, or makes the one that does both sides.
+  /// Sets the missing side of the instructions, or makes the one instruction that has both sides.
   void CompleteInstructions() {
     if (sCategoriesIn_ == "columns") {
       const bool bOneSeries = sSeriesIn_ == "none";
@@ -109,15 +109,15 @@ class PivotMap {
 
   void NumberSeriesInRows(std::int32_t lColumn) {
     for (std::int32_t lRow = oRows_.lFirst; lRow <= oRows_.Last(); ++lRow) {
-      // Before each row, whether or not it brings a new name: so the message comes also when all rows behind
-      // the last name that fits repeat known ones.
+      // This check runs before each row, even one without a new name. The message is shown also when all rows
+      // after the last name that fits repeat known names.
       if (IsSeriesLimitMet()) break;
       oSeriesNumbering_.NumberIfNew(GetCellText(*oSheet_, lRow, lColumn, sScratch_), sScratch_);
     }
     lSeriesColumn_ = lColumn;
   }
 
-  /// Whether no further series has room; says so.
+  /// Whether there is no room for another series. If so, shows the message.
   bool IsSeriesLimitMet() const {
     if (oSeriesNumbering_.Count() < kSeriesLimit) return false;
     ShowLimitMessage(oChartElement_);

@@ -23,15 +23,15 @@ using dom::IXMLDOMElement;
 
 namespace {
 
-/// Numbers the items down their column. An item named like a bucket takes the bucket's spelling.
+/// Numbers the items in their column. An item with the name of a bucket takes the bucket's spelling.
 void NumberItems(const IXMLDOMElement& oChartElement, const DataRows& oRows, excel::Worksheet& oSheet,
                  std::int32_t lItemColumn, Numbering& oItems) {
   std::string sScratch;
   for (std::int32_t lRow = oRows.lFirst; lRow <= oRows.Last(); ++lRow) {
     const std::string_view sText = GetCellText(oSheet, lRow, lItemColumn, sScratch);
     if (oItems.IsNew(sText, sScratch)) {
-      // The row of the buckets counts too, and the name that reaches the limit stays without a number: its
-      // key is in the dictionary all the same, and makes one row more than there are items.
+      // The row of the buckets counts as well. The name that reaches the limit gets no number, but its
+      // key is in the dictionary and makes one row more than there are items.
       if (oItems.Count() + 1 >= kSeriesLimit) {
         ShowLimitMessage(oChartElement);
         break;
@@ -61,12 +61,12 @@ bool BuildStrBuckMap(const IXMLDOMElement& oChartElement) {
     const std::int32_t lBucketNameColumn = GetAttributeLong(oChartElement, "bucket-name-column-position");
     const std::int32_t lBucketValueColumn = GetAttributeLong(oChartElement, "bucket-value-column-position");
     mStrategicBuckets = GetStrategicBuckets(colTables->Item(sBucketTable));
-    // the keys, and not the names as the table writes them: buckets are charted in capitals
+    // The keys are used instead of the names: buckets are charted in capitals.
     for (const auto& oBucket : *mStrategicBuckets) oSeriesNumbering.Add(SafeString(oBucket.key));
 
     const DataRows oRows(oChartElement);
     const auto oSheet = SheetWithCells(GetAttributeText(oChartElement, "table-worksheet"));
-    std::int32_t lItemColumn = 0;  // where no cell is: without categories nothing finds its row
+    std::int32_t lItemColumn = 0;  // a column without cells: without categories no value has a row
     if (const auto oCategories = oChartElement.selectSingleNode("categories")) {
       lItemColumn = FirstColumn(oCategories);
       NumberItems(oChartElement, oRows, *oSheet, lItemColumn, oItems);

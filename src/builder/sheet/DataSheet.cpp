@@ -23,8 +23,8 @@ using runtime::Ref;
 
 namespace {
 
-/// Looks up a cell's text in the positions. Several rules in a row ask for the same cell, so the last answer
-/// of the row is kept.
+/// Looks up a cell's text in the positions. Consecutive instructions ask for the same cell, so the last
+/// answer of the row is kept.
 class CellIndex {
  public:
   CellIndex(excel::Worksheet& oSheet, Dictionary& oPositions) : oSheet_(oSheet), oPositions_(oPositions) {}
@@ -36,7 +36,7 @@ class CellIndex {
       const std::string_view sText = GetCellText(oSheet_, lRow, lColumn, sText_);
       lIndex_ = oKnown_.Find(sText, sText_);
       if (lIndex_ < 1) {
-        // an unknown text stays behind in the dictionary, without a position
+        // Reading an unknown text adds it to the dictionary without a position.
         lIndex_ = PositionOf(oPositions_.Item(runtime::UCase(sText, sUpper_)));
         oKnown_.Remember(sText, sText_, lIndex_);
       }
@@ -54,8 +54,8 @@ class CellIndex {
   PositionCache oKnown_;
 };
 
-/// A text as the rectangle stores it: bubbles and strategic buckets show a label with the spelling met first,
-/// and a bucket's name with the bucket's own.
+/// A text as the rectangle stores it. Bubbles and strategic buckets show a label with its first spelling,
+/// and the name of a bucket with the bucket's spelling.
 std::string StoredText(const std::string& sText, Dictionary& oFirstSpellings) {
   if (mChartType != "bubble" && mChartType != "strategic bucket") return sText;
   const std::string sKey = runtime::UCase(sText);
@@ -66,7 +66,7 @@ std::string StoredText(const std::string& sText, Dictionary& oFirstSpellings) {
   return sText;
 }
 
-/// A cell text that the host must not take for a number, a date or a formula.
+/// A cell text that the host must not read as a number, a date or a formula.
 std::string AsText(const runtime::Variant& vName) { return "'" + runtime::CStr(vName); }
 
 }  // namespace
@@ -126,7 +126,7 @@ bool PopulateDataSheetOffi2007(IXMLDOMElement& oChartElement) {
     } else {
       for (std::int32_t i = lRows - 1; i > mCategoryCount; --i)
         DeleteSheetRow(oSheet, lFirst + mCategoryCount);
-      // above the block's last row, so that references to the block grow with it
+      // Rows are inserted above the block's last row, so that references to the block grow with it.
       for (std::int32_t i = lRows - 1; i < mCategoryCount; ++i) InsertSheetRow(oSheet, lFirst + lRows - 1);
     }
     if (MoveToDataSheet(lFirst, oChartElement, sID, *aData, oSheet)) return true;
@@ -147,8 +147,8 @@ bool MoveToDataSheet(std::int32_t lStartRow, IXMLDOMElement& oChartElement, cons
     for (const auto& [sKey, vPosition] : mCategoryPositions) {
       const std::int32_t p = PositionOf(vPosition);
       if (p > 0) oSheet->SetCellValueAt(lStartRow + p, data_column::kId, sID);
-      // without a test: a text that has no position leaves a lone apostrophe in the header row, which harms
-      // nobody
+      // There is no test here: a text without a position leaves a lone apostrophe in the header row, which
+      // has no effect.
       oSheet->SetCellValueAt(lStartRow + p, data_column::kName, AsText(mCategoryNames.Item(sKey)));
     }
     for (std::int32_t r = 1; r <= mCategoryCount; ++r) {

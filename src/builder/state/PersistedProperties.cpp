@@ -17,16 +17,17 @@ using runtime::Variant;
 
 namespace {
 
-/// A font among the properties, which begin with its key: "legend-font-name".
+/// A font among the properties. The names of its properties begin with its key: "legend-font-name".
 struct FontGroup {
   std::string_view sKey;
   StoredFont& oFont;
   StoredFont oDefaults;
-  /// Read-back stores empty texts where the chart has no such text; these mean the defaults.
+  /// Whether an empty text means the default. Reading back stores empty texts for a chart without such a
+  /// text.
   bool bEmptyIsDefault = false;
 };
 
-/// One property of a font: what its key ends with, and how a stored text becomes its value.
+/// A property of a font: the end of its key, and the conversion of a stored text into its value.
 struct FontProperty {
   std::string_view sSuffix;
   Variant StoredFont::*vValue;
@@ -103,7 +104,7 @@ void RetrievePersistedProperties(const dom::IXMLDOMElement& oChartElement) {
       StoreProperty(GetAttributeText(oPersist, "property"), GetAttributeText(oPersist, "value"));
       YieldToHost();
     }
-    // a place taken by hand beats a stored position
+    // A place that was set by hand overrides a stored position.
     if (mLegendLeft != kUnsetPlace || mLegendTop != kUnsetPlace) mLegendPosition = 0;
   });
 }

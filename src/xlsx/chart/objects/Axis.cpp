@@ -26,7 +26,7 @@ namespace {
 
 constexpr std::int32_t kLogarithmic = -4133;  // xlScaleLogarithmic
 
-/// An axis, found anew at each use: a change of the chart's type may replace the element.
+/// An axis. It is found anew at each use, because a change of the chart's type may replace the element.
 struct AxisHandle {
   std::shared_ptr<ChartPart> part;
   std::int32_t type;
@@ -63,7 +63,7 @@ class AxisTitleObject final : public excel::AxisTitle {
         [axis = axis_] { return schema::Ensure(axis.Node(), "title"); }, Path() + ".Font");
   }
 
-  /// Not in the file; Excel's default.
+  /// The file doesn't store this; it is Excel's default.
   Variant AutoScaleFont() override { return true; }
   void SetAutoScaleFont(const Variant& value) override {
     axis_.Log().Put([this] { return Path(); }, "AutoScaleFont", value);
@@ -200,7 +200,7 @@ class AxisObject final : public excel::Axis {
   }
   void SetCrosses(std::int32_t crosses) override {
     Log("Crosses", crosses);
-    // the file says it of the axis that crosses
+    // The file stores this in the other axis.
     const pugi::xml_node other = FindCrossedAxis(axis_.Node());
     if (!other) throw CantSet("Crosses", "Axis");
     SetVal(other, "crosses", kCrosses.Token(crosses), "Crosses");
@@ -231,7 +231,7 @@ class AxisObject final : public excel::Axis {
     }
     axis_.part->MarkChanged();
   }
-  /// The axis, which must be one of values for what the property is.
+  /// The axis. Error 1004 if it isn't a value axis, which alone has the property.
   pugi::xml_node Values(const char* property) const {
     const pugi::xml_node axis = axis_.Node();
     if (!xml::Is(axis, "valAx")) throw CantSet(property, "Axis");

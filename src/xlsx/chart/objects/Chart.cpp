@@ -106,7 +106,7 @@ void Chart::SetHasTitle(bool value) {
   } else {
     schema::Remove(chart, "title");
   }
-  // without this a chart of one series is titled by its name
+  // Without this, a chart of one series shows the name of the series as its title.
   schema::SetBooleanVal(chart, "autoTitleDeleted", !value);
   part_->MarkChanged();
 }

@@ -22,14 +22,14 @@ using runtime::Variant;
 
 namespace {
 
-/// Excel's window, behind charts where nothing is set.
+/// The colour of Excel's window, which is behind charts without a fill.
 std::int32_t Ground(ChartPart& part) { return part.Theme().SchemeColor("bg1").value_or(0xFFFFFF); }
 
 Ref<excel::Interior> InteriorOf(const FormattedElement& area) {
   return MakeInterior(area, [part = area.part] { return Ground(*part); });
 }
 
-/// One of a pattern's two colours.
+/// One of the two colours of a pattern.
 class ChartColorFormatObject final : public excel::ChartColorFormat {
  public:
   ChartColorFormatObject(FormattedElement area, const char* element, const char* name)

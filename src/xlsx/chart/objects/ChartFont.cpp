@@ -10,7 +10,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// The run properties that the element's font consists of, made where they are missing.
+/// The run properties that hold the font of the element. Missing ones are made.
 std::vector<pugi::xml_node> RunProperties(pugi::xml_node element) {
   std::vector<pugi::xml_node> properties;
   for (const pugi::xml_node& body : TextBodies(element)) {
@@ -22,7 +22,7 @@ std::vector<pugi::xml_node> RunProperties(pugi::xml_node element) {
         properties.push_back(schema::Ensure(child, "rPr"));
         empty = false;
       }
-      // a text that is yet to come is dressed as the end of the empty line
+      // The end of an empty line holds the format of the text that will be typed there.
       const auto ending = xml::Child(paragraph, "endParaRPr");
       if (empty && ending && xml::Is(body, "rich")) properties.push_back(ending);
     }

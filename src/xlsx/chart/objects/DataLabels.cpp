@@ -24,7 +24,7 @@ using runtime::Variant;
 
 namespace {
 
-/// The labels of a series and those of single points, which are told everything again.
+/// The labels of a series, and those of single points, which repeat all settings.
 std::vector<pugi::xml_node> AllOf(pugi::xml_node labels) {
   std::vector<pugi::xml_node> all = {labels};
   for (const pugi::xml_node& label : xml::Children(labels, "dLbl")) {
@@ -33,7 +33,7 @@ std::vector<pugi::xml_node> AllOf(pugi::xml_node labels) {
   return all;
 }
 
-/// A text of its own takes nothing from the label's defaults unless each run says so.
+/// The runs of a label's own text don't inherit the label's format, so each run repeats it.
 void DressRuns(pugi::xml_node label) {
   for (const pugi::xml_node& paragraph : xml::Children(xml::Child(label, "tx", "rich"), "p")) {
     const auto dress = xml::Child(paragraph, "pPr", "defRPr");
@@ -58,7 +58,7 @@ class DataLabelObject final : public excel::DataLabel {
     const bool fresh = !xml::Child(label, "tx", "rich");
     SetTitleText(label, text);
     if (fresh) DressRuns(label);
-    // a label that shows nothing doesn't show a text either
+    // A label that shows nothing doesn't show its own text.
     if (!ShowsAnything(label)) schema::SetVal(label, "showVal", "1");
     series_.part->MarkChanged();
   }
@@ -81,7 +81,7 @@ class DataLabelsObject final : public excel::DataLabels {
         },
         [series = series_] { return EnsureLabels(series.Node()); }, Path() + ".Font");
   }
-  /// Not in the file; Excel's default.
+  /// The file doesn't store this; it is Excel's default.
   Variant AutoScaleFont() override { return true; }
   void SetAutoScaleFont(const Variant& value) override { Log("AutoScaleFont", value); }
 

@@ -20,7 +20,7 @@ constexpr std::int32_t kWhite = 0xFFFFFF;
 constexpr std::int32_t kBlack = 0;
 constexpr std::int32_t kSolid = 1;  // xlPatternSolid
 
-/// The entry of the palette that is nearest to a colour.
+/// The palette entry with the nearest colour.
 std::int32_t NearestIndex(const Styles& styles, std::int32_t color) {
   std::int32_t nearest = 1;
   long best = std::numeric_limits<long>::max();
@@ -39,8 +39,8 @@ std::int32_t NearestIndex(const Styles& styles, std::int32_t color) {
   return nearest;
 }
 
-/// The filling as Excel's older object model sees it: a colour, and a pattern with a colour of its own.
-/// Fillings are copied property by property: in whatever order that sets an automatic one's on another, the
+/// The fill in Excel's older object model: a colour, and a pattern with a second colour.
+/// The system copies fills property by property. In any order of the properties, the
 /// colour that was set last is seen.
 class InteriorObject final : public excel::Interior {
  public:
@@ -126,8 +126,8 @@ class InteriorObject final : public excel::Interior {
     element_.part->MarkChanged();
     return element_.Properties();
   }
-  /// The main colour of a filling: the ground of a pattern, where a gradient begins. Nothing for a picture,
-  /// or none at all.
+  /// The main colour of a fill: the background of a pattern, or the first colour of a gradient. Nothing for a
+  /// picture, and for no fill.
   std::optional<std::int32_t> ColorOf(pugi::xml_node fill) const {
     if (xml::Is(fill, "pattFill")) return element_.part->Color(xml::Child(fill, "bgClr"));
     if (xml::Is(fill, "gradFill")) return element_.part->Color(xml::Child(fill, "gsLst", "gs"));
@@ -143,7 +143,7 @@ class InteriorObject final : public excel::Interior {
     SetFillColor(pattern ? schema::Ensure(fill, "bgClr") : SetFill(Properties(), "solidFill"), color);
     element_.part->MarkChanged();
   }
-  /// Where there is no pattern there is nothing to paint.
+  /// The colour has no effect without a pattern.
   void PaintPattern(std::int32_t color) {
     const auto fill = Fill();
     if (!xml::Is(fill, "pattFill")) return;

@@ -22,7 +22,7 @@ namespace {
 
 std::string Path() { return "Chart.Legend"; }
 
-/// Where a legend begins by itself, roughly, as fractions of the chart.
+/// The approximate place of an automatic legend, as fractions of the chart.
 constexpr double kNear = 0.02, kMiddle = 0.4, kFar = 0.8;
 
 class LegendObject final : public excel::Legend {
@@ -36,7 +36,7 @@ class LegendObject final : public excel::Legend {
         [part = part_] { return schema::Ensure(part->Chart(), "legend"); }, Path() + ".Font");
   }
 
-  /// Not in the file; Excel's default.
+  /// The file doesn't store this; it is Excel's default.
   Variant AutoScaleFont() override { return true; }
   void SetAutoScaleFont(const Variant& value) override {
     part_->Book().Journal().Put(Path, "AutoScaleFont", value);
@@ -45,7 +45,7 @@ class LegendObject final : public excel::Legend {
   std::int32_t Position() override {
     const auto legend = Node();
     const auto position = kLegendPositions.Number(schema::Val(legend, "legendPos", kLegendPositions.absent));
-    // where it was dragged to is no position
+    // A legend that was moved by hand has no position.
     if (!position || PlaceOf(legend)) throw CantGet("Position", "Legend");
     return *position;
   }
@@ -55,7 +55,7 @@ class LegendObject final : public excel::Legend {
     if (!token) throw CantSet("Position", "Legend");
     const pugi::xml_node legend = Node();
     schema::SetVal(legend, "legendPos", *token);
-    // a place taken by hand would win over the position
+    // A place that was set by hand would override the position.
     schema::Remove(xml::Child(legend, "layout"), "manualLayout");
     part_->MarkChanged();
   }
@@ -77,13 +77,13 @@ class LegendObject final : public excel::Legend {
     return legend;
   }
 
-  /// The layout of a legend that stands where somebody put it; one that only has its size from there doesn't.
+  /// The layout of a legend that was moved by hand. A layout with only a size doesn't count.
   static pugi::xml_node PlaceOf(pugi::xml_node legend) {
     const auto layout = xml::Child(legend, "layout", "manualLayout");
     return xml::Child(layout, "x") || xml::Child(layout, "y") ? layout : pugi::xml_node();
   }
 
-  /// A coordinate as a fraction of the chart. Without a place of its own, a guess: in the middle of its side.
+  /// A coordinate as a fraction of the chart. An automatic legend is taken to be in the middle of its side.
   double Place(const char* coordinate) const {
     const auto layout = PlaceOf(Node());
     const auto value = schema::NumberVal(layout, coordinate);
@@ -93,7 +93,7 @@ class LegendObject final : public excel::Legend {
     const double start = side == (horizontal ? "l" : "t") || (!horizontal && side == "tr")  ? kNear
                          : side == (horizontal ? "r" : "b") || (horizontal && side == "tr") ? kFar
                                                                                             : kMiddle;
-    return start + value.value_or(0);  // in factor mode the file tells the way from there
+    return start + value.value_or(0);  // factor mode counts from the automatic place
   }
 
   void SetPlace(const char* property, const char* mode, const char* fraction, double points, double extent) {

@@ -54,7 +54,7 @@ class SeriesObject final : public excel::Series {
   void SetValues(const Variant& reference) override { Set(SeriesData::kValues, "Values", reference); }
   void SetBubbleSizes(const Variant& reference) override {
     Set(SeriesData::kBubbleSizes, "BubbleSizes", reference);
-    // where there are no bubbles, the sizes wait for the chart to have some
+    // Sizes of a chart without bubbles are kept until it has some.
     RemoveMisfits(*series_.part, series_.Node());
   }
   std::vector<Variant> Values() override { return CachedNumbers(FindValues(series_.Node())); }
@@ -132,7 +132,7 @@ class SeriesCollectionObject final : public excel::SeriesCollection {
  public:
   explicit SeriesCollectionObject(std::shared_ptr<ChartPart> part) : part_(std::move(part)) {}
 
-  /// None in a chart that can't be read, so that it is no reason to stop for whoever looks at all charts.
+  /// A chart that can't be read has no series, so that a loop over all charts doesn't fail.
   std::int32_t Count() override {
     return part_->IsReadable() ? static_cast<std::int32_t>(part_->Series().size()) : 0;
   }

@@ -85,7 +85,7 @@ CacheWriter::CacheWriter(pugi::xml_node cache, std::size_t count) : cache_(cache
 }
 
 void CacheWriter::Add(std::size_t index, std::string_view text) {
-  // straight to the end, past the search for the place: points come last, and there may be many
+  // Points come last and may be many, so they are appended without a search for their place.
   pugi::xml_node point = cache_.append_child(pointName_.c_str());
   point.append_attribute("idx").set_value(static_cast<unsigned long long>(index));
   SetRaw(point.append_child(valueName_.c_str()), text);

@@ -25,7 +25,7 @@ std::string EmptyUserShapes(const Namespaces& names) {
          "\"/>";
 }
 
-/// The drawing's own vocabulary, which is another than that of its root.
+/// The prefix of the drawing's elements, whose namespace differs from that of the root.
 std::string ShapePrefix(pugi::xml_node root, const Namespaces& names) {
   return xml::EnsurePrefix(root, names.chartDrawing, "cdr");
 }
@@ -99,7 +99,7 @@ std::shared_ptr<ChartShape> ChartDrawing::AddAnchor(const Frame& frame, const st
   return shapes_.emplace_back(std::move(shape));
 }
 
-// As Excel counts them, the first id is 2 and the first name has a 1.
+// As in Excel, the first id is 2 and the first name has the number 1.
 
 std::shared_ptr<ChartShape> ChartDrawing::AddTextbox(const Frame& frame) {
   const unsigned id = NextShapeId(xml::Root(document_));
@@ -113,7 +113,7 @@ std::shared_ptr<ChartShape> ChartDrawing::AddAutoShape(std::string_view name, st
 }
 
 std::shared_ptr<ChartShape> ChartDrawing::Group(const std::vector<std::shared_ptr<DrawnShape>>& shapes) {
-  // the members in the order in which they lie, each once
+  // The members in the order in which they are drawn, each once.
   std::vector<std::shared_ptr<ChartShape>> members;
   for (const auto& shape : shapes_) {
     if (std::find(shapes.begin(), shapes.end(), shape) != shapes.end()) members.push_back(shape);
@@ -135,7 +135,7 @@ std::shared_ptr<ChartShape> ChartDrawing::Group(const std::vector<std::shared_pt
   foremost.parent().insert_move_after(group->Anchor(), foremost);
   pugi::xml_node object = group->Object();
   for (const auto& member : members) {
-    // inside of a group, an object lies where it says itself
+    // In a group, an object's own transform gives its place.
     SetTransform(member->Object(), member->PlacedFrame());
     object.append_move(member->Object());
   }
@@ -156,7 +156,7 @@ void ChartDrawing::RemoveRelationships(const std::set<std::string>& ids) {
   chart_.Parts().RemoveRelationships(part_, ids);
 }
 
-/// With the chart's relationship to it.
+/// Removes the part and the chart's relationship to it.
 void ChartDrawing::RemovePart() {
   const pugi::xml_node space = chart_.Space();
   chart_.Parts().RemoveRelationship(chart_.Part(), xml::RelationshipId(xml::Child(space, "userShapes")));

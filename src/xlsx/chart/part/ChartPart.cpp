@@ -22,7 +22,7 @@ std::string EmptyChart(bool strict) {
 
 namespace {
 
-/// A plot group without any counts as one.
+/// A plot group without series counts as one.
 std::size_t CountSeries(pugi::xml_node space) {
   std::size_t count = 0;
   for (const pugi::xml_node& child : xml::Child(space, "chart", "plotArea").children()) {
@@ -57,14 +57,14 @@ void ChartPart::Leave() {
 
 pugi::xml_node ChartPart::Space() {
   Load();
-  // One chart that can't be read is no reason to give the workbook up: the error is this chart's.
+  // A chart that can't be read only fails itself, and not the workbook.
   if (!document_) throw Refusal("The chart can't be read: " + *unreadable_ + ".");
   return xml::Root(*document_);
 }
 
 void ChartPart::Load() {
   if (deleted_) throw Refusal("The object has been deleted.");
-  if (document_ || unreadable_) return;  // what can't be read isn't tried again at each use
+  if (document_ || unreadable_) return;  // a part that can't be read isn't tried again
   auto document = std::make_unique<pugi::xml_document>();
   try {
     if (part_.empty()) throw PackageError("the chart's part is missing");
@@ -93,7 +93,7 @@ const Theme& ChartPart::Theme() {
         ownTheme_ = book_.Theme().WithOverride(book_.Package().Read(link->target));
       }
     } catch (const PackageError&) {
-      // then the workbook's holds
+      // An unreadable override is ignored; the workbook's theme counts.
     }
   }
   return ownTheme_ ? *ownTheme_ : book_.Theme();
@@ -172,7 +172,7 @@ void ChartPart::Follow() {
 }
 
 void ChartPart::Write() {
-  if (!book_.Shifts().None()) Load();  // rows have moved under charts that nobody has asked for
+  if (!book_.Shifts().None()) Load();  // the chart may point at rows that have moved
   if (!document_) return;
   Follow();
   if (drawing_) drawing_->Write();

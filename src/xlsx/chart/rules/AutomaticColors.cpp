@@ -17,12 +17,12 @@ constexpr long long kStyles = 48, kStyleColumns = 8;
 constexpr long long kNewerStyles = 100;  // c14:style counts from here
 constexpr std::size_t kAccents = 6;
 
-/// How a colour of the theme is varied; both in thousandths of a percent.
+/// A variation of a theme colour, in thousandths of a percent.
 struct Variation {
   int lumMod = 100000, lumOff = 0;
 };
 
-/// Of each further round through the accents, as Excel's colourful palette has it.
+/// The variation for each further round through the accents, as in Excel's colourful palette.
 constexpr std::array<Variation, 9> kRounds = {{{100000, 0},
                                                {60000, 0},
                                                {80000, 20000},
@@ -32,7 +32,7 @@ constexpr std::array<Variation, 9> kRounds = {{{100000, 0},
                                                {70000, 30000},
                                                {70000, 0},
                                                {50000, 50000}}};
-/// How much of black stays, in percent, in the styles in shades of grey (ECMA-376-1, 21.2.3.46, table
+/// The share of black, in percent, in the styles with shades of grey (ECMA-376-1, 21.2.3.46, table
 /// 5).
 constexpr std::array<double, 6> kGreys = {88.5, 55, 78, 92.5, 70, 30};
 
@@ -46,7 +46,7 @@ std::int32_t Varied(ChartPart& part, const std::string& color, const Variation& 
   return part.Color(holder.first_child()).value_or(0);
 }
 
-/// Styles in one colour go from dark to light through the series, without ever reaching black or white.
+/// In styles with one colour, the series go from dark to light without reaching black or white.
 Variation Faded(std::size_t index, std::size_t count) {
   const double place = static_cast<double>(index + 1) / static_cast<double>(count + 1) * 1.4 - 0.7;
   const int kept = static_cast<int>(std::lround((1 - std::abs(place)) * 100000));
@@ -56,7 +56,7 @@ Variation Faded(std::size_t index, std::size_t count) {
 }  // namespace
 
 long long ChartStyleOf(ChartPart& part) {
-  // newer files hold it twice
+  // Newer files have it twice.
   const auto space = part.Space();
   const auto alternatives = xml::Child(space, "AlternateContent");
   for (const pugi::xml_node& holder :
@@ -74,8 +74,7 @@ std::int32_t AutomaticColor(ChartPart& part, pugi::xml_node series) {
 }
 
 std::int32_t AutomaticColor(ChartPart& part, std::size_t index, std::size_t count) {
-  const long long column =
-      (ChartStyleOf(part) - 1) % kStyleColumns;  // of the gallery that the styles came from
+  const long long column = (ChartStyleOf(part) - 1) % kStyleColumns;  // of Excel's gallery of styles
   if (column == 0) {
     const int kept = static_cast<int>(std::lround(kGreys[index % kGreys.size()] * 1000));
     return Varied(part, "tx1", {kept, 100000 - kept});

@@ -23,17 +23,17 @@
 namespace plotsmith::xlsx {
 namespace {
 
-// Beside those in the header.
+// More constants like those in the header.
 constexpr double kLegendPadding = 8;  // around all entries together
 constexpr double kKeyEms = 2.4;       // a legend key with the gaps around it, which grows with the text
 
-/// How an element's text is set, by its beginning.
+/// The typeface at the beginning of an element's text.
 TextFace FaceOf(ChartPart& part, pugi::xml_node element, TextRole role) {
   const TextLook look = LooksOf(part, element, role).front();
   return {look.typeface, look.points, look.bold};
 }
 
-/// What a title takes of the chart across its text; nothing if it lies over the plot area.
+/// The room that a title takes across its text, in points; 0 if the title overlays the plot area.
 double TitleDepth(ChartPart& part, pugi::xml_node title, TextRole role, double room) {
   if (!title || schema::BooleanVal(title, "overlay", false)) return 0;
   const TextFace face = FaceOf(part, title, role);
@@ -49,7 +49,7 @@ double TitleDepth(ChartPart& part, pugi::xml_node title, TextRole role, double r
   return lines * LineHeight(face) + kTitlePadding;
 }
 
-/// Takes the legend's room from the free one.
+/// Takes the room of the legend from the free room.
 void SetLegendAside(ChartPart& part, const Frame& chart, Edges& taken) {
   const auto legend = xml::Child(part.Chart(), "legend");
   if (!legend || schema::BooleanVal(legend, "overlay", false)) return;

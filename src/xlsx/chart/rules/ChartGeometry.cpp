@@ -11,7 +11,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// One direction of a manual layout. `factor` is the mode that counts from the automatic place.
+/// Applies one direction of a manual layout. The mode `factor` counts from the automatic place.
 void Apply(pugi::xml_node layout, const char* place, const char* placeMode, const char* size,
            const char* sizeMode, double chart, double& from, double& extent) {
   if (const auto at = schema::NumberVal(layout, place)) {

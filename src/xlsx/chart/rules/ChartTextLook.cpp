@@ -8,17 +8,17 @@
 namespace plotsmith::xlsx {
 namespace {
 
-// What Excel draws where no size is given.
+// Excel's sizes for texts without a size.
 constexpr double kPoints = 10;
 constexpr double kTitlePoints = 18;
-constexpr double kTitleGrowth = 1.2;  // of the chart's own size, where it has one
+constexpr double kTitleGrowth = 1.2;  // times the chart's own size, if it has one
 
-/// Properties of text, those that win first; null nodes are passed over.
+/// Text properties in the order in which they count. Null nodes are skipped.
 using Chain = std::vector<pugi::xml_node>;
 
 pugi::xml_node DefaultsOf(pugi::xml_node paragraph) { return xml::Child(paragraph, "pPr", "defRPr"); }
 
-/// The properties that a body of text (c:txPr, c:rich) has for all of it.
+/// The properties of a body (c:txPr, c:rich) for all of its text.
 pugi::xml_node DefaultsOfBody(pugi::xml_node body) { return DefaultsOf(xml::Child(body, "p")); }
 
 std::string AttributeOf(const Chain& chain, const char* name) {
@@ -69,7 +69,7 @@ TextLook Look(ChartPart& part, Chain chain, TextRole role) {
   return look;
 }
 
-/// Adds the looks of a body's runs; `behind` are the properties that hold where they say nothing.
+/// Adds the formats of a body's runs. `behind` are the properties that count where a run has none.
 void AddRuns(ChartPart& part, pugi::xml_node body, const Chain& behind, TextRole role,
              std::vector<TextLook>& looks) {
   for (const pugi::xml_node& paragraph : xml::Children(body, "p")) {
@@ -118,7 +118,7 @@ std::vector<TextLook> LooksOfLabels(ChartPart& part, pugi::xml_node labels, std:
     AddRuns(part, rich, {dress, own}, TextRole::kOther, looks);
     if (looks.size() == before) looks.push_back(Look(part, {dress, own}, TextRole::kOther));
   }
-  // where each point has a label of its own, the common look is nobody's
+  // If each point has its own label, no label has the common format.
   if (special < points || looks.empty()) looks.push_back(Look(part, {own}, TextRole::kOther));
   return looks;
 }

@@ -13,7 +13,7 @@ namespace plotsmith::xlsx {
 namespace {
 
 constexpr const char* kExplosion = "25";        // percent, as Excel pulls slices out
-constexpr const char* kScatterWidth = "28575";  // EMU, of the line that a scatter of mere points doesn't show
+constexpr const char* kScatterWidth = "28575";  // EMU, of the hidden line of a scatter chart without lines
 
 bool Lists(std::string_view list, std::string_view word) {
   for (std::size_t at = 0; at <= list.size();) {
@@ -41,7 +41,7 @@ constexpr std::array<Extra, 10> kExtras = {{
     {"shape", "bar3DChart"},
 }};
 
-/// Where labels may stand (MS-OI29500, 2.1.1456); nowhere but at their own place in all other groups.
+/// The label positions that groups allow (MS-OI29500, 2.1.1456). Other groups allow none.
 struct Positions {
   std::string_view groups, positions;
 };
@@ -51,7 +51,7 @@ constexpr std::array<Positions, 3> kPositions = {{
     {"bubbleChart lineChart scatterChart stockChart", "ctr l r t b"},
 }};
 
-/// What groups have in common, by the groups that can have it.
+/// Elements that several groups share, and the groups that can have them.
 constexpr std::array<Extra, 5> kCommon = {{
     {"varyColors", "areaChart area3DChart barChart bar3DChart lineChart scatterChart bubbleChart"},
     {"dLbls",
@@ -125,7 +125,7 @@ void RemoveMisfits(ChartPart& part, pugi::xml_node series) {
 }
 
 void FitToGroup(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type) {
-  // only lines have it, and each that Excel or this host wrote does
+  // Only lines have it, and Excel and this host always write it.
   const bool wasLine = static_cast<bool>(xml::Child(series, "smooth"));
   RemoveMisfits(part, series);
   if (type.HasXValues()) {
@@ -135,14 +135,14 @@ void FitToGroup(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& ty
     Rename(series, "xVal", "cat");
     Rename(series, "yVal", "val");
   }
-  // readers differ in what they take the absence of these two for
+  // Readers have different defaults for these two.
   if ((type.IsBar() || type.IsBubble()) && !xml::Child(series, "invertIfNegative")) {
     schema::SetVal(series, "invertIfNegative", "0");
   }
   const bool isLine = type.IsLine() || type.element == "scatterChart";
   if (isLine && !wasLine) schema::SetVal(series, "smooth", "0");
   if (wasLine && !isLine) {
-    // a line that isn't shown would be an outline that isn't shown
+    // A hidden line would become a hidden outline.
     pugi::xml_node properties = xml::Child(series, "spPr");
     if (xml::Is(FindFill(xml::Child(properties, "ln")), "noFill")) schema::Remove(properties, "ln");
   }

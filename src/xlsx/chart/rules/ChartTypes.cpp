@@ -15,7 +15,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-// XlChartType, as far as the system doesn't know it.
+// The members of XlChartType that the port has no name for.
 constexpr std::int32_t xlLineStacked = 63, xlLineStacked100 = 64;
 constexpr std::int32_t xlLineMarkersStacked = 66, xlLineMarkersStacked100 = 67, xl3DLine = -4101;
 constexpr std::int32_t xlPieOfPie = 68, xlBarOfPie = 71, xlDoughnut = -4120, xlDoughnutExploded = 80;
@@ -70,7 +70,7 @@ constexpr ChartTypeEntry kChartTypeEntries[] = {
     {excel::xlBubble3DEffect, "bubbleChart", "", "", SeriesTrait::kBubble3D},
 };
 
-/// The types of three groupings, one row of the object model's list.
+/// The types for the three groupings: clustered, stacked and 100 % stacked.
 struct Stacking {
   std::int32_t single, stacked, percent;
 
@@ -87,8 +87,8 @@ constexpr Stacking kBars = {excel::xlBarClustered, excel::xlBarStacked, excel::x
 constexpr Stacking kLines = {excel::xlLine, xlLineStacked, xlLineStacked100};
 constexpr Stacking kMarkedLines = {excel::xlLineMarkers, xlLineMarkersStacked, xlLineMarkersStacked100};
 
-/// 3-D columns and bars by their shape (ST_Shape). Columns that stand behind each other are a type of their
-/// own; bars can't.
+/// 3-D columns and bars by their shape (ST_Shape). Columns drawn behind each other have their own type; there
+/// is none for bars.
 struct ColumnShape {
   std::string_view shape;
   Stacking columns, bars;
@@ -118,7 +118,7 @@ std::int32_t BarType(pugi::xml_node group, pugi::xml_node series, bool is3D) {
   const bool bars = schema::Val(group, "barDir", "col") == "bar";
   if (!is3D) return (bars ? kBars : kColumns).Of(grouping);
   std::string shape = schema::Val(series, "shape", schema::Val(group, "shape", "box"));
-  // "to max" cuts all at one height: the object model has no types for it
+  // The object model has no types for "to max", which cuts all shapes at one height.
   if (const auto cut = shape.find("ToMax"); cut != std::string::npos) shape.erase(cut);
   const auto found = std::find_if(kColumnShapes.begin(), kColumnShapes.end(),
                                   [&](const ColumnShape& entry) { return entry.shape == shape; });
@@ -127,7 +127,7 @@ std::int32_t BarType(pugi::xml_node group, pugi::xml_node series, bool is3D) {
   return (bars ? entry.bars : entry.columns).Of(grouping);
 }
 
-/// Whether a marker is drawn; `fallback` where the series doesn't say.
+/// Whether a marker is drawn; `fallback` if the series has no setting.
 bool HasMarkers(pugi::xml_node series, bool fallback) {
   const std::string symbol = schema::Val(xml::Child(series, "marker"), "symbol");
   return symbol.empty() ? fallback : symbol != "none";
@@ -151,7 +151,7 @@ std::int32_t ScatterType(pugi::xml_node group, pugi::xml_node series) {
   return markers ? xlXYScatterLines : xlXYScatterLinesNoMarkers;
 }
 
-/// A pie is exploded when a slice of it is.
+/// A pie counts as exploded if one of its slices is.
 bool IsExploded(pugi::xml_node series) {
   const auto moved = [](pugi::xml_node node) { return schema::IntegerVal(node, "explosion", 0) > 0; };
   if (xml::Child(series, "explosion")) return moved(series);

@@ -37,14 +37,14 @@ void Link(pugi::xml_node group, const std::string& id) {
   xml::SetAttribute(schema::Insert(group, "axId"), "val", id);
 }
 
-/// The number wanted or, if that is empty or some axis has it, one that none has.
+/// The wanted id, or an unused id if that is empty or already used.
 std::string FreeAxisId(pugi::xml_node plotArea, const std::string& wanted = {}) {
   std::set<std::string> taken;
   for (const pugi::xml_node& axis : plotArea.children()) {
     if (schema::IsAxis(axis)) taken.insert(AxisId(axis));
   }
   if (!wanted.empty() && !taken.contains(wanted)) return wanted;
-  long long id = 111111111;  // any would do; Excel's have nine digits
+  long long id = 111111111;  // any number works; Excel's ids have nine digits
   while (taken.contains(std::to_string(id))) ++id;
   return std::to_string(id);
 }
@@ -75,7 +75,7 @@ pugi::xml_node NewAxis(pugi::xml_node plotArea, std::string_view element) {
   return axis;
 }
 
-/// An axis that was laid aside, under a number that is free.
+/// Restores an axis that was laid aside, with an unused id.
 pugi::xml_node Restored(pugi::xml_node plotArea, pugi::xml_node laidAside) {
   const std::string id = FreeAxisId(plotArea, AxisId(laidAside));
   pugi::xml_node axis = schema::InsertCopy(plotArea, laidAside);
@@ -83,7 +83,7 @@ pugi::xml_node Restored(pugi::xml_node plotArea, pugi::xml_node laidAside) {
   return axis;
 }
 
-/// The axis that the chart has in a role, else the last that it had, else a new one.
+/// The axis that the chart has in a role, else the last one that it had, else a new one.
 pugi::xml_node EnsureAxis(ChartPart& part, pugi::xml_node present, const char* role) {
   if (present) return present;
   if (const auto laidAside = part.LaidAside(role).first_child()) return Restored(part.PlotArea(), laidAside);
@@ -93,7 +93,7 @@ pugi::xml_node EnsureAxis(ChartPart& part, pugi::xml_node present, const char* r
   return axis;
 }
 
-/// Lays an axis upright or flat, on the side that answers to the one it was on.
+/// Makes an axis vertical or horizontal, on the side that corresponds to its former side.
 void TurnAxis(pugi::xml_node axis, bool upright) {
   const std::string side = schema::Val(axis, "axPos", "b");
   const bool far = side == "t" || side == "r";
@@ -103,7 +103,7 @@ void TurnAxis(pugi::xml_node axis, bool upright) {
 }  // namespace
 
 std::vector<pugi::xml_node> AxesOf(pugi::xml_node group) {
-  constexpr std::size_t kMost = 3;  // with that of the depth
+  constexpr std::size_t kMost = 3;  // with the depth axis
   std::vector<pugi::xml_node> axes;
   auto links = xml::Children(group, "axId");
   links.resize(std::min(links.size(), kMost));
@@ -128,7 +128,7 @@ AxisRoles RolesOf(const std::vector<pugi::xml_node>& axes) {
   if (roles.category || values.size() < 2) {
     if (!values.empty()) roles.value = values[0];
   } else {
-    // the first is that of X, unless they lie the other way round
+    // The first is the X axis, unless the first is vertical and the second is not.
     const bool swapped = IsUpright(values[0]) && !IsUpright(values[1]);
     roles.x = values[swapped ? 1 : 0];
     roles.value = values[swapped ? 0 : 1];
@@ -153,7 +153,7 @@ void ShowAxes(ChartPart& part) {
   for (const pugi::xml_node& child : part.PlotArea().children()) {
     if (schema::IsAxis(child)) axes.push_back(child);
   }
-  // one that is hidden beside another was meant to be
+  // An axis that is hidden beside a visible one was hidden on purpose.
   const bool hidden = std::all_of(axes.begin(), axes.end(), [](const pugi::xml_node& axis) {
     return schema::BooleanVal(axis, "delete", false);
   });

@@ -19,7 +19,7 @@ namespace {
 
 pugi::xml_node FindLegend(ChartPart& part) { return xml::Child(part.Chart(), "legend"); }
 
-/// Whether the legend tells points apart: of a pie always, else of a single series in varied colours.
+/// Whether the legend lists points: always for a pie, else for a single series in varied colours.
 bool ListsPoints(ChartPart& part) {
   const auto groups = DrawnGroups(part);
   if (groups.empty()) return false;

@@ -23,7 +23,7 @@ namespace {
 
 constexpr std::array<std::string_view, 4> k3DViewElements = {"view3D", "floor", "sideWall", "backWall"};
 
-/// The name under which what belongs to the group's type is laid aside.
+/// The name under which the elements of the group's type are laid aside.
 std::string StateName(pugi::xml_node group) {
   return std::string(xml::LocalName(group)) + "-" + schema::Val(group, "barDir") + "-" +
          schema::Val(group, "grouping");
@@ -34,7 +34,7 @@ std::string StateName(const ChartTypeEntry& type) {
 }
 
 /// Copies of the group without its series, of the view, floor and walls of a 3-D chart, of the depth axis,
-/// and where the value axis crosses: all that a type has to itself.
+/// and of the crossing of the value axis: all elements that belong to one type.
 void LayTypeAside(ChartPart& part, pugi::xml_node group) {
   pugi::xml_node state = part.LayAside(StateName(group));
   pugi::xml_node kept = state.append_copy(group);
@@ -49,7 +49,7 @@ void LayTypeAside(ChartPart& part, pugi::xml_node group) {
   if (!between.empty()) xml::SetAttribute(state, "crossBetween", between);
 }
 
-/// The group of the type as it was laid aside, else one like an old one.
+/// The group that was laid aside for the type, else one derived from an old group.
 pugi::xml_node MakeGroup(ChartPart& part, pugi::xml_node old, const ChartTypeEntry& type,
                          pugi::xml_node state) {
   const auto laidAside = xml::Child(state, type.element);
@@ -59,8 +59,8 @@ pugi::xml_node MakeGroup(ChartPart& part, pugi::xml_node old, const ChartTypeEnt
   return group;
 }
 
-/// View, floor and walls: of the type laid aside, else as they are if they are of the same kind, else Excel's
-/// own.
+/// Sets view, floor and walls: those laid aside for the type, else the present ones of the same kind, else
+/// Excel's defaults.
 void Arrange3DView(pugi::xml_node chart, const ChartTypeEntry& type, pugi::xml_node state, bool sameKind) {
   if (!type.Is3D() || state || !sameKind) {
     for (const std::string_view element : k3DViewElements) schema::Remove(chart, element);
@@ -90,7 +90,7 @@ int DrawingRank(pugi::xml_node group) {
   return 3;
 }
 
-/// Moves a group to where it is drawn among the others.
+/// Moves a group to its place in the order of drawing.
 void PutInDrawingOrder(pugi::xml_node group) {
   for (const pugi::xml_node& other : group.parent().children()) {
     if (other != group && schema::IsGroup(other) && DrawingRank(other) > DrawingRank(group)) {
@@ -100,8 +100,8 @@ void PutInDrawingOrder(pugi::xml_node group) {
   }
 }
 
-/// The series that a person has filtered out. They are in the groups' extensions, and no part of the chart
-/// otherwise.
+/// The series that a person has filtered out. They are in the extensions of the groups and don't count as
+/// series of the chart.
 std::vector<pugi::xml_node> FilteredSeriesOf(ChartPart& part) {
   std::vector<pugi::xml_node> filtered;
   for (const pugi::xml_node& group : part.Groups()) {
@@ -114,7 +114,7 @@ std::vector<pugi::xml_node> FilteredSeriesOf(ChartPart& part) {
   return filtered;
 }
 
-/// The standard wants three or four series in a stock chart (CT_StockChart). One of any other number becomes
+/// A stock chart has three or four series (CT_StockChart). With any other number it becomes
 /// a line chart, which may have the same lines, bars and labels.
 void KeepStockWhole(pugi::xml_node group) {
   constexpr std::size_t kFewest = 3, kMost = 4;  // high, low and close; open before them
@@ -166,7 +166,7 @@ SeriesRef AddSeries(ChartPart& part) {
   } else if (const ChartTypeEntry* ofGroup = TypeOfGroup(group)) {
     FitToGroup(part, series, *ofGroup);
   }
-  SetLabels(series, false);  // a new one has none, whatever its group has for all
+  SetLabels(series, false);  // a new series has no labels, even if its group has some
   ClearStaleLegendEntries(part, all.size());
   if (all.empty() && part.CameEmpty()) ShowAxes(part);
   all.push_back(std::make_shared<SeriesEntry>(SeriesEntry{series}));
@@ -224,7 +224,7 @@ void SetType(ChartPart& part, const ChartTypeEntry& type) {
   const bool familyChanged = kind.empty() || CrossBetween(kind) != CrossBetween(type.element);
   ArrangeAxes(part, group, axes, type, state, familyChanged);
   Arrange3DView(part.Chart(), type, state, kind.starts_with("pie") == type.IsPie());
-  // Excel takes its absence for a gap, where others take it for zero; a pivot has blanks
+  // Without it, Excel shows gaps and other programs show zeros, and a pivot has blanks.
   if (!xml::Child(part.Chart(), "dispBlanksAs")) schema::SetVal(part.Chart(), "dispBlanksAs", "gap");
 }
 

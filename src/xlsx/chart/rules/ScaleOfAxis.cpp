@@ -20,7 +20,7 @@ using runtime::Variant;
 
 namespace {
 
-/// The least and the greatest of the numbers it is given.
+/// The least and the greatest number that were added.
 struct Extent {
   std::optional<double> least, greatest;
 
@@ -31,7 +31,7 @@ struct Extent {
   }
 };
 
-/// X values are numbers; where they are texts, points are counted.
+/// X values that are texts count as the numbers of their points.
 void AddXValues(pugi::xml_node series, Extent& extent) {
   const auto numbers = CachedNumbers(xml::Child(series, "xVal"));
   for (const Variant& number : numbers) {
@@ -42,7 +42,7 @@ void AddXValues(pugi::xml_node series, Extent& extent) {
   extent.Add(static_cast<double>(std::max<std::size_t>(PointCount(FindValues(series)), 1)));
 }
 
-/// Values stacked point by point: what is above zero, and what is below.
+/// The sums of stacked values by point, separately above and below zero.
 struct Pile {
   double above = 0, below = 0;
 };

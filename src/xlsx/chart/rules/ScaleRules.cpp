@@ -11,13 +11,13 @@ constexpr double kFarFromZero =
     1.0 / 6;                       // range to greatest value, below which an axis doesn't begin at zero
 constexpr double kFootroom = 0.5;  // of the range, below the least value of such an axis
 constexpr double kMostSteps = 10;  // major units on an axis of the usual length
-constexpr double kDust = 1e-9;     // of a unit: what is nearer to a step is on it
+constexpr double kDust = 1e-9;     // of a unit: a value that is nearer to a step is on the step
 
-/// The smallest of 1, 2, 5, 10, ... that divides a range into few enough steps.
+/// The smallest of 1, 2, 5, 10 and so on that divides a range into at most the allowed number of steps.
 double UnitFor(double range) {
   const double least = range / kMostSteps;
   const double power = std::pow(10, std::floor(std::log10(least)));
-  if (!(power > 0) || !std::isfinite(power)) return 1;  // no range, or at the end of all numbers
+  if (!(power > 0) || !std::isfinite(power)) return 1;  // no range, or beyond the range of numbers
   for (const double step : {1.0, 2.0, 5.0}) {
     if (step * power >= least * (1 - kDust)) return step * power;
   }
@@ -39,7 +39,7 @@ AxisScale LogScale(double least, double greatest, const AxisSettings& settings) 
           settings.majorUnit.value_or(scale.majorUnit)};
 }
 
-/// Where the limits would like to lie, before they go on to the next major unit.
+/// The limits before they are rounded outwards to the next major unit.
 struct Wish {
   double minimum, maximum;
 };
@@ -63,7 +63,7 @@ Wish WishFor(double least, double greatest, bool headroom) {
 AxisScale ScaleAxis(double least, double greatest, const AxisSettings& settings) {
   if (!std::isfinite(least) || !std::isfinite(greatest) || least > greatest) return ScaleEmptyAxis(settings);
   if (settings.logBase) return LogScale(least, greatest, settings);
-  // a single value is measured from zero
+  // A single value counts from zero.
   if (least == greatest && least > 0) least = 0;
   if (least == greatest && greatest < 0) greatest = 0;
   if (least == greatest) return ScaleEmptyAxis(settings);

@@ -41,7 +41,7 @@ const char* PropertyName(SeriesData which) {
   return "Values";
 }
 
-/// The cells of a formula without its equals sign, if they are of a sheet and no more than a cache holds.
+/// The cells of a formula without its equals sign, if a sheet has them and a cache has room for them.
 std::optional<Source> FindCells(ChartPart& part, std::string_view formula) {
   const auto range = ParseSheetRange(formula);
   auto sheet = range ? part.Book().FindCells(range->sheet) : nullptr;
@@ -57,7 +57,7 @@ Source FindSource(ChartPart& part, SeriesData which, const std::string& referenc
   return *std::move(source);
 }
 
-/// The cells that a series' data points at, if the part holds no cache of them.
+/// The cells that a series' data refers to, if the part has no cache of them.
 std::optional<Source> FindUncached(ChartPart& part, pugi::xml_node data) {
   for (const pugi::xml_node& reference : data.children()) {
     const auto formula = xml::Child(reference, "f");
@@ -106,25 +106,26 @@ void FillNumbers(pugi::xml_node reference, const Source& source) {
   ForEachCell(source, [&](std::size_t index, std::int32_t, std::int32_t, const CellValue& value) {
     if (value.kind == CellValue::Kind::kEmpty) return;
     const bool number = value.kind == CellValue::Kind::kNumber || value.kind == CellValue::Kind::kDate;
-    // a text among numbers is drawn as 0
+    // Excel draws a text among numbers as 0.
     cache.Add(index, number                                  ? xml::Number(value.number)
                      : value.kind == CellValue::Kind::kError ? std::string(value.text)
                                                              : "0");
   });
 }
 
-/// The element of the series that holds the data, emptied.
+/// Empties the element of the series that holds the data, and returns it.
 pugi::xml_node Emptied(pugi::xml_node series, std::string_view local) {
   pugi::xml_node data = schema::Ensure(series, local);
   data.remove_children();
   return data;
 }
 
-/// Whether a chart can hold the source's points besides those that it holds. They are repeated in it for
-/// readers without the cells; where there are too many, it points at the cells alone, which is as good to
+/// Whether a chart has room for the cache of the source. A cache is for readers without the
+/// cells. A chart with too many points only refers to its cells, which is enough for
 /// Excel.
 bool HasRoom(ChartPart& part, const Source& source) {
-  constexpr std::int64_t kReferences = std::int64_t{3} * 255;  // of a series, of Excel's largest chart
+  constexpr std::int64_t kReferences =
+      std::int64_t{3} * 255;  // 3 for each of the 255 series that Excel allows
   if (source.range.CellCount() <= limits::kCachePoints / kReferences) return true;
   std::size_t points = source.CellCount();
   for (const SeriesRef& entry : part.Series()) points += CachedPoints(entry->node);
@@ -161,7 +162,7 @@ std::size_t DataPoints(ChartPart& part, pugi::xml_node data) {
 }
 
 std::string SeriesName(ChartPart& part, pugi::xml_node series) {
-  constexpr std::size_t kMostCells = 1000;  // a chart may have many series that point at large ranges
+  constexpr std::size_t kMostCells = 1000;  // a chart may have many series with large ranges
   const auto tx = xml::Child(series, "tx");
   if (xml::Child(tx, "v")) return CachedText(tx);
   if (const auto cells = FindUncached(part, tx); cells && cells->CellCount() > kMostCells) return {};
@@ -172,14 +173,14 @@ std::string SeriesName(ChartPart& part, pugi::xml_node series) {
 
 std::string ShownName(ChartPart& part, pugi::xml_node series) {
   if (xml::Child(series, "tx")) return SeriesName(part, series);
-  // counted from the first, whatever its place in the file
+  // The number is that of the series, and not its place in the file.
   return "Series" + std::to_string(schema::IntegerVal(series, "idx", 0) + 1);
 }
 
 void SetSeriesData(ChartPart& part, pugi::xml_node series, SeriesData which, const Variant& value) {
   const auto* text = value.If<std::string>();
   if (text == nullptr) throw CantSet(PropertyName(which), "Series");
-  part.CatchUp();  // what is set now is as of now
+  part.CatchUp();  // references that are set now are up to date
   if (which == SeriesData::kName && !text->starts_with('=')) {
     SetCachedText(Emptied(series, "tx"), *text);
   } else {

@@ -17,7 +17,7 @@ namespace {
 constexpr std::int32_t xlDataLabelsShowNone = -4142, xlDataLabelsShowLabel = 4;
 constexpr std::int32_t xlDataLabelsShowLabelAndPercent = 5, xlDataLabelsShowBubbleSizes = 6;
 
-/// What labels of each type show.
+/// The items that labels of each type show.
 struct LabelType {
   std::int32_t number;  ///< XlDataLabelsType
   bool value = false, percent = false, category = false;
@@ -31,7 +31,7 @@ constexpr std::array<LabelType, 5> kLabelTypes = {{
 }};
 constexpr std::array<const char*, 6> kShown = {"showLegendKey", "showVal",     "showCatName",
                                                "showSerName",   "showPercent", "showBubbleSize"};
-/// What a label with a text of its own repeats of its series' labels, as the file has it.
+/// The elements of a series' labels that the file repeats in the label of a point.
 constexpr std::array<const char*, 5> kRepeated = {"numFmt", "spPr", "txPr", "dLblPos", "separator"};
 
 }  // namespace
