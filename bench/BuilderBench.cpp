@@ -4,9 +4,9 @@
 #include <iostream>
 
 #include "bench/TemporaryBook.h"
-#include "builder/DataSheet.h"
-#include "builder/PivotMap.h"
 #include "builder/SourceValidation.h"
+#include "builder/maps/PivotMap.h"
+#include "builder/sheet/DataSheet.h"
 #include "cli/Session.h"
 #include "common/RunVariables.h"
 

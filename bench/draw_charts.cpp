@@ -20,8 +20,8 @@
 #include "xlsx/SheetDrawing.h"
 #include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
-#include "xlsx/chart/ChartGeometry.h"
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/part/ChartPart.h"
+#include "xlsx/chart/rules/ChartGeometry.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include <iostream>
 #include <stdexcept>
 
-#include "builder/ChartComment.h"
-#include "common/CommonFunctions.h"
+#include "builder/looks/ChartComment.h"
+#include "common/Documents.h"
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
 #include "controller/System.h"

@@ -4,7 +4,7 @@
 #include "render/cairo/CairoPainter.h"
 #include "render/cairo/Fonts.h"
 #include "render/svg/SvgWriter.h"
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/part/ChartPart.h"
 
 namespace plotsmith::fuzz {
 

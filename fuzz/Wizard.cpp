@@ -12,9 +12,11 @@
 #include <vector>
 
 #include "cli/ConsoleDesktop.h"
-#include "common/CommonFunctions.h"
+#include "common/Cells.h"
+#include "common/Documents.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "common/Worksheets.h"
 #include "controller/CPlotsmithController.h"
 #include "controller/System.h"
 #include "forms/Buttons.h"

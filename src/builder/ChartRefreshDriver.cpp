@@ -2,24 +2,26 @@
 
 #include <vector>
 
-#include "builder/AbcChart.h"
-#include "builder/BubbleChart.h"
-#include "builder/BubbleQuadrants.h"
-#include "builder/BuilderVariables.h"
-#include "builder/ChartComment.h"
-#include "builder/DataSheet.h"
-#include "builder/DataSheetFinishing.h"
-#include "builder/PersistedProperties.h"
-#include "builder/PieChart.h"
-#include "builder/PivotMap.h"
 #include "builder/SourceValidation.h"
-#include "builder/StrategicBucketChart.h"
+#include "builder/families/AbcChart.h"
+#include "builder/families/BubbleChart.h"
+#include "builder/families/BubbleQuadrants.h"
+#include "builder/families/PieChart.h"
+#include "builder/families/StrategicBucketChart.h"
+#include "builder/looks/ChartComment.h"
+#include "builder/maps/PivotMap.h"
+#include "builder/sheet/DataSheet.h"
+#include "builder/sheet/DataSheetFinishing.h"
+#include "builder/state/BuilderVariables.h"
+#include "builder/state/PersistedProperties.h"
 #include "common/App.h"
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/ErrorBlocks.h"
+#include "common/HostAnswers.h"
 #include "common/Messages.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "common/YieldToHost.h"
 #include "dom/Dom.h"
 #include "host/desktop/Desktop.h"
 #include "metadata/MetadataStore.h"
@@ -39,7 +41,8 @@ void RunMacro(const char* sMacro, const std::vector<runtime::Variant>& aArgument
   IgnoreErrors([&] { oApplication->Run(sMacro, aArguments); });
 }
 
-/// The host as a run of builds wants it: calculation by hand and a still screen, both put back at the end.
+/// Sets manual calculation and turns screen updating off during a run of builds, and restores both at the
+/// end.
 class QuietHost {
  public:
   void Enter() {
@@ -51,8 +54,8 @@ class QuietHost {
     oApplication->SetScreenUpdating(false);
   }
 
-  /// After an error too. Calculation is put back if Enter has come to it; the screen follows again unless it
-  /// is known that it didn't.
+  /// Restores them after an error as well: calculation if Enter has set it, and screen updating unless it
+  /// was already off.
   void Leave() {
     IgnoreErrors(
         [&] {
@@ -72,9 +75,9 @@ void EnsureTablesAndCharts() {
   if (!colCharts) RetrieveChartDefinitions();
 }
 
-/// Runs the work directly up to host version 11, and else inside the busy window.
+/// Runs the task directly up to host version 11, and inside the busy window on newer hosts.
 void RunBehindBusyWindow(void (*work)(const std::string&), std::int32_t lWork, const std::string& sID) {
-  bool bClassic = true;  // what a version that can't be read counts as
+  bool bClassic = true;  // the value for a version that can't be read
   HandleErrors(
       [&] {
         bClassic = HostVersion(oApplication) <= kLastClassicVersion;
@@ -110,7 +113,7 @@ void DeleteAllSeries() {
   });
 }
 
-/// False for a type that nobody draws.
+/// False for an unknown chart type.
 bool DrawFamily(const IXMLDOMElement& oChartElement) {
   if (mChartType == "area" || mChartType == "bar" || mChartType == "column") {
     PopulateABCChart(oChartElement);
@@ -133,13 +136,13 @@ bool DrawFamily(const IXMLDOMElement& oChartElement) {
   return true;
 }
 
-/// The build itself, of a chart that is valid.
+/// Builds a chart whose definition is valid.
 void BuildChart(IXMLDOMElement& oChartElement, bool bCrosshatched) {
   if (!BuildPivotMap(oChartElement)) return;
   if (!PopulateDataSheetOffi2007(oChartElement)) return;
   if (!SortDataSheet(oChartElement)) return;
   RetrievePersistedProperties(oChartElement);
-  // the fonts that somebody gave this chart would shrink and grow with its frame
+  // Otherwise the fonts of this chart would scale with its frame.
   if (!mNewOrCopiedChart) mChart->ChartArea()->SetAutoScaleFont(false);
   if (!DrawFamily(oChartElement)) {
     ShowMessage(std::string("PSChartBuilder.PopulateChart") + kLineBreak + "Unknown chart type");
@@ -148,7 +151,7 @@ void BuildChart(IXMLDOMElement& oChartElement, bool bCrosshatched) {
   SetChartComment(oChartElement);
   if (mNewOrCopiedChart) {
     mChart->PlotArea()->Interior()->SetColorIndex(excel::xlColorIndexNone);
-    mChart->PlotArea()->Border()->SetLineStyle(0);  // none of Excel's line styles, and so none at all
+    mChart->PlotArea()->Border()->SetLineStyle(0);  // 0 is not a line style of Excel and removes the line
   }
   if (bCrosshatched) {
     oChartElement.setAttribute("chart-area-crosshatched", "no");
@@ -181,7 +184,7 @@ void PopulateAllCharts() {
 
 void PopulateModifiedCharts(const std::string& sTableRangeName) {
   QuietHost oQuiet;
-  lMethodType = method::kRefresh;  // these charts are there already, whatever the last run made
+  lMethodType = method::kRefresh;  // these charts already exist
   RunMacro(kRefreshStartedMacro);
   ReportErrors("PSChartBuilder.PopulateModifiedCharts", [&] {
     oQuiet.Enter();

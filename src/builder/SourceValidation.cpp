@@ -1,9 +1,13 @@
 #include "builder/SourceValidation.h"
 
-#include "common/CommonFunctions.h"
+#include <array>
+
+#include "common/Documents.h"
 #include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 #include "common/RunVariables.h"
+#include "common/Values.h"
+#include "common/YieldToHost.h"
 #include "runtime/Strings.h"
 #include "runtime/Variant.h"
 
@@ -28,7 +32,7 @@ constexpr const char* kNoBucketTable =
 constexpr const char* kBucketMismatch =
     "Chart '/TKN/' has become unavailable because its strategic bucket table doesn't match the source table.";
 
-/// The sheet column of the first of `aColumns` with the name, as the table has it; "" if there is none.
+/// The sheet column of the first of `aColumns` with the name, as a text; "" if there is none.
 std::string ColumnNumber(const dom::IXMLDOMNodeList& aColumns, const std::string& sName, bool bYield) {
   for (const IXMLDOMElement& oColumn : aColumns) {
     if (runtime::EqualsIgnoreCase(GetAttributeText(oColumn, "name"), sName)) {
@@ -44,6 +48,50 @@ bool Fail(const char* sTemplate, std::initializer_list<runtime::Variant> aTokens
   return false;
 }
 
+/// Writes the place of the table into the definition.
+void StoreTablePlace(IXMLDOMElement& oChartElement, const IXMLDOMElement& oTable) {
+  constexpr std::array kPlaces = {"table-top-row", "table-left-column", "table-height", "header-row-count"};
+  std::array<std::int32_t, kPlaces.size()> aPlaces;
+  // A table with a broken place raises its error before anything is written.
+  for (std::size_t i = 0; i < kPlaces.size(); ++i) aPlaces[i] = GetAttributeLong(oTable, kPlaces[i]);
+  oChartElement.setAttribute("table-worksheet", GetAttributeText(oTable, "table-worksheet"));
+  for (std::size_t i = 0; i < kPlaces.size(); ++i) oChartElement.setAttribute(kPlaces[i], aPlaces[i]);
+}
+
+/// Finds the columns of the chart in its table.
+bool ValidateColumns(const IXMLDOMElement& oChartElement, const IXMLDOMElement& oTable) {
+  for (const char* sGroup : {"categories", "series", "values", "x-values", "bubble-sizes", "sort-order"}) {
+    const auto oGroup = oChartElement.selectSingleNode(sGroup);
+    if (!oGroup) continue;
+    const bool bOwnHeadings =
+        sGroup == std::string_view("categories") || sGroup == std::string_view("series");
+    const std::string sHeadingsIn = bOwnHeadings ? GetAttributeText(oGroup, "headings-in") : "columns";
+    for (IXMLDOMElement oColumn : oGroup.selectNodes("column")) {
+      if (!ValidateSourceColumn(oColumn, oTable, sHeadingsIn)) {
+        return Fail(kBadColumn, {GetAttributeText(oChartElement, "name"), GetAttributeText(oColumn, "name"),
+                                 GetAttributeText(oTable, "name")});
+      }
+      YieldToHost();
+    }
+  }
+  return true;
+}
+
+/// Finds the columns of a bucket table in the chart's table.
+bool ValidateBuckets(IXMLDOMElement& oChartElement, const IXMLDOMElement& oTable) {
+  const std::string sBucketTable = GetAttributeText(oChartElement, "strategic-bucket-table-id");
+  const std::string sName = GetAttributeText(oChartElement, "name");
+  if (sBucketTable.empty()) return true;
+  if (!CollectionHasKey(sBucketTable, colTables)) return Fail(kNoBucketTable, {sName});
+  const auto oBucketTable = colTables->Item(sBucketTable).selectSingleNode("table");
+  for (const char* sKind : {"bucket-name-column", "bucket-value-column"}) {
+    const std::int32_t lColumn = BucketColumnPosition(GetAttributeText(oBucketTable, sKind), sKind, oTable);
+    if (lColumn == 0) return Fail(kBucketMismatch, {sName});
+    oChartElement.setAttribute((std::string(sKind) + "-position").c_str(), lColumn);
+  }
+  return true;
+}
+
 }  // namespace
 
 bool ValidateSourceData(IXMLDOMElement& oChartElement) {
@@ -52,47 +100,16 @@ bool ValidateSourceData(IXMLDOMElement& oChartElement) {
     const std::string sName = GetAttributeText(oChartElement, "name");
     if (!CollectionHasKey(sTable, colTables)) return Fail(kNoTable, {sName});
     const auto oTable = colTables->Item(sTable).selectSingleNode("table");
-    const std::string sSheet = GetAttributeText(oTable, "table-worksheet");
-    const std::string sTableName = GetAttributeText(oTable, "name");
-    const std::int32_t lTop = GetAttributeLong(oTable, "table-top-row");
-    const std::int32_t lLeft = GetAttributeLong(oTable, "table-left-column");
-    const std::int32_t lHeight = GetAttributeLong(oTable, "table-height");
-    const std::int32_t lHeaders = GetAttributeLong(oTable, "header-row-count");
-    oChartElement.setAttribute("table-worksheet", sSheet);
-    oChartElement.setAttribute("table-top-row", lTop);
-    oChartElement.setAttribute("table-left-column", lLeft);
-    oChartElement.setAttribute("table-height", lHeight);
-    oChartElement.setAttribute("header-row-count", lHeaders);
-    if (lHeight <= lHeaders) return Fail(kNoData, {sName, sTableName});
-
-    for (const char* sGroup : {"categories", "series", "values", "x-values", "bubble-sizes", "sort-order"}) {
-      const auto oGroup = oChartElement.selectSingleNode(sGroup);
-      if (!oGroup) continue;
-      const bool bOwnHeadings =
-          sGroup == std::string_view("categories") || sGroup == std::string_view("series");
-      const std::string sHeadingsIn = bOwnHeadings ? GetAttributeText(oGroup, "headings-in") : "columns";
-      for (IXMLDOMElement oColumn : oGroup.selectNodes("column")) {
-        if (!ValidateSourceColumn(oColumn, oTable, sHeadingsIn)) {
-          return Fail(kBadColumn, {sName, GetAttributeText(oColumn, "name"), sTableName});
-        }
-        YieldToHost();
-      }
+    StoreTablePlace(oChartElement, oTable);
+    if (GetAttributeLong(oTable, "table-height") <= GetAttributeLong(oTable, "header-row-count")) {
+      return Fail(kNoData, {sName, GetAttributeText(oTable, "name")});
     }
-
-    const std::string sBucketTable = GetAttributeText(oChartElement, "strategic-bucket-table-id");
-    if (sBucketTable.empty()) return true;
-    if (!CollectionHasKey(sBucketTable, colTables)) return Fail(kNoBucketTable, {sName});
-    const auto oBucketTable = colTables->Item(sBucketTable).selectSingleNode("table");
-    for (const char* sKind : {"bucket-name-column", "bucket-value-column"}) {
-      const std::int32_t lColumn = BucketColumnPosition(GetAttributeText(oBucketTable, sKind), sKind, oTable);
-      if (lColumn == 0) return Fail(kBucketMismatch, {sName});
-      oChartElement.setAttribute((std::string(sKind) + "-position").c_str(), lColumn);
-    }
-    return true;
+    return ValidateColumns(oChartElement, oTable) && ValidateBuckets(oChartElement, oTable);
   });
 }
 
-// Only the name decides, wherever the headings are: a text is as good in the columns of values as a number.
+// Only the name decides. The place of the headings doesn't matter, because a column of values may be a label
+// column or a number column.
 bool ValidateSourceColumn(IXMLDOMElement& oColumnElement, const IXMLDOMElement& oTableElement,
                           std::string_view /*sHeadingsIn*/) {
   return ReportErrors("PSChartBuilder.ValidateSourceColumn", false, [&] {

@@ -6,18 +6,18 @@
 
 #include "dom/Dom.h"
 
-/// Module PSChartBuilder: a definition against the tables as they are now. What is found is carried into the
-/// definition, and everything behind this step reads the geometry from there.
+/// Module PSChartBuilder: checks a definition against the tables as they are now. The places of the table and
+/// of its columns are written into the definition, from which all later steps read them.
 namespace plotsmith {
 
-/// False, after a message, if the chart can't be built.
+/// Shows a message and returns False if the chart can't be built.
 bool ValidateSourceData(dom::IXMLDOMElement& oChartElement);
-/// Whether the table has a column of that name, of either kind, ignoring case; then the chart's column gets
-/// its sheet column.
+/// Whether the table has a column of that name, of either kind, ignoring case. If so, the sheet column is
+/// written into the chart's column.
 bool ValidateSourceColumn(dom::IXMLDOMElement& oColumnElement, const dom::IXMLDOMElement& oTableElement,
                           std::string_view sHeadingsIn);
-/// The sheet column, 0 if there is none, of a bucket table's heading in the source table. `sColumnKind` is
-/// "bucket-name-column", sought among the label columns, or "bucket-value-column", among the number columns.
+/// The sheet column of a heading in a bucket table, from 1; 0 if the table doesn't have it. `sColumnKind` is
+/// "bucket-name-column" for a label column or "bucket-value-column" for a number column.
 std::int32_t BucketColumnPosition(const std::string& sColumnName, std::string_view sColumnKind,
                                   const dom::IXMLDOMElement& oTableElement);
 

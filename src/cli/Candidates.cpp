@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "cli/Session.h"
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/RunVariables.h"
 #include "runtime/Strings.h"
 

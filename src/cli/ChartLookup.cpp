@@ -1,7 +1,7 @@
 #include "cli/ChartLookup.h"
 
 #include "cli/check/Words.h"
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/RunVariables.h"
 #include "runtime/Strings.h"
 

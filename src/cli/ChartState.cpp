@@ -1,6 +1,6 @@
 #include "cli/ChartState.h"
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/ErrorBlocks.h"
 
 namespace plotsmith::cli {

@@ -7,9 +7,10 @@
 
 #include "cli/ChartState.h"
 #include "cli/check/Words.h"
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "common/Worksheets.h"
 #include "controller/System.h"
 #include "dom/Dom.h"
 #include "forms/UnattendedView.h"

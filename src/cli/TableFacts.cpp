@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 
 namespace plotsmith::cli {
 

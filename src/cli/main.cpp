@@ -2,9 +2,9 @@
 #include <iostream>
 #include <optional>
 
-#include "cli/CommandLine.h"
 #include "cli/Platform.h"
 #include "cli/TerminalText.h"
+#include "cli/line/CommandLine.h"
 
 int main(int argc, char** argv) {
   using namespace plotsmith::cli;

@@ -8,8 +8,8 @@
 
 namespace plotsmith {
 
-/// What the component finds around it, apart from the spreadsheet. The program that puts the component and a
-/// host together sets it once.
+/// The surroundings of the component, apart from the spreadsheet. The program that puts the component and a
+/// host together sets them once.
 struct AppObject {
   std::string HelpFile;  ///< opened by the pages' Help buttons
   runtime::Ref<desktop::Desktop> Desktop;

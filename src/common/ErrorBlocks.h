@@ -6,13 +6,12 @@
 #include "common/Messages.h"
 #include "runtime/RuntimeError.h"
 
-/// The shapes that dealing with an error has in this system: error blocks (ReportErrors, HandleErrors),
-/// statements that may fail one by one (IgnoreErrors), reads that turn failure into a value (ValueOr). There
-/// is no other try in it.
+/// The ways in which the system handles errors: error blocks (ReportErrors, HandleErrors), statements that
+/// may fail one by one (IgnoreErrors), and reads that turn an error into a value (ValueOr). No other code of
+/// the system has a try block.
 namespace plotsmith {
 
-/// A procedure's error block: an error skips the rest of `body`, is shown under the procedure's name, and
-/// ends there.
+/// The error block of a procedure. An error ends `body` and is shown under the procedure's name.
 template <class Body>
 requires std::is_void_v<std::invoke_result_t<Body>>
 void ReportErrors(const char* sProcedure, Body&& body) {
@@ -23,14 +22,14 @@ void ReportErrors(const char* sProcedure, Body&& body) {
   }
 }
 
-/// The same for a function: `vHeld` is its result after an error.
+/// The error block of a function. After an error the result is `vHeld`.
 template <class Result, class Body>
 Result ReportErrors(const char* sProcedure, Result vHeld, Body&& body) {
   ReportErrors(sProcedure, [&] { vHeld = body(); });
   return vHeld;
 }
 
-/// An error block that does something of its own.
+/// An error block that calls `handler` with the error.
 template <class Body, class Handler>
 void HandleErrors(Body&& body, Handler&& handler) {
   try {
@@ -40,7 +39,7 @@ void HandleErrors(Body&& body, Handler&& handler) {
   }
 }
 
-/// Statements with errors ignored: one that fails is passed over, and the next runs.
+/// Runs statements one after the other. A statement that fails ends, and the next one runs.
 template <class... Statements>
 void IgnoreErrors(Statements&&... statements) {
   const auto guard = [](auto&& statement) {
@@ -54,7 +53,7 @@ void IgnoreErrors(Statements&&... statements) {
   (guard(statements), ...);
 }
 
-/// A read in which failure is a value.
+/// The result of a read, or `vFallback` if the read fails.
 template <class Result, class Read>
 Result ValueOr(Result vFallback, Read&& read) {
   try {

@@ -14,13 +14,13 @@ namespace {
 
 constexpr std::int32_t kDefaultCharset = 1;
 constexpr double kLeastSize = 8;           // points
-constexpr double kLeastEastAsianSize = 9;  // points: ideographs and syllables blur below
+constexpr double kLeastEastAsianSize = 9;  // points: smaller ideographs and syllables are not legible
 
-/// What the fonts of one locale need.
+/// The font settings of a locale.
 struct LocaleFont {
   std::int32_t lLCID;
   std::int32_t lCharset;
-  const char* sTypeface;  ///< null for the system's own choice
+  const char* sTypeface;  ///< null if the system chooses the typeface
 };
 
 constexpr LocaleFont kLocaleFonts[] = {
@@ -72,7 +72,7 @@ void ApplyLocaleFontsToForm(forms::Form& oForm) {
     if (std::string_view(oControl->TypeName()) == "VSFlexGrid") continue;
     HandleErrors([&] { ApplyLocaleFont(oControl->Font()); },
                  [](const runtime::RuntimeError& oErr) {
-                   // a control without a font, such as a picture, is passed over
+                   // A control without a font, such as a picture, is skipped.
                    if (oErr.Number() != runtime::error::kNoSuchMember) throw oErr;
                  });
   }

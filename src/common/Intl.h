@@ -2,7 +2,7 @@
 
 #include "forms/Form.h"
 
-/// Module Intl: the pages' fonts fit the script of the user's locale. The texts stay in English.
+/// Module Intl: fits the fonts of the pages to the script of the user's locale. The texts stay in English.
 namespace plotsmith {
 
 /// Sets the character set of the user's locale, which the desktop tells, and for East Asian languages a
@@ -11,7 +11,7 @@ namespace plotsmith {
 void ApplyLocaleFont(forms::Font& oFont);
 /// Lets the system choose its user interface font, of at least 8 points.
 void SetDefaultLocaleFont(forms::Font& oFont);
-/// Applies the locale to the font of a form and to those of its controls. Grids keep theirs.
+/// Applies the locale to the fonts of a form and of its controls. Grids keep their fonts.
 void ApplyLocaleFontsToForm(forms::Form& oForm);
 
 }  // namespace plotsmith

@@ -6,20 +6,21 @@ namespace plotsmith {
 
 inline constexpr const char* kProductTitle = "Brindle Plotsmith";
 
-/// The very hidden sheet of the chart definitions: A1 marks it, the documents follow one a row from A2.
+/// The very hidden sheet of the chart definitions. A1 has its mark, and the cells from A2 on have a document
+/// each.
 inline constexpr const char* kDefinitionsSheet = "VEX_ChartDefinitions";
 inline constexpr const char* kDefinitionsSheetMark = "Plotsmith Version 2.0";
-/// The very hidden sheet of the pivoted data: blocks of rows, one a chart.
+/// The very hidden sheet of the pivoted data. Each chart has a block of rows on it.
 inline constexpr const char* kDataSheet = "VEX_ChartData";
 
-/// The columns of a block: the chart's id in each row, the name of the row's category, then the series.
+/// The columns of a block, from 1: the chart's id in each row, the name of the row's category, the series.
 namespace data_column {
 inline constexpr std::int32_t kId = 1;
 inline constexpr std::int32_t kName = 2;
 inline constexpr std::int32_t kFirstSeries = 3;
 }  // namespace data_column
 
-/// What a chart's definition says of its table's sheet when the table is gone.
+/// The name of the table's sheet in a definition whose table was deleted.
 inline constexpr const char* kDeletedTable = "[Deleted]";
 
 inline constexpr const char* kRefreshStartedMacro = "VEXEvents.VEXChartRefreshStarted";
@@ -27,10 +28,10 @@ inline constexpr const char* kRefreshCompleteMacro = "VEXEvents.VEXChartRefreshC
 
 inline constexpr const char* kLineBreak = "\r\n";
 
-/// The last host version that has neither the busy window nor A1 references for series names.
+/// The last host version without the busy window and without A1 references for series names.
 inline constexpr double kLastClassicVersion = 11.0;
 
-/// What a run is doing (`lMethodType`).
+/// The task of a run (`lMethodType`).
 namespace method {
 inline constexpr std::int32_t kNew = 0;
 inline constexpr std::int32_t kModify = 1;
@@ -39,7 +40,7 @@ inline constexpr std::int32_t kDelete = 3;
 inline constexpr std::int32_t kRefresh = 4;
 }  // namespace method
 
-/// What `GetCellValue` returns of a cell.
+/// What `GetCellValue` returns: the displayed text, the number, or the value as a text.
 namespace cell {
 inline constexpr std::int32_t kText = 0;
 inline constexpr std::int32_t kDouble = 1;

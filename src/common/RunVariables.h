@@ -8,32 +8,32 @@
 #include "runtime/Collection.h"
 #include "runtime/Ref.h"
 
-/// The state of a run: one call from the host. What is known of the chart being built is in
-/// BuilderVariables.h.
+/// The state of a run, which is one call from the host. BuilderVariables.h has the state of the chart being
+/// built.
 namespace plotsmith {
 
 using DocumentCollection = runtime::Collection<dom::IXMLDOMDocument2>;
 
-extern runtime::Ref<excel::Application> oApplication;  ///< the host: set by the first call, for good
-extern std::string sCustomAppName;                     ///< the host's name for itself, likewise
-extern runtime::Ref<excel::Workbook> oWorkbook;        ///< the workbook worked on
+extern runtime::Ref<excel::Application> oApplication;  ///< the host, which the first call sets for good
+extern std::string sCustomAppName;               ///< the host's name, which the first call sets for good
+extern runtime::Ref<excel::Workbook> oWorkbook;  ///< the workbook that the run works on
 
 extern runtime::Ref<DocumentCollection> colTables;  ///< table documents by table id; Nothing until discovered
 extern runtime::Ref<DocumentCollection> colCharts;  ///< chart documents by chart id; Nothing until loaded
-/// Charts, and the comment boxes of those that have one, by chart id.
+/// The charts, and the comment boxes of charts that have one, by chart id.
 extern runtime::Ref<runtime::Collection<runtime::Ref<excel::Chart>>> colChartObjects;
 extern runtime::Ref<runtime::Collection<runtime::Ref<excel::Shape>>> colChartShapes;
 
 extern dom::IXMLDOMDocument2 oChartDoc;  ///< the document being edited
-extern std::int32_t lMethodType;         ///< what the run is doing, see PSConstants.h; kept between runs
-extern std::string sChartType;           ///< of the chart in hand; "unknown" without one
-extern std::string sChartID;             ///< of the chart in hand
-extern std::string sTableID;             ///< the source table of the chart in hand
-extern std::string sPendingMessage;      ///< what the next ShowMessage with nothing to say shows
+extern std::int32_t lMethodType;         ///< the task of the run, see PSConstants.h; kept between runs
+extern std::string sChartType;           ///< of the current chart; "unknown" without one
+extern std::string sChartID;             ///< of the current chart
+extern std::string sTableID;             ///< the source table of the current chart
+extern std::string sPendingMessage;      ///< the text of the next ShowMessage without a text
 extern bool bRunAborted;                 ///< the run ended in an error
 extern bool bUnloadingPage;              ///< the controller, and not the user, is closing a page
 
-/// Everything back to how the component starts, the host included.
+/// Resets all of them, with the host, to their values at the start of the component.
 void ResetRunVariables();
 
 }  // namespace plotsmith

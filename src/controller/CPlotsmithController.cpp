@@ -4,7 +4,6 @@
 
 #include "builder/ChartRefreshDriver.h"
 #include "common/App.h"
-#include "common/CommonFunctions.h"
 #include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 #include "common/RunVariables.h"

@@ -7,11 +7,12 @@
 
 #include "builder/ChartRefreshDriver.h"
 #include "common/App.h"
-#include "common/CommonFunctions.h"
 #include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "common/Worksheets.h"
+#include "common/YieldToHost.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"
 #include "pages/frmPSChartLocation.h"

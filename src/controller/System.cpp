@@ -2,11 +2,11 @@
 
 #include <utility>
 
-#include "builder/BuilderVariables.h"
 #include "builder/ChartRefreshDriver.h"
+#include "builder/state/BuilderVariables.h"
 #include "common/App.h"
-#include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
+#include "common/YieldToHost.h"
 #include "controller/PSController.h"
 #include "pages/frmBusyPS.h"
 #include "runtime/RuntimeError.h"

@@ -1,8 +1,9 @@
 #include "metadata/ColumnRenaming.h"
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/ErrorBlocks.h"
 #include "common/RunVariables.h"
+#include "common/YieldToHost.h"
 #include "dom/Dom.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"

@@ -3,10 +3,11 @@
 #include <charconv>
 #include <string_view>
 
-#include "common/CommonFunctions.h"
+#include "common/Cells.h"
 #include "common/ErrorBlocks.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "common/Worksheets.h"
 #include "metadata/SavingPrograms.h"
 #include "runtime/Ref.h"
 

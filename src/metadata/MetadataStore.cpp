@@ -4,11 +4,15 @@
 #include <array>
 #include <vector>
 
-#include "common/CommonFunctions.h"
+#include "common/Cells.h"
+#include "common/Documents.h"
 #include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "common/Values.h"
+#include "common/Worksheets.h"
+#include "common/YieldToHost.h"
 #include "metadata/LostMarkers.h"
 #include "metadata/SavingPrograms.h"
 #include "metadata/StrategicBuckets.h"

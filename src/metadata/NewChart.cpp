@@ -1,8 +1,10 @@
 #include "metadata/NewChart.h"
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/ErrorBlocks.h"
 #include "common/RunVariables.h"
+#include "common/Values.h"
+#include "common/YieldToHost.h"
 #include "runtime/Strings.h"
 
 namespace plotsmith {

@@ -1,7 +1,9 @@
 #include "metadata/StrategicBuckets.h"
 
-#include "common/CommonFunctions.h"
+#include "common/Cells.h"
+#include "common/Documents.h"
 #include "common/ErrorBlocks.h"
+#include "common/YieldToHost.h"
 #include "runtime/Ref.h"
 #include "runtime/Strings.h"
 #include "runtime/Variant.h"

@@ -2,9 +2,12 @@
 
 #include <array>
 
-#include "common/CommonFunctions.h"
+#include "common/Cells.h"
+#include "common/Documents.h"
 #include "common/ErrorBlocks.h"
 #include "common/RunVariables.h"
+#include "common/Values.h"
+#include "common/YieldToHost.h"
 #include "runtime/Strings.h"
 #include "runtime/Variant.h"
 

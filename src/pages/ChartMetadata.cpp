@@ -1,6 +1,6 @@
 #include "pages/ChartMetadata.h"
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/RunVariables.h"
 
 namespace plotsmith {

@@ -1,6 +1,7 @@
 #include "pages/ControlGroups.h"
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
+#include "common/HostAnswers.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
 #include "pages/ChartMetadata.h"

@@ -2,8 +2,9 @@
 
 #include <array>
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/RunVariables.h"
+#include "common/Values.h"
 #include "pages/ChartMetadata.h"
 #include "pages/EventProcedure.h"
 #include "runtime/Strings.h"

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "common/CommonFunctions.h"
+#include "common/YieldToHost.h"
 
 namespace plotsmith {
 namespace {

@@ -1,8 +1,11 @@
 #include "pages/frmPSChartLocation.h"
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
+#include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 #include "common/RunVariables.h"
+#include "common/Values.h"
+#include "common/Worksheets.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/NewChart.h"
 #include "pages/ChartMetadata.h"

@@ -4,7 +4,8 @@
 #include <array>
 #include <string_view>
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
+#include "common/ErrorBlocks.h"
 #include "common/RunVariables.h"
 #include "pages/ChartMetadata.h"
 #include "pages/EventProcedure.h"

@@ -2,7 +2,8 @@
 
 #include <array>
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
+#include "common/ErrorBlocks.h"
 #include "pages/ChartMetadata.h"
 #include "pages/EventProcedure.h"
 #include "pages/LayoutMessages.h"

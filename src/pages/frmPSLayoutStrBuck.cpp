@@ -6,7 +6,8 @@
 #include <iterator>
 #include <utility>
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
+#include "common/ErrorBlocks.h"
 #include "metadata/StrategicBuckets.h"
 #include "pages/ChartMetadata.h"
 #include "pages/EventProcedure.h"

@@ -4,10 +4,12 @@
 #include <cmath>
 #include <vector>
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
+#include "common/ErrorBlocks.h"
 #include "common/Messages.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
+#include "common/Worksheets.h"
 #include "host/desktop/Desktop.h"
 #include "metadata/NewChart.h"
 #include "pages/ChartMetadata.h"

@@ -5,8 +5,9 @@
 #include <utility>
 #include <vector>
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/ErrorBlocks.h"
+#include "common/Values.h"
 #include "runtime/Variant.h"
 
 namespace plotsmith {

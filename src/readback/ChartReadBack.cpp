@@ -5,8 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/ErrorBlocks.h"
+#include "common/Values.h"
 #include "readback/ChartAppearance.h"
 #include "runtime/Strings.h"
 

@@ -12,8 +12,8 @@
 #include "render/model/ChartReader.h"
 #include "render/shapes/UserShapes.h"
 #include "render/threed/Plot3D.h"
-#include "xlsx/chart/AutomaticColors.h"
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/part/ChartPart.h"
+#include "xlsx/chart/rules/AutomaticColors.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::render {

@@ -56,7 +56,7 @@ void Application::SetCalculation(std::int32_t value) {
   calculation_ = value;
 }
 
-// there is nobody to alert
+// This host shows no alerts.
 void Application::SetDisplayAlerts(bool value) { journal_.Put(Self, "DisplayAlerts", value); }
 
 std::string Application::StandardFont() { return workbook_ ? workbook_->NormalFontName() : "Calibri"; }

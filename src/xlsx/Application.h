@@ -7,19 +7,19 @@
 #include <vector>
 
 #include "host/excel/Excel.h"
-#include "xlsx/Journal.h"
+#include "xlsx/base/Journal.h"
 
 namespace plotsmith::xlsx {
 
 class Workbook;
 
-/// The embedded host: one workbook file, and no spreadsheet program. The objects that it hands out must not
-/// be used after it is gone.
+/// The embedded host: one workbook file without a spreadsheet program. The objects that it returns must not
+/// be used after it has been destroyed.
 class Application : public excel::Application, public std::enable_shared_from_this<Application> {
  public:
   using Macro = std::function<void(const std::vector<runtime::Variant>& arguments)>;
 
-  /// `version` as Excel tells it, such as "16.0".
+  /// `version` is what Version returns, such as "16.0".
   static std::shared_ptr<Application> Create(std::string version = "16.0");
   ~Application() override;
 
@@ -27,9 +27,10 @@ class Application : public excel::Application, public std::enable_shared_from_th
   Workbook& Open(const std::string& path);
   /// Makes an empty workbook of one sheet the active one.
   Workbook& NewWorkbook();
+  /// The active workbook. There must be one.
   Workbook& Book() { return *workbook_; }
 
-  /// A macro that Run finds, as a host add-in would bring it.
+  /// Defines a macro for Run, as an add-in does in Excel.
   void DefineMacro(const std::string& name, Macro macro) { macros_[name] = std::move(macro); }
   xlsx::Journal& Journal() { return journal_; }
 
@@ -44,7 +45,7 @@ class Application : public excel::Application, public std::enable_shared_from_th
   std::int32_t Calculation() override { return calculation_; }
   void SetCalculation(std::int32_t value) override;
   void SetDisplayAlerts(bool value) override;
-  /// The font that new workbooks get, in Excel; here that of the workbook's cells.
+  /// In Excel this is the font of new workbooks; here it is the font of the workbook's Normal style.
   std::string StandardFont() override;
   double StandardFontSize() override;
   void Run(std::string_view macro, const std::vector<runtime::Variant>& arguments) override;

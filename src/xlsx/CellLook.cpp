@@ -49,14 +49,14 @@ std::optional<std::int32_t> ColorOf(pugi::xml_node color, const Styles& styles, 
   if (themed >= 0 && themed < static_cast<long long>(kThemeColors.size()))
     return Tinted(theme, "schemeClr", kThemeColors[static_cast<std::size_t>(themed)], tint);
   auto rgb = ParseRgb(xml::Attribute(color, "rgb"));
-  // the first eight are fixed, the palette follows, and behind it are the colours of the window
+  // The first eight are fixed. The palette follows, and after it the colours of the window.
   const auto indexed = xml::IntegerAttribute(color, "indexed", -1);
   if (indexed >= 0 && indexed < 8) rgb = DefaultPaletteColor(static_cast<std::int32_t>(indexed) + 1);
   if (indexed >= 8 && indexed < 64) rgb = styles.PaletteColor(static_cast<std::int32_t>(indexed) - 7);
   return rgb ? Tinted(theme, "srgbClr", RgbText(*rgb), tint) : std::nullopt;
 }
 
-/// One colour for a fill: of a pattern its background, of a gradient its beginning.
+/// One colour for a fill: the background of a pattern, or the first colour of a gradient.
 std::optional<std::int32_t> FillColorOf(pugi::xml_node fill, const Styles& styles, const Theme& theme) {
   if (const auto gradient = xml::Child(fill, "gradientFill"))
     return ColorOf(xml::Child(gradient, "stop", "color"), styles, theme);
@@ -85,7 +85,7 @@ VerticalAlignment VerticalOf(const std::string& text) {
   return text == "center" || text == "distributed" ? VerticalAlignment::kCenter : VerticalAlignment::kBottom;
 }
 
-/// `edges` are the names of an edge: a file says "start" where it doesn't say "left".
+/// `edges` are the names of an edge: some files have "start" instead of "left".
 BorderLine BorderOf(pugi::xml_node border, std::initializer_list<std::string_view> edges,
                     const Styles& styles, const Theme& theme) {
   for (const std::string_view edge : edges) {
@@ -98,7 +98,7 @@ BorderLine BorderOf(pugi::xml_node border, std::initializer_list<std::string_vie
   return {};
 }
 
-/// Whether a font has what an element such as `b` switches on.
+/// Whether an element such as `b` is present and on.
 bool Has(pugi::xml_node font, std::string_view element) {
   const auto node = xml::Child(font, element);
   return node && xml::BooleanAttribute(node, "val", true);

@@ -7,9 +7,9 @@
 #include "host/excel/DefinedName.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
-#include "xlsx/Errors.h"
 #include "xlsx/Range.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/base/Errors.h"
 
 namespace plotsmith::xlsx {
 
@@ -21,7 +21,7 @@ namespace {
 class BookName final : public excel::DefinedName {
  public:
   BookName(Workbook& book, NameEntry entry) : book_(book), entry_(std::move(entry)) {
-    // the file's own names of built-in things bear a prefix that nobody sees
+    // Built-in names have a prefix in the file that Excel doesn't show.
     constexpr std::string_view kBuiltin = "_xlnm.";
     name_ = entry_.name.starts_with(kBuiltin) ? entry_.name.substr(kBuiltin.size()) : entry_.name;
     if (entry_.sheet && *entry_.sheet < book_.AllSheets().size()) {
@@ -32,9 +32,9 @@ class BookName final : public excel::DefinedName {
   std::string Name() override { return name_; }
   std::string RefersTo() override { return "=" + entry_.definition; }
 
-  /// A name that computes its range has none here: there are no formulas in this host.
+  /// A name that computes its range has none here, because this host doesn't evaluate formulas.
   Ref<excel::Range> RefersToRange() override {
-    // of several areas the first one counts
+    // The first of several areas counts.
     std::string_view definition = entry_.definition;
     bool quoted = false;
     for (std::size_t i = 0; i < definition.size(); ++i) {
@@ -82,7 +82,7 @@ class BookNames final : public excel::Names {
   }
 
  private:
-  std::vector<std::pair<std::string, std::shared_ptr<BookName>>> names_;  // by upper-cased name
+  std::vector<std::pair<std::string, std::shared_ptr<BookName>>> names_;  // sorted by the upper-cased name
 };
 
 }  // namespace

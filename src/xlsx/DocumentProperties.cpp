@@ -7,8 +7,8 @@
 
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
-#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
+#include "xlsx/base/Errors.h"
 #include "xlsx/package/Package.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/package/Xml.h"
@@ -17,9 +17,9 @@ namespace plotsmith::xlsx {
 namespace {
 
 constexpr const char* kExcel = "Microsoft Excel";
-constexpr double kFirstOoxmlVersion = 12;  // of Excel
+constexpr double kFirstOoxmlVersion = 12;  // Excel 2007
 
-/// The program that saved the file last; nothing if the file doesn't say.
+/// The program that saved the file last; nothing if the file doesn't name it.
 std::optional<std::string> SavingProgram(const Package& package) {
   auto link = package.FindRelationshipOfType("", "extended-properties");
   if (!link) link = package.FindRelationshipOfType("", "extendedProperties");  // in the strict vocabulary
@@ -29,7 +29,7 @@ std::optional<std::string> SavingProgram(const Package& package) {
   const std::string program = xml::Text(xml::Child(xml::Root(document), "Application"));
   if (program.empty()) return std::nullopt;
   const std::string version = xml::Text(xml::Child(xml::Root(document), "AppVersion"));
-  // openpyxl up to 3.1.2 calls itself Microsoft Excel, with a version of its own such as "3.0".
+  // openpyxl up to 3.1.2 calls itself Microsoft Excel, but gives its own version, such as "3.0".
   if (program == kExcel && xml::ParseDouble(version).value_or(kFirstOoxmlVersion) < kFirstOoxmlVersion) {
     return "openpyxl " + version;
   }

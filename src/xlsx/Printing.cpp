@@ -3,18 +3,18 @@
 #include <algorithm>
 
 #include "runtime/Strings.h"
-#include "xlsx/Errors.h"
 #include "xlsx/Sheet.h"
 #include "xlsx/Workbook.h"
+#include "xlsx/base/Errors.h"
 
 namespace plotsmith::xlsx {
 namespace {
 
 constexpr std::string_view kPrintArea = "_xlnm.Print_Area";
-/// What a sheet's name can take in a formula leaves room for no more ranges than this.
+/// A formula is too short for more ranges than this.
 constexpr std::size_t kMostAreas = 1000;
 
-/// The ranges of a list such as "Sheet1!$A$1:$B$9,Sheet1!$D:$E"; what isn't a range is left out.
+/// The ranges of a list such as "Sheet1!$A$1:$B$9,Sheet1!$D:$E"; other texts are left out.
 std::vector<CellRange> RangesOf(std::string_view list) {
   std::vector<CellRange> ranges;
   bool quoted = false;

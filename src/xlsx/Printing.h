@@ -10,11 +10,10 @@ namespace plotsmith::xlsx {
 class Workbook;
 struct SheetEntry;
 
-/// How a sheet of any kind is printed. Error 1004 where its part can't be read.
+/// The page setup of a sheet of any kind. Error 1004 if the part of the sheet can't be read.
 PageSetup PageSetupOf(Workbook& book, const SheetEntry& sheet);
 
-/// The cells of a sheet that are printed where somebody has said it (the name _xlnm.Print_Area): each range
-/// begins a page. Empty where nobody has.
+/// The print area of a sheet (the name _xlnm.Print_Area). Each range begins a page. Empty if none is set.
 std::vector<CellRange> PrintAreaOf(const Workbook& book, const SheetEntry& sheet);
 
 }  // namespace plotsmith::xlsx

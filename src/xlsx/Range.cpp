@@ -3,9 +3,9 @@
 #include <functional>
 
 #include "runtime/RuntimeError.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Limits.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/base/Limits.h"
 
 namespace plotsmith::xlsx {
 
@@ -17,7 +17,7 @@ namespace {
 
 class SheetRangeObject final : public excel::Range {
  public:
-  /// What Count counts.
+  /// The unit of Count.
   enum class Unit { kCells, kRows, kColumns };
 
   SheetRangeObject(std::shared_ptr<Worksheet> sheet, const CellRange& cells, Unit unit)
@@ -77,9 +77,9 @@ class SheetRangeObject final : public excel::Range {
     const std::int32_t column = key1 ? key1->Column() : 0;
     Log().Call(Path(), "Sort",
                {key1 ? key1->Address() : std::string(), order1, header, orderCustom, matchCase, orientation});
-    // a list of the user's own to sort by, or columns that move, would be something else
+    // Custom lists and sorting by columns are not supported.
     const bool plain = orderCustom == 1 && orientation == excel::xlTopToBottom;
-    // of the key's cell only the column counts: it may be a heading above the rows
+    // Only the column of the key's cell counts. The cell may be a heading above the rows.
     const bool inside = column >= cells_.column1 && column <= cells_.column2;
     if (!plain || (order1 != excel::xlAscending && order1 != excel::xlDescending) ||
         (header != excel::xlYes && header != excel::xlNo)) {

@@ -9,15 +9,15 @@ namespace plotsmith::xlsx {
 
 class Worksheet;
 
-/// Cells of a sheet as an object: a rectangle, whole rows or whole columns.
+/// Cells of a sheet for the port: a rectangle, whole rows or whole columns.
 excel::Ref<excel::Range> MakeRange(std::shared_ptr<Worksheet> sheet, const CellRange& cells);
 
-/// The cells that an object is.
+/// The sheet and the cells of a range.
 struct SheetCells {
   Worksheet& sheet;
   CellRange cells;
 };
-/// Of a range that MakeRange made; error 13 for another host's.
+/// The cells of a range that MakeRange made; error 13 for a range of another host.
 SheetCells CellsOf(const excel::Range& range);
 
 }  // namespace plotsmith::xlsx

@@ -7,17 +7,17 @@
 #include <utility>
 
 #include "host/excel/Sheet.h"
-#include "xlsx/Journal.h"
 #include "xlsx/Workbook.h"
+#include "xlsx/base/Journal.h"
 
 namespace plotsmith::xlsx {
 
 /// A sheet as the workbook part lists it.
 struct SheetEntry {
-  std::string name;
-  std::string part;
+  std::string name;     ///< on its tab
+  std::string part;     ///< in the package
   pugi::xml_node node;  ///< its element in the workbook part
-  /// What the port sees of it; `worksheet` is the same object where the sheet has cells, else null.
+  /// The sheet for the port. `worksheet` is the same object if the sheet has cells, else null.
   std::shared_ptr<excel::Sheet> object;
   std::shared_ptr<Worksheet> worksheet;
 };
@@ -31,7 +31,7 @@ class SheetMembers : public Base {
   std::string Name() override { return Entry().name; }
   void SetName(std::string_view name) override {
     book_.Journal().Put(Path(), "Name", name);
-    book_.RenameSheet(Entry(), name);
+    book_.Tabs().Rename(Entry(), name);
   }
   std::int32_t Visible() override {
     const std::string_view state = Entry().node.attribute("state").value();
@@ -40,15 +40,15 @@ class SheetMembers : public Base {
   }
   void SetVisible(std::int32_t value) override {
     book_.Journal().Put(Path(), "Visible", value);
-    book_.SetVisible(Entry(), value);
+    book_.Tabs().SetVisible(Entry(), value);
   }
   void Activate() override {
     book_.Journal().Call(Path(), "Activate");
-    book_.Activate(Entry());
+    book_.Tabs().Activate(Entry());
   }
   void Delete() override {
     book_.Journal().Call(Path(), "Delete");
-    book_.RemoveSheet(Entry());
+    book_.Tabs().Remove(Entry());
   }
 
  protected:

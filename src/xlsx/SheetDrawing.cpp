@@ -1,7 +1,7 @@
 #include "xlsx/SheetDrawing.h"
 
 #include "xlsx/Worksheet.h"
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/package/Namespaces.h"
 #include "xlsx/package/Xml.h"
 
@@ -42,7 +42,7 @@ std::shared_ptr<SheetShape> SheetDrawing::AddAnchor(const Frame& frame, const st
   return shapes_.emplace_back(std::move(shape));
 }
 
-// A name's number is the id, which Excel's own names rarely have taken: theirs are one below their ids.
+// The number in a name is the id. Excel's own names rarely have it, because their number is one below the id.
 
 std::shared_ptr<SheetShape> SheetDrawing::AddTextbox(const Frame& frame) {
   const unsigned id = NextShapeId(xml::Root(document_));
@@ -63,7 +63,7 @@ std::shared_ptr<SheetShape> SheetDrawing::AddChart(const Frame& frame) {
   const Namespaces& names = book.Vocabulary();
   const std::string chartPart = book.Package().FreeName(book.Folder() + "charts/chart", ".xml");
   book.Package().Add(chartPart, content_type::kChart, EmptyChart(book.IsStrict()));
-  const auto chart = book.Chart(chartPart);
+  const auto chart = book.Charts().At(chartPart);
   chart->CatchUp();
   chart->MarkChanged();
   const std::string link = book.Package().AddRelationship(part_, names.RelationshipType("chart"), chartPart);
@@ -77,6 +77,10 @@ std::shared_ptr<SheetShape> SheetDrawing::AddChart(const Frame& frame) {
           std::string(names.chart) + R"("><c:chart xmlns:c=")" + std::string(names.chart) + R"(" xmlns:r=")" +
           std::string(names.relationships) + R"(" r:id=")" + link +
           R"("/></~graphicData></~graphic></@graphicFrame>)");
+}
+
+void SheetDrawing::RemoveRelationships(const std::set<std::string>& ids) {
+  sheet_.Book().Charts().RemoveRelationships(part_, ids);
 }
 
 void SheetDrawing::Write() {

@@ -11,22 +11,28 @@ namespace plotsmith::xlsx {
 
 class Worksheet;
 
-/// The drawing part of a worksheet: anchors, and on each a shape.
+/// The drawing part of a worksheet: anchors with a shape on each.
 class SheetDrawing : public AnchoredShapes<SheetShape> {
  public:
-  /// Reads the part, which must be there. Throws PackageError.
+  /// Reads the part. Throws a PackageError if it is missing or can't be read.
   SheetDrawing(Worksheet& sheet, std::string part);
-  ~SheetDrawing();
+  ~SheetDrawing() override;
 
   Worksheet& Sheet() const { return sheet_; }
   const std::string& Part() const { return part_; }
 
+  /// Frames are in points from the upper left corner of the sheet.
   std::shared_ptr<SheetShape> AddTextbox(const Frame& frame);
-  /// `name` begins the shape's name, `preset` is its form in the file.
+  /// The shape's name is `name` and a number; `preset` is its geometry in the file (ST_ShapeType).
   std::shared_ptr<SheetShape> AddAutoShape(std::string_view name, std::string_view preset,
                                            const Frame& frame);
+  /// Adds a chart part without series, and the shape that frames it.
   std::shared_ptr<SheetShape> AddChart(const Frame& frame);
+  /// Puts the part into the package if it was changed.
   void Write();
+
+ protected:
+  void RemoveRelationships(const std::set<std::string>& ids) override;
 
  private:
   std::shared_ptr<SheetShape> AddAnchor(const Frame& frame, const std::string& object);
@@ -34,7 +40,7 @@ class SheetDrawing : public AnchoredShapes<SheetShape> {
   Worksheet& sheet_;
 };
 
-/// A drawing part without a shape.
+/// The XML of a drawing part without a shape.
 std::string EmptyDrawing(bool strict);
 
 }  // namespace plotsmith::xlsx

@@ -4,11 +4,11 @@
 #include <utility>
 
 #include "runtime/Strings.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Limits.h"
 #include "xlsx/SheetDrawing.h"
 #include "xlsx/Worksheet.h"
-#include "xlsx/chart/Chart.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/base/Limits.h"
+#include "xlsx/chart/objects/Chart.h"
 #include "xlsx/drawing/DrawnShapes.h"
 #include "xlsx/package/Xml.h"
 
@@ -21,7 +21,7 @@ namespace {
 
 double Points(pugi::xml_node node) { return xml::ParseDouble(xml::Text(node)).value_or(0) / kEmuPerPoint; }
 
-/// A corner of an anchor. What lies in a cell can't lie behind its end.
+/// A corner of an anchor. An offset into a cell ends at the end of the cell.
 std::pair<double, double> PlaceOf(pugi::xml_node marker, const SheetGeometry& geometry) {
   const auto edge = [&](std::string_view index, std::string_view offset, const GridLines& lines,
                         std::int32_t most) {
@@ -45,16 +45,16 @@ void SetPlace(pugi::xml_node marker, const SheetGeometry& geometry, double x, do
   set("row", "rowOff", geometry.rows, y);
 }
 
-class SheetShapesObject final : public DrawnShapes {
+class SheetShapes final : public DrawnShapes {
  public:
-  explicit SheetShapesObject(Worksheet& sheet) : sheet_(sheet) {}
+  explicit SheetShapes(Worksheet& sheet) : sheet_(sheet) {}
 
   std::int32_t Count() override {
     const SheetDrawing* drawing = sheet_.FindDrawing();
     return drawing == nullptr ? 0 : static_cast<std::int32_t>(drawing->Shapes().size());
   }
   std::shared_ptr<DrawnShape> Group(const std::vector<std::shared_ptr<DrawnShape>>&) override {
-    // the system groups on charts only
+    // The system groups shapes on charts only.
     throw RuntimeError(runtime::error::kNoSuchMember);
   }
   const Journal& Log() const override { return sheet_.Book().Journal(); }
@@ -78,9 +78,9 @@ class SheetShapesObject final : public DrawnShapes {
   Worksheet& sheet_;
 };
 
-class ChartObjectObject final : public excel::ChartObject {
+class FramedChart final : public excel::ChartObject {
  public:
-  explicit ChartObjectObject(std::shared_ptr<SheetShape> shape) : shape_(std::move(shape)) {}
+  explicit FramedChart(std::shared_ptr<SheetShape> shape) : shape_(std::move(shape)) {}
   std::string Name() override { return shape_->Name(); }
   Ref<excel::Chart> Chart() override { return shape_->Chart(); }
 
@@ -88,9 +88,9 @@ class ChartObjectObject final : public excel::ChartObject {
   std::shared_ptr<SheetShape> shape_;
 };
 
-class ChartObjectsObject final : public excel::ChartObjects {
+class SheetCharts final : public excel::ChartObjects {
  public:
-  explicit ChartObjectsObject(Worksheet& sheet) : sheet_(sheet) {}
+  explicit SheetCharts(Worksheet& sheet) : sheet_(sheet) {}
 
   std::int32_t Count() override {
     const SheetDrawing* drawing = sheet_.FindDrawing();
@@ -104,7 +104,7 @@ class ChartObjectsObject final : public excel::ChartObjects {
     if (drawing != nullptr) {
       for (const auto& shape : drawing->Shapes()) {
         if (shape->Type() == excel::msoChart && runtime::EqualsIgnoreCase(shape->Name(), name)) {
-          return std::make_shared<ChartObjectObject>(shape);
+          return std::make_shared<FramedChart>(shape);
         }
       }
     }
@@ -115,7 +115,7 @@ class ChartObjectsObject final : public excel::ChartObjects {
                                  {left, top, width, height});
     const Frame frame{left, top, width, height};
     CheckPlace(frame);
-    return std::make_shared<ChartObjectObject>(sheet_.EnsureDrawing().AddChart(frame));
+    return std::make_shared<FramedChart>(sheet_.EnsureDrawing().AddChart(frame));
   }
 
  private:
@@ -128,6 +128,10 @@ SheetShape::SheetShape(SheetDrawing& drawing, pugi::xml_node anchor, pugi::xml_n
     : DrawnShape(anchor, object), drawing_(drawing) {}
 
 Workbook& SheetShape::Book() const { return drawing_.Sheet().Book(); }
+
+const Journal& SheetShape::Log() const { return Book().Journal(); }
+
+const Theme& SheetShape::Theme() const { return Book().Theme(); }
 
 void SheetShape::MarkChanged() { drawing_.MarkChanged(); }
 
@@ -148,7 +152,7 @@ Frame SheetShape::PlacedFrame() const {
 }
 
 Frame SheetShape::MoveAnchor(const Frame& wanted) {
-  // a sheet begins at its corner
+  // Cell A1 is at (0, 0) points.
   const Frame frame{std::max(wanted.left, 0.0), std::max(wanted.top, 0.0), std::max(wanted.width, 0.0),
                     std::max(wanted.height, 0.0)};
   if (xml::Is(Anchor(), "absoluteAnchor")) {
@@ -173,15 +177,12 @@ std::string SheetShape::ChartPartName() const {
 Ref<excel::Chart> SheetShape::Chart() {
   Workbook& book = Book();
   return book.Guarded([&]() -> Ref<excel::Chart> {
-    return std::make_shared<xlsx::Chart>(book.Chart(ChartPartName()),
-                                         std::static_pointer_cast<SheetShape>(shared_from_this()));
+    return std::make_shared<xlsx::Chart>(book.Charts().At(ChartPartName()), shared_from_this());
   });
 }
 
-Ref<excel::Shapes> MakeShapes(Worksheet& sheet) { return std::make_shared<SheetShapesObject>(sheet); }
+Ref<excel::Shapes> MakeShapes(Worksheet& sheet) { return std::make_shared<SheetShapes>(sheet); }
 
-Ref<excel::ChartObjects> MakeChartObjects(Worksheet& sheet) {
-  return std::make_shared<ChartObjectsObject>(sheet);
-}
+Ref<excel::ChartObjects> MakeChartObjects(Worksheet& sheet) { return std::make_shared<SheetCharts>(sheet); }
 
 }  // namespace plotsmith::xlsx

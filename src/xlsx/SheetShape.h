@@ -11,8 +11,9 @@ namespace plotsmith::xlsx {
 
 class Chart;
 class SheetDrawing;
+class Workbook;
 
-/// One shape of a sheet: a view over its anchor in the sheet's drawing.
+/// A shape of a sheet: a view over its anchor in the sheet's drawing.
 class SheetShape final : public DrawnShape {
  public:
   SheetShape(SheetDrawing& drawing, pugi::xml_node anchor, pugi::xml_node object);
@@ -20,10 +21,13 @@ class SheetShape final : public DrawnShape {
   Frame PlacedFrame() const override;
   std::string JournalPath() const override;
   void MarkChanged() override;
-  Workbook& Book() const override;
+  const Journal& Log() const override;
+  const xlsx::Theme& Theme() const override;
+  Workbook& Book() const;
 
-  /// The part of the chart that the shape frames; empty if it frames none, or one that isn't there.
+  /// The part of the chart that the shape frames; empty if it frames none, or if the part is missing.
   std::string ChartPartName() const;
+  /// The chart that the shape frames. If there is none, every use of the chart is error 1004.
   excel::Ref<excel::Chart> Chart();
 
  protected:

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "runtime/RuntimeError.h"
-#include "xlsx/Errors.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/base/Errors.h"
 
 namespace plotsmith::xlsx {
 

@@ -7,7 +7,7 @@ namespace plotsmith::xlsx {
 
 class Workbook;
 
-/// All sheets of a workbook, and those with cells, in the order of their tabs.
+/// All sheets of a workbook, and the sheets with cells, for the port. Both are in the order of their tabs.
 excel::Ref<excel::Sheets> MakeSheets(Workbook& book);
 excel::Ref<excel::Worksheets> MakeWorksheets(Workbook& book);
 

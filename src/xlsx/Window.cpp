@@ -4,9 +4,9 @@
 #include <string>
 #include <utility>
 
-#include "xlsx/Errors.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/base/Errors.h"
 #include "xlsx/sheet/SheetSplice.h"
 
 namespace plotsmith::xlsx {
@@ -22,9 +22,9 @@ class WindowObject final : public excel::Window {
  private:
   void Set(const std::string& property, const ViewSetting& setting, bool value) {
     book_->Journal().Put([] { return std::string("ActiveWindow"); }, property, value);
-    const auto sheet = book_->ActiveWorksheet();
-    if (!sheet) throw CantSet(property, "Window");
-    sheet->SetView(setting, value);
+    const auto sheet = book_->Tabs().Active();
+    if (!sheet || !sheet->worksheet) throw CantSet(property, "Window");
+    sheet->worksheet->SetView(setting, value);
   }
 
   std::shared_ptr<Workbook> book_;

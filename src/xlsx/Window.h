@@ -6,7 +6,7 @@ namespace plotsmith::xlsx {
 
 class Workbook;
 
-/// The window of a workbook, for the port: the views of the sheets in the workbook's first window.
+/// The first window of a workbook, for the port.
 excel::Ref<excel::Window> MakeWindow(Workbook& book);
 
 }  // namespace plotsmith::xlsx

@@ -7,11 +7,11 @@
 
 #include "runtime/RuntimeError.h"
 #include "xlsx/Application.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Limits.h"
 #include "xlsx/Range.h"
 #include "xlsx/SheetDrawing.h"
 #include "xlsx/SheetShape.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/package/Namespaces.h"
 #include "xlsx/package/Xml.h"
 #include "xlsx/sheet/DrawingLink.h"
@@ -35,10 +35,10 @@ void CheckCell(std::int32_t row, std::int32_t column) {
   }
 }
 
-/// Whether a part mentions a sheet on which rows moved; read through a window, as a sheet may be large.
+/// Whether a part mentions a sheet on which rows have moved. A large part is read in pieces.
 bool PartMentions(const Package& package, const std::string& part, const RowShifts& shifts) {
   constexpr std::size_t kWindow = 256 * 1024,
-                        kOverlap = 256;  // a sheet's name is shorter than that in any writing
+                        kOverlap = 256;  // the name of a sheet is shorter in every encoding
   const auto stream = package.Stream(part);
   std::string window(kWindow, '\0');
   std::size_t kept = 0;
@@ -52,7 +52,7 @@ bool PartMentions(const Package& package, const std::string& part, const RowShif
   return false;
 }
 
-/// The cells of a sheet, each row counted up to its last one.
+/// The number of cells of a sheet if each row ends at its last cell.
 std::size_t RoomOf(const CellStore& cells) {
   std::vector<std::int32_t> ends;
   for (std::int32_t column = 1; column <= cells.ColumnCount(); ++column) {
@@ -70,7 +70,7 @@ bool MentionsChart(std::string_view drawing) {
   return drawing.find("graphicFrame") != std::string_view::npos;
 }
 
-/// In a date format a number is a date, from the first day of the system to the last.
+/// A number with a date format is a date from the first day of the date system to the last.
 CellValue::Kind NumberKind(Workbook& book, std::uint32_t style, double number) {
   const bool date =
       number >= 0 && number < kLastSerial + 1 - SerialOffset(book.Dates()) && book.Styles().IsDate(style);
@@ -148,7 +148,7 @@ std::uint32_t Worksheet::StyleAt(std::int32_t row, std::int32_t column) {
 
 CellValue Worksheet::CellValueAt(std::int32_t row, std::int32_t column) {
   CellValue value = Stored(row, column);
-  // the language counts days in one system only
+  // The port counts days in the system of 1900 only.
   if (value.kind == CellValue::Kind::kDate) value.number += SerialOffset(book_.Dates());
   return value;
 }
@@ -167,7 +167,7 @@ CellValue Worksheet::Stored(std::int32_t row, std::int32_t column) {
   if (!grid_) {
     const CellStore& cells = Contents().cells;
     const PackedValue value = cells.ValueAt(row, column);
-    // only a number needs its style, to tell whether it is a date
+    // Only a number needs its style, which says whether it is a date.
     return Unpack(value, value.GetKind() == PackedValue::Kind::kNumber ? cells.StyleAt(row, column) : 0);
   }
   const GridCell* cell = grid_->Find(row, column);
@@ -276,7 +276,7 @@ SheetView Worksheet::View() {
 
 void Worksheet::ActivateCell(const CellPlace& cell) {
   activeCell_ = cell;
-  book_.CountActivation();
+  book_.Tabs().CountActivation();
 }
 
 Ref<excel::Range> Worksheet::Cells(std::int32_t row, std::int32_t column) {
@@ -314,8 +314,8 @@ SheetDrawing* Worksheet::FindDrawing() {
       try {
         drawing_ = std::make_unique<SheetDrawing>(*this, link->target);
       } catch (const PackageError& e) {
-        // One drawing that can't be read is no reason to give the workbook up, unless it may hold a chart
-        // that somebody looks for: whoever doesn't find it would take it for deleted.
+        // A drawing that can't be read doesn't stop the run unless it may have a chart. If the system
+        // didn't find a chart, it would treat it as deleted.
         if (package.Has(link->target) && MentionsChart(xml::ToUtf8(package.Read(link->target)))) throw;
         drawingDamage_ = e.what();
       }

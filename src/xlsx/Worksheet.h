@@ -10,6 +10,7 @@
 
 #include "host/excel/Worksheet.h"
 #include "xlsx/Sheet.h"
+#include "xlsx/book/CellSource.h"
 #include "xlsx/sheet/CellGrid.h"
 #include "xlsx/sheet/CellSort.h"
 #include "xlsx/sheet/Reference.h"
@@ -22,10 +23,11 @@ namespace plotsmith::xlsx {
 class SheetDrawing;
 struct ViewSetting;
 
-/// A worksheet. Its cells are read when the first one is asked for. A sheet whose cells are written is
-/// written whole, without what a cell had beside its value and style; so a sheet with formulas can't be. The
-/// system writes on its own sheets only.
+/// A worksheet. Its cells are read at the first use. When a cell is written, the whole sheet is rewritten
+/// with values and styles only; for that reason a sheet with formulas can't be written. The system writes
+/// only on its own sheets.
 class Worksheet final : public SheetMembers<excel::Worksheet>,
+                        public CellSource,
                         public std::enable_shared_from_this<Worksheet> {
  public:
   Worksheet(Workbook& book, std::weak_ptr<SheetEntry> entry, bool isNew);
@@ -42,46 +44,44 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   excel::Ref<excel::Shapes> Shapes() override;
   excel::Ref<excel::ChartObjects> ChartObjects() override;
 
-  // for the other classes of this host
   Workbook& Book() const { return book_; }
-  const std::string& SheetName() const { return Entry().name; }
+  const std::string& SheetName() const override { return Entry().name; }
   const std::string& Part() const { return Entry().part; }
   auto JournalPath() const { return Path(); }
-  /// A cell as it is stored: other than for the port, the serial of a date counts in the workbook's own
-  /// system.
-  excel::CellValue Stored(std::int32_t row, std::int32_t column);
+  excel::CellValue Stored(std::int32_t row, std::int32_t column) override;
   std::uint32_t StyleAt(std::int32_t row, std::int32_t column);
+  /// The rectangle around all cells that have a value or a style; A1 in an empty sheet.
   CellRange UsedCells();
-  /// Cells of the file with a formula but no result, in the order of the file; they read as empty.
+  /// The cells that have a formula without a result in the file, in its order. They read as empty.
   const std::vector<CellPlace>& FormulasWithoutResult() { return Contents().formulasWithoutResult; }
   void ClearCells(const CellRange& range);
   void SetNumberFormat(const CellRange& range, std::string_view code);
-  std::string NumberFormatAt(std::int32_t row, std::int32_t column);
+  std::string NumberFormatAt(std::int32_t row, std::int32_t column) override;
   void InsertRow(std::int32_t row);
   void DeleteRow(std::int32_t row);
-  /// Error 1004 on a sheet with merged cells, which would have to move as they are.
+  /// Sorts the rows of a range. Error 1004 on a sheet with merged cells.
   void SortCells(const CellRange& range, const SortOptions& options);
   const SheetGeometry& Geometry();
-  /// Cells that are shown as one, as the file has them.
+  /// The merged cells, as the file has them.
   const std::vector<CellRange>& MergedCells() { return Contents().mergedCells; }
-  /// How the workbook's first window shows the sheet.
+  /// The view of the sheet in the workbook's first window.
   SheetView View();
-  /// Makes a cell the active one. The file keeps the one that it has.
+  /// Makes a cell the active one. The file keeps its own active cell.
   void ActivateCell(const CellPlace& cell);
-  /// The sheet's drawing; null if it has none, or one without charts that can't be read.
+  /// The drawing of the sheet. Null if there is none, or if it has no charts and can't be read.
   SheetDrawing* FindDrawing();
-  /// The same, made if need be. Error 1004 if there is one that can't be read.
+  /// The drawing of the sheet, which is made if there is none. Error 1004 if it can't be read.
   SheetDrawing& EnsureDrawing();
 
-  /// Changes how the workbook's first window shows the sheet.
+  /// Changes a setting of the view in the workbook's first window.
   void SetView(const ViewSetting& setting, bool value);
 
-  /// Brings formulas up to date with rows that moved on other sheets since a mark.
+  /// Updates formulas for rows that have moved on other sheets since the mark `followed`.
   void FollowShifts(std::size_t followed);
-  /// Whether this program made the sheet, so that it is free to change it in any way.
+  /// Whether this program made the sheet and may change all of it.
   bool IsNew() const { return isNew_; }
   bool NeedsWriting() const;
-  /// Brings the part up to date with what was changed.
+  /// Puts the changes into the package.
   void Write();
 
  private:

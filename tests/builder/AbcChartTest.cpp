@@ -1,8 +1,8 @@
 #include <algorithm>
 
-#include "builder/AbcChart.h"
-#include "builder/BuilderVariables.h"
-#include "common/CommonFunctions.h"
+#include "builder/families/AbcChart.h"
+#include "builder/state/BuilderVariables.h"
+#include "common/Documents.h"
 #include "common/RunVariables.h"
 #include "tests/support/ChartCallsTest.h"
 #include "xlsx/Worksheet.h"

@@ -1,7 +1,7 @@
 #include <algorithm>
 
-#include "builder/BuilderVariables.h"
 #include "builder/ChartRefreshDriver.h"
+#include "builder/state/BuilderVariables.h"
 #include "common/RunVariables.h"
 #include "tests/support/ChartCallsTest.h"
 #include "tests/support/FamilyBooks.h"

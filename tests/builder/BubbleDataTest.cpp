@@ -1,5 +1,5 @@
-#include "builder/BuilderVariables.h"
-#include "builder/DataSheetFinishing.h"
+#include "builder/sheet/DataSheetFinishing.h"
+#include "builder/state/BuilderVariables.h"
 #include "tests/support/BlockTest.h"
 #include "tests/support/FamilyBooks.h"
 

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "builder/BuilderVariables.h"
+#include "builder/state/BuilderVariables.h"
 #include "tests/support/ChartCallsTest.h"
 #include "tests/support/FamilyBooks.h"
 

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <vector>
 
-#include "builder/BuilderVariables.h"
-#include "builder/DataSheetFinishing.h"
+#include "builder/sheet/DataSheetFinishing.h"
+#include "builder/state/BuilderVariables.h"
 #include "tests/support/BlockTest.h"
 #include "tests/support/FamilyBooks.h"
 

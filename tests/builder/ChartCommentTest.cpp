@@ -1,8 +1,7 @@
 #include <algorithm>
 
-#include "builder/ChartComment.h"
 #include "builder/ChartRefreshDriver.h"
-#include "common/CommonFunctions.h"
+#include "builder/looks/ChartComment.h"
 #include "common/RunVariables.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/TableDefinitions.h"

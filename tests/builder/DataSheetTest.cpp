@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "builder/DataSheet.h"
+#include "builder/sheet/DataSheet.h"
 #include "tests/support/BlockTest.h"
 #include "tests/support/ErrorOf.h"
 #include "xlsx/Worksheet.h"

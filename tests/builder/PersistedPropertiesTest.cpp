@@ -1,8 +1,8 @@
 #include <vector>
 
-#include "builder/BuilderVariables.h"
-#include "builder/PersistedProperties.h"
-#include "common/CommonFunctions.h"
+#include "builder/state/BuilderVariables.h"
+#include "builder/state/PersistedProperties.h"
+#include "common/Documents.h"
 #include "tests/support/HostTest.h"
 
 namespace plotsmith {

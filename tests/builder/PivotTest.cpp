@@ -1,4 +1,4 @@
-#include "builder/BuilderVariables.h"
+#include "builder/state/BuilderVariables.h"
 #include "tests/support/BlockTest.h"
 
 namespace plotsmith {

@@ -1,5 +1,5 @@
 #include "builder/SourceValidation.h"
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "metadata/TableDefinitions.h"
 #include "tests/support/HostTest.h"
 

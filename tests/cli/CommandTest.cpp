@@ -6,8 +6,8 @@
 #include <sys/stat.h>
 #include <vector>
 
-#include "cli/CommandLine.h"
 #include "cli/Session.h"
+#include "cli/line/CommandLine.h"
 #include "runtime/Strings.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/RunCommand.h"

@@ -1,9 +1,12 @@
 #include <memory>
 #include <vector>
 
-#include "common/CommonFunctions.h"
+#include "common/Cells.h"
+#include "common/HostAnswers.h"
 #include "common/Messages.h"
 #include "common/RunVariables.h"
+#include "common/Worksheets.h"
+#include "common/YieldToHost.h"
 #include "controller/System.h"
 #include "metadata/MetadataStore.h"
 #include "tests/support/HandView.h"

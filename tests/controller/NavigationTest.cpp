@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "common/App.h"
-#include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
 #include "controller/PSController.h"

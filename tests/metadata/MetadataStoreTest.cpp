@@ -1,7 +1,7 @@
 #include <array>
 #include <vector>
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/RunVariables.h"
 #include "metadata/MetadataStore.h"
 #include "metadata/NewChart.h"

@@ -1,5 +1,6 @@
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/RunVariables.h"
+#include "common/Values.h"
 #include "metadata/StrategicBuckets.h"
 #include "metadata/TableDefinitions.h"
 #include "tests/support/HostTest.h"

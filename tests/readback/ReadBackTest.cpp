@@ -2,7 +2,7 @@
 #include <fstream>
 #include <map>
 
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/RunVariables.h"
 #include "readback/ChartAppearance.h"
 #include "readback/ChartReadBack.h"

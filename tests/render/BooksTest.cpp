@@ -7,7 +7,7 @@
 #include "runtime/RuntimeError.h"
 #include "tests/render/DrawingTest.h"
 #include "tests/support/Paths.h"
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/package/PackageError.h"
 
 namespace plotsmith {

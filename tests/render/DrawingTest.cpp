@@ -4,7 +4,7 @@
 #include <map>
 #include <numbers>
 
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::test {

@@ -3,8 +3,8 @@
 #include "render/cairo/CairoPainter.h"
 #include "render/svg/SvgWriter.h"
 #include "tests/render/DrawingTest.h"
-#include "xlsx/chart/ChartPart.h"
-#include "xlsx/chart/LegendEntries.h"
+#include "xlsx/chart/part/ChartPart.h"
+#include "xlsx/chart/rules/LegendLines.h"
 
 namespace plotsmith {
 namespace {

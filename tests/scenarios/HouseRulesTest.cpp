@@ -1,10 +1,15 @@
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <gtest/gtest.h>
 #include <map>
 #include <regex>
 #include <set>
+#include <sstream>
+#include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "tests/support/Paths.h"
 
@@ -13,153 +18,188 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const std::set<std::string> kSystem = {"common", "metadata", "builder", "readback", "pages", "controller"};
+const fs::path kSource = fs::path(test::kSourceFolder) / "src";
+const fs::path kDocs = fs::path(test::kSourceFolder) / "docs";
 
-/// The rooms that each room of the house may look into, itself not counted.
-const std::map<std::string, std::set<std::string>> kAllowed = {
-    {"runtime", {}},
-    {"dom", {"runtime"}},
-    {"forms", {"runtime"}},
-    {"host", {"runtime"}},
-    {"common", {"runtime", "dom", "forms", "host"}},
-    {"readback", {"runtime", "dom", "host", "common"}},
-    {"metadata", {"runtime", "dom", "host", "common", "readback"}},
-    {"builder", {"runtime", "dom", "host", "common", "metadata"}},
-    {"pages", {"runtime", "dom", "forms", "host", "common", "metadata"}},
-    {"controller", {"runtime", "dom", "forms", "host", "common", "metadata", "builder", "pages"}},
-    {"xlsx", {"runtime", "dom", "host"}},
-    {"render", {"runtime", "host", "xlsx"}},
-    {"cli",
-     {"runtime", "dom", "forms", "host", "common", "metadata", "builder", "readback", "pages", "controller",
-      "xlsx", "render"}},
-    {"qt",
-     {"runtime", "dom", "forms", "host", "common", "metadata", "builder", "readback", "pages", "controller",
-      "xlsx", "render", "cli"}},
-    {"windows",
-     {"runtime", "dom", "forms", "host", "common", "metadata", "builder", "readback", "pages", "controller"}},
+std::string TextOf(const fs::path& path) {
+  std::ifstream file(path);
+  return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+/// The texts between separators, without blanks around them.
+std::vector<std::string> Split(const std::string& text, char separator) {
+  std::vector<std::string> pieces;
+  std::istringstream stream(text);
+  for (std::string piece; std::getline(stream, piece, separator);) {
+    const auto first = piece.find_first_not_of(' ');
+    pieces.push_back(first == std::string::npos ? "" : piece.substr(first));
+  }
+  return pieces;
+}
+
+/// A row of docs/rooms.tsv.
+struct Room {
+  std::string name;
+  std::vector<std::string> mayInclude;  ///< as the row lists them
+  std::string content;
 };
 
-/// The rooms, and the folders of the component inside Excel, that each of those folders may look into, itself
-/// not counted.
-const std::map<std::string, std::set<std::string>> kAllowedInExcel = {
-    {"com", {"runtime"}},
-    {"excel", {"runtime", "host", "windows/com"}},
-    {"desktop", {"runtime", "host", "common", "forms", "windows/com"}},
-    {"views", {"runtime", "host", "common", "forms", "pages", "windows/com", "windows/desktop"}},
-    {"server",
-     {"runtime", "host", "common", "forms", "controller", "windows/com", "windows/excel", "windows/desktop",
-      "windows/views"}},
-    {"dll", {"windows/com", "windows/server"}},
+class HouseRulesTest : public ::testing::Test {
+ protected:
+  static std::vector<Room> ReadRooms() {
+    std::vector<Room> rooms;
+    for (const std::string& line : Split(TextOf(kDocs / "rooms.tsv"), '\n')) {
+      if (line.empty() || line[0] == '#') continue;
+      const auto cells = Split(line, '\t');
+      if (cells.size() != 3) throw std::runtime_error("a row without three columns: " + line);
+      rooms.push_back({cells[0], Split(cells[1], ','), cells[2]});
+    }
+    return rooms;
+  }
+
+  /// Whether a path, without an extension, is of a row or below it.
+  static bool IsWithin(const std::string& path, const std::string& room) {
+    return path == room || path.starts_with(room + "/");
+  }
+
+  /// The row that a path below src belongs to; empty if there is none.
+  std::string RoomOf(const std::string& path) const {
+    const std::string stem = fs::path(path).replace_extension().generic_string();
+    std::string longest;
+    for (const Room& room : rooms_) {
+      if (IsWithin(stem, room.name) && room.name.size() > longest.size()) longest = room.name;
+    }
+    return longest;
+  }
+
+  /// The rows that a row may include, with its entries spelled out.
+  std::set<std::string> Allowed(const Room& room) const {
+    std::set<std::string> allowed;
+    for (const std::string& entry : room.mayInclude) {
+      const bool below = entry.ends_with("/*");
+      const std::string name = below ? entry.substr(0, entry.size() - 2) : entry;
+      const auto before = allowed.size();
+      for (const Room& other : rooms_) {
+        if (other.name != room.name && (below ? IsWithin(other.name, name) : other.name == name)) {
+          allowed.insert(other.name);
+        }
+      }
+      EXPECT_GT(allowed.size(), before) << room.name << " may include " << entry << ", which adds no row";
+    }
+    return allowed;
+  }
+
+  /// Calls `visit` with the path below src and the text of each header and source file.
+  template <class Visit>
+  static void ForEachSource(const Visit& visit) {
+    for (const auto& entry : fs::recursive_directory_iterator(kSource)) {
+      const auto extension = entry.path().extension();
+      if (extension != ".h" && extension != ".cpp") continue;
+      visit(fs::relative(entry.path(), kSource).generic_string(), TextOf(entry.path()));
+    }
+  }
+
+  static std::vector<std::string> IncludesIn(const std::string& text) {
+    static const std::regex kInclude("#include \"([^\"]+/[^\"]+)\"");
+    std::vector<std::string> includes;
+    for (auto it = std::sregex_iterator(text.begin(), text.end(), kInclude); it != std::sregex_iterator();
+         ++it) {
+      includes.push_back((*it)[1]);
+    }
+    return includes;
+  }
+
+  /// A cycle of a graph, such as "a -> b -> a"; empty if there is none.
+  static std::string FindCycle(const std::map<std::string, std::set<std::string>>& graph) {
+    std::set<std::string> done;
+    std::vector<std::string> way;
+    const std::function<std::string(const std::string&)> visit = [&](const std::string& node) {
+      if (const auto seen = std::find(way.begin(), way.end(), node); seen != way.end()) {
+        std::string cycle;
+        for (auto step = seen; step != way.end(); ++step) cycle += *step + " -> ";
+        return cycle + node;
+      }
+      if (!done.insert(node).second || !graph.contains(node)) return std::string();
+      way.push_back(node);
+      for (const std::string& next : graph.at(node)) {
+        if (const std::string cycle = visit(next); !cycle.empty()) return cycle;
+      }
+      way.pop_back();
+      return std::string();
+    };
+    for (const auto& [node, next] : graph) {
+      if (const std::string cycle = visit(node); !cycle.empty()) return cycle;
+    }
+    return {};
+  }
+
+  const std::vector<Room> rooms_ = ReadRooms();
 };
 
-/// The rooms and the folders of its own that each folder of the windows may look into, itself not counted.
-/// Folders that aren't here put everything together.
-const std::map<std::string, std::set<std::string>> kAllowedInWindows = {
-    {"forms", {"runtime", "forms", "pages"}},
-    {"book", {"runtime", "host", "xlsx"}},
-    {"help", {"runtime"}},
-};
-const std::set<std::string> kWindowPrograms = {"wizard", "shots"};
+TEST_F(HouseRulesTest, RoomsIncludeOnlyWhatTheTableAllows) {
+  std::map<std::string, std::set<std::string>> allowed;
+  for (const Room& room : rooms_) allowed[room.name] = Allowed(room);
+  std::set<std::string> used;
+  ForEachSource([&](const std::string& file, const std::string& text) {
+    const std::string own = RoomOf(file);
+    ASSERT_NE(own, "") << file << " is in a folder that docs/rooms.tsv doesn't have";
+    used.insert(own);
+    for (const std::string& include : IncludesIn(text)) {
+      const std::string other = RoomOf(include);
+      if (other == own || other.empty()) continue;  // a library's header is in no room
+      EXPECT_TRUE(allowed[own].contains(other)) << file << " includes " << include;
+    }
+  });
+  for (const Room& room : rooms_) EXPECT_TRUE(used.contains(room.name)) << room.name << " has no file";
+}
 
-/// The folders that each folder of the embedded host may look into, itself not counted; "" holds the objects
-/// of the workbook, which stand above all of them and which shapes and charts have for parents.
-const std::map<std::string, std::set<std::string>> kAllowedInHost = {
-    {"package", {}},
-    {"numberformat", {}},
-    {"sheet", {"package", "numberformat"}},
-    {"drawing", {"package", ""}},
-    {"chart", {"package", "numberformat", "drawing", ""}},
-    {"", {"package", "numberformat", "sheet", "drawing", "chart"}},
-};
+TEST_F(HouseRulesTest, NoRoomIncludesItselfByWayOfOthers) {
+  std::map<std::string, std::set<std::string>> graph;
+  for (const Room& room : rooms_) graph[room.name] = Allowed(room);
+  EXPECT_EQ(FindCycle(graph), "");
+}
 
-template <class Visit>
-void ForEachSource(const Visit& visit) {
-  for (const auto& entry : fs::recursive_directory_iterator(fs::path(test::kSourceFolder) / "src")) {
-    const auto extension = entry.path().extension();
-    if (extension != ".h" && extension != ".cpp") continue;
-    const auto relative = fs::relative(entry.path(), fs::path(test::kSourceFolder) / "src");
-    std::ifstream file(entry.path());
-    visit(relative.begin()->string(), relative.string(),
-          std::string(std::istreambuf_iterator<char>(file), {}));
+TEST_F(HouseRulesTest, NoHeaderIncludesItselfByWayOfOthers) {
+  std::map<std::string, std::set<std::string>> graph;
+  ForEachSource([&](const std::string& file, const std::string& text) {
+    if (!file.ends_with(".h")) return;
+    for (const std::string& include : IncludesIn(text)) graph[file].insert(include);
+  });
+  EXPECT_GT(graph.size(), 100U);
+  EXPECT_EQ(FindCycle(graph), "");
+}
+
+TEST_F(HouseRulesTest, ACycleIsFound) {
+  EXPECT_EQ(FindCycle({{"a", {"b", "c"}}, {"b", {"d"}}, {"c", {"d"}}}), "");
+  EXPECT_EQ(FindCycle({{"a", {"b"}}, {"b", {"c"}}, {"c", {"b"}}}), "b -> c -> b");
+}
+
+/// The page has one table for the rooms and one for the folders of each room that has some.
+TEST_F(HouseRulesTest, TheArchitecturePageShowsTheTable) {
+  std::map<std::string, std::string> tables;
+  for (const Room& room : rooms_) {
+    const auto slash = room.name.find('/');
+    const bool folder = slash != std::string::npos;
+    std::string includes;
+    for (const std::string& entry : room.mayInclude) {
+      includes += (includes.empty() ? "`" : ", `") + entry + "`";
+    }
+    tables[folder ? room.name.substr(0, slash) : ""] += "| `" + room.name + "` | " + room.content + " | " +
+                                                        (includes.empty() ? "nothing" : includes) + " |\n";
+  }
+  const std::string page = TextOf(kDocs / "architecture.md");
+  const std::string head = "| in `src/` | what is in it | may include |\n|---|---|---|\n";
+  for (const auto& [room, rows] : tables) {
+    EXPECT_NE(page.find(head + rows + "\n"), std::string::npos)
+        << "docs/architecture.md should have this table:\n"
+        << head << rows;
   }
 }
 
-TEST(HouseRulesTest, RoomsLookOnlyWhereTheyMay) {
-  const std::regex include("#include \"([a-z]+)/");
-  int files = 0;
-  ForEachSource([&](const std::string& room, const std::string& file, const std::string& text) {
-    ++files;
-    ASSERT_TRUE(kAllowed.contains(room)) << "a room that nobody has drawn: " << file;
-    for (auto it = std::sregex_iterator(text.begin(), text.end(), include); it != std::sregex_iterator();
-         ++it) {
-      const std::string other = (*it)[1];
-      EXPECT_TRUE(other == room || kAllowed.at(room).contains(other)) << file << " includes " << other;
-    }
-  });
-  EXPECT_GT(files, 100);
-}
-
-TEST(HouseRulesTest, TheEmbeddedHostStandsInLayers) {
-  const std::regex include("#include \"xlsx/(?:([a-z]+)/)?([A-Za-z]+\\.h)\"");
-  ForEachSource([&](const std::string& room, const std::string& file, const std::string& text) {
-    if (room != "xlsx") return;
-    const std::string folder = fs::path(file).parent_path().lexically_relative("xlsx").string();
-    const std::string own = folder == "." ? "" : folder;
-    ASSERT_TRUE(kAllowedInHost.contains(own)) << "a folder that nobody has drawn: " << file;
-    for (auto it = std::sregex_iterator(text.begin(), text.end(), include); it != std::sregex_iterator();
-         ++it) {
-      const std::string other = (*it)[1];
-      if ((*it)[2] == "Limits.h") continue;  // constants, for all
-      EXPECT_TRUE(other == own || kAllowedInHost.at(own).contains(other)) << file << " includes " << (*it)[0];
-    }
-  });
-}
-
-TEST(HouseRulesTest, ThePartsOfTheWindowsKnowOnlyWhatTheyShow) {
-  const std::regex include("#include \"(qt/)?([a-z]+)/([A-Za-z/]+)\\.h\"");
-  int files = 0;
-  ForEachSource([&](const std::string& room, const std::string& file, const std::string& text) {
-    if (room != "qt") return;
-    ++files;
-    const std::string folder = fs::path(file).parent_path().lexically_relative("qt").string();
-    if (kWindowPrograms.contains(folder)) return;
-    ASSERT_TRUE(kAllowedInWindows.contains(folder)) << "a folder that isn't listed: " << file;
-    for (auto it = std::sregex_iterator(text.begin(), text.end(), include); it != std::sregex_iterator();
-         ++it) {
-      const bool isWindow = (*it)[1].matched;
-      const std::string other = (*it)[2];
-      EXPECT_TRUE(isWindow ? other == folder : kAllowedInWindows.at(folder).contains(other))
-          << file << " includes " << (*it)[0];
-      if (folder == "forms" && other == "pages") {
-        const std::string header = (*it)[3];
-        EXPECT_TRUE(header == "SamplePictures" || header.starts_with("pictures/")) << file << ' ' << header;
-      }
-    }
-  });
-  EXPECT_GT(files, 30);
-}
-
-TEST(HouseRulesTest, TheComponentInsideExcelStandsInLayers) {
-  const std::regex include("#include \"((?:windows/)?[a-z]+)/");
-  int files = 0;
-  ForEachSource([&](const std::string& room, const std::string& file, const std::string& text) {
-    if (room != "windows") return;
-    ++files;
-    const std::string folder = fs::path(file).parent_path().lexically_relative("windows").begin()->string();
-    ASSERT_TRUE(kAllowedInExcel.contains(folder)) << "a folder that isn't listed: " << file;
-    for (auto it = std::sregex_iterator(text.begin(), text.end(), include); it != std::sregex_iterator();
-         ++it) {
-      const std::string other = (*it)[1];
-      EXPECT_TRUE(other == "windows/" + folder || kAllowedInExcel.at(folder).contains(other))
-          << file << " includes " << other;
-    }
-  });
-  EXPECT_GT(files, 30);
-}
-
-TEST(HouseRulesTest, TheSystemCatchesOnlyInItsErrorBlocks) {
-  ForEachSource([&](const std::string& room, const std::string& file, const std::string& text) {
-    if (!kSystem.contains(room) || file == "common/ErrorBlocks.h") return;
+TEST_F(HouseRulesTest, TheSystemCatchesOnlyInItsErrorBlocks) {
+  const std::set<std::string> system = {"common", "metadata", "builder", "readback", "pages", "controller"};
+  ForEachSource([&](const std::string& file, const std::string& text) {
+    if (!system.contains(file.substr(0, file.find('/'))) || file == "common/ErrorBlocks.h") return;
     EXPECT_EQ(text.find("catch ("), std::string::npos) << file;
   });
 }

@@ -7,7 +7,7 @@
 #include <sstream>
 #include <vector>
 
-#include "cli/CommandLine.h"
+#include "cli/line/CommandLine.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"
 #include "tests/support/RunCommand.h"

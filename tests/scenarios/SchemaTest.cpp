@@ -163,7 +163,7 @@ TEST_F(SchemaTest, ChartsOfTheCorpusTakenOver) {
       const auto add = [&](const S& name, const std::vector<test::PlainRow>& rows) {
         if (Book().FindSheet(name)) return Book().FindWorksheet(name);
         const auto sheet = Book().AddWorksheet(Book().AllSheets().size());
-        Book().RenameSheet(*Book().FindSheet(sheet->SheetName()), name);
+        Book().Tabs().Rename(*Book().FindSheet(sheet->SheetName()), name);
         for (std::size_t r = 0; r < rows.size(); ++r) {
           for (std::size_t c = 0; c < rows[r].size(); ++c) {
             const auto row = static_cast<std::int32_t>(r + 1), column = static_cast<std::int32_t>(c + 1);

@@ -1,10 +1,10 @@
 #include "tests/support/BlockTest.h"
 
-#include "builder/BuilderVariables.h"
-#include "builder/DataSheet.h"
-#include "builder/PivotMap.h"
 #include "builder/SourceValidation.h"
-#include "common/CommonFunctions.h"
+#include "builder/maps/PivotMap.h"
+#include "builder/sheet/DataSheet.h"
+#include "builder/state/BuilderVariables.h"
+#include "common/Documents.h"
 #include "metadata/TableDefinitions.h"
 
 namespace plotsmith::test {

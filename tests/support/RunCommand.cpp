@@ -3,7 +3,7 @@
 #include <sstream>
 #include <utility>
 
-#include "cli/CommandLine.h"
+#include "cli/line/CommandLine.h"
 
 namespace plotsmith::test {
 

@@ -9,7 +9,9 @@
 
 #include "cli/check/ColumnCells.h"
 #include "cli/check/Words.h"
-#include "common/CommonFunctions.h"
+#include "common/Cells.h"
+#include "common/Documents.h"
+#include "common/HostAnswers.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
 #include "runtime/Strings.h"

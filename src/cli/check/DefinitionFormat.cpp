@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "cli/check/Words.h"
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 
 namespace plotsmith::cli {
 namespace {

@@ -4,8 +4,9 @@
 #include <utility>
 
 #include "cli/check/Words.h"
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/RunVariables.h"
+#include "common/Values.h"
 
 namespace plotsmith::cli {
 namespace {

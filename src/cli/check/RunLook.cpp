@@ -7,7 +7,7 @@
 #include "cli/check/ReadBackCheck.h"
 #include "cli/check/SourceCheck.h"
 #include "cli/check/Words.h"
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/PSConstants.h"
 #include "common/RunVariables.h"
 

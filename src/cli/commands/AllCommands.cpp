@@ -7,7 +7,6 @@
 #include "cli/commands/Definition.h"
 #include "cli/commands/DeleteCharts.h"
 #include "cli/commands/Format.h"
-#include "cli/commands/Help.h"
 #include "cli/commands/ModifyChart.h"
 #include "cli/commands/NewChart.h"
 #include "cli/commands/Refresh.h"
@@ -36,7 +35,6 @@ std::vector<std::unique_ptr<Command>> MakeCommands() {
   commands.push_back(std::make_unique<CellsCommand>());
   commands.push_back(std::make_unique<FormatCommand>());
   commands.push_back(std::make_unique<SaveCommand>());
-  commands.push_back(std::make_unique<HelpCommand>());
   return commands;
 }
 

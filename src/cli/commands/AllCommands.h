@@ -7,7 +7,7 @@
 
 namespace plotsmith::cli {
 
-/// Makes all verbs, in the order of the help.
+/// Makes all verbs but `help`, in the order of the help.
 std::vector<std::unique_ptr<Command>> MakeCommands();
 
 }  // namespace plotsmith::cli

@@ -6,8 +6,8 @@
 #include "cli/Session.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Variant.h"
-#include "xlsx/Limits.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/sheet/IsoDate.h"
 
 namespace plotsmith::cli {

@@ -8,7 +8,7 @@
 #include "cli/Session.h"
 #include "cli/check/DefinitionCheck.h"
 #include "cli/check/TableCheck.h"
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/ErrorBlocks.h"
 #include "common/RunVariables.h"
 #include "dom/Dom.h"

@@ -10,8 +10,8 @@
 #include "cli/check/ReadBackCheck.h"
 #include "cli/check/TableCheck.h"
 #include "cli/check/Words.h"
-#include "common/CommonFunctions.h"
 #include "common/RunVariables.h"
+#include "common/Values.h"
 #include "runtime/RuntimeError.h"
 
 namespace plotsmith::cli {

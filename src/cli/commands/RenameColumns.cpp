@@ -4,8 +4,9 @@
 #include <set>
 
 #include "cli/Session.h"
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/RunVariables.h"
+#include "common/Values.h"
 #include "controller/CPlotsmithController.h"
 #include "dom/Dom.h"
 #include "runtime/Strings.h"

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/CommandLine.h"
+#include "cli/line/CommandLine.h"
 
 /// The manual page and the completions, generated from the command's table of verbs and options.
 namespace plotsmith::cli {

@@ -10,7 +10,7 @@
 #include "render/ChartDrawing.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/Workbook.h"
-#include "xlsx/chart/Chart.h"
+#include "xlsx/chart/objects/Chart.h"
 
 namespace plotsmith::cli {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "cli/check/Words.h"
 #include "cli/wizard/LayoutControls.h"
-#include "common/CommonFunctions.h"
+#include "common/Documents.h"
 #include "common/RunVariables.h"
 #include "forms/Buttons.h"
 #include "forms/script/ScriptError.h"

@@ -4,7 +4,6 @@
 
 namespace plotsmith::excel {
 
-class Application;
 class DocumentProperty;
 class Names;
 class Sheet;
@@ -16,8 +15,6 @@ class Workbook {
  public:
   virtual ~Workbook() = default;
 
-  /// The host in which the workbook is open.
-  virtual Ref<excel::Application> Application() = 0;
   /// Whether the structure is protected, so that sheets can't be added or deleted.
   virtual bool ProtectStructure() = 0;
   /// Whether the workbook is shared.

@@ -12,7 +12,7 @@
 #include "qt/book/SheetAccessible.h"
 #include "qt/book/Texts.h"
 #include "runtime/RuntimeError.h"
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 
 namespace plotsmith::qtbook {
 

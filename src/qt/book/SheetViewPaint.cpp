@@ -6,7 +6,7 @@
 #include "qt/book/Colors.h"
 #include "qt/book/SheetView.h"
 #include "qt/book/Texts.h"
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 
 namespace plotsmith::qtbook {
 

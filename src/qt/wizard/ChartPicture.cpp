@@ -10,8 +10,8 @@
 #include "render/ChartDrawing.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/Workbook.h"
-#include "xlsx/chart/Chart.h"
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/objects/Chart.h"
+#include "xlsx/chart/part/ChartPart.h"
 
 namespace plotsmith::qt {
 namespace {

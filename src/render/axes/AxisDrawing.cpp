@@ -7,7 +7,7 @@
 #include "render/axes/AxisMap.h"
 #include "render/axes/AxisPlace.h"
 #include "render/axes/DateAxis.h"
-#include "xlsx/chart/AutomaticLayout.h"
+#include "xlsx/chart/rules/AutomaticLayout.h"
 
 namespace plotsmith::render {
 namespace {

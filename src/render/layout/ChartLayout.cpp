@@ -5,7 +5,7 @@
 #include <numbers>
 
 #include "render/axes/AxisPlace.h"
-#include "xlsx/chart/AutomaticLayout.h"
+#include "xlsx/chart/rules/AutomaticLayout.h"
 
 namespace plotsmith::render {
 

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "render/Drawing.h"
-#include "xlsx/chart/ScaleRules.h"
+#include "xlsx/chart/rules/ScaleRules.h"
 #include "xlsx/numberformat/DateSystem.h"
 #include "xlsx/numberformat/NumberFormat.h"
 

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "xlsx/Workbook.h"
-#include "xlsx/chart/ChartPart.h"
-#include "xlsx/chart/ChartText.h"
-#include "xlsx/chart/GroupAxes.h"
-#include "xlsx/chart/LegendEntries.h"
-#include "xlsx/chart/PlotGroups.h"
+#include "xlsx/book/BookContext.h"
+#include "xlsx/chart/part/ChartPart.h"
+#include "xlsx/chart/rules/ChartText.h"
+#include "xlsx/chart/rules/GroupAxes.h"
+#include "xlsx/chart/rules/LegendLines.h"
+#include "xlsx/chart/rules/PlotGroups.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Xml.h"
 

@@ -4,10 +4,10 @@
 #include <optional>
 
 #include "render/model/ChartReader.h"
-#include "xlsx/Workbook.h"
-#include "xlsx/Worksheet.h"
-#include "xlsx/chart/ChartCache.h"
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/book/BookContext.h"
+#include "xlsx/book/CellSource.h"
+#include "xlsx/chart/part/ChartCache.h"
+#include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Xml.h"
 #include "xlsx/sheet/Reference.h"
@@ -38,7 +38,7 @@ std::size_t Admitted(ReadingContext& context, long long claimed) {
 
 /// The cells that a reference without a cache points at.
 struct Cells {
-  std::shared_ptr<xlsx::Worksheet> sheet;
+  std::shared_ptr<xlsx::CellSource> sheet;
   xlsx::CellRange range;
 
   template <class Visit>
@@ -57,7 +57,7 @@ std::optional<Cells> CellsOf(ReadingContext& context, pugi::xml_node reference) 
   const auto formula = xml::Child(reference, "f");
   if (!formula) return std::nullopt;
   const auto range = xlsx::ParseSheetRange(xml::Text(formula));
-  auto sheet = range ? context.part.Book().FindWorksheet(range->sheet) : nullptr;
+  auto sheet = range ? context.part.Book().FindCells(range->sheet) : nullptr;
   if (!sheet) return std::nullopt;
   return Cells{std::move(sheet), range->range};
 }

@@ -4,8 +4,8 @@
 
 #include "render/axes/DateAxis.h"
 #include "render/model/ChartReader.h"
-#include "xlsx/Workbook.h"
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/book/BookContext.h"
+#include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Xml.h"
 

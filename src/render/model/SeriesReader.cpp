@@ -4,8 +4,8 @@
 #include <string_view>
 
 #include "render/model/ChartReader.h"
-#include "xlsx/chart/ChartPart.h"
-#include "xlsx/chart/SeriesData.h"
+#include "xlsx/chart/part/ChartPart.h"
+#include "xlsx/chart/rules/SeriesData.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Xml.h"

@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-#include "xlsx/chart/AutomaticColors.h"
-#include "xlsx/chart/ChartCache.h"
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/part/ChartCache.h"
+#include "xlsx/chart/part/ChartPart.h"
+#include "xlsx/chart/rules/AutomaticColors.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/ShapeXml.h"

@@ -6,7 +6,7 @@
 #include <pugixml.hpp>
 
 #include "render/model/ChartModel.h"
-#include "xlsx/chart/ChartTextLook.h"
+#include "xlsx/chart/rules/ChartTextLook.h"
 
 namespace plotsmith::xlsx {
 class ChartPart;

@@ -9,7 +9,7 @@
 #include "render/shapes/Placement.h"
 #include "render/shapes/ShapeForms.h"
 #include "render/shapes/ShapeText.h"
-#include "xlsx/Workbook.h"
+#include "xlsx/book/BookContext.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/ShapeXml.h"
 #include "xlsx/drawing/Theme.h"
@@ -176,7 +176,7 @@ class ObjectPainter {
 
 }  // namespace
 
-ImageSource ImagesOf(xlsx::Workbook& book, std::string part) {
+ImageSource ImagesOf(xlsx::BookContext& book, std::string part) {
   return [&book, part = std::move(part)](const std::string& relationship) -> std::string {
     try {
       const auto link = book.Package().FindRelationship(part, relationship);

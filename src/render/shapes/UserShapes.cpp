@@ -4,9 +4,9 @@
 
 #include "render/shapes/ShapeObjects.h"
 #include "runtime/RuntimeError.h"
-#include "xlsx/Workbook.h"
-#include "xlsx/chart/ChartDrawing.h"
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/book/BookContext.h"
+#include "xlsx/chart/part/ChartDrawing.h"
+#include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::render {

@@ -6,7 +6,7 @@
 
 #include "render/sheet/CellLines.h"
 #include "render/sheet/MergedCells.h"
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 
 namespace plotsmith::render {
 namespace {

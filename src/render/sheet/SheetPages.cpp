@@ -14,7 +14,7 @@
 #include "xlsx/Sheet.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/Worksheet.h"
-#include "xlsx/chart/Chart.h"
+#include "xlsx/chart/objects/Chart.h"
 
 namespace plotsmith::render {
 namespace {

@@ -10,7 +10,7 @@
 #include "xlsx/SheetShape.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/Worksheet.h"
-#include "xlsx/chart/Chart.h"
+#include "xlsx/chart/objects/Chart.h"
 
 namespace plotsmith::render {
 namespace {

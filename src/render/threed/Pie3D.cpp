@@ -9,7 +9,7 @@
 #include "render/labels/LabelText.h"
 #include "render/threed/Shading.h"
 #include "render/threed/View.h"
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::render {

@@ -7,7 +7,7 @@
 #include "render/threed/Pie3D.h"
 #include "render/threed/StageAxes.h"
 #include "render/threed/Walls.h"
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::render {

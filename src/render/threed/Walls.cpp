@@ -5,7 +5,7 @@
 #include "render/axes/AxisMap.h"
 #include "render/model/StyleReader.h"
 #include "render/threed/Solids.h"
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::render {

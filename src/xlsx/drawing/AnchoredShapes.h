@@ -8,50 +8,45 @@
 #include <vector>
 
 #include "runtime/Strings.h"
-#include "xlsx/Workbook.h"
 #include "xlsx/drawing/DrawnShape.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
 
-/// What the drawings of a sheet and of a chart have in common: a document of anchors, and on each a shape.
-/// `Shape` is the drawing's own class of DrawnShape.
+/// The common part of the drawings of sheets and of charts: a document of anchors, with a shape on each.
+/// `Shape` is the drawing's class of shapes, derived from DrawnShape.
 template <class Shape>
 class AnchoredShapes {
  public:
-  /// From back to front, what is inside a group not counted.
+  virtual ~AnchoredShapes() = default;
+
+  /// The shapes from back to front. A group is one shape.
   const std::vector<std::shared_ptr<Shape>>& Shapes() const { return shapes_; }
-  /// Null if there is none; case aside.
+  /// The shape of a name, ignoring case; null if there is none.
   std::shared_ptr<Shape> FindShape(std::string_view name) const {
     for (const auto& shape : shapes_) {
       if (runtime::EqualsIgnoreCase(shape->Name(), name)) return shape;
     }
     return nullptr;
   }
-  /// Takes the shape and its anchor out of the drawing, and with them the relationships that nothing else in
-  /// the drawing uses.
+  /// Removes a shape and its anchor from the drawing, and the relationships that no other shape uses.
   void Remove(DrawnShape& shape) {
     pugi::xml_node anchor = shape.Anchor();
-    const std::set<std::string> ids = xml::RelationshipIdsIn(anchor);
+    std::set<std::string> ids = xml::RelationshipIdsIn(anchor);
     std::erase_if(shapes_, [&](const auto& other) { return other.get() == &shape; });
     anchor.parent().remove_child(anchor);
     shape.Leave();
     changed_ = true;
     if (part_.empty() || ids.empty()) return;
-    const std::set<std::string> used = xml::RelationshipIdsIn(xml::Root(document_));
-    Workbook& book = shape.Book();
-    book.Guarded([&] {
-      for (const std::string& id : ids) {
-        if (!used.contains(id)) book.RemoveRelationship(part_, id);
-      }
-    });
+    for (const std::string& used : xml::RelationshipIdsIn(xml::Root(document_))) ids.erase(used);
+    RemoveRelationships(ids);
   }
 
   void MarkChanged() { changed_ = true; }
   bool Changed() const { return changed_; }
 
  protected:
-  /// A name that no shape has yet, from a number on.
+  /// A name that no shape has yet: the stem and the first free number from `number` on.
   std::string FreeName(std::string_view stem, std::size_t number) const {
     std::set<std::string> taken;
     for (const auto& shape : shapes_) taken.insert(runtime::UCase(shape->Name()));
@@ -60,6 +55,9 @@ class AnchoredShapes {
       if (!taken.contains(runtime::UCase(name))) return name;
     }
   }
+
+  /// Removes relationships of the drawing's part from the package.
+  virtual void RemoveRelationships(const std::set<std::string>& ids) = 0;
 
   std::string part_;  ///< empty while there is none
   pugi::xml_document document_;

@@ -30,7 +30,7 @@ std::string Font(std::string_view name, std::string_view typeface) {
                            "\"/><a:ea typeface=\"\"/><a:cs typeface=\"\"/>");
 }
 
-/// The schema wants three of each: subtle, moderate and intense.
+/// The schema requires three of each: subtle, moderate and intense.
 std::string Thrice(std::string_view name, const std::string& content) {
   return Element(name, content + content + content);
 }

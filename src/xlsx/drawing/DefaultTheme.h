@@ -4,9 +4,9 @@
 
 namespace plotsmith::xlsx {
 
-/// A theme for a workbook that has none, with the colours and fonts that Excel falls back to (Office
-/// 2007-2010). What is automatic on a chart, the colours of series first of all, is taken from the theme, and
-/// not every reader brings one of its own.
+/// A theme part for a workbook that has none, with the colours and fonts of Office 2007-2010, which Excel
+/// uses then. Automatic formats of a chart, such as the colours of series, come from the theme, and not every
+/// reader has a default theme. `strict` chooses the Strict vocabulary.
 std::string DefaultTheme(bool strict);
 
 }  // namespace plotsmith::xlsx

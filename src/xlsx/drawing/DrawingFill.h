@@ -4,15 +4,16 @@
 #include <pugixml.hpp>
 #include <string_view>
 
-/// Fillings of DrawingML, inside shape, line and run properties.
+/// The fills of DrawingML, inside shape, line and run properties.
 namespace plotsmith::xlsx {
 
-/// The filling, or a null node where it is left to a style.
+/// The fill, or a null node if a style decides it.
 pugi::xml_node FindFill(pugi::xml_node properties);
+/// Removes the fill, so that a style decides it.
 void RemoveFill(pugi::xml_node properties);
-/// An empty filling of a kind ("noFill", "solidFill", "pattFill") in the place of any other.
+/// Replaces the fill by an empty one of a kind ("noFill", "solidFill", "pattFill").
 pugi::xml_node SetFill(pugi::xml_node properties, std::string_view kind);
-/// The colour of a filling, or of one of a pattern's two colours.
+/// Sets the colour of a fill, or of one of the two colours of a pattern, as red + 256 * green + 65536 * blue.
 void SetFillColor(pugi::xml_node fill, std::int32_t color);
 
 }  // namespace plotsmith::xlsx

@@ -4,8 +4,8 @@
 
 #include "host/excel/Constants.h"
 #include "runtime/Strings.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Journal.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/base/Journal.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/HexColor.h"
@@ -21,7 +21,7 @@ constexpr double kMostPoints = 409;
 
 }  // namespace
 
-/// A property of all of the text, or Null.
+/// A property that all of the text has in common, or Null.
 template <class Get>
 Variant DrawingFont::Common(const Get& get) const {
   Variant common;
@@ -57,14 +57,14 @@ Variant DrawingFont::Color() {
   return Common([](const TextLook& look) { return Variant(look.color); });
 }
 
-/// The file has no such property.
+/// The file doesn't store this property.
 Variant DrawingFont::Background() { return excel::xlBackgroundAutomatic; }
 
 void DrawingFont::SetName(const Variant& name) {
   const std::string typeface = runtime::CStr(name);
   if (typeface.empty()) throw CantSet("Name", "Font");
   Apply("Name", name, [&](pugi::xml_node properties) {
-    // for Latin and for complex scripts, as Excel does it; what East Asian text has stays
+    // As in Excel, this sets the fonts of Latin and complex scripts, and not that of East Asian text.
     xml::SetAttribute(schema::Ensure(properties, "latin"), "typeface", typeface);
     xml::SetAttribute(schema::Ensure(properties, "cs"), "typeface", typeface);
   });

@@ -12,18 +12,19 @@ namespace plotsmith::xlsx {
 
 class Journal;
 
-/// How a stretch of text looks.
+/// The format of a piece of text.
 struct TextLook {
   std::string typeface;
-  double points = 0;
+  double points = 0;  ///< the size
   bool bold = false, italic = false;
-  std::int32_t color = 0;
+  std::int32_t color = 0;  ///< red + 256 * green + 65536 * blue
   bool underline = false;
 
   bool operator==(const TextLook&) const = default;
 };
 
-/// A font of DrawingML: properties of the runs of a text, which a chart and a shape hold in different places.
+/// A font of DrawingML: the properties of the runs of a text. Charts and shapes hold them in different
+/// places, which the derived classes know.
 class DrawingFont : public excel::Font {
  public:
   runtime::Variant Name() override;
@@ -42,9 +43,9 @@ class DrawingFont : public excel::Font {
   explicit DrawingFont(std::string journalPath) : path_(std::move(journalPath)) {}
 
   virtual const Journal& Log() const = 0;
-  /// The looks that occur in the text, at least one.
+  /// The formats that occur in the text, at least one.
   virtual std::vector<TextLook> Looks() const = 0;
-  /// Calls `set` with the properties of each run, made where they are missing.
+  /// Calls `set` with the properties of each run, which are made if they are missing.
   virtual void ForEachRun(const std::function<void(pugi::xml_node properties)>& set) = 0;
 
  private:

@@ -6,10 +6,9 @@
 
 #include "host/excel/Constants.h"
 #include "runtime/Strings.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Journal.h"
-#include "xlsx/Limits.h"
-#include "xlsx/Workbook.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/base/Journal.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/FillAndLine.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
@@ -24,9 +23,9 @@ using excel::Ref;
 namespace {
 
 constexpr std::int32_t kLine = 9;  // msoLine
-// the insets of a text box that says nothing (ECMA-376-1, 21.1.2.1.1): 0.1 and 0.05 inches, in points
+// the default insets of a text box (ECMA-376-1, 21.1.2.1.1): 0.1 and 0.05 inches, in points
 constexpr double kUsualMarginAcross = 7.2, kUsualMarginDown = 3.6;
-// the inset at the sides that Excel writes for a box that leaves its margins to Excel (AutoMargins), in
+// the left and right inset that Excel writes for a box with automatic margins (AutoMargins), in
 // points
 constexpr double kAutomaticMargin = 2.16;
 
@@ -62,8 +61,6 @@ pugi::xml_node DrawnShape::Properties() const {
   if (!properties) throw OutOfRange();
   return properties;
 }
-
-const Journal& DrawnShape::Log() const { return Book().Journal(); }
 
 std::string DrawnShape::JournalPathUnder(const std::string& drawing) const {
   return drawing + ".Shapes(" + Journal::Literal(xml::Attribute(IdentityOf(object_), "name")) + ")";
@@ -101,7 +98,7 @@ void DrawnShape::SetText(std::u16string_view text) {
   TextBody body(Object());
   if (text.size() > limits::kShapeText) throw Refusal("The text is longer than a shape can hold.");
   body.SetText(runtime::ToUtf8(text));
-  text_.reset();  // what the body holds may differ, as in its line ends
+  text_.reset();  // the body may store another text, for example other line ends
   FitToText();
   MarkChanged();
 }
@@ -110,7 +107,7 @@ void DrawnShape::Place(const Frame& wanted) {
   const pugi::xml_node object = Object();
   CheckPlace(wanted);
   const Frame frame = MoveAnchor(wanted);
-  // the frame of a chart or the like has its place from the anchor alone
+  // Only the anchor gives the frame of a chart its place.
   if (!xml::Is(object, "graphicFrame")) SetTransform(object, frame);
   MarkChanged();
 }
@@ -176,7 +173,7 @@ void DrawnShape::SetAutoShapeType(std::int32_t type) {
   const pugi::xml_node properties = Properties();
   schema::Remove(properties, "custGeom");
   pugi::xml_node form = schema::Ensure(properties, "prstGeom");
-  form.remove_children();  // the adjustments were the old form's
+  form.remove_children();  // the adjustments belong to the old geometry
   xml::SetAttribute(form, "prst", *preset);
   schema::Ensure(form, "avLst");
   MarkChanged();
@@ -191,7 +188,7 @@ void DrawnShape::FitToText() {
   const bool wraps = xml::Attribute(body, "wrap", "square") != "none";
   Frame frame = PlacedFrame();
   const auto extent =
-      TextBody(object_).Measure(Book().Theme(), wraps ? std::optional(frame.width - across) : std::nullopt);
+      TextBody(object_).Measure(Theme(), wraps ? std::optional(frame.width - across) : std::nullopt);
   if (!wraps) frame.width = extent.width + across;
   frame.height = extent.height + down;
   Place(frame);
@@ -200,12 +197,12 @@ void DrawnShape::FitToText() {
 void DrawnShape::StopFittingToText() {
   pugi::xml_node body = xml::Child(object_, "txBody", "bodyPr");
   if (!xml::Child(body, "spAutoFit")) return;
-  // A program that fits boxes when it opens the file would undo the size. LibreOffice even does it from the
-  // middle of the box, which leaves texts that were aligned to the left at different places.
+  // A program that fits boxes when it opens the file would undo the size. LibreOffice does so from the
+  // middle of the box, so that texts with the same left edge would end up at different places.
   schema::Remove(body, "spAutoFit");
   schema::Ensure(body, "noAutofit");
   if (xml::Attribute(body, "wrap", "square") != "none") return;
-  // A line that doesn't break would run over the right edge by the margins that the size left no room for.
+  // The size has no room for the usual margins, so a text that doesn't wrap would cross the right edge.
   for (const char* margin : {"lIns", "rIns"}) {
     if (!body.attribute(margin)) xml::SetAttribute(body, margin, std::to_string(Emu(kAutomaticMargin)));
   }
@@ -214,7 +211,7 @@ void DrawnShape::StopFittingToText() {
 void DrawnShape::Delete() {
   Log().Call([this] { return JournalPath(); }, "Delete");
   Object();
-  const auto alive = shared_from_this();  // the drawing may be the last to know it
+  const auto alive = shared_from_this();  // the drawing may hold the last reference
   RemoveFromDrawing();
 }
 

@@ -13,10 +13,10 @@
 namespace plotsmith::xlsx {
 
 class Journal;
-class Workbook;
+class Theme;
 
-/// What the shapes of a sheet and those on a chart have in common: a view over an object of a drawing (sp,
-/// grpSp, pic, ...). Where the object lies is a matter of its anchor, which each drawing has its own way for.
+/// The common part of the shapes on sheets and on charts: a view over an object of a drawing (sp, grpSp, pic
+/// and so on). The anchor gives the object its place; sheets and charts have different kinds of anchors.
 class DrawnShape : public excel::Shape, public std::enable_shared_from_this<DrawnShape> {
  public:
   DrawnShape(pugi::xml_node anchor, pugi::xml_node object);
@@ -42,48 +42,51 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   void SetAutoShapeType(std::int32_t type) override;
   void Delete() override;
 
-  // for the other classes of this host
+  /// The place of the shape, in points from the upper left corner of the sheet or the chart.
   virtual Frame PlacedFrame() const = 0;
+  /// The path of the shape in the journal.
   virtual std::string JournalPath() const = 0;
+  /// Notes that the drawing must be written.
   virtual void MarkChanged() = 0;
-  virtual Workbook& Book() const = 0;
+  virtual const Journal& Log() const = 0;
+  /// The theme that the colours and fonts of the shape refer to.
+  virtual const xlsx::Theme& Theme() const = 0;
   /// The object's element; error 1004 once the shape was deleted.
   pugi::xml_node Object() const;
-  /// spPr, or a group's grpSpPr; error 1004 for what has neither.
+  /// The shape properties (spPr, or grpSpPr of a group); error 1004 for an object that has neither.
   pugi::xml_node Properties() const;
   /// The anchor's element; error 1004 once the shape was deleted.
   pugi::xml_node Anchor() const;
-  const Journal& Log() const;
-  /// What the shape says, in units; whoever reads it in pieces gets them from one conversion.
+  /// The text of the shape in UTF-16. It is converted once, so that reading it in pieces is fast.
   const std::u16string& Text();
   void SetText(std::u16string_view text);
-  /// Puts the shape elsewhere, as near as its drawing allows. Error 1004 for one that
-  /// CheckPlace refuses.
+  /// Moves the shape, as near to the frame as its drawing allows. Error 1004 for a frame that CheckPlace
+  /// refuses.
   void Place(const Frame& frame);
-  /// A shape that follows its text takes the size that its text now needs.
+  /// Gives a shape that resizes with its text the size that the text needs.
   void FitToText();
-  /// The elements are gone, or about to go.
+  /// Call this when the shape's elements are removed. Every use is error 1004 from then on.
   void Leave();
 
  protected:
-  /// Moves the anchor and answers where that allows the shape to lie.
+  /// Moves the anchor and returns the frame that the anchor allows.
   virtual Frame MoveAnchor(const Frame& wanted) = 0;
-  /// Takes the shape out of its drawing, and leaves.
+  /// Removes the shape from its drawing.
   virtual void RemoveFromDrawing() = 0;
   std::string JournalPathUnder(const std::string& drawing) const;
 
  private:
   bool KeepsItsProportions() const;
-  /// Turns TextFrame2.AutoSize off, because the shape gets a size of its own. Margins at the sides of a line
-  /// that doesn't break become narrow, unless they were set.
+  /// Turns TextFrame2.AutoSize off, because the shape gets a fixed size. The left and right margins of a text
+  /// that doesn't wrap become narrow, unless they were set.
   void StopFittingToText();
 
   pugi::xml_node anchor_, object_;
   std::optional<std::u16string> text_;  ///< kept until it changes
-  std::int32_t type_;                   ///< read once: whoever seeks a chart asks all shapes
+  std::int32_t type_;                   ///< read once, because a search for a chart asks all shapes
 };
 
-/// Error 1004 unless all of it fits into the type of Excel's places, Single.
+/// Raises error 1004 unless all coordinates fit into Excel's type for them, Single.
 void CheckPlace(const Frame& frame);
 
 }  // namespace plotsmith::xlsx

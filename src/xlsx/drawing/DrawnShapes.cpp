@@ -1,8 +1,8 @@
 #include "xlsx/drawing/DrawnShapes.h"
 
 #include "host/excel/ShapeRange.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Journal.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/base/Journal.h"
 #include "xlsx/drawing/DrawnShape.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
 
@@ -33,7 +33,7 @@ class ShapeRangeObject final : public excel::ShapeRange {
   std::string Name() override { return Only().Name(); }
   double Width() override { return Common(&DrawnShape::Width); }
   double Height() override { return Common(&DrawnShape::Height); }
-  // what is set is set on each of them, and each writes its own line in the journal
+  // A property is set on each shape, and each writes its own line in the journal.
   void SetLeft(double points) override {
     for (const auto& shape : shapes_) shape->SetLeft(points);
   }
@@ -58,7 +58,7 @@ class ShapeRangeObject final : public excel::ShapeRange {
     if (shapes_.size() != 1) throw OutOfRange();
     return *shapes_[0];
   }
-  /// What all of them agree on.
+  /// The value that all shapes have; error 1004 if they differ.
   template <class Get>
   double Common(const Get& get) const {
     const double first = (shapes_[0].get()->*get)();

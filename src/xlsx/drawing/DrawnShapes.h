@@ -13,7 +13,7 @@ namespace plotsmith::xlsx {
 class DrawnShape;
 class Journal;
 
-/// The shapes of a drawing for the port, of a sheet's and of a chart's.
+/// The shapes of a sheet or a chart for the port.
 class DrawnShapes : public excel::Shapes, public std::enable_shared_from_this<DrawnShapes> {
  public:
   excel::Ref<excel::Shape> Item(std::int32_t index) override;
@@ -24,19 +24,19 @@ class DrawnShapes : public excel::Shapes, public std::enable_shared_from_this<Dr
                                     double height) override;
   excel::Ref<excel::ShapeRange> Range(const std::vector<std::string>& names) override;
 
-  /// Makes shapes of this drawing one.
+  /// Makes one shape of several shapes of this drawing.
   virtual std::shared_ptr<DrawnShape> Group(const std::vector<std::shared_ptr<DrawnShape>>& shapes) = 0;
   virtual const Journal& Log() const = 0;
-  /// The object that the shapes are drawn on.
+  /// The path in the journal of the object that the shapes are drawn on.
   virtual std::string JournalPath() const = 0;
 
  protected:
-  /// The shape at a place, counted from 0 at the back; there are Count of them.
+  /// The shape at an index from 0, at the back, to Count - 1.
   virtual std::shared_ptr<DrawnShape> At(std::size_t index) = 0;
-  /// Null if there is none; case aside.
+  /// The shape of a name, ignoring case; null if there is none.
   virtual std::shared_ptr<DrawnShape> Find(std::string_view name) = 0;
   virtual std::shared_ptr<DrawnShape> NewTextbox(const Frame& frame) = 0;
-  /// `name` begins the new shape's name, `preset` is its form in the file.
+  /// The shape's name is `name` and a number; `preset` is its geometry in the file (ST_ShapeType).
   virtual std::shared_ptr<DrawnShape> NewAutoShape(std::string_view name, std::string_view preset,
                                                    const Frame& frame) = 0;
 };

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "host/excel/ColorFormat.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Journal.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/base/Journal.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/DrawnShape.h"
@@ -19,7 +19,7 @@ namespace {
 
 constexpr double kMostPoints = 1584;
 
-/// The element that a shape's filling stands in: its properties, or those of its outline.
+/// The element that holds a fill: the properties of a shape, or those of its outline.
 enum class Part { kFill, kLine };
 
 /// A group has no outline: error 1004.
@@ -30,8 +30,8 @@ pugi::xml_node PropertiesOf(const DrawnShape& shape, Part part) {
   return schema::Ensure(properties, "ln");
 }
 
-/// One of the two colours of a filling or an outline. A plain one shows the first only; the second comes to
-/// light in a pattern, and the file has no place for it elsewhere.
+/// One of the two colours of a fill or an outline. Only a pattern shows the second one, and the file
+/// stores it only there.
 class ColorFormatObject final : public excel::ColorFormat {
  public:
   ColorFormatObject(std::shared_ptr<DrawnShape> shape, Part part, bool back)
@@ -86,7 +86,7 @@ class LineFormatObject final : public excel::LineFormat {
       SetFill(line, "noFill");
     } else if (const auto fill = FindFill(line); !fill || xml::Is(fill, "noFill")) {
       RemoveFill(line);
-      // a shape with a style has a line by that
+      // The style of a shape gives it a line.
       if (!xml::Child(shape_->Object(), "style"))
         schema::SetVal(SetFill(line, "solidFill"), "schemeClr", "tx1");
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "xlsx/Enumerations.h"
+#include "xlsx/base/Enumerations.h"
 
 /// Enumerations of Excel's object model that shapes have, and how the file says them.
 namespace plotsmith::xlsx {

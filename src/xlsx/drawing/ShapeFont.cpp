@@ -1,10 +1,10 @@
 #include "xlsx/drawing/ShapeFont.h"
 
-#include "xlsx/Journal.h"
-#include "xlsx/Workbook.h"
+#include "xlsx/base/Journal.h"
 #include "xlsx/drawing/DrawingFont.h"
 #include "xlsx/drawing/DrawnShape.h"
 #include "xlsx/drawing/TextBody.h"
+#include "xlsx/drawing/Theme.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
@@ -24,7 +24,7 @@ class ShapeFontObject final : public DrawingFont {
     if (runs.empty()) runs.emplace_back();
     std::vector<TextLook> looks;
     for (const pugi::xml_node& run : runs) {
-      const Theme& theme = shape_->Book().Theme();
+      const Theme& theme = shape_->Theme();
       const TextFace face = FaceOf(run, theme);
       looks.push_back({face.font, face.size, xml::BooleanAttribute(run, "b", false),
                        xml::BooleanAttribute(run, "i", false),

@@ -14,8 +14,8 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// Writers put what only newer programs know beside what all know; Excel takes the first choice that it
-/// knows, and so do we.
+/// A file may have alternatives for newer and older programs. This takes the first choice that it
+/// knows, as Excel does.
 pugi::xml_node Chosen(pugi::xml_node node) {
   const auto choice = xml::Child(node, "Choice");
   return choice ? choice : xml::Child(node, "Fallback");
@@ -28,7 +28,7 @@ bool IsOneOf(pugi::xml_node node, std::span<const std::string_view> names) {
   return std::find(names.begin(), names.end(), xml::LocalName(node)) != names.end();
 }
 
-/// Identity and form, as all new objects begin.
+/// The identity and the geometry, with which all new objects begin.
 std::string Start(std::string_view kind, unsigned id, std::string_view name, std::string_view properties) {
   return "<@nv" + std::string(kind) + "><@cNvPr id=\"" + std::to_string(id) + "\" name=\"" +
          xml::EncodeAttribute(name) + "\"/>" + std::string(properties) + "</@nv" + std::string(kind) + ">";
@@ -146,7 +146,7 @@ std::string TextboxTemplate(unsigned id, std::string_view name, std::string_view
 }
 
 std::string AutoShapeTemplate(unsigned id, std::string_view name, std::string_view preset) {
-  // dressed by the theme, as Excel dresses a new shape
+  // the theme's style, which Excel gives to new shapes
   return R"(<@sp macro="" textlink="">)" + Start("SpPr", id, name, "<@cNvSpPr/>") + "<@spPr>" + Form(preset) +
          R"(</@spPr><@style><~lnRef idx="2"><~schemeClr val="accent1"><~shade val="50000"/></~schemeClr></~lnRef>)"
          R"(<~fillRef idx="1"><~schemeClr val="accent1"/></~fillRef><~effectRef idx="0"><~schemeClr val="accent1"/>)"

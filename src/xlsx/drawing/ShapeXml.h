@@ -6,10 +6,10 @@
 #include <string>
 #include <string_view>
 
-/// The elements of shapes, which are the same on a sheet and on a chart but for their prefix.
+/// The elements of shapes. Sheets and charts have the same ones under different prefixes.
 namespace plotsmith::xlsx {
 
-/// Where a shape lies, in points from the sheet's or the chart's corner.
+/// The place of a shape, in points from the upper left corner of the sheet or the chart.
 struct Frame {
   double left = 0, top = 0, width = 0, height = 0;
 
@@ -19,9 +19,9 @@ struct Frame {
 
 inline constexpr double kEmuPerPoint = 12700;
 long long Emu(double points);
-/// An attribute in EMU, as points.
+/// An attribute in EMU, converted to points.
 double PointsOf(pugi::xml_node node, const char* attribute, double fallback = 0);
-/// Two attributes in EMU: a place, or an extent.
+/// Sets two attributes in EMU, a place or an extent, from points.
 void SetPair(pugi::xml_node node, const char* first, const char* second, double x, double y);
 
 /// Calls `visit` for each anchor of one of the names, from back to front, with the object that it anchors.
@@ -40,17 +40,17 @@ pugi::xml_node ChartLinkOf(pugi::xml_node object);
 /// An unused id for a shape of the document.
 unsigned NextShapeId(pugi::xml_node root);
 
-/// Place and extent as the object itself has them, beside its anchor.
+/// Sets the place and extent in the object itself, beside those of its anchor.
 void SetTransform(pugi::xml_node object, const Frame& frame);
 
 /// Appends an element to the root. "@" in the template stands for the prefix of the drawing's elements and
 /// "~" for that of DrawingML's.
 pugi::xml_node AppendTemplate(pugi::xml_node root, std::string text, const std::string& prefix,
                               const std::string& drawingMl);
-/// Templates of new objects, which have no place yet. `dress` is what follows the shape's form.
+/// Templates of new objects, which have no place yet. `dress` is inserted behind the shape's geometry.
 std::string TextboxTemplate(unsigned id, std::string_view name, std::string_view dress);
 std::string AutoShapeTemplate(unsigned id, std::string_view name, std::string_view preset);
-/// The members of the group say their places as the frame does.
+/// The members of the group have their places in the coordinates of the frame.
 std::string GroupTemplate(unsigned id, std::string_view name, const Frame& frame);
 
 }  // namespace plotsmith::xlsx

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "runtime/Strings.h"
-#include "xlsx/Errors.h"
+#include "xlsx/base/Errors.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/Theme.h"
 #include "xlsx/package/Xml.h"
@@ -12,13 +12,13 @@
 namespace plotsmith::xlsx {
 namespace {
 
-// Points, of a shape's text that says nothing: that of the workbook's usual font. Charts have a size of their
-// own.
+// The default size of a shape's text in points, which is that of the workbook's usual font. Charts have
+// another one.
 constexpr double kUsualSize = 11;
 
 bool IsRun(pugi::xml_node node) { return xml::Is(node, "r") || xml::Is(node, "fld"); }
 
-/// Cuts a run behind its first units; the rest follows as a run dressed alike. A field stays whole.
+/// Cuts a run after its first units. The rest becomes a run with the same format. A field isn't cut.
 void Cut(pugi::xml_node run, std::size_t units) {
   const std::u16string text = runtime::ToUtf16(xml::Text(xml::Child(run, "t")));
   if (!xml::Is(run, "r") || units == 0 || units >= text.size()) return;
@@ -27,7 +27,8 @@ void Cut(pugi::xml_node run, std::size_t units) {
   xml::SetText(xml::Child(rest, "t"), runtime::ToUtf8(text.substr(units)));
 }
 
-/// Calls `visit` with each run and where it begins and ends; it may cut the run. Answers the text's length.
+/// Calls `visit` with each run, its begin and its end; `visit` may cut the run. Returns the length of the
+/// text.
 template <class Visit>
 std::size_t ForEachRun(const std::vector<pugi::xml_node>& paragraphs, const Visit& visit) {
   std::size_t at = 0;
@@ -60,7 +61,7 @@ std::string BodyText(pugi::xml_node body) {
 }
 
 void SetBodyText(pugi::xml_node body, std::string_view text) {
-  pugi::xml_document dress;  // copies, as the originals go
+  pugi::xml_document dress;  // copies, because the originals are removed
   const auto keep = [&](pugi::xml_node node) { return node ? dress.append_copy(node) : pugi::xml_node(); };
   const auto keepAs = [&](pugi::xml_node node, const char* name) {
     pugi::xml_node copy = keep(node);
@@ -106,7 +107,7 @@ pugi::xml_node TextBody::Body() const { return xml::Child(object_, "txBody"); }
 pugi::xml_node TextBody::EnsureBody() {
   if (const auto body = Body()) return body;
   if (!xml::Is(object_, "sp")) throw OutOfRange();
-  // it is the last child, in the drawing's own vocabulary
+  // It is the last child, in the namespace of the drawing.
   const pugi::xml_node body = xml::AppendChild(object_, "txBody");
   EnsureParagraph(body);
   return body;
@@ -124,7 +125,7 @@ std::vector<pugi::xml_node> TextBody::EnsureRunProperties(std::size_t start, std
   const std::size_t size = ForEachRun(paragraphs, [&](pugi::xml_node run, std::size_t from, std::size_t to) {
     if (to <= start || from >= end) return;
     if (from < start) {
-      Cut(run, start - from);  // what lies inside is the next run
+      Cut(run, start - from);  // the part inside is the next run
       if (xml::Is(run, "r")) return;
     }
     if (to > end) Cut(run, end - from);
@@ -167,7 +168,7 @@ TextBody::Extent TextBody::Measure(const Theme& theme, std::optional<double> wid
       }
       const std::string text = xml::Text(xml::Child(run, "t"));
       for (std::string_view rest = text; !rest.empty();) {
-        // a word with the blank behind it, which may hang over the edge
+        // a word and the blank behind it, which may cross the edge
         const std::size_t blank = rest.find(' ');
         const std::string_view word = rest.substr(0, blank);
         if (width && x > 0 && x + TextWidth(word, face) > *width) endLine();

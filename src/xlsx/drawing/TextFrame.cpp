@@ -6,8 +6,8 @@
 
 #include "host/excel/Characters.h"
 #include "runtime/Strings.h"
-#include "xlsx/Errors.h"
-#include "xlsx/Journal.h"
+#include "xlsx/base/Errors.h"
+#include "xlsx/base/Journal.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/DrawnShape.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
@@ -63,7 +63,7 @@ class CharactersObject final : public excel::Characters {
   std::optional<std::size_t> length_;
 };
 
-/// Members that both frames have.
+/// The members that both classes of frames share.
 class FrameMembers {
  public:
   FrameMembers(std::shared_ptr<DrawnShape> shape, const char* name) : shape_(std::move(shape)), name_(name) {}
@@ -71,7 +71,7 @@ class FrameMembers {
   void Put(const char* property, const runtime::Variant& value) const {
     shape_->Log().Put([this] { return shape_->JournalPath() + "." + name_; }, property, value);
   }
-  /// Sets one of the body's properties; the shape follows where it is to.
+  /// Sets a property of the body. A shape that resizes with its text does so.
   template <class Set>
   void Change(const Set& set) const {
     TextBody text(shape_->Object());

@@ -9,7 +9,7 @@ namespace plotsmith::xlsx {
 
 class DrawnShape;
 
-/// The text of a shape, for the port. A shape that follows its text does so at each change.
+/// The text of a shape for the port. A shape that resizes with its text does so at each change.
 excel::Ref<excel::TextFrame> MakeTextFrame(std::shared_ptr<DrawnShape> shape);
 excel::Ref<excel::TextFrame2> MakeTextFrame2(std::shared_ptr<DrawnShape> shape);
 

@@ -74,7 +74,7 @@ const Metrics& MetricsOf(std::string_view font) {
   for (const std::string_view narrow : {"Calibri", "Carlito", "Aptos Narrow"}) {
     if (runtime::EqualsIgnoreCase(font.substr(0, narrow.size()), narrow)) return kCalibri;
   }
-  return kArial;  // sans serifs are mostly as wide as this one
+  return kArial;  // most sans serif fonts have similar widths
 }
 
 /// Characters as wide as they are high: CJK, Hangul, kana and full-width forms.
@@ -89,7 +89,7 @@ bool IsWide(char16_t unit) {
 double TextWidth(std::string_view text, const TextFace& face) {
   const Metrics& metrics = MetricsOf(face.font);
   const Widths& widths = face.bold ? metrics.bold : metrics.regular;
-  constexpr char16_t kUsual = u'n';  // for what the table doesn't have
+  constexpr char16_t kUsual = u'n';  // for characters that the table doesn't have
   double thousandths = 0;
   for (const char16_t unit : runtime::ToUtf16(text)) {
     if (unit >= 0x20 && unit <= 0x7E) {

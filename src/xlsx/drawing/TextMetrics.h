@@ -5,17 +5,17 @@
 
 namespace plotsmith::xlsx {
 
-/// How a text is set.
+/// The typeface of a text.
 struct TextFace {
   std::string font;
   double size = 10;  ///< points
   bool bold = false;
 };
 
-/// The width of a text of one line, in points. Known for the characters of Western Europe in fonts with the
-/// widths of Arial and of Calibri; the rest is estimated.
+/// The width of a text in one line, in points. It is exact for Western European characters in fonts with the
+/// widths of Arial or Calibri, and an estimate for others.
 double TextWidth(std::string_view text, const TextFace& face);
-/// From one line to the next, in points.
+/// The distance from one line to the next, in points.
 double LineHeight(const TextFace& face);
 
 }  // namespace plotsmith::xlsx

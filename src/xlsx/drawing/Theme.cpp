@@ -50,8 +50,8 @@ Rgb Channels(std::int32_t color) {
 
 std::int32_t Packed(const Rgb& rgb) {
   const auto byte = [](double channel) {
-    // halves go down: half of white is 7F7F7F, as Excel's palette shows it
-    const double inside = channel > 0 ? std::min(channel, 1.0) : 0;  // also where it is no number
+    // Halves are rounded down: half of white is 7F7F7F in Excel's palette.
+    const double inside = channel > 0 ? std::min(channel, 1.0) : 0;  // 0 for NaN
     return static_cast<std::int32_t>(std::ceil(inside * 255 - 0.5));
   };
   return byte(rgb.red) | byte(rgb.green) << 8 | byte(rgb.blue) << 16;
@@ -131,7 +131,7 @@ std::int32_t Modified(std::int32_t color, pugi::xml_node element) {
       rgb = {1 - rgb.red, 1 - rgb.green, 1 - rgb.blue};
       continue;
     } else {
-      continue;  // transparency and the like, of which Excel's colours know nothing
+      continue;  // Excel's colours have no transparency
     }
     hsl.lightness = std::clamp(hsl.lightness, 0.0, 1.0);
     rgb = ToRgb(hsl);
@@ -164,11 +164,11 @@ void Theme::Read(std::string_view part) {
   try {
     xml::Parse(document, part);
   } catch (const PackageError&) {
-    return;  // a theme is no reason to refuse a chart
+    return;  // an unreadable theme doesn't make a chart unreadable
   }
   const pugi::xml_node root = xml::Root(document);
   const auto elements = xml::Child(root, "themeElements");
-  const pugi::xml_node parent = elements ? elements : root;  // an override has them directly
+  const pugi::xml_node parent = elements ? elements : root;  // an override has them as its children
   for (const pugi::xml_node& entry : xml::Child(parent, "clrScheme").children()) {
     if (const auto color = Color(entry)) colors_[std::string(xml::LocalName(entry))] = *color;
   }

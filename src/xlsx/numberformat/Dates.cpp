@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 #include "xlsx/numberformat/Program.h"
 
@@ -218,7 +219,7 @@ void FindMinutes(Section& section) {
   }
 }
 
-/// The longest run of letters that still means something else.
+/// The longest run of letters with a meaning of its own.
 std::uint32_t MostSize(Kind kind) {
   switch (kind) {
     case Kind::kHour:
@@ -239,6 +240,53 @@ std::uint32_t MostSize(Kind kind) {
   }
 }
 
+/// The number of zeros that follow a token.
+std::uint32_t ZerosBehind(const std::vector<Token>& tokens, std::size_t index) {
+  std::uint32_t zeros = 0;
+  while (++index < tokens.size() && tokens[index].kind == Kind::kDigit && tokens[index].symbol == '0')
+    ++zeros;
+  return zeros;
+}
+
+/// A point with zeros behind it shows fractions of a second, after any other token. False for too many zeros.
+bool SettlePoint(Section& section, Token& token, std::uint32_t zeros) {
+  constexpr std::uint32_t kMostSubseconds = 3;
+  if (zeros > kMostSubseconds) return false;
+  if (zeros == 0) {
+    token.kind = Kind::kLiteral;
+  } else {
+    token = {Kind::kSubsecond, 0, 0, zeros};
+    section.subseconds = std::max(section.subseconds, static_cast<int>(zeros));
+  }
+  return true;
+}
+
+/// The moment of a serial number in a section's calendar; nothing behind the last day.
+std::optional<Moment> MomentOf(const Section& section, double magnitude, DateSystem dates) {
+  if (magnitude > static_cast<double>(kLastSerial + 1)) return std::nullopt;
+  const double whole = std::floor(magnitude);
+  // Seconds are rounded even if only minutes or days are shown. The fraction is first rounded to five digits,
+  // because the binary value of a half second may be slightly too small.
+  constexpr int kGuardDigits = 5;
+  const auto guarded = static_cast<std::int64_t>(
+      std::floor((magnitude - whole) * static_cast<double>(kDaySeconds * PowerOfTen(kGuardDigits)) + 0.5));
+  const std::int64_t unit = PowerOfTen(kGuardDigits - section.subseconds);
+  const std::int64_t perSecond = PowerOfTen(section.subseconds);
+  const std::int64_t ticks =
+      (guarded + unit / 2) / unit + static_cast<std::int64_t>(whole) * kDaySeconds * perSecond;
+
+  Moment moment{};
+  moment.fraction = ticks % perSecond;
+  moment.elapsed = ticks / perSecond;
+  moment.second = moment.elapsed % kDaySeconds;
+  const std::int64_t serial = moment.elapsed / kDaySeconds + SerialOffset(dates);
+  if (serial > kLastSerial) return std::nullopt;
+  moment.calendar = section.calendar;
+  moment.date = section.calendar == Calendar::kHijri ? HijriDate(serial) : GregorianDate(serial);
+  moment.weekday = static_cast<int>((serial + 6) % 7);
+  return moment;
+}
+
 }  // namespace
 
 bool SettleDate(Section& section) {
@@ -251,20 +299,9 @@ bool SettleDate(Section& section) {
     Token token = tokens[i];
     switch (token.kind) {
       case Kind::kPoint: {
-        // A point with zeros behind it are fractions of a second, whatever stands before it.
-        constexpr std::uint32_t kMostSubseconds = 3;
-        std::uint32_t zeros = 0;
-        while (i + 1 < tokens.size() && tokens[i + 1].kind == Kind::kDigit && tokens[i + 1].symbol == '0') {
-          ++zeros;
-          ++i;
-        }
-        if (zeros > kMostSubseconds) return false;
-        if (zeros == 0) {
-          token.kind = Kind::kLiteral;
-          break;
-        }
-        token = {Kind::kSubsecond, 0, 0, zeros};
-        section.subseconds = std::max(section.subseconds, static_cast<int>(zeros));
+        const std::uint32_t zeros = ZerosBehind(tokens, i);
+        if (!SettlePoint(section, token, zeros)) return false;
+        i += zeros;
         break;
       }
       case Kind::kDigit:
@@ -280,7 +317,7 @@ bool SettleDate(Section& section) {
         section.twelveHours = true;
         break;
       case Kind::kHour:
-        // Minutes that count on leave no hours to show, and so on.
+        // An elapsed time in minutes or seconds has no hours, and one in seconds has no minutes.
         if (section.elapsed == Kind::kMinute || section.elapsed == Kind::kSecond) return false;
         break;
       case Kind::kMinute:
@@ -298,30 +335,10 @@ bool SettleDate(Section& section) {
 
 bool AppendDateSection(std::string& out, const Section& section, double magnitude, bool negative,
                        DateSystem dates) {
-  if (magnitude > static_cast<double>(kLastSerial + 1)) return false;
-  const double whole = std::floor(magnitude);
-  // Seconds are rounded even if only minutes or days show; five digits first, so that a time just short of a
-  // half second for want of binary digits is one.
-  constexpr int kGuardDigits = 5;
-  const auto guarded = static_cast<std::int64_t>(
-      std::floor((magnitude - whole) * static_cast<double>(kDaySeconds * PowerOfTen(kGuardDigits)) + 0.5));
-  const std::int64_t unit = PowerOfTen(kGuardDigits - section.subseconds);
-  const std::int64_t perSecond = PowerOfTen(section.subseconds);
-  const std::int64_t ticks =
-      (guarded + unit / 2) / unit + static_cast<std::int64_t>(whole) * kDaySeconds * perSecond;
-
-  Moment moment{};
-  moment.fraction = ticks % perSecond;
-  moment.elapsed = ticks / perSecond;
-  moment.second = moment.elapsed % kDaySeconds;
-  const std::int64_t serial = moment.elapsed / kDaySeconds + SerialOffset(dates);
-  if (serial > kLastSerial) return false;
-  moment.calendar = section.calendar;
-  moment.date = section.calendar == Calendar::kHijri ? HijriDate(serial) : GregorianDate(serial);
-  moment.weekday = static_cast<int>((serial + 6) % 7);
-
+  const auto moment = MomentOf(section, magnitude, dates);
+  if (!moment) return false;
   if (negative) out += '-';
-  for (const Token& token : section.tokens) AppendDateToken(out, section, token, moment);
+  for (const Token& token : section.tokens) AppendDateToken(out, section, token, *moment);
   return true;
 }
 

@@ -10,8 +10,8 @@ namespace {
 
 using Kind = Token::Kind;
 
-/// The denominator behind the slash: placeholders, or a number. Turns its tokens into what they are and
-/// returns the index behind them, 0 if they are neither.
+/// Settles the denominator behind the slash, which is placeholders or a number. Returns the index behind it,
+/// 0 if it is neither.
 std::size_t SettleDenominator(Section& section, std::size_t begin) {
   auto& tokens = section.tokens;
   while (tokens[begin].kind == Kind::kLiteral) ++begin;
@@ -34,13 +34,26 @@ std::size_t SettleDenominator(Section& section, std::size_t begin) {
   return end;
 }
 
+/// Settles the placeholders nearest to the slash as the numerator, and returns the index of the first of
+/// them. The placeholders before them are the integer part.
+std::size_t SettleNumerator(Section& section, std::size_t slash) {
+  auto& tokens = section.tokens;
+  std::size_t numerator = slash;
+  while (tokens[numerator - 1].kind != Kind::kDigit) --numerator;
+  while (numerator > 0 && tokens[numerator - 1].kind == Kind::kDigit) {
+    tokens[--numerator].kind = Kind::kNumerator;
+    ++section.numerators;
+  }
+  return numerator;
+}
+
 struct Ratio {
   double numerator;
   double denominator;
 };
 
 /// Excel's approximation of a number below one: the last convergent of the continued fraction whose
-/// denominator fits, which isn't always the nearest fraction that would.
+/// denominator fits. This isn't always the nearest fraction with such a denominator.
 Ratio Approximate(double number, double most) {
   constexpr double kNothing = 1e-9;
   Ratio before{1, 0};
@@ -58,7 +71,38 @@ Ratio Approximate(double number, double most) {
   return last;
 }
 
-/// Denominators stand left in their placeholders.
+/// A number as a whole part and a fraction below one, or as one fraction if the section has no whole part.
+struct MixedNumber {
+  double whole;
+  Ratio ratio;
+};
+
+MixedNumber MixedNumberOf(const Section& section, double magnitude) {
+  constexpr int kMostScale = 300;
+  magnitude = std::min(magnitude * std::pow(10, std::min(section.scale, kMostScale)),
+                       std::numeric_limits<double>::max());
+  double whole = std::floor(magnitude);
+  const double rest = magnitude - whole;
+  Ratio ratio{0, 1};
+  if (section.fixedDenominator > 0) {
+    ratio.denominator = static_cast<double>(section.fixedDenominator);
+    ratio.numerator = std::floor(rest * ratio.denominator + 0.5);
+  } else {
+    constexpr int kMostDigits = 7;
+    ratio = Approximate(rest, std::pow(10, std::min(section.denominators, kMostDigits)) - 1);
+  }
+  if (ratio.numerator >= ratio.denominator) {
+    whole += 1;
+    ratio.numerator = 0;
+  }
+  if (!section.hasIntegerPart) {
+    ratio.numerator += whole * ratio.denominator;
+    whole = 0;
+  }
+  return {whole, ratio};
+}
+
+/// Writes a denominator, which is aligned left in its placeholders.
 void AppendDenominator(std::string& out, const Section& section, std::size_t begin,
                        const Decimal& denominator) {
   int missing = section.denominators - denominator.IntegerDigits();
@@ -80,7 +124,7 @@ void AppendBlanks(std::string& out, std::string_view insteadOf) {
 
 }  // namespace
 
-// Only literals may stand between the slash, the placeholders before it and the denominator behind it.
+// Between the slash, the placeholders before it and the denominator behind it, there may only be literals.
 std::size_t FindFractionSlash(const std::vector<Token>& tokens) {
   bool behindDigits = false;
   for (std::size_t i = 0; i < tokens.size(); ++i) {
@@ -102,14 +146,7 @@ bool SettleFraction(Section& section, std::size_t slash) {
   if (denominatorEnd == 0) return false;
   section.fractionEnd = denominatorEnd;
   tokens[slash].kind = Kind::kLiteral;
-
-  // The placeholders nearest to the slash are the numerator's; what stands before them is the integer part.
-  std::size_t numerator = slash;
-  while (tokens[numerator - 1].kind != Kind::kDigit) --numerator;
-  while (numerator > 0 && tokens[numerator - 1].kind == Kind::kDigit) {
-    tokens[--numerator].kind = Kind::kNumerator;
-    ++section.numerators;
-  }
+  const std::size_t numerator = SettleNumerator(section, slash);
   section.fractionBegin = numerator;
   for (std::size_t i = 0; i < tokens.size(); ++i) {
     Token& token = tokens[i];
@@ -148,27 +185,7 @@ bool SettleFraction(Section& section, std::size_t slash) {
 }
 
 void AppendFractionSection(std::string& out, const Section& section, double magnitude) {
-  constexpr int kMostScale = 300;
-  magnitude = std::min(magnitude * std::pow(10, std::min(section.scale, kMostScale)),
-                       std::numeric_limits<double>::max());
-  double whole = std::floor(magnitude);
-  const double rest = magnitude - whole;
-  Ratio ratio{0, 1};
-  if (section.fixedDenominator > 0) {
-    ratio.denominator = static_cast<double>(section.fixedDenominator);
-    ratio.numerator = std::floor(rest * ratio.denominator + 0.5);
-  } else {
-    constexpr int kMostDigits = 7;
-    ratio = Approximate(rest, std::pow(10, std::min(section.denominators, kMostDigits)) - 1);
-  }
-  if (ratio.numerator >= ratio.denominator) {
-    whole += 1;
-    ratio.numerator = 0;
-  }
-  if (!section.hasIntegerPart) {
-    ratio.numerator += whole * ratio.denominator;
-    whole = 0;
-  }
+  const auto [whole, ratio] = MixedNumberOf(section, magnitude);
   const bool isWhole = section.hasIntegerPart && ratio.numerator == 0;
   const Decimal integer(whole);
   const Decimal numerator(ratio.numerator);

@@ -2,7 +2,9 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <optional>
 #include <utility>
+#include <vector>
 
 #include "xlsx/numberformat/Decimal.h"
 #include "xlsx/numberformat/Program.h"
@@ -12,13 +14,14 @@ namespace {
 
 using Kind = Token::Kind;
 
-/// What stands before the E, and the exponent.
+/// The number before the E, and the exponent.
 struct Scientific {
   Decimal mantissa;
   int exponent;
 };
 
-/// `period` is what the exponent is a multiple of, and the most digits before the decimal point.
+/// The exponent is a multiple of `period`, which is also the greatest number of digits before the decimal
+/// point.
 Scientific MakeScientific(const Decimal& number, int period, int decimals) {
   if (number.IsZero()) return {number, 0};
   const int highest = number.Highest();
@@ -27,7 +30,7 @@ Scientific MakeScientific(const Decimal& number, int period, int decimals) {
     Scientific result{number, exponent};
     result.mantissa.Scale(-exponent);
     result.mantissa.Round(decimals);
-    if (result.mantissa.IntegerDigits() <= period) return result;  // else 9.99 became 10.0
+    if (result.mantissa.IntegerDigits() <= period) return result;  // rounding may have made 10.0 of 9.99
   }
 }
 
@@ -43,19 +46,32 @@ void SettleComma(Section& section, std::size_t index, bool inIntegers, bool digi
     section.scale -= 3 * tokens[index].symbol;
 }
 
+/// The index of the last digit placeholder before the exponent, 0 if there is none; nothing if the section
+/// has several exponents.
+std::optional<std::size_t> LastDigitOfMantissa(const std::vector<Token>& tokens) {
+  bool inExponent = false;
+  std::size_t lastDigit = 0;
+  for (std::size_t i = 0; i < tokens.size(); ++i) {
+    if (tokens[i].kind == Kind::kExponent && std::exchange(inExponent, true)) return std::nullopt;
+    if (tokens[i].kind == Kind::kDigit && !inExponent) lastDigit = i;
+  }
+  return lastDigit;
+}
+
+/// Makes a digit placeholder one of a part of the number, and counts it.
+void SettleDigit(Section& section, Token& token, Kind part) {
+  token.kind = part;
+  int& count = part == Kind::kInteger   ? section.integers
+               : part == Kind::kDecimal ? section.decimals
+                                        : section.exponents;
+  ++count;
+}
+
 /// Settles the tokens of a plain or a scientific number.
 bool SettlePlainNumber(Section& section) {
   auto& tokens = section.tokens;
-  std::size_t mantissaEnd = tokens.size();
-  std::size_t lastDigit = 0;
-  for (std::size_t i = 0; i < tokens.size(); ++i) {
-    if (tokens[i].kind == Kind::kExponent) {
-      if (mantissaEnd < tokens.size()) return false;
-      mantissaEnd = i;
-    }
-    if (tokens[i].kind == Kind::kDigit && mantissaEnd == tokens.size()) lastDigit = i;
-  }
-
+  const auto lastDigit = LastDigitOfMantissa(tokens);
+  if (!lastDigit) return false;
   std::vector<Token> settled;
   settled.reserve(tokens.size());
   Kind part = Kind::kInteger;
@@ -65,10 +81,7 @@ bool SettlePlainNumber(Section& section) {
     const bool wasInDigits = std::exchange(inDigits, token.kind == Kind::kDigit);
     switch (token.kind) {
       case Kind::kDigit:
-        token.kind = part;
-        ++(part == Kind::kInteger   ? section.integers
-           : part == Kind::kDecimal ? section.decimals
-                                    : section.exponents);
+        SettleDigit(section, token, part);
         break;
       case Kind::kPoint:
         if (part == Kind::kExponentDigit) return false;
@@ -81,7 +94,7 @@ bool SettlePlainNumber(Section& section) {
         break;
       case Kind::kComma:
         if (wasInDigits && part != Kind::kExponentDigit) {
-          SettleComma(section, i, part == Kind::kInteger, i < lastDigit);
+          SettleComma(section, i, part == Kind::kInteger, i < *lastDigit);
           continue;
         }
         token.kind = Kind::kLiteral;
@@ -122,7 +135,7 @@ void AppendGeneral(std::string& out, double value) {
   }
   if (value < 0) out += '-';
   const double magnitude = std::fabs(value);
-  constexpr int kMostDigits = 11;  // with a decimal point one less
+  constexpr int kMostDigits = 11;  // 10 if there is a decimal point
   constexpr double kMostFixed = 1e11;
   if (magnitude < kMostFixed && magnitude == std::floor(magnitude)) {
     char text[kMostDigits + 1];
@@ -131,7 +144,7 @@ void AppendGeneral(std::string& out, double value) {
   }
   const Decimal number(magnitude);
   const int highest = number.Highest();
-  // Below 1E-4 only what loses no digit is written out.
+  // Numbers below 1E-4 are written without an exponent only if they lose no digit.
   const int decimals = highest < 0 ? kMostDigits - 2 : std::max(kMostDigits - 2 - highest, 0);
   if (highest < kMostDigits && (highest >= -4 || -number.Lowest() <= decimals)) {
     Decimal rounded = number;
@@ -149,63 +162,92 @@ void AppendGeneral(std::string& out, double value) {
   Decimal(exponent).AppendTo(out);
 }
 
-void AppendNumberSection(std::string& out, const Section& section, double magnitude, bool negative) {
-  Decimal number(magnitude);
-  number.Scale(section.scale);
-  const bool isScientific = section.kind == Section::Kind::kScientific;
-  int exponent = 0;
-  int digits = 0;
-  if (isScientific) {
-    const int period = std::max(section.integers, 1);
-    const Scientific scientific = MakeScientific(number, period, section.decimals);
-    number = scientific.mantissa;
-    exponent = scientific.exponent;
-    // A scientific zero fills its integer part.
-    digits = number.IsZero() ? period : number.IntegerDigits();
-  } else {
-    number.Round(section.decimals);
-    digits = number.IntegerDigits();
-  }
-  if (negative && !(section.hidesSignOfZero && number.IsZero())) out += '-';
+namespace {
 
-  IntegerWriter integers(out, number, digits, section.integers, section.grouping);
-  const Decimal exponentDigits(std::abs(exponent));
-  IntegerWriter exponents(out, exponentDigits, exponentDigits.IntegerDigits(), section.exponents, false);
-  char exponentSign = 0;
-  int decimalPower = -1;
-  for (const Token& token : section.tokens) {
+/// Writes a number into the tokens of a section, from the left.
+class NumberWriter {
+ public:
+  NumberWriter(std::string& out, const Section& section, const Scientific& number)
+      : out_(out),
+        section_(section),
+        number_(number.mantissa),
+        exponent_(number.exponent),
+        exponentDigits_(std::abs(number.exponent)),
+        digits_(IntegerDigits()),
+        integers_(out, number_, digits_, section.integers, section.grouping),
+        exponents_(out, exponentDigits_, exponentDigits_.IntegerDigits(), section.exponents, false) {}
+  NumberWriter(const NumberWriter&) = delete;
+
+  void Append(const Token& token) {
     switch (token.kind) {
       case Kind::kInteger:
-        integers.Next(token.symbol);
+        integers_.Next(token.symbol);
         break;
       case Kind::kPoint:
-        if (section.integers == 0) {
-          for (int power = digits - 1; power >= 0; --power) out += number.Digit(power);
+        if (section_.integers == 0) {
+          for (int power = digits_ - 1; power >= 0; --power) out_ += number_.Digit(power);
         }
-        out += '.';
+        out_ += '.';
         break;
       case Kind::kDecimal:
-        if (!number.IsZero() && decimalPower >= number.Lowest())
-          out += number.Digit(decimalPower);
-        else if (token.symbol != '#')
-          out += token.symbol == '0' ? '0' : ' ';
-        --decimalPower;
+        AppendDecimal(token.symbol);
         break;
       case Kind::kExponent:
-        out += 'E';
-        exponentSign = exponent < 0 ? '-' : token.symbol == '+' ? '+' : '\0';
+        out_ += 'E';
+        exponentSign_ = exponent_ < 0 ? '-' : token.symbol == '+' ? '+' : '\0';
         break;
       case Kind::kExponentDigit:
-        // Literals may stand between the E and the sign.
-        if (exponentSign) out += exponentSign;
-        exponentSign = 0;
-        exponents.Next(token.symbol);
+        // There may be literals between the E and the sign.
+        if (exponentSign_) out_ += exponentSign_;
+        exponentSign_ = 0;
+        exponents_.Next(token.symbol);
         break;
       default:
-        out += section.Text(token);
+        out_ += section_.Text(token);
         break;
     }
   }
+
+ private:
+  /// A scientific zero fills its integer part.
+  int IntegerDigits() const {
+    const bool fills = section_.kind == Section::Kind::kScientific && number_.IsZero();
+    return fills ? std::max(section_.integers, 1) : number_.IntegerDigits();
+  }
+
+  void AppendDecimal(char placeholder) {
+    if (!number_.IsZero() && decimalPower_ >= number_.Lowest()) {
+      out_ += number_.Digit(decimalPower_);
+    } else if (placeholder != '#') {
+      out_ += placeholder == '0' ? '0' : ' ';
+    }
+    --decimalPower_;
+  }
+
+  std::string& out_;
+  const Section& section_;
+  const Decimal& number_;
+  int exponent_;
+  Decimal exponentDigits_;
+  int digits_;  ///< before the decimal point
+  IntegerWriter integers_, exponents_;
+  char exponentSign_ = 0;  ///< still to be written
+  int decimalPower_ = -1;  ///< of the next decimal
+};
+
+}  // namespace
+
+void AppendNumberSection(std::string& out, const Section& section, double magnitude, bool negative) {
+  Scientific number{Decimal(magnitude), 0};
+  number.mantissa.Scale(section.scale);
+  if (section.kind == Section::Kind::kScientific) {
+    number = MakeScientific(number.mantissa, std::max(section.integers, 1), section.decimals);
+  } else {
+    number.mantissa.Round(section.decimals);
+  }
+  if (negative && !(section.hidesSignOfZero && number.mantissa.IsZero())) out += '-';
+  NumberWriter writer(out, section, number);
+  for (const Token& token : section.tokens) writer.Append(token);
 }
 
 }  // namespace plotsmith::xlsx

@@ -5,7 +5,7 @@
 #include <optional>
 #include <zip.h>
 
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/package/Inflater.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/package/ZipFiles.h"

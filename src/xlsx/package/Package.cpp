@@ -10,7 +10,7 @@
 #include "runtime/Ascii.h"
 #include "runtime/Strings.h"
 #include "runtime/Utf8Path.h"
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/package/AtomicFile.h"
 #include "xlsx/package/FileSystem.h"
 #include "xlsx/package/MemoryStream.h"

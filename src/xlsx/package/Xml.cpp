@@ -10,7 +10,7 @@
 #include "dom/XmlCharacters.h"
 #include "dom/XmlDepth.h"
 #include "runtime/Strings.h"
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/package/PackageError.h"
 
 namespace plotsmith::xlsx::xml {

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "runtime/Ascii.h"
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/package/Xml.h"
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "runtime/RuntimeError.h"
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/package/XString.h"
 #include "xlsx/package/Xml.h"
 

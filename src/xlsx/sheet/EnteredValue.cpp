@@ -8,7 +8,7 @@
 #include "runtime/Ascii.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/sheet/ErrorValues.h"
 
 namespace plotsmith::xlsx {

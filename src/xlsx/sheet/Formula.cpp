@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "runtime/Strings.h"
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 
 namespace plotsmith::xlsx {
 namespace {

@@ -4,7 +4,7 @@
 #include <array>
 #include <utility>
 
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/package/Xml.h"
 #include "xlsx/package/XmlStream.h"
 

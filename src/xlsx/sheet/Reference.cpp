@@ -5,7 +5,7 @@
 
 #include "runtime/Ascii.h"
 #include "runtime/Strings.h"
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 
 namespace plotsmith::xlsx {
 namespace {

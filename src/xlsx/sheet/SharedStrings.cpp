@@ -1,6 +1,6 @@
 #include "xlsx/sheet/SharedStrings.h"
 
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/package/XString.h"
 #include "xlsx/package/XmlStream.h"

@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "runtime/Strings.h"
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/package/Xml.h"
 #include "xlsx/package/XmlStream.h"

@@ -5,7 +5,7 @@
 #include <iterator>
 
 #include "runtime/Strings.h"
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/package/MemoryStream.h"
 #include "xlsx/package/Xml.h"
 #include "xlsx/package/XmlStream.h"

@@ -5,7 +5,7 @@
 #include <cstring>
 
 #include "runtime/Ascii.h"
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/package/XString.h"
 #include "xlsx/package/Xml.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/package/Xml.h"
 #include "xlsx/package/XmlStream.h"
 #include "xlsx/sheet/SheetSplice.h"

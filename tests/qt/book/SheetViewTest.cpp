@@ -15,8 +15,8 @@
 #include "tests/qt/book/BookTest.h"
 #include "tests/support/Paths.h"
 #include "tests/support/RunCommand.h"
-#include "xlsx/Limits.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/base/Limits.h"
 
 namespace plotsmith::qtbook {
 namespace {

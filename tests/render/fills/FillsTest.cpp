@@ -8,7 +8,7 @@
 #include "render/fills/GradientGeometry.h"
 #include "render/fills/Patterns.h"
 #include "render/svg/SvgPaint.h"
-#include "xlsx/chart/ChartEnumerations.h"
+#include "xlsx/chart/part/ChartEnumerations.h"
 
 namespace plotsmith::render {
 namespace {

@@ -6,7 +6,7 @@
 #include "render/shapes/Placement.h"
 #include "render/svg/SvgWriter.h"
 #include "tests/render/threed/Chart3DTest.h"
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/part/ChartPart.h"
 
 namespace plotsmith::test {
 namespace {

@@ -8,7 +8,7 @@
 #include "render/threed/Shading.h"
 #include "render/threed/Solids.h"
 #include "tests/render/threed/Chart3DTest.h"
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/part/ChartPart.h"
 
 namespace plotsmith::test {
 namespace {

@@ -1,6 +1,6 @@
 #include "tests/render/threed/Chart3DTest.h"
 
-#include "xlsx/chart/ChartPart.h"
+#include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::test {

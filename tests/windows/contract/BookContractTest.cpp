@@ -35,7 +35,6 @@ TEST_P(PortContract, Macros) {
 }
 
 TEST_P(PortContract, Workbook) {
-  SAYS(Book()->Application(), "an object");
   SAYS(Book()->ProtectStructure(), "False");
   SAYS(Book()->MultiUserEditing(), "False");
   SAYS(Book()->BuiltinDocumentProperties("application name")->Value(),

@@ -1,6 +1,6 @@
 #include <set>
 
-#include "builder/BuilderVariables.h"
+#include "builder/state/BuilderVariables.h"
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
 #include "controller/System.h"

@@ -11,7 +11,7 @@
 #include "runtime/RuntimeError.h"
 #include "tests/windows/host/HostMembers.h"
 #include "xlsx/Application.h"
-#include "xlsx/Journal.h"
+#include "xlsx/base/Journal.h"
 
 namespace plotsmith::contract {
 

@@ -6,9 +6,9 @@
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
-#include "xlsx/Limits.h"
 #include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/package/Archive.h"
 #include "xlsx/package/Xml.h"
 

@@ -3,9 +3,9 @@
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
-#include "xlsx/Limits.h"
-#include "xlsx/chart/ChartEnumerations.h"
-#include "xlsx/chart/ChartTypes.h"
+#include "xlsx/base/Limits.h"
+#include "xlsx/chart/part/ChartEnumerations.h"
+#include "xlsx/chart/rules/ChartTypes.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
 
 namespace plotsmith::xlsx {

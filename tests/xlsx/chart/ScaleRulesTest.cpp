@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "xlsx/chart/ScaleRules.h"
+#include "xlsx/chart/rules/ScaleRules.h"
 
 namespace plotsmith::xlsx {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "runtime/Strings.h"
 #include "tests/support/HostTest.h"
-#include "xlsx/Limits.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/package/Package.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/package/XString.h"

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+#include <initializer_list>
+#include <string_view>
+
+#include "dom/Dom.h"
+#include "host/excel/Excel.h"
+#include "runtime/Ref.h"
+#include "runtime/Variant.h"
+
+/// Module PSChartBuilder: the drawing steps that several chart families share.
+namespace plotsmith {
+
+/// Sets the chart's title, or removes it.
+void ApplyTitle(const dom::IXMLDOMElement& oChartElement);
+/// Shows the legend if the series have headings. Nothing changes without a `series` element.
+void ApplyLegendFromHeadings(const dom::IXMLDOMElement& oChartElement);
+/// Removes the titles of both axes.
+void ClearAxisTitles();
+/// The ways in which a family treats its axis titles differently. The defaults are those of area, bar and
+/// column charts.
+struct AxisTitleManner {
+  bool bSwitchAxisOn = true;    ///< shows the axis that has a title
+  bool bSizeThroughVal = true;  ///< converts the font size with Val
+  bool bYield = false;          ///< lets the host handle events after each `axis`
+};
+/// Sets the axis titles of the definition, with the persisted fonts, and shows the axes that have titles.
+void ApplyAxisTitles(const dom::IXMLDOMElement& oChartElement, const AxisTitleManner& oManner = {});
+/// Links the tick labels of the value axis to the number format of the data, and turns the axis titles.
+void FinishAxes();
+
+/// Applies the persisted font of data labels.
+void SetLabelFont(const runtime::Ref<excel::Font>& oFont);
+/// Sets the position (XlDataLabelPosition) and the font of labels, in the order that most families use.
+void DressLabels(const runtime::Ref<excel::DataLabels>& oLabels, std::int32_t lPosition,
+                 const runtime::Variant& vAutoScale);
+/// Adds labels of a type (XlDataLabelsType) at a position to all series.
+void ApplyLabels(std::int32_t lType, std::int32_t lPosition);
+
+/// A setting of `dynamic-attributes`, and what it adds to a sum.
+struct SettingWeight {
+  std::string_view sSetting;
+  std::int32_t lWeight;
+};
+/// The sum of the weights of the settings in `dynamic-attributes`. A setting that occurs twice counts twice.
+std::int32_t SumOfSettings(const dom::IXMLDOMElement& oChartElement,
+                           std::initializer_list<SettingWeight> aWeights, bool bYield = false);
+
+/// Shows or hides the built-in legend as `mLegendVisibility` says. Values other than "show" and "hide" change
+/// nothing.
+void ApplyLegendVisibility();
+/// Deletes the legend entry of the series that was added last.
+void DeleteLastLegendEntry();
+/// Formats the built-in legend, which must exist. Calls that the host refuses are ignored.
+void ApplyLegendAttributes();
+
+}  // namespace plotsmith

@@ -1,0 +1,93 @@
+#include "builder/maps/StrategicBucketMap.h"
+
+#include <string>
+
+#include "builder/maps/MapSteps.h"
+#include "builder/state/BuilderVariables.h"
+#include "builder/state/CPSMapInstruction.h"
+#include "common/Cells.h"
+#include "common/Documents.h"
+#include "common/ErrorBlocks.h"
+#include "common/Messages.h"
+#include "common/PSConstants.h"
+#include "common/RunVariables.h"
+#include "common/Values.h"
+#include "common/Worksheets.h"
+#include "common/YieldToHost.h"
+#include "metadata/StrategicBuckets.h"
+#include "runtime/Variant.h"
+
+namespace plotsmith {
+
+using dom::IXMLDOMElement;
+
+namespace {
+
+/// Numbers the items in their column. An item with the name of a bucket takes the bucket's spelling.
+void NumberItems(const IXMLDOMElement& oChartElement, const DataRows& oRows, excel::Worksheet& oSheet,
+                 std::int32_t lItemColumn, Numbering& oItems) {
+  std::string sScratch;
+  for (std::int32_t lRow = oRows.lFirst; lRow <= oRows.Last(); ++lRow) {
+    const std::string_view sText = GetCellText(oSheet, lRow, lItemColumn, sScratch);
+    if (oItems.IsNew(sText, sScratch)) {
+      // The row of the buckets counts as well. The name that reaches the limit gets no number, but its
+      // key is in the dictionary and makes one row more than there are items.
+      if (oItems.Count() + 1 >= kSeriesLimit) {
+        ShowLimitMessage(oChartElement);
+        break;
+      }
+      if (mSeriesNames.Exists(oItems.Key())) {
+        oItems.Number(runtime::CStr(mSeriesNames.Item(oItems.Key())));
+      } else {
+        oItems.Number(sText);
+      }
+    }
+    YieldToHost();
+  }
+}
+
+}  // namespace
+
+bool BuildStrBuckMap(const IXMLDOMElement& oChartElement) {
+  return ReportErrors("PSChartBuilder.BuildStrBuckMap", false, [&] {
+    ResetMap();
+    Numbering oItems(mCategoryPositions, mCategoryNames);
+    Numbering oSeriesNumbering(mSeriesPositions, mSeriesNames);
+    oItems.AddPseudo("[-StrategicBuckets-]");
+    oSeriesNumbering.AddPseudo("[-BlockColor-]");
+    oSeriesNumbering.AddPseudo("[-BlockSort-]");
+
+    const std::string sBucketTable = GetAttributeText(oChartElement, "strategic-bucket-table-id");
+    const std::int32_t lBucketNameColumn = GetAttributeLong(oChartElement, "bucket-name-column-position");
+    const std::int32_t lBucketValueColumn = GetAttributeLong(oChartElement, "bucket-value-column-position");
+    mStrategicBuckets = GetStrategicBuckets(colTables->Item(sBucketTable));
+    // The keys are used instead of the names: buckets are charted in capitals.
+    for (const auto& oBucket : *mStrategicBuckets) oSeriesNumbering.Add(SafeString(oBucket.key));
+
+    const DataRows oRows(oChartElement);
+    const auto oSheet = SheetWithCells(GetAttributeText(oChartElement, "table-worksheet"));
+    std::int32_t lItemColumn = 0;  // a column without cells: without categories no value has a row
+    if (const auto oCategories = oChartElement.selectSingleNode("categories")) {
+      lItemColumn = FirstColumn(oCategories);
+      NumberItems(oChartElement, oRows, *oSheet, lItemColumn, oItems);
+    }
+    std::int32_t lLabelColumn = -1;
+    if (const auto oSeries = oChartElement.selectSingleNode("series")) {
+      if (GetAttributeText(oSeries, "headings-in") == "rows") lLabelColumn = FirstColumn(oSeries);
+    }
+    AddPseudoSeriesRule(lItemColumn, bucket_column::kLabel, cell::kText, lLabelColumn, "[none]");
+    AddPseudoSeriesRule(lItemColumn, bucket_column::kSort, cell::kDouble,
+                        FirstColumnOf(oChartElement, "sort-order", -1), 1);
+    auto& oInstruction = mMapInstructions.emplace_back(ColumnSumRule(lBucketValueColumn));
+    oInstruction.SetRowReferenceType(reference::kByCell);
+    oInstruction.SetRowReferencePosition(lItemColumn);
+    oInstruction.SetColReferenceType(reference::kByCell);
+    oInstruction.SetColReferencePosition(lBucketNameColumn);
+
+    if (FinishMap()) return true;
+    ShowMessage(std::string("PSChartBuilder.BuildStrBuckMap") + kLineBreak + kEmptyMapComplaint);
+    return false;
+  });
+}
+
+}  // namespace plotsmith

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+
+#include "common/PSConstants.h"
+#include "dom/Dom.h"
+
+/// Module PSChartBuilder: the map of a strategic bucket chart. The first row is for the buckets' own values,
+/// the others have an item each. The series are the items' labels, their sort keys, and the buckets.
+namespace plotsmith {
+
+/// The series columns of a strategic bucket chart's block on the data sheet.
+namespace bucket_column {
+inline constexpr std::int32_t kLabel = data_column::kFirstSeries;
+inline constexpr std::int32_t kSort = kLabel + 1;
+inline constexpr std::int32_t kFirstBucket = kLabel + 2;
+}  // namespace bucket_column
+
+/// Fills the map's variables and `mStrategicBuckets` for BuildPivotMap.
+bool BuildStrBuckMap(const dom::IXMLDOMElement& oChartElement);
+
+}  // namespace plotsmith

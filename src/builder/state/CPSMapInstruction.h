@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+
+#include "common/PSConstants.h"
+#include "runtime/Variant.h"
+
+namespace plotsmith {
+
+/// How a map instruction finds a row or column of the rectangle.
+namespace reference {
+inline constexpr std::int32_t kFixed = 0;   ///< the position is the index
+inline constexpr std::int32_t kByCell = 1;  ///< the position is a sheet column whose text names it
+}  // namespace reference
+
+/// Where a map instruction takes the value from.
+namespace value_reference {
+inline constexpr std::int32_t kCell = 0;
+inline constexpr std::int32_t kConstant = 2;
+}  // namespace value_reference
+
+/// An instruction of the map from the source table to the rectangle. It is applied to each row of the table.
+class CPSMapInstruction {
+ public:
+  std::int32_t RowReferenceType() const { return lRowReferenceType_; }
+  void SetRowReferenceType(std::int32_t ReferenceType) { lRowReferenceType_ = ReferenceType; }
+  /// A category index or a sheet column, from 1; so is ColReferencePosition for the series.
+  std::int32_t RowReferencePosition() const { return lRowReferencePosition_; }
+  void SetRowReferencePosition(std::int32_t ColumnPosition) { lRowReferencePosition_ = ColumnPosition; }
+  std::int32_t ColReferenceType() const { return lColReferenceType_; }
+  void SetColReferenceType(std::int32_t ReferenceType) { lColReferenceType_ = ReferenceType; }
+  std::int32_t ColReferencePosition() const { return lColReferencePosition_; }
+  void SetColReferencePosition(std::int32_t ColumnPosition) { lColReferencePosition_ = ColumnPosition; }
+  std::int32_t ValueReferenceType() const { return lValueReferenceType_; }
+  void SetValueReferenceType(std::int32_t ReferenceType) { lValueReferenceType_ = ReferenceType; }
+  /// The sheet column of the value, or the value itself.
+  const runtime::Variant& ValuePositionOrConstant() const { return vValuePositionOrConstant_; }
+  void SetValuePositionOrConstant(runtime::Variant ColumnPositionOrValue) {
+    vValuePositionOrConstant_ = std::move(ColumnPositionOrValue);
+  }
+  /// `cell::kText` replaces the value in the rectangle by the displayed text; `cell::kDouble` adds the number
+  /// to it.
+  std::int32_t CellValueType() const { return lCellValueType_; }
+  void SetCellValueType(std::int32_t CellType) { lCellValueType_ = CellType; }
+
+ private:
+  std::int32_t lRowReferenceType_ = reference::kFixed;
+  std::int32_t lRowReferencePosition_ = 0;
+  std::int32_t lColReferenceType_ = reference::kFixed;
+  std::int32_t lColReferencePosition_ = 0;
+  std::int32_t lValueReferenceType_ = value_reference::kCell;
+  runtime::Variant vValuePositionOrConstant_;
+  std::int32_t lCellValueType_ = cell::kText;
+};
+
+}  // namespace plotsmith

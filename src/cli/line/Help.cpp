@@ -1,0 +1,29 @@
+#include "cli/line/Help.h"
+
+#include <algorithm>
+
+#include "cli/line/CommandLine.h"
+
+namespace plotsmith::cli {
+
+CLI::App* HelpCommand::Declare(CLI::App& app) {
+  CLI::App* verb = app.add_subcommand("help", "Describe a command and its options");
+  verb->add_option("COMMAND", verb_, "The command (default: an overview of all commands)");
+  return verb;
+}
+
+int HelpCommand::Run(const GlobalOptions&, const Streams& streams) {
+  const CommandLine
+      line;  // Use a new command line, because the parsed one would print the help of this verb.
+  if (verb_.empty()) {
+    streams.out << line.app.help();
+    return exit_code::kDone;
+  }
+  const auto verb = std::find_if(line.verbs.begin(), line.verbs.end(),
+                                 [&](const CLI::App* app) { return app->get_name() == verb_; });
+  if (verb == line.verbs.end()) throw CommandError(exit_code::kUsage, NoSuchVerb(verb_));
+  streams.out << (*verb)->help(line.app.get_name());
+  return exit_code::kDone;
+}
+
+}  // namespace plotsmith::cli

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace plotsmith::xlsx {
+
+/// A member of one of Excel's enumerations, and its token in the file format.
+struct EnumerationEntry {
+  std::int32_t number;     ///< in Excel's object model
+  std::string_view name;   ///< in Excel's object model
+  std::string_view token;  ///< in the file
+};
+
+/// An enumeration. If several entries have the same number or token, the first of them counts.
+struct Enumeration {
+  std::span<const EnumerationEntry> entries;
+  std::string_view absent;  ///< the token that an absent attribute means; empty if it means none
+
+  /// The token of a number; nothing if the enumeration doesn't have the number.
+  std::optional<std::string_view> Token(std::int32_t number) const {
+    for (const EnumerationEntry& entry : entries) {
+      if (entry.number == number) return entry.token;
+    }
+    return std::nullopt;
+  }
+  /// The number of a token; nothing if the enumeration doesn't have the token.
+  std::optional<std::int32_t> Number(std::string_view token) const {
+    for (const EnumerationEntry& entry : entries) {
+      if (entry.token == token) return entry.number;
+    }
+    return std::nullopt;
+  }
+};
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "host/excel/Application.h"
+#include "xlsx/base/Journal.h"
+#include "xlsx/book/BookDamage.h"
+#include "xlsx/book/BookPart.h"
+#include "xlsx/book/BookTheme.h"
+#include "xlsx/package/Package.h"
+#include "xlsx/sheet/CellStore.h"
+#include "xlsx/sheet/RowShifts.h"
+#include "xlsx/sheet/Styles.h"
+
+namespace plotsmith::xlsx {
+
+class CellSource;
+
+/// What the sheets and charts of an open workbook share: its package, its styles, its theme and so on. This
+/// class lies below charts and sheets, which know no more of their workbook than this.
+class BookContext : public BookDamage {
+ public:
+  BookContext(const BookContext&) = delete;
+  BookContext& operator=(const BookContext&) = delete;
+  virtual ~BookContext() = default;
+
+  xlsx::Package& Package() { return package_; }
+  const xlsx::Package& Package() const { return package_; }
+  /// The folder of the workbook part with its slash, into which new parts go.
+  std::string Folder() const { return part_.Folder(); }
+  bool IsStrict() const { return part_.IsStrict(); }
+  /// The namespaces of the vocabulary that the workbook is written in.
+  const Namespaces& Vocabulary() const { return part_.Vocabulary(); }
+  DateSystem Dates() const { return dates_; }
+  xlsx::Styles& Styles() { return *styles_; }
+  const xlsx::Styles& Styles() const { return *styles_; }
+  const xlsx::Theme& Theme() { return theme_.Get(); }
+  /// The texts of the shared strings part, which is read when they are first asked for. Error 1004 if the
+  /// part can't be read.
+  const TextPool& SharedStrings();
+  RowShifts& Shifts() { return shifts_; }
+  const RowShifts& Shifts() const { return shifts_; }
+  const xlsx::Journal& Journal() const { return journal_; }
+  /// The host that has the workbook open.
+  excel::Ref<excel::Application> Host() const { return host_.lock(); }
+
+  /// The cells of a sheet by its name, ignoring case. Null if no sheet of the name has cells.
+  virtual std::shared_ptr<CellSource> FindCells(std::string_view sheet) const = 0;
+
+ protected:
+  /// `host` and `journal` must outlive the workbook.
+  BookContext(std::weak_ptr<excel::Application> host, const xlsx::Journal& journal)
+      : host_(std::move(host)), journal_(journal), theme_(package_, part_) {}
+
+  /// Reads the workbook part and the styles of the package. Throws PackageError.
+  void LoadContext();
+  /// Puts the styles into the package if they were changed.
+  void WriteStyles();
+
+  BookPart& Part() { return part_; }
+  const BookPart& Part() const { return part_; }
+  BookTheme& ThemePart() { return theme_; }
+
+ private:
+  std::weak_ptr<excel::Application> host_;
+  const xlsx::Journal& journal_;
+  xlsx::Package package_;
+  BookPart part_;
+  DateSystem dates_ = DateSystem::k1900;
+  std::unique_ptr<xlsx::Styles> styles_;
+  std::optional<TextPool> sharedStrings_;
+  BookTheme theme_;
+  RowShifts shifts_;
+};
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <pugixml.hpp>
+#include <string>
+
+#include "xlsx/numberformat/DateSystem.h"
+#include "xlsx/package/Namespaces.h"
+
+namespace plotsmith::xlsx {
+
+class Package;
+
+/// The workbook part: the document that lists the sheets and the defined names and holds the settings of the
+/// workbook.
+class BookPart {
+ public:
+  /// Finds and parses the part. Throws a PackageError if the package has none, or one that can't be read.
+  void Load(const Package& package);
+
+  /// The name of the part in the package.
+  const std::string& Name() const { return name_; }
+  /// The part's folder with its slash, into which new parts go.
+  std::string Folder() const { return name_.substr(0, name_.rfind('/') + 1); }
+  pugi::xml_node Root() const;
+
+  bool IsStrict() const { return strict_; }
+  /// The namespaces of the vocabulary that the workbook is written in.
+  const Namespaces& Vocabulary() const { return strict_ ? kStrict : kTransitional; }
+  DateSystem Dates() const;
+
+  void MarkChanged() { changed_ = true; }
+  bool Changed() const { return changed_; }
+  /// Puts the part into the package if it was changed.
+  void Write(Package& package);
+
+ private:
+  std::string name_;
+  pugi::xml_document document_;
+  bool strict_ = false;
+  bool changed_ = false;
+};
+
+}  // namespace plotsmith::xlsx

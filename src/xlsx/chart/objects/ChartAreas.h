@@ -1,0 +1,18 @@
+#pragma once
+
+#include <memory>
+
+#include "host/excel/ChartArea.h"
+#include "host/excel/PlotArea.h"
+
+/// The chart area and the plot area for the port. `frame` is the shape that frames the chart on a sheet and
+/// gives the areas their size.
+namespace plotsmith::xlsx {
+
+class ChartPart;
+class DrawnShape;
+
+excel::Ref<excel::ChartArea> MakeChartArea(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame);
+excel::Ref<excel::PlotArea> MakePlotArea(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame);
+
+}  // namespace plotsmith::xlsx

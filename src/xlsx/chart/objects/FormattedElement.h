@@ -1,0 +1,29 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <pugixml.hpp>
+#include <string>
+
+#include "xlsx/book/BookContext.h"
+#include "xlsx/chart/part/ChartPart.h"
+#include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::xlsx {
+
+/// A chart element with shape properties. It is found anew at each use, because the element may be replaced,
+/// and its `spPr` added and removed, between two uses.
+struct FormattedElement {
+  std::shared_ptr<ChartPart> part;
+  std::function<pugi::xml_node()> find;
+  std::function<std::string()> path;  ///< the object's path in the journal
+
+  /// The shape properties; a null node if there are none.
+  pugi::xml_node FindProperties() const { return xml::Child(find(), "spPr"); }
+  /// The shape properties, which are made if they are missing.
+  pugi::xml_node Properties() const { return schema::Ensure(find(), "spPr"); }
+  const Journal& Log() const { return part->Book().Journal(); }
+};
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <memory>
+#include <pugixml.hpp>
+#include <string>
+
+#include "xlsx/base/Journal.h"
+#include "xlsx/chart/part/ChartPart.h"
+
+namespace plotsmith::xlsx {
+
+/// A series of a chart, which may be deleted while an object still refers to it.
+struct SeriesHandle {
+  std::shared_ptr<ChartPart> part;
+  SeriesRef entry;
+
+  /// The series element; error 1004 if the series was deleted.
+  pugi::xml_node Node() const;
+  /// The path of the series in the journal.
+  std::string Path() const;
+  const Journal& Log() const;
+};
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <pugixml.hpp>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "runtime/Variant.h"
+
+/// The caches of a chart part: the data of its series and titles, from which a reader can show the chart
+/// without computing anything. All texts in it are ST_Xstring, which only these functions encode and decode.
+namespace plotsmith::xlsx {
+
+/// The text in the `v` child of a point, or of a series name that isn't a cell's.
+std::string CachedText(pugi::xml_node holder);
+/// Sets that text.
+void SetCachedText(pugi::xml_node holder, std::string_view text);
+
+/// The texts of a series' data, or of a title's cells, by the numbers of their points from 0. Points without
+/// a text are left out.
+std::map<std::size_t, std::string> CachedTexts(pugi::xml_node data);
+/// The numbers of a series' data, one for each point; Empty for a point without a number.
+std::vector<runtime::Variant> CachedNumbers(pugi::xml_node data);
+/// The number of points in a series' data.
+std::size_t PointCount(pugi::xml_node data);
+/// The number of points in all caches of a series.
+std::size_t CachedPoints(pugi::xml_node series);
+
+/// Fills an empty cache (c:strCache, c:numCache) with its points.
+class CacheWriter {
+ public:
+  /// `count` is the number of points, with those that have no text.
+  CacheWriter(pugi::xml_node cache, std::size_t count);
+  /// Adds a point by its number from 0. Points must be added in ascending order.
+  void Add(std::size_t index, std::string_view text);
+
+ private:
+  pugi::xml_node cache_;
+  std::string pointName_, valueName_;
+};
+
+}  // namespace plotsmith::xlsx

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/excel/Shapes.h"
+#include "xlsx/chart/part/ChartShape.h"
+#include "xlsx/drawing/AnchoredShapes.h"
+
+namespace plotsmith::xlsx {
+
+class ChartPart;
+class DrawnShape;
+
+/// The shapes that are drawn on a chart: its user shapes part. Anchors in it give places as fractions of the
+/// chart. The part is created with the first shape and removed with the last.
+class ChartDrawing : public AnchoredShapes<ChartShape> {
+ public:
+  /// Error 1004 if the part can't be read.
+  explicit ChartDrawing(ChartPart& chart);
+  ~ChartDrawing() override;
+
+  ChartPart& Chart() const { return chart_; }
+  /// Sets the shape that frames the chart on its sheet and gives the chart its size.
+  void SetFrame(std::weak_ptr<DrawnShape> frame) { frame_ = std::move(frame); }
+  /// Width and height in points.
+  Frame Size() const;
+
+  /// Frames are in points from the upper left corner of the chart.
+  std::shared_ptr<ChartShape> AddTextbox(const Frame& frame);
+  /// The shape's name is `name` and a number; `preset` is its geometry in the file (ST_ShapeType).
+  std::shared_ptr<ChartShape> AddAutoShape(std::string_view name, std::string_view preset,
+                                           const Frame& frame);
+  /// Makes one shape of several. It takes the place of the foremost of them in the order of drawing. Error
+  /// 1004 if fewer than two of them are on the chart.
+  std::shared_ptr<ChartShape> Group(const std::vector<std::shared_ptr<DrawnShape>>& shapes);
+  /// Brings the part, and the chart's link to it, up to date.
+  void Write();
+
+ protected:
+  void RemoveRelationships(const std::set<std::string>& ids) override;
+
+ private:
+  std::shared_ptr<ChartShape> AddAnchor(const Frame& frame, const std::string& object);
+  void RemovePart();
+
+  ChartPart& chart_;
+  std::weak_ptr<DrawnShape> frame_;
+};
+
+/// The shapes on a chart, for the port.
+excel::Ref<excel::Shapes> MakeChartShapes(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame);
+
+}  // namespace plotsmith::xlsx

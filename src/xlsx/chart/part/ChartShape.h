@@ -1,0 +1,33 @@
+#pragma once
+
+#include <pugixml.hpp>
+#include <string>
+
+#include "xlsx/drawing/DrawnShape.h"
+
+namespace plotsmith::xlsx {
+
+class ChartDrawing;
+
+/// A shape on a chart: a view over its anchor in the chart's drawing.
+class ChartShape final : public DrawnShape {
+ public:
+  ChartShape(ChartDrawing& drawing, pugi::xml_node anchor, pugi::xml_node object);
+
+  Frame PlacedFrame() const override;
+  std::string JournalPath() const override;
+  void MarkChanged() override;
+  const Journal& Log() const override;
+  const xlsx::Theme& Theme() const override;
+
+ protected:
+  /// Anchors can only give places on the chart. A shape that would stick out is moved back, and made smaller
+  /// only if it is larger than the chart.
+  Frame MoveAnchor(const Frame& wanted) override;
+  void RemoveFromDrawing() override;
+
+ private:
+  ChartDrawing& drawing_;
+};
+
+}  // namespace plotsmith::xlsx
