@@ -4,10 +4,12 @@
 Files that are read as one share an anonymous namespace. A name that one file declares there must therefore not occur
 in another file of its group, nor in that file's headers: it would be declared twice, or mean two things. The same holds
 of variables of headers, which names of parameters in another file would hide. Sources that define macros are read alone,
-as a macro may change what a header says.
+as a macro may change what a header says; those that include headers of Windows, which are full of macros, are read with
+their like.
 
-Usage: unity-groups.py SOURCES INCLUDES OUTPUT. SOURCES has a line "target<tab>file" for each source, INCLUDES the
-folders of our headers, separated by semicolons. OUTPUT becomes a file of CMake commands.
+Usage: unity-groups.py SOURCES INCLUDES OUTPUT. SOURCES has a line "target<tab>room<tab>file" for each source: files
+that use headers of the room, which may be empty, aren't read with others. INCLUDES are the folders of our headers,
+separated by semicolons, that of the rooms first. OUTPUT becomes a file of CMake commands.
 """
 
 import collections
@@ -23,6 +25,7 @@ INCLUDE = re.compile(r'^#include "([^"]+)"', re.M)
 ANONYMOUS = re.compile(r"^namespace \{\n(.*?)^\}  // namespace$", re.M | re.S)
 TYPE = re.compile(r"(?:struct|class|union|enum class|enum struct|enum) (\w+)")
 USING = re.compile(r"using (?:typename )?(?:[\w:]*::)?(\w+)(?: = .*)?;|namespace (\w+) = ")
+WINDOWS = re.compile(r"^#include <(?:windowsx?|commctrl|dispex|objbase|ocidl|oleacc|oleauto|shellapi)\.h>", re.M)
 VARIABLE = re.compile(r"^extern [^(;]*?(\w+);", re.M)
 BRINGS_IN = re.compile(r"using [\w:]+;")
 DECLARED = re.compile(r"(\w+)(?:\[[^\]]*\])*\s*$")
@@ -122,12 +125,13 @@ def clash(names, others, words_of_others):
 
 
 class Group:
-    def __init__(self):
+    def __init__(self, is_apart):
+        self.is_apart = is_apart
         self.files, self.size, self.names, self.words = [], 0, {}, set()
 
-    def takes(self, size, names, used):
+    def takes(self, is_apart, size, names, used):
         """Whether a file of this size may be read with those that are here."""
-        if self.size + size > MOST_BYTES:
+        if self.is_apart != is_apart or self.size + size > MOST_BYTES:
             return False
         return not clash(names, self.names, self.words) and not clash(self.names, names, used)
 
@@ -138,22 +142,25 @@ class Group:
         self.words |= used
 
 
-def groups_of(paths, folders):
+def groups_of(paths, apart, folders):
     groups = []
     for path in sorted(paths):
         text = text_of(path)
-        if re.search(r"^#define ", text, re.M):
+        if re.search(r"^#define |^#include <initguid\.h>", text, re.M):
             continue
         files = with_headers(path, folders)
         names = private_names(path)
         for header in files - {path}:
             names.update((name, header) for name in VARIABLE.findall(text_of(header)))
+        room = os.path.join(folders[0], apart, "") if apart else None
+        uses_room = room is not None and any(file.startswith(room) for file in files)
+        is_apart = uses_room, any(WINDOWS.search(text_of(file)) for file in files)
         used = set().union(*(own_words(file) for file in files))
         for group in groups:
-            if group.takes(len(text), names, used):
+            if group.takes(is_apart, len(text), names, used):
                 break
         else:
-            group = Group()
+            group = Group(is_apart)
             groups.append(group)
         group.add(path, len(text), names, used)
     return [group.files for group in groups if len(group.files) > 1]
@@ -164,11 +171,11 @@ def main():
     folders = tuple(folders.split(";"))
     targets = collections.defaultdict(list)
     for line in open(sources, encoding="utf-8"):
-        target, path = line.rstrip("\n").split("\t")
-        targets[target].append(path)
+        target, apart, path = line.rstrip("\n").split("\t")
+        targets[target, apart].append(path)
     with open(output, "w", encoding="utf-8") as file:
-        for target, paths in targets.items():
-            groups = groups_of(paths, folders)
+        for (target, apart), paths in targets.items():
+            groups = groups_of(paths, apart, folders)
             if not groups:
                 continue
             file.write(f"set_target_properties({target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)\n")
