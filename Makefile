@@ -44,7 +44,8 @@ sanitize:
 	@scripts/install-dependencies.sh
 	@cmake --preset sanitizers
 	@cmake --build build-sanitizers
-	@ctest --preset sanitizers
+	@scripts/run-tests.sh build-sanitizers/tests/plotsmith_tests \
+	  $$(ls build-sanitizers/tests/qt/plotsmith_qt_tests 2>/dev/null || true)
 
 # Runs each fuzzer for a minute, or for FUZZ_SECONDS.
 fuzz:

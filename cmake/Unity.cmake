@@ -1,5 +1,6 @@
 # Lets the compiler read several sources of a target as one, which takes it a third of the time: most of what it reads
-# are headers. unity-groups.py says which sources go together.
+# are headers. unity-groups.py says which sources go together. Sources of a target that use the room which its property
+# PLOTSMITH_UNITY_APART names stay apart from the others, so that a program can be linked to these alone.
 
 # Writes a line for each source of the targets of a folder and those below it.
 function(plotsmith_list_sources folder variable)
@@ -11,11 +12,15 @@ function(plotsmith_list_sources folder variable)
       continue()
     endif()
     get_target_property(sources ${target} SOURCES)
+    get_target_property(apart ${target} PLOTSMITH_UNITY_APART)
+    if(NOT apart)
+      set(apart "")
+    endif()
     foreach(source IN LISTS sources)
       cmake_path(ABSOLUTE_PATH source BASE_DIRECTORY ${folder} NORMALIZE)
       cmake_path(IS_PREFIX CMAKE_BINARY_DIR "${source}" generated)
       if(source MATCHES "\\.cpp$" AND NOT generated)
-        string(APPEND lines "${target}\t${source}\n")
+        string(APPEND lines "${target}\t${apart}\t${source}\n")
       endif()
     endforeach()
   endforeach()

@@ -1,13 +1,15 @@
 #!/usr/bin/env python3
 """Says which source files of a target the compiler may read as one, so that it reads their headers only once.
 
-Files that are read as one share an anonymous namespace. A name that one file declares there must therefore not occur
-in another file of its group, nor in that file's headers: it would be declared twice, or mean two things. The same holds
-of variables of headers, which names of parameters in another file would hide. Sources that define macros are read alone,
-as a macro may change what a header says.
+Files that are read as one share an anonymous namespace. A name that one file declares there must therefore not be
+declared by another file of its group, nor by that file's headers: it would be declared twice, or mean two things. A
+variable must not be hidden by a parameter in another file, of which the compiler warns. Sources that define macros are
+read alone, as a macro may change what a header says; those that include headers of Windows, which are full of macros,
+are read with their like.
 
-Usage: unity-groups.py SOURCES INCLUDES OUTPUT. SOURCES has a line "target<tab>file" for each source, INCLUDES the
-folders of our headers, separated by semicolons. OUTPUT becomes a file of CMake commands.
+Usage: unity-groups.py SOURCES INCLUDES OUTPUT. SOURCES has a line "target<tab>room<tab>file" for each source: files
+that use headers of the room, which may be empty, aren't read with others. INCLUDES are the folders of our headers,
+separated by semicolons, that of the rooms first. OUTPUT becomes a file of CMake commands.
 """
 
 import collections
@@ -17,15 +19,18 @@ import re
 import sys
 
 MOST_BYTES = 110_000  # of a group; the compiler takes some ten seconds for that
-WORD = re.compile(r"(?<![\w.>:])[A-Za-z_]\w*|(?<=[^-]>)[A-Za-z_]\w*|(?<=[^:]:)[A-Za-z_]\w*")
 COMMENT_OR_TEXT = re.compile(r'//[^\n]*|/\*.*?\*/|R"(\w*)\(.*?\)\1"|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])\'', re.S)
 INCLUDE = re.compile(r'^#include "([^"]+)"', re.M)
+ALONE = re.compile(r"^#define |^#include <initguid\.h>", re.M)
+WINDOWS = re.compile(r"^#include <(?:windowsx?|commctrl|dispex|objbase|ocidl|oleacc|oleauto|shellapi)\.h>", re.M)
 ANONYMOUS = re.compile(r"^namespace \{\n(.*?)^\}  // namespace$", re.M | re.S)
 TYPE = re.compile(r"(?:struct|class|union|enum class|enum struct|enum) (\w+)")
 USING = re.compile(r"using (?:typename )?(?:[\w:]*::)?(\w+)(?: = .*)?;|namespace (\w+) = ")
-VARIABLE = re.compile(r"^extern [^(;]*?(\w+);", re.M)
-BRINGS_IN = re.compile(r"using [\w:]+;")
+BRINGS_IN = re.compile(r"using [\w:]+;")  # of a header, which is the same for all
 DECLARED = re.compile(r"(\w+)(?:\[[^\]]*\])*\s*$")
+
+# What a file declares: `text` is that of a line which may be repeated as it is, and the file of all others.
+Declaration = collections.namedtuple("Declaration", "text is_variable")
 
 
 @functools.lru_cache(maxsize=None)
@@ -34,13 +39,15 @@ def text_of(path):
         return file.read()
 
 
-def without_comments(text):
-    return COMMENT_OR_TEXT.sub(" ", text)
+@functools.lru_cache(maxsize=None)
+def code_of(path):
+    """A file without comments and without what is in quotes."""
+    return COMMENT_OR_TEXT.sub(" ", text_of(path))
 
 
 @functools.lru_cache(maxsize=None)
-def own_words(path):
-    return frozenset(WORD.findall(without_comments(text_of(path))))
+def words_of(path):
+    return frozenset(re.findall(r"[A-Za-z_]\w*", code_of(path)))
 
 
 @functools.lru_cache(maxsize=None)
@@ -56,9 +63,9 @@ def headers_of(path, folders):
     return tuple(found)
 
 
-def with_headers(path, folders):
-    """A file and our headers that it includes, directly or not."""
-    seen = {path}
+def all_headers_of(path, folders):
+    """Our headers that a file includes, directly or not."""
+    seen = set()
     waiting = [path]
     while waiting:
         for header in headers_of(waiting.pop(), folders):
@@ -68,95 +75,111 @@ def with_headers(path, folders):
     return seen
 
 
-def declared_name(declaration):
-    """The name of a function or variable, up to whose parameters or value the text goes; None if it has none."""
+def function_or_variable(text):
+    """What a declaration at the beginning of the text names, and whether that is a variable; None if it names nothing
+    of the namespace's own."""
     depth = 0
-    for place, sign in enumerate(declaration):
+    for place, sign in enumerate(text):
         if sign == "<":
             depth += 1
         elif sign == ">":
             depth -= 1
         elif depth <= 0 and sign in "(={;":
-            before = declaration[:place].rstrip()
+            before = text[:place].rstrip()
             name = DECLARED.search(before)
             if not name or before[: name.start()].endswith("::") or name.start() == 0 or name[1] == "operator":
                 return None  # a member, a macro of tests, an operator
-            return name[1]
+            return name[1], sign != "("
     return None
 
 
-def private_names(path):
-    """The names that a file declares in its anonymous namespaces, each with the text that declares it."""
-    names = {}
-    for block in ANONYMOUS.findall(text_of(path)):
-        lines = without_comments(block).split("\n")
-        for place, line in enumerate(lines):
-            if not re.match(r"[A-Za-z_]", line) or line.startswith(("template", "namespace {")):
-                continue
-            kind = TYPE.match(line)
-            using = USING.match(line)
-            if using:
-                names[using[1] or using[2]] = line
-            elif kind and "(" not in line.split("{")[0]:
-                names[kind[1]] = path
-                if line.startswith("enum ") and not line.startswith(("enum class", "enum struct")):
-                    body = "\n".join(lines[place:]).split("{", 1)[-1].split("}", 1)[0]
-                    names.update((name, path) for name in re.findall(r"(?:^|,)\s*(\w+)", body))
-            elif not line.startswith("using namespace"):
-                name = declared_name(" ".join(lines[place : place + 6]))
-                if name:
-                    names[name] = path
-    return names
+def declarations(code, path):
+    """What is declared in code whose namespaces aren't indented, by name."""
+    found = {}
+    lines = code.split("\n")
+    for place, line in enumerate(lines):
+        if not re.match(r"[A-Za-z_]", line) or re.match(r"template|namespace [\w:]* ?\{|using namespace", line):
+            continue
+        using = USING.match(line)
+        kind = TYPE.match(line)
+        if using:
+            found[using[1] or using[2]] = Declaration(line.strip(), False)
+        elif kind and "(" not in line.split("{")[0]:
+            if line.rstrip().endswith(";") and "{" not in line:
+                continue  # declared only, which may be repeated
+            found[kind[1]] = Declaration(path, False)
+            if re.match(r"enum (?!class|struct)", line):
+                body = "\n".join(lines[place:]).split("{", 1)[-1].split("}", 1)[0]
+                found.update((name, Declaration(path, True)) for name in re.findall(r"(?:^|,)\s*(\w+)", body))
+        else:
+            named = function_or_variable(" ".join(lines[place : place + 6]))
+            if named:
+                found[named[0]] = Declaration(path, named[1])
+    return found
 
 
-def clash(names, others, words_of_others):
-    """Whether one of the names means something else to others. What `using a::Name;` brings in does so only if others
-    declare that name themselves."""
-    for name, text in names.items():
-        if name in others:
-            if others[name] != text:
-                return True
-        elif name in words_of_others and not BRINGS_IN.match(text):
+@functools.lru_cache(maxsize=None)
+def declared_in_header(path):
+    return declarations(code_of(path), path)
+
+
+def private_declarations(path):
+    """What a file declares in its anonymous namespaces."""
+    blocks = ANONYMOUS.findall(text_of(path))
+    return declarations(COMMENT_OR_TEXT.sub(" ", "\n".join(blocks)), path)
+
+
+class Source:
+    def __init__(self, path, room, folders):
+        headers = all_headers_of(path, folders)
+        self.path = path
+        self.size = len(text_of(path))
+        self.words = words_of(path)
+        self.private = private_declarations(path)
+        self.public = {}
+        for header in headers:
+            self.public.update(declared_in_header(header))
+        files = headers | {path}
+        in_room = os.path.join(folders[0], room, "") if room else None
+        # only sources of the same kind are read as one
+        self.kind = (
+            in_room is not None and any(file.startswith(in_room) for file in files),
+            any(WINDOWS.search(text_of(file)) for file in files),
+        )
+
+
+def disturbs(source, other):
+    """Whether what a file declares for itself, or in its headers, means something else to the other."""
+    for name, (text, is_variable) in source.private.items():
+        if name in other.private and other.private[name].text != text:
             return True
-    return False
+        if name in other.public and other.public[name].text != text and not BRINGS_IN.match(text):
+            return True
+        if is_variable and name in other.words and name not in other.private:
+            return True
+    return any(
+        is_variable and name in other.words and name not in other.public and name not in other.private
+        for name, (_, is_variable) in source.public.items()
+    )
 
 
-class Group:
-    def __init__(self):
-        self.files, self.size, self.names, self.words = [], 0, {}, set()
-
-    def takes(self, size, names, used):
-        """Whether a file of this size may be read with those that are here."""
-        if self.size + size > MOST_BYTES:
-            return False
-        return not clash(names, self.names, self.words) and not clash(self.names, names, used)
-
-    def add(self, path, size, names, used):
-        self.files.append(path)
-        self.size += size
-        self.names.update(names)
-        self.words |= used
-
-
-def groups_of(paths, folders):
+def groups_of(paths, room, folders):
     groups = []
     for path in sorted(paths):
-        text = text_of(path)
-        if re.search(r"^#define ", text, re.M):
+        if ALONE.search(text_of(path)):
             continue
-        files = with_headers(path, folders)
-        names = private_names(path)
-        for header in files - {path}:
-            names.update((name, header) for name in VARIABLE.findall(text_of(header)))
-        used = set().union(*(own_words(file) for file in files))
+        source = Source(path, room, folders)
         for group in groups:
-            if group.takes(len(text), names, used):
+            if (
+                group[0].kind == source.kind
+                and sum(member.size for member in group) + source.size <= MOST_BYTES
+                and not any(disturbs(source, member) or disturbs(member, source) for member in group)
+            ):
+                group.append(source)
                 break
         else:
-            group = Group()
-            groups.append(group)
-        group.add(path, len(text), names, used)
-    return [group.files for group in groups if len(group.files) > 1]
+            groups.append([source])
+    return [[source.path for source in group] for group in groups if len(group) > 1]
 
 
 def main():
@@ -164,11 +187,11 @@ def main():
     folders = tuple(folders.split(";"))
     targets = collections.defaultdict(list)
     for line in open(sources, encoding="utf-8"):
-        target, path = line.rstrip("\n").split("\t")
-        targets[target].append(path)
+        target, room, path = line.rstrip("\n").split("\t")
+        targets[target, room].append(path)
     with open(output, "w", encoding="utf-8") as file:
-        for target, paths in targets.items():
-            groups = groups_of(paths, folders)
+        for (target, room), paths in targets.items():
+            groups = groups_of(paths, room, folders)
             if not groups:
                 continue
             file.write(f"set_target_properties({target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)\n")

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Builds the command and the component for Windows, of 64 and of 32 bits, and runs all tests under Wine:
+# Builds the command for Windows and the component, that of 32 bits too, and runs all tests under Wine:
 # tests/windows/run-*.sh. Names of tests, such as "server", run these alone.
 # Usage: scripts/check-windows.sh [NAME]...
 set -eu
@@ -44,7 +44,7 @@ cmake --preset windows-x64 >/dev/null
 cmake --build build-windows-x64 --target plotsmith Plotsmith tests/windows/all
 step "Building for Windows, 32 bits:"
 cmake --preset windows-x86 >/dev/null
-cmake --build build-windows-x86 --target plotsmith Plotsmith
+cmake --build build-windows-x86 --target Plotsmith
 step "Installer:"
 scripts/installer.sh
 

@@ -8,11 +8,13 @@ if [ ! -d "$locales/de_DE.UTF-8" ]; then
   mkdir -p "$locales"
   localedef -i de_DE -f UTF-8 "$locales/de_DE.UTF-8"
 fi
-echo "With a decimal comma:"
-LOCPATH=$locales LC_ALL=de_DE.UTF-8 build/tests/plotsmith_tests --gtest_brief=1
+programs=build/tests/plotsmith_tests
 if [ -x build/tests/qt/plotsmith_qt_tests ]; then
-  LOCPATH=$locales LC_ALL=de_DE.UTF-8 build/tests/qt/plotsmith_qt_tests --gtest_brief=1
+  programs="$programs build/tests/qt/plotsmith_qt_tests"
 else
   echo "The tests of the wizard's windows are left out, as Qt 6 Widgets isn't there."
 fi
+echo "With a decimal comma:"
+# shellcheck disable=SC2086  # a list of words
+LOCPATH=$locales LC_ALL=de_DE.UTF-8 scripts/run-tests.sh $programs
 ctest --preset release -j "$(nproc)"

@@ -49,6 +49,8 @@ fetch_sources() {
   mkdir -p "$folder/source"
   fetch_index
   for name in $sources; do (cd "$folder/source" && fetch_source "$name"); done
+  # Debian's later patches want these with a value, which only the configure script gives them
+  sed -i 's/^#cmakedefine XML_DTD$/#define XML_DTD 1/' "$folder/source/expat/expat/expat_config.h.cmake"
   echo "$versions" >"$folder/source/versions.txt"
 }
 
@@ -100,7 +102,8 @@ copy_headers() {
   done
 }
 
-build() {
+# Sets what is true of an architecture: x64 or x86.
+choose() {
   word=$1
   case $word in
     x64) triple=x86_64-w64-mingw32 ;;
@@ -108,14 +111,13 @@ build() {
     *) echo "windows-libraries.sh: there is no \"$word\", only x64 and x86" >&2; exit 2 ;;
   esac
   prefix=$folder/$triple
-  [ "$(cat "$prefix/versions.txt" 2>/dev/null)" = "$versions" ] && return
   work=$folder/work/$triple
+}
+
+build() {
   rm -rf "$prefix" "$work"
   mkdir -p "$prefix/lib" "$work"
-  fetch_sources
   build_with_cmake "$folder/source/pugixml" pugixml
-  # Debian's later patches want these with a value, which only the configure script gives them
-  sed -i 's/^#cmakedefine XML_DTD$/#define XML_DTD 1/' "$folder/source/expat/expat/expat_config.h.cmake"
   build_with_cmake "$folder/source/expat/expat" expat -DCMAKE_C_FLAGS=-DXML_GE=1 -DEXPAT_BUILD_TESTS=OFF -DEXPAT_BUILD_TOOLS=OFF \
     -DEXPAT_BUILD_EXAMPLES=OFF -DEXPAT_BUILD_DOCS=OFF -DEXPAT_SHARED_LIBS=OFF
   build_with_cmake "$folder/source/utf8proc" utf8proc
@@ -140,4 +142,17 @@ build() {
 versions=$(dpkg-query -W -f='${Package} ${Version}\n' libpugixml-dev libexpat1-dev libutf8proc-dev libzip-dev libisal-dev \
   $headers googletest libz-mingw-w64-dev g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix &&
   cat scripts/windows-libraries.sh cmake/windows*.cmake | md5sum)
-for word in ${*:-x64 x86}; do build "$word"; done
+missing=
+for word in ${*:-x64 x86}; do
+  choose "$word"
+  [ "$(cat "$prefix/versions.txt" 2>/dev/null)" = "$versions" ] || missing="$missing $word"
+done
+[ -n "$missing" ] || exit 0
+fetch_sources
+# all architectures at once: most of the time goes into what configures, which has one process each
+builders=
+for word in $missing; do
+  (choose "$word" && build) &
+  builders="$builders $!"
+done
+for builder in $builders; do wait "$builder"; done

@@ -1,0 +1,34 @@
+#!/bin/sh
+# Runs programs of tests, each in as many parts at once as there are processors, and says how many tests passed. A
+# process for each test, as ctest has it, takes longer to start than most tests take, above all under the sanitizers.
+# Usage: scripts/run-tests.sh PROGRAM...
+set -eu
+parts=$(nproc)
+logs=$(mktemp -d)
+trap 'rm -rf "$logs"' EXIT
+passed=0
+failed=0
+for program; do
+  for part in $(seq 0 $((parts - 1))); do
+    (
+      code=0
+      GTEST_TOTAL_SHARDS=$parts GTEST_SHARD_INDEX=$part "$program" --gtest_brief=1 >"$logs/$part" 2>&1 || code=$?
+      echo "$code" >"$logs/$part.code"
+    ) &
+  done
+  wait
+  for part in $(seq 0 $((parts - 1))); do
+    count=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) tests\{0,1\}\.$/\1/p' "$logs/$part")
+    wrong=$(sed -n 's/^ *\([0-9]*\) FAILED TESTS\{0,1\}$/\1/p' "$logs/$part")
+    [ "$(cat "$logs/$part.code")" -eq 0 ] || [ "${wrong:-0}" -gt 0 ] || {
+      echo "FAILED: $program ended before its end"
+      wrong=1
+    }
+    # without failures there is nothing to see but the two lines that count
+    [ -z "$wrong" ] || cat "$logs/$part"
+    passed=$((passed + ${count:-0}))
+    failed=$((failed + ${wrong:-0}))
+  done
+done
+echo "$passed passed, $failed failed"
+[ "$failed" -eq 0 ]
