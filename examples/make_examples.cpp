@@ -12,7 +12,8 @@ namespace {
 using namespace plotsmith::examples;
 namespace excel = plotsmith::excel;
 
-/// A range table, marked by its name: sales of a bicycle maker, a row for each quarter, region and line.
+/// A range table with a defined name: the sales of a bicycle maker, one row for each quarter, region and
+/// line.
 void MakeSales(const std::string& path) {
   ExampleBook book;
   const auto sheet = book.Sheet("Sales");
@@ -21,7 +22,7 @@ void MakeSales(const std::string& path) {
   Fill(*sheet, 3, {"Quarter", "Region", "Line", "Units", "Revenue", "Cost"});
   constexpr std::array kRegions = {"North", "South", "East", "West"};
   constexpr std::array kLines = {"City", "Trekking", "E-Bike"};
-  constexpr std::array kPrices = {0.62, 0.95, 2.7};  // thousands of euros a piece
+  constexpr std::array kPrices = {0.62, 0.95, 2.7};  // In thousands of euros per unit.
   constexpr int kUnits[4][3] = {{310, 180, 150}, {420, 260, 240}, {190, 140, 95}, {280, 310, 205}};
   constexpr std::array kSeason = {0.7, 1.35, 1.15, 0.8};
   int row = 3;
@@ -65,7 +66,7 @@ void MakeSales(const std::string& path) {
   book.Finish(path);
 }
 
-/// A data sheet, recognised by the name Data1: electricity of Germany by source, in TWh, rounded.
+/// A data sheet with the name Data1: electricity in Germany by source, in TWh, rounded.
 void MakeElectricity(const std::string& path) {
   ExampleBook book;
   const auto sheet = book.Sheet("Data1");
@@ -75,7 +76,7 @@ void MakeElectricity(const std::string& path) {
     const char* kind;
     std::array<double, 6> generation;
   };
-  // nuclear power comes first, as an area chart with depth hides what is behind larger values
+  // Nuclear power comes first, because in a 3-D area chart larger values hide the values behind them.
   const Source kSources[] = {{"Nuclear", "nuclear", {72, 71, 61, 65, 33, 7}},
                              {"Lignite", "fossil", {131, 102, 83, 99, 104, 77}},
                              {"Hard coal", "fossil", {72, 48, 35, 47, 56, 36}},
@@ -109,8 +110,8 @@ void MakeElectricity(const std::string& path) {
   book.Finish(path);
 }
 
-/// Bubbles: how rich, how old, how urban and how connected the people of a country are, and how many. The
-/// countries are some of the large ones, so few and so different that no name lies on another.
+/// Bubble charts: income, life expectancy, urbanization, internet use and population of countries. The
+/// countries are large, few and different enough that their names don't overlap.
 void MakeCountries(const std::string& path) {
   ExampleBook book;
   const auto sheet = book.Sheet("Countries");
@@ -172,8 +173,8 @@ void MakeCountries(const std::string& path) {
              content("City dwellers", "Online") +
                  Settings({"quadrants", "autoscale-x", "autoscale-y"}, "static-attributes"));
   book.Refresh();
-  // The scales are set on the chart, as by hand: the poor countries would lie on each other on a linear axis,
-  // and no life expectancy is below 50 years.
+  // The scales are set on the chart, like by hand. On a linear axis the poor countries would overlap, and no
+  // life expectancy is below 50 years.
   constexpr std::int32_t kLogarithmic = -4133;  // xlScaleLogarithmic
   const auto gdp = wealth->Chart()->Axes(excel::xlCategory, excel::xlPrimary);
   gdp->SetScaleType(kLogarithmic);
@@ -185,7 +186,7 @@ void MakeCountries(const std::string& path) {
   book.Finish(path);
 }
 
-/// Strategic buckets: what a maker of bicycles puts into each of its strategies, against what it meant to.
+/// A strategic bucket chart: the investments of a bicycle maker by strategy, compared with the targets.
 void MakeInvestments(const std::string& path) {
   ExampleBook book;
   const auto sheet = book.Sheet("Investments");
@@ -219,7 +220,7 @@ void MakeInvestments(const std::string& path) {
   book.Name("VEX_TableRange_Investments", "Investments!$A$1:$E$" + std::to_string(row));
 
   const auto charts = book.Sheet("Charts");
-  // the bucket table belongs to the other by its headings
+  // The headings connect the bucket table with the other table.
   const auto targets = book.Sheet("Targets");
   targets->SetCellValueAt(1, 1, "Targets 2026");
   targets->SetCellValueAt(2, 1, "millions of euros");
@@ -248,7 +249,7 @@ void MakeInvestments(const std::string& path) {
   book.Finish(path);
 }
 
-/// Two plain tables, for first steps: what was ordered, and what each region was to sell.
+/// Two simple tables for first steps: orders, and sales targets by region.
 void MakeOrders(const std::string& path) {
   ExampleBook book;
   const auto orders = book.Sheet("Data1");

@@ -1,5 +1,5 @@
-// Makes the gallery: a workbook with a chart of every type and setting, each on a sheet of its own, and the
-// page that shows their pictures. scripts/gallery.sh has them drawn. Usage: make_gallery FOLDER
+// Makes the gallery: a workbook with a chart of every type and setting, one per sheet, and the page that
+// shows their pictures. scripts/gallery.sh draws them. Usage: make_gallery FOLDER
 
 #include <array>
 #include <fstream>
@@ -14,17 +14,17 @@ namespace {
 using namespace plotsmith::examples;
 
 constexpr double kWidth = 300, kHeight = 200;  // points
-constexpr int kResolution = 72;                // dots an inch, of LibreOffice's picture
-constexpr int kFarResolution = 45;             // of one that shows more than the chart
+constexpr int kResolution = 72;                // The resolution of LibreOffice's picture in dots per inch.
+constexpr int kFarResolution = 45;             // The resolution of a picture that shows more than the chart.
 
-/// A picture: one chart, and what is to be said about it.
+/// A picture of a chart, with its description.
 struct Picture {
-  std::string name;  ///< of the sheet and of the picture's file
+  std::string name;  ///< The name of the sheet and of the picture's file.
   std::string caption;
   std::string attributes;
   std::string content;
-  std::string shown;    ///< that piece of the definition which makes the difference
-  std::string comment;  ///< the text of a comment box
+  std::string shown;    ///< The part of the definition that makes the difference.
+  std::string comment;  ///< The text of a comment box.
 };
 
 struct Section {
@@ -53,7 +53,7 @@ const std::string kSales = "table-id=\"Data1\" number-format=\"0\" ";
 const std::string kNations = "table-id=\"VEX_TableRange_Nations\" ";
 const std::string kProjects = "table-id=\"VEX_TableRange_Projects\" number-format=\"0.0\" ";
 
-/// Regions by quarter.
+/// Columns for a chart of regions by quarter.
 const std::string kByQuarter = Columns("categories", "rows", {"Quarter"}) +
                                Columns("series", "rows", {"Region"}) + Columns("values", "", {"Revenue"});
 

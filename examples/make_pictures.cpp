@@ -1,4 +1,4 @@
-// Draws the sample pictures of the wizard's pages for docs/pictures.md, a file NAME.svg each. Usage:
+// Draws the sample pictures of the wizard's pages for docs/pictures.md, one file NAME.svg each. Usage:
 // make_pictures FOLDER
 
 #include <filesystem>

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes a workbook that Plotsmith refreshes, with nothing but a zip library: write_book.py BOOK.xlsx"""
+"""Writes a workbook that Plotsmith can refresh, using only a zip library: write_book.py BOOK.xlsx"""
 import sys, zipfile
 from xml.sax.saxutils import escape
 

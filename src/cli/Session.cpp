@@ -64,7 +64,7 @@ bool IsTableKnown(const std::string& id) {
 bool IsStandardOutput(const std::optional<std::string>& output) { return output == "-"; }
 
 void RequireTableId(const std::string& id) {
-  if (id.empty()) throw CommandError(exit_code::kUsage, "--table wants the id of a table.");
+  if (id.empty()) throw CommandError(exit_code::kUsage, "--table needs the id of a table.");
 }
 
 std::string VersionText(double version) {
@@ -121,7 +121,7 @@ void Session::LoadCharts() {
 }
 
 void Session::CheckWritable(const std::optional<std::string>& output) {
-  if (output && output->empty()) throw CommandError(exit_code::kUsage, "-o wants the name of a file.");
+  if (output && output->empty()) throw CommandError(exit_code::kUsage, "-o needs the name of a file.");
   bookToOut_ = IsStandardOutput(output);
   if (!bookToOut_) {
     CheckFree(output.value_or(path_));
@@ -179,7 +179,7 @@ void Session::LookBeforeRun(DefinitionsAre definitions) {
                      "nothing was changed, as " +
                          (refusals.lost > 0 ? Counted(refusals.lost, "definition") + " would be lost"
                                             : "charts could be taken for each other") +
-                         "; mend what is said, or use --drop-broken.");
+                         "; correct this, or use --drop-broken.");
 }
 
 bool Session::ReportFindings(const std::vector<std::string>& lines) const {

@@ -127,7 +127,7 @@ TEST_F(BatchTest, ResultsGoIntoAFolderEachByItsName) {
        "the standard output takes one workbook; several can be written into a folder."},
       {{second, first, "-o", folder_ / "one"},
        "\"one/a.xlsx\" is in the folder \"one\" itself; without -o it is refreshed where it is."},
-      {{first, second, "--jobs", "0"}, "--jobs wants a number from 1 on."}};
+      {{first, second, "--jobs", "0"}, "--jobs needs a number of at least 1."}};
   for (auto [arguments, said] : cases) {
     arguments.insert(arguments.begin(), "refresh");
     const CommandResult result = RunCommand(arguments);

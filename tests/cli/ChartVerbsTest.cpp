@@ -227,7 +227,7 @@ TEST_F(ChartVerbsTest, AChartWithoutATableCanOnlyBeDeleted) {
   test::PlainBook book = SalesBook({{"VEX_Chart1", "column", "table-id=\"Gone\""}});
   book_ = Write(book, "gone.xlsx");
   const S sentence =
-      "plotsmith: the table of the chart 'VEX_Chart1' is gone, so the chart can only be deleted.\n";
+      "plotsmith: the table of the chart 'VEX_Chart1' no longer exists, so the chart can only be deleted.\n";
   EXPECT_EQ(Verb({"modify", "VEX_Chart1", "--table", "Data1"}).err, sentence);
   EXPECT_EQ(Verb({"copy", "VEX_Chart1"}).err, sentence);
   EXPECT_EQ(Verb({"delete", "VEX_Chart1"}).code, 0);

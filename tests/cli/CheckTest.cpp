@@ -118,7 +118,7 @@ TEST_F(CheckTest, AWorkbookWithoutDefinitionsOrTablesIsFine) {
   const auto result = Check(book);
   EXPECT_EQ(result.code, 0);
   EXPECT_EQ(result.out,
-            "There are no definitions of charts.\nThere are no tables. To make one, call a sheet Data1, with "
+            "There are no definitions of charts.\nThere are no tables. To make one, name a sheet Data1, with "
             "headings in row 1 and data below them; or give the data a name that begins with VEX_TableRange, "
             "with a title in its first cell and headings in its third row.\n");
   EXPECT_EQ(RunCommand({"check", folder_ / "none.xlsx"}).code, 3);
@@ -132,8 +132,9 @@ TEST_F(CheckTest, AWorkbookWithoutDefinitionsOrTablesIsFine) {
 
 TEST_F(CheckTest, RowsThatALoadRemovesOrNeverReads) {
   const S good = Definition{"VEX_Chart1"}.Xml();
-  const S refused = "; until that is mended, the workbook is only written with --drop-broken.";
-  const S confused = "; until that is mended, charts are only made, changed or deleted with --drop-broken.";
+  const S refused = "; until this is corrected, the workbook is only written with --drop-broken.";
+  const S confused =
+      "; until this is corrected, charts are only made, changed or deleted with --drop-broken.";
   const std::pair<List, List> cases[] = {
       {{"<chart id='VEX_Chart1'>\n<a></chart>"},
        {"The text is not well-formed XML (mismatched tag in line 2, character 6)" + refused}},
@@ -143,7 +144,7 @@ TEST_F(CheckTest, RowsThatALoadRemovesOrNeverReads) {
       {{runtime::Replace(good, "id=\"VEX_Chart1\"", "id=\"VEX_Chart7\"")},
        {"No chart has the alternative text 'VEX_Chart7'; there is a chart with 'VEX_Chart1'" + refused}},
       {{good, good},
-       {"VEX_ChartDefinitions!A3: The id 'VEX_Chart1' is that of VEX_ChartDefinitions!A2 already" + refused}},
+       {"VEX_ChartDefinitions!A3: The id 'VEX_Chart1' is already used by VEX_ChartDefinitions!A2" + refused}},
       {{"", good},
        {"VEX_ChartDefinitions!A3: This definition is never read, because VEX_ChartDefinitions!A2 is blank "
         "and ends the list" +
@@ -168,7 +169,7 @@ TEST_F(CheckTest, RowsThatALoadRemovesOrNeverReads) {
 }
 
 TEST_F(CheckTest, ChartsThatAreNotSeen) {
-  const S refused = "; until that is mended, the workbook is only written with --drop-broken.";
+  const S refused = "; until this is corrected, the workbook is only written with --drop-broken.";
   PlainBook book = SalesBook({{"VEX_Chart1"}});
   book.Sheet("Charts").frames[0].alternativeText = "";
   EXPECT_EQ(Found(book),
@@ -203,7 +204,7 @@ TEST_F(CheckTest, ChartsThatAreNotSeen) {
       RunCommand({"check", path})
           .out.find(
               "A2: The chart with the alternative text 'VEX_Chart1' is in a group of shapes on the sheet "
-              "'Charts', where it isn't seen, and has to be ungrouped" +
+              "'Charts', where it isn't found; ungroup it" +
               refused + "\n"),
       S::npos)
       << RunCommand({"check", path}).out;
@@ -235,7 +236,7 @@ TEST_F(CheckTest, NamesAndValuesThatADefinitionCannotHave) {
         "bubble-sizes, sort-order, axes, data-labels, dynamic-attributes, static-attributes, comment and "
         "auto-persistence."}},
       {rest("<values><column name=\"Cost\"/></values>"),
-       {"The element 'values' comes twice, and only the first one counts."}},
+       {"The element 'values' occurs twice, and only the first one is used."}},
       {rest("<axes><axis type=\"x\" label=\"\" sticky=\"maybe\"/></axes>"),
        {"The attribute 'type' has an unknown value 'x'; it can be label or value.",
         "The attribute 'sticky' has an unknown value 'maybe'; it can be yes or no."}},
@@ -289,12 +290,10 @@ TEST_F(CheckTest, WhatATypeNeeds) {
        {"The element 'categories' with headings in rows takes one column, and it names 2."}},
       {definition("bar", runtime::Replace(rows, "rows", "columns") + across),
        {"Categories and series both have their headings in columns; only one of them can.",
-        "Data1!A2: The column 'Region' is no number column, as 'categories' wants, since this cell holds the "
-        "text "
-        "'East', which counts as 0.",
-        "Data1!B2: The column 'Product' is no number column, as 'categories' wants, since this cell holds "
-        "the text "
-        "'Widget', which counts as 0."}},
+        "Data1!A2: The column 'Region' isn't a number column, which 'categories' needs, because this cell "
+        "contains the text 'East', which counts as 0.",
+        "Data1!B2: The column 'Product' isn't a number column, which 'categories' needs, because this cell "
+        "contains the text 'Widget', which counts as 0."}},
       {definition("bubble", region + across + amount),
        {"A bubble chart has no headings in columns; 'headings-in' is rows, or none for series."}},
       {definition("bubble", region), {"A bubble chart needs the element 'values'."}}};
@@ -374,17 +373,16 @@ TEST_F(CheckTest, CellsThatAreErrorsTextsOrFormulasWithoutAResult) {
   const RawCell error{" t=\"e\"><v>#N/A</v></c>"}, formula{kFormula};
   EXPECT_EQ(
       found([&](Rows& rows) { rows[2][2] = rows[4][2] = error; }),
-      (List{"Data1!C3: The column 'Amount' is no number column, as 'values' wants, since this cell holds the "
-            "error #N/A, which counts as 0.",
+      (List{"Data1!C3: The column 'Amount' isn't a number column, which 'values' needs, because this cell "
+            "contains the error #N/A, which counts as 0.",
             "Data1!C3: The column 'Amount' has 2 errors, the first one here, #N/A, which make it a label "
             "column; without them it is a number column."}));
   EXPECT_EQ(found([&](Rows& rows) {
               rows[2][2] = S("n/a");
               rows[3][2] = error;
             }),
-            List{"Data1!C3: The column 'Amount' is no number column, as 'values' wants, since this cell "
-                 "holds the text "
-                 "'n/a', which counts as 0."});
+            List{"Data1!C3: The column 'Amount' isn't a number column, which 'values' needs, because this "
+                 "cell contains the text 'n/a', which counts as 0."});
   const S calculate = "; have a spreadsheet program calculate and save the workbook.";
   EXPECT_EQ(
       found([&](Rows& rows) { rows[1][3] = rows[3][3] = rows[4][3] = formula; }),
@@ -428,8 +426,8 @@ TEST_F(CheckTest, DatesAreNumbersToAChart) {
   rows[1][2] = RawCell{" s=\"1\"><v>45000</v></c>"};
   EXPECT_EQ(Found(book), List{});
   rows[2][2] = RawCell{" t=\"e\"><v>#REF!</v></c>"};
-  EXPECT_EQ(Found(book), List{"Data1!C3: The column 'Across' is no number column, as 'x-values' wants, since "
-                              "this cell holds the error #REF!, which counts as 0."})
+  EXPECT_EQ(Found(book), List{"Data1!C3: The column 'Across' isn't a number column, which 'x-values' needs, "
+                              "because this cell contains the error #REF!, which counts as 0."})
       << "without the error it would be a label column all the same";
 }
 

@@ -272,11 +272,11 @@ TEST_F(CommandTest, ListsAndJson) {
     "tableSheet": "Data1",
     "table": "Data1",
     "state": "not drawn",
-    "reason": "The chart waits for a refresh. The column 'Amount' is no number column, as 'values' wants, since this cell holds the error #N/A, which counts as 0.",
+    "reason": "The chart waits for a refresh. The column 'Amount' isn't a number column, which 'values' needs, because this cell contains the error #N/A, which counts as 0.",
     "findings": [
       {
         "place": "Data1!C2",
-        "sentence": "The column 'Amount' is no number column, as 'values' wants, since this cell holds the error #N/A, which counts as 0."
+        "sentence": "The column 'Amount' isn't a number column, which 'values' needs, because this cell contains the error #N/A, which counts as 0."
       }
     ]
   }
@@ -364,8 +364,8 @@ TEST_F(CommandTest, ARunWithoutChartsSaysSo) {
   EXPECT_TRUE(std::filesystem::exists(folder_ / "out.xlsx"));
   result = RunCommand({"refresh", two, "--table", "Data2"});
   EXPECT_EQ(result.code, 1);
-  EXPECT_EQ(result.err, "plotsmith: no chart of \"" + two +
-                            "\" hangs on the table \"Data2\", so nothing was refreshed.\n");
+  EXPECT_EQ(result.err,
+            "plotsmith: no chart of \"" + two + "\" uses the table \"Data2\", so nothing was refreshed.\n");
   result = RunCommand({"refresh", one, "--verbose"});
   EXPECT_EQ(result.code, 0);
   EXPECT_EQ(result.err, "1 chart refreshed\n");
@@ -501,10 +501,10 @@ TEST_F(CommandTest, RenamedColumnsAreCarriedIntoTheCharts) {
             "plotsmith: no chart of the table \"Data1\" has a column \"label\".\n");
   EXPECT_EQ(Bytes(book), before);
   for (const auto& [arguments, said] : std::vector<std::pair<std::vector<S>, S>>{
-           {{"--table", "Data1", "Region"}, "\"Region\" is no renaming"},
+           {{"--table", "Data1", "Region"}, "\"Region\" isn't a renaming"},
            {{"--table", "Data1", "A=B", "A=C"}, "\"A\" is renamed twice"},
            {{"--table", "Data9", "A=B"}, "has no table \"Data9\""},
-           {{"--table", "", "A=B"}, "--table wants the id of a table."},
+           {{"--table", "", "A=B"}, "--table needs the id of a table."},
            {{"A=B"}, "--table is required"},
            {{"--table", "Data1"}, "OLD=NEW is required"}}) {
     std::vector<S> line = {"rename-columns", book};

@@ -210,24 +210,24 @@ TEST_F(RenderTest, WhatCantBeMeantIsRefusedInOneSentence) {
        "the standard output takes one picture, and there are 2 charts; a folder or a PDF takes several.\n"},
       {{"BOOK", "-o", "DIR/a.gif"},
        2,
-       "the name \"DIR/a.gif\" doesn't tell a format: use .svg, .png or .pdf, or --format; a folder has to "
+       "the name \"DIR/a.gif\" has no known extension: use .svg, .png or .pdf, or --format; a folder has to "
        "be "
        "there, or ends with \"/\".\n"},
       {{"BOOK", "-o", "DIR/a.png", "--format", "svg"},
        2,
        "\"DIR/a.png\" and --format svg are two formats.\n"},
-      {{"BOOK", "--format", "gif"}, 2, "--format wants svg, png or pdf, not 'gif'.\n"},
+      {{"BOOK", "--format", "gif"}, 2, "--format must be svg, png or pdf, not 'gif'.\n"},
       {{"BOOK", "--dpi", "300", "-o", "DIR"},
        2,
        "--dpi is for PNG; --scale makes a picture of any format larger.\n"},
       {{"BOOK", "--dpi", "nan", "-o", "DIR", "--format", "png"},
        2,
-       "--dpi wants a number from 10 to 2400.\n"},
-      {{"BOOK", "--scale", "0", "-o", "DIR"}, 2, "--scale wants a number from 0.01 to 100.\n"},
+       "--dpi needs a number from 10 to 2400.\n"},
+      {{"BOOK", "--scale", "0", "-o", "DIR"}, 2, "--scale needs a number from 0.01 to 100.\n"},
       {{"BOOK", "VEX_Chart1", "--scale", "100", "--dpi", "2400", "-o", "DIR/a.png"},
        2,
        "a picture would have more than a hundred million pixels; use a smaller --dpi or --scale.\n"},
-      {{"BOOK", "-o", ""}, 2, "-o wants the name of a file or a folder.\n"},
+      {{"BOOK", "-o", ""}, 2, "-o needs the name of a file or a folder.\n"},
       {{"BOOK", "--sheet", "Nowhere", "-o", "DIR"}, 2, "\"BOOK\" has no sheet \"Nowhere\".\n"},
       {{"BOOK", "--sheet", "Empty", "-o", "DIR"}, 2, "the sheet \"Empty\" has nothing to print.\n"},
       {{"BOOK", "--sheet", "Many rows", "-o", "DIR/a.svg"},
@@ -338,11 +338,11 @@ TEST_F(RenderTest, ARefreshDrawsWhatItHasRefreshed) {
        2,
        "",
        "plotsmith: --format, --dpi and --scale are for the pictures of --render.\n"},
-      {{"--render", ""}, 2, "", "plotsmith: --render wants the name of a folder.\n"},
+      {{"--render", ""}, 2, "", "plotsmith: --render needs the name of a folder.\n"},
       {{"--render", "DIR", "--format", "gif"},
        2,
        "",
-       "plotsmith: --format wants svg, png or pdf, not 'gif'.\n"},
+       "plotsmith: --format must be svg, png or pdf, not 'gif'.\n"},
   };
   for (const auto& c : cases) {
     std::vector<S> arguments = {"refresh", "BOOK", "-o", folder_ / "out.xlsx"};

@@ -92,7 +92,7 @@ TEST_F(RunLookTest, NothingIsWrittenWhereADefinitionWouldBeLost) {
        1},
       {{good, "<charts/>"}, "A3: ", "The root element is 'charts' and not 'chart'", 1},
       {{runtime::Replace(good, " id=\"VEX_Chart1\"", "")}, "A2" + named, "The definition has no 'id'", 0},
-      {{good, good}, "A3" + named, "The id 'VEX_Chart1' is that of VEX_ChartDefinitions!A2 already", 1},
+      {{good, good}, "A3" + named, "The id 'VEX_Chart1' is already used by VEX_ChartDefinitions!A2", 1},
       {{runtime::Replace(good, "id=\"VEX_Chart1\"", "id=\"VEX_Chart7\"")},
        "A2" + named,
        "No chart has the alternative text 'VEX_Chart7'; there is a chart with 'VEX_Chart1'",
@@ -126,7 +126,7 @@ TEST_F(RunLookTest, ADrawnChartThatIsGoneTakesItsDefinitionAlong) {
   EXPECT_EQ(
       Refresh(),
       Line("No chart has the alternative text 'VEX_Chart1'; there are charts with 'Mine' and 'VEX_Chart2'; "
-           "the chart was drawn and is gone, and its definition was removed."));
+           "the chart was drawn and no longer exists, so its definition was removed."));
   EXPECT_TRUE(Charts().starts_with("VEX_Chart2")) << Charts();
   EXPECT_EQ(Refresh(), "");
 }
@@ -143,7 +143,7 @@ TEST_F(RunLookTest, AGroupedChartIsNotLost) {
   EXPECT_EQ(refused.code, 3);
   EXPECT_TRUE(refused.err.starts_with(
       Line("The chart with the alternative text 'VEX_Chart1' is in a group of shapes on the sheet 'Charts', "
-           "where it isn't seen, and has to be ungrouped.")))
+           "where it isn't found; ungroup it.")))
       << refused.err;
   Edit(kDrawing, group, "");
   Edit(kDrawing, "</xdr:grpSp>", "");
@@ -204,9 +204,9 @@ TEST_F(RunLookTest, ADefinitionThatAProgramChangedIsToldFromAChartThatAPersonCha
                          "definition; the next refresh keeps that of the chart.\n"),
             S::npos)
       << checked;
-  EXPECT_EQ(RunCommand({"refresh", path_, "--table", "Data2", "-o", folder_ / "other.xlsx"}).err,
-            kept + "plotsmith: no chart of \"" + path_ +
-                "\" hangs on the table \"Data2\", so nothing was refreshed.\n")
+  EXPECT_EQ(
+      RunCommand({"refresh", path_, "--table", "Data2", "-o", folder_ / "other.xlsx"}).err,
+      kept + "plotsmith: no chart of \"" + path_ + "\" uses the table \"Data2\", so nothing was refreshed.\n")
       << "all definitions are stored, whichever table is refreshed";
   EXPECT_EQ(Refresh(), kept);
   EXPECT_EQ(Refresh(), "");
@@ -266,7 +266,8 @@ TEST_F(RunLookTest, CellsThatMakeAWrongPictureAreSaid) {
           Line("The heading is a formula without a result, so that its column doesn't exist; have a "
                "spreadsheet program calculate and save the workbook.",
                "Data1!C1"));
-  const S start = "The column 'Amount' is no number column, as 'values' wants, since this cell holds ";
+  const S start =
+      "The column 'Amount' isn't a number column, which 'values' needs, because this cell contains ";
   EXPECT_EQ(refresh([&](Rows& rows) { rows[2][2] = S("5 pcs"); }),
             Line(start + "the text '5 pcs', which counts as 0.", "Data1!C3"));
   const S said = start + "the error #N/A, which counts as 0.";
@@ -285,7 +286,7 @@ TEST_F(RunLookTest, WhatSeveralChartsHaveInCommonIsOneLine) {
   EXPECT_EQ(
       Refresh(),
       "plotsmith: Data1!C3 (charts 'Name of VEX_Chart1' and 'Name of VEX_Chart2'): The column 'Amount' is no "
-      "number column, as 'values' wants, since this cell holds the text '5 pcs', which counts as 0.\n");
+      "number column, as 'values' needs, because this cell contains the text '5 pcs', which counts as 0.\n");
 }
 
 TEST_F(RunLookTest, AColumnThatLooksRenamedIsNamed) {
@@ -301,7 +302,7 @@ TEST_F(RunLookTest, AColumnThatLooksRenamedIsNamed) {
       missing +
           Line("The table 'Data1' has no column 'Amount' for 'values'; it has Region, Product, Turnover "
                "and Cost; 'Turnover' is in its place, and if that is its new name, plotsmith "
-               "rename-columns BOOK --table Data1 'Amount=Turnover' carries it into the charts."));
+               "rename-columns BOOK --table Data1 'Amount=Turnover' renames it in the charts."));
   const S drawnAt = "&lt;values&gt;&lt;column name=\"Amount\" worksheet-column-number=\"3\"";
   Edit(kDefinitions, drawnAt, runtime::Replace(drawnAt, "\"3\"", "\"C\""));
   EXPECT_EQ(Refresh(), missing + Line("The table 'Data1' has no column 'Amount' for 'values'; it has Region, "
@@ -379,7 +380,7 @@ TEST_F(RunLookTest, MoreBucketsThanAChartCanNameAreSaid) {
   const S breaks =
       "its drawing breaks off and it is left a column chart without a legend; leave 22 buckets or fewer, "
       "then "
-      "draw it anew with plotsmith modify BOOK CHART --type 'strategic bucket', and switch its legend on in "
+      "draw it again with plotsmith modify BOOK CHART --type 'strategic bucket', and switch its legend on in "
       "a "
       "spreadsheet program; the next refresh draws that.";
   const S misnamed = "the columns have wrong names; leave 22 buckets or fewer.";
@@ -415,7 +416,7 @@ TEST_F(RunLookTest, MoreBucketsThanAChartCanNameAreSaid) {
 
 TEST_F(RunLookTest, ChartsThatCouldBeTakenForOthersStopWhatMakesOrDeletesCharts) {
   const S drop =
-      "plotsmith: nothing was changed, as charts could be taken for each other; mend what is said, or "
+      "plotsmith: nothing was changed, as charts could be taken for each other; correct this, or "
       "use --drop-broken.\n";
   const S second =
       "plotsmith: More: A second chart here has the alternative text 'VEX_Chart1', and only the first one, "

@@ -87,7 +87,7 @@ std::string ChartMarkers::Absence(const std::string& id) {
   ReadAll();
   if (const auto group = grouped_.find(id); group != grouped_.end()) {
     return "The chart with the alternative text " + Quoted(id) + " is in a group of shapes on the sheet " +
-           Quoted(group->second) + ", where it isn't seen, and has to be ungrouped.";
+           Quoted(group->second) + ", where it isn't found; ungroup it.";
   }
   std::vector<std::string> others;
   for (const auto& [text, chart] : charts_) others.push_back(Quoted(text));

@@ -116,7 +116,7 @@ class RowCheck {
     const auto [first, isNew] = rowsById_.emplace(runtime::UCase(definition.id), definition.place);
     if (!isNew) {
       Report(definition, FindingKind::kId,
-             "The id " + Quoted(definition.id) + " is that of " + first->second + " already.",
+             "The id " + Quoted(definition.id) + " is already used by " + first->second + ".",
              Severity::kRefuses);
     } else if (shape) {
       definition.chartPart = shape->ChartPartName();

@@ -231,7 +231,7 @@ class FormatCheck {
         continue;
       }
       if (!known->repeated && Contains(seen, known->name)) {
-        Report("The element " + Quoted(name) + " comes twice, and only the first one counts.");
+        Report("The element " + Quoted(name) + " occurs twice, and only the first one is used.");
       }
       seen.push_back(known->name);
       CheckElement(child, *known);

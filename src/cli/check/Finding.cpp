@@ -66,12 +66,13 @@ std::string Foretold(const Finding& finding) {
       return With(finding.sentence, "the next refresh keeps that of the chart");
     case Severity::kConfuses:
       return With(finding.sentence,
-                  "until that is mended, charts are only made, changed or deleted with --drop-broken");
+                  "until this is corrected, charts are only made, changed or deleted with --drop-broken");
     case Severity::kRemoves:
       return With(finding.sentence,
-                  "the chart was drawn and is gone, and the next refresh removes its definition");
+                  "the chart was drawn and no longer exists, so the next refresh removes its definition");
     case Severity::kRefuses:
-      return With(finding.sentence, "until that is mended, the workbook is only written with --drop-broken");
+      return With(finding.sentence,
+                  "until this is corrected, the workbook is only written with --drop-broken");
   }
   return finding.sentence;
 }
@@ -84,7 +85,8 @@ std::string Reported(const Finding& finding) {
     case Severity::kKeeps:
       return With(finding.sentence, "that of the chart was kept");
     case Severity::kRemoves:
-      return With(finding.sentence, "the chart was drawn and is gone, and its definition was removed");
+      return With(finding.sentence,
+                  "the chart was drawn and no longer exists, so its definition was removed");
     case Severity::kRefuses:
       return With(finding.sentence, "the row was dropped");
   }

@@ -181,7 +181,7 @@ class SourceCheck {
            " is in its place, and if that is its new name, plotsmith rename-columns BOOK"
            " --table " +
            ShellWord(GetAttributeText(table_, "id")) + " " +
-           ShellWord(GetAttributeText(missing, "name") + "=" + renamed) + " carries it into the charts";
+           ShellWord(GetAttributeText(missing, "name") + "=" + renamed) + " renames it in the charts";
   }
 
   /// Returns the heading at the position where the column was at the last refresh. It is "" if there is none,
@@ -240,8 +240,9 @@ class SourceCheck {
     if (cells.LabelRow() == 0) return;
     findings_.push_back({CellText(area.sheet, cells.LabelRow(), number), FindingKind::kColumn,
                          "The column " + Quoted(GetAttributeText(column, "name")) +
-                             " is no number column, as " + Quoted(group.element) +
-                             " wants, since this cell holds " + cells.LabelCell() + ", which counts as 0."});
+                             " isn't a number column, which " + Quoted(group.element) +
+                             " needs, because this cell contains " + cells.LabelCell() +
+                             ", which counts as 0."});
   }
 
   void CheckBucketTable() {
@@ -275,11 +276,11 @@ class SourceCheck {
                               " buckets, and a chart has room for the names of " + std::to_string(kMost);
     const std::string mend = "; leave " + std::to_string(kMost) + " buckets or fewer";
     if (count < kFirstMisnamed || count > kLastMisnamed) {
-      Report(FindingKind::kTable,
-             start + ", so that its drawing breaks off and it is left a column chart without a legend" +
-                 mend +
-                 ", then draw it anew with plotsmith modify BOOK CHART --type 'strategic bucket', and switch "
-                 "its legend on in a spreadsheet program; the next refresh draws that.");
+      Report(
+          FindingKind::kTable,
+          start + ", so that its drawing breaks off and it is left a column chart without a legend" + mend +
+              ", then draw it again with plotsmith modify BOOK CHART --type 'strategic bucket', and switch "
+              "its legend on in a spreadsheet program; the next refresh draws that.");
     } else if (type_ == kBucketType) {
       Report(FindingKind::kTable, start + ", so that the columns have wrong names" + mend + ".");
     }

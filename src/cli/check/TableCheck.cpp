@@ -32,7 +32,7 @@ Finding NoTable(const std::string& name) {
           rows > 0 ? start + "because it refers to " + Counted(static_cast<std::size_t>(rows), "row") +
                          ", and the head of a table alone has three."
                    : start + "because it refers to " + Quoted(defined->RefersTo()) +
-                         ", which is no range of cells."};
+                         ", which isn't a range of cells."};
 }
 
 /// The formulas without a result in the headings and data of a table, by column.

@@ -71,7 +71,8 @@ CLI::App* CellsCommand::Declare(CLI::App& app) {
 int CellsCommand::Run(const GlobalOptions& options, const Streams& streams) {
   Session session(book_, options, streams);
   const auto range = xlsx::ParseSheetRange(range_);
-  if (!range) throw CommandError(exit_code::kUsage, "\"" + range_ + "\" is no range such as 'Sheet1!A1:D9'.");
+  if (!range)
+    throw CommandError(exit_code::kUsage, "\"" + range_ + "\" isn't a range such as 'Sheet1!A1:D9'.");
   const auto sheet = session.Book().FindWorksheet(range->sheet);
   if (!sheet)
     throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no sheet \"" + range->sheet + "\".");

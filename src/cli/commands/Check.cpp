@@ -21,7 +21,7 @@ using Json = nlohmann::ordered_json;
 
 constexpr const char* kNoDefinitions = "There are no definitions of charts.";
 constexpr const char* kNoTables =
-    "There are no tables. To make one, call a sheet Data1, with headings in row 1 and data below them; or "
+    "There are no tables. To make one, name a sheet Data1, with headings in row 1 and data below them; or "
     "give "
     "the data a name that begins with VEX_TableRange, with a title in its first cell and headings in its "
     "third "

@@ -31,7 +31,7 @@ CLI::App* RefreshCommand::Declare(CLI::App& app) {
 
 int RefreshCommand::Run(const GlobalOptions& options, const Streams& streams) {
   if (table_) RequireTableId(*table_);
-  if (jobs_ && *jobs_ < 1) throw CommandError(exit_code::kUsage, "--jobs wants a number from 1 on.");
+  if (jobs_ && *jobs_ < 1) throw CommandError(exit_code::kUsage, "--jobs needs a number of at least 1.");
   const std::vector<BookRun> runs = PlanRuns(books_, output_);
   CheckPictures(runs);
   const auto refresh = [&](const BookRun& run, const Streams& to) { return RefreshBook(run, options, to); };
@@ -54,7 +54,7 @@ void RefreshCommand::CheckPictures(const std::vector<BookRun>& runs) const {
       throw CommandError(exit_code::kUsage, "--format, --dpi and --scale are for the pictures of --render.");
     return;
   }
-  if (pictureFolder_->empty()) throw CommandError(exit_code::kUsage, "--render wants the name of a folder.");
+  if (pictureFolder_->empty()) throw CommandError(exit_code::kUsage, "--render needs the name of a folder.");
   PlanOfPictures();
   std::map<std::string, std::string> books;  // The workbooks by the beginning of their pictures' names.
   for (const BookRun& run : runs) {
@@ -91,7 +91,7 @@ BookResult RefreshCommand::RefreshBook(const BookRun& run, const GlobalOptions& 
   }
   if (session.ChartsStarted() > 0 || session.HasMessages()) return {code, counts};
   streams.err << "plotsmith: "
-              << (table_ ? "no chart of \"" + run.book + "\" hangs on the table \"" + *table_ + "\""
+              << (table_ ? "no chart of \"" + run.book + "\" uses the table \"" + *table_ + "\""
                          : "\"" + run.book + "\" has no charts of Plotsmith")
               << ", so nothing was refreshed.\n";
   return {exit_code::kSaidSomething, counts};

@@ -23,7 +23,8 @@ std::vector<Renaming> Parse(const std::vector<std::string>& texts) {
   for (const std::string& text : texts) {
     const auto sign = text.find('=');
     if (sign == std::string::npos || sign == 0 || sign + 1 == text.size()) {
-      throw CommandError(exit_code::kUsage, "\"" + text + "\" is no renaming: it should be OLD=NEW.");
+      throw CommandError(exit_code::kUsage,
+                         "\"" + text + "\" isn't a renaming; it must have the form OLD=NEW.");
     }
     renamings.emplace_back(text.substr(0, sign), text.substr(sign + 1));
     if (!old.insert(renamings.back().first).second) {

@@ -51,14 +51,15 @@ PictureFormat FormatFor(const PictureOptions& options, const PicturePlan& plan) 
   std::optional<PictureFormat> format;
   if (options.format) {
     format = FormatOfName(*options.format);
-    if (!format) throw Usage("--format wants svg, png or pdf, not " + Quoted(*options.format) + ".");
+    if (!format) throw Usage("--format must be svg, png or pdf, not " + Quoted(*options.format) + ".");
   }
   if (plan.target != PicturePlan::Target::kFile) return format.value_or(PictureFormat::kSvg);
   const auto ofFile = FormatOfFile(plan.path);
   if (!format && !ofFile) {
-    throw Usage("the name \"" + plan.path +
-                "\" doesn't tell a format: use .svg, .png or .pdf, or --format; a folder has to be there, or "
-                "ends with \"/\".");
+    throw Usage(
+        "the name \"" + plan.path +
+        "\" has no known extension: use .svg, .png or .pdf, or --format; a folder has to be there, or "
+        "ends with \"/\".");
   }
   if (format && ofFile && *format != *ofFile)
     throw Usage("\"" + plan.path + "\" and --format " + *options.format + " are two formats.");
@@ -82,7 +83,7 @@ void DeclarePictureOptions(CLI::App& verb, PictureOptions& options, const std::s
 }
 
 PicturePlan PlanPictures(const PictureOptions& options, const std::optional<std::string>& output) {
-  if (output && output->empty()) throw Usage("-o wants the name of a file or a folder.");
+  if (output && output->empty()) throw Usage("-o needs the name of a file or a folder.");
   PicturePlan plan;
   plan.path = output.value_or(".");
   plan.target = IsStandardOutput(output) ? PicturePlan::Target::kStandardOutput
@@ -92,10 +93,10 @@ PicturePlan PlanPictures(const PictureOptions& options, const std::optional<std:
   if (options.dpi && plan.format != PictureFormat::kPng)
     throw Usage("--dpi is for PNG; --scale makes a picture of any format larger.");
   plan.dpi = options.dpi.value_or(plan.dpi);
-  if (!(plan.dpi >= kLeastDpi && plan.dpi <= kMostDpi)) throw Usage("--dpi wants a number from 10 to 2400.");
+  if (!(plan.dpi >= kLeastDpi && plan.dpi <= kMostDpi)) throw Usage("--dpi needs a number from 10 to 2400.");
   plan.scale = options.scale.value_or(plan.scale);
   if (!(plan.scale >= kLeastScale && plan.scale <= kMostScale))
-    throw Usage("--scale wants a number from 0.01 to 100.");
+    throw Usage("--scale needs a number from 0.01 to 100.");
   return plan;
 }
 

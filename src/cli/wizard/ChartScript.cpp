@@ -61,7 +61,7 @@ Step WorkStep(const char* button, const std::string& chart) {
   return [button, chart](const forms::Form& page) {
     if (!page.FindControl(button)->Enabled()) {
       throw ScriptError("the table of the chart " + Quoted(chart) +
-                        " is gone, so the chart can only be deleted");
+                        " no longer exists, so the chart can only be deleted");
     }
     return std::string("press ") + button;
   };

@@ -82,7 +82,7 @@ bool WizardProgram::LookBeforeRun() {
   } catch (const cli::CommandError&) {
     return ShowMessageBox(
                window_.get(), QMessageBox::Warning,
-               TakeSaid() + QStringLiteral("\n\nThe wizard would lose what is said here. Go on without it?"),
+               TakeSaid() + QStringLiteral("\n\nThe wizard would drop these definitions. Continue?"),
                QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Ok;
   }
 }
@@ -102,10 +102,10 @@ QString WizardProgram::Target() const { return TextOf(target_.value_or(options_.
 
 QString WizardProgram::Outcome() const {
   const int built = session_.ChartsStarted() - chartsBefore_;
-  if (built == 0) return QStringLiteral("What you chose was deleted.");
+  if (built == 0) return QStringLiteral("The selected charts were deleted.");
   const QString what =
       built == 1 ? QStringLiteral("The chart is built.") : QStringLiteral("%1 charts are built.").arg(built);
-  return desktop_->Confirmed() ? what + QStringLiteral(" What you chose was deleted.") : what;
+  return desktop_->Confirmed() ? what + QStringLiteral(" The selected charts were deleted.") : what;
 }
 
 WizardProgram::Next WizardProgram::Finish() {
@@ -163,7 +163,7 @@ std::optional<WizardProgram::Next> WizardProgram::SaveAs() {
 bool WizardProgram::MayReplace(const QString& file) {
   return !QFileInfo::exists(file) ||
          ShowMessageBox(window_.get(), QMessageBox::Question,
-                        QStringLiteral("\"%1\" is there already. Replace it?").arg(file),
+                        QStringLiteral("\"%1\" already exists. Replace it?").arg(file),
                         QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 

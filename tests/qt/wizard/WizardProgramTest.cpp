@@ -144,7 +144,7 @@ TEST_F(WizardProgramTest, AnotherRunGoesOnFromTheFirst) {
       "press cmdDelete; box OK; page frmPSSelectTable; close; bar Discard";
   const auto run = Run(S(kNewChart) + removed);
   EXPECT_EQ(run.failure, "");
-  EXPECT_EQ(run.told.back(), "What you chose was deleted. \"" + book_ + "\" isn't saved yet.");
+  EXPECT_EQ(run.told.back(), "The selected charts were deleted. \"" + book_ + "\" isn't saved yet.");
   const S once = BytesOf(book_);
 
   // The chart was saved, and its deletion wasn't.
