@@ -109,6 +109,84 @@ TEST_F(LayoutTest, ALegendThatIsTooNarrowForItsTextsShowsAllEntriesThatHaveHeigh
   }
 }
 
+TEST_F(LayoutTest, ALegendShowsAsManyEntriesAsFitSaysItAndNeverCoversThePlot) {
+  const auto many = [](int count, const S& name) {
+    S series;
+    for (int i = 0; i < count; ++i) {
+      S one = SeriesXml(i, {1, 2});
+      series += runtime::Replace(one, "Series " + std::to_string(i), name + std::to_string(i));
+    }
+    return series;
+  };
+  struct {
+    const char *what, *position;
+    int series;
+    S name;
+    double width, height;
+    std::size_t entries;
+    Texts notes;
+  } cases[] = {
+      {"all fit", "r", 12, "Name ", 384, 270, 12, {}},
+      {"a column of long names",
+       "r",
+       40,
+       "A rather long name of a series ",
+       384,
+       270,
+       18,
+       {"The legend has room for 18 of its entries; the others are left out."}},
+      {"columns of short names",
+       "l",
+       90,
+       "N",
+       384,
+       270,
+       72,
+       {"The legend has room for 72 of its entries; the others are left out."}},
+      {"rows",
+       "b",
+       200,
+       "Name ",
+       384,
+       270,
+       48,
+       {"The legend has room for 48 of its entries; the others are left out."}},
+      {"rows of names in several lines",
+       "t",
+       9,
+       S(160, 'x') + " ",
+       384,
+       270,
+       3,
+       {"The legend has room for 3 of its entries; the others are left out."}},
+      {"no room at all",
+       "r",
+       2,
+       "Name ",
+       40,
+       40,
+       0,
+       {"The chart has no room for its legend, which is left out."}},
+  };
+  for (const auto& test : cases) {
+    const Drawing drawing = Draw(
+        PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>", many(test.series, test.name)) + AxesXml(),
+                LegendXml(test.position)),
+        "", test.width, test.height);
+    EXPECT_EQ(ItemsOf(drawing, Role::kLegendKey).size(), test.entries) << test.what;
+    EXPECT_EQ(notes_, test.notes) << test.what;
+    const Rect legend = BoxOf(drawing, Role::kLegend), plot = BoxOf(drawing, Role::kPlotArea);
+    if (test.entries > 0) {
+      EXPECT_FALSE(Overlap(legend, plot)) << test.what;
+      EXPECT_FALSE(Overlap(legend, BoxOf(drawing, Role::kTickLabel))) << test.what;
+      EXPECT_TRUE(Union(legend, BoxOf(drawing, Role::kLegendEntry)) == legend) << test.what;
+      EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
+    }
+    const auto keys = BoxesOf(drawing, Role::kLegendKey);
+    for (std::size_t i = 1; i < keys.size(); ++i) EXPECT_FALSE(Overlap(keys[i - 1], keys[i])) << test.what;
+  }
+}
+
 TEST_F(LayoutTest, APlotAreaByHandIsWhereItsLayoutSays) {
   const auto layout = [](const S& target) {
     return "<c:layout><c:manualLayout><c:layoutTarget val=\"" + target +

@@ -231,6 +231,9 @@ struct LegendModel {
   ShapeStyle style;
   TextStyle text;
   std::vector<LegendEntry> entries;
+
+  /// Whether it lies above or below the plot area, with its entries side by side.
+  bool IsFlat() const { return position == "t" || position == "b"; }
 };
 
 struct ChartModel {
