@@ -178,7 +178,8 @@ TEST_F(LayoutTest, ALegendShowsAsManyEntriesAsFitSaysItAndNeverCoversThePlot) {
     const Rect legend = BoxOf(drawing, Role::kLegend), plot = BoxOf(drawing, Role::kPlotArea);
     if (test.entries > 0) {
       EXPECT_FALSE(Overlap(legend, plot)) << test.what;
-      EXPECT_FALSE(Overlap(legend, BoxOf(drawing, Role::kTickLabel))) << test.what;
+      EXPECT_FALSE(Overlap(BoxOf(drawing, Role::kLegendEntry), BoxOf(drawing, Role::kTickLabel)))
+          << test.what;
       EXPECT_TRUE(Union(legend, BoxOf(drawing, Role::kLegendEntry)) == legend) << test.what;
       EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
     }

@@ -108,18 +108,16 @@ Point CenterOf(const Plot& plot, const DrawnPoint& point, const LabelModel& labe
   }
 }
 
-/// The line from a slice to its label, once that is away from it.
-void DrawLeader(Plot& plot, const DrawnPoint& point, const Rect& label) {
+/// The line from a slice to a label that was moved away from it.
+void DrawLeader(Plot& plot, const PlacedLabel& placed) {
+  const DrawnPoint& point = *placed.point;
   const LabelsModel& labels = point.series->labels;
-  if (!labels.leaderLines || point.sweep <= 0) return;
-  const Point from = OnEllipse(point.circle, point.angle + point.sweep / 2), center = label.Center();
-  if (std::hypot(center.x - point.circle.Center().x, center.y - point.circle.Center().y) <=
-      point.circle.width / 2) {
-    return;  // a label inside of the circle
-  }
-  const Point to{std::clamp(from.x, label.left, label.Right()),
-                 std::clamp(from.y, label.top, label.Bottom())};
-  constexpr double kShortest = 5;  // points
+  const Rect label = placed.Box();
+  if (!labels.leaderLines || !placed.moved || point.sweep <= 0 || !IsBesideSlice(point, label)) return;
+  const Point from = OnEllipse(point.circle, point.angle + point.sweep / 2);
+  Point to{std::clamp(from.x, label.left, label.Right()), std::clamp(from.y, label.top, label.Bottom())};
+  if (to.x != from.x) to.y = label.Center().y;  // to the middle of a side, not to a corner
+  constexpr double kShortest = 5;               // points
   if (std::hypot(to.x - from.x, to.y - from.y) < kShortest) return;
   plot.canvas.AddLine({Role::kLeaderLine, point.series->number, static_cast<int>(point.index + 1)}, from, to,
                       labels.leaderStroke);
@@ -141,6 +139,7 @@ PlacedLabel PlaceLabel(const Plot& plot, const DrawnPoint& point, const LabelMod
   Point& center = placed.center;
   center = CenterOf(plot, point, label, {placed.halfWidth, placed.halfHeight});
   if (label.layout) {
+    placed.moved = true;
     center.x += label.layout->x.value_or(0) * bounds.width;
     center.y += label.layout->y.value_or(0) * bounds.height;
   }
@@ -154,7 +153,7 @@ void DrawLabel(Plot& plot, const PlacedLabel& placed) {
   const LabelModel& label = *placed.label;
   const Tag tag{Role::kDataLabel, point.series->number, static_cast<int>(point.index + 1)};
   const Rect box = placed.Box();
-  DrawLeader(plot, point, box);
+  DrawLeader(plot, placed);
   plot.canvas.Add(tag, Path().AddRect(box), label.style.fill, label.style.stroke);
   if (label.showsKey) {
     DrawKey(plot.canvas, plot.chart, {Role::kLegendKey, tag.series, tag.point},

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
+#include <utility>
 
 namespace plotsmith::render {
 namespace {
@@ -64,21 +66,26 @@ void SpreadDown(const std::vector<PlacedLabel*>& labels, double least, double mo
   }
 }
 
-/// Moves a label flat outwards until it is beside its slice and on its own side of the circle.
-void MoveBeside(PlacedLabel& label, const Rect& room) {
+/// Moves a label flat outwards until it is beside its slice and on its own side of the circle, with room for
+/// a leader line.
+void MoveBeside(PlacedLabel& label, const Rect& room, double lineRoom) {
+  label.moved = true;
   const double middle = label.point->circle.Center().x, way = IsRight(label) ? 1 : -1;
   const auto isClear = [&](double distance) {
     label.center.x = middle + way * distance;
     return IsBesideSlice(*label.point, label.Box());
   };
-  double near = label.halfWidth, far = label.halfWidth + label.point->circle.width / 2;
+  // the label keeps out of the way of the line that goes up or down to it
+  const double edge = OnEllipse(label.point->circle, MiddleOf(*label.point)).x;
+  double near = label.halfWidth + kGap + way * (edge - middle);
+  double far = label.halfWidth + label.point->circle.width / 2;
   if (!isClear(near)) {
     constexpr int kSteps = 20;
     for (int step = 0; step < kSteps; ++step) {
       const double between = (near + far) / 2;
       (isClear(between) ? far : near) = between;
     }
-    near = far + kGap;
+    near = far + kGap + lineRoom;
   }
   const double least = room.left + label.halfWidth, most = room.Right() - label.halfWidth;
   label.center.x = std::max(std::min(middle + way * near, most), least);
@@ -90,17 +97,27 @@ bool OverlapsAny(const PlacedLabel& label, const std::vector<PlacedLabel*>& othe
   });
 }
 
-/// Takes out the labels of the smallest slices until the height is enough for the rest.
+/// Takes out the labels of the smallest slices until the height is enough for the rest. Of slices that are
+/// alike, those that stay are spread over all of them, as multiples of the golden ratio are.
 void KeepThoseWithRoom(std::vector<PlacedLabel*>& side, double height) {
+  struct Candidate {
+    double share, turn;
+    PlacedLabel* label;
+  };
+  std::vector<Candidate> candidates;
   double all = 0;
-  for (const PlacedLabel* label : side) all += 2 * label->halfHeight;
-  std::vector<PlacedLabel*> bySize = side;
-  std::stable_sort(bySize.begin(), bySize.end(), [](const PlacedLabel* a, const PlacedLabel* b) {
-    return a->point->share < b->point->share;
+  for (PlacedLabel* label : side) {
+    const double multiple = static_cast<double>(candidates.size()) * std::numbers::phi;
+    candidates.push_back({label->point->share, multiple - std::floor(multiple), label});
+    all += 2 * label->halfHeight;
+  }
+  std::sort(candidates.begin(), candidates.end(), [](const Candidate& a, const Candidate& b) {
+    return std::pair(a.share, a.turn) < std::pair(b.share, b.turn);
   });
-  for (auto least = bySize.begin(); all > height + kDust && least != bySize.end(); ++least) {
-    all -= 2 * (*least)->halfHeight;
-    (*least)->leftOut = true;
+  for (const Candidate& least : candidates) {
+    if (all <= height + kDust) break;
+    all -= 2 * least.label->halfHeight;
+    least.label->leftOut = true;
   }
   std::erase_if(side, [](const PlacedLabel* label) { return label->leftOut; });
 }
@@ -115,11 +132,13 @@ void SpreadSide(std::vector<PlacedLabel*>& side, const Rect& room) {
     const double first = MiddleOf(*a->point), second = MiddleOf(*b->point);
     return right ? first < second : first > second;
   });
-  std::vector<Point> before;
-  for (const PlacedLabel* label : side) before.push_back(label->center);
+  std::vector<double> before;
+  for (const PlacedLabel* label : side) before.push_back(label->center.y);
   SpreadDown(side, room.top, room.Bottom());
+  constexpr double kLineShare = 0.3, kMostLineRoom = 12;  // of the way that a label was moved; points
   for (std::size_t i = 0; i < side.size(); ++i) {
-    if (std::abs(side[i]->center.y - before[i].y) > kSlack) MoveBeside(*side[i], room);
+    const double way = std::abs(side[i]->center.y - before[i]);
+    if (way > kSlack) MoveBeside(*side[i], room, std::min(kLineShare * way, kMostLineRoom));
   }
 }
 
@@ -153,8 +172,8 @@ std::size_t SpreadPieLabels(const Plot& plot, std::vector<PlacedLabel>& labels) 
   for (PlacedLabel* label : right) {
     for (PlacedLabel* other : left) {
       if (!Overlap(label->Box(), other->Box(), kSlack)) continue;
-      MoveBeside(*label, room);
-      MoveBeside(*other, room);
+      MoveBeside(*label, room, 0);
+      MoveBeside(*other, room, 0);
     }
   }
   for (PlacedLabel* label : right) label->leftOut = OverlapsAny(*label, left);

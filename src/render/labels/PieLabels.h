@@ -16,6 +16,7 @@ struct PlacedLabel {
   double keyRoom = 0;  ///< that a legend key takes in front of the text
   double halfWidth = 0, halfHeight = 0;
   Point center;
+  bool moved = false;  ///< away from where it belongs by itself
   bool leftOut = false;
 
   Rect Box() const { return {center.x - halfWidth, center.y - halfHeight, 2 * halfWidth, 2 * halfHeight}; }
