@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "render/Drawing.h"
+#include "xlsx/chart/DataExtent.h"
 #include "xlsx/chart/ScaleRules.h"
 #include "xlsx/numberformat/DateSystem.h"
 #include "xlsx/numberformat/NumberFormat.h"
@@ -195,9 +196,9 @@ struct AxisModel {
   bool hidden = false;
   bool reversed = false;
   std::optional<double> logBase;
-  xlsx::AxisScale scale;                  ///< of an axis of values
-  xlsx::AxisSettings settings;            ///< what of the scale is set by hand
-  std::optional<double> least, greatest;  ///< of the data along an axis of values
+  xlsx::AxisScale scale;        ///< of an axis of values
+  xlsx::AxisSettings settings;  ///< what of the scale is set by hand
+  xlsx::DataExtent extent;      ///< of the data along an axis of values
   std::optional<double> minorUnit;
   FormatPointer format;
   std::string tickLabels = "nextTo";                    ///< ST_TickLblPos
