@@ -50,7 +50,7 @@ void DrawBubbles(Plot& plot, const GroupModel& group) {
       if (series.bubble3D) style.fill = AsBall(style.fill);
       plot.canvas.Add({Role::kBubble, series.number, static_cast<int>(i + 1)}, Path().AddEllipse(box),
                       style.fill, style.stroke);
-      if (Overlap(box, plot.area)) plot.points.push_back({&group, &series, i, box, size < 0});
+      if (Overlap(box, plot.area)) plot.Keep({&group, &series, i, box, size < 0});
     }
   }
   plot.canvas.PopClip();

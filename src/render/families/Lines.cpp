@@ -75,7 +75,7 @@ void DrawMarkersOf(Plot& plot, const GroupModel& group, const SeriesModel& serie
     DrawMarker(plot.canvas, {Role::kMarker, series.number, static_cast<int>(point.index + 1)}, marker,
                point.place);
     const double size = marker.symbol == "none" ? 0 : marker.size;
-    plot.points.push_back(
+    plot.Keep(
         {&group, &series, point.index, {point.place.x - size / 2, point.place.y - size / 2, size, size}});
   }
 }

@@ -25,6 +25,10 @@ std::vector<double> Wholes(const GroupModel& group) {
 
 }  // namespace
 
+void Plot::Keep(const DrawnPoint& point) {
+  if (point.series->labels.Of(point.index) != nullptr) points.push_back(point);
+}
+
 const AxisModel* Plot::CategoryAxisOf(const GroupModel& group) const { return AxisAt(chart, group.category); }
 
 const AxisModel* Plot::ValueAxisOf(const GroupModel& group) const { return AxisAt(chart, group.value); }

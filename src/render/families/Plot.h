@@ -28,8 +28,10 @@ struct Plot {
   const ChartModel& chart;
   Rect area;
   Canvas& canvas;
-  std::vector<DrawnPoint> points = {};  ///< filled by the families
+  std::vector<DrawnPoint> points = {};  ///< those with labels, as the families keep them
 
+  /// Keeps a point that was drawn, if it has a label.
+  void Keep(const DrawnPoint& point);
   const AxisModel* CategoryAxisOf(const GroupModel& group) const;
   const AxisModel* ValueAxisOf(const GroupModel& group) const;
   /// The place along the axis of values where the category axis crosses it. The group has both axes.

@@ -121,6 +121,7 @@ struct SeriesModel {
   const ShapeStyle& StyleOf(std::size_t point) const;
   /// The same with the filling that a point has by its value or size, where those below zero are inverted.
   ShapeStyle StyleOf(std::size_t point, double value) const;
+  bool IsInverted(std::size_t point, double value) const;
   const MarkerModel& MarkerOf(std::size_t point) const;
 };
 
