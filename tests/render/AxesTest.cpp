@@ -64,6 +64,61 @@ TEST_F(AxesTest, AxesOfValuesShowTheirMajorUnits) {
   }
 }
 
+TEST_F(AxesTest, StacksAreScaledByTheirEnds) {
+  struct {
+    const char *what, *element, *first;
+    std::vector<double> one, two;
+    Texts labels;
+  } cases[] = {
+      {"shares of bars on both sides",
+       "barChart",
+       "<c:barDir val=\"col\"/><c:grouping val=\"percentStacked\"/>",
+       {3, 1},
+       {-1, 1},
+       {"-100%", "-50%", "0%", "50%", "100%"}},
+      {"shares of areas on both sides",
+       "areaChart",
+       "<c:grouping val=\"percentStacked\"/>",
+       {3, 1},
+       {-1, 1},
+       {"-100%", "-50%", "0%", "50%", "100%"}},
+      {"shares below zero",
+       "barChart",
+       "<c:barDir val=\"col\"/><c:grouping val=\"percentStacked\"/>",
+       {-3, -1},
+       {-1, -1},
+       {"-100%", "-50%", "0%"}},
+      {"bars below zero go down",
+       "barChart",
+       "<c:barDir val=\"col\"/><c:grouping val=\"stacked\"/>",
+       {30, 10},
+       {-10, 0},
+       {"-20", "0", "20", "40"}},
+      {"areas are sums", "areaChart", "<c:grouping val=\"stacked\"/>", {30, 10}, {-10, 0}, {"0", "20", "40"}},
+      {"lines are sums", "lineChart", "<c:grouping val=\"stacked\"/>", {30, 10}, {-10, 0}, {"0", "20", "40"}},
+  };
+  for (const auto& test : cases) {
+    const S unit = S(test.first).find("percent") == S::npos ? "20" : "0.5";
+    const Drawing drawing =
+        Draw(PlotXml(GroupXml(test.element, test.first, SeriesXml(0, test.one) + SeriesXml(1, test.two)) +
+                     AxesXml("", "<c:majorUnit val=\"" + unit + "\"/>")));
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), test.labels) << test.what;
+  }
+}
+
+TEST_F(AxesTest, AxesAtTheEndOfAllNumbersAreDrawn) {
+  const Drawing drawing = DrawWith({1e308, -1e308, 1.7e308, 1e-308}, "<c:majorGridlines/>");
+  EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), (Texts{"-8E+307", "-4E+307", "0", "4E+307", "8E+307"}));
+  const Rect plot = BoxOf(drawing, Role::kPlotArea);
+  const auto bars = BoxesOf(drawing, Role::kBar);
+  ASSERT_EQ(bars.size(), 4u);
+  EXPECT_LT(bars[0].top, plot.top);
+  EXPECT_GT(bars[1].Bottom(), plot.Bottom());
+  EXPECT_LT(bars[2].top, plot.top);
+  EXPECT_NEAR(bars[3].height, 0, 1e-9);
+  EXPECT_EQ(DrawingComplaints(drawing), "");
+}
+
 TEST_F(AxesTest, LabelsAndGridlinesStandWhereTheirValuesAre) {
   for (const bool reversed : {false, true}) {
     for (const bool horizontal : {false, true}) {

@@ -31,7 +31,11 @@ std::vector<double> MajorPlaces(const AxisModel& axis, const AxisMap& map, xlsx:
   }
   const auto count = static_cast<long long>(axis.categories.size());
   const long long marks = axis.crossesBetween ? count + 1 : count;
-  const long long step = std::max(axis.tickSkip, marks / static_cast<long long>(kMostMarks) + 1);
+  // marks nearer to each other than this would be a band
+  constexpr double kNearest = 1.5;  // points
+  const double every = static_cast<double>(axis.tickSkip);
+  const double multiple = std::ceil(kNearest / std::max(map.CategoryWidth() * every, 1e-9));
+  const auto step = static_cast<long long>(std::min(every * std::max(multiple, 1.0), 1e9));
   for (long long i = 0; i < marks; i += step) {
     places.push_back(map.OfSlot(static_cast<double>(i) - (axis.crossesBetween ? 0.5 : 0)));
   }

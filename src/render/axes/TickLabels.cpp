@@ -54,6 +54,12 @@ double SkipFor(double needed, double slot) {
   return std::max(std::ceil(needed / std::max(slot, 1e-6) - 1e-9), 1.0);
 }
 
+/// As many times the skip that a file gives as keeps labels off each other.
+double MultipleFor(double given, double needed, double slot) {
+  given = std::max(given, 1.0);
+  return given * SkipFor(needed, slot * given);
+}
+
 Setting SettingForFlat(const AxisModel& axis, const Sizes& sizes, double slot, double depth) {
   const double gap = kGapEms * axis.text.font.size;
   const double given = static_cast<double>(axis.labelSkip);
@@ -64,7 +70,7 @@ Setting SettingForFlat(const AxisModel& axis, const Sizes& sizes, double slot, d
     const bool flat = std::abs(std::sin(rotation * kRadian)) < 0.05;
     const bool wraps = flat && !axis.IsOfValues() && sizes.widestWord + gap <= room;
     if (wraps) return {rotation, room - gap, std::max(given, 1.0)};
-    return {rotation, kUnlimited, skips ? SkipFor(NeededAlong(sizes, rotation, gap), slot) : given};
+    return {rotation, kUnlimited, MultipleFor(given, NeededAlong(sizes, rotation, gap), slot)};
   }
   if (sizes.widest + gap <= room) return {0, kUnlimited, std::max(given, 1.0)};
   if (!axis.IsOfValues() && sizes.widestWord + gap <= room) {
@@ -76,7 +82,7 @@ Setting SettingForFlat(const AxisModel& axis, const Sizes& sizes, double slot, d
   for (const double rotation : {kSlanted, kUpwards}) {
     if (NeededAlong(sizes, rotation, gap) <= room) return {rotation, kUnlimited, std::max(given, 1.0)};
   }
-  return {kUpwards, kUnlimited, skips ? SkipFor(sizes.lineHeight * kLineSpacing, slot) : given};
+  return {kUpwards, kUnlimited, MultipleFor(given, sizes.lineHeight * kLineSpacing, slot)};
 }
 
 /// The height of the highest label whose lines break at a width.
@@ -96,11 +102,9 @@ Setting SettingForUpright(const AxisModel& axis, const std::vector<std::string>&
   Setting setting{rotation, kUnlimited, std::max(static_cast<double>(axis.labelSkip), 1.0)};
   const double turned = std::abs(std::sin(rotation * kRadian));
   if (turned < 0.05 && !axis.IsOfValues()) setting.wrap = std::max(depth, sizes.widestWord);
-  if (axis.labelSkip == 0) {
-    const double needed = turned < 0.05 ? TallestWrapped(texts, axis.text, setting.wrap, measure)
-                                        : NeededAlong(sizes, 90 - std::abs(rotation), 0);
-    setting.skip = SkipFor(needed, slot);
-  }
+  const double needed = turned < 0.05 ? TallestWrapped(texts, axis.text, setting.wrap, measure)
+                                      : NeededAlong(sizes, 90 - std::abs(rotation), 0);
+  setting.skip = MultipleFor(setting.skip, needed, slot);
   return setting;
 }
 

@@ -41,7 +41,7 @@ void DrawBubbles(Plot& plot, const GroupModel& group) {
       const double size = SizeOf(series, i);
       const bool present =
           i < series.x.size() && std::isfinite(series.x[i]) && std::isfinite(series.values[i]);
-      if (!present || !IsShown(group, size)) continue;
+      if (!present || !IsShown(group, size) || !plot.TakeSymbol()) continue;
       const double share = std::abs(size) / most;
       const double diameter = largest * (group.sizeIsWidth ? share : std::sqrt(share));
       const Point center{across.OfX(series.x[i]), values.OfValue(series.values[i])};

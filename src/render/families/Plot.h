@@ -29,7 +29,10 @@ struct Plot {
   Rect area;
   Canvas& canvas;
   std::vector<DrawnPoint> points = {};  ///< those with labels, as the families keep them
+  std::size_t symbolsLeft = 100'000;    ///< markers and bubbles that may be drawn
 
+  /// Whether one more marker or bubble may be drawn; says it if not.
+  bool TakeSymbol();
   /// Keeps a point that was drawn, if it has a label.
   void Keep(const DrawnPoint& point);
   const AxisModel* CategoryAxisOf(const GroupModel& group) const;
