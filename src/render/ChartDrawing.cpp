@@ -99,12 +99,12 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
     return bool(xlsx::xml::Child(node, local));
   };
   for (const GroupModel& group : chart.groups) {
+    if (group.is3D && !group.outerLevels.empty()) {
+      canvas.Note("Of categories in several levels, only the innermost are drawn in 3-D.");
+    }
     if (has(group.node, "upDownBars")) canvas.Note("Up and down bars aren't drawn.");
     if (has(group.node.parent(), "dTable")) canvas.Note("The data table below the chart isn't drawn.");
     for (const SeriesModel& series : group.series) {
-      if (xlsx::xml::Child(series.node, "cat", "multiLvlStrRef")) {
-        canvas.Note("Of categories in several levels, only the innermost are drawn.");
-      }
       if (has(series.node, "trendline")) canvas.Note("Trendlines aren't drawn.");
       if (has(series.node, "errBars")) canvas.Note("Error bars aren't drawn.");
     }

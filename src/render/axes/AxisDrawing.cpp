@@ -6,6 +6,7 @@
 
 #include "render/axes/AxisMap.h"
 #include "render/axes/AxisPlace.h"
+#include "render/axes/CategoryLevels.h"
 #include "render/axes/DateAxis.h"
 #include "xlsx/chart/AutomaticLayout.h"
 
@@ -144,6 +145,7 @@ void DrawTickLabels(Canvas& canvas, const ChartModel& chart, const AxisModel& ax
     DrawBlock(canvas, {Role::kTickLabel, axis.number, label.number}, label.block,
               CenterOf(axis, labels, label.block, along, place), align);
   }
+  DrawOuterLevels(canvas, axis, labels, map, place);
 }
 
 }  // namespace plotsmith::render

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "render/axes/CategoryLevels.h"
 #include "render/axes/DateAxis.h"
 #include "render/model/ChartReader.h"
 
@@ -108,11 +109,16 @@ Setting SettingForUpright(const AxisModel& axis, const std::vector<std::string>&
   return setting;
 }
 
-/// A label that is too long for the room across the axis ends in dots.
+}  // namespace
+
 void Shorten(TextBlock& block, double most, const TextMeasure& measure) {
   if (block.width <= most || block.lines.size() != 1 || block.lines[0].runs.size() != 1) return;
   TextRun run = block.lines[0].runs[0];
   constexpr const char* kDots = "...";
+  if (measure.Measure(kDots, run.font).width > most) {
+    block = {};
+    return;
+  }
   std::size_t low = 0, high = run.text.size();
   while (low < high) {
     const std::size_t middle = (low + high + 1) / 2;
@@ -126,8 +132,6 @@ void Shorten(TextBlock& block, double most, const TextMeasure& measure) {
   const TextStyle style{run.font, run.color, block.rotation, false};
   block = LayOut(run.text.substr(0, low) + kDots, style, measure);
 }
-
-}  // namespace
 
 TickLabels LayOutTickLabels(const AxisModel& axis, double length, double depth, xlsx::DateSystem dates,
                             const TextMeasure& measure) {
@@ -176,6 +180,7 @@ TickLabels LayOutTickLabels(const AxisModel& axis, double length, double depth, 
     result.halfWidth = std::max(result.halfWidth, along / 2);
     result.labels.push_back(std::move(label));
   }
+  AddOuterLevels(axis, length, measure, result);
   return result;
 }
 

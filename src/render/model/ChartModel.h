@@ -125,6 +125,13 @@ struct SeriesModel {
   const MarkerModel& MarkerOf(std::size_t point) const;
 };
 
+/// What neighbouring categories have in common, on an outer level.
+struct CategoryGroup {
+  std::size_t first = 0, end = 0;  ///< of the categories, from 0 to before the end
+  std::string text;
+};
+using CategoryLevel = std::vector<CategoryGroup>;
+
 enum class Family : std::uint8_t {
   kArea,
   kBar,
@@ -156,7 +163,8 @@ struct GroupModel {
   bool sizeIsWidth = false;  ///< else the area of a bubble is its size
   std::optional<Stroke> dropLines, highLowLines;
   std::vector<SeriesModel> series;
-  std::vector<std::string> categories;  ///< texts of the tick labels; as many as there are points
+  std::vector<std::string> categories;     ///< texts of the tick labels; as many as there are points
+  std::vector<CategoryLevel> outerLevels;  ///< from the one next to the categories outwards
   /// Indices into ChartModel::axes, -1 where the group has none. `category` is the axis of X values of a
   /// scatter or bubble chart.
   int category = -1, value = -1, depth = -1;
@@ -215,7 +223,8 @@ struct AxisModel {
   long long labelSkip = 0, tickSkip = 1;  ///< 0 where Excel decides
   DisplayUnits units;
   std::vector<std::string> categories;  ///< of its first group
-  std::optional<DateSlots> dates;       ///< of an axis of dates whose categories are dates
+  std::vector<CategoryLevel> outerLevels;
+  std::optional<DateSlots> dates;  ///< of an axis of dates whose categories are dates
 
   bool IsUpright() const { return side == Side::kLeft || side == Side::kRight; }
   bool IsOfValues() const { return kind == AxisKind::kValue; }

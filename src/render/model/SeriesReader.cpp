@@ -254,7 +254,9 @@ GroupModel ReadGroup(ReadingContext& context, pugi::xml_node node,
   for (const SeriesModel& series : group.series) {
     if (group.HasXValues()) break;
     group.categories = ReadCategories(context, xml::Child(series.node, "cat"));
-    if (!group.categories.empty()) break;
+    if (group.categories.empty()) continue;
+    group.outerLevels = ReadOuterLevels(xml::Child(series.node, "cat"), group.categories.size());
+    break;
   }
   const std::size_t named = group.categories.size();
   for (std::size_t i = named; i < group.PointCount(); ++i) {
