@@ -5,14 +5,15 @@
 
 #include "render/Canvas.h"
 #include "render/Description.h"
+#include "render/Images.h"
 #include "render/axes/AxisDrawing.h"
 #include "render/families/Plot.h"
 #include "render/labels/DataLabels.h"
 #include "render/layout/ChartLayout.h"
 #include "render/model/ChartReader.h"
+#include "render/model/StyleReader.h"
 #include "render/shapes/UserShapes.h"
 #include "render/threed/Plot3D.h"
-#include "xlsx/chart/AutomaticColors.h"
 #include "xlsx/chart/ChartPart.h"
 #include "xlsx/package/Xml.h"
 
@@ -82,14 +83,12 @@ void HideAxesWithoutGroups(ChartModel& chart) {
 
 /// What of the looks of a chart is known but not drawn.
 void NoteMissingLooks(Canvas& canvas, xlsx::ChartPart& part) {
-  constexpr long long kFirstDarkStyle = 33;
-  if (const long long style = xlsx::ChartStyleOf(part); style >= kFirstDarkStyle) {
-    canvas.Note("The chart has style " + std::to_string(style) +
-                ", whose dark backgrounds aren't drawn; it is in the colours of a light one.");
-  }
-  const auto isPicture = [](pugi::xml_node node) { return xlsx::xml::Is(node, "blipFill"); };
-  if (part.Space().find_node(isPicture)) {
-    canvas.Note("Pictures as fillings aren't drawn; what has one is in its automatic colour.");
+  const auto isMissing = [&](pugi::xml_node node) {
+    return xlsx::xml::Is(node, "blipFill") && !IsDrawableImage(Palette(part).Picture(node));
+  };
+  if (part.Space().find_node(isMissing)) {
+    canvas.Note(
+        "A picture as a filling isn't drawn, as it is no PNG; what has it is in its automatic colour.");
   }
 }
 

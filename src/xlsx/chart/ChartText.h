@@ -13,7 +13,7 @@ namespace plotsmith::xlsx {
 class ChartPart;
 
 /// The text of a title, lines separated by line feeds. Empty for one that leaves its text to Excel.
-std::string TitleText(pugi::xml_node title);
+std::string TitleText(ChartPart& part, pugi::xml_node title);
 /// The title that the chart shows; nothing if it shows none. A chart of one series is titled by its name
 /// without a title of its own, as long as nobody took that away.
 std::optional<std::string> ShownTitle(ChartPart& part);
