@@ -61,19 +61,21 @@ void DrawGroup(Plot& plot, const GroupModel& group) {
           "The second plot of a pie of pie or bar of pie isn't drawn; all slices are in the first.");
       return DrawPie(plot, group);
     case Family::kRadar:
-      return plot.canvas.Note("Radar charts aren't drawn.");
+      return DrawRadar(plot, group);
     case Family::kSurface:
       return plot.canvas.Note("Surface charts aren't drawn.");
   }
 }
 
-/// Hides the axes of a chart of which no group is drawn. A radar or surface chart would look like a column
-/// chart that lost its columns.
+/// Hides the axes of a radar chart, which draws them by itself, and those of a surface chart, which would
+/// look like a column chart that lost its columns.
 void HideAxesWithoutGroups(ChartModel& chart) {
-  const bool missing = std::all_of(chart.groups.begin(), chart.groups.end(), [](const GroupModel& group) {
-    return group.family == Family::kRadar || group.family == Family::kSurface;
+  const auto isRadar = [](const GroupModel& group) { return group.family == Family::kRadar; };
+  const bool hides = std::all_of(chart.groups.begin(), chart.groups.end(), [&](const GroupModel& group) {
+    return isRadar(group) || group.family == Family::kSurface;
   });
-  if (!missing) return;
+  if (std::any_of(chart.groups.begin(), chart.groups.end(), isRadar)) chart.spokes = chart.axes;
+  if (!hides) return;
   for (AxisModel& axis : chart.axes) {
     axis.hidden = true;
     axis.majorGridlines.reset();

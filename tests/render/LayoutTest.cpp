@@ -1,5 +1,7 @@
+#include "render/cairo/CairoPainter.h"
 #include "runtime/Strings.h"
 #include "tests/render/DrawingTest.h"
+#include "xlsx/chart/ChartPart.h"
 
 namespace plotsmith {
 namespace {
@@ -266,36 +268,85 @@ TEST_F(LayoutTest, AWordThatIsWiderThanItsLineBreaksInside) {
   }
 }
 
-TEST_F(LayoutTest, LooksThatArentDrawnAreSaid) {
-  const S picture = "<c:spPr><a:blipFill><a:blip/><a:stretch><a:fillRect/></a:stretch></a:blipFill></c:spPr>";
-  const S dark =
-      "The chart has style 42, whose dark backgrounds aren't drawn; it is in the colours of a light one.";
-  const S filling = "Pictures as fillings aren't drawn; what has one is in its automatic colour.";
+TEST_F(LayoutTest, DarkStylesHaveTheirFillingsAndTexts) {
+  const auto newer = [](const S& number) {
+    return "<mc:AlternateContent xmlns:mc=\"http://schemas.openxmlformats.org/markup-compatibility/2006\">"
+           "<mc:Choice Requires=\"c14\" "
+           "xmlns:c14=\"http://schemas.microsoft.com/office/drawing/2007/8/2/chart\">"
+           "<c14:style val=\"" +
+           number + "\"/></mc:Choice></mc:AlternateContent>";
+  };
   struct {
-    const char* what;
-    S front, series, behind;
-    Texts notes;
+    S style, chartArea, plotArea, text, bar;
   } cases[] = {
-      {"a light style", "<c:style val=\"26\"/>", "", "", {}},
-      {"a dark style", "<c:style val=\"42\"/>", "", "", {dark}},
-      {"a dark style of newer files",
-       "<mc:AlternateContent "
-       "xmlns:mc=\"http://schemas.openxmlformats.org/markup-compatibility/2006\"><mc:Choice "
-       "Requires=\"c14\" xmlns:c14=\"http://schemas.microsoft.com/office/drawing/2007/8/2/chart\"><c14:style "
-       "val=\"142\"/></mc:Choice></mc:AlternateContent>",
-       "",
-       "",
-       {dark}},
-      {"a picture on bars", "", picture, "", {filling}},
-      {"a picture behind all", "", "", picture, {filling}},
+      {"<c:style val=\"26\"/>", "#FFFFFF", "#FFFFFF", "#000000", "#4F81BD"},
+      {"<c:style val=\"34\"/>", "#FFFFFF", "#E7E7E7", "#000000", "#4F81BD"},
+      {"<c:style val=\"42\"/>", "#000000", "#404040", "#FFFFFF", "#4F81BD"},
+      {newer("142"), "#000000", "#404040", "#FFFFFF", "#4F81BD"},
   };
   for (const auto& test : cases) {
-    S part = ChartPartXml(PlotXml(GroupXml("barChart", "", SeriesXml(0, {1, 2}, test.series)) + AxesXml()),
-                          test.behind);
-    part.insert(part.find("<c:chart>"), test.front);
-    EXPECT_EQ(FillOf(ItemsOf(DrawPart(part), Role::kBar)[0]), "#4F81BD") << test.what;
-    EXPECT_EQ(notes_, test.notes) << test.what;
+    S part = ChartPartXml(PlotXml(GroupXml("barChart", "", SeriesXml(0, {1, 2})) + AxesXml()));
+    part.insert(part.find("<c:chart>"), test.style);
+    const Drawing drawing = DrawPart(part);
+    const auto label = std::get<TextItem>(ItemsOf(drawing, Role::kTickLabel)[0].content);
+    EXPECT_EQ(FillOf(ItemsOf(drawing, Role::kChartArea)[0]), test.chartArea) << test.style;
+    EXPECT_EQ(FillOf(ItemsOf(drawing, Role::kPlotArea)[0]), test.plotArea) << test.style;
+    EXPECT_EQ(HexOf(label.color), test.text) << test.style;
+    EXPECT_EQ(FillOf(ItemsOf(drawing, Role::kBar)[0]), test.bar) << test.style;
+    EXPECT_EQ(notes_, Texts()) << test.style;
   }
+}
+
+TEST_F(LayoutTest, PicturesAsFillingsAreStretchedOrTiledInsideOfTheirShapes) {
+  Drawing red{8, 4, "", "", {}};
+  red.items.push_back(
+      {{}, PathItem{render::Path().AddRect({0, 0, 8, 4}), render::SolidFill{{255, 0, 0, 1}}, {}}});
+  const S png = MakePng(red, SharedFonts());
+  struct {
+    const char* what;
+    S bytes, mode;
+    std::size_t pictures;
+    Texts notes;
+  } cases[] = {
+      {"stretched", png, "<a:stretch><a:fillRect/></a:stretch>", 1, {}},
+      {"too many tiles", png, "<a:tile sx=\"1000\" sy=\"1000\"/>", 1, {}},
+      {"another format",
+       "GIF89a",
+       "",
+       0,
+       {"A picture as a filling isn't drawn, as it is no PNG; what has it is in its automatic colour."}},
+  };
+  for (const auto& test : cases) {
+    const S fill =
+        "<c:spPr xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\">"
+        "<a:blipFill><a:blip r:embed=\"rId1\"/>" +
+        test.mode + "</a:blipFill></c:spPr>";
+    OpenChart(ChartPartXml(PlotXml(GroupXml("barChart", "", SeriesXml(0, {2}, fill)) + AxesXml())));
+    xlsx::Package& package = Book().Package();
+    package.Add("/xl/media/image1.png", "image/png", test.bytes);
+    package.AddRelationship("/xl/charts/chart1.xml", "image", "/xl/media/image1.png");  // rId1
+    notes_.clear();
+    const Drawing drawing =
+        DrawChart(*Book().Chart("/xl/charts/chart1.xml"), 384, 270, SharedFonts(), notes_);
+    EXPECT_EQ(notes_, test.notes) << test.what;
+    std::size_t pictures = 0;
+    for (const Item& item : ItemsOf(drawing, Role::kBar)) {
+      const auto* image = std::get_if<render::ImageItem>(&item.content);
+      if (image == nullptr) continue;
+      ++pictures;
+      EXPECT_EQ(image->bytes, test.bytes) << test.what;
+      EXPECT_GT(image->place.height, 200) << test.what;
+    }
+    EXPECT_EQ(pictures, test.pictures) << test.what;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
+  }
+}
+
+TEST_F(LayoutTest, ATitleWithoutACacheHasTheTextOfItsCell) {
+  const Drawing drawing =
+      DrawColumns("", "", "<c:title><c:tx><c:strRef><c:f>Sheet1!$A$1</c:f></c:strRef></c:tx></c:title>");
+  EXPECT_EQ(TextsOf(drawing, Role::kTitle), Texts{"Region"});
+  EXPECT_NE(drawing.title, "");
 }
 
 TEST_F(LayoutTest, AxesOfKindsThatArentDrawnAreNotDrawnEither) {
@@ -307,7 +358,6 @@ TEST_F(LayoutTest, AxesOfKindsThatArentDrawnAreNotDrawnEither) {
     bool hasAxes;
     Texts notes;
   } cases[] = {
-      {"radarChart", false, {"Radar charts aren't drawn."}},
       {"surfaceChart", false, {"Surface charts aren't drawn."}},
       {"surface3DChart", false, {"Surface charts aren't drawn."}},
       {"barChart", true, {}},

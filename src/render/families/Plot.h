@@ -57,6 +57,8 @@ void DrawAreas(Plot& plot, const GroupModel& group);
 void DrawLines(Plot& plot, const GroupModel& group);
 void DrawScatter(Plot& plot, const GroupModel& group);
 void DrawBubbles(Plot& plot, const GroupModel& group);
+/// The series of a radar chart on a web of its own.
+void DrawRadar(Plot& plot, const GroupModel& group);
 /// A pie or a doughnut in the middle of the plot area, from which labels outside take their room.
 void DrawPie(Plot& plot, const GroupModel& group);
 

@@ -45,7 +45,7 @@ Point CenterAtBar(const Plot& plot, const DrawnPoint& point, const std::string& 
 Point CenterAtMarker(const DrawnPoint& point, const std::string& position, Half half) {
   const Point center = point.box.Center();
   const double x = point.box.width / 2 + half.width, y = point.box.height / 2 + half.height;
-  if (position == "t") return {center.x, center.y - y};
+  if (position == "t" || position == "outEnd") return {center.x, center.y - y};
   if (position == "b") return {center.x, center.y + y};
   if (position == "l") return {center.x - x, center.y};
   if (position == "r") return {center.x + x, center.y};

@@ -31,8 +31,7 @@ bool HasLineKey(const ChartModel& chart, const LegendEntry& entry) {
   const GroupModel* group = chart.GroupOfSeries(entry.series);
   if (group == nullptr || group->is3D) return false;
   return group->family == Family::kLine || group->family == Family::kScatter ||
-         group->family == Family::kStock ||
-         (group->family == Family::kRadar && group->series.front().style.stroke.width > 0);
+         group->family == Family::kStock || (group->family == Family::kRadar && !group->filled);
 }
 
 /// Entries from the first, or where they are piled up beside a pile, from the last.

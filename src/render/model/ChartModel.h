@@ -153,6 +153,7 @@ struct GroupModel {
   Grouping grouping = Grouping::kStandard;
   bool is3D = false;
   bool horizontal = false;  ///< bars
+  bool filled = false;      ///< radar charts, which are drawn as areas
   bool varyColors = false;
   bool markersOnly = false;            ///< a scatter chart without lines
   double gapWidth = 150, overlap = 0;  ///< percent
@@ -255,7 +256,8 @@ struct ChartModel {
   std::optional<ManualLayout> layout;  ///< of the plot area
   std::vector<GroupModel> groups;      ///< those with series, in the order in which they are drawn
   std::vector<AxisModel> axes;
-  std::string blanks = "gap";  ///< ST_DispBlanksAs
+  std::vector<AxisModel> spokes;  ///< those of a radar chart, which draws them by itself
+  std::string blanks = "gap";     ///< ST_DispBlanksAs
   xlsx::DateSystem dates = xlsx::DateSystem::k1900;
 
   bool Is3D() const;

@@ -1,5 +1,6 @@
 #include "xlsx/chart/LegendEntries.h"
 
+#include <iterator>
 #include <map>
 #include <optional>
 #include <set>
@@ -92,6 +93,30 @@ class LegendEntriesObject final : public excel::LegendEntries {
   std::shared_ptr<ChartPart> part_;
 };
 
+/// The texts of the categories; of several levels they are one text, the outermost first.
+std::map<std::size_t, std::string> CategoryTexts(ChartPart& part, pugi::xml_node categories) {
+  const auto cache = xml::Child(categories, "multiLvlStrRef", "multiLvlStrCache");
+  if (!cache) return DataTexts(part, categories);
+  std::map<std::size_t, std::string> texts;
+  for (const pugi::xml_node& level : xml::Children(cache, "lvl")) {
+    std::map<std::size_t, std::string> own;
+    for (const pugi::xml_node& point : xml::Children(level, "pt")) {
+      const long long index = xml::IntegerAttribute(point, "idx", -1);
+      if (index >= 0) own[static_cast<std::size_t>(index)] = CachedText(point);
+    }
+    if (texts.empty()) {
+      texts = std::move(own);
+      continue;
+    }
+    // a text of an outer level holds until the next one
+    for (auto& [index, text] : texts) {
+      const auto next = own.upper_bound(index);
+      if (next != own.begin()) text.insert(0, std::prev(next)->second + " ");
+    }
+  }
+  return texts;
+}
+
 }  // namespace
 
 Ref<excel::LegendEntries> MakeLegendEntries(std::shared_ptr<ChartPart> part) {
@@ -100,7 +125,7 @@ Ref<excel::LegendEntries> MakeLegendEntries(std::shared_ptr<ChartPart> part) {
 
 std::vector<LegendLine> LegendLines(ChartPart& part, std::size_t most) {
   const bool points = ListsPoints(part);
-  const auto categories = points ? DataTexts(part, xml::Child(part.Series()[0]->node, "cat"))
+  const auto categories = points ? CategoryTexts(part, xml::Child(part.Series()[0]->node, "cat"))
                                  : std::map<std::size_t, std::string>();
   std::vector<LegendLine> lines;
   for (const std::size_t number : EntriesLeft(part, most)) {
