@@ -85,7 +85,7 @@ void DrawMarks(Canvas& canvas, Role role, const AxisModel& axis, const std::vect
   }
 }
 
-/// The centre of a label that stands on the outer side of its axis.
+/// The centre of a label on the outer side of its axis.
 Point CenterOf(const AxisModel& axis, const TickLabels& labels, const TextBlock& block, double along,
                const AxisPlace& place) {
   const bool back = place.labelSide == Side::kLeft || place.labelSide == Side::kTop;

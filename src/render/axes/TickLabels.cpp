@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 #include "render/axes/CategoryLevels.h"
 #include "render/axes/DateAxis.h"
@@ -133,34 +134,54 @@ void Shorten(TextBlock& block, double most, const TextMeasure& measure) {
   block = LayOut(run.text.substr(0, low) + kDots, style, measure);
 }
 
+namespace {
+
+/// The texts along an axis with their places: values, or slots from 0.
+struct AxisTexts {
+  std::vector<std::string> texts;
+  std::vector<double> places;
+
+  void Add(std::string text, double place) {
+    texts.push_back(std::move(text));
+    places.push_back(place);
+  }
+};
+
+AxisTexts TextsAlong(const AxisModel& axis, xlsx::DateSystem dates) {
+  AxisTexts along;
+  if (axis.IsOfValues()) {
+    for (Tick& tick : MajorTicks(axis, dates)) along.Add(std::move(tick.label), tick.value);
+  } else if (axis.dates) {
+    for (DateTick& tick : DateTicks(axis, dates)) along.Add(std::move(tick.label), tick.slot);
+  } else {
+    for (const std::string& category : axis.categories) {
+      along.Add(category, static_cast<double>(along.places.size()));
+    }
+  }
+  return along;
+}
+
+/// The way from one text to the next, the shortest where they differ, as months do.
+double NarrowestSlot(const AxisModel& axis, const std::vector<double>& places, double length) {
+  const double count = static_cast<double>(places.size());
+  const bool onTicks = axis.IsOfValues() || !axis.crossesBetween;
+  double slot = length / std::max(onTicks ? count - 1 : count, 1.0);
+  for (std::size_t i = 1; axis.dates && i < places.size(); ++i) {
+    slot = std::min(slot, length * (places[i] - places[i - 1]) / std::max(axis.dates->count, 1.0));
+  }
+  return slot;
+}
+
+}  // namespace
+
 TickLabels LayOutTickLabels(const AxisModel& axis, double length, double depth, xlsx::DateSystem dates,
                             const TextMeasure& measure) {
   TickLabels result;
   if (axis.hidden || axis.tickLabels == "none" || axis.kind == AxisKind::kSeries) return result;
-  std::vector<std::string> texts;
-  std::vector<double> places;
-  if (axis.IsOfValues()) {
-    for (Tick& tick : MajorTicks(axis, dates)) {
-      texts.push_back(std::move(tick.label));
-      places.push_back(tick.value);
-    }
-  } else if (axis.dates) {
-    for (DateTick& tick : DateTicks(axis, dates)) {
-      texts.push_back(std::move(tick.label));
-      places.push_back(tick.slot);
-    }
-  } else {
-    texts = axis.categories;
-    for (std::size_t i = 0; i < texts.size(); ++i) places.push_back(static_cast<double>(i));
-  }
+  const auto [texts, places] = TextsAlong(axis, dates);
   if (texts.empty()) return result;
   const Sizes sizes = Measure(texts, axis.text, measure);
-  const double count = static_cast<double>(texts.size());
-  const bool onTicks = axis.IsOfValues() || !axis.crossesBetween;
-  double slot = length / std::max(onTicks ? count - 1 : count, 1.0);
-  for (std::size_t i = 1; axis.dates && i < places.size(); ++i) {  // months differ
-    slot = std::min(slot, length * (places[i] - places[i - 1]) / std::max(axis.dates->count, 1.0));
-  }
+  const double slot = NarrowestSlot(axis, places, length);
   const Setting setting = axis.IsUpright() ? SettingForUpright(axis, texts, sizes, slot, depth, measure)
                                            : SettingForFlat(axis, sizes, slot, depth);
   result.rotation = setting.rotation;

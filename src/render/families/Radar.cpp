@@ -66,14 +66,16 @@ class Web {
 
   void DrawSeries(const SeriesModel& series) {
     const std::vector<std::optional<Point>> places = PlacesOf(series);
-    const bool closed = std::all_of(places.begin(), places.end(), [](const auto& place) { return place; });
+    const bool spans = plot_.chart.blanks == "span";
+    const bool closed =
+        spans || std::all_of(places.begin(), places.end(), [](const auto& place) { return place; });
     Path path;
     bool open = false;
     for (const auto& place : places) {
       if (place) open ? path.LineTo(*place) : path.MoveTo(*place);
-      open = place.has_value();
+      open = place || (open && spans);
     }
-    if (closed && !places.empty()) path.Close();
+    if (closed && !path.IsEmpty()) path.Close();
     plot_.canvas.Add({group_.filled ? Role::kArea : Role::kLine, series.number}, std::move(path),
                      group_.filled ? series.style.fill : Fill(), series.style.stroke);
     for (std::size_t i = 0; i < places.size(); ++i) {
@@ -105,7 +107,7 @@ class Web {
         places.emplace_back(PlaceOf(i, value));
       } else if (plot_.chart.blanks == "zero") {
         places.emplace_back(PlaceOf(i, 0));
-      } else if (plot_.chart.blanks != "span") {
+      } else {
         places.emplace_back();
       }
     }

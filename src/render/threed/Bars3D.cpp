@@ -14,7 +14,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// A bar where it stands, as shares of the axes.
+/// The place of a bar, as shares of the axes.
 struct Standing {
   std::size_t series = 0, point = 0;
   Span across, depth, along;
