@@ -22,10 +22,45 @@ bool IsNear(const Path& path) {
 void Canvas::Add(Tag tag, Path path, const Fill& fill, const Stroke& stroke) {
   const bool visible = !std::holds_alternative<std::monostate>(fill) || stroke.width > 0;
   if (!visible || path.IsEmpty() || !IsNear(path)) return;
+  if (const auto* picture = std::get_if<PictureFill>(&fill)) {
+    AddPictures(tag, path, *picture);
+    if (stroke.width > 0) drawing_.items.push_back({tag, PathItem{std::move(path), {}, stroke}});
+    return;
+  }
   drawing_.items.push_back({tag, PathItem{std::move(path), fill, stroke}});
 }
 
+void Canvas::AddPictures(Tag tag, const Path& path, const PictureFill& fill) {
+  constexpr double kMostTiles = 400;
+  const Rect bounds = path.Bounds();
+  if (!(bounds.width > 0 && bounds.height > 0)) return;
+  double width = fill.tileWidth, height = fill.tileHeight;
+  const bool isTiled = width > 0 && height > 0 &&
+                       std::ceil(bounds.width / width) * std::ceil(bounds.height / height) <= kMostTiles;
+  if (!isTiled) {
+    width = bounds.width;
+    height = bounds.height;
+  }
+  PushClip(path);
+  for (double top = bounds.top; top < bounds.Bottom(); top += height) {
+    for (double left = bounds.left; left < bounds.Right(); left += width) {
+      if (fill.bytes->size() > pictureBytesLeft_) {
+        Note("The chart has more pictures as fillings than are drawn; the rest is left out.");
+        return PopClip();
+      }
+      pictureBytesLeft_ -= fill.bytes->size();
+      drawing_.items.push_back({tag, ImageItem{*fill.bytes, {left, top, width, height}}});
+    }
+  }
+  PopClip();
+}
+
 void Canvas::AddFrame(Tag tag, const Rect& box, const Fill& fill, const Stroke& stroke) {
+  if (std::holds_alternative<PictureFill>(fill)) {
+    Add(tag, Path().AddRect(box), fill);
+    drawing_.items.push_back({tag, PathItem{Path().AddRect(box), {}, stroke}});
+    return;
+  }
   drawing_.items.push_back({tag, PathItem{Path().AddRect(box), fill, stroke}});
 }
 

@@ -32,6 +32,9 @@ class Canvas {
   Drawing& Target() { return drawing_; }
 
  private:
+  void AddPictures(Tag tag, const Path& path, const PictureFill& fill);
+
+  std::size_t pictureBytesLeft_ = 16 * 1024 * 1024;
   Drawing& drawing_;
   const TextMeasure& measure_;
   Notes& notes_;

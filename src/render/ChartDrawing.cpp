@@ -5,15 +5,16 @@
 
 #include "render/Canvas.h"
 #include "render/Description.h"
+#include "render/Images.h"
 #include "render/axes/AxisDrawing.h"
 #include "render/families/Plot.h"
 #include "render/labels/DataLabels.h"
 #include "render/layout/ChartLayout.h"
 #include "render/model/ChartReader.h"
+#include "render/model/StyleReader.h"
 #include "render/shapes/UserShapes.h"
 #include "render/threed/Plot3D.h"
 #include "xlsx/chart/part/ChartPart.h"
-#include "xlsx/chart/rules/AutomaticColors.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::render {
@@ -60,19 +61,21 @@ void DrawGroup(Plot& plot, const GroupModel& group) {
           "The second plot of a pie of pie or bar of pie isn't drawn; all slices are in the first.");
       return DrawPie(plot, group);
     case Family::kRadar:
-      return plot.canvas.Note("Radar charts aren't drawn.");
+      return DrawRadar(plot, group);
     case Family::kSurface:
       return plot.canvas.Note("Surface charts aren't drawn.");
   }
 }
 
-/// Hides the axes of a chart of which no group is drawn. A radar or surface chart would look like a column
-/// chart that lost its columns.
+/// Hides the axes of a radar chart, which draws them by itself, and those of a surface chart, which would
+/// look like a column chart that lost its columns.
 void HideAxesWithoutGroups(ChartModel& chart) {
-  const bool missing = std::all_of(chart.groups.begin(), chart.groups.end(), [](const GroupModel& group) {
-    return group.family == Family::kRadar || group.family == Family::kSurface;
+  const auto isRadar = [](const GroupModel& group) { return group.family == Family::kRadar; };
+  const bool hides = std::all_of(chart.groups.begin(), chart.groups.end(), [&](const GroupModel& group) {
+    return isRadar(group) || group.family == Family::kSurface;
   });
-  if (!missing) return;
+  if (std::any_of(chart.groups.begin(), chart.groups.end(), isRadar)) chart.spokes = chart.axes;
+  if (!hides) return;
   for (AxisModel& axis : chart.axes) {
     axis.hidden = true;
     axis.majorGridlines.reset();
@@ -82,14 +85,12 @@ void HideAxesWithoutGroups(ChartModel& chart) {
 
 /// What of the looks of a chart is known but not drawn.
 void NoteMissingLooks(Canvas& canvas, xlsx::ChartPart& part) {
-  constexpr long long kFirstDarkStyle = 33;
-  if (const long long style = xlsx::ChartStyleOf(part); style >= kFirstDarkStyle) {
-    canvas.Note("The chart has style " + std::to_string(style) +
-                ", whose dark backgrounds aren't drawn; it is in the colours of a light one.");
-  }
-  const auto isPicture = [](pugi::xml_node node) { return xlsx::xml::Is(node, "blipFill"); };
-  if (part.Space().find_node(isPicture)) {
-    canvas.Note("Pictures as fillings aren't drawn; what has one is in its automatic colour.");
+  const auto isMissing = [&](pugi::xml_node node) {
+    return xlsx::xml::Is(node, "blipFill") && !IsDrawableImage(Palette(part).Picture(node));
+  };
+  if (part.Space().find_node(isMissing)) {
+    canvas.Note(
+        "A picture as a filling isn't drawn, as it is no PNG; what has it is in its automatic colour.");
   }
 }
 
@@ -99,12 +100,12 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
     return bool(xlsx::xml::Child(node, local));
   };
   for (const GroupModel& group : chart.groups) {
+    if (group.is3D && !group.outerLevels.empty()) {
+      canvas.Note("Of categories in several levels, only the innermost are drawn in 3-D.");
+    }
     if (has(group.node, "upDownBars")) canvas.Note("Up and down bars aren't drawn.");
     if (has(group.node.parent(), "dTable")) canvas.Note("The data table below the chart isn't drawn.");
     for (const SeriesModel& series : group.series) {
-      if (xlsx::xml::Child(series.node, "cat", "multiLvlStrRef")) {
-        canvas.Note("Of categories in several levels, only the innermost are drawn.");
-      }
       if (has(series.node, "trendline")) canvas.Note("Trendlines aren't drawn.");
       if (has(series.node, "errBars")) canvas.Note("Error bars aren't drawn.");
     }

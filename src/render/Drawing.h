@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -63,8 +64,14 @@ struct PatternFill {
   std::string preset;
   Color foreground, background;
 };
+/// A PNG picture, stretched over the bounds of the path, or side by side in tiles of a size in points. A
+/// canvas makes a clipped picture of it: no drawing has it.
+struct PictureFill {
+  std::shared_ptr<const std::string> bytes;
+  double tileWidth = 0, tileHeight = 0;  ///< 0 is stretched
+};
 /// std::monostate is no filling.
-using Fill = std::variant<std::monostate, SolidFill, GradientFill, PatternFill>;
+using Fill = std::variant<std::monostate, SolidFill, GradientFill, PatternFill, PictureFill>;
 
 enum class LineCap : std::uint8_t { kFlat, kRound, kSquare };
 enum class LineJoin : std::uint8_t { kMiter, kRound, kBevel };

@@ -64,6 +64,123 @@ TEST_F(AxesTest, AxesOfValuesShowTheirMajorUnits) {
   }
 }
 
+TEST_F(AxesTest, StacksAreScaledByTheirEnds) {
+  struct {
+    const char *what, *element, *first;
+    std::vector<double> one, two;
+    Texts labels;
+  } cases[] = {
+      {"shares of bars on both sides",
+       "barChart",
+       "<c:barDir val=\"col\"/><c:grouping val=\"percentStacked\"/>",
+       {3, 1},
+       {-1, 1},
+       {"-100%", "-50%", "0%", "50%", "100%"}},
+      {"shares of areas on both sides",
+       "areaChart",
+       "<c:grouping val=\"percentStacked\"/>",
+       {3, 1},
+       {-1, 1},
+       {"-100%", "-50%", "0%", "50%", "100%"}},
+      {"shares below zero",
+       "barChart",
+       "<c:barDir val=\"col\"/><c:grouping val=\"percentStacked\"/>",
+       {-3, -1},
+       {-1, -1},
+       {"-100%", "-50%", "0%"}},
+      {"bars below zero go down",
+       "barChart",
+       "<c:barDir val=\"col\"/><c:grouping val=\"stacked\"/>",
+       {30, 10},
+       {-10, 0},
+       {"-20", "0", "20", "40"}},
+      {"areas are sums", "areaChart", "<c:grouping val=\"stacked\"/>", {30, 10}, {-10, 0}, {"0", "20", "40"}},
+      {"lines are sums", "lineChart", "<c:grouping val=\"stacked\"/>", {30, 10}, {-10, 0}, {"0", "20", "40"}},
+  };
+  for (const auto& test : cases) {
+    const S unit = S(test.first).find("percent") == S::npos ? "20" : "0.5";
+    const Drawing drawing =
+        Draw(PlotXml(GroupXml(test.element, test.first, SeriesXml(0, test.one) + SeriesXml(1, test.two)) +
+                     AxesXml("", "<c:majorUnit val=\"" + unit + "\"/>")));
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), test.labels) << test.what;
+  }
+}
+
+/// c:cat of several levels; each point is its index with its text, as 0=North.
+S LevelsXml(int count, const std::vector<std::vector<std::pair<int, S>>>& levels) {
+  S xml = "<c:cat><c:multiLvlStrRef><c:f>Sheet1!$A$1:$B$4</c:f><c:multiLvlStrCache><c:ptCount val=\"" +
+          std::to_string(count) + "\"/>";
+  for (const auto& level : levels) {
+    xml += "<c:lvl>";
+    for (const auto& [index, text] : level) {
+      xml += "<c:pt idx=\"" + std::to_string(index) + "\"><c:v>" + text + "</c:v></c:pt>";
+    }
+    xml += "</c:lvl>";
+  }
+  return xml + "</c:multiLvlStrCache></c:multiLvlStrRef></c:cat>";
+}
+
+TEST_F(AxesTest, CategoriesOfSeveralLevelsHaveARowForEach) {
+  const S levels = LevelsXml(
+      4, {{{0, "Q1"}, {1, "Q2"}, {2, "Q1"}, {3, "Q2"}}, {{0, "2023"}, {2, "2024"}}, {{0, S(90, 'x')}}});
+  struct {
+    const char* what;
+    bool horizontal;
+    S category, value;
+    Texts labels;
+    std::size_t lines;
+  } cases[] = {
+      {"below", false, "", "", {"Q1", "Q2", "Q1", "Q2", "2023", "2024"}, 5},
+      {"beside", true, "", "", {"Q1", "Q2", "Q1", "Q2", "2023", "2024"}, 5},
+      {"on the marks",
+       false,
+       "",
+       "<c:crossBetween val=\"midCat\"/>",
+       {"Q1", "Q2", "Q1", "Q2", "2023", "2024"},
+       1},
+      {"as one text", false, "<c:noMultiLvlLbl val=\"1\"/>", "", {}, 0},
+  };
+  for (const auto& test : cases) {
+    const S first = S("<c:barDir val=\"") + (test.horizontal ? "bar" : "col") + "\"/>";
+    const Drawing drawing = Draw(
+        PlotXml(GroupXml("barChart", first, SeriesXml(0, {1, 2, 3, 4}, "", "", levels)) +
+                AxesXml("<c:majorTickMark val=\"none\"/>" + test.category, test.value, test.horizontal)));
+    EXPECT_EQ(notes_, Texts()) << test.what;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
+    EXPECT_EQ(ItemsOf(drawing, Role::kTickMark, 1).size(), test.lines) << test.what;
+    Texts labels = TextsOf(drawing, Role::kTickLabel, 1);
+    if (test.labels.empty()) {
+      EXPECT_NE(labels[0].find("xxx"), S::npos) << test.what;
+      continue;
+    }
+    ASSERT_EQ(labels.size(), 7u) << test.what;
+    EXPECT_TRUE(labels[6].starts_with("xxx") && labels[6].ends_with("...")) << labels[6];
+    labels.pop_back();
+    EXPECT_EQ(labels, test.labels) << test.what;
+    if (test.value.empty()) {
+      // a group's text is in the middle of its bars, farther out than their own labels
+      const auto boxes = BoxesOf(drawing, Role::kTickLabel, 1), bars = BoxesOf(drawing, Role::kBar);
+      const Rect pair = Union(bars[0], bars[1]);
+      EXPECT_NEAR(test.horizontal ? boxes[4].Center().y : boxes[4].Center().x,
+                  test.horizontal ? pair.Center().y : pair.Center().x, 0.1);
+      EXPECT_TRUE(test.horizontal ? boxes[4].Right() < boxes[0].left : boxes[4].top > boxes[0].Bottom());
+    }
+  }
+}
+
+TEST_F(AxesTest, AxesAtTheEndOfAllNumbersAreDrawn) {
+  const Drawing drawing = DrawWith({1e308, -1e308, 1.7e308, 1e-308}, "<c:majorGridlines/>");
+  EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), (Texts{"-8E+307", "-4E+307", "0", "4E+307", "8E+307"}));
+  const Rect plot = BoxOf(drawing, Role::kPlotArea);
+  const auto bars = BoxesOf(drawing, Role::kBar);
+  ASSERT_EQ(bars.size(), 4u);
+  EXPECT_LT(bars[0].top, plot.top);
+  EXPECT_GT(bars[1].Bottom(), plot.Bottom());
+  EXPECT_LT(bars[2].top, plot.top);
+  EXPECT_NEAR(bars[3].height, 0, 1e-9);
+  EXPECT_EQ(DrawingComplaints(drawing), "");
+}
+
 TEST_F(AxesTest, LabelsAndGridlinesStandWhereTheirValuesAre) {
   for (const bool reversed : {false, true}) {
     for (const bool horizontal : {false, true}) {

@@ -135,6 +135,68 @@ TEST_F(DataLabelsTest, OfPiesAreInsideOfTheirSliceOrOutsideOfTheCircle) {
   EXPECT_LT(BoxOf(best, Role::kSlice).width, BoxOf(draw("ctr", {1, 99}), Role::kSlice).width);
 }
 
+/// The labels of a pie from top to bottom on each side of it, and which of them lie on each other.
+struct PieLabelsSeen {
+  std::size_t count = 0, leaders = 0;
+  Texts overlaps;
+};
+
+PieLabelsSeen LookAt(const Drawing& drawing) {
+  PieLabelsSeen seen;
+  const auto boxes = BoxesOf(drawing, Role::kDataLabel);
+  const auto texts = TextsOf(drawing, Role::kDataLabel);
+  for (std::size_t i = 0; i < boxes.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j) {
+      if (Overlap(boxes[i], boxes[j], 0.02)) seen.overlaps.push_back(texts[j] + " on " + texts[i]);
+    }
+  }
+  seen.count = boxes.size();
+  seen.leaders = ItemsOf(drawing, Role::kLeaderLine).size();
+  return seen;
+}
+
+TEST_F(DataLabelsTest, OfCrowdedPiesAreMovedApartAndTiedToTheirSlices) {
+  const auto values = [](std::size_t large, std::size_t small) {
+    std::vector<double> list(large, 100);
+    list.insert(list.end(), small, 1);
+    return list;
+  };
+  struct {
+    const char *what, *element, *position;
+    std::vector<double> values;
+    std::size_t count, leaders;
+    Texts notes;
+  } cases[] = {
+      {"few slices stay where they are", "pieChart", "outEnd", {10, 20, 30}, 3, 0, {}},
+      {"small slices beside each other", "pieChart", "bestFit", values(3, 8), 11, 8, {}},
+      {"the same in 3-D", "pie3DChart", "bestFit", values(3, 8), 11, 6, {}},
+      {"all slices alike", "pieChart", "outEnd", values(0, 24), 24, 12, {}},
+      {"more than have room",
+       "pieChart",
+       "outEnd",
+       values(2, 90),
+       21,
+       19,
+       {"The pie has no room for 71 of its data labels, which are left out."}},
+  };
+  for (const auto& test : cases) {
+    Texts names;
+    for (std::size_t i = 0; i < test.values.size(); ++i) names.push_back("Slice " + std::to_string(i + 1));
+    const S labels = S("<c:dLbls><c:dLblPos val=\"") + test.position + "\"/>" + Shown("showCatName") +
+                     Shown("showLeaderLines") + "</c:dLbls>";
+    const S element(test.element);
+    const Drawing drawing =
+        Draw(PlotXml("<c:" + element + "><c:varyColors val=\"1\"/>" +
+                     SeriesXml(0, test.values, labels, "", CategoriesXml(names)) + "</c:" + element + ">"));
+    const PieLabelsSeen seen = LookAt(drawing);
+    EXPECT_EQ(seen.overlaps, Texts()) << test.what;
+    EXPECT_EQ(seen.count, test.count) << test.what;
+    EXPECT_EQ(seen.leaders, test.leaders) << test.what;
+    EXPECT_EQ(notes_, test.notes) << test.what;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
+  }
+}
+
 TEST_F(DataLabelsTest, ADraggedLabelIsTiedToItsSlice) {
   const S dragged =
       "<c:dLbl><c:idx val=\"0\"/><c:layout><c:manualLayout><c:x val=\"0.2\"/><c:y "

@@ -374,5 +374,38 @@ TEST_F(FamiliesTest, SeriesOfTwoAxesFollowTheirOwnScale) {
   EXPECT_EQ(DrawingComplaints(drawing), "");
 }
 
+TEST_F(DrawingTest, RadarChartsLieOnAWebOfTheirScale) {
+  const S scale =
+      "<c:scaling><c:max val=\"10\"/><c:min val=\"0\"/></c:scaling><c:majorGridlines/>"
+      "<c:majorUnit val=\"5\"/>";
+  struct {
+    const char* style;
+    Role role;
+    std::size_t markers;
+  } cases[] = {{"standard", Role::kLine, 0}, {"marker", Role::kLine, 4}, {"filled", Role::kArea, 0}};
+  for (const auto& test : cases) {
+    const Drawing drawing = Draw(PlotXml(
+        GroupXml("radarChart", S("<c:radarStyle val=\"") + test.style + "\"/>",
+                 SeriesXml(0, {10, 5, 2.5, 7.5}, "", "", CategoriesXml({"North", "East", "South", "West"}))) +
+            AxesXml("", scale),
+        "<c:legend/>"));
+    EXPECT_EQ(notes_, std::vector<S>()) << test.style;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.style;
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), (std::vector<S>{"North", "East", "South", "West"}));
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), (std::vector<S>{"0", "5", "10"})) << test.style;
+    EXPECT_EQ(ItemsOf(drawing, Role::kMarker).size(), test.markers) << test.style;
+    const auto webs = BoxesOf(drawing, Role::kGridline);
+    ASSERT_EQ(webs.size(), 3u) << test.style;
+    const Rect web = webs[2], series = BoxOf(drawing, test.role);
+    const double radius = web.width / 2;
+    EXPECT_NEAR(web.height / 2, radius, 1e-6) << test.style;
+    EXPECT_NEAR(web.Center().y - series.top, radius, 1e-6) << test.style;
+    EXPECT_NEAR(series.Right() - web.Center().x, radius * 0.5, 1e-6) << test.style;
+    EXPECT_NEAR(series.Bottom() - web.Center().y, radius * 0.25, 1e-6) << test.style;
+    EXPECT_NEAR(web.Center().x - series.left, radius * 0.75, 1e-6) << test.style;
+    EXPECT_FALSE(Overlap(BoxesOf(drawing, Role::kTickLabel, 1)[1], web)) << test.style;
+  }
+}
+
 }  // namespace
 }  // namespace plotsmith

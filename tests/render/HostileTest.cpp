@@ -11,8 +11,10 @@ namespace {
 
 using namespace test;
 using render::Drawing;
+using render::Rect;
 using render::Role;
 using S = std::string;
+using Texts = std::vector<S>;
 
 /// Malicious chart parts, which no program writes by mistake.
 struct HostileCase {
@@ -150,6 +152,57 @@ TEST_F(DrawingTest, FiveThousandPointsOf254SeriesStayUsable) {
   EXPECT_LT(drawing.items.size(), 5000u);
   EXPECT_EQ(DrawingComplaints(drawing), "");
   EXPECT_EQ(ItemsOf(drawing, Role::kLine).size(), 254u);
+}
+
+TEST_F(DrawingTest, ColumnsThinnerThanPixelsAreFewPathsOfTheirColours) {
+  std::vector<double> values;
+  for (int i = 0; i < 2000; ++i) values.push_back(i % 50 == 49 ? -3 : 10 + std::sin(i / 50.0));
+  S series;
+  for (int s = 0; s < 40; ++s) {
+    series += SeriesXml(s, values, s == 39 ? "<c:invertIfNegative val=\"1\"/>" : "");
+  }
+  const Drawing drawing = Draw(PlotXml(GroupXml("barChart", kColumns, series) + AxesXml()));
+  std::size_t steps = 0;
+  for (const auto& item : ItemsOf(drawing, Role::kBar)) {
+    steps += std::get<render::PathItem>(item.content).path.Steps().size();
+  }
+  EXPECT_LT(steps, 40'000u);  // of 400,000 that bars one by one take
+  const Rect plot = BoxOf(drawing, Role::kPlotArea), bars = BoxOf(drawing, Role::kBar);
+  EXPECT_NEAR(bars.width, plot.width, 1);
+  // the last series is in front, in its colour and in that of points below zero
+  const auto front = ItemsOf(drawing, Role::kBar, 40);
+  ASSERT_GT(front.size(), 1u);
+  EXPECT_NE(FillOf(front[0]), FillOf(front[1]));
+  EXPECT_EQ(drawing.items.back().tag.role == Role::kBar, false);
+  EXPECT_EQ(DrawingComplaints(drawing), "");
+}
+
+TEST_F(DrawingTest, HundredThousandCategoriesHaveLabelsThatFit) {
+  std::vector<double> values(100'000, 5);
+  Texts names;
+  for (int i = 0; i < 100'000; ++i) names.push_back("Name " + std::to_string(i));
+  for (const bool horizontal : {false, true}) {
+    const S first = horizontal ? "<c:barDir val=\"bar\"/>" : "<c:barDir val=\"col\"/>";
+    const auto start = std::chrono::steady_clock::now();
+    const Drawing drawing =
+        Draw(PlotXml(GroupXml("barChart", first, SeriesXml(0, values, "", "", CategoriesXml(names))) +
+                     AxesXml("<c:tickLblSkip val=\"1\"/>", "", horizontal)));
+    const auto labels = TextsOf(drawing, Role::kTickLabel, 1);
+    EXPECT_TRUE(labels.size() > 10 && labels.size() < 40) << labels.size();
+    EXPECT_LT(ItemsOf(drawing, Role::kTickMark, 1).size(), 400u);
+    EXPECT_EQ(DrawingComplaints(drawing), "");
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+  }
+}
+
+TEST_F(DrawingTest, DenseMarkersAreDrawnOnce) {
+  const std::vector<double> values(5000, 1);
+  const Drawing drawing = Draw(PlotXml(
+      GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
+               SeriesXml(0, values, "<c:marker><c:symbol val=\"circle\"/><c:size val=\"6\"/></c:marker>")) +
+      AxesXml()));
+  const double width = BoxOf(drawing, Role::kPlotArea).width;
+  EXPECT_NEAR(static_cast<double>(ItemsOf(drawing, Role::kMarker).size()), width / 2, 2);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
+#include "render/cairo/CairoPainter.h"
 #include "runtime/Strings.h"
 #include "tests/render/DrawingTest.h"
+#include "xlsx/chart/part/ChartPart.h"
 
 namespace plotsmith {
 namespace {
@@ -109,6 +111,85 @@ TEST_F(LayoutTest, ALegendThatIsTooNarrowForItsTextsShowsAllEntriesThatHaveHeigh
   }
 }
 
+TEST_F(LayoutTest, ALegendShowsAsManyEntriesAsFitSaysItAndNeverCoversThePlot) {
+  const auto many = [](int count, const S& name) {
+    S series;
+    for (int i = 0; i < count; ++i) {
+      S one = SeriesXml(i, {1, 2});
+      series += runtime::Replace(one, "Series " + std::to_string(i), name + std::to_string(i));
+    }
+    return series;
+  };
+  struct {
+    const char *what, *position;
+    int series;
+    S name;
+    double width, height;
+    std::size_t entries;
+    Texts notes;
+  } cases[] = {
+      {"all fit", "r", 12, "Name ", 384, 270, 12, {}},
+      {"a column of long names",
+       "r",
+       40,
+       "A rather long name of a series ",
+       384,
+       270,
+       18,
+       {"The legend has room for 18 of its entries; the others are left out."}},
+      {"columns of short names",
+       "l",
+       90,
+       "N",
+       384,
+       270,
+       72,
+       {"The legend has room for 72 of its entries; the others are left out."}},
+      {"rows",
+       "b",
+       200,
+       "Name ",
+       384,
+       270,
+       48,
+       {"The legend has room for 48 of its entries; the others are left out."}},
+      {"rows of names in several lines",
+       "t",
+       9,
+       S(160, 'x') + " ",
+       384,
+       270,
+       3,
+       {"The legend has room for 3 of its entries; the others are left out."}},
+      {"no room at all",
+       "r",
+       2,
+       "Name ",
+       40,
+       40,
+       0,
+       {"The chart has no room for its legend, which is left out."}},
+  };
+  for (const auto& test : cases) {
+    const Drawing drawing = Draw(
+        PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>", many(test.series, test.name)) + AxesXml(),
+                LegendXml(test.position)),
+        "", test.width, test.height);
+    EXPECT_EQ(ItemsOf(drawing, Role::kLegendKey).size(), test.entries) << test.what;
+    EXPECT_EQ(notes_, test.notes) << test.what;
+    const Rect legend = BoxOf(drawing, Role::kLegend), plot = BoxOf(drawing, Role::kPlotArea);
+    if (test.entries > 0) {
+      EXPECT_FALSE(Overlap(legend, plot)) << test.what;
+      EXPECT_FALSE(Overlap(BoxOf(drawing, Role::kLegendEntry), BoxOf(drawing, Role::kTickLabel)))
+          << test.what;
+      EXPECT_TRUE(Union(legend, BoxOf(drawing, Role::kLegendEntry)) == legend) << test.what;
+      EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
+    }
+    const auto keys = BoxesOf(drawing, Role::kLegendKey);
+    for (std::size_t i = 1; i < keys.size(); ++i) EXPECT_FALSE(Overlap(keys[i - 1], keys[i])) << test.what;
+  }
+}
+
 TEST_F(LayoutTest, APlotAreaByHandIsWhereItsLayoutSays) {
   const auto layout = [](const S& target) {
     return "<c:layout><c:manualLayout><c:layoutTarget val=\"" + target +
@@ -187,36 +268,85 @@ TEST_F(LayoutTest, AWordThatIsWiderThanItsLineBreaksInside) {
   }
 }
 
-TEST_F(LayoutTest, LooksThatArentDrawnAreSaid) {
-  const S picture = "<c:spPr><a:blipFill><a:blip/><a:stretch><a:fillRect/></a:stretch></a:blipFill></c:spPr>";
-  const S dark =
-      "The chart has style 42, whose dark backgrounds aren't drawn; it is in the colours of a light one.";
-  const S filling = "Pictures as fillings aren't drawn; what has one is in its automatic colour.";
+TEST_F(LayoutTest, DarkStylesHaveTheirFillingsAndTexts) {
+  const auto newer = [](const S& number) {
+    return "<mc:AlternateContent xmlns:mc=\"http://schemas.openxmlformats.org/markup-compatibility/2006\">"
+           "<mc:Choice Requires=\"c14\" "
+           "xmlns:c14=\"http://schemas.microsoft.com/office/drawing/2007/8/2/chart\">"
+           "<c14:style val=\"" +
+           number + "\"/></mc:Choice></mc:AlternateContent>";
+  };
   struct {
-    const char* what;
-    S front, series, behind;
-    Texts notes;
+    S style, chartArea, plotArea, text, bar;
   } cases[] = {
-      {"a light style", "<c:style val=\"26\"/>", "", "", {}},
-      {"a dark style", "<c:style val=\"42\"/>", "", "", {dark}},
-      {"a dark style of newer files",
-       "<mc:AlternateContent "
-       "xmlns:mc=\"http://schemas.openxmlformats.org/markup-compatibility/2006\"><mc:Choice "
-       "Requires=\"c14\" xmlns:c14=\"http://schemas.microsoft.com/office/drawing/2007/8/2/chart\"><c14:style "
-       "val=\"142\"/></mc:Choice></mc:AlternateContent>",
-       "",
-       "",
-       {dark}},
-      {"a picture on bars", "", picture, "", {filling}},
-      {"a picture behind all", "", "", picture, {filling}},
+      {"<c:style val=\"26\"/>", "#FFFFFF", "#FFFFFF", "#000000", "#4F81BD"},
+      {"<c:style val=\"34\"/>", "#FFFFFF", "#E7E7E7", "#000000", "#4F81BD"},
+      {"<c:style val=\"42\"/>", "#000000", "#404040", "#FFFFFF", "#4F81BD"},
+      {newer("142"), "#000000", "#404040", "#FFFFFF", "#4F81BD"},
   };
   for (const auto& test : cases) {
-    S part = ChartPartXml(PlotXml(GroupXml("barChart", "", SeriesXml(0, {1, 2}, test.series)) + AxesXml()),
-                          test.behind);
-    part.insert(part.find("<c:chart>"), test.front);
-    EXPECT_EQ(FillOf(ItemsOf(DrawPart(part), Role::kBar)[0]), "#4F81BD") << test.what;
-    EXPECT_EQ(notes_, test.notes) << test.what;
+    S part = ChartPartXml(PlotXml(GroupXml("barChart", "", SeriesXml(0, {1, 2})) + AxesXml()));
+    part.insert(part.find("<c:chart>"), test.style);
+    const Drawing drawing = DrawPart(part);
+    const auto label = std::get<TextItem>(ItemsOf(drawing, Role::kTickLabel)[0].content);
+    EXPECT_EQ(FillOf(ItemsOf(drawing, Role::kChartArea)[0]), test.chartArea) << test.style;
+    EXPECT_EQ(FillOf(ItemsOf(drawing, Role::kPlotArea)[0]), test.plotArea) << test.style;
+    EXPECT_EQ(HexOf(label.color), test.text) << test.style;
+    EXPECT_EQ(FillOf(ItemsOf(drawing, Role::kBar)[0]), test.bar) << test.style;
+    EXPECT_EQ(notes_, Texts()) << test.style;
   }
+}
+
+TEST_F(LayoutTest, PicturesAsFillingsAreStretchedOrTiledInsideOfTheirShapes) {
+  Drawing red{8, 4, "", "", {}};
+  red.items.push_back(
+      {{}, PathItem{render::Path().AddRect({0, 0, 8, 4}), render::SolidFill{{255, 0, 0, 1}}, {}}});
+  const S png = MakePng(red, SharedFonts());
+  struct {
+    const char* what;
+    S bytes, mode;
+    std::size_t pictures;
+    Texts notes;
+  } cases[] = {
+      {"stretched", png, "<a:stretch><a:fillRect/></a:stretch>", 1, {}},
+      {"too many tiles", png, "<a:tile sx=\"1000\" sy=\"1000\"/>", 1, {}},
+      {"another format",
+       "GIF89a",
+       "",
+       0,
+       {"A picture as a filling isn't drawn, as it is no PNG; what has it is in its automatic colour."}},
+  };
+  for (const auto& test : cases) {
+    const S fill =
+        "<c:spPr xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\">"
+        "<a:blipFill><a:blip r:embed=\"rId1\"/>" +
+        test.mode + "</a:blipFill></c:spPr>";
+    OpenChart(ChartPartXml(PlotXml(GroupXml("barChart", "", SeriesXml(0, {2}, fill)) + AxesXml())));
+    xlsx::Package& package = Book().Package();
+    package.Add("/xl/media/image1.png", "image/png", test.bytes);
+    package.AddRelationship("/xl/charts/chart1.xml", "image", "/xl/media/image1.png");  // rId1
+    notes_.clear();
+    const Drawing drawing =
+        DrawChart(*Book().Chart("/xl/charts/chart1.xml"), 384, 270, SharedFonts(), notes_);
+    EXPECT_EQ(notes_, test.notes) << test.what;
+    std::size_t pictures = 0;
+    for (const Item& item : ItemsOf(drawing, Role::kBar)) {
+      const auto* image = std::get_if<render::ImageItem>(&item.content);
+      if (image == nullptr) continue;
+      ++pictures;
+      EXPECT_EQ(image->bytes, test.bytes) << test.what;
+      EXPECT_GT(image->place.height, 200) << test.what;
+    }
+    EXPECT_EQ(pictures, test.pictures) << test.what;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
+  }
+}
+
+TEST_F(LayoutTest, ATitleWithoutACacheHasTheTextOfItsCell) {
+  const Drawing drawing =
+      DrawColumns("", "", "<c:title><c:tx><c:strRef><c:f>Sheet1!$A$1</c:f></c:strRef></c:tx></c:title>");
+  EXPECT_EQ(TextsOf(drawing, Role::kTitle), Texts{"Region"});
+  EXPECT_NE(drawing.title, "");
 }
 
 TEST_F(LayoutTest, AxesOfKindsThatArentDrawnAreNotDrawnEither) {
@@ -228,7 +358,6 @@ TEST_F(LayoutTest, AxesOfKindsThatArentDrawnAreNotDrawnEither) {
     bool hasAxes;
     Texts notes;
   } cases[] = {
-      {"radarChart", false, {"Radar charts aren't drawn."}},
       {"surfaceChart", false, {"Surface charts aren't drawn."}},
       {"surface3DChart", false, {"Surface charts aren't drawn."}},
       {"barChart", true, {}},

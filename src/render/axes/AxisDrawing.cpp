@@ -6,6 +6,7 @@
 
 #include "render/axes/AxisMap.h"
 #include "render/axes/AxisPlace.h"
+#include "render/axes/CategoryLevels.h"
 #include "render/axes/DateAxis.h"
 #include "xlsx/chart/rules/AutomaticLayout.h"
 
@@ -31,7 +32,11 @@ std::vector<double> MajorPlaces(const AxisModel& axis, const AxisMap& map, xlsx:
   }
   const auto count = static_cast<long long>(axis.categories.size());
   const long long marks = axis.crossesBetween ? count + 1 : count;
-  const long long step = std::max(axis.tickSkip, marks / static_cast<long long>(kMostMarks) + 1);
+  // marks nearer to each other than this would be a band
+  constexpr double kNearest = 1.5;  // points
+  const double every = static_cast<double>(axis.tickSkip);
+  const double multiple = std::ceil(kNearest / std::max(map.CategoryWidth() * every, 1e-9));
+  const auto step = static_cast<long long>(std::min(every * std::max(multiple, 1.0), 1e9));
   for (long long i = 0; i < marks; i += step) {
     places.push_back(map.OfSlot(static_cast<double>(i) - (axis.crossesBetween ? 0.5 : 0)));
   }
@@ -80,7 +85,7 @@ void DrawMarks(Canvas& canvas, Role role, const AxisModel& axis, const std::vect
   }
 }
 
-/// The centre of a label that stands on the outer side of its axis.
+/// The centre of a label on the outer side of its axis.
 Point CenterOf(const AxisModel& axis, const TickLabels& labels, const TextBlock& block, double along,
                const AxisPlace& place) {
   const bool back = place.labelSide == Side::kLeft || place.labelSide == Side::kTop;
@@ -140,6 +145,7 @@ void DrawTickLabels(Canvas& canvas, const ChartModel& chart, const AxisModel& ax
     DrawBlock(canvas, {Role::kTickLabel, axis.number, label.number}, label.block,
               CenterOf(axis, labels, label.block, along, place), align);
   }
+  DrawOuterLevels(canvas, axis, labels, map, place);
 }
 
 }  // namespace plotsmith::render

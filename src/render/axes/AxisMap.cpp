@@ -31,7 +31,7 @@ double AxisMap::Fraction(double value) const {
 
 double AxisMap::OfValue(double value) const {
   const double place = low_ + Fraction(value) * (high_ - low_);
-  return std::isfinite(place) ? std::clamp(place, -kFarthest, kFarthest) : low_;
+  return std::isnan(place) ? low_ : std::clamp(place, -kFarthest, kFarthest);
 }
 
 double AxisMap::OfCategory(double index) const {

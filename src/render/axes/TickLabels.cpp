@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
+#include "render/axes/CategoryLevels.h"
 #include "render/axes/DateAxis.h"
 #include "render/model/ChartReader.h"
 
@@ -54,6 +56,12 @@ double SkipFor(double needed, double slot) {
   return std::max(std::ceil(needed / std::max(slot, 1e-6) - 1e-9), 1.0);
 }
 
+/// As many times the skip that a file gives as keeps labels off each other.
+double MultipleFor(double given, double needed, double slot) {
+  given = std::max(given, 1.0);
+  return given * SkipFor(needed, slot * given);
+}
+
 Setting SettingForFlat(const AxisModel& axis, const Sizes& sizes, double slot, double depth) {
   const double gap = kGapEms * axis.text.font.size;
   const double given = static_cast<double>(axis.labelSkip);
@@ -64,7 +72,7 @@ Setting SettingForFlat(const AxisModel& axis, const Sizes& sizes, double slot, d
     const bool flat = std::abs(std::sin(rotation * kRadian)) < 0.05;
     const bool wraps = flat && !axis.IsOfValues() && sizes.widestWord + gap <= room;
     if (wraps) return {rotation, room - gap, std::max(given, 1.0)};
-    return {rotation, kUnlimited, skips ? SkipFor(NeededAlong(sizes, rotation, gap), slot) : given};
+    return {rotation, kUnlimited, MultipleFor(given, NeededAlong(sizes, rotation, gap), slot)};
   }
   if (sizes.widest + gap <= room) return {0, kUnlimited, std::max(given, 1.0)};
   if (!axis.IsOfValues() && sizes.widestWord + gap <= room) {
@@ -76,7 +84,7 @@ Setting SettingForFlat(const AxisModel& axis, const Sizes& sizes, double slot, d
   for (const double rotation : {kSlanted, kUpwards}) {
     if (NeededAlong(sizes, rotation, gap) <= room) return {rotation, kUnlimited, std::max(given, 1.0)};
   }
-  return {kUpwards, kUnlimited, skips ? SkipFor(sizes.lineHeight * kLineSpacing, slot) : given};
+  return {kUpwards, kUnlimited, MultipleFor(given, sizes.lineHeight * kLineSpacing, slot)};
 }
 
 /// The height of the highest label whose lines break at a width.
@@ -96,19 +104,22 @@ Setting SettingForUpright(const AxisModel& axis, const std::vector<std::string>&
   Setting setting{rotation, kUnlimited, std::max(static_cast<double>(axis.labelSkip), 1.0)};
   const double turned = std::abs(std::sin(rotation * kRadian));
   if (turned < 0.05 && !axis.IsOfValues()) setting.wrap = std::max(depth, sizes.widestWord);
-  if (axis.labelSkip == 0) {
-    const double needed = turned < 0.05 ? TallestWrapped(texts, axis.text, setting.wrap, measure)
-                                        : NeededAlong(sizes, 90 - std::abs(rotation), 0);
-    setting.skip = SkipFor(needed, slot);
-  }
+  const double needed = turned < 0.05 ? TallestWrapped(texts, axis.text, setting.wrap, measure)
+                                      : NeededAlong(sizes, 90 - std::abs(rotation), 0);
+  setting.skip = MultipleFor(setting.skip, needed, slot);
   return setting;
 }
 
-/// A label that is too long for the room across the axis ends in dots.
+}  // namespace
+
 void Shorten(TextBlock& block, double most, const TextMeasure& measure) {
   if (block.width <= most || block.lines.size() != 1 || block.lines[0].runs.size() != 1) return;
   TextRun run = block.lines[0].runs[0];
   constexpr const char* kDots = "...";
+  if (measure.Measure(kDots, run.font).width > most) {
+    block = {};
+    return;
+  }
   std::size_t low = 0, high = run.text.size();
   while (low < high) {
     const std::size_t middle = (low + high + 1) / 2;
@@ -123,36 +134,54 @@ void Shorten(TextBlock& block, double most, const TextMeasure& measure) {
   block = LayOut(run.text.substr(0, low) + kDots, style, measure);
 }
 
+namespace {
+
+/// The texts along an axis with their places: values, or slots from 0.
+struct AxisTexts {
+  std::vector<std::string> texts;
+  std::vector<double> places;
+
+  void Add(std::string text, double place) {
+    texts.push_back(std::move(text));
+    places.push_back(place);
+  }
+};
+
+AxisTexts TextsAlong(const AxisModel& axis, xlsx::DateSystem dates) {
+  AxisTexts along;
+  if (axis.IsOfValues()) {
+    for (Tick& tick : MajorTicks(axis, dates)) along.Add(std::move(tick.label), tick.value);
+  } else if (axis.dates) {
+    for (DateTick& tick : DateTicks(axis, dates)) along.Add(std::move(tick.label), tick.slot);
+  } else {
+    for (const std::string& category : axis.categories) {
+      along.Add(category, static_cast<double>(along.places.size()));
+    }
+  }
+  return along;
+}
+
+/// The way from one text to the next, the shortest where they differ, as months do.
+double NarrowestSlot(const AxisModel& axis, const std::vector<double>& places, double length) {
+  const double count = static_cast<double>(places.size());
+  const bool onTicks = axis.IsOfValues() || !axis.crossesBetween;
+  double slot = length / std::max(onTicks ? count - 1 : count, 1.0);
+  for (std::size_t i = 1; axis.dates && i < places.size(); ++i) {
+    slot = std::min(slot, length * (places[i] - places[i - 1]) / std::max(axis.dates->count, 1.0));
+  }
+  return slot;
+}
+
 }  // namespace
 
 TickLabels LayOutTickLabels(const AxisModel& axis, double length, double depth, xlsx::DateSystem dates,
                             const TextMeasure& measure) {
   TickLabels result;
   if (axis.hidden || axis.tickLabels == "none" || axis.kind == AxisKind::kSeries) return result;
-  std::vector<std::string> texts;
-  std::vector<double> places;
-  if (axis.IsOfValues()) {
-    for (Tick& tick : MajorTicks(axis, dates)) {
-      texts.push_back(std::move(tick.label));
-      places.push_back(tick.value);
-    }
-  } else if (axis.dates) {
-    for (DateTick& tick : DateTicks(axis, dates)) {
-      texts.push_back(std::move(tick.label));
-      places.push_back(tick.slot);
-    }
-  } else {
-    texts = axis.categories;
-    for (std::size_t i = 0; i < texts.size(); ++i) places.push_back(static_cast<double>(i));
-  }
+  const auto [texts, places] = TextsAlong(axis, dates);
   if (texts.empty()) return result;
   const Sizes sizes = Measure(texts, axis.text, measure);
-  const double count = static_cast<double>(texts.size());
-  const bool onTicks = axis.IsOfValues() || !axis.crossesBetween;
-  double slot = length / std::max(onTicks ? count - 1 : count, 1.0);
-  for (std::size_t i = 1; axis.dates && i < places.size(); ++i) {  // months differ
-    slot = std::min(slot, length * (places[i] - places[i - 1]) / std::max(axis.dates->count, 1.0));
-  }
+  const double slot = NarrowestSlot(axis, places, length);
   const Setting setting = axis.IsUpright() ? SettingForUpright(axis, texts, sizes, slot, depth, measure)
                                            : SettingForFlat(axis, sizes, slot, depth);
   result.rotation = setting.rotation;
@@ -172,6 +201,7 @@ TickLabels LayOutTickLabels(const AxisModel& axis, double length, double depth, 
     result.halfWidth = std::max(result.halfWidth, along / 2);
     result.labels.push_back(std::move(label));
   }
+  AddOuterLevels(axis, length, measure, result);
   return result;
 }
 

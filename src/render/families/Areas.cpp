@@ -2,9 +2,19 @@
 #include <cmath>
 
 #include "render/axes/DateAxis.h"
+#include "render/families/Curves.h"
 #include "render/families/Plot.h"
 
 namespace plotsmith::render {
+namespace {
+
+/// From a point of an area down to what it is piled on.
+struct DropLine {
+  Tag tag;
+  double x = 0, top = 0, bottom = 0;
+};
+
+}  // namespace
 
 void DrawAreas(Plot& plot, const GroupModel& group) {
   const AxisModel* categoryAxis = plot.CategoryAxisOf(group);
@@ -15,6 +25,7 @@ void DrawAreas(Plot& plot, const GroupModel& group) {
   const Extents extents = StackValues(group);
   const double base = plot.BaseOf(group);
   plot.canvas.PushClip(Path().AddRect(plot.area));
+  std::vector<DropLine> dropLines;
   std::vector<double> pile(group.PointCount());  // a series without a value leaves the pile as it is
   for (std::size_t s = 0; s < group.series.size(); ++s) {
     const SeriesModel& series = group.series[s];
@@ -29,21 +40,21 @@ void DrawAreas(Plot& plot, const GroupModel& group) {
       lower.push_back({x, from == 0 ? base : values.OfValue(from)});
       if (!present) continue;
       const double top = std::min(upper.back().y, lower.back().y);
-      plot.points.push_back(
-          {&group, &series, i, {x, top, 0, std::abs(upper.back().y - lower.back().y)}, to < from});
+      const double bottom = std::max(upper.back().y, lower.back().y);
+      plot.Keep({&group, &series, i, {x, top, 0, bottom - top}, to < from});
+      if (group.dropLines) {
+        dropLines.push_back({{Role::kDropLine, series.number, static_cast<int>(i + 1)}, x, top, bottom});
+      }
     }
     if (upper.empty()) continue;
-    upper.insert(upper.end(), lower.rbegin(), lower.rend());
-    plot.canvas.Add({Role::kArea, series.number}, Path().AddPolygon(upper), series.style.fill,
+    std::vector<Point> outline = Thinned(upper);
+    const std::vector<Point> back = Thinned(lower);
+    outline.insert(outline.end(), back.rbegin(), back.rend());
+    plot.canvas.Add({Role::kArea, series.number}, Path().AddPolygon(outline), series.style.fill,
                     series.style.stroke);
   }
-  if (group.dropLines) {
-    for (const DrawnPoint& point : plot.points) {
-      if (point.group != &group) continue;
-      plot.canvas.AddLine({Role::kDropLine, point.series->number, static_cast<int>(point.index + 1)},
-                          {point.box.left, point.box.top}, {point.box.left, point.box.Bottom()},
-                          *group.dropLines);
-    }
+  for (const DropLine& line : dropLines) {
+    plot.canvas.AddLine(line.tag, {line.x, line.top}, {line.x, line.bottom}, *group.dropLines);
   }
   plot.canvas.PopClip();
 }

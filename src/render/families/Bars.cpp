@@ -3,6 +3,7 @@
 
 #include "render/axes/AxisPlace.h"
 #include "render/families/Plot.h"
+#include "render/families/ThinBars.h"
 
 namespace plotsmith::render {
 namespace {
@@ -26,38 +27,69 @@ BarSlots SlotsOf(const GroupModel& group, double categoryWidth) {
   return slots;
 }
 
+/// Where the bars of a group are.
+class BarPlaces {
+ public:
+  BarPlaces(const Plot& plot, const GroupModel& group, const AxisModel& categoryAxis,
+            const AxisModel& valueAxis)
+      : categories_(AxisMap::Along(categoryAxis, plot.area)),
+        values_(AxisMap::Along(valueAxis, plot.area)),
+        horizontal_(!valueAxis.IsUpright()),
+        stacked_(group.IsStacked()),
+        slots_(SlotsOf(group, categories_.CategoryWidth())),
+        base_(plot.BaseOf(group)) {}
+
+  bool IsHorizontal() const { return horizontal_; }
+  double Width() const { return slots_.width; }
+  /// The bar of a point, from one value to another.
+  Rect BoxOf(std::size_t series, std::size_t point, double from, double to) const {
+    const double begin = from == 0 ? base_ : values_.OfValue(from), end = values_.OfValue(to);
+    const double direction = categories_.High() < categories_.Low() ? -1 : 1;
+    const double slot = stacked_ ? 0 : static_cast<double>(series);
+    const double middle = categories_.OfCategory(static_cast<double>(point)) +
+                          direction * (slots_.offset + slot * slots_.step + slots_.width / 2);
+    const double across = middle - slots_.width / 2, least = std::min(begin, end);
+    return horizontal_ ? Rect{least, across, std::abs(end - begin), slots_.width}
+                       : Rect{across, least, slots_.width, std::abs(end - begin)};
+  }
+
+ private:
+  AxisMap categories_, values_;
+  bool horizontal_, stacked_;
+  BarSlots slots_;
+  double base_;
+};
+
 }  // namespace
 
 void DrawBars(Plot& plot, const GroupModel& group) {
   const AxisModel* categoryAxis = plot.CategoryAxisOf(group);
   const AxisModel* valueAxis = plot.ValueAxisOf(group);
   if (categoryAxis == nullptr || valueAxis == nullptr) return;
-  const AxisMap categories = AxisMap::Along(*categoryAxis, plot.area);
-  const AxisMap values = AxisMap::Along(*valueAxis, plot.area);
-  const bool horizontal = valueAxis->side == Side::kTop || valueAxis->side == Side::kBottom;
-  const BarSlots slots = SlotsOf(group, categories.CategoryWidth());
-  const double direction = categories.High() < categories.Low() ? -1 : 1;
+  const BarPlaces places(plot, group, *categoryAxis, *valueAxis);
+  const bool thin = places.Width() <= ThinBars::kWidest;
+  ThinBars merged(places.IsHorizontal());
   const Extents extents = StackValues(group);
-  const double base = plot.BaseOf(group), crossing = CrossingValue(*valueAxis, *categoryAxis);
+  const double crossing = CrossingValue(*valueAxis, *categoryAxis);
   plot.canvas.PushClip(Path().AddRect(plot.area));
-  for (std::size_t s = 0; s < group.series.size(); ++s) {
+  for (std::size_t count = 0; count < group.series.size(); ++count) {
+    const std::size_t s = thin ? group.series.size() - 1 - count : count;
     const SeriesModel& series = group.series[s];
-    const double slot = group.IsStacked() ? 0 : static_cast<double>(s);
     for (std::size_t i = 0; i < series.values.size(); ++i) {
       const double from = extents.from[s][i], to = extents.to[s][i];
       if (!std::isfinite(to)) continue;
-      const double begin = from == 0 ? base : values.OfValue(from), end = values.OfValue(to);
-      const double middle = categories.OfCategory(static_cast<double>(i)) +
-                            direction * (slots.offset + slot * slots.step + slots.width / 2);
-      const double across = middle - slots.width / 2;
-      const Rect box = horizontal ? Rect{std::min(begin, end), across, std::abs(end - begin), slots.width}
-                                  : Rect{across, std::min(begin, end), slots.width, std::abs(end - begin)};
-      const ShapeStyle style = series.StyleOf(i, series.values[i]);
-      plot.canvas.Add({Role::kBar, series.number, static_cast<int>(i + 1)}, Path().AddRect(box), style.fill,
-                      style.stroke);
-      plot.points.push_back({&group, &series, i, box, to < (group.IsStacked() ? from : crossing)});
+      const Rect box = places.BoxOf(s, i, from, to);
+      if (thin) {
+        merged.Add(series, i, box);
+      } else {
+        const ShapeStyle style = series.StyleOf(i, series.values[i]);
+        plot.canvas.Add({Role::kBar, series.number, static_cast<int>(i + 1)}, Path().AddRect(box), style.fill,
+                        style.stroke);
+      }
+      plot.Keep({&group, &series, i, box, to < (group.IsStacked() ? from : crossing)});
     }
   }
+  merged.Draw(plot.canvas);
   plot.canvas.PopClip();
 }
 

@@ -41,7 +41,7 @@ void DrawBubbles(Plot& plot, const GroupModel& group) {
       const double size = SizeOf(series, i);
       const bool present =
           i < series.x.size() && std::isfinite(series.x[i]) && std::isfinite(series.values[i]);
-      if (!present || !IsShown(group, size)) continue;
+      if (!present || !IsShown(group, size) || !plot.TakeSymbol()) continue;
       const double share = std::abs(size) / most;
       const double diameter = largest * (group.sizeIsWidth ? share : std::sqrt(share));
       const Point center{across.OfX(series.x[i]), values.OfValue(series.values[i])};
@@ -50,7 +50,7 @@ void DrawBubbles(Plot& plot, const GroupModel& group) {
       if (series.bubble3D) style.fill = AsBall(style.fill);
       plot.canvas.Add({Role::kBubble, series.number, static_cast<int>(i + 1)}, Path().AddEllipse(box),
                       style.fill, style.stroke);
-      if (Overlap(box, plot.area)) plot.points.push_back({&group, &series, i, box, size < 0});
+      if (Overlap(box, plot.area)) plot.Keep({&group, &series, i, box, size < 0});
     }
   }
   plot.canvas.PopClip();

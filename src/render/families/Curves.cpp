@@ -3,10 +3,7 @@
 #include <cmath>
 
 namespace plotsmith::render {
-namespace {
 
-/// Points of a dense line: of those that share half a point across, the first, the least, the greatest
-/// and the last are left.
 std::vector<Point> Thinned(const std::vector<Point>& points) {
   constexpr std::size_t kDense = 2000;
   constexpr double kColumn = 0.5;  // points, less than a pixel
@@ -28,8 +25,6 @@ std::vector<Point> Thinned(const std::vector<Point>& points) {
   }
   return kept;
 }
-
-}  // namespace
 
 void AddCurve(Path& path, const std::vector<Point>& all, bool smooth) {
   if (all.empty()) return;

@@ -1,6 +1,9 @@
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <set>
+#include <utility>
 
 #include "render/axes/DateAxis.h"
 #include "render/families/Curves.h"
@@ -30,20 +33,36 @@ std::vector<std::vector<Point>> Pieces(const std::vector<LinePoint>& points, boo
   return pieces;
 }
 
-/// Draws the line piecewise where points have strokes of their own.
+/// Draws the line piecewise where points have strokes of their own. Neighbours of one stroke are one path.
 void DrawSegments(Plot& plot, const SeriesModel& series, const std::vector<LinePoint>& points) {
   const LinePoint* previous = nullptr;
+  const ShapeStyle* style = nullptr;
+  std::vector<Point> run;
+  int last = 0;  // the number of the point at the run's end
+  const auto finish = [&] {
+    if (run.size() > 1) {
+      Path path;
+      AddCurve(path, run, false);
+      plot.canvas.Add({Role::kLine, series.number, last}, std::move(path), {}, style->stroke);
+    }
+    run.clear();
+  };
   for (const LinePoint& point : points) {
     if (!point.present) {
       if (plot.chart.blanks != "span") previous = nullptr;
       continue;
     }
-    if (previous != nullptr) {
-      plot.canvas.AddLine({Role::kLine, series.number, static_cast<int>(point.index + 1)}, previous->place,
-                          point.place, series.StyleOf(point.index).stroke);
+    const ShapeStyle* own = &series.StyleOf(point.index);
+    if (previous == nullptr || own != style) {
+      finish();
+      if (previous != nullptr) run.push_back(previous->place);
     }
+    run.push_back(point.place);
+    last = static_cast<int>(point.index + 1);
+    style = own;
     previous = &point;
   }
+  finish();
 }
 
 void DrawLineOf(Plot& plot, const SeriesModel& series, const std::vector<LinePoint>& points) {
@@ -62,9 +81,29 @@ void DrawLineOf(Plot& plot, const SeriesModel& series, const std::vector<LinePoi
   plot.canvas.PopClip();
 }
 
+/// The places of a dense series' markers. A marker that would lie on another but for a third of its size
+/// isn't drawn.
+class MarkerPlaces {
+ public:
+  explicit MarkerPlaces(std::size_t points) : isDense_(points > kDense) {}
+
+  /// Whether a marker is to be drawn.
+  bool Take(Point place, double size) {
+    if (!isDense_) return true;
+    const double cell = std::max(size / 3, 0.5);
+    return taken_.emplace(std::llround(place.x / cell), std::llround(place.y / cell)).second;
+  }
+
+ private:
+  static constexpr std::size_t kDense = 2000;
+  bool isDense_;
+  std::set<std::pair<long long, long long>> taken_;
+};
+
 void DrawMarkersOf(Plot& plot, const GroupModel& group, const SeriesModel& series,
                    const std::vector<LinePoint>& points) {
   constexpr double kSlack = 0.5;  // a marker on the edge of the plot area is inside
+  MarkerPlaces places(points.size());
   for (const LinePoint& point : points) {
     const bool inside = point.present && point.place.x >= plot.area.left - kSlack &&
                         point.place.x <= plot.area.Right() + kSlack &&
@@ -72,10 +111,12 @@ void DrawMarkersOf(Plot& plot, const GroupModel& group, const SeriesModel& serie
                         point.place.y <= plot.area.Bottom() + kSlack;
     if (!inside) continue;
     const MarkerModel& marker = series.MarkerOf(point.index);
-    DrawMarker(plot.canvas, {Role::kMarker, series.number, static_cast<int>(point.index + 1)}, marker,
-               point.place);
     const double size = marker.symbol == "none" ? 0 : marker.size;
-    plot.points.push_back(
+    if (size > 0 && places.Take(point.place, size) && plot.TakeSymbol()) {
+      DrawMarker(plot.canvas, {Role::kMarker, series.number, static_cast<int>(point.index + 1)}, marker,
+                 point.place);
+    }
+    plot.Keep(
         {&group, &series, point.index, {point.place.x - size / 2, point.place.y - size / 2, size, size}});
   }
 }

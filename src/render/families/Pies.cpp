@@ -119,7 +119,7 @@ void DrawSlices(Plot& plot, std::vector<DrawnPoint> slices, const Ring& ring) {
       plot.canvas.Add({Role::kSlice, series.number, static_cast<int>(slice.index + 1)},
                       SliceOutline(slice.circle, slice), style.fill, style.stroke);
     }
-    plot.points.push_back(slice);
+    plot.Keep(slice);
   }
 }
 

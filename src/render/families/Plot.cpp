@@ -25,6 +25,19 @@ std::vector<double> Wholes(const GroupModel& group) {
 
 }  // namespace
 
+bool Plot::TakeSymbol() {
+  if (symbolsLeft == 0) {
+    canvas.Note("The chart has more markers or bubbles than are drawn; the rest is left out.");
+    return false;
+  }
+  --symbolsLeft;
+  return true;
+}
+
+void Plot::Keep(const DrawnPoint& point) {
+  if (point.series->labels.Of(point.index) != nullptr) points.push_back(point);
+}
+
 const AxisModel* Plot::CategoryAxisOf(const GroupModel& group) const { return AxisAt(chart, group.category); }
 
 const AxisModel* Plot::ValueAxisOf(const GroupModel& group) const { return AxisAt(chart, group.value); }

@@ -28,8 +28,13 @@ struct Plot {
   const ChartModel& chart;
   Rect area;
   Canvas& canvas;
-  std::vector<DrawnPoint> points = {};  ///< filled by the families
+  std::vector<DrawnPoint> points = {};  ///< those with labels, as the families keep them
+  std::size_t symbolsLeft = 100'000;    ///< markers and bubbles that may be drawn
 
+  /// Whether one more marker or bubble may be drawn; says it if not.
+  bool TakeSymbol();
+  /// Keeps a point that was drawn, if it has a label.
+  void Keep(const DrawnPoint& point);
   const AxisModel* CategoryAxisOf(const GroupModel& group) const;
   const AxisModel* ValueAxisOf(const GroupModel& group) const;
   /// The place along the axis of values where the category axis crosses it. The group has both axes.
@@ -52,6 +57,8 @@ void DrawAreas(Plot& plot, const GroupModel& group);
 void DrawLines(Plot& plot, const GroupModel& group);
 void DrawScatter(Plot& plot, const GroupModel& group);
 void DrawBubbles(Plot& plot, const GroupModel& group);
+/// The series of a radar chart on a web of its own.
+void DrawRadar(Plot& plot, const GroupModel& group);
 /// A pie or a doughnut in the middle of the plot area, from which labels outside take their room.
 void DrawPie(Plot& plot, const GroupModel& group);
 

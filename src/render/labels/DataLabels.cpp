@@ -5,6 +5,7 @@
 #include <numbers>
 
 #include "render/labels/LabelText.h"
+#include "render/labels/PieLabels.h"
 #include "render/layout/LegendLayout.h"
 
 namespace plotsmith::render {
@@ -44,7 +45,7 @@ Point CenterAtBar(const Plot& plot, const DrawnPoint& point, const std::string& 
 Point CenterAtMarker(const DrawnPoint& point, const std::string& position, Half half) {
   const Point center = point.box.Center();
   const double x = point.box.width / 2 + half.width, y = point.box.height / 2 + half.height;
-  if (position == "t") return {center.x, center.y - y};
+  if (position == "t" || position == "outEnd") return {center.x, center.y - y};
   if (position == "b") return {center.x, center.y + y};
   if (position == "l") return {center.x - x, center.y};
   if (position == "r") return {center.x + x, center.y};
@@ -59,19 +60,6 @@ double FarthestInside(Half half, double degrees, double radius) {
   return rest > 0 ? std::max(std::sqrt(rest) - b, 0.0) : 0;
 }
 
-/// Whether a label keeps clear of a circle, or of the ellipse of a pie in 3-D and of its rim below.
-bool IsBeside(const DrawnPoint& point, Point center, Half half) {
-  const Point middle = point.circle.Center();
-  for (const double drop : {0.0, point.box.height - point.circle.height}) {
-    const Point nearest{std::clamp(middle.x, center.x - half.width, center.x + half.width),
-                        std::clamp(middle.y + drop, center.y - half.height, center.y + half.height)};
-    const double across = (nearest.x - middle.x) / (point.circle.width / 2);
-    const double down = (nearest.y - middle.y - drop) / (point.circle.height / 2);
-    if (std::hypot(across, down) < 1) return false;
-  }
-  return true;
-}
-
 /// As near to the middle of the slice's edge as a label can be.
 Point CenterBesideSlice(const DrawnPoint& point, Half half, double degrees) {
   const Point edge = OnEllipse(point.circle, degrees), way = OnEllipse({-1, -1, 2, 2}, degrees);
@@ -82,7 +70,9 @@ Point CenterBesideSlice(const DrawnPoint& point, Half half, double degrees) {
   constexpr int kSteps = 20;
   for (int step = 0; step < kSteps; ++step) {
     const double middle = (near + far) / 2;
-    (IsBeside(point, at(middle), half) ? far : near) = middle;
+    const Point center = at(middle);
+    const Rect box{center.x - half.width, center.y - half.height, 2 * half.width, 2 * half.height};
+    (IsBesideSlice(point, box) ? far : near) = middle;
   }
   return at(far + kGap);
 }
@@ -118,51 +108,58 @@ Point CenterOf(const Plot& plot, const DrawnPoint& point, const LabelModel& labe
   }
 }
 
-/// The line from a slice to its label, once that is away from it.
-void DrawLeader(Plot& plot, const DrawnPoint& point, const Rect& label) {
+/// The line from a slice to a label that was moved away from it.
+void DrawLeader(Plot& plot, const PlacedLabel& placed) {
+  const DrawnPoint& point = *placed.point;
   const LabelsModel& labels = point.series->labels;
-  if (!labels.leaderLines || point.sweep <= 0) return;
-  const Point from = OnEllipse(point.circle, point.angle + point.sweep / 2), center = label.Center();
-  if (std::hypot(center.x - point.circle.Center().x, center.y - point.circle.Center().y) <=
-      point.circle.width / 2) {
-    return;  // a label inside of the circle
-  }
-  const Point to{std::clamp(from.x, label.left, label.Right()),
-                 std::clamp(from.y, label.top, label.Bottom())};
-  constexpr double kShortest = 5;  // points
+  const Rect label = placed.Box();
+  if (!labels.leaderLines || !placed.moved || point.sweep <= 0 || !IsBesideSlice(point, label)) return;
+  const Point from = OnEllipse(point.circle, point.angle + point.sweep / 2);
+  Point to{std::clamp(from.x, label.left, label.Right()), std::clamp(from.y, label.top, label.Bottom())};
+  if (to.x != from.x) to.y = label.Center().y;  // to the middle of a side, not to a corner
+  constexpr double kShortest = 5;               // points
   if (std::hypot(to.x - from.x, to.y - from.y) < kShortest) return;
   plot.canvas.AddLine({Role::kLeaderLine, point.series->number, static_cast<int>(point.index + 1)}, from, to,
                       labels.leaderStroke);
 }
 
-void DrawLabel(Plot& plot, const DrawnPoint& point, const LabelModel& label) {
+/// A label where it belongs by itself, and on the chart.
+PlacedLabel PlaceLabel(const Plot& plot, const DrawnPoint& point, const LabelModel& label) {
   const RichText text = LabelText(plot.chart, *point.group, *point.series, point.index, label, point.share);
-  if (text.IsEmpty()) return;
+  PlacedLabel placed{&point, &label};
+  if (text.IsEmpty()) return placed;
   const Rect bounds = plot.canvas.Bounds();
-  TextBlock block = LayOut(text, plot.canvas.Measure());
-  if (block.width > bounds.width * kWidestShare) {
-    block = LayOut(text, plot.canvas.Measure(), bounds.width * kWidestShare);
+  placed.block = LayOut(text, plot.canvas.Measure());
+  if (placed.block.width > bounds.width * kWidestShare) {
+    placed.block = LayOut(text, plot.canvas.Measure(), bounds.width * kWidestShare);
   }
-  const double keyRoom = label.showsKey ? kKeySide + 2 : 0;
-  const Half half{(block.TurnedWidth() + keyRoom) / 2 + kLabelPadding, block.TurnedHeight() / 2};
-  Point center = CenterOf(plot, point, label, half);
+  placed.keyRoom = label.showsKey ? kKeySide + 2 : 0;
+  placed.halfWidth = (placed.block.TurnedWidth() + placed.keyRoom) / 2 + kLabelPadding;
+  placed.halfHeight = placed.block.TurnedHeight() / 2;
+  Point& center = placed.center;
+  center = CenterOf(plot, point, label, {placed.halfWidth, placed.halfHeight});
   if (label.layout) {
+    placed.moved = true;
     center.x += label.layout->x.value_or(0) * bounds.width;
     center.y += label.layout->y.value_or(0) * bounds.height;
   }
-  // a label stays on the chart
-  const double right = bounds.width - half.width, bottom = bounds.height - half.height;
-  center.x = std::max(std::min(center.x, right), half.width);
-  center.y = std::max(std::min(center.y, bottom), half.height);
+  center.x = std::max(std::min(center.x, bounds.width - placed.halfWidth), placed.halfWidth);
+  center.y = std::max(std::min(center.y, bounds.height - placed.halfHeight), placed.halfHeight);
+  return placed;
+}
+
+void DrawLabel(Plot& plot, const PlacedLabel& placed) {
+  const DrawnPoint& point = *placed.point;
+  const LabelModel& label = *placed.label;
   const Tag tag{Role::kDataLabel, point.series->number, static_cast<int>(point.index + 1)};
-  const Rect box{center.x - half.width, center.y - half.height, 2 * half.width, 2 * half.height};
-  DrawLeader(plot, point, box);
+  const Rect box = placed.Box();
+  DrawLeader(plot, placed);
   plot.canvas.Add(tag, Path().AddRect(box), label.style.fill, label.style.stroke);
   if (label.showsKey) {
     DrawKey(plot.canvas, plot.chart, {Role::kLegendKey, tag.series, tag.point},
-            {box.left + kLabelPadding, center.y - kKeySide / 2, kKeySide, kKeySide});
+            {box.left + kLabelPadding, placed.center.y - kKeySide / 2, kKeySide, kKeySide});
   }
-  DrawBlock(plot.canvas, tag, block, {center.x + keyRoom / 2, center.y});
+  DrawBlock(plot.canvas, tag, placed.block, {placed.center.x + placed.keyRoom / 2, placed.center.y});
 }
 
 }  // namespace
@@ -187,16 +184,22 @@ bool FitsInSlice(const DrawnPoint& slice, double width, double height) {
 
 void DrawDataLabels(Plot& plot) {
   constexpr std::size_t kMostLabels = 20'000;
-  std::size_t drawn = 0;
+  std::vector<PlacedLabel> labels;
   for (const DrawnPoint& point : plot.points) {
     const LabelModel* label = point.series->labels.Of(point.index);
     if (label == nullptr) continue;
-    if (++drawn > kMostLabels) {
+    if (labels.size() == kMostLabels) {
       plot.canvas.Note("The chart has more data labels than are drawn; the rest is left out.");
-      return;
+      break;
     }
-    DrawLabel(plot, point, *label);
+    PlacedLabel placed = PlaceLabel(plot, point, *label);
+    if (!placed.block.IsEmpty()) labels.push_back(std::move(placed));
   }
+  if (const std::size_t leftOut = SpreadPieLabels(plot, labels); leftOut > 0) {
+    plot.canvas.Note("The pie has no room for " + std::to_string(leftOut) +
+                     " of its data labels, which are left out.");
+  }
+  for (const PlacedLabel& label : labels) DrawLabel(plot, label);
 }
 
 }  // namespace plotsmith::render

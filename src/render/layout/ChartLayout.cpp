@@ -41,17 +41,16 @@ Rect Without(const Rect& rect, const Edges& edges) {
           rect.height - edges.top - edges.bottom};
 }
 
-/// A rectangle that keeps a least share of the chart, whatever was taken from it.
-Rect KeepLeast(Rect rect, const Rect& bounds) {
-  const double width = kLeastShare * bounds.width, height = kLeastShare * bounds.height;
-  if (rect.width < width) {
-    rect.left = std::min(rect.left, bounds.Right() - width);
-    rect.width = width;
-  }
-  if (rect.height < height) {
-    rect.top = std::min(rect.top, bounds.Bottom() - height);
-    rect.height = height;
-  }
+/// A rectangle that keeps a least share of the chart, however much was taken from it. It stays in `room` as
+/// far as that is large enough.
+Rect KeepLeast(Rect rect, const Rect& bounds, const Rect& room) {
+  const auto keep = [](double& from, double& extent, double least, double end) {
+    if (extent >= least) return;
+    from = std::min(from, end - least);
+    extent = least;
+  };
+  keep(rect.left, rect.width, kLeastShare * bounds.width, room.Right());
+  keep(rect.top, rect.height, kLeastShare * bounds.height, room.Bottom());
   return rect;
 }
 
@@ -141,16 +140,16 @@ class Layouter {
   }
 
   void SetPlot() {
-    layout_.outer = KeepLeast(Without(free_, titles_), bounds_);
+    layout_.outer = KeepLeast(Without(free_, titles_), bounds_, free_);
     layout_.plot = layout_.outer;
     const bool inner = chart_.layout && chart_.layout->inner;
     if (chart_.layout && !inner) {
-      layout_.outer = KeepLeast(Applied(*chart_.layout, bounds_, layout_.outer), bounds_);
+      layout_.outer = KeepLeast(Applied(*chart_.layout, bounds_, layout_.outer), bounds_, bounds_);
     }
     // the labels decide about the plot area, and its size about the labels
     for (int pass = 0; pass < 3; ++pass) {
-      layout_.plot = KeepLeast(Without(layout_.outer, rooms_), bounds_);
-      if (inner) layout_.plot = KeepLeast(Applied(*chart_.layout, bounds_, layout_.plot), bounds_);
+      layout_.plot = KeepLeast(Without(layout_.outer, rooms_), bounds_, layout_.outer);
+      if (inner) layout_.plot = KeepLeast(Applied(*chart_.layout, bounds_, layout_.plot), bounds_, bounds_);
       SetTickLabels();
     }
     if (inner) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
+#include <utility>
 
 #include "render/families/Markers.h"
 
@@ -15,7 +17,10 @@ constexpr double kKeyGapEms = 0.4;      // between a key and its text
 constexpr double kEntryGapEms = 0.9;    // between entries side by side
 constexpr double kRowGapEms = 0.12;     // between rows, as lines of text keep none
 constexpr double kColumnGapEms = 0.35;  // on both sides of a column of entries
-constexpr double kWidestShare = 0.45;   // of the chart, for a legend at a side
+constexpr double kMostShare = 0.45;     // of the chart's width or height that a legend may take
+constexpr double kGap = 5;              // between the legend and the plot area
+
+constexpr double kDust = 1e-6;  // points that rounding may add
 
 struct Measured {
   const LegendEntry* entry;
@@ -26,8 +31,7 @@ bool HasLineKey(const ChartModel& chart, const LegendEntry& entry) {
   const GroupModel* group = chart.GroupOfSeries(entry.series);
   if (group == nullptr || group->is3D) return false;
   return group->family == Family::kLine || group->family == Family::kScatter ||
-         group->family == Family::kStock ||
-         (group->family == Family::kRadar && group->series.front().style.stroke.width > 0);
+         group->family == Family::kStock || (group->family == Family::kRadar && !group->filled);
 }
 
 /// Entries from the first, or where they are piled up beside a pile, from the last.
@@ -60,12 +64,22 @@ void Place(LegendLayout& layout, const Grid& grid, Measured& measured, double le
   layout.entries.push_back(std::move(placed));
 }
 
-/// One below the other, in as many columns as the height asks for.
+/// The room for a legend. One that was sized by hand shows at least one entry, and may be narrower than its
+/// texts.
+struct Limits {
+  double width = 0, height = 0;
+  bool byHand = false;
+
+  bool HasHeight(double bottom, bool isFirst) const {
+    return bottom <= height - kPadding + kDust || (byHand && isFirst);
+  }
+};
+
+/// Places entries one below the other, in as many columns as the height asks for, as long as they fit.
 void PlaceInColumns(LegendLayout& layout, const Grid& grid, std::vector<Measured>& entries,
-                    const Rect& limits) {
-  const double gap = kRowGapEms * grid.em;
-  const double first = kPadding + kColumnGapEms * grid.em;
-  double left = first, top = kPadding, widest = 0, bottom = 0;
+                    const Limits& limits) {
+  const double gap = kRowGapEms * grid.em, margin = kPadding + kColumnGapEms * grid.em;
+  double left = margin, top = kPadding, widest = 0;
   for (Measured& measured : entries) {
     const double height = std::max(measured.text.height, grid.row);
     if (top + height > limits.height - kPadding && top > kPadding) {
@@ -73,42 +87,61 @@ void PlaceInColumns(LegendLayout& layout, const Grid& grid, std::vector<Measured
       top = kPadding;
       widest = 0;
     }
-    if (left + grid.WidthOf(measured.text.width) > limits.width && left > first) break;
+    const double right = left + grid.WidthOf(measured.text.width) + margin;
+    const bool isWide = right <= limits.width + kDust || (limits.byHand && left == margin);
+    if (!isWide || !limits.HasHeight(top + height, layout.entries.empty())) break;
     widest = std::max(widest, measured.text.width);
     Place(layout, grid, measured, left, top, height);
+    layout.box.width = std::max(layout.box.width, right);
+    layout.box.height = std::max(layout.box.height, top + height + kPadding);
     top += height + gap;
-    bottom = std::max(bottom, top - gap);
   }
-  layout.box.width = left + grid.WidthOf(widest) + kColumnGapEms * grid.em + kPadding;
-  layout.box.height = bottom + kPadding;
 }
 
-/// Side by side, in as many rows as the width asks for; then in columns of one width.
-void PlaceInRows(LegendLayout& layout, const Grid& grid, std::vector<Measured>& entries, const Rect& limits) {
+/// How entries side by side share the width: all in one row, or in columns of one width.
+struct Columns {
+  bool oneRow = true;
+  std::size_t count = 1;
+  double width = 0;  ///< of a column
+};
+
+Columns ColumnsFor(const Grid& grid, const std::vector<Measured>& entries, double room) {
   const double gap = kEntryGapEms * grid.em;
-  double widest = 0, all = 0;
+  Columns columns;
+  double all = -gap;
   for (const Measured& measured : entries) {
-    widest = std::max(widest, grid.WidthOf(measured.text.width));
+    columns.width = std::max(columns.width, grid.WidthOf(measured.text.width));
     all += grid.WidthOf(measured.text.width) + gap;
   }
-  const double room = limits.width - 2 * kPadding;
-  const bool oneRow = all - gap <= room;
-  const auto columns = static_cast<std::size_t>(std::max(std::floor((room + gap) / (widest + gap)), 1.0));
-  const double rowHeight = grid.row + kRowGapEms * grid.em;
-  double left = kPadding, top = kPadding, right = 0;
-  for (std::size_t i = 0; i < entries.size(); ++i) {
-    if (!oneRow && i > 0 && i % columns == 0) {
-      left = kPadding;
-      top += rowHeight;
-      if (top + grid.row > limits.height - kPadding) break;
+  columns.oneRow = all <= room;
+  columns.count =
+      columns.oneRow
+          ? entries.size()
+          : static_cast<std::size_t>(std::max(std::floor((room + gap + kDust) / (columns.width + gap)), 1.0));
+  return columns;
+}
+
+/// Places entries side by side, in as many rows as the width asks for, as long as they fit.
+void PlaceInRows(LegendLayout& layout, const Grid& grid, std::vector<Measured>& entries,
+                 const Limits& limits) {
+  const Columns columns = ColumnsFor(grid, entries, limits.width - 2 * kPadding);
+  double top = kPadding;
+  for (std::size_t first = 0; first < entries.size(); first += columns.count) {
+    const std::size_t end = std::min(first + columns.count, entries.size());
+    double height = grid.row, left = kPadding;
+    for (std::size_t i = first; i < end; ++i) height = std::max(height, entries[i].text.height);
+    const bool isWide =
+        columns.oneRow || limits.byHand || columns.width <= limits.width - 2 * kPadding + kDust;
+    if (!isWide || !limits.HasHeight(top + height, first == 0)) break;
+    for (std::size_t i = first; i < end; ++i) {
+      const double width = grid.WidthOf(entries[i].text.width);
+      Place(layout, grid, entries[i], left, top, height);
+      layout.box.width = std::max(layout.box.width, left + width + kPadding);
+      left += (columns.oneRow ? width : columns.width) + kEntryGapEms * grid.em;
     }
-    const double width = grid.WidthOf(entries[i].text.width);
-    Place(layout, grid, entries[i], left, top, grid.row);
-    right = std::max(right, left + width);
-    left += (oneRow ? width : widest) + gap;
+    layout.box.height = top + height + kPadding;
+    top += height + kRowGapEms * grid.em;
   }
-  layout.box.width = right + kPadding;
-  layout.box.height = top + grid.row + kPadding;
 }
 
 /// A layout by hand moves the legend, and may give it a size.
@@ -126,7 +159,7 @@ void ApplyLayout(const ManualLayout& layout, const Rect& bounds, Rect& box) {
 }
 
 /// Puts the box on its side of the free rectangle, and takes its room.
-void Dock(const LegendModel& legend, Rect& box, Rect& free, double gap) {
+void Dock(const LegendModel& legend, Rect& box, Rect& free) {
   const std::string& side = legend.position;
   box.left = side == "l" ? free.left : free.Right() - box.width;
   box.top = side == "b" ? free.Bottom() - box.height : free.top;
@@ -137,65 +170,52 @@ void Dock(const LegendModel& legend, Rect& box, Rect& free, double gap) {
   }
   if (legend.overlay) return;
   if (side == "t" || side == "b") {
-    const double taken = std::min(box.height + gap, free.height * 0.8);
+    const double taken = std::min(box.height + kGap, free.height);
     free.height -= taken;
     if (side == "t") free.top += taken;
   } else {
-    const double taken = std::min(box.width + gap, free.width * 0.8);
+    const double taken = std::min(box.width + kGap, free.width);
     free.width -= taken;
     if (side == "l") free.left += taken;
   }
 }
 
-}  // namespace
-
-LegendLayout LayOutLegend(const ChartModel& chart, const Rect& bounds, Rect& free,
-                          const TextMeasure& measure) {
-  constexpr double kGap = 5;  // between the legend and the plot area
-  LegendLayout layout;
-  const LegendModel& legend = *chart.legend;
-  const bool flat = legend.position == "t" || legend.position == "b";
-  const std::vector<const LegendEntry*> order = InOrder(chart, !flat);
-  const bool lineKeys = std::any_of(order.begin(), order.end(),
-                                    [&](const LegendEntry* entry) { return HasLineKey(chart, *entry); });
-  Grid grid;
-  grid.em = legend.text.font.size;
-  grid.keyWidth = (lineKeys ? kLineKeyEms : kSquareEms) * grid.em;
-  grid.row = measure.Measure("0", legend.text.font).Height();
-  Rect limits = flat ? free : Rect{0, 0, bounds.width * kWidestShare, free.height};
-  const bool sized = legend.layout && legend.layout->width && legend.layout->height;
-  bool rows = flat;
-  if (sized) {
+/// The room for a legend at its side of the chart, or in a box by hand.
+Limits LimitsOf(const LegendModel& legend, const Rect& bounds, const Rect& free) {
+  if (legend.layout && legend.layout->width && legend.layout->height) {
     Rect box;
     ApplyLayout(*legend.layout, bounds, box);
-    limits = box;
-    rows = box.width > box.height;
+    return {box.width, box.height, true};
   }
+  const double widest = std::min(kMostShare * bounds.width, free.width - kGap);
+  const double highest = std::min(kMostShare * bounds.height, free.height - kGap);
+  return legend.IsFlat() ? Limits{free.width, highest} : Limits{widest, free.height};
+}
+
+/// The texts of the entries, broken where they would be wider than the legend.
+std::vector<Measured> MeasureEntries(const std::vector<const LegendEntry*>& order, const Grid& grid,
+                                     const Limits& limits, const TextMeasure& measure) {
   const double wrap =
       std::max(limits.width - 2 * kPadding - grid.WidthOf(2 * kColumnGapEms * grid.em), 3 * grid.em);
   std::vector<Measured> entries;
   for (const LegendEntry* entry : order) {
     TextStyle style = entry->style;
     style.rotation.reset();
-    entries.push_back({entry, LayOut(entry->text, style, measure, rows ? kUnlimited : wrap)});
-    if (rows && entries.back().text.width > wrap)
-      entries.back().text = LayOut(entry->text, style, measure, wrap);
-    if (rows) grid.row = std::max(grid.row, entries.back().text.height);
+    TextBlock text = LayOut(entry->text, style, measure);
+    if (text.width > wrap) text = LayOut(entry->text, style, measure, wrap);
+    entries.push_back({entry, std::move(text)});
   }
-  if (rows) {
-    PlaceInRows(layout, grid, entries, limits);
-  } else {
-    PlaceInColumns(layout, grid, entries, limits);
-  }
-  Rect box = layout.box;
-  Dock(legend, box, free, kGap);
+  return entries;
+}
+
+/// Moves the box where a layout by hand says, and the entries into its middle.
+void Settle(LegendLayout& layout, const LegendModel& legend, const Rect& bounds, Rect box) {
   if (legend.layout) {
     ApplyLayout(*legend.layout, bounds, box);
-    // wherever it was dragged, it is on the chart
+    // a legend that was dragged over the edge is moved back onto the chart
     box.left = std::max(std::min(box.left, bounds.Right() - box.width), bounds.left);
     box.top = std::max(std::min(box.top, bounds.Bottom() - box.height), bounds.top);
   }
-  // entries keep to the middle of a box that is larger than they need
   const double right = std::max(box.width - layout.box.width, 0.0) / 2;
   const double down = std::max(box.height - layout.box.height, 0.0) / 2;
   for (PlacedEntry& entry : layout.entries) {
@@ -205,6 +225,33 @@ LegendLayout LayOutLegend(const ChartModel& chart, const Rect& bounds, Rect& fre
     entry.textCenter.y += box.top + down;
   }
   layout.box = box;
+}
+
+}  // namespace
+
+LegendLayout LayOutLegend(const ChartModel& chart, const Rect& bounds, Rect& free,
+                          const TextMeasure& measure) {
+  LegendLayout layout;
+  const LegendModel& legend = *chart.legend;
+  const std::vector<const LegendEntry*> order = InOrder(chart, !legend.IsFlat());
+  const bool lineKeys = std::any_of(order.begin(), order.end(),
+                                    [&](const LegendEntry* entry) { return HasLineKey(chart, *entry); });
+  Grid grid;
+  grid.em = legend.text.font.size;
+  grid.keyWidth = (lineKeys ? kLineKeyEms : kSquareEms) * grid.em;
+  grid.row = measure.Measure("0", legend.text.font).Height();
+  const Limits limits = LimitsOf(legend, bounds, free);
+  std::vector<Measured> entries = MeasureEntries(order, grid, limits, measure);
+  if (limits.byHand ? limits.width > limits.height : legend.IsFlat()) {
+    PlaceInRows(layout, grid, entries, limits);
+  } else {
+    PlaceInColumns(layout, grid, entries, limits);
+  }
+  layout.leftOut = entries.size() - layout.entries.size();
+  if (layout.entries.empty()) return layout;
+  Rect box = layout.box;
+  Dock(legend, box, free);
+  Settle(layout, legend, bounds, box);
   return layout;
 }
 
@@ -231,6 +278,12 @@ void DrawKey(Canvas& canvas, const ChartModel& chart, Tag tag, const Rect& box) 
 }
 
 void DrawLegend(Canvas& canvas, const ChartModel& chart, const LegendLayout& layout) {
+  if (layout.leftOut > 0) {
+    canvas.Note(layout.entries.empty() ? "The chart has no room for its legend, which is left out."
+                                       : "The legend has room for " + std::to_string(layout.entries.size()) +
+                                             " of its entries; the others are left out.");
+  }
+  if (layout.entries.empty()) return;
   canvas.AddFrame({Role::kLegend}, layout.box, chart.legend->style.fill, chart.legend->style.stroke);
   for (const PlacedEntry& placed : layout.entries) {
     const LegendEntry& entry = *placed.entry;

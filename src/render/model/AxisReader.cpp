@@ -65,6 +65,19 @@ Side SideOf(pugi::xml_node axis) {
   return side == "t" ? Side::kTop : Side::kBottom;
 }
 
+/// The line of an axis and its gridlines.
+void ReadLines(ReadingContext& context, pugi::xml_node node, AxisModel& axis) {
+  const Stroke automatic = context.styles.AxisLine();
+  axis.line = ReadStroke(context.part, xml::Child(node, "spPr", "ln"), automatic);
+  if (const auto lines = xml::Child(node, "majorGridlines")) {
+    axis.majorGridlines = ReadStroke(context.part, xml::Child(lines, "spPr", "ln"), automatic);
+  }
+  if (const auto lines = xml::Child(node, "minorGridlines")) {
+    axis.minorGridlines =
+        ReadStroke(context.part, xml::Child(lines, "spPr", "ln"), context.styles.MinorGridline());
+  }
+}
+
 }  // namespace
 
 TitleModel ReadTitle(ReadingContext& context, pugi::xml_node title, xlsx::TextRole role,
@@ -97,15 +110,7 @@ AxisModel ReadAxis(ReadingContext& context, pugi::xml_node node) {
   axis.tickLabels = schema::Val(node, "tickLblPos", "nextTo");
   axis.majorTicks = schema::Val(node, "majorTickMark", "out");
   axis.minorTicks = schema::Val(node, "minorTickMark", "none");
-  const Stroke automatic = context.styles.AxisLine();
-  axis.line = ReadStroke(context.part, xml::Child(node, "spPr", "ln"), automatic);
-  if (const auto lines = xml::Child(node, "majorGridlines")) {
-    axis.majorGridlines = ReadStroke(context.part, xml::Child(lines, "spPr", "ln"), automatic);
-  }
-  if (const auto lines = xml::Child(node, "minorGridlines")) {
-    axis.minorGridlines =
-        ReadStroke(context.part, xml::Child(lines, "spPr", "ln"), context.styles.MinorGridline());
-  }
+  ReadLines(context, node, axis);
   if (const auto title = xml::Child(node, "title")) {
     axis.title = ReadTitle(context, title, xlsx::TextRole::kAxisTitle, "Axis Title");
   }

@@ -28,12 +28,16 @@ const ShapeStyle& SeriesModel::StyleOf(std::size_t point) const {
   return palette.empty() ? style : palette[point % palette.size()].style;
 }
 
+bool SeriesModel::IsInverted(std::size_t point, double value) const {
+  if (!(value < 0)) return false;
+  const auto special = points.find(point);
+  return special == points.end() ? invertIfNegative
+                                 : special->second.invertIfNegative.value_or(invertIfNegative);
+}
+
 ShapeStyle SeriesModel::StyleOf(std::size_t point, double value) const {
   ShapeStyle shape = StyleOf(point);
-  const auto special = points.find(point);
-  const bool inverts = special == points.end() ? invertIfNegative
-                                               : special->second.invertIfNegative.value_or(invertIfNegative);
-  if (!inverts || !(value < 0)) return shape;
+  if (!IsInverted(point, value)) return shape;
   if (std::holds_alternative<SolidFill>(shape.fill)) shape.fill = invertedFill;
   if (auto* pattern = std::get_if<PatternFill>(&shape.fill)) {
     std::swap(pattern->foreground, pattern->background);

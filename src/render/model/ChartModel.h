@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "render/Drawing.h"
+#include "xlsx/chart/rules/DataExtent.h"
 #include "xlsx/chart/rules/ScaleRules.h"
 #include "xlsx/numberformat/DateSystem.h"
 #include "xlsx/numberformat/NumberFormat.h"
@@ -120,8 +121,16 @@ struct SeriesModel {
   const ShapeStyle& StyleOf(std::size_t point) const;
   /// The same with the filling that a point has by its value or size, where those below zero are inverted.
   ShapeStyle StyleOf(std::size_t point, double value) const;
+  bool IsInverted(std::size_t point, double value) const;
   const MarkerModel& MarkerOf(std::size_t point) const;
 };
+
+/// What neighbouring categories have in common, on an outer level.
+struct CategoryGroup {
+  std::size_t first = 0, end = 0;  ///< of the categories, from 0 to before the end
+  std::string text;
+};
+using CategoryLevel = std::vector<CategoryGroup>;
 
 enum class Family : std::uint8_t {
   kArea,
@@ -144,6 +153,7 @@ struct GroupModel {
   Grouping grouping = Grouping::kStandard;
   bool is3D = false;
   bool horizontal = false;  ///< bars
+  bool filled = false;      ///< radar charts, which are drawn as areas
   bool varyColors = false;
   bool markersOnly = false;            ///< a scatter chart without lines
   double gapWidth = 150, overlap = 0;  ///< percent
@@ -154,7 +164,8 @@ struct GroupModel {
   bool sizeIsWidth = false;  ///< else the area of a bubble is its size
   std::optional<Stroke> dropLines, highLowLines;
   std::vector<SeriesModel> series;
-  std::vector<std::string> categories;  ///< texts of the tick labels; as many as there are points
+  std::vector<std::string> categories;     ///< texts of the tick labels; as many as there are points
+  std::vector<CategoryLevel> outerLevels;  ///< from the one next to the categories outwards
   /// Indices into ChartModel::axes, -1 where the group has none. `category` is the axis of X values of a
   /// scatter or bubble chart.
   int category = -1, value = -1, depth = -1;
@@ -195,9 +206,9 @@ struct AxisModel {
   bool hidden = false;
   bool reversed = false;
   std::optional<double> logBase;
-  xlsx::AxisScale scale;                  ///< of an axis of values
-  xlsx::AxisSettings settings;            ///< what of the scale is set by hand
-  std::optional<double> least, greatest;  ///< of the data along an axis of values
+  xlsx::AxisScale scale;        ///< of an axis of values
+  xlsx::AxisSettings settings;  ///< what of the scale is set by hand
+  xlsx::DataExtent extent;      ///< of the data along an axis of values
   std::optional<double> minorUnit;
   FormatPointer format;
   std::string tickLabels = "nextTo";                    ///< ST_TickLblPos
@@ -213,7 +224,8 @@ struct AxisModel {
   long long labelSkip = 0, tickSkip = 1;  ///< 0 where Excel decides
   DisplayUnits units;
   std::vector<std::string> categories;  ///< of its first group
-  std::optional<DateSlots> dates;       ///< of an axis of dates whose categories are dates
+  std::vector<CategoryLevel> outerLevels;
+  std::optional<DateSlots> dates;  ///< of an axis of dates whose categories are dates
 
   bool IsUpright() const { return side == Side::kLeft || side == Side::kRight; }
   bool IsOfValues() const { return kind == AxisKind::kValue; }
@@ -231,6 +243,9 @@ struct LegendModel {
   ShapeStyle style;
   TextStyle text;
   std::vector<LegendEntry> entries;
+
+  /// Whether it lies above or below the plot area, with its entries side by side.
+  bool IsFlat() const { return position == "t" || position == "b"; }
 };
 
 struct ChartModel {
@@ -241,7 +256,8 @@ struct ChartModel {
   std::optional<ManualLayout> layout;  ///< of the plot area
   std::vector<GroupModel> groups;      ///< those with series, in the order in which they are drawn
   std::vector<AxisModel> axes;
-  std::string blanks = "gap";  ///< ST_DispBlanksAs
+  std::vector<AxisModel> spokes;  ///< those of a radar chart, which draws them by itself
+  std::string blanks = "gap";     ///< ST_DispBlanksAs
   xlsx::DateSystem dates = xlsx::DateSystem::k1900;
 
   bool Is3D() const;

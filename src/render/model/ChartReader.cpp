@@ -1,6 +1,7 @@
 #include "render/model/ChartReader.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "xlsx/book/BookContext.h"
 #include "xlsx/chart/part/ChartPart.h"
@@ -42,6 +43,18 @@ void LayAcross(const GroupModel& group, AxisModel& category, AxisModel& value) {
   value.side = group.horizontal ? Side::kBottom : Side::kLeft;
 }
 
+/// Gives an axis the categories of a group; those of several levels as one text where the axis says so.
+void TakeCategories(const GroupModel& group, AxisModel& axis) {
+  axis.categories = group.categories;
+  axis.outerLevels = group.outerLevels;
+  if (!schema::BooleanVal(axis.node, "noMultiLvlLbl", false)) return;
+  for (const CategoryLevel& level : std::exchange(axis.outerLevels, {})) {
+    for (const CategoryGroup& one : level) {
+      for (std::size_t i = one.first; i < one.end; ++i) axis.categories[i].insert(0, one.text + " ");
+    }
+  }
+}
+
 /// Ties a group to its axes, and gives those what they have of the group.
 void Attach(ReadingContext& context, GroupModel& group, std::vector<AxisModel>& axes) {
   const xlsx::AxisRoles roles = xlsx::RolesOf(xlsx::AxesOf(group.node));
@@ -50,7 +63,7 @@ void Attach(ReadingContext& context, GroupModel& group, std::vector<AxisModel>& 
   group.depth = IndexOf(axes, roles.depth);
   const auto axisAt = [&](int index) { return index < 0 ? nullptr : &axes[static_cast<std::size_t>(index)]; };
   if (AxisModel* category = axisAt(group.category)) {
-    if (category->categories.size() < group.categories.size()) category->categories = group.categories;
+    if (category->categories.size() < group.categories.size()) TakeCategories(group, *category);
     if (!group.HasXValues()) {
       const std::string fallback(xlsx::CrossBetween(xml::LocalName(group.node)));
       category->crossesBetween = schema::Val(roles.value, "crossBetween", fallback) == "between";

@@ -56,6 +56,8 @@ void CoarsenScale(AxisModel& axis);
 
 /// The numbers of a series' data (c:val, c:xVal, ...), one for each point, NaN where there is none.
 std::vector<double> ReadNumbers(ReadingContext& context, pugi::xml_node data);
+/// The levels beyond the innermost of categories that have several.
+std::vector<CategoryLevel> ReadOuterLevels(pugi::xml_node data, std::size_t categories);
 /// The texts of the categories, one for each point.
 std::vector<std::string> ReadCategories(ReadingContext& context, pugi::xml_node data);
 

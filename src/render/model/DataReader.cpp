@@ -1,7 +1,9 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <map>
 #include <optional>
+#include <utility>
 
 #include "render/model/ChartReader.h"
 #include "xlsx/book/BookContext.h"
@@ -133,6 +135,28 @@ std::vector<std::string> ReadCategories(ReadingContext& context, pugi::xml_node 
     texts[index] = std::move(text);
   }
   return texts;
+}
+
+std::vector<CategoryLevel> ReadOuterLevels(pugi::xml_node data, std::size_t categories) {
+  constexpr std::size_t kMostLevels = 8;
+  std::vector<CategoryLevel> levels;
+  bool isInnermost = true;
+  for (const pugi::xml_node& node :
+       xml::Children(xml::Child(data, "multiLvlStrRef", "multiLvlStrCache"), "lvl")) {
+    if (std::exchange(isInnermost, false)) continue;
+    if (levels.size() == kMostLevels) break;
+    std::map<std::size_t, std::string> texts;  // by the category where they begin
+    for (const pugi::xml_node& point : xml::Children(node, "pt")) {
+      const auto index = static_cast<unsigned long long>(xml::IntegerAttribute(point, "idx", -1));
+      if (index < categories) texts[index] = xlsx::CachedText(point);
+    }
+    CategoryLevel& level = levels.emplace_back();
+    for (auto& [first, text] : texts) {
+      if (!level.empty()) level.back().end = first;
+      level.push_back({first, categories, std::move(text)});
+    }
+  }
+  return levels;
 }
 
 }  // namespace plotsmith::render

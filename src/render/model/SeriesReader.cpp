@@ -82,7 +82,7 @@ std::string DefaultLabelPosition(const GroupModel& group) {
 
 bool IsDrawnAsLine(const GroupModel& group) {
   return group.family == Family::kLine || group.family == Family::kScatter ||
-         group.family == Family::kStock || group.family == Family::kRadar;
+         group.family == Family::kStock || (group.family == Family::kRadar && !group.filled);
 }
 
 /// What a series or a point looks like where nothing is set.
@@ -224,6 +224,7 @@ GroupModel ReadGroup(ReadingContext& context, pugi::xml_node node,
   group.is3D = kind.is3D;
   group.grouping = GroupingOf(node, kind.family);
   group.horizontal = kind.family == Family::kBar && schema::Val(node, "barDir", "col") == "bar";
+  group.filled = kind.family == Family::kRadar && schema::Val(node, "radarStyle") == "filled";
   group.gapWidth = Limited(node, "gapWidth", 150, 0, 500);
   group.overlap = Limited(node, "overlap", 0, -100, 100);
   group.firstSliceAngle = Limited(node, "firstSliceAng", 0, 0, 360);
@@ -254,7 +255,9 @@ GroupModel ReadGroup(ReadingContext& context, pugi::xml_node node,
   for (const SeriesModel& series : group.series) {
     if (group.HasXValues()) break;
     group.categories = ReadCategories(context, xml::Child(series.node, "cat"));
-    if (!group.categories.empty()) break;
+    if (group.categories.empty()) continue;
+    group.outerLevels = ReadOuterLevels(xml::Child(series.node, "cat"), group.categories.size());
+    break;
   }
   const std::size_t named = group.categories.size();
   for (std::size_t i = named; i < group.PointCount(); ++i) {

@@ -3,12 +3,18 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
+#include "render/Images.h"
+#include "render/model/PictureSource.h"
+#include "xlsx/book/BookContext.h"
 #include "xlsx/chart/part/ChartCache.h"
 #include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/chart/rules/AutomaticColors.h"
+#include "xlsx/chart/rules/SeriesData.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/ShapeXml.h"
@@ -72,6 +78,20 @@ std::vector<double> DashesOf(std::string_view name, double width) {
   return lengths;
 }
 
+/// A picture that is stretched, or in tiles of its size at 96 dots an inch or another scale.
+Fill ReadPicture(const Palette& palette, pugi::xml_node fill, const Fill& automatic) {
+  std::string bytes = palette.Picture(fill);
+  const auto size = SizeOfImage(bytes);
+  if (!size) return automatic;
+  PictureFill picture{std::make_shared<const std::string>(std::move(bytes))};
+  if (const auto tile = xml::Child(fill, "tile")) {
+    constexpr double kPixel = 0.75;  // points
+    picture.tileWidth = size->width * kPixel * std::abs(FractionOf(tile, "sx", 1));
+    picture.tileHeight = size->height * kPixel * std::abs(FractionOf(tile, "sy", 1));
+  }
+  return picture;
+}
+
 Fill ReadGradient(const Palette& palette, pugi::xml_node fill, const Fill& automatic) {
   GradientFill gradient;
   for (const pugi::xml_node& stop : xml::Children(xml::Child(fill, "gsLst"), "gs")) {
@@ -118,6 +138,15 @@ std::optional<std::int32_t> Palette::Color(pugi::xml_node holder) const {
   return part_ != nullptr ? part_->Color(holder) : theme_->Color(holder);
 }
 
+std::string Palette::Picture(pugi::xml_node fill) const {
+  // shapes on a chart have their pictures elsewhere
+  if (part_ == nullptr || fill.root() != part_->Space().root()) return {};
+  for (const pugi::xml_attribute& link : xml::Child(fill, "blip").attributes()) {
+    if (xml::LocalName(link.name()) == "embed") return ImagesOf(part_->Book(), part_->Part())(link.value());
+  }
+  return {};
+}
+
 const xlsx::Theme& Palette::Theme() const { return part_ != nullptr ? part_->Theme() : *theme_; }
 
 std::optional<Color> ReadColor(const Palette& palette, pugi::xml_node holder) {
@@ -133,6 +162,7 @@ Fill ReadFill(const Palette& palette, pugi::xml_node fill, const Fill& automatic
     const auto color = ReadColor(palette, fill);
     return color ? Fill(SolidFill{*color}) : automatic;
   }
+  if (kind == "blipFill") return ReadPicture(palette, fill, automatic);
   if (kind == "gradFill") return ReadGradient(palette, fill, automatic);
   if (kind == "pattFill") {
     const auto foreground = ReadColor(palette, xml::Child(fill, "fgClr"));
@@ -196,8 +226,7 @@ RichText ReadText(xlsx::ChartPart& part, pugi::xml_node element, xlsx::TextRole 
   if (!rich) {
     std::string plain;
     const auto tx = xml::Child(element, "tx");
-    for (const auto& [point, line] : xlsx::CachedTexts(tx)) plain += (plain.empty() ? "" : " ") + line;
-    if (!tx) plain = automatic;
+    plain = tx ? xlsx::SourceText(part, tx) : automatic;
     text.paragraphs.emplace_back();
     const auto append = [&](const std::string& line) {
       text.paragraphs.back().push_back({line, FontOf(looks.front()), FromExcel(looks.front().color)});
@@ -262,13 +291,13 @@ constexpr double kLineTint = 134.0 / 255, kMinorTint = 183.0 / 255;
 }  // namespace
 
 ShapeStyle AutomaticStyles::ChartArea() const {
-  return {SolidFill{FromExcel(part_.Theme().SchemeColor("bg1").value_or(0xFFFFFF))},
+  return {SolidFill{FromExcel(xlsx::AutomaticChartArea(part_))},
           {TintedText(part_, kLineTint), kHairline, {}, LineCap::kFlat, LineJoin::kMiter}};
 }
 
 ShapeStyle AutomaticStyles::PlotArea(bool isFlat) const {
   if (!isFlat) return {};
-  return {SolidFill{FromExcel(part_.Theme().SchemeColor("bg1").value_or(0xFFFFFF))}, {}};
+  return {SolidFill{FromExcel(xlsx::AutomaticPlotArea(part_))}, {}};
 }
 
 Stroke AutomaticStyles::AxisLine() const { return {TintedText(part_, kLineTint), kHairline}; }

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <pugixml.hpp>
+#include <string>
 
 #include "render/model/ChartModel.h"
 #include "xlsx/chart/rules/ChartTextLook.h"
@@ -26,6 +27,8 @@ class Palette {
   /// Nothing if the colour can't be known.
   std::optional<std::int32_t> Color(pugi::xml_node holder) const;
   const xlsx::Theme& Theme() const;
+  /// The bytes of the picture of a filling (a:blipFill) in a chart part; empty if it can't be had.
+  std::string Picture(pugi::xml_node fill) const;
 
  private:
   xlsx::ChartPart* part_ = nullptr;

@@ -13,7 +13,6 @@
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/ShapeXml.h"
 #include "xlsx/drawing/Theme.h"
-#include "xlsx/package/PackageError.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::render {
@@ -175,18 +174,6 @@ class ObjectPainter {
 };
 
 }  // namespace
-
-ImageSource ImagesOf(xlsx::BookContext& book, std::string part) {
-  return [&book, part = std::move(part)](const std::string& relationship) -> std::string {
-    try {
-      const auto link = book.Package().FindRelationship(part, relationship);
-      if (!link || link->external || !book.Package().Has(link->target)) return {};
-      return book.Package().Read(link->target);
-    } catch (const xlsx::PackageError&) {
-      return {};  // a picture that can't be read is no reason to give the drawing up
-    }
-  };
-}
 
 void DrawShapeObject(Canvas& canvas, const Palette& palette, pugi::xml_node object, const Rect& frame,
                      int number, const ImageSource& images) {

@@ -38,7 +38,7 @@ std::vector<std::pair<Border, Border>> BordersOf(const Stage& stage) {
 void AddPoint(Plot& plot, const GroupModel& group, std::size_t series, std::size_t point, Point at) {
   const SeriesModel& one = group.series[series];
   if (point >= one.values.size() || !std::isfinite(one.values[point])) return;
-  plot.points.push_back({&group, &one, point, {at.x, at.y, 0, 0}});
+  plot.Keep({&group, &one, point, {at.x, at.y, 0, 0}});
 }
 
 /// The numbers of the series in the order in which their places in the depth are painted.

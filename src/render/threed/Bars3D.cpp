@@ -14,7 +14,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// A bar where it stands, as shares of the axes.
+/// The place of a bar, as shares of the axes.
 struct Standing {
   std::size_t series = 0, point = 0;
   Span across, depth, along;
@@ -129,8 +129,7 @@ void DrawBars3D(Plot& plot, const Stage& stage, const Projection& projection) {
     const ShapeStyle style = series.StyleOf(bar.point, series.values[bar.point]);
     AddBar(plot.canvas, projection, space, shape.form,
            {{Role::kBar, series.number, static_cast<int>(bar.point) + 1}, style.fill, style.stroke});
-    DrawnPoint& drawn = plot.points.emplace_back();
-    drawn = {&group, &series, bar.point, FrontOf(projection, space), bar.negative};
+    plot.Keep({&group, &series, bar.point, FrontOf(projection, space), bar.negative});
   }
 }
 

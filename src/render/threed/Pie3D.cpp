@@ -227,7 +227,7 @@ void DrawPie3D(xlsx::ChartPart& part, Plot& plot, const GroupModel& group) {
     plot.canvas.Add({Role::kSlice, series.number, static_cast<int>(slice.point) + 1},
                     TopOf(disc.EllipseOf(slice), slice), style.fill,
                     style.stroke.width > 0 ? style.stroke : SeamOf(style.fill));
-    plot.points.push_back(PointOf(group, slice, disc));
+    plot.Keep(PointOf(group, slice, disc));
   }
 }
 

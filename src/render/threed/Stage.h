@@ -14,7 +14,7 @@ struct Span {
   double Middle() const { return (from + to) / 2; }
 };
 
-/// The axes of a chart in 3-D and what is shared out along them, whatever the view. Shares of the category
+/// The axes of a chart in 3-D and what is shared out along them, in any view. Shares of the category
 /// axis go to the right, or up with lying bars; those of the value axis the other way; those of the depth to
 /// the back.
 class Stage {

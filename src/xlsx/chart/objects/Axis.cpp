@@ -46,7 +46,7 @@ class AxisTitleObject final : public excel::AxisTitle {
 
   std::string Text() override {
     const auto title = Node();
-    return xml::Child(title, "tx") ? TitleText(title) : "Axis Title";
+    return xml::Child(title, "tx") ? TitleText(*axis_.part, title) : "Axis Title";
   }
   void SetText(std::string_view text) override {
     axis_.Log().Put([this] { return Path(); }, "Text", text);

@@ -46,6 +46,15 @@ std::int32_t Varied(ChartPart& part, const std::string& color, const Variation& 
   return part.Color(holder.first_child()).value_or(0);
 }
 
+/// A colour of the theme of which so much is left, in thousandths of a percent, and the rest is white.
+std::int32_t Tinted(ChartPart& part, const std::string& color, int left) {
+  pugi::xml_document holder;
+  pugi::xml_node scheme = holder.append_child("solidFill").append_child("schemeClr");
+  scheme.append_attribute("val").set_value(color.c_str());
+  scheme.append_child("tint").append_attribute("val").set_value(left);
+  return part.Color(holder.first_child()).value_or(0);
+}
+
 /// In styles with one colour, the series go from dark to light without reaching black or white.
 Variation Faded(std::size_t index, std::size_t count) {
   const double place = static_cast<double>(index + 1) / static_cast<double>(count + 1) * 1.4 - 0.7;
@@ -66,6 +75,31 @@ long long ChartStyleOf(ChartPart& part) {
     if (style >= 1 && style <= kStyles) return style;
   }
   return kColorfulStyle;
+}
+
+bool HasDarkArea(ChartPart& part) {
+  constexpr long long kFirst = 41;
+  return ChartStyleOf(part) >= kFirst;
+}
+
+std::int32_t AutomaticChartArea(ChartPart& part) {
+  if (HasDarkArea(part)) return part.Theme().SchemeColor("tx1").value_or(0);
+  return part.Theme().SchemeColor("bg1").value_or(0xFFFFFF);
+}
+
+std::int32_t AutomaticPlotArea(ChartPart& part) {
+  constexpr long long kFirstGrey = 33, kFirstAccent = 35;
+  constexpr int kPale = 20000, kDark = 95000;
+  const long long style = ChartStyleOf(part);
+  if (HasDarkArea(part)) return Tinted(part, "tx1", kDark);
+  if (style >= kFirstAccent) return Tinted(part, "accent" + std::to_string(style - kFirstAccent + 1), kPale);
+  if (style >= kFirstGrey) return Tinted(part, "tx1", kPale);
+  return part.Theme().SchemeColor("bg1").value_or(0xFFFFFF);
+}
+
+std::int32_t AutomaticTextColor(ChartPart& part) {
+  if (HasDarkArea(part)) return part.Theme().SchemeColor("bg1").value_or(0xFFFFFF);
+  return part.Theme().SchemeColor("tx1").value_or(0);
 }
 
 std::int32_t AutomaticColor(ChartPart& part, pugi::xml_node series) {

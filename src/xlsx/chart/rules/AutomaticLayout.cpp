@@ -37,7 +37,7 @@ TextFace FaceOf(ChartPart& part, pugi::xml_node element, TextRole role) {
 double TitleDepth(ChartPart& part, pugi::xml_node title, TextRole role, double room) {
   if (!title || schema::BooleanVal(title, "overlay", false)) return 0;
   const TextFace face = FaceOf(part, title, role);
-  const std::string text = TitleText(title);
+  const std::string text = TitleText(part, title);
   double lines = 0;
   for (std::string_view rest = text;;) {
     const auto end = rest.find('\n');

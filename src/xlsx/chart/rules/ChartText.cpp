@@ -11,17 +11,15 @@
 
 namespace plotsmith::xlsx {
 
-std::string TitleText(pugi::xml_node title) {
+std::string TitleText(ChartPart& part, pugi::xml_node title) {
   const auto tx = xml::Child(title, "tx");
   if (const auto rich = xml::Child(tx, "rich")) return BodyText(rich);
-  std::string text;
-  for (const auto& [point, line] : CachedTexts(tx)) text += (text.empty() ? "" : " ") + line;
-  return text;
+  return SourceText(part, tx);
 }
 
 std::optional<std::string> ShownTitle(ChartPart& part) {
   const auto title = xml::Child(part.Chart(), "title");
-  if (title && xml::Child(title, "tx")) return TitleText(title);
+  if (title && xml::Child(title, "tx")) return TitleText(part, title);
   if (!title && schema::BooleanVal(part.Chart(), "autoTitleDeleted", false)) return std::nullopt;
   const auto series = SeriesOf(part);
   if (series.size() == 1) {

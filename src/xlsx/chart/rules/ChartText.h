@@ -13,7 +13,7 @@ namespace plotsmith::xlsx {
 class ChartPart;
 
 /// The text of a title, with line feeds between lines. Empty for a title whose text Excel chooses.
-std::string TitleText(pugi::xml_node title);
+std::string TitleText(ChartPart& part, pugi::xml_node title);
 /// The title that the chart shows; nothing if it shows none. A chart of one series without a title shows the
 /// series' name, unless the automatic title was deleted.
 std::optional<std::string> ShownTitle(ChartPart& part);

@@ -1,6 +1,7 @@
 #include "xlsx/chart/rules/ChartTextLook.h"
 
 #include "xlsx/chart/part/ChartPart.h"
+#include "xlsx/chart/rules/AutomaticColors.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Xml.h"
@@ -59,7 +60,7 @@ TextLook Look(ChartPart& part, Chain chain, TextRole role) {
     look.typeface = part.Theme().Typeface(typeface);
     break;
   }
-  look.color = part.Theme().SchemeColor("tx1").value_or(0);
+  look.color = AutomaticTextColor(part);
   for (const pugi::xml_node& properties : chain) {
     const auto fill = FindFill(properties);
     if (!fill) continue;

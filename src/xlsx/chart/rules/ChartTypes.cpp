@@ -142,7 +142,8 @@ std::int32_t LineType(pugi::xml_node group, pugi::xml_node series) {
 }
 
 std::int32_t ScatterType(pugi::xml_node group, pugi::xml_node series) {
-  const std::string style = schema::Val(group, "scatterStyle", "marker");
+  // Excel joins the points with lines where a file doesn't say how they are drawn.
+  const std::string style = schema::Val(group, "scatterStyle", "lineMarker");
   if (!HasLine(series) || style == "marker" || style == "none") return excel::xlXYScatter;
   const bool markers = HasMarkers(series, style != "line" && style != "smooth");
   if (schema::BooleanVal(series, "smooth", style.starts_with("smooth"))) {

@@ -1,5 +1,6 @@
 #include "xlsx/chart/rules/LegendLines.h"
 
+#include <iterator>
 #include <map>
 #include <optional>
 #include <set>
@@ -28,6 +29,30 @@ bool ListsPoints(ChartPart& part) {
   return part.Series().size() == 1 && schema::BooleanVal(groups[0], "varyColors", false);
 }
 
+/// The texts of the categories; of several levels they are one text, the outermost first.
+std::map<std::size_t, std::string> CategoryTexts(ChartPart& part, pugi::xml_node categories) {
+  const auto cache = xml::Child(categories, "multiLvlStrRef", "multiLvlStrCache");
+  if (!cache) return DataTexts(part, categories);
+  std::map<std::size_t, std::string> texts;
+  for (const pugi::xml_node& level : xml::Children(cache, "lvl")) {
+    std::map<std::size_t, std::string> own;
+    for (const pugi::xml_node& point : xml::Children(level, "pt")) {
+      const long long index = xml::IntegerAttribute(point, "idx", -1);
+      if (index >= 0) own[static_cast<std::size_t>(index)] = CachedText(point);
+    }
+    if (texts.empty()) {
+      texts = std::move(own);
+      continue;
+    }
+    // a text of an outer level holds until the next one
+    for (auto& [index, text] : texts) {
+      const auto next = own.upper_bound(index);
+      if (next != own.begin()) text.insert(0, std::prev(next)->second + " ");
+    }
+  }
+  return texts;
+}
+
 std::size_t AllEntries(ChartPart& part) {
   if (part.Series().empty()) return 0;
   return ListsPoints(part) ? DataPoints(part, FindValues(part.Series()[0]->node)) : part.Series().size();
@@ -50,7 +75,7 @@ std::vector<std::size_t> LegendNumbers(ChartPart& part, std::size_t most) {
 
 std::vector<LegendLine> LegendLines(ChartPart& part, std::size_t most) {
   const bool points = ListsPoints(part);
-  const auto categories = points ? DataTexts(part, xml::Child(part.Series()[0]->node, "cat"))
+  const auto categories = points ? CategoryTexts(part, xml::Child(part.Series()[0]->node, "cat"))
                                  : std::map<std::size_t, std::string>();
   std::vector<LegendLine> lines;
   for (const std::size_t number : LegendNumbers(part, most)) {

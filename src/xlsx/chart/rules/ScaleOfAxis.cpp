@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "runtime/Variant.h"
 #include "xlsx/chart/part/ChartCache.h"
+#include "xlsx/chart/rules/DataExtent.h"
 #include "xlsx/chart/rules/GroupAxes.h"
 #include "xlsx/chart/rules/PlotGroups.h"
 #include "xlsx/chart/rules/SeriesData.h"
@@ -20,19 +20,8 @@ using runtime::Variant;
 
 namespace {
 
-/// The least and the greatest number that were added.
-struct Extent {
-  std::optional<double> least, greatest;
-
-  void Add(double number) {
-    if (!std::isfinite(number)) return;
-    least = std::min(least.value_or(number), number);
-    greatest = std::max(greatest.value_or(number), number);
-  }
-};
-
-/// X values that are texts count as the numbers of their points.
-void AddXValues(pugi::xml_node series, Extent& extent) {
+/// X values are numbers; where they are texts, points are counted.
+void AddXValues(pugi::xml_node series, DataExtent& extent) {
   const auto numbers = CachedNumbers(xml::Child(series, "xVal"));
   for (const Variant& number : numbers) {
     if (const double* value = number.If<double>()) extent.Add(*value);
@@ -42,45 +31,33 @@ void AddXValues(pugi::xml_node series, Extent& extent) {
   extent.Add(static_cast<double>(std::max<std::size_t>(PointCount(FindValues(series)), 1)));
 }
 
-/// The sums of stacked values by point, separately above and below zero.
-struct Pile {
-  double above = 0, below = 0;
-};
-
-void AddStacks(pugi::xml_node group, bool isPercent, Extent& extent) {
-  std::vector<Pile> piles;
-  for (const pugi::xml_node& series : xml::Children(group, "ser")) {
-    const auto numbers = CachedNumbers(FindValues(series));
-    piles.resize(std::max(piles.size(), numbers.size()));
-    for (std::size_t i = 0; i < numbers.size(); ++i) {
-      const double* value = numbers[i].If<double>();
-      if (value != nullptr) (*value > 0 ? piles[i].above : piles[i].below) += *value;
-    }
+/// The cached values of a series, NaN where there is none.
+std::vector<double> ValuesOf(pugi::xml_node series) {
+  std::vector<double> values;
+  for (const Variant& number : CachedNumbers(FindValues(series))) {
+    const double* value = number.If<double>();
+    values.push_back(value == nullptr ? std::nan("") : *value);
   }
-  for (const Pile& pile : piles) {
-    const double whole = isPercent ? pile.above - pile.below : 1;
-    if (!(whole > 0)) continue;
-    if (pile.above > 0 || pile.below == 0) extent.Add(pile.above / whole);
-    if (pile.below < 0) extent.Add(pile.below / whole);
-  }
+  return values;
 }
 
-void AddValues(pugi::xml_node group, Extent& extent) {
+void AddValues(pugi::xml_node group, DataExtent& extent) {
   const std::string grouping = schema::Val(group, "grouping");
+  std::vector<std::vector<double>> series;
+  for (const pugi::xml_node& each : xml::Children(group, "ser")) series.push_back(ValuesOf(each));
   if (grouping == "stacked" || grouping == "percentStacked") {
-    return AddStacks(group, grouping == "percentStacked", extent);
+    const bool isBar = xml::Is(group, "barChart") || xml::Is(group, "bar3DChart");
+    return AddStacks({series.begin(), series.end()}, {isBar, grouping == "percentStacked"}, extent);
   }
-  for (const pugi::xml_node& series : xml::Children(group, "ser")) {
-    for (const Variant& number : CachedNumbers(FindValues(series))) {
-      if (const double* value = number.If<double>()) extent.Add(*value);
-    }
+  for (const auto& values : series) {
+    for (const double value : values) extent.Add(value);
   }
 }
 
 }  // namespace
 
 AxisScale ScaleOf(ChartPart& part, pugi::xml_node axis) {
-  Extent extent;
+  DataExtent extent;
   bool isPercent = false, is3D = false;
   for (const pugi::xml_node& group : part.Groups()) {
     const auto axes = AxesOf(group);
@@ -93,13 +70,7 @@ AxisScale ScaleOf(ChartPart& part, pugi::xml_node axis) {
       AddValues(group, extent);
     }
   }
-  const auto scaling = xml::Child(axis, "scaling");
-  AxisSettings settings{schema::NumberVal(scaling, "min"), schema::NumberVal(scaling, "max"),
-                        schema::NumberVal(axis, "majorUnit"), schema::NumberVal(scaling, "logBase"),
-                        !is3D && !isPercent};
-  if (settings.majorUnit.value_or(1) <= 0) settings.majorUnit.reset();
-  if (!extent.least) return ScaleEmptyAxis(settings);
-  return ScaleAxis(*extent.least, *extent.greatest, settings);
+  return ScaleAxis(extent, SettingsOf(axis, !is3D && !isPercent));
 }
 
 }  // namespace plotsmith::xlsx

@@ -161,14 +161,17 @@ std::size_t DataPoints(ChartPart& part, pugi::xml_node data) {
   return source ? source->CellCount() : PointCount(data);
 }
 
-std::string SeriesName(ChartPart& part, pugi::xml_node series) {
-  constexpr std::size_t kMostCells = 1000;  // a chart may have many series with large ranges
-  const auto tx = xml::Child(series, "tx");
+std::string SourceText(ChartPart& part, pugi::xml_node tx) {
+  constexpr std::size_t kMostCells = 1000;  // a chart may have many series that point at large ranges
   if (xml::Child(tx, "v")) return CachedText(tx);
   if (const auto cells = FindUncached(part, tx); cells && cells->CellCount() > kMostCells) return {};
-  std::string name;
-  for (const auto& [point, text] : DataTexts(part, tx)) name += (name.empty() ? "" : " ") + text;
-  return name;
+  std::string all;
+  for (const auto& [point, text] : DataTexts(part, tx)) all += (all.empty() ? "" : " ") + text;
+  return all;
+}
+
+std::string SeriesName(ChartPart& part, pugi::xml_node series) {
+  return SourceText(part, xml::Child(series, "tx"));
 }
 
 std::string ShownName(ChartPart& part, pugi::xml_node series) {

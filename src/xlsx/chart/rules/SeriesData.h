@@ -20,7 +20,10 @@ std::map<std::size_t, std::string> DataTexts(ChartPart& part, pugi::xml_node dat
 /// The number of points in a series' data, in its cache or its cells.
 std::size_t DataPoints(ChartPart& part, pugi::xml_node data);
 
-/// The name of a series, which may come from cells; empty if it has none.
+/// The text of an element (c:tx) that has one by itself or from cells, of which the cache counts if there is
+/// one.
+std::string SourceText(ChartPart& part, pugi::xml_node tx);
+/// The name that a series has by itself or from its cells; empty without one.
 std::string SeriesName(ChartPart& part, pugi::xml_node series);
 /// The name that Excel shows for a series; "Series" and its number if it has none.
 std::string ShownName(ChartPart& part, pugi::xml_node series);

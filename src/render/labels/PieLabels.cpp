@@ -1,0 +1,183 @@
+#include "render/labels/PieLabels.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <utility>
+
+namespace plotsmith::render {
+namespace {
+
+constexpr double kGap = 1.5;     // between a slice and the label beside it
+constexpr double kDust = 1e-6;   // points that rounding may add
+constexpr double kSlack = 0.01;  // points by which labels may touch
+
+/// Whether the label may be moved: it lies outside of its slice, where Excel put it.
+bool IsMovable(const PlacedLabel& label) {
+  const Family family = label.point->group->family;
+  const bool isPie = family == Family::kPie || family == Family::kOfPie;
+  const bool isOutside = label.label->position == "bestFit" || label.label->position == "outEnd";
+  return isPie && isOutside && !label.label->layout && IsBesideSlice(*label.point, label.Box());
+}
+
+/// From twelve o'clock, 0 to 360.
+double MiddleOf(const DrawnPoint& slice) {
+  const double angle = std::fmod(slice.angle + slice.sweep / 2, 360);
+  return angle < 0 ? angle + 360 : angle;
+}
+
+bool IsRight(const PlacedLabel& label) { return MiddleOf(*label.point) < 180; }
+
+/// Labels that touch, one below the other.
+struct Pile {
+  std::size_t first = 0, count = 0;
+  double wanted = 0;  ///< the sum of the tops that they would like the pile to have
+  double height = 0;
+  double top = 0;
+};
+
+/// Moves labels, which are sorted from top to bottom, as little as it takes until none overlaps the next.
+/// They have room between `least` and `most`.
+void SpreadDown(const std::vector<PlacedLabel*>& labels, double least, double most) {
+  std::vector<Pile> piles;
+  const auto settle = [&](Pile& pile) {
+    pile.top =
+        std::clamp(pile.wanted / static_cast<double>(pile.count), least, std::max(most - pile.height, least));
+  };
+  for (std::size_t i = 0; i < labels.size(); ++i) {
+    Pile pile{i, 1, labels[i]->Box().top, 2 * labels[i]->halfHeight, 0};
+    settle(pile);
+    while (!piles.empty() && piles.back().top + piles.back().height > pile.top) {
+      const Pile& above = piles.back();
+      pile = {above.first, above.count + pile.count,
+              above.wanted + pile.wanted - above.height * static_cast<double>(pile.count),
+              above.height + pile.height, 0};
+      piles.pop_back();
+      settle(pile);
+    }
+    piles.push_back(pile);
+  }
+  for (const Pile& pile : piles) {
+    double top = pile.top;
+    for (std::size_t i = pile.first; i < pile.first + pile.count; ++i) {
+      labels[i]->center.y = top + labels[i]->halfHeight;
+      top += 2 * labels[i]->halfHeight;
+    }
+  }
+}
+
+/// Moves a label flat outwards until it is beside its slice and on its own side of the circle, with room for
+/// a leader line.
+void MoveBeside(PlacedLabel& label, const Rect& room, double lineRoom) {
+  label.moved = true;
+  const double middle = label.point->circle.Center().x, way = IsRight(label) ? 1 : -1;
+  const auto isClear = [&](double distance) {
+    label.center.x = middle + way * distance;
+    return IsBesideSlice(*label.point, label.Box());
+  };
+  // the label keeps out of the way of the line that goes up or down to it
+  const double edge = OnEllipse(label.point->circle, MiddleOf(*label.point)).x;
+  double near = label.halfWidth + kGap + way * (edge - middle);
+  double far = label.halfWidth + label.point->circle.width / 2;
+  if (!isClear(near)) {
+    constexpr int kSteps = 20;
+    for (int step = 0; step < kSteps; ++step) {
+      const double between = (near + far) / 2;
+      (isClear(between) ? far : near) = between;
+    }
+    near = far + kGap + lineRoom;
+  }
+  const double least = room.left + label.halfWidth, most = room.Right() - label.halfWidth;
+  label.center.x = std::max(std::min(middle + way * near, most), least);
+}
+
+bool OverlapsAny(const PlacedLabel& label, const std::vector<PlacedLabel*>& others) {
+  return std::any_of(others.begin(), others.end(), [&](const PlacedLabel* other) {
+    return other != &label && Overlap(label.Box(), other->Box(), kSlack);
+  });
+}
+
+/// Takes out the labels of the smallest slices until the height is enough for the rest. Of slices that are
+/// alike, those that stay are spread over all of them, as multiples of the golden ratio are.
+void KeepThoseWithRoom(std::vector<PlacedLabel*>& side, double height) {
+  struct Candidate {
+    double share, turn;
+    PlacedLabel* label;
+  };
+  std::vector<Candidate> candidates;
+  double all = 0;
+  for (PlacedLabel* label : side) {
+    const double multiple = static_cast<double>(candidates.size()) * std::numbers::phi;
+    candidates.push_back({label->point->share, multiple - std::floor(multiple), label});
+    all += 2 * label->halfHeight;
+  }
+  std::sort(candidates.begin(), candidates.end(), [](const Candidate& a, const Candidate& b) {
+    return std::pair(a.share, a.turn) < std::pair(b.share, b.turn);
+  });
+  for (const Candidate& least : candidates) {
+    if (all <= height + kDust) break;
+    all -= 2 * least.label->halfHeight;
+    least.label->leftOut = true;
+  }
+  std::erase_if(side, [](const PlacedLabel* label) { return label->leftOut; });
+}
+
+/// Where moved labels may be: in the plot area, of which a circle by hand leaves them nothing.
+Rect RoomOf(const Plot& plot) { return plot.chart.layout ? plot.canvas.Bounds() : plot.area; }
+
+void SpreadSide(std::vector<PlacedLabel*>& side, const Rect& room) {
+  KeepThoseWithRoom(side, room.height);
+  const bool right = !side.empty() && IsRight(*side.front());
+  std::stable_sort(side.begin(), side.end(), [&](const PlacedLabel* a, const PlacedLabel* b) {
+    const double first = MiddleOf(*a->point), second = MiddleOf(*b->point);
+    return right ? first < second : first > second;
+  });
+  std::vector<double> before;
+  for (const PlacedLabel* label : side) before.push_back(label->center.y);
+  SpreadDown(side, room.top, room.Bottom());
+  constexpr double kLineShare = 0.3, kMostLineRoom = 12;  // of the way that a label was moved; points
+  for (std::size_t i = 0; i < side.size(); ++i) {
+    const double way = std::abs(side[i]->center.y - before[i]);
+    if (way > kSlack) MoveBeside(*side[i], room, std::min(kLineShare * way, kMostLineRoom));
+  }
+}
+
+}  // namespace
+
+bool IsBesideSlice(const DrawnPoint& point, const Rect& label) {
+  const Point middle = point.circle.Center();
+  for (const double drop : {0.0, point.box.height - point.circle.height}) {
+    const Point nearest{std::clamp(middle.x, label.left, label.Right()),
+                        std::clamp(middle.y + drop, label.top, label.Bottom())};
+    const double across = (nearest.x - middle.x) / (point.circle.width / 2);
+    const double down = (nearest.y - middle.y - drop) / (point.circle.height / 2);
+    if (std::hypot(across, down) < 1) return false;
+  }
+  return true;
+}
+
+std::size_t SpreadPieLabels(const Plot& plot, std::vector<PlacedLabel>& labels) {
+  std::vector<PlacedLabel*> movable, left, right;
+  for (PlacedLabel& label : labels) {
+    if (IsMovable(label)) movable.push_back(&label);
+  }
+  for (PlacedLabel* label : movable) (IsRight(*label) ? right : left).push_back(label);
+  const Rect room = RoomOf(plot);
+  for (std::vector<PlacedLabel*>* side : {&right, &left}) {
+    const bool crowded = std::any_of(side->begin(), side->end(),
+                                     [&](const PlacedLabel* label) { return OverlapsAny(*label, *side); });
+    if (crowded) SpreadSide(*side, room);
+  }
+  // above and below the circle, labels of both sides may meet
+  for (PlacedLabel* label : right) {
+    for (PlacedLabel* other : left) {
+      if (!Overlap(label->Box(), other->Box(), kSlack)) continue;
+      MoveBeside(*label, room, 0);
+      MoveBeside(*other, room, 0);
+    }
+  }
+  for (PlacedLabel* label : right) label->leftOut = OverlapsAny(*label, left);
+  return std::erase_if(labels, [](const PlacedLabel& label) { return label.leftOut; });
+}
+
+}  // namespace plotsmith::render
