@@ -46,6 +46,9 @@ class Session {
   void LoadTables();
   /// Discovers the tables and loads the definitions, for commands that only read.
   void LoadTablesAndCharts();
+  /// Loads the definitions for commands that need no tables, which take long to find in a large workbook. The
+  /// definitions say that their tables are missing.
+  void LoadChartsOnly();
   /// Loads the definitions and reads their charts back. It wants the tables loaded.
   void LoadCharts();
   /// Refuses, before any work is done, to write where another program has the workbook open, or a file that

@@ -38,7 +38,7 @@ int RenderCommand::Run(const GlobalOptions& options, const Streams& streams) {
 }
 
 int RenderCommand::RenderCharts(Session& session, const PicturePlan& plan, const Streams& streams) const {
-  session.LoadTablesAndCharts();
+  session.LoadChartsOnly();
   const int code = session.Finish();
   const auto charts =
       charts_.empty() ? LoadedChartsToDraw() : NamedChartsToDraw(session.Book(), book_, charts_);

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 #include <fontconfig/fontconfig.h>
+#include <functional>
 #include <hb-ot.h>
 #include <pango/pangocairo.h>
 #include <string>
@@ -86,6 +86,7 @@ struct Fonts::State {
   std::unique_ptr<PangoFontMap, Release> map;
   std::unique_ptr<PangoContext, Release> context;
   std::unordered_map<Font, FontEntry, FontHash> fonts;
+  std::pair<const Font, FontEntry>* recent = nullptr;
   std::size_t texts = 0;
 
   Layout MakeLayout(const std::string& text, const FontEntry& entry, bool underline) const {
@@ -128,7 +129,9 @@ struct Fonts::State {
   }
 
   FontEntry& EntryOf(const Font& font) {
+    if (recent != nullptr && recent->first == font) return recent->second;
     const auto [found, isNew] = fonts.try_emplace(font);
+    recent = &*found;
     FontEntry& entry = found->second;
     if (!isNew) return entry;
     const bool installed = !font.family.empty() && IsInstalled(font.family);
