@@ -339,6 +339,12 @@ TEST_F(RenderTest, ARefreshDrawsWhatItHasRefreshed) {
        "",
        "plotsmith: --format, --dpi and --scale are for the pictures of --render.\n"},
       {{"--render", ""}, 2, "", "plotsmith: --render wants the name of a folder.\n"},
+      {{"--render", "a.PNG"},
+       2,
+       "",
+       "plotsmith: --render wants a folder, and \"a.PNG\" looks like a picture; for a folder of that name "
+       "add "
+       "\"/\", and a single file is what plotsmith render -o writes.\n"},
       {{"--render", "DIR", "--format", "gif"},
        2,
        "",

@@ -55,6 +55,11 @@ void RefreshCommand::CheckPictures(const std::vector<BookRun>& runs) const {
     return;
   }
   if (pictureFolder_->empty()) throw CommandError(exit_code::kUsage, "--render wants the name of a folder.");
+  if (LooksLikePicture(*pictureFolder_)) {
+    throw CommandError(exit_code::kUsage, "--render wants a folder, and \"" + *pictureFolder_ +
+                                              "\" looks like a picture; for a folder of that name add \"/\", "
+                                              "and a single file is what plotsmith render -o writes.");
+  }
   PlanOfPictures();
   std::map<std::string, std::string> books;  // by the beginning of their pictures' names
   for (const BookRun& run : runs) {

@@ -36,6 +36,9 @@ struct PicturePlan {
   double scale = 1;
 };
 
+/// Whether a path is no folder, and ends as the files of a format do.
+bool LooksLikePicture(const std::string& path);
+
 /// The plan for what the options say and `-o` names. Without `-o` the pictures go into the current folder,
 /// without any word of the format they are SVG. A CommandError where the options don't go together.
 PicturePlan PlanPictures(const PictureOptions& options, const std::optional<std::string>& output);
