@@ -4,6 +4,8 @@
 #include <system_error>
 #include <utility>
 
+#include "runtime/Processors.h"
+
 namespace plotsmith::cli {
 namespace {
 
@@ -11,8 +13,8 @@ constexpr std::size_t kMostThreads = 7;
 constexpr std::size_t kMostWaiting = 16;  // a task holds a drawing
 
 std::size_t ThreadsFor(TaskQueue::Order order) {
-  const std::size_t processors = std::max(std::thread::hardware_concurrency(), 1u);
-  return std::min(processors - 1, order == TaskQueue::Order::kInTurn ? 1 : kMostThreads);
+  return std::min<std::size_t>(runtime::ProcessorCount() - 1,
+                               order == TaskQueue::Order::kInTurn ? 1 : kMostThreads);
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 #include <cstring>
 #include <system_error>
 
+#include "runtime/Processors.h"
+
 namespace plotsmith::xlsx {
 namespace {
 
@@ -25,7 +27,7 @@ AheadStream::~AheadStream() {
 
 void AheadStream::Start() {
   startTried_ = true;
-  if (std::thread::hardware_concurrency() < 2) return;
+  if (runtime::ProcessorCount() < 2) return;
   for (Piece& piece : pieces_) piece.bytes.resize(kPiece);
   try {
     thread_ = std::thread([this] { ReadAhead(); });
