@@ -19,6 +19,12 @@ class Worksheet : public Sheet {
   virtual std::string_view CellTextAt(std::int32_t row, std::int32_t column, std::string& scratch) = 0;
   /// The next row below that may hold anything in the column, 0 if there is none: a way over blank stretches.
   virtual std::int32_t NextRowAt(std::int32_t row, std::int32_t column) = 0;
+  /// A row below: a way over cells of the column that show some text, but not this one. A host that can't
+  /// tell such cells at less cost than by their texts goes to the next row.
+  virtual std::int32_t NextRowShowing(std::int32_t row, std::int32_t column, std::string_view text) {
+    static_cast<void>(column), static_cast<void>(text);
+    return row + 1;
+  }
   /// Stores a value as if it was typed: a text that reads as a number becomes one, a leading apostrophe marks
   /// a text, and Empty empties the cell. Its format stays. Error 1004 for what a cell can't hold, such as
   /// a formula in a host without formulas, and on a sheet that can't be written: see Range.
