@@ -4,7 +4,7 @@
 set -eu
 
 packages="g++ cmake ninja-build pkg-config libpugixml-dev libexpat1-dev libzip-dev libisal-dev libutf8proc-dev libcli11-dev
-nlohmann-json3-dev libcairo2-dev libpango1.0-dev zlib1g-dev fonts-crosextra-carlito fonts-crosextra-caladea fonts-liberation
+nlohmann-json3-dev libcairo2-dev libpango1.0-dev fonts-crosextra-carlito fonts-crosextra-caladea fonts-liberation
 fonts-dejavu-core libxml2-dev libgtest-dev libbenchmark-dev python3"
 [ -n "${PLOTSMITH_NO_QT:-}" ] || packages="$packages qt6-base-dev"
 

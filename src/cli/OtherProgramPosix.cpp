@@ -7,6 +7,7 @@
 
 #include "cli/Command.h"
 #include "cli/OtherProgram.h"
+#include "runtime/SystemErrors.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -40,7 +41,8 @@ void BecomeProgram(const std::string& path, const std::vector<std::string>& argu
   for (std::string& word : words) pointers.push_back(word.data());
   pointers.push_back(nullptr);
   execv(path.c_str(), pointers.data());
-  throw CommandError(exit_code::kUsage, "can't start \"" + path + "\": " + std::strerror(errno) + ".");
+  throw CommandError(exit_code::kUsage,
+                     "can't start \"" + path + "\": " + runtime::SystemErrorText(errno) + ".");
 }
 
 }  // namespace plotsmith::cli

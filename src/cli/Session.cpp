@@ -107,6 +107,13 @@ void Session::LoadTables() {
   RetrieveTableDefinitions();
 }
 
+void Session::LoadChartsOnly() {
+  oApplication = host_;
+  oWorkbook = host_->ActiveWorkbook();
+  colTables = runtime::MakeRef<DocumentCollection>();
+  LoadCharts();
+}
+
 void Session::LoadTablesAndCharts() {
   LoadTables();
   LoadCharts();

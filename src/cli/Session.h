@@ -49,6 +49,9 @@ class Session {
   void LoadTables();
   /// Finds the tables and loads the definitions, for commands that only read.
   void LoadTablesAndCharts();
+  /// Loads the definitions, for commands that need no tables. Finding these takes long in a large workbook.
+  /// The definitions then say that their tables are missing.
+  void LoadChartsOnly();
   /// Loads the definitions and reads their charts back. The tables must be loaded.
   void LoadCharts();
   /// Throws CommandError, before any work is done, if another program has the workbook open, or if the output

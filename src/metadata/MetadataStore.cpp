@@ -48,10 +48,19 @@ ReadRow& ReadRowAt(std::int32_t lRow) {
   return aReadRows[lIndex];
 }
 
-bool RowHoldsChart(std::int32_t lRow, const std::string& sText, const std::string& sID) {
+/// What a row of the sheet holds as a text, without a copy where it is one; empty for what can't be read.
+std::string_view DefinitionAt(excel::Worksheet& oSheet, std::int32_t lRow, std::string& sScratch) {
+  return ValueOr(std::string_view(), [&]() -> std::string_view {
+    const excel::CellValue vValue = oSheet.CellValueAt(lRow, 1);
+    if (vValue.kind == excel::CellValue::Kind::kText) return vValue.text;
+    return sScratch = runtime::CStr(vValue.ToVariant());
+  });
+}
+
+bool RowHoldsChart(std::int32_t lRow, std::string_view sText, const std::string& sID) {
   ReadRow& oRow = ReadRowAt(lRow);
   if (oRow.sText != sText) {
-    ReadRow oRead{sText};
+    ReadRow oRead{std::string(sText)};
     auto oDoc = NewXMLDocument();
     oRead.bParses = oDoc.loadXML(sText);
     if (const auto oChart = oDoc.selectSingleNode("chart")) oRead.sID = GetAttributeText(oChart, "id");
@@ -167,8 +176,9 @@ void SaveChartDefinition(const IXMLDOMDocument2& oDoc) {
     }
     const auto oSheet = oWorkbook->Worksheets()->Item(kDefinitionsSheet);
     std::int32_t lRow = kFirstDefinitionRow;
+    std::string sScratch;
     for (;; ++lRow) {
-      const std::string sText = runtime::CStr(GetCellValue(*oSheet, lRow, 1, cell::kString));
+      const std::string_view sText = DefinitionAt(*oSheet, lRow, sScratch);
       if (sText.empty()) break;
       if (RowHoldsChart(lRow, sText, sID)) break;
     }

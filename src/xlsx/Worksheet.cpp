@@ -162,6 +162,18 @@ std::int32_t Worksheet::NextRowAt(std::int32_t row, std::int32_t column) {
   return 0;
 }
 
+std::int32_t Worksheet::NextRowShowing(std::int32_t row, std::int32_t column, std::string_view text) {
+  CheckCell(row, column);
+  if (!grid_) return row + 1;
+  const auto showsAnother = [&](const GridCell* cell) {
+    return cell != nullptr && cell->kind == CellValue::Kind::kText && !cell->text.empty() &&
+           cell->text != text && book_.Styles().IsGeneral(cell->style);
+  };
+  do ++row;
+  while (row <= grid_->RowCount() && showsAnother(grid_->Find(row, column)));
+  return row;
+}
+
 CellValue Worksheet::Stored(std::int32_t row, std::int32_t column) {
   CheckCell(row, column);
   if (!grid_) {

@@ -36,6 +36,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   excel::CellValue CellValueAt(std::int32_t row, std::int32_t column) override;
   std::string_view CellTextAt(std::int32_t row, std::int32_t column, std::string& scratch) override;
   std::int32_t NextRowAt(std::int32_t row, std::int32_t column) override;
+  std::int32_t NextRowShowing(std::int32_t row, std::int32_t column, std::string_view text) override;
   void SetCellValueAt(std::int32_t row, std::int32_t column, const runtime::Variant& value) override;
   excel::Ref<excel::Range> Cells(std::int32_t row, std::int32_t column) override;
   excel::Ref<excel::Range> Range(std::string_view cell1, std::string_view cell2) override;

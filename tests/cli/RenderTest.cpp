@@ -339,6 +339,12 @@ TEST_F(RenderTest, ARefreshDrawsWhatItHasRefreshed) {
        "",
        "plotsmith: --format, --dpi and --scale are for the pictures of --render.\n"},
       {{"--render", ""}, 2, "", "plotsmith: --render needs the name of a folder.\n"},
+      {{"--render", "a.PNG"},
+       2,
+       "",
+       "plotsmith: --render needs a folder, and \"a.PNG\" looks like a picture. Add \"/\" if the folder has "
+       "this "
+       "name; to write a single file, use plotsmith render -o.\n"},
       {{"--render", "DIR", "--format", "gif"},
        2,
        "",

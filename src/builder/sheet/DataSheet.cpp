@@ -115,7 +115,7 @@ bool PopulateDataSheetOffi2007(IXMLDOMElement& oChartElement) {
 
     std::int32_t lFirst = 0, lRows = 0, lRow = 1;
     std::string sScratch;
-    for (;; ++lRow) {
+    for (;; lRow = oSheet->NextRowShowing(lRow, data_column::kId, sID)) {
       const std::string_view sOwner = GetCellText(*oSheet, lRow, data_column::kId, sScratch);
       if (sOwner.empty()) break;
       if (sOwner == sID && lRows++ == 0) lFirst = lRow;

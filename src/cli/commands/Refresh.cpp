@@ -55,6 +55,12 @@ void RefreshCommand::CheckPictures(const std::vector<BookRun>& runs) const {
     return;
   }
   if (pictureFolder_->empty()) throw CommandError(exit_code::kUsage, "--render needs the name of a folder.");
+  if (LooksLikePicture(*pictureFolder_)) {
+    throw CommandError(exit_code::kUsage,
+                       "--render needs a folder, and \"" + *pictureFolder_ +
+                           "\" looks like a picture. Add \"/\" if the folder has this name; "
+                           "to write a single file, use plotsmith render -o.");
+  }
   PlanOfPictures();
   std::map<std::string, std::string> books;  // The workbooks by the beginning of their pictures' names.
   for (const BookRun& run : runs) {

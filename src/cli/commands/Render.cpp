@@ -5,6 +5,7 @@
 #include "cli/render/ChartsToDraw.h"
 #include "cli/render/DrawnCharts.h"
 #include "cli/render/DrawnSheet.h"
+#include "cli/render/LoadPainter.h"
 
 namespace plotsmith::cli {
 
@@ -31,12 +32,13 @@ int RenderCommand::Run(const GlobalOptions& options, const Streams& streams) {
     throw CommandError(exit_code::kUsage, "--sheet draws a whole sheet, so no chart can be named with it.");
   if (onePage_ && !sheet_) throw CommandError(exit_code::kUsage, "--one-page goes with --sheet.");
   const PicturePlan plan = PlanPictures(pictures_, output_);
+  const auto loading = LoadPainterAhead();
   Session session(book_, options, streams);
   return sheet_ ? RenderSheet(session, plan, streams) : RenderCharts(session, plan, streams);
 }
 
 int RenderCommand::RenderCharts(Session& session, const PicturePlan& plan, const Streams& streams) const {
-  session.LoadTablesAndCharts();
+  session.LoadChartsOnly();
   const int code = session.Finish();
   const auto charts =
       charts_.empty() ? LoadedChartsToDraw() : NamedChartsToDraw(session.Book(), book_, charts_);

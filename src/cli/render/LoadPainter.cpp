@@ -1,6 +1,25 @@
 #include "cli/render/LoadPainter.h"
 
+#include <system_error>
+
+#include "cli/Command.h"
+
 namespace plotsmith::cli {
+
+std::future<void> LoadPainterAhead() {
+  const auto load = [] {
+    try {
+      LoadPainter().HasFonts();  // reads the list of fonts
+    } catch (const CommandError&) {
+      // LoadPainter will say it again
+    }
+  };
+  try {
+    return std::async(std::launch::async, load);
+  } catch (const std::system_error&) {
+    return {};  // no thread can be made
+  }
+}
 
 bool SayIfFontsAreMissing(const Streams& streams) {
   if (LoadPainter().HasFonts()) return false;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <future>
+
 #include "cli/Streams.h"
 #include "render/Painter.h"
 
@@ -8,6 +10,9 @@ namespace plotsmith::cli {
 /// Returns the painter of this process, which is loaded by the first call. Throws CommandError if it is
 /// missing or has another version.
 const render::Painter& LoadPainter();
+/// Begins to load the painter and the list of fonts while the caller goes on. The result waits for the end
+/// when it is destroyed. LoadPainter reports a failure.
+[[nodiscard]] std::future<void> LoadPainterAhead();
 /// Reports on `streams` if no font is installed. Returns true in this case.
 bool SayIfFontsAreMissing(const Streams& streams);
 

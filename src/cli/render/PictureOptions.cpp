@@ -82,6 +82,8 @@ void DeclarePictureOptions(CLI::App& verb, PictureOptions& options, const std::s
   verb.add_option("--scale", options.scale, "Enlarge the picture by this factor")->type_name("N");
 }
 
+bool LooksLikePicture(const std::string& path) { return !IsFolder(path) && FormatOfFile(path).has_value(); }
+
 PicturePlan PlanPictures(const PictureOptions& options, const std::optional<std::string>& output) {
   if (output && output->empty()) throw Usage("-o needs the name of a file or a folder.");
   PicturePlan plan;

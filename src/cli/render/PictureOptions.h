@@ -38,6 +38,9 @@ struct PicturePlan {
   double scale = 1;
 };
 
+/// Returns whether a path isn't a folder and has the extension of a picture format.
+bool LooksLikePicture(const std::string& path);
+
 /// Makes the plan from the options and `-o`. The default destination is the current folder, and the default
 /// format is SVG. Throws CommandError if the options contradict each other.
 PicturePlan PlanPictures(const PictureOptions& options, const std::optional<std::string>& output);

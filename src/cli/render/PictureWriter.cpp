@@ -1,9 +1,11 @@
 #include "cli/render/PictureWriter.h"
 
+#include <algorithm>
 #include <cerrno>
-#include <cstring>
+#include <exception>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <stdexcept>
 #include <utility>
 
@@ -11,6 +13,7 @@
 #include "cli/render/LoadPainter.h"
 #include "render/Composition.h"
 #include "render/svg/SvgWriter.h"
+#include "runtime/SystemErrors.h"
 #include "runtime/Utf8Path.h"
 
 namespace plotsmith::cli {
@@ -20,16 +23,30 @@ namespace fs = std::filesystem;
 
 constexpr double kPointsPerInch = 72;
 
+/// The pages of one PDF are painted in turn, by one thread.
+TaskQueue::Order OrderFor(const PicturePlan& plan) {
+  const bool oneFile = plan.target != PicturePlan::Target::kFolder;
+  return oneFile ? TaskQueue::Order::kInTurn : TaskQueue::Order::kAny;
+}
+
+void WriteFile(const std::string& path, const std::string& bytes) {
+  std::ofstream file(runtime::PathOf(path), std::ios::binary);
+  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  if (file.flush()) return;
+  throw CommandError(exit_code::kFile,
+                     "can't write \"" + path + "\": " + runtime::SystemErrorText(errno) + ".");
+}
+
 }  // namespace
 
 PictureWriter::PictureWriter(PicturePlan plan, const Streams& streams, bool list)
-    : plan_(std::move(plan)), streams_(streams), list_(list) {
+    : plan_(std::move(plan)), streams_(streams), list_(list), tasks_(OrderFor(plan_)) {
   if (plan_.target != PicturePlan::Target::kFolder) return;
   std::error_code error;
   fs::create_directories(runtime::PathOf(plan_.path), error);
   if (error && !fs::is_directory(runtime::PathOf(plan_.path)))
-    throw CommandError(exit_code::kFile,
-                       "can't make the folder \"" + plan_.path + "\": " + error.message() + ".");
+    throw CommandError(exit_code::kFile, "can't make the folder \"" + plan_.path +
+                                             "\": " + runtime::SystemErrorText(error.value()) + ".");
 }
 
 std::string PictureWriter::PngOf(const render::Drawing& drawing) const {
@@ -42,20 +59,15 @@ std::string PictureWriter::PngOf(const render::Drawing& drawing) const {
   }
 }
 
-std::string PictureWriter::BytesOf(std::vector<render::Drawing> pages) const {
+std::string PictureWriter::BytesOf(const std::vector<render::Drawing>& pages) const {
   if (plan_.format == PictureFormat::kPng) return PngOf(pages.front());
-  if (plan_.scale != 1) {
-    for (render::Drawing& page : pages) page = render::Scaled(page, plan_.scale);
-  }
-  return plan_.format == PictureFormat::kSvg ? render::MakeSvg(pages.front()) : LoadPainter().Pdf(pages);
-}
-
-void PictureWriter::WriteFile(const std::string& path, const std::string& bytes) const {
-  std::ofstream file(runtime::PathOf(path), std::ios::binary);
-  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  if (!file.flush())
-    throw CommandError(exit_code::kFile, "can't write \"" + path + "\": " + std::strerror(errno) + ".");
-  if (list_) streams_.out << path << '\n';
+  const auto scaled = [&](const render::Drawing& page) {
+    return plan_.scale == 1 ? page : render::Scaled(page, plan_.scale);
+  };
+  if (plan_.format == PictureFormat::kSvg) return render::MakeSvg(scaled(pages.front()));
+  const auto document = LoadPainter().NewPdf();
+  for (const render::Drawing& page : pages) document->Add(scaled(page));
+  return document->Finish();
 }
 
 void PictureWriter::Add(const std::string& name, render::Drawing drawing) {
@@ -65,20 +77,48 @@ void PictureWriter::Add(const std::string& name, render::Drawing drawing) {
 }
 
 void PictureWriter::AddDocument(const std::string& name, std::vector<render::Drawing> pages) {
-  if (plan_.target == PicturePlan::Target::kFolder) {
-    const fs::path path = runtime::PathOf(plan_.path) / runtime::PathOf(name + EndingOf(plan_.format));
-    WriteFile(runtime::Utf8Of(path.lexically_normal()), BytesOf(std::move(pages)));
-  } else {
-    for (render::Drawing& page : pages) pages_.push_back(std::move(page));
+  if (tasks_.HasFailed()) Await();
+  // a task is copied when it is taken, but not what it holds
+  const auto held = std::make_shared<const std::vector<render::Drawing>>(std::move(pages));
+  if (plan_.target != PicturePlan::Target::kFolder) {
+    tasks_.Add([this, held] {
+      if (plan_.format != PictureFormat::kPdf) {
+        bytes_ = BytesOf(*held);
+      } else {
+        for (const render::Drawing& page : *held) AddPage(page);
+      }
+    });
+    return;
   }
+  const fs::path path = runtime::PathOf(plan_.path) / runtime::PathOf(name + EndingOf(plan_.format));
+  paths_.push_back(runtime::Utf8Of(path.lexically_normal()));
+  tasks_.Add([this, held, file = paths_.back()] { WriteFile(file, BytesOf(*held)); });
+}
+
+void PictureWriter::AddPage(const render::Drawing& page) {
+  if (!document_) document_ = LoadPainter().NewPdf();
+  document_->Add(plan_.scale == 1 ? page : render::Scaled(page, plan_.scale));
+}
+
+void PictureWriter::Await() {
+  std::exception_ptr failure;
+  const std::size_t done = tasks_.Finish(failure);
+  for (std::size_t i = 0; list_ && i < std::min(done, paths_.size()); ++i) streams_.out << paths_[i] << '\n';
+  paths_.clear();
+  if (failure) std::rethrow_exception(failure);
 }
 
 void PictureWriter::Finish() {
-  if (pages_.empty()) return;
-  const std::string bytes = BytesOf(std::move(pages_));
-  pages_.clear();
-  if (plan_.target == PicturePlan::Target::kFile) return WriteFile(plan_.path, bytes);
-  streams_.out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  Await();
+  if (document_) bytes_ = document_->Finish();
+  if (bytes_.empty()) return;
+  if (plan_.target == PicturePlan::Target::kFile) {
+    WriteFile(plan_.path, bytes_);
+    if (list_) streams_.out << plan_.path << '\n';
+    return;
+  }
+  if (plan_.target != PicturePlan::Target::kStandardOutput) return;
+  streams_.out.write(bytes_.data(), static_cast<std::streamsize>(bytes_.size()));
   Deliver(streams_);
 }
 

@@ -1,15 +1,20 @@
 #pragma once
 
+#include <cstddef>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "cli/Streams.h"
 #include "cli/render/PictureOptions.h"
+#include "cli/render/TaskQueue.h"
 #include "render/Drawing.h"
+#include "render/Painter.h"
 
 namespace plotsmith::cli {
 
-/// Writes pictures according to a plan. Optionally prints the paths of the files on `out`, one per line.
+/// Writes pictures according to a plan. Optionally prints the paths of the files on `out`, one per line. The
+/// pictures are made and written in threads while the caller goes on.
 class PictureWriter {
  public:
   /// Makes the folder if it doesn't exist. Throws CommandError if that fails. With `list`, the paths are
@@ -17,23 +22,28 @@ class PictureWriter {
   PictureWriter(PicturePlan plan, const Streams& streams, bool list);
 
   /// Adds a picture. In a folder, `name` is the name of its file, without extension. Throws CommandError if
-  /// it can't be written.
+  /// it, or one before it, can't be made or written.
   void Add(const std::string& name, render::Drawing drawing);
   /// Adds the pages of a PDF document.
   void AddDocument(const std::string& name, std::vector<render::Drawing> pages);
-  /// Writes the single file, if the plan has one. Call this after the last picture.
+  /// Waits until everything is written. Call this after the last picture.
   void Finish();
 
  private:
   /// Returns all pages as PDF, or the first page in another format.
-  std::string BytesOf(std::vector<render::Drawing> pages) const;
+  std::string BytesOf(const std::vector<render::Drawing>& pages) const;
   std::string PngOf(const render::Drawing& drawing) const;
-  void WriteFile(const std::string& path, const std::string& bytes) const;
+  void AddPage(const render::Drawing& page);
+  /// Waits for the pictures that were taken, and prints their paths. Throws what went wrong first.
+  void Await();
 
   PicturePlan plan_;
   Streams streams_;
   bool list_;
-  std::vector<render::Drawing> pages_;  ///< The pages of the single file.
+  std::string bytes_;  ///< The bytes of the single file.
+  std::unique_ptr<render::PdfDocument> document_;
+  std::vector<std::string> paths_;  ///< The file of each task; empty for a task that writes none.
+  TaskQueue tasks_;
 };
 
 }  // namespace plotsmith::cli

@@ -20,6 +20,13 @@ class Worksheet : public Sheet {
   /// Returns the next row below `row` that may have contents in the column, or 0 if there is none. Use it to
   /// skip blank cells.
   virtual std::int32_t NextRowAt(std::int32_t row, std::int32_t column) = 0;
+  /// Returns a row below `row`. In each row between the two, the cell of the column shows a text other than
+  /// `text`. Use it to search a column for a text or for its first blank cell. A host that can't skip such
+  /// cells quickly returns the next row.
+  virtual std::int32_t NextRowShowing(std::int32_t row, std::int32_t column, std::string_view text) {
+    static_cast<void>(column), static_cast<void>(text);
+    return row + 1;
+  }
   /// Stores a value as if it was typed: a text that looks like a number becomes a number, a leading
   /// apostrophe marks a text, and Empty clears the cell. The format of the cell doesn't change. Raises error
   /// 1004 for values that a cell can't contain, such as a formula in a host without formulas, and for sheets

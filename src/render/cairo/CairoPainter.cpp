@@ -8,6 +8,7 @@
 #include <numbers>
 #include <optional>
 #include <stdexcept>
+#include <utility>
 
 #include "render/cairo/CairoImage.h"
 #include "render/cairo/CairoPaint.h"
@@ -95,16 +96,16 @@ bool MayBeStrokedInPieces(const PathItem& item) {
          });
 }
 
-class Painter {
+class ItemPainter {
  public:
   /// With `pixels`, upright lines and edges are brought onto the pixels of a picture.
-  Painter(cairo_t* cr, const Fonts& fonts, std::optional<PixelScale> pixels)
+  ItemPainter(cairo_t* cr, const Fonts& fonts, std::optional<PixelScale> pixels)
       : cr_(cr), fonts_(fonts), pixels_(pixels) {}
-  ~Painter() {
+  ~ItemPainter() {
     for (; clips_ > 0; --clips_) cairo_restore(cr_);
   }
-  Painter(const Painter&) = delete;
-  Painter& operator=(const Painter&) = delete;
+  ItemPainter(const ItemPainter&) = delete;
+  ItemPainter& operator=(const ItemPainter&) = delete;
 
   void Draw(const Item& item) {
     const auto* path = std::get_if<PathItem>(&item.content);
@@ -179,7 +180,7 @@ void Check(cairo_status_t status) {
 
 void PaintItems(cairo_t* cr, const Drawing& drawing, const Fonts& fonts, std::optional<PixelScale> pixels) {
   cairo_set_miter_limit(cr, 4);
-  Painter painter(cr, fonts, pixels);
+  ItemPainter painter(cr, fonts, pixels);
   for (const Item& item : drawing.items) painter.Draw(item);
 }
 
@@ -239,24 +240,47 @@ Raster MakeRaster(const Drawing& drawing, const Fonts& fonts, double dpi) {
   return raster;
 }
 
-std::string MakePdf(std::span<const Drawing> pages, const Fonts& fonts) {
-  std::string bytes;
-  const Surface surface(cairo_pdf_surface_create_for_stream(Append, &bytes, 1, 1));
-  // a moment that never changes, so that the same drawings give the same bytes
-  cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_CREATE_DATE, "2000-01-01T00:00:00Z");
-  if (!pages.empty()) {
-    cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_TITLE, pages.front().title.c_str());
+namespace {
+
+class CairoPdf final : public PdfDocument {
+ public:
+  explicit CairoPdf(const Fonts& fonts)
+      : fonts_(fonts), surface_(cairo_pdf_surface_create_for_stream(Append, &bytes_, 1, 1)) {
+    // a moment that never changes, so that the same drawings give the same bytes
+    cairo_pdf_surface_set_metadata(surface_.get(), CAIRO_PDF_METADATA_CREATE_DATE, "2000-01-01T00:00:00Z");
   }
-  for (const Drawing& page : pages) {
-    cairo_pdf_surface_set_size(surface.get(), page.width, page.height);
-    const Context cr(cairo_create(surface.get()));
-    Paint(cr.get(), page, fonts);
+
+  void Add(const Drawing& page) override {
+    if (!std::exchange(hasPages_, true))
+      cairo_pdf_surface_set_metadata(surface_.get(), CAIRO_PDF_METADATA_TITLE, page.title.c_str());
+    cairo_pdf_surface_set_size(surface_.get(), page.width, page.height);
+    const Context cr(cairo_create(surface_.get()));
+    Paint(cr.get(), page, fonts_);
     Check(cairo_status(cr.get()));
     cairo_show_page(cr.get());
   }
-  cairo_surface_finish(surface.get());
-  Check(cairo_surface_status(surface.get()));
-  return bytes;
+
+  std::string Finish() override {
+    cairo_surface_finish(surface_.get());
+    Check(cairo_surface_status(surface_.get()));
+    return std::move(bytes_);
+  }
+
+ private:
+  const Fonts& fonts_;
+  std::string bytes_;  // the surface writes to it to its end
+  const Surface surface_;
+  bool hasPages_ = false;
+};
+
+}  // namespace
+
+std::unique_ptr<PdfDocument> NewPdf(const Fonts& fonts) { return std::make_unique<CairoPdf>(fonts); }
+
+std::string MakePdf(std::span<const Drawing> pages, const Fonts& fonts) {
+  const auto document = NewPdf(fonts);
+  for (const Drawing& page : pages) document->Add(page);
+  return document->Finish();
 }
 
 }  // namespace plotsmith::render

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <memory>
 #include <span>
 #include <string>
 
 #include "render/Drawing.h"
+#include "render/Painter.h"
 #include "render/Raster.h"
 #include "render/cairo/Fonts.h"
 
@@ -19,6 +21,8 @@ void Paint(cairo_t* cr, const Drawing& drawing, const Fonts& fonts);
 std::string MakePng(const Drawing& drawing, const Fonts& fonts, double dpi = 96);
 /// The same picture as pixels.
 Raster MakeRaster(const Drawing& drawing, const Fonts& fonts, double dpi = 96);
+/// A document without a page. The fonts have to outlive it.
+std::unique_ptr<PdfDocument> NewPdf(const Fonts& fonts);
 /// The bytes of a PDF document with a page for each drawing, the same on every run.
 std::string MakePdf(std::span<const Drawing> pages, const Fonts& fonts);
 

@@ -1,7 +1,9 @@
 #include "render/cairo/Fonts.h"
 
+#include <algorithm>
 #include <cmath>
 #include <fontconfig/fontconfig.h>
+#include <functional>
 #include <hb-ot.h>
 #include <pango/pangocairo.h>
 #include <string>
@@ -36,9 +38,23 @@ struct FreeDescription {
 using Layout = std::unique_ptr<PangoLayout, Release>;
 using Description = std::unique_ptr<PangoFontDescription, FreeDescription>;
 
-std::string KeyOf(const Font& font) {
-  return font.family + '\n' + std::to_string(font.size) + (font.bold ? 'b' : '-') +
-         (font.italic ? 'i' : '-') + (font.underline ? 'u' : '-');
+struct FontHash {
+  std::size_t operator()(const Font& font) const {
+    const std::size_t look = (font.bold ? 1u : 0u) + (font.italic ? 2u : 0u) + (font.underline ? 4u : 0u);
+    return std::hash<std::string>()(font.family) ^ (std::hash<double>()(font.size) * 8 + look);
+  }
+};
+/// Finds a text by a view of it, so that a text that is known isn't copied.
+struct TextHash {
+  using is_transparent = void;
+  std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
+};
+
+/// Whether a text is laid out as it is: letters, digits and signs of ASCII, and blanks.
+bool IsPlain(std::string_view text) {
+  return text.size() <= kLongestText && std::all_of(text.begin(), text.end(), [](char byte) {
+           return byte >= 0x20 && static_cast<unsigned char>(byte) < 0x80;
+         });
 }
 
 /// The part of a text that is laid out. Bytes that are no UTF-8 are replaced.
@@ -63,13 +79,14 @@ struct LaidOut {
 struct FontEntry {
   Description description;
   double ascent = 0, descent = 0;
-  std::unordered_map<std::string, LaidOut> texts;
+  std::unordered_map<std::string, LaidOut, TextHash, std::equal_to<>> texts;
 };
 
 struct Fonts::State {
   std::unique_ptr<PangoFontMap, Release> map;
   std::unique_ptr<PangoContext, Release> context;
-  std::unordered_map<std::string, FontEntry> fonts;
+  std::unordered_map<Font, FontEntry, FontHash> fonts;
+  std::pair<const Font, FontEntry>* recent = nullptr;
   std::size_t texts = 0;
 
   Layout MakeLayout(const std::string& text, const FontEntry& entry, bool underline) const {
@@ -112,7 +129,9 @@ struct Fonts::State {
   }
 
   FontEntry& EntryOf(const Font& font) {
-    const auto [found, isNew] = fonts.try_emplace(KeyOf(font));
+    if (recent != nullptr && recent->first == font) return recent->second;
+    const auto [found, isNew] = fonts.try_emplace(font);
+    recent = &*found;
     FontEntry& entry = found->second;
     if (!isNew) return entry;
     const bool installed = !font.family.empty() && IsInstalled(font.family);
@@ -129,6 +148,10 @@ struct Fonts::State {
   }
 
   const LaidOut& TextOf(FontEntry& entry, std::string_view line, const Font& font) {
+    if (IsPlain(line)) {
+      const auto found = entry.texts.find(line);
+      if (found != entry.texts.end()) return found->second;
+    }
     const std::string text = Presentable(line);
     const auto found = entry.texts.find(text);
     if (found != entry.texts.end()) return found->second;

@@ -11,20 +11,23 @@ namespace {
 
 constexpr double kPointsPerInch = 72;
 
+/// The fonts that the calling thread measures and paints with.
+const Fonts& FontsOfThread() {
+  thread_local const Fonts fonts;
+  return fonts;
+}
+
 class CairoPainter final : public Painter {
  public:
-  const TextMeasure& Measure() const override { return fonts_; }
+  const TextMeasure& Measure() const override { return FontsOfThread(); }
   bool HasFonts() const override { return Fonts::IsAnyInstalled(); }
   Raster Rasterize(const Drawing& drawing, double scale) const override {
-    return MakeRaster(drawing, fonts_, scale * kPointsPerInch);
+    return MakeRaster(drawing, FontsOfThread(), scale * kPointsPerInch);
   }
   std::string Png(const Drawing& drawing, double scale) const override {
-    return MakePng(drawing, fonts_, scale * kPointsPerInch);
+    return MakePng(drawing, FontsOfThread(), scale * kPointsPerInch);
   }
-  std::string Pdf(const std::vector<Drawing>& pages) const override { return MakePdf(pages, fonts_); }
-
- private:
-  Fonts fonts_;
+  std::unique_ptr<PdfDocument> NewPdf() const override { return render::NewPdf(FontsOfThread()); }
 };
 
 }  // namespace

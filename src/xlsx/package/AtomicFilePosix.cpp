@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "runtime/SystemErrors.h"
 #include "xlsx/package/AtomicFile.h"
 #include "xlsx/package/PackageError.h"
 
@@ -12,7 +13,7 @@ namespace plotsmith::xlsx {
 namespace {
 
 [[noreturn]] void Fail(const std::string& path) {
-  throw PackageError("can't write " + path + ": " + std::strerror(errno));
+  throw PackageError("can't write " + path + ": " + runtime::SystemErrorText(errno));
 }
 
 constexpr const char* kDescriptors = "/proc/self/fd";

@@ -9,6 +9,7 @@
 
 #include "runtime/Ascii.h"
 #include "runtime/Strings.h"
+#include "runtime/SystemErrors.h"
 #include "runtime/Utf8Path.h"
 #include "xlsx/base/Limits.h"
 #include "xlsx/package/AtomicFile.h"
@@ -95,7 +96,8 @@ class ScratchFile {
  public:
   ScratchFile() : file_(file_system::OpenScratch()) {
     if (file_ < 0) {
-      throw PackageError(std::string("there is no room for a temporary file: ") + std::strerror(errno));
+      throw PackageError(std::string("there is no room for a temporary file: ") +
+                         runtime::SystemErrorText(errno));
     }
   }
   ~ScratchFile() { file_system::Close(file_); }

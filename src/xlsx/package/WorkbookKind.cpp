@@ -9,6 +9,7 @@
 #include <iterator>
 
 #include "runtime/Ascii.h"
+#include "runtime/SystemErrors.h"
 #include "runtime/Utf8Path.h"
 #include "xlsx/package/Namespaces.h"
 #include "xlsx/package/PackageError.h"
@@ -78,7 +79,7 @@ void CheckCanBeOpened(const std::string& path) {
   if (std::ifstream(runtime::PathOf(path))) return;
   const int reason = error ? error.value() : errno;
   if (reason == EACCES) throw PackageError("you have no permission to read it");
-  throw PackageError(std::string("it can't be opened: ") + std::strerror(reason));
+  throw PackageError(std::string("it can't be opened: ") + runtime::SystemErrorText(reason));
 }
 
 }  // namespace

@@ -273,7 +273,9 @@ std::string_view Prefix(std::string_view name) {
 
 pugi::xml_node Child(pugi::xml_node parent, std::string_view local) {
   for (pugi::xml_node child = parent.first_child(); child; child = child.next_sibling()) {
-    if (child.type() == pugi::node_element && LocalName(child) == local) return child;
+    // most children end otherwise, which is cheaper to see than where their prefixes end
+    const std::string_view name = child.name();
+    if (name.ends_with(local) && LocalName(name) == local && child.type() == pugi::node_element) return child;
   }
   return {};
 }

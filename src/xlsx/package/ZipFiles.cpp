@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+#include "runtime/SystemErrors.h"
 #include "xlsx/package/FileSystem.h"
 #include "xlsx/package/PackageError.h"
 
@@ -22,7 +23,7 @@ class ZipFile {
     zip_error_init(&error_);
     const auto size = file_ < 0 ? std::nullopt : file_system::SizeOf(file_);
     if (!size) {
-      const std::string reason = std::strerror(errno);
+      const std::string reason = runtime::SystemErrorText(errno);
       if (file_ >= 0) file_system::Close(file_);
       throw PackageError(reason);
     }

@@ -6,6 +6,7 @@
 
 #include "runtime/Ascii.h"
 #include "xlsx/base/Limits.h"
+#include "xlsx/package/AheadStream.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/package/XString.h"
 #include "xlsx/package/Xml.h"
@@ -471,7 +472,8 @@ void SheetScanner::Store(std::int32_t column, std::string_view type, std::uint32
 }  // namespace
 
 SheetContents ScanSheet(Archive::Stream& source, DateSystem dates) {
-  return SheetScanner(source, dates).Scan();
+  AheadStream ahead(source);
+  return SheetScanner(ahead, dates).Scan();
 }
 
 }  // namespace plotsmith::xlsx
