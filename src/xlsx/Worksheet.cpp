@@ -165,13 +165,24 @@ std::int32_t Worksheet::NextRowAt(std::int32_t row, std::int32_t column) {
 std::int32_t Worksheet::NextRowShowing(std::int32_t row, std::int32_t column, std::string_view text) {
   CheckCell(row, column);
   if (!grid_) return row + 1;
-  const auto showsAnother = [&](const GridCell* cell) {
-    return cell != nullptr && cell->kind == CellValue::Kind::kText && !cell->text.empty() &&
-           cell->text != text && book_.Styles().IsGeneral(cell->style);
-  };
-  do ++row;
-  while (row <= grid_->RowCount() && showsAnother(grid_->Find(row, column)));
-  return row;
+  if (!keys_ || keys_->Column() != column) MakeKeys(column);
+  return keys_->NextRow(row, ColumnKeys::KeyOf(text));
+}
+
+std::uint32_t Worksheet::KeyOf(const GridCell* cell) const {
+  const bool isPlainText = cell != nullptr && cell->kind == CellValue::Kind::kText && !cell->text.empty() &&
+                           book_.Styles().IsGeneral(cell->style);
+  return isPlainText ? ColumnKeys::KeyOf(cell->text) : ColumnKeys::kUnknown;
+}
+
+void Worksheet::MakeKeys(std::int32_t column) {
+  keys_.emplace(column);
+  for (std::int32_t row = 1; row <= grid_->RowCount(); ++row)
+    keys_->Set(row, KeyOf(grid_->Find(row, column)));
+}
+
+void Worksheet::ForgetKeys(const CellRange& range) {
+  if (keys_ && range.column1 <= keys_->Column() && keys_->Column() <= range.column2) keys_.reset();
 }
 
 CellValue Worksheet::Stored(std::int32_t row, std::int32_t column) {
@@ -221,9 +232,11 @@ void Worksheet::SetCellValueAt(std::int32_t row, std::int32_t column, const Vari
   GridCell& cell = Grid().At(row, column);
   entered.style = cell.style;
   cell = std::move(entered);
+  if (keys_ && keys_->Column() == column) keys_->Set(row, KeyOf(&cell));
 }
 
 void Worksheet::ClearCells(const CellRange& range) {
+  ForgetKeys(range);
   for (std::int32_t row = range.row1; row <= range.row2; ++row) {
     for (std::int32_t column = range.column1; column <= range.column2; ++column) Grid().At(row, column) = {};
   }
@@ -233,6 +246,7 @@ void Worksheet::SetNumberFormat(const CellRange& range, std::string_view code) {
   if (!NumberFormat::Parse(code)) {
     throw CantSet("NumberFormat", "Range");
   }
+  ForgetKeys(range);
   for (std::int32_t row = range.row1; row <= range.row2; ++row) {
     for (std::int32_t column = range.column1; column <= range.column2; ++column) {
       GridCell& cell = Grid().At(row, column);
@@ -253,12 +267,14 @@ CellRange Worksheet::UsedCells() {
 void Worksheet::InsertRow(std::int32_t row) {
   CheckCell(row, 1);
   Grid().InsertRow(row);
+  if (keys_) keys_->InsertRow(row);
   book_.Shifts().Add(Entry().name, row, 1);
 }
 
 void Worksheet::DeleteRow(std::int32_t row) {
   CheckCell(row, 1);
   Grid().DeleteRow(row);
+  if (keys_) keys_->DeleteRow(row);
   book_.Shifts().Add(Entry().name, row, -1);
 }
 
@@ -267,6 +283,7 @@ void Worksheet::SortCells(const CellRange& range, const SortOptions& options) {
   if (!MergedCells().empty()) {
     throw Refusal("To do this, all the merged cells need to be the same size.");
   }
+  ForgetKeys(range);
   SortRows(grid, range, options);
 }
 

@@ -13,6 +13,7 @@
 #include "xlsx/book/CellSource.h"
 #include "xlsx/sheet/CellGrid.h"
 #include "xlsx/sheet/CellSort.h"
+#include "xlsx/sheet/ColumnKeys.h"
 #include "xlsx/sheet/Reference.h"
 #include "xlsx/sheet/SheetGeometry.h"
 #include "xlsx/sheet/SheetScanner.h"
@@ -95,6 +96,11 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   /// The cells for writing. Error 1004 on a sheet that isn't ours to write.
   CellGrid& Grid();
   excel::CellValue Unpack(PackedValue value, std::uint32_t style);
+  /// The key of a cell for a walk for a text.
+  std::uint32_t KeyOf(const GridCell* cell) const;
+  void MakeKeys(std::int32_t column);
+  /// Forgets the keys where cells of the range are about to change.
+  void ForgetKeys(const CellRange& range);
 
   /// Changes the XML of the part at once; `change` returns whether there was anything to change. What the
   /// part lacks for it is the workbook's damage.
@@ -110,6 +116,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   std::unique_ptr<SheetDrawing> drawing_;
   bool drawingSought_ = false;
   std::optional<std::string> drawingDamage_;  ///< why the sheet's drawing can't be read
+  std::optional<ColumnKeys> keys_;            ///< of grid_, for the column of the last walk for a text
 };
 
 }  // namespace plotsmith::xlsx

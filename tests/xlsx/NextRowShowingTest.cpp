@@ -31,11 +31,16 @@ TEST_F(HostTest, AWalkForATextPassesRowsThatShowOthers) {
   EXPECT_EQ(Walk(*sheet, "none"), "1 6 11 ");
   sheet->Rows(4)->Insert();
   EXPECT_EQ(Walk(*sheet, "a"), "1 3 4 ") << "the new row is blank";
-  sheet->Rows(4)->Delete();
-  sheet->Rows(1)->Delete();
+  sheet->Rows(4)->Delete(excel::xlShiftUp);
+  sheet->Rows(1)->Delete(excel::xlShiftUp);
   EXPECT_EQ(Walk(*sheet, "a"), "1 2 3 5 8 10 ");
   sheet->Cells(4, 1)->SetNumberFormat("\"x\"@");
   EXPECT_EQ(Walk(*sheet, "a"), "1 2 3 4 5 8 10 ") << "what it shows isn't what it holds";
+  sheet->SetCellValueAt(6, 1, "a");
+  sheet->SetCellValueAt(3, 1, "c");
+  EXPECT_EQ(Walk(*sheet, "a"), "1 2 4 5 6 8 10 ") << "values that were written between two walks";
+  sheet->Cells(5, 1)->Clear();
+  EXPECT_EQ(Walk(*sheet, "a"), "1 2 4 5 ");
   EXPECT_THROW(sheet->NextRowShowing(0, 1, "a"), runtime::RuntimeError);
 }
 

@@ -46,7 +46,7 @@ std::pair<std::string, std::string> All(Archive::Stream& stream, std::size_t siz
   return {all, error};
 }
 
-TEST(AheadStreamTest, GivesTheBytesOfTheOtherStreamWhateverThePieces) {
+TEST(AheadStreamTest, GivesTheBytesOfTheOtherStreamInPiecesOfAnySize) {
   const struct {
     std::size_t length, piece, buffer;
   } cases[] = {{0, 100, 100},
