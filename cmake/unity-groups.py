@@ -135,10 +135,13 @@ class Source:
         self.path = path
         self.size = len(text_of(path))
         self.words = words_of(path)
-        self.private = private_declarations(path)
         self.public = {}
         for header in headers:
             self.public.update(declared_in_header(header))
+        # what it defines for its header isn't its own
+        defined = declarations(code_of(path), path)
+        self.private = {name: declared for name, declared in defined.items() if name not in self.public}
+        self.private.update(private_declarations(path))
         files = headers | {path}
         in_room = os.path.join(folders[0], room, "") if room else None
         # only sources of the same kind are read as one
