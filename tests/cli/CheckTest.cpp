@@ -188,7 +188,7 @@ TEST_F(CheckTest, ChartsThatAreNotSeen) {
   EXPECT_EQ(
       Found(book),
       List{"No chart has the alternative text 'VEX_Chart1'; there are no charts; the chart was drawn and "
-           "is gone, and the next refresh removes its definition."});
+           "no longer exists, so the next refresh removes its definition."});
 
   book = SalesBook({{"VEX_Chart1"}});
   const S path = folder_ / "grouped.xlsx";
@@ -313,7 +313,7 @@ TEST_F(CheckTest, TablesAndColumnsThatAreNotThere) {
           "when "
           "it is called exactly Data1 to Data5.",
           "VEX_TableRange3: The name 'VEX_TableRange3' marks no table, because it refers to '=#REF!', which "
-          "is no range of cells.",
+          "isn't a range of cells.",
           "VEX_TableRange4: The name 'VEX_TableRange4' marks no table, because it refers to 2 rows, and the "
           "head of a table alone has three."}));
   EXPECT_EQ(Found(over("")), List{"The definition has no 'table-id'; there is Data1."});

@@ -160,7 +160,7 @@ TEST_F(RenderTest, PicturesGoWhereTheOutputSays) {
 TEST_F(RenderTest, TheHelpSaysTheFormatThatIsTakenWithoutOne) {
   const struct {
     S verb, format;
-  } cases[] = {{"render", "(without it: as -o ends, else svg)"}, {"refresh", "(without it: svg)"}};
+  } cases[] = {{"render", "(default: as -o ends, else svg)"}, {"refresh", "(default: svg)"}};
   for (const auto& c : cases) {
     const S help = RunCommand({c.verb, "--help"}).out;
     EXPECT_NE(help.find("svg, png or pdf " + c.format + "\n"), S::npos) << c.verb << help;

@@ -107,8 +107,8 @@ TEST_F(RunLookTest, NothingIsWrittenWhereADefinitionWouldBeLost) {
       const CommandResult refused = RunCommand(verb);
       EXPECT_EQ(refused.code, 3) << verb[0];
       EXPECT_EQ(refused.err, line +
-                                 ".\nplotsmith: nothing was changed, as 1 definition would be lost; mend "
-                                 "what is said, or use --drop-broken.\n");
+                                 ".\nplotsmith: nothing was changed, as 1 definition would be lost; correct "
+                                 "this, or use --drop-broken.\n");
       EXPECT_EQ(Bytes(path_), before) << verb[0];
     }
     const S noCharts = row.charts == 0 ? kStray + NothingToRefresh() : "";
@@ -283,10 +283,10 @@ TEST_F(RunLookTest, WhatSeveralChartsHaveInCommonIsOneLine) {
   PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}});
   book.Sheet("Data1").rows[2][2] = S("5 pcs");
   Write(book);
-  EXPECT_EQ(
-      Refresh(),
-      "plotsmith: Data1!C3 (charts 'Name of VEX_Chart1' and 'Name of VEX_Chart2'): The column 'Amount' is no "
-      "number column, as 'values' needs, because this cell contains the text '5 pcs', which counts as 0.\n");
+  EXPECT_EQ(Refresh(),
+            "plotsmith: Data1!C3 (charts 'Name of VEX_Chart1' and 'Name of VEX_Chart2'): The column 'Amount' "
+            "isn't a number column, which 'values' needs, because this cell contains the text '5 pcs', which "
+            "counts as 0.\n");
 }
 
 TEST_F(RunLookTest, AColumnThatLooksRenamedIsNamed) {
