@@ -57,11 +57,13 @@ class ModalLoop {
 
   /// How many forms can nest. Each step of a wizard, forth or back, is one more, and takes some of the stack.
   static constexpr std::size_t kMostForms = 500;
+  /// The stack that the last of them needs for its own work and for a report, in bytes.
+  static constexpr std::size_t kStackOfForm = std::size_t{128} * 1024;
 
   /// Loads a form, if it isn't loaded yet, and shows it in front of the others. Returns when the form has
   /// gone from the screen; an error of one of its events ends the show and goes to the caller. Gestures on a
   /// form that isn't the one in front are dropped.
-  /// Error 28 where too many forms are shown already.
+  /// Error 28 where too many forms are shown already, or too little of the thread's stack is left.
   void ShowModal(std::shared_ptr<Form> form);
   /// Lets the view work, and timers of the form in front tick, in the middle of an event. Gestures wait until
   /// that event is over.

@@ -108,18 +108,19 @@ DISPID Member::IdOn(IDispatch& object) {
   return id;
 }
 
-OwnedVariant Call(IDispatch* object, Member& member, Kind kind, std::span<const OwnedVariant> arguments,
-                  WhenBusy whenBusy) {
-  if (object == nullptr) throw RuntimeError(runtime::error::kObjectNotSet);
-  const DISPID id = member.IdOn(*object);
+namespace {
+
+/// Call, with the number of the member.
+OwnedVariant CallById(IDispatch& object, DISPID id, Kind kind, std::span<const OwnedVariant> arguments,
+                      WhenBusy whenBusy) {
   Parameters parameters(arguments, kind);
   if (kind == Kind::kPut || kind == Kind::kMethod) ++changes;
   OwnedVariant answer;
   while (true) {
     ++calls;
     EXCEPINFO exception{};
-    const HRESULT result = object->Invoke(id, IID_NULL, kEnglish, FlagsOf(kind), &parameters.passed,
-                                          kind == Kind::kPut ? nullptr : answer.Put(), &exception, nullptr);
+    const HRESULT result = object.Invoke(id, IID_NULL, kEnglish, FlagsOf(kind), &parameters.passed,
+                                         kind == Kind::kPut ? nullptr : answer.Put(), &exception, nullptr);
     const bool thrown = result == DISP_E_EXCEPTION;
     // A method that throws such a code may have done a part of its work, as a macro that hands it on.
     const bool busy = thrown ? kind != Kind::kMethod && IsBusy(exception.scode) : IsBusy(result);
@@ -129,6 +130,19 @@ OwnedVariant Call(IDispatch* object, Member& member, Kind kind, std::span<const 
     if (!busy || whenBusy == WhenBusy::kFail || !waiting.WaitOnce()) throw failure;
     ++changes;  // calls that came in meanwhile may have changed anything
   }
+}
+
+}  // namespace
+
+OwnedVariant Call(IDispatch* object, Member& member, Kind kind, std::span<const OwnedVariant> arguments,
+                  WhenBusy whenBusy) {
+  if (object == nullptr) throw RuntimeError(runtime::error::kObjectNotSet);
+  return CallById(*object, member.IdOn(*object), kind, arguments, whenBusy);
+}
+
+OwnedVariant CallDefault(IDispatch* object) {
+  if (object == nullptr) throw RuntimeError(runtime::error::kObjectNotSet);
+  return CallById(*object, DISPID_VALUE, Kind::kGet, {}, WhenBusy::kWait);
 }
 
 bool HasMember(IDispatch* object, const wchar_t* name) {

@@ -46,6 +46,10 @@ enum class WhenBusy { kWait, kFail };
 OwnedVariant Call(IDispatch* object, Member& member, Kind kind, std::span<const OwnedVariant> arguments,
                   WhenBusy whenBusy = WhenBusy::kWait);
 
+/// Reads the default member of an object, as the language does where it needs a value. The errors are those
+/// of Call.
+OwnedVariant CallDefault(IDispatch* object);
+
 /// Whether an object has a member of the name. This is no call of the member.
 bool HasMember(IDispatch* object, const wchar_t* name);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
 
 #include "windows/com/Texts.h"
 
@@ -71,12 +72,8 @@ RuntimeError WithText(int number, const std::string& text, const std::string& so
                       source.empty() ? standard.Source() : source);
 }
 
-std::string Taken(BSTR& text) {
-  const std::string result = Utf8(text);
-  SysFreeString(text);
-  text = nullptr;
-  return result;
-}
+/// The text of a field of an exception, which is emptied.
+std::string Taken(BSTR& text) { return Utf8(OwnedBstr::Attach(std::exchange(text, nullptr))); }
 
 }  // namespace
 

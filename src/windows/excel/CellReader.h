@@ -40,8 +40,8 @@ class CellReader {
   struct Stretch {
     std::int32_t first = 0;  ///< row; where a stretch is empty, the row below the cell that was read last
     std::vector<excel::CellValue> values;
-    /// Whether the number format of all cells is General, once it was asked for.
-    std::optional<bool> general;
+    /// Whether Excel shows all texts in these cells as they are, once it was asked for.
+    std::optional<bool> plain;
 
     std::int32_t Size() const { return static_cast<std::int32_t>(values.size()); }
     std::int32_t End() const { return first + Size(); }
@@ -59,7 +59,11 @@ class CellReader {
   /// The values of cells from a row on, fewer than `size` at the end of the used range; none if they can't be
   /// told together.
   std::vector<excel::CellValue> Fetch(std::int32_t row, std::int32_t column, std::int32_t size);
-  bool IsGeneral(const Stretch& stretch, std::int32_t column) const;
+  /// Whether Excel shows all texts of a stretch as they are, however wide their column is: the number format
+  /// of the cells is General, and no cell shows its formula instead.
+  bool IsPlain(const Stretch& stretch, std::int32_t column);
+  /// Whether texts of a stretch may be formulas that are shown in the place of their results.
+  bool ShowsFormulas(const Stretch& stretch, std::int32_t column, IDispatch* cells);
   /// The last row of the used range.
   std::int32_t Bottom();
   excel::CellValue Kept(const VARIANT& value);
@@ -68,6 +72,7 @@ class CellReader {
   std::uint64_t changes_ = 0;                  ///< of com::ChangeCount
   std::map<std::int32_t, Stretch> stretches_;  ///< by column, the latest of each
   std::optional<std::int32_t> bottom_;
+  std::optional<bool> showsFormulas_;      ///< of the whole sheet (Window.DisplayFormulas)
   std::unordered_set<std::string> texts_;  ///< of all cells that were fetched, each once
 };
 

@@ -7,6 +7,7 @@
 #include "common/PSConstants.h"
 #include "controller/System.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Stack.h"
 #include "windows/com/Windows.h"
 #include "windows/desktop/WindowsDesktop.h"
 #include "windows/server/Module.h"
@@ -32,14 +33,6 @@ struct AtWork {
   AtWork& operator=(const AtWork&) = delete;
 };
 
-std::size_t StackLeft() {
-  ULONG_PTR low = 0;
-  ULONG_PTR high = 0;
-  GetCurrentThreadStackLimits(&low, &high);
-  const auto here = reinterpret_cast<ULONG_PTR>(__builtin_frame_address(0));
-  return here - low;
-}
-
 /// Makes this thread the component's own if none is yet.
 bool IsOwnThread() {
   DWORD none = 0;
@@ -58,7 +51,7 @@ void CheckThatItCanRun() {
         error::kAutomation,
         "Plotsmith is still at work on an earlier call. Call it again when that has returned.");
   }
-  if (StackLeft() < kStackOfRun) throw RuntimeError(error::kOutOfStackSpace);
+  if (runtime::StackLeft() < kStackOfRun) throw RuntimeError(error::kOutOfStackSpace);
 }
 
 void Start() {

@@ -234,25 +234,24 @@ std::string TypeText(const TYPEDESC& type) {
 }
 
 std::string Name(ITypeInfo& info, MEMBERID member) {
-  BSTR name = nullptr;
-  info.GetDocumentation(member, &name, nullptr, nullptr, nullptr);
-  const std::string text = com::Utf8(name);
-  SysFreeString(name);
-  return text;
+  com::OwnedBstr name;
+  info.GetDocumentation(member, name.Put(), nullptr, nullptr, nullptr);
+  return com::Utf8(name);
 }
 
 std::string FunctionText(ITypeInfo& info, const FUNCDESC& function) {
-  BSTR names[8] = {};
+  BSTR found[8] = {};
   UINT count = 0;
-  info.GetNames(function.memid, names, 8, &count);
+  info.GetNames(function.memid, found, 8, &count);
+  std::vector<com::OwnedBstr> names;
+  for (BSTR name : found) names.push_back(com::OwnedBstr::Attach(name));
   std::string text = std::to_string(function.memid) + " " + com::Utf8(names[0]) + "(";
   for (SHORT i = 0; i < function.cParams; ++i) {
     const ELEMDESC& parameter = function.lprgelemdescParam[i];
     const bool isOut = (parameter.paramdesc.wParamFlags & PARAMFLAG_FOUT) != 0;
     text += (i == 0 ? "" : ", ") + std::string(isOut ? "[in, out] " : "") + TypeText(parameter.tdesc) + " " +
-            com::Utf8(names[i + 1]);
+            com::Utf8(names.at(static_cast<std::size_t>(i) + 1));
   }
-  for (BSTR name : names) SysFreeString(name);
   return text + ")";
 }
 

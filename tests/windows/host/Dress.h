@@ -28,6 +28,9 @@ struct Host {
   std::string journal;   ///< its lines since it was opened, each with a line feed
   bool editing = false;  ///< a cell is being edited, so Interactive can't be set
   std::map<std::string, com::ComPtr<IDispatch>> macros;
+  /// The formulas of cells, which the embedded host doesn't have, by row and column of any sheet.
+  std::map<std::pair<std::int32_t, std::int32_t>, std::string> formulas;
+  bool displayFormulas = false;  ///< cells show their formulas
 };
 using HostPtr = std::shared_ptr<Host>;
 

@@ -110,14 +110,17 @@ com::OwnedVariant LiveObjects(excel::Application&, const Arguments&, const HostP
   return com::ToVariant(counts.objects.load());
 }
 
+/// Which ways are listed.
+enum class Which { kAll, kNotCalled };
+
 template <class T>
-void ListNotCalled(const std::string& name, std::vector<std::string>& list) {
+void ListWays(const std::string& name, Which which, std::vector<std::string>& list) {
   for (const auto& way : TableOf<T>().Ways()) {
     const char* kind = way.kind == DISPATCH_METHOD        ? " called"
                        : way.kind == DISPATCH_PROPERTYPUT ? " put"
                                                           : " read";
     const std::u16string text(way.name.begin(), way.name.end());
-    if (!way.called) list.push_back(name + "." + runtime::ToUtf8(text) + kind);
+    if (which == Which::kAll || !way.called) list.push_back(name + "." + runtime::ToUtf8(text) + kind);
   }
 }
 
@@ -125,11 +128,9 @@ void ListNotCalled(const std::string& name, std::vector<std::string>& list) {
 constexpr std::array kHostMembers = {"Open",        "Save",    "SaveAs", "Journal",     "SaveJournal",
                                      "DefineMacro", "Editing", "Calls",  "UnsureCalls", "LiveObjects"};
 
-}  // namespace
-
-std::vector<std::string> WaysNotCalled() {
+std::vector<std::string> Ways(Which which) {
   std::vector<std::string> list;
-#define CLASS_NAME(Class) ListNotCalled<excel::Class>(#Class, list);
+#define CLASS_NAME(Class) ListWays<excel::Class>(#Class, which, list);
 #include "windows/excel/members/Classes.inc"
 #undef CLASS_NAME
   std::erase_if(list, [](const std::string& way) {
@@ -138,6 +139,11 @@ std::vector<std::string> WaysNotCalled() {
   });
   return list;
 }
+
+}  // namespace
+
+std::vector<std::string> AllWays() { return Ways(Which::kAll); }
+std::vector<std::string> WaysNotCalled() { return Ways(Which::kNotCalled); }
 
 void AddHostMembers(Table<excel::Application>& table) {
   table.Add({L"Open", DISPATCH_METHOD, 1, 1, nullptr, Open});
