@@ -30,10 +30,27 @@ HWND NewWindow() {
   return window;
 }
 
-std::int32_t HandleCount() {
+/// How many things of the system the process has.
+std::string ResourceCounts() {
+  const HANDLE process = GetCurrentProcess();
   DWORD handles = 0;
-  GetProcessHandleCount(GetCurrentProcess(), &handles);
-  return static_cast<std::int32_t>(handles);
+  GetProcessHandleCount(process, &handles);
+  int windows = 0;
+  EnumThreadWindows(
+      GetCurrentThreadId(), [](HWND, LPARAM count) -> BOOL { return ++*reinterpret_cast<int*>(count), TRUE; },
+      reinterpret_cast<LPARAM>(&windows));
+  return std::to_string(handles) + " handles, " + std::to_string(GetGuiResources(process, GR_GDIOBJECTS)) +
+         " GDI objects, " + std::to_string(GetGuiResources(process, GR_USEROBJECTS)) + " USER objects, " +
+         std::to_string(windows) + " windows";
+}
+
+/// Makes a key of the registry for all users that goes with the session. It can't hold keys that stay.
+void MakeVolatileKey(const std::string& path) {
+  HKEY key = nullptr;
+  const LSTATUS status = RegCreateKeyExW(HKEY_LOCAL_MACHINE, com::Wide(path).c_str(), 0, nullptr,
+                                         REG_OPTION_VOLATILE, KEY_READ, nullptr, &key, nullptr);
+  if (status != ERROR_SUCCESS) throw com::ErrorOf(HRESULT_FROM_WIN32(status));
+  RegCloseKey(key);
 }
 
 com::ComPtr<IDispatch> NewObject(const std::string& progId) {
@@ -178,9 +195,15 @@ const Boxes::Member Boxes::kMembers[] = {
      [](Boxes&, const DISPPARAMS&) -> OwnedVariant {
        return com::ToVariant(static_cast<IDispatch*>(nullptr));
      }},
-    // Handles(): how many the process has.
-    {"Handles",
-     [](Boxes&, const DISPPARAMS&) -> OwnedVariant { return com::ToVariant(Variant(HandleCount())); }},
+    // Resources(): how many handles, objects and windows the process has.
+    {"Resources",
+     [](Boxes&, const DISPPARAMS&) -> OwnedVariant { return com::ToVariant(Variant(ResourceCounts())); }},
+    // MakeVolatileKey(path)
+    {"MakeVolatileKey",
+     [](Boxes&, const DISPPARAMS& sent) -> OwnedVariant {
+       MakeVolatileKey(Text(sent, 0));
+       return {};
+     }},
     // FreeUnusedLibraries(), and IsLoaded(library)
     {"FreeUnusedLibraries",
      [](Boxes&, const DISPPARAMS&) -> OwnedVariant {

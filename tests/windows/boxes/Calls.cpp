@@ -71,12 +71,48 @@ VARIANT ObjectOf(IUnknown* object, VARTYPE type) {
   return value;
 }
 
+/// An object that has nothing but a default member, a text.
+class TextObject final : public IDispatch {
+ public:
+  explicit TextObject(std::string text) : text_(std::move(text)) {}
+
+  STDMETHODIMP QueryInterface(REFIID id, void** object) override {
+    *object = id == IID_IUnknown || id == IID_IDispatch ? this : nullptr;
+    if (*object == nullptr) return E_NOINTERFACE;
+    AddRef();
+    return S_OK;
+  }
+  STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
+  STDMETHODIMP_(ULONG) Release() override {
+    const ULONG left = --references_;
+    if (left == 0) delete this;
+    return left;
+  }
+  STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return DISP_E_UNKNOWNNAME; }
+  STDMETHODIMP Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
+                      UINT*) override {
+    if (member != DISPID_VALUE || (flags & DISPATCH_PROPERTYGET) == 0) return DISP_E_MEMBERNOTFOUND;
+    // without a text it answers itself, as a hostile object may
+    *result = (text_.empty() ? com::ToVariant(static_cast<IDispatch*>(this))
+                             : com::ToVariant(runtime::Variant(text_)))
+                  .Detach();
+    return S_OK;
+  }
+
+ private:
+  std::string text_;
+  ULONG references_ = 1;
+};
+
 VARIANT ValueOf(const std::string& kind, const std::string& text, IDispatch* application) {
   if (kind == "s") return com::ToVariant(runtime::Variant(text)).Detach();
   if (kind == "i") return com::ToVariant(runtime::Variant(std::stoi(text))).Detach();
   if (kind == "o") return ObjectOf(application, VT_DISPATCH);
   if (kind == "u") return ObjectOf(application, VT_UNKNOWN);
   if (kind == "n") return ObjectOf(nullptr, VT_DISPATCH);
+  if (kind == "d") return ObjectOf(ComPtr<IDispatch>::Attach(new TextObject(text)).Get(), VT_DISPATCH);
   if (kind == "null") return OfType(VT_NULL);
   if (kind == "empty") return OfType(VT_EMPTY);
   if (kind == "missing") return com::Missing().Detach();

@@ -157,7 +157,7 @@ void AddWays(Table<excel::Range>& table) {
 template <>
 const Table<DocumentProperties>& TableOf<DocumentProperties>() {
   static const Table<DocumentProperties> table = [] {
-    Table<DocumentProperties> made;
+    Table<DocumentProperties> made("DocumentProperties");
     made.Add({L"Item", DISPATCH_PROPERTYGET, 1, 1, nullptr,
               [](DocumentProperties& properties, const Arguments& arguments, const HostPtr& host) {
                 return Answer(properties.book->BuiltinDocumentProperties(Given<std::string>(arguments[0])),
@@ -171,7 +171,7 @@ const Table<DocumentProperties>& TableOf<DocumentProperties>() {
 template <>
 const Table<DisplayFormat>& TableOf<DisplayFormat>() {
   static const Table<DisplayFormat> table = [] {
-    Table<DisplayFormat> made;
+    Table<DisplayFormat> made("DisplayFormat");
     made.Add({L"NumberFormat", DISPATCH_PROPERTYGET, 0, 0, nullptr,
               [](DisplayFormat& look, const Arguments&, const HostPtr& host) {
                 return Answer(Common(*look.range,

@@ -94,4 +94,58 @@ namesSay("names that throw", {Count: 1, Item: function() { throw new Error(5, "n
   controller.RefreshPlotsmithData(host, "Add-in", "");
   check("letting go", boxes.Take(), [report(kTables, kNoMember), kNoSheet].join("\n"));
 })();
+boxes.FreeUnusedLibraries();
+
+// An Excel of which one member answers what it never would, for every member that a refresh calls: sheets, ranges,
+// cells, names, shapes, charts, series, axes. Whatever comes is said in reports, and the component works afterwards.
+var book = WScript.Arguments(2);
+var kWays = ["throws", "Null", "Empty", "Nothing", "a number", "a text", "an array", "another object", "calls back"];
+var kAtWorkReport = report(kRefresh, "Plotsmith is still at work on an earlier call. Call it again when that has returned.");
+
+function spoiltHost(way, how, callback) {
+  var host = new ActiveXObject("PlotsmithTestHost.Application");
+  host.Open(book);
+  if (way) host.Spoil(way, how, callback);
+  return host;
+}
+
+// What the boxes say of a refresh in which a member is spoilt.
+function spoiltRefresh(way, how) {
+  var controller = newController();
+  var host = spoiltHost(way, how, function() { controller.RefreshPlotsmithData(host, "Add-in", ""); });
+  var result = resultOf(function() { controller.RefreshPlotsmithData(host, "Add-in", ""); });
+  if (result !== "ok") return "the call fails with " + result;
+  return boxes.Take();
+}
+
+// What is said at most: reports of procedures, sentences for the user.
+function isSaid(box) {
+  return /^Brindle Plotsmith \[OK\]: (\w+\.\w+\\r\\n.|[A-Z].*\.$|Unable to )/.test(box);
+}
+
+var untouched = spoiltHost();
+newController().RefreshPlotsmithData(untouched, "Add-in", "");
+check("nothing is spoilt", boxes.Take(), "");
+var plain = untouched.Journal;
+var members = untouched.WaysCalled.split("\n");
+untouched = null;
+(function() {
+  var reported = 0;
+  for (var i = 0; i < members.length - 1; ++i) {
+    for (var j = 0; j < kWays.length; ++j) {
+      var name = members[i] + ": " + kWays[j];
+      var said = spoiltRefresh(members[i], kWays[j]);
+      if (said === "") continue;
+      ++reported;
+      var boxesShown = said.split("\n");
+      for (var k = 0; k < boxesShown.length; ++k) {
+        var isExpected = kWays[j] === "calls back" ? boxesShown[k] === kAtWorkReport : isSaid(boxesShown[k]);
+        if (!isExpected) check(name, boxesShown[k], "a report");
+      }
+    }
+    CollectGarbage();
+    boxes.FreeUnusedLibraries();
+  }
+  WScript.Echo(members.length + " members, " + reported + " reported");
+})();
 finish();
