@@ -209,6 +209,7 @@ OwnedVariant Missing() {
 
 bool IsMissing(const VARIANT& value) {
   if (V_VT(&value) == (VT_BYREF | VT_VARIANT)) return IsMissing(*V_VARIANTREF(&value));
+  if (V_VT(&value) == (VT_BYREF | VT_ERROR)) return *V_ERRORREF(&value) == DISP_E_PARAMNOTFOUND;
   return V_VT(&value) == VT_ERROR && V_ERROR(&value) == DISP_E_PARAMNOTFOUND;
 }
 

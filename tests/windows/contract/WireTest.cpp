@@ -247,7 +247,7 @@ const std::vector<Row>& BookRows() {
           "Get Rows(); Call Sort(Object, Long 2, 5 x Missing, Long 1, Long 1, Boolean False, Long 1)"),
       ROW(Names, Count(), "Get Count() As Long"),
       ROW(Names, Item(2), "Call Item(Long 2) As DefinedName"),
-      ROW(Names, Item("VEX_TableRange"), R"(Call Item(String "VEX_TableRange") As Name)"),
+      ROW(Names, Item("VEX_TableRange"), R"(Call Item(String "VEX_TableRange") As DefinedName)"),
       ROW(DefinedName, Name(), "Get Name() As String"),
       ROW(DefinedName, RefersTo(), "Get RefersTo() As String"),
       ROW(DefinedName, RefersToRange(), "Get RefersToRange() As Range"),

@@ -29,6 +29,8 @@ function tripsWithoutWorkbook(name, call) {
     kProduct + "PSFunctions.RetrieveTableDefinitions\\r\\n" + kNotSet,
     kProduct + "PSFunctions.RetrieveChartDefinitions\\r\\n" + kNotSet
   ].join("\n"));
+  CollectGarbage();
+  boxes.FreeUnusedLibraries();  // the component forgets what it holds
 }
 tripsWithoutWorkbook("a refresh of a table", "RefreshChartsForTable|o|s:Data1");
 tripsWithoutWorkbook("a rename", "UpdateChartColumnNamesForTable|o|s:Data1|as:Old|as:New");
