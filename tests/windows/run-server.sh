@@ -13,6 +13,8 @@ add_chart() {
   build/plotsmith new "$families" --table Data1 --type "$@" >/dev/null 2>&1 || fails "exit code $?" "new $1"
 }
 add_chart column --title "Amount by region" --series Product --set stacked --new-sheet Charts
+column=$work/column.xlsx  # with the first of them alone
+cp "$families" "$column"
 add_chart pie --title "Where they come from" --categories Product --labels percentages --new-sheet Pies
 add_chart bubble --title "Products" --categories Product --values Amount --x-values Cost --sizes Units --series Product \
   --new-sheet Bubbles
@@ -22,6 +24,6 @@ add_chart "strategic bucket" --title "Amounts and targets" --categories Product 
 # Usage: tests/windows/run-server.sh [SCRIPT]...
 for script in ${*:-tests/windows/server/*.js}; do
   script_checks "$script" "$(windows_path "$work")" "$(windows_path "$root/examples")" \
-    "$(windows_path "$families")"
+    "$(windows_path "$families")" "$(windows_path "$column")"
 done
 finish
