@@ -24,6 +24,6 @@ add_chart "strategic bucket" --title "Amounts and targets" --categories Product 
 # Usage: tests/windows/run-server.sh [SCRIPT]...
 for script in ${*:-tests/windows/server/*.js}; do
   script_checks "$script" "$(windows_path "$work")" "$(windows_path "$root/examples")" \
-    "$(windows_path "$families")" "$(windows_path "$column")"
+    "$(windows_path "$families")" "$(windows_path "$column")" "${PLOTSMITH_RUNS:-1000}"
 done
 finish

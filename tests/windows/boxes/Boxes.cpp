@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <utility>
 
@@ -12,6 +13,7 @@
 #include "runtime/Variant.h"
 #include "tests/windows/boxes/Calls.h"
 #include "tests/windows/boxes/MessageBoxes.h"
+#include "tests/windows/boxes/PressingHand.h"
 #include "tests/windows/boxes/ScriptedHands.h"
 #include "windows/com/Failures.h"
 #include "windows/com/Texts.h"
@@ -30,18 +32,42 @@ HWND NewWindow() {
   return window;
 }
 
-/// How many things of the system the process has.
+/// How many handles of the kernel the process has. Wine's GetProcessHandleCount knows none.
+int KernelHandles() {
+  int count = 0;
+  for (std::uintptr_t handle = 4; handle < 0x10000; handle += 4) {
+    DWORD flags = 0;
+    if (GetHandleInformation(reinterpret_cast<HANDLE>(handle), &flags)) ++count;
+  }
+  return count;
+}
+
+/// How many pens, fonts and the like the process has. Wine's GetGuiResources knows none, but Wine finds an
+/// object by the lower half of its handle.
+int GdiObjects() {
+  int count = static_cast<int>(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
+  if (count != 0) return count;
+  for (std::uintptr_t handle = 1; handle < 0x10000; ++handle) {
+    if (GetObjectType(reinterpret_cast<HGDIOBJ>(handle)) != 0) ++count;
+  }
+  return count;
+}
+
+/// How many windows and menus the process has, in the same way.
+int UserObjects() {
+  int count = static_cast<int>(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS));
+  if (count != 0) return count;
+  for (std::uintptr_t handle = 2; handle < 0x10000; handle += 2) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(reinterpret_cast<HWND>(handle), &process);
+    if (process == GetCurrentProcessId() || IsMenu(reinterpret_cast<HMENU>(handle))) ++count;
+  }
+  return count;
+}
+
 std::string ResourceCounts() {
-  const HANDLE process = GetCurrentProcess();
-  DWORD handles = 0;
-  GetProcessHandleCount(process, &handles);
-  int windows = 0;
-  EnumThreadWindows(
-      GetCurrentThreadId(), [](HWND, LPARAM count) -> BOOL { return ++*reinterpret_cast<int*>(count), TRUE; },
-      reinterpret_cast<LPARAM>(&windows));
-  return std::to_string(handles) + " handles, " + std::to_string(GetGuiResources(process, GR_GDIOBJECTS)) +
-         " GDI objects, " + std::to_string(GetGuiResources(process, GR_USEROBJECTS)) + " USER objects, " +
-         std::to_string(windows) + " windows";
+  return std::to_string(KernelHandles()) + " handles, " + std::to_string(GdiObjects()) + " GDI objects, " +
+         std::to_string(UserObjects()) + " USER objects";
 }
 
 /// Makes a key of the registry for all users that goes with the session. It can't hold keys that stay.
@@ -113,6 +139,7 @@ class Boxes final : public IDispatch {
   std::atomic<ULONG> references_ = 1;
   MessageBoxes boxes_;
   std::unique_ptr<ScriptedHands> hands_;
+  std::unique_ptr<PressingHand> pressingHand_;
   HWND window_ = nullptr;
   com::ComPtr<IDispatch> controller_;
 };
@@ -146,6 +173,21 @@ const Boxes::Member Boxes::kMembers[] = {
        const auto hands = std::exchange(boxes.hands_, nullptr);
        const std::string failure = hands->Finish();
        return com::ToVariant(Variant(failure + "\n" + hands->Shown()));
+     }},
+    // PressEachPage("PAGE BUTTON PAGE BUTTON ..."): a button is pressed on each page that comes; StopPressing() answers
+    // how many were.
+    {"PressEachPage",
+     [](Boxes& boxes, const DISPPARAMS& sent) -> OwnedVariant {
+       std::istringstream words(Text(sent, 0));
+       std::map<std::string, std::string> buttons;
+       for (std::string page, button; words >> page >> button;) buttons[page] = button;
+       boxes.pressingHand_ = std::make_unique<PressingHand>(std::move(buttons));
+       return {};
+     }},
+    {"StopPressing",
+     [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
+       const auto hand = std::exchange(boxes.pressingHand_, nullptr);
+       return com::ToVariant(Variant(hand->Presses()));
      }},
     // LateBound(controller, call, application) and EarlyBound: see Calls.h.
     {"LateBound",
@@ -195,7 +237,7 @@ const Boxes::Member Boxes::kMembers[] = {
      [](Boxes&, const DISPPARAMS&) -> OwnedVariant {
        return com::ToVariant(static_cast<IDispatch*>(nullptr));
      }},
-    // Resources(): how many handles, objects and windows the process has.
+    // Resources(): how many handles and objects of the system the process has.
     {"Resources",
      [](Boxes&, const DISPPARAMS&) -> OwnedVariant { return com::ToVariant(Variant(ResourceCounts())); }},
     // MakeVolatileKey(path)
