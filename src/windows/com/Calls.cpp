@@ -16,10 +16,11 @@ namespace {
 std::uint64_t calls = 0;
 std::uint64_t changes = 0;
 
-/// The language of names, texts and formulas, whatever the user's is: English (United States).
+/// The locale of every call, English (United States): names, texts and formulas are in English for every
+/// user.
 constexpr LCID kEnglish = 0x0409;
 
-/// The table of functions that an object's class has, which comes first in every COM object.
+/// The table of virtual functions of an object, which is its first field. All objects of a class share it.
 const void* ClassOf(IDispatch& object) { return *reinterpret_cast<const void* const*>(&object); }
 
 /// Objects of scripts number their members one by one, each object in its own way.
@@ -44,14 +45,14 @@ HRESULT LookUp(IDispatch& object, const wchar_t* name, DISPID& id) {
   return object.GetIDsOfNames(IID_NULL, &text, 1, kEnglish, &id);
 }
 
-/// What a server answers that can't take a call just now, and did nothing.
+/// Whether a server has refused a call because it is busy. It has done nothing then.
 bool IsBusy(HRESULT result) {
   constexpr auto kSuspended = static_cast<HRESULT>(0x800AC472);  // Excel, while a dialog or a cell is open
   return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER || result == kSuspended;
 }
 
-/// Waits between two attempts, for so long in all. Once the time has been used up, calls fail at once until
-/// one of them is taken: a run of a thousand calls would wait for hours else.
+/// Waits between two attempts at a call, for two seconds in all. When these are used up, calls fail at once
+/// until the server accepts one: a run of a thousand calls would wait for half an hour otherwise.
 class Waiting {
  public:
   /// False if there is no time left.
@@ -73,7 +74,7 @@ class Waiting {
   DWORD waited_ = 0;
 } waiting;
 
-/// Application.Run has the most, with the macro and thirty of its arguments.
+/// Application.Run has the most arguments: the macro's name and thirty of its own.
 constexpr std::size_t kMostArguments = 31;
 
 /// The arguments of one call as Automation wants them: the last one first, not owned.

@@ -35,7 +35,7 @@ enum class Kind {
   kGet,
   kPut,
   kMethod,
-  kFind,  ///< a method as well, one that changes nothing
+  kFind,  ///< a method that changes nothing
 };
 
 /// Whether a call waits where the server says that it is busy, and is made again.

@@ -10,8 +10,8 @@
 #include "windows/com/OwnedVariant.h"
 
 /// @file
-/// Values between the language run-time and Automation. What a VARIANT refers to (VT_BYREF, in any depth) is
-/// looked at in its place.
+/// Values between the language run-time and Automation. A VARIANT that is a reference (VT_BYREF, of any
+/// depth) counts as the value that it refers to.
 namespace plotsmith::com {
 
 /// A VARIANT of the same value: VT_EMPTY, VT_NULL, VT_BOOL, VT_I4, VT_R8, VT_DATE, VT_ERROR or VT_BSTR.

@@ -95,8 +95,8 @@ CellValue CellReader::Kept(const VARIANT& value) {
 std::vector<CellValue> CellReader::Fetch(std::int32_t row, std::int32_t column, std::int32_t size) {
   if (size > 1) size = std::min(size, Bottom() - row + 1);
   if (size < 2) return {};
-  // Range.Value fails as a whole where a single cell has a value that it can't tell, such as an amount of
-  // money that is too large for a Currency. The error is only that cell's, so the cells are read one by one.
+  // Range.Value fails for all cells if it fails for one, such as an amount of money that is too large for a
+  // Currency. Then the cells are read one by one, and only that cell is an error.
   try {
     const com::OwnedVariant answer = ValueOf(CellsFrom(sheet_, row, column, size).Get());
     const com::CellArray cells(answer.Get());

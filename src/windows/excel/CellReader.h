@@ -13,9 +13,9 @@
 
 namespace plotsmith::proxies {
 
-/// Reads cells of one sheet with few calls: a stretch of a column in one call, from which the cells after the
-/// first are answered. A stretch that continues another one is twice as long. What was fetched is asked for
-/// again as soon as any call may have changed something.
+/// Reads cells of one sheet with few calls. One call fetches a stretch of a column, which then answers its
+/// cells. A stretch that continues another one is twice as long. A stretch is dropped as soon as any call may
+/// have changed something.
 ///
 /// Values are those of Range.Value, which tells dates from numbers. A number in a currency format comes as
 /// the language's Currency there, with four decimals, as it would in a macro.
@@ -28,9 +28,9 @@ class CellReader {
   /// `sheet` must outlive the reader.
   explicit CellReader(IDispatch* sheet) : sheet_(sheet) {}
 
-  /// What a cell holds. The text of it is good as long as the reader.
+  /// The value of a cell. Its text is valid as long as the reader lives.
   excel::CellValue ValueAt(std::int32_t row, std::int32_t column);
-  /// What a cell shows. The view is good as long as the reader, or into `scratch`.
+  /// The text that a cell shows. The view is valid as long as the reader lives, or it is of `scratch`.
   std::string_view TextAt(std::int32_t row, std::int32_t column, std::string& scratch);
   /// The next row below that may hold anything in the column; 0 if there is none.
   std::int32_t NextRow(std::int32_t row, std::int32_t column);
@@ -51,7 +51,7 @@ class CellReader {
     bool Has(std::int32_t row) const { return row >= first && row < End(); }
   };
 
-  /// Forgets what is no longer sure to be so.
+  /// Drops what was fetched, if it may have changed.
   void Refresh();
   /// The stretch with a cell, fetched if the cell follows the one that was read last in its column. Null if
   /// the cell has to be read by itself.

@@ -129,7 +129,7 @@ class Classes {
     return true;
   }
 
-  /// Removes a key and all below it. A key that isn't there is as good as removed.
+  /// Removes a key and all below it. It succeeds for a key that isn't there.
   LSTATUS Remove(const std::wstring& key) const {
     const LSTATUS status = RegDeleteTreeW(root_, PathOf(key).c_str());
     return status == ERROR_FILE_NOT_FOUND ? ERROR_SUCCESS : status;
@@ -217,7 +217,7 @@ HRESULT UnregisterServer(RegistrationScope scope) {
   remove(ClassKey());
   remove(InterfaceKey());
   remove(PlatformKey(kPlatform));
-  // The names and the rest of the type library belong to the DLLs of 32 and of 64 bits alike.
+  // The DLLs of 32 and of 64 bits share the names and the rest of the type library.
   if (!classes.Has(ClassKey(), kOtherView)) {
     remove(kVersionedName);
     remove(kName);

@@ -83,7 +83,7 @@ excel::Variant ValueAt(xlsx::Worksheet& sheet, std::int32_t row, std::int32_t co
   return sheet.CellValueAt(row, column).ToVariant();
 }
 
-/// What `of` gives for all cells alike; Null where they differ.
+/// What `of` gives for every cell, if that is the same; otherwise Null.
 template <class Of>
 excel::Variant Common(excel::Range& range, const Of& of) {
   const auto [sheet, cells] = xlsx::CellsOf(range);

@@ -16,8 +16,8 @@
 #include "windows/com/Values.h"
 #include "xlsx/Application.h"
 
-/// The embedded host in the dress of Excel: its objects behind IDispatch, by the tables from which the
-/// proxies are made.
+/// The embedded host dressed as Excel: its objects behind IDispatch. The tables of src/windows/excel/members
+/// make both the dress and the proxies.
 namespace plotsmith::dress {
 
 using excel::Ref;

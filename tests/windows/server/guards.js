@@ -62,7 +62,7 @@ check("a table that isn't there", boxes.Take(), "");
 says("protected", hostWith(true, false), kProtected);
 says("shared", hostWith(false, true), kShared);
 says("protected and shared", hostWith(true, true), kProtected);
-says("a number is as good as a Boolean", hostWith(0, 1), kShared);
+says("a number for a Boolean", hostWith(0, 1), kShared);
 
 // The window of the host owns the boxes.
 var owned = hostWith(true, false);

@@ -20,7 +20,7 @@ function unload(name) {
 check("at first", boxes.IsLoaded("Plotsmith.dll"), false);
 newController();
 check("with an object", boxes.IsLoaded("Plotsmith.dll"), true);
-unload("an object that nobody called");
+unload("an object that was not called");
 
 (function() {
   var host = open("countries.xlsx");
