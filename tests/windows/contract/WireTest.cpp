@@ -124,9 +124,8 @@ com::OwnedVariant AnswerOf(IDispatch* self, const std::wstring& name) {
 
 /// What Excel is asked by a call of a port's class, and the type of what that answers. Every object that
 /// Excel answers is itself; a value must come through as it is.
-template <class Class, class Use>
-std::string Asked(const Use& use) {
-  using Result = decltype(use(std::declval<Class&>()));
+template <class Class, class Result>
+std::string AskedBy(const std::function<Result(Class&)>& use) {
   std::string asked;
   FakeDispatch* self = nullptr;
   FakeDispatch excel([&](WORD flags, const DISPPARAMS& sent, VARIANT* answer, EXCEPINFO*) {
@@ -148,6 +147,12 @@ std::string Asked(const Use& use) {
     }
     return asked + " As " + TypeName<Result>::value;
   }
+}
+
+/// The same of a function, for each of which little code is made: there are hundreds.
+template <class Class, class Use>
+std::string Asked(const Use& use) {
+  return AskedBy<Class, decltype(use(std::declval<Class&>()))>(use);
 }
 
 /// A call of the port, and what Excel gets of it.
