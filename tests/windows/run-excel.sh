@@ -14,7 +14,7 @@ cp examples/*.xlsx "$work/books"
 # Compares what the command said on behalf of the component with what message boxes said, which write a line end as "\r\n".
 messages_differ() {
   grep -v '^plotsmith: ' "$work/said.txt" | tr -d '\r' >"$work/said-by-component.txt" || true
-  sed -e 1d -e '/^$/d' -e 's/ \[OK\]:/:/' -e 's/\\r\\n/\n/g' "$work/printed.txt" | diff "$work/said-by-component.txt" -
+  sed -e 1d -e '/^$/d' -e 's/ \[OK\]\( of Please Wait\)*:/:/' -e 's/\\r\\n/\n/g' "$work/printed.txt" | diff "$work/said-by-component.txt" -
 }
 
 # One operation on either host: CASE OPERATION SCRIPT BOOK [TABLE [OLD NEW]]
