@@ -7,9 +7,10 @@ Option Explicit
 ' What Plotsmith puts in front of its own name in the title of its error boxes.
 Public Const AddInName As String = "My Add-in"
 
-Private controller As Object   ' Plotsmith.CPlotsmithController
+Private controller As Object       ' Plotsmith.CPlotsmithController
 Private tables As PlotsmithTables
-Private lastBook As String     ' the workbook of the last refresh of one table
+Private staysWithBook As Boolean   ' whether Plotsmith stays with a workbook
+Private lastBook As Workbook       ' that workbook; Nothing once it was closed
 
 ' Auto_Open runs when the add-in is loaded, Auto_Close when it is unloaded.
 Public Sub Auto_Open()
@@ -19,12 +20,28 @@ End Sub
 
 Public Sub Auto_Close()
     Set tables = Nothing
+    Set lastBook = Nothing
     Set controller = Nothing
 End Sub
+
+' A reference to a workbook that was closed would keep a part of it in memory.
+Public Sub ForgetClosedWorkbooks()
+    If tables Is Nothing Then Exit Sub
+    tables.ForgetClosedWorkbooks
+    If Not IsOpen(lastBook) Then Set lastBook = Nothing
+End Sub
+
+Public Function IsOpen(ByVal book As Workbook) As Boolean
+    Dim openBook As Workbook
+    For Each openBook In Application.Workbooks
+        If openBook Is book Then IsOpen = True
+    Next
+End Function
 
 ' The button "Charts": the wizard on the active workbook.
 Public Sub OnPlotsmithCharts(control As Object)
     Plotsmith.RunPlotsmith Application, AddInName, HelpFile
+    LetGo
 End Sub
 
 ' The button "Refresh": all charts of the active workbook.
@@ -34,12 +51,18 @@ End Sub
 
 Private Sub RefreshAll()
     Plotsmith.RefreshPlotsmithData Application, AddInName, HelpFile
-    lastBook = ""
+    LetGo
+End Sub
+
+' Plotsmith has let go of its workbook.
+Private Sub LetGo()
+    staysWithBook = False
+    Set lastBook = Nothing
 End Sub
 
 ' The charts over one table of the active workbook, by the defined name or the sheet that the table is known by.
 ' Plotsmith stays with the workbook of the first such call until all charts are refreshed, so a change of the workbook
-' takes that.
+' takes that. A file that was closed and opened again is another workbook, though its name is the same.
 Public Sub RefreshTable(ByVal table As String)
     TakeActiveWorkbook
     Plotsmith.RefreshChartsForTable Application, table
@@ -52,10 +75,9 @@ Public Sub RenameColumns(ByVal table As String, oldNames() As String, newNames()
 End Sub
 
 Private Sub TakeActiveWorkbook()
-    Dim book As String
-    book = Application.ActiveWorkbook.FullName
-    If lastBook <> "" And lastBook <> book Then RefreshAll
-    lastBook = book
+    If staysWithBook And Not lastBook Is Application.ActiveWorkbook Then RefreshAll
+    staysWithBook = True
+    Set lastBook = Application.ActiveWorkbook
 End Sub
 
 ' One object serves for as long as the add-in is loaded. Its operations raise no errors: what goes wrong is said in a

@@ -5,6 +5,7 @@
 
 #include "forms/Timer.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Stack.h"
 
 namespace plotsmith::forms {
 namespace {
@@ -63,7 +64,9 @@ class ModalLoop::Shown {
 
 // The form is passed by value, because an event of the form may assign another form to the caller's variable.
 void ModalLoop::ShowModal(std::shared_ptr<Form> form) {
-  if (shown_.size() >= kMostForms) throw runtime::RuntimeError(runtime::error::kOutOfStackSpace);
+  if (shown_.size() >= kMostForms || runtime::StackLeft() < kStackOfForm) {
+    throw runtime::RuntimeError(runtime::error::kOutOfStackSpace);
+  }
   form->Load();
   if (form->IsUnloaded()) return;
   {

@@ -61,10 +61,13 @@ class ModalLoop {
   /// The maximum depth of nested forms. Each step of a wizard, forward or back, adds one level and uses stack
   /// space.
   static constexpr std::size_t kMostForms = 500;
+  /// The stack that the last of them needs for its own work and for a report, in bytes.
+  static constexpr std::size_t kStackOfForm = std::size_t{128} * 1024;
 
-  /// Loads a form if necessary and shows it in front of the others. Returns when the form was hidden or
-  /// unloaded. An error in one of its events ends the show and is passed to the caller. Actions on other
-  /// forms are discarded. Raises error 28 if too many forms are open.
+  /// Loads a form, if it isn't loaded yet, and shows it in front of the others. Returns when the form has
+  /// gone from the screen; an error of one of its events ends the show and goes to the caller. Gestures on a
+  /// form that isn't the one in front are dropped.
+  /// Error 28 where too many forms are shown already, or too little of the thread's stack is left.
   void ShowModal(std::shared_ptr<Form> form);
   /// Lets the view and the timers of the front form work during an event. Actions of the user wait until the
   /// event is over.

@@ -1,5 +1,7 @@
 #include <deque>
+#include <functional>
 #include <gtest/gtest.h>
+#include <pthread.h>
 #include <thread>
 
 #include "forms/Timer.h"
@@ -283,8 +285,55 @@ TEST_F(ModalLoopTest, GesturesOnAFormBelowAreDropped) {
   EXPECT_EQ(second->chk3D.Value(), CheckBox::kChecked);
 }
 
-/// A form with a timer that ticks twice while the form works, and hides the form at the second tick after
-/// that.
+/// A view in which a hand presses OK on every form.
+class PressingView final : public View {
+  void Open(Form& form) override { open_.push_back(&form); }
+  void Close(Form&) override { open_.pop_back(); }
+  void Wait(EventQueue& queue, std::optional<std::chrono::milliseconds>) override {
+    auto& form = dynamic_cast<SmallForm&>(*open_.back());
+    queue.Post(form, [&form] { form.cmdOK.UserPress(); });
+  }
+  void HandleEvents(EventQueue&) override {}
+
+  std::vector<Form*> open_;
+};
+
+/// Calls a function on a thread with a stack of a size in bytes.
+void CallWithStackOf(std::size_t size, std::function<void()> function) {
+  pthread_attr_t attributes;
+  pthread_attr_init(&attributes);
+  ASSERT_EQ(pthread_attr_setstacksize(&attributes, size), 0);
+  pthread_t thread;
+  const auto call = [](void* called) -> void* {
+    (*static_cast<std::function<void()>*>(called))();
+    return nullptr;
+  };
+  ASSERT_EQ(pthread_create(&thread, &attributes, call, &function), 0);
+  pthread_join(thread, nullptr);
+  pthread_attr_destroy(&attributes);
+}
+
+TEST_F(ModalLoopTest, FormsNestAsLongAsTheStackLasts) {
+  ModalLoop loop(std::make_shared<PressingView>());
+  int forms = 0;
+  std::vector<int> errors;
+  std::function<void()> show = [&] {
+    ++forms;
+    const auto form = std::make_shared<SmallForm>(log_);
+    form->OnOK = [&, self = form.get()] {
+      self->Unload();
+      show();
+    };
+    if (const int error = test::ErrorOf([&] { loop.ShowModal(form); })) errors.push_back(error);
+  };
+  CallWithStackOf(ModalLoop::kStackOfForm + std::size_t{128} * 1024, show);
+  EXPECT_EQ(errors, std::vector<int>{28});
+  EXPECT_GT(forms, 5);
+  EXPECT_LT(forms, static_cast<int>(ModalLoop::kMostForms));
+  EXPECT_EQ(loop.Front(), nullptr);
+}
+
+/// A form with a timer that ticks twice while the form works, and hides it at the second tick after that.
 class TickingForm : public Form {
  public:
   explicit TickingForm(ModalLoop& loop) : Form("frmTicking"), loop_(loop) {

@@ -89,7 +89,7 @@ script_checks() {
     echo '} catch (error) { WScript.Echo("0x" + (error.number >>> 0).toString(16) + " " + error.message); }'
   } >"$work/$name.js"
   shift
-  output=$(timeout 300 wine cscript //nologo "$(windows_path "$work/$name.js")" "$@" 2>/dev/null | tr -d '\r') || true
+  output=$(timeout 900 wine cscript //nologo "$(windows_path "$work/$name.js")" "$@" 2>/dev/null | tr -d '\r') || true
   last=$(printf '%s\n' "$output" | tail -n 1)
   case $last in
     *" passed, "*" failed")

@@ -80,4 +80,27 @@ nothing_left "unregistered for all, by /i"
 regsvr32_exits 5 /n /i:everyone
 nothing_left "no such scope"
 creates "in the end" ""
+
+# A registration that fails on its way leaves the registry as it is: an earlier one of another file, or none. It fails at
+# the interface, whose key is made for the session alone, so that it can't hold keys that stay.
+wine regsvr32 /s "$(windows_path "$windows/PlotsmithTestBoxes.dll")" >/dev/null 2>&1
+mkdir "$work/Other"
+cp "$windows/Plotsmith.dll" "$work/Other"
+cat >"$work/fail.js" <<'END'
+new ActiveXObject("PlotsmithTest.Boxes").MakeVolatileKey(
+    "Software\\Classes\\Interface\\{95DC0874-0F63-4B7B-97E4-0A487C3BF061}");
+var exitCode = new ActiveXObject("WScript.Shell").Run(
+    'regsvr32 /s "' + WScript.Arguments(0) + '"', 0, true);
+WScript.Echo(exitCode);
+END
+fails_on_its_way() {
+  dump "$work/before"
+  code=$(run_script "$(windows_path "$work/fail.js")" "$(windows_path "$work/Other/Plotsmith.dll")")
+  [ "$code" = 5 ] && passes || fails "regsvr32 exits with \"$code\" instead of 5" "$1"
+  nothing_left "$1"
+}
+fails_on_its_way "a registration that fails"
+regsvr32_exits 0
+wine reg delete 'HKLM\Software\Classes\Interface\{95DC0874-0F63-4B7B-97E4-0A487C3BF061}' /f >/dev/null 2>&1
+fails_on_its_way "another registration that fails"
 finish

@@ -2,8 +2,8 @@
 
 namespace plotsmith::com {
 
-/// From here on no reference is released. Called when the process ends: the libraries behind the references
-/// may be gone by then, and the system takes all memory back anyway.
+/// After this call no reference is released. The DLL calls it when the process ends: the libraries of the
+/// objects may be unloaded by then, and the system frees all memory.
 void Abandon();
 /// Whether Abandon was called.
 bool IsAbandoned();

@@ -16,10 +16,11 @@ namespace {
 std::uint64_t calls = 0;
 std::uint64_t changes = 0;
 
-/// The language of names, texts and formulas, whatever the user's is: English (United States).
+/// The locale of every call, English (United States): names, texts and formulas are in English for every
+/// user.
 constexpr LCID kEnglish = 0x0409;
 
-/// The table of functions that an object's class has, which comes first in every COM object.
+/// The table of virtual functions of an object, which is its first field. All objects of a class share it.
 const void* ClassOf(IDispatch& object) { return *reinterpret_cast<const void* const*>(&object); }
 
 /// Objects of scripts number their members one by one, each object in its own way.
@@ -44,14 +45,14 @@ HRESULT LookUp(IDispatch& object, const wchar_t* name, DISPID& id) {
   return object.GetIDsOfNames(IID_NULL, &text, 1, kEnglish, &id);
 }
 
-/// What a server answers that can't take a call just now, and did nothing.
+/// Whether a server has refused a call because it is busy. It has done nothing then.
 bool IsBusy(HRESULT result) {
   constexpr auto kSuspended = static_cast<HRESULT>(0x800AC472);  // Excel, while a dialog or a cell is open
   return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER || result == kSuspended;
 }
 
-/// Waits between two attempts, for so long in all. Once the time has been used up, calls fail at once until
-/// one of them is taken: a run of a thousand calls would wait for hours else.
+/// Waits between two attempts at a call, for two seconds in all. When these are used up, calls fail at once
+/// until the server accepts one: a run of a thousand calls would wait for half an hour otherwise.
 class Waiting {
  public:
   /// False if there is no time left.
@@ -73,7 +74,7 @@ class Waiting {
   DWORD waited_ = 0;
 } waiting;
 
-/// Application.Run has the most, with the macro and thirty of its arguments.
+/// Application.Run has the most arguments: the macro's name and thirty of its own.
 constexpr std::size_t kMostArguments = 31;
 
 /// The arguments of one call as Automation wants them: the last one first, not owned.
@@ -108,18 +109,19 @@ DISPID Member::IdOn(IDispatch& object) {
   return id;
 }
 
-OwnedVariant Call(IDispatch* object, Member& member, Kind kind, std::span<const OwnedVariant> arguments,
-                  WhenBusy whenBusy) {
-  if (object == nullptr) throw RuntimeError(runtime::error::kObjectNotSet);
-  const DISPID id = member.IdOn(*object);
+namespace {
+
+/// Call, with the number of the member.
+OwnedVariant CallById(IDispatch& object, DISPID id, Kind kind, std::span<const OwnedVariant> arguments,
+                      WhenBusy whenBusy) {
   Parameters parameters(arguments, kind);
   if (kind == Kind::kPut || kind == Kind::kMethod) ++changes;
   OwnedVariant answer;
   while (true) {
     ++calls;
     EXCEPINFO exception{};
-    const HRESULT result = object->Invoke(id, IID_NULL, kEnglish, FlagsOf(kind), &parameters.passed,
-                                          kind == Kind::kPut ? nullptr : answer.Put(), &exception, nullptr);
+    const HRESULT result = object.Invoke(id, IID_NULL, kEnglish, FlagsOf(kind), &parameters.passed,
+                                         kind == Kind::kPut ? nullptr : answer.Put(), &exception, nullptr);
     const bool thrown = result == DISP_E_EXCEPTION;
     // A method that throws such a code may have done a part of its work, as a macro that hands it on.
     const bool busy = thrown ? kind != Kind::kMethod && IsBusy(exception.scode) : IsBusy(result);
@@ -129,6 +131,19 @@ OwnedVariant Call(IDispatch* object, Member& member, Kind kind, std::span<const 
     if (!busy || whenBusy == WhenBusy::kFail || !waiting.WaitOnce()) throw failure;
     ++changes;  // calls that came in meanwhile may have changed anything
   }
+}
+
+}  // namespace
+
+OwnedVariant Call(IDispatch* object, Member& member, Kind kind, std::span<const OwnedVariant> arguments,
+                  WhenBusy whenBusy) {
+  if (object == nullptr) throw RuntimeError(runtime::error::kObjectNotSet);
+  return CallById(*object, member.IdOn(*object), kind, arguments, whenBusy);
+}
+
+OwnedVariant CallDefault(IDispatch* object) {
+  if (object == nullptr) throw RuntimeError(runtime::error::kObjectNotSet);
+  return CallById(*object, DISPID_VALUE, Kind::kGet, {}, WhenBusy::kWait);
 }
 
 bool HasMember(IDispatch* object, const wchar_t* name) {

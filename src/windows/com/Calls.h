@@ -35,7 +35,7 @@ enum class Kind {
   kGet,
   kPut,
   kMethod,
-  kFind,  ///< a method as well, one that changes nothing
+  kFind,  ///< a method that changes nothing
 };
 
 /// Whether a call waits where the server says that it is busy, and is made again.
@@ -45,6 +45,10 @@ enum class WhenBusy { kWait, kFail };
 /// RuntimeError with the server's number and text; without an object it is error 91.
 OwnedVariant Call(IDispatch* object, Member& member, Kind kind, std::span<const OwnedVariant> arguments,
                   WhenBusy whenBusy = WhenBusy::kWait);
+
+/// Reads the default member of an object, as the language does where it needs a value. The errors are those
+/// of Call.
+OwnedVariant CallDefault(IDispatch* object);
 
 /// Whether an object has a member of the name. This is no call of the member.
 bool HasMember(IDispatch* object, const wchar_t* name);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
 
 #include "windows/com/Texts.h"
 
@@ -42,19 +43,19 @@ constexpr std::array kNumbers = {
     NumberedResult{static_cast<HRESULT>(0x800706BA), error::kServerUnavailable},  // RPC_S_SERVER_UNAVAILABLE
 };
 
-/// The language's own facility: errors are 0x800A0000 and their number.
+/// The facility of the language's own errors: an error's result is 0x800A0000 plus its number.
 constexpr HRESULT kLanguage = static_cast<HRESULT>(0x800A0000);
 bool IsLanguages(HRESULT result) { return (result & static_cast<HRESULT>(0xFFFF0000)) == kLanguage; }
 
 /// The number of a result in the language; 0 if it has none.
 int NumberOf(HRESULT result) {
-  // the names that Excel gives its own: all that it refuses is 0x800A03EC, which is 1004
+  // Excel's own errors are of this facility: everything that it refuses is 0x800A03EC, which is 1004.
   if (IsLanguages(result)) return result & 0xFFFF;
   const auto* known = std::ranges::find(kNumbers, result, &NumberedResult::result);
   return known == kNumbers.end() ? 0 : known->number;
 }
 
-/// What Windows says of a result; empty if it knows nothing.
+/// The message of Windows for a result; empty if it has none.
 std::string SystemText(HRESULT result) {
   std::array<wchar_t, 512> buffer{};
   const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
@@ -71,12 +72,8 @@ RuntimeError WithText(int number, const std::string& text, const std::string& so
                       source.empty() ? standard.Source() : source);
 }
 
-std::string Taken(BSTR& text) {
-  const std::string result = Utf8(text);
-  SysFreeString(text);
-  text = nullptr;
-  return result;
-}
+/// The text of a field of an exception, which is emptied.
+std::string Taken(BSTR& text) { return Utf8(OwnedBstr::Attach(std::exchange(text, nullptr))); }
 
 }  // namespace
 

@@ -11,7 +11,12 @@ std::string Utf8(const OLECHAR* text, std::size_t length) {
   return runtime::ToUtf8({reinterpret_cast<const char16_t*>(text), length});
 }
 
-std::string Utf8(BSTR text) { return text == nullptr ? std::string() : Utf8(text, SysStringLen(text)); }
+std::string Utf8(const OwnedBstr& text) { return Utf8(text.View().data(), text.View().size()); }
+
+std::string TextOf(const VARIANT& value) {
+  const BSTR text = V_BSTR(&value);
+  return text == nullptr ? std::string() : Utf8(text, SysStringLen(text));
+}
 
 std::wstring Wide(std::string_view text) {
   const std::u16string units = runtime::ToUtf16(text);

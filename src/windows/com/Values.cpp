@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "runtime/RuntimeError.h"
+#include "windows/com/Calls.h"
 #include "windows/com/Failures.h"
 #include "windows/com/Texts.h"
 
@@ -20,6 +21,8 @@ VARIANT Typed(VARTYPE type) {
   V_VT(&value) = type;
   return value;
 }
+
+Variant Plain(const VARIANT& value);
 
 /// A copy in which nothing is by reference.
 OwnedVariant Dereferenced(const VARIANT& value) {
@@ -51,6 +54,16 @@ double DecimalNumber(const DECIMAL& decimal) {
 
 /// Error values of cells are errors of Automation whose lower half is Excel's number (xlErrDiv0 is 2007).
 constexpr SCODE kCellErrors = static_cast<SCODE>(0x800A0000);
+
+/// What the default member of an object answers. An object there is refused, as its own default member could
+/// be the same object again.
+Variant DefaultOf(const VARIANT& object) {
+  const ComPtr<IDispatch> dispatch = ObjectOf(object);
+  const OwnedVariant answer = Dereferenced(CallDefault(dispatch.Get()).Get());
+  const VARTYPE type = V_VT(&answer.Get());
+  if (type == VT_DISPATCH || type == VT_UNKNOWN) throw RuntimeError(error::kTypeMismatch);
+  return Plain(answer.Get());
+}
 
 /// Of a value that is not by reference.
 Variant Plain(const VARIANT& value) {
@@ -94,10 +107,10 @@ Variant Plain(const VARIANT& value) {
     case VT_ERROR:
       return Variant::Error{static_cast<int>(V_ERROR(&value) & 0xFFFF)};
     case VT_BSTR:
-      return Utf8(V_BSTR(&value));
+      return TextOf(value);
     case VT_DISPATCH:
     case VT_UNKNOWN:
-      throw RuntimeError(V_UNKNOWN(&value) == nullptr ? error::kObjectNotSet : error::kTypeMismatch);
+      return DefaultOf(value);
     default:
       throw RuntimeError(error::kTypeMismatch);
   }
@@ -195,6 +208,8 @@ OwnedVariant Missing() {
 }
 
 bool IsMissing(const VARIANT& value) {
+  if (V_VT(&value) == (VT_BYREF | VT_VARIANT)) return IsMissing(*V_VARIANTREF(&value));
+  if (V_VT(&value) == (VT_BYREF | VT_ERROR)) return *V_ERRORREF(&value) == DISP_E_PARAMNOTFOUND;
   return V_VT(&value) == VT_ERROR && V_ERROR(&value) == DISP_E_PARAMNOTFOUND;
 }
 

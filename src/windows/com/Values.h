@@ -10,8 +10,8 @@
 #include "windows/com/OwnedVariant.h"
 
 /// @file
-/// Values between the language run-time and Automation. What a VARIANT refers to (VT_BYREF, in any depth) is
-/// looked at in its place.
+/// Values between the language run-time and Automation. A VARIANT that is a reference (VT_BYREF, of any
+/// depth) counts as the value that it refers to.
 namespace plotsmith::com {
 
 /// A VARIANT of the same value: VT_EMPTY, VT_NULL, VT_BOOL, VT_I4, VT_R8, VT_DATE, VT_ERROR or VT_BSTR.
@@ -24,7 +24,8 @@ OwnedVariant Missing();
 bool IsMissing(const VARIANT& value);
 
 /// The value of a VARIANT. All numbers become std::int32_t or double, a Currency or Decimal among them. An
-/// error is one of a cell. Error 13 for objects and arrays, 91 for Nothing.
+/// error is one of a cell. Of an object it is what its default member answers. Error 13 for arrays, 91 for
+/// Nothing, 438 for an object without a default member.
 runtime::Variant FromVariant(const VARIANT& value);
 /// The object of a VARIANT, or Nothing. Error 424 for a value that is no object.
 ComPtr<IDispatch> ObjectOf(const VARIANT& value);

@@ -68,8 +68,11 @@ std::string_view ErrorText(int number) {
   }
 }
 
-/// Longer texts aren't shown as they are by every version of Excel.
-constexpr std::size_t kSurelyShown = 255;
+/// Whether a value is a text that every version of Excel shows whole.
+bool IsShortText(const CellValue& value) {
+  constexpr std::size_t kSurelyShown = 255;
+  return value.kind == CellValue::Kind::kText && runtime::Len(value.text) <= kSurelyShown;
+}
 
 }  // namespace
 
@@ -92,8 +95,8 @@ CellValue CellReader::Kept(const VARIANT& value) {
 std::vector<CellValue> CellReader::Fetch(std::int32_t row, std::int32_t column, std::int32_t size) {
   if (size > 1) size = std::min(size, Bottom() - row + 1);
   if (size < 2) return {};
-  // Range.Value fails as a whole where a single cell has a value that it can't tell, such as an amount of
-  // money that is too large for a Currency. The error is only that cell's, so the cells are read one by one.
+  // Range.Value fails for all cells if it fails for one, such as an amount of money that is too large for a
+  // Currency. Then the cells are read one by one, and only that cell is an error.
   try {
     const com::OwnedVariant answer = ValueOf(CellsFrom(sheet_, row, column, size).Get());
     const com::CellArray cells(answer.Get());
@@ -110,6 +113,7 @@ void CellReader::Refresh() {
   changes_ = com::ChangeCount();
   stretches_.clear();
   bottom_.reset();
+  showsFormulas_.reset();
 }
 
 CellReader::Stretch* CellReader::StretchWith(std::int32_t row, std::int32_t column) {
@@ -134,27 +138,45 @@ std::string_view CellReader::TextAt(std::int32_t row, std::int32_t column, std::
   if (Stretch* stretch = StretchWith(row, column)) {
     const CellValue& value = stretch->At(row);
     if (value.kind == CellValue::Kind::kEmpty) return {};
-    // only a text in the plain format is shown as it is, however wide its column is
-    if (value.kind == CellValue::Kind::kText && runtime::Len(value.text) <= kSurelyShown) {
-      if (!stretch->general) stretch->general = IsGeneral(*stretch, column);
-      if (*stretch->general) return value.text;
+    if (IsShortText(value)) {
+      if (!stretch->plain) stretch->plain = IsPlain(*stretch, column);
+      if (*stretch->plain) return value.text;
     }
   }
   static com::Member text(L"Text");
   return scratch = Ask<std::string>(CellAt(sheet_, row, column).Get(), text, com::Kind::kGet);
 }
 
-bool CellReader::IsGeneral(const Stretch& stretch, std::int32_t column) const {
+bool CellReader::IsPlain(const Stretch& stretch, std::int32_t column) {
   // DisplayFormat also knows what conditional formats do. Versions before 14 don't have it.
   try {
     static com::Member displayFormat(L"DisplayFormat"), numberFormat(L"NumberFormat");
     const auto cells = CellsFrom(sheet_, stretch.first, column, stretch.Size());
     const auto look = com::ObjectOf(com::Call(cells.Get(), displayFormat, com::Kind::kGet, {}).Get());
     const auto format = Ask<excel::Variant>(look.Get(), numberFormat, com::Kind::kGet);
-    return format == excel::Variant("General");
+    return format == excel::Variant("General") && !ShowsFormulas(stretch, column, cells.Get());
   } catch (const RuntimeError&) {
     return false;
   }
+}
+
+// Each window of a workbook has the setting for each sheet, and older versions answer it for the active sheet
+// alone. So a cell is asked instead: the first text that a formula computes.
+bool CellReader::ShowsFormulas(const Stretch& stretch, std::int32_t column, IDispatch* cells) {
+  static com::Member hasFormula(L"HasFormula"), formula(L"Formula"), text(L"Text");
+  if (showsFormulas_) return *showsFormulas_;
+  if (Ask<excel::Variant>(cells, hasFormula, com::Kind::kGet) == excel::Variant(false)) return false;
+  const com::OwnedVariant answer = com::Call(cells, formula, com::Kind::kGet, {});
+  const com::CellArray formulas(answer.Get());
+  for (std::int32_t i = 0; i < stretch.Size(); ++i) {
+    const std::int32_t row = stretch.first + i;
+    const std::string_view result = stretch.At(row).text;
+    if (!IsShortText(stretch.At(row)) || com::FromVariant(formulas.At(i, 0)) == excel::Variant(result))
+      continue;
+    showsFormulas_ = Ask<std::string>(CellAt(sheet_, row, column).Get(), text, com::Kind::kGet) != result;
+    return *showsFormulas_;
+  }
+  return false;
 }
 
 std::int32_t CellReader::Bottom() {

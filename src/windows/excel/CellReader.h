@@ -13,9 +13,9 @@
 
 namespace plotsmith::proxies {
 
-/// Reads cells of one sheet with few calls: a stretch of a column in one call, from which the cells after the
-/// first are answered. A stretch that continues another one is twice as long. What was fetched is asked for
-/// again as soon as any call may have changed something.
+/// Reads cells of one sheet with few calls. One call fetches a stretch of a column, which then answers its
+/// cells. A stretch that continues another one is twice as long. A stretch is dropped as soon as any call may
+/// have changed something.
 ///
 /// Values are those of Range.Value, which tells dates from numbers. A number in a currency format comes as
 /// the language's Currency there, with four decimals, as it would in a macro.
@@ -28,9 +28,9 @@ class CellReader {
   /// `sheet` must outlive the reader.
   explicit CellReader(IDispatch* sheet) : sheet_(sheet) {}
 
-  /// What a cell holds. The text of it is good as long as the reader.
+  /// The value of a cell. Its text is valid as long as the reader lives.
   excel::CellValue ValueAt(std::int32_t row, std::int32_t column);
-  /// What a cell shows. The view is good as long as the reader, or into `scratch`.
+  /// The text that a cell shows. The view is valid as long as the reader lives, or it is of `scratch`.
   std::string_view TextAt(std::int32_t row, std::int32_t column, std::string& scratch);
   /// The next row below that may hold anything in the column; 0 if there is none.
   std::int32_t NextRow(std::int32_t row, std::int32_t column);
@@ -40,8 +40,8 @@ class CellReader {
   struct Stretch {
     std::int32_t first = 0;  ///< row; where a stretch is empty, the row below the cell that was read last
     std::vector<excel::CellValue> values;
-    /// Whether the number format of all cells is General, once it was asked for.
-    std::optional<bool> general;
+    /// Whether Excel shows all texts in these cells as they are, once it was asked for.
+    std::optional<bool> plain;
 
     std::int32_t Size() const { return static_cast<std::int32_t>(values.size()); }
     std::int32_t End() const { return first + Size(); }
@@ -51,7 +51,7 @@ class CellReader {
     bool Has(std::int32_t row) const { return row >= first && row < End(); }
   };
 
-  /// Forgets what is no longer sure to be so.
+  /// Drops what was fetched, if it may have changed.
   void Refresh();
   /// The stretch with a cell, fetched if the cell follows the one that was read last in its column. Null if
   /// the cell has to be read by itself.
@@ -59,7 +59,11 @@ class CellReader {
   /// The values of cells from a row on, fewer than `size` at the end of the used range; none if they can't be
   /// told together.
   std::vector<excel::CellValue> Fetch(std::int32_t row, std::int32_t column, std::int32_t size);
-  bool IsGeneral(const Stretch& stretch, std::int32_t column) const;
+  /// Whether Excel shows all texts of a stretch as they are, however wide their column is: the number format
+  /// of the cells is General, and no cell shows its formula instead.
+  bool IsPlain(const Stretch& stretch, std::int32_t column);
+  /// Whether texts of a stretch may be formulas that are shown in the place of their results.
+  bool ShowsFormulas(const Stretch& stretch, std::int32_t column, IDispatch* cells);
   /// The last row of the used range.
   std::int32_t Bottom();
   excel::CellValue Kept(const VARIANT& value);
@@ -68,6 +72,7 @@ class CellReader {
   std::uint64_t changes_ = 0;                  ///< of com::ChangeCount
   std::map<std::int32_t, Stretch> stretches_;  ///< by column, the latest of each
   std::optional<std::int32_t> bottom_;
+  std::optional<bool> showsFormulas_;      ///< of the whole sheet (Window.DisplayFormulas)
   std::unordered_set<std::string> texts_;  ///< of all cells that were fetched, each once
 };
 

@@ -30,7 +30,7 @@ Ref<T> Wrap(com::ComPtr<IDispatch> object);
 #include "windows/excel/members/Classes.inc"
 #undef CLASS_NAME
 
-/// What stands behind every proxy.
+/// The base of every proxy: one reference to an object of Excel's.
 class ProxyObject {
  public:
   explicit ProxyObject(com::ComPtr<IDispatch> object) : object_(std::move(object)) {}

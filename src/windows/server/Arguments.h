@@ -11,7 +11,7 @@ namespace plotsmith::windows {
 
 /// An argument that a call can't be made with.
 struct ArgumentError {
-  HRESULT code;   ///< DISP_E_TYPEMISMATCH and its kin
+  HRESULT code;   ///< DISP_E_TYPEMISMATCH, DISP_E_BADPARAMCOUNT and so on
   UINT position;  ///< in the array of arguments as it was sent; 0 for what is wrong with all of them
 };
 

@@ -21,7 +21,7 @@ HRESULT ClassFactory::QueryInterface(REFIID interfaceId, void** object) noexcept
   return S_OK;
 }
 
-// The object isn't deleted, so all numbers of references that are left are as good as another.
+// The object isn't deleted, so the number of its references has no meaning.
 ULONG ClassFactory::AddRef() noexcept {
   KeepModule();
   return 2;

@@ -7,6 +7,7 @@
 #include "common/PSConstants.h"
 #include "controller/System.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Stack.h"
 #include "windows/com/Windows.h"
 #include "windows/desktop/WindowsDesktop.h"
 #include "windows/server/Module.h"
@@ -15,7 +16,8 @@
 namespace plotsmith::windows {
 namespace {
 
-/// The stack that the deepest run needs, with a good deal to spare, in bytes.
+/// The stack that an operation must find when it begins, in bytes. Forms that nest check what is left by
+/// themselves.
 constexpr std::size_t kStackOfRun = 256 * 1024;
 
 runtime::Ref<WindowsDesktop> theDesktop;
@@ -32,15 +34,7 @@ struct AtWork {
   AtWork& operator=(const AtWork&) = delete;
 };
 
-std::size_t StackLeft() {
-  ULONG_PTR low = 0;
-  ULONG_PTR high = 0;
-  GetCurrentThreadStackLimits(&low, &high);
-  const auto here = reinterpret_cast<ULONG_PTR>(__builtin_frame_address(0));
-  return here - low;
-}
-
-/// Makes this thread the component's own if none is yet.
+/// Whether the component belongs to this thread. The first thread that asks becomes the owner.
 bool IsOwnThread() {
   DWORD none = 0;
   const DWORD here = GetCurrentThreadId();
@@ -58,7 +52,7 @@ void CheckThatItCanRun() {
         error::kAutomation,
         "Plotsmith is still at work on an earlier call. Call it again when that has returned.");
   }
-  if (StackLeft() < kStackOfRun) throw RuntimeError(error::kOutOfStackSpace);
+  if (runtime::StackLeft() < kStackOfRun) throw RuntimeError(error::kOutOfStackSpace);
 }
 
 void Start() {
@@ -96,7 +90,7 @@ void RunOperation(const char* operation, const std::function<std::intptr_t()>& f
       Report(operation, runtime::CurrentError(), hostWindow);
     }
   } catch (...) {
-    // There is no memory even for the words of a report, so these are ready.
+    // There is no memory for the text of a report, so a constant one is shown.
     MessageBoxW(nullptr, L"Out of memory", L"Brindle Plotsmith", MB_OK | MB_TASKMODAL);
   }
 }

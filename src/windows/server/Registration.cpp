@@ -1,5 +1,6 @@
 #include "windows/server/Registration.h"
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -98,6 +99,27 @@ class Classes {
     return status;
   }
 
+  /// The text of a value as it is, null for none. What is no text is no value of ours.
+  std::optional<std::wstring> Read(const Entry& entry) const {
+    DWORD bytes = 0;
+    const std::wstring path = PathOf(entry.key);
+    if (RegGetValueW(root_, path.c_str(), entry.name.c_str(), RRF_RT_REG_SZ, nullptr, nullptr, &bytes) !=
+        ERROR_SUCCESS) {
+      return std::nullopt;
+    }
+    std::wstring text(bytes / sizeof(wchar_t), L'\0');
+    if (RegGetValueW(root_, path.c_str(), entry.name.c_str(), RRF_RT_REG_SZ, nullptr, text.data(), &bytes) !=
+        ERROR_SUCCESS) {
+      return std::nullopt;
+    }
+    text.resize(bytes / sizeof(wchar_t) - 1);  // the terminating zero
+    return text;
+  }
+
+  void RemoveValue(const Entry& entry) const {
+    RegDeleteKeyValueW(root_, PathOf(entry.key).c_str(), entry.name.c_str());
+  }
+
   /// `view` is KEY_WOW64_32KEY or KEY_WOW64_64KEY for the keys that programs of those bits see, 0 for our
   /// own.
   bool Has(const std::wstring& key, REGSAM view = 0) const {
@@ -107,7 +129,7 @@ class Classes {
     return true;
   }
 
-  /// Removes a key and all below it. A key that isn't there is as good as removed.
+  /// Removes a key and all below it. It succeeds for a key that isn't there.
   LSTATUS Remove(const std::wstring& key) const {
     const LSTATUS status = RegDeleteTreeW(root_, PathOf(key).c_str());
     return status == ERROR_FILE_NOT_FOUND ? ERROR_SUCCESS : status;
@@ -133,14 +155,51 @@ class Classes {
   HKEY root_;
 };
 
+/// What the classes were before they were changed, so that they can be so again.
+class Remembered {
+ public:
+  explicit Remembered(const Classes& classes) : classes_(classes) {
+    if (!classes_.Has(L"")) newKeys_.push_back(L"");
+  }
+
+  /// Call it before the entry is written.
+  void Remember(const Entry& entry) {
+    for (std::size_t end = 0; end != std::wstring::npos;) {
+      end = entry.key.find(L'\\', end + 1);
+      const std::wstring key = entry.key.substr(0, end);
+      if (!classes_.Has(key)) newKeys_.push_back(key);
+    }
+    values_.push_back({entry, classes_.Read(entry)});
+  }
+
+  /// Puts back what was there, and removes what was not.
+  void PutBack() const {
+    for (const auto& [entry, text] : values_) {
+      if (text) {
+        classes_.Write({entry.key, entry.name, *text});
+      } else {
+        classes_.RemoveValue(entry);
+      }
+    }
+    for (auto key = newKeys_.rbegin(); key != newKeys_.rend(); ++key) classes_.RemoveIfEmpty(*key);
+  }
+
+ private:
+  const Classes& classes_;
+  std::vector<std::wstring> newKeys_;  ///< a key before those in it
+  std::vector<std::pair<Entry, std::optional<std::wstring>>> values_;
+};
+
 }  // namespace
 
 HRESULT RegisterServer(RegistrationScope scope) {
   const Classes classes(scope);
+  Remembered before(classes);
   for (const Entry& entry : Entries()) {
+    before.Remember(entry);
     const LSTATUS status = classes.Write(entry);
     if (status != ERROR_SUCCESS) {
-      UnregisterServer(scope);
+      before.PutBack();
       return HRESULT_FROM_WIN32(status);
     }
   }
@@ -158,7 +217,7 @@ HRESULT UnregisterServer(RegistrationScope scope) {
   remove(ClassKey());
   remove(InterfaceKey());
   remove(PlatformKey(kPlatform));
-  // The names and the rest of the type library belong to the DLLs of 32 and of 64 bits alike.
+  // The DLLs of 32 and of 64 bits share the names and the rest of the type library.
   if (!classes.Has(ClassKey(), kOtherView)) {
     remove(kVersionedName);
     remove(kName);

@@ -10,8 +10,8 @@ enum class RegistrationScope {
   kMachine,  ///< all users: HKEY_LOCAL_MACHINE, which only an administrator may write
 };
 
-/// Writes what clients look the class up by: its identifier, its names, the type library, the interface. Does
-/// nothing by halves: after an error, what was written is removed again.
+/// Writes what clients look the class up by: its identifier, its names, the type library, the interface.
+/// After an error the registry is as it was before, so an earlier registration stays as it is.
 HRESULT RegisterServer(RegistrationScope scope);
 
 /// Removes all that. What the DLL of the other kind, 32 bits beside 64, has registered stays, and what they

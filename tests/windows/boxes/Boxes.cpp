@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <utility>
 
@@ -12,6 +13,7 @@
 #include "runtime/Variant.h"
 #include "tests/windows/boxes/Calls.h"
 #include "tests/windows/boxes/MessageBoxes.h"
+#include "tests/windows/boxes/PressingHand.h"
 #include "tests/windows/boxes/ScriptedHands.h"
 #include "windows/com/Failures.h"
 #include "windows/com/Texts.h"
@@ -30,10 +32,51 @@ HWND NewWindow() {
   return window;
 }
 
-std::int32_t HandleCount() {
-  DWORD handles = 0;
-  GetProcessHandleCount(GetCurrentProcess(), &handles);
-  return static_cast<std::int32_t>(handles);
+/// How many handles of the kernel the process has. Wine's GetProcessHandleCount knows none.
+int KernelHandles() {
+  int count = 0;
+  for (std::uintptr_t handle = 4; handle < 0x10000; handle += 4) {
+    DWORD flags = 0;
+    if (GetHandleInformation(reinterpret_cast<HANDLE>(handle), &flags)) ++count;
+  }
+  return count;
+}
+
+/// How many pens, fonts and the like the process has. Wine's GetGuiResources knows none, but Wine finds an
+/// object by the lower half of its handle.
+int GdiObjects() {
+  int count = static_cast<int>(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
+  if (count != 0) return count;
+  for (std::uintptr_t handle = 1; handle < 0x10000; ++handle) {
+    if (GetObjectType(reinterpret_cast<HGDIOBJ>(handle)) != 0) ++count;
+  }
+  return count;
+}
+
+/// How many windows and menus the process has, in the same way.
+int UserObjects() {
+  int count = static_cast<int>(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS));
+  if (count != 0) return count;
+  for (std::uintptr_t handle = 2; handle < 0x10000; handle += 2) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(reinterpret_cast<HWND>(handle), &process);
+    if (process == GetCurrentProcessId() || IsMenu(reinterpret_cast<HMENU>(handle))) ++count;
+  }
+  return count;
+}
+
+std::string ResourceCounts() {
+  return std::to_string(KernelHandles()) + " handles, " + std::to_string(GdiObjects()) + " GDI objects, " +
+         std::to_string(UserObjects()) + " USER objects";
+}
+
+/// Makes a key of the registry for all users that goes with the session. It can't hold keys that stay.
+void MakeVolatileKey(const std::string& path) {
+  HKEY key = nullptr;
+  const LSTATUS status = RegCreateKeyExW(HKEY_LOCAL_MACHINE, com::Wide(path).c_str(), 0, nullptr,
+                                         REG_OPTION_VOLATILE, KEY_READ, nullptr, &key, nullptr);
+  if (status != ERROR_SUCCESS) throw com::ErrorOf(HRESULT_FROM_WIN32(status));
+  RegCloseKey(key);
 }
 
 com::ComPtr<IDispatch> NewObject(const std::string& progId) {
@@ -96,6 +139,7 @@ class Boxes final : public IDispatch {
   std::atomic<ULONG> references_ = 1;
   MessageBoxes boxes_;
   std::unique_ptr<ScriptedHands> hands_;
+  std::unique_ptr<PressingHand> pressingHand_;
   HWND window_ = nullptr;
   com::ComPtr<IDispatch> controller_;
 };
@@ -129,6 +173,21 @@ const Boxes::Member Boxes::kMembers[] = {
        const auto hands = std::exchange(boxes.hands_, nullptr);
        const std::string failure = hands->Finish();
        return com::ToVariant(Variant(failure + "\n" + hands->Shown()));
+     }},
+    // PressEachPage("PAGE BUTTON PAGE BUTTON ..."): a button is pressed on each page that comes; StopPressing() answers
+    // how many were.
+    {"PressEachPage",
+     [](Boxes& boxes, const DISPPARAMS& sent) -> OwnedVariant {
+       std::istringstream words(Text(sent, 0));
+       std::map<std::string, std::string> buttons;
+       for (std::string page, button; words >> page >> button;) buttons[page] = button;
+       boxes.pressingHand_ = std::make_unique<PressingHand>(std::move(buttons));
+       return {};
+     }},
+    {"StopPressing",
+     [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
+       const auto hand = std::exchange(boxes.pressingHand_, nullptr);
+       return com::ToVariant(Variant(hand->Presses()));
      }},
     // LateBound(controller, call, application) and EarlyBound: see Calls.h.
     {"LateBound",
@@ -178,9 +237,15 @@ const Boxes::Member Boxes::kMembers[] = {
      [](Boxes&, const DISPPARAMS&) -> OwnedVariant {
        return com::ToVariant(static_cast<IDispatch*>(nullptr));
      }},
-    // Handles(): returns the number of handles of the process.
-    {"Handles",
-     [](Boxes&, const DISPPARAMS&) -> OwnedVariant { return com::ToVariant(Variant(HandleCount())); }},
+    // Resources(): how many handles and objects of the system the process has.
+    {"Resources",
+     [](Boxes&, const DISPPARAMS&) -> OwnedVariant { return com::ToVariant(Variant(ResourceCounts())); }},
+    // MakeVolatileKey(path)
+    {"MakeVolatileKey",
+     [](Boxes&, const DISPPARAMS& sent) -> OwnedVariant {
+       MakeVolatileKey(Text(sent, 0));
+       return {};
+     }},
     // FreeUnusedLibraries(), and IsLoaded(library)
     {"FreeUnusedLibraries",
      [](Boxes&, const DISPPARAMS&) -> OwnedVariant {

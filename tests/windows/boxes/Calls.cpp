@@ -71,12 +71,48 @@ VARIANT ObjectOf(IUnknown* object, VARTYPE type) {
   return value;
 }
 
+/// An object that has nothing but a default member, a text.
+class TextObject final : public IDispatch {
+ public:
+  explicit TextObject(std::string text) : text_(std::move(text)) {}
+
+  STDMETHODIMP QueryInterface(REFIID id, void** object) override {
+    *object = id == IID_IUnknown || id == IID_IDispatch ? this : nullptr;
+    if (*object == nullptr) return E_NOINTERFACE;
+    AddRef();
+    return S_OK;
+  }
+  STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
+  STDMETHODIMP_(ULONG) Release() override {
+    const ULONG left = --references_;
+    if (left == 0) delete this;
+    return left;
+  }
+  STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return DISP_E_UNKNOWNNAME; }
+  STDMETHODIMP Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
+                      UINT*) override {
+    if (member != DISPID_VALUE || (flags & DISPATCH_PROPERTYGET) == 0) return DISP_E_MEMBERNOTFOUND;
+    // without a text it answers itself, as a hostile object may
+    *result = (text_.empty() ? com::ToVariant(static_cast<IDispatch*>(this))
+                             : com::ToVariant(runtime::Variant(text_)))
+                  .Detach();
+    return S_OK;
+  }
+
+ private:
+  std::string text_;
+  ULONG references_ = 1;
+};
+
 VARIANT ValueOf(const std::string& kind, const std::string& text, IDispatch* application) {
   if (kind == "s") return com::ToVariant(runtime::Variant(text)).Detach();
   if (kind == "i") return com::ToVariant(runtime::Variant(std::stoi(text))).Detach();
   if (kind == "o") return ObjectOf(application, VT_DISPATCH);
   if (kind == "u") return ObjectOf(application, VT_UNKNOWN);
   if (kind == "n") return ObjectOf(nullptr, VT_DISPATCH);
+  if (kind == "d") return ObjectOf(ComPtr<IDispatch>::Attach(new TextObject(text)).Get(), VT_DISPATCH);
   if (kind == "null") return OfType(VT_NULL);
   if (kind == "empty") return OfType(VT_EMPTY);
   if (kind == "missing") return com::Missing().Detach();
@@ -234,25 +270,24 @@ std::string TypeText(const TYPEDESC& type) {
 }
 
 std::string Name(ITypeInfo& info, MEMBERID member) {
-  BSTR name = nullptr;
-  info.GetDocumentation(member, &name, nullptr, nullptr, nullptr);
-  const std::string text = com::Utf8(name);
-  SysFreeString(name);
-  return text;
+  com::OwnedBstr name;
+  info.GetDocumentation(member, name.Put(), nullptr, nullptr, nullptr);
+  return com::Utf8(name);
 }
 
 std::string FunctionText(ITypeInfo& info, const FUNCDESC& function) {
-  BSTR names[8] = {};
+  BSTR found[8] = {};
   UINT count = 0;
-  info.GetNames(function.memid, names, 8, &count);
+  info.GetNames(function.memid, found, 8, &count);
+  std::vector<com::OwnedBstr> names;
+  for (BSTR name : found) names.push_back(com::OwnedBstr::Attach(name));
   std::string text = std::to_string(function.memid) + " " + com::Utf8(names[0]) + "(";
   for (SHORT i = 0; i < function.cParams; ++i) {
     const ELEMDESC& parameter = function.lprgelemdescParam[i];
     const bool isOut = (parameter.paramdesc.wParamFlags & PARAMFLAG_FOUT) != 0;
     text += (i == 0 ? "" : ", ") + std::string(isOut ? "[in, out] " : "") + TypeText(parameter.tdesc) + " " +
-            com::Utf8(names[i + 1]);
+            com::Utf8(names.at(static_cast<std::size_t>(i) + 1));
   }
-  for (BSTR name : names) SysFreeString(name);
   return text + ")";
 }
 

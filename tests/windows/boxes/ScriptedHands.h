@@ -9,9 +9,12 @@
 
 namespace plotsmith::test {
 
-/// Runs a script of the wizard on the dialogs of this thread with mouse and keyboard messages. It finds the
-/// dialogs on the screen and reads them. It performs the next action when a timer of this thread ticks and a
-/// dialog waits.
+/// The dialog of this thread that waits for a hand; null if none does.
+HWND WaitingForm();
+
+/// Plays a script of the wizard on the dialogs of this thread, by the messages of a mouse and a keyboard. It
+/// works from outside: it finds the dialogs on the screen, reads them, and makes the next gesture each time
+/// when a timer of this thread ticks and a dialog waits.
 class ScriptedHands {
  public:
   explicit ScriptedHands(const std::string& script);

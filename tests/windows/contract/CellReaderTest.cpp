@@ -79,6 +79,25 @@ TEST_F(CellReaderTest, TextsInThePlainFormatNeedNoCallEach) {
   EXPECT_GE(read(2), 2U * kRows) << "how a date is shown, only the host knows";
 }
 
+TEST_F(CellReaderTest, FormulasAreReadAsTheSheetShowsThem) {
+  for (const std::int32_t row : {40, 41, 700}) host_->formulas[{row, 1}] = "=\"text \"&ROW()";
+  for (const bool displayFormulas : {false, true}) {
+    host_->displayFormulas = displayFormulas;
+    com::NoteChange();
+    std::string scratch;
+    const auto calls = Calls([&] {
+      for (std::int32_t row = 1; row <= kRows; ++row) {
+        const bool shown = displayFormulas && host_->formulas.contains({row, 1});
+        EXPECT_EQ(proxy_->CellTextAt(row, 1, scratch),
+                  shown ? host_->formulas.at({row, 1}) : "text " + std::to_string(row));
+      }
+    });
+    if (!displayFormulas) {
+      EXPECT_LE(calls, 55U);
+    }
+  }
+}
+
 TEST_F(CellReaderTest, AWriteIsSeenByTheNextRead) {
   for (std::int32_t row = 1; row <= 40; ++row) proxy_->CellValueAt(row, 3);
   application_->ActiveWorkbook()->Worksheets()->Item(1)->Cells(41, 3)->SetValue("new");

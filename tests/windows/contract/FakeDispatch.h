@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
@@ -16,9 +17,8 @@ class FakeDispatch final : public IDispatch {
 
   explicit FakeDispatch(Call call) : call_(std::move(call)) {}
 
-  int lookUps = 0;  ///< The number of name look-ups.
-  std::vector<std::wstring>
-      names;  ///< The names that were looked up. Names that begin with "Unknown" don't exist.
+  int lookUps = 0;        ///< of names; those that begin with "Unknown" aren't there
+  std::wstring lastName;  ///< of the member that was called last
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) noexcept override {
     *object = id == IID_IUnknown || id == IID_IDispatch ? this : nullptr;
@@ -34,16 +34,24 @@ class FakeDispatch final : public IDispatch {
   HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* wanted, UINT, LCID,
                                           DISPID* ids) noexcept override {
     ++lookUps;
-    names.push_back(wanted[0]);
-    ids[0] = static_cast<DISPID>(names.size());
-    return names.back().starts_with(L"Unknown") ? DISP_E_UNKNOWNNAME : S_OK;
+    const auto known = std::ranges::find(Names(), wanted[0]);
+    ids[0] = static_cast<DISPID>(known - Names().begin()) + 1;
+    if (known == Names().end()) Names().emplace_back(wanted[0]);
+    return std::wstring_view(wanted[0]).starts_with(L"Unknown") ? DISP_E_UNKNOWNNAME : S_OK;
   }
-  HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD flags, DISPPARAMS* sent, VARIANT* answer,
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* sent, VARIANT* answer,
                                    EXCEPINFO* exception, UINT*) noexcept override {
+    lastName = id == DISPID_VALUE ? L"" : Names().at(static_cast<std::size_t>(id) - 1);
     return call_(flags, *sent, answer, exception);
   }
 
  private:
+  /// Of all members, by their numbers. Objects of a class know a member by the same number.
+  static std::vector<std::wstring>& Names() {
+    static std::vector<std::wstring> names;
+    return names;
+  }
+
   Call call_;
 };
 

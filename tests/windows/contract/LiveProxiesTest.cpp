@@ -5,6 +5,7 @@
 #include "controller/CPlotsmithController.h"
 #include "controller/System.h"
 #include "forms/UnattendedView.h"
+#include "tests/windows/contract/FakeDispatch.h"
 #include "tests/windows/contract/PortContract.h"
 #include "windows/com/Proxies.h"
 #include "windows/excel/WrapApplication.h"
@@ -71,6 +72,44 @@ TEST_F(LiveProxiesTest, ARefreshLeavesOnlyTheApplicationAndTheLastChart) {
   EXPECT_FALSE(colChartObjects);
   EXPECT_EQ(com::LiveProxies(), HeldByVariables());
   EXPECT_LE(com::LiveProxies(), 2);
+}
+
+TEST_F(LiveProxiesTest, TheWizardLeavesWhatARefreshLeaves) {
+  controller_.RunPlotsmith(Excel(), "test", "");
+  EXPECT_TRUE(oApplication);
+  EXPECT_FALSE(oWorkbook);
+  EXPECT_FALSE(colTables);
+  EXPECT_FALSE(colCharts);
+  EXPECT_FALSE(colChartObjects);
+  EXPECT_EQ(com::LiveProxies(), HeldByVariables());
+  EXPECT_LE(com::LiveProxies(), 2);
+}
+
+TEST_F(LiveProxiesTest, AnErrorLeavesTheWorkbook) {
+  FakeDispatch book([](WORD, const DISPPARAMS&, VARIANT* answer, EXCEPINFO*) {
+    *answer = com::ToVariant(false).Detach();  // neither protected nor shared
+    return S_OK;
+  });
+  FakeDispatch* self = nullptr;
+  FakeDispatch excel([&](WORD, const DISPPARAMS&, VARIANT* answer, EXCEPINFO*) {
+    if (self->lastName == L"ActiveChart") return static_cast<HRESULT>(0x800A03EC);
+    if (self->lastName == L"ActiveWorkbook") *answer = com::ToVariant(&book).Detach();
+    if (self->lastName == L"Interactive") *answer = com::ToVariant(false).Detach();
+    return S_OK;
+  });
+  self = &excel;
+  const auto runs = {&CPlotsmithController::RunPlotsmith, &CPlotsmithController::RefreshPlotsmithData};
+  for (const auto run : runs) {
+    (controller_.*run)(excel::WrapApplication(&excel), "test", "");
+    EXPECT_TRUE(oApplication);
+    EXPECT_TRUE(oWorkbook);
+    EXPECT_FALSE(colChartObjects);
+    EXPECT_EQ(com::LiveProxies(), 2);
+    EXPECT_EQ(com::LiveProxies(), HeldByVariables());
+  }
+  const std::string description = "\r\nApplication-defined or object-defined error\n";
+  said_ = "CPlotsmithController.RunPlotsmith" + description + "CPlotsmithController.RefreshPlotsmithData" +
+          description;
 }
 
 TEST_F(LiveProxiesTest, AGuardLeavesOnlyTheApplication) {

@@ -65,24 +65,29 @@ void AddWays(Table<excel::Sheets>& table) {
 void AddWays(Table<excel::Sheet>&) {}
 void AddWays(Table<excel::Worksheet>&) {}
 
-/// Returns the value of a single cell, or the values of all cells as an array.
-com::OwnedVariant Values(excel::Range& range) {
+/// What `of` gives for the only cell, or for all cells as an array.
+template <class Of>
+com::OwnedVariant EachOf(excel::Range& range, const Of& of) {
   const auto [sheet, cells] = xlsx::CellsOf(range);
-  if (cells.CellCount() == 1) return com::ToVariant(range.Value());
+  if (cells.CellCount() == 1) return com::ToVariant(of(sheet, cells.row1, cells.column1));
   com::CellArrayWriter values(cells.RowCount(), cells.ColumnCount());
   for (std::int32_t row = 0; row < cells.RowCount(); ++row) {
     for (std::int32_t column = 0; column < cells.ColumnCount(); ++column) {
-      values.Set(row, column, sheet.CellValueAt(cells.row1 + row, cells.column1 + column).ToVariant());
+      values.Set(row, column, of(sheet, cells.row1 + row, cells.column1 + column));
     }
   }
   return values.Take();
 }
 
-/// Returns the common result of `of` for all cells, or Null if they differ.
+excel::Variant ValueAt(xlsx::Worksheet& sheet, std::int32_t row, std::int32_t column) {
+  return sheet.CellValueAt(row, column).ToVariant();
+}
+
+/// What `of` gives for every cell, if that is the same; otherwise Null.
 template <class Of>
 excel::Variant Common(excel::Range& range, const Of& of) {
   const auto [sheet, cells] = xlsx::CellsOf(range);
-  const std::string first = of(sheet, cells.row1, cells.column1);
+  const auto first = of(sheet, cells.row1, cells.column1);
   for (std::int32_t row = cells.row1; row <= cells.row2; ++row) {
     for (std::int32_t column = cells.column1; column <= cells.column2; ++column) {
       if (of(sheet, row, column) != first) return runtime::kNull;
@@ -96,13 +101,38 @@ std::string TextAt(xlsx::Worksheet& sheet, std::int32_t row, std::int32_t column
   return std::string(sheet.CellTextAt(row, column, scratch));
 }
 
+/// Of a cell without a formula its value, which is as good for texts.
+excel::Variant FormulaAt(const Host& host, xlsx::Worksheet& sheet, std::int32_t row, std::int32_t column) {
+  const auto formula = host.formulas.find({row, column});
+  return formula == host.formulas.end() ? ValueAt(sheet, row, column) : excel::Variant(formula->second);
+}
+
 void AddWays(Table<excel::Range>& table) {
   table.Add({L"Value", DISPATCH_PROPERTYGET, 0, 0, nullptr,
-             [](excel::Range& range, const Arguments&, const HostPtr&) { return Values(range); }});
-  table.Add({L"Text", DISPATCH_PROPERTYGET, 0, 0, nullptr,
+             [](excel::Range& range, const Arguments&, const HostPtr&) { return EachOf(range, ValueAt); }});
+  table.Add({L"Formula", DISPATCH_PROPERTYGET, 0, 0, nullptr,
              [](excel::Range& range, const Arguments&, const HostPtr& host) {
-               return Answer(Common(range, TextAt), host);
+               return EachOf(range, [&](auto&&... cell) { return FormulaAt(*host, cell...); });
              }});
+  table.Add({L"HasFormula", DISPATCH_PROPERTYGET, 0, 0, nullptr,
+             [](excel::Range& range, const Arguments&, const HostPtr& host) {
+               return Answer(Common(range,
+                                    [&](xlsx::Worksheet&, std::int32_t row, std::int32_t column) {
+                                      return host->formulas.contains({row, column});
+                                    }),
+                             host);
+             }});
+  table.Add(
+      {L"Text", DISPATCH_PROPERTYGET, 0, 0, nullptr,
+       [](excel::Range& range, const Arguments&, const HostPtr& host) {
+         return Answer(
+             Common(range,
+                    [&](xlsx::Worksheet& sheet, std::int32_t row, std::int32_t column) {
+                      const bool shown = host->displayFormulas && host->formulas.contains({row, column});
+                      return shown ? host->formulas.at({row, column}) : TextAt(sheet, row, column);
+                    }),
+             host);
+       }});
   table.Add({L"DisplayFormat", DISPATCH_PROPERTYGET, 0, 0, nullptr,
              [](excel::Range& range, const Arguments&, const HostPtr& host) {
                const auto [sheet, cells] = xlsx::CellsOf(range);
@@ -127,7 +157,7 @@ void AddWays(Table<excel::Range>& table) {
 template <>
 const Table<DocumentProperties>& TableOf<DocumentProperties>() {
   static const Table<DocumentProperties> table = [] {
-    Table<DocumentProperties> made;
+    Table<DocumentProperties> made("DocumentProperties");
     made.Add({L"Item", DISPATCH_PROPERTYGET, 1, 1, nullptr,
               [](DocumentProperties& properties, const Arguments& arguments, const HostPtr& host) {
                 return Answer(properties.book->BuiltinDocumentProperties(Given<std::string>(arguments[0])),
@@ -141,7 +171,7 @@ const Table<DocumentProperties>& TableOf<DocumentProperties>() {
 template <>
 const Table<DisplayFormat>& TableOf<DisplayFormat>() {
   static const Table<DisplayFormat> table = [] {
-    Table<DisplayFormat> made;
+    Table<DisplayFormat> made("DisplayFormat");
     made.Add({L"NumberFormat", DISPATCH_PROPERTYGET, 0, 0, nullptr,
               [](DisplayFormat& look, const Arguments&, const HostPtr& host) {
                 return Answer(Common(*look.range,

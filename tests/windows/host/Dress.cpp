@@ -1,6 +1,8 @@
 #include "tests/windows/host/Dress.h"
 
 #include "runtime/RuntimeError.h"
+#include "runtime/Strings.h"
+#include "tests/windows/host/HostMembers.h"
 #include "windows/com/Failures.h"
 
 namespace plotsmith::dress {
@@ -63,6 +65,29 @@ HRESULT Dispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* sent, 
   } catch (...) {
     return com::FillException(runtime::CurrentError(), exception);
   }
+}
+
+std::string NameOf(const std::string& className, const std::wstring& member, WORD kind) {
+  const char* words = kind == DISPATCH_METHOD ? " called" : kind == DISPATCH_PROPERTYPUT ? " put" : " read";
+  return className + "." + runtime::ToUtf8(std::u16string(member.begin(), member.end())) + words;
+}
+
+std::optional<com::OwnedVariant> Spoilt(const HostPtr& host) {
+  const std::string& how = host->spoiltHow;
+  if (how == "Null") return com::ToVariant(runtime::kNull);
+  if (how == "Empty") return com::OwnedVariant();
+  if (how == "Nothing") return com::ToVariant(static_cast<IDispatch*>(nullptr));
+  if (how == "a number") return com::ToVariant(7);
+  if (how == "a text") return com::ToVariant("perhaps");
+  if (how == "an array") return com::ToArray(std::vector<excel::Variant>{1, "two"});
+  if (how == "another object") {
+    return com::ToVariant(com::ComPtr<IDispatch>::Attach(NewApplication(host)).Get());
+  }
+  if (how != "calls back") throw runtime::RuntimeError(runtime::error::kApplication, "Spoilt");
+  DISPPARAMS none{};
+  const com::ComPtr<IDispatch> callback = host->callback;
+  callback->Invoke(DISPID_VALUE, IID_NULL, 0, DISPATCH_METHOD, &none, nullptr, nullptr, nullptr);
+  return std::nullopt;
 }
 
 com::OwnedVariant ItemOf(const com::OwnedVariant& collection, const Arguments& arguments) {

@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -15,7 +16,8 @@
 #include "windows/com/Values.h"
 #include "xlsx/Application.h"
 
-/// The embedded host as Excel: its objects as IDispatch, by the tables from which the proxies are made.
+/// The embedded host dressed as Excel: its objects behind IDispatch. The tables of src/windows/excel/members
+/// make both the dress and the proxies.
 namespace plotsmith::dress {
 
 using excel::Ref;
@@ -27,6 +29,15 @@ struct Host {
   std::string journal;   ///< The journal since it was opened. Each line ends with a line feed.
   bool editing = false;  ///< Whether a cell is being edited, so that Interactive can't be set.
   std::map<std::string, com::ComPtr<IDispatch>> macros;
+  /// The formulas of cells, which the embedded host doesn't have, by row and column of any sheet.
+  std::map<std::pair<std::int32_t, std::int32_t>, std::string> formulas;
+  /// The dress of the open workbook while it lives: as in Excel, a workbook is always the same object.
+  IDispatch* workbook = nullptr;
+  bool displayFormulas = false;  ///< cells show their formulas
+
+  /// The one way to call a member that is spoilt, such as "Series.Values read", and how: see Spoilt.
+  std::string spoiltWay, spoiltHow;
+  com::ComPtr<IDispatch> callback;  ///< that a member of the kind "calls back" calls
 };
 using HostPtr = std::shared_ptr<Host>;
 
@@ -67,10 +78,16 @@ struct Way {
   mutable bool called = false;
 };
 
+/// The name of a way, such as "Series.Values read".
+std::string NameOf(const std::string& className, const std::wstring& member, WORD kind);
+
 /// The members of a T.
 template <class T>
 class Table {
  public:
+  /// `className` is Excel's name of T.
+  explicit Table(std::string className) : className_(std::move(className)) {}
+
   void Add(Way<T> way) {
     if (IdOf(way.name) == DISPID_UNKNOWN) names_.push_back(way.name);
     ways_.push_back(std::move(way));
@@ -81,8 +98,10 @@ class Table {
   /// Returns the way to call a member, or null if it can't be called in this way.
   const Way<T>* Find(DISPID id, WORD kinds, const Arguments& arguments) const;
   const std::vector<Way<T>>& Ways() const { return ways_; }
+  std::string NameOf(const Way<T>& way) const { return dress::NameOf(className_, way.name, way.kind); }
 
  private:
+  std::string className_;
   std::vector<std::wstring> names_;
   std::vector<Way<T>> ways_;
 };
@@ -122,6 +141,9 @@ template <class T>
 class Dressed final : public Dispatch {
  public:
   Dressed(Ref<T> object, HostPtr host) : host_(std::move(host)), object_(std::move(object)) {}
+  ~Dressed() override {
+    if (host_->workbook == this) host_->workbook = nullptr;
+  }
 
   const Ref<T>& Object() const { return object_; }
 
@@ -133,15 +155,24 @@ class Dressed final : public Dispatch {
   Ref<T> object_;
 };
 
-/// Returns the result of the default member for arguments that the property of an object doesn't take itself:
-/// Sheets("A").
+/// What a spoilt member answers: an error, "Null", "Empty", "Nothing", a number, a text, an object of another
+/// class, an array; nothing where it calls back first and then answers as usual.
+std::optional<com::OwnedVariant> Spoilt(const HostPtr& host);
+
+/// The default member's answer for arguments that a property of an object doesn't take itself: Sheets("A").
 com::OwnedVariant ItemOf(const com::OwnedVariant& collection, const Arguments& arguments);
 
 /// Returns an object as IDispatch; Nothing for null.
 template <class T>
 com::OwnedVariant Answer(const Ref<T>& object, const HostPtr& host) {
   if (!object) return com::ToVariant(static_cast<IDispatch*>(nullptr));
+  if constexpr (std::is_same_v<T, excel::Workbook>) {
+    const auto* known = dynamic_cast<Dressed<T>*>(host->workbook);
+    if (known != nullptr && known->Object().shared() == object.shared())
+      return com::ToVariant(host->workbook);
+  }
   const auto dressed = com::ComPtr<IDispatch>::Attach(new Dressed<T>(object, host));
+  if constexpr (std::is_same_v<T, excel::Workbook>) host->workbook = dressed.Get();
   return com::ToVariant(dressed.Get());
 }
 /// Returns a sheet as IDispatch, as a worksheet if it is one.
@@ -230,6 +261,9 @@ com::OwnedVariant Dressed<T>::Called(DISPID id, WORD kinds, const Arguments& arg
   const Way<T>* way = TableOf<T>().Find(id, kinds, arguments);
   if (way == nullptr) throw HRESULT{DISP_E_MEMBERNOTFOUND};
   way->called = true;
+  if (!host_->spoiltWay.empty() && TableOf<T>().NameOf(*way) == host_->spoiltWay) {
+    if (auto spoilt = Spoilt(host_)) return std::move(*spoilt);
+  }
   if (arguments.Count() < way->least) throw HRESULT{DISP_E_PARAMNOTOPTIONAL};
   if (arguments.Count() <= way->most) return way->call(*object_, arguments, host_);
   if (way->most > 0 || way->kind == DISPATCH_PROPERTYPUT) throw HRESULT{DISP_E_BADPARAMCOUNT};

@@ -7,7 +7,7 @@
   const Table<excel::Class>& TableOf<excel::Class>() { \
     using Object = excel::Class;                       \
     static const Table<Object> table = [] {            \
-      Table<Object> made;
+      Table<Object> made(#Class);
 #define END(Class) \
       return made; \
     }();           \

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
+#include <set>
 
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
@@ -105,31 +106,50 @@ com::OwnedVariant UnsureCalls(excel::Application&, const Arguments&, const HostP
   return com::ToVariant(counts.unsure.load());
 }
 
-/// LiveObjects: the number of objects of this library that still have references.
+/// WaysCalled: the ways in which Excel's members have been called, such as "Series.Values read", a line each.
+com::OwnedVariant WaysCalled(excel::Application&, const Arguments&, const HostPtr&) {
+  const std::vector<std::string> notCalled = WaysNotCalled();
+  std::string lines;
+  std::set<std::string> listed(notCalled.begin(), notCalled.end());
+  for (const std::string& way : AllWays()) {
+    if (listed.insert(way).second) lines += way + "\n";
+  }
+  return com::ToVariant(lines);
+}
+
+/// Spoil(way, how, callback): a way of calling a member that answers from now on what no Excel does; see
+/// Spoilt.
+com::OwnedVariant Spoil(excel::Application&, const Arguments& arguments, const HostPtr& host) {
+  host->spoiltWay = Given<std::string>(arguments[0]);
+  host->spoiltHow = Given<std::string>(arguments[1]);
+  host->callback = com::IsMissing(arguments[2]) ? nullptr : com::ObjectOf(arguments[2]);
+  return {};
+}
+
+/// LiveObjects: how many objects of this library somebody refers to.
 com::OwnedVariant LiveObjects(excel::Application&, const Arguments&, const HostPtr&) {
   return com::ToVariant(counts.objects.load());
 }
 
+/// Which ways are listed.
+enum class Which { kAll, kNotCalled };
+
 template <class T>
-void ListNotCalled(const std::string& name, std::vector<std::string>& list) {
-  for (const auto& way : TableOf<T>().Ways()) {
-    const char* kind = way.kind == DISPATCH_METHOD        ? " called"
-                       : way.kind == DISPATCH_PROPERTYPUT ? " put"
-                                                          : " read";
-    const std::u16string text(way.name.begin(), way.name.end());
-    if (!way.called) list.push_back(name + "." + runtime::ToUtf8(text) + kind);
+void ListWays(Which which, std::vector<std::string>& list) {
+  const Table<T>& table = TableOf<T>();
+  for (const auto& way : table.Ways()) {
+    if (which == Which::kAll || !way.called) list.push_back(table.NameOf(way));
   }
 }
 
-/// The additional members for scripts.
-constexpr std::array kHostMembers = {"Open",        "Save",    "SaveAs", "Journal",     "SaveJournal",
-                                     "DefineMacro", "Editing", "Calls",  "UnsureCalls", "LiveObjects"};
+/// The members that are here for scripts.
+constexpr std::array kHostMembers = {"Open",        "Save",        "SaveAs",      "Journal",
+                                     "SaveJournal", "Spoil",       "DefineMacro", "Editing",
+                                     "Calls",       "UnsureCalls", "LiveObjects", "WaysCalled"};
 
-}  // namespace
-
-std::vector<std::string> WaysNotCalled() {
+std::vector<std::string> Ways(Which which) {
   std::vector<std::string> list;
-#define CLASS_NAME(Class) ListNotCalled<excel::Class>(#Class, list);
+#define CLASS_NAME(Class) ListWays<excel::Class>(which, list);
 #include "windows/excel/members/Classes.inc"
 #undef CLASS_NAME
   std::erase_if(list, [](const std::string& way) {
@@ -138,6 +158,11 @@ std::vector<std::string> WaysNotCalled() {
   });
   return list;
 }
+
+}  // namespace
+
+std::vector<std::string> AllWays() { return Ways(Which::kAll); }
+std::vector<std::string> WaysNotCalled() { return Ways(Which::kNotCalled); }
 
 void AddHostMembers(Table<excel::Application>& table) {
   table.Add({L"Open", DISPATCH_METHOD, 1, 1, nullptr, Open});
@@ -149,6 +174,8 @@ void AddHostMembers(Table<excel::Application>& table) {
   table.Add({L"Editing", DISPATCH_PROPERTYPUT, 1, 1, nullptr, SetEditing});
   table.Add({L"Calls", DISPATCH_PROPERTYGET, 0, 0, nullptr, Calls});
   table.Add({L"UnsureCalls", DISPATCH_PROPERTYGET, 0, 0, nullptr, UnsureCalls});
+  table.Add({L"WaysCalled", DISPATCH_PROPERTYGET, 0, 0, nullptr, WaysCalled});
+  table.Add({L"Spoil", DISPATCH_METHOD, 2, 3, nullptr, Spoil});
   table.Add({L"LiveObjects", DISPATCH_PROPERTYGET, 0, 0, nullptr, LiveObjects});
 }
 

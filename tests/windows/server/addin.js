@@ -27,6 +27,16 @@ check("refresh a table", progressOf(function() { addIn.refreshTable("VEX_TableRa
     "started, started VEX_Chart1, started VEX_Chart2, complete");
 check("refresh another table", progressOf(function() { addIn.refreshTable("Data5"); }), "started, complete");
 check("boxes", boxes.Take(), "");
+
+// A workbook that is closed and opened again is another one, of which all charts are refreshed first.
+host.Open(examples + "countries.xlsx");
+var kAll = "started, started VEX_Chart1, started VEX_Chart2, complete";
+check("another workbook", progressOf(function() { addIn.refreshTable("VEX_TableRange_Countries"); }), kAll + ", " + kAll);
+check("another workbook: the journal", host.Journal.indexOf(journal), 0);
+var twice = host.Journal;
+check("the same workbook", progressOf(function() { addIn.refreshTable("VEX_TableRange_Countries"); }), kAll);
+check("the same workbook: the journal", host.Journal.length > twice.length, true);
+check("boxes of another workbook", boxes.Take(), "");
 boxes.PlayScript("page frmPSSelectAction\npress cmdCancel\npage none\n");
 addIn.charts();
 check("the wizard", boxes.FinishScript(), "\n");

@@ -38,12 +38,16 @@ runs("RefreshPlotsmithData|u|s:Add-in|s:help.chm");
 runs("RefreshPlotsmithData|&o|&s:Add-in|&s:help.chm");
 runs("RefreshPlotsmithData|&vo|&vs:Add-in|&vs:help.chm");
 runs("RefreshPlotsmithData|o|i:5|empty");
+runs("RefreshPlotsmithData|o|d:Add-in|&vd:help.chm");
 runs("RefreshPlotsmithData|sHelpFile=s:help.chm|sCustomAppName=s:Add-in|oApplication=o");
 runs("RefreshPlotsmithData|o|sHelpFile=s:help.chm|sCustomAppName=&vs:Add-in");
 
 isRefused("RefreshPlotsmithData", kNotOptional);
 isRefused("RefreshPlotsmithData|o|s:Add-in", kNotOptional);
 isRefused("RefreshPlotsmithData|o|missing|s:help.chm", kNotOptional);
+isRefused("RefreshPlotsmithData|o|&missing|s:help.chm", kNotOptional);
+isRefused("RefreshPlotsmithData|o|&vmissing|s:help.chm", kNotOptional);
+isRefused("RefreshPlotsmithData|&vmissing|s:Add-in|s:help.chm", kNotOptional);
 isRefused("RefreshPlotsmithData|o|s:Add-in|s:help.chm|s:more", kCount);
 isRefused("RefreshPlotsmithData|o|s:Add-in|s:help.chm|oApplication=o", kCount);
 isRefused("RefreshPlotsmithData|o|s:Add-in|oApplication=o", kCount);
@@ -57,6 +61,8 @@ isRefused("RefreshPlotsmithData|empty|s:Add-in|s:help.chm", kMismatch + " at 2")
 isRefused("RefreshPlotsmithData|null|s:Add-in|s:help.chm", kMismatch + " at 2");
 isRefused("RefreshPlotsmithData|o|null|s:help.chm", kMismatch + " at 1");
 isRefused("RefreshPlotsmithData|o|s:Add-in|o", kMismatch + " at 0");
+isRefused("RefreshPlotsmithData|o|s:Add-in|n", kMismatch + " at 0");
+isRefused("RefreshPlotsmithData|o|s:Add-in|d:", kMismatch + " at 0");
 isRefused("RefreshPlotsmithData|o|s:Add-in|as:help.chm", kMismatch + " at 0");
 isRefused("RefreshPlotsmithData|o|e|s:help.chm", kMismatch + " at 1");
 isRefused("RefreshChartsForTable|o|&vas:Data1", kMismatch + " at 0");
@@ -118,6 +124,8 @@ renames("LateBound", "av:Region,Life expectancy|av:Continent,Life", kRenamed);
 renames("LateBound", "&av:Region,Life expectancy|&as:Continent,Life", kRenamed);
 renames("LateBound", "&vas:Region,Life expectancy|&vav:Continent,Life", kRenamed);
 renames("LateBound", "as0|as0", kNoneRenamed);
+check("a table by an object's default member",
+    columnsAfter("LateBound", "o|d:VEX_TableRange_Countries|as:Region,Life expectancy|as:Continent,Life"), kRenamed);
 renames("LateBound", "ai|ai", kNoneRenamed);
 renames("EarlyBound", "as:Region,Life expectancy|as:Continent,Life", kRenamed);
 finish();

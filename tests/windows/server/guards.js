@@ -4,6 +4,7 @@ var kNoWorkbook = kProduct + "You must have a workbook open to use the Plotsmith
 var kProtected = kProduct +
     "This workbook has been protected. To use the Plotsmith you need to turn off Structure Protection.";
 var kShared = kProduct + "This is a shared workbook. To use the Plotsmith you need to turn off workbook sharing.";
+var kNotSet = "Object variable or With block variable not set";
 var kEditing = kProduct +
     "You are currently editing a cell or object. Please finish editing before using the Plotsmith.";
 
@@ -20,14 +21,40 @@ function says(name, host, expected) {
 }
 
 var host = new ActiveXObject("PlotsmithTestHost.Application");
+
+// The operations on one table have no guards: what trips over a workbook that isn't there says so.
+function tripsWithoutWorkbook(name, call) {
+  check(name + " without a workbook", boxes.LateBound(newController(), call, host), "ok");
+  check(name + " without a workbook: boxes", boxes.Take(), [
+    kProduct + "PSFunctions.RetrieveTableDefinitions\\r\\n" + kNotSet,
+    kProduct + "PSFunctions.RetrieveChartDefinitions\\r\\n" + kNotSet
+  ].join("\n"));
+  CollectGarbage();
+  boxes.FreeUnusedLibraries();  // the component forgets what it holds
+}
+tripsWithoutWorkbook("a refresh of a table", "RefreshChartsForTable|o|s:Data1");
+tripsWithoutWorkbook("a rename", "UpdateChartColumnNamesForTable|o|s:Data1|as:Old|as:New");
+
 says("no workbook", host, kNoWorkbook);
 host.Open(WScript.Arguments(1) + "\\countries.xlsx");
 host.Editing = true;
 says("a cell is edited", host, kEditing);
 check("a cell is edited: the journal", host.Journal, "");
 
-// The operations on one table have no guards: they process the open workbook.
+// Where Interactive is False already, nothing can be learnt from it, and it stays untouched.
 host.Editing = false;
+host.Interactive = false;
+host.Editing = true;
+newController().RefreshPlotsmithData(host, "Add-in", "");
+check("Interactive is False", boxes.Take(), "");
+check("Interactive is False: the journal", host.Journal.split("\n").slice(0, 3).join("\n"),
+    'Application.Interactive = False\nApplication.Run("VEXEvents.VEXChartRefreshStarted")\n' +
+    "Application.ScreenUpdating = False");
+check("Interactive is False: it stays so", host.Journal.split("Application.Interactive").length, 2);
+host.Editing = false;
+host.Interactive = true;
+
+// The operations on one table work on the workbook that is open.
 newController().RefreshChartsForTable(host, "no such table");
 check("a table that isn't there", boxes.Take(), "");
 
@@ -35,7 +62,7 @@ check("a table that isn't there", boxes.Take(), "");
 says("protected", hostWith(true, false), kProtected);
 says("shared", hostWith(false, true), kShared);
 says("protected and shared", hostWith(true, true), kProtected);
-says("a number is as good as a Boolean", hostWith(0, 1), kShared);
+says("a number for a Boolean", hostWith(0, 1), kShared);
 
 // The window of the host owns the boxes.
 var owned = hostWith(true, false);

@@ -2,7 +2,10 @@
 var kMismatch = "Type mismatch";
 var kNoObject = "Object required";
 var kNoMember = "Object doesn't support this property or method";
-var kNoSheet = "Brindle Plotsmith [OK]: Unable to create the metadata worksheet";
+var kAtWork = "Plotsmith is still at work on an earlier call. Call it again when that has returned.";
+// While charts are drawn, boxes are in front of the busy window.
+var kBusy = "Brindle Plotsmith [OK] of Please Wait: ";
+var kNoSheet = kBusy + "Unable to create the metadata worksheet";
 var kTables = "PSFunctions.RetrieveTableDefinitions";
 var kRefresh = "CPlotsmithController.RefreshPlotsmithData";
 
@@ -10,7 +13,12 @@ function report(procedure, description) {
   return "Brindle Plotsmith [OK]: " + procedure + "\\r\\n" + description;
 }
 
-// Refreshes with a new Application, because no other is left when the DLL is unloaded.
+// The same while charts are drawn.
+function busyReport(procedure, description) {
+  return kBusy + procedure + "\\r\\n" + description;
+}
+
+// Refreshes with an Application of its own, as no other remains once the DLL is gone.
 function refreshSays(name, host, boxesExpected) {
   check(name, resultOf(function() { newController().RefreshPlotsmithData(host, "Add-in", ""); }), "ok");
   check(name + ": boxes", boxes.Take(), boxesExpected.join("\n"));
@@ -44,7 +52,7 @@ function withNames(names) {
 }
 
 function namesSay(name, names, description) {
-  refreshSays(name, withNames(names), description === null ? [kNoSheet] : [report(kTables, description), kNoSheet]);
+  refreshSays(name, withNames(names), description === null ? [kNoSheet] : [busyReport(kTables, description), kNoSheet]);
 }
 
 namesSay("no names", {Count: 0}, null);
@@ -55,7 +63,8 @@ namesSay("more names than there are", {Count: 3}, kNoMember);
 namesSay("names that no object is", {Count: 1, Item: function() { return "name"; }}, kNoObject);
 namesSay("names without members", {Count: 1, Item: function() { return {}; }}, kNoMember);
 namesSay("Null for a text", {Count: 1, Item: function() { return {Name: null}; }}, "Invalid use of Null");
-namesSay("an array for a text", {Count: 1, Item: function() { return {Name: {length: 0}}; }}, kMismatch);
+namesSay("an object without a default member for a text", {Count: 1, Item: function() { return {Name: boxes}; }}, kNoMember);
+namesSay("an object with one", {Count: 1, Item: function() { return {Name: {length: 0}}; }}, null);
 namesSay("names that throw", {Count: 1, Item: function() { throw new Error(5, "no name"); }},
     "Automation error\\r\\nCall failed.");
 
@@ -70,13 +79,12 @@ namesSay("names that throw", {Count: 1, Item: function() { throw new Error(5, "n
       return {};
     }
   });
-  var kAtWork = "Plotsmith is still at work on an earlier call. Call it again when that has returned.";
   controller.RefreshPlotsmithData(host, "Add-in", "");
   check("calling back", boxes.Take(), [
-    report(kRefresh, kAtWork), report("CPlotsmithController.RefreshChartsForTable", kAtWork), report(kTables, kNoMember),
+    busyReport(kRefresh, kAtWork), busyReport("CPlotsmithController.RefreshChartsForTable", kAtWork), busyReport(kTables, kNoMember),
     kNoSheet
   ].join("\n"));
-  host = null;
+  controller = host = null;
 })();
 
 // Releases all objects during the run.
@@ -92,6 +100,77 @@ namesSay("names that throw", {Count: 1, Item: function() { throw new Error(5, "n
     }
   });
   controller.RefreshPlotsmithData(host, "Add-in", "");
-  check("letting go", boxes.Take(), [report(kTables, kNoMember), kNoSheet].join("\n"));
+  check("letting go", boxes.Take(), [busyReport(kTables, kNoMember), kNoSheet].join("\n"));
+})();
+boxes.FreeUnusedLibraries();
+
+// An Excel of which one member answers what it never would, for every member that a refresh calls: sheets, ranges,
+// cells, names, shapes, charts, series, axes. Whatever comes is said in reports, and the component works afterwards.
+var book = WScript.Arguments(3);
+var kWays = ["throws", "Null", "Empty", "Nothing", "a number", "a text", "an array", "another object", "calls back"];
+
+function spoiltHost(way, how, callback) {
+  var host = new ActiveXObject("PlotsmithTestHost.Application");
+  host.Open(book);
+  if (way) host.Spoil(way, how, callback);
+  return host;
+}
+
+// What the boxes say of a refresh in which a member is spoilt.
+function spoiltRefresh(way, how) {
+  var controller = newController();
+  var host = spoiltHost(way, how, function() { controller.RefreshPlotsmithData(host, "Add-in", ""); });
+  var result = resultOf(function() { controller.RefreshPlotsmithData(host, "Add-in", ""); });
+  host.Spoil("", "");  // the callback would keep the host
+  if (result !== "ok") return "the call fails with " + result;
+  return boxes.Take();
+}
+
+// A call back is refused, and does not disturb what is at work.
+function isAtWork(box) {
+  return box.replace(" of Please Wait", "") === report(kRefresh, kAtWork);
+}
+
+// What is said at most: reports of procedures, sentences for the user.
+function isSaid(box) {
+  return /^Brindle Plotsmith \[OK\]( of Please Wait)?: (\w+\.\w+\\r\\n.|[A-Z].*\.$|Unable to )/.test(box);
+}
+
+var untouched = spoiltHost();
+newController().RefreshPlotsmithData(untouched, "Add-in", "");
+check("nothing is spoilt", boxes.Take(), "");
+var plain = untouched.Journal;
+var members = untouched.WaysCalled.split("\n");
+untouched = null;
+// Two ways for each member, other ones for the next: all of them for each would take too long.
+(function() {
+  var runs = 0;
+  var reported = 0;
+  for (var i = 0; i < 2 * (members.length - 1); ++i) {
+    var member = members[Math.floor(i / 2)];
+    var how = kWays[(Math.floor(i / 2) + 4 * (i % 2)) % kWays.length];
+    var said = spoiltRefresh(member, how);
+    ++runs;
+    reported += said === "" ? 0 : 1;
+    var shown = said === "" ? [] : said.split("\n");
+    for (var k = 0; k < shown.length; ++k) {
+      if (!isSaid(shown[k])) check(member + ", " + how, shown[k], "a report");
+      if (how === "calls back" && !isAtWork(shown[k])) check(member + ", " + how, shown[k], kAtWork);
+    }
+  }
+  WScript.Echo(runs + " runs, " + reported + " reported");
+  check("members that a refresh calls", members.length > 80, true);
+  check("reports of spoilt members", reported > 80, true);
+})();
+CollectGarbage();
+boxes.FreeUnusedLibraries();
+check("the DLL is gone", boxes.IsLoaded("Plotsmith.dll"), false);
+
+// The component works on after all that.
+(function() {
+  var host = spoiltHost();
+  newController().RefreshPlotsmithData(host, "Add-in", "");
+  check("after all", boxes.Take(), "");
+  check("after all: the journal", host.Journal, plain);
 })();
 finish();

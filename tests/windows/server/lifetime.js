@@ -20,7 +20,7 @@ function unload(name) {
 check("at first", boxes.IsLoaded("Plotsmith.dll"), false);
 newController();
 check("with an object", boxes.IsLoaded("Plotsmith.dll"), true);
-unload("an object that nobody called");
+unload("an object that was not called");
 
 (function() {
   var host = open("countries.xlsx");
@@ -37,18 +37,28 @@ unload("after a refresh");
 })();
 unload("after a refresh of a table, which keeps its workbook");
 
-// Two Applications, one after the other: the workbook of each is refreshed.
+// Two Applications one after the other: each has its own workbook refreshed. What the component changes in the
+// Application itself, it changes in the first one.
+function linesOf(journal, ofApplication) {
+  var lines = journal.split("\n");
+  var chosen = [];
+  for (var i = 0; i < lines.length; ++i) {
+    if ((lines[i].indexOf("Application.") === 0) === ofApplication) chosen.push(lines[i]);
+  }
+  return chosen.join("\n");
+}
 (function() {
   var controller = newController();
   var first = open("countries.xlsx");
   controller.RefreshPlotsmithData(first, "Add-in", "");
-  var alone = open("electricity.xlsx");
-  newController().RefreshPlotsmithData(alone, "Add-in", "");
-  var journal = first.Journal;
+  var alone = first.Journal;
   var second = open("countries.xlsx");
   controller.RefreshPlotsmithData(second, "Other", "");
-  check("the second Application", second.Journal.replace(/Application[^\n]*\n/g, ""),
-      journal.replace(/Application[^\n]*\n/g, ""));
+  check("the second Application's workbook", linesOf(second.Journal, false), linesOf(alone, false));
+  var kAsked = "Application.Interactive = False\nApplication.Interactive = True";
+  check("the second Application", linesOf(second.Journal, true), kAsked);
+  var added = first.Journal.substr(alone.length);
+  check("the first Application", kAsked + "\n" + added, linesOf(alone, true) + "\n");
 })();
 unload("after two Applications");
 
@@ -94,22 +104,37 @@ unload("after a macro");
   boxes.WithStackOf(400, refresh);
   check("400 KB of stack", boxes.Take(), "");
 })();
+
+// The wizard nests a page in a page, as long as the stack lasts. Then it ends with a report.
+(function() {
+  var controller = newController();
+  var host = open("countries.xlsx");
+  boxes.PressEachPage("frmPSSelectAction cmdNew frmPSSelectTable cmdBack");
+  boxes.WithStackOf(400, function() { controller.RunPlotsmith(host, "Add-in", ""); });
+  var presses = boxes.StopPressing();
+  check("a long walk on 400 KB of stack", presses > 20 && presses < 490, true);
+  check("a long walk on 400 KB of stack: boxes", boxes.Take().replace(/ of [^:]*/, ""),
+      kProduct + "PSController.PSJumpToStep\\r\\nOut of stack space");
+  boxes.PlayScript("page frmPSSelectAction\npress cmdNew\npage frmPSSelectTable\npress cmdCancel\npage none\n");
+  controller.RunPlotsmith(host, "Add-in", "");
+  check("a short walk", boxes.FinishScript(), "\n");
+})();
 unload("after another thread");
 
-// A thousand runs.
+// A thousand runs, on a workbook with a chart of each of several families.
 (function() {
-  var host = open("countries.xlsx");
-  var chartless = open("data\\orders.xlsx");
+  var host = new ActiveXObject("PlotsmithTestHost.Application");
+  host.Open(WScript.Arguments(2));
   var controller = newController();
-  function handlesAfter(runs) {
-    for (var run = 0; run < runs; ++run) {
-      controller.RefreshPlotsmithData(run % 20 === 0 ? host : chartless, "Add-in", "");
-    }
+  function leftAfter(runs) {
+    for (var run = 0; run < runs; ++run) controller.RefreshPlotsmithData(host, "Add-in", "");
     CollectGarbage();
-    return boxes.Handles() + " handles, " + host.LiveObjects + " objects";
+    return boxes.Resources() + ", " + host.LiveObjects + " objects of Excel";
   }
-  var before = handlesAfter(3);
-  check("a thousand runs", handlesAfter(1000), before);
+  var before = leftAfter(3);
+  check("what is counted", /^([1-9]\d* [\w ]+(, |$)){4}$/.test(before), true);
+  check("a thousand runs", leftAfter(Number(WScript.Arguments(4))), before);
+  check("a thousand runs: boxes", boxes.Take(), "");
 })();
 unload("after a thousand runs");
 finish();
