@@ -12,6 +12,8 @@ timeout 600 wine "$windows/plotsmith_view_tests.exe" >"$work/tests.txt" 2>/dev/n
 passed=$((passed + $(grep -c '^\[       OK \]' "$work/tests.txt" || true)))
 grep -E '^\[  FAILED  \]|Failure|Which is' "$work/tests.txt" || true
 
+script_checks tests/windows/monkey.js "$(windows_path $orders)" "$(windows_path "$work")"
+
 # A chart of a type, from the first page to the last, with a look at each page before its button is pressed:
 # TYPE OPTION...
 same_run() {

@@ -51,6 +51,8 @@ class ControlView {
   void ForgetGestures();
   /// Shows texts in these fonts from now on; they must outlive the view.
   void UseFonts(Fonts& fonts);
+  /// The arrow keys don't come here from the control before.
+  void BeginGroup();
   /// Moves the focus here without reporting that as a gesture.
   void TakeFocus();
 
@@ -81,6 +83,12 @@ class ControlView {
   }
   /// Whether the text is bold beyond what the control's font says.
   virtual bool IsBold() const { return false; }
+  /// A hand is in the middle of a gesture that is reported when it is whole. The window shows what the
+  /// control says after that.
+  virtual bool IsInTheMiddle() const { return false; }
+  /// Tells screen readers what they say of the control.
+  virtual void ShowSpoken(const Spoken& spoken);
+  Annotations& Reader() const { return stage_.annotations; }
   /// Of the control for screen readers, beside its name and description.
   virtual LONG Role() const { return 0; }
 
@@ -104,18 +112,21 @@ class ControlView {
   /// Writes the text on the window, unless it is there already.
   void SetText(const std::string& text);
   HFONT Font() const { return font_; }
+  UINT Dpi() const { return dpi_; }
   /// A length that was designed for 96 dots in an inch.
   int Scaled(int length) const { return MulDiv(length, static_cast<int>(dpi_), USER_DEFAULT_SCREEN_DPI); }
 
  private:
-  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                    DWORD_PTR data);
+  /// Takes off the window what the view has put on it. The window is none of the view's then.
+  void LetGo();
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
   void ShowFont();
 
   forms::Control& model_;
   Stage stage_;
   HWND window_;
-  WNDPROC original_;
   Fonts* fonts_ = nullptr;
   HFONT font_ = nullptr;
   UINT dpi_ = USER_DEFAULT_SCREEN_DPI;

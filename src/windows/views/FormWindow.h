@@ -46,6 +46,12 @@ class FormWindow {
   void UpdateFocus();
 
   void UseDpi(UINT dpi);
+  /// The room inside of the window, the scroll bars included.
+  forms::Size Room() const;
+  /// The size of a window with this room inside, in a resolution.
+  SIZE SizeAround(const forms::Size& inside, UINT dpi) const;
+  /// The size that the window should have in another resolution, so that it shows as much of the page.
+  SIZE ScaledSize(UINT dpi);
   /// Gives the window the size that its layout needs, as far as the screen has it, in the middle of the
   /// owner.
   void FitScreen(HWND owner);

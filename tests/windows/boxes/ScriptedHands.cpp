@@ -125,14 +125,13 @@ BOOL CALLBACK FindForm(HWND window, LPARAM found) {
   return waits ? FALSE : TRUE;
 }
 
-/// The dialog of this thread that waits for a hand; null if none does.
+}  // namespace
+
 HWND WaitingForm() {
   HWND window = nullptr;
   EnumThreadWindows(GetCurrentThreadId(), FindForm, reinterpret_cast<LPARAM>(&window));
   return window != nullptr && windows::WindowName(window) != "frmBusyPS" ? window : nullptr;
 }
-
-}  // namespace
 
 ScriptedHands::ScriptedHands(const std::string& script)
     : text_(script),

@@ -9,6 +9,9 @@
 
 namespace plotsmith::test {
 
+/// The dialog of this thread that waits for a hand; null if none does.
+HWND WaitingForm();
+
 /// Plays a script of the wizard on the dialogs of this thread, by the messages of a mouse and a keyboard. It
 /// works from outside: it finds the dialogs on the screen, reads them, and makes the next gesture each time
 /// when a timer of this thread ticks and a dialog waits.
