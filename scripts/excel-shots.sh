@@ -18,6 +18,9 @@ DISPLAY=:$(cat "$work/display")
 export DISPLAY
 wineboot --init >/dev/null 2>&1
 wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
+# Smooth fonts, as Windows has them. Without, Wine's own measures of small texts are too small.
+wine reg add 'HKCU\Control Panel\Desktop' /v FontSmoothing /d 2 /f >/dev/null 2>&1
+wine reg add 'HKCU\Control Panel\Desktop' /v FontSmoothingType /t REG_DWORD /d 2 /f >/dev/null 2>&1
 
 mkdir -p "$folder"
 for scale in 1 2; do

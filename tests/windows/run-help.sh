@@ -30,8 +30,21 @@ open_topics "$help" $numbers
 sed -n 's/.*:navigate_url L"mk:@MSITStore:.*::\/\(.*\)"$/\1/p' "$work/trace" >"$work/pages"
 sed -n 's/^[0-9][0-9]*\t\([^\t]*\)\t.*/help\/\1/p' docs/help/topics.tsv >"$work/expected"
 same_file "pages by number" "$work/pages" "$work/expected"
+cp "$work/expected" "$work/expected-pages"
 echo "$numbers" | sed 's/$/: /' >"$work/expected"
 same_file "no boxes" "$work/said" "$work/expected"
+
+# Wine's code page has all letters of this folder, and none of the next.
+function_of() { sed -n 's/.*:\(HtmlHelp[AW]\) .*/\1/p' "$work/trace" | head -n 1; }
+[ "$(function_of)" = HtmlHelpA ] && passes || fails "it is $(function_of)" "the function for a path in the code page"
+other="$work/Справка"
+mkdir "$other"
+cp "$folder/Plotsmith.chm" "$other"
+open_topics "$(windows_path "$other/Plotsmith.chm")" 1
+sed -n 's/.*:navigate_url L"mk:@MSITStore:.*::\/\(.*\)"$/\1/p' "$work/trace" >"$work/pages"
+head -n 1 "$work/expected-pages" >"$work/expected"
+same_file "the page, of a path beyond the code page" "$work/pages" "$work/expected"
+[ "$(function_of)" = HtmlHelpW ] && passes || fails "it is $(function_of)" "the function for a path beyond the code page"
 
 open_topics "$help" 99
 printf '99: Brindle Plotsmith [OK]: HTML Help can'"'"'t show topic 99 of "%s".\n' "$help" >"$work/expected"

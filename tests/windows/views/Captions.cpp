@@ -100,7 +100,7 @@ bool IsEmpty(const Painting& painting, int from, int to) {
 
 bool IsWhole(HWND window, const std::string& kind) {
   const Painting own = Paint(window), wide = PaintWider(window);
-  const int edge = MulDiv(4, static_cast<int>(GetDpiForWindow(window)), USER_DEFAULT_SCREEN_DPI);
+  const int edge = MulDiv(8, static_cast<int>(GetDpiForWindow(window)), USER_DEFAULT_SCREEN_DPI);
   if (kind == "Frame") return AreSame(own, 0, own.width - edge, wide, 0);
   if (kind == "CommandButton") {
     return AreSame(own, edge, own.width - edge, wide, kMoreWidth / 2) &&
