@@ -32,9 +32,8 @@ std::optional<std::string> AnsiPath(const std::wstring& path) {
   ansi.resize(static_cast<std::size_t>(WideCharToMultiByte(CP_ACP, 0, path.data(), length, ansi.data(),
                                                            static_cast<int>(ansi.size()), nullptr, nullptr)));
   std::wstring again(path.size() * 2, L'\0');
-  again.resize(static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, ansi.data(),
-                                                            static_cast<int>(ansi.size()), again.data(),
-                                                            static_cast<int>(again.size()))));
+  again.resize(static_cast<std::size_t>(MultiByteToWideChar(
+      CP_ACP, 0, ansi.data(), static_cast<int>(ansi.size()), again.data(), static_cast<int>(again.size()))));
   return again == path ? std::optional(ansi) : std::nullopt;
 }
 

@@ -9,7 +9,7 @@ namespace plotsmith::windows {
 /// How many lines a box for texts takes.
 enum class Lines { kOne, kSeveral };
 
-/// What a hand can have typed of a text. Line breaks and characters that can't be typed become blanks; in
+/// The part of a text that can be typed. Line breaks and characters that can't be typed become blanks; in
 /// several lines, line breaks become CR LF and tabs stay.
 std::wstring Typeable(std::wstring text, Lines lines);
 

@@ -7,8 +7,8 @@
 
 namespace plotsmith::windows {
 
-/// A list that opens from a box. An entry is reported when it is decided on, not while the open list is
-/// walked through.
+/// A combo box. An entry is reported when the person decides on it, not while the cursor moves through the
+/// open list.
 class ComboBoxView final : public ControlView {
  public:
   ComboBoxView(forms::ComboBox& model, const Stage& stage);

@@ -7,7 +7,7 @@
 /// procedure of its own in front of ours later keeps it when ours is taken off.
 namespace plotsmith::windows {
 
-/// Gets the data that it was given with, last.
+/// A procedure for the messages of a window. `data` is what SetSubclass was given.
 using SubclassProcedure = LRESULT(CALLBACK*)(HWND, UINT, WPARAM, LPARAM, UINT_PTR id, DWORD_PTR data);
 
 /// Has the window's messages go to the procedure first, with this data.

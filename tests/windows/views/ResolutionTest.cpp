@@ -137,7 +137,7 @@ LRESULT CALLBACK WatchCreation(int code, WPARAM window, LPARAM data) {
   return CallNextHookEx(nullptr, code, window, data);
 }
 
-// Windows gives a window the resolution of the monitor on which it is created, whichever that of its owner
+// Windows gives a window the resolution of the monitor on which it is created, not that of its owner
 // is.
 TEST_F(ResolutionTest, AWindowIsCreatedInTheMiddleOfItsOwner) {
   const windows::ThreadDpi dpi;

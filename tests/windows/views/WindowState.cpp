@@ -218,11 +218,12 @@ std::string DifferencesFromModel(const forms::Form& form, HWND window) {
     if (std::string(control->TypeName()) != "Timer") names.push_back(control->FullName());
   }
   const bool isInOrder = std::ranges::equal(names, shown.controls, {}, {}, &ControlState::name);
-  return StateDifferences(forms::StateOf(form), shown, [&](ControlState& model, ControlState& seen) {
-           model.accessibleName.clear();  // a screen reader knows it, a window doesn't
-           if (model.kind == "ListBox") model.listIndex = seen.listIndex;
-           if (IsInTheMiddle(ControlWindow(window, model.name), model.kind)) model = seen;
-         }) +
+  return StateDifferences(forms::StateOf(form), shown,
+                          [&](ControlState& model, ControlState& seen) {
+                            model.accessibleName.clear();  // a screen reader knows it, a window doesn't
+                            if (model.kind == "ListBox") model.listIndex = seen.listIndex;
+                            if (IsInTheMiddle(ControlWindow(window, model.name), model.kind)) model = seen;
+                          }) +
          (isInOrder ? "" : "the tab order differs\n");
 }
 
