@@ -28,7 +28,7 @@ shoot_setup() {
   for _ in 1 2 3 4 5 6 7 8 9 10; do
     sleep 3
     import -window root "$work/screen.png"
-    convert "$work/screen.png" -trim +repage -colors 256 "$1"
+    convert "$work/screen.png" -trim +repage -colors 256 "$1" 2>/dev/null  # a warning as long as it is empty
     [ "$(identify -format %w "$1")" -lt 400 ] || break
   done
   wineserver -k
