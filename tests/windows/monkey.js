@@ -17,6 +17,6 @@
     boxes.FreeUnusedLibraries();
     check("seed " + seed + ": the component has gone", boxes.IsLoaded("Plotsmith.dll"), false);
   }
-  check("there were events", events > 200, true);
+  check("there were events", events > 30, true);
 })();
 finish();

@@ -8,7 +8,7 @@ orders=examples/data/orders.xlsx
 new_prefix
 register "$windows/Plotsmith.dll" "$windows/PlotsmithTestHost.dll" "$windows/PlotsmithTestBoxes.dll"
 
-timeout 1200 wine "$windows/plotsmith_view_tests.exe" >"$work/tests.txt" 2>/dev/null || fails "exit code $?" "the dialogs"
+timeout 1800 wine "$windows/plotsmith_view_tests.exe" >"$work/tests.txt" 2>/dev/null || fails "exit code $?" "the dialogs"
 passed=$((passed + $(grep -c '^\[       OK \]' "$work/tests.txt" || true)))
 grep -E '^\[  FAILED  \]|Failure|Which is' "$work/tests.txt" || true
 
