@@ -1,7 +1,7 @@
 #!/bin/sh
-# Takes the pictures of the dialogs inside of Excel anew, under Wine, at 100 and at 200 %.
+# Takes the pictures of the installer and of the dialogs inside of Excel anew, under Wine, at 100 and at 200 %.
 # Usage: scripts/excel-shots.sh [FOLDER]; FOLDER is docs/images/excel unless it is given. The target plotsmith_view_tests
-# of build-windows-x64 must have been built.
+# of build-windows-x64 must have been built, and the installer by scripts/installer.sh.
 set -eu
 cd "$(dirname "$0")/.."
 folder=${1:-docs/images/excel}
@@ -18,6 +18,22 @@ DISPLAY=:$(cat "$work/display")
 export DISPLAY
 wineboot --init >/dev/null 2>&1
 wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
+# Smooth fonts, as Windows has them. Without, Wine's own measures of small texts are too small.
+wine reg add 'HKCU\Control Panel\Desktop' /v FontSmoothing /d 2 /f >/dev/null 2>&1
+wine reg add 'HKCU\Control Panel\Desktop' /v FontSmoothingType /t REG_DWORD /d 2 /f >/dev/null 2>&1
+
+# The first page of the installer, which is alone on the screen: FILE.
+shoot_setup() {
+  wine build/PlotsmithSetup.exe >/dev/null 2>&1 &
+  for _ in 1 2 3 4 5 6 7 8 9 10; do
+    sleep 3
+    import -window root "$work/screen.png"
+    convert "$work/screen.png" -trim +repage -colors 256 "$1" 2>/dev/null  # a warning as long as it is empty
+    [ "$(identify -format %w "$1")" -lt 400 ] || break
+  done
+  wineserver -k
+  wineserver -w
+}
 
 mkdir -p "$folder"
 for scale in 1 2; do
@@ -31,4 +47,5 @@ for scale in 1 2; do
     convert "$shot" -alpha off -colors 256 -define png:compression-level=9 "$folder/$(basename "$shot" .bmp)$suffix.png"
     rm "$shot"
   done
+  shoot_setup "$folder/setup$suffix.png"
 done

@@ -44,7 +44,7 @@ x86_64-w64-mingw32-strip -o "$files/plotsmith.exe" build-windows-x64/plotsmith.e
 scripts/help-chm.sh "$files/Plotsmith.chm"
 scripts/html-pages.py "$files" excel.md file-formats.md
 copy_texts "$files/example" examples/excel/*
-cp examples/*.xlsx "$files/example"
+cp examples/*.xlsx examples/data/orders.xlsx "$files/example"
 terms >"$stage/terms.txt"
 copy_texts "$files" "$stage/terms.txt"
 packaging/windows/make-setup.sh "$files" build/PlotsmithSetup.exe

@@ -8,11 +8,14 @@ orders=examples/data/orders.xlsx
 new_prefix
 register "$windows/Plotsmith.dll" "$windows/PlotsmithTestHost.dll" "$windows/PlotsmithTestBoxes.dll"
 
-timeout 600 wine "$windows/plotsmith_view_tests.exe" >"$work/tests.txt" 2>/dev/null || fails "exit code $?" "the dialogs"
+timeout 1800 wine "$windows/plotsmith_view_tests.exe" >"$work/tests.txt" 2>/dev/null || fails "exit code $?" "the dialogs"
 passed=$((passed + $(grep -c '^\[       OK \]' "$work/tests.txt" || true)))
 grep -E '^\[  FAILED  \]|Failure|Which is' "$work/tests.txt" || true
 
-# Prints a script that makes a chart of a type, and shows each page before its button is pressed: TYPE OPTION...
+script_checks tests/windows/monkey.js "$(windows_path $orders)" "$(windows_path "$work")"
+
+# A chart of a type, from the first page to the last, with a look at each page before its button is pressed:
+# TYPE OPTION...
 same_run() {
   type=$1
   build/plotsmith new $orders --table Data1 --type "$@" --print-script | sed 's/^press /show\n&/' >"$work/script.txt"

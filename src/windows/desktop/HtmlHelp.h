@@ -1,16 +1,19 @@
 #pragma once
 
+#include <cstdint>
+#include <string>
+
 #include "windows/com/Windows.h"
 
+/// @file
+/// HTML Help, which is loaded at the first call and stays in the process, as its windows outlast a run.
 namespace plotsmith::windows {
 
-/// HtmlHelpW: owner, file, command, data. It answers the window of the help, null if it can't show it.
-using HtmlHelpFunction = HWND(WINAPI*)(HWND, const wchar_t*, UINT, DWORD_PTR);
-/// The command HH_HELP_CONTEXT: the data is the number of a topic.
-inline constexpr UINT kHelpContext = 0x000F;
+/// Whether HTML Help is installed.
+bool HasHtmlHelp();
 
-/// HTML Help, which is loaded at the first call and stays in the process, as its windows outlast a run. Null
-/// where it isn't installed.
-HtmlHelpFunction FindHtmlHelp();
+/// Shows a topic of a help file by its number; false if HTML Help can't. `owner` may be null. HtmlHelpA is
+/// called for a path whose characters the system's code page has, and HtmlHelpW for others.
+bool ShowHelpTopic(HWND owner, const std::wstring& file, std::int32_t topic);
 
 }  // namespace plotsmith::windows

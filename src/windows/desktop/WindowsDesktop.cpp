@@ -19,10 +19,8 @@ std::string HelpFailure(std::intptr_t owner, const std::string& file, std::int32
   if (GetFileAttributesW(com::Wide(file).c_str()) == INVALID_FILE_ATTRIBUTES) {
     return "The help file \"" + file + "\" isn't there.";
   }
-  const HtmlHelpFunction htmlHelp = FindHtmlHelp();
-  if (htmlHelp == nullptr) return "HTML Help (hhctrl.ocx) isn't installed on this computer.";
-  if (htmlHelp(WindowOf(owner), com::Wide(file).c_str(), kHelpContext, static_cast<DWORD_PTR>(topic)) ==
-      nullptr) {
+  if (!HasHtmlHelp()) return "HTML Help (hhctrl.ocx) isn't installed on this computer.";
+  if (!ShowHelpTopic(WindowOf(owner), com::Wide(file), topic)) {
     return "HTML Help can't show topic " + std::to_string(topic) + " of \"" + file + "\".";
   }
   return "";

@@ -7,22 +7,36 @@ extern "C" IMAGE_DOS_HEADER __ImageBase;  // the linker's name for where the mod
 namespace plotsmith::windows {
 namespace {
 
-HANDLE MakeContext() {
-  ACTCTXW wanted = {};
-  wanted.cbSize = sizeof wanted;
-  wanted.dwFlags = ACTCTX_FLAG_HMODULE_VALID | ACTCTX_FLAG_RESOURCE_NAME_VALID;
-  wanted.hModule = OwnModule();
-  wanted.lpResourceName = MAKEINTRESOURCEW(2);
-  return CreateActCtxW(&wanted);
-}
+/// The context, which goes with the module.
+class Context {
+ public:
+  Context() {
+    ACTCTXW wanted = {};
+    wanted.cbSize = sizeof wanted;
+    wanted.dwFlags = ACTCTX_FLAG_HMODULE_VALID | ACTCTX_FLAG_RESOURCE_NAME_VALID;
+    wanted.hModule = OwnModule();
+    wanted.lpResourceName = MAKEINTRESOURCEW(2);
+    handle_ = CreateActCtxW(&wanted);
+  }
+  ~Context() {
+    if (handle_ != INVALID_HANDLE_VALUE) ReleaseActCtx(handle_);
+  }
+  Context(const Context&) = delete;
+  Context& operator=(const Context&) = delete;
+
+  bool Activate(ULONG_PTR& cookie) const {
+    return handle_ != INVALID_HANDLE_VALUE && ActivateActCtx(handle_, &cookie) != FALSE;
+  }
+
+ private:
+  HANDLE handle_;
+};
 
 /// The version of the library that the active context names registers its classes of windows.
 void RegisterControls() {
   using Function = BOOL(WINAPI*)(const INITCOMMONCONTROLSEX*);
-  const HMODULE library = LoadLibraryExW(L"comctl32.dll", nullptr, 0);
-  if (library == nullptr) return;
-  const auto function =
-      reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, "InitCommonControlsEx")));
+  const auto function = reinterpret_cast<Function>(
+      reinterpret_cast<void*>(GetProcAddress(CommonControls(), "InitCommonControlsEx")));
   const INITCOMMONCONTROLSEX classes = {sizeof classes,
                                         ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_PROGRESS_CLASS};
   if (function != nullptr) function(&classes);
@@ -33,14 +47,21 @@ void RegisterControls() {
 HINSTANCE OwnModule() { return reinterpret_cast<HINSTANCE>(&__ImageBase); }
 
 ActivationContext::ActivationContext() {
-  static const HANDLE context = MakeContext();
-  isActive_ = context != INVALID_HANDLE_VALUE && ActivateActCtx(context, &cookie_);
+  static const Context context;
+  isActive_ = context.Activate(cookie_);
   static const bool isRegistered = (RegisterControls(), true);
   static_cast<void>(isRegistered);
 }
 
 ActivationContext::~ActivationContext() {
   if (isActive_) DeactivateActCtx(0, cookie_);
+}
+
+// The host may use another version of the library at the same time. Ours stays in the process, as a library
+// must not free another one while it is unloaded itself.
+HMODULE CommonControls() {
+  static const HMODULE library = LoadLibraryExW(L"comctl32.dll", nullptr, 0);
+  return library;
 }
 
 }  // namespace plotsmith::windows

@@ -5,7 +5,7 @@
 namespace plotsmith::windows {
 
 /// Chooses version 6 of the common controls, with visual styles, for the windows that are created while this
-/// lives, whatever the program around the component uses. A manifest in the module, resource 2, names that
+/// lives, in programs of any other version as well. A manifest in the module, resource 2, names that
 /// version. Without it, windows are those of the program.
 class ActivationContext {
  public:
@@ -18,6 +18,9 @@ class ActivationContext {
   ULONG_PTR cookie_ = 0;
   bool isActive_ = false;
 };
+
+/// The library of the common controls, in the version that the first ActivationContext has chosen.
+HMODULE CommonControls();
 
 /// The module that this code is in: the DLL, or a program that it was linked into.
 HINSTANCE OwnModule();

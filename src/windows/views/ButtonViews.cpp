@@ -45,6 +45,9 @@ std::optional<LRESULT> CommandButtonView::OnMessage(UINT message, WPARAM, LPARAM
   switch (message) {
     case WM_GETDLGCODE:
       return DLGC_BUTTON;  // the model alone says which button is the default one
+    case BM_CLICK:         // by a program or a screen reader, which has no mouse: each is a press of its own
+      OnCommand(BN_CLICKED);
+      return 0;
     case WM_LBUTTONDBLCLK:
       IsSecondPress(lParam);
       return 0;

@@ -6,6 +6,7 @@
 #include "windows/views/ActivationContext.h"
 #include "windows/views/ControlNames.h"
 #include "windows/views/Flag.h"
+#include "windows/views/Subclasses.h"
 
 namespace plotsmith::windows {
 namespace {
@@ -21,33 +22,38 @@ ControlView::ControlView(forms::Control& model, const Stage& stage, const Window
   window_ = CreateWindowExW(kind.extendedStyle, kind.className, L"", kind.style | WS_CHILD, 0, 0, 0, 0,
                             stage.window, nullptr, OwnModule(), nullptr);
   SetWindowName(window_, model.FullName());
-  SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  original_ = reinterpret_cast<WNDPROC>(
-      SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
+  SetSubclass(window_, Procedure, this);
 }
 
 // The window goes with that of its form, if it hasn't gone already.
 ControlView::~ControlView() {
-  if (window_ == nullptr) return;
-  stage_.annotations.Clear(window_);
-  RemoveWindowName(window_);
-  SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original_));
-  SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+  if (window_ != nullptr) LetGo();
+}
+
+void ControlView::LetGo() {
+  const HWND window = std::exchange(window_, nullptr);
+  stage_.annotations.Clear(window);
+  RemoveWindowName(window);
+  ForgetSubclassData(window, Procedure);
 }
 
 ControlView* ControlView::Of(HWND window) {
-  const bool isOurs =
-      window != nullptr && reinterpret_cast<WNDPROC>(GetWindowLongPtrW(window, GWLP_WNDPROC)) == Procedure;
-  return isOurs ? reinterpret_cast<ControlView*>(GetWindowLongPtrW(window, GWLP_USERDATA)) : nullptr;
+  return static_cast<ControlView*>(SubclassData(window, Procedure));
 }
 
 // No exception may pass through a window procedure. What can be thrown here is that memory has run out; the
 // message is then lost.
-LRESULT CALLBACK ControlView::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  auto* const view = reinterpret_cast<ControlView*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  if (view == nullptr) return DefWindowProcW(window, message, wParam, lParam);
+LRESULT CALLBACK ControlView::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                        DWORD_PTR data) {
+  auto* const view = reinterpret_cast<ControlView*>(data);
   try {
-    return view->Handle(message, wParam, lParam);
+    if (message == WM_NCDESTROY) {
+      if (view != nullptr) view->LetGo();  // the host has closed
+      RemoveSubclass(window, Procedure);
+    } else if (view != nullptr) {
+      return view->Handle(message, wParam, lParam);
+    }
+    return CallNextProcedure(window, message, wParam, lParam);
   } catch (...) {
     return 0;
   }
@@ -60,19 +66,13 @@ LRESULT ControlView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     return 0;
   }
   if (const auto answer = OnMessage(message, wParam, lParam)) return *answer;
-  const WNDPROC original = original_;
   const HWND window = window_;
   if (message == WM_SETFOCUS) {
     ReportFocus();
     const Flag flag(isTakingFocus_);
-    return CallWindowProcW(original, window, message, wParam, lParam);
+    return CallNextProcedure(window, message, wParam, lParam);
   }
-  if (message == WM_DESTROY) {  // the host has closed
-    RemoveWindowName(window);
-    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
-    window_ = nullptr;
-  }
-  return CallWindowProcW(original, window, message, wParam, lParam);
+  return CallNextProcedure(window, message, wParam, lParam);
 }
 
 void ControlView::Report(std::function<void()> gesture) {
@@ -100,6 +100,10 @@ void ControlView::ForgetGestures() {
   touched_ = true;
 }
 
+void ControlView::BeginGroup() {
+  SetWindowLongPtrW(window_, GWL_STYLE, GetWindowLongPtrW(window_, GWL_STYLE) | WS_GROUP);
+}
+
 void ControlView::TakeFocus() {
   const Flag flag(movesFocus_);
   SetFocus(window_);
@@ -109,12 +113,17 @@ void ControlView::UseFonts(Fonts& fonts) {
   fonts_ = &fonts;
   dpi_ = fonts.Dpi();
   touched_ = true;
+  if (window_ == nullptr) return;
+  {
+    const Flag flag(isShowing_);
+    ShowFont();  // at once: the fonts before may be deleted, and Update waits while a gesture does
+  }
   Update();
 }
 
 void ControlView::Update() {
   if (window_ == nullptr) return;
-  if (waiting_ > 0 || awaitsNews_) return;  // the window is ahead of the control
+  if (waiting_ > 0 || awaitsNews_ || IsInTheMiddle()) return;  // the window is ahead of the control
   if (model_.Changes() == shown_ && !std::exchange(touched_, false)) return;
   touched_ = false;
   shown_ = model_.Changes();
@@ -125,8 +134,10 @@ void ControlView::Update() {
   ShowFont();
   Show();
   Spoken spoken{model_.AccessibleName(), model_.AccessibleDescription(), Role()};
-  if (spoken_ != spoken) stage_.annotations.Set(window_, spoken_.emplace(std::move(spoken)));
+  if (spoken_ != spoken) ShowSpoken(spoken_.emplace(std::move(spoken)));
 }
+
+void ControlView::ShowSpoken(const Spoken& spoken) { stage_.annotations.Set(window_, spoken); }
 
 void ControlView::ShowFont() {
   if (fonts_ == nullptr || dynamic_cast<forms::FontControl*>(&model_) == nullptr) return;

@@ -11,9 +11,9 @@
 #include "windows/views/Annotations.h"
 #include "windows/views/Fonts.h"
 
-/// Windows for forms, of the controls that Windows has. A view shows the state of the model and reports what
-/// hands do. It decides nothing: the model refuses a gesture or performs it, and the view then shows what
-/// came of it.
+/// Windows for forms, made of the controls that Windows has. A view shows the state of the model and reports
+/// gestures of the mouse and the keyboard. It decides nothing: the model refuses a gesture or performs it,
+/// and the view then shows the new state.
 namespace plotsmith::windows {
 
 /// Takes a gesture down. It is performed later, outside of all window procedures.
@@ -47,10 +47,12 @@ class ControlView {
 
   /// Shows the state of the control, if it has changed since the last time or a hand has touched the window.
   void Update();
-  /// Gestures that were reported and not performed by now never will be.
+  /// Forgets gestures that were reported and not performed yet: they never will be.
   void ForgetGestures();
   /// Shows texts in these fonts from now on; they must outlive the view.
   void UseFonts(Fonts& fonts);
+  /// Begins a group with this control: the arrow keys don't come here from the control before.
+  void BeginGroup();
   /// Moves the focus here without reporting that as a gesture.
   void TakeFocus();
 
@@ -81,7 +83,13 @@ class ControlView {
   }
   /// Whether the text is bold beyond what the control's font says.
   virtual bool IsBold() const { return false; }
-  /// Of the control for screen readers, beside its name and description.
+  /// Whether a person is in the middle of a gesture, which is reported when it is complete. Until then the
+  /// window isn't updated.
+  virtual bool IsInTheMiddle() const { return false; }
+  /// Tells screen readers what they say of the control.
+  virtual void ShowSpoken(const Spoken& spoken);
+  Annotations& Reader() const { return stage_.annotations; }
+  /// The role of the control for screen readers, one of MSAA's ROLE_SYSTEM_; 0 leaves the window's own.
   virtual LONG Role() const { return 0; }
 
   /// Reports a gesture, unless the view itself is showing something.
@@ -104,18 +112,21 @@ class ControlView {
   /// Writes the text on the window, unless it is there already.
   void SetText(const std::string& text);
   HFONT Font() const { return font_; }
+  UINT Dpi() const { return dpi_; }
   /// A length that was designed for 96 dots in an inch.
   int Scaled(int length) const { return MulDiv(length, static_cast<int>(dpi_), USER_DEFAULT_SCREEN_DPI); }
 
  private:
-  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                    DWORD_PTR data);
+  /// Removes from the window what the view has put on it, and forgets the window.
+  void LetGo();
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
   void ShowFont();
 
   forms::Control& model_;
   Stage stage_;
   HWND window_;
-  WNDPROC original_;
   Fonts* fonts_ = nullptr;
   HFONT font_ = nullptr;
   UINT dpi_ = USER_DEFAULT_SCREEN_DPI;

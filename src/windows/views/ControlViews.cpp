@@ -31,6 +31,17 @@ constexpr Maker kMakers[] = {
     MakeIf<FrameView, forms::Frame>,       MakeIf<LabelView, forms::Label>,
     MakeIf<ImageView, forms::Image>,       MakeIf<ProgressBarView, forms::ProgressBar>};
 
+template <class Kind>
+bool AreBoth(const forms::Control& left, const forms::Control& right) {
+  return dynamic_cast<const Kind*>(&left) != nullptr && dynamic_cast<const Kind*>(&right) != nullptr;
+}
+
+/// Whether the arrow keys go from a control to the one behind it, as among options and among buttons.
+bool AreInOneGroup(const forms::Control& before, const forms::Control& control) {
+  return before.Container() == control.Container() &&
+         (AreBoth<forms::OptionButton>(before, control) || AreBoth<forms::CommandButton>(before, control));
+}
+
 }  // namespace
 
 std::unique_ptr<ControlView> MakeControlView(forms::Control& control, const Stage& stage,
@@ -46,7 +57,10 @@ std::unique_ptr<ControlView> MakeControlView(forms::Control& control, const Stag
 
 ControlViews::ControlViews(forms::Form& form, const Stage& stage, forms::SecondPress& presses) {
   for (forms::Control* control : form.Controls()) {
-    if (auto view = MakeControlView(*control, stage, presses)) views_.push_back(std::move(view));
+    auto view = MakeControlView(*control, stage, presses);
+    if (view == nullptr) continue;
+    if (views_.empty() || !AreInOneGroup(views_.back()->Model(), *control)) view->BeginGroup();
+    views_.push_back(std::move(view));
   }
 }
 

@@ -8,24 +8,63 @@
 namespace plotsmith::windows {
 namespace {
 
-std::wstring ClipboardText(HWND owner) {
-  std::wstring text;
-  if (!IsClipboardFormatAvailable(CF_UNICODETEXT) || !OpenClipboard(owner)) return text;
-  if (const HANDLE data = GetClipboardData(CF_UNICODETEXT)) {
-    if (const auto* units = static_cast<const wchar_t*>(GlobalLock(data))) {
-      const std::size_t most = GlobalSize(data) / sizeof(wchar_t);
-      text.assign(units, std::find(units, units + most, L'\0'));
-      GlobalUnlock(data);
-    }
+/// The clipboard, open for as long as this lives, so that no other program finds it locked after an error.
+class Clipboard {
+ public:
+  explicit Clipboard(HWND owner) : isOpen_(OpenClipboard(owner) != FALSE) {}
+  ~Clipboard() {
+    if (isOpen_) CloseClipboard();
   }
-  CloseClipboard();
-  return text;
+  Clipboard(const Clipboard&) = delete;
+  Clipboard& operator=(const Clipboard&) = delete;
+  bool IsOpen() const { return isOpen_; }
+
+ private:
+  bool isOpen_;
+};
+
+/// A block of memory, locked for as long as this lives.
+class LockedText {
+ public:
+  explicit LockedText(HANDLE block)
+      : block_(block), units_(block == nullptr ? nullptr : static_cast<const wchar_t*>(GlobalLock(block))) {}
+  ~LockedText() {
+    if (units_ != nullptr) GlobalUnlock(block_);
+  }
+  LockedText(const LockedText&) = delete;
+  LockedText& operator=(const LockedText&) = delete;
+  /// The units before the first zero.
+  std::wstring Text() const {
+    if (units_ == nullptr) return {};
+    return {units_, std::find(units_, units_ + GlobalSize(block_) / sizeof(wchar_t), L'\0')};
+  }
+
+ private:
+  HANDLE block_;
+  const wchar_t* units_;
+};
+
+std::wstring ClipboardText(HWND owner) {
+  if (!IsClipboardFormatAvailable(CF_UNICODETEXT)) return {};
+  const Clipboard clipboard(owner);
+  return clipboard.IsOpen() ? LockedText(GetClipboardData(CF_UNICODETEXT)).Text() : std::wstring();
+}
+
+/// Where the selection begins and ends, in units; both are the place of the cursor where nothing is selected.
+struct Selection {
+  DWORD from = 0, to = 0;
+};
+
+Selection SelectionOf(HWND edit) {
+  Selection selection;
+  SendMessageW(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&selection.from),
+               reinterpret_cast<LPARAM>(&selection.to));
+  return selection;
 }
 
 /// How many more units fit when the selection is gone.
 std::size_t RoomIn(HWND edit) {
-  DWORD from = 0, to = 0;
-  SendMessageW(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&from), reinterpret_cast<LPARAM>(&to));
+  const auto [from, to] = SelectionOf(edit);
   const auto most = static_cast<std::size_t>(SendMessageW(edit, EM_GETLIMITTEXT, 0, 0));
   const auto kept = static_cast<std::size_t>(GetWindowTextLengthW(edit)) - (to - from);
   return most > kept ? most - kept : 0;
@@ -71,12 +110,31 @@ void PasteText(HWND edit, Lines lines) {
 
 }  // namespace
 
+bool HasHalfCharacter(HWND edit) {
+  const DWORD cursor = SelectionOf(edit).from;
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(edit)) + 1, L'\0');
+  text.resize(static_cast<std::size_t>(GetWindowTextW(edit, text.data(), static_cast<int>(text.size()))));
+  if (cursor == 0 || cursor > text.size() || !IS_HIGH_SURROGATE(text[cursor - 1])) return false;
+  return cursor == text.size() || !IS_LOW_SURROGATE(text[cursor]);
+}
+
 bool HandleEditMessage(HWND edit, Lines lines, UINT message, WPARAM wParam) {
+  if (message == WM_PASTE) {
+    PasteText(edit, lines);
+    return true;
+  }
+  if (message != WM_CHAR) return false;
   constexpr WPARAM kControlA = 1;  // as WM_CHAR has it
-  const bool selectsAll = message == WM_CHAR && wParam == kControlA;
-  if (selectsAll) SendMessageW(edit, EM_SETSEL, 0, -1);
-  if (message == WM_PASTE) PasteText(edit, lines);
-  return selectsAll || message == WM_PASTE;
+  const auto unit = static_cast<wchar_t>(wParam);
+  if (wParam == kControlA) {
+    SendMessageW(edit, EM_SETSEL, 0, -1);
+    return true;
+  }
+  // Half of a character has no meaning: there is room for both units, or for none.
+  const bool isHalfTooMuch =
+      (IS_HIGH_SURROGATE(unit) && RoomIn(edit) < 2) || (IS_LOW_SURROGATE(unit) && !HasHalfCharacter(edit));
+  if (isHalfTooMuch) MessageBeep(MB_OK);
+  return isHalfTooMuch;
 }
 
 }  // namespace plotsmith::windows

@@ -46,7 +46,6 @@ HFONT Fonts::Find(const forms::Font& font) {
   wanted.lfHeight = -static_cast<LONG>(std::lround(font.Size * dpi_ / kPointsPerInch));
   wanted.lfWeight = font.Bold ? FW_BOLD : FW_NORMAL;
   wanted.lfCharSet = static_cast<BYTE>(font.Charset);
-  wanted.lfQuality = CLEARTYPE_QUALITY;
   const std::wstring name = font.Name.empty() ? SystemTypeface(dpi_) : com::Wide(font.Name);
   name.copy(wanted.lfFaceName, LF_FACESIZE - 1);
   found.reset(CreateFontIndirectW(&wanted));

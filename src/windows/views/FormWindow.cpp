@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "common/App.h"
 #include "forms/Keys.h"
 #include "windows/com/Texts.h"
 #include "windows/views/ActivationContext.h"
@@ -18,7 +19,7 @@ namespace plotsmith::windows {
 namespace {
 
 constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME;
-constexpr DWORD kExtendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
+constexpr DWORD kPlainExtendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
 constexpr int kMargin = 11, kLine = 24;  // at 96 dots in an inch
 
 int Width(const RECT& area) { return static_cast<int>(area.right - area.left); }
@@ -30,12 +31,34 @@ RECT WindowArea(HWND window) {
   return area;
 }
 
-/// The area of the screen around a window that other programs leave free.
+/// The area of the window's monitor that other programs leave free; of the first monitor for null.
 RECT WorkArea(HWND window) {
   MONITORINFO monitor = {};
   monitor.cbSize = sizeof monitor;
-  GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+  GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
   return monitor.rcWork;
+}
+
+/// The area in whose middle a window appears: the owner's, or the screen where that isn't to be seen.
+RECT AreaAround(HWND owner) {
+  const bool isSeen = owner != nullptr && IsWindowVisible(owner) && !IsIconic(owner);
+  return isSeen ? WindowArea(owner) : WorkArea(owner);
+}
+
+/// Whether the language of the user's locale is read from right to left.
+bool IsRightToLeft() {
+  if (!App.Desktop) return false;
+  constexpr DWORD kFromRightToLeft = 1;
+  DWORD layout = 0;
+  GetLocaleInfoW(static_cast<LCID>(App.Desktop->UserDefaultLCID()),
+                 LOCALE_IREADINGLAYOUT | LOCALE_RETURN_NUMBER, reinterpret_cast<wchar_t*>(&layout),
+                 sizeof layout / sizeof(wchar_t));
+  return layout == kFromRightToLeft;
+}
+
+/// The extended style of a form's window. What is inside of a mirrored window is mirrored, too.
+DWORD ExtendedStyle() {
+  return IsRightToLeft() ? kPlainExtendedStyle | WS_EX_LAYOUTRTL : kPlainExtendedStyle;
 }
 
 /// How far a scroll bar is from its start.
@@ -51,9 +74,11 @@ int ScrollPlace(HWND window, int bar) {
 FormWindow::FormWindow(forms::Form& form, HWND owner, Post post, forms::SecondPress& presses)
     : form_(form), post_(std::move(post)) {
   const ActivationContext context;
-  window_ =
-      CreateWindowExW(kExtendedStyle, ClassName(), com::Wide(form.Caption()).c_str(), kStyle, CW_USEDEFAULT,
-                      CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner, nullptr, OwnModule(), this);
+  // The window gets the resolution of the monitor on which it is created.
+  const RECT around = AreaAround(owner);
+  window_ = CreateWindowExW(ExtendedStyle(), ClassName(), com::Wide(form.Caption()).c_str(), kStyle,
+                            around.left + Width(around) / 2, around.top + Height(around) / 2, 0, 0, owner,
+                            nullptr, OwnModule(), this);
   SetWindowName(window_, form.Name());
   views_ = std::make_unique<ControlViews>(form, Stage{window_, post_, annotations_}, presses);
   UseDpi(GetDpiForWindow(window_));
@@ -264,6 +289,9 @@ std::optional<LRESULT> FormWindow::HandlePlace(UINT message, WPARAM wParam, LPAR
       Arrange();
       return 0;
     }
+    case WM_GETDPISCALEDSIZE:
+      *reinterpret_cast<SIZE*>(lParam) = ScaledSize(static_cast<UINT>(wParam));
+      return TRUE;
     case WM_VSCROLL:
     case WM_HSCROLL:
       ScrollTo(message == WM_VSCROLL ? SB_VERT : SB_HORZ, LOWORD(wParam));
@@ -285,14 +313,31 @@ void FormWindow::UseDpi(UINT dpi) {
   least_ = {inside.width + margins, inside.height + margins};
 }
 
+SIZE FormWindow::SizeAround(const forms::Size& inside, UINT dpi) const {
+  RECT outside = {0, 0, inside.width, inside.height};
+  AdjustWindowRectExForDpi(&outside, kStyle, FALSE, kPlainExtendedStyle, dpi);
+  return {Width(outside), Height(outside)};
+}
+
+// The texts don't grow exactly as the resolution does, so the least size of the page is measured anew.
+SIZE FormWindow::ScaledSize(UINT dpi) {
+  const UINT before = fonts_->Dpi();
+  const forms::Size room = Room();
+  const auto grown = [&](int length) {
+    return MulDiv(length, static_cast<int>(dpi), static_cast<int>(before));
+  };
+  const bool isWhole = room.width >= least_.width && room.height >= least_.height;
+  forms::Size inside = {grown(room.width), grown(room.height)};
+  UseDpi(dpi);
+  if (isWhole) inside = {std::max(inside.width, least_.width), std::max(inside.height, least_.height)};
+  UseDpi(before);
+  return SizeAround(inside, dpi);
+}
+
 void FormWindow::FitScreen(HWND owner) {
-  RECT outside = {0, 0, least_.width, least_.height};
-  AdjustWindowRectExForDpi(&outside, kStyle & ~static_cast<DWORD>(WS_VSCROLL | WS_HSCROLL), FALSE,
-                           kExtendedStyle, fonts_->Dpi());
-  const RECT work = WorkArea(owner == nullptr ? window_ : owner);
-  const RECT middle =
-      owner == nullptr || !IsWindowVisible(owner) || IsIconic(owner) ? work : WindowArea(owner);
-  const int width = std::min(Width(outside), Width(work)), height = std::min(Height(outside), Height(work));
+  const SIZE outside = SizeAround(least_, fonts_->Dpi());
+  const RECT work = WorkArea(owner), middle = AreaAround(owner);
+  const int width = std::min<int>(outside.cx, Width(work)), height = std::min<int>(outside.cy, Height(work));
   const int left = static_cast<int>(middle.left) + (Width(middle) - width) / 2;
   const int top = static_cast<int>(middle.top) + (Height(middle) - height) / 2;
   SetWindowPos(window_, nullptr, std::clamp<int>(left, work.left, work.right - width),
@@ -301,17 +346,22 @@ void FormWindow::FitScreen(HWND owner) {
   Arrange();
 }
 
+forms::Size FormWindow::Room() const {
+  const LONG_PTR style = GetWindowLongPtrW(window_, GWL_STYLE);
+  RECT client = {};
+  GetClientRect(window_, &client);
+  if ((style & WS_VSCROLL) != 0) client.right += GetSystemMetricsForDpi(SM_CXVSCROLL, fonts_->Dpi());
+  if ((style & WS_HSCROLL) != 0) client.bottom += GetSystemMetricsForDpi(SM_CYHSCROLL, fonts_->Dpi());
+  return {static_cast<int>(client.right), static_cast<int>(client.bottom)};
+}
+
 // A bar takes some of the room, so that the other one may be needed as well.
 void FormWindow::Arrange() {
   const Flag flag(isArranging_);
   const int dpi = static_cast<int>(fonts_->Dpi());
   const int barWidth = GetSystemMetricsForDpi(SM_CXVSCROLL, fonts_->Dpi());
   const int barHeight = GetSystemMetricsForDpi(SM_CYHSCROLL, fonts_->Dpi());
-  const LONG_PTR style = GetWindowLongPtrW(window_, GWL_STYLE);
-  RECT client = {};
-  GetClientRect(window_, &client);
-  forms::Size room = {static_cast<int>(client.right) + ((style & WS_VSCROLL) != 0 ? barWidth : 0),
-                      static_cast<int>(client.bottom) + ((style & WS_HSCROLL) != 0 ? barHeight : 0)};
+  forms::Size room = Room();
   const bool isTooWide = room.width < least_.width, isTooHigh = room.height < least_.height;
   if (isTooHigh || (isTooWide && room.height - barHeight < least_.height)) room.width -= barWidth;
   if (isTooWide || room.width < least_.width) room.height -= barHeight;

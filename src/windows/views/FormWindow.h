@@ -11,7 +11,7 @@
 
 namespace plotsmith::windows {
 
-/// The window of a form. No hand reaches the other windows of the thread while it is there.
+/// The window of a form. The other windows of the thread are disabled while it is on the screen.
 class FormWindow {
  public:
   /// `owner` is the window that this one stays in front of; null if there is none. `presses` outlives it.
@@ -26,9 +26,10 @@ class FormWindow {
   void ShowOnScreen();
   /// Shows the state of the form, where it has changed.
   void Update();
-  /// The window is in front again. Gestures on it were dropped while it wasn't.
+  /// Makes the window the active one again after the form in front of it has closed. Gestures that were
+  /// reported before that are forgotten, because the loop drops those of a form that isn't in front.
   void ComeBack();
-  /// Handles a message of the thread as a dialog does; false if it is none of this window's.
+  /// Handles a message as a dialog does; false if the message belongs to another window.
   bool TakeMessage(MSG& message);
 
  private:
@@ -46,8 +47,15 @@ class FormWindow {
   void UpdateFocus();
 
   void UseDpi(UINT dpi);
-  /// Gives the window the size that its layout needs, as far as the screen has it, in the middle of the
-  /// owner.
+  /// The room inside of the window, the scroll bars included.
+  forms::Size Room() const;
+  /// The size of a window whose room inside has this size, in pixels, at `dpi` dots in an inch.
+  SIZE SizeAround(const forms::Size& inside, UINT dpi) const;
+  /// The size that the window should have at `dpi` dots in an inch, so that it shows as much of the page as
+  /// now.
+  SIZE ScaledSize(UINT dpi);
+  /// Gives the window the size that its layout needs, or that of the screen if it is smaller, and places the
+  /// window in the middle of the owner.
   void FitScreen(HWND owner);
   /// Places the controls. What is larger than the window can be scrolled.
   void Arrange();

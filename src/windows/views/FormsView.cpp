@@ -11,6 +11,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+constexpr std::chrono::milliseconds kLongestYield{50};
+
 /// How long a thread may sleep, in milliseconds.
 DWORD TimeUntil(const std::optional<Clock::time_point>& deadline) {
   if (!deadline) return INFINITE;
@@ -101,11 +103,14 @@ void FormsView::Wait(forms::EventQueue& queue, std::optional<std::chrono::millis
 }
 
 // The system is in the middle of its work. What hands do waits until it is over, so that nothing is looked at
-// or changed half-way; windows are painted, and timers tick.
+// or changed half-way; windows are painted, and timers tick. A window of the host that posts itself a message
+// with each one, or never paints what it is asked to, must not keep the work from going on.
 void FormsView::HandleEvents(forms::EventQueue& queue) {
   const ThreadDpi dpi;
   ShowChanges();
-  while (!quitCode_ && HandleMessage(PM_QS_PAINT | PM_QS_POSTMESSAGE | PM_QS_SENDMESSAGE)) {
+  const Clock::time_point end = Clock::now() + kLongestYield;
+  while (!quitCode_ && HandleMessage(PM_QS_PAINT | PM_QS_POSTMESSAGE | PM_QS_SENDMESSAGE) &&
+         Clock::now() < end) {
   }
   if (windows_.empty()) PostQuitAgain();  // no window of ours will be closed and do it
   com::NoteChange();

@@ -14,7 +14,7 @@
 namespace plotsmith::windows {
 
 /// The forms as dialogs of Windows, on the thread of the host. While a form waits, the messages of the whole
-/// thread are handled, but no hand reaches a window of the host.
+/// thread are handled, but the windows of the host take no input.
 class FormsView final : public forms::View {
  public:
   /// `hostWindow` answers the window that the dialogs stay in front of; null if it isn't known.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <commctrl.h>
+#include <utility>
 
 #include "windows/com/Texts.h"
 #include "windows/views/ListViews.h"
@@ -85,7 +86,14 @@ std::vector<std::int32_t> GridView::Selected() const {
   return rows;
 }
 
-std::optional<LRESULT> GridView::OnMessage(UINT message, WPARAM wParam, LPARAM) {
+std::optional<LRESULT> GridView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NOTIFY) {
+    const UINT code = reinterpret_cast<const NMHDR*>(lParam)->code;
+    const bool isSized = code == HDN_ENDTRACKW || code == HDN_ENDTRACKA || code == HDN_DIVIDERDBLCLICKW ||
+                         code == HDN_DIVIDERDBLCLICKA;
+    if (isSized) handDpi_ = Dpi();
+    return std::nullopt;
+  }
   const bool hasRows = model_.Rows() > model_.FixedRows();
   if (message != WM_KEYDOWN || !IsCursorKey(wParam) || !hasRows || !Selected().empty()) return std::nullopt;
   ListView_SetItemState(Window(), 0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
@@ -155,8 +163,18 @@ void GridView::ShowSelection() {
   ListView_EnsureVisible(Window(), first, FALSE);
 }
 
-// Nothing is cut off as long as there is room. A page that gives no widths wants equal ones.
+// Nothing is cut off as long as there is room. A page that gives no widths wants equal ones. Widths that a
+// hand has chosen stay, and grow with the resolution.
 void GridView::ShareOutWidth() {
+  if (handDpi_ != 0) {
+    const UINT before = std::exchange(handDpi_, Dpi());
+    for (int column = 0; column < model_.Cols() && before != handDpi_; ++column) {
+      const int width = ListView_GetColumnWidth(Window(), column);
+      ListView_SetColumnWidth(Window(), column,
+                              MulDiv(width, static_cast<int>(handDpi_), static_cast<int>(before)));
+    }
+    return;
+  }
   RECT area;
   GetClientRect(Window(), &area);
   int sum = 0;

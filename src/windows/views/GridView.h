@@ -31,6 +31,7 @@ class GridView final : public ControlView {
   void ShareOutWidth();
 
   forms::VSFlexGrid& model_;
+  UINT handDpi_ = 0;  ///< the resolution in which a hand has chosen the widths of columns; 0 while none has
 };
 
 }  // namespace plotsmith::windows

@@ -6,13 +6,13 @@
 
 #include "windows/com/Texts.h"
 #include "windows/views/EditTexts.h"
+#include "windows/views/Subclasses.h"
 
 namespace plotsmith::windows {
 namespace {
 
 constexpr int kLeastCharacters = 12, kOpenLines = 8;
 constexpr int kArrow = 24;  // of a combo box, at 96 dots in an inch
-constexpr const wchar_t* kEditOriginal = L"Plotsmith.EditProcedure";
 
 /// The messages of a kind of list that tell its entries.
 struct EntryMessages {
@@ -68,29 +68,30 @@ ComboBoxView::ComboBoxView(forms::ComboBox& model, const Stage& stage)
   info.cbSize = sizeof info;
   if (!GetComboBoxInfo(Window(), &info) || info.hwndItem == nullptr) return;
   edit_ = info.hwndItem;
-  const LONG_PTR original = SetWindowLongPtrW(edit_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(EditProcedure));
-  SetPropW(edit_, kEditOriginal, reinterpret_cast<HANDLE>(original));
+  SetSubclass(edit_, EditProcedure, this);
 }
 
 ComboBoxView::~ComboBoxView() {
-  if (edit_ == nullptr || !IsWindow(edit_)) return;
-  SetWindowLongPtrW(edit_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(RemovePropW(edit_, kEditOriginal)));
+  if (edit_ != nullptr) LetGoOfEdit();
+}
+
+void ComboBoxView::LetGoOfEdit() {
+  Reader().Clear(edit_);
+  ForgetSubclassData(std::exchange(edit_, nullptr), EditProcedure);
 }
 
 // The box inside of a combo box is no control of the form, but a text is pasted into it as into any other.
-LRESULT CALLBACK ComboBoxView::EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  const auto original = reinterpret_cast<WNDPROC>(GetPropW(window, kEditOriginal));
-  if (original == nullptr) return DefWindowProcW(window, message, wParam, lParam);
+LRESULT CALLBACK ComboBoxView::EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                             UINT_PTR, DWORD_PTR data) {
+  auto* const view = reinterpret_cast<ComboBoxView*>(data);
   try {
-    if (HandleEditMessage(window, Lines::kOne, message, wParam)) return 0;
+    if (view != nullptr && HandleEditMessage(window, Lines::kOne, message, wParam)) return 0;
+    if (message == WM_NCDESTROY && view != nullptr) view->LetGoOfEdit();
   } catch (...) {
     return 0;  // there is no memory for the text
   }
-  if (message == WM_DESTROY) {
-    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
-    RemovePropW(window, kEditOriginal);
-  }
-  return CallWindowProcW(original, window, message, wParam, lParam);
+  if (message == WM_NCDESTROY) RemoveSubclass(window, EditProcedure);
+  return CallNextProcedure(window, message, wParam, lParam);
 }
 
 forms::Size ComboBoxView::LeastSize() const {
@@ -110,11 +111,12 @@ void ComboBoxView::OnCommand(WORD code) {
     case CBN_SETFOCUS:
       ReportFocus();
       break;
-    case CBN_EDITCHANGE: {
-      const std::wstring text = Typeable(WindowText(), Lines::kOne);
-      Report([this, text = com::Utf8(text.data(), text.size())] { model_.UserType(text); });
+    case CBN_EDITCHANGE:
+      if (!HasHalfCharacter(edit_)) ReportText();
       break;
-    }
+    case CBN_KILLFOCUS:
+      if (edit_ != nullptr && HasHalfCharacter(edit_)) ReportText();
+      break;
     case CBN_SELENDCANCEL:
       isDecided_ = false;
       Touch();
@@ -132,6 +134,20 @@ void ComboBoxView::OnCommand(WORD code) {
     default:
       break;
   }
+}
+
+void ComboBoxView::ReportText() {
+  const std::wstring text = Typeable(WindowText(), Lines::kOne);
+  Report([this, text = com::Utf8(text.data(), text.size())] { model_.UserType(text); });
+}
+
+bool ComboBoxView::IsInTheMiddle() const {
+  return edit_ != nullptr && GetFocus() == edit_ && HasHalfCharacter(edit_);
+}
+
+void ComboBoxView::ShowSpoken(const Spoken& spoken) {
+  ControlView::ShowSpoken(spoken);
+  if (edit_ != nullptr) Reader().Set(edit_, spoken);  // the focus is in this window
 }
 
 void ComboBoxView::OnNews() {

@@ -7,8 +7,8 @@
 
 namespace plotsmith::windows {
 
-/// A list that opens from a box. An entry is reported when it is decided on, not while the open list is
-/// walked through.
+/// A combo box. An entry is reported when the person decides on it, not while the cursor moves through the
+/// open list.
 class ComboBoxView final : public ControlView {
  public:
   ComboBoxView(forms::ComboBox& model, const Stage& stage);
@@ -20,13 +20,17 @@ class ComboBoxView final : public ControlView {
 
  protected:
   void Show() override;
+  bool IsInTheMiddle() const override;
+  void ShowSpoken(const Spoken& spoken) override;
   std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   void OnNews() override;
 
  private:
-  static LRESULT CALLBACK EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  static LRESULT CALLBACK EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                        DWORD_PTR data);
+  void LetGoOfEdit();
+  void ReportText();
   bool IsOpen() const { return Send(CB_GETDROPPEDSTATE) != 0; }
-  void ShowEntries();
 
   forms::ComboBox& model_;
   HWND edit_ = nullptr;  ///< the box for typing inside of the combo box; null where there is none

@@ -64,7 +64,11 @@ void FrameView::Show() {
 ImageView::ImageView(forms::Image& model, const Stage& stage)
     : ControlView(model, stage, {WC_STATICW, SS_OWNERDRAW}),
       model_(model),
-      picture_(SamplePicture(model.Name())) {}
+      picture_(SamplePicture(model.Name())) {
+  // Charts are not mirrored where texts are read from right to left.
+  const LONG_PTR style = GetWindowLongPtrW(Window(), GWL_EXSTYLE);
+  SetWindowLongPtrW(Window(), GWL_EXSTYLE, style & ~static_cast<LONG_PTR>(WS_EX_LAYOUTRTL));
+}
 
 // A picture may become smaller than it was drawn.
 forms::Size ImageView::LeastSize() const {

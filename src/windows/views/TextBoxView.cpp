@@ -30,10 +30,14 @@ forms::Size TextBoxView::LeastSize() const {
 }
 
 void TextBoxView::OnCommand(WORD code) {
-  if (code != EN_CHANGE) return;
+  const bool isHalf = HasHalfCharacter(Window());
+  const bool isTold = code == EN_CHANGE ? !isHalf : code == EN_KILLFOCUS && isHalf;
+  if (!isTold) return;
   const std::wstring text = Typeable(WindowText(), lines_);
   Report([this, text = com::Utf8(text.data(), text.size())] { model_.UserType(text); });
 }
+
+bool TextBoxView::IsInTheMiddle() const { return GetFocus() == Window() && HasHalfCharacter(Window()); }
 
 void TextBoxView::Show() {
   const std::wstring text = com::Wide(model_.Text());

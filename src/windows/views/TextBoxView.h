@@ -15,6 +15,7 @@ class TextBoxView final : public ControlView {
 
  protected:
   void Show() override;
+  bool IsInTheMiddle() const override;
   std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:

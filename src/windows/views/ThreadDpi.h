@@ -4,8 +4,9 @@
 
 namespace plotsmith::windows {
 
-/// Lets the thread work in the pixels of each monitor while this lives, whatever the program around the
-/// component has chosen. Windows that are created meanwhile are sharp on every monitor.
+/// Makes the thread aware of the resolution of each monitor while this lives. The host may have chosen
+/// another awareness, which comes back afterwards. Windows that are created meanwhile are sharp on every
+/// monitor.
 class ThreadDpi {
  public:
   ThreadDpi() : before_(SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2)) {}

@@ -12,7 +12,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QTableWidget>
-#include <algorithm>
+
+#include "tests/support/StateDifferences.h"
 
 namespace plotsmith::test {
 namespace {
@@ -86,45 +87,6 @@ ControlState Read(const QWidget& widget) {
   return state;
 }
 
-/// Returns the model's state without the parts that a widget can't show.
-ControlState Showable(ControlState state) {
-  state.kind.clear();
-  state.container.clear();
-  state.isCancel = false;
-  if (state.backColor != forms::kToolTipBackground) state.backColor = forms::kButtonFace;
-  return state;
-}
-
-/// Returns true if a page may mark this kind of control with a colour. Other widgets have the colour of their
-/// surroundings.
-bool IsMarkable(const std::string& kind) {
-  return kind == "Frame" || kind == "OptionButton" || kind == "CheckBox" || kind == "Label";
-}
-
-template <class Value>
-void Compare(std::string& differences, const std::string& what, const Value& model, const Value& widget) {
-  if (!(model == widget)) differences += what + " differs\n";
-}
-
-void Compare(std::string& differences, const ControlState& model, const ControlState& widget) {
-  const auto compare = [&](const char* what, const auto& left, const auto& right) {
-    Compare(differences, model.name + "." + what, left, right);
-  };
-  compare("AccessibleName", model.accessibleName, widget.accessibleName);
-  compare("Enabled", model.enabled, widget.enabled);
-  compare("Visible", model.visible, widget.visible);
-  compare("focus", model.focus, widget.focus);
-  compare("BackColor", model.backColor, widget.backColor);
-  compare("Caption", model.caption, widget.caption);
-  compare("Text", model.text, widget.text);
-  compare("Value", model.value, widget.value);
-  compare("List", model.list, widget.list);
-  compare("Rows", model.rows, widget.rows);
-  compare("FixedRows", model.fixedRows, widget.fixedRows);
-  compare("Selected", model.selected, widget.selected);
-  compare("Default", model.isDefault, widget.isDefault);
-}
-
 }  // namespace
 
 forms::FormState StateOfWidgets(const qt::FormWindow& window) {
@@ -137,24 +99,13 @@ forms::FormState StateOfWidgets(const qt::FormWindow& window) {
 }
 
 std::string DifferencesFromModel(const qt::FormWindow& window) {
-  const forms::FormState model = forms::StateOf(window.Model()), widgets = StateOfWidgets(window);
-  std::string differences;
-  Compare(differences, "Name", model.name, widgets.name);
-  Compare(differences, "Caption", model.caption, widgets.caption);
-  for (const ControlState& control : model.controls) {
-    if (control.kind == "Timer") continue;
-    const auto found = std::find_if(widgets.controls.begin(), widgets.controls.end(),
-                                    [&](const ControlState& widget) { return widget.name == control.name; });
-    if (found == widgets.controls.end()) {
-      differences += control.name + " has no widget\n";
-      continue;
-    }
-    ControlState widget = *found;
-    if (control.kind == "ListBox") widget.text = control.text;  // The selection shows it.
-    if (!IsMarkable(control.kind)) widget.backColor = Showable(control).backColor;
-    Compare(differences, Showable(control), widget);
-  }
-  return differences;
+  return StateDifferences(forms::StateOf(window.Model()), StateOfWidgets(window),
+                          [](ControlState& model, ControlState& widget) {
+                            model.kind.clear();
+                            model.container.clear();
+                            model.isCancel = false;
+                            model.listIndex = widget.listIndex;
+                          });
 }
 
 }  // namespace plotsmith::test

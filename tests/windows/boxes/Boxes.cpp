@@ -13,7 +13,7 @@
 #include "runtime/Variant.h"
 #include "tests/windows/boxes/Calls.h"
 #include "tests/windows/boxes/MessageBoxes.h"
-#include "tests/windows/boxes/PressingHand.h"
+#include "tests/windows/boxes/MonkeyHands.h"
 #include "tests/windows/boxes/ScriptedHands.h"
 #include "windows/com/Failures.h"
 #include "windows/com/Texts.h"
@@ -139,7 +139,7 @@ class Boxes final : public IDispatch {
   std::atomic<ULONG> references_ = 1;
   MessageBoxes boxes_;
   std::unique_ptr<ScriptedHands> hands_;
-  std::unique_ptr<PressingHand> pressingHand_;
+  std::unique_ptr<MonkeyHands> monkey_;
   HWND window_ = nullptr;
   com::ComPtr<IDispatch> controller_;
 };
@@ -174,20 +174,23 @@ const Boxes::Member Boxes::kMembers[] = {
        const std::string failure = hands->Finish();
        return com::ToVariant(Variant(failure + "\n" + hands->Shown()));
      }},
-    // PressEachPage("PAGE BUTTON PAGE BUTTON ..."): a button is pressed on each page that comes; StopPressing() answers
-    // how many were.
-    {"PressEachPage",
+    // PlayMonkey(seed, events): a monkey plays with dialogs and boxes from now on; see MonkeyHands.
+    {"PlayMonkey",
      [](Boxes& boxes, const DISPPARAMS& sent) -> OwnedVariant {
-       std::istringstream words(Text(sent, 0));
-       std::map<std::string, std::string> buttons;
-       for (std::string page, button; words >> page >> button;) buttons[page] = button;
-       boxes.pressingHand_ = std::make_unique<PressingHand>(std::move(buttons));
+       const auto number = [&](UINT position) { return CDbl(com::FromVariant(Last(sent, position))); };
+       boxes.monkey_ =
+           std::make_unique<MonkeyHands>(static_cast<unsigned>(number(1)), static_cast<int>(number(0)));
+       boxes.boxes_.AnswerBy([&boxes](const std::string&, bool isQuestion) {
+         return boxes.monkey_->AnswerBox(isQuestion);
+       });
        return {};
      }},
-    {"StopPressing",
+    // FinishMonkey(): how many events it has made.
+    {"FinishMonkey",
      [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
-       const auto hand = std::exchange(boxes.pressingHand_, nullptr);
-       return com::ToVariant(Variant(hand->Presses()));
+       boxes.boxes_.AnswerBy({});
+       const auto monkey = std::exchange(boxes.monkey_, nullptr);
+       return com::ToVariant(Variant(static_cast<std::int32_t>(monkey->Made())));
      }},
     // LateBound(controller, call, application) and EarlyBound: see Calls.h.
     {"LateBound",

@@ -108,6 +108,64 @@ TEST_F(HostWindowTest, TheBusyWindowIsModalAndItsBarMovesWhileItWorks) {
   ExpectFree();
 }
 
+/// A window of the host that posts itself a message with each one, and never paints what it is asked to.
+LRESULT CALLBACK KeepBusy(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_PAINT) return 0;
+  if (message != WM_APP) return DefWindowProcW(window, message, wParam, lParam);
+  PostMessageW(window, WM_APP, 0, 0);
+  return 0;
+}
+
+TEST_F(HostWindowTest, WorkGoesOnAlthoughTheHostNeverRests) {
+  const HWND busy =
+      CreateWindowW(L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr, nullptr, nullptr);
+  SetWindowLongPtrW(busy, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(KeepBusy));
+  PostMessageW(busy, WM_APP, 0, 0);
+  InvalidateRect(busy, nullptr, TRUE);
+  forms::EventQueue queue;
+  windows::FormsView view([this] { return hostWindow_.Handle(); });
+  const DWORD start = GetTickCount();
+  view.HandleEvents(queue);
+  EXPECT_LT(GetTickCount() - start, 1000u);
+  DestroyWindow(busy);
+}
+
+// A screen reader may watch the windows of a page by a procedure of its own.
+TEST_F(HostWindowTest, AProcedureThatIsPutInFrontLaterSeesTheEndOfTheWindow) {
+  static WNDPROC before = nullptr;
+  static int ends = 0;
+  ends = 0;
+  const auto watch = [] {
+    const HWND button = test::ControlWindow(test::FrontWindow(), "cmdCancel");
+    const WNDPROC own = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
+      if (message == WM_NCDESTROY) ++ends;
+      return CallWindowProcW(before, window, message, wParam, lParam);
+    };
+    before =
+        reinterpret_cast<WNDPROC>(SetWindowLongPtrW(button, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(own)));
+    test::EndDeed();
+  };
+  const auto destroy = [] { DestroyWindow(test::FrontWindow()), test::EndDeed(); };
+  for (const S out : {"press cmdCancel", "do destroy"}) {
+    EXPECT_EQ(PlayOnOrders(kWays[2].lines + "do watch; " + out + "; page none",
+                           {{"watch", watch}, {"destroy", destroy}}),
+              "");
+  }
+  EXPECT_EQ(ends, 2);
+}
+
+TEST_F(HostWindowTest, NothingIsLeftOnTheThread) {
+  const auto before = SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_SYSTEM_AWARE);
+  EXPECT_EQ(PlayOnOrders(kWays[2].lines + "press cmdCancel; page none"), "");
+  EXPECT_EQ(GetAwarenessFromDpiAwarenessContext(SetThreadDpiAwarenessContext(before)),
+            DPI_AWARENESS_SYSTEM_AWARE);
+  MSG held = {hostWindow_.Handle(), WM_KEYDOWN, VK_RETURN, 0x40000001, 0, {}};
+  EXPECT_FALSE(CallMsgFilterW(&held, MSGF_DIALOGBOX)) << "the hook is there";
+  HANDLE context = nullptr;
+  EXPECT_TRUE(GetCurrentActCtx(&context));
+  EXPECT_EQ(context, nullptr) << "the activation context is there";
+}
+
 TEST_F(HostWindowTest, TheFinishedRunGivesItBack) {
   EXPECT_EQ(PlayOnOrders(kWays[6].lines + "press cmdFinish; page none"), "");
   ExpectFree();

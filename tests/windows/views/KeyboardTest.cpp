@@ -76,6 +76,23 @@ TEST_F(KeysTest, TabGoesRoundInTheOrderOfTheForm) {
   });
 }
 
+TEST_F(KeysTest, ArrowKeysStayInTheirGroup) {
+  OnEachPage([] {
+    for (const forms::Control* control : test::FrontForm().Controls()) {
+      const bool isButton = dynamic_cast<const forms::CommandButton*>(control) != nullptr;
+      const bool isBox = dynamic_cast<const forms::CheckBox*>(control) != nullptr;
+      if (!control->Obstacle().empty() || (!isButton && !isBox)) continue;
+      for (const WPARAM key : {VK_DOWN, VK_RIGHT, VK_UP, VK_LEFT}) {
+        SetFocus(test::ControlWindow(test::FrontWindow(), control->FullName()));
+        PressWithShift(key, false);
+        const forms::Control& focus = *test::FrontForm().FindControl(Focus());
+        const bool isThere = isBox ? &focus == control : S(focus.TypeName()) == "CommandButton";
+        EXPECT_TRUE(isThere) << "from " << control->FullName() << " to " << focus.FullName();
+      }
+    }
+  });
+}
+
 TEST_F(KeysTest, LettersEnterEscapeAndHelpPressButtons) {
   const auto key = [](WPARAM virtualKey) {
     return [virtualKey] { test::PostKey(GetFocus(), virtualKey), test::EndDeed(); };

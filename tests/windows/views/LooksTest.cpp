@@ -5,6 +5,7 @@
 #include "common/Intl.h"
 #include "tests/support/SmallForm.h"
 #include "tests/windows/views/DialogTest.h"
+#include "tests/windows/views/ForeignDesktop.h"
 #include "tests/windows/views/WindowState.h"
 #include "windows/com/Texts.h"
 #include "windows/views/ControlView.h"
@@ -15,16 +16,6 @@ namespace {
 
 using S = std::string;
 
-/// A desktop with another locale.
-class ForeignDesktop final : public cli::ConsoleDesktop {
- public:
-  explicit ForeignDesktop(std::int32_t lcid) : lcid_(lcid) {}
-  std::int32_t UserDefaultLCID() override { return lcid_; }
-
- private:
-  std::int32_t lcid_;
-};
-
 LOGFONTW FontOf(HWND window) {
   LOGFONTW font = {};
   const auto handle = reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0));
@@ -32,12 +23,23 @@ LOGFONTW FontOf(HWND window) {
   return font;
 }
 
-S MessageTypeface() {
-  NONCLIENTMETRICSW metrics = {};
-  metrics.cbSize = sizeof metrics;
-  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-  return com::Utf8(metrics.lfMessageFont.lfFaceName, wcslen(metrics.lfMessageFont.lfFaceName));
-}
+/// The system writes messages in another typeface for as long as this lives.
+class MessageTypeface {
+ public:
+  explicit MessageTypeface(const wchar_t* name) {
+    before_.cbSize = sizeof before_;
+    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof before_, &before_, 0);
+    NONCLIENTMETRICSW metrics = before_;
+    wcscpy(metrics.lfMessageFont.lfFaceName, name);
+    SystemParametersInfoW(SPI_SETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+  }
+  ~MessageTypeface() { SystemParametersInfoW(SPI_SETNONCLIENTMETRICS, sizeof before_, &before_, 0); }
+  MessageTypeface(const MessageTypeface&) = delete;
+  MessageTypeface& operator=(const MessageTypeface&) = delete;
+
+ private:
+  NONCLIENTMETRICSW before_ = {};
+};
 
 class LooksTest : public test::DialogTest {
  protected:
@@ -52,12 +54,13 @@ class LooksTest : public test::DialogTest {
 };
 
 TEST_F(LooksTest, FontsAreThoseOfTheLocale) {
-  const S own = MessageTypeface();
+  const S own = "Courier New";
+  const MessageTypeface typeface(L"Courier New");
   const struct {
     std::int32_t lcid;
     BYTE charset;
-    S typeface;
-    double size;  ///< The size with a font of 6 points.
+    S name;
+    double size;  ///< of a font of 6 points
   } cases[] = {{1033, 1, "Tahoma", 6},
                {1031, 1, "Tahoma", 6},
                {1025, 178, own, 8},
@@ -78,9 +81,9 @@ TEST_F(LooksTest, FontsAreThoseOfTheLocale) {
                {1042, 129, "굴림", 9},
                {1041, 128, "ＭＳ Ｐゴシック", 9},
                {2052, 134, "宋体", 9}};
-  for (const auto& [lcid, charset, typeface, size] : cases) {
+  for (const auto& [lcid, charset, name, size] : cases) {
     SCOPED_TRACE(lcid);
-    App.Desktop = runtime::MakeRef<ForeignDesktop>(lcid);
+    App.Desktop = runtime::MakeRef<test::ForeignDesktop>(lcid);
     std::vector<S> log;
     test::SmallForm form(log);
     for (forms::Control* control : form.Controls()) {
@@ -94,7 +97,7 @@ TEST_F(LooksTest, FontsAreThoseOfTheLocale) {
         const bool isGrid = S(model.TypeName()) == "VSFlexGrid";
         const LOGFONTW font = FontOf(control);
         EXPECT_EQ(font.lfCharSet, isGrid ? 0 : charset) << model.FullName();
-        EXPECT_EQ(com::Utf8(font.lfFaceName, wcslen(font.lfFaceName)), isGrid ? "Tahoma" : typeface)
+        EXPECT_EQ(com::Utf8(font.lfFaceName, wcslen(font.lfFaceName)), isGrid ? "Tahoma" : name)
             << model.FullName();
         const double dpi = GetDpiForWindow(window);
         EXPECT_EQ(font.lfHeight, -std::lround((isGrid ? 6 : size) * dpi / 72)) << model.FullName();
@@ -107,48 +110,6 @@ RECT AreaOf(HWND window) {
   RECT area = {};
   GetWindowRect(window, &area);
   return area;
-}
-
-/// Returns controls whose contents are cut off, or that overlap their neighbour.
-S CutControls(HWND form) {
-  S names;
-  std::vector<RECT> areas;
-  for (const HWND window : test::ControlWindows(form)) {
-    const windows::ControlView& view = *windows::ControlView::Of(window);
-    const S kind = view.Model().TypeName();
-    if (!view.Model().Visible()) continue;
-    const RECT area = AreaOf(window);
-    const forms::Size least = view.LeastSize();
-    const bool isCut = area.right - area.left < least.width || area.bottom - area.top < least.height;
-    if (isCut) names += view.Model().FullName() + " ";
-    if (kind == "Frame") continue;
-    for (const RECT& other : areas) {
-      RECT both = {};
-      if (IntersectRect(&both, &area, &other)) names += view.Model().FullName() + " lies on another, ";
-    }
-    areas.push_back(area);
-  }
-  return names;
-}
-
-TEST_F(LooksTest, NothingIsCutAtAnyResolution) {
-  for (const test::Way& way : test::kWays) {
-    SCOPED_TRACE(way.page);
-    const auto look = [&] {
-      const HWND window = test::FrontWindow();
-      for (const int percent : {100, 125, 150, 200, 250}) {
-        const int dpi = USER_DEFAULT_SCREEN_DPI * percent / 100;
-        RECT area = AreaOf(window);
-        SendMessageW(window, WM_DPICHANGED, static_cast<WPARAM>(MAKELONG(dpi, dpi)),
-                     reinterpret_cast<LPARAM>(&area));
-        EXPECT_EQ(CutControls(window), "") << percent << " %";
-        const auto* const button = windows::ControlView::Of(test::ControlWindow(window, "cmdCancel"));
-        EXPECT_GE(button->LeastSize().width, 75 * percent / 100) << "buttons grow with the resolution";
-      }
-      test::EndDeed();
-    };
-    EXPECT_EQ(PlayOnOrders(way.lines + "do look", {{"look", look}}), "");
-  }
 }
 
 TEST_F(LooksTest, APageThatIsTooLargeIsScrolledToTheFocus) {

@@ -1,10 +1,7 @@
 #include <gtest/gtest.h>
-#include <random>
 
-#include "tests/windows/views/Clipboard.h"
 #include "tests/windows/views/DialogTest.h"
-#include "tests/windows/views/WindowState.h"
-#include "tests/windows/views/WindowsHand.h"
+#include "tests/windows/views/Monkey.h"
 
 namespace plotsmith {
 namespace {
@@ -14,111 +11,22 @@ using S = std::string;
 constexpr int kEvents = 120;  ///< The number of events of a run, unless it ends early.
 constexpr unsigned kSeeds = 3;
 
-/// Posts random mouse and keyboard messages to random controls of the front window. The same seed gives the
-/// same messages.
-class Monkey {
- public:
-  explicit Monkey(unsigned seed) : random_(seed) {}
-
-  void MakeEvent() {
-    const HWND front = test::FrontWindow();
-    if (front == nullptr) return;
-    void (Monkey::*const deeds[])(HWND) = {&Monkey::Click, &Monkey::Click,  &Monkey::Click, &Monkey::Press,
-                                           &Monkey::Press, &Monkey::Press,  &Monkey::Type,  &Monkey::Double,
-                                           &Monkey::Wheel, &Monkey::Paste,  &Monkey::Drag,  &Monkey::Resize,
-                                           &Monkey::Theme, &Monkey::Letter, &Monkey::Close};
-    (this->*deeds[Below(static_cast<int>(std::size(deeds)))])(front);
-    test::EndDeed();
-  }
-
- private:
-  int Below(int end) { return static_cast<int>(random_() % static_cast<unsigned>(end)); }
-  HWND AnyControl(HWND front) {
-    const std::vector<HWND> all = test::ControlWindows(front);
-    std::vector<HWND> usable;
-    for (const HWND window : all) {
-      if (IsWindowVisible(window) && IsWindowEnabled(window)) usable.push_back(window);
-    }
-    return usable.empty() ? front : usable[static_cast<std::size_t>(Below(static_cast<int>(usable.size())))];
-  }
-  POINT AnyPlace(HWND window) {
-    RECT area = {};
-    GetClientRect(window, &area);
-    return {Below(std::max<int>(area.right, 1)), Below(std::max<int>(area.bottom, 1))};
-  }
-  HWND Focus(HWND front) { return GetFocus() == nullptr ? front : GetFocus(); }
-
-  void Click(HWND front) {
-    const HWND window = AnyControl(front);
-    const WPARAM keys[] = {0, 0, MK_SHIFT, MK_CONTROL};
-    test::PostClick(window, AnyPlace(window), keys[Below(4)]);
-  }
-  void Double(HWND front) {
-    const HWND window = AnyControl(front);
-    const POINT place = AnyPlace(window);
-    test::PostClick(window, place);
-    PostMessageW(window, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(place.x, place.y));
-    PostMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(place.x, place.y));
-  }
-  void Drag(HWND front) {
-    const HWND window = AnyControl(front);
-    const POINT from = AnyPlace(window), to = AnyPlace(window);
-    PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(from.x, from.y));
-    PostMessageW(window, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to.x, to.y));
-    PostMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(to.x, to.y));
-  }
-  void Press(HWND front) {
-    const WPARAM keys[] = {VK_TAB,    VK_TAB,  VK_SPACE, VK_SPACE, VK_RETURN, VK_UP,     VK_DOWN,  VK_DOWN,
-                           VK_LEFT,   VK_HOME, VK_END,   VK_PRIOR, VK_NEXT,   VK_F1,     VK_F4,    VK_BACK,
-                           VK_DELETE, VK_F10,  VK_RIGHT, 'A',      '5',       VK_ESCAPE, VK_INSERT};
-    test::PostKey(Focus(front), keys[Below(static_cast<int>(std::size(keys)))], Below(6) == 0);
-  }
-  void Letter(HWND front) {
-    PostMessageW(Focus(front), WM_SYSCHAR, static_cast<WPARAM>('a' + Below(26)), 0x20000001);
-  }
-  void Type(HWND front) {
-    const WPARAM units[] = {L'x', L'7', 1, 3, 22, 24, 26, 0xD83D, 0xDE00, 0xDC00, L'&', 0x1B, 0x7F, L'\t'};
-    PostMessageW(Focus(front), WM_CHAR, units[Below(static_cast<int>(std::size(units)))], 0);
-  }
-  void Wheel(HWND front) {
-    PostMessageW(AnyControl(front), WM_MOUSEWHEEL,
-                 static_cast<WPARAM>(MAKELONG(0, Below(2) == 0 ? 120 : -120)), 0);
-  }
-  void Paste(HWND front) {
-    const std::wstring texts[] = {L"",       L"x",      L"a\r\nb\nc",           L"\x01\t\x7F",
-                                  L"&&File", L"\xD83D", std::wstring(400, L'w')};
-    test::SetClipboardText(texts[Below(7)]);
-    PostMessageW(Focus(front), WM_PASTE, 0, 0);
-  }
-  void Resize(HWND front) {
-    SetWindowPos(front, nullptr, 0, 0, Below(1600), Below(1000), SWP_NOMOVE | SWP_NOZORDER);
-  }
-  void Theme(HWND front) {
-    RECT area = {};
-    GetWindowRect(front, &area);
-    const int dpi[] = {96, 120, 144, 192, 240};
-    const int chosen = dpi[Below(5)];
-    SendMessageW(front, Below(2) == 0 ? WM_DPICHANGED : WM_SYSCOLORCHANGE,
-                 static_cast<WPARAM>(MAKELONG(chosen, chosen)), reinterpret_cast<LPARAM>(&area));
-  }
-  void Close(HWND front) {
-    if (Below(3) == 0) PostMessageW(front, WM_CLOSE, 0, 0);
-  }
-
-  std::mt19937 random_;
-};
-
 class MonkeyTest : public test::DialogTest, public testing::WithParamInterface<std::size_t> {};
 
-// The stage compares the window with its form after each line of a script.
-TEST_P(MonkeyTest, APageStandsIt) {
+// After each line of a script the stage compares the window with its form.
+TEST_P(MonkeyTest, APageShowsWhatItsFormSays) {
   const test::Way& way = test::kWays[GetParam()];
   for (unsigned seed = 1; seed <= kSeeds; ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
-    Monkey monkey(seed);
+    test::Monkey monkey(seed);
+    const auto deed = [&] {
+      if (test::FrontWindow() == nullptr) return;
+      monkey.MakeEvent(test::FrontWindow());
+      test::EndDeed();
+    };
     S script = way.lines;
     for (int i = 0; i < kEvents; ++i) script += "answer cancel; do monkey; ";
-    const S failure = PlayOnOrders(script, {{"monkey", [&] { monkey.MakeEvent(); }}});
+    const S failure = PlayOnOrders(script, {{"monkey", deed}});
     EXPECT_TRUE(failure.empty() || failure.find("a message that no line expects") != S::npos ||
                 failure.find("the run is over") != S::npos)
         << failure;

@@ -3,6 +3,7 @@
 #include <map>
 #include <sstream>
 
+#include "runtime/Strings.h"
 #include "tests/support/Paths.h"
 #include "tests/windows/views/DialogTest.h"
 #include "tests/windows/views/WindowState.h"
@@ -156,6 +157,10 @@ TEST_F(NamesTest, ScreenReadersAreToldTheSameAsOnTheDesktop) {
       for (const auto& control : test::StateOfWindow(test::FrontWindow()).controls) {
         const Told& told = service.told.at(test::ControlWindow(test::FrontWindow(), control.name));
         const S role = RoleOf(control.kind);
+        const HWND edit = GetWindow(test::ControlWindow(test::FrontWindow(), control.name), GW_CHILD);
+        if (control.kind == "ComboBox" && edit != nullptr) {
+          EXPECT_EQ(service.told[edit].name, told.name) << "the focus is in the box inside";
+        }
         EXPECT_EQ(told.role, control.kind == "Image" ? ROLE_SYSTEM_GRAPHIC : 0) << control.name;
         lines.insert(role == "ComboBox" ? role + ": " + told.name
                                         : role + ": " + told.name + " / " + told.description);
@@ -165,6 +170,40 @@ TEST_F(NamesTest, ScreenReadersAreToldTheSameAsOnTheDesktop) {
     };
     EXPECT_EQ(PlayOnOrders(way.lines + "do look", {{"look", look}}), "");
     EXPECT_EQ(service.told.size(), 0u) << "windows that have gone are forgotten";
+  }
+}
+
+/// The name of a window as a screen reader asks for it.
+S NameOf(HWND window) {
+  IAccessible* object = nullptr;
+  const DWORD client = static_cast<DWORD>(OBJID_CLIENT);
+  if (FAILED(AccessibleObjectFromWindow(window, client, __uuidof(IAccessible),
+                                        reinterpret_cast<void**>(&object)))) {
+    return "no object";
+  }
+  VARIANT self = {};
+  self.vt = VT_I4;
+  BSTR name = nullptr;
+  object->get_accName(self, &name);
+  const S text = com::Utf8(name);
+  SysFreeString(name);
+  object->Release();
+  return text;
+}
+
+// Where the system has no annotations, the windows' own texts are all that a screen reader knows.
+TEST_F(NamesTest, WindowsTellTheirCaptions) {
+  for (const test::Way& way : test::kWays) {
+    const auto look = [&] {
+      for (const auto& control : test::StateOfWindow(test::FrontWindow()).controls) {
+        if (!control.caption) continue;
+        EXPECT_EQ(NameOf(test::ControlWindow(test::FrontWindow(), control.name)),
+                  runtime::Replace(*control.caption, "&", ""))
+            << way.page << " " << control.name;
+      }
+      test::EndDeed();
+    };
+    EXPECT_EQ(PlayOnOrders(way.lines + "do look", {{"look", look}}), "");
   }
 }
 

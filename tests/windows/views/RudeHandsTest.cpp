@@ -8,6 +8,9 @@
 #include "tests/windows/views/WindowsHand.h"
 #include "windows/com/Texts.h"
 
+// Behind the types of Windows that it needs.
+#include <commctrl.h>
+
 namespace plotsmith {
 namespace {
 
@@ -56,6 +59,43 @@ TEST_F(RudeHandsTest, ADoubleClickOnAButtonIsOnePress) {
     test::EndDeed();
   };
   EXPECT_EQ(PlayOnOrders(test::kWays[2].lines + "do twice; page frmPSChartLocation", {{"twice", twice}}), "");
+}
+
+// A screen reader presses a button by a message of its own, which Windows would make a press of the mouse in
+// the corner.
+TEST_F(RudeHandsTest, EachPressWithoutAMouseCounts) {
+  const SlowDoubleClicks slow;
+  const auto press = [] { SendMessageW(ButtonOf("cmdHelp"), BM_CLICK, 0, 0), test::EndDeed(); };
+  EXPECT_EQ(
+      PlayOnOrders(test::kWays[2].lines + "do press; do press; page frmPSLayoutABC", {{"press", press}}), "");
+  EXPECT_EQ(helpTopics_, (std::vector<std::int32_t>{4, 4}));
+}
+
+TEST_F(RudeHandsTest, ColumnsStayAsWideAsAHandHasMadeThem) {
+  const auto width = [] { return ListView_GetColumnWidth(ButtonOf("grdCharts"), 0); };
+  int wanted = 0;
+  const auto widen = [&] {
+    const HWND head = ListView_GetHeader(ButtonOf("grdCharts"));
+    wanted = width() + 30;
+    PostMessageW(head, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(wanted - 31, 5));
+    PostMessageW(head, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(wanted - 1, 5));
+    PostMessageW(head, WM_LBUTTONUP, 0, MAKELPARAM(wanted - 1, 5));
+    test::EndDeed();
+  };
+  const auto look = [&] {
+    EXPECT_EQ(width(), wanted);
+    const HWND form = test::FrontWindow();
+    SetWindowPos(form, nullptr, 0, 0, 900, 700, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(width(), wanted);
+    RECT area = {};
+    GetWindowRect(form, &area);
+    SendMessageW(form, WM_DPICHANGED, MAKELONG(192, 192), reinterpret_cast<LPARAM>(&area));
+    EXPECT_EQ(width(), 2 * wanted);
+    test::EndDeed();
+  };
+  EXPECT_EQ(PlayOnOrders("page frmPSSelectAction; do widen; select grdCharts #1; select grdCharts; do look",
+                         {{"widen", widen}, {"look", look}}),
+            "");
 }
 
 TEST_F(RudeHandsTest, AKeyThatIsHeldDownCountsOnce) {

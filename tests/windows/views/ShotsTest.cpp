@@ -48,16 +48,20 @@ class ShotsTest : public test::DialogTest {};
 TEST_F(ShotsTest, EachPageIsShot) {
   const char* const folder = std::getenv("PLOTSMITH_SHOTS");
   if (folder == nullptr) GTEST_SKIP() << "PLOTSMITH_SHOTS names no folder";
+  const S toFilledLayout =
+      test::kToTable +
+      "choose optType(1); press cmdNext; page frmPSLayoutABC; choose optSeries(1); choose "
+      "cboSeries Product; check chkStacked; type txtTitle \"Amount by region\"; ";
   const std::vector<test::Way> ways = {
       {"select-action", "page frmPSSelectAction; select grdCharts #1; "},
       {"select-table", test::kToTable + "choose optType(1); "},
-      {"layout", test::kToTable +
-                     "choose optType(1); press cmdNext; page frmPSLayoutABC; choose optSeries(1); choose "
-                     "cboSeries Product; check chkStacked; type txtTitle \"Sums of 2024\"; "},
+      {"layout", toFilledLayout},
       {"layout-pie", test::kWays[3].lines},
       {"layout-bubble", test::kWays[4].lines},
       {"layout-strategic-bucket", test::kWays[5].lines},
-      {"location", test::kWays[6].lines}};
+      {"location",
+       toFilledLayout +
+           "press cmdNext; page frmPSChartLocation; choose optTargetSheet(0); type txtSheet Charts; "}};
   for (const auto& [name, lines] : ways) {
     const auto shoot = [&, file = S(folder) + "/" + name + ".bmp"] {
       const DWORD end = GetTickCount() + 300;

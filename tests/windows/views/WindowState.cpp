@@ -5,8 +5,10 @@
 #include <optional>
 
 #include "forms/TextBox.h"
+#include "tests/support/StateDifferences.h"
 #include "windows/com/Texts.h"
 #include "windows/views/ControlNames.h"
+#include "windows/views/EditTexts.h"
 
 namespace plotsmith::test {
 namespace {
@@ -176,38 +178,13 @@ ControlState Read(HWND form, HWND window) {
   return state;
 }
 
-/// Returns the model's state without the parts that windows can't show. Windows have only their own colours.
-ControlState Showable(ControlState state) {
-  state.accessibleName.clear();
-  if (state.backColor != forms::kToolTipBackground) state.backColor = forms::kButtonFace;
-  return state;
-}
-
-template <class Value>
-void Compare(std::string& differences, const std::string& what, const Value& model, const Value& window) {
-  if (!(model == window)) differences += what + " differs\n";
-}
-
-void Compare(std::string& differences, const ControlState& model, const ControlState& window) {
-  const auto compare = [&](const char* what, const auto& left, const auto& right) {
-    Compare(differences, model.name + "." + what, left, right);
-  };
-  compare("TypeName", model.kind, window.kind);
-  compare("Container", model.container, window.container);
-  compare("Enabled", model.enabled, window.enabled);
-  compare("Visible", model.visible, window.visible);
-  compare("focus", model.focus, window.focus);
-  compare("BackColor", model.backColor, window.backColor);
-  compare("Caption", model.caption, window.caption);
-  compare("Text", model.text, window.text);
-  compare("Value", model.value, window.value);
-  compare("List", model.list, window.list);
-  compare("ListIndex", model.listIndex, window.listIndex);
-  compare("Rows", model.rows, window.rows);
-  compare("FixedRows", model.fixedRows, window.fixedRows);
-  compare("Selected", model.selected, window.selected);
-  compare("Default", model.isDefault, window.isDefault);
-  compare("Cancel", model.isCancel, window.isCancel);
+/// Whether a hand hasn't finished what it does in a control: its list is open, or only the first unit of a
+/// character was typed.
+bool IsInTheMiddle(HWND window, const std::string& kind) {
+  const bool isOpen = kind == "ComboBox" && SendMessageW(window, CB_GETDROPPEDSTATE, 0, 0) != 0;
+  const HWND edit = kind == "ComboBox" ? GetWindow(window, GW_CHILD) : window;
+  const bool isText = edit != nullptr && ClassOf(edit) == "Edit";
+  return isOpen || (isText && GetFocus() == edit && windows::HasHalfCharacter(edit));
 }
 
 }  // namespace
@@ -234,29 +211,19 @@ forms::FormState StateOfWindow(HWND form) {
 }
 
 std::string DifferencesFromModel(const forms::Form& form, HWND window) {
-  forms::FormState model = forms::StateOf(form);
   const forms::FormState shown = StateOfWindow(window);
-  std::erase_if(model.controls, [](const ControlState& control) { return control.kind == "Timer"; });
-  std::string differences;
-  Compare(differences, "Name", model.name, shown.name);
-  Compare(differences, "Caption", model.caption, shown.caption);
-  if (model.controls.size() != shown.controls.size()) return differences + "the number of controls differs\n";
-  for (std::size_t i = 0; i < model.controls.size(); ++i) {
-    Compare(differences, "name of " + model.controls[i].name, model.controls[i].name, shown.controls[i].name);
-    ControlState control = Showable(model.controls[i]);
-    const bool hasNoColor = control.kind != "Frame" && control.kind != "OptionButton" &&
-                            control.kind != "CheckBox" && control.kind != "Label";
-    if (hasNoColor) control.backColor = forms::kButtonFace;
-    if (control.kind == "ListBox") {  // The selection shows both.
-      control.text = shown.controls[i].text;
-      control.listIndex = shown.controls[i].listIndex;
-    }
-    const HWND box = ControlWindow(window, control.name);
-    if (control.kind == "ComboBox" && SendMessageW(box, CB_GETDROPPEDSTATE, 0, 0) != 0)
-      continue;  // The state is undecided.
-    Compare(differences, control, shown.controls[i]);
+  std::vector<std::string> names;
+  for (const forms::Control* control : form.Controls()) {
+    if (std::string(control->TypeName()) != "Timer") names.push_back(control->FullName());
   }
-  return differences;
+  const bool isInOrder = std::ranges::equal(names, shown.controls, {}, {}, &ControlState::name);
+  return StateDifferences(forms::StateOf(form), shown,
+                          [&](ControlState& model, ControlState& seen) {
+                            model.accessibleName.clear();  // a screen reader knows it, a window doesn't
+                            if (model.kind == "ListBox") model.listIndex = seen.listIndex;
+                            if (IsInTheMiddle(ControlWindow(window, model.name), model.kind)) model = seen;
+                          }) +
+         (isInOrder ? "" : "the tab order differs\n");
 }
 
 }  // namespace plotsmith::test
