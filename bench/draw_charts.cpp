@@ -21,7 +21,7 @@
 #include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/chart/part/ChartPart.h"
-#include "xlsx/chart/rules/ChartGeometry.h"
+#include "xlsx/chart/part/ChartSize.h"
 
 namespace {
 

@@ -279,7 +279,7 @@ TEST_F(ForeignBookTest, OneTabIsSelectedWhenAnotherSheetBecomesActive) {
   Refresh();  // The refresh adds a hidden sheet and activates the old one again.
   SaveAndReopen();
   EXPECT_EQ(tabs(), "12") << "a group that the user made stays";
-  Book().Activate(*Book().FindSheet("Charts"));
+  Book().Tabs().Activate(*Book().FindSheet("Charts"));
   SaveAndReopen();
   EXPECT_EQ(tabs(), "2");
   EXPECT_EQ(Book().ActiveSheet()->Name(), "Charts");

@@ -1,8 +1,8 @@
 #include <string>
 
 #include "render/model/ChartReader.h"
-#include "xlsx/chart/objects/DataLabels.h"
 #include "xlsx/chart/part/ChartPart.h"
+#include "xlsx/chart/rules/SeriesLabels.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Xml.h"
 
