@@ -435,10 +435,10 @@ void Workbook::WriteStyles() {
 
 void Workbook::WriteActiveTab() {
   if (activeSheet_ < sheets_.size() && sheets_[activeSheet_] != openedSheet_) {
-    openedSheet_ = sheets_[activeSheet_];
     std::vector<std::string> parts;
     for (const auto& sheet : sheets_) parts.push_back(sheet->part);
-    SelectOnlyTab(package_, parts, openedSheet_->part);
+    SelectOnlyTab(package_, parts, sheets_[activeSheet_]->part);
+    openedSheet_ = sheets_[activeSheet_];
   }
   const auto active = static_cast<long long>(activeSheet_);
   pugi::xml_node view = xml::Child(Root(), "bookViews", "workbookView");

@@ -429,6 +429,16 @@ void Package::Save(const std::string& path) {
   Commit(file, path);
 }
 
+/// Opens the file of a closed archive again. Returns false, and leaves the archive closed, if that fails.
+static bool Reopen(std::unique_ptr<Archive>& archive) {
+  try {
+    archive = std::make_unique<Archive>(archive->Path());
+    return true;
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
 /// Windows doesn't replace a file that is open. A package that is saved over its own file therefore closes
 /// it, and reads the new one from then on, in which the parts have the order that they have here.
 void Package::Commit(AtomicFile& file, const std::string& path) {
@@ -438,21 +448,17 @@ void Package::Commit(AtomicFile& file, const std::string& path) {
     file.Commit();
     return;
   }
-  const std::string source = archive_->Path();
   archive_->Close();
   try {
     file.Commit();
-  } catch (const PackageError&) {
-    archive_ = std::make_unique<Archive>(source);
+  } catch (...) {
+    Reopen(archive_);
     throw;
   }
-  try {
-    archive_ = std::make_unique<Archive>(source);
-  } catch (const PackageError&) {
-    return;  // the workbook is saved; only what is yet to be read of it can't be
-  }
+  if (!Reopen(archive_)) return;  // the workbook is saved; only what is yet to be read of it can't be
   for (std::size_t i = 0; i < parts_.size(); ++i) parts_[i]->entry = i;
 }
+
 
 void Package::Save(std::ostream& out) {
   const ScratchFile scratch;
