@@ -5,6 +5,7 @@
 
 #include "runtime/Strings.h"
 #include "tests/support/HostTest.h"
+#include "tests/support/SaveFailures.h"
 #include "xlsx/Limits.h"
 #include "xlsx/package/Package.h"
 #include "xlsx/package/PackageError.h"
@@ -54,7 +55,7 @@ TEST_F(PackageFileTest, UntouchedPartsKeepTheirBytesOrderAndNames) {
   package.Replace("/XL/Workbook.xml", "<workbook/>");  // names ignore case
   package.Add("/xl/new.xml", "application/x-new", "<new/>");
   const S id = package.AddRelationship("/xl/workbook.xml", "http://x/new", "/xl/new.xml");
-  package.Save(folder_ / "out.xlsx");
+  test::SaveThroughEachFailure(folder_ / "out.xlsx", [&](const S& path) { package.Save(path); });
 
   const Package again = Package::Open(folder_ / "out.xlsx");
   const Package original = Package::Open(folder_ / "book.xlsx");
@@ -80,10 +81,11 @@ TEST_F(PackageFileTest, APackageThatIsSavedOverItsOwnFileGoesOnWithTheNewOne) {
   // a part in front of others goes, so that they lie in other places of the new file
   package.RemoveRelationship("/xl/workbook.xml",
                              package.FindRelationshipOfType("/xl/workbook.xml", "worksheet")->id);
-  package.Save(path);
+  const auto save = [&](const S& to) { package.Save(to); };
+  test::SaveThroughFailures(path, save);
   EXPECT_EQ(package.Read("/xl/media/noise.bin"), noise);
   package.Replace("/xl/new.xml", "<newer/>");
-  package.Save(path);
+  test::SaveThroughFailures(path, save);
 
   const Package again = Package::Open(path);
   EXPECT_EQ(again.Parts(), package.Parts());
@@ -173,7 +175,7 @@ TEST_F(PackageFileTest, ForeignEntriesAreCopiedByWhateverMethodTheyCame) {
   Package package = Package::Open(folder_ / "odd.xlsx");
   EXPECT_THROW(package.Read("/foreign.bin"), PackageError);
   package.Add("/new.xml", "application/xml", "<new/>");
-  package.Save(folder_ / "out.xlsx");
+  test::SaveThroughFailures(folder_ / "out.xlsx", [&](const S& path) { package.Save(path); });
   std::ifstream saved(folder_ / "out.xlsx", std::ios::binary);
   const S after((std::istreambuf_iterator<char>(saved)), {});
   EXPECT_NE(after.find("in LZMA, or so it says"), S::npos);
