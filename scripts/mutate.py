@@ -313,7 +313,7 @@ def tests_by_fault(program, filter_):
     past = collections.defaultdict(set)
     for line in record.read_text().splitlines():
         fault, test = line.split("\t")
-        if test in times:
+        if test in times or test == "*":
             past[int(fault)].add(test)
     return past, times
 
@@ -370,10 +370,11 @@ def main():
 
     survived = False
     for room, faults in rooms.items():
-        everywhere = set().union(*(past[fault.number] for fault in faults))
+        everywhere = set().union(*(past[fault.number] for fault in faults)) - {"*"}
         survivors = []
         for fault in faults:
-            tests = everywhere if fault.is_static else past[fault.number]
+            # what is worked out once, or before all tests, may concern each of them
+            tests = everywhere if fault.is_static or "*" in past[fault.number] else past[fault.number]
             if not is_noticed(program, fault, tests, times):
                 survivors.append(fault)
                 print(f"survived {fault.place()}{'' if tests else ' (no test comes here)'}\n"

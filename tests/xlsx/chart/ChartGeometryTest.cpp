@@ -157,6 +157,24 @@ TEST_F(ChartGeometryTest, ScalesFollowWhatTheFileSaysOfTheAxis) {
   }
 }
 
+TEST_F(ChartGeometryTest, ALegendIsAtItsSideOrWhereItsLayoutMovesIt) {
+  const S x = "<c:x val=\"0.1\"/>", y = "<c:y val=\"0.1\"/>", edge = "<c:xMode val=\"edge\"/>";
+  const struct {
+    S position, layout;
+    double left, top;  ///< as fractions of the chart
+  } cases[] = {{"r", "", 0.8, 0.4}, {"l", "", 0.02, 0.4},      {"t", "", 0.4, 0.02},
+               {"b", "", 0.4, 0.8}, {"tr", "", 0.8, 0.02},     {"r", x + y, 0.9, 0.5},
+               {"t", y, 0.4, 0.12}, {"b", edge + x, 0.1, 0.8}, {"l", edge + x + y, 0.1, 0.5}};
+  for (const auto& c : cases) {
+    const auto legend = OpenChart(test::ChartPartXml("<c:plotArea/><c:legend><c:legendPos val=\"" +
+                                                     c.position + "\"/><c:layout><c:manualLayout>" +
+                                                     c.layout + "</c:manualLayout></c:layout></c:legend>"))
+                            ->Legend();
+    EXPECT_NEAR(legend->Left(), c.left * 384, 1e-9) << c.position << c.layout;
+    EXPECT_NEAR(legend->Top(), c.top * 270, 1e-9) << c.position << c.layout;
+  }
+}
+
 TEST_F(ChartGeometryTest, ALegendAboveOrBelowHasAsManyRowsAsItsEntriesFill) {
   // a key is 24 points wide with its gaps, the chart has 370 points between its insets, and AV takes 11.46
   for (const auto& [letters, rows] : {std::pair{30, 1}, {31, 2}, {62, 2}, {63, 3}}) {
