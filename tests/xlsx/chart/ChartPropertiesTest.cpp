@@ -38,7 +38,7 @@ TEST_F(ChartPropertiesTest, AnAutomaticColourCanBeReadAtOnceAndSetOnAnother) {
     S style;
     S seven;  ///< the first seven colours, blue, green and red
   };
-  for (const Case& c : {Case{"", accents}, Case{newer, accents},
+  for (const Case& c : {Case{"", accents}, Case{newer, accents}, Case{"<c:style val=\"49\"/>", accents},
                         Case{grey, "1D1D1D 737373 383838 131313 4C4C4C B2B2B2 1D1D1D "},
                         Case{violet, "A26480 B8889E C39AAC C9A5B5 CDACBB D0B1BF D3B5C3 "}}) {
     SCOPED_TRACE(c.style);
@@ -136,7 +136,8 @@ TEST_F(ChartPropertiesTest, PropertiesOfSeriesLabelsAndAxesAreWrittenInPlace) {
        "vert=\"horz\"/><a:lstStyle/><a:p><a:pPr algn=\"ctr\"><a:defRPr sz=\"900\"><a:solidFill><a:srgbClr "
        "val=\"FF0000\"/></a:solidFill></a:defRPr></a:pPr><a:r><a:rPr lang=\"en-US\" sz=\"900\"><a:solidFill>"
        "<a:srgbClr val=\"FF0000\"/></a:solidFill></a:rPr><a:t>A &amp; B</a:t></a:r></a:p></c:rich></c:tx>"
-       "<c:dLblPos val=\"ctr\"/><c:showLegendKey val=\"0\"/><c:showVal val=\"1\"/>",
+       "<c:dLblPos val=\"ctr\"/><c:showLegendKey val=\"0\"/><c:showVal val=\"1\"/><c:showCatName val=\"0\"/>"
+       "<c:showSerName val=\"0\"/><c:showPercent val=\"0\"/><c:showBubbleSize val=\"0\"/></c:dLbl>",
        ""},
       {"labels of points stand by their numbers, and follow what the others are told", 51,
        [](Chart&, Series& s) {
@@ -227,6 +228,44 @@ TEST_F(ChartPropertiesTest, PropertiesOfSeriesLabelsAndAxesAreWrittenInPlace) {
     if (!c.gone.empty()) {
       EXPECT_FALSE(Has(after, c.gone)) << after;
     }
+  }
+}
+
+TEST_F(ChartPropertiesTest, WhatIsThereIsChangedInPlace) {
+  const auto bars = [](const S& labels, const S& title) {
+    return Part(
+        "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>" +
+        labels +
+        "<c:val><c:numLit><c:ptCount val=\"3\"/></c:numLit></c:val></c:ser><c:axId val=\"1\"/><c:axId "
+        "val=\"2\"/></c:barChart><c:catAx><c:axId val=\"1\"/></c:catAx><c:valAx><c:axId val=\"2\"/>" +
+        title + "</c:valAx></c:plotArea>");
+  };
+  const auto label = [](const S& inside, const S& shows) {
+    return "<c:dLbl><c:idx val=\"1\"/>" + inside + "<c:showVal val=\"0\"/><c:showSerName val=\"" + shows +
+           "\"/></c:dLbl>";
+  };
+  const auto all = [](const S& points) { return "<c:dLbls>" + points + "<c:showVal val=\"1\"/></c:dLbls>"; };
+  const S text =
+      "<c:tx><c:rich><a:bodyPr/><a:lstStyle/><a:p><a:r><a:rPr "
+      "lang=\"en-US\"/><a:t>Two</a:t></a:r></a:p></c:rich></c:tx>";
+  const S cell = "<c:tx><c:strRef><c:f>Sheet1!$A$1</c:f></c:strRef></c:tx>";
+  const struct {
+    const char* what;
+    S before;
+    std::function<void(Chart&)> call;
+    S after;
+  } cases[] = {
+      {"the label of a point keeps what it shows", bars(all(label("", "1")), ""),
+       [](Chart& c) { c.SeriesCollection()->Item(1)->DataLabels()->Item(2)->SetText("Two"); },
+       bars(all(label(text, "1")), "")},
+      {"the title of an axis that a cell holds is turned", bars("", "<c:title>" + cell + "</c:title>"),
+       [](Chart& c) { c.Axes(excel::xlValue, 1)->AxisTitle()->SetOrientation(-4171); },
+       bars("",
+            "<c:title>" + cell + "<c:txPr><a:bodyPr rot=\"-5400000\" vert=\"horz\"/></c:txPr></c:title>")},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.what);
+    EXPECT_EQ(After(c.before, c.call), c.after);
   }
 }
 
