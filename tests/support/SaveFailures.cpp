@@ -31,11 +31,13 @@ struct Calls {
 };
 std::atomic<bool> isSaving = false;
 Calls allocations, fileCalls;
+std::atomic<bool> isFatal = false;  ///< whether a save can't do without the call that failed
 
 constexpr int kLast = 8;  ///< calls at the end of a save, which put the file in its place
 
-bool FileCallFails(int reason) {
+bool FileCallFails(int reason, bool fatal = true) {
   if (!isSaving || !fileCalls.FailsNow()) return false;
+  isFatal = fatal;
   errno = reason;
   return true;
 }
@@ -51,6 +53,7 @@ bool Saves(const Save& save, const S& path, int failingAllocation, int failingFi
   allocations.made = fileCalls.made = 0;
   allocations.failing = failingAllocation;
   fileCalls.failing = failingFileCall;
+  isFatal = false;
   isSaving = true;
   bool done = false;
   try {
@@ -82,6 +85,7 @@ void SaveWhileCallFails(const S& path, const Save& save, int call) {
   const auto before = BytesOf(target), good = BytesOf(path);
   const auto files = FilesBeside(target);
   const bool done = Saves(save, target, 0, call);
+  EXPECT_FALSE(done && isFatal) << "call " << call << " to a file";
   EXPECT_TRUE(BytesOf(target) == (done ? good : before)) << "call " << call << " to a file";
   EXPECT_EQ(FilesBeside(target), files) << "call " << call << " to a file";
   if (target != path) fs::remove(target);
@@ -139,7 +143,7 @@ void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 extern "C" {
 
 int open(const char* path, int flags, ...) {
-  if (failures::FileCallFails(EMFILE)) return -1;
+  if (failures::FileCallFails(EMFILE, false)) return -1;
   va_list arguments;
   va_start(arguments, flags);
   const mode_t mode = (flags & (O_CREAT | __O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
@@ -161,7 +165,9 @@ ssize_t pwrite(int file, const void* data, size_t size, off_t position) {
 }
 
 int fsync(int file) {
-  if (failures::FileCallFails(EIO)) return -1;
+  struct stat status {};
+  const bool isFolder = fstat(file, &status) == 0 && S_ISDIR(status.st_mode);
+  if (failures::FileCallFails(EIO, !isFolder)) return -1;
   static auto* const next = failures::Next<int(int)>("fsync");
   return next(file);
 }
@@ -179,7 +185,7 @@ int rename(const char* from, const char* to) noexcept {
 }
 
 int linkat(int fromFolder, const char* from, int toFolder, const char* to, int flags) noexcept {
-  if (failures::FileCallFails(ENOSPC)) return -1;
+  if (failures::FileCallFails(ENOSPC, false)) return -1;
   static auto* const next = failures::Next<int(int, const char*, int, const char*, int)>("linkat");
   return next(fromFolder, from, toFolder, to, flags);
 }

@@ -194,11 +194,24 @@ TEST_F(PackageFileTest, TheFileIsReplacedWholeOrNotAtAll) {
   EXPECT_TRUE(S_ISLNK(status.st_mode)) << "a link keeps pointing";
   ASSERT_EQ(stat(path.c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777, 0640u);
+  const mode_t mask = umask(027);
+  Package::Open(path).Save(folder_ / "new.xlsx");
+  EXPECT_EQ(umask(mask), mode_t{027}) << "the mask is as it was";
+  ASSERT_EQ(stat((folder_ / "new.xlsx").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777, 0640u);
+  std::filesystem::remove(folder_ / "new.xlsx");
 
   Package package = Package::Open(path);
   mkfifo((folder_ / "pipe").c_str(), 0600);
-  for (const S& bad : {folder_ / "no/such/folder/x.xlsx", folder_.Path().string(), folder_ / "pipe"}) {
-    EXPECT_THROW(package.Save(bad), PackageError) << bad;
+  for (const auto& [bad, reason] : {std::pair{folder_ / "no/such/folder/x.xlsx", "No such file or directory"},
+                                    {folder_.Path().string(), "it is not a regular file"},
+                                    {folder_ / "pipe", "it is not a regular file"}}) {
+    try {
+      package.Save(bad);
+      ADD_FAILURE() << bad;
+    } catch (const PackageError& e) {
+      EXPECT_EQ(e.what(), "can't write " + bad + ": " + reason);
+    }
   }
   std::size_t files = 0;
   for (const auto& entry : std::filesystem::directory_iterator(folder_.Path()))
