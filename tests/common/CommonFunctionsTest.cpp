@@ -51,6 +51,7 @@ TEST_F(CommonFunctionsTest, SheetsByName) {
   EXPECT_FALSE(SheetIsVisible("Nowhere"));
   for (const char* bad : {"a/b", "", "Data1", "History", "'x", "a name that is much too long for it"}) {
     EXPECT_FALSE(CreateSheet(bad, 1, -1)) << bad;
+    EXPECT_EQ(journal_.back(), "Application.DisplayAlerts = True") << bad;
   }
   EXPECT_EQ(oWorkbook->Sheets()->Count(), 3) << "no stray sheet stays behind";
   EXPECT_TRUE(CreateSheet("First", 0, -1));

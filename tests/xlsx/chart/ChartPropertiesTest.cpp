@@ -231,6 +231,22 @@ TEST_F(ChartPropertiesTest, PropertiesOfSeriesLabelsAndAxesAreWrittenInPlace) {
   }
 }
 
+TEST_F(ChartPropertiesTest, PresetColoursHaveTheirValues) {
+  const std::pair<const char*, std::int32_t> cases[] = {
+      {"black", 0},          {"white", 0xFFFFFF},   {"red", 0x0000FF},      {"green", 0x008000},
+      {"blue", 0xFF0000},    {"yellow", 0x00FFFF},  {"cyan", 0xFFFF00},     {"aqua", 0xFFFF00},
+      {"magenta", 0xFF00FF}, {"fuchsia", 0xFF00FF}, {"gray", 0x808080},     {"grey", 0x808080},
+      {"silver", 0xC0C0C0},  {"maroon", 0x000080},  {"navy", 0x800000},     {"olive", 0x008080},
+      {"purple", 0x800080},  {"teal", 0x808000},    {"lime", 0x00FF00},     {"orange", 0x00A5FF},
+      {"brown", 0x2A2AA5},   {"pink", 0xCBC0FF},    {"darkBlue", 0x8B0000}, {"darkRed", 0x00008B}};
+  for (const auto& [name, color] : cases) {
+    const S text = S("<c:txPr><a:bodyPr/><a:p><a:pPr><a:defRPr><a:solidFill><a:prstClr val=\"") + name +
+                   "\"/></a:solidFill></a:defRPr></a:pPr></a:p></c:txPr>";
+    const auto chart = OpenChart(Part("<c:plotArea/><c:legend>" + text + "</c:legend>"));
+    EXPECT_EQ(chart->Legend()->Font()->Color(), runtime::Variant(color)) << name;
+  }
+}
+
 TEST_F(ChartPropertiesTest, WhatIsThereIsChangedInPlace) {
   const auto bars = [](const S& labels, const S& title) {
     return Part(
@@ -239,6 +255,10 @@ TEST_F(ChartPropertiesTest, WhatIsThereIsChangedInPlace) {
         "<c:val><c:numLit><c:ptCount val=\"3\"/></c:numLit></c:val></c:ser><c:axId val=\"1\"/><c:axId "
         "val=\"2\"/></c:barChart><c:catAx><c:axId val=\"1\"/></c:catAx><c:valAx><c:axId val=\"2\"/>" +
         title + "</c:valAx></c:plotArea>");
+  };
+  const auto legend = [&](const S& layout) {
+    return runtime::Replace(bars("", ""), "</c:chart>",
+                            "<c:legend><c:layout>" + layout + "</c:layout></c:legend></c:chart>");
   };
   const auto label = [](const S& inside, const S& shows) {
     return "<c:dLbl><c:idx val=\"1\"/>" + inside + "<c:showVal val=\"0\"/><c:showSerName val=\"" + shows +
@@ -258,6 +278,9 @@ TEST_F(ChartPropertiesTest, WhatIsThereIsChangedInPlace) {
       {"the label of a point keeps what it shows", bars(all(label("", "1")), ""),
        [](Chart& c) { c.SeriesCollection()->Item(1)->DataLabels()->Item(2)->SetText("Two"); },
        bars(all(label(text, "1")), "")},
+      {"a place goes in front of extensions", legend("<c:extLst/>"),
+       [](Chart& c) { c.Legend()->SetLeft(96); },
+       legend("<c:manualLayout><c:xMode val=\"edge\"/><c:x val=\"0.25\"/></c:manualLayout><c:extLst/>")},
       {"the title of an axis that a cell holds is turned", bars("", "<c:title>" + cell + "</c:title>"),
        [](Chart& c) { c.Axes(excel::xlValue, 1)->AxisTitle()->SetOrientation(-4171); },
        bars("",
