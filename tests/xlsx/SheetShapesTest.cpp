@@ -1,4 +1,5 @@
 #include <limits>
+#include <regex>
 
 #include "tests/support/ChartTest.h"
 #include "xlsx/Worksheet.h"
@@ -114,6 +115,8 @@ TEST_F(SheetShapesTest, CharactersAreCountedOverBreaksAndParagraphs) {
 TEST(ShapeEnumerationsTest, GoBothWays) {
   for (const Enumeration* enumeration : {&kAutoShapes, &kAutoSizes}) {
     for (const EnumerationEntry& entry : enumeration->entries) {
+      EXPECT_TRUE(std::regex_match(S(entry.name), std::regex("mso(Shape|AutoSize)[A-Z0-9][A-Za-z0-9]*")))
+          << entry.name;
       EXPECT_EQ(enumeration->Token(entry.number), entry.token) << entry.name;
       EXPECT_EQ(enumeration->Number(entry.token), entry.number) << entry.name;
     }
