@@ -318,14 +318,6 @@ def tests_by_fault(program, filter_):
     return past, times
 
 
-def tests_of_room(room, times):
-    """The tests in the room's own folder."""
-    path = ROOT / "tests" / pathlib.Path(room).relative_to("src")
-    path = path if path.is_dir() else path.parent
-    suites = {suite for file in path.rglob("*.cpp") for suite in re.findall(r"^TEST\w*\((\w+),", file.read_text(), re.M)}
-    return {test for test in times if test.split(".")[0].split("/")[-1] in suites}
-
-
 def is_noticed(program, fault, tests, times):
     """Whether one of the tests fails while the fault is on."""
     tests = sorted(tests, key=lambda test: times.get(test, 0))
@@ -378,11 +370,10 @@ def main():
 
     survived = False
     for room, faults in rooms.items():
-        everywhere = set().union(tests_of_room(room, times), *(past[fault.number] for fault in faults)) - {"*"}
         survivors = []
         for fault in faults:
             # what is worked out once, or before all tests, may concern each of them
-            tests = everywhere if fault.is_static or "*" in past[fault.number] else past[fault.number]
+            tests = set(times) if fault.is_static or "*" in past[fault.number] else past[fault.number]
             if not is_noticed(program, fault, tests, times):
                 survivors.append(fault)
                 print(f"survived {fault.place()}{'' if tests else ' (no test comes here)'}\n"

@@ -1,9 +1,8 @@
 #include "Fault.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdio>
 #include <cstdlib>
+#include <gtest/gtest.h>
 #include <mutex>
 #include <vector>
 

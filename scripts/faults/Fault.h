@@ -2,8 +2,9 @@
 
 #include <utility>
 
-/// What scripts/mutate.py writes into copies of the sources: each place computes what the source says, or, while
-/// its fault is on, something else. One program so has all faults, and a run of it has one of them at most.
+/// What scripts/mutate.py writes into copies of the sources: each place computes what the source says, or,
+/// while its fault is on, something else. One program so has all faults, and a run of it has one of them at
+/// most.
 namespace plotsmith_fault {
 
 /// Returns true if the fault of this number is on. Notes the test that came here when the run records.
@@ -35,15 +36,15 @@ struct Left {
   T&& value;
 };
 
-#define PLOTSMITH_FAULT_OPERATOR(OPERATOR, WRONG)                                      \
-  template <class T, int fault>                                                       \
-  Left<fault, T> operator OPERATOR(T&& left, At<fault>) {                             \
-    return {std::forward<T>(left)};                                                   \
-  }                                                                                   \
-  template <int fault, class T, class U>                                              \
-  auto operator OPERATOR(Left<fault, T>&& left, U&& right) {                          \
-    using Result = decltype(std::forward<T>(left.value) OPERATOR std::forward<U>(right)); \
-    if (On(fault)) return std::decay_t<Result>(WRONG);                                \
+#define PLOTSMITH_FAULT_OPERATOR(OPERATOR, WRONG)                                             \
+  template <class T, int fault>                                                               \
+  Left<fault, T> operator OPERATOR(T&& left, At<fault>) {                                     \
+    return {std::forward<T>(left)};                                                           \
+  }                                                                                           \
+  template <int fault, class T, class U>                                                      \
+  auto operator OPERATOR(Left<fault, T>&& left, U&& right) {                                  \
+    using Result = decltype(std::forward<T>(left.value) OPERATOR std::forward<U>(right));     \
+    if (On(fault)) return std::decay_t<Result>(WRONG);                                        \
     return std::decay_t<Result>(std::forward<T>(left.value) OPERATOR std::forward<U>(right)); \
   }
 

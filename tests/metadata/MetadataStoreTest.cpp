@@ -173,6 +173,7 @@ TEST_F(MetadataStoreTest, PaletteIsSetOnceAndOnlyWhereNobodyCares) {
   for (int i = 0; i < 7; ++i) EXPECT_EQ(oWorkbook->Colors(17 + i), colors[i]) << i;
   SaveAndReopen();
   for (int i = 0; i < 7; ++i) EXPECT_EQ(oWorkbook->Colors(17 + i), colors[i]) << i;
+  for (int i = 1; i < 17; ++i) EXPECT_EQ(oWorkbook->Colors(i), xlsx::DefaultPaletteColor(i)) << i;
 
   PlainBook charted = SalesBook({{"Somebody's"}});
   charted.sheets.pop_back();

@@ -111,7 +111,7 @@ void Run(const S& path, const Save& save, int every) {
 
 }  // namespace
 
-void SaveThroughFailures(const S& path, const Save& save) { Run(path, save, 30); }
+void SaveThroughFailures(const S& path, const Save& save) { Run(path, save, 31); }
 
 void SaveThroughEachFailure(const S& path, const Save& save) { Run(path, save, 1); }
 

@@ -108,6 +108,16 @@ class ScratchFile {
 };
 constexpr std::size_t kCopiedBlock = 256 * 1024;
 
+/// Opens the file of a closed archive again. Returns false, and leaves the archive closed, if that fails.
+bool Reopen(std::unique_ptr<Archive>& archive) {
+  try {
+    archive = std::make_unique<Archive>(archive->Path());
+    return true;
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
 }  // namespace
 
 /// Bytes are held only of a part that is new or changed; of any other there is the entry in the archive.
@@ -429,16 +439,6 @@ void Package::Save(const std::string& path) {
   Commit(file, path);
 }
 
-/// Opens the file of a closed archive again. Returns false, and leaves the archive closed, if that fails.
-static bool Reopen(std::unique_ptr<Archive>& archive) {
-  try {
-    archive = std::make_unique<Archive>(archive->Path());
-    return true;
-  } catch (const std::exception&) {
-    return false;
-  }
-}
-
 /// Windows doesn't replace a file that is open. A package that is saved over its own file therefore closes
 /// it, and reads the new one from then on, in which the parts have the order that they have here.
 void Package::Commit(AtomicFile& file, const std::string& path) {
@@ -458,7 +458,6 @@ void Package::Commit(AtomicFile& file, const std::string& path) {
   if (!Reopen(archive_)) return;  // the workbook is saved; only what is yet to be read of it can't be
   for (std::size_t i = 0; i < parts_.size(); ++i) parts_[i]->entry = i;
 }
-
 
 void Package::Save(std::ostream& out) {
   const ScratchFile scratch;
