@@ -158,7 +158,7 @@ def faults_of(path):
         other = str(int(m.group(0)) + 1)
         token(m.start(), m.end(), other, lambda n, a=m.group(0), b=other: f"plotsmith_fault::Pick({n}, {a}, {b})")
     for m in re.finditer(r'"([A-Za-z][^"\\%\n]*)"', text):
-        if code[m.start()] != "_" or text[m.start() - 1] in "Ru8" or text[m.end()].isalpha():
+        if code[m.start()] != "_" or code[m.start() - 1] == "_" or text[m.start() - 1] in "Ru8" or text[m.end()].isalpha():
             continue
         other = f'"{m.group(1)}_"'
         token(m.start(), m.end(), other, lambda n, a=m.group(0), b=other: f"plotsmith_fault::Pick({n}, {a}, {b})")
