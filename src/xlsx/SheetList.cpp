@@ -235,10 +235,10 @@ void SheetList::Write() {
 
 void SheetList::WriteActiveTab() {
   if (active_ < sheets_.size() && sheets_[active_] != opened_) {
-    opened_ = sheets_[active_];
     std::vector<std::string> parts;
     for (const auto& sheet : sheets_) parts.push_back(sheet->part);
-    SelectOnlyTab(book_.Package(), parts, opened_->part);
+    SelectOnlyTab(book_.Package(), parts, sheets_[active_]->part);
+    opened_ = sheets_[active_];
   }
   const auto active = static_cast<long long>(active_);
   pugi::xml_node view = xml::Child(part_.Root(), "bookViews", "workbookView");

@@ -103,7 +103,7 @@ TEST_F(BubbleDataTest, TinyBubblesAreRaisedAndEmptyOnesIfTheChartShowsThem) {
   for (const Case& c :
        {Case{1000, 1, 0, "1000\n2\n0", "1000\n2\n2"}, Case{1000, 2, 1.5, "1000\n2\n2", "1000\n2\n2"},
         Case{0, 0, 0, "0\n0\n0", "1\n1\n1"}, Case{10, -3, -4, "10\n-3\n-4", "10\n0.02\n0.02"},
-        Case{-1, -3, -4, "-1\n-3\n-4", "1\n1\n1"}}) {
+        Case{1, 0.001, 0, "1\n0.002\n0", "1\n0.002\n0.002"}, Case{-1, -3, -4, "-1\n-3\n-4", "1\n1\n1"}}) {
     SCOPED_TRACE(c.without);
     Open(BubbleBook({{"A", "x", 0, 0, c.first}, {"B", "x", 0, 0, c.second}, {"C", "x", 0, 0, c.third}},
                     BubbleDefinition()));

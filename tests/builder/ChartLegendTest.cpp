@@ -132,6 +132,15 @@ TEST_F(ChartLegendTest, WhoTookItAwayDoesNotGetItBack) {
   EXPECT_TRUE(Messages().empty());
 }
 
+TEST_F(ChartLegendTest, OneThatIsShownIsDrawnInThePlaceOfTheHostsOwn) {
+  Definition definition = BubbleDefinition();
+  definition.rest += runtime::Replace(kHide, "hide", "show");
+  const Lines calls = ChartCalls(BubbleBook({{"A", "North", 1, 2, 30}}, definition));
+  EXPECT_EQ(Entries(calls), Lines{"\"North\""});
+  EXPECT_EQ(With(calls, "HasLegend").back(), "Chart.HasLegend = False");
+  EXPECT_EQ(Names(), "VEX_Legend;");
+}
+
 TEST_F(ChartLegendTest, NamesThatGetLostAndNamesThatSpoilIt) {
   const auto entries = [&](const S& first, const S& second) {
     return Entries(
@@ -149,17 +158,20 @@ TEST_F(ChartLegendTest, NamesThatGetLostAndNamesThatSpoilIt) {
 
 TEST_F(ChartLegendTest, SizesAndPlacesByTheStoredFont) {
   struct Case {
-    S size;
+    S size, left;
     Lines frame;  // Width, height, left and top of the text "North", and height and width of its key.
   };
   for (const Case& c :
-       {Case{"4", {"Width = 10", "Height = 8", "Left = 4", "Top = 3", "Height = 3", "Width = 3"}},
-        Case{"1", {"Width = 2.5", "Height = 2", "Left = 1", "Height = 1", "Width = 1"}},
-        Case{"12pt", {"Width = 30", "Height = 24", "Left = 14", "Top = 19", "Height = 11", "Width = 11"}}}) {
+       {Case{"4", "30", {"Width = 10", "Height = 8", "Left = 4", "Top = 3", "Height = 3", "Width = 3"}},
+        Case{"1", "30", {"Width = 2.5", "Height = 2", "Left = 1", "Height = 1", "Width = 1"}},
+        Case{"2", "1", {"Width = 5", "Height = 4", "Left = 2", "Height = 1", "Width = 1"}},
+        Case{"12pt",
+             "30",
+             {"Width = 30", "Height = 24", "Left = 14", "Top = 19", "Height = 11", "Width = 11"}}}) {
     Definition definition = BubbleDefinition();
     definition.rest += "<auto-persistence><persist property=\"legend-font-size\" value=\"" + c.size +
-                       "\"/><persist property=\"legend-left\" value=\"30\"/><persist property=\"legend-top\" "
-                       "value=\"40.5\"/></auto-persistence>";
+                       "\"/><persist property=\"legend-left\" value=\"" + c.left +
+                       "\"/><persist property=\"legend-top\" value=\"40.5\"/></auto-persistence>";
     const Lines shapes = ShapeCalls(ChartCalls(BubbleBook({{"A", "North", 1, 2, 30}}, definition)));
     Lines frame;
     for (const S& line : shapes) {
@@ -169,7 +181,7 @@ TEST_F(ChartLegendTest, SizesAndPlacesByTheStoredFont) {
     }
     ASSERT_GE(frame.size(), c.frame.size() + 3);
     EXPECT_EQ(Lines(frame.begin(), frame.begin() + static_cast<std::ptrdiff_t>(c.frame.size())), c.frame);
-    EXPECT_EQ(Lines(frame.end() - 2, frame.end()), (Lines{"Left = 30", "Top = 40.5"}))
+    EXPECT_EQ(Lines(frame.end() - 2, frame.end()), (Lines{"Left = " + c.left, "Top = 40.5"}))
         << "a place that somebody chose";
   }
 }

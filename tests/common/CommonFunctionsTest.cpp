@@ -54,6 +54,7 @@ TEST_F(CommonFunctionsTest, SheetsByName) {
   EXPECT_FALSE(SheetIsVisible("Nowhere"));
   for (const char* bad : {"a/b", "", "Data1", "History", "'x", "a name that is much too long for it"}) {
     EXPECT_FALSE(CreateSheet(bad, 1, -1)) << bad;
+    EXPECT_EQ(journal_.back(), "Application.DisplayAlerts = True") << bad;
   }
   EXPECT_EQ(oWorkbook->Sheets()->Count(), 3) << "no stray sheet stays behind";
   EXPECT_TRUE(CreateSheet("First", 0, -1));
@@ -95,6 +96,9 @@ TEST_F(CommonFunctionsTest, SampleNumbers) {
   EXPECT_EQ(FormatSampleNumber("#,##0.00"), "12,345.68");
   EXPECT_EQ(FormatSampleNumber("General"), "12345.6789");
   EXPECT_EQ(Cells("VEX_ChartDefinitions", 1, 2, 1, 2), "");
+  Book().FindWorksheet("VEX_ChartDefinitions")->SetCellValueAt(2, 2, S("kept"));
+  EXPECT_EQ(FormatSampleNumber("0"), "12346");
+  EXPECT_EQ(Cells("VEX_ChartDefinitions", 2, 2, 2, 2), "kept");
   EXPECT_EQ(FormatSampleNumber("0.0.\""), "(invalid format)");
 }
 
@@ -110,6 +114,28 @@ class ClockDesktop : public desktop::Desktop {
   std::int32_t UserDefaultLCID() override { return 1033; }
   double now = 0;
 };
+
+TEST_F(CommonFunctionsTest, ARunBeginsWithItsVariablesAsTheComponentStarts) {
+  Open(test::SalesBook({{"VEX_Chart1"}}));
+  Refresh();
+  oApplication = host_;
+  oWorkbook = host_->ActiveWorkbook();
+  colTables = runtime::MakeRef<DocumentCollection>();
+  colCharts = runtime::MakeRef<DocumentCollection>();
+  colChartObjects = runtime::MakeRef<runtime::Collection<runtime::Ref<excel::Chart>>>();
+  colChartShapes = runtime::MakeRef<runtime::Collection<runtime::Ref<excel::Shape>>>();
+  oChartDoc = NewXMLDocument();
+  sCustomAppName = sChartType = sChartID = sTableID = sPendingMessage = "used";
+  lMethodType = 7;
+  bRunAborted = bUnloadingPage = true;
+  ResetRunVariables();
+  EXPECT_FALSE(oApplication || oWorkbook || colTables || colCharts || colChartObjects || colChartShapes);
+  EXPECT_FALSE(oChartDoc);
+  EXPECT_EQ(sCustomAppName + "|" + sChartType + "|" + sChartID + "|" + sTableID + "|" + sPendingMessage,
+            "|unknown|||");
+  EXPECT_EQ(lMethodType, 0);
+  EXPECT_FALSE(bRunAborted || bUnloadingPage);
+}
 
 TEST_F(CommonFunctionsTest, YieldsAtMostEveryTwoSeconds) {
   const auto clock = std::make_shared<ClockDesktop>();

@@ -312,5 +312,15 @@ TEST_F(EntryTest, RenamedColumnsReportUnderTheShorterName) {
                      "With block variable not set"});
 }
 
+TEST_F(EntryTest, ARunLeavesNothingBehind) {
+  Open(SalesBook({{"VEX_Chart1"}}));
+  Refresh();
+  EXPECT_FALSE(colTables || colCharts || colChartObjects || colChartShapes || oChartDoc);
+  EXPECT_EQ(sChartType + "|" + sChartID + "|" + sTableID, "unknown||");
+  EXPECT_TRUE(host_->ScreenUpdating());
+  StopSystem();
+  EXPECT_FALSE(App.Desktop || App.Forms);
+}
+
 }  // namespace
 }  // namespace plotsmith

@@ -40,6 +40,23 @@ class MetadataStoreTest : public test::HostTest {
   }
 };
 
+TEST_F(MetadataStoreTest, ADefinitionIsStoredInTheRowInWhichItIsNow) {
+  Open(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}}));
+  Load();
+  const auto sheet = Book().FindWorksheet("VEX_ChartDefinitions");
+  const std::string first = Cells("VEX_ChartDefinitions", 2, 1, 2, 1),
+                    second = Cells("VEX_ChartDefinitions", 3, 1, 3, 1);
+  sheet->SetCellValueAt(2, 1, std::string("<chart id=\"VEX_Chart1\""));  // damaged meanwhile
+  sheet->SetCellValueAt(3, 1, first);
+  sheet->SetCellValueAt(4, 1, second);
+  auto document = colCharts->Item("VEX_Chart1");
+  document.documentElement().setAttribute("title", "New");
+  SaveChartDefinition(document);
+  EXPECT_EQ(Cells("VEX_ChartDefinitions", 2, 1, 5, 1),
+            "<chart id=\"VEX_Chart1\"\n" + document.xml() + "\n" + second + "\n");
+  EXPECT_TRUE(Messages().empty());
+}
+
 TEST_F(MetadataStoreTest, RowsWithoutAPlaceGoAndTheOthersKeepTheirOrder) {
   PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}, {"VEX_Chart3"}});
   auto& rows = book.Sheet("VEX_ChartDefinitions").rows;
@@ -151,10 +168,12 @@ TEST_F(MetadataStoreTest, PaletteIsSetOnceAndOnlyWhereNobodyCares) {
   plain.sheets = {test::SalesSheet()};
   Open(plain);
   Load();
-  EXPECT_EQ(oWorkbook->Colors(17), 102 + 256 * 102 + 65536 * 153);
+  const std::int32_t colors[] = {
+      0x996666, 0x99FFFF, 0x669933, 0x8080FF, 0xCCCC33, 0x800080, xlsx::DefaultPaletteColor(23)};
+  for (int i = 0; i < 7; ++i) EXPECT_EQ(oWorkbook->Colors(17 + i), colors[i]) << i;
   SaveAndReopen();
-  EXPECT_EQ(oWorkbook->Colors(22), 128 + 65536 * 128);
-  EXPECT_EQ(oWorkbook->Colors(23), xlsx::DefaultPaletteColor(23));
+  for (int i = 0; i < 7; ++i) EXPECT_EQ(oWorkbook->Colors(17 + i), colors[i]) << i;
+  for (int i = 1; i < 17; ++i) EXPECT_EQ(oWorkbook->Colors(i), xlsx::DefaultPaletteColor(i)) << i;
 
   PlainBook charted = SalesBook({{"Somebody's"}});
   charted.sheets.pop_back();

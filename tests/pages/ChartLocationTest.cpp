@@ -46,6 +46,7 @@ TEST_F(ChartLocationTest, StatesAndDefaults) {
        kToLocation + "choose optTargetSheet(0); " + fresh + "choose optTargetSheet(1); " + existing},
       {SalesBook({}), kToLocation + "press cmdHelp; look default cmdFinish"},
       {secondActive, kToLocation + "expect cboSheet.Text Data1"},
+      {WithSheets({"A"}), kToLocation + "expect cboSheet.List Data1|Charts|A"},
       {WithSheets({"A"}, "hidden"), kToLocation + "expect cboSheet.List Data1|Charts"},
       {WithSheets({"A"}, "veryHidden"), kToLocation + "expect cboSheet.List Data1|Charts"},
       {WithSheets({"CHART1"}), kToLocation + "expect txtSheet.Text \"Chart1 (2)\""},

@@ -1,6 +1,7 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <sstream>
 
 #include "common/Documents.h"
 #include "common/RunVariables.h"
@@ -337,18 +338,32 @@ TEST_F(ReadBackTest, TypesOfCharts) {
     int number;
   } const cases[] = {
       {group("barChart", ""), "column", 51},
+      {group("barChart", bars("col", "stacked")), "column stacked", 52},
+      {group("barChart", bars("col", "percentStacked")), "column stacked 100%", 53},
+      {group("barChart", bars("bar", "clustered")), "bar", 57},
+      {group("barChart", bars("bar", "stacked")), "bar stacked", 58},
       {group("barChart", bars("bar", "percentStacked")), "bar stacked 100%", 59},
+      {group("bar3DChart", bars("col", "clustered")), "column 3D", 54},
+      {group("bar3DChart", bars("col", "stacked")), "column 3D stacked", 55},
+      {group("bar3DChart", bars("col", "percentStacked")), "column 3D stacked 100%", 56},
+      {group("bar3DChart", bars("bar", "clustered")), "bar 3D", 60},
+      {group("bar3DChart", bars("bar", "percentStacked")), "bar 3D stacked 100%", 62},
       {group("bar3DChart", bars("col", "standard")), "column", -4100},
       {group("bar3DChart", bars("bar", "stacked")), "bar 3D stacked", 61},
       {group("bar3DChart", bars("col", "clustered") + shape("cylinder")), "unknown", 92},
       {group("bar3DChart", bars("bar", "stacked"), shape("coneToMax")), "unknown", 103},
       {group("areaChart", ""), "area", 1},
+      {group("areaChart", "<c:grouping val=\"stacked\"/>"), "area stacked", 76},
+      {group("areaChart", "<c:grouping val=\"percentStacked\"/>"), "area stacked 100%", 77},
+      {group("area3DChart", ""), "area 3D", -4098},
+      {group("area3DChart", "<c:grouping val=\"stacked\"/>"), "area 3D stacked", 78},
       {group("area3DChart", "<c:grouping val=\"percentStacked\"/>"), "area 3D stacked 100%", 79},
       {group("pieChart", ""), "pie", 5},
       {group("pieChart", "", "<c:explosion val=\"10\"/>"), "pie exploded", 69},
       {group("pieChart", "",
              "<c:dPt><c:idx val=\"0\"/><c:explosion val=\"10\"/></c:dPt><c:dPt><c:idx val=\"1\"/></c:dPt>"),
        "pie", 5},
+      {group("pie3DChart", ""), "pie 3D", -4102},
       {group("pie3DChart", "", "<c:explosion val=\"10\"/>"), "pie 3D exploded", 70},
       {group("bubbleChart", "<c:bubble3D val=\"1\"/>"), "bubble 3D", 87},
       {group("bubbleChart", "", "<c:bubble3D val=\"0\"/>"), "bubble", 15},
@@ -359,6 +374,29 @@ TEST_F(ReadBackTest, TypesOfCharts) {
       {group("scatterChart", "<c:scatterStyle val=\"smoothMarker\"/>"), "unknown", 72},
       {group("scatterChart", "<c:scatterStyle val=\"lineMarker\"/>", noLine), "unknown", -4169},
       {group("radarChart", "<c:radarStyle val=\"filled\"/>"), "unknown", 82},
+      {group("radarChart", "<c:radarStyle val=\"marker\"/>"), "unknown", 81},
+      {group("radarChart", "<c:radarStyle val=\"standard\"/>"), "unknown", -4151},
+      {group("ofPieChart", "<c:ofPieType val=\"bar\"/>"), "unknown", 71},
+      {group("ofPieChart", ""), "unknown", 68},
+      {group("doughnutChart", "", "<c:explosion val=\"1\"/>"), "unknown", 80},
+      {group("line3DChart", ""), "unknown", -4101},
+      {group("lineChart", "<c:grouping val=\"percentStacked\"/>"), "unknown", 64},
+      {group("lineChart", "<c:grouping val=\"stacked\"/><c:marker val=\"1\"/>"), "unknown", 66},
+      {group("lineChart", "<c:grouping val=\"percentStacked\"/><c:marker val=\"1\"/>"), "unknown", 67},
+      {group("scatterChart", "<c:scatterStyle val=\"smooth\"/>"), "unknown", 73},
+      {group("scatterChart", "<c:scatterStyle val=\"lineMarker\"/>"), "unknown", 74},
+      {group("scatterChart", "<c:scatterStyle val=\"line\"/>"), "unknown", 75},
+      {group("scatterChart", "<c:scatterStyle val=\"lineMarker\"/>", "<c:smooth val=\"1\"/>"), "unknown", 72},
+      {group("scatterChart", "<c:scatterStyle val=\"none\"/>"), "unknown", -4169},
+      {group("surface3DChart", ""), "unknown", 83},
+      {group("surface3DChart", "<c:wireframe val=\"1\"/>"), "unknown", 84},
+      {group("surfaceChart", ""), "unknown", 85},
+      {group("surfaceChart", "<c:wireframe val=\"1\"/>"), "unknown", 86},
+      {group("stockChart", Ser() + Ser()), "unknown", 88},
+      {group("stockChart", Ser() + Ser() + Ser()), "unknown", 89},
+      {group("bar3DChart", bars("col", "standard") + shape("pyramid")), "unknown", 112},
+      {group("bar3DChart", bars("col", "percentStacked") + shape("cone")), "unknown", 101},
+      {group("bar3DChart", bars("bar", "clustered") + shape("cylinder")), "unknown", 95},
       {"<c:plotArea><c:barChart>" + bars("col", "stacked") + Ser() + Ser("", 1) +
            "</c:barChart><c:lineChart><c:marker val=\"1\"/>" + Ser(noLine + dash, 2) +
            "</c:lineChart></c:plotArea>",
@@ -383,6 +421,144 @@ TEST_F(ReadBackTest, TypesOfCharts) {
     S said = Summary(document);
     EXPECT_EQ(said.substr(0, said.find(" |")), c.type);
   }
+}
+
+/// Entries of `auto-persistence` from "size=10 name=Calibri", each key behind `keys` and a hyphen.
+S Persisted(const S& keys, const S& values) {
+  S xml;
+  std::istringstream words(values);
+  for (S word; words >> word;) {
+    const auto equals = word.find('=');
+    xml += "<persist property=\"" + keys + "-" + word.substr(0, equals) + "\" value=\"" +
+           word.substr(equals + 1) + "\"/>";
+  }
+  return xml;
+}
+
+TEST_F(ReadBackTest, TheWholeDefinitionAfterwards) {
+  const S red = Fill("<a:srgbClr val=\"FF0000\"/>"), serif = "<a:latin typeface=\"Georgia\"/>";
+  const S shown = "<c:showVal val=\"1\"/>", shares = "<c:showPercent val=\"1\"/>";
+  const S axes = "<c:catAx><c:axId val=\"1\"/><c:title>" + Rich(TextRun("Regions")) +
+                 "</c:title></c:catAx><c:valAx><c:axId val=\"2\"/></c:valAx>";
+  const auto bucket = [&](const S& valueLabels) {
+    const S ends = "<c:axId val=\"1\"/><c:axId val=\"2\"/>";
+    return "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:grouping val=\"stacked\"/>" + Ser() + ends +
+           "</c:barChart><c:lineChart>" +
+           Ser("<c:spPr><a:ln><a:noFill/></a:ln></c:spPr><c:marker><c:symbol val=\"dash\"/></c:marker>"
+               "<c:dLbls>" +
+                   valueLabels + shown + "</c:dLbls>",
+               1) +
+           ends +
+           "</c:lineChart><c:catAx><c:axId val=\"1\"/></c:catAx><c:valAx><c:axId val=\"2\"/></c:valAx>"
+           "</c:plotArea>";
+  };
+  const S none = "size= name= color= style= autoscale=";
+  const S usual = "size=10 name=Calibri color=0 style=Bold autoscale=True";
+  const S untitled = Persisted("LabelAxis-font", none) + Persisted("ValueAxis-font", none);
+  const S labels = Persisted("label-font",
+                             "name=Arial style=Regular size=9 color=0 background-color=-4105 autoscale=True");
+  const S noBucket = Persisted("bucket-label-font", "name= size= color= style= autoscale="),
+          noLegend = Persisted("legend", "visibility=hide");
+  const auto persistence = [](const S& entries) {
+    return "<auto-persistence>" + entries + "</auto-persistence>";
+  };
+  const S noSettings = "<dynamic-attributes/>";
+  const S axesWithoutTitles =
+      "<axes><axis type=\"label\" label=\"\" sticky=\"yes\"/><axis type=\"value\" label=\"\" "
+      "sticky=\"yes\"/></axes>";
+  const S bucketChart = "<chart title=\"\" type=\"strategic bucket\" number-format=\"\">" + noSettings;
+  const struct {
+    const char* what;
+    S before, chart, after;
+  } cases[] = {
+      {"old answers go, and an axis title that is as it was isn't the person's",
+       "<chart title=\"Old\" type=\"pie\" number-format=\"0\"><auto-persistence><persist/></auto-persistence>"
+       "<dynamic-attributes><attribute/></dynamic-attributes><axes><axis type=\"value\" label=\"Amounts\"/>"
+       "<axis type=\"label\" label=\"Regions\" LabelAxis-font-name=\"Calibri\" sticky=\"no\"/></axes>"
+       "<data-labels manual-labels=\"yes\"><data-label show=\"percentages\"/></data-labels></chart>",
+       Bar(Ser("<c:dLbls>" + Props("sz=\"800\">" + red) + shown + "</c:dLbls>"), axes) +
+           "<c:legend><c:legendPos val=\"t\"/></c:legend>",
+       "<chart title=\"\" type=\"column\" number-format=\"0\">" + noSettings +
+           persistence(Persisted("LabelAxis-font", usual) + Persisted("ValueAxis-font", none) +
+                       Persisted("legend", "visibility=show position=-4160") +
+                       Persisted("legend-font", "name=Calibri style=Regular size=10 color=0 autoscale=True") +
+                       Persisted("label-font",
+                                 "name=Calibri style=Regular size=8 color=255 "
+                                 "background-color=-4105 autoscale=True") +
+                       noBucket) +
+           "<axes><axis type=\"label\" label=\"Regions\" sticky=\"no\"/><axis type=\"value\" label=\"\" "
+           "sticky=\"yes\"/></axes><data-labels manual-labels=\"yes\"><data-label show=\"values\"/>"
+           "</data-labels></chart>"},
+      {"a definition without fonts means the usual ones",
+       "<chart><axes><axis type=\"label\" label=\"Regions\" LabelAxis-font-name=\"Calibri\"/></axes></chart>",
+       Bar(Ser(), axes),
+       "<chart title=\"\" type=\"column\" number-format=\"\">" + noSettings +
+           persistence(Persisted("LabelAxis-font", usual) + Persisted("ValueAxis-font", none) + noLegend +
+                       labels + noBucket) +
+           "<axes><axis type=\"label\" label=\"Regions\" sticky=\"\"/><axis type=\"value\" label=\"\" "
+           "sticky=\"yes\"/></axes><data-labels/></chart>"},
+      {"a pie has no axes, and what was said of them stays",
+       "<chart><axes><axis type=\"label\" label=\"L\"/></axes><data-labels/></chart>",
+       "<c:plotArea><c:pie3DChart>" + Ser("<c:dLbls>" + shares + "</c:dLbls>") +
+           "</c:pie3DChart></c:plotArea>",
+       "<chart title=\"\" type=\"pie\"><axes><axis type=\"label\" label=\"L\"/></axes>" +
+           test::Settings({"3D"}) +
+           persistence(noLegend +
+                       Persisted("label-font",
+                                 "name=Calibri style=Regular size=10 color=0 "
+                                 "background-color=-4105 autoscale=True") +
+                       noBucket) +
+           "<data-labels><data-label show=\"percentages\"/></data-labels></chart>"},
+      {"the bucket values have a font of their own", "<chart/>", bucket(Props("sz=\"1300\" i=\"1\">" + red)),
+       bucketChart +
+           persistence(
+               untitled + noLegend + labels +
+               Persisted("bucket-label-font", "name=Calibri size=13 color=255 style=Italic autoscale=True")) +
+           axesWithoutTitles + "<data-labels/></chart>"},
+      {"bucket values that disagree about their font", "<chart/>",
+       bucket("<c:dLbl><c:idx val=\"1\"/>" + Props("sz=\"1300\" i=\"1\">" + red + serif) + shown +
+              "</c:dLbl>"),
+       bucketChart +
+           persistence(
+               untitled + noLegend + labels +
+               Persisted("bucket-label-font", "name=Arial size=9 color=16777215 style=Bold autoscale=True")) +
+           axesWithoutTitles + "<data-labels/></chart>"},
+      {"labels that disagree about their font", "<chart/>",
+       Bar(Ser("<c:dLbls><c:dLbl><c:idx val=\"1\"/>" + Props("sz=\"1300\" i=\"1\">" + red + serif) + shown +
+               "</c:dLbl>" + shown + "</c:dLbls>")),
+       "<chart title=\"\" type=\"column\" number-format=\"\">" + noSettings +
+           persistence(untitled + noLegend + labels + noBucket) + axesWithoutTitles +
+           "<data-labels><data-label show=\"values\"/></data-labels></chart>"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.what);
+    auto document = NewXMLDocument();
+    ASSERT_TRUE(document.loadXML(c.before));
+    RevEngineerChart(OpenChart(test::ChartPartXml(c.chart)), document);
+    EXPECT_EQ(document.xml(), c.after);
+  }
+  EXPECT_EQ(Messages(), std::vector<S>{});
+}
+
+TEST_F(ReadBackTest, EachProcedureReportsUnderItsName) {
+  auto document = NewXMLDocument();
+  document.loadXML("<chart/>");
+  const excel::Ref<excel::Chart> nothing;
+  RevEngineerChartTitle(nothing, document);
+  RevEngineerChartType(nothing, document);
+  RevEngineerNumberFormat(nothing, document);
+  RevEngineerAxisLabels(nothing, document);
+  RevEngineerChartLegend(nothing, document);
+  RevEngineerChartDataLabels(nothing, document);
+  EXPECT_FALSE(IsStrBuckChart(nothing));
+  std::vector<S> expected;
+  for (const char* name :
+       {"RevEngineerChartTitle", "RevEngineerChartType", "RevEngineerNumberFormat", "RevEngineerAxisLabels",
+        "RevEngineerChartLegend", "RevEngineerChartDataLabels", "IsStrBuckChart"}) {
+    expected.push_back(S("Brindle Plotsmith: PSRevEngineerChart.") + name +
+                       "\nObject variable or With block variable not set");
+  }
+  EXPECT_EQ(Messages(), expected);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "runtime/Strings.h"
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
+#include "tests/support/SaveFailures.h"
 
 namespace plotsmith {
 namespace {
@@ -123,7 +124,7 @@ TEST_F(RefreshScenarioTest, WhatIsNotOursKeepsItsBytes) {
                        {"customXml/item1.xml", "<?x?>\r\n<a  b = 'c'/>"}};
     Open(book);
     Refresh();
-    Book().Save(folder_ / "saved.xlsx");
+    test::SaveThroughFailures(folder_ / "saved.xlsx", [&](const S& path) { Book().Save(path); });
     const auto before = xlsx::Package::Open(folder_ / "book.xlsx"),
                after = xlsx::Package::Open(folder_ / "saved.xlsx");
     const std::set<S> ours = {"/[Content_Types].xml", "/xl/workbook.xml", "/xl/_rels/workbook.xml.rels",
@@ -133,6 +134,18 @@ TEST_F(RefreshScenarioTest, WhatIsNotOursKeepsItsBytes) {
       if (before.Read(part) != after.Read(part)) changed.insert(part);
     }
     EXPECT_EQ(changed, ours);
+  }
+}
+
+TEST_F(RefreshScenarioTest, WithoutMemoryASaveLeavesTheOldFile) {
+  const auto isSaved = [&](int allocation) {
+    Open(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}}));
+    Refresh();
+    Book().Activate(*Book().FindSheet("Charts"));
+    return test::SaveWithoutMemory(folder_ / "book.xlsx", allocation,
+                                   [&](const S& path) { Book().Save(path); });
+  };
+  for (int allocation = 1; !isSaved(allocation); allocation += 1 + allocation / 8) {
   }
 }
 

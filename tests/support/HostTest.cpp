@@ -6,6 +6,7 @@
 #include "controller/CPlotsmithController.h"
 #include "controller/System.h"
 #include "forms/UnattendedView.h"
+#include "tests/support/SaveFailures.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith::test {
@@ -69,7 +70,7 @@ xlsx::Workbook& HostTest::Open(const PlainBook& book, const std::string& version
 void HostTest::Refresh() { CPlotsmithController().RefreshPlotsmithData(host_, "Test", ""); }
 
 xlsx::Workbook& HostTest::SaveAndReopen() {
-  Book().Save(folder_ / "saved.xlsx");
+  SaveThroughFailures(folder_ / "saved.xlsx", [this](const std::string& path) { Book().Save(path); });
   const std::string version = host_->Version();
   return OpenFile(folder_ / "saved.xlsx", version);
 }

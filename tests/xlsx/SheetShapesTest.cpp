@@ -1,4 +1,5 @@
 #include <limits>
+#include <regex>
 
 #include "tests/support/ChartTest.h"
 #include "xlsx/Worksheet.h"
@@ -72,9 +73,50 @@ TEST_F(SheetShapesTest, ANewShapeLiesWhereAnOldOneWouldComeToLie) {
   EXPECT_FALSE(test::Has(drawing, "\"-")) << drawing;
 }
 
+TEST_F(SheetShapesTest, CharactersAreCountedOverBreaksAndParagraphs) {
+  const auto run = [](const S& text, const S& properties = "") {
+    return "<a:r>" + properties + "<a:t>" + text + "</a:t></a:r>";
+  };
+  const S bold = "<a:rPr b=\"1\"/>", second = "</a:p><a:p>";
+  const S before = run("ab") + "<a:br/>" + run("cdef") + second + run("gh");
+  const struct {
+    int start, length;
+    S text, after;
+  } cases[] = {
+      {1, 2, "ab", run("ab", bold) + "<a:br/>" + run("cdef") + second + run("gh")},
+      {2, 3, "b\nc",
+       run("a") + run("b", bold) + "<a:br/>" + run("c", bold) + run("def") + second + run("gh")},
+      {5, 2, "de", run("ab") + "<a:br/>" + run("c") + run("de", bold) + run("f") + second + run("gh")},
+      {7, 3, "f\ng",
+       run("ab") + "<a:br/>" + run("cde") + run("f", bold) + second + run("g", bold) + run("h")},
+      {10, 9, "h", run("ab") + "<a:br/>" + run("cdef") + second + run("g") + run("h", bold)},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.text);
+    test::PlainBook book;
+    book.sheets = {test::SalesSheet("Sheet1")};
+    book.sheets[0].extraAnchors =
+        "<xdr:absoluteAnchor><xdr:pos x=\"0\" y=\"0\"/><xdr:ext cx=\"127000\" cy=\"254000\"/><xdr:sp>"
+        "<xdr:nvSpPr><xdr:cNvPr id=\"5\" name=\"Box\"/><xdr:cNvSpPr "
+        "txBox=\"1\"/></xdr:nvSpPr><xdr:spPr/><xdr:txBody>"
+        "<a:bodyPr/><a:p>" +
+        before + "</a:p></xdr:txBody></xdr:sp><xdr:clientData/></xdr:absoluteAnchor>";
+    Open(book);
+    const auto characters =
+        Book().FindWorksheet("Sheet1")->Shapes()->Item(1)->TextFrame()->Characters(c.start, c.length);
+    EXPECT_EQ(characters->Text(), c.text);
+    characters->Font()->SetBold(true);
+    SaveAndReopen();
+    const S drawing = SavedPart("/xl/drawings/drawing1.xml");
+    EXPECT_EQ(test::Between(drawing, "<a:p>", "</xdr:txBody>"), "<a:p>" + c.after + "</a:p>");
+  }
+}
+
 TEST(ShapeEnumerationsTest, GoBothWays) {
   for (const Enumeration* enumeration : {&kAutoShapes, &kAutoSizes}) {
     for (const EnumerationEntry& entry : enumeration->entries) {
+      EXPECT_TRUE(std::regex_match(S(entry.name), std::regex("mso(Shape|AutoSize)[A-Z0-9][A-Za-z0-9]*")))
+          << entry.name;
       EXPECT_EQ(enumeration->Token(entry.number), entry.token) << entry.name;
       EXPECT_EQ(enumeration->Number(entry.token), entry.number) << entry.name;
     }

@@ -151,6 +151,7 @@ ArchiveWriter::ArchiveWriter(int descriptor) : handle_(std::make_unique<Handle>(
 ArchiveWriter::~ArchiveWriter() = default;
 
 void ArchiveWriter::Copy(const Archive& source, std::size_t index) {
+  if (!source.handle_) throw PackageError("the file is closed");
   zip_t* from = source.handle_->zip.get();
   const bool stored = source.Entries()[index].method == ZIP_CM_STORE;
   handle_->Add(zip_get_name(from, index, ZIP_FL_ENC_RAW),
@@ -159,6 +160,7 @@ void ArchiveWriter::Copy(const Archive& source, std::size_t index) {
 }
 
 void ArchiveWriter::CopyComment(const Archive& source) {
+  if (!source.handle_) throw PackageError("the file is closed");
   int length = 0;
   const char* comment = zip_get_archive_comment(source.handle_->zip.get(), &length, ZIP_FL_ENC_RAW);
   if (comment != nullptr && length > 0) {

@@ -84,6 +84,7 @@ AtomicFile::~AtomicFile() {
 }
 
 void AtomicFile::Commit() {
+  const std::string folder = FolderOf(path_);
   struct stat old {};
   const bool replaces = stat(path_.c_str(), &old) == 0;
   if (fchmod(file_, replaces ? old.st_mode & 07777 : NewFileMode()) != 0) Fail(path_);
@@ -98,7 +99,7 @@ void AtomicFile::Commit() {
     if (rename(temporary_.c_str(), path_.c_str()) != 0) Fail(path_);
     temporary_.clear();
   }
-  SyncFolder(FolderOf(path_));
+  SyncFolder(folder);
 }
 
 }  // namespace plotsmith::xlsx

@@ -110,6 +110,16 @@ class ScratchFile {
 };
 constexpr std::size_t kCopiedBlock = 256 * 1024;
 
+/// Opens the file of a closed archive again. Returns false, and leaves the archive closed, if that fails.
+bool Reopen(std::unique_ptr<Archive>& archive) {
+  try {
+    archive = std::make_unique<Archive>(archive->Path());
+    return true;
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
 }  // namespace
 
 /// Bytes are held only of a part that is new or changed; of any other there is the entry in the archive.
@@ -440,19 +450,14 @@ void Package::Commit(AtomicFile& file, const std::string& path) {
     file.Commit();
     return;
   }
-  const std::string source = archive_->Path();
   archive_->Close();
   try {
     file.Commit();
-  } catch (const PackageError&) {
-    archive_ = std::make_unique<Archive>(source);
+  } catch (...) {
+    Reopen(archive_);
     throw;
   }
-  try {
-    archive_ = std::make_unique<Archive>(source);
-  } catch (const PackageError&) {
-    return;  // the workbook is saved; only what is yet to be read of it can't be
-  }
+  if (!Reopen(archive_)) return;  // the workbook is saved; only what is yet to be read of it can't be
   for (std::size_t i = 0; i < parts_.size(); ++i) parts_[i]->entry = i;
 }
 

@@ -30,6 +30,15 @@ TEST(TextMetricsTest, TextsAreAsWideAsTheirFontsMakeThem) {
   for (const Case& c : cases) {
     EXPECT_NEAR(TextWidth(c.text, c.face), c.ems * c.face.size, 1e-9) << c.text << " in " << c.face.font;
   }
+  // the widths of all letters that the tables have, so that none changes unseen
+  S letters;
+  for (char c = ' '; c <= '~'; ++c) letters += c;
+  for (char16_t c = u'\u00A0'; c <= u'\u00FF'; ++c) letters += runtime::ToUtf8(std::u16string(1, c));
+  for (const auto& [font, plain, bold] :
+       {std::tuple{"Arial", 103876.0, 107382.0}, {"Calibri", 92750.0, 94874.0}}) {
+    EXPECT_NEAR(TextWidth(letters, {font, 1000, false}), plain, 1e-6) << font;
+    EXPECT_NEAR(TextWidth(letters, {font, 1000, true}), bold, 1e-6) << font;
+  }
   EXPECT_NEAR(LineHeight({"Arial", 10, false}), 11.49, 1e-9);
   EXPECT_NEAR(LineHeight({"Calibri", 10, false}), 12.207, 1e-9);
 }
@@ -113,6 +122,78 @@ TEST_F(ChartGeometryTest, ALegendIsAsWideAsTheWidestOfItsEntries) {
                                                    c.entries + "</c:legend>"))
                           ->PlotArea();
     EXPECT_NEAR(area->Width(), 370 - c.text - key, 0.001);
+  }
+}
+
+TEST_F(ChartGeometryTest, ScalesFollowWhatTheFileSaysOfTheAxis) {
+  const auto numbers = [](const S& element, const S& first, const S& second) {
+    return "<c:" + element + "><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>" + first +
+           "</c:v></c:pt><c:pt idx=\"1\"><c:v>" + second + "</c:v></c:pt></c:numLit></c:" + element + ">";
+  };
+  const auto series = [](int number, const S& inside) {
+    const S n = std::to_string(number);
+    return "<c:ser><c:idx val=\"" + n + "\"/><c:order val=\"" + n + "\"/>" + inside + "</c:ser>";
+  };
+  const S wide = numbers("val", "0", "100"), two = series(0, wide) + series(1, numbers("val", "40", "60"));
+  const auto grouping = [](const S& name) { return "<c:grouping val=\"" + name + "\"/>"; };
+  const struct {
+    const char* what;
+    S group, inside, scaling, behind;
+    double minimum, maximum;
+  } cases[] = {
+      {"of the values", "barChart", series(0, wide), "", "", 0, 120},
+      {"a unit by hand", "barChart", series(0, wide), "", "<c:majorUnit val=\"25\"/>", 0, 125},
+      {"a unit that can't be", "barChart", series(0, wide), "", "<c:majorUnit val=\"0\"/>", 0, 120},
+      {"limits by hand", "barChart", series(0, wide), "<c:max val=\"77\"/><c:min val=\"7\"/>", "", 7, 77},
+      {"powers", "barChart", series(0, numbers("val", "3", "4000")), "<c:logBase val=\"10\"/>", "", 1, 10000},
+      {"side by side", "barChart", grouping("clustered") + two, "", "", 0, 120},
+      {"on each other", "barChart", grouping("stacked") + two, "", "", 0, 180},
+      {"shares", "barChart", grouping("percentStacked") + two, "", "", 0, 1},
+      {"no room in 3-D", "bar3DChart", series(0, wide), "", "", 0, 100},
+      {"across", "scatterChart", series(0, numbers("xVal", "0", "9") + wide), "", "", 0, 120},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.what);
+    const auto axis =
+        OpenChart(test::ChartPartXml(
+                      "<c:plotArea><c:" + c.group + ">" + c.inside +
+                      "<c:axId val=\"1\"/><c:axId val=\"2\"/></c:" + c.group +
+                      "><c:catAx><c:axId val=\"1\"/></c:catAx><c:valAx><c:axId val=\"2\"/><c:scaling>" +
+                      c.scaling + "</c:scaling>" + c.behind + "</c:valAx></c:plotArea>"))
+            ->Axes(excel::xlValue, excel::xlPrimary);
+    EXPECT_DOUBLE_EQ(axis->MinimumScale(), c.minimum);
+    EXPECT_DOUBLE_EQ(axis->MaximumScale(), c.maximum);
+  }
+}
+
+TEST_F(ChartGeometryTest, ALegendIsAtItsSideOrWhereItsLayoutMovesIt) {
+  const S x = "<c:x val=\"0.1\"/>", y = "<c:y val=\"0.1\"/>", edge = "<c:xMode val=\"edge\"/>";
+  const struct {
+    S position, layout;
+    double left, top;  ///< as fractions of the chart
+  } cases[] = {{"r", "", 0.8, 0.4}, {"l", "", 0.02, 0.4},      {"t", "", 0.4, 0.02},
+               {"b", "", 0.4, 0.8}, {"tr", "", 0.8, 0.02},     {"r", x + y, 0.9, 0.5},
+               {"t", y, 0.4, 0.12}, {"b", edge + x, 0.1, 0.8}, {"l", edge + x + y, 0.1, 0.5}};
+  for (const auto& c : cases) {
+    const auto legend = OpenChart(test::ChartPartXml("<c:plotArea/><c:legend><c:legendPos val=\"" +
+                                                     c.position + "\"/><c:layout><c:manualLayout>" +
+                                                     c.layout + "</c:manualLayout></c:layout></c:legend>"))
+                            ->Legend();
+    EXPECT_NEAR(legend->Left(), c.left * 384, 1e-9) << c.position << c.layout;
+    EXPECT_NEAR(legend->Top(), c.top * 270, 1e-9) << c.position << c.layout;
+  }
+}
+
+TEST_F(ChartGeometryTest, ALegendAboveOrBelowHasAsManyRowsAsItsEntriesFill) {
+  // a key is 24 points wide with its gaps, the chart has 370 points between its insets, and AV takes 11.46
+  for (const auto& [letters, rows] : {std::pair{30, 1}, {31, 2}, {62, 2}, {63, 3}}) {
+    S name;
+    for (int i = 0; i < letters; ++i) name += "AV";
+    const S chart =
+        "<c:plotArea><c:barChart><c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:tx><c:v>" + name +
+        "</c:v></c:tx></c:ser></c:barChart></c:plotArea><c:legend><c:legendPos val=\"t\"/></c:legend>";
+    EXPECT_NEAR(OpenChart(test::ChartPartXml(chart))->PlotArea()->Top(), 7 + 8 + rows * 12.207, 0.001)
+        << letters;
   }
 }
 

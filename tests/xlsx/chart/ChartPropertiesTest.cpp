@@ -1,5 +1,5 @@
 #include <functional>
-#include <set>
+#include <sstream>
 
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
@@ -27,6 +27,7 @@ const S kLegend = "<c:legend><c:legendPos val=\"r\"/></c:legend>";
 class ChartPropertiesTest : public test::ChartTest {};
 
 TEST_F(ChartPropertiesTest, AnAutomaticColourCanBeReadAtOnceAndSetOnAnother) {
+  const S accents = "BD814F 4D50C0 59BB9B A26480 C6AC4B 4696F7 754D2C ";
   const S grey = "<c:style val=\"1\"/>", violet = "<c:style val=\"6\"/>";
   const S newer =
       "<mc:AlternateContent "
@@ -35,22 +36,20 @@ TEST_F(ChartPropertiesTest, AnAutomaticColourCanBeReadAtOnceAndSetOnAnother) {
       "val=\"102\"/></mc:Choice></mc:AlternateContent>";
   struct Case {
     S style;
-    std::int32_t first, second, seventh;
+    S seven;  ///< the first seven colours, blue, green and red
   };
-  for (const Case& c : {Case{"", 0xBD814F, 0x4D50C0, 0x754D2C}, Case{newer, 0xBD814F, 0x4D50C0, 0x754D2C},
-                        Case{grey, 0x1D1D1D, 0x737373, 0x1D1D1D}, Case{violet, 0xA26480, -1, -1}}) {
+  for (const Case& c : {Case{"", accents}, Case{newer, accents}, Case{"<c:style val=\"49\"/>", accents},
+                        Case{grey, "1D1D1D 737373 383838 131313 4C4C4C B2B2B2 1D1D1D "},
+                        Case{violet, "A26480 B8889E C39AAC C9A5B5 CDACBB D0B1BF D3B5C3 "}}) {
     SCOPED_TRACE(c.style);
     After(runtime::Replace(kNothing, "<c:chart>", c.style + "<c:chart>"), [&](Chart& chart) {
       chart.SetChartType(excel::xlBubble);
-      std::set<std::int32_t> seen;
+      std::ostringstream seen;
       for (int i = 1; i <= 7; ++i) {
         const auto interior = chart.SeriesCollection()->NewSeries()->Interior();
-        const std::int32_t color = interior->Color();
-        seen.insert(color);
-        const std::int32_t wanted = i == 1 ? c.first : i == 2 ? c.second : i == 7 ? c.seventh : -1;
-        EXPECT_TRUE(wanted < 0 || color == wanted) << i << ": " << color;
+        seen << std::uppercase << std::hex << interior->Color() << " ";
       }
-      EXPECT_GE(seen.size(), 6u);
+      EXPECT_EQ(seen.str(), c.seven);
     });
   }
   const S after = Sound(kNothing, [](Chart& chart) {
@@ -137,7 +136,8 @@ TEST_F(ChartPropertiesTest, PropertiesOfSeriesLabelsAndAxesAreWrittenInPlace) {
        "vert=\"horz\"/><a:lstStyle/><a:p><a:pPr algn=\"ctr\"><a:defRPr sz=\"900\"><a:solidFill><a:srgbClr "
        "val=\"FF0000\"/></a:solidFill></a:defRPr></a:pPr><a:r><a:rPr lang=\"en-US\" sz=\"900\"><a:solidFill>"
        "<a:srgbClr val=\"FF0000\"/></a:solidFill></a:rPr><a:t>A &amp; B</a:t></a:r></a:p></c:rich></c:tx>"
-       "<c:dLblPos val=\"ctr\"/><c:showLegendKey val=\"0\"/><c:showVal val=\"1\"/>",
+       "<c:dLblPos val=\"ctr\"/><c:showLegendKey val=\"0\"/><c:showVal val=\"1\"/><c:showCatName val=\"0\"/>"
+       "<c:showSerName val=\"0\"/><c:showPercent val=\"0\"/><c:showBubbleSize val=\"0\"/></c:dLbl>",
        ""},
       {"labels of points stand by their numbers, and follow what the others are told", 51,
        [](Chart&, Series& s) {
@@ -228,6 +228,67 @@ TEST_F(ChartPropertiesTest, PropertiesOfSeriesLabelsAndAxesAreWrittenInPlace) {
     if (!c.gone.empty()) {
       EXPECT_FALSE(Has(after, c.gone)) << after;
     }
+  }
+}
+
+TEST_F(ChartPropertiesTest, PresetColoursHaveTheirValues) {
+  const std::pair<const char*, std::int32_t> cases[] = {
+      {"black", 0},          {"white", 0xFFFFFF},   {"red", 0x0000FF},      {"green", 0x008000},
+      {"blue", 0xFF0000},    {"yellow", 0x00FFFF},  {"cyan", 0xFFFF00},     {"aqua", 0xFFFF00},
+      {"magenta", 0xFF00FF}, {"fuchsia", 0xFF00FF}, {"gray", 0x808080},     {"grey", 0x808080},
+      {"silver", 0xC0C0C0},  {"maroon", 0x000080},  {"navy", 0x800000},     {"olive", 0x008080},
+      {"purple", 0x800080},  {"teal", 0x808000},    {"lime", 0x00FF00},     {"orange", 0x00A5FF},
+      {"brown", 0x2A2AA5},   {"pink", 0xCBC0FF},    {"darkBlue", 0x8B0000}, {"darkRed", 0x00008B}};
+  for (const auto& [name, color] : cases) {
+    const S text = S("<c:txPr><a:bodyPr/><a:p><a:pPr><a:defRPr><a:solidFill><a:prstClr val=\"") + name +
+                   "\"/></a:solidFill></a:defRPr></a:pPr></a:p></c:txPr>";
+    const auto chart = OpenChart(Part("<c:plotArea/><c:legend>" + text + "</c:legend>"));
+    EXPECT_EQ(chart->Legend()->Font()->Color(), runtime::Variant(color)) << name;
+  }
+}
+
+TEST_F(ChartPropertiesTest, WhatIsThereIsChangedInPlace) {
+  const auto bars = [](const S& labels, const S& title) {
+    return Part(
+        "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>" +
+        labels +
+        "<c:val><c:numLit><c:ptCount val=\"3\"/></c:numLit></c:val></c:ser><c:axId val=\"1\"/><c:axId "
+        "val=\"2\"/></c:barChart><c:catAx><c:axId val=\"1\"/></c:catAx><c:valAx><c:axId val=\"2\"/>" +
+        title + "</c:valAx></c:plotArea>");
+  };
+  const auto legend = [&](const S& layout) {
+    return runtime::Replace(bars("", ""), "</c:chart>",
+                            "<c:legend><c:layout>" + layout + "</c:layout></c:legend></c:chart>");
+  };
+  const auto label = [](const S& inside, const S& shows) {
+    return "<c:dLbl><c:idx val=\"1\"/>" + inside + "<c:showVal val=\"0\"/><c:showSerName val=\"" + shows +
+           "\"/></c:dLbl>";
+  };
+  const auto all = [](const S& points) { return "<c:dLbls>" + points + "<c:showVal val=\"1\"/></c:dLbls>"; };
+  const S text =
+      "<c:tx><c:rich><a:bodyPr/><a:lstStyle/><a:p><a:r><a:rPr "
+      "lang=\"en-US\"/><a:t>Two</a:t></a:r></a:p></c:rich></c:tx>";
+  const S cell = "<c:tx><c:strRef><c:f>Sheet1!$A$1</c:f></c:strRef></c:tx>";
+  const struct {
+    const char* what;
+    S before;
+    std::function<void(Chart&)> call;
+    S after;
+  } cases[] = {
+      {"the label of a point keeps what it shows", bars(all(label("", "1")), ""),
+       [](Chart& c) { c.SeriesCollection()->Item(1)->DataLabels()->Item(2)->SetText("Two"); },
+       bars(all(label(text, "1")), "")},
+      {"a place goes in front of extensions", legend("<c:extLst/>"),
+       [](Chart& c) { c.Legend()->SetLeft(96); },
+       legend("<c:manualLayout><c:xMode val=\"edge\"/><c:x val=\"0.25\"/></c:manualLayout><c:extLst/>")},
+      {"the title of an axis that a cell holds is turned", bars("", "<c:title>" + cell + "</c:title>"),
+       [](Chart& c) { c.Axes(excel::xlValue, 1)->AxisTitle()->SetOrientation(-4171); },
+       bars("",
+            "<c:title>" + cell + "<c:txPr><a:bodyPr rot=\"-5400000\" vert=\"horz\"/></c:txPr></c:title>")},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.what);
+    EXPECT_EQ(After(c.before, c.call), c.after);
   }
 }
 

@@ -5,6 +5,7 @@
 
 #include "runtime/Strings.h"
 #include "tests/support/HostTest.h"
+#include "tests/support/SaveFailures.h"
 #include "xlsx/base/Limits.h"
 #include "xlsx/package/Package.h"
 #include "xlsx/package/PackageError.h"
@@ -54,7 +55,7 @@ TEST_F(PackageFileTest, UntouchedPartsKeepTheirBytesOrderAndNames) {
   package.Replace("/XL/Workbook.xml", "<workbook/>");  // Names ignore case.
   package.Add("/xl/new.xml", "application/x-new", "<new/>");
   const S id = package.AddRelationship("/xl/workbook.xml", "http://x/new", "/xl/new.xml");
-  package.Save(folder_ / "out.xlsx");
+  test::SaveThroughEachFailure(folder_ / "out.xlsx", [&](const S& path) { package.Save(path); });
 
   const Package again = Package::Open(folder_ / "out.xlsx");
   const Package original = Package::Open(folder_ / "book.xlsx");
@@ -80,10 +81,11 @@ TEST_F(PackageFileTest, APackageThatIsSavedOverItsOwnFileGoesOnWithTheNewOne) {
   // An early part is removed, so that the others have different positions in the new file.
   package.RemoveRelationship("/xl/workbook.xml",
                              package.FindRelationshipOfType("/xl/workbook.xml", "worksheet")->id);
-  package.Save(path);
+  const auto save = [&](const S& to) { package.Save(to); };
+  test::SaveThroughFailures(path, save);
   EXPECT_EQ(package.Read("/xl/media/noise.bin"), noise);
   package.Replace("/xl/new.xml", "<newer/>");
-  package.Save(path);
+  test::SaveThroughFailures(path, save);
 
   const Package again = Package::Open(path);
   EXPECT_EQ(again.Parts(), package.Parts());
@@ -176,7 +178,7 @@ TEST_F(PackageFileTest, ForeignEntriesAreCopiedByWhateverMethodTheyCame) {
   Package package = Package::Open(folder_ / "odd.xlsx");
   EXPECT_THROW(package.Read("/foreign.bin"), PackageError);
   package.Add("/new.xml", "application/xml", "<new/>");
-  package.Save(folder_ / "out.xlsx");
+  test::SaveThroughFailures(folder_ / "out.xlsx", [&](const S& path) { package.Save(path); });
   std::ifstream saved(folder_ / "out.xlsx", std::ios::binary);
   const S after((std::istreambuf_iterator<char>(saved)), {});
   EXPECT_NE(after.find("in LZMA, or so it says"), S::npos);
@@ -195,11 +197,24 @@ TEST_F(PackageFileTest, TheFileIsReplacedWholeOrNotAtAll) {
   EXPECT_TRUE(S_ISLNK(status.st_mode)) << "a link keeps pointing";
   ASSERT_EQ(stat(path.c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777, 0640u);
+  const mode_t mask = umask(027);
+  Package::Open(path).Save(folder_ / "new.xlsx");
+  EXPECT_EQ(umask(mask), mode_t{027}) << "the mask is as it was";
+  ASSERT_EQ(stat((folder_ / "new.xlsx").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 07777, 0640u);
+  std::filesystem::remove(folder_ / "new.xlsx");
 
   Package package = Package::Open(path);
   mkfifo((folder_ / "pipe").c_str(), 0600);
-  for (const S& bad : {folder_ / "no/such/folder/x.xlsx", folder_.Path().string(), folder_ / "pipe"}) {
-    EXPECT_THROW(package.Save(bad), PackageError) << bad;
+  for (const auto& [bad, reason] : {std::pair{folder_ / "no/such/folder/x.xlsx", "No such file or directory"},
+                                    {folder_.Path().string(), "it is not a regular file"},
+                                    {folder_ / "pipe", "it is not a regular file"}}) {
+    try {
+      package.Save(bad);
+      ADD_FAILURE() << bad;
+    } catch (const PackageError& e) {
+      EXPECT_EQ(e.what(), "can't write " + bad + ": " + reason);
+    }
   }
   std::size_t files = 0;
   for (const auto& entry : std::filesystem::directory_iterator(folder_.Path()))

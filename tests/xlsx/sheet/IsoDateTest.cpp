@@ -1,5 +1,6 @@
 #include <cmath>
 #include <gtest/gtest.h>
+#include <optional>
 #include <string>
 
 #include "xlsx/sheet/IsoDate.h"
@@ -56,6 +57,28 @@ TEST(IsoDateTest, ASerialIsWhatItsFormatShows) {
     if (text.empty() || !isWhole) continue;
     EXPECT_NEAR(read.value_or(-1), one.serial, 1e-8) << text;
   }
+}
+
+TEST(IsoDateTest, ADateATimeOrBothAreRead) {
+  const std::pair<const char*, std::optional<double>> cases[] = {{"2023-03-15", 45000},
+                                                                 {"2023-03-15T12:00:00", 45000.5},
+                                                                 {"2023-03-15T12:00:00Z", 45000.5},
+                                                                 {"18:00:00", 0.75},
+                                                                 {"18:00:00Z", 0.75},
+                                                                 {"1900-02-28", 59},
+                                                                 {"1900-03-01", 61},
+                                                                 {"", std::nullopt},
+                                                                 {"18", std::nullopt},
+                                                                 {"2023-13-01", std::nullopt},
+                                                                 {"2023-02-30", std::nullopt},
+                                                                 {"2023-03-15 12:00:00", std::nullopt},
+                                                                 {"2023-03-15T", std::nullopt},
+                                                                 {"2023-03", std::nullopt},
+                                                                 {"18:00:00+01:00", std::nullopt},
+                                                                 {"2023-3-15", std::nullopt},
+                                                                 {"23-03-15", std::nullopt},
+                                                                 {"25:00:00x", std::nullopt}};
+  for (const auto& [text, serial] : cases) EXPECT_EQ(ParseIsoDate(text, k1900), serial) << text;
 }
 
 }  // namespace

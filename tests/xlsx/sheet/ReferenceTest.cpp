@@ -27,9 +27,28 @@ TEST(ReferenceTest, ParsesBothStyles) {
     EXPECT_EQ(parsed->sheet, c.sheet) << c.text;
     EXPECT_EQ(parsed->range, c.range) << c.text;
   }
-  for (const char* text : {"", "A1", "!A1", "Sheet1!", "Sheet1!A0", "Sheet1!XFE1", "Sheet1!A1048577",
-                           "Sheet1!A1:", "Sheet1!R0C1", "'Sheet1!A1", "Sheet1!#REF!", "Sheet1!A1,Sheet1!B2",
-                           "Sheet1!OFFSET(A1,1,1)", "Sheet1!$A", "Sheet1!1"}) {
+  for (const char* text : {"",
+                           "A1",
+                           "!A1",
+                           "Sheet1!",
+                           "Sheet1!A0",
+                           "Sheet1!XFE1",
+                           "Sheet1!A1048577",
+                           "Sheet1!A1:",
+                           "Sheet1!R0C1",
+                           "'Sheet1!A1",
+                           "Sheet1!#REF!",
+                           "Sheet1!A1,Sheet1!B2",
+                           "Sheet1!OFFSET(A1,1,1)",
+                           "Sheet1!$A",
+                           "Sheet1!1",
+                           "Sheet1!R1C1:",
+                           "Sheet1!R1C1:R2",
+                           "Sheet1!RC1:R2C2",
+                           "Sheet1!R1C99999999999999",
+                           "Sheet1!R1C1x",
+                           "Sheet1!R1048577C1",
+                           "Sheet1!R1C16385"}) {
     EXPECT_FALSE(ParseSheetRange(text)) << text;
   }
 }
@@ -41,6 +60,9 @@ TEST(ReferenceTest, SheetNamesAreQuotedWhereTheyMustBe) {
                                                        {"A1", "'A1'"},
                                                        {"R1C1", "'R1C1'"},
                                                        {"2020", "'2020'"},
+                                                       {"2a", "'2a'"},
+                                                       {"x9_y", "x9_y"},
+                                                       {".a", "'.a'"},
                                                        {"VEX_ChartData", "VEX_ChartData"},
                                                        {"a-b", "'a-b'"},
                                                        {"Größe", "Größe"},

@@ -114,6 +114,22 @@ TEST(SheetScannerTest, WhatCountsAsUsed) {
               used)
         << cells;
   }
+  EXPECT_EQ(Scan("<w><sheetData><row r='1'><c r='A1'><v>1</v></c></row></sheetData></w>").used,
+            (CellRange{1, 1, 1, 1}));
+}
+
+TEST(SheetScannerTest, MergedCellsAreFoundBehindAllThatTheSchemaPutsBeforeThem) {
+  const std::vector<CellRange> merged = {{1, 1, 2, 2}, {4, 3, 4, 5}};
+  for (const std::string before : {"", "sheetCalcPr", "sheetProtection", "protectedRanges", "scenarios",
+                                   "autoFilter", "sortState", "dataConsolidate", "customSheetViews"}) {
+    const std::string element = before.empty() ? "" : "<" + before + "><a/></" + before + ">";
+    EXPECT_EQ(
+        Scan("<w><sheetData/>" + element +
+             "<mergeCells><mergeCell ref='A1:B2'/><mergeCell ref='C4:E4'/></mergeCells><phoneticPr/></w>")
+            .mergedCells,
+        merged)
+        << before;
+  }
 }
 
 TEST(SheetScannerTest, PrefixesAndEncodings) {

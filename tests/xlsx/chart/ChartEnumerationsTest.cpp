@@ -1,0 +1,62 @@
+#include <gtest/gtest.h>
+#include <regex>
+#include <set>
+#include <string>
+
+#include "xlsx/chart/ChartEnumerations.h"
+
+namespace plotsmith::xlsx {
+namespace {
+
+using S = std::string;
+
+/// The tokens of an enumeration of ECMA-376-1, each between blanks.
+constexpr const char* kPresetPatterns =
+    " pct5 pct10 pct20 pct25 pct30 pct40 pct50 pct60 pct70 pct75 pct80 pct90 horz vert ltHorz ltVert dkHorz "
+    "dkVert "
+    "narHorz narVert dashHorz dashVert cross dnDiag upDiag ltDnDiag ltUpDiag dkDnDiag dkUpDiag wdDnDiag "
+    "wdUpDiag "
+    "dashDnDiag dashUpDiag diagCross smCheck lgCheck smGrid lgGrid dotGrid smConfetti lgConfetti horzBrick "
+    "diagBrick "
+    "solidDmnd openDmnd dotDmnd plaid sphere weave divot shingle wave trellis zigZag ";
+constexpr const char* kMarkers = " auto none square diamond triangle x star dot dash circle plus picture ";
+constexpr const char* kUnits =
+    " hundreds thousands tenThousands hundredThousands millions tenMillions hundredMillions billions "
+    "trillions ";
+
+TEST(ChartEnumerationsTest, NumbersNamesAndTokensBelongToEachOther) {
+  const struct {
+    const Enumeration& enumeration;
+    S name;  ///< what the names of the members begin with
+    S tokens;
+  } cases[] = {
+      {kLegendPositions, "xlLegendPosition", " r l t b tr "},
+      {kLabelPositions, "xlLabelPosition", " ctr outEnd inEnd inBase bestFit l r t b "},
+      {kPatterns, "msoPattern", kPresetPatterns},
+      {kInteriorPatterns, "xlPattern", kPresetPatterns},
+      {kLineStyles, "xl", " solid dash dashDot sysDot lgDashDotDot "},
+      {kLineWeights, "xl", " 3175 12700 25400 38100 "},
+      {kMarkerStyles, "xlMarkerStyle", kMarkers},
+      {kTickLabelPositions, "xlTickLabelPosition", " nextTo low high none "},
+      {kCrosses, "xl", " autoZero max min "},
+      {kDisplayUnits, "xl", kUnits},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name + c.tokens);
+    std::set<S> names;
+    for (const EnumerationEntry& entry : c.enumeration.entries) {
+      const S name(entry.name), token(entry.token);
+      EXPECT_TRUE(std::regex_match(name, std::regex(c.name + "[A-Z0-9][A-Za-z0-9]*"))) << name;
+      EXPECT_TRUE(names.insert(name).second) << name;
+      EXPECT_NE(c.tokens.find(" " + token + " "), S::npos) << token;
+      EXPECT_EQ(c.enumeration.Token(entry.number), token) << "the number of another member";
+      EXPECT_EQ(c.enumeration.Number(token), entry.number) << "the token of another member";
+    }
+    EXPECT_TRUE(c.enumeration.absent.empty() || c.enumeration.Number(c.enumeration.absent));
+  }
+  // members of the patterns are numbered in one row
+  for (std::int32_t number = 1; number <= 54; ++number) EXPECT_TRUE(kPatterns.Token(number)) << number;
+}
+
+}  // namespace
+}  // namespace plotsmith::xlsx
