@@ -3,7 +3,8 @@
 
 Files that are read as one share an anonymous namespace. A name that one file declares there must therefore not be
 declared by another file of its group, nor by that file's headers: it would be declared twice, or mean two things. A
-variable must not be hidden by a parameter in another file, of which the compiler warns. Sources that define macros are
+variable must not be hidden by a parameter in another file, nor a type by an alias in a function, of which the compiler
+warns. Sources that define macros are
 read alone, as a macro may change what a header says; those that include headers of Windows, which are full of macros,
 are read with their like.
 
@@ -135,6 +136,7 @@ class Source:
         self.path = path
         self.size = len(text_of(path))
         self.words = words_of(path)
+        self.aliases = set(re.findall(r"^ +using (\w+) =", code_of(path), re.M))  # of functions
         self.public = {}
         for header in headers:
             self.public.update(declared_in_header(header))
@@ -158,7 +160,7 @@ def disturbs(source, other):
             return True
         if name in other.public and other.public[name].text != text and not BRINGS_IN.match(text):
             return True
-        if is_variable and name in other.words and name not in other.private:
+        if name in other.aliases or (is_variable and name in other.words and name not in other.private):
             return True
     return any(
         is_variable and name in other.words and name not in other.public and name not in other.private

@@ -72,7 +72,9 @@ TEST_F(Pie3DTest, NothingIsPaintedOverTheUpperSides) {
     int slices = 0;
     for (const Item& item : drawing.items) {
       if (item.tag.role == Role::kSlice) ++slices;
-      if (item.tag.role == Role::kSide) EXPECT_EQ(slices, 0);
+      if (item.tag.role == Role::kSide) {
+        EXPECT_EQ(slices, 0);
+      }
     }
     EXPECT_EQ(slices, 4);
     // The cuts of an exploded pie are visible.
