@@ -8,17 +8,17 @@ namespace plotsmith::test {
 
 /// Calls a controller late bound for a script, with arguments of types that script languages don't have.
 ///
-/// `call` is the name of the operation and its arguments, separated by bars. An argument is a kind, a colon and
-/// a text. The kinds are "s" for a text, "i" for a number, "e" for an error, "o" for the object `application`,
-/// "u" for the same as IUnknown, "n" for Nothing, "null", "empty", "missing", "as" for an array of texts that
-/// are separated by commas, "av" for an array of Variants, "as0" for an array of texts that isn't allocated,
-/// "as2" for one of two dimensions, and "ai" for one of numbers.
+/// `call` is the name of the operation and its arguments, separated by bars. An argument is a kind, a colon
+/// and a text. The kinds are "s" for a text, "i" for a number, "e" for an error, "o" for the object
+/// `application`, "u" for the same as IUnknown, "n" for Nothing, "null", "empty", "missing", "as" for an
+/// array of texts that are separated by commas, "av" for an array of Variants, "as0" for an array of texts
+/// that isn't allocated, "as2" for one of two dimensions, and "ai" for one of numbers.
 ///
-/// With "&" before it the argument is a reference, and with "&v" a reference to a Variant. NAME= before all of
-/// it makes it a named argument, and #7= makes it one whose name has the number 7; these come last.
+/// With "&" before it the argument is a reference, and with "&v" a reference to a Variant. NAME= before all
+/// of it makes it a named argument, and #7= makes it one whose name has the number 7; these come last.
 ///
-/// Returns "ok" for success, or the result code such as "0x80020005", followed by "at" and the position of the
-/// wrong argument.
+/// Returns "ok" for success, or the result code such as "0x80020005", followed by "at" and the position of
+/// the wrong argument.
 std::string CallLateBound(IDispatch* controller, const std::string& call, IDispatch* application);
 /// Makes the same call early bound, for texts and arrays of texts.
 std::string CallEarlyBound(IDispatch* controller, const std::string& call, IDispatch* application);
