@@ -26,8 +26,8 @@ namespace plotsmith::test {
 /// | `do wait` | waits until a window is in front |
 /// | `do NAME` | calls the function with this name at once |
 ///
-/// The program may be busy, so a line that can't be executed is repeated for a while. If it still fails, and at
-/// the end of the script, the robot closes all windows and saves nothing.
+/// The program may be busy, so a line that can't be executed is repeated for a while. If it still fails, and
+/// at the end of the script, the robot closes all windows and saves nothing.
 class Robot {
  public:
   using Deeds = std::map<std::string, std::function<void()>>;
