@@ -232,6 +232,10 @@ LRESULT FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         SetFocus(IsWindow(lastFocus_) ? lastFocus_ : window_);
       }
       return 0;
+    case WM_NEXTDLGCTL:  // to this window, or to the next or the previous one
+      SetFocus(LOWORD(lParam) != 0 ? reinterpret_cast<HWND>(wParam)
+                                   : GetNextDlgTabItem(window_, GetFocus(), wParam != 0));
+      return 0;
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED:
       for (const auto& view : *views_) SendMessageW(view->Window(), message, wParam, lParam);
