@@ -384,11 +384,12 @@ TEST_F(DrawingTest, RadarChartsLieOnAWebOfTheirScale) {
     std::size_t markers;
   } cases[] = {{"standard", Role::kLine, 0}, {"marker", Role::kLine, 4}, {"filled", Role::kArea, 0}};
   for (const auto& test : cases) {
-    const Drawing drawing = Draw(PlotXml(
-        GroupXml("radarChart", S("<c:radarStyle val=\"") + test.style + "\"/>",
-                 SeriesXml(0, {10, 5, 2.5, 7.5}, "", "", CategoriesXml({"North", "East", "South", "West"}))) +
-            AxesXml("", scale),
-        "<c:legend/>"));
+    const Drawing drawing =
+        Draw(PlotXml(GroupXml("radarChart", S("<c:radarStyle val=\"") + test.style + "\"/>",
+                              SeriesXml(0, {10, 5, 2.5, 7.5}, "<c:dLbls><c:showVal val=\"1\"/></c:dLbls>", "",
+                                        CategoriesXml({"North", "East", "South", "West"}))) +
+                         AxesXml("", scale),
+                     "<c:legend/>"));
     EXPECT_EQ(notes_, std::vector<S>()) << test.style;
     EXPECT_EQ(DrawingComplaints(drawing), "") << test.style;
     EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), (std::vector<S>{"North", "East", "South", "West"}));
@@ -404,6 +405,12 @@ TEST_F(DrawingTest, RadarChartsLieOnAWebOfTheirScale) {
     EXPECT_NEAR(series.Bottom() - web.Center().y, radius * 0.25, 1e-6) << test.style;
     EXPECT_NEAR(web.Center().x - series.left, radius * 0.75, 1e-6) << test.style;
     EXPECT_FALSE(Overlap(BoxesOf(drawing, Role::kTickLabel, 1)[1], web)) << test.style;
+    const auto labels = BoxesOf(drawing, Role::kDataLabel);
+    ASSERT_EQ(labels.size(), 4u) << test.style;
+    EXPECT_LE(labels[0].Bottom(), series.top + 0.01) << test.style;
+    EXPECT_GE(labels[1].left, series.Right() - 0.01) << test.style;
+    EXPECT_GE(labels[2].top, series.Bottom() - 0.01) << test.style;
+    EXPECT_LE(labels[3].Right(), series.left + 0.01) << test.style;
   }
 }
 

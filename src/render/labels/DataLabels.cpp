@@ -45,11 +45,20 @@ Point CenterAtBar(const Plot& plot, const DrawnPoint& point, const std::string& 
 Point CenterAtMarker(const DrawnPoint& point, const std::string& position, Half half) {
   const Point center = point.box.Center();
   const double x = point.box.width / 2 + half.width, y = point.box.height / 2 + half.height;
-  if (position == "t" || position == "outEnd") return {center.x, center.y - y};
+  if (position == "t") return {center.x, center.y - y};
   if (position == "b") return {center.x, center.y + y};
   if (position == "l") return {center.x - x, center.y};
   if (position == "r") return {center.x + x, center.y};
   return center;
+}
+
+/// Beside a point of a radar chart, away from the middle of the web.
+Point CenterOutwards(const DrawnPoint& point, Point middle, Half half) {
+  const Point center = point.box.Center();
+  const double x = center.x - middle.x, y = center.y - middle.y, distance = std::hypot(x, y);
+  const Point way = distance > 0.5 ? Point{x / distance, y / distance} : Point{0, -1};
+  return {center.x + way.x * (point.box.width / 2 + half.width),
+          center.y + way.y * (point.box.height / 2 + half.height)};
 }
 
 /// The farthest place of a box's centre in a direction at which the box is inside of a circle.
@@ -103,6 +112,8 @@ Point CenterOf(const Plot& plot, const DrawnPoint& point, const LabelModel& labe
       return CenterInSlice(point, half, label.position);
     case Family::kArea:
       return point.box.Center();
+    case Family::kRadar:
+      return CenterOutwards(point, plot.area.Center(), half);
     default:
       return CenterAtMarker(point, label.position, half);
   }
