@@ -3,7 +3,7 @@
 #include <set>
 #include <string>
 
-#include "xlsx/chart/ChartEnumerations.h"
+#include "xlsx/chart/part/ChartEnumerations.h"
 
 namespace plotsmith::xlsx {
 namespace {
