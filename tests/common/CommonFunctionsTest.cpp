@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "common/Cells.h"
+#include "common/Documents.h"
 #include "common/HostAnswers.h"
 #include "common/Messages.h"
 #include "common/RunVariables.h"

@@ -141,7 +141,7 @@ TEST_F(RefreshScenarioTest, WithoutMemoryASaveLeavesTheOldFile) {
   const auto isSaved = [&](int allocation) {
     Open(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}}));
     Refresh();
-    Book().Activate(*Book().FindSheet("Charts"));
+    Book().Tabs().Activate(*Book().FindSheet("Charts"));
     return test::SaveWithoutMemory(folder_ / "book.xlsx", allocation,
                                    [&](const S& path) { Book().Save(path); });
   };
