@@ -19,15 +19,16 @@ for program; do
   wait
   for part in $(seq 0 $((parts - 1))); do
     count=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) tests\{0,1\}\.$/\1/p' "$logs/$part")
-    wrong=$(sed -n 's/^ *\([0-9]*\) FAILED TESTS\{0,1\}$/\1/p' "$logs/$part")
-    [ "$(cat "$logs/$part.code")" -eq 0 ] || [ "${wrong:-0}" -gt 0 ] || {
+    wrong=$(grep -c '^\[  FAILED  \] ' "$logs/$part" || true)
+    code=$(cat "$logs/$part.code")
+    # without failures there is nothing to see but the lines that count
+    [ "$code" -eq 0 ] || cat "$logs/$part"
+    [ "$code" -eq 0 ] || [ "$wrong" -gt 0 ] || {
       echo "FAILED: $program ended before its end"
       wrong=1
     }
-    # without failures there is nothing to see but the two lines that count
-    [ -z "$wrong" ] || cat "$logs/$part"
     passed=$((passed + ${count:-0}))
-    failed=$((failed + ${wrong:-0}))
+    failed=$((failed + wrong))
   done
 done
 echo "$passed passed, $failed failed"

@@ -273,7 +273,7 @@ TEST_F(HelpTopicsTest, EachTopicNamesTheControlsAndTheMessagesOfItsPage) {
 TEST_F(HelpTopicsTest, MessagesAboutChartsAreExplained) {
   const HelpFile help = Read("refresh.html");
   std::size_t sentences = 0;
-  for (const char* file : {"builder/SourceValidation.cpp", "builder/MapSteps.cpp"}) {
+  for (const char* file : {"builder/SourceValidation.cpp", "builder/maps/MapSteps.cpp"}) {
     for (const S& sentence : SentencesOf(file)) {
       ++sentences;
       EXPECT_TRUE(help.cells.contains(sentence)) << file << ": " << sentence;
