@@ -193,7 +193,6 @@ const std::vector<Row>& BookRows() {
           R"(Call Run(String "VEXEvents.VEXChartRefreshStarted", 30 x Missing))"),
       ROW(Window, SetDisplayGridlines(false), "Let DisplayGridlines() = Boolean False"),
       ROW(Window, SetDisplayHeadings(false), "Let DisplayHeadings() = Boolean False"),
-      ROW(Workbook, Application(), "Get Application() As Application"),
       ROW(Workbook, ProtectStructure(), "Get ProtectStructure() As Boolean"),
       ROW(Workbook, MultiUserEditing(), "Get MultiUserEditing() As Boolean"),
       ROW(Workbook, ActiveSheet(), "Get ActiveSheet() As Sheet"),
