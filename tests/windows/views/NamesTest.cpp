@@ -183,12 +183,10 @@ S NameOf(HWND window) {
   }
   VARIANT self = {};
   self.vt = VT_I4;
-  BSTR name = nullptr;
-  object->get_accName(self, &name);
-  const S text = com::Utf8(name);
-  SysFreeString(name);
+  com::OwnedBstr name;
+  object->get_accName(self, name.Put());
   object->Release();
-  return text;
+  return com::Utf8(name);
 }
 
 // Where the system has no annotations, the windows' own texts are all that a screen reader knows.

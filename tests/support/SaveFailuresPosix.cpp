@@ -1,5 +1,3 @@
-#include "tests/support/SaveFailures.h"
-
 #include <atomic>
 #include <cerrno>
 #include <cstdarg>
@@ -15,6 +13,8 @@
 #include <set>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include "tests/support/SaveFailures.h"
 
 namespace plotsmith::test {
 namespace {
@@ -138,6 +138,11 @@ namespace failures = plotsmith::test;
   if (failures::isSaving && failures::allocations.FailsNow()) throw std::bad_alloc();
   if (void* memory = std::malloc(size == 0 ? 1 : size)) return memory;
   throw std::bad_alloc();
+}
+// std::stable_sort takes memory by this one, and gives it back to the delete below.
+[[gnu::noinline]] void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  if (failures::isSaving && failures::allocations.FailsNow()) return nullptr;
+  return std::malloc(size == 0 ? 1 : size);
 }
 [[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
 [[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
