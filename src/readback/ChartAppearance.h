@@ -4,7 +4,7 @@
 #include "host/excel/Excel.h"
 #include "runtime/Ref.h"
 
-/// Module PSRevEngineerChart, part 2: reads the look of a chart into its definition. The elements are
+/// Module PSRevEngineerChart: reads the look of a chart into its definition. The elements are
 /// `auto-persistence` (the next rebuild takes fonts and positions from it), `axes` and `data-labels`.
 namespace plotsmith {
 

@@ -4,7 +4,7 @@
 #include "host/excel/Excel.h"
 #include "runtime/Ref.h"
 
-/// Module PSRevEngineerChart, part 1: reads the changes that a person made to a chart or its comment box into
+/// Module PSRevEngineerChart: reads the changes that a person made to a chart or its comment box into
 /// the definition. This happens each time the definitions are loaded, so that the next rebuild keeps the
 /// changes.
 namespace plotsmith {

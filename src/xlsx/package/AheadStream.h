@@ -12,24 +12,23 @@
 
 namespace plotsmith::xlsx {
 
-/// The bytes of another stream, which a thread inflates ahead of the reader. Short streams, and all streams
-/// where there is one processor only, are read without a thread. Nothing else may use the archive of the
-/// stream meanwhile.
+/// Reads another stream in a thread, ahead of the reader. Short streams are read without a thread, and so are
+/// all streams on a machine with one processor. Nothing else may use the archive of the stream meanwhile.
 class AheadStream final : public Archive::Stream {
  public:
   explicit AheadStream(Archive::Stream& source) : source_(source) {}
-  /// Waits for the thread, which stops after the piece that it reads.
+  /// Stops the thread after its current piece, and waits for it.
   ~AheadStream() override;
   AheadStream(const AheadStream&) = delete;
   AheadStream& operator=(const AheadStream&) = delete;
 
-  /// Throws what the other stream threw, behind the bytes that came before.
+  /// Rethrows an exception of the other stream, after the bytes that preceded it.
   std::size_t Read(char* buffer, std::size_t size) override;
 
  private:
   struct Piece {
     std::vector<char> bytes;
-    std::size_t size = 0;  ///< 0 at the end of the stream, and where it failed
+    std::size_t size = 0;  ///< 0 at the end of the stream and at a failure.
   };
 
   void Start();
@@ -39,14 +38,14 @@ class AheadStream final : public Archive::Stream {
   std::size_t readInline_ = 0;
   bool startTried_ = false;
   std::thread thread_;
-  std::array<Piece, 8> pieces_;  ///< a ring
-  std::size_t position_ = 0;     ///< in the piece that is being taken
+  std::array<Piece, 8> pieces_;  ///< A ring buffer.
+  std::size_t position_ = 0;     ///< The offset in the piece that is being read.
 
   std::mutex mutex_;
   std::condition_variable filledOne_, emptiedSome_;
-  std::size_t filled_ = 0, taken_ = 0;  ///< counts of pieces
+  std::size_t filled_ = 0, taken_ = 0;  ///< Numbers of pieces since the start.
   bool stopping_ = false;
-  std::exception_ptr failure_;  ///< at the last piece that was filled
+  std::exception_ptr failure_;  ///< Belongs to the last filled piece.
 };
 
 }  // namespace plotsmith::xlsx

@@ -10,9 +10,9 @@
 
 namespace plotsmith::xlsx {
 
-/// An entry of a zip file, as its directory tells.
+/// An entry of a zip file, as the file's directory describes it.
 struct ArchiveEntry {
-  std::string name;  ///< as stored, except that backslashes are slashes
+  std::string name;  ///< The stored name, with slashes in place of backslashes.
   std::uint64_t compressedSize = 0;
   std::uint64_t size = 0;
   std::uint32_t crc = 0;
@@ -20,10 +20,10 @@ struct ArchiveEntry {
   bool encrypted = false;
 };
 
-/// A zip file, read entry by entry and never as a whole. All failures are PackageErrors.
+/// A zip file that is read entry by entry. All failures are PackageErrors.
 class Archive {
  public:
-  /// `path` must name a readable zip file.
+  /// Opens a zip file and reads its directory.
   explicit Archive(const std::string& path);
   ~Archive();
   Archive(const Archive&) = delete;
@@ -31,41 +31,44 @@ class Archive {
 
   const std::string& Path() const { return path_; }
   const std::vector<ArchiveEntry>& Entries() const { return entries_; }
-  /// Lets go of the file. The entries can't be opened any more.
+  /// Closes the file. Its entries can no longer be opened.
   void Close();
 
-  /// The inflated bytes of an entry, piece by piece; size and checksum are proved at the end.
+  /// Reads the inflated bytes of an entry piece by piece. The end of the entry is checked against its size
+  /// and checksum.
   class Stream {
    public:
     virtual ~Stream() = default;
-    /// 0 at the end.
+    /// Reads up to `size` bytes and returns their number; 0 at the end.
     virtual std::size_t Read(char* buffer, std::size_t size) = 0;
   };
+  /// Opens an entry for reading; `index` is its place in Entries, from 0.
   std::unique_ptr<Stream> Open(std::size_t index) const;
 
  private:
   friend class ArchiveWriter;
   struct Handle;
   std::string path_;
-  std::unique_ptr<Handle> handle_;  ///< null after Close
+  std::unique_ptr<Handle> handle_;  ///< Null after Close.
   std::vector<ArchiveEntry> entries_;
 };
 
-/// Writes a zip file, entry by entry in the order of the calls. The views and the archives given must live
-/// until Finish, which does the writing.
+/// Writes a zip file. The entries are in the order of the calls. Finish does the writing, so the bytes and
+/// the archives that are passed must live until then.
 class ArchiveWriter {
  public:
   explicit ArchiveWriter(const std::string& path);
-  /// Into an empty file that is open for writing, and stays so.
+  /// Writes into an empty file that is open for writing. The file stays open.
   explicit ArchiveWriter(int descriptor);
   ~ArchiveWriter();
 
-  /// Copies an entry as it lies, compressed by whatever method.
+  /// Copies an entry without inflating it.
   void Copy(const Archive& source, std::size_t index);
-  /// Copies what was noted on the file as a whole.
+  /// Copies the comment of the file.
   void CopyComment(const Archive& source);
-  /// Compresses new bytes, or stores them as they are.
+  /// Adds an entry with new bytes, compressed or stored.
   void Add(const std::string& name, std::string_view bytes, bool compress = true);
+  /// Writes the file.
   void Finish();
 
  private:

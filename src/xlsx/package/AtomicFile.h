@@ -4,9 +4,9 @@
 
 namespace plotsmith::xlsx {
 
-/// A file that is written beside its target and takes the target's place in one step, after it has reached
-/// the disk. Until then it has no name where the file system can do that, so that a process that is killed
-/// leaves nothing behind. Without Commit nothing stays. Failures are PackageErrors.
+/// A file that is written beside its target and replaces the target in one step. Before that step the file
+/// has reached the disk. It has no name until then, if the file system allows it, so that a killed process
+/// leaves no file behind. Without Commit, the target stays unchanged. All failures are PackageErrors.
 class AtomicFile {
  public:
   explicit AtomicFile(const std::string& path);
@@ -14,13 +14,14 @@ class AtomicFile {
   AtomicFile(const AtomicFile&) = delete;
   AtomicFile& operator=(const AtomicFile&) = delete;
 
-  /// Open for reading and writing, and empty at first.
+  /// The descriptor of the new file, which is open for reading and writing and empty at first.
   int Descriptor() const { return file_; }
+  /// Replaces the target.
   void Commit();
 
  private:
-  std::string path_;       ///< what a link at the given path points at
-  std::string temporary_;  ///< the name of the file before Commit; empty while it has none
+  std::string path_;       ///< The target, with links resolved.
+  std::string temporary_;  ///< The name of the file before Commit; empty if it has none.
   int file_ = -1;
 };
 

@@ -5,26 +5,27 @@
 #include <optional>
 #include <string>
 
-/// Files by descriptors, which child processes don't inherit. Paths are UTF-8. Where a call fails, errno says
-/// why. Each operating system has a source file.
+/// Calls to files by descriptors, which child processes don't inherit. Paths are UTF-8. A call that fails
+/// sets errno. Each operating system has a source file.
 namespace plotsmith::xlsx::file_system {
 
-/// -1 if the file can't be opened.
+/// Opens a file for reading. Returns -1 if that fails.
 int OpenToRead(const std::string& path);
-/// Makes the file or empties it, and opens it to be written. -1 if that can't be done.
+/// Opens a file for writing, and creates or empties it. Returns -1 if that fails.
 int OpenToWrite(const std::string& path);
-/// An empty file, open for reading and writing, that is gone when it is closed. -1 if there is no room.
+/// Opens an empty file for reading and writing that is deleted when it is closed. Returns -1 if that fails.
 int OpenScratch();
-/// A second descriptor of an open file.
+/// Returns a second descriptor of an open file, or -1.
 int Duplicate(int file);
 void Close(int file);
 
-/// The size in bytes.
+/// Returns the size of a file in bytes, or nothing if that fails.
 std::optional<std::uint64_t> SizeOf(int file);
-/// Reads at most `size` bytes from a position, in bytes from the start, and answers how many; 0 at the end
-/// and -1 for a failure.
+/// Reads at most `size` bytes at a position, in bytes from 0. Returns the number of bytes, 0 at the end, or
+/// -1 for a failure.
 std::int64_t ReadAt(int file, void* data, std::size_t size, std::uint64_t position);
-/// Writes at most `size` bytes and answers how many; -1 for a failure.
+/// Writes at most `size` bytes at a position, in bytes from 0. Returns the number of bytes, or -1 for a
+/// failure.
 std::int64_t WriteAt(int file, const void* data, std::size_t size, std::uint64_t position);
 
 }  // namespace plotsmith::xlsx::file_system

@@ -5,8 +5,8 @@
 
 namespace plotsmith::xlsx {
 
-/// A number for a new thing beside those that have `taken`: the one above the highest, as Excel counts, and
-/// where that is beyond `last`, the lowest that is free. What is taken outside of the range is ignored.
+/// Returns a number for a new item: the number above the highest taken one, as Excel counts. If that is
+/// greater than `last`, it is the lowest free number. Taken numbers outside `first` to `last` are ignored.
 inline long long FreeNumber(const std::set<long long>& taken, long long first, long long last) {
   const auto behind = taken.upper_bound(last);
   if (behind == taken.begin() || *std::prev(behind) < first) return first;

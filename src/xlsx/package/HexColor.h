@@ -8,12 +8,12 @@
 /// Colours as files write them (ST_HexColorRGB, ST_UnsignedIntHex).
 namespace plotsmith::xlsx {
 
-/// Excel's colour (red + 256 * green + 65536 * blue) as the file writes it, "RRGGBB".
+/// Returns "RRGGBB" for one of Excel's colours (red + 256 * green + 65536 * blue).
 std::string RgbText(std::int32_t color);
-/// From "RRGGBB", or "AARRGGBB".
+/// Reads "RRGGBB" or "AARRGGBB". Returns nothing for any other text.
 std::optional<std::int32_t> ParseRgb(std::string_view text);
 
-/// Whether a number is one of Excel's colours.
+/// Returns whether a number is one of Excel's colours.
 constexpr bool IsColor(std::int32_t value) { return value >= 0 && value <= 0xFFFFFF; }
 
 }  // namespace plotsmith::xlsx

@@ -7,7 +7,7 @@
 
 namespace plotsmith::xlsx {
 
-/// Bytes in memory as a stream, at most `piece` of them at a time. They must live as long.
+/// Reads bytes in memory as a stream, at most `piece` of them at a time. The bytes must outlive the stream.
 class MemoryStream final : public Archive::Stream {
  public:
   explicit MemoryStream(std::string_view bytes, std::size_t piece = std::string_view::npos)

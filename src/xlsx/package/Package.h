@@ -20,18 +20,18 @@ class AtomicFile;
 /// One relationship of a part, or of the package.
 struct Relationship {
   std::string id;
-  std::string type;    ///< the last segment of the type's address: "worksheet", "drawing", "chart"
-  std::string target;  ///< the part's name, as Parts has it; of an external one the address as written
+  std::string type;    ///< The last segment of the type's URI: "worksheet", "drawing", "chart".
+  std::string target;  ///< The name of a part, as in Parts; the written URI of an external target.
   bool external = false;
 };
 
-/// A workbook file as a package of parts (ECMA-376-2). Parts are read when they are asked for, and a
-/// part that nobody changed is written back as the compressed bytes it came in, in its place and order. Part
-/// names begin with a slash, are given decoded ("%20" is a blank) and compare ignoring ASCII case. All
-/// failures are PackageErrors whose text is a sentence.
+/// A workbook file as a package of parts (ECMA-376-2). A part is read when it is needed. An unchanged part is
+/// written back as the same compressed bytes, in the same order. Part names begin with a slash, are decoded
+/// (a blank and not "%20") and compare without regard to ASCII case. All failures are PackageErrors whose
+/// text is a sentence.
 class Package {
  public:
-  /// A package with the parts that every workbook needs still to be added.
+  /// Makes an empty package. The caller adds the parts that every workbook needs.
   Package();
   /// Reads the directory, the content types and the relationships of the package.
   static Package Open(const std::string& path);
@@ -39,39 +39,45 @@ class Package {
   Package& operator=(Package&&) noexcept;
   ~Package();
 
+  /// Returns whether there is a part of the name.
   bool Has(std::string_view part) const;
-  /// All parts, in the order of the file.
+  /// Returns the names of all parts, in the order of the file.
   std::vector<std::string> Parts() const;
-  /// Of the part's override, or of its extension.
+  /// Returns the content type of a part, from its override or its extension.
   std::string ContentType(std::string_view part) const;
 
+  /// Returns the inflated bytes of a part.
   std::string Read(std::string_view part) const;
-  /// The bytes piece by piece, for parts too large to hold.
+  /// Opens a part that is too large for memory, to read it piece by piece.
   std::unique_ptr<Archive::Stream> Stream(std::string_view part) const;
-  /// Replaces the bytes of a part that is there.
+  /// Replaces the bytes of an existing part.
   void Replace(std::string_view part, std::string bytes);
+  /// Adds a part.
   void Add(std::string_view part, std::string_view contentType, std::string bytes);
   void SetContentType(std::string_view part, std::string_view contentType);
-  /// The first unused part name of the form prefix, number, suffix; numbers from 1.
+  /// Returns the first unused part name made of prefix, number and suffix. Numbers begin with 1.
   std::string FreeName(std::string_view prefix, std::string_view suffix) const;
 
-  /// Of a part, or of the package for an empty name; targets resolved. Empty if there is none. Good until the
-  /// part's relationships change.
+  /// Returns the relationships of a part, or of the package for an empty name, with resolved targets. The
+  /// reference is valid until the part's relationships change.
   const std::vector<Relationship>& Relationships(std::string_view part) const;
+  /// Returns a part's relationship with the id, or nothing.
   std::optional<Relationship> FindRelationship(std::string_view part, std::string_view id) const;
+  /// Returns a part's first relationship of a type, such as "styles", that isn't external.
   std::optional<Relationship> FindRelationshipOfType(std::string_view part, std::string_view type) const;
-  /// Returns the new relationship's id. `typeAddress` is the whole address.
+  /// Adds a relationship and returns its id. `typeAddress` is the whole URI of the type.
   std::string AddRelationship(std::string_view part, std::string_view typeAddress, std::string_view target);
-  /// Takes out a relationship of a part, if there is one of the id, and the parts that no other part refers
-  /// to without it: its target, and what only such parts refer to. Returns the names of the parts that went.
-  /// While some part's relationships can't be read, none goes.
+  /// Removes a part's relationship with the id, and the parts that no other part refers to after that.
+  /// Returns the names of the removed parts. No part is removed if the relationships of some part can't be
+  /// read.
   std::vector<std::string> RemoveRelationship(std::string_view part, std::string_view id);
 
+  /// Whether the package was changed since it was opened or saved.
   bool Changed() const { return changed_; }
-  /// Writes the package to a new file beside `path`, and then puts that in the place of `path`: who looks
-  /// finds the old file or the new one, whole. The file keeps its permissions; a link keeps pointing at it.
+  /// Writes the package to a new file, which then replaces `path` in one step. At any moment `path` is a
+  /// complete file. The file keeps its permissions; if `path` is a link, the file behind it is replaced.
   void Save(const std::string& path);
-  /// Writes the package to a stream. It is complete before the stream gets its first byte.
+  /// Writes the package to a stream. The package is complete before the stream gets its first byte.
   void Save(std::ostream& out);
 
  private:
@@ -79,34 +85,35 @@ class Package {
   const Part& Get(std::string_view part) const;
   Part* Find(std::string_view part) const;
   Part& Put(std::string_view part, std::string bytes);
-  /// The part and all that it refers to, directly or through others.
+  /// Returns a part and all parts that it refers to, directly or through others.
   std::set<std::string> Closure(const std::string& part) const;
-  /// Those of the closure that no part outside of it refers to, directly or through others.
+  /// Returns the parts of the closure that no part outside the closure refers to, directly or through others.
   std::set<std::string> OnlyThrough(const std::string& part) const;
-  /// Into an empty file.
+  /// Writes the package into an empty file.
   void Write(int descriptor);
-  /// Takes a part out, with its relationships and its content type.
+  /// Removes a part with its relationships and its content type.
   void Remove(const std::string& part);
-  /// Says what a zip archive without content types is.
+  /// Throws a PackageError that names the format of a zip file without content types.
   [[noreturn]] void ThrowForeignFormat() const;
   void ParseContentTypes(std::string_view bytes);
   void Commit(AtomicFile& file, const std::string& path);
 
   std::unique_ptr<Archive> archive_;
   std::vector<std::unique_ptr<Part>> parts_;          // in the order of the file
-  std::map<std::string, Part*, std::less<>> byName_;  ///< folded
-  /// By the name of the part that holds them; read once, as each shape of a drawing looks its own up.
+  std::map<std::string, Part*, std::less<>> byName_;  ///< By name in lower case.
+  /// By the name of the part. They are read once, because each shape of a drawing needs its own.
   mutable std::map<std::string, std::vector<Relationship>, std::less<>> relationships_;
   std::unique_ptr<pugi::xml_document> contentTypes_;
-  std::map<std::string, pugi::xml_node, std::less<>> overrides_;  ///< in that document, by part, folded
-  std::map<std::string, pugi::xml_node, std::less<>> defaults_;   ///< likewise by extension
+  std::map<std::string, pugi::xml_node, std::less<>>
+      overrides_;  ///< Elements of contentTypes_, by part in lower case.
+  std::map<std::string, pugi::xml_node, std::less<>> defaults_;  ///< The same, by extension.
   bool contentTypesChanged_ = false;
   bool changed_ = false;
 };
 
-/// The part that a target written in `source` names; empty if it climbs out of the package.
+/// Returns the part that a target written in `source` names; empty if the target leads out of the package.
 std::string ResolveTarget(std::string_view source, std::string_view target);
-/// How `source` writes the target, relative to its own folder and encoded.
+/// Returns the target as `source` writes it: relative to the folder of `source`, and encoded.
 std::string RelativeTarget(std::string_view source, std::string_view target);
 
 }  // namespace plotsmith::xlsx

@@ -6,21 +6,21 @@
 
 namespace plotsmith::xlsx {
 
-/// A workbook file that can't be read or written, in one sentence for the user. It is raised while a workbook
-/// is opened or saved; behind the port, where only run-time errors may pass, see Workbook::Damage.
+/// A workbook file that can't be read or written. The text is one sentence for the user. It is thrown while a
+/// workbook is opened or saved. Behind the port, only run-time errors may pass; see BookDamage.
 class PackageError : public std::runtime_error {
  public:
   explicit PackageError(const std::string& sentence) : std::runtime_error(sentence) {}
 };
 
-/// The same with the name of the part that is at fault.
+/// A PackageError that names the damaged part.
 class PartError : public PackageError {
  public:
   PartError(std::string_view part, const std::string& reason)
       : PackageError("its part " + std::string(part) + " can't be read: " + reason) {}
 };
 
-/// Names the part in what goes wrong while it is read.
+/// Calls `read`, and adds the name of the part to its PackageErrors.
 template <class Read>
 decltype(auto) InPart(std::string_view part, Read&& read) {
   try {

@@ -7,27 +7,27 @@
 
 namespace plotsmith::xlsx {
 
-/// A kind of workbook file. The kinds differ in the content type of the workbook part and in whether macros
-/// may be in the file; Excel opens no file whose content type doesn't fit its extension.
+/// A kind of workbook file. The kinds differ in the content type of the workbook part, and some may contain
+/// macros. Excel opens a file only if its content type fits its extension.
 struct WorkbookKind {
   std::string_view extension;    ///< ".xlsx"
-  std::string_view contentType;  ///< of the workbook part
-  bool macros;                   ///< the file may hold macros
+  std::string_view contentType;  ///< The content type of the workbook part.
+  bool macros;                   ///< Whether the file may contain macros.
 };
 
-/// The kind that a file of the name must be, ignoring case; null if the extension belongs to none.
+/// Returns the kind for the extension of a file name, without regard to case; null if there is none.
 const WorkbookKind* KindOfName(std::string_view path);
-/// Whether a part of the content type holds macros.
+/// Returns whether a part with the content type contains macros.
 bool HoldsMacros(std::string_view contentType);
-/// Whether the extension of the name belongs to a format of tables that isn't written here.
+/// Returns whether the extension belongs to a spreadsheet format that Plotsmith doesn't write.
 bool IsForeignName(std::string_view path);
-/// The extension with its point, in lower case; empty if the name has none.
+/// Returns the extension with its dot, in lower case; empty if there is none.
 std::string ExtensionOf(std::string_view path);
 
-/// Throws a PackageError that says why, if the file can't be opened or its first bytes are not those of a zip
-/// archive.
+/// Throws a PackageError with the reason if the file can't be opened or doesn't begin like a zip file.
 void CheckFile(const std::string& path);
-/// That a file is of another format ("an OpenDocument spreadsheet (.ods)"), and what can be read.
+/// Returns an error that names the format of a file ("an OpenDocument spreadsheet (.ods)") and the formats
+/// that can be read.
 PackageError OtherFormat(const std::string& format);
 
 }  // namespace plotsmith::xlsx

@@ -5,11 +5,11 @@
 
 namespace plotsmith::xlsx {
 
-/// SpreadsheetML writes characters that XML can't hold, or would change, as _xHHHH_ (ST_Xstring).
+/// Decodes a text of SpreadsheetML, which writes characters that XML can't contain or would change as _xHHHH_
+/// (ST_Xstring).
 std::string DecodeXString(std::string_view text);
-/// The text as it goes into an element: escapes for what XML can't hold (control characters, halves of
-/// surrogate pairs, U+FFFE and U+FFFF), for carriage returns and for what would read as an escape, then XML's
-/// own.
+/// Encodes a text for an element. Control characters, halves of surrogate pairs, U+FFFE, U+FFFF, carriage
+/// returns and texts that look like such an escape become escapes; then XML's own escapes are added.
 std::string EncodeXString(std::string_view text);
 
 }  // namespace plotsmith::xlsx

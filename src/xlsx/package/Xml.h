@@ -9,83 +9,91 @@
 #include <utility>
 #include <vector>
 
-/// XML parts that other programs wrote, read and changed without disturbing what we don't know.
+/// Reads and changes XML parts of other programs, and keeps what Plotsmith doesn't know.
 ///
-/// A part is parsed without decoding: entities, white space, comments and line ends stay as they were
-/// written, and go out as they came. Elements are found by their local names, as the prefix is the writer's
-/// own choice, and Strict and Transitional files differ only in the namespaces' addresses. What is read or
-/// set as a value passes through Decode or Encode.
+/// A part is parsed without decoding: entities, white space, comments and line ends are written back as they
+/// were read. Elements are found by their local names, because each program chooses its own prefixes, and
+/// because Strict and Transitional files differ only in the URIs of namespaces. Values are decoded when they
+/// are read, and encoded when they are set.
 namespace plotsmith::xlsx::xml {
 
-/// What is said of a part with a document type, which no part may have (ECMA-376-2).
+/// The message for a part with a document type declaration, which no part may have (ECMA-376-2).
 inline constexpr const char* kHasDocumentType =
     "it declares a document type, which no part of a workbook may";
 
-/// Parses a part in UTF-8, UTF-16, Latin-1 or Windows-1252. Throws PackageError if it isn't well-formed, or
-/// too deep.
+/// Parses a part in UTF-8, UTF-16, Latin-1 or Windows-1252. Throws PackageError if it isn't well-formed or
+/// nests too deep.
 void Parse(pugi::xml_document& document, std::string_view bytes);
-/// UTF-8, with the declaration that the part came with, or none.
+/// Returns the document in UTF-8, with the XML declaration that it was parsed with, if any.
 std::string Serialize(const pugi::xml_document& document);
-/// UTF-8 without a byte order mark, from whatever encoding the bytes are in; the declaration then says so.
+/// Converts a part to UTF-8 without a byte order mark, and changes its XML declaration accordingly.
 std::string ToUtf8(std::string bytes);
-/// Whether ToUtf8 would change a part that begins so; `start` goes up to the end of the declaration.
+/// Returns whether ToUtf8 would change a part; `start` is its text up to the end of the XML declaration.
 bool NeedsConversion(std::string_view start);
 
+/// Replaces the entities in a text by their characters.
 std::string Decode(std::string_view raw);
+/// Replaces characters that a text or an attribute's value can't contain by entities.
+///@{
 std::string EncodeText(std::string_view text);
 std::string EncodeAttribute(std::string_view text);
+///@}
 
+/// The name without its prefix.
 std::string_view LocalName(std::string_view name);
 inline std::string_view LocalName(pugi::xml_node node) { return LocalName(node.name()); }
 inline bool Is(pugi::xml_node node, std::string_view local) { return LocalName(node) == local; }
-/// The prefix with its colon, or empty.
+/// The prefix with its colon; empty if there is none.
 std::string_view Prefix(std::string_view name);
 
-/// The first child element of the local name, or a null node. A path of several names goes down.
+/// Returns the first child element with the local name, or a null node. Several names are a path downwards.
 pugi::xml_node Child(pugi::xml_node parent, std::string_view local);
 template <class... Names>
 pugi::xml_node Child(pugi::xml_node parent, std::string_view local, Names... rest) {
   return Child(Child(parent, local), rest...);
 }
+/// Returns all child elements with the local name.
 std::vector<pugi::xml_node> Children(pugi::xml_node parent, std::string_view local);
-/// A new last child, with its parent's prefix.
+/// Appends a child with its parent's prefix, and returns it.
 pugi::xml_node AppendChild(pugi::xml_node parent, std::string_view local);
-/// A child, made where there is none: in front of those that come behind it in the order of the schema.
+/// Returns a child. If it is missing, it is inserted before the children that follow it in `order`, the order
+/// of the schema.
 pugi::xml_node EnsureInOrder(pugi::xml_node parent, std::string_view local,
                              std::span<const std::string_view> order);
-/// The next sibling element of the same local name.
+/// Returns the next sibling element with the same local name.
 pugi::xml_node NextSame(pugi::xml_node node);
 /// The root element.
 pugi::xml_node Root(const pugi::xml_document& document);
 
-/// The decoded value of an attribute without a prefix, nothing if it is absent.
+/// Returns the decoded value of an attribute without a prefix, or nothing.
 std::optional<std::string> FindAttribute(pugi::xml_node node, const char* name);
 std::string Attribute(pugi::xml_node node, const char* name, std::string_view fallback = {});
-/// A whole number; `fallback` if the attribute is absent or isn't one.
+/// Returns an integer; `fallback` if the attribute is absent or isn't an integer.
 long long IntegerAttribute(pugi::xml_node node, const char* name, long long fallback);
 double NumberAttribute(pugi::xml_node node, const char* name, double fallback);
-/// ST_OnOff, and so xsd:boolean; `fallback` if the attribute is absent or is neither.
+/// Returns a value of the type ST_OnOff, which includes xsd:boolean; `fallback` if the attribute is absent or
+/// invalid.
 bool BooleanAttribute(pugi::xml_node node, const char* name, bool fallback);
 void SetAttribute(pugi::xml_node node, const char* name, std::string_view value);
-/// The value of the attribute that links to a relationship (r:id, whatever the prefix), or empty.
+/// Returns the value of the attribute r:id, with any prefix; empty if it is absent.
 std::string RelationshipId(pugi::xml_node node);
-/// The values of all attributes of an element and those inside of it that may link to a relationship (r:id,
-/// r:embed, r:link, ...): those with a prefix.
+/// Returns the values of all attributes with a prefix, of an element and of the elements inside it. The ids
+/// of relationships are among them (r:id, r:embed, r:link).
 std::set<std::string> RelationshipIdsIn(pugi::xml_node element);
 
-/// The decoded text directly inside an element.
+/// Returns the decoded text directly inside an element.
 std::string Text(pugi::xml_node node);
 void SetText(pugi::xml_node node, std::string_view text);
 
-/// The prefix (with colon) under which `uri` is known at `node`; declares it on the root element, under
-/// `preferred` or a variant of it, where it isn't.
+/// Returns the prefix (with its colon) of the namespace `uri` at `node`. If there is none, declares it on the
+/// root element, as `preferred` or a variant of it.
 std::string EnsurePrefix(pugi::xml_node node, std::string_view uri, std::string_view preferred);
-/// The namespace that the element itself is in.
+/// Returns the URI of the element's namespace.
 std::string NamespaceOf(pugi::xml_node node);
 
-/// "1", "true", "on" and their opposites; nothing for anything else.
+/// Reads "1", "true", "on", "0", "false" or "off". Returns nothing for any other text.
 std::optional<bool> ParseBoolean(std::string_view text);
-/// Numbers as XML wants them, shortest form that reads back the same.
+/// Returns a number as XML writes it, in the shortest form that reads back as the same number.
 std::string Number(double value);
 std::optional<double> ParseDouble(std::string_view text);
 std::optional<long long> ParseInteger(std::string_view text);

@@ -10,39 +10,39 @@
 
 namespace plotsmith::xlsx {
 
-/// A large part read as a stream of tags through a window that stays in the processor's cache. Elements are
-/// named by their local names. Throws PackageError for what isn't XML; it checks no more of that than it
-/// needs.
+/// Reads a large part as a stream of tags, through a window that stays in the processor's cache. Elements
+/// have their local names. Text that isn't XML raises a PackageError, as far as it is noticed; not all rules
+/// of XML are checked.
 class XmlStream {
  public:
   enum class Kind { kStart, kEnd, kEmpty, kEndOfInput };
   struct Tag {
     Kind kind;
-    std::string_view name;        ///< local; good until the next call
-    std::string_view attributes;  ///< as written, likewise
+    std::string_view name;        ///< The local name. Valid until the next call.
+    std::string_view attributes;  ///< As written. Valid until the next call.
   };
 
-  /// A part in another encoding than UTF-8 is read whole and converted first.
+  /// Reads from `source`. A part that isn't in UTF-8 is first read as a whole and converted.
   explicit XmlStream(Archive::Stream& source);
 
-  /// The next tag. The text before it, decoded, is appended to `text` if that isn't null. Comments and
-  /// processing instructions are passed over.
+  /// Returns the next tag, and skips comments and processing instructions. If `text` isn't null, the decoded
+  /// text before the tag is appended to it.
   Tag Next(std::string* text = nullptr);
-  /// Appends the text of the element whose start tag came last, and passes its end tag.
+  /// Appends the text of the element whose start tag was read last, and reads its end tag.
   void ReadText(std::string& text);
-  /// Passes over the rest of the element whose start tag came last.
+  /// Skips the rest of the element whose start tag was read last.
   void SkipElement();
-  /// Reads to the end of the part, which proves its size and checksum.
+  /// Reads to the end of the part, so that its size and checksum are checked.
   void Drain();
 
  protected:
-  /// Moves what is unread to the window's front and reads more; false at the end of the part. The window
-  /// grows if it is full. `position_` stays on the same byte.
+  /// Moves the unread bytes to the start of the window and reads more. Returns false at the end of the part.
+  /// A full window grows. `position_` stays at the same byte.
   bool Fill();
   [[noreturn]] static void Damaged();
 
-  // The window: unread bytes from position_ to end_, where a zero byte stands, which XML can't hold: so loops
-  // need not look at the end. 15 more bytes may be looked at behind it.
+  // The unread bytes of the window. A zero byte follows at end_. XML can't contain one, so loops stop there
+  // without a comparison. The 15 bytes after it may be read too.
   const char* position_ = nullptr;
   const char* end_ = nullptr;
 
@@ -51,24 +51,24 @@ class XmlStream {
 
   Archive::Stream& source_;
   std::vector<char> window_;
-  std::string converted_;  ///< a part that came in another encoding
+  std::string converted_;  ///< A part in another encoding, after its conversion.
   std::size_t convertedAt_ = 0;
   bool isConverted_ = false;
 };
 
 /// An attribute as it is written in a tag.
 struct XmlAttribute {
-  std::string_view all;    ///< with the space before it
-  std::string_view name;   ///< with its prefix
-  std::string_view value;  ///< not decoded
+  std::string_view all;    ///< With the space before it.
+  std::string_view name;   ///< With its prefix.
+  std::string_view value;  ///< Not decoded.
 };
 
-/// The first attribute in the text between a tag's name and its end, which is moved behind it; nothing if
-/// there is no other, or what follows isn't one.
+/// Returns the first attribute of `attributes`, the text between a tag's name and its end, and removes it
+/// from the text. Returns nothing if there is no attribute left, or if the text is none.
 std::optional<XmlAttribute> TakeAttribute(std::string_view& attributes);
-/// The value of an attribute in such a text, decoded; empty if it is absent.
+/// Returns the decoded value of an attribute in such a text; empty if it is absent.
 std::string AttributeIn(std::string_view attributes, std::string_view name);
-/// The same of a boolean; `fallback` if it is absent or isn't one.
+/// Returns the value of a Boolean attribute in such a text; `fallback` if it is absent or isn't a Boolean.
 bool BooleanIn(std::string_view attributes, std::string_view name, bool fallback = false);
 
 }  // namespace plotsmith::xlsx

@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
-/// The tags of a part as text, for changes that leave all else as it is, byte for byte. The text is UTF-8.
+/// The tags of a part as text, for changes that keep all other bytes. The text is UTF-8.
 namespace plotsmith::xlsx {
 
-/// A stretch of a text, the end outside.
+/// A part of a text. The end is the position after the last character.
 struct TextSpan {
   std::size_t begin = std::string::npos;
   std::size_t end = std::string::npos;
@@ -19,17 +19,18 @@ struct XmlTag {
   enum class Kind { kStart, kEnd, kEmpty };
   TextSpan span;
   Kind kind = Kind::kStart;
-  std::string_view name;        ///< as written
-  std::string_view attributes;  ///< likewise, with the space before them
+  std::string_view name;        ///< As written.
+  std::string_view attributes;  ///< As written, with the space before them.
 };
 
-/// The next tag from a place on; comments, instructions and character data hold none.
+/// Returns the next tag at or after a position. Comments, processing instructions and character data are
+/// skipped.
 std::optional<XmlTag> NextTag(std::string_view text, std::size_t from);
 
-/// An attribute of a tag of the text, from the space before it to behind its closing quote.
+/// Returns the place of an attribute of a tag, from the space before it to the end of its closing quote.
 TextSpan FindAttribute(std::string_view text, const XmlTag& tag, std::string_view name);
 
-/// The decoded text of an element, as written between its tags.
+/// Returns the decoded text of an element; `content` is what is written between its tags.
 std::string TextBetween(std::string_view content);
 
 }  // namespace plotsmith::xlsx

@@ -5,14 +5,14 @@
 
 namespace plotsmith::xlsx {
 
-/// Files for the zip library, which by itself reads and writes them by four kilobytes: a large workbook would
-/// spend more time in the kernel than in the pivot. The library owns what these return.
+/// Files for the zip library. By itself, the library reads and writes four kilobytes at a time, and a large
+/// workbook would spend more time in the kernel than in the pivot. The library owns the returned objects.
 
-/// A file to read. Throws PackageError if it can't be opened.
+/// Opens a file for reading. Throws PackageError if that fails.
 zip_source_t* OpenZipFile(const std::string& path);
-/// A file to write anew, in place and in one go; what a failure leaves of it is the caller's to remove.
+/// Creates or empties a file and writes it in one pass. After a failure, the caller removes it.
 zip_source_t* CreateZipFile(const std::string& path);
-/// The same of an empty file that is open for writing; the descriptor stays the caller's.
+/// Writes an empty file that is open for writing. The caller keeps the descriptor.
 zip_source_t* CreateZipFile(int descriptor);
 
 }  // namespace plotsmith::xlsx
