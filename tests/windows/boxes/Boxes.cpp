@@ -14,6 +14,7 @@
 #include "tests/windows/boxes/Calls.h"
 #include "tests/windows/boxes/MessageBoxes.h"
 #include "tests/windows/boxes/MonkeyHands.h"
+#include "tests/windows/boxes/PressingHand.h"
 #include "tests/windows/boxes/ScriptedHands.h"
 #include "windows/com/Failures.h"
 #include "windows/com/Texts.h"
@@ -140,6 +141,7 @@ class Boxes final : public IDispatch {
   MessageBoxes boxes_;
   std::unique_ptr<ScriptedHands> hands_;
   std::unique_ptr<MonkeyHands> monkey_;
+  std::unique_ptr<PressingHand> pressingHand_;
   HWND window_ = nullptr;
   com::ComPtr<IDispatch> controller_;
 };
@@ -174,7 +176,8 @@ const Boxes::Member Boxes::kMembers[] = {
        const std::string failure = hands->Finish();
        return com::ToVariant(Variant(failure + "\n" + hands->Shown()));
      }},
-    // PlayMonkey(seed, events): a monkey plays with dialogs and boxes from now on; see MonkeyHands.
+    // PlayMonkey(seed, events): sends random input to dialogs and boxes from now on (see
+    // MonkeyHands).
     {"PlayMonkey",
      [](Boxes& boxes, const DISPPARAMS& sent) -> OwnedVariant {
        const auto number = [&](UINT position) { return CDbl(com::FromVariant(Last(sent, position))); };
@@ -185,12 +188,27 @@ const Boxes::Member Boxes::kMembers[] = {
        });
        return {};
      }},
-    // FinishMonkey(): how many events it has made.
+    // FinishMonkey(): returns the number of events that were sent.
     {"FinishMonkey",
      [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
        boxes.boxes_.AnswerBy({});
        const auto monkey = std::exchange(boxes.monkey_, nullptr);
        return com::ToVariant(Variant(static_cast<std::int32_t>(monkey->Made())));
+     }},
+    // PressEachPage("PAGE BUTTON PAGE BUTTON ..."): presses a button on each page that comes.
+    // StopPressing(): returns the number of presses.
+    {"PressEachPage",
+     [](Boxes& boxes, const DISPPARAMS& sent) -> OwnedVariant {
+       std::istringstream words(Text(sent, 0));
+       std::map<std::string, std::string> buttons;
+       for (std::string page, button; words >> page >> button;) buttons[page] = button;
+       boxes.pressingHand_ = std::make_unique<PressingHand>(std::move(buttons));
+       return {};
+     }},
+    {"StopPressing",
+     [](Boxes& boxes, const DISPPARAMS&) -> OwnedVariant {
+       const auto hand = std::exchange(boxes.pressingHand_, nullptr);
+       return com::ToVariant(Variant(hand->Presses()));
      }},
     // LateBound(controller, call, application) and EarlyBound: see Calls.h.
     {"LateBound",
