@@ -10,46 +10,48 @@
 
 namespace plotsmith::xlsx {
 
-/// A cell that can be changed.
+/// A cell of a CellGrid.
 struct GridCell {
   excel::CellValue::Kind kind = excel::CellValue::Kind::kEmpty;
   double number = 0;
-  std::string text;         ///< of a text or an error value
-  std::uint32_t style = 0;  ///< an index into cellXfs
+  std::string text;         ///< The text of a text or an error value.
+  std::uint32_t style = 0;  ///< An index into cellXfs.
 
   bool IsBlank() const { return kind == excel::CellValue::Kind::kEmpty && style == 0; }
 };
 
-/// The cells of a sheet that is written to: row by row, so that rows can be inserted and deleted.
+/// The cells of a sheet that is written to, by row, so that rows can be inserted and deleted. Rows and
+/// columns count from 1.
 class CellGrid {
  public:
-  /// Error 1004 if a sheet of so many cells takes more room than there should be need for. A row takes room
-  /// up to its last cell.
+  /// Raises error 1004 if a sheet has too many cells to be written to. A row counts up to its last cell.
   static void CheckRoom(std::size_t cells);
 
-  /// Null where nothing was ever put. Rows and columns from 1.
+  /// Returns a cell, or null if it was never written.
   const GridCell* Find(std::int32_t row, std::int32_t column) const;
+  /// Returns a cell for writing, and makes it if necessary.
   GridCell& At(std::int32_t row, std::int32_t column);
-  /// Error 1004 if the last row of the sheet would be pushed out.
+  /// Inserts a row above `row`. Raises error 1004 if the last row of the sheet would be lost.
   void InsertRow(std::int32_t row);
   void DeleteRow(std::int32_t row);
 
   std::int32_t RowCount() const { return static_cast<std::int32_t>(above_.size() + below_.size()); }
-  /// The rectangle around all cells that aren't blank.
+  /// Returns the smallest rectangle that contains all cells that aren't blank.
   std::optional<CellRange> Used() const;
-  /// The `sheetData` element, texts inline; `prefix` is that of the part's elements, with its colon.
+  /// Returns the `sheetData` element, with inline texts. `prefix` is the prefix of the part's elements, with
+  /// its colon.
   std::string SheetData(const std::string& prefix) const;
 
  private:
   using Row = std::vector<GridCell>;
   const Row& RowAt(std::int32_t row) const;
-  /// Makes the row the first of those below.
+  /// Moves rows between above_ and below_ so that `row` is the first row of below_.
   void DivideAt(std::int32_t row);
 
-  /// The rows, divided where one last went in or out: many go at one place, and those behind needn't move for
-  /// each. `below_` begins with the last row of the sheet.
+  /// The rows, divided at the place of the last insertion or deletion. Many rows are inserted at one place,
+  /// and the rows below it don't move each time. `below_` is in reverse order.
   std::vector<Row> above_, below_;
-  std::size_t held_ = 0;  ///< cells, with those that only fill a row up
+  std::size_t held_ = 0;  ///< The number of cells, with those that only fill a row.
 };
 
 }  // namespace plotsmith::xlsx

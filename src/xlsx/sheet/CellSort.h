@@ -8,13 +8,13 @@
 namespace plotsmith::xlsx {
 
 struct SortOptions {
-  std::int32_t column = 1;  ///< of the sheet, inside the range
+  std::int32_t column = 1;  ///< The key's column on the sheet, from 1. It is inside the range.
   bool descending = false;
-  bool matchCase = false;  ///< then lower case goes before upper case, where texts are else the same
+  bool matchCase = false;  ///< Whether lower case precedes upper case in texts that are otherwise equal.
 };
 
-/// Sorts the rows of a range as Excel does: numbers, texts, FALSE, TRUE, errors; empty cells go last in
-/// either direction, and what is equal keeps its order. The cells move with their styles.
+/// Sorts the rows of a range in Excel's order: numbers, texts, FALSE, TRUE, errors. Empty cells are last in
+/// both directions, and equal rows keep their order. The cells move with their styles.
 void SortRows(CellGrid& grid, const CellRange& range, const SortOptions& options);
 
 }  // namespace plotsmith::xlsx

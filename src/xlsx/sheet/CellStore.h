@@ -11,8 +11,9 @@
 
 namespace plotsmith::xlsx {
 
-/// A cell's value in eight bytes: a number as it is, all else inside the payload of a quiet NaN, which no
-/// number in a file is. Texts are indices, into the workbook's shared strings or into the sheet's own texts.
+/// The value of a cell in eight bytes. A number is stored as it is. Everything else is in the payload of a
+/// quiet NaN, because no number in a file is a NaN. A text is an index into the workbook's shared strings or
+/// into the sheet's own texts.
 class PackedValue {
  public:
   enum class Kind : std::uint8_t { kEmpty, kBoolean, kError, kSharedText, kOwnText, kNumber };
@@ -33,7 +34,7 @@ class PackedValue {
   std::uint64_t bits_;
 };
 
-/// Texts one behind the other in one block, by index.
+/// Texts in one block of memory, by index from 0.
 class TextPool {
  public:
   std::uint32_t Add(std::string_view text) {
@@ -53,10 +54,11 @@ class TextPool {
   std::vector<std::uint64_t> ends_;
 };
 
-/// The cells of a sheet as they were read: column by column, eight bytes a cell, and the styles as runs,
-/// since a column's cells mostly share one. Cells come in the order of the file.
+/// The cells of a sheet as they were read, by column. A cell takes eight bytes. Styles are stored as runs,
+/// because most cells of a column share one. Rows and columns count from 1.
 class CellStore {
  public:
+  /// Adds a cell. Cells are added in the order of the file.
   void Append(std::int32_t row, std::int32_t column, PackedValue value, std::uint32_t style) {
     if (column > static_cast<std::int32_t>(columns_.size()))
       columns_.resize(static_cast<std::size_t>(column));
@@ -67,29 +69,28 @@ class CellStore {
     if (column < 1 || column > static_cast<std::int32_t>(columns_.size())) return {};
     return columns_[static_cast<std::size_t>(column) - 1].ValueAt(row);
   }
-  /// An index into cellXfs; 0 where there is no cell.
+  /// Returns the style of a cell, an index into cellXfs; 0 if there is no cell.
   std::uint32_t StyleAt(std::int32_t row, std::int32_t column) const {
     if (column < 1 || column > static_cast<std::int32_t>(columns_.size())) return 0;
     return columns_[static_cast<std::size_t>(column) - 1].StyleAt(row);
   }
 
   std::int32_t ColumnCount() const { return static_cast<std::int32_t>(columns_.size()); }
-  /// The next row behind that one that may hold a cell, 0 if there is none.
+  /// Returns the next row below `row` that may have a cell in the column; 0 if there is none.
   std::int32_t NextRow(std::int32_t row, std::int32_t column) const {
     if (column < 1 || column > static_cast<std::int32_t>(columns_.size())) return 0;
     return columns_[static_cast<std::size_t>(column) - 1].NextRow(row);
   }
   std::uint64_t CellCount() const { return count_; }
 
-  TextPool texts;  ///< the sheet's own: inline strings, results of formulas, error values
+  TextPool texts;  ///< The sheet's own texts: inline strings, results of formulas, error values.
 
  private:
-  /// Rows that follow each other closely lie in one run; a gap of a few rows is cheaper filled than broken
-  /// off.
+  /// The cells of a column in runs of rows. A gap of a few rows is filled, which costs less than a new run.
   class Column {
    public:
     void Append(std::int32_t row, PackedValue value, std::uint32_t style) {
-      if (!runs_.empty() && row == runs_.back().lastRow + 1 && style == lastStyle_) {  // nearly always
+      if (!runs_.empty() && row == runs_.back().lastRow + 1 && style == lastStyle_) {  // Nearly always.
         values_.push_back(value);
         runs_.back().lastRow = row;
       } else {
@@ -97,7 +98,7 @@ class CellStore {
       }
     }
     PackedValue ValueAt(std::int32_t row) const {
-      // walks go down a column, so that the run of the last answer is the best guess
+      // Most callers go down a column, so the run of the last call is the best guess.
       if (strays_.empty() && !runs_.empty()) {
         const Run& run = runs_[recentRun_];
         if (row >= run.firstRow && row <= run.lastRow) {
@@ -113,7 +114,7 @@ class CellStore {
     static constexpr std::int32_t kFilledGap = 4;
     struct Run {
       std::int32_t firstRow, lastRow;
-      std::uint32_t firstValue;  ///< index into values_
+      std::uint32_t firstValue;  ///< An index into values_.
     };
     struct StyleRun {
       std::int32_t firstRow;
@@ -133,7 +134,7 @@ class CellStore {
     std::uint32_t lastStyle_ = 0;
     mutable std::size_t recentRun_ = 0;
     mutable std::size_t recentStyle_ = 0;
-    std::map<std::int32_t, Stray> strays_;  ///< cells of a file that doesn't keep its rows in order
+    std::map<std::int32_t, Stray> strays_;  ///< Cells of a file whose rows aren't in order.
   };
 
   std::vector<Column> columns_;

@@ -7,11 +7,11 @@
 
 namespace plotsmith::xlsx {
 
-/// A number for each cell of one column of a sheet that is written to, so that a walk for a text reads four
-/// bytes a row and not the cells.
+/// A number for each cell of one column of a sheet that is written to. A search for a text reads these four
+/// bytes per row instead of the cells. Rows count from 1.
 class ColumnKeys {
  public:
-  /// The key of a cell that has to be looked at: it shows nothing, or something else than the text it holds.
+  /// The key of a cell that the caller has to read: the cell is empty, or its displayed text isn't its text.
   static constexpr std::uint32_t kUnknown = 0;
   static std::uint32_t KeyOf(std::string_view text) {
     return static_cast<std::uint32_t>(std::hash<std::string_view>()(text)) | 1u;
@@ -31,7 +31,7 @@ class ColumnKeys {
   void DeleteRow(std::int32_t row) {
     if (IndexOf(row) < keys_.size()) keys_.erase(keys_.begin() + (row - 1));
   }
-  /// The next row below with the key, or with a cell that has to be looked at.
+  /// Returns the next row below `row` that has the key, or a cell that the caller has to read.
   std::int32_t NextRow(std::int32_t row, std::uint32_t key) const {
     std::size_t index = IndexOf(row) + 1;
     while (index < keys_.size() && keys_[index] != key && keys_[index] != kUnknown) ++index;
@@ -42,7 +42,7 @@ class ColumnKeys {
   static std::size_t IndexOf(std::int32_t row) { return static_cast<std::size_t>(row) - 1; }
 
   std::int32_t column_;
-  std::vector<std::uint32_t> keys_;  ///< from row 1; rows behind the end are unknown
+  std::vector<std::uint32_t> keys_;  ///< From row 1. Rows after the last key have kUnknown.
 };
 
 }  // namespace plotsmith::xlsx

@@ -7,8 +7,8 @@
 
 namespace plotsmith::xlsx {
 
-/// The drawing of a sheet or a chart sheet. Its relationship tells, and of several, which deletions leave
-/// behind, the one that the sheet's `drawing` element names; a sheet with one is not read for it.
+/// Returns the relationship of a sheet or a chart sheet to its drawing, or nothing. Deletions can leave
+/// several such relationships. In that case the sheet's part is read, and its `drawing` element decides.
 std::optional<Relationship> FindDrawingLink(const Package& package, const std::string& sheet);
 
 }  // namespace plotsmith::xlsx

@@ -6,11 +6,11 @@
 
 namespace plotsmith::xlsx {
 
-/// What a cell holds after a value was put into it, as if it was typed: a text that reads as a number, a
-/// percentage, a logical value or an error value becomes that; a leading apostrophe makes any text a text. So
-/// do dates and formulas stay, which this host doesn't read.
-/// A Date becomes the serial of the workbook's system. The style is left alone. Error 1004 for what a cell
-/// can't hold.
+/// Puts a value into a cell as if it was typed. A text that looks like a number, a percentage, a logical
+/// value or an error value becomes that value. After a leading apostrophe it stays a text. Texts that look
+/// like dates or formulas stay texts too, because this host doesn't read them. A Date becomes the serial
+/// number of the workbook's date system. The style of the cell doesn't change. Raises error 1004 for a value
+/// that a cell can't contain.
 void EnterValue(GridCell& cell, const runtime::Variant& value, DateSystem dates);
 
 }  // namespace plotsmith::xlsx

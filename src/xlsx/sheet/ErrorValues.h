@@ -6,7 +6,7 @@
 
 namespace plotsmith::xlsx {
 
-/// Error values as a cell shows them, with Excel's numbers (XlCVError).
+/// The error values as cells show them, with Excel's numbers (XlCVError).
 inline constexpr std::array<std::pair<std::string_view, int>, 11> kErrorValues = {{{"#NULL!", 2000},
                                                                                    {"#DIV/0!", 2007},
                                                                                    {"#VALUE!", 2015},
@@ -19,7 +19,7 @@ inline constexpr std::array<std::pair<std::string_view, int>, 11> kErrorValues =
                                                                                    {"#CALC!", 2050},
                                                                                    {"#FIELD!", 2049}}};
 
-/// 2042 (#N/A) for an error that we don't know.
+/// Returns the number of an error value; 2042 (#N/A) for an unknown text.
 constexpr int ErrorNumber(std::string_view text) {
   for (const auto& [shown, number] : kErrorValues) {
     if (shown == text) return number;
@@ -27,6 +27,7 @@ constexpr int ErrorNumber(std::string_view text) {
   return 2042;
 }
 
+/// Returns the text of an error value; "#N/A" for an unknown number.
 constexpr std::string_view ErrorText(int number) {
   for (const auto& [shown, known] : kErrorValues) {
     if (known == number) return shown;

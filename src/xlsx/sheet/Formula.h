@@ -13,28 +13,28 @@
 /// Formulas as text: what they refer to, without knowing what they compute.
 namespace plotsmith::xlsx {
 
-/// Reads a formula piece by piece: references, and everything else as it stands.
+/// Splits a formula into references and other pieces of text.
 class FormulaReader {
  public:
-  /// Where a reference points.
+  /// The sheet that a reference refers to.
   enum class Place {
-    kHome,       ///< it names no sheet: the sheet that the formula stands on
-    kSheet,      ///< the sheet it names
-    kElsewhere,  ///< another workbook, or several sheets at once
+    kHome,       ///< The sheet of the formula; the reference names no sheet.
+    kSheet,      ///< The sheet that the reference names.
+    kElsewhere,  ///< Another workbook, or several sheets.
   };
   struct Piece {
     std::string_view text;
     std::optional<A1Reference> reference;
     Place place = Place::kHome;
-    std::string sheet;  ///< without its quotes
+    std::string sheet;  ///< The name of the sheet, without quotes.
   };
 
   explicit FormulaReader(std::string_view formula) : rest_(formula) {}
-  /// Nothing at the end.
+  /// Returns the next piece, or nothing at the end.
   std::optional<Piece> Next();
 
  private:
-  /// The sheet of the reference that comes next.
+  /// Sets the sheet of the next reference.
   void PointTo(std::string sheet, bool elsewhere);
   Piece Take(std::size_t length);
   Piece TakeQuoted();
@@ -42,29 +42,29 @@ class FormulaReader {
   Piece TakeName();
 
   std::string_view rest_;
-  Place place_ = Place::kHome;  ///< of a reference that comes next
+  Place place_ = Place::kHome;  ///< The place of the next reference.
   std::string sheet_;
-  std::optional<Piece> corner_;  ///< a reference with a colon behind it: what follows is on the same sheet
+  std::optional<Piece> corner_;  ///< A reference before a colon; the reference after it is on the same sheet.
 };
 
-/// `count` rows inserted at `row` of a sheet, or, if it is negative, deleted.
+/// An insertion of `count` rows at `row` of a sheet, or a deletion if `count` is negative. Rows count from 1.
 struct RowShift {
   std::int32_t row;
   std::int32_t count;
-  std::size_t number;  ///< counts the changes to all sheets
+  std::size_t number;  ///< The number of the change among those of all sheets.
 };
-/// Those of one sheet, in order; case doesn't matter in its name.
+/// Returns the shifts of one sheet, in order. The name is compared without regard to case.
 using ShiftsOf = std::function<std::span<const RowShift>(std::string_view sheet)>;
 
-/// A formula in which references follow when rows are inserted and deleted, one change after the other.
-/// `home` is the sheet that references without a sheet mean, empty if there is none. Nothing if the formula
-/// stays as it is. What is deleted whole becomes #REF!. References over several sheets keep their rows, as in
+/// Adjusts the references of a formula to insertions and deletions of rows, one after the other. Returns
+/// nothing if the formula doesn't change. `home` is the sheet of references that name none; it may be empty.
+/// A reference to cells that were all deleted becomes #REF!. References to several sheets don't change, as in
 /// Excel.
 std::optional<std::string> ShiftRows(std::string_view formula, std::string_view home,
                                      const ShiftsOf& shiftsOf);
 
-/// A formula as it reads when it is copied to a cell so many rows below and columns to the right: relative
-/// references move along. What leaves the sheet becomes #REF!.
+/// Returns a formula as it is after copying to a cell `rows` below and `columns` to the right. Relative
+/// references move, and become #REF! outside the sheet.
 std::string OffsetFormula(std::string_view formula, std::int32_t rows, std::int32_t columns);
 
 }  // namespace plotsmith::xlsx

@@ -12,33 +12,33 @@
 
 namespace plotsmith::xlsx {
 
-/// The rows that were inserted and deleted since the workbook was opened, in order. Whoever holds references
-/// remembers how far it has followed, and catches up when its references are next looked at: so a row that
-/// goes in costs nothing for each chart there is.
+/// The rows that were inserted and deleted since the workbook was opened, in order. An object that has
+/// references remembers how many of the shifts it has followed, and follows the others when its references
+/// are needed. So an inserted row costs nothing per chart.
 class RowShifts {
  public:
-  /// `count` rows at `row`; negative: deleted.
+  /// Adds an insertion of `count` rows at `row`, or a deletion if `count` is negative.
   void Add(std::string_view sheet, std::int32_t row, std::int32_t count);
   bool None() const { return count_ == 0; }
-  /// Whether any came behind a mark.
+  /// Returns whether there are shifts after a mark.
   bool AnyBehind(std::size_t mark) const { return count_ > mark; }
-  /// The mark to remember once all shifts are followed.
+  /// Returns the mark of an object that has followed all shifts.
   std::size_t Mark() {
     marked_ = true;
     return count_;
   }
 
-  /// A formula that has followed `followed` of the shifts, brought up to date; nothing if it stays as it is.
-  /// `home` is the sheet that the formula stands on, empty for a chart or a name.
+  /// Adjusts a formula that has followed the shifts up to the mark `followed`. Returns nothing if it doesn't
+  /// change. `home` is the sheet of the formula, or empty for a chart or a name.
   std::optional<std::string> Follow(std::string_view formula, std::string_view home,
                                     std::size_t followed) const;
-  /// Whether a text mentions one of the sheets concerned at all.
+  /// Returns whether a text contains the name of a sheet with shifts.
   bool MayConcern(std::string_view text) const;
 
  private:
-  std::map<std::string, std::vector<RowShift>, std::less<>> shifts_;  ///< by sheet, in upper case
+  std::map<std::string, std::vector<RowShift>, std::less<>> shifts_;  ///< By sheet, in upper case.
   std::size_t count_ = 0;
-  bool marked_ = false;  ///< the last shift is somebody's mark and must not grow any more
+  bool marked_ = false;  ///< Whether the last shift is a mark, so that it can't be extended.
 };
 
 }  // namespace plotsmith::xlsx

@@ -7,9 +7,9 @@ namespace plotsmith::xlsx {
 
 class Package;
 
-/// Leaves one sheet's tab selected, given the parts of all sheets. Those that are selected as well would open
-/// as a group with it, in which what a user types goes into all. Sheets that are right already keep their
-/// bytes.
+/// Selects the tab of one sheet only. `sheets` are the parts of all sheets. If several tabs were selected,
+/// Excel would open them as a group, and typing would change all of them. Sheets that need no change keep
+/// their bytes.
 void SelectOnlyTab(Package& package, const std::vector<std::string>& sheets, const std::string& selected);
 
 }  // namespace plotsmith::xlsx

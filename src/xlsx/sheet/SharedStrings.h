@@ -5,8 +5,8 @@
 
 namespace plotsmith::xlsx {
 
-/// Reads the shared strings part: the text of each item, the runs of a rich one joined, phonetic runs left
-/// out.
+/// Reads the shared strings part into `strings`, one text per item. The runs of a rich text are joined, and
+/// phonetic runs are left out.
 void ReadSharedStrings(Archive::Stream& source, TextPool& strings);
 
 }  // namespace plotsmith::xlsx

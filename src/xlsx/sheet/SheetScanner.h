@@ -11,22 +11,21 @@
 
 namespace plotsmith::xlsx {
 
-/// What a sheet's part says, as far as we ask.
+/// The contents of a sheet that Plotsmith uses.
 struct SheetContents {
   CellStore cells;
-  /// The rectangle around all cells of the part, whatever its `dimension` claims; empty in a sheet without
-  /// any.
+  /// The smallest rectangle that contains all cells, or nothing. The `dimension` element isn't used.
   std::optional<CellRange> used;
-  /// The part before `sheetData`, in UTF-8.
+  /// The text before `sheetData`, in UTF-8.
   std::string head;
-  /// Whether a cell has a formula. What stands behind the cells may hold some too.
+  /// Whether a cell has a formula. Elements after the cells can have formulas too.
   bool formulas = false;
-  /// Cells with a formula whose result the file doesn't hold, in the order of the file. A program that writes
-  /// formulas without calculating them leaves such cells.
+  /// Cells with a formula and no stored result, in the order of the file. Programs that don't calculate
+  /// formulas write such cells.
   std::vector<CellPlace> formulasWithoutResult;
-  /// Heights of rows that have their own, in points, in the order of the file; 0 is a hidden row.
+  /// Heights of single rows, in points, in the order of the file; 0 for a hidden row.
   std::vector<std::pair<std::int32_t, double>> rowHeights;
-  /// Cells that are shown as one, in the order of the file.
+  /// Merged cells, in the order of the file.
   std::vector<CellRange> mergedCells;
 };
 

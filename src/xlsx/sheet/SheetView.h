@@ -5,20 +5,20 @@
 
 namespace plotsmith::xlsx {
 
-/// How a window shows a sheet (CT_SheetView).
+/// The view of a sheet in a window (CT_SheetView).
 struct SheetView {
   bool gridLines = true;
-  bool headings = true;     ///< the letters of columns and the numbers of rows
-  CellPlace topLeft{1, 1};  ///< the first cell in the window, or below and right of what is frozen
+  bool headings = true;     ///< The letters of columns and the numbers of rows.
+  CellPlace topLeft{1, 1};  ///< The first visible cell, after the frozen rows and columns.
   CellPlace activeCell{1, 1};
-  /// How many rows at the top, and columns at the left, stay in place while the rest scrolls.
+  /// The number of rows at the top, and of columns at the left, that don't scroll.
   std::int32_t frozenRows = 0, frozenColumns = 0;
 
   bool operator==(const SheetView&) const = default;
 };
 
-/// The first view of a sheet's part, which is that of the workbook's first window. Only what stands before
-/// the cells is read. Throws PackageError.
+/// Reads the first view of a sheet, the view of the workbook's first window. Reads the part only up to the
+/// cells. Throws PackageError.
 SheetView ReadSheetView(Archive::Stream& part);
 
 }  // namespace plotsmith::xlsx
