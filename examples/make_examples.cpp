@@ -275,7 +275,8 @@ void MakeOrders(const std::string& path) {
   Fill(*targets, 3, {"Region", "Amount"});
   row = 3;
   for (const char* region : kRegions) {
-    Fill(*targets, ++row, {region, 45000.0 - 2500.0 * (row % 3)});
+    const double target = 45000.0 - 2500.0 * (row % 3);
+    Fill(*targets, ++row, {region, target});
   }
   book.Name("VEX_SB_Targets", "Targets!$A$1:$B$" + std::to_string(row));
   book.FinishAsData(path);
