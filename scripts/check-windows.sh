@@ -44,7 +44,7 @@ cmake --preset windows-x64 >/dev/null
 cmake --build build-windows-x64 --target plotsmith Plotsmith tests/windows/all
 step "Building for Windows, 32 bits:"
 cmake --preset windows-x86 >/dev/null
-cmake --build build-windows-x86 --target Plotsmith
+cmake --build build-windows-x86 --target plotsmith Plotsmith
 step "Installer:"
 scripts/installer.sh
 
