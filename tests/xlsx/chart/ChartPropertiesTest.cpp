@@ -1,4 +1,5 @@
 #include <functional>
+#include <locale>
 #include <sstream>
 
 #include "runtime/Strings.h"
@@ -45,6 +46,7 @@ TEST_F(ChartPropertiesTest, AnAutomaticColourCanBeReadAtOnceAndSetOnAnother) {
     After(runtime::Replace(kNothing, "<c:chart>", c.style + "<c:chart>"), [&](Chart& chart) {
       chart.SetChartType(excel::xlBubble);
       std::ostringstream seen;
+      seen.imbue(std::locale::classic());
       for (int i = 1; i <= 7; ++i) {
         const auto interior = chart.SeriesCollection()->NewSeries()->Interior();
         seen << std::uppercase << std::hex << interior->Color() << " ";
