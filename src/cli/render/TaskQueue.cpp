@@ -83,10 +83,6 @@ void TaskQueue::Work() {
 void TaskQueue::DoNext(std::unique_lock<std::mutex>& lock) {
   const Numbered task = std::move(waiting_.front());
   waiting_.pop_front();
-  Do(task, lock);
-}
-
-void TaskQueue::Do(const Numbered& task, std::unique_lock<std::mutex>& lock) {
   ++working_;
   lock.unlock();
   std::exception_ptr failure;

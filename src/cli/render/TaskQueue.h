@@ -48,7 +48,6 @@ class TaskQueue {
   void WorkUntilThereAre(std::size_t waiting, std::unique_lock<std::mutex>& lock);
   /// Takes the first of the waiting tasks and does it; the lock is released meanwhile.
   void DoNext(std::unique_lock<std::mutex>& lock);
-  void Do(const Numbered& task, std::unique_lock<std::mutex>& lock);
 
   const Order order_;
   std::mutex mutex_;

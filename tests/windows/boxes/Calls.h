@@ -11,9 +11,9 @@ namespace plotsmith::test {
 /// `call` is the name of the operation and its arguments, separated by bars. An argument is a kind, a colon
 /// and a text. The kinds are "s" for a text, "i" for a number, "e" for an error, "o" for the object
 /// `application`, "u" for the same as IUnknown, "n" for Nothing, "d" for an
-/// object whose default member is the text (the object itself for an empty one), "null", "empty", "missing", "as" for an
-/// array of texts that are separated by commas, "av" for an array of Variants, "as0" for an array of texts
-/// that isn't allocated, "as2" for one of two dimensions, and "ai" for one of numbers.
+/// object whose default member is the text (the object itself for an empty one), "null", "empty", "missing",
+/// "as" for an array of texts that are separated by commas, "av" for an array of Variants, "as0" for an array
+/// of texts that isn't allocated, "as2" for one of two dimensions, and "ai" for one of numbers.
 ///
 /// With "&" before it the argument is a reference, and with "&v" a reference to a Variant. NAME= before all
 /// of it makes it a named argument, and #7= makes it one whose name has the number 7; these come last.

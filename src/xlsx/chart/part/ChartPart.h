@@ -67,12 +67,12 @@ class ChartPart {
   /// Brings the part in the package up to date. A part that can't be read stays as it is.
   void Write();
 
-  /// The elements that were laid aside when the chart's type changed, by the name of the type's state. They
+  /// The elements that were set aside when the chart's type changed, by the name of the type's state. They
   /// come back with the type. They exist in memory only.
   pugi::xml_node LaidAside(const std::string& state) const;
   /// An empty element for them, which replaces an earlier one.
   pugi::xml_node LayAside(const std::string& state);
-  /// Drops what was laid aside.
+  /// Drops what was set aside.
   void Forget(const std::string& state);
 
  private:

@@ -13,7 +13,7 @@ class ChartPart;
 /// Whether labels in the group may have a position (ST_DLblPos). Excel refuses a file with another one.
 bool AllowsLabelPosition(pugi::xml_node group, std::string_view position);
 
-/// Removes the elements that no series of the series' group can have. Bubble sizes are laid aside, so that
+/// Removes the elements that no series of the series' group can have. Bubble sizes are set aside, so that
 /// they can come back.
 void RemoveMisfits(ChartPart& part, pugi::xml_node series);
 /// The same, and adds the elements that all series of the type's group must have. The series must be in such
@@ -21,7 +21,7 @@ void RemoveMisfits(ChartPart& part, pugi::xml_node series);
 void FitToGroup(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type);
 /// The same, and adds the elements that tell this type from others of its group, such as markers.
 void FitSeries(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type);
-/// Drops what was laid aside for a series that is deleted.
+/// Drops what was set aside for a series that is deleted.
 void ForgetSeries(ChartPart& part, pugi::xml_node series);
 
 /// Makes a group of the type with the elements of `old` that both types can have. `old` may be a null node.

@@ -75,7 +75,7 @@ pugi::xml_node NewAxis(pugi::xml_node plotArea, std::string_view element) {
   return axis;
 }
 
-/// Restores an axis that was laid aside, with an unused id.
+/// Restores an axis that was set aside, with an unused id.
 pugi::xml_node Restored(pugi::xml_node plotArea, pugi::xml_node laidAside) {
   const std::string id = FreeAxisId(plotArea, AxisId(laidAside));
   pugi::xml_node axis = schema::InsertCopy(plotArea, laidAside);

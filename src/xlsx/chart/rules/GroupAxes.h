@@ -26,7 +26,7 @@ pugi::xml_node FindAxis(ChartPart& part, bool value);
 pugi::xml_node FindCrossedAxis(pugi::xml_node axis);
 
 /// Gives a group the axes that its type needs: those that it had (`old`), those that an earlier type left
-/// behind, or new ones. Other axes are removed. `state` is what was laid aside for the type. `familyChanged`
+/// behind, or new ones. Other axes are removed. `state` is what was set aside for the type. `familyChanged`
 /// says that the earlier type crosses its axes at another place (CrossBetween), so that their setting doesn't
 /// apply any more.
 void ArrangeAxes(ChartPart& part, pugi::xml_node group, const std::vector<pugi::xml_node>& old,

@@ -26,8 +26,8 @@ std::vector<LegendLine> LegendLines(ChartPart& part, std::size_t most = SIZE_MAX
 /// The texts of the entries that were not deleted.
 std::vector<std::string> LegendTexts(ChartPart& part);
 
-/// Call this before the series at a place, from 0, is deleted. The entry of the series is deleted with it, and
-/// the entries behind it move up, because the file refers to entries by their places.
+/// Call this before the series at a place, from 0, is deleted. The entry of the series is deleted with it,
+/// and the entries behind it move up, because the file refers to entries by their places.
 void DropLegendEntry(ChartPart& part, std::size_t position);
 /// Call this before a series is added at a place, from 0. It removes what the file still says about an entry
 /// of an earlier series there.

@@ -23,7 +23,7 @@ namespace {
 
 constexpr std::array<std::string_view, 4> k3DViewElements = {"view3D", "floor", "sideWall", "backWall"};
 
-/// The name under which the elements of the group's type are laid aside.
+/// The name under which the elements of the group's type are set aside.
 std::string StateName(pugi::xml_node group) {
   return std::string(xml::LocalName(group)) + "-" + schema::Val(group, "barDir") + "-" +
          schema::Val(group, "grouping");
@@ -49,7 +49,7 @@ void LayTypeAside(ChartPart& part, pugi::xml_node group) {
   if (!between.empty()) xml::SetAttribute(state, "crossBetween", between);
 }
 
-/// The group that was laid aside for the type, else one derived from an old group.
+/// The group that was set aside for the type, else one derived from an old group.
 pugi::xml_node MakeGroup(ChartPart& part, pugi::xml_node old, const ChartTypeEntry& type,
                          pugi::xml_node state) {
   const auto laidAside = xml::Child(state, type.element);
@@ -59,7 +59,7 @@ pugi::xml_node MakeGroup(ChartPart& part, pugi::xml_node old, const ChartTypeEnt
   return group;
 }
 
-/// Sets view, floor and walls: those laid aside for the type, else the present ones of the same kind, else
+/// Sets view, floor and walls: those set aside for the type, else the present ones of the same kind, else
 /// Excel's defaults.
 void Arrange3DView(pugi::xml_node chart, const ChartTypeEntry& type, pugi::xml_node state, bool sameKind) {
   if (!type.Is3D() || state || !sameKind) {

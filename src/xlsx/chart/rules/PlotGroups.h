@@ -22,7 +22,7 @@ SeriesRef AddSeries(ChartPart& part);
 /// stock chart becomes a line chart, because a stock chart has at least three series.
 void DeleteSeries(ChartPart& part, const SeriesRef& series);
 
-/// Moves all series into one group of the type. Elements that the type can't have are laid aside and come
+/// Moves all series into one group of the type. Elements that the type can't have are set aside and come
 /// back when the chart returns to its former type. A refresh draws every chart as clustered bars first, and
 /// must not lose what a person has formatted.
 void SetType(ChartPart& part, const ChartTypeEntry& type);
