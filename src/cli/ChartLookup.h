@@ -5,6 +5,12 @@
 #include <utility>
 #include <vector>
 
+#include "host/excel/Excel.h"
+
+namespace plotsmith::xlsx {
+class Workbook;
+}
+
 namespace plotsmith::cli {
 
 /// The id and the name of each chart.
@@ -12,6 +18,17 @@ using ChartNames = std::vector<std::pair<std::string, std::string>>;
 
 /// Returns the loaded charts in their order. `colCharts` must be set.
 ChartNames LoadedCharts();
+
+/// A chart of Plotsmith, with what its definition calls it.
+struct DefinedChart {
+  std::string id, name;
+  excel::Ref<excel::Chart> chart;
+};
+
+/// Returns the charts that have a definition, in the order of their definitions. They are the charts that a
+/// load would find, but they aren't read back, because a picture shows the chart and not its definition.
+/// `oWorkbook` must be set, and `book` is that workbook.
+std::vector<DefinedChart> DefinedCharts(xlsx::Workbook& book);
 
 /// Returns the indices of the charts with an id or, ignoring case, a name. An id takes precedence, because a
 /// name can equal the id of another chart. Several charts can have the same name, since a modified chart can

@@ -101,17 +101,14 @@ Session::Session(std::string path, const GlobalOptions& options, const Streams& 
 
 Session::~Session() { StopSystem(); }
 
-void Session::LoadTables() {
+void Session::UseBook() const {
   oApplication = host_;
   oWorkbook = host_->ActiveWorkbook();
-  RetrieveTableDefinitions();
 }
 
-void Session::LoadChartsOnly() {
-  oApplication = host_;
-  oWorkbook = host_->ActiveWorkbook();
-  colTables = runtime::MakeRef<DocumentCollection>();
-  LoadCharts();
+void Session::LoadTables() {
+  UseBook();
+  RetrieveTableDefinitions();
 }
 
 void Session::LoadTablesAndCharts() {
@@ -166,8 +163,7 @@ void Session::Look(const std::function<void()>& look) const {
       oWorkbook = workbook;
     }
   } restored;
-  oApplication = host_;
-  oWorkbook = host_->ActiveWorkbook();
+  UseBook();
   try {
     look();
   } catch (const runtime::RuntimeError&) {

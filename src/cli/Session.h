@@ -45,13 +45,13 @@ class Session {
   /// The open workbook.
   xlsx::Workbook& Book() const { return host_->Book(); }
 
+  /// Sets the system's variables to the workbook, without finding its tables, which takes long in a large
+  /// workbook.
+  void UseBook() const;
   /// Finds the tables.
   void LoadTables();
   /// Finds the tables and loads the definitions, for commands that only read.
   void LoadTablesAndCharts();
-  /// Loads the definitions, for commands that need no tables. Finding these takes long in a large workbook.
-  /// The definitions then say that their tables are missing.
-  void LoadChartsOnly();
   /// Loads the definitions and reads their charts back. The tables must be loaded.
   void LoadCharts();
   /// Throws CommandError, before any work is done, if another program has the workbook open, or if the output

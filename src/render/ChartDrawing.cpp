@@ -14,6 +14,7 @@
 #include "render/model/StyleReader.h"
 #include "render/shapes/UserShapes.h"
 #include "render/threed/Plot3D.h"
+#include "xlsx/book/BookContext.h"
 #include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/package/Xml.h"
 
@@ -142,13 +143,30 @@ void DrawTitles(Canvas& canvas, const ChartModel& chart, const ChartLayout& layo
 
 }  // namespace
 
-Drawing DrawChart(xlsx::ChartPart& part, double width, double height, const TextMeasure& measure,
-                  Notes& notes) {
-  ChartModel chart = ReadChart(part, notes);
-  HideAxesWithoutGroups(chart);
+UndrawnChart::UndrawnChart(xlsx::ChartPart& part, double width, double height, Notes& notes)
+    : part_(&part), width_(width), height_(height), chart_(std::make_unique<ChartModel>()) {
+  part.Theme();  // The theme is read when it is first asked for, which is no work for several threads.
+  *chart_ = ReadChart(part, notes);
+  HideAxesWithoutGroups(*chart_);
+}
+
+UndrawnChart::UndrawnChart(UndrawnChart&&) noexcept = default;
+UndrawnChart& UndrawnChart::operator=(UndrawnChart&&) noexcept = default;
+UndrawnChart::~UndrawnChart() = default;
+
+bool UndrawnChart::NeedsWorkbook() const {
+  const auto& links = part_->Book().Package().Relationships(part_->Part());
+  return std::any_of(links.begin(), links.end(), [](const xlsx::Relationship& link) {
+    return link.type == "image" || link.type == "chartUserShapes";
+  });
+}
+
+Drawing UndrawnChart::Draw(const TextMeasure& measure, Notes& notes) && {
+  ChartModel& chart = *chart_;
+  xlsx::ChartPart& part = *part_;
   Drawing drawing;
-  drawing.width = width;
-  drawing.height = height;
+  drawing.width = width_;
+  drawing.height = height_;
   Canvas canvas(drawing, measure, notes);
   DrawChartArea(canvas, chart);
   const ChartLayout layout = LayOutChart(chart, canvas.Bounds(), measure);
@@ -162,6 +180,11 @@ Drawing DrawChart(xlsx::ChartPart& part, double width, double height, const Text
   NoteMissingLooks(canvas, part);
   Describe(chart, drawing);
   return drawing;
+}
+
+Drawing DrawChart(xlsx::ChartPart& part, double width, double height, const TextMeasure& measure,
+                  Notes& notes) {
+  return UndrawnChart(part, width, height, notes).Draw(measure, notes);
 }
 
 }  // namespace plotsmith::render

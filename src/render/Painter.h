@@ -27,7 +27,7 @@ class Painter {
  public:
   virtual ~Painter() = default;
 
-  /// The measure of the thread that asks. It lives as long as the thread.
+  /// The measure of this painter, for all threads.
   virtual const TextMeasure& Measure() const = 0;
   /// Whether there is any font. Without one, texts are measured and painted as boxes or not at all.
   virtual bool HasFonts() const = 0;

@@ -38,12 +38,13 @@ int RenderCommand::Run(const GlobalOptions& options, const Streams& streams) {
 }
 
 int RenderCommand::RenderCharts(Session& session, const PicturePlan& plan, const Streams& streams) const {
-  session.LoadChartsOnly();
+  session.UseBook();
+  const auto defined = DefinedCharts(session.Book());
   const int code = session.Finish();
   const auto charts =
-      charts_.empty() ? LoadedChartsToDraw() : NamedChartsToDraw(session.Book(), book_, charts_);
+      charts_.empty() ? AllToDraw(defined) : NamedChartsToDraw(session.Book(), defined, book_, charts_);
   if (charts.empty()) {
-    const auto others = OtherCharts(session.Book());
+    const auto others = OtherCharts(session.Book(), defined);
     streams.err << "plotsmith: \"" << book_ << "\" has no charts of Plotsmith, so nothing was drawn";
     if (!others.empty()) streams.err << "; named as an argument, others are drawn too: " << Listed(others);
     streams.err << ".\n";

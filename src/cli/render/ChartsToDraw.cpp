@@ -4,12 +4,10 @@
 #include <set>
 #include <utility>
 
-#include "cli/ChartLookup.h"
 #include "cli/Command.h"
 #include "cli/check/Words.h"
-#include "common/ErrorBlocks.h"
-#include "common/RunVariables.h"
 #include "host/excel/Constants.h"
+#include "runtime/Strings.h"
 #include "xlsx/Sheet.h"
 #include "xlsx/SheetDrawing.h"
 #include "xlsx/SheetShape.h"
@@ -20,8 +18,11 @@
 namespace plotsmith::cli {
 namespace {
 
-excel::Ref<excel::Chart> LoadedChart(const std::string& id) {
-  return ValueOr(excel::Ref<excel::Chart>(), [&] { return colChartObjects->Item(id); });
+/// Returns the ids and names of charts for FindCharts.
+ChartNames NamesOf(const std::vector<DefinedChart>& defined) {
+  ChartNames names;
+  for (const DefinedChart& one : defined) names.emplace_back(one.id, one.name);
+  return names;
 }
 
 /// Returns the charts on a worksheet, or none if its drawing can't be read.
@@ -68,48 +69,49 @@ ChartToDraw ChartOnSheet(xlsx::Workbook& book, const std::string& name) {
   return {sheet->name, book.ChartOf(*sheet)};
 }
 
-CommandError NoSuchChart(xlsx::Workbook& book, const std::string& path, const std::string& name) {
+CommandError NoSuchChart(xlsx::Workbook& book, const std::vector<DefinedChart>& defined,
+                         const std::string& path, const std::string& name) {
   std::vector<std::string> there;
-  for (const auto& [id, ignored] : LoadedCharts()) there.push_back(id);
-  for (const std::string& other : OtherCharts(book)) there.push_back(Quoted(other));
+  for (const DefinedChart& one : defined) there.push_back(one.id);
+  for (const std::string& other : OtherCharts(book, defined)) there.push_back(Quoted(other));
   return CommandError(exit_code::kUsage,
                       "\"" + path + "\" has no chart " + Quoted(name) + "; " + ThereAre(there) + ".");
 }
 
 }  // namespace
 
-std::vector<ChartToDraw> LoadedChartsToDraw() {
+std::vector<ChartToDraw> AllToDraw(const std::vector<DefinedChart>& defined) {
   std::vector<ChartToDraw> charts;
-  for (const auto& [id, ignored] : LoadedCharts()) charts.push_back({id, LoadedChart(id)});
+  for (const DefinedChart& one : defined) charts.push_back({one.id, one.chart});
   return charts;
 }
 
-std::vector<ChartToDraw> NamedChartsToDraw(xlsx::Workbook& book, const std::string& path,
-                                           const std::vector<std::string>& names) {
-  const ChartNames loaded = LoadedCharts();
+std::vector<ChartToDraw> NamedChartsToDraw(xlsx::Workbook& book, const std::vector<DefinedChart>& defined,
+                                           const std::string& path, const std::vector<std::string>& names) {
+  const ChartNames known = NamesOf(defined);
   std::vector<ChartToDraw> charts;
   std::set<std::string> labels;
   const auto add = [&](ChartToDraw chart) {
     if (labels.insert(chart.label).second) charts.push_back(std::move(chart));
   };
   for (const std::string& name : names) {
-    const auto places = FindCharts(loaded, name);
-    if (places.size() > 1) throw CommandError(exit_code::kUsage, SeveralCharts(loaded, places, name) + ".");
+    const auto places = FindCharts(known, name);
+    if (places.size() > 1) throw CommandError(exit_code::kUsage, SeveralCharts(known, places, name) + ".");
     if (!places.empty()) {
-      const std::string& id = loaded[places.front()].first;
-      add({id, LoadedChart(id)});
+      const DefinedChart& found = defined[places.front()];
+      add({found.id, found.chart});
     } else if (ChartToDraw found = ChartOnSheet(book, name); found.chart) {
       add(std::move(found));
     } else {
-      throw NoSuchChart(book, path, name);
+      throw NoSuchChart(book, defined, path, name);
     }
   }
   return charts;
 }
 
-std::vector<std::string> OtherCharts(xlsx::Workbook& book) {
+std::vector<std::string> OtherCharts(xlsx::Workbook& book, const std::vector<DefinedChart>& defined) {
   std::set<std::string> known;
-  for (const auto& [id, ignored] : LoadedCharts()) known.insert(id);
+  for (const DefinedChart& one : defined) known.insert(one.id);
   std::vector<std::string> names;
   for (const auto& sheet : book.AllSheets()) {
     for (const auto& shape : ChartShapes(book, *sheet)) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/ChartLookup.h"
 #include "host/excel/Excel.h"
 
 namespace plotsmith::xlsx {
@@ -17,16 +18,16 @@ struct ChartToDraw {
   excel::Ref<excel::Chart> chart;  ///< Nothing if the workbook has only a definition.
 };
 
-/// Returns all loaded charts in the order of their definitions.
-std::vector<ChartToDraw> LoadedChartsToDraw();
+/// Returns all of the charts that have a definition.
+std::vector<ChartToDraw> AllToDraw(const std::vector<DefinedChart>& defined);
 
 /// Returns the charts with the given names, each once. A name is the id or the name of a chart of Plotsmith,
 /// the sheet and shape of any chart, or a chart sheet. Throws CommandError if a name means no chart or
 /// several. `path` is the path of the workbook for messages.
-std::vector<ChartToDraw> NamedChartsToDraw(xlsx::Workbook& book, const std::string& path,
-                                           const std::vector<std::string>& names);
+std::vector<ChartToDraw> NamedChartsToDraw(xlsx::Workbook& book, const std::vector<DefinedChart>& defined,
+                                           const std::string& path, const std::vector<std::string>& names);
 
-/// Returns the names of all charts that aren't Plotsmith's, in the format of NamedChartsToDraw.
-std::vector<std::string> OtherCharts(xlsx::Workbook& book);
+/// Returns the names of all charts that aren't among `defined`, in the format of NamedChartsToDraw.
+std::vector<std::string> OtherCharts(xlsx::Workbook& book, const std::vector<DefinedChart>& defined);
 
 }  // namespace plotsmith::cli

@@ -1,6 +1,6 @@
 #include "cli/render/DrawnCharts.h"
 
-#include <memory>
+#include <deque>
 #include <optional>
 #include <utility>
 
@@ -15,23 +15,45 @@
 namespace plotsmith::cli {
 namespace {
 
-/// Returns the drawing of a chart, or nothing and a note if there is nothing to draw.
-std::optional<render::Drawing> Draw(xlsx::Workbook& workbook, const excel::Ref<excel::Chart>& chart,
-                                    render::Notes& notes) {
+/// A chart on its way to its picture.
+struct DrawnChart {
+  std::string label;
+  std::optional<render::UndrawnChart> read;
+  std::vector<render::Drawing> pages;  ///< The drawing, until it is taken.
+  render::Notes notes;
+  bool isDrawn = false;
+};
+
+/// Reads a chart, or notes that there is nothing to draw. A chart that needs the workbook is drawn at once.
+void Read(xlsx::Workbook& workbook, const excel::Ref<excel::Chart>& chart, DrawnChart& drawn) {
   if (!chart) {
-    notes.emplace_back("The workbook has its definition, but no chart; nothing is drawn.");
-    return std::nullopt;
+    drawn.notes.emplace_back("The workbook has its definition, but no chart; nothing is drawn.");
+    return;
   }
   try {
-    return workbook.Viewed([&] {
+    workbook.Viewed([&] {
       const auto& held = dynamic_cast<const xlsx::Chart&>(*chart.shared());
       const xlsx::Frame size = held.Size();
-      return render::DrawChart(held.Part(), size.width, size.height, LoadPainter().Measure(), notes);
+      render::UndrawnChart read(held.Part(), size.width, size.height, drawn.notes);
+      if (read.NeedsWorkbook()) {
+        drawn.pages.push_back(std::move(read).Draw(LoadPainter().Measure(), drawn.notes));
+      } else {
+        drawn.read = std::move(read);
+      }
     });
+    drawn.isDrawn = true;
   } catch (const runtime::RuntimeError&) {
-    notes.emplace_back("The chart can't be read; nothing is drawn.");
-    return std::nullopt;
+    drawn.notes.emplace_back("The chart can't be read; nothing is drawn.");
   }
+}
+
+/// Returns the drawing of a chart that was read.
+std::vector<render::Drawing> Draw(DrawnChart& drawn) {
+  if (drawn.read) {
+    drawn.pages.push_back(std::move(*drawn.read).Draw(LoadPainter().Measure(), drawn.notes));
+    drawn.read.reset();
+  }
+  return std::exchange(drawn.pages, {});
 }
 
 }  // namespace
@@ -40,20 +62,24 @@ DrawnCounts WriteCharts(xlsx::Workbook& workbook, const std::string& book,
                         const std::vector<ChartToDraw>& charts, const PicturePlan& plan,
                         const Streams& streams, bool list) {
   PictureNames names(book);
+  std::deque<DrawnChart> drawn;  // before the writer, whose threads work on them
   PictureWriter writer(plan, streams, list);
-  DrawnCounts counts;
-  counts.said = !charts.empty() && SayIfFontsAreMissing(streams);
   for (const ChartToDraw& chart : charts) {
-    render::Notes notes;
-    auto drawing = Draw(workbook, chart.chart, notes);
-    for (const std::string& note : notes) streams.err << "plotsmith: " << chart.label << ": " << note << '\n';
-    counts.said = counts.said || !notes.empty();
+    DrawnChart& one = drawn.emplace_back();
+    one.label = chart.label;
+    Read(workbook, chart.chart, one);
     const std::string name = names.NameFor(chart.label);
-    if (!drawing) continue;
-    writer.Add(name, std::move(*drawing));
-    ++counts.drawn;
+    if (one.isDrawn) writer.Add(name, [&one] { return Draw(one); });
   }
   writer.Finish();
+  DrawnCounts counts;
+  counts.said = !charts.empty() && SayIfFontsAreMissing(streams);
+  for (const DrawnChart& one : drawn) {
+    for (const std::string& note : one.notes)
+      streams.err << "plotsmith: " << one.label << ": " << note << '\n';
+    counts.said = counts.said || !one.notes.empty();
+    if (one.isDrawn) ++counts.drawn;
+  }
   return counts;
 }
 

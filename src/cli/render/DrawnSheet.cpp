@@ -27,10 +27,12 @@ bool WriteSheet(xlsx::Workbook& workbook, const std::string& book, const xlsx::S
   PictureWriter writer(plan, streams, plan.target == PicturePlan::Target::kFolder);
   const std::string name = PictureNames(book).NameFor(sheet.name);
   if (plan.format == PictureFormat::kPdf || pages.size() == 1) {
-    writer.AddDocument(name, std::move(pages));
+    writer.Add(name, [&] { return std::move(pages); });
   } else {
-    for (std::size_t i = 0; i < pages.size(); ++i)
-      writer.Add(name + "-" + std::to_string(i + 1), std::move(pages[i]));
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+      writer.Add(name + "-" + std::to_string(i + 1),
+                 [&page = pages[i]] { return std::vector{std::move(page)}; });
+    }
   }
   writer.Finish();
   return fontsAreMissing || !notes.empty();

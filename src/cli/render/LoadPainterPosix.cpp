@@ -62,6 +62,7 @@ const render::Painter& Load() {
     throw refuse("is of version " + std::string(version()) + ", and this program of version " +
                  PLOTSMITH_VERSION);
   }
+  painter()->HasFonts();  // This reads the list of fonts. Threads that need it at once would each read it.
   return *painter();
 }
 

@@ -29,12 +29,26 @@ TaskQueue::Order OrderFor(const PicturePlan& plan) {
   return oneFile ? TaskQueue::Order::kInTurn : TaskQueue::Order::kAny;
 }
 
-void WriteFile(const std::string& path, const std::string& bytes) {
-  std::ofstream file(runtime::PathOf(path), std::ios::binary);
+/// Writes a file. The space of an existing file is kept and overwritten, because file systems such as ext4
+/// bring a file that was emptied and written anew to the disk when it is closed, which takes longer than
+/// drawing.
+void WriteFile(const std::string& name, const std::string& bytes) {
+  const fs::path path = runtime::PathOf(name);
+  std::error_code ignored, error;
+  const bool isThere = fs::is_regular_file(path, ignored);
+  const auto mode = std::ios::binary | std::ios::out;
+  std::fstream file(path, isThere ? mode | std::ios::in : mode);
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  if (file.flush()) return;
-  throw CommandError(exit_code::kFile,
-                     "can't write \"" + path + "\": " + runtime::SystemErrorText(errno) + ".");
+  file.close();
+  if (!file) {
+    error.assign(errno, std::generic_category());
+  } else if (isThere) {
+    fs::resize_file(path, bytes.size(), error);
+  }
+  if (error) {
+    throw CommandError(exit_code::kFile,
+                       "can't write \"" + name + "\": " + runtime::SystemErrorText(error.value()) + ".");
+  }
 }
 
 }  // namespace
@@ -70,41 +84,42 @@ std::string PictureWriter::BytesOf(const std::vector<render::Drawing>& pages) co
   return document->Finish();
 }
 
-void PictureWriter::Add(const std::string& name, render::Drawing drawing) {
-  std::vector<render::Drawing> pages;
-  pages.push_back(std::move(drawing));
-  AddDocument(name, std::move(pages));
-}
-
-void PictureWriter::AddDocument(const std::string& name, std::vector<render::Drawing> pages) {
+void PictureWriter::Add(const std::string& name, DrawPages draw) {
   if (tasks_.HasFailed()) Await();
-  // a task is copied when it is taken, but not what it holds
-  const auto held = std::make_shared<const std::vector<render::Drawing>>(std::move(pages));
   if (plan_.target != PicturePlan::Target::kFolder) {
-    tasks_.Add([this, held] {
-      if (plan_.format != PictureFormat::kPdf) {
-        bytes_ = BytesOf(*held);
-      } else {
-        for (const render::Drawing& page : *held) AddPage(page);
-      }
-    });
+    // A task is copied when it is taken, but not its pages.
+    tasks_.Add(
+        [this, pages = std::make_shared<const std::vector<render::Drawing>>(draw())] { PaintPages(*pages); });
     return;
   }
   const fs::path path = runtime::PathOf(plan_.path) / runtime::PathOf(name + EndingOf(plan_.format));
-  paths_.push_back(runtime::Utf8Of(path.lexically_normal()));
-  tasks_.Add([this, held, file = paths_.back()] { WriteFile(file, BytesOf(*held)); });
+  PictureFile& file = files_.emplace_back(PictureFile{runtime::Utf8Of(path.lexically_normal())});
+  tasks_.Add([this, &file, draw = std::move(draw)] {
+    const std::vector<render::Drawing> pages = draw();
+    if (pages.empty()) return;
+    WriteFile(file.path, BytesOf(pages));
+    file.isWritten = true;
+  });
 }
 
-void PictureWriter::AddPage(const render::Drawing& page) {
+void PictureWriter::PaintPages(const std::vector<render::Drawing>& pages) {
+  if (pages.empty()) return;
+  if (plan_.format != PictureFormat::kPdf) {
+    bytes_ = BytesOf(pages);
+    return;
+  }
   if (!document_) document_ = LoadPainter().NewPdf();
-  document_->Add(plan_.scale == 1 ? page : render::Scaled(page, plan_.scale));
+  for (const render::Drawing& page : pages)
+    document_->Add(plan_.scale == 1 ? page : render::Scaled(page, plan_.scale));
 }
 
 void PictureWriter::Await() {
   std::exception_ptr failure;
   const std::size_t done = tasks_.Finish(failure);
-  for (std::size_t i = 0; list_ && i < std::min(done, paths_.size()); ++i) streams_.out << paths_[i] << '\n';
-  paths_.clear();
+  for (std::size_t i = 0; list_ && i < std::min(done, files_.size()); ++i) {
+    if (files_[i].isWritten) streams_.out << files_[i].path << '\n';
+  }
+  files_.clear();
   if (failure) std::rethrow_exception(failure);
 }
 

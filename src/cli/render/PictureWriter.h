@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,19 +23,28 @@ class PictureWriter {
   /// printed.
   PictureWriter(PicturePlan plan, const Streams& streams, bool list);
 
-  /// Adds a picture. In a folder, `name` is the name of its file, without extension. Throws CommandError if
-  /// it, or one before it, can't be made or written.
-  void Add(const std::string& name, render::Drawing drawing);
-  /// Adds the pages of a PDF document.
-  void AddDocument(const std::string& name, std::vector<render::Drawing> pages);
+  /// Draws the pages of a file: one page, or several of a PDF document. Without a page there is no file. It
+  /// may be called by any thread.
+  using DrawPages = std::function<std::vector<render::Drawing>()>;
+
+  /// Adds a file. In a folder, `name` is its name without extension. The pages of a single file are painted
+  /// one after the other, so they are drawn at once by this thread. Throws CommandError if the file, or one
+  /// before it, can't be made or written.
+  void Add(const std::string& name, DrawPages draw);
   /// Waits until everything is written. Call this after the last picture.
   void Finish();
 
  private:
+  /// A file in the folder.
+  struct PictureFile {
+    std::string path;
+    bool isWritten = false;
+  };
+
   /// Returns all pages as PDF, or the first page in another format.
   std::string BytesOf(const std::vector<render::Drawing>& pages) const;
   std::string PngOf(const render::Drawing& drawing) const;
-  void AddPage(const render::Drawing& page);
+  void PaintPages(const std::vector<render::Drawing>& pages);
   /// Waits for the pictures that were taken, and prints their paths. Throws what went wrong first.
   void Await();
 
@@ -42,7 +53,7 @@ class PictureWriter {
   bool list_;
   std::string bytes_;  ///< The bytes of the single file.
   std::unique_ptr<render::PdfDocument> document_;
-  std::vector<std::string> paths_;  ///< The file of each task; empty for a task that writes none.
+  std::deque<PictureFile> files_;  ///< The file of each task, in a folder.
   TaskQueue tasks_;
 };
 

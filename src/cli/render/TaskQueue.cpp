@@ -10,7 +10,7 @@ namespace plotsmith::cli {
 namespace {
 
 constexpr std::size_t kMostThreads = 7;
-constexpr std::size_t kMostWaiting = 16;  // a task holds a drawing
+constexpr std::size_t kMostWaiting = 64;  // A task holds a chart.
 
 std::size_t ThreadsFor(TaskQueue::Order order) {
   return std::min<std::size_t>(runtime::ProcessorCount() - 1,

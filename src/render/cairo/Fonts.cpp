@@ -5,6 +5,7 @@
 #include <fontconfig/fontconfig.h>
 #include <functional>
 #include <hb-ot.h>
+#include <mutex>
 #include <pango/pangocairo.h>
 #include <string>
 #include <unordered_map>
@@ -83,6 +84,7 @@ struct FontEntry {
 };
 
 struct Fonts::State {
+  std::mutex mutex;  ///< Pango's objects are for one thread at a time.
   std::unique_ptr<PangoFontMap, Release> map;
   std::unique_ptr<PangoContext, Release> context;
   std::unordered_map<Font, FontEntry, FontHash> fonts;
@@ -184,25 +186,24 @@ Fonts::Fonts() : state_(std::make_unique<State>()) {
 Fonts::~Fonts() = default;
 
 TextExtent Fonts::Measure(std::string_view line, const Font& font) const {
+  const std::scoped_lock lock(state_->mutex);
   FontEntry& entry = state_->EntryOf(font);
   return {state_->TextOf(entry, line, font).width, entry.ascent, entry.descent};
 }
 
 void Fonts::Show(cairo_t* cr, std::string_view line, const Font& font) const {
+  const std::scoped_lock lock(state_->mutex);
   const LaidOut& text = state_->TextOf(state_->EntryOf(font), line, font);
   cairo_move_to(cr, 0, 0);
   pango_cairo_show_layout_line(cr, pango_layout_get_line_readonly(text.layout.get(), 0));
 }
 
 bool Fonts::IsInstalled(std::string_view family) {
-  thread_local std::unordered_map<std::string, bool> known;
-  const auto [entry, isNew] = known.try_emplace(std::string(family));
-  if (!isNew) return entry->second;
   FcPattern* wanted = FcPatternCreate();
-  FcPatternAddString(wanted, FC_FAMILY, reinterpret_cast<const FcChar8*>(entry->first.c_str()));
-  entry->second = IsAnyLike(wanted);
+  FcPatternAddString(wanted, FC_FAMILY, reinterpret_cast<const FcChar8*>(std::string(family).c_str()));
+  const bool found = IsAnyLike(wanted);
   FcPatternDestroy(wanted);
-  return entry->second;
+  return found;
 }
 
 bool Fonts::IsAnyInstalled() {

@@ -11,7 +11,8 @@ namespace plotsmith::render {
 
 /// The fonts of this machine, through Pango and Cairo. A font that isn't installed has its named substitute.
 /// Hinting and the rounding of widths are off, so that results depend on the font files alone. What was
-/// looked up and laid out once is kept. Use one object per thread.
+/// looked up and laid out once is kept. Several threads may use one object; a text is measured or drawn for
+/// one of them at a time.
 class Fonts final : public TextMeasure {
  public:
   Fonts();

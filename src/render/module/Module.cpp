@@ -11,23 +11,38 @@ namespace {
 
 constexpr double kPointsPerInch = 72;
 
-/// The fonts that the calling thread measures and paints with.
-const Fonts& FontsOfThread() {
+/// Whether the calling thread has asked for the measure.
+thread_local bool measures = false;
+
+/// The fonts that all threads measure with. To find a font takes longer than to draw a chart, so a text that
+/// one thread has measured isn't laid out again by another.
+const Fonts& SharedFonts() {
+  static const Fonts fonts;
+  return fonts;
+}
+
+/// The fonts that the calling thread paints with. A thread that only paints has its own, so that it doesn't
+/// wait for those that measure.
+const Fonts& FontsToPaintWith() {
+  if (measures) return SharedFonts();
   thread_local const Fonts fonts;
   return fonts;
 }
 
 class CairoPainter final : public Painter {
  public:
-  const TextMeasure& Measure() const override { return FontsOfThread(); }
+  const TextMeasure& Measure() const override {
+    measures = true;
+    return SharedFonts();
+  }
   bool HasFonts() const override { return Fonts::IsAnyInstalled(); }
   Raster Rasterize(const Drawing& drawing, double scale) const override {
-    return MakeRaster(drawing, FontsOfThread(), scale * kPointsPerInch);
+    return MakeRaster(drawing, FontsToPaintWith(), scale * kPointsPerInch);
   }
   std::string Png(const Drawing& drawing, double scale) const override {
-    return MakePng(drawing, FontsOfThread(), scale * kPointsPerInch);
+    return MakePng(drawing, FontsToPaintWith(), scale * kPointsPerInch);
   }
-  std::unique_ptr<PdfDocument> NewPdf() const override { return render::NewPdf(FontsOfThread()); }
+  std::unique_ptr<PdfDocument> NewPdf() const override { return render::NewPdf(FontsToPaintWith()); }
 };
 
 }  // namespace
