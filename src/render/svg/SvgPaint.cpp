@@ -1,5 +1,8 @@
 #include "render/svg/SvgPaint.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 
 #include "render/fills/GradientGeometry.h"
@@ -26,18 +29,25 @@ std::string ColorAttributes(const Color& color) {
 
 std::string SvgNumber(double value) {
   if (!std::isfinite(value)) return "0";
-  long long hundredths = std::llround(std::min(std::max(value, -1e9), 1e9) * 100);
-  if (hundredths == 0) return "0";
   std::string text;
-  if (hundredths < 0) text += '-';
-  hundredths = std::abs(hundredths);
-  if (hundredths >= 100) text += std::to_string(hundredths / 100);
-  if (const long long rest = hundredths % 100; rest != 0) {
-    text += '.';
-    text += static_cast<char>('0' + rest / 10);
-    if (rest % 10 != 0) text += static_cast<char>('0' + rest % 10);
-  }
+  AppendHundredths(text, std::llround(std::min(std::max(value, -1e9), 1e9) * 100));
   return text;
+}
+
+void AppendHundredths(std::string& text, long long hundredths) {
+  constexpr long long kMost = 100'000'000'000;
+  hundredths = std::clamp(hundredths, -kMost, kMost);
+  const long long size = std::abs(hundredths), rest = size % 100;
+  std::array<char, 20> characters;
+  char* end = characters.begin();
+  if (hundredths < 0) *end++ = '-';
+  if (size >= 100 || size == 0) end = std::to_chars(end, characters.end(), size / 100).ptr;
+  if (rest != 0) {
+    *end++ = '.';
+    *end++ = static_cast<char>('0' + rest / 10);
+    if (rest % 10 != 0) *end++ = static_cast<char>('0' + rest % 10);
+  }
+  text.append(characters.begin(), end);
 }
 
 std::string SvgEscape(std::string_view text) {
@@ -61,7 +71,11 @@ std::string SvgEscape(std::string_view text) {
         escaped += "&quot;";
         break;
       default:
-        runtime::AppendUtf8(escaped, character);
+        if (character < 0x80) {
+          escaped += static_cast<char>(character);
+        } else {
+          runtime::AppendUtf8(escaped, character);
+        }
     }
   }
   return escaped;

@@ -10,6 +10,8 @@ namespace plotsmith::render {
 
 /// A number with at most two decimals, in as few characters as it takes.
 std::string SvgNumber(double value);
+/// Appends a number that is given in hundredths, in the same way.
+void AppendHundredths(std::string& text, long long hundredths);
 /// Text or an attribute's value, with the characters replaced that XML wants replaced, and those left out
 /// that it can't hold.
 std::string SvgEscape(std::string_view text);

@@ -21,9 +21,8 @@ class PathText {
     afterNumber_ = false;
   }
   void Number(long long hundredths) {
-    const std::string number = SvgNumber(static_cast<double>(hundredths) / 100);
-    if (afterNumber_ && number[0] != '-') text_ += ' ';
-    text_ += number;
+    if (afterNumber_ && hundredths >= 0) text_ += ' ';
+    AppendHundredths(text_, hundredths);
     afterNumber_ = true;
   }
   const std::string& Text() const { return text_; }

@@ -125,15 +125,24 @@ std::string FromSingleBytes(std::string_view bytes, bool windows) {
   return text;
 }
 
+bool IsAscii(std::string_view text) {
+  unsigned char bits = 0;
+  for (const char c : text) bits |= static_cast<unsigned char>(c);
+  return bits < 0x80;
+}
+
 bool IsUtf8(std::string_view text) {
+  constexpr std::size_t kBlock = 256;  // Nearly all blocks of a part are ASCII, which is quick to see.
   for (std::size_t i = 0; i < text.size();) {
-    const std::size_t begin = i;
-    const bool ascii = static_cast<unsigned char>(text[i]) < 0x80;
-    if (ascii) {
-      ++i;
-    } else {
+    if (const std::string_view block = text.substr(i, kBlock); IsAscii(block)) {
+      i += block.size();
+      continue;
+    }
+    for (const std::size_t end = std::min(i + kBlock, text.size()); i < end;) {
+      const std::size_t begin = i;
+      const bool ascii = static_cast<unsigned char>(text[i]) < 0x80;
       runtime::NextCharacter(text, i);
-      if (i == begin + 1) return false;
+      if (!ascii && i == begin + 1) return false;
     }
   }
   return true;
@@ -185,7 +194,9 @@ std::string ToUtf8(std::string bytes) {
 }
 
 void Parse(pugi::xml_document& document, std::string_view bytes) {
-  const std::string text = ToUtf8(std::string(bytes));
+  std::string converted;
+  std::string_view text = bytes;
+  if (NeedsConversion(bytes)) text = converted = ToUtf8(std::string(bytes));
   if (!IsUtf8(text)) throw PackageError("its text isn't in the encoding that it declares");
   const auto mark = [](char c) { return c == '<' || c == '='; };
   if (std::count_if(text.begin(), text.end(), mark) > limits::kXmlMarks) {
