@@ -305,6 +305,43 @@ TEST_F(RenderTest, APdfHasAPageForEachChartAndEachPageOfASheet) {
   EXPECT_EQ(CountOf(BytesOf(folder_ / "dir/a.pdf"), "/Type /Page "), 3);
 }
 
+TEST_F(RenderTest, AnExistingPictureIsReplacedAsAWhole) {
+  const S folder = folder_ / "kept", picture = folder + "/a.svg", link = folder + "/link.svg";
+  ASSERT_EQ(Run({"render", "BOOK", "VEX_Chart1", "-o", "DIR/a.svg"}).code, 0);
+  const S fresh = BytesOf(folder_ / "dir/a.svg");
+  fs::create_directory(folder);
+  fs::create_symlink("a.svg", link);
+  for (const std::size_t size : {std::size_t(0), std::size_t(1), fresh.size(), 3 * fresh.size()}) {
+    std::ofstream(picture, std::ios::binary) << S(size, 'x');
+    ASSERT_EQ(RunCommand({"render", book_, "VEX_Chart1", "-o", link}).code, 0);
+    EXPECT_TRUE(BytesOf(picture) == fresh) << size;
+    EXPECT_TRUE(fs::is_symlink(link)) << size;
+  }
+}
+
+TEST_F(RenderTest, OnlyDefinitionsWithAChartOfTheirOwnAreDrawn) {
+  test::PlainBook book;
+  test::PlainSheet charts;
+  charts.name = "Charts";
+  for (const S id : {"First", "Second", "FIRST", "Third"})
+    charts.frames.push_back({id, kForeignChart, 0, 20 * static_cast<int>(charts.frames.size())});
+  book.sheets.push_back(charts);
+  book.AddDefinitions({"<chart id=\"Second\" name=\"Two\"/>", "<chart id=\"First\"", "<table id=\"First\"/>",
+                       "<chart name=\"No id\"/>", "<chart id=\"Gone\"/>",
+                       "<chart id=\"First\" name=\"One\"/>", "<chart id=\"FIRST\" name=\"Again\"/>",
+                       "<chart id=\"First\" name=\"Again\"/>"});
+  const S path = folder_ / "rows.xlsx";
+  book.Write(path);
+  const CommandResult all = Run({"render", path, "-o", "DIR"});
+  EXPECT_EQ(all.out, "DIR/rows-Second.svg\nDIR/rows-First.svg\n");
+  EXPECT_EQ(all.err, "");
+  EXPECT_EQ(all.code, 0);
+  EXPECT_EQ(Run({"render", path, "one", "-o", "DIR"}).out, "DIR/rows-First.svg\n");
+  EXPECT_EQ(Run({"render", path, "again", "-o", "DIR"}).err,
+            "plotsmith: \"" + path +
+                "\" has no chart 'again'; there are Second, First, 'Charts!Chart 3' and 'Charts!Chart 4'.\n");
+}
+
 TEST_F(RenderTest, AWorkbookWithoutChartsOfPlotsmithNamesTheOthers) {
   test::PlainBook book;
   book.sheets.push_back({.name = "It's", .frames = {{"", kForeignChart}}});
