@@ -4,9 +4,9 @@
 #include <string_view>
 #include <utility>
 
-#include "render/ChartDrawing.h"
 #include "render/Drawing.h"
 #include "render/TextMeasure.h"
+#include "render/chart/ChartDrawing.h"
 
 namespace plotsmith::render {
 

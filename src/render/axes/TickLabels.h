@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "render/axes/AxisMap.h"
-#include "render/layout/TextBlock.h"
 #include "render/model/ChartModel.h"
+#include "render/text/TextBlock.h"
 
 namespace plotsmith::render {
 

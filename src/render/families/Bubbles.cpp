@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "render/families/Plot.h"
 #include "render/fills/BallFill.h"
+#include "render/plot/Plot.h"
 
 namespace plotsmith::render {
 namespace {

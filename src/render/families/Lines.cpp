@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "render/axes/DateAxis.h"
-#include "render/families/Curves.h"
-#include "render/families/Markers.h"
-#include "render/families/Plot.h"
+#include "render/plot/Curves.h"
+#include "render/plot/Markers.h"
+#include "render/plot/Plot.h"
 
 namespace plotsmith::render {
 namespace {

@@ -5,9 +5,9 @@
 
 #include "render/axes/AxisMap.h"
 #include "render/axes/TickLabels.h"
-#include "render/families/Markers.h"
-#include "render/families/Plot.h"
-#include "render/layout/TextBlock.h"
+#include "render/plot/Markers.h"
+#include "render/plot/Plot.h"
+#include "render/text/TextBlock.h"
 
 namespace plotsmith::render {
 namespace {

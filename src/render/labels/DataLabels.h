@@ -1,7 +1,7 @@
 #pragma once
 
-#include "render/families/Plot.h"
-#include "render/layout/TextBlock.h"
+#include "render/plot/Plot.h"
+#include "render/text/TextBlock.h"
 
 namespace plotsmith::render {
 

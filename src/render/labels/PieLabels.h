@@ -3,8 +3,8 @@
 #include <cstddef>
 #include <vector>
 
-#include "render/families/Plot.h"
-#include "render/layout/TextBlock.h"
+#include "render/plot/Plot.h"
+#include "render/text/TextBlock.h"
 
 namespace plotsmith::render {
 

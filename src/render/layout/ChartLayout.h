@@ -5,8 +5,8 @@
 
 #include "render/axes/TickLabels.h"
 #include "render/layout/LegendLayout.h"
-#include "render/layout/TextBlock.h"
 #include "render/model/ChartModel.h"
+#include "render/text/TextBlock.h"
 
 namespace plotsmith::render {
 

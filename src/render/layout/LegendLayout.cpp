@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "render/families/Markers.h"
+#include "render/plot/Markers.h"
 
 namespace plotsmith::render {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "render/layout/TextBlock.h"
 #include "render/model/ChartModel.h"
+#include "render/text/TextBlock.h"
 
 namespace plotsmith::render {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "render/ChartDrawing.h"
+#include "render/chart/ChartDrawing.h"
 #include "render/model/ChartModel.h"
 #include "render/model/StyleReader.h"
 

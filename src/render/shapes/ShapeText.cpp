@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "render/layout/TextBlock.h"
+#include "render/text/TextBlock.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/ShapeXml.h"
 #include "xlsx/drawing/Theme.h"

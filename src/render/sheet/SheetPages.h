@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "render/ChartDrawing.h"
 #include "render/Drawing.h"
 #include "render/TextMeasure.h"
+#include "render/chart/ChartDrawing.h"
 
 namespace plotsmith::xlsx {
 class Workbook;

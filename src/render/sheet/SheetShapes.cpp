@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "host/excel/Constants.h"
-#include "render/ChartDrawing.h"
+#include "render/chart/ChartDrawing.h"
 #include "render/shapes/ShapeObjects.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/SheetDrawing.h"

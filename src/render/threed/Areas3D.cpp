@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "render/families/Plot.h"
+#include "render/plot/Plot.h"
 #include "render/threed/Solids.h"
 
 namespace plotsmith::render {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/families/Plot.h"
+#include "render/plot/Plot.h"
 
 namespace plotsmith::xlsx {
 class ChartPart;

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "render/Canvas.h"
-#include "render/layout/TextBlock.h"
+#include "render/text/TextBlock.h"
 #include "render/threed/Stage.h"
 
 namespace plotsmith::render {

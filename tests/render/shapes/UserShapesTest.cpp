@@ -1,8 +1,8 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-#include "render/ChartDrawing.h"
 #include "render/cairo/CairoPainter.h"
+#include "render/chart/ChartDrawing.h"
 #include "render/shapes/Placement.h"
 #include "render/svg/SvgWriter.h"
 #include "tests/render/threed/Chart3DTest.h"

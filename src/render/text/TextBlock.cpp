@@ -1,4 +1,4 @@
-#include "render/layout/TextBlock.h"
+#include "render/text/TextBlock.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "render/families/Curves.h"
+#include "render/plot/Curves.h"
 
 #include <cmath>
 

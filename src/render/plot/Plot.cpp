@@ -1,4 +1,4 @@
-#include "render/families/Plot.h"
+#include "render/plot/Plot.h"
 
 #include <cmath>
 #include <limits>

@@ -1,4 +1,4 @@
-#include "render/Description.h"
+#include "render/chart/Description.h"
 
 #include <cmath>
 

@@ -1,17 +1,17 @@
-#include "render/ChartDrawing.h"
+#include "render/chart/ChartDrawing.h"
 
 #include <algorithm>
 #include <string>
 
 #include "render/Canvas.h"
-#include "render/Description.h"
 #include "render/Images.h"
 #include "render/axes/AxisDrawing.h"
-#include "render/families/Plot.h"
+#include "render/chart/Description.h"
 #include "render/labels/DataLabels.h"
 #include "render/layout/ChartLayout.h"
 #include "render/model/ChartReader.h"
 #include "render/model/StyleReader.h"
+#include "render/plot/Plot.h"
 #include "render/shapes/UserShapes.h"
 #include "render/threed/Plot3D.h"
 #include "xlsx/chart/part/ChartPart.h"

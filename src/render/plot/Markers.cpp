@@ -1,4 +1,4 @@
-#include "render/families/Markers.h"
+#include "render/plot/Markers.h"
 
 namespace plotsmith::render {
 namespace {
