@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "render/Drawing.h"
+#include "render/Notes.h"
 #include "render/TextMeasure.h"
-#include "render/chart/ChartDrawing.h"
 
 namespace plotsmith::render {
 

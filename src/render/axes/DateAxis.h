@@ -19,9 +19,4 @@ std::vector<DateTick> DateTicks(const AxisModel& axis, xlsx::DateSystem dates);
 /// dates, else as they come.
 std::vector<std::size_t> OrderAlong(const AxisModel& axis, std::size_t count);
 
-/// The slot of a day: days from 1970, months or years from year 0. `serial` is Excel's number of the day.
-long long SlotOf(double serial, TimeUnit base, xlsx::DateSystem dates);
-/// Excel's number of the first day of a slot.
-double SerialOf(long long slot, TimeUnit base, xlsx::DateSystem dates);
-
 }  // namespace plotsmith::render

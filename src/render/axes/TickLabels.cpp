@@ -7,7 +7,7 @@
 
 #include "render/axes/CategoryLevels.h"
 #include "render/axes/DateAxis.h"
-#include "render/model/ChartReader.h"
+#include "render/model/AxisScaling.h"
 
 namespace plotsmith::render {
 namespace {

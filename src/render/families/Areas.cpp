@@ -2,8 +2,8 @@
 #include <cmath>
 
 #include "render/axes/DateAxis.h"
+#include "render/families/Families.h"
 #include "render/plot/Curves.h"
-#include "render/plot/Plot.h"
 
 namespace plotsmith::render {
 namespace {

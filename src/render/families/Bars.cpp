@@ -2,8 +2,8 @@
 #include <cmath>
 
 #include "render/axes/AxisPlace.h"
+#include "render/families/Families.h"
 #include "render/families/ThinBars.h"
-#include "render/plot/Plot.h"
 
 namespace plotsmith::render {
 namespace {

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "render/families/Families.h"
 #include "render/fills/BallFill.h"
-#include "render/plot/Plot.h"
 
 namespace plotsmith::render {
 namespace {

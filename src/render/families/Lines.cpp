@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "render/axes/DateAxis.h"
+#include "render/families/Families.h"
 #include "render/plot/Curves.h"
 #include "render/plot/Markers.h"
-#include "render/plot/Plot.h"
 
 namespace plotsmith::render {
 namespace {

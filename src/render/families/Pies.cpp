@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "render/families/Families.h"
 #include "render/labels/DataLabels.h"
 #include "render/labels/LabelText.h"
-#include "render/plot/Plot.h"
 
 namespace plotsmith::render {
 namespace {

@@ -5,8 +5,8 @@
 
 #include "render/axes/AxisMap.h"
 #include "render/axes/TickLabels.h"
+#include "render/families/Families.h"
 #include "render/plot/Markers.h"
-#include "render/plot/Plot.h"
 #include "render/text/TextBlock.h"
 
 namespace plotsmith::render {

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "render/threed/Shading.h"
+#include "render/fills/LitFill.h"
 
 namespace plotsmith::render {
 namespace {

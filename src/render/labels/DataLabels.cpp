@@ -6,7 +6,7 @@
 
 #include "render/labels/LabelText.h"
 #include "render/labels/PieLabels.h"
-#include "render/layout/LegendLayout.h"
+#include "render/plot/LegendKey.h"
 
 namespace plotsmith::render {
 namespace {

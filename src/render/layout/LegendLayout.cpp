@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "render/plot/Markers.h"
+#include "render/plot/LegendKey.h"
 
 namespace plotsmith::render {
 namespace {
@@ -26,13 +26,6 @@ struct Measured {
   const LegendEntry* entry;
   TextBlock text;
 };
-
-bool HasLineKey(const ChartModel& chart, const LegendEntry& entry) {
-  const GroupModel* group = chart.GroupOfSeries(entry.series);
-  if (group == nullptr || group->is3D) return false;
-  return group->family == Family::kLine || group->family == Family::kScatter ||
-         group->family == Family::kStock || (group->family == Family::kRadar && !group->filled);
-}
 
 /// Entries from the first, or where they are piled up beside a pile, from the last.
 std::vector<const LegendEntry*> InOrder(const ChartModel& chart, bool upright) {
@@ -234,8 +227,8 @@ LegendLayout LayOutLegend(const ChartModel& chart, const Rect& bounds, Rect& fre
   LegendLayout layout;
   const LegendModel& legend = *chart.legend;
   const std::vector<const LegendEntry*> order = InOrder(chart, !legend.IsFlat());
-  const bool lineKeys = std::any_of(order.begin(), order.end(),
-                                    [&](const LegendEntry* entry) { return HasLineKey(chart, *entry); });
+  const bool lineKeys = std::any_of(
+      order.begin(), order.end(), [&](const LegendEntry* entry) { return HasLineKey(chart, entry->series); });
   Grid grid;
   grid.em = legend.text.font.size;
   grid.keyWidth = (lineKeys ? kLineKeyEms : kSquareEms) * grid.em;
@@ -253,28 +246,6 @@ LegendLayout LayOutLegend(const ChartModel& chart, const Rect& bounds, Rect& fre
   Dock(legend, box, free);
   Settle(layout, legend, bounds, box);
   return layout;
-}
-
-void DrawKey(Canvas& canvas, const ChartModel& chart, Tag tag, const Rect& box) {
-  const GroupModel* group = chart.GroupOfSeries(tag.series);
-  const SeriesModel* series = chart.FindSeries(tag.series);
-  if (group == nullptr || series == nullptr) return;
-  const auto point = static_cast<std::size_t>(std::max(tag.point - 1, 0));
-  const ShapeStyle& style = tag.point > 0 ? series->StyleOf(point) : series->style;
-  if (!HasLineKey(chart, {{}, {}, tag.series, tag.point})) {
-    const double side = std::min(box.width, box.height);
-    const Point center = box.Center();
-    Stroke stroke = style.stroke;
-    stroke.width = std::min(stroke.width, 1.5);
-    canvas.Add(tag, Path().AddRect({center.x - side / 2, center.y - side / 2, side, side}), style.fill,
-               stroke);
-    return;
-  }
-  const double middle = box.Center().y;
-  canvas.AddLine(tag, {box.left, middle}, {box.Right(), middle}, style.stroke);
-  MarkerModel marker = tag.point > 0 ? series->MarkerOf(point) : series->marker;
-  marker.size = std::min(marker.size, 9.0);
-  DrawMarker(canvas, tag, marker, box.Center());
 }
 
 void DrawLegend(Canvas& canvas, const ChartModel& chart, const LegendLayout& layout) {

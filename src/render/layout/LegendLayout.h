@@ -27,7 +27,4 @@ LegendLayout LayOutLegend(const ChartModel& chart, const Rect& bounds, Rect& fre
 /// Draws the frame, the keys and the texts, and says if entries are left out.
 void DrawLegend(Canvas& canvas, const ChartModel& chart, const LegendLayout& layout);
 
-/// The sign for a series in a rectangle: a piece of its filling, or of its line with a marker.
-void DrawKey(Canvas& canvas, const ChartModel& chart, Tag tag, const Rect& box);
-
 }  // namespace plotsmith::render

@@ -1,9 +1,10 @@
+#include "render/model/AxisScaling.h"
+
 #include <algorithm>
 #include <cmath>
 #include <span>
 #include <vector>
 
-#include "render/model/ChartReader.h"
 #include "xlsx/chart/rules/DataExtent.h"
 
 namespace plotsmith::render {

@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "render/Drawing.h"
+#include "render/model/DateSlots.h"
+#include "render/text/RichText.h"
 #include "xlsx/chart/rules/DataExtent.h"
 #include "xlsx/chart/rules/ScaleRules.h"
 #include "xlsx/numberformat/DateSystem.h"
@@ -21,27 +23,6 @@ namespace plotsmith::render {
 struct ShapeStyle {
   Fill fill;
   Stroke stroke;
-};
-
-struct TextStyle {
-  Font font;
-  Color color;
-  std::optional<double> rotation;  ///< degrees clockwise; nothing where Excel decides
-  bool stacked = false;            ///< one letter below the other
-};
-
-struct TextRun {
-  std::string text;
-  Font font;
-  Color color;
-};
-/// Paragraphs, each of runs; a run has no line feeds.
-struct RichText {
-  std::vector<std::vector<TextRun>> paragraphs;
-  std::optional<double> rotation;
-  bool stacked = false;
-
-  bool IsEmpty() const;
 };
 
 /// A layout by hand, in fractions of the chart. `xIsEdge` and the like say that a value is a place; else it
@@ -185,17 +166,6 @@ enum class Side : std::uint8_t { kLeft, kRight, kTop, kBottom };
 struct DisplayUnits {
   double factor = 1;
   std::optional<TitleModel> label;
-};
-
-/// The days, months or years along an axis of dates. A slot is one of them.
-enum class TimeUnit : std::uint8_t { kDays, kMonths, kYears };
-struct DateSlots {
-  TimeUnit base = TimeUnit::kDays;
-  long long first = 0;            ///< the number of the first slot, days from 1970 or months or years from 0
-  double count = 0;               ///< of slots
-  std::vector<double> positions;  ///< of the categories, in slots from the first
-  double majorUnit = 0;           ///< from label to label; 0 where Excel decides
-  TimeUnit majorBase = TimeUnit::kDays;
 };
 
 struct AxisModel {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "render/model/AxisScaling.h"
 #include "xlsx/book/BookContext.h"
 #include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/chart/rules/ChartText.h"

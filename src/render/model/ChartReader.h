@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "render/chart/ChartDrawing.h"
+#include "render/Notes.h"
 #include "render/model/ChartModel.h"
 #include "render/model/StyleReader.h"
 
@@ -49,10 +49,6 @@ std::optional<LegendModel> ReadLegend(ReadingContext& context);
 /// Lays the categories of an axis of dates (c:cat) out by their dates; leaves it as one of categories where
 /// they are none.
 void ReadDates(ReadingContext& context, pugi::xml_node categories, AxisModel& axis);
-/// Scales the axes of values by the data of their groups.
-void ScaleAxes(ChartModel& chart);
-/// Gives an axis the next larger major unit of 1, 2, 5, 10, ...
-void CoarsenScale(AxisModel& axis);
 
 /// The numbers of a series' data (c:val, c:xVal, ...), one for each point, NaN where there is none.
 std::vector<double> ReadNumbers(ReadingContext& context, pugi::xml_node data);

@@ -2,7 +2,6 @@
 #include <cmath>
 #include <set>
 
-#include "render/axes/DateAxis.h"
 #include "render/model/ChartReader.h"
 #include "xlsx/book/BookContext.h"
 #include "xlsx/chart/part/ChartPart.h"

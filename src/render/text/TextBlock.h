@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "render/Canvas.h"
-#include "render/model/ChartModel.h"
+#include "render/text/RichText.h"
 
 namespace plotsmith::render {
 

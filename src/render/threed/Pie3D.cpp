@@ -5,9 +5,9 @@
 #include <numbers>
 #include <vector>
 
+#include "render/fills/LitFill.h"
 #include "render/labels/DataLabels.h"
 #include "render/labels/LabelText.h"
-#include "render/threed/Shading.h"
 #include "render/threed/View.h"
 #include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/package/Xml.h"

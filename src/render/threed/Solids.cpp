@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "render/fills/LitFill.h"
 #include "render/threed/Shading.h"
 
 namespace plotsmith::render {
