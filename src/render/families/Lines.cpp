@@ -42,7 +42,7 @@ void DrawSegments(Plot& plot, const SeriesModel& series, const std::vector<LineP
   const auto finish = [&] {
     if (run.size() > 1) {
       Path path;
-      AddCurve(path, run, false);
+      AddCurve(path, run, series.smooth);
       plot.canvas.Add({Role::kLine, series.number, last}, std::move(path), {}, style->stroke);
     }
     run.clear();

@@ -210,13 +210,18 @@ class Layouter {
     for (std::size_t i = 0; i < chart_.axes.size(); ++i) {
       const AxisModel& axis = chart_.axes[i];
       const Side side = PlaceOf(chart_, axis, layout_.plot).labelSide;
-      if (auto& units = layout_.axes[i].units) PlaceBeside(axis, *axis.units.label, side, true, used, *units);
-      if (auto& title = layout_.axes[i].title) PlaceBeside(axis, *axis.title, side, false, used, *title);
+      if (auto& units = layout_.axes[i].units)
+        PlaceBeside(axis, *axis.units.label, side, Along::kEnd, used, *units);
+      if (auto& title = layout_.axes[i].title)
+        PlaceBeside(axis, *axis.title, side, Along::kMiddle, used, *title);
     }
   }
 
-  /// Puts a title outside of the labels of its axis: at its middle, or at its end.
-  void PlaceBeside(const AxisModel& axis, const TitleModel& title, Side side, bool atEnd, Edges& used,
+  /// The part of an axis that a title lies beside.
+  enum class Along : std::uint8_t { kMiddle, kEnd };
+
+  /// Puts a title outside of the labels of its axis.
+  void PlaceBeside(const AxisModel& axis, const TitleModel& title, Side side, Along along, Edges& used,
                    PlacedTitle& placed) {
     const Rect& plot = layout_.plot;
     double& room = RoomAt(used, side);
@@ -225,8 +230,8 @@ class Layouter {
     const bool back = side == Side::kLeft || side == Side::kTop;
     const double across = EdgeOf(plot, side) + (back ? -1 : 1) * (room + depth / 2);
     Point center = axis.IsUpright() ? Point{across, plot.Center().y} : Point{plot.Center().x, across};
-    if (atEnd && axis.IsUpright()) center.y = plot.top + placed.block.TurnedHeight() / 2;
-    if (atEnd && !axis.IsUpright()) center.x = plot.Right() - placed.block.TurnedWidth() / 2;
+    if (along == Along::kEnd && axis.IsUpright()) center.y = plot.top + placed.block.TurnedHeight() / 2;
+    if (along == Along::kEnd && !axis.IsUpright()) center.x = plot.Right() - placed.block.TurnedWidth() / 2;
     room += depth;
     placed = PlaceTitle(title, std::move(placed.block), center, bounds_);
   }

@@ -224,21 +224,9 @@ RichText ReadText(xlsx::ChartPart& part, pugi::xml_node element, xlsx::TextRole 
   const auto looks = xlsx::LooksOf(part, element, role);
   ReadRotation(rich ? rich : xml::Child(element, "txPr"), text.rotation, text.stacked);
   if (!rich) {
-    std::string plain;
     const auto tx = xml::Child(element, "tx");
-    plain = tx ? xlsx::SourceText(part, tx) : automatic;
-    text.paragraphs.emplace_back();
-    const auto append = [&](const std::string& line) {
-      text.paragraphs.back().push_back({line, FontOf(looks.front()), FromExcel(looks.front().color)});
-    };
-    for (std::size_t from = 0;;) {
-      const auto end = plain.find('\n', from);
-      append(plain.substr(from, end - from));
-      if (end == std::string::npos) break;
-      text.paragraphs.emplace_back();
-      from = end + 1;
-    }
-    return text;
+    const TextStyle style{FontOf(looks.front()), FromExcel(looks.front().color), text.rotation, text.stacked};
+    return Plain(tx ? xlsx::SourceText(part, tx) : automatic, style);
   }
   std::size_t next = 0;  // looks are of the runs that have a text, in their order
   for (const pugi::xml_node& paragraph : xml::Children(rich, "p")) {

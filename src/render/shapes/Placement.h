@@ -4,11 +4,17 @@
 
 namespace plotsmith::render {
 
+/// The axes along which a shape is mirrored.
+struct Flip {
+  bool horizontal = false;  ///< left and right are exchanged
+  bool vertical = false;    ///< top and bottom are exchanged
+};
+
 /// How a shape, and the groups around it, are turned and mirrored.
 class Placement {
  public:
   /// Inside of this one: first turned clockwise about a point, and before that mirrored there.
-  Placement Turned(Point center, double degrees, bool flipX, bool flipY) const;
+  Placement Turned(Point center, double degrees, const Flip& flip = {}) const;
 
   Point Map(Point point) const;
   Path Map(const Path& path) const;

@@ -197,7 +197,11 @@ std::vector<Point> ArrowCorners(double length, double breadth, double head, doub
   const double half = breadth / 2, thin = half * shaft, neck = length - head;
   return {{0, -thin}, {neck, -thin}, {neck, -half}, {length, 0}, {neck, half}, {neck, thin}, {0, thin}};
 }
-Path Arrow(const Frame& frame, bool upright, bool backwards) {
+/// Where an arrow points to.
+enum class Heading : std::uint8_t { kRight, kLeft, kDown, kUp };
+Path Arrow(const Frame& frame, Heading heading) {
+  const bool upright = heading == Heading::kDown || heading == Heading::kUp;
+  const bool backwards = heading == Heading::kLeft || heading == Heading::kUp;
   const double length = upright ? frame.Bounds().height : frame.Bounds().width;
   const double breadth = upright ? frame.Bounds().width : frame.Bounds().height;
   std::vector<Point> corners =
@@ -209,10 +213,10 @@ Path Arrow(const Frame& frame, bool upright, bool backwards) {
   }
   return Polygon(std::move(corners));
 }
-Path RightArrow(const Frame& frame) { return Arrow(frame, false, false); }
-Path LeftArrow(const Frame& frame) { return Arrow(frame, false, true); }
-Path DownArrow(const Frame& frame) { return Arrow(frame, true, false); }
-Path UpArrow(const Frame& frame) { return Arrow(frame, true, true); }
+Path RightArrow(const Frame& frame) { return Arrow(frame, Heading::kRight); }
+Path LeftArrow(const Frame& frame) { return Arrow(frame, Heading::kLeft); }
+Path DownArrow(const Frame& frame) { return Arrow(frame, Heading::kDown); }
+Path UpArrow(const Frame& frame) { return Arrow(frame, Heading::kUp); }
 
 Path Can(const Frame& frame) {
   const Rect& box = frame.Bounds();

@@ -26,7 +26,7 @@ constexpr int kDeepest = 16;  // groups in groups
 struct Transform {
   Rect frame, members;
   double rotation = 0;
-  bool flipX = false, flipY = false;
+  Flip flip;
 };
 
 Rect RectOf(pugi::xml_node transform, const char* place, const char* extent) {
@@ -43,8 +43,8 @@ Transform ReadTransform(pugi::xml_node object) {
   transform.members = RectOf(node, "chOff", "chExt");
   const double turn = xml::NumberAttribute(node, "rot", 0) / kUnitsPerDegree;
   if (std::isfinite(turn)) transform.rotation = std::fmod(turn, 360);
-  transform.flipX = xml::BooleanAttribute(node, "flipH", false);
-  transform.flipY = xml::BooleanAttribute(node, "flipV", false);
+  transform.flip.horizontal = xml::BooleanAttribute(node, "flipH", false);
+  transform.flip.vertical = xml::BooleanAttribute(node, "flipV", false);
   return transform;
 }
 
@@ -83,8 +83,7 @@ class ObjectPainter {
              int depth) {
     if (xml::BooleanAttribute(xlsx::IdentityOf(object), "hidden", false)) return;
     const Transform transform = ReadTransform(object);
-    const Placement placement =
-        outer.Turned(frame.Center(), transform.rotation, transform.flipX, transform.flipY);
+    const Placement placement = outer.Turned(frame.Center(), transform.rotation, transform.flip);
     if (xml::Is(object, "grpSp")) {
       if (depth < kDeepest) PaintGroup(object, frame, transform, placement, ofGroup, depth);
     } else if (xml::Is(object, "sp") || xml::Is(object, "cxnSp")) {
@@ -140,7 +139,7 @@ class ObjectPainter {
     for (const pugi::xml_attribute& link : xml::Child(fill, "blip").attributes()) {
       if (images_ && xml::LocalName(link.name()) == "embed") bytes = images_(link.value());
     }
-    const bool turned = placement.Rotation() != 0 || transform.flipX || transform.flipY;
+    const bool turned = placement.Rotation() != 0 || transform.flip.horizontal || transform.flip.vertical;
     if (turned || !IsDrawableImage(bytes)) {
       canvas_.Note("A picture among the shapes isn't drawn, as it is turned or of another kind than PNG: " +
                    NameOf(object) + ".");

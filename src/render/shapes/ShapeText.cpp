@@ -175,7 +175,7 @@ ShapeText ReadShapeText(const Palette& palette, pugi::xml_node object, const Col
 void DrawShapeText(Canvas& canvas, Tag tag, const ShapeText& text, const Rect& frame,
                    const Placement& placement) {
   if (text.IsEmpty()) return;
-  const Placement turned = placement.Turned(frame.Center(), text.rotation, false, false);
+  const Placement turned = placement.Turned(frame.Center(), text.rotation);
   Rect box = frame;
   if (std::abs(std::abs(text.rotation) - 90) < 1) {
     // lines of a text that is turned by a right angle run along the other edge

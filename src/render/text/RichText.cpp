@@ -10,4 +10,16 @@ bool RichText::IsEmpty() const {
   });
 }
 
+RichText Plain(const std::string& text, const TextStyle& style) {
+  RichText rich;
+  rich.rotation = style.rotation;
+  rich.stacked = style.stacked;
+  for (std::size_t from = 0;;) {
+    const auto end = text.find('\n', from);
+    rich.paragraphs.push_back({{text.substr(from, end - from), style.font, style.color}});
+    if (end == std::string::npos) return rich;
+    from = end + 1;
+  }
+}
+
 }  // namespace plotsmith::render

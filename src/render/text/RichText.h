@@ -29,4 +29,7 @@ struct RichText {
   bool IsEmpty() const;
 };
 
+/// A plain text as paragraphs of one run each.
+RichText Plain(const std::string& text, const TextStyle& style);
+
 }  // namespace plotsmith::render

@@ -171,18 +171,6 @@ double WidestWord(std::string_view text, const Font& font, const TextMeasure& me
   return widest;
 }
 
-RichText Plain(const std::string& text, const TextStyle& style) {
-  RichText rich;
-  rich.rotation = style.rotation;
-  rich.stacked = style.stacked;
-  for (std::size_t from = 0;;) {
-    const auto end = text.find('\n', from);
-    rich.paragraphs.push_back({{text.substr(from, end - from), style.font, style.color}});
-    if (end == std::string::npos) return rich;
-    from = end + 1;
-  }
-}
-
 void DrawBlock(Canvas& canvas, Tag tag, const TextBlock& block, Point center, TextAlign align) {
   const double cosine = std::cos(block.rotation * kRadian), sine = std::sin(block.rotation * kRadian);
   double y = -block.height / 2;

@@ -39,8 +39,6 @@ TextBlock LayOut(const std::string& text, const TextStyle& style, const TextMeas
                  double width = kUnlimited);
 /// The width of the widest word between blanks and breaks.
 double WidestWord(std::string_view text, const Font& font, const TextMeasure& measure);
-/// A plain text as paragraphs of one run each.
-RichText Plain(const std::string& text, const TextStyle& style);
 
 /// Draws a block about its centre. `align` is the side of the block that its lines share.
 void DrawBlock(Canvas& canvas, Tag tag, const TextBlock& block, Point center,

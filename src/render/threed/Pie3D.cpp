@@ -207,7 +207,8 @@ Rect WithoutLabels(const Plot& plot, const GroupModel& group, const std::vector<
 }  // namespace
 
 void DrawPie3D(xlsx::ChartPart& part, Plot& plot, const GroupModel& group) {
-  const View view = ReadView(xlsx::xml::Child(part.Space(), "chart"), true);
+  const View automatic{.rotation = 0};
+  const View view = ReadView(xlsx::xml::Child(part.Space(), "chart"), automatic);
   const SeriesModel& series = group.series.front();  // a pie shows one
   const std::vector<Slice> slices = SlicesOf(series, view.rotation);
   double explosion = 0;

@@ -52,7 +52,7 @@ bool DrawPlot3D(xlsx::ChartPart& part, Plot& plot, const Rect& outer) {
     DrawPie3D(part, plot, *group);
     return true;
   }
-  const View view = ReadView(xlsx::xml::Child(part.Space(), "chart"), false);
+  const View view = ReadView(xlsx::xml::Child(part.Space(), "chart"));
   const Stage stage(plot.chart, *group);
   const StageAxes axes(stage, plot.canvas.Measure(), plot.chart.dates);
   const Projection projection = FitWithLabels(stage, axes, view, outer);

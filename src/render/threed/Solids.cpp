@@ -11,6 +11,10 @@ namespace plotsmith::render {
 namespace {
 
 constexpr std::size_t kRingCorners = 32;
+
+/// The two ends of a bar.
+enum class End : std::uint8_t { kBase, kTip };
+
 void AddPolygon(Canvas& canvas, const std::vector<Point>& corners, Tag tag, const Fill& lit,
                 const Look& look) {
   canvas.Add(tag, Path().AddPolygon(corners), lit, look.stroke.width > 0 ? look.stroke : SeamOf(lit));
@@ -58,11 +62,12 @@ Point3 OnBar(const BarSpace& space, double along, double across, double back) {
 }
 
 /// The cross-section at the base or at the end, seen from outside.
-Face CapOf(const BarSpace& space, std::span<const Point> outline, bool atEnd) {
+Face CapOf(const BarSpace& space, std::span<const Point> outline, End end) {
+  const bool atTip = end == End::kTip;
   Face cap;
-  for (const Point point : outline) cap.push_back(OnBar(space, atEnd ? 1 : 0, point.x, point.y));
+  for (const Point point : outline) cap.push_back(OnBar(space, atTip ? 1 : 0, point.x, point.y));
   // the outline goes round counter-clockwise as seen from above, with the depth to the top
-  if (atEnd == (space.backwards != space.alongX)) std::reverse(cap.begin(), cap.end());
+  if (atTip == (space.backwards != space.alongX)) std::reverse(cap.begin(), cap.end());
   return cap;
 }
 
@@ -70,14 +75,14 @@ bool IsPoint(double width) { return width < 1e-6; }
 
 void AddPyramid(Canvas& canvas, const Projection& projection, const BarSpace& space, const Look& look) {
   constexpr Point kSquare[] = {{0, 0}, {1, 0}, {1, 1}, {0, 1}};
-  const Face base = CapOf(space, kSquare, false), end = CapOf(space, kSquare, true);
+  const Face base = CapOf(space, kSquare, End::kBase), tip = CapOf(space, kSquare, End::kTip);
   std::vector<Face> faces = {base};
-  if (!IsPoint(space.endWidth)) faces.push_back(end);
+  if (!IsPoint(space.endWidth)) faces.push_back(tip);
   for (std::size_t i = 0; i < base.size(); ++i) {
     const std::size_t next = (i + 1) % base.size();
-    // the end runs round the other way than the base
-    Face side = {base[next], base[i], end[end.size() - 1 - i]};
-    if (!IsPoint(space.endWidth)) side.push_back(end[end.size() - 1 - next]);
+    // The corners of the tip go round the other way than those of the base.
+    Face side = {base[next], base[i], tip[tip.size() - 1 - i]};
+    if (!IsPoint(space.endWidth)) side.push_back(tip[tip.size() - 1 - next]);
     faces.push_back(std::move(side));
   }
   AddFaces(canvas, projection, faces, look);
@@ -102,13 +107,13 @@ void AddRound(Canvas& canvas, const Projection& projection, const BarSpace& spac
     ring.push_back({0.5 + std::cos(angle) / 2, 0.5 + std::sin(angle) / 2});
   }
   std::vector<Point> all;
-  for (const bool atEnd : {false, true}) {
-    for (const Point corner : Projected(projection, CapOf(space, ring, atEnd))) all.push_back(corner);
+  for (const End end : {End::kBase, End::kTip}) {
+    for (const Point corner : Projected(projection, CapOf(space, ring, end))) all.push_back(corner);
   }
   AddPolygon(canvas, HullOf(std::move(all)), look.tag, Rounded(look.fill, space.alongX), look);
-  for (const bool atEnd : {false, true}) {
-    const Face cap = CapOf(space, ring, atEnd);
-    if (IsPoint(atEnd ? space.endWidth : space.baseWidth) || !projection.Shows(cap)) continue;
+  for (const End end : {End::kBase, End::kTip}) {
+    const Face cap = CapOf(space, ring, end);
+    if (IsPoint(end == End::kTip ? space.endWidth : space.baseWidth) || !projection.Shows(cap)) continue;
     Tag side = look.tag;
     side.role = Role::kSide;
     AddPolygon(canvas, Projected(projection, cap), side, Lit(look.fill, LightOf(NormalOf(cap))), look);

@@ -9,7 +9,6 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kPieElevation = 15;
 constexpr double kUsualPerspective = 30;
 
 /// `fallback` for what is missing or no number.
@@ -20,11 +19,11 @@ double Number(pugi::xml_node view, const char* name, double fallback, double lea
 
 }  // namespace
 
-View ReadView(pugi::xml_node chart, bool pie) {
+View ReadView(pugi::xml_node chart, const View& automatic) {
   const auto element = xlsx::xml::Child(chart, "view3D");
   View view;
-  view.elevation = Number(element, "rotX", pie ? kPieElevation : view.elevation, -90, 90);
-  view.rotation = std::fmod(Number(element, "rotY", pie ? 0 : view.rotation, 0, 360), 360);
+  view.elevation = Number(element, "rotX", automatic.elevation, -90, 90);
+  view.rotation = std::fmod(Number(element, "rotY", automatic.rotation, 0, 360), 360);
   view.rightAngles = xlsx::schema::BooleanVal(element, "rAngAx", false);
   // the file counts perspective in half degrees
   view.fieldOfView = Number(element, "perspective", kUsualPerspective, 0, 240) / 2;

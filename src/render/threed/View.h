@@ -15,8 +15,8 @@ struct View {
   double depthPercent = 100;            ///< of the width of a bar, for the depth of it
 };
 
-/// What a chart says of its view. What is missing or beyond its limits has Excel's defaults, which are others
-/// for pies.
-View ReadView(pugi::xml_node chart, bool pie);
+/// Reads the view of a chart (c:view3D of c:chart). Members that the file doesn't have, or that aren't
+/// numbers, have the value of `automatic`, and numbers beyond Excel's limits have the nearest limit.
+View ReadView(pugi::xml_node chart, const View& automatic = {});
 
 }  // namespace plotsmith::render
