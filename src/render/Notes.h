@@ -5,7 +5,7 @@
 
 namespace plotsmith::render {
 
-/// What could not be drawn, one sentence each.
+/// Sentences about what could not be drawn. Each is complete and ends with a full stop.
 using Notes = std::vector<std::string>;
 
 }  // namespace plotsmith::render

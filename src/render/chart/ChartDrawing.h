@@ -10,8 +10,9 @@ class ChartPart;
 
 namespace plotsmith::render {
 
-/// Draws a chart at a size in points. Values come from the caches in the chart part, or from the cells where
-/// the part has none. A chart that can't be read is error 1004. The chart part stays as it is.
+/// Draws a chart. `width` and `height` are in points. The values are those of the caches in the chart part,
+/// or those of the cells where the part has no cache. The chart part isn't changed. What isn't drawn is added
+/// to `notes`. Raises error 1004 if the chart can't be read.
 Drawing DrawChart(xlsx::ChartPart& part, double width, double height, const TextMeasure& measure,
                   Notes& notes);
 

@@ -5,7 +5,7 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr std::size_t kMostPoints = 200;  // of all series; a longer list helps no listener
+constexpr std::size_t kMostPoints = 200;  // of all series; a screen reader would read more for too long
 
 const char* NameOf(const GroupModel& group) {
   switch (group.family) {

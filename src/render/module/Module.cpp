@@ -11,7 +11,7 @@ namespace {
 
 constexpr double kPointsPerInch = 72;
 
-/// The fonts that the calling thread measures and paints with.
+/// Returns the fonts of the calling thread.
 const Fonts& FontsOfThread() {
   thread_local const Fonts fonts;
   return fonts;
