@@ -4,13 +4,16 @@
 
 namespace plotsmith::render {
 
+/// Returns a colour with its channels multiplied by `light`, which is 1 for the colour itself.
 Color Lit(const Color& color, double light);
-/// A filling with all of its colours lit.
+/// Returns a filling with all of its colours lit.
 Fill Lit(const Fill& fill, double light);
-/// A thin line in the colour of a filling, for faces without a line of their own: neighbours would show a
-/// hairline of what is behind them where their edges are smoothed. None for what one looks through.
+/// Returns a thin line in the colour of a filling, for faces without a line of their own. Without it, a
+/// hairline of the background would show between neighbouring faces, as their edges are smoothed. Fillings
+/// that are transparent and patterns get no line.
 Stroke SeamOf(const Fill& fill);
-/// The colour that a filling has at first sight: of a pattern the ground, of a gradient its beginning.
+/// Returns the main colour of a filling: the background of a pattern, and the first colour of a gradient. It
+/// is transparent if there is no filling.
 Color MainColor(const Fill& fill);
 
 }  // namespace plotsmith::render

@@ -4,9 +4,9 @@
 
 namespace plotsmith::render {
 
-/// Scales the axes of values by the data of their groups.
+/// Sets the scales of all axes of values from the data of their groups.
 void ScaleAxes(ChartModel& chart);
-/// Gives an axis the next larger major unit of 1, 2, 5, 10, ...
+/// Rescales an axis of values with the next larger major unit of the sequence 1, 2, 5, 10, 20, ...
 void CoarsenScale(AxisModel& axis);
 
 }  // namespace plotsmith::render

@@ -24,7 +24,8 @@ namespace {
 
 constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
 
-/// The points that may be read of a cache that claims so many.
+/// Returns how many points may be read of a cache that claims to have `claimed` points. Adds a note if it has
+/// more.
 std::size_t Admitted(ReadingContext& context, long long claimed) {
   const auto wanted = static_cast<std::size_t>(std::max(claimed, 0LL));
   const std::size_t count = std::min({wanted, kMostPoints, context.pointsLeft});
@@ -38,7 +39,7 @@ std::size_t Admitted(ReadingContext& context, long long claimed) {
   return count;
 }
 
-/// The cells that a reference without a cache points at.
+/// The cells of a reference without a cache.
 struct Cells {
   std::shared_ptr<xlsx::CellSource> sheet;
   xlsx::CellRange range;
@@ -72,13 +73,13 @@ std::vector<double> NumbersOfCells(ReadingContext& context, const Cells& cells) 
     if (number) {
       numbers[index] = value.number;
     } else if (value.kind == CellValue::Kind::kText) {
-      numbers[index] = 0;  // a text among numbers is drawn as 0
+      numbers[index] = 0;  // Excel draws a text among numbers as 0.
     }
   });
   return numbers;
 }
 
-/// The texts of a cache (c:strCache, c:numCache, c:multiLvlStrCache) or of literals.
+/// Reads the texts of a cache (c:strCache, c:numCache, c:multiLvlStrCache) or of literals.
 std::vector<std::string> CachedCategories(ReadingContext& context, pugi::xml_node cache) {
   std::vector<std::string> texts(Admitted(context, schema::IntegerVal(cache, "ptCount", 0)));
   const bool numbers = xml::Is(cache, "numCache") || xml::Is(cache, "numLit");
@@ -100,7 +101,7 @@ std::vector<std::string> CachedCategories(ReadingContext& context, pugi::xml_nod
   return texts;
 }
 
-/// The texts of the cells that a source refers to.
+/// Reads the texts of the cells that a source refers to.
 std::vector<std::string> CategoriesOfCells(ReadingContext& context, pugi::xml_node source) {
   const auto cells = CellsOf(context, source);
   if (!cells) return {};
@@ -151,7 +152,7 @@ std::vector<CategoryLevel> ReadOuterLevels(pugi::xml_node data, std::size_t cate
        xml::Children(xml::Child(data, "multiLvlStrRef", "multiLvlStrCache"), "lvl")) {
     if (std::exchange(isInnermost, false)) continue;
     if (levels.size() == kMostLevels) break;
-    std::map<std::size_t, std::string> texts;  // by the category where they begin
+    std::map<std::size_t, std::string> texts;  // by the categories where they begin
     for (const pugi::xml_node& point : xml::Children(node, "pt")) {
       const auto index = static_cast<unsigned long long>(xml::IntegerAttribute(point, "idx", -1));
       if (index < categories) texts[index] = xlsx::CachedText(point);

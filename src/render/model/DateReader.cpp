@@ -23,7 +23,7 @@ std::optional<TimeUnit> UnitOf(pugi::xml_node axis, const char* name) {
   return std::nullopt;
 }
 
-/// The longest unit of which no two dates share one.
+/// Returns the longest unit in which no two dates share a slot.
 TimeUnit BaseOf(const std::vector<double>& serials, xlsx::DateSystem dates) {
   for (const TimeUnit unit : {TimeUnit::kYears, TimeUnit::kMonths}) {
     std::set<long long> taken;

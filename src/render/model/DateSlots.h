@@ -7,20 +7,23 @@
 
 namespace plotsmith::render {
 
-/// The days, months or years along an axis of dates. A slot is one of them.
+/// The unit of an axis of dates.
 enum class TimeUnit : std::uint8_t { kDays, kMonths, kYears };
+
+/// How categories lie along an axis of dates. A slot is a day, month or year on it.
 struct DateSlots {
-  TimeUnit base = TimeUnit::kDays;
-  long long first = 0;            ///< the number of the first slot, days from 1970 or months or years from 0
-  double count = 0;               ///< of slots
-  std::vector<double> positions;  ///< of the categories, in slots from the first
-  double majorUnit = 0;           ///< from label to label; 0 where Excel decides
+  TimeUnit base = TimeUnit::kDays;  ///< of a slot
+  long long first = 0;              ///< the first slot, as SlotOf numbers it
+  double count = 0;                 ///< of slots on the axis
+  std::vector<double> positions;    ///< the places of the categories, in slots from the first
+  double majorUnit = 0;             ///< from label to label, in `majorBase`; 0 if Excel decides
   TimeUnit majorBase = TimeUnit::kDays;
 };
 
-/// The slot of a day: days from 1970, months or years from year 0. `serial` is Excel's number of the day.
+/// Returns the number of the slot of a day: days since 1970, or months or years since year 0. `serial` is
+/// Excel's number of the day.
 long long SlotOf(double serial, TimeUnit base, xlsx::DateSystem dates);
-/// Excel's number of the first day of a slot.
+/// Returns Excel's number of the first day of a slot.
 double SerialOf(long long slot, TimeUnit base, xlsx::DateSystem dates);
 
 }  // namespace plotsmith::render

@@ -17,7 +17,7 @@ namespace xml = xlsx::xml;
 
 namespace {
 
-constexpr std::size_t kMostColors = 54;                      // until the colourful palette begins again
+constexpr std::size_t kMostColors = 54;                      // after which the varied colours repeat
 constexpr double kLineWidth = 2.25;                          // points, of an automatic line of a series
 constexpr double kMarkerSize = 7;                            // points, of an automatic marker
 constexpr const char *kAutomatic = "auto", *kNone = "none";  // values of ST_MarkerStyle
@@ -26,7 +26,7 @@ struct Kind {
   std::string_view element;
   Family family;
 
-  /// The names of the elements of charts in 3-D say it.
+  /// Returns whether the group is drawn in 3-D, which is part of the name of its element.
   bool Is3D() const { return element.find("3D") != std::string_view::npos; }
 };
 constexpr std::array<Kind, 16> kKinds = {{{"areaChart", Family::kArea},
@@ -59,7 +59,7 @@ Grouping GroupingOf(pugi::xml_node group, Family family) {
   return family == Family::kBar && grouping != "standard" ? Grouping::kClustered : Grouping::kStandard;
 }
 
-/// A number within the limits of the schema.
+/// Reads a number and limits it to a range.
 double Limited(pugi::xml_node parent, const char* name, double fallback, double least, double most) {
   const auto number = schema::NumberVal(parent, name);
   return number && std::isfinite(*number) ? std::clamp(*number, least, most) : fallback;
@@ -88,7 +88,7 @@ bool IsDrawnAsLine(const GroupModel& group) {
          group.family == Family::kStock || (group.family == Family::kRadar && !group.filled);
 }
 
-/// What a series or a point looks like where nothing is set.
+/// Returns the look of a series or point without settings.
 ShapeStyle AutomaticStyle(const GroupModel& group, const Color& color) {
   if (IsDrawnAsLine(group) && !group.is3D) {
     return {{}, {color, kLineWidth, {}, LineCap::kRound, LineJoin::kRound}};
@@ -96,7 +96,7 @@ ShapeStyle AutomaticStyle(const GroupModel& group, const Color& color) {
   return {SolidFill{color}, {}};
 }
 
-/// Reads c:marker. A marker without a symbol has `defaultSymbol`.
+/// Reads a marker (c:marker). One without a symbol has `defaultSymbol`.
 MarkerModel ReadMarker(ReadingContext& context, pugi::xml_node marker, const MarkerModel& automatic,
                        const char* defaultSymbol) {
   constexpr double kLeast = 2, kMost = 72;
@@ -108,14 +108,14 @@ MarkerModel ReadMarker(ReadingContext& context, pugi::xml_node marker, const Mar
   return model;
 }
 
-/// The markers of a series, by its number in the file, where nothing is set.
+/// Returns the markers of a series without settings. `index` is the number of the series in the file, from 0.
 MarkerModel AutomaticMarker(const Color& color, std::size_t index) {
   constexpr std::array<const char*, 9> kSymbols = {"diamond", "square", "triangle", "x",   "star",
                                                    "circle",  "plus",   "dot",      "dash"};
   return {kSymbols[index % kSymbols.size()], kMarkerSize, {SolidFill{color}, {color, 0.75}}};
 }
 
-/// The symbol of the series of a group that have no symbol of their own.
+/// Returns the symbol of series in a group that don't set one.
 const char* DefaultSymbol(const GroupModel& group) {
   bool draws = false;
   if (group.family == Family::kLine) {
@@ -129,7 +129,7 @@ const char* DefaultSymbol(const GroupModel& group) {
   return draws ? kAutomatic : kNone;
 }
 
-/// The looks of points that differ in colour, until they begin again.
+/// Returns the looks of points in varied colours, up to the one after which they repeat.
 std::vector<PointModel> VariedPoints(ReadingContext& context, const GroupModel& group,
                                      const SeriesModel& series) {
   std::vector<PointModel> points;
@@ -161,7 +161,7 @@ void ReadPoints(ReadingContext& context, const GroupModel& group, SeriesModel& s
     } else {
       point.marker = automaticMarker;
     }
-    // a point with a filling of its own keeps it, unless it says otherwise
+    // A point with a filling of its own isn't inverted, unless it sets that itself.
     if (xml::Child(node, "invertIfNegative") || xlsx::FindFill(xml::Child(node, "spPr"))) {
       point.invertIfNegative = schema::BooleanVal(node, "invertIfNegative", false);
     }
@@ -169,7 +169,8 @@ void ReadPoints(ReadingContext& context, const GroupModel& group, SeriesModel& s
   }
 }
 
-/// The colour that Excel since 2010 has for inverted points, in an extension of the series; else white.
+/// Reads the filling of inverted points from the extension that Excel writes since 2010. It is white without
+/// one.
 Fill ReadInvertedFill(ReadingContext& context, pugi::xml_node series) {
   const Fill white = SolidFill{{255, 255, 255, 1}};
   for (const pugi::xml_node& extension : xml::Children(xml::Child(series, "extLst"), "ext")) {
@@ -246,7 +247,7 @@ void ReadSettings(ReadingContext& context, GroupModel& group) {
   // If a file doesn't say how the points are drawn, Excel joins them with lines.
   const std::string style = schema::Val(node, "scatterStyle", "lineMarker");
   group.markersOnly = kind.family == Family::kScatter && (style == "marker" || style == "none");
-  // Colours differ by point if the points aren't told apart by anything else.
+  // Colours differ by point only if the group has slices or the chart has one series.
   group.varyColors = schema::BooleanVal(node, "varyColors", group.IsRound()) &&
                      (group.IsRound() || context.part.Series().size() == 1);
   const auto readLines = [&](const char* name, std::optional<Stroke>& stroke) {

@@ -8,28 +8,31 @@
 
 namespace plotsmith::render {
 
+/// The look of a text.
 struct TextStyle {
   Font font;
   Color color;
-  std::optional<double> rotation;  ///< degrees clockwise; nothing where Excel decides
-  bool stacked = false;            ///< one letter below the other
+  std::optional<double> rotation;  ///< degrees clockwise; nothing if Excel decides
+  bool stacked = false;            ///< letters are below each other
 };
 
+/// A part of a text in one look.
 struct TextRun {
-  std::string text;
+  std::string text;  ///< UTF-8, without line feeds
   Font font;
   Color color;
 };
-/// Paragraphs, each of runs; a run has no line feeds.
+/// A text of paragraphs, which consist of runs.
 struct RichText {
   std::vector<std::vector<TextRun>> paragraphs;
-  std::optional<double> rotation;
-  bool stacked = false;
+  std::optional<double> rotation;  ///< degrees clockwise; nothing if Excel decides
+  bool stacked = false;            ///< letters are below each other
 
+  /// Returns whether no run has a text.
   bool IsEmpty() const;
 };
 
-/// A plain text as paragraphs of one run each.
+/// Returns a text in one style. Line feeds begin new paragraphs.
 RichText Plain(const std::string& text, const TextStyle& style);
 
 }  // namespace plotsmith::render
