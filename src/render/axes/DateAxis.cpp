@@ -14,15 +14,15 @@ using std::chrono::sys_days;
 using std::chrono::year_month_day;
 
 constexpr std::size_t kMostTicks = 400;
-constexpr double kUsualTicks = 32;  // that an axis has at most where nothing is set
+constexpr double kUsualTicks = 32;  // most ticks of an axis without a unit
 
-/// From label to label, in a unit of time.
+/// The distance between two labels.
 struct Step {
   double count = 1;
   TimeUnit unit = TimeUnit::kDays;
 };
 
-/// Rough lengths, to choose a step by.
+/// Returns the approximate length of a step in slots.
 double SlotsIn(const Step& step, TimeUnit base) {
   constexpr double kDaysIn[] = {1, 30.5, 365.25};
   return step.count * kDaysIn[static_cast<int>(step.unit)] / kDaysIn[static_cast<int>(base)];
@@ -51,7 +51,8 @@ Step StepOf(const DateSlots& slots) {
   return kSteps.back();
 }
 
-/// The slot of the tick number `index`: counted in months, the day of the month stays as it was.
+/// Returns the slot of a tick, which counts from 0. Steps of months and years keep the day of the month if
+/// they can.
 long long TickSlot(const DateSlots& slots, const Step& step, long long index) {
   const auto count = static_cast<long long>(step.count) * index;
   if (slots.base == TimeUnit::kYears) return slots.first + count;

@@ -8,12 +8,12 @@
 namespace plotsmith::render {
 namespace {
 
-/// The borders of the area of a series, from its first point to its last.
+/// The upper and the lower border of an area, both from its first point to its last.
 struct AreaBorders {
   std::vector<Point> upper, lower;
 };
 
-/// A line from a point of an area down to the pile below.
+/// A line from a point of an area to the area below.
 struct DropLine {
   Tag tag;
   double x = 0, top = 0, bottom = 0;
@@ -47,7 +47,7 @@ class AreaPainter {
   }
 
  private:
-  /// Piles a series up, and keeps its points for their labels and drop lines.
+  /// Stacks a series, which counts from 0, and keeps its points for their labels and drop lines.
   AreaBorders PlacePoints(std::size_t s) {
     const SeriesModel& series = group_.series[s];
     AreaBorders borders;
@@ -84,7 +84,7 @@ class AreaPainter {
   const AxisMap categories_, values_;
   const Extents extents_;
   const double base_;
-  std::vector<double> pile_;  ///< one for each point; a series without a value leaves it as it is
+  std::vector<double> pile_;  ///< top of the stack at each point, in values
   std::vector<DropLine> dropLines_;
 };
 

@@ -4,16 +4,21 @@
 
 namespace plotsmith::render {
 
-// One function for each family draws the series of a group.
+// Each of these functions draws the series of a group, and keeps the points that have labels.
+
+/// Draws bars or columns.
 void DrawBars(Plot& plot, const GroupModel& group);
+/// Draws areas.
 void DrawAreas(Plot& plot, const GroupModel& group);
-/// Lines of a line chart; those of a stock chart with the bars from low to high.
+/// Draws the lines of a line or stock chart, with their markers, drop lines and high-low lines.
 void DrawLines(Plot& plot, const GroupModel& group);
+/// Draws the lines and markers of a scatter chart.
 void DrawScatter(Plot& plot, const GroupModel& group);
+/// Draws bubbles.
 void DrawBubbles(Plot& plot, const GroupModel& group);
-/// The series of a radar chart on a web of its own.
+/// Draws the series of a radar chart, and the axes that they lie on.
 void DrawRadar(Plot& plot, const GroupModel& group);
-/// A pie or a doughnut in the middle of the plot area, from which labels outside take their room.
+/// Draws a pie or a doughnut in the middle of the plot area. A pie leaves room for labels outside of it.
 void DrawPie(Plot& plot, const GroupModel& group);
 
 }  // namespace plotsmith::render

@@ -5,7 +5,8 @@
 
 namespace plotsmith::render {
 
-/// What the label of a point says; `share` is what a percentage shows.
+/// Returns the text of a label. `point` counts from 0; `share` is the share of the point in the whole, from 0
+/// to 1.
 RichText LabelText(const ChartModel& chart, const GroupModel& group, const SeriesModel& series,
                    std::size_t point, const LabelModel& label, double share);
 

@@ -6,12 +6,12 @@
 
 namespace plotsmith::render {
 
-/// The points of a dense line that can be told apart: of those that share half a point across, the first, the
-/// least, the greatest and the last.
+/// Returns the points of a line without those that aren't visible in a dense line. Of the points within each
+/// half point across, the first, the lowest, the highest and the last are kept.
 std::vector<Point> Thinned(const std::vector<Point>& points);
 
-/// Adds a line through points, straight or smooth as Excel smooths it. Neighbours that no picture could tell
-/// apart are left out.
+/// Adds a line through points to a path. It is straight, or smooth as Excel smooths lines. Dense lines are
+/// thinned out.
 void AddCurve(Path& path, const std::vector<Point>& points, bool smooth);
 
 }  // namespace plotsmith::render

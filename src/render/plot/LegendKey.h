@@ -5,10 +5,12 @@
 
 namespace plotsmith::render {
 
-/// Whether the key of a series in a legend is a line; else it is a square of its filling.
+/// Returns whether the legend key of a series is a line. Otherwise it is a square with the filling of the
+/// series.
 bool HasLineKey(const ChartModel& chart, int series);
 
-/// The sign for a series in a rectangle: a piece of its filling, or of its line with a marker.
+/// Draws the legend key of a series or point into a rectangle. `tag` has their numbers from 1; its point is 0
+/// for the key of a series.
 void DrawKey(Canvas& canvas, const ChartModel& chart, Tag tag, const Rect& box);
 
 }  // namespace plotsmith::render

@@ -8,46 +8,52 @@
 
 namespace plotsmith::render {
 
-/// A point of a series as it was drawn, for its label: the rectangle of a bar or bubble, or the place of a
-/// marker with no extent.
+/// A point of a series as it was drawn, for its label.
 struct DrawnPoint {
   const GroupModel* group = nullptr;
   const SeriesModel* series = nullptr;
   std::size_t index = 0;  ///< from 0
-  Rect box;
-  bool negative = false;
-  // of slices: angles in degrees clockwise from twelve o'clock, and the circle that it is of
-  double angle = 0, sweep = 0;
-  Rect circle;
-  double hole = 0;   ///< of the radius
-  double share = 0;  ///< of the whole, where there is one: what a percentage shows
+  Rect box;  ///< the rectangle of a bar or bubble; that of a point without a marker has no extent
+  bool negative =
+      false;  ///< a bar or area that goes from its base towards lower values, or a bubble of negative size
+  double angle = 0;  ///< where a slice begins, in degrees clockwise from twelve o'clock
+  double sweep = 0;  ///< the extent of a slice in degrees
+  Rect circle;       ///< the circle that a slice is part of; an ellipse in 3-D
+  double hole = 0;   ///< radius of a doughnut's hole as a share of the circle's radius
+  double share = 0;  ///< of a slice in the whole, from 0 to 1
 };
 
-/// The chart, the rectangle inside of its axes, and the canvas.
+/// The plot area that the families draw on.
 struct Plot {
   const ChartModel& chart;
-  Rect area;
+  Rect area;  ///< the rectangle between the axes
   Canvas& canvas;
-  std::vector<DrawnPoint> points = {};  ///< those with labels, as the families keep them
-  std::size_t symbolsLeft = 100'000;    ///< markers and bubbles that may be drawn
+  std::vector<DrawnPoint> points = {};  ///< drawn points that have labels; see Keep
+  std::size_t symbolsLeft = 100'000;    ///< markers and bubbles that may still be drawn
 
-  /// Whether one more marker or bubble may be drawn; says it if not.
+  /// Counts one more marker or bubble. Returns false, and adds a note, if no more may be drawn.
   bool TakeSymbol();
-  /// Keeps a point that was drawn, if it has a label.
+  /// Keeps a drawn point for its label. Points without a label aren't kept.
   void Keep(const DrawnPoint& point);
+  /// The axis of categories or X values of a group; null if it has none.
   const AxisModel* CategoryAxisOf(const GroupModel& group) const;
+  /// The axis of values of a group; null if it has none.
   const AxisModel* ValueAxisOf(const GroupModel& group) const;
-  /// The place along the axis of values where the category axis crosses it. The group has both axes.
+  /// Returns the place along the axis of values where the category axis crosses it, in points. The group must
+  /// have both axes.
   double CrossingOf(const GroupModel& group) const;
-  /// The place where the bars or areas of such a group begin: the crossing, or zero if they are stacked.
+  /// Returns the place where the bars or areas of a group begin: the crossing, or zero if they are stacked.
+  /// The group must have both axes.
   double BaseOf(const GroupModel& group) const;
 };
 
-/// Lower and upper end of each value of a group's series, stacked or in percent as the group says:
-/// [series][point]. NaN where a point has no value.
+/// The beginning and the end of each value of a group's series, as [series][point]. NaN if a point has no
+/// value.
 struct Extents {
   std::vector<std::vector<double>> from, to;
 };
+/// Stacks the values of a group, or turns them into shares of 1, as its grouping says. Values that aren't
+/// stacked begin at 0.
 Extents StackValues(const GroupModel& group);
 
 }  // namespace plotsmith::render
