@@ -5,7 +5,7 @@
 
 namespace plotsmith::render {
 
-/// Draws the bars or columns of a group, those that others may cover first.
+/// Draws the bars or columns of a group as bodies, from back to front.
 void DrawBars3D(Plot& plot, const Stage& stage, const Projection& projection);
 
 }  // namespace plotsmith::render

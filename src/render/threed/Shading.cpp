@@ -5,14 +5,14 @@
 namespace plotsmith::render {
 
 double LightOf(const Point3& normal) {
-  // squares of a direction's parts add up to 1, so round bodies go smoothly from one light to the next
+  // The squares of the components add up to 1, so the brightness changes smoothly on round bodies.
   const double vertical = normal.y > 0 ? kTopLight : kBottomLight;
   return normal.z * normal.z * kFrontLight + normal.x * normal.x * kSideLight +
          normal.y * normal.y * vertical;
 }
 
 Point3 NormalOf(std::span<const Point3> corners) {
-  // Newell's sum, which also copes with corners that lie in a line
+  // This is Newell's method, which allows corners on a line.
   Point3 normal;
   for (std::size_t i = 0; i < corners.size(); ++i) {
     const Point3 &a = corners[i], &b = corners[(i + 1) % corners.size()];

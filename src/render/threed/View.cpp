@@ -11,7 +11,7 @@ namespace {
 
 constexpr double kUsualPerspective = 30;
 
-/// `fallback` for what is missing or no number.
+/// Reads a number and limits it to a range. Returns `fallback` if it is missing or isn't a number.
 double Number(pugi::xml_node view, const char* name, double fallback, double least, double most) {
   const double value = xlsx::schema::NumberVal(view, name).value_or(fallback);
   return std::isfinite(value) ? std::clamp(value, least, most) : fallback;
@@ -25,7 +25,7 @@ View ReadView(pugi::xml_node chart, const View& automatic) {
   view.elevation = Number(element, "rotX", automatic.elevation, -90, 90);
   view.rotation = std::fmod(Number(element, "rotY", automatic.rotation, 0, 360), 360);
   view.rightAngles = xlsx::schema::BooleanVal(element, "rAngAx", false);
-  // the file counts perspective in half degrees
+  // The unit in the file is half a degree.
   view.fieldOfView = Number(element, "perspective", kUsualPerspective, 0, 240) / 2;
   if (xlsx::schema::NumberVal(element, "hPercent")) {
     view.heightPercent = Number(element, "hPercent", 100, 5, 500);
