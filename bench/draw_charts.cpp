@@ -9,9 +9,9 @@
 #include <iostream>
 #include <string>
 
-#include "render/ChartDrawing.h"
 #include "render/cairo/CairoPainter.h"
 #include "render/cairo/Fonts.h"
+#include "render/chart/ChartDrawing.h"
 #include "render/svg/SvgWriter.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"

@@ -1,8 +1,8 @@
 #include "fuzz/Pictures.h"
 
-#include "render/ChartDrawing.h"
 #include "render/cairo/CairoPainter.h"
 #include "render/cairo/Fonts.h"
+#include "render/chart/ChartDrawing.h"
 #include "render/svg/SvgWriter.h"
 #include "xlsx/chart/part/ChartPart.h"
 

@@ -6,7 +6,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// Beyond this no page reaches, and painters begin to lose digits.
+/// A coordinate in points that no page reaches. Painters lose digits beyond it.
 constexpr double kFarthest = 1e6;
 
 bool IsNear(Point point) { return std::abs(point.x) <= kFarthest && std::abs(point.y) <= kFarthest; }

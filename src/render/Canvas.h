@@ -4,37 +4,47 @@
 #include <string_view>
 #include <utility>
 
-#include "render/ChartDrawing.h"
 #include "render/Drawing.h"
+#include "render/Notes.h"
 #include "render/TextMeasure.h"
 
 namespace plotsmith::render {
 
-/// Appends items to a drawing, and says what isn't drawn. A sentence is kept once.
+/// Appends items to a drawing, and collects sentences about what isn't drawn.
 class Canvas {
  public:
+  /// The drawing, the measure and the notes must outlive the canvas.
   Canvas(Drawing& drawing, const TextMeasure& measure, Notes& notes)
       : drawing_(drawing), measure_(measure), notes_(notes) {}
 
-  /// Appends a path unless it has neither filling nor line, or no finite place.
+  /// Appends a path. Paths that have neither filling nor line, and those that aren't on any page, are left
+  /// out.
   void Add(Tag tag, Path path, const Fill& fill, const Stroke& stroke = {});
-  /// Appends a rectangle that readers of the drawing look for, even if nothing of it is seen.
+  /// Appends a rectangle even if it is invisible, for readers of the drawing who look for its place.
   void AddFrame(Tag tag, const Rect& box, const Fill& fill, const Stroke& stroke);
+  /// Appends a straight line. The same lines are left out as in Add.
   void AddLine(Tag tag, Point from, Point to, const Stroke& stroke);
-  /// Appends one line of text and fills in its measures.
+  /// Measures a line of text and appends it. Empty texts are left out.
   void AddText(Tag tag, TextItem text);
+  /// Limits what is appended up to the matching PopClip to the inside of the path.
   void PushClip(const Path& path);
+  /// Ends the last PushClip.
   void PopClip();
+  /// Adds a sentence about what isn't drawn. A sentence that was added before isn't repeated.
   void Note(std::string sentence);
 
+  /// Measures texts for this drawing.
   const TextMeasure& Measure() const { return measure_; }
+  /// The whole drawing.
   Rect Bounds() const { return {0, 0, drawing_.width, drawing_.height}; }
+  /// The drawing that items are appended to.
   Drawing& Target() { return drawing_; }
 
  private:
+  /// Appends the pictures of a filling, clipped to the path.
   void AddPictures(Tag tag, const Path& path, const PictureFill& fill);
 
-  std::size_t pictureBytesLeft_ = 16 * 1024 * 1024;
+  std::size_t pictureBytesLeft_ = 16 * 1024 * 1024;  ///< that fillings may still add to the drawing
   Drawing& drawing_;
   const TextMeasure& measure_;
   Notes& notes_;

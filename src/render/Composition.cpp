@@ -3,7 +3,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// Moves and scales the parts of a drawing.
+/// Scales the items of a drawing and moves its corner to a point.
 class Placer {
  public:
   Placer(Point corner, double scale) : corner_(corner), scale_(scale) {}

@@ -4,11 +4,11 @@
 
 namespace plotsmith::render {
 
-/// The drawing, larger or smaller in all its lengths.
+/// Returns the drawing with all lengths multiplied by `scale`, also those of fonts and lines.
 Drawing Scaled(const Drawing& drawing, double scale);
 
-/// Appends the items of a drawing to another one, with its corner at a point, larger or smaller. What sticks
-/// out of the drawing's own bounds isn't seen.
+/// Appends a drawing to a page, with all lengths multiplied by `scale` and its top left corner at `corner`.
+/// Items are clipped to the bounds of the appended drawing.
 void Place(Drawing& page, const Drawing& drawing, Point corner, double scale = 1);
 
 }  // namespace plotsmith::render

@@ -10,7 +10,7 @@ namespace {
 
 constexpr double kRadian = std::numbers::pi / 180;
 
-/// The least rectangle around points, fed one at a time.
+/// The smallest rectangle around points, which are added one at a time.
 class Hull {
  public:
   void Add(Point point) {
@@ -28,7 +28,7 @@ class Hull {
   bool empty_ = true;
 };
 
-/// The point of a cubic curve at a share of its way.
+/// Returns the point of a cubic curve at the parameter `t`, from 0 to 1.
 Point OnCurve(Point from, const PathStep& curve, double t) {
   const double u = 1 - t;
   const auto along = [&](double a, double b, double c, double d) {
@@ -38,10 +38,10 @@ Point OnCurve(Point from, const PathStep& curve, double t) {
           along(from.y, curve.control1.y, curve.control2.y, curve.to.y)};
 }
 
-/// Adds the points at which a curve turns round, to the left or right, up or down.
+/// Adds the points at which a curve changes its direction horizontally or vertically.
 void AddTurns(Point from, const PathStep& curve, Hull& hull) {
   const auto add = [&](double a, double b, double c, double d) {
-    // the roots of the derivative, p * t * t + q * t + r
+    // These are the roots of the derivative, p * t * t + q * t + r.
     const double p = -a + 3 * b - 3 * c + d, q = 2 * (a - 2 * b + c), r = b - a;
     const double root = std::sqrt(std::max(q * q - 4 * p * r, 0.0));
     for (const double t : {(-q + root) / (2 * p), (-q - root) / (2 * p), -r / q}) {
@@ -128,7 +128,7 @@ Path& Path::AddPolygon(const std::vector<Point>& corners) {
 }
 
 Path& Path::ArcTo(const Rect& bounds, double from, double sweep) {
-  constexpr double kLongest = 90;  // degrees that one cubic curve follows closely enough
+  constexpr double kLongest = 90;  // degrees that one cubic curve approximates well enough
   const int pieces = std::clamp(static_cast<int>(std::ceil(std::abs(sweep) / kLongest - 1e-9)), 1, 8);
   const double step = sweep / pieces;
   const double reach = 4.0 / 3 * std::tan(step * kRadian / 4);

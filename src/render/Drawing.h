@@ -7,16 +7,18 @@
 #include <variant>
 #include <vector>
 
-/// A picture as a list of what is painted, in painting order, which knows no library. Lengths are points,
-/// y goes down, and the origin is the top left corner of the picture.
+/// Pictures of charts and sheets. A picture is a list of painted items, independent of any graphics library.
+/// Lengths are in points, y grows downwards, and the origin is the top left corner of the picture.
 namespace plotsmith::render {
 
+/// A place on a picture, in points.
 struct Point {
   double x = 0, y = 0;
 
   bool operator==(const Point&) const = default;
 };
 
+/// An upright rectangle on a picture, in points.
 struct Rect {
   double left = 0, top = 0, width = 0, height = 0;
 
@@ -26,112 +28,127 @@ struct Rect {
   bool operator==(const Rect&) const = default;
 };
 
-/// The rectangle with each side moved inwards; a side that would pass the opposite one stays on it.
+/// Returns the rectangle with its left and right sides moved inwards by `horizontal` and the others by
+/// `vertical`, in points. Sides that would pass each other meet in the middle.
 Rect Inset(const Rect& rect, double horizontal, double vertical);
-/// Whether two rectangles share more than an edge. `slack` points of overlap are not counted.
+/// Returns whether two rectangles share more than an edge. An overlap of at most `slack` points doesn't
+/// count.
 bool Overlap(const Rect& a, const Rect& b, double slack = 0);
-/// The least rectangle around both.
+/// Returns the smallest rectangle that contains both.
 Rect Union(const Rect& a, const Rect& b);
 
+/// A colour with its opacity.
 struct Color {
   std::uint8_t red = 0, green = 0, blue = 0;
-  double alpha = 1;
+  double alpha = 1;  ///< from 0, transparent, to 1, opaque
 
   bool operator==(const Color&) const = default;
 };
-/// From Excel's number, red + 256 * green + 65536 * blue.
+/// Returns the colour of Excel's number, which is red + 256 * green + 65536 * blue.
 Color FromExcel(std::int32_t color, double alpha = 1);
-/// "#RRGGBB".
+/// Returns the colour as "#RRGGBB". The opacity isn't part of it.
 std::string HexOf(const Color& color);
 
+/// A filling of one colour.
 struct SolidFill {
   Color color;
 };
+/// A place on a gradient with its colour.
 struct GradientStop {
   double position = 0;  ///< from 0 to 1
   Color color;
 };
-/// A linear gradient at an angle in degrees clockwise from left to right, or a radial one from `focus`, a
-/// point in fractions of the filled bounds. It spans the bounds of the path.
+/// A linear or radial gradient over the bounds of the filled path.
 struct GradientFill {
-  std::vector<GradientStop> stops;
+  std::vector<GradientStop> stops;  ///< by their positions
   bool radial = false;
-  double angle = 0;
-  Point focus = {0.5, 0.5};
+  double angle = 0;          ///< direction of a linear gradient, in degrees clockwise from left to right
+  Point focus = {0.5, 0.5};  ///< start of a radial gradient, in fractions of the bounds
 };
-/// One of the preset patterns (ST_PresetPatternVal) of 8 by 8 pixels at 96 dpi, aligned to the picture.
+/// A preset pattern of 8 by 8 pixels at 96 dpi. The tiles begin at the picture's origin.
 struct PatternFill {
-  std::string preset;
+  std::string preset;  ///< name of the pattern (ST_PresetPatternVal)
   Color foreground, background;
 };
-/// A PNG picture, stretched over the bounds of the path, or side by side in tiles of a size in points. A
-/// canvas makes a clipped picture of it: no drawing has it.
+/// A PNG picture, stretched over the bounds of the path or repeated in tiles. Drawings don't contain this
+/// filling: a Canvas replaces it by images that are clipped to the path.
 struct PictureFill {
-  std::shared_ptr<const std::string> bytes;
-  double tileWidth = 0, tileHeight = 0;  ///< 0 is stretched
+  std::shared_ptr<const std::string> bytes;  ///< of the PNG file
+  double tileWidth = 0, tileHeight = 0;      ///< points; 0 if the picture is stretched
 };
-/// std::monostate is no filling.
+/// The inside of a path. std::monostate is no filling.
 using Fill = std::variant<std::monostate, SolidFill, GradientFill, PatternFill, PictureFill>;
 
+/// The form of the ends of a line.
 enum class LineCap : std::uint8_t { kFlat, kRound, kSquare };
+/// The form of the corners of a line.
 enum class LineJoin : std::uint8_t { kMiter, kRound, kBevel };
 
+/// The outline of a path.
 struct Stroke {
   Color color;
-  double width = 0;            ///< 0 is no line
-  std::vector<double> dashes;  ///< lengths of dash, gap, dash, ...; empty is a solid line
+  double width = 0;            ///< points; 0 if there is no line
+  std::vector<double> dashes;  ///< lengths of dash, gap, dash, ... in points; empty for a solid line
   LineCap cap = LineCap::kFlat;
   LineJoin join = LineJoin::kRound;
 };
 
+/// A step of a path from the point where the previous one ended.
 struct PathStep {
   enum class Kind : std::uint8_t { kMove, kLine, kCurve, kClose };
   Kind kind = Kind::kMove;
-  Point to;
-  Point control1, control2;  ///< of a cubic curve
+  Point to;                  ///< end of the step; unused by kClose
+  Point control1, control2;  ///< control points of a cubic curve
 };
 
-/// An outline of lines and cubic curves. Angles are degrees, clockwise from twelve o'clock.
+/// An outline of lines and cubic curves. Angles are in degrees, clockwise from twelve o'clock.
 class Path {
  public:
   Path& MoveTo(Point to);
   Path& LineTo(Point to);
   Path& CurveTo(Point control1, Point control2, Point to);
   Path& Close();
-  /// A closed rectangle, or an ellipse inscribed in it.
+  /// Adds a closed rectangle.
   Path& AddRect(const Rect& rect);
+  /// Adds the closed ellipse inscribed in `bounds`.
   Path& AddEllipse(const Rect& bounds);
+  /// Adds a closed polygon.
   Path& AddPolygon(const std::vector<Point>& corners);
-  /// Goes on along the ellipse inscribed in `bounds`, from the current point, which must be at `from`.
+  /// Adds an arc of the ellipse inscribed in `bounds`, from the angle `from` over `sweep` degrees. The path's
+  /// current point must be at `from`. A negative sweep goes counter-clockwise.
   Path& ArcTo(const Rect& bounds, double from, double sweep);
 
   const std::vector<PathStep>& Steps() const { return steps_; }
   bool IsEmpty() const { return steps_.empty(); }
-  /// Around the line itself; the points that only control a curve may lie outside.
+  /// Returns the smallest rectangle around the lines and curves. Control points may lie outside.
   Rect Bounds() const;
+  /// Moves the whole path.
   void Move(Point by);
 
  private:
   std::vector<PathStep> steps_;
 };
-/// The point of the ellipse inscribed in `bounds` at an angle, which is a parameter of the ellipse.
+/// Returns the point of the ellipse inscribed in `bounds` at an angle in degrees, clockwise from twelve
+/// o'clock. The angle is that of a circle which is then stretched to the ellipse.
 Point OnEllipse(const Rect& bounds, double degrees);
 
+/// A font of a text.
 struct Font {
-  std::string family;
-  double size = 10;  ///< points
+  std::string family;  ///< as the file names it; the font may not be installed
+  double size = 10;    ///< points
   bool bold = false, italic = false, underline = false;
 
   bool operator==(const Font&) const = default;
 };
 
+/// The part of a text that is at its anchor.
 enum class TextAlign : std::uint8_t { kStart, kMiddle, kEnd };
 
-/// What an item belongs to on a chart.
+/// The element of a chart or sheet that an item is part of.
 enum class Role : std::uint8_t {
   kOther,
   kChartArea,
-  kPlotArea,  ///< inside of the axes
+  kPlotArea,  ///< the rectangle between the axes
   kTitle,
   kAxisTitle,
   kAxisLine,
@@ -156,17 +173,18 @@ enum class Role : std::uint8_t {
   kDropLine,
   kWall,
   kFloor,
-  kSide,  ///< a side face of a body in 3-D, whose front has the role of the flat shape
+  kSide,  ///< a side face of a body in 3-D; its front has the role of the flat shape
   kShape,
   kShapeText,
   kCell,
   kCellText
 };
+/// Returns the name of a role without the k, such as "ChartArea".
 std::string_view NameOf(Role role);
 
-/// What an item shows. Series and points count from 1; 0 is none. Of an axis and its parts, `series` is the
-/// number of the axis in the chart part and `point` the number of the tick. Of a legend, `series` is that of
-/// the entry's series, and `point` that of its point where points have entries.
+/// What an item shows. Numbers count from 1; 0 is none. For an axis and its parts, `series` is the number of
+/// the axis in the chart part, and `point` the number of the tick. For a part of the legend they are the
+/// series and the point of the entry.
 struct Tag {
   Role role = Role::kOther;
   int series = 0;
@@ -175,6 +193,7 @@ struct Tag {
   bool operator==(const Tag&) const = default;
 };
 
+/// A path that is filled, then stroked.
 struct PathItem {
   Path path;
   Fill fill;
@@ -186,45 +205,49 @@ struct TextItem {
   std::string text;  ///< UTF-8
   Font font;
   Color color;
-  Point anchor;  ///< on the baseline: the start, the middle or the end of the text
+  Point anchor;  ///< the start, the middle or the end of the baseline, as `align` says
   TextAlign align = TextAlign::kStart;
-  double rotation = 0;                        ///< degrees clockwise about the anchor
-  double width = 0, ascent = 0, descent = 0;  ///< as measured
+  double rotation = 0;                        ///< in degrees clockwise about the anchor
+  double width = 0, ascent = 0, descent = 0;  ///< points, as measured
 
-  /// The least upright rectangle around the turned text.
+  /// Returns the smallest upright rectangle around the turned text.
   Rect Bounds() const;
 };
 
-/// Items up to the matching PopClip are only seen inside of the path.
+/// Limits the items up to the matching PopClip to the inside of the path.
 struct PushClip {
   Path path;
 };
+/// Ends the last PushClip.
 struct PopClip {};
 
-/// A PNG or JPEG picture, stretched to a rectangle.
+/// A PNG picture, stretched to a rectangle.
 struct ImageItem {
-  std::string bytes;
+  std::string bytes;  ///< of the PNG file
   Rect place;
 };
 
+/// A part of a picture.
 struct Item {
   Tag tag;
   std::variant<PathItem, TextItem, PushClip, PopClip, ImageItem> content;
 };
 
-/// Around what the item paints; empty for clips.
+/// Returns the smallest rectangle around what the item paints; an empty one for clips. The width of lines
+/// doesn't count.
 Rect BoundsOf(const Item& item);
-/// The item elsewhere.
+/// Returns the item moved by a distance.
 Item Moved(Item item, Point by);
 
+/// A picture.
 struct Drawing {
-  double width = 0, height = 0;
-  std::string title;        ///< one line, for a screen reader
-  std::string description;  ///< the values, as lines of text
-  std::vector<Item> items;
+  double width = 0, height = 0;  ///< points
+  std::string title;             ///< one line for screen readers
+  std::string description;       ///< the values of the chart, as lines of text for screen readers
+  std::vector<Item> items;       ///< in painting order
 };
 
-/// Appends the items of a drawing to a page, on which its corner is at a point.
+/// Appends the items of a drawing to a page. The top left corner of the drawing is at the point `at`.
 void Append(Drawing& page, const Drawing& drawing, Point at);
 
 }  // namespace plotsmith::render

@@ -13,7 +13,7 @@ struct Substitute {
 
 constexpr std::string_view kSans = "sans-serif", kSerif = "serif", kMono = "monospace";
 
-/// The first three substitutes, Caladea and Gelasio were drawn to have the widths of their originals.
+/// The first three substitutes, Caladea and Gelasio have the same widths as the fonts that they replace.
 constexpr Substitute kSubstitutes[] = {
     {"Arial", "Liberation Sans", kSans},
     {"Times New Roman", "Liberation Serif", kSerif},

@@ -4,10 +4,10 @@
 
 namespace plotsmith::render {
 
-/// The font that takes the place of one that isn't installed: one with the same widths where there is one,
-/// else the one that comes nearest. Never empty.
+/// Returns the font that replaces one that isn't installed. It has the same widths if there is such a font;
+/// otherwise it is the most similar one. Never empty.
 std::string_view SubstituteFor(std::string_view family);
-/// The generic family of CSS that a font belongs to: "serif", "sans-serif" or "monospace".
+/// Returns the generic family of CSS that a font belongs to: "serif", "sans-serif" or "monospace".
 std::string_view GenericFamilyOf(std::string_view family);
 
 }  // namespace plotsmith::render

@@ -9,32 +9,34 @@
 
 namespace plotsmith::render {
 
-/// A PDF document that is made page by page.
+/// A PDF document that is written page by page.
 class PdfDocument {
  public:
   virtual ~PdfDocument() = default;
 
-  /// Adds a page of the drawing's size. The title of the first page is the document's.
+  /// Adds a page of the drawing's size. The title of the first page becomes the title of the document.
   virtual void Add(const Drawing& page) = 0;
-  /// Ends the document and gives its bytes.
+  /// Ends the document and returns its bytes. Nothing can be added afterwards.
   virtual std::string Finish() = 0;
 };
 
-/// What needs a graphics library: measuring texts, and every format but SVG. The library takes longer to load
-/// than the command takes to start, so it is behind this class and is loaded when it is wanted. Several
-/// threads may paint at a time.
+/// Measures texts and paints pictures with a graphics library. Loading the library takes longer than the
+/// whole command takes to start, so it is behind this interface and is loaded when a picture is drawn. Only
+/// SVG can be written without it. Several threads may paint at a time.
 class Painter {
  public:
   virtual ~Painter() = default;
 
-  /// The measure of this painter, for all threads.
+  /// Returns the measure of this painter, for all threads.
   virtual const TextMeasure& Measure() const = 0;
-  /// Whether there is any font. Without one, texts are measured and painted as boxes or not at all.
+  /// Returns whether any font is installed. Without fonts, texts become boxes or are invisible.
   virtual bool HasFonts() const = 0;
-  /// On a white ground; `scale` is pixels for a point. A picture of more than a hundred million pixels, or of
-  /// none, is a std::length_error.
+  /// Paints a drawing on a white background. `scale` is the number of pixels in a point. Throws
+  /// std::length_error if the picture would have no pixel or more than a hundred million.
   virtual Raster Rasterize(const Drawing& drawing, double scale) const = 0;
+  /// Returns the bytes of a PNG file. Scale and errors are those of Rasterize.
   virtual std::string Png(const Drawing& drawing, double scale) const = 0;
+  /// Begins a PDF document.
   virtual std::unique_ptr<PdfDocument> NewPdf() const = 0;
 };
 

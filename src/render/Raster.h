@@ -5,10 +5,10 @@
 
 namespace plotsmith::render {
 
-/// A picture without transparency, row by row from the top: red, green and blue in the lower three bytes of
-/// each number, from the highest on.
+/// A picture of opaque pixels.
 struct Raster {
-  int width = 0, height = 0;
+  int width = 0, height = 0;  ///< pixels
+  /// The pixels as 0x00RRGGBB, row by row from the top.
   std::vector<std::uint32_t> values;
 };
 

@@ -9,15 +9,16 @@ namespace plotsmith::render {
 /// The size of one line of text, in points.
 struct TextExtent {
   double width = 0;
-  double ascent = 0, descent = 0;  ///< of the font; the text makes no difference
+  double ascent = 0, descent = 0;  ///< those of the font, which are the same for all texts
 
   double Height() const { return ascent + descent; }
 };
 
-/// Measures texts with a font.
+/// Measures lines of text.
 class TextMeasure {
  public:
   virtual ~TextMeasure() = default;
+  /// Returns the size of a line of text (UTF-8) in a font, or in its substitute if it isn't installed.
   virtual TextExtent Measure(std::string_view line, const Font& font) const = 0;
 };
 

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <nlohmann/json.hpp>
+#include <ostream>
+#include <utility>
 
 #include "cli/Session.h"
 #include "runtime/RuntimeError.h"
@@ -54,6 +56,19 @@ std::string Flat(const Json& value) {
   return text;
 }
 
+void PrintLine(const Json& cells, std::ostream& out) {
+  for (std::size_t i = 0; i < cells.size(); ++i) out << (i > 0 ? "\t" : "") << Flat(cells[i]);
+  out << '\n';
+}
+
+/// Returns a range in which whole columns end at the last used row, and whole rows at the last used column.
+xlsx::CellRange UsedPart(xlsx::CellRange range, xlsx::Worksheet& sheet) {
+  const xlsx::CellRange used = sheet.UsedCells();
+  if (range.RowCount() == xlsx::limits::kRows) range.row2 = used.row2;
+  if (range.ColumnCount() == xlsx::limits::kColumns) range.column2 = used.column2;
+  return range;
+}
+
 }  // namespace
 
 CLI::App* CellsCommand::Declare(CLI::App& app) {
@@ -79,28 +94,23 @@ int CellsCommand::Run(const GlobalOptions& options, const Streams& streams) {
 
   Json rows = Json::array();
   std::string scratch;
+  const auto cellAt = [&](std::int32_t row, std::int32_t column) -> Json {
+    if (!value_) return std::string(sheet->CellTextAt(row, column, scratch));
+    Json value = ValueOf(sheet->Stored(row, column));
+    return json_ ? WithIsoText(std::move(value), session.Book(), sheet->StyleAt(row, column)) : value;
+  };
   try {
-    // Whole columns end at the last used row.
-    const auto used = sheet->UsedCells();
-    const auto lastRow = range->range.RowCount() == xlsx::limits::kRows ? used.row2 : range->range.row2;
-    const auto lastColumn =
-        range->range.ColumnCount() == xlsx::limits::kColumns ? used.column2 : range->range.column2;
-    for (std::int32_t row = range->range.row1; row <= lastRow; ++row) {
+    const xlsx::CellRange shown = UsedPart(range->range, *sheet);
+    for (std::int32_t row = shown.row1; row <= shown.row2; ++row) {
       Json cells = Json::array();
-      for (std::int32_t column = range->range.column1; column <= lastColumn; ++column) {
-        if (!value_) {
-          cells.push_back(std::string(sheet->CellTextAt(row, column, scratch)));
-          continue;
-        }
-        const Json value = ValueOf(sheet->Stored(row, column));
-        cells.push_back(json_ ? WithIsoText(value, session.Book(), sheet->StyleAt(row, column)) : value);
+      for (std::int32_t column = shown.column1; column <= shown.column2; ++column) {
+        cells.push_back(cellAt(row, column));
       }
       if (json_) {
         rows.push_back(std::move(cells));
-        continue;
+      } else {
+        PrintLine(cells, streams.out);
       }
-      for (std::size_t i = 0; i < cells.size(); ++i) streams.out << (i > 0 ? "\t" : "") << Flat(cells[i]);
-      streams.out << '\n';
     }
   } catch (const runtime::RuntimeError&) {
     session.Finish();  // This reports damage.

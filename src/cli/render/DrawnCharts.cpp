@@ -7,7 +7,7 @@
 #include "cli/render/LoadPainter.h"
 #include "cli/render/PictureNames.h"
 #include "cli/render/PictureWriter.h"
-#include "render/ChartDrawing.h"
+#include "render/chart/ChartDrawing.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/objects/Chart.h"

@@ -42,6 +42,30 @@ QLabel* NewLabel(const QString& accessibleName) {
   return label;
 }
 
+/// Sets the widths of the two labels above the sheet, and gives them the colours of a field.
+void SetUpLabels(QLabel& address, QLabel& content) {
+  // The content is clipped at the edge of the window and doesn't widen it.
+  content.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  address.setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  address.setFixedWidth(address.fontMetrics().horizontalAdvance(QStringLiteral("XFD1048576")) + 16);
+  address.setAlignment(Qt::AlignCenter);
+  for (QLabel* label : {&address, &content}) {
+    label->setBackgroundRole(QPalette::Base);
+    label->setForegroundRole(QPalette::Text);
+    label->setAutoFillBackground(true);
+  }
+}
+
+void SetUpTabs(QTabBar& tabs) {
+  tabs.setShape(QTabBar::RoundedSouth);
+  tabs.setDocumentMode(true);
+  tabs.setExpanding(false);
+  tabs.setDrawBase(false);
+  tabs.setUsesScrollButtons(true);
+  tabs.setElideMode(Qt::ElideNone);
+  tabs.setAccessibleName(QStringLiteral("Sheets"));
+}
+
 }  // namespace
 
 BookView::BookView(std::shared_ptr<xlsx::Application> host, QWidget* parent)
@@ -51,24 +75,8 @@ BookView::BookView(std::shared_ptr<xlsx::Application> host, QWidget* parent)
       content_(NewLabel(QStringLiteral("Content of the active cell"))),
       pages_(new QStackedWidget),
       tabs_(new QTabBar) {
-  // The content is clipped at the edge of the window and doesn't widen it.
-  content_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  address_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-  address_->setFixedWidth(address_->fontMetrics().horizontalAdvance(QStringLiteral("XFD1048576")) + 16);
-  address_->setAlignment(Qt::AlignCenter);
-  for (QLabel* label : {address_, content_}) {
-    label->setBackgroundRole(QPalette::Base);
-    label->setForegroundRole(QPalette::Text);
-    label->setAutoFillBackground(true);
-  }
-  tabs_->setShape(QTabBar::RoundedSouth);
-  tabs_->setDocumentMode(true);
-  tabs_->setExpanding(false);
-  tabs_->setDrawBase(false);
-  tabs_->setUsesScrollButtons(true);
-  tabs_->setElideMode(Qt::ElideNone);
-  tabs_->setAccessibleName(QStringLiteral("Sheets"));
-
+  SetUpLabels(*address_, *content_);
+  SetUpTabs(*tabs_);
   auto* bar = new QHBoxLayout;
   bar->setSpacing(1);
   bar->addWidget(address_);

@@ -9,6 +9,7 @@
 #include <QtWidgets/QToolBar>
 #include <QtWidgets/QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "qt/help/FindBar.h"
 #include "qt/help/HelpBrowser.h"
@@ -54,7 +55,8 @@ HelpWindow::HelpWindow(const QString& folder, QWidget* parent)
   resize(kWidth, kHeight);
 }
 
-QAction* HelpWindow::MakeAction(const char* name, const QString& text, const QList<QKeySequence>& keys) {
+QAction* HelpWindow::MakeAction(const char* name, const QString& text, const QList<QKeySequence>& keys,
+                                std::function<void()> run) {
   auto* const action = new QAction(text, this);
   action->setObjectName(name);
   action->setShortcuts(keys);
@@ -62,56 +64,58 @@ QAction* HelpWindow::MakeAction(const char* name, const QString& text, const QLi
     action->setToolTip(
         QString("%1 (%2)").arg(text, keys.first().toString(QKeySequence::NativeText)).remove('&'));
   }
+  if (run) connect(action, &QAction::triggered, this, std::move(run));
   addAction(action);
   return action;
 }
 
 void HelpWindow::MakeActions() {
-  QAction* const back = MakeAction("back", "&Back", QKeySequence::keyBindings(QKeySequence::Back));
-  QAction* const forward =
-      MakeAction("forward", "For&ward", QKeySequence::keyBindings(QKeySequence::Forward));
-  QAction* const home = MakeAction("home", "&Home", {QKeySequence("Alt+Home")});
+  QAction* const back = MakeAction("back", "&Back", QKeySequence::keyBindings(QKeySequence::Back),
+                                   [this] { browser_->backward(); });
+  QAction* const forward = MakeAction("forward", "For&ward", QKeySequence::keyBindings(QKeySequence::Forward),
+                                      [this] { browser_->forward(); });
+  QAction* const home =
+      MakeAction("home", "&Home", {QKeySequence("Alt+Home")}, [this] { ShowFile(kFirstPage); });
   QAction* const topics = MakeAction("topics", "&Topics", {QKeySequence("Ctrl+T")});
-  QAction* const find = MakeAction("find", "&Find", {QKeySequence(QKeySequence::Find)});
-  QAction* const findNext = MakeAction("findNext", "Find next", {QKeySequence("F3")});
-  QAction* const findPrevious = MakeAction("findPrevious", "Find previous", {QKeySequence("Shift+F3")});
-  QAction* const larger =
-      MakeAction("larger", "Larger text", {QKeySequence(QKeySequence::ZoomIn), QKeySequence("Ctrl+=")});
-  QAction* const smaller = MakeAction("smaller", "Smaller text", {QKeySequence(QKeySequence::ZoomOut)});
-  QAction* const close = MakeAction("close", "Close", {QKeySequence("Esc"), QKeySequence("Ctrl+W")});
+  QAction* const find =
+      MakeAction("find", "&Find", {QKeySequence(QKeySequence::Find)}, [this] { findBar_->Open(); });
+  MakeAction("findNext", "Find next", {QKeySequence("F3")}, [this] { findBar_->FindNext(); });
+  MakeAction("findPrevious", "Find previous", {QKeySequence("Shift+F3")},
+             [this] { findBar_->FindPrevious(); });
+  MakeAction("larger", "Larger text", {QKeySequence(QKeySequence::ZoomIn), QKeySequence("Ctrl+=")},
+             [this] { browser_->zoomIn(); });
+  MakeAction("smaller", "Smaller text", {QKeySequence(QKeySequence::ZoomOut)},
+             [this] { browser_->zoomOut(); });
+  MakeAction("close", "Close", {QKeySequence("Esc"), QKeySequence("Ctrl+W")},
+             [this] { CloseFindBarOrWindow(); });
   back->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
   forward->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
   home->setIcon(style()->standardIcon(QStyle::SP_DirHomeIcon));
   back->setEnabled(false);
   forward->setEnabled(false);
-  topics->setCheckable(true);
-  topics->setChecked(true);
-
-  connect(back, &QAction::triggered, browser_, &QTextBrowser::backward);
-  connect(forward, &QAction::triggered, browser_, &QTextBrowser::forward);
   connect(browser_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
   connect(browser_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
-  connect(home, &QAction::triggered, this, [this] { ShowFile(kFirstPage); });
+  topics->setCheckable(true);
+  topics->setChecked(true);
   connect(topics, &QAction::toggled, list_, &QWidget::setVisible);
-  connect(find, &QAction::triggered, this, [this] { findBar_->Open(); });
-  connect(findNext, &QAction::triggered, this, [this] { findBar_->FindNext(); });
-  connect(findPrevious, &QAction::triggered, this, [this] { findBar_->FindPrevious(); });
-  connect(larger, &QAction::triggered, this, [this] { browser_->zoomIn(); });
-  connect(smaller, &QAction::triggered, this, [this] { browser_->zoomOut(); });
-  connect(close, &QAction::triggered, this, [this] {
-    if (findBar_->isVisible()) {
-      findBar_->Close();
-    } else {
-      QWidget::close();
-    }
-  });
+  MakeToolBar({back, forward, home, topics, find});
+}
 
+void HelpWindow::MakeToolBar(const QList<QAction*>& actions) {
   QToolBar* const bar = addToolBar("Help");
   bar->setObjectName("helpBar");
   bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   bar->setMovable(false);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);  // A hidden toolbar couldn't be shown again.
-  bar->addActions({back, forward, home, topics, find});
+  bar->addActions(actions);
+}
+
+void HelpWindow::CloseFindBarOrWindow() {
+  if (findBar_->isVisible()) {
+    findBar_->Close();
+  } else {
+    close();
+  }
 }
 
 void HelpWindow::FillTopics() {

@@ -3,6 +3,7 @@
 #include <QtCore/QString>
 #include <QtWidgets/QMainWindow>
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 #include "qt/help/HelpTopics.h"
@@ -34,7 +35,11 @@ class HelpWindow final : public QMainWindow {
 
  private:
   void MakeActions();
-  QAction* MakeAction(const char* name, const QString& text, const QList<QKeySequence>& keys);
+  /// Adds an action to the window. If there is a `run`, the action calls it when it is triggered.
+  QAction* MakeAction(const char* name, const QString& text, const QList<QKeySequence>& keys,
+                      std::function<void()> run = {});
+  void MakeToolBar(const QList<QAction*>& actions);
+  void CloseFindBarOrWindow();
   void FillTopics();
   void ShowFile(const QString& file);
   void BringToFront();

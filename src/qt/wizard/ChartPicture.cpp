@@ -7,7 +7,7 @@
 
 #include "cli/Command.h"
 #include "cli/render/LoadPainter.h"
-#include "render/ChartDrawing.h"
+#include "render/chart/ChartDrawing.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/chart/objects/Chart.h"

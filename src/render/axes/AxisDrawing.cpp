@@ -16,7 +16,7 @@ namespace {
 constexpr double kMajorMark = 4, kMinorMark = 2.5;  // points
 constexpr std::size_t kMostMarks = 2000;
 
-/// The places along the axis of its major units, or between its categories.
+/// Returns the places along an axis at its major units or between its categories, in points.
 std::vector<double> MajorPlaces(const AxisModel& axis, const AxisMap& map, xlsx::DateSystem dates) {
   std::vector<double> places;
   if (axis.IsOfValues()) {
@@ -32,8 +32,7 @@ std::vector<double> MajorPlaces(const AxisModel& axis, const AxisMap& map, xlsx:
   }
   const auto count = static_cast<long long>(axis.categories.size());
   const long long marks = axis.crossesBetween ? count + 1 : count;
-  // marks nearer to each other than this would be a band
-  constexpr double kNearest = 1.5;  // points
+  constexpr double kNearest = 1.5;  // points between marks; nearer marks would merge
   const double every = static_cast<double>(axis.tickSkip);
   const double multiple = std::ceil(kNearest / std::max(map.CategoryWidth() * every, 1e-9));
   const auto step = static_cast<long long>(std::min(every * std::max(multiple, 1.0), 1e9));
@@ -85,20 +84,20 @@ void DrawMarks(Canvas& canvas, Role role, const AxisModel& axis, const std::vect
   }
 }
 
-/// The centre of a label on the outer side of its axis.
+/// Returns the centre of a label on the outer side of its axis.
 Point CenterOf(const AxisModel& axis, const TickLabels& labels, const TextBlock& block, double along,
                const AxisPlace& place) {
   const bool back = place.labelSide == Side::kLeft || place.labelSide == Side::kTop;
   const double outwards = back ? -1 : 1;
   const double width = block.TurnedWidth(), height = block.TurnedHeight();
   if (axis.IsUpright()) {
-    // labels of several widths share the edge that faces the axis
+    // Labels are aligned at the edge that faces the axis.
     return {place.labelsAt + outwards * (xlsx::kLabelGap + width / 2), along};
   }
   const double y = place.labelsAt + outwards * (xlsx::kLabelGap + height / 2);
   const double sine = std::sin(labels.rotation * std::numbers::pi / 180);
   if (std::abs(sine) < 0.05 || std::abs(sine) > 0.99) return {along, y};
-  // a slanted label has its end, or its beginning, at the tick
+  // A slanted label ends or begins at its tick.
   const bool endsHere = (sine < 0) == (place.labelSide == Side::kBottom);
   const double cosine = std::cos(labels.rotation * std::numbers::pi / 180);
   const double reach = (block.width * std::abs(cosine)) / 2;

@@ -6,9 +6,11 @@
 
 namespace plotsmith::render {
 
+/// Draws the gridlines of an axis over the plot area `plot`.
 void DrawGridlines(Canvas& canvas, const ChartModel& chart, const AxisModel& axis, const Rect& plot);
-/// The line of an axis with its tick marks.
+/// Draws the line of an axis with its tick marks.
 void DrawAxisLine(Canvas& canvas, const ChartModel& chart, const AxisModel& axis, const Rect& plot);
+/// Draws the labels of an axis, as they were laid out, beside the plot area `plot`.
 void DrawTickLabels(Canvas& canvas, const ChartModel& chart, const AxisModel& axis, const TickLabels& labels,
                     const Rect& plot);
 

@@ -8,28 +8,32 @@
 
 namespace plotsmith::render {
 
-/// Where the values or the categories of an axis lie along it. Places are points on the drawing: x of a flat
-/// axis, y of an upright one. An axis that isn't reversed goes from `low` to `high`.
+/// Converts values and categories to places along an axis. A place is a coordinate on the drawing, in points:
+/// x on a horizontal axis, y on a vertical one. The axis must outlive the map.
 class AxisMap {
  public:
+  /// Makes the map of an axis between two places. An axis that isn't reversed goes from `low` to `high`.
   AxisMap(const AxisModel& axis, double low, double high);
-  /// Along the side of a plot area that the axis has.
+  /// Makes the map of an axis along its side of a plot area.
   static AxisMap Along(const AxisModel& axis, const Rect& plot);
 
-  /// The place of a value, which may lie outside of the axis, but not farther than painters can count.
+  /// Returns the place of a value. It may be outside of the axis, but not so far that painters lose digits.
   double OfValue(double value) const;
-  /// The middle of a category, from 0; on the axis of values' crossings where those are on categories.
+  /// Returns the middle of a category, which counts from 0. If the axis of values crosses on categories, the
+  /// first and the last category are at the ends of the axis.
   double OfCategory(double index) const;
-  /// The same of a place between categories, or of a date on an axis of dates, counted in slots from the
-  /// first.
+  /// Returns the place of a slot, which counts from 0: a category, or a day, month or year of an axis of
+  /// dates. The slot may be a fraction.
   double OfSlot(double index) const;
-  /// The place of an X value: on an axis of categories they are counted from 1.
+  /// Returns the place of an X value. On an axis of categories, it is the number of a category from 1.
   double OfX(double x) const;
-  /// From one category to the next; never negative.
+  /// Returns the distance from one slot to the next, in points. It is never negative.
   double CategoryWidth() const;
-  /// The place where stacks begin: zero, or the limit that is nearest to it.
+  /// Returns the place of zero, or of the end of the scale that is nearest to zero.
   double Base() const;
+  /// The place where the axis begins.
   double Low() const { return low_; }
+  /// The place where the axis ends.
   double High() const { return high_; }
 
  private:
@@ -40,13 +44,15 @@ class AxisMap {
   double slots_;  ///< categories, or days, months or years
 };
 
+/// A major unit of an axis of values.
 struct Tick {
   double value = 0;
   std::string label;
 };
-/// Where an axis of values has its major units, with their labels; a thousand at most.
+/// Returns the major units of an axis of values with their labels. If there are more than a thousand, some
+/// are left out.
 std::vector<Tick> MajorTicks(const AxisModel& axis, xlsx::DateSystem dates);
-/// Between them.
+/// Returns the minor units between the major ones. Returns none if there are a thousand or more.
 std::vector<double> MinorTicks(const AxisModel& axis);
 
 }  // namespace plotsmith::render

@@ -8,7 +8,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// The place on the crossed axis where this one crosses it.
+/// Returns the place on the crossed axis where `axis` crosses it.
 double CrossingOn(const AxisModel& crossed, const AxisModel& axis, const AxisMap& map) {
   if (crossed.IsOfValues()) return map.OfValue(CrossingValue(crossed, axis));
   if (axis.crosses == "max" && !axis.crossesAt) return map.High();
@@ -17,7 +17,7 @@ double CrossingOn(const AxisModel& crossed, const AxisModel& axis, const AxisMap
       crossed.dates ? crossed.dates->count : static_cast<double>(crossed.categories.size());
   const double count = std::max(categories, 1.0);
   const double number = std::clamp(axis.crossesAt.value_or(1), 1.0, count + (crossed.crossesBetween ? 1 : 0));
-  // between categories, an axis crosses in front of the one with the number
+  // If it crosses between categories, it crosses before the category with the number.
   return map.OfSlot(number - 1 - (crossed.crossesBetween ? 0.5 : 0));
 }
 
@@ -71,7 +71,7 @@ AxisPlace PlaceOf(const ChartModel& chart, const AxisModel& axis, const Rect& pl
   }
   const AxisMap map = AxisMap::Along(*crossed, plot);
   place.at = CrossingOn(*crossed, axis, map);
-  constexpr double kClose = 0.5;  // points: an axis this near to an edge lies on it
+  constexpr double kClose = 0.5;  // points; an axis that is nearer to an edge lies on it
   const bool far = std::abs(place.at - EdgeOf(plot, Opposite(usual))) < kClose;
   place.side = far ? Opposite(usual) : usual;
   place.labelSide = place.side;

@@ -4,20 +4,22 @@
 
 namespace plotsmith::render {
 
-/// Where an axis lies across itself: x of an upright axis, y of a flat one, and the sides that its labels and
-/// its outer tick marks point to.
+/// Where an axis is: x of a vertical axis, y of a horizontal one, and the sides of its labels and outer tick
+/// marks.
 struct AxisPlace {
-  double at = 0;            ///< of the line
-  Side side = Side::kLeft;  ///< of the line that the labels and the outer marks are on
-  double labelsAt = 0;      ///< where the labels begin, without the gap
-  Side labelSide = Side::kLeft;
+  double at = 0;                 ///< place of the line, in points
+  Side side = Side::kLeft;       ///< side of the line on which the outer marks are
+  double labelsAt = 0;           ///< place where the gap before the labels begins, in points
+  Side labelSide = Side::kLeft;  ///< side of that place on which the labels are
 };
 
-/// The value at which a category axis crosses an axis of values.
+/// Returns the value at which a category axis crosses an axis of values. It is on the scale.
 double CrossingValue(const AxisModel& values, const AxisModel& category);
+/// Returns where an axis is at the plot area `plot`.
 AxisPlace PlaceOf(const ChartModel& chart, const AxisModel& axis, const Rect& plot);
-/// The edge of a rectangle on a side.
+/// Returns the coordinate of a side of a rectangle.
 double EdgeOf(const Rect& rect, Side side);
+/// Returns the opposite side.
 Side Opposite(Side side);
 
 }  // namespace plotsmith::render

@@ -8,7 +8,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// A piece of the axis.
+/// A part of an axis, in points.
 struct Span {
   double from = 0, to = 0;
 
@@ -16,7 +16,8 @@ struct Span {
   double Middle() const { return (from + to) / 2; }
 };
 
-/// The categories from one to before another, with half of the way to their neighbours.
+/// Returns the part of an axis from category `first` up to but not including `end`. It extends half of the
+/// way to the neighbouring categories.
 Span SpanOf(const AxisModel& axis, const AxisMap& map, std::size_t first, std::size_t end) {
   const auto edge = [&](std::size_t index) {
     const double place = map.OfSlot(static_cast<double>(index) - 0.5);
@@ -68,7 +69,7 @@ void DrawOuterLevels(Canvas& canvas, const AxisModel& axis, const TickLabels& la
       const Span span = SpanOf(axis, map, group.first, group.end);
       const Point center = axis.IsUpright() ? Point{middle, span.Middle()} : Point{span.Middle(), middle};
       DrawBlock(canvas, {Role::kTickLabel, axis.number, static_cast<int>(group.first + 1)}, block, center);
-      // where the axis ends on a category, a line would go through its label
+      // If the axis begins on a category, a line would cross its label.
       if (axis.crossesBetween || group.first > 0) AddLine(canvas, axis, span.from, place.labelsAt, end);
     }
     if (level.groups.empty() || !axis.crossesBetween) continue;

@@ -9,28 +9,20 @@
 namespace plotsmith::render {
 namespace {
 
-using std::chrono::day;
 using std::chrono::days;
-using std::chrono::month;
 using std::chrono::sys_days;
-using std::chrono::year;
 using std::chrono::year_month_day;
 
 constexpr std::size_t kMostTicks = 400;
-constexpr double kUsualTicks = 32;  // that an axis has at most where nothing is set
+constexpr double kUsualTicks = 32;  // most ticks of an axis without a unit
 
-long long DayOf(double serial, xlsx::DateSystem dates) {
-  const double shifted = serial + xlsx::SerialOffset(dates) - xlsx::kSerialOf1970;
-  return static_cast<long long>(std::floor(shifted));
-}
-
-/// From label to label, in a unit of time.
+/// The distance between two labels.
 struct Step {
   double count = 1;
   TimeUnit unit = TimeUnit::kDays;
 };
 
-/// Rough lengths, to choose a step by.
+/// Returns the approximate length of a step in slots.
 double SlotsIn(const Step& step, TimeUnit base) {
   constexpr double kDaysIn[] = {1, 30.5, 365.25};
   return step.count * kDaysIn[static_cast<int>(step.unit)] / kDaysIn[static_cast<int>(base)];
@@ -59,7 +51,8 @@ Step StepOf(const DateSlots& slots) {
   return kSteps.back();
 }
 
-/// The slot of the tick number `index`: counted in months, the day of the month stays as it was.
+/// Returns the slot of a tick, which counts from 0. Steps of months and years keep the day of the month if
+/// they can.
 long long TickSlot(const DateSlots& slots, const Step& step, long long index) {
   const auto count = static_cast<long long>(step.count) * index;
   if (slots.base == TimeUnit::kYears) return slots.first + count;
@@ -72,25 +65,6 @@ long long TickSlot(const DateSlots& slots, const Step& step, long long index) {
 }
 
 }  // namespace
-
-long long SlotOf(double serial, TimeUnit base, xlsx::DateSystem dates) {
-  const long long number = DayOf(serial, dates);
-  if (base == TimeUnit::kDays) return number;
-  const year_month_day date{sys_days(days(number))};
-  const long long years = static_cast<int>(date.year());
-  return base == TimeUnit::kYears ? years : years * 12 + static_cast<unsigned>(date.month()) - 1;
-}
-
-double SerialOf(long long slot, TimeUnit base, xlsx::DateSystem dates) {
-  long long number = slot;
-  if (base != TimeUnit::kDays) {
-    const long long months = base == TimeUnit::kYears ? slot * 12 : slot;
-    const year_month_day date{year(static_cast<int>(months / 12)),
-                              month(static_cast<unsigned>(months % 12 + 1)), day(1)};
-    number = sys_days(date).time_since_epoch().count();
-  }
-  return static_cast<double>(number + xlsx::kSerialOf1970 - xlsx::SerialOffset(dates));
-}
 
 std::vector<std::size_t> OrderAlong(const AxisModel& axis, std::size_t count) {
   std::vector<std::size_t> order(count);

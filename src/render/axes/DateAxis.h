@@ -7,21 +7,17 @@
 
 namespace plotsmith::render {
 
+/// A major unit of an axis of dates.
 struct DateTick {
-  double slot = 0;
+  double slot = 0;  ///< from 0
   std::string label;
 };
 
-/// Where an axis of dates has its major units, with their labels.
+/// Returns the major units of an axis of dates with their labels. `axis.dates` must be set.
 std::vector<DateTick> DateTicks(const AxisModel& axis, xlsx::DateSystem dates);
 
-/// The points of a group, from 0, as they follow each other along its axis: by their dates on an axis of
-/// dates, else as they come.
+/// Returns the numbers of `count` points, from 0, in their order along an axis: sorted by their dates on an
+/// axis of dates, otherwise unchanged.
 std::vector<std::size_t> OrderAlong(const AxisModel& axis, std::size_t count);
-
-/// The slot of a day: days from 1970, months or years from year 0. `serial` is Excel's number of the day.
-long long SlotOf(double serial, TimeUnit base, xlsx::DateSystem dates);
-/// Excel's number of the first day of a slot.
-double SerialOf(long long slot, TimeUnit base, xlsx::DateSystem dates);
 
 }  // namespace plotsmith::render

@@ -7,18 +7,18 @@
 
 #include "render/axes/CategoryLevels.h"
 #include "render/axes/DateAxis.h"
-#include "render/model/ChartReader.h"
+#include "render/model/AxisScaling.h"
 
 namespace plotsmith::render {
 namespace {
 
 constexpr double kRadian = std::numbers::pi / 180;
-constexpr double kGapEms = 0.3;        // that flat neighbours keep between them
-constexpr double kLineSpacing = 1.15;  // of a line's height, from one turned or stacked label to the next
-constexpr double kUnitSpacing = 1.25;  // the same along an upright axis of values
+constexpr double kGapEms = 0.3;        // between horizontal neighbours
+constexpr double kLineSpacing = 1.15;  // distance of turned or wrapped labels in line heights
+constexpr double kUnitSpacing = 1.25;  // distance of labels along a vertical axis of values in line heights
 constexpr double kSlanted = -45, kUpwards = -90;
-constexpr double kShortEms = 2.6;            // labels up to this width are rather skipped than turned
-constexpr std::size_t kMostMeasured = 2000;  // labels whose width decides
+constexpr double kShortEms = 2.6;            // Labels up to this width are skipped before they are turned.
+constexpr std::size_t kMostMeasured = 2000;  // labels of which the widths are measured
 
 struct Sizes {
   double widest = 0, widestWord = 0, lineHeight = 0;
@@ -37,14 +37,15 @@ Sizes Measure(const std::vector<std::string>& texts, const TextStyle& style, con
   return sizes;
 }
 
-/// How labels are set: turned, wrapped at a width, and only each so many.
+/// How labels are set: their rotation in degrees, the width at which they wrap, and every how many have a
+/// label.
 struct Setting {
   double rotation = 0;
   double wrap = kUnlimited;
   double skip = 1;
 };
 
-/// What turned labels need along the axis, from one to the next.
+/// Returns the distance that turned labels need along the axis.
 double NeededAlong(const Sizes& sizes, double rotation, double emGap) {
   const double sine = std::abs(std::sin(rotation * kRadian));
   if (sine < 0.05) return sizes.widest + emGap;
@@ -56,7 +57,7 @@ double SkipFor(double needed, double slot) {
   return std::max(std::ceil(needed / std::max(slot, 1e-6) - 1e-9), 1.0);
 }
 
-/// As many times the skip that a file gives as keeps labels off each other.
+/// Returns the smallest multiple of the skip in the file with which labels don't touch.
 double MultipleFor(double given, double needed, double slot) {
   given = std::max(given, 1.0);
   return given * SkipFor(needed, slot * given);
@@ -87,7 +88,7 @@ Setting SettingForFlat(const AxisModel& axis, const Sizes& sizes, double slot, d
   return {kUpwards, kUnlimited, MultipleFor(given, sizes.lineHeight * kLineSpacing, slot)};
 }
 
-/// The height of the highest label whose lines break at a width.
+/// Returns the height of the highest label if lines break at a width.
 double TallestWrapped(const std::vector<std::string>& texts, const TextStyle& style, double wrap,
                       const TextMeasure& measure) {
   double tallest = 0;
@@ -136,7 +137,7 @@ void Shorten(TextBlock& block, double most, const TextMeasure& measure) {
 
 namespace {
 
-/// The texts along an axis with their places: values, or slots from 0.
+/// The texts along an axis with their places, which are values, or slots from 0.
 struct AxisTexts {
   std::vector<std::string> texts;
   std::vector<double> places;
@@ -161,7 +162,8 @@ AxisTexts TextsAlong(const AxisModel& axis, xlsx::DateSystem dates) {
   return along;
 }
 
-/// The way from one text to the next, the shortest where they differ, as months do.
+/// Returns the shortest distance from one text to the next, in points. Distances differ if slots are days and
+/// steps are months.
 double NarrowestSlot(const AxisModel& axis, const std::vector<double>& places, double length) {
   const double count = static_cast<double>(places.size());
   const bool onTicks = axis.IsOfValues() || !axis.crossesBetween;

@@ -3,49 +3,54 @@
 #include <vector>
 
 #include "render/axes/AxisMap.h"
-#include "render/layout/TextBlock.h"
 #include "render/model/ChartModel.h"
+#include "render/text/TextBlock.h"
 
 namespace plotsmith::render {
 
+/// The label of a tick or category.
 struct TickLabel {
-  int number = 1;    ///< of the tick or of the category, from 1
-  double place = 0;  ///< the value, or the slot of the category or date from 0
-  bool category = false;
+  int number = 1;         ///< of the tick or of the category, from 1
+  double place = 0;       ///< the value, or the slot of the category or date from 0
+  bool category = false;  ///< `place` is a slot
   TextBlock block;
 };
 
-/// The texts of an outer level of categories.
+/// The texts of an outer level of categories, laid out.
 struct LevelLabels {
   struct Group {
     CategoryGroup group;
     TextBlock block;
   };
   std::vector<Group> groups;
-  double from = 0;   ///< from the gap to the axis to the level
-  double depth = 0;  ///< that it takes across the axis
+  double from = 0;   ///< distance of the level from the gap beside the axis, in points
+  double depth = 0;  ///< its extent across the axis, in points
 };
 
-/// The labels along an axis, skipped, wrapped or turned so that none touches its neighbour.
+/// The labels along an axis. Some are left out, or all are wrapped or turned, so that none touches its
+/// neighbour.
 struct TickLabels {
   std::vector<TickLabel> labels;
   double rotation = 0;   ///< degrees clockwise
-  double depth = 0;      ///< the room that they take across the axis, without the gap to it
-  double halfWidth = 0;  ///< what the widest takes along the axis to either side of its tick
+  double depth = 0;      ///< their extent across the axis without the gap, in points
+  double halfWidth = 0;  ///< half of the largest extent along the axis, in points
 
-  std::vector<LevelLabels> levels;  ///< beyond the labels of the categories
+  std::vector<LevelLabels> levels;  ///< outside of the labels of the categories
 
+  /// Returns whether the axis has no labels.
   bool IsEmpty() const { return labels.empty(); }
 };
 
-/// Lays out the labels of an axis of a length in points. `depth` is the room across it that they may take.
+/// Lays out the labels of an axis. `length` is the length of the axis, and `depth` the room for the labels
+/// across it, both in points.
 TickLabels LayOutTickLabels(const AxisModel& axis, double length, double depth, xlsx::DateSystem dates,
                             const TextMeasure& measure);
 
-/// Ends a label of one line in dots if it is wider than the room for it; without room for those it is empty.
+/// Shortens a label of one line to `most` points. It then ends in dots, or is empty if these don't fit.
 void Shorten(TextBlock& block, double most, const TextMeasure& measure);
 
-/// Takes larger major units for an axis without a unit set by hand, until its labels have room along it.
+/// Increases the major unit of an axis of values until its labels fit along `length` points. A unit that a
+/// person set isn't changed.
 void FitMajorUnit(AxisModel& axis, double length, xlsx::DateSystem dates, const TextMeasure& measure);
 
 }  // namespace plotsmith::render

@@ -14,7 +14,7 @@ struct DestroySurface {
   void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
 };
 
-/// Takes the next bytes from the front of a view.
+/// Copies the next bytes from the front of a std::string_view and removes them from it.
 cairo_status_t Take(void* rest, unsigned char* data, unsigned length) {
   auto& bytes = *static_cast<std::string_view*>(rest);
   if (bytes.size() < length) return CAIRO_STATUS_READ_ERROR;

@@ -6,7 +6,7 @@ typedef struct _cairo cairo_t;
 
 namespace plotsmith::render {
 
-/// Paints a PNG picture into its rectangle; one that can't be read is left out.
+/// Paints a PNG picture into its rectangle. A picture that can't be read is left out.
 void PaintImage(cairo_t* cr, const ImageItem& image);
 
 }  // namespace plotsmith::render

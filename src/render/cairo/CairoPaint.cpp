@@ -48,7 +48,7 @@ void SetGradient(cairo_t* cr, const GradientFill& gradient, const Rect& bounds) 
   cairo_set_source(cr, pattern.get());
 }
 
-/// As Cairo keeps it: the channels multiplied by the alpha.
+/// Returns a pixel as Cairo stores it: 0xAARRGGBB with the channels multiplied by the opacity.
 std::uint32_t PixelOf(const Color& color) {
   const auto byte = [&](double channel) {
     return static_cast<std::uint32_t>(std::lround(channel * color.alpha));
@@ -75,8 +75,8 @@ void SetPattern(cairo_t* cr, const PatternFill& fill, const PatternTile& tile) {
   cairo_matrix_t matrix;
   cairo_matrix_init_scale(&matrix, 1 / kPatternPixel, 1 / kPatternPixel);
   cairo_pattern_set_matrix(pattern.get(), &matrix);
-  // pixels stay sharp where they are whole numbers of the picture's own; elsewhere they would come out of
-  // different sizes
+  // If a pattern's pixel is a whole number of the picture's pixels, it stays sharp. Otherwise its pixels
+  // would have different sizes, and are smoothed.
   double scale = kPatternPixel, unused = 0;
   cairo_user_to_device_distance(cr, &scale, &unused);
   const bool whole = std::abs(scale - std::round(scale)) < 0.01 && scale > 0.5;

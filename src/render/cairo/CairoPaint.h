@@ -6,7 +6,7 @@ typedef struct _cairo cairo_t;
 
 namespace plotsmith::render {
 
-/// Makes a filling the source of what is painted next. `bounds` is what it fills. False for no filling.
+/// Sets a filling of `bounds` as the source of the next painting. Returns false if there is no filling.
 bool SetSource(cairo_t* cr, const Fill& fill, const Rect& bounds);
 
 }  // namespace plotsmith::render

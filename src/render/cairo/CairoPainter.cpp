@@ -65,8 +65,8 @@ void SetStroke(cairo_t* cr, const Stroke& stroke) {
                                                             : CAIRO_LINE_JOIN_MITER);
 }
 
-/// A long line is stroked in pieces: Cairo looks for crossings in all of a line at once, which takes minutes
-/// for thousands of corners. Pieces share a step, so that no corner shows where they meet.
+/// A long line is stroked in pieces, because Cairo searches all of a line for crossings at once, which takes
+/// minutes for thousands of corners. Neighbouring pieces share a step, so that their joint isn't visible.
 void StrokeInPieces(cairo_t* cr, const Path& path) {
   constexpr std::size_t kPiece = 12;
   const auto& steps = path.Steps();
@@ -86,7 +86,8 @@ void StrokeInPieces(cairo_t* cr, const Path& path) {
   cairo_stroke(cr);
 }
 
-/// Whether pieces of the line look like the whole: straight steps in an opaque colour without dashes.
+/// Returns whether a line looks the same if it is stroked in pieces. It does if it has straight steps, an
+/// opaque colour and no dashes.
 bool MayBeStrokedInPieces(const PathItem& item) {
   constexpr std::size_t kLong = 200;
   const auto& steps = item.path.Steps();
@@ -98,7 +99,7 @@ bool MayBeStrokedInPieces(const PathItem& item) {
 
 class ItemPainter {
  public:
-  /// With `pixels`, upright lines and edges are brought onto the pixels of a picture.
+  /// If `pixels` isn't null, vertical and horizontal lines and edges are moved onto the pixels of a picture.
   ItemPainter(cairo_t* cr, const Fonts& fonts, std::optional<PixelScale> pixels)
       : cr_(cr), fonts_(fonts), pixels_(pixels) {}
   ~ItemPainter() {
@@ -110,7 +111,7 @@ class ItemPainter {
   void Draw(const Item& item) {
     const auto* path = std::get_if<PathItem>(&item.content);
     const auto* clip = std::get_if<PushClip>(&item.content);
-    // markers keep their shape and their place on the line
+    // Markers keep their shape and their place on the line.
     if (pixels_ && path != nullptr && item.tag.role != Role::kMarker && IsUpright(path->path)) {
       DrawOnPixels(*path);
     } else if (pixels_ && clip != nullptr && IsUpright(clip->path)) {
@@ -162,7 +163,7 @@ class ItemPainter {
     PathItem snapped{OnPixels(item.path, *pixels_, item.stroke.width), item.fill, item.stroke};
     const Rect box = snapped.path.Bounds();
     const bool isLost = !(item.stroke.width > 0) && !(box.width > 0 && box.height > 0);
-    if (isLost) return (*this)(item);  // thinner than a pixel
+    if (isLost) return (*this)(item);  // It is thinner than a pixel.
     if (item.stroke.width > 0) snapped.stroke.width = WidthOnPixels(item.stroke.width, *pixels_);
     (*this)(snapped);
   }
@@ -192,7 +193,7 @@ void Paint(cairo_t* cr, const Drawing& drawing, const Fonts& fonts) {
 
 namespace {
 
-/// The drawing on a white ground.
+/// Paints a drawing on a white background.
 Surface PaintImage(const Drawing& drawing, const Fonts& fonts, double dpi) {
   constexpr double kMostPixels = 1e8;
   const double scale = dpi / 72;
@@ -213,7 +214,7 @@ Surface PaintImage(const Drawing& drawing, const Fonts& fonts, double dpi) {
   return surface;
 }
 
-/// The pixels of an image that was painted.
+/// Returns the pixels of a painted image.
 Pixels PixelsOf(cairo_surface_t* image) {
   return {reinterpret_cast<const std::uint32_t*>(cairo_image_surface_get_data(image)),
           static_cast<std::size_t>(cairo_image_surface_get_width(image)),
@@ -246,7 +247,7 @@ class CairoPdf final : public PdfDocument {
  public:
   explicit CairoPdf(const Fonts& fonts)
       : fonts_(fonts), surface_(cairo_pdf_surface_create_for_stream(Append, &bytes_, 1, 1)) {
-    // a moment that never changes, so that the same drawings give the same bytes
+    // The date is fixed, so that the same drawings have the same bytes.
     cairo_pdf_surface_set_metadata(surface_.get(), CAIRO_PDF_METADATA_CREATE_DATE, "2000-01-01T00:00:00Z");
   }
 
@@ -268,7 +269,7 @@ class CairoPdf final : public PdfDocument {
 
  private:
   const Fonts& fonts_;
-  std::string bytes_;  // the surface writes to it to its end
+  std::string bytes_;  // The surface writes to it until it is destroyed.
   const Surface surface_;
   bool hasPages_ = false;
 };

@@ -13,17 +13,17 @@ typedef struct _cairo cairo_t;
 
 namespace plotsmith::render {
 
-/// Paints a drawing; a unit of the context is a point.
+/// Paints a drawing. A unit of the context must be a point.
 void Paint(cairo_t* cr, const Drawing& drawing, const Fonts& fonts);
 
-/// The bytes of a PNG picture on a white ground, the same on every run. A picture of more than a hundred
-/// million pixels, or of none, is a std::length_error.
+/// Returns the bytes of a PNG picture on a white background, which are the same on every run. Throws
+/// std::length_error if the picture would have no pixel or more than a hundred million.
 std::string MakePng(const Drawing& drawing, const Fonts& fonts, double dpi = 96);
-/// The same picture as pixels.
+/// Returns the pixels of the same picture, with the same errors.
 Raster MakeRaster(const Drawing& drawing, const Fonts& fonts, double dpi = 96);
-/// A document without a page. The fonts have to outlive it.
+/// Begins a PDF document without a page. The fonts must outlive it.
 std::unique_ptr<PdfDocument> NewPdf(const Fonts& fonts);
-/// The bytes of a PDF document with a page for each drawing, the same on every run.
+/// Returns the bytes of a PDF document with a page for each drawing, which are the same on every run.
 std::string MakePdf(std::span<const Drawing> pages, const Fonts& fonts);
 
 }  // namespace plotsmith::render

@@ -16,11 +16,11 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kPointsPerInch = 72;  // a unit of the picture is a point
+constexpr double kPointsPerInch = 72;  // A unit of the picture is a point.
 constexpr std::size_t kMostTexts = 8000;
-constexpr std::size_t kLongestText = 4096;  // bytes that are laid out; more doesn't fit on any chart
+constexpr std::size_t kLongestText = 4096;  // bytes that are laid out; longer texts don't fit on any chart
 
-/// Whether a font has what the pattern says.
+/// Returns whether a font matches all of a pattern.
 bool IsAnyLike(FcPattern* wanted) {
   FcObjectSet* nothing = FcObjectSetBuild(FC_FAMILY, nullptr);
   FcFontSet* fonts = FcFontList(nullptr, wanted, nothing);
@@ -45,20 +45,20 @@ struct FontHash {
     return std::hash<std::string>()(font.family) ^ (std::hash<double>()(font.size) * 8 + look);
   }
 };
-/// Finds a text by a view of it, so that a text that is known isn't copied.
+/// Hashes texts, so that a known text can be found without a copy of it.
 struct TextHash {
   using is_transparent = void;
   std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
 };
 
-/// Whether a text is laid out as it is: letters, digits and signs of ASCII, and blanks.
+/// Returns whether a text has only printable ASCII characters, and so is laid out unchanged.
 bool IsPlain(std::string_view text) {
   return text.size() <= kLongestText && std::all_of(text.begin(), text.end(), [](char byte) {
            return byte >= 0x20 && static_cast<unsigned char>(byte) < 0x80;
          });
 }
 
-/// The part of a text that is laid out. Bytes that are no UTF-8 are replaced.
+/// Returns the part of a text that is laid out. Bytes that aren't UTF-8 are replaced.
 std::string Presentable(std::string_view text) {
   char* valid = g_utf8_make_valid(text.data(), static_cast<gssize>(std::min(text.size(), kLongestText)));
   std::string result(valid);
@@ -71,7 +71,7 @@ std::string Presentable(std::string_view text) {
 
 }  // namespace
 
-/// A text that was laid out in a font, and its width in points.
+/// A text, laid out in a font, with its width in points.
 struct LaidOut {
   Layout layout;
   double width = 0;
@@ -105,8 +105,8 @@ struct Fonts::State {
     return layout;
   }
 
-  /// Ascent and descent as Windows has them: what a font says for clipping, and the gap between its lines as
-  /// far as that isn't in it already.
+  /// Reads ascent and descent as Windows defines them: the clipping heights of the font, and the part of its
+  /// line gap that they don't contain.
   void MeasureHeight(FontEntry& entry, double size) const {
     const std::unique_ptr<PangoFont, Release> found(
         pango_font_map_load_font(map.get(), context.get(), entry.description.get()));
@@ -124,7 +124,7 @@ struct Fonts::State {
                         ems(HB_OT_METRICS_TAG_HORIZONTAL_DESCENDER) +
                         ems(HB_OT_METRICS_TAG_HORIZONTAL_LINE_GAP);
     if (!(entry.ascent + entry.descent > 0))
-      entry = {std::move(entry.description), 0.9, 0.25, {}};  // no OpenType
+      entry = {std::move(entry.description), 0.9, 0.25, {}};  // The font isn't OpenType.
     entry.descent = std::max(entry.descent, line - entry.ascent);
     entry.ascent *= size;
     entry.descent *= size;

@@ -9,10 +9,10 @@ typedef struct _cairo cairo_t;
 
 namespace plotsmith::render {
 
-/// The fonts of this machine, through Pango and Cairo. A font that isn't installed has its named substitute.
-/// Hinting and the rounding of widths are off, so that results depend on the font files alone. What was
-/// looked up and laid out once is kept. Several threads may use one object; a text is measured or drawn for
-/// one of them at a time.
+/// Measures and draws texts with the installed fonts, over Pango and Cairo. A font that isn't installed is
+/// replaced by its substitute. Hinting and the rounding of widths are off, so that results depend on the font
+/// files alone. Fonts and texts are cached. Several threads may use one
+/// object. A text is measured or drawn for one of them at a time.
 class Fonts final : public TextMeasure {
  public:
   Fonts();
@@ -21,11 +21,11 @@ class Fonts final : public TextMeasure {
   Fonts& operator=(const Fonts&) = delete;
 
   TextExtent Measure(std::string_view line, const Font& font) const override;
-  /// Draws the text with the current source; its baseline begins at the current origin.
+  /// Draws a line of text with the current source. Its baseline begins at the current origin.
   void Show(cairo_t* cr, std::string_view line, const Font& font) const;
-  /// Whether the family is installed; case aside.
+  /// Returns whether a family is installed. Upper and lower case are the same.
   static bool IsInstalled(std::string_view family);
-  /// Whether any font is installed.
+  /// Returns whether any font is installed.
   static bool IsAnyInstalled();
 
  private:

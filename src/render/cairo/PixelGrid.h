@@ -4,18 +4,18 @@
 
 namespace plotsmith::render {
 
-/// How many pixels of a picture a point takes, across and down.
+/// The numbers of pixels in a point, horizontally and vertically.
 struct PixelScale {
   double x = 1, y = 1;
 };
 
-/// Whether all of an outline runs across or down.
+/// Returns whether all steps of an outline are horizontal or vertical.
 bool IsUpright(const Path& path);
-/// The outline with its corners on the edges of pixels; or in their middle if it is drawn with a line of an
-/// odd number of pixels. Then lines and edges aren't blurred, and pieces that touch have no seam between
+/// Returns the outline with its corners moved to the edges of pixels, or to their middles if its line is an
+/// odd number of pixels wide. Lines and edges then aren't blurred, and shapes that touch have no seam between
 /// them.
 Path OnPixels(const Path& path, const PixelScale& scale, double strokeWidth);
-/// A width in points that is a whole number of pixels, and at least one.
+/// Returns the width in points that is nearest to a whole number of pixels, and at least one pixel.
 double WidthOnPixels(double width, const PixelScale& scale);
 
 }  // namespace plotsmith::render

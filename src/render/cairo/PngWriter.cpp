@@ -13,7 +13,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// ISA-L's. The next level takes six times as long, for pictures of charts that aren't smaller.
+/// The level of ISA-L. The next level takes six times as long, and pictures of charts don't become smaller.
 constexpr std::uint32_t kCompression = 2;
 constexpr std::size_t kCompressionBuffer = ISAL_DEF_LVL2_DEFAULT;
 
@@ -30,10 +30,10 @@ void AppendChunk(std::string& out, const char* type, const std::string& data) {
   AppendBigEndian(out, crc32_gzip_refl(0, bytes, out.size() - from));
 }
 
-/// The colours of a picture and the index of each in the palette, as far as there are 256.
+/// Up to 256 colours of a picture with their indices.
 class Palette {
  public:
-  /// Nothing for the 257th colour.
+  /// Returns the index of a colour and adds new colours. Returns nothing for the 257th colour.
   std::optional<std::uint8_t> IndexOf(std::uint32_t color) {
     std::size_t slot = (color * 2654435761u) >> 22;
     while (slots_[slot] >= 0) {
@@ -60,11 +60,12 @@ class Palette {
   std::vector<std::uint32_t> colors_;
 };
 
-/// Rows of palette indices, each behind a filter byte of 0; nothing if there are too many colours.
+/// Returns rows of palette indices, each after a filter byte of 0. Returns nothing if there are too many
+/// colours.
 std::optional<std::string> IndexedRows(const Pixels& pixels, Palette& palette) {
   std::string rows((pixels.width + 1) * pixels.height, '\0');
   char* out = rows.data();
-  std::uint32_t last = 0xFF000000;  // no colour
+  std::uint32_t last = 0xFF000000;  // isn't a colour
   char index = 0;
   for (std::size_t y = 0; y < pixels.height; ++y) {
     const std::uint32_t* row = pixels.data + y * pixels.stride;
@@ -83,7 +84,7 @@ std::optional<std::string> IndexedRows(const Pixels& pixels, Palette& palette) {
   return rows;
 }
 
-/// Rows of colours, each behind a filter byte of 2: as the difference to the row above.
+/// Returns rows of colours, each after a filter byte of 2, which means differences from the row above.
 std::string ColorRows(const Pixels& pixels) {
   const std::size_t length = 3 * pixels.width + 1;
   std::string rows(length * pixels.height, '\0');
@@ -93,7 +94,7 @@ std::string ColorRows(const Pixels& pixels) {
     const std::uint32_t* row = pixels.data + y * pixels.stride;
     char* out = rows.data() + y * length;
     *out++ = 2;
-    // most rows of a chart are as the one above, and there is no difference to write
+    // Most rows of a chart equal the row above, so the differences stay 0.
     if (std::memcmp(row, above, pixels.width * sizeof(*row)) != 0) {
       for (std::size_t x = 0; x < pixels.width; ++x) {
         for (const int shift : {16, 8, 0})
@@ -105,9 +106,9 @@ std::string ColorRows(const Pixels& pixels) {
   return rows;
 }
 
-/// The bytes in the zlib format.
+/// Returns the bytes compressed in the zlib format.
 std::string Deflated(std::string& rows) {
-  // a block of stored bytes has a head of 5, and the format 6 around all
+  // A block of stored bytes has a header of 5 bytes, and the format adds 6 bytes.
   constexpr std::size_t kStored = 32 * 1024, kAround = 64;
   std::string bytes(rows.size() + (rows.size() / kStored + 1) * 5 + kAround, '\0');
   std::vector<std::uint8_t> buffer(kCompressionBuffer);

@@ -6,13 +6,14 @@
 
 namespace plotsmith::render {
 
-/// Pixels of 32 bits, 0x00RRGGBB, row by row; `stride` counts pixels.
+/// Pixels as 0x00RRGGBB, row by row from the top. `stride` is the distance of rows, in pixels.
 struct Pixels {
   const std::uint32_t* data = nullptr;
   std::size_t width = 0, height = 0, stride = 0;
 };
 
-/// The bytes of a PNG picture, with a palette if 256 colours are enough. `dpi` is what it says of its size.
+/// Returns the bytes of a PNG picture. It has a palette if 256 colours are enough. `dpi` is the resolution
+/// that the file states.
 std::string EncodePng(const Pixels& pixels, double dpi);
 
 }  // namespace plotsmith::render

@@ -2,61 +2,97 @@
 #include <cmath>
 
 #include "render/axes/DateAxis.h"
-#include "render/families/Curves.h"
-#include "render/families/Plot.h"
+#include "render/families/Families.h"
+#include "render/plot/Curves.h"
 
 namespace plotsmith::render {
 namespace {
 
-/// From a point of an area down to what it is piled on.
+/// The upper and the lower border of an area, both from its first point to its last.
+struct AreaBorders {
+  std::vector<Point> upper, lower;
+};
+
+/// A line from a point of an area to the area below.
 struct DropLine {
   Tag tag;
   double x = 0, top = 0, bottom = 0;
 };
 
+/// Draws the areas of a group in the order of the series, and then their drop lines.
+class AreaPainter {
+ public:
+  /// Both axes must exist.
+  AreaPainter(Plot& plot, const GroupModel& group)
+      : plot_(plot),
+        group_(group),
+        categoryAxis_(*plot.CategoryAxisOf(group)),
+        categories_(AxisMap::Along(categoryAxis_, plot.area)),
+        values_(AxisMap::Along(*plot.ValueAxisOf(group), plot.area)),
+        extents_(StackValues(group)),
+        base_(plot.BaseOf(group)),
+        pile_(group.PointCount()) {}
+
+  void Draw() {
+    plot_.canvas.PushClip(Path().AddRect(plot_.area));
+    for (std::size_t s = 0; s < group_.series.size(); ++s) {
+      if (const AreaBorders borders = PlacePoints(s); !borders.upper.empty()) {
+        DrawArea(group_.series[s], borders);
+      }
+    }
+    for (const DropLine& line : dropLines_) {
+      plot_.canvas.AddLine(line.tag, {line.x, line.top}, {line.x, line.bottom}, *group_.dropLines);
+    }
+    plot_.canvas.PopClip();
+  }
+
+ private:
+  /// Stacks a series, which counts from 0, and keeps its points for their labels and drop lines.
+  AreaBorders PlacePoints(std::size_t s) {
+    const SeriesModel& series = group_.series[s];
+    AreaBorders borders;
+    for (const std::size_t i : OrderAlong(categoryAxis_, series.values.size())) {
+      const bool present = std::isfinite(extents_.to[s][i]);
+      const double from = group_.IsStacked() ? pile_[i] : 0;
+      const double to = present ? extents_.to[s][i] : from;
+      if (group_.IsStacked()) pile_[i] = to;
+      const double x = categories_.OfCategory(static_cast<double>(i));
+      const double upper = values_.OfValue(to), lower = from == 0 ? base_ : values_.OfValue(from);
+      borders.upper.push_back({x, upper});
+      borders.lower.push_back({x, lower});
+      if (!present) continue;
+      const double top = std::min(upper, lower), bottom = std::max(upper, lower);
+      plot_.Keep({&group_, &series, i, {x, top, 0, bottom - top}, to < from});
+      if (group_.dropLines) {
+        dropLines_.push_back({{Role::kDropLine, series.number, static_cast<int>(i + 1)}, x, top, bottom});
+      }
+    }
+    return borders;
+  }
+
+  void DrawArea(const SeriesModel& series, const AreaBorders& borders) {
+    std::vector<Point> outline = Thinned(borders.upper);
+    const std::vector<Point> back = Thinned(borders.lower);
+    outline.insert(outline.end(), back.rbegin(), back.rend());
+    plot_.canvas.Add({Role::kArea, series.number}, Path().AddPolygon(outline), series.style.fill,
+                     series.style.stroke);
+  }
+
+  Plot& plot_;
+  const GroupModel& group_;
+  const AxisModel& categoryAxis_;
+  const AxisMap categories_, values_;
+  const Extents extents_;
+  const double base_;
+  std::vector<double> pile_;  ///< top of the stack at each point, in values
+  std::vector<DropLine> dropLines_;
+};
+
 }  // namespace
 
 void DrawAreas(Plot& plot, const GroupModel& group) {
-  const AxisModel* categoryAxis = plot.CategoryAxisOf(group);
-  const AxisModel* valueAxis = plot.ValueAxisOf(group);
-  if (categoryAxis == nullptr || valueAxis == nullptr) return;
-  const AxisMap categories = AxisMap::Along(*categoryAxis, plot.area);
-  const AxisMap values = AxisMap::Along(*valueAxis, plot.area);
-  const Extents extents = StackValues(group);
-  const double base = plot.BaseOf(group);
-  plot.canvas.PushClip(Path().AddRect(plot.area));
-  std::vector<DropLine> dropLines;
-  std::vector<double> pile(group.PointCount());  // a series without a value leaves the pile as it is
-  for (std::size_t s = 0; s < group.series.size(); ++s) {
-    const SeriesModel& series = group.series[s];
-    std::vector<Point> upper, lower;
-    for (const std::size_t i : OrderAlong(*categoryAxis, series.values.size())) {
-      const bool present = std::isfinite(extents.to[s][i]);
-      const double from = group.IsStacked() ? pile[i] : 0;
-      const double to = present ? extents.to[s][i] : from;
-      if (group.IsStacked()) pile[i] = to;
-      const double x = categories.OfCategory(static_cast<double>(i));
-      upper.push_back({x, values.OfValue(to)});
-      lower.push_back({x, from == 0 ? base : values.OfValue(from)});
-      if (!present) continue;
-      const double top = std::min(upper.back().y, lower.back().y);
-      const double bottom = std::max(upper.back().y, lower.back().y);
-      plot.Keep({&group, &series, i, {x, top, 0, bottom - top}, to < from});
-      if (group.dropLines) {
-        dropLines.push_back({{Role::kDropLine, series.number, static_cast<int>(i + 1)}, x, top, bottom});
-      }
-    }
-    if (upper.empty()) continue;
-    std::vector<Point> outline = Thinned(upper);
-    const std::vector<Point> back = Thinned(lower);
-    outline.insert(outline.end(), back.rbegin(), back.rend());
-    plot.canvas.Add({Role::kArea, series.number}, Path().AddPolygon(outline), series.style.fill,
-                    series.style.stroke);
-  }
-  for (const DropLine& line : dropLines) {
-    plot.canvas.AddLine(line.tag, {line.x, line.top}, {line.x, line.bottom}, *group.dropLines);
-  }
-  plot.canvas.PopClip();
+  if (plot.CategoryAxisOf(group) == nullptr || plot.ValueAxisOf(group) == nullptr) return;
+  AreaPainter(plot, group).Draw();
 }
 
 }  // namespace plotsmith::render

@@ -2,7 +2,7 @@
 #include <cmath>
 
 #include "render/axes/AxisPlace.h"
-#include "render/families/Plot.h"
+#include "render/families/Families.h"
 #include "render/families/ThinBars.h"
 
 namespace plotsmith::render {
@@ -10,15 +10,15 @@ namespace {
 
 /// How the bars of a category share its width.
 struct BarSlots {
-  double width = 0;   ///< of a bar
-  double step = 0;    ///< from a bar to the next series' one
-  double offset = 0;  ///< from the middle of the category to the first bar's edge
+  double width = 0;   ///< of a bar, in points
+  double step = 0;    ///< from a bar to that of the next series, in points
+  double offset = 0;  ///< from the middle of the category to the edge of its first bar, in points
 };
 
 BarSlots SlotsOf(const GroupModel& group, double categoryWidth) {
   const double count = group.IsStacked() ? 1 : static_cast<double>(group.series.size());
   const double overlap = group.IsStacked() ? 1 : group.overlap / 100;
-  // the bars of all series, and the gap, which is a share of one bar's width
+  // This is the width of a category in widths of bars, as the gap is a share of a bar's width.
   const double widths = 1 + (count - 1) * (1 - overlap) + group.gapWidth / 100;
   BarSlots slots;
   slots.width = categoryWidth / widths;
@@ -27,7 +27,7 @@ BarSlots SlotsOf(const GroupModel& group, double categoryWidth) {
   return slots;
 }
 
-/// Where the bars of a group are.
+/// The rectangles of the bars of a group.
 class BarPlaces {
  public:
   BarPlaces(const Plot& plot, const GroupModel& group, const AxisModel& categoryAxis,
@@ -41,7 +41,7 @@ class BarPlaces {
 
   bool IsHorizontal() const { return horizontal_; }
   double Width() const { return slots_.width; }
-  /// The bar of a point, from one value to another.
+  /// Returns the bar of a point from one value to another. Series and points count from 0.
   Rect BoxOf(std::size_t series, std::size_t point, double from, double to) const {
     const double begin = from == 0 ? base_ : values_.OfValue(from), end = values_.OfValue(to);
     const double direction = categories_.High() < categories_.Low() ? -1 : 1;

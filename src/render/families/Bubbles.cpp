@@ -1,20 +1,21 @@
 #include <algorithm>
 #include <cmath>
 
-#include "render/families/Plot.h"
+#include "render/families/Families.h"
 #include "render/fills/BallFill.h"
 
 namespace plotsmith::render {
 namespace {
 
-constexpr double kLargest = 0.25;  // of the plot area's shorter side, at a scale of 100 percent
+constexpr double kLargest =
+    0.25;  // diameter at a scale of 100 percent, as a share of the plot area's shorter side
 
 double SizeOf(const SeriesModel& series, std::size_t point) {
-  if (series.sizes.empty()) return 1;  // bubbles without sizes are all alike
+  if (series.sizes.empty()) return 1;  // Bubbles without sizes are equal.
   return point < series.sizes.size() ? series.sizes[point] : 0;
 }
 
-/// Whether a bubble is drawn at all.
+/// Returns whether a bubble of a size is drawn.
 bool IsShown(const GroupModel& group, double size) {
   return std::isfinite(size) && (size > 0 || (size < 0 && group.showNegativeBubbles));
 }

@@ -6,21 +6,21 @@
 #include <utility>
 
 #include "render/axes/DateAxis.h"
-#include "render/families/Curves.h"
-#include "render/families/Markers.h"
-#include "render/families/Plot.h"
+#include "render/families/Families.h"
+#include "render/plot/Curves.h"
+#include "render/plot/Markers.h"
 
 namespace plotsmith::render {
 namespace {
 
-/// A point of a line; one without a place interrupts it.
+/// A point of a line. A point that isn't present interrupts it.
 struct LinePoint {
   Point place;
   bool present = false;
   std::size_t index = 0;
 };
 
-/// The pieces of a line between its gaps. A gap is nothing where lines go on over it.
+/// Returns the pieces of a line between its gaps. There is only one piece if lines span gaps.
 std::vector<std::vector<Point>> Pieces(const std::vector<LinePoint>& points, bool spansGaps) {
   std::vector<std::vector<Point>> pieces(1);
   for (const LinePoint& point : points) {
@@ -33,16 +33,16 @@ std::vector<std::vector<Point>> Pieces(const std::vector<LinePoint>& points, boo
   return pieces;
 }
 
-/// Draws the line piecewise where points have strokes of their own. Neighbours of one stroke are one path.
+/// Draws a line whose points may have strokes of their own. Neighbours with the same stroke are one path.
 void DrawSegments(Plot& plot, const SeriesModel& series, const std::vector<LinePoint>& points) {
   const LinePoint* previous = nullptr;
   const ShapeStyle* style = nullptr;
   std::vector<Point> run;
-  int last = 0;  // the number of the point at the run's end
+  int last = 0;  // number of the last point in the run, from 1
   const auto finish = [&] {
     if (run.size() > 1) {
       Path path;
-      AddCurve(path, run, false);
+      AddCurve(path, run, series.smooth);
       plot.canvas.Add({Role::kLine, series.number, last}, std::move(path), {}, style->stroke);
     }
     run.clear();
@@ -81,13 +81,13 @@ void DrawLineOf(Plot& plot, const SeriesModel& series, const std::vector<LinePoi
   plot.canvas.PopClip();
 }
 
-/// The places of a dense series' markers. A marker that would lie on another but for a third of its size
-/// isn't drawn.
+/// Leaves out markers of dense series that would nearly cover others, which means within a third of their
+/// size.
 class MarkerPlaces {
  public:
   explicit MarkerPlaces(std::size_t points) : isDense_(points > kDense) {}
 
-  /// Whether a marker is to be drawn.
+  /// Returns whether a marker is drawn. The size is in points.
   bool Take(Point place, double size) {
     if (!isDense_) return true;
     const double cell = std::max(size / 3, 0.5);
@@ -102,7 +102,7 @@ class MarkerPlaces {
 
 void DrawMarkersOf(Plot& plot, const GroupModel& group, const SeriesModel& series,
                    const std::vector<LinePoint>& points) {
-  constexpr double kSlack = 0.5;  // a marker on the edge of the plot area is inside
+  constexpr double kSlack = 0.5;  // points; a marker on the edge of the plot area is drawn
   MarkerPlaces places(points.size());
   for (const LinePoint& point : points) {
     const bool inside = point.present && point.place.x >= plot.area.left - kSlack &&
@@ -121,7 +121,7 @@ void DrawMarkersOf(Plot& plot, const GroupModel& group, const SeriesModel& serie
   }
 }
 
-/// From the greatest value of each category to a place along the axis of values, or to the least value.
+/// Draws a line in each category from its greatest value to the place `end`, or to its least value.
 void DrawUprights(Plot& plot, const AxisMap& categories, const AxisMap& values, const Extents& extents,
                   std::size_t count, const Stroke& stroke, std::optional<double> end = {}) {
   for (std::size_t i = 0; i < count; ++i) {
@@ -154,7 +154,8 @@ void DrawLines(Plot& plot, const GroupModel& group) {
   if (group.highLowLines) {
     DrawUprights(plot, categories, values, extents, group.PointCount(), *group.highLowLines);
   }
-  std::vector<double> pile(group.PointCount());  // a blank in a stack is drawn on the series below it
+  std::vector<double> pile(
+      group.PointCount());  // Without a value, the point of a stacked line is on the line below.
   for (std::size_t s = 0; s < group.series.size(); ++s) {
     const SeriesModel& series = group.series[s];
     std::vector<LinePoint> points;

@@ -1,14 +1,14 @@
 #include <algorithm>
 #include <cmath>
 
-#include "render/families/Plot.h"
+#include "render/families/Families.h"
 #include "render/labels/DataLabels.h"
 #include "render/labels/LabelText.h"
 
 namespace plotsmith::render {
 namespace {
 
-constexpr double kLeastRadius = 0.3;  // of the radius without labels, that labels outside leave
+constexpr double kLeastRadius = 0.3;  // smallest share of the radius that labels outside leave
 
 double ExplosionOf(const SeriesModel& series, std::size_t point) {
   const auto special = series.points.find(point);
@@ -16,7 +16,7 @@ double ExplosionOf(const SeriesModel& series, std::size_t point) {
   return (own ? *special->second.explosion : series.explosion) / 100;
 }
 
-/// The slices of a series, in a circle of radius 1 about the origin.
+/// Returns the slices of a series, in a circle of radius 1 around the origin.
 std::vector<DrawnPoint> SlicesOf(const GroupModel& group, const SeriesModel& series) {
   double whole = 0;
   for (const double value : series.values) {
@@ -39,7 +39,7 @@ std::vector<DrawnPoint> SlicesOf(const GroupModel& group, const SeriesModel& ser
   return slices;
 }
 
-/// The share of a free square that is left for the circle beside labels outside.
+/// The room that labels outside of the circle take on each side, in points.
 struct LabelRoom {
   double width = 0, height = 0;
 };
@@ -92,14 +92,14 @@ Rect CircleAbout(Point center, double radius) {
   return {center.x - radius, center.y - radius, 2 * radius, 2 * radius};
 }
 
-/// What the farthest of a series' slices is moved outwards, in radii.
+/// Returns how far the slices of a series are moved outwards at most, in radii.
 double FarthestExplosion(const SeriesModel& series, const std::vector<DrawnPoint>& slices) {
   double most = 0;
   for (const DrawnPoint& slice : slices) most = std::max(most, ExplosionOf(series, slice.index));
   return most;
 }
 
-/// A circle or a ring; `hole` is the share of the radius that is left free.
+/// A circle or a ring. `hole` is the inner radius as a share of the outer one.
 struct Ring {
   Point center;
   double radius = 0, hole = 0;
@@ -123,7 +123,8 @@ void DrawSlices(Plot& plot, std::vector<DrawnPoint> slices, const Ring& ring) {
   }
 }
 
-/// Rings about each other, the first series innermost. Only slices of the outermost can move outwards.
+/// Draws the rings of a doughnut, with the first series innermost. Only the slices of the outermost can move
+/// outwards.
 void DrawRings(Plot& plot, const GroupModel& group) {
   const SeriesModel& last = group.series.back();
   const double free =
@@ -144,7 +145,7 @@ void DrawPie(Plot& plot, const GroupModel& group) {
   if (group.family == Family::kDoughnut) return DrawRings(plot, group);
   const Point center = plot.area.Center();
   const double free = std::min(plot.area.width, plot.area.height) / 2;
-  const SeriesModel& series = group.series.front();  // a pie shows one series
+  const SeriesModel& series = group.series.front();  // A pie shows one series.
   const std::vector<DrawnPoint> slices = SlicesOf(group, series);
   const double explosion = FarthestExplosion(series, slices);
   double radius = free / (1 + explosion);

@@ -5,25 +5,26 @@
 
 #include "render/axes/AxisMap.h"
 #include "render/axes/TickLabels.h"
-#include "render/families/Markers.h"
-#include "render/families/Plot.h"
-#include "render/layout/TextBlock.h"
+#include "render/families/Families.h"
+#include "render/plot/Markers.h"
+#include "render/text/TextBlock.h"
 
 namespace plotsmith::render {
 namespace {
 
-constexpr double kGap = 3;            // between a spoke or the web and its label
-constexpr double kWidestLabel = 0.3;  // of the plot area
-constexpr double kLeastRadius = 0.3;  // of the radius without labels
+constexpr double kGap = 3;            // points between a spoke or the web and its label
+constexpr double kWidestLabel = 0.3;  // share of the plot area
+constexpr double kLeastRadius = 0.3;  // smallest share of the radius that labels leave
 constexpr std::size_t kMostSpokes = 1000;
 
-/// The way of a spoke from the middle, which is as long as 1. The first goes up, the others clockwise.
+/// Returns the direction of a spoke as a vector of length 1. The first spoke goes up, the others follow
+/// clockwise.
 Point WayOf(std::size_t spoke, std::size_t count) {
   const double angle = 2 * std::numbers::pi * static_cast<double>(spoke) / static_cast<double>(count);
   return {std::sin(angle), -std::cos(angle)};
 }
 
-/// The web of a radar chart.
+/// The web of a radar chart: a spoke for each category.
 class Web {
  public:
   Web(Plot& plot, const GroupModel& group, const AxisModel& category, const AxisModel& value)
@@ -114,7 +115,7 @@ class Web {
     return places;
   }
 
-  /// Lays the labels around the web out, and gives it the radius that they leave.
+  /// Lays out the labels around the web, and sets the radius that they leave.
   void MeasureLabels() {
     const Rect& area = plot_.area;
     const double whole = std::min(area.width, area.height) / 2;
@@ -127,7 +128,7 @@ class Web {
       Shorten(block, kWidestLabel * area.width, plot_.canvas.Measure());
       const Point way{std::abs(WayOf(i, count_).x), std::abs(WayOf(i, count_).y)};
       const auto limit = [&](double share, double half, double extent) {
-        constexpr double kFlat = 0.05;  // a spoke across this side asks for nothing
+        constexpr double kFlat = 0.05;  // Labels of spokes along this side need no room at it.
         if (share > kFlat) radius_ = std::min(radius_, (half - extent / 2) / share - extent / 2 - kGap);
       };
       limit(way.x, area.width / 2, block.TurnedWidth());

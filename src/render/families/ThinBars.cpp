@@ -6,9 +6,9 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kColumn = 0.5;  // points, less than a pixel
+constexpr double kColumn = 0.5;  // points, which are less than a pixel
 
-/// Whether a rectangle is hidden by another, but for what is too thin to be seen.
+/// Returns whether a rectangle hides another, except for a part that is too thin to be visible.
 bool Hides(const Rect& front, const Rect& back) {
   const Rect around = Union(front, back);
   return around.width <= front.width + ThinBars::kWidest && around.height <= front.height + ThinBars::kWidest;

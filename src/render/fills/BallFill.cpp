@@ -2,13 +2,13 @@
 
 #include <cmath>
 
-#include "render/threed/Shading.h"
+#include "render/fills/LitFill.h"
 
 namespace plotsmith::render {
 namespace {
 
-constexpr double kHighlight = 0.65;  // of the way to white, where the light falls
-constexpr double kShadow = 0.6;      // of the colour, at the edge that is turned away
+constexpr double kHighlight = 0.65;  // share of white at the brightest point
+constexpr double kShadow = 0.6;      // brightness at the darkest edge
 
 Color Towards(const Color& color, std::uint8_t level, double share) {
   const auto channel = [&](std::uint8_t value) {
@@ -25,7 +25,7 @@ Fill AsBall(const Fill& fill) {
   GradientFill ball;
   ball.radial = true;
   ball.focus = {0.35, 0.3};
-  // the farthest point of the circle is at three quarters of the way to the farthest corner
+  // The farthest point of the circle is at three quarters of the way from the focus to the farthest corner.
   ball.stops = {
       {0, Towards(solid->color, 255, kHighlight)}, {0.3, solid->color}, {0.8, Lit(solid->color, kShadow)}};
   return ball;

@@ -4,8 +4,8 @@
 
 namespace plotsmith::render {
 
-/// A filling for a circle that looks like a ball, lit from the upper left. Only plain colours become one;
-/// anything else stays as it is.
+/// Returns a filling that makes a circle look like a ball which is lit from the upper left. Only solid
+/// fillings are changed; other fillings are returned as they are.
 Fill AsBall(const Fill& fill);
 
 }  // namespace plotsmith::render

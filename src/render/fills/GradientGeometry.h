@@ -4,16 +4,16 @@
 
 namespace plotsmith::render {
 
-/// Where a linear gradient begins and ends.
+/// The line from the first to the last position of a linear gradient.
 struct GradientLine {
   Point from, to;
 };
-/// The line of a linear gradient over bounds: the corners that lie farthest in its direction have the colours
-/// of its first and last stop.
+/// Returns the line of a linear gradient over `bounds`. Its positions 0 and 1 are at the corners that are
+/// farthest apart in its direction.
 GradientLine LineOf(const GradientFill& gradient, const Rect& bounds);
 
-/// The radius of a radial gradient in a square with an edge of 1, so that the farthest corner has the colour
-/// of the last stop. Over other bounds the circle is stretched with the square.
+/// Returns the radius of a radial gradient in a square with an edge of 1. Its position 1 is at the farthest
+/// corner. Over other bounds, the circle is stretched with the square.
 double UnitRadiusOf(const GradientFill& gradient);
 
 }  // namespace plotsmith::render

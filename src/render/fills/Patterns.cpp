@@ -10,7 +10,8 @@ struct PatternEntry {
   PatternTile tile;
 };
 
-// The percentages are the nearest that dots in an even spread give in so small a tile.
+// Patterns that are named after percentages have evenly spread dots, as near to the percentage as the tile
+// allows.
 // clang-format off
 constexpr PatternEntry kPatterns[] = {
     {"cross",      {0xFF, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80}},

@@ -6,17 +6,17 @@
 
 #include "render/labels/LabelText.h"
 #include "render/labels/PieLabels.h"
-#include "render/layout/LegendLayout.h"
+#include "render/plot/LegendKey.h"
 
 namespace plotsmith::render {
 namespace {
 
 constexpr double kRadian = std::numbers::pi / 180;
-constexpr double kGap = 1.5;          // between a point and the label beside it
-constexpr double kKeySide = 6;        // of a legend key beside a label
-constexpr double kWidestShare = 0.2;  // of the chart, before a label breaks
+constexpr double kGap = 1.5;          // points between a point and the label beside it
+constexpr double kKeySide = 6;        // points, the edge of a legend key beside a label
+constexpr double kWidestShare = 0.2;  // share of the chart's width at which labels wrap
 
-/// The half extents of a label with its padding.
+/// Half of the width and height of a label with its padding.
 struct Half {
   double width, height;
 };
@@ -31,7 +31,7 @@ Point CenterAtBar(const Plot& plot, const DrawnPoint& point, const std::string& 
   const bool flat = IsFlat(plot, point);
   const AxisModel* axis = plot.ValueAxisOf(*point.group);
   const bool reversed = axis != nullptr && axis->reversed;
-  // the way from the base of the bar to its end
+  // This is the direction from the base of the bar to its end.
   const double way = (point.negative != reversed ? -1 : 1) * (flat ? 1.0 : -1.0);
   const Point center = box.Center();
   const double reach = flat ? box.width / 2 : box.height / 2, depth = flat ? half.width : half.height;
@@ -52,7 +52,7 @@ Point CenterAtMarker(const DrawnPoint& point, const std::string& position, Half 
   return center;
 }
 
-/// Beside a point of a radar chart, away from the middle of the web.
+/// Returns the centre of a label beside a point of a radar chart, on the outer side.
 Point CenterOutwards(const DrawnPoint& point, Point middle, Half half) {
   const Point center = point.box.Center();
   const double x = center.x - middle.x, y = center.y - middle.y, distance = std::hypot(x, y);
@@ -61,7 +61,8 @@ Point CenterOutwards(const DrawnPoint& point, Point middle, Half half) {
           center.y + way.y * (point.box.height / 2 + half.height)};
 }
 
-/// The farthest place of a box's centre in a direction at which the box is inside of a circle.
+/// Returns how far the centre of a box can be from the middle of a circle, in a direction, with the box
+/// inside.
 double FarthestInside(Half half, double degrees, double radius) {
   const double b = std::abs(std::sin(degrees * kRadian)) * half.width +
                    std::abs(std::cos(degrees * kRadian)) * half.height;
@@ -69,7 +70,7 @@ double FarthestInside(Half half, double degrees, double radius) {
   return rest > 0 ? std::max(std::sqrt(rest) - b, 0.0) : 0;
 }
 
-/// As near to the middle of the slice's edge as a label can be.
+/// Returns the centre of a label outside of a slice that is as near as possible to the middle of its edge.
 Point CenterBesideSlice(const DrawnPoint& point, Half half, double degrees) {
   const Point edge = OnEllipse(point.circle, degrees), way = OnEllipse({-1, -1, 2, 2}, degrees);
   const auto at = [&](double distance) {
@@ -89,7 +90,7 @@ Point CenterBesideSlice(const DrawnPoint& point, Half half, double degrees) {
 Point CenterInSlice(const DrawnPoint& point, Half half, std::string position) {
   const double middle = point.angle + point.sweep / 2;
   const double radius = point.circle.width / 2;
-  // of a pie in 3-D the circle is an ellipse; upright it would have labels as much higher
+  // In 3-D the circle is an ellipse. Labels are compared with the circle as if they were stretched with it.
   const double flat = point.circle.width > 0 ? point.circle.height / point.circle.width : 1;
   const Half round{half.width, half.height / std::max(flat, 1e-6)};
   if (position == "bestFit")
@@ -119,7 +120,7 @@ Point CenterOf(const Plot& plot, const DrawnPoint& point, const LabelModel& labe
   }
 }
 
-/// The line from a slice to a label that was moved away from it.
+/// Draws the line from a slice to a label that was moved away from it.
 void DrawLeader(Plot& plot, const PlacedLabel& placed) {
   const DrawnPoint& point = *placed.point;
   const LabelsModel& labels = point.series->labels;
@@ -127,14 +128,14 @@ void DrawLeader(Plot& plot, const PlacedLabel& placed) {
   if (!labels.leaderLines || !placed.moved || point.sweep <= 0 || !IsBesideSlice(point, label)) return;
   const Point from = OnEllipse(point.circle, point.angle + point.sweep / 2);
   Point to{std::clamp(from.x, label.left, label.Right()), std::clamp(from.y, label.top, label.Bottom())};
-  if (to.x != from.x) to.y = label.Center().y;  // to the middle of a side, not to a corner
+  if (to.x != from.x) to.y = label.Center().y;  // The line ends at the middle of a side.
   constexpr double kShortest = 5;               // points
   if (std::hypot(to.x - from.x, to.y - from.y) < kShortest) return;
   plot.canvas.AddLine({Role::kLeaderLine, point.series->number, static_cast<int>(point.index + 1)}, from, to,
                       labels.leaderStroke);
 }
 
-/// A label where it belongs by itself, and on the chart.
+/// Lays out a label at its position, or as its layout says, and keeps it on the chart.
 PlacedLabel PlaceLabel(const Plot& plot, const DrawnPoint& point, const LabelModel& label) {
   const RichText text = LabelText(plot.chart, *point.group, *point.series, point.index, label, point.share);
   PlacedLabel placed{&point, &label};
@@ -181,7 +182,7 @@ bool FitsInSlice(const DrawnPoint& slice, double width, double height) {
   const double middle = slice.angle + slice.sweep / 2;
   const double distance = FarthestInside({width / 2, height / 2}, middle, radius - kGap);
   const Point direction = OnEllipse({-distance, -distance, 2 * distance, 2 * distance}, middle);
-  // each corner has to lie between the slice's edges
+  // Each corner must be between the edges of the slice.
   for (const double x : {-width / 2, width / 2}) {
     for (const double y : {-height / 2, height / 2}) {
       const Point corner{direction.x + x, direction.y + y};

@@ -1,16 +1,17 @@
 #pragma once
 
-#include "render/families/Plot.h"
-#include "render/layout/TextBlock.h"
+#include "render/plot/Plot.h"
+#include "render/text/TextBlock.h"
 
 namespace plotsmith::render {
 
-/// The size that Excel gives a label around its text.
+/// The padding to the left and right of the text of a label, in points.
 inline constexpr double kLabelPadding = 2;
 
-/// Whether a pie's label has room inside of its slice, at the edge; `size` is with its padding.
+/// Returns whether a label fits into its slice, near the edge. `width` and `height` include its padding, in
+/// points.
 bool FitsInSlice(const DrawnPoint& slice, double width, double height);
-/// Draws the labels of all points that were drawn.
+/// Draws the labels of the points that the plot has kept.
 void DrawDataLabels(Plot& plot);
 
 }  // namespace plotsmith::render

@@ -29,7 +29,7 @@ std::string CategoryText(const ChartModel& chart, const GroupModel& group, const
   return point < group.categories.size() ? group.categories[point] : "";
 }
 
-/// A percentage in the label's format, which is the value's if the label shows that too.
+/// Returns a percentage. It has the label's format unless that is for a value in the same label.
 std::string PercentText(const ChartModel& chart, const LabelModel& label, double share) {
   static const FormatPointer kPercent = xlsx::NumberFormat::Parse("0%");
   const bool ownFormat = label.format && !label.showsValue && !label.format->IsGeneral();

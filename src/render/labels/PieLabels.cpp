@@ -8,11 +8,11 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kGap = 1.5;     // between a slice and the label beside it
+constexpr double kGap = 1.5;     // points between a slice and the label beside it
 constexpr double kDust = 1e-6;   // points that rounding may add
 constexpr double kSlack = 0.01;  // points by which labels may touch
 
-/// Whether the label may be moved: it lies outside of its slice, where Excel put it.
+/// Returns whether a label may be moved. It may if it is outside of its slice, at an automatic place.
 bool IsMovable(const PlacedLabel& label) {
   const Family family = label.point->group->family;
   const bool isPie = family == Family::kPie || family == Family::kOfPie;
@@ -20,7 +20,7 @@ bool IsMovable(const PlacedLabel& label) {
   return isPie && isOutside && !label.label->layout && IsBesideSlice(*label.point, label.Box());
 }
 
-/// From twelve o'clock, 0 to 360.
+/// Returns the middle of a slice in degrees clockwise from twelve o'clock, from 0 to 360.
 double MiddleOf(const DrawnPoint& slice) {
   const double angle = std::fmod(slice.angle + slice.sweep / 2, 360);
   return angle < 0 ? angle + 360 : angle;
@@ -28,16 +28,16 @@ double MiddleOf(const DrawnPoint& slice) {
 
 bool IsRight(const PlacedLabel& label) { return MiddleOf(*label.point) < 180; }
 
-/// Labels that touch, one below the other.
+/// Labels below each other that touch.
 struct Pile {
   std::size_t first = 0, count = 0;
-  double wanted = 0;  ///< the sum of the tops that they would like the pile to have
+  double wanted = 0;  ///< sum of the tops of the pile with which each label would be at its own place
   double height = 0;
   double top = 0;
 };
 
-/// Moves labels, which are sorted from top to bottom, as little as it takes until none overlaps the next.
-/// They have room between `least` and `most`.
+/// Moves labels up and down, as little as possible, until none overlaps the next. They must be sorted from
+/// top to bottom. They stay between `least` and `most`.
 void SpreadDown(const std::vector<PlacedLabel*>& labels, double least, double most) {
   std::vector<Pile> piles;
   const auto settle = [&](Pile& pile) {
@@ -66,8 +66,8 @@ void SpreadDown(const std::vector<PlacedLabel*>& labels, double least, double mo
   }
 }
 
-/// Moves a label flat outwards until it is beside its slice and on its own side of the circle, with room for
-/// a leader line.
+/// Moves a label horizontally outwards until it is beside its slice, on its own side of the circle, and has
+/// room for a leader line.
 void MoveBeside(PlacedLabel& label, const Rect& room, double lineRoom) {
   label.moved = true;
   const double middle = label.point->circle.Center().x, way = IsRight(label) ? 1 : -1;
@@ -75,7 +75,7 @@ void MoveBeside(PlacedLabel& label, const Rect& room, double lineRoom) {
     label.center.x = middle + way * distance;
     return IsBesideSlice(*label.point, label.Box());
   };
-  // the label keeps out of the way of the line that goes up or down to it
+  // The label doesn't cover the line that goes up or down to it.
   const double edge = OnEllipse(label.point->circle, MiddleOf(*label.point)).x;
   double near = label.halfWidth + kGap + way * (edge - middle);
   double far = label.halfWidth + label.point->circle.width / 2;
@@ -97,8 +97,8 @@ bool OverlapsAny(const PlacedLabel& label, const std::vector<PlacedLabel*>& othe
   });
 }
 
-/// Takes out the labels of the smallest slices until the height is enough for the rest. Of slices that are
-/// alike, those that stay are spread over all of them, as multiples of the golden ratio are.
+/// Removes the labels of the smallest slices until the others fit into the height. Of slices of equal size,
+/// multiples of the golden ratio choose the labels, so that the remaining ones are spread evenly.
 void KeepThoseWithRoom(std::vector<PlacedLabel*>& side, double height) {
   struct Candidate {
     double share, turn;
@@ -122,7 +122,7 @@ void KeepThoseWithRoom(std::vector<PlacedLabel*>& side, double height) {
   std::erase_if(side, [](const PlacedLabel* label) { return label->leftOut; });
 }
 
-/// Where moved labels may be: in the plot area, of which a circle by hand leaves them nothing.
+/// Returns where moved labels may be: in the plot area, or on the whole chart if a person set the plot area.
 Rect RoomOf(const Plot& plot) { return plot.chart.layout ? plot.canvas.Bounds() : plot.area; }
 
 void SpreadSide(std::vector<PlacedLabel*>& side, const Rect& room) {
@@ -135,7 +135,8 @@ void SpreadSide(std::vector<PlacedLabel*>& side, const Rect& room) {
   std::vector<double> before;
   for (const PlacedLabel* label : side) before.push_back(label->center.y);
   SpreadDown(side, room.top, room.Bottom());
-  constexpr double kLineShare = 0.3, kMostLineRoom = 12;  // of the way that a label was moved; points
+  constexpr double kLineShare = 0.3,
+                   kMostLineRoom = 12;  // share of the distance that a label was moved; points
   for (std::size_t i = 0; i < side.size(); ++i) {
     const double way = std::abs(side[i]->center.y - before[i]);
     if (way > kSlack) MoveBeside(*side[i], room, std::min(kLineShare * way, kMostLineRoom));
@@ -168,7 +169,7 @@ std::size_t SpreadPieLabels(const Plot& plot, std::vector<PlacedLabel>& labels) 
                                      [&](const PlacedLabel* label) { return OverlapsAny(*label, *side); });
     if (crowded) SpreadSide(*side, room);
   }
-  // above and below the circle, labels of both sides may meet
+  // Labels of both sides may touch above and below the circle.
   for (PlacedLabel* label : right) {
     for (PlacedLabel* other : left) {
       if (!Overlap(label->Box(), other->Box(), kSlack)) continue;

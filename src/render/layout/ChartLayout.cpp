@@ -19,8 +19,8 @@ using xlsx::kTitleShare;
 
 namespace {
 
-constexpr double kDeepestLabels = 0.4;  // of the chart that the labels of one axis may take
-constexpr double kEdgeMargin = 2;       // that labels keep to the chart's edge
+constexpr double kDeepestLabels = 0.4;  // share of the chart that the labels of one axis may take
+constexpr double kEdgeMargin = 2;       // points between labels and the chart's edge
 
 double& RoomAt(Edges& edges, Side side) {
   switch (side) {
@@ -41,8 +41,7 @@ Rect Without(const Rect& rect, const Edges& edges) {
           rect.height - edges.top - edges.bottom};
 }
 
-/// A rectangle that keeps a least share of the chart, however much was taken from it. It stays in `room` as
-/// far as that is large enough.
+/// Returns a rectangle that has at least the least share of the chart. It is moved to stay in `room`.
 Rect KeepLeast(Rect rect, const Rect& bounds, const Rect& room) {
   const auto keep = [](double& from, double& extent, double least, double end) {
     if (extent >= least) return;
@@ -54,7 +53,7 @@ Rect KeepLeast(Rect rect, const Rect& bounds, const Rect& room) {
   return rect;
 }
 
-/// A layout by hand over the automatic place.
+/// Returns the rectangle of an element with a layout that a person set. `rect` is the automatic one.
 Rect Applied(const ManualLayout& layout, const Rect& bounds, Rect rect) {
   const auto apply = [](std::optional<double> place, bool isEdge, std::optional<double> extent,
                         bool extentIsEdge, double whole, double& from, double& length) {
@@ -66,7 +65,7 @@ Rect Applied(const ManualLayout& layout, const Rect& bounds, Rect rect) {
   return rect;
 }
 
-/// A title whose box is centred on a point, or where its layout says.
+/// Places a title around a point, or as its layout says.
 PlacedTitle PlaceTitle(const TitleModel& title, TextBlock block, Point center, const Rect& bounds) {
   PlacedTitle placed;
   const double width = block.TurnedWidth() + kTitlePadding, height = block.TurnedHeight() + kTitlePadding;
@@ -74,7 +73,7 @@ PlacedTitle PlaceTitle(const TitleModel& title, TextBlock block, Point center, c
   placed.block = std::move(block);
   if (title.layout) {
     ManualLayout place = *title.layout;
-    place.width.reset();  // the size of a title is that of its text
+    place.width.reset();  // The size of a title is that of its text.
     place.height.reset();
     placed.box = Applied(place, bounds, placed.box);
   }
@@ -117,7 +116,7 @@ class Layouter {
     free_.height -= taken;
   }
 
-  /// The texts beside an axis, and the room that they ask for.
+  /// Lays out the titles of axes, and adds up the room that they take.
   void MeasureAxisTitles() {
     for (std::size_t i = 0; i < chart_.axes.size(); ++i) {
       const AxisModel& axis = chart_.axes[i];
@@ -146,7 +145,7 @@ class Layouter {
     if (chart_.layout && !inner) {
       layout_.outer = KeepLeast(Applied(*chart_.layout, bounds_, layout_.outer), bounds_, bounds_);
     }
-    // the labels decide about the plot area, and its size about the labels
+    // The labels affect the size of the plot area, which affects the labels.
     for (int pass = 0; pass < 3; ++pass) {
       layout_.plot = KeepLeast(Without(layout_.outer, rooms_), bounds_, layout_.outer);
       if (inner) layout_.plot = KeepLeast(Applied(*chart_.layout, bounds_, layout_.plot), bounds_, bounds_);
@@ -176,7 +175,7 @@ class Layouter {
       room = std::max(room, labels.depth + kLabelGap - inside);
       AddOverhang(axis, labels, length, overhang);
     }
-    // what sticks out at the ends of an axis may use the inset, but not leave the chart
+    // Labels that extend beyond the ends of an axis may use the margin, but not leave the chart.
     const auto widen = [](double& room, double wanted, double available) {
       room = std::max(room, wanted - std::max(available - kEdgeMargin, 0.0));
     };
@@ -198,7 +197,7 @@ class Layouter {
       before = std::max(before, start - place);
       behind = std::max(behind, along - start - (length - place));
     }
-    // upright axes begin at the bottom
+    // Vertical axes begin at the bottom.
     double& first = axis.IsUpright() ? overhang.bottom : overhang.left;
     double& second = axis.IsUpright() ? overhang.top : overhang.right;
     first = std::max(first, before);
@@ -210,13 +209,18 @@ class Layouter {
     for (std::size_t i = 0; i < chart_.axes.size(); ++i) {
       const AxisModel& axis = chart_.axes[i];
       const Side side = PlaceOf(chart_, axis, layout_.plot).labelSide;
-      if (auto& units = layout_.axes[i].units) PlaceBeside(axis, *axis.units.label, side, true, used, *units);
-      if (auto& title = layout_.axes[i].title) PlaceBeside(axis, *axis.title, side, false, used, *title);
+      if (auto& units = layout_.axes[i].units)
+        PlaceBeside(axis, *axis.units.label, side, Along::kEnd, used, *units);
+      if (auto& title = layout_.axes[i].title)
+        PlaceBeside(axis, *axis.title, side, Along::kMiddle, used, *title);
     }
   }
 
-  /// Puts a title outside of the labels of its axis: at its middle, or at its end.
-  void PlaceBeside(const AxisModel& axis, const TitleModel& title, Side side, bool atEnd, Edges& used,
+  /// The part of an axis that a title is beside.
+  enum class Along : std::uint8_t { kMiddle, kEnd };
+
+  /// Puts a title outside of the labels of its axis.
+  void PlaceBeside(const AxisModel& axis, const TitleModel& title, Side side, Along along, Edges& used,
                    PlacedTitle& placed) {
     const Rect& plot = layout_.plot;
     double& room = RoomAt(used, side);
@@ -225,8 +229,8 @@ class Layouter {
     const bool back = side == Side::kLeft || side == Side::kTop;
     const double across = EdgeOf(plot, side) + (back ? -1 : 1) * (room + depth / 2);
     Point center = axis.IsUpright() ? Point{across, plot.Center().y} : Point{plot.Center().x, across};
-    if (atEnd && axis.IsUpright()) center.y = plot.top + placed.block.TurnedHeight() / 2;
-    if (atEnd && !axis.IsUpright()) center.x = plot.Right() - placed.block.TurnedWidth() / 2;
+    if (along == Along::kEnd && axis.IsUpright()) center.y = plot.top + placed.block.TurnedHeight() / 2;
+    if (along == Along::kEnd && !axis.IsUpright()) center.x = plot.Right() - placed.block.TurnedWidth() / 2;
     room += depth;
     placed = PlaceTitle(title, std::move(placed.block), center, bounds_);
   }

@@ -5,19 +5,19 @@
 #include <string>
 #include <utility>
 
-#include "render/families/Markers.h"
+#include "render/plot/LegendKey.h"
 
 namespace plotsmith::render {
 namespace {
 
 constexpr double kPadding = 4;          // between the frame and its entries
-constexpr double kSquareEms = 0.55;     // a key that is a piece of filling
-constexpr double kLineKeyEms = 2.0;     // a key that is a line
+constexpr double kSquareEms = 0.55;     // edge of a key with a filling
+constexpr double kLineKeyEms = 2.0;     // length of a key with a line
 constexpr double kKeyGapEms = 0.4;      // between a key and its text
 constexpr double kEntryGapEms = 0.9;    // between entries side by side
-constexpr double kRowGapEms = 0.12;     // between rows, as lines of text keep none
+constexpr double kRowGapEms = 0.12;     // between rows
 constexpr double kColumnGapEms = 0.35;  // on both sides of a column of entries
-constexpr double kMostShare = 0.45;     // of the chart's width or height that a legend may take
+constexpr double kMostShare = 0.45;     // share of the chart's width or height that a legend may take
 constexpr double kGap = 5;              // between the legend and the plot area
 
 constexpr double kDust = 1e-6;  // points that rounding may add
@@ -27,14 +27,8 @@ struct Measured {
   TextBlock text;
 };
 
-bool HasLineKey(const ChartModel& chart, const LegendEntry& entry) {
-  const GroupModel* group = chart.GroupOfSeries(entry.series);
-  if (group == nullptr || group->is3D) return false;
-  return group->family == Family::kLine || group->family == Family::kScatter ||
-         group->family == Family::kStock || (group->family == Family::kRadar && !group->filled);
-}
-
-/// Entries from the first, or where they are piled up beside a pile, from the last.
+/// Returns the entries in their order. It is reversed in a legend beside stacked columns, so that they are in
+/// the order of the stack.
 std::vector<const LegendEntry*> InOrder(const ChartModel& chart, bool upright) {
   std::vector<const LegendEntry*> entries;
   for (const LegendEntry& entry : chart.legend->entries) entries.push_back(&entry);
@@ -45,7 +39,7 @@ std::vector<const LegendEntry*> InOrder(const ChartModel& chart, bool upright) {
   return entries;
 }
 
-/// What all entries have in common.
+/// Sizes that all entries share, in points.
 struct Grid {
   double em = 10, keyWidth = 0, row = 0;
 
@@ -64,7 +58,7 @@ void Place(LegendLayout& layout, const Grid& grid, Measured& measured, double le
   layout.entries.push_back(std::move(placed));
 }
 
-/// The room for a legend. One that was sized by hand shows at least one entry, and may be narrower than its
+/// The room for a legend. If a person set its size, it shows at least one entry and may be narrower than its
 /// texts.
 struct Limits {
   double width = 0, height = 0;
@@ -75,7 +69,7 @@ struct Limits {
   }
 };
 
-/// Places entries one below the other, in as many columns as the height asks for, as long as they fit.
+/// Places entries below each other, in as many columns as the height requires, as long as they fit.
 void PlaceInColumns(LegendLayout& layout, const Grid& grid, std::vector<Measured>& entries,
                     const Limits& limits) {
   const double gap = kRowGapEms * grid.em, margin = kPadding + kColumnGapEms * grid.em;
@@ -98,11 +92,11 @@ void PlaceInColumns(LegendLayout& layout, const Grid& grid, std::vector<Measured
   }
 }
 
-/// How entries side by side share the width: all in one row, or in columns of one width.
+/// How entries side by side share the width: all in one row, or in columns of equal widths.
 struct Columns {
   bool oneRow = true;
   std::size_t count = 1;
-  double width = 0;  ///< of a column
+  double width = 0;  ///< of a column, in points
 };
 
 Columns ColumnsFor(const Grid& grid, const std::vector<Measured>& entries, double room) {
@@ -121,7 +115,7 @@ Columns ColumnsFor(const Grid& grid, const std::vector<Measured>& entries, doubl
   return columns;
 }
 
-/// Places entries side by side, in as many rows as the width asks for, as long as they fit.
+/// Places entries side by side, in as many rows as the width requires, as long as they fit.
 void PlaceInRows(LegendLayout& layout, const Grid& grid, std::vector<Measured>& entries,
                  const Limits& limits) {
   const Columns columns = ColumnsFor(grid, entries, limits.width - 2 * kPadding);
@@ -144,7 +138,7 @@ void PlaceInRows(LegendLayout& layout, const Grid& grid, std::vector<Measured>& 
   }
 }
 
-/// A layout by hand moves the legend, and may give it a size.
+/// Applies a layout that a person set. It moves the legend, and may set its size.
 void ApplyLayout(const ManualLayout& layout, const Rect& bounds, Rect& box) {
   if (layout.x) box.left = layout.xIsEdge ? *layout.x * bounds.width : box.left + *layout.x * bounds.width;
   if (layout.y) box.top = layout.yIsEdge ? *layout.y * bounds.height : box.top + *layout.y * bounds.height;
@@ -158,7 +152,7 @@ void ApplyLayout(const ManualLayout& layout, const Rect& bounds, Rect& box) {
   }
 }
 
-/// Puts the box on its side of the free rectangle, and takes its room.
+/// Moves the box to its side of the free rectangle, which loses the room of the box.
 void Dock(const LegendModel& legend, Rect& box, Rect& free) {
   const std::string& side = legend.position;
   box.left = side == "l" ? free.left : free.Right() - box.width;
@@ -180,7 +174,7 @@ void Dock(const LegendModel& legend, Rect& box, Rect& free) {
   }
 }
 
-/// The room for a legend at its side of the chart, or in a box by hand.
+/// Returns the room for a legend at its side of the chart, or in a box that a person set.
 Limits LimitsOf(const LegendModel& legend, const Rect& bounds, const Rect& free) {
   if (legend.layout && legend.layout->width && legend.layout->height) {
     Rect box;
@@ -192,7 +186,7 @@ Limits LimitsOf(const LegendModel& legend, const Rect& bounds, const Rect& free)
   return legend.IsFlat() ? Limits{free.width, highest} : Limits{widest, free.height};
 }
 
-/// The texts of the entries, broken where they would be wider than the legend.
+/// Lays out the texts of the entries. Texts that are wider than the legend are wrapped.
 std::vector<Measured> MeasureEntries(const std::vector<const LegendEntry*>& order, const Grid& grid,
                                      const Limits& limits, const TextMeasure& measure) {
   const double wrap =
@@ -208,11 +202,11 @@ std::vector<Measured> MeasureEntries(const std::vector<const LegendEntry*>& orde
   return entries;
 }
 
-/// Moves the box where a layout by hand says, and the entries into its middle.
+/// Moves the legend to its box, or as a layout says that a person set, and the entries to the middle of it.
 void Settle(LegendLayout& layout, const LegendModel& legend, const Rect& bounds, Rect box) {
   if (legend.layout) {
     ApplyLayout(*legend.layout, bounds, box);
-    // a legend that was dragged over the edge is moved back onto the chart
+    // A legend that was dragged over the edge is moved back onto the chart.
     box.left = std::max(std::min(box.left, bounds.Right() - box.width), bounds.left);
     box.top = std::max(std::min(box.top, bounds.Bottom() - box.height), bounds.top);
   }
@@ -234,8 +228,8 @@ LegendLayout LayOutLegend(const ChartModel& chart, const Rect& bounds, Rect& fre
   LegendLayout layout;
   const LegendModel& legend = *chart.legend;
   const std::vector<const LegendEntry*> order = InOrder(chart, !legend.IsFlat());
-  const bool lineKeys = std::any_of(order.begin(), order.end(),
-                                    [&](const LegendEntry* entry) { return HasLineKey(chart, *entry); });
+  const bool lineKeys = std::any_of(
+      order.begin(), order.end(), [&](const LegendEntry* entry) { return HasLineKey(chart, entry->series); });
   Grid grid;
   grid.em = legend.text.font.size;
   grid.keyWidth = (lineKeys ? kLineKeyEms : kSquareEms) * grid.em;
@@ -253,28 +247,6 @@ LegendLayout LayOutLegend(const ChartModel& chart, const Rect& bounds, Rect& fre
   Dock(legend, box, free);
   Settle(layout, legend, bounds, box);
   return layout;
-}
-
-void DrawKey(Canvas& canvas, const ChartModel& chart, Tag tag, const Rect& box) {
-  const GroupModel* group = chart.GroupOfSeries(tag.series);
-  const SeriesModel* series = chart.FindSeries(tag.series);
-  if (group == nullptr || series == nullptr) return;
-  const auto point = static_cast<std::size_t>(std::max(tag.point - 1, 0));
-  const ShapeStyle& style = tag.point > 0 ? series->StyleOf(point) : series->style;
-  if (!HasLineKey(chart, {{}, {}, tag.series, tag.point})) {
-    const double side = std::min(box.width, box.height);
-    const Point center = box.Center();
-    Stroke stroke = style.stroke;
-    stroke.width = std::min(stroke.width, 1.5);
-    canvas.Add(tag, Path().AddRect({center.x - side / 2, center.y - side / 2, side, side}), style.fill,
-               stroke);
-    return;
-  }
-  const double middle = box.Center().y;
-  canvas.AddLine(tag, {box.left, middle}, {box.Right(), middle}, style.stroke);
-  MarkerModel marker = tag.point > 0 ? series->MarkerOf(point) : series->marker;
-  marker.size = std::min(marker.size, 9.0);
-  DrawMarker(canvas, tag, marker, box.Center());
 }
 
 void DrawLegend(Canvas& canvas, const ChartModel& chart, const LegendLayout& layout) {

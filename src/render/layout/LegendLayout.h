@@ -2,12 +2,12 @@
 
 #include <vector>
 
-#include "render/layout/TextBlock.h"
 #include "render/model/ChartModel.h"
+#include "render/text/TextBlock.h"
 
 namespace plotsmith::render {
 
-/// Where an entry lies, from the legend's corner.
+/// An entry of the legend with its place.
 struct PlacedEntry {
   const LegendEntry* entry = nullptr;
   Rect key;
@@ -15,19 +15,18 @@ struct PlacedEntry {
   Point textCenter;
 };
 
+/// The legend with its place.
 struct LegendLayout {
   Rect box;
-  std::vector<PlacedEntry> entries;  ///< those for which there is room
-  std::size_t leftOut = 0;           ///< how many others there are
+  std::vector<PlacedEntry> entries;  ///< entries that have room
+  std::size_t leftOut = 0;           ///< number of the others
 };
 
-/// Lays a legend out in what title and insets leave of the chart. `free` loses the room that it takes.
+/// Lays out the legend of a chart. `free` is the room that the title and the margins leave, and loses the
+/// room that the legend takes.
 LegendLayout LayOutLegend(const ChartModel& chart, const Rect& bounds, Rect& free,
                           const TextMeasure& measure);
-/// Draws the frame, the keys and the texts, and says if entries are left out.
+/// Draws the frame, the keys and the texts. Adds a note if entries are left out.
 void DrawLegend(Canvas& canvas, const ChartModel& chart, const LegendLayout& layout);
-
-/// The sign for a series in a rectangle: a piece of its filling, or of its line with a marker.
-void DrawKey(Canvas& canvas, const ChartModel& chart, Tag tag, const Rect& box);
 
 }  // namespace plotsmith::render

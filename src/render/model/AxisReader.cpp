@@ -65,7 +65,7 @@ Side SideOf(pugi::xml_node axis) {
   return side == "t" ? Side::kTop : Side::kBottom;
 }
 
-/// The line of an axis and its gridlines.
+/// Reads the line of an axis and its gridlines.
 void ReadLines(ReadingContext& context, pugi::xml_node node, AxisModel& axis) {
   const Stroke automatic = context.styles.AxisLine();
   axis.line = ReadStroke(context.part, xml::Child(node, "spPr", "ln"), automatic);

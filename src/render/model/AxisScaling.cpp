@@ -1,9 +1,10 @@
+#include "render/model/AxisScaling.h"
+
 #include <algorithm>
 #include <cmath>
 #include <span>
 #include <vector>
 
-#include "render/model/ChartReader.h"
 #include "xlsx/chart/rules/DataExtent.h"
 
 namespace plotsmith::render {
@@ -20,10 +21,10 @@ void AddGroup(const GroupModel& group, bool isX, xlsx::DataExtent& extent) {
   }
 }
 
-/// Makes an axis one that can be drawn, if the file or the data ask for one that can't.
+/// Corrects a scale that can't be drawn, which hostile files and extreme data can give.
 void MakeSound(AxisModel& axis) {
-  constexpr double kFarthest = 8e307;  // the length of an axis has to be a number, too
-  constexpr double kMostSteps = 1e9;   // of which ticks are still exact
+  constexpr double kFarthest = 8e307;  // so that the difference of maximum and minimum is finite
+  constexpr double kMostSteps = 1e9;   // more ticks wouldn't be exact
   xlsx::AxisScale& scale = axis.scale;
   if (axis.logBase && !(scale.minimum > 0)) scale.minimum = scale.maximum > 1 ? 1 : scale.maximum / 10;
   if (axis.logBase && !(scale.minimum > 0)) scale = {1, *axis.logBase, *axis.logBase};

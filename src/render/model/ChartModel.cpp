@@ -5,12 +5,6 @@
 
 namespace plotsmith::render {
 
-bool RichText::IsEmpty() const {
-  return std::all_of(paragraphs.begin(), paragraphs.end(), [](const auto& runs) {
-    return std::all_of(runs.begin(), runs.end(), [](const TextRun& run) { return run.text.empty(); });
-  });
-}
-
 bool LabelModel::ShowsAnything() const {
   return showsValue || showsPercent || showsCategory || showsSeries || showsBubbleSize || !own.IsEmpty();
 }

@@ -10,128 +10,128 @@
 #include <vector>
 
 #include "render/Drawing.h"
+#include "render/model/DateSlots.h"
+#include "render/text/RichText.h"
 #include "xlsx/chart/rules/DataExtent.h"
 #include "xlsx/chart/rules/ScaleRules.h"
 #include "xlsx/numberformat/DateSystem.h"
 #include "xlsx/numberformat/NumberFormat.h"
 
-/// What of a chart part is drawn, read once: defaults, themes and inheritance are worked in.
+/// What is drawn of a chart part. It is read once; defaults, themes and inheritance are resolved.
 namespace plotsmith::render {
 
+/// Filling and outline of an element.
 struct ShapeStyle {
   Fill fill;
   Stroke stroke;
 };
 
-struct TextStyle {
-  Font font;
-  Color color;
-  std::optional<double> rotation;  ///< degrees clockwise; nothing where Excel decides
-  bool stacked = false;            ///< one letter below the other
-};
-
-struct TextRun {
-  std::string text;
-  Font font;
-  Color color;
-};
-/// Paragraphs, each of runs; a run has no line feeds.
-struct RichText {
-  std::vector<std::vector<TextRun>> paragraphs;
-  std::optional<double> rotation;
-  bool stacked = false;
-
-  bool IsEmpty() const;
-};
-
-/// A layout by hand, in fractions of the chart. `xIsEdge` and the like say that a value is a place; else it
-/// is a distance from the automatic place, or an extent.
+/// A layout that a person set (c:manualLayout), in fractions of the chart's width and height. A missing value
+/// is automatic.
 struct ManualLayout {
+  /// The layout of a plot area is that of the rectangle between the axes, without tick labels.
   bool inner = false;
-  std::optional<double> x, y, width, height;
-  bool xIsEdge = false, yIsEdge = false, widthIsEdge = false, heightIsEdge = false;
+  std::optional<double> x, y;             ///< left and top edge, or distances from the automatic place
+  std::optional<double> width, height;    ///< extents, or the right and bottom edge
+  bool xIsEdge = false, yIsEdge = false;  ///< `x` and `y` are edges
+  bool widthIsEdge = false, heightIsEdge = false;  ///< `width` and `height` are edges
 };
 
+/// The title of a chart or of an axis, or the label of display units.
 struct TitleModel {
   RichText text;
   ShapeStyle style;
   std::optional<ManualLayout> layout;
-  bool overlay = false;
+  bool overlay = false;  ///< it takes no room from the plot area
 };
 
-/// A number format with its code; never null.
+/// A number format.
 using FormatPointer = std::shared_ptr<const xlsx::NumberFormat>;
 
+/// What the data label of a point shows, and how it looks.
 struct LabelModel {
   bool showsValue = false, showsPercent = false, showsCategory = false, showsSeries = false;
   bool showsBubbleSize = false, showsKey = false;
-  std::optional<std::string> separator;
-  std::string position;  ///< ST_DLblPos; never empty
-  FormatPointer format;  ///< of the value, or of a percentage; null where it follows the data
+  std::optional<std::string> separator;  ///< between the parts of the text; ", " if there is none
+  std::string position;                  ///< of ST_DLblPos; never empty
+  /// The format of the value, or of the percentage if there is no value; null for the format of the data.
+  FormatPointer format;
   TextStyle text;
   ShapeStyle style;
-  RichText own;  ///< a text by hand, which replaces the rest
+  RichText own;  ///< a text that a person typed, which replaces all other parts; empty if there is none
   std::optional<ManualLayout> layout;
 
+  /// Returns whether the label has any part of a text.
   bool ShowsAnything() const;
 };
+/// The data labels of a series.
 struct LabelsModel {
   LabelModel common;
-  std::map<std::size_t, LabelModel> points;  ///< from 0
-  std::set<std::size_t> deleted;
+  std::map<std::size_t, LabelModel> points;  ///< labels that differ from `common`, by their points from 0
+  std::set<std::size_t> deleted;             ///< points without a label, from 0
   bool leaderLines = false;
   Stroke leaderStroke;
 
-  /// The label of a point, from 0; null if it has none.
+  /// Returns the label of a point, which counts from 0. Returns null if the point has none.
   const LabelModel* Of(std::size_t point) const;
 };
 
+/// The marker of a point of a line.
 struct MarkerModel {
-  std::string symbol;  ///< ST_MarkerStyle, never "auto"; "none" where none is drawn
-  double size = 7;     ///< points
+  std::string symbol;  ///< of ST_MarkerStyle, but not "auto"; "none" for no marker
+  double size = 7;     ///< edge of the square around it, in points
   ShapeStyle style;
 };
 
+/// The look of a point that differs from its series.
 struct PointModel {
   ShapeStyle style;
   std::optional<MarkerModel> marker;
-  std::optional<double> explosion;
-  std::optional<bool> invertIfNegative;  ///< nothing where it is as the series says
+  std::optional<double> explosion;       ///< percent of the radius; nothing for that of the series
+  std::optional<bool> invertIfNegative;  ///< nothing for that of the series
 };
 
+/// A series.
 struct SeriesModel {
-  pugi::xml_node node;
-  int number = 1;  ///< in plot order, from 1
+  pugi::xml_node node;  ///< c:ser
+  int number = 1;       ///< in plot order, from 1
   std::string name;
-  std::vector<double> values;  ///< NaN where there is none
-  std::vector<double> x;       ///< of scatter and bubble charts; counted from 1 where they are texts
-  std::vector<double> sizes;   ///< of bubbles
+  std::vector<double> values;  ///< NaN for points without a value
+  std::vector<double> x;       ///< X values of scatter and bubble charts; 1, 2, 3, ... if they are texts
+  std::vector<double> sizes;   ///< sizes of bubbles
   FormatPointer valueFormat, sizeFormat;
-  ShapeStyle style;  ///< of bars, areas, bubbles and slices; of lines the stroke
+  ShapeStyle style;  ///< of bars, areas, bubbles and slices; lines have its stroke
   MarkerModel marker;
   bool smooth = false;
   bool invertIfNegative = false;
-  Fill invertedFill;  ///< what a solid filling becomes below zero
+  Fill invertedFill;  ///< replaces a solid filling below zero if that is inverted
   bool bubble3D = false;
-  double explosion = 0;                      ///< percent of the radius
-  std::vector<PointModel> palette;           ///< of points in varied colours; begins again behind its end
-  std::map<std::size_t, PointModel> points;  ///< those that differ from these, from 0
+  double explosion = 0;  ///< percent of the radius
+  std::vector<PointModel>
+      palette;  ///< looks of points in varied colours, repeated from its beginning; empty otherwise
+  std::map<std::size_t, PointModel> points;  ///< points with a look of their own, which count from 0
   LabelsModel labels;
 
+  /// Returns the style of a point, which counts from 0.
   const ShapeStyle& StyleOf(std::size_t point) const;
-  /// The same with the filling that a point has by its value or size, where those below zero are inverted.
+  /// Returns the style of a point of a value or size. If that is below zero, the filling may be inverted.
   ShapeStyle StyleOf(std::size_t point, double value) const;
+  /// Returns whether the filling of a point of a value is inverted.
   bool IsInverted(std::size_t point, double value) const;
+  /// Returns the marker of a point, which counts from 0.
   const MarkerModel& MarkerOf(std::size_t point) const;
 };
 
-/// What neighbouring categories have in common, on an outer level.
+/// Neighbouring categories that share a text on an outer level.
 struct CategoryGroup {
-  std::size_t first = 0, end = 0;  ///< of the categories, from 0 to before the end
+  std::size_t first = 0,
+              end = 0;  ///< the categories from `first` up to but not including `end`; they count from 0
   std::string text;
 };
+/// The groups of an outer level of categories, in their order.
 using CategoryLevel = std::vector<CategoryGroup>;
 
+/// The kinds of plot groups. Those in 3-D have the same families as the flat ones.
 enum class Family : std::uint8_t {
   kArea,
   kBar,
@@ -145,16 +145,18 @@ enum class Family : std::uint8_t {
   kSurface,
   kOfPie
 };
+/// How the series of a group share a category.
 enum class Grouping : std::uint8_t { kStandard, kClustered, kStacked, kPercent };
 
+/// A plot group: series of one kind on the same axes.
 struct GroupModel {
-  pugi::xml_node node;
+  pugi::xml_node node;  ///< c:barChart and the like
   Family family = Family::kBar;
   Grouping grouping = Grouping::kStandard;
   bool is3D = false;
-  bool horizontal = false;  ///< bars
-  bool filled = false;      ///< radar charts, which are drawn as areas
-  bool varyColors = false;
+  bool horizontal = false;             ///< bars that lie
+  bool filled = false;                 ///< a radar chart that is drawn as areas
+  bool varyColors = false;             ///< points differ in colour
   bool markersOnly = false;            ///< a scatter chart without lines
   double gapWidth = 150, overlap = 0;  ///< percent
   double firstSliceAngle = 0;          ///< degrees clockwise from twelve o'clock
@@ -164,107 +166,111 @@ struct GroupModel {
   bool sizeIsWidth = false;  ///< else the area of a bubble is its size
   std::optional<Stroke> dropLines, highLowLines;
   std::vector<SeriesModel> series;
-  std::vector<std::string> categories;     ///< texts of the tick labels; as many as there are points
-  std::vector<CategoryLevel> outerLevels;  ///< from the one next to the categories outwards
-  /// Indices into ChartModel::axes, -1 where the group has none. `category` is the axis of X values of a
-  /// scatter or bubble chart.
+  std::vector<std::string> categories;     ///< texts of the tick labels, at least one for each point
+  std::vector<CategoryLevel> outerLevels;  ///< from the innermost to the outermost
+  /// Indices into ChartModel::axes; -1 if the group has no such axis. `category` is the axis of the X values
+  /// of a scatter or bubble chart.
   int category = -1, value = -1, depth = -1;
 
+  /// Returns whether the values of series are added up.
   bool IsStacked() const { return grouping == Grouping::kStacked || grouping == Grouping::kPercent; }
+  /// Returns whether the group is drawn as slices of a circle.
   bool IsRound() const {
     return family == Family::kPie || family == Family::kDoughnut || family == Family::kOfPie;
   }
+  /// Returns whether points lie at X values instead of categories.
   bool HasXValues() const { return family == Family::kScatter || family == Family::kBubble; }
-  /// The number of points of the longest series.
+  /// Returns the number of points of the longest series.
   std::size_t PointCount() const;
 };
 
+/// What lies along an axis.
 enum class AxisKind : std::uint8_t { kCategory, kDate, kValue, kSeries };
+/// A side of a rectangle.
 enum class Side : std::uint8_t { kLeft, kRight, kTop, kBottom };
 
+/// The unit in which an axis shows its values (c:dispUnits).
 struct DisplayUnits {
-  double factor = 1;
-  std::optional<TitleModel> label;
+  double factor = 1;                ///< values are divided by it
+  std::optional<TitleModel> label;  ///< names the unit beside the axis
 };
 
-/// The days, months or years along an axis of dates. A slot is one of them.
-enum class TimeUnit : std::uint8_t { kDays, kMonths, kYears };
-struct DateSlots {
-  TimeUnit base = TimeUnit::kDays;
-  long long first = 0;            ///< the number of the first slot, days from 1970 or months or years from 0
-  double count = 0;               ///< of slots
-  std::vector<double> positions;  ///< of the categories, in slots from the first
-  double majorUnit = 0;           ///< from label to label; 0 where Excel decides
-  TimeUnit majorBase = TimeUnit::kDays;
-};
-
+/// An axis.
 struct AxisModel {
-  pugi::xml_node node;
-  int number = 1;  ///< in the chart part, from 1
+  pugi::xml_node node;  ///< c:catAx and the like
+  int number = 1;       ///< place in the chart part, from 1
   AxisKind kind = AxisKind::kCategory;
-  Side side = Side::kBottom;  ///< as the chart part has it; see IsUpright
+  Side side = Side::kBottom;  ///< of the plot area, as the file says; decides the direction of the axis
   bool hidden = false;
   bool reversed = false;
-  std::optional<double> logBase;
-  xlsx::AxisScale scale;        ///< of an axis of values
-  xlsx::AxisSettings settings;  ///< what of the scale is set by hand
-  xlsx::DataExtent extent;      ///< of the data along an axis of values
-  std::optional<double> minorUnit;
-  FormatPointer format;
-  std::string tickLabels = "nextTo";                    ///< ST_TickLblPos
-  std::string majorTicks = "out", minorTicks = "none";  ///< ST_TickMark
+  std::optional<double> logBase;      ///< of a logarithmic scale
+  xlsx::AxisScale scale;              ///< minimum, maximum and major unit of an axis of values
+  xlsx::AxisSettings settings;        ///< what a person set of the scale
+  xlsx::DataExtent extent;            ///< of the data along an axis of values
+  std::optional<double> minorUnit;    ///< nothing if it is automatic
+  FormatPointer format;               ///< of the tick labels
+  std::string tickLabels = "nextTo";  ///< of ST_TickLblPos
+  std::string majorTicks = "out", minorTicks = "none";  ///< of ST_TickMark
   Stroke line;
   std::optional<Stroke> majorGridlines, minorGridlines;
   std::optional<TitleModel> title;
   TextStyle text;
-  int crossed = -1;                  ///< index of the axis that it crosses
-  std::string crosses = "autoZero";  ///< ST_Crosses
-  std::optional<double> crossesAt;
-  bool crossesBetween = true;             ///< the axis of values crosses between categories, not on one
-  long long labelSkip = 0, tickSkip = 1;  ///< 0 where Excel decides
+  int crossed = -1;  ///< index into ChartModel::axes of the axis that it crosses; -1 if there is none
+  std::string crosses = "autoZero";  ///< of ST_Crosses
+  std::optional<double> crossesAt;   ///< value or category from 1 where it crosses that axis
+  bool crossesBetween = true;  ///< the axis of values crosses this one between categories, not on a category
+  long long labelSkip = 0,
+            tickSkip = 1;  ///< every so many categories have a label or mark; 0 if Excel decides
   DisplayUnits units;
-  std::vector<std::string> categories;  ///< of its first group
-  std::vector<CategoryLevel> outerLevels;
-  std::optional<DateSlots> dates;  ///< of an axis of dates whose categories are dates
+  std::vector<std::string> categories;     ///< of the group that has most of them
+  std::vector<CategoryLevel> outerLevels;  ///< from the innermost to the outermost
+  std::optional<DateSlots> dates;          ///< of an axis of dates if its categories are dates
 
+  /// Returns whether the axis is vertical.
   bool IsUpright() const { return side == Side::kLeft || side == Side::kRight; }
+  /// Returns whether values lie along the axis.
   bool IsOfValues() const { return kind == AxisKind::kValue; }
 };
 
+/// An entry of the legend.
 struct LegendEntry {
   std::string text;
   TextStyle style;
-  int series = 0, point = 0;  ///< from 1; point is 0 where the entry is of a series
+  int series = 0, point = 0;  ///< from 1; `point` is 0 if the entry is that of a series
 };
+/// The legend.
 struct LegendModel {
-  std::string position = "r";  ///< ST_LegendPos
-  bool overlay = false;
+  std::string position = "r";  ///< of ST_LegendPos
+  bool overlay = false;        ///< it takes no room from the plot area
   std::optional<ManualLayout> layout;
   ShapeStyle style;
   TextStyle text;
   std::vector<LegendEntry> entries;
 
-  /// Whether it lies above or below the plot area, with its entries side by side.
+  /// Returns whether the legend is above or below the plot area, with its entries side by side.
   bool IsFlat() const { return position == "t" || position == "b"; }
 };
 
+/// A chart.
 struct ChartModel {
   ShapeStyle chartArea, plotArea;
   bool roundedCorners = false;
   std::optional<TitleModel> title;
   std::optional<LegendModel> legend;
   std::optional<ManualLayout> layout;  ///< of the plot area
-  std::vector<GroupModel> groups;      ///< those with series, in the order in which they are drawn
+  std::vector<GroupModel> groups;      ///< groups that have series, in the order of drawing
   std::vector<AxisModel> axes;
-  std::vector<AxisModel> spokes;  ///< those of a radar chart, which draws them by itself
-  std::string blanks = "gap";     ///< ST_DispBlanksAs
+  std::vector<AxisModel> spokes;  ///< axes of a radar chart, which DrawRadar draws
+  std::string blanks = "gap";     ///< of ST_DispBlanksAs
   xlsx::DateSystem dates = xlsx::DateSystem::k1900;
 
+  /// Returns whether any group is drawn in 3-D.
   bool Is3D() const;
-  /// Whether all groups are pies or doughnuts.
+  /// Returns whether all groups are pies or doughnuts.
   bool IsRound() const;
-  /// Null for a number that no series has.
+  /// Returns the series of a number, which counts from 1 in plot order. Returns null if there is none.
   const SeriesModel* FindSeries(int number) const;
+  /// Returns the group of a series by its number, or null if there is none.
   const GroupModel* GroupOfSeries(int number) const;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "render/model/AxisScaling.h"
 #include "xlsx/book/BookContext.h"
 #include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/chart/rules/ChartText.h"
@@ -20,7 +21,7 @@ namespace xml = xlsx::xml;
 namespace {
 
 std::vector<AxisModel> ReadAxes(ReadingContext& context, pugi::xml_node plotArea) {
-  constexpr std::size_t kMostAxes = 16;  // Excel has four, and a fifth in depth
+  constexpr std::size_t kMostAxes = 16;  // Excel has four, and a fifth in depth.
   std::vector<AxisModel> axes;
   for (const pugi::xml_node& node : plotArea.children()) {
     if (!schema::IsAxis(node) || axes.size() == kMostAxes) continue;
@@ -36,14 +37,14 @@ int IndexOf(const std::vector<AxisModel>& axes, pugi::xml_node node) {
   return found == axes.end() ? -1 : static_cast<int>(found - axes.begin());
 }
 
-/// Two axes that a file has on the same side, or on opposite ones, are laid across each other.
+/// Makes the two axes of a group perpendicular if a file has them on the same or on opposite sides.
 void LayAcross(const GroupModel& group, AxisModel& category, AxisModel& value) {
   if (category.IsUpright() != value.IsUpright()) return;
   category.side = group.horizontal ? Side::kLeft : Side::kBottom;
   value.side = group.horizontal ? Side::kBottom : Side::kLeft;
 }
 
-/// Gives an axis the categories of a group; those of several levels as one text where the axis says so.
+/// Gives an axis the categories of a group. If the axis shows no levels, the texts of all levels become one.
 void TakeCategories(const GroupModel& group, AxisModel& axis) {
   axis.categories = group.categories;
   axis.outerLevels = group.outerLevels;
@@ -55,7 +56,7 @@ void TakeCategories(const GroupModel& group, AxisModel& axis) {
   }
 }
 
-/// Ties a group to its axes, and gives those what they have of the group.
+/// Sets the axes of a group, and gives them the categories and number formats of the group.
 void Attach(ReadingContext& context, GroupModel& group, std::vector<AxisModel>& axes) {
   const xlsx::AxisRoles roles = xlsx::RolesOf(xlsx::AxesOf(group.node));
   group.category = IndexOf(axes, group.HasXValues() && roles.x ? roles.x : roles.category);
@@ -80,8 +81,8 @@ void Attach(ReadingContext& context, GroupModel& group, std::vector<AxisModel>& 
   }
 }
 
-/// Makes an axis of categories one of values where only X values lie along it. If it has categories as well,
-/// X values are counted in them.
+/// Makes an axis of categories one of values if only X values lie along it. If other groups have categories
+/// on it, an X value is the number of a category.
 void SettleXAxes(ReadingContext& context, ChartModel& chart) {
   for (const GroupModel& group : chart.groups) {
     if (!group.HasXValues() || group.category < 0) continue;
@@ -151,7 +152,7 @@ ChartModel ReadChart(xlsx::ChartPart& part, Notes& notes) {
   chart.dates = part.Book().Dates();
   chart.chartArea = ReadStyle(part, xml::Child(space, "spPr"), context.styles.ChartArea());
   chart.roundedCorners = schema::BooleanVal(space, "roundedCorners", false);
-  // Excel writes the element unless another program left it out, and draws gaps where it is absent.
+  // Excel always writes the element. If another program left it out, Excel draws gaps.
   chart.blanks = schema::Val(node, "dispBlanksAs", "gap");
   chart.layout = ReadLayout(plotArea);
   chart.axes = ReadAxes(context, plotArea);

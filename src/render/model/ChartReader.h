@@ -4,61 +4,61 @@
 #include <string>
 #include <vector>
 
-#include "render/ChartDrawing.h"
+#include "render/Notes.h"
 #include "render/model/ChartModel.h"
 #include "render/model/StyleReader.h"
 
 namespace plotsmith::render {
 
-/// Points of one series, and of all series of a chart, that are drawn. Excel's own limits were 32,000 and
-/// 256,000 for long. Numbers and texts count alike.
+/// The most points that are drawn of one series, and of all series of a chart. Numbers and texts count alike.
+/// Excel drew at most 32,000 and 256,000 until Excel 2010.
 inline constexpr std::size_t kMostPoints = 100'000, kMostPointsOfAll = 2'000'000;
 
-/// What the readers of a chart's parts share.
+/// What the functions share that read a chart.
 struct ReadingContext {
   xlsx::ChartPart& part;
   Notes& notes;
   AutomaticStyles styles;
   std::map<std::string, FormatPointer> formats = {};
-  std::size_t pointsLeft = kMostPointsOfAll;
+  std::size_t pointsLeft = kMostPointsOfAll;  ///< that may still be read
 
+  /// The chart and the sentences must outlive the context.
   ReadingContext(xlsx::ChartPart& chart, Notes& sentences) : part(chart), notes(sentences), styles(chart) {}
-  /// The format of a code; General for a code that Excel refuses.
+  /// Returns the format of a code, and General for a code that Excel refuses. Never null.
   FormatPointer Format(const std::string& code);
 };
 
-/// Reads all of a chart that is drawn. Error 1004 for one that can't be read.
+/// Reads a chart. What is left out is added to `notes`. Raises error 1004 if the chart can't be read.
 ChartModel ReadChart(xlsx::ChartPart& part, Notes& notes);
 
-// The parts of it.
+// ReadChart calls the functions below.
 
-/// A plot group (c:barChart and the like) with its series; its axes are left open. `numbers` has the places
-/// of the series in plot order, from 1.
+/// Reads a plot group (c:barChart and the like) with its series, but without its axes. `numbers` has the
+/// numbers of the series in plot order, from 1.
 GroupModel ReadGroup(ReadingContext& context, pugi::xml_node group,
                      const std::map<pugi::xml_node, int>& numbers);
-/// Whether the element is a group of a kind that is known.
+/// Returns whether an element is a plot group of a known kind.
 bool IsKnownGroup(pugi::xml_node group);
-/// The labels of a series; `position` is where those stand that don't say it.
+/// Reads the labels of a series. Labels without a position of their own have `position` (ST_DLblPos).
 LabelsModel ReadLabels(ReadingContext& context, pugi::xml_node series, const std::string& position);
-/// An axis but for its scale and its categories.
+/// Reads an axis without its scale and its categories.
 AxisModel ReadAxis(ReadingContext& context, pugi::xml_node axis);
-/// A title element; `automatic` is its text where it has none of its own.
+/// Reads a title element. Its text is `automatic` if it has none.
 TitleModel ReadTitle(ReadingContext& context, pugi::xml_node title, xlsx::TextRole role,
                      const std::string& automatic);
+/// Reads the legend. Returns nothing if the chart has none.
 std::optional<LegendModel> ReadLegend(ReadingContext& context);
-/// Lays the categories of an axis of dates (c:cat) out by their dates; leaves it as one of categories where
-/// they are none.
+/// Sets the slots of an axis of dates from its categories (c:cat). The axis stays one of categories if they
+/// aren't dates.
 void ReadDates(ReadingContext& context, pugi::xml_node categories, AxisModel& axis);
-/// Scales the axes of values by the data of their groups.
-void ScaleAxes(ChartModel& chart);
-/// Gives an axis the next larger major unit of 1, 2, 5, 10, ...
-void CoarsenScale(AxisModel& axis);
 
-/// The numbers of a series' data (c:val, c:xVal, ...), one for each point, NaN where there is none.
+/// Reads the numbers of a series' data (c:val, c:xVal and the like): one for each point, and NaN for a
+/// missing one.
 std::vector<double> ReadNumbers(ReadingContext& context, pugi::xml_node data);
-/// The levels beyond the innermost of categories that have several.
+/// Reads the outer levels of `categories` categories. Returns none if there is only one level.
 std::vector<CategoryLevel> ReadOuterLevels(pugi::xml_node data, std::size_t categories);
-/// The texts of the categories, one for each point.
+/// Reads the texts of categories (c:cat), one for each point. If there are several levels, they are those of
+/// the innermost.
 std::vector<std::string> ReadCategories(ReadingContext& context, pugi::xml_node data);
 
 }  // namespace plotsmith::render

@@ -24,7 +24,8 @@ namespace {
 
 constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
 
-/// The points that may be read of a cache that claims so many.
+/// Returns how many points may be read of a cache that claims to have `claimed` points. Adds a note if it has
+/// more.
 std::size_t Admitted(ReadingContext& context, long long claimed) {
   const auto wanted = static_cast<std::size_t>(std::max(claimed, 0LL));
   const std::size_t count = std::min({wanted, kMostPoints, context.pointsLeft});
@@ -38,7 +39,7 @@ std::size_t Admitted(ReadingContext& context, long long claimed) {
   return count;
 }
 
-/// The cells that a reference without a cache points at.
+/// The cells of a reference without a cache.
 struct Cells {
   std::shared_ptr<xlsx::CellSource> sheet;
   xlsx::CellRange range;
@@ -72,10 +73,44 @@ std::vector<double> NumbersOfCells(ReadingContext& context, const Cells& cells) 
     if (number) {
       numbers[index] = value.number;
     } else if (value.kind == CellValue::Kind::kText) {
-      numbers[index] = 0;  // a text among numbers is drawn as 0
+      numbers[index] = 0;  // Excel draws a text among numbers as 0.
     }
   });
   return numbers;
+}
+
+/// Reads the texts of a cache (c:strCache, c:numCache, c:multiLvlStrCache) or of literals.
+std::vector<std::string> CachedCategories(ReadingContext& context, pugi::xml_node cache) {
+  std::vector<std::string> texts(Admitted(context, schema::IntegerVal(cache, "ptCount", 0)));
+  const bool numbers = xml::Is(cache, "numCache") || xml::Is(cache, "numLit");
+  const FormatPointer format = numbers ? context.Format(xml::Text(xml::Child(cache, "formatCode"))) : nullptr;
+  // If there are several levels, the first is the innermost one.
+  const auto level = xml::Child(cache, "lvl");
+  for (const pugi::xml_node& point : (level ? level : cache).children()) {
+    if (!xml::Is(point, "pt")) continue;
+    const auto index = static_cast<unsigned long long>(xml::IntegerAttribute(point, "idx", -1));
+    if (index >= texts.size()) continue;
+    std::string text = xlsx::CachedText(point);
+    const auto number = numbers ? xml::ParseDouble(text) : std::nullopt;
+    if (number) {
+      text.clear();
+      format->AppendNumber(text, *number, context.part.Book().Dates());
+    }
+    texts[index] = std::move(text);
+  }
+  return texts;
+}
+
+/// Reads the texts of the cells that a source refers to.
+std::vector<std::string> CategoriesOfCells(ReadingContext& context, pugi::xml_node source) {
+  const auto cells = CellsOf(context, source);
+  if (!cells) return {};
+  std::vector<std::string> texts(Admitted(context, cells->range.CellCount()));
+  std::string scratch;
+  cells->ForEach(texts.size(), [&](std::size_t index, std::int32_t row, std::int32_t column) {
+    texts[index] = cells->sheet->CellTextAt(row, column, scratch);
+  });
+  return texts;
 }
 
 }  // namespace
@@ -102,39 +137,11 @@ std::vector<double> ReadNumbers(ReadingContext& context, pugi::xml_node data) {
 std::vector<std::string> ReadCategories(ReadingContext& context, pugi::xml_node data) {
   const auto source =
       data.find_child([](pugi::xml_node child) { return child.type() == pugi::node_element; });
-  const bool literal = xml::Is(source, "strLit") || xml::Is(source, "numLit");
-  pugi::xml_node cache = literal ? source : pugi::xml_node();
+  if (xml::Is(source, "strLit") || xml::Is(source, "numLit")) return CachedCategories(context, source);
   for (const char* name : {"strCache", "numCache", "multiLvlStrCache"}) {
-    if (!cache) cache = xml::Child(source, name);
+    if (const auto cache = xml::Child(source, name)) return CachedCategories(context, cache);
   }
-  if (!cache) {
-    const auto cells = CellsOf(context, source);
-    if (!cells) return {};
-    std::vector<std::string> texts(Admitted(context, cells->range.CellCount()));
-    std::string scratch;
-    cells->ForEach(texts.size(), [&](std::size_t index, std::int32_t row, std::int32_t column) {
-      texts[index] = cells->sheet->CellTextAt(row, column, scratch);
-    });
-    return texts;
-  }
-  std::vector<std::string> texts(Admitted(context, schema::IntegerVal(cache, "ptCount", 0)));
-  const bool numbers = xml::Is(cache, "numCache") || xml::Is(cache, "numLit");
-  const FormatPointer format = numbers ? context.Format(xml::Text(xml::Child(cache, "formatCode"))) : nullptr;
-  // of several levels, the first is the one along the axis
-  const auto level = xml::Child(cache, "lvl");
-  for (const pugi::xml_node& point : (level ? level : cache).children()) {
-    if (!xml::Is(point, "pt")) continue;
-    const auto index = static_cast<unsigned long long>(xml::IntegerAttribute(point, "idx", -1));
-    if (index >= texts.size()) continue;
-    std::string text = xlsx::CachedText(point);
-    const auto number = numbers ? xml::ParseDouble(text) : std::nullopt;
-    if (number) {
-      text.clear();
-      format->AppendNumber(text, *number, context.part.Book().Dates());
-    }
-    texts[index] = std::move(text);
-  }
-  return texts;
+  return CategoriesOfCells(context, source);
 }
 
 std::vector<CategoryLevel> ReadOuterLevels(pugi::xml_node data, std::size_t categories) {
@@ -145,7 +152,7 @@ std::vector<CategoryLevel> ReadOuterLevels(pugi::xml_node data, std::size_t cate
        xml::Children(xml::Child(data, "multiLvlStrRef", "multiLvlStrCache"), "lvl")) {
     if (std::exchange(isInnermost, false)) continue;
     if (levels.size() == kMostLevels) break;
-    std::map<std::size_t, std::string> texts;  // by the category where they begin
+    std::map<std::size_t, std::string> texts;  // by the categories where they begin
     for (const pugi::xml_node& point : xml::Children(node, "pt")) {
       const auto index = static_cast<unsigned long long>(xml::IntegerAttribute(point, "idx", -1));
       if (index < categories) texts[index] = xlsx::CachedText(point);

@@ -2,7 +2,6 @@
 #include <cmath>
 #include <set>
 
-#include "render/axes/DateAxis.h"
 #include "render/model/ChartReader.h"
 #include "xlsx/book/BookContext.h"
 #include "xlsx/chart/part/ChartPart.h"
@@ -24,7 +23,7 @@ std::optional<TimeUnit> UnitOf(pugi::xml_node axis, const char* name) {
   return std::nullopt;
 }
 
-/// The longest unit of which no two dates share one.
+/// Returns the longest unit in which no two dates share a slot.
 TimeUnit BaseOf(const std::vector<double>& serials, xlsx::DateSystem dates) {
   for (const TimeUnit unit : {TimeUnit::kYears, TimeUnit::kMonths}) {
     std::set<long long> taken;

@@ -14,7 +14,7 @@ ImageSource ImagesOf(xlsx::BookContext& book, std::string part) {
       if (!link || link->external || !book.Package().Has(link->target)) return {};
       return book.Package().Read(link->target);
     } catch (const xlsx::PackageError&) {
-      return {};  // a picture that can't be read is no reason to give the drawing up
+      return {};  // The rest of the drawing is still drawn.
     }
   };
 }

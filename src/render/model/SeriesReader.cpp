@@ -17,31 +17,34 @@ namespace xml = xlsx::xml;
 
 namespace {
 
-constexpr std::size_t kMostColors = 54;  // until the colourful palette begins again
-constexpr double kLineWidth = 2.25;      // points, of an automatic line of a series
-constexpr double kMarkerSize = 7;        // points, of an automatic marker
+constexpr std::size_t kMostColors = 54;                      // after which the varied colours repeat
+constexpr double kLineWidth = 2.25;                          // points, of an automatic line of a series
+constexpr double kMarkerSize = 7;                            // points, of an automatic marker
+constexpr const char *kAutomatic = "auto", *kNone = "none";  // values of ST_MarkerStyle
 
 struct Kind {
   std::string_view element;
   Family family;
-  bool is3D;
+
+  /// Returns whether the group is drawn in 3-D, which is part of the name of its element.
+  bool Is3D() const { return element.find("3D") != std::string_view::npos; }
 };
-constexpr std::array<Kind, 16> kKinds = {{{"areaChart", Family::kArea, false},
-                                          {"area3DChart", Family::kArea, true},
-                                          {"barChart", Family::kBar, false},
-                                          {"bar3DChart", Family::kBar, true},
-                                          {"lineChart", Family::kLine, false},
-                                          {"line3DChart", Family::kLine, true},
-                                          {"pieChart", Family::kPie, false},
-                                          {"pie3DChart", Family::kPie, true},
-                                          {"doughnutChart", Family::kDoughnut, false},
-                                          {"ofPieChart", Family::kOfPie, false},
-                                          {"scatterChart", Family::kScatter, false},
-                                          {"bubbleChart", Family::kBubble, false},
-                                          {"stockChart", Family::kStock, false},
-                                          {"radarChart", Family::kRadar, false},
-                                          {"surfaceChart", Family::kSurface, false},
-                                          {"surface3DChart", Family::kSurface, true}}};
+constexpr std::array<Kind, 16> kKinds = {{{"areaChart", Family::kArea},
+                                          {"area3DChart", Family::kArea},
+                                          {"barChart", Family::kBar},
+                                          {"bar3DChart", Family::kBar},
+                                          {"lineChart", Family::kLine},
+                                          {"line3DChart", Family::kLine},
+                                          {"pieChart", Family::kPie},
+                                          {"pie3DChart", Family::kPie},
+                                          {"doughnutChart", Family::kDoughnut},
+                                          {"ofPieChart", Family::kOfPie},
+                                          {"scatterChart", Family::kScatter},
+                                          {"bubbleChart", Family::kBubble},
+                                          {"stockChart", Family::kStock},
+                                          {"radarChart", Family::kRadar},
+                                          {"surfaceChart", Family::kSurface},
+                                          {"surface3DChart", Family::kSurface}}};
 
 const Kind* KindOf(pugi::xml_node group) {
   const auto found = std::find_if(kKinds.begin(), kKinds.end(),
@@ -56,7 +59,7 @@ Grouping GroupingOf(pugi::xml_node group, Family family) {
   return family == Family::kBar && grouping != "standard" ? Grouping::kClustered : Grouping::kStandard;
 }
 
-/// A number within the limits of the schema.
+/// Reads a number and limits it to a range.
 double Limited(pugi::xml_node parent, const char* name, double fallback, double least, double most) {
   const auto number = schema::NumberVal(parent, name);
   return number && std::isfinite(*number) ? std::clamp(*number, least, most) : fallback;
@@ -85,7 +88,7 @@ bool IsDrawnAsLine(const GroupModel& group) {
          group.family == Family::kStock || (group.family == Family::kRadar && !group.filled);
 }
 
-/// What a series or a point looks like where nothing is set.
+/// Returns the look of a series or point without settings.
 ShapeStyle AutomaticStyle(const GroupModel& group, const Color& color) {
   if (IsDrawnAsLine(group) && !group.is3D) {
     return {{}, {color, kLineWidth, {}, LineCap::kRound, LineJoin::kRound}};
@@ -93,53 +96,58 @@ ShapeStyle AutomaticStyle(const GroupModel& group, const Color& color) {
   return {SolidFill{color}, {}};
 }
 
+/// Reads a marker (c:marker). One without a symbol has `defaultSymbol`.
 MarkerModel ReadMarker(ReadingContext& context, pugi::xml_node marker, const MarkerModel& automatic,
-                       bool drawnWithout) {
+                       const char* defaultSymbol) {
   constexpr double kLeast = 2, kMost = 72;
   MarkerModel model = automatic;
-  const std::string symbol = schema::Val(marker, "symbol", drawnWithout ? "auto" : "none");
-  if (symbol != "auto") model.symbol = symbol;
+  const std::string symbol = schema::Val(marker, "symbol", defaultSymbol);
+  if (symbol != kAutomatic) model.symbol = symbol;
   model.size = Limited(marker, "size", automatic.size, kLeast, kMost);
   model.style = ReadStyle(context.part, xml::Child(marker, "spPr"), automatic.style);
   return model;
 }
 
-/// The markers of a series, by its number in the file, where nothing is set.
+/// Returns the markers of a series without settings. `index` is the number of the series in the file, from 0.
 MarkerModel AutomaticMarker(const Color& color, std::size_t index) {
   constexpr std::array<const char*, 9> kSymbols = {"diamond", "square", "triangle", "x",   "star",
                                                    "circle",  "plus",   "dot",      "dash"};
   return {kSymbols[index % kSymbols.size()], kMarkerSize, {SolidFill{color}, {color, 0.75}}};
 }
 
-/// Whether a group draws markers on a series that doesn't speak of them.
-bool DrawsMarkers(const GroupModel& group) {
-  if (group.family == Family::kLine) return schema::BooleanVal(group.node, "marker", false);
-  if (group.family == Family::kScatter) {
+/// Returns the symbol of series in a group that don't set one.
+const char* DefaultSymbol(const GroupModel& group) {
+  bool draws = false;
+  if (group.family == Family::kLine) {
+    draws = schema::BooleanVal(group.node, "marker", false);
+  } else if (group.family == Family::kScatter) {
     const std::string style = schema::Val(group.node, "scatterStyle", "marker");
-    return style != "line" && style != "smooth" && style != "none";
+    draws = style != "line" && style != "smooth" && style != "none";
+  } else if (group.family == Family::kRadar) {
+    draws = schema::Val(group.node, "radarStyle") == "marker";
   }
-  if (group.family == Family::kRadar) return schema::Val(group.node, "radarStyle") == "marker";
-  return false;
+  return draws ? kAutomatic : kNone;
 }
 
-/// The looks of points that differ in colour, until they begin again.
+/// Returns the looks of points in varied colours, up to the one after which they repeat.
 std::vector<PointModel> VariedPoints(ReadingContext& context, const GroupModel& group,
-                                     const SeriesModel& series, bool drawsMarkers) {
+                                     const SeriesModel& series) {
   std::vector<PointModel> points;
   const std::size_t count = std::clamp<std::size_t>(series.values.size(), 1, kMostColors);
   for (std::size_t i = 0; i < count; ++i) {
     const Color color = context.styles.SeriesColor(i, count);
     PointModel& point = points.emplace_back();
     point.style = ReadStyle(context.part, xml::Child(series.node, "spPr"), AutomaticStyle(group, color));
-    point.marker =
-        ReadMarker(context, xml::Child(series.node, "marker"), AutomaticMarker(color, i), drawsMarkers);
+    point.marker = ReadMarker(context, xml::Child(series.node, "marker"), AutomaticMarker(color, i),
+                              DefaultSymbol(group));
   }
   return points;
 }
 
-void ReadPoints(ReadingContext& context, const GroupModel& group, SeriesModel& series, bool drawsMarkers,
-                bool varies) {
-  if (varies) series.palette = VariedPoints(context, group, series, drawsMarkers);
+/// Reads the looks of the points of a series that differ from its own.
+void ReadPoints(ReadingContext& context, const GroupModel& group, SeriesModel& series) {
+  const bool varies = group.varyColors && !xlsx::FindFill(xml::Child(series.node, "spPr"));
+  if (varies) series.palette = VariedPoints(context, group, series);
   for (const pugi::xml_node& node : xml::Children(series.node, "dPt")) {
     const long long number = schema::NumberOf(node);
     if (number < 0 || static_cast<std::size_t>(number) >= series.values.size()) continue;
@@ -149,11 +157,11 @@ void ReadPoints(ReadingContext& context, const GroupModel& group, SeriesModel& s
     PointModel& point = series.points[index];
     point.style = ReadStyle(context.part, xml::Child(node, "spPr"), automatic);
     if (const auto marker = xml::Child(node, "marker")) {
-      point.marker = ReadMarker(context, marker, automaticMarker, true);
+      point.marker = ReadMarker(context, marker, automaticMarker, kAutomatic);
     } else {
       point.marker = automaticMarker;
     }
-    // a point with a filling of its own keeps it, unless it says otherwise
+    // A point with a filling of its own isn't inverted, unless it sets that itself.
     if (xml::Child(node, "invertIfNegative") || xlsx::FindFill(xml::Child(node, "spPr"))) {
       point.invertIfNegative = schema::BooleanVal(node, "invertIfNegative", false);
     }
@@ -161,7 +169,8 @@ void ReadPoints(ReadingContext& context, const GroupModel& group, SeriesModel& s
   }
 }
 
-/// The colour that Excel since 2010 has for inverted points, in an extension of the series; else white.
+/// Reads the filling of inverted points from the extension that Excel writes since 2010. It is white without
+/// one.
 Fill ReadInvertedFill(ReadingContext& context, pugi::xml_node series) {
   const Fill white = SolidFill{{255, 255, 255, 1}};
   for (const pugi::xml_node& extension : xml::Children(xml::Child(series, "extLst"), "ext")) {
@@ -171,57 +180,60 @@ Fill ReadInvertedFill(ReadingContext& context, pugi::xml_node series) {
   return white;
 }
 
-SeriesModel ReadSeries(ReadingContext& context, const GroupModel& group, pugi::xml_node node, int number) {
-  SeriesModel series;
-  series.node = node;
-  series.number = number;
-  series.name = xlsx::ShownName(context.part, node);
-  const auto values = xlsx::FindValues(node);
+FormatPointer ReadFormat(ReadingContext& context, pugi::xml_node data) {
+  return context.Format(xml::Text(xml::Child(data, "numRef", "numCache", "formatCode")));
+}
+
+/// Reads the numbers of a series and their formats.
+void ReadData(ReadingContext& context, const GroupModel& group, SeriesModel& series) {
+  const auto values = xlsx::FindValues(series.node);
   series.values = ReadNumbers(context, values);
-  series.valueFormat = context.Format(xml::Text(xml::Child(values, "numRef", "numCache", "formatCode")));
-  if (group.HasXValues()) {
-    const auto x = xml::Child(node, "xVal");
-    series.x = ReadNumbers(context, x);
-    if (series.x.empty()) {
-      for (std::size_t i = 0; i < series.values.size(); ++i) series.x.push_back(static_cast<double>(i + 1));
-    }
+  series.valueFormat = ReadFormat(context, values);
+  if (group.HasXValues()) series.x = ReadNumbers(context, xml::Child(series.node, "xVal"));
+  if (group.HasXValues() && series.x.empty()) {
+    for (std::size_t i = 0; i < series.values.size(); ++i) series.x.push_back(static_cast<double>(i + 1));
   }
   if (group.family == Family::kBubble) {
-    const auto sizes = xml::Child(node, "bubbleSize");
+    const auto sizes = xml::Child(series.node, "bubbleSize");
     series.sizes = ReadNumbers(context, sizes);
-    series.sizeFormat = context.Format(xml::Text(xml::Child(sizes, "numRef", "numCache", "formatCode")));
+    series.sizeFormat = ReadFormat(context, sizes);
   }
+}
 
+/// Reads the looks of a series and of its points.
+void ReadLooks(ReadingContext& context, const GroupModel& group, SeriesModel& series) {
+  const pugi::xml_node node = series.node;
   const long long idx = std::clamp(schema::IntegerVal(node, "idx", 0), 0LL, 100'000LL);
   const auto index = static_cast<std::size_t>(idx);
   const Color color = context.styles.SeriesColor(index, context.part.Series().size());
-  const auto properties = xml::Child(node, "spPr");
-  series.style = ReadStyle(context.part, properties, AutomaticStyle(group, color));
-  const bool drawsMarkers = DrawsMarkers(group);
+  series.style = ReadStyle(context.part, xml::Child(node, "spPr"), AutomaticStyle(group, color));
   series.marker =
-      ReadMarker(context, xml::Child(node, "marker"), AutomaticMarker(color, index), drawsMarkers);
+      ReadMarker(context, xml::Child(node, "marker"), AutomaticMarker(color, index), DefaultSymbol(group));
   series.smooth = schema::BooleanVal(node, "smooth", false);
   series.invertIfNegative = schema::BooleanVal(node, "invertIfNegative", false);
   series.invertedFill = ReadInvertedFill(context, node);
   series.bubble3D = schema::BooleanVal(node, "bubble3D", schema::BooleanVal(group.node, "bubble3D", false));
   series.explosion = Limited(node, "explosion", 0, 0, 400);
-  const bool varies = group.varyColors && !xlsx::FindFill(properties);
-  ReadPoints(context, group, series, drawsMarkers, varies);
+  ReadPoints(context, group, series);
+}
+
+SeriesModel ReadSeries(ReadingContext& context, const GroupModel& group, pugi::xml_node node, int number) {
+  SeriesModel series;
+  series.node = node;
+  series.number = number;
+  series.name = xlsx::ShownName(context.part, node);
+  ReadData(context, group, series);
+  ReadLooks(context, group, series);
   series.labels = ReadLabels(context, node, DefaultLabelPosition(group));
   return series;
 }
 
-}  // namespace
-
-bool IsKnownGroup(pugi::xml_node group) { return KindOf(group) != nullptr; }
-
-GroupModel ReadGroup(ReadingContext& context, pugi::xml_node node,
-                     const std::map<pugi::xml_node, int>& numbers) {
-  GroupModel group;
+/// Reads what a group says of itself, without its series and categories.
+void ReadSettings(ReadingContext& context, GroupModel& group) {
+  const pugi::xml_node node = group.node;
   const Kind& kind = *KindOf(node);
-  group.node = node;
   group.family = kind.family;
-  group.is3D = kind.is3D;
+  group.is3D = kind.Is3D();
   group.grouping = GroupingOf(node, kind.family);
   group.horizontal = kind.family == Family::kBar && schema::Val(node, "barDir", "col") == "bar";
   group.filled = kind.family == Family::kRadar && schema::Val(node, "radarStyle") == "filled";
@@ -232,9 +244,12 @@ GroupModel ReadGroup(ReadingContext& context, pugi::xml_node node,
   group.bubbleScale = Limited(node, "bubbleScale", 100, 0, 300);
   group.showNegativeBubbles = schema::BooleanVal(node, "showNegBubbles", false);
   group.sizeIsWidth = schema::Val(node, "sizeRepresents", "area") == "w";
-  // Excel joins the points with lines where a file doesn't say how they are drawn
+  // If a file doesn't say how the points are drawn, Excel joins them with lines.
   const std::string style = schema::Val(node, "scatterStyle", "lineMarker");
   group.markersOnly = kind.family == Family::kScatter && (style == "marker" || style == "none");
+  // Colours differ by point only if the group has slices or the chart has one series.
+  group.varyColors = schema::BooleanVal(node, "varyColors", group.IsRound()) &&
+                     (group.IsRound() || context.part.Series().size() == 1);
   const auto readLines = [&](const char* name, std::optional<Stroke>& stroke) {
     const auto lines = xml::Child(node, name);
     if (!lines) return;
@@ -242,27 +257,41 @@ GroupModel ReadGroup(ReadingContext& context, pugi::xml_node node,
   };
   readLines("dropLines", group.dropLines);
   readLines("hiLowLines", group.highLowLines);
-  const auto all = xml::Children(node, "ser");
-  // points differ in colour where there is nothing else to tell apart
-  group.varyColors = schema::BooleanVal(node, "varyColors", group.IsRound()) &&
-                     (group.IsRound() || context.part.Series().size() == 1);
-  for (const pugi::xml_node& series : all) {
-    const auto number = numbers.find(series);
-    if (number != numbers.end()) group.series.push_back(ReadSeries(context, group, series, number->second));
-  }
-  std::sort(group.series.begin(), group.series.end(),
-            [](const SeriesModel& a, const SeriesModel& b) { return a.number < b.number; });
+}
+
+/// Reads the categories of the first series that has some. Points beyond them have an empty text, or their
+/// numbers if no series has categories.
+void ReadCategoriesOf(ReadingContext& context, GroupModel& group) {
   for (const SeriesModel& series : group.series) {
     if (group.HasXValues()) break;
-    group.categories = ReadCategories(context, xml::Child(series.node, "cat"));
+    const auto data = xml::Child(series.node, "cat");
+    group.categories = ReadCategories(context, data);
     if (group.categories.empty()) continue;
-    group.outerLevels = ReadOuterLevels(xml::Child(series.node, "cat"), group.categories.size());
+    group.outerLevels = ReadOuterLevels(data, group.categories.size());
     break;
   }
   const std::size_t named = group.categories.size();
   for (std::size_t i = named; i < group.PointCount(); ++i) {
     group.categories.push_back(named == 0 ? std::to_string(i + 1) : std::string());
   }
+}
+
+}  // namespace
+
+bool IsKnownGroup(pugi::xml_node group) { return KindOf(group) != nullptr; }
+
+GroupModel ReadGroup(ReadingContext& context, pugi::xml_node node,
+                     const std::map<pugi::xml_node, int>& numbers) {
+  GroupModel group;
+  group.node = node;
+  ReadSettings(context, group);
+  for (const pugi::xml_node& series : xml::Children(node, "ser")) {
+    const auto number = numbers.find(series);
+    if (number != numbers.end()) group.series.push_back(ReadSeries(context, group, series, number->second));
+  }
+  std::sort(group.series.begin(), group.series.end(),
+            [](const SeriesModel& a, const SeriesModel& b) { return a.number < b.number; });
+  ReadCategoriesOf(context, group);
   return group;
 }
 

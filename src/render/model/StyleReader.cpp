@@ -28,10 +28,11 @@ namespace xml = xlsx::xml;
 namespace {
 
 constexpr double kUnitsPerDegree = 60000;
-constexpr double kHairline = 0.75;    // points, where a line doesn't say its width
-constexpr double kWidestLine = 1584;  // points, the most that a file may say
+constexpr double kHairline = 0.75;    // points, of a line without a width
+constexpr double kWidestLine = 1584;  // points, the limit of the file format
 
-/// A percentage of DrawingML: thousandths, or a text such as "65%".
+/// Reads a percentage of DrawingML, which is in thousandths of a percent or a text such as "65%", as a
+/// fraction.
 double FractionOf(pugi::xml_node node, const char* name, double fallback) {
   const std::string text = xml::Attribute(node, name);
   if (text.ends_with('%')) return xml::ParseDouble(text.substr(0, text.size() - 1)).value_or(0) / 100;
@@ -39,7 +40,7 @@ double FractionOf(pugi::xml_node node, const char* name, double fallback) {
   return thousandths ? *thousandths / 100000 : fallback;
 }
 
-/// How much of a colour is seen, from 0 to 1.
+/// Returns the opacity of a colour, from 0 to 1.
 double AlphaOf(pugi::xml_node holder) {
   double alpha = 1;
   for (const pugi::xml_node& color : holder.children()) {
@@ -78,7 +79,8 @@ std::vector<double> DashesOf(std::string_view name, double width) {
   return lengths;
 }
 
-/// A picture that is stretched, or in tiles of its size at 96 dots an inch or another scale.
+/// Reads a picture that is stretched or repeated. A pixel of a tile is 1/96 inch, times the scale of the
+/// tile.
 Fill ReadPicture(const Palette& palette, pugi::xml_node fill, const Fill& automatic) {
   std::string bytes = palette.Picture(fill);
   const auto size = SizeOfImage(bytes);
@@ -113,17 +115,17 @@ Fill ReadGradient(const Palette& palette, pugi::xml_node fill, const Fill& autom
 }
 
 Font FontOf(const xlsx::TextLook& look) {
-  constexpr double kLeast = 1, kMost = 400;  // the sizes of a font in a file
+  constexpr double kLeast = 1, kMost = 400;  // points, the limits of font sizes in a file
   return {look.typeface, std::isfinite(look.points) ? std::clamp(look.points, kLeast, kMost) : 10, look.bold,
           look.italic, look.underline};
 }
 
-/// The turn of a text (a:bodyPr).
+/// Reads the rotation of a text (a:bodyPr).
 void ReadRotation(pugi::xml_node body, std::optional<double>& rotation, bool& stacked) {
   const auto properties = xml::Child(body, "bodyPr");
   if (const auto units = xml::ParseDouble(xml::Attribute(properties, "rot"))) {
     const double degrees = *units / kUnitsPerDegree;
-    // beyond this Excel decides: its files say -1000 degrees for that
+    // Files have -1000 degrees for a rotation that Excel decides.
     if (std::abs(degrees) <= 360) rotation = degrees;
   }
   const std::string direction = xml::Attribute(properties, "vert", "horz");
@@ -139,7 +141,7 @@ std::optional<std::int32_t> Palette::Color(pugi::xml_node holder) const {
 }
 
 std::string Palette::Picture(pugi::xml_node fill) const {
-  // shapes on a chart have their pictures elsewhere
+  // Pictures of shapes on a chart belong to another part.
   if (part_ == nullptr || fill.root() != part_->Space().root()) return {};
   for (const pugi::xml_attribute& link : xml::Child(fill, "blip").attributes()) {
     if (xml::LocalName(link.name()) == "embed") return ImagesOf(part_->Book(), part_->Part())(link.value());
@@ -190,7 +192,7 @@ Stroke ReadStroke(const Palette& palette, pugi::xml_node line, const Stroke& aut
     return {};
   }
   if (stroke.width > 0) {
-    // a width of zero is the thinnest line that there is
+    // A width of zero means the thinnest line.
     const double width = xlsx::PointsOf(line, "w", stroke.width);
     stroke.width = std::isfinite(width) ? std::clamp(width, 0.25, kWidestLine) : kHairline;
     if (width == 0) stroke.width = kHairline;
@@ -224,23 +226,11 @@ RichText ReadText(xlsx::ChartPart& part, pugi::xml_node element, xlsx::TextRole 
   const auto looks = xlsx::LooksOf(part, element, role);
   ReadRotation(rich ? rich : xml::Child(element, "txPr"), text.rotation, text.stacked);
   if (!rich) {
-    std::string plain;
     const auto tx = xml::Child(element, "tx");
-    plain = tx ? xlsx::SourceText(part, tx) : automatic;
-    text.paragraphs.emplace_back();
-    const auto append = [&](const std::string& line) {
-      text.paragraphs.back().push_back({line, FontOf(looks.front()), FromExcel(looks.front().color)});
-    };
-    for (std::size_t from = 0;;) {
-      const auto end = plain.find('\n', from);
-      append(plain.substr(from, end - from));
-      if (end == std::string::npos) break;
-      text.paragraphs.emplace_back();
-      from = end + 1;
-    }
-    return text;
+    const TextStyle style{FontOf(looks.front()), FromExcel(looks.front().color), text.rotation, text.stacked};
+    return Plain(tx ? xlsx::SourceText(part, tx) : automatic, style);
   }
-  std::size_t next = 0;  // looks are of the runs that have a text, in their order
+  std::size_t next = 0;  // Looks exist for the runs that have a text, in their order.
   for (const pugi::xml_node& paragraph : xml::Children(rich, "p")) {
     text.paragraphs.emplace_back();
     for (const pugi::xml_node& run : paragraph.children()) {
@@ -259,25 +249,25 @@ std::optional<ManualLayout> ReadLayout(pugi::xml_node element) {
   const auto node = xml::Child(element, "layout", "manualLayout");
   if (!node) return std::nullopt;
   const auto number = [&](const char* name) -> std::optional<double> {
-    constexpr double kMost = 10;  // charts; anything beyond is no place on one
+    constexpr double kMost = 10;  // in widths or heights of the chart; larger numbers are errors
     const auto value = schema::NumberVal(node, name);
     return value && std::abs(*value) <= kMost ? value : std::nullopt;
   };
   const auto isEdge = [&](const char* name) { return schema::Val(node, name, "factor") == "edge"; };
-  return ManualLayout{schema::Val(node, "layoutTarget", "outer") == "inner",
-                      number("x"),
-                      number("y"),
-                      number("w"),
-                      number("h"),
-                      isEdge("xMode"),
-                      isEdge("yMode"),
-                      isEdge("wMode"),
-                      isEdge("hMode")};
+  return ManualLayout{.inner = schema::Val(node, "layoutTarget", "outer") == "inner",
+                      .x = number("x"),
+                      .y = number("y"),
+                      .width = number("w"),
+                      .height = number("h"),
+                      .xIsEdge = isEdge("xMode"),
+                      .yIsEdge = isEdge("yMode"),
+                      .widthIsEdge = isEdge("wMode"),
+                      .heightIsEdge = isEdge("hMode")};
 }
 
 namespace {
 
-/// The text colour as far from black as Excel's grey of lines is.
+/// Returns the text colour of the theme, lightened as Excel lightens it for lines.
 Color TintedText(xlsx::ChartPart& part, double tint) {
   const Color text = FromExcel(part.Theme().SchemeColor("tx1").value_or(0));
   const auto channel = [&](std::uint8_t value) {

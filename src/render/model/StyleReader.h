@@ -14,20 +14,25 @@ class ChartPart;
 class Theme;
 }  // namespace plotsmith::xlsx
 
-/// Fillings, lines and texts of DrawingML as a chart part has them.
+/// Reads fillings, lines and texts of DrawingML.
 namespace plotsmith::render {
 
-/// What colours mean: those of a chart, with its own theme and map, or of a sheet's shapes.
+/// Resolves colours and pictures: those of a chart, which may have a theme and a colour map of its own, or
+/// those of the shapes of a sheet.
 class Palette {
  public:
-  /// Reads colours as a chart does; also where a chart is given for a palette.
+  /// Makes the palette of a chart. The conversion is implicit, so that a chart can be given as a palette.
   Palette(xlsx::ChartPart& part) : part_(&part) {}
+  /// Makes the palette of the shapes of a sheet.
   explicit Palette(const xlsx::Theme& theme) : theme_(&theme) {}
 
-  /// Nothing if the colour can't be known.
+  /// Returns Excel's number of the colour in an element such as a:solidFill. Returns nothing if it isn't
+  /// known.
   std::optional<std::int32_t> Color(pugi::xml_node holder) const;
+  /// The theme whose colours are used.
   const xlsx::Theme& Theme() const;
-  /// The bytes of the picture of a filling (a:blipFill) in a chart part; empty if it can't be had.
+  /// Returns the bytes of the picture of a filling (a:blipFill) in a chart part, or an empty text if it can't
+  /// be read.
   std::string Picture(pugi::xml_node fill) const;
 
  private:
@@ -35,35 +40,41 @@ class Palette {
   const xlsx::Theme* theme_ = nullptr;
 };
 
-/// A colour element's parent (a:solidFill, a:fgClr) with its transparency; nothing if it can't be known.
+/// Reads the colour in an element (a:solidFill, a:fgClr) with its opacity. Returns nothing if it isn't known.
 std::optional<Color> ReadColor(const Palette& palette, pugi::xml_node holder);
-/// A filling element (a:solidFill, a:gradFill, a:pattFill, a:noFill); `automatic` for a null node or one that
-/// can't be known.
+/// Reads a filling (a:solidFill, a:gradFill, a:pattFill, a:blipFill, a:noFill). Returns `automatic` if the
+/// node is null or isn't known.
 Fill ReadFill(const Palette& palette, pugi::xml_node fill, const Fill& automatic);
-/// A line (a:ln) over the automatic one.
+/// Reads a line (a:ln). What the line doesn't set is that of `automatic`.
 Stroke ReadStroke(const Palette& palette, pugi::xml_node line, const Stroke& automatic);
-/// Shape properties (c:spPr), which may be a null node, over the automatic style.
+/// Reads shape properties (c:spPr). What they don't set is that of `automatic`. The node may be null.
 ShapeStyle ReadStyle(const Palette& palette, pugi::xml_node properties, const ShapeStyle& automatic);
 
-/// How the text of an element is set that has text properties (c:txPr) and no text of its own.
+/// Reads the text properties (c:txPr) of an element without a text of its own.
 TextStyle ReadTextStyle(xlsx::ChartPart& part, pugi::xml_node element, xlsx::TextRole role);
-/// The text of an element (c:tx): its own runs, or that of its cells, or `automatic`.
+/// Reads the text of an element (c:tx): its runs, or the text of the cells that it refers to. Returns
+/// `automatic` if it has neither.
 RichText ReadText(xlsx::ChartPart& part, pugi::xml_node element, xlsx::TextRole role,
                   const std::string& automatic);
-/// c:layout of an element; nothing if it is automatic.
+/// Reads the layout of an element (c:layout). Returns nothing if it is automatic.
 std::optional<ManualLayout> ReadLayout(pugi::xml_node element);
 
-/// What Excel gives an element where nothing is set, by the chart's style.
+/// The looks that Excel gives to elements by the chart's style if nothing else is set.
 class AutomaticStyles {
  public:
+  /// The chart must outlive the object.
   explicit AutomaticStyles(xlsx::ChartPart& part) : part_(part) {}
 
+  /// The filling and border of the chart area.
   ShapeStyle ChartArea() const;
-  /// `isFlat` says that values are drawn along flat axes; pies and charts in 3-D have no filling.
+  /// The filling of the plot area. `isFlat` says that the chart has axes and no depth; other plot areas have
+  /// no filling.
   ShapeStyle PlotArea(bool isFlat) const;
+  /// The line of axes and of major gridlines.
   Stroke AxisLine() const;
+  /// The line of minor gridlines.
   Stroke MinorGridline() const;
-  /// The colour number `index` of `count` series or points.
+  /// The colour of a series or point. `index` counts from 0, `count` is the number of all of them.
   Color SeriesColor(std::size_t index, std::size_t count) const;
 
  private:

@@ -14,15 +14,15 @@ constexpr double kPointsPerInch = 72;
 /// Whether the calling thread has asked for the measure.
 thread_local bool measures = false;
 
-/// The fonts that all threads measure with. To find a font takes longer than to draw a chart, so a text that
-/// one thread has measured isn't laid out again by another.
+/// Returns the fonts that all threads measure with. To find a font takes longer than to draw a chart, so a
+/// text that one thread has measured isn't laid out again by another.
 const Fonts& SharedFonts() {
   static const Fonts fonts;
   return fonts;
 }
 
-/// The fonts that the calling thread paints with. A thread that only paints has its own, so that it doesn't
-/// wait for those that measure.
+/// Returns the fonts that the calling thread paints with. A thread that only paints has its own, so that it
+/// doesn't wait for those that measure.
 const Fonts& FontsToPaintWith() {
   if (measures) return SharedFonts();
   thread_local const Fonts fonts;

@@ -1,15 +1,16 @@
 #pragma once
 
-/// The module that draws: a shared library that a program opens when it has to draw, so that its start
-/// doesn't wait for the graphics libraries.
+/// The entry points of the module that draws. It is a shared library which a program loads when it draws for
+/// the first time, so that other commands don't wait for the graphics libraries.
 namespace plotsmith::render {
 
 class Painter;
 
+/// The file name of the module.
 inline constexpr const char* kModuleFile = "render.so";
 
-/// What the module has for others: the version of Plotsmith that it is of, and the painter, which lives as
-/// long as the process.
+/// Functions that the module exports. One returns the version of Plotsmith that the module belongs to, the
+/// other the painter, which exists until the process ends.
 ///@{
 using ModuleVersion = const char*();
 using ModulePainter = const Painter*();

@@ -5,10 +5,10 @@
 
 namespace plotsmith::render {
 
-Placement Placement::Turned(Point center, double degrees, bool flipX, bool flipY) const {
+Placement Placement::Turned(Point center, double degrees, const Flip& flip) const {
   const double angle = degrees * std::numbers::pi / 180;
   const double cosine = std::cos(angle), sine = std::sin(angle);
-  const double mirrorX = flipX ? -1 : 1, mirrorY = flipY ? -1 : 1;
+  const double mirrorX = flip.horizontal ? -1 : 1, mirrorY = flip.vertical ? -1 : 1;
   const double xx = cosine * mirrorX, xy = -sine * mirrorY, yx = sine * mirrorX, yy = cosine * mirrorY;
   const double x0 = center.x - xx * center.x - xy * center.y;
   const double y0 = center.y - yx * center.x - yy * center.y;
@@ -19,8 +19,8 @@ Placement Placement::Turned(Point center, double degrees, bool flipX, bool flipY
   inner.yy_ = yx_ * xy + yy_ * yy;
   inner.x0_ = xx_ * x0 + xy_ * y0 + x0_;
   inner.y0_ = yx_ * x0 + yy_ * y0 + y0_;
-  // a text is turned with its shape, and is upside down with one that was mirrored so
-  inner.rotation_ = rotation_ + degrees + (flipY ? 180 : 0);
+  // A text is turned with its shape, and is upside down in a shape that is mirrored vertically.
+  inner.rotation_ = rotation_ + degrees + (flip.vertical ? 180 : 0);
   return inner;
 }
 

@@ -4,19 +4,28 @@
 
 namespace plotsmith::render {
 
-/// How a shape, and the groups around it, are turned and mirrored.
+/// The axes along which a shape is mirrored.
+struct Flip {
+  bool horizontal = false;  ///< left and right are exchanged
+  bool vertical = false;    ///< top and bottom are exchanged
+};
+
+/// How a shape and the groups around it are turned and mirrored.
 class Placement {
  public:
-  /// Inside of this one: first turned clockwise about a point, and before that mirrored there.
-  Placement Turned(Point center, double degrees, bool flipX, bool flipY) const;
+  /// Returns the placement of a shape inside of this one. The shape is mirrored, and then turned clockwise
+  /// about `center`.
+  Placement Turned(Point center, double degrees, const Flip& flip = {}) const;
 
+  /// Returns where a point of the shape is on the picture.
   Point Map(Point point) const;
+  /// Returns where a path of the shape is on the picture.
   Path Map(const Path& path) const;
-  /// By how much a text that isn't mirrored is turned, in degrees clockwise.
+  /// Returns the rotation of the shape's text in degrees clockwise. Texts aren't mirrored.
   double Rotation() const { return rotation_; }
 
  private:
-  // x' = xx * x + xy * y + x0, and so on
+  // x' = xx * x + xy * y + x0 and y' = yx * x + yy * y + y0
   double xx_ = 1, xy_ = 0, yx_ = 0, yy_ = 1, x0_ = 0, y0_ = 0;
   double rotation_ = 0;
 };

@@ -14,7 +14,7 @@ namespace {
 
 namespace xml = xlsx::xml;
 
-constexpr double kWhole = 100000;  // adjustments count in these
+constexpr double kWhole = 100000;  // unit of adjustments
 
 /// The frame of a shape and its adjustments.
 class Frame {
@@ -30,7 +30,7 @@ class Frame {
   double MiddleY() const { return rect_.Center().y; }
   double Shorter() const { return std::min(rect_.width, rect_.height); }
 
-  /// An adjustment ("val 25000") as a fraction from 0 to `most`.
+  /// Reads an adjustment ("val 25000") as a fraction from 0 to `most`.
   double Adjustment(std::string_view name, double fallback, double most) const {
     double value = fallback;
     for (const pugi::xml_node& guide : xml::Children(xml::Child(geometry_, "avLst"), "gd")) {
@@ -40,7 +40,7 @@ class Frame {
     }
     return std::clamp(value / kWhole, 0.0, most);
   }
-  /// An adjustment of the shorter edge, in points; `longest` is the edge that it may take all of.
+  /// Reads an adjustment that is a share of the shorter edge, in points. It is at most `longest`.
   double Cut(double fallback, double longest, std::string_view name = "adj") const {
     return Shorter() * Adjustment(name, fallback, Shorter() > 0 ? longest / Shorter() : 0);
   }
@@ -145,7 +145,8 @@ Path Plus(const Frame& frame) {
                   {left, bottom - cut}});
 }
 
-/// Corners around a centre from the top on, by turns at the full radii and at a share of them.
+/// Returns corners around a centre, beginning at the top. They are alternately at the full radii and at a
+/// share of them.
 Path Star(Point center, double across, double down, int points, double inner) {
   std::vector<Point> corners;
   const int count = inner < 1 ? 2 * points : points;
@@ -158,7 +159,7 @@ Path Star(Point center, double across, double down, int points, double inner) {
   return Polygon(corners);
 }
 
-/// Five corners fill a frame in a circle that is a little larger than it.
+/// Five corners fill a frame if their circle is a little larger than it.
 Path FiveCorners(const Frame& frame, double inner) {
   constexpr double kAcross = 1.05146, kDown = 1.10557;
   const double down = frame.Bounds().height / 2 * kDown;
@@ -192,12 +193,16 @@ Path Chevron(const Frame& frame) {
                   {frame.Left() + cut, frame.MiddleY()}});
 }
 
-/// An arrow along a length: x from tail to tip, y across from the middle line.
+/// Returns the corners of an arrow. x goes from tail to tip, y across from the middle line.
 std::vector<Point> ArrowCorners(double length, double breadth, double head, double shaft) {
   const double half = breadth / 2, thin = half * shaft, neck = length - head;
   return {{0, -thin}, {neck, -thin}, {neck, -half}, {length, 0}, {neck, half}, {neck, thin}, {0, thin}};
 }
-Path Arrow(const Frame& frame, bool upright, bool backwards) {
+/// The direction of an arrow.
+enum class Heading : std::uint8_t { kRight, kLeft, kDown, kUp };
+Path Arrow(const Frame& frame, Heading heading) {
+  const bool upright = heading == Heading::kDown || heading == Heading::kUp;
+  const bool backwards = heading == Heading::kLeft || heading == Heading::kUp;
   const double length = upright ? frame.Bounds().height : frame.Bounds().width;
   const double breadth = upright ? frame.Bounds().width : frame.Bounds().height;
   std::vector<Point> corners =
@@ -209,10 +214,10 @@ Path Arrow(const Frame& frame, bool upright, bool backwards) {
   }
   return Polygon(std::move(corners));
 }
-Path RightArrow(const Frame& frame) { return Arrow(frame, false, false); }
-Path LeftArrow(const Frame& frame) { return Arrow(frame, false, true); }
-Path DownArrow(const Frame& frame) { return Arrow(frame, true, false); }
-Path UpArrow(const Frame& frame) { return Arrow(frame, true, true); }
+Path RightArrow(const Frame& frame) { return Arrow(frame, Heading::kRight); }
+Path LeftArrow(const Frame& frame) { return Arrow(frame, Heading::kLeft); }
+Path DownArrow(const Frame& frame) { return Arrow(frame, Heading::kDown); }
+Path UpArrow(const Frame& frame) { return Arrow(frame, Heading::kUp); }
 
 Path Can(const Frame& frame) {
   const Rect& box = frame.Bounds();
@@ -229,7 +234,7 @@ Path Donut(const Frame& frame) {
   const Rect hole{box.left + ring, box.top + ring, box.width - 2 * ring, box.height - 2 * ring};
   Path path;
   path.AddEllipse(box);
-  // the other way round, so that it is a hole
+  // It goes in the other direction, so that it is a hole.
   return path.MoveTo(OnEllipse(hole, 0)).ArcTo(hole, 0, -360).Close();
 }
 

@@ -7,14 +7,14 @@
 
 namespace plotsmith::render {
 
-/// The form of a shape.
+/// The outline of a shape.
 struct ShapeForm {
   Path path;
-  bool open = false;  ///< a line, which has no inside
+  bool open = false;  ///< the shape is a line, which has no filling
 };
 
-/// The form that a geometry (a:prstGeom with its adjustments) has in a frame; nothing for one that isn't
-/// known.
+/// Returns the outline of a preset geometry (a:prstGeom) with its adjustments in a frame. Returns nothing if
+/// the geometry isn't known.
 std::optional<ShapeForm> FormOf(pugi::xml_node geometry, const Rect& frame);
 
 }  // namespace plotsmith::render

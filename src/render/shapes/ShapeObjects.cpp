@@ -20,13 +20,13 @@ namespace {
 
 namespace xml = xlsx::xml;
 
-constexpr int kDeepest = 16;  // groups in groups
+constexpr int kDeepest = 16;  // levels of groups
 
-/// The place of a shape as its own properties have it (a:xfrm), and those of a group's members.
+/// The frame of a shape (a:xfrm), and the coordinates that the members of a group have in it.
 struct Transform {
   Rect frame, members;
   double rotation = 0;
-  bool flipX = false, flipY = false;
+  Flip flip;
 };
 
 Rect RectOf(pugi::xml_node transform, const char* place, const char* extent) {
@@ -43,12 +43,12 @@ Transform ReadTransform(pugi::xml_node object) {
   transform.members = RectOf(node, "chOff", "chExt");
   const double turn = xml::NumberAttribute(node, "rot", 0) / kUnitsPerDegree;
   if (std::isfinite(turn)) transform.rotation = std::fmod(turn, 360);
-  transform.flipX = xml::BooleanAttribute(node, "flipH", false);
-  transform.flipY = xml::BooleanAttribute(node, "flipV", false);
+  transform.flip.horizontal = xml::BooleanAttribute(node, "flipH", false);
+  transform.flip.vertical = xml::BooleanAttribute(node, "flipV", false);
   return transform;
 }
 
-/// What the style of a shape (its references into the theme) gives it.
+/// The look of a shape by its style, which refers to the theme.
 struct StyleOfShape {
   ShapeStyle shape;
   Color text;
@@ -64,7 +64,7 @@ StyleOfShape ReadStyleOfShape(const Palette& palette, pugi::xml_node object) {
     if (const auto color = ReadColor(palette, fill)) automatic.shape.fill = SolidFill{*color};
   }
   if (const auto line = reference("lnRef"); indexOf(line) > 0) {
-    // the lines of Office's themes, in points
+    // widths of the lines of Office's themes, in points
     constexpr std::array kWidths = {0.75, 2.0, 3.0};
     const auto color = ReadColor(palette, line);
     const auto index = static_cast<std::size_t>(std::min<long long>(indexOf(line), kWidths.size()) - 1);
@@ -83,8 +83,7 @@ class ObjectPainter {
              int depth) {
     if (xml::BooleanAttribute(xlsx::IdentityOf(object), "hidden", false)) return;
     const Transform transform = ReadTransform(object);
-    const Placement placement =
-        outer.Turned(frame.Center(), transform.rotation, transform.flipX, transform.flipY);
+    const Placement placement = outer.Turned(frame.Center(), transform.rotation, transform.flip);
     if (xml::Is(object, "grpSp")) {
       if (depth < kDeepest) PaintGroup(object, frame, transform, placement, ofGroup, depth);
     } else if (xml::Is(object, "sp") || xml::Is(object, "cxnSp")) {
@@ -103,7 +102,7 @@ class ObjectPainter {
                   const Placement& placement, const Fill& ofGroup, int depth) {
     const Fill fill = ReadFill(palette_, xlsx::FindFill(xlsx::ShapePropertiesOf(group)), ofGroup);
     const Rect& members = transform.members;
-    // members whose group has no extent keep their own
+    // If the group has no extent, the members keep their sizes.
     const double across = members.width > 0 ? frame.width / members.width : 1;
     const double down = members.height > 0 ? frame.height / members.height : 1;
     for (const pugi::xml_node& member : group.children()) {
@@ -140,7 +139,7 @@ class ObjectPainter {
     for (const pugi::xml_attribute& link : xml::Child(fill, "blip").attributes()) {
       if (images_ && xml::LocalName(link.name()) == "embed") bytes = images_(link.value());
     }
-    const bool turned = placement.Rotation() != 0 || transform.flipX || transform.flipY;
+    const bool turned = placement.Rotation() != 0 || transform.flip.horizontal || transform.flip.vertical;
     if (turned || !IsDrawableImage(bytes)) {
       canvas_.Note("A picture among the shapes isn't drawn, as it is turned or of another kind than PNG: " +
                    NameOf(object) + ".");
@@ -153,7 +152,7 @@ class ObjectPainter {
     const ShapeStyle style = ReadStyle(palette_, xlsx::ShapePropertiesOf(object), {});
     canvas_.Add({Role::kShape, 0, number_}, Path().AddRect(frame), {}, style.stroke);
   }
-  /// Where all of a picture would be, of which a frame shows a part.
+  /// Returns the rectangle of a whole picture of which a frame shows a part.
   static Rect Uncropped(pugi::xml_node crop, const Rect& frame) {
     const auto share = [&](const char* side) {
       const double thousandths = xml::NumberAttribute(crop, side, 0) / 100000;
@@ -161,7 +160,7 @@ class ObjectPainter {
     };
     const double left = share("l"), top = share("t"), across = 1 - left - share("r"),
                  down = 1 - top - share("b");
-    constexpr double kLeast = 0.01;  // of the picture
+    constexpr double kLeast = 0.01;  // share of the picture
     if (across < kLeast || down < kLeast) return frame;
     const double width = frame.width / across, height = frame.height / down;
     return {frame.left - left * width, frame.top - top * height, width, height};

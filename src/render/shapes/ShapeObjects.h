@@ -8,8 +8,9 @@
 
 namespace plotsmith::render {
 
-/// Draws an object of a drawing (sp, cxnSp, grpSp, pic), of a chart's or of a sheet's, in the frame that its
-/// anchor gives it. `number` is the object's place in the drawing, from 1. What can't be drawn is noted.
+/// Draws an object (sp, cxnSp, grpSp, pic) of the drawing of a chart or sheet. `frame` is the rectangle of
+/// its anchor, `number` its place in the drawing, from 1. `images` reads pictures; without it, they aren't
+/// drawn. Adds a note about what can't be drawn.
 void DrawShapeObject(Canvas& canvas, const Palette& palette, pugi::xml_node object, const Rect& frame,
                      int number, const ImageSource& images = {});
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "render/layout/TextBlock.h"
+#include "render/text/TextBlock.h"
 #include "xlsx/drawing/DrawingFill.h"
 #include "xlsx/drawing/ShapeXml.h"
 #include "xlsx/drawing/Theme.h"
@@ -16,9 +16,9 @@ namespace {
 
 namespace xml = xlsx::xml;
 
-constexpr double kUsualSize = 11;  // points, of a text that says nothing
+constexpr double kUsualSize = 11;  // points, of a text without a size
 
-/// Properties of a run, those that win first.
+/// The properties of a run. Those of the run itself take precedence over those of the body.
 class RunProperties {
  public:
   RunProperties(pugi::xml_node own, pugi::xml_node body)
@@ -102,7 +102,7 @@ class BodyReader {
       text.text = xml::Text(xml::Child(run, "t"));
       if (!text.text.empty()) read.text.paragraphs.back().push_back(std::move(text));
     }
-    // an empty line is as high as its font
+    // An empty line is as high as its font.
     for (auto& line : read.text.paragraphs) {
       if (line.empty()) line.push_back(RunOf(xml::Child(paragraph, "endParaRPr")));
     }
@@ -115,7 +115,7 @@ class BodyReader {
     const std::string typeface = xml::Attribute(properties.Child("latin"), "typeface", "+mn-lt");
     run.font.family = palette_.Theme().Typeface(typeface);
     const double size = xml::ParseDouble(properties.Attribute("sz")).value_or(kUsualSize * 100) / 100;
-    constexpr double kLeast = 1, kMost = 400;  // the sizes of a font in a file
+    constexpr double kLeast = 1, kMost = 400;  // points, the limits of font sizes in a file
     run.font.size = (std::isfinite(size) ? std::clamp(size, kLeast, kMost) : kUsualSize) * scale_;
     run.font.bold = xml::ParseBoolean(properties.Attribute("b")).value_or(false);
     run.font.italic = xml::ParseBoolean(properties.Attribute("i")).value_or(false);
@@ -128,10 +128,10 @@ class BodyReader {
   const Palette& palette_;
   pugi::xml_node body_;
   Color automatic_;
-  double scale_ = 1;  ///< of fonts that were made smaller to fit
+  double scale_ = 1;  ///< of fonts in a text that Excel shrank to fit
 };
 
-/// A paragraph in the room of a text, with its lines broken.
+/// A paragraph with its lines broken.
 struct PlacedParagraph {
   TextBlock block;
   TextAlign align;
@@ -175,10 +175,10 @@ ShapeText ReadShapeText(const Palette& palette, pugi::xml_node object, const Col
 void DrawShapeText(Canvas& canvas, Tag tag, const ShapeText& text, const Rect& frame,
                    const Placement& placement) {
   if (text.IsEmpty()) return;
-  const Placement turned = placement.Turned(frame.Center(), text.rotation, false, false);
+  const Placement turned = placement.Turned(frame.Center(), text.rotation);
   Rect box = frame;
   if (std::abs(std::abs(text.rotation) - 90) < 1) {
-    // lines of a text that is turned by a right angle run along the other edge
+    // Lines of a text that is turned by a right angle go along the other edge.
     const Point center = frame.Center();
     box = {center.x - frame.height / 2, center.y - frame.width / 2, frame.height, frame.width};
   }

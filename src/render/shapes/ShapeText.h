@@ -13,22 +13,23 @@ namespace plotsmith::render {
 
 /// A paragraph of a shape's text.
 struct ShapeParagraph {
-  RichText text;  ///< of one paragraph, or of several where a line was broken by hand
+  RichText text;  ///< has a paragraph for each line that a line break ends
   TextAlign align = TextAlign::kStart;
 };
 
-/// The text of a shape, as its body (txBody) says.
+/// The text of a shape (txBody).
 struct ShapeText {
   std::vector<ShapeParagraph> paragraphs;
   double left = 7.2, top = 3.6, right = 7.2, bottom = 3.6;  ///< insets in points
   enum class Anchor { kTop, kMiddle, kBottom } anchor = Anchor::kTop;
   bool wraps = true;
-  double rotation = 0;  ///< degrees clockwise, against the shape
+  double rotation = 0;  ///< degrees clockwise, relative to the shape
 
+  /// Returns whether no paragraph has a text.
   bool IsEmpty() const;
 };
 
-/// Reads the text of an object (sp); `automatic` is the colour by the shape's style.
+/// Reads the text of a shape (sp). Runs without a colour have `automatic`.
 ShapeText ReadShapeText(const Palette& palette, pugi::xml_node object, const Color& automatic);
 /// Draws a text in the frame of its shape.
 void DrawShapeText(Canvas& canvas, Tag tag, const ShapeText& text, const Rect& frame,

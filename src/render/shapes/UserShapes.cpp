@@ -14,7 +14,7 @@ namespace {
 
 namespace xml = xlsx::xml;
 
-/// A place on the chart, which anchors say as fractions of it.
+/// Returns a place on the chart from an anchor, which has fractions of the chart.
 Point PlaceOf(pugi::xml_node corner, const Rect& chart) {
   const auto fraction = [&](const char* name) {
     const double value = xml::ParseDouble(xml::Text(xml::Child(corner, name))).value_or(0);

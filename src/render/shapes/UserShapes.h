@@ -8,7 +8,7 @@ class ChartPart;
 
 namespace plotsmith::render {
 
-/// Draws the shapes on a chart, from back to front. A part of them that can't be read is noted.
+/// Draws the shapes on a chart, from back to front. Adds a note if the part with the shapes can't be read.
 void DrawUserShapes(xlsx::ChartPart& part, Canvas& canvas);
 
 }  // namespace plotsmith::render

@@ -18,15 +18,15 @@ using xlsx::HorizontalAlignment;
 using xlsx::VerticalAlignment;
 using Kind = excel::CellValue::Kind;
 
-constexpr double kPointsPerPixel = 0.75;  // at 96 dots an inch
-/// Between a cell's edge and its text.
+constexpr double kPointsPerPixel = 0.75;  // at 96 dpi
+/// The distance between the edge of a cell and its text, in points.
 constexpr double kPadding = 1.5;
 constexpr int kBlanksPerIndent = 3;
 constexpr double kGridLineWidth = 0.35;
 constexpr Color kBlack{0, 0, 0, 1};
-/// How many columns beside the page are asked for a text that reaches into it.
+/// The number of columns beside the page that are searched for texts which extend into it.
 constexpr std::int32_t kMostSpread = 30;
-/// A rule through the middle of small letters, and its thickness, as shares of the font's size.
+/// The height of a strike-through line above the baseline, and its width, as shares of the font size.
 constexpr double kStrikeHeight = 0.28, kStrikeWidth = 0.06;
 
 constexpr Tag kCellTag{Role::kCell, 0, 0}, kTextTag{Role::kCellText, 0, 0};
@@ -35,7 +35,7 @@ bool Meet(const CellRange& a, const CellRange& b) {
   return a.row1 <= b.row2 && b.row1 <= a.row2 && a.column1 <= b.column2 && b.column1 <= a.column2;
 }
 
-/// Those of the ranges that are on the page at least in part.
+/// Returns the ranges that are on the page at least in part.
 std::vector<CellRange> OnPage(const std::vector<CellRange>& ranges, const CellRange& page) {
   std::vector<CellRange> met;
   for (const CellRange& range : ranges) {
@@ -67,12 +67,12 @@ Side SideOf(const PrintedCell& cell, const CellLook& look) {
 
 Font FontOf(const CellLook& look) { return {look.font, look.size, look.bold, look.italic, look.underline}; }
 
-/// Whether a text that is too long for its cell goes over empty ones beside it.
+/// Returns whether a text that is too long for its cell extends over empty cells beside it.
 bool MaySpread(const PrintedCell& cell, const CellLook& look) {
   return cell.kind == Kind::kText && !look.wrap && look.horizontal != HorizontalAlignment::kFill;
 }
 
-/// How wide a cell would have to be for its text.
+/// Returns the width that a cell needs for its text, in points.
 double RoomFor(const PrintedCell& cell, const CellLook& look, const TextMeasure& measure) {
   const Font font = FontOf(look);
   const double indent =
@@ -80,7 +80,7 @@ double RoomFor(const PrintedCell& cell, const CellLook& look, const TextMeasure&
   return measure.Measure(cell.text, font).width + indent + 2 * kPadding;
 }
 
-/// The cells of one page on their canvas.
+/// Draws the cells of a page.
 class CellDrawing {
  public:
   CellDrawing(SheetReader& sheet, const CellRange& page, Canvas& canvas)
@@ -107,7 +107,7 @@ class CellDrawing {
     ForEachCell([&](std::int32_t row, std::int32_t column) {
       const auto& fill = sheet_.LookAt(row, column).fillColor;
       if (!fill || IsMerged(row, column)) return;
-      // neighbours of one colour are one rectangle, so that no seam is seen between them
+      // Neighbours of one colour are one rectangle, so that no seam is visible between them.
       const auto isAlike = [&](std::int32_t other) {
         return sheet_.LookAt(row, other).fillColor == fill && !IsMerged(row, other);
       };
@@ -150,7 +150,7 @@ class CellDrawing {
   }
 
  private:
-  /// Hidden rows and columns are passed over.
+  /// Hidden rows and columns are skipped.
   template <class Visit>
   void ForEachCell(const Visit& visit) {
     for (std::int32_t row = page_.row1; row <= page_.row2; ++row) {
@@ -163,7 +163,7 @@ class CellDrawing {
 
   bool IsMerged(std::int32_t row, std::int32_t column) { return mergedCells_.Hold(row, column); }
 
-  /// Whether the text of a neighbour may go over the cell.
+  /// Returns whether the text of a neighbour may extend over the cell.
   bool IsFree(std::int32_t row, std::int32_t column) {
     return sheet_.IsEmptyAt(row, column) && !IsMerged(row, column);
   }
@@ -185,8 +185,8 @@ class CellDrawing {
     return look.indent == 0 ? 0 : look.indent * kBlanksPerIndent * WidthOfText(" ", FontOf(look));
   }
 
-  /// Draws the text of a cell, over empty cells beside it if it is too long. A cell beside the page counts
-  /// only for the text that reaches into the page.
+  /// Draws the text of a cell. A text that is too long extends over empty cells beside it. If the cell isn't
+  /// on the page, only a text that extends into the page is drawn.
   void DrawText(std::int32_t row, std::int32_t column, bool onPage) {
     const PrintedCell cell = sheet_.CellAt(row, column);
     const CellLook& look = sheet_.LookOf(cell.style);
@@ -204,7 +204,7 @@ class CellDrawing {
     if (side != Side::kLeft) SpreadLeft(row, column, half, seen);
     const Rect page = sheet_.AreaOf(page_);
     if (!onPage && (seen.Right() <= page.left || seen.left >= page.Right())) return;
-    // in the middle of its own cell, not of all that it may go over
+    // A centred text is in the middle of its own cell, not of all cells that it covers.
     Rect area = own;
     if (missing > 0 && side != Side::kRight) area.width += half;
     if (missing > 0 && side != Side::kLeft) {
@@ -236,14 +236,14 @@ class CellDrawing {
     const auto widthOf = [&](std::string_view text) { return WidthOfText(text, font); };
     if (cell.IsNumber()) return {FittedNumber(cell.number, cell.text, cell.general, width, widthOf)};
     if (look.wrap) return WrappedLines(cell.text, width, widthOf);
-    // a line break is shown only in a cell that wraps
+    // Line breaks have an effect only in cells that wrap.
     std::string line = cell.text;
     std::erase(line, '\r');
     std::replace(line.begin(), line.end(), '\n', ' ');
     return {line};
   }
 
-  /// Draws the text of a cell inside of `area`, and no more of it than lies in `seen`.
+  /// Draws the text of a cell in `area`, clipped to `seen`.
   void DrawIn(const PrintedCell& cell, const Rect& area, const Rect& seen) {
     const CellLook& look = sheet_.LookOf(cell.style);
     const Side side = SideOf(cell, look);
@@ -257,7 +257,7 @@ class CellDrawing {
     double top = inside.Bottom() - kPointsPerPixel - height;
     if (look.vertical == VerticalAlignment::kTop) top = inside.top + kPointsPerPixel;
     if (look.vertical == VerticalAlignment::kCenter) top = inside.top + (inside.height - height) / 2;
-    // a text higher than its cell shows its beginning
+    // A text that is higher than its cell shows its beginning.
     if (look.wrap && height > inside.height) top = inside.top;
 
     const bool sticksOut =
@@ -309,7 +309,7 @@ class CellDrawing {
   CellRange page_;
   Canvas& canvas_;
   std::vector<CellRange> merged_;
-  MergedCells mergedCells_;  ///< the same ranges
+  MergedCells mergedCells_;  ///< the ranges of `merged_`
 };
 
 }  // namespace

@@ -6,12 +6,12 @@
 
 namespace plotsmith::render {
 
-/// Draws the cells of a page: grid lines if they are wanted, fillings, texts and borders. Places are points
-/// from the sheet's corner.
+/// Draws the cells of a page: fillings, texts, borders and, with `gridLines`, grid lines. Places are in
+/// points from the top left corner of the sheet.
 void DrawCells(SheetReader& sheet, const xlsx::CellRange& page, bool gridLines, Canvas& canvas);
 
-/// The column in which the text of a row's last cell ends, as it goes over the empty cells behind it; the
-/// cell's own column if the text doesn't.
+/// Returns the column, from 1, in which the text of the last cell of a row ends. A long text extends over the
+/// empty cells to the right.
 std::int32_t LastColumnOfText(SheetReader& sheet, std::int32_t row, std::int32_t column,
                               const TextMeasure& measure);
 

@@ -8,13 +8,13 @@
 namespace plotsmith::render {
 namespace {
 
-/// The end of the character that begins at a place.
+/// Returns the end of the character that begins at a byte.
 std::size_t CharacterEnd(std::string_view text, std::size_t at) {
   for (++at; at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80;) ++at;
   return at;
 }
 
-/// How many bytes of a word fit, whole characters and at least one.
+/// Returns how many bytes of a word fit. They are whole characters, and at least one.
 std::size_t FittingPart(std::string_view word, double width, const WidthOf& widthOf) {
   std::size_t end = CharacterEnd(word, 0);
   while (end < word.size()) {
@@ -25,13 +25,13 @@ std::size_t FittingPart(std::string_view word, double width, const WidthOf& widt
   return end;
 }
 
-/// The lines of one paragraph, appended.
+/// Appends the lines of a paragraph.
 void WrapParagraph(std::string_view text, double width, const WidthOf& widthOf,
                    std::vector<std::string>& lines) {
   if (text.empty()) lines.emplace_back();
   std::string line;
   while (!text.empty()) {
-    // a word with the blanks before it
+    // This is a word with the blanks before it.
     const std::size_t begin = std::min(text.find_first_not_of(' '), text.size());
     const std::size_t end = std::min(text.find(' ', begin), text.size());
     const std::string longer = line + std::string(text.substr(0, end));
@@ -51,9 +51,9 @@ void WrapParagraph(std::string_view text, double width, const WidthOf& widthOf,
   if (!line.empty()) lines.push_back(std::move(line));
 }
 
-/// The number with `decimals` digits behind the point.
+/// Returns a number with `decimals` digits after the decimal point.
 std::string Fixed(double number, int decimals) {
-  std::array<char, 400> buffer;  // a double has at most 309 digits before the point
+  std::array<char, 400> buffer;  // A double has at most 309 digits before the decimal point.
   const auto end =
       std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed, decimals);
   return std::string(buffer.data(), end.ptr);
@@ -77,7 +77,7 @@ std::string FittedNumber(double number, const std::string& text, bool general, d
                          const WidthOf& widthOf) {
   if (widthOf(text) <= width) return text;
   const bool canShorten =
-      general && text.find('E') == std::string::npos;  // an exponent leaves little to gain
+      general && text.find('E') == std::string::npos;  // Numbers with an exponent hardly become shorter.
   const std::size_t point = text.find_first_of(".,");
   if (canShorten && point != std::string::npos) {
     for (int decimals = static_cast<int>(text.size() - point) - 2; decimals >= 0; --decimals) {

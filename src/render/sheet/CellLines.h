@@ -7,15 +7,16 @@
 
 namespace plotsmith::render {
 
-/// The width of a text in points.
+/// Returns the width of a text, in points.
 using WidthOf = std::function<double(std::string_view)>;
 
-/// The lines of a text that wraps at a width: at blanks, inside of a word only where that is wider than a
-/// line. Line feeds of the text begin lines as well.
+/// Wraps a text at a width in points. Lines end at line feeds, at blanks, and inside of words that are wider
+/// than a line.
 std::vector<std::string> WrappedLines(std::string_view text, double width, const WidthOf& widthOf);
 
-/// What a number shows in a cell that its text is too wide for: with fewer decimals, where it has no format
-/// of its own (`general`), or as many "#" as fit.
+/// Returns what a cell of a width in points shows of a number. If `text` doesn't fit, a number in the format
+/// General
+/// (`general`) loses decimals; other numbers become as many "#" as fit.
 std::string FittedNumber(double number, const std::string& text, bool general, double width,
                          const WidthOf& widthOf);
 

@@ -9,23 +9,26 @@
 
 namespace plotsmith::render {
 
-/// Says which cells are merged. Asked row by row from the top, it takes each range in hand once, so that many
-/// ranges on a large page don't take their product of time.
+/// Says which cells are merged. If it is asked row by row from the top, it visits each range once, so that
+/// many ranges on a large page take little time.
 class MergedCells {
  public:
+  /// Takes the merged ranges of a sheet, which don't overlap.
   explicit MergedCells(std::vector<xlsx::CellRange> ranges);
 
-  /// Whether a range holds the cell; both count from 1.
+  /// Returns whether a cell is in a range. Rows and columns count from 1.
   bool Hold(std::int32_t row, std::int32_t column);
 
  private:
+  /// Sets `columns_` for a row.
   void GoTo(std::int32_t row);
 
-  std::vector<xlsx::CellRange> ranges_;  ///< by their first rows
-  std::int32_t row_ = 0;                 ///< that `columns_` is of
-  std::size_t next_ = 0;                 ///< of `ranges_`: the first that begins below the row
-  std::vector<xlsx::CellRange> open_;    ///< ranges that meet the row
-  std::vector<std::pair<std::int32_t, std::int32_t>> columns_;  ///< first and last ones; apart and ascending
+  std::vector<xlsx::CellRange> ranges_;  ///< sorted by their first rows
+  std::int32_t row_ = 0;                 ///< row that `columns_` is for
+  std::size_t next_ = 0;                 ///< index of the first range that begins below the row
+  std::vector<xlsx::CellRange> open_;    ///< ranges that contain the row
+  std::vector<std::pair<std::int32_t, std::int32_t>>
+      columns_;  ///< first and last columns of merged cells in the row, ascending
 };
 
 }  // namespace plotsmith::render

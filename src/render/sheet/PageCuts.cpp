@@ -6,20 +6,20 @@
 namespace plotsmith::render {
 namespace {
 
-/// Sizes in a file are rounded, so that what fits may seem to be a little too large.
+/// Sizes in files are rounded, so rows or columns that fit may seem a little too large. In points.
 constexpr double kSlack = 0.01;
 constexpr int kLeastPercent = 10, kMostPercent = 100;
 
-/// Rows or columns of a page, from 1, both ends inside.
+/// The first and the last row or column of a page, from 1.
 struct Lines {
   std::int32_t first, last;
 };
 
-/// The page that begins with `first`: it ends where the room does, or at a break that somebody has set.
+/// Returns the lines of the page that begins with `first`. It ends where the room ends, or at a page break.
 Lines PageFrom(std::int32_t first, std::int32_t last, const xlsx::GridLines& lines, double room,
                const std::vector<std::int32_t>& breaks) {
   const double end = lines.EdgeOf(first - 1) + room + kSlack;
-  // IndexAt counts from 0, so it is the number of the line before the one that the room ends in
+  // IndexAt counts from 0, so its result is the number of the line before the one in which the room ends.
   std::int32_t fitting = std::clamp(lines.IndexAt(end).first, first, last);
   if (lines.EdgeOf(last) <= end) fitting = last;
   const auto next = std::lower_bound(breaks.begin(), breaks.end(), first);
@@ -45,7 +45,7 @@ std::vector<Lines> ListPages(Lines all, const xlsx::GridLines& lines, double roo
 Lines RowsOf(const xlsx::CellRange& range) { return {range.row1, range.row2}; }
 Lines ColumnsOf(const xlsx::CellRange& range) { return {range.column1, range.column2}; }
 
-/// What is between the margins, at a scale.
+/// The room between the margins at a scale, in points of the sheet.
 struct Room {
   double width, height;
 };
@@ -54,7 +54,8 @@ Room RoomOf(const xlsx::PageSetup& setup, double scale) {
           std::max(setup.paperHeight - setup.top - setup.bottom, 1.0) / scale};
 }
 
-/// Whether all ranges fit into the pages that the setup allows; breaks don't count then, as in Excel.
+/// Returns whether all ranges fit into the pages that the setup allows. As in Excel, page breaks don't count
+/// for that.
 bool Fits(const xlsx::PageSetup& setup, const xlsx::SheetGeometry& geometry,
           const std::vector<xlsx::CellRange>& ranges, double scale) {
   const Room room = RoomOf(setup, scale);
@@ -67,7 +68,7 @@ bool Fits(const xlsx::PageSetup& setup, const xlsx::SheetGeometry& geometry,
   });
 }
 
-/// The largest whole percentage at which the ranges fit.
+/// Returns the largest scale, in whole percents, at which the ranges fit.
 double FittingScale(const xlsx::PageSetup& setup, const xlsx::SheetGeometry& geometry,
                     const std::vector<xlsx::CellRange>& ranges) {
   int fits = kLeastPercent, tooLarge = kMostPercent + 1;
@@ -78,7 +79,7 @@ double FittingScale(const xlsx::PageSetup& setup, const xlsx::SheetGeometry& geo
   return fits / 100.0;
 }
 
-/// The pages of one range, row of pages by row of pages or column by column.
+/// Appends the pages of a range, by rows or by columns of pages as the setup says.
 void ListRange(const xlsx::PageSetup& setup, const std::vector<Lines>& rows,
                const std::vector<Lines>& columns, std::size_t most, std::vector<xlsx::CellRange>& pages) {
   const auto add = [&](const Lines& row, const Lines& column) {

@@ -11,13 +11,13 @@ namespace plotsmith::render {
 
 /// The pages of a printed sheet.
 struct PageCuts {
-  double scale = 1;                    ///< points on the paper for a point of the sheet
-  std::vector<xlsx::CellRange> pages;  ///< the cells of each, in the order of printing
-  std::size_t count = 0;               ///< of all pages, those beyond `pages` included
+  double scale = 1;                    ///< size on the paper divided by the size on the sheet
+  std::vector<xlsx::CellRange> pages;  ///< the cells of each page, in the order of printing
+  std::size_t count = 0;               ///< number of all pages, also of those that aren't in `pages`
 };
 
-/// Cuts ranges of cells into pages: as many whole rows and columns as fit between the margins, at least one
-/// of each. Each range begins a page. `most` pages are listed.
+/// Divides ranges of cells into pages. A page has as many whole rows and columns as fit between the margins,
+/// but at least one of each. Each range begins on a new page. The result lists at most `most` pages.
 PageCuts CutPages(const xlsx::PageSetup& setup, const xlsx::SheetGeometry& geometry,
                   const std::vector<xlsx::CellRange>& ranges, std::size_t most);
 

@@ -20,7 +20,7 @@ namespace plotsmith::render {
 namespace {
 
 constexpr std::size_t kMostPages = 100;
-constexpr double kLargestPage = 14400;  // points, as PDF allows
+constexpr double kLargestPage = 14400;  // points, the limit of PDF
 constexpr const char* kPrintTitles = "_xlnm.Print_Titles";
 constexpr Color kWhite{255, 255, 255, 1};
 
@@ -31,7 +31,7 @@ Drawing EmptyPage(const xlsx::PageSetup& setup, const std::string& title) {
   return page;
 }
 
-/// One page, as large as PDF allows, in place of the setup's own.
+/// Returns a setup of one page that is as large as PDF allows.
 xlsx::PageSetup OnePage(const xlsx::PageSetup& setup) {
   xlsx::PageSetup one;
   one.paperWidth = one.paperHeight = kLargestPage;
@@ -41,7 +41,7 @@ xlsx::PageSetup OnePage(const xlsx::PageSetup& setup) {
   return one;
 }
 
-/// Says what of a printed page isn't drawn.
+/// Adds notes about what isn't drawn of printed pages.
 void NoteMissing(const xlsx::Workbook& book, const xlsx::SheetEntry& sheet, const xlsx::PageSetup& setup,
                  Notes& notes) {
   if (setup.hasHeaderOrFooter) notes.emplace_back("Headers and footers aren't drawn.");
@@ -56,7 +56,7 @@ void NoteMissing(const xlsx::Workbook& book, const xlsx::SheetEntry& sheet, cons
   if (hasTitles) notes.emplace_back("Rows and columns that repeat on each page are drawn once.");
 }
 
-/// The pages of a sheet with cells.
+/// Draws the pages of a sheet with cells.
 class WorksheetPages {
  public:
   WorksheetPages(xlsx::Workbook& book, const xlsx::SheetEntry& sheet, Paper paper, const TextMeasure& measure,
@@ -94,7 +94,7 @@ class WorksheetPages {
   }
 
  private:
-  /// From A1 to the last cell, chart or shape; absent for an empty sheet.
+  /// Returns the range from A1 to the last cell, chart or shape. Returns nothing for an empty sheet.
   std::optional<xlsx::CellRange> AllThatShows() {
     auto all = reader_.PrintedCells();
     if (all) AddLongTexts(*all);
@@ -106,8 +106,8 @@ class WorksheetPages {
     return all;
   }
 
-  /// Long texts in the last cells of rows go over the columns behind. Of a large sheet only the beginning is
-  /// looked at.
+  /// Extends a range by the columns over which long texts in the last cells of rows extend. In a large sheet,
+  /// only the first rows are examined.
   void AddLongTexts(xlsx::CellRange& all) {
     constexpr std::int32_t kMostCells = 200000;
     const std::int32_t columns = all.column2, rows = std::min(all.row2, kMostCells / columns + 1);
@@ -118,9 +118,10 @@ class WorksheetPages {
     }
   }
 
-  /// The row or column, from 1, in which something ends.
+  /// Returns the row or column, from 1, in which a place in points is.
   static std::int32_t LineAt(const xlsx::GridLines& lines, double end) {
-    constexpr double kEdge = 0.05;  // what ends on a line doesn't reach into the next one
+    constexpr double kEdge =
+        0.05;  // points; a shape that ends on a grid line isn't in the next row or column
     return lines.IndexAt(end - kEdge).first + 1;
   }
 
@@ -146,7 +147,7 @@ class WorksheetPages {
     return page;
   }
 
-  /// Where the cells of a page begin on the paper.
+  /// Returns where the cells of a page begin on the paper.
   Point CornerOn(const Drawing& page, const Rect& area, double scale) const {
     Point corner{setup_.left, setup_.top};
     const double restAcross = page.width - setup_.left - setup_.right - area.width * scale;
@@ -156,7 +157,7 @@ class WorksheetPages {
     return corner;
   }
 
-  /// What screen readers hear of the charts on a page.
+  /// Returns the description of the charts on a page, for screen readers.
   std::string DescriptionOf(const Rect& area) const {
     std::string text;
     for (const DrawnShape& shape : shapes_) {
@@ -177,7 +178,7 @@ class WorksheetPages {
   std::vector<xlsx::CellRange> ranges_;
 };
 
-/// A chart sheet: its chart between the margins.
+/// Draws a chart sheet, which has its chart between the margins.
 std::vector<Drawing> DrawChartSheet(xlsx::Workbook& book, const xlsx::SheetEntry& sheet,
                                     const TextMeasure& measure, Notes& notes) {
   const auto chart = book.ChartOf(sheet);

@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "render/ChartDrawing.h"
 #include "render/Drawing.h"
 #include "render/TextMeasure.h"
+#include "render/chart/ChartDrawing.h"
 
 namespace plotsmith::xlsx {
 class Workbook;
@@ -13,15 +13,15 @@ struct SheetEntry;
 
 namespace plotsmith::render {
 
-/// What a sheet is drawn on.
+/// The pages that a sheet is drawn on.
 enum class Paper {
-  kPrinted,  ///< pages of the size that the sheet's setup says, between its margins
-  kOne,      ///< one page that is as large as what the sheet shows, up to 200 inches
+  kPrinted,  ///< pages with the size and the margins of the page setup
+  kOne,      ///< one page as large as the contents of the sheet, up to 200 inches
 };
 
-/// The pages of a sheet, with its cells and what is drawn on them. A chart sheet is one page. Of a sheet with
-/// more than a hundred pages the first hundred are drawn, and an empty sheet has none. A sheet that can't be
-/// read is error 1004.
+/// Draws the pages of a sheet with its cells, charts and shapes. A chart sheet has one page, an empty sheet
+/// none. If a sheet has more than a hundred pages, the first hundred are drawn. What isn't drawn is added to
+/// `notes`. Raises error 1004 if the sheet can't be read.
 std::vector<Drawing> DrawSheet(xlsx::Workbook& book, const xlsx::SheetEntry& sheet, Paper paper,
                                const TextMeasure& measure, Notes& notes);
 

@@ -19,39 +19,49 @@ class Worksheet;
 
 namespace plotsmith::render {
 
-/// A cell as it is printed.
+/// The contents of a cell.
 struct PrintedCell {
   excel::CellValue::Kind kind = excel::CellValue::Kind::kEmpty;
-  double number = 0;        ///< of a number
-  bool general = false;     ///< a number without a number format of its own
-  std::uint32_t style = 0;  ///< for SheetReader::LookOf
-  std::string text;         ///< the same as Range.Text
+  double number = 0;        ///< value of a number or date
+  bool general = false;     ///< a number in the format General
+  std::uint32_t style = 0;  ///< argument of SheetReader::LookOf
+  std::string text;         ///< displayed text, as Range.Text returns it
 
+  /// Returns whether the cell has no value.
   bool IsEmpty() const { return kind == excel::CellValue::Kind::kEmpty; }
+  /// Returns whether the cell has a number or a date.
   bool IsNumber() const {
     return kind == excel::CellValue::Kind::kNumber || kind == excel::CellValue::Kind::kDate;
   }
 };
 
-/// A worksheet of the embedded host, as far as a printed page shows it. What can't be read throws
-/// RuntimeError.
+/// Reads what printed pages show of a worksheet. Rows and columns count from 1. Members throw RuntimeError if
+/// the sheet can't be read.
 class SheetReader {
  public:
+  /// The workbook and the sheet must outlive the reader.
   SheetReader(xlsx::Workbook& book, xlsx::Worksheet& sheet);
 
+  /// Returns whether a cell has no value.
   bool IsEmptyAt(std::int32_t row, std::int32_t column);
+  /// Returns the contents of a cell.
   PrintedCell CellAt(std::int32_t row, std::int32_t column);
+  /// Returns the look of a style. The reference is valid as long as the reader.
   const xlsx::CellLook& LookOf(std::uint32_t style);
+  /// Returns the look of a cell.
   const xlsx::CellLook& LookAt(std::int32_t row, std::int32_t column);
+  /// The sizes of rows and columns.
   const xlsx::SheetGeometry& Geometry() const { return geometry_; }
+  /// The merged ranges of the sheet.
   const std::vector<xlsx::CellRange>& MergedCells();
-  /// The cells that have a value, a filling or a border, as the rectangle from A1 on; absent without any.
+  /// Returns the range from A1 to the last cell that has a value, a filling or a border. Returns nothing if
+  /// there is no such cell.
   std::optional<xlsx::CellRange> PrintedCells();
-  /// In points from the sheet's corner.
+  /// Returns the rectangle of a range in points from the top left corner of the sheet.
   Rect AreaOf(const xlsx::CellRange& cells) const;
 
  private:
-  /// Whether anything is to be seen of the cell.
+  /// Returns whether a cell has a value, a filling or a border.
   bool Shows(std::int32_t row, std::int32_t column);
 
   xlsx::Workbook& book_;

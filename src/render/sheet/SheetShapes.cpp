@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "host/excel/Constants.h"
-#include "render/ChartDrawing.h"
+#include "render/chart/ChartDrawing.h"
 #include "render/shapes/ShapeObjects.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/SheetDrawing.h"
@@ -21,7 +21,7 @@ Drawing DrawnChart(xlsx::SheetShape& shape, const Rect& place, const TextMeasure
   return DrawChart(held.Part(), place.width, place.height, measure, notes);
 }
 
-/// A shape that is no chart, with room around it for what sticks out.
+/// Draws a shape that isn't a chart, with a margin for parts outside of its frame.
 DrawnShape DrawnObject(xlsx::SheetShape& shape, const Rect& place, int number, const ImageSource& images,
                        const TextMeasure& measure, Notes& notes) {
   constexpr double kThickLine = 12;
@@ -49,7 +49,7 @@ std::vector<DrawnShape> DrawShapes(xlsx::Workbook& book, xlsx::Worksheet& sheet,
     const xlsx::Frame frame = shape->PlacedFrame();
     const Rect place{frame.left, frame.top, frame.width, frame.height};
     const bool isChart = shape->Type() == excel::msoChart;
-    // its rows or columns are hidden; a line may have no height, or no width
+    // Its rows or columns are hidden. A line may have no height or no width.
     if (isChart ? place.width <= 0 || place.height <= 0 : place.width <= 0 && place.height <= 0) continue;
     Notes own;
     try {
@@ -61,7 +61,7 @@ std::vector<DrawnShape> DrawShapes(xlsx::Workbook& book, xlsx::Worksheet& sheet,
     } catch (const runtime::RuntimeError&) {
       notes.push_back("\"" + shape->Name() + "\": It can't be read; nothing is drawn.");
     }
-    // the notes on a shape name it themselves
+    // Notes on a shape already name it.
     for (const std::string& note : own)
       notes.push_back((isChart ? "\"" + shape->Name() + "\": " : "") + note);
   }

@@ -12,14 +12,15 @@ class Worksheet;
 
 namespace plotsmith::render {
 
-/// What is drawn on a sheet, and where, in points from the sheet's corner.
+/// A chart or shape on a sheet. Places are in points from the top left corner of the sheet.
 struct DrawnShape {
-  Rect place;
-  Drawing drawing;
-  Point corner;  ///< of the drawing; a shape that is turned, or has a thick line, sticks out of its place
+  Rect place;       ///< rectangle of its anchor
+  Drawing drawing;  ///< may extend beyond `place` if the shape is turned or has a thick line
+  Point corner;     ///< top left corner of the drawing
 };
 
-/// All charts and shapes of a sheet, from back to front.
+/// Draws all charts and shapes of a sheet, and returns them from back to front. What isn't drawn is added to
+/// `notes`.
 std::vector<DrawnShape> DrawShapes(xlsx::Workbook& book, xlsx::Worksheet& sheet, const TextMeasure& measure,
                                    Notes& notes);
 

@@ -6,7 +6,8 @@
 
 namespace plotsmith::render {
 
-/// The element of a PNG picture, which holds the picture itself; nothing for what is none.
+/// Returns the image element of a PNG picture, which contains the picture. Returns an empty text if the
+/// picture can't be drawn.
 std::string ImageElement(const ImageItem& image);
 
 }  // namespace plotsmith::render

@@ -12,7 +12,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// "#F00" for "#FF0000".
+/// Returns a colour as "#RRGGBB", or in its short form: "#F00" for "#FF0000".
 std::string ShortHex(const Color& color) {
   std::string hex = HexOf(color);
   if (hex[1] == hex[2] && hex[3] == hex[4] && hex[5] == hex[6]) hex = {hex[0], hex[1], hex[3], hex[5]};
@@ -117,15 +117,15 @@ std::string GradientElement(const GradientFill& gradient, const Rect& bounds) {
            SvgNumber(gradient.focus.y) + "\" r=\"" + SvgNumber(UnitRadiusOf(gradient)) + "\">" +
            StopsOf(gradient) + "</radialGradient>";
   }
-  // Along an edge it is the same for all bounds, so that all that is filled alike shares one. Any other
-  // angle would be bent with the bounds.
+  // A gradient along an edge can be given in fractions of the bounds, so all shapes with this filling share
+  // one element. Other angles would change with the proportions of the bounds.
   const bool shared = std::fmod(gradient.angle, 90) == 0;
   const GradientLine line = LineOf(gradient, shared ? Rect{0, 0, 1, 1} : bounds);
   return "<linearGradient id=\"@\"" + LineAttributes(line) +
          (shared ? "" : " gradientUnits=\"userSpaceOnUse\"") + ">" + StopsOf(gradient) + "</linearGradient>";
 }
 
-/// The set pixels of a tile, neighbours in a row as one rectangle.
+/// Returns the set pixels of a tile as a path. Neighbours in a row are one rectangle.
 std::string PixelsOf(const PatternTile& tile) {
   std::string path;
   for (int y = 0; y < kPatternSize; ++y) {
@@ -165,7 +165,7 @@ std::string FillAttributes(const Fill& fill, const Rect& bounds, SvgDefinitions&
   }
   const auto* gradient = std::get_if<GradientFill>(&fill);
   if (gradient == nullptr || gradient->stops.empty()) return " fill=\"none\"";
-  // what has no extent shows nothing of a gradient
+  // A shape without an extent shows nothing of a gradient.
   if (!(bounds.width > 0 && bounds.height > 0)) return ColorAttributes(gradient->stops.front().color);
   return " fill=\"url(#" + definitions.IdOf(GradientElement(*gradient, bounds)) + ")\"";
 }

@@ -8,22 +8,22 @@
 
 namespace plotsmith::render {
 
-/// A number with at most two decimals, in as few characters as it takes.
+/// Returns a number with at most two decimals, in as few characters as possible.
 std::string SvgNumber(double value);
 /// Appends a number that is given in hundredths, in the same way.
 void AppendHundredths(std::string& text, long long hundredths);
-/// Text or an attribute's value, with the characters replaced that XML wants replaced, and those left out
-/// that it can't hold.
+/// Escapes a text for elements and attributes of XML. Characters that XML doesn't allow are left out.
 std::string SvgEscape(std::string_view text);
 
-/// The definitions that fillings refer to, each written once.
+/// Collects the definitions that fillings refer to. Equal definitions are written once.
 class SvgDefinitions {
  public:
-  /// `prefix` begins all ids.
+  /// All ids begin with `prefix`.
   explicit SvgDefinitions(std::string prefix = "f") : prefix_(std::move(prefix)) {}
-  /// The number under which the element is known; `element` holds its tag with "@" in the place of the id.
+  /// Returns the id of an element, which is added if it is new. `element` is its markup with "@" in place of
+  /// the id.
   std::string IdOf(const std::string& element);
-  /// The `defs` element, or nothing.
+  /// Returns the `defs` element, or an empty text if there are no definitions.
   std::string Text() const;
 
  private:
@@ -32,7 +32,7 @@ class SvgDefinitions {
   std::string text_;
 };
 
-/// The attributes of a filling, with a blank in front: ` fill="#FF0000"`. `bounds` is what it fills.
+/// Returns the attributes of a filling of `bounds`, with a blank in front, such as ` fill="#FF0000"`.
 std::string FillAttributes(const Fill& fill, const Rect& bounds, SvgDefinitions& definitions);
 
 }  // namespace plotsmith::render

@@ -13,7 +13,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// Writes numbers of a path one after another, with a blank only where they would run together.
+/// Writes the commands and numbers of a path, with a blank only between numbers that would run together.
 class PathText {
  public:
   void Command(char letter) {
@@ -32,7 +32,8 @@ class PathText {
   bool afterNumber_ = false;
 };
 
-/// A point on a grid of hundredths, so that differences don't add up their rounding.
+/// A point on a grid of hundredths of a point. Relative steps between such points don't add up rounding
+/// errors.
 struct GridPoint {
   long long x = 0, y = 0;
 };
@@ -82,7 +83,7 @@ std::string PathData(const Path& path) {
   return text.Text();
 }
 
-/// `hasCorners` says that joins are seen.
+/// Returns the attributes of an outline. `hasCorners` says whether the form of corners is visible.
 std::string StrokeAttributes(const Stroke& stroke, bool hasCorners) {
   if (!(stroke.width > 0)) return {};
   std::string text = " stroke=\"" + HexOf(stroke.color) + '"';
@@ -103,7 +104,7 @@ std::string StrokeAttributes(const Stroke& stroke, bool hasCorners) {
   return text;
 }
 
-/// The original font first, then its substitute, then whatever the viewer has of the kind.
+/// Returns a font family for CSS: the original font, its substitute, and the generic family.
 std::string FontFamilies(const std::string& family) {
   const std::string_view substitute = SubstituteFor(family);
   std::string list;
@@ -126,7 +127,8 @@ std::string FontAttributes(const std::string& family, double size, const Font& u
   return text;
 }
 
-/// Family and size of most texts, which the root element says for all. Empty without a text.
+/// Returns the most frequent family and size, which the root element sets for all texts. They are empty and 0
+/// if there is no text.
 Font UsualFont(const Drawing& drawing) {
   std::map<std::pair<std::string, double>, int> counts;
   int most = 0;
@@ -142,16 +144,17 @@ Font UsualFont(const Drawing& drawing) {
   return usual;
 }
 
-/// Whether a viewer would drop blanks of the text unless it is told to keep them.
+/// Returns whether a text has blanks that viewers drop unless an attribute preserves them.
 bool LosesBlanks(std::string_view text) {
   return text.starts_with(' ') || text.ends_with(' ') || text.find("  ") != std::string_view::npos ||
          text.find_first_of("\t\n") != std::string_view::npos;
 }
 
-/// Begins all ids until the rest of the file is known. No text has it, as XML can't hold it.
+/// A placeholder for the prefix of ids while the file is written. No text contains it, as XML doesn't allow
+/// it.
 constexpr const char* kPrefixLeftOpen = "\x01";
 
-/// A prefix that the ids of other drawings don't have, made of all that is in the file.
+/// Returns a prefix for ids, a hash of the whole file, so that the ids of other drawings differ.
 std::string PrefixFor(std::string_view svg) {
   std::uint32_t hash = 2166136261;  // FNV-1a
   for (const char byte : svg) hash = (hash ^ static_cast<unsigned char>(byte)) * 16777619;

@@ -6,8 +6,9 @@
 
 namespace plotsmith::render {
 
-/// The drawing as SVG 1.1: texts are texts, and it has a title and a description. Its size is in points, so
-/// that it is as large on a page as the chart is. Several can be put into one page: their ids differ.
+/// Returns a drawing as SVG 1.1. Texts stay texts, and the file has a title and a description. Its size is in
+/// points, so it is as large on a page as the chart in Excel. Several drawings can be embedded into one page,
+/// as their ids differ.
 std::string MakeSvg(const Drawing& drawing);
 
 }  // namespace plotsmith::render

@@ -6,17 +6,17 @@
 #include <utility>
 #include <vector>
 
-#include "render/families/Plot.h"
+#include "render/plot/Plot.h"
 #include "render/threed/Solids.h"
 
 namespace plotsmith::render {
 namespace {
 
-/// A border of an area: shares of the value axis, one for each category.
+/// A border of an area: a share of the value axis for each category.
 using Border = std::vector<double>;
 
-/// The borders below and above each series, as shares of the value axis. Areas lie on each other where the
-/// group is stacked. A missing value adds nothing.
+/// Returns the lower and the upper border of each series. They are stacked if the group is. A missing value
+/// adds nothing.
 std::vector<std::pair<Border, Border>> BordersOf(const Stage& stage) {
   const GroupModel& group = stage.Group();
   const Extents extents = StackValues(group);
@@ -34,21 +34,22 @@ std::vector<std::pair<Border, Border>> BordersOf(const Stage& stage) {
   return borders;
 }
 
-/// A point for the label of a value, if there is one.
+/// Keeps a point for its label. A point without a value isn't kept.
 void AddPoint(Plot& plot, const GroupModel& group, std::size_t series, std::size_t point, Point at) {
   const SeriesModel& one = group.series[series];
   if (point >= one.values.size() || !std::isfinite(one.values[point])) return;
   plot.Keep({&group, &one, point, {at.x, at.y, 0, 0}});
 }
 
-/// The numbers of the series in the order in which their places in the depth are painted.
+/// Returns the numbers of the series, from 0, in painting order.
 std::vector<std::size_t> SeriesBackToFront(const Stage& stage, double eye) {
   std::vector<double> middles;
   for (std::size_t s = 0; s < stage.Group().series.size(); ++s) middles.push_back(stage.Depth(s).Middle());
   return BackToFront(middles, eye);
 }
 
-/// The stretches between neighbouring categories in painting order; each by the number of its first category.
+/// Returns the stretches between neighbouring categories in painting order. The number of a stretch is that
+/// of its first category, from 0.
 std::vector<std::size_t> StretchesBackToFront(const Stage& stage, double eye) {
   std::vector<double> middles;
   for (std::size_t i = 0; i + 1 < stage.CategoryCount(); ++i) {
@@ -57,7 +58,7 @@ std::vector<std::size_t> StretchesBackToFront(const Stage& stage, double eye) {
   return BackToFront(middles, eye);
 }
 
-/// A border between two neighbouring categories.
+/// A part of a border between two neighbouring categories.
 struct Edge {
   double from = 0, to = 0;
 
@@ -86,8 +87,8 @@ class AreaPainter {
   }
 
  private:
-  /// Paints areas that lie on each other: their outer strips, their ends, and then their fronts, which lie in
-  /// one plane in front of all that.
+  /// Paints stacked areas: their strips, their ends, and then their fronts, which are in one plane before all
+  /// others.
   void PaintPile(const std::vector<std::size_t>& pile) {
     for (const std::size_t stretch : stretches_) {
       const auto seen = [&](std::size_t series) {
@@ -104,7 +105,8 @@ class AreaPainter {
     for (const std::size_t series : pile) PaintFront(series);
   }
 
-  /// The strips below and above between two categories. Where they cross, what was below goes on above.
+  /// Paints the lower and the upper strip between two categories. If the borders cross, the strips are
+  /// exchanged there.
   void PaintStretch(std::size_t stretch, std::size_t lowest, std::size_t highest) {
     const Edge below = EdgeOf(borders_[lowest].first, stretch),
                above = EdgeOf(borders_[highest].second, stretch);
@@ -119,7 +121,7 @@ class AreaPainter {
     }
   }
 
-  /// A strip over the depth of the series, whose outside is above or below.
+  /// Paints a strip over the depth of a series. Its outside is above or below.
   void PaintStrip(std::size_t stretch, double from, double to, const Edge& edge, std::size_t series,
                   bool up) {
     const double left = stage_.Category(stretch).Middle(), right = stage_.Category(stretch + 1).Middle();
@@ -143,7 +145,7 @@ class AreaPainter {
                                       std::pair{high, depth.to}, std::pair{high, depth.from}}) {
       face.push_back(stage_.At(projection_, across, value, back));
     }
-    if (across < 0.5) std::reverse(face.begin(), face.end());  // the left end
+    if (across < 0.5) std::reverse(face.begin(), face.end());  // This is the left end.
     AddFaces(canvas_, projection_, {std::move(face)}, LookOf(series, Role::kSide));
   }
 
@@ -180,7 +182,7 @@ class AreaPainter {
   std::vector<std::size_t> stretches_;
 };
 
-/// Paints the line of a series, stretch by stretch.
+/// Paints the line of a series as a ribbon.
 void PaintRibbon(Plot& plot, const Stage& stage, const Projection& projection, std::size_t series,
                  const std::vector<std::size_t>& stretches) {
   const SeriesModel& one = stage.Group().series[series];

@@ -14,14 +14,14 @@
 namespace plotsmith::render {
 namespace {
 
-/// The place of a bar, as shares of the axes.
+/// The place of a bar, in shares of the axes.
 struct Standing {
   std::size_t series = 0, point = 0;
   Span across, depth, along;
   bool negative = false;
 };
 
-constexpr std::size_t kMostBars = 60'000;  // more can't be told apart, and each has several faces
+constexpr std::size_t kMostBars = 60'000;  // More can't be told apart, and each has several faces.
 
 std::vector<Standing> BarsOf(const Stage& stage) {
   const GroupModel& group = stage.Group();
@@ -41,8 +41,8 @@ std::vector<Standing> BarsOf(const Stage& stage) {
   return bars;
 }
 
-/// What is farther from the eye is painted first. Bars stand in a grid, so comparing one direction after
-/// another is enough.
+/// Orders bars from the farthest to the nearest. Bars are in a grid, so it is enough to compare one direction
+/// after the other.
 void SortBackToFront(std::vector<Standing>& bars, const Point3& eye) {
   const auto distances = [&](const Standing& bar) {
     return std::array{std::abs(bar.depth.Middle() - eye.z), std::abs(bar.across.Middle() - eye.x),
@@ -52,8 +52,8 @@ void SortBackToFront(std::vector<Standing>& bars, const Point3& eye) {
                    [&](const Standing& a, const Standing& b) { return distances(a) > distances(b); });
 }
 
-/// Where forms end that narrow, on either side of the base: at the end of their pile, or at the greatest of
-/// all.
+/// The places of the tips of cones and pyramids on the value axis: the end of their stack, or the greatest
+/// value of all.
 class Tips {
  public:
   Tips(const Stage& stage, const std::vector<Standing>& bars) : base_(stage.Value(stage.Base())) {
@@ -64,7 +64,7 @@ class Tips {
       Reach(all_[bar.negative], bar.along.to);
     }
   }
-  /// The width of a form at both of the bar's ends, as shares of the bar's own.
+  /// Returns the widths of a form at the base and at the end of a bar, as shares of the width of the bar.
   std::pair<double, double> WidthsOf(const Stage& stage, const Standing& bar, bool toGreatest) const {
     const double tip = toGreatest                  ? all_[bar.negative]
                        : stage.Group().IsStacked() ? piles_[bar.negative][bar.point]
@@ -82,8 +82,9 @@ class Tips {
   }
 
   double base_;
-  std::array<std::vector<double>, 2> piles_;  ///< of positive and of negative bars, by category
-  std::array<double, 2> all_ = {};
+  /// The ends of the stacks of positive and of negative bars, by category.
+  std::array<std::vector<double>, 2> piles_;
+  std::array<double, 2> all_ = {};  ///< the farthest of these ends
 };
 
 BarSpace SpaceOf(const Stage& stage, const Projection& projection, const Standing& bar) {
@@ -96,7 +97,7 @@ BarSpace SpaceOf(const Stage& stage, const Projection& projection, const Standin
   return space;
 }
 
-/// Around the front of a bar, which its label belongs to.
+/// Returns the rectangle around the front of a bar, for its label.
 Rect FrontOf(const Projection& projection, const BarSpace& space) {
   const Point a = projection.Project(space.from);
   const Point b = projection.Project({space.to.x, space.to.y, space.from.z});

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "render/families/Plot.h"
+#include "render/plot/Plot.h"
 #include "render/threed/Stage.h"
 
 namespace plotsmith::render {
 
-/// Draws the bars or columns of a group, those that others may cover first.
+/// Draws the bars or columns of a group as bodies, from back to front.
 void DrawBars3D(Plot& plot, const Stage& stage, const Projection& projection);
 
 }  // namespace plotsmith::render

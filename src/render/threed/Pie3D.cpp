@@ -5,9 +5,9 @@
 #include <numbers>
 #include <vector>
 
+#include "render/fills/LitFill.h"
 #include "render/labels/DataLabels.h"
 #include "render/labels/LabelText.h"
-#include "render/threed/Shading.h"
 #include "render/threed/View.h"
 #include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/package/Xml.h"
@@ -16,14 +16,14 @@ namespace plotsmith::render {
 namespace {
 
 constexpr double kRadian = std::numbers::pi / 180;
-constexpr double kThickness = 0.12;               // of the diameter, at a height of 100 percent
-constexpr double kFlattest = 10, kSteepest = 90;  // degrees of elevation, as Excel has them for pies
+constexpr double kThickness = 0.12;               // share of the diameter, at a height of 100 percent
+constexpr double kFlattest = 10, kSteepest = 90;  // Excel's limits for the elevation of pies, in degrees
 constexpr double kRimLight = 0.75, kEdgeLight = 0.55, kCutLight = 0.65;
 
 struct Slice {
   std::size_t point = 0;
   double from = 0, sweep = 0;  ///< degrees clockwise from the back
-  double explosion = 0;        ///< of the radius
+  double explosion = 0;        ///< in radii
   double share = 0;
 
   double Middle() const { return from + sweep / 2; }
@@ -47,7 +47,7 @@ std::vector<Slice> SlicesOf(const SeriesModel& series, double firstAngle) {
   return slices;
 }
 
-/// The disc on the picture: an ellipse for its upper side, and how far the lower one lies below it.
+/// The disc on the picture. Its upper side is an ellipse, and its lower side the same ellipse farther down.
 class Disc {
  public:
   Disc(const View& view, const Rect& room, double explosion) {
@@ -62,7 +62,7 @@ class Disc {
 
   double Drop() const { return drop_; }
   double Flatness() const { return flat_; }
-  /// The upper ellipse that a slice is cut from.
+  /// Returns the ellipse that the upper side of a slice is part of.
   Rect EllipseOf(const Slice& slice) const {
     const double away = slice.explosion * radius_, angle = slice.Middle() * kRadian;
     const Point middle{center_.x + away * std::sin(angle), center_.y - away * std::cos(angle) * flat_};
@@ -76,7 +76,7 @@ class Disc {
 
 Point Below(Point point, double drop) { return {point.x, point.y + drop}; }
 
-/// An upright face of a slice, and how near it is to the viewer.
+/// A vertical face of a slice, and how near it is to the viewer.
 struct Wall {
   Path path;
   Fill fill;
@@ -90,7 +90,7 @@ class SliceWalls {
   SliceWalls(const Disc& disc, const SeriesModel& series, std::vector<Wall>& walls)
       : disc_(disc), series_(series), walls_(walls) {}
 
-  /// The part of the rim that the viewer sees: a quarter turn to either side of the front.
+  /// Adds the visible part of the rim, which is the half of it in front.
   void AddRim(const Slice& slice) {
     for (const double front : {180.0, 540.0}) {
       const double from = std::max(slice.from, front - 90);
@@ -105,7 +105,7 @@ class SliceWalls {
       Add(slice, std::move(path), RimFill(slice, from, to), OnEllipse(top, middle).y);
     }
   }
-  /// The faces that the cuts to its neighbours leave, as far as they look to the front.
+  /// Adds the faces of the cuts between a slice and its neighbours if they face the viewer.
   void AddCuts(const Slice& slice) {
     if (slice.sweep >= 360 - 1e-9) return;
     const double end = slice.from + slice.sweep;
@@ -121,7 +121,7 @@ class SliceWalls {
     path.AddPolygon({middle, edge, Below(edge, disc_.Drop()), Below(middle, disc_.Drop())});
     Add(slice, std::move(path), Lit(StyleOf(slice).fill, kCutLight), (middle.y + edge.y) / 2);
   }
-  /// Darker where the rim turns away to the sides.
+  /// Returns the filling of a part of the rim, which is darker towards the sides.
   Fill RimFill(const Slice& slice, double from, double to) const {
     const Fill& fill = StyleOf(slice).fill;
     const auto* solid = std::get_if<SolidFill>(&fill);
@@ -130,7 +130,7 @@ class SliceWalls {
     GradientFill gradient;
     constexpr int kSteps = 6;
     for (int i = 0; i <= kSteps; ++i) {
-      // from the left, which the angles end at
+      // The angles end at the left, where the gradient begins.
       const double x = across(to) + (across(from) - across(to)) * i / kSteps;
       const double light = kRimLight + (kEdgeLight - kRimLight) * x * x;
       gradient.stops.push_back({static_cast<double>(i) / kSteps, Lit(solid->color, light)});
@@ -173,7 +173,7 @@ namespace {
 DrawnPoint PointOf(const GroupModel& group, const Slice& slice, const Disc& disc) {
   const Rect ellipse = disc.EllipseOf(slice);
   DrawnPoint point{&group, &group.series.front(), slice.point};
-  // the box has the rim too, which labels in front of the disc stay clear of
+  // The box includes the rim, as labels in front of the disc don't cover it.
   point.box = {ellipse.left, ellipse.top, ellipse.width, ellipse.height + disc.Drop()};
   point.angle = slice.from;
   point.sweep = slice.sweep;
@@ -182,7 +182,7 @@ DrawnPoint PointOf(const GroupModel& group, const Slice& slice, const Disc& disc
   return point;
 }
 
-/// What labels beside a disc leave of its room.
+/// Returns the room that labels beside a disc leave.
 Rect WithoutLabels(const Plot& plot, const GroupModel& group, const std::vector<Slice>& slices,
                    const Disc& disc) {
   const LabelsModel& labels = group.series.front().labels;
@@ -199,7 +199,7 @@ Rect WithoutLabels(const Plot& plot, const GroupModel& group, const std::vector<
     across = std::max(across, std::abs(std::sin(slice.Middle() * kRadian)) * width + 2);
     down = std::max(down, std::abs(std::cos(slice.Middle() * kRadian)) * height + 2);
   }
-  constexpr double kMost = 0.35;  // of the room that labels take on either side
+  constexpr double kMost = 0.35;  // share of the room that labels may take on each side
   return Inset(plot.area, std::min(across, plot.area.width * kMost),
                std::min(down, plot.area.height * kMost));
 }
@@ -207,8 +207,9 @@ Rect WithoutLabels(const Plot& plot, const GroupModel& group, const std::vector<
 }  // namespace
 
 void DrawPie3D(xlsx::ChartPart& part, Plot& plot, const GroupModel& group) {
-  const View view = ReadView(xlsx::xml::Child(part.Space(), "chart"), true);
-  const SeriesModel& series = group.series.front();  // a pie shows one
+  const View automatic{.rotation = 0};
+  const View view = ReadView(xlsx::xml::Child(part.Space(), "chart"), automatic);
+  const SeriesModel& series = group.series.front();  // A pie shows one series.
   const std::vector<Slice> slices = SlicesOf(series, view.rotation);
   double explosion = 0;
   for (const Slice& slice : slices) explosion = std::max(explosion, slice.explosion);
@@ -220,7 +221,7 @@ void DrawPie3D(xlsx::ChartPart& part, Plot& plot, const GroupModel& group) {
     adder.AddRim(slice);
     if (explosion > 0) adder.AddCuts(slice);
   }
-  // no wall is in front of an upper side, as all of them lie below
+  // Walls don't cover upper sides, as they are below them.
   DrawWalls(plot.canvas, walls);
   for (const Slice& slice : slices) {
     const ShapeStyle& style = series.StyleOf(slice.point);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/families/Plot.h"
+#include "render/plot/Plot.h"
 
 namespace plotsmith::xlsx {
 class ChartPart;
@@ -8,8 +8,8 @@ class ChartPart;
 
 namespace plotsmith::render {
 
-/// Draws a pie as a disc that one looks at from above, as far as the view's elevation says, in the middle of
-/// `plot.area`. All rays are parallel.
+/// Draws a pie as a disc in the middle of `plot.area`. The view's elevation says how far the disc is seen
+/// from above. The projection is parallel.
 void DrawPie3D(xlsx::ChartPart& part, Plot& plot, const GroupModel& group);
 
 }  // namespace plotsmith::render

@@ -13,7 +13,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// The first group that is drawn as bodies. Excel doesn't mix groups in 3-D.
+/// Returns the first group that is drawn as bodies, or null. Excel doesn't combine groups in 3-D.
 const GroupModel* FindGroup(const ChartModel& chart) {
   for (const GroupModel& group : chart.groups) {
     const bool boxed =
@@ -24,13 +24,13 @@ const GroupModel* FindGroup(const ChartModel& chart) {
   return nullptr;
 }
 
-/// The projection that leaves the labels inside of the room. How much they take depends on where the edges of
-/// the box come to lie, so it is found in steps.
+/// Returns the projection with which the labels stay in the room. Their extent depends on the edges of the
+/// box, so the projection is found in steps.
 Projection FitWithLabels(const Stage& stage, const StageAxes& axes, const View& view, const Rect& area) {
   const BoxShape shape = stage.Shape(view);
   Rect room = area;
   constexpr int kSteps = 4;
-  constexpr double kLeast = 0.1;  // of the area that the box keeps
+  constexpr double kLeast = 0.1;  // share of the area that the box keeps
   for (int step = 0; step < kSteps; ++step) {
     const Rect taken = axes.BoundsOf(Projection(view, shape, room));
     const double left = room.left + (area.left - taken.left), top = room.top + (area.top - taken.top);
@@ -52,7 +52,7 @@ bool DrawPlot3D(xlsx::ChartPart& part, Plot& plot, const Rect& outer) {
     DrawPie3D(part, plot, *group);
     return true;
   }
-  const View view = ReadView(xlsx::xml::Child(part.Space(), "chart"), false);
+  const View view = ReadView(xlsx::xml::Child(part.Space(), "chart"));
   const Stage stage(plot.chart, *group);
   const StageAxes axes(stage, plot.canvas.Measure(), plot.chart.dates);
   const Projection projection = FitWithLabels(stage, axes, view, outer);

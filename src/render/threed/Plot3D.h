@@ -1,6 +1,6 @@
 #pragma once
 
-#include "render/families/Plot.h"
+#include "render/plot/Plot.h"
 
 namespace plotsmith::xlsx {
 class ChartPart;
@@ -8,8 +8,8 @@ class ChartPart;
 
 namespace plotsmith::render {
 
-/// Draws the group of a chart in 3-D: walls, axes with their labels, and the bodies. `outer` is the room for
-/// all that. False if there is nothing that could be drawn so; then nothing was.
+/// Draws the plot of a chart in 3-D: walls, axes with their labels, and bodies. `outer` is the room for all
+/// of them. Returns false, and draws nothing, if the chart has no group in 3-D that can be drawn.
 bool DrawPlot3D(xlsx::ChartPart& part, Plot& plot, const Rect& outer);
 
 }  // namespace plotsmith::render

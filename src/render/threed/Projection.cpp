@@ -8,9 +8,9 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kFar = 1e7;          // times the box, where rays are parallel
-constexpr double kLeastHeight = 0.3;  // of the room that the front keeps, however deep the box is
-constexpr double kFlattest = 0.05, kSteepest = 5;  // limits of height to width, as Excel has them
+constexpr double kFar = 1e7;          // distance of the viewer in a parallel projection, in boxes
+constexpr double kLeastHeight = 0.3;  // share of the room that the front of a deep box keeps
+constexpr double kFlattest = 0.05, kSteepest = 5;  // Excel's limits of height divided by width
 
 double Diagonal(const Box& box) { return std::hypot(box.width, box.height, box.depth); }
 
@@ -25,7 +25,7 @@ Projection::Projection(const View& view, const BoxShape& shape, const Rect& room
   cosElevation_ = std::cos(view.elevation * kRadian);
   side_ = cosRotation_ < 0 ? -1 : 1;
   if (!oblique_ && view.fieldOfView > 0) {
-    distance_ = 0.5 / std::tan(view.fieldOfView / 2 * kRadian) + 0.5;  // outside of the box in any case
+    distance_ = 0.5 / std::tan(view.fieldOfView / 2 * kRadian) + 0.5;  // This is outside of the box.
   }
   if (view.heightPercent) {
     SetShape(shape, *view.heightPercent / 100);
@@ -43,7 +43,7 @@ void Projection::SetShape(const BoxShape& shape, double heightOfWidth) {
   box_.depth = shape.depth * (shape.lying ? box_.height : box_.width);
 }
 
-/// The front takes what the depth, which goes aside and up, leaves of the room.
+/// Makes the front as large as possible. The depth goes sideways and up from it.
 void Projection::FillRoom(const BoxShape& shape, const Rect& room) {
   const double aside = std::abs(sinRotation_), up = std::abs(sinElevation_);
   const double width = std::max(room.width, 1e-3), height = std::max(room.height, 1e-3);
@@ -58,7 +58,7 @@ void Projection::FillRoom(const BoxShape& shape, const Rect& room) {
   }
 }
 
-/// The height of the box at which the picture of it has the proportions of the room.
+/// Finds the height with which the box has the proportions of the room on the picture.
 void Projection::FindShape(const BoxShape& shape, const Rect& room) {
   const double wanted = room.height / std::max(room.width, 1e-3);
   double low = kFlattest, high = kSteepest;
@@ -83,7 +83,7 @@ Point3 Projection::Place(double x, double y, double z) const {
   return {x * box_.width, y * box_.height, z * box_.depth};
 }
 
-/// Before scaling, y down as on the picture.
+/// Returns the place on the picture before it is scaled. y grows downwards.
 Point Projection::Flat(const Point3& place) const {
   const double x = place.x - box_.width / 2, y = place.y - box_.height / 2, z = place.z - box_.depth / 2;
   if (oblique_) return {side_ * x + z * sinRotation_, -(y + side_ * z * sinElevation_)};
@@ -135,7 +135,7 @@ bool Projection::Shows(std::span<const Point3> corners) const {
     const Point a = Project(corners[i]), b = Project(corners[(i + 1) % corners.size()]);
     twiceArea += a.x * b.y - b.x * a.y;
   }
-  constexpr double kLeast = 1e-4;  // square points, below which a face is seen from its edge
+  constexpr double kLeast = 1e-4;  // twice the area, in square points; smaller faces are seen from their edge
   return twiceArea < -kLeast;
 }
 

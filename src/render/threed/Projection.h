@@ -10,39 +10,41 @@
 
 namespace plotsmith::render {
 
-/// A place in the box that a chart in 3-D fills: x to the right, y up, z to the back, from the corner that is
-/// in front at the bottom left when nothing is turned.
+/// A place in the box of a chart in 3-D. The origin is the front bottom left corner of the unturned box; x
+/// grows to the right, y upwards and z to the back.
 struct Point3 {
   double x = 0, y = 0, z = 0;
 
   bool operator==(const Point3&) const = default;
 };
 
+/// The extents of the box, in a unit that the projection chooses.
 struct Box {
   double width = 1, height = 1, depth = 1;
 };
 
-/// How deep a chart is: `depth` is the share of the extent of the category axis, which is the width of the
-/// box, or its height for lying bars.
+/// How deep the box is. The category axis is along its width, or along its height for horizontal bars.
 struct BoxShape {
-  double depth = 1;
-  bool lying = false;
+  double depth = 1;    ///< as a share of the extent of the category axis
+  bool lying = false;  ///< for horizontal bars
 };
 
-/// Where the places of a box are on the picture.
+/// Converts places in the box to places on the picture.
 class Projection {
  public:
-  /// Fits a box into a room. It fills the room unless the view says how high it is; then it is centred.
+  /// Fits a box into a room. It fills the room unless the view sets its height; in that case it is centred.
   Projection(const View& view, const BoxShape& shape, const Rect& room);
 
+  /// The extents of the box.
   const Box& Extent() const { return box_; }
-  /// A place by fractions of the box's extents.
+  /// Returns a place in the box from fractions of its extents.
   Point3 Place(double x, double y, double z) const;
+  /// Returns where a place of the box is on the picture.
   Point Project(const Point3& place) const;
-  /// Where the viewer is; far away where all rays are parallel.
+  /// Returns the place of the viewer. It is far away if the projection is parallel.
   Point3 Eye() const;
-  /// Whether the viewer sees a plane face, whose corners go counter-clockwise for those who look at it from
-  /// outside.
+  /// Returns whether the viewer sees the outside of a plane face. Seen from outside, its corners go
+  /// counter-clockwise.
   bool Shows(std::span<const Point3> corners) const;
 
  private:
@@ -55,16 +57,16 @@ class Projection {
 
   bool oblique_ = false;
   double sinRotation_ = 0, cosRotation_ = 1, sinElevation_ = 0, cosElevation_ = 1;
-  double side_ = 1;  ///< -1 where one looks from behind along axes at right angles
-  double distance_ =
-      0;  ///< of the eye from the middle of a box with a diagonal of 1; 0 is without perspective
+  double side_ = 1;  ///< -1 for a view from behind with axes at right angles
+  /// The distance of the viewer from the middle of a box with a diagonal of 1; 0 is a parallel projection.
+  double distance_ = 0;
   Box box_;
   double scale_ = 1;
   Point origin_;
 };
 
-/// The order in which slices of a box across one of its axes are painted, those that the others may cover
-/// first. `middles` are their places along the axis, `eye` that of the viewer.
+/// Returns the painting order of parts that are beside each other along an axis, by their numbers from 0.
+/// `middles` are their places on the axis, and `eye` is the place of the viewer on it.
 std::vector<std::size_t> BackToFront(std::span<const double> middles, double eye);
 
 }  // namespace plotsmith::render

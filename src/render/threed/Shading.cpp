@@ -1,19 +1,18 @@
 #include "render/threed/Shading.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace plotsmith::render {
 
 double LightOf(const Point3& normal) {
-  // squares of a direction's parts add up to 1, so round bodies go smoothly from one light to the next
+  // The squares of the components add up to 1, so the brightness changes smoothly on round bodies.
   const double vertical = normal.y > 0 ? kTopLight : kBottomLight;
   return normal.z * normal.z * kFrontLight + normal.x * normal.x * kSideLight +
          normal.y * normal.y * vertical;
 }
 
 Point3 NormalOf(std::span<const Point3> corners) {
-  // Newell's sum, which also copes with corners that lie in a line
+  // This is Newell's method, which allows corners on a line.
   Point3 normal;
   for (std::size_t i = 0; i < corners.size(); ++i) {
     const Point3 &a = corners[i], &b = corners[(i + 1) % corners.size()];
@@ -24,42 +23,6 @@ Point3 NormalOf(std::span<const Point3> corners) {
   const double length = std::hypot(normal.x, normal.y, normal.z);
   if (!(length > 0)) return {0, 0, -1};
   return {normal.x / length, normal.y / length, normal.z / length};
-}
-
-Color Lit(const Color& color, double light) {
-  const auto channel = [&](std::uint8_t value) {
-    return static_cast<std::uint8_t>(std::lround(std::clamp(value * light, 0.0, 255.0)));
-  };
-  return {channel(color.red), channel(color.green), channel(color.blue), color.alpha};
-}
-
-Fill Lit(const Fill& fill, double light) {
-  Fill lit = fill;
-  if (auto* solid = std::get_if<SolidFill>(&lit)) {
-    solid->color = Lit(solid->color, light);
-  } else if (auto* gradient = std::get_if<GradientFill>(&lit)) {
-    for (GradientStop& stop : gradient->stops) stop.color = Lit(stop.color, light);
-  } else if (auto* pattern = std::get_if<PatternFill>(&lit)) {
-    pattern->foreground = Lit(pattern->foreground, light);
-    pattern->background = Lit(pattern->background, light);
-  }
-  return lit;
-}
-
-Stroke SeamOf(const Fill& fill) {
-  constexpr double kWidth = 0.3;  // points
-  Stroke seam;
-  seam.color = MainColor(fill);
-  if (seam.color.alpha == 1 && !std::holds_alternative<PatternFill>(fill)) seam.width = kWidth;
-  return seam;
-}
-
-Color MainColor(const Fill& fill) {
-  if (const auto* solid = std::get_if<SolidFill>(&fill)) return solid->color;
-  if (const auto* pattern = std::get_if<PatternFill>(&fill)) return pattern->background;
-  const auto* gradient = std::get_if<GradientFill>(&fill);
-  return gradient != nullptr && !gradient->stops.empty() ? gradient->stops.front().color
-                                                         : Color{255, 255, 255, 0};
 }
 
 }  // namespace plotsmith::render

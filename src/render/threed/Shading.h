@@ -6,22 +6,13 @@
 
 namespace plotsmith::render {
 
-/// How bright faces of a body are, as shares of the colour.
+/// The brightness of faces by their direction, as a share of the colour.
 inline constexpr double kFrontLight = 1, kTopLight = 0.85, kSideLight = 0.7, kBottomLight = 0.6;
 
-/// The direction that a plane face looks in, of the length 1. `corners` go counter-clockwise for those who
-/// look at it from outside. A face without an area looks to the front.
+/// Returns the direction that a plane face looks in, as a vector of length 1. Seen from outside, `corners` go
+/// counter-clockwise. A face without an area looks to the front.
 Point3 NormalOf(std::span<const Point3> corners);
-/// How bright a face is that looks in a direction.
+/// Returns the brightness of a face that looks in a direction, which is a vector of length 1.
 double LightOf(const Point3& normal);
-
-Color Lit(const Color& color, double light);
-/// A filling with all of its colours lit.
-Fill Lit(const Fill& fill, double light);
-/// A thin line in the colour of a filling, for faces without a line of their own: neighbours would show a
-/// hairline of what is behind them where their edges are smoothed. None for what one looks through.
-Stroke SeamOf(const Fill& fill);
-/// The colour that a filling has at first sight: of a pattern the ground, of a gradient its beginning.
-Color MainColor(const Fill& fill);
 
 }  // namespace plotsmith::render

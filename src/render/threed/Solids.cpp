@@ -4,12 +4,17 @@
 #include <cmath>
 #include <numbers>
 
+#include "render/fills/LitFill.h"
 #include "render/threed/Shading.h"
 
 namespace plotsmith::render {
 namespace {
 
 constexpr std::size_t kRingCorners = 32;
+
+/// The two ends of a bar.
+enum class End : std::uint8_t { kBase, kTip };
+
 void AddPolygon(Canvas& canvas, const std::vector<Point>& corners, Tag tag, const Fill& lit,
                 const Look& look) {
   canvas.Add(tag, Path().AddPolygon(corners), lit, look.stroke.width > 0 ? look.stroke : SeamOf(lit));
@@ -22,7 +27,7 @@ std::vector<Point> Projected(const Projection& projection, const Face& face) {
   return corners;
 }
 
-/// The convex outline around points (Andrew's monotone chain).
+/// Returns the convex outline around points (Andrew's monotone chain).
 std::vector<Point> HullOf(std::vector<Point> points) {
   std::sort(points.begin(), points.end(),
             [](Point a, Point b) { return a.x != b.x ? a.x < b.x : a.y < b.y; });
@@ -43,7 +48,7 @@ std::vector<Point> HullOf(std::vector<Point> points) {
   return hull;
 }
 
-/// A corner of the cross-section at a share of the way from base to end.
+/// Returns a place of a bar by its shares: along from base to tip, across, and from front to back.
 Point3 OnBar(const BarSpace& space, double along, double across, double back) {
   const double width = space.baseWidth + (space.endWidth - space.baseWidth) * along;
   const double way = space.backwards ? 1 - along : along;
@@ -56,12 +61,13 @@ Point3 OnBar(const BarSpace& space, double along, double across, double back) {
   return {between(space.from.x, space.to.x, sideways), between(space.from.y, space.to.y, way), depth};
 }
 
-/// The cross-section at the base or at the end, seen from outside.
-Face CapOf(const BarSpace& space, std::span<const Point> outline, bool atEnd) {
+/// Returns the cross-section at an end of a bar as a face.
+Face CapOf(const BarSpace& space, std::span<const Point> outline, End end) {
+  const bool atTip = end == End::kTip;
   Face cap;
-  for (const Point point : outline) cap.push_back(OnBar(space, atEnd ? 1 : 0, point.x, point.y));
-  // the outline goes round counter-clockwise as seen from above, with the depth to the top
-  if (atEnd == (space.backwards != space.alongX)) std::reverse(cap.begin(), cap.end());
+  for (const Point point : outline) cap.push_back(OnBar(space, atTip ? 1 : 0, point.x, point.y));
+  // The outline goes counter-clockwise, with y to the back.
+  if (atTip == (space.backwards != space.alongX)) std::reverse(cap.begin(), cap.end());
   return cap;
 }
 
@@ -69,20 +75,20 @@ bool IsPoint(double width) { return width < 1e-6; }
 
 void AddPyramid(Canvas& canvas, const Projection& projection, const BarSpace& space, const Look& look) {
   constexpr Point kSquare[] = {{0, 0}, {1, 0}, {1, 1}, {0, 1}};
-  const Face base = CapOf(space, kSquare, false), end = CapOf(space, kSquare, true);
+  const Face base = CapOf(space, kSquare, End::kBase), tip = CapOf(space, kSquare, End::kTip);
   std::vector<Face> faces = {base};
-  if (!IsPoint(space.endWidth)) faces.push_back(end);
+  if (!IsPoint(space.endWidth)) faces.push_back(tip);
   for (std::size_t i = 0; i < base.size(); ++i) {
     const std::size_t next = (i + 1) % base.size();
-    // the end runs round the other way than the base
-    Face side = {base[next], base[i], end[end.size() - 1 - i]};
-    if (!IsPoint(space.endWidth)) side.push_back(end[end.size() - 1 - next]);
+    // The corners of the tip go in the other direction than those of the base.
+    Face side = {base[next], base[i], tip[tip.size() - 1 - i]};
+    if (!IsPoint(space.endWidth)) side.push_back(tip[tip.size() - 1 - next]);
     faces.push_back(std::move(side));
   }
   AddFaces(canvas, projection, faces, look);
 }
 
-/// Light from one side of a round body to the other.
+/// Returns the filling of a round body, which is lit from one side to the other.
 Fill Rounded(const Fill& fill, bool alongX) {
   const auto* solid = std::get_if<SolidFill>(&fill);
   if (solid == nullptr) return fill;
@@ -101,13 +107,13 @@ void AddRound(Canvas& canvas, const Projection& projection, const BarSpace& spac
     ring.push_back({0.5 + std::cos(angle) / 2, 0.5 + std::sin(angle) / 2});
   }
   std::vector<Point> all;
-  for (const bool atEnd : {false, true}) {
-    for (const Point corner : Projected(projection, CapOf(space, ring, atEnd))) all.push_back(corner);
+  for (const End end : {End::kBase, End::kTip}) {
+    for (const Point corner : Projected(projection, CapOf(space, ring, end))) all.push_back(corner);
   }
   AddPolygon(canvas, HullOf(std::move(all)), look.tag, Rounded(look.fill, space.alongX), look);
-  for (const bool atEnd : {false, true}) {
-    const Face cap = CapOf(space, ring, atEnd);
-    if (IsPoint(atEnd ? space.endWidth : space.baseWidth) || !projection.Shows(cap)) continue;
+  for (const End end : {End::kBase, End::kTip}) {
+    const Face cap = CapOf(space, ring, end);
+    if (IsPoint(end == End::kTip ? space.endWidth : space.baseWidth) || !projection.Shows(cap)) continue;
     Tag side = look.tag;
     side.role = Role::kSide;
     AddPolygon(canvas, Projected(projection, cap), side, Lit(look.fill, LightOf(NormalOf(cap))), look);

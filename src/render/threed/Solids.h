@@ -9,42 +9,45 @@
 
 namespace plotsmith::render {
 
-/// How a body looks, and what it belongs to. The face that looks to the front most has the tag's role, all
-/// others are kSide.
+/// How a body looks, and what it shows. The foremost face has the role of the tag; the others have kSide.
 struct Look {
   Tag tag;
   Fill fill;
   Stroke stroke;
 };
 
-/// A plane face; its corners go counter-clockwise for those who look at it from outside.
+/// The corners of a plane face. Seen from outside, they go counter-clockwise.
 using Face = std::vector<Point3>;
 
-/// Paints those faces of a convex body that the viewer sees, each lit by its direction.
+/// Paints the visible faces of a convex body, each lit by its direction.
 void AddFaces(Canvas& canvas, const Projection& projection, const std::vector<Face>& faces, const Look& look);
 
-/// Paints a face whichever of its sides is seen, as that of a thin sheet.
+/// Paints a face that is visible from both sides.
 void AddSheet(Canvas& canvas, const Projection& projection, const Face& face, const Look& look);
 
-/// A block between two opposite corners, the lesser one first.
+/// Returns the faces of a block between two opposite corners. `from` has the lower coordinates.
 std::vector<Face> BlockFaces(const Point3& from, const Point3& to);
 
 /// The form of bars in 3-D (ST_Shape).
 enum class BarForm : std::uint8_t { kBox, kCylinder, kCone, kPyramid };
-/// Forms up to the greatest value ("coneToMax") are cut off at the bar's own value.
+/// The form of bars, and where its tip is.
 struct BarShape {
   BarForm form = BarForm::kBox;
+  /// The tip is at the greatest value of the chart, and the form is cut off at the bar's own value
+  /// ("coneToMax").
   bool toGreatest = false;
 };
+/// Returns the form of a name of ST_Shape. Unknown names are boxes.
 BarShape ReadBarShape(std::string_view name);
 
-/// The space of a bar, which grows along x or y.
+/// The space of a bar.
 struct BarSpace {
-  Point3 from, to;  ///< lesser corner first
-  bool alongX = false;
-  bool backwards = false;              ///< a value below the base
-  double baseWidth = 1, endWidth = 1;  ///< shares of the space's cross-section
+  Point3 from, to;                     ///< opposite corners; `from` has the lower coordinates
+  bool alongX = false;                 ///< the bar is horizontal
+  bool backwards = false;              ///< the value is below the base
+  double baseWidth = 1, endWidth = 1;  ///< shares of the width of the space
 };
+/// Paints a bar of a form.
 void AddBar(Canvas& canvas, const Projection& projection, const BarSpace& space, BarForm form,
             const Look& look);
 

@@ -10,7 +10,7 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kLeastDepth = 0.02, kMostDepth = 20;  // of the extent of the category axis
+constexpr double kLeastDepth = 0.02, kMostDepth = 20;  // shares of the extent of the category axis
 
 }  // namespace
 
@@ -37,12 +37,12 @@ std::size_t Stage::BarsOfCategory() const {
 }
 
 double Stage::BarShare() const {
-  if (group_.family != Family::kBar) return 1 / (1 + gapDepth_);  // so that a slot is as deep as it is wide
+  if (group_.family != Family::kBar) return 1 / (1 + gapDepth_);  // A slot is as deep as it is wide.
   return 1 / (static_cast<double>(BarsOfCategory()) + group_.gapWidth / 100);
 }
 
 BoxShape Stage::Shape(const View& view) const {
-  // a bar on an axis of dates is as wide as its day; other bodies go from date to date
+  // A bar on an axis of dates is as wide as its slot. Other bodies extend from date to date.
   const bool byDay = Categories().dates && group_.family == Family::kBar;
   const double slots = byDay ? std::max(Categories().dates->count, 1.0) : static_cast<double>(categories_);
   const double bar = BarShare() / slots;

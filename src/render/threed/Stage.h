@@ -7,61 +7,68 @@
 
 namespace plotsmith::render {
 
-/// A share of an axis, from 0 at its beginning to 1 at its end.
+/// A part of an axis, in shares from 0 at its beginning to 1 at its end.
 struct Span {
   double from = 0, to = 1;
 
   double Middle() const { return (from + to) / 2; }
 };
 
-/// The axes of a chart in 3-D and what is shared out along them, in any view. Shares of the category
-/// axis go to the right, or up with lying bars; those of the value axis the other way; those of the depth to
-/// the back.
+/// The axes of a chart in 3-D, and the places of its categories, series and values along them. Places are
+/// shares of an axis. The category axis goes to the right, or up for horizontal bars; the value axis goes up,
+/// or to the right; the depth goes to the back.
 class Stage {
  public:
-  /// The chart must have a group in 3-D with axes of categories and of values.
+  /// The group must be in 3-D, with an axis of categories and one of values. Chart and group must outlive the
+  /// stage.
   Stage(const ChartModel& chart, const GroupModel& group);
 
+  /// The group that is drawn.
   const GroupModel& Group() const { return group_; }
-  /// Whether a missing value counts as zero, which has a body without a height.
+  /// Returns whether a missing value counts as zero, which has a body without a height.
   bool BlanksAreZero() const { return chart_.blanks == "zero"; }
+  /// The axis of categories.
   const AxisModel& Categories() const { return chart_.axes[static_cast<std::size_t>(group_.category)]; }
+  /// The axis of values.
   const AxisModel& Values() const { return chart_.axes[static_cast<std::size_t>(group_.value)]; }
-  /// Null where all series stand at the same depth.
+  /// The axis of series; null if all series are at the same depth.
   const AxisModel* Series() const;
+  /// Returns whether bars are horizontal.
   bool Lying() const { return group_.horizontal; }
-  /// How deep the box is, for a view.
+  /// Returns how deep the box is in a view.
   BoxShape Shape(const View& view) const;
 
+  /// The number of categories, at least one.
   std::size_t CategoryCount() const { return categories_; }
-  /// Whether the first and the last category lie on the edges of the box.
+  /// Returns whether the first and the last category are at the edges of the box.
   bool StandsOnTicks() const;
-  /// The room of a category, also where values stand on its middle.
+  /// Returns the room of a category, which counts from 0.
   Span Category(std::size_t index) const;
-  /// The room of the bar of a series within its category.
+  /// Returns the room of the bar of a series in a category. Both count from 0.
   Span Bar(std::size_t category, std::size_t series) const;
-  /// What a series takes of the depth; all of a stacked group take the same.
+  /// Returns the room of a series in the depth. All series of a stacked group share the same room.
   Span Depth(std::size_t series) const;
-  /// Where a value is, kept within the axis.
+  /// Returns the place of a value. Values beyond the axis are at its ends.
   double Value(double value) const;
-  /// Where bars and areas begin.
+  /// Returns the place where bars and areas begin.
   double Base() const;
 
-  /// A place in the box of a projection by its shares.
+  /// Returns a place in the box of a projection.
   Point3 At(const Projection& projection, double category, double value, double depth) const;
-  /// The viewer's place along one of the shares, comparable with those times the box's extents.
+  /// Returns the place of the viewer with the axes of the stage: x along the category axis, y along the value
+  /// axis, z along the depth.
   Point3 EyeShares(const Projection& projection) const;
 
  private:
   std::size_t DepthSlots() const;
   std::size_t BarsOfCategory() const;
-  /// The width of a bar as a share of its category.
+  /// Returns the width of a bar as a share of its category.
   double BarShare() const;
 
   const ChartModel& chart_;
   const GroupModel& group_;
   std::size_t categories_ = 1;
-  double gapDepth_ = 1.5;  ///< of the depth of a bar
+  double gapDepth_ = 1.5;  ///< gap between series in the depth, as a share of the depth of a bar
 };
 
 }  // namespace plotsmith::render

@@ -11,8 +11,8 @@ namespace plotsmith::render {
 namespace {
 
 constexpr double kTickLength = 3.75;  // points
-constexpr double kLabelGap = 5;       // from the axis to its labels
-constexpr double kInkOfLine = 0.8;    // of the height of a line, what its letters take
+constexpr double kLabelGap = 5;       // points from the axis to its labels
+constexpr double kInkOfLine = 0.8;    // share of the height of a line that its letters take
 constexpr std::size_t kMostLabels = 1000;
 
 Point Along(const Projection& projection, const Point3& from, const Point3& to, double share) {
@@ -89,7 +89,7 @@ StageAxes::Ruler StageAxes::ReadSeries() const {
   return ruler;
 }
 
-/// The upright edge that is leftmost on the picture.
+/// Returns the vertical edge that is leftmost on the picture.
 StageAxes::BoxEdge StageAxes::UprightEdge(const Projection& projection) const {
   BoxEdge best;
   double leftmost = 0;
@@ -104,25 +104,25 @@ StageAxes::BoxEdge StageAxes::UprightEdge(const Projection& projection) const {
   return best;
 }
 
-/// Of two edges of the floor the one that is lower on the picture, and so nearer to the viewer; at the same
-/// height the first.
+/// Returns the one of two edges of the floor that is lower on the picture, and so nearer to the viewer. At
+/// the same height it is the first.
 StageAxes::BoxEdge StageAxes::LowerOf(const Projection& projection, BoxEdge first, const BoxEdge& second) {
   const double lower = Along(projection, second.from, second.to, 0.5).y;
   return lower > Along(projection, first.from, first.to, 0.5).y + 1e-6 ? second : first;
 }
 
-/// The edge along x. Labels stand beside it where it goes up more than aside.
+/// Returns the edge along x. Labels are beside it if it is steep, otherwise below it.
 StageAxes::BoxEdge StageAxes::LowerEdge(const Projection& projection) const {
   BoxEdge edge = LowerOf(projection, {{0, 0, 0}, {1, 0, 0}}, {{0, 0, 1}, {1, 0, 1}});
   edge.beside = IsSteep(projection, edge) ? SideOf(projection, edge) : Beside::kBelow;
   return edge;
 }
 
-/// The edge of the floor along z.
+/// Returns the edge of the floor along z.
 StageAxes::BoxEdge StageAxes::SeriesEdge(const Projection& projection) const {
   BoxEdge edge = LowerOf(projection, {{1, 0, 0}, {1, 0, 1}}, {{0, 0, 0}, {0, 0, 1}});
   edge.beside = SideOf(projection, edge);
-  // at the left there are the labels of the upright edge, too
+  // The labels of the vertical edge are at the left, too.
   if (edge.beside == Beside::kLeft && !IsSteep(projection, edge)) edge.beside = Beside::kBelow;
   return edge;
 }
@@ -132,7 +132,7 @@ bool StageAxes::IsSteep(const Projection& projection, const BoxEdge& edge) {
   return std::abs(a.y - b.y) > std::abs(a.x - b.x);
 }
 
-/// The side of the picture that an edge of the floor is on.
+/// Returns the side of the picture that an edge of the floor is on.
 StageAxes::Beside StageAxes::SideOf(const Projection& projection, const BoxEdge& edge) {
   const double middle = Along(projection, {0, 0, 0}, {1, 0, 1}, 0.5).x;
   return Along(projection, edge.from, edge.to, 0.5).x < middle - 1e-6 ? Beside::kLeft : Beside::kRight;
@@ -173,13 +173,13 @@ std::vector<StageAxes::PlacedLabel> StageAxes::LabelsOf(const PlacedRuler& place
   const auto& labels = placed.ruler->labels;
   if (labels.empty()) return {};
   const AxisModel& axis = *placed.ruler->axis;
-  Point step{kUnlimited, kUnlimited};  // from one label to the next
+  Point step{kUnlimited, kUnlimited};  // distance from one label to the next, in points
   if (labels.size() > 1) {
     const Point a = Along(projection, placed.edge.from, placed.edge.to, labels[0].share);
     const Point b = Along(projection, placed.edge.from, placed.edge.to, labels[1].share);
     step = {std::abs(a.x - b.x), std::abs(a.y - b.y)};
   }
-  // names below a picture break at their blanks before any is left out
+  // Texts below the picture wrap before any label is left out.
   const bool breaks = placed.edge.beside == Beside::kBelow && !axis.IsOfValues() && !axis.text.rotation;
   double room = breaks ? std::max(step.x - kLabelGap, 1.0) : kUnlimited;
   for (const Label& label : labels) {
@@ -192,7 +192,7 @@ std::vector<StageAxes::PlacedLabel> StageAxes::LabelsOf(const PlacedRuler& place
     widest = std::max(widest, all.back().block.TurnedWidth() + kLabelGap);
     highest = std::max(highest, all.back().block.TurnedHeight() * kInkOfLine);
   }
-  // two labels are apart if they are so in one of the directions
+  // Labels don't touch if there is a distance between them in one of the directions.
   const double fitting = std::max({step.x / widest, step.y / highest, 1e-3});
   std::size_t stride = static_cast<std::size_t>(std::max(std::ceil(1 / fitting - 1e-6), 1.0));
   if (!axis.IsOfValues() && axis.labelSkip > 0) stride = static_cast<std::size_t>(axis.labelSkip);

@@ -4,34 +4,37 @@
 #include <vector>
 
 #include "render/Canvas.h"
-#include "render/layout/TextBlock.h"
+#include "render/text/TextBlock.h"
 #include "render/threed/Stage.h"
 
 namespace plotsmith::render {
 
-/// The axes of a chart in 3-D: which edges of the box they lie on, and where their labels are.
+/// The axes of a chart in 3-D with their labels. They are drawn along edges of the box.
 class StageAxes {
  public:
+  /// The stage and the measure must outlive the object.
   StageAxes(const Stage& stage, const TextMeasure& measure, xlsx::DateSystem dates);
 
-  /// Around the box and all labels.
+  /// Returns the rectangle around the box and all labels on the picture.
   Rect BoundsOf(const Projection& projection) const;
+  /// Draws the lines, tick marks and labels of all axes.
   void Draw(Canvas& canvas, const Projection& projection) const;
 
  private:
   struct Label {
     std::string text;
-    double share = 0;
-    int number = 0;  ///< of the tick
+    double share = 0;  ///< place on the axis, from 0 to 1
+    int number = 0;    ///< of the tick, from 1
   };
+  /// What is along an axis.
   struct Ruler {
     const AxisModel* axis = nullptr;
     std::vector<Label> labels;
     std::vector<double> ticks;  ///< shares
   };
-  /// Which side of the picture the labels of an axis are on.
+  /// The side of an axis on which its labels are.
   enum class Beside { kLeft, kBelow, kRight };
-  /// An edge of the box: places by their share of it.
+  /// An edge of the box, in shares of its extents.
   struct BoxEdge {
     Point3 from, to;
     Beside beside = Beside::kLeft;
@@ -48,11 +51,13 @@ class StageAxes {
   static bool IsSteep(const Projection& projection, const BoxEdge& edge);
   BoxEdge LowerEdge(const Projection& projection) const;
   BoxEdge SeriesEdge(const Projection& projection) const;
+  /// An axis with the edge that it is on.
   struct PlacedRuler {
     const Ruler* ruler;
     BoxEdge edge;
   };
   std::vector<PlacedRuler> Place(const Projection& projection) const;
+  /// A label with its place.
   struct PlacedLabel {
     const Label* label;
     TextBlock block;
@@ -60,7 +65,7 @@ class StageAxes {
 
     Rect Bounds() const;
   };
-  /// The labels of an axis, of which some are left out where they would touch each other.
+  /// Places the labels of an axis. Some are left out if they would touch each other.
   std::vector<PlacedLabel> LabelsOf(const PlacedRuler& placed, const Projection& projection) const;
   PlacedLabel PlaceLabel(const PlacedRuler& placed, const Label& label, TextBlock block,
                          const Projection& projection) const;

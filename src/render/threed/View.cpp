@@ -9,10 +9,9 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kPieElevation = 15;
 constexpr double kUsualPerspective = 30;
 
-/// `fallback` for what is missing or no number.
+/// Reads a number and limits it to a range. Returns `fallback` if it is missing or isn't a number.
 double Number(pugi::xml_node view, const char* name, double fallback, double least, double most) {
   const double value = xlsx::schema::NumberVal(view, name).value_or(fallback);
   return std::isfinite(value) ? std::clamp(value, least, most) : fallback;
@@ -20,13 +19,13 @@ double Number(pugi::xml_node view, const char* name, double fallback, double lea
 
 }  // namespace
 
-View ReadView(pugi::xml_node chart, bool pie) {
+View ReadView(pugi::xml_node chart, const View& automatic) {
   const auto element = xlsx::xml::Child(chart, "view3D");
   View view;
-  view.elevation = Number(element, "rotX", pie ? kPieElevation : view.elevation, -90, 90);
-  view.rotation = std::fmod(Number(element, "rotY", pie ? 0 : view.rotation, 0, 360), 360);
+  view.elevation = Number(element, "rotX", automatic.elevation, -90, 90);
+  view.rotation = std::fmod(Number(element, "rotY", automatic.rotation, 0, 360), 360);
   view.rightAngles = xlsx::schema::BooleanVal(element, "rAngAx", false);
-  // the file counts perspective in half degrees
+  // The unit in the file is half a degree.
   view.fieldOfView = Number(element, "perspective", kUsualPerspective, 0, 240) / 2;
   if (xlsx::schema::NumberVal(element, "hPercent")) {
     view.heightPercent = Number(element, "hPercent", 100, 5, 500);

@@ -11,7 +11,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// A rectangle of the box in one of its planes.
+/// Returns a face of the box from shares of its extents.
 Face PlaneOf(const Projection& projection, std::vector<Point3> shares) {
   for (Point3& share : shares) share = projection.Place(share.x, share.y, share.z);
   return shares;
@@ -25,7 +25,8 @@ void DrawPlane(Canvas& canvas, const Projection& projection, Role role, const st
   canvas.Add({role}, path.AddPolygon(corners), style.fill, style.stroke);
 }
 
-/// A line over two walls, or over a wall and the floor, that meet in the middle one of the places.
+/// Draws a line over two walls, or over a wall and the floor. They meet at the middle one of the three
+/// places.
 void DrawGridline(Canvas& canvas, const Projection& projection, Tag tag, const std::vector<Point3>& shares,
                   const Stroke& stroke) {
   Path path;
@@ -36,7 +37,7 @@ void DrawGridline(Canvas& canvas, const Projection& projection, Tag tag, const s
   canvas.Add(tag, std::move(path), {}, stroke);
 }
 
-/// Gridlines across one of the box's upright or lying directions.
+/// Draws the gridlines of axes on the walls and the floor.
 class Gridlines {
  public:
   Gridlines(Canvas& canvas, const Stage& stage, const Projection& projection, const FarSides& far)
@@ -77,7 +78,8 @@ class Gridlines {
   void Across(Role role, const AxisModel& axis, int number, double value, const Stroke& stroke) {
     Draw(role, axis, number, stage_.Lying(), stage_.Value(value), stroke);
   }
-  /// A line at a share of x goes over the floor and up the back wall, one at a share of y round two walls.
+  /// Draws a line. At a share of x, it goes over the floor and up the back wall; at a share of y, over two
+  /// walls.
   void Draw(Role role, const AxisModel& axis, int number, bool ofX, double share, const Stroke& stroke) {
     const double front = 1 - far_.z;
     const std::vector<Point3> places =
@@ -112,7 +114,7 @@ FarSides FarSidesOf(const Projection& projection) {
 void DrawWalls(Canvas& canvas, const Stage& stage, const Projection& projection, const WallStyles& styles,
                xlsx::DateSystem dates) {
   const FarSides far = FarSidesOf(projection);
-  // the floor is the wall that bars stand on
+  // The base of horizontal bars is the side wall, which has the look of the floor.
   const ShapeStyle& ground = stage.Lying() ? styles.side : styles.floor;
   const ShapeStyle& side = stage.Lying() ? styles.floor : styles.side;
   DrawPlane(canvas, projection, stage.Lying() ? Role::kWall : Role::kFloor,

@@ -9,19 +9,21 @@ class ChartPart;
 
 namespace plotsmith::render {
 
-/// How the walls of a chart in 3-D and its floor look.
+/// How the walls and the floor of a chart in 3-D look.
 struct WallStyles {
   ShapeStyle floor, side, back;
 };
+/// Reads the looks of the walls and the floor.
 WallStyles ReadWalls(xlsx::ChartPart& part);
 
-/// Sides of the box, 0 or 1 as shares of its axes x and z, that lie behind what is in the box.
+/// The sides of the box that are behind its contents: 0 or 1 on the axes x and z.
 struct FarSides {
   double x = 0, z = 1;
 };
+/// Returns the sides of the box that are behind its contents.
 FarSides FarSidesOf(const Projection& projection);
 
-/// Draws those walls that lie behind the bodies, and the floor, with the gridlines of all axes on them.
+/// Draws the walls behind the bodies, and the floor, with the gridlines of all axes on them.
 void DrawWalls(Canvas& canvas, const Stage& stage, const Projection& projection, const WallStyles& styles,
                xlsx::DateSystem dates);
 

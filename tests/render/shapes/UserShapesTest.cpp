@@ -1,8 +1,8 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-#include "render/ChartDrawing.h"
 #include "render/cairo/CairoPainter.h"
+#include "render/chart/ChartDrawing.h"
 #include "render/shapes/Placement.h"
 #include "render/svg/SvgWriter.h"
 #include "tests/render/threed/Chart3DTest.h"
@@ -225,7 +225,7 @@ TEST_F(UserShapesTest, PicturesFillTheirFrameAsFarAsTheyAreNotCropped) {
 }
 
 TEST(PlacementTest, InnerTurnsComeBeforeOuterOnes) {
-  const auto placement = render::Placement().Turned({0, 0}, 90, false, false).Turned({10, 0}, 0, true, false);
+  const auto placement = render::Placement().Turned({0, 0}, 90).Turned({10, 0}, 0, {.horizontal = true});
   const render::Point at = placement.Map({13, 1});  // The point is mirrored to (7, 1), then rotated.
   EXPECT_NEAR(at.x, -1, 1e-9);
   EXPECT_NEAR(at.y, 7, 1e-9);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <map>
 
+#include "render/fills/LitFill.h"
 #include "render/model/ChartReader.h"
 #include "render/threed/Bars3D.h"
 #include "render/threed/Shading.h"

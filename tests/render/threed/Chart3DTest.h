@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "render/ChartDrawing.h"
 #include "render/cairo/Fonts.h"
+#include "render/chart/ChartDrawing.h"
 #include "tests/support/ChartTest.h"
 
 namespace plotsmith::test {

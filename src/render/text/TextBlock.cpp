@@ -1,4 +1,4 @@
-#include "render/layout/TextBlock.h"
+#include "render/text/TextBlock.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,9 +11,9 @@ namespace plotsmith::render {
 namespace {
 
 constexpr double kRadian = std::numbers::pi / 180;
-constexpr std::size_t kMostLines = 200;  // more don't fit on any chart
+constexpr std::size_t kMostLines = 200;  // More lines don't fit on any chart.
 
-/// A piece of a run up to the next place where a line may break; blanks stay behind it.
+/// A part of a run up to the next place where a line may break. It contains the blanks that follow the word.
 struct Word {
   TextRun run;
   double width = 0, trimmed = 0;  ///< with and without the blanks at its end
@@ -39,7 +39,7 @@ std::vector<Word> WordsOf(const std::vector<TextRun>& runs, const TextMeasure& m
   return words;
 }
 
-/// Joins neighbours of the same look and measures the line.
+/// Returns a measured line. Neighbouring runs of the same look are joined.
 TextLine Finished(std::vector<TextRun> runs, const TextMeasure& measure) {
   TextLine line;
   for (TextRun& run : runs) {
@@ -65,7 +65,7 @@ TextLine Finished(std::vector<TextRun> runs, const TextMeasure& measure) {
   return line;
 }
 
-/// The bytes of a text's beginning that fit into a width, at least those of one character.
+/// Returns how many bytes at the start of a text fit into a width. They are at least those of one character.
 std::size_t FittingBytes(std::string_view text, const Font& font, double width, const TextMeasure& measure) {
   std::size_t fitting = 0;
   while (fitting < text.size()) {
@@ -78,7 +78,8 @@ std::size_t FittingBytes(std::string_view text, const Font& font, double width, 
   return fitting;
 }
 
-/// Breaks a word that is wider than a line inside. Adds its full lines to the block, and leaves its end.
+/// Breaks a word that is wider than a line. Its full lines are added to the block, and the word keeps the
+/// rest.
 void BreakInside(Word& word, double width, const TextMeasure& measure, TextBlock& block) {
   if (word.trimmed <= width) return;
   const TextRun& run = word.run;
@@ -116,7 +117,7 @@ void AddParagraph(const std::vector<TextRun>& runs, const TextMeasure& measure, 
   block.lines.push_back(Finished(std::move(line), measure));
 }
 
-/// One letter below the other.
+/// Returns a text with a paragraph for each letter.
 RichText Stacked(const RichText& text) {
   RichText stacked;
   for (const auto& runs : text.paragraphs) {
@@ -171,18 +172,6 @@ double WidestWord(std::string_view text, const Font& font, const TextMeasure& me
   return widest;
 }
 
-RichText Plain(const std::string& text, const TextStyle& style) {
-  RichText rich;
-  rich.rotation = style.rotation;
-  rich.stacked = style.stacked;
-  for (std::size_t from = 0;;) {
-    const auto end = text.find('\n', from);
-    rich.paragraphs.push_back({{text.substr(from, end - from), style.font, style.color}});
-    if (end == std::string::npos) return rich;
-    from = end + 1;
-  }
-}
-
 void DrawBlock(Canvas& canvas, Tag tag, const TextBlock& block, Point center, TextAlign align) {
   const double cosine = std::cos(block.rotation * kRadian), sine = std::sin(block.rotation * kRadian);
   double y = -block.height / 2;
@@ -192,7 +181,8 @@ void DrawBlock(Canvas& canvas, Tag tag, const TextBlock& block, Point center, Te
                                    : align == TextAlign::kMiddle ? free / 2
                                                                  : free);
     y += line.ascent;
-    // of a line of one run, the anchor is where a viewer with other fonts had better keep it
+    // A line of one run is anchored at its aligned side, so that it stays aligned in viewers with other
+    // fonts.
     const bool single = line.runs.size() == 1;
     const double shift = !single || align == TextAlign::kStart ? 0
                          : align == TextAlign::kMiddle         ? line.width / 2

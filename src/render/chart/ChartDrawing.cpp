@@ -1,13 +1,13 @@
-#include "render/ChartDrawing.h"
+#include "render/chart/ChartDrawing.h"
 
 #include <algorithm>
 #include <string>
 
 #include "render/Canvas.h"
-#include "render/Description.h"
 #include "render/Images.h"
 #include "render/axes/AxisDrawing.h"
-#include "render/families/Plot.h"
+#include "render/chart/Description.h"
+#include "render/families/Families.h"
 #include "render/labels/DataLabels.h"
 #include "render/layout/ChartLayout.h"
 #include "render/model/ChartReader.h"
@@ -68,8 +68,8 @@ void DrawGroup(Plot& plot, const GroupModel& group) {
   }
 }
 
-/// Hides the axes of a radar chart, which draws them by itself, and those of a surface chart, which would
-/// look like a column chart that lost its columns.
+/// Hides the axes of radar charts, as DrawRadar draws them, and those of surface charts, as an empty plot
+/// with axes would look like a column chart without columns.
 void HideAxesWithoutGroups(ChartModel& chart) {
   const auto isRadar = [](const GroupModel& group) { return group.family == Family::kRadar; };
   const bool hides = std::all_of(chart.groups.begin(), chart.groups.end(), [&](const GroupModel& group) {
@@ -84,7 +84,7 @@ void HideAxesWithoutGroups(ChartModel& chart) {
   }
 }
 
-/// What of the looks of a chart is known but not drawn.
+/// Notes fillings that aren't drawn.
 void NoteMissingLooks(Canvas& canvas, xlsx::ChartPart& part) {
   const auto isMissing = [&](pugi::xml_node node) {
     return xlsx::xml::Is(node, "blipFill") && !IsDrawableImage(Palette(part).Picture(node));
@@ -95,7 +95,7 @@ void NoteMissingLooks(Canvas& canvas, xlsx::ChartPart& part) {
   }
 }
 
-/// What of a chart is known but not drawn.
+/// Notes elements of a chart that aren't drawn.
 void NoteMissing(Canvas& canvas, const ChartModel& chart) {
   const auto has = [](pugi::xml_node node, std::string_view local) {
     return bool(xlsx::xml::Child(node, local));
@@ -115,7 +115,7 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
 
 void DrawPlot(Plot& plot, const ChartLayout& layout) {
   const ChartModel& chart = plot.chart;
-  if (chart.groups.empty()) return;  // a chart without data shows nothing of its plot area
+  if (chart.groups.empty()) return;  // A chart without data doesn't show its plot area.
   plot.canvas.AddFrame({Role::kPlotArea}, plot.area, chart.plotArea.fill, chart.plotArea.stroke);
   for (const AxisModel& axis : chart.axes) DrawGridlines(plot.canvas, chart, axis, plot.area);
   for (const GroupModel& group : chart.groups) DrawGroup(plot, group);

@@ -5,7 +5,7 @@
 
 namespace plotsmith::render {
 
-/// Gives a drawing a title and a description with the values of the chart, for readers who don't see it.
+/// Sets the title of a drawing, and a description with the values of the chart, for screen readers.
 void Describe(const ChartModel& chart, Drawing& drawing);
 
 }  // namespace plotsmith::render

@@ -1,11 +1,11 @@
-#include "render/Description.h"
+#include "render/chart/Description.h"
 
 #include <cmath>
 
 namespace plotsmith::render {
 namespace {
 
-constexpr std::size_t kMostPoints = 200;  // of all series; a longer list helps no listener
+constexpr std::size_t kMostPoints = 200;  // of all series; a screen reader would read more for too long
 
 const char* NameOf(const GroupModel& group) {
   switch (group.family) {

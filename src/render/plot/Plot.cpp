@@ -1,4 +1,4 @@
-#include "render/families/Plot.h"
+#include "render/plot/Plot.h"
 
 #include <cmath>
 #include <limits>
@@ -12,7 +12,7 @@ const AxisModel* AxisAt(const ChartModel& chart, int index) {
   return index < 0 ? nullptr : &chart.axes[static_cast<std::size_t>(index)];
 }
 
-/// The sum of all magnitudes of a point, which is its 100 percent.
+/// Returns the sum of the absolute values of each point, which is 100 percent.
 std::vector<double> Wholes(const GroupModel& group) {
   std::vector<double> wholes(group.PointCount());
   for (const SeriesModel& series : group.series) {
@@ -56,7 +56,7 @@ Extents StackValues(const GroupModel& group) {
   Extents extents;
   const bool percent = group.grouping == Grouping::kPercent;
   const std::vector<double> wholes = percent ? Wholes(group) : std::vector<double>();
-  // bars below zero are stacked downwards; areas and lines are sums
+  // Bars below zero are stacked downwards, while areas and lines show sums.
   const bool split = group.family == Family::kBar;
   std::vector<double> above(group.PointCount()), below(group.PointCount());
   for (const SeriesModel& series : group.series) {

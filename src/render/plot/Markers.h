@@ -5,7 +5,7 @@
 
 namespace plotsmith::render {
 
-/// Draws a marker about a point.
+/// Draws a marker around a point.
 void DrawMarker(Canvas& canvas, Tag tag, const MarkerModel& marker, Point center);
 
 }  // namespace plotsmith::render

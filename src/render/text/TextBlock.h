@@ -6,43 +6,45 @@
 #include <vector>
 
 #include "render/Canvas.h"
-#include "render/model/ChartModel.h"
+#include "render/text/RichText.h"
 
 namespace plotsmith::render {
 
+/// The width of lines that never break.
 inline constexpr double kUnlimited = std::numeric_limits<double>::infinity();
 
+/// A line of a text block. Sizes are in points.
 struct TextLine {
   std::vector<TextRun> runs;
-  std::vector<double> widths;  ///< of the runs
+  std::vector<double> widths;  ///< widths of the runs
   double width = 0, ascent = 0, descent = 0;
 
   double Height() const { return ascent + descent; }
 };
 
-/// A text that is broken into lines, one below the other. It is turned about its centre.
+/// A text that is broken into lines. It is turned about its centre.
 struct TextBlock {
   std::vector<TextLine> lines;
-  double width = 0, height = 0;
-  double rotation = 0;  ///< degrees clockwise
+  double width = 0, height = 0;  ///< points, before it is turned
+  double rotation = 0;           ///< degrees clockwise
 
-  /// The size of the least upright rectangle around the turned block.
+  /// The width and height of the smallest upright rectangle around the turned block, in points.
   double TurnedWidth() const;
   double TurnedHeight() const;
+  /// Returns whether the block has no line.
   bool IsEmpty() const { return lines.empty(); }
 };
 
-/// Breaks a text at blanks, so that no line is wider than `width`; a word that is wider breaks inside.
+/// Breaks a text into lines that aren't wider than `width`, in points. Lines break at blanks, and inside of
+/// words that are wider than a line.
 TextBlock LayOut(const RichText& text, const TextMeasure& measure, double width = kUnlimited);
-/// The same of a text in one style; line feeds break lines.
+/// Breaks a text in one style into lines, in the same way. Line feeds break lines, too.
 TextBlock LayOut(const std::string& text, const TextStyle& style, const TextMeasure& measure,
                  double width = kUnlimited);
-/// The width of the widest word between blanks and breaks.
+/// Returns the width of the widest word of a text, in points.
 double WidestWord(std::string_view text, const Font& font, const TextMeasure& measure);
-/// A plain text as paragraphs of one run each.
-RichText Plain(const std::string& text, const TextStyle& style);
 
-/// Draws a block about its centre. `align` is the side of the block that its lines share.
+/// Draws a block around its centre. `align` is the side on which its lines are aligned.
 void DrawBlock(Canvas& canvas, Tag tag, const TextBlock& block, Point center,
                TextAlign align = TextAlign::kMiddle);
 

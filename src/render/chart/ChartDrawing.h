@@ -1,10 +1,9 @@
 #pragma once
 
 #include <memory>
-#include <string>
-#include <vector>
 
 #include "render/Drawing.h"
+#include "render/Notes.h"
 #include "render/TextMeasure.h"
 
 namespace plotsmith::xlsx {
@@ -15,25 +14,23 @@ namespace plotsmith::render {
 
 struct ChartModel;
 
-/// What could not be drawn, one sentence each.
-using Notes = std::vector<std::string>;
-
 /// A chart that was read, and isn't drawn yet. Reading uses the workbook, which charts share, so one thread
 /// reads them all. Drawing uses the chart alone, so that each thread can draw a chart of its own.
 class UndrawnChart {
  public:
-  /// Reads a chart to be drawn at a size in points. Values come from the caches in the chart part, or from
-  /// the cells where the part has none. A chart that can't be read is error 1004. The chart part stays as it
-  /// is, and must outlive this object.
+  /// Reads a chart that will be drawn at a size in points. The values are those of the caches in the chart
+  /// part, or those of the cells where the part has no cache. The chart part isn't changed. It must exist
+  /// longer than this object. What isn't drawn is added to `notes`. Raises error 1004 if the chart can't be
+  /// read.
   UndrawnChart(xlsx::ChartPart& part, double width, double height, Notes& notes);
   UndrawnChart(UndrawnChart&&) noexcept;
   UndrawnChart& operator=(UndrawnChart&&) noexcept;
   ~UndrawnChart();
 
-  /// Whether drawing reads further parts of the workbook, which are pictures and the shapes on the chart.
-  /// Such a chart is drawn by the thread that reads.
+  /// Returns whether drawing reads further parts of the workbook, which are pictures and the shapes on the
+  /// chart. Such a chart must be drawn by the thread that reads.
   bool NeedsWorkbook() const;
-  /// Draws the chart. It can be drawn once.
+  /// Draws the chart, which can be done once. What isn't drawn is added to `notes`.
   Drawing Draw(const TextMeasure& measure, Notes& notes) &&;
 
  private:
@@ -42,7 +39,7 @@ class UndrawnChart {
   std::unique_ptr<ChartModel> chart_;
 };
 
-/// Reads a chart and draws it at a size in points.
+/// Reads and draws a chart.
 Drawing DrawChart(xlsx::ChartPart& part, double width, double height, const TextMeasure& measure,
                   Notes& notes);
 

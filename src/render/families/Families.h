@@ -1,0 +1,24 @@
+#pragma once
+
+#include "render/plot/Plot.h"
+
+namespace plotsmith::render {
+
+// Each of these functions draws the series of a group, and keeps the points that have labels.
+
+/// Draws bars or columns.
+void DrawBars(Plot& plot, const GroupModel& group);
+/// Draws areas.
+void DrawAreas(Plot& plot, const GroupModel& group);
+/// Draws the lines of a line or stock chart, with their markers, drop lines and high-low lines.
+void DrawLines(Plot& plot, const GroupModel& group);
+/// Draws the lines and markers of a scatter chart.
+void DrawScatter(Plot& plot, const GroupModel& group);
+/// Draws bubbles.
+void DrawBubbles(Plot& plot, const GroupModel& group);
+/// Draws the series of a radar chart, and the axes that they lie on.
+void DrawRadar(Plot& plot, const GroupModel& group);
+/// Draws a pie or a doughnut in the middle of the plot area. A pie leaves room for labels outside of it.
+void DrawPie(Plot& plot, const GroupModel& group);
+
+}  // namespace plotsmith::render
