@@ -125,6 +125,28 @@ TEST(ReferenceTest, FormulasFollowRows) {
       {"Data!A5:Other!B6", 1, 1, false, "Data!A6:Other!B6"},
       {"Other!A5:A6+A5:Data!A5", 1, 1, false, "Other!A5:A6+A5:Data!A6"},
       {"Data!A5#+@A5", 1, 1, true, "Data!A6#+@A6"},
+      // Quotes and brackets inside of columns' names, texts and books that have no end.
+      {"Table1['[a']A5]+A5", 1, 1, true, "Table1['[a']A5]+A6"},
+      {"Table1[[a]:[A5]]+A5", 1, 1, true, "Table1[[a]:[A5]]+A6"},
+      {"[1]!A5+A5", 1, 1, true, "[1]!A5+A6"},
+      {"[2]Data!A5:A6+A5", 1, 1, true, "[2]Data!A5:A6+A6"},
+      {"'[A5'!A5&[A5+A5", 1, 1, true, nullptr},
+      {"A5&\"A5&A5", 1, 1, true, "A6&\"A5&A5"},
+      {"A5&\"\"\"A5\"&A5", 1, 1, true, "A6&\"\"\"A5\"&A6"},
+      {"Data!A5+Data:Last:A5+A5", 1, 1, true, "Data!A6+Data:Last:A6+A6"},
+      {"Other!name+A5", 1, 1, true, "Other!name+A6"},
+      {"Other!A5:B6:A5", 1, 1, true, nullptr},
+      {"(Other!A5,A5):A5", 1, 1, true, "(Other!A5,A6):A6"},
+      {"$A$5:$B$6 $A5", 1, 1, true, "$A$6:$B$7 $A6"},
+      {"a5+A05+$A$1:b$4", 3, 1, true, "A6+A6+$A$1:B$5"},
+      // The rows of a range that aren't deleted, and rows that leave the sheet.
+      {"A3:A8", 3, -3, true, "A3:A5"},
+      {"A3:A8", 1, -4, true, "A1:A4"},
+      {"A3:A8", 8, -1, true, "A3:A7"},
+      {"A3:A8", 7, -9, true, "A3:A6"},
+      {"A3:A1048570", 3, 10, true, "A13:A1048576"},
+      {"A1048570", 3, 6, true, "A1048576"},
+      {"A1048570:A1048571", 3, 7, true, "#REF!"},
       // No sheet has such a long name, and the second corner has no sheet of its own.
       {"DataDataDataDataDataDataDataData!A5:A9:B9+Data!A5", 5, 1, true,
        "DataDataDataDataDataDataDataData!A5:A9:B9+Data!A6"},
@@ -155,8 +177,72 @@ TEST(RowShiftsTest, EachHolderCatchesUpFromWhereItStands) {
   shifts.Add("Data", 6, -1);
   shifts.Add("Data", 1, 9);
   EXPECT_EQ(shifts.Follow("Data!$A$5+A5", "data", 0), "Data!#REF!+#REF!");
-  EXPECT_TRUE(shifts.MayConcern("<c:f>data!A1</c:f>"));
-  EXPECT_FALSE(shifts.MayConcern("<c:f>Sheet1!A1</c:f>"));
+}
+
+TEST(RowShiftsTest, ChangesAtOnePlaceBecomeOneUnlessSomethingFollowedThem) {
+  const struct {
+    std::vector<std::pair<int, int>> changes;  ///< Row and count. A row 0 takes a mark.
+    const char* shifted;                       ///< What becomes of A5:A10.
+  } cases[] = {{{{5, 1}, {5, 2}}, "A8:A13"},         {{{5, -1}, {5, -2}}, "A5:A7"},
+               {{{5, 1}, {5, -1}}, "A5:A10"},        {{{7, -1}, {7, 1}}, "A5:A10"},
+               {{{7, -4}, {7, 4}}, "A5:A6"},         {{{7, 2}, {6, 2}}, "A5:A14"},
+               {{{5, 1}, {0, 0}, {5, 1}}, "A7:A12"}, {{{10, -1}, {0, 0}, {10, 1}}, "A5:A9"}};
+  for (const auto& c : cases) {
+    RowShifts shifts;
+    EXPECT_TRUE(shifts.None());
+    std::vector<std::pair<std::size_t, std::string>> followers = {{shifts.Mark(), "A5:A10"}};
+    const auto follow = [&](auto& follower) {
+      follower.second = shifts.Follow(follower.second, "Data", follower.first).value_or(follower.second);
+      follower.first = shifts.Mark();
+    };
+    for (const auto& [row, count] : c.changes) {
+      if (row > 0) {
+        shifts.Add("Data", row, count);
+        shifts.Add("Other", row, count);  // Changes of another sheet come between.
+      } else {
+        // This reference follows in two steps.
+        followers.emplace_back(0, "A5:A10");
+        follow(followers.back());
+      }
+    }
+    for (auto& follower : followers) {
+      EXPECT_TRUE(shifts.AnyBehind(follower.first));
+      follow(follower);
+      EXPECT_EQ(follower.second, c.shifted);
+      EXPECT_FALSE(shifts.AnyBehind(follower.first));
+    }
+    EXPECT_FALSE(shifts.None());
+  }
+}
+
+TEST(RowShiftsTest, ATextMayConcernASheetThatItNames) {
+  const struct {
+    const char *sheet, *text;
+    bool may;
+  } cases[] = {
+      {"Data", "<c:f>data!A1</c:f>", true},
+      {"Data", "<c:f>Dat!A1</c:f>", false},
+      {"Data", "", false},
+      {"My Data", "'my data'!A1", true},
+      {"My Data", "'my  data'!A1", false},
+      {"D_1", "d_1!A1", true},
+      // Of a name with characters that XML writes in several forms, the longest part without them decides.
+      {"a&Sales", "'a&amp;sales'!A1", true},
+      {"a&Sales", "'b&amp;sales'!A1", true},
+      {"a&Sales", "'a&amp;b'!A1", false},
+      {"Sales&b", "'Sales&amp;b'!A1", true},
+      {"Sales&b", "b", false},
+      {"ab&c&def", "def", true},
+      {"ab&c&def", "ab&amp;c", false},
+      {"\u00C4&", "x", true},
+      {"x\u00C4yz", "\u00E4YZ", true},
+  };
+  for (const auto& c : cases) {
+    RowShifts shifts;
+    EXPECT_FALSE(shifts.MayConcern(c.text));
+    shifts.Add(c.sheet, 1, 1);
+    EXPECT_EQ(shifts.MayConcern(c.text), c.may) << c.sheet << ' ' << c.text;
+  }
 }
 
 }  // namespace

@@ -59,7 +59,7 @@ TEST(SheetSpliceTest, CellsAreReplacedWithWhatTheSheetSaysOfThem) {
 }
 
 TEST(SheetSpliceTest, ASettingOfTheViewIsChangedInPlace) {
-  struct Case {
+  struct SettingCase {
     ViewSetting setting;
     bool value;
     S before, after;  ///< `after` is empty if the part doesn't change.
@@ -70,7 +70,7 @@ TEST(SheetSpliceTest, ASettingOfTheViewIsChangedInPlace) {
   const S pane =
       "<sheetView a='>' workbookViewId='0'><pane/><selection/></sheetView><sheetView workbookViewId='1'/>"
       "</sheetViews><sheetData/></w>";
-  const Case cases[] = {
+  const SettingCase cases[] = {
       {kTabSelected, false, plain, ""},
       {kTabSelected, true, plain,
        "<w><sheetViews><sheetView tabSelected=\"1\" workbookViewId='0'/></sheetViews><sheetData/></w>"},
@@ -120,7 +120,7 @@ TEST(SheetSpliceTest, ASettingOfTheViewIsChangedInPlace) {
       {kShowHeadings, true,
        "<x:w><x:sheetViews><x:sheetView showRowColHeaders=\"0\"/></x:sheetViews><x:sheetData/></x:w>",
        "<x:w><x:sheetViews><x:sheetView/></x:sheetViews><x:sheetData/></x:w>"}};
-  for (const Case& c : cases) {
+  for (const SettingCase& c : cases) {
     S part = c.before;
     EXPECT_EQ(SetViewSetting(part, c.setting, c.value), !c.after.empty()) << c.before;
     EXPECT_EQ(part, c.after.empty() ? c.before : c.after);
