@@ -18,6 +18,10 @@ TEST(ReferenceTest, ParsesBothStyles) {
       {"'It''s here'!$XFD$1048576", "It's here", {1048576, 16384, 1048576, 16384}},
       {"'a!b'!A1", "a!b", {1, 1, 1, 1}},
       {"VEX_ChartData!R6C2:R17C2", "VEX_ChartData", {6, 2, 17, 2}},
+      {"S!R1C1", "S", {1, 1, 1, 1}},
+      {"S!R1", "S", {1, 18, 1, 18}},
+      {"S!r1048576c16384:R2c3", "S", {2, 3, 1048576, 16384}},
+      {"S!$AZ$26:za2", "S", {2, 52, 26, 677}},
       {"S!A:C", "S", {1, 1, 1048576, 3}},
       {"S!$2:$3", "S", {2, 1, 3, 16384}},
   };
@@ -36,6 +40,18 @@ TEST(ReferenceTest, ParsesBothStyles) {
                            "Sheet1!A1048577",
                            "Sheet1!A1:",
                            "Sheet1!R0C1",
+                           "Sheet1!R1C0",
+                           "Sheet1!R1_1",
+                           "Sheet1!X1C1",
+                           "Sheet1!R1C",
+                           "Sheet1!RC",
+                           "Sheet1!A99999999999",
+                           "Sheet1!AAAA1",
+                           "Sheet1!$",
+                           "Sheet1!A$",
+                           "Sheet1!$A$1$",
+                           "Sheet1!A1:2",
+                           "Sheet1!A:2",
                            "'Sheet1!A1",
                            "Sheet1!#REF!",
                            "Sheet1!A1,Sheet1!B2",
@@ -54,27 +70,24 @@ TEST(ReferenceTest, ParsesBothStyles) {
 }
 
 TEST(ReferenceTest, SheetNamesAreQuotedWhereTheyMustBe) {
-  const std::pair<const char*, const char*> cases[] = {{"Sheet1", "Sheet1"},
-                                                       {"My Sheet", "'My Sheet'"},
-                                                       {"It's", "'It''s'"},
-                                                       {"A1", "'A1'"},
-                                                       {"R1C1", "'R1C1'"},
-                                                       {"2020", "'2020'"},
-                                                       {"2a", "'2a'"},
-                                                       {"x9_y", "x9_y"},
-                                                       {".a", "'.a'"},
-                                                       {"VEX_ChartData", "VEX_ChartData"},
-                                                       {"a-b", "'a-b'"},
-                                                       {"Größe", "Größe"},
-                                                       {"XFE1", "XFE1"},
-                                                       {"R", "'R'"},
-                                                       {"rc12", "'rc12'"},
-                                                       {"R1C", "'R1C'"},
-                                                       {"Rc_1", "Rc_1"},
-                                                       {"Q1–Q2", "'Q1–Q2'"},
-                                                       {"", "''"}};
+  const std::pair<const char*, const char*> cases[] = {
+      {"Sheet1", "Sheet1"}, {"My Sheet", "'My Sheet'"},
+      {"It's", "'It''s'"},  {"A1", "'A1'"},
+      {"R1C1", "'R1C1'"},   {"2020", "'2020'"},
+      {"2a", "'2a'"},       {"x9_y", "x9_y"},
+      {".a", "'.a'"},       {"VEX_ChartData", "VEX_ChartData"},
+      {"a-b", "'a-b'"},     {"Größe", "Größe"},
+      {"XFE1", "XFE1"},     {"R", "'R'"},
+      {"rc12", "'rc12'"},   {"c", "'c'"},
+      {"C5", "'C5'"},       {"cr", "cr"},
+      {"R1C1x", "R1C1x"},   {"a.b", "a.b"},
+      {"R1C", "'R1C'"},     {"Rc_1", "Rc_1"},
+      {"Q1–Q2", "'Q1–Q2'"}, {"", "''"}};
   for (const auto& [name, quoted] : cases) EXPECT_EQ(QuotedSheetName(name), quoted);
   EXPECT_EQ(SheetRangeAddress({"My Sheet", {1, 27, 3, 27}}), "'My Sheet'!$AA$1:$AA$3");
+  EXPECT_EQ(CellAddress(7, 702, true), "$ZZ$7");
+  EXPECT_EQ(CellAddress(7, 703, false), "AAA7");
+  EXPECT_EQ(CellAddress(1, 52, false), "AZ1");
   EXPECT_EQ(RangeAddress(*ParseA1("3:4")), "$3:$4");
   EXPECT_EQ(RangeAddress(*ParseA1("B:AA")), "$B:$AA");
   EXPECT_EQ(RangeAddress(*ParseA1("A:XFD")), "$1:$1048576");
