@@ -367,8 +367,9 @@ const char* SheetScanner::ReadCellTag(const char* p, CellTag& tag) const {
     }
     if (*p == '/') return p + 2 <= end_ ? p + 2 : nullptr;
     const char* name = p;
-    while (*p != '=' && *p != '\0') ++p;
+    while (*p != '=' && *p != '\0' && !IsSpace(*p)) ++p;
     const auto nameLength = p - name;
+    while (IsSpace(*p)) ++p;
     if (*p == '=') ++p;
     while (IsSpace(*p)) ++p;
     const char quote = *p;

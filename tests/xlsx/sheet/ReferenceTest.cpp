@@ -121,6 +121,7 @@ TEST(ReferenceTest, FormulasFollowRows) {
       {"'It''s'!A5+Data!A5", 1, 1, false, "'It''s'!A5+Data!A6"},
       {"[1]Data!A5+'[2]Data'!A5", 1, 1, false, nullptr},
       {"Data:Last!A5+'Data:Last'!A5", 1, 1, false, nullptr},
+      {"First:Data!A5+'First:Data'!A5", 1, 1, false, nullptr},
       // Texts that look like references.
       {"\"Data!A5\"&LOG10(A5)&Data!A5_x", 1, 1, false, nullptr},
       {"LOG10(5)+A5", 1, 1, true, "LOG10(5)+A6"},

@@ -40,10 +40,10 @@ TEST(SheetFormulasTest, OnlyTheFormulasConcernedChange) {
        "<row r='4'><c/><c><f>'My Data'!A7</f></c></row><row><c/><c><f>'My Data'!A8</f></c></row>"},
       {"<row><c><f t='shared' ref='A1:B1' si='0'>'My Data'!A5</f></c><c><f t='shared' si='0'/></c></row>"
        "<row r='7'><c r='F7'/><c><f t='shared' si='0'/></c></row><row><c><f t='shared' si='0'/></c></row>"
-       "<row r='3'/><c r='D9'/><c><f t='shared' si='0'/></c>",
+       "<row r='3'/><c r='D9'/><c><f t='shared' si='0'/></c><row r='20'><c><f t='shared' si='0'/></c></row>",
        "<row><c><f>'My Data'!A7</f></c><c><f>'My Data'!B7</f></c></row>"
        "<row r='7'><c r='F7'/><c><f>'My Data'!G13</f></c></row><row><c><f>'My Data'!A14</f></c></row>"
-       "<row r='3'/><c r='D9'/><c><f>'My Data'!E15</f></c>"},
+       "<row r='3'/><c r='D9'/><c><f>'My Data'!E15</f></c><row r='20'><c><f>'My Data'!A26</f></c></row>"},
       // Texts are recognized in every XML form.
       {"<c r='A1'><f a='>'><![CDATA['My Data'!A5]]>&lt;1<!-- so --></f></c>",
        "<c r='A1'><f a='>'>'My Data'!A7&lt;1</f></c>"}};

@@ -147,14 +147,17 @@ TEST(SheetScannerTest, TheUsualFormOfCellsAndRowsReadsAsTheOthers) {
        "B2=n2 C2=n3 E2=n2 F2=n34 used $B$2:$F$2"},
       {R"(<row r="2"><c r="A2" t="inlineStr"><is><t>a</t><rPh><t>b</t></rPh><r><t>c_x0041_</t></r></is></c>)"
        R"(<c r="B2" t="inlineStr"><f>1</f><is><t>d</t></is></c><c r="C2" t="str"><f>1</f><v><![CDATA[]]></v></c>)"
-       R"(<c r="D2"><a/><f>1</f><v>5</v></c><c r="E2" t="d"><a/><v>2020-01-02</v></c></row>)",
-       "A2=tacA B2=td C2=t D2=n5 E2=n43832 used $A$2:$E$2 formulas"},
+       R"(<c r="F2"><is><t>e</t></is></c><c r="D2"><a/><f>1</f><v>5</v></c><c r="E2" t="d"><a/><v>2020-01-02</v></c></row>)",
+       "A2=tacA B2=td C2=t D2=n5 E2=n43832 F2=te used $A$2:$F$2 formulas"},
   };
   for (const auto& [rows, dump] : cases) {
     const std::string usual = std::string("<w><sheetData>") + rows + "</sheetData></w>";
-    const std::string sheets[] = {
-        usual, runtime::Replace(usual, "\"", "'"), runtime::Replace(usual, "<c ", "<c\n "),
-        runtime::Replace(usual, "\">", "\" >"), runtime::Replace(usual, "\"/>", "\" />")};
+    const std::string sheets[] = {usual,
+                                  runtime::Replace(usual, "\"", "'"),
+                                  runtime::Replace(usual, "<c ", "<c\n "),
+                                  runtime::Replace(usual, "\">", "\" >"),
+                                  runtime::Replace(usual, "=\"", " =\r\n\""),
+                                  runtime::Replace(usual, "\"/>", "\" />")};
     for (const std::string& sheet : sheets) {
       for (const std::size_t piece : {std::size_t{1} << 20, std::size_t{1}, std::size_t{13}})
         EXPECT_EQ(Dump(Scan(sheet, piece)), dump) << sheet << ' ' << piece;

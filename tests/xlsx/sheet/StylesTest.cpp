@@ -137,7 +137,7 @@ TEST(StylesTest, EachStyleHasItsFormat) {
     bool general, date;
   } expected[] = {{"0", false, false},      {"d/m", false, true},     {"m/d/yyyy", false, true},
                   {"General", true, false}, {"General", true, false}, {"General", true, false},
-                  {"[", true, false},       {"General", true, false}};
+                  {"[", true, false},       {"General", true, false}, {"General", true, false}};
   for (std::uint32_t style = 0; const auto& e : expected) {
     EXPECT_EQ(styles.FormatCode(style), e.code) << style;
     EXPECT_EQ(styles.IsGeneral(style), e.general) << style;
