@@ -235,7 +235,7 @@ class Build:
         """Compiles the unit with the copies in the place of their sources. Returns the places of the errors."""
         source = copies.get(unit)
         if source is None:
-            source = OUT / unit.name
+            source = target.with_suffix(".cxx")
             included = re.findall(r'#include "(.*)"', unit.read_text())
             files = [copies.get(pathlib.Path(file), file) for file in included]
             source.write_text("".join(f'#include "{file}"\n' for file in files))
@@ -279,7 +279,7 @@ def choose(room, count, seed):
 
 def compiled(build, unit, faults):
     """The object of the unit, and those of the faults that can be in it."""
-    target = OUT / (unit.stem + ".o")
+    target = OUT / (str(unit.relative_to(ROOT)).replace("/", "-") + ".o")
     while faults:
         copies = {}
         for path in sorted({fault.path for fault in faults}):
