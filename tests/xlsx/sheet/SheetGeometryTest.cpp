@@ -119,6 +119,7 @@ TEST(SheetGeometryTest, EdgesAndIndicesAgree) {
   EXPECT_EQ(shown.IndexAt(25), (std::pair{4, 5.0}));
   EXPECT_EQ(shown.IndexAt(30), (std::pair{9, 0.0}));
   EXPECT_EQ(shown.EdgeOf(9), 30);
+  EXPECT_EQ(GridLines(0.5, 10).IndexAt(2.25), (std::pair{4, 0.25}));
   plain.SetSize(-1, 3, 5);
   plain.SetSize(3, 2, 5);
   plain.SetSize(10, 12, 5);
