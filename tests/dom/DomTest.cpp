@@ -84,6 +84,13 @@ TEST(DomTest, NodesMoveBetweenTreesAndOut) {
   column.setAttribute("n", "4");  // The handle follows the node into the other document.
   EXPECT_EQ(second.xml(), "<t><c n=\"4\"/></t>");
 
+  auto taken = first.selectSingleNode("t/x/c");
+  root.appendChild(taken);
+  EXPECT_EQ(second.xml(), "<t><c n=\"4\"/><c n=\"2\"/></t>");
+  EXPECT_EQ(first.xml(), "<t><c n=\"1\"/><x/></t>") << "a node is in one document at a time";
+  first.selectSingleNode("t/x").appendChild(taken);
+  EXPECT_EQ(second.xml(), "<t><c n=\"4\"/></t>");
+
   auto loose = first.createElement("c");
   EXPECT_EQ(first.selectNodes("//c").size(), 2u) << "what is in no tree isn't found";
   auto x = first.selectSingleNode("t/x");

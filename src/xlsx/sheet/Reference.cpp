@@ -62,8 +62,7 @@ std::optional<ReadCornerResult> ReadCorner(std::string_view text) {
 }
 
 std::string CornerText(const Corner& corner) {
-  std::string text;
-  if (corner.column > 0) text += (corner.columnAbsolute ? "$" : "") + ColumnLetters(corner.column);
+  std::string text = (corner.columnAbsolute ? "$" : "") + ColumnLetters(corner.column);
   if (corner.row > 0) text += (corner.rowAbsolute ? "$" : "") + std::to_string(corner.row);
   return text;
 }

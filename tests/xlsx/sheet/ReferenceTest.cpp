@@ -236,6 +236,7 @@ TEST(RowShiftsTest, ATextMayConcernASheetThatItNames) {
   } cases[] = {
       {"Data", "<c:f>data!A1</c:f>", true},
       {"Data", "<c:f>Dat!A1</c:f>", false},
+      {"Data", "bata!A1", false},
       {"Data", "", false},
       {"My Data", "'my data'!A1", true},
       {"My Data", "'my  data'!A1", false},

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "runtime/Strings.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/package/MemoryStream.h"
 #include "xlsx/package/PackageError.h"
 #include "xlsx/package/Xml.h"
@@ -136,6 +137,8 @@ TEST(SheetScannerTest, TheUsualFormOfCellsAndRowsReadsAsTheOthers) {
       {R"(<row r="2"><c r="A2"><f>B2&gt;1</f><v>1</v></c><c r="B2"><v>2</v><f a="1">1</f></c><c r="C2"><f/><v>3</v></c>)"
        R"(<c r="D2"><f t="shared" si="0"/></c><c r="E2" t="str"><f>x</f><v>a</v></c><c r="F2"><f></f></c></row>)",
        "A2=n1 B2=n2 C2=n3 E2=ta used $A$2:$F$2 formulas -D2 -F2"},
+      {R"(<row r="3"><c r="A3"><f t="array" ref="A3">1</f><v>8</v></c><c r="B3"><f si="0"/><v>9</v></c></row>)",
+       "A3=n8 B3=n9 used $A$3:$B$3 formulas"},
       // All types, and types that don't exist.
       {R"(<row r="2"><c r="A2" t="b"><v>true</v></c><c r="B2" t="b"><v>0</v></c><c r="C2" t="e"><v>#DIV/0!</v></c>)"
        R"(<c r="D2" t="n"><v>4</v></c><c r="E2" t="x"><v>5</v></c><c r="F2" t="d"><v>2020-01-01</v></c>)"
@@ -276,7 +279,7 @@ TEST(SheetScannerTest, CellsOutOfOrderAreFoundAllTheSame) {
 
 TEST(SheetScannerTest, DamageIsSaid) {
   const std::string damaged = "its XML is damaged", outside = "it has a cell outside of any sheet";
-  const std::string row = "it has a row outside of any sheet", type = "it declares a document type";
+  const std::string row = "it has a row outside of any sheet", type = xml::kHasDocumentType;
   const std::pair<const char*, std::string> cases[] = {
       {"<w><sheetData><row r=\"1\"><c r=\"A1\"><v>1", damaged},
       {"<w><sheetData><row r='1'><c r='A1'><v>1</v", damaged},
@@ -302,15 +305,23 @@ TEST(SheetScannerTest, DamageIsSaid) {
       {"<w><sheetData><row r=\"1\"><c r=\"XFE1\"><v>1</v></c></row></sheetData></w>", outside},
       {"<w><sheetData><row r=\"1\"><c r=\"AAAAAAAAAAAAA1\"><v>1</v></c></row></sheetData></w>", outside},
       {"<w><sheetData><row r=\"1\"><c r=\"XFD1\"/><c><v>1</v></c></row></sheetData></w>", outside},
+      {"<w><sheetData><row r='1'><c r='XFDA1'><v>1</v></c></row></sheetData></w>", outside},
       {"<!DOCTYPE w><w><sheetData/></w>", type},
       {"<w><sheetData><!DOCTYPE w></sheetData></w>", type}};
+  const std::string blanks(limits::kXmlToken, ' ');
+  try {
+    Scan("<w>" + blanks + "<a/><sheetData/></w>");
+    ADD_FAILURE() << "no error";
+  } catch (const PackageError& error) {
+    EXPECT_STREQ(error.what(), "it has no cells where they should be");
+  }
   for (const auto& [text, message] : cases) {
     for (const std::size_t piece : {std::size_t{1} << 20, std::size_t{1}}) {
       try {
         Scan(text, piece);
         ADD_FAILURE() << text;
       } catch (const PackageError& error) {
-        EXPECT_TRUE(std::string(error.what()).starts_with(message)) << text << ": " << error.what();
+        EXPECT_EQ(error.what(), message) << text;
       }
     }
   }

@@ -65,6 +65,12 @@ TEST(SheetViewTest, TellsHowTheFirstWindowShowsTheSheet) {
   }
 }
 
+TEST(SheetViewTest, TheCellsAreNotRead) {
+  const S part = "<worksheet><sheetData><row";
+  MemoryStream stream(part);
+  EXPECT_EQ(Text(ReadSheetView(stream)), Text({}));
+}
+
 class LookedAtTest : public test::HostTest {};
 
 TEST_F(LookedAtTest, TheViewFollowsTheWindowAndTheActiveCell) {
