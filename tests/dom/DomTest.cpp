@@ -88,6 +88,7 @@ TEST(DomTest, NodesMoveBetweenTreesAndOut) {
   root.appendChild(taken);
   EXPECT_EQ(second.xml(), "<t><c n=\"4\"/><c n=\"2\"/></t>");
   EXPECT_EQ(first.xml(), "<t><c n=\"1\"/><x/></t>") << "a node is in one document at a time";
+  EXPECT_EQ(taken.xml(), "<c n=\"2\"/>");
   first.selectSingleNode("t/x").appendChild(taken);
   EXPECT_EQ(second.xml(), "<t><c n=\"4\"/></t>");
 

@@ -199,7 +199,8 @@ TEST(RowShiftsTest, ChangesAtOnePlaceBecomeOneUnlessSomethingFollowedThem) {
     const char* shifted;                       ///< What becomes of A5:A10.
   } cases[] = {{{{5, 1}, {5, 2}}, "A8:A13"},         {{{5, -1}, {5, -2}}, "A5:A7"},
                {{{5, 1}, {5, -1}}, "A5:A10"},        {{{7, -1}, {7, 1}}, "A5:A10"},
-               {{{7, -4}, {7, 4}}, "A5:A6"},         {{{7, 2}, {6, 2}}, "A5:A14"},
+               {{{7, -4}, {7, 4}}, "A5:A6"},         {{{7, -4}, {7, 1}}, "A5:A6"},
+               {{{5, 3}, {5, -1}}, "A7:A12"},        {{{7, 2}, {6, 2}}, "A5:A14"},
                {{{5, 1}, {0, 0}, {5, 1}}, "A7:A12"}, {{{10, -1}, {0, 0}, {10, 1}}, "A5:A9"}};
   for (const auto& c : cases) {
     RowShifts shifts;
@@ -212,7 +213,6 @@ TEST(RowShiftsTest, ChangesAtOnePlaceBecomeOneUnlessSomethingFollowedThem) {
     for (const auto& [row, count] : c.changes) {
       if (row > 0) {
         shifts.Add("Data", row, count);
-        shifts.Add("Other", row, count);  // Changes of another sheet come between.
       } else {
         // This reference follows in two steps.
         followers.emplace_back(0, "A5:A10");

@@ -78,6 +78,7 @@ TEST(FormulaTest, CopiedFormulasMoveTheirRelativeReferences) {
                                                        {"\"A1\"&LOG10(A1)", "\"A1\"&LOG10(C4)"},
                                                        {"1:1+A:A", "4:4+C:C"},
                                                        {"XFD1", "#REF!"},
+                                                       {"XFB1048573", "XFD1048576"},
                                                        {"A1048576", "#REF!"}};
   for (const auto& [formula, moved] : cases) EXPECT_EQ(OffsetFormula(formula, 3, 2), moved);
   EXPECT_EQ(OffsetFormula("B2+A2", -1, -1), "A1+#REF!");

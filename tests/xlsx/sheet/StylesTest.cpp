@@ -222,6 +222,10 @@ TEST(StylesTest, TheLooksOfAStyleAreFoundByTheirNumbers) {
   EXPECT_EQ(looks(1), "1111");
   EXPECT_EQ(looks(2), "--0-");
   EXPECT_EQ(looks(3), "000-");
+  const Styles plain(
+      Part("<fonts><font><name val=\"A\"/></font><font><name "
+           "val=\"B\"/></font></fonts><cellStyleXfs><xf/></cellStyleXfs>"));
+  EXPECT_EQ(plain.NormalFontName(), "A");
 }
 
 }  // namespace
