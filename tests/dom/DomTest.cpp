@@ -1,8 +1,10 @@
+#include <functional>
 #include <gtest/gtest.h>
 
 #include "dom/Dom.h"
 #include "dom/XmlDepth.h"
 #include "runtime/RuntimeError.h"
+#include "tests/support/ErrorOf.h"
 
 namespace plotsmith::dom {
 namespace {
@@ -109,6 +111,18 @@ TEST(DomTest, NothingIsError91) {
     FAIL();
   } catch (const runtime::RuntimeError& e) {
     EXPECT_EQ(e.Number(), runtime::error::kObjectNotSet);
+  }
+}
+
+TEST(DomTest, NoDocumentIsError91) {
+  using Document = IXMLDOMDocument2;
+  const std::function<void(Document&)> calls[] = {
+      [](Document& none) { none.loadXML("<a/>"); },     [](Document& none) { none.parseError(); },
+      [](Document& none) { none.documentElement(); },   [](Document& none) { none.createElement("a"); },
+      [](Document& none) { none.createTextNode("a"); }, [](Document& none) { none.xml(); }};
+  for (const auto& call : calls) {
+    Document none;
+    EXPECT_EQ(test::ErrorOf([&] { call(none); }), runtime::error::kObjectNotSet);
   }
 }
 

@@ -47,7 +47,7 @@ TEST(VariantTest, TextsAsNumbers) {
       {"&HFFFF", -1},      {"&O17", 15},        {"5$", 5},          {"1E-400", 0},      {"\v\f5\r\n", 5},
       {"&H7FFF", 32767},   {"&H8000", -32768},  {"&H8000&", 32768}, {"&H10000", 65536}, {"&HFFFFFFFF", -1},
       {"&O177777", 65535}, {"&o7 ", 7},         {"&h1f", 31},       {"(5) $", -5},      {"- $ 5", -5},
-      {"1d+2", 100},       {"1,e2", 100}};
+      {"1d+2", 100},       {"1,e2", 100},       {"1E2", 100}};
   for (const auto& [text, value] : cases) {
     EXPECT_TRUE(IsNumeric(Variant(text))) << text;
     EXPECT_EQ(CDbl(text), value) << text;
