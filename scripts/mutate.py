@@ -216,6 +216,12 @@ class Build:
         self.folder = folder
         entries = json.loads((folder / "compile_commands.json").read_text())
         self.commands = {pathlib.Path(e["file"]): e["command"] for e in entries if "/qt/" not in e["command"]}
+        # a source that is compiled together with others belongs to the unit that includes it
+        self.units = {file: file for file in self.commands}
+        for unit in list(self.commands):
+            if unit.match("Unity/unity_*"):
+                for included in re.findall(r'#include "(.*)"', unit.read_text()):
+                    self.units[pathlib.Path(included)] = unit
         lines = subprocess.run(["ninja", "-C", str(folder), "-t", "commands", "plotsmith_tests"],
                                capture_output=True, text=True, check=True).stdout.splitlines()
         link = next(part for part in lines[-1].split(" && ") if " -o tests/plotsmith_tests " in part)
@@ -225,19 +231,30 @@ class Build:
         objects = [word for word in shlex.split(link) if word.endswith(".o")]
         subprocess.run(["ld", "-r", "-o", str(self.tests), *objects], cwd=folder, check=True)
 
-    def compile(self, original, source, target):
-        """The lines of the errors; empty if the source compiles."""
-        words = [w for w in shlex.split(self.commands[original]) if not re.match(r"-O\d$|-W", w)]
+    def compile(self, unit, copies, target):
+        """Compiles the unit with the copies in the place of their sources. Returns the places of the errors."""
+        source = copies.get(unit)
+        if source is None:
+            source = target.with_suffix(".cxx")
+            included = re.findall(r'#include "(.*)"', unit.read_text())
+            files = [copies.get(pathlib.Path(file), file) for file in included]
+            source.write_text("".join(f'#include "{file}"\n' for file in files))
+        words = [w for w in shlex.split(self.commands[unit]) if not re.match(r"-O\d$|-W", w)]
         words[words.index("-o") + 1] = str(target)
-        words[words.index(str(original))] = str(source)
-        extra = ["-O1", "-w", "-Wno-narrowing", "-fno-diagnostics-show-caret", "-include", str(FAULTS / "Fault.h"),
-                 "-iquote", str(original.parent)]
+        words[words.index(str(unit))] = str(source)
+        extra = ["-O1", "-w", "-Wno-narrowing", "-fno-diagnostics-show-caret", "-include", str(FAULTS / "Fault.h")]
+        for folder in sorted({original.parent for original in copies}):
+            extra += ["-iquote", str(folder)]
         ccache = [shutil.which("ccache")] if shutil.which("ccache") and "ccache" not in words[0] else []
-        done = subprocess.run(["nice", *ccache, *words, *extra], cwd=self.folder, capture_output=True, text=True)
-        if done.returncode == 0:
-            return []
-        found = re.findall(rf"^{re.escape(str(source))}:(\d+):.*(?:error|required from here)", done.stderr, re.M)
-        return sorted({int(line) for line in found}) or [0]
+        # the check alone takes less time than the code, and some faults don't compile
+        for part in (["-fsyntax-only"], []):
+            command = ["nice", *([] if part else ccache), *words, *extra, *part]
+            done = subprocess.run(command, cwd=self.folder, capture_output=True, text=True)
+            if done.returncode != 0:
+                places = [(original, int(line)) for original, copy in copies.items() for line in re.findall(
+                    rf"^{re.escape(str(copy))}:(\d+):.*(?:error|required from here)", done.stderr, re.M)]
+                return sorted(set(places)) or [(next(iter(copies)), 0)]
+        return []
 
     def link_tests(self, objects, target):
         words = list(self.link)
@@ -260,19 +277,22 @@ def choose(room, count, seed):
     return chosen
 
 
-def compiled(build, path, faults):
-    """The object of the file, and those of the faults that can be in it."""
-    source = OUT / path.relative_to(ROOT)
-    source.parent.mkdir(parents=True, exist_ok=True)
-    target = source.with_suffix(".o")
+def compiled(build, unit, faults):
+    """The object of the unit, and those of the faults that can be in it."""
+    target = OUT / (str(unit.relative_to(ROOT)).replace("/", "-") + ".o")
     while faults:
-        source.write_text(written(path, faults))
-        lines = build.compile(path, source, target)
-        if not lines:
+        copies = {}
+        for path in sorted({fault.path for fault in faults}):
+            copies[path] = OUT / path.relative_to(ROOT)
+            copies[path].parent.mkdir(parents=True, exist_ok=True)
+            copies[path].write_text(written(path, [fault for fault in faults if fault.path == path]))
+        places = build.compile(unit, copies, target)
+        if not places:
             return target, faults
-        bad = [f for f in faults if f.line in lines]
+        bad = [f for f in faults if (f.path, f.line) in places]
         # an error that no fault's line has, such as of a table whose size must be known: leave out one by one
-        bad = bad or [f for f in faults if any(f.line < line for line in lines)][-1:] or faults[-1:]
+        path, line = places[0]
+        bad = bad or [f for f in faults if f.path == path and f.line < line][-1:] or faults[-1:]
         faults = [f for f in faults if f not in bad]
     return None, []
 
@@ -346,18 +366,17 @@ def main():
     if subprocess.run(["nice", "ninja", "-C", str(folder), "plotsmith_tests"], stdout=subprocess.DEVNULL).returncode != 0:
         sys.exit("mutate: the tests don't build.")
     build = Build(folder)
-    rooms, objects, number = {}, [], 0
+    rooms, objects, everything, usable, number = {}, [], [], [], 0
     for room in options.room:
-        chosen = choose(room, options.count, options.seed)
-        usable = []
-        for path in sorted({fault.path for fault in chosen}):
-            own = [fault for fault in chosen if fault.path == path]
-            for fault in own:
-                number += 1
-                fault.number = number
-            target, own = compiled(build, path, own)
-            objects += [target] if target else []
-            usable += own
+        chosen = rooms[room] = choose(room, options.count, options.seed)
+        for number, fault in enumerate(sorted(chosen, key=lambda f: f.path), start=number + 1):
+            fault.number = number
+        everything += chosen
+    for unit in sorted({build.units[fault.path] for fault in everything}):
+        target, own = compiled(build, unit, [f for f in everything if build.units[f.path] == unit])
+        objects += [target] if target else []
+        usable += own
+    for room, chosen in rooms.items():
         rooms[room] = [fault for fault in chosen if fault in usable][:options.count]
     runtime = OUT / "Fault.o"
     subprocess.run(["c++", "-std=c++20", "-O1", "-c", str(FAULTS / "Fault.cpp"), "-o", str(runtime)], check=True)

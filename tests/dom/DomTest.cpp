@@ -1,8 +1,10 @@
+#include <functional>
 #include <gtest/gtest.h>
 
 #include "dom/Dom.h"
 #include "dom/XmlDepth.h"
 #include "runtime/RuntimeError.h"
+#include "tests/support/ErrorOf.h"
 
 namespace plotsmith::dom {
 namespace {
@@ -84,6 +86,14 @@ TEST(DomTest, NodesMoveBetweenTreesAndOut) {
   column.setAttribute("n", "4");  // The handle follows the node into the other document.
   EXPECT_EQ(second.xml(), "<t><c n=\"4\"/></t>");
 
+  auto taken = first.selectSingleNode("t/x/c");
+  root.appendChild(taken);
+  EXPECT_EQ(second.xml(), "<t><c n=\"4\"/><c n=\"2\"/></t>");
+  EXPECT_EQ(first.xml(), "<t><c n=\"1\"/><x/></t>") << "a node is in one document at a time";
+  EXPECT_EQ(taken.xml(), "<c n=\"2\"/>");
+  first.selectSingleNode("t/x").appendChild(taken);
+  EXPECT_EQ(second.xml(), "<t><c n=\"4\"/></t>");
+
   auto loose = first.createElement("c");
   EXPECT_EQ(first.selectNodes("//c").size(), 2u) << "what is in no tree isn't found";
   auto x = first.selectSingleNode("t/x");
@@ -101,6 +111,18 @@ TEST(DomTest, NothingIsError91) {
     FAIL();
   } catch (const runtime::RuntimeError& e) {
     EXPECT_EQ(e.Number(), runtime::error::kObjectNotSet);
+  }
+}
+
+TEST(DomTest, NoDocumentIsError91) {
+  using Document = IXMLDOMDocument2;
+  const std::function<void(Document&)> calls[] = {
+      [](Document& none) { none.loadXML("<a/>"); },     [](Document& none) { none.parseError(); },
+      [](Document& none) { none.documentElement(); },   [](Document& none) { none.createElement("a"); },
+      [](Document& none) { none.createTextNode("a"); }, [](Document& none) { none.xml(); }};
+  for (const auto& call : calls) {
+    Document none;
+    EXPECT_EQ(test::ErrorOf([&] { call(none); }), runtime::error::kObjectNotSet);
   }
 }
 

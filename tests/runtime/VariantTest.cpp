@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <limits>
 
 #include "runtime/RuntimeError.h"
 #include "runtime/Variant.h"
@@ -26,22 +27,36 @@ TEST(VariantTest, NumbersAsText) {
                                                   {1e-15, "0.000000000000001"},
                                                   {1e-16, "1E-16"},
                                                   {1.0 / 3e5, "3.33333333333333E-06"},
-                                                  {1e100, "1E+100"}};
+                                                  {1e100, "1E+100"},
+                                                  {12.34e-6, "0.00001234"},
+                                                  {999999999999999.4, "999999999999999"},
+                                                  {-0.00025, "-0.00025"},
+                                                  {120, "120"},
+                                                  {1.5e-20, "1.5E-20"},
+                                                  {std::numeric_limits<double>::infinity(), "1.#INF"},
+                                                  {-std::numeric_limits<double>::infinity(), "-1.#INF"},
+                                                  {std::numeric_limits<double>::quiet_NaN(), "-1.#IND"}};
   for (const auto& [value, text] : cases) EXPECT_EQ(CStr(value), text);
 }
 
 TEST(VariantTest, TextsAsNumbers) {
   const std::pair<const char*, double> cases[] = {
-      {"12", 12},     {" 12 ", 12},        {"-1.5", -1.5}, {"1.5-", -1.5}, {"+.5", 0.5},
-      {"5.", 5},      {"1,234.5", 1234.5}, {"1,2,3", 123}, {"$5", 5},      {"-$5", -5},
-      {"(5)", -5},    {"($ 5 )", -5},      {"1e3", 1000},  {"1D-2", 0.01}, {"&HFF", 255},
-      {"&HFFFF", -1}, {"&O17", 15},        {"5$", 5},      {"1E-400", 0}};
+      {"12", 12},          {" 12 ", 12},        {"-1.5", -1.5},     {"1.5-", -1.5},     {"+.5", 0.5},
+      {"5.", 5},           {"1,234.5", 1234.5}, {"1,2,3", 123},     {"$5", 5},          {"-$5", -5},
+      {"(5)", -5},         {"($ 5 )", -5},      {"1e3", 1000},      {"1D-2", 0.01},     {"&HFF", 255},
+      {"&HFFFF", -1},      {"&O17", 15},        {"5$", 5},          {"1E-400", 0},      {"\v\f5\r\n", 5},
+      {"&H7FFF", 32767},   {"&H8000", -32768},  {"&H8000&", 32768}, {"&H10000", 65536}, {"&HFFFFFFFF", -1},
+      {"&O177777", 65535}, {"&o7 ", 7},         {"&h1f", 31},       {"(5) $", -5},      {"- $ 5", -5},
+      {"1d+2", 100},       {"1,e2", 100},       {"1E2", 100}};
   for (const auto& [text, value] : cases) {
     EXPECT_TRUE(IsNumeric(Variant(text))) << text;
     EXPECT_EQ(CDbl(text), value) << text;
   }
-  for (const char* text : {"",   " ", "abc", "5%",  "1.2.3", "--5",  "(5",   "5)",       "1e",  "1 2",
-                           ",5", "$", "&H",  "&HG", "12x",   "True", "0x10", "1/2/2020", "inf", "nan"}) {
+  for (const char* text :
+       {"",      " ",    "abc",  "5%",    "1.2.3", "--5",  "(5",       "5)",  "1e",   "1 2",         ",5",
+        "$",     "&H",   "&HG",  "12x",   "True",  "0x10", "1/2/2020", "inf", "nan",  "&H100000000", "&O8",
+        "&",     "-&H1", "$&H1", "&HF F", "&X1",   "$$5",  "5$$",      "$5$", "(-5)", "-(5)",        "+5-",
+        "((5))", "(5))", "1e+",  ".",     "-.",    ".e5"}) {
     EXPECT_FALSE(IsNumeric(Variant(text))) << text;
     EXPECT_EQ(ErrorOf([&] { CDbl(text); }), error::kTypeMismatch) << text;
   }
@@ -70,6 +85,21 @@ TEST(VariantTest, ConversionsOfOtherTypes) {
   EXPECT_EQ(CStr(Variant::Date{43831.75}), "1/1/2020 6:00:00 PM");
   EXPECT_EQ(CStr(Variant::Date{0}), "12:00:00 AM");
   EXPECT_EQ(CStr(Variant::Date{43831.9999999}), "1/2/2020");
+  EXPECT_EQ(CStr(Variant::Date{43831 + 1.0 / 86400}), "1/1/2020 12:00:01 AM");
+  EXPECT_EQ(CStr(Variant::Date{0.5}), "12:00:00 PM");
+  EXPECT_EQ(CStr(Variant::Date{-0.25}), "6:00:00 AM");
+  EXPECT_EQ(CStr(Variant::Date{1}), "12/31/1899");
+  EXPECT_EQ(CStr(Variant::Date{13.0 / 24 + 61.0 / 86400}), "1:01:01 PM");
+  for (const double beyond : {-657435.0, 2958466.0})
+    EXPECT_EQ(ErrorOf([&] { CStr(Variant::Date{beyond}); }), error::kTypeMismatch);
+  EXPECT_EQ(CStr(std::int32_t{-7}), "-7");
+  EXPECT_EQ(CStr(false), "False");
+  EXPECT_EQ(CDbl(false), 0);
+  EXPECT_EQ(CDbl(std::int32_t{-7}), -7);
+  EXPECT_TRUE(IsNumeric(Variant(1.5)));
+  EXPECT_TRUE(IsNumeric(Variant(std::int32_t{1})));
+  EXPECT_EQ(Sum(1e308, -1e308), 0);
+  EXPECT_EQ(ErrorOf([] { Sum(1e308, 1e308); }), error::kOverflow);
   EXPECT_EQ(CStr(Variant::Date{-1.25}), "12/29/1899 6:00:00 AM");
   EXPECT_EQ(CStr(Variant::Date{-657434}), "1/1/100");
   EXPECT_EQ(CStr(Variant::Date{2958465.75}), "12/31/9999 6:00:00 PM");
@@ -90,7 +120,10 @@ TEST(VariantTest, WholeNumbersRoundHalvesToEven) {
   const std::pair<double, int> cases[] = {{0.5, 0},  {1.5, 2},   {2.5, 2},
                                           {-0.5, 0}, {-1.5, -2}, {2147483647.4, 2147483647}};
   for (const auto& [value, whole] : cases) EXPECT_EQ(CLng(value), whole) << value;
-  EXPECT_EQ(ErrorOf([] { CLng(2147483647.5); }), error::kOverflow);
+  for (const double beyond : {2147483647.5, -2147483648.6})
+    EXPECT_EQ(ErrorOf([&] { CLng(beyond); }), error::kOverflow);
+  EXPECT_EQ(CLng(-2147483648.5), std::numeric_limits<std::int32_t>::min());
+  EXPECT_EQ(CLng(std::int32_t{9}), 9);
   EXPECT_EQ(ErrorOf([] { CLng("ten"); }), error::kTypeMismatch);
   EXPECT_EQ(CLng(" 7 "), 7);
 }
@@ -107,7 +140,9 @@ TEST(VariantTest, ValTakesTheNumberInFront) {
       {"11.0", 11},      {"16.0.1234", 16}, {"9pt", 9},     {" 1 2 3 ", 123}, {"-3.5e2x", -350},
       {"1e", 1},         {"1d2", 100},      {"abc", 0},     {"", 0},          {"$5", 0},
       {"1,5", 1},        {".5.5", 0.5},     {"&HFFx", 255}, {"&HFFFF", -1},   {"&HFFFF&", 65535},
-      {"-1E+50", -1e50}, {"\t7\n", 7},      {"-", 0}};
+      {"-1E+50", -1e50}, {"\t7\n", 7},      {"-", 0},       {"+5", 5},        {"&O17", 15},
+      {"&o18", 1},       {"&X12", 0},       {"&h1g", 1},    {"&H", 0},        {"&HG", 0},
+      {"1\n2", 12},      {"1\r2", 12},      {"-+5", 0},     {"&O7&", 7},      {"&HABCDEF", 11259375}};
   for (const auto& [text, value] : cases) EXPECT_EQ(Val(std::string_view(text)), value) << text;
   EXPECT_EQ(Val(Variant(2.25)), 2.25);
 }

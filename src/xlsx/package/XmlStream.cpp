@@ -65,93 +65,98 @@ bool XmlStream::Fill() {
   return count > 0;
 }
 
-XmlStream::Tag XmlStream::Next(std::string* text) {
-  for (;;) {
-    // a text may be taken piece by piece, a tag only whole
-    const auto* open =
-        static_cast<const char*>(std::memchr(position_, '<', static_cast<std::size_t>(end_ - position_)));
-    if (text != nullptr) {
-      // an entity must not be cut by the window's end
-      while (open == nullptr) {
-        if (!Fill()) break;
-        open =
-            static_cast<const char*>(std::memchr(position_, '<', static_cast<std::size_t>(end_ - position_)));
-      }
-      const char* stop = open == nullptr ? end_ : open;
-      *text += xml::Decode({position_, static_cast<std::size_t>(stop - position_)});
-    }
-    position_ = open == nullptr ? end_ : open;
-    if (open == nullptr) {
-      if (!Fill()) return {Kind::kEndOfInput, {}, {}};
-      continue;
-    }
-
-    const auto startsWith = [&](std::string_view what) {
-      while (static_cast<std::size_t>(end_ - position_) < what.size() && Fill()) {
-      }
-      return std::string_view(position_, static_cast<std::size_t>(end_ - position_)).starts_with(what);
-    };
-    const auto passTo = [&](std::string_view what, std::size_t from) -> std::string_view {
-      for (std::size_t search = from;;) {
-        const std::string_view unread(position_, static_cast<std::size_t>(end_ - position_));
-        const auto at = unread.find(what, search);
-        if (at != std::string_view::npos) {
-          const std::string_view passed = unread.substr(from, at - from);
-          position_ += at + what.size();
-          return passed;
-        }
-        search = unread.size() > from + what.size() ? unread.size() - what.size() : from;
-        if (!Fill()) Damaged();
-      }
-    };
-    if (startsWith("<!--")) {
-      passTo("-->", 4);
-      continue;
-    }
-    if (startsWith("<?")) {
-      passTo("?>", 2);
-      continue;
-    }
-    if (startsWith("<![CDATA[")) {
-      const std::string_view data = passTo("]]>", 9);
-      if (text != nullptr) *text += data;
-      continue;
-    }
-    if (startsWith("<!")) {
-      throw PackageError(xml::kHasDocumentType);
-    }
-
-    const char* p = position_ + 1;
-    for (char quote = 0;; ++p) {
-      if (p == end_) {
-        const auto read = p - position_;
-        if (!Fill()) Damaged();
-        p = position_ + read;
-      }
-      if (quote != 0) {
-        if (*p == quote) quote = 0;
-      } else if (*p == '"' || *p == '\'') {
-        quote = *p;
-      } else if (*p == '>') {
-        break;
-      }
-    }
-    std::string_view inside(position_ + 1, static_cast<std::size_t>(p - position_ - 1));
-    position_ = p + 1;
-    Tag tag{Kind::kStart, {}, {}};
-    if (inside.starts_with('/')) {
-      tag.kind = Kind::kEnd;
-      inside.remove_prefix(1);
-    } else if (inside.ends_with('/')) {
-      tag.kind = Kind::kEmpty;
-      inside.remove_suffix(1);
-    }
-    std::size_t length = 0;
-    while (length < inside.size() && !IsSpace(inside[length])) ++length;
-    tag.name = xml::LocalName(inside.substr(0, length));
-    tag.attributes = inside.substr(length);
-    return tag;
+bool XmlStream::PassText(std::string* text) {
+  const auto find = [&] {
+    return static_cast<const char*>(std::memchr(position_, '<', static_cast<std::size_t>(end_ - position_)));
+  };
+  const char* open = find();
+  while (open == nullptr) {
+    if (text == nullptr) position_ = end_;  // The window would grow with a text that isn't passed.
+    if (!Fill()) break;
+    open = find();
   }
+  const char* const stop = open == nullptr ? end_ : open;
+  // The text is decoded as a whole, because two windows can have a part of an entity each.
+  if (text != nullptr) *text += xml::Decode({position_, static_cast<std::size_t>(stop - position_)});
+  position_ = stop;
+  return open != nullptr;
+}
+
+bool XmlStream::StartsWith(std::string_view what) {
+  while (Unread().size() < what.size() && Fill()) {
+  }
+  return Unread().starts_with(what);
+}
+
+std::string_view XmlStream::PassTo(std::string_view what, std::size_t from) {
+  for (std::size_t search = from;;) {
+    const std::string_view unread = Unread();
+    const auto at = unread.find(what, search);
+    if (at != std::string_view::npos) {
+      position_ += at + what.size();
+      return unread.substr(from, at - from);
+    }
+    search = unread.size() > from + what.size() ? unread.size() - what.size() : from;
+    if (!Fill()) Damaged();
+  }
+}
+
+bool XmlStream::PassOther(std::string* text) {
+  if (StartsWith("<?")) {
+    PassTo("?>", 2);
+    return true;
+  }
+  if (!StartsWith("<!")) return false;
+  if (StartsWith("<!--")) {
+    PassTo("-->", 4);
+  } else if (StartsWith("<![CDATA[")) {
+    const std::string_view data = PassTo("]]>", 9);
+    if (text != nullptr) *text += data;
+  } else {
+    throw PackageError(xml::kHasDocumentType);
+  }
+  return true;
+}
+
+std::string_view XmlStream::TakeTag() {
+  const char* p = position_ + 1;
+  for (char quote = 0;; ++p) {
+    if (p == end_) {
+      const auto read = p - position_;
+      if (!Fill()) Damaged();
+      p = position_ + read;
+    }
+    if (quote != 0) {
+      if (*p == quote) quote = 0;
+    } else if (*p == '"' || *p == '\'') {
+      quote = *p;
+    } else if (*p == '>') {
+      break;
+    }
+  }
+  const std::string_view inside(position_ + 1, static_cast<std::size_t>(p - position_ - 1));
+  position_ = p + 1;
+  return inside;
+}
+
+XmlStream::Tag XmlStream::Next(std::string* text) {
+  do {
+    if (!PassText(text)) return {Kind::kEndOfInput, {}, {}};
+  } while (PassOther(text));
+  std::string_view inside = TakeTag();
+  Tag tag{Kind::kStart, {}, {}};
+  if (inside.starts_with('/')) {
+    tag.kind = Kind::kEnd;
+    inside.remove_prefix(1);
+  } else if (inside.ends_with('/')) {
+    tag.kind = Kind::kEmpty;
+    inside.remove_suffix(1);
+  }
+  std::size_t length = 0;
+  while (length < inside.size() && !IsSpace(inside[length])) ++length;
+  tag.name = xml::LocalName(inside.substr(0, length));
+  tag.attributes = inside.substr(length);
+  return tag;
 }
 
 void XmlStream::ReadText(std::string& text) {

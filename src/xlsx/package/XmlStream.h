@@ -47,6 +47,20 @@ class XmlStream {
   const char* end_ = nullptr;
 
  private:
+  std::string_view Unread() const { return {position_, static_cast<std::size_t>(end_ - position_)}; }
+  /// Moves to the next "<", and appends the decoded text before it to `text` unless that is null. Returns
+  /// false at the end of the part.
+  bool PassText(std::string* text);
+  /// Returns whether the unread bytes begin with `what`. Reads more if the window has too few.
+  bool StartsWith(std::string_view what);
+  /// Moves behind the next `what`, which is searched from an offset on. Returns the bytes from the offset to
+  /// `what`, valid until the window moves.
+  std::string_view PassTo(std::string_view what, std::size_t from);
+  /// Skips a comment or a processing instruction, and appends character data to `text`. Returns false at a
+  /// tag.
+  bool PassOther(std::string* text);
+  /// Reads a tag, and returns what is between its "<" and ">".
+  std::string_view TakeTag();
   std::size_t ReadSource(char* buffer, std::size_t size);
 
   Archive::Stream& source_;

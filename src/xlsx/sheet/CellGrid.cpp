@@ -30,9 +30,10 @@ GridCell& CellGrid::At(std::int32_t row, std::int32_t column) {
   }
   Row& cells = const_cast<Row&>(RowAt(row));
   if (column > static_cast<std::int32_t>(cells.size())) {
-    held_ += static_cast<std::size_t>(column) - cells.size();
-    CheckRoom(held_);
+    const std::size_t held = held_ + static_cast<std::size_t>(column) - cells.size();
+    CheckRoom(held);
     cells.resize(static_cast<std::size_t>(column));
+    held_ = held;
   }
   return cells[static_cast<std::size_t>(column) - 1];
 }

@@ -20,6 +20,14 @@ std::optional<std::int32_t> WholeNumber(std::string_view digits) {
   return value;
 }
 
+/// The column of some letters; 0 outside of the sheet.
+std::int32_t ColumnNumber(std::string_view letters) {
+  if (letters.size() > 3) return 0;
+  std::int32_t column = 0;
+  for (const char c : letters) column = column * 26 + ((c & ~0x20) - 'A' + 1);
+  return column <= limits::kColumns ? column : 0;
+}
+
 struct ReadCornerResult {
   Corner corner;
   std::size_t length;  ///< of its text
@@ -54,8 +62,7 @@ std::optional<ReadCornerResult> ReadCorner(std::string_view text) {
 }
 
 std::string CornerText(const Corner& corner) {
-  std::string text;
-  if (corner.column > 0) text += (corner.columnAbsolute ? "$" : "") + ColumnLetters(corner.column);
+  std::string text = (corner.columnAbsolute ? "$" : "") + ColumnLetters(corner.column);
   if (corner.row > 0) text += (corner.rowAbsolute ? "$" : "") + std::to_string(corner.row);
   return text;
 }
@@ -101,16 +108,6 @@ std::optional<A1Reference> ReadA1Reference(std::string_view text) {
   const char next = reference.length < text.size() ? text[reference.length] : '\0';
   if (IsNameCharacter(next) || next == '(' || next == '!' || next == '$') return std::nullopt;
   return reference;
-}
-
-std::int32_t ColumnNumber(std::string_view letters) {
-  if (letters.empty() || letters.size() > 3) return 0;
-  std::int32_t column = 0;
-  for (char c : letters) {
-    if (!IsLetter(c)) return 0;
-    column = column * 26 + ((c & ~0x20) - 'A' + 1);
-  }
-  return column <= limits::kColumns ? column : 0;
 }
 
 std::string ColumnLetters(std::int32_t column) {

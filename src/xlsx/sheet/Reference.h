@@ -30,8 +30,6 @@ struct SheetRange {
   CellRange range;
 };
 
-/// Returns the number of a column by its letters, such as 1 for "A"; 0 if a sheet has no such column.
-std::int32_t ColumnNumber(std::string_view letters);
 /// Returns the letters of a column, from 1.
 std::string ColumnLetters(std::int32_t column);
 /// Returns "$A$1", or "A1" if `absolute` is false.

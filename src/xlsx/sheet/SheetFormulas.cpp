@@ -37,7 +37,7 @@ std::string Unshared(std::string_view attributes) {
 
 /// The formula that a group of cells shares, and the cell that has it in full.
 struct SharedFormula {
-  std::int32_t row = 0, column = 0;
+  std::int32_t row, column;
   std::string formula;
 };
 

@@ -34,21 +34,19 @@ double DefaultColumnPoints(int characters, int digit) {
 }  // namespace
 
 int DigitWidth(const Styles& styles) {
-  // known for the fonts that workbooks come with; for others it grows with the size as theirs does
+  // Common fonts whose digits are wider than the rule below says.
   struct Known {
     std::string_view font;
     double size;
     int width;
   };
-  static constexpr Known kKnown[] = {{"Calibri", 11, 7}, {"Calibri", 10, 6},         {"Calibri", 12, 8},
-                                     {"Arial", 10, 7},   {"Arial", 11, 8},           {"Aptos Narrow", 11, 7},
-                                     {"Cambria", 11, 7}, {"Times New Roman", 10, 6}, {"Verdana", 10, 8}};
+  static constexpr Known kKnown[] = {{"Arial", 10, 7}, {"Arial", 11, 8}, {"Verdana", 10, 8}};
   const std::string name = styles.NormalFontName();
   const double size = std::clamp(styles.NormalFontSize(), 1.0, kMostFontSize);
   for (const Known& known : kKnown) {
     if (runtime::EqualsIgnoreCase(name, known.font) && size == known.size) return known.width;
   }
-  // a digit is about half as wide as its font is high
+  // The digits of Calibri 11 have 7 pixels, as have those of Cambria and Aptos Narrow.
   return std::max(1, static_cast<int>(std::lround(size * 96 / 72 * 0.48)));
 }
 

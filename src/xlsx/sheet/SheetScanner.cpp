@@ -67,6 +67,13 @@ class SheetScanner : public XmlStream {
  private:
   /// What a piece of the row content turned out to be.
   enum class Piece { kTaken, kCut, kEnd };
+  /// The start tag of a cell.
+  struct CellTag {
+    std::int32_t column = 0;
+    std::uint32_t style = 0;
+    std::string_view type;
+    bool open = false;  ///< Whether the cell isn't an empty element.
+  };
 
   bool ReadHead();
   void ReadRows();
@@ -76,14 +83,16 @@ class SheetScanner : public XmlStream {
   const char* TakePlainCell(const char* p);
   const char* TakePlainRow(const char* p);
   Piece ReadPiece();
+  /// Reads a cell. `p` is behind the name in its start tag.
   Piece ReadCell(const char* p);
-  Piece ReadRareCell(const char* p, std::int32_t column, std::string_view type, std::uint32_t style,
-                     std::string_view value, bool formula);
+  /// Reads the rest of a cell's start tag. Returns the position behind it, or null if the window ends first.
+  const char* ReadCellTag(const char* p, CellTag& tag) const;
+  static void SetCellAttribute(char name, std::string_view value, CellTag& tag);
+  Piece ReadRareCell(const char* p, const CellTag& tag, std::string_view value, bool formula);
   const char* PassFormula(const char* p) const;
   void ReadRow(std::string_view attributes);
   /// `value` is as written unless it was decoded, and a null view for an empty cell.
-  void Store(std::int32_t column, std::string_view type, std::uint32_t style, std::string_view value,
-             bool decoded = false);
+  void Store(const CellTag& tag, std::string_view value, bool decoded = false);
 
   void Put(std::int32_t column, PackedValue value, std::uint32_t style) {
     if (contents_.cells.CellCount() >= limits::kCells)
@@ -310,56 +319,14 @@ const char* SheetScanner::TakePlainRow(const char* p) {
   return p + 1;
 }
 
-/// `p` stands behind the cell's name.
 SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
-  std::string_view type;
-  std::uint32_t style = 0;
-  std::int32_t column = column_ + 1;
-  bool open = false;
-  for (;;) {  // attributes
-    while (IsSpace(*p)) ++p;
-    if (*p == '>') {
-      ++p;
-      open = true;
-      break;
-    }
-    if (*p == '/') {
-      p += 2;
-      if (p > end_) return Piece::kCut;
-      break;
-    }
-    const char* name = p;
-    while (*p != '=' && *p != '\0') ++p;
-    const auto nameLength = p - name;
-    if (*p == '=') ++p;
-    while (IsSpace(*p)) ++p;
-    const char quote = *p;
-    if (quote == '\0') return Piece::kCut;
-    if (quote != '"' && quote != '\'') Damaged();
-    const char* value = ++p;
-    while (*p != quote && *p != '\0') ++p;
-    if (*p == '\0') return Piece::kCut;
-    if (nameLength == 1) {
-      if (*name == 'r') {
-        std::int32_t letters = 0;
-        for (const char* q = value; (*q & ~0x20) >= 'A' && (*q & ~0x20) <= 'Z' && letters <= limits::kColumns;
-             ++q) {
-          letters = letters * 26 + ((*q & ~0x20) - 'A' + 1);
-        }
-        if (letters > 0) column = letters;
-      } else if (*name == 's') {
-        for (const char* q = value; IsDigit(*q); ++q)
-          style = style * 10 + static_cast<std::uint32_t>(*q - '0');
-      } else if (*name == 't') {
-        type = {value, static_cast<std::size_t>(p - value)};
-      }
-    }
-    ++p;
-  }
-
+  CellTag tag;
+  tag.column = column_ + 1;
+  p = ReadCellTag(p, tag);
+  if (p == nullptr) return Piece::kCut;
   std::string_view text;
   bool formula = false;
-  while (open) {  // what the cell holds
+  while (tag.open) {  // what the cell holds
     while (*p != '<' && *p != '\0') ++p;
     if (*p == '\0') return Piece::kCut;
     const char* inner = p + 1;
@@ -367,13 +334,12 @@ SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
       while (*inner != '>' && *inner != '\0') ++inner;
       if (*inner == '\0') return Piece::kCut;
       p = inner + 1;
-      open = false;
+      tag.open = false;
     } else if (At(inner, "v") && *inner == '>') {
       const char* from = ++inner;
       while (*inner != '<' && *inner != '\0') ++inner;
       text = {from, static_cast<std::size_t>(inner - from)};
-      if (inner[0] == '<' && inner[1] != '/' && inner[1] != '\0')
-        return ReadRareCell(p, column, type, style, {}, formula);
+      if (inner[0] == '<' && inner[1] != '/' && inner[1] != '\0') return ReadRareCell(p, tag, {}, formula);
       while (*inner != '>' && *inner != '\0') ++inner;
       if (*inner == '\0') return Piece::kCut;
       p = inner + 1;
@@ -382,14 +348,58 @@ SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
       p = PassFormula(inner);
       if (p == nullptr) return Piece::kCut;
     } else {
-      return ReadRareCell(p, column, type, style, text, formula);
+      return ReadRareCell(p, tag, text, formula);
     }
   }
-  Store(column, type, style, text);
+  Store(tag, text);
   // a result of the type "str" may be the empty text
-  if (formula) TakeFormula(!text.empty() || type == "str");
+  if (formula) TakeFormula(!text.empty() || tag.type == "str");
   position_ = p;
   return Piece::kTaken;
+}
+
+const char* SheetScanner::ReadCellTag(const char* p, CellTag& tag) const {
+  for (;;) {
+    while (IsSpace(*p)) ++p;
+    if (*p == '>') {
+      tag.open = true;
+      return p + 1;
+    }
+    if (*p == '/') return p + 2 <= end_ ? p + 2 : nullptr;
+    const char* name = p;
+    while (*p != '=' && *p != '\0' && !IsSpace(*p)) ++p;
+    const auto nameLength = p - name;
+    while (IsSpace(*p)) ++p;
+    if (*p == '=') ++p;
+    while (IsSpace(*p)) ++p;
+    const char quote = *p;
+    if (quote == '\0') return nullptr;
+    if (quote != '"' && quote != '\'') Damaged();
+    const char* value = ++p;
+    while (*p != quote && *p != '\0') ++p;
+    if (*p == '\0') return nullptr;
+    if (nameLength == 1) SetCellAttribute(*name, {value, static_cast<std::size_t>(p - value)}, tag);
+    ++p;
+  }
+}
+
+void SheetScanner::SetCellAttribute(char name, std::string_view value, CellTag& tag) {
+  if (name == 'r') {
+    std::int32_t letters = 0;
+    for (const char c : value) {
+      const char upper = static_cast<char>(c & ~0x20);
+      if (upper < 'A' || upper > 'Z' || letters > limits::kColumns) break;
+      letters = letters * 26 + (upper - 'A' + 1);
+    }
+    if (letters > 0) tag.column = letters;
+  } else if (name == 's') {
+    for (const char c : value) {
+      if (!IsDigit(c)) break;
+      tag.style = tag.style * 10 + static_cast<std::uint32_t>(c - '0');
+    }
+  } else if (name == 't') {
+    tag.type = value;
+  }
 }
 
 /// From behind the name of a formula to behind the formula; null if the window ends before it does.
@@ -405,48 +415,47 @@ const char* SheetScanner::PassFormula(const char* p) const {
 /// A cell with an inline string, character data, or what some extension put there. It is read with the
 /// general reader from `p`, the "<" of a child of the cell, on; that may move the window, so the views are
 /// copied first. `value` and `formula` tell of the children before that one.
-SheetScanner::Piece SheetScanner::ReadRareCell(const char* p, std::int32_t column, std::string_view type,
-                                               std::uint32_t style, std::string_view value, bool formula) {
-  const std::string typeCopy(type);
+SheetScanner::Piece SheetScanner::ReadRareCell(const char* p, const CellTag& tag, std::string_view value,
+                                               bool formula) {
+  const std::string type(tag.type);
   text_ = xml::Decode(value);
   bool hasText = value.data() != nullptr;
   bool inlineText = false;
   position_ = p;
   for (int depth = 1; depth > 0;) {
-    const Tag tag = Next();
-    if (tag.kind == Kind::kEndOfInput) Damaged();
-    if (tag.kind == Kind::kEnd) --depth;
-    if (tag.kind != Kind::kStart) continue;
-    if (tag.name == "v" || tag.name == "t") {
-      inlineText |= tag.name == "t";
+    const Tag child = Next();
+    if (child.kind == Kind::kEndOfInput) Damaged();
+    if (child.kind == Kind::kEnd) --depth;
+    if (child.kind != Kind::kStart) continue;
+    if (child.name == "v" || child.name == "t") {
+      inlineText |= child.name == "t";
       piece_.clear();
-      const bool runOfText = tag.name == "t";
+      const bool runOfText = child.name == "t";
       ReadText(piece_);
       text_ += runOfText ? DecodeXString(piece_) : piece_;
       hasText = true;
-    } else if (tag.name == "rPh" || tag.name == "f" || tag.name == "extLst") {
-      formula |= tag.name == "f";
+    } else if (child.name == "rPh" || child.name == "f" || child.name == "extLst") {
+      formula |= child.name == "f";
       SkipElement();
     } else {
       ++depth;
     }
   }
-  Store(column, inlineText ? "inlineStr" : typeCopy, style, hasText ? text_ : std::string_view(), true);
-  if (formula) TakeFormula(!text_.empty() || typeCopy == "str");
+  Store({tag.column, tag.style, inlineText ? "inlineStr" : type}, hasText ? text_ : std::string_view(), true);
+  if (formula) TakeFormula(!text_.empty() || type == "str");
   return Piece::kTaken;
 }
 
-void SheetScanner::Store(std::int32_t column, std::string_view type, std::uint32_t style,
-                         std::string_view value, bool decoded) {
+void SheetScanner::Store(const CellTag& tag, std::string_view value, bool decoded) {
   using Packed = PackedValue::Kind;
-  if (column < 1 || column > limits::kColumns) throw PackageError("it has a cell outside of any sheet");
+  if (tag.column > limits::kColumns) throw PackageError("it has a cell outside of any sheet");
   auto& texts = contents_.cells.texts;
-  const auto put = [&](PackedValue packed) { Put(column, packed, style); };
+  const auto put = [&](PackedValue packed) { Put(tag.column, packed, tag.style); };
   const auto plain = [&] { return decoded ? std::string(value) : xml::Decode(value); };
   if (value.data() == nullptr) return put({});
-  switch (type.empty() ? 'n' : type[0]) {
+  switch (tag.type.empty() ? 'n' : tag.type[0]) {
     case 's':
-      if (type.size() == 1) {
+      if (tag.type.size() == 1) {
         const auto index = xml::ParseInteger(value);
         return put(index && *index >= 0 && *index <= 0xFFFFFFFF
                        ? PackedValue(Packed::kSharedText, static_cast<std::uint32_t>(*index))

@@ -77,9 +77,9 @@ void InsertView(std::string& part, const std::string& attribute) {
 void ReplaceSheetData(std::string& part, const std::function<std::string(const std::string&)>& sheetData,
                       const CellRange& used) {
   const auto [data, prefix] = FindSheetData(part);
-  part.replace(data.begin, data.end - data.begin, sheetData(prefix));
-  const auto dimension = FindInHead(std::string_view(part).substr(0, data.begin), "dimension");
+  const auto dimension = FindInHead(part, "dimension");
   const TextSpan ref = dimension ? FindAttribute(part, *dimension, "ref") : TextSpan();
+  part.replace(data.begin, data.end - data.begin, sheetData(prefix));  // The dimension is before the cells.
   if (!ref.Found()) return;
   std::string address = CellAddress(used.row1, used.column1, false);
   if (used.CellCount() > 1) address += ":" + CellAddress(used.row2, used.column2, false);

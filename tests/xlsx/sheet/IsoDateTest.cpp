@@ -64,6 +64,22 @@ TEST(IsoDateTest, ADateATimeOrBothAreRead) {
                                                                  {"2023-03-15T12:00:00", 45000.5},
                                                                  {"2023-03-15T12:00:00Z", 45000.5},
                                                                  {"18:00:00", 0.75},
+                                                                 {"18:00", 0.75},
+                                                                 {"06:36", 0.275},
+                                                                 {"00:00:30", 30.0 / 86400},
+                                                                 {"00:01:01.5", 61.5 / 86400},
+                                                                 {"1900-01-01", 1},
+                                                                 {"1900-02-01T06:00", 32.25},
+                                                                 {"18:", std::nullopt},
+                                                                 {"18:0", std::nullopt},
+                                                                 {"18:00:", std::nullopt},
+                                                                 {"1x:00", std::nullopt},
+                                                                 {"-1:00", std::nullopt},
+                                                                 {"+202-01-01", std::nullopt},
+                                                                 {"2023-01-0x", std::nullopt},
+                                                                 {"2023/01/01", std::nullopt},
+                                                                 {"2023-01/01", std::nullopt},
+                                                                 {"2023-03-15T12", std::nullopt},
                                                                  {"18:00:00Z", 0.75},
                                                                  {"1900-02-28", 59},
                                                                  {"1900-03-01", 61},
@@ -79,6 +95,8 @@ TEST(IsoDateTest, ADateATimeOrBothAreRead) {
                                                                  {"23-03-15", std::nullopt},
                                                                  {"25:00:00x", std::nullopt}};
   for (const auto& [text, serial] : cases) EXPECT_EQ(ParseIsoDate(text, k1900), serial) << text;
+  EXPECT_EQ(ParseIsoDate("1904-01-01", k1904), 0);
+  EXPECT_EQ(ParseIsoDate("1904-01-31T12:00:00", k1904), 30.5);
 }
 
 }  // namespace

@@ -59,5 +59,50 @@ TEST(PageSetupTest, TellsHowTheSheetIsPrinted) {
   }
 }
 
+TEST(PageSetupTest, PapersAndTheLimitsOfWhatIsWritten) {
+  const auto read = [](const S& elements) {
+    const S bytes = "<worksheet><sheetData/>" + elements + "</worksheet>";
+    MemoryStream part(bytes);
+    return ReadPageSetup(part);
+  };
+  const struct {
+    const char* code;
+    double width, height;
+  } papers[] = {{"1", 612, 792},
+                {"3", 792, 1224},
+                {"4", 1224, 792},
+                {"5", 612, 1008},
+                {"6", 396, 612},
+                {"7", 522, 756},
+                {"8", 297 * kMillimeter, 420 * kMillimeter},
+                {"9", 210 * kMillimeter, 297 * kMillimeter},
+                {"11", 148 * kMillimeter, 210 * kMillimeter},
+                {"12", 250 * kMillimeter, 353 * kMillimeter},
+                {"13", 176 * kMillimeter, 250 * kMillimeter},
+                {"70", 105 * kMillimeter, 148 * kMillimeter},
+                {"2", 612, 792},
+                {"", 612, 792}};
+  for (const auto& paper : papers) {
+    for (const bool landscape : {false, true}) {
+      const PageSetup setup = read("<pageSetup paperSize=\"" + S(paper.code) + "\" orientation=\"" +
+                                   (landscape ? "landscape" : "portrait") + "\"/>");
+      EXPECT_EQ(landscape ? setup.paperHeight : setup.paperWidth, paper.width) << paper.code;
+      EXPECT_EQ(landscape ? setup.paperWidth : setup.paperHeight, paper.height) << paper.code;
+    }
+  }
+  const std::pair<const char*, double> scales[] = {{"10", 0.1}, {"9", 0.1}, {"400", 4},
+                                                   {"401", 4},  {"0", 1},   {"x", 1}};
+  for (const auto& [scale, read_] : scales)
+    EXPECT_EQ(read("<pageSetup scale=\"" + S(scale) + "\"/>").scale, read_);
+  EXPECT_EQ(read("<pageMargins left=\"50\" right=\"49\"/>"), (PageSetup{.left = 3528, .right = 3528}));
+  EXPECT_EQ(read("<brk id=\"3\"/><rowBreaks><brk id=\"1\"/><brk id=\"1048575\"/><brk "
+                 "id=\"1048576\"/><brk/></rowBreaks>"
+                 "<colBreaks><brk id=\"16383\"/><brk id=\"1\"/></colBreaks>"),
+            (PageSetup{.rowBreaks = {1, 1048575}, .columnBreaks = {1, 16383}}));
+  S breaks;
+  for (int row = 1; row <= 2000; ++row) breaks += "<brk id=\"" + std::to_string(row) + "\"/>";
+  EXPECT_EQ(read("<rowBreaks>" + breaks + "</rowBreaks>").rowBreaks.size(), 1026u) << "Excel's limit";
+}
+
 }  // namespace
 }  // namespace plotsmith::xlsx

@@ -38,6 +38,12 @@ TEST(SheetFormulasTest, OnlyTheFormulasConcernedChange) {
        "t='shared' "
        "si='0'/></c></row>",
        "<row r='4'><c/><c><f>'My Data'!A7</f></c></row><row><c/><c><f>'My Data'!A8</f></c></row>"},
+      {"<row><c><f t='shared' ref='A1:B1' si='0'>'My Data'!A5</f></c><c><f t='shared' si='0'/></c></row>"
+       "<row r='7'><c r='F7'/><c><f t='shared' si='0'/></c></row><row><c><f t='shared' si='0'/></c></row>"
+       "<row r='3'/><c r='D9'/><c><f t='shared' si='0'/></c><row r='20'><c><f t='shared' si='0'/></c></row>",
+       "<row><c><f>'My Data'!A7</f></c><c><f>'My Data'!B7</f></c></row>"
+       "<row r='7'><c r='F7'/><c><f>'My Data'!G13</f></c></row><row><c><f>'My Data'!A14</f></c></row>"
+       "<row r='3'/><c r='D9'/><c><f>'My Data'!E15</f></c><row r='20'><c><f>'My Data'!A26</f></c></row>"},
       // Texts are recognized in every XML form.
       {"<c r='A1'><f a='>'><![CDATA['My Data'!A5]]>&lt;1<!-- so --></f></c>",
        "<c r='A1'><f a='>'>'My Data'!A7&lt;1</f></c>"}};
@@ -46,6 +52,11 @@ TEST(SheetFormulasTest, OnlyTheFormulasConcernedChange) {
     EXPECT_TRUE(ShiftSheetFormulas(part, "Sheet1", shifts)) << before;
     EXPECT_EQ(part, std::string("<w>\r\n<!-- 'My Data'!A5 -->") + after + "</w>");
   }
+  // A formula may have 8192 characters, of which those around the reference don't matter.
+  const std::string longest = "'My Data'!A5" + std::string(8192 - 12, ' ');
+  std::string full = "<c r='A1'><f t='shared' si='0'>" + longest + "</f></c>";
+  EXPECT_TRUE(ShiftSheetFormulas(full, "Sheet1", shifts));
+  EXPECT_EQ(full, "<c r='A1'><f>'My Data'!A7" + std::string(8192 - 12, ' ') + "</f></c>");
   const std::string unchanged[] = {// longer than any formula may be
                                    "<c><f t='shared' si='0'>'My Data'!A5" + std::string(8192, ' ') +
                                        "</f></c><c><f t='shared' si='0'/></c>",
@@ -67,6 +78,7 @@ TEST(FormulaTest, CopiedFormulasMoveTheirRelativeReferences) {
                                                        {"\"A1\"&LOG10(A1)", "\"A1\"&LOG10(C4)"},
                                                        {"1:1+A:A", "4:4+C:C"},
                                                        {"XFD1", "#REF!"},
+                                                       {"XFB1048573", "XFD1048576"},
                                                        {"A1048576", "#REF!"}};
   for (const auto& [formula, moved] : cases) EXPECT_EQ(OffsetFormula(formula, 3, 2), moved);
   EXPECT_EQ(OffsetFormula("B2+A2", -1, -1), "A1+#REF!");

@@ -35,6 +35,13 @@ TEST(SheetSpliceTest, TheDrawingGoesWhereTheSchemaWantsIt) {
     InsertDrawingLink(part, "R", "rId1");
     EXPECT_EQ(part, head + tail.substr(0, at) + drawing + tail.substr(at + 1));
   }
+  for (const char* behind : {"legacyDrawing", "legacyDrawingHF", "drawingHF", "picture", "oleObjects",
+                             "controls", "webPublishItems", "tableParts", "extLst", "AlternateContent"}) {
+    const S start = "<worksheet><sheetData/><pageMargins/>", end = "<" + S(behind) + "/></worksheet>";
+    S part = start + end;
+    InsertDrawingLink(part, "R", "rId1");
+    EXPECT_EQ(part, start + drawing + end);
+  }
   S prefixed = "<x:worksheet><x:sheetData/><x:extLst/></x:worksheet>";
   InsertDrawingLink(prefixed, "R", "a&b");
   EXPECT_EQ(prefixed,
@@ -50,7 +57,9 @@ TEST(SheetSpliceTest, CellsAreReplacedWithWhatTheSheetSaysOfThem) {
       {"<w><!-- <dimension ref='A1'/> --><dimension q='>' ref = 'A1:B2' "
        "z='1'/><sheetData><row/></sheetData></w>",
        "<w><!-- <dimension ref='A1'/> --><dimension q='>' ref=\"B2:C3\" z='1'/>[]</w>"},
-      {"<w><sheetData/><x><dimension ref='A1'/></x></w>", "<w>[]<x><dimension ref='A1'/></x></w>"}};
+      {"<w><sheetData/><x><dimension ref='A1'/></x></w>", "<w>[]<x><dimension ref='A1'/></x></w>"},
+      {"<w><dimension a='1'/><sheetData><a/></sheetData\n><b/></w>", "<w><dimension a='1'/>[]<b/></w>"},
+      {"<q:w><q:sheetData></q:sheetData></q:w>", "<q:w>[q:]</q:w>"}};
   for (const auto& [before, after] : cases) {
     S part = before;
     ReplaceSheetData(part, [](const S& prefix) { return "[" + prefix + "]"; }, {2, 2, 3, 3});
@@ -59,7 +68,7 @@ TEST(SheetSpliceTest, CellsAreReplacedWithWhatTheSheetSaysOfThem) {
 }
 
 TEST(SheetSpliceTest, ASettingOfTheViewIsChangedInPlace) {
-  struct Case {
+  struct SettingCase {
     ViewSetting setting;
     bool value;
     S before, after;  ///< `after` is empty if the part doesn't change.
@@ -70,7 +79,7 @@ TEST(SheetSpliceTest, ASettingOfTheViewIsChangedInPlace) {
   const S pane =
       "<sheetView a='>' workbookViewId='0'><pane/><selection/></sheetView><sheetView workbookViewId='1'/>"
       "</sheetViews><sheetData/></w>";
-  const Case cases[] = {
+  const SettingCase cases[] = {
       {kTabSelected, false, plain, ""},
       {kTabSelected, true, plain,
        "<w><sheetViews><sheetView tabSelected=\"1\" workbookViewId='0'/></sheetViews><sheetData/></w>"},
@@ -83,6 +92,11 @@ TEST(SheetSpliceTest, ASettingOfTheViewIsChangedInPlace) {
       {kTabSelected, true, "<w><sheetViews><sheetView \"='\"/></sheetViews><sheetData/></w>",
        "<w><sheetViews><sheetView tabSelected=\"1\" \"='\"/></sheetViews><sheetData/></w>"},
       {kTabSelected, false, "<w><sheetData/></w>", ""},
+      // A view behind the cells is none.
+      {kTabSelected, true, "<w><sheetData/><sheetView tabSelected=\"1\"/></w>",
+       "<w><sheetViews><sheetView tabSelected=\"1\" "
+       "workbookViewId=\"0\"/></sheetViews><sheetData/><sheetView "
+       "tabSelected=\"1\"/></w>"},
       {kTabSelected, false,
        "<chartsheet><sheetViews><sheetView tabSelected=\"1\"/></sheetViews><drawing/></chartsheet>",
        "<chartsheet><sheetViews><sheetView/></sheetViews><drawing/></chartsheet>"},
@@ -120,7 +134,7 @@ TEST(SheetSpliceTest, ASettingOfTheViewIsChangedInPlace) {
       {kShowHeadings, true,
        "<x:w><x:sheetViews><x:sheetView showRowColHeaders=\"0\"/></x:sheetViews><x:sheetData/></x:w>",
        "<x:w><x:sheetViews><x:sheetView/></x:sheetViews><x:sheetData/></x:w>"}};
-  for (const Case& c : cases) {
+  for (const SettingCase& c : cases) {
     S part = c.before;
     EXPECT_EQ(SetViewSetting(part, c.setting, c.value), !c.after.empty()) << c.before;
     EXPECT_EQ(part, c.after.empty() ? c.before : c.after);

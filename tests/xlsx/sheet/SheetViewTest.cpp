@@ -43,14 +43,32 @@ TEST(SheetViewTest, TellsHowTheFirstWindowShowsTheSheet) {
       {"<sheetViews><sheetView topLeftCell=\"?\"><pane ySplit=\"-4\" xSplit=\"99999\" state=\"frozen\"/>"
        "</sheetView></sheetViews>",
        {true, true, {1, 1}, {1, 1}, 0, 16383}},
+      {"<sheetViews><sheetView><pane ySplit=\"9999999\" state=\"frozenSplit\" activePane=\"\"/><selection "
+       "activeCell=\"C3\"/></sheetView></sheetViews>",
+       {true, true, {1, 1}, {3, 3}, 1048575, 0}},
+      // Panes and selections outside of the first view.
+      {"<pane ySplit=\"2\" state=\"frozen\"/><selection "
+       "activeCell=\"D4\"/><sheetViews><sheetView></sheetView>"
+       "<selection activeCell=\"C3\"/></sheetViews>",
+       {}},
+      {"<sheetViews><sheetView><selection pane=\"bottomLeft\" activeCell=\"C3\"/><selection pane=\"topLeft\" "
+       "activeCell=\"B2\"/></sheetView></sheetViews>",
+       {true, true, {1, 1}, {2, 2}, 0, 0}},
       // The second view belongs to another window.
       {"<sheetViews><sheetView/><sheetView showGridLines=\"0\" topLeftCell=\"C9\"/></sheetViews>", {}},
   };
   for (const auto& c : cases) {
-    const S part = "<worksheet>" + S(c.views) + "<sheetData/></worksheet>";
+    const S part =
+        "<worksheet>" + S(c.views) + "<sheetData><selection activeCell=\"Z9\"/></sheetData></worksheet>";
     MemoryStream stream(part);
     EXPECT_EQ(Text(ReadSheetView(stream)), Text(c.view)) << c.views;
   }
+}
+
+TEST(SheetViewTest, TheCellsAreNotRead) {
+  const S part = "<worksheet><sheetData><row";
+  MemoryStream stream(part);
+  EXPECT_EQ(Text(ReadSheetView(stream)), Text({}));
 }
 
 class LookedAtTest : public test::HostTest {};
