@@ -118,8 +118,9 @@ std::vector<pugi::xml_node> FilteredSeriesOf(ChartPart& part) {
 /// a line chart, which may have the same lines, bars and labels.
 void KeepStockWhole(pugi::xml_node group) {
   constexpr std::size_t kFewest = 3, kMost = 4;  // high, low and close; open before them
+  if (!xml::Is(group, "stockChart")) return;
   const std::size_t count = xml::Children(group, "ser").size();
-  if (!xml::Is(group, "stockChart") || (count >= kFewest && count <= kMost)) return;
+  if (count >= kFewest && count <= kMost) return;
   group.set_name((std::string(xml::Prefix(group.name())) + "lineChart").c_str());
   FitGroup(group, *FindChartType(excel::xlLine), false);
 }
