@@ -150,8 +150,9 @@ SeriesRef AddSeries(ChartPart& part) {
   auto& all = part.Series();
   std::set<long long> indices, orders;
   const auto take = [&](pugi::xml_node taken) {
-    indices.insert(schema::IntegerVal(taken, "idx", 0));
-    orders.insert(schema::IntegerVal(taken, "order", 0));
+    // The numbers usually ascend.
+    indices.insert(indices.end(), schema::IntegerVal(taken, "idx", 0));
+    orders.insert(orders.end(), schema::IntegerVal(taken, "order", 0));
   };
   for (const SeriesRef& entry : all) take(entry->node);
   for (const pugi::xml_node& filtered : FilteredSeriesOf(part)) take(filtered);
