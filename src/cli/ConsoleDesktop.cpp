@@ -1,6 +1,5 @@
 #include "cli/ConsoleDesktop.h"
 
-#include <chrono>
 #include <ctime>
 
 #include "cli/Platform.h"
@@ -32,11 +31,8 @@ std::int32_t ConsoleDesktop::MsgBox(std::string_view text, desktop::Buttons, des
 
 double ConsoleDesktop::Timer() {
   static const std::int64_t offset = LocalOffset();
-  using Microseconds = std::chrono::microseconds;
   constexpr std::int64_t kSecond = 1'000'000;
-  const auto now =
-      std::chrono::duration_cast<Microseconds>(std::chrono::system_clock::now().time_since_epoch());
-  return static_cast<double>((now.count() + offset * kSecond) % (kDaySeconds * kSecond)) / kSecond;
+  return static_cast<double>((CoarseTime() + offset * kSecond) % (kDaySeconds * kSecond)) / kSecond;
 }
 
 std::int32_t ConsoleDesktop::UserDefaultLCID() { return UserLCID(); }

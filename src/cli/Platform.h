@@ -24,6 +24,10 @@ class StandardStreams {
       0;  ///< The previous code page of the console; 0 without a console.
 };
 
+/// Returns the time since 1970 in UTC, in microseconds. It advances in steps of some milliseconds, because
+/// the system asks for the time in its innermost loops.
+std::int64_t CoarseTime();
+
 bool IsTerminal(std::FILE* stream);
 
 /// Returns the Windows locale identifier (MS-LCID) of the user's locale.

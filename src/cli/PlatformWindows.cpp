@@ -41,6 +41,14 @@ StandardStreams::~StandardStreams() {
   if (oldCodePage_ != 0) SetConsoleOutputCP(oldCodePage_);
 }
 
+std::int64_t CoarseTime() {
+  FILETIME now;
+  GetSystemTimeAsFileTime(&now);
+  constexpr std::int64_t kFrom1601To1970 = 11'644'473'600'000'000;
+  const auto ticks = (std::uint64_t{now.dwHighDateTime} << 32) | now.dwLowDateTime;  // Of 100 nanoseconds.
+  return static_cast<std::int64_t>(ticks / 10) - kFrom1601To1970;
+}
+
 // The C run-time library treats the null device as a terminal.
 bool IsTerminal(std::FILE* stream) {
   DWORD mode = 0;

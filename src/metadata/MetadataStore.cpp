@@ -42,6 +42,10 @@ struct ReadRow {
 /// beside their texts from the load or the save, so a row is parsed again only if its text has changed.
 std::vector<ReadRow> aReadRows;
 
+/// The rows above this one have the texts in the cache as long as the sheet has this version.
+std::int32_t lFirstUncomparedRow = kFirstDefinitionRow;
+std::uint64_t lComparedVersion = 0;
+
 ReadRow& ReadRowAt(std::int32_t lRow) {
   const auto lIndex = static_cast<std::size_t>(lRow - kFirstDefinitionRow);
   if (lIndex >= aReadRows.size()) aReadRows.resize(lIndex + 1);
@@ -59,7 +63,7 @@ std::string_view DefinitionAt(excel::Worksheet& oSheet, std::int32_t lRow, std::
 
 bool RowHoldsChart(std::int32_t lRow, std::string_view sText, const std::string& sID) {
   ReadRow& oRow = ReadRowAt(lRow);
-  if (oRow.sText != sText) {
+  if (lRow >= lFirstUncomparedRow && oRow.sText != sText) {
     ReadRow oRead{std::string(sText)};
     auto oDoc = NewXMLDocument();
     oRead.bParses = oDoc.loadXML(sText);
@@ -67,6 +71,17 @@ bool RowHoldsChart(std::int32_t lRow, std::string_view sText, const std::string&
     oRow = std::move(oRead);
   }
   return oRow.bParses && oRow.sID == sID;
+}
+
+/// Returns the row with the definition of the chart, or the first blank row.
+std::int32_t FindDefinitionRow(excel::Worksheet& oSheet, const std::string& sID) {
+  const std::uint64_t lVersion = oSheet.ContentsVersion();
+  if (lVersion == 0 || lVersion != lComparedVersion) lFirstUncomparedRow = kFirstDefinitionRow;
+  std::string sScratch;
+  for (std::int32_t lRow = kFirstDefinitionRow;; ++lRow) {
+    const std::string_view sText = DefinitionAt(oSheet, lRow, sScratch);
+    if (sText.empty() || RowHoldsChart(lRow, sText, sID)) return lRow;
+  }
 }
 
 /// Returns true if a program has dropped the box of a chart with a comment, so that no person has deleted the
@@ -127,6 +142,7 @@ constexpr std::int32_t Rgb(std::int32_t lRed, std::int32_t lGreen, std::int32_t 
 void RetrieveChartDefinitions() {
   ReportErrors("PSFunctions.RetrieveChartDefinitions", [] {
     aReadRows.clear();
+    lFirstUncomparedRow = kFirstDefinitionRow;
     // A run loads the definitions again only after a deletion. A deleted chart must not be found again in its
     // copy.
     const bool bReload = static_cast<bool>(colChartObjects);
@@ -175,16 +191,12 @@ void SaveChartDefinition(const IXMLDOMDocument2& oDoc) {
       oChart.setAttribute("ps-chart-schema-version", kSchemaVersion);
     }
     const auto oSheet = oWorkbook->Worksheets()->Item(kDefinitionsSheet);
-    std::int32_t lRow = kFirstDefinitionRow;
-    std::string sScratch;
-    for (;; ++lRow) {
-      const std::string_view sText = DefinitionAt(*oSheet, lRow, sScratch);
-      if (sText.empty()) break;
-      if (RowHoldsChart(lRow, sText, sID)) break;
-    }
+    const std::int32_t lRow = FindDefinitionRow(*oSheet, sID);
     const std::string sSaved = oDoc.xml();
     oSheet->SetCellValueAt(lRow, 1, sSaved);
     ReadRowAt(lRow) = {sSaved, true, sID};
+    lFirstUncomparedRow = std::max(lFirstUncomparedRow, lRow + 1);
+    lComparedVersion = oSheet->ContentsVersion();
   });
 }
 

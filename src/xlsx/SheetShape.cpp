@@ -103,7 +103,7 @@ class SheetCharts final : public excel::ChartObjects {
     const SheetDrawing* drawing = sheet_.FindDrawing();
     if (drawing != nullptr) {
       for (const auto& shape : drawing->Shapes()) {
-        if (shape->Type() == excel::msoChart && runtime::EqualsIgnoreCase(shape->Name(), name)) {
+        if (shape->Type() == excel::msoChart && runtime::EqualsIgnoreCase(shape->NameText(), name)) {
           return std::make_shared<FramedChart>(shape);
         }
       }

@@ -1,6 +1,7 @@
 #include "xlsx/Worksheet.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 #include <numeric>
 #include <vector>
@@ -70,6 +71,12 @@ bool MentionsChart(std::string_view drawing) {
   return drawing.find("graphicFrame") != std::string_view::npos;
 }
 
+/// Returns a version that no sheet of this process has had.
+std::uint64_t NewVersion() {
+  static std::atomic<std::uint64_t> last = 0;
+  return ++last;
+}
+
 /// A number with a date format is a date from the first day of the date system to the last.
 CellValue::Kind NumberKind(Workbook& book, std::uint32_t style, double number) {
   const bool date =
@@ -80,7 +87,7 @@ CellValue::Kind NumberKind(Workbook& book, std::uint32_t style, double number) {
 }  // namespace
 
 Worksheet::Worksheet(Workbook& book, std::weak_ptr<SheetEntry> entry, bool isNew)
-    : SheetMembers(book, std::move(entry)), isNew_(isNew) {}
+    : SheetMembers(book, std::move(entry)), isNew_(isNew), version_(NewVersion()) {}
 
 Worksheet::~Worksheet() = default;
 
@@ -93,6 +100,7 @@ const SheetContents& Worksheet::Read() {
 }
 
 CellGrid& Worksheet::Grid() {
+  version_ = NewVersion();
   if (grid_) {
     gridChanged_ = true;
     return *grid_;

@@ -38,6 +38,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   std::string_view CellTextAt(std::int32_t row, std::int32_t column, std::string& scratch) override;
   std::int32_t NextRowAt(std::int32_t row, std::int32_t column) override;
   std::int32_t NextRowShowing(std::int32_t row, std::int32_t column, std::string_view text) override;
+  std::uint64_t ContentsVersion() override { return version_; }
   void SetCellValueAt(std::int32_t row, std::int32_t column, const runtime::Variant& value) override;
   excel::Ref<excel::Range> Cells(std::int32_t row, std::int32_t column) override;
   excel::Ref<excel::Range> Range(std::string_view cell1, std::string_view cell2) override;
@@ -93,7 +94,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
     if (sharedTexts_ == nullptr) sharedTexts_ = &book_.SharedStrings();
     return sharedTexts_->At(index);
   }
-  /// The cells for writing. Error 1004 on a sheet that isn't ours to write.
+  /// The cells for writing, which get a new version. Error 1004 on a sheet that isn't ours to write.
   CellGrid& Grid();
   excel::CellValue Unpack(PackedValue value, std::uint32_t style);
   /// The key of a cell for a walk for a text.
@@ -111,6 +112,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   const TextPool* sharedTexts_ = nullptr;  ///< the workbook's, once a cell has asked for one
   std::optional<CellGrid> grid_;           ///< as changed; of contents_ only the geometry counts then
   bool gridChanged_ = false;
+  std::uint64_t version_;  ///< of the cells
   std::optional<SheetGeometry> geometry_;
   std::optional<CellPlace> activeCell_;  ///< since the file was read
   std::unique_ptr<SheetDrawing> drawing_;

@@ -43,6 +43,8 @@ class MetadataStoreTest : public test::HostTest {
 TEST_F(MetadataStoreTest, ADefinitionIsStoredInTheRowInWhichItIsNow) {
   Open(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}}));
   Load();
+  SaveChartDefinition(colCharts->Item("VEX_Chart1"));
+  SaveChartDefinition(colCharts->Item("VEX_Chart2"));
   const auto sheet = Book().FindWorksheet("VEX_ChartDefinitions");
   const std::string first = Cells("VEX_ChartDefinitions", 2, 1, 2, 1),
                     second = Cells("VEX_ChartDefinitions", 3, 1, 3, 1);

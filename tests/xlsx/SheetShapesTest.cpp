@@ -49,6 +49,28 @@ TEST_F(SheetShapesTest, MoveByTheirAnchors) {
   EXPECT_EQ(shapes()->Range({"Two!", "One!"})->Width(), 70);
 }
 
+TEST_F(SheetShapesTest, TheirNamesAndTextsAreThoseThatWereSetLast) {
+  test::PlainBook book;
+  book.sheets = {test::SalesSheet("Sheet1")};
+  book.sheets[0].frames = {{"a < b", ""}};
+  Open(book);
+  const auto sheet = Book().FindWorksheet("Sheet1");
+  const auto shape = sheet->Shapes()->Item("chart 1");
+  const auto texts = [&] { return shape->Name() + "|" + shape->AlternativeText(); };
+  EXPECT_EQ(texts(), "Chart 1|a < b");
+  shape->SetName("Second & last");
+  shape->SetAlternativeText("");
+  EXPECT_EQ(texts(), "Second & last|");
+  shape->SetAlternativeText("c");
+  EXPECT_EQ(texts(), "Second & last|c");
+  EXPECT_EQ(sheet->ChartObjects()->Item("SECOND & LAST")->Name(), "Second & last");
+  test::ExpectError1004([&] { sheet->ChartObjects()->Item("Chart 1"); });
+  test::ExpectError1004([&] { sheet->Shapes()->Item("Chart 1"); });
+  shape->Delete();
+  test::ExpectError1004([&] { shape->Name(); });
+  test::ExpectError1004([&] { shape->AlternativeText(); });
+}
+
 TEST_F(SheetShapesTest, ANewShapeLiesWhereAnOldOneWouldComeToLie) {
   test::PlainBook book;
   book.sheets = {test::SalesSheet("Sheet1")};

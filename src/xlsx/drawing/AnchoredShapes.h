@@ -25,7 +25,7 @@ class AnchoredShapes {
   /// The shape of a name, ignoring case; null if there is none.
   std::shared_ptr<Shape> FindShape(std::string_view name) const {
     for (const auto& shape : shapes_) {
-      if (runtime::EqualsIgnoreCase(shape->Name(), name)) return shape;
+      if (runtime::EqualsIgnoreCase(shape->NameText(), name)) return shape;
     }
     return nullptr;
   }
@@ -49,7 +49,7 @@ class AnchoredShapes {
   /// A name that no shape has yet: the stem and the first free number from `number` on.
   std::string FreeName(std::string_view stem, std::size_t number) const {
     std::set<std::string> taken;
-    for (const auto& shape : shapes_) taken.insert(runtime::UCase(shape->Name()));
+    for (const auto& shape : shapes_) taken.insert(runtime::UCase(shape->NameText()));
     for (;; ++number) {
       std::string name = std::string(stem) + " " + std::to_string(number);
       if (!taken.contains(runtime::UCase(name))) return name;

@@ -174,16 +174,20 @@ std::size_t Rank(const Type* type, std::string_view name) {
   return std::string_view::npos;
 }
 
-/// The child before which a child of the name must be inserted; null for the end.
+/// The child before which a child of the name must be inserted; null for the end. The search begins at the end
+/// and ends at a child of the same name, so that it doesn't pass all series or points of a chart.
 pugi::xml_node Follower(pugi::xml_node parent, std::string_view local) {
   const Type* type = TypeOf(parent);
   const std::size_t rank = Rank(type, local);
   if (rank == std::string_view::npos) return {};
-  for (const pugi::xml_node& child : parent.children()) {
+  pugi::xml_node follower;
+  for (pugi::xml_node child = parent.last_child(); child; child = child.previous_sibling()) {
+    if (child.type() != pugi::node_element) continue;
     const std::size_t other = Rank(type, xml::LocalName(child));
-    if (child.type() == pugi::node_element && other != std::string_view::npos && other > rank) return child;
+    if (other == rank) break;
+    if (other != std::string_view::npos && other > rank) follower = child;
   }
-  return {};
+  return follower;
 }
 
 std::string QualifiedName(pugi::xml_node parent, std::string_view local) {

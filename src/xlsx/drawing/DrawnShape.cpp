@@ -71,20 +71,24 @@ std::int32_t DrawnShape::Type() {
   return type_;
 }
 
-std::string DrawnShape::Name() { return xml::Attribute(IdentityOf(Object()), "name"); }
+const std::string& DrawnShape::Remembered(std::optional<std::string>& text, const char* attribute) const {
+  const pugi::xml_node object = Object();
+  if (!text) text = xml::Attribute(IdentityOf(object), attribute);
+  return *text;
+}
 
 void DrawnShape::SetName(std::string_view name) {
   Log().Put([this] { return JournalPath(); }, "Name", name);
   if (name.empty()) throw OutOfRange();
   xml::SetAttribute(IdentityOf(Object()), "name", name);
+  name_.reset();
   MarkChanged();
 }
-
-std::string DrawnShape::AlternativeText() { return xml::Attribute(IdentityOf(Object()), "descr"); }
 
 void DrawnShape::SetAlternativeText(std::string_view text) {
   Log().Put([this] { return JournalPath(); }, "AlternativeText", text);
   xml::SetAttribute(IdentityOf(Object()), "descr", text);
+  alternativeText_.reset();
   MarkChanged();
 }
 

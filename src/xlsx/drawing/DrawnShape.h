@@ -22,9 +22,9 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   DrawnShape(pugi::xml_node anchor, pugi::xml_node object);
 
   std::int32_t Type() override;
-  std::string Name() override;
+  std::string Name() override { return NameText(); }
   void SetName(std::string_view name) override;
-  std::string AlternativeText() override;
+  std::string AlternativeText() override { return Remembered(alternativeText_, "descr"); }
   void SetAlternativeText(std::string_view text) override;
   double Left() override { return PlacedFrame().left; }
   double Top() override { return PlacedFrame().top; }
@@ -51,6 +51,9 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   virtual const Journal& Log() const = 0;
   /// The theme that the colours and fonts of the shape refer to.
   virtual const xlsx::Theme& Theme() const = 0;
+  /// The name without a copy; error 1004 once the shape was deleted. The text is valid until the name
+  /// changes.
+  const std::string& NameText() { return Remembered(name_, "name"); }
   /// The object's element; error 1004 once the shape was deleted.
   pugi::xml_node Object() const;
   /// The shape properties (spPr, or grpSpPr of a group); error 1004 for an object that has neither.
@@ -76,6 +79,8 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   std::string JournalPathUnder(const std::string& drawing) const;
 
  private:
+  /// Returns an attribute of the object's identity, which is read from the XML at its first use.
+  const std::string& Remembered(std::optional<std::string>& text, const char* attribute) const;
   bool KeepsItsProportions() const;
   /// Turns TextFrame2.AutoSize off, because the shape gets a fixed size. The left and right margins of a text
   /// that doesn't wrap become narrow, unless they were set.
@@ -83,7 +88,9 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
 
   pugi::xml_node anchor_, object_;
   std::optional<std::u16string> text_;  ///< kept until it changes
-  std::int32_t type_;                   ///< read once, because a search for a chart asks all shapes
+  // A search for a chart asks all shapes for these three.
+  std::int32_t type_;
+  std::optional<std::string> name_, alternativeText_;  ///< Kept until they change.
 };
 
 /// Raises error 1004 unless all coordinates fit into Excel's type for them, Single.

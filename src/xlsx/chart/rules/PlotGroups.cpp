@@ -118,8 +118,9 @@ std::vector<pugi::xml_node> FilteredSeriesOf(ChartPart& part) {
 /// a line chart, which may have the same lines, bars and labels.
 void KeepStockWhole(pugi::xml_node group) {
   constexpr std::size_t kFewest = 3, kMost = 4;  // high, low and close; open before them
+  if (!xml::Is(group, "stockChart")) return;
   const std::size_t count = xml::Children(group, "ser").size();
-  if (!xml::Is(group, "stockChart") || (count >= kFewest && count <= kMost)) return;
+  if (count >= kFewest && count <= kMost) return;
   group.set_name((std::string(xml::Prefix(group.name())) + "lineChart").c_str());
   FitGroup(group, *FindChartType(excel::xlLine), false);
 }
@@ -149,8 +150,9 @@ SeriesRef AddSeries(ChartPart& part) {
   auto& all = part.Series();
   std::set<long long> indices, orders;
   const auto take = [&](pugi::xml_node taken) {
-    indices.insert(schema::IntegerVal(taken, "idx", 0));
-    orders.insert(schema::IntegerVal(taken, "order", 0));
+    // The numbers usually ascend.
+    indices.insert(indices.end(), schema::IntegerVal(taken, "idx", 0));
+    orders.insert(orders.end(), schema::IntegerVal(taken, "order", 0));
   };
   for (const SeriesRef& entry : all) take(entry->node);
   for (const pugi::xml_node& filtered : FilteredSeriesOf(part)) take(filtered);

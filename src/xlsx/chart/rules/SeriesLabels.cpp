@@ -34,16 +34,26 @@ constexpr std::array<const char*, 6> kShown = {"showLegendKey", "showVal",     "
 /// The elements of a series' labels that the file repeats in the label of a point.
 constexpr std::array<const char*, 5> kRepeated = {"numFmt", "spPr", "txPr", "dLblPos", "separator"};
 
+/// The labels that the series of a group have in common, or a null node. They follow the series, so the
+/// search begins at the end: from the front it would pass all series for each of them.
+pugi::xml_node CommonLabels(pugi::xml_node group) {
+  for (pugi::xml_node child = group.last_child(); child; child = child.previous_sibling()) {
+    if (xml::Is(child, "dLbls")) return child;
+    if (xml::Is(child, "ser")) break;
+  }
+  return {};
+}
+
 }  // namespace
 
 pugi::xml_node FindLabels(pugi::xml_node series) {
   const auto own = xml::Child(series, "dLbls");
-  return own ? own : xml::Child(series.parent(), "dLbls");
+  return own ? own : CommonLabels(series.parent());
 }
 
 pugi::xml_node EnsureLabels(pugi::xml_node series) {
   if (const auto own = xml::Child(series, "dLbls")) return own;
-  const auto common = xml::Child(series.parent(), "dLbls");
+  const auto common = CommonLabels(series.parent());
   return common ? schema::InsertCopy(series, common) : schema::Ensure(series, "dLbls");
 }
 
