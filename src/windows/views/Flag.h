@@ -4,7 +4,7 @@
 
 namespace plotsmith::windows {
 
-/// Makes a variable true for as long as this lives.
+/// Sets a variable to true as long as this object lives.
 class Flag {
  public:
   explicit Flag(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}

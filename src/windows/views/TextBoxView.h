@@ -6,7 +6,7 @@
 
 namespace plotsmith::windows {
 
-/// A box for one line, or for several ones.
+/// A text box of one line or of several lines.
 class TextBoxView final : public ControlView {
  public:
   TextBoxView(forms::TextBox& model, const Stage& stage);
