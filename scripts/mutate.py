@@ -307,7 +307,7 @@ def tests_by_fault(program, filter_):
     (OUT / "log").write_text(output)
     failing = set(re.findall(r"^\[  FAILED  \] ([^\s,]+)(?:, .*)? \(\d+ ms\)$", output, re.M))
     if code != 0 and not failing:
-        sys.exit("mutate: the tests fail without a fault.")
+        sys.exit("mutate: the tests crash without a fault.")
     if failing:
         print("left out, because they fail without a fault:", *sorted(failing))
     times = {m.group(1): int(m.group(2)) for m in re.finditer(r"^\[       OK \] (\S+?)(?:, .*)? \((\d+) ms\)", output, re.M)}

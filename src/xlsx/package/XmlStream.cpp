@@ -12,9 +12,9 @@ namespace plotsmith::xlsx {
 namespace {
 
 constexpr std::size_t kWindow = 256 * 1024;
-/// An XML declaration is shorter, in any encoding.
+/// The maximum size of an XML declaration in any encoding.
 constexpr std::ptrdiff_t kDeclaration = 512;
-/// Behind the zero byte: whoever compares a few bytes at once may look so far.
+/// Size of the buffer after the terminating zero. Code that compares several bytes at once may read so far.
 constexpr std::size_t kSlack = 15;
 
 using ascii::IsSpace;
@@ -67,11 +67,11 @@ bool XmlStream::Fill() {
 
 XmlStream::Tag XmlStream::Next(std::string* text) {
   for (;;) {
-    // a text may be taken piece by piece, a tag only whole
+    // text may be processed in pieces, but a tag only as a whole
     const auto* open =
         static_cast<const char*>(std::memchr(position_, '<', static_cast<std::size_t>(end_ - position_)));
     if (text != nullptr) {
-      // an entity must not be cut by the window's end
+      // the window must not end inside an entity
       while (open == nullptr) {
         if (!Fill()) break;
         open =
