@@ -22,7 +22,7 @@ namespace {
 
 constexpr const char* kHowToCalculate = "have a spreadsheet program calculate and save the workbook.";
 
-/// Returns the finding that explains why a defined name marks no table.
+/// Returns the finding that explains why a defined name refers to no table.
 Finding NoTable(const std::string& name) {
   const std::string start = "The name " + Quoted(name) + " marks no table, ";
   const auto defined = oWorkbook->Names()->Item(name);

@@ -14,8 +14,8 @@ namespace plotsmith::cli {
 namespace {
 
 constexpr const char* kStandardInput = "-";
-/// The program with the windows of the pages. It is a separate program because linking a toolkit would make
-/// the command start more slowly.
+/// The program with the windows of the pages. It is a separate program because linking a toolkit would slow
+/// down the start of the command.
 constexpr const char* kWindowProgram = "plotsmith-wizard";
 
 }  // namespace

@@ -11,13 +11,13 @@ std::future<void> LoadPainterAhead() {
     try {
       LoadPainter().HasFonts();  // reads the list of fonts
     } catch (const CommandError&) {
-      // LoadPainter will say it again
+      // LoadPainter will report the error again
     }
   };
   try {
     return std::async(std::launch::async, load);
   } catch (const std::system_error&) {
-    return {};  // no thread can be made
+    return {};  // no thread could be created
   }
 }
 

@@ -23,7 +23,7 @@ namespace fs = std::filesystem;
 
 constexpr double kPointsPerInch = 72;
 
-/// The pages of one PDF are painted in turn, by one thread.
+/// The pages of one PDF are painted one after the other, by one thread.
 TaskQueue::Order OrderFor(const PicturePlan& plan) {
   const bool oneFile = plan.target != PicturePlan::Target::kFolder;
   return oneFile ? TaskQueue::Order::kInTurn : TaskQueue::Order::kAny;
@@ -78,7 +78,7 @@ void PictureWriter::Add(const std::string& name, render::Drawing drawing) {
 
 void PictureWriter::AddDocument(const std::string& name, std::vector<render::Drawing> pages) {
   if (tasks_.HasFailed()) Await();
-  // a task is copied when it is taken, but not what it holds
+  // tasks are copied, so they share the drawings
   const auto held = std::make_shared<const std::vector<render::Drawing>>(std::move(pages));
   if (plan_.target != PicturePlan::Target::kFolder) {
     tasks_.Add([this, held] {
