@@ -24,6 +24,7 @@ class StandardStreams {
       0;  ///< The previous code page of the console; 0 without a console.
 };
 
+/// Returns true if the stream is connected to a terminal.
 bool IsTerminal(std::FILE* stream);
 
 /// Returns the Windows locale identifier (MS-LCID) of the user's locale.

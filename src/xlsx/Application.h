@@ -32,6 +32,7 @@ class Application : public excel::Application, public std::enable_shared_from_th
 
   /// Defines a macro for Run, as an add-in does in Excel.
   void DefineMacro(const std::string& name, Macro macro) { macros_[name] = std::move(macro); }
+  /// The journal of the host's calls.
   xlsx::Journal& Journal() { return journal_; }
 
   excel::Ref<excel::Workbook> ActiveWorkbook() override;

@@ -26,6 +26,7 @@ struct SheetEntry {
 template <class Base>
 class SheetMembers : public Base {
  public:
+  /// Makes the port's object for an entry of the sheet list.
   SheetMembers(Workbook& book, std::weak_ptr<SheetEntry> entry) : book_(book), entry_(std::move(entry)) {}
 
   std::string Name() override { return Entry().name; }
@@ -52,11 +53,13 @@ class SheetMembers : public Base {
   }
 
  protected:
+  /// The entry; error 1004 if the sheet was deleted.
   SheetEntry& Entry() const {
     const auto entry = entry_.lock();
     if (!entry) throw runtime::RuntimeError(runtime::error::kApplication);  // the sheet was deleted
     return *entry;
   }
+  /// Returns a function that gives the sheet's path in the journal.
   auto Path() const {
     return [this] { return "Sheets(" + xlsx::Journal::Literal(Entry().name) + ")"; };
   }

@@ -18,7 +18,9 @@ class SheetDrawing : public AnchoredShapes<SheetShape> {
   SheetDrawing(Worksheet& sheet, std::string part);
   ~SheetDrawing() override;
 
+  /// The sheet of the drawing.
   Worksheet& Sheet() const { return sheet_; }
+  /// The name of the drawing part.
   const std::string& Part() const { return part_; }
 
   /// Frames are in points from the upper left corner of the sheet.

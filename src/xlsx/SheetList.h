@@ -21,12 +21,14 @@ struct SheetEntry;
 /// The sheets of a workbook in the order of their tabs, and which of them is active. Tabs count from 0.
 class SheetList {
  public:
+  /// Makes an empty list. Load fills it.
   SheetList(Workbook& book, BookPart& part, NameList& names) : book_(book), part_(part), names_(names) {}
 
   /// Reads the list of the workbook part. Throws a PackageError if the part of a sheet is missing, or belongs
   /// to another sheet as well.
   void Load();
 
+  /// All sheets in the order of their tabs.
   const std::vector<std::shared_ptr<SheetEntry>>& All() const { return sheets_; }
   /// The sheets that have cells.
   const std::vector<std::shared_ptr<Worksheet>>& Worksheets() const { return worksheets_; }
@@ -50,6 +52,7 @@ class SheetList {
   /// The number of times that a sheet or a cell was made the active one. A window in which the user has
   /// turned to another sheet returns to the active one when this number has grown.
   std::uint64_t Activations() const { return activations_; }
+  /// Counts the activation of a cell.
   void CountActivation() { ++activations_; }
 
   /// Whether a sheet has changes that Write would put into the package.

@@ -46,6 +46,7 @@ class Workbook final : public excel::Workbook,
   /// Saves the workbook as the kind that the extension names. Throws PackageError; the file is then as it was
   /// before.
   void Save(const std::string& path);
+  /// Saves to a stream. The workbook is complete before the stream gets its first byte.
   void Save(std::ostream& out);
   /// Throws a PackageError if the workbook can't be saved as the kind that the extension names.
   void CheckName(const std::string& path) const { format_.Check(Package(), path); }
@@ -63,6 +64,7 @@ class Workbook final : public excel::Workbook,
   std::shared_ptr<CellSource> FindCells(std::string_view sheet) const override;
   /// Adds an empty worksheet at a tab, from 0, and makes it the active one.
   std::shared_ptr<Worksheet> AddWorksheet(std::size_t position) { return sheets_.Add(position); }
+  /// Number of activations of sheets and cells so far.
   std::uint64_t Activations() const { return sheets_.Activations(); }
 
   /// The defined names.
@@ -79,6 +81,7 @@ class Workbook final : public excel::Workbook,
   /// The chart of a chart sheet; Nothing for another sheet and for one that can't be read.
   excel::Ref<excel::Chart> ChartOf(const SheetEntry& sheet);
 
+  /// Returns true if the workbook is set to manual calculation.
   bool CalculatesManually() const;
   /// The font of the Normal style, by its name; the theme's font where the style refers to it.
   std::string NormalFontName();

@@ -31,6 +31,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
                         public CellSource,
                         public std::enable_shared_from_this<Worksheet> {
  public:
+  /// Makes the sheet of an entry. `isNew` is true for a sheet that this program has added.
   Worksheet(Workbook& book, std::weak_ptr<SheetEntry> entry, bool isNew);
   ~Worksheet() override;
 
@@ -46,23 +47,32 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   excel::Ref<excel::Shapes> Shapes() override;
   excel::Ref<excel::ChartObjects> ChartObjects() override;
 
+  /// The workbook of the sheet.
   Workbook& Book() const { return book_; }
   const std::string& SheetName() const override { return Entry().name; }
+  /// The name of the sheet's part.
   const std::string& Part() const { return Entry().part; }
+  /// Returns a function that gives the sheet's path in the journal.
   auto JournalPath() const { return Path(); }
   excel::CellValue Stored(std::int32_t row, std::int32_t column) override;
+  /// The style of a cell, an index into cellXfs.
   std::uint32_t StyleAt(std::int32_t row, std::int32_t column);
   /// The rectangle around all cells that have a value or a style; A1 in an empty sheet.
   CellRange UsedCells();
   /// The cells that have a formula without a result in the file, in its order. They read as empty.
   const std::vector<CellPlace>& FormulasWithoutResult() { return Contents().formulasWithoutResult; }
+  /// Clears cells, including their styles.
   void ClearCells(const CellRange& range);
+  /// Sets the number format of cells. Error 1004 for an invalid code.
   void SetNumberFormat(const CellRange& range, std::string_view code);
   std::string NumberFormatAt(std::int32_t row, std::int32_t column) override;
+  /// Inserts a row. Row counts from 1; rows from there on move down.
   void InsertRow(std::int32_t row);
+  /// Deletes a row. Row counts from 1; the rows below it move up.
   void DeleteRow(std::int32_t row);
   /// Sorts the rows of a range. Error 1004 on a sheet with merged cells.
   void SortCells(const CellRange& range, const SortOptions& options);
+  /// Row heights and column widths.
   const SheetGeometry& Geometry();
   /// The merged cells, as the file has them.
   const std::vector<CellRange>& MergedCells() { return Contents().mergedCells; }
@@ -82,6 +92,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   void FollowShifts(std::size_t followed);
   /// Whether this program made the sheet and may change all of it.
   bool IsNew() const { return isNew_; }
+  /// Returns true if the sheet's part must be written.
   bool NeedsWriting() const;
   /// Puts the changes into the package.
   void Write();

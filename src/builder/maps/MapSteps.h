@@ -28,7 +28,9 @@ struct DataRows {
   std::int32_t lFirst;
   std::int32_t lCount;
 
+  /// Reads the rows from `table-top-row`, `table-height` and `header-row-count` of the definition.
   explicit DataRows(const dom::IXMLDOMElement& oChartElement);
+  /// The last data row, by sheet rows from 1.
   std::int32_t Last() const { return lFirst + lCount - 1; }
 };
 
@@ -60,6 +62,7 @@ class PositionCache {
     const Entry& oEntry = aEntries_[Slot(sText)];
     return oEntry.pText == sText.data() && oEntry.lLength == sText.size() ? oEntry.lPosition : 0;
   }
+  /// Remembers the position of a text, unless the text is in the scratch buffer.
   void Remember(std::string_view sText, const std::string& sScratch, std::int32_t lPosition) {
     if (sText.data() != sScratch.data()) aEntries_[Slot(sText)] = {sText.data(), sText.size(), lPosition};
   }
@@ -82,9 +85,11 @@ class PositionCache {
 /// Numbers the headings of one dimension of the rectangle, in the order of their first appearance.
 class Numbering {
  public:
+  /// Numbers headings into these dictionaries, which must outlive the object. Both are by upper-cased text.
   Numbering(runtime::Dictionary& oPositions, runtime::Dictionary& oNames)
       : oPositions_(oPositions), oNames_(oNames) {}
 
+  /// The number of headings so far.
   std::int32_t Count() const { return lCount_; }
 
   /// Numbers a listed heading. A heading that already has a number, ignoring case, is an error.

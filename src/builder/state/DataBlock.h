@@ -13,6 +13,7 @@ namespace plotsmith {
 constexpr std::int32_t ColumnOfSeries(std::int32_t lSeries) {
   return data_column::kFirstSeries + lSeries - 1;
 }
+/// The series of the map in a sheet column; both count from 1.
 constexpr std::int32_t SeriesOfColumn(std::int32_t lColumn) {
   return lColumn - data_column::kFirstSeries + 1;
 }

@@ -20,6 +20,7 @@ class TaskQueue {
   /// wait for each other are all done by one thread.
   enum class Order { kAny, kInTurn };
 
+  /// Makes an empty queue. Threads are started with the second task.
   explicit TaskQueue(Order order);
   /// Waits for the tasks that are being worked on. Those that wait are dropped.
   ~TaskQueue();

@@ -8,7 +8,8 @@
 #include "windows/com/OwnedVariant.h"
 #include "windows/com/Windows.h"
 
-/// @file Calls to members of Automation objects, which are bound by name at their first call.
+/// @file
+/// Calls to members of Automation objects, which are bound by name at their first call.
 namespace plotsmith::com {
 
 /// A member of a class, by name. It keeps the number (DISPID) that the class gives to the member, for all

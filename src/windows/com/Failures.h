@@ -3,7 +3,8 @@
 #include "runtime/RuntimeError.h"
 #include "windows/com/Windows.h"
 
-/// @file Conversions between run-time errors and Automation's results.
+/// @file
+/// Conversions between run-time errors and Automation's results.
 namespace plotsmith::com {
 
 /// Returns the run-time error for a result. Results of Visual Basic's facility (0x800Annnn) give the error

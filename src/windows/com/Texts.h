@@ -8,8 +8,9 @@
 #include "windows/com/Abandon.h"
 #include "windows/com/Windows.h"
 
-/// @file Conversions of texts between UTF-8, which the system uses, and UTF-16 of Windows. Unpaired
-/// surrogates survive both ways.
+/// @file
+/// Conversions of texts between UTF-8, which the system uses, and UTF-16 of Windows. Unpaired surrogates
+/// survive both ways.
 namespace plotsmith::com {
 
 /// Owns a BSTR, or none. No function here takes a bare BSTR: that type is a pointer to UTF-16 units, and any

@@ -9,7 +9,8 @@
 #include "windows/com/ComPtr.h"
 #include "windows/com/OwnedVariant.h"
 
-/// @file Conversions of values between the language run-time and Automation. A VARIANT that is a reference
+/// @file
+/// Conversions of values between the language run-time and Automation. A VARIANT that is a reference
 /// (VT_BYREF, of any depth) counts as the value that it refers to.
 namespace plotsmith::com {
 
@@ -54,7 +55,9 @@ class CellArray {
   CellArray(const CellArray&) = delete;
   CellArray& operator=(const CellArray&) = delete;
 
+  /// Number of rows.
   std::int32_t Rows() const { return rows_; }
+  /// Number of columns.
   std::int32_t Columns() const { return columns_; }
   /// Returns a cell; row and column count from 0. Raises error 9 outside of the array.
   const VARIANT& At(std::int32_t row, std::int32_t column) const;
@@ -70,7 +73,9 @@ class CellArray {
 /// count from 1 in the array, and from 0 here.
 class CellArrayWriter {
  public:
+  /// Allocates the array. Raises error 7 if memory is short.
   CellArrayWriter(std::int32_t rows, std::int32_t columns);
+  /// Stores a value. Row and column count from 0. Raises error 9 outside of the array.
   void Set(std::int32_t row, std::int32_t column, const runtime::Variant& value);
   /// The finished array.
   OwnedVariant Take() { return std::move(array_); }

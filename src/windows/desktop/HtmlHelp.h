@@ -5,8 +5,9 @@
 
 #include "windows/com/Windows.h"
 
-/// @file HTML Help. Its library is loaded at the first call and stays loaded, because help windows can
-/// outlive a run.
+/// @file
+/// HTML Help. Its library is loaded at the first call and stays loaded, because help windows can outlive a
+/// run.
 namespace plotsmith::windows {
 
 /// Returns true if HTML Help is installed.

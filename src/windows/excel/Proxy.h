@@ -33,9 +33,11 @@ Ref<T> Wrap(com::ComPtr<IDispatch> object);
 /// The base of every proxy: one reference to an Excel object.
 class ProxyObject {
  public:
+  /// Takes over a reference to an Excel object.
   explicit ProxyObject(com::ComPtr<IDispatch> object) : object_(std::move(object)) {}
   virtual ~ProxyObject() = default;
 
+  /// The object. The reference stays here.
   IDispatch* Object() const { return object_.Get(); }
 
  private:
@@ -59,6 +61,7 @@ com::OwnedVariant Passed(const Ref<T>& object) {
 
 template <class T>
 struct IsRef : std::false_type {};
+/// True for a Ref.
 template <class T>
 struct IsRef<Ref<T>> : std::true_type {
   using Class = T;
@@ -102,18 +105,22 @@ class Proxy : public Base, public ProxyObject {
   using ProxyObject::ProxyObject;
 
  protected:
+  /// Reads a property and returns it as a T.
   template <class T, class... Arguments>
   T Get(com::Member& member, Arguments&&... arguments) const {
     return Ask<T>(Object(), member, com::Kind::kGet, std::forward<Arguments>(arguments)...);
   }
+  /// Sets a property. The new value is the last argument.
   template <class... Arguments>
   void Put(com::Member& member, Arguments&&... arguments) const {
     Ask<void>(Object(), member, com::Kind::kPut, std::forward<Arguments>(arguments)...);
   }
+  /// Calls a method without side effects and returns its result as a T.
   template <class T, class... Arguments>
   T Find(com::Member& member, Arguments&&... arguments) const {
     return Ask<T>(Object(), member, com::Kind::kFind, std::forward<Arguments>(arguments)...);
   }
+  /// Calls a method and returns its result as a T.
   template <class T, class... Arguments>
   T Method(com::Member& member, Arguments&&... arguments) const {
     return Ask<T>(Object(), member, com::Kind::kMethod, std::forward<Arguments>(arguments)...);
@@ -125,10 +132,12 @@ template <class T>
 struct TakenAs {
   using Type = T;
 };
+/// A text is passed as a view.
 template <>
 struct TakenAs<std::string> {
   using Type = std::string_view;
 };
+/// A Variant is passed by reference.
 template <>
 struct TakenAs<excel::Variant> {
   using Type = const excel::Variant&;

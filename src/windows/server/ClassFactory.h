@@ -8,6 +8,7 @@ namespace plotsmith::windows {
 /// keep the DLL loaded.
 class ClassFactory final : public IClassFactory {
  public:
+  /// Returns the only instance.
   static ClassFactory& Instance();
 
   STDMETHODIMP QueryInterface(REFIID interfaceId, void** object) noexcept override;

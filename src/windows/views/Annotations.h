@@ -28,6 +28,7 @@ class Annotations {
   Annotations(const Annotations&) = delete;
   Annotations& operator=(const Annotations&) = delete;
 
+  /// Sets what screen readers say about a window.
   void Set(HWND window, const Spoken& spoken);
   /// Removes the annotations of a window, which must still exist.
   void Clear(HWND window);

@@ -33,16 +33,21 @@ class MarkView : public ControlView {
   void OnCommand(WORD code) override;
 
  protected:
+  /// Makes a window with this button style.
   MarkView(forms::CaptionControl& model, const Stage& stage, DWORD style);
+  /// Shows or removes the mark.
   void ShowMark(bool isMarked);
+  /// Reports a click to the model.
   virtual void ReportClick() = 0;
 
  private:
   forms::CaptionControl& model_;
 };
 
+/// A check box.
 class CheckBoxView final : public MarkView {
  public:
+  /// Makes the window for `model`.
   CheckBoxView(forms::CheckBox& model, const Stage& stage);
 
  protected:
@@ -56,6 +61,7 @@ class CheckBoxView final : public MarkView {
 /// An option. The arrow keys move between the options of a container.
 class OptionButtonView final : public MarkView {
  public:
+  /// Makes the window for `model`.
   OptionButtonView(forms::OptionButton& model, const Stage& stage);
 
  protected:

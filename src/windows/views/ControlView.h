@@ -40,7 +40,9 @@ class ControlView {
   ControlView(const ControlView&) = delete;
   ControlView& operator=(const ControlView&) = delete;
 
+  /// The control.
   forms::Control& Model() const { return model_; }
+  /// The handle; null once the window was destroyed.
   HWND Window() const { return window_; }
   /// Returns the view of a control's window; null for other windows.
   static ControlView* Of(HWND window);
@@ -63,6 +65,7 @@ class ControlView {
   virtual int WidthOf(int characters) const;
   virtual int HeightOf(int lines) const;
   ///@}
+  /// Moves the window to this area, in pixels of the form's client area.
   virtual void Place(const forms::Area& area);
 
   /// The window sends its form a WM_COMMAND with this notification code.
@@ -89,6 +92,7 @@ class ControlView {
   virtual bool IsInTheMiddle() const { return false; }
   /// Tells screen readers what to say about the control.
   virtual void ShowSpoken(const Spoken& spoken);
+  /// The service that gives texts to screen readers.
   Annotations& Reader() const { return stage_.annotations; }
   /// Role of the control for screen readers, one of MSAA's ROLE_SYSTEM_ constants; 0 keeps the window's own.
   virtual LONG Role() const { return 0; }
@@ -100,19 +104,24 @@ class ControlView {
   /// Lets OnNews be called once, after the messages that are waiting now. Windows reports one change with
   /// several messages.
   void AwaitNews();
+  /// Is called after AwaitNews, when the messages were handled.
   virtual void OnNews() {}
   /// Notes that user input has changed the window, which may differ from the model now.
   void Touch() { touched_ = true; }
   /// Returns true while the window is getting the focus.
   bool IsTakingFocus() const { return isTakingFocus_; }
 
+  /// Sends a message to the window and returns its result.
   LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
     return SendMessageW(window_, message, wParam, lParam);
   }
+  /// Returns the text of the window.
   std::wstring WindowText() const;
   /// Sets the window's text, unless it is the same already.
   void SetText(const std::string& text);
+  /// The font of the window's text.
   HFONT Font() const { return font_; }
+  /// Number of pixels per inch of the window's monitor.
   UINT Dpi() const { return dpi_; }
   /// Converts a length at 96 dots per inch to pixels.
   int Scaled(int length) const { return MulDiv(length, static_cast<int>(dpi_), USER_DEFAULT_SCREEN_DPI); }

@@ -21,8 +21,11 @@ class ControlViews final : public forms::Measures {
 
   /// Returns the view of a control; null if the control is of an invisible kind.
   ControlView* Find(const forms::Control& control) const;
+  /// The first view in tab order.
   auto begin() const { return views_.begin(); }
+  /// The end of the views.
   auto end() const { return views_.end(); }
+  /// Uses these fonts in all views; they must outlive this object.
   void UseFonts(Fonts& fonts);
 
   forms::Size LeastSize(const forms::Control& control) const override;

@@ -17,6 +17,7 @@ class Fonts {
   /// `dpi` is the number of pixels per inch.
   explicit Fonts(UINT dpi) : dpi_(dpi) {}
 
+  /// Number of pixels per inch.
   UINT Dpi() const { return dpi_; }
   /// Returns the font with the model's typeface, character set and size. A font without a name gets the
   /// typeface of the system's message boxes.

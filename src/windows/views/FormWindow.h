@@ -20,9 +20,11 @@ class FormWindow {
   FormWindow(const FormWindow&) = delete;
   FormWindow& operator=(const FormWindow&) = delete;
 
+  /// The form.
   forms::Form& Model() const { return form_; }
   /// Returns the handle; null if the window was destroyed from outside.
   HWND Handle() const { return window_; }
+  /// Shows the window, activates it, and disables the thread's other windows.
   void ShowOnScreen();
   /// Shows the changes of the form's state.
   void Update();

@@ -10,6 +10,7 @@ namespace plotsmith::windows {
 /// A grid in which whole rows are selected. Fixed rows are its header.
 class GridView final : public ControlView {
  public:
+  /// Makes the window for `model`.
   GridView(forms::VSFlexGrid& model, const Stage& stage);
 
   forms::Size LeastSize() const override;

@@ -11,6 +11,7 @@ namespace plotsmith::windows {
 /// list.
 class ComboBoxView final : public ControlView {
  public:
+  /// Makes the window for `model`.
   ComboBoxView(forms::ComboBox& model, const Stage& stage);
   ~ComboBoxView() override;
 
@@ -37,8 +38,10 @@ class ComboBoxView final : public ControlView {
   bool isDecided_ = false;
 };
 
+/// A list box with single or multiple selection.
 class ListBoxView final : public ControlView {
  public:
+  /// Makes the window for `model`.
   ListBoxView(forms::ListBox& model, const Stage& stage);
 
   forms::Size LeastSize() const override;

@@ -6,8 +6,10 @@
 
 namespace plotsmith::windows {
 
+/// A text without input.
 class LabelView final : public ControlView {
  public:
+  /// Makes the window for `model`.
   LabelView(forms::Label& model, const Stage& stage);
   forms::Size LeastSize() const override;
 
@@ -22,6 +24,7 @@ class LabelView final : public ControlView {
 /// the colour that they share.
 class FrameView final : public ControlView {
  public:
+  /// Makes the window for `model`.
   FrameView(forms::Frame& model, const Stage& stage);
   forms::Size LeastSize() const override;
   /// Distance between the edges and the content.
@@ -42,6 +45,7 @@ class FrameView final : public ControlView {
 /// A sample picture, selected by the control's name.
 class ImageView final : public ControlView {
  public:
+  /// Makes the window for `model`.
   ImageView(forms::Image& model, const Stage& stage);
   forms::Size LeastSize() const override;
   void OnDraw(const DRAWITEMSTRUCT& item) override;
@@ -55,8 +59,10 @@ class ImageView final : public ControlView {
   pictures::Picture picture_;
 };
 
+/// A progress bar.
 class ProgressBarView final : public ControlView {
  public:
+  /// Makes the window for `model`.
   ProgressBarView(forms::ProgressBar& model, const Stage& stage);
   forms::Size LeastSize() const override;
 

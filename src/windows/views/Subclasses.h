@@ -2,8 +2,9 @@
 
 #include "windows/com/Windows.h"
 
-/// @file Window subclassing with the functions of the common controls. A program that later puts its own
-/// procedure in front of ours keeps it when ours is removed.
+/// @file
+/// Window subclassing with the functions of the common controls. A program that later puts its own procedure
+/// in front of ours keeps it when ours is removed.
 namespace plotsmith::windows {
 
 /// A procedure for the messages of a window. `data` is the argument of SetSubclass.

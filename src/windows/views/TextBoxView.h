@@ -9,6 +9,7 @@ namespace plotsmith::windows {
 /// A text box of one line or of several lines.
 class TextBoxView final : public ControlView {
  public:
+  /// Makes the window for `model`.
   TextBoxView(forms::TextBox& model, const Stage& stage);
   forms::Size LeastSize() const override;
   void OnCommand(WORD code) override;

@@ -21,14 +21,19 @@ class BookPart {
   const std::string& Name() const { return name_; }
   /// The part's folder with its slash, into which new parts go.
   std::string Folder() const { return name_.substr(0, name_.rfind('/') + 1); }
+  /// The `workbook` element.
   pugi::xml_node Root() const;
 
+  /// Returns true for a Strict file, false for a Transitional one.
   bool IsStrict() const { return strict_; }
   /// The namespaces of the vocabulary that the workbook is written in.
   const Namespaces& Vocabulary() const { return strict_ ? kStrict : kTransitional; }
+  /// The date system that the part selects.
   DateSystem Dates() const;
 
+  /// Notes that the part must be written.
   void MarkChanged() { changed_ = true; }
+  /// Returns true if the part was changed.
   bool Changed() const { return changed_; }
   /// Puts the part into the package if it was changed.
   void Write(Package& package);

@@ -21,10 +21,12 @@ struct NameEntry {
 /// The defined names of a workbook, in the order of the workbook part.
 class NameList {
  public:
+  /// Makes an empty list. Load fills it.
   explicit NameList(BookPart& book) : book_(book) {}
 
   /// Reads the names of the workbook part.
   void Load();
+  /// All names in the order of the workbook part.
   const std::vector<NameEntry>& All() const { return names_; }
   /// Grows with each change of a name.
   std::uint64_t Revision() const { return revision_; }

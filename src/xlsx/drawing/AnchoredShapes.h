@@ -42,7 +42,9 @@ class AnchoredShapes {
     RemoveRelationships(ids);
   }
 
+  /// Notes that the drawing must be written.
   void MarkChanged() { changed_ = true; }
+  /// Returns true if the drawing was changed.
   bool Changed() const { return changed_; }
 
  protected:

@@ -40,8 +40,10 @@ class DrawingFont : public excel::Font {
   void SetBold(bool value) override;
 
  protected:
+  /// Makes a font. `journalPath` is its path in the journal.
   explicit DrawingFont(std::string journalPath) : path_(std::move(journalPath)) {}
 
+  /// The journal of the host's calls.
   virtual const Journal& Log() const = 0;
   /// The formats that occur in the text, at least one.
   virtual std::vector<TextLook> Looks() const = 0;

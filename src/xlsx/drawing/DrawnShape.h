@@ -19,6 +19,7 @@ class Theme;
 /// and so on). The anchor gives the object its place; sheets and charts have different kinds of anchors.
 class DrawnShape : public excel::Shape, public std::enable_shared_from_this<DrawnShape> {
  public:
+  /// Makes the shape for an anchor and the object on it.
   DrawnShape(pugi::xml_node anchor, pugi::xml_node object);
 
   std::int32_t Type() override;
@@ -48,6 +49,7 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   virtual std::string JournalPath() const = 0;
   /// Notes that the drawing must be written.
   virtual void MarkChanged() = 0;
+  /// The journal of the host's calls.
   virtual const Journal& Log() const = 0;
   /// The theme that the colours and fonts of the shape refer to.
   virtual const xlsx::Theme& Theme() const = 0;
@@ -59,6 +61,7 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   pugi::xml_node Anchor() const;
   /// The text of the shape in UTF-16. It is converted once, so that reading it in pieces is fast.
   const std::u16string& Text();
+  /// Sets the text, in UTF-16. Error 1004 for an object that can't have a text.
   void SetText(std::u16string_view text);
   /// Moves the shape, as near to the frame as its drawing allows. Error 1004 for a frame that CheckPlace
   /// refuses.
@@ -73,6 +76,7 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   virtual Frame MoveAnchor(const Frame& wanted) = 0;
   /// Removes the shape from its drawing.
   virtual void RemoveFromDrawing() = 0;
+  /// The path of the shape in the journal, below that of its drawing.
   std::string JournalPathUnder(const std::string& drawing) const;
 
  private:

@@ -13,11 +13,14 @@ namespace plotsmith::xlsx {
 struct Frame {
   double left = 0, top = 0, width = 0, height = 0;
 
+  /// The right edge.
   double Right() const { return left + width; }
+  /// The bottom edge.
   double Bottom() const { return top + height; }
 };
 
 inline constexpr double kEmuPerPoint = 12700;
+/// Converts points to whole EMU.
 long long Emu(double points);
 /// An attribute in EMU, converted to points.
 double PointsOf(pugi::xml_node node, const char* attribute, double fallback = 0);
@@ -49,6 +52,7 @@ pugi::xml_node AppendTemplate(pugi::xml_node root, std::string text, const std::
                               const std::string& drawingMl);
 /// Templates of new objects, which have no place yet. `dress` is inserted behind the shape's geometry.
 std::string TextboxTemplate(unsigned id, std::string_view name, std::string_view dress);
+/// The template of an AutoShape. `preset` is its geometry (ST_ShapeType).
 std::string AutoShapeTemplate(unsigned id, std::string_view name, std::string_view preset);
 /// The members of the group have their places in the coordinates of the frame.
 std::string GroupTemplate(unsigned id, std::string_view name, const Frame& frame);

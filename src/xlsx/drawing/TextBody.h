@@ -27,12 +27,14 @@ class TextBody {
   /// `object` is the shape's element.
   explicit TextBody(pugi::xml_node object) : object_(object) {}
 
+  /// The text, whose paragraphs are joined by line feeds.
   std::string Text() const { return BodyText(Body()); }
   /// Error 1004 for an object that can't have a text.
   void SetText(std::string_view text) { SetBodyText(EnsureBody(), text); }
   /// The properties of the body, which are made if they are missing. Error 1004 for an object that can't have
   /// a text.
   pugi::xml_node BodyProperties();
+  /// The paragraph elements.
   std::vector<pugi::xml_node> Paragraphs() const;
 
   /// The properties of the runs of a piece of text. Runs are cut at its ends, and missing properties are
@@ -42,6 +44,7 @@ class TextBody {
   /// The same for reading only: nothing is cut or made, and a run without properties gives a null node.
   std::vector<pugi::xml_node> RunProperties(std::size_t start, std::size_t length) const;
 
+  /// The size of a text.
   struct Extent {
     double width = 0, height = 0;  ///< points
   };

@@ -11,6 +11,7 @@ class DrawnShape;
 
 /// The text of a shape for the port. A shape that resizes with its text does so at each change.
 excel::Ref<excel::TextFrame> MakeTextFrame(std::shared_ptr<DrawnShape> shape);
+/// The text frame of a shape in Excel's newer object model.
 excel::Ref<excel::TextFrame2> MakeTextFrame2(std::shared_ptr<DrawnShape> shape);
 
 }  // namespace plotsmith::xlsx

@@ -21,6 +21,7 @@ class Theme {
 
   /// The typefaces of the scheme.
   const std::string& MajorFont() const { return major_; }
+  /// The Latin typeface of body text.
   const std::string& MinorFont() const { return minor_; }
   /// The typeface that text properties name: "+mn-lt" is the minor font.
   std::string Typeface(std::string_view name) const;

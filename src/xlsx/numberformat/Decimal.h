@@ -9,8 +9,10 @@ namespace plotsmith::xlsx {
 /// A magnitude, never negative, as Excel sees it: 15 significant decimal digits.
 class Decimal {
  public:
+  /// Converts a number that isn't negative.
   explicit Decimal(double magnitude);
 
+  /// Returns true if no digit is left.
   bool IsZero() const { return count_ == 0; }
   /// Multiply by a power of ten.
   void Scale(int power) { point_ += power; }
@@ -24,6 +26,7 @@ class Decimal {
   }
   /// The powers of the first and the last digit that isn't zero; not for zero.
   int Highest() const { return point_ - 1; }
+  /// The power of ten of the last digit that isn't zero. Not defined for zero.
   int Lowest() const { return point_ - count_; }
   /// How many digits stand before the decimal point.
   int IntegerDigits() const { return IsZero() || point_ < 0 ? 0 : point_; }
@@ -41,9 +44,12 @@ class Decimal {
 /// come with the first.
 class IntegerWriter {
  public:
+  /// Makes a writer. `digits` is the number of digits of the integer part; `grouping` inserts thousands
+  /// separators.
   IntegerWriter(std::string& out, const Decimal& number, int digits, int placeholders, bool grouping)
       : out_(out), number_(number), digits_(digits), power_(placeholders - 1), grouping_(grouping) {}
 
+  /// Writes the digits of the next placeholder ("0", "#" or "?").
   void Next(char placeholder);
 
  private:

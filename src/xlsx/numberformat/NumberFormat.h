@@ -32,6 +32,7 @@ class NumberFormat {
   bool IsDate() const;
   /// What the format shows of the number, which picks its section.
   DateFields FieldsOf(double value) const;
+  /// Returns true if the code is General.
   bool IsGeneral() const;
 
   /// Append the displayed text to `out`. Where Excel fills the cell with "#" this gives "########": for a
@@ -39,6 +40,7 @@ class NumberFormat {
   /// with a minus sign instead), and for a number that none of two conditions wants. A value that isn't
   /// finite, which no cell holds, gives "#NUM!".
   void AppendNumber(std::string& out, double value, DateSystem dates) const;
+  /// Appends a text as the format displays it.
   void AppendText(std::string& out, std::string_view text) const;
   /// TRUE or FALSE, shown as a text is.
   void AppendBoolean(std::string& out, bool value) const;

@@ -15,6 +15,7 @@ namespace plotsmith::xlsx {
 /// one walk over the tokens. Each keeps its text, so that a sign without a meaning turns into a literal by
 /// its kind.
 struct Token {
+  /// The meaning of a token.
   enum class Kind : std::uint8_t {
     kLiteral,
     kText,     // @
@@ -53,19 +54,24 @@ struct Token {
   std::uint32_t size = 0;
 };
 
+/// A condition in brackets, such as [>=100].
 struct Condition {
+  /// The comparison of the value with the limit.
   enum class Operator : std::uint8_t { kLess, kLessEqual, kEqual, kNotEqual, kGreaterEqual, kGreater };
 
   Operator op = Operator::kEqual;
   double limit = 0;
 
+  /// Returns true if the value meets the condition.
   bool Holds(double value) const;
 };
 
+/// The calendar of a section with dates.
 enum class Calendar : std::uint8_t { kGregorian, kHijri };
 
 /// What a format says about one class of values.
 struct Section {
+  /// What the section displays.
   enum class Kind : std::uint8_t { kLiteral, kGeneral, kText, kNumber, kScientific, kFraction, kDate };
 
   Kind kind = Kind::kLiteral;
@@ -98,11 +104,13 @@ struct Section {
   bool twelveHours = false;
   Token::Kind elapsed = Token::Kind::kLiteral;  // the unit that counts on instead of starting again
 
+  /// The text of a token.
   std::string_view Text(const Token& token) const {
     return std::string_view(texts).substr(token.begin, token.size);
   }
 };
 
+/// The parsed code of a format.
 struct NumberFormat::Program {
   std::vector<Section> numbers;  // at most three; the first whose condition holds
   std::optional<Section> text;
@@ -118,12 +126,14 @@ std::unique_ptr<NumberFormat::Program> ParseNumberFormat(std::string_view code);
 bool SettleDate(Section& section);
 /// The same for a section with digit placeholders; a fraction is one with this slash.
 bool SettleNumber(Section& section);
+/// Assigns the tokens of a fraction, whose slash is at index `slash`. Returns false if they make no sense.
 bool SettleFraction(Section& section, std::size_t slash);
 /// The index of the slash that makes a section a fraction, behind the last token if there is none.
 std::size_t FindFractionSlash(const std::vector<Token>& tokens);
 
 /// `magnitude` isn't negative; `negative` asks for a minus sign.
 void AppendNumberSection(std::string& out, const Section& section, double magnitude, bool negative);
+/// Appends a number as a fraction. `magnitude` isn't negative.
 void AppendFractionSection(std::string& out, const Section& section, double magnitude);
 /// False if the value is none that this date system can show.
 bool AppendDateSection(std::string& out, const Section& section, double magnitude, bool negative,

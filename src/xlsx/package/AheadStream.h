@@ -16,6 +16,7 @@ namespace plotsmith::xlsx {
 /// all streams on a machine with one processor. Nothing else may use the archive of the stream meanwhile.
 class AheadStream final : public Archive::Stream {
  public:
+  /// Reads ahead from `source`, which must outlive this stream.
   explicit AheadStream(Archive::Stream& source) : source_(source) {}
   /// Stops the thread after its current piece, and waits for it.
   ~AheadStream() override;

@@ -29,7 +29,9 @@ class Archive {
   Archive(const Archive&) = delete;
   Archive& operator=(const Archive&) = delete;
 
+  /// The path of the file.
   const std::string& Path() const { return path_; }
+  /// The entries in the order of the directory.
   const std::vector<ArchiveEntry>& Entries() const { return entries_; }
   /// Closes the file. Its entries can no longer be opened.
   void Close();
@@ -57,6 +59,7 @@ class Archive {
 /// the archives that are passed must live until then.
 class ArchiveWriter {
  public:
+  /// Creates the file, or empties an existing one.
   explicit ArchiveWriter(const std::string& path);
   /// Writes into an empty file that is open for writing. The file stays open.
   explicit ArchiveWriter(int descriptor);

@@ -9,6 +9,7 @@ namespace plotsmith::xlsx {
 /// leaves no file behind. Without Commit, the target stays unchanged. All failures are PackageErrors.
 class AtomicFile {
  public:
+  /// Prepares a new file that replaces `path` on Commit. Throws a PackageError if `path` can't be replaced.
   explicit AtomicFile(const std::string& path);
   ~AtomicFile();
   AtomicFile(const AtomicFile&) = delete;

@@ -15,6 +15,7 @@ struct Namespaces {
   std::string_view chart;
   std::string_view chartDrawing;  ///< anchors and shapes on a chart
 
+  /// Returns the URI of a relationship type, such as "chart".
   std::string RelationshipType(std::string_view name) const {
     return std::string(relationships) + "/" + std::string(name);
   }
@@ -53,6 +54,7 @@ inline constexpr std::string_view kChartShapes =
     "application/vnd.openxmlformats-officedocument.drawingml.chartshapes+xml";
 }  // namespace content_type
 
+/// The declaration of the parts that Plotsmith writes.
 inline constexpr std::string_view kXmlDeclaration =
     R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)";
 

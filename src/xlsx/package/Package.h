@@ -54,6 +54,7 @@ class Package {
   void Replace(std::string_view part, std::string bytes);
   /// Adds a part.
   void Add(std::string_view part, std::string_view contentType, std::string bytes);
+  /// Sets the content type of a part.
   void SetContentType(std::string_view part, std::string_view contentType);
   /// Returns the first unused part name made of prefix, number and suffix. Numbers begin with 1.
   std::string FreeName(std::string_view prefix, std::string_view suffix) const;

@@ -10,12 +10,14 @@ namespace plotsmith::xlsx {
 /// workbook is opened or saved. Behind the port, only run-time errors may pass; see BookDamage.
 class PackageError : public std::runtime_error {
  public:
+  /// Makes an error whose text is a sentence.
   explicit PackageError(const std::string& sentence) : std::runtime_error(sentence) {}
 };
 
 /// A PackageError that names the damaged part.
 class PartError : public PackageError {
  public:
+  /// Makes the error for a part that can't be read. `reason` is the end of a sentence.
   PartError(std::string_view part, const std::string& reason)
       : PackageError("its part " + std::string(part) + " can't be read: " + reason) {}
 };

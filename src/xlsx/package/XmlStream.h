@@ -15,7 +15,9 @@ namespace plotsmith::xlsx {
 /// of XML are checked.
 class XmlStream {
  public:
+  /// The kind of a tag.
   enum class Kind { kStart, kEnd, kEmpty, kEndOfInput };
+  /// A tag of the stream.
   struct Tag {
     Kind kind;
     std::string_view name;        ///< The local name. Valid until the next call.
@@ -39,6 +41,7 @@ class XmlStream {
   /// Moves the unread bytes to the start of the window and reads more. Returns false at the end of the part.
   /// A full window grows. `position_` stays at the same byte.
   bool Fill();
+  /// Throws the PackageError for XML that isn't well-formed.
   [[noreturn]] static void Damaged();
 
   // The unread bytes of the window. A zero byte follows at end_. XML can't contain one, so loops stop there

@@ -12,10 +12,13 @@ namespace plotsmith::xlsx {
 struct TextSpan {
   std::size_t begin = std::string::npos;
   std::size_t end = std::string::npos;
+  /// Returns true if the span was found.
   bool Found() const { return begin != std::string::npos; }
 };
 
+/// A tag in a text.
 struct XmlTag {
+  /// The kind of a tag.
   enum class Kind { kStart, kEnd, kEmpty };
   TextSpan span;
   Kind kind = Kind::kStart;

@@ -12,7 +12,9 @@ namespace plotsmith::xlsx {
 class ChartPart;
 class DrawnShape;
 
+/// The chart area for the port. `frame` is the shape of an embedded chart.
 excel::Ref<excel::ChartArea> MakeChartArea(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame);
+/// The plot area for the port. `frame` is the shape of an embedded chart.
 excel::Ref<excel::PlotArea> MakePlotArea(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame);
 
 }  // namespace plotsmith::xlsx

@@ -23,6 +23,7 @@ struct FormattedElement {
   pugi::xml_node FindProperties() const { return xml::Child(find(), "spPr"); }
   /// The shape properties, which are made if they are missing.
   pugi::xml_node Properties() const { return schema::Ensure(find(), "spPr"); }
+  /// The journal of the host's calls.
   const Journal& Log() const { return part->Book().Journal(); }
 };
 

@@ -22,6 +22,7 @@ class ChartDrawing : public AnchoredShapes<ChartShape> {
   explicit ChartDrawing(ChartPart& chart);
   ~ChartDrawing() override;
 
+  /// The chart of the drawing.
   ChartPart& Chart() const { return chart_; }
   /// Sets the shape that frames the chart on its sheet and gives the chart its size.
   void SetFrame(std::weak_ptr<DrawnShape> frame) { frame_ = std::move(frame); }

@@ -30,9 +30,11 @@ class ChartPart {
   ChartPart(ChartParts& parts, std::string part);
   ~ChartPart();
 
+  /// The workbook of the chart.
   BookContext& Book() const { return book_; }
   /// The chart parts of the workbook, this one among them.
   ChartParts& Parts() const { return parts_; }
+  /// The name of the part; empty if there is none.
   const std::string& Part() const { return part_; }
   /// Call this when the chart is deleted. Every use of it, its series and its shapes is error 1004 from then
   /// on.
@@ -43,6 +45,7 @@ class ChartPart {
   bool IsReadable();
   /// The chart element and its plot area, which are made if they are missing.
   pugi::xml_node Chart();
+  /// The plot area, which is made if it is missing.
   pugi::xml_node PlotArea();
   /// All plot groups, in the order of the part.
   std::vector<pugi::xml_node> Groups();
@@ -60,7 +63,9 @@ class ChartPart {
   /// The shapes that are drawn on the chart.
   ChartDrawing& Drawing();
 
+  /// Notes that the part must be written.
   void MarkChanged() { changed_ = true; }
+  /// Returns true if the part or its shapes were changed.
   bool Changed() const;
   /// References in the part follow the rows that moved since they were last looked at.
   void CatchUp();

@@ -20,6 +20,7 @@ class ChartParts {
   ChartParts(BookContext& book, void (*complete)(ChartPart&)) : book_(book), complete_(complete) {}
   ~ChartParts();
 
+  /// The workbook of the charts.
   BookContext& Book() const { return book_; }
   /// The chart of a part, which is parsed when something of the chart is asked for.
   std::shared_ptr<ChartPart> At(const std::string& part);
@@ -29,6 +30,7 @@ class ChartParts {
   /// The same for several relationships. A part that can't be read is the workbook's damage.
   void RemoveRelationships(const std::string& part, const std::set<std::string>& ids);
 
+  /// Completes a changed chart before it is written.
   void Complete(ChartPart& chart) const { complete_(chart); }
   /// Whether a chart was changed since it was last written.
   bool Changed() const;

@@ -12,6 +12,7 @@ class ChartDrawing;
 /// A shape on a chart: a view over its anchor in the chart's drawing.
 class ChartShape final : public DrawnShape {
  public:
+  /// Makes the shape for an anchor and the object on it.
   ChartShape(ChartDrawing& drawing, pugi::xml_node anchor, pugi::xml_node object);
 
   Frame PlacedFrame() const override;

@@ -22,17 +22,25 @@ struct ChartTypeEntry {
   std::string_view grouping;   ///< `grouping`; empty for a group without it
   SeriesTrait trait = SeriesTrait::kNone;
 
+  /// Returns true for a 3-D chart.
   bool Is3D() const { return element.find("3D") != std::string_view::npos; }
+  /// Returns true for an area chart.
   bool IsArea() const { return element.starts_with("area"); }
+  /// Returns true for a bar or column chart.
   bool IsBar() const { return element.starts_with("bar"); }
+  /// Returns true for a line chart in 2-D.
   bool IsLine() const { return element == "lineChart"; }
+  /// Returns true for a pie chart.
   bool IsPie() const { return element.starts_with("pie"); }
+  /// Returns true for a bubble chart.
   bool IsBubble() const { return element == "bubbleChart"; }
   /// Points have an X and a Y value, along two value axes.
   bool HasXValues() const { return IsBubble() || element == "scatterChart"; }
+  /// Returns true if the group has axes.
   bool HasAxes() const { return !IsPie(); }
   /// A chart may have series of this type and of another such type on the same axes.
   bool Combines() const { return !Is3D() && !IsHorizontal() && (IsArea() || IsBar() || IsLine()); }
+  /// Returns true for a stacked and a 100 % stacked chart.
   bool IsStacked() const { return grouping == "stacked" || grouping == "percentStacked"; }
   /// Series are drawn behind each other, along a depth axis.
   bool HasDepthAxis() const { return Is3D() && grouping == "standard"; }

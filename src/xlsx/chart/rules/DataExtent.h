@@ -17,6 +17,7 @@ struct DataExtent {
   void Add(double number);
 };
 
+/// How the values of several series are added up.
 struct StackRules {
   /// Bars below zero are stacked downwards, apart from those above it. Lines and areas are sums.
   bool isSplit = true;

@@ -17,6 +17,7 @@ std::vector<pugi::xml_node> AxesOf(pugi::xml_node group);
 struct AxisRoles {
   pugi::xml_node category, x, value, depth;
 };
+/// Returns the axes of a group by their roles.
 AxisRoles RolesOf(const std::vector<pugi::xml_node>& axes);
 
 /// The primary axis of a kind; a null node if the chart has none. `value` is the value axis, else the
