@@ -12,17 +12,17 @@
 
 namespace plotsmith::xlsx {
 
-/// A sheet as the workbook part lists it.
+/// A sheet in the list of the workbook part.
 struct SheetEntry {
   std::string name;     ///< on its tab
   std::string part;     ///< in the package
   pugi::xml_node node;  ///< its element in the workbook part
-  /// The sheet for the port. `worksheet` is the same object if the sheet has cells, else null.
+  /// The sheet for the port. `worksheet` is the same object if the sheet has cells, and null otherwise.
   std::shared_ptr<excel::Sheet> object;
   std::shared_ptr<Worksheet> worksheet;
 };
 
-/// The members that all sheets share, for the port's class `Base`.
+/// The members of all kinds of sheets, for the port's class `Base`.
 template <class Base>
 class SheetMembers : public Base {
  public:

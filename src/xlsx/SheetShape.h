@@ -27,9 +27,9 @@ class SheetShape final : public DrawnShape {
   /// The workbook of the shape.
   Workbook& Book() const;
 
-  /// The part of the chart that the shape frames; empty if it frames none, or if the part is missing.
+  /// The part of the chart in the shape; empty if there is no chart, or if the part is missing.
   std::string ChartPartName() const;
-  /// The chart that the shape frames. If there is none, every use of the chart is error 1004.
+  /// The chart in the shape. If there is none, every use of the chart raises error 1004.
   excel::Ref<excel::Chart> Chart();
 
  protected:

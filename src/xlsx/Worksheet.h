@@ -24,9 +24,9 @@ namespace plotsmith::xlsx {
 class SheetDrawing;
 struct ViewSetting;
 
-/// A worksheet. Its cells are read at the first use. When a cell is written, the whole sheet is rewritten
-/// with values and styles only; for that reason a sheet with formulas can't be written. The system writes
-/// only on its own sheets.
+/// A worksheet. Its cells are read at the first use. If a cell is written, the whole sheet is rewritten with
+/// only values and styles. Therefore a sheet with formulas can't be written. The system writes only to its
+/// own sheets.
 class Worksheet final : public SheetMembers<excel::Worksheet>,
                         public CellSource,
                         public std::enable_shared_from_this<Worksheet> {
@@ -59,7 +59,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   std::uint32_t StyleAt(std::int32_t row, std::int32_t column);
   /// The rectangle around all cells that have a value or a style; A1 in an empty sheet.
   CellRange UsedCells();
-  /// The cells that have a formula without a result in the file, in its order. They read as empty.
+  /// The cells whose formula has no result in the file, in the file's order. They count as empty.
   const std::vector<CellPlace>& FormulasWithoutResult() { return Contents().formulasWithoutResult; }
   /// Clears cells, including their styles.
   void ClearCells(const CellRange& range);
@@ -74,13 +74,13 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   void SortCells(const CellRange& range, const SortOptions& options);
   /// Row heights and column widths.
   const SheetGeometry& Geometry();
-  /// The merged cells, as the file has them.
+  /// The merged cells in the file.
   const std::vector<CellRange>& MergedCells() { return Contents().mergedCells; }
   /// The view of the sheet in the workbook's first window.
   SheetView View();
-  /// Makes a cell the active one. The file keeps its own active cell.
+  /// Makes a cell the active one. The active cell in the file doesn't change.
   void ActivateCell(const CellPlace& cell);
-  /// The drawing of the sheet. Null if there is none, or if it has no charts and can't be read.
+  /// The drawing of the sheet. Null if there is none, or if it contains no charts and can't be read.
   SheetDrawing* FindDrawing();
   /// The drawing of the sheet, which is made if there is none. Error 1004 if it can't be read.
   SheetDrawing& EnsureDrawing();
@@ -88,9 +88,9 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   /// Changes a setting of the view in the workbook's first window.
   void SetView(const ViewSetting& setting, bool value);
 
-  /// Updates formulas for rows that have moved on other sheets since the mark `followed`.
+  /// Updates formulas for the rows that have moved on other sheets since the mark `followed`.
   void FollowShifts(std::size_t followed);
-  /// Whether this program made the sheet and may change all of it.
+  /// Returns true if this program has added the sheet and may change all of it.
   bool IsNew() const { return isNew_; }
   /// Returns true if the sheet's part must be written.
   bool NeedsWriting() const;
@@ -104,30 +104,30 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
     if (sharedTexts_ == nullptr) sharedTexts_ = &book_.SharedStrings();
     return sharedTexts_->At(index);
   }
-  /// The cells for writing. Error 1004 on a sheet that isn't ours to write.
+  /// The cells for writing. Error 1004 on a sheet that this program may not write to.
   CellGrid& Grid();
   excel::CellValue Unpack(PackedValue value, std::uint32_t style);
-  /// The key of a cell for a walk for a text.
+  /// The key of a cell for a text search.
   std::uint32_t KeyOf(const GridCell* cell) const;
   void MakeKeys(std::int32_t column);
-  /// Forgets the keys where cells of the range are about to change.
+  /// Discards the keys of cells that are about to change.
   void ForgetKeys(const CellRange& range);
 
-  /// Changes the XML of the part at once; `change` returns whether there was anything to change. What the
-  /// part lacks for it is the workbook's damage.
+  /// Changes the XML of the part at once. `change` returns true if it has changed something. If the part
+  /// lacks an element that the change needs, the workbook is damaged.
   void ChangePart(const std::function<bool(std::string& text)>& change);
 
   bool isNew_;
   std::optional<SheetContents> contents_;  ///< as read
-  const TextPool* sharedTexts_ = nullptr;  ///< the workbook's, once a cell has asked for one
-  std::optional<CellGrid> grid_;           ///< as changed; of contents_ only the geometry counts then
+  const TextPool* sharedTexts_ = nullptr;  ///< the workbook's; null until a cell refers to one
+  std::optional<CellGrid> grid_;           ///< the changed cells; then contents_ has only the geometry
   bool gridChanged_ = false;
   std::optional<SheetGeometry> geometry_;
   std::optional<CellPlace> activeCell_;  ///< since the file was read
   std::unique_ptr<SheetDrawing> drawing_;
   bool drawingSought_ = false;
   std::optional<std::string> drawingDamage_;  ///< why the sheet's drawing can't be read
-  std::optional<ColumnKeys> keys_;            ///< of grid_, for the column of the last walk for a text
+  std::optional<ColumnKeys> keys_;            ///< of grid_, for the column of the last text search
 };
 
 }  // namespace plotsmith::xlsx

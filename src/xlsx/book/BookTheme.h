@@ -9,7 +9,7 @@ namespace plotsmith::xlsx {
 class BookPart;
 class Package;
 
-/// The theme part of a workbook, which is read when it is first asked for.
+/// The theme part of a workbook, which is read at its first use.
 class BookTheme {
  public:
   /// Reads nothing yet. Both arguments must outlive the object.

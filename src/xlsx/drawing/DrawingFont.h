@@ -23,8 +23,8 @@ struct TextLook {
   bool operator==(const TextLook&) const = default;
 };
 
-/// A font of DrawingML: the properties of the runs of a text. Charts and shapes hold them in different
-/// places, which the derived classes know.
+/// A font of DrawingML: the properties of the runs of a text. Derived classes know where charts and shapes
+/// store them.
 class DrawingFont : public excel::Font {
  public:
   runtime::Variant Name() override;
@@ -45,7 +45,7 @@ class DrawingFont : public excel::Font {
 
   /// The journal of the host's calls.
   virtual const Journal& Log() const = 0;
-  /// The formats that occur in the text, at least one.
+  /// The formats in the text, at least one.
   virtual std::vector<TextLook> Looks() const = 0;
   /// Calls `set` with the properties of each run, which are made if they are missing.
   virtual void ForEachRun(const std::function<void(pugi::xml_node properties)>& set) = 0;

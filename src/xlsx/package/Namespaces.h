@@ -5,11 +5,10 @@
 
 namespace plotsmith::xlsx {
 
-/// The addresses by which the parts of a workbook name their vocabularies. A file is Transitional or Strict
-/// as a whole.
+/// The namespace URIs of a workbook's vocabularies. A file is either Transitional or Strict as a whole.
 struct Namespaces {
   std::string_view main;                ///< SpreadsheetML
-  std::string_view relationships;       ///< r:id; also the stem of relationship types
+  std::string_view relationships;       ///< r:id; also the beginning of relationship types
   std::string_view drawing;             ///< DrawingML
   std::string_view spreadsheetDrawing;  ///< anchors and shapes on a sheet
   std::string_view chart;

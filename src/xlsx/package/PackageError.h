@@ -6,8 +6,9 @@
 
 namespace plotsmith::xlsx {
 
-/// A workbook file that can't be read or written. The text is one sentence for the user. It is thrown while a
-/// workbook is opened or saved. Behind the port, only run-time errors may pass; see BookDamage.
+/// The error for a workbook file that can't be read or written. The text is one sentence for the user. It is
+/// thrown while a workbook is opened or saved. Functions of the port raise only run-time errors; see
+/// BookDamage.
 class PackageError : public std::runtime_error {
  public:
   /// Makes an error whose text is a sentence.

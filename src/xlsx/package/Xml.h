@@ -9,10 +9,10 @@
 #include <utility>
 #include <vector>
 
-/// Reads and changes XML parts of other programs, and keeps what Plotsmith doesn't know.
+/// Reads and changes XML parts of other programs, and keeps elements that Plotsmith doesn't know.
 ///
-/// A part is parsed without decoding: entities, white space, comments and line ends are written back as they
-/// were read. Elements are found by their local names, because each program chooses its own prefixes, and
+/// A part is parsed without decoding: entities, white space, comments and line ends are written back
+/// unchanged. Elements are found by their local names, because each program chooses its own prefixes, and
 /// because Strict and Transitional files differ only in the URIs of namespaces. Values are decoded when they
 /// are read, and encoded when they are set.
 namespace plotsmith::xlsx::xml {
@@ -21,14 +21,14 @@ namespace plotsmith::xlsx::xml {
 inline constexpr const char* kHasDocumentType =
     "it declares a document type, which no part of a workbook may";
 
-/// Parses a part in UTF-8, UTF-16, Latin-1 or Windows-1252. Throws PackageError if it isn't well-formed or
-/// nests too deep.
+/// Parses a part in UTF-8, UTF-16, Latin-1 or Windows-1252. Throws PackageError if it isn't well-formed or is
+/// nested too deep.
 void Parse(pugi::xml_document& document, std::string_view bytes);
-/// Returns the document in UTF-8, with the XML declaration that it was parsed with, if any.
+/// Returns the document in UTF-8, with the XML declaration of the parsed text, if any.
 std::string Serialize(const pugi::xml_document& document);
 /// Converts a part to UTF-8 without a byte order mark, and changes its XML declaration accordingly.
 std::string ToUtf8(std::string bytes);
-/// Returns whether ToUtf8 would change a part; `start` is its text up to the end of the XML declaration.
+/// Returns true if ToUtf8 would change a part; `start` is its text up to the end of the XML declaration.
 bool NeedsConversion(std::string_view start);
 
 /// Replaces the entities in a text by their characters.
@@ -48,7 +48,7 @@ inline bool Is(pugi::xml_node node, std::string_view local) { return LocalName(n
 /// The prefix with its colon; empty if there is none.
 std::string_view Prefix(std::string_view name);
 
-/// Returns the first child element with the local name, or a null node. Several names are a path downwards.
+/// Returns the first child element with the local name, or a null node.
 pugi::xml_node Child(pugi::xml_node parent, std::string_view local);
 /// Returns a descendant by the local names on the path to it; a null node if there is none.
 template <class... Names>

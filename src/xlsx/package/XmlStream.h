@@ -11,8 +11,8 @@
 namespace plotsmith::xlsx {
 
 /// Reads a large part as a stream of tags, through a window that stays in the processor's cache. Elements
-/// have their local names. Text that isn't XML raises a PackageError, as far as it is noticed; not all rules
-/// of XML are checked.
+/// have their local names. Text that isn't well-formed raises a PackageError if that is noticed; not all
+/// rules of XML are checked.
 class XmlStream {
  public:
   /// The kind of a tag.
@@ -45,7 +45,7 @@ class XmlStream {
   [[noreturn]] static void Damaged();
 
   // The unread bytes of the window. A zero byte follows at end_. XML can't contain one, so loops stop there
-  // without a comparison. The 15 bytes after it may be read too.
+  // without a comparison. The 15 bytes after it may also be read.
   const char* position_ = nullptr;
   const char* end_ = nullptr;
 

@@ -110,7 +110,7 @@ class CellStore {
       }
     }
     PackedValue ValueAt(std::int32_t row) const {
-      // Most callers go down a column, so the run of the last call is the best guess.
+      // Most callers read a column downwards, so the run of the last call is the best guess.
       if (strays_.empty() && !runs_.empty()) {
         const Run& run = runs_[recentRun_];
         if (row >= run.firstRow && row <= run.lastRow) {

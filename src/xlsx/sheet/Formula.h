@@ -10,7 +10,7 @@
 
 #include "xlsx/sheet/Reference.h"
 
-/// Formulas as text: what they refer to, without knowing what they compute.
+/// Formulas as text: their references, without their meaning.
 namespace plotsmith::xlsx {
 
 /// Splits a formula into references and other pieces of text.

@@ -5,8 +5,8 @@
 #include "host/excel/ChartArea.h"
 #include "host/excel/PlotArea.h"
 
-/// The chart area and the plot area for the port. `frame` is the shape that frames the chart on a sheet and
-/// gives the areas their size.
+/// The chart area and the plot area for the port. `frame` is the shape that contains the chart on a sheet and
+/// determines the size of the areas.
 namespace plotsmith::xlsx {
 
 class ChartPart;

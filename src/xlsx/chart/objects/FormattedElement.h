@@ -12,7 +12,7 @@
 
 namespace plotsmith::xlsx {
 
-/// A chart element with shape properties. It is found anew at each use, because the element may be replaced,
+/// A chart element with shape properties. Each use looks it up again, because the element may be replaced,
 /// and its `spPr` added and removed, between two uses.
 struct FormattedElement {
   std::shared_ptr<ChartPart> part;
