@@ -77,7 +77,7 @@ TEST_F(BubbleChartTest, OrderOfCalls) {
       {{"Ada", "Red", 1, 2, 10}, {"Bo", "Blue", 3, 4, 30}, {" Cy ", "Red ", 5, 6, 20}}, definition);
   Lines expected = {"Chart.ChartArea.AutoScaleFont = False", "Chart.ChartType = 15"};
   AppendBubble(expected, 1, "Blue");
-  AppendBubble(expected, 2, "Red");  // Labels are trimmed, and names aren't.
+  AppendBubble(expected, 2, "Red");  // Labels are trimmed, names aren't.
   AppendBubble(expected, 3, "Red");
   AppendPaint(expected, 1, "Bo");
   AppendPaint(expected, 2, " Cy ");

@@ -104,7 +104,7 @@ TEST_F(CheckTest, WhatTheSystemWritesIsFine) {
     test::EditPart(path, "/xl/drawings/drawing2.xml",
                    [](S& drawing) { drawing = runtime::Replace(drawing, "descr=", "title="); });
     EXPECT_EQ(RunCommand({"check", path}).code, 1) << "a person has detached the charts";
-    // LibreOffice drops the alternative text. A drawn chart is identified by its data.
+    // LibreOffice drops the alternative text. A drawn chart is then identified by its data.
     auto package = xlsx::Package::Open(path);
     test::SetSavingProgram(package, "LibreOffice/7.4.7.2$Linux_X86_64 LibreOffice_project/40$Build-2");
     package.Save(path);

@@ -222,7 +222,7 @@ TEST_F(EntryTest, EditModeIsFoundByTheHostsRefusal) {
             std::vector<S>{
                 "Brindle Plotsmith: You are currently editing a cell or object. Please finish editing before "
                 "using the Plotsmith."});
-  editing->interactive = false;  // Nobody can be editing then, so the property isn't set.
+  editing->interactive = false;  // The user can't be editing then, so the property isn't set.
   controller.RefreshPlotsmithData(editing, "", "");
   EXPECT_EQ(Messages().size(), 1u);
 }

@@ -285,7 +285,7 @@ TEST_F(ModalLoopTest, GesturesOnAFormBelowAreDropped) {
   EXPECT_EQ(second->chk3D.Value(), CheckBox::kChecked);
 }
 
-/// A view in which a hand presses OK on every form.
+/// A view whose user presses OK on every form.
 class PressingView final : public View {
   void Open(Form& form) override { open_.push_back(&form); }
   void Close(Form&) override { open_.pop_back(); }
@@ -298,7 +298,7 @@ class PressingView final : public View {
   std::vector<Form*> open_;
 };
 
-/// Calls a function on a thread with a stack of a size in bytes.
+/// Calls a function on a thread with a stack of this size in bytes.
 void CallWithStackOf(std::size_t size, std::function<void()> function) {
   pthread_attr_t attributes;
   pthread_attr_init(&attributes);
@@ -333,7 +333,8 @@ TEST_F(ModalLoopTest, FormsNestAsLongAsTheStackLasts) {
   EXPECT_EQ(loop.Front(), nullptr);
 }
 
-/// A form with a timer that ticks twice while the form works, and hides it at the second tick after that.
+/// A form with a timer that ticks twice during the form's work, and closes the form at the second tick after
+/// that.
 class TickingForm : public Form {
  public:
   explicit TickingForm(ModalLoop& loop) : Form("frmTicking"), loop_(loop) {

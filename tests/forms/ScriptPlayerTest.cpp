@@ -11,7 +11,7 @@ namespace {
 using S = std::string;
 using Log = std::vector<S>;
 
-/// Tests scripts on a small wizard: OK on the first form opens a second form, which asks a question and shows
+/// Tests scripts on a small wizard. OK on the first form opens a second form, which asks a question and shows
 /// a message.
 class ScriptPlayerTest : public ::testing::Test {
  protected:

@@ -79,7 +79,7 @@ TEST_F(TableDefinitionsTest, NamesThatAreNoTables) {
                 {"VEX_TableRang", "Sheet1!$B$3:$C$7"},
                 {"vex_sb_lower", "sheet1!$B$3:$C$7"},
                 {"VEX_TABLERANGE", "Sheet1!$B$3:$C$7,Sheet1!$F$1"}};
-  // a name of one sheet alone: VEX_SBold!Print_Area
+  // a name that belongs to one sheet: VEX_SBold!Print_Area
   const std::string path = folder_ / "names.xlsx";
   book.Write(path);
   test::EditPart(path, "/xl/workbook.xml", [](std::string& workbook) {

@@ -135,7 +135,7 @@ TEST_F(DataLabelsTest, OfPiesAreInsideOfTheirSliceOrOutsideOfTheCircle) {
   EXPECT_LT(BoxOf(best, Role::kSlice).width, BoxOf(draw("ctr", {1, 99}), Role::kSlice).width);
 }
 
-/// The labels of a pie from top to bottom on each side of it, and which of them lie on each other.
+/// The labels of a pie from top to bottom on each side of it, and the ones that overlap.
 struct PieLabelsSeen {
   std::size_t count = 0, leaders = 0;
   Texts overlaps;

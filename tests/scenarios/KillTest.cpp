@@ -60,7 +60,8 @@ class KillTest : public ::testing::Test {
   S path_;
 };
 
-/// If the program is killed during a save, the complete old or new workbook exists, and no other file.
+/// If the program is killed during a save, either the complete old or the complete new workbook exists, and
+/// no other file.
 TEST_F(KillTest, AKilledSaveLeavesTheOldWorkbookOrTheNewOne) {
   const S before = Bytes(path_);
   int status = 0;

@@ -5,7 +5,7 @@ cd "$(dirname "$0")/../.."
 . tests/windows/lib.sh
 
 new_prefix
-# Of the calls from library to library, the trace has those of HTML Help alone.
+# The trace of calls between libraries is limited to those of HTML Help.
 wine reg add 'HKCU\Software\Wine\Debug' /v RelayInclude /d 'hhctrl.ocx.HtmlHelpA;hhctrl.ocx.HtmlHelpW' /f >/dev/null 2>&1
 folder="$work/Hilfe für Plotsmith"
 mkdir "$folder"
@@ -36,7 +36,7 @@ cp "$work/expected" "$work/expected-pages"
 echo "$numbers" | sed 's/$/: /' >"$work/expected"
 same_file "no boxes" "$work/said" "$work/expected"
 
-# Wine's code page has all letters of this folder, and none of the next.
+# Wine's code page has all letters of this folder, but not all of the next one.
 function_of() { sed -n 's/.*Call hhctrl.ocx.\(HtmlHelp[AW]\)(.*/\1/p' "$work/trace" | head -n 1; }
 [ "$(function_of)" = HtmlHelpA ] && passes || fails "it is $(function_of)" "the function for a path in the code page"
 other="$work/Справка"

@@ -22,7 +22,7 @@ function says(name, host, expected) {
 
 var host = new ActiveXObject("PlotsmithTestHost.Application");
 
-// The operations on one table have no guards: what trips over a workbook that isn't there says so.
+// The operations on one table have no guards. They report an error when they use the missing workbook.
 function tripsWithoutWorkbook(name, call) {
   check(name + " without a workbook", boxes.LateBound(newController(), call, host), "ok");
   check(name + " without a workbook: boxes", boxes.Take(), [
@@ -30,7 +30,7 @@ function tripsWithoutWorkbook(name, call) {
     kProduct + "PSFunctions.RetrieveChartDefinitions\\r\\n" + kNotSet
   ].join("\n"));
   CollectGarbage();
-  boxes.FreeUnusedLibraries();  // the component forgets what it holds
+  boxes.FreeUnusedLibraries();  // the component forgets its state
 }
 tripsWithoutWorkbook("a refresh of a table", "RefreshChartsForTable|o|s:Data1");
 tripsWithoutWorkbook("a rename", "UpdateChartColumnNamesForTable|o|s:Data1|as:Old|as:New");
@@ -41,7 +41,7 @@ host.Editing = true;
 says("a cell is edited", host, kEditing);
 check("a cell is edited: the journal", host.Journal, "");
 
-// Where Interactive is False already, nothing can be learnt from it, and it stays untouched.
+// If Interactive is already False, it gives no information and isn't changed.
 host.Editing = false;
 host.Interactive = false;
 host.Editing = true;
@@ -54,7 +54,7 @@ check("Interactive is False: it stays so", host.Journal.split("Application.Inter
 host.Editing = false;
 host.Interactive = true;
 
-// The operations on one table work on the workbook that is open.
+// The operations on one table use the open workbook.
 newController().RefreshChartsForTable(host, "no such table");
 check("a table that isn't there", boxes.Take(), "");
 

@@ -37,8 +37,8 @@ unload("after a refresh");
 })();
 unload("after a refresh of a table, which keeps its workbook");
 
-// Two Applications one after the other: each has its own workbook refreshed. What the component changes in the
-// Application itself, it changes in the first one.
+// Two Applications one after the other: the workbook of each is refreshed. The component changes properties of the
+// Application only in the first one.
 function linesOf(journal, ofApplication) {
   var lines = journal.split("\n");
   var chosen = [];
@@ -105,7 +105,7 @@ unload("after a macro");
   check("400 KB of stack", boxes.Take(), "");
 })();
 
-// The wizard nests a page in a page, as long as the stack lasts. Then it ends with a report.
+// The wizard nests pages until the stack is exhausted. Then it ends with a report.
 (function() {
   var controller = newController();
   var host = open("countries.xlsx");

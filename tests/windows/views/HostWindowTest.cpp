@@ -108,7 +108,8 @@ TEST_F(HostWindowTest, TheBusyWindowIsModalAndItsBarMovesWhileItWorks) {
   ExpectFree();
 }
 
-/// A window of the host that posts itself a message with each one, and never paints what it is asked to.
+/// A window of the host that posts itself a message with each one, and never paints the area that it is asked
+/// to paint.
 LRESULT CALLBACK KeepBusy(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_PAINT) return 0;
   if (message != WM_APP) return DefWindowProcW(window, message, wParam, lParam);
@@ -130,7 +131,7 @@ TEST_F(HostWindowTest, WorkGoesOnAlthoughTheHostNeverRests) {
   DestroyWindow(busy);
 }
 
-// A screen reader may watch the windows of a page by a procedure of its own.
+// A screen reader may subclass the windows of a page.
 TEST_F(HostWindowTest, AProcedureThatIsPutInFrontLaterSeesTheEndOfTheWindow) {
   static WNDPROC before = nullptr;
   static int ends = 0;

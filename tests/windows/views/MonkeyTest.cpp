@@ -13,7 +13,7 @@ constexpr unsigned kSeeds = 3;
 
 class MonkeyTest : public test::DialogTest, public testing::WithParamInterface<std::size_t> {};
 
-// After each line of a script the stage compares the window with its form.
+// After each line of a script, the stage compares the window with its form.
 TEST_P(MonkeyTest, APageShowsWhatItsFormSays) {
   const test::Way& way = test::kWays[GetParam()];
   for (unsigned seed = 1; seed <= kSeeds; ++seed) {

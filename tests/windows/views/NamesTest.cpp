@@ -173,7 +173,7 @@ TEST_F(NamesTest, ScreenReadersAreToldTheSameAsOnTheDesktop) {
   }
 }
 
-/// The name of a window as a screen reader asks for it.
+/// Returns the name of a window as a screen reader requests it.
 S NameOf(HWND window) {
   IAccessible* object = nullptr;
   const DWORD client = static_cast<DWORD>(OBJID_CLIENT);
@@ -189,7 +189,7 @@ S NameOf(HWND window) {
   return com::Utf8(name);
 }
 
-// Where the system has no annotations, the windows' own texts are all that a screen reader knows.
+// If the system has no annotations, a screen reader knows only the windows' own texts.
 TEST_F(NamesTest, WindowsTellTheirCaptions) {
   for (const test::Way& way : test::kWays) {
     const auto look = [&] {

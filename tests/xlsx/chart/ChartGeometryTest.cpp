@@ -30,7 +30,7 @@ TEST(TextMetricsTest, TextsAreAsWideAsTheirFontsMakeThem) {
   for (const Case& c : cases) {
     EXPECT_NEAR(TextWidth(c.text, c.face), c.ems * c.face.size, 1e-9) << c.text << " in " << c.face.font;
   }
-  // the widths of all letters that the tables have, so that none changes unseen
+  // the widths of all letters in the tables, so that every change is noticed
   S letters;
   for (char c = ' '; c <= '~'; ++c) letters += c;
   for (char16_t c = u'\u00A0'; c <= u'\u00FF'; ++c) letters += runtime::ToUtf8(std::u16string(1, c));
