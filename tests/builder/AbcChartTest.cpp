@@ -100,7 +100,7 @@ TEST_F(AbcChartTest, OrderOfCallsForABarChartWithEverything) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(AbcChartTest, WhatAreaAndColumnChartsDoOtherwise) {
+TEST_F(AbcChartTest, AreaAndColumnChartsDiffer) {
   for (const char* type : {"area", "column"}) {
     Definition definition{"VEX_Chart1", type, "table-id=\"Data1\""};
     definition.series = "<series headings-in=\"none\"/>";
@@ -123,7 +123,7 @@ TEST_F(AbcChartTest, WhatAreaAndColumnChartsDoOtherwise) {
   }
 }
 
-TEST_F(AbcChartTest, SettingsMakeTheType) {
+TEST_F(AbcChartTest, SettingsDetermineTheType) {
   const auto settings = [](std::initializer_list<const char*> names) { return test::Settings(names); };
   const S plain = settings({}), d3 = settings({"3D"}), st = settings({"stacked"}),
           d3st = settings({"3D", "stacked"}), full = settings({"stacked", "100%"}),
@@ -159,7 +159,7 @@ TEST_F(AbcChartTest, SettingsMakeTheType) {
   }
 }
 
-TEST_F(AbcChartTest, ColumnsBehindThe78thKeepTheNameBefore) {
+TEST_F(AbcChartTest, SeriesAfterThe78thColumnKeepThePreviousName) {
   test::PlainBook book = test::SalesBook({});
   Open(book);
   auto document = NewXMLDocument();

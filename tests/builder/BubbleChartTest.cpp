@@ -109,7 +109,7 @@ TEST_F(BubbleChartTest, OrderOfCalls) {
   EXPECT_EQ(Chart()->ChartType(), 87);
 }
 
-TEST_F(BubbleChartTest, OlderVersionsComeByWayOfAScatterChartAndKeepTheirLegend) {
+TEST_F(BubbleChartTest, OlderVersionsStartWithAScatterChartAndKeepTheirLegend) {
   Definition definition = BubbleDefinition();
   const auto book =
       BubbleBook({{"A", "Red", 1, 2, 30}, {"B", "red", 3, 4, 20}, {"C", "Blue", 5, 6, 10}}, definition);
@@ -143,7 +143,7 @@ TEST_F(BubbleChartTest, OlderVersionsComeByWayOfAScatterChartAndKeepTheirLegend)
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(BubbleChartTest, ANameTakesTheColourOfItsNumberAndNotOfItsSeries) {
+TEST_F(BubbleChartTest, ANameHasTheColourOfItsNumberAndNotOfItsSeries) {
   const std::initializer_list<Bubble> distinct = {
       {"A", "x", 1, 1, 9}, {"B", "y", 1, 1, 8}, {"C", "z", 1, 1, 7}};
   ChartCalls(BubbleBook(distinct, BubbleDefinition()));
@@ -195,7 +195,7 @@ TEST_F(BubbleChartTest, ARowWithoutAColourLabelKeepsItsPlace) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(BubbleChartTest, TypeAndLegendByTheDefinition) {
+TEST_F(BubbleChartTest, TypeAndLegendFollowTheDefinition) {
   const auto calls = [&](const S& settings, const S& series) {
     Definition definition = BubbleDefinition();
     definition.series = series;

@@ -64,7 +64,7 @@ TEST_F(BubbleDataTest, OneBubbleForEachName) {
       "Brindle Plotsmith: PSChartBuilder.BuildBubbleMap\nObject variable or With block variable not set");
 }
 
-TEST_F(BubbleDataTest, The254thNameBringsTheMessageThoughItIsCharted) {
+TEST_F(BubbleDataTest, The254thNameIsChartedAndCausesTheMessage) {
   struct Case {
     int names;
     S last;

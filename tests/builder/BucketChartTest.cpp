@@ -97,7 +97,7 @@ TEST_F(BucketChartTest, OrderOfCalls) {
   EXPECT_EQ(series->Item(4)->Values(), (std::vector<runtime::Variant>{120.0, 50.0}));
 }
 
-TEST_F(BucketChartTest, WhatOlderVersionsDoOtherwise) {
+TEST_F(BucketChartTest, OlderVersionsDiffer) {
   Definition definition = BucketDefinition();
   definition.rest += kManual;
   Lines calls = ChartCalls(BucketBook(definition), "11.0");
@@ -130,7 +130,7 @@ TEST_F(BucketChartTest, WithoutManualLabelsOnlyTheBucketsAreLabelled) {
   EXPECT_FALSE(With(calls, "ApplyDataLabels").empty());
 }
 
-TEST_F(BucketChartTest, MoreThan22BucketsAreMoreThanTheReferenceCanSay) {
+TEST_F(BucketChartTest, TheReferenceCanContainAtMost22Buckets) {
   for (const int buckets : {22, 23}) {
     test::PlainBook book = BucketBook(BucketDefinition());
     auto& rows = book.Sheet("Buckets").rows;

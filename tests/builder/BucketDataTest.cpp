@@ -103,7 +103,7 @@ TEST_F(BucketDataTest, ItemsAreSortedBelowTheRowOfTheBuckets) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(BucketDataTest, AnItemAloneIsSortedToo) {
+TEST_F(BucketDataTest, ASingleItemIsSorted) {
   test::PlainBook book = BucketBook(BucketDefinition());
   book.Sheet("Data1").rows.resize(2);
   Open(book);
@@ -122,7 +122,7 @@ TEST_F(BucketDataTest, BucketsBeyondAllNumbersAreAnOverflow) {
   EXPECT_EQ(Messages()[0], "Brindle Plotsmith: PSFunctions.GetStrategicBuckets\nOverflow");
 }
 
-TEST_F(BucketDataTest, WhatKeepsAChartFromBeingSorted) {
+TEST_F(BucketDataTest, SomeChartsAreNotSorted) {
   Definition definition = BucketDefinition();
   Open(BucketBook(definition));
   definition.rest = "<sort-order><column name=\"Rank\"/></sort-order>";

@@ -31,7 +31,7 @@ void Comment(const S& id, const S& text) {
   colTables = colCharts = nullptr;
 }
 
-TEST_F(ChartCommentTest, CommentsComeAndGoInPieces) {
+TEST_F(ChartCommentTest, CommentsAreWrittenAndReadInPieces) {
   S text;
   for (int i = 0; i < 40; ++i) text += "0123456789";
   text.replace(199, 2,

@@ -45,7 +45,7 @@ class ChartLegendTest : public test::ChartCallsTest {
   }
 };
 
-TEST_F(ChartLegendTest, AnEntryForEachNameAndAllOfThemOneShape) {
+TEST_F(ChartLegendTest, EachNameHasAnEntryAndTheyAreGrouped) {
   const auto book = BubbleBook({{"A", "North", 1, 2, 30}, {"B", "South", 3, 4, 20}, {"C", "North", 5, 6, 10}},
                                BubbleDefinition());
   Lines expected;
@@ -110,7 +110,7 @@ TEST_F(ChartLegendTest, AnEntryForEachNameAndAllOfThemOneShape) {
   EXPECT_EQ(Names(), "VEX_Legend;");
 }
 
-TEST_F(ChartLegendTest, WhoTookItAwayDoesNotGetItBack) {
+TEST_F(ChartLegendTest, ADeletedLegendIsNotRestored) {
   Definition definition = BubbleDefinition();
   definition.rest += kHide;
   const std::initializer_list<Bubble> bubbles = {{"A", "North", 1, 2, 30}};
@@ -132,7 +132,7 @@ TEST_F(ChartLegendTest, WhoTookItAwayDoesNotGetItBack) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(ChartLegendTest, OneThatIsShownIsDrawnInThePlaceOfTheHostsOwn) {
+TEST_F(ChartLegendTest, ADrawnLegendReplacesTheBuiltInOne) {
   Definition definition = BubbleDefinition();
   definition.rest += runtime::Replace(kHide, "hide", "show");
   const Lines calls = ChartCalls(BubbleBook({{"A", "North", 1, 2, 30}}, definition));
@@ -141,7 +141,7 @@ TEST_F(ChartLegendTest, OneThatIsShownIsDrawnInThePlaceOfTheHostsOwn) {
   EXPECT_EQ(Names(), "VEX_Legend;");
 }
 
-TEST_F(ChartLegendTest, NamesThatGetLostAndNamesThatSpoilIt) {
+TEST_F(ChartLegendTest, SomeNamesAreMissingAndSomePreventTheLegend) {
   const auto entries = [&](const S& first, const S& second) {
     return Entries(
         ChartCalls(BubbleBook({{"A", first, 1, 2, 30}, {"B", second, 3, 4, 20}}, BubbleDefinition())));
@@ -156,7 +156,7 @@ TEST_F(ChartLegendTest, NamesThatGetLostAndNamesThatSpoilIt) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(ChartLegendTest, SizesAndPlacesByTheStoredFont) {
+TEST_F(ChartLegendTest, SizesAndPositionsFollowTheStoredFont) {
   struct Case {
     S size, left;
     Lines frame;  // Width, height, left and top of the text "North", and height and width of its key.

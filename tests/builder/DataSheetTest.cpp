@@ -16,7 +16,7 @@ using S = std::string;
 
 class DataSheetTest : public test::BlockTest {};
 
-TEST_F(DataSheetTest, CellsCountByWhatTheyShow) {
+TEST_F(DataSheetTest, CellsCountByTheirDisplayedText) {
   PlainBook book;
   test::PlainSheet sheet{"Data1"};
   const auto day = [](const S& serial, const S& style) {
@@ -53,7 +53,7 @@ TEST_F(DataSheetTest, ABlockLargerThanASheetIsRefusedBeforeItTakesMemory) {
   EXPECT_EQ(test::ErrorOf([] { Rectangle(100, 254).At(101, 1); }), runtime::error::kSubscript);
 }
 
-TEST_F(DataSheetTest, ABlockIsMadeToFitInItsPlace) {
+TEST_F(DataSheetTest, ABlockIsResizedInPlace) {
   Open(test::SalesBook({}));
   Definition first{"VEX_Chart1"}, second{"VEX_Chart2"};
   Block(first);
@@ -83,7 +83,7 @@ TEST_F(DataSheetTest, ABlockIsMadeToFitInItsPlace) {
                                             "Sheets(\"VEX_ChartData\").Rows(3).Delete(-4162)"}));
 }
 
-TEST_F(DataSheetTest, AFormatThatIsNoneStopsTheBlockWithBothMessages) {
+TEST_F(DataSheetTest, AnInvalidFormatStopsTheBlockWithBothMessages) {
   Open(test::SalesBook({}));
   EXPECT_EQ(Block({"VEX_Chart1", "column", "table-id=\"Data1\" number-format=\"0.0.&quot;\""}), "(no block)");
   ASSERT_EQ(Messages().size(), 2u);

@@ -58,7 +58,7 @@ TEST_F(PieChartTest, OrderOfCalls) {
   EXPECT_EQ(series->Item(1)->DataLabels()->Type(), runtime::Variant(3));
 }
 
-TEST_F(PieChartTest, SettingsMakeTheTypeAndLabelsTakeItFirst) {
+TEST_F(PieChartTest, SettingsDetermineTheTypeAndLabelsNeedAPieFirst) {
   const std::pair<S, int> types[] = {{Settings({}), 5},
                                      {Settings({"3D"}), -4102},
                                      {Settings({"exploded"}), 69},

@@ -95,7 +95,7 @@ TEST_F(RefreshDriverTest, AnUnavailableChartRecoversByItself) {
   EXPECT_NE(Definitions().find("chart-area-crosshatched=\"no\""), S::npos);
 }
 
-TEST_F(RefreshDriverTest, OneTableRefreshesWhatHangsOnIt) {
+TEST_F(RefreshDriverTest, OneTableRefreshesItsCharts) {
   Definition other{"VEX_Chart2", "column", "table-id=\"Data2\""};
   Definition bucket{"VEX_Chart3", "column", "table-id=\"Data2\" strategic-bucket-table-id=\"Data1\""};
   Definition otherCase{"VEX_Chart4", "column", "table-id=\"data1\""};

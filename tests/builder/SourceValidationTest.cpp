@@ -11,7 +11,7 @@ using S = std::string;
 
 class SourceValidationTest : public test::HostTest {};
 
-TEST_F(SourceValidationTest, ValidationCarriesTheTablesGeometryIntoTheDefinition) {
+TEST_F(SourceValidationTest, ValidationStoresTheTablesPositionInTheDefinition) {
   Open(test::SalesBook({}));
   RetrieveTableDefinitions();
   auto document = NewXMLDocument();
@@ -32,7 +32,7 @@ TEST_F(SourceValidationTest, ValidationCarriesTheTablesGeometryIntoTheDefinition
       << "what was carried before the failure stays, what lies behind it isn't touched";
 }
 
-TEST_F(SourceValidationTest, WhatMakesAChartUnavailable) {
+TEST_F(SourceValidationTest, UnavailableCharts) {
   PlainBook book = test::SalesBook({});
   test::PlainSheet bare{"Bare"};
   bare.rows = {{S("Only a title")}, {}, {S("Region"), S("Amount")}};

@@ -81,7 +81,7 @@ TEST_F(BatchTest, OneThatFailsDoesNotStopTheOthers) {
   EXPECT_TRUE(watched.err.ends_with("\r2 workbooks: 2 charts refreshed\n")) << watched.err;
 }
 
-TEST_F(BatchTest, OptionsHoldForEachWorkbook) {
+TEST_F(BatchTest, OptionsApplyToEachWorkbook) {
   auto two = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "column", "table-id=\"Data2\""}});
   two.sheets.push_back(test::SalesSheet("Data2"));
   const S both = Write("both.xlsx", two), one = Write("one.xlsx");
@@ -101,7 +101,7 @@ TEST_F(BatchTest, OptionsHoldForEachWorkbook) {
   EXPECT_GT(lines, 10);
 }
 
-TEST_F(BatchTest, ResultsGoIntoAFolderEachByItsName) {
+TEST_F(BatchTest, ResultsAreWrittenIntoAFolderByName) {
   const S first = Write("one/a.xlsx"), second = Write("two/b.xlsx"), twin = Write("two/a.xlsx"),
           out = folder_ / "out";
   const S before = Bytes(first);
@@ -138,7 +138,7 @@ TEST_F(BatchTest, ResultsGoIntoAFolderEachByItsName) {
   EXPECT_EQ(Bytes(first), before);
 }
 
-TEST_F(BatchTest, AWorkbookIsDoneOnceHoweverItIsNamed) {
+TEST_F(BatchTest, AWorkbookWithSeveralNamesIsRefreshedOnce) {
   const S book = Write("a.xlsx"), link = folder_ / "link.xlsx";
   fs::create_symlink("a.xlsx", link);
   const CommandResult result =
@@ -147,7 +147,7 @@ TEST_F(BatchTest, AWorkbookIsDoneOnceHoweverItIsNamed) {
   EXPECT_EQ(result.err, "1 chart refreshed\n");
 }
 
-TEST_F(BatchTest, AWorkerThatDiesTakesOnlyItsOwnWorkbookAlong) {
+TEST_F(BatchTest, AWorkerThatDiesAffectsOnlyItsOwnWorkbook) {
   std::vector<BookRun> runs;
   for (const char* name : {"a", "b", "c", "d", "e"}) runs.push_back({name, std::nullopt});
   const auto doRun = [](const BookRun& run, const Streams& to) -> BookResult {

@@ -40,7 +40,7 @@ class ChartVerbsTest : public test::WizardVerbsTest {
   S out_ = folder_ / "out.xlsx";
 };
 
-TEST_F(ChartVerbsTest, WhatIsNotThereIsOneSentenceAndNothingIsSaved) {
+TEST_F(ChartVerbsTest, MissingThingsAreReportedAndNothingIsSaved) {
   const std::pair<std::vector<S>, S> cases[] = {
       // tables, types and charts
       {{"new", "--table", "Sales", "--type", "bar"}, "no table 'Sales'; there are Data1, Data2 and Data3."},
@@ -120,7 +120,7 @@ TEST_F(ChartVerbsTest, WhatIsNotThereIsOneSentenceAndNothingIsSaved) {
     EXPECT_EQ(Verb(arguments).code, 2);
 }
 
-TEST_F(ChartVerbsTest, ModifyTouchesOnlyWhatIsNamed) {
+TEST_F(ChartVerbsTest, ModifyChangesOnlyTheGivenSettings) {
   const auto definition = [&](const std::vector<S>& options) {
     std::vector<S> arguments = {"modify", "NAME of vex_chart1"};
     arguments.insert(arguments.end(), options.begin(), options.end());
@@ -161,7 +161,7 @@ TEST_F(ChartVerbsTest, ModifyTouchesOnlyWhatIsNamed) {
   }
 }
 
-TEST_F(ChartVerbsTest, AChartWhoseTableFitsNoLongerGetsAnotherOne) {
+TEST_F(ChartVerbsTest, AChartWithAnUnsuitableTableGetsAnotherOne) {
   const CommandResult result = Verb({"modify", "VEX_Chart2", "--table", "Data1", "--values", "Cost"});
   EXPECT_EQ(result.code, 0) << result.err;
   const S definition = Definition(out_, "VEX_Chart2");
@@ -240,7 +240,7 @@ TEST_F(ChartVerbsTest, AChartWithoutATableCanOnlyBeDeleted) {
             "plotsmith: no chart 'VEX_Chart1'; the workbook has no charts.\n");
 }
 
-TEST_F(ChartVerbsTest, CopiesStandWhereTheyAreTold) {
+TEST_F(ChartVerbsTest, CopiesAreMadeOnTheGivenSheet) {
   const std::pair<std::vector<S>, S> cases[] = {
       {{}, "VEX_Chart3  \"Copy of Name of VEX_Chart1\"\n  column chart on sheet Charts,"},
       {{"--name", "Twin", "--sheet", "data2"}, "VEX_Chart3  \"Twin\"\n  column chart on sheet Data2,"},
@@ -268,7 +268,7 @@ TEST_F(ChartVerbsTest, DeletesSeveralCharts) {
             "page frmPSSelectAction\n");
 }
 
-TEST_F(ChartVerbsTest, RowsAreNamedByNumberWhereTheirTextIsNotEnough) {
+TEST_F(ChartVerbsTest, AmbiguousRowsAreSelectedByNumber) {
   test::PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}, {"VEX_Chart3"}});
   book_ = Write(book);
   for (const auto& [chart, name] :
@@ -287,7 +287,7 @@ TEST_F(ChartVerbsTest, RowsAreNamedByNumberWhereTheirTextIsNotEnough) {
   EXPECT_EQ(RunCommand({"definition", book_, "same"}).err, "plotsmith: " + sentence);
 }
 
-TEST_F(ChartVerbsTest, WhatTheBuildHasToSayIsSavedAndSaid) {
+TEST_F(ChartVerbsTest, MessagesOfTheBuildAreReported) {
   test::PlainBook book;
   book.sheets.push_back(test::SalesSheet());
   for (int i = 0; i < 300; ++i) book.sheets[0].rows.push_back({S("East"), "P" + std::to_string(i), 1.0, 1.0});
@@ -308,7 +308,7 @@ TEST_F(ChartVerbsTest, WhatTheBuildHasToSayIsSavedAndSaid) {
   EXPECT_EQ(Wizard(book_, printed.out).code, 0) << "a script that expects it is content";
 }
 
-TEST_F(ChartVerbsTest, ARunThatEndsBeforeItsPagesIsNoSuccess) {
+TEST_F(ChartVerbsTest, ARunThatEndsBeforeItsPagesFails) {
   test::PlainBook book;
   book.sheets.push_back({"Sheet1"});
   book_ = Write(book);

@@ -78,7 +78,7 @@ TEST(CheckWordsTest, ListsAndQuotations) {
   EXPECT_EQ(ShellWord("Region=Gebiet O'Neil"), "'Region=Gebiet O'\\''Neil'");
 }
 
-TEST_F(CheckTest, AGoodWorkbookIsListedAndFine) {
+TEST_F(CheckTest, AWorkbookWithoutProblemsIsListed) {
   const auto result = Check(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}}));
   EXPECT_EQ(result.code, 0);
   EXPECT_EQ(result.out,
@@ -92,7 +92,7 @@ TEST_F(CheckTest, AGoodWorkbookIsListedAndFine) {
   EXPECT_EQ(Found(test::BucketBook(test::BucketDefinition())), List{});
 }
 
-TEST_F(CheckTest, WhatTheSystemWritesIsFine) {
+TEST_F(CheckTest, TheSystemsOwnDefinitionsHaveNoProblems) {
   const PlainBook books[] = {SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}, {"VEX_Chart3", "bar"}}),
                              test::BubbleBook({{"a", "b", 1, 2, 3}}, test::BubbleDefinition()),
                              test::BucketBook(test::BucketDefinition())};
@@ -130,7 +130,7 @@ TEST_F(CheckTest, AWorkbookWithoutDefinitionsOrTablesIsFine) {
   EXPECT_TRUE(damaged.err.ends_with("sheet2.xml can't be read: its XML is damaged.\n")) << damaged.err;
 }
 
-TEST_F(CheckTest, RowsThatALoadRemovesOrNeverReads) {
+TEST_F(CheckTest, RowsThatAreRemovedOrNotRead) {
   const S good = Definition{"VEX_Chart1"}.Xml();
   const S refused = "; until this is corrected, the workbook is only written with --drop-broken.";
   const S confused =
@@ -168,7 +168,7 @@ TEST_F(CheckTest, RowsThatALoadRemovesOrNeverReads) {
                   "Charts: " + kStray + confused}));
 }
 
-TEST_F(CheckTest, ChartsThatAreNotSeen) {
+TEST_F(CheckTest, InvisibleCharts) {
   const S refused = "; until this is corrected, the workbook is only written with --drop-broken.";
   PlainBook book = SalesBook({{"VEX_Chart1"}});
   book.Sheet("Charts").frames[0].alternativeText = "";
@@ -210,7 +210,7 @@ TEST_F(CheckTest, ChartsThatAreNotSeen) {
       << RunCommand({"check", path}).out;
 }
 
-TEST_F(CheckTest, NamesAndValuesThatADefinitionCannotHave) {
+TEST_F(CheckTest, InvalidNamesAndValuesInDefinitions) {
   const auto with = [](const auto& change) {
     Definition definition;
     change(definition);
@@ -269,7 +269,7 @@ TEST_F(CheckTest, NamesAndValuesThatADefinitionCannotHave) {
   for (const auto& [definition, findings] : cases) EXPECT_EQ(Found(definition), findings) << definition.Xml();
 }
 
-TEST_F(CheckTest, WhatATypeNeeds) {
+TEST_F(CheckTest, RequirementsOfTypes) {
   const S rows =
       "<categories headings-in=\"rows\"><column name=\"Region\"/><column name=\"Product\"/></categories>";
   const S across =
@@ -300,7 +300,7 @@ TEST_F(CheckTest, WhatATypeNeeds) {
   for (const auto& [tried, findings] : cases) EXPECT_EQ(Found(tried), findings) << tried.Xml();
 }
 
-TEST_F(CheckTest, TablesAndColumnsThatAreNotThere) {
+TEST_F(CheckTest, MissingTablesAndColumns) {
   const auto over = [](const S& table) { return Definition{"VEX_Chart1", "column", table}; };
   PlainBook book = SalesBook({over("table-id=\"Sales\"")});
   book.names = {{"VEX_TableRange2", "Data1!$A$1:$D$5"},
@@ -363,7 +363,7 @@ TEST_F(CheckTest, BucketTablesThatDoNotFit) {
                  "its label columns are Project, Theme and Bucket."});
 }
 
-TEST_F(CheckTest, CellsThatAreErrorsTextsOrFormulasWithoutAResult) {
+TEST_F(CheckTest, UnsuitableCells) {
   const auto found = [&](const auto& change) {
     PlainBook book = SalesBook({{"VEX_Chart1"}});
     change(book.Sheet("Data1").rows);
@@ -431,7 +431,7 @@ TEST_F(CheckTest, DatesAreNumbersToAChart) {
       << "without the error it would be a label column all the same";
 }
 
-TEST_F(CheckTest, JsonHasTheSameFacts) {
+TEST_F(CheckTest, JsonHasTheSameContent) {
   PlainBook book = SalesBook({{"VEX_Chart1", "column", "table-id=\"Gone\""}});
   book.Sheet("Data1").rows[1][3] = RawCell{kFormula};
   book.names = {{"VEX_SB1", "#REF!"}};

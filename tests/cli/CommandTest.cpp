@@ -34,7 +34,7 @@ class CommandTest : public ::testing::Test {
   test::TempFolder folder_;
 };
 
-TEST_F(CommandTest, RefreshSaysNothingWhenAllIsWell) {
+TEST_F(CommandTest, RefreshPrintsNothingWithoutProblems) {
   const S book = Write(SalesBook({{"VEX_Chart1"}}));
   const S before = Bytes(book);
   const CommandResult refreshed = RunCommand({"refresh", book, "-o", folder_ / "out.xlsx"});
@@ -62,7 +62,7 @@ TEST_F(CommandTest, MessagesReachStderrWordForWord) {
   EXPECT_NE(RunCommand({"charts", book}).out.find("table no longer fits"), S::npos);
 }
 
-TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
+TEST_F(CommandTest, UnreadableFilesAreReportedAndNothingIsWritten) {
   const auto file = [&](const S& name, const S& bytes) {
     std::ofstream(folder_ / name, std::ios::binary) << bytes;
     return folder_ / name;
@@ -166,7 +166,7 @@ TEST_F(CommandTest, NothingIsSavedAfterTheOutputWasLost) {
   EXPECT_EQ(Bytes(book), before);
 }
 
-TEST_F(CommandTest, WhatIsNoFileSaysSo) {
+TEST_F(CommandTest, PathsWithoutAFileAreReported) {
   std::filesystem::create_symlink("round", folder_.Path() / "round");
   for (const S& path : {folder_ / "nothing.xlsx", folder_ / S(300, 'x'), folder_ / "round", folder_ / ""}) {
     const CommandResult result = RunCommand({"refresh", path});
@@ -176,7 +176,7 @@ TEST_F(CommandTest, WhatIsNoFileSaysSo) {
   }
 }
 
-TEST_F(CommandTest, WrongUsageIsTwo) {
+TEST_F(CommandTest, WrongUsageHasExitCode2) {
   const S book = Write(SalesBook({}));
   for (const std::vector<S>& arguments :
        std::vector<std::vector<S>>{{},
@@ -203,7 +203,7 @@ TEST_F(CommandTest, WrongUsageIsTwo) {
   EXPECT_NE(RunCommand({"refresh", "--help"}).out.find("--table"), S::npos);
 }
 
-TEST_F(CommandTest, AWorkbookThatIsOpenElsewhereIsLeftAlone) {
+TEST_F(CommandTest, AWorkbookThatIsOpenElsewhereIsRefused) {
   for (const char* lock : {".~lock.book.xlsx#", "~$book.xlsx"}) {
     const S book = Write(SalesBook({{"VEX_Chart1"}}));
     std::ofstream(folder_ / lock) << "somebody";
@@ -352,7 +352,7 @@ TEST_F(CommandTest, AStateHasItsReason) {
   }
 }
 
-TEST_F(CommandTest, ARunWithoutChartsSaysSo) {
+TEST_F(CommandTest, ARunWithoutChartsIsReported) {
   const S none = Write(SalesBook({}), "none.xlsx"), one = Write(SalesBook({{"VEX_Chart1"}}), "one.xlsx");
   test::PlainBook other = SalesBook({{"VEX_Chart1"}});
   other.sheets.push_back(test::SalesSheet("Data2"));
@@ -371,7 +371,7 @@ TEST_F(CommandTest, ARunWithoutChartsSaysSo) {
   EXPECT_EQ(result.err, "1 chart refreshed\n");
 }
 
-TEST_F(CommandTest, DatesHaveAnIsoTextBesideTheirNumber) {
+TEST_F(CommandTest, DatesHaveAnIsoTextAndANumber) {
   test::PlainBook plain = SalesBook({});
   plain.styles =
       "<styleSheet xmlns='http://schemas.openxmlformats.org/spreadsheetml/2006/main'><numFmts>"
@@ -398,7 +398,7 @@ TEST_F(CommandTest, DatesHaveAnIsoTextBesideTheirNumber) {
   EXPECT_EQ(cells({"--value", "--json"}).substr(0, 44), R"([[{"number":45000.25,"iso":"2027-03-16"},{"n)");
 }
 
-TEST_F(CommandTest, HelpAndVersionAreToldInEveryWay) {
+TEST_F(CommandTest, HelpAndVersionCanBeRequestedInEveryWay) {
   const S all = RunCommand({"--help"}).out, refresh = RunCommand({"refresh", "--help"}).out;
   EXPECT_EQ(RunCommand({"help"}).out, all);
   EXPECT_EQ(RunCommand({"help", "refresh"}).out, refresh);
@@ -449,7 +449,7 @@ TEST_F(CommandTest, OneTableOnly) {
   EXPECT_EQ(RunCommand({"cells", book, "VEX_ChartData!A1:A4"}).out, "VEX_Chart2\nVEX_Chart2\nVEX_Chart2\n\n");
 }
 
-TEST_F(CommandTest, RenamedColumnsAreCarriedIntoTheCharts) {
+TEST_F(CommandTest, ChartsFollowRenamedColumns) {
   auto sales = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "bar", "table-id=\"Data2\" title=\"\""}});
   sales.Sheet("Charts").frames[1].alternativeText = "VEX_Chart2";
   const S book = Write(sales);

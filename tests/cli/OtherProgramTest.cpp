@@ -52,7 +52,7 @@ class OtherProgramTest : public testing::Test {
   test::TempFolder folder_;
 };
 
-TEST_F(OtherProgramTest, TheWizardsProgramGetsTheArgumentsAndItsEndIsTheCommands) {
+TEST_F(OtherProgramTest, TheWizardsProgramGetsTheArgumentsAndItsExitCodeIsReturned) {
   PutProgram("bin", "printf '[%s]' \"$@\"\nexit 7\n");
   struct Row {
     S arguments, passed;
@@ -69,7 +69,7 @@ TEST_F(OtherProgramTest, TheWizardsProgramGetsTheArgumentsAndItsEndIsTheCommands
   EXPECT_EQ(Wizard("book.xlsx", "").status, 128 + SIGTERM);
 }
 
-TEST_F(OtherProgramTest, TheWizardsProgramIsLookedForBesideTheCommandAndThenInPath) {
+TEST_F(OtherProgramTest, TheWizardsProgramIsSearchedBesideTheCommandAndThenInPath) {
   const Ended absent = {
       2,
       "plotsmith: the wizard's window is the program plotsmith-wizard, which isn't installed; --script FILE "

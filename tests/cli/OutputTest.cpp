@@ -111,7 +111,7 @@ TEST_F(OutputTest, TheContentTypeFollowsTheExtension) {
   }
 }
 
-TEST_F(OutputTest, WhatAFileCannotHoldIsRefusedBeforeTheWork) {
+TEST_F(OutputTest, UnsuitableExtensionsAreRefusedBeforeTheWork) {
   const S plain = Write("plain.xlsx"), macros = Write("macros.xlsm", true);
   const S hasMacros = "the workbook has macros, which a file ",
           hold = " can't hold; give it the extension .xlsm";

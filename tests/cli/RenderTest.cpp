@@ -96,7 +96,7 @@ class RenderTest : public ::testing::Test {
   S fresh_;
 };
 
-TEST(PictureNamesTest, NamesAreSafeShortAndToldFromEachOther) {
+TEST(PictureNamesTest, NamesAreSafeShortAndUnique) {
   const struct {
     S book, what, name;
   } cases[] = {

@@ -78,7 +78,7 @@ S Line(const S& sentence, const S& place = "VEX_ChartDefinitions!A2") {
   return "plotsmith: " + place + " (chart 'Name of VEX_Chart1'): " + sentence + "\n";
 }
 
-TEST_F(RunLookTest, NothingIsWrittenWhereADefinitionWouldBeLost) {
+TEST_F(RunLookTest, NothingIsWrittenIfADefinitionWouldBeLost) {
   const S good = Definition{"VEX_Chart1"}.Xml();
   const S named = " (chart 'Name of VEX_Chart1'): ";
   const struct {
@@ -119,7 +119,7 @@ TEST_F(RunLookTest, NothingIsWrittenWhereADefinitionWouldBeLost) {
   }
 }
 
-TEST_F(RunLookTest, ADrawnChartThatIsGoneTakesItsDefinitionAlong) {
+TEST_F(RunLookTest, AMissingDrawnChartLosesItsDefinition) {
   Write(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}}));
   EXPECT_EQ(Refresh(), "");
   Edit(kDrawing, "descr=\"VEX_Chart1\"", "descr=\"Mine\"");
@@ -150,7 +150,7 @@ TEST_F(RunLookTest, AGroupedChartIsNotLost) {
   EXPECT_EQ(Refresh(), "") << "the definition is still there";
 }
 
-TEST_F(RunLookTest, RowsThatAreNotReadAndNamesThatAreUnknownAreSaid) {
+TEST_F(RunLookTest, UnreadRowsAndUnknownNamesAreReported) {
   Definition odd{"VEX_Chart1"};
   odd.attributes += " colour=\"red\"";
   odd.rest = test::Settings({"staked"});
@@ -175,7 +175,7 @@ TEST_F(RunLookTest, RowsThatAreNotReadAndNamesThatAreUnknownAreSaid) {
                      "pie, bubble or strategic bucket."));
 }
 
-TEST_F(RunLookTest, ADefinitionThatAProgramChangedIsToldFromAChartThatAPersonChanged) {
+TEST_F(RunLookTest, ChangesOfDefinitionsAndOfChartsAreDistinguished) {
   Definition definition{"VEX_Chart1"};
   definition.rest = "<axes><axis type=\"value\" label=\"Euro\" sticky=\"no\"/></axes>";
   PlainBook book = SalesBook({definition});
@@ -220,7 +220,7 @@ TEST_F(RunLookTest, ADefinitionThatAProgramChangedIsToldFromAChartThatAPersonCha
       Line("The title is 'Sales' on the chart and 'Costs' in the definition; that of the chart was kept."));
 }
 
-TEST_F(RunLookTest, AVerbThatChangesDefinitionsSaysWhatIsLeftOfTheOldOnes) {
+TEST_F(RunLookTest, AVerbThatChangesDefinitionsReportsTheRemainingProblems) {
   Definition definition{"VEX_Chart1"};
   definition.rest = "<axes><axis type=\"value\" label=\"Amount\" sticky=\"no\"/></axes>";
   Write(SalesBook({definition}));
@@ -244,7 +244,7 @@ TEST_F(RunLookTest, AVerbThatChangesDefinitionsSaysWhatIsLeftOfTheOldOnes) {
       << "the type has changed, and the other chart isn't drawn";
 }
 
-TEST_F(RunLookTest, CellsThatMakeAWrongPictureAreSaid) {
+TEST_F(RunLookTest, CellsThatMakeAWrongPictureAreReported) {
   const RawCell formula{"><f>1+1</f><v></v></c>"}, error{" t=\"e\"><v>#N/A</v></c>"};
   const auto refresh = [&](const auto& change, const Definition& definition = {}) {
     PlainBook book = SalesBook({definition});
@@ -279,7 +279,7 @@ TEST_F(RunLookTest, CellsThatMakeAWrongPictureAreSaid) {
             Line("A column chart needs the element 'values', unless its headings are in columns."));
 }
 
-TEST_F(RunLookTest, WhatSeveralChartsHaveInCommonIsOneLine) {
+TEST_F(RunLookTest, CommonProblemsOfSeveralChartsAreOneLine) {
   PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}});
   book.Sheet("Data1").rows[2][2] = S("5 pcs");
   Write(book);
@@ -289,7 +289,7 @@ TEST_F(RunLookTest, WhatSeveralChartsHaveInCommonIsOneLine) {
             "counts as 0.\n");
 }
 
-TEST_F(RunLookTest, AColumnThatLooksRenamedIsNamed) {
+TEST_F(RunLookTest, APossiblyRenamedColumnIsReported) {
   PlainBook book = SalesBook({{"VEX_Chart1"}});
   Write(book);
   EXPECT_EQ(Refresh(), "");
@@ -326,7 +326,7 @@ TEST_F(RunLookTest, AColumnThatLooksRenamedIsNamed) {
       << "nor is one that another chart has";
 }
 
-TEST_F(RunLookTest, ABubbleWithoutALabelTakesTheLegendAlong) {
+TEST_F(RunLookTest, ABubbleWithoutALabelPreventsTheLegend) {
   const S start = "The column 'Group' has ";
   const S again =
       ", and then switch the chart's own legend on in a spreadsheet program; the next refresh draws "
@@ -363,7 +363,7 @@ TEST_F(RunLookTest, ABubbleWithoutALabelTakesTheLegendAlong) {
   EXPECT_EQ(Refresh(), "") << "each piece has a colour";
 }
 
-TEST_F(RunLookTest, MoreBucketsThanAChartCanNameAreSaid) {
+TEST_F(RunLookTest, TooManyBucketsAreReported) {
   const auto write = [&](int count) {
     PlainBook book = test::BucketBook(test::BucketDefinition());
     auto& rows = book.Sheet("Buckets").rows;
@@ -414,7 +414,7 @@ TEST_F(RunLookTest, MoreBucketsThanAChartCanNameAreSaid) {
   EXPECT_NE(Charts().find("strategic bucket chart"), S::npos) << Charts();
 }
 
-TEST_F(RunLookTest, ChartsThatCouldBeTakenForOthersStopWhatMakesOrDeletesCharts) {
+TEST_F(RunLookTest, AmbiguousChartsPreventNewAndDeletedCharts) {
   const S drop =
       "plotsmith: nothing was changed, as charts could be taken for each other; correct this, or "
       "use --drop-broken.\n";
@@ -448,7 +448,7 @@ TEST_F(RunLookTest, ChartsThatCouldBeTakenForOthersStopWhatMakesOrDeletesCharts)
   }
 }
 
-TEST_F(RunLookTest, OfAWorkbookThatNeverSawPlotsmithNothingElseIsSaid) {
+TEST_F(RunLookTest, AWorkbookWithoutDefinitionsHasNoOtherMessages) {
   PlainBook book;
   book.sheets.push_back(test::SalesSheet("Sheet1"));
   book.sheets[0].rows[1][2] = RawCell{"><f>1+1</f><v></v></c>"};

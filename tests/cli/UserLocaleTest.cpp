@@ -83,7 +83,7 @@ class LocaleVariables {
   Values kept_;
 };
 
-TEST(UserLocaleTest, TheEnvironmentTellsTheDesktop) {
+TEST(UserLocaleTest, TheDesktopUsesTheEnvironment) {
   LocaleVariables environment;
   const std::pair<LocaleVariables::Values, std::int32_t> cases[] = {
       {{}, 1033},

@@ -99,7 +99,7 @@ TEST_F(WizardCommandTest, NothingElseIsSaved) {
   }
 }
 
-TEST_F(WizardCommandTest, WhatTheWizardSaysIsExpectedByTheScript) {
+TEST_F(WizardCommandTest, TheScriptMustExpectTheWizardsMessages) {
   const S empty = [&] {
     test::PlainBook book;
     book.sheets.push_back({"Sheet1"});
@@ -148,7 +148,7 @@ TEST_F(WizardCommandTest, PagesAreShown) {
   EXPECT_EQ(Wizard(book, "close", {"--show"}).out, "") << "no page is open at the end";
 }
 
-TEST_F(WizardCommandTest, FilesAndLocksAreSeenTo) {
+TEST_F(WizardCommandTest, FilesAndLocksAreChecked) {
   const S book = Write(SalesBook({{"VEX_Chart1"}}));
   const S script = folder_ / "script.txt";
   std::ofstream(script) << "select grdCharts #1\r\npress cmdModify\r\npress cmdBak\r\n";

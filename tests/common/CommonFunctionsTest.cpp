@@ -21,7 +21,7 @@ using S = std::string;
 
 class CommonFunctionsTest : public test::HostTest {};
 
-TEST_F(CommonFunctionsTest, MessagesAndTheOneThatIsPending) {
+TEST_F(CommonFunctionsTest, MessagesAndThePendingMessage) {
   sPendingMessage = "pending";
   ShowMessage("");
   ShowMessage("");
@@ -70,7 +70,7 @@ TEST_F(CommonFunctionsTest, SheetsByName) {
   EXPECT_EQ(oWorkbook->ActiveSheet()->Name(), "First");
 }
 
-TEST_F(CommonFunctionsTest, CellsInEachKind) {
+TEST_F(CommonFunctionsTest, CellsAsEachKindOfValue) {
   test::PlainBook book = test::SalesBook({});
   const auto raw = [](const char* xml) { return test::RawCell{xml}; };
   book.Sheet("Data1").rows = {
@@ -116,7 +116,7 @@ class ClockDesktop : public desktop::Desktop {
   double now = 0;
 };
 
-TEST_F(CommonFunctionsTest, ARunBeginsWithItsVariablesAsTheComponentStarts) {
+TEST_F(CommonFunctionsTest, ARunResetsTheVariables) {
   Open(test::SalesBook({{"VEX_Chart1"}}));
   Refresh();
   oApplication = host_;

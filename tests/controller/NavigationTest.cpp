@@ -80,7 +80,7 @@ TEST_F(NavigationTest, WaysThroughTheWizard) {
   EXPECT_FALSE(oWorkbook);
 }
 
-TEST_F(NavigationTest, FinishStopsAtTheFirstPageThatIsNotSatisfied) {
+TEST_F(NavigationTest, FinishStopsAtTheFirstInvalidPage) {
   Open(SalesBook({{"VEX_Chart1"}}));
   // The page doesn't offer this type for the table, so the test sets it directly.
   const auto finish = [](const S& type) {
@@ -103,7 +103,7 @@ TEST_F(NavigationTest, FinishStopsAtTheFirstPageThatIsNotSatisfied) {
   EXPECT_EQ(Messages().back(), "Brindle Plotsmith: PSController.JumpFinish\nUnknown chart type");
 }
 
-TEST_F(NavigationTest, ComplaintsAndErrors) {
+TEST_F(NavigationTest, MessagesAndErrors) {
   Open(SalesBook({{"VEX_Chart1"}}));
   PSJumpToStep(2, 1, nullptr);
   for (const int step : {step::kNext, step::kPrevious, step::kFinish}) PSJumpToStep(step, 77, nullptr);
@@ -139,7 +139,7 @@ TEST_F(NavigationTest, OpeningWithoutChartsOrTables) {
 
 class EntryTest : public test::HostTest {};
 
-TEST_F(EntryTest, GuardsSpeakInTheirOrder) {
+TEST_F(EntryTest, GuardsReportInOrder) {
   PlainBook book = SalesBook({});
   book.workbookExtra = "<workbookProtection lockStructure=\"true\"/>";
   Open(book);
@@ -227,7 +227,7 @@ TEST_F(EntryTest, EditModeIsFoundByTheHostsRefusal) {
   EXPECT_EQ(Messages().size(), 1u);
 }
 
-TEST_F(EntryTest, ARunThatWasBrokenOffIsNotComplete) {
+TEST_F(EntryTest, ACancelledRunIsNotComplete) {
   Open(SalesBook({{"VEX_Chart1"}}));
   ResetSystem();
   std::vector<S> macros;

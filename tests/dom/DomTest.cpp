@@ -7,7 +7,7 @@
 namespace plotsmith::dom {
 namespace {
 
-TEST(DomTest, WhatDoesNotParseLeavesAnEmptyDocument) {
+TEST(DomTest, AnInvalidTextLeavesAnEmptyDocument) {
   auto document = IXMLDOMDocument2::Create();
   ASSERT_TRUE(document.loadXML("<!-- c --><chart a='1'/>"));
   EXPECT_EQ(document.documentElement().tagName(), "chart");
@@ -26,7 +26,7 @@ TEST(DomTest, WhatDoesNotParseLeavesAnEmptyDocument) {
   EXPECT_FALSE(document.loadXML(deep)) << "a branch that deep can't even be taken down";
 }
 
-TEST(DomTest, AParseErrorTellsReasonLineAndCharacter) {
+TEST(DomTest, AParseErrorHasReasonLineAndCharacter) {
   auto document = IXMLDOMDocument2::Create();
   std::string deep;
   for (int i = 0; i < 300; ++i) deep += "<a>";
@@ -104,7 +104,7 @@ TEST(DomTest, NothingIsError91) {
   }
 }
 
-TEST(XmlDepthTest, CountsElementsAndNothingElse) {
+TEST(XmlDepthTest, CountsOnlyElements) {
   const std::tuple<const char*, int, bool> cases[] = {
       {"<a><b/><b x='>'/><!-- <c> --><![CDATA[<d>]]><?p <e>?>text</a>", 2, false},
       {"<a><b>text</b></a>", 1, true},

@@ -29,7 +29,7 @@ Log EventsOf(const Rule& rule) {
   return log;
 }
 
-TEST(ModelTest, CodeThatSetsAPropertyRaisesWhatAHandWould) {
+TEST(ModelTest, SettingAPropertyRaisesTheEventsOfAUserAction) {
   const Rule rules[] = {
       {"another entry", [](auto& form) { form.cboValues.SetListIndex(1); }, {"cboValues click"}},
       {"the same entry", [](auto& form) { form.cboValues.SetListIndex(-1); }, {}},
@@ -91,7 +91,7 @@ TEST(ModelTest, CodeThatSetsAPropertyRaisesWhatAHandWould) {
   for (const Rule& rule : rules) EXPECT_EQ(EventsOf(rule), rule.events) << rule.name;
 }
 
-TEST(ModelTest, HandsMoveTheFocusAndRaiseEvents) {
+TEST(ModelTest, UserActionsMoveTheFocusAndRaiseEvents) {
   const Rule rules[] = {
       {"from control to control",
        [](auto& form) {
@@ -213,7 +213,7 @@ TEST_F(ModalLoopTest, AShownFormIsLoadedActivatedAndHasTheFocus) {
   EXPECT_EQ(log_, Log{}) << "a form lives once";
 }
 
-TEST_F(ModalLoopTest, TheFirstFocusIsAtTheOptionThatIsChosen) {
+TEST_F(ModalLoopTest, TheSelectedOptionHasTheInitialFocus) {
   form_->txtTitle.SetEnabled(false);
   form_->txtNote.SetVisible(false);
   loop_.ShowModal(form_);
@@ -226,7 +226,7 @@ TEST_F(ModalLoopTest, AFormThatHidesItselfWhileItIsActivatedReturns) {
   EXPECT_EQ(log_, (Log{"load", "activate", "deactivate"}));
 }
 
-TEST_F(ModalLoopTest, AFormMayGoInsideOfItsOwnEvent) {
+TEST_F(ModalLoopTest, AFormMayBeReleasedInItsOwnEvent) {
   std::weak_ptr<SmallForm> first = form_;
   form_->OnOK = [&] {
     SmallForm& self = *form_;
@@ -244,7 +244,7 @@ TEST_F(ModalLoopTest, AFormMayGoInsideOfItsOwnEvent) {
                        "load", "activate", "txtTitle got-focus", "unload"}));
 }
 
-TEST_F(ModalLoopTest, AnErrorGoesThroughFormsThatAreNested) {
+TEST_F(ModalLoopTest, AnErrorPassesThroughNestedForms) {
   const auto second = std::make_shared<SmallForm>(log_, "frmSecond");
   form_->OnOK = [&] {
     const int number = test::ErrorOf([&] { loop_.ShowModal(second); });

@@ -82,7 +82,7 @@ TEST_F(ScriptPlayerTest, PlaysToTheEnd) {
   }
 }
 
-TEST_F(ScriptPlayerTest, LinesThatCannotBeDoneSayWhatThereIsInstead) {
+TEST_F(ScriptPlayerTest, ImpossibleLinesReportTheAlternatives) {
   const S controls =
       "Frame1, txtTitle, txtNote, fraType, optType(0), optType(1), optOther(0), cboValues, cboFormat, "
       "lstOne, "
@@ -169,7 +169,7 @@ TEST_F(ScriptPlayerTest, LinesThatCannotBeDoneSayWhatThereIsInstead) {
   for (const auto& [script, outcome] : cases) EXPECT_EQ(Play(script), outcome) << script;
 }
 
-TEST_F(ScriptPlayerTest, TheScreenIsClosedAsAHandWould) {
+TEST_F(ScriptPlayerTest, FormsAreClosedLikeByAUser) {
   EXPECT_EQ(Play("press cmdOK\nshow"), "");
   EXPECT_EQ(last_, "frmSecond");
   EXPECT_EQ(shown_, Log{"frmSecond A small form"});
@@ -195,7 +195,7 @@ TEST_F(ScriptPlayerTest, AControlMayGoOffWhileTheFocusMovesToIt) {
   EXPECT_EQ(player->Failed()->sentence, "cmdOK is off");
 }
 
-TEST_F(ScriptPlayerTest, LongListsAreCutShort) {
+TEST_F(ScriptPlayerTest, LongListsAreShortened) {
   std::istringstream stream("choose cboValues x");
   StreamLines lines(stream);
   const auto player = std::make_shared<ScriptPlayer>(lines, [](const FormState&) {});

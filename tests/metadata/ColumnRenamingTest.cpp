@@ -12,7 +12,7 @@ using test::SalesBook;
 
 class ColumnRenamingTest : public test::HostTest {};
 
-TEST_F(ColumnRenamingTest, RenamedColumnsAreCarriedIntoDefinitions) {
+TEST_F(ColumnRenamingTest, DefinitionsFollowRenamedColumns) {
   const std::string axes =
       "<axes><axis type=\"label\" label=\"Region\" sticky=\"no\"/><axis type=\"value\" label=\"Region\" "
       "sticky=\"yes\"/>"

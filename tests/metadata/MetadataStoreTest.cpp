@@ -40,7 +40,7 @@ class MetadataStoreTest : public test::HostTest {
   }
 };
 
-TEST_F(MetadataStoreTest, ADefinitionIsStoredInTheRowInWhichItIsNow) {
+TEST_F(MetadataStoreTest, ADefinitionIsStoredInItsCurrentRow) {
   Open(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}}));
   Load();
   const auto sheet = Book().FindWorksheet("VEX_ChartDefinitions");
@@ -57,7 +57,7 @@ TEST_F(MetadataStoreTest, ADefinitionIsStoredInTheRowInWhichItIsNow) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(MetadataStoreTest, RowsWithoutAPlaceGoAndTheOthersKeepTheirOrder) {
+TEST_F(MetadataStoreTest, UnusableRowsAreRemovedAndTheOthersKeepTheirOrder) {
   PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}, {"VEX_Chart3"}});
   auto& rows = book.Sheet("VEX_ChartDefinitions").rows;
   using Row = test::PlainRow;
@@ -84,7 +84,7 @@ TEST_F(MetadataStoreTest, RowsWithoutAPlaceGoAndTheOthersKeepTheirOrder) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(MetadataStoreTest, MissingSheetIsMadeAndTheActiveSheetStays) {
+TEST_F(MetadataStoreTest, AMissingSheetIsAddedAndTheActiveSheetStays) {
   PlainBook book;
   book.sheets = {test::SalesSheet(), test::SalesSheet("Second")};
   book.workbookExtra = "<bookViews><workbookView activeTab=\"1\"/></bookViews>";
@@ -111,7 +111,7 @@ TEST_F(MetadataStoreTest, ProtectedStructureGivesNoSheet) {
   EXPECT_EQ(colCharts->Count(), 0);
 }
 
-TEST_F(MetadataStoreTest, FollowsChartsAndTablesAndMarksWhatNoLongerFits) {
+TEST_F(MetadataStoreTest, FollowsChartsAndTablesAndMarksMissingOnes) {
   PlainBook book = SalesBook(
       {{"VEX_Chart1", "column", "table-id=\"Data1\" chart-worksheet=\"Old\""},
        {"VEX_Chart2", "column", "table-id=\"Gone\""},
@@ -163,7 +163,7 @@ TEST_F(MetadataStoreTest, SaveReplacesARowOrAppendsOne) {
   EXPECT_EQ(Cells("VEX_ChartDefinitions", 3, 1, 3, 1).size(), Definition{"VEX_Chart2"}.Xml().size());
 }
 
-TEST_F(MetadataStoreTest, PaletteIsSetOnceAndOnlyWhereNobodyCares) {
+TEST_F(MetadataStoreTest, ThePaletteIsSetOnceAndOnlyWithoutCharts) {
   PlainBook plain;
   plain.sheets = {test::SalesSheet()};
   Open(plain);
@@ -187,7 +187,7 @@ TEST_F(MetadataStoreTest, PaletteIsSetOnceAndOnlyWhereNobodyCares) {
   EXPECT_EQ(oWorkbook->Colors(17), xlsx::DefaultPaletteColor(17)) << "the palette is somebody's own";
 }
 
-TEST_F(MetadataStoreTest, IdentityAndPlaceOfANewChart) {
+TEST_F(MetadataStoreTest, IdentityAndPositionOfANewChart) {
   Open(SalesBook({{"VEX_Chart1"}, {"VEX_Chart3"}}));
   Load();
   colCharts->Item("VEX_Chart1").documentElement().setAttribute("name", "chart2");

@@ -131,7 +131,7 @@ TEST_F(TableDefinitionsTest, ClassifiesColumns) {
   EXPECT_EQ(Kinds(), "blank=n spaces=n numeric text=n text=l date=l error=l truth=n 2020=n time=n ");
 }
 
-TEST_F(TableDefinitionsTest, BlankStretchesHideNoText) {
+TEST_F(TableDefinitionsTest, TextsAfterBlankCellsAreFound) {
   PlainBook book;
   PlainSheet sheet{"Data1"};
   // The last row of the sheet, followed in the file by a row above it.

@@ -38,7 +38,7 @@ class BusyWindowTest : public test::HostTest {
   std::vector<S> works_;
 };
 
-TEST_F(BusyWindowTest, ItDoesTheWorkThatItWasGiven) {
+TEST_F(BusyWindowTest, ItDoesItsWork) {
   for (const std::int32_t method : {0, 1, 2, 3}) Show(method);
   EXPECT_EQ(works_, (std::vector<S>{"all", "one VEX_Chart7", "run 1"}));
   S log;
@@ -46,7 +46,7 @@ TEST_F(BusyWindowTest, ItDoesTheWorkThatItWasGiven) {
   EXPECT_EQ(view_->log, log) << "it goes by itself, without a hand";
 }
 
-TEST_F(BusyWindowTest, TheBarShowsLifeWhileTheWorkYields) {
+TEST_F(BusyWindowTest, TheBarMovesWhenTheWorkYields) {
   Show(0, [](frmBusyPS& window) {
     ASSERT_TRUE(window.Timer1.Enabled());
     EXPECT_EQ(window.Timer1.Interval(), 100);
@@ -63,7 +63,7 @@ TEST_F(BusyWindowTest, TheBarShowsLifeWhileTheWorkYields) {
   });
 }
 
-TEST_F(BusyWindowTest, AnErrorOfTheWorkReachesTheCallerAndTheWindowGoes) {
+TEST_F(BusyWindowTest, AnErrorOfTheWorkReachesTheCallerAndClosesTheWindow) {
   EXPECT_THROW(Show(0, [](frmBusyPS&) { throw runtime::RuntimeError(13); }), runtime::RuntimeError);
   EXPECT_EQ(view_->log, "show frmBusyPS; close frmBusyPS; ");
   EXPECT_EQ(App.Forms->Front(), nullptr);

@@ -175,7 +175,7 @@ std::vector<RoundTripTest::Case> RoundTripTest::Cases() {
   };
 }
 
-TEST_F(RoundTripTest, WhatAPageWritesItReadsAgain) {
+TEST_F(RoundTripTest, APageReadsItsOwnDefinition) {
   for (const Case& c : Cases()) {
     SCOPED_TRACE("optType(" + std::to_string(c.type) + ")");
     const S writeOut = "; press cmdNext; page frmPSChartLocation; definition";
@@ -190,7 +190,7 @@ TEST_F(RoundTripTest, WhatAPageWritesItReadsAgain) {
   }
 }
 
-TEST_F(RoundTripTest, APageLeavesTheElementsOfOtherTypesAlone) {
+TEST_F(RoundTripTest, APageKeepsTheElementsOfOtherTypes) {
   EXPECT_EQ(Play(SalesBook({}),
                  NewChart(4) +
                      "check chk3D; press cmdBack; choose optType(3); press cmdNext; expect chk3D.Value 1; "

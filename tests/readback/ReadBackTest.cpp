@@ -133,7 +133,7 @@ S TextRun(const S& text, const S& properties = "/>") {
          "</a:t></a:r>";
 }
 
-TEST_F(ReadBackTest, WaysToSayTheSame) {
+TEST_F(ReadBackTest, EquivalentChartParts) {
   const S one = Bar(Ser()), two = Bar(Ser() + Ser("", 1)), shown = "<c:showVal val=\"1\"/>";
   const S untitled = "<c:autoTitleDeleted val=\"1\"/>";
   const auto axes = [](const S& category, const S& value) {
@@ -302,7 +302,7 @@ TEST_F(ReadBackTest, WaysToSayTheSame) {
   EXPECT_TRUE(Messages().empty()) << Messages()[0];
 }
 
-TEST_F(ReadBackTest, SomeChartsLeaveTheFormatAlone) {
+TEST_F(ReadBackTest, SomeChartsKeepTheFormat) {
   const S chart = Bar(Ser(),
                       "<c:catAx><c:axId val=\"1\"/></c:catAx><c:valAx><c:axId val=\"2\"/><c:numFmt "
                       "formatCode=\"0.00\" sourceLinked=\"0\"/></c:valAx>");

@@ -48,7 +48,7 @@ S Claiming(const S& count) {
 
 class HostileTest : public DrawingTest, public ::testing::WithParamInterface<HostileCase> {};
 
-TEST_P(HostileTest, IsDrawnSomehowInLittleTimeAndSpace) {
+TEST_P(HostileTest, IsDrawnInLittleTimeAndSpace) {
   const auto start = std::chrono::steady_clock::now();
   for (const auto& [width, height] : {std::pair{384.0, 270.0}, {3.0, 2000.0}, {1.0, 1.0}}) {
     const Drawing drawing = Draw(GetParam().chart, "", width, height);
@@ -129,7 +129,7 @@ INSTANTIATE_TEST_SUITE_P(
                             "<c:firstSliceAng val=\"-1e9\"/><c:holeSize val=\"1000\"/></c:doughnutChart>")}),
     [](const auto& each) { return S(each.param.name); });
 
-TEST_F(DrawingTest, LegendsAreReadAsFarAsTheyAreAskedForWhateverThePartClaims) {
+TEST_F(DrawingTest, LegendsAreReadOnlyAsFarAsTheyAreShown) {
   OpenChart(ChartPartXml(PlotXml("<c:pieChart>" + Claiming("4000000") + "</c:pieChart>", "<c:legend/>")));
   for (const S& name : Book().Package().Parts()) {
     if (name.find("/charts/chart") == S::npos || !name.ends_with(".xml")) continue;

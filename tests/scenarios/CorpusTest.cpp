@@ -101,7 +101,7 @@ TEST_F(CorpusTest, SaveChangesNoPartOfAnyWorkbook) {
   }
 }
 
-TEST_F(CorpusTest, LibreOfficeOpensWhatWasSaved) {
+TEST_F(CorpusTest, LibreOfficeOpensTheSavedWorkbooks) {
   if (std::system("command -v soffice > /dev/null 2>&1") != 0) GTEST_SKIP() << "LibreOffice isn't installed";
   fs::create_directory(folder_ / "saved");
   std::set<S> stems;
@@ -121,7 +121,7 @@ TEST_F(CorpusTest, LibreOfficeOpensWhatWasSaved) {
   for (const S& stem : stems) EXPECT_TRUE(fs::exists(folder_ / ("csv/" + stem + ".csv"))) << stem;
 }
 
-TEST_F(CorpusTest, RefreshTouchesOnlyWhatIsItsOwn) {
+TEST_F(CorpusTest, RefreshChangesOnlyItsOwnParts) {
   for (const fs::path& path : Corpus()) {
     const S name = path.filename().string(), out = folder_ / ("out" + path.extension().string());
     if (kRefused.contains(name)) continue;

@@ -66,7 +66,7 @@ struct HandEdit {
   std::vector<S> definition;  ///< Expected in the definition.
 };
 
-TEST_F(HandEditsTest, WhatAPersonDidToAChartSurvives) {
+TEST_F(HandEditsTest, ChangesMadeByHandSurvive) {
   const S label =
       "<c:txPr><a:bodyPr/><a:lstStyle/><a:p><a:pPr><a:defRPr sz=\"1400\" b=\"1\">" + kRed +
       "<a:latin typeface=\"Georgia\"/></a:defRPr></a:pPr><a:endParaRPr lang=\"en-US\"/></a:p></c:txPr>";
@@ -248,7 +248,7 @@ TEST_F(HandEditsTest, ThreeDimensionsKeepTheirView) {
       << SavedPart(kChart);
 }
 
-TEST_F(HandEditsTest, AChartIsFoundOnWhicheverSheetItIsMovedTo) {
+TEST_F(HandEditsTest, AChartIsFoundOnTheSheetToWhichItWasMoved) {
   auto book = SalesBook({{"VEX_Chart1"}});
   test::PlainSheet other{"Other"};
   other.frames = {{"not ours", ""}};
@@ -272,7 +272,7 @@ TEST_F(HandEditsTest, AChartIsFoundOnWhicheverSheetItIsMovedTo) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(HandEditsTest, ChartsThatLostTheirMarkersAreKnownByTheirData) {
+TEST_F(HandEditsTest, ChartsWithoutMarkersAreIdentifiedByTheirData) {
   auto book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "bar"}});
   book.Sheet("Charts").frames.push_back({"", ""});  // A foreign chart, which never had an alternative text.
   Open(book);

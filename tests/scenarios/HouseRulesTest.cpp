@@ -153,13 +153,13 @@ TEST_F(HouseRulesTest, RoomsIncludeOnlyWhatTheTableAllows) {
   for (const Room& room : rooms_) EXPECT_TRUE(used.contains(room.name)) << room.name << " has no file";
 }
 
-TEST_F(HouseRulesTest, NoRoomIncludesItselfByWayOfOthers) {
+TEST_F(HouseRulesTest, NoRoomIncludesItselfThroughOthers) {
   std::map<std::string, std::set<std::string>> graph;
   for (const Room& room : rooms_) graph[room.name] = Allowed(room);
   EXPECT_EQ(FindCycle(graph), "");
 }
 
-TEST_F(HouseRulesTest, NoHeaderIncludesItselfByWayOfOthers) {
+TEST_F(HouseRulesTest, NoHeaderIncludesItselfThroughOthers) {
   std::map<std::string, std::set<std::string>> graph;
   ForEachSource([&](const std::string& file, const std::string& text) {
     if (!file.ends_with(".h")) return;
@@ -196,7 +196,7 @@ TEST_F(HouseRulesTest, TheArchitecturePageShowsTheTable) {
   }
 }
 
-TEST_F(HouseRulesTest, TheSystemCatchesOnlyInItsErrorBlocks) {
+TEST_F(HouseRulesTest, TheSystemCatchesExceptionsOnlyInErrorBlocks) {
   const std::set<std::string> system = {"common", "metadata", "builder", "readback", "pages", "controller"};
   ForEachSource([&](const std::string& file, const std::string& text) {
     if (!system.contains(file.substr(0, file.find('/'))) || file == "common/ErrorBlocks.h") return;

@@ -112,7 +112,7 @@ class LibreOfficeTest : public test::HostTest {
   }
 };
 
-TEST_F(LibreOfficeTest, SeesTheSameSeries) {
+TEST_F(LibreOfficeTest, ReadsTheSameSeries) {
   Definition bar{"VEX_Chart1", "bar"}, area{"VEX_Chart2", "area"},
       column{"VEX_Chart3", "column", "table-id=\"Data1\" title=\"3-D\""};
   bar.rest = test::Settings({"stacked"});
@@ -139,7 +139,7 @@ TEST_F(LibreOfficeTest, SeesTheSameSeries) {
   EXPECT_NE(charts[2].find(">3-D<"), S::npos);
 }
 
-TEST_F(LibreOfficeTest, SeesPiesBubblesAndBuckets) {
+TEST_F(LibreOfficeTest, ReadsPiesBubblesAndBuckets) {
   Definition pie{"VEX_Chart1", "pie"};
   pie.series = "<series headings-in=\"none\"/>";
   Open(test::SalesBook({pie}));
@@ -187,7 +187,7 @@ TEST_F(LibreOfficeTest, AChartOnANewSheetHasItsHeight) {
       << height;
 }
 
-TEST_F(LibreOfficeTest, WhatWasEditedThereSurvivesTheNextRefresh) {
+TEST_F(LibreOfficeTest, ItsEditsSurviveTheNextRefresh) {
   Definition column{"VEX_Chart1", "column"}, area{"VEX_Chart2", "area"};
   column.rest =
       "<axes><axis type=\"value\" label=\"Money\" sticky=\"no\"/></axes><data-labels><data-label "

@@ -90,7 +90,7 @@ class SavingProgramsTest : public test::HostTest {
   }
 };
 
-TEST_F(SavingProgramsTest, WhatAProgramIsKnownToLoseComesBack) {
+TEST_F(SavingProgramsTest, KnownLossesOfAProgramAreRestored) {
   const S all = "definition, chart, comment, legend", none = "legend";
   const struct {
     S program, version, lost, left;
@@ -124,7 +124,7 @@ TEST_F(SavingProgramsTest, ALegendThatAPersonHidStaysHidden) {
   EXPECT_EQ(Left(), "definition, chart, comment, ");
 }
 
-TEST_F(SavingProgramsTest, TheHostSaysWhoSavedTheWorkbook) {
+TEST_F(SavingProgramsTest, TheHostReturnsTheSavingProgram) {
   const auto name = [&](const char* property = "Application name") {
     return runtime::CStr(Book().BuiltinDocumentProperties(property)->Value());
   };
@@ -143,7 +143,7 @@ TEST_F(SavingProgramsTest, TheHostSaysWhoSavedTheWorkbook) {
   EXPECT_EQ(SavedPart("/docProps/app.xml"), app) << "Plotsmith doesn't sign as the program";
 }
 
-TEST_F(SavingProgramsTest, WhatWasDeletedDoesNotComeBack) {
+TEST_F(SavingProgramsTest, DeletedShapesAreNotRestored) {
   Draw();
   // A copy that a person made in LibreOffice shows the same data, and has no alternative text either.
   test::EditPart(folder_ / "saved.xlsx", kDrawing, [](S& xml) {

@@ -142,7 +142,7 @@ TEST_F(SchemaTest, ChartsOfEveryKindFromEmptyFrames) {
   }
 }
 
-TEST_F(SchemaTest, ChartsOfTheCorpusTakenOver) {
+TEST_F(SchemaTest, ChartsOfTheCorpusWithADefinition) {
   int taken = 0;
   const auto kinds = AllKinds();
   std::vector<fs::path> files;
@@ -208,7 +208,7 @@ TEST_F(SchemaTest, ChartsOfTheCorpusTakenOver) {
   EXPECT_GT(taken, 500);
 }
 
-TEST_F(SchemaTest, WhatTheVerbsOfTheWizardWrite) {
+TEST_F(SchemaTest, OutputOfTheWizardsVerbs) {
   const S book = folder_ / "book.xlsx", before = folder_ / "before.xlsx";
   test::PlainBook plain;
   plain.sheets = {test::SalesSheet(), Targets()};

@@ -93,7 +93,7 @@ class DeletedChartTest : public test::HostTest {
   static inline const S kOwnLinks = kCharts + kImages;
 };
 
-TEST_F(DeletedChartTest, TakesWhatOnlyItUsedOutOfTheFile) {
+TEST_F(DeletedChartTest, PartsOfADeletedChartAreRemoved) {
   const std::vector<S> ofChart1 = {"/xl/charts/_rels/chart1.xml.rels",
                                    "/xl/charts/chart1.xml",
                                    "/xl/charts/colors1.xml",
@@ -152,7 +152,7 @@ TEST_F(DeletedChartTest, TakesWhatOnlyItUsedOutOfTheFile) {
   }
 }
 
-TEST_F(DeletedChartTest, LeavesObjectsThatRefuse) {
+TEST_F(DeletedChartTest, ObjectsOfADeletedChartRaiseErrors) {
   OpenCharts();
   const auto shape = Shape("Chart 1");
   const auto object = Book().FindWorksheet("Charts")->ChartObjects()->Item("Chart 1");
@@ -215,7 +215,7 @@ TEST_F(DeletedChartTest, LeavesObjectsThatRefuse) {
   EXPECT_FALSE(Book().Package().Has("/xl/charts/chart1.xml"));
 }
 
-TEST_F(DeletedChartTest, MakesRoomForAnother) {
+TEST_F(DeletedChartTest, ANewChartCanReplaceADeletedOne) {
   OpenCharts();
   const auto old = Book().FindWorksheet("Charts")->ChartObjects()->Item("Chart 1")->Chart();
   Shape("Chart 1")->Delete();
@@ -230,7 +230,7 @@ TEST_F(DeletedChartTest, MakesRoomForAnother) {
   EXPECT_EQ(Book().FindWorksheet("Charts")->ChartObjects()->Count(), 2);
 }
 
-TEST_F(DeletedChartTest, GoesWithItsSheet) {
+TEST_F(DeletedChartTest, IsDeletedWithItsSheet) {
   test::SalesBook({}).Write(folder_ / "book.xlsx");
   OpenFile(folder_ / "book.xlsx");
   const auto sheet = Book().AddWorksheet(0);

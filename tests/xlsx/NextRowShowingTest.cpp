@@ -18,7 +18,7 @@ std::string Walk(excel::Worksheet& sheet, const std::string& text) {
   }
 }
 
-TEST_F(HostTest, AWalkForATextPassesRowsThatShowOthers) {
+TEST_F(HostTest, ASearchForATextSkipsRowsWithOtherTexts) {
   test::PlainBook book;
   book.sheets.push_back({.name = "Cells"});
   const auto sheet = Open(book).Worksheets()->Item("Cells");

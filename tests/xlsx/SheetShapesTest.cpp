@@ -49,7 +49,7 @@ TEST_F(SheetShapesTest, MoveByTheirAnchors) {
   EXPECT_EQ(shapes()->Range({"Two!", "One!"})->Width(), 70);
 }
 
-TEST_F(SheetShapesTest, ANewShapeLiesWhereAnOldOneWouldComeToLie) {
+TEST_F(SheetShapesTest, ANewShapeIsPlacedLikeAMovedOne) {
   test::PlainBook book;
   book.sheets = {test::SalesSheet("Sheet1")};
   Open(book);
@@ -112,7 +112,7 @@ TEST_F(SheetShapesTest, CharactersAreCountedOverBreaksAndParagraphs) {
   }
 }
 
-TEST(ShapeEnumerationsTest, GoBothWays) {
+TEST(ShapeEnumerationsTest, ConvertBothWays) {
   for (const Enumeration* enumeration : {&kAutoShapes, &kAutoSizes}) {
     for (const EnumerationEntry& entry : enumeration->entries) {
       EXPECT_TRUE(std::regex_match(S(entry.name), std::regex("mso(Shape|AutoSize)[A-Z0-9][A-Za-z0-9]*")))

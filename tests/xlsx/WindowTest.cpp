@@ -90,7 +90,7 @@ TEST_F(WindowTest, ASheetInTheStrictVocabularyWithAPrefixGetsItsView) {
                 "workbookViewId=\"0\"/></x:sheetViews><x:sheetData/></x:worksheet>");
 }
 
-TEST_F(WindowTest, RefusesWhereThereAreNoCells) {
+TEST_F(WindowTest, RefusesSheetsWithoutCells) {
   struct Case {
     const char* edited;  ///< The changed part.
     const char *from, *to;

@@ -24,7 +24,7 @@ class ChartPictureTest : public test::HostTest {
   std::shared_ptr<xlsx::SheetShape> shape_;
 };
 
-TEST_F(ChartPictureTest, HasTheSizeThatIsAskedForAndTheColorsOfTheChart) {
+TEST_F(ChartPictureTest, HasTheRequestedSizeAndTheColorsOfTheChart) {
   for (const QSize size : {QSize(512, 360), QSize(1024, 720), QSize(301, 207)}) {
     const QImage picture = Picture(size);
     ASSERT_EQ(picture.size(), size);
@@ -64,7 +64,7 @@ TEST_F(ChartPictureTest, ThePainterDrawsWithThePixelsOfTheScreen) {
   }
 }
 
-TEST_F(ChartPictureTest, FitsIntoARoomInItsProportions) {
+TEST_F(ChartPictureTest, FitsIntoAnAreaInItsProportions) {
   const double width = shape_->Width(), height = shape_->Height();
   const QSize wide = FittingSize(shape_->Chart(), {1000, 200}),
               high = FittingSize(shape_->Chart(), {200, 1000});

@@ -93,7 +93,7 @@ TEST_F(PreviewTest, EachLayoutPageHasOneAndAlsoAChartThatIsModified) {
   EXPECT_TRUE(BytesOf(book_) == fresh_);
 }
 
-TEST_F(PreviewTest, TheWorkerIsAnotherProcessAndIsEndedByTheNextStart) {
+TEST_F(PreviewTest, TheWorkerIsAProcessThatTheNextStartEnds) {
   std::vector<S> done;
   qt::PreviewWorker worker([&](qt::Preview preview) { done.push_back(preview.message); });
   int here = 0;

@@ -34,7 +34,7 @@ std::vector<fs::path> BooksIn(const std::string& folder) {
   return books;
 }
 
-TEST(CorpusContractTest, AllThatTheHostTellsIsTheSameThroughCom) {
+TEST(CorpusContractTest, TheHostsResultsAreTheSameThroughCom) {
   int described = 0;
   for (const char* folder :
        {"examples", "examples/data", "../shared/corpus/charts", "../shared/corpus/real"}) {

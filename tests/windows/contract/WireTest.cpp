@@ -480,7 +480,7 @@ std::vector<Row> AllRows() {
   return all;
 }
 
-TEST(WireTest, EveryCallIsAsExcelHasIt) {
+TEST(WireTest, EveryCallMatchesExcelsReference) {
   for (const Row& row : AllRows()) EXPECT_EQ(row.asked(), row.expected) << row.memberOf << "." << row.call;
 }
 

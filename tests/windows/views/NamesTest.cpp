@@ -147,7 +147,7 @@ std::multiset<S> DesktopNames(const S& page) {
 
 class NamesTest : public test::DialogTest {};
 
-TEST_F(NamesTest, ScreenReadersAreToldTheSameAsOnTheDesktop) {
+TEST_F(NamesTest, ScreenReadersGetTheSameTextsAsOnTheDesktop) {
   Service service;
   const Factory factory(service);
   for (const test::Way& way : test::kWays) {
@@ -190,7 +190,7 @@ S NameOf(HWND window) {
 }
 
 // If the system has no annotations, a screen reader knows only the windows' own texts.
-TEST_F(NamesTest, WindowsTellTheirCaptions) {
+TEST_F(NamesTest, WindowsHaveTheirCaptions) {
   for (const test::Way& way : test::kWays) {
     const auto look = [&] {
       for (const auto& control : test::StateOfWindow(test::FrontWindow()).controls) {

@@ -72,7 +72,7 @@ S OverlappingControls(HWND form) {
 
 class ResolutionTest : public test::DialogTest {};
 
-TEST_F(ResolutionTest, EachPageIsWholeInAllResolutionsAndFonts) {
+TEST_F(ResolutionTest, EachPageIsCompleteInAllResolutionsAndFonts) {
   for (const test::Way& way : test::kWays) {
     const auto look = [&] {
       const HWND window = test::FrontWindow();

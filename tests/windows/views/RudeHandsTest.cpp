@@ -70,7 +70,7 @@ TEST_F(RudeHandsTest, EachPressWithoutAMouseCounts) {
   EXPECT_EQ(helpTopics_, (std::vector<std::int32_t>{4, 4}));
 }
 
-TEST_F(RudeHandsTest, ColumnsStayAsWideAsAHandHasMadeThem) {
+TEST_F(RudeHandsTest, ColumnsKeepTheWidthThatTheUserSets) {
   const auto width = [] { return ListView_GetColumnWidth(ButtonOf("grdCharts"), 0); };
   int wanted = 0;
   const auto widen = [&] {
@@ -167,7 +167,7 @@ std::wstring Expected(const forms::Control& control, const Input& input) {
   return text;
 }
 
-TEST_F(RudeHandsTest, BoxesTakeWhatFitsAndShowIt) {
+TEST_F(RudeHandsTest, BoxesAcceptAndShowTheInputThatFits) {
   const Input inputs[] = {
       {Times(10000, "x"), Times(10000, "x"), Times(10000, "x")},
       {Times(10000, "a\n"), Times(10000, "a "), Times(10000, "a\r\n")},

@@ -44,7 +44,7 @@ class TypingTest : public test::DialogTest {
   }
 };
 
-TEST_F(TypingTest, ACharacterOfTwoUnitsArrivesWhole) {
+TEST_F(TypingTest, ACharacterOfTwoUnitsIsKept) {
   const struct {
     std::wstring units;
     S text;

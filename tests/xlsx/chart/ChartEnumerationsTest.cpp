@@ -24,7 +24,7 @@ constexpr const char* kUnits =
     " hundreds thousands tenThousands hundredThousands millions tenMillions hundredMillions billions "
     "trillions ";
 
-TEST(ChartEnumerationsTest, NumbersNamesAndTokensBelongToEachOther) {
+TEST(ChartEnumerationsTest, NumbersNamesAndTokensMatch) {
   const struct {
     const Enumeration& enumeration;
     S name;  ///< the common beginning of the members' names

@@ -60,7 +60,7 @@ TEST_F(ChartFamiliesTest, ANewSeriesHasNoLabelsAndANumberOfItsOwn) {
   Sound(column, draw);
 }
 
-TEST_F(ChartFamiliesTest, APieThatSomebodyDressedComesOutOfARefreshAsItWentIn) {
+TEST_F(ChartFamiliesTest, ARefreshKeepsTheFormatsOfAPie) {
   const S pie =
       "<c:view3D><c:rotX val=\"75\"/><c:rotY val=\"120\"/></c:view3D><c:plotArea><c:pie3DChart><c:varyColors "
       "val=\"1\"/><c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:explosion val=\"40\"/></c:ser><c:dLbls>"
@@ -97,7 +97,7 @@ TEST_F(ChartFamiliesTest, APieThatSomebodyDressedComesOutOfARefreshAsItWentIn) {
 
 /// A stock chart has three or four series. With any other number, the chart is a line chart with the same
 /// look.
-TEST_F(ChartFamiliesTest, AStockChartOfAnotherNumberOfSeriesIsALineChart) {
+TEST_F(ChartFamiliesTest, AStockChartWithAnotherNumberOfSeriesBecomesALineChart) {
   const auto stock = [](int count) {
     S series;
     for (int i = 0; i < count; ++i) {
@@ -142,7 +142,7 @@ TEST_F(ChartFamiliesTest, AChartWithoutAGroupIsWrittenWithAnEmptyOne) {
   EXPECT_EQ(CountOf(drawn, "<c:delete val=\"0\"/>"), 2u) << drawn;
 }
 
-TEST_F(ChartFamiliesTest, AxesComeBackFromTypesWithoutThem) {
+TEST_F(ChartFamiliesTest, AxesAreRestoredAfterTypesWithoutThem) {
   const S columns =
       "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart>"
       "<c:catAx><c:axId val=\"1\"/><c:scaling/><c:axPos val=\"t\"/><c:numFmt formatCode=\"@\" "
@@ -315,7 +315,7 @@ TEST_F(ChartFamiliesTest, ColumnsAndALineShareTheirAxes) {
   EXPECT_LT(area.find("<c:areaChart>"), area.find("<c:barChart>")) << "areas are drawn first";
 }
 
-TEST_F(ChartFamiliesTest, ChartsOfOthersGoThroughAllFamilies) {
+TEST_F(ChartFamiliesTest, ChartsOfOtherProgramsCanHaveAllTypes) {
   std::error_code absent;
   const auto folder = std::filesystem::path(test::kCorpusFolder) / "charts";
   if (!std::filesystem::is_directory(folder, absent)) GTEST_SKIP() << "the corpus isn't there";

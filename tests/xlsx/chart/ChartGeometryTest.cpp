@@ -61,7 +61,7 @@ class ChartGeometryTest : public test::ChartTest {
 /// The number of letters that a title of 20 points in Calibri, bold or regular, has in one line.
 constexpr int kTitleLetters = 29;
 
-TEST_F(ChartGeometryTest, TitlesTakeTheRoomThatTheirTextTakes) {
+TEST_F(ChartGeometryTest, TitlesTakeTheSpaceOfTheirText) {
   const S letters(kTitleLetters, 'n');
   const auto title = [](const S& paragraphs) {
     return "<c:title><c:tx><c:rich>" + paragraphs + "</c:rich></c:tx></c:title>";
@@ -125,7 +125,7 @@ TEST_F(ChartGeometryTest, ALegendIsAsWideAsTheWidestOfItsEntries) {
   }
 }
 
-TEST_F(ChartGeometryTest, ScalesFollowWhatTheFileSaysOfTheAxis) {
+TEST_F(ChartGeometryTest, ScalesFollowTheSettingsOfTheAxis) {
   const auto numbers = [](const S& element, const S& first, const S& second) {
     return "<c:" + element + "><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>" + first +
            "</c:v></c:pt><c:pt idx=\"1\"><c:v>" + second + "</c:v></c:pt></c:numLit></c:" + element + ">";
@@ -166,7 +166,7 @@ TEST_F(ChartGeometryTest, ScalesFollowWhatTheFileSaysOfTheAxis) {
   }
 }
 
-TEST_F(ChartGeometryTest, ALegendIsAtItsSideOrWhereItsLayoutMovesIt) {
+TEST_F(ChartGeometryTest, ALegendIsAtItsSideOrAtItsManualPosition) {
   const S x = "<c:x val=\"0.1\"/>", y = "<c:y val=\"0.1\"/>", edge = "<c:xMode val=\"edge\"/>";
   const struct {
     S position, layout;
@@ -197,7 +197,7 @@ TEST_F(ChartGeometryTest, ALegendAboveOrBelowHasAsManyRowsAsItsEntriesFill) {
   }
 }
 
-TEST_F(ChartGeometryTest, ThePlotAreaIsWhereItsLayoutSaysOrWhatTheOthersLeave) {
+TEST_F(ChartGeometryTest, ThePlotAreaHasItsManualLayoutOrTheFreeSpace) {
   const S axes = "<c:catAx><c:axPos val=\"b\"/></c:catAx><c:valAx><c:axPos val=\"l\"/></c:valAx>";
   const S title =
       "<c:title><c:tx><c:rich><a:p><a:r><a:rPr sz=\"2000\"/><a:t>T</a:t></a:r></a:p></c:rich></c:tx>"

@@ -249,7 +249,7 @@ TEST_F(ChartPropertiesTest, PresetColoursHaveTheirValues) {
   }
 }
 
-TEST_F(ChartPropertiesTest, WhatIsThereIsChangedInPlace) {
+TEST_F(ChartPropertiesTest, ExistingElementsAreChangedInPlace) {
   const auto bars = [](const S& labels, const S& title) {
     return Part(
         "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>" +
@@ -294,7 +294,7 @@ TEST_F(ChartPropertiesTest, WhatIsThereIsChangedInPlace) {
   }
 }
 
-TEST_F(ChartPropertiesTest, AChartRepeatsNoMoreCellsThanItCanHold) {
+TEST_F(ChartPropertiesTest, AChartCachesOnlyAsManyCellsAsItCanContain) {
   const S after = Sound(kNothing, [](Chart& chart) {
     for (int i = 0; i < 2; ++i)
       AddOfType(chart, excel::xlColumnClustered)->SetValues("=Sheet1!R1C1:R1048576C2");
@@ -319,7 +319,7 @@ TEST_F(ChartPropertiesTest, ScalesCoverWhatIsDrawn) {
   }
 }
 
-TEST_F(ChartPropertiesTest, LegendEntriesGoWithTheirSeries) {
+TEST_F(ChartPropertiesTest, LegendEntriesAreDeletedWithTheirSeries) {
   const auto draw = [](Chart& chart) {
     DeleteSeries(chart);
     chart.SetChartType(excel::xlBubble);
@@ -359,7 +359,7 @@ TEST_F(ChartPropertiesTest, LegendEntriesGoWithTheirSeries) {
   });
 }
 
-TEST_F(ChartPropertiesTest, TextsComeBackFromTheChartAsTheyWentIn) {
+TEST_F(ChartPropertiesTest, TextsOfTheChartCanBeReadBack) {
   const S literal = "_x000D_ & \x01";
   After(kNothing, [&](Chart& chart) {
     Book().FindWorksheet("Sheet1")->SetCellValueAt(1, 1, "two\r\nlines _x0041_");
@@ -376,7 +376,7 @@ TEST_F(ChartPropertiesTest, TextsComeBackFromTheChartAsTheyWentIn) {
   EXPECT_EQ(chart->ChartTitle()->Text(), "two\r\nlines _x0041_");
 }
 
-TEST_F(ChartPropertiesTest, ATitleHasALineForEachOfItsTextsLines) {
+TEST_F(ChartPropertiesTest, ATitleHasAParagraphForEachLine) {
   const S after = Sound(kNothing, [](Chart& chart) {
     const auto series = AddOfType(chart, excel::xlColumnClustered);
     chart.Axes(excel::xlValue, 1)->SetHasTitle(true);
@@ -398,7 +398,7 @@ TEST_F(ChartPropertiesTest, ATitleHasALineForEachOfItsTextsLines) {
   EXPECT_TRUE(Has(after, "<a:t>a</a:t></a:r></a:p>")) << after;
 }
 
-TEST_F(ChartPropertiesTest, ALabelsTextTakesOverTheDressOfTheLabels) {
+TEST_F(ChartPropertiesTest, ALabelsTextHasTheFormatOfTheLabels) {
   const S after = After(
       Part("<c:plotArea><c:barChart><c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:dLbls><c:txPr><a:bodyPr/>"
            "<a:p><a:pPr><a:defRPr sz=\"900\" bmk=\"A &amp; B\"/></a:pPr></a:p></c:txPr><c:showVal val=\"1\"/>"

@@ -199,7 +199,7 @@ TEST_F(ChartShapesTest, ALegendIsDrawnBesideThePlotArea) {
   EXPECT_EQ(SavedPart("/xl/charts/chart1.xml").find("userShapes"), S::npos);
 }
 
-TEST_F(ChartShapesTest, EveryChangeIsWrittenDown) {
+TEST_F(ChartShapesTest, TheJournalHasEveryChange) {
   OpenChart();
   const auto box = Chart()->Shapes()->AddTextbox(1, 1, 2, 3, 4);
   box->SetName("A");
@@ -223,7 +223,7 @@ TEST_F(ChartShapesTest, EveryChangeIsWrittenDown) {
   EXPECT_EQ(journal_, wanted);
 }
 
-TEST_F(ChartShapesTest, WhatOthersDrewOnTheChartStays) {
+TEST_F(ChartShapesTest, ShapesOfOtherProgramsStay) {
   const S own =
       "<cdr:relSizeAnchor xmlns:cdr=\"http://schemas.openxmlformats.org/drawingml/2006/chartDrawing\">"
       "<cdr:from><cdr:x>0.25</cdr:x><cdr:y>0.5</cdr:y></cdr:from><cdr:to><cdr:x>0.5</cdr:x><cdr:y>0.6"
@@ -365,7 +365,7 @@ TEST_F(ChartShapesTest, ABoxFollowsItsTextUntilItIsSized) {
   EXPECT_NEAR(again->Height(), 18, 0.001);
 }
 
-TEST_F(ChartShapesTest, StretchesOfATextHaveTheirOwnFont) {
+TEST_F(ChartShapesTest, PiecesOfATextHaveTheirOwnFont) {
   OpenChart();
   const auto sheetShapes = [&] { return Book().FindWorksheet("Sheet1")->Shapes(); };
   sheetShapes()->AddTextbox(1, 10, 10, 100, 50)->SetName("Note");
@@ -407,7 +407,7 @@ TEST_F(ChartShapesTest, NewShapesHaveNamesThatNoOtherHas) {
   EXPECT_EQ(shapes->Range({"TextBox 3", "Oval 4"})->Group()->Name(), "Group 5");
 }
 
-TEST_F(ChartShapesTest, ThePartOfShapesStandsInTheFolderOfTheWorkbook) {
+TEST_F(ChartShapesTest, ThePartOfShapesIsInTheFolderOfTheWorkbook) {
   test::PlainBook book;
   book.sheets = {test::SalesSheet("Sheet1")};
   book.sheets[0].frames = {{"id", kBubbles}};
@@ -430,7 +430,7 @@ TEST_F(ChartShapesTest, ThePartOfShapesStandsInTheFolderOfTheWorkbook) {
   EXPECT_TRUE(Book().Package().Has("/book/drawings/drawing2.xml"));
 }
 
-TEST_F(ChartShapesTest, WhatCantBeIsError1004) {
+TEST_F(ChartShapesTest, ImpossibleCallsAreError1004) {
   OpenChart();
   const auto shapes = Chart()->Shapes();
   const auto box = shapes->AddTextbox(1, 0, 0, 10, 10), gone = shapes->AddTextbox(1, 0, 0, 10, 10);

@@ -196,7 +196,7 @@ TEST_F(ChartViewTest, ASeriesShowsItsCells) {
       << "categories without a text are numbers";
 }
 
-TEST_F(ChartViewTest, NumbersOfSeriesEndWhereTheirTypeDoes) {
+TEST_F(ChartViewTest, IndicesOfSeriesHaveTheLimitsOfTheirType) {
   After(Part("<c:plotArea><c:barChart><c:ser><c:idx val=\"9223372036854775807\"/><c:order "
              "val=\"9223372036854775807\"/></c:ser></c:barChart></c:plotArea>"),
         [](Chart& chart) {
@@ -223,7 +223,7 @@ TEST_F(ChartViewTest, AnEmptyChartShowsItsAxesWithTheFirstSeries) {
   EXPECT_EQ(CountOf(After(chart(series, hidden), draw), "<c:delete val=\"1\"/>"), 2u) << "likewise";
 }
 
-TEST_F(ChartViewTest, ATypeComesBackAsItWas) {
+TEST_F(ChartViewTest, AFormerTypeIsRestored) {
   // The refresh first draws every chart as clustered bars. Settings of the original type must survive this.
   const S area =
       "<c:view3D><c:rotX val=\"40\"/></c:view3D><c:floor><c:thickness "
@@ -291,7 +291,7 @@ TEST_F(ChartViewTest, EveryTypeIsBuiltAsExcelBuildsIt) {
   }
 }
 
-TEST_F(ChartViewTest, SeriesOfSeveralGroupsComeTogether) {
+TEST_F(ChartViewTest, SeriesOfSeveralGroupsAreCombined) {
   const S mixed =
       "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:ser><c:idx val=\"0\"/><c:order "
       "val=\"1\"/></c:ser><c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart>"
@@ -309,7 +309,7 @@ TEST_F(ChartViewTest, SeriesOfSeveralGroupsComeTogether) {
   EXPECT_LT(after.find("<c:order val=\"0\"/>"), after.find("<c:order val=\"1\"/>")) << after;
 }
 
-TEST_F(ChartViewTest, WhatAChartDoesNotHaveIsError1004) {
+TEST_F(ChartViewTest, MissingPartsOfAChartAreError1004) {
   After(Part("<c:plotArea/>"), [](Chart& chart) {
     for (const std::function<void()>& call : std::initializer_list<std::function<void()>>{
              [&] { chart.ChartTitle(); }, [&] { chart.Legend(); }, [&] { chart.Axes(1, 1); },
@@ -338,7 +338,7 @@ TEST_F(ChartViewTest, WhatAChartDoesNotHaveIsError1004) {
   EXPECT_FALSE(Book().Damage());
 }
 
-TEST(EnumerationsTest, GoBothWays) {
+TEST(EnumerationsTest, ConvertBothWays) {
   for (const Enumeration* enumeration :
        {&kLegendPositions, &kLabelPositions, &kPatterns, &kInteriorPatterns, &kLineStyles, &kLineWeights,
         &kMarkerStyles, &kHorizontalAlignments, &kVerticalAlignments, &kTickLabelPositions, &kCrosses,

@@ -62,7 +62,7 @@ constexpr std::pair<const char*, const char*> kOrders[] = {
     {"txPr", "bodyPr lstStyle p"},
 };
 
-TEST(DrawingSchemaTest, ChildrenComeInTheOrderOfTheSchemaHoweverTheyAreMade) {
+TEST(DrawingSchemaTest, ChildrenAreInTheOrderOfTheSchema) {
   for (const auto& [parent, children] : kOrders) {
     std::vector<S> names;
     std::istringstream words(children);

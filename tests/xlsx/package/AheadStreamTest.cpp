@@ -69,7 +69,7 @@ TEST(AheadStreamTest, GivesTheBytesOfTheOtherStreamInPiecesOfAnySize) {
   }
 }
 
-TEST(AheadStreamTest, ALeftStreamIsReadNoFurtherThanAFewPieces) {
+TEST(AheadStreamTest, AnAbandonedStreamIsReadOnlyAFewPiecesAhead) {
   const std::string bytes = Bytes(20 * kMebibyte);
   MemoryStream whole(bytes, 64 * 1024);
   {
@@ -84,7 +84,7 @@ TEST(AheadStreamTest, ALeftStreamIsReadNoFurtherThanAFewPieces) {
   EXPECT_TRUE(bytes.ends_with(rest));
 }
 
-TEST(AheadStreamTest, ALargeSheetIsScannedAsASmallOne) {
+TEST(AheadStreamTest, ALargeSheetIsScannedLikeASmallOne) {
   constexpr int kRows = 40000;
   std::string text = "<worksheet xmlns='m'><sheetData>";
   for (int row = 1; row <= kRows; ++row) {

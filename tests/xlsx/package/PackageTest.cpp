@@ -73,7 +73,7 @@ TEST_F(PackageFileTest, UntouchedPartsKeepTheirBytesOrderAndNames) {
   EXPECT_EQ(again.FindRelationship("/xl/workbook.xml", id)->type, "new");
 }
 
-TEST_F(PackageFileTest, APackageThatIsSavedOverItsOwnFileGoesOnWithTheNewOne) {
+TEST_F(PackageFileTest, APackageSavedOverItsOwnFileUsesTheNewFile) {
   const S path = Book();
   Package package = Package::Open(path);
   const S noise = package.Read("/xl/media/noise.bin");
@@ -108,7 +108,7 @@ Package Linked(const std::vector<S>& links) {
   return package;
 }
 
-TEST_F(PackageFileTest, WhatNothingElseRefersToGoesWithItsRelationship) {
+TEST_F(PackageFileTest, UnreferencedPartsAreRemovedWithTheirRelationship) {
   struct Case {
     std::vector<S> links;
     S source, id;
@@ -151,7 +151,7 @@ TEST_F(PackageFileTest, WhatNothingElseRefersToGoesWithItsRelationship) {
   }
 }
 
-TEST_F(PackageFileTest, NoPartGoesWhileRelationshipsCantBeRead) {
+TEST_F(PackageFileTest, NoPartIsRemovedIfRelationshipsCantBeRead) {
   Package package = Linked({">d", "d>c", "d>e", "e>s"});
   package.Replace("/_rels/e.rels", "<Relationships");
   EXPECT_EQ(package.RemoveRelationship("/d", "rId1"), std::vector<S>{});
@@ -159,7 +159,7 @@ TEST_F(PackageFileTest, NoPartGoesWhileRelationshipsCantBeRead) {
   EXPECT_FALSE(package.FindRelationship("/d", "rId1"));
 }
 
-TEST_F(PackageFileTest, ForeignEntriesAreCopiedByWhateverMethodTheyCame) {
+TEST_F(PackageFileTest, ForeignEntriesKeepTheirCompressionMethod) {
   {
     ArchiveWriter writer(folder_ / "odd.xlsx");
     writer.Add("[Content_Types].xml", "<Types/>");
@@ -187,7 +187,7 @@ TEST_F(PackageFileTest, ForeignEntriesAreCopiedByWhateverMethodTheyCame) {
   EXPECT_EQ(Archive(folder_ / "out.xlsx").Entries()[1].method, 14);
 }
 
-TEST_F(PackageFileTest, TheFileIsReplacedWholeOrNotAtAll) {
+TEST_F(PackageFileTest, TheFileIsReplacedCompletelyOrNotAtAll) {
   const S path = Book();
   chmod(path.c_str(), 0640);
   symlink(path.c_str(), (folder_ / "link.xlsx").c_str());
@@ -222,7 +222,7 @@ TEST_F(PackageFileTest, TheFileIsReplacedWholeOrNotAtAll) {
   EXPECT_EQ(files, 1u) << "nothing is left behind";
 }
 
-TEST_F(PackageFileTest, DamageIsFoundWhereItLies) {
+TEST_F(PackageFileTest, DamageIsReportedWithItsPart) {
   const S path = Book();
   std::ifstream in(path, std::ios::binary);
   S bytes((std::istreambuf_iterator<char>(in)), {});
@@ -248,7 +248,7 @@ TEST_F(PackageFileTest, DamageIsFoundWhereItLies) {
   EXPECT_THROW(package.Read("/xl/none.xml"), PackageError);
 }
 
-TEST_F(PackageFileTest, BombsAreRefusedBeforeTheyGoOff) {
+TEST_F(PackageFileTest, BombsAreRefusedBeforeTheyUseMemory) {
   ArchiveWriter writer(folder_ / "bomb.xlsx");
   const S blanks(64 << 20, ' ');
   writer.Add("[Content_Types].xml", "<Types/>");
@@ -259,7 +259,7 @@ TEST_F(PackageFileTest, BombsAreRefusedBeforeTheyGoOff) {
   EXPECT_THROW(package.Stream("/xl/blanks.xml"), PackageError);
 }
 
-TEST(XmlTest, WhatIsNotTouchedGoesOutAsItCame) {
+TEST(XmlTest, UnchangedPartsAreWrittenUnchanged) {
   for (const S& text : {S("<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?><a x=\"1 &lt; &#10; "
                           "&apos;\">&#13;\r\n &amp; <b/>\t<!-- c --><?p q?><![CDATA[<]]> </a>"),
                         S("<a><b xml:space=\"preserve\">  </b></a>")}) {
@@ -275,7 +275,7 @@ TEST(XmlTest, WhatIsNotTouchedGoesOutAsItCame) {
     EXPECT_THROW(xml::Parse(document, bad), PackageError) << bad;
 }
 
-TEST(XmlTest, WhatNoPartMayBringIsRefused) {
+TEST(XmlTest, ForbiddenContentsAreRefused) {
   S deep;
   for (int i = 0; i < 500000; ++i) deep += "<a>";
   for (int i = 0; i < 500000; ++i) deep += "</a>";
@@ -300,7 +300,7 @@ TEST(XmlTest, WhatNoPartMayBringIsRefused) {
   }
 }
 
-TEST(XmlTest, AnyEncodingBecomesUtf8AndSaysSo) {
+TEST(XmlTest, AnyEncodingIsConvertedToUtf8) {
   const auto declared = [](const S& encoding, const S& text) {
     return "<?xml version='1.0' encoding='" + encoding + "' standalone='yes'?><a>" + text + "</a>";
   };
@@ -327,7 +327,7 @@ TEST(XmlTest, AnyEncodingBecomesUtf8AndSaysSo) {
   }
 }
 
-TEST(XmlTest, ValuesPassThroughBothWays) {
+TEST(XmlTest, ValuesAreEncodedAndDecoded) {
   const S value = "a<b>&\"c'\r\n\td\x01";
   EXPECT_EQ(xml::Decode(xml::EncodeText(value)), "a<b>&\"c'\r\n\td") << "what XML can't hold goes";
   EXPECT_EQ(xml::Decode(xml::EncodeAttribute(value)), "a<b>&\"c'\r\n\td");

@@ -65,7 +65,7 @@ const std::pair<std::pair<int, int>, std::string> kCells[] = {{{2, 1}, "n1"},
                                                               {{10, 5}, "n123456789012345680"},
                                                               {{10, 28}, "n0.1"}};
 
-TEST(SheetScannerTest, ReadsEveryKindOfCellHoweverTheWindowCuts) {
+TEST(SheetScannerTest, ReadsEveryKindOfCellAtEveryWindowBorder) {
   for (const std::size_t piece : {std::size_t{1} << 20, std::size_t{1000}, std::size_t{7}, std::size_t{1}}) {
     SCOPED_TRACE(piece);
     const SheetContents sheet = Scan(kSheet, piece);
@@ -81,7 +81,7 @@ TEST(SheetScannerTest, ReadsEveryKindOfCellHoweverTheWindowCuts) {
   }
 }
 
-TEST(SheetScannerTest, SpaceIsSpaceInAnyWriting) {
+TEST(SheetScannerTest, AllKindsOfWhiteSpaceAreAccepted) {
   const SheetContents sheet = Scan(
       "<worksheet><sheetData><row r=\"3\"\tht=\"30\"><c r=\"A3\" t=\"s\"><v> 5 </v></c></row>"
       "<row r=\"4\"\nhidden=\"on\"><c r=\"A4\"><v>\n+2.5</v></c></row></sheetData></worksheet>",
@@ -91,7 +91,7 @@ TEST(SheetScannerTest, SpaceIsSpaceInAnyWriting) {
   EXPECT_EQ(sheet.rowHeights, (std::vector<std::pair<std::int32_t, double>>{{3, 30}, {4, 0}}));
 }
 
-TEST(SheetScannerTest, FormulasWithoutAResultAreToldByTheirCells) {
+TEST(SheetScannerTest, FormulasWithoutAResultAreListed) {
   const SheetContents sheet = Scan(
       "<w><sheetData><row r='2'><c r='A2'><f>1</f><v>1</v></c><c r='B2'><f>1</f><v></v></c>"
       "<c r='C2'><f>1</f><v/></c><c r='D2'><f>1</f></c><c r='E2' t='str'><f>\"\"</f><v></v></c>"
@@ -101,7 +101,7 @@ TEST(SheetScannerTest, FormulasWithoutAResultAreToldByTheirCells) {
   EXPECT_EQ(sheet.formulasWithoutResult, (std::vector<CellPlace>{{2, 2}, {2, 3}, {2, 4}, {4, 3}}));
 }
 
-TEST(SheetScannerTest, WhatCountsAsUsed) {
+TEST(SheetScannerTest, UsedCells) {
   const std::pair<const char*, CellRange> cases[] = {
       {"<c r='C9'/><c r='D9'></c><c r='E9' t='inlineStr'><is/></c>", {2, 2, 2, 2}},
       {"<c r='C9' s='1'/>", {2, 2, 9, 3}},
@@ -118,7 +118,7 @@ TEST(SheetScannerTest, WhatCountsAsUsed) {
             (CellRange{1, 1, 1, 1}));
 }
 
-TEST(SheetScannerTest, MergedCellsAreFoundBehindAllThatTheSchemaPutsBeforeThem) {
+TEST(SheetScannerTest, MergedCellsAreFoundAfterAllPrecedingElements) {
   const std::vector<CellRange> merged = {{1, 1, 2, 2}, {4, 3, 4, 5}};
   for (const std::string before : {"", "sheetCalcPr", "sheetProtection", "protectedRanges", "scenarios",
                                    "autoFilter", "sortState", "dataConsolidate", "customSheetViews"}) {
@@ -155,7 +155,7 @@ TEST(SheetScannerTest, SheetsWithoutCells) {
   }
 }
 
-TEST(SheetScannerTest, CellsOutOfOrderAreFoundAllTheSame) {
+TEST(SheetScannerTest, CellsOutOfOrderAreFound) {
   const SheetContents sheet = Scan(
       "<w><sheetData><row r='5'><c r='B5'><v>5</v></c><c r='A5'><v>4</v></c></row>"
       "<row r='2'><c r='B2' s='2'><v>2</v></c></row><row r='5'><c r='B5'><v>6</v></c></row></sheetData></w>");
@@ -166,7 +166,7 @@ TEST(SheetScannerTest, CellsOutOfOrderAreFoundAllTheSame) {
   EXPECT_EQ(sheet.used, (CellRange{2, 1, 5, 2}));
 }
 
-TEST(SheetScannerTest, DamageIsSaid) {
+TEST(SheetScannerTest, DamageIsReported) {
   for (const char* text :
        {"<w><sheetData><row r='1'><c r='A1'><v>1", "<w><sheetData><row r='1'><c r='A1", "<w><sheetData><row",
         "<w><sheetData>", "<w><sheetData><row r='1048577'/></sheetData></w>",

@@ -29,7 +29,7 @@ class SortTest : public test::HostTest {
   }
 };
 
-TEST_F(SortTest, ValuesComeInExcelsOrder) {
+TEST_F(SortTest, ValuesAreInExcelsOrder) {
   using test::RawCell;
   const RawCell yes{" t=\"b\"><v>1</v></c>"}, no{" t=\"b\"><v>0</v></c>"};
   const RawCell error{" t=\"e\"><v>#N/A</v></c>"}, other{" t=\"e\"><v>#DIV/0!</v></c>"};
@@ -64,7 +64,7 @@ TEST_F(SortTest, ValuesComeInExcelsOrder) {
   }
 }
 
-TEST_F(SortTest, RowsMoveWholeWithTheirFormatsInsideOfTheRange) {
+TEST_F(SortTest, RowsMoveWithTheirFormatsInsideTheRange) {
   test::PlainBook book = test::SalesBook({});
   book.sheets[0].rows[0].push_back(S("beside"));
   Open(book);
@@ -78,7 +78,7 @@ TEST_F(SortTest, RowsMoveWholeWithTheirFormatsInsideOfTheRange) {
   EXPECT_EQ(journal_[1], "Sheets(\"Data1\").Range(\"$A$1:$D$6\").Sort(\"$C$2\", 2, 1, 1, False, 1)");
 }
 
-TEST_F(SortTest, WhatItCantDoIsError1004) {
+TEST_F(SortTest, UnsupportedSortsAreError1004) {
   test::PlainBook book = test::SalesBook({});
   const auto expectError = [&](const std::function<void(Worksheet&)>& call) {
     Open(book);
