@@ -98,13 +98,13 @@ inside plotsmith render /tmp/out.xlsx -o /tmp/charts.pdf
 expect ""
 inside test -s /tmp/charts.pdf
 inside sh -c 'plotsmith wizard /tmp/book.xlsx; [ $? -eq 2 ]'
-expect "plotsmith: the wizard's window is the program plotsmith-wizard, which isn't installed; --script FILE plays a script on the wizard's pages, and new, modify, copy and delete go through them by themselves."
+expect "plotsmith: the wizard's window is the program plotsmith-wizard, which isn't installed; without it, --script FILE runs a script on the wizard's pages, and the verbs new, modify, copy and delete operate the pages."
 
 inside sh -c 'apt-get install -y --no-install-recommends /tmp/packages/plotsmith-wizard_*.deb'
 inside plotsmith-wizard --version
 expect "plotsmith-wizard $version"
 inside sh -c 'plotsmith wizard /tmp/book.xlsx; [ $? -eq 2 ]'
-expect "plotsmith-wizard: there is no screen to show a window on; \"plotsmith new\" and its other verbs make and change charts without one."
+expect "plotsmith-wizard: there is no screen for the window; \"plotsmith new\" and its other verbs make and change charts without one."
 # The window stays open until a signal ends it. The program prints an error if it can't open the workbook.
 inside sh -c 'QT_QPA_PLATFORM=offscreen timeout 4 plotsmith wizard /tmp/book.xlsx; [ $? -eq 124 ]'
 if grep -q '^plotsmith' "$work/out"; then

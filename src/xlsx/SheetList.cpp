@@ -64,7 +64,7 @@ void SheetList::Load() {
     const auto [owner, free] = owners.emplace(link.target, entry->name);
     if (!free) {
       throw PackageError("its sheets " + std::string(owner->second) + " and " + entry->name +
-                         " have one part in common");
+                         " share one part");
     }
     entry->part = link.target;
     if (link.type == "worksheet") {

@@ -54,12 +54,11 @@ TEST_F(BatchTest, OneThatFailsDoesNotStopTheOthers) {
       "Brindle Plotsmith: Chart 'Name of VEX_Chart2' has become unavailable because its source table no "
       "longer exists in this workbook.\n"
       "b.xlsx: plotsmith: VEX_ChartDefinitions!A3 (chart 'Name of VEX_Chart2'): There is no table 'Gone'; "
-      "there is Data1, and a sheet counts as a table when it is called exactly Data1 to Data5.\n";
-  const S said =
-      "b.xlsx: " + gone +
-      "none.xlsx: plotsmith: can't read \"none.xlsx\": there is no such file.\n"
-      "text.xlsx: plotsmith: can't read \"text.xlsx\": it is a text file, such as .csv; save it as "
-      ".xlsx first, as only .xlsx, .xlsm, .xltx and .xltm can be read.\n";
+      "there is Data1; a sheet is a table only if its name is exactly one of Data1 to Data5.\n";
+  const S said = "b.xlsx: " + gone +
+                 "none.xlsx: plotsmith: can't read \"none.xlsx\": there is no such file.\n"
+                 "text.xlsx: plotsmith: can't read \"text.xlsx\": it is a text file, such as .csv; save it "
+                 "as .xlsx first, because only .xlsx, .xlsm, .xltx and .xltm can be read.\n";
   for (const S jobs : {"1", "2", "9"}) {
     Write("a.xlsx"), WriteHalf("b.xlsx"), Write("z.xlsx");
     // Messages are in the order of the arguments, independent of the order of completion.
@@ -89,7 +88,7 @@ TEST_F(BatchTest, OptionsApplyToEachWorkbook) {
   EXPECT_EQ(table.code, 2) << "the second has no such table";
   EXPECT_EQ(
       Plain(table.err),
-      "one.xlsx: plotsmith: \"one.xlsx\" has no table \"Data2\" (plotsmith tables lists those it has).\n");
+      "one.xlsx: plotsmith: \"one.xlsx\" has no table \"Data2\" (plotsmith tables lists its tables).\n");
   EXPECT_EQ(RunCommand({"cells", both, "VEX_ChartData!A1:A4"}).out, "VEX_Chart2\nVEX_Chart2\nVEX_Chart2\n\n");
   std::istringstream journal(table.out);
   bool ofSecond = false;
@@ -120,13 +119,13 @@ TEST_F(BatchTest, ResultsAreWrittenIntoAFolderByName) {
       {{first, twin, "-o", out},
        "\"one/a.xlsx\" and \"two/a.xlsx\" would both be written to \"a.xlsx\" in \"out\"."},
       {{first, second, "-o", folder_ / "file"},
-       "\"file\" is no folder, and several workbooks can only be written into one."},
+       "\"file\" isn't a folder; several workbooks can only be written into a folder."},
       {{first, second, "-o", folder_ / "nowhere"},
-       "\"nowhere\" is no folder, and several workbooks can only be written into one."},
+       "\"nowhere\" isn't a folder; several workbooks can only be written into a folder."},
       {{first, second, "-o", "-"},
-       "the standard output takes one workbook; several can be written into a folder."},
+       "only one workbook can be written to the standard output; several can be written into a folder."},
       {{second, first, "-o", folder_ / "one"},
-       "\"one/a.xlsx\" is in the folder \"one\" itself; without -o it is refreshed where it is."},
+       "\"one/a.xlsx\" is in the folder \"one\" itself; without -o it is refreshed in place."},
       {{first, second, "--jobs", "0"}, "--jobs needs a number of at least 1."}};
   for (auto [arguments, said] : cases) {
     arguments.insert(arguments.begin(), "refresh");
@@ -158,16 +157,16 @@ TEST_F(BatchTest, AWorkerThatDiesAffectsOnlyItsOwnWorkbook) {
     to.out << run.book << '\n';
     return {exit_code::kDone, {2, 0}};
   };
-  const S whole = "; the workbook is as it was, or whole and new.\n";
+  const S whole = "; the workbook is either unchanged or completely refreshed.\n";
   for (const std::size_t processes : {1u, 3u}) {
     std::istringstream in;
     std::ostringstream out, err;
     EXPECT_EQ(RunBatch(runs, doRun, processes, false, {in, out, err}), 3);
     EXPECT_EQ(out.str(), "a: a\nc: c\n");
     EXPECT_EQ(err.str(),
-              "a: done\na: well\nb: plotsmith: the process that worked on it died (Killed)" + whole +
-                  "c: done\nc: well\nd: plotsmith: the process that worked on it died (it left early)" +
-                  whole + "e: plotsmith: something went wrong: std::bad_alloc\n");
+              "a: done\na: well\nb: plotsmith: the process that refreshed it died (Killed)" + whole +
+                  "c: done\nc: well\nd: plotsmith: the process that refreshed it died (it ended early)" +
+                  whole + "e: plotsmith: an unexpected error occurred: std::bad_alloc\n");
   }
 }
 

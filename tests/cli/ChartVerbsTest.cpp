@@ -81,13 +81,13 @@ TEST_F(ChartVerbsTest, MissingThingsAreReportedAndNothingIsSaved) {
        "an area chart has no labels 'names'; it has values and none."},
       {{"modify", "VEX_Chart1", "--set", "100%"}, "--set 100% needs --set stacked."},
       {{"modify", "VEX_Chart1", "--series-columns", "Cost", "--values", "Cost"},
-       "--values needs categories and series that are no number columns."},
+       "--values needs categories and series that aren't number columns."},
       {{"modify", "VEX_Chart1", "--set", "3D", "--unset", "3D"}, "3D can't be both set and unset."},
       {{"modify", "VEX_Chart1", "--title", S(256, 'x')}, "--title takes 255 characters."},
-      {{"modify", "VEX_Chart1", "--name", "a\x02"}, "--name takes no control characters."},
-      {{"modify", "VEX_Chart1", "--number-format", "\x01"}, "--number-format takes no control characters."},
+      {{"modify", "VEX_Chart1", "--name", "a\x02"}, "--name accepts no control characters."},
+      {{"modify", "VEX_Chart1", "--number-format", "\x01"}, "--number-format accepts no control characters."},
       {{"new", "--table", "Data1", "--type", "bar", "--new-sheet", "vex_chartdata"},
-       "--new-sheet can't be 'VEX_ChartData', which is a sheet of Plotsmith's own."},
+       "--new-sheet can't be 'VEX_ChartData', which is one of Plotsmith's own sheets."},
       // messages of the pages
       {{"modify", "VEX_Chart1", "--number-format", "0\""},
        "The requested number format is not supported by Excel."},
@@ -211,7 +211,7 @@ TEST_F(ChartVerbsTest, OptionsReachTheirControlsFromAnyLayout) {
   }
   EXPECT_EQ(
       Verb({"modify", "VEX_Chart1", "--category-columns", "Amount"}).err,
-      "plotsmith: --category-columns needs series that are no number columns, by --series or --no-series.\n");
+      "plotsmith: --category-columns needs series that aren't number columns, by --series or --no-series.\n");
 }
 
 TEST_F(ChartVerbsTest, AChartOfAnUnknownTypeGetsAnotherOne) {
@@ -282,7 +282,7 @@ TEST_F(ChartVerbsTest, AmbiguousRowsAreSelectedByNumber) {
   EXPECT_EQ(selected("VEX_Chart1"), "select grdCharts #2");
   EXPECT_EQ(selected("VEX_Chart3"), "select grdCharts #3");
   const S sentence =
-      "several charts have the name 'same': VEX_Chart1 and VEX_Chart3; an id names one of them.\n";
+      "several charts have the name 'same': VEX_Chart1 and VEX_Chart3; use the id of one of them.\n";
   EXPECT_EQ(Verb({"delete", "same"}).err, "plotsmith: " + sentence);
   EXPECT_EQ(RunCommand({"definition", book_, "same"}).err, "plotsmith: " + sentence);
 }

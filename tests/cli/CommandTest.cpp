@@ -58,7 +58,7 @@ TEST_F(CommandTest, MessagesReachStderrWordForWord) {
       "no longer "
       "exists in this workbook.\n"
       "plotsmith: VEX_ChartDefinitions!A2 (chart 'Name of VEX_Chart1'): There is no table 'Gone'; there "
-      "is Data1, and a sheet counts as a table when it is called exactly Data1 to Data5.\n");
+      "is Data1; a sheet is a table only if its name is exactly one of Data1 to Data5.\n");
   EXPECT_NE(RunCommand({"charts", book}).out.find("table no longer fits"), S::npos);
 }
 
@@ -74,7 +74,8 @@ TEST_F(CommandTest, UnreadableFilesAreReportedAndNothingIsWritten) {
     return folder_ / name;
   };
   const auto other = [](const S& format) {
-    return "it is " + format + "; save it as .xlsx first, as only .xlsx, .xlsm, .xltx and .xltm can be read";
+    return "it is " + format +
+           "; save it as .xlsx first, because only .xlsx, .xlsm, .xltx and .xltm can be read";
   };
   const S pipe = folder_ / "pipe.xlsx";
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
@@ -107,7 +108,7 @@ TEST_F(CommandTest, UnreadableFilesAreReportedAndNothingIsWritten) {
       {zip("book.numbers", "Index/Document.iwa", "x"), other("a spreadsheet of Numbers (.numbers)")},
       {zip("other.zip", "readme", "x"), "it is not an Office document: it has no content types"},
       {pipe, "it is not a regular file"},
-      {shared, "its sheets One and Three have one part in common"},
+      {shared, "its sheets One and Three share one part"},
       {bad, "its part /xl/worksheets/sheet1.xml can't be read: its XML is damaged"}};
   for (const auto& [path, reason] : cases) {
     const S before = path == pipe ? "" : Bytes(path);  // Reading the pipe would wait for a writer.

@@ -70,11 +70,10 @@ TEST_F(OtherProgramTest, TheWizardsProgramGetsTheArgumentsAndItsExitCodeIsReturn
 }
 
 TEST_F(OtherProgramTest, TheWizardsProgramIsSearchedBesideTheCommandAndThenInPath) {
-  const Ended absent = {
-      2,
-      "plotsmith: the wizard's window is the program plotsmith-wizard, which isn't installed; --script FILE "
-      "plays a "
-      "script on the wizard's pages, and new, modify, copy and delete go through them by themselves.\n"};
+  const Ended absent = {2,
+                        "plotsmith: the wizard's window is the program plotsmith-wizard, which isn't "
+                        "installed; without it, --script FILE runs a script on the wizard's pages, and the "
+                        "verbs new, modify, copy and delete operate the pages.\n"};
   const S path = "/none:" + (folder_ / "path");
   EXPECT_EQ(Wizard("book.xlsx", path), absent);
   PutProgram("work", "echo current\n");

@@ -113,8 +113,8 @@ TEST_F(OutputTest, TheContentTypeFollowsTheExtension) {
 
 TEST_F(OutputTest, UnsuitableExtensionsAreRefusedBeforeTheWork) {
   const S plain = Write("plain.xlsx"), macros = Write("macros.xlsm", true);
-  const S hasMacros = "the workbook has macros, which a file ",
-          hold = " can't hold; give it the extension .xlsm";
+  const S hasMacros = "the workbook has macros, which a file with the extension ",
+          hold = " can't contain; use .xlsm";
   struct Case {
     S book, out, reason;
   };

@@ -69,9 +69,8 @@ class RunLookTest : public ::testing::Test {
 };
 
 const S kStray =
-    "plotsmith: Charts: A chart here has the alternative text 'VEX_Chart1', and there is no definition of "
-    "that "
-    "id; a new chart could get the same id. Delete the chart, or clear its alternative text.\n";
+    "plotsmith: Charts: A chart here has the alternative text 'VEX_Chart1', but no definition has this id; a "
+    "new chart could get the same id. Delete the chart, or clear its alternative text.\n";
 
 /// Returns a line about the first definition of a sales workbook.
 S Line(const S& sentence, const S& place = "VEX_ChartDefinitions!A2") {
@@ -106,9 +105,10 @@ TEST_F(RunLookTest, NothingIsWrittenIfADefinitionWouldBeLost) {
                              List{"wizard", path_, "--script", "-"}}) {
       const CommandResult refused = RunCommand(verb);
       EXPECT_EQ(refused.code, 3) << verb[0];
-      EXPECT_EQ(refused.err, line +
-                                 ".\nplotsmith: nothing was changed, as 1 definition would be lost; correct "
-                                 "this, or use --drop-broken.\n");
+      EXPECT_EQ(refused.err,
+                line +
+                    ".\nplotsmith: nothing was changed, because 1 definition would be lost; correct "
+                    "this, or use --drop-broken.\n");
       EXPECT_EQ(Bytes(path_), before) << verb[0];
     }
     const S noCharts = row.charts == 0 ? kStray + NothingToRefresh() : "";
@@ -191,17 +191,18 @@ TEST_F(RunLookTest, ChangesOfDefinitionsAndOfChartsAreDistinguished) {
   };
   edit();
   const S kept =
-      Line("The title is 'Sales' on the chart and 'Costs' in the definition; that of the chart was kept.") +
-      Line("The type is 'column' on the chart and 'bar' in the definition; that of the chart was kept.") +
       Line(
-          "The title of the value axis is 'Euro' on the chart and 'Dollar' in the definition; that of the "
+          "The title is 'Sales' on the chart and 'Costs' in the definition; the one on the chart was kept.") +
+      Line("The type is 'column' on the chart and 'bar' in the definition; the one on the chart was kept.") +
+      Line(
+          "The title of the value axis is 'Euro' on the chart and 'Dollar' in the definition; the one on the "
           "chart was kept.") +
       Line(
-          "The visibility of the legend is 'show' on the chart and 'hide' in the definition; that of the "
+          "The visibility of the legend is 'show' on the chart and 'hide' in the definition; the one on the "
           "chart was kept.");
   const S checked = RunCommand({"check", path_}).out;
   EXPECT_NE(checked.find("  VEX_ChartDefinitions!A2: The type is 'column' on the chart and 'bar' in the "
-                         "definition; the next refresh keeps that of the chart.\n"),
+                         "definition; the next refresh keeps the one on the chart.\n"),
             S::npos)
       << checked;
   EXPECT_EQ(
@@ -217,7 +218,8 @@ TEST_F(RunLookTest, ChangesOfDefinitionsAndOfChartsAreDistinguished) {
   Edit(kDefinitions, "ps-chart-schema-version=\"2\"", "");
   EXPECT_EQ(
       Refresh(),
-      Line("The title is 'Sales' on the chart and 'Costs' in the definition; that of the chart was kept."));
+      Line(
+          "The title is 'Sales' on the chart and 'Costs' in the definition; the one on the chart was kept."));
 }
 
 TEST_F(RunLookTest, AVerbThatChangesDefinitionsReportsTheRemainingProblems) {
@@ -232,7 +234,8 @@ TEST_F(RunLookTest, AVerbThatChangesDefinitionsReportsTheRemainingProblems) {
       "strategic-bucket-table-id and number-format.");
   EXPECT_EQ(
       RunCommand({"rename-columns", path_, "--table", "Data1", "Amount=Turnover"}).err,
-      Line("The title is 'Sales' on the chart and 'Costs' in the definition; that of the chart was kept.") +
+      Line(
+          "The title is 'Sales' on the chart and 'Costs' in the definition; the one on the chart was kept.") +
           colour)
       << "the axis title has its new name from the command";
 
@@ -253,7 +256,7 @@ TEST_F(RunLookTest, CellsThatMakeAWrongPictureAreReported) {
     return Refresh();
   };
   using Rows = std::vector<PlainRow>;
-  const S calculate = "which count as blank; have a spreadsheet program calculate and save the workbook.";
+  const S calculate = "which count as blank; calculate and save the workbook in a spreadsheet program.";
   EXPECT_EQ(refresh([&](Rows& rows) { rows[2][2] = rows[3][2] = rows[2][3] = formula; }),
             Line("The column 'Amount' has 2 formulas without a result, the first one here, " + calculate,
                  "Data1!C3"))
@@ -263,8 +266,8 @@ TEST_F(RunLookTest, CellsThatMakeAWrongPictureAreReported) {
       "Brindle Plotsmith: Chart 'Name of VEX_Chart1' has become unavailable because column 'Amount'\nin "
       "table 'Data1' is missing or contains invalid data.\n" +
           Line("The table 'Data1' has no column 'Amount' for 'values'; it has Region, Product and Cost.") +
-          Line("The heading is a formula without a result, so that its column doesn't exist; have a "
-               "spreadsheet program calculate and save the workbook.",
+          Line("The heading is a formula without a result, so its column is ignored; calculate and save the "
+               "workbook in a spreadsheet program.",
                "Data1!C1"));
   const S start =
       "The column 'Amount' isn't a number column, which 'values' needs, because this cell contains ";
@@ -301,8 +304,8 @@ TEST_F(RunLookTest, APossiblyRenamedColumnIsReported) {
       Refresh(),
       missing +
           Line("The table 'Data1' has no column 'Amount' for 'values'; it has Region, Product, Turnover "
-               "and Cost; 'Turnover' is in its place, and if that is its new name, plotsmith "
-               "rename-columns BOOK --table Data1 'Amount=Turnover' renames it in the charts."));
+               "and Cost; 'Turnover' is in its place. If that is its new name, plotsmith rename-columns BOOK "
+               "--table Data1 'Amount=Turnover' renames it in the charts."));
   const S drawnAt = "&lt;values&gt;&lt;column name=\"Amount\" worksheet-column-number=\"3\"";
   Edit(kDefinitions, drawnAt, runtime::Replace(drawnAt, "\"3\"", "\"C\""));
   EXPECT_EQ(Refresh(), missing + Line("The table 'Data1' has no column 'Amount' for 'values'; it has Region, "
@@ -329,16 +332,14 @@ TEST_F(RunLookTest, APossiblyRenamedColumnIsReported) {
 TEST_F(RunLookTest, ABubbleWithoutALabelPreventsTheLegend) {
   const S start = "The column 'Group' has ";
   const S again =
-      ", and then switch the chart's own legend on in a spreadsheet program; the next refresh draws "
-      "it.";
+      ", and then switch on the chart's own legend in a spreadsheet program; the next refresh draws it.";
   const struct {
     S label, sentence;
-  } cases[] = {{"",
-                "no label here for the bubble 'C', so that it isn't shown and the chart has no drawn legend; "
-                "fill the cell in"},
-               {"g|x",
-                "a label here with the character '|', so that the chart has no drawn legend; take the "
-                "character out"}};
+  } cases[] = {
+      {"",
+       "no label here for the bubble 'C', so the bubble isn't shown and the chart has no drawn legend; fill "
+       "in the cell"},
+      {"g|x", "a label here with the character '|', so the chart has no drawn legend; remove the character"}};
   for (const auto& [label, sentence] : cases) {
     Write(test::BubbleBook(
         {{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"C", "h", 1, 1, 1}, {"c", label, 3, 4, 5}},
@@ -375,15 +376,13 @@ TEST_F(RunLookTest, TooManyBucketsAreReported) {
   };
   const auto start = [](int count) {
     return "The bucket table 'VEX_SB1' has " + std::to_string(count) +
-           " buckets, and a chart has room for the names of 22, so that ";
+           " buckets, but a chart can show the names of at most 22, so ";
   };
   const S breaks =
-      "its drawing breaks off and it is left a column chart without a legend; leave 22 buckets or fewer, "
-      "then "
-      "draw it again with plotsmith modify BOOK CHART --type 'strategic bucket', and switch its legend on in "
-      "a "
-      "spreadsheet program; the next refresh draws that.";
-  const S misnamed = "the columns have wrong names; leave 22 buckets or fewer.";
+      "its drawing stops and leaves a column chart without a legend; keep at most 22 buckets, draw "
+      "the chart again with plotsmith modify BOOK CHART --type 'strategic bucket', and switch on its legend "
+      "in a spreadsheet program; the next refresh draws the legend.";
+  const S misnamed = "the columns have wrong names; keep at most 22 buckets.";
   const S error =
       "Brindle Plotsmith: PSChartBuilder.PopulateStrBuckChart\nUnable to set the XValues property of the "
       "Series "
@@ -400,12 +399,9 @@ TEST_F(RunLookTest, TooManyBucketsAreReported) {
     write(count);
     EXPECT_EQ(Refresh(), said) << count;
   }
-  EXPECT_EQ(
-      Refresh(),
-      Line(
-          "The type is 'column' on the chart and 'strategic bucket' in the definition; that of the chart was "
-          "kept.") +
-          Line(start(55) + breaks));
+  EXPECT_EQ(Refresh(), Line("The type is 'column' on the chart and 'strategic bucket' in the definition; the "
+                            "one on the chart was kept.") +
+                           Line(start(55) + breaks));
   EXPECT_EQ(Refresh(), Line(start(55) + breaks)) << "as long as it lasts";
   Edit("/xl/workbook.xml", "$B$58", "$B$9");
   const CommandResult mended = RunCommand({"modify", path_, "VEX_Chart1", "--type", "strategic bucket"});
@@ -416,7 +412,7 @@ TEST_F(RunLookTest, TooManyBucketsAreReported) {
 
 TEST_F(RunLookTest, AmbiguousChartsPreventNewAndDeletedCharts) {
   const S drop =
-      "plotsmith: nothing was changed, as charts could be taken for each other; correct this, or "
+      "plotsmith: nothing was changed, because charts could be confused with each other; correct this, or "
       "use --drop-broken.\n";
   const S second =
       "plotsmith: More: A second chart here has the alternative text 'VEX_Chart1', and only the first one, "

@@ -36,7 +36,7 @@ TEST(DomTest, AParseErrorHasReasonLineAndCharacter) {
       {"<\xC3\xA4 x='\xC3\xB6'><b></\xC3\xA4>", "mismatched tag", 1, 15},
       {"", "no element found", 1, 1},
       {"<a b='1' b='2'/>", "duplicate attribute", 1, 10},
-      {deep, "elements nest deeper than 256", 1, 1},
+      {deep, "elements are nested deeper than 256", 1, 1},
       {"<a/>", "", 0, 0}};
   for (const auto& [xml, reason, line, linepos] : cases) {
     EXPECT_EQ(document.loadXML(xml), *reason == '\0') << xml;

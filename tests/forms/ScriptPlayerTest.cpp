@@ -130,8 +130,8 @@ TEST_F(ScriptPlayerTest, ImpossibleLinesReportTheAlternatives) {
       {"double lstOne East", "1: lstOne is a ListBox, and 'double' is for a grid"},
       // texts, entries and rows
       {"type txtTitle 123456", "1: txtTitle takes 5 characters"},
-      {"type txtTitle \"a\\nb\"", "1: txtTitle takes one line"},
-      {"type cboFormat \"a\\nb\"", "1: cboFormat takes one line"},
+      {"type txtTitle \"a\\nb\"", "1: txtTitle accepts only one line"},
+      {"type cboFormat \"a\\nb\"", "1: cboFormat accepts only one line"},
       {"type cboValues Cost", "1: nothing can be typed into cboValues; 'choose' takes one of its entries"},
       {"choose cboValues", "1: which entry of cboValues? it has 'Amount', 'Cost' and 'Amount'"},
       {"choose cboValues cost", "1: cboValues has no entry 'cost'; it has 'Amount', 'Cost' and 'Amount'"},

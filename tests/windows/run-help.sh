@@ -51,7 +51,7 @@ same_file "the page, of a path beyond the code page" "$work/pages" "$work/expect
 open_topics "$help" 99
 printf '99: Brindle Plotsmith [OK]: HTML Help can'"'"'t show topic 99 of "%s".\n' "$help" >"$work/expected"
 same_file "no such number" "$work/said" "$work/expected"
-says "no path" "" "The host hasn't said where the help file is."
+says "no path" "" "The host hasn't set the path of the help file."
 missing=$(windows_path "$folder")\\None.chm
 says "no file" "$missing" "The help file \"$missing\" isn't there."
 echo "not a CHM file" >"$folder/Text.chm"

@@ -23,8 +23,7 @@ std::future<void> LoadPainterAhead() {
 
 bool SayIfFontsAreMissing(const Streams& streams) {
   if (LoadPainter().HasFonts()) return false;
-  streams.err
-      << "plotsmith: no fonts are installed, so texts are not where they should be, or are missing.\n";
+  streams.err << "plotsmith: no fonts are installed, so texts are misplaced or missing.\n";
   return true;
 }
 

@@ -14,7 +14,7 @@ HWND WindowOf(std::intptr_t handle) { return reinterpret_cast<HWND>(handle); }
 
 /// Returns a sentence with the reason why the help can't be shown; empty if it was shown.
 std::string HelpFailure(std::intptr_t owner, const std::string& file, std::int32_t topic) {
-  if (file.empty()) return "The host hasn't said where the help file is.";
+  if (file.empty()) return "The host hasn't set the path of the help file.";
   // The code doesn't use std::filesystem, which would add 160 KB to the DLL.
   if (GetFileAttributesW(com::Wide(file).c_str()) == INVALID_FILE_ATTRIBUTES) {
     return "The help file \"" + file + "\" isn't there.";

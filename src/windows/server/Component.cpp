@@ -45,12 +45,13 @@ void CheckThatItCanRun() {
   using runtime::RuntimeError;
   namespace error = runtime::error;
   if (!IsOwnThread()) {
-    throw RuntimeError(error::kAutomation, "Plotsmith belongs to the thread that has called it first.");
+    throw RuntimeError(error::kAutomation,
+                       "Plotsmith can only be called on the thread that called it first.");
   }
   if (isAtWork) {
     throw RuntimeError(
         error::kAutomation,
-        "Plotsmith is still at work on an earlier call. Call it again when that has returned.");
+        "Plotsmith is still working on an earlier call. Call it again when that call has returned.");
   }
   if (runtime::StackLeft() < kStackOfRun) throw RuntimeError(error::kOutOfStackSpace);
 }

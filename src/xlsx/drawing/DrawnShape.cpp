@@ -96,7 +96,7 @@ const std::u16string& DrawnShape::Text() {
 
 void DrawnShape::SetText(std::u16string_view text) {
   TextBody body(Object());
-  if (text.size() > limits::kShapeText) throw Refusal("The text is longer than a shape can hold.");
+  if (text.size() > limits::kShapeText) throw Refusal("The text is longer than a shape can contain.");
   body.SetText(runtime::ToUtf8(text));
   text_.reset();  // the body may store a different text, for example other line ends
   FitToText();

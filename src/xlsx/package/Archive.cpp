@@ -60,7 +60,7 @@ class EntryStream : public Archive::Stream {
     crc_ = crc32_gzip_refl(crc_, reinterpret_cast<const unsigned char*>(buffer), count);
     total_ += count;
     if (total_ > entry_.size || (count == 0 && total_ != entry_.size)) {
-      throw PackageError("it is not of the size that its directory tells");
+      throw PackageError("its size isn't the one in the archive's directory");
     }
     if (count == 0 && crc_ != entry_.crc) throw PackageError("its checksum is wrong");
     return count;
@@ -112,7 +112,7 @@ std::unique_ptr<Archive::Stream> Archive::Open(std::size_t index) const {
   if (!handle_) throw PackageError("the file is closed");
   if (entry.encrypted) throw PackageError("it is encrypted");
   if (entry.method != ZIP_CM_STORE && entry.method != ZIP_CM_DEFLATE) {
-    throw PackageError("it is compressed by a method that no workbook uses");
+    throw PackageError("it is compressed by an unsupported method");
   }
   return std::make_unique<EntryStream>(handle_->zip.get(), entry, index);
 }

@@ -99,8 +99,7 @@ class ScratchFile {
  public:
   ScratchFile() : file_(file_system::OpenScratch()) {
     if (file_ < 0) {
-      throw PackageError(std::string("there is no room for a temporary file: ") +
-                         runtime::SystemErrorText(errno));
+      throw PackageError(std::string("a temporary file can't be made: ") + runtime::SystemErrorText(errno));
     }
   }
   ~ScratchFile() { file_system::Close(file_); }
@@ -156,7 +155,7 @@ Package Package::Open(const std::string& path) {
     part->entry = i;
     if (entries[i].encrypted) throw PartError(part->name, "it is encrypted");
     if (!package.byName_.emplace(Folded(part->name), part.get()).second) {
-      throw PackageError("it holds two parts of the name " + part->name);
+      throw PackageError("it contains two parts with the name " + part->name);
     }
     package.parts_.push_back(std::move(part));
   }
@@ -248,8 +247,8 @@ class NamedStream : public Archive::Stream {
 void CheckSize(const ArchiveEntry& entry, const std::string& part, std::uint64_t limit) {
   const bool bomb = entry.size > limits::kAnyRatio && entry.size / limits::kRatio > entry.compressedSize;
   if (bomb || entry.size > limit) {
-    throw PartError(part,
-                    "it inflates to " + std::to_string(entry.size) + " bytes, which no sound workbook needs");
+    throw PartError(
+        part, "it inflates to " + std::to_string(entry.size) + " bytes, more than any valid workbook needs");
   }
 }
 

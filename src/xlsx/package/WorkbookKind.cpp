@@ -108,7 +108,7 @@ bool IsForeignName(std::string_view path) {
 
 PackageError OtherFormat(const std::string& format) {
   return PackageError("it is " + format +
-                      "; save it as .xlsx first, as only .xlsx, .xlsm, .xltx and .xltm can be read");
+                      "; save it as .xlsx first, because only .xlsx, .xlsm, .xltx and .xltm can be read");
 }
 
 void CheckFile(const std::string& path) {

@@ -58,7 +58,7 @@ void QuoteSafe(pugi::xml_node element) {
   std::size_t count = 0;
   for (pugi::xml_attribute attribute : element.attributes()) {
     if (++count > limits::kXmlAttributes)
-      throw PackageError("an element of it has more attributes than we can hold");
+      throw PackageError("an element of it has more attributes than Plotsmith supports");
     if (std::string_view(attribute.value()).find('"') != std::string_view::npos) {
       attribute.set_value(runtime::Replace(attribute.value(), "\"", "&quot;").c_str());
     }
@@ -190,12 +190,12 @@ void Parse(pugi::xml_document& document, std::string_view bytes) {
   if (!IsUtf8(text)) throw PackageError("its text isn't in the encoding that it declares");
   const auto mark = [](char c) { return c == '<' || c == '='; };
   if (std::count_if(text.begin(), text.end(), mark) > limits::kXmlMarks) {
-    throw PackageError("it has more elements than we can hold");
+    throw PackageError("it has more elements than Plotsmith supports");
   }
   const auto status = document.load_buffer(text.data(), text.size(), kParse, pugi::encoding_utf8);
   if (status.status == pugi::status_out_of_memory) throw std::bad_alloc();
   if (!status || !Root(document)) throw PackageError("its XML is damaged");
-  if (dom::NestsDeeperThan(document, limits::kXmlDepth)) throw PackageError("its XML nests too deep");
+  if (dom::NestsDeeperThan(document, limits::kXmlDepth)) throw PackageError("its XML is nested too deeply");
   for (const pugi::xml_node& node : document.children()) {
     if (node.type() == pugi::node_doctype) throw PackageError(kHasDocumentType);
   }

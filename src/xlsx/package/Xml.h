@@ -19,7 +19,7 @@ namespace plotsmith::xlsx::xml {
 
 /// The message for a part with a document type declaration, which no part may have (ECMA-376-2).
 inline constexpr const char* kHasDocumentType =
-    "it declares a document type, which no part of a workbook may";
+    "it declares a document type, which isn't allowed in a workbook";
 
 /// Parses a part in UTF-8, UTF-16, Latin-1 or Windows-1252. Throws PackageError if it isn't well-formed or is
 /// nested too deep.

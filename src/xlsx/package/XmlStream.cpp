@@ -55,7 +55,7 @@ bool XmlStream::Fill() {
   const auto unread = static_cast<std::size_t>(end_ - position_);
   std::memmove(window_.data(), position_, unread);
   if (unread == window_.size() - 1 - kSlack) {
-    if (window_.size() > limits::kXmlToken) throw PackageError("it holds a text without an end");
+    if (window_.size() > limits::kXmlToken) throw PackageError("it contains a text without an end");
     window_.resize(window_.size() * 2);
   }
   const std::size_t count = ReadSource(window_.data() + unread, window_.size() - 1 - kSlack - unread);

@@ -64,7 +64,7 @@ void EnterText(GridCell& cell, std::string_view text) {
     }
   }
   if (text.size() > limits::kCellText && runtime::Len(text) > limits::kCellText) {
-    throw runtime::RuntimeError(runtime::error::kApplication, "The text is longer than a cell can hold.");
+    throw runtime::RuntimeError(runtime::error::kApplication, "The text is longer than a cell can contain.");
   }
   Put(cell, Kind::kText, 0, std::string(text));
 }

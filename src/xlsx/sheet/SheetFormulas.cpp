@@ -116,8 +116,8 @@ class FormulaShifter {
     out_.append(part_, copied_, stretch.begin - copied_).append(by);
     copied_ = stretch.end;
     if (out_.size() > limits::kHeldPart) {
-      throw PackageError("its formulas come to more than " + std::to_string(limits::kHeldPart) +
-                         " bytes, which no sound workbook needs");
+      throw PackageError("its formulas take more than " + std::to_string(limits::kHeldPart) +
+                         " bytes, more than any valid workbook needs");
     }
   }
 

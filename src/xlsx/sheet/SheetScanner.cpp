@@ -88,7 +88,7 @@ class SheetScanner : public XmlStream {
 
   void Put(std::int32_t column, PackedValue value, std::uint32_t style) {
     if (contents_.cells.CellCount() >= limits::kCells)
-      throw PackageError("it has more cells than we can hold");
+      throw PackageError("it has more cells than Plotsmith supports");
     if (row_ == 0) row_ = 1;  // a cell outside of any row
     column_ = column;
     // to Excel, a blank without a style is no cell; it doesn't extend the used range
@@ -127,7 +127,7 @@ class SheetScanner : public XmlStream {
 /// empty.
 bool SheetScanner::ReadHead() {
   for (;;) {
-    if (contents_.head.size() > limits::kXmlToken) throw PackageError("it has no cells where they should be");
+    if (contents_.head.size() > limits::kXmlToken) throw PackageError("it has no element for its cells");
     const char* open = position_;
     const auto find = [&] {
       return static_cast<const char*>(std::memchr(open, '<', static_cast<std::size_t>(end_ - open)));

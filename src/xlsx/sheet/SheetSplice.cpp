@@ -13,7 +13,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-constexpr const char* kNoCells = "it has no cells where they should be";
+constexpr const char* kNoCells = "it has no element for its cells";
 
 /// Finds the next start tag of an element in the head, which is everything before the cells.
 std::optional<XmlTag> FindInHead(std::string_view text, std::string_view local) {

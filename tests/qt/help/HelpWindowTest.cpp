@@ -86,14 +86,14 @@ TEST_F(HelpWindowTest, EachPageHasItsPictures) {
 
 TEST_F(HelpWindowTest, MissingPagesAreReported) {
   window_.ShowTopic(42);
-  EXPECT_EQ(Text().toPlainText().toStdString(), "The help has no topic of the number 42.\nAll topics");
+  EXPECT_EQ(Text().toPlainText().toStdString(), "The help has no topic with the number 42.\nAll topics");
   EXPECT_EQ(List().currentRow(), -1);
   EXPECT_EQ(Title(), "Plotsmith Help");
   const QTemporaryDir folder;
   HelpWindow empty(folder.path());
   empty.ShowTopic(1);
   auto& text = *empty.findChild<QTextBrowser*>("helpText");
-  EXPECT_EQ(text.toPlainText().toStdString(), "The help has no topic of the number 1.");
+  EXPECT_EQ(text.toPlainText().toStdString(), "The help has no topic with the number 1.");
   empty.ShowFirstPage();
   EXPECT_EQ(text.toPlainText(), "The help page index.html isn't in the folder " + folder.path() + ".");
   QFile table(folder.filePath("topics.tsv"));

@@ -2,7 +2,7 @@
 var kMismatch = "Type mismatch";
 var kNoObject = "Object required";
 var kNoMember = "Object doesn't support this property or method";
-var kAtWork = "Plotsmith is still at work on an earlier call. Call it again when that has returned.";
+var kAtWork = "Plotsmith is still working on an earlier call. Call it again when that call has returned.";
 // While charts are drawn, boxes are in front of the busy window.
 var kBusy = "Brindle Plotsmith [OK] of Please Wait: ";
 var kNoSheet = kBusy + "Unable to create the metadata worksheet";

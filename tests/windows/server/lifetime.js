@@ -2,7 +2,7 @@
 var examples = WScript.Arguments(1) + "\\";
 var kProduct = "Brindle Plotsmith [OK]: ";
 var kAtWork = kProduct + "CPlotsmithController.RefreshPlotsmithData\\r\\n" +
-    "Plotsmith is still at work on an earlier call. Call it again when that has returned.";
+    "Plotsmith is still working on an earlier call. Call it again when that call has returned.";
 
 function open(name) {
   var host = new ActiveXObject("PlotsmithTestHost.Application");
@@ -96,7 +96,7 @@ unload("after a macro");
   var controller = newController();
   controller.RefreshPlotsmithData(open("countries.xlsx"), "Add-in", "");
   check("another thread", boxes.RefreshOnOtherThread(), "ok\n" + kProduct +
-      "CPlotsmithController.RefreshPlotsmithData\\r\\nPlotsmith belongs to the thread that has called it first.");
+      "CPlotsmithController.RefreshPlotsmithData\\r\\nPlotsmith can only be called on the thread that called it first.");
   function refresh() { controller.RefreshPlotsmithData(open("countries.xlsx"), "Add-in", ""); }
   boxes.WithStackOf(200, refresh);
   check("200 KB of stack", boxes.Take(),

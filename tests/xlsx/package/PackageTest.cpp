@@ -282,12 +282,12 @@ TEST(XmlTest, ForbiddenContentsAreRefused) {
   S wide = "<a";
   for (std::size_t i = 0; i <= limits::kXmlAttributes; ++i) wide += " a='1'";
   const std::pair<S, const char*> cases[] = {
-      {deep, "its XML nests too deep"},
-      {wide + "/>", "an element of it has more attributes than we can hold"},
+      {deep, "its XML is nested too deeply"},
+      {wide + "/>", "an element of it has more attributes than Plotsmith supports"},
       {"<?xml version='1.0?><!--'>" + deep + "<!-- -->", "its XML is damaged"},
-      {"<!DOCTYPE a [<!-- ' -->]>" + deep, "its XML nests too deep"},
-      {S(limits::kXmlMarks + 1, '<'), "it has more elements than we can hold"},
-      {"<!DOCTYPE a><a/>", "it declares a document type, which no part of a workbook may"},
+      {"<!DOCTYPE a [<!-- ' -->]>" + deep, "its XML is nested too deeply"},
+      {S(limits::kXmlMarks + 1, '<'), "it has more elements than Plotsmith supports"},
+      {"<!DOCTYPE a><a/>", "it declares a document type, which isn't allowed in a workbook"},
       {"<a>\xE4</a>", "its text isn't in the encoding that it declares"}};
   for (const auto& [text, reason] : cases) {
     pugi::xml_document document;

@@ -70,9 +70,9 @@ void ChartPart::Load() {
     if (part_.empty()) throw PackageError("the chart's part is missing");
     InPart(part_, [&] {
       xml::Parse(*document, book_.Package().Read(part_));
-      if (!xml::Is(xml::Root(*document), "chartSpace")) throw PackageError("it is no chart");
+      if (!xml::Is(xml::Root(*document), "chartSpace")) throw PackageError("it isn't a chart");
       if (CountSeries(xml::Root(*document)) > limits::kSeries) {
-        throw PackageError("it has more series than we can hold");
+        throw PackageError("it has more series than Plotsmith supports");
       }
     });
     document_ = std::move(document);
