@@ -130,7 +130,7 @@ bool SaveWithoutMemory(const S& path, int allocation, const Save& save) {
 }  // namespace plotsmith::test
 
 // Replacements of the C library's functions that a save calls, and of the functions for memory. Each calls
-// the real one. GCC doesn't recognise the memory functions as a pair if it inlines one of them.
+// the real one. GCC doesn't recognize the memory functions as a pair if it inlines one of them.
 
 namespace failures = plotsmith::test;
 

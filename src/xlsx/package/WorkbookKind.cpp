@@ -33,7 +33,7 @@ constexpr std::array<std::string_view, 3> kMacroTypes = {"application/vnd.ms-off
 constexpr std::array<std::string_view, 9> kForeignExtensions = {".xls", ".xlt",     ".xlsb", ".ods", ".fods",
                                                                 ".csv", ".numbers", ".html", ".pdf"};
 
-/// A kind of text file and the text by which its beginning is recognised.
+/// A kind of text file and the text by which its beginning is recognized.
 struct TextKind {
   std::string_view mark;
   const char* format;

@@ -228,7 +228,7 @@ SheetScanner::Piece SheetScanner::ReadPiece() {
     return Piece::kCut;
   }
   position_ = open;
-  // the name can be recognised only with "<", the prefix, "c" and the character after it
+  // the name can be recognized only with "<", the prefix, "c" and the character after it
   if (end_ - position_ < static_cast<std::ptrdiff_t>(prefix_.size()) + 3 && Fill()) return Piece::kTaken;
   const char* p = position_ + 1;
   if (At(p, "c")) return ReadCell(p);
