@@ -6,7 +6,7 @@
 
 namespace plotsmith {
 
-/// The fill of a series. The properties have the values of an Interior's properties of the same names.
+/// The fill of a series. The properties have the values of the Interior properties with the same names.
 class CPSColor {
  public:
   /// The fill colour, as in Interior.Color.

@@ -10,10 +10,10 @@ namespace plotsmith {
 /// How a map instruction finds a row or column of the rectangle.
 namespace reference {
 inline constexpr std::int32_t kFixed = 0;   ///< the position is the index
-inline constexpr std::int32_t kByCell = 1;  ///< the position is a sheet column whose text names it
+inline constexpr std::int32_t kByCell = 1;  ///< the text in this sheet column determines the index
 }  // namespace reference
 
-/// Where a map instruction takes the value from.
+/// The source of a map instruction's value.
 namespace value_reference {
 inline constexpr std::int32_t kCell = 0;
 inline constexpr std::int32_t kConstant = 2;
@@ -26,7 +26,7 @@ class CPSMapInstruction {
   std::int32_t RowReferenceType() const { return lRowReferenceType_; }
   /// Sets how the row is found.
   void SetRowReferenceType(std::int32_t ReferenceType) { lRowReferenceType_ = ReferenceType; }
-  /// A category index or a sheet column, from 1; so is ColReferencePosition for the series.
+  /// A category index or a sheet column, from 1.
   std::int32_t RowReferencePosition() const { return lRowReferencePosition_; }
   /// Sets the category index or sheet column.
   void SetRowReferencePosition(std::int32_t ColumnPosition) { lRowReferencePosition_ = ColumnPosition; }
