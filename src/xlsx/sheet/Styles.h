@@ -23,7 +23,7 @@ class Styles {
 
   /// Returns the number format of a cell style, an index into cellXfs; General if there is no such style.
   const NumberFormat& Format(std::uint32_t style) const;
-  /// Whether the format is General, or a date. These are fast, because they are called for each cell.
+  /// Returns true if the format is General. This is fast, because it is called for each cell; so is IsDate.
   bool IsGeneral(std::uint32_t style) const { return Known(style).general; }
   /// Returns true if the format of a cell style shows a date.
   bool IsDate(std::uint32_t style) const { return Known(style).date; }

@@ -16,7 +16,7 @@ void CheckEditing(const HostPtr& host) {
   if (host->editing) throw RuntimeError(kSuspended);
 }
 
-/// The list of a workbook's properties, of which the port has only the items.
+/// The list of a workbook's properties. The port has only its items.
 struct DocumentProperties {
   Ref<excel::Workbook> book;
 };

@@ -46,7 +46,7 @@ TEST(SheetFormulasTest, OnlyTheFormulasConcernedChange) {
     EXPECT_TRUE(ShiftSheetFormulas(part, "Sheet1", shifts)) << before;
     EXPECT_EQ(part, std::string("<w>\r\n<!-- 'My Data'!A5 -->") + after + "</w>");
   }
-  const std::string unchanged[] = {// longer than any formula may be
+  const std::string unchanged[] = {// longer than any valid formula
                                    "<c><f t='shared' si='0'>'My Data'!A5" + std::string(8192, ' ') +
                                        "</f></c><c><f t='shared' si='0'/></c>",
                                    "<c r='A1'><f>A5+Other!A5</f></c>",
