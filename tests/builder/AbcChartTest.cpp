@@ -119,7 +119,7 @@ TEST_F(AbcChartTest, AreaAndColumnChartsDiffer) {
     EXPECT_EQ(calls[calls.size() - 2], type == S("area") ? "Chart.ChartType = 1" : "Chart.ChartType = 51");
     EXPECT_EQ(calls.back(), "Chart.HasLegend = False");
     EXPECT_EQ(std::count(journal_.begin(), journal_.end(), "Application.Interactive = False"), 2)
-        << "the direct road switches the user off, and the guard has tried the switch";
+        << "a direct refresh disables user input, and the guard has tried that before";
   }
 }
 

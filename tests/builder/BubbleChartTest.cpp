@@ -137,7 +137,7 @@ TEST_F(BubbleChartTest, OlderVersionsStartWithAScatterChartAndKeepTheirLegend) {
     EXPECT_TRUE((at - 1)->starts_with("Chart.SeriesCollection(2).BubbleSizes"));
     EXPECT_EQ(*(at + 1), "Chart.SeriesCollection(2).HasDataLabels = True");
     EXPECT_EQ(With(again, "Chart.HasLegend"), Lines{"Chart.HasLegend = True"})
-        << "a legend that is there is let be, until it is dressed as it was";
+        << "an existing legend isn't changed until it gets its stored format";
     EXPECT_EQ(Chart()->Legend()->LegendEntries()->Count(), 2);
   }
   EXPECT_TRUE(Messages().empty());
@@ -188,7 +188,7 @@ TEST_F(BubbleChartTest, ARowWithoutAColourLabelKeepsItsPlace) {
   EXPECT_EQ(Lines(calls.begin(), calls.begin() + static_cast<std::ptrdiff_t>(expected.size())), expected);
   const auto series = Chart()->SeriesCollection();
   EXPECT_EQ(series->Item(1)->Interior()->Color(), series->Item(2)->Interior()->Color())
-      << "in the colour of the series before";
+      << "in the colour of the previous series";
   EXPECT_NE(series->Item(1)->Interior()->Color(), series->Item(3)->Interior()->Color());
   EXPECT_EQ(Chart()->Shapes()->Count(), 0) << "its name has no colour, and so there is no legend";
   EXPECT_FALSE(Chart()->HasLegend());

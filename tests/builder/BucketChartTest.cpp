@@ -81,7 +81,7 @@ TEST_F(BucketChartTest, OrderOfCalls) {
   const auto legend =
       std::find_if(calls.begin(), calls.end(), [](const S& line) { return line.find(".Shapes") != S::npos; });
   EXPECT_EQ(Lines(calls.begin(), legend), expected);
-  EXPECT_FALSE(With(calls, "AutoShapeType").size()) << "keys of buckets are square";
+  EXPECT_FALSE(With(calls, "AutoShapeType").size()) << "the keys of buckets are square";
   EXPECT_TRUE(With(calls, "\"Strategic Buckets Text\"").empty());
   EXPECT_TRUE(Messages().empty());
 

@@ -151,7 +151,7 @@ TEST_F(ChartLegendTest, SomeNamesAreMissingAndSomePreventTheLegend) {
   EXPECT_EQ(entries("Northern", "north"), (Lines{"\"Northern\"", "\"north\""})) << "case counts";
   EXPECT_EQ(Names(), "VEX_Legend;");
   entries("East|West", "North");
-  EXPECT_EQ(Names(), "") << "half a name has no colour";
+  EXPECT_EQ(Names(), "") << "a part of a name has no colour";
   EXPECT_EQ(entries("Strategic Buckets", "North"), Lines{"\"North\""});
   EXPECT_TRUE(Messages().empty());
 }
@@ -182,7 +182,7 @@ TEST_F(ChartLegendTest, SizesAndPositionsFollowTheStoredFont) {
     ASSERT_GE(frame.size(), c.frame.size() + 3);
     EXPECT_EQ(Lines(frame.begin(), frame.begin() + static_cast<std::ptrdiff_t>(c.frame.size())), c.frame);
     EXPECT_EQ(Lines(frame.end() - 2, frame.end()), (Lines{"Left = " + c.left, "Top = 40.5"}))
-        << "a place that somebody chose";
+        << "a position that the user has set";
   }
 }
 

@@ -45,7 +45,7 @@ TEST_F(DataSheetTest, CellsCountByTheirDisplayedText) {
   // A text and an error add nothing, a numeric text adds its number, and True adds -1.
   EXPECT_EQ(Block(definition), "|Amount\n1/1/2020|1.0\nJan 20|10.0\nFeb 20|4.0\n|0.0\n2020|16.0\nx|-1.0");
   EXPECT_EQ(Book().FindWorksheet("VEX_ChartData")->CellValueAt(6, 2).kind, excel::CellValue::Kind::kText)
-      << "a year as category stays a text";
+      << "a year as a category remains a text";
 }
 
 TEST_F(DataSheetTest, ABlockLargerThanASheetIsRefusedBeforeItTakesMemory) {
@@ -67,7 +67,8 @@ TEST_F(DataSheetTest, ABlockIsResizedInPlace) {
   EXPECT_EQ(
       Cells("VEX_ChartData", 1, 1, 9, 1),
       "VEX_Chart1\nVEX_Chart1\nVEX_Chart1\nVEX_Chart1\nVEX_Chart1\nVEX_Chart2\nVEX_Chart2\nVEX_Chart2\n");
-  EXPECT_EQ(Cells("VEX_ChartData", 1, 4, 1, 4), "Gadget") << "what lies right of a narrower block stays";
+  EXPECT_EQ(Cells("VEX_ChartData", 1, 4, 1, 4), "Gadget")
+      << "cells to the right of a narrower block are kept";
   first.categories = Columns("categories", {"Region"}, "rows");
   EXPECT_EQ(Block(first), "|Amount\nEast|18\nWest|5");
   EXPECT_EQ(Cells("VEX_ChartData", 4, 1, 7, 3),

@@ -114,7 +114,7 @@ TEST_F(RefreshDriverTest, OneTableRefreshesItsCharts) {
   EXPECT_EQ(std::count(saved.begin(), saved.end(), '\n'), 7);
   EXPECT_EQ(test::CountOf(saved, "schema-version"), 4u)
       << "every definition is saved, not only those refreshed";
-  EXPECT_TRUE(colTables) << "nothing ends the run on this road";
+  EXPECT_TRUE(colTables) << "a direct refresh doesn't end the run";
   EXPECT_EQ(Count("Chart.PlotArea.Interior.ColorIndex = -4142"), 0) << "the charts aren't new";
 }
 

@@ -29,7 +29,7 @@ TEST_F(SourceValidationTest, ValidationStoresTheTablesPositionInTheDefinition) {
             "table-height=\"5\" header-row-count=\"1\"><categories><column name=\"REGION\" "
             "worksheet-column-number=\"1\"/>"
             "<column name=\"Nowhere\"/><column name=\"Cost\"/></categories></chart>")
-      << "what was carried before the failure stays, what lies behind it isn't touched";
+      << "values stored before the failure are kept, and later ones aren't changed";
 }
 
 TEST_F(SourceValidationTest, UnavailableCharts) {

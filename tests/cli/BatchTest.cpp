@@ -64,7 +64,7 @@ TEST_F(BatchTest, OneThatFailsDoesNotStopTheOthers) {
     // Messages are in the order of the arguments, independent of the order of completion.
     const CommandResult result =
         RunCommand({"refresh", first, half, none, text, last, first, "--jobs", jobs});
-    EXPECT_EQ(result.code, 3) << "the worst";
+    EXPECT_EQ(result.code, 3) << "the highest of all";
     EXPECT_EQ(Plain(result.err), said);
     EXPECT_EQ(result.out, "");
     EXPECT_TRUE(IsDrawn(first) && IsDrawn(last)) << jobs;
@@ -85,7 +85,7 @@ TEST_F(BatchTest, OptionsApplyToEachWorkbook) {
   two.sheets.push_back(test::SalesSheet("Data2"));
   const S both = Write("both.xlsx", two), one = Write("one.xlsx");
   const CommandResult table = RunCommand({"refresh", both, one, "--table", "Data2", "--journal"});
-  EXPECT_EQ(table.code, 2) << "the second has no such table";
+  EXPECT_EQ(table.code, 2) << "the second workbook has no such table";
   EXPECT_EQ(
       Plain(table.err),
       "one.xlsx: plotsmith: \"one.xlsx\" has no table \"Data2\" (plotsmith tables lists its tables).\n");
@@ -133,7 +133,7 @@ TEST_F(BatchTest, ResultsAreWrittenIntoAFolderByName) {
     EXPECT_EQ(result.code, 2);
     EXPECT_EQ(Plain(result.err), "plotsmith: " + said + "\n");
   }
-  EXPECT_TRUE(fs::is_empty(out)) << "all of it is refused before any work";
+  EXPECT_TRUE(fs::is_empty(out)) << "all workbooks are refused before the work";
   EXPECT_EQ(Bytes(first), before);
 }
 
@@ -185,13 +185,13 @@ TEST_F(BatchTest, AnInterruptStopsTheWorkBetweenOldAndNew) {
   std::ostringstream out, err;
   EXPECT_EQ(RunBatch(runs, doRun, 2, false, {in, out, err}), 128 + SIGINT);
   EXPECT_TRUE(err.str().starts_with("plotsmith: stopped by a signal; ")) << err.str();
-  EXPECT_EQ(Bytes(runs[39].book), before) << "and the rest is left";
+  EXPECT_EQ(Bytes(runs[39].book), before) << "the rest isn't done";
   int files = 0;
   for (const auto& entry : fs::directory_iterator(folder_.Path())) {
     ++files;
     EXPECT_NO_THROW(xlsx::Package::Open(entry.path()).Parts());
   }
-  EXPECT_EQ(files, 40) << "nothing is left beside them";
+  EXPECT_EQ(files, 40) << "there are no other files";
 }
 
 }  // namespace

@@ -305,7 +305,7 @@ TEST_F(ChartVerbsTest, MessagesOfTheBuildAreReported) {
       "press cmdFinish\nexpect message \"This chart type is limited to 254 series.\\nSome "
       "data will be dropped from chart 'Chart1'.\"\npage none\n"))
       << printed.out;
-  EXPECT_EQ(Wizard(book_, printed.out).code, 0) << "a script that expects it is content";
+  EXPECT_EQ(Wizard(book_, printed.out).code, 0) << "a script that expects it succeeds";
 }
 
 TEST_F(ChartVerbsTest, ARunThatEndsBeforeItsPagesFails) {

@@ -426,7 +426,7 @@ TEST_F(CheckTest, DatesAreNumbersToAChart) {
   rows[2][2] = RawCell{" t=\"e\"><v>#REF!</v></c>"};
   EXPECT_EQ(Found(book), List{"Data1!C3: The column 'Across' isn't a number column, which 'x-values' needs, "
                               "because this cell contains the error #REF!, which counts as 0."})
-      << "without the error it would be a label column all the same";
+      << "without the error it would still be a label column";
 }
 
 TEST_F(CheckTest, JsonHasTheSameContent) {

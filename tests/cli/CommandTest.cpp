@@ -40,7 +40,7 @@ TEST_F(CommandTest, RefreshPrintsNothingWithoutProblems) {
   const CommandResult refreshed = RunCommand({"refresh", book, "-o", folder_ / "out.xlsx"});
   EXPECT_EQ(refreshed.code, 0) << refreshed.err;
   EXPECT_EQ(refreshed.out + refreshed.err, "");
-  EXPECT_EQ(Bytes(book), before) << "with -o the workbook itself stays";
+  EXPECT_EQ(Bytes(book), before) << "with -o the workbook itself doesn't change";
   EXPECT_EQ(RunCommand({"cells", folder_ / "out.xlsx", "VEX_ChartData!A1:D3"}).out,
             "VEX_Chart1\t\tWidget\tGadget\nVEX_Chart1\tEast\t11\t7\nVEX_Chart1\tWest\t5\t\n");
   EXPECT_EQ(RunCommand({"refresh", book}).code, 0);
@@ -349,7 +349,7 @@ TEST_F(CommandTest, AStateHasItsReason) {
     EXPECT_EQ(reason.empty(), states[i] == "ok");
     EXPECT_NE(reason.find(words[i]), S::npos) << reason;
     if (reason.empty()) continue;
-    EXPECT_NE(reason.find(definitions[i]["findings"][0]["sentence"]), S::npos) << "as check says it";
+    EXPECT_NE(reason.find(definitions[i]["findings"][0]["sentence"]), S::npos) << "as in the output of check";
   }
 }
 
@@ -435,7 +435,7 @@ TEST_F(CommandTest, JournalVersionAndProgress) {
   const CommandResult watched =
       RunCommand({"refresh", book, "-o", folder_ / "o.xlsx"}, "", test::Watched::kMessages);
   EXPECT_NE(watched.err.find("\rRefreshing chart 2 ..."), S::npos);
-  EXPECT_TRUE(watched.err.ends_with("\r2 charts refreshed\n")) << "and the line is wiped";
+  EXPECT_TRUE(watched.err.ends_with("\r2 charts refreshed\n")) << "the progress line is erased";
   EXPECT_EQ(watched.code, 0);
   EXPECT_EQ(VersionText(16), "16.0");
   EXPECT_EQ(VersionText(11.5), "11.5");
@@ -494,7 +494,7 @@ TEST_F(CommandTest, ChartsFollowRenamedColumns) {
 
   const S before = Bytes(book);
   result = RunCommand({"rename-columns", book, "--table", "Data1", "Amount=Units"});
-  EXPECT_EQ(result.err, waiting) << "it is renamed already";
+  EXPECT_EQ(result.err, waiting) << "it is already renamed";
   result = RunCommand({"rename-columns", book, "--table", "Data1", "Amuont=Money", "label=Text"});
   EXPECT_EQ(result.code, 1);
   EXPECT_EQ(result.err,

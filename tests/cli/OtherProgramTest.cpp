@@ -77,7 +77,7 @@ TEST_F(OtherProgramTest, TheWizardsProgramIsSearchedBesideTheCommandAndThenInPat
   const S path = "/none:" + (folder_ / "path");
   EXPECT_EQ(Wizard("book.xlsx", path), absent);
   PutProgram("work", "echo current\n");
-  EXPECT_EQ(Wizard("book.xlsx", ":." + path), absent) << "the current folder isn't asked";
+  EXPECT_EQ(Wizard("book.xlsx", ":." + path), absent) << "the current folder isn't searched";
   PutProgram("path", "echo path\n", false);
   EXPECT_EQ(Wizard("book.xlsx", path), absent) << "it can't be run";
   PutProgram("path", "echo path\n");

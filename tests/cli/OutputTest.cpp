@@ -69,8 +69,8 @@ TEST_F(OutputTest, EachWritingVerbWritesTheSameToTheStandardOutputAsToAFile) {
     const CommandResult printed = with({"-o", "-", "--journal"});
     EXPECT_LE(printed.code, 1) << printed.err;
     EXPECT_EQ(printed.code, saved.code);
-    EXPECT_EQ(printed.out, Bytes(file)) << "and nothing else";
-    EXPECT_EQ(printed.err, saved.out + saved.err) << "what would go to the output, and the messages";
+    EXPECT_EQ(printed.out, Bytes(file)) << "there is no other output";
+    EXPECT_EQ(printed.err, saved.out + saved.err) << "the output and the messages";
     EXPECT_EQ(Bytes(book), before);
     std::filesystem::remove(file);
   }

@@ -166,7 +166,7 @@ TEST_F(RunLookTest, UnreadRowsAndUnknownNamesAreReported) {
           Line(colour) + Line(settings) +
           Line("This definition is never read, because VEX_ChartDefinitions!A3 is blank and ends the list.",
                "VEX_ChartDefinitions!A4"))
-      << "the places are those after the run";
+      << "the cells are those after the run";
 
   Write(SalesBook({{"VEX_Chart1", "line"}}));
   EXPECT_EQ(Refresh(),
@@ -182,7 +182,7 @@ TEST_F(RunLookTest, ChangesOfDefinitionsAndOfChartsAreDistinguished) {
   book.sheets.push_back(test::SalesSheet("Data2"));
   Write(book);
   EXPECT_EQ(Refresh(), "");
-  EXPECT_EQ(Refresh(), "") << "what was drawn reads back as it was stored";
+  EXPECT_EQ(Refresh(), "") << "a drawn chart is read back as it was stored";
   const auto edit = [&] {
     Edit(kDefinitions, "title=\"Sales\"", "title=\"Costs\"");
     Edit(kDefinitions, "type=\"column\"", "type=\"bar\"");
@@ -213,7 +213,7 @@ TEST_F(RunLookTest, ChangesOfDefinitionsAndOfChartsAreDistinguished) {
   EXPECT_EQ(Refresh(), "");
   Edit(kChart, "?><c:chartSpace", "?>\r\n<c:chartSpace");  // A spreadsheet program has saved the workbook.
   edit();
-  EXPECT_EQ(Refresh(), "") << "perhaps a person has changed the chart";
+  EXPECT_EQ(Refresh(), "") << "a user may have changed the chart";
   Edit(kDefinitions, "title=\"Sales\"", "title=\"Costs\"");
   Edit(kDefinitions, "ps-chart-schema-version=\"2\"", "");
   EXPECT_EQ(
@@ -260,7 +260,7 @@ TEST_F(RunLookTest, CellsThatMakeAWrongPictureAreReported) {
   EXPECT_EQ(refresh([&](Rows& rows) { rows[2][2] = rows[3][2] = rows[2][3] = formula; }),
             Line("The column 'Amount' has 2 formulas without a result, the first one here, " + calculate,
                  "Data1!C3"))
-      << "of Cost, no chart is drawn";
+      << "no chart of Cost is drawn";
   EXPECT_EQ(
       refresh([&](Rows& rows) { rows[0][2] = formula; }),
       "Brindle Plotsmith: Chart 'Name of VEX_Chart1' has become unavailable because column 'Amount'\nin "
@@ -317,7 +317,7 @@ TEST_F(RunLookTest, APossiblyRenamedColumnIsReported) {
   Edit("/xl/worksheets/sheet1.xml", "Turnover", "Product");
   const S taken = Refresh();
   EXPECT_NE(taken.find("; it has Region, Product, Product and Cost.\n"), S::npos)
-      << taken << "a column that the chart has already is no new name";
+      << taken << "a column that the chart already has isn't a new name";
 
   test::Definition other{"VEX_Chart2"};
   other.values = "<values><column name=\"Cost\"/></values>";
@@ -326,7 +326,7 @@ TEST_F(RunLookTest, APossiblyRenamedColumnIsReported) {
   Edit("/xl/worksheets/sheet1.xml", "Cost", "Rest");
   Edit("/xl/worksheets/sheet1.xml", "Amount", "Cost");
   EXPECT_NE(Refresh().find("; it has Region, Product, Cost and Rest.\n"), S::npos)
-      << "nor is one that another chart has";
+      << "a column of another chart isn't a new name";
 }
 
 TEST_F(RunLookTest, ABubbleWithoutALabelPreventsTheLegend) {
@@ -345,7 +345,7 @@ TEST_F(RunLookTest, ABubbleWithoutALabelPreventsTheLegend) {
         {{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"C", "h", 1, 1, 1}, {"c", label, 3, 4, 5}},
         test::BubbleDefinition()));
     EXPECT_EQ(Refresh(), Line(start + sentence + again, "Data1!B5"));
-    EXPECT_EQ(Refresh({"--host-version", "11"}), "") << "there the chart's own legend is used";
+    EXPECT_EQ(Refresh({"--host-version", "11"}), "") << "this version uses the chart's own legend";
   }
   PlainBook plain = test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "", 2, 3, 4}}, test::BubbleDefinition());
   plain.Sheet("VEX_ChartDefinitions").rows.resize(1);
@@ -358,7 +358,7 @@ TEST_F(RunLookTest, ABubbleWithoutALabelPreventsTheLegend) {
       << made.err << "its definition has no numbers of columns yet";
   Write(test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "", 2, 3, 4}}, test::BubbleDefinition()));
   Edit("/xl/worksheets/sheet1.xml", "Size", "Weight");
-  EXPECT_EQ(Refresh().find("Data1!B3"), S::npos) << "a chart that can't be drawn has other troubles";
+  EXPECT_EQ(Refresh().find("Data1!B3"), S::npos) << "a chart that can't be drawn has other problems";
   Write(test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"c", "g|h", 3, 4, 5}},
                          test::BubbleDefinition()));
   EXPECT_EQ(Refresh(), "") << "each piece has a colour";
@@ -402,7 +402,7 @@ TEST_F(RunLookTest, TooManyBucketsAreReported) {
   EXPECT_EQ(Refresh(), Line("The type is 'column' on the chart and 'strategic bucket' in the definition; the "
                             "one on the chart was kept.") +
                            Line(start(55) + breaks));
-  EXPECT_EQ(Refresh(), Line(start(55) + breaks)) << "as long as it lasts";
+  EXPECT_EQ(Refresh(), Line(start(55) + breaks)) << "as long as the problem exists";
   Edit("/xl/workbook.xml", "$B$58", "$B$9");
   const CommandResult mended = RunCommand({"modify", path_, "VEX_Chart1", "--type", "strategic bucket"});
   EXPECT_EQ(mended.code, 0) << mended.err;

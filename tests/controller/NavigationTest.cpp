@@ -68,7 +68,7 @@ TEST_F(NavigationTest, WaysThroughTheWizard) {
   EXPECT_EQ(Run({Choose(0, "bubble"), next(3), next(4)}),
             Nested({"frmPSSelectAction", "frmPSSelectTable", "frmPSLayoutBubble", "frmPSChartLocation"}));
   EXPECT_EQ(Run({Choose(1, "pie")}), Nested({"frmPSSelectAction", "frmPSLayoutPie"}))
-      << "to modify a chart whose table is good starts at its layout";
+      << "modifying a chart with a suitable table starts at its layout";
   EXPECT_EQ(Run({Choose(0, "area"), next(3), back(4), back(3)}),
             Nested({"frmPSSelectAction", "frmPSSelectTable", "frmPSLayoutABC", "frmPSSelectTable",
                     "frmPSSelectAction"}));
@@ -117,7 +117,7 @@ TEST_F(NavigationTest, MessagesAndErrors) {
   EXPECT_EQ(Messages().back(), "Brindle Plotsmith: PSController.PSJumpToStep\nType mismatch");
   EXPECT_TRUE(bRunAborted);
   EXPECT_FALSE(colTables);
-  EXPECT_EQ(Run({}), kAction) << "the next run has a page of its own";
+  EXPECT_EQ(Run({}), kAction) << "the next run has a new page";
   EXPECT_FALSE(bRunAborted);
 }
 
@@ -278,7 +278,7 @@ TEST_F(EntryTest, TheFirstCallersHostAndNameStay) {
   S table = "Data1";
   controller.RefreshChartsForTable(first, table);
   EXPECT_EQ(sCustomAppName, "");
-  EXPECT_TRUE(oWorkbook) << "this road doesn't let go of the workbook";
+  EXPECT_TRUE(oWorkbook) << "this operation keeps the workbook";
   const auto second = xlsx::Application::Create();
   controller.RefreshPlotsmithData(second, "Second", "second.chm");
   EXPECT_EQ(Messages().back(), "Brindle Plotsmith: You must have a workbook open to use the Plotsmith.")

@@ -23,7 +23,7 @@ TEST(DomTest, AnInvalidTextLeavesAnEmptyDocument) {
   std::string deep = "<!DOCTYPE a [<!-- ' -->]>";
   for (int i = 0; i < 300000; ++i) deep += "<a>";
   for (int i = 0; i < 300000; ++i) deep += "</a>";
-  EXPECT_FALSE(document.loadXML(deep)) << "a branch that deep can't even be taken down";
+  EXPECT_FALSE(document.loadXML(deep)) << "such a deep branch can't even be removed";
 }
 
 TEST(DomTest, AParseErrorHasReasonLineAndCharacter) {
@@ -70,7 +70,8 @@ TEST(DomTest, TextsAndAttributesSurviveARoundTrip) {
   EXPECT_EQ(attributes[1].name, "number");
   EXPECT_EQ(attributes[1].value, "2.5");
   EXPECT_EQ(root.getAttribute("control"), runtime::Variant("ab"));
-  EXPECT_EQ(root.selectSingleNode("comment").firstChild().nodeValue(), "  two\nlines ") << "line ends fold";
+  EXPECT_EQ(root.selectSingleNode("comment").firstChild().nodeValue(), "  two\nlines ")
+      << "line ends are normalized";
 }
 
 TEST(DomTest, NodesMoveBetweenTreesAndOut) {
@@ -85,11 +86,11 @@ TEST(DomTest, NodesMoveBetweenTreesAndOut) {
   EXPECT_EQ(second.xml(), "<t><c n=\"4\"/></t>");
 
   auto loose = first.createElement("c");
-  EXPECT_EQ(first.selectNodes("//c").size(), 2u) << "what is in no tree isn't found";
+  EXPECT_EQ(first.selectNodes("//c").size(), 2u) << "a node outside the tree isn't found";
   auto x = first.selectSingleNode("t/x");
   first.documentElement().removeChild(x);
   EXPECT_EQ(first.xml(), "<t><c n=\"1\"/></t>");
-  EXPECT_EQ(x.selectNodes("c").size(), 1u) << "a removed node is still whole";
+  EXPECT_EQ(x.selectNodes("c").size(), 1u) << "a removed node is still complete";
   EXPECT_THROW(first.documentElement().removeChild(loose), runtime::RuntimeError);
 }
 

@@ -89,9 +89,9 @@ TEST(KeysTest, ArrowKeysMoveAroundTheEnabledOptions) {
   form.optType1.SetEnabled(false);
   EXPECT_EQ(&form.optType0.Neighbor(true), &form.optType0);
   EXPECT_FALSE(form.optType0.IsTabStop());
-  EXPECT_TRUE(form.optType1.IsTabStop()) << "it is chosen";
+  EXPECT_TRUE(form.optType1.IsTabStop()) << "it is selected";
   form.optType1.SetValue(false);
-  EXPECT_TRUE(form.optType0.IsTabStop()) << "none is chosen";
+  EXPECT_TRUE(form.optType0.IsTabStop()) << "none is selected";
 }
 
 TEST(SecondPressTest, ASecondPressBelongsToTheFirst) {

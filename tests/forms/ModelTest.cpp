@@ -39,7 +39,7 @@ TEST(ModelTest, SettingAPropertyRaisesTheEventsOfAUserAction) {
          form.lstOne.SetListIndex(-1);
        },
        {"lstOne click", "lstOne click"}},
-      {"an entry that isn't there",
+      {"an entry that doesn't exist",
        [](auto& form) {
          EXPECT_EQ(test::ErrorOf([&] { form.cboValues.SetListIndex(3); }), 380);
          EXPECT_EQ(test::ErrorOf([&] { form.cboValues.SetListIndex(-2); }), 380);
@@ -54,7 +54,7 @@ TEST(ModelTest, SettingAPropertyRaisesTheEventsOfAUserAction) {
          EXPECT_TRUE(form.optOther0.Value()) << "it is in another container";
        },
        {"optOther(0) click", "optType(0) click"}},
-      {"an option off", [](auto& form) { form.optType1.SetValue(false); }, {}},
+      {"a disabled option", [](auto& form) { form.optType1.SetValue(false); }, {}},
       {"a box",
        [](auto& form) {
          form.chk3D.SetValue(CheckBox::kChecked);
@@ -62,7 +62,7 @@ TEST(ModelTest, SettingAPropertyRaisesTheEventsOfAUserAction) {
          form.chk3D.SetValue(CheckBox::kUnchecked);
        },
        {"chk3D click", "chk3D click"}},
-      {"values of controls that are off",
+      {"values of disabled controls",
        [](auto& form) {
          form.chk3D.SetEnabled(false);
          form.optType0.SetEnabled(false);
@@ -80,7 +80,7 @@ TEST(ModelTest, SettingAPropertyRaisesTheEventsOfAUserAction) {
          form.cboFormat.SetText("0");
        },
        {}},
-      {"what can't have the focus",
+      {"controls that can't have the focus",
        [](auto& form) {
          EXPECT_EQ(test::ErrorOf([&] { form.cmdOff.SetFocus(); }), 5);
          EXPECT_EQ(test::ErrorOf([&] { form.Frame1.SetFocus(); }), 5);
@@ -125,7 +125,7 @@ TEST(ModelTest, UserActionsMoveTheFocusAndRaiseEvents) {
        },
        {}},
       {"Escape", [](auto& form) { form.UserEscape(); }, {}},
-      {"the current entry once more",
+      {"the current entry again",
        [](auto& form) {
          form.cboValues.UserChoose(1);
          form.cboValues.UserChoose(1);
@@ -139,7 +139,7 @@ TEST(ModelTest, UserActionsMoveTheFocusAndRaiseEvents) {
       {"a double click",
        [](auto& form) { form.grdRows.UserDoubleClick(1); },
        {"grdRows got-focus", "grdRows after-selection-change", "grdRows click", "grdRows double-click"}},
-      {"controls that are off or hidden",
+      {"disabled or hidden controls",
        [](auto& form) {
          for (Control* control : form.Controls()) control->SetEnabled(false);
          form.txtTitle.SetEnabled(true);
@@ -157,7 +157,7 @@ TEST(ModelTest, UserActionsMoveTheFocusAndRaiseEvents) {
          EXPECT_FALSE(form.grdRows.UserDoubleClick(1));
        },
        {}},
-      {"what isn't there",
+      {"controls that don't exist",
        [](auto& form) {
          EXPECT_FALSE(form.cboValues.UserChoose(3));
          EXPECT_FALSE(form.lstOne.UserSelect({0, 1}));
@@ -210,7 +210,7 @@ TEST_F(ModalLoopTest, AShownFormIsLoadedActivatedAndHasTheFocus) {
   log_.clear();
   form_->Unload();
   loop_.ShowModal(form_);
-  EXPECT_EQ(log_, Log{}) << "a form lives once";
+  EXPECT_EQ(log_, Log{}) << "a form is shown only once";
 }
 
 TEST_F(ModalLoopTest, TheSelectedOptionHasTheInitialFocus) {
@@ -351,7 +351,7 @@ class TickingForm : public Form {
   void Form_Activate() override {
     Timer1.SetEnabled(true);
     loop_.DoEvents();
-    EXPECT_EQ(ticks, 0) << "the interval isn't over";
+    EXPECT_EQ(ticks, 0) << "the interval hasn't ended";
     for (; ticks < 2; std::this_thread::sleep_for(std::chrono::milliseconds(1))) loop_.DoEvents();
     ticksInActivate = ticks;
   }

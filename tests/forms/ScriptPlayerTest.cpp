@@ -173,12 +173,12 @@ TEST_F(ScriptPlayerTest, FormsAreClosedLikeByAUser) {
   EXPECT_EQ(Play("press cmdOK\nshow"), "");
   EXPECT_EQ(last_, "frmSecond");
   EXPECT_EQ(shown_, Log{"frmSecond A small form"});
-  EXPECT_EQ(log_.back(), "unload") << "the script's end closes what is open";
+  EXPECT_EQ(log_.back(), "unload") << "the end of the script closes open forms";
   EXPECT_EQ(Play("press cmdOK\nclose"), "");
   EXPECT_EQ(last_, "none");
   EXPECT_NE(Play("press cmdOff\ncheck chk3D"), "");
-  EXPECT_EQ(log_.back(), "unload") << "a line that can't be done closes it as well";
-  EXPECT_EQ(std::count(log_.begin(), log_.end(), "chk3D click"), 0) << "and no more lines are played";
+  EXPECT_EQ(log_.back(), "unload") << "an impossible line also closes it";
+  EXPECT_EQ(std::count(log_.begin(), log_.end(), "chk3D click"), 0) << "no further lines are played";
   EXPECT_EQ(last_, "none");
 }
 

@@ -134,7 +134,7 @@ TEST_F(MetadataStoreTest, FollowsChartsAndTablesAndMarksMissingOnes) {
     EXPECT_EQ(Attribute(id, "table-corrupted"), expected[2]) << id;
   }
   EXPECT_EQ(Rows(2).find("Charts"), std::string::npos)
-      << "what the load corrected stays in memory until it is saved";
+      << "corrections of the load stay in memory until they are saved";
 }
 
 TEST_F(MetadataStoreTest, SaveReplacesARowOrAppendsOne) {
@@ -158,7 +158,7 @@ TEST_F(MetadataStoreTest, SaveReplacesARowOrAppendsOne) {
   auto huge = colCharts->Item("VEX_Chart2");
   huge.documentElement().setAttribute("title", std::string(33000, 'x'));
   SaveChartDefinition(huge);
-  ASSERT_EQ(Messages().size(), 1u) << "a cell holds 32,767 characters";
+  ASSERT_EQ(Messages().size(), 1u) << "a cell contains at most 32,767 characters";
   EXPECT_TRUE(Messages()[0].starts_with("Brindle Plotsmith: PSFunctions.SaveChartDefinition\n"));
   EXPECT_EQ(Cells("VEX_ChartDefinitions", 3, 1, 3, 1).size(), Definition{"VEX_Chart2"}.Xml().size());
 }
@@ -184,7 +184,7 @@ TEST_F(MetadataStoreTest, ThePaletteIsSetOnceAndOnlyWithoutCharts) {
   Open(plain);
   oWorkbook->SetColors(20, 255);
   Load();
-  EXPECT_EQ(oWorkbook->Colors(17), xlsx::DefaultPaletteColor(17)) << "the palette is somebody's own";
+  EXPECT_EQ(oWorkbook->Colors(17), xlsx::DefaultPaletteColor(17)) << "the user has changed the palette";
 }
 
 TEST_F(MetadataStoreTest, IdentityAndPositionOfANewChart) {
@@ -214,7 +214,7 @@ TEST_F(MetadataStoreTest, IdentityAndPositionOfANewChart) {
   EXPECT_EQ(FindChartSheet("VEX_Chart4"), "Data1");
   const auto area = FindChartObject("VEX_Chart4", "Data1")->ChartArea();
   EXPECT_EQ(area->Interior()->ColorIndex(), excel::xlColorIndexNone);
-  EXPECT_EQ(Cells("Data1", 1, 1, 1, 2), "Region|Product") << "the sheet's cells passed through";
+  EXPECT_EQ(Cells("Data1", 1, 1, 1, 2), "Region|Product") << "the cells of the sheet weren't changed";
 }
 
 }  // namespace

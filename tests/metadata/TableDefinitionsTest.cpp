@@ -88,10 +88,10 @@ TEST_F(TableDefinitionsTest, NamesThatAreNoTables) {
         "<definedName name=\"_xlnm.Print_Area\" localSheetId=\"1\">VEX_SBold!$B$3:$C$7</definedName>");
   });
   OpenFile(path);
-  EXPECT_EQ(Ids(), "vex_sb_lower VEX_TABLERANGE ") << "sorted by name, whatever the file's order";
+  EXPECT_EQ(Ids(), "vex_sb_lower VEX_TABLERANGE ") << "sorted by name, independent of the file's order";
   EXPECT_EQ(Messages().size(), 0u);
   EXPECT_NE(Xml("vex_sb_lower").find("table-worksheet=\"sheet1\""), std::string::npos)
-      << "as the name spells it";
+      << "in the spelling of the name";
 }
 
 TEST_F(TableDefinitionsTest, DataSheetsByTheirExactNames) {

@@ -43,7 +43,7 @@ TEST_F(BusyWindowTest, ItDoesItsWork) {
   EXPECT_EQ(works_, (std::vector<S>{"all", "one VEX_Chart7", "run 1"}));
   S log;
   for (int i = 0; i < 4; ++i) log += "show frmBusyPS; close frmBusyPS; ";
-  EXPECT_EQ(view_->log, log) << "it goes by itself, without a hand";
+  EXPECT_EQ(view_->log, log) << "it closes without user input";
 }
 
 TEST_F(BusyWindowTest, TheBarMovesWhenTheWorkYields) {
@@ -58,7 +58,7 @@ TEST_F(BusyWindowTest, TheBarMovesWhenTheWorkYields) {
     while (window.Timer1.UntilDue()->count() > 0) {
     }
     App.Forms->DoEvents();
-    EXPECT_EQ(window.ProgressBar1.Value(), 5) << "a yield lets the timer tick";
+    EXPECT_EQ(window.ProgressBar1.Value(), 5) << "the timer ticks during a yield";
     EXPECT_EQ(window.Timer1.Interval(), 100);
   });
 }

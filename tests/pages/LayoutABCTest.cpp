@@ -217,7 +217,7 @@ TEST_F(LayoutABCTest, MessagesMoveTheFocus) {
                      "choose optSeries(2); choose optSeries(1); choose cboValues Cost; press cmdNext; "
                      "press cmdBack; expect optSeries(0).Value yes"),
             "")
-      << "a colour without a choice is none";
+      << "a colour without a selected column is left out";
 }
 
 }  // namespace

@@ -57,7 +57,7 @@ TEST(SamplePicturesTest, EveryPictureFitsItsFrameAndIsUnique) {
   for (const auto name : aSamplePictureNames) {
     SCOPED_TRACE(name);
     const Picture picture = SamplePicture(name);
-    EXPECT_GT(picture.aShapes.size(), 4u) << "a card and a chart on it";
+    EXPECT_GT(picture.aShapes.size(), 4u) << "a background and a chart on it";
     for (const Shape& shape : picture.aShapes) {
       const Rectangle bounds = Bounds(shape);
       EXPECT_TRUE(bounds.dLeft >= 0 && bounds.dTop >= 0 && bounds.dRight <= picture.dWidth &&

@@ -83,7 +83,7 @@ TEST_F(SelectTableTest, EachTypeHasItsPictureAndItsPage) {
     EXPECT_EQ(helpTopics_, std::vector{topics[type]});
   }
   const std::set<S> known(aSamplePictureNames.begin(), aSamplePictureNames.end());
-  EXPECT_EQ(images_, known) << "the pages have the pictures that can be drawn, and no others";
+  EXPECT_EQ(images_, known) << "the pages have exactly the pictures that can be drawn";
 }
 
 TEST_F(SelectTableTest, MessagesAreSaidOnce) {

@@ -83,7 +83,8 @@ TEST(VariantTest, ConversionsOfOtherTypes) {
   }
   EXPECT_TRUE(IsNumeric(Variant()));
   EXPECT_TRUE(IsNumeric(Variant(false)));
-  EXPECT_FALSE(IsNumeric(Variant(Variant::Date{1}))) << "a date is no number, though it converts to one";
+  EXPECT_FALSE(IsNumeric(Variant(Variant::Date{1})))
+      << "a date isn't a number, although it can be converted to one";
 }
 
 TEST(VariantTest, WholeNumbersRoundHalvesToEven) {

@@ -57,7 +57,7 @@ std::vector<fs::path> Corpus() {
 class CorpusTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    if (Corpus().empty()) GTEST_SKIP() << "the corpus isn't there";
+    if (Corpus().empty()) GTEST_SKIP() << "the corpus is missing";
   }
   /// Returns the parts that differ between the files or exist in only one of them.
   std::set<S> Changed(const S& first, const S& second) {

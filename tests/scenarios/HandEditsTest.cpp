@@ -89,7 +89,7 @@ TEST_F(HandEditsTest, ChangesMadeByHandSurvive) {
        },
        {"<c:chart><c:autoTitleDeleted val=\"1\"/><c:plotArea>"},
        {"title=\"\""}},
-      {"the legend dragged, in a frame",
+      {"the legend moved by hand, with a frame",
        [](S& xml) {
          ReplaceSpan(
              xml, "<c:legend>", "<c:plotVisOnly",
@@ -154,7 +154,7 @@ TEST_F(HandEditsTest, ChangesMadeByHandSurvive) {
        [](S& xml) { Replace(xml, "</c:plotArea>", kGradient + "</c:plotArea>"); },
        {kGradient + "</c:plotArea>"},
        {}},
-      {"what drawing doesn't set",
+      {"settings that drawing doesn't change",
        [&](S& xml) {
          Replace(xml, "<c:layout/>",
                  "<c:layout><c:manualLayout><c:layoutTarget val=\"inner\"/><c:xMode val=\"edge\"/><c:yMode "
@@ -193,7 +193,7 @@ TEST_F(HandEditsTest, ChangesMadeByHandSurvive) {
       EXPECT_NE(chart.find(wanted), S::npos) << wanted << "\n  isn't in\n" << chart;
     for (const S& wanted : hand.definition)
       EXPECT_NE(definition.find(wanted), S::npos) << wanted << "\n  isn't in\n" << definition;
-    EXPECT_NE(chart.find("VEX_ChartData!"), S::npos) << "the series are there";
+    EXPECT_NE(chart.find("VEX_ChartData!"), S::npos) << "the chart has its series";
     EXPECT_TRUE(Messages().empty()) << Messages()[0];
   }
 }

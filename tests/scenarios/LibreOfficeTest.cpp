@@ -219,7 +219,7 @@ TEST_F(LibreOfficeTest, ItsEditsSurviveTheNextRefresh) {
   ASSERT_EQ(charts.size(), 2u);
   EXPECT_EQ(Data(charts[0]), "|Widget|Gadget\nEast|11|7\nWest|5|");
   EXPECT_NE(charts[0].find(">Retitled<"), S::npos);
-  EXPECT_NE(charts[0].find("#ffffcc"), S::npos) << "the colour that nothing in the definition knows of";
+  EXPECT_NE(charts[0].find("#ffffcc"), S::npos) << "the colour that the definition doesn't contain";
 }
 
 }  // namespace

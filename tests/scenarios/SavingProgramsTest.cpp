@@ -157,7 +157,7 @@ TEST_F(SavingProgramsTest, DeletedShapesAreNotRestored) {
   ASSERT_EQ(RunCommand({"refresh", path}).code, 1) << "there is no chart left to refresh";
   EXPECT_EQ(RunCommand({"charts", path}).out, "There are no charts of Plotsmith.\n");
   const S xml = xlsx::Package::Open(path).Read(kDrawing);
-  EXPECT_NE(xml.find("graphicFrame"), S::npos) << "the copy is a chart of its own";
+  EXPECT_NE(xml.find("graphicFrame"), S::npos) << "the copy is a separate chart";
   EXPECT_EQ(xml.find("VEX_Chart1"), S::npos);
 }
 
@@ -170,7 +170,7 @@ TEST_F(SavingProgramsTest, OpenpyxlItself) {
   const S command = "/usr/bin/python3 " + (folder_ / "save.py") + " " + (folder_ / "saved.xlsx");
   ASSERT_EQ(std::system(command.c_str()), 0);
   const auto drawing = xlsx::Package::Open(folder_ / "saved.xlsx").Read("/xl/drawings/drawing1.xml");
-  ASSERT_EQ(drawing.find("VEX_Chart1"), S::npos) << "it has learned to keep alternative texts";
+  ASSERT_EQ(drawing.find("VEX_Chart1"), S::npos) << "this version keeps alternative texts";
   ExpectAllBack(folder_ / "saved.xlsx");
 }
 

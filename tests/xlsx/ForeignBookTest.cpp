@@ -279,7 +279,7 @@ TEST_F(ForeignBookTest, OneTabIsSelectedWhenAnotherSheetBecomesActive) {
   Open(book);
   Refresh();  // The refresh adds a hidden sheet and activates the old one again.
   SaveAndReopen();
-  EXPECT_EQ(tabs(), "12") << "a group that the user made stays";
+  EXPECT_EQ(tabs(), "12") << "a group made by the user is kept";
   Book().Tabs().Activate(*Book().FindSheet("Charts"));
   SaveAndReopen();
   EXPECT_EQ(tabs(), "2");

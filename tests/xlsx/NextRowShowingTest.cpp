@@ -35,10 +35,10 @@ TEST_F(HostTest, ASearchForATextSkipsRowsWithOtherTexts) {
   sheet->Rows(1)->Delete(excel::xlShiftUp);
   EXPECT_EQ(Walk(*sheet, "a"), "1 2 3 5 8 10 ");
   sheet->Cells(4, 1)->SetNumberFormat("\"x\"@");
-  EXPECT_EQ(Walk(*sheet, "a"), "1 2 3 4 5 8 10 ") << "what it shows isn't what it holds";
+  EXPECT_EQ(Walk(*sheet, "a"), "1 2 3 4 5 8 10 ") << "its displayed text isn't its text";
   sheet->SetCellValueAt(6, 1, "a");
   sheet->SetCellValueAt(3, 1, "c");
-  EXPECT_EQ(Walk(*sheet, "a"), "1 2 4 5 6 8 10 ") << "values that were written between two walks";
+  EXPECT_EQ(Walk(*sheet, "a"), "1 2 4 5 6 8 10 ") << "values that were written between two searches";
   sheet->Cells(5, 1)->Clear();
   EXPECT_EQ(Walk(*sheet, "a"), "1 2 4 5 ");
   EXPECT_THROW(sheet->NextRowShowing(0, 1, "a"), runtime::RuntimeError);

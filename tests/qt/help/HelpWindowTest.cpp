@@ -145,7 +145,7 @@ TEST_F(HelpWindowTest, TheSearchContinuesAtTheBeginning) {
   EXPECT_EQ(Text().textCursor().position(), first);
   Key(Qt::Key_F3, Qt::ShiftModifier);
   const int last = Text().textCursor().position();
-  EXPECT_GT(last, second) << "the search goes on at the end";
+  EXPECT_GT(last, second) << "the search continues at the other end";
   Key(Qt::Key_F3);
   EXPECT_EQ(Text().textCursor().position(), first);
   Type("tile");

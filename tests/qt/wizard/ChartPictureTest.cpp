@@ -60,7 +60,7 @@ TEST_F(ChartPictureTest, ThePainterDrawsWithThePixelsOfTheScreen) {
     EXPECT_TRUE(MakeChartPainter()(painter, shape_->Chart(), QRectF(0, 0, 300, 200)));
     painter.end();
     EXPECT_EQ(pixmap.toImage().convertToFormat(QImage::Format_RGB32), Picture(pixmap.size()))
-        << "nothing was stretched at " << ratio;
+        << "the picture isn't stretched at " << ratio;
   }
 }
 

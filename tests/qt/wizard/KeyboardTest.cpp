@@ -146,7 +146,7 @@ TEST_F(KeyboardTest, ScreenReadersGetTheTexts) {
   OnEachPage([&](qt::FormWindow& page) {
     for (const forms::Control* control : page.Model().Controls()) {
       EXPECT_NE(control->AccessibleName(), "");
-      EXPECT_NE(control->AccessibleName(), control->Name()) << "a name of the code tells a person nothing";
+      EXPECT_NE(control->AccessibleName(), control->Name()) << "names from the code mean nothing to users";
     }
     const S spoken = Spoken(*QAccessible::queryAccessibleInterface(&page), 0);
     const S file = folder + page.Model().Name() + ".txt";

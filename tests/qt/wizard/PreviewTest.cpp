@@ -118,7 +118,7 @@ TEST_F(PreviewTest, TheWorkerIsAProcessThatTheNextStartEnds) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return done.size() == 2; }, 10000));
   EXPECT_EQ(BytesOf(folder_ / "again"), "done");
   QTest::qWait(500);
-  EXPECT_EQ(BytesOf(folder_ / "slow"), "") << "the process that was ended went on";
+  EXPECT_EQ(BytesOf(folder_ / "slow"), "") << "the ended process continued";
 }
 
 }  // namespace

@@ -142,13 +142,13 @@ TEST(CallsTest, TheWaitForABusyServerIsShort) {
   EXPECT_LE(waited, 4000U);
   const int before = calls;
   for (int i = 0; i < 50; ++i) call(com::WhenBusy::kWait);
-  EXPECT_EQ(calls - before, 50) << "the time is used up";
+  EXPECT_EQ(calls - before, 50) << "the waiting time is used up";
   answer = S_OK;
   EXPECT_EQ(call(com::WhenBusy::kWait), "done");
   answer = kRefused;
   const int others = calls;
   EXPECT_EQ(call(com::WhenBusy::kWait), "error 1004:");
-  EXPECT_EQ(calls - others, 1) << "no other failure is tried again";
+  EXPECT_EQ(calls - others, 1) << "calls with other failures aren't repeated";
 }
 
 }  // namespace

@@ -76,7 +76,7 @@ TEST_F(CellReaderTest, TextsInThePlainFormatNeedNoCallEach) {
     });
   };
   EXPECT_LE(read(1), 45U);
-  EXPECT_GE(read(2), 2U * kRows) << "how a date is shown, only the host knows";
+  EXPECT_GE(read(2), 2U * kRows) << "only the host knows how a date is displayed";
 }
 
 TEST_F(CellReaderTest, FormulasAreReadAsTheSheetShowsThem) {
@@ -105,9 +105,9 @@ TEST_F(CellReaderTest, AWriteIsSeenByTheNextRead) {
   proxy_->SetCellValueAt(41, 3, 7);
   SAYS(proxy_->CellValueAt(41, 3).ToVariant(), "7");
   proxy_->CellValueAt(42, 3);
-  direct_->SetCellValueAt(43, 3, "by somebody else");
+  direct_->SetCellValueAt(43, 3, "by another program");
   com::NoteChange();
-  SAYS(proxy_->CellValueAt(43, 3).ToVariant(), R"("by somebody else")");
+  SAYS(proxy_->CellValueAt(43, 3).ToVariant(), R"("by another program")");
 }
 
 TEST_F(CellReaderTest, TextsStayValidWhileOtherCellsAreRead) {

@@ -21,7 +21,7 @@ class HostWindowTest : public test::DialogTest {
  protected:
   void ExpectFree() {
     EXPECT_TRUE(IsWindowEnabled(hostWindow_.Handle()));
-    EXPECT_TRUE(hostWindow_.CameBackInTime()) << "a window of another program would have come to the front";
+    EXPECT_TRUE(hostWindow_.CameBackInTime()) << "a window of another program would have been activated";
     EXPECT_EQ(FindWindowW(L"PlotsmithForm", nullptr), nullptr);
   }
 };

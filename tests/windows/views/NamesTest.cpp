@@ -169,7 +169,7 @@ TEST_F(NamesTest, ScreenReadersGetTheSameTextsAsOnTheDesktop) {
       test::EndDeed();
     };
     EXPECT_EQ(PlayOnOrders(way.lines + "do look", {{"look", look}}), "");
-    EXPECT_EQ(service.told.size(), 0u) << "windows that have gone are forgotten";
+    EXPECT_EQ(service.told.size(), 0u) << "destroyed windows are removed";
   }
 }
 

@@ -91,7 +91,7 @@ TEST_F(ChartFamiliesTest, ARefreshKeepsTheFormatsOfAPie) {
     chart.SetChartType(excel::xl3DPie);
   });
   EXPECT_TRUE(Has(solid, "<c:view3D><c:rotX val=\"30\"/><c:rotY val=\"0\"/>"))
-      << "a column's view is no pie's";
+      << "the view of a column chart isn't used for a pie";
   EXPECT_FALSE(Has(solid, "floor"));
 }
 
@@ -184,7 +184,7 @@ TEST_F(ChartFamiliesTest, ASeriesKeepsTheTypeThatItsGroupGivesIt) {
     std::int32_t type, next;  ///< The types of the series and of a new series after it.
   };
   const Case cases[] = {
-      {"bubbles that only the group calls solid",
+      {"bubbles that are 3-D only in the group",
        "<c:bubbleChart>" + ser + "<c:bubble3D val=\"1\"/>" + scales + "</c:bubbleChart>" + valueAxes, 87, 87},
       {"a smooth line through points",
        "<c:scatterChart><c:scatterStyle val=\"smoothMarker\"/>" + ser + scales + "</c:scatterChart>" +
@@ -307,8 +307,8 @@ TEST_F(ChartFamiliesTest, ColumnsAndALineShareTheirAxes) {
 
   const S moved = Sound(
       after, [](Chart& chart) { chart.SeriesCollection()->Item(4)->SetChartType(excel::xlColumnClustered); });
-  EXPECT_FALSE(Has(moved, "lineChart")) << "an emptied group goes";
-  EXPECT_TRUE(Has(moved, "<c:grouping val=\"clustered\"/>")) << "and columns are stacked alike";
+  EXPECT_FALSE(Has(moved, "lineChart")) << "an empty group is removed";
+  EXPECT_TRUE(Has(moved, "<c:grouping val=\"clustered\"/>")) << "all columns have the same stacking";
   EXPECT_FALSE(Has(moved, "overlap") || Has(moved, "symbol"));
   const S area = Sound(
       after, [](Chart& chart) { chart.SeriesCollection()->Item(1)->SetChartType(excel::xlAreaStacked); });
@@ -318,7 +318,7 @@ TEST_F(ChartFamiliesTest, ColumnsAndALineShareTheirAxes) {
 TEST_F(ChartFamiliesTest, ChartsOfOtherProgramsCanHaveAllTypes) {
   std::error_code absent;
   const auto folder = std::filesystem::path(test::kCorpusFolder) / "charts";
-  if (!std::filesystem::is_directory(folder, absent)) GTEST_SKIP() << "the corpus isn't there";
+  if (!std::filesystem::is_directory(folder, absent)) GTEST_SKIP() << "the corpus is missing";
   const auto mix = [](Chart& chart) {
     DeleteSeries(chart);
     chart.SetChartType(excel::xlBarClustered);

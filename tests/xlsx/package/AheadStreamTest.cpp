@@ -62,7 +62,8 @@ TEST(AheadStreamTest, GivesTheBytesOfTheOtherStreamInPiecesOfAnySize) {
     MemoryStream whole(bytes, c.piece);
     AheadStream ahead(whole);
     EXPECT_TRUE(All(ahead, c.buffer) == std::pair(bytes, std::string())) << c.length << ' ' << c.piece;
-    EXPECT_TRUE(All(ahead, c.buffer) == std::pair(std::string(), std::string())) << "the end stays the end";
+    EXPECT_TRUE(All(ahead, c.buffer) == std::pair(std::string(), std::string()))
+        << "reading after the end gives the end again";
     FailingStream failing(bytes, c.piece);
     AheadStream aheadOfFailure(failing);
     EXPECT_TRUE(All(aheadOfFailure, c.buffer) == std::pair(bytes, std::string("it ends here"))) << c.length;

@@ -163,7 +163,7 @@ TEST_F(PackageFileTest, ForeignEntriesKeepTheirCompressionMethod) {
   {
     ArchiveWriter writer(folder_ / "odd.xlsx");
     writer.Add("[Content_Types].xml", "<Types/>");
-    writer.Add("foreign.bin", "in LZMA, or so it says", false);
+    writer.Add("foreign.bin", "declared as LZMA", false);
     writer.Finish();
   }
   std::ifstream in(folder_ / "odd.xlsx", std::ios::binary);
@@ -181,7 +181,7 @@ TEST_F(PackageFileTest, ForeignEntriesKeepTheirCompressionMethod) {
   test::SaveThroughFailures(folder_ / "out.xlsx", [&](const S& path) { package.Save(path); });
   std::ifstream saved(folder_ / "out.xlsx", std::ios::binary);
   const S after((std::istreambuf_iterator<char>(saved)), {});
-  EXPECT_NE(after.find("in LZMA, or so it says"), S::npos);
+  EXPECT_NE(after.find("declared as LZMA"), S::npos);
   EXPECT_TRUE(after.ends_with(comment));
   EXPECT_EQ(after[after.find("foreign.bin") - 22], 14);
   EXPECT_EQ(Archive(folder_ / "out.xlsx").Entries()[1].method, 14);
@@ -194,12 +194,12 @@ TEST_F(PackageFileTest, TheFileIsReplacedCompletelyOrNotAtAll) {
   Package::Open(path).Save(folder_ / "link.xlsx");
   struct stat status {};
   ASSERT_EQ(lstat((folder_ / "link.xlsx").c_str(), &status), 0);
-  EXPECT_TRUE(S_ISLNK(status.st_mode)) << "a link keeps pointing";
+  EXPECT_TRUE(S_ISLNK(status.st_mode)) << "a link stays a link";
   ASSERT_EQ(stat(path.c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777, 0640u);
   const mode_t mask = umask(027);
   Package::Open(path).Save(folder_ / "new.xlsx");
-  EXPECT_EQ(umask(mask), mode_t{027}) << "the mask is as it was";
+  EXPECT_EQ(umask(mask), mode_t{027}) << "the file mask doesn't change";
   ASSERT_EQ(stat((folder_ / "new.xlsx").c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777, 0640u);
   std::filesystem::remove(folder_ / "new.xlsx");
@@ -219,7 +219,7 @@ TEST_F(PackageFileTest, TheFileIsReplacedCompletelyOrNotAtAll) {
   std::size_t files = 0;
   for (const auto& entry : std::filesystem::directory_iterator(folder_.Path()))
     files += entry.symlink_status().type() == std::filesystem::file_type::regular;
-  EXPECT_EQ(files, 1u) << "nothing is left behind";
+  EXPECT_EQ(files, 1u) << "no other file remains";
 }
 
 TEST_F(PackageFileTest, DamageIsReportedWithItsPart) {
@@ -231,7 +231,7 @@ TEST_F(PackageFileTest, DamageIsReportedWithItsPart) {
     return folder_ / "bad.xlsx";
   };
   EXPECT_THROW(Package::Open(write("")), PackageError);
-  EXPECT_THROW(Package::Open(write("no zip at all")), PackageError);
+  EXPECT_THROW(Package::Open(write("not a zip file")), PackageError);
   EXPECT_THROW(Package::Open(write(bytes.substr(0, bytes.size() / 2))), PackageError);
   // Changing one byte of a part's data damages only this part.
   S flipped = bytes;
@@ -329,7 +329,8 @@ TEST(XmlTest, AnyEncodingIsConvertedToUtf8) {
 
 TEST(XmlTest, ValuesAreEncodedAndDecoded) {
   const S value = "a<b>&\"c'\r\n\td\x01";
-  EXPECT_EQ(xml::Decode(xml::EncodeText(value)), "a<b>&\"c'\r\n\td") << "what XML can't hold goes";
+  EXPECT_EQ(xml::Decode(xml::EncodeText(value)), "a<b>&\"c'\r\n\td")
+      << "characters that XML can't contain are removed";
   EXPECT_EQ(xml::Decode(xml::EncodeAttribute(value)), "a<b>&\"c'\r\n\td");
   EXPECT_EQ(xml::Decode("&#x20AC;&#8364;&lt;&unknown;&;&#xFFFFFFF;&"), "€€<&unknown;&;&#xFFFFFFF;&");
   for (const char* raw : {"&#1;", "&#xD83D;", "&#xFFFE;", "&#x110000;"}) EXPECT_EQ(xml::Decode(raw), raw);

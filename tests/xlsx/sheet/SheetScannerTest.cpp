@@ -72,7 +72,7 @@ TEST(SheetScannerTest, ReadsEveryKindOfCellAtEveryWindowBorder) {
     for (const auto& [place, shown] : kCells) {
       EXPECT_EQ(Show(sheet, place.first, place.second), shown) << place.first << "," << place.second;
     }
-    EXPECT_EQ(sheet.used, (CellRange{2, 1, 10, 28})) << "whatever the dimension claims";
+    EXPECT_EQ(sheet.used, (CellRange{2, 1, 10, 28})) << "independent of the dimension";
     EXPECT_EQ(sheet.cells.StyleAt(2, 3), 7u);
     EXPECT_EQ(sheet.cells.StyleAt(3, 5), 3u);
     EXPECT_EQ(sheet.cells.StyleAt(3, 3), 0u);
@@ -218,7 +218,7 @@ TEST(SharedStringsTest, RichTextsEscapesAndOddItems) {
     EXPECT_EQ(strings.At(3), "");
     EXPECT_EQ(strings.At(4), "A_x0041_\xF0\x9D\x84\x9E");
     EXPECT_EQ(strings.At(5), "<x>\ny");
-    EXPECT_EQ(strings.At(6), "") << "an index that isn't there";
+    EXPECT_EQ(strings.At(6), "") << "an index out of range";
   }
 }
 
