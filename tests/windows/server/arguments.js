@@ -88,7 +88,7 @@ check("early bound, Nothing: boxes", boxes.Take(),
 check("a script without arguments", resultOf(function() { controller.RunPlotsmith(); }), kNotOptional);
 check("a script with too many", resultOf(function() { controller.RunPlotsmith(host, "", "", ""); }), kCount);
 check("a script without a host", resultOf(function() { controller.RunPlotsmith("Excel", "", ""); }), kMismatch);
-check("a script that knows no better", resultOf(function() { controller.Refresh(host); }), "0x800A01B6");
+check("a script with wrong arguments", resultOf(function() { controller.Refresh(host); }), "0x800A01B6");
 check("a script that reads", resultOf(function() { var value = controller.RunPlotsmith; }), "0x80020003");
 check("a script: boxes", boxes.Take(), "");
 

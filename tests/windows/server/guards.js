@@ -56,7 +56,7 @@ host.Interactive = true;
 
 // The operations on one table use the open workbook.
 newController().RefreshChartsForTable(host, "no such table");
-check("a table that isn't there", boxes.Take(), "");
+check("a missing table", boxes.Take(), "");
 
 // The component keeps the Application of the first call, so the script's own Application is used last.
 says("protected", hostWith(true, false), kProtected);
@@ -71,7 +71,7 @@ newController().RefreshPlotsmithData(owned, "", "");
 check("the owner", boxes.Take(), kProtected.replace("[OK]", "[OK] of A window of the host"));
 owned.Hwnd = 12345;
 newController().RefreshPlotsmithData(owned, "", "");
-check("a window that isn't there", boxes.Take(), kProtected);
+check("a missing window", boxes.Take(), kProtected);
 owned.Hwnd = "no number";
 newController().RefreshPlotsmithData(owned, "", "");
 check("no window", boxes.Take(), kProtected);

@@ -23,7 +23,7 @@ function refreshSays(name, host, boxesExpected) {
   check(name, resultOf(function() { newController().RefreshPlotsmithData(host, "Add-in", ""); }), "ok");
   check(name + ": boxes", boxes.Take(), boxesExpected.join("\n"));
   boxes.FreeUnusedLibraries();
-  check(name + ": the DLL is gone", boxes.IsLoaded("Plotsmith.dll"), false);
+  check(name + ": the DLL is unloaded", boxes.IsLoaded("Plotsmith.dll"), false);
 }
 
 // An Application that returns this as its workbook.
@@ -139,7 +139,7 @@ function isSaid(box) {
 
 var untouched = spoiltHost();
 newController().RefreshPlotsmithData(untouched, "Add-in", "");
-check("nothing is spoilt", boxes.Take(), "");
+check("without spoilt members", boxes.Take(), "");
 var plain = untouched.Journal;
 var members = untouched.WaysCalled.split("\n");
 untouched = null;
@@ -166,13 +166,13 @@ untouched = null;
 })();
 CollectGarbage();
 boxes.FreeUnusedLibraries();
-check("the DLL is gone", boxes.IsLoaded("Plotsmith.dll"), false);
+check("the DLL is unloaded", boxes.IsLoaded("Plotsmith.dll"), false);
 
 // The component still works after all of this.
 (function() {
   var host = spoiltHost();
   newController().RefreshPlotsmithData(host, "Add-in", "");
   check("after all", boxes.Take(), "");
-  check("after all: the journal", host.Journal, plain);
+  check("after all runs: the journal", host.Journal, plain);
 })();
 finish();

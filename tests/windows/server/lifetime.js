@@ -14,7 +14,7 @@ function open(name) {
 function unload(name) {
   CollectGarbage();
   boxes.FreeUnusedLibraries();
-  check(name + ": the DLL is gone", boxes.IsLoaded("Plotsmith.dll"), false);
+  check(name + ": the DLL is unloaded", boxes.IsLoaded("Plotsmith.dll"), false);
 }
 
 check("at first", boxes.IsLoaded("Plotsmith.dll"), false);
@@ -27,7 +27,7 @@ unload("an object that was not called");
   var controller = newController();
   controller.RefreshPlotsmithData(host, "Add-in", "");
   boxes.FreeUnusedLibraries();
-  check("with an object that was called", boxes.IsLoaded("Plotsmith.dll"), true);
+  check("with a used object", boxes.IsLoaded("Plotsmith.dll"), true);
 })();
 unload("after a refresh");
 
@@ -82,12 +82,12 @@ unload("after a refresh without macros");
     boxes.FreeUnusedLibraries();
     loaded.push(boxes.IsLoaded("Plotsmith.dll"));
   });
-  check("released under the run", boxes.Refresh(host), "ok");
+  check("released during the run", boxes.Refresh(host), "ok");
   check("macros", started.join(", "), "all, VEX_Chart1 false, VEX_Chart2 false");
   check("under a run", loaded.join(), "true,true,true");
   check("calling back", boxes.Take(), kAtWork);
   check("the window afterwards", boxes.WindowIsEnabled(), true);
-  check("the refresh goes on", host.Journal, plain);
+  check("the refresh continues", host.Journal, plain);
 })();
 unload("after a macro");
 
@@ -132,7 +132,7 @@ unload("after another thread");
     return boxes.Resources() + ", " + host.LiveObjects + " objects of Excel";
   }
   var before = leftAfter(3);
-  check("what is counted", /^([1-9]\d* [\w ]+(, |$)){4}$/.test(before), true);
+  check("the counts", /^([1-9]\d* [\w ]+(, |$)){4}$/.test(before), true);
   check("a thousand runs", leftAfter(Number(WScript.Arguments(4))), before);
   check("a thousand runs: boxes", boxes.Take(), "");
 })();
