@@ -1,4 +1,4 @@
-# The newcomer's commands. All building is done by CMake; see CMakePresets.json for the ways to build.
+# Shortcuts for the most common tasks. CMake does all building; CMakePresets.json has its configurations.
 
 .PHONY: build install uninstall demo check check-windows package installer sanitize fuzz bench docs clean
 
@@ -7,39 +7,39 @@ build:
 	@cmake --preset release
 	@cmake --build build
 
-# Puts the command, its manual page, completions and documentation into their places below PREFIX.
+# Installs the command, its manual page, completions and documentation below PREFIX.
 install: build
 	@cmake --install build --prefix "$(or $(PREFIX),/usr/local)"
 
-# Removes what the last `make install` put in place.
+# Removes the files that the last `make install` has installed.
 uninstall:
 	@scripts/uninstall.sh
 
-# Builds the command, refreshes the example workbooks into demo/ and makes pictures of them where LibreOffice is present,
-# and of the pages of the wizard.
+# Builds the command and refreshes the example workbooks into demo/. Makes pictures of them if LibreOffice is installed,
+# and pictures of the wizard's pages if Qt is.
 demo:
 	@scripts/install-dependencies.sh
 	@cmake --preset release
 	@cmake --build build --target plotsmith
 	@scripts/demo.sh
 
-# Builds, then runs all tests, as they are and under a locale with a decimal comma.
+# Builds, and runs all tests twice: in the default locale and in one with a decimal comma.
 check: build
 	@scripts/check.sh
 
-# Builds for Windows, and tries the command and the component under Wine.
+# Builds for Windows, and tests the command and the component under Wine.
 check-windows:
 	@scripts/check-windows.sh
 
-# Makes the Debian packages in build/packages: plotsmith, and plotsmith-wizard.
+# Makes the Debian packages plotsmith and plotsmith-wizard in build/packages.
 package:
 	@scripts/package.sh
 
-# Makes the installer for Windows, build/PlotsmithSetup.exe.
+# Makes build/PlotsmithSetup.exe, the installer for Windows.
 installer:
 	@scripts/installer.sh
 
-# All tests under the address and undefined-behaviour sanitizers.
+# Runs all tests under the address and undefined-behaviour sanitizers.
 sanitize:
 	@scripts/install-dependencies.sh
 	@cmake --preset sanitizers
@@ -47,15 +47,15 @@ sanitize:
 	@scripts/run-tests.sh build-sanitizers/tests/plotsmith_tests \
 	  $$(ls build-sanitizers/tests/qt/plotsmith_qt_tests 2>/dev/null || true)
 
-# Runs each fuzzer for a minute, or for FUZZ_SECONDS.
+# Runs each fuzzer for a minute, or for FUZZ_SECONDS seconds.
 fuzz:
 	@scripts/fuzz.sh $(or $(FUZZ_SECONDS),60)
 
-# Measures whole runs and the parts; docs/performance.md says what comes out and why.
+# Runs the benchmarks; docs/performance.md explains their results.
 bench:
 	@scripts/bench.sh
 
-# Builds pages of the interfaces into build/docs/html.
+# Builds the reference pages in build/docs/html.
 docs:
 	@scripts/install-dependencies.sh doxygen
 	@cmake --preset release

@@ -1,6 +1,7 @@
-// What the leak sanitizer isn't to report: fontconfig keeps a little for the life of the program.
+// Fontconfig keeps some memory for the life of the program. The leak sanitizer doesn't report it.
 extern "C" const char* __lsan_default_suppressions();  // NOLINT(bugprone-reserved-identifier)
 extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig"; }
-// Nor is it to list what it left out: programs that tests start would say more than they do.
+// The sanitizer doesn't list what it suppressed: the list would be added to the output of programs that tests
+// start.
 extern "C" const char* __lsan_default_options();  // NOLINT(bugprone-reserved-identifier)
 extern "C" const char* __lsan_default_options() { return "print_suppressions=0"; }

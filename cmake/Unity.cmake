@@ -1,8 +1,8 @@
-# Lets the compiler read several sources of a target as one, which takes it a third of the time: most of what it reads
-# are headers. unity-groups.py says which sources go together. Sources of a target that use the room which its property
-# PLOTSMITH_UNITY_APART names stay apart from the others, so that a program can be linked to these alone.
+# Compiles several sources of a target as one, which takes a third of the time, because most of the compiler's input is
+# headers. unity-groups.py decides which sources are combined. If a target has the property PLOTSMITH_UNITY_APART, its
+# sources that use the room named there aren't combined with the others, so that a program can link them alone.
 
-# Writes a line for each source of the targets of a folder and those below it.
+# Writes a line for each source of the targets in a folder and its subfolders.
 function(plotsmith_list_sources folder variable)
   set(lines "${${variable}}")
   get_property(targets DIRECTORY ${folder} PROPERTY BUILDSYSTEM_TARGETS)
@@ -31,7 +31,7 @@ function(plotsmith_list_sources folder variable)
   set(${variable} "${lines}" PARENT_SCOPE)
 endfunction()
 
-# Groups the sources of all targets; it comes after the last of them.
+# Groups the sources of all targets. Call it after the last target is defined.
 function(plotsmith_group_sources)
   find_package(Python3 COMPONENTS Interpreter)
   if(NOT Python3_FOUND)

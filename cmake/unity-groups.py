@@ -1,16 +1,15 @@
 #!/usr/bin/env python3
-"""Says which source files of a target the compiler may read as one, so that it reads their headers only once.
+"""Decides which source files of a target are compiled as one, so that the compiler reads their headers only once.
 
-Files that are read as one share an anonymous namespace. A name that one file declares there must therefore not be
-declared by another file of its group, nor by that file's headers: it would be declared twice, or mean two things. A
-variable must not be hidden by a parameter in another file, nor a type by an alias in a function, of which the compiler
-warns. Sources that define macros are
-read alone, as a macro may change what a header says; those that include headers of Windows, which are full of macros,
-are read with their like.
+Files that are compiled as one share an anonymous namespace. A name that one file declares there must therefore not be
+declared by another file of its group, nor by that file's headers: it would be declared twice or be ambiguous. A
+variable must not be hidden by a parameter in another file, nor a type by an alias in a function, because the compiler
+warns about that. Sources that define macros are compiled alone, because a macro may change the meaning of a header.
+Sources that include the headers of Windows, which are full of macros, are only grouped with each other.
 
 Usage: unity-groups.py SOURCES INCLUDES OUTPUT. SOURCES has a line "target<tab>room<tab>file" for each source: files
-that use headers of the room, which may be empty, aren't read with others. INCLUDES are the folders of our headers,
-separated by semicolons, that of the rooms first. OUTPUT becomes a file of CMake commands.
+that use headers of the room, which may be empty, aren't grouped with others. INCLUDES are the folders of our headers,
+separated by semicolons, with the folder of the rooms first. OUTPUT becomes a file of CMake commands.
 """
 
 import collections
@@ -19,7 +18,7 @@ import os
 import re
 import sys
 
-MOST_BYTES = 110_000  # of a group; the compiler takes some ten seconds for that
+MOST_BYTES = 110_000  # of a group, which takes about ten seconds to compile
 COMMENT_OR_TEXT = re.compile(r'//[^\n]*|/\*.*?\*/|R"(\w*)\(.*?\)\1"|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])\'', re.S)
 INCLUDE = re.compile(r'^#include "([^"]+)"', re.M)
 ALONE = re.compile(r"^#define |^#include <initguid\.h>", re.M)
@@ -27,10 +26,11 @@ WINDOWS = re.compile(r"^#include <(?:windowsx?|commctrl|dispex|objbase|ocidl|ole
 ANONYMOUS = re.compile(r"^namespace \{\n(.*?)^\}  // namespace$", re.M | re.S)
 TYPE = re.compile(r"(?:struct|class|union|enum class|enum struct|enum) (\w+)")
 USING = re.compile(r"using (?:typename )?(?:[\w:]*::)?(\w+)(?: = .*)?;|namespace (\w+) = ")
-BRINGS_IN = re.compile(r"using [\w:]+;")  # of a header, which is the same for all
+BRINGS_IN = re.compile(r"using [\w:]+;")  # in a header, the same for all sources that include it
 DECLARED = re.compile(r"(\w+)(?:\[[^\]]*\])*\s*$")
 
-# What a file declares: `text` is that of a line which may be repeated as it is, and the file of all others.
+# A declaration in a file. `text` is the text of a line that may be repeated unchanged, and otherwise the name of the
+# file.
 Declaration = collections.namedtuple("Declaration", "text is_variable")
 
 
@@ -42,7 +42,7 @@ def text_of(path):
 
 @functools.lru_cache(maxsize=None)
 def code_of(path):
-    """A file without comments and without what is in quotes."""
+    """Returns the code of a file without comments and without the content of literals."""
     return COMMENT_OR_TEXT.sub(" ", text_of(path))
 
 
@@ -53,7 +53,7 @@ def words_of(path):
 
 @functools.lru_cache(maxsize=None)
 def headers_of(path, folders):
-    """Our headers that a file includes itself."""
+    """Returns our headers that a file includes directly."""
     found = []
     for name in INCLUDE.findall(text_of(path)):
         for folder in (os.path.dirname(path),) + folders:
@@ -65,7 +65,7 @@ def headers_of(path, folders):
 
 
 def all_headers_of(path, folders):
-    """Our headers that a file includes, directly or not."""
+    """Returns our headers that a file includes, directly or not."""
     seen = set()
     waiting = [path]
     while waiting:
@@ -77,8 +77,8 @@ def all_headers_of(path, folders):
 
 
 def function_or_variable(text):
-    """What a declaration at the beginning of the text names, and whether that is a variable; None if it names nothing
-    of the namespace's own."""
+    """Returns the name that the text's first declaration declares, and whether it is a variable; None if it declares no
+    name of the namespace."""
     depth = 0
     for place, sign in enumerate(text):
         if sign == "<":
@@ -89,13 +89,13 @@ def function_or_variable(text):
             before = text[:place].rstrip()
             name = DECLARED.search(before)
             if not name or before[: name.start()].endswith("::") or name.start() == 0 or name[1] == "operator":
-                return None  # a member, a macro of tests, an operator
+                return None  # a member, a test macro or an operator
             return name[1], sign != "("
     return None
 
 
 def declarations(code, path):
-    """What is declared in code whose namespaces aren't indented, by name."""
+    """Returns the declarations in code whose namespaces aren't indented, by name."""
     found = {}
     lines = code.split("\n")
     for place, line in enumerate(lines):
@@ -107,7 +107,7 @@ def declarations(code, path):
             found[using[1] or using[2]] = Declaration(line.strip(), False)
         elif kind and "(" not in line.split("{")[0]:
             if line.rstrip().endswith(";") and "{" not in line:
-                continue  # declared only, which may be repeated
+                continue  # only a declaration, which may be repeated
             found[kind[1]] = Declaration(path, False)
             if re.match(r"enum (?!class|struct)", line):
                 body = "\n".join(lines[place:]).split("{", 1)[-1].split("}", 1)[0]
@@ -125,7 +125,7 @@ def declared_in_header(path):
 
 
 def private_declarations(path):
-    """What a file declares in its anonymous namespaces."""
+    """Returns the declarations in a file's anonymous namespaces."""
     blocks = ANONYMOUS.findall(text_of(path))
     return declarations(COMMENT_OR_TEXT.sub(" ", "\n".join(blocks)), path)
 
@@ -136,17 +136,17 @@ class Source:
         self.path = path
         self.size = len(text_of(path))
         self.words = words_of(path)
-        self.aliases = set(re.findall(r"^ +using (\w+) =", code_of(path), re.M))  # of functions
+        self.aliases = set(re.findall(r"^ +using (\w+) =", code_of(path), re.M))  # in functions
         self.public = {}
         for header in headers:
             self.public.update(declared_in_header(header))
-        # what it defines for its header isn't its own
+        # a definition for the file's header isn't private
         defined = declarations(code_of(path), path)
         self.private = {name: declared for name, declared in defined.items() if name not in self.public}
         self.private.update(private_declarations(path))
         files = headers | {path}
         in_room = os.path.join(folders[0], room, "") if room else None
-        # only sources of the same kind are read as one
+        # only sources of the same kind are combined
         self.kind = (
             in_room is not None and any(file.startswith(in_room) for file in files),
             any(WINDOWS.search(text_of(file)) for file in files),
@@ -154,7 +154,7 @@ class Source:
 
 
 def disturbs(source, other):
-    """Whether what a file declares for itself, or in its headers, means something else to the other."""
+    """Returns true if a name that the file or its headers declare has another meaning in the other file."""
     for name, (text, is_variable) in source.private.items():
         if name in other.private and other.private[name].text != text:
             return True

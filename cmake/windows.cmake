@@ -1,5 +1,5 @@
-# What both toolchain files share. WINDOWS_TRIPLE names the compilers; scripts/windows-libraries.sh has put the
-# libraries into the folder of that name.
+# The common part of both toolchain files. WINDOWS_TRIPLE names the compilers and the folder in which
+# scripts/windows-libraries.sh has installed the libraries.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_C_COMPILER ${WINDOWS_TRIPLE}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${WINDOWS_TRIPLE}-g++-posix)
@@ -14,6 +14,6 @@ set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 set(ENV{PKG_CONFIG_LIBDIR} ${WINDOWS_LIBRARIES}/lib/pkgconfig)
 
-# Nothing but the system's own libraries may be needed beside our files.
+# Our files need no other libraries than those of the system.
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
 set(CMAKE_SHARED_LINKER_FLAGS_INIT "-static")

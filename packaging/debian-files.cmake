@@ -1,4 +1,5 @@
-# Run by CPack for the tree of each package: adds what Debian wants in any package and compresses it as Debian does.
+# CPack runs this on the tree of each package. It adds the files that Debian's policy requires, and compresses files as
+# Debian does.
 
 foreach(component command wizard)
   set(root ${CPACK_TEMPORARY_DIRECTORY}/${component}/usr)

@@ -1,6 +1,6 @@
 #!/bin/sh
-# Counts the calls of Excel's members that a refresh of one chart takes, over tables of several lengths, beside those of a
-# run that reads cell by cell. Runs under Wine.
+# Counts the calls to Excel's members that a refresh of one chart makes, over tables of several lengths, and compares
+# them with a run that reads cell by cell. It runs under Wine.
 set -eu
 cd "$(dirname "$0")/.."
 scripts/install-dependencies.sh wine wine64

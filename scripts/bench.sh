@@ -1,5 +1,6 @@
 #!/bin/sh
-# Measures: the large refresh beside unzip, how whole runs grow, pictures beside LibreOffice's, and the parts. Figures are ratios within this run.
+# Measures the large refresh against unzip, the growth of whole runs, pictures against LibreOffice's, and single parts.
+# All results are ratios within this run.
 # Usage: scripts/bench.sh [PAIRS]
 set -eu
 cd "$(dirname "$0")/.."
@@ -13,7 +14,7 @@ bench=build/bench
 books=$bench/books
 out=$bench/out.xlsx
 
-# The books are kept until what makes them changes.
+# The workbooks are kept until the program that makes them changes.
 mkdir -p "$books"
 if [ ! -f "$books/made" ] || [ "$bench/make_book" -nt "$books/made" ]; then
   rm -f "$books"/*
@@ -27,7 +28,7 @@ for n in 100 200 400; do make_book data "charts-$n.xlsx" "10000 $n"; done
 for n in 100 1000; do make_book data "many-charts-$n.xlsx" "1000 $n"; done
 for n in 2500 5000 10000; do make_book names "names-$n.xlsx" "$n"; done
 touch "$books/made"
-# The same charts as a user finds them again, and with twice the categories.
+# The same charts again: as a user searches them, and with twice the categories.
 for n in 100 200 400; do
   $command refresh "$books/charts-$n.xlsx" -o "$books/again-$n.xlsx"
   cp "$books/again-$n.xlsx" "$books/grown-$n.xlsx"
@@ -36,7 +37,7 @@ done
 
 echo "== One million rows by eight columns, one chart: open to saved file"
 "$bench/measure" pairs $command "$books/big.xlsx" "$out" "$pairs"
-echo "== Growth: processor time and peak memory as multiples of the smallest book's; each: for each one of the count"
+echo "== Growth: processor time and peak memory as multiples of the smallest book's; each: per unit of the count"
 grow() {
   what=$1 kind=$2
   shift 2
@@ -56,7 +57,7 @@ if [ ! -d "$books/many" ]; then
   mkdir "$books/many"
   for n in $(seq 1000); do cp "$books/small.xlsx" "$books/many/$n.xlsx"; done
 fi
-# shellcheck disable=SC2016  # the inner shell is to see the variables
+# shellcheck disable=SC2016  # the inner shell expands the variables
 "$bench/measure" faster "one call beside a call for each workbook, times as fast" 5 \
   $command refresh "$books"/many/*.xlsx -- \
   sh -c 'command=$1; shift; for book; do "$command" refresh "$book"; done' loop $command "$books"/many/*.xlsx
@@ -82,7 +83,7 @@ pictures=$bench/pictures
 if command -v soffice >/dev/null; then
   for n in 1 50; do
     for format in svg png pdf; do
-      # into one PDF, or a file for each chart
+      # one PDF for all charts, or one file for each chart
       if [ $format = pdf ]; then to=$bench/drawn-$n.pdf; else to=$pictures/; fi
       "$bench/measure" faster "$n charts as $format beside LibreOffice's PDF, times as fast" 5 \
         $command render "$books/drawn-$n.xlsx" --format $format -o "$to" -- \
@@ -90,7 +91,7 @@ if command -v soffice >/dev/null; then
     done
   done
 else
-  echo "(LibreOffice isn't there to be measured beside)"
+  echo "(LibreOffice isn't installed, so the comparison with it is left out)"
 fi
 echo "== The parts"
 "$bench/plotsmith_bench" --benchmark_min_time=0.2 2>/dev/null

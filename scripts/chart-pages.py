@@ -3,15 +3,15 @@
 
 Usage: chart-pages.py BOOK CHARTS OUT
 
-CHARTS is the charts.tsv of bench/draw_charts. A page is a sheet with one drawing, on which the chart lies at the
-corner in its own size.
+CHARTS is the charts.tsv of bench/draw_charts. A page is a sheet with one drawing, which has the chart in its original
+size in the upper left corner.
 """
 
 import re
 import sys
 import zipfile
 
-POINT = 12700  # EMU
+POINT = 12700  # in EMU
 RELATIONSHIPS = "http://schemas.openxmlformats.org/officeDocument/2006/relationships"
 PACKAGE_RELATIONSHIPS = "http://schemas.openxmlformats.org/package/2006/relationships"
 MAIN = "http://schemas.openxmlformats.org/spreadsheetml/2006/main"
@@ -55,13 +55,13 @@ def find_workbook(archive):
 
 
 def add_pages(text, links, count):
-    """The workbook part with sheets in front, and its relationships with theirs."""
+    """Returns the workbook part with the new sheets in front, and its relationships with those of the sheets."""
     prefix = re.search(r"<(\w+:)?sheets\b", text).group(1) or ""
     bound = re.search(r'xmlns:(\w+)="[^"]*/relationships"', text)
     pages = "".join(f'<{prefix}sheet name="PairPage{i}" sheetId="{60000 + i}" {bound.group(1)}:id="rPair{i}"/>'
                     for i in range(1, count + 1))
     text = re.sub(r"(<(?:\w+:)?sheets\b[^>]*>)", lambda match: match.group(1) + pages, text, count=1)
-    # names of single sheets count the sheets
+    # names that belong to one sheet refer to it by its index
     text = re.sub(r'localSheetId="(\d+)"', lambda match: f'localSheetId="{int(match.group(1)) + count}"', text)
     text = re.sub(r'(activeTab|firstSheet)="\d+"', "", text)
     own = "".join(f'<Relationship Id="rPair{i}" Type="{RELATIONSHIPS}/worksheet" Target="/xl/pairs/sheet{i}.xml"/>'
@@ -86,7 +86,7 @@ def main(book, charts, out):
         for item in source.infolist():
             content = changed.get(item.filename) or source.read(item)
             if item.filename.startswith("xl/worksheets/sheet"):
-                # the results that the book holds are what the charts show; random numbers would change
+                # charts show the values stored in the workbook; a recalculation would change random numbers
                 content = re.sub(rb"<f\b[^>]*/>|<f\b.*?</f>", b"", content, flags=re.S)
             target.writestr(item.filename, content)
         for i, (part, width, height) in enumerate(pages, 1):

@@ -1,6 +1,7 @@
 #!/bin/sh
-# Uses the wizard's window as a person would: on a real X display, with a window manager, by the events of a mouse and
-# a keyboard. What is saved must be what the command saves by the same gestures. BUILD is the folder of the programs.
+# Operates the wizard's window like a user: on a real X display with a window manager, by mouse and keyboard events. The
+# saved workbook must be the same as the one that the command saves for the same input.
+# BUILD is the folder of the programs.
 set -eu
 cd "$(dirname "$0")/.."
 build=$PWD/${1:-build}
@@ -20,7 +21,8 @@ while [ ! -s "$work/display" ]; do sleep 0.1; done
 DISPLAY=:$(cat "$work/display")
 export DISPLAY
 unset QT_QPA_PLATFORM
-# A window that comes while the manager takes the display over is never shown, so the first one waits for it.
+# A window that appears while the window manager starts is never shown. So the script waits for the manager before it
+# opens the first window.
 openbox --startup "touch $work/managed" 2>/dev/null &
 manager=$!
 for _ in $(seq 200); do
@@ -30,7 +32,7 @@ done
 
 passed=0
 failed=0
-expect() { # WHAT, then a command that must succeed
+expect() { # DESCRIPTION, then a command that must succeed
   what=$1
   shift
   if "$@"; then
@@ -41,14 +43,14 @@ expect() { # WHAT, then a command that must succeed
   fi
 }
 
-# Waits until the window of this title is in front, and gives it the keys: TITLE KEY...
+# Waits until the window with this title is active, and sends it keys: TITLE KEY...
 keys() {
   title=$1
   shift
   window=$(timeout 20 xdotool search --sync --onlyvisible --name "$title" | tail -1)
-  [ -n "$window" ] || { echo "failed: no window of the title $title came" >&2; exit 1; }
+  [ -n "$window" ] || { echo "failed: no window with the title $title appeared" >&2; exit 1; }
   timeout 5 xdotool windowactivate --sync "$window" 2>/dev/null || true
-  sleep 0.5 # the keyboard follows a moment after the window
+  sleep 0.5 # the keyboard focus follows the window after a moment
   for key in "$@"; do
     case $key in
       text:*) xdotool type --delay 5 "${key#text:}" ;;
@@ -57,11 +59,11 @@ keys() {
   done
 }
 
-start() { # the program, with arguments
+start() { # starts the program: ARGUMENT...
   "$build/plotsmith-wizard" "$@" 2>"$work/err" &
   wizard=$!
 }
-ended() { # CODE
+ended() { # waits for the program's exit: CODE
   code=0
   (sleep 20 && kill -9 "$wizard") 2>/dev/null &
   watchdog=$!
@@ -71,7 +73,7 @@ ended() { # CODE
   [ "$code" -eq "$1" ]
 }
 
-# A chart made with the keyboard alone, and saved.
+# Make a chart with the keyboard only, and save it.
 fresh=examples/data/orders.xlsx
 cp "$fresh" "$work/orders.xlsx"
 start "$work/orders.xlsx"
@@ -91,16 +93,16 @@ press cmdNext
 press cmdFinish
 END
 "$build/plotsmith" wizard "$fresh" --script "$work/script" -o "$work/command.xlsx"
-expect "what a hand saves is what the command saves" cmp "$work/orders.xlsx" "$work/command.xlsx"
+expect "the window and the command save the same workbook" cmp "$work/orders.xlsx" "$work/command.xlsx"
 
-# The window's close box on the first page: nothing is saved.
+# Close the window on the first page: nothing is saved.
 cp "$fresh" "$work/orders.xlsx"
 start "$work/orders.xlsx"
 keys "Source Table and Chart Type" alt+F4
 expect "closing ends the program" ended 0
 expect "nothing is saved" cmp "$work/orders.xlsx" "$fresh"
 
-# A workbook that another program has open.
+# Open a workbook that another program has open.
 : > "$work/.~lock.orders.xlsx#"
 start "$work/orders.xlsx"
 keys "^Brindle Plotsmith$" Return

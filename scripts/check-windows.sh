@@ -1,13 +1,13 @@
 #!/bin/sh
-# Builds the command for Windows and the component, that of 32 bits too, and runs all tests under Wine:
-# tests/windows/run-*.sh. Names of tests, such as "server", run these alone.
+# Builds the command and the component for Windows, including the 32-bit component, and runs all tests under Wine:
+# tests/windows/run-*.sh. Given names of tests such as "server", it runs only these.
 # Usage: scripts/check-windows.sh [NAME]...
 set -eu
 cd "$(dirname "$0")/.."
 passed=0
 failed=0
 
-# Says what comes next, and how long the step before took; without a text only that.
+# Prints the next step and how long the previous one took; without a text only the latter.
 step() {
   now=$(date +%s)
   [ -z "${began:-}" ] || echo "    $((now - began)) s"
@@ -15,7 +15,7 @@ step() {
   [ -z "${1:-}" ] || echo "$1"
 }
 
-# Runs a script of tests, and counts what its last line says.
+# Runs a test script, and adds the counts in its last line to the totals.
 run_tests() {
   output=$("$1" 2>&1) || true
   last=$(printf '%s\n' "$output" | tail -n 1)
@@ -28,7 +28,7 @@ run_tests() {
       ;;
     *)
       failed=$((failed + 1))
-      echo "FAILED: $1 ended before its end"
+      echo "FAILED: $1 stopped before its last line"
       ;;
   esac
 }

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Runs all tests of the release build: under a locale with a decimal comma, and as they are.
+# Runs all tests of the release build twice: in a locale with a decimal comma and in the default locale.
 set -eu
 cd "$(dirname "$0")/.."
 scripts/install-dependencies.sh locales
@@ -12,7 +12,7 @@ programs=build/tests/plotsmith_tests
 if [ -x build/tests/qt/plotsmith_qt_tests ]; then
   programs="$programs build/tests/qt/plotsmith_qt_tests"
 else
-  echo "The tests of the wizard's windows are left out, as Qt 6 Widgets isn't there."
+  echo "The tests of the wizard's windows are left out, because Qt 6 Widgets isn't installed."
 fi
 echo "With a decimal comma:"
 # shellcheck disable=SC2086  # a list of words

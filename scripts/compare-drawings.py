@@ -3,10 +3,11 @@
 
 Usage: compare-drawings.py FOLDER [BOOK...]
 
-FOLDER is what scripts/render-pairs.sh makes: a folder for each workbook, with the lists of bench/draw_charts and a
-PDF whose first pages are LibreOffice's; with names of such folders only those are compared. Prints for each kind of
-item how many were found in both, and the median and the worst distance in points: of texts that of their middles, of
-all else that of the farthest edges. The worst are listed in FOLDER/worst.tsv.
+FOLDER is made by scripts/render-pairs.sh. It contains a folder for each workbook, with the lists of bench/draw_charts
+and a PDF whose first pages are LibreOffice's. If BOOKs are given, which are names of such folders, only those are
+compared. The script prints for each kind of item how many were found in both pictures, and the median and the largest
+distance in points. The distance of two texts is that of their centres; the distance of other items is the largest one
+between corresponding edges. FOLDER/worst.tsv lists the largest distances.
 """
 
 import html
@@ -22,8 +23,8 @@ FILLED = {"Bar", "Slice", "Bubble", "Area", "LegendKey", "Shape"}
 SIGNS = {"LegendKey", "Shape"}
 LINES = {"Gridline", "AxisLine"}
 SOLID = {"Wall", "Floor", "Side"}
-COLOR_SLACK = 3   # of 255, by which LibreOffice rounds
-FARTHEST = 60     # points, beyond which an item counts as not found
+COLOR_SLACK = 3   # of 255; LibreOffice rounds colours
+FARTHEST = 60     # points; an item that is farther away counts as not found
 
 
 def read_items(path):
@@ -65,7 +66,7 @@ def bounds_of_path(data, matrix):
 
 
 def paths_of(pdf, page):
-    """Filled and stroked paths: a colour, and bounds."""
+    """Returns the filled and the stroked paths, each with colour and bounds."""
     svg = subprocess.run(["pdftocairo", "-svg", "-f", str(page), "-l", str(page), pdf, "-"], check=True,
                          capture_output=True, text=True).stdout
     svg = re.sub(r"<defs>.*?</defs>", "", svg, flags=re.S)
@@ -81,7 +82,7 @@ def paths_of(pdf, page):
             if bounds:
                 filled.append((color, bounds))
         elif "stroke:rgb" in tag:
-            # one path may hold several lines
+            # one path may contain several lines
             stroked += [bounds for piece in data.split("M ")[1:] if (bounds := bounds_of_path(piece, matrix))]
     return filled, stroked
 
@@ -120,10 +121,10 @@ def is_thin(box):
 
 
 def compare(items, words, filled, stroked):
-    """Pairs of an item and its distance; None for one that wasn't found."""
+    """Returns pairs of an item and its distance, which is None if the item wasn't found."""
     used_words, used_fills, used_lines = set(), set(), set()
     lines = [box for box in stroked if is_thin(box)]
-    # LibreOffice's bodies in 3-D are pixels
+    # LibreOffice draws bodies in 3-D as pixels
     flat = not any(item["role"] in SOLID for item in items)
     matched_lines = []
     for item in items:

@@ -1,11 +1,11 @@
 #!/bin/sh
-# Refreshes the example workbooks, makes the charts of one from plain tables, and draws them; then takes pictures of the
-# pages of the wizard where Qt is.
+# Refreshes the example workbooks, makes the charts of one from plain tables, and draws them. If Qt is installed, it
+# also takes pictures of the wizard's pages.
 set -eu
 cd "$(dirname "$0")/.."
 mkdir -p demo
 
-# Says which charts a book of demo/ has, and draws its sheet Charts: NAME.
+# Lists the charts of a workbook in demo/, and draws its sheet Charts: NAME.
 show() {
   build/plotsmith charts "demo/$1.xlsx" | sed 's/^/    /'
   build/plotsmith render "demo/$1.xlsx" --sheet Charts --one-page -o "demo/$1.png"
@@ -15,11 +15,11 @@ show() {
 for book in examples/*.xlsx; do
   name=$(basename "$book" .xlsx)
   build/plotsmith refresh "$book" -o "demo/$name.xlsx"
-  echo "demo/$name.xlsx: refreshed; these are its charts:"
+  echo "demo/$name.xlsx: refreshed; it has these charts:"
   show "$name"
 done
 
-# A book with plain tables gets a chart of each type, each on a sheet of its own.
+# A workbook with plain tables gets a chart of each type, each on its own sheet.
 book=demo/orders.xlsx
 cp examples/data/orders.xlsx "$book"
 new() {
@@ -33,7 +33,7 @@ new bubble --title "Products" --categories Product --values Amount --x-values Co
   --new-sheet Bubbles
 new "strategic bucket" --title "Amounts and targets" --categories Product --series Product --bucket-table VEX_SB_Targets \
   --labels names --new-sheet Buckets
-echo "$book: made from two plain tables; these are its charts:"
+echo "$book: made from two plain tables; it has these charts:"
 show orders
 
 if grep -q '^Qt6Widgets_DIR:PATH=/' build/CMakeCache.txt; then
@@ -42,5 +42,5 @@ if grep -q '^Qt6Widgets_DIR:PATH=/' build/CMakeCache.txt; then
   echo "demo/wizard: the pages of the wizard, light and dark"
   echo "build/plotsmith wizard demo/orders.xlsx opens the wizard on that workbook"
 else
-  echo "(Qt 6 Widgets would make the wizard's window and pictures of its pages)"
+  echo "(install Qt 6 Widgets for the wizard's window and pictures of its pages)"
 fi

@@ -1,14 +1,15 @@
 #!/bin/sh
-# Takes the pictures of the installer and of the dialogs inside of Excel anew, under Wine, at 100 and at 200 %.
-# Usage: scripts/excel-shots.sh [FOLDER]; FOLDER is docs/images/excel unless it is given. The target plotsmith_view_tests
-# of build-windows-x64 must have been built, and the installer by scripts/installer.sh.
+# Takes the pictures of the installer and of the dialogs inside Excel again, under Wine, at 100 and 200 %.
+# Usage: scripts/excel-shots.sh [FOLDER]; the default FOLDER is docs/images/excel.
+# Build the target plotsmith_view_tests of build-windows-x64 first, and run scripts/installer.sh.
 set -eu
 cd "$(dirname "$0")/.."
 folder=${1:-docs/images/excel}
 work=$(mktemp -d)
 scripts/install-dependencies.sh wine wine64 xvfb imagemagick
 
-# A prefix of our own, whose windows don't wait for a window manager, and a screen that has room for all pages.
+# The script uses its own Wine prefix, in which windows don't wait for a window manager, and a screen that is large
+# enough for all pages.
 export WINEPREFIX="$work/wine" WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml= LC_ALL=C.UTF-8
 Xvfb -displayfd 3 -screen 0 2200x1600x24 >/dev/null 2>&1 3>"$work/display" &
 screen=$!
@@ -18,17 +19,18 @@ DISPLAY=:$(cat "$work/display")
 export DISPLAY
 wineboot --init >/dev/null 2>&1
 wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
-# Smooth fonts, as Windows has them. Without, Wine's own measures of small texts are too small.
+# Fonts are smooth, as on Windows. Otherwise Wine measures small texts too small.
 wine reg add 'HKCU\Control Panel\Desktop' /v FontSmoothing /d 2 /f >/dev/null 2>&1
 wine reg add 'HKCU\Control Panel\Desktop' /v FontSmoothingType /t REG_DWORD /d 2 /f >/dev/null 2>&1
 
-# The first page of the installer, which is alone on the screen: FILE.
+# Saves a picture of the installer's first page, which is alone on the screen: FILE.
 shoot_setup() {
   wine build/PlotsmithSetup.exe >/dev/null 2>&1 &
   for _ in 1 2 3 4 5 6 7 8 9 10; do
     sleep 3
     import -window root "$work/screen.png"
-    convert "$work/screen.png" -trim +repage -colors 256 "$1" 2>/dev/null  # a warning as long as it is empty
+    convert "$work/screen.png" -trim +repage -colors 256 "$1" 2>/dev/null  # convert prints a warning as long as the
+                                                                           # screen is empty
     [ "$(identify -format %w "$1")" -lt 400 ] || break
   done
   wineserver -k

@@ -1,8 +1,10 @@
 #!/usr/bin/env python3
-"""Prints the advance widths of a TrueType font, as src/xlsx/drawing/TextMetrics.cpp holds them.
+"""Prints the advance widths of a TrueType font, as src/xlsx/drawing/TextMetrics.cpp contains them.
 
-usage: font-widths.py FONT.ttf
-Characters U+0020 to U+007E and U+00A0 to U+00FF, in thousandths of an em, then the heights of a line.
+Usage: font-widths.py FONT.ttf
+
+Prints the widths of the characters U+0020 to U+007E and U+00A0 to U+00FF in thousandths of an em, then the heights of
+a line.
 """
 import struct
 import sys

@@ -1,7 +1,7 @@
 #!/bin/sh
-# Runs each fuzzer for a while, from seeds taken from the examples and from whatever other workbooks are at hand.
+# Runs each fuzzer for a while. The seeds are made from the workbooks of the examples and the corpus.
 # Usage: scripts/fuzz.sh [SECONDS-EACH [TARGET...]]
-# FUZZ_SEED=N makes the same choices on every run; without it each run makes others.
+# FUZZ_SEED=N repeats the same choices on every run; without it, each run makes other choices.
 set -eu
 cd "$(dirname "$0")/.."
 seconds=${1:-60}
@@ -26,7 +26,7 @@ for target in $targets; do
     "build-fuzz/corpus/$target" "$seeds/$target" "fuzz/findings/$target" 2>"$log" || found="$found $target"
   grep -E 'number_of_executed_units|peak_rss_mb' "$log" | sed 's/^stat:://' || true
 done
-# what was found comes last, where it isn't overlooked, with the input that shows it
+# findings are printed last, so that they are noticed, with the input that causes them
 for target in $found; do
   log=build-fuzz/$target.log
   echo "== found in $target"

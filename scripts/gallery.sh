@@ -1,5 +1,6 @@
 #!/bin/sh
-# Makes docs/gallery.md and the pictures in docs/images anew: ours with `plotsmith render`, and LibreOffice's beside them.
+# Makes docs/gallery.md and the pictures in docs/images again: Plotsmith's with `plotsmith render`, and LibreOffice's
+# beside them.
 set -eu
 cd "$(dirname "$0")/.."
 for needed in soffice pdftoppm; do
@@ -13,7 +14,7 @@ images=docs/images
 rm -rf "$out" "$images/gallery"
 mkdir -p "$out" "$images/gallery/libreoffice"
 
-# A chart whose table is gone is part of the gallery; the refresh says so.
+# One chart of the gallery has no table any more, and the refresh reports that.
 build/examples/make_gallery "$out" >"$out/pages"
 scripts/print.sh "$out/gallery.xlsx" "$out"
 while read -r page dpi name what; do
@@ -22,13 +23,13 @@ while read -r page dpi name what; do
   else
     build/plotsmith render "$out/gallery.xlsx" --sheet "$name" --one-page -o "$images/gallery/$name.svg"
   fi
-  # the top left corner of the page
+  # the upper left corner of the page
   pdftoppm -png -r "$dpi" -x 0 -y 0 -W 308 -H 202 -f "$page" -l "$page" -singlefile "$out/gallery.pdf" \
     "$images/gallery/libreoffice/$name"
 done <"$out/pages"
 cp "$out/gallery.md" docs/gallery.md
 
-# What the README shows: its first chart, and the sheets Charts of two examples.
+# Pictures of the README: a new chart, and the sheet Charts of two examples.
 cp examples/data/orders.xlsx "$out/orders.xlsx"
 build/plotsmith new "$out/orders.xlsx" --table Data1 --type column --title "Amount by region" --series Product --set stacked \
   --new-sheet Charts

@@ -1,9 +1,9 @@
 #!/bin/sh
-# Makes the help of docs/help into a CHM file for Windows, with chmcmd of Debian's fp-utils.
+# Makes a CHM file for Windows from docs/help, with chmcmd of Debian's package fp-utils.
 # Usage: scripts/help-chm.sh Plotsmith.chm
 #
-# chmcmd writes the full path of each numbered topic into the file, where HtmlHelp looks for the path inside of the file.
-# Both are the same if the project lies in the root folder, so chmcmd runs in a root of its own.
+# chmcmd writes the full path of each numbered topic into the file, but HtmlHelp expects the path inside the file. Both
+# are the same if the project is in the root folder, so chmcmd runs in its own root.
 set -eu
 
 [ $# -eq 1 ] || { echo "Usage: scripts/help-chm.sh FILE.chm" >&2; exit 2; }
@@ -16,7 +16,7 @@ trap 'rm -rf "$root"' EXIT
 "$(dirname "$0")/help-project.py" "$root"
 compiler="$(command -v chmcmd)"
 libraries="$(ldd "$compiler" | grep -o '/[^ ]*')"
-# It loads libpthread by itself, from where libc is.
+# It loads libpthread itself, from the folder of libc.
 libc="$(echo "$libraries" | grep '/libc\.so')"
 for file in $libraries "$(dirname "$libc")/libpthread.so.0"; do
   mkdir -p "$root$(dirname "$file")"
@@ -29,7 +29,7 @@ $change_root "$root" /chmcmd Plotsmith.hhp >"$root/log" 2>&1 || { cat "$root/log
 
 chmls extract "$root/Plotsmith.chm" "/#STRINGS" "$root/strings" >/dev/null 2>&1
 if ! grep -aqF "/help/topic1-" "$root/strings" || grep -aqF "$root" "$root/strings"; then
-  echo "help-chm.sh: the numbers in the file don't lead to its topics" >&2
+  echo "help-chm.sh: the topic numbers in the CHM file don't refer to its topics" >&2
   exit 1
 fi
 cp "$root/Plotsmith.chm" "$1"

@@ -1,6 +1,6 @@
 #!/bin/sh
-# Draws the sample pictures of docs/images/wizard anew: as SVG, and as PNG for the help, since viewers of CHM files show
-# no SVG. They have two pixels a point, so that they are sharp on fine screens as well.
+# Draws the sample pictures in docs/images/wizard again: as SVG, and as PNG for the help, because viewers of CHM files
+# show no SVG. The PNG files have two pixels per point, so that they are sharp on screens of high resolution.
 # Usage: scripts/help-pictures.sh build/examples/make_pictures
 set -eu
 

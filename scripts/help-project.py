@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Puts the help into a folder as a project of HTML Help, which chmcmd makes one CHM file of.
+"""Writes the help into a folder as a project of HTML Help, from which chmcmd makes a CHM file.
 
 Usage: scripts/help-project.py FOLDER
 scripts/help-chm.sh runs chmcmd as well.
 
-The folder gets the pages and pictures of docs/, the project, its contents, and the numbers by which HtmlHelp opens the
-topics. All of it comes from docs/help/topics.tsv.
+The folder gets the pages and pictures of docs/, the project, its table of contents, and the numbers by which HtmlHelp
+opens the topics. All of these come from docs/help/topics.tsv.
 """
 
 import html
@@ -53,7 +53,7 @@ ENTRY = """<li><object type="text/sitemap">
 
 
 def read_topics():
-    """The rows of topics.tsv: number or an empty text, path below docs, title."""
+    """Returns the rows of topics.tsv: number or an empty text, path below docs, title."""
     rows = [line.split("\t") for line in (DOCS / "help/topics.tsv").read_text().splitlines()]
     if rows[:1] != [["number", "file", "title"]] or any(len(row) != 3 for row in rows):
         sys.exit("help-project.py: docs/help/topics.tsv must have the columns number, file and title.")
@@ -61,7 +61,7 @@ def read_topics():
 
 
 def copy_files(topics, folder):
-    """Copies the pages and what they show. Returns the paths below the folder."""
+    """Copies the pages and their pictures. Returns their paths below the folder."""
     files = ["help/help.css"] + [file for _, file, _ in topics]
     pictures = set()
     for _, file, _ in topics:
@@ -70,7 +70,7 @@ def copy_files(topics, folder):
         if (DOCS / picture).exists():
             files.append(picture)
         else:
-            print(f"help-project.py: docs/{picture} isn't there, and the help goes without it.", file=sys.stderr)
+            print(f"help-project.py: docs/{picture} is missing; the help is made without it.", file=sys.stderr)
     for file in files:
         (folder / file).parent.mkdir(parents=True, exist_ok=True)
         shutil.copyfile(DOCS / file, folder / file)

@@ -1,11 +1,10 @@
 #!/usr/bin/env python3
-"""Makes pages of docs/ that are written in Markdown into HTML, with cmark-gfm.
+"""Converts Markdown pages of docs/ to HTML, with cmark-gfm.
 
 Usage: scripts/html-pages.py FOLDER PAGE...
-scripts/installer.sh makes those that are installed on Windows: scripts/html-pages.py FOLDER excel.md.
+scripts/installer.sh converts the page that is installed on Windows: scripts/html-pages.py FOLDER excel.md.
 
-The folder gets the pages and the pictures that they show. A link to a page or a file that isn't among them becomes
-plain text.
+The folder gets the pages and their pictures. A link to a page or file that isn't in the folder becomes plain text.
 """
 
 import html
@@ -39,17 +38,17 @@ img {{ max-width: 100%; }}
 
 
 def text_of(markup):
-    """The text of a piece of HTML, without its tags."""
+    """Returns the text of a piece of HTML, without its tags."""
     return html.unescape(re.sub(r"<[^>]+>", "", markup))
 
 
 def anchor_of(heading):
-    """The name by which links of Markdown refer to a heading."""
+    """Returns the name by which Markdown links refer to a heading."""
     return re.sub(r"[^\w\- ]", "", text_of(heading).lower()).replace(" ", "-")
 
 
 def convert(page, pages):
-    """The page as HTML. `pages` are the names of all pages that there are, without their endings."""
+    """Returns the page as HTML. `pages` are the names of all pages without their extensions."""
     body = subprocess.run(["cmark-gfm", "--extension", "table", str(DOCS / page)], check=True, capture_output=True,
                           text=True).stdout
     body = re.sub(r"<(h[1-6])>(.*?)</\1>", lambda found: '<{0} id="{1}">{2}</{0}>'.format(

@@ -1,6 +1,6 @@
 #!/bin/sh
-# Installs what the build needs and isn't there, from Debian's packages; and those named as arguments.
-# PLOTSMITH_NO_QT=1 leaves out Qt; then everything is built but the wizard's windows.
+# Installs the Debian packages that the build needs and that are missing, and the packages given as arguments.
+# With PLOTSMITH_NO_QT=1 it leaves out Qt; then everything but the wizard's windows is built.
 set -eu
 
 packages="g++ cmake ninja-build pkg-config libpugixml-dev libexpat1-dev libzip-dev libisal-dev libutf8proc-dev libcli11-dev

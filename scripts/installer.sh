@@ -1,10 +1,10 @@
 #!/bin/sh
-# Builds the component of 64 and of 32 bits, the command and the help, and makes of them build/PlotsmithSetup.exe, the
-# installer for Windows. packaging/windows/installer.nsi has its options.
+# Builds the 64-bit and 32-bit components, the command and the help, and makes build/PlotsmithSetup.exe from them, the
+# installer for Windows. packaging/windows/installer.nsi describes its options.
 set -eu
 cd "$(dirname "$0")/.."
 stage=$PWD/build/installer
-files=$stage/files  # all that is installed
+files=$stage/files  # all files that are installed
 
 scripts/install-dependencies.sh nsis fp-utils cmark-gfm libwine-dev $(cat scripts/windows-packages.txt)
 scripts/windows-libraries.sh x64 x86
@@ -13,8 +13,8 @@ cmake --build build-windows-x64 --target Plotsmith plotsmith
 cmake --preset windows-x86 >/dev/null
 cmake --build build-windows-x86 --target Plotsmith
 
-# Copies texts as the programs of Windows want them; VBA imports no class whose lines end without a carriage return:
-# FOLDER FILE...
+# Copies texts with the line ends of Windows: FOLDER FILE... VBA can't import a class whose lines end without a carriage
+# return.
 copy_texts() {
   folder=$1
   shift
@@ -22,7 +22,7 @@ copy_texts() {
   for file; do sed 's/\r*$/\r/' "$file" >"$folder/$(basename "$file")"; done
 }
 
-# The terms of what the programs contain.
+# Prints the licence terms of the libraries in the programs.
 terms() {
   sed '/^The programs contain/,$d' packaging/copyright.in
   echo "The programs contain code of these libraries, whose terms follow."

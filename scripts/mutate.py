@@ -3,11 +3,11 @@
 
     scripts/mutate.py src/readback src/builder --count 40 --seed 1
 
-The faults of a room are chosen by the seed. All of them are written into copies of the sources, each behind a switch
+The seed determines the faults of a room. All of them are written into copies of the sources, each behind a switch
 (scripts/faults/Fault.h), and linked with the tests of an ordinary build into one program. A first run of that program
-notes which test comes past which fault. Then the program runs once for each fault, with the tests that come past it,
-the quick ones first. A fault that no test notices survives and is printed with its place. The sources themselves
-aren't touched.
+records which tests reach which fault. Then the program runs once for each fault, with the tests that reach it, the
+quick ones first. A fault that no test notices survives, and is printed with its place. The sources themselves aren't
+changed.
 """
 
 import argparse
@@ -26,9 +26,9 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 FAULTS = ROOT / "scripts" / "faults"
 OUT = ROOT / "build-mutants"  # with a folder for each room, so that several runs can go on at once
-MEMORY = 8 << 30  # bytes that a run may take
+MEMORY = 8 << 30  # bytes that a run may use
 
-INFIX = [  # the operator in the code, and what a fault makes of it
+INFIX = [  # the operator in the code, and its replacement by the fault
     (r"(?<=\s)==(?=\s)", "!="),
     (r"(?<=\s)!=(?=\s)", "=="),
     (r"(?<=\s)<(?=\s)", "<="),
@@ -59,13 +59,13 @@ class Fault:
 
 
 def masked(text):
-    """The text with blanks for comments, and underscores for texts and characters."""
+    """Returns the text with blanks for comments, and underscores for string and character literals."""
     pattern = re.compile(r'//[^\n]*|/\*.*?\*/|R"\((?:.*?)\)"|"(?:\\.|[^"\\\n])*"|(?<!\w)\'(?:\\.|[^\'\\\n])+\'', re.S)
     return pattern.sub(lambda m: re.sub(r"[^\n]", " " if m.group(0)[0] == "/" else "_", m.group(0)), text)
 
 
 def operand_end(code, position, stops):
-    """The end of the operand that begins at the position."""
+    """Returns the end of the operand that begins at the position."""
     depth = 0
     while position < len(code):
         c = code[position]
@@ -88,7 +88,7 @@ def is_lonely_colon(code, position):
 
 
 def operand_begin(code, position, stops):
-    """The begin of the operand that ends before the position."""
+    """Returns the beginning of the operand that ends before the position."""
     depth = 0
     while position > 0:
         c = code[position - 1]
@@ -114,7 +114,7 @@ def operand_begin(code, position, stops):
 
 
 def faults_of(path):
-    """All faults of a file in the order of their places."""
+    """Returns all faults of a file in the order of their positions."""
     text = path.read_text()
     code = masked(text)
     starts = [0] + [m.end() for m in re.finditer("\n", text)]
@@ -130,7 +130,7 @@ def faults_of(path):
         statement = code[max(code.rfind(";", 0, begin), code.rfind("\n\n", 0, begin), 0):begin]
         constant = list(re.finditer(r"\bconstexpr\b", statement))
         edits = list(edits)
-        if constant:  # what is known when the program is compiled can't have a switch
+        if constant:  # a value known at compile time can't have a switch
             at = begin - len(statement) + constant[-1].start()
             edits.append(lambda n: Edit(at, RANK_TOKEN, 9, "const"))
         is_static = bool(constant) or "static" in statement or begin_of_line == begin
@@ -169,7 +169,7 @@ def faults_of(path):
         token(m.start(), m.end(), "--" + v, lambda n, v=v: f"(plotsmith_fault::On({n}) ? --{v} : ++{v})")
     for m in re.finditer(r"\b(break|continue);", code):
         token(m.start(), m.end(), ";", lambda n, w=m.group(1): f"if (!plotsmith_fault::On({n})) {w};")
-    for begin in starts:  # a statement on a line of its own can be left out
+    for begin in starts:  # a statement on its own line can be left out
         end = text.find("\n", begin)
         m = STATEMENT.match(code[begin:end]) if end > 0 else None
         if m and not re.search(r"[,(?:&|+=]$|^\s*[:?]", code[:begin].rstrip()[-1:] or ";"):
@@ -181,7 +181,7 @@ def faults_of(path):
 
 
 def written(path, faults):
-    """The text of the file with the faults in it, each behind its switch. No line moves."""
+    """Returns the text of the file with the faults, each behind its switch. Line numbers don't change."""
     edits = []
     for fault in faults:
         made = [edit(fault.number) for edit in fault.edits]
@@ -203,14 +203,14 @@ def written(path, faults):
 
 
 def overlaps(fault, others):
-    """Whether a token of the fault is one that another fault of the file changes already."""
+    """Returns true if another fault of the file already changes a token of this fault."""
     def tokens(f):
         return {e.position for e in (edit(1) for edit in f.edits) if e.rank == RANK_TOKEN and e.text != "const"}
     return any(tokens(fault) & tokens(other) for other in others)
 
 
 class Build:
-    """The ordinary build, from which the other objects and the command lines come."""
+    """The ordinary build, which provides the other objects and the command lines."""
 
     def __init__(self, folder):
         self.folder = folder
@@ -225,7 +225,7 @@ class Build:
         lines = subprocess.run(["ninja", "-C", str(folder), "-t", "commands", "plotsmith_tests"],
                                capture_output=True, text=True, check=True).stdout.splitlines()
         link = next(part for part in lines[-1].split(" && ") if " -o tests/plotsmith_tests " in part)
-        # the tests as they are now, in case somebody builds others meanwhile
+        # the tests as they are now, because another build may replace them
         self.tests = OUT / "tests.o"
         self.link = [word for word in shlex.split(link) if not word.endswith(".o") and word not in (":", "true")]
         objects = [word for word in shlex.split(link) if word.endswith(".o")]
@@ -265,7 +265,7 @@ class Build:
 
 
 def choose(room, count, seed):
-    """Twice as many faults as wanted, in the order of their turns: some don't compile."""
+    """Returns twice as many faults as wanted, in the order in which they are used, because some don't compile."""
     path = ROOT / room
     files = sorted(path.rglob("*.cpp")) if path.is_dir() else [path]
     faults = [fault for file in files if not file.stem.endswith("Windows") for fault in faults_of(file)]
@@ -278,7 +278,7 @@ def choose(room, count, seed):
 
 
 def compiled(build, unit, faults):
-    """The object of the unit, and those of the faults that can be in it."""
+    """Returns the object of the unit and the faults that compile in it."""
     target = OUT / (str(unit.relative_to(ROOT)).replace("/", "-") + ".o")
     while faults:
         copies = {}
@@ -298,7 +298,7 @@ def compiled(build, unit, faults):
 
 
 def run(program, tests, fault, record=None, seconds=3600):
-    """The exit code and what was printed. The limit is one of processor time, as other work may go on."""
+    """Returns the exit code and the output. The limit is one of processor time, because the machine may be busy."""
     def limit():
         resource.setrlimit(resource.RLIMIT_CPU, (seconds, seconds + 5))
         resource.setrlimit(resource.RLIMIT_AS, (MEMORY, MEMORY))
@@ -318,7 +318,7 @@ def run(program, tests, fault, record=None, seconds=3600):
 
 
 def tests_by_fault(program, filter_):
-    """For each fault the tests that come past it, and for each test its time in milliseconds."""
+    """Returns the tests that reach each fault, and the time of each test in milliseconds."""
     record = OUT / "record"
     record.unlink(missing_ok=True)
     record.touch()
@@ -326,9 +326,9 @@ def tests_by_fault(program, filter_):
     (OUT / "log").write_text(output)
     failing = set(re.findall(r"^\[  FAILED  \] ([^\s,]+)(?:, .*)? \(\d+ ms\)$", output, re.M))
     if code != 0 and not failing:
-        sys.exit("mutate: the tests don't run through without a fault.")
+        sys.exit("mutate: the tests crash without a fault.")
     if failing:
-        print("left out, as they fail without a fault:", *sorted(failing))
+        print("left out, because they fail without a fault:", *sorted(failing))
     times = {m.group(1): int(m.group(2)) for m in re.finditer(r"^\[       OK \] (\S+?)(?:, .*)? \((\d+) ms\)", output, re.M)}
     past = collections.defaultdict(set)
     for line in record.read_text().splitlines():
@@ -339,7 +339,7 @@ def tests_by_fault(program, filter_):
 
 
 def is_noticed(program, fault, tests, times):
-    """Whether one of the tests fails while the fault is on."""
+    """Returns true if one of the tests fails while the fault is active."""
     tests = sorted(tests, key=lambda test: times.get(test, 0))
     for part in (tests[:20], tests[20:80], tests[80:]):
         if part:
@@ -355,7 +355,7 @@ def main():
     parser.add_argument("--count", type=int, default=40, help="how many faults in each room (40)")
     parser.add_argument("--seed", type=int, default=1, help="which faults (1)")
     parser.add_argument("--filter", default="-*LibreOffice*",
-                        help="the tests to run, as --gtest_filter takes them (all but those that start LibreOffice)")
+                        help="the tests to run, in the syntax of --gtest_filter (all but those that start LibreOffice)")
     parser.add_argument("--build", default="build", help="the folder of an ordinary build (build)")
     options = parser.parse_args()
 
@@ -383,7 +383,7 @@ def main():
     program = OUT / "tests" / "plotsmith_tests"
     program.parent.mkdir(exist_ok=True)
     if not (OUT / "lib").is_symlink():
-        (OUT / "lib").symlink_to(folder / "lib")  # of the module that draws, which is found beside the program
+        (OUT / "lib").symlink_to(folder / "lib")  # for the drawing module, which is loaded from the program's folder
     build.link_tests([runtime, *objects], program)
     past, times = tests_by_fault(program, options.filter)
 
@@ -391,11 +391,11 @@ def main():
     for room, faults in rooms.items():
         survivors = []
         for fault in faults:
-            # what is worked out once, or before all tests, may concern each of them
+            # a value that is computed once, or before all tests, may affect each of them
             tests = set(times) if fault.is_static or "*" in past[fault.number] else past[fault.number]
             if not is_noticed(program, fault, tests, times):
                 survivors.append(fault)
-                print(f"survived {fault.place()}{'' if tests else ' (no test comes here)'}\n"
+                print(f"survived {fault.place()}{'' if tests else ' (no test reaches it)'}\n"
                       f"  - {fault.before}\n  + {fault.after}", flush=True)
         killed = len(faults) - len(survivors)
         print(f"{room}: {killed} of {len(faults)} faults were noticed (seed {options.seed}).", flush=True)

@@ -1,7 +1,8 @@
 #!/bin/sh
-# Makes a PDF of a workbook through LibreOffice, each sheet on a page of its own size. Usage: scripts/print.sh BOOK FOLDER
+# Makes a PDF of a workbook with LibreOffice, each sheet on a page of its own size.
+# Usage: scripts/print.sh BOOK FOLDER
 set -eu
-# a profile of its own, as a LibreOffice that is open holds the user's
+# LibreOffice gets its own profile, because an open LibreOffice locks the user's
 if ! log=$(soffice "-env:UserInstallation=file://$(cd "$(dirname "$0")/.." && pwd)/build/soffice-profile" --headless \
   --convert-to 'pdf:calc_pdf_Export:{"SinglePageSheets":{"type":"boolean","value":"true"}}' --outdir "$2" "$1" 2>&1); then
   echo "LibreOffice can't print $1:" >&2

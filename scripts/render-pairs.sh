@@ -1,8 +1,9 @@
 #!/bin/sh
-# Makes a page that shows charts as Plotsmith draws them beside LibreOffice's pictures of the same charts in the
-# same size, and measures how far their parts lie from each other. Usage: scripts/render-pairs.sh FOLDER [BOOK...]
-# Without books it takes the gallery, the examples and the corpus. The page is FOLDER/index.html. In a folder that
-# was made before only Plotsmith's side is made anew.
+# Makes a page that shows Plotsmith's drawings of charts beside LibreOffice's in the same size, and measures the
+# distances between their parts.
+# Usage: scripts/render-pairs.sh FOLDER [BOOK...]
+# Without workbooks it uses the gallery, the examples and the corpus. The page is FOLDER/index.html. If the folder
+# exists already, only Plotsmith's drawings are made again.
 set -eu
 [ $# -ge 1 ] || { sed -n '2,5s/^# //p' "$0" >&2; exit 2; }
 mkdir -p "$1"
@@ -31,11 +32,11 @@ for book in "$@"; do
   mkdir -p "$out"
   build/bench/draw_charts "$book" "$out" || continue
   [ -s "$out/charts.tsv" ] || { rm -rf "$out"; continue; }
-  # LibreOffice's pictures of a book that is older than them are kept
+  # LibreOffice's pictures are kept if they are newer than the workbook
   [ ! "$out/pairs.pdf" -nt "$book" ] || continue
   scripts/chart-pages.py "$book" "$out/charts.tsv" "$out/pairs.xlsx"
   scripts/print.sh "$out/pairs.xlsx" "$out" || continue
-  # a page may be larger than its chart, as sheets end with a cell
+  # a page may be larger than its chart, because sheets end with a whole cell
   while IFS='	' read -r number _ width height _; do
     size=$(awk -v w="$width" -v h="$height" 'BEGIN { printf "-W %d -H %d", w * 2 + 1, h * 2 + 1 }')
     # shellcheck disable=SC2086

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the tables of docs/architecture.md anew from docs/rooms.tsv."""
+"""Writes the tables of docs/architecture.md again from docs/rooms.tsv."""
 
 import pathlib
 import re

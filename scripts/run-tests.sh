@@ -1,6 +1,6 @@
 #!/bin/sh
-# Runs programs of tests, each in as many parts at once as there are processors, and says how many tests passed. A
-# process for each test, as ctest has it, takes longer to start than most tests take, above all under the sanitizers.
+# Runs test programs, each split into one part per processor, and prints how many tests passed. One process per test, as
+# ctest starts them, takes longer than most tests, above all under the sanitizers.
 # Usage: scripts/run-tests.sh PROGRAM...
 set -eu
 parts=$(nproc)
@@ -21,10 +21,10 @@ for program; do
     count=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) tests\{0,1\}\.$/\1/p' "$logs/$part")
     wrong=$(grep -c '^\[  FAILED  \] ' "$logs/$part" || true)
     code=$(cat "$logs/$part.code")
-    # without failures there is nothing to see but the lines that count
+    # without failures, only the lines with the counts are printed
     [ "$code" -eq 0 ] || cat "$logs/$part"
     [ "$code" -eq 0 ] || [ "$wrong" -gt 0 ] || {
-      echo "FAILED: $program ended before its end"
+      echo "FAILED: $program stopped before its last test"
       wrong=1
     }
     passed=$((passed + ${count:-0}))

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Removes what the last installation put in place, by the list that it left; DESTDIR as it was then.
+# Removes the installed files that are listed by the last installation. DESTDIR must be the same as then.
 # Usage: scripts/uninstall.sh [LIST]
 set -eu
 cd "$(dirname "$0")/.."
@@ -12,7 +12,7 @@ root=${DESTDIR:-}
 while IFS= read -r file || [ -n "$file" ]; do
   rm -f -- "$root$file"
 done <"$list"
-# The folders of the pages and of the library are the only ones that belong to nothing else.
+# Only the folders of the pages and of the library belong to Plotsmith alone.
 sed -n -e 's|^\(.*/doc/plotsmith\)/.*|\1|p' -e 's|^\(.*/lib/plotsmith\)/.*|\1|p' "$list" | sort -u | while IFS= read -r folder; do
   if [ -d "$root$folder" ]; then find "$root$folder" -depth -type d -empty -delete; fi
 done

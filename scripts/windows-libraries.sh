@@ -1,6 +1,6 @@
 #!/bin/sh
 # Builds the libraries for Windows from the sources of the Debian packages that the Linux build uses, into
-# build/windows-libraries/<triple>. Nothing is done if the libraries of these versions are there already.
+# build/windows-libraries/<triple>. Does nothing if the libraries of these versions exist already.
 # Usage: scripts/windows-libraries.sh [x64|x86]...
 set -eu
 cd "$(dirname "$0")/.."
@@ -10,9 +10,9 @@ folder=$root/build/windows-libraries
 scripts/install-dependencies.sh $(cat scripts/windows-packages.txt)
 
 sources="pugixml expat utf8proc libzip libisal"  # names of source packages
-headers="libcli11-dev nlohmann-json3-dev"        # packages that have headers and nothing to build
+headers="libcli11-dev nlohmann-json3-dev"        # packages that contain only headers
 
-# apt-get and its kin with a list of sources, and folders, of our own; the system's stay as they are.
+# Runs an apt command with its own list of sources and its own folders; the system's are not changed.
 apt() {
   program=$1
   shift
@@ -26,13 +26,13 @@ fetch_index() {
     'Created-By: Packages' 'Origin: Debian' |
     sed 's|KEYS|/usr/share/keyrings/debian-archive-keyring.gpg|' | sort -u >"$folder/apt/sources.list"
   [ -s "$folder/apt/sources.list" ] || {
-    echo "windows-libraries.sh: apt knows no package list of Debian (apt-get update would fetch them)" >&2
+    echo "windows-libraries.sh: apt has no package lists of Debian; apt-get update fetches them" >&2
     exit 1
   }
   apt get update
 }
 
-# Unpacks a source package in the newest version that can be had: NAME. A mirror may lack the newest.
+# Unpacks a source package in the newest version that is available: NAME. A mirror may lack the newest.
 fetch_source() {
   for version in $(apt cache madison "$1" | sed -n 's/^[^|]*| *\([^ ]*\) |.*Sources$/\1/p'); do
     apt get source --download-only --only-source "$1=$version" 2>"$folder/apt/error.log" || continue
@@ -49,19 +49,19 @@ fetch_sources() {
   mkdir -p "$folder/source"
   fetch_index
   for name in $sources; do (cd "$folder/source" && fetch_source "$name"); done
-  # Debian's later patches want these with a value, which only the configure script gives them
+  # Debian's later patches need values for these, which only the configure script sets
   sed -i 's/^#cmakedefine XML_DTD$/#define XML_DTD 1/' "$folder/source/expat/expat/expat_config.h.cmake"
   echo "$versions" >"$folder/source/versions.txt"
 }
 
-# Runs a command whose output matters only if it fails: LOG COMMAND...
+# Runs a command and prints its output only if it fails: LOG COMMAND...
 logged() {
   log=$1
   shift
   "$@" >>"$log" 2>&1 || { tail -n 30 "$log" >&2; exit 1; }
 }
 
-# Builds and installs a library by its CMake files: SOURCE NAME OPTION...
+# Builds and installs a library with CMake: SOURCE NAME OPTION...
 build_with_cmake() {
   source=$1 name=$2
   shift 2
@@ -71,7 +71,7 @@ build_with_cmake() {
   logged "$work/$name.log" cmake --build "$work/$name" --target install
 }
 
-# pkg-config's file for a library that is linked statically: NAME VERSION LIBRARIES [DEFINITION].
+# Writes pkg-config's file for a static library: NAME VERSION LIBRARIES [DEFINITION].
 describe() {
   mkdir -p "$prefix/lib/pkgconfig"
   printf 'Name: %s\nDescription: %s\nVersion: %s\nLibs: -L%s %s\nCflags: -I%s %s\n' "$1" "$1" "$2" "$prefix/lib" "$3" \
@@ -81,9 +81,9 @@ describe() {
 build_isal() {
   rm -rf "$work/libisal"
   cp -r "$folder/source/libisal" "$work/libisal"
-  # the assembler files are for x64 alone
+  # the assembler files are for x64 only
   [ "$word" = x64 ] && kind="arch=mingw host_cpu=x86_64 AS=nasm" || kind="arch=noarch host_cpu=base_aliases"
-  # it knows how each compiler swaps bytes, but for this one
+  # the sources define byte swaps for all compilers but this one
   swaps="isal_bswap16=__builtin_bswap16 isal_bswap32=__builtin_bswap32 isal_bswap64=__builtin_bswap64"
   # shellcheck disable=SC2086  # words
   logged "$work/libisal.log" make -C "$work/libisal" -f Makefile.unx -j"$(nproc)" $kind D="$swaps" \
@@ -93,7 +93,7 @@ build_isal() {
   cp "$work"/libisal/include/*.h "$prefix/include/isa-l/"
 }
 
-# Takes over the files that a Debian package has of headers and CMake: PACKAGE.
+# Copies the headers and CMake files of a Debian package: PACKAGE.
 copy_headers() {
   dpkg -L "$1" | grep -E '^/usr/(include|share/cmake|lib/cmake|share/pkgconfig)/' | while read -r file; do
     [ -f "$file" ] || continue
@@ -102,7 +102,7 @@ copy_headers() {
   done
 }
 
-# Sets what is true of an architecture: x64 or x86.
+# Sets the variables of an architecture: x64 or x86.
 choose() {
   word=$1
   case $word in
@@ -126,7 +126,7 @@ build() {
     -DBUILD_TOOLS=OFF -DBUILD_REGRESS=OFF -DBUILD_EXAMPLES=OFF -DBUILD_DOC=OFF
   build_with_cmake /usr/src/googletest googletest -DBUILD_GMOCK=OFF
   build_isal
-  # beside it in its own folder lies the library for zlib1.dll, which CMake would take first
+  # its own folder also contains the import library of zlib1.dll, which CMake would prefer
   cp "/usr/$triple/lib/libz.a" "$prefix/lib/"
   describe pugixml 1 -lpugixml
   describe expat 1 -lexpat -DXML_STATIC
@@ -137,7 +137,7 @@ build() {
   echo "$versions" >"$prefix/versions.txt"
 }
 
-# what the libraries are made of: these packages, and the way it is done
+# the inputs of the libraries: these packages, and this script
 # shellcheck disable=SC2086  # a list of words
 versions=$(dpkg-query -W -f='${Package} ${Version}\n' libpugixml-dev libexpat1-dev libutf8proc-dev libzip-dev libisal-dev \
   $headers googletest libz-mingw-w64-dev g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix &&
@@ -149,7 +149,7 @@ for word in ${*:-x64 x86}; do
 done
 [ -n "$missing" ] || exit 0
 fetch_sources
-# all architectures at once: most of the time goes into what configures, which has one process each
+# all architectures are built at the same time, because configuration takes most of the time and uses one processor each
 builders=
 for word in $missing; do
   (choose "$word" && build) &

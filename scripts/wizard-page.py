@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Plays the scripts of docs/wizard.md one after the other, and puts what they print into the blocks behind them.
+"""Plays the scripts of docs/wizard.md one after the other, and writes their output into the blocks after them.
+
 Usage: scripts/wizard-page.py PLOTSMITH"""
 import re, shutil, subprocess, sys, tempfile
 from pathlib import Path

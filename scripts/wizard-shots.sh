@@ -1,6 +1,6 @@
 #!/bin/sh
-# Takes the pictures of the wizard's pages anew, light and dark, at scale 1 and 2.
-# Usage: scripts/wizard-shots.sh [BUILD [FOLDER]]; FOLDER is docs/images/wizard unless it is given.
+# Takes the pictures of the wizard's pages again, light and dark, at scales 1 and 2.
+# Usage: scripts/wizard-shots.sh [BUILD [FOLDER]]; the default FOLDER is docs/images/wizard.
 set -eu
 cd "$(dirname "$0")/.."
 build=${1:-build}
@@ -18,7 +18,7 @@ book=$work/orders.xlsx
 "$build/plotsmith" new "$book" --table Data1 --type bubble --title "Cost and amount" --categories Region \
   --series Product --values Amount --x-values Cost --sizes Units --new-sheet "Costs"
 
-# a screen that has room for all pages at scale 2
+# a screen that is large enough for all pages at scale 2
 cat > "$work/screen.json" <<'END'
 {"screens": [{"name": "one", "x": 0, "y": 0, "width": 2732, "height": 1536, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]}
 END

@@ -1,9 +1,9 @@
 Attribute VB_Name = "VEXEvents"
 Option Explicit
 
-' Plotsmith runs these two macros, by their names, before and after its work: without an argument around a refresh of
-' several charts, and with the chart's id around the build of each. A host that has no use for them leaves them out.
-' They must not call Plotsmith, which is at work then.
+' Plotsmith runs these two macros, by name, before and after its work: without an argument for a refresh of several charts,
+' and with the chart's id for the build of each chart. They are optional. They must not call Plotsmith, because an operation
+' is running then.
 
 Public Sub VEXChartRefreshStarted(Optional ByVal chartId As Variant)
     If IsMissing(chartId) Then

@@ -10,34 +10,34 @@ function PlotsmithAddIn(excel, helpFile) {
   this.excel = excel;
   this.helpFile = helpFile || this.installedHelp();
   this.controller = new ActiveXObject("Plotsmith.CPlotsmithController");
-  this.staysWithBook = false;  // whether Plotsmith stays with a workbook
-  this.lastBook = null;        // that workbook
+  this.staysWithBook = false;  // true while Plotsmith keeps a workbook
+  this.lastBook = null;        // the workbook that it keeps
 }
 
-// What Plotsmith puts in front of its own name in the title of its error boxes.
+// The name that precedes Plotsmith's own in the titles of error messages.
 PlotsmithAddIn.prototype.name = "My Add-in";
 
-// The wizard on the active workbook.
+// Opens the wizard on the active workbook.
 PlotsmithAddIn.prototype.charts = function() {
   this.controller.RunPlotsmith(this.excel, this.name, this.helpFile);
   this.letGo();
 };
 
-// All charts of the active workbook.
+// Refreshes all charts of the active workbook.
 PlotsmithAddIn.prototype.refresh = function() {
   this.controller.RefreshPlotsmithData(this.excel, this.name, this.helpFile);
   this.letGo();
 };
 
-// Plotsmith has let go of its workbook.
+// Notes that Plotsmith no longer keeps a workbook.
 PlotsmithAddIn.prototype.letGo = function() {
   this.staysWithBook = false;
   this.lastBook = null;
 };
 
-// The charts over one table of the active workbook. Plotsmith stays with the workbook of the first such call until all
-// charts of one are refreshed, so a change of the workbook takes that. A file that was closed and opened again is
-// another workbook, though its name is the same.
+// Refreshes the charts of one table in the active workbook. Plotsmith keeps the workbook of the first such call until
+// all charts of a workbook are refreshed, so that is done first if the workbook has changed. A file that was closed and
+// opened again is a different workbook, even with the same name.
 PlotsmithAddIn.prototype.refreshTable = function(table) {
   var book = this.excel.ActiveWorkbook;
   if (this.staysWithBook && this.lastBook !== book) this.refresh();
@@ -46,7 +46,7 @@ PlotsmithAddIn.prototype.refreshTable = function(table) {
   this.controller.RefreshChartsForTable(this.excel, table);
 };
 
-// The help lies in the folder that Plotsmith's registration names, for one user or for all.
+// Returns the path of the help, which is in the folder that Plotsmith's registration names, for one user or for all.
 PlotsmithAddIn.prototype.installedHelp = function() {
   var entry = "HKEY_CLASSES_ROOT\\TypeLib\\{F04CE731-6B84-4BED-A04E-E3FE9C127813}\\1.0\\HELPDIR\\";
   try {

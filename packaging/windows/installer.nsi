@@ -1,8 +1,8 @@
-; PlotsmithSetup.exe. make-setup.sh defines PRODUCT, PUBLISHER and VERSION, SETUP, the file that is made, FILES, the folder
-; of all that is installed, SIZE, its size in kilobytes, and LISTS, a file of macros that name its files.
+; PlotsmithSetup.exe. make-setup.sh defines PRODUCT, PUBLISHER and VERSION; SETUP, the output file; FILES, the folder with
+; all installed files; SIZE, its size in kilobytes; and LISTS, a file of macros that list its files.
 ;
 ; PlotsmithSetup.exe [/S] [/CurrentUser | /AllUsers] [/D=FOLDER]
-; It exits with 0 if Plotsmith is installed, with 1 if the person ended it, and with 2 if it could not be installed.
+; It exits with 0 if Plotsmith is installed, with 1 if the user cancelled, and with 2 if it could not be installed.
 
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -20,7 +20,7 @@ ShowUninstDetails nevershow
 !define MULTIUSER_EXECUTIONLEVEL Highest
 !define MULTIUSER_USE_PROGRAMFILES64
 !define MULTIUSER_INSTALLMODE_INSTDIR Plotsmith
-; A second installation goes where the first one went, unless it is told otherwise.
+; A second installation uses the folder of the first one, unless another folder is given.
 !define MULTIUSER_INSTALLMODE_DEFAULT_CURRENTUSER
 !define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_KEY "${ENTRY}"
 !define MULTIUSER_INSTALLMODE_DEFAULT_REGISTRY_VALUENAME DisplayVersion
@@ -57,14 +57,15 @@ Function ShowFirstSteps
   Exec '"$WINDIR\explorer.exe" "$INSTDIR\excel.html"'
 FunctionEnd
 
-; Ends the program. A silent run has no boxes, and only exits with 2.
+; Ends the program. A silent run shows no message and only exits with 2.
 !macro StopWith TEXT
   MessageBox MB_OK|MB_ICONSTOP "${TEXT}" /SD IDOK
   SetErrorLevel 2
   Quit
 !macroend
 
-; Waits until a file of the installation can be changed: a component that Excel has loaded can't be. FOLDER may lack it.
+; Waits until a file of the installation can be changed. A component that Excel has loaded can't be changed. The file may be
+; missing in FOLDER.
 !macro WaitForFile FOLDER FILE
   ${If} ${FileExists} "${FOLDER}\${FILE}"
     ${Do}
@@ -84,7 +85,7 @@ FunctionEnd
 !macroend
 
 Function .onInit
-  ; The choice of users below sets a folder of its own, also where the command line names one.
+  ; The selection of users below sets its own folder, even if the command line gives one.
   Push $INSTDIR
   !insertmacro MULTIUSER_INIT
   ${GetParameters} $0
@@ -107,7 +108,7 @@ Function .onInit
   ${EndIf}
 FunctionEnd
 
-; Removes the version that is installed for the same users, wherever it is, so that none of its files stays behind.
+; Removes the version that is installed for the same users, in any folder, so that none of its files remains.
 Function RemoveOlderVersion
   ReadRegStr $R0 SHCTX "${ENTRY}" InstallLocation
   ${If} $R0 == ""
@@ -115,7 +116,7 @@ Function RemoveOlderVersion
     Return
   ${EndIf}
   !insertmacro WaitForFiles $R0
-  ; With its folder behind _? it works in place, and can be waited for; then it can't delete itself.
+  ; With its folder after _?= the uninstaller runs in place, so that this program can wait for it; it can't delete itself then.
   ExecWait '"$R0\Uninstall.exe" /S _?=$R0' $0
   ${If} $0 != 0
     !insertmacro StopWith "The version of ${PRODUCT} in $R0 can't be removed."
@@ -155,7 +156,7 @@ SectionEnd
 
 Var OneUser  ; whether the installation is that of one user
 
-; It is that of all users if they have it in the uninstaller's own folder.
+; It is the installation for all users if that one is in the uninstaller's own folder.
 Function un.onInit
   SetShellVarContext current
   StrCpy $OneUser yes
@@ -178,12 +179,12 @@ Section Uninstall
   Delete "$SMPROGRAMS\Plotsmith\Plotsmith for Excel.lnk"
   Delete "$SMPROGRAMS\Plotsmith\Plotsmith Help.lnk"
   RMDir "$SMPROGRAMS\Plotsmith"
-  ; What a person has put into the folder stays there.
+  ; The user's own files in the folder are kept.
   !insertmacro DeleteFiles
   Delete "$INSTDIR\Uninstall.exe"
   RMDir "$INSTDIR"
   DeleteRegKey SHCTX "${ENTRY}"
-  ; What belongs to all programs of a user may be there for this one alone.
+  ; Common keys of all programs of a user may exist only because of this program.
   ${If} $OneUser == yes
     !insertmacro RemoveEmptyLists
     DeleteRegKey /ifempty HKCU "Software\Microsoft\Windows\CurrentVersion\Uninstall"

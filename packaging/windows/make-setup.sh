@@ -1,7 +1,7 @@
 #!/bin/sh
-# Makes an installer for Windows of all files of a folder, with NSIS. scripts/installer.sh fills the folder.
+# Makes an installer for Windows from all files of a folder, with NSIS. scripts/installer.sh fills the folder.
 # Usage: packaging/windows/make-setup.sh FOLDER SETUP.exe [VERSION]
-# The version is the project's, unless a test of an upgrade gives another one.
+# The default is the project's version; tests of an upgrade give another one.
 set -eu
 
 case $# in
@@ -11,15 +11,15 @@ esac
 files=$(realpath "$1")
 setup=$(realpath "$2")
 cd "$(dirname "$0")/../.."
-facts=build-windows-x64/src/windows/generated/Plotsmith.rc  # the resources of Plotsmith.dll
+facts=build-windows-x64/src/windows/generated/Plotsmith.rc  # resources of Plotsmith.dll
 [ -f "$facts" ] || { echo "make-setup.sh: $facts isn't there; scripts/installer.sh builds it" >&2; exit 1; }
 lists=$(mktemp)
 trap 'rm -f "$lists"' EXIT
 
-# What the DLL says of itself: NAME.
+# Prints a value of the DLL's version resource: NAME.
 fact() { sed -n "s/.*VALUE \"$1\", \"\(.*\)\"/\1/p" "$facts"; }
 
-# What installer.nsi must do with each file.
+# Prints what installer.nsi has to do with each file.
 list_files() {
   echo '!macro DeleteFiles'
   find . -mindepth 1 -depth -type f -printf '  Delete "$INSTDIR/%P"\n' -o -printf '  RMDir "$INSTDIR/%P"\n'

@@ -1,5 +1,6 @@
-; The entries by which clients find the component: those that regsvr32 makes each DLL write, for both DLLs, below the
-; root of all users or of one. They are written here because one program must do it for 64 and for 32 bits.
+; The registry entries by which clients find the component. They are the same that each DLL writes for regsvr32, for both
+; DLLs, below the root of all users or of one user. They are written here because one program must write the entries for 64
+; and for 32 bits.
 
 !define CONTROLLER "Plotsmith.CPlotsmithController"
 !define CONTROLLER_TITLE "Plotsmith's controller"
@@ -8,10 +9,10 @@
 !define INTERFACE_KEY "Software\Classes\Interface\{95DC0874-0F63-4B7B-97E4-0A487C3BF061}"
 !define LIBRARY_ID "{F04CE731-6B84-4BED-A04E-E3FE9C127813}"
 !define LIBRARY_KEY "Software\Classes\TypeLib\${LIBRARY_ID}"
-; The class of OLE Automation that carries the calls of all dual interfaces between apartments.
+; The class of OLE Automation that marshals the calls of all dual interfaces between apartments.
 !define AUTOMATION_PROXY "{00020424-0000-0000-C000-000000000046}"
 
-; Windows keeps the names and the type library once for programs of all bits, and the class and the interface twice.
+; Windows has one copy of the names and the type library for 32-bit and 64-bit programs, and two of the class and interface.
 !macro RegisterLibrary BITS PLATFORM DLL
   SetRegView ${BITS}
   WriteRegStr SHCTX "${CLASS_KEY}" "" "${CONTROLLER_TITLE}"
@@ -29,7 +30,7 @@
   WriteRegStr SHCTX "Software\Classes\${CONTROLLER}\CurVer" "" "${CONTROLLER}.1"
   WriteRegStr SHCTX "${LIBRARY_KEY}\1.0" "" "${PRODUCT}"
   WriteRegStr SHCTX "${LIBRARY_KEY}\1.0\FLAGS" "" "0"
-  ; An add-in reads here where Plotsmith.chm is.
+  ; Add-ins read the folder of Plotsmith.chm here.
   WriteRegStr SHCTX "${LIBRARY_KEY}\1.0\HELPDIR" "" "$INSTDIR"
   WriteRegStr SHCTX "${LIBRARY_KEY}\1.0\0\${PLATFORM}" "" "${DLL}"
   WriteRegStr SHCTX "${INTERFACE_KEY}" "" "IPlotsmithController"
@@ -43,7 +44,7 @@
   !insertmacro RegisterLibrary 64 win64 "$INSTDIR\x64\Plotsmith.dll"
 !macroend
 
-; A DLL that regsvr32 has registered from another folder since keeps its entries.
+; A DLL that regsvr32 has registered from another folder meanwhile keeps its entries.
 !macro UnregisterLibrary BITS PLATFORM DLL
   SetRegView ${BITS}
   ReadRegStr $0 SHCTX "${CLASS_KEY}\InprocServer32" ""
@@ -57,7 +58,7 @@
   ${EndIf}
 !macroend
 
-; Removes what no DLL of either bits needs any more.
+; Removes the entries that neither DLL needs any more.
 !macro UnregisterShared BITS
   SetRegView 32
   ReadRegStr $0 SHCTX "${CLASS_KEY}\InprocServer32" ""
@@ -81,7 +82,7 @@
   !insertmacro UnregisterShared 64
 !macroend
 
-; Removes the lists of classes of a user who has none.
+; Removes the lists of classes of a user if they are empty.
 !macro RemoveEmptyListsOf BITS
   SetRegView ${BITS}
   DeleteRegKey /ifempty HKCU "Software\Classes\CLSID"

@@ -9,13 +9,14 @@
 namespace plotsmith_fault {
 namespace {
 
-/// The number of the fault that is on; 0 without one.
+/// Returns the number of the active fault; 0 for none.
 int Active() {
   const char* number = std::getenv("PLOTSMITH_FAULT");
   return number == nullptr ? 0 : std::atoi(number);
 }
 
-/// Appends "fault TAB test" to the file that the environment names, once for each pair in a row.
+/// Appends "fault TAB test" to the file that the environment names. A fault that the same test reaches again
+/// isn't repeated.
 void Record(int fault) {
   static std::FILE* const file = [] {
     const char* path = std::getenv("PLOTSMITH_FAULTS_RECORD");

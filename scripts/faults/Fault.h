@@ -2,12 +2,13 @@
 
 #include <utility>
 
-/// What scripts/mutate.py writes into copies of the sources: each place computes what the source says, or,
-/// while its fault is on, something else. One program so has all faults, and a run of it has one of them at
-/// most.
+/// The functions that scripts/mutate.py writes into copies of the sources. Each place computes what the
+/// source says, unless its fault is active. One program so contains all faults, and at most one of them is
+/// active in a run.
 namespace plotsmith_fault {
 
-/// Returns true if the fault of this number is on. Notes the test that came here when the run records.
+/// Returns true if the fault with this number is active. If the run records, it also notes which test came
+/// here.
 bool On(int fault);
 
 template <class T>
@@ -15,19 +16,19 @@ T Pick(int fault, T right, T wrong) {
   return On(fault) ? wrong : right;
 }
 
-/// `a && b`, or `a || b` while the fault is on.
+/// Computes `a && b`, or `a || b` if the fault is active.
 template <class Second>
 bool And(int fault, bool first, const Second& second) {
   return On(fault) ? first || second() : first && second();
 }
 
-/// `a || b`, or `a && b` while the fault is on.
+/// Computes `a || b`, or `a && b` if the fault is active.
 template <class Second>
 bool Or(int fault, bool first, const Second& second) {
   return On(fault) ? first && second() : first || second();
 }
 
-/// Stands between two operators: `a < At<5>() < b` is `a < b`, or `a <= b` while fault 5 is on.
+/// Is placed between two operators: `a < At<5>() < b` is `a < b`, or `a <= b` if fault 5 is active.
 template <int fault>
 struct At {};
 
@@ -62,7 +63,8 @@ Left<fault, T> operator+(T&& left, At<fault>) {
   return {std::forward<T>(left)};
 }
 
-/// `a + b`, or `a - b` while the fault is on; of texts, which can't be subtracted, `a`.
+/// Computes `a + b`, or `a - b` if the fault is active. For texts, which can't be subtracted, the fault gives
+/// `a`.
 template <int fault, class T, class U>
 auto operator+(Left<fault, T>&& left, U&& right) {
   using Result = std::decay_t<decltype(std::forward<T>(left.value) + std::forward<U>(right))>;

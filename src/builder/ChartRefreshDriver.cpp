@@ -54,8 +54,8 @@ class QuietHost {
     oApplication->SetScreenUpdating(false);
   }
 
-  /// Restores them after an error as well: calculation if Enter has set it, and screen updating unless it
-  /// was already off.
+  /// Restores both after an error as well: calculation if Enter has set it, and screen updating unless it was
+  /// already off.
   void Leave() {
     IgnoreErrors(
         [&] {
@@ -113,7 +113,7 @@ void DeleteAllSeries() {
   });
 }
 
-/// False for an unknown chart type.
+/// Returns false for an unknown chart type.
 bool DrawFamily(const IXMLDOMElement& oChartElement) {
   if (mChartType == "area" || mChartType == "bar" || mChartType == "column") {
     PopulateABCChart(oChartElement);
@@ -142,7 +142,7 @@ void BuildChart(IXMLDOMElement& oChartElement, bool bCrosshatched) {
   if (!PopulateDataSheetOffi2007(oChartElement)) return;
   if (!SortDataSheet(oChartElement)) return;
   RetrievePersistedProperties(oChartElement);
-  // Otherwise the fonts of this chart would scale with its frame.
+  // Without this, the fonts of the chart would scale with its frame.
   if (!mNewOrCopiedChart) mChart->ChartArea()->SetAutoScaleFont(false);
   if (!DrawFamily(oChartElement)) {
     ShowMessage(std::string("PSChartBuilder.PopulateChart") + kLineBreak + "Unknown chart type");
@@ -151,7 +151,7 @@ void BuildChart(IXMLDOMElement& oChartElement, bool bCrosshatched) {
   SetChartComment(oChartElement);
   if (mNewOrCopiedChart) {
     mChart->PlotArea()->Interior()->SetColorIndex(excel::xlColorIndexNone);
-    mChart->PlotArea()->Border()->SetLineStyle(0);  // 0 is not a line style of Excel and removes the line
+    mChart->PlotArea()->Border()->SetLineStyle(0);  // LineStyle 0 isn't one of Excel's, and removes the line
   }
   if (bCrosshatched) {
     oChartElement.setAttribute("chart-area-crosshatched", "no");

@@ -32,7 +32,7 @@ constexpr const char* kNoBucketTable =
 constexpr const char* kBucketMismatch =
     "Chart '/TKN/' has become unavailable because its strategic bucket table doesn't match the source table.";
 
-/// The sheet column of the first of `aColumns` with the name, as a text; "" if there is none.
+/// Returns the sheet column of the first of `aColumns` with the name, as a text; "" if there is none.
 std::string ColumnNumber(const dom::IXMLDOMNodeList& aColumns, const std::string& sName, bool bYield) {
   for (const IXMLDOMElement& oColumn : aColumns) {
     if (runtime::EqualsIgnoreCase(GetAttributeText(oColumn, "name"), sName)) {
@@ -48,11 +48,11 @@ bool Fail(const char* sTemplate, std::initializer_list<runtime::Variant> aTokens
   return false;
 }
 
-/// Writes the place of the table into the definition.
+/// Writes the table's position into the definition.
 void StoreTablePlace(IXMLDOMElement& oChartElement, const IXMLDOMElement& oTable) {
   constexpr std::array kPlaces = {"table-top-row", "table-left-column", "table-height", "header-row-count"};
   std::array<std::int32_t, kPlaces.size()> aPlaces;
-  // A table with a broken place raises its error before anything is written.
+  // A table with an invalid position raises its error before anything is written.
   for (std::size_t i = 0; i < kPlaces.size(); ++i) aPlaces[i] = GetAttributeLong(oTable, kPlaces[i]);
   oChartElement.setAttribute("table-worksheet", GetAttributeText(oTable, "table-worksheet"));
   for (std::size_t i = 0; i < kPlaces.size(); ++i) oChartElement.setAttribute(kPlaces[i], aPlaces[i]);
@@ -108,8 +108,8 @@ bool ValidateSourceData(IXMLDOMElement& oChartElement) {
   });
 }
 
-// Only the name decides. The place of the headings doesn't matter, because a column of values may be a label
-// column or a number column.
+// Columns are compared by name only. The position of the headings doesn't matter, because a column of values
+// may be a label column or a number column.
 bool ValidateSourceColumn(IXMLDOMElement& oColumnElement, const IXMLDOMElement& oTableElement,
                           std::string_view /*sHeadingsIn*/) {
   return ReportErrors("PSChartBuilder.ValidateSourceColumn", false, [&] {

@@ -6,14 +6,14 @@
 
 #include "dom/Dom.h"
 
-/// Module PSChartBuilder: checks a definition against the tables as they are now. The places of the table and
-/// of its columns are written into the definition, from which all later steps read them.
+/// Module PSChartBuilder: checks a definition against the current tables. The positions of the table and of
+/// its columns are written into the definition, from which all later steps read them.
 namespace plotsmith {
 
-/// Shows a message and returns False if the chart can't be built.
+/// Checks the definition. Shows a message and returns False if the chart can't be built.
 bool ValidateSourceData(dom::IXMLDOMElement& oChartElement);
-/// Whether the table has a column of that name, of either kind, ignoring case. If so, the sheet column is
-/// written into the chart's column.
+/// Returns True if the table has a column with that name, of either kind, ignoring case. Then writes the
+/// sheet column into the chart's column.
 bool ValidateSourceColumn(dom::IXMLDOMElement& oColumnElement, const dom::IXMLDOMElement& oTableElement,
                           std::string_view sHeadingsIn);
 /// The sheet column of a heading in a bucket table, from 1; 0 if the table doesn't have it. `sColumnKind` is

@@ -83,7 +83,7 @@ std::string SeveralCharts(const ChartNames& charts, const std::vector<std::size_
                           const std::string& name) {
   std::vector<std::string> ids;
   for (const std::size_t place : places) ids.push_back(charts[place].first);
-  return "several charts have the name " + Quoted(name) + ": " + Listed(ids) + "; an id names one of them";
+  return "several charts have the name " + Quoted(name) + ": " + Listed(ids) + "; use the id of one of them";
 }
 
 }  // namespace plotsmith::cli

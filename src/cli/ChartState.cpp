@@ -40,7 +40,7 @@ const char* StateReason(ChartState state) {
     case ChartState::kTable:
       return "The table of the chart was missing or didn't fit when the chart was last refreshed.";
     case ChartState::kUnavailable:
-      return "The chart couldn't be built when it was last refreshed; a refresh says why.";
+      return "The chart couldn't be built when it was last refreshed; a refresh reports the reason.";
     case ChartState::kNotDrawn:
       return "The chart waits for a refresh.";
   }

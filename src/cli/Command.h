@@ -28,6 +28,7 @@ inline constexpr int kFile = 3;
 /// An error of a command: a sentence for the user, and the exit code.
 class CommandError : public std::runtime_error {
  public:
+  /// Makes an error with the exit code of the program and a sentence for the user.
   CommandError(int exitCode, const std::string& sentence)
       : std::runtime_error(sentence), exitCode_(exitCode) {}
   /// The exit code of the command.

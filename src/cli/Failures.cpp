@@ -22,7 +22,7 @@ int Guarded(std::ostream& err, const std::function<int()>& work) {
   } catch (const xlsx::PackageError& e) {
     return fail(e.what(), exit_code::kFile);
   } catch (const std::exception& e) {
-    return fail(std::string("something went wrong: ") + e.what(), exit_code::kFile);
+    return fail(std::string("an unexpected error occurred: ") + e.what(), exit_code::kFile);
   }
 }
 

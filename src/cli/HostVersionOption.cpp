@@ -15,7 +15,7 @@ void DeclareHostVersion(CLI::App& app, double& version) {
            if (!number) throw CLI::ConversionError("Could not convert: " + std::string(kName) + " = " + text);
            version = *number;
          },
-         "Behave as Plotsmith does in this version of Excel; up to 11 and above 11 differ")
+         "Behave like Plotsmith in this version of Excel; versions up to 11 and later ones differ")
       ->type_name("NUMBER")
       ->default_str(runtime::NumberText(version));
 }

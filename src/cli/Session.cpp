@@ -151,7 +151,7 @@ void Session::CheckFree(const std::string& target) const {
 void Session::CheckTable(const std::string& id) const {
   if (!colTables || !colCharts || Book().Damage() || IsTableKnown(id)) return;
   throw CommandError(exit_code::kUsage,
-                     "\"" + path_ + "\" has no table \"" + id + "\" (plotsmith tables lists those it has).");
+                     "\"" + path_ + "\" has no table \"" + id + "\" (plotsmith tables lists its tables).");
 }
 
 void Session::Look(const std::function<void()>& look) const {
@@ -179,9 +179,9 @@ void Session::LookBeforeRun(DefinitionsAre definitions) {
   const RunRefusals refusals = look_->Refusals();
   if (!ReportFindings(refusals.lines)) return;
   throw CommandError(exit_code::kFile,
-                     "nothing was changed, as " +
+                     "nothing was changed, because " +
                          (refusals.lost > 0 ? Counted(refusals.lost, "definition") + " would be lost"
-                                            : "charts could be taken for each other") +
+                                            : "charts could be confused with each other") +
                          "; correct this, or use --drop-broken.");
 }
 

@@ -32,7 +32,7 @@ std::string TablePlace(const Json& facts) {
   return "sheet " + facts["sheet"].get<std::string>() + ", rows " + std::to_string(top) + " to " +
          std::to_string(top + height - 1) + " (" + std::to_string(std::max(height - headers, 0)) +
          " of data), from column " + std::to_string(left) +
-         (facts["bucketCandidate"].get<bool>() ? ", can serve as bucket table" : "");
+         (facts["bucketCandidate"].get<bool>() ? ", can be a bucket table" : "");
 }
 
 }  // namespace plotsmith::cli

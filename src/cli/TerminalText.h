@@ -11,6 +11,7 @@ namespace plotsmith::cli {
 /// but for tabs, line feeds and carriage returns.
 class TerminalText : public std::streambuf {
  public:
+  /// Replaces the buffer of the stream until this object is destroyed. `stream` must outlive it.
   explicit TerminalText(std::ostream& stream);
   ~TerminalText() override;
   TerminalText(const TerminalText&) = delete;

@@ -8,8 +8,8 @@
 
 namespace plotsmith {
 
-/// The surroundings of the component, apart from the spreadsheet. The program that puts the component and a
-/// host together sets them once.
+/// The environment of the component, apart from the spreadsheet program. The program that connects the
+/// component with a host sets it once.
 struct AppObject {
   std::string HelpFile;  ///< opened by the pages' Help buttons
   runtime::Ref<desktop::Desktop> Desktop;

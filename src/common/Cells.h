@@ -9,15 +9,18 @@
 
 namespace plotsmith {
 
-// The reads of one cell; rows and columns count from 1. A failed read is "" for a text and 0 for a number.
+// Functions that read one cell. Rows and columns count from 1. A failed read gives "" for a text and 0 for a
+// number.
 
-/// The cell as `lKind` says, one of the constants of namespace `cell`.
+/// Returns the cell in the form `lKind`, a constant of namespace `cell`.
 runtime::Variant GetCellValue(excel::Worksheet& oSheet, std::int32_t lRow, std::int32_t lColumn,
                               std::int32_t lKind);
-/// The displayed text, without a Variant for loops over many cells. The view is into the sheet or `sScratch`.
+/// Returns the displayed text without a Variant, for loops over many cells. The view refers to the sheet or
+/// to `sScratch`.
 std::string_view GetCellText(excel::Worksheet& oSheet, std::int32_t lRow, std::int32_t lColumn,
                              std::string& sScratch);
-/// The number, without a Variant. A text that reads as a number is that number, other texts are 0.
+/// Returns the number without a Variant. A text that looks like a number counts as that number, other texts
+/// as 0.
 double GetCellDouble(excel::Worksheet& oSheet, std::int32_t lRow, std::int32_t lColumn);
 
 }  // namespace plotsmith

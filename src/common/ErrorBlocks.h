@@ -6,9 +6,9 @@
 #include "common/Messages.h"
 #include "runtime/RuntimeError.h"
 
-/// The ways in which the system handles errors: error blocks (ReportErrors, HandleErrors), statements that
-/// may fail one by one (IgnoreErrors), and reads that turn an error into a value (ValueOr). No other code of
-/// the system has a try block.
+/// The three ways in which the system handles errors: error blocks (ReportErrors, HandleErrors), statements
+/// that may fail one by one (IgnoreErrors), and reads that convert an error to a value (ValueOr). No other
+/// code of the system has a try block.
 namespace plotsmith {
 
 /// The error block of a procedure. An error ends `body` and is shown under the procedure's name.
@@ -39,7 +39,7 @@ void HandleErrors(Body&& body, Handler&& handler) {
   }
 }
 
-/// Runs statements one after the other. A statement that fails ends, and the next one runs.
+/// Runs statements one after the other. If a statement fails, the next one runs.
 template <class... Statements>
 void IgnoreErrors(Statements&&... statements) {
   const auto guard = [](auto&& statement) {
@@ -53,7 +53,7 @@ void IgnoreErrors(Statements&&... statements) {
   (guard(statements), ...);
 }
 
-/// The result of a read, or `vFallback` if the read fails.
+/// Returns the result of a read, or `vFallback` if the read fails.
 template <class Result, class Read>
 Result ValueOr(Result vFallback, Read&& read) {
   try {

@@ -14,7 +14,7 @@ using runtime::Ref;
 
 std::string FormatSampleNumber(const std::string& sNumberFormat) {
   return ValueOr(std::string(kInvalidFormat), [&] {
-    // The cell beside the mark of the sheet is otherwise unused.
+    // The cell next to the sheet's mark is otherwise unused.
     const auto oCell = oWorkbook->Worksheets()->Item(kDefinitionsSheet)->Cells(1, 2);
     oCell->SetValue(12345.6789);
     oCell->SetNumberFormat(sNumberFormat);

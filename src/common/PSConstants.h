@@ -6,14 +6,15 @@ namespace plotsmith {
 
 inline constexpr const char* kProductTitle = "Brindle Plotsmith";
 
-/// The very hidden sheet of the chart definitions. A1 has its mark, and the cells from A2 on have a document
-/// each.
+/// The very hidden sheet of the chart definitions. A1 contains kDefinitionsSheetMark, and each cell from A2
+/// on contains a document.
 inline constexpr const char* kDefinitionsSheet = "VEX_ChartDefinitions";
 inline constexpr const char* kDefinitionsSheetMark = "Plotsmith Version 2.0";
 /// The very hidden sheet of the pivoted data. Each chart has a block of rows on it.
 inline constexpr const char* kDataSheet = "VEX_ChartData";
 
-/// The columns of a block, from 1: the chart's id in each row, the name of the row's category, the series.
+/// The columns of a block, from 1: the chart's id in each row, the name of the row's category, and the
+/// series.
 namespace data_column {
 inline constexpr std::int32_t kId = 1;
 inline constexpr std::int32_t kName = 2;
@@ -40,7 +41,7 @@ inline constexpr std::int32_t kDelete = 3;
 inline constexpr std::int32_t kRefresh = 4;
 }  // namespace method
 
-/// What `GetCellValue` returns: the displayed text, the number, or the value as a text.
+/// The kinds of results of `GetCellValue`: the displayed text, the number, or the value as a text.
 namespace cell {
 inline constexpr std::int32_t kText = 0;
 inline constexpr std::int32_t kDouble = 1;

@@ -14,9 +14,9 @@ namespace plotsmith {
 
 using DocumentCollection = runtime::Collection<dom::IXMLDOMDocument2>;
 
-extern runtime::Ref<excel::Application> oApplication;  ///< the host, which the first call sets for good
-extern std::string sCustomAppName;               ///< the host's name, which the first call sets for good
-extern runtime::Ref<excel::Workbook> oWorkbook;  ///< the workbook that the run works on
+extern runtime::Ref<excel::Application> oApplication;  ///< the host of the first call
+extern std::string sCustomAppName;                     ///< the host's name in the first call
+extern runtime::Ref<excel::Workbook> oWorkbook;        ///< the workbook of the run
 
 extern runtime::Ref<DocumentCollection> colTables;  ///< table documents by table id; Nothing until discovered
 extern runtime::Ref<DocumentCollection> colCharts;  ///< chart documents by chart id; Nothing until loaded
@@ -33,7 +33,7 @@ extern std::string sPendingMessage;      ///< the text of the next ShowMessage w
 extern bool bRunAborted;                 ///< the run ended in an error
 extern bool bUnloadingPage;              ///< the controller, and not the user, is closing a page
 
-/// Resets all of them, with the host, to their values at the start of the component.
+/// Resets all of these variables, including the host, to their values at the start of the component.
 void ResetRunVariables();
 
 }  // namespace plotsmith

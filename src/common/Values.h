@@ -12,15 +12,15 @@
 
 namespace plotsmith {
 
-/// The value as a Boolean. A value that can't be converted is False.
+/// Returns the value as a Boolean; False if it can't be converted.
 bool SafeBool(const runtime::Variant& vValue);
-/// The value as a string. A value that can't be converted is "".
+/// Returns the value as a string; "" if it can't be converted.
 std::string SafeString(const runtime::Variant& vValue);
-/// Whether the list has the value. The comparison is case-sensitive.
+/// Returns True if the list contains the value. The comparison is case-sensitive.
 bool ArrayContains(std::string_view sValue, std::span<const std::string_view> aValues);
 
-/// Whether the collection has the key. Only error 5 of the read means that the key is missing; any other
-/// error counts as present.
+/// Returns True if the collection has the key. Only error 5 of the read means that the key is missing; any
+/// other error means that it exists.
 template <class T>
 bool CollectionHasKey(std::string_view sKey, const runtime::Ref<runtime::Collection<T>>& oCollection) {
   bool bHas = true;

@@ -9,19 +9,21 @@
 
 namespace plotsmith {
 
-/// Whether `oWorkbook` has a sheet of the name, ignoring case.
+/// Returns True if `oWorkbook` has a sheet with the name, ignoring case.
 bool SheetExists(std::string_view sName);
-/// Whether `oWorkbook` has a worksheet of the name that isn't hidden. A very hidden sheet counts as visible.
+/// Returns True if `oWorkbook` has a worksheet with the name that isn't hidden. A very hidden sheet counts as
+/// visible.
 bool SheetIsVisible(std::string_view sName);
-/// Adds a worksheet before the first sheet (`lPosition` 0), after the last (1) or where the host puts it.
-/// `lVisible` is a member of XlSheetVisibility; the active sheet changes only for a visible one. False if the
-/// host refuses; no sheet is left behind then.
+/// Adds a worksheet before the first sheet (`lPosition` 0), after the last one (1) or at the host's default
+/// position. `lVisible` is a member of XlSheetVisibility; the active sheet changes only for a visible one.
+/// Returns False, and leaves no sheet, if the host refuses.
 bool CreateSheet(const std::string& sName, std::int32_t lPosition, std::int32_t lVisible);
-/// Deletes a row, from 1. False if the host refuses.
+/// Deletes a row, counted from 1. Returns False if the host refuses.
 bool DeleteSheetRow(const runtime::Ref<excel::Worksheet>& oSheet, std::int32_t lRow);
-/// Inserts an empty row, from 1. An error is reported and ends here.
+/// Inserts an empty row, counted from 1. An error is reported and not passed on.
 void InsertSheetRow(const runtime::Ref<excel::Worksheet>& oSheet, std::int32_t lRow);
-/// The sheet of `oWorkbook` of the name; error 13 if it has no cells, error 9 if there is none.
+/// Returns the sheet of `oWorkbook` with the name. Raises error 13 if it has no cells, and error 9 if it
+/// doesn't exist.
 runtime::Ref<excel::Worksheet> SheetWithCells(std::string_view sName);
 
 }  // namespace plotsmith

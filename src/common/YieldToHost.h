@@ -2,9 +2,9 @@
 
 namespace plotsmith {
 
-/// Lets the host handle its events, at most once in two seconds. Long loops call this.
+/// Lets the host handle its events, at most every two seconds. Long loops call this.
 void YieldToHost();
-/// Forgets when YieldToHost last did so.
+/// Resets the time of the last call, so that the next YieldToHost yields at once.
 void ResetYield();
 
 }  // namespace plotsmith

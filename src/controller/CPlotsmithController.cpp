@@ -24,8 +24,8 @@ void SetHostContext(const Ref<excel::Application>& oHost, const std::string& sNa
   if (sCustomAppName.empty()) sCustomAppName = sName;
 }
 
-/// Returns true if the user edits a cell or an object. Excel has no query for this, but it then refuses to
-/// change Interactive.
+/// Returns true if the user is editing a cell or an object. Excel has no query for this, but it then refuses
+/// to change Interactive.
 bool HostIsEditing(const Ref<excel::Application>& oHost) {
   return ValueOr(true, [&] {
     if (!oHost->Interactive()) return false;

@@ -141,7 +141,7 @@ bool IXMLDOMDocument2::loadXML(std::string_view xml) {
     return false;
   }
   if (NestsDeeperThan(parsed, kDeepest)) {
-    tree_->error = {"elements nest deeper than " + std::to_string(kDeepest), 1, 1};
+    tree_->error = {"elements are nested deeper than " + std::to_string(kDeepest), 1, 1};
     return false;
   }
   // Declarations and document types can't be below the tree's own root, and the system doesn't need them.

@@ -5,7 +5,7 @@
 
 /// @file
 /// The characters that XML can contain, literally or as character references. A text with any other character
-/// can't be parsed again, however it was written.
+/// can't be parsed again, in whichever form it is written.
 namespace plotsmith::dom {
 
 /// Returns true if XML can contain the character. Excluded are most control characters, halves of surrogate

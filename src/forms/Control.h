@@ -147,6 +147,7 @@ class FontControl : public Control {
 /// A control with a caption. "&" precedes the letter that selects the control together with Alt.
 class CaptionControl : public FontControl {
  public:
+  /// Makes a control with a caption. See Control for the other parameters.
   CaptionControl(Form& form, const char* name, Control* container, std::string caption)
       : FontControl(form, name, container), caption_(std::move(caption)) {}
 

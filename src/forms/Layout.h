@@ -11,6 +11,7 @@ namespace plotsmith::forms {
 
 /// A part of a form: a control, or several parts together.
 struct Layout {
+  /// The kind of a part.
   enum class Kind {
     kRow,      ///< Side by side, in reading direction.
     kColumn,   ///< Below each other.

@@ -66,8 +66,8 @@ bool ComboBox::UserChoose(std::int32_t index) {
 
 std::string ComboBox::ObstacleTo(std::string_view text) const {
   if (style_ == ComboStyle::kDropDownList) return "can't be typed into";
-  if (text.find_first_of("\r\n") != std::string_view::npos) return "takes one line";
-  return HasControlCharacters(text) ? "takes no control characters" : "";
+  if (text.find_first_of("\r\n") != std::string_view::npos) return "accepts only one line";
+  return HasControlCharacters(text) ? "accepts no control characters" : "";
 }
 
 bool ComboBox::UserType(std::string_view text) {

@@ -13,6 +13,7 @@ namespace plotsmith::forms {
 /// The base class of combo boxes and list boxes: entries, of which one can be the current entry.
 class EntryList : public FontControl {
  public:
+  /// Makes an empty list. See Control for the parameters.
   EntryList(Form& form, const char* name, Control* container) : FontControl(form, name, container) {
     SetBackColor(kWhite);
   }
@@ -52,6 +53,7 @@ enum class ComboStyle {
 /// A combo box: a text box with a drop-down list.
 class ComboBox : public EntryList {
  public:
+  /// Makes an empty combo box. See Control for the other parameters.
   ComboBox(Form& form, const char* name, Control* container, ComboStyle style)
       : EntryList(form, name, container), style_(style) {}
   const char* TypeName() const override { return "ComboBox"; }
@@ -89,6 +91,7 @@ enum class MultiSelect {
 /// A list box.
 class ListBox : public EntryList {
  public:
+  /// Makes an empty list box. See Control for the other parameters.
   ListBox(Form& form, const char* name, Control* container, forms::MultiSelect multiSelect)
       : EntryList(form, name, container), multiSelect_(multiSelect) {}
   const char* TypeName() const override { return "ListBox"; }

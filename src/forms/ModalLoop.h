@@ -64,10 +64,10 @@ class ModalLoop {
   /// The stack that the last of them needs for its own work and for a report, in bytes.
   static constexpr std::size_t kStackOfForm = std::size_t{128} * 1024;
 
-  /// Loads a form, if it isn't loaded yet, and shows it in front of the others. Returns when the form has
-  /// gone from the screen; an error of one of its events ends the show and goes to the caller. Gestures on a
-  /// form that isn't the one in front are dropped.
-  /// Error 28 where too many forms are shown already, or too little of the thread's stack is left.
+  /// Loads a form, if it isn't loaded yet, and shows it in front of the others. Returns when the form is
+  /// closed. An error in one of its events closes it and is passed to the caller. Gestures on a form that
+  /// isn't in front are dropped. Raises error 28 if too many forms are open, or if too little of the thread's
+  /// stack is left.
   void ShowModal(std::shared_ptr<Form> form);
   /// Lets the view and the timers of the front form work during an event. Actions of the user wait until the
   /// event is over.

@@ -13,8 +13,8 @@ void TextBox::SetText(std::string_view value) {
 
 std::string TextBox::ObstacleTo(std::string_view text) const {
   const std::string typed = WithLineEnds(text, "\r\n");
-  if (HasControlCharacters(text)) return "takes no control characters";
-  if (!multiLine_ && typed.find('\n') != std::string::npos) return "takes one line";
+  if (HasControlCharacters(text)) return "accepts no control characters";
+  if (!multiLine_ && typed.find('\n') != std::string::npos) return "accepts only one line";
   if (maxLength_ > 0 && runtime::Len(typed) > maxLength_) {
     return "takes " + std::to_string(maxLength_) + " characters";
   }

@@ -14,6 +14,7 @@ enum class Alignment { kLeft, kCenter };
 /// A text box. Lines end with CR LF.
 class TextBox : public FontControl {
  public:
+  /// Makes an empty text box. See Control for the parameters.
   TextBox(Form& form, const char* name, Control* container) : FontControl(form, name, container) {
     SetBackColor(kWhite);
   }

@@ -30,7 +30,7 @@ std::int32_t DataRowOf(std::string_view sFormula) {
   return lResult;
 }
 
-/// Returns the id in column A of the rows that the chart shows.
+/// Returns the chart id in column A of the rows that the chart shows.
 std::string ShownID(const Ref<excel::Chart>& oChart, excel::Worksheet& oDataSheet) {
   const auto oSeriesCollection = oChart->SeriesCollection();
   if (oSeriesCollection->Count() == 0) return "";
@@ -90,7 +90,7 @@ bool UnmarkedCharts::ReadNext() {
     while (lShape_ <= oShapes->Count()) {
       const auto oShape = oShapes->Item(lShape_++);
       if (!IsUnmarked(*oShape, excel::msoChart)) continue;
-      // A chart that can't be read shows nothing.
+      // A chart that can't be read shows no data.
       std::string sShownID = ValueOr(std::string(), [&] {
         return ShownID(oSheet->ChartObjects()->Item(oShape->Name())->Chart(), *oDataSheet);
       });
@@ -111,7 +111,7 @@ void RestoreCommentMarker(const std::string& sID, const std::string& sSheetName,
     auto oShape = oShapes->Item(i);
     const bool bRectangle = bRectangles && IsUnmarked(*oShape, excel::msoAutoShape);
     if (!bRectangle && !IsUnmarked(*oShape, excel::msoTextBox)) continue;
-    // A shape that can't be read is not the one.
+    // A shape that can't be read cannot be the one we look for.
     if (!ValueOr(false, [&] { return oShape->TextFrame()->Characters()->Text() == sComment; })) continue;
     if (bRectangle) oShape = ReplaceByTextBox(oShapes, oShape, sComment);
     oShape->SetAlternativeText(sID);

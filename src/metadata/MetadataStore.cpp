@@ -31,7 +31,7 @@ namespace {
 constexpr std::int32_t kFirstDefinitionRow = 2;
 constexpr const char* kSchemaVersion = "2";
 
-/// A row of the sheet, as it was read last.
+/// A row of the sheet, as it was last read.
 struct ReadRow {
   std::string sText;
   bool bParses = false;
@@ -52,7 +52,8 @@ ReadRow& ReadRowAt(std::int32_t lRow) {
   return aReadRows[lIndex];
 }
 
-/// What a row of the sheet holds as a text, without a copy where it is one; empty for what can't be read.
+/// Returns the text of a row, without a copy if the cell contains a text; empty for a cell that can't be
+/// read.
 std::string_view DefinitionAt(excel::Worksheet& oSheet, std::int32_t lRow, std::string& sScratch) {
   return ValueOr(std::string_view(), [&]() -> std::string_view {
     const excel::CellValue vValue = oSheet.CellValueAt(lRow, 1);

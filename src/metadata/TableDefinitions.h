@@ -15,7 +15,7 @@ namespace plotsmith {
 /// Replaces `colTables`: first the range tables in the order of their names, then the data sheets.
 void RetrieveTableDefinitions();
 
-/// Returns true if a defined name marks a table, which its beginning decides. A name that belongs to one
+/// Returns true if a defined name defines a table, which depends on its beginning. A name that belongs to one
 /// sheet doesn't.
 bool NamesTable(std::string_view sName);
 /// Returns true if the value makes its column a label column. That is any value except numbers, Booleans,

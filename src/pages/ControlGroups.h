@@ -20,6 +20,7 @@ namespace plotsmith {
 /// A group of pictures of which at most one is visible.
 class PictureGroup {
  public:
+  /// Makes a hidden picture for each name. `oContainer` is their frame, or null for the form.
   PictureGroup(forms::Form& oForm, forms::Control* oContainer, const std::vector<std::string>& aNames);
 
   /// Shows the picture with that name and hides the others. An empty name hides all.
@@ -34,9 +35,12 @@ class PictureGroup {
 /// The sample legend of a colour setting: bright if colours have a meaning, and dim otherwise.
 class LegendPictures {
  public:
+  /// Makes both pictures. `oContainer` is their frame, or null for the form.
   LegendPictures(forms::Form& oForm, forms::Control* oContainer)
       : oPictures_(oForm, oContainer, {"imgLegend", "imgLegendDim"}) {}
+  /// The two pictures.
   const PictureGroup& Pictures() const { return oPictures_; }
+  /// Shows the bright or the dim legend.
   void Show(bool bBright) { oPictures_.Show(bBright ? "imgLegend" : "imgLegendDim"); }
 
  private:
@@ -47,6 +51,7 @@ class LegendPictures {
 /// until the user has typed into its box.
 class AxisBoxes {
  public:
+  /// Makes the labels and boxes. `oContainer` is their frame, or null for the form.
   AxisBoxes(forms::Form& oForm, forms::Control* oContainer);
 
   /// Whether the horizontal axis is the label axis. This is so except for bar charts.
@@ -93,6 +98,7 @@ struct NumberFormatNames {
 /// The number format of the values, with a sample number in this format.
 class NumberFormatBox {
  public:
+  /// Makes the controls. `oContainer` is their frame, or null for the form.
   NumberFormatBox(forms::Form& oForm, forms::Control* oContainer, const NumberFormatNames& aNames);
 
   /// Fills the list of number formats.
@@ -119,6 +125,7 @@ class NumberFormatBox {
 /// The box for the comment of the chart. While it has the focus, Enter ends a line instead of pressing Next.
 class CommentBox {
  public:
+  /// Makes the frame with this caption, and the box in it.
   CommentBox(forms::Form& oForm, const char* sFrameCaption);
 
   /// Connects the box with the page's default button.

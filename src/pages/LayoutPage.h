@@ -21,6 +21,7 @@ class LayoutPage : public Page {
   forms::TextBox txtTitle{*this, "txtTitle", &Frame1};
 
  protected:
+  /// Makes a page. `sName` is the name of its form.
   LayoutPage(const char* sName, Navigation& oNavigation);
 
   /// Updates the controls before they are checked.

@@ -11,6 +11,7 @@ namespace plotsmith {
 
 /// The five buttons at the bottom of a page, in tab order.
 struct WizardButtons {
+  /// Makes the buttons on a form.
   explicit WizardButtons(forms::Form& oForm);
 
   /// The buttons.
@@ -48,7 +49,9 @@ class Page : public forms::Form {
   /// Shows a message and moves the focus to the control that it concerns. An empty text shows the pending
   /// message. On a page that isn't shown yet, the message becomes the pending message.
   void DisplayMessage(const std::string& sMessage);
+  /// Leaves the page for the page with the number `lStep`. `oPage` is this page.
   void PSJumpToStep(std::int32_t lStep, Page* oPage) { oNavigation_.PSJumpToStep(lStep, lOrigin_, oPage); }
+  /// Opens the help at the page's topic.
   void ShowHelp() const;
   /// Connects the buttons with their actions, which are the same on every page.
   void WireButtons(WizardButtons& oButtons);

@@ -12,6 +12,7 @@ namespace plotsmith {
 forms::Layout WithButtons(forms::Layout oBody, const WizardButtons& oButtons);
 /// Returns the layout of a group of pictures, all in the same place.
 forms::Layout StackOf(const PictureGroup& oPictures);
+/// Returns the layout of a sample legend, whose two pictures are in the same place.
 forms::Layout StackOf(const LegendPictures& oLegend);
 /// Returns the layout of the axis boxes, aligned with a label before each box.
 ///@{
@@ -19,6 +20,7 @@ forms::Layout GridOf(const AxisBoxes& oAxes);
 forms::Layout GridOf(const NumberFormatBox& oBox);
 forms::Layout GridOf(const NumberFormatBox& oBox, const AxisBoxes& oAxes);
 ///@}
+/// Returns the layout of the comment's frame with its box.
 forms::Layout Framed(const CommentBox& oComment);
 
 }  // namespace plotsmith

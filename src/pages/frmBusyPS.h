@@ -13,8 +13,11 @@ namespace plotsmith {
 /// The procedures that the busy window can run. They belong to modules above the pages, so the controller
 /// passes them in.
 struct BusyWork {
+  /// Loads all chart definitions.
   std::function<void()> PopulateAllCharts;
+  /// Builds one chart.
   std::function<void(const std::string& sChartID)> PopulateChart;
+  /// Executes a run in a mode, a constant of `method`.
   std::function<void(std::int32_t lMode)> ExecuteRun;
 };
 
@@ -23,6 +26,7 @@ struct BusyWork {
 /// and shows the window.
 class frmBusyPS final : public forms::Form {
  public:
+  /// Makes the window. `oWork` has the operations that it can run.
   explicit frmBusyPS(BusyWork oWork);
 
   bool bWorking = false;  ///< Whether the operation has started.

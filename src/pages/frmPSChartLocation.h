@@ -15,6 +15,7 @@ namespace plotsmith {
 /// puts an empty chart on the sheet.
 class frmPSChartLocation final : public Page {
  public:
+  /// Makes the page. `oNavigation` must outlive it.
   explicit frmPSChartLocation(Navigation& oNavigation);
   bool ValidSelections() override;
 

@@ -15,6 +15,7 @@ namespace plotsmith {
 /// the two can use number columns.
 class frmPSLayoutABC final : public LayoutPage {
  public:
+  /// Makes the page. `oNavigation` must outlive it.
   explicit frmPSLayoutABC(Navigation& oNavigation);
 
   forms::Frame Frame2{*this, "Frame2", nullptr, "2. Vertical (Y-axis) Shows"};

@@ -13,6 +13,7 @@ namespace plotsmith {
 /// one label column gives its colour, and another one gives its label.
 class frmPSLayoutBubble final : public LayoutPage {
  public:
+  /// Makes the page. `oNavigation` must outlive it.
   explicit frmPSLayoutBubble(Navigation& oNavigation);
 
   forms::Frame Frame2{*this, "Frame2", nullptr, "2. Vertical (Y-axis)"};

@@ -12,6 +12,7 @@ namespace plotsmith {
 /// The layout of pie charts: a label column gives the slices, and a number column gives their sizes.
 class frmPSLayoutPie final : public LayoutPage {
  public:
+  /// Makes the page. `oNavigation` must outlive it.
   explicit frmPSLayoutPie(Navigation& oNavigation);
 
   forms::Frame Frame4{*this, "Frame4", nullptr, "2. Slice Size"};

@@ -17,6 +17,7 @@ namespace plotsmith {
 /// second table gives the names and the values of the buckets.
 class frmPSLayoutStrBuck final : public LayoutPage {
  public:
+  /// Makes the page. `oNavigation` must outlive it.
   explicit frmPSLayoutStrBuck(Navigation& oNavigation);
 
   forms::Frame Frame2{*this, "Frame2", nullptr, "2. Strategic Buckets"};

@@ -11,6 +11,7 @@ namespace plotsmith {
 /// The first page in a workbook with charts: the action, and the chart for it.
 class frmPSSelectAction final : public Page {
  public:
+  /// Makes the page. `oNavigation` must outlive it.
   explicit frmPSSelectAction(Navigation& oNavigation);
 
   forms::Frame Frame2{*this, "Frame2", nullptr, "Charts in this Workbook"};

@@ -13,6 +13,7 @@ namespace plotsmith {
 /// The page for the source table and the chart type.
 class frmPSSelectTable final : public Page {
  public:
+  /// Makes the page. `oNavigation` must outlive it.
   explicit frmPSSelectTable(Navigation& oNavigation);
   bool ValidSelections() override;
 

@@ -2,7 +2,8 @@
 
 namespace plotsmith::runtime {
 
-/// How many threads of this process can work at a time: the processors that it may run on, at least 1.
+/// Returns the number of threads of this process that can run at the same time, which is the number of
+/// processors that it may use; at least 1.
 unsigned ProcessorCount();
 
 }  // namespace plotsmith::runtime

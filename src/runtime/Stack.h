@@ -4,8 +4,8 @@
 
 namespace plotsmith::runtime {
 
-/// How many bytes of its stack this thread has left. Code that nests as deep as a user likes asks before each
-/// step, and ends with error 28: a stack that overflows ends the whole process.
+/// Returns the number of bytes that are left on this thread's stack. Code whose depth depends on the user
+/// checks this before each step and raises error 28, because a stack overflow would end the process.
 std::size_t StackLeft();
 
 }  // namespace plotsmith::runtime

@@ -34,8 +34,8 @@ std::u16string ToUtf16(std::string_view text);
 std::string ToUtf8(std::u16string_view text);
 ///@}
 
-/// Reads one character and moves the position behind it. Each byte of invalid UTF-8 gives U+FFFD; halves of
-/// surrogate pairs are kept.
+/// Reads one character and moves the position to the next one. Each byte of invalid UTF-8 gives U+FFFD;
+/// halves of surrogate pairs are kept.
 char32_t NextCharacter(std::string_view text, std::size_t& position);
 /// Returns true if the character is a letter in any script.
 bool IsLetter(char32_t character);

@@ -4,7 +4,7 @@
 
 namespace plotsmith::runtime {
 
-/// What a value of errno means, in English in every locale: "No space left on device".
+/// Returns the text of an errno value, in English in every locale: "No space left on device".
 std::string SystemErrorText(int error);
 
 }  // namespace plotsmith::runtime

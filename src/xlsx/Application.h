@@ -19,7 +19,7 @@ class Application : public excel::Application, public std::enable_shared_from_th
  public:
   using Macro = std::function<void(const std::vector<runtime::Variant>& arguments)>;
 
-  /// `version` is what Version returns, such as "16.0".
+  /// `version` is the result of Version, such as "16.0".
   static std::shared_ptr<Application> Create(std::string version = "16.0");
   ~Application() override;
 
@@ -32,6 +32,7 @@ class Application : public excel::Application, public std::enable_shared_from_th
 
   /// Defines a macro for Run, as an add-in does in Excel.
   void DefineMacro(const std::string& name, Macro macro) { macros_[name] = std::move(macro); }
+  /// The journal of the host's calls.
   xlsx::Journal& Journal() { return journal_; }
 
   excel::Ref<excel::Workbook> ActiveWorkbook() override;
@@ -45,7 +46,7 @@ class Application : public excel::Application, public std::enable_shared_from_th
   std::int32_t Calculation() override { return calculation_; }
   void SetCalculation(std::int32_t value) override;
   void SetDisplayAlerts(bool value) override;
-  /// In Excel this is the font of new workbooks; here it is the font of the workbook's Normal style.
+  /// In Excel this is the font of new workbooks. In this host it is the font of the workbook's Normal style.
   std::string StandardFont() override;
   double StandardFontSize() override;
   void Run(std::string_view macro, const std::vector<runtime::Variant>& arguments) override;

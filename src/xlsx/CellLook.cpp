@@ -25,7 +25,7 @@ constexpr std::array<std::string_view, 12> kThemeColors = {"lt1",     "dk1",    
                                                            "accent1", "accent2", "accent3", "accent4",
                                                            "accent5", "accent6", "hlink",   "folHlink"};
 
-/// A colour as DrawingML writes it, lighter or darker by `tint` (ECMA-376-1, 18.8.19).
+/// Converts a colour of DrawingML, which `tint` makes lighter or darker (ECMA-376-1, 18.8.19).
 std::optional<std::int32_t> Tinted(const Theme& theme, const char* kind, std::string_view value,
                                    double tint) {
   constexpr double kWhole = 100000;
@@ -41,7 +41,7 @@ std::optional<std::int32_t> Tinted(const Theme& theme, const char* kind, std::st
   return theme.Color(document.first_child());
 }
 
-/// CT_Color.
+/// Reads a CT_Color.
 std::optional<std::int32_t> ColorOf(pugi::xml_node color, const Styles& styles, const Theme& theme) {
   if (!color || xml::BooleanAttribute(color, "auto", false)) return std::nullopt;
   const double tint = xml::NumberAttribute(color, "tint", 0);
@@ -49,14 +49,14 @@ std::optional<std::int32_t> ColorOf(pugi::xml_node color, const Styles& styles, 
   if (themed >= 0 && themed < static_cast<long long>(kThemeColors.size()))
     return Tinted(theme, "schemeClr", kThemeColors[static_cast<std::size_t>(themed)], tint);
   auto rgb = ParseRgb(xml::Attribute(color, "rgb"));
-  // The first eight are fixed. The palette follows, and after it the colours of the window.
+  // The first eight are fixed. The palette follows, then the window's colours.
   const auto indexed = xml::IntegerAttribute(color, "indexed", -1);
   if (indexed >= 0 && indexed < 8) rgb = DefaultPaletteColor(static_cast<std::int32_t>(indexed) + 1);
   if (indexed >= 8 && indexed < 64) rgb = styles.PaletteColor(static_cast<std::int32_t>(indexed) - 7);
   return rgb ? Tinted(theme, "srgbClr", RgbText(*rgb), tint) : std::nullopt;
 }
 
-/// One colour for a fill: the background of a pattern, or the first colour of a gradient.
+/// Reduces a fill to one colour: the background of a pattern, or the first colour of a gradient.
 std::optional<std::int32_t> FillColorOf(pugi::xml_node fill, const Styles& styles, const Theme& theme) {
   if (const auto gradient = xml::Child(fill, "gradientFill"))
     return ColorOf(xml::Child(gradient, "stop", "color"), styles, theme);
@@ -85,7 +85,7 @@ VerticalAlignment VerticalOf(const std::string& text) {
   return text == "center" || text == "distributed" ? VerticalAlignment::kCenter : VerticalAlignment::kBottom;
 }
 
-/// `edges` are the names of an edge: some files have "start" instead of "left".
+/// Reads one edge. `edges` are its possible names: some files have "start" instead of "left".
 BorderLine BorderOf(pugi::xml_node border, std::initializer_list<std::string_view> edges,
                     const Styles& styles, const Theme& theme) {
   for (const std::string_view edge : edges) {
@@ -98,7 +98,7 @@ BorderLine BorderOf(pugi::xml_node border, std::initializer_list<std::string_vie
   return {};
 }
 
-/// Whether an element such as `b` is present and on.
+/// Returns true if an element such as `b` is present and not switched off.
 bool Has(pugi::xml_node font, std::string_view element) {
   const auto node = xml::Child(font, element);
   return node && xml::BooleanAttribute(node, "val", true);

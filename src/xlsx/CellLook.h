@@ -17,23 +17,23 @@ enum class VerticalAlignment { kTop, kCenter, kBottom };
 
 /// A line at an edge of a cell (CT_BorderPr). Its dashes are not kept.
 struct BorderLine {
-  int width = 0;                      ///< pixels at 96 dots an inch; 0 for no line
-  std::optional<std::int32_t> color;  ///< red + 256 * green + 65536 * blue; nothing for the colour of texts
+  int width = 0;                      ///< pixels at 96 dots per inch; 0 for no line
+  std::optional<std::int32_t> color;  ///< red + 256 * green + 65536 * blue; absent for the text colour
 
   bool operator==(const BorderLine&) const = default;
 };
 
-/// The format of a cell, beside its number format.
+/// The format of a cell, except its number format.
 struct CellLook {
   HorizontalAlignment horizontal = HorizontalAlignment::kGeneral;
   VerticalAlignment vertical = VerticalAlignment::kBottom;
   int indent = 0;     ///< in steps of three blanks
-  bool wrap = false;  ///< a long text continues in the next line of the cell
+  bool wrap = false;  ///< a long text continues on the next line of the cell
   bool bold = false, italic = false, underline = false, strike = false;
   std::string font;
   double size = 11;  ///< points
-  /// Colours as red + 256 * green + 65536 * blue; nothing for the colour of the window.
-  ///@{
+  /// Colours as red + 256 * green + 65536 * blue; absent for the window's colours.
+  /// @{
   std::optional<std::int32_t> textColor, fillColor;
   ///@}
 

@@ -32,9 +32,9 @@ class BookName final : public excel::DefinedName {
   std::string Name() override { return name_; }
   std::string RefersTo() override { return "=" + entry_.definition; }
 
-  /// A name that computes its range has none here, because this host doesn't evaluate formulas.
+  /// A name whose formula computes its range has none here, because this host doesn't evaluate formulas.
   Ref<excel::Range> RefersToRange() override {
-    // The first of several areas counts.
+    // If a name has several areas, the first one counts.
     std::string_view definition = entry_.definition;
     bool quoted = false;
     for (std::size_t i = 0; i < definition.size(); ++i) {

@@ -29,7 +29,7 @@ std::optional<std::string> SavingProgram(const Package& package) {
   const std::string program = xml::Text(xml::Child(xml::Root(document), "Application"));
   if (program.empty()) return std::nullopt;
   const std::string version = xml::Text(xml::Child(xml::Root(document), "AppVersion"));
-  // openpyxl up to 3.1.2 calls itself Microsoft Excel, but gives its own version, such as "3.0".
+  // openpyxl up to 3.1.2 claims to be Microsoft Excel, but gives its own version number, such as "3.0".
   if (program == kExcel && xml::ParseDouble(version).value_or(kFirstOoxmlVersion) < kFirstOoxmlVersion) {
     return "openpyxl " + version;
   }
@@ -45,7 +45,7 @@ class ApplicationName final : public excel::DocumentProperty {
     try {
       program = SavingProgram(book_->Package());
     } catch (const PackageError&) {
-      // A workbook whose properties can't be read is sound otherwise.
+      // The rest of a workbook with unreadable properties can still be used.
     }
     if (!program) throw CantGet("Value", "DocumentProperty");
     return *program;

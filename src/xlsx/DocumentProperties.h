@@ -8,7 +8,7 @@ namespace plotsmith::xlsx {
 
 class Workbook;
 
-/// A property of the workbook by Excel's name for it; error 5 for one that this host doesn't have.
+/// The document property with Excel's name `name`; error 5 if this host doesn't have it.
 excel::Ref<excel::DocumentProperty> MakeDocumentProperty(Workbook& book, std::string_view name);
 
 }  // namespace plotsmith::xlsx

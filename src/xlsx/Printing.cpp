@@ -14,7 +14,7 @@ constexpr std::string_view kPrintArea = "_xlnm.Print_Area";
 /// A formula is too short for more ranges than this.
 constexpr std::size_t kMostAreas = 1000;
 
-/// The ranges of a list such as "Sheet1!$A$1:$B$9,Sheet1!$D:$E"; other texts are left out.
+/// Returns the ranges in a list such as "Sheet1!$A$1:$B$9,Sheet1!$D:$E"; other texts are skipped.
 std::vector<CellRange> RangesOf(std::string_view list) {
   std::vector<CellRange> ranges;
   bool quoted = false;

@@ -10,10 +10,11 @@ namespace plotsmith::xlsx {
 class Workbook;
 struct SheetEntry;
 
-/// The page setup of a sheet of any kind. Error 1004 if the part of the sheet can't be read.
+/// The page setup of a sheet of any kind. Error 1004 if the sheet's part can't be read.
 PageSetup PageSetupOf(Workbook& book, const SheetEntry& sheet);
 
-/// The print area of a sheet (the name _xlnm.Print_Area). Each range begins a page. Empty if none is set.
+/// The print area of a sheet (the name _xlnm.Print_Area). Each range begins a new page. Empty if there is
+/// none.
 std::vector<CellRange> PrintAreaOf(const Workbook& book, const SheetEntry& sheet);
 
 }  // namespace plotsmith::xlsx

@@ -12,20 +12,21 @@
 
 namespace plotsmith::xlsx {
 
-/// A sheet as the workbook part lists it.
+/// A sheet in the list of the workbook part.
 struct SheetEntry {
   std::string name;     ///< on its tab
   std::string part;     ///< in the package
   pugi::xml_node node;  ///< its element in the workbook part
-  /// The sheet for the port. `worksheet` is the same object if the sheet has cells, else null.
+  /// The sheet for the port. `worksheet` is the same object if the sheet has cells, and null otherwise.
   std::shared_ptr<excel::Sheet> object;
   std::shared_ptr<Worksheet> worksheet;
 };
 
-/// The members that all sheets share, for the port's class `Base`.
+/// The members of all kinds of sheets, for the port's class `Base`.
 template <class Base>
 class SheetMembers : public Base {
  public:
+  /// Makes the port's object for an entry of the sheet list.
   SheetMembers(Workbook& book, std::weak_ptr<SheetEntry> entry) : book_(book), entry_(std::move(entry)) {}
 
   std::string Name() override { return Entry().name; }
@@ -52,11 +53,13 @@ class SheetMembers : public Base {
   }
 
  protected:
+  /// The entry; error 1004 if the sheet was deleted.
   SheetEntry& Entry() const {
     const auto entry = entry_.lock();
     if (!entry) throw runtime::RuntimeError(runtime::error::kApplication);  // the sheet was deleted
     return *entry;
   }
+  /// Returns a function that gives the sheet's path in the journal.
   auto Path() const {
     return [this] { return "Sheets(" + xlsx::Journal::Literal(Entry().name) + ")"; };
   }

@@ -11,14 +11,16 @@ namespace plotsmith::xlsx {
 
 class Worksheet;
 
-/// The drawing part of a worksheet: anchors with a shape on each.
+/// The drawing part of a worksheet, which consists of anchors with one shape each.
 class SheetDrawing : public AnchoredShapes<SheetShape> {
  public:
   /// Reads the part. Throws a PackageError if it is missing or can't be read.
   SheetDrawing(Worksheet& sheet, std::string part);
   ~SheetDrawing() override;
 
+  /// The sheet of the drawing.
   Worksheet& Sheet() const { return sheet_; }
+  /// The name of the drawing part.
   const std::string& Part() const { return part_; }
 
   /// Frames are in points from the upper left corner of the sheet.
@@ -26,7 +28,7 @@ class SheetDrawing : public AnchoredShapes<SheetShape> {
   /// The shape's name is `name` and a number; `preset` is its geometry in the file (ST_ShapeType).
   std::shared_ptr<SheetShape> AddAutoShape(std::string_view name, std::string_view preset,
                                            const Frame& frame);
-  /// Adds a chart part without series, and the shape that frames it.
+  /// Adds a chart part without series, and the shape that contains the chart.
   std::shared_ptr<SheetShape> AddChart(const Frame& frame);
   /// Puts the part into the package if it was changed.
   void Write();

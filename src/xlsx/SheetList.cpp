@@ -30,8 +30,8 @@ class OtherSheet final : public SheetMembers<excel::Sheet> {
   using SheetMembers::SheetMembers;
 };
 
-/// The sheet gives Excel's default height of rows, because other programs have a different default, which
-/// would change the height of charts.
+/// The sheet states Excel's default row height, because other programs have another default, which would
+/// change the height of charts.
 std::string EmptySheet(bool strict) {
   return std::string(kXmlDeclaration) + "<worksheet xmlns=\"" +
          std::string((strict ? kStrict : kTransitional).main) +
@@ -39,7 +39,7 @@ std::string EmptySheet(bool strict) {
          "\"/><sheetData/></worksheet>";
 }
 
-/// Whether a sheet can have the name (Excel's rules).
+/// Returns true if a sheet can have the name by Excel's rules.
 bool IsSheetName(std::string_view name) {
   return !name.empty() && runtime::Len(name) <= limits::kSheetName &&
          name.find_first_of("[]:*?/\\") == std::string_view::npos && !name.starts_with('\'') &&
@@ -64,7 +64,7 @@ void SheetList::Load() {
     const auto [owner, free] = owners.emplace(link.target, entry->name);
     if (!free) {
       throw PackageError("its sheets " + std::string(owner->second) + " and " + entry->name +
-                         " have one part in common");
+                         " share one part");
     }
     entry->part = link.target;
     if (link.type == "worksheet") {
@@ -170,7 +170,7 @@ void SheetList::RenumberTabs(std::size_t position, int step) {
   names_.FollowTabs(position, step);
   for (const pugi::xml_node& view : xml::Children(xml::Child(part_.Root(), "bookViews"), "workbookView")) {
     for (const char* tab : {"activeTab", "firstSheet"}) {
-      // A tab behind the last sheet counts as the one after it.
+      // A tab after the last sheet counts as the one directly after it.
       const auto at = std::min(xml::IntegerAttribute(view, tab, -1), static_cast<long long>(sheets_.size()));
       if (at < static_cast<long long>(position)) continue;
       xml::SetAttribute(view, tab, std::to_string(std::max(at + step, 0LL)));
@@ -206,8 +206,8 @@ void SheetList::SetVisible(SheetEntry& sheet, std::int32_t visible) {
 void SheetList::Activate(const SheetEntry& sheet) {
   const std::size_t position = PositionOf(sheet);
   if (position >= sheets_.size()) return;
-  // Excel can't show a hidden sheet. But a file may open with a hidden sheet in front, and that one may be
-  // activated again.
+  // Excel can't activate a hidden sheet. But a file may be stored with a hidden sheet in front, and that one
+  // may be activated again.
   const bool isHidden = sheet.object->Visible() != excel::xlSheetVisible;
   if (isHidden && sheets_[position] != opened_) {
     throw Refusal("Activate method of Worksheet class failed");

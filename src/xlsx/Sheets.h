@@ -7,8 +7,9 @@ namespace plotsmith::xlsx {
 
 class Workbook;
 
-/// All sheets of a workbook, and the sheets with cells, for the port. Both are in the order of their tabs.
+/// The sheets of a workbook for the port, in the order of their tabs.
 excel::Ref<excel::Sheets> MakeSheets(Workbook& book);
+/// The sheets with cells for the port, in the order of their tabs.
 excel::Ref<excel::Worksheets> MakeWorksheets(Workbook& book);
 
 }  // namespace plotsmith::xlsx

@@ -19,14 +19,14 @@ namespace plotsmith::xlsx {
 
 class Application;
 
-/// A workbook file that is open. Changes are held in memory until Save.
+/// An open workbook file. Changes are kept in memory until Save.
 class Workbook final : public excel::Workbook,
                        public BookContext,
                        public std::enable_shared_from_this<Workbook> {
  public:
-  /// Throws PackageError.
+  /// Opens a file. Throws PackageError.
   static std::shared_ptr<Workbook> Open(xlsx::Application& application, const std::string& path);
-  /// A workbook of one empty sheet.
+  /// Makes a workbook with one empty sheet.
   static std::shared_ptr<Workbook> New(xlsx::Application& application);
   ~Workbook() override;
 
@@ -41,28 +41,29 @@ class Workbook final : public excel::Workbook,
   std::int32_t Colors(std::int32_t index) override;
   void SetColors(std::int32_t index, std::int32_t color) override;
 
-  /// Whether Save would write anything but what was read.
+  /// Returns true if Save would write other bytes than the opened file has.
   bool Changed() const;
-  /// Saves the workbook as the kind that the extension names. Throws PackageError; the file is then as it was
-  /// before.
+  /// Saves the workbook in the format of the extension. Throws PackageError; the file is unchanged then.
   void Save(const std::string& path);
+  /// Saves to a stream. The workbook is complete before the stream gets its first byte.
   void Save(std::ostream& out);
-  /// Throws a PackageError if the workbook can't be saved as the kind that the extension names.
+  /// Throws a PackageError if the workbook can't be saved in the format of the extension.
   void CheckName(const std::string& path) const { format_.Check(Package(), path); }
 
   /// The sheets and their tabs.
   SheetList& Tabs() { return sheets_; }
   /// All sheets in the order of their tabs.
   const std::vector<std::shared_ptr<SheetEntry>>& AllSheets() const { return sheets_.All(); }
-  /// The sheets that have cells, in the order of their tabs.
+  /// The sheets with cells, in the order of their tabs.
   const std::vector<std::shared_ptr<Worksheet>>& AllWorksheets() const { return sheets_.Worksheets(); }
-  /// The sheet of a name, ignoring case; null if there is none.
+  /// The sheet with a name, ignoring case; null if there is none.
   std::shared_ptr<SheetEntry> FindSheet(std::string_view name) const { return sheets_.Find(name); }
-  /// The same, null also for a sheet without cells.
+  /// The worksheet with a name, ignoring case; null if there is none, or if the sheet has no cells.
   std::shared_ptr<Worksheet> FindWorksheet(std::string_view name) const;
   std::shared_ptr<CellSource> FindCells(std::string_view sheet) const override;
   /// Adds an empty worksheet at a tab, from 0, and makes it the active one.
   std::shared_ptr<Worksheet> AddWorksheet(std::size_t position) { return sheets_.Add(position); }
+  /// Number of activations of sheets and cells so far.
   std::uint64_t Activations() const { return sheets_.Activations(); }
 
   /// The defined names.
@@ -72,28 +73,29 @@ class Workbook final : public excel::Workbook,
 
   /// The chart parts that are in use.
   ChartParts& Charts() { return charts_; }
-  /// The chart of a part, which is parsed when something of the chart is asked for.
+  /// The chart of a part, which is parsed at its first use.
   std::shared_ptr<ChartPart> Chart(const std::string& part) { return charts_.At(part); }
-  /// The chart of the active sheet, if that is a chart sheet; else Nothing.
+  /// The chart of the active sheet if that is a chart sheet, otherwise Nothing.
   excel::Ref<excel::Chart> ActiveChart();
-  /// The chart of a chart sheet; Nothing for another sheet and for one that can't be read.
+  /// The chart of a chart sheet; Nothing for a worksheet and for an unreadable chart.
   excel::Ref<excel::Chart> ChartOf(const SheetEntry& sheet);
 
+  /// Returns true if the workbook is set to manual calculation.
   bool CalculatesManually() const;
-  /// The font of the Normal style, by its name; the theme's font where the style refers to it.
+  /// The name of the Normal style's font. It is the theme's font if the style refers to that.
   std::string NormalFontName();
 
  private:
   explicit Workbook(xlsx::Application& application);
   void Load();
-  /// Writes what was changed into the package.
+  /// Writes the changes into the package.
   void WriteModels();
 
   SaveFormat format_;
   NameList names_{Part()};
   SheetList sheets_{*this, Part(), names_};
   ChartParts charts_{*this, CompleteChart};
-  excel::Ref<excel::Names> nameObjects_;  ///< made when they are first asked for
+  excel::Ref<excel::Names> nameObjects_;  ///< made at the first use
   std::uint64_t nameRevision_ = 0;        ///< of names_, when nameObjects_ was made
 };
 

@@ -36,10 +36,10 @@ void CheckCell(std::int32_t row, std::int32_t column) {
   }
 }
 
-/// Whether a part mentions a sheet on which rows have moved. A large part is read in pieces.
+/// Returns true if a part mentions a sheet on which rows have moved. A large part is read in pieces.
 bool PartMentions(const Package& package, const std::string& part, const RowShifts& shifts) {
   constexpr std::size_t kWindow = 256 * 1024,
-                        kOverlap = 256;  // the name of a sheet is shorter in every encoding
+                        kOverlap = 256;  // longer than a sheet's name in any encoding
   const auto stream = package.Stream(part);
   std::string window(kWindow, '\0');
   std::size_t kept = 0;
@@ -53,7 +53,7 @@ bool PartMentions(const Package& package, const std::string& part, const RowShif
   return false;
 }
 
-/// The number of cells of a sheet if each row ends at its last cell.
+/// Returns the number of cells on a sheet if each row ended at its last cell.
 std::size_t RoomOf(const CellStore& cells) {
   std::vector<std::int32_t> ends;
   for (std::int32_t column = 1; column <= cells.ColumnCount(); ++column) {

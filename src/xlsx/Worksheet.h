@@ -24,13 +24,14 @@ namespace plotsmith::xlsx {
 class SheetDrawing;
 struct ViewSetting;
 
-/// A worksheet. Its cells are read at the first use. When a cell is written, the whole sheet is rewritten
-/// with values and styles only; for that reason a sheet with formulas can't be written. The system writes
-/// only on its own sheets.
+/// A worksheet. Its cells are read at the first use. If a cell is written, the whole sheet is rewritten with
+/// only values and styles. Therefore a sheet with formulas can't be written. The system writes only to its
+/// own sheets.
 class Worksheet final : public SheetMembers<excel::Worksheet>,
                         public CellSource,
                         public std::enable_shared_from_this<Worksheet> {
  public:
+  /// Makes the sheet of an entry. `isNew` is true for a sheet that this program has added.
   Worksheet(Workbook& book, std::weak_ptr<SheetEntry> entry, bool isNew);
   ~Worksheet() override;
 
@@ -47,31 +48,40 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   excel::Ref<excel::Shapes> Shapes() override;
   excel::Ref<excel::ChartObjects> ChartObjects() override;
 
+  /// The workbook of the sheet.
   Workbook& Book() const { return book_; }
   const std::string& SheetName() const override { return Entry().name; }
+  /// The name of the sheet's part.
   const std::string& Part() const { return Entry().part; }
+  /// Returns a function that gives the sheet's path in the journal.
   auto JournalPath() const { return Path(); }
   excel::CellValue Stored(std::int32_t row, std::int32_t column) override;
+  /// The style of a cell, an index into cellXfs.
   std::uint32_t StyleAt(std::int32_t row, std::int32_t column);
   /// The rectangle around all cells that have a value or a style; A1 in an empty sheet.
   CellRange UsedCells();
-  /// The cells that have a formula without a result in the file, in its order. They read as empty.
+  /// The cells whose formula has no result in the file, in the file's order. They count as empty.
   const std::vector<CellPlace>& FormulasWithoutResult() { return Contents().formulasWithoutResult; }
+  /// Clears cells, including their styles.
   void ClearCells(const CellRange& range);
+  /// Sets the number format of cells. Error 1004 for an invalid code.
   void SetNumberFormat(const CellRange& range, std::string_view code);
   std::string NumberFormatAt(std::int32_t row, std::int32_t column) override;
+  /// Inserts a row. Row counts from 1; rows from there on move down.
   void InsertRow(std::int32_t row);
+  /// Deletes a row. Row counts from 1; the rows below it move up.
   void DeleteRow(std::int32_t row);
   /// Sorts the rows of a range. Error 1004 on a sheet with merged cells.
   void SortCells(const CellRange& range, const SortOptions& options);
+  /// Row heights and column widths.
   const SheetGeometry& Geometry();
-  /// The merged cells, as the file has them.
+  /// The merged cells in the file.
   const std::vector<CellRange>& MergedCells() { return Contents().mergedCells; }
   /// The view of the sheet in the workbook's first window.
   SheetView View();
-  /// Makes a cell the active one. The file keeps its own active cell.
+  /// Makes a cell the active one. The active cell in the file doesn't change.
   void ActivateCell(const CellPlace& cell);
-  /// The drawing of the sheet. Null if there is none, or if it has no charts and can't be read.
+  /// The drawing of the sheet. Null if there is none, or if it contains no charts and can't be read.
   SheetDrawing* FindDrawing();
   /// The drawing of the sheet, which is made if there is none. Error 1004 if it can't be read.
   SheetDrawing& EnsureDrawing();
@@ -79,10 +89,11 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   /// Changes a setting of the view in the workbook's first window.
   void SetView(const ViewSetting& setting, bool value);
 
-  /// Updates formulas for rows that have moved on other sheets since the mark `followed`.
+  /// Updates formulas for the rows that have moved on other sheets since the mark `followed`.
   void FollowShifts(std::size_t followed);
-  /// Whether this program made the sheet and may change all of it.
+  /// Returns true if this program has added the sheet and may change all of it.
   bool IsNew() const { return isNew_; }
+  /// Returns true if the sheet's part must be written.
   bool NeedsWriting() const;
   /// Puts the changes into the package.
   void Write();
@@ -94,23 +105,23 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
     if (sharedTexts_ == nullptr) sharedTexts_ = &book_.SharedStrings();
     return sharedTexts_->At(index);
   }
-  /// The cells for writing, which get a new version. Error 1004 on a sheet that isn't ours to write.
+  /// The cells for writing. Error 1004 on a sheet that this program may not write to.
   CellGrid& Grid();
   excel::CellValue Unpack(PackedValue value, std::uint32_t style);
-  /// The key of a cell for a walk for a text.
+  /// The key of a cell for a text search.
   std::uint32_t KeyOf(const GridCell* cell) const;
   void MakeKeys(std::int32_t column);
-  /// Forgets the keys where cells of the range are about to change.
+  /// Discards the keys of cells that are about to change.
   void ForgetKeys(const CellRange& range);
 
-  /// Changes the XML of the part at once; `change` returns whether there was anything to change. What the
-  /// part lacks for it is the workbook's damage.
+  /// Changes the XML of the part at once. `change` returns true if it has changed something. If the part
+  /// lacks an element that the change needs, the workbook is damaged.
   void ChangePart(const std::function<bool(std::string& text)>& change);
 
   bool isNew_;
   std::optional<SheetContents> contents_;  ///< as read
-  const TextPool* sharedTexts_ = nullptr;  ///< the workbook's, once a cell has asked for one
-  std::optional<CellGrid> grid_;           ///< as changed; of contents_ only the geometry counts then
+  const TextPool* sharedTexts_ = nullptr;  ///< the workbook's; null until a cell refers to one
+  std::optional<CellGrid> grid_;           ///< the changed cells; then contents_ has only the geometry
   bool gridChanged_ = false;
   std::uint64_t version_;  ///< of the cells
   std::optional<SheetGeometry> geometry_;
@@ -118,7 +129,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   std::unique_ptr<SheetDrawing> drawing_;
   bool drawingSought_ = false;
   std::optional<std::string> drawingDamage_;  ///< why the sheet's drawing can't be read
-  std::optional<ColumnKeys> keys_;            ///< of grid_, for the column of the last walk for a text
+  std::optional<ColumnKeys> keys_;            ///< of grid_, for the column of the last text search
 };
 
 }  // namespace plotsmith::xlsx

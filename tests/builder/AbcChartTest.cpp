@@ -100,7 +100,7 @@ TEST_F(AbcChartTest, OrderOfCallsForABarChartWithEverything) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(AbcChartTest, WhatAreaAndColumnChartsDoOtherwise) {
+TEST_F(AbcChartTest, AreaAndColumnChartsDiffer) {
   for (const char* type : {"area", "column"}) {
     Definition definition{"VEX_Chart1", type, "table-id=\"Data1\""};
     definition.series = "<series headings-in=\"none\"/>";
@@ -119,11 +119,11 @@ TEST_F(AbcChartTest, WhatAreaAndColumnChartsDoOtherwise) {
     EXPECT_EQ(calls[calls.size() - 2], type == S("area") ? "Chart.ChartType = 1" : "Chart.ChartType = 51");
     EXPECT_EQ(calls.back(), "Chart.HasLegend = False");
     EXPECT_EQ(std::count(journal_.begin(), journal_.end(), "Application.Interactive = False"), 2)
-        << "the direct road switches the user off, and the guard has tried the switch";
+        << "a direct refresh disables user input, and the guard has tried that before";
   }
 }
 
-TEST_F(AbcChartTest, SettingsMakeTheType) {
+TEST_F(AbcChartTest, SettingsDetermineTheType) {
   const auto settings = [](std::initializer_list<const char*> names) { return test::Settings(names); };
   const S plain = settings({}), d3 = settings({"3D"}), st = settings({"stacked"}),
           d3st = settings({"3D", "stacked"}), full = settings({"stacked", "100%"}),
@@ -159,7 +159,7 @@ TEST_F(AbcChartTest, SettingsMakeTheType) {
   }
 }
 
-TEST_F(AbcChartTest, ColumnsBehindThe78thKeepTheNameBefore) {
+TEST_F(AbcChartTest, SeriesAfterThe78thColumnKeepThePreviousName) {
   test::PlainBook book = test::SalesBook({});
   Open(book);
   auto document = NewXMLDocument();

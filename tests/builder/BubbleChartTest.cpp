@@ -77,7 +77,7 @@ TEST_F(BubbleChartTest, OrderOfCalls) {
       {{"Ada", "Red", 1, 2, 10}, {"Bo", "Blue", 3, 4, 30}, {" Cy ", "Red ", 5, 6, 20}}, definition);
   Lines expected = {"Chart.ChartArea.AutoScaleFont = False", "Chart.ChartType = 15"};
   AppendBubble(expected, 1, "Blue");
-  AppendBubble(expected, 2, "Red");  // Labels are trimmed, and names aren't.
+  AppendBubble(expected, 2, "Red");  // Labels are trimmed, names aren't.
   AppendBubble(expected, 3, "Red");
   AppendPaint(expected, 1, "Bo");
   AppendPaint(expected, 2, " Cy ");
@@ -109,7 +109,7 @@ TEST_F(BubbleChartTest, OrderOfCalls) {
   EXPECT_EQ(Chart()->ChartType(), 87);
 }
 
-TEST_F(BubbleChartTest, OlderVersionsComeByWayOfAScatterChartAndKeepTheirLegend) {
+TEST_F(BubbleChartTest, OlderVersionsStartWithAScatterChartAndKeepTheirLegend) {
   Definition definition = BubbleDefinition();
   const auto book =
       BubbleBook({{"A", "Red", 1, 2, 30}, {"B", "red", 3, 4, 20}, {"C", "Blue", 5, 6, 10}}, definition);
@@ -137,13 +137,13 @@ TEST_F(BubbleChartTest, OlderVersionsComeByWayOfAScatterChartAndKeepTheirLegend)
     EXPECT_TRUE((at - 1)->starts_with("Chart.SeriesCollection(2).BubbleSizes"));
     EXPECT_EQ(*(at + 1), "Chart.SeriesCollection(2).HasDataLabels = True");
     EXPECT_EQ(With(again, "Chart.HasLegend"), Lines{"Chart.HasLegend = True"})
-        << "a legend that is there is let be, until it is dressed as it was";
+        << "an existing legend isn't changed until it gets its stored format";
     EXPECT_EQ(Chart()->Legend()->LegendEntries()->Count(), 2);
   }
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(BubbleChartTest, ANameTakesTheColourOfItsNumberAndNotOfItsSeries) {
+TEST_F(BubbleChartTest, ANameHasTheColourOfItsNumberAndNotOfItsSeries) {
   const std::initializer_list<Bubble> distinct = {
       {"A", "x", 1, 1, 9}, {"B", "y", 1, 1, 8}, {"C", "z", 1, 1, 7}};
   ChartCalls(BubbleBook(distinct, BubbleDefinition()));
@@ -188,14 +188,14 @@ TEST_F(BubbleChartTest, ARowWithoutAColourLabelKeepsItsPlace) {
   EXPECT_EQ(Lines(calls.begin(), calls.begin() + static_cast<std::ptrdiff_t>(expected.size())), expected);
   const auto series = Chart()->SeriesCollection();
   EXPECT_EQ(series->Item(1)->Interior()->Color(), series->Item(2)->Interior()->Color())
-      << "in the colour of the series before";
+      << "in the colour of the previous series";
   EXPECT_NE(series->Item(1)->Interior()->Color(), series->Item(3)->Interior()->Color());
   EXPECT_EQ(Chart()->Shapes()->Count(), 0) << "its name has no colour, and so there is no legend";
   EXPECT_FALSE(Chart()->HasLegend());
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(BubbleChartTest, TypeAndLegendByTheDefinition) {
+TEST_F(BubbleChartTest, TypeAndLegendFollowTheDefinition) {
   const auto calls = [&](const S& settings, const S& series) {
     Definition definition = BubbleDefinition();
     definition.series = series;

@@ -33,11 +33,11 @@ TEST_F(BubbleDataTest, OneBubbleForEachName) {
       {"without colours", full.categories, "<series headings-in=\"none\"><column name=\"Group\"/></series>",
        full.values, full.rest, "Ada|[none]|6|8|40\nBo|[none]|3|4|20"},
       {"without series", full.categories, "", full.values, full.rest, "Ada|[none]|6|8|40\nBo|[none]|3|4|20"},
-      {"anything but none is a colour column", full.categories, Columns("series", {"Group"}, "columns"),
-       full.values, full.rest, "Ada|blue|6|8|40\nBo|blue|3|4|20"},
+      {"every value except none means a colour column", full.categories,
+       Columns("series", {"Group"}, "columns"), full.values, full.rest, "Ada|blue|6|8|40\nBo|blue|3|4|20"},
       {"categories are always found in rows", Columns("categories", {"Name", "Group"}, "columns"),
        full.series, full.values, full.rest, "Ada|blue|6|8|40\nBo|blue|3|4|20"},
-      {"without sizes all are 1, however many rows they have", full.categories, full.series, full.values, x,
+      {"without sizes all are 1, for any number of rows", full.categories, full.series, full.values, x,
        "Ada|blue|6|8|1\nBo|blue|3|4|1"},
       {"without X and Y", full.categories, full.series, "", sizes, "Ada|blue|0|0|40\nBo|blue|0|0|20"},
   };
@@ -64,7 +64,7 @@ TEST_F(BubbleDataTest, OneBubbleForEachName) {
       "Brindle Plotsmith: PSChartBuilder.BuildBubbleMap\nObject variable or With block variable not set");
 }
 
-TEST_F(BubbleDataTest, The254thNameBringsTheMessageThoughItIsCharted) {
+TEST_F(BubbleDataTest, The254thNameIsChartedAndCausesTheMessage) {
   struct Case {
     int names;
     S last;
@@ -88,9 +88,9 @@ TEST_F(BubbleDataTest, The254thNameBringsTheMessageThoughItIsCharted) {
     }
     EXPECT_EQ(Cells("VEX_ChartData", c.bubbles + 1, 2, c.bubbles + 2, 2),
               "N" + std::to_string(c.bubbles) + "\n")
-        << "the last that fits, and nothing behind it";
+        << "the last one that fits, and nothing after it";
     EXPECT_EQ(Cells("VEX_ChartData", 2, 6, 2, 6), c.last.empty() ? "3" : "6")
-        << "rows behind the stop count for the names that are known";
+        << "rows after the limit count for known names";
   }
 }
 
@@ -115,7 +115,8 @@ TEST_F(BubbleDataTest, TinyBubblesAreRaisedAndEmptyOnesIfTheChartShowsThem) {
     Block(definition);
     AdjustBubbleSizes(chart_);
     EXPECT_EQ(Sizes(), c.with);
-    EXPECT_EQ(Cells("Data1", 2, 5, 2, 5), std::to_string(static_cast<int>(c.first))) << "the source stays";
+    EXPECT_EQ(Cells("Data1", 2, 5, 2, 5), std::to_string(static_cast<int>(c.first)))
+        << "the source doesn't change";
   }
   EXPECT_TRUE(Messages().empty());
 }

@@ -89,7 +89,7 @@ TEST_F(BubbleQuadrantsTest, ScalesFromTheData) {
   }
 }
 
-TEST_F(BubbleQuadrantsTest, OnlyWhereTheyAreWantedAndAlwaysScaledOnANewChart) {
+TEST_F(BubbleQuadrantsTest, DrawnOnlyIfWantedAndAlwaysScaledOnANewChart) {
   EXPECT_TRUE(
       With(ChartCalls(BubbleBook({{"A", "x", 4, 20, 5}}, WithSettings({"autoscale-x", "autoscale-y"}))),
            "Scale =")

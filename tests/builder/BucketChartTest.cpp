@@ -81,7 +81,7 @@ TEST_F(BucketChartTest, OrderOfCalls) {
   const auto legend =
       std::find_if(calls.begin(), calls.end(), [](const S& line) { return line.find(".Shapes") != S::npos; });
   EXPECT_EQ(Lines(calls.begin(), legend), expected);
-  EXPECT_FALSE(With(calls, "AutoShapeType").size()) << "keys of buckets are square";
+  EXPECT_FALSE(With(calls, "AutoShapeType").size()) << "the keys of buckets are square";
   EXPECT_TRUE(With(calls, "\"Strategic Buckets Text\"").empty());
   EXPECT_TRUE(Messages().empty());
 
@@ -97,7 +97,7 @@ TEST_F(BucketChartTest, OrderOfCalls) {
   EXPECT_EQ(series->Item(4)->Values(), (std::vector<runtime::Variant>{120.0, 50.0}));
 }
 
-TEST_F(BucketChartTest, WhatOlderVersionsDoOtherwise) {
+TEST_F(BucketChartTest, OlderVersionsDiffer) {
   Definition definition = BucketDefinition();
   definition.rest += kManual;
   Lines calls = ChartCalls(BucketBook(definition), "11.0");
@@ -130,7 +130,7 @@ TEST_F(BucketChartTest, WithoutManualLabelsOnlyTheBucketsAreLabelled) {
   EXPECT_FALSE(With(calls, "ApplyDataLabels").empty());
 }
 
-TEST_F(BucketChartTest, MoreThan22BucketsAreMoreThanTheReferenceCanSay) {
+TEST_F(BucketChartTest, TheReferenceCanContainAtMost22Buckets) {
   for (const int buckets : {22, 23}) {
     test::PlainBook book = BucketBook(BucketDefinition());
     auto& rows = book.Sheet("Buckets").rows;

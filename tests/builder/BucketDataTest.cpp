@@ -30,7 +30,7 @@ TEST_F(BucketDataTest, ItemsAgainstBuckets) {
       {"everything", full.series, full.rest, "Alpha|New|3|10|5\nBeta|old|1||20\nCORE|GROWTH|4||"},
       {"without labels", "<series headings-in=\"none\"><column name=\"Theme\"/></series>", full.rest,
        "Alpha|[none]|3|10|5\nBeta|[none]|1||20\nCORE|[none]|4||"},
-      {"anything but rows is no label column", Columns("series", {"Theme"}, "columns"), full.rest,
+      {"every value except rows means no label column", Columns("series", {"Theme"}, "columns"), full.rest,
        "Alpha|[none]|3|10|5\nBeta|[none]|1||20\nCORE|[none]|4||"},
       {"without a sort key", full.series, "", "Alpha|New|1|10|5\nBeta|old|1||20\nCORE|GROWTH|1||"},
   };
@@ -103,7 +103,7 @@ TEST_F(BucketDataTest, ItemsAreSortedBelowTheRowOfTheBuckets) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(BucketDataTest, AnItemAloneIsSortedToo) {
+TEST_F(BucketDataTest, ASingleItemIsSorted) {
   test::PlainBook book = BucketBook(BucketDefinition());
   book.Sheet("Data1").rows.resize(2);
   Open(book);
@@ -122,7 +122,7 @@ TEST_F(BucketDataTest, BucketsBeyondAllNumbersAreAnOverflow) {
   EXPECT_EQ(Messages()[0], "Brindle Plotsmith: PSFunctions.GetStrategicBuckets\nOverflow");
 }
 
-TEST_F(BucketDataTest, WhatKeepsAChartFromBeingSorted) {
+TEST_F(BucketDataTest, SomeChartsAreNotSorted) {
   Definition definition = BucketDefinition();
   Open(BucketBook(definition));
   definition.rest = "<sort-order><column name=\"Rank\"/></sort-order>";

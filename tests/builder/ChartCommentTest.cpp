@@ -31,7 +31,7 @@ void Comment(const S& id, const S& text) {
   colTables = colCharts = nullptr;
 }
 
-TEST_F(ChartCommentTest, CommentsComeAndGoInPieces) {
+TEST_F(ChartCommentTest, CommentsAreWrittenAndReadInPieces) {
   S text;
   for (int i = 0; i < 40; ++i) text += "0123456789";
   text.replace(199, 2,
@@ -45,7 +45,7 @@ TEST_F(ChartCommentTest, CommentsComeAndGoInPieces) {
   };
   EXPECT_EQ(calls("Sheets(\"Charts\").Shapes.AddTextbox(1, 379, 5, 180, 120)"), 1);
   EXPECT_EQ(calls(".Insert("), 2);
-  EXPECT_EQ(calls("\xEF\xBF\xBD"), 2) << "half a character is no UTF-8";
+  EXPECT_EQ(calls("\xEF\xBF\xBD"), 2) << "half of a surrogate pair isn't valid UTF-8";
   SaveAndReopen();
   const auto shapes = [&] { return oWorkbook->Worksheets()->Item("Charts")->Shapes(); };
   const auto box = [&] { return shapes()->Item(2); };

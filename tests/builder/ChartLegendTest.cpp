@@ -45,7 +45,7 @@ class ChartLegendTest : public test::ChartCallsTest {
   }
 };
 
-TEST_F(ChartLegendTest, AnEntryForEachNameAndAllOfThemOneShape) {
+TEST_F(ChartLegendTest, EachNameHasAnEntryAndTheyAreGrouped) {
   const auto book = BubbleBook({{"A", "North", 1, 2, 30}, {"B", "South", 3, 4, 20}, {"C", "North", 5, 6, 10}},
                                BubbleDefinition());
   Lines expected;
@@ -110,7 +110,7 @@ TEST_F(ChartLegendTest, AnEntryForEachNameAndAllOfThemOneShape) {
   EXPECT_EQ(Names(), "VEX_Legend;");
 }
 
-TEST_F(ChartLegendTest, WhoTookItAwayDoesNotGetItBack) {
+TEST_F(ChartLegendTest, ADeletedLegendIsNotRestored) {
   Definition definition = BubbleDefinition();
   definition.rest += kHide;
   const std::initializer_list<Bubble> bubbles = {{"A", "North", 1, 2, 30}};
@@ -132,7 +132,7 @@ TEST_F(ChartLegendTest, WhoTookItAwayDoesNotGetItBack) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(ChartLegendTest, OneThatIsShownIsDrawnInThePlaceOfTheHostsOwn) {
+TEST_F(ChartLegendTest, ADrawnLegendReplacesTheBuiltInOne) {
   Definition definition = BubbleDefinition();
   definition.rest += runtime::Replace(kHide, "hide", "show");
   const Lines calls = ChartCalls(BubbleBook({{"A", "North", 1, 2, 30}}, definition));
@@ -141,7 +141,7 @@ TEST_F(ChartLegendTest, OneThatIsShownIsDrawnInThePlaceOfTheHostsOwn) {
   EXPECT_EQ(Names(), "VEX_Legend;");
 }
 
-TEST_F(ChartLegendTest, NamesThatGetLostAndNamesThatSpoilIt) {
+TEST_F(ChartLegendTest, SomeNamesAreMissingAndSomePreventTheLegend) {
   const auto entries = [&](const S& first, const S& second) {
     return Entries(
         ChartCalls(BubbleBook({{"A", first, 1, 2, 30}, {"B", second, 3, 4, 20}}, BubbleDefinition())));
@@ -151,12 +151,12 @@ TEST_F(ChartLegendTest, NamesThatGetLostAndNamesThatSpoilIt) {
   EXPECT_EQ(entries("Northern", "north"), (Lines{"\"Northern\"", "\"north\""})) << "case counts";
   EXPECT_EQ(Names(), "VEX_Legend;");
   entries("East|West", "North");
-  EXPECT_EQ(Names(), "") << "half a name has no colour";
+  EXPECT_EQ(Names(), "") << "a part of a name has no colour";
   EXPECT_EQ(entries("Strategic Buckets", "North"), Lines{"\"North\""});
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(ChartLegendTest, SizesAndPlacesByTheStoredFont) {
+TEST_F(ChartLegendTest, SizesAndPositionsFollowTheStoredFont) {
   struct Case {
     S size, left;
     Lines frame;  // Width, height, left and top of the text "North", and height and width of its key.
@@ -182,7 +182,7 @@ TEST_F(ChartLegendTest, SizesAndPlacesByTheStoredFont) {
     ASSERT_GE(frame.size(), c.frame.size() + 3);
     EXPECT_EQ(Lines(frame.begin(), frame.begin() + static_cast<std::ptrdiff_t>(c.frame.size())), c.frame);
     EXPECT_EQ(Lines(frame.end() - 2, frame.end()), (Lines{"Left = " + c.left, "Top = 40.5"}))
-        << "a place that somebody chose";
+        << "a position that the user has set";
   }
 }
 

@@ -16,7 +16,7 @@ using S = std::string;
 
 class DataSheetTest : public test::BlockTest {};
 
-TEST_F(DataSheetTest, CellsCountByWhatTheyShow) {
+TEST_F(DataSheetTest, CellsCountByTheirDisplayedText) {
   PlainBook book;
   test::PlainSheet sheet{"Data1"};
   const auto day = [](const S& serial, const S& style) {
@@ -45,7 +45,7 @@ TEST_F(DataSheetTest, CellsCountByWhatTheyShow) {
   // A text and an error add nothing, a numeric text adds its number, and True adds -1.
   EXPECT_EQ(Block(definition), "|Amount\n1/1/2020|1.0\nJan 20|10.0\nFeb 20|4.0\n|0.0\n2020|16.0\nx|-1.0");
   EXPECT_EQ(Book().FindWorksheet("VEX_ChartData")->CellValueAt(6, 2).kind, excel::CellValue::Kind::kText)
-      << "a year as category stays a text";
+      << "a year as a category remains a text";
 }
 
 TEST_F(DataSheetTest, ABlockLargerThanASheetIsRefusedBeforeItTakesMemory) {
@@ -53,7 +53,7 @@ TEST_F(DataSheetTest, ABlockLargerThanASheetIsRefusedBeforeItTakesMemory) {
   EXPECT_EQ(test::ErrorOf([] { Rectangle(100, 254).At(101, 1); }), runtime::error::kSubscript);
 }
 
-TEST_F(DataSheetTest, ABlockIsMadeToFitInItsPlace) {
+TEST_F(DataSheetTest, ABlockIsResizedInPlace) {
   Open(test::SalesBook({}));
   Definition first{"VEX_Chart1"}, second{"VEX_Chart2"};
   Block(first);
@@ -67,7 +67,8 @@ TEST_F(DataSheetTest, ABlockIsMadeToFitInItsPlace) {
   EXPECT_EQ(
       Cells("VEX_ChartData", 1, 1, 9, 1),
       "VEX_Chart1\nVEX_Chart1\nVEX_Chart1\nVEX_Chart1\nVEX_Chart1\nVEX_Chart2\nVEX_Chart2\nVEX_Chart2\n");
-  EXPECT_EQ(Cells("VEX_ChartData", 1, 4, 1, 4), "Gadget") << "what lies right of a narrower block stays";
+  EXPECT_EQ(Cells("VEX_ChartData", 1, 4, 1, 4), "Gadget")
+      << "cells to the right of a narrower block are kept";
   first.categories = Columns("categories", {"Region"}, "rows");
   EXPECT_EQ(Block(first), "|Amount\nEast|18\nWest|5");
   EXPECT_EQ(Cells("VEX_ChartData", 4, 1, 7, 3),
@@ -83,7 +84,7 @@ TEST_F(DataSheetTest, ABlockIsMadeToFitInItsPlace) {
                                             "Sheets(\"VEX_ChartData\").Rows(3).Delete(-4162)"}));
 }
 
-TEST_F(DataSheetTest, AFormatThatIsNoneStopsTheBlockWithBothMessages) {
+TEST_F(DataSheetTest, AnInvalidFormatStopsTheBlockWithBothMessages) {
   Open(test::SalesBook({}));
   EXPECT_EQ(Block({"VEX_Chart1", "column", "table-id=\"Data1\" number-format=\"0.0.&quot;\""}), "(no block)");
   ASSERT_EQ(Messages().size(), 2u);

@@ -58,7 +58,7 @@ TEST_F(PieChartTest, OrderOfCalls) {
   EXPECT_EQ(series->Item(1)->DataLabels()->Type(), runtime::Variant(3));
 }
 
-TEST_F(PieChartTest, SettingsMakeTheTypeAndLabelsTakeItFirst) {
+TEST_F(PieChartTest, SettingsDetermineTheTypeAndLabelsNeedAPieFirst) {
   const std::pair<S, int> types[] = {{Settings({}), 5},
                                      {Settings({"3D"}), -4102},
                                      {Settings({"exploded"}), 69},
@@ -74,7 +74,7 @@ TEST_F(PieChartTest, SettingsMakeTheTypeAndLabelsTakeItFirst) {
     const Lines calls = Calls(both + settings);
     EXPECT_EQ(With(calls, "ChartType"), (Lines{"Chart.ChartType = 5", last}));
     EXPECT_EQ(With(calls, "ApplyDataLabels"), Lines{"Chart.SeriesCollection(1).ApplyDataLabels(2)"})
-        << "values win";
+        << "values take precedence";
   }
   EXPECT_TRUE(With(Calls("<data-labels><data-label show=\"names\"/></data-labels>"), "DataLabels").empty());
   EXPECT_TRUE(Messages().empty());

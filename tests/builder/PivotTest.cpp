@@ -11,7 +11,7 @@ using S = std::string;
 
 class PivotTest : public test::BlockTest {};
 
-TEST_F(PivotTest, TheFiveWaysToLayATableOut) {
+TEST_F(PivotTest, TheFiveTableLayouts) {
   struct Case {
     const char* what;
     S categories, series, values, block;
@@ -53,7 +53,7 @@ TEST_F(PivotTest, TheFiveWaysToLayATableOut) {
             "of this collection");
 }
 
-TEST_F(PivotTest, TheLimitOfSeriesIsMetOnTwoRoads) {
+TEST_F(PivotTest, TheLimitOfSeriesAppliesInBothLayouts) {
   // There are 254 names, then a repeated one, then a new one.
   const auto rows = [&](int names, const S& last) {
     PlainBook book;

@@ -95,7 +95,7 @@ TEST_F(RefreshDriverTest, AnUnavailableChartRecoversByItself) {
   EXPECT_NE(Definitions().find("chart-area-crosshatched=\"no\""), S::npos);
 }
 
-TEST_F(RefreshDriverTest, OneTableRefreshesWhatHangsOnIt) {
+TEST_F(RefreshDriverTest, OneTableRefreshesItsCharts) {
   Definition other{"VEX_Chart2", "column", "table-id=\"Data2\""};
   Definition bucket{"VEX_Chart3", "column", "table-id=\"Data2\" strategic-bucket-table-id=\"Data1\""};
   Definition otherCase{"VEX_Chart4", "column", "table-id=\"data1\""};
@@ -114,7 +114,7 @@ TEST_F(RefreshDriverTest, OneTableRefreshesWhatHangsOnIt) {
   EXPECT_EQ(std::count(saved.begin(), saved.end(), '\n'), 7);
   EXPECT_EQ(test::CountOf(saved, "schema-version"), 4u)
       << "every definition is saved, not only those refreshed";
-  EXPECT_TRUE(colTables) << "nothing ends the run on this road";
+  EXPECT_TRUE(colTables) << "a direct refresh doesn't end the run";
   EXPECT_EQ(Count("Chart.PlotArea.Interior.ColorIndex = -4142"), 0) << "the charts aren't new";
 }
 

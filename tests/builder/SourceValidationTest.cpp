@@ -11,7 +11,7 @@ using S = std::string;
 
 class SourceValidationTest : public test::HostTest {};
 
-TEST_F(SourceValidationTest, ValidationCarriesTheTablesGeometryIntoTheDefinition) {
+TEST_F(SourceValidationTest, ValidationStoresTheTablesPositionInTheDefinition) {
   Open(test::SalesBook({}));
   RetrieveTableDefinitions();
   auto document = NewXMLDocument();
@@ -29,10 +29,10 @@ TEST_F(SourceValidationTest, ValidationCarriesTheTablesGeometryIntoTheDefinition
             "table-height=\"5\" header-row-count=\"1\"><categories><column name=\"REGION\" "
             "worksheet-column-number=\"1\"/>"
             "<column name=\"Nowhere\"/><column name=\"Cost\"/></categories></chart>")
-      << "what was carried before the failure stays, what lies behind it isn't touched";
+      << "values stored before the failure are kept, and later ones aren't changed";
 }
 
-TEST_F(SourceValidationTest, WhatMakesAChartUnavailable) {
+TEST_F(SourceValidationTest, UnavailableCharts) {
   PlainBook book = test::SalesBook({});
   test::PlainSheet bare{"Bare"};
   bare.rows = {{S("Only a title")}, {}, {S("Region"), S("Amount")}};

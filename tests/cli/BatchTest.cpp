@@ -54,18 +54,17 @@ TEST_F(BatchTest, OneThatFailsDoesNotStopTheOthers) {
       "Brindle Plotsmith: Chart 'Name of VEX_Chart2' has become unavailable because its source table no "
       "longer exists in this workbook.\n"
       "b.xlsx: plotsmith: VEX_ChartDefinitions!A3 (chart 'Name of VEX_Chart2'): There is no table 'Gone'; "
-      "there is Data1, and a sheet counts as a table when it is called exactly Data1 to Data5.\n";
-  const S said =
-      "b.xlsx: " + gone +
-      "none.xlsx: plotsmith: can't read \"none.xlsx\": there is no such file.\n"
-      "text.xlsx: plotsmith: can't read \"text.xlsx\": it is a text file, such as .csv; save it as "
-      ".xlsx first, as only .xlsx, .xlsm, .xltx and .xltm can be read.\n";
+      "there is Data1; a sheet is a table only if its name is exactly one of Data1 to Data5.\n";
+  const S said = "b.xlsx: " + gone +
+                 "none.xlsx: plotsmith: can't read \"none.xlsx\": there is no such file.\n"
+                 "text.xlsx: plotsmith: can't read \"text.xlsx\": it is a text file, such as .csv; save it "
+                 "as .xlsx first, because only .xlsx, .xlsm, .xltx and .xltm can be read.\n";
   for (const S jobs : {"1", "2", "9"}) {
     Write("a.xlsx"), WriteHalf("b.xlsx"), Write("z.xlsx");
     // Messages are in the order of the arguments, independent of the order of completion.
     const CommandResult result =
         RunCommand({"refresh", first, half, none, text, last, first, "--jobs", jobs});
-    EXPECT_EQ(result.code, 3) << "the worst";
+    EXPECT_EQ(result.code, 3) << "the highest of all";
     EXPECT_EQ(Plain(result.err), said);
     EXPECT_EQ(result.out, "");
     EXPECT_TRUE(IsDrawn(first) && IsDrawn(last)) << jobs;
@@ -81,15 +80,15 @@ TEST_F(BatchTest, OneThatFailsDoesNotStopTheOthers) {
   EXPECT_TRUE(watched.err.ends_with("\r2 workbooks: 2 charts refreshed\n")) << watched.err;
 }
 
-TEST_F(BatchTest, OptionsHoldForEachWorkbook) {
+TEST_F(BatchTest, OptionsApplyToEachWorkbook) {
   auto two = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "column", "table-id=\"Data2\""}});
   two.sheets.push_back(test::SalesSheet("Data2"));
   const S both = Write("both.xlsx", two), one = Write("one.xlsx");
   const CommandResult table = RunCommand({"refresh", both, one, "--table", "Data2", "--journal"});
-  EXPECT_EQ(table.code, 2) << "the second has no such table";
+  EXPECT_EQ(table.code, 2) << "the second workbook has no such table";
   EXPECT_EQ(
       Plain(table.err),
-      "one.xlsx: plotsmith: \"one.xlsx\" has no table \"Data2\" (plotsmith tables lists those it has).\n");
+      "one.xlsx: plotsmith: \"one.xlsx\" has no table \"Data2\" (plotsmith tables lists its tables).\n");
   EXPECT_EQ(RunCommand({"cells", both, "VEX_ChartData!A1:A4"}).out, "VEX_Chart2\nVEX_Chart2\nVEX_Chart2\n\n");
   std::istringstream journal(table.out);
   bool ofSecond = false;
@@ -101,7 +100,7 @@ TEST_F(BatchTest, OptionsHoldForEachWorkbook) {
   EXPECT_GT(lines, 10);
 }
 
-TEST_F(BatchTest, ResultsGoIntoAFolderEachByItsName) {
+TEST_F(BatchTest, ResultsAreWrittenIntoAFolderByName) {
   const S first = Write("one/a.xlsx"), second = Write("two/b.xlsx"), twin = Write("two/a.xlsx"),
           out = folder_ / "out";
   const S before = Bytes(first);
@@ -120,13 +119,13 @@ TEST_F(BatchTest, ResultsGoIntoAFolderEachByItsName) {
       {{first, twin, "-o", out},
        "\"one/a.xlsx\" and \"two/a.xlsx\" would both be written to \"a.xlsx\" in \"out\"."},
       {{first, second, "-o", folder_ / "file"},
-       "\"file\" is no folder, and several workbooks can only be written into one."},
+       "\"file\" isn't a folder; several workbooks can only be written into a folder."},
       {{first, second, "-o", folder_ / "nowhere"},
-       "\"nowhere\" is no folder, and several workbooks can only be written into one."},
+       "\"nowhere\" isn't a folder; several workbooks can only be written into a folder."},
       {{first, second, "-o", "-"},
-       "the standard output takes one workbook; several can be written into a folder."},
+       "only one workbook can be written to the standard output; several can be written into a folder."},
       {{second, first, "-o", folder_ / "one"},
-       "\"one/a.xlsx\" is in the folder \"one\" itself; without -o it is refreshed where it is."},
+       "\"one/a.xlsx\" is in the folder \"one\" itself; without -o it is refreshed in place."},
       {{first, second, "--jobs", "0"}, "--jobs needs a number of at least 1."}};
   for (auto [arguments, said] : cases) {
     arguments.insert(arguments.begin(), "refresh");
@@ -134,11 +133,11 @@ TEST_F(BatchTest, ResultsGoIntoAFolderEachByItsName) {
     EXPECT_EQ(result.code, 2);
     EXPECT_EQ(Plain(result.err), "plotsmith: " + said + "\n");
   }
-  EXPECT_TRUE(fs::is_empty(out)) << "all of it is refused before any work";
+  EXPECT_TRUE(fs::is_empty(out)) << "all workbooks are refused before the work";
   EXPECT_EQ(Bytes(first), before);
 }
 
-TEST_F(BatchTest, AWorkbookIsDoneOnceHoweverItIsNamed) {
+TEST_F(BatchTest, AWorkbookWithSeveralNamesIsRefreshedOnce) {
   const S book = Write("a.xlsx"), link = folder_ / "link.xlsx";
   fs::create_symlink("a.xlsx", link);
   const CommandResult result =
@@ -147,7 +146,7 @@ TEST_F(BatchTest, AWorkbookIsDoneOnceHoweverItIsNamed) {
   EXPECT_EQ(result.err, "1 chart refreshed\n");
 }
 
-TEST_F(BatchTest, AWorkerThatDiesTakesOnlyItsOwnWorkbookAlong) {
+TEST_F(BatchTest, AWorkerThatDiesAffectsOnlyItsOwnWorkbook) {
   std::vector<BookRun> runs;
   for (const char* name : {"a", "b", "c", "d", "e"}) runs.push_back({name, std::nullopt});
   const auto doRun = [](const BookRun& run, const Streams& to) -> BookResult {
@@ -158,16 +157,16 @@ TEST_F(BatchTest, AWorkerThatDiesTakesOnlyItsOwnWorkbookAlong) {
     to.out << run.book << '\n';
     return {exit_code::kDone, {2, 0}};
   };
-  const S whole = "; the workbook is as it was, or whole and new.\n";
+  const S whole = "; the workbook is either unchanged or completely refreshed.\n";
   for (const std::size_t processes : {1u, 3u}) {
     std::istringstream in;
     std::ostringstream out, err;
     EXPECT_EQ(RunBatch(runs, doRun, processes, false, {in, out, err}), 3);
     EXPECT_EQ(out.str(), "a: a\nc: c\n");
     EXPECT_EQ(err.str(),
-              "a: done\na: well\nb: plotsmith: the process that worked on it died (Killed)" + whole +
-                  "c: done\nc: well\nd: plotsmith: the process that worked on it died (it left early)" +
-                  whole + "e: plotsmith: something went wrong: std::bad_alloc\n");
+              "a: done\na: well\nb: plotsmith: the process that refreshed it died (Killed)" + whole +
+                  "c: done\nc: well\nd: plotsmith: the process that refreshed it died (it ended early)" +
+                  whole + "e: plotsmith: an unexpected error occurred: std::bad_alloc\n");
   }
 }
 
@@ -186,13 +185,13 @@ TEST_F(BatchTest, AnInterruptStopsTheWorkBetweenOldAndNew) {
   std::ostringstream out, err;
   EXPECT_EQ(RunBatch(runs, doRun, 2, false, {in, out, err}), 128 + SIGINT);
   EXPECT_TRUE(err.str().starts_with("plotsmith: stopped by a signal; ")) << err.str();
-  EXPECT_EQ(Bytes(runs[39].book), before) << "and the rest is left";
+  EXPECT_EQ(Bytes(runs[39].book), before) << "the rest isn't done";
   int files = 0;
   for (const auto& entry : fs::directory_iterator(folder_.Path())) {
     ++files;
     EXPECT_NO_THROW(xlsx::Package::Open(entry.path()).Parts());
   }
-  EXPECT_EQ(files, 40) << "nothing is left beside them";
+  EXPECT_EQ(files, 40) << "there are no other files";
 }
 
 }  // namespace

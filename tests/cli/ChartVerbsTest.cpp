@@ -40,7 +40,7 @@ class ChartVerbsTest : public test::WizardVerbsTest {
   S out_ = folder_ / "out.xlsx";
 };
 
-TEST_F(ChartVerbsTest, WhatIsNotThereIsOneSentenceAndNothingIsSaved) {
+TEST_F(ChartVerbsTest, MissingThingsAreReportedAndNothingIsSaved) {
   const std::pair<std::vector<S>, S> cases[] = {
       // tables, types and charts
       {{"new", "--table", "Sales", "--type", "bar"}, "no table 'Sales'; there are Data1, Data2 and Data3."},
@@ -81,13 +81,13 @@ TEST_F(ChartVerbsTest, WhatIsNotThereIsOneSentenceAndNothingIsSaved) {
        "an area chart has no labels 'names'; it has values and none."},
       {{"modify", "VEX_Chart1", "--set", "100%"}, "--set 100% needs --set stacked."},
       {{"modify", "VEX_Chart1", "--series-columns", "Cost", "--values", "Cost"},
-       "--values needs categories and series that are no number columns."},
+       "--values needs categories and series that aren't number columns."},
       {{"modify", "VEX_Chart1", "--set", "3D", "--unset", "3D"}, "3D can't be both set and unset."},
       {{"modify", "VEX_Chart1", "--title", S(256, 'x')}, "--title takes 255 characters."},
-      {{"modify", "VEX_Chart1", "--name", "a\x02"}, "--name takes no control characters."},
-      {{"modify", "VEX_Chart1", "--number-format", "\x01"}, "--number-format takes no control characters."},
+      {{"modify", "VEX_Chart1", "--name", "a\x02"}, "--name accepts no control characters."},
+      {{"modify", "VEX_Chart1", "--number-format", "\x01"}, "--number-format accepts no control characters."},
       {{"new", "--table", "Data1", "--type", "bar", "--new-sheet", "vex_chartdata"},
-       "--new-sheet can't be 'VEX_ChartData', which is a sheet of Plotsmith's own."},
+       "--new-sheet can't be 'VEX_ChartData', which is one of Plotsmith's own sheets."},
       // messages of the pages
       {{"modify", "VEX_Chart1", "--number-format", "0\""},
        "The requested number format is not supported by Excel."},
@@ -120,7 +120,7 @@ TEST_F(ChartVerbsTest, WhatIsNotThereIsOneSentenceAndNothingIsSaved) {
     EXPECT_EQ(Verb(arguments).code, 2);
 }
 
-TEST_F(ChartVerbsTest, ModifyTouchesOnlyWhatIsNamed) {
+TEST_F(ChartVerbsTest, ModifyChangesOnlyTheGivenSettings) {
   const auto definition = [&](const std::vector<S>& options) {
     std::vector<S> arguments = {"modify", "NAME of vex_chart1"};
     arguments.insert(arguments.end(), options.begin(), options.end());
@@ -161,7 +161,7 @@ TEST_F(ChartVerbsTest, ModifyTouchesOnlyWhatIsNamed) {
   }
 }
 
-TEST_F(ChartVerbsTest, AChartWhoseTableFitsNoLongerGetsAnotherOne) {
+TEST_F(ChartVerbsTest, AChartWithAnUnsuitableTableGetsAnotherOne) {
   const CommandResult result = Verb({"modify", "VEX_Chart2", "--table", "Data1", "--values", "Cost"});
   EXPECT_EQ(result.code, 0) << result.err;
   const S definition = Definition(out_, "VEX_Chart2");
@@ -211,7 +211,7 @@ TEST_F(ChartVerbsTest, OptionsReachTheirControlsFromAnyLayout) {
   }
   EXPECT_EQ(
       Verb({"modify", "VEX_Chart1", "--category-columns", "Amount"}).err,
-      "plotsmith: --category-columns needs series that are no number columns, by --series or --no-series.\n");
+      "plotsmith: --category-columns needs series that aren't number columns, by --series or --no-series.\n");
 }
 
 TEST_F(ChartVerbsTest, AChartOfAnUnknownTypeGetsAnotherOne) {
@@ -240,7 +240,7 @@ TEST_F(ChartVerbsTest, AChartWithoutATableCanOnlyBeDeleted) {
             "plotsmith: no chart 'VEX_Chart1'; the workbook has no charts.\n");
 }
 
-TEST_F(ChartVerbsTest, CopiesStandWhereTheyAreTold) {
+TEST_F(ChartVerbsTest, CopiesAreMadeOnTheGivenSheet) {
   const std::pair<std::vector<S>, S> cases[] = {
       {{}, "VEX_Chart3  \"Copy of Name of VEX_Chart1\"\n  column chart on sheet Charts,"},
       {{"--name", "Twin", "--sheet", "data2"}, "VEX_Chart3  \"Twin\"\n  column chart on sheet Data2,"},
@@ -268,7 +268,7 @@ TEST_F(ChartVerbsTest, DeletesSeveralCharts) {
             "page frmPSSelectAction\n");
 }
 
-TEST_F(ChartVerbsTest, RowsAreNamedByNumberWhereTheirTextIsNotEnough) {
+TEST_F(ChartVerbsTest, AmbiguousRowsAreSelectedByNumber) {
   test::PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}, {"VEX_Chart3"}});
   book_ = Write(book);
   for (const auto& [chart, name] :
@@ -282,12 +282,12 @@ TEST_F(ChartVerbsTest, RowsAreNamedByNumberWhereTheirTextIsNotEnough) {
   EXPECT_EQ(selected("VEX_Chart1"), "select grdCharts #2");
   EXPECT_EQ(selected("VEX_Chart3"), "select grdCharts #3");
   const S sentence =
-      "several charts have the name 'same': VEX_Chart1 and VEX_Chart3; an id names one of them.\n";
+      "several charts have the name 'same': VEX_Chart1 and VEX_Chart3; use the id of one of them.\n";
   EXPECT_EQ(Verb({"delete", "same"}).err, "plotsmith: " + sentence);
   EXPECT_EQ(RunCommand({"definition", book_, "same"}).err, "plotsmith: " + sentence);
 }
 
-TEST_F(ChartVerbsTest, WhatTheBuildHasToSayIsSavedAndSaid) {
+TEST_F(ChartVerbsTest, MessagesOfTheBuildAreReported) {
   test::PlainBook book;
   book.sheets.push_back(test::SalesSheet());
   for (int i = 0; i < 300; ++i) book.sheets[0].rows.push_back({S("East"), "P" + std::to_string(i), 1.0, 1.0});
@@ -305,10 +305,10 @@ TEST_F(ChartVerbsTest, WhatTheBuildHasToSayIsSavedAndSaid) {
       "press cmdFinish\nexpect message \"This chart type is limited to 254 series.\\nSome "
       "data will be dropped from chart 'Chart1'.\"\npage none\n"))
       << printed.out;
-  EXPECT_EQ(Wizard(book_, printed.out).code, 0) << "a script that expects it is content";
+  EXPECT_EQ(Wizard(book_, printed.out).code, 0) << "a script that expects it succeeds";
 }
 
-TEST_F(ChartVerbsTest, ARunThatEndsBeforeItsPagesIsNoSuccess) {
+TEST_F(ChartVerbsTest, ARunThatEndsBeforeItsPagesFails) {
   test::PlainBook book;
   book.sheets.push_back({"Sheet1"});
   book_ = Write(book);

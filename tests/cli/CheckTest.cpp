@@ -26,8 +26,8 @@ using List = std::vector<S>;
 const S kFormula = "><f>1+1</f><v></v></c>";
 
 const S kStray =
-    "A chart here has the alternative text 'VEX_Chart1', and there is no definition of that id; a new chart "
-    "could get the same id. Delete the chart, or clear its alternative text";
+    "A chart here has the alternative text 'VEX_Chart1', but no definition has this id; a new chart could "
+    "get the same id. Delete the chart, or clear its alternative text";
 
 /// Tests the findings of `check`: the indented lines, without the place of the first definition.
 class CheckTest : public ::testing::Test {
@@ -78,7 +78,7 @@ TEST(CheckWordsTest, ListsAndQuotations) {
   EXPECT_EQ(ShellWord("Region=Gebiet O'Neil"), "'Region=Gebiet O'\\''Neil'");
 }
 
-TEST_F(CheckTest, AGoodWorkbookIsListedAndFine) {
+TEST_F(CheckTest, AWorkbookWithoutProblemsIsListed) {
   const auto result = Check(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}}));
   EXPECT_EQ(result.code, 0);
   EXPECT_EQ(result.out,
@@ -92,7 +92,7 @@ TEST_F(CheckTest, AGoodWorkbookIsListedAndFine) {
   EXPECT_EQ(Found(test::BucketBook(test::BucketDefinition())), List{});
 }
 
-TEST_F(CheckTest, WhatTheSystemWritesIsFine) {
+TEST_F(CheckTest, TheSystemsOwnDefinitionsHaveNoProblems) {
   const PlainBook books[] = {SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}, {"VEX_Chart3", "bar"}}),
                              test::BubbleBook({{"a", "b", 1, 2, 3}}, test::BubbleDefinition()),
                              test::BucketBook(test::BucketDefinition())};
@@ -104,7 +104,7 @@ TEST_F(CheckTest, WhatTheSystemWritesIsFine) {
     test::EditPart(path, "/xl/drawings/drawing2.xml",
                    [](S& drawing) { drawing = runtime::Replace(drawing, "descr=", "title="); });
     EXPECT_EQ(RunCommand({"check", path}).code, 1) << "a person has detached the charts";
-    // LibreOffice drops the alternative text. A drawn chart is identified by its data.
+    // LibreOffice drops the alternative text. A drawn chart is then identified by its data.
     auto package = xlsx::Package::Open(path);
     test::SetSavingProgram(package, "LibreOffice/7.4.7.2$Linux_X86_64 LibreOffice_project/40$Build-2");
     package.Save(path);
@@ -130,7 +130,7 @@ TEST_F(CheckTest, AWorkbookWithoutDefinitionsOrTablesIsFine) {
   EXPECT_TRUE(damaged.err.ends_with("sheet2.xml can't be read: its XML is damaged.\n")) << damaged.err;
 }
 
-TEST_F(CheckTest, RowsThatALoadRemovesOrNeverReads) {
+TEST_F(CheckTest, RowsThatAreRemovedOrNotRead) {
   const S good = Definition{"VEX_Chart1"}.Xml();
   const S refused = "; until this is corrected, the workbook is only written with --drop-broken.";
   const S confused =
@@ -168,7 +168,7 @@ TEST_F(CheckTest, RowsThatALoadRemovesOrNeverReads) {
                   "Charts: " + kStray + confused}));
 }
 
-TEST_F(CheckTest, ChartsThatAreNotSeen) {
+TEST_F(CheckTest, InvisibleCharts) {
   const S refused = "; until this is corrected, the workbook is only written with --drop-broken.";
   PlainBook book = SalesBook({{"VEX_Chart1"}});
   book.Sheet("Charts").frames[0].alternativeText = "";
@@ -210,7 +210,7 @@ TEST_F(CheckTest, ChartsThatAreNotSeen) {
       << RunCommand({"check", path}).out;
 }
 
-TEST_F(CheckTest, NamesAndValuesThatADefinitionCannotHave) {
+TEST_F(CheckTest, InvalidNamesAndValuesInDefinitions) {
   const auto with = [](const auto& change) {
     Definition definition;
     change(definition);
@@ -225,7 +225,8 @@ TEST_F(CheckTest, NamesAndValuesThatADefinitionCannotHave) {
   const std::pair<Definition, List> cases[] = {
       {typed("line"), {"The attribute 'type' has an unknown value 'line'; it can be " + types}},
       {typed("unknown"),
-       {"The type is 'unknown', since the chart was changed by hand to one that isn't supported; it can be " +
+       {"The type is 'unknown', because the chart was changed by hand to a type that isn't supported; it can "
+        "be " +
         types}},
       {typed(""), {"The element 'chart' has no 'type'; it can be " + types}},
       {attributes("colour=\"red\" xmlns:x=\"y\" x:z=\"1\" table-height=\"5\""),
@@ -269,7 +270,7 @@ TEST_F(CheckTest, NamesAndValuesThatADefinitionCannotHave) {
   for (const auto& [definition, findings] : cases) EXPECT_EQ(Found(definition), findings) << definition.Xml();
 }
 
-TEST_F(CheckTest, WhatATypeNeeds) {
+TEST_F(CheckTest, RequirementsOfTypes) {
   const S rows =
       "<categories headings-in=\"rows\"><column name=\"Region\"/><column name=\"Product\"/></categories>";
   const S across =
@@ -287,35 +288,32 @@ TEST_F(CheckTest, WhatATypeNeeds) {
        {"A bar chart needs the element 'values', unless its headings are in columns."}},
       {definition("bar", region + product + "<values/>"), {"The element 'values' names no column."}},
       {definition("bar", rows + product + amount),
-       {"The element 'categories' with headings in rows takes one column, and it names 2."}},
+       {"The element 'categories' with headings in rows needs exactly one column, but names 2."}},
       {definition("bar", runtime::Replace(rows, "rows", "columns") + across),
-       {"Categories and series both have their headings in columns; only one of them can.",
+       {"Categories and series both have their headings in columns, but only one of them can.",
         "Data1!A2: The column 'Region' isn't a number column, which 'categories' needs, because this cell "
         "contains the text 'East', which counts as 0.",
         "Data1!B2: The column 'Product' isn't a number column, which 'categories' needs, because this cell "
         "contains the text 'Widget', which counts as 0."}},
       {definition("bubble", region + across + amount),
-       {"A bubble chart has no headings in columns; 'headings-in' is rows, or none for series."}},
+       {"A bubble chart can't have headings in columns; 'headings-in' must be rows, or none for series."}},
       {definition("bubble", region), {"A bubble chart needs the element 'values'."}}};
   for (const auto& [tried, findings] : cases) EXPECT_EQ(Found(tried), findings) << tried.Xml();
 }
 
-TEST_F(CheckTest, TablesAndColumnsThatAreNotThere) {
+TEST_F(CheckTest, MissingTablesAndColumns) {
   const auto over = [](const S& table) { return Definition{"VEX_Chart1", "column", table}; };
   PlainBook book = SalesBook({over("table-id=\"Sales\"")});
   book.names = {{"VEX_TableRange2", "Data1!$A$1:$D$5"},
                 {"VEX_TableRange3", "#REF!"},
                 {"VEX_TableRange4", "Data1!$A$1:$D$2"}};
-  EXPECT_EQ(
-      Found(book),
-      (List{
-          "There is no table 'Sales'; there are VEX_TableRange2 and Data1, and a sheet counts as a table "
-          "when "
-          "it is called exactly Data1 to Data5.",
-          "VEX_TableRange3: The name 'VEX_TableRange3' marks no table, because it refers to '=#REF!', which "
-          "isn't a range of cells.",
-          "VEX_TableRange4: The name 'VEX_TableRange4' marks no table, because it refers to 2 rows, and the "
-          "head of a table alone has three."}));
+  EXPECT_EQ(Found(book), (List{"There is no table 'Sales'; there are VEX_TableRange2 and Data1; a sheet is a "
+                               "table only if its name is exactly one of Data1 to Data5.",
+                               "VEX_TableRange3: The name 'VEX_TableRange3' doesn't define a table, because "
+                               "it refers to '=#REF!', which "
+                               "isn't a range of cells.",
+                               "VEX_TableRange4: The name 'VEX_TableRange4' doesn't define a table, because "
+                               "it refers to 2 rows, but the head of a table alone takes three."}));
   EXPECT_EQ(Found(over("")), List{"The definition has no 'table-id'; there is Data1."});
   EXPECT_EQ(Found(over("table-id=\"data1\"")), List{}) << "the case of an id doesn't matter";
 
@@ -326,7 +324,8 @@ TEST_F(CheckTest, TablesAndColumnsThatAreNotThere) {
                  "Amount and Cost."});
   book = SalesBook({{"VEX_Chart1"}});
   book.Sheet("Data1").rows.resize(1);
-  EXPECT_EQ(Found(book), List{"There is no table 'Data1', as its sheet has no row of data; there are none."});
+  EXPECT_EQ(Found(book),
+            List{"There is no table 'Data1', because its sheet has no row of data; there are none."});
 
   book = SalesBook({over("table-id=\"VEX_TableRange1\"")});
   book.sheets.push_back({"Sheet2", {{S("Empty")}, {}, {S("Region"), S("Product"), S("Amount")}}});
@@ -354,16 +353,15 @@ TEST_F(CheckTest, BucketTablesThatDoNotFit) {
   EXPECT_EQ(found(runtime::Replace(usual, "VEX_SB1", "Data1"), asItIs),
             List{"The table 'Data1' can't be the bucket table of its own chart."});
   EXPECT_EQ(found(usual, [](PlainBook& book) { book.Sheet("Buckets").rows[3][1] = S("much"); }),
-            List{"The table 'VEX_SB1' can't be a bucket table, as that is a range table with a label column "
-                 "first and "
-                 "a number column second."});
+            List{"The table 'VEX_SB1' can't be a bucket table, which is a range table with a label column "
+                 "followed by a number column."});
   EXPECT_EQ(found(usual, [](PlainBook& book) { book.Sheet("Buckets").rows[2][0] = S("Strategy"); }),
-            List{"The bucket table 'VEX_SB1' doesn't go with the table 'Data1', which has no label column "
+            List{"The bucket table 'VEX_SB1' doesn't match the table 'Data1', which has no label column "
                  "'Strategy'; "
                  "its label columns are Project, Theme and Bucket."});
 }
 
-TEST_F(CheckTest, CellsThatAreErrorsTextsOrFormulasWithoutAResult) {
+TEST_F(CheckTest, UnsuitableCells) {
   const auto found = [&](const auto& change) {
     PlainBook book = SalesBook({{"VEX_Chart1"}});
     change(book.Sheet("Data1").rows);
@@ -383,15 +381,15 @@ TEST_F(CheckTest, CellsThatAreErrorsTextsOrFormulasWithoutAResult) {
             }),
             List{"Data1!C3: The column 'Amount' isn't a number column, which 'values' needs, because this "
                  "cell contains the text 'n/a', which counts as 0."});
-  const S calculate = "; have a spreadsheet program calculate and save the workbook.";
+  const S calculate = "; calculate and save the workbook in a spreadsheet program.";
   EXPECT_EQ(
       found([&](Rows& rows) { rows[1][3] = rows[3][3] = rows[4][3] = formula; }),
       List{"Data1!D2: The column 'Cost' has 3 formulas without a result, the first one here, which count as "
            "blank" +
            calculate});
-  EXPECT_EQ(found([&](Rows& rows) { rows[0][3] = rows[1][3] = formula; }),
-            List{"Data1!D1: The heading is a formula without a result, so that its column doesn't exist" +
-                 calculate});
+  EXPECT_EQ(
+      found([&](Rows& rows) { rows[0][3] = rows[1][3] = formula; }),
+      List{"Data1!D1: The heading is a formula without a result, so its column is ignored" + calculate});
   EXPECT_EQ(found([&](Rows& rows) {
               rows[0].push_back(RawCell{"><f>A1</f><v>5</v></c>"});
               rows[1].push_back(RawCell{" t=\"str\"><f>\"\"</f><v></v></c>"});
@@ -428,10 +426,10 @@ TEST_F(CheckTest, DatesAreNumbersToAChart) {
   rows[2][2] = RawCell{" t=\"e\"><v>#REF!</v></c>"};
   EXPECT_EQ(Found(book), List{"Data1!C3: The column 'Across' isn't a number column, which 'x-values' needs, "
                               "because this cell contains the error #REF!, which counts as 0."})
-      << "without the error it would be a label column all the same";
+      << "without the error it would still be a label column";
 }
 
-TEST_F(CheckTest, JsonHasTheSameFacts) {
+TEST_F(CheckTest, JsonHasTheSameContent) {
   PlainBook book = SalesBook({{"VEX_Chart1", "column", "table-id=\"Gone\""}});
   book.Sheet("Data1").rows[1][3] = RawCell{kFormula};
   book.names = {{"VEX_SB1", "#REF!"}};
@@ -443,7 +441,7 @@ TEST_F(CheckTest, JsonHasTheSameFacts) {
     "table": "Gone", "chartSheet": "Charts",
     "findings": [{"place": "VEX_ChartDefinitions!A2", "kind": "table",
                   "severity": "said",
-                  "sentence": "There is no table 'Gone'; there is Data1, and a sheet counts as a table when it is called exactly Data1 to Data5."}]}])"));
+                  "sentence": "There is no table 'Gone'; there is Data1; a sheet is a table only if its name is exactly one of Data1 to Data5."}]}])"));
   ASSERT_EQ(json["tables"].size(), 2u);
   const auto& table = json["tables"][0];
   EXPECT_EQ(table["columns"], nlohmann::ordered_json::parse(

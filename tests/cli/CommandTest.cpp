@@ -34,13 +34,13 @@ class CommandTest : public ::testing::Test {
   test::TempFolder folder_;
 };
 
-TEST_F(CommandTest, RefreshSaysNothingWhenAllIsWell) {
+TEST_F(CommandTest, RefreshPrintsNothingWithoutProblems) {
   const S book = Write(SalesBook({{"VEX_Chart1"}}));
   const S before = Bytes(book);
   const CommandResult refreshed = RunCommand({"refresh", book, "-o", folder_ / "out.xlsx"});
   EXPECT_EQ(refreshed.code, 0) << refreshed.err;
   EXPECT_EQ(refreshed.out + refreshed.err, "");
-  EXPECT_EQ(Bytes(book), before) << "with -o the workbook itself stays";
+  EXPECT_EQ(Bytes(book), before) << "with -o the workbook itself doesn't change";
   EXPECT_EQ(RunCommand({"cells", folder_ / "out.xlsx", "VEX_ChartData!A1:D3"}).out,
             "VEX_Chart1\t\tWidget\tGadget\nVEX_Chart1\tEast\t11\t7\nVEX_Chart1\tWest\t5\t\n");
   EXPECT_EQ(RunCommand({"refresh", book}).code, 0);
@@ -58,11 +58,11 @@ TEST_F(CommandTest, MessagesReachStderrWordForWord) {
       "no longer "
       "exists in this workbook.\n"
       "plotsmith: VEX_ChartDefinitions!A2 (chart 'Name of VEX_Chart1'): There is no table 'Gone'; there "
-      "is Data1, and a sheet counts as a table when it is called exactly Data1 to Data5.\n");
+      "is Data1; a sheet is a table only if its name is exactly one of Data1 to Data5.\n");
   EXPECT_NE(RunCommand({"charts", book}).out.find("table no longer fits"), S::npos);
 }
 
-TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
+TEST_F(CommandTest, UnreadableFilesAreReportedAndNothingIsWritten) {
   const auto file = [&](const S& name, const S& bytes) {
     std::ofstream(folder_ / name, std::ios::binary) << bytes;
     return folder_ / name;
@@ -74,7 +74,8 @@ TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
     return folder_ / name;
   };
   const auto other = [](const S& format) {
-    return "it is " + format + "; save it as .xlsx first, as only .xlsx, .xlsm, .xltx and .xltm can be read";
+    return "it is " + format +
+           "; save it as .xlsx first, because only .xlsx, .xlsm, .xltx and .xltm can be read";
   };
   const S pipe = folder_ / "pipe.xlsx";
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
@@ -107,7 +108,7 @@ TEST_F(CommandTest, WhatCannotBeReadIsOneSentenceAndNothingIsWritten) {
       {zip("book.numbers", "Index/Document.iwa", "x"), other("a spreadsheet of Numbers (.numbers)")},
       {zip("other.zip", "readme", "x"), "it is not an Office document: it has no content types"},
       {pipe, "it is not a regular file"},
-      {shared, "its sheets One and Three have one part in common"},
+      {shared, "its sheets One and Three share one part"},
       {bad, "its part /xl/worksheets/sheet1.xml can't be read: its XML is damaged"}};
   for (const auto& [path, reason] : cases) {
     const S before = path == pipe ? "" : Bytes(path);  // Reading the pipe would wait for a writer.
@@ -166,7 +167,7 @@ TEST_F(CommandTest, NothingIsSavedAfterTheOutputWasLost) {
   EXPECT_EQ(Bytes(book), before);
 }
 
-TEST_F(CommandTest, WhatIsNoFileSaysSo) {
+TEST_F(CommandTest, PathsWithoutAFileAreReported) {
   std::filesystem::create_symlink("round", folder_.Path() / "round");
   for (const S& path : {folder_ / "nothing.xlsx", folder_ / S(300, 'x'), folder_ / "round", folder_ / ""}) {
     const CommandResult result = RunCommand({"refresh", path});
@@ -176,7 +177,7 @@ TEST_F(CommandTest, WhatIsNoFileSaysSo) {
   }
 }
 
-TEST_F(CommandTest, WrongUsageIsTwo) {
+TEST_F(CommandTest, WrongUsageHasExitCode2) {
   const S book = Write(SalesBook({}));
   for (const std::vector<S>& arguments :
        std::vector<std::vector<S>>{{},
@@ -203,7 +204,7 @@ TEST_F(CommandTest, WrongUsageIsTwo) {
   EXPECT_NE(RunCommand({"refresh", "--help"}).out.find("--table"), S::npos);
 }
 
-TEST_F(CommandTest, AWorkbookThatIsOpenElsewhereIsLeftAlone) {
+TEST_F(CommandTest, AWorkbookThatIsOpenElsewhereIsRefused) {
   for (const char* lock : {".~lock.book.xlsx#", "~$book.xlsx"}) {
     const S book = Write(SalesBook({{"VEX_Chart1"}}));
     std::ofstream(folder_ / lock) << "somebody";
@@ -348,11 +349,11 @@ TEST_F(CommandTest, AStateHasItsReason) {
     EXPECT_EQ(reason.empty(), states[i] == "ok");
     EXPECT_NE(reason.find(words[i]), S::npos) << reason;
     if (reason.empty()) continue;
-    EXPECT_NE(reason.find(definitions[i]["findings"][0]["sentence"]), S::npos) << "as check says it";
+    EXPECT_NE(reason.find(definitions[i]["findings"][0]["sentence"]), S::npos) << "as in the output of check";
   }
 }
 
-TEST_F(CommandTest, ARunWithoutChartsSaysSo) {
+TEST_F(CommandTest, ARunWithoutChartsIsReported) {
   const S none = Write(SalesBook({}), "none.xlsx"), one = Write(SalesBook({{"VEX_Chart1"}}), "one.xlsx");
   test::PlainBook other = SalesBook({{"VEX_Chart1"}});
   other.sheets.push_back(test::SalesSheet("Data2"));
@@ -371,7 +372,7 @@ TEST_F(CommandTest, ARunWithoutChartsSaysSo) {
   EXPECT_EQ(result.err, "1 chart refreshed\n");
 }
 
-TEST_F(CommandTest, DatesHaveAnIsoTextBesideTheirNumber) {
+TEST_F(CommandTest, DatesHaveAnIsoTextAndANumber) {
   test::PlainBook plain = SalesBook({});
   plain.styles =
       "<styleSheet xmlns='http://schemas.openxmlformats.org/spreadsheetml/2006/main'><numFmts>"
@@ -398,7 +399,7 @@ TEST_F(CommandTest, DatesHaveAnIsoTextBesideTheirNumber) {
   EXPECT_EQ(cells({"--value", "--json"}).substr(0, 44), R"([[{"number":45000.25,"iso":"2027-03-16"},{"n)");
 }
 
-TEST_F(CommandTest, HelpAndVersionAreToldInEveryWay) {
+TEST_F(CommandTest, HelpAndVersionCanBeRequestedInEveryWay) {
   const S all = RunCommand({"--help"}).out, refresh = RunCommand({"refresh", "--help"}).out;
   EXPECT_EQ(RunCommand({"help"}).out, all);
   EXPECT_EQ(RunCommand({"help", "refresh"}).out, refresh);
@@ -434,7 +435,7 @@ TEST_F(CommandTest, JournalVersionAndProgress) {
   const CommandResult watched =
       RunCommand({"refresh", book, "-o", folder_ / "o.xlsx"}, "", test::Watched::kMessages);
   EXPECT_NE(watched.err.find("\rRefreshing chart 2 ..."), S::npos);
-  EXPECT_TRUE(watched.err.ends_with("\r2 charts refreshed\n")) << "and the line is wiped";
+  EXPECT_TRUE(watched.err.ends_with("\r2 charts refreshed\n")) << "the progress line is erased";
   EXPECT_EQ(watched.code, 0);
   EXPECT_EQ(VersionText(16), "16.0");
   EXPECT_EQ(VersionText(11.5), "11.5");
@@ -449,7 +450,7 @@ TEST_F(CommandTest, OneTableOnly) {
   EXPECT_EQ(RunCommand({"cells", book, "VEX_ChartData!A1:A4"}).out, "VEX_Chart2\nVEX_Chart2\nVEX_Chart2\n\n");
 }
 
-TEST_F(CommandTest, RenamedColumnsAreCarriedIntoTheCharts) {
+TEST_F(CommandTest, ChartsFollowRenamedColumns) {
   auto sales = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "bar", "table-id=\"Data2\" title=\"\""}});
   sales.Sheet("Charts").frames[1].alternativeText = "VEX_Chart2";
   const S book = Write(sales);
@@ -493,7 +494,7 @@ TEST_F(CommandTest, RenamedColumnsAreCarriedIntoTheCharts) {
 
   const S before = Bytes(book);
   result = RunCommand({"rename-columns", book, "--table", "Data1", "Amount=Units"});
-  EXPECT_EQ(result.err, waiting) << "it is renamed already";
+  EXPECT_EQ(result.err, waiting) << "it is already renamed";
   result = RunCommand({"rename-columns", book, "--table", "Data1", "Amuont=Money", "label=Text"});
   EXPECT_EQ(result.code, 1);
   EXPECT_EQ(result.err,

@@ -24,7 +24,7 @@ class FormPrinterTest : public ::testing::Test {
   test::SmallForm form_{log_};
 };
 
-TEST_F(FormPrinterTest, AFormIsShownAsAPersonSeesIt) {
+TEST_F(FormPrinterTest, AFormIsPrintedAsItIsVisible) {
   std::ostringstream out;
   PrintForm(out, forms::StateOf(form_));
   EXPECT_EQ(out.str(), R"(frmSmall  A small form

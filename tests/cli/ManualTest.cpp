@@ -34,7 +34,7 @@ S Piece(const S& text, const S& begin, const S& end) {
   return text.substr(from, text.find("\n" + end, from + begin.size()) - from);
 }
 
-TEST(ManualTest, ThePageTellsOfEachVerbAndOptionInItsPlace) {
+TEST(ManualTest, ThePageDescribesEachVerbAndOption) {
   const CommandLine line;
   const S page = Unmarked(ManualPage(line));
   ASSERT_GE(line.verbs.size(), 8u);
@@ -57,7 +57,7 @@ TEST(ManualTest, ThePageTellsOfEachVerbAndOptionInItsPlace) {
   EXPECT_NE(page.find("\nplotsmith format [FORMAT VALUE] [--tsv] [--date1904]\n"), S::npos);
 }
 
-TEST(ManualTest, NoLineOfThePageIsMistakenForARequest) {
+TEST(ManualTest, NoLineOfThePageIsAnAccidentalRequest) {
   std::istringstream page(ManualPage(CommandLine()));
   for (S text; std::getline(page, text);) {
     EXPECT_TRUE(std::regex_search(text, std::regex(R"(^(\.(TH|SH|SS|TP|br)\b|\.\\"|[^.']))"))) << text;
@@ -92,7 +92,7 @@ class CompletionTest : public ::testing::Test {
   test::TempFolder folder_;
 };
 
-TEST_F(CompletionTest, BashOffersWhatFits) {
+TEST_F(CompletionTest, BashOffersMatchingWords) {
   using List = std::vector<S>;
   const std::pair<S, List> cases[] = {
       {"plotsmith re", {"refresh", "rename-columns", "render"}},
@@ -136,7 +136,7 @@ class BookCompletionTest : public CompletionTest {
   std::vector<S> texts_;
 };
 
-TEST_F(BookCompletionTest, TheCommandListsWhatAWorkbookHas) {
+TEST_F(BookCompletionTest, TheCommandListsTheContentsOfAWorkbook) {
   const S book = folder_ / "my book.xlsx";
   using List = std::vector<S>;
   const std::pair<List, S> cases[] = {
@@ -191,7 +191,7 @@ TEST_F(BookCompletionTest, BashAsksTheWorkbook) {
   }
 }
 
-TEST_F(BookCompletionTest, ZshCallsWhatItsScriptDefines) {
+TEST_F(BookCompletionTest, ZshCallsTheFunctionsOfItsScript) {
   std::ifstream file(folder_ / "_plotsmith");
   const S script((std::istreambuf_iterator<char>(file)), {});
   for (const S word : {"tables", "charts", "columns", "types"}) {
@@ -216,7 +216,7 @@ TEST_F(CompletionTest, EveryVerbAndOptionIsOffered) {
   }
 }
 
-TEST_F(CompletionTest, EachScriptIsGoodForItsShell) {
+TEST_F(CompletionTest, EachScriptIsValid) {
   std::ofstream(folder_ / "_plotsmith") << ZshCompletion(CommandLine());
   const std::pair<S, S> cases[] = {{"bash", "plotsmith.bash"}, {"zsh", "_plotsmith"}};
   for (const auto& [shell, script] : cases) {

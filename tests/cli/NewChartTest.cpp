@@ -123,7 +123,7 @@ TEST_F(NewChartTest, ChartsOfAllTypesAreMadeOnAPlainWorkbook) {
   }
 }
 
-TEST_F(NewChartTest, ARefreshFindsNothingToDoAfterIt) {
+TEST_F(NewChartTest, ARefreshChangesNothingAfterwards) {
   const S book = Write(test::PlainSales()), out = folder_ / "out.xlsx",
           refreshed = folder_ / "refreshed.xlsx";
   for (const NewChart& chart : kNewCharts) {
@@ -136,7 +136,7 @@ TEST_F(NewChartTest, ARefreshFindsNothingToDoAfterIt) {
   }
 }
 
-TEST_F(NewChartTest, TheScriptThatIsPrintedDoesTheSame) {
+TEST_F(NewChartTest, ThePrintedScriptMakesTheSameChart) {
   const S book = Write(test::PlainSales()), out = folder_ / "out.xlsx", played = folder_ / "played.xlsx";
   const S before = Bytes(book);
   for (const NewChart& chart : kNewCharts) {

@@ -52,7 +52,7 @@ class OtherProgramTest : public testing::Test {
   test::TempFolder folder_;
 };
 
-TEST_F(OtherProgramTest, TheWizardsProgramGetsTheArgumentsAndItsEndIsTheCommands) {
+TEST_F(OtherProgramTest, TheWizardsProgramGetsTheArgumentsAndItsExitCodeIsReturned) {
   PutProgram("bin", "printf '[%s]' \"$@\"\nexit 7\n");
   struct Row {
     S arguments, passed;
@@ -69,16 +69,15 @@ TEST_F(OtherProgramTest, TheWizardsProgramGetsTheArgumentsAndItsEndIsTheCommands
   EXPECT_EQ(Wizard("book.xlsx", "").status, 128 + SIGTERM);
 }
 
-TEST_F(OtherProgramTest, TheWizardsProgramIsLookedForBesideTheCommandAndThenInPath) {
-  const Ended absent = {
-      2,
-      "plotsmith: the wizard's window is the program plotsmith-wizard, which isn't installed; --script FILE "
-      "plays a "
-      "script on the wizard's pages, and new, modify, copy and delete go through them by themselves.\n"};
+TEST_F(OtherProgramTest, TheWizardsProgramIsSearchedBesideTheCommandAndThenInPath) {
+  const Ended absent = {2,
+                        "plotsmith: the wizard's window is the program plotsmith-wizard, which isn't "
+                        "installed; without it, --script FILE runs a script on the wizard's pages, and the "
+                        "verbs new, modify, copy and delete operate the pages.\n"};
   const S path = "/none:" + (folder_ / "path");
   EXPECT_EQ(Wizard("book.xlsx", path), absent);
   PutProgram("work", "echo current\n");
-  EXPECT_EQ(Wizard("book.xlsx", ":." + path), absent) << "the current folder isn't asked";
+  EXPECT_EQ(Wizard("book.xlsx", ":." + path), absent) << "the current folder isn't searched";
   PutProgram("path", "echo path\n", false);
   EXPECT_EQ(Wizard("book.xlsx", path), absent) << "it can't be run";
   PutProgram("path", "echo path\n");

@@ -69,8 +69,8 @@ TEST_F(OutputTest, EachWritingVerbWritesTheSameToTheStandardOutputAsToAFile) {
     const CommandResult printed = with({"-o", "-", "--journal"});
     EXPECT_LE(printed.code, 1) << printed.err;
     EXPECT_EQ(printed.code, saved.code);
-    EXPECT_EQ(printed.out, Bytes(file)) << "and nothing else";
-    EXPECT_EQ(printed.err, saved.out + saved.err) << "what would go to the output, and the messages";
+    EXPECT_EQ(printed.out, Bytes(file)) << "there is no other output";
+    EXPECT_EQ(printed.err, saved.out + saved.err) << "the output and the messages";
     EXPECT_EQ(Bytes(book), before);
     std::filesystem::remove(file);
   }
@@ -111,10 +111,10 @@ TEST_F(OutputTest, TheContentTypeFollowsTheExtension) {
   }
 }
 
-TEST_F(OutputTest, WhatAFileCannotHoldIsRefusedBeforeTheWork) {
+TEST_F(OutputTest, UnsuitableExtensionsAreRefusedBeforeTheWork) {
   const S plain = Write("plain.xlsx"), macros = Write("macros.xlsm", true);
-  const S hasMacros = "the workbook has macros, which a file ",
-          hold = " can't hold; give it the extension .xlsm";
+  const S hasMacros = "the workbook has macros, which a file with the extension ",
+          hold = " can't contain; use .xlsm";
   struct Case {
     S book, out, reason;
   };

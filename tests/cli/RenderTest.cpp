@@ -96,7 +96,7 @@ class RenderTest : public ::testing::Test {
   S fresh_;
 };
 
-TEST(PictureNamesTest, NamesAreSafeShortAndToldFromEachOther) {
+TEST(PictureNamesTest, NamesAreSafeShortAndUnique) {
   const struct {
     S book, what, name;
   } cases[] = {
@@ -168,8 +168,7 @@ TEST_F(RenderTest, TheHelpSaysTheFormatThatIsTakenWithoutOne) {
 TEST_F(RenderTest, AMachineWithoutFontsIsSaidOnce) {
   const S none = folder_ / "fonts.conf", said = folder_ / "said.txt";
   std::ofstream(none) << "<?xml version=\"1.0\"?><fontconfig></fontconfig>";
-  const S sentence =
-      "plotsmith: no fonts are installed, so texts are not where they should be, or are missing.\n";
+  const S sentence = "plotsmith: no fonts are installed, so texts are misplaced or missing.\n";
   const struct {
     S environment, arguments;
     int code;
@@ -202,22 +201,21 @@ TEST_F(RenderTest, WhatCantBeMeantIsRefusedInOneSentence) {
       {{"BOOK", "Data1!Chart 3", "-o", "DIR"}, 2, "\"BOOK\" has no chart 'Data1!Chart 3'; " + there},
       {{"BOOK", "-o", "DIR/a.png"},
        2,
-       "\"DIR/a.png\" takes one picture, and there are 2 charts; a folder or a PDF takes several.\n"},
+       "\"DIR/a.png\" can contain only one picture, but there are 2 charts; use a folder or a PDF.\n"},
       {{"BOOK", "-o", "-"},
        2,
-       "the standard output takes one picture, and there are 2 charts; a folder or a PDF takes several.\n"},
+       "the standard output can contain only one picture, but there are 2 charts; use a folder or a PDF.\n"},
       {{"BOOK", "-o", "DIR/a.gif"},
        2,
-       "the name \"DIR/a.gif\" has no known extension: use .svg, .png or .pdf, or --format; a folder has to "
-       "be "
-       "there, or ends with \"/\".\n"},
+       "the name \"DIR/a.gif\" has no known extension: use .svg, .png or .pdf, or --format; the name of a "
+       "new folder ends with \"/\".\n"},
       {{"BOOK", "-o", "DIR/a.png", "--format", "svg"},
        2,
-       "\"DIR/a.png\" and --format svg are two formats.\n"},
+       "\"DIR/a.png\" and --format svg are different formats.\n"},
       {{"BOOK", "--format", "gif"}, 2, "--format must be svg, png or pdf, not 'gif'.\n"},
       {{"BOOK", "--dpi", "300", "-o", "DIR"},
        2,
-       "--dpi is for PNG; --scale makes a picture of any format larger.\n"},
+       "--dpi applies only to PNG; --scale enlarges pictures of all formats.\n"},
       {{"BOOK", "--dpi", "nan", "-o", "DIR", "--format", "png"},
        2,
        "--dpi needs a number from 10 to 2400.\n"},
@@ -230,11 +228,11 @@ TEST_F(RenderTest, WhatCantBeMeantIsRefusedInOneSentence) {
       {{"BOOK", "--sheet", "Empty", "-o", "DIR"}, 2, "the sheet \"Empty\" has nothing to print.\n"},
       {{"BOOK", "--sheet", "Many rows", "-o", "DIR/a.svg"},
        2,
-       "\"DIR/a.svg\" takes one picture, and there are 3 pages; a folder or a PDF takes several.\n"},
+       "\"DIR/a.svg\" can contain only one picture, but there are 3 pages; use a folder or a PDF.\n"},
       {{"BOOK", "VEX_Chart1", "--sheet", "Charts"},
        2,
-       "--sheet draws a whole sheet, so no chart can be named with it.\n"},
-      {{"BOOK", "--one-page"}, 2, "--one-page goes with --sheet.\n"},
+       "--sheet draws a whole sheet and can't be combined with charts.\n"},
+      {{"BOOK", "--one-page"}, 2, "--one-page can only be used with --sheet.\n"},
       {{"BOOK", "VEX_Chart1", "-o", "DIR/no/a.svg"},
        3,
        "can't write \"DIR/no/a.svg\": No such file or directory.\n"},
@@ -349,10 +347,9 @@ TEST_F(RenderTest, AWorkbookWithoutChartsOfPlotsmithNamesTheOthers) {
   book.Write(path);
   CommandResult result = Run({"render", path, "-o", "DIR"});
   EXPECT_EQ(result.code, 1);
-  EXPECT_EQ(result.err,
-            "plotsmith: \"" + path +
-                "\" has no charts of Plotsmith, so nothing was drawn; named as an argument, others "
-                "are drawn too: 'It''s'!Chart 1.\n");
+  EXPECT_EQ(result.err, "plotsmith: \"" + path +
+                            "\" has no charts of Plotsmith, so nothing was drawn; other charts are drawn if "
+                            "you name them: 'It''s'!Chart 1.\n");
   result = Run({"render", path, "'It''s'!Chart 1", "-o", "DIR"});
   EXPECT_EQ(result.code, 0) << result.err;
   EXPECT_EQ(Files(), "other-It-s-Chart-1.svg svg");

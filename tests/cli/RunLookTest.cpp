@@ -69,16 +69,15 @@ class RunLookTest : public ::testing::Test {
 };
 
 const S kStray =
-    "plotsmith: Charts: A chart here has the alternative text 'VEX_Chart1', and there is no definition of "
-    "that "
-    "id; a new chart could get the same id. Delete the chart, or clear its alternative text.\n";
+    "plotsmith: Charts: A chart here has the alternative text 'VEX_Chart1', but no definition has this id; a "
+    "new chart could get the same id. Delete the chart, or clear its alternative text.\n";
 
 /// Returns a line about the first definition of a sales workbook.
 S Line(const S& sentence, const S& place = "VEX_ChartDefinitions!A2") {
   return "plotsmith: " + place + " (chart 'Name of VEX_Chart1'): " + sentence + "\n";
 }
 
-TEST_F(RunLookTest, NothingIsWrittenWhereADefinitionWouldBeLost) {
+TEST_F(RunLookTest, NothingIsWrittenIfADefinitionWouldBeLost) {
   const S good = Definition{"VEX_Chart1"}.Xml();
   const S named = " (chart 'Name of VEX_Chart1'): ";
   const struct {
@@ -106,9 +105,10 @@ TEST_F(RunLookTest, NothingIsWrittenWhereADefinitionWouldBeLost) {
                              List{"wizard", path_, "--script", "-"}}) {
       const CommandResult refused = RunCommand(verb);
       EXPECT_EQ(refused.code, 3) << verb[0];
-      EXPECT_EQ(refused.err, line +
-                                 ".\nplotsmith: nothing was changed, as 1 definition would be lost; correct "
-                                 "this, or use --drop-broken.\n");
+      EXPECT_EQ(refused.err,
+                line +
+                    ".\nplotsmith: nothing was changed, because 1 definition would be lost; correct "
+                    "this, or use --drop-broken.\n");
       EXPECT_EQ(Bytes(path_), before) << verb[0];
     }
     const S noCharts = row.charts == 0 ? kStray + NothingToRefresh() : "";
@@ -119,7 +119,7 @@ TEST_F(RunLookTest, NothingIsWrittenWhereADefinitionWouldBeLost) {
   }
 }
 
-TEST_F(RunLookTest, ADrawnChartThatIsGoneTakesItsDefinitionAlong) {
+TEST_F(RunLookTest, AMissingDrawnChartLosesItsDefinition) {
   Write(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}}));
   EXPECT_EQ(Refresh(), "");
   Edit(kDrawing, "descr=\"VEX_Chart1\"", "descr=\"Mine\"");
@@ -150,7 +150,7 @@ TEST_F(RunLookTest, AGroupedChartIsNotLost) {
   EXPECT_EQ(Refresh(), "") << "the definition is still there";
 }
 
-TEST_F(RunLookTest, RowsThatAreNotReadAndNamesThatAreUnknownAreSaid) {
+TEST_F(RunLookTest, UnreadRowsAndUnknownNamesAreReported) {
   Definition odd{"VEX_Chart1"};
   odd.attributes += " colour=\"red\"";
   odd.rest = test::Settings({"staked"});
@@ -166,7 +166,7 @@ TEST_F(RunLookTest, RowsThatAreNotReadAndNamesThatAreUnknownAreSaid) {
           Line(colour) + Line(settings) +
           Line("This definition is never read, because VEX_ChartDefinitions!A3 is blank and ends the list.",
                "VEX_ChartDefinitions!A4"))
-      << "the places are those after the run";
+      << "the cells are those after the run";
 
   Write(SalesBook({{"VEX_Chart1", "line"}}));
   EXPECT_EQ(Refresh(),
@@ -175,14 +175,14 @@ TEST_F(RunLookTest, RowsThatAreNotReadAndNamesThatAreUnknownAreSaid) {
                      "pie, bubble or strategic bucket."));
 }
 
-TEST_F(RunLookTest, ADefinitionThatAProgramChangedIsToldFromAChartThatAPersonChanged) {
+TEST_F(RunLookTest, ChangesOfDefinitionsAndOfChartsAreDistinguished) {
   Definition definition{"VEX_Chart1"};
   definition.rest = "<axes><axis type=\"value\" label=\"Euro\" sticky=\"no\"/></axes>";
   PlainBook book = SalesBook({definition});
   book.sheets.push_back(test::SalesSheet("Data2"));
   Write(book);
   EXPECT_EQ(Refresh(), "");
-  EXPECT_EQ(Refresh(), "") << "what was drawn reads back as it was stored";
+  EXPECT_EQ(Refresh(), "") << "a drawn chart is read back as it was stored";
   const auto edit = [&] {
     Edit(kDefinitions, "title=\"Sales\"", "title=\"Costs\"");
     Edit(kDefinitions, "type=\"column\"", "type=\"bar\"");
@@ -191,17 +191,18 @@ TEST_F(RunLookTest, ADefinitionThatAProgramChangedIsToldFromAChartThatAPersonCha
   };
   edit();
   const S kept =
-      Line("The title is 'Sales' on the chart and 'Costs' in the definition; that of the chart was kept.") +
-      Line("The type is 'column' on the chart and 'bar' in the definition; that of the chart was kept.") +
       Line(
-          "The title of the value axis is 'Euro' on the chart and 'Dollar' in the definition; that of the "
+          "The title is 'Sales' on the chart and 'Costs' in the definition; the one on the chart was kept.") +
+      Line("The type is 'column' on the chart and 'bar' in the definition; the one on the chart was kept.") +
+      Line(
+          "The title of the value axis is 'Euro' on the chart and 'Dollar' in the definition; the one on the "
           "chart was kept.") +
       Line(
-          "The visibility of the legend is 'show' on the chart and 'hide' in the definition; that of the "
+          "The visibility of the legend is 'show' on the chart and 'hide' in the definition; the one on the "
           "chart was kept.");
   const S checked = RunCommand({"check", path_}).out;
   EXPECT_NE(checked.find("  VEX_ChartDefinitions!A2: The type is 'column' on the chart and 'bar' in the "
-                         "definition; the next refresh keeps that of the chart.\n"),
+                         "definition; the next refresh keeps the one on the chart.\n"),
             S::npos)
       << checked;
   EXPECT_EQ(
@@ -212,15 +213,16 @@ TEST_F(RunLookTest, ADefinitionThatAProgramChangedIsToldFromAChartThatAPersonCha
   EXPECT_EQ(Refresh(), "");
   Edit(kChart, "?><c:chartSpace", "?>\r\n<c:chartSpace");  // A spreadsheet program has saved the workbook.
   edit();
-  EXPECT_EQ(Refresh(), "") << "perhaps a person has changed the chart";
+  EXPECT_EQ(Refresh(), "") << "a user may have changed the chart";
   Edit(kDefinitions, "title=\"Sales\"", "title=\"Costs\"");
   Edit(kDefinitions, "ps-chart-schema-version=\"2\"", "");
   EXPECT_EQ(
       Refresh(),
-      Line("The title is 'Sales' on the chart and 'Costs' in the definition; that of the chart was kept."));
+      Line(
+          "The title is 'Sales' on the chart and 'Costs' in the definition; the one on the chart was kept."));
 }
 
-TEST_F(RunLookTest, AVerbThatChangesDefinitionsSaysWhatIsLeftOfTheOldOnes) {
+TEST_F(RunLookTest, AVerbThatChangesDefinitionsReportsTheRemainingProblems) {
   Definition definition{"VEX_Chart1"};
   definition.rest = "<axes><axis type=\"value\" label=\"Amount\" sticky=\"no\"/></axes>";
   Write(SalesBook({definition}));
@@ -232,7 +234,8 @@ TEST_F(RunLookTest, AVerbThatChangesDefinitionsSaysWhatIsLeftOfTheOldOnes) {
       "strategic-bucket-table-id and number-format.");
   EXPECT_EQ(
       RunCommand({"rename-columns", path_, "--table", "Data1", "Amount=Turnover"}).err,
-      Line("The title is 'Sales' on the chart and 'Costs' in the definition; that of the chart was kept.") +
+      Line(
+          "The title is 'Sales' on the chart and 'Costs' in the definition; the one on the chart was kept.") +
           colour)
       << "the axis title has its new name from the command";
 
@@ -244,7 +247,7 @@ TEST_F(RunLookTest, AVerbThatChangesDefinitionsSaysWhatIsLeftOfTheOldOnes) {
       << "the type has changed, and the other chart isn't drawn";
 }
 
-TEST_F(RunLookTest, CellsThatMakeAWrongPictureAreSaid) {
+TEST_F(RunLookTest, CellsThatMakeAWrongPictureAreReported) {
   const RawCell formula{"><f>1+1</f><v></v></c>"}, error{" t=\"e\"><v>#N/A</v></c>"};
   const auto refresh = [&](const auto& change, const Definition& definition = {}) {
     PlainBook book = SalesBook({definition});
@@ -253,18 +256,18 @@ TEST_F(RunLookTest, CellsThatMakeAWrongPictureAreSaid) {
     return Refresh();
   };
   using Rows = std::vector<PlainRow>;
-  const S calculate = "which count as blank; have a spreadsheet program calculate and save the workbook.";
+  const S calculate = "which count as blank; calculate and save the workbook in a spreadsheet program.";
   EXPECT_EQ(refresh([&](Rows& rows) { rows[2][2] = rows[3][2] = rows[2][3] = formula; }),
             Line("The column 'Amount' has 2 formulas without a result, the first one here, " + calculate,
                  "Data1!C3"))
-      << "of Cost, no chart is drawn";
+      << "no chart of Cost is drawn";
   EXPECT_EQ(
       refresh([&](Rows& rows) { rows[0][2] = formula; }),
       "Brindle Plotsmith: Chart 'Name of VEX_Chart1' has become unavailable because column 'Amount'\nin "
       "table 'Data1' is missing or contains invalid data.\n" +
           Line("The table 'Data1' has no column 'Amount' for 'values'; it has Region, Product and Cost.") +
-          Line("The heading is a formula without a result, so that its column doesn't exist; have a "
-               "spreadsheet program calculate and save the workbook.",
+          Line("The heading is a formula without a result, so its column is ignored; calculate and save the "
+               "workbook in a spreadsheet program.",
                "Data1!C1"));
   const S start =
       "The column 'Amount' isn't a number column, which 'values' needs, because this cell contains ";
@@ -279,7 +282,7 @@ TEST_F(RunLookTest, CellsThatMakeAWrongPictureAreSaid) {
             Line("A column chart needs the element 'values', unless its headings are in columns."));
 }
 
-TEST_F(RunLookTest, WhatSeveralChartsHaveInCommonIsOneLine) {
+TEST_F(RunLookTest, CommonProblemsOfSeveralChartsAreOneLine) {
   PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}});
   book.Sheet("Data1").rows[2][2] = S("5 pcs");
   Write(book);
@@ -289,7 +292,7 @@ TEST_F(RunLookTest, WhatSeveralChartsHaveInCommonIsOneLine) {
             "counts as 0.\n");
 }
 
-TEST_F(RunLookTest, AColumnThatLooksRenamedIsNamed) {
+TEST_F(RunLookTest, APossiblyRenamedColumnIsReported) {
   PlainBook book = SalesBook({{"VEX_Chart1"}});
   Write(book);
   EXPECT_EQ(Refresh(), "");
@@ -301,8 +304,8 @@ TEST_F(RunLookTest, AColumnThatLooksRenamedIsNamed) {
       Refresh(),
       missing +
           Line("The table 'Data1' has no column 'Amount' for 'values'; it has Region, Product, Turnover "
-               "and Cost; 'Turnover' is in its place, and if that is its new name, plotsmith "
-               "rename-columns BOOK --table Data1 'Amount=Turnover' renames it in the charts."));
+               "and Cost; 'Turnover' is in its place. If that is its new name, plotsmith rename-columns BOOK "
+               "--table Data1 'Amount=Turnover' renames it in the charts."));
   const S drawnAt = "&lt;values&gt;&lt;column name=\"Amount\" worksheet-column-number=\"3\"";
   Edit(kDefinitions, drawnAt, runtime::Replace(drawnAt, "\"3\"", "\"C\""));
   EXPECT_EQ(Refresh(), missing + Line("The table 'Data1' has no column 'Amount' for 'values'; it has Region, "
@@ -314,7 +317,7 @@ TEST_F(RunLookTest, AColumnThatLooksRenamedIsNamed) {
   Edit("/xl/worksheets/sheet1.xml", "Turnover", "Product");
   const S taken = Refresh();
   EXPECT_NE(taken.find("; it has Region, Product, Product and Cost.\n"), S::npos)
-      << taken << "a column that the chart has already is no new name";
+      << taken << "a column that the chart already has isn't a new name";
 
   test::Definition other{"VEX_Chart2"};
   other.values = "<values><column name=\"Cost\"/></values>";
@@ -323,28 +326,26 @@ TEST_F(RunLookTest, AColumnThatLooksRenamedIsNamed) {
   Edit("/xl/worksheets/sheet1.xml", "Cost", "Rest");
   Edit("/xl/worksheets/sheet1.xml", "Amount", "Cost");
   EXPECT_NE(Refresh().find("; it has Region, Product, Cost and Rest.\n"), S::npos)
-      << "nor is one that another chart has";
+      << "a column of another chart isn't a new name";
 }
 
-TEST_F(RunLookTest, ABubbleWithoutALabelTakesTheLegendAlong) {
+TEST_F(RunLookTest, ABubbleWithoutALabelPreventsTheLegend) {
   const S start = "The column 'Group' has ";
   const S again =
-      ", and then switch the chart's own legend on in a spreadsheet program; the next refresh draws "
-      "it.";
+      ", and then switch on the chart's own legend in a spreadsheet program; the next refresh draws it.";
   const struct {
     S label, sentence;
-  } cases[] = {{"",
-                "no label here for the bubble 'C', so that it isn't shown and the chart has no drawn legend; "
-                "fill the cell in"},
-               {"g|x",
-                "a label here with the character '|', so that the chart has no drawn legend; take the "
-                "character out"}};
+  } cases[] = {
+      {"",
+       "no label here for the bubble 'C', so the bubble isn't shown and the chart has no drawn legend; fill "
+       "in the cell"},
+      {"g|x", "a label here with the character '|', so the chart has no drawn legend; remove the character"}};
   for (const auto& [label, sentence] : cases) {
     Write(test::BubbleBook(
         {{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"C", "h", 1, 1, 1}, {"c", label, 3, 4, 5}},
         test::BubbleDefinition()));
     EXPECT_EQ(Refresh(), Line(start + sentence + again, "Data1!B5"));
-    EXPECT_EQ(Refresh({"--host-version", "11"}), "") << "there the chart's own legend is used";
+    EXPECT_EQ(Refresh({"--host-version", "11"}), "") << "this version uses the chart's own legend";
   }
   PlainBook plain = test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "", 2, 3, 4}}, test::BubbleDefinition());
   plain.Sheet("VEX_ChartDefinitions").rows.resize(1);
@@ -357,13 +358,13 @@ TEST_F(RunLookTest, ABubbleWithoutALabelTakesTheLegendAlong) {
       << made.err << "its definition has no numbers of columns yet";
   Write(test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "", 2, 3, 4}}, test::BubbleDefinition()));
   Edit("/xl/worksheets/sheet1.xml", "Size", "Weight");
-  EXPECT_EQ(Refresh().find("Data1!B3"), S::npos) << "a chart that can't be drawn has other troubles";
+  EXPECT_EQ(Refresh().find("Data1!B3"), S::npos) << "a chart that can't be drawn has other problems";
   Write(test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"c", "g|h", 3, 4, 5}},
                          test::BubbleDefinition()));
   EXPECT_EQ(Refresh(), "") << "each piece has a colour";
 }
 
-TEST_F(RunLookTest, MoreBucketsThanAChartCanNameAreSaid) {
+TEST_F(RunLookTest, TooManyBucketsAreReported) {
   const auto write = [&](int count) {
     PlainBook book = test::BucketBook(test::BucketDefinition());
     auto& rows = book.Sheet("Buckets").rows;
@@ -375,15 +376,13 @@ TEST_F(RunLookTest, MoreBucketsThanAChartCanNameAreSaid) {
   };
   const auto start = [](int count) {
     return "The bucket table 'VEX_SB1' has " + std::to_string(count) +
-           " buckets, and a chart has room for the names of 22, so that ";
+           " buckets, but a chart can show the names of at most 22, so ";
   };
   const S breaks =
-      "its drawing breaks off and it is left a column chart without a legend; leave 22 buckets or fewer, "
-      "then "
-      "draw it again with plotsmith modify BOOK CHART --type 'strategic bucket', and switch its legend on in "
-      "a "
-      "spreadsheet program; the next refresh draws that.";
-  const S misnamed = "the columns have wrong names; leave 22 buckets or fewer.";
+      "its drawing stops and leaves a column chart without a legend; keep at most 22 buckets, draw "
+      "the chart again with plotsmith modify BOOK CHART --type 'strategic bucket', and switch on its legend "
+      "in a spreadsheet program; the next refresh draws the legend.";
+  const S misnamed = "the columns have wrong names; keep at most 22 buckets.";
   const S error =
       "Brindle Plotsmith: PSChartBuilder.PopulateStrBuckChart\nUnable to set the XValues property of the "
       "Series "
@@ -400,13 +399,10 @@ TEST_F(RunLookTest, MoreBucketsThanAChartCanNameAreSaid) {
     write(count);
     EXPECT_EQ(Refresh(), said) << count;
   }
-  EXPECT_EQ(
-      Refresh(),
-      Line(
-          "The type is 'column' on the chart and 'strategic bucket' in the definition; that of the chart was "
-          "kept.") +
-          Line(start(55) + breaks));
-  EXPECT_EQ(Refresh(), Line(start(55) + breaks)) << "as long as it lasts";
+  EXPECT_EQ(Refresh(), Line("The type is 'column' on the chart and 'strategic bucket' in the definition; the "
+                            "one on the chart was kept.") +
+                           Line(start(55) + breaks));
+  EXPECT_EQ(Refresh(), Line(start(55) + breaks)) << "as long as the problem exists";
   Edit("/xl/workbook.xml", "$B$58", "$B$9");
   const CommandResult mended = RunCommand({"modify", path_, "VEX_Chart1", "--type", "strategic bucket"});
   EXPECT_EQ(mended.code, 0) << mended.err;
@@ -414,9 +410,9 @@ TEST_F(RunLookTest, MoreBucketsThanAChartCanNameAreSaid) {
   EXPECT_NE(Charts().find("strategic bucket chart"), S::npos) << Charts();
 }
 
-TEST_F(RunLookTest, ChartsThatCouldBeTakenForOthersStopWhatMakesOrDeletesCharts) {
+TEST_F(RunLookTest, AmbiguousChartsPreventNewAndDeletedCharts) {
   const S drop =
-      "plotsmith: nothing was changed, as charts could be taken for each other; correct this, or "
+      "plotsmith: nothing was changed, because charts could be confused with each other; correct this, or "
       "use --drop-broken.\n";
   const S second =
       "plotsmith: More: A second chart here has the alternative text 'VEX_Chart1', and only the first one, "
@@ -448,7 +444,7 @@ TEST_F(RunLookTest, ChartsThatCouldBeTakenForOthersStopWhatMakesOrDeletesCharts)
   }
 }
 
-TEST_F(RunLookTest, OfAWorkbookThatNeverSawPlotsmithNothingElseIsSaid) {
+TEST_F(RunLookTest, AWorkbookWithoutDefinitionsHasNoOtherMessages) {
   PlainBook book;
   book.sheets.push_back(test::SalesSheet("Sheet1"));
   book.sheets[0].rows[1][2] = RawCell{"><f>1+1</f><v></v></c>"};

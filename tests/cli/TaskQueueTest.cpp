@@ -38,7 +38,7 @@ TEST(TaskQueueTest, DoesEachTaskOnce) {
   }
 }
 
-TEST(TaskQueueTest, TasksInTurnAreDoneByOneThreadInTheirOrder) {
+TEST(TaskQueueTest, OrderedTasksAreDoneByOneThread) {
   std::vector<int> order;
   std::vector<std::thread::id> threads;
   TaskQueue tasks(Order::kInTurn);
@@ -56,7 +56,7 @@ TEST(TaskQueueTest, TasksInTurnAreDoneByOneThreadInTheirOrder) {
   EXPECT_EQ(threads, std::vector(100, threads.front()));
 }
 
-TEST(TaskQueueTest, TellsTheFirstFailureAndWhatWasDoneBeforeIt) {
+TEST(TaskQueueTest, ReportsTheFirstFailureAndTheTasksBeforeIt) {
   for (const Order order : {Order::kAny, Order::kInTurn}) {
     for (const std::size_t bad : {0u, 1u, 5u, 60u}) {
       std::atomic<std::size_t> doneBefore = 0;
@@ -76,7 +76,7 @@ TEST(TaskQueueTest, TellsTheFirstFailureAndWhatWasDoneBeforeIt) {
   }
 }
 
-TEST(TaskQueueTest, AQueueThatIsLeftDropsWhatWaits) {
+TEST(TaskQueueTest, AnAbandonedQueueDropsWaitingTasks) {
   std::atomic<int> done = 0;
   {
     TaskQueue tasks(Order::kInTurn);

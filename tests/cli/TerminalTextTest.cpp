@@ -17,7 +17,7 @@ TEST(TerminalTextTest, ControlCharactersOfAWorkbookDoNotReachATerminal) {
       {std::string("a\0b\x7F", 4), "a\uFFFDb\uFFFD"},
       {"\u0080\u009B31m\u009F", "\uFFFD\uFFFD31m\uFFFD"},
       {"\u00A0\u00BF \u00C0 \u0401", "\u00A0\u00BF \u00C0 \u0401"},
-      {"\xC2", "\xC2"},  // cut short, and so are the next two
+      {"\xC2", "\xC2"},  // these three are incomplete
       {"\xC2\xC2\x9B", "\xC2\uFFFD"},
       {"\xC2\x1b", "\xC2\uFFFD"},
       {"", ""},
@@ -32,7 +32,7 @@ TEST(TerminalTextTest, ControlCharactersOfAWorkbookDoNotReachATerminal) {
     }
     EXPECT_EQ(whole.str(), shown);
     EXPECT_EQ(bytewise.str(), shown);
-    whole << "\x1b";  // the stream is as it was before
+    whole << "\x1b";  // the stream works as before
     EXPECT_EQ(whole.str(), shown + "\x1b");
   }
 }

@@ -39,7 +39,7 @@ TEST(UserLocaleTest, PosixNamesHaveWindowsIdentifiers) {
       {"de_AT@euro", 3079},
       {"fr_CA.UTF-8@x", 3084},
       {"PT_pt.utf8", 2070},
-      // a language alone, or in a territory without an identifier
+      // a language only, or with a territory that has no identifier
       {"ja", 1041},
       {"zh", 2052},
       {"pt", 1046},
@@ -47,7 +47,7 @@ TEST(UserLocaleTest, PosixNamesHaveWindowsIdentifiers) {
       {"es.UTF-8", 3082},
       {"ru_UA", 1049},
       {"de_BE.UTF-8", 1031},
-      // no language
+      // without a language
       {"C", 1033},
       {"C.UTF-8", 1033},
       {"POSIX", 1033},
@@ -83,7 +83,7 @@ class LocaleVariables {
   Values kept_;
 };
 
-TEST(UserLocaleTest, TheEnvironmentTellsTheDesktop) {
+TEST(UserLocaleTest, TheDesktopUsesTheEnvironment) {
   LocaleVariables environment;
   const std::pair<LocaleVariables::Values, std::int32_t> cases[] = {
       {{}, 1033},

@@ -67,13 +67,12 @@ TEST_F(WizardCommandTest, NothingElseIsSaved) {
       {"nothing", "", 0, ""},
       {"a cancellation", "select grdCharts #1\npress cmdCopy\ntype txtTitle x\npress cmdCancel\npage none", 0,
        ""},
-      {"a deletion taken back", "select grdCharts #1\nanswer cancel\npress cmdDelete\npress cmdCancel", 0,
-       ""},
+      {"a cancelled deletion", "select grdCharts #1\nanswer cancel\npress cmdDelete\npress cmdCancel", 0, ""},
       {"a script that ends before the pages", "press cmdNew\nselect grdTables #1\nchoose optType(3)", 0, ""},
-      {"a sheet to look at", "select grdCharts #1\npress cmdGoToTable\nclose", 0, ""},
-      {"a line that can't be done", "\nselect grdCharts Sales", 2,
+      {"a sheet that is only viewed", "select grdCharts #1\npress cmdGoToTable\nclose", 0, ""},
+      {"an impossible line", "\nselect grdCharts Sales", 2,
        "plotsmith: -:2: grdCharts has no row 'Sales'; it has 'Name of VEX_Chart1'.\n"},
-      {"a build, and then such a line",
+      {"a build followed by an impossible line",
        "select grdCharts #1\npress cmdModify\npress cmdFinish\npage frmPSLayoutABC", 2,
        "plotsmith: -:4: the run is over, and no page is open.\n"},
       {"a message that no line expects",
@@ -99,7 +98,7 @@ TEST_F(WizardCommandTest, NothingElseIsSaved) {
   }
 }
 
-TEST_F(WizardCommandTest, WhatTheWizardSaysIsExpectedByTheScript) {
+TEST_F(WizardCommandTest, TheScriptMustExpectTheWizardsMessages) {
   const S empty = [&] {
     test::PlainBook book;
     book.sheets.push_back({"Sheet1"});
@@ -148,7 +147,7 @@ TEST_F(WizardCommandTest, PagesAreShown) {
   EXPECT_EQ(Wizard(book, "close", {"--show"}).out, "") << "no page is open at the end";
 }
 
-TEST_F(WizardCommandTest, FilesAndLocksAreSeenTo) {
+TEST_F(WizardCommandTest, FilesAndLocksAreChecked) {
   const S book = Write(SalesBook({{"VEX_Chart1"}}));
   const S script = folder_ / "script.txt";
   std::ofstream(script) << "select grdCharts #1\r\npress cmdModify\r\npress cmdBak\r\n";

@@ -21,7 +21,7 @@ using S = std::string;
 
 class CommonFunctionsTest : public test::HostTest {};
 
-TEST_F(CommonFunctionsTest, MessagesAndTheOneThatIsPending) {
+TEST_F(CommonFunctionsTest, MessagesAndThePendingMessage) {
   sPendingMessage = "pending";
   ShowMessage("");
   ShowMessage("");
@@ -39,8 +39,7 @@ TEST_F(CommonFunctionsTest, TokensFillPlaceholdersByPosition) {
   EXPECT_EQ(ReplaceTokens("/TKN/ and /TKN/", {"a"}), "a and ");
   EXPECT_EQ(ReplaceTokens("/TKN/ and /TKN/", {}), " and ");
   EXPECT_EQ(ReplaceTokens("/TKN/", {1, "surplus"}), "1");
-  EXPECT_EQ(ReplaceTokens("/TKN/ /TKN/", {"</TKN/>", "b"}), "<b> ")
-      << "a token may bring a placeholder along";
+  EXPECT_EQ(ReplaceTokens("/TKN/ /TKN/", {"</TKN/>", "b"}), "<b> ") << "a token may contain a placeholder";
 }
 
 TEST_F(CommonFunctionsTest, SheetsByName) {
@@ -57,20 +56,20 @@ TEST_F(CommonFunctionsTest, SheetsByName) {
     EXPECT_FALSE(CreateSheet(bad, 1, -1)) << bad;
     EXPECT_EQ(journal_.back(), "Application.DisplayAlerts = True") << bad;
   }
-  EXPECT_EQ(oWorkbook->Sheets()->Count(), 3) << "no stray sheet stays behind";
+  EXPECT_EQ(oWorkbook->Sheets()->Count(), 3) << "no additional sheet remains";
   EXPECT_TRUE(CreateSheet("First", 0, -1));
   EXPECT_EQ(oWorkbook->Sheets()->Item(1)->Name(), "First");
-  EXPECT_EQ(oWorkbook->ActiveSheet()->Name(), "First") << "a visible one stays active";
+  EXPECT_EQ(oWorkbook->ActiveSheet()->Name(), "First") << "a visible sheet remains active";
   EXPECT_TRUE(CreateSheet("Last", 1, 2));
   EXPECT_EQ(oWorkbook->ActiveSheet()->Name(), "First");
-  EXPECT_TRUE(CreateSheet("Before", 7, 0)) << "where the host puts it";
+  EXPECT_TRUE(CreateSheet("Before", 7, 0)) << "at the host's default position";
   EXPECT_EQ(oWorkbook->Sheets()->Item(1)->Name(), "Before");
   SaveAndReopen();
   EXPECT_EQ(oWorkbook->Sheets()->Item(6)->Name(), "Last");
   EXPECT_EQ(oWorkbook->ActiveSheet()->Name(), "First");
 }
 
-TEST_F(CommonFunctionsTest, CellsInEachKind) {
+TEST_F(CommonFunctionsTest, CellsAsEachKindOfValue) {
   test::PlainBook book = test::SalesBook({});
   const auto raw = [](const char* xml) { return test::RawCell{xml}; };
   book.Sheet("Data1").rows = {
@@ -116,7 +115,7 @@ class ClockDesktop : public desktop::Desktop {
   double now = 0;
 };
 
-TEST_F(CommonFunctionsTest, ARunBeginsWithItsVariablesAsTheComponentStarts) {
+TEST_F(CommonFunctionsTest, ARunResetsTheVariables) {
   Open(test::SalesBook({{"VEX_Chart1"}}));
   Refresh();
   oApplication = host_;

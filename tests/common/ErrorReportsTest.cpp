@@ -24,8 +24,8 @@ namespace {
 
 using S = std::string;
 
-/// Procedures without a workbook, a chart or a definition: each reports Nothing under its name, and gives the
-/// result that its caller takes for a failure.
+/// Procedures without a workbook, a chart or a definition. Each reports Nothing under its own name, and
+/// returns the value that its caller treats as a failure.
 class ErrorReportsTest : public test::HostTest {
  protected:
   dom::IXMLDOMElement element_;

@@ -88,7 +88,7 @@ TEST_F(IntlTest, TheDefaultFontKeepsItsCharacterSet) {
   ExpectFont(font, "", 8, 204);
 }
 
-TEST_F(IntlTest, AFormAndItsControlsButForGridsTakeTheLocale) {
+TEST_F(IntlTest, AFormAndItsControlsExceptGridsFollowTheLocale) {
   struct SomeForm : forms::Form {
     SomeForm() : Form("frmSome") {}
     forms::Image imgOne{*this, "imgOne", nullptr};  // An image has no font and doesn't stop the loop.

@@ -68,7 +68,7 @@ TEST_F(NavigationTest, WaysThroughTheWizard) {
   EXPECT_EQ(Run({Choose(0, "bubble"), next(3), next(4)}),
             Nested({"frmPSSelectAction", "frmPSSelectTable", "frmPSLayoutBubble", "frmPSChartLocation"}));
   EXPECT_EQ(Run({Choose(1, "pie")}), Nested({"frmPSSelectAction", "frmPSLayoutPie"}))
-      << "to modify a chart whose table is good starts at its layout";
+      << "modifying a chart with a suitable table starts at its layout";
   EXPECT_EQ(Run({Choose(0, "area"), next(3), back(4), back(3)}),
             Nested({"frmPSSelectAction", "frmPSSelectTable", "frmPSLayoutABC", "frmPSSelectTable",
                     "frmPSSelectAction"}));
@@ -80,7 +80,7 @@ TEST_F(NavigationTest, WaysThroughTheWizard) {
   EXPECT_FALSE(oWorkbook);
 }
 
-TEST_F(NavigationTest, FinishStopsAtTheFirstPageThatIsNotSatisfied) {
+TEST_F(NavigationTest, FinishStopsAtTheFirstInvalidPage) {
   Open(SalesBook({{"VEX_Chart1"}}));
   // The page doesn't offer this type for the table, so the test sets it directly.
   const auto finish = [](const S& type) {
@@ -103,7 +103,7 @@ TEST_F(NavigationTest, FinishStopsAtTheFirstPageThatIsNotSatisfied) {
   EXPECT_EQ(Messages().back(), "Brindle Plotsmith: PSController.JumpFinish\nUnknown chart type");
 }
 
-TEST_F(NavigationTest, ComplaintsAndErrors) {
+TEST_F(NavigationTest, MessagesAndErrors) {
   Open(SalesBook({{"VEX_Chart1"}}));
   PSJumpToStep(2, 1, nullptr);
   for (const int step : {step::kNext, step::kPrevious, step::kFinish}) PSJumpToStep(step, 77, nullptr);
@@ -117,7 +117,7 @@ TEST_F(NavigationTest, ComplaintsAndErrors) {
   EXPECT_EQ(Messages().back(), "Brindle Plotsmith: PSController.PSJumpToStep\nType mismatch");
   EXPECT_TRUE(bRunAborted);
   EXPECT_FALSE(colTables);
-  EXPECT_EQ(Run({}), kAction) << "the next run has a page of its own";
+  EXPECT_EQ(Run({}), kAction) << "the next run has a new page";
   EXPECT_FALSE(bRunAborted);
 }
 
@@ -139,7 +139,7 @@ TEST_F(NavigationTest, OpeningWithoutChartsOrTables) {
 
 class EntryTest : public test::HostTest {};
 
-TEST_F(EntryTest, GuardsSpeakInTheirOrder) {
+TEST_F(EntryTest, GuardsReportInOrder) {
   PlainBook book = SalesBook({});
   book.workbookExtra = "<workbookProtection lockStructure=\"true\"/>";
   Open(book);
@@ -222,12 +222,12 @@ TEST_F(EntryTest, EditModeIsFoundByTheHostsRefusal) {
             std::vector<S>{
                 "Brindle Plotsmith: You are currently editing a cell or object. Please finish editing before "
                 "using the Plotsmith."});
-  editing->interactive = false;  // Nobody can be editing then, so the property isn't set.
+  editing->interactive = false;  // The user can't be editing then, so the property isn't set.
   controller.RefreshPlotsmithData(editing, "", "");
   EXPECT_EQ(Messages().size(), 1u);
 }
 
-TEST_F(EntryTest, ARunThatWasBrokenOffIsNotComplete) {
+TEST_F(EntryTest, ACancelledRunIsNotComplete) {
   Open(SalesBook({{"VEX_Chart1"}}));
   ResetSystem();
   std::vector<S> macros;
@@ -278,7 +278,7 @@ TEST_F(EntryTest, TheFirstCallersHostAndNameStay) {
   S table = "Data1";
   controller.RefreshChartsForTable(first, table);
   EXPECT_EQ(sCustomAppName, "");
-  EXPECT_TRUE(oWorkbook) << "this road doesn't let go of the workbook";
+  EXPECT_TRUE(oWorkbook) << "this operation keeps the workbook";
   const auto second = xlsx::Application::Create();
   controller.RefreshPlotsmithData(second, "Second", "second.chm");
   EXPECT_EQ(Messages().back(), "Brindle Plotsmith: You must have a workbook open to use the Plotsmith.")

@@ -9,7 +9,7 @@
 namespace plotsmith::dom {
 namespace {
 
-TEST(DomTest, WhatDoesNotParseLeavesAnEmptyDocument) {
+TEST(DomTest, AnInvalidTextLeavesAnEmptyDocument) {
   auto document = IXMLDOMDocument2::Create();
   ASSERT_TRUE(document.loadXML("<!-- c --><chart a='1'/>"));
   EXPECT_EQ(document.documentElement().tagName(), "chart");
@@ -25,10 +25,10 @@ TEST(DomTest, WhatDoesNotParseLeavesAnEmptyDocument) {
   std::string deep = "<!DOCTYPE a [<!-- ' -->]>";
   for (int i = 0; i < 300000; ++i) deep += "<a>";
   for (int i = 0; i < 300000; ++i) deep += "</a>";
-  EXPECT_FALSE(document.loadXML(deep)) << "a branch that deep can't even be taken down";
+  EXPECT_FALSE(document.loadXML(deep)) << "such a deep branch can't even be removed";
 }
 
-TEST(DomTest, AParseErrorTellsReasonLineAndCharacter) {
+TEST(DomTest, AParseErrorHasReasonLineAndCharacter) {
   auto document = IXMLDOMDocument2::Create();
   std::string deep;
   for (int i = 0; i < 300; ++i) deep += "<a>";
@@ -38,7 +38,7 @@ TEST(DomTest, AParseErrorTellsReasonLineAndCharacter) {
       {"<\xC3\xA4 x='\xC3\xB6'><b></\xC3\xA4>", "mismatched tag", 1, 15},
       {"", "no element found", 1, 1},
       {"<a b='1' b='2'/>", "duplicate attribute", 1, 10},
-      {deep, "elements nest deeper than 256", 1, 1},
+      {deep, "elements are nested deeper than 256", 1, 1},
       {"<a/>", "", 0, 0}};
   for (const auto& [xml, reason, line, linepos] : cases) {
     EXPECT_EQ(document.loadXML(xml), *reason == '\0') << xml;
@@ -72,7 +72,8 @@ TEST(DomTest, TextsAndAttributesSurviveARoundTrip) {
   EXPECT_EQ(attributes[1].name, "number");
   EXPECT_EQ(attributes[1].value, "2.5");
   EXPECT_EQ(root.getAttribute("control"), runtime::Variant("ab"));
-  EXPECT_EQ(root.selectSingleNode("comment").firstChild().nodeValue(), "  two\nlines ") << "line ends fold";
+  EXPECT_EQ(root.selectSingleNode("comment").firstChild().nodeValue(), "  two\nlines ")
+      << "line ends are normalized";
 }
 
 TEST(DomTest, NodesMoveBetweenTreesAndOut) {
@@ -95,11 +96,11 @@ TEST(DomTest, NodesMoveBetweenTreesAndOut) {
   EXPECT_EQ(second.xml(), "<t><c n=\"4\"/></t>");
 
   auto loose = first.createElement("c");
-  EXPECT_EQ(first.selectNodes("//c").size(), 2u) << "what is in no tree isn't found";
+  EXPECT_EQ(first.selectNodes("//c").size(), 2u) << "a node outside the tree isn't found";
   auto x = first.selectSingleNode("t/x");
   first.documentElement().removeChild(x);
   EXPECT_EQ(first.xml(), "<t><c n=\"1\"/></t>");
-  EXPECT_EQ(x.selectNodes("c").size(), 1u) << "a removed node is still whole";
+  EXPECT_EQ(x.selectNodes("c").size(), 1u) << "a removed node is still complete";
   EXPECT_THROW(first.documentElement().removeChild(loose), runtime::RuntimeError);
 }
 
@@ -126,7 +127,7 @@ TEST(DomTest, NoDocumentIsError91) {
   }
 }
 
-TEST(XmlDepthTest, CountsElementsAndNothingElse) {
+TEST(XmlDepthTest, CountsOnlyElements) {
   const std::tuple<const char*, int, bool> cases[] = {
       {"<a><b/><b x='>'/><!-- <c> --><![CDATA[<d>]]><?p <e>?>text</a>", 2, false},
       {"<a><b>text</b></a>", 1, true},

@@ -68,7 +68,7 @@ TEST(ArrangementTest, PartsShareTheRoom) {
   }
 }
 
-TEST(KeysTest, AKeyThatIsHeldDownCountsOnceWhereItPressesButtons) {
+TEST(KeysTest, AHeldKeyPressesAButtonOnce) {
   using forms::Key;
   const struct {
     forms::KeyPress press;
@@ -79,7 +79,7 @@ TEST(KeysTest, AKeyThatIsHeldDownCountsOnceWhereItPressesButtons) {
   for (const auto& [press, isInLines, isHeld] : cases) EXPECT_EQ(forms::IsHeldKey(press, isInLines), isHeld);
 }
 
-TEST(KeysTest, ArrowsGoRoundTheOptionsThatAreOn) {
+TEST(KeysTest, ArrowKeysMoveAroundTheEnabledOptions) {
   std::vector<S> log;
   test::SmallForm form(log);
   EXPECT_EQ(&form.optType0.Neighbor(true), &form.optType1);
@@ -89,12 +89,12 @@ TEST(KeysTest, ArrowsGoRoundTheOptionsThatAreOn) {
   form.optType1.SetEnabled(false);
   EXPECT_EQ(&form.optType0.Neighbor(true), &form.optType0);
   EXPECT_FALSE(form.optType0.IsTabStop());
-  EXPECT_TRUE(form.optType1.IsTabStop()) << "it is chosen";
+  EXPECT_TRUE(form.optType1.IsTabStop()) << "it is selected";
   form.optType1.SetValue(false);
-  EXPECT_TRUE(form.optType0.IsTabStop()) << "none is chosen";
+  EXPECT_TRUE(form.optType0.IsTabStop()) << "none is selected";
 }
 
-TEST(SecondPressTest, APressBelongsToTheOneBeforeIt) {
+TEST(SecondPressTest, ASecondPressBelongsToTheFirst) {
   const forms::SecondPress::Reach reach = {500, 4};
   forms::SecondPress presses;
   EXPECT_FALSE(presses.Note({1000, 10, 10}, reach));
@@ -103,7 +103,7 @@ TEST(SecondPressTest, APressBelongsToTheOneBeforeIt) {
   EXPECT_FALSE(presses.Note({2000, 17, 8}, reach)) << "it is too far away";
 }
 
-TEST(TypeableTest, WhatCantBeTypedBecomesABlank) {
+TEST(TypeableTest, CharactersThatCantBeTypedBecomeBlanks) {
   const struct {
     std::u16string text, allowed, typed;
   } cases[] = {{u"a\tb\x01", u"", u"a b "},

@@ -29,7 +29,7 @@ Log EventsOf(const Rule& rule) {
   return log;
 }
 
-TEST(ModelTest, CodeThatSetsAPropertyRaisesWhatAHandWould) {
+TEST(ModelTest, SettingAPropertyRaisesTheEventsOfAUserAction) {
   const Rule rules[] = {
       {"another entry", [](auto& form) { form.cboValues.SetListIndex(1); }, {"cboValues click"}},
       {"the same entry", [](auto& form) { form.cboValues.SetListIndex(-1); }, {}},
@@ -39,7 +39,7 @@ TEST(ModelTest, CodeThatSetsAPropertyRaisesWhatAHandWould) {
          form.lstOne.SetListIndex(-1);
        },
        {"lstOne click", "lstOne click"}},
-      {"an entry that isn't there",
+      {"an entry that doesn't exist",
        [](auto& form) {
          EXPECT_EQ(test::ErrorOf([&] { form.cboValues.SetListIndex(3); }), 380);
          EXPECT_EQ(test::ErrorOf([&] { form.cboValues.SetListIndex(-2); }), 380);
@@ -54,7 +54,7 @@ TEST(ModelTest, CodeThatSetsAPropertyRaisesWhatAHandWould) {
          EXPECT_TRUE(form.optOther0.Value()) << "it is in another container";
        },
        {"optOther(0) click", "optType(0) click"}},
-      {"an option off", [](auto& form) { form.optType1.SetValue(false); }, {}},
+      {"a disabled option", [](auto& form) { form.optType1.SetValue(false); }, {}},
       {"a box",
        [](auto& form) {
          form.chk3D.SetValue(CheckBox::kChecked);
@@ -62,7 +62,7 @@ TEST(ModelTest, CodeThatSetsAPropertyRaisesWhatAHandWould) {
          form.chk3D.SetValue(CheckBox::kUnchecked);
        },
        {"chk3D click", "chk3D click"}},
-      {"values of controls that are off",
+      {"values of disabled controls",
        [](auto& form) {
          form.chk3D.SetEnabled(false);
          form.optType0.SetEnabled(false);
@@ -80,7 +80,7 @@ TEST(ModelTest, CodeThatSetsAPropertyRaisesWhatAHandWould) {
          form.cboFormat.SetText("0");
        },
        {}},
-      {"what can't have the focus",
+      {"controls that can't have the focus",
        [](auto& form) {
          EXPECT_EQ(test::ErrorOf([&] { form.cmdOff.SetFocus(); }), 5);
          EXPECT_EQ(test::ErrorOf([&] { form.Frame1.SetFocus(); }), 5);
@@ -91,7 +91,7 @@ TEST(ModelTest, CodeThatSetsAPropertyRaisesWhatAHandWould) {
   for (const Rule& rule : rules) EXPECT_EQ(EventsOf(rule), rule.events) << rule.name;
 }
 
-TEST(ModelTest, HandsMoveTheFocusAndRaiseEvents) {
+TEST(ModelTest, UserActionsMoveTheFocusAndRaiseEvents) {
   const Rule rules[] = {
       {"from control to control",
        [](auto& form) {
@@ -125,7 +125,7 @@ TEST(ModelTest, HandsMoveTheFocusAndRaiseEvents) {
        },
        {}},
       {"Escape", [](auto& form) { form.UserEscape(); }, {}},
-      {"the current entry once more",
+      {"the current entry again",
        [](auto& form) {
          form.cboValues.UserChoose(1);
          form.cboValues.UserChoose(1);
@@ -139,7 +139,7 @@ TEST(ModelTest, HandsMoveTheFocusAndRaiseEvents) {
       {"a double click",
        [](auto& form) { form.grdRows.UserDoubleClick(1); },
        {"grdRows got-focus", "grdRows after-selection-change", "grdRows click", "grdRows double-click"}},
-      {"controls that are off or hidden",
+      {"disabled or hidden controls",
        [](auto& form) {
          for (Control* control : form.Controls()) control->SetEnabled(false);
          form.txtTitle.SetEnabled(true);
@@ -157,7 +157,7 @@ TEST(ModelTest, HandsMoveTheFocusAndRaiseEvents) {
          EXPECT_FALSE(form.grdRows.UserDoubleClick(1));
        },
        {}},
-      {"what isn't there",
+      {"controls that don't exist",
        [](auto& form) {
          EXPECT_FALSE(form.cboValues.UserChoose(3));
          EXPECT_FALSE(form.lstOne.UserSelect({0, 1}));
@@ -210,10 +210,10 @@ TEST_F(ModalLoopTest, AShownFormIsLoadedActivatedAndHasTheFocus) {
   log_.clear();
   form_->Unload();
   loop_.ShowModal(form_);
-  EXPECT_EQ(log_, Log{}) << "a form lives once";
+  EXPECT_EQ(log_, Log{}) << "a form is shown only once";
 }
 
-TEST_F(ModalLoopTest, TheFirstFocusIsAtTheOptionThatIsChosen) {
+TEST_F(ModalLoopTest, TheSelectedOptionHasTheInitialFocus) {
   form_->txtTitle.SetEnabled(false);
   form_->txtNote.SetVisible(false);
   loop_.ShowModal(form_);
@@ -226,7 +226,7 @@ TEST_F(ModalLoopTest, AFormThatHidesItselfWhileItIsActivatedReturns) {
   EXPECT_EQ(log_, (Log{"load", "activate", "deactivate"}));
 }
 
-TEST_F(ModalLoopTest, AFormMayGoInsideOfItsOwnEvent) {
+TEST_F(ModalLoopTest, AFormMayBeReleasedInItsOwnEvent) {
   std::weak_ptr<SmallForm> first = form_;
   form_->OnOK = [&] {
     SmallForm& self = *form_;
@@ -244,7 +244,7 @@ TEST_F(ModalLoopTest, AFormMayGoInsideOfItsOwnEvent) {
                        "load", "activate", "txtTitle got-focus", "unload"}));
 }
 
-TEST_F(ModalLoopTest, AnErrorGoesThroughFormsThatAreNested) {
+TEST_F(ModalLoopTest, AnErrorPassesThroughNestedForms) {
   const auto second = std::make_shared<SmallForm>(log_, "frmSecond");
   form_->OnOK = [&] {
     const int number = test::ErrorOf([&] { loop_.ShowModal(second); });
@@ -285,7 +285,7 @@ TEST_F(ModalLoopTest, GesturesOnAFormBelowAreDropped) {
   EXPECT_EQ(second->chk3D.Value(), CheckBox::kChecked);
 }
 
-/// A view in which a hand presses OK on every form.
+/// A view whose user presses OK on every form.
 class PressingView final : public View {
   void Open(Form& form) override { open_.push_back(&form); }
   void Close(Form&) override { open_.pop_back(); }
@@ -298,7 +298,7 @@ class PressingView final : public View {
   std::vector<Form*> open_;
 };
 
-/// Calls a function on a thread with a stack of a size in bytes.
+/// Calls a function on a thread with a stack of this size in bytes.
 void CallWithStackOf(std::size_t size, std::function<void()> function) {
   pthread_attr_t attributes;
   pthread_attr_init(&attributes);
@@ -333,7 +333,8 @@ TEST_F(ModalLoopTest, FormsNestAsLongAsTheStackLasts) {
   EXPECT_EQ(loop.Front(), nullptr);
 }
 
-/// A form with a timer that ticks twice while the form works, and hides it at the second tick after that.
+/// A form with a timer that ticks twice during the form's work, and closes the form at the second tick after
+/// that.
 class TickingForm : public Form {
  public:
   explicit TickingForm(ModalLoop& loop) : Form("frmTicking"), loop_(loop) {
@@ -350,7 +351,7 @@ class TickingForm : public Form {
   void Form_Activate() override {
     Timer1.SetEnabled(true);
     loop_.DoEvents();
-    EXPECT_EQ(ticks, 0) << "the interval isn't over";
+    EXPECT_EQ(ticks, 0) << "the interval hasn't ended";
     for (; ticks < 2; std::this_thread::sleep_for(std::chrono::milliseconds(1))) loop_.DoEvents();
     ticksInActivate = ticks;
   }

@@ -11,7 +11,7 @@ namespace {
 using S = std::string;
 using Log = std::vector<S>;
 
-/// Tests scripts on a small wizard: OK on the first form opens a second form, which asks a question and shows
+/// Tests scripts on a small wizard. OK on the first form opens a second form, which asks a question and shows
 /// a message.
 class ScriptPlayerTest : public ::testing::Test {
  protected:
@@ -82,7 +82,7 @@ TEST_F(ScriptPlayerTest, PlaysToTheEnd) {
   }
 }
 
-TEST_F(ScriptPlayerTest, LinesThatCannotBeDoneSayWhatThereIsInstead) {
+TEST_F(ScriptPlayerTest, ImpossibleLinesReportTheAlternatives) {
   const S controls =
       "Frame1, txtTitle, txtNote, fraType, optType(0), optType(1), optOther(0), cboValues, cboFormat, "
       "lstOne, "
@@ -130,8 +130,8 @@ TEST_F(ScriptPlayerTest, LinesThatCannotBeDoneSayWhatThereIsInstead) {
       {"double lstOne East", "1: lstOne is a ListBox, and 'double' is for a grid"},
       // texts, entries and rows
       {"type txtTitle 123456", "1: txtTitle takes 5 characters"},
-      {"type txtTitle \"a\\nb\"", "1: txtTitle takes one line"},
-      {"type cboFormat \"a\\nb\"", "1: cboFormat takes one line"},
+      {"type txtTitle \"a\\nb\"", "1: txtTitle accepts only one line"},
+      {"type cboFormat \"a\\nb\"", "1: cboFormat accepts only one line"},
       {"type cboValues Cost", "1: nothing can be typed into cboValues; 'choose' takes one of its entries"},
       {"choose cboValues", "1: which entry of cboValues? it has 'Amount', 'Cost' and 'Amount'"},
       {"choose cboValues cost", "1: cboValues has no entry 'cost'; it has 'Amount', 'Cost' and 'Amount'"},
@@ -169,16 +169,16 @@ TEST_F(ScriptPlayerTest, LinesThatCannotBeDoneSayWhatThereIsInstead) {
   for (const auto& [script, outcome] : cases) EXPECT_EQ(Play(script), outcome) << script;
 }
 
-TEST_F(ScriptPlayerTest, TheScreenIsClosedAsAHandWould) {
+TEST_F(ScriptPlayerTest, FormsAreClosedLikeByAUser) {
   EXPECT_EQ(Play("press cmdOK\nshow"), "");
   EXPECT_EQ(last_, "frmSecond");
   EXPECT_EQ(shown_, Log{"frmSecond A small form"});
-  EXPECT_EQ(log_.back(), "unload") << "the script's end closes what is open";
+  EXPECT_EQ(log_.back(), "unload") << "the end of the script closes open forms";
   EXPECT_EQ(Play("press cmdOK\nclose"), "");
   EXPECT_EQ(last_, "none");
   EXPECT_NE(Play("press cmdOff\ncheck chk3D"), "");
-  EXPECT_EQ(log_.back(), "unload") << "a line that can't be done closes it as well";
-  EXPECT_EQ(std::count(log_.begin(), log_.end(), "chk3D click"), 0) << "and no more lines are played";
+  EXPECT_EQ(log_.back(), "unload") << "an impossible line also closes it";
+  EXPECT_EQ(std::count(log_.begin(), log_.end(), "chk3D click"), 0) << "no further lines are played";
   EXPECT_EQ(last_, "none");
 }
 
@@ -195,7 +195,7 @@ TEST_F(ScriptPlayerTest, AControlMayGoOffWhileTheFocusMovesToIt) {
   EXPECT_EQ(player->Failed()->sentence, "cmdOK is off");
 }
 
-TEST_F(ScriptPlayerTest, LongListsAreCutShort) {
+TEST_F(ScriptPlayerTest, LongListsAreShortened) {
   std::istringstream stream("choose cboValues x");
   StreamLines lines(stream);
   const auto player = std::make_shared<ScriptPlayer>(lines, [](const FormState&) {});

@@ -12,7 +12,7 @@ using test::SalesBook;
 
 class ColumnRenamingTest : public test::HostTest {};
 
-TEST_F(ColumnRenamingTest, RenamedColumnsAreCarriedIntoDefinitions) {
+TEST_F(ColumnRenamingTest, DefinitionsFollowRenamedColumns) {
   const std::string axes =
       "<axes><axis type=\"label\" label=\"Region\" sticky=\"no\"/><axis type=\"value\" label=\"Region\" "
       "sticky=\"yes\"/>"
@@ -29,7 +29,7 @@ TEST_F(ColumnRenamingTest, RenamedColumnsAreCarriedIntoDefinitions) {
   RetrieveTableDefinitions();
   RetrieveChartDefinitions();
   const std::string xml = colCharts->Item("VEX_Chart1").xml();
-  EXPECT_EQ(xml.find("\"Area\""), std::string::npos) << "a new name is visible to the names behind it";
+  EXPECT_EQ(xml.find("\"Area\""), std::string::npos) << "later names see a new name";
   for (const char* expected :
        {"<categories headings-in=\"rows\"><column name=\"Zone\"/>", "<values><column name=\"Zone\"/>",
         "type=\"label\" label=\"Zone\" sticky=\"no\"", "label=\"Region\" sticky=\"yes\"",
@@ -38,7 +38,7 @@ TEST_F(ColumnRenamingTest, RenamedColumnsAreCarriedIntoDefinitions) {
   }
   const std::string untouched = colCharts->Item("VEX_Chart2").xml();
   EXPECT_NE(untouched.find("<column name=\"Region\"/>"), std::string::npos);
-  EXPECT_NE(untouched.find("ps-chart-schema-version"), std::string::npos) << "saved all the same";
+  EXPECT_NE(untouched.find("ps-chart-schema-version"), std::string::npos) << "saved nevertheless";
 
   UpdateChartColumnNames("Data1", {"Zone", "Product"}, {"Region"});
   ASSERT_EQ(Messages().size(), 1u);

@@ -40,7 +40,7 @@ class MetadataStoreTest : public test::HostTest {
   }
 };
 
-TEST_F(MetadataStoreTest, ADefinitionIsStoredInTheRowInWhichItIsNow) {
+TEST_F(MetadataStoreTest, ADefinitionIsStoredInItsCurrentRow) {
   Open(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}}));
   Load();
   SaveChartDefinition(colCharts->Item("VEX_Chart1"));
@@ -59,7 +59,7 @@ TEST_F(MetadataStoreTest, ADefinitionIsStoredInTheRowInWhichItIsNow) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(MetadataStoreTest, RowsWithoutAPlaceGoAndTheOthersKeepTheirOrder) {
+TEST_F(MetadataStoreTest, UnusableRowsAreRemovedAndTheOthersKeepTheirOrder) {
   PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}, {"VEX_Chart3"}});
   auto& rows = book.Sheet("VEX_ChartDefinitions").rows;
   using Row = test::PlainRow;
@@ -86,7 +86,7 @@ TEST_F(MetadataStoreTest, RowsWithoutAPlaceGoAndTheOthersKeepTheirOrder) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(MetadataStoreTest, MissingSheetIsMadeAndTheActiveSheetStays) {
+TEST_F(MetadataStoreTest, AMissingSheetIsAddedAndTheActiveSheetStays) {
   PlainBook book;
   book.sheets = {test::SalesSheet(), test::SalesSheet("Second")};
   book.workbookExtra = "<bookViews><workbookView activeTab=\"1\"/></bookViews>";
@@ -113,7 +113,7 @@ TEST_F(MetadataStoreTest, ProtectedStructureGivesNoSheet) {
   EXPECT_EQ(colCharts->Count(), 0);
 }
 
-TEST_F(MetadataStoreTest, FollowsChartsAndTablesAndMarksWhatNoLongerFits) {
+TEST_F(MetadataStoreTest, FollowsChartsAndTablesAndMarksMissingOnes) {
   PlainBook book = SalesBook(
       {{"VEX_Chart1", "column", "table-id=\"Data1\" chart-worksheet=\"Old\""},
        {"VEX_Chart2", "column", "table-id=\"Gone\""},
@@ -136,7 +136,7 @@ TEST_F(MetadataStoreTest, FollowsChartsAndTablesAndMarksWhatNoLongerFits) {
     EXPECT_EQ(Attribute(id, "table-corrupted"), expected[2]) << id;
   }
   EXPECT_EQ(Rows(2).find("Charts"), std::string::npos)
-      << "what the load corrected stays in memory until it is saved";
+      << "corrections of the load stay in memory until they are saved";
 }
 
 TEST_F(MetadataStoreTest, SaveReplacesARowOrAppendsOne) {
@@ -160,12 +160,12 @@ TEST_F(MetadataStoreTest, SaveReplacesARowOrAppendsOne) {
   auto huge = colCharts->Item("VEX_Chart2");
   huge.documentElement().setAttribute("title", std::string(33000, 'x'));
   SaveChartDefinition(huge);
-  ASSERT_EQ(Messages().size(), 1u) << "a cell holds 32,767 characters";
+  ASSERT_EQ(Messages().size(), 1u) << "a cell contains at most 32,767 characters";
   EXPECT_TRUE(Messages()[0].starts_with("Brindle Plotsmith: PSFunctions.SaveChartDefinition\n"));
   EXPECT_EQ(Cells("VEX_ChartDefinitions", 3, 1, 3, 1).size(), Definition{"VEX_Chart2"}.Xml().size());
 }
 
-TEST_F(MetadataStoreTest, PaletteIsSetOnceAndOnlyWhereNobodyCares) {
+TEST_F(MetadataStoreTest, ThePaletteIsSetOnceAndOnlyWithoutCharts) {
   PlainBook plain;
   plain.sheets = {test::SalesSheet()};
   Open(plain);
@@ -186,10 +186,10 @@ TEST_F(MetadataStoreTest, PaletteIsSetOnceAndOnlyWhereNobodyCares) {
   Open(plain);
   oWorkbook->SetColors(20, 255);
   Load();
-  EXPECT_EQ(oWorkbook->Colors(17), xlsx::DefaultPaletteColor(17)) << "the palette is somebody's own";
+  EXPECT_EQ(oWorkbook->Colors(17), xlsx::DefaultPaletteColor(17)) << "the user has changed the palette";
 }
 
-TEST_F(MetadataStoreTest, IdentityAndPlaceOfANewChart) {
+TEST_F(MetadataStoreTest, IdentityAndPositionOfANewChart) {
   Open(SalesBook({{"VEX_Chart1"}, {"VEX_Chart3"}}));
   Load();
   colCharts->Item("VEX_Chart1").documentElement().setAttribute("name", "chart2");
@@ -216,7 +216,7 @@ TEST_F(MetadataStoreTest, IdentityAndPlaceOfANewChart) {
   EXPECT_EQ(FindChartSheet("VEX_Chart4"), "Data1");
   const auto area = FindChartObject("VEX_Chart4", "Data1")->ChartArea();
   EXPECT_EQ(area->Interior()->ColorIndex(), excel::xlColorIndexNone);
-  EXPECT_EQ(Cells("Data1", 1, 1, 1, 2), "Region|Product") << "the sheet's cells passed through";
+  EXPECT_EQ(Cells("Data1", 1, 1, 1, 2), "Region|Product") << "the cells of the sheet weren't changed";
 }
 
 }  // namespace

@@ -79,7 +79,7 @@ TEST_F(TableDefinitionsTest, NamesThatAreNoTables) {
                 {"VEX_TableRang", "Sheet1!$B$3:$C$7"},
                 {"vex_sb_lower", "sheet1!$B$3:$C$7"},
                 {"VEX_TABLERANGE", "Sheet1!$B$3:$C$7,Sheet1!$F$1"}};
-  // a name of one sheet alone: VEX_SBold!Print_Area
+  // a name that belongs to one sheet: VEX_SBold!Print_Area
   const std::string path = folder_ / "names.xlsx";
   book.Write(path);
   test::EditPart(path, "/xl/workbook.xml", [](std::string& workbook) {
@@ -88,10 +88,10 @@ TEST_F(TableDefinitionsTest, NamesThatAreNoTables) {
         "<definedName name=\"_xlnm.Print_Area\" localSheetId=\"1\">VEX_SBold!$B$3:$C$7</definedName>");
   });
   OpenFile(path);
-  EXPECT_EQ(Ids(), "vex_sb_lower VEX_TABLERANGE ") << "sorted by name, whatever the file's order";
+  EXPECT_EQ(Ids(), "vex_sb_lower VEX_TABLERANGE ") << "sorted by name, independent of the file's order";
   EXPECT_EQ(Messages().size(), 0u);
   EXPECT_NE(Xml("vex_sb_lower").find("table-worksheet=\"sheet1\""), std::string::npos)
-      << "as the name spells it";
+      << "in the spelling of the name";
 }
 
 TEST_F(TableDefinitionsTest, DataSheetsByTheirExactNames) {
@@ -131,7 +131,7 @@ TEST_F(TableDefinitionsTest, ClassifiesColumns) {
   EXPECT_EQ(Kinds(), "blank=n spaces=n numeric text=n text=l date=l error=l truth=n 2020=n time=n ");
 }
 
-TEST_F(TableDefinitionsTest, BlankStretchesHideNoText) {
+TEST_F(TableDefinitionsTest, TextsAfterBlankCellsAreFound) {
   PlainBook book;
   PlainSheet sheet{"Data1"};
   // The last row of the sheet, followed in the file by a row above it.

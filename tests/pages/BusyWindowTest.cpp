@@ -38,15 +38,15 @@ class BusyWindowTest : public test::HostTest {
   std::vector<S> works_;
 };
 
-TEST_F(BusyWindowTest, ItDoesTheWorkThatItWasGiven) {
+TEST_F(BusyWindowTest, ItDoesItsWork) {
   for (const std::int32_t method : {0, 1, 2, 3}) Show(method);
   EXPECT_EQ(works_, (std::vector<S>{"all", "one VEX_Chart7", "run 1"}));
   S log;
   for (int i = 0; i < 4; ++i) log += "show frmBusyPS; close frmBusyPS; ";
-  EXPECT_EQ(view_->log, log) << "it goes by itself, without a hand";
+  EXPECT_EQ(view_->log, log) << "it closes without user input";
 }
 
-TEST_F(BusyWindowTest, TheBarShowsLifeWhileTheWorkYields) {
+TEST_F(BusyWindowTest, TheBarMovesWhenTheWorkYields) {
   Show(0, [](frmBusyPS& window) {
     ASSERT_TRUE(window.Timer1.Enabled());
     EXPECT_EQ(window.Timer1.Interval(), 100);
@@ -58,12 +58,12 @@ TEST_F(BusyWindowTest, TheBarShowsLifeWhileTheWorkYields) {
     while (window.Timer1.UntilDue()->count() > 0) {
     }
     App.Forms->DoEvents();
-    EXPECT_EQ(window.ProgressBar1.Value(), 5) << "a yield lets the timer tick";
+    EXPECT_EQ(window.ProgressBar1.Value(), 5) << "the timer ticks during a yield";
     EXPECT_EQ(window.Timer1.Interval(), 100);
   });
 }
 
-TEST_F(BusyWindowTest, AnErrorOfTheWorkReachesTheCallerAndTheWindowGoes) {
+TEST_F(BusyWindowTest, AnErrorOfTheWorkReachesTheCallerAndClosesTheWindow) {
   EXPECT_THROW(Show(0, [](frmBusyPS&) { throw runtime::RuntimeError(13); }), runtime::RuntimeError);
   EXPECT_EQ(view_->log, "show frmBusyPS; close frmBusyPS; ");
   EXPECT_EQ(App.Forms->Front(), nullptr);

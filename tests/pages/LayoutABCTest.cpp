@@ -63,7 +63,7 @@ TEST_F(LayoutABCTest, StatesFollowEachClick) {
   }
 }
 
-TEST_F(LayoutABCTest, TheNumbersOfColumnsDecideAboutColors) {
+TEST_F(LayoutABCTest, TheNumberOfColumnsDeterminesTheColors) {
   struct Case {
     std::vector<S> labels, numbers;
     S script, off;
@@ -89,7 +89,7 @@ TEST_F(LayoutABCTest, TheNumbersOfColumnsDecideAboutColors) {
             "");
 }
 
-TEST_F(LayoutABCTest, RestoredStatesAreSettledAtTheEnd) {
+TEST_F(LayoutABCTest, RestoredStatesAreConsistent) {
   const S columns = "<column name=\"amount\"/><column name=\"COST\"/>";
   Definition both, hundred, oneColumn, gone;
   both.categories = "<categories headings-in=\"columns\">" + columns + "</categories>";
@@ -149,7 +149,7 @@ TEST_F(LayoutABCTest, CaptionsAndHelpFollowTheType) {
   }
 }
 
-TEST_F(LayoutABCTest, EachCodeHasItsPicture) {
+TEST_F(LayoutABCTest, EachCombinationOfSettingsHasItsPicture) {
   const std::pair<S, S> codes[] = {
       {"uncheck chk3D", "imgLegendDim imgTBasic"},
       {"check chk3D", "imgLegendDim imgT3DBasic"},
@@ -217,7 +217,7 @@ TEST_F(LayoutABCTest, MessagesMoveTheFocus) {
                      "choose optSeries(2); choose optSeries(1); choose cboValues Cost; press cmdNext; "
                      "press cmdBack; expect optSeries(0).Value yes"),
             "")
-      << "a colour without a choice is none";
+      << "a colour without a selected column is left out";
 }
 
 }  // namespace

@@ -175,7 +175,7 @@ std::vector<RoundTripTest::Case> RoundTripTest::Cases() {
   };
 }
 
-TEST_F(RoundTripTest, WhatAPageWritesItReadsAgain) {
+TEST_F(RoundTripTest, APageReadsItsOwnDefinition) {
   for (const Case& c : Cases()) {
     SCOPED_TRACE("optType(" + std::to_string(c.type) + ")");
     const S writeOut = "; press cmdNext; page frmPSChartLocation; definition";
@@ -186,11 +186,11 @@ TEST_F(RoundTripTest, WhatAPageWritesItReadsAgain) {
     const S format = c.type == kBubble ? "" : "0.0";
     EXPECT_EQ(definitions_[0], Document(c.type, "Chart1", "Sales", "", format, "VEX_SB2", c.onXml));
     EXPECT_EQ(definitions_[1], Document(c.type, "Sales", "", "Data1", "", "VEX_SB1", c.offXml))
-        << "the way back took the proposed name and the first sheet along";
+        << "the way back stored the proposed name and the first sheet";
   }
 }
 
-TEST_F(RoundTripTest, APageLeavesTheElementsOfOtherTypesAlone) {
+TEST_F(RoundTripTest, APageKeepsTheElementsOfOtherTypes) {
   EXPECT_EQ(Play(SalesBook({}),
                  NewChart(4) +
                      "check chk3D; press cmdBack; choose optType(3); press cmdNext; expect chk3D.Value 1; "
@@ -205,7 +205,7 @@ TEST_F(RoundTripTest, APageLeavesTheElementsOfOtherTypesAlone) {
           R"(<column name="Region"/></categories><series headings-in="none"/><values><column name="Amount"/>)"
           R"(</values><data-labels/><dynamic-attributes><attribute setting="3D"/></dynamic-attributes>)"
           R"(<comment></comment>)"))
-      << "a pie has no axes; what no page of its type knows stays";
+      << "a pie has no axes; elements of other types are kept";
 }
 
 TEST_F(RoundTripTest, FinishAgainLeavesTheDefinitionAsItIs) {

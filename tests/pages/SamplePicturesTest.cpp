@@ -52,12 +52,12 @@ std::vector<Rectangle> InColor(const Picture& picture, Rgb color) {
   return found;
 }
 
-TEST(SamplePicturesTest, EveryPictureStaysInItsFrameAndIsUnlikeTheOthers) {
+TEST(SamplePicturesTest, EveryPictureFitsItsFrameAndIsUnique) {
   std::map<S, std::string_view> seen;
   for (const auto name : aSamplePictureNames) {
     SCOPED_TRACE(name);
     const Picture picture = SamplePicture(name);
-    EXPECT_GT(picture.aShapes.size(), 4u) << "a card and a chart on it";
+    EXPECT_GT(picture.aShapes.size(), 4u) << "a background and a chart on it";
     for (const Shape& shape : picture.aShapes) {
       const Rectangle bounds = Bounds(shape);
       EXPECT_TRUE(bounds.dLeft >= 0 && bounds.dTop >= 0 && bounds.dRight <= picture.dWidth &&
@@ -69,7 +69,7 @@ TEST(SamplePicturesTest, EveryPictureStaysInItsFrameAndIsUnlikeTheOthers) {
   }
 }
 
-TEST(SamplePicturesTest, PicturesInOnePlaceHaveOneSize) {
+TEST(SamplePicturesTest, PicturesInTheSamePlaceHaveTheSameSize) {
   const std::pair<S, std::set<S>> places[] = {
       {"imgAreaBasic", {}},
       {"imgArea", {"imgBar", "imgColumn", "imgPie", "imgBubble", "imgStrBuck"}},
@@ -84,7 +84,7 @@ TEST(SamplePicturesTest, PicturesInOnePlaceHaveOneSize) {
   }
 }
 
-TEST(SamplePicturesTest, StacksTo100PercentReachOneHeight) {
+TEST(SamplePicturesTest, StacksTo100PercentHaveTheSameHeight) {
   const Rgb top = {0x2F, 0xA3, 0x8C};  // The colour of the last series.
   const auto heights = [&](const char* name) {
     std::set<long> tops;
@@ -102,7 +102,7 @@ TEST(SamplePicturesTest, AnUnknownNameIsAnInvalidCall) {
   }
 }
 
-TEST(SamplePicturesTest, TheDocsShowWhatIsDrawnNow) {
+TEST(SamplePicturesTest, TheDocsShowTheCurrentPictures) {
   const S page = FileText("docs/pictures.md");
   for (const auto name : aSamplePictureNames) {
     const S file = "images/wizard/" + S(name) + ".svg";

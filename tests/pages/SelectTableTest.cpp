@@ -22,7 +22,7 @@ PlainBook TwoTables(const std::vector<test::Definition>& definitions) {
   return book;
 }
 
-TEST_F(SelectTableTest, TheTableDecidesAboutTheTypes) {
+TEST_F(SelectTableTest, TheTableDeterminesTheTypes) {
   PlainBook oneLabel = NewBucketBook();
   oneLabel.Sheet("Data1").rows = {{S("Bucket"), S("Sum")}, {S("Growth"), 10.0}, {S("core"), 20.0}};
   PlainBook noMatch = NewBucketBook();
@@ -46,7 +46,7 @@ TEST_F(SelectTableTest, TheTableDecidesAboutTheTypes) {
   }
 }
 
-TEST_F(SelectTableTest, TheTypeOutlivesATableThatAllowsIt) {
+TEST_F(SelectTableTest, TheTypeIsKeptIfTheTableAllowsIt) {
   PlainBook two = TwoTables({});
   PlainBook buckets = NewBucketBook();
   buckets.sheets.push_back(test::SalesSheet("Data2"));
@@ -83,7 +83,7 @@ TEST_F(SelectTableTest, EachTypeHasItsPictureAndItsPage) {
     EXPECT_EQ(helpTopics_, std::vector{topics[type]});
   }
   const std::set<S> known(aSamplePictureNames.begin(), aSamplePictureNames.end());
-  EXPECT_EQ(images_, known) << "the pages have the pictures that can be drawn, and no others";
+  EXPECT_EQ(images_, known) << "the pages have exactly the pictures that can be drawn";
 }
 
 TEST_F(SelectTableTest, MessagesAreSaidOnce) {

@@ -82,7 +82,7 @@ std::map<S, S> ExpectedOfCorpus() {
 TEST_F(ReadBackTest, ChartsAsExcelAndOthersSavedThem) {
   std::error_code absent;
   const auto folder = fs::path(test::kCorpusFolder) / "charts";
-  if (!fs::is_directory(folder, absent)) GTEST_SKIP() << "the corpus isn't there";
+  if (!fs::is_directory(folder, absent)) GTEST_SKIP() << "the corpus is missing";
   auto expected = ExpectedOfCorpus();
   for (const auto& file : fs::directory_iterator(folder)) {
     OpenFile(file.path().string());
@@ -133,7 +133,7 @@ S TextRun(const S& text, const S& properties = "/>") {
          "</a:t></a:r>";
 }
 
-TEST_F(ReadBackTest, WaysToSayTheSame) {
+TEST_F(ReadBackTest, EquivalentChartParts) {
   const S one = Bar(Ser()), two = Bar(Ser() + Ser("", 1)), shown = "<c:showVal val=\"1\"/>";
   const S untitled = "<c:autoTitleDeleted val=\"1\"/>";
   const auto axes = [](const S& category, const S& value) {
@@ -149,10 +149,9 @@ TEST_F(ReadBackTest, WaysToSayTheSame) {
        Bar(Ser("<c:tx><c:strRef><c:strCache><c:pt idx=\"0\"><c:v>A &amp; "
                "B</c:v></c:pt></c:strCache></c:strRef></c:tx>")),
        "", "column | A & B |"},
-      {"a title that was taken away", untitled + Bar(Ser("<c:tx><c:v>Amount</c:v></c:tx>")), "",
-       "column |  |"},
+      {"a removed title", untitled + Bar(Ser("<c:tx><c:v>Amount</c:v></c:tx>")), "", "column |  |"},
       {"no name for several series", Bar(Ser("<c:tx><c:v>A</c:v></c:tx>") + Ser("", 1)), "", "column |  |"},
-      {"the title that waits for a text", "<c:title><c:overlay val=\"0\"/></c:title>" + two, "",
+      {"a title without a text", "<c:title><c:overlay val=\"0\"/></c:title>" + two, "",
        "column | Chart Title |"},
       {"runs, breaks and fields",
        "<c:title>" +
@@ -180,7 +179,7 @@ TEST_F(ReadBackTest, WaysToSayTheSame) {
                                "</c:title>",
                            "")),
        "", "| L, Calibri 8 Regular 0 |"},
-      {"a run wins over its paragraph",
+      {"a run overrides its paragraph",
        untitled +
            Bar(Ser(), axes("", "<c:title>" +
                                    Rich(TextRun("V", "sz=\"1150\" b=\"1\"><a:latin typeface=\"+mj-lt\"/>"),
@@ -234,7 +233,7 @@ TEST_F(ReadBackTest, WaysToSayTheSame) {
       {"by name",
        untitled + two + "<c:legend>" + Props(">" + Fill("<a:prstClr val=\"navy\"/>")) + "</c:legend>", "",
        "Calibri 10 Regular 8388608 |"},
-      {"modified beyond numbers",
+      {"modified with invalid numbers",
        untitled + two + "<c:legend>" +
            Props(">" +
                  Fill("<a:srgbClr val=\"336699\"><a:shade val=\"1e300\"/><a:shade val=\"1e300\"/><a:shade "
@@ -242,8 +241,8 @@ TEST_F(ReadBackTest, WaysToSayTheSame) {
            "</c:legend>",
        "", "Calibri 10 Regular 0 |"},
       // the legend
-      {"its place", untitled + two + "<c:legend><c:legendPos val=\"b\"/></c:legend>", "", "show -4107,"},
-      {"only its size by hand",
+      {"its position", untitled + two + "<c:legend><c:legendPos val=\"b\"/></c:legend>", "", "show -4107,"},
+      {"only its size is set by hand",
        untitled + two +
            "<c:legend><c:legendPos val=\"t\"/><c:layout><c:manualLayout><c:w "
            "val=\"0.3\"/></c:manualLayout></c:layout></c:legend>",
@@ -257,7 +256,7 @@ TEST_F(ReadBackTest, WaysToSayTheSame) {
        untitled + two + "<c:legend><c:legendEntry><c:idx val=\"1\"/>" +
            Props("sz=\"1000\">" + Fill("<a:srgbClr val=\"FF0000\"/>")) + "</c:legendEntry></c:legend>",
        "", "show -4152, Calibri 10 Regular  |"},
-      {"an entry that is gone",
+      {"a deleted entry",
        untitled + two +
            "<c:legend><c:legendEntry><c:idx val=\"1\"/><c:delete val=\"1\"/></c:legendEntry></c:legend>",
        "", "show -4152, Calibri 10 Regular 0 |"},
@@ -265,7 +264,7 @@ TEST_F(ReadBackTest, WaysToSayTheSame) {
       {"of the series", labels(Props("sz=\"800\" b=\"1\">") + shown), "", "| values Calibri 8 Bold 0"},
       {"of the group", Bar(Ser() + "<c:dLbls>" + Props("sz=\"800\">") + shown + "</c:dLbls>"), "",
        "| values Calibri 8 Regular 0"},
-      {"of the group, which the series takes back",
+      {"of the group, but removed by the series",
        Bar(Ser("<c:dLbls><c:delete val=\"1\"/></c:dLbls>") + "<c:dLbls>" + shown + "</c:dLbls>"), "",
        "| Arial 9 Regular 0"},
       {"nothing shown", labels("<c:showVal val=\"0\"/><c:showPercent val=\"0\"/>"), "",
@@ -278,7 +277,7 @@ TEST_F(ReadBackTest, WaysToSayTheSame) {
        "| values Calibri"},
       {"a value element without an attribute is true", labels("<c:showVal/>"), "", "| values Calibri"},
       {"names only", labels("<c:showSerName val=\"1\"/>"), "", "| Calibri 10 Regular 0"},
-      {"the rarest font, the first of equals",
+      {"the least frequent font, the first of several",
        Bar(Ser("<c:dLbls>" + Props("sz=\"800\">") + shown + "</c:dLbls>") +
            Ser("<c:dLbls>" + Props("sz=\"700\">") + shown + "</c:dLbls>", 1) +
            Ser("<c:dLbls>" + Props("sz=\"800\">") + shown + "</c:dLbls>", 2) +
@@ -302,7 +301,7 @@ TEST_F(ReadBackTest, WaysToSayTheSame) {
   EXPECT_TRUE(Messages().empty()) << Messages()[0];
 }
 
-TEST_F(ReadBackTest, SomeChartsLeaveTheFormatAlone) {
+TEST_F(ReadBackTest, SomeChartsKeepTheFormat) {
   const S chart = Bar(Ser(),
                       "<c:catAx><c:axId val=\"1\"/></c:catAx><c:valAx><c:axId val=\"2\"/><c:numFmt "
                       "formatCode=\"0.00\" sourceLinked=\"0\"/></c:valAx>");
@@ -471,7 +470,7 @@ TEST_F(ReadBackTest, TheWholeDefinitionAfterwards) {
     const char* what;
     S before, chart, after;
   } cases[] = {
-      {"old answers go, and an axis title that is as it was isn't the person's",
+      {"old values are replaced, and an unchanged axis title isn't sticky",
        "<chart title=\"Old\" type=\"pie\" number-format=\"0\"><auto-persistence><persist/></auto-persistence>"
        "<dynamic-attributes><attribute/></dynamic-attributes><axes><axis type=\"value\" label=\"Amounts\"/>"
        "<axis type=\"label\" label=\"Regions\" LabelAxis-font-name=\"Calibri\" sticky=\"no\"/></axes>"
@@ -489,7 +488,7 @@ TEST_F(ReadBackTest, TheWholeDefinitionAfterwards) {
            "<axes><axis type=\"label\" label=\"Regions\" sticky=\"no\"/><axis type=\"value\" label=\"\" "
            "sticky=\"yes\"/></axes><data-labels manual-labels=\"yes\"><data-label show=\"values\"/>"
            "</data-labels></chart>"},
-      {"a definition without fonts means the usual ones",
+      {"a definition without fonts means the default fonts",
        "<chart><axes><axis type=\"label\" label=\"Regions\" LabelAxis-font-name=\"Calibri\"/></axes></chart>",
        Bar(Ser(), axes),
        "<chart title=\"\" type=\"column\" number-format=\"\">" + noSettings +
@@ -497,7 +496,7 @@ TEST_F(ReadBackTest, TheWholeDefinitionAfterwards) {
                        labels + noBucket) +
            "<axes><axis type=\"label\" label=\"Regions\" sticky=\"\"/><axis type=\"value\" label=\"\" "
            "sticky=\"yes\"/></axes><data-labels/></chart>"},
-      {"a pie has no axes, and what was said of them stays",
+      {"a pie has no axes, and their settings are kept",
        "<chart><axes><axis type=\"label\" label=\"L\"/></axes><data-labels/></chart>",
        "<c:plotArea><c:pie3DChart>" + Ser("<c:dLbls>" + shares + "</c:dLbls>") +
            "</c:pie3DChart></c:plotArea>",
@@ -509,13 +508,13 @@ TEST_F(ReadBackTest, TheWholeDefinitionAfterwards) {
                                  "background-color=-4105 autoscale=True") +
                        noBucket) +
            "<data-labels><data-label show=\"percentages\"/></data-labels></chart>"},
-      {"the bucket values have a font of their own", "<chart/>", bucket(Props("sz=\"1300\" i=\"1\">" + red)),
+      {"the bucket values have their own font", "<chart/>", bucket(Props("sz=\"1300\" i=\"1\">" + red)),
        bucketChart +
            persistence(
                untitled + noLegend + labels +
                Persisted("bucket-label-font", "name=Calibri size=13 color=255 style=Italic autoscale=True")) +
            axesWithoutTitles + "<data-labels/></chart>"},
-      {"bucket values that disagree about their font", "<chart/>",
+      {"bucket values with different fonts", "<chart/>",
        bucket("<c:dLbl><c:idx val=\"1\"/>" + Props("sz=\"1300\" i=\"1\">" + red + serif) + shown +
               "</c:dLbl>"),
        bucketChart +
@@ -523,7 +522,7 @@ TEST_F(ReadBackTest, TheWholeDefinitionAfterwards) {
                untitled + noLegend + labels +
                Persisted("bucket-label-font", "name=Arial size=9 color=16777215 style=Bold autoscale=True")) +
            axesWithoutTitles + "<data-labels/></chart>"},
-      {"labels that disagree about their font", "<chart/>",
+      {"labels with different fonts", "<chart/>",
        Bar(Ser("<c:dLbls><c:dLbl><c:idx val=\"1\"/>" + Props("sz=\"1300\" i=\"1\">" + red + serif) + shown +
                "</c:dLbl>" + shown + "</c:dLbls>")),
        "<chart title=\"\" type=\"column\" number-format=\"\">" + noSettings +

@@ -181,7 +181,7 @@ TEST_F(AxesTest, AxesAtTheEndOfAllNumbersAreDrawn) {
   EXPECT_EQ(DrawingComplaints(drawing), "");
 }
 
-TEST_F(AxesTest, LabelsAndGridlinesStandWhereTheirValuesAre) {
+TEST_F(AxesTest, LabelsAndGridlinesAreAtTheirValues) {
   for (const bool reversed : {false, true}) {
     for (const bool horizontal : {false, true}) {
       const S scaling =
@@ -205,7 +205,7 @@ TEST_F(AxesTest, LabelsAndGridlinesStandWhereTheirValuesAre) {
   }
 }
 
-TEST_F(AxesTest, AnAxisLiesWhereItCrossesTheOther) {
+TEST_F(AxesTest, AnAxisIsAtItsCrossing) {
   struct {
     const char* what;
     S category, value;
@@ -264,7 +264,7 @@ TEST_F(AxesTest, AreasAndDropLinesEndAtTheCategoryAxisUnlessTheyAreStacked) {
   }
 }
 
-TEST_F(AxesTest, LabelsOfBarsThatHangFromTheirAxisAreBelowThem) {
+TEST_F(AxesTest, LabelsOfBarsBelowTheirAxisAreBelowThem) {
   const Drawing drawing = Draw(PlotXml(
       GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>",
                SeriesXml(0, {2, 15}, "<c:dLbls><c:showVal val=\"1\"/></c:dLbls>")) +
@@ -321,7 +321,7 @@ INSTANTIATE_TEST_SUITE_P(
                   true}),
     [](const auto& each) { return S(each.param.name); });
 
-TEST_F(AxesTest, DatesLieWhereTheirDayMonthOrYearIs) {
+TEST_F(AxesTest, DatesAreAtTheirDayMonthOrYear) {
   struct {
     const char* what;
     S axis;
@@ -437,7 +437,7 @@ TEST_F(AxesTest, LabelsOfSeveralLinesBesideBarsAreSkippedByTheirHeight) {
   }
 }
 
-TEST_F(AxesTest, TitlesStandOutsideOfTheLabels) {
+TEST_F(AxesTest, TitlesAreOutsideOfTheLabels) {
   const auto title = [](const S& text, const S& body = "<a:bodyPr/>") {
     return "<c:title><c:tx><c:rich>" + body + "<a:p><a:r><a:t>" + text +
            "</a:t></a:r></a:p></c:rich></c:tx></c:title>";

@@ -63,7 +63,7 @@ TEST_P(BarsTest, AreAsLongAsTheirValues) {
   EXPECT_NEAR(Thickness(BoxesOf(drawing, Role::kBar)[0]) * slots * 3, Thickness(plot), 1e-6);
 }
 
-TEST_P(BarsTest, TouchWhereTheyArePiledUpAndStandBesideEachOtherElsewhere) {
+TEST_P(BarsTest, StackedBarsTouchAndOthersAreSideBySide) {
   const Drawing drawing = DrawCase({{10, 25, 3}, {30, 5, 12}, {5, 5, 5}});
   for (std::size_t i = 0; i < 3; ++i) {
     for (int s = 1; s < 3; ++s) {
@@ -80,7 +80,7 @@ TEST_P(BarsTest, TouchWhereTheyArePiledUpAndStandBesideEachOtherElsewhere) {
   }
 }
 
-TEST_P(BarsTest, GoTheOtherWayFromZeroWhereTheyAreNegative) {
+TEST_P(BarsTest, NegativeBarsExtendInTheOtherDirection) {
   const Drawing drawing = DrawCase({{10, -20, kNoValue}, {-5, -10, 15}});
   EXPECT_EQ(DrawingComplaints(drawing), "");
   const auto first = BoxesOf(drawing, Role::kBar, 1), second = BoxesOf(drawing, Role::kBar, 2);
@@ -96,7 +96,7 @@ TEST_P(BarsTest, GoTheOtherWayFromZeroWhereTheyAreNegative) {
   EXPECT_NEAR(base(first[0], false), base(second[2], false), 1e-6);
 }
 
-TEST_F(DrawingTest, BarsOverlapOrStandApartByAShareOfTheirWidth) {
+TEST_F(DrawingTest, BarsOverlapOrHaveGapsByAShareOfTheirWidth) {
   for (const double overlap : {-100, -50, 0, 40, 100}) {
     const Drawing drawing = Draw(
         PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>",
@@ -110,7 +110,7 @@ TEST_F(DrawingTest, BarsOverlapOrStandApartByAShareOfTheirWidth) {
   }
 }
 
-TEST_F(DrawingTest, BarsBelowZeroAreInvertedWhereTheFileWantsIt) {
+TEST_F(DrawingTest, BarsBelowZeroAreInvertedIfTheFileSaysSo) {
   const auto solid = [](const S& color) {
     return "<c:spPr><a:solidFill><a:srgbClr val=\"" + color + "\"/></a:solidFill></c:spPr>";
   };

@@ -26,7 +26,7 @@ class DataLabelsTest : public DrawingTest {
 
 S Shown(const S& which) { return "<c:" + which + " val=\"1\"/>"; }
 
-TEST_F(DataLabelsTest, SayWhatTheyAreToldToShow) {
+TEST_F(DataLabelsTest, ShowWhatTheirSettingsSelect) {
   struct {
     S labels;
     Texts texts;
@@ -52,7 +52,7 @@ TEST_F(DataLabelsTest, SayWhatTheyAreToldToShow) {
   }
 }
 
-TEST_F(DataLabelsTest, StandWhereTheirPositionSaysAtBars) {
+TEST_F(DataLabelsTest, AreAtTheirPositionOnBars) {
   for (const S direction : {"col", "bar"}) {
     for (const S position : {"outEnd", "inEnd", "ctr", "inBase"}) {
       const Drawing drawing =
@@ -91,7 +91,7 @@ TEST_F(DataLabelsTest, StandWhereTheirPositionSaysAtBars) {
   }
 }
 
-TEST_F(DataLabelsTest, StandBesideMarkers) {
+TEST_F(DataLabelsTest, AreBesideMarkers) {
   struct {
     S position;
     double x, y;
@@ -135,7 +135,7 @@ TEST_F(DataLabelsTest, OfPiesAreInsideOfTheirSliceOrOutsideOfTheCircle) {
   EXPECT_LT(BoxOf(best, Role::kSlice).width, BoxOf(draw("ctr", {1, 99}), Role::kSlice).width);
 }
 
-/// The labels of a pie from top to bottom on each side of it, and which of them lie on each other.
+/// The labels of a pie from top to bottom on each side of it, and the ones that overlap.
 struct PieLabelsSeen {
   std::size_t count = 0, leaders = 0;
   Texts overlaps;

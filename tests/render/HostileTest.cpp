@@ -48,7 +48,7 @@ S Claiming(const S& count) {
 
 class HostileTest : public DrawingTest, public ::testing::WithParamInterface<HostileCase> {};
 
-TEST_P(HostileTest, IsDrawnSomehowInLittleTimeAndSpace) {
+TEST_P(HostileTest, IsDrawnInLittleTimeAndSpace) {
   const auto start = std::chrono::steady_clock::now();
   for (const auto& [width, height] : {std::pair{384.0, 270.0}, {3.0, 2000.0}, {1.0, 1.0}}) {
     const Drawing drawing = Draw(GetParam().chart, "", width, height);
@@ -129,7 +129,7 @@ INSTANTIATE_TEST_SUITE_P(
                             "<c:firstSliceAng val=\"-1e9\"/><c:holeSize val=\"1000\"/></c:doughnutChart>")}),
     [](const auto& each) { return S(each.param.name); });
 
-TEST_F(DrawingTest, LegendsAreReadAsFarAsTheyAreAskedForWhateverThePartClaims) {
+TEST_F(DrawingTest, LegendsAreReadOnlyAsFarAsTheyAreShown) {
   OpenChart(ChartPartXml(PlotXml("<c:pieChart>" + Claiming("4000000") + "</c:pieChart>", "<c:legend/>")));
   for (const S& name : Book().Package().Parts()) {
     if (name.find("/charts/chart") == S::npos || !name.ends_with(".xml")) continue;
@@ -166,10 +166,10 @@ TEST_F(DrawingTest, ColumnsThinnerThanPixelsAreFewPathsOfTheirColours) {
   for (const auto& item : ItemsOf(drawing, Role::kBar)) {
     steps += std::get<render::PathItem>(item.content).path.Steps().size();
   }
-  EXPECT_LT(steps, 40'000u);  // of 400,000 that bars one by one take
+  EXPECT_LT(steps, 40'000u);  // 400,000 if each bar is drawn by itself
   const Rect plot = BoxOf(drawing, Role::kPlotArea), bars = BoxOf(drawing, Role::kBar);
   EXPECT_NEAR(bars.width, plot.width, 1);
-  // the last series is in front, in its colour and in that of points below zero
+  // the last series is in front, in its colour and in the colour of points below zero
   const auto front = ItemsOf(drawing, Role::kBar, 40);
   ASSERT_GT(front.size(), 1u);
   EXPECT_NE(FillOf(front[0]), FillOf(front[1]));

@@ -35,7 +35,7 @@ S LegendXml(const S& position, const S& more = "") {
   return "<c:legend><c:legendPos val=\"" + position + "\"/>" + more + "</c:legend>";
 }
 
-TEST_F(LayoutTest, TheLegendTakesItsSide) {
+TEST_F(LayoutTest, TheLegendIsAtItsSide) {
   for (const S position : {"r", "l", "t", "b", "tr"}) {
     const Drawing drawing = DrawColumns(LegendXml(position));
     EXPECT_EQ(DrawingComplaints(drawing), "") << position;
@@ -72,7 +72,7 @@ TEST_F(LayoutTest, TheLegendTakesItsSide) {
   }
 }
 
-TEST_F(LayoutTest, TheLegendLeavesOutEntriesAndGoesWhereItWasDragged) {
+TEST_F(LayoutTest, TheLegendLeavesOutEntriesAndHasItsManualPosition) {
   const Drawing deleted =
       DrawColumns(LegendXml("r", "<c:legendEntry><c:idx val=\"1\"/><c:delete val=\"1\"/></c:legendEntry>"));
   EXPECT_EQ(TextsOf(deleted, Role::kLegendEntry), (Texts{"Series 0", "Series 2"}));
@@ -111,7 +111,7 @@ TEST_F(LayoutTest, ALegendThatIsTooNarrowForItsTextsShowsAllEntriesThatHaveHeigh
   }
 }
 
-TEST_F(LayoutTest, ALegendShowsAsManyEntriesAsFitSaysItAndNeverCoversThePlot) {
+TEST_F(LayoutTest, ALegendShowsTheEntriesThatFitAndDoesNotCoverThePlot) {
   const auto many = [](int count, const S& name) {
     S series;
     for (int i = 0; i < count; ++i) {
@@ -190,7 +190,7 @@ TEST_F(LayoutTest, ALegendShowsAsManyEntriesAsFitSaysItAndNeverCoversThePlot) {
   }
 }
 
-TEST_F(LayoutTest, APlotAreaByHandIsWhereItsLayoutSays) {
+TEST_F(LayoutTest, AManualPlotAreaHasItsLayout) {
   const auto layout = [](const S& target) {
     return "<c:layout><c:manualLayout><c:layoutTarget val=\"" + target +
            "\"/><c:xMode val=\"edge\"/><c:yMode val=\"edge\"/><c:x val=\"0.25\"/><c:y val=\"0.2\"/><c:w "
@@ -210,7 +210,7 @@ TEST_F(LayoutTest, APlotAreaByHandIsWhereItsLayoutSays) {
   EXPECT_NEAR(all.Bottom(), wanted.Bottom(), 0.5);
 }
 
-TEST_F(LayoutTest, TitlesBreakKeepTheirRunsAndMakeRoom) {
+TEST_F(LayoutTest, TitlesWrapKeepTheirRunsAndTakeSpace) {
   const S title =
       "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:rPr sz=\"1400\" b=\"0\" u=\"sng\"/><a:t>Plain and "
       "</a:t></a:r><a:r>"
@@ -350,7 +350,7 @@ TEST_F(LayoutTest, ATitleWithoutACacheHasTheTextOfItsCell) {
   EXPECT_NE(drawing.title, "");
 }
 
-TEST_F(LayoutTest, AxesOfKindsThatArentDrawnAreNotDrawnEither) {
+TEST_F(LayoutTest, AxesOfKindsThatArentDrawnAreLeftOut) {
   const S look =
       "<c:majorGridlines/><c:minorGridlines/><c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>Values"
       "</a:t></a:r></a:p></c:rich></c:tx></c:title>";

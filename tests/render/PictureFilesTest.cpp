@@ -102,7 +102,7 @@ TEST_F(PictureFilesTest, SvgsOfOnePageHaveIdsOfTheirOwn) {
   EXPECT_NE(idOf(Small()), idOf(other));
 }
 
-TEST_F(PictureFilesTest, SvgOfAChartIsWellFormedAndTellsItsValues) {
+TEST_F(PictureFilesTest, SvgOfAChartIsWellFormedAndContainsItsValues) {
   Drawing drawing = Columns(2, 3);
   drawing.items.push_back({{}, TextItem{S("a\x01&\xFF\n"), {"Odd 'font' \"1\"", 10}}});
   const S svg = MakeSvg(drawing);
@@ -200,7 +200,7 @@ TEST_F(PictureFilesTest, AChartOnAPageIsMovedAsAWhole) {
   }
 }
 
-TEST_F(PictureFilesTest, FontsMeasureAsTheFilesSay) {
+TEST_F(PictureFilesTest, FontsHaveTheWidthsOfTheFiles) {
   const auto width = [&](const S& text, const render::Font& font) {
     return SharedFonts().Measure(text, font).width;
   };

@@ -23,7 +23,7 @@ S Text(const CellRange& range) {
          xlsx::CellAddress(range.row2, range.column2, false);
 }
 
-TEST(MergedCellsTest, HoldTheSameCellsAsTheirRangesInAnyOrderOfRows) {
+TEST(MergedCellsTest, ContainTheCellsOfTheirRangesInAnyOrderOfRows) {
   const struct {
     const char* what;
     std::vector<CellRange> ranges;
@@ -47,7 +47,7 @@ TEST(MergedCellsTest, HoldTheSameCellsAsTheirRangesInAnyOrderOfRows) {
   }
 }
 
-TEST(PageCutsTest, PagesHoldWholeRowsAndColumnsUpToBreaks) {
+TEST(PageCutsTest, PagesContainWholeRowsAndColumnsUpToBreaks) {
   // The printable area is 100 by 100 points. Columns are 30 and rows 40 points; row 3 is hidden.
   xlsx::PageSetup plain;
   plain.paperWidth = plain.paperHeight = 120;
@@ -205,7 +205,7 @@ TEST_F(SheetPagesTest, CellsHaveTheirTextsFillingsAndBorders) {
   EXPECT_EQ(notes_, Notes());
 }
 
-TEST_F(SheetPagesTest, LongTextsGoOverEmptyCellsOnlyAndWrapWhereTheyAreTo) {
+TEST_F(SheetPagesTest, LongTextsExtendOverEmptyCellsAndWrap) {
   const S words = "far too long for a cell of this width";
   const struct {
     std::vector<test::PlainRow> rows;
@@ -253,7 +253,7 @@ TEST_F(SheetPagesTest, ThePrintAreaIsAllThatIsPrinted) {
   EXPECT_EQ(TextsOf(pages[1], Role::kCellText), (std::vector<S>{"A3"}));
 }
 
-TEST_F(SheetPagesTest, ChartsLieInTheirPlacesAndPagesGoOn) {
+TEST_F(SheetPagesTest, ChartsAreInPlaceAndContinueOnFurtherPages) {
   PlainSheet sheet{.name = "Sheet1"};
   sheet.rows = {{S("Above")}};
   const S bars = test::GroupXml("barChart", "<c:barDir val=\"col\"/>", test::SeriesXml(0, {1, 2}));

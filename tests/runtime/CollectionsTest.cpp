@@ -28,7 +28,7 @@ TEST(CollectionTest, KeysIgnoreCaseAndOrderIsKept) {
   EXPECT_EQ(ErrorOf([&] { collection.Remove("b"); }), error::kInvalidCall);
 }
 
-TEST(DictionaryTest, ReadOfAMissingKeyMakesIt) {
+TEST(DictionaryTest, ReadingAMissingKeyAddsIt) {
   Dictionary dictionary;
   dictionary.Add("x", 1);
   EXPECT_EQ(ErrorOf([&] { dictionary.Add("x", 2); }), error::kKeyExists);

@@ -113,7 +113,8 @@ TEST(VariantTest, ConversionsOfOtherTypes) {
   }
   EXPECT_TRUE(IsNumeric(Variant()));
   EXPECT_TRUE(IsNumeric(Variant(false)));
-  EXPECT_FALSE(IsNumeric(Variant(Variant::Date{1}))) << "a date is no number, though it converts to one";
+  EXPECT_FALSE(IsNumeric(Variant(Variant::Date{1})))
+      << "a date isn't a number, although it can be converted to one";
 }
 
 TEST(VariantTest, WholeNumbersRoundHalvesToEven) {
@@ -135,7 +136,7 @@ TEST(VariantTest, Booleans) {
     EXPECT_EQ(ErrorOf([&] { CBool(text); }), error::kTypeMismatch) << text;
 }
 
-TEST(VariantTest, ValTakesTheNumberInFront) {
+TEST(VariantTest, ValReadsTheLeadingNumber) {
   const std::pair<const char*, double> cases[] = {
       {"11.0", 11},      {"16.0.1234", 16}, {"9pt", 9},     {" 1 2 3 ", 123}, {"-3.5e2x", -350},
       {"1e", 1},         {"1d2", 100},      {"abc", 0},     {"", 0},          {"$5", 0},

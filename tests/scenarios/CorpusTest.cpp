@@ -27,8 +27,8 @@ const std::map<S, S> kRefused = {
     {"POIXSSFFuzzer-6448258963341312.xlsx", "inconsistent"},
     {"XLSX2CSVFuzzer-5636439151607808.xlsx", "Not a zip archive"},
     {"crash-9bf3cd4bd6f50a8a9339d363c2c7af14b536865c.xlsx", "encrypted"},
-    {"duplicate-filename-case-insensitive.xlsx", "two parts of the name"},
-    {"duplicate-filename.xlsx", "two parts of the name"},
+    {"duplicate-filename-case-insensitive.xlsx", "two parts with the name"},
+    {"duplicate-filename.xlsx", "two parts with the name"},
     {"encryptAES.xlsx", "encrypted"},
     {"invalid.xlsx", "no content types"},
     {"made_empty.xlsx", "it is empty"},
@@ -57,7 +57,7 @@ std::vector<fs::path> Corpus() {
 class CorpusTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    if (Corpus().empty()) GTEST_SKIP() << "the corpus isn't there";
+    if (Corpus().empty()) GTEST_SKIP() << "the corpus is missing";
   }
   /// Returns the parts that differ between the files or exist in only one of them.
   std::set<S> Changed(const S& first, const S& second) {
@@ -101,7 +101,7 @@ TEST_F(CorpusTest, SaveChangesNoPartOfAnyWorkbook) {
   }
 }
 
-TEST_F(CorpusTest, LibreOfficeOpensWhatWasSaved) {
+TEST_F(CorpusTest, LibreOfficeOpensTheSavedWorkbooks) {
   if (std::system("command -v soffice > /dev/null 2>&1") != 0) GTEST_SKIP() << "LibreOffice isn't installed";
   fs::create_directory(folder_ / "saved");
   std::set<S> stems;
@@ -121,7 +121,7 @@ TEST_F(CorpusTest, LibreOfficeOpensWhatWasSaved) {
   for (const S& stem : stems) EXPECT_TRUE(fs::exists(folder_ / ("csv/" + stem + ".csv"))) << stem;
 }
 
-TEST_F(CorpusTest, RefreshTouchesOnlyWhatIsItsOwn) {
+TEST_F(CorpusTest, RefreshChangesOnlyItsOwnParts) {
   for (const fs::path& path : Corpus()) {
     const S name = path.filename().string(), out = folder_ / ("out" + path.extension().string());
     if (kRefused.contains(name)) continue;

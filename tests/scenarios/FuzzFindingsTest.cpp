@@ -12,9 +12,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Runs inputs that the fuzzers have found, or that were written for errors that were found otherwise. Each
-/// of them has caused a crash, a hang or unbounded memory use.
-TEST(FuzzFindingsTest, WhatOnceFailedIsMended) {
+/// Runs inputs that have caused a crash, a hang or unbounded memory use. The fuzzers have found them, or they
+/// were written for errors that were found in another way.
+TEST(FuzzFindingsTest, FormerFailuresSucceed) {
   const fs::path findings = fs::path(test::kSourceFolder) / "fuzz" / "findings";
   std::set<std::string> folders, targets;
   for (const auto& folder : fs::directory_iterator(findings)) folders.insert(folder.path().filename());

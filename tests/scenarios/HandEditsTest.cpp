@@ -66,7 +66,7 @@ struct HandEdit {
   std::vector<S> definition;  ///< Expected in the definition.
 };
 
-TEST_F(HandEditsTest, WhatAPersonDidToAChartSurvives) {
+TEST_F(HandEditsTest, ChangesMadeByHandSurvive) {
   const S label =
       "<c:txPr><a:bodyPr/><a:lstStyle/><a:p><a:pPr><a:defRPr sz=\"1400\" b=\"1\">" + kRed +
       "<a:latin typeface=\"Georgia\"/></a:defRPr></a:pPr><a:endParaRPr lang=\"en-US\"/></a:p></c:txPr>";
@@ -89,7 +89,7 @@ TEST_F(HandEditsTest, WhatAPersonDidToAChartSurvives) {
        },
        {"<c:chart><c:autoTitleDeleted val=\"1\"/><c:plotArea>"},
        {"title=\"\""}},
-      {"the legend dragged, in a frame",
+      {"the legend moved by hand, with a frame",
        [](S& xml) {
          ReplaceSpan(
              xml, "<c:legend>", "<c:plotVisOnly",
@@ -154,7 +154,7 @@ TEST_F(HandEditsTest, WhatAPersonDidToAChartSurvives) {
        [](S& xml) { Replace(xml, "</c:plotArea>", kGradient + "</c:plotArea>"); },
        {kGradient + "</c:plotArea>"},
        {}},
-      {"what drawing doesn't set",
+      {"settings that drawing doesn't change",
        [&](S& xml) {
          Replace(xml, "<c:layout/>",
                  "<c:layout><c:manualLayout><c:layoutTarget val=\"inner\"/><c:xMode val=\"edge\"/><c:yMode "
@@ -193,7 +193,7 @@ TEST_F(HandEditsTest, WhatAPersonDidToAChartSurvives) {
       EXPECT_NE(chart.find(wanted), S::npos) << wanted << "\n  isn't in\n" << chart;
     for (const S& wanted : hand.definition)
       EXPECT_NE(definition.find(wanted), S::npos) << wanted << "\n  isn't in\n" << definition;
-    EXPECT_NE(chart.find("VEX_ChartData!"), S::npos) << "the series are there";
+    EXPECT_NE(chart.find("VEX_ChartData!"), S::npos) << "the chart has its series";
     EXPECT_TRUE(Messages().empty()) << Messages()[0];
   }
 }
@@ -248,7 +248,7 @@ TEST_F(HandEditsTest, ThreeDimensionsKeepTheirView) {
       << SavedPart(kChart);
 }
 
-TEST_F(HandEditsTest, AChartIsFoundOnWhicheverSheetItIsMovedTo) {
+TEST_F(HandEditsTest, AChartIsFoundOnTheSheetToWhichItWasMoved) {
   auto book = SalesBook({{"VEX_Chart1"}});
   test::PlainSheet other{"Other"};
   other.frames = {{"not ours", ""}};
@@ -272,7 +272,7 @@ TEST_F(HandEditsTest, AChartIsFoundOnWhicheverSheetItIsMovedTo) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(HandEditsTest, ChartsThatLostTheirMarkersAreKnownByTheirData) {
+TEST_F(HandEditsTest, ChartsWithoutMarkersAreIdentifiedByTheirData) {
   auto book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "bar"}});
   book.Sheet("Charts").frames.push_back({"", ""});  // A foreign chart, which never had an alternative text.
   Open(book);

@@ -301,7 +301,7 @@ TEST_F(HelpTopicsTest, TheTableListsAllFilesByTheirTitles) {
   EXPECT_EQ(listed, files);
 }
 
-TEST_F(HelpTopicsTest, LinksAndPicturesAreThere) {
+TEST_F(HelpTopicsTest, LinksAndPicturesExist) {
   std::set<S> missing;
   int pictures = 0;
   for (const TopicRow& row : TopicRows()) {

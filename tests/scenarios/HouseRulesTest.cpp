@@ -26,7 +26,7 @@ std::string TextOf(const fs::path& path) {
   return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
-/// The texts between separators, without blanks around them.
+/// Returns the texts between separators, without surrounding blanks.
 std::vector<std::string> Split(const std::string& text, char separator) {
   std::vector<std::string> pieces;
   std::istringstream stream(text);
@@ -40,7 +40,7 @@ std::vector<std::string> Split(const std::string& text, char separator) {
 /// A row of docs/rooms.tsv.
 struct Room {
   std::string name;
-  std::vector<std::string> mayInclude;  ///< as the row lists them
+  std::vector<std::string> mayInclude;  ///< as listed in the row
   std::string content;
 };
 
@@ -57,12 +57,12 @@ class HouseRulesTest : public ::testing::Test {
     return rooms;
   }
 
-  /// Whether a path, without an extension, is of a row or below it.
+  /// Returns true if a path without its extension belongs to a row or is below it.
   static bool IsWithin(const std::string& path, const std::string& room) {
     return path == room || path.starts_with(room + "/");
   }
 
-  /// The row that a path below src belongs to; empty if there is none.
+  /// Returns the row of a path below src; empty if there is none.
   std::string RoomOf(const std::string& path) const {
     const std::string stem = fs::path(path).replace_extension().generic_string();
     std::string longest;
@@ -72,7 +72,7 @@ class HouseRulesTest : public ::testing::Test {
     return longest;
   }
 
-  /// The rows that a row may include, with its entries spelled out.
+  /// Returns the rows that a row may include, with its entries expanded.
   std::set<std::string> Allowed(const Room& room) const {
     std::set<std::string> allowed;
     for (const std::string& entry : room.mayInclude) {
@@ -109,7 +109,7 @@ class HouseRulesTest : public ::testing::Test {
     return includes;
   }
 
-  /// A cycle of a graph, such as "a -> b -> a"; empty if there is none.
+  /// Returns a cycle of a graph, such as "a -> b -> a"; empty if there is none.
   static std::string FindCycle(const std::map<std::string, std::set<std::string>>& graph) {
     std::set<std::string> done;
     std::vector<std::string> way;
@@ -146,20 +146,20 @@ TEST_F(HouseRulesTest, RoomsIncludeOnlyWhatTheTableAllows) {
     used.insert(own);
     for (const std::string& include : IncludesIn(text)) {
       const std::string other = RoomOf(include);
-      if (other == own || other.empty()) continue;  // a library's header is in no room
+      if (other == own || other.empty()) continue;  // headers of libraries are in no room
       EXPECT_TRUE(allowed[own].contains(other)) << file << " includes " << include;
     }
   });
   for (const Room& room : rooms_) EXPECT_TRUE(used.contains(room.name)) << room.name << " has no file";
 }
 
-TEST_F(HouseRulesTest, NoRoomIncludesItselfByWayOfOthers) {
+TEST_F(HouseRulesTest, NoRoomIncludesItselfThroughOthers) {
   std::map<std::string, std::set<std::string>> graph;
   for (const Room& room : rooms_) graph[room.name] = Allowed(room);
   EXPECT_EQ(FindCycle(graph), "");
 }
 
-TEST_F(HouseRulesTest, NoHeaderIncludesItselfByWayOfOthers) {
+TEST_F(HouseRulesTest, NoHeaderIncludesItselfThroughOthers) {
   std::map<std::string, std::set<std::string>> graph;
   ForEachSource([&](const std::string& file, const std::string& text) {
     if (!file.ends_with(".h")) return;
@@ -174,7 +174,7 @@ TEST_F(HouseRulesTest, ACycleIsFound) {
   EXPECT_EQ(FindCycle({{"a", {"b"}}, {"b", {"c"}}, {"c", {"b"}}}), "b -> c -> b");
 }
 
-/// The page has one table for the rooms and one for the folders of each room that has some.
+/// The page has one table of rooms, and one table for each room that has folders.
 TEST_F(HouseRulesTest, TheArchitecturePageShowsTheTable) {
   std::map<std::string, std::string> tables;
   for (const Room& room : rooms_) {
@@ -196,7 +196,7 @@ TEST_F(HouseRulesTest, TheArchitecturePageShowsTheTable) {
   }
 }
 
-TEST_F(HouseRulesTest, TheSystemCatchesOnlyInItsErrorBlocks) {
+TEST_F(HouseRulesTest, TheSystemCatchesExceptionsOnlyInErrorBlocks) {
   const std::set<std::string> system = {"common", "metadata", "builder", "readback", "pages", "controller"};
   ForEachSource([&](const std::string& file, const std::string& text) {
     if (!system.contains(file.substr(0, file.find('/'))) || file == "common/ErrorBlocks.h") return;

@@ -38,7 +38,7 @@ class InstallTest : public ::testing::Test {
   const fs::path prefix_ = folder_.Path() / "a prefix";
 };
 
-TEST_F(InstallTest, EverythingIsInItsPlaceAndGoesAgain) {
+TEST_F(InstallTest, EveryFileIsInstalledAndRemoved) {
   const S build = test::kBuildFolder;
   ASSERT_EQ(Shell("cmake --install '" + build + "' --component command --prefix '" + prefix_.string() + "'"),
             0);

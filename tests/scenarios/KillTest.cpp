@@ -60,7 +60,8 @@ class KillTest : public ::testing::Test {
   S path_;
 };
 
-/// If the program is killed during a save, the complete old or new workbook exists, and no other file.
+/// If the program is killed during a save, either the complete old or the complete new workbook exists, and
+/// no other file.
 TEST_F(KillTest, AKilledSaveLeavesTheOldWorkbookOrTheNewOne) {
   const S before = Bytes(path_);
   int status = 0;
@@ -91,9 +92,9 @@ TEST_F(KillTest, AKilledSaveLeavesTheOldWorkbookOrTheNewOne) {
       ++leftBehind;
     }
   }
-  EXPECT_GT(killedBefore, 0) << "the program was always done before it could be killed";
-  EXPECT_GT(killedAfter, 0) << "the program never came to its end";
-  EXPECT_LT(leftBehind, 3) << "the file that is written has a name";
+  EXPECT_GT(killedBefore, 0) << "the program always ended before it could be killed";
+  EXPECT_GT(killedAfter, 0) << "the program never reached its end";
+  EXPECT_LT(leftBehind, 3) << "the incomplete file has a name";
 }
 
 }  // namespace

@@ -112,7 +112,7 @@ class LibreOfficeTest : public test::HostTest {
   }
 };
 
-TEST_F(LibreOfficeTest, SeesTheSameSeries) {
+TEST_F(LibreOfficeTest, ReadsTheSameSeries) {
   Definition bar{"VEX_Chart1", "bar"}, area{"VEX_Chart2", "area"},
       column{"VEX_Chart3", "column", "table-id=\"Data1\" title=\"3-D\""};
   bar.rest = test::Settings({"stacked"});
@@ -139,7 +139,7 @@ TEST_F(LibreOfficeTest, SeesTheSameSeries) {
   EXPECT_NE(charts[2].find(">3-D<"), S::npos);
 }
 
-TEST_F(LibreOfficeTest, SeesPiesBubblesAndBuckets) {
+TEST_F(LibreOfficeTest, ReadsPiesBubblesAndBuckets) {
   Definition pie{"VEX_Chart1", "pie"};
   pie.series = "<series headings-in=\"none\"/>";
   Open(test::SalesBook({pie}));
@@ -187,7 +187,7 @@ TEST_F(LibreOfficeTest, AChartOnANewSheetHasItsHeight) {
       << height;
 }
 
-TEST_F(LibreOfficeTest, WhatWasEditedThereSurvivesTheNextRefresh) {
+TEST_F(LibreOfficeTest, ItsEditsSurviveTheNextRefresh) {
   Definition column{"VEX_Chart1", "column"}, area{"VEX_Chart2", "area"};
   column.rest =
       "<axes><axis type=\"value\" label=\"Money\" sticky=\"no\"/></axes><data-labels><data-label "
@@ -219,7 +219,7 @@ TEST_F(LibreOfficeTest, WhatWasEditedThereSurvivesTheNextRefresh) {
   ASSERT_EQ(charts.size(), 2u);
   EXPECT_EQ(Data(charts[0]), "|Widget|Gadget\nEast|11|7\nWest|5|");
   EXPECT_NE(charts[0].find(">Retitled<"), S::npos);
-  EXPECT_NE(charts[0].find("#ffffcc"), S::npos) << "the colour that nothing in the definition knows of";
+  EXPECT_NE(charts[0].find("#ffffcc"), S::npos) << "the colour that the definition doesn't contain";
 }
 
 }  // namespace

@@ -56,7 +56,7 @@ class NewcomerTest : public ::testing::Test {
   const S readme_ = Text(kRoot / "README.md");
 };
 
-TEST_F(NewcomerTest, TheWorkbookOfTheReadmeIsRefreshedAsItSays) {
+TEST_F(NewcomerTest, TheReadmesWorkbookIsRefreshed) {
   std::istringstream commands(Block(readme_, "\npython3 examples/write_book.py"));
   S line, last;
   while (std::getline(commands, line)) {
@@ -73,7 +73,7 @@ TEST_F(NewcomerTest, TheWorkbookOfTheReadmeIsRefreshedAsItSays) {
             "VEX_Chart1  \"Sales\"\n  column chart on sheet Data1, from table Data1 on sheet Data1\n  ok\n");
 }
 
-TEST_F(NewcomerTest, TheExamplesAreRefreshedWithoutAWord) {
+TEST_F(NewcomerTest, TheExamplesAreRefreshedWithoutMessages) {
   int books = 0;
   for (const auto& entry : fs::directory_iterator(kRoot / "examples")) {
     if (entry.path().extension() != ".xlsx") continue;
@@ -129,7 +129,7 @@ TEST_F(NewcomerTest, TheFirstStepsOfTheReadmeMakeAChart) {
             "Data1\n  ok\n");
 }
 
-TEST_F(NewcomerTest, TheScriptsOfTheWizardsPagePlayAndPrintWhatItSays) {
+TEST_F(NewcomerTest, TheScriptsOfTheWizardsPagePrintItsOutput) {
   const S page = Text(kRoot / "docs/wizard.md");
   const S book = folder_ / "orders.xlsx";
   fs::copy_file(kRoot / "examples/data/orders.xlsx", book);
@@ -167,7 +167,7 @@ TEST_F(NewcomerTest, TheReadmeNamesEachVerb) {
   EXPECT_EQ(named, verbs);
 }
 
-TEST_F(NewcomerTest, LinksAndPathsOfThePagesLeadSomewhere) {
+TEST_F(NewcomerTest, LinksAndPathsOfThePagesAreValid) {
   const std::regex link(R"x((?:\]\(|src=")([^)"#:]+))x"),
       path(R"(`((?:src|tests|docs|examples|scripts|fuzz|bench)/[A-Za-z/_.-]*[a-z])`)");
   std::vector<fs::path> pages = {kRoot / "README.md"};

@@ -112,7 +112,7 @@ TEST_F(RefreshScenarioTest, AChartThatIsNotRebuiltKeepsItsDataWhenRowsMove) {
   EXPECT_EQ(Chart(2), expected);
 }
 
-TEST_F(RefreshScenarioTest, WhatIsNotOursKeepsItsBytes) {
+TEST_F(RefreshScenarioTest, OtherPartsKeepTheirBytes) {
   for (const bool shared : {false, true}) {
     PlainBook book = SalesBook({{"VEX_Chart1"}});
     book.sharedStrings = shared;

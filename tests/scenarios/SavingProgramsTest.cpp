@@ -90,7 +90,7 @@ class SavingProgramsTest : public test::HostTest {
   }
 };
 
-TEST_F(SavingProgramsTest, WhatAProgramIsKnownToLoseComesBack) {
+TEST_F(SavingProgramsTest, KnownLossesOfAProgramAreRestored) {
   const S all = "definition, chart, comment, legend", none = "legend";
   const struct {
     S program, version, lost, left;
@@ -124,7 +124,7 @@ TEST_F(SavingProgramsTest, ALegendThatAPersonHidStaysHidden) {
   EXPECT_EQ(Left(), "definition, chart, comment, ");
 }
 
-TEST_F(SavingProgramsTest, TheHostSaysWhoSavedTheWorkbook) {
+TEST_F(SavingProgramsTest, TheHostReturnsTheSavingProgram) {
   const auto name = [&](const char* property = "Application name") {
     return runtime::CStr(Book().BuiltinDocumentProperties(property)->Value());
   };
@@ -143,7 +143,7 @@ TEST_F(SavingProgramsTest, TheHostSaysWhoSavedTheWorkbook) {
   EXPECT_EQ(SavedPart("/docProps/app.xml"), app) << "Plotsmith doesn't sign as the program";
 }
 
-TEST_F(SavingProgramsTest, WhatWasDeletedDoesNotComeBack) {
+TEST_F(SavingProgramsTest, DeletedShapesAreNotRestored) {
   Draw();
   // A copy that a person made in LibreOffice shows the same data, and has no alternative text either.
   test::EditPart(folder_ / "saved.xlsx", kDrawing, [](S& xml) {
@@ -157,7 +157,7 @@ TEST_F(SavingProgramsTest, WhatWasDeletedDoesNotComeBack) {
   ASSERT_EQ(RunCommand({"refresh", path}).code, 1) << "there is no chart left to refresh";
   EXPECT_EQ(RunCommand({"charts", path}).out, "There are no charts of Plotsmith.\n");
   const S xml = xlsx::Package::Open(path).Read(kDrawing);
-  EXPECT_NE(xml.find("graphicFrame"), S::npos) << "the copy is a chart of its own";
+  EXPECT_NE(xml.find("graphicFrame"), S::npos) << "the copy is a separate chart";
   EXPECT_EQ(xml.find("VEX_Chart1"), S::npos);
 }
 
@@ -170,7 +170,7 @@ TEST_F(SavingProgramsTest, OpenpyxlItself) {
   const S command = "/usr/bin/python3 " + (folder_ / "save.py") + " " + (folder_ / "saved.xlsx");
   ASSERT_EQ(std::system(command.c_str()), 0);
   const auto drawing = xlsx::Package::Open(folder_ / "saved.xlsx").Read("/xl/drawings/drawing1.xml");
-  ASSERT_EQ(drawing.find("VEX_Chart1"), S::npos) << "it has learned to keep alternative texts";
+  ASSERT_EQ(drawing.find("VEX_Chart1"), S::npos) << "this version keeps alternative texts";
   ExpectAllBack(folder_ / "saved.xlsx");
 }
 

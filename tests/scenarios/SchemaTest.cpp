@@ -32,7 +32,7 @@ class SchemaTest : public test::HostTest {
   }
   static void TearDownTestSuite() { schemas_.reset(); }
   void SetUp() override {
-    if (!schemas_) GTEST_SKIP() << "the schemas aren't there";
+    if (!schemas_) GTEST_SKIP() << "the schemas are missing";
   }
 
   /// Returns the errors in `after` that aren't in `before`. If `before` is an empty path, returns all errors.
@@ -142,7 +142,7 @@ TEST_F(SchemaTest, ChartsOfEveryKindFromEmptyFrames) {
   }
 }
 
-TEST_F(SchemaTest, ChartsOfTheCorpusTakenOver) {
+TEST_F(SchemaTest, ChartsOfTheCorpusWithADefinition) {
   int taken = 0;
   const auto kinds = AllKinds();
   std::vector<fs::path> files;
@@ -153,7 +153,7 @@ TEST_F(SchemaTest, ChartsOfTheCorpusTakenOver) {
     }
   }
   std::sort(files.begin(), files.end());
-  if (files.empty()) GTEST_SKIP() << "the corpus isn't there";
+  if (files.empty()) GTEST_SKIP() << "the corpus is missing";
   for (const fs::path& file : files) {
     for (std::size_t pass = 0; pass < kinds.size(); ++pass) {
       const S version = kVersions[pass % 2];
@@ -208,7 +208,7 @@ TEST_F(SchemaTest, ChartsOfTheCorpusTakenOver) {
   EXPECT_GT(taken, 500);
 }
 
-TEST_F(SchemaTest, WhatTheVerbsOfTheWizardWrite) {
+TEST_F(SchemaTest, OutputOfTheWizardsVerbs) {
   const S book = folder_ / "book.xlsx", before = folder_ / "before.xlsx";
   test::PlainBook plain;
   plain.sheets = {test::SalesSheet(), Targets()};

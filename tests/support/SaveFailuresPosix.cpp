@@ -22,7 +22,7 @@ namespace {
 namespace fs = std::filesystem;
 using S = std::string;
 
-/// Calls of a kind: how many there were, and which of them fails. Calls are counted while a save runs.
+/// The calls of one kind during a save: their number, and which of them fails.
 struct Calls {
   std::atomic<int> made = 0;
   std::atomic<int> failing = 0;  ///< from 1; 0 if none fails
@@ -31,9 +31,9 @@ struct Calls {
 };
 std::atomic<bool> isSaving = false;
 Calls allocations, fileCalls;
-std::atomic<bool> isFatal = false;  ///< whether a save can't do without the call that failed
+std::atomic<bool> isFatal = false;  ///< true if the save can't succeed without the call that failed
 
-constexpr int kLast = 8;  ///< calls at the end of a save, which put the file in its place
+constexpr int kLast = 8;  ///< number of calls at the end of a save, which put the file in place
 
 bool FileCallFails(int reason, bool fatal = true) {
   if (!isSaving || !fileCalls.FailsNow()) return false;
@@ -42,13 +42,13 @@ bool FileCallFails(int reason, bool fatal = true) {
   return true;
 }
 
-/// What the function that stands in front of another one calls in the end.
+/// Returns the real function that a replacement calls.
 template <class Function>
 Function* Next(const char* name) {
   return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
-/// Whether the save came to its end. The failures are numbers of calls from 1, or 0 for none.
+/// Returns true if the save succeeded. The failures are numbers of calls from 1, or 0 for none.
 bool Saves(const Save& save, const S& path, int failingAllocation, int failingFileCall) {
   allocations.made = fileCalls.made = 0;
   allocations.failing = failingAllocation;
@@ -65,7 +65,7 @@ bool Saves(const Save& save, const S& path, int failingAllocation, int failingFi
   return done;
 }
 
-/// The bytes of a file; nothing if there is none.
+/// Returns the bytes of a file; absent if there is none.
 std::optional<S> BytesOf(const S& path) {
   std::ifstream file(path, std::ios::binary);
   if (!file) return std::nullopt;
@@ -79,7 +79,7 @@ std::set<S> FilesBeside(const S& path) {
   return files;
 }
 
-/// Saves once more while one call to a file fails: over the file, or to one that isn't there yet.
+/// Saves again while one call to a file fails, over an existing file or to a new one.
 void SaveWhileCallFails(const S& path, const Save& save, int call) {
   const S target = call % 2 == 0 ? path : (fs::path(path).parent_path() / "absent.xlsx").string();
   const auto before = BytesOf(target), good = BytesOf(path);
@@ -91,7 +91,7 @@ void SaveWhileCallFails(const S& path, const Save& save, int call) {
   if (target != path) fs::remove(target);
 }
 
-/// Of the calls to files each of this many fails once, and each of those at the end.
+/// Makes every nth call to a file fail, where n is this number, and each call at the end.
 void Run(const S& path, const Save& save, int every) {
   ASSERT_TRUE(Saves(save, path, 0, 0)) << "a save without failures fails";
   const int calls = fileCalls.made;
@@ -129,8 +129,8 @@ bool SaveWithoutMemory(const S& path, int allocation, const Save& save) {
 
 }  // namespace plotsmith::test
 
-// The functions of the C library that a save calls, and the language's own of memory, each in front of the
-// real one. GCC, where it puts one of the two for memory in place of its call, takes them for no pair.
+// Replacements of the C library's functions that a save calls, and of the functions for memory. Each calls
+// the real one. GCC doesn't recognize the memory functions as a pair if it inlines one of them.
 
 namespace failures = plotsmith::test;
 
@@ -139,7 +139,7 @@ namespace failures = plotsmith::test;
   if (void* memory = std::malloc(size == 0 ? 1 : size)) return memory;
   throw std::bad_alloc();
 }
-// std::stable_sort takes memory by this one, and gives it back to the delete below.
+// std::stable_sort allocates memory with this function and frees it with the delete below.
 [[gnu::noinline]] void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
   if (failures::isSaving && failures::allocations.FailsNow()) return nullptr;
   return std::malloc(size == 0 ? 1 : size);

@@ -2,8 +2,7 @@
 
 namespace plotsmith::test {
 
-// The C library of Windows is not one whose functions a program can replace. Saves that fail are tested on
-// Linux.
+// A program can't replace functions of Windows' C library. Failing saves are tested on Linux.
 void SaveThroughFailures(const std::string& path, const Save& save) { save(path); }
 
 }  // namespace plotsmith::test

@@ -62,7 +62,7 @@ std::string StateDifferences(const forms::FormState& model, const forms::FormSta
     ControlState other = *found;
     if (!IsMarkable(control.kind)) control.backColor = other.backColor = forms::kButtonFace;
     KeepMarkOnly(control);
-    if (control.kind == "ListBox") control.text = other.text = std::nullopt;  // it shows in the selection
+    if (control.kind == "ListBox") control.text = other.text = std::nullopt;  // the selection shows it
     adapt(control, other);
     Compare(differences, control, other);
   }

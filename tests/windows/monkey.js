@@ -1,5 +1,5 @@
-// A monkey plays with the wizard in the test's Excel. After each run the host's window and workbook can be used, and
-// when the component has gone, it can come again: it has left no window class and no procedure of its own behind.
+// Sends random input to the wizard in the test's Excel. After each run, the host's window and workbook can be used.
+// After the component is unloaded, it can be loaded again: it has left no window class and no window procedure.
 (function() {
   var events = 0;
   for (var seed = 1; seed <= 4; ++seed) {

@@ -1,6 +1,6 @@
-' Column names of a table that have changed, on a workbook that is open in the test's Excel:
+' Updates changed column names of a table, in a workbook that is open in the test's Excel:
 '   operate.vbs rename BOOK OUTPUT JOURNAL TABLE OLD NEW
-' Prints what operate.js prints.
+' The output is the same as that of operate.js.
 Option Explicit
 Dim given, boxes, excel, controller, calls, unsure
 Set given = WScript.Arguments

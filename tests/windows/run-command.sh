@@ -67,7 +67,7 @@ imports_only_the_system() {
   if [ -n "$foreign" ]; then
     fails "it imports $foreign" "$1"
   elif ! objdump -f "$file" | grep -q "file format $2\$"; then
-    fails "it is not of the format $2" "$1"
+    fails "its format isn't $2" "$1"
   else
     passes
   fi
@@ -81,7 +81,7 @@ for book in examples/*.xlsx; do
   name=$(basename "$book")
   give "$book" "$name"
   same "refresh $name" refresh "$name"
-  same "refresh $name once more, with its journal" refresh "$name" --journal
+  same "refresh $name again, with its journal" refresh "$name" --journal
 done
 give examples/data/orders.xlsx orders.xlsx
 new() { same "new $*" new orders.xlsx --table Data1 --type "$@"; }
@@ -107,11 +107,11 @@ same "a missing file" refresh "fehlt: nichts.xlsx"
 same "a folder" refresh copies
 same "no such command" /refresh countries.xlsx
 give examples/countries.xlsx "Übersicht Köln/Länder – 日本.xlsx"
-same "a path with blanks and all kinds of letters" refresh "Übersicht Köln/Länder – 日本.xlsx"
+same "a path with blanks and letters of several scripts" refresh "Übersicht Köln/Länder – 日本.xlsx"
 same "such a path as the output" refresh countries.xlsx -o "Übersicht Köln/neu ü.xlsx"
 same "such a title" new orders.xlsx --table Data1 --type pie --title "Umsätze „2024“ 東京" --new-sheet "Übersicht ä"
 printf '0.00\t1.005\n#,##0 "€"\t1234.5\n' >"$work/input.txt"
-same "the standard input, with line ends as they are" format --tsv
+same "the standard input, with unchanged line ends" format --tsv
 : >"$work/input.txt"
 
 give examples/electricity.xlsx read-only.xlsx

@@ -37,7 +37,7 @@ look_at() {
   same_file "$1: exports" "$work/exports" "$work/expected-exports"
   objdump -p "$library" | sed -n 's/^\tDLL Name: //p' | LC_ALL=C sort >"$work/imports"
   same_file "$1: libraries that it needs" "$work/imports" "$work/expected-imports"
-  objdump -f "$library" | grep -q "file format $2\$" && passes || fails "it is not of the format $2" "$1"
+  objdump -f "$library" | grep -q "file format $2\$" && passes || fails "its format isn't $2" "$1"
   size=$(stat -c %s "$library")
   [ "$size" -lt 3000000 ] && passes || fails "it has $size bytes" "$1"
   version_texts "$library" >"$work/version"

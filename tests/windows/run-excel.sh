@@ -17,7 +17,7 @@ messages_differ() {
   sed -e 1d -e '/^$/d' -e 's/ \[OK\]\( of Please Wait\)*:/:/' -e 's/\\r\\n/\n/g' "$work/printed.txt" | diff "$work/said-by-component.txt" -
 }
 
-# One operation on either host: CASE OPERATION SCRIPT BOOK [TABLE [OLD NEW]]
+# Compares one operation on both hosts: CASE OPERATION SCRIPT BOOK [TABLE [OLD NEW]]
 same() {
   case=$1 operation=$2 script=$3 book=$4 table=${5:-}
   case $operation in

@@ -5,7 +5,7 @@ cd "$(dirname "$0")/../.."
 . tests/windows/lib.sh
 
 new_prefix
-# Of the calls from library to library, the trace has those of HTML Help alone.
+# The trace of calls between libraries is limited to those of HTML Help.
 wine reg add 'HKCU\Software\Wine\Debug' /v RelayInclude /d 'hhctrl.ocx.HtmlHelpA;hhctrl.ocx.HtmlHelpW' /f >/dev/null 2>&1
 folder="$work/Hilfe für Plotsmith"
 mkdir "$folder"
@@ -36,7 +36,7 @@ cp "$work/expected" "$work/expected-pages"
 echo "$numbers" | sed 's/$/: /' >"$work/expected"
 same_file "no boxes" "$work/said" "$work/expected"
 
-# Wine's code page has all letters of this folder, and none of the next.
+# Wine's code page has all letters of this folder, but not all of the next one.
 function_of() { sed -n 's/.*Call hhctrl.ocx.\(HtmlHelp[AW]\)(.*/\1/p' "$work/trace" | head -n 1; }
 [ "$(function_of)" = HtmlHelpA ] && passes || fails "it is $(function_of)" "the function for a path in the code page"
 other="$work/Справка"
@@ -51,7 +51,7 @@ same_file "the page, of a path beyond the code page" "$work/pages" "$work/expect
 open_topics "$help" 99
 printf '99: Brindle Plotsmith [OK]: HTML Help can'"'"'t show topic 99 of "%s".\n' "$help" >"$work/expected"
 same_file "no such number" "$work/said" "$work/expected"
-says "no path" "" "The host hasn't said where the help file is."
+says "no path" "" "The host hasn't set the path of the help file."
 missing=$(windows_path "$folder")\\None.chm
 says "no file" "$missing" "The help file \"$missing\" isn't there."
 echo "not a CHM file" >"$folder/Text.chm"

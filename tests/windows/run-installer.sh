@@ -173,8 +173,8 @@ record all
 works "for all" "$for_all"
 exits "for all, again" 0 "$setup /S /AllUsers"
 same_state "for all, again" all
-exits "again, without a word on users" 0 "$setup /S"
-same_state "again, without a word on users" all
+exits "again, without an option for users" 0 "$setup /S"
+same_state "again, without an option for users" all
 
 for file in 'x86\Plotsmith.dll' Plotsmith.chm; do
   hold "$for_all\\$file"
@@ -185,8 +185,8 @@ for file in 'x86\Plotsmith.dll' Plotsmith.chm; do
 done
 
 exits "for one user as well" 0 "$setup /S /CurrentUser"
-uninstall "for one user no more" "$for_user"
-same_state "for one user no more" all
+uninstall "no longer for one user" "$for_user"
+same_state "no longer for one user" all
 echo mine >"$(unix_path "$for_all")/mine.txt"
 uninstall "removed" "$for_all"
 [ "$(cat "$(unix_path "$for_all")/mine.txt")" = mine ] && passes || fails "it is gone" "a file that was put beside"
@@ -199,8 +199,8 @@ record user
 exits "for one user, again" 0 "$setup /S /CurrentUser"
 same_state "for one user, again" user
 exits "for all as well" 0 "$setup /S /AllUsers"
-uninstall "for all no more" "$for_all"
-same_state "for all no more" user
+uninstall "no longer for all" "$for_all"
+same_state "no longer for all" user
 uninstall "removed for one user" "$for_user"
 same_state "removed for one user" before
 
@@ -210,7 +210,7 @@ for mode in all user; do
     user) option=/CurrentUser folder=$for_user ;;
   esac
   exits "an older version, $mode" 0 "$older /S $option"
-  [ -f "$(unix_path "$folder")/macros/old.bas" ] && passes || fails "its files aren't there" "an older version, $mode"
+  [ -f "$(unix_path "$folder")/macros/old.bas" ] && passes || fails "its files are missing" "an older version, $mode"
   exits "upgrade, $mode" 0 "$setup /S $option"
   same_state "upgrade, $mode" $mode
   uninstall "removed after the upgrade, $mode" "$folder"

@@ -81,8 +81,8 @@ regsvr32_exits 5 /n /i:everyone
 nothing_left "no such scope"
 creates "in the end" ""
 
-# A registration that fails on its way leaves the registry as it is: an earlier one of another file, or none. It fails at
-# the interface, whose key is made for the session alone, so that it can't hold keys that stay.
+# A registration that fails midway leaves the registry unchanged: with an earlier registration of another file, or with
+# none. It fails at the interface, whose key exists only during the session and can't contain keys that persist.
 wine regsvr32 /s "$(windows_path "$windows/PlotsmithTestBoxes.dll")" >/dev/null 2>&1
 mkdir "$work/Other"
 cp "$windows/Plotsmith.dll" "$work/Other"

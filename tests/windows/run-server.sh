@@ -6,14 +6,14 @@ cd "$(dirname "$0")/../.."
 new_prefix
 register "$windows/Plotsmith.dll" "$windows/PlotsmithTestHost.dll" "$windows/PlotsmithTestBoxes.dll"
 
-# A workbook with a chart of each of several families, one after the other.
+# A workbook with a chart of each of several families.
 families=$work/families.xlsx
 cp examples/data/orders.xlsx "$families"
 add_chart() {
   build/plotsmith new "$families" --table Data1 --type "$@" >/dev/null 2>&1 || fails "exit code $?" "new $1"
 }
 add_chart column --title "Amount by region" --series Product --set stacked --new-sheet Charts
-column=$work/column.xlsx  # with the first of them alone
+column=$work/column.xlsx  # only the first of them
 cp "$families" "$column"
 add_chart pie --title "Where they come from" --categories Product --labels percentages --new-sheet Pies
 add_chart bubble --title "Products" --categories Product --values Amount --x-values Cost --sizes Units --series Product \

@@ -14,8 +14,8 @@ grep -E '^\[  FAILED  \]|Failure|Which is' "$work/tests.txt" || true
 
 script_checks tests/windows/monkey.js "$(windows_path $orders)" "$(windows_path "$work")"
 
-# A chart of a type, from the first page to the last, with a look at each page before its button is pressed:
-# TYPE OPTION...
+# Makes a chart of a type, from the first page to the last, and compares each page before its button is pressed: TYPE
+# OPTION...
 same_run() {
   type=$1
   build/plotsmith new $orders --table Data1 --type "$@" --print-script | sed 's/^press /show\n&/' >"$work/script.txt"

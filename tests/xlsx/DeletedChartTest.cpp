@@ -93,7 +93,7 @@ class DeletedChartTest : public test::HostTest {
   static inline const S kOwnLinks = kCharts + kImages;
 };
 
-TEST_F(DeletedChartTest, TakesWhatOnlyItUsedOutOfTheFile) {
+TEST_F(DeletedChartTest, PartsOfADeletedChartAreRemoved) {
   const std::vector<S> ofChart1 = {"/xl/charts/_rels/chart1.xml.rels",
                                    "/xl/charts/chart1.xml",
                                    "/xl/charts/colors1.xml",
@@ -109,17 +109,18 @@ TEST_F(DeletedChartTest, TakesWhatOnlyItUsedOutOfTheFile) {
     std::vector<S> gone;
     const char* goneLink;  ///< The deleted relationship of the drawing; empty if all are kept.
   };
-  const Case cases[] = {{"a chart with parts of its own", kOwnLinks, "rId2", "Chart 1", ofChart1, "rId1"},
-                        {"a chart without", kOwnLinks, "rId2", "Chart 2", {"/xl/charts/chart2.xml"}, "rId2"},
-                        {"an image that a chart uses too", kOwnLinks, "rId2", "Logo", {}, "rId8"},
-                        {"an image of its own", kOwnLinks, "rId2", "Photo", {"/xl/media/photo.bin"}, "rId9"},
-                        {"two frames of one relationship", kOwnLinks, "rId1", "Chart 1", {}, ""},
-                        {"two relationships to one chart",
-                         kOwnLinks + Link("rId3", "chart", "../charts/chart1.xml"),
-                         "rId3",
-                         "Chart 1",
-                         {},
-                         "rId1"}};
+  const Case cases[] = {
+      {"a chart with its own parts", kOwnLinks, "rId2", "Chart 1", ofChart1, "rId1"},
+      {"a chart without parts", kOwnLinks, "rId2", "Chart 2", {"/xl/charts/chart2.xml"}, "rId2"},
+      {"an image that a chart uses too", kOwnLinks, "rId2", "Logo", {}, "rId8"},
+      {"its own image", kOwnLinks, "rId2", "Photo", {"/xl/media/photo.bin"}, "rId9"},
+      {"two frames with the same relationship", kOwnLinks, "rId1", "Chart 1", {}, ""},
+      {"two relationships to one chart",
+       kOwnLinks + Link("rId3", "chart", "../charts/chart1.xml"),
+       "rId3",
+       "Chart 1",
+       {},
+       "rId1"}};
   for (const Case& c : cases) {
     SCOPED_TRACE(c.about);
     OpenCharts(c.links, c.secondChart);
@@ -152,7 +153,7 @@ TEST_F(DeletedChartTest, TakesWhatOnlyItUsedOutOfTheFile) {
   }
 }
 
-TEST_F(DeletedChartTest, LeavesObjectsThatRefuse) {
+TEST_F(DeletedChartTest, ObjectsOfADeletedChartRaiseErrors) {
   OpenCharts();
   const auto shape = Shape("Chart 1");
   const auto object = Book().FindWorksheet("Charts")->ChartObjects()->Item("Chart 1");
@@ -215,7 +216,7 @@ TEST_F(DeletedChartTest, LeavesObjectsThatRefuse) {
   EXPECT_FALSE(Book().Package().Has("/xl/charts/chart1.xml"));
 }
 
-TEST_F(DeletedChartTest, MakesRoomForAnother) {
+TEST_F(DeletedChartTest, ANewChartCanReplaceADeletedOne) {
   OpenCharts();
   const auto old = Book().FindWorksheet("Charts")->ChartObjects()->Item("Chart 1")->Chart();
   Shape("Chart 1")->Delete();
@@ -230,7 +231,7 @@ TEST_F(DeletedChartTest, MakesRoomForAnother) {
   EXPECT_EQ(Book().FindWorksheet("Charts")->ChartObjects()->Count(), 2);
 }
 
-TEST_F(DeletedChartTest, GoesWithItsSheet) {
+TEST_F(DeletedChartTest, IsDeletedWithItsSheet) {
   test::SalesBook({}).Write(folder_ / "book.xlsx");
   OpenFile(folder_ / "book.xlsx");
   const auto sheet = Book().AddWorksheet(0);

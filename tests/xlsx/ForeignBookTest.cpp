@@ -99,7 +99,7 @@ TEST_F(ForeignBookTest, PartsInOtherEncodingsAreReadAndFollowed) {
   }
 }
 
-TEST_F(ForeignBookTest, PartsAreFoundUnderAnyWritingOfTheirNames) {
+TEST_F(ForeignBookTest, PartsAreFoundWithEverySpellingOfTheirNames) {
   const PlainBook book = SalesBook({{"VEX_Chart1"}});
   for (const auto& [from, entry, written] : {std::tuple<S, S, S>{"charts/", "my%20charts/", "my%20charts/"},
                                              {"charts/", "my charts/", "my%20charts/"},
@@ -124,7 +124,7 @@ TEST_F(ForeignBookTest, PartsAreFoundUnderAnyWritingOfTheirNames) {
   }
 }
 
-TEST_F(ForeignBookTest, NewPartsGoWhereTheyBelongWhereverTheSheetLies) {
+TEST_F(ForeignBookTest, NewPartsAreInTheirFoldersInEveryFile) {
   OpenRenamed(SalesBook({}), "worksheets/sheet1.xml", "Sales.xml", "Sales.xml");
   AddChart("Data1");
   SaveAndReopen();
@@ -134,7 +134,7 @@ TEST_F(ForeignBookTest, NewPartsGoWhereTheyBelongWhereverTheSheetLies) {
   EXPECT_EQ(Sheet("Data1")->ChartObjects()->Count(), 1);
 }
 
-TEST_F(ForeignBookTest, WhatAFormerPartLeftInTheContentTypesIsTakenOver) {
+TEST_F(ForeignBookTest, TheContentTypeOfAFormerPartIsReplaced) {
   OpenEdited(SalesBook({}),
              {{"/[Content_Types].xml",
                Replacing("</Types>",
@@ -148,7 +148,7 @@ TEST_F(ForeignBookTest, WhatAFormerPartLeftInTheContentTypesIsTakenOver) {
             content_type::kDrawing);
 }
 
-TEST_F(ForeignBookTest, WhatFollowsRowsFollowsEachOnce) {
+TEST_F(ForeignBookTest, ReferencesFollowEachRowShiftOnce) {
   test::PlainBook book = SalesBook({});
   test::PlainSheet formulas{"Formulas"};
   formulas.rows = {{test::RawCell{"><f>Data1!C3</f><v>5</v></c>"}}};
@@ -181,7 +181,7 @@ TEST_F(ForeignBookTest, DatesOfTheSystemOf1904PassBothWays) {
   EXPECT_EQ(Sheet("Sheet1")->Cells(2, 1)->Value(), value);
 }
 
-TEST_F(ForeignBookTest, NumbersAtTheEndOfTheirRangeLeaveRoom) {
+TEST_F(ForeignBookTest, ExtremeNumbersAreLimited) {
   PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}});
   book.workbookExtra =
       "<bookViews><workbookView activeTab=\"9223372036854775807\" "
@@ -237,7 +237,7 @@ TEST_F(ForeignBookTest, TheFirstStyleStaysThatOfAllOtherCells) {
   }
 }
 
-TEST_F(ForeignBookTest, OfSeveralDrawingsTheSheetNamesItsOwn) {
+TEST_F(ForeignBookTest, TheSheetDecidesBetweenSeveralDrawings) {
   const PlainBook book = SalesBook({{"VEX_Chart1"}});
   book.Write(folder_ / "plain.xlsx");
   const xlsx::Package plain = Package::Open(folder_ / "plain.xlsx");
@@ -279,7 +279,7 @@ TEST_F(ForeignBookTest, OneTabIsSelectedWhenAnotherSheetBecomesActive) {
   Open(book);
   Refresh();  // The refresh adds a hidden sheet and activates the old one again.
   SaveAndReopen();
-  EXPECT_EQ(tabs(), "12") << "a group that the user made stays";
+  EXPECT_EQ(tabs(), "12") << "a group made by the user is kept";
   Book().Tabs().Activate(*Book().FindSheet("Charts"));
   SaveAndReopen();
   EXPECT_EQ(tabs(), "2");
@@ -290,7 +290,7 @@ TEST_F(ForeignBookTest, OneTabIsSelectedWhenAnotherSheetBecomesActive) {
   EXPECT_EQ(Book().ActiveSheet()->Name(), "Sheet1");
 }
 
-TEST_F(ForeignBookTest, ADamagedDrawingIsTheFaultOfItsSheet) {
+TEST_F(ForeignBookTest, ADamagedDrawingAffectsOnlyItsSheet) {
   PlainBook book = SalesBook({{"VEX_Chart1"}});
   book.sheets.insert(book.sheets.begin(), test::SalesSheet("Other"));
   book.sheets.front().extraAnchors = "<xdr:absoluteAnchor/>";
@@ -334,7 +334,7 @@ TEST_F(ForeignBookTest, ASumBeyondAllNumbersIsAnOverflow) {
   }
 }
 
-TEST_F(ForeignBookTest, WhatTakesTooMuchRoomIsRefused) {
+TEST_F(ForeignBookTest, OversizedWorkbooksAreRefused) {
   PlainBook book = SalesBook({});
   test::PlainSheet wide;
   wide.name = "Wide";

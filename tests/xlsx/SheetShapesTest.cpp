@@ -71,7 +71,7 @@ TEST_F(SheetShapesTest, TheirNamesAndTextsAreThoseThatWereSetLast) {
   test::ExpectError1004([&] { shape->AlternativeText(); });
 }
 
-TEST_F(SheetShapesTest, ANewShapeLiesWhereAnOldOneWouldComeToLie) {
+TEST_F(SheetShapesTest, ANewShapeIsPlacedLikeAMovedOne) {
   test::PlainBook book;
   book.sheets = {test::SalesSheet("Sheet1")};
   Open(book);
@@ -134,7 +134,7 @@ TEST_F(SheetShapesTest, CharactersAreCountedOverBreaksAndParagraphs) {
   }
 }
 
-TEST(ShapeEnumerationsTest, GoBothWays) {
+TEST(ShapeEnumerationsTest, ConvertBothWays) {
   for (const Enumeration* enumeration : {&kAutoShapes, &kAutoSizes}) {
     for (const EnumerationEntry& entry : enumeration->entries) {
       EXPECT_TRUE(std::regex_match(S(entry.name), std::regex("mso(Shape|AutoSize)[A-Z0-9][A-Za-z0-9]*")))

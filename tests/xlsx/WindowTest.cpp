@@ -90,7 +90,7 @@ TEST_F(WindowTest, ASheetInTheStrictVocabularyWithAPrefixGetsItsView) {
                 "workbookViewId=\"0\"/></x:sheetViews><x:sheetData/></x:worksheet>");
 }
 
-TEST_F(WindowTest, RefusesWhereThereAreNoCells) {
+TEST_F(WindowTest, RefusesSheetsWithoutCells) {
   struct Case {
     const char* edited;  ///< The changed part.
     const char *from, *to;
@@ -103,7 +103,7 @@ TEST_F(WindowTest, RefusesWhereThereAreNoCells) {
        "Unable to set the DisplayGridlines property of the Window class", false},
       {"/xl/worksheets/sheet1.xml", "<sheetData>", "",
        "The workbook can't be read: its part /xl/worksheets/sheet1.xml can't be read: it has "
-       "no cells where they should be.",
+       "no element for its cells.",
        true}};
   for (const Case& c : cases) {
     test::SalesBook({}).Write(folder_ / "edited.xlsx");

@@ -18,8 +18,8 @@ using dom::IXMLDOMElement;
 
 namespace {
 
-/// The letters of sheet column `c` from 3 to 78; empty beyond. A series after the
-/// 78th column keeps the name of the series before it.
+/// Returns the letters of sheet column `c` from 3 to 78; empty for larger numbers. A series after the 78th
+/// column keeps the name of the series before it.
 std::string NameColumnLetters(std::int32_t c) {
   const auto letter = [](std::int32_t lCode) { return std::string(1, static_cast<char>(lCode)); };
   if (c <= 26) return letter(64 + c);
@@ -34,8 +34,8 @@ std::int32_t FamilyOffset() {
   return 0;
 }
 
-/// The chart type for the sum of the family and the settings. "100%" without "stacked", or a setting that
-/// occurs twice, gives plain columns in every family.
+/// Returns the chart type for the sum of the family and the settings. "100%" without "stacked", or a setting
+/// that occurs twice, gives plain columns in every family.
 std::int32_t ChartTypeOfSum(std::int32_t lSum) {
   static const std::map<std::int32_t, std::int32_t> kTypes = {
       {0, excel::xlArea},
@@ -65,7 +65,7 @@ std::int32_t ChartTypeOfSum(std::int32_t lSum) {
 void PopulateABCChart(const IXMLDOMElement& oChartElement) {
   ReportErrors("PSChartBuilder.PopulateABCChart", [&] {
     const Block oBlock(oChartElement);
-    // All series and attributes are set on clustered bars. The real type is set at the end.
+    // All series and attributes are set on clustered bars. The actual type is set at the end.
     mChart->SetChartType(excel::xlBarClustered);
     const std::string sCategories = oBlock.Categories();
     std::string sName;

@@ -24,7 +24,7 @@ using runtime::Ref;
 
 namespace {
 
-/// Makes a series for a row without a colour label, so that the numbers of series and rows agree.
+/// Makes a series for a row without a colour label, so that series and rows have the same numbers.
 void MakePlaceholder(const Ref<excel::Series>& oSeries) {
   const std::string sNowhere = DataCells(1, 1, 1, 1);
   IgnoreErrors([&] { oSeries->SetName(runtime::kNull); }, [&] { oSeries->SetXValues(sNowhere); },
@@ -92,7 +92,7 @@ void PopulateBubbleChart(const IXMLDOMElement& oChartElement) {
     if (!bClassic) mChart->SetChartType(excel::xlBubble);
     const auto oSheet = SheetWithCells(kDataSheet);
     SeriesColors oColors;
-    // From here on errors are ignored, statement by statement.
+    // From here on, errors are ignored in each statement.
     for (std::int32_t lRow = oBlock.FirstRow(); lRow <= oBlock.lLastRow; ++lRow)
       AddBubble(*oSheet, lRow, oColors);
     if (bClassic) {

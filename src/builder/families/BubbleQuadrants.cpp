@@ -18,7 +18,8 @@ using dom::IXMLDOMElement;
 
 namespace {
 
-/// The range of the values along one axis. It starts with its limits exchanged, which means no value.
+/// The range of the values along one axis. Initially the limits are exchanged, which means that there is no
+/// value.
 struct Span {
   static constexpr double kUnseen = 1E+50;
   double dMin = kUnseen;
@@ -30,7 +31,8 @@ struct Span {
   }
   bool IsUnseen() const { return dMax == -kUnseen || dMin == kUnseen; }
 
-  /// Extends the range to zero on the side where the values don't reach it, and by a tenth on the others.
+  /// Extends the range to zero on the side where the values don't reach it, and by a tenth on the other
+  /// sides.
   void Widen() {
     if (dMin > 0) {
       dMin = 0;

@@ -61,7 +61,7 @@ void SetPieChartAttributes(const IXMLDOMElement& oChartElement) {
 
     mChart->SetChartType(ChartTypeOfSum(SumOfSettings(oChartElement, {{"3D", 1}, {"exploded", 2}}, true)));
     ApplyLegendVisibility();
-    // Unlike other families, a pie has a legend unless a person has deleted it.
+    // Unlike other families, a pie has a legend unless a user has deleted it.
     if (mLegendVisibility != "show" && mLegendVisibility != "hide") mChart->SetHasLegend(true);
   });
 }

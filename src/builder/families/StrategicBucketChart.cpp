@@ -33,13 +33,14 @@ constexpr double kFirstModernVersion = 12;
 constexpr std::int32_t kRed = 255;
 constexpr std::int32_t kMarkSize = 55;  // points
 
-/// The reference to the cells of one row in the columns of the buckets.
+/// Returns the reference to the cells of one row in the columns of the buckets.
 std::string BucketCells(const Block& oBlock, std::int32_t lRow) {
   return DataCells(lRow, bucket_column::kFirstBucket, lRow, oBlock.lLastColumn);
 }
 
-/// The bucket names in the header row. In the newer notation a column is one character. The characters after
-/// Z make no valid reference, and the host refuses it; the small letters name the columns from A again.
+/// Returns the reference to the bucket names in the header row. In the newer notation a column is one
+/// character. The characters after Z give no valid reference, and the host refuses it; the lower-case letters
+/// refer to the columns from A again.
 std::string BucketNames(const Block& oBlock) {
   if (HostVersion(mChart->Application()) <= kLastClassicVersion)
     return BucketCells(oBlock, oBlock.lHeaderRow);
@@ -68,7 +69,7 @@ void LabelItem(const Ref<excel::Series>& oSeries, const std::string& sText) {
     oLabels->SetPosition(excel::xlLabelPositionCenter);
     oLabels->SetOrientation(excel::xlHorizontal);
   }
-  // Below version 12 only the buckets in which the item has a value show its text.
+  // Below version 12, the item's text is shown only in the buckets in which the item has a value.
   const bool bOnlyValues = HostVersion(mChart->Application()) < kFirstModernVersion;
   const std::vector<runtime::Variant> aValues =
       bOnlyValues ? oSeries->Values() : std::vector<runtime::Variant>();
@@ -96,7 +97,7 @@ void PaintItems(SeriesColors& oColors) {
                });
 }
 
-/// Shows no line, but a red dash in each bucket at the bucket's own value, with the value as its label.
+/// Draws no line, but a red dash in each bucket at the bucket's own value, with the value as its label.
 void AddBucketSeries(const Block& oBlock, const std::string& sBucketNames) {
   const auto oSeries = mChart->SeriesCollection()->NewSeries();
   oSeries->SetChartType(excel::xlLineMarkers);

@@ -68,7 +68,7 @@ void FinishAxes() {
   if (mChart->HasAxis(excel::xlValue)) {
     mChart->Axes(excel::xlValue, excel::xlPrimary)->TickLabels()->SetNumberFormatLinked(true);
   }
-  // A title runs along its axis, and the axes of a bar chart are exchanged.
+  // A title is parallel to its axis, and the axes of a bar chart are exchanged.
   const bool bBar = mChartType == "bar";
   const auto turn = [](std::int32_t lAxis, std::int32_t lOrientation) {
     const auto oAxis = mChart->Axes(lAxis, excel::xlPrimary);

@@ -9,7 +9,7 @@
 #include "runtime/Ref.h"
 #include "runtime/Variant.h"
 
-/// Module PSChartBuilder: the drawing steps that several chart families share.
+/// Module PSChartBuilder: drawing steps for several chart families.
 namespace plotsmith {
 
 /// Sets the chart's title, or removes it.
@@ -18,7 +18,7 @@ void ApplyTitle(const dom::IXMLDOMElement& oChartElement);
 void ApplyLegendFromHeadings(const dom::IXMLDOMElement& oChartElement);
 /// Removes the titles of both axes.
 void ClearAxisTitles();
-/// The ways in which a family treats its axis titles differently. The defaults are those of area, bar and
+/// The differences between families in the handling of axis titles. The defaults are those of area, bar and
 /// column charts.
 struct AxisTitleManner {
   bool bSwitchAxisOn = true;    ///< shows the axis that has a title
@@ -27,18 +27,18 @@ struct AxisTitleManner {
 };
 /// Sets the axis titles of the definition, with the persisted fonts, and shows the axes that have titles.
 void ApplyAxisTitles(const dom::IXMLDOMElement& oChartElement, const AxisTitleManner& oManner = {});
-/// Links the tick labels of the value axis to the number format of the data, and turns the axis titles.
+/// Links the tick labels of the value axis to the number format of the data, and rotates the axis titles.
 void FinishAxes();
 
 /// Applies the persisted font of data labels.
 void SetLabelFont(const runtime::Ref<excel::Font>& oFont);
-/// Sets the position (XlDataLabelPosition) and the font of labels, in the order that most families use.
+/// Sets the position (XlDataLabelPosition) and the font of labels, in the order that most families require.
 void DressLabels(const runtime::Ref<excel::DataLabels>& oLabels, std::int32_t lPosition,
                  const runtime::Variant& vAutoScale);
 /// Adds labels of a type (XlDataLabelsType) at a position to all series.
 void ApplyLabels(std::int32_t lType, std::int32_t lPosition);
 
-/// A setting of `dynamic-attributes`, and what it adds to a sum.
+/// A setting of `dynamic-attributes`, and its weight in a sum.
 struct SettingWeight {
   std::string_view sSetting;
   std::int32_t lWeight;
@@ -47,8 +47,8 @@ struct SettingWeight {
 std::int32_t SumOfSettings(const dom::IXMLDOMElement& oChartElement,
                            std::initializer_list<SettingWeight> aWeights, bool bYield = false);
 
-/// Shows or hides the built-in legend as `mLegendVisibility` says. Values other than "show" and "hide" change
-/// nothing.
+/// Shows or hides the built-in legend according to `mLegendVisibility`. Values other than "show" and "hide"
+/// change nothing.
 void ApplyLegendVisibility();
 /// Deletes the legend entry of the series that was added last.
 void DeleteLastLegendEntry();

@@ -16,10 +16,10 @@ using runtime::Ref;
 
 namespace {
 
-constexpr std::size_t kPiece = 200;  // characters that are written at once
-constexpr double kBoxWidth = 180;    // points, as all below
+constexpr std::size_t kPiece = 200;  // characters that are written in one call
+constexpr double kBoxWidth = 180;    // points, like all lengths below
 constexpr double kBoxHeight = 120;
-constexpr double kBoxOverlap = 5;  // beyond the right edge of the chart, and below its top edge
+constexpr double kBoxOverlap = 5;  // beyond the right edge of the chart and below its top edge
 
 }  // namespace
 

@@ -25,7 +25,7 @@ namespace {
 constexpr const char* kLegendName = "VEX_Legend";
 constexpr const char* kEntryMark = "VEX_LS_";
 constexpr const char* kOwnMark = "VEX_L";  // the alternative text of the legend and its entries
-constexpr double kWidestMargin = 15;       // points, beside a plot area without a legend
+constexpr double kWidestMargin = 15;       // points beside a plot area without a legend
 constexpr std::int32_t kBlack = 0;
 constexpr std::int32_t kWhite = 0xFFFFFF;
 
@@ -45,8 +45,8 @@ void RemoveLegendShapes() {
   }
 }
 
-/// The names of the series, each once. They are collected in one text, so a name that is part of an earlier
-/// name is missing, and a name with the separator is split.
+/// Returns the names of the series, each once. They are collected in one text, so a name that is part of an
+/// earlier name is missing, and a name that contains the separator is split.
 std::vector<std::string> DistinctNames() {
   std::string sNames;
   const auto oCollection = mChart->SeriesCollection();
@@ -68,10 +68,10 @@ void NameShape(const Ref<excel::Shape>& oShape, const std::string& sName) {
   oShape->SetAlternativeText(kEntryMark + oShape->Name());
 }
 
-/// The extent of the entries that were drawn, in whole points.
+/// The extent of the entries drawn so far, in whole points.
 struct Extent {
   std::int32_t lItemRight = 0;  ///< of the entry being drawn
-  std::int32_t lItemTop = 0;    ///< of the entry before
+  std::int32_t lItemTop = 0;    ///< of the previous entry
   std::int32_t lMaxRight = 0;
 };
 
@@ -96,7 +96,7 @@ void AddEntryText(const std::string& sName, double dFontSize, Extent& oExtent) {
 
   oText->SetWidth(static_cast<double>(runtime::Len(sName)) * dFontSize / 2);
   oText->SetHeight(dFontSize * 2);
-  // The height is read again, because the host may have fitted the box to its text.
+  // The host may have fitted the box to its text, so its height is read again.
   oText->SetLeft(oText->Height() > 10 ? oText->Height() - 10 : oText->Height() / 2);
   if (oText->Height() + oExtent.lItemTop > 6) oText->SetTop(oText->Height() + oExtent.lItemTop - 5);
   oExtent.lItemRight = CLng(oText->Left() + oText->Width() + oExtent.lItemRight);
@@ -155,8 +155,8 @@ void PlaceLegend() {
   }
 }
 
-/// Whether a program dropped the drawn legend. A chart whose legend a person deleted has a plot area of its
-/// full width since the next refresh. A legend that a program dropped leaves its room free.
+/// Returns true if a program dropped the drawn legend. If a user has deleted the legend, the plot area has
+/// its full width since the next refresh. If a program has dropped it, the legend's space is still free.
 bool DrawnLegendWasDropped() {
   if (!LossesOfLastSave().bShapesOnCharts) return false;
   const auto oPlotArea = mChart->PlotArea();
@@ -175,8 +175,8 @@ void ApplyDrawnLegend() {
           mChart->SetHasLegend(true);
           BuildChartLegend(true);
         } else if (mLegendVisibility == "hide") {
-          // A chart with a drawn legend has no built-in one, and was read back as "hide". Only the shape
-          // says whether the legend is wanted.
+          // A chart with a drawn legend has no built-in one, so it was read back as "hide". Only the shape
+          // shows whether the legend is wanted.
           if (DrawnLegendWasDropped() || mChart->Shapes()->Range({kLegendName})->Name() == kLegendName) {
             BuildChartLegend(true);
           }

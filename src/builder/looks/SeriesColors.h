@@ -11,24 +11,24 @@
 
 namespace plotsmith {
 
-/// The reads of a series' fill, in the order in which the host is asked. Each may raise an error.
+/// The reads of a series' fill, in order. Each may raise an error.
 extern const std::array<void (*)(excel::Series& oSeries, CPSColor& oFill), 5> kFillReads;
 
 /// Module PSChartBuilder: one colour for each series name of a bubble or strategic bucket chart, in which
 /// several series can have the same name. The host gives each new series the next automatic colour. The n-th
-/// name takes the n-th of these colours, even if another series had it, so that repeated names leave no gaps
+/// name gets the n-th of these colours, even if another series had it, so that repeated names leave no gaps
 /// in the palette.
 class SeriesColors {
  public:
   /// Empties `mSeriesColors`.
   SeriesColors();
 
-  /// Takes the automatic fill of a series that was just added and named. Returns whether the name is new.
+  /// Reads the automatic fill of a series that was just added and named. Returns True if the name is new.
   /// Raises the error of a collection that refuses the name.
   bool Take(runtime::Ref<CPSColor> oFill, const std::string& sName);
 
   /// Paints a series in the colour of its name. A series whose name has no colour, such as a placeholder,
-  /// takes the colour of the series before it. Calls that the host refuses are ignored.
+  /// gets the colour of the previous series. Calls that the host refuses are ignored.
   void Paint(const runtime::Ref<excel::Series>& oSeries);
 
  private:

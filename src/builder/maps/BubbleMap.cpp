@@ -31,7 +31,7 @@ bool BuildBubbleMap(const IXMLDOMElement& oChartElement) {
       std::string sScratch;
       for (std::int32_t lRow = oRows.lFirst; lRow <= oRows.Last(); ++lRow) {
         oBubbles.NumberIfNew(GetCellText(*oSheet, lRow, lNameColumn, sScratch), sScratch);
-        // This comes after the numbering: the last name that fits is charted, and shows the message as well.
+        // This comes after the numbering: the last name that fits is charted and also causes the message.
         if (oBubbles.Count() >= kSeriesLimit) {
           ShowLimitMessage(oChartElement);
           break;

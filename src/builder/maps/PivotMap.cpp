@@ -74,7 +74,7 @@ class PivotMap {
     if (mSeriesPositions.Count() == 0) oSeriesNumbering_.Add(GetAttributeText(oColumn, "name"));
   }
 
-  /// Sets the missing side of the instructions, or makes the one instruction that has both sides.
+  /// Completes the instructions with the missing side, or makes the one instruction that has both sides.
   void CompleteInstructions() {
     if (sCategoriesIn_ == "columns") {
       const bool bOneSeries = sSeriesIn_ == "none";
@@ -109,15 +109,15 @@ class PivotMap {
 
   void NumberSeriesInRows(std::int32_t lColumn) {
     for (std::int32_t lRow = oRows_.lFirst; lRow <= oRows_.Last(); ++lRow) {
-      // This check runs before each row, even one without a new name. The message is shown also when all rows
-      // after the last name that fits repeat known names.
+      // This check runs before each row, even before a row without a new name. The message is also shown if
+      // all rows after the last name that fits repeat known names.
       if (IsSeriesLimitMet()) break;
       oSeriesNumbering_.NumberIfNew(GetCellText(*oSheet_, lRow, lColumn, sScratch_), sScratch_);
     }
     lSeriesColumn_ = lColumn;
   }
 
-  /// Whether there is no room for another series. If so, shows the message.
+  /// Returns true, and shows the message, if there is no room for another series.
   bool IsSeriesLimitMet() const {
     if (oSeriesNumbering_.Count() < kSeriesLimit) return false;
     ShowLimitMessage(oChartElement_);

@@ -3,7 +3,7 @@
 #include "dom/Dom.h"
 
 /// Module PSChartBuilder: the instructions that turn a table into the rectangle of categories and series. The
-/// map holds no data. It is made once in a build, and applied to each row of the table.
+/// map contains no data. It is made once for each build, and applied to each row of the table.
 namespace plotsmith {
 
 /// Fills the map's variables from the definition and the table, for charts of all types. Shows a message and

@@ -23,15 +23,15 @@ using dom::IXMLDOMElement;
 
 namespace {
 
-/// Numbers the items in their column. An item with the name of a bucket takes the bucket's spelling.
+/// Numbers the items in their column. An item with the name of a bucket gets the bucket's spelling.
 void NumberItems(const IXMLDOMElement& oChartElement, const DataRows& oRows, excel::Worksheet& oSheet,
                  std::int32_t lItemColumn, Numbering& oItems) {
   std::string sScratch;
   for (std::int32_t lRow = oRows.lFirst; lRow <= oRows.Last(); ++lRow) {
     const std::string_view sText = GetCellText(oSheet, lRow, lItemColumn, sScratch);
     if (oItems.IsNew(sText, sScratch)) {
-      // The row of the buckets counts as well. The name that reaches the limit gets no number, but its
-      // key is in the dictionary and makes one row more than there are items.
+      // The row of the buckets counts as well. The name that reaches the limit gets no number, but its key is
+      // in the dictionary, so there is one row more than there are items.
       if (oItems.Count() + 1 >= kSeriesLimit) {
         ShowLimitMessage(oChartElement);
         break;
@@ -66,7 +66,7 @@ bool BuildStrBuckMap(const IXMLDOMElement& oChartElement) {
 
     const DataRows oRows(oChartElement);
     const auto oSheet = SheetWithCells(GetAttributeText(oChartElement, "table-worksheet"));
-    std::int32_t lItemColumn = 0;  // a column without cells: without categories no value has a row
+    std::int32_t lItemColumn = 0;  // column 0 has no cells: without categories no value has a row
     if (const auto oCategories = oChartElement.selectSingleNode("categories")) {
       lItemColumn = FirstColumn(oCategories);
       NumberItems(oChartElement, oRows, *oSheet, lItemColumn, oItems);

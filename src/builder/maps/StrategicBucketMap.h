@@ -5,8 +5,9 @@
 #include "common/PSConstants.h"
 #include "dom/Dom.h"
 
-/// Module PSChartBuilder: the map of a strategic bucket chart. The first row is for the buckets' own values,
-/// the others have an item each. The series are the items' labels, their sort keys, and the buckets.
+/// Module PSChartBuilder: the map of a strategic bucket chart. The first row contains the buckets' own
+/// values, and each of the others contains an item. The series are the items' labels, their sort keys, and
+/// the buckets.
 namespace plotsmith {
 
 /// The series columns of a strategic bucket chart's block on the data sheet.

@@ -54,8 +54,8 @@ class CellIndex {
   PositionCache oKnown_;
 };
 
-/// A text as the rectangle stores it. Bubbles and strategic buckets show a label with its first spelling,
-/// and the name of a bucket with the bucket's spelling.
+/// Returns a text as the rectangle stores it. Bubbles and strategic buckets show a label in its first
+/// spelling, and the name of a bucket in the bucket's spelling.
 std::string StoredText(const std::string& sText, Dictionary& oFirstSpellings) {
   if (mChartType != "bubble" && mChartType != "strategic bucket") return sText;
   const std::string sKey = runtime::UCase(sText);
@@ -66,7 +66,7 @@ std::string StoredText(const std::string& sText, Dictionary& oFirstSpellings) {
   return sText;
 }
 
-/// A cell text that the host must not read as a number, a date or a formula.
+/// Returns a text that the host doesn't convert to a number, a date or a formula.
 std::string AsText(const runtime::Variant& vName) { return "'" + runtime::CStr(vName); }
 
 }  // namespace
@@ -126,7 +126,7 @@ bool PopulateDataSheetOffi2007(IXMLDOMElement& oChartElement) {
     } else {
       for (std::int32_t i = lRows - 1; i > mCategoryCount; --i)
         DeleteSheetRow(oSheet, lFirst + mCategoryCount);
-      // Rows are inserted above the block's last row, so that references to the block grow with it.
+      // Rows are inserted above the block's last row, so that references to the block are extended.
       for (std::int32_t i = lRows - 1; i < mCategoryCount; ++i) InsertSheetRow(oSheet, lFirst + lRows - 1);
     }
     if (MoveToDataSheet(lFirst, oChartElement, sID, *aData, oSheet)) return true;
@@ -147,7 +147,7 @@ bool MoveToDataSheet(std::int32_t lStartRow, IXMLDOMElement& oChartElement, cons
     for (const auto& [sKey, vPosition] : mCategoryPositions) {
       const std::int32_t p = PositionOf(vPosition);
       if (p > 0) oSheet->SetCellValueAt(lStartRow + p, data_column::kId, sID);
-      // There is no test here: a text without a position leaves a lone apostrophe in the header row, which
+      // No test is needed here: a text without a position leaves a single apostrophe in the header row, which
       // has no effect.
       oSheet->SetCellValueAt(lStartRow + p, data_column::kName, AsText(mCategoryNames.Item(sKey)));
     }

@@ -20,7 +20,7 @@ using dom::IXMLDOMElement;
 
 namespace {
 
-/// A rectangle of the data sheet, and the cell that it is sorted by.
+/// A rectangle of the data sheet and the cell by which it is sorted.
 struct SortJob {
   std::int32_t lTop, lBottom, lRight;
   std::int32_t lKeyRow, lKeyColumn;
@@ -48,7 +48,7 @@ bool SortDataSheet(const IXMLDOMElement& oChartElement) {
     } else if (mChartType == "strategic bucket") {
       const auto oSortOrder = oChartElement.selectSingleNode("sort-order");
       if (!oSortOrder) return true;
-      // A missing attribute is an error here.
+      // A missing attribute raises an error here.
       const bool bAscending = runtime::CStr(oSortOrder.getAttribute("sort")) == "ascending";
       const Block oBlock(oChartElement);
       Sort({oBlock.FirstRow() + 1, oBlock.lLastRow, oBlock.lLastColumn, oBlock.FirstRow() + 2,
@@ -63,7 +63,7 @@ void AdjustBubbleSizes(const IXMLDOMElement& oChartNode) {
     const bool bShowZero = HasSetting(oChartNode, "static-attributes", "show-zero-bubbles");
     const Block oBlock(oChartNode);
     const auto oSheet = SheetWithCells(kDataSheet);
-    // After the sort, the largest comes first.
+    // After the sort, the largest value comes first.
     const double dLargest = GetCellDouble(*oSheet, oBlock.FirstRow(), bubble_column::kSize);
     const double dSmallest = dLargest <= 0 ? 1 : dLargest / 500;
     for (std::int32_t lRow = oBlock.FirstRow(); lRow <= oBlock.lLastRow; ++lRow) {

@@ -46,12 +46,12 @@ extern double mLegendLeft;
 extern double mLegendTop;
 extern StoredFont mLegendFont;
 extern StoredFont mLabelFont;
-extern runtime::Variant mLabelFontBackgroundColor;  ///< kept, but not drawn
+extern runtime::Variant mLabelFontBackgroundColor;  ///< stored, but not drawn
 extern StoredFont mBucketLabelFont;                 ///< of the labels on the marks of buckets
 extern StoredFont mLabelAxisFont;
 extern StoredFont mValueAxisFont;
 
-/// Resets all of them to their values at the start of the component.
+/// Resets all of these variables to their values at the start of the component.
 void ResetBuilderVariables();
 /// Empties the map. Each map builder begins with this.
 void ResetMap();

@@ -10,10 +10,10 @@ namespace plotsmith {
 /// How a map instruction finds a row or column of the rectangle.
 namespace reference {
 inline constexpr std::int32_t kFixed = 0;   ///< the position is the index
-inline constexpr std::int32_t kByCell = 1;  ///< the position is a sheet column whose text names it
+inline constexpr std::int32_t kByCell = 1;  ///< the text in this sheet column determines the index
 }  // namespace reference
 
-/// Where a map instruction takes the value from.
+/// The source of a map instruction's value.
 namespace value_reference {
 inline constexpr std::int32_t kCell = 0;
 inline constexpr std::int32_t kConstant = 2;
@@ -22,25 +22,36 @@ inline constexpr std::int32_t kConstant = 2;
 /// An instruction of the map from the source table to the rectangle. It is applied to each row of the table.
 class CPSMapInstruction {
  public:
+  /// How the row (category) is found, a constant of `reference`.
   std::int32_t RowReferenceType() const { return lRowReferenceType_; }
+  /// Sets how the row is found.
   void SetRowReferenceType(std::int32_t ReferenceType) { lRowReferenceType_ = ReferenceType; }
-  /// A category index or a sheet column, from 1; so is ColReferencePosition for the series.
+  /// A category index or a sheet column, from 1.
   std::int32_t RowReferencePosition() const { return lRowReferencePosition_; }
+  /// Sets the category index or sheet column.
   void SetRowReferencePosition(std::int32_t ColumnPosition) { lRowReferencePosition_ = ColumnPosition; }
+  /// How the column (series) is found, a constant of `reference`.
   std::int32_t ColReferenceType() const { return lColReferenceType_; }
+  /// Sets how the column is found.
   void SetColReferenceType(std::int32_t ReferenceType) { lColReferenceType_ = ReferenceType; }
+  /// A series index or a sheet column, from 1.
   std::int32_t ColReferencePosition() const { return lColReferencePosition_; }
+  /// Sets the series index or sheet column.
   void SetColReferencePosition(std::int32_t ColumnPosition) { lColReferencePosition_ = ColumnPosition; }
+  /// The source of the value, a constant of `value_reference`.
   std::int32_t ValueReferenceType() const { return lValueReferenceType_; }
+  /// Sets the source of the value.
   void SetValueReferenceType(std::int32_t ReferenceType) { lValueReferenceType_ = ReferenceType; }
   /// The sheet column of the value, or the value itself.
   const runtime::Variant& ValuePositionOrConstant() const { return vValuePositionOrConstant_; }
+  /// Sets the sheet column of the value, or the value itself.
   void SetValuePositionOrConstant(runtime::Variant ColumnPositionOrValue) {
     vValuePositionOrConstant_ = std::move(ColumnPositionOrValue);
   }
   /// `cell::kText` replaces the value in the rectangle by the displayed text; `cell::kDouble` adds the number
   /// to it.
   std::int32_t CellValueType() const { return lCellValueType_; }
+  /// Sets `cell::kText` or `cell::kDouble`.
   void SetCellValueType(std::int32_t CellType) { lCellValueType_ = CellType; }
 
  private:

@@ -6,13 +6,14 @@
 #include "common/PSConstants.h"
 #include "dom/Dom.h"
 
-/// Module PSChartBuilder: the place of a chart's block on the data sheet, and the references to it.
+/// Module PSChartBuilder: the position of a chart's block on the data sheet, and the references to it.
 namespace plotsmith {
 
-/// The sheet column of a series of the map, from 1, and the other way round.
+/// The sheet column of a series of the map; both count from 1.
 constexpr std::int32_t ColumnOfSeries(std::int32_t lSeries) {
   return data_column::kFirstSeries + lSeries - 1;
 }
+/// The series of the map in a sheet column; both count from 1.
 constexpr std::int32_t SeriesOfColumn(std::int32_t lColumn) {
   return lColumn - data_column::kFirstSeries + 1;
 }
@@ -21,7 +22,7 @@ constexpr std::int32_t SeriesOfColumn(std::int32_t lColumn) {
 std::string DataCell(std::int32_t lRow, std::int32_t lColumn);
 /// A reference to several cells: "=VEX_ChartData!R6C2:R17C2".
 std::string DataCells(std::int32_t lRow1, std::int32_t lColumn1, std::int32_t lRow2, std::int32_t lColumn2);
-/// A reference to one cell in the notation that newer hosts require for names: "=VEX_ChartData!$B$6".
+/// A reference to one cell in the style that newer hosts require for names: "=VEX_ChartData!$B$6".
 std::string DataCellA1(std::int32_t lRow, const std::string& sColumnLetters);
 
 /// The rows and columns of a block, by sheet rows and sheet columns from 1.

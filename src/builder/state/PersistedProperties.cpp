@@ -22,12 +22,12 @@ struct FontGroup {
   std::string_view sKey;
   StoredFont& oFont;
   StoredFont oDefaults;
-  /// Whether an empty text means the default. Reading back stores empty texts for a chart without such a
+  /// True if an empty text means the default. Reading back stores empty texts for a chart without such a
   /// text.
   bool bEmptyIsDefault = false;
 };
 
-/// A property of a font: the end of its key, and the conversion of a stored text into its value.
+/// A property of a font: the end of its key, and the conversion of a stored text to its value.
 struct FontProperty {
   std::string_view sSuffix;
   Variant StoredFont::*vValue;
@@ -104,7 +104,7 @@ void RetrievePersistedProperties(const dom::IXMLDOMElement& oChartElement) {
       StoreProperty(GetAttributeText(oPersist, "property"), GetAttributeText(oPersist, "value"));
       YieldToHost();
     }
-    // A place that was set by hand overrides a stored position.
+    // A position that was set by hand overrides a stored one.
     if (mLegendLeft != kUnsetPlace || mLegendTop != kUnsetPlace) mLegendPosition = 0;
   });
 }

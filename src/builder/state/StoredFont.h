@@ -10,7 +10,7 @@ struct StoredFont {
   runtime::Variant vStyle;      ///< "Regular", "Bold", "Italic" or "Bold Italic"
   runtime::Variant vSize;       ///< points
   runtime::Variant vColor;      ///< red + 256 green + 65536 blue
-  runtime::Variant vAutoScale;  ///< whether the font grows with the chart: a Boolean or its text
+  runtime::Variant vAutoScale;  ///< True if the font scales with the chart: a Boolean or its text
 };
 
 }  // namespace plotsmith

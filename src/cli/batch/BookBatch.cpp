@@ -49,7 +49,7 @@ std::vector<BookRun> RunsInto(const std::string& folder, const std::vector<std::
     const std::string output = runtime::Utf8Of(runtime::PathOf(folder) / runtime::PathOf(name));
     if (Place(output) == Place(book)) {
       throw CommandError(exit_code::kUsage, "\"" + book + "\" is in the folder \"" + folder +
-                                                "\" itself; without -o it is refreshed where it is.");
+                                                "\" itself; without -o it is refreshed in place.");
     }
     runs.push_back({book, output});
   }
@@ -179,13 +179,14 @@ std::vector<BookRun> PlanRuns(const std::vector<std::string>& books,
   std::error_code ignored;
   if (output && fs::is_directory(runtime::PathOf(*output), ignored)) return RunsInto(*output, once);
   if (IsStandardOutput(output) && once.size() > 1) {
-    throw CommandError(exit_code::kUsage,
-                       "the standard output takes one workbook; several can be written into a folder.");
+    throw CommandError(
+        exit_code::kUsage,
+        "only one workbook can be written to the standard output; several can be written into a folder.");
   }
   if (output && once.size() > 1) {
-    throw CommandError(exit_code::kUsage, "\"" + *output +
-                                              "\" is no folder, and several workbooks can only be written "
-                                              "into one.");
+    throw CommandError(
+        exit_code::kUsage,
+        "\"" + *output + "\" isn't a folder; several workbooks can only be written into a folder.");
   }
   std::vector<BookRun> runs;
   for (const std::string& book : once) runs.push_back({book, output});
@@ -208,8 +209,8 @@ int RunBatch(const std::vector<BookRun>& runs, const DoRun& doRun, std::size_t p
     return Packed({{code, result.counts}, out.str(), err.str()});
   };
   tasks.ended = [&](std::size_t i, TaskEnding ending) {
-    output.Take(i, ending.death ? Failure("the process that worked on it died (" + *ending.death +
-                                          "); the workbook is as it was, or whole and new.")
+    output.Take(i, ending.death ? Failure("the process that refreshed it died (" + *ending.death +
+                                          "); the workbook is either unchanged or completely refreshed.")
                                 : Unpacked(ending.report));
   };
   return output.Finish(RunInWorkers(tasks, processes));

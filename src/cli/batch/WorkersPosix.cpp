@@ -197,7 +197,7 @@ class WorkerPool {
     int status = 0;
     while (waitpid(worker.process, &status, 0) < 0 && errno == EINTR) {
     }
-    return WIFSIGNALED(status) ? sigdescr_np(WTERMSIG(status)) : "it left early";
+    return WIFSIGNALED(status) ? sigdescr_np(WTERMSIG(status)) : "it ended early";
   }
 
   const WorkerTasks& tasks_;

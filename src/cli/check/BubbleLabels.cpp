@@ -25,7 +25,7 @@ using dom::IXMLDOMElement;
 constexpr const char* kBubbleType = "bubble";
 constexpr char kSeparator = '|';
 constexpr const char* kHowToShowAgain =
-    ", and then switch the chart's own legend on in a spreadsheet program; the next refresh draws it.";
+    ", and then switch on the chart's own legend in a spreadsheet program; the next refresh draws it.";
 
 /// A bubble: its name, and the colour label of the last row with that name.
 struct Bubble {
@@ -89,13 +89,14 @@ Findings CheckBubbleLabels(xlsx::Workbook& book, const IXMLDOMElement& chart, co
     const bool isBlank = bubble.label.empty();
     if (!isBlank && !FallsApart(bubble.label, bubbles)) continue;
     const std::string column = GetAttributeText(chart.selectSingleNode("series/column"), "name");
-    return {{CellText(area.sheet, bubble.row, labels), FindingKind::kCells,
-             "The column " + Quoted(column) + " has " +
-                 (isBlank ? "no label here for the bubble " + Quoted(bubble.name) +
-                                ", so that it isn't shown and the chart has no drawn legend; fill the cell in"
-                          : "a label here with the character '|', so that the chart has no drawn legend; "
-                            "take the character out") +
-                 kHowToShowAgain}};
+    return {
+        {CellText(area.sheet, bubble.row, labels), FindingKind::kCells,
+         "The column " + Quoted(column) + " has " +
+             (isBlank ? "no label here for the bubble " + Quoted(bubble.name) +
+                            ", so the bubble isn't shown and the chart has no drawn legend; fill in the cell"
+                      : "a label here with the character '|', so the chart has no drawn legend; remove the "
+                        "character") +
+             kHowToShowAgain}};
   }
   return {};
 }

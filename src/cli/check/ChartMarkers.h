@@ -16,6 +16,7 @@ namespace plotsmith::cli {
 /// after the other, until the chart is found.
 class ChartMarkers {
  public:
+  /// Makes a finder for a workbook, which must outlive it.
   explicit ChartMarkers(xlsx::Workbook& book) : book_(book) {}
 
   /// Returns the first shape with the id in sheet order, or null if there is none.

@@ -11,6 +11,7 @@ namespace plotsmith::cli {
 
 /// The position of a table on its sheet. Rows and columns count from 1.
 struct TableArea {
+  /// Reads the position from a table document.
   explicit TableArea(const dom::IXMLDOMElement& table);
 
   /// Returns true if the table has a data row.

@@ -182,10 +182,9 @@ Findings CheckStrayCharts(xlsx::Workbook& book, const std::vector<CheckedDefinit
   for (const auto& [id, sheets] : ChartMarkers(book).SheetsByText()) {
     if (ChartNumber(id).empty()) continue;
     if (!isDefined(id)) {
-      report(sheets.front(),
-             "A chart here has the alternative text " + Quoted(id) +
-                 ", and there is no definition of that id; a new chart could get the same id. "
-                 "Delete the chart, or clear its alternative text.");
+      report(sheets.front(), "A chart here has the alternative text " + Quoted(id) +
+                                 ", but no definition has this id; a new chart could get the same id. "
+                                 "Delete the chart, or clear its alternative text.");
     } else if (sheets.size() > 1) {
       report(sheets[1], "A second chart here has the alternative text " + Quoted(id) +
                             ", and only the first one, on the sheet " + Quoted(sheets[0]) +

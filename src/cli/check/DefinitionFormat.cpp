@@ -211,7 +211,7 @@ class FormatCheck {
   void CheckValue(const AttributeFormat& attribute, const std::string& value) {
     if (value.empty() || attribute.values.empty() || Contains(attribute.values, value)) return;
     if (attribute.values == kTypes && value == "unknown") {
-      Report("The type is 'unknown', since the chart was changed by hand to one that isn't supported" +
+      Report("The type is 'unknown', because the chart was changed by hand to a type that isn't supported" +
              Allowed(attribute));
     } else {
       Report("The attribute " + Quoted(attribute.name) + " has an unknown value " + Quoted(value) +

@@ -22,7 +22,9 @@ struct ColumnGroup {
   std::vector<std::string_view> headingsIn =
       {};  ///< The values of `headings-in`; empty if it has no such attribute.
 
+  /// Returns true if charts of the type use the element.
   bool IsReadFor(std::string_view type) const;
+  /// Returns true if charts of the type require the element.
   bool IsNeededFor(std::string_view type) const;
 };
 

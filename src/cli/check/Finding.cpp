@@ -63,7 +63,7 @@ std::string Foretold(const Finding& finding) {
     case Severity::kSaid:
       break;
     case Severity::kKeeps:
-      return With(finding.sentence, "the next refresh keeps that of the chart");
+      return With(finding.sentence, "the next refresh keeps the one on the chart");
     case Severity::kConfuses:
       return With(finding.sentence,
                   "until this is corrected, charts are only made, changed or deleted with --drop-broken");
@@ -83,7 +83,7 @@ std::string Reported(const Finding& finding) {
     case Severity::kConfuses:
       break;
     case Severity::kKeeps:
-      return With(finding.sentence, "that of the chart was kept");
+      return With(finding.sentence, "the one on the chart was kept");
     case Severity::kRemoves:
       return With(finding.sentence,
                   "the chart was drawn and no longer exists, so its definition was removed");

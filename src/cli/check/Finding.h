@@ -20,9 +20,10 @@ enum class FindingKind {
 /// The effect of a finding on a command that writes the workbook.
 enum class Severity {
   kSaid,      ///< It prints the sentence and continues.
-  kKeeps,     ///< It keeps the chart's setting instead of the definition's, and says so.
+  kKeeps,     ///< The command keeps the chart's setting instead of the definition's, and reports that.
   kConfuses,  ///< It prints the sentence; making, changing or deleting charts needs --drop-broken.
-  kRemoves,   ///< It removes the definition, because its drawn chart no longer exists, and says so.
+  kRemoves,   ///< The command removes the definition, because its drawn chart no longer exists, and reports
+              ///< that.
   kRefuses    ///< It would lose the definition, and writes nothing without --drop-broken.
 };
 

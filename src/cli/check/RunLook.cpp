@@ -18,7 +18,7 @@ using dom::IXMLDOMElement;
 
 constexpr const char* kBubbleType = "bubble";
 
-/// Returns the name of a chart for messages, or its id if it has no name; "" for a row without either.
+/// Returns the name of a chart for messages, or its id if it has no name; "" for a row that has neither.
 std::string Called(const std::string& id, const std::string& name) {
   return name.empty() ? id : "'" + OneLine(name) + "'";
 }

@@ -90,7 +90,7 @@ class SourceCheck {
     } else if (count > 1 && headingsIn != "columns") {
       Report(FindingKind::kFormat, "The element " + quoted +
                                        (headingsIn == "rows" ? " with headings in rows" : "") +
-                                       " takes one column, and it names " + std::to_string(count) + ".");
+                                       " needs exactly one column, but names " + std::to_string(count) + ".");
     }
   }
 
@@ -107,11 +107,12 @@ class SourceCheck {
     const bool categories = HeadingsIn("categories") == "columns", series = HeadingsIn("series") == "columns";
     if (categories && series) {
       Report(FindingKind::kFormat,
-             "Categories and series both have their headings in columns; only one of them can.");
+             "Categories and series both have their headings in columns, but only one of them can.");
     }
     if ((categories || series) && (type_ == "bubble" || type_ == kBucketType)) {
       Report(FindingKind::kFormat,
-             "A " + type_ + " chart has no headings in columns; 'headings-in' is rows, or none for series.");
+             "A " + type_ +
+                 " chart can't have headings in columns; 'headings-in' must be rows, or none for series.");
     }
   }
 
@@ -127,7 +128,7 @@ class SourceCheck {
       const bool tellsOfSheets = noun == "table" && why.empty();
       Report(FindingKind::kTable,
              "There is no " + noun + " " + Quoted(id) + why + "; " + OtherTables() +
-                 (tellsOfSheets ? ", and a sheet counts as a table when it is called exactly Data1 to Data5."
+                 (tellsOfSheets ? "; a sheet is a table only if its name is exactly one of Data1 to Data5."
                                 : "."));
     }
     return {};
@@ -137,7 +138,7 @@ class SourceCheck {
   std::string WhyNot(const std::string& id) const {
     const auto sheet = book_.FindWorksheet(id);
     return id.starts_with("Data") && sheet && sheet->UsedCells().row2 < 2
-               ? ", as its sheet has no row of data"
+               ? ", because its sheet has no row of data"
                : "";
   }
 
@@ -178,7 +179,7 @@ class SourceCheck {
     const std::string renamed = ColumnInPlaceOf(missing);
     if (renamed.empty()) return "";
     return "; " + Quoted(renamed) +
-           " is in its place, and if that is its new name, plotsmith rename-columns BOOK"
+           " is in its place. If that is its new name, plotsmith rename-columns BOOK"
            " --table " +
            ShellWord(GetAttributeText(table_, "id")) + " " +
            ShellWord(GetAttributeText(missing, "name") + "=" + renamed) + " renames it in the charts";
@@ -254,8 +255,8 @@ class SourceCheck {
       Report(FindingKind::kTable, quoted + " can't be the bucket table of its own chart.");
     } else if (GetAttributeText(bucketTable, "is-bucket-candidate") != "yes") {
       Report(FindingKind::kTable, quoted +
-                                      " can't be a bucket table, as that is a range table with a label "
-                                      "column first and a number column second.");
+                                      " can't be a bucket table, which is a range table with a label column "
+                                      "followed by a number column.");
     } else {
       CheckBucketColumn(bucketTable, "bucket-name-column", "label");
       CheckBucketColumn(bucketTable, "bucket-value-column", "number");
@@ -273,16 +274,15 @@ class SourceCheck {
     const std::int32_t count = GetStrategicBuckets(colTables->Item(id))->Count();
     if (count <= kMost) return;
     const std::string start = "The bucket table " + Quoted(id) + " has " + std::to_string(count) +
-                              " buckets, and a chart has room for the names of " + std::to_string(kMost);
-    const std::string mend = "; leave " + std::to_string(kMost) + " buckets or fewer";
+                              " buckets, but a chart can show the names of at most " + std::to_string(kMost);
+    const std::string mend = "; keep at most " + std::to_string(kMost) + " buckets";
     if (count < kFirstMisnamed || count > kLastMisnamed) {
-      Report(
-          FindingKind::kTable,
-          start + ", so that its drawing breaks off and it is left a column chart without a legend" + mend +
-              ", then draw it again with plotsmith modify BOOK CHART --type 'strategic bucket', and switch "
-              "its legend on in a spreadsheet program; the next refresh draws that.");
+      Report(FindingKind::kTable,
+             start + ", so its drawing stops and leaves a column chart without a legend" + mend +
+                 ", draw the chart again with plotsmith modify BOOK CHART --type 'strategic bucket', and "
+                 "switch on its legend in a spreadsheet program; the next refresh draws the legend.");
     } else if (type_ == kBucketType) {
-      Report(FindingKind::kTable, start + ", so that the columns have wrong names" + mend + ".");
+      Report(FindingKind::kTable, start + ", so the columns have wrong names" + mend + ".");
     }
   }
 
@@ -292,7 +292,7 @@ class SourceCheck {
     const auto columns = table_.selectNodes((kind + "-column").c_str());
     if (FindColumn(columns, heading)) return;
     Report(FindingKind::kTable, "The bucket table " + Quoted(GetAttributeText(bucketTable, "id")) +
-                                    " doesn't go with the table " + Quoted(GetAttributeText(table_, "id")) +
+                                    " doesn't match the table " + Quoted(GetAttributeText(table_, "id")) +
                                     ", which has no " + kind + " column " + Quoted(heading) + "; its " +
                                     kind + " columns are " + Headings(columns) + ".");
   }

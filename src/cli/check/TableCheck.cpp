@@ -20,17 +20,17 @@
 namespace plotsmith::cli {
 namespace {
 
-constexpr const char* kHowToCalculate = "have a spreadsheet program calculate and save the workbook.";
+constexpr const char* kHowToCalculate = "calculate and save the workbook in a spreadsheet program.";
 
-/// Returns the finding that explains why a defined name marks no table.
+/// Returns the finding that explains why a defined name refers to no table.
 Finding NoTable(const std::string& name) {
-  const std::string start = "The name " + Quoted(name) + " marks no table, ";
+  const std::string start = "The name " + Quoted(name) + " doesn't define a table, ";
   const auto defined = oWorkbook->Names()->Item(name);
   const std::int32_t rows =
       ValueOr(std::int32_t{0}, [&] { return defined->RefersToRange()->Rows()->Count(); });
   return {name, FindingKind::kTable,
           rows > 0 ? start + "because it refers to " + Counted(static_cast<std::size_t>(rows), "row") +
-                         ", and the head of a table alone has three."
+                         ", but the head of a table alone takes three."
                    : start + "because it refers to " + Quoted(defined->RefersTo()) +
                          ", which isn't a range of cells."};
 }
@@ -69,10 +69,10 @@ void CheckFormulas(xlsx::Worksheet& sheet, const TableArea& area, const FormulaS
   std::string scratch;
   for (const auto& [column, cells] : FindUncalculated(sheet, area)) {
     if (cells.heading && scope.headings) {
-      findings.push_back({CellText(area.sheet, area.HeadingRow(), column), FindingKind::kCells,
-                          std::string("The heading is a formula without a result, so that its column "
-                                      "doesn't exist; ") +
-                              kHowToCalculate});
+      findings.push_back(
+          {CellText(area.sheet, area.HeadingRow(), column), FindingKind::kCells,
+           std::string("The heading is a formula without a result, so its column is ignored; ") +
+               kHowToCalculate});
     }
     const std::string heading(GetCellText(sheet, area.HeadingRow(), column, scratch));
     if (heading.empty() || cells.count == 0 || !scope.HasColumn(column)) continue;

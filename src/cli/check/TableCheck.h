@@ -11,7 +11,7 @@ namespace plotsmith::cli {
 /// A table, or a defined name that should mark one, with its problems.
 struct CheckedTable {
   std::string id;
-  dom::IXMLDOMElement table;  ///< Nothing for a name that marks no table.
+  dom::IXMLDOMElement table;  ///< Nothing for a name that defines no table.
   Findings findings;
 };
 

@@ -78,8 +78,7 @@ CLI::App* CellsCommand::Declare(CLI::App& app) {
   verb->add_flag("--value", value_, "Print values instead of displayed texts");
   verb->add_flag(
       "--json", json_,
-      "As JSON, a list of rows; of the values, dates and times have their number and a text of ISO "
-      "8601");
+      "Print JSON, a list of rows; the values of dates and times have a number and a text in ISO 8601");
   return verb;
 }
 

@@ -24,7 +24,7 @@ int DefinitionCommand::Run(const GlobalOptions& options, const Streams& streams)
   }
   if (places.empty()) {
     throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no chart \"" + chart_ +
-                                              "\" (plotsmith charts lists those it has).");
+                                              "\" (plotsmith charts lists its charts).");
   }
   streams.out << colCharts->Item(charts[places.front()].first).xml() << '\n';
   return code;

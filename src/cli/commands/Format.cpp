@@ -49,7 +49,7 @@ int FormatCommand::Run(const GlobalOptions&, const Streams& streams) {
     return exit_code::kDone;
   }
   if (arguments_.size() != 2)
-    throw CommandError(exit_code::kUsage, "format wants FORMAT and VALUE, or --tsv.");
+    throw CommandError(exit_code::kUsage, "format needs FORMAT and VALUE, or --tsv.");
   const auto text = Shown(arguments_[0], arguments_[1], dates);
   if (!text) throw CommandError(exit_code::kUsage, "\"" + arguments_[0] + "\" isn't a number format.");
   streams.out << *text << '\n';

@@ -29,8 +29,8 @@ CLI::App* RenderCommand::Declare(CLI::App& app) {
 
 int RenderCommand::Run(const GlobalOptions& options, const Streams& streams) {
   if (sheet_ && !charts_.empty())
-    throw CommandError(exit_code::kUsage, "--sheet draws a whole sheet, so no chart can be named with it.");
-  if (onePage_ && !sheet_) throw CommandError(exit_code::kUsage, "--one-page goes with --sheet.");
+    throw CommandError(exit_code::kUsage, "--sheet draws a whole sheet and can't be combined with charts.");
+  if (onePage_ && !sheet_) throw CommandError(exit_code::kUsage, "--one-page can only be used with --sheet.");
   const PicturePlan plan = PlanPictures(pictures_, output_);
   const auto loading = LoadPainterAhead();
   Session session(book_, options, streams);
@@ -46,7 +46,7 @@ int RenderCommand::RenderCharts(Session& session, const PicturePlan& plan, const
   if (charts.empty()) {
     const auto others = OtherCharts(session.Book(), defined);
     streams.err << "plotsmith: \"" << book_ << "\" has no charts of Plotsmith, so nothing was drawn";
-    if (!others.empty()) streams.err << "; named as an argument, others are drawn too: " << Listed(others);
+    if (!others.empty()) streams.err << "; other charts are drawn if you name them: " << Listed(others);
     streams.err << ".\n";
     return exit_code::kSaidSomething;
   }

@@ -14,8 +14,8 @@ namespace plotsmith::cli {
 namespace {
 
 constexpr const char* kStandardInput = "-";
-/// The program with the windows of the pages. It is a separate program because linking a toolkit would make
-/// the command start more slowly.
+/// The program with the windows of the pages. It is a separate program because linking a toolkit would slow
+/// down the start of the command.
 constexpr const char* kWindowProgram = "plotsmith-wizard";
 
 }  // namespace
@@ -49,11 +49,10 @@ int WizardCommand::Run(const GlobalOptions& options, const Streams& streams) {
 void WizardCommand::OpenWindow(const GlobalOptions& options) const {
   const std::string program = FindProgram(kWindowProgram);
   if (program.empty()) {
-    throw CommandError(
-        exit_code::kUsage,
-        "the wizard's window is the program plotsmith-wizard, which isn't installed; --script FILE "
-        "plays a script on the wizard's pages, and new, modify, copy and delete go through them by "
-        "themselves.");
+    throw CommandError(exit_code::kUsage,
+                       "the wizard's window is the program plotsmith-wizard, which isn't installed; without "
+                       "it, --script FILE runs a script on the wizard's pages, and the verbs new, modify, "
+                       "copy and delete operate the pages.");
   }
   // The equals sign and "--" support file names that begin with a dash.
   std::vector<std::string> arguments = {"--host-version", runtime::NumberText(options.hostVersion)};

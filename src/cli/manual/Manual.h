@@ -17,6 +17,7 @@ std::string ZshCompletion(const CommandLine& line);
 
 /// An option of the command line, as shown to the user.
 struct OptionView {
+  /// Reads the names and texts of an option that the command declares.
   explicit OptionView(const CLI::Option& option);
 
   std::vector<std::string>

@@ -99,8 +99,8 @@ std::string ManualPage(const CommandLine& line) {
     page += ".SS " + Plain(verb->get_name()) + "\n" + Plain(verb->get_description()) + ".\n" +
             Entries(OptionsOf(*verb));
   }
-  page += ".SH DEFINITIONS\n" + Plain(kDefinitions) + "\n.SH OPTIONS\nThey hold for every command.\n" +
-          Entries(OptionsOf(line.app));
+  page += ".SH DEFINITIONS\n" + Plain(kDefinitions) +
+          "\n.SH OPTIONS\nThey can be used with every command.\n" + Entries(OptionsOf(line.app));
   page += ".SH EXAMPLES\n";
   for (const auto& [command, sentence] : kExamples)
     page += ".TP\n" + Bold(name + " " + command) + "\n" + Plain(sentence) + "\n";

@@ -13,20 +13,19 @@ std::future<void> LoadPainterAhead() {
       // Most charts have their texts in this font. To find a font takes longer than to draw a chart.
       LoadPainter().Measure().Measure("0", render::Font{"Calibri", 10});
     } catch (const CommandError&) {
-      // The next call of LoadPainter fails in the same way.
+      // LoadPainter will report the error again
     }
   };
   try {
     return std::async(std::launch::async, load);
   } catch (const std::system_error&) {
-    return {};  // no thread can be made
+    return {};  // no thread could be created
   }
 }
 
 bool SayIfFontsAreMissing(const Streams& streams) {
   if (LoadPainter().HasFonts()) return false;
-  streams.err
-      << "plotsmith: no fonts are installed, so texts are not where they should be, or are missing.\n";
+  streams.err << "plotsmith: no fonts are installed, so texts are misplaced or missing.\n";
   return true;
 }
 

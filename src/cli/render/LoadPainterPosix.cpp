@@ -57,7 +57,7 @@ const render::Painter& Load() {
   }
   auto* const version = Find<render::ModuleVersion>(module, render::kVersionFunction);
   auto* const painter = Find<render::ModulePainter>(module, render::kPainterFunction);
-  if (version == nullptr || painter == nullptr) throw refuse("isn't the part of Plotsmith that draws");
+  if (version == nullptr || painter == nullptr) throw refuse("isn't Plotsmith's drawing library");
   if (version() != std::string(PLOTSMITH_VERSION)) {
     throw refuse("is of version " + std::string(version()) + ", and this program of version " +
                  PLOTSMITH_VERSION);

@@ -4,7 +4,7 @@
 namespace plotsmith::cli {
 
 const render::Painter& LoadPainter() {
-  throw CommandError(exit_code::kUsage, "nothing can be drawn under Windows yet; plotsmith on Linux draws.");
+  throw CommandError(exit_code::kUsage, "drawing isn't supported on Windows yet; use plotsmith on Linux.");
 }
 
 }  // namespace plotsmith::cli

@@ -56,13 +56,12 @@ PictureFormat FormatFor(const PictureOptions& options, const PicturePlan& plan) 
   if (plan.target != PicturePlan::Target::kFile) return format.value_or(PictureFormat::kSvg);
   const auto ofFile = FormatOfFile(plan.path);
   if (!format && !ofFile) {
-    throw Usage(
-        "the name \"" + plan.path +
-        "\" has no known extension: use .svg, .png or .pdf, or --format; a folder has to be there, or "
-        "ends with \"/\".");
+    throw Usage("the name \"" + plan.path +
+                "\" has no known extension: use .svg, .png or .pdf, or --format; the name of a new folder "
+                "ends with \"/\".");
   }
   if (format && ofFile && *format != *ofFile)
-    throw Usage("\"" + plan.path + "\" and --format " + *options.format + " are two formats.");
+    throw Usage("\"" + plan.path + "\" and --format " + *options.format + " are different formats.");
   return format.value_or(ofFile.value_or(PictureFormat::kSvg));
 }
 
@@ -93,7 +92,7 @@ PicturePlan PlanPictures(const PictureOptions& options, const std::optional<std:
                                          : PicturePlan::Target::kFile;
   plan.format = FormatFor(options, plan);
   if (options.dpi && plan.format != PictureFormat::kPng)
-    throw Usage("--dpi is for PNG; --scale makes a picture of any format larger.");
+    throw Usage("--dpi applies only to PNG; --scale enlarges pictures of all formats.");
   plan.dpi = options.dpi.value_or(plan.dpi);
   if (!(plan.dpi >= kLeastDpi && plan.dpi <= kMostDpi)) throw Usage("--dpi needs a number from 10 to 2400.");
   plan.scale = options.scale.value_or(plan.scale);
@@ -108,8 +107,8 @@ void CheckRoom(const PicturePlan& plan, std::size_t count, const std::string& no
     throw Usage("a picture isn't written to a terminal; redirect the output, or name a file.");
   if (count < 2 || plan.target == PicturePlan::Target::kFolder || plan.format == PictureFormat::kPdf) return;
   throw Usage((toOut ? "the standard output" : "\"" + plan.path + "\"") +
-              " takes one picture, and there are " + Counted(count, noun) +
-              "; a folder or a PDF takes several.");
+              " can contain only one picture, but there are " + Counted(count, noun) +
+              "; use a folder or a PDF.");
 }
 
 }  // namespace plotsmith::cli

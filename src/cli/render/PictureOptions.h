@@ -29,6 +29,7 @@ void DeclarePictureOptions(CLI::App& verb, PictureOptions& options, const std::s
 
 /// The destination and the format of pictures.
 struct PicturePlan {
+  /// The destination of pictures.
   enum class Target { kFolder, kFile, kStandardOutput };
 
   PictureFormat format = PictureFormat::kSvg;

@@ -23,7 +23,7 @@ namespace fs = std::filesystem;
 
 constexpr double kPointsPerInch = 72;
 
-/// The pages of one PDF are painted in turn, by one thread.
+/// The pages of one PDF are painted one after the other, by one thread.
 TaskQueue::Order OrderFor(const PicturePlan& plan) {
   const bool oneFile = plan.target != PicturePlan::Target::kFolder;
   return oneFile ? TaskQueue::Order::kInTurn : TaskQueue::Order::kAny;

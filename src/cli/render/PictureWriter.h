@@ -15,8 +15,8 @@
 
 namespace plotsmith::cli {
 
-/// Writes pictures according to a plan. Optionally prints the paths of the files on `out`, one per line. The
-/// pictures are made and written in threads while the caller goes on.
+/// Writes pictures according to a plan. Optionally prints the paths of the files on `out`, one per line.
+/// Threads make and write the pictures while the caller continues.
 class PictureWriter {
  public:
   /// Makes the folder if it doesn't exist. Throws CommandError if that fails. With `list`, the paths are

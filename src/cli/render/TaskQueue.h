@@ -11,29 +11,31 @@
 
 namespace plotsmith::cli {
 
-/// Works on tasks in threads beside the one that gives them, which has other work between two tasks. With no
-/// second processor, or where no thread can be made, the tasks are done by the thread that gives them.
+/// Runs tasks in threads while the calling thread does other work between two tasks. With only one processor,
+/// or if no thread can be created, the calling thread runs the tasks.
 class TaskQueue {
  public:
   using Task = std::function<void()>;
-  /// Whether several tasks may be worked on at a time, or each has to wait for those before it. Tasks that
-  /// wait for each other are all done by one thread.
+  /// Determines whether several tasks may run at the same time, or each has to wait for the previous one.
+  /// Tasks that run in order are all run by one thread.
   enum class Order { kAny, kInTurn };
 
+  /// Makes an empty queue. Threads are started with the second task.
   explicit TaskQueue(Order order);
-  /// Waits for the tasks that are being worked on. Those that wait are dropped.
+  /// Waits for the running tasks, and discards the waiting ones.
   ~TaskQueue();
   TaskQueue(const TaskQueue&) = delete;
   TaskQueue& operator=(const TaskQueue&) = delete;
 
-  /// Takes a task. The first one waits for the second or for Finish, as a thread isn't worth while for one.
-  /// Where many wait already, this works on some of them, or waits until others have.
+  /// Adds a task. The first task is not started until the second one or until Finish, because one task isn't
+  /// worth a thread. If many tasks are waiting, this runs some of them, or waits until the threads have run
+  /// some.
   void Add(Task task);
-  /// Waits until all is done. Returns how many of the tasks were done before the first one that failed, in
-  /// the order in which they were given; `failure` is what that one threw. After a failure, tasks that wait
-  /// are dropped.
+  /// Waits until all tasks are done. Returns the number of tasks, in the order of Add, that were done before
+  /// the first one that failed; `failure` is the exception of that task. After a failure, waiting tasks are
+  /// discarded.
   std::size_t Finish(std::exception_ptr& failure);
-  /// Whether a task has failed.
+  /// Returns true if a task has failed.
   bool HasFailed();
 
  private:
@@ -44,9 +46,9 @@ class TaskQueue {
 
   void Start();
   void Work();
-  /// Works on waiting tasks, or waits for the threads that do, until only so many are left.
+  /// Runs waiting tasks, or waits for the threads to run them, until at most `waiting` are left.
   void WorkUntilThereAre(std::size_t waiting, std::unique_lock<std::mutex>& lock);
-  /// Takes the first of the waiting tasks and does it; the lock is released meanwhile.
+  /// Runs the first waiting task. The lock is released meanwhile.
   void DoNext(std::unique_lock<std::mutex>& lock);
 
   const Order order_;

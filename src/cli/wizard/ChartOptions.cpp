@@ -42,7 +42,8 @@ void DeclareLooks(CLI::App& verb, LayoutOptions& layout) {
   verb.add_option("--title", layout.title, "The chart's title")->type_name("TEXT");
   verb.add_option("--x-axis", layout.xAxis, "The title of the horizontal axis")->type_name("TEXT");
   verb.add_option("--y-axis", layout.yAxis, "The title of the vertical axis")->type_name("TEXT");
-  verb.add_option("--number-format", layout.numberFormat, "How values are written, as \"#,##0\"")
+  verb.add_option("--number-format", layout.numberFormat,
+                  "The number format of the values, such as \"#,##0\"")
       ->type_name("FORMAT");
   verb.add_option("--labels", layout.labels, "Contents of the labels: values, percentages, names or none")
       ->type_name("LABELS");
@@ -108,7 +109,7 @@ void CheckChartOptions(const ChartOptions& options) {
   for (const char* own : {kDefinitionsSheet, kDataSheet}) {
     if (options.newSheet && runtime::EqualsIgnoreCase(*options.newSheet, own)) {
       throw CommandError(exit_code::kUsage,
-                         "--new-sheet can't be " + Quoted(own) + ", which is a sheet of Plotsmith's own.");
+                         "--new-sheet can't be " + Quoted(own) + ", which is one of Plotsmith's own sheets.");
     }
   }
   const auto& unset = options.layout.unset;

@@ -81,10 +81,10 @@ const char* NeedOf(std::string_view control) {
       {"chkScaleXAxis", "--set quadrants"},
       {"chkScaleYAxis", "--set quadrants"},
       {"chkShowZeroBubbles", "--sizes"},
-      {"cboValues", "categories and series that are no number columns"},
-      {"optCategories(2)", "series that are no number columns, by --series or --no-series"},
+      {"cboValues", "categories and series that aren't number columns"},
+      {"optCategories(2)", "series that aren't number columns, by --series or --no-series"},
       {"optSeries(1)", "a table with another label column"},
-      {"optSeries(2)", "categories that are no number columns, by --categories"}};
+      {"optSeries(2)", "categories that aren't number columns, by --categories"}};
   for (const auto& [name, need] : kNeeds) {
     if (name == control) return need;
   }

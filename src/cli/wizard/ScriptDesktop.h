@@ -18,6 +18,8 @@ enum class Outside {
 /// The desktop of a script run. Its message boxes go to the script.
 class ScriptDesktop final : public ConsoleDesktop {
  public:
+  /// Makes a desktop whose message boxes `player` answers. `outside` decides about messages that don't come
+  /// from pages.
   ScriptDesktop(std::shared_ptr<forms::ScriptPlayer> player, Outside outside)
       : player_(std::move(player)), outside_(outside) {}
 

@@ -21,8 +21,11 @@ class WizardRun {
   /// Runs the wizard with the script.
   void Play();
 
+  /// The session with the workbook of the run.
   Session& Workbook() { return session_; }
+  /// The player of the script.
   const forms::ScriptPlayer& Player() const { return *player_; }
+  /// The desktop, which has collected the messages.
   const ScriptDesktop& Desktop() const { return *desktop_; }
   /// Returns true if the run has built or deleted a chart. Otherwise there is nothing to save.
   bool CameToSomething() const { return session_.ChartsStarted() > 0 || desktop_->Confirmed(); }

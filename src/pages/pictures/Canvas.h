@@ -24,6 +24,7 @@ Rgb Shade(Rgb oColor, double dAmount);
 /// Collects the shapes of a picture. Each shape is in front of the shapes before it.
 class Canvas {
  public:
+  /// Makes an empty picture of this size in points.
   Canvas(double dWidth, double dHeight) : oPicture_{dWidth, dHeight, {}} {}
 
   /// Draws a filled shape, optionally with an outline.

@@ -27,6 +27,7 @@ class SheetView;
 /// exists.
 class BookView : public QWidget {
  public:
+  /// Makes a window for the host's workbook.
   explicit BookView(std::shared_ptr<xlsx::Application> host, QWidget* parent = nullptr);
   ~BookView() override;
 
@@ -42,6 +43,7 @@ class BookView : public QWidget {
   /// sheet with a tab has it.
   bool Reveal(const std::string& alternativeText);
 
+  /// The tabs of the sheets.
   QTabBar& Tabs() { return *tabs_; }
   /// The visible worksheet, or null for a chart sheet and in a workbook without visible sheets.
   SheetView* ShownSheet();

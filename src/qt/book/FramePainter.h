@@ -32,6 +32,7 @@ ChartCaption CaptionOf(const ShownFrame& frame);
 class FramePainter {
  public:
   FramePainter();
+  /// Sets the function that draws charts. Without it, a chart is shown as a frame with title and type.
   void SetChartPainter(ChartPainter painter);
   /// Discards the pictures, because the charts may have changed.
   void LookAgain();

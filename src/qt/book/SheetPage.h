@@ -18,6 +18,7 @@ class SheetPage {
   virtual QWidget& Widget() = 0;
   /// The view of the sheet's cells, or null for a chart sheet.
   virtual SheetView* Cells() = 0;
+  /// Sets the function that draws charts. Without it, a chart is shown as a frame with title and type.
   virtual void SetChartPainter(const ChartPainter& painter) = 0;
   /// Updates the page from the host.
   virtual void Refresh() = 0;

@@ -32,6 +32,7 @@ struct ShownCell {
   std::uint32_t style = 0;  ///< The style for SheetSource::LookOf.
   QString text;             ///< The displayed text, as in Range.Text.
 
+  /// Returns true if the cell has no value.
   bool IsEmpty() const { return kind == excel::CellValue::Kind::kEmpty; }
 };
 
@@ -52,6 +53,7 @@ std::size_t FindChart(const std::vector<ShownFrame>& frames, const std::string& 
 /// and nothing about the sheet is kept. Throws RuntimeError if the sheet was deleted or can't be read.
 class SheetSource {
  public:
+  /// Makes a reader for a sheet. `book` must outlive it.
   SheetSource(xlsx::Workbook& book, std::weak_ptr<xlsx::SheetEntry> sheet);
 
   /// Returns true if the cell is empty. Rows and columns count from 1.

@@ -24,6 +24,7 @@ namespace plotsmith::qtbook {
 /// the user scrolls and moves the active cell of this window. Neither changes the workbook.
 class SheetView : public QAbstractScrollArea, public SheetPage {
  public:
+  /// Makes a view of a worksheet. `book` must outlive it.
   SheetView(xlsx::Workbook& book, std::weak_ptr<xlsx::SheetEntry> sheet, QWidget* parent = nullptr);
 
   QWidget& Widget() override { return *this; }
@@ -47,6 +48,7 @@ class SheetView : public QAbstractScrollArea, public SheetPage {
   QRect CellArea(const xlsx::CellPlace& cell);
   QRect FrameArea(const ShownFrame& frame);
   ///@}
+  /// The shapes on the sheet from back to front.
   const std::vector<ShownFrame>& Frames() const { return frames_; }
   /// Scrolls to the chart with the alternative text. Returns false if the sheet doesn't have it.
   bool Reveal(const std::string& alternativeText);
@@ -57,6 +59,7 @@ class SheetView : public QAbstractScrollArea, public SheetPage {
   void SetZoom(double zoom);
   ///@}
 
+  /// The reader of the sheet.
   SheetSource& Source() { return source_; }
 
  protected:

@@ -12,6 +12,7 @@ namespace plotsmith::qt {
 /// The view of a button. The default button, which Enter presses, is marked.
 class CommandButtonView final : public ControlView {
  public:
+  /// Makes the button for `model`. `post` queues the user's actions.
   CommandButtonView(forms::CommandButton& model, QWidget* parent, const Post& post);
   QWidget& Widget() override { return *button_; }
 
@@ -26,6 +27,7 @@ class CommandButtonView final : public ControlView {
 /// The view of a check box.
 class CheckBoxView final : public ControlView {
  public:
+  /// Makes the check box for `model`. `post` queues the user's actions.
   CheckBoxView(forms::CheckBox& model, QWidget* parent, const Post& post);
   QWidget& Widget() override { return *box_; }
 
@@ -40,6 +42,7 @@ class CheckBoxView final : public ControlView {
 /// The view of an option button. The arrow keys move between the options of a container.
 class OptionButtonView final : public ControlView {
  public:
+  /// Makes the option for `model`. `post` queues the user's actions.
   OptionButtonView(forms::OptionButton& model, QWidget* parent, const Post& post);
   QWidget& Widget() override { return *button_; }
 

@@ -43,6 +43,7 @@ class ControlView {
   void ForgetGestures();
 
  protected:
+  /// Connects a view with its control. `post` queues the user's actions.
   ControlView(forms::Control& model, Post post) : model_(model), post_(std::move(post)) {}
 
   /// Shows the properties of this kind of control on the widget, without reporting this as an action.

@@ -10,6 +10,7 @@ namespace plotsmith::qt {
 /// The view of a grid with row selection. The fixed rows are its header.
 class GridView final : public ControlView {
  public:
+  /// Makes the table for `model`. `post` queues the user's actions.
   GridView(forms::VSFlexGrid& model, QWidget* parent, const Post& post);
   QWidget& Widget() override { return *table_; }
 

@@ -11,6 +11,7 @@ namespace plotsmith::qt {
 /// The view of a combo box.
 class ComboBoxView final : public ControlView {
  public:
+  /// Makes the combo box for `model`. `post` queues the user's actions.
   ComboBoxView(forms::ComboBox& model, QWidget* parent, const Post& post);
   QWidget& Widget() override { return *box_; }
 
@@ -25,6 +26,7 @@ class ComboBoxView final : public ControlView {
 /// The view of a list box.
 class ListBoxView final : public ControlView {
  public:
+  /// Makes the list for `model`. `post` queues the user's actions.
   ListBoxView(forms::ListBox& model, QWidget* parent, const Post& post);
   QWidget& Widget() override { return *list_; }
 

@@ -12,6 +12,7 @@ namespace plotsmith::qt {
 /// The view of a label.
 class LabelView final : public ControlView {
  public:
+  /// Makes the label for `model`. `post` queues the user's actions.
   LabelView(forms::Label& model, QWidget* parent, const Post& post);
   QWidget& Widget() override { return *label_; }
 
@@ -26,6 +27,7 @@ class LabelView final : public ControlView {
 /// The view of a frame. The views of the controls inside are its children.
 class FrameView final : public ControlView {
  public:
+  /// Makes the frame for `model`. `post` queues the user's actions.
   FrameView(forms::Frame& model, QWidget* parent, const Post& post);
   QWidget& Widget() override { return *box_; }
 
@@ -40,6 +42,7 @@ class FrameView final : public ControlView {
 /// The view of a sample picture. The control's name identifies the picture.
 class ImageView final : public ControlView {
  public:
+  /// Makes the picture for `model`. `post` queues the user's actions.
   ImageView(forms::Image& model, QWidget* parent, const Post& post);
   QWidget& Widget() override { return *picture_; }
 
@@ -53,6 +56,7 @@ class ImageView final : public ControlView {
 /// The view of a progress bar.
 class ProgressBarView final : public ControlView {
  public:
+  /// Makes the progress bar for `model`. `post` queues the user's actions.
   ProgressBarView(forms::ProgressBar& model, QWidget* parent, const Post& post);
   QWidget& Widget() override { return *bar_; }
 

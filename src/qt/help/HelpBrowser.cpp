@@ -44,7 +44,7 @@ QString HelpBrowser::SentencePage(const QString& sentence) const {
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
   if (type != QTextDocument::HtmlResource) return QTextBrowser::loadResource(type, name);
   if (name.scheme() == kUnknownTopicScheme) {
-    return SentencePage("The help has no topic of the number " + name.path() + ".");
+    return SentencePage("The help has no topic with the number " + name.path() + ".");
   }
   const QString path = PathOf(name);
   if (QFile::exists(path)) return QTextBrowser::loadResource(type, name);

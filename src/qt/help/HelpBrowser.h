@@ -8,6 +8,7 @@ namespace plotsmith::qt {
 /// Shows the help pages of a folder. If a page doesn't exist, it shows a message.
 class HelpBrowser final : public QTextBrowser {
  public:
+  /// Makes a browser for the pages in `folder`, which may be a folder of resources.
   explicit HelpBrowser(QString folder, QWidget* parent = nullptr);
 
   /// Returns the address of a file in the folder.

@@ -22,6 +22,7 @@ class LivePreview {
   void Look();
   /// Begins a new run. A preview window that the user has closed is shown again.
   void Restart();
+  /// The window that shows the preview.
   const PreviewWindow& Window() const { return window_; }
 
  private:

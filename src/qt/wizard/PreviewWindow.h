@@ -28,6 +28,7 @@ class PreviewWindow final : public QWidget {
   void Show(Preview preview);
   /// Removes the picture and the message.
   void Clear();
+  /// The preview in the window.
   const Preview& Shown() const { return shown_; }
 
   /// Called when the available size has changed.

@@ -19,6 +19,7 @@ class PreviewWorker {
   /// A function that gets the result while events are processed. It isn't called after Stop.
   using Done = std::function<void(Preview)>;
 
+  /// Makes a worker. `done` is called with each finished preview.
   explicit PreviewWorker(Done done);
   ~PreviewWorker();
   PreviewWorker(const PreviewWorker&) = delete;

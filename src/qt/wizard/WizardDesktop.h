@@ -14,6 +14,7 @@ class HelpWindow;
 /// A desktop with windows for message boxes and help.
 class WizardDesktop final : public cli::ConsoleDesktop {
  public:
+  /// Makes a desktop whose message boxes are modal to the windows of `pages`.
   explicit WizardDesktop(std::shared_ptr<QtView> pages);
   ~WizardDesktop() override;
 

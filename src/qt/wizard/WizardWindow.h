@@ -27,6 +27,7 @@ class WizardWindow final : public QMainWindow {
 
   /// Sets the name of the workbook's file, which the title shows.
   void SetBookName(const QString& name);
+  /// The view of the workbook.
   qtbook::BookView& Book() { return *book_; }
   /// The result of Ask if the window was closed.
   static constexpr int kClosed = -1;

@@ -54,7 +54,7 @@ int Run(plotsmith::qt::WizardOptions options) {
     plotsmith::qt::Tell(nullptr, e.what(), streams);
     return e.ExitCode();
   } catch (const std::exception& e) {
-    plotsmith::qt::Tell(nullptr, std::string("something went wrong: ") + e.what(), streams);
+    plotsmith::qt::Tell(nullptr, std::string("an unexpected error occurred: ") + e.what(), streams);
     return cli::exit_code::kFile;
   }
 }
@@ -77,9 +77,8 @@ int main(int argc, char** argv) {
     return cli::exit_code::kUsage;
   }
   if (!HasScreen()) {
-    std::cerr
-        << "plotsmith-wizard: there is no screen to show a window on; \"plotsmith new\" and its other verbs "
-           "make and change charts without one.\n";
+    std::cerr << "plotsmith-wizard: there is no screen for the window; \"plotsmith new\" and its other verbs "
+                 "make and change charts without one.\n";
     return cli::exit_code::kUsage;
   }
   QApplication application(argc, argv);

@@ -2,10 +2,10 @@
 
 namespace plotsmith::com {
 
-/// After this call no reference is released. The DLL calls it when the process ends: the libraries of the
-/// objects may be unloaded by then, and the system frees all memory.
+/// Stops the release of references. The DLL calls this when the process ends: the libraries of the objects
+/// may be unloaded by then, and the system frees all memory.
 void Abandon();
-/// Whether Abandon was called.
+/// Returns true after Abandon was called.
 bool IsAbandoned();
 
 }  // namespace plotsmith::com

@@ -16,19 +16,20 @@ namespace {
 std::uint64_t calls = 0;
 std::uint64_t changes = 0;
 
-/// The locale of every call, English (United States): names, texts and formulas are in English for every
+/// The locale of every call is English (United States): names, texts and formulas are in English for every
 /// user.
 constexpr LCID kEnglish = 0x0409;
 
-/// The table of virtual functions of an object, which is its first field. All objects of a class share it.
+/// Returns the address of the object's table of virtual functions, which is its first field. All objects of a
+/// class share one table.
 const void* ClassOf(IDispatch& object) { return *reinterpret_cast<const void* const*>(&object); }
 
-/// Objects of scripts number their members one by one, each object in its own way.
+/// Returns true for objects of scripts, each of which numbers its members in its own order.
 bool NumbersItsOwnMembers(IDispatch& object) {
   return static_cast<bool>(ComPtr<IDispatch>(&object).As<IDispatchEx>());
 }
 
-/// The flags of a call as Automation has them.
+/// The invoke flags of Automation for a kind of call.
 WORD FlagsOf(Kind kind) {
   switch (kind) {
     case Kind::kGet:
@@ -45,22 +46,22 @@ HRESULT LookUp(IDispatch& object, const wchar_t* name, DISPID& id) {
   return object.GetIDsOfNames(IID_NULL, &text, 1, kEnglish, &id);
 }
 
-/// Whether a server has refused a call because it is busy. It has done nothing then.
+/// Returns true if a server has refused a call because it is busy. The server has done nothing then.
 bool IsBusy(HRESULT result) {
-  constexpr auto kSuspended = static_cast<HRESULT>(0x800AC472);  // Excel, while a dialog or a cell is open
+  constexpr auto kSuspended = static_cast<HRESULT>(0x800AC472);  // Excel with an open dialog or cell
   return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER || result == kSuspended;
 }
 
-/// Waits between two attempts at a call, for two seconds in all. When these are used up, calls fail at once
-/// until the server accepts one: a run of a thousand calls would wait for half an hour otherwise.
+/// Waits between attempts at a call, for two seconds in all. When these are used up, calls fail at once until
+/// the server accepts one. Otherwise a run of a thousand calls could wait for half an hour.
 class Waiting {
  public:
-  /// False if there is no time left.
+  /// Returns false if no time is left.
   bool WaitOnce() {
     constexpr DWORD kStep = 100, kMost = 2000;  // milliseconds
     if (waited_ >= kMost) return false;
     waited_ += kStep;
-    // nothing sets the event: meanwhile calls that come in are served, which the server may wait for
+    // No code sets the event. The wait serves incoming calls, which the server may depend on.
     HANDLE event = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     if (event == nullptr) return false;
     DWORD index = 0;
@@ -74,10 +75,10 @@ class Waiting {
   DWORD waited_ = 0;
 } waiting;
 
-/// Application.Run has the most arguments: the macro's name and thirty of its own.
+/// Application.Run takes the most arguments: the macro's name and thirty arguments of the macro.
 constexpr std::size_t kMostArguments = 31;
 
-/// The arguments of one call as Automation wants them: the last one first, not owned.
+/// The arguments of one call in the order of Automation, which is the last one first. They are not owned.
 struct Parameters {
   explicit Parameters(std::span<const OwnedVariant> arguments, Kind kind) {
     if (arguments.size() > kMostArguments) throw RuntimeError(runtime::error::kArgumentCount);
@@ -111,7 +112,7 @@ DISPID Member::IdOn(IDispatch& object) {
 
 namespace {
 
-/// Call, with the number of the member.
+/// Calls a member by its number.
 OwnedVariant CallById(IDispatch& object, DISPID id, Kind kind, std::span<const OwnedVariant> arguments,
                       WhenBusy whenBusy) {
   Parameters parameters(arguments, kind);
@@ -123,13 +124,14 @@ OwnedVariant CallById(IDispatch& object, DISPID id, Kind kind, std::span<const O
     const HRESULT result = object.Invoke(id, IID_NULL, kEnglish, FlagsOf(kind), &parameters.passed,
                                          kind == Kind::kPut ? nullptr : answer.Put(), &exception, nullptr);
     const bool thrown = result == DISP_E_EXCEPTION;
-    // A method that throws such a code may have done a part of its work, as a macro that hands it on.
+    // A method that fails with such a code may have done part of its work, for example a macro that passes
+    // the code on. It isn't repeated.
     const bool busy = thrown ? kind != Kind::kMethod && IsBusy(exception.scode) : IsBusy(result);
     if (!busy) waiting.Taken();
     if (SUCCEEDED(result)) return answer;
     const RuntimeError failure = thrown ? ErrorOf(exception) : ErrorOf(result);
     if (!busy || whenBusy == WhenBusy::kFail || !waiting.WaitOnce()) throw failure;
-    ++changes;  // calls that came in meanwhile may have changed anything
+    ++changes;  // incoming calls may have changed anything meanwhile
   }
 }
 

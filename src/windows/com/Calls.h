@@ -9,11 +9,11 @@
 #include "windows/com/Windows.h"
 
 /// @file
-/// Calls of members of Automation objects, bound by name when they are first called.
+/// Calls to members of Automation objects, which are bound by name at their first call.
 namespace plotsmith::com {
 
-/// A member of a class, by its name. Remembers the number (DISPID) by which the class knows the member, for
-/// all its objects. Make one for each member of each class, and keep it.
+/// A member of a class, by name. It keeps the number (DISPID) that the class gives to the member, for all
+/// objects of the class. Make one for each member of each class, and keep it.
 class Member {
  public:
   /// `name` must outlive the member.
@@ -21,44 +21,44 @@ class Member {
   Member(const Member&) = delete;
   Member& operator=(const Member&) = delete;
 
-  /// The number on an object. Error 438 if the object has no such member.
+  /// Returns the member's number on an object. Raises error 438 if the object has no such member.
   DISPID IdOn(IDispatch& object);
 
  private:
   const wchar_t* name_;
-  const void* class_ = nullptr;  ///< whose number is remembered; null for none
+  const void* class_ = nullptr;  ///< the class whose number is kept; null for none
   DISPID id_ = DISPID_UNKNOWN;
 };
 
-/// What a call is (one of Automation's invoke kinds, never two of them).
+/// The kind of a call: exactly one of Automation's invoke kinds.
 enum class Kind {
   kGet,
   kPut,
   kMethod,
-  kFind,  ///< a method that changes nothing
+  kFind,  ///< a method that has no side effect
 };
 
-/// Whether a call waits where the server says that it is busy, and is made again.
+/// Says whether a call that the server refuses because it is busy is repeated.
 enum class WhenBusy { kWait, kFail };
 
-/// Calls a member. Of a property that is put, the value is the last of the arguments. What fails is a
-/// RuntimeError with the server's number and text; without an object it is error 91.
+/// Calls a member. The last argument of kPut is the new value. A failure is raised as a RuntimeError with the
+/// server's number and text; a null object is error 91.
 OwnedVariant Call(IDispatch* object, Member& member, Kind kind, std::span<const OwnedVariant> arguments,
                   WhenBusy whenBusy = WhenBusy::kWait);
 
-/// Reads the default member of an object, as the language does where it needs a value. The errors are those
+/// Reads the default member of an object, as Visual Basic does where it needs a value. It raises the errors
 /// of Call.
 OwnedVariant CallDefault(IDispatch* object);
 
-/// Whether an object has a member of the name. This is no call of the member.
+/// Returns true if an object has a member of this name. The member isn't called.
 bool HasMember(IDispatch* object, const wchar_t* name);
 
-/// How many calls were made, those that were made again among them.
+/// Number of calls so far, including repeated ones.
 std::uint64_t CallCount();
 
-/// A number that grows with each call that may have changed something: a property that was put, a method.
+/// A number that grows with each call that may have changed something: a property that was put, or a method.
 std::uint64_t ChangeCount();
-/// Lets ChangeCount grow, after others had the chance to change something.
+/// Increases ChangeCount. Call it after other code had the chance to change something.
 void NoteChange();
 
 }  // namespace plotsmith::com

@@ -12,13 +12,13 @@ namespace plotsmith::com {
 template <class T>
 class ComPtr {
  public:
-  /// No object.
-  ///@{
+  /// Holds no object.
+  /// @{
   ComPtr() = default;
   ComPtr(std::nullptr_t) {}
   ///@}
 
-  /// A reference of its own to the object, or to none for null.
+  /// Adds a reference to the object. Null gives an empty pointer.
   explicit ComPtr(T* object) : object_(object) {
     if (object_ != nullptr) object_->AddRef();
   }
@@ -44,18 +44,19 @@ class ComPtr {
     if (object != nullptr && !IsAbandoned()) object->Release();
   }
 
-  /// Null for none. The reference stays here.
+  /// Returns the object, or null. The reference stays here.
   T* Get() const { return object_; }
   T* operator->() const { return object_; }
-  /// Where a function stores the reference that it hands out. What was here is released first.
+  /// Returns the place where a function stores the reference that it returns. A reference that is already
+  /// held is released first.
   T** Put() {
     Reset();
     return &object_;
   }
-  /// False for none.
+  /// Returns false if no object is held.
   explicit operator bool() const { return object_ != nullptr; }
 
-  /// Another interface of the object; none if it hasn't got it.
+  /// Returns another interface of the object; an empty pointer if the object doesn't implement it.
   template <class U>
   ComPtr<U> As(REFIID id = __uuidof(U)) const {
     ComPtr<U> other;

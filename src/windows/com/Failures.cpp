@@ -14,7 +14,7 @@ namespace error = runtime::error;
 
 namespace {
 
-/// Results that have a number of their own in the language.
+/// A result that has its own error number in Visual Basic.
 struct NumberedResult {
   HRESULT result;
   int number;
@@ -43,19 +43,19 @@ constexpr std::array kNumbers = {
     NumberedResult{static_cast<HRESULT>(0x800706BA), error::kServerUnavailable},  // RPC_S_SERVER_UNAVAILABLE
 };
 
-/// The facility of the language's own errors: an error's result is 0x800A0000 plus its number.
+/// The facility of Visual Basic's errors: an error's result is 0x800A0000 plus its number.
 constexpr HRESULT kLanguage = static_cast<HRESULT>(0x800A0000);
 bool IsLanguages(HRESULT result) { return (result & static_cast<HRESULT>(0xFFFF0000)) == kLanguage; }
 
-/// The number of a result in the language; 0 if it has none.
+/// Returns the error number of a result; 0 if it has none.
 int NumberOf(HRESULT result) {
-  // Excel's own errors are of this facility: everything that it refuses is 0x800A03EC, which is 1004.
+  // Excel's own errors use this facility too. Every refusal of Excel is 0x800A03EC, which is error 1004.
   if (IsLanguages(result)) return result & 0xFFFF;
   const auto* known = std::ranges::find(kNumbers, result, &NumberedResult::result);
   return known == kNumbers.end() ? 0 : known->number;
 }
 
-/// The message of Windows for a result; empty if it has none.
+/// Returns Windows' message for a result; empty if there is none.
 std::string SystemText(HRESULT result) {
   std::array<wchar_t, 512> buffer{};
   const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
@@ -72,7 +72,7 @@ RuntimeError WithText(int number, const std::string& text, const std::string& so
                       source.empty() ? standard.Source() : source);
 }
 
-/// The text of a field of an exception, which is emptied.
+/// Takes the text out of a field of an exception and clears the field.
 std::string Taken(BSTR& text) { return Utf8(OwnedBstr::Attach(std::exchange(text, nullptr))); }
 
 }  // namespace

@@ -4,20 +4,21 @@
 #include "windows/com/Windows.h"
 
 /// @file
-/// Failures between the language run-time and Automation.
+/// Conversions between run-time errors and Automation's results.
 namespace plotsmith::com {
 
-/// The error that the language shows for a failure. Results of the language's own facility (0x800Annnn) are
-/// errors by their number, those of Automation have a number in the language, and all others keep theirs, as
-/// a negative one.
+/// Returns the run-time error for a result. Results of Visual Basic's facility (0x800Annnn) give the error
+/// nnnn, results of Automation give the number that Visual Basic has for them, and all others keep their
+/// value as a negative number.
 runtime::RuntimeError ErrorOf(HRESULT result);
-/// The same of a call that failed with DISP_E_EXCEPTION. What the exception holds is freed.
+/// Returns the run-time error for a call that failed with DISP_E_EXCEPTION. The texts in `exception` are
+/// freed.
 runtime::RuntimeError ErrorOf(EXCEPINFO& exception);
 
-/// The result that bears the number of an error.
+/// Returns the result with the number of an error.
 HRESULT ResultOf(const runtime::RuntimeError& failure);
-/// Describes an error to the caller of IDispatch::Invoke, which then returns DISP_E_EXCEPTION. `exception`
-/// may be null.
+/// Describes an error to the caller of IDispatch::Invoke and returns DISP_E_EXCEPTION, which Invoke has to
+/// return. `exception` may be null.
 HRESULT FillException(const runtime::RuntimeError& failure, EXCEPINFO* exception);
 
 }  // namespace plotsmith::com

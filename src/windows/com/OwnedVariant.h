@@ -7,12 +7,12 @@
 
 namespace plotsmith::com {
 
-/// A VARIANT that frees what it holds.
+/// A VARIANT that frees its content.
 class OwnedVariant {
  public:
-  /// VT_EMPTY.
+  /// Creates VT_EMPTY.
   OwnedVariant() { VariantInit(&value_); }
-  /// Takes over what `value` holds.
+  /// Takes over the content of `value`.
   explicit OwnedVariant(const VARIANT& value) : value_(value) {}
   OwnedVariant(OwnedVariant&& other) noexcept : value_(other.Detach()) {}
   OwnedVariant& operator=(OwnedVariant&& other) noexcept {
@@ -25,14 +25,14 @@ class OwnedVariant {
     if (!IsAbandoned()) VariantClear(&value_);
   }
 
-  /// The value, which stays here.
+  /// Returns the value, which stays here.
   const VARIANT& Get() const { return value_; }
-  /// Where a function stores its result. What was here is freed first.
+  /// Returns the place where a function stores its result. The old content is freed first.
   VARIANT* Put() {
     VariantClear(&value_);
     return &value_;
   }
-  /// Gives the value to the caller, who must clear it.
+  /// Gives the value to the caller, who must clear it with VariantClear.
   VARIANT Detach() {
     VARIANT value = value_;
     VariantInit(&value_);

@@ -4,11 +4,11 @@
 
 namespace plotsmith::com {
 
-/// How many proxies of the host's objects there are. Each holds one reference to the host, which can't end
-/// before it is released.
+/// Number of proxies of the host's objects. Each holds one reference to the host, which can't end before it
+/// is released.
 std::int32_t LiveProxies();
 
-/// Counts an object among them as long as it exists.
+/// Counts as one live proxy as long as it exists.
 class CountedProxy {
  public:
   CountedProxy();

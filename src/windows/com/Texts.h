@@ -9,11 +9,12 @@
 #include "windows/com/Windows.h"
 
 /// @file
-/// Texts between the system's UTF-8 and Windows' UTF-16. Halves of surrogate pairs pass both ways.
+/// Conversions of texts between UTF-8, which the system uses, and UTF-16 of Windows. Unpaired surrogates
+/// survive both ways.
 namespace plotsmith::com {
 
-/// Owns a BSTR, or none. The type BSTR itself is a mere pointer to letters, and no function here takes one:
-/// the length of a BSTR is read from the memory in front of it, which other letters don't have.
+/// Owns a BSTR, or none. No function here takes a bare BSTR: that type is a pointer to UTF-16 units, and any
+/// such pointer would be accepted, although only a real BSTR has its length in front of the units.
 class OwnedBstr {
  public:
   OwnedBstr() = default;
@@ -28,15 +29,15 @@ class OwnedBstr {
     if (!IsAbandoned()) SysFreeString(text_);
   }
 
-  /// Takes over what a function of Automation has allocated; null is an empty text.
+  /// Takes over a BSTR that a function of Automation has allocated; null is an empty text.
   static OwnedBstr Attach(BSTR text) {
     OwnedBstr owned;
     owned.text_ = text;
     return owned;
   }
-  /// Where a function of Automation stores its result. Call it once.
+  /// Returns the place where a function of Automation stores its result. Call it once.
   BSTR* Put() { return &text_; }
-  /// The letters, which may contain zeros.
+  /// Returns the UTF-16 units, which may include zeros.
   std::wstring_view View() const {
     return text_ == nullptr ? std::wstring_view() : std::wstring_view(text_, SysStringLen(text_));
   }
@@ -45,15 +46,15 @@ class OwnedBstr {
   BSTR text_ = nullptr;
 };
 
-/// The text of `length` units.
+/// Converts `length` UTF-16 units.
 std::string Utf8(const OLECHAR* text, std::size_t length);
-/// The text of a BSTR.
+/// Converts a BSTR.
 std::string Utf8(const OwnedBstr& text);
-/// The text of a VARIANT of the type VT_BSTR.
+/// Converts a VARIANT of type VT_BSTR.
 std::string TextOf(const VARIANT& value);
-/// A text for functions of Windows that take a terminating zero.
+/// Returns a text with a terminating zero, for functions of Windows.
 std::wstring Wide(std::string_view text);
-/// A new BSTR, which the caller frees. Error 7 if there is no memory for it.
+/// Returns a new BSTR, which the caller frees. Raises error 7 if memory is short.
 BSTR NewBstr(std::string_view text);
 
 }  // namespace plotsmith::com

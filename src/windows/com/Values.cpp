@@ -24,7 +24,7 @@ VARIANT Typed(VARTYPE type) {
 
 Variant Plain(const VARIANT& value);
 
-/// A copy in which nothing is by reference.
+/// Returns a copy that contains no reference (VT_BYREF).
 OwnedVariant Dereferenced(const VARIANT& value) {
   OwnedVariant copy;
   const HRESULT result = VariantCopyInd(copy.Put(), const_cast<VARIANT*>(&value));
@@ -32,7 +32,7 @@ OwnedVariant Dereferenced(const VARIANT& value) {
   return copy;
 }
 
-/// A whole number, as a double where 32 bits don't hold it.
+/// Returns a whole number, as a double if it doesn't fit into 32 bits.
 template <class T>
 Variant WholeNumber(T number) {
   using Limits = std::numeric_limits<std::int32_t>;
@@ -52,11 +52,11 @@ double DecimalNumber(const DECIMAL& decimal) {
   return number;
 }
 
-/// Error values of cells are errors of Automation whose lower half is Excel's number (xlErrDiv0 is 2007).
+/// A cell's error value is an SCODE whose lower half is Excel's number (xlErrDiv0 is 2007).
 constexpr SCODE kCellErrors = static_cast<SCODE>(0x800A0000);
 
-/// What the default member of an object answers. An object there is refused, as its own default member could
-/// be the same object again.
+/// Returns the value of an object's default member. A default member that is an object is refused, because it
+/// could be the same object again.
 Variant DefaultOf(const VARIANT& object) {
   const ComPtr<IDispatch> dispatch = ObjectOf(object);
   const OwnedVariant answer = Dereferenced(CallDefault(dispatch.Get()).Get());
@@ -65,7 +65,7 @@ Variant DefaultOf(const VARIANT& object) {
   return Plain(answer.Get());
 }
 
-/// Of a value that is not by reference.
+/// Converts a value that is not by reference.
 Variant Plain(const VARIANT& value) {
   switch (V_VT(&value)) {
     case VT_EMPTY:
@@ -116,7 +116,7 @@ Variant Plain(const VARIANT& value) {
   }
 }
 
-/// The array in a value, wherever it is; null if there is none.
+/// Returns the array in a value, also if it is by reference; null if there is none.
 SAFEARRAY* ArrayIn(const VARIANT& value) {
   if (V_VT(&value) == (VT_BYREF | VT_VARIANT)) return ArrayIn(*V_VARIANTREF(&value));
   if ((V_VT(&value) & VT_ARRAY) == 0) return nullptr;
@@ -138,7 +138,7 @@ void PutElement(const OwnedVariant& array, LONG* position, const Variant& item) 
   if (FAILED(result)) throw ErrorOf(result);
 }
 
-/// One item of an array of type `type`, as a VARIANT of its own.
+/// Returns one item of an array of type `type` as a VARIANT.
 OwnedVariant ItemAt(SAFEARRAY* array, VARTYPE type, LONG position) {
   OwnedVariant item;
   HRESULT result;
@@ -146,10 +146,10 @@ OwnedVariant ItemAt(SAFEARRAY* array, VARTYPE type, LONG position) {
     result = SafeArrayGetElement(array, &position, item.Put());
   } else {
     VARIANT value = Typed(type);
-    // the members of the union all begin at the same place
+    // all members of the union but the DECIMAL begin at the same address
     void* place = type == VT_DECIMAL ? static_cast<void*>(&V_DECIMAL(&value)) : &V_NONE(&value);
     result = SafeArrayGetElement(array, &position, place);
-    V_VT(&value) = type;  // a DECIMAL lies over the type
+    V_VT(&value) = type;  // a DECIMAL overlaps the type
     if (SUCCEEDED(result)) item = OwnedVariant(value);
   }
   if (FAILED(result)) throw ErrorOf(result);
@@ -279,7 +279,7 @@ CellArray::~CellArray() { SafeArrayUnaccessData(array_); }
 
 const VARIANT& CellArray::At(std::int32_t row, std::int32_t column) const {
   if (row < 0 || row >= rows_ || column < 0 || column >= columns_) throw RuntimeError(error::kSubscript);
-  // the first dimension, that of rows, lies closest together
+  // Cells of the first dimension, the rows, are adjacent in memory.
   return cells_[static_cast<std::size_t>(column) * static_cast<std::size_t>(rows_) +
                 static_cast<std::size_t>(row)];
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The headers of Windows, which need this order, without what we don't use.
+/// The headers of Windows in the order that they need, without the parts that Plotsmith doesn't use.
 // clang-format off
 #include <windows.h>
 #include <objbase.h>

@@ -5,15 +5,16 @@
 namespace plotsmith::windows {
 namespace {
 
-constexpr UINT kHelpContext = 0x000F;  // HH_HELP_CONTEXT: the data is the number of a topic
+constexpr UINT kHelpContext = 0x000F;  // HH_HELP_CONTEXT: the data is a topic's number
 
 HMODULE HtmlHelpLibrary() {
-  // A file of the same name in the folder of a workbook must not be loaded.
+  // The search path is limited so that a file of this name in a workbook's folder isn't loaded.
   static const HMODULE library = LoadLibraryExW(L"hhctrl.ocx", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
   return library;
 }
 
-/// Owner, file, command, data. It answers the window of the help, null if it can't show it.
+/// HtmlHelp's signature: owner, file, command, data. It returns the window of the help, or null if the help
+/// can't be shown.
 template <class Letter>
 using HtmlHelpFunction = HWND(WINAPI*)(HWND, const Letter*, UINT, DWORD_PTR);
 
@@ -25,7 +26,7 @@ bool Show(const char* function, HWND owner, const Letter* file, std::int32_t top
   return htmlHelp(owner, file, kHelpContext, static_cast<DWORD_PTR>(topic)) != nullptr;
 }
 
-/// The path in the characters of the system's code page; absent if that lacks one of them.
+/// Returns the path in the system's code page; absent if the code page lacks one of its characters.
 std::optional<std::string> AnsiPath(const std::wstring& path) {
   const auto length = static_cast<int>(path.size());
   std::string ansi(path.size() * 4, '\0');  // no code page has longer characters

@@ -6,14 +6,15 @@
 #include "windows/com/Windows.h"
 
 /// @file
-/// HTML Help, which is loaded at the first call and stays in the process, as its windows outlast a run.
+/// HTML Help. Its library is loaded at the first call and stays loaded, because help windows can outlive a
+/// run.
 namespace plotsmith::windows {
 
-/// Whether HTML Help is installed.
+/// Returns true if HTML Help is installed.
 bool HasHtmlHelp();
 
-/// Shows a topic of a help file by its number; false if HTML Help can't. `owner` may be null. HtmlHelpA is
-/// called for a path whose characters the system's code page has, and HtmlHelpW for others.
+/// Shows a topic of a help file by its number; returns false if HTML Help can't. `owner` may be null.
+/// HtmlHelpA is called if the system's code page has all characters of the path, HtmlHelpW otherwise.
 bool ShowHelpTopic(HWND owner, const std::wstring& file, std::int32_t topic);
 
 }  // namespace plotsmith::windows

@@ -12,10 +12,10 @@ namespace {
 
 HWND WindowOf(std::intptr_t handle) { return reinterpret_cast<HWND>(handle); }
 
-/// Why the help can't be shown, as a sentence; empty if it was shown.
+/// Returns a sentence with the reason why the help can't be shown; empty if it was shown.
 std::string HelpFailure(std::intptr_t owner, const std::string& file, std::int32_t topic) {
-  if (file.empty()) return "The host hasn't said where the help file is.";
-  // Without std::filesystem, whose code is 160 KB of the DLL.
+  if (file.empty()) return "The host hasn't set the path of the help file.";
+  // The code doesn't use std::filesystem, which would add 160 KB to the DLL.
   if (GetFileAttributesW(com::Wide(file).c_str()) == INVALID_FILE_ATTRIBUTES) {
     return "The help file \"" + file + "\" isn't there.";
   }
@@ -39,11 +39,11 @@ std::int32_t WindowsDesktop::MsgBox(std::string_view text, desktop::Buttons butt
   const HWND owner = WindowOf(Owner());
   UINT style = buttons == desktop::Buttons::kOkCancel ? MB_OKCANCEL : MB_OK;
   if (icon == desktop::Icon::kCritical) style |= MB_ICONERROR;
-  // Without an owner the box keeps the hands off the windows of this thread itself.
+  // MB_TASKMODAL disables this thread's windows if the box has no owner.
   if (owner == nullptr) style |= MB_TASKMODAL;
   const int answer = MessageBoxW(owner, com::Wide(text).c_str(),
                                  com::Wide(title.empty() ? kProductTitle : title).c_str(), style);
-  com::NoteChange();  // other windows had messages while the box was there
+  com::NoteChange();  // other windows could handle messages while the box was open
   return buttons == desktop::Buttons::kOkCancel && answer != IDOK ? desktop::kCancel : desktop::kOk;
 }
 

@@ -8,27 +8,27 @@
 
 namespace plotsmith::windows {
 
-/// The desktop of Windows, on the thread of Excel.
+/// The desktop on Windows, used on Excel's thread.
 class WindowsDesktop final : public desktop::Desktop {
  public:
-  /// A box of Windows, modal to the page in front, or to the host's window while no page is shown.
+  /// Shows a Windows message box, modal to the page in front, or to the host's window if no page is open.
   std::int32_t MsgBox(std::string_view text, desktop::Buttons buttons, desktop::Icon icon,
                       std::string_view title) override;
-  /// By HTML Help. A box says so where the file or HTML Help itself is missing.
+  /// Shows the topic in HTML Help. A message box reports a missing file or a missing HTML Help.
   void ShowHelp(std::intptr_t owner, const std::string& file, std::int32_t topic) override;
   double Timer() override;
-  /// Until the mouse next moves over a window that sets a pointer of its own.
+  /// Sets the pointer until the mouse next moves over a window that sets its own pointer.
   void SetMousePointer(std::int32_t pointer) override;
   std::int32_t UserDefaultLCID() override;
 
-  /// The handle of the host's window, which owns boxes while no page is shown; 0 for none.
-  ///@{
+  /// Handle of the host's window, which owns message boxes while no page is open; 0 for none.
+  /// @{
   std::intptr_t HostWindow() const { return hostWindow_; }
   void SetHostWindow(std::intptr_t window) { hostWindow_ = window; }
   ///@}
 
  private:
-  /// The handle of the window that a box goes in front of; 0 for none.
+  /// Returns the handle of the window that owns a message box; 0 for none.
   std::intptr_t Owner() const;
 
   std::intptr_t hostWindow_ = 0;

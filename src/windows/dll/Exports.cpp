@@ -1,4 +1,4 @@
-// The functions that COM and regsvr32 call in the DLL.
+// The functions that COM and regsvr32 call.
 #include <string_view>
 
 #include "windows/com/Abandon.h"
@@ -15,7 +15,8 @@ using plotsmith::windows::RegistrationScope;
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void*) {
   if (reason == DLL_PROCESS_ATTACH) plotsmith::windows::SetModuleHandle(module);
-  // The destructors of variables run next. The objects that they refer to may be gone with their DLLs.
+  // Destructors of global variables run next. The DLLs of the objects that they refer to may already be
+  // unloaded.
   if (reason == DLL_PROCESS_DETACH) plotsmith::com::Abandon();
   return TRUE;
 }
@@ -29,7 +30,7 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID interfaceId, void** object) {
 
 STDAPI DllCanUnloadNow() {
   if (plotsmith::windows::IsModuleKept()) return S_FALSE;
-  // The end releases the host's objects, and the host may make a new controller at that.
+  // The release of the host's objects may let the host create a new controller.
   return Guarded([] {
     return plotsmith::windows::EndComponent() && !plotsmith::windows::IsModuleKept() ? S_OK : S_FALSE;
   });
@@ -43,7 +44,8 @@ STDAPI DllUnregisterServer() {
   return Guarded([] { return plotsmith::windows::UnregisterServer(RegistrationScope::kMachine); });
 }
 
-/// "user" registers for the user alone, which takes no administrator; nothing registers for all.
+/// "user" registers for the current user only, which needs no administrator; without it, the DLL is
+/// registered for all users.
 STDAPI DllInstall(BOOL install, const wchar_t* commandLine) {
   const std::wstring_view command = commandLine == nullptr ? L"" : commandLine;
   if (!command.empty() && command != L"user") return E_INVALIDARG;

@@ -79,7 +79,7 @@ class ExcelWorksheet final : public WorksheetProxy {
   }
 
  private:
-  /// Below and to the right Excel itself refuses what it doesn't have.
+  /// Excel itself checks the upper limits.
   static void CheckCell(std::int32_t row, std::int32_t column) {
     if (row < 1 || column < 1) throw RuntimeError(runtime::error::kApplication);
   }
@@ -101,19 +101,20 @@ class ExcelRange final : public RangeProxy {
   std::string Text() override {
     static com::Member text(L"Text");
     const auto answer = Get<excel::Variant>(text);
-    // Null tells that the cells show different texts
+    // Null means that the cells show different texts
     return answer.IsNull() ? Cells(1, 1)->Text() : runtime::CStr(answer);
   }
   void Sort(Ref<excel::Range> key1, std::int32_t order1, std::int32_t header, std::int32_t orderCustom,
             bool matchCase, std::int32_t orientation) override {
     static com::Member sort(L"Sort");
-    // between the first order and the header are Key2, Type, Order2, Key3 and Order3
+    // Key2, Type, Order2, Key3 and Order3 come between the first order and the header
     Method<void>(sort, key1, order1, com::Missing(), com::Missing(), com::Missing(), com::Missing(),
                  com::Missing(), header, orderCustom, matchCase, orientation);
   }
 };
 
-/// Whether a sheet is a worksheet. Excel's own objects say so by their interface; others by having cells.
+/// Returns true if a sheet is a worksheet. Excel's objects implement its interface; other objects count as
+/// worksheets if they have cells.
 bool IsWorksheet(const com::ComPtr<IDispatch>& sheet) {
   constexpr IID kWorksheet = {0x000208D8, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
   constexpr IID kChart = {0x000208D6, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};

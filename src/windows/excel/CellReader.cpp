@@ -13,7 +13,7 @@ using runtime::RuntimeError;
 
 namespace {
 
-/// Rows of the first stretch, and of the longest.
+/// Number of rows in the first stretch, and in the longest one.
 constexpr std::int32_t kFirstSize = 16;
 std::int32_t longest = 16384;
 
@@ -28,7 +28,7 @@ std::string AddressOf(std::int32_t row, std::int32_t column) {
   return "$" + Letters(column) + "$" + std::to_string(row);
 }
 
-/// Cells of one column.
+/// Returns cells of one column.
 com::ComPtr<IDispatch> CellsFrom(IDispatch* sheet, std::int32_t row, std::int32_t column, std::int32_t size) {
   static com::Member range(L"Range");
   const std::array corners{com::ToVariant(AddressOf(row, column)),
@@ -47,8 +47,8 @@ com::OwnedVariant ValueOf(IDispatch* range) {
   return com::Call(range, value, com::Kind::kGet, {});
 }
 
-/// What an error value reads in English: the text of the cell, which is in the user's language, is asked for
-/// where it is wanted.
+/// Returns the English text of an error value. The text that the cell shows is in the user's language; TextAt
+/// reads that one.
 std::string_view ErrorText(int number) {
   switch (number) {
     case 2000:
@@ -68,7 +68,7 @@ std::string_view ErrorText(int number) {
   }
 }
 
-/// Whether a value is a text that every version of Excel shows whole.
+/// Returns true if the value is a text that every version of Excel shows completely.
 bool IsShortText(const CellValue& value) {
   constexpr std::size_t kSurelyShown = 255;
   return value.kind == CellValue::Kind::kText && runtime::Len(value.text) <= kSurelyShown;
@@ -95,8 +95,8 @@ CellValue CellReader::Kept(const VARIANT& value) {
 std::vector<CellValue> CellReader::Fetch(std::int32_t row, std::int32_t column, std::int32_t size) {
   if (size > 1) size = std::min(size, Bottom() - row + 1);
   if (size < 2) return {};
-  // Range.Value fails for all cells if it fails for one, such as an amount of money that is too large for a
-  // Currency. Then the cells are read one by one, and only that cell is an error.
+  // Range.Value fails for all cells if it fails for one, for example for an amount that is too large for a
+  // Currency. The cells are then read one by one, so that only that cell is an error.
   try {
     const com::OwnedVariant answer = ValueOf(CellsFrom(sheet_, row, column, size).Get());
     const com::CellArray cells(answer.Get());
@@ -148,7 +148,7 @@ std::string_view CellReader::TextAt(std::int32_t row, std::int32_t column, std::
 }
 
 bool CellReader::IsPlain(const Stretch& stretch, std::int32_t column) {
-  // DisplayFormat also knows what conditional formats do. Versions before 14 don't have it.
+  // DisplayFormat includes conditional formats. Versions before Excel 2010 (14) don't have it.
   try {
     static com::Member displayFormat(L"DisplayFormat"), numberFormat(L"NumberFormat");
     const auto cells = CellsFrom(sheet_, stretch.first, column, stretch.Size());
@@ -160,8 +160,8 @@ bool CellReader::IsPlain(const Stretch& stretch, std::int32_t column) {
   }
 }
 
-// Each window of a workbook has the setting for each sheet, and older versions answer it for the active sheet
-// alone. So a cell is asked instead: the first text that a formula computes.
+// Each window of a workbook has this setting for each sheet, and older versions return that of the active
+// sheet only. So the reader asks a cell, the first one whose formula computes a text.
 bool CellReader::ShowsFormulas(const Stretch& stretch, std::int32_t column, IDispatch* cells) {
   static com::Member hasFormula(L"HasFormula"), formula(L"Formula"), text(L"Text");
   if (showsFormulas_) return *showsFormulas_;

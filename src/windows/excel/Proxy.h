@@ -14,14 +14,14 @@
 #include "windows/com/Proxies.h"
 #include "windows/com/Values.h"
 
-/// The port's classes over Excel's own objects, late bound.
+/// Implementations of the port's classes that call Excel's own objects by late binding.
 namespace plotsmith::proxies {
 
 using excel::Ref;
 
-/// A proxy of an object that has been handed out; Nothing for null. It holds one reference to the object,
-/// until its last Ref is gone. Of an object that is handed out twice there are two: Excel itself makes new
-/// objects of many kinds for each call, so nothing can be learnt from comparing them.
+/// Returns a new proxy of an object; Nothing for null. The proxy holds one reference to the object until its
+/// last Ref is gone. An object that is returned twice gets two proxies: Excel itself creates new objects of
+/// many kinds for each call, so a comparison of objects would say nothing.
 template <class T>
 Ref<T> Wrap(com::ComPtr<IDispatch> object);
 #define CLASS_NAME(Class) \
@@ -30,12 +30,14 @@ Ref<T> Wrap(com::ComPtr<IDispatch> object);
 #include "windows/excel/members/Classes.inc"
 #undef CLASS_NAME
 
-/// The base of every proxy: one reference to an object of Excel's.
+/// The base of every proxy: one reference to an Excel object.
 class ProxyObject {
  public:
+  /// Takes over a reference to an Excel object.
   explicit ProxyObject(com::ComPtr<IDispatch> object) : object_(std::move(object)) {}
   virtual ~ProxyObject() = default;
 
+  /// The object. The reference stays here.
   IDispatch* Object() const { return object_.Get(); }
 
  private:
@@ -43,11 +45,11 @@ class ProxyObject {
   com::CountedProxy counted_;
 };
 
-/// A value that is passed on to Excel.
-///@{
+/// Converts a value to Excel's type.
+/// @{
 inline com::OwnedVariant Passed(const excel::Variant& value) { return com::ToVariant(value); }
 inline com::OwnedVariant Passed(com::OwnedVariant value) { return value; }
-/// Error 13 for an object of another host.
+/// Raises error 13 for an object of another host.
 template <class T>
 com::OwnedVariant Passed(const Ref<T>& object) {
   if (!object) return com::ToVariant(static_cast<IDispatch*>(nullptr));
@@ -59,12 +61,13 @@ com::OwnedVariant Passed(const Ref<T>& object) {
 
 template <class T>
 struct IsRef : std::false_type {};
+/// True for a Ref.
 template <class T>
 struct IsRef<Ref<T>> : std::true_type {
   using Class = T;
 };
 
-/// What Excel answered, as the port's type. It is converted as the language would convert it.
+/// Converts a result of Excel to the port's type by the rules of Visual Basic.
 template <class T>
 T Answer([[maybe_unused]] const com::OwnedVariant& answer) {
   if constexpr (std::is_void_v<T>) {
@@ -87,7 +90,7 @@ T Answer([[maybe_unused]] const com::OwnedVariant& answer) {
   }
 }
 
-/// Calls a member of an object, and gives back what it answers as a T.
+/// Calls a member of an object and returns its result as a T.
 template <class T, class... Arguments>
 T Ask(IDispatch* object, com::Member& member, com::Kind kind, Arguments&&... arguments) {
   const std::array<com::OwnedVariant, sizeof...(Arguments)> passed{
@@ -102,33 +105,39 @@ class Proxy : public Base, public ProxyObject {
   using ProxyObject::ProxyObject;
 
  protected:
+  /// Reads a property and returns it as a T.
   template <class T, class... Arguments>
   T Get(com::Member& member, Arguments&&... arguments) const {
     return Ask<T>(Object(), member, com::Kind::kGet, std::forward<Arguments>(arguments)...);
   }
+  /// Sets a property. The new value is the last argument.
   template <class... Arguments>
   void Put(com::Member& member, Arguments&&... arguments) const {
     Ask<void>(Object(), member, com::Kind::kPut, std::forward<Arguments>(arguments)...);
   }
+  /// Calls a method without side effects and returns its result as a T.
   template <class T, class... Arguments>
   T Find(com::Member& member, Arguments&&... arguments) const {
     return Ask<T>(Object(), member, com::Kind::kFind, std::forward<Arguments>(arguments)...);
   }
+  /// Calls a method and returns its result as a T.
   template <class T, class... Arguments>
   T Method(com::Member& member, Arguments&&... arguments) const {
     return Ask<T>(Object(), member, com::Kind::kMethod, std::forward<Arguments>(arguments)...);
   }
 };
 
-/// The type by which the port takes a value that it gives back as a T.
+/// The parameter type by which the port takes a value that it returns as a T.
 template <class T>
 struct TakenAs {
   using Type = T;
 };
+/// A text is passed as a view.
 template <>
 struct TakenAs<std::string> {
   using Type = std::string_view;
 };
+/// A Variant is passed by reference.
 template <>
 struct TakenAs<excel::Variant> {
   using Type = const excel::Variant&;
@@ -136,10 +145,10 @@ struct TakenAs<excel::Variant> {
 template <class T>
 using Taken = typename TakenAs<T>::Type;
 
-/// MsoTriState.
+/// Values of MsoTriState.
 inline constexpr std::int32_t kTrue = -1, kFalse = 0;
 
-/// Makes a proxy of the class P for Wrap.
+/// A function that makes a proxy of class P, for Wrap.
 template <class P>
 std::shared_ptr<P> MakeProxy(com::ComPtr<IDispatch> object) {
   return object ? std::make_shared<P>(std::move(object)) : nullptr;

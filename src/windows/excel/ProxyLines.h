@@ -1,5 +1,5 @@
-// The lines of the tables in members/ as classes of proxies: what each means, members/README.md says. For
-// source files in the namespace plotsmith::proxies, which include it once, behind all other headers.
+// Turns the lines of the tables in members/ into classes of proxies; members/README.md describes the lines.
+// Source files include this header once, in the namespace plotsmith::proxies, after all other headers.
 
 // clang-format off
 #define CLASS(Class)                                \

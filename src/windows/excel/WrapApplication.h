@@ -5,8 +5,8 @@
 
 namespace plotsmith::excel {
 
-/// Excel behind the port: an Application that passes each call on to `application`, of which it holds a
-/// reference as long as it exists. Null is Nothing. Use it on the thread on which the object lives.
+/// Returns an Application of the port that passes each call on to `application`, and holds a reference to it
+/// as long as it exists. Null gives Nothing. Use it on the thread on which the object lives.
 Ref<Application> WrapApplication(IDispatch* application);
 
 }  // namespace plotsmith::excel

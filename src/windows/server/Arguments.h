@@ -9,37 +9,38 @@
 
 namespace plotsmith::windows {
 
-/// An argument that a call can't be made with.
+/// Thrown for an argument with which a call can't be made.
 struct ArgumentError {
-  HRESULT code;   ///< DISP_E_TYPEMISMATCH, DISP_E_BADPARAMCOUNT and so on
-  UINT position;  ///< in the array of arguments as it was sent; 0 for what is wrong with all of them
+  HRESULT code;   ///< a result such as DISP_E_TYPEMISMATCH or DISP_E_BADPARAMCOUNT
+  UINT position;  ///< index in the array of arguments as it was sent; 0 if the fault concerns all of them
 };
 
 /// The arguments of a late-bound call, by the position of the parameter, from 0. Clients send the same
 /// argument in many ways: VBScript sends every variable as a reference to a Variant, VBA sends arrays of
-/// strings or of Variants; arguments come by position, and those that are named come in any order. An
-/// argument that isn't of its parameter's type is an ArgumentError.
+/// strings or of Variants; arguments come by position or, in any order, by name. Reading an argument of
+/// another type throws an ArgumentError.
 class Arguments {
  public:
-  /// `sent` is kept by reference. Throws an ArgumentError if there isn't one argument for each of the
-  /// `parameters`.
+  /// `sent` is kept by reference. Throws an ArgumentError unless each of the `parameters` has exactly one
+  /// argument.
   Arguments(const DISPPARAMS& sent, std::size_t parameters);
 
-  /// No object for Nothing.
+  /// Returns the object; an empty pointer for Nothing.
   com::ComPtr<IDispatch> Object(std::size_t parameter) const;
-  /// A text, or what the language makes of another value, as "1" of a number.
+  /// Returns the text, or the conversion of another value to a text, for example "1" for a number.
   std::string Text(std::size_t parameter) const;
-  /// The same of an array of one dimension; one that isn't allocated has no elements.
+  /// Returns the texts of an array of one dimension; none if the array isn't allocated.
   std::vector<std::string> Texts(std::size_t parameter) const;
 
  private:
   const VARIANT& Sent(std::size_t parameter) const { return sent_.rgvarg[positions_[parameter]]; }
-  /// What `read` makes of the argument; its run-time errors say that the argument has the wrong type.
+  /// Returns the result of `read` for the argument. A run-time error in `read` becomes an ArgumentError with
+  /// DISP_E_TYPEMISMATCH.
   template <class Read>
   auto Converted(std::size_t parameter, const Read& read) const;
 
   const DISPPARAMS& sent_;
-  std::vector<UINT> positions_;  ///< of each parameter, in the array as it was sent
+  std::vector<UINT> positions_;  ///< for each parameter, the index in the array as it was sent
 };
 
 }  // namespace plotsmith::windows

@@ -21,7 +21,7 @@ HRESULT ClassFactory::QueryInterface(REFIID interfaceId, void** object) noexcept
   return S_OK;
 }
 
-// The object isn't deleted, so the number of its references has no meaning.
+// The object is never deleted, so the number of references is meaningless.
 ULONG ClassFactory::AddRef() noexcept {
   KeepModule();
   return 2;

@@ -4,10 +4,11 @@
 
 namespace plotsmith::windows {
 
-/// The class object: makes controllers. There is one for the life of the DLL, and its references keep the
-/// DLL.
+/// The class object, which creates controllers. There is one for the life of the DLL, and references to it
+/// keep the DLL loaded.
 class ClassFactory final : public IClassFactory {
  public:
+  /// Returns the only instance.
   static ClassFactory& Instance();
 
   STDMETHODIMP QueryInterface(REFIID interfaceId, void** object) noexcept override;

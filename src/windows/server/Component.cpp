@@ -16,17 +16,17 @@
 namespace plotsmith::windows {
 namespace {
 
-/// The stack that an operation must find when it begins, in bytes. Forms that nest check what is left by
+/// Free stack that an operation needs when it begins, in bytes. Forms that nest check the remaining stack by
 /// themselves.
 constexpr std::size_t kStackOfRun = 256 * 1024;
 
 runtime::Ref<WindowsDesktop> theDesktop;
-/// The component's state belongs to one thread, as does the Application that it holds; 0 before the first
+/// The thread that owns the component's state, including the Application that it holds; 0 before the first
 /// run.
 std::atomic<DWORD> ownThread = 0;
 std::atomic<bool> isAtWork = false;
 
-/// Marks the component as at work while it lives.
+/// Marks the component as busy while it lives.
 struct AtWork {
   AtWork() { isAtWork = true; }
   ~AtWork() { isAtWork = false; }
@@ -34,7 +34,7 @@ struct AtWork {
   AtWork& operator=(const AtWork&) = delete;
 };
 
-/// Whether the component belongs to this thread. The first thread that asks becomes the owner.
+/// Returns true if the component belongs to this thread. The first thread that asks becomes the owner.
 bool IsOwnThread() {
   DWORD none = 0;
   const DWORD here = GetCurrentThreadId();
@@ -45,12 +45,13 @@ void CheckThatItCanRun() {
   using runtime::RuntimeError;
   namespace error = runtime::error;
   if (!IsOwnThread()) {
-    throw RuntimeError(error::kAutomation, "Plotsmith belongs to the thread that has called it first.");
+    throw RuntimeError(error::kAutomation,
+                       "Plotsmith can only be called on the thread that called it first.");
   }
   if (isAtWork) {
     throw RuntimeError(
         error::kAutomation,
-        "Plotsmith is still at work on an earlier call. Call it again when that has returned.");
+        "Plotsmith is still working on an earlier call. Call it again when that call has returned.");
   }
   if (runtime::StackLeft() < kStackOfRun) throw RuntimeError(error::kOutOfStackSpace);
 }
@@ -63,8 +64,8 @@ void Start() {
   theDesktop = started;
 }
 
-/// The report of an error block. It shows the error without the system's own state, which may be that of a
-/// run on the stack below.
+/// Reports an error in a message box. It doesn't use the system's own state, which may belong to a run
+/// further down on the stack.
 void Report(const char* operation, const runtime::RuntimeError& error, std::intptr_t hostWindow) {
   WindowsDesktop boxes;
   boxes.SetHostWindow(hostWindow);
@@ -90,7 +91,7 @@ void RunOperation(const char* operation, const std::function<std::intptr_t()>& f
       Report(operation, runtime::CurrentError(), hostWindow);
     }
   } catch (...) {
-    // There is no memory for the text of a report, so a constant one is shown.
+    // A constant text is shown because there is no memory for the text of a report.
     MessageBoxW(nullptr, L"Out of memory", L"Brindle Plotsmith", MB_OK | MB_TASKMODAL);
   }
 }

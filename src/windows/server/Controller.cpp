@@ -27,7 +27,7 @@ enum Operation : DISPID {
 
 using Host = runtime::Ref<excel::Application>;
 
-/// Runs an operation on the host that `application` is, under the name that its reports have.
+/// Runs an operation on the host `application`. `name` is the operation's name in error reports.
 void Run(const char* name, IDispatch* application, const std::function<void(const Host&)>& body) {
   RunOperation(
       name, [&] { return HostWindow(application); }, [&] { body(excel::WrapApplication(application)); });
@@ -43,7 +43,7 @@ void Refresh(IDispatch* application, const std::string& name, const std::string&
       [&](const Host& host) { CPlotsmithController().RefreshPlotsmithData(host, name, helpFile); });
 }
 
-/// The operation takes the table's name by reference and leaves it as it is.
+/// The operation takes the table's name by reference and doesn't change it.
 void RefreshTable(IDispatch* application, std::string table) {
   Run("CPlotsmithController.RefreshChartsForTable", application,
       [&](const Host& host) { CPlotsmithController().RefreshChartsForTable(host, table); });
@@ -85,8 +85,8 @@ void InvokeOperation(DISPID operation, const DISPPARAMS& sent) {
   }
 }
 
-/// What an early-bound client hands over, as the same argument of a late-bound call.
-///@{
+/// Converts an argument of an early-bound client to the same argument of a late-bound call.
+/// @{
 VARIANT AsArgument(IDispatch* object) {
   VARIANT argument;
   argument.vt = VT_DISPATCH;
@@ -107,7 +107,7 @@ VARIANT AsArgument(SAFEARRAY** texts) {
 }
 ///@}
 
-/// The arguments come in reverse, as in a late-bound call.
+/// The arguments are in reverse order, as in a late-bound call.
 HRESULT InvokeEarlyBound(DISPID operation, std::initializer_list<VARIANT> reversed) noexcept {
   try {
     std::vector<VARIANT> arguments(reversed);
@@ -172,10 +172,10 @@ HRESULT Controller::Invoke(DISPID member, REFIID interfaceId, LCID, WORD flags, 
                            VARIANT* result, EXCEPINFO*, UINT* badArgument) noexcept {
   if (interfaceId != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
   if (arguments == nullptr) return E_POINTER;
-  // VBScript asks for a method and a property at once where it wants the result.
+  // VBScript sets the flags of a method and of a property together if it uses the result.
   if ((flags & DISPATCH_METHOD) == 0) return DISP_E_MEMBERNOTFOUND;
   if (result != nullptr) VariantInit(result);
-  // The host may release the object while it works; nothing of it is used behind this line.
+  // The host may release this object during the call, so the code below must not use its members.
   try {
     InvokeOperation(member, *arguments);
     return S_OK;

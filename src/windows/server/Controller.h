@@ -8,9 +8,9 @@
 
 namespace plotsmith::windows {
 
-/// The one creatable class. It holds no state: each object does the same. The interface is
-/// IPlotsmithController of the type library, whose operations never fail: every error ends in a message box.
-/// Arguments that can't be meant for an operation are refused before it begins.
+/// The one class that clients can create. It holds no state: all objects do the same. Its interface is
+/// IPlotsmithController of the type library. The operations never fail: every error ends in a message box.
+/// Invalid arguments are refused before an operation begins.
 class Controller final : public IPlotsmithController, public IProvideClassInfo {
  public:
   STDMETHODIMP QueryInterface(REFIID interfaceId, void** object) noexcept override;

@@ -5,8 +5,8 @@
 #include "windows/com/Windows.h"
 namespace plotsmith::windows {
 
-/// Runs what a client of COM has called. Exceptions of C++ must not reach a client, which may be written in
-/// any language: they become the error that the call answers.
+/// Runs code that a client of COM has called. A client may be written in any language, so no C++ exception
+/// may reach it: an exception becomes the result of the call.
 template <class Body>
 HRESULT Guarded(Body&& body) noexcept {
   try {

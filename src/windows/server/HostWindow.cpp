@@ -10,9 +10,9 @@ std::intptr_t HostWindow(IDispatch* application) noexcept {
   static com::Member hwnd(L"Hwnd");
   try {
     if (application == nullptr || !com::HasMember(application, L"Hwnd")) return 0;
-    // A host that is busy has other calls to wait for.
+    // The call doesn't wait for a busy host; other calls will.
     const com::OwnedVariant answer = com::Call(application, hwnd, com::Kind::kGet, {}, com::WhenBusy::kFail);
-    // A handle has 32 bits, and the upper half of a wider type is its sign.
+    // A handle has 32 significant bits; wider types extend its sign.
     return static_cast<std::int32_t>(runtime::CDbl(com::FromVariant(answer.Get())));
   } catch (...) {
     return 0;

@@ -5,7 +5,7 @@
 #include "windows/com/Windows.h"
 namespace plotsmith::windows {
 
-/// The handle of the window of an Excel Application, which it answers as Hwnd; 0 where it has none.
+/// Returns the handle of an Excel Application's window, from its property Hwnd; 0 if it has none.
 std::intptr_t HostWindow(IDispatch* application) noexcept;
 
 }  // namespace plotsmith::windows

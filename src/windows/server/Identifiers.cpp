@@ -1,4 +1,4 @@
-// Defines the identifiers that the header of the interface declares.
+// Defines the identifiers (GUIDs) that the interface's header declares.
 #include <initguid.h>
 
 #include "PlotsmithInterface.h"

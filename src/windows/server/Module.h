@@ -14,8 +14,8 @@ void SetModuleHandle(HINSTANCE module);
 /// The full path of the DLL.
 std::wstring ModulePath();
 
-/// What must keep the DLL loaded: objects, locks of a client, and runs. Each counts once.
-///@{
+/// Counts the reasons to keep the DLL loaded: objects, locks of a client, and runs.
+/// @{
 void KeepModule();
 void ReleaseModule();
 bool IsModuleKept();

@@ -16,7 +16,7 @@ constexpr const wchar_t* kName = L"Plotsmith.CPlotsmithController";
 constexpr const wchar_t* kVersionedName = L"Plotsmith.CPlotsmithController.1";
 constexpr const wchar_t* kTitle = L"Plotsmith's controller";
 constexpr const wchar_t* kVersion = L"1.0";
-/// The class of OLE Automation that carries the calls of all dual interfaces between apartments.
+/// The class of OLE Automation that marshals the calls of all dual interfaces between apartments.
 constexpr const wchar_t* kAutomationProxy = L"{00020424-0000-0000-C000-000000000046}";
 #ifdef _WIN64
 constexpr const wchar_t* kPlatform = L"win64";
@@ -28,8 +28,7 @@ constexpr const wchar_t* kOtherPlatform = L"win64";
 constexpr REGSAM kOtherView = KEY_WOW64_64KEY;
 #endif
 
-/// The text of a value, with the key that holds it, below Software\Classes. An empty name is the key's
-/// default value.
+/// A text value and the key that holds it, below Software\Classes. An empty name is the key's default value.
 struct Entry {
   std::wstring key;
   std::wstring name;
@@ -45,7 +44,7 @@ std::wstring TextOf(REFGUID id) {
 std::wstring ClassKey() { return L"CLSID\\" + TextOf(CLSID_CPlotsmithController); }
 std::wstring InterfaceKey() { return L"Interface\\" + TextOf(IID_IPlotsmithController); }
 std::wstring LibraryKey() { return L"TypeLib\\" + TextOf(LIBID_Plotsmith); }
-/// The key under which each kind of DLL says where the library is; 0 is the neutral language.
+/// Returns the key of the type library's path for a kind of DLL; 0 is the neutral language.
 std::wstring PlatformKey(const wchar_t* platform) {
   return LibraryKey() + L"\\" + kVersion + L"\\0\\" + platform;
 }
@@ -81,7 +80,7 @@ std::vector<Entry> Entries() {
   };
 }
 
-/// The classes that everyone or one user has.
+/// The registered classes of all users or of one user.
 class Classes {
  public:
   explicit Classes(RegistrationScope scope)
@@ -99,7 +98,7 @@ class Classes {
     return status;
   }
 
-  /// The text of a value as it is, null for none. What is no text is no value of ours.
+  /// Returns the text of a value; absent if there is none, or if the value isn't a text.
   std::optional<std::wstring> Read(const Entry& entry) const {
     DWORD bytes = 0;
     const std::wstring path = PathOf(entry.key);
@@ -120,8 +119,8 @@ class Classes {
     RegDeleteKeyValueW(root_, PathOf(entry.key).c_str(), entry.name.c_str());
   }
 
-  /// `view` is KEY_WOW64_32KEY or KEY_WOW64_64KEY for the keys that programs of those bits see, 0 for our
-  /// own.
+  /// Returns true if the key exists. `view` is KEY_WOW64_32KEY or KEY_WOW64_64KEY for the keys that programs
+  /// of those bits see, and 0 for our own.
   bool Has(const std::wstring& key, REGSAM view = 0) const {
     HKEY opened = nullptr;
     if (RegOpenKeyExW(root_, PathOf(key).c_str(), 0, KEY_READ | view, &opened) != ERROR_SUCCESS) return false;
@@ -129,13 +128,13 @@ class Classes {
     return true;
   }
 
-  /// Removes a key and all below it. It succeeds for a key that isn't there.
+  /// Removes a key and its subkeys. It also succeeds if the key doesn't exist.
   LSTATUS Remove(const std::wstring& key) const {
     const LSTATUS status = RegDeleteTreeW(root_, PathOf(key).c_str());
     return status == ERROR_FILE_NOT_FOUND ? ERROR_SUCCESS : status;
   }
 
-  /// Removes a key in which nothing is left, such as the list of classes of a user who had none.
+  /// Removes a key if it is empty, for example the list of classes of a user who had none.
   void RemoveIfEmpty(const std::wstring& key) const {
     HKEY opened = nullptr;
     if (RegOpenKeyExW(root_, PathOf(key).c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS) return;
@@ -155,14 +154,14 @@ class Classes {
   HKEY root_;
 };
 
-/// What the classes were before they were changed, so that they can be so again.
+/// The values of the classes before a change, to restore them.
 class Remembered {
  public:
   explicit Remembered(const Classes& classes) : classes_(classes) {
     if (!classes_.Has(L"")) newKeys_.push_back(L"");
   }
 
-  /// Call it before the entry is written.
+  /// Keeps the entry's value. Call it before the entry is written.
   void Remember(const Entry& entry) {
     for (std::size_t end = 0; end != std::wstring::npos;) {
       end = entry.key.find(L'\\', end + 1);
@@ -172,7 +171,7 @@ class Remembered {
     values_.push_back({entry, classes_.Read(entry)});
   }
 
-  /// Puts back what was there, and removes what was not.
+  /// Restores the values that existed and removes the others.
   void PutBack() const {
     for (const auto& [entry, text] : values_) {
       if (text) {
@@ -186,7 +185,7 @@ class Remembered {
 
  private:
   const Classes& classes_;
-  std::vector<std::wstring> newKeys_;  ///< a key before those in it
+  std::vector<std::wstring> newKeys_;  ///< parent keys before their subkeys
   std::vector<std::pair<Entry, std::optional<std::wstring>>> values_;
 };
 
@@ -213,11 +212,12 @@ HRESULT UnregisterServer(RegistrationScope scope) {
     const LSTATUS status = classes.Remove(key);
     if (first == ERROR_SUCCESS) first = status;
   };
-  // The own keys go first: where both kinds of programs see the same keys, none is left for the other kind.
+  // The key of this DLL's kind is removed first: if both kinds of programs see the same keys, the key of the
+  // other kind is then gone as well.
   remove(ClassKey());
   remove(InterfaceKey());
   remove(PlatformKey(kPlatform));
-  // The DLLs of 32 and of 64 bits share the names and the rest of the type library.
+  // The DLLs of 32 and 64 bits share the names and the rest of the type library.
   if (!classes.Has(ClassKey(), kOtherView)) {
     remove(kVersionedName);
     remove(kName);

@@ -4,18 +4,18 @@
 
 namespace plotsmith::windows {
 
-/// Who finds the class.
+/// The users for whom the class is registered.
 enum class RegistrationScope {
-  kUser,     ///< the user who registers it: HKEY_CURRENT_USER
+  kUser,     ///< the current user: HKEY_CURRENT_USER
   kMachine,  ///< all users: HKEY_LOCAL_MACHINE, which only an administrator may write
 };
 
-/// Writes what clients look the class up by: its identifier, its names, the type library, the interface.
-/// After an error the registry is as it was before, so an earlier registration stays as it is.
+/// Writes the registry entries by which clients find the class: its identifier, its names, the type library
+/// and the interface. After an error the registry is as it was before, including an earlier registration.
 HRESULT RegisterServer(RegistrationScope scope);
 
-/// Removes all that. What the DLL of the other kind, 32 bits beside 64, has registered stays, and what they
-/// share goes with the last of them.
+/// Removes these entries. The entries of the other kind of DLL (32 or 64 bits) stay; the entries that both
+/// share are removed with the last of them.
 HRESULT UnregisterServer(RegistrationScope scope);
 
 }  // namespace plotsmith::windows

@@ -8,7 +8,7 @@ namespace plotsmith::windows {
 HRESULT FindTypeInfo(REFGUID id, ITypeInfo** info) {
   if (info == nullptr) return E_POINTER;
   *info = nullptr;
-  // OLE Automation keeps the library that was loaded last, so this is cheap.
+  // OLE Automation caches the library that was loaded last, so this is cheap.
   ITypeLib* library = nullptr;
   const HRESULT loaded = LoadTypeLibEx(ModulePath().c_str(), REGKIND_NONE, &library);
   if (FAILED(loaded)) return loaded;

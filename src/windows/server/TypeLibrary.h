@@ -4,7 +4,7 @@
 
 namespace plotsmith::windows {
 
-/// The description of an interface or a class in the type library that is built into the DLL.
+/// Finds the description of an interface or a class in the DLL's type library.
 HRESULT FindTypeInfo(REFGUID id, ITypeInfo** info);
 
 }  // namespace plotsmith::windows

@@ -2,12 +2,12 @@
 
 #include <commctrl.h>
 
-extern "C" IMAGE_DOS_HEADER __ImageBase;  // the linker's name for where the module begins
+extern "C" IMAGE_DOS_HEADER __ImageBase;  // the linker's symbol for the start of the module
 
 namespace plotsmith::windows {
 namespace {
 
-/// The context, which goes with the module.
+/// The activation context, which is released with the module.
 class Context {
  public:
   Context() {
@@ -32,7 +32,7 @@ class Context {
   HANDLE handle_;
 };
 
-/// The version of the library that the active context names registers its classes of windows.
+/// Registers the window classes of the library version that the active context names.
 void RegisterControls() {
   using Function = BOOL(WINAPI*)(const INITCOMMONCONTROLSEX*);
   const auto function = reinterpret_cast<Function>(
@@ -57,8 +57,8 @@ ActivationContext::~ActivationContext() {
   if (isActive_) DeactivateActCtx(0, cookie_);
 }
 
-// The host may use another version of the library at the same time. Ours stays in the process, as a library
-// must not free another one while it is unloaded itself.
+// The host may use another version of the library at the same time. Ours stays loaded, because a library must
+// not free another one while it is being unloaded.
 HMODULE CommonControls() {
   static const HMODULE library = LoadLibraryExW(L"comctl32.dll", nullptr, 0);
   return library;

@@ -4,9 +4,9 @@
 
 namespace plotsmith::windows {
 
-/// Chooses version 6 of the common controls, with visual styles, for the windows that are created while this
-/// lives, in programs of any other version as well. A manifest in the module, resource 2, names that
-/// version. Without it, windows are those of the program.
+/// While it lives, windows are created with version 6 of the common controls, which has visual styles,
+/// whatever version the program uses. A manifest in the module, resource 2, names that version. Without this
+/// manifest, windows use the program's version.
 class ActivationContext {
  public:
   ActivationContext();
@@ -19,10 +19,10 @@ class ActivationContext {
   bool isActive_ = false;
 };
 
-/// The library of the common controls, in the version that the first ActivationContext has chosen.
+/// The library of the common controls in the version that the first ActivationContext has selected.
 HMODULE CommonControls();
 
-/// The module that this code is in: the DLL, or a program that it was linked into.
+/// The module that contains this code: the DLL, or a program that is linked with it.
 HINSTANCE OwnModule();
 
 }  // namespace plotsmith::windows

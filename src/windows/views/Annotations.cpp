@@ -8,7 +8,7 @@
 namespace plotsmith::windows {
 namespace {
 
-/// The class of the service, which the libraries of mingw-w64 lack.
+/// The service's class identifier, which the libraries of mingw-w64 lack.
 constexpr CLSID kAccPropServices = {
     0xB5F8350B, 0x0548, 0x48B1, {0xA6, 0xEE, 0x88, 0xBD, 0x00, 0xB4, 0xA5, 0xE7}};
 constexpr DWORD kClient = static_cast<DWORD>(OBJID_CLIENT);

@@ -9,18 +9,18 @@ struct IAccPropServices;
 
 namespace plotsmith::windows {
 
-/// What a screen reader says of a control.
+/// What a screen reader says about a control.
 struct Spoken {
   std::string name;
   std::string description;
-  LONG role = 0;  ///< one of MSAA's ROLE_SYSTEM_; 0 leaves the window's own
+  LONG role = 0;  ///< one of MSAA's ROLE_SYSTEM_ constants; 0 keeps the window's own role
 
   bool operator==(const Spoken&) const = default;
 };
 
-/// Tells screen readers the names of controls, which they can't know of windows inside of a group box, by the
-/// Dynamic Annotation of MSAA. Where the system has none, screen readers know the texts of the windows alone.
-/// The thread must have COM at hand.
+/// Gives screen readers the names of controls, with Dynamic Annotation of MSAA; they can't find the names of
+/// windows inside a group box by themselves. If the system lacks this service, screen readers know only the
+/// windows' texts. COM must be initialized on the thread.
 class Annotations {
  public:
   Annotations();
@@ -28,8 +28,9 @@ class Annotations {
   Annotations(const Annotations&) = delete;
   Annotations& operator=(const Annotations&) = delete;
 
+  /// Sets what screen readers say about a window.
   void Set(HWND window, const Spoken& spoken);
-  /// Forgets the window, which must still be there.
+  /// Removes the annotations of a window, which must still exist.
   void Clear(HWND window);
 
  private:

@@ -9,7 +9,7 @@
 namespace plotsmith::windows {
 namespace {
 
-// Lengths at 96 dots in an inch.
+// Lengths at 96 dots per inch.
 constexpr int kButtonWidth = 75, kButtonHeight = 23, kButtonMargin = 10;
 constexpr int kMark = 13, kMarkGap = 6;
 
@@ -21,7 +21,7 @@ CommandButtonView::CommandButtonView(forms::CommandButton& model, const Stage& s
       model_(model),
       presses_(presses) {}
 
-// By the number, tools know which button Escape presses.
+// The identifier tells tools which button Escape presses.
 void CommandButtonView::Show() {
   SetText(model_.Caption());
   SetWindowLongPtrW(Window(), GWLP_ID, model_.Cancel() ? IDCANCEL : 0);
@@ -44,8 +44,8 @@ void CommandButtonView::OnCommand(WORD code) {
 std::optional<LRESULT> CommandButtonView::OnMessage(UINT message, WPARAM, LPARAM lParam) {
   switch (message) {
     case WM_GETDLGCODE:
-      return DLGC_BUTTON;  // the model alone says which button is the default one
-    case BM_CLICK:         // by a program or a screen reader, which has no mouse: each is a press of its own
+      return DLGC_BUTTON;  // only the model decides which button is the default one
+    case BM_CLICK:         // from a program or a screen reader without a mouse: each message is one press
       OnCommand(BN_CLICKED);
       return 0;
     case WM_LBUTTONDBLCLK:
@@ -66,7 +66,7 @@ bool CommandButtonView::IsSecondPress(LPARAM place) const {
                        {GetDoubleClickTime(), GetSystemMetrics(SM_CXDOUBLECLK)});
 }
 
-// The model marks the box, so Windows must not do it by itself.
+// The style isn't an "auto" style, because the model sets the mark.
 MarkView::MarkView(forms::CaptionControl& model, const Stage& stage, DWORD style)
     : ControlView(model, stage, {WC_BUTTONW, style | BS_NOTIFY}), model_(model) {}
 
@@ -84,7 +84,7 @@ void MarkView::ShowMark(bool isMarked) {
   if (static_cast<WPARAM>(Send(BM_GETCHECK)) != check) Send(BM_SETCHECK, check);
 }
 
-// Windows clicks an option by itself when the focus comes to it.
+// Windows sends a click of an option when it gets the focus.
 void MarkView::OnCommand(WORD code) {
   if (code == BN_CLICKED && !IsTakingFocus()) ReportClick();
 }

@@ -6,10 +6,10 @@
 
 namespace plotsmith::windows {
 
-/// A button. The one that Enter presses is drawn as the default one.
+/// A button. The button that Enter presses is drawn as the default button.
 class CommandButtonView final : public ControlView {
  public:
-  /// `presses` is shared by all windows, and outlives them.
+  /// `presses` is shared by all windows and outlives them.
   CommandButtonView(forms::CommandButton& model, const Stage& stage, forms::SecondPress& presses);
 
   forms::Size LeastSize() const override;
@@ -26,23 +26,28 @@ class CommandButtonView final : public ControlView {
   forms::SecondPress& presses_;
 };
 
-/// What a check box and an option have in common: a mark and a text beside it.
+/// The common base of check boxes and options: a mark with a text beside it.
 class MarkView : public ControlView {
  public:
   forms::Size LeastSize() const override;
   void OnCommand(WORD code) override;
 
  protected:
+  /// Makes a window with this button style.
   MarkView(forms::CaptionControl& model, const Stage& stage, DWORD style);
+  /// Shows or removes the mark.
   void ShowMark(bool isMarked);
+  /// Reports a click to the model.
   virtual void ReportClick() = 0;
 
  private:
   forms::CaptionControl& model_;
 };
 
+/// A check box.
 class CheckBoxView final : public MarkView {
  public:
+  /// Makes the window for `model`.
   CheckBoxView(forms::CheckBox& model, const Stage& stage);
 
  protected:
@@ -53,9 +58,10 @@ class CheckBoxView final : public MarkView {
   forms::CheckBox& model_;
 };
 
-/// An option. The arrow keys go from one option of a container to the next.
+/// An option. The arrow keys move between the options of a container.
 class OptionButtonView final : public MarkView {
  public:
+  /// Makes the window for `model`.
   OptionButtonView(forms::OptionButton& model, const Stage& stage);
 
  protected:

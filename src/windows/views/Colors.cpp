@@ -5,7 +5,7 @@ namespace {
 
 constexpr forms::Color kSystemColor = 0x80000000;
 
-/// The colour of texts on a background, both by their indices.
+/// Returns the index of the system colour for texts on a background, also given by its index.
 int TextOn(int background) {
   switch (background) {
     case COLOR_INFOBK:

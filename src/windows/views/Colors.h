@@ -5,15 +5,15 @@
 
 namespace plotsmith::windows {
 
-/// What a control is painted with.
+/// The colours that paint a control.
 struct Paint {
-  HBRUSH background;  ///< the system's own, which is not to be deleted
+  HBRUSH background;  ///< one of the system's brushes, which must not be deleted
   COLORREF backColor;
   COLORREF textColor;
 };
 
-/// The colours of a control that has this back colour in the model. All are colours of the system, so that
-/// themes and high contrast are followed. White is the colour of what can be edited.
+/// Returns the colours of a control whose model has this back colour. All are system colours, so that they
+/// follow themes and high contrast. White is the colour of editable fields.
 Paint PaintOf(forms::Color backColor);
 
 }  // namespace plotsmith::windows

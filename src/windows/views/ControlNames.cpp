@@ -8,7 +8,7 @@ namespace plotsmith::windows {
 namespace {
 
 constexpr const wchar_t* kProperty = L"Plotsmith.Name";
-constexpr int kMostLetters = 255;  // of an atom
+constexpr int kMostLetters = 255;  // the maximum of an atom
 
 ATOM AtomOf(HWND window) {
   return static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(GetPropW(window, kProperty)));

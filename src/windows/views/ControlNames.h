@@ -6,13 +6,13 @@
 
 namespace plotsmith::windows {
 
-/// Writes a name on a window, by which tools that test programs find it: the name of a form, or the full name
-/// of a control ("optType(1)"). It is the window's property "Plotsmith.Name", a global atom, which must be
-/// removed before the window is gone.
-///@{
+/// Stores a name on a window, by which test tools find it: the name of a form, or the full name of a control
+/// ("optType(1)"). The name is a global atom in the window's property "Plotsmith.Name", which must be removed
+/// before the window is destroyed.
+/// @{
 void SetWindowName(HWND window, const std::string& name);
 void RemoveWindowName(HWND window);
-/// Empty for a window without one.
+/// Empty if the window has no name.
 std::string WindowName(HWND window);
 ///@}
 

@@ -12,7 +12,7 @@ namespace plotsmith::windows {
 namespace {
 
 constexpr UINT kNews = WM_APP + 1;
-constexpr int kTextBorders = 8;  // at 96 dots in an inch
+constexpr int kTextBorders = 8;  // at 96 dots per inch
 constexpr int kLineGap = 2;      // between two lines of a list
 
 }  // namespace
@@ -25,7 +25,7 @@ ControlView::ControlView(forms::Control& model, const Stage& stage, const Window
   SetSubclass(window_, Procedure, this);
 }
 
-// The window goes with that of its form, if it hasn't gone already.
+// The form's window destroys this window, unless it was destroyed before.
 ControlView::~ControlView() {
   if (window_ != nullptr) LetGo();
 }
@@ -41,14 +41,14 @@ ControlView* ControlView::Of(HWND window) {
   return static_cast<ControlView*>(SubclassData(window, Procedure));
 }
 
-// No exception may pass through a window procedure. What can be thrown here is that memory has run out; the
-// message is then lost.
+// No exception may leave a window procedure. The only possible one is that memory runs out; the message is
+// then lost.
 LRESULT CALLBACK ControlView::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                         DWORD_PTR data) {
   auto* const view = reinterpret_cast<ControlView*>(data);
   try {
     if (message == WM_NCDESTROY) {
-      if (view != nullptr) view->LetGo();  // the host has closed
+      if (view != nullptr) view->LetGo();  // the host has destroyed the window
       RemoveSubclass(window, Procedure);
     } else if (view != nullptr) {
       return view->Handle(message, wParam, lParam);
@@ -116,14 +116,14 @@ void ControlView::UseFonts(Fonts& fonts) {
   if (window_ == nullptr) return;
   {
     const Flag flag(isShowing_);
-    ShowFont();  // at once: the fonts before may be deleted, and Update waits while a gesture does
+    ShowFont();  // without delay: the old fonts may be deleted, and Update waits while a gesture is pending
   }
   Update();
 }
 
 void ControlView::Update() {
   if (window_ == nullptr) return;
-  if (waiting_ > 0 || awaitsNews_ || IsInTheMiddle()) return;  // the window is ahead of the control
+  if (waiting_ > 0 || awaitsNews_ || IsInTheMiddle()) return;  // the window is ahead of the model
   if (model_.Changes() == shown_ && !std::exchange(touched_, false)) return;
   touched_ = false;
   shown_ = model_.Changes();

@@ -11,17 +11,17 @@
 #include "windows/views/Annotations.h"
 #include "windows/views/Fonts.h"
 
-/// Windows for forms, made of the controls that Windows has. A view shows the state of the model and reports
-/// gestures of the mouse and the keyboard. It decides nothing: the model refuses a gesture or performs it,
-/// and the view then shows the new state.
+/// Windows of forms, built from the standard controls of Windows. A view shows the state of the model and
+/// reports gestures of the mouse and the keyboard. It decides nothing: the model refuses or performs a
+/// gesture, and the view then shows the new state.
 namespace plotsmith::windows {
 
-/// Takes a gesture down. It is performed later, outside of all window procedures.
+/// Queues a gesture, which is performed later, outside of all window procedures.
 using Post = std::function<void(std::function<void()> gesture)>;
 
-/// What the views of a form share.
+/// The parts that the views of a form share.
 struct Stage {
-  HWND window;  ///< of the form; the windows of all its controls are its children
+  HWND window;  ///< the form's window, which is the parent of all controls' windows
   Post post;
   Annotations& annotations;
 };
@@ -33,27 +33,30 @@ struct WindowKind {
   DWORD extendedStyle = 0;
 };
 
-/// A window that shows one control. The window's name is the control's full name.
+/// A window that shows one control. The window has the control's full name.
 class ControlView {
  public:
   virtual ~ControlView();
   ControlView(const ControlView&) = delete;
   ControlView& operator=(const ControlView&) = delete;
 
+  /// The control.
   forms::Control& Model() const { return model_; }
+  /// The handle; null once the window was destroyed.
   HWND Window() const { return window_; }
-  /// The view of a control's window; null for other windows.
+  /// Returns the view of a control's window; null for other windows.
   static ControlView* Of(HWND window);
 
-  /// Shows the state of the control, if it has changed since the last time or a hand has touched the window.
+  /// Shows the state of the control, if it has changed since the last call or if user input has changed the
+  /// window.
   void Update();
-  /// Forgets gestures that were reported and not performed yet: they never will be.
+  /// Drops the gestures that were reported but not yet performed.
   void ForgetGestures();
-  /// Shows texts in these fonts from now on; they must outlive the view.
+  /// Uses these fonts from now on; they must outlive the view.
   void UseFonts(Fonts& fonts);
-  /// Begins a group with this control: the arrow keys don't come here from the control before.
+  /// Begins a group with this control, so that arrow keys don't reach it from the control before.
   void BeginGroup();
-  /// Moves the focus here without reporting that as a gesture.
+  /// Moves the focus here without reporting a gesture.
   void TakeFocus();
 
   /// Sizes in pixels; see forms::Measures.
@@ -62,64 +65,71 @@ class ControlView {
   virtual int WidthOf(int characters) const;
   virtual int HeightOf(int lines) const;
   ///@}
+  /// Moves the window to this area, in pixels of the form's client area.
   virtual void Place(const forms::Area& area);
 
-  /// The window tells its form of something, by WM_COMMAND with this code.
+  /// The window sends its form a WM_COMMAND with this notification code.
   virtual void OnCommand(WORD /*code*/) {}
-  /// The same by WM_NOTIFY; absent leaves the answer to Windows.
+  /// The window sends its form a WM_NOTIFY. Without a value, Windows handles it.
   virtual std::optional<LRESULT> OnNotify(NMHDR& /*header*/) { return std::nullopt; }
-  /// The window is to be drawn by its form.
+  /// The form asks this view to draw the window.
   virtual void OnDraw(const DRAWITEMSTRUCT& /*item*/) {}
 
  protected:
-  /// Makes the window, as the last child of the form's.
+  /// Creates the window as the last child of the form's window.
   ControlView(forms::Control& model, const Stage& stage, const WindowKind& kind);
 
-  /// Puts what the kind of control has of its own on the window, without reporting that as a gesture.
+  /// Shows the properties that only this kind of control has, without reporting a gesture.
   virtual void Show() = 0;
-  /// A message to the control's window, before the window gets it. An answer keeps it from the window.
+  /// Handles a message to the control's window before the window does. If a value is returned, the window
+  /// doesn't get the message.
   virtual std::optional<LRESULT> OnMessage(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/) {
     return std::nullopt;
   }
-  /// Whether the text is bold beyond what the control's font says.
+  /// Returns true if the text is bold although the control's font isn't.
   virtual bool IsBold() const { return false; }
-  /// Whether a person is in the middle of a gesture, which is reported when it is complete. Until then the
-  /// window isn't updated.
+  /// Returns true during a gesture that is reported when it is complete. The window isn't updated until then.
   virtual bool IsInTheMiddle() const { return false; }
-  /// Tells screen readers what they say of the control.
+  /// Tells screen readers what to say about the control.
   virtual void ShowSpoken(const Spoken& spoken);
+  /// The service that gives texts to screen readers.
   Annotations& Reader() const { return stage_.annotations; }
-  /// The role of the control for screen readers, one of MSAA's ROLE_SYSTEM_; 0 leaves the window's own.
+  /// Role of the control for screen readers, one of MSAA's ROLE_SYSTEM_ constants; 0 keeps the window's own.
   virtual LONG Role() const { return 0; }
 
-  /// Reports a gesture, unless the view itself is showing something.
+  /// Reports a gesture, unless the view itself is changing the window.
   void Report(std::function<void()> gesture);
-  /// Reports that a hand has moved the focus here.
+  /// Reports that the user has moved the focus here.
   void ReportFocus();
-  /// Has OnNews called once, when the messages that wait now have been handled. Windows tells of one change
-  /// in several messages.
+  /// Lets OnNews be called once, after the messages that are waiting now. Windows reports one change with
+  /// several messages.
   void AwaitNews();
+  /// Is called after AwaitNews, when the messages were handled.
   virtual void OnNews() {}
-  /// The state isn't what the model says any more, because a hand has touched the window.
+  /// Notes that user input has changed the window, which may differ from the model now.
   void Touch() { touched_ = true; }
-  /// The window is getting the focus just now.
+  /// Returns true while the window is getting the focus.
   bool IsTakingFocus() const { return isTakingFocus_; }
 
+  /// Sends a message to the window and returns its result.
   LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
     return SendMessageW(window_, message, wParam, lParam);
   }
+  /// Returns the text of the window.
   std::wstring WindowText() const;
-  /// Writes the text on the window, unless it is there already.
+  /// Sets the window's text, unless it is the same already.
   void SetText(const std::string& text);
+  /// The font of the window's text.
   HFONT Font() const { return font_; }
+  /// Number of pixels per inch of the window's monitor.
   UINT Dpi() const { return dpi_; }
-  /// A length that was designed for 96 dots in an inch.
+  /// Converts a length at 96 dots per inch to pixels.
   int Scaled(int length) const { return MulDiv(length, static_cast<int>(dpi_), USER_DEFAULT_SCREEN_DPI); }
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                     DWORD_PTR data);
-  /// Removes from the window what the view has put on it, and forgets the window.
+  /// Removes the view's data from the window and forgets the window.
   void LetGo();
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
   void ShowFont();
@@ -137,7 +147,7 @@ class ControlView {
   bool isTakingFocus_ = false;
   bool movesFocus_ = false;
   bool awaitsNews_ = false;
-  int waiting_ = 0;  ///< gestures that were reported and not performed yet
+  int waiting_ = 0;  ///< gestures that were reported but not yet performed
 };
 
 }  // namespace plotsmith::windows

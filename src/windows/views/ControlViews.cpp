@@ -15,7 +15,7 @@
 namespace plotsmith::windows {
 namespace {
 
-constexpr int kGap = 7;  // at 96 dots in an inch
+constexpr int kGap = 7;  // at 96 dots per inch
 
 template <class View, class Model>
 std::unique_ptr<ControlView> MakeIf(forms::Control& control, const Stage& stage) {
@@ -36,7 +36,7 @@ bool AreBoth(const forms::Control& left, const forms::Control& right) {
   return dynamic_cast<const Kind*>(&left) != nullptr && dynamic_cast<const Kind*>(&right) != nullptr;
 }
 
-/// Whether the arrow keys go from a control to the one behind it, as among options and among buttons.
+/// Returns true if the arrow keys move from a control to the next one, as among options and among buttons.
 bool AreInOneGroup(const forms::Control& before, const forms::Control& control) {
   return before.Container() == control.Container() &&
          (AreBoth<forms::OptionButton>(before, control) || AreBoth<forms::CommandButton>(before, control));

@@ -9,20 +9,23 @@
 
 namespace plotsmith::windows {
 
-/// The view for a control; null for a kind that isn't seen, such as a timer. `presses` outlives it.
+/// Makes the view of a control; null for an invisible kind such as a timer. `presses` outlives the view.
 std::unique_ptr<ControlView> MakeControlView(forms::Control& control, const Stage& stage,
                                              forms::SecondPress& presses);
 
-/// The views of the controls of a form, in tab order, and their measures.
+/// The views of a form's controls, in tab order, and their sizes.
 class ControlViews final : public forms::Measures {
  public:
-  /// Makes the windows. The fonts must outlive this.
+  /// Creates the windows. The fonts must outlive this object.
   ControlViews(forms::Form& form, const Stage& stage, forms::SecondPress& presses);
 
-  /// Null for a control that isn't seen.
+  /// Returns the view of a control; null if the control is of an invisible kind.
   ControlView* Find(const forms::Control& control) const;
+  /// The first view in tab order.
   auto begin() const { return views_.begin(); }
+  /// The end of the views.
   auto end() const { return views_.end(); }
+  /// Uses these fonts in all views; they must outlive this object.
   void UseFonts(Fonts& fonts);
 
   forms::Size LeastSize(const forms::Control& control) const override;

@@ -8,7 +8,8 @@
 namespace plotsmith::windows {
 namespace {
 
-/// The clipboard, open for as long as this lives, so that no other program finds it locked after an error.
+/// The clipboard, open as long as this object lives, so that it doesn't stay locked for other programs after
+/// an error.
 class Clipboard {
  public:
   explicit Clipboard(HWND owner) : isOpen_(OpenClipboard(owner) != FALSE) {}
@@ -23,7 +24,7 @@ class Clipboard {
   bool isOpen_;
 };
 
-/// A block of memory, locked for as long as this lives.
+/// A block of memory that is locked as long as this object lives.
 class LockedText {
  public:
   explicit LockedText(HANDLE block)
@@ -33,7 +34,7 @@ class LockedText {
   }
   LockedText(const LockedText&) = delete;
   LockedText& operator=(const LockedText&) = delete;
-  /// The units before the first zero.
+  /// Returns the units before the first zero.
   std::wstring Text() const {
     if (units_ == nullptr) return {};
     return {units_, std::find(units_, units_ + GlobalSize(block_) / sizeof(wchar_t), L'\0')};
@@ -50,7 +51,7 @@ std::wstring ClipboardText(HWND owner) {
   return clipboard.IsOpen() ? LockedText(GetClipboardData(CF_UNICODETEXT)).Text() : std::wstring();
 }
 
-/// Where the selection begins and ends, in units; both are the place of the cursor where nothing is selected.
+/// Start and end of the selection, in UTF-16 units; both are the cursor's position if nothing is selected.
 struct Selection {
   DWORD from = 0, to = 0;
 };
@@ -62,7 +63,7 @@ Selection SelectionOf(HWND edit) {
   return selection;
 }
 
-/// How many more units fit when the selection is gone.
+/// Number of units that fit once the selection is replaced.
 std::size_t RoomIn(HWND edit) {
   const auto [from, to] = SelectionOf(edit);
   const auto most = static_cast<std::size_t>(SendMessageW(edit, EM_GETLIMITTEXT, 0, 0));
@@ -70,7 +71,7 @@ std::size_t RoomIn(HWND edit) {
   return most > kept ? most - kept : 0;
 }
 
-/// The text with a line end for each kind of line end.
+/// Replaces each line end in the text by `lineEnd`.
 std::wstring WithLineEnds(const std::wstring& text, const std::wstring& lineEnd) {
   std::wstring result;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -101,7 +102,7 @@ void PasteText(HWND edit, Lines lines) {
   if (text.size() > room) {
     MessageBeep(MB_OK);
     text.resize(room);
-    // What has no room as a whole is left out: a character of two units, and a line end.
+    // A character of two units, or a line end, is left out if it doesn't fit completely.
     const bool isHalf = !text.empty() && (IS_HIGH_SURROGATE(text.back()) || text.back() == L'\r');
     if (isHalf) text.pop_back();
   }
@@ -124,13 +125,13 @@ bool HandleEditMessage(HWND edit, Lines lines, UINT message, WPARAM wParam) {
     return true;
   }
   if (message != WM_CHAR) return false;
-  constexpr WPARAM kControlA = 1;  // as WM_CHAR has it
+  constexpr WPARAM kControlA = 1;  // the character of Ctrl+A in WM_CHAR
   const auto unit = static_cast<wchar_t>(wParam);
   if (wParam == kControlA) {
     SendMessageW(edit, EM_SETSEL, 0, -1);
     return true;
   }
-  // Half of a character has no meaning: there is room for both units, or for none.
+  // Half of a surrogate pair has no meaning: there must be room for both units.
   const bool isHalfTooMuch =
       (IS_HIGH_SURROGATE(unit) && RoomIn(edit) < 2) || (IS_LOW_SURROGATE(unit) && !HasHalfCharacter(edit));
   if (isHalfTooMuch) MessageBeep(MB_OK);

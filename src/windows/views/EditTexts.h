@@ -6,21 +6,21 @@
 
 namespace plotsmith::windows {
 
-/// How many lines a box for texts takes.
+/// Number of lines of a text box.
 enum class Lines { kOne, kSeveral };
 
-/// The part of a text that can be typed. Line breaks and characters that can't be typed become blanks; in
-/// several lines, line breaks become CR LF and tabs stay.
+/// Returns the part of a text that can be typed. Line breaks and characters that can't be typed become
+/// blanks; in a box of several lines, line breaks become CR LF and tabs are kept.
 std::wstring Typeable(std::wstring text, Lines lines);
 
-/// Does what an edit control would do otherwise than a form wants, before it gets the message; false for all
-/// other messages. A text of several lines that is pasted into a box for one isn't cut off at the first line.
-/// What has no room is left out, with a beep, and so is the second unit of a character without its first one.
-/// Control and A select everything.
+/// Handles the messages for which a form needs another behaviour than that of an edit control; returns false
+/// for all others. A text of several lines that is pasted into a box of one line isn't cut after the first
+/// line. Text that doesn't fit is left out with a beep, and so is a trailing surrogate without a leading one.
+/// Ctrl+A selects everything.
 bool HandleEditMessage(HWND edit, Lines lines, UINT message, WPARAM wParam);
 
-/// Whether the first unit of a character is in front of the cursor, and the second one not yet behind it.
-/// Windows sends a character of two units in two messages.
+/// Returns true if the first unit of a surrogate pair is in front of the cursor and the second one is still
+/// missing. Windows sends the two units in two messages.
 bool HasHalfCharacter(HWND edit);
 
 }  // namespace plotsmith::windows

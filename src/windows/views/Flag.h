@@ -4,9 +4,10 @@
 
 namespace plotsmith::windows {
 
-/// Makes a variable true for as long as this lives.
+/// Sets a variable to true as long as this object lives.
 class Flag {
  public:
+  /// Sets `flag` to true. The destructor restores its old value.
   explicit Flag(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
   ~Flag() { flag_ = before_; }
   Flag(const Flag&) = delete;

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double kPointsPerInch = 72;
 
-/// A context in memory with a font chosen into it.
+/// A device context in memory with a font selected into it.
 class FontContext {
  public:
   explicit FontContext(HFONT font) : context_(CreateCompatibleDC(nullptr)) {

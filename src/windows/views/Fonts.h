@@ -11,15 +11,16 @@
 
 namespace plotsmith::windows {
 
-/// The fonts of Windows for those of a form and its controls, at one resolution. They live as long as this.
+/// The Windows fonts of a form and its controls, at one resolution. They live as long as this object.
 class Fonts {
  public:
-  /// `dpi` is the number of pixels in an inch.
+  /// `dpi` is the number of pixels per inch.
   explicit Fonts(UINT dpi) : dpi_(dpi) {}
 
+  /// Number of pixels per inch.
   UINT Dpi() const { return dpi_; }
-  /// The typeface, character set and size of the model. A font without a name gets the typeface that the
-  /// system has for messages.
+  /// Returns the font with the model's typeface, character set and size. A font without a name gets the
+  /// typeface of the system's message boxes.
   HFONT Find(const forms::Font& font);
 
  private:
@@ -32,9 +33,9 @@ class Fonts {
   std::map<Key, std::unique_ptr<std::remove_pointer_t<HFONT>, Delete>> fonts_;
 };
 
-/// The size of a text in a font, in pixels. "&" in front of a letter takes no room.
+/// Returns the size of a text in pixels. "&" in front of a letter takes no room.
 SIZE TextSize(HFONT font, const std::wstring& text);
-/// The height of a line, and the average width of its characters, in pixels.
+/// Returns the height of a line and the average width of a character, in pixels.
 SIZE CharacterSize(HFONT font);
 
 }  // namespace plotsmith::windows

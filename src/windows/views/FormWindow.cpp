@@ -20,7 +20,7 @@ namespace {
 
 constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME;
 constexpr DWORD kPlainExtendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
-constexpr int kMargin = 11, kLine = 24;  // at 96 dots in an inch
+constexpr int kMargin = 11, kLine = 24;  // at 96 dots per inch
 
 int Width(const RECT& area) { return static_cast<int>(area.right - area.left); }
 int Height(const RECT& area) { return static_cast<int>(area.bottom - area.top); }
@@ -31,7 +31,7 @@ RECT WindowArea(HWND window) {
   return area;
 }
 
-/// The area of the window's monitor that other programs leave free; of the first monitor for null.
+/// The area of the window's monitor that taskbars leave free; that of the primary monitor for null.
 RECT WorkArea(HWND window) {
   MONITORINFO monitor = {};
   monitor.cbSize = sizeof monitor;
@@ -39,13 +39,13 @@ RECT WorkArea(HWND window) {
   return monitor.rcWork;
 }
 
-/// The area in whose middle a window appears: the owner's, or the screen where that isn't to be seen.
+/// The area in which a window is centred: the owner's, or the screen if the owner isn't visible.
 RECT AreaAround(HWND owner) {
   const bool isSeen = owner != nullptr && IsWindowVisible(owner) && !IsIconic(owner);
   return isSeen ? WindowArea(owner) : WorkArea(owner);
 }
 
-/// Whether the language of the user's locale is read from right to left.
+/// Returns true if the language of the user's locale is written from right to left.
 bool IsRightToLeft() {
   if (!App.Desktop) return false;
   constexpr DWORD kFromRightToLeft = 1;
@@ -56,12 +56,12 @@ bool IsRightToLeft() {
   return layout == kFromRightToLeft;
 }
 
-/// The extended style of a form's window. What is inside of a mirrored window is mirrored, too.
+/// The extended style of a form's window. The children of a mirrored window are mirrored, too.
 DWORD ExtendedStyle() {
   return IsRightToLeft() ? kPlainExtendedStyle | WS_EX_LAYOUTRTL : kPlainExtendedStyle;
 }
 
-/// How far a scroll bar is from its start.
+/// Distance of a scroll bar's thumb from its start.
 int ScrollPlace(HWND window, int bar) {
   SCROLLINFO info = {};
   info.cbSize = sizeof info;
@@ -86,8 +86,8 @@ FormWindow::FormWindow(forms::Form& form, HWND owner, Post post, forms::SecondPr
   form.hWnd = reinterpret_cast<std::intptr_t>(window_);
 }
 
-// Windows makes no disabled window active by itself. An earlier page may still keep the host's window
-// disabled, so without being told, Windows would bring another program to the front.
+// Windows doesn't activate a disabled window. An earlier page may still keep the host's window disabled, and
+// without this call Windows would bring another program to the front.
 void FormWindow::GiveUpActivation() {
   const HWND owner = GetWindow(window_, GW_OWNER);
   if (owner != nullptr && GetActiveWindow() == window_) SetActiveWindow(owner);
@@ -104,7 +104,7 @@ FormWindow::~FormWindow() {
 }
 
 const wchar_t* FormWindow::ClassName() {
-  // The class goes with the module: a module that is loaded again couldn't register it a second time.
+  // The class is unregistered with the module; otherwise a module that is loaded again couldn't register it.
   static const struct WindowClass {
     WindowClass() {
       WNDCLASSEXW own = {};
@@ -178,12 +178,12 @@ bool FormWindow::TakeMessage(MSG& message) {
   const ControlView* const focus = FocusView();
   if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN && focus != nullptr &&
       forms::TakesEnter(&focus->Model())) {
-    return false;  // the text takes it for a new line
+    return false;  // the text box inserts a new line
   }
   return IsDialogMessageW(window_, &message) != FALSE;
 }
 
-// A list that is open takes Enter and Escape for itself.
+// An open list handles Enter and Escape itself.
 bool FormWindow::TakeKey(const MSG& message) {
   const forms::KeyPress press = KeyPressOf(message);
   const ControlView* const focus = FocusView();
@@ -194,8 +194,8 @@ bool FormWindow::TakeKey(const MSG& message) {
   return true;
 }
 
-// No exception may pass through a window procedure. What can be thrown here is that memory has run out; the
-// message is then lost.
+// No exception may leave a window procedure. The only possible one is that memory runs out; the message is
+// then lost.
 LRESULT CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_NCCREATE) {
     const auto* const creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
@@ -215,9 +215,9 @@ LRESULT FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   if (const auto answer = HandlePlace(message, wParam, lParam)) return *answer;
   switch (message) {
     case WM_CLOSE:
-      post_([this] { form_.UserClose(); });  // the form decides, and its window goes when the form goes
+      post_([this] { form_.UserClose(); });  // the form decides, and destroys its window when it closes
       return 0;
-    case WM_DESTROY:  // the host has closed
+    case WM_DESTROY:  // the host has destroyed the window
       RemoveWindowName(window_);
       form_.hWnd = 0;
       window_ = nullptr;
@@ -232,7 +232,7 @@ LRESULT FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         SetFocus(IsWindow(lastFocus_) ? lastFocus_ : window_);
       }
       return 0;
-    case WM_NEXTDLGCTL:  // to this window, or to the next or the previous one
+    case WM_NEXTDLGCTL:  // moves the focus to a window, or to the next or previous one
       SetFocus(LOWORD(lParam) != 0 ? reinterpret_cast<HWND>(wParam)
                                    : GetNextDlgTabItem(window_, GetFocus(), wParam != 0));
       return 0;
@@ -246,7 +246,7 @@ LRESULT FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   }
 }
 
-/// Messages about controls.
+/// Handles messages about controls.
 std::optional<LRESULT> FormWindow::HandleControl(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_COMMAND:
@@ -271,7 +271,7 @@ std::optional<LRESULT> FormWindow::HandleControl(UINT message, WPARAM wParam, LP
     case WM_ERASEBKGND:
       Erase(reinterpret_cast<HDC>(wParam));
       return TRUE;
-    case WM_PRINTCLIENT:  // a themed control asks for what is behind it
+    case WM_PRINTCLIENT:  // a themed control asks for its background
       Erase(reinterpret_cast<HDC>(wParam));
       return 0;
     default:
@@ -279,7 +279,7 @@ std::optional<LRESULT> FormWindow::HandleControl(UINT message, WPARAM wParam, LP
   }
 }
 
-/// Messages about sizes and places.
+/// Handles messages about sizes and positions.
 std::optional<LRESULT> FormWindow::HandlePlace(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SIZE:
@@ -323,7 +323,7 @@ SIZE FormWindow::SizeAround(const forms::Size& inside, UINT dpi) const {
   return {Width(outside), Height(outside)};
 }
 
-// The texts don't grow exactly as the resolution does, so the least size of the page is measured anew.
+// Texts don't grow exactly as the resolution does, so the least size of the page is measured again.
 SIZE FormWindow::ScaledSize(UINT dpi) {
   const UINT before = fonts_->Dpi();
   const forms::Size room = Room();
@@ -359,7 +359,7 @@ forms::Size FormWindow::Room() const {
   return {static_cast<int>(client.right), static_cast<int>(client.bottom)};
 }
 
-// A bar takes some of the room, so that the other one may be needed as well.
+// A scroll bar takes some room, so that the other one may become necessary.
 void FormWindow::Arrange() {
   const Flag flag(isArranging_);
   const int dpi = static_cast<int>(fonts_->Dpi());
@@ -433,7 +433,7 @@ void FormWindow::ShowFocus(const ControlView& view) {
   if (area.left < 0) Scroll(SB_HORZ, static_cast<int>(area.left));
 }
 
-// What is inside of a marked frame has the frame's colour, as far as it has none of its own.
+// The content of a marked frame has the frame's colour, unless it has its own.
 void FormWindow::Erase(HDC context) const {
   RECT area = {};
   GetClientRect(window_, &area);
@@ -446,7 +446,7 @@ void FormWindow::Erase(HDC context) const {
   }
 }
 
-// The parts of a combo box have its colour. An open list is no child of it, and keeps the system's.
+// The parts of a combo box have its colour. An open list is not its child and keeps the system's colour.
 LRESULT FormWindow::ColorOf(HDC context, HWND control) const {
   const ControlView* view = ControlView::Of(control);
   if (view == nullptr) view = ControlView::Of(GetAncestor(control, GA_PARENT));

@@ -11,29 +11,31 @@
 
 namespace plotsmith::windows {
 
-/// The window of a form. The other windows of the thread are disabled while it is on the screen.
+/// The window of a form. The thread's other windows are disabled while it is open.
 class FormWindow {
  public:
-  /// `owner` is the window that this one stays in front of; null if there is none. `presses` outlives it.
+  /// `owner` is the window in front of which this one stays; null for none. `presses` outlives it.
   FormWindow(forms::Form& form, HWND owner, Post post, forms::SecondPress& presses);
   ~FormWindow();
   FormWindow(const FormWindow&) = delete;
   FormWindow& operator=(const FormWindow&) = delete;
 
+  /// The form.
   forms::Form& Model() const { return form_; }
-  /// Null once the window was destroyed from outside.
+  /// Returns the handle; null if the window was destroyed from outside.
   HWND Handle() const { return window_; }
+  /// Shows the window, activates it, and disables the thread's other windows.
   void ShowOnScreen();
-  /// Shows the state of the form, where it has changed.
+  /// Shows the changes of the form's state.
   void Update();
-  /// Makes the window the active one again after the form in front of it has closed. Gestures that were
-  /// reported before that are forgotten, because the loop drops those of a form that isn't in front.
+  /// Activates the window again after the form in front of it has closed. Gestures that were reported before
+  /// that are dropped, as the loop drops gestures of a form that isn't in front.
   void ComeBack();
-  /// Handles a message as a dialog does; false if the message belongs to another window.
+  /// Handles a message as dialogs do; returns false if the message belongs to another window.
   bool TakeMessage(MSG& message);
 
  private:
-  /// Makes the host's window the active one in place of this one.
+  /// Activates the host's window instead of this one.
   void GiveUpActivation();
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   static const wchar_t* ClassName();
@@ -41,23 +43,22 @@ class FormWindow {
   std::optional<LRESULT> HandleControl(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> HandlePlace(UINT message, WPARAM wParam, LPARAM lParam);
 
-  /// The view of the control that has the focus; null if none has.
+  /// Returns the view of the control with the focus; null for none.
   ControlView* FocusView() const;
   bool TakeKey(const MSG& message);
   void UpdateFocus();
 
   void UseDpi(UINT dpi);
-  /// The room inside of the window, the scroll bars included.
+  /// Size of the client area, including scroll bars.
   forms::Size Room() const;
-  /// The size of a window whose room inside has this size, in pixels, at `dpi` dots in an inch.
+  /// Returns the size in pixels of a window whose client area has this size, at `dpi` dots per inch.
   SIZE SizeAround(const forms::Size& inside, UINT dpi) const;
-  /// The size that the window should have at `dpi` dots in an inch, so that it shows as much of the page as
-  /// now.
+  /// Returns the size that the window needs at `dpi` dots per inch to show as much of the page as now.
   SIZE ScaledSize(UINT dpi);
-  /// Gives the window the size that its layout needs, or that of the screen if it is smaller, and places the
-  /// window in the middle of the owner.
+  /// Gives the window the size that its layout needs, or the screen's size if that is smaller, and centres
+  /// the window on its owner.
   void FitScreen(HWND owner);
-  /// Places the controls. What is larger than the window can be scrolled.
+  /// Places the controls. The window gets scroll bars if the page is larger.
   void Arrange();
   void SetScrollBar(int bar, int needed, int room);
   void Scroll(int bar, int by);
@@ -73,9 +74,9 @@ class FormWindow {
   std::unique_ptr<Fonts> fonts_;
   std::unique_ptr<ControlViews> views_;
   std::optional<DisabledWindows> disabledWindows_;
-  forms::Size least_;         ///< of the layout with its margins
-  HWND lastFocus_ = nullptr;  ///< while another window is the active one
-  bool isArranging_ = false;  ///< a scroll bar that comes or goes changes the size of the room
+  forms::Size least_;         ///< of the layout, with its margins
+  HWND lastFocus_ = nullptr;  ///< kept while another window is active
+  bool isArranging_ = false;  ///< a scroll bar that appears or disappears changes the client area
 };
 
 }  // namespace plotsmith::windows

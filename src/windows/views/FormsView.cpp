@@ -13,7 +13,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kLongestYield{50};
 
-/// How long a thread may sleep, in milliseconds.
+/// Maximum time that a thread may sleep, in milliseconds.
 DWORD TimeUntil(const std::optional<Clock::time_point>& deadline) {
   if (!deadline) return INFINITE;
   const auto left = std::chrono::ceil<std::chrono::milliseconds>(*deadline - Clock::now()).count();
@@ -37,7 +37,7 @@ void FormsView::Open(forms::Form& form) {
   };
   windows_.push_back(std::make_unique<FormWindow>(form, Owner(), post, presses_));
   windows_.back()->ShowOnScreen();
-  ShowChanges();  // after the new window has come, so that the screen is never without one
+  ShowChanges();  // after the new window has appeared, so that a window is always on the screen
 }
 
 void FormsView::Close(forms::Form& form) {
@@ -80,8 +80,8 @@ bool FormsView::HandleMessage(UINT kinds) {
 
 bool FormsView::IsFrontGone() const { return quitCode_.has_value() || Front()->Handle() == nullptr; }
 
-// The model gets one gesture at a time where messages bring several, so that each finds the form as the one
-// before it has left it.
+// The model gets one gesture at a time even if a message brings several, so that each gesture acts on the
+// form as the one before it has left it.
 void FormsView::Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) {
   const ThreadDpi dpi;
   ShowChanges();
@@ -93,7 +93,7 @@ void FormsView::Wait(forms::EventQueue& queue, std::optional<std::chrono::millis
     if (time == 0) break;
     MsgWaitForMultipleObjectsEx(0, nullptr, time, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
   }
-  com::NoteChange();  // the host's own windows had their turn
+  com::NoteChange();  // the host's own windows could handle messages
   if (IsFrontGone()) {
     pending_.clear();
     forms::Form& form = Front()->Model();
@@ -102,9 +102,9 @@ void FormsView::Wait(forms::EventQueue& queue, std::optional<std::chrono::millis
   PostTo(queue);
 }
 
-// The system is in the middle of its work. What hands do waits until it is over, so that nothing is looked at
-// or changed half-way; windows are painted, and timers tick. A window of the host that posts itself a message
-// with each one, or never paints what it is asked to, must not keep the work from going on.
+// The system is in the middle of its work. User input waits until the work is done, so that it never acts on
+// a half-finished state; windows are painted and timers run. The loop is limited, because a window of the
+// host may post itself a message with each one, or may never paint the area that it is asked to paint.
 void FormsView::HandleEvents(forms::EventQueue& queue) {
   const ThreadDpi dpi;
   ShowChanges();
@@ -112,7 +112,7 @@ void FormsView::HandleEvents(forms::EventQueue& queue) {
   while (!quitCode_ && HandleMessage(PM_QS_PAINT | PM_QS_POSTMESSAGE | PM_QS_SENDMESSAGE) &&
          Clock::now() < end) {
   }
-  if (windows_.empty()) PostQuitAgain();  // no window of ours will be closed and do it
+  if (windows_.empty()) PostQuitAgain();  // no window of this view will close and do it
   com::NoteChange();
   PostTo(queue);
 }

@@ -13,11 +13,11 @@
 
 namespace plotsmith::windows {
 
-/// The forms as dialogs of Windows, on the thread of the host. While a form waits, the messages of the whole
-/// thread are handled, but the windows of the host take no input.
+/// The forms as dialogs of Windows, on the host's thread. While a form waits, all messages of the thread are
+/// handled, but the host's windows take no input.
 class FormsView final : public forms::View {
  public:
-  /// `hostWindow` answers the window that the dialogs stay in front of; null if it isn't known.
+  /// `hostWindow` returns the window in front of which the dialogs stay; null if it isn't known.
   explicit FormsView(std::function<HWND()> hostWindow) : hostWindow_(std::move(hostWindow)) {}
 
   void Open(forms::Form& form) override;
@@ -25,20 +25,21 @@ class FormsView final : public forms::View {
   void Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) override;
   void HandleEvents(forms::EventQueue& queue) override;
 
-  /// The window of the form in front; null while there is none.
+  /// Returns the window of the form in front; null if there is none.
   FormWindow* Front() const { return windows_.empty() ? nullptr : windows_.back().get(); }
-  /// Whether no hand can reach the form in front any more: its window was destroyed, or the host ends.
+  /// Returns true if the user can't reach the form in front any more: its window was destroyed, or the host
+  /// ends.
   bool IsFrontGone() const;
-  /// Shows what has changed.
+  /// Shows the changes of all forms.
   void ShowChanges();
-  /// Moves to the queue what hands did.
+  /// Moves the reported gestures to the queue.
   void PostTo(forms::EventQueue& queue);
-  /// Handles the next message of the thread that is of these kinds (flags of PeekMessage; 0 for all). False
-  /// if there is none.
+  /// Handles the thread's next message of these kinds (flags of PeekMessage; 0 for all). Returns false if
+  /// there is none.
   bool HandleMessage(UINT kinds = 0);
 
  private:
-  /// Puts a WM_QUIT back that was meant for the host.
+  /// Posts a WM_QUIT again that was meant for the host.
   void PostQuitAgain();
   struct Gesture {
     forms::Form* form;
@@ -48,12 +49,13 @@ class FormsView final : public forms::View {
   HWND Owner() const;
 
   std::function<HWND()> hostWindow_;
-  std::optional<HeldKeys> heldKeys_;  ///< while a form is open
+  std::optional<HeldKeys> heldKeys_;  ///< held while a form is open
   forms::SecondPress presses_;
   std::vector<std::unique_ptr<FormWindow>> windows_;
   std::vector<Gesture> pending_;
-  /// The host's own loop was told to end, with this code. It is told so again when the last form has gone.
-  std::optional<int> quitCode_;  ///< of a WM_QUIT that was taken out of the queue
+  /// The exit code for the host's own loop, which received WM_QUIT. The message is posted again when the last
+  /// form has closed.
+  std::optional<int> quitCode_;  ///< exit code of a WM_QUIT that was taken out of the queue
 };
 
 }  // namespace plotsmith::windows

@@ -11,7 +11,7 @@ namespace plotsmith::windows {
 namespace {
 
 constexpr int kLeastCharacters = 20, kLeastLines = 3;
-constexpr int kRowGap = 4, kHeadGap = 8;  // at 96 dots in an inch
+constexpr int kRowGap = 4, kHeadGap = 8;  // at 96 dots per inch
 constexpr std::size_t kLongestText = 1024;
 
 DWORD StyleOf(const forms::VSFlexGrid& model) {
@@ -52,7 +52,7 @@ void GridView::Place(const forms::Area& area) {
   ShareOutWidth();
 }
 
-// One click takes the selection from some rows and gives it to others, and each is a message of its own.
+// One click moves the selection from some rows to others, and Windows sends a message for each row.
 std::optional<LRESULT> GridView::OnNotify(NMHDR& header) {
   switch (header.code) {
     case LVN_ITEMCHANGED: {
@@ -163,8 +163,8 @@ void GridView::ShowSelection() {
   ListView_EnsureVisible(Window(), first, FALSE);
 }
 
-// Nothing is cut off as long as there is room. A page that gives no widths wants equal ones. Widths that a
-// hand has chosen stay, and grow with the resolution.
+// No text is cut off as long as there is room. A page that sets no widths gets equal ones. Widths that the
+// user has set are kept, and grow with the resolution.
 void GridView::ShareOutWidth() {
   if (handDpi_ != 0) {
     const UINT before = std::exchange(handDpi_, Dpi());

@@ -7,9 +7,10 @@
 
 namespace plotsmith::windows {
 
-/// A grid, of which whole rows are selected. Fixed rows are its head.
+/// A grid in which whole rows are selected. Fixed rows are its header.
 class GridView final : public ControlView {
  public:
+  /// Makes the window for `model`.
   GridView(forms::VSFlexGrid& model, const Stage& stage);
 
   forms::Size LeastSize() const override;
@@ -23,7 +24,7 @@ class GridView final : public ControlView {
   void OnNews() override;
 
  private:
-  /// Rows of the model, selected in the window.
+  /// Returns the rows of the model that are selected in the window.
   std::vector<std::int32_t> Selected() const;
   void ShowColumns();
   void ShowCells();
@@ -31,7 +32,7 @@ class GridView final : public ControlView {
   void ShareOutWidth();
 
   forms::VSFlexGrid& model_;
-  UINT handDpi_ = 0;  ///< the resolution in which a hand has chosen the widths of columns; 0 while none has
+  UINT handDpi_ = 0;  ///< the resolution at which the user has set column widths; 0 if the user has set none
 };
 
 }  // namespace plotsmith::windows

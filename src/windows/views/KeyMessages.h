@@ -5,11 +5,11 @@
 
 namespace plotsmith::windows {
 
-/// The press that a message about a key tells of.
+/// Returns the key press that a keyboard message reports.
 forms::KeyPress KeyPressOf(const MSG& message);
 
-/// Lets a key that is held down count once, where it would press one button after the other, in message boxes
-/// as well as in forms. It works on all dialogs of the thread for as long as it lives.
+/// Counts a key that is held down as one press. Otherwise its repetitions would press the buttons of several
+/// message boxes and forms in turn. It works on all dialogs of the thread as long as it lives.
 class HeldKeys {
  public:
   HeldKeys();

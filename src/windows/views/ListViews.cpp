@@ -12,9 +12,9 @@ namespace plotsmith::windows {
 namespace {
 
 constexpr int kLeastCharacters = 12, kOpenLines = 8;
-constexpr int kArrow = 24;  // of a combo box, at 96 dots in an inch
+constexpr int kArrow = 24;  // of a combo box, at 96 dots per inch
 
-/// The messages of a kind of list that tell its entries.
+/// The messages that change the entries of a kind of list.
 struct EntryMessages {
   UINT count, textLength, text, add, clear;
 };
@@ -39,7 +39,7 @@ std::vector<std::wstring> EntriesOf(HWND list, const EntryMessages& messages) {
   return entries;
 }
 
-/// Shows the entries of the model; false if they were there already.
+/// Shows the entries of the model; returns false if the list has them already.
 bool ShowEntriesIn(HWND list, const forms::EntryList& model, const EntryMessages& messages) {
   const std::vector<std::wstring> entries = EntriesOf(model);
   if (EntriesOf(list, messages) == entries) return false;
@@ -80,7 +80,7 @@ void ComboBoxView::LetGoOfEdit() {
   ForgetSubclassData(std::exchange(edit_, nullptr), EditProcedure);
 }
 
-// The box inside of a combo box is no control of the form, but a text is pasted into it as into any other.
+// The edit control of a combo box is no control of the form, but texts are pasted into it in the same way.
 LRESULT CALLBACK ComboBoxView::EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                              UINT_PTR, DWORD_PTR data) {
   auto* const view = reinterpret_cast<ComboBoxView*>(data);
@@ -88,7 +88,7 @@ LRESULT CALLBACK ComboBoxView::EditProcedure(HWND window, UINT message, WPARAM w
     if (view != nullptr && HandleEditMessage(window, Lines::kOne, message, wParam)) return 0;
     if (message == WM_NCDESTROY && view != nullptr) view->LetGoOfEdit();
   } catch (...) {
-    return 0;  // there is no memory for the text
+    return 0;  // memory is short
   }
   if (message == WM_NCDESTROY) RemoveSubclass(window, EditProcedure);
   return CallNextProcedure(window, message, wParam, lParam);
@@ -96,7 +96,7 @@ LRESULT CALLBACK ComboBoxView::EditProcedure(HWND window, UINT message, WPARAM w
 
 forms::Size ComboBoxView::LeastSize() const {
   RECT area;
-  GetWindowRect(Window(), &area);  // Windows gives a closed combo box its height by the font
+  GetWindowRect(Window(), &area);  // Windows derives the height of a closed combo box from its font
   return {WidthOf(kLeastCharacters), static_cast<int>(area.bottom - area.top)};
 }
 
@@ -147,7 +147,7 @@ bool ComboBoxView::IsInTheMiddle() const {
 
 void ComboBoxView::ShowSpoken(const Spoken& spoken) {
   ControlView::ShowSpoken(spoken);
-  if (edit_ != nullptr) Reader().Set(edit_, spoken);  // the focus is in this window
+  if (edit_ != nullptr) Reader().Set(edit_, spoken);  // the edit control has the focus
 }
 
 void ComboBoxView::OnNews() {
@@ -157,7 +157,7 @@ void ComboBoxView::OnNews() {
 }
 
 std::optional<LRESULT> ComboBoxView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  // The wheel that scrolls the page must not change a box that comes below the pointer.
+  // A mouse wheel that scrolls the page must not change a combo box that moves under the pointer.
   if (message != WM_MOUSEWHEEL || GetFocus() == Window() || (edit_ != nullptr && GetFocus() == edit_) ||
       IsOpen()) {
     return std::nullopt;
@@ -166,7 +166,7 @@ std::optional<LRESULT> ComboBoxView::OnMessage(UINT message, WPARAM wParam, LPAR
 }
 
 void ComboBoxView::Show() {
-  if (IsOpen()) return Touch();  // not in the middle of a choice
+  if (IsOpen()) return Touch();  // not during a choice
   const bool hasNewEntries = ShowEntriesIn(Window(), model_, kOfCombo);
   if (hasNewEntries || static_cast<std::int32_t>(Send(CB_GETCURSEL)) != model_.ListIndex()) {
     Send(CB_SETCURSEL, static_cast<WPARAM>(model_.ListIndex()));
@@ -208,7 +208,7 @@ std::optional<LRESULT> ListBoxView::OnMessage(UINT message, WPARAM wParam, LPARA
     SelectAlone(0);
     return 0;
   }
-  // Windows lets go of the last entry only in lists of which several entries can be selected.
+  // Windows deselects the last entry only in lists with multiple selection.
   const bool isWithControl = message == WM_LBUTTONDOWN && (wParam & MK_CONTROL) != 0;
   if (isWithControl && !HasSeveral() && hasSelection &&
       Send(LB_ITEMFROMPOINT, 0, lParam) == Selected().front()) {

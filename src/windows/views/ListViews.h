@@ -7,10 +7,11 @@
 
 namespace plotsmith::windows {
 
-/// A combo box. An entry is reported when the person decides on it, not while the cursor moves through the
-/// open list.
+/// A combo box. An entry is reported when the user decides on it, not while the cursor moves through the open
+/// list.
 class ComboBoxView final : public ControlView {
  public:
+  /// Makes the window for `model`.
   ComboBoxView(forms::ComboBox& model, const Stage& stage);
   ~ComboBoxView() override;
 
@@ -33,12 +34,14 @@ class ComboBoxView final : public ControlView {
   bool IsOpen() const { return Send(CB_GETDROPPEDSTATE) != 0; }
 
   forms::ComboBox& model_;
-  HWND edit_ = nullptr;  ///< the box for typing inside of the combo box; null where there is none
+  HWND edit_ = nullptr;  ///< the edit control of the combo box; null if it has none
   bool isDecided_ = false;
 };
 
+/// A list box with single or multiple selection.
 class ListBoxView final : public ControlView {
  public:
+  /// Makes the window for `model`.
   ListBoxView(forms::ListBox& model, const Stage& stage);
 
   forms::Size LeastSize() const override;
@@ -51,14 +54,14 @@ class ListBoxView final : public ControlView {
  private:
   bool HasSeveral() const { return model_.MultiSelect() == forms::MultiSelect::kExtended; }
   std::vector<std::int32_t> Selected() const;
-  /// Selects the entry for a hand, where nothing else is selected; -1 lets go of the only one.
+  /// Selects an entry on behalf of the user in a list with single selection; -1 deselects it.
   void SelectAlone(std::int32_t entry);
   void ShowSelection();
 
   forms::ListBox& model_;
 };
 
-/// Whether the key, in a list in which nothing is selected yet, selects the first row.
+/// Returns true if the key selects the first row of a list without a selection.
 bool IsCursorKey(WPARAM key);
 
 }  // namespace plotsmith::windows

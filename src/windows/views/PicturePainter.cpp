@@ -8,7 +8,7 @@
 namespace plotsmith::windows {
 namespace {
 
-/// GDI draws hard edges. The picture is drawn so many times larger, and shrunk.
+/// GDI draws without smoothing. The picture is drawn larger by this factor and then shrunk.
 constexpr int kSmoothing = 4;
 
 COLORREF ColorOf(pictures::Rgb color) { return RGB(color.red, color.green, color.blue); }
@@ -38,7 +38,7 @@ class Canvas {
 /// Draws shapes that are given in points.
 class Painter {
  public:
-  /// `scale` is pixels in a point.
+  /// `scale` is the number of pixels per point.
   Painter(HDC context, double scale) : context_(context), scale_(scale) {}
 
   void Draw(const pictures::Shape& shape) {

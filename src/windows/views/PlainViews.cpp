@@ -11,7 +11,7 @@
 namespace plotsmith::windows {
 namespace {
 
-// Lengths at 96 dots in an inch.
+// Lengths at 96 dots per inch.
 constexpr int kTitleMargin = 12, kFrameMargin = 9;
 constexpr int kBarHeight = 17;
 constexpr double kPointsPerInch = 72;
@@ -29,7 +29,7 @@ forms::Size LabelView::LeastSize() const {
 FrameView::FrameView(forms::Frame& model, const Stage& stage)
     : ControlView(model, stage, {WC_BUTTONW, BS_GROUPBOX, WS_EX_TRANSPARENT}), model_(model) {}
 
-// There is room for the title in bold, although it may not be bold yet.
+// The title always has room for bold text.
 forms::Size FrameView::LeastSize() const {
   const SIZE text = TextSize(Font(), com::Wide(model_.Caption()));
   return {static_cast<int>(text.cx) * 5 / 4 + 2 * Scaled(kTitleMargin), static_cast<int>(text.cy)};
@@ -65,12 +65,12 @@ ImageView::ImageView(forms::Image& model, const Stage& stage)
     : ControlView(model, stage, {WC_STATICW, SS_OWNERDRAW}),
       model_(model),
       picture_(SamplePicture(model.Name())) {
-  // Charts are not mirrored where texts are read from right to left.
+  // Charts are not mirrored in right-to-left languages.
   const LONG_PTR style = GetWindowLongPtrW(Window(), GWL_EXSTYLE);
   SetWindowLongPtrW(Window(), GWL_EXSTYLE, style & ~static_cast<LONG_PTR>(WS_EX_LAYOUTRTL));
 }
 
-// A picture may become smaller than it was drawn.
+// A picture may be shown smaller than its natural size.
 forms::Size ImageView::LeastSize() const {
   const double scale = Scaled(USER_DEFAULT_SCREEN_DPI) / kPointsPerInch * 3 / 4;
   return {static_cast<int>(picture_.dWidth * scale), static_cast<int>(picture_.dHeight * scale)};

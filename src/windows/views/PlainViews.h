@@ -6,8 +6,10 @@
 
 namespace plotsmith::windows {
 
+/// A text without input.
 class LabelView final : public ControlView {
  public:
+  /// Makes the window for `model`.
   LabelView(forms::Label& model, const Stage& stage);
   forms::Size LeastSize() const override;
 
@@ -18,15 +20,17 @@ class LabelView final : public ControlView {
   forms::Label& model_;
 };
 
-/// A box with a title. The controls inside are its siblings, as in all dialogs of Windows, so their form
-/// paints the colour that they have in common.
+/// A box with a title. The controls inside are its siblings, as in all dialogs of Windows, so the form paints
+/// the colour that they share.
 class FrameView final : public ControlView {
  public:
+  /// Makes the window for `model`.
   FrameView(forms::Frame& model, const Stage& stage);
   forms::Size LeastSize() const override;
-  /// The room between the edges and what is inside.
+  /// Distance between the edges and the content.
   forms::Edges Edges() const;
-  /// The area inside of its line, which runs through the middle of the title, on the form's window.
+  /// The area inside the frame's line, which runs through the middle of the title, in coordinates of the
+  /// form's window.
   RECT InnerArea() const;
 
  protected:
@@ -38,9 +42,10 @@ class FrameView final : public ControlView {
   forms::Color shownColor_ = forms::kButtonFace;
 };
 
-/// A sample picture, drawn by the control's name.
+/// A sample picture, selected by the control's name.
 class ImageView final : public ControlView {
  public:
+  /// Makes the window for `model`.
   ImageView(forms::Image& model, const Stage& stage);
   forms::Size LeastSize() const override;
   void OnDraw(const DRAWITEMSTRUCT& item) override;
@@ -54,8 +59,10 @@ class ImageView final : public ControlView {
   pictures::Picture picture_;
 };
 
+/// A progress bar.
 class ProgressBarView final : public ControlView {
  public:
+  /// Makes the window for `model`.
   ProgressBarView(forms::ProgressBar& model, const Stage& stage);
   forms::Size LeastSize() const override;
 

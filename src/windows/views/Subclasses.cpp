@@ -5,10 +5,10 @@
 namespace plotsmith::windows {
 namespace {
 
-constexpr UINT_PTR kId = 1;  // of the only subclass that a procedure of ours makes on a window
+constexpr UINT_PTR kId = 1;  // the identifier of our only subclass on a window
 
-/// The functions of the common controls. All versions of the library have them under the same numbers, and
-/// not all under their names.
+/// Functions of the common controls. All versions of the library export them by the same ordinals, but not
+/// all by name.
 struct Functions {
   BOOL(WINAPI* set)(HWND, SubclassProcedure, UINT_PTR, DWORD_PTR);
   BOOL(WINAPI* get)(HWND, SubclassProcedure, UINT_PTR, DWORD_PTR*);

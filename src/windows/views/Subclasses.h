@@ -3,23 +3,23 @@
 #include "windows/com/Windows.h"
 
 /// @file
-/// Procedures in front of those of windows, as the common controls chain them. A program that puts a
-/// procedure of its own in front of ours later keeps it when ours is taken off.
+/// Window subclassing with the functions of the common controls. A program that later puts its own procedure
+/// in front of ours keeps it when ours is removed.
 namespace plotsmith::windows {
 
-/// A procedure for the messages of a window. `data` is what SetSubclass was given.
+/// A procedure for the messages of a window. `data` is the argument of SetSubclass.
 using SubclassProcedure = LRESULT(CALLBACK*)(HWND, UINT, WPARAM, LPARAM, UINT_PTR id, DWORD_PTR data);
 
-/// Has the window's messages go to the procedure first, with this data.
+/// Lets the procedure handle the window's messages first, with this data.
 void SetSubclass(HWND window, SubclassProcedure procedure, void* data);
-/// The procedure gets null for its data from now on, and has to pass all messages on. It isn't taken off yet,
-/// as that could take off procedures in front of it.
+/// Lets the procedure get null for its data from now on; it then has to pass all messages on. It isn't
+/// removed yet, because its removal could remove procedures in front of it.
 void ForgetSubclassData(HWND window, SubclassProcedure procedure);
-/// Takes the procedure off, at WM_NCDESTROY.
+/// Removes the procedure. Call it at WM_NCDESTROY.
 void RemoveSubclass(HWND window, SubclassProcedure procedure);
-/// The data of the procedure; null if the window doesn't have it.
+/// Returns the data of the procedure; null if it isn't installed on the window.
 void* SubclassData(HWND window, SubclassProcedure procedure);
-/// Gives a message to the procedure behind the one that got it.
+/// Passes a message on to the next procedure.
 LRESULT CallNextProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
 }  // namespace plotsmith::windows

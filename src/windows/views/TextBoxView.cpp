@@ -7,7 +7,7 @@
 namespace plotsmith::windows {
 namespace {
 
-constexpr int kTextMargin = 7;  // above and below the text, at 96 dots in an inch
+constexpr int kTextMargin = 7;  // above and below the text, at 96 dots per inch
 constexpr int kLeastCharacters = 8;
 
 DWORD StyleOf(const forms::TextBox& model) {
@@ -22,7 +22,7 @@ TextBoxView::TextBoxView(forms::TextBox& model, const Stage& stage)
     : ControlView(model, stage, {WC_EDITW, StyleOf(model) | WS_TABSTOP, WS_EX_CLIENTEDGE}),
       model_(model),
       lines_(model.MultiLine() ? Lines::kSeveral : Lines::kOne) {
-  Send(EM_SETLIMITTEXT, model.MaxLength());  // 0 is as many as there can be
+  Send(EM_SETLIMITTEXT, model.MaxLength());  // 0 means the maximum
 }
 
 forms::Size TextBoxView::LeastSize() const {
@@ -49,7 +49,7 @@ void TextBoxView::Show() {
 }
 
 std::optional<LRESULT> TextBoxView::OnMessage(UINT message, WPARAM wParam, LPARAM) {
-  // Tab leaves a text of several lines too.
+  // Tab leaves a box of several lines, too.
   if (message == WM_GETDLGCODE && lines_ == Lines::kSeveral) return DLGC_WANTCHARS | DLGC_WANTARROWS;
   return HandleEditMessage(Window(), lines_, message, wParam) ? std::optional<LRESULT>(0) : std::nullopt;
 }

@@ -6,9 +6,10 @@
 
 namespace plotsmith::windows {
 
-/// A box for one line, or for several ones.
+/// A text box of one line or of several lines.
 class TextBoxView final : public ControlView {
  public:
+  /// Makes the window for `model`.
   TextBoxView(forms::TextBox& model, const Stage& stage);
   forms::Size LeastSize() const override;
   void OnCommand(WORD code) override;

@@ -4,9 +4,8 @@
 
 namespace plotsmith::windows {
 
-/// Makes the thread aware of the resolution of each monitor while this lives. The host may have chosen
-/// another awareness, which comes back afterwards. Windows that are created meanwhile are sharp on every
-/// monitor.
+/// Makes the thread aware of the resolution of each monitor while it lives. Windows that are created
+/// meanwhile are sharp on every monitor. The host's own awareness is restored afterwards.
 class ThreadDpi {
  public:
   ThreadDpi() : before_(SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2)) {}

@@ -14,19 +14,19 @@ struct EnumerationEntry {
   std::string_view token;  ///< in the file
 };
 
-/// An enumeration. If several entries have the same number or token, the first of them counts.
+/// An enumeration. If several entries have the same number or token, the first one counts.
 struct Enumeration {
   std::span<const EnumerationEntry> entries;
-  std::string_view absent;  ///< the token that an absent attribute means; empty if it means none
+  std::string_view absent;  ///< the token for an absent attribute; empty if there is none
 
-  /// The token of a number; nothing if the enumeration doesn't have the number.
+  /// The token of a number; absent if the enumeration lacks the number.
   std::optional<std::string_view> Token(std::int32_t number) const {
     for (const EnumerationEntry& entry : entries) {
       if (entry.number == number) return entry.token;
     }
     return std::nullopt;
   }
-  /// The number of a token; nothing if the enumeration doesn't have the token.
+  /// The number of a token; absent if the enumeration lacks the token.
   std::optional<std::int32_t> Number(std::string_view token) const {
     for (const EnumerationEntry& entry : entries) {
       if (entry.token == token) return entry.number;

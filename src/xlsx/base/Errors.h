@@ -4,19 +4,20 @@
 
 #include "runtime/RuntimeError.h"
 
-/// The errors that the host raises where Excel refuses a call, in Excel's words. All of them are error 1004.
+/// The errors that the host raises where Excel refuses a call, with Excel's texts. All of them are error
+/// 1004.
 namespace plotsmith::xlsx {
 
-/// A refusal in a sentence of its own.
+/// An error with its own sentence.
 inline runtime::RuntimeError Refusal(std::string sentence) {
   return {runtime::error::kApplication, std::move(sentence)};
 }
 
-/// A value that Excel doesn't take.
+/// The error for a value that Excel doesn't accept.
 inline runtime::RuntimeError OutOfRange() { return Refusal("The specified value is out of range."); }
 
-/// A property, by its name, that can't be read or set on an object of the class `of`.
-///@{
+/// The error for a property that can't be read or set on an object of the class `of`.
+/// @{
 inline runtime::RuntimeError CantGet(const std::string& property, const std::string& of) {
   return Refusal("Unable to get the " + property + " property of the " + of + " class");
 }
@@ -25,7 +26,7 @@ inline runtime::RuntimeError CantSet(const std::string& property, const std::str
 }
 ///@}
 
-/// A method that failed, by the names of the method and of its object.
+/// The error for a method that has failed.
 inline runtime::RuntimeError MethodFailed(const std::string& method, const std::string& object) {
   return Refusal("Method '" + method + "' of object '" + object + "' failed");
 }

@@ -8,7 +8,7 @@ using runtime::Variant;
 
 namespace {
 
-/// A cut may leave half of a surrogate pair, which is no UTF-8.
+/// A cut may leave half of a surrogate pair, which can't be converted to UTF-8.
 std::string WithoutHalves(const std::string& text) {
   if (text.find('\xED') == std::string::npos) return text;
   std::string whole;
@@ -24,7 +24,7 @@ std::string WithoutHalves(const std::string& text) {
 std::string Journal::Literal(const Variant& value) {
   if (const auto* text = value.If<std::string>()) {
     std::string quoted = "\"" + runtime::Replace(WithoutHalves(*text), "\"", "\"\"") + "\"";
-    // a line stays a line
+    // a call stays on one line
     quoted = runtime::Replace(quoted, "\r\n", "\" & vbCrLf & \"");
     quoted = runtime::Replace(quoted, "\r", "\" & vbCr & \"");
     return runtime::Replace(quoted, "\n", "\" & vbLf & \"");

@@ -11,28 +11,28 @@
 
 namespace plotsmith::xlsx {
 
-/// Writes down each member call that changes something, one line each, in Excel's macro language:
-/// `Chart.ChartType = 57`, `Chart.SeriesCollection.NewSeries`. Without a sink no lines are made.
+/// Records each call that changes something as a line in Excel's macro language: `Chart.ChartType = 57`,
+/// `Chart.SeriesCollection.NewSeries`. Without a sink, no lines are made.
 class Journal {
  public:
   using Sink = std::function<void(std::string_view line)>;
 
-  /// Calls `sink` with each line from now on; an empty function ends that.
+  /// Passes each further line to `sink`; an empty function stops this.
   void SetSink(Sink sink) { sink_ = std::move(sink); }
-  /// Whether there is a sink.
+  /// Returns true if there is a sink.
   explicit operator bool() const { return static_cast<bool>(sink_); }
-  /// The number of changing calls, which are counted without a sink as well. A window that shows the workbook
-  /// draws it again when the number has grown.
+  /// The number of changing calls, which are also counted without a sink. A window that shows the workbook
+  /// draws it again when the number has increased.
   std::uint64_t CallCount() const { return calls_; }
 
-  /// Notes that a property was set. `object` returns the path of the object; it is called only if there is a
-  /// sink.
+  /// Records that a property was set. `object` returns the path of the object; it is called only if there is
+  /// a sink.
   template <class Path>
   void Put(const Path& object, std::string_view property, const runtime::Variant& value) const {
     ++calls_;
     if (sink_) sink_(object() + "." + std::string(property) + " = " + Literal(value));
   }
-  /// Notes the call of a method, as Put does.
+  /// Records a method call, like Put.
   template <class Path>
   void Call(const Path& object, std::string_view method,
             std::initializer_list<runtime::Variant> arguments = {}) const {
@@ -45,7 +45,7 @@ class Journal {
 
   /// A value as a literal of the macro language, such as `"text"` or `3.5`.
   static std::string Literal(const runtime::Variant& value);
-  /// Several literals with commas between them.
+  /// Several literals, separated by commas.
   static std::string Literals(std::initializer_list<runtime::Variant> values);
 
  private:

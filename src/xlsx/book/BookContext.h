@@ -19,35 +19,44 @@ namespace plotsmith::xlsx {
 
 class CellSource;
 
-/// What the sheets and charts of an open workbook share: its package, its styles, its theme and so on. This
-/// class lies below charts and sheets, which know no more of their workbook than this.
+/// The common state of an open workbook for its sheets and charts: package, styles, theme and so on. The
+/// classes of sheets and charts depend only on this class, and not on Workbook.
 class BookContext : public BookDamage {
  public:
   BookContext(const BookContext&) = delete;
   BookContext& operator=(const BookContext&) = delete;
   virtual ~BookContext() = default;
 
+  /// The package of the workbook.
   xlsx::Package& Package() { return package_; }
+  /// The package of the workbook.
   const xlsx::Package& Package() const { return package_; }
-  /// The folder of the workbook part with its slash, into which new parts go.
+  /// The folder of the workbook part, with its slash. New parts are put there.
   std::string Folder() const { return part_.Folder(); }
+  /// Returns true for a Strict file, false for a Transitional one.
   bool IsStrict() const { return part_.IsStrict(); }
-  /// The namespaces of the vocabulary that the workbook is written in.
+  /// The namespaces of the workbook's vocabulary.
   const Namespaces& Vocabulary() const { return part_.Vocabulary(); }
+  /// The date system of the workbook.
   DateSystem Dates() const { return dates_; }
+  /// The styles of cells.
   xlsx::Styles& Styles() { return *styles_; }
+  /// The styles of cells.
   const xlsx::Styles& Styles() const { return *styles_; }
+  /// The theme of the workbook, or Office's if it has none.
   const xlsx::Theme& Theme() { return theme_.Get(); }
-  /// The texts of the shared strings part, which is read when they are first asked for. Error 1004 if the
-  /// part can't be read.
+  /// The texts of the shared strings part, which is read at the first use. Error 1004 if it can't be read.
   const TextPool& SharedStrings();
+  /// The rows that were inserted and deleted.
   RowShifts& Shifts() { return shifts_; }
+  /// The rows that were inserted and deleted.
   const RowShifts& Shifts() const { return shifts_; }
+  /// The journal of the host's calls.
   const xlsx::Journal& Journal() const { return journal_; }
   /// The host that has the workbook open.
   excel::Ref<excel::Application> Host() const { return host_.lock(); }
 
-  /// The cells of a sheet by its name, ignoring case. Null if no sheet of the name has cells.
+  /// The cells of the sheet with a name, ignoring case. Null if no such sheet has cells.
   virtual std::shared_ptr<CellSource> FindCells(std::string_view sheet) const = 0;
 
  protected:
@@ -60,8 +69,11 @@ class BookContext : public BookDamage {
   /// Puts the styles into the package if they were changed.
   void WriteStyles();
 
+  /// The workbook part.
   BookPart& Part() { return part_; }
+  /// The workbook part.
   const BookPart& Part() const { return part_; }
+  /// The theme part.
   BookTheme& ThemePart() { return theme_; }
 
  private:

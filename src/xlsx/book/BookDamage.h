@@ -9,15 +9,15 @@
 
 namespace plotsmith::xlsx {
 
-/// What was found damaged in a workbook while it was in use.
+/// The damage that was found in a workbook while it was in use.
 class BookDamage {
  public:
-  /// The first damage as a sentence. A workbook that has one must not be saved, because what was built on it
-  /// is incomplete.
+  /// The first damage as a sentence; absent if there is none. A damaged workbook must not be saved, because
+  /// changes that are based on it are incomplete.
   const std::optional<std::string>& Damage() const { return damage_; }
 
-  /// Runs what reads the file behind the port. A PackageError, or a lack of memory, is kept as the damage and
-  /// continues as error 1004.
+  /// Calls a function of the port that reads the file. A PackageError or a lack of memory is stored as the
+  /// damage and raised as error 1004.
   template <class Read>
   auto Guarded(Read&& read) -> decltype(read()) {
     try {
@@ -29,8 +29,8 @@ class BookDamage {
     }
   }
 
-  /// Runs what reads the workbook only to show it. Damage that it meets raises its error as usual, but the
-  /// workbook may still be saved, because nothing is built on what was read.
+  /// Calls a function that reads the workbook only to show it. Damage raises the usual error, but the
+  /// workbook may still be saved, because no change is based on the data.
   template <class Read>
   auto Viewed(Read&& read) -> decltype(read()) {
     const auto before = damage_;

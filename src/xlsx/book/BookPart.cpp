@@ -9,7 +9,7 @@ namespace plotsmith::xlsx {
 
 void BookPart::Load(const Package& package) {
   const auto main = package.FindRelationshipOfType("", "officeDocument");
-  if (!main || !package.Has(main->target)) throw PackageError("it is not a workbook: it names no main part");
+  if (!main || !package.Has(main->target)) throw PackageError("it is not a workbook: it has no main part");
   name_ = main->target;
   const std::string type = package.ContentType(name_);
   if (type.find("sheet.binary") != std::string::npos) {

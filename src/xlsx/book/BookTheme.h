@@ -9,11 +9,13 @@ namespace plotsmith::xlsx {
 class BookPart;
 class Package;
 
-/// The theme part of a workbook, which is read when it is first asked for.
+/// The theme part of a workbook, which is read at its first use.
 class BookTheme {
  public:
+  /// Reads nothing yet. Both arguments must outlive the object.
   BookTheme(xlsx::Package& package, const BookPart& book) : package_(package), book_(book) {}
 
+  /// Returns true if the workbook has a theme part.
   bool HasPart() const;
   /// The workbook's theme. A workbook without a readable theme part has Office's colours and fonts.
   const Theme& Get();

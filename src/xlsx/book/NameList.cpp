@@ -28,7 +28,7 @@ void NameList::Load() {
 }
 
 void NameList::Define(std::string name, std::string definition) {
-  // CT_Workbook has these elements from the names on.
+  // The elements of CT_Workbook from the names on, in their order.
   static constexpr std::array<std::string_view, 11> kOrder = {
       "definedNames",  "calcPr",        "oleSize",        "customWorkbookViews", "pivotCaches", "smartTagPr",
       "smartTagTypes", "webPublishing", "fileRecoveryPr", "webPublishObjects",   "extLst"};

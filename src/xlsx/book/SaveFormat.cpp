@@ -30,8 +30,8 @@ void SaveFormat::Check(const Package& package, const std::string& path) const {
   }
   const WorkbookKind* kind = OtherKind(path);
   if (kind != nullptr && !kind->macros && HasMacros(package)) {
-    throw PackageError("the workbook has macros, which a file " + std::string(kind->extension) +
-                       " can't hold; give it the extension .xlsm");
+    throw PackageError("the workbook has macros, which a file with the extension " +
+                       std::string(kind->extension) + " can't contain; use .xlsm");
   }
 }
 

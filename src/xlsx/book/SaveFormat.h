@@ -7,17 +7,17 @@ namespace plotsmith::xlsx {
 class Package;
 struct WorkbookKind;
 
-/// The kinds of file that a workbook can be saved as. The extension of the file's name decides.
+/// The file formats in which a workbook can be saved. The extension of the file name decides.
 class SaveFormat {
  public:
-  /// A new workbook, which was opened from no file.
+  /// The format of a new workbook, which has no file yet.
   SaveFormat() = default;
-  /// A workbook that was opened from a file of this name.
+  /// The format of a workbook that was opened from a file with this name.
   explicit SaveFormat(const std::string& openedPath);
 
-  /// Throws a PackageError if the workbook can't be saved as the kind that the extension of `path` names.
+  /// Throws a PackageError if the workbook can't be saved in the format of `path`'s extension.
   void Check(const Package& package, const std::string& path) const;
-  /// The kind that the extension of `path` names. Null if it is the kind that was opened, or no kind.
+  /// The format of `path`'s extension. Null if it is the format of the opened file, or none.
   const WorkbookKind* OtherKind(const std::string& path) const;
 
  private:

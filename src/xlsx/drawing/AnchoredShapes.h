@@ -13,8 +13,8 @@
 
 namespace plotsmith::xlsx {
 
-/// The common part of the drawings of sheets and of charts: a document of anchors, with a shape on each.
-/// `Shape` is the drawing's class of shapes, derived from DrawnShape.
+/// The common base of the drawings of sheets and charts: a document of anchors, with one shape each. `Shape`
+/// is the drawing's class of shapes, derived from DrawnShape.
 template <class Shape>
 class AnchoredShapes {
  public:
@@ -22,7 +22,7 @@ class AnchoredShapes {
 
   /// The shapes from back to front. A group is one shape.
   const std::vector<std::shared_ptr<Shape>>& Shapes() const { return shapes_; }
-  /// The shape of a name, ignoring case; null if there is none.
+  /// The shape with a name, ignoring case; null if there is none.
   std::shared_ptr<Shape> FindShape(std::string_view name) const {
     for (const auto& shape : shapes_) {
       if (runtime::EqualsIgnoreCase(shape->NameText(), name)) return shape;
@@ -42,11 +42,13 @@ class AnchoredShapes {
     RemoveRelationships(ids);
   }
 
+  /// Notes that the drawing must be written.
   void MarkChanged() { changed_ = true; }
+  /// Returns true if the drawing was changed.
   bool Changed() const { return changed_; }
 
  protected:
-  /// A name that no shape has yet: the stem and the first free number from `number` on.
+  /// Returns an unused name: the stem and the first free number from `number` on.
   std::string FreeName(std::string_view stem, std::size_t number) const {
     std::set<std::string> taken;
     for (const auto& shape : shapes_) taken.insert(runtime::UCase(shape->NameText()));

@@ -7,9 +7,9 @@
 /// The fills of DrawingML, inside shape, line and run properties.
 namespace plotsmith::xlsx {
 
-/// The fill, or a null node if a style decides it.
+/// The fill, or a null node if a style determines it.
 pugi::xml_node FindFill(pugi::xml_node properties);
-/// Removes the fill, so that a style decides it.
+/// Removes the fill, so that a style determines it.
 void RemoveFill(pugi::xml_node properties);
 /// Replaces the fill by an empty one of a kind ("noFill", "solidFill", "pattFill").
 pugi::xml_node SetFill(pugi::xml_node properties, std::string_view kind);

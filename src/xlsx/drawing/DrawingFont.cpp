@@ -21,7 +21,7 @@ constexpr double kMostPoints = 409;
 
 }  // namespace
 
-/// A property that all of the text has in common, or Null.
+/// Returns a property if all of the text has the same value, else Null.
 template <class Get>
 Variant DrawingFont::Common(const Get& get) const {
   Variant common;
@@ -64,7 +64,7 @@ void DrawingFont::SetName(const Variant& name) {
   const std::string typeface = runtime::CStr(name);
   if (typeface.empty()) throw CantSet("Name", "Font");
   Apply("Name", name, [&](pugi::xml_node properties) {
-    // As in Excel, this sets the fonts of Latin and complex scripts, and not that of East Asian text.
+    // As in Excel, this sets the Latin and the complex script typeface, but not the East Asian one.
     xml::SetAttribute(schema::Ensure(properties, "latin"), "typeface", typeface);
     xml::SetAttribute(schema::Ensure(properties, "cs"), "typeface", typeface);
   });

@@ -23,8 +23,8 @@ struct TextLook {
   bool operator==(const TextLook&) const = default;
 };
 
-/// A font of DrawingML: the properties of the runs of a text. Charts and shapes hold them in different
-/// places, which the derived classes know.
+/// A font of DrawingML: the properties of the runs of a text. Derived classes know where charts and shapes
+/// store them.
 class DrawingFont : public excel::Font {
  public:
   runtime::Variant Name() override;
@@ -40,10 +40,12 @@ class DrawingFont : public excel::Font {
   void SetBold(bool value) override;
 
  protected:
+  /// Makes a font. `journalPath` is its path in the journal.
   explicit DrawingFont(std::string journalPath) : path_(std::move(journalPath)) {}
 
+  /// The journal of the host's calls.
   virtual const Journal& Log() const = 0;
-  /// The formats that occur in the text, at least one.
+  /// The formats in the text, at least one.
   virtual std::vector<TextLook> Looks() const = 0;
   /// Calls `set` with the properties of each run, which are made if they are missing.
   virtual void ForEachRun(const std::function<void(pugi::xml_node properties)>& set) = 0;

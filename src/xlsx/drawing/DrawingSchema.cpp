@@ -11,9 +11,9 @@
 namespace plotsmith::xlsx::schema {
 namespace {
 
-/// The order of the children of a type. Names with the same place are joined by "|". Related types whose
-/// orders don't contradict each other share a table: one for the series of all groups, one for all
-/// groups and one for all axes.
+/// The order of a type's children. Names at the same position are joined by "|". Related types whose orders
+/// don't contradict each other share a table: there is one for the series of all groups, one for all groups
+/// and one for all axes.
 using Order = std::span<const std::string_view>;
 
 constexpr std::string_view kGroups =
@@ -108,7 +108,7 @@ constexpr std::string_view kLocks[] = {"spLocks|grpSpLocks|picLocks|cxnSpLocks|g
 struct Type {
   std::string_view elements;  ///< joined by "|"
   Order order;
-  bool drawingMl;  ///< whether the children are elements of DrawingML, else of the chart vocabulary
+  bool drawingMl;  ///< true if the children are elements of DrawingML, false for the chart vocabulary
 };
 
 constexpr Type kTypes[] = {
@@ -174,8 +174,7 @@ std::size_t Rank(const Type* type, std::string_view name) {
   return std::string_view::npos;
 }
 
-/// The child before which a child of the name must be inserted; null for the end. The search begins at the end
-/// and ends at a child of the same name, so that it doesn't pass all series or points of a chart.
+/// Returns the child before which a child of this name must be inserted; null for the end.
 pugi::xml_node Follower(pugi::xml_node parent, std::string_view local) {
   const Type* type = TypeOf(parent);
   const std::size_t rank = Rank(type, local);

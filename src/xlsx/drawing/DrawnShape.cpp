@@ -100,9 +100,9 @@ const std::u16string& DrawnShape::Text() {
 
 void DrawnShape::SetText(std::u16string_view text) {
   TextBody body(Object());
-  if (text.size() > limits::kShapeText) throw Refusal("The text is longer than a shape can hold.");
+  if (text.size() > limits::kShapeText) throw Refusal("The text is longer than a shape can contain.");
   body.SetText(runtime::ToUtf8(text));
-  text_.reset();  // the body may store another text, for example other line ends
+  text_.reset();  // the body may store a different text, for example other line ends
   FitToText();
   MarkChanged();
 }
@@ -111,7 +111,7 @@ void DrawnShape::Place(const Frame& wanted) {
   const pugi::xml_node object = Object();
   CheckPlace(wanted);
   const Frame frame = MoveAnchor(wanted);
-  // Only the anchor gives the frame of a chart its place.
+  // The frame of a chart depends on its anchor only.
   if (!xml::Is(object, "graphicFrame")) SetTransform(object, frame);
   MarkChanged();
 }
@@ -201,12 +201,13 @@ void DrawnShape::FitToText() {
 void DrawnShape::StopFittingToText() {
   pugi::xml_node body = xml::Child(object_, "txBody", "bodyPr");
   if (!xml::Child(body, "spAutoFit")) return;
-  // A program that fits boxes when it opens the file would undo the size. LibreOffice does so from the
-  // middle of the box, so that texts with the same left edge would end up at different places.
+  // A program that fits boxes to their text when it opens the file would change the size again. LibreOffice
+  // does this around the middle of the box, so that texts with the same left edge would move to different
+  // positions.
   schema::Remove(body, "spAutoFit");
   schema::Ensure(body, "noAutofit");
   if (xml::Attribute(body, "wrap", "square") != "none") return;
-  // The size has no room for the usual margins, so a text that doesn't wrap would cross the right edge.
+  // The size leaves no room for the usual margins, so a text without wrapping would cross the right edge.
   for (const char* margin : {"lIns", "rIns"}) {
     if (!body.attribute(margin)) xml::SetAttribute(body, margin, std::to_string(Emu(kAutomaticMargin)));
   }

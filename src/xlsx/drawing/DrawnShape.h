@@ -15,10 +15,11 @@ namespace plotsmith::xlsx {
 class Journal;
 class Theme;
 
-/// The common part of the shapes on sheets and on charts: a view over an object of a drawing (sp, grpSp, pic
-/// and so on). The anchor gives the object its place; sheets and charts have different kinds of anchors.
+/// The common base of the shapes on sheets and charts: a view of an object of a drawing (sp, grpSp, pic and
+/// so on). The anchor determines the object's position; sheets and charts have different kinds of anchors.
 class DrawnShape : public excel::Shape, public std::enable_shared_from_this<DrawnShape> {
  public:
+  /// Makes the shape for an anchor and the object on it.
   DrawnShape(pugi::xml_node anchor, pugi::xml_node object);
 
   std::int32_t Type() override;
@@ -42,14 +43,15 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   void SetAutoShapeType(std::int32_t type) override;
   void Delete() override;
 
-  /// The place of the shape, in points from the upper left corner of the sheet or the chart.
+  /// The position and size of the shape, in points from the upper left corner of the sheet or the chart.
   virtual Frame PlacedFrame() const = 0;
   /// The path of the shape in the journal.
   virtual std::string JournalPath() const = 0;
   /// Notes that the drawing must be written.
   virtual void MarkChanged() = 0;
+  /// The journal of the host's calls.
   virtual const Journal& Log() const = 0;
-  /// The theme that the colours and fonts of the shape refer to.
+  /// The theme of the shape's colours and fonts.
   virtual const xlsx::Theme& Theme() const = 0;
   /// The name without a copy; error 1004 once the shape was deleted. The text is valid until the name
   /// changes.
@@ -62,13 +64,14 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   pugi::xml_node Anchor() const;
   /// The text of the shape in UTF-16. It is converted once, so that reading it in pieces is fast.
   const std::u16string& Text();
+  /// Sets the text, in UTF-16. Error 1004 for an object that can't have a text.
   void SetText(std::u16string_view text);
-  /// Moves the shape, as near to the frame as its drawing allows. Error 1004 for a frame that CheckPlace
+  /// Moves the shape to the frame, as far as its drawing allows. Error 1004 for a frame that CheckPlace
   /// refuses.
   void Place(const Frame& frame);
-  /// Gives a shape that resizes with its text the size that the text needs.
+  /// Fits a shape that adapts its size to the text.
   void FitToText();
-  /// Call this when the shape's elements are removed. Every use is error 1004 from then on.
+  /// Call this when the shape's elements are removed. After that, every use raises error 1004.
   void Leave();
 
  protected:
@@ -76,6 +79,7 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   virtual Frame MoveAnchor(const Frame& wanted) = 0;
   /// Removes the shape from its drawing.
   virtual void RemoveFromDrawing() = 0;
+  /// The path of the shape in the journal, below that of its drawing.
   std::string JournalPathUnder(const std::string& drawing) const;
 
  private:
@@ -83,7 +87,7 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   const std::string& Remembered(std::optional<std::string>& text, const char* attribute) const;
   bool KeepsItsProportions() const;
   /// Turns TextFrame2.AutoSize off, because the shape gets a fixed size. The left and right margins of a text
-  /// that doesn't wrap become narrow, unless they were set.
+  /// without wrapping become narrow, unless they were set.
   void StopFittingToText();
 
   pugi::xml_node anchor_, object_;

@@ -15,7 +15,7 @@ namespace {
 
 RuntimeError NotFound() { return Refusal("The item with the specified name wasn't found."); }
 
-/// "Rounded Rectangle" of "msoShapeRoundedRectangle".
+/// Returns the name of a new shape: "Rounded Rectangle" for "msoShapeRoundedRectangle".
 std::string NameOf(std::string_view constant) {
   std::string name;
   for (const char c : constant.substr(std::string_view("msoShape").size())) {
@@ -33,7 +33,7 @@ class ShapeRangeObject final : public excel::ShapeRange {
   std::string Name() override { return Only().Name(); }
   double Width() override { return Common(&DrawnShape::Width); }
   double Height() override { return Common(&DrawnShape::Height); }
-  // A property is set on each shape, and each writes its own line in the journal.
+  // A property is set on each shape, and each writes a line to the journal.
   void SetLeft(double points) override {
     for (const auto& shape : shapes_) shape->SetLeft(points);
   }
@@ -58,7 +58,7 @@ class ShapeRangeObject final : public excel::ShapeRange {
     if (shapes_.size() != 1) throw OutOfRange();
     return *shapes_[0];
   }
-  /// The value that all shapes have; error 1004 if they differ.
+  /// Returns the value that all shapes have; error 1004 if they differ.
   template <class Get>
   double Common(const Get& get) const {
     const double first = (shapes_[0].get()->*get)();

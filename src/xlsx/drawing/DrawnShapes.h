@@ -24,17 +24,19 @@ class DrawnShapes : public excel::Shapes, public std::enable_shared_from_this<Dr
                                     double height) override;
   excel::Ref<excel::ShapeRange> Range(const std::vector<std::string>& names) override;
 
-  /// Makes one shape of several shapes of this drawing.
+  /// Groups several shapes of this drawing into one.
   virtual std::shared_ptr<DrawnShape> Group(const std::vector<std::shared_ptr<DrawnShape>>& shapes) = 0;
+  /// The journal of the host's calls.
   virtual const Journal& Log() const = 0;
-  /// The path in the journal of the object that the shapes are drawn on.
+  /// The path in the journal of the object that contains the shapes.
   virtual std::string JournalPath() const = 0;
 
  protected:
-  /// The shape at an index from 0, at the back, to Count - 1.
+  /// The shape at an index from 0 (at the back) to Count - 1.
   virtual std::shared_ptr<DrawnShape> At(std::size_t index) = 0;
-  /// The shape of a name, ignoring case; null if there is none.
+  /// The shape with a name, ignoring case; null if there is none.
   virtual std::shared_ptr<DrawnShape> Find(std::string_view name) = 0;
+  /// Adds a text box to the drawing.
   virtual std::shared_ptr<DrawnShape> NewTextbox(const Frame& frame) = 0;
   /// The shape's name is `name` and a number; `preset` is its geometry in the file (ST_ShapeType).
   virtual std::shared_ptr<DrawnShape> NewAutoShape(std::string_view name, std::string_view preset,

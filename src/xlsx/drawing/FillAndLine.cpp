@@ -19,10 +19,10 @@ namespace {
 
 constexpr double kMostPoints = 1584;
 
-/// The element that holds a fill: the properties of a shape, or those of its outline.
+/// The element that contains a fill: the properties of a shape, or those of its outline.
 enum class Part { kFill, kLine };
 
-/// A group has no outline: error 1004.
+/// Raises error 1004 for a group, which has no outline.
 pugi::xml_node PropertiesOf(const DrawnShape& shape, Part part) {
   const pugi::xml_node properties = shape.Properties();
   if (part == Part::kFill) return properties;
@@ -86,7 +86,7 @@ class LineFormatObject final : public excel::LineFormat {
       SetFill(line, "noFill");
     } else if (const auto fill = FindFill(line); !fill || xml::Is(fill, "noFill")) {
       RemoveFill(line);
-      // The style of a shape gives it a line.
+      // The shape's style defines its outline.
       if (!xml::Child(shape_->Object(), "style"))
         schema::SetVal(SetFill(line, "solidFill"), "schemeClr", "tx1");
     }

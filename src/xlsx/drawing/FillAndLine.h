@@ -9,8 +9,9 @@ namespace plotsmith::xlsx {
 
 class DrawnShape;
 
-/// The fill and the outline of a shape for the port.
+/// The fill of a shape for the port.
 excel::Ref<excel::FillFormat> MakeFill(std::shared_ptr<DrawnShape> shape);
+/// The outline of a shape for the port.
 excel::Ref<excel::LineFormat> MakeLine(std::shared_ptr<DrawnShape> shape);
 
 }  // namespace plotsmith::xlsx

@@ -2,12 +2,12 @@
 
 #include "xlsx/base/Enumerations.h"
 
-/// Enumerations of Excel's object model that shapes have, and how the file says them.
+/// Enumerations of shapes in Excel's object model, and their tokens in the file.
 namespace plotsmith::xlsx {
 
 /// MsoAutoShapeType, ST_ShapeType.
 extern const Enumeration kAutoShapes;
-/// MsoAutoSize, the element of bodyPr that says it.
+/// MsoAutoSize, and the element of bodyPr for each member.
 extern const Enumeration kAutoSizes;
 /// XlHAlign, ST_TextAlignType, and XlVAlign, ST_TextAnchoringType.
 extern const Enumeration kHorizontalAlignments;

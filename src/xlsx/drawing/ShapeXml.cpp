@@ -14,8 +14,8 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// A file may have alternatives for newer and older programs. This takes the first choice that it
-/// knows, as Excel does.
+/// Returns the element itself or, if a file has alternatives for newer and older programs, the first
+/// alternative that is supported, as Excel does.
 pugi::xml_node Chosen(pugi::xml_node node) {
   const auto choice = xml::Child(node, "Choice");
   return choice ? choice : xml::Child(node, "Fallback");
@@ -28,7 +28,7 @@ bool IsOneOf(pugi::xml_node node, std::span<const std::string_view> names) {
   return std::find(names.begin(), names.end(), xml::LocalName(node)) != names.end();
 }
 
-/// The identity and the geometry, with which all new objects begin.
+/// Returns the identity and the geometry, which are the first elements of all new objects.
 std::string Start(std::string_view kind, unsigned id, std::string_view name, std::string_view properties) {
   return "<@nv" + std::string(kind) + "><@cNvPr id=\"" + std::to_string(id) + "\" name=\"" +
          xml::EncodeAttribute(name) + "\"/>" + std::string(properties) + "</@nv" + std::string(kind) + ">";
@@ -113,7 +113,7 @@ unsigned NextShapeId(pugi::xml_node root) {
     }
   } walker;
   root.traverse(walker);
-  constexpr long long kFirst = 2;  // Excel's
+  constexpr long long kFirst = 2;  // as in Excel
   return static_cast<unsigned>(FreeNumber(walker.taken, kFirst, std::numeric_limits<std::int32_t>::max()));
 }
 

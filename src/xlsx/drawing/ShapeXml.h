@@ -6,51 +6,55 @@
 #include <string>
 #include <string_view>
 
-/// The elements of shapes. Sheets and charts have the same ones under different prefixes.
+/// The elements of shapes. Sheets and charts have the same elements with different prefixes.
 namespace plotsmith::xlsx {
 
-/// The place of a shape, in points from the upper left corner of the sheet or the chart.
+/// The position and size of a shape, in points from the upper left corner of the sheet or the chart.
 struct Frame {
   double left = 0, top = 0, width = 0, height = 0;
 
+  /// The right edge.
   double Right() const { return left + width; }
+  /// The bottom edge.
   double Bottom() const { return top + height; }
 };
 
 inline constexpr double kEmuPerPoint = 12700;
+/// Converts points to whole EMU.
 long long Emu(double points);
 /// An attribute in EMU, converted to points.
 double PointsOf(pugi::xml_node node, const char* attribute, double fallback = 0);
-/// Sets two attributes in EMU, a place or an extent, from points.
+/// Sets two attributes, a position or a size, from points to EMU.
 void SetPair(pugi::xml_node node, const char* first, const char* second, double x, double y);
 
-/// Calls `visit` for each anchor of one of the names, from back to front, with the object that it anchors.
+/// Calls `visit` for each anchor with one of the names, from back to front, with the object on it.
 void ForEachAnchor(pugi::xml_node root, std::span<const std::string_view> anchors,
                    const std::function<void(pugi::xml_node anchor, pugi::xml_node object)>& visit);
 /// The object on an anchor, or a null node.
 pugi::xml_node ObjectOf(pugi::xml_node anchor);
-/// The name and the like of an object (cNvPr).
+/// The element with the name, the id and the alternative text of an object (cNvPr).
 pugi::xml_node IdentityOf(pugi::xml_node object);
 /// The properties that only objects of its kind have (cNvSpPr, cNvPicPr), or a null node.
 pugi::xml_node KindPropertiesOf(pugi::xml_node object);
 /// The shape properties (spPr, or a group's grpSpPr), or a null node.
 pugi::xml_node ShapePropertiesOf(pugi::xml_node object);
-/// The link to the chart (c:chart) that an object is the frame of, or a null node.
+/// The link to the chart in an object (c:chart), or a null node.
 pugi::xml_node ChartLinkOf(pugi::xml_node object);
 /// An unused id for a shape of the document.
 unsigned NextShapeId(pugi::xml_node root);
 
-/// Sets the place and extent in the object itself, beside those of its anchor.
+/// Sets the position and size in the object itself, in addition to those of its anchor.
 void SetTransform(pugi::xml_node object, const Frame& frame);
 
-/// Appends an element to the root. "@" in the template stands for the prefix of the drawing's elements and
-/// "~" for that of DrawingML's.
+/// Appends an element to the root. In the template, "@" is replaced by the prefix of the drawing's elements
+/// and "~" by that of DrawingML's.
 pugi::xml_node AppendTemplate(pugi::xml_node root, std::string text, const std::string& prefix,
                               const std::string& drawingMl);
-/// Templates of new objects, which have no place yet. `dress` is inserted behind the shape's geometry.
+/// The template of a text box, without a position. `dress` is inserted after the shape's geometry.
 std::string TextboxTemplate(unsigned id, std::string_view name, std::string_view dress);
+/// The template of an AutoShape. `preset` is its geometry (ST_ShapeType).
 std::string AutoShapeTemplate(unsigned id, std::string_view name, std::string_view preset);
-/// The members of the group have their places in the coordinates of the frame.
+/// The template of a group. The positions of its members are in the coordinates of the frame.
 std::string GroupTemplate(unsigned id, std::string_view name, const Frame& frame);
 
 }  // namespace plotsmith::xlsx

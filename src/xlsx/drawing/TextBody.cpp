@@ -12,13 +12,13 @@
 namespace plotsmith::xlsx {
 namespace {
 
-// The default size of a shape's text in points, which is that of the workbook's usual font. Charts have
-// another one.
+// The default size of a shape's text in points, which is that of the workbook's default font. Charts have a
+// different one.
 constexpr double kUsualSize = 11;
 
 bool IsRun(pugi::xml_node node) { return xml::Is(node, "r") || xml::Is(node, "fld"); }
 
-/// Cuts a run after its first units. The rest becomes a run with the same format. A field isn't cut.
+/// Splits a run after its first units. The rest becomes a run with the same format. A field isn't split.
 void Cut(pugi::xml_node run, std::size_t units) {
   const std::u16string text = runtime::ToUtf16(xml::Text(xml::Child(run, "t")));
   if (!xml::Is(run, "r") || units == 0 || units >= text.size()) return;
@@ -27,8 +27,8 @@ void Cut(pugi::xml_node run, std::size_t units) {
   xml::SetText(xml::Child(rest, "t"), runtime::ToUtf8(text.substr(units)));
 }
 
-/// Calls `visit` with each run, its begin and its end; `visit` may cut the run. Returns the length of the
-/// text.
+/// Calls `visit` with each run, its beginning and its end; `visit` may split the run. Returns the length of
+/// the text.
 template <class Visit>
 std::size_t ForEachRun(const std::vector<pugi::xml_node>& paragraphs, const Visit& visit) {
   std::size_t at = 0;
@@ -107,7 +107,7 @@ pugi::xml_node TextBody::Body() const { return xml::Child(object_, "txBody"); }
 pugi::xml_node TextBody::EnsureBody() {
   if (const auto body = Body()) return body;
   if (!xml::Is(object_, "sp")) throw OutOfRange();
-  // It is the last child, in the namespace of the drawing.
+  // The body is the last child, in the drawing's namespace.
   const pugi::xml_node body = xml::AppendChild(object_, "txBody");
   EnsureParagraph(body);
   return body;
@@ -125,7 +125,7 @@ std::vector<pugi::xml_node> TextBody::EnsureRunProperties(std::size_t start, std
   const std::size_t size = ForEachRun(paragraphs, [&](pugi::xml_node run, std::size_t from, std::size_t to) {
     if (to <= start || from >= end) return;
     if (from < start) {
-      Cut(run, start - from);  // the part inside is the next run
+      Cut(run, start - from);  // the next run is inside the part
       if (xml::Is(run, "r")) return;
     }
     if (to > end) Cut(run, end - from);
@@ -168,7 +168,7 @@ TextBody::Extent TextBody::Measure(const Theme& theme, std::optional<double> wid
       }
       const std::string text = xml::Text(xml::Child(run, "t"));
       for (std::string_view rest = text; !rest.empty();) {
-        // a word and the blank behind it, which may cross the edge
+        // a word with the blank after it, which may cross the edge
         const std::size_t blank = rest.find(' ');
         const std::string_view word = rest.substr(0, blank);
         if (width && x > 0 && x + TextWidth(word, face) > *width) endLine();

@@ -63,7 +63,7 @@ class CharactersObject final : public excel::Characters {
   std::optional<std::size_t> length_;
 };
 
-/// The members that both classes of frames share.
+/// The members of both classes of frames.
 class FrameMembers {
  public:
   FrameMembers(std::shared_ptr<DrawnShape> shape, const char* name) : shape_(std::move(shape)), name_(name) {}
@@ -71,7 +71,7 @@ class FrameMembers {
   void Put(const char* property, const runtime::Variant& value) const {
     shape_->Log().Put([this] { return shape_->JournalPath() + "." + name_; }, property, value);
   }
-  /// Sets a property of the body. A shape that resizes with its text does so.
+  /// Sets a property of the body. A shape that adapts its size to the text is resized.
   template <class Set>
   void Change(const Set& set) const {
     TextBody text(shape_->Object());

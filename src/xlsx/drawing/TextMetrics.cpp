@@ -9,9 +9,8 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// Advance widths in thousandths of an em: U+0020 to U+007E, then U+00A0 to U+00FF. Measured with
-/// scripts/font-widths.py on Liberation Sans and Carlito, which were drawn to have the widths of Arial and
-/// Calibri.
+/// Advance widths in thousandths of an em: U+0020 to U+007E, then U+00A0 to U+00FF. scripts/font-widths.py
+/// has measured them on Liberation Sans and Carlito, whose widths are those of Arial and Calibri.
 using Widths = std::array<std::uint16_t, 95 + 96>;
 
 // clang-format off
@@ -89,7 +88,7 @@ bool IsWide(char16_t unit) {
 double TextWidth(std::string_view text, const TextFace& face) {
   const Metrics& metrics = MetricsOf(face.font);
   const Widths& widths = face.bold ? metrics.bold : metrics.regular;
-  constexpr char16_t kUsual = u'n';  // for characters that the table doesn't have
+  constexpr char16_t kUsual = u'n';  // for characters that aren't in the table
   double thousandths = 0;
   for (const char16_t unit : runtime::ToUtf16(text)) {
     if (unit >= 0x20 && unit <= 0x7E) {

@@ -13,14 +13,14 @@
 namespace plotsmith::xlsx {
 namespace {
 
-constexpr double kWhole = 100000;  // percentages of DrawingML count thousandths
+constexpr double kWhole = 100000;  // DrawingML's percentages are in thousandths
 constexpr double kDegree = 60000;
 
 /// The usual colour map (ECMA-376-1, 20.1.6.2), which nearly every workbook has.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 4> kColorMap = {
     {{"bg1", "lt1"}, {"tx1", "dk1"}, {"bg2", "lt2"}, {"tx2", "dk2"}}};
 
-/// The preset colours (ECMA-376-1, 20.1.10.48) that programs write; RRGGBB.
+/// The preset colours that programs write (ECMA-376-1, 20.1.10.48), as RRGGBB.
 constexpr std::array<std::pair<std::string_view, std::string_view>, 24> kPresets = {
     {{"black", "000000"},   {"white", "FFFFFF"},   {"red", "FF0000"},      {"green", "008000"},
      {"blue", "0000FF"},    {"yellow", "FFFF00"},  {"cyan", "00FFFF"},     {"aqua", "00FFFF"},
@@ -29,7 +29,8 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 24> kPresets
      {"purple", "800080"},  {"teal", "008080"},    {"lime", "00FF00"},     {"orange", "FFA500"},
      {"brown", "A52A2A"},   {"pink", "FFC0CB"},    {"darkBlue", "00008B"}, {"darkRed", "8B0000"}}};
 
-/// A percentage of DrawingML as a fraction: thousandths, or in Strict files a text such as "65%".
+/// Returns a percentage of DrawingML as a fraction. It is a number of thousandths, or a text such as "65%" in
+/// Strict files.
 double Fraction(pugi::xml_node node, const char* name, double fallback) {
   const std::string text = xml::Attribute(node, name);
   if (text.ends_with('%')) return xml::ParseDouble(text.substr(0, text.size() - 1)).value_or(0) / 100;
@@ -98,7 +99,7 @@ Rgb InLinearLight(const Rgb& rgb, const Change& change) {
   return {Gamma(change(Linear(rgb.red))), Gamma(change(Linear(rgb.green))), Gamma(change(Linear(rgb.blue)))};
 }
 
-/// The modifications inside a colour element, in their order (ECMA-376-1, 20.1.2.3).
+/// Applies the modifications inside a colour element, in their order (ECMA-376-1, 20.1.2.3).
 std::int32_t Modified(std::int32_t color, pugi::xml_node element) {
   Rgb rgb = Channels(color);
   for (const pugi::xml_node& change : element.children()) {
@@ -131,7 +132,7 @@ std::int32_t Modified(std::int32_t color, pugi::xml_node element) {
       rgb = {1 - rgb.red, 1 - rgb.green, 1 - rgb.blue};
       continue;
     } else {
-      continue;  // Excel's colours have no transparency
+      continue;  // Excel's object model has no transparent colours
     }
     hsl.lightness = std::clamp(hsl.lightness, 0.0, 1.0);
     rgb = ToRgb(hsl);
@@ -168,7 +169,7 @@ void Theme::Read(std::string_view part) {
   }
   const pugi::xml_node root = xml::Root(document);
   const auto elements = xml::Child(root, "themeElements");
-  const pugi::xml_node parent = elements ? elements : root;  // an override has them as its children
+  const pugi::xml_node parent = elements ? elements : root;  // the colours in an override
   for (const pugi::xml_node& entry : xml::Child(parent, "clrScheme").children()) {
     if (const auto color = Color(entry)) colors_[std::string(xml::LocalName(entry))] = *color;
   }

@@ -9,26 +9,26 @@
 
 namespace plotsmith::xlsx {
 
-/// The colours and fonts of a theme (DrawingML), and the meaning of colour elements under it. Colours are
-/// red + 256 * green + 65536 * blue.
+/// The colours and fonts of a theme (DrawingML), which determine the colours of elements. Colours are red +
+/// 256 * green + 65536 * blue.
 class Theme {
  public:
-  /// Reads the XML of a theme part. An empty text, or one that can't be read, gives Office's colours and
-  /// fonts.
+  /// Reads the XML of a theme part. An empty or unreadable text gives Office's colours and fonts.
   explicit Theme(std::string_view part);
   /// The theme with the colours of a theme override part.
   Theme WithOverride(std::string_view part) const;
 
-  /// The typefaces of the scheme.
+  /// The Latin typeface of headings.
   const std::string& MajorFont() const { return major_; }
+  /// The Latin typeface of body text.
   const std::string& MinorFont() const { return minor_; }
-  /// The typeface that text properties name: "+mn-lt" is the minor font.
+  /// The typeface for a name in text properties: "+mn-lt" is the minor font.
   std::string Typeface(std::string_view name) const;
 
-  /// A colour by its name in the scheme or in the usual colour map: "accent1", "tx1", "dk1".
+  /// A colour by its name in the scheme or in the default colour map: "accent1", "tx1", "dk1".
   std::optional<std::int32_t> SchemeColor(std::string_view name) const;
-  /// The colour in an element such as a:solidFill or a:fgClr, with its modifications applied; nothing if
-  /// there is none, or if it depends on something else. `map` is the chart's own colour map, or a null node.
+  /// The colour in an element such as a:solidFill or a:fgClr, with its modifications; absent if there is
+  /// none, or if it depends on something unknown. `map` is the chart's own colour map, or a null node.
   std::optional<std::int32_t> Color(pugi::xml_node holder, pugi::xml_node map = {}) const;
 
  private:

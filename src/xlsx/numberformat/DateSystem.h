@@ -4,21 +4,21 @@
 
 namespace plotsmith::xlsx {
 
-/// How the workbook counts days: 1 is 1 January 1900 (with the phantom 29 February 1900), or 0 is 1 January
-/// 1904.
+/// The date system of a workbook: serial number 1 is 1 January 1900 (with the non-existent 29 February 1900),
+/// or 0 is 1 January 1904.
 enum class DateSystem { k1900, k1904 };
 
-// In the system of 1900:
-/// 31 December 9999, the last day of either system.
+// Serial numbers of the 1900 date system:
+/// 31 December 9999, the last day of both systems.
 inline constexpr std::int32_t kLastSerial = 2'958'465;
-/// The day that the system of 1904 calls 0.
+/// Day 0 of the 1904 system.
 inline constexpr std::int32_t kSerialOf1904 = 1462;
 /// 1 January 1970.
 inline constexpr std::int32_t kSerialOf1970 = 25'569;
-/// 29 February 1900, which never was.
+/// 29 February 1900, which doesn't exist.
 inline constexpr std::int32_t kPhantomLeapDay = 60;
 
-/// What a system takes off a serial of the system of 1900.
+/// The difference between a serial number of the 1900 system and that of the given system.
 constexpr std::int32_t SerialOffset(DateSystem dates) {
   return dates == DateSystem::k1904 ? kSerialOf1904 : 0;
 }

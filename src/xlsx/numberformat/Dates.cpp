@@ -15,7 +15,7 @@ using std::chrono::days;
 using std::chrono::sys_days;
 
 constexpr std::int64_t kDaySeconds = 24 * 60 * 60;
-constexpr sys_days kSerialZero{std::chrono::year{1899} / 12 / 30};  // as counted from March 1900 on
+constexpr sys_days kSerialZero{std::chrono::year{1899} / 12 / 30};  // serial 0, from March 1900 on
 
 constexpr std::string_view kMonths[] = {"January",   "February", "March",    "April",
                                         "May",       "June",     "July",     "August",
@@ -29,10 +29,10 @@ constexpr std::string_view kWeekdays[] = {"Sunday",   "Monday", "Tuesday", "Wedn
 struct Era {
   std::uint16_t language;
   sys_days begin;
-  std::string_view names[3];  // by the number of letters that ask for it
+  std::string_view names[3];  // by number of letters
 };
 
-/// The latest first.
+/// The latest era comes first.
 constexpr Era kEras[] = {
     {0x411, sys_days{std::chrono::year{2019} / 5 / 1}, {"R", "令", "令和"}},
     {0x411, sys_days{std::chrono::year{1989} / 1 / 8}, {"H", "平", "平成"}},
@@ -48,11 +48,11 @@ struct Date {
   int year;
   int month;  // from 1
   int day;
-  sys_days point;  // the real day next to a phantom
+  sys_days point;  // the real day next to it, if the date is a phantom
 };
 
 Date GregorianDate(std::int64_t serial) {
-  // January and February 1900 count one less, since the phantom day is yet to come.
+  // In January and February 1900 the serial number is one lower, because the phantom day comes after them.
   const sys_days point = kSerialZero + days{serial <= kPhantomLeapDay ? serial + 1 : serial};
   if (serial == 0) return {1900, 1, 0, point};
   if (serial == kPhantomLeapDay) return {1900, 2, 29, point};
@@ -61,7 +61,8 @@ Date GregorianDate(std::int64_t serial) {
           static_cast<int>(static_cast<unsigned>(date.day())), point};
 }
 
-/// The arithmetical calendar: months of 30 and 29 days in turn, eleven years out of thirty with a day more.
+/// Converts to the arithmetical Hijri calendar: months have 30 and 29 days in turn, and eleven years out of
+/// thirty have an additional day.
 Date HijriDate(std::int64_t serial) {
   constexpr sys_days kEpoch{std::chrono::year{622} / 7 / 18};
   constexpr std::int64_t kCycleYears = 30;
@@ -73,7 +74,7 @@ Date HijriDate(std::int64_t serial) {
   if (yearStart(year + 1) <= since) ++year;
   if (yearStart(year) > since) --year;
   const std::int64_t day = since - yearStart(year);
-  // The last month takes the day more.
+  // The additional day belongs to the last month.
   const std::int64_t month = std::min<std::int64_t>(day * 2 / 59, 11);
   return {static_cast<int>(year), static_cast<int>(month + 1),
           static_cast<int>(day - (59 * month + 1) / 2 + 1), point};
@@ -86,13 +87,13 @@ const Era* FindEra(std::uint16_t language, sys_days day) {
   return era == std::end(kEras) ? nullptr : era;
 }
 
-/// A moment, already rounded to what the section shows.
+/// A moment, rounded to the precision that the section shows.
 struct Moment {
   Date date;
-  int weekday;            // from Sunday
+  int weekday;            // 0 for Sunday
   std::int64_t second;    // of the day
-  std::int64_t elapsed;   // seconds since the day zero
-  std::int64_t fraction;  // of a second, in as many digits as the section shows
+  std::int64_t elapsed;   // seconds since day 0
+  std::int64_t fraction;  // of a second, with as many digits as the section shows
   Calendar calendar;
 };
 
@@ -195,8 +196,8 @@ void AppendDateToken(std::string& out, const Section& section, const Token& toke
 
 bool IsField(Kind kind) { return kind >= Kind::kYear && kind <= Kind::kSecond; }
 
-/// Tells minutes from months: m and mm are minutes behind hours, before seconds, or behind seconds and a
-/// colon.
+/// Distinguishes minutes from months: m and mm are minutes after hours, before seconds, and after seconds
+/// with a colon.
 void FindMinutes(Section& section) {
   auto& tokens = section.tokens;
   Kind next = Kind::kLiteral;
@@ -219,7 +220,7 @@ void FindMinutes(Section& section) {
   }
 }
 
-/// The longest run of letters with a meaning of its own.
+/// Returns the largest number of equal letters that has its own meaning.
 std::uint32_t MostSize(Kind kind) {
   switch (kind) {
     case Kind::kHour:
@@ -236,11 +237,11 @@ std::uint32_t MostSize(Kind kind) {
     case Kind::kMonth:
       return 5;
     default:
-      return std::numeric_limits<std::uint32_t>::max();  // a text
+      return std::numeric_limits<std::uint32_t>::max();  // literal text
   }
 }
 
-/// The number of zeros that follow a token.
+/// Returns the number of zeros directly after a token.
 std::uint32_t ZerosBehind(const std::vector<Token>& tokens, std::size_t index) {
   std::uint32_t zeros = 0;
   while (++index < tokens.size() && tokens[index].kind == Kind::kDigit && tokens[index].symbol == '0')
@@ -248,7 +249,8 @@ std::uint32_t ZerosBehind(const std::vector<Token>& tokens, std::size_t index) {
   return zeros;
 }
 
-/// A point with zeros behind it shows fractions of a second, after any other token. False for too many zeros.
+/// A decimal point followed by zeros shows fractions of a second, after any token. Returns false if there are
+/// too many zeros.
 bool SettlePoint(Section& section, Token& token, std::uint32_t zeros) {
   constexpr std::uint32_t kMostSubseconds = 3;
   if (zeros > kMostSubseconds) return false;
@@ -261,7 +263,7 @@ bool SettlePoint(Section& section, Token& token, std::uint32_t zeros) {
   return true;
 }
 
-/// The moment of a serial number in a section's calendar; nothing behind the last day.
+/// Returns the moment of a serial number in a section's calendar; absent after the last day.
 std::optional<Moment> MomentOf(const Section& section, double magnitude, DateSystem dates) {
   if (magnitude > static_cast<double>(kLastSerial + 1)) return std::nullopt;
   const double whole = std::floor(magnitude);
@@ -317,7 +319,7 @@ bool SettleDate(Section& section) {
         section.twelveHours = true;
         break;
       case Kind::kHour:
-        // An elapsed time in minutes or seconds has no hours, and one in seconds has no minutes.
+        // An elapsed time in minutes or seconds shows no hours, and one in seconds shows no minutes.
         if (section.elapsed == Kind::kMinute || section.elapsed == Kind::kSecond) return false;
         break;
       case Kind::kMinute:

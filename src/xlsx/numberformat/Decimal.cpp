@@ -15,7 +15,7 @@ Decimal::Decimal(double magnitude) {
       std::to_chars(text, text + sizeof text, magnitude, std::chars_format::scientific, kDigits - 1).ptr;
   digits_[0] = text[0];
   std::copy_n(text + 2, kDigits - 1, digits_.begin() + 1);
-  const char* exponent = text + kDigits + 2;  // behind d.dd...e
+  const char* exponent = text + kDigits + 2;  // after d.dd...e
   if (*exponent == '+') ++exponent;
   int highest = 0;
   std::from_chars(exponent, end, highest);

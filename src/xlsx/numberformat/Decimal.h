@@ -6,15 +6,17 @@
 
 namespace plotsmith::xlsx {
 
-/// A magnitude, never negative, as Excel sees it: 15 significant decimal digits.
+/// A number that isn't negative, with Excel's precision of 15 significant decimal digits.
 class Decimal {
  public:
+  /// Converts a number that isn't negative.
   explicit Decimal(double magnitude);
 
+  /// Returns true if no digit is left.
   bool IsZero() const { return count_ == 0; }
-  /// Multiply by a power of ten.
+  /// Multiplies by a power of ten.
   void Scale(int power) { point_ += power; }
-  /// Round to so many decimals, halves up.
+  /// Rounds to a number of decimals; halves are rounded up.
   void Round(int decimals);
 
   /// The digit at a power of ten.
@@ -22,28 +24,32 @@ class Decimal {
     const int index = point_ - 1 - power;
     return index >= 0 && index < count_ ? digits_[static_cast<std::size_t>(index)] : '0';
   }
-  /// The powers of the first and the last digit that isn't zero; not for zero.
+  /// The power of ten of the first digit that isn't zero. Not defined for zero.
   int Highest() const { return point_ - 1; }
+  /// The power of ten of the last digit that isn't zero. Not defined for zero.
   int Lowest() const { return point_ - count_; }
-  /// How many digits stand before the decimal point.
+  /// Number of digits before the decimal point.
   int IntegerDigits() const { return IsZero() || point_ < 0 ? 0 : point_; }
 
-  /// Without an exponent, with as many digits as there are.
+  /// Appends all digits, without an exponent.
   void AppendTo(std::string& out) const;
 
  private:
   std::array<char, 15> digits_;
   int count_ = 0;
-  int point_ = 0;  // the number is 0.d1d2d3... times ten to this
+  int point_ = 0;  // the number is 0.d1d2d3... times ten to the power of this
 };
 
-/// Writes the integer part of a number into its placeholders, from the left. Digits that have no placeholder
-/// come with the first.
+/// Writes the integer part of a number into its placeholders, from left to right. Digits without a
+/// placeholder are written with the first one.
 class IntegerWriter {
  public:
+  /// Makes a writer. `digits` is the number of digits of the integer part; `grouping` inserts thousands
+  /// separators.
   IntegerWriter(std::string& out, const Decimal& number, int digits, int placeholders, bool grouping)
       : out_(out), number_(number), digits_(digits), power_(placeholders - 1), grouping_(grouping) {}
 
+  /// Writes the digits of the next placeholder ("0", "#" or "?").
   void Next(char placeholder);
 
  private:

@@ -10,8 +10,8 @@ namespace {
 
 using Kind = Token::Kind;
 
-/// Settles the denominator behind the slash, which is placeholders or a number. Returns the index behind it,
-/// 0 if it is neither.
+/// Assigns the tokens after the slash to the denominator, which is either placeholders or a number. Returns
+/// the index after it, 0 if it is neither.
 std::size_t SettleDenominator(Section& section, std::size_t begin) {
   auto& tokens = section.tokens;
   while (tokens[begin].kind == Kind::kLiteral) ++begin;
@@ -34,7 +34,7 @@ std::size_t SettleDenominator(Section& section, std::size_t begin) {
   return end;
 }
 
-/// Settles the placeholders nearest to the slash as the numerator, and returns the index of the first of
+/// Assigns the placeholders directly before the slash to the numerator, and returns the index of the first of
 /// them. The placeholders before them are the integer part.
 std::size_t SettleNumerator(Section& section, std::size_t slash) {
   auto& tokens = section.tokens;
@@ -52,8 +52,8 @@ struct Ratio {
   double denominator;
 };
 
-/// Excel's approximation of a number below one: the last convergent of the continued fraction whose
-/// denominator fits. This isn't always the nearest fraction with such a denominator.
+/// Returns Excel's approximation of a number below one: the last convergent of its continued fraction whose
+/// denominator is small enough. It isn't always the nearest fraction with such a denominator.
 Ratio Approximate(double number, double most) {
   constexpr double kNothing = 1e-9;
   Ratio before{1, 0};
@@ -71,7 +71,8 @@ Ratio Approximate(double number, double most) {
   return last;
 }
 
-/// A number as a whole part and a fraction below one, or as one fraction if the section has no whole part.
+/// A number as an integer part and a fraction below one, or as one fraction if the section has no integer
+/// part.
 struct MixedNumber {
   double whole;
   Ratio ratio;
@@ -102,7 +103,7 @@ MixedNumber MixedNumberOf(const Section& section, double magnitude) {
   return {whole, ratio};
 }
 
-/// Writes a denominator, which is aligned left in its placeholders.
+/// Writes a denominator, left-aligned in its placeholders.
 void AppendDenominator(std::string& out, const Section& section, std::size_t begin,
                        const Decimal& denominator) {
   int missing = section.denominators - denominator.IntegerDigits();
@@ -124,7 +125,8 @@ void AppendBlanks(std::string& out, std::string_view insteadOf) {
 
 }  // namespace
 
-// Between the slash, the placeholders before it and the denominator behind it, there may only be literals.
+// Finds the slash of a fraction. Only literals may be between the slash and the placeholders before it, and
+// between the slash and the denominator.
 std::size_t FindFractionSlash(const std::vector<Token>& tokens) {
   bool behindDigits = false;
   for (std::size_t i = 0; i < tokens.size(); ++i) {
@@ -189,7 +191,7 @@ void AppendFractionSection(std::string& out, const Section& section, double magn
   const bool isWhole = section.hasIntegerPart && ratio.numerator == 0;
   const Decimal integer(whole);
   const Decimal numerator(ratio.numerator);
-  // A zero stays visible if no fraction follows it.
+  // A zero is shown if no fraction follows it.
   IntegerWriter integers(out, integer,
                          isWhole ? std::max(integer.IntegerDigits(), 1) : integer.IntegerDigits(),
                          section.integers, section.grouping);

@@ -9,14 +9,14 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// What a cell shows that can't show its number.
+/// Text of a cell that can't show its number.
 constexpr std::string_view kOverflow = "########";
 
-/// Of a long text Excel displays so many characters in a cell. A code that repeats the cell's text over and
-/// over stops there; a text that is shown once is shown whole.
+/// Maximum number of characters that Excel displays in a cell. A code that repeats the cell's text many times
+/// stops there; a text that is shown once is complete.
 constexpr std::size_t kMostRepeated = 1024;
 
-/// The formats that a file names by a number only.
+/// The formats that a file refers to only by number.
 struct Builtin {
   int id;
   std::string_view code;
@@ -140,7 +140,7 @@ void NumberFormat::AppendNumber(std::string& out, double value, DateSystem dates
   }
   const Section* section = program_->Select(value);
   if (!section) {
-    // A lone condition leaves the other numbers to General, two of them leave them without a format.
+    // With one condition, the other numbers use General; with two conditions, they have no format.
     if (program_->numbers.size() < 2)
       AppendGeneral(out, value);
     else
@@ -158,7 +158,7 @@ void NumberFormat::AppendNumber(std::string& out, double value, DateSystem dates
       AppendNumberSection(out, *section, magnitude, negative);
       return;
     case Section::Kind::kDate:
-      // The system of 1900 has no negative dates, whatever the section would make of them.
+      // The 1900 date system has no negative dates in any section.
       if ((value < 0 && dates == DateSystem::k1900) ||
           !AppendDateSection(out, *section, magnitude, negative, dates))
         out += kOverflow;
@@ -188,7 +188,7 @@ void NumberFormat::AppendText(std::string& out, std::string_view text) const {
     case Section::Kind::kGeneral:
       AppendLiterals(out, *program_->text, Token::Kind::kGeneral, text);
       return;
-    default:  // a number's section has no place for it
+    default:  // a section for numbers contains no text placeholder
       out += text;
       return;
   }

@@ -14,13 +14,13 @@ namespace {
 
 using Kind = Token::Kind;
 
-/// The number before the E, and the exponent.
+/// The mantissa and the exponent.
 struct Scientific {
   Decimal mantissa;
   int exponent;
 };
 
-/// The exponent is a multiple of `period`, which is also the greatest number of digits before the decimal
+/// The exponent is a multiple of `period`, which is also the maximum number of digits before the decimal
 /// point.
 Scientific MakeScientific(const Decimal& number, int period, int decimals) {
   if (number.IsZero()) return {number, 0};
@@ -30,13 +30,13 @@ Scientific MakeScientific(const Decimal& number, int period, int decimals) {
     Scientific result{number, exponent};
     result.mantissa.Scale(-exponent);
     result.mantissa.Round(decimals);
-    if (result.mantissa.IntegerDigits() <= period) return result;  // rounding may have made 10.0 of 9.99
+    if (result.mantissa.IntegerDigits() <= period) return result;  // rounding may have changed 9.99 to 10.0
   }
 }
 
-/// Settles a comma behind a digit placeholder or the decimal point: a thousands separator if another digit
-/// follows at once, else a division by a thousand for each, at the end of the integer part or of the number.
-/// `digitFollows` says whether any digit follows at all.
+/// Decides the meaning of a comma after a digit placeholder or the decimal point. It is a thousands separator
+/// if another digit follows directly; otherwise, at the end of the integer part or of the number, each comma
+/// divides by a thousand. `digitFollows` is true if any digit follows.
 void SettleComma(Section& section, std::size_t index, bool inIntegers, bool digitFollows) {
   const auto& tokens = section.tokens;
   const Kind next = index + 1 < tokens.size() ? tokens[index + 1].kind : Kind::kLiteral;
@@ -46,8 +46,8 @@ void SettleComma(Section& section, std::size_t index, bool inIntegers, bool digi
     section.scale -= 3 * tokens[index].symbol;
 }
 
-/// The index of the last digit placeholder before the exponent, 0 if there is none; nothing if the section
-/// has several exponents.
+/// Returns the index of the last digit placeholder before the exponent, 0 if there is none; absent if the
+/// section has several exponents.
 std::optional<std::size_t> LastDigitOfMantissa(const std::vector<Token>& tokens) {
   bool inExponent = false;
   std::size_t lastDigit = 0;
@@ -58,7 +58,7 @@ std::optional<std::size_t> LastDigitOfMantissa(const std::vector<Token>& tokens)
   return lastDigit;
 }
 
-/// Makes a digit placeholder one of a part of the number, and counts it.
+/// Assigns a digit placeholder to a part of the number, and counts it.
 void SettleDigit(Section& section, Token& token, Kind part) {
   token.kind = part;
   int& count = part == Kind::kInteger   ? section.integers
@@ -67,7 +67,7 @@ void SettleDigit(Section& section, Token& token, Kind part) {
   ++count;
 }
 
-/// Settles the tokens of a plain or a scientific number.
+/// Assigns the tokens of a plain or a scientific number.
 bool SettlePlainNumber(Section& section) {
   auto& tokens = section.tokens;
   const auto lastDigit = LastDigitOfMantissa(tokens);
@@ -135,7 +135,7 @@ void AppendGeneral(std::string& out, double value) {
   }
   if (value < 0) out += '-';
   const double magnitude = std::fabs(value);
-  constexpr int kMostDigits = 11;  // 10 if there is a decimal point
+  constexpr int kMostDigits = 11;  // 10 with a decimal point
   constexpr double kMostFixed = 1e11;
   if (magnitude < kMostFixed && magnitude == std::floor(magnitude)) {
     char text[kMostDigits + 1];
@@ -144,7 +144,7 @@ void AppendGeneral(std::string& out, double value) {
   }
   const Decimal number(magnitude);
   const int highest = number.Highest();
-  // Numbers below 1E-4 are written without an exponent only if they lose no digit.
+  // Numbers below 1E-4 are written without an exponent only if no digit is lost.
   const int decimals = highest < 0 ? kMostDigits - 2 : std::max(kMostDigits - 2 - highest, 0);
   if (highest < kMostDigits && (highest >= -4 || -number.Lowest() <= decimals)) {
     Decimal rounded = number;
@@ -164,7 +164,7 @@ void AppendGeneral(std::string& out, double value) {
 
 namespace {
 
-/// Writes a number into the tokens of a section, from the left.
+/// Writes a number into the tokens of a section, from left to right.
 class NumberWriter {
  public:
   NumberWriter(std::string& out, const Section& section, const Scientific& number)
@@ -197,7 +197,7 @@ class NumberWriter {
         exponentSign_ = exponent_ < 0 ? '-' : token.symbol == '+' ? '+' : '\0';
         break;
       case Kind::kExponentDigit:
-        // There may be literals between the E and the sign.
+        // There may be literals between the E and the exponent's sign.
         if (exponentSign_) out_ += exponentSign_;
         exponentSign_ = 0;
         exponents_.Next(token.symbol);
@@ -209,7 +209,7 @@ class NumberWriter {
   }
 
  private:
-  /// A scientific zero fills its integer part.
+  /// In scientific format, a zero fills the integer part.
   int IntegerDigits() const {
     const bool fills = section_.kind == Section::Kind::kScientific && number_.IsZero();
     return fills ? std::max(section_.integers, 1) : number_.IntegerDigits();
@@ -231,7 +231,7 @@ class NumberWriter {
   Decimal exponentDigits_;
   int digits_;  ///< before the decimal point
   IntegerWriter integers_, exponents_;
-  char exponentSign_ = 0;  ///< still to be written
+  char exponentSign_ = 0;  ///< if it isn't written yet
   int decimalPower_ = -1;  ///< of the next decimal
 };
 

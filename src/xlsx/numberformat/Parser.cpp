@@ -12,7 +12,7 @@ namespace {
 
 using Kind = Token::Kind;
 
-/// Far above what Excel lets anybody type (255), far below what would hurt.
+/// Longer than any code that Excel accepts (255), and short enough to be parsed quickly.
 constexpr std::size_t kMaxCodeSize = 1024;
 constexpr std::size_t kMaxSections = 4;
 
@@ -32,7 +32,8 @@ bool Equals(std::string_view text, std::string_view lowerCase) {
   return text.size() == lowerCase.size() && StartsWith(text, lowerCase);
 }
 
-/// The size of the first character of a text that isn't empty; a byte that isn't UTF-8 counts as one.
+/// Returns the size of the first character of a text, which must not be empty. A byte that isn't UTF-8 counts
+/// as a character.
 std::size_t CharacterSize(std::string_view text) {
   const auto lead = static_cast<unsigned char>(text[0]);
   const std::size_t wanted = lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
@@ -73,7 +74,7 @@ std::optional<Condition> ParseCondition(std::string_view text) {
   return condition;
 }
 
-/// What a sign means for itself.
+/// Returns the meaning of a single sign.
 Kind KindOf(char c) {
   switch (Lower(c)) {
     case '0':
@@ -111,7 +112,7 @@ Kind KindOf(char c) {
   }
 }
 
-/// The calendar part of a locale.
+/// Evaluates the calendar part of a locale.
 void UseCalendar(Section& section, std::uint32_t calendar) {
   constexpr std::uint32_t kJapanese = 3;
   constexpr std::uint32_t kTaiwanese = 4;
@@ -125,14 +126,14 @@ void UseCalendar(Section& section, std::uint32_t calendar) {
   if (calendar == kBuddhist) section.yearOffset = 543;
 }
 
-/// Reads one section after the other.
+/// Reads the sections one after the other.
 class Reader {
  public:
   explicit Reader(std::string_view code) : code_(code) {}
 
-  /// Reads up to the semicolon or the end. False if the section is refused.
+  /// Reads up to the semicolon or the end. Returns false if the section is invalid.
   bool ReadSection(Section& section);
-  /// Steps over the semicolon behind a section; false at the end of the code.
+  /// Skips the semicolon after a section; returns false at the end of the code.
   bool NextSection() {
     if (position_ >= code_.size()) return false;
     ++position_;
@@ -151,7 +152,7 @@ class Reader {
   bool UseSystemFormat(std::string_view code);
 
   void Add(Kind kind, std::string_view text, char symbol = 0);
-  /// As many of the same letter as stand here.
+  /// Returns the run of equal letters at the current position.
   std::string_view Run() const;
 
   std::string_view code_;
@@ -159,7 +160,7 @@ class Reader {
   Section* section_ = nullptr;
   bool hasBracket_ = false;
   bool hasColor_ = false;
-  bool hasField_ = false;  // anything but literals
+  bool hasField_ = false;  // anything other than literals
   bool hasDigit_ = false;
   std::string_view systemFormat_;
   std::size_t literalLetterEnd_ = 0;
@@ -189,7 +190,7 @@ bool Reader::ReadSection(Section& section) {
     if (!ReadToken()) return false;
   }
   if (!systemFormat_.empty()) return UseSystemFormat(systemFormat_);
-  // Only a colour or a condition: numbers are shown as ever.
+  // The section has only a colour or a condition, so numbers are shown in General format.
   if (section.tokens.empty() && hasBracket_) Add(Kind::kGeneral, {});
   return SettleSection();
 }
@@ -205,7 +206,7 @@ bool Reader::ReadToken() {
   constexpr std::string_view kChineseHalves = "上午/下午";
   std::string_view text = rest.substr(0, CharacterSize(rest));
   if (c == ',') {
-    constexpr std::size_t kMost = 100;  // leaves nothing of any number
+    constexpr std::size_t kMost = 100;  // this many make any number zero
     const std::size_t count = Run().size();
     Add(Kind::kComma, text, static_cast<char>(std::min(count, kMost)));
     position_ += count;
@@ -221,8 +222,8 @@ bool Reader::ReadToken() {
   return true;
 }
 
-/// A literal character, one to be as wide as, or one to fill with. Without a cell's width there is nothing to
-/// fill, and every character is a blank wide.
+/// Reads a literal character, the width of a character, or a fill character. The cell's width isn't known, so
+/// nothing is filled, and each width is a blank.
 bool Reader::ReadEscape() {
   const std::string_view rest = Rest();
   if (rest.size() < 2) return false;
@@ -258,7 +259,7 @@ bool Reader::ReadBracket() {
     return true;
   }
 
-  // The rest says something about the whole section and stands ahead of it.
+  // These brackets apply to the whole section and must come first.
   if (hasField_) return false;
   hasBracket_ = true;
   if (content[0] == '<' || content[0] == '=' || content[0] == '>') {
@@ -267,11 +268,12 @@ bool Reader::ReadBracket() {
     return section_->condition.has_value();
   }
   if (IsColor(content)) return !std::exchange(hasColor_, true);
-  // Other numerals for the digits, which en-US hasn't got.
+  // Codes for other numerals; en-US has none.
   return content.size() == 6 && StartsWith(content, "dbnum") && content[5] >= '1' && content[5] <= '4';
 }
 
-/// A currency text and a locale: numerals, calendar and language, two, two and four hexadecimal digits.
+/// Reads a currency text and a locale: numerals, calendar and language, with two, two and four hexadecimal
+/// digits.
 bool Reader::ReadLocale(std::string_view content) {
   hasBracket_ = true;
   const std::size_t dash = content.find('-');
@@ -283,7 +285,7 @@ bool Reader::ReadLocale(std::string_view content) {
   const bool isNumber = error == std::errc() && end == locale.data() + locale.size();
   if (Equals(locale, "x-sysdate") || (isNumber && id == 0xF800)) systemFormat_ = kSystemDate;
   if (Equals(locale, "x-systime") || (isNumber && id == 0xF400)) systemFormat_ = kSystemTime;
-  if (!isNumber) return true;  // a name; its language makes no difference
+  if (!isNumber) return true;  // a name; its language has no effect
 
   section_->language = static_cast<std::uint16_t>(id & 0xFFFF);
   UseCalendar(*section_, id >> 16 & 0xFF);
@@ -298,7 +300,7 @@ bool Reader::ReadLetter() {
     return true;
   };
   if (StartsWith(rest, "general")) return take(Kind::kGeneral, rest.substr(0, 7));
-  // The long form always shows in capitals, the short one as it is written.
+  // The long form is always shown in capitals, the short one as it is written.
   if (StartsWith(rest, "am/pm")) return take(Kind::kAmPm, "AM/PM");
   if (StartsWith(rest, "a/p")) return take(Kind::kAmPm, rest.substr(0, 3));
   if (hasDigit_ && (rest.starts_with("E+") || rest.starts_with("E-")))
@@ -316,7 +318,7 @@ bool Reader::ReadLetter() {
   }
   const std::string_view run = Run();
   if (kind != Kind::kBuddhistYear) return take(kind, run);
-  // Inside a word it is a text that somebody forgot to quote, no Buddhist year.
+  // Inside a word, the letter is text that was left unquoted, and not a Buddhist year.
   if (behindLiteral) return false;
   if (StartsWith(rest, "b1") || StartsWith(rest, "b2")) {
     section_->calendar = rest[1] == '2' ? Calendar::kHijri : Calendar::kGregorian;
@@ -359,7 +361,7 @@ bool Reader::SettleSection() {
   return true;
 }
 
-/// The conditions that a code leaves unsaid: positive, negative and other numbers, or fewer classes.
+/// Completes missing conditions: positive, negative and other numbers, or fewer classes.
 void CompleteConditions(std::vector<Section>& numbers) {
   using Operator = Condition::Operator;
   if (numbers.size() < 2) return;
@@ -369,8 +371,8 @@ void CompleteConditions(std::vector<Section>& numbers) {
   if (hasThird && !numbers[1].condition) numbers[1].condition = Condition{Operator::kLess, 0};
 }
 
-/// Finds the sections that only negative numbers get to. Which section a number gets to can only change at a
-/// limit or at zero, so it's enough to try these and their neighbours.
+/// Finds the sections that only negative numbers reach. The section of a number can change only at a limit or
+/// at zero, so it is enough to try these and their neighbours.
 void MarkNegativeSections(NumberFormat::Program& program) {
   std::vector<double> samples;
   const auto tryAround = [&](double limit) {

@@ -11,19 +11,20 @@
 
 namespace plotsmith::xlsx {
 
-/// One step of writing a value. What a digit placeholder means is settled while parsing, so that writing is
-/// one walk over the tokens. Each keeps its text, so that a sign without a meaning turns into a literal by
-/// its kind.
+/// A step of writing a value. The parser determines the meaning of each digit placeholder, so that a value is
+/// written in one pass over the tokens. Each token keeps its text, so that a sign without a meaning can
+/// become a literal.
 struct Token {
+  /// The meaning of a token.
   enum class Kind : std::uint8_t {
     kLiteral,
     kText,     // @
     kGeneral,  // the word General
-    // Numbers; the placeholders keep their sign 0, # or ? in `symbol`.
+    // Numbers. Placeholders keep their sign (0, # or ?) in `symbol`.
     kInteger,
     kPoint,
     kDecimal,
-    kExponent,  // E; `symbol` is the + or - behind it
+    kExponent,  // E; `symbol` is the + or - after it
     kExponentDigit,
     kNumerator,
     kDenominator,
@@ -35,14 +36,14 @@ struct Token {
     kMinute,
     kSecond,
     kSubsecond,
-    kAmPm,  // the text holds both marks, "AM/PM"
+    kAmPm,  // the text contains both marks, "AM/PM"
     kEra,
     kEraYear,
     kBuddhistYear,
-    // Only between reading a section and settling it.
-    kDigit,       // 0, # or ? somewhere
+    // These occur only while a section is parsed.
+    kDigit,       // 0, # or ? in any position
     kPlainDigit,  // 1 to 9
-    kComma,       // `symbol` of them in a row, which show as one
+    kComma,       // `symbol` is the number of adjacent commas, which are shown as one
     kSlash,
     kPercent,
   };
@@ -53,30 +54,35 @@ struct Token {
   std::uint32_t size = 0;
 };
 
+/// A condition in brackets, such as [>=100].
 struct Condition {
+  /// The comparison of the value with the limit.
   enum class Operator : std::uint8_t { kLess, kLessEqual, kEqual, kNotEqual, kGreaterEqual, kGreater };
 
   Operator op = Operator::kEqual;
   double limit = 0;
 
+  /// Returns true if the value meets the condition.
   bool Holds(double value) const;
 };
 
+/// The calendar of a section with dates.
 enum class Calendar : std::uint8_t { kGregorian, kHijri };
 
-/// What a format says about one class of values.
+/// A section of a format, which applies to one class of values.
 struct Section {
+  /// What the section displays.
   enum class Kind : std::uint8_t { kLiteral, kGeneral, kText, kNumber, kScientific, kFraction, kDate };
 
   Kind kind = Kind::kLiteral;
   std::optional<Condition> condition;
-  bool onlyNegative = false;     // no other number gets here, so that the minus sign goes without saying
-  bool hidesSignOfZero = false;  // a number that shows zeros only shows no minus sign either
+  bool onlyNegative = false;     // only negative numbers use the section, so the minus sign is left out
+  bool hidesSignOfZero = false;  // a number of which only zeros are shown has no minus sign
   std::vector<Token> tokens;
-  std::string texts;  // of the tokens
+  std::string texts;  // the texts of the tokens
 
   // Numbers.
-  int scale = 0;  // the power of ten that percent signs and trailing commas multiply by
+  int scale = 0;  // the power of ten of percent signs and trailing commas
   int integers = 0;
   int decimals = 0;
   int exponents = 0;
@@ -86,46 +92,50 @@ struct Section {
   bool hasIntegerPart = false;
   int numerators = 0;
   int denominators = 0;
-  std::int64_t fixedDenominator = 0;  // 0: the best one of so many digits
-  std::size_t fractionBegin = 0;      // the tokens that stay blank beside a whole number
+  std::int64_t fixedDenominator = 0;  // 0: the best denominator with that number of digits
+  std::size_t fractionBegin = 0;      // the tokens that are blank for a whole number
   std::size_t fractionEnd = 0;
 
   // Dates.
   Calendar calendar = Calendar::kGregorian;
   std::uint16_t language = 0;
-  int yearOffset = 0;  // of a solar calendar with another first year
+  int yearOffset = 0;  // for a solar calendar with another first year
   int subseconds = 0;  // digits
   bool twelveHours = false;
-  Token::Kind elapsed = Token::Kind::kLiteral;  // the unit that counts on instead of starting again
+  Token::Kind elapsed = Token::Kind::kLiteral;  // the unit that counts on beyond its usual maximum
 
+  /// The text of a token.
   std::string_view Text(const Token& token) const {
     return std::string_view(texts).substr(token.begin, token.size);
   }
 };
 
+/// The parsed code of a format.
 struct NumberFormat::Program {
-  std::vector<Section> numbers;  // at most three; the first whose condition holds
+  std::vector<Section> numbers;  // at most three; the first one whose condition is met applies
   std::optional<Section> text;
 
-  /// Null if no section wants the value.
+  /// Returns the section for a value; null if there is none.
   const Section* Select(double value) const;
 };
 
-/// Null if the code is refused.
+/// Parses a code; returns null for an invalid one.
 std::unique_ptr<NumberFormat::Program> ParseNumberFormat(std::string_view code);
 
-/// Settle what the tokens of a section with date fields mean. False if they make no sense.
+/// Determines the meaning of the tokens in a section with dates. Returns false if they make no sense.
 bool SettleDate(Section& section);
-/// The same for a section with digit placeholders; a fraction is one with this slash.
+/// Determines the meaning of the tokens in a section with a number. Returns false if they make no sense.
 bool SettleNumber(Section& section);
+/// Assigns the tokens of a fraction, whose slash is at index `slash`. Returns false if they make no sense.
 bool SettleFraction(Section& section, std::size_t slash);
-/// The index of the slash that makes a section a fraction, behind the last token if there is none.
+/// The index of the slash that makes a section a fraction; the number of tokens if there is none.
 std::size_t FindFractionSlash(const std::vector<Token>& tokens);
 
-/// `magnitude` isn't negative; `negative` asks for a minus sign.
+/// Appends a number. `magnitude` isn't negative; `negative` adds a minus sign.
 void AppendNumberSection(std::string& out, const Section& section, double magnitude, bool negative);
+/// Appends a number as a fraction. `magnitude` isn't negative.
 void AppendFractionSection(std::string& out, const Section& section, double magnitude);
-/// False if the value is none that this date system can show.
+/// Appends a date. Returns false if the date system can't show the value.
 bool AppendDateSection(std::string& out, const Section& section, double magnitude, bool negative,
                        DateSystem dates);
 

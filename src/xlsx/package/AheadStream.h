@@ -12,10 +12,11 @@
 
 namespace plotsmith::xlsx {
 
-/// Reads another stream in a thread, ahead of the reader. Short streams are read without a thread, and so are
-/// all streams on a machine with one processor. Nothing else may use the archive of the stream meanwhile.
+/// Reads another stream in a thread, ahead of the reader. Short streams, and all streams on a machine with
+/// one processor, are read without a thread. No other code may use the stream's archive meanwhile.
 class AheadStream final : public Archive::Stream {
  public:
+  /// Reads ahead from `source`, which must outlive this stream.
   explicit AheadStream(Archive::Stream& source) : source_(source) {}
   /// Stops the thread after its current piece, and waits for it.
   ~AheadStream() override;

@@ -13,7 +13,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// 1 January 1980, where zip files begin to count.
+/// 1 January 1980, the first date of zip files.
 constexpr zip_uint16_t kFirstDosDay = 1 << 5 | 1;
 
 struct ZipCloser {
@@ -60,7 +60,7 @@ class EntryStream : public Archive::Stream {
     crc_ = crc32_gzip_refl(crc_, reinterpret_cast<const unsigned char*>(buffer), count);
     total_ += count;
     if (total_ > entry_.size || (count == 0 && total_ != entry_.size)) {
-      throw PackageError("it is not of the size that its directory tells");
+      throw PackageError("its size isn't the one in the archive's directory");
     }
     if (count == 0 && crc_ != entry_.crc) throw PackageError("its checksum is wrong");
     return count;
@@ -112,20 +112,21 @@ std::unique_ptr<Archive::Stream> Archive::Open(std::size_t index) const {
   if (!handle_) throw PackageError("the file is closed");
   if (entry.encrypted) throw PackageError("it is encrypted");
   if (entry.method != ZIP_CM_STORE && entry.method != ZIP_CM_DEFLATE) {
-    throw PackageError("it is compressed by a method that no workbook uses");
+    throw PackageError("it is compressed by an unsupported method");
   }
   return std::make_unique<EntryStream>(handle_->zip.get(), entry, index);
 }
 
-/// How hard deflate tries, from 1 to 9. A chart on a sheet of data makes the whole sheet be compressed anew.
-/// The library's own choice, 9, takes some twenty-five times as long as this one for a seventh less of bytes.
+/// Compression level of deflate, from 1 to 9. A chart on a sheet of data makes Plotsmith compress the whole
+/// sheet again. The library's default, 9, takes about 25 times as long as this level and saves another
+/// seventh of the bytes.
 constexpr zip_uint32_t kDeflateLevel = 4;
 
 struct ArchiveWriter::Handle {
   std::unique_ptr<zip_t, ZipCloser> zip;
 
-  /// `method` is said only of what is to be compressed, or stored; a copy keeps its own, which the library
-  /// need not know.
+  /// `method` is given for data that is to be compressed or stored. A copied entry keeps its method, which
+  /// the library needn't support.
   zip_uint64_t Add(const char* name, zip_source_t* source, std::optional<std::uint16_t> method) {
     const auto index = source == nullptr ? -1 : zip_file_add(zip.get(), name, source, ZIP_FL_ENC_GUESS);
     if (index < 0) {
@@ -172,13 +173,13 @@ void ArchiveWriter::Add(const std::string& name, std::string_view bytes, bool co
   const auto index =
       handle_->Add(name.c_str(), zip_source_buffer(handle_->zip.get(), bytes.data(), bytes.size(), 0),
                    compress ? ZIP_CM_DEFLATE : ZIP_CM_STORE);
-  // no time, as Office does it, so that the same content makes the same file
+  // there is no time stamp, as in files of Office, so that the same content gives the same file
   zip_file_set_dostime(handle_->zip.get(), index, 0, kFirstDosDay, 0);
 }
 
 void ArchiveWriter::Finish() {
   if (zip_close(handle_->zip.get()) != 0) throw PackageError(zip_strerror(handle_->zip.get()));
-  static_cast<void>(handle_->zip.release());  // closed, and so gone
+  static_cast<void>(handle_->zip.release());  // closed, and thereby freed
 }
 
 }  // namespace plotsmith::xlsx

@@ -10,7 +10,7 @@
 
 namespace plotsmith::xlsx {
 
-/// An entry of a zip file, as the file's directory describes it.
+/// An entry in the directory of a zip file.
 struct ArchiveEntry {
   std::string name;  ///< The stored name, with slashes in place of backslashes.
   std::uint64_t compressedSize = 0;
@@ -29,7 +29,9 @@ class Archive {
   Archive(const Archive&) = delete;
   Archive& operator=(const Archive&) = delete;
 
+  /// The path of the file.
   const std::string& Path() const { return path_; }
+  /// The entries in the order of the directory.
   const std::vector<ArchiveEntry>& Entries() const { return entries_; }
   /// Closes the file. Its entries can no longer be opened.
   void Close();
@@ -42,7 +44,7 @@ class Archive {
     /// Reads up to `size` bytes and returns their number; 0 at the end.
     virtual std::size_t Read(char* buffer, std::size_t size) = 0;
   };
-  /// Opens an entry for reading; `index` is its place in Entries, from 0.
+  /// Opens an entry for reading; `index` is its index in Entries, from 0.
   std::unique_ptr<Stream> Open(std::size_t index) const;
 
  private:
@@ -53,10 +55,11 @@ class Archive {
   std::vector<ArchiveEntry> entries_;
 };
 
-/// Writes a zip file. The entries are in the order of the calls. Finish does the writing, so the bytes and
-/// the archives that are passed must live until then.
+/// Writes a zip file. The entries are in the order of the calls. Finish writes the file, so the bytes and the
+/// archives that are passed must exist until then.
 class ArchiveWriter {
  public:
+  /// Creates the file, or empties an existing one.
   explicit ArchiveWriter(const std::string& path);
   /// Writes into an empty file that is open for writing. The file stays open.
   explicit ArchiveWriter(int descriptor);

@@ -4,11 +4,12 @@
 
 namespace plotsmith::xlsx {
 
-/// A file that is written beside its target and replaces the target in one step. Before that step the file
-/// has reached the disk. It has no name until then, if the file system allows it, so that a killed process
-/// leaves no file behind. Without Commit, the target stays unchanged. All failures are PackageErrors.
+/// A file that is written beside its target and replaces the target in one step. It is flushed to the disk
+/// before that step. Until then it has no name, if the file system allows that, so that a killed process
+/// leaves no file. Without Commit, the target stays unchanged. All failures are PackageErrors.
 class AtomicFile {
  public:
+  /// Prepares a new file that replaces `path` on Commit. Throws a PackageError if `path` can't be replaced.
   explicit AtomicFile(const std::string& path);
   ~AtomicFile();
   AtomicFile(const AtomicFile&) = delete;

@@ -18,7 +18,8 @@ namespace {
 
 constexpr const char* kDescriptors = "/proc/self/fd";
 
-/// A file in the folder that no name leads to; -1 where the system has none such, or could not name it later.
+/// Opens a file without a name in the folder. Returns -1 if the system can't make such files or can't give
+/// them names later.
 int OpenNameless(const std::string& folder) {
   if (access(kDescriptors, X_OK) != 0) return -1;
   return open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600);
@@ -29,8 +30,8 @@ std::string FolderOf(const std::string& path) {
   return folder.empty() ? "." : folder.string();
 }
 
-/// Makes the names in a folder reach the disk. The files are in place whatever becomes of this, and some file
-/// systems can't do it.
+/// Flushes the folder's entries to the disk. Errors are ignored: the files are already in place, and some
+/// file systems don't support this.
 void SyncFolder(const std::string& folder) {
   const int file = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (file < 0) return;
@@ -38,13 +39,13 @@ void SyncFolder(const std::string& folder) {
   close(file);
 }
 
-/// Gives the nameless file a name. False, with the reason in errno, if it can't have that one.
+/// Gives a name to the nameless file. Returns false, with the reason in errno, if it can't have this name.
 bool LinkTo(int file, const std::string& path) {
   const std::string self = std::string(kDescriptors) + "/" + std::to_string(file);
   return linkat(AT_FDCWD, self.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW) == 0;
 }
 
-/// Gives the nameless file a name beside `path` and answers it.
+/// Gives the nameless file a name beside `path`, and returns that name.
 std::string LinkBeside(int file, const std::string& path) {
   const std::string stem = path + "." + std::to_string(getpid()) + "-";
   for (int n = 1;; ++n) {
@@ -89,10 +90,10 @@ void AtomicFile::Commit() {
   const bool replaces = stat(path_.c_str(), &old) == 0;
   if (fchmod(file_, replaces ? old.st_mode & 07777 : NewFileMode()) != 0) Fail(path_);
   if (replaces && fchown(file_, old.st_uid, old.st_gid) != 0) {
-    // only root may give a file away; the copy then belongs to who made it
+    // only root can change the owner; otherwise the copy belongs to the current user
   }
   if (fsync(file_) != 0 && errno != EINVAL) Fail(path_);
-  // a link can't replace a file, so that there it takes a name for a moment
+  // a link can't replace a file, so the nameless file gets a temporary name first
   const bool placed = temporary_.empty() && !replaces && LinkTo(file_, path_);
   if (!placed) {
     if (temporary_.empty()) temporary_ = LinkBeside(file_, path_);

@@ -23,13 +23,13 @@ using Handle = std::unique_ptr<HANDLE, HandleCloser>;
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-/// Null, with the reason in GetLastError, if the file can't be opened.
+/// Opens a file. Returns null, with the reason in GetLastError, if that fails.
 Handle Open(const std::filesystem::path& path, DWORD access, DWORD disposition) {
   const HANDLE handle = CreateFileW(path.c_str(), access, kShareAll, nullptr, disposition, 0, nullptr);
   return Handle(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
 }
 
-/// The system's words for an error, without the full stop and the line end behind them.
+/// Returns Windows' message for an error, without the full stop and the line end.
 std::string TextOf(DWORD error) {
   wchar_t text[512];
   DWORD size = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0,
@@ -57,7 +57,7 @@ std::string ReasonOf(DWORD error) {
   throw PackageError("can't write " + path + ": " + ReasonOf(GetLastError()));
 }
 
-/// Refuses a folder, a file that is marked as read-only, and one that another program keeps to itself.
+/// Refuses a folder, a read-only file, and a file that another program has locked.
 void CheckReplaceable(const std::filesystem::path& target, const std::string& path) {
   const DWORD attributes = GetFileAttributesW(target.c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES) return;  // a new file
@@ -97,7 +97,7 @@ void AtomicFile::Commit() {
   _close(std::exchange(file_, -1));
   const auto target = PathOf(path_), temporary = PathOf(temporary_);
   const bool replaces = GetFileAttributesW(target.c_str()) != INVALID_FILE_ATTRIBUTES;
-  // ReplaceFile keeps what a user has set on the old file: access rights, attributes, the time of creation
+  // ReplaceFile keeps the old file's access rights, attributes and creation time
   const BOOL placed = replaces ? ReplaceFileW(target.c_str(), temporary.c_str(), nullptr, 0, nullptr, nullptr)
                                : MoveFileExW(temporary.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH);
   if (!placed) Fail(path_);

@@ -17,6 +17,7 @@ int OpenToWrite(const std::string& path);
 int OpenScratch();
 /// Returns a second descriptor of an open file, or -1.
 int Duplicate(int file);
+/// Closes a descriptor. Errors are ignored.
 void Close(int file);
 
 /// Returns the size of a file in bytes, or nothing if that fails.

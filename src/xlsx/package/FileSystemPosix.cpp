@@ -9,7 +9,7 @@
 namespace plotsmith::xlsx::file_system {
 namespace {
 
-/// Calls again what a signal has interrupted.
+/// Repeats a call that a signal has interrupted.
 template <class Call>
 std::int64_t Repeated(const Call& call) {
   std::int64_t count = 0;

@@ -13,7 +13,7 @@
 namespace plotsmith::xlsx::file_system {
 namespace {
 
-/// The C run-time counts in int.
+/// The C run-time uses int for sizes.
 unsigned CountOf(std::size_t size) {
   return static_cast<unsigned>(std::min<std::size_t>(size, std::numeric_limits<int>::max()));
 }
@@ -27,7 +27,8 @@ int Open(const std::string& path, int flags) {
 
 }  // namespace
 
-// Others may replace the file meanwhile, which the C run-time's ways to open a file don't let them.
+// Other programs may replace the file while it is open. The open functions of the C run-time don't allow
+// that.
 int OpenToRead(const std::string& path) {
   const HANDLE handle = CreateFileW(runtime::PathOf(path).c_str(), GENERIC_READ,
                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,

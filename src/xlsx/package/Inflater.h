@@ -14,6 +14,7 @@ using ByteReader = std::function<std::size_t(char* buffer, std::size_t size)>;
 /// processor's cache.
 class Inflater {
  public:
+  /// Makes an inflater that takes its data from `source`.
   explicit Inflater(ByteReader source);
   ~Inflater();
 

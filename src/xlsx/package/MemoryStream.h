@@ -10,6 +10,7 @@ namespace plotsmith::xlsx {
 /// Reads bytes in memory as a stream, at most `piece` of them at a time. The bytes must outlive the stream.
 class MemoryStream final : public Archive::Stream {
  public:
+  /// Makes a stream of `bytes`.
   explicit MemoryStream(std::string_view bytes, std::size_t piece = std::string_view::npos)
       : rest_(bytes), piece_(piece) {}
   std::size_t Read(char* buffer, std::size_t size) override {

@@ -5,16 +5,16 @@
 
 namespace plotsmith::xlsx {
 
-/// The addresses by which the parts of a workbook name their vocabularies. A file is Transitional or Strict
-/// as a whole.
+/// The namespace URIs of a workbook's vocabularies. A file is either Transitional or Strict as a whole.
 struct Namespaces {
   std::string_view main;                ///< SpreadsheetML
-  std::string_view relationships;       ///< r:id; also the stem of relationship types
+  std::string_view relationships;       ///< r:id; also the beginning of relationship types
   std::string_view drawing;             ///< DrawingML
   std::string_view spreadsheetDrawing;  ///< anchors and shapes on a sheet
   std::string_view chart;
   std::string_view chartDrawing;  ///< anchors and shapes on a chart
 
+  /// Returns the URI of a relationship type, such as "chart".
   std::string RelationshipType(std::string_view name) const {
     return std::string(relationships) + "/" + std::string(name);
   }
@@ -53,6 +53,7 @@ inline constexpr std::string_view kChartShapes =
     "application/vnd.openxmlformats-officedocument.drawingml.chartshapes+xml";
 }  // namespace content_type
 
+/// The declaration of the parts that Plotsmith writes.
 inline constexpr std::string_view kXmlDeclaration =
     R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)";
 

@@ -38,7 +38,8 @@ std::string Folded(std::string_view name) {
 
 std::string_view Folder(std::string_view part) { return part.substr(0, part.rfind('/') + 1); }
 
-/// "/xl/workbook.xml" has its relationships in "/xl/_rels/workbook.xml.rels".
+/// Returns the path of a part's relationships: those of "/xl/workbook.xml" are in
+/// "/xl/_rels/workbook.xml.rels".
 std::string RelationshipsPart(std::string_view part) {
   if (part.empty()) return "/_rels/.rels";
   const std::string_view folder = Folder(part);
@@ -64,17 +65,19 @@ std::string PercentDecoded(std::string_view target) {
   return text;
 }
 
-/// The content types and the relationships are in the file like parts, but no relationship may refer to them.
+/// Returns true for the content types and the relationships. They are stored like parts, but no relationship
+/// may refer to them.
 bool IsBookkeeping(std::string_view part) { return part == kContentTypes || Folded(part).ends_with(".rels"); }
 
-/// The part that an override is about, to be compared.
+/// Returns the name of the part that an override refers to, in the form used for comparisons.
 std::string PartNameOf(pugi::xml_node type) {
   return Folded(PercentDecoded(xml::Attribute(type, "PartName")));
 }
 
 std::string_view LastSegment(std::string_view address) { return address.substr(address.rfind('/') + 1); }
 
-/// A name as the file writes it: what an address can't hold goes by its number, as in ECMA-376-2.
+/// Returns a name as the file stores it: characters that an address can't contain are percent-encoded
+/// (ECMA-376-2).
 std::string PercentEncoded(std::string_view name) {
   constexpr std::string_view kPlain =
       "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~!$&'()*+,;=:@/";
@@ -91,13 +94,12 @@ std::string PercentEncoded(std::string_view name) {
   return text;
 }
 
-/// A file that is gone when it is closed.
+/// A file that is deleted when it is closed.
 class ScratchFile {
  public:
   ScratchFile() : file_(file_system::OpenScratch()) {
     if (file_ < 0) {
-      throw PackageError(std::string("there is no room for a temporary file: ") +
-                         runtime::SystemErrorText(errno));
+      throw PackageError(std::string("a temporary file can't be made: ") + runtime::SystemErrorText(errno));
     }
   }
   ~ScratchFile() { file_system::Close(file_); }
@@ -122,7 +124,7 @@ bool Reopen(std::unique_ptr<Archive>& archive) {
 
 }  // namespace
 
-/// Bytes are held only of a part that is new or changed; of any other there is the entry in the archive.
+/// A part. Only new and changed parts are in memory; the others are entries of the archive.
 struct Package::Part {
   std::string name;
   std::optional<std::size_t> entry;
@@ -153,7 +155,7 @@ Package Package::Open(const std::string& path) {
     part->entry = i;
     if (entries[i].encrypted) throw PartError(part->name, "it is encrypted");
     if (!package.byName_.emplace(Folded(part->name), part.get()).second) {
-      throw PackageError("it holds two parts of the name " + part->name);
+      throw PackageError("it contains two parts with the name " + part->name);
     }
     package.parts_.push_back(std::move(part));
   }
@@ -178,7 +180,7 @@ void Package::ParseContentTypes(std::string_view bytes) {
   overrides_.clear();
   defaults_.clear();
   for (const pugi::xml_node& type : xml::Root(*contentTypes_).children()) {
-    // of several for one, the first counts
+    // the first override of a part counts
     if (xml::Is(type, "Override")) overrides_.emplace(PartNameOf(type), type);
     if (xml::Is(type, "Default")) defaults_.emplace(Folded(xml::Attribute(type, "Extension")), type);
   }
@@ -245,8 +247,8 @@ class NamedStream : public Archive::Stream {
 void CheckSize(const ArchiveEntry& entry, const std::string& part, std::uint64_t limit) {
   const bool bomb = entry.size > limits::kAnyRatio && entry.size / limits::kRatio > entry.compressedSize;
   if (bomb || entry.size > limit) {
-    throw PartError(part,
-                    "it inflates to " + std::to_string(entry.size) + " bytes, which no sound workbook needs");
+    throw PartError(
+        part, "it inflates to " + std::to_string(entry.size) + " bytes, more than any valid workbook needs");
   }
 }
 
@@ -269,7 +271,7 @@ std::string Package::Read(std::string_view name) const {
   const auto stream = Stream(name);
   std::size_t total = 0;
   while (const std::size_t count = stream->Read(bytes.data() + total, bytes.size() - total)) total += count;
-  char beyond;  // one more read proves size and checksum
+  char beyond;  // one more read checks the size and the checksum
   stream->Read(&beyond, 1);
   return bytes;
 }
@@ -286,7 +288,7 @@ void Package::Add(std::string_view part, std::string_view contentType, std::stri
 
 void Package::SetContentType(std::string_view part, std::string_view contentType) {
   if (ContentType(part) == contentType) return;
-  pugi::xml_node& type = overrides_[Folded(part)];  // a part that was here once may have left it behind
+  pugi::xml_node& type = overrides_[Folded(part)];  // there may be one of a deleted part
   if (!type) type = xml::AppendChild(xml::Root(*contentTypes_), "Override");
   xml::SetAttribute(type, "PartName", PercentEncoded(part));
   xml::SetAttribute(type, "ContentType", contentType);
@@ -302,7 +304,7 @@ void Package::Remove(const std::string& part) {
     }
     contentTypesChanged_ = true;
   }
-  // a part that gets the name later has relationships of its own
+  // a later part of the same name has its own relationships
   const std::string links = RelationshipsPart(part);
   if (Has(links)) Remove(links);
   relationships_.erase(key);
@@ -429,7 +431,7 @@ std::vector<std::string> Package::RemoveRelationship(std::string_view source, st
   try {
     gone = OnlyThrough(link->target);
   } catch (const PackageError&) {
-    return {};  // the part whose relationships can't be read may refer to any of them
+    return {};  // a part with unreadable relationships may refer to any part
   }
   for (const std::string& part : gone) Remove(part);
   return {gone.begin(), gone.end()};
@@ -441,8 +443,8 @@ void Package::Save(const std::string& path) {
   Commit(file, path);
 }
 
-/// Windows doesn't replace a file that is open. A package that is saved over its own file therefore closes
-/// it, and reads the new one from then on, in which the parts have the order that they have here.
+/// Windows can't replace an open file. A package that is saved over its own file therefore closes the file
+/// and continues with the new one. The new file has the parts in their present order.
 void Package::Commit(AtomicFile& file, const std::string& path) {
   std::error_code ignored;
   if (!archive_ ||
@@ -457,7 +459,7 @@ void Package::Commit(AtomicFile& file, const std::string& path) {
     Reopen(archive_);
     throw;
   }
-  if (!Reopen(archive_)) return;  // the workbook is saved; only what is yet to be read of it can't be
+  if (!Reopen(archive_)) return;  // the workbook is saved; only its unread parts can't be read any more
   for (std::size_t i = 0; i < parts_.size(); ++i) parts_[i]->entry = i;
 }
 
@@ -481,7 +483,8 @@ void Package::Write(int descriptor) {
     if (part->bytes) {
       const bool stored = part->entry && archive_->Entries()[*part->entry].method == 0;
       writer.Add(part->entry                   ? archive_->Entries()[*part->entry].name
-                 : part->name == kContentTypes ? part->name.substr(1)  // no part, and so by its own name
+                 : part->name == kContentTypes ? part->name.substr(1)  // isn't a part, so it keeps its own
+                                                                       // name
                                                : PercentEncoded(part->name.substr(1)),
                  *part->bytes, !stored);
     } else {

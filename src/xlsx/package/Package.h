@@ -21,14 +21,14 @@ class AtomicFile;
 struct Relationship {
   std::string id;
   std::string type;    ///< The last segment of the type's URI: "worksheet", "drawing", "chart".
-  std::string target;  ///< The name of a part, as in Parts; the written URI of an external target.
+  std::string target;  ///< The name of a part, as in Parts; the URI as it is written for an external target.
   bool external = false;
 };
 
 /// A workbook file as a package of parts (ECMA-376-2). A part is read when it is needed. An unchanged part is
 /// written back as the same compressed bytes, in the same order. Part names begin with a slash, are decoded
-/// (a blank and not "%20") and compare without regard to ASCII case. All failures are PackageErrors whose
-/// text is a sentence.
+/// (a blank and not "%20") and are compared without regard to ASCII case. All failures are PackageErrors
+/// whose text is a sentence.
 class Package {
  public:
   /// Makes an empty package. The caller adds the parts that every workbook needs.
@@ -39,7 +39,7 @@ class Package {
   Package& operator=(Package&&) noexcept;
   ~Package();
 
-  /// Returns whether there is a part of the name.
+  /// Returns true if there is a part with the name.
   bool Has(std::string_view part) const;
   /// Returns the names of all parts, in the order of the file.
   std::vector<std::string> Parts() const;
@@ -54,6 +54,7 @@ class Package {
   void Replace(std::string_view part, std::string bytes);
   /// Adds a part.
   void Add(std::string_view part, std::string_view contentType, std::string bytes);
+  /// Sets the content type of a part.
   void SetContentType(std::string_view part, std::string_view contentType);
   /// Returns the first unused part name made of prefix, number and suffix. Numbers begin with 1.
   std::string FreeName(std::string_view prefix, std::string_view suffix) const;
@@ -65,17 +66,17 @@ class Package {
   std::optional<Relationship> FindRelationship(std::string_view part, std::string_view id) const;
   /// Returns a part's first relationship of a type, such as "styles", that isn't external.
   std::optional<Relationship> FindRelationshipOfType(std::string_view part, std::string_view type) const;
-  /// Adds a relationship and returns its id. `typeAddress` is the whole URI of the type.
+  /// Adds a relationship and returns its id. `typeAddress` is the complete URI of the type.
   std::string AddRelationship(std::string_view part, std::string_view typeAddress, std::string_view target);
   /// Removes a part's relationship with the id, and the parts that no other part refers to after that.
   /// Returns the names of the removed parts. No part is removed if the relationships of some part can't be
   /// read.
   std::vector<std::string> RemoveRelationship(std::string_view part, std::string_view id);
 
-  /// Whether the package was changed since it was opened or saved.
+  /// Returns true if the package was changed since it was opened or saved.
   bool Changed() const { return changed_; }
-  /// Writes the package to a new file, which then replaces `path` in one step. At any moment `path` is a
-  /// complete file. The file keeps its permissions; if `path` is a link, the file behind it is replaced.
+  /// Writes the package to a new file, which then replaces `path` in one step. At any moment, `path` is a
+  /// complete file. The file keeps its permissions; if `path` is a link, its target is replaced.
   void Save(const std::string& path);
   /// Writes the package to a stream. The package is complete before the stream gets its first byte.
   void Save(std::ostream& out);
@@ -101,7 +102,7 @@ class Package {
   std::unique_ptr<Archive> archive_;
   std::vector<std::unique_ptr<Part>> parts_;          // in the order of the file
   std::map<std::string, Part*, std::less<>> byName_;  ///< By name in lower case.
-  /// By the name of the part. They are read once, because each shape of a drawing needs its own.
+  /// By the name of the part. They are cached, because each shape of a drawing needs its own.
   mutable std::map<std::string, std::vector<Relationship>, std::less<>> relationships_;
   std::unique_ptr<pugi::xml_document> contentTypes_;
   std::map<std::string, pugi::xml_node, std::less<>>
@@ -111,9 +112,9 @@ class Package {
   bool changed_ = false;
 };
 
-/// Returns the part that a target written in `source` names; empty if the target leads out of the package.
+/// Returns the part that a target in `source` refers to; empty if the target is outside of the package.
 std::string ResolveTarget(std::string_view source, std::string_view target);
-/// Returns the target as `source` writes it: relative to the folder of `source`, and encoded.
+/// Returns the target in the form for `source`: relative to its folder, and encoded.
 std::string RelativeTarget(std::string_view source, std::string_view target);
 
 }  // namespace plotsmith::xlsx

@@ -6,16 +6,19 @@
 
 namespace plotsmith::xlsx {
 
-/// A workbook file that can't be read or written. The text is one sentence for the user. It is thrown while a
-/// workbook is opened or saved. Behind the port, only run-time errors may pass; see BookDamage.
+/// The error for a workbook file that can't be read or written. The text is one sentence for the user. It is
+/// thrown while a workbook is opened or saved. Functions of the port raise only run-time errors; see
+/// BookDamage.
 class PackageError : public std::runtime_error {
  public:
+  /// Makes an error whose text is a sentence.
   explicit PackageError(const std::string& sentence) : std::runtime_error(sentence) {}
 };
 
 /// A PackageError that names the damaged part.
 class PartError : public PackageError {
  public:
+  /// Makes the error for a part that can't be read. `reason` is the end of a sentence.
   PartError(std::string_view part, const std::string& reason)
       : PackageError("its part " + std::string(part) + " can't be read: " + reason) {}
 };

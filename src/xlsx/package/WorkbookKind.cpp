@@ -25,7 +25,7 @@ constexpr std::array<WorkbookKind, 5> kKinds = {{
     {".xlam", "application/vnd.ms-excel.addin.macroEnabled.main+xml", true},
 }};
 
-/// VBA projects, and the sheets of Excel 4 macros.
+/// Content types of VBA projects and of Excel 4 macro sheets.
 constexpr std::array<std::string_view, 3> kMacroTypes = {"application/vnd.ms-office.vbaProject",
                                                          "application/vnd.ms-excel.macrosheet+xml",
                                                          "application/vnd.ms-excel.intlmacrosheet+xml"};
@@ -33,7 +33,7 @@ constexpr std::array<std::string_view, 3> kMacroTypes = {"application/vnd.ms-off
 constexpr std::array<std::string_view, 9> kForeignExtensions = {".xls", ".xlt",     ".xlsb", ".ods", ".fods",
                                                                 ".csv", ".numbers", ".html", ".pdf"};
 
-/// What text files say of themselves near their beginning.
+/// A kind of text file and the text by which its beginning is recognized.
 struct TextKind {
   std::string_view mark;
   const char* format;
@@ -48,11 +48,11 @@ constexpr std::string_view kCompoundFile = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1";
 constexpr std::string_view kZipEntry = "PK\x03\x04";
 constexpr std::size_t kStart = 4 * 1024;
 
-/// A compound file is a workbook from before 2007, or one behind a password.
+/// Throws the error for a compound file, which is a workbook from before 2007 or one with a password.
 [[noreturn]] void ThrowCompoundKind(const std::string& start, std::istream& file) {
   std::string name;
   for (const char c : std::string_view("EncryptedPackage")) name.append({c, '\0'});
-  // the directory may lie anywhere in the file
+  // the directory may be anywhere in the file
   const std::string rest((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
   const bool encrypted = start.find(name) != std::string::npos || rest.find(name) != std::string::npos;
   if (encrypted) throw PackageError("it is encrypted with a password");
@@ -108,7 +108,7 @@ bool IsForeignName(std::string_view path) {
 
 PackageError OtherFormat(const std::string& format) {
   return PackageError("it is " + format +
-                      "; save it as .xlsx first, as only .xlsx, .xlsm, .xltx and .xltm can be read");
+                      "; save it as .xlsx first, because only .xlsx, .xlsm, .xltx and .xltm can be read");
 }
 
 void CheckFile(const std::string& path) {

@@ -8,7 +8,7 @@
 namespace plotsmith::xlsx {
 
 /// A kind of workbook file. The kinds differ in the content type of the workbook part, and some may contain
-/// macros. Excel opens a file only if its content type fits its extension.
+/// macros. Excel opens a file only if its content type matches its extension.
 struct WorkbookKind {
   std::string_view extension;    ///< ".xlsx"
   std::string_view contentType;  ///< The content type of the workbook part.
@@ -17,9 +17,9 @@ struct WorkbookKind {
 
 /// Returns the kind for the extension of a file name, without regard to case; null if there is none.
 const WorkbookKind* KindOfName(std::string_view path);
-/// Returns whether a part with the content type contains macros.
+/// Returns true if a part with the content type contains macros.
 bool HoldsMacros(std::string_view contentType);
-/// Returns whether the extension belongs to a spreadsheet format that Plotsmith doesn't write.
+/// Returns true if the extension belongs to a spreadsheet format that Plotsmith doesn't write.
 bool IsForeignName(std::string_view path);
 /// Returns the extension with its dot, in lower case; empty if there is none.
 std::string ExtensionOf(std::string_view path);

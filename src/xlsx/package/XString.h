@@ -5,11 +5,11 @@
 
 namespace plotsmith::xlsx {
 
-/// Decodes a text of SpreadsheetML, which writes characters that XML can't contain or would change as _xHHHH_
+/// Decodes a text of SpreadsheetML. Characters that XML can't contain or would change are written as _xHHHH_
 /// (ST_Xstring).
 std::string DecodeXString(std::string_view text);
-/// Encodes a text for an element. Control characters, halves of surrogate pairs, U+FFFE, U+FFFF, carriage
-/// returns and texts that look like such an escape become escapes; then XML's own escapes are added.
+/// Encodes a text for an element. Control characters, unpaired surrogates, U+FFFE, U+FFFF, carriage returns
+/// and texts that look like such an escape are written as _xHHHH_; then XML's own escapes are added.
 std::string EncodeXString(std::string_view text);
 
 }  // namespace plotsmith::xlsx

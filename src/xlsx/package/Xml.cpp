@@ -36,7 +36,7 @@ std::string Encode(std::string_view text, bool attribute) {
         break;
       case '\r':
         raw += "&#13;";
-        break;  // readers fold a bare one into a line feed
+        break;  // XML readers convert a bare carriage return to a line feed
       case '"':
         raw += attribute ? "&quot;" : "\"";
         break;
@@ -47,18 +47,18 @@ std::string Encode(std::string_view text, bool attribute) {
         raw += attribute ? "&#9;" : "\t";
         break;
       default:
-        if (static_cast<unsigned char>(c) >= 0x20) raw += c;  // the rest XML can't hold at all
+        if (static_cast<unsigned char>(c) >= 0x20) raw += c;  // XML has no other control characters
     }
   }
   return raw;
 }
 
-/// Values go out between double quotes, undecoded, so that a bare one inside would end them.
+/// Values are written undecoded between double quotes, so a bare quote inside a value would end it.
 void QuoteSafe(pugi::xml_node element) {
   std::size_t count = 0;
   for (pugi::xml_attribute attribute : element.attributes()) {
     if (++count > limits::kXmlAttributes)
-      throw PackageError("an element of it has more attributes than we can hold");
+      throw PackageError("an element of it has more attributes than Plotsmith supports");
     if (std::string_view(attribute.value()).find('"') != std::string_view::npos) {
       attribute.set_value(runtime::Replace(attribute.value(), "\"", "&quot;").c_str());
     }
@@ -69,7 +69,8 @@ constexpr std::string_view kMark = "\xEF\xBB\xBF";  // of the byte order
 
 enum class Encoding { kUtf8, kMarkedUtf8, kUtf16Big, kUtf16Little, kLatin1, kWindows1252 };
 
-/// The encoding that the XML declaration names, as a view into the text; a null view if it names none.
+/// Returns the encoding that the XML declaration names, as a view into the text; a null view if it names
+/// none.
 std::string_view DeclaredEncoding(std::string_view text) {
   if (!text.starts_with("<?xml")) return {};
   const std::string_view declaration = text.substr(0, text.find("?>"));
@@ -99,7 +100,7 @@ Encoding EncodingOf(std::string_view bytes) {
   return Encoding::kUtf8;
 }
 
-/// `high` and `low` say where in each pair of bytes the halves of a unit stand.
+/// Converts UTF-16. `high` and `low` are the offsets of the two bytes in each unit.
 std::string FromUtf16(std::string_view bytes, std::size_t high, std::size_t low) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
   std::u16string units;
@@ -112,7 +113,7 @@ std::string FromUtf16(std::string_view bytes, std::size_t high, std::size_t low)
 }
 
 std::string FromSingleBytes(std::string_view bytes, bool windows) {
-  // what Windows has from 0x80 on, where Latin-1 has control characters
+  // Windows-1252 from 0x80 on, where Latin-1 has control characters
   static constexpr char16_t kWindows[] =
       u"\x20AC\x81\x201A\x0192\x201E\x2026\x2020\x2021\x02C6\x2030\x0160\x2039\x0152\x8D\x017D\x8F"
       u"\x90\x2018\x2019\x201C\x201D\x2022\x2013\x2014\x02DC\x2122\x0161\x203A\x0153\x9D\x017E\x0178";
@@ -155,7 +156,7 @@ struct QuoteWalker : pugi::xml_tree_walker {
   }
 };
 
-/// Without the space around it, and without a plus sign.
+/// Returns the number without surrounding white space and without a plus sign.
 std::string_view NumberIn(std::string_view text) {
   const auto first = text.find_first_not_of(" \t\r\n");
   if (first == std::string_view::npos) return {};
@@ -200,12 +201,12 @@ void Parse(pugi::xml_document& document, std::string_view bytes) {
   if (!IsUtf8(text)) throw PackageError("its text isn't in the encoding that it declares");
   const auto mark = [](char c) { return c == '<' || c == '='; };
   if (std::count_if(text.begin(), text.end(), mark) > limits::kXmlMarks) {
-    throw PackageError("it has more elements than we can hold");
+    throw PackageError("it has more elements than Plotsmith supports");
   }
   const auto status = document.load_buffer(text.data(), text.size(), kParse, pugi::encoding_utf8);
   if (status.status == pugi::status_out_of_memory) throw std::bad_alloc();
   if (!status || !Root(document)) throw PackageError("its XML is damaged");
-  if (dom::NestsDeeperThan(document, limits::kXmlDepth)) throw PackageError("its XML nests too deep");
+  if (dom::NestsDeeperThan(document, limits::kXmlDepth)) throw PackageError("its XML is nested too deeply");
   for (const pugi::xml_node& node : document.children()) {
     if (node.type() == pugi::node_doctype) throw PackageError(kHasDocumentType);
   }
@@ -225,7 +226,7 @@ std::string Serialize(const pugi::xml_document& document) {
     }
   } writer;
   document.save(writer, "", kSave, pugi::encoding_utf8);
-  // half of a character may wait in a tree for the other half, but not in a file
+  // a tree may contain half of a surrogate pair, but a file may not
   return dom::XmlCharactersOf(writer.bytes);
 }
 
@@ -234,7 +235,7 @@ std::string Decode(std::string_view raw) {
   std::string text;
   text.reserve(raw.size());
   for (std::size_t i = 0; i < raw.size(); ++i) {
-    if (raw[i] == '\r') {  // a line end, as XML reads it
+    if (raw[i] == '\r') {  // XML reads every line end as a line feed
       text += '\n';
       if (i + 1 < raw.size() && raw[i + 1] == '\n') ++i;
       continue;
@@ -284,7 +285,7 @@ std::string_view Prefix(std::string_view name) {
 
 pugi::xml_node Child(pugi::xml_node parent, std::string_view local) {
   for (pugi::xml_node child = parent.first_child(); child; child = child.next_sibling()) {
-    // most children end otherwise, which is cheaper to see than where their prefixes end
+    // the ends of most names differ, and are faster to compare than to search for the prefix
     const std::string_view name = child.name();
     if (name.ends_with(local) && LocalName(name) == local && child.type() == pugi::node_element) return child;
   }

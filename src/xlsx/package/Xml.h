@@ -9,26 +9,26 @@
 #include <utility>
 #include <vector>
 
-/// Reads and changes XML parts of other programs, and keeps what Plotsmith doesn't know.
+/// Reads and changes XML parts of other programs, and keeps elements that Plotsmith doesn't know.
 ///
-/// A part is parsed without decoding: entities, white space, comments and line ends are written back as they
-/// were read. Elements are found by their local names, because each program chooses its own prefixes, and
+/// A part is parsed without decoding: entities, white space, comments and line ends are written back
+/// unchanged. Elements are found by their local names, because each program chooses its own prefixes, and
 /// because Strict and Transitional files differ only in the URIs of namespaces. Values are decoded when they
 /// are read, and encoded when they are set.
 namespace plotsmith::xlsx::xml {
 
 /// The message for a part with a document type declaration, which no part may have (ECMA-376-2).
 inline constexpr const char* kHasDocumentType =
-    "it declares a document type, which no part of a workbook may";
+    "it declares a document type, which isn't allowed in a workbook";
 
-/// Parses a part in UTF-8, UTF-16, Latin-1 or Windows-1252. Throws PackageError if it isn't well-formed or
-/// nests too deep.
+/// Parses a part in UTF-8, UTF-16, Latin-1 or Windows-1252. Throws PackageError if it isn't well-formed or is
+/// nested too deep.
 void Parse(pugi::xml_document& document, std::string_view bytes);
-/// Returns the document in UTF-8, with the XML declaration that it was parsed with, if any.
+/// Returns the document in UTF-8, with the XML declaration of the parsed text, if any.
 std::string Serialize(const pugi::xml_document& document);
 /// Converts a part to UTF-8 without a byte order mark, and changes its XML declaration accordingly.
 std::string ToUtf8(std::string bytes);
-/// Returns whether ToUtf8 would change a part; `start` is its text up to the end of the XML declaration.
+/// Returns true if ToUtf8 would change a part; `start` is its text up to the end of the XML declaration.
 bool NeedsConversion(std::string_view start);
 
 /// Replaces the entities in a text by their characters.
@@ -41,13 +41,16 @@ std::string EncodeAttribute(std::string_view text);
 
 /// The name without its prefix.
 std::string_view LocalName(std::string_view name);
+/// The name of an element without its prefix.
 inline std::string_view LocalName(pugi::xml_node node) { return LocalName(node.name()); }
+/// Returns true if the element has this local name.
 inline bool Is(pugi::xml_node node, std::string_view local) { return LocalName(node) == local; }
 /// The prefix with its colon; empty if there is none.
 std::string_view Prefix(std::string_view name);
 
-/// Returns the first child element with the local name, or a null node. Several names are a path downwards.
+/// Returns the first child element with the local name, or a null node.
 pugi::xml_node Child(pugi::xml_node parent, std::string_view local);
+/// Returns a descendant by the local names on the path to it; a null node if there is none.
 template <class... Names>
 pugi::xml_node Child(pugi::xml_node parent, std::string_view local, Names... rest) {
   return Child(Child(parent, local), rest...);
@@ -67,13 +70,16 @@ pugi::xml_node Root(const pugi::xml_document& document);
 
 /// Returns the decoded value of an attribute without a prefix, or nothing.
 std::optional<std::string> FindAttribute(pugi::xml_node node, const char* name);
+/// Returns the decoded value of an attribute, or `fallback` if it is absent.
 std::string Attribute(pugi::xml_node node, const char* name, std::string_view fallback = {});
 /// Returns an integer; `fallback` if the attribute is absent or isn't an integer.
 long long IntegerAttribute(pugi::xml_node node, const char* name, long long fallback);
+/// Returns the value of an attribute as a number, or `fallback` if it is absent or no number.
 double NumberAttribute(pugi::xml_node node, const char* name, double fallback);
 /// Returns a value of the type ST_OnOff, which includes xsd:boolean; `fallback` if the attribute is absent or
 /// invalid.
 bool BooleanAttribute(pugi::xml_node node, const char* name, bool fallback);
+/// Sets an attribute, which is added if it is missing. The value is encoded.
 void SetAttribute(pugi::xml_node node, const char* name, std::string_view value);
 /// Returns the value of the attribute r:id, with any prefix; empty if it is absent.
 std::string RelationshipId(pugi::xml_node node);
@@ -83,6 +89,7 @@ std::set<std::string> RelationshipIdsIn(pugi::xml_node element);
 
 /// Returns the decoded text directly inside an element.
 std::string Text(pugi::xml_node node);
+/// Replaces the content of an element by a text, which is encoded.
 void SetText(pugi::xml_node node, std::string_view text);
 
 /// Returns the prefix (with its colon) of the namespace `uri` at `node`. If there is none, declares it on the
@@ -95,7 +102,9 @@ std::string NamespaceOf(pugi::xml_node node);
 std::optional<bool> ParseBoolean(std::string_view text);
 /// Returns a number as XML writes it, in the shortest form that reads back as the same number.
 std::string Number(double value);
+/// Reads a number as XML Schema writes it, in every locale; absent if the text isn't a number.
 std::optional<double> ParseDouble(std::string_view text);
+/// Reads a whole number; absent if the text isn't one or is out of range.
 std::optional<long long> ParseInteger(std::string_view text);
 
 }  // namespace plotsmith::xlsx::xml

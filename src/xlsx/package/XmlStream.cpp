@@ -12,9 +12,9 @@ namespace plotsmith::xlsx {
 namespace {
 
 constexpr std::size_t kWindow = 256 * 1024;
-/// An XML declaration is shorter, in any encoding.
+/// The maximum size of an XML declaration in any encoding.
 constexpr std::ptrdiff_t kDeclaration = 512;
-/// Behind the zero byte: whoever compares a few bytes at once may look so far.
+/// Size of the buffer after the terminating zero. Code that compares several bytes at once may read so far.
 constexpr std::size_t kSlack = 15;
 
 using ascii::IsSpace;
@@ -55,7 +55,7 @@ bool XmlStream::Fill() {
   const auto unread = static_cast<std::size_t>(end_ - position_);
   std::memmove(window_.data(), position_, unread);
   if (unread == window_.size() - 1 - kSlack) {
-    if (window_.size() > limits::kXmlToken) throw PackageError("it holds a text without an end");
+    if (window_.size() > limits::kXmlToken) throw PackageError("it contains a text without an end");
     window_.resize(window_.size() * 2);
   }
   const std::size_t count = ReadSource(window_.data() + unread, window_.size() - 1 - kSlack - unread);

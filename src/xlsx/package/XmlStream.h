@@ -11,11 +11,13 @@
 namespace plotsmith::xlsx {
 
 /// Reads a large part as a stream of tags, through a window that stays in the processor's cache. Elements
-/// have their local names. Text that isn't XML raises a PackageError, as far as it is noticed; not all rules
-/// of XML are checked.
+/// have their local names. Text that isn't well-formed raises a PackageError if that is noticed; not all
+/// rules of XML are checked.
 class XmlStream {
  public:
+  /// The kind of a tag.
   enum class Kind { kStart, kEnd, kEmpty, kEndOfInput };
+  /// A tag of the stream.
   struct Tag {
     Kind kind;
     std::string_view name;        ///< The local name. Valid until the next call.
@@ -39,10 +41,11 @@ class XmlStream {
   /// Moves the unread bytes to the start of the window and reads more. Returns false at the end of the part.
   /// A full window grows. `position_` stays at the same byte.
   bool Fill();
+  /// Throws the PackageError for XML that isn't well-formed.
   [[noreturn]] static void Damaged();
 
   // The unread bytes of the window. A zero byte follows at end_. XML can't contain one, so loops stop there
-  // without a comparison. The 15 bytes after it may be read too.
+  // without a comparison. The 15 bytes after it may also be read.
   const char* position_ = nullptr;
   const char* end_ = nullptr;
 

@@ -54,7 +54,7 @@ TextSpan FindAttribute(std::string_view text, const XmlTag& tag, std::string_vie
 
 std::string TextBetween(std::string_view content) {
   if (content.find('<') == std::string_view::npos) return xml::Decode(content);
-  // comments and character data are the stream's matter
+  // XmlStream handles comments and character data
   const std::string element = "<t>" + std::string(content) + "</t>";
   MemoryStream source(element);
   XmlStream stream(source);

@@ -12,10 +12,13 @@ namespace plotsmith::xlsx {
 struct TextSpan {
   std::size_t begin = std::string::npos;
   std::size_t end = std::string::npos;
+  /// Returns true if the span was found.
   bool Found() const { return begin != std::string::npos; }
 };
 
+/// A tag in a text.
 struct XmlTag {
+  /// The kind of a tag.
   enum class Kind { kStart, kEnd, kEmpty };
   TextSpan span;
   Kind kind = Kind::kStart;
@@ -27,10 +30,10 @@ struct XmlTag {
 /// skipped.
 std::optional<XmlTag> NextTag(std::string_view text, std::size_t from);
 
-/// Returns the place of an attribute of a tag, from the space before it to the end of its closing quote.
+/// Returns the span of an attribute of a tag, from the space before it to the end of its closing quote.
 TextSpan FindAttribute(std::string_view text, const XmlTag& tag, std::string_view name);
 
-/// Returns the decoded text of an element; `content` is what is written between its tags.
+/// Returns the decoded text of an element; `content` is the text between its tags.
 std::string TextBetween(std::string_view content);
 
 }  // namespace plotsmith::xlsx

@@ -15,10 +15,10 @@ namespace {
 
 constexpr std::size_t kBlock = 256 * 1024;
 
-/// What both kinds of file share: a descriptor, a position and the library's way to be told of errors.
+/// The common base of both kinds of file: a descriptor, a position, and libzip's error reporting.
 class ZipFile {
  public:
-  /// Takes the descriptor over; where it is none, errno says why.
+  /// Takes over the descriptor. If it is -1, errno contains the reason.
   explicit ZipFile(int file) : file_(file) {
     zip_error_init(&error_);
     const auto size = file_ < 0 ? std::nullopt : file_system::SizeOf(file_);
@@ -111,7 +111,7 @@ class ReadFile final : public ZipFile {
         if (count < 0) return Fail(ZIP_ER_READ);
         block_.resize(static_cast<std::size_t>(count));
         blockAt_ = position_;
-        if (count == 0) break;  // the file was cut while we read it
+        if (count == 0) break;  // the file was truncated while it was read
       }
       const auto offset = static_cast<std::size_t>(position_ - blockAt_);
       const auto count = std::min<zip_uint64_t>(block_.size() - offset, length - done);
@@ -140,7 +140,7 @@ class WriteFile final : public ZipFile {
       case ZIP_SOURCE_REMOVE:
         return 0;
       case ZIP_SOURCE_READ:
-        return 0;  // there is nothing in it yet
+        return 0;  // the new file is empty
       case ZIP_SOURCE_SEEK:
       case ZIP_SOURCE_TELL:
         return 0;
@@ -184,7 +184,7 @@ class WriteFile final : public ZipFile {
     return true;
   }
 
-  std::uint64_t position_ = 0;  ///< of the block in the file
+  std::uint64_t position_ = 0;  ///< of the block, within the file
   std::vector<char> block_;
 };
 

@@ -5,8 +5,9 @@
 
 namespace plotsmith::xlsx {
 
-/// Files for the zip library. By itself, the library reads and writes four kilobytes at a time, and a large
-/// workbook would spend more time in the kernel than in the pivot. The library owns the returned objects.
+/// Files for libzip with large blocks. By itself, the library reads and writes four kilobytes at a time, and
+/// a large workbook would spend more time in the kernel than in the pivot. The library owns the returned
+/// objects.
 
 /// Opens a file for reading. Throws PackageError if that fails.
 zip_source_t* OpenZipFile(const std::string& path);

@@ -17,6 +17,7 @@ struct GridCell {
   std::string text;         ///< The text of a text or an error value.
   std::uint32_t style = 0;  ///< An index into cellXfs.
 
+  /// Returns true if the cell has neither a value nor a style.
   bool IsBlank() const { return kind == excel::CellValue::Kind::kEmpty && style == 0; }
 };
 
@@ -33,8 +34,10 @@ class CellGrid {
   GridCell& At(std::int32_t row, std::int32_t column);
   /// Inserts a row above `row`. Raises error 1004 if the last row of the sheet would be lost.
   void InsertRow(std::int32_t row);
+  /// Deletes a row, counted from 1; the rows below it move up.
   void DeleteRow(std::int32_t row);
 
+  /// Number of rows up to the last one with a cell.
   std::int32_t RowCount() const { return static_cast<std::int32_t>(above_.size() + below_.size()); }
   /// Returns the smallest rectangle that contains all cells that aren't blank.
   std::optional<CellRange> Used() const;
@@ -48,10 +51,10 @@ class CellGrid {
   /// Moves rows between above_ and below_ so that `row` is the first row of below_.
   void DivideAt(std::int32_t row);
 
-  /// The rows, divided at the place of the last insertion or deletion. Many rows are inserted at one place,
-  /// and the rows below it don't move each time. `below_` is in reverse order.
+  /// The rows, divided at the position of the last insertion or deletion. Many rows are inserted at one
+  /// position, and the rows below it don't move each time. `below_` is in reverse order.
   std::vector<Row> above_, below_;
-  std::size_t held_ = 0;  ///< The number of cells, with those that only fill a row.
+  std::size_t held_ = 0;  ///< The number of cells, including those that only fill a row.
 };
 
 }  // namespace plotsmith::xlsx

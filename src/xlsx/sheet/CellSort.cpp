@@ -12,9 +12,9 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// What comes before the letters, in Excel's order of sorting.
+/// The characters that sort before letters, in Excel's order.
 constexpr std::u16string_view kBeforeLetters = u"0123456789 !\"#$%&()*,./:;?@[\\]^_`{|}~+<=>";
-/// The letters that U+00C0 to U+00FF are sorted among; a blank where it is a letter of its own.
+/// The letters among which U+00C0 to U+00FF are sorted; a blank for a character that sorts by itself.
 constexpr std::u16string_view kBaseLetters =
     u"AAAAAAACEEEEIIII NOOOOO OUUUUY SAAAAAAACEEEEIIII NOOOOO OUUUUY Y";
 constexpr char32_t kLetters = 0x100;  ///< above all weights of kBeforeLetters
@@ -26,12 +26,12 @@ char32_t Weight(char16_t unit) {
   return kLetters + unit;
 }
 
-/// A text by the keys that decide, the first first.
+/// The sort keys of a text, the most significant first.
 struct TextKey {
-  std::u32string letters;  ///< without hyphens and apostrophes, case and accents aside
+  std::u32string letters;  ///< without hyphens and apostrophes, ignoring case and accents
   std::u16string accents;  ///< the same with accents
-  std::u16string marks;    ///< where hyphens and apostrophes stand; a text with any goes behind one without
-  std::u16string cases;    ///< 0 for a lower case letter, 1 for an upper case one
+  std::u16string marks;    ///< positions of hyphens and apostrophes; texts without any come first
+  std::u16string cases;    ///< 0 for a lower-case letter, 1 for an upper-case one
 
   auto operator<=>(const TextKey&) const = default;
 };
@@ -52,7 +52,8 @@ TextKey KeyOf(std::string_view text, bool matchCase) {
   return key;
 }
 
-/// Excel's order of the kinds; what is empty isn't among them, as it goes last in either direction.
+/// Returns a kind's position in Excel's order. Empty cells aren't included, because they come last in both
+/// directions.
 int Rank(const GridCell& cell) {
   using Kind = excel::CellValue::Kind;
   switch (cell.kind) {
@@ -80,14 +81,14 @@ struct Row {
   bool IsBefore(const Row& other) const {
     if (rank != other.rank) return rank < other.rank;
     if (rank == 1) return text < other.text;
-    return rank != 3 && number < other.number;  // errors are all the same
+    return rank != 3 && number < other.number;  // errors are all equal
   }
 };
 
 }  // namespace
 
 void SortRows(CellGrid& grid, const CellRange& range, const SortOptions& options) {
-  const std::int32_t last = std::min(range.row2, grid.RowCount());  // below, all is empty
+  const std::int32_t last = std::min(range.row2, grid.RowCount());  // all cells below are empty
   std::vector<Row> rows;
   for (std::int32_t row = range.row1; row <= last; ++row) {
     Row& taken = rows.emplace_back();

@@ -7,6 +7,7 @@
 
 namespace plotsmith::xlsx {
 
+/// The options of a sort.
 struct SortOptions {
   std::int32_t column = 1;  ///< The key's column on the sheet, from 1. It is inside the range.
   bool descending = false;

@@ -5,8 +5,8 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// The last of the runs, by ascending first row, that begins at the row or before; the count if there is
-/// none.
+/// Returns the last run that begins at or before the row; the number of runs if there is none. The runs are
+/// sorted by first row.
 template <class Runs>
 std::size_t RunBefore(const Runs& runs, std::int32_t row) {
   const auto next = std::upper_bound(runs.begin(), runs.end(), row,
@@ -27,7 +27,7 @@ void CellStore::Column::AppendElsewhere(std::int32_t row, PackedValue value, std
   } else {
     for (std::int32_t gap = last + 1; gap < row; ++gap) values_.emplace_back();
   }
-  // rows in a gap have no cell, and so no style
+  // rows without cells have no style
   if (row > last + 1 && lastStyle_ != 0) styles_.push_back({last + 1, lastStyle_ = 0});
   if (style != lastStyle_) styles_.push_back({row, lastStyle_ = style});
   values_.push_back(value);

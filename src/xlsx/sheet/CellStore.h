@@ -16,17 +16,23 @@ namespace plotsmith::xlsx {
 /// into the sheet's own texts.
 class PackedValue {
  public:
+  /// The type of a value.
   enum class Kind : std::uint8_t { kEmpty, kBoolean, kError, kSharedText, kOwnText, kNumber };
 
   constexpr PackedValue() : PackedValue(Kind::kEmpty, 0) {}
+  /// Makes a value other than a number. `index` is its Boolean, error number or text.
   constexpr PackedValue(Kind kind, std::uint32_t index)
       : bits_(kTag | static_cast<std::uint64_t>(kind) << 32 | index) {}
+  /// Makes a number.
   constexpr explicit PackedValue(double number) : bits_(std::bit_cast<std::uint64_t>(number)) {}
 
+  /// The type of the value.
   Kind GetKind() const {
     return (bits_ & kTag) == kTag ? static_cast<Kind>(bits_ >> 32 & 0xFF) : Kind::kNumber;
   }
+  /// The number; only for kNumber.
   double Number() const { return std::bit_cast<double>(bits_); }
+  /// The Boolean, the error number, or the index of the text.
   std::uint32_t Index() const { return static_cast<std::uint32_t>(bits_); }
 
  private:
@@ -37,16 +43,19 @@ class PackedValue {
 /// Texts in one block of memory, by index from 0.
 class TextPool {
  public:
+  /// Adds a text and returns its index.
   std::uint32_t Add(std::string_view text) {
     bytes_.append(text);
     ends_.push_back(bytes_.size());
     return static_cast<std::uint32_t>(ends_.size() - 1);
   }
+  /// Returns a text by its index. The view is valid until the next Add.
   std::string_view At(std::uint32_t index) const {
     if (index >= ends_.size()) return {};
     const std::uint64_t begin = index == 0 ? 0 : ends_[index - 1];
     return std::string_view(bytes_).substr(begin, ends_[index] - begin);
   }
+  /// Number of texts.
   std::size_t Count() const { return ends_.size(); }
 
  private:
@@ -65,6 +74,7 @@ class CellStore {
     columns_[static_cast<std::size_t>(column) - 1].Append(row, value, style);
     ++count_;
   }
+  /// Returns the value of a cell, kEmpty if there is none. Row and column count from 1.
   PackedValue ValueAt(std::int32_t row, std::int32_t column) const {
     if (column < 1 || column > static_cast<std::int32_t>(columns_.size())) return {};
     return columns_[static_cast<std::size_t>(column) - 1].ValueAt(row);
@@ -75,12 +85,14 @@ class CellStore {
     return columns_[static_cast<std::size_t>(column) - 1].StyleAt(row);
   }
 
+  /// The last column with a cell; 0 if there is none.
   std::int32_t ColumnCount() const { return static_cast<std::int32_t>(columns_.size()); }
   /// Returns the next row below `row` that may have a cell in the column; 0 if there is none.
   std::int32_t NextRow(std::int32_t row, std::int32_t column) const {
     if (column < 1 || column > static_cast<std::int32_t>(columns_.size())) return 0;
     return columns_[static_cast<std::size_t>(column) - 1].NextRow(row);
   }
+  /// Number of cells that aren't empty.
   std::uint64_t CellCount() const { return count_; }
 
   TextPool texts;  ///< The sheet's own texts: inline strings, results of formulas, error values.
@@ -98,7 +110,7 @@ class CellStore {
       }
     }
     PackedValue ValueAt(std::int32_t row) const {
-      // Most callers go down a column, so the run of the last call is the best guess.
+      // Most callers read a column downwards, so the run of the last call is the best guess.
       if (strays_.empty() && !runs_.empty()) {
         const Run& run = runs_[recentRun_];
         if (row >= run.firstRow && row <= run.lastRow) {

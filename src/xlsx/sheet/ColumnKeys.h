@@ -13,21 +13,27 @@ class ColumnKeys {
  public:
   /// The key of a cell that the caller has to read: the cell is empty, or its displayed text isn't its text.
   static constexpr std::uint32_t kUnknown = 0;
+  /// Returns the key of a text.
   static std::uint32_t KeyOf(std::string_view text) {
     return static_cast<std::uint32_t>(std::hash<std::string_view>()(text)) | 1u;
   }
 
+  /// Makes the keys of a column, counted from 1.
   explicit ColumnKeys(std::int32_t column) : column_(column) {}
 
+  /// The column, from 1.
   std::int32_t Column() const { return column_; }
+  /// Sets the key of a row, counted from 1.
   void Set(std::int32_t row, std::uint32_t key) {
     const std::size_t index = IndexOf(row);
     if (index >= keys_.size()) keys_.resize(index + 1, kUnknown);
     keys_[index] = key;
   }
+  /// Inserts a row; the keys from there on move down.
   void InsertRow(std::int32_t row) {
     if (IndexOf(row) < keys_.size()) keys_.insert(keys_.begin() + (row - 1), kUnknown);
   }
+  /// Deletes a row; the keys below it move up.
   void DeleteRow(std::int32_t row) {
     if (IndexOf(row) < keys_.size()) keys_.erase(keys_.begin() + (row - 1));
   }

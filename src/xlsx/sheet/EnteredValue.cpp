@@ -22,7 +22,8 @@ void Put(GridCell& cell, Kind kind, double number, std::string text = {}) {
   cell.text = std::move(text);
 }
 
-/// Whether every comma stands behind a digit and before three of them, and none behind the point.
+/// Returns true if every comma follows a digit and precedes three digits, and no comma follows the decimal
+/// point.
 bool GroupsThousands(std::string_view text) {
   for (std::size_t i = 0; i < text.size() && text[i] != '.'; ++i) {
     if (text[i] != ',') continue;
@@ -33,8 +34,8 @@ bool GroupsThousands(std::string_view text) {
   return text.find(',', std::min(text.find('.'), text.size())) == std::string_view::npos;
 }
 
-/// A number as a person types it. A sheet knows percentages, but less than the language otherwise: no radix,
-/// no D for an exponent, no sign behind, and commas only between thousands.
+/// Reads a number as a user types it. A sheet accepts percentages, but no other base, no D exponent and no
+/// trailing sign, and commas only between thousands.
 std::optional<double> TypedNumber(std::string_view text) {
   text = runtime::Trim(text);
   const bool percent = text.ends_with('%');
@@ -63,7 +64,7 @@ void EnterText(GridCell& cell, std::string_view text) {
     }
   }
   if (text.size() > limits::kCellText && runtime::Len(text) > limits::kCellText) {
-    throw runtime::RuntimeError(runtime::error::kApplication, "The text is longer than a cell can hold.");
+    throw runtime::RuntimeError(runtime::error::kApplication, "The text is longer than a cell can contain.");
   }
   Put(cell, Kind::kText, 0, std::string(text));
 }

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kLost = "#REF!";
 
-/// Where a span of rows lies after the change; nothing if it is gone.
+/// Returns the position of a span of rows after the change; absent if all of its rows are deleted.
 std::optional<std::pair<std::int32_t, std::int32_t>> ShiftSpan(std::int32_t first, std::int32_t last,
                                                                std::int32_t row, std::int32_t count) {
   if (count >= 0) {
@@ -23,7 +23,7 @@ std::optional<std::pair<std::int32_t, std::int32_t>> ShiftSpan(std::int32_t firs
     return std::pair{static_cast<std::int32_t>(moved(first)),
                      static_cast<std::int32_t>(std::min<std::int64_t>(moved(last), limits::kRows))};
   }
-  const std::int32_t gone = -count, behind = row + gone;  // rows from `row` to before `behind` go
+  const std::int32_t gone = -count, behind = row + gone;  // deletes rows from `row` to before `behind`
   if (first >= row && last < behind) return std::nullopt;
   if (first >= behind) {
     first -= gone;
@@ -38,12 +38,12 @@ std::optional<std::pair<std::int32_t, std::int32_t>> ShiftSpan(std::int32_t firs
   return std::pair{first, last};
 }
 
-/// False if the reference is gone.
+/// Moves a reference. Returns false if its cells are deleted.
 bool Shift(A1Reference& reference, std::int32_t row, std::int32_t count) {
   const bool ascending = reference.first.row <= reference.second.row;
   std::int32_t& low = ascending ? reference.first.row : reference.second.row;
   std::int32_t& high = ascending ? reference.second.row : reference.first.row;
-  if (low == 1 && high == limits::kRows) return true;  // whole columns, in another writing
+  if (low == 1 && high == limits::kRows) return true;  // an entire column, written as a range of rows
   const auto span = ShiftSpan(low, high, row, count);
   if (!span) return false;
   low = span->first;
@@ -53,7 +53,7 @@ bool Shift(A1Reference& reference, std::int32_t row, std::int32_t count) {
 
 }  // namespace
 
-// what is too long for a sheet's name is none
+// a text that is too long can't be a sheet's name
 void FormulaReader::PointTo(std::string sheet, bool elsewhere) {
   place_ = elsewhere || runtime::Len(sheet) > limits::kSheetName ? Place::kElsewhere : Place::kSheet;
   sheet_ = place_ == Place::kSheet ? std::move(sheet) : std::string();
@@ -66,7 +66,8 @@ FormulaReader::Piece FormulaReader::Take(std::size_t length) {
   return piece;
 }
 
-/// A sheet in quotes: of another book ('[1]Sheet'), or two with a colon, it is no name of a sheet.
+/// Reads a name in quotes. A sheet of another workbook ('[1]Sheet') and a pair of sheets with a colon don't
+/// count as names of a sheet.
 FormulaReader::Piece FormulaReader::TakeQuoted() {
   std::string_view behind = rest_;
   std::string name = TakeQuotedSheetName(behind);
@@ -76,13 +77,13 @@ FormulaReader::Piece FormulaReader::TakeQuoted() {
   return Take(rest_.size() - behind.size());
 }
 
-/// The columns of a table, or the number of another book with the sheet behind it.
+/// Reads the columns of a table, or the number of another workbook with the sheet after it.
 FormulaReader::Piece FormulaReader::TakeBracketed() {
   int depth = 0;
   std::size_t i = 0;
   for (; i < rest_.size(); ++i) {
     if (rest_[i] == '\'' && depth > 0) {
-      ++i;  // what follows is meant literally
+      ++i;  // the next character is literal
     } else if (rest_[i] == '[') {
       ++depth;
     } else if (rest_[i] == ']' && --depth == 0) {
@@ -97,7 +98,7 @@ FormulaReader::Piece FormulaReader::TakeBracketed() {
   return Take(sheetEnd + 1);
 }
 
-/// A reference, a sheet with its "!", or any other word.
+/// Reads a reference, a sheet with its "!", or any other word.
 FormulaReader::Piece FormulaReader::TakeName() {
   if (auto reference = ReadA1Reference(rest_)) {
     Piece piece = Take(reference->length);
@@ -175,7 +176,7 @@ std::string OffsetFormula(std::string_view formula, std::int32_t rows, std::int3
     }
     bool lost = false;
     const auto move = [&](std::int32_t& at, bool absolute, std::int32_t by, std::int32_t most) {
-      if (at == 0 || absolute) return;  // 0: whole rows have no column, whole columns no row
+      if (at == 0 || absolute) return;  // entire rows have column 0, entire columns row 0
       at += by;
       lost |= at < 1 || at > most;
     };

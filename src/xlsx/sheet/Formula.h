@@ -10,7 +10,7 @@
 
 #include "xlsx/sheet/Reference.h"
 
-/// Formulas as text: what they refer to, without knowing what they compute.
+/// Formulas as text: their references, without their meaning.
 namespace plotsmith::xlsx {
 
 /// Splits a formula into references and other pieces of text.
@@ -22,6 +22,7 @@ class FormulaReader {
     kSheet,      ///< The sheet that the reference names.
     kElsewhere,  ///< Another workbook, or several sheets.
   };
+  /// A piece of a formula: a reference, or other text.
   struct Piece {
     std::string_view text;
     std::optional<A1Reference> reference;
@@ -29,6 +30,7 @@ class FormulaReader {
     std::string sheet;  ///< The name of the sheet, without quotes.
   };
 
+  /// Reads `formula`, without "=", from its beginning.
   explicit FormulaReader(std::string_view formula) : rest_(formula) {}
   /// Returns the next piece, or nothing at the end.
   std::optional<Piece> Next();

@@ -10,7 +10,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// Takes `count` digits off the front.
+/// Removes `count` digits from the beginning and returns their number.
 std::optional<int> TakeDigits(std::string_view& text, std::size_t count) {
   if (text.size() < count) return std::nullopt;
   const std::string_view digits = text.substr(0, count);
@@ -49,7 +49,7 @@ constexpr std::int64_t kDay = 24 * kHour;
 
 std::string TwoDigits(std::int64_t number) { return (number < 10 ? "0" : "") + std::to_string(number); }
 
-/// ".5", without zeros at its end; empty for a whole second.
+/// Returns the fraction, such as ".5", without trailing zeros; empty for a whole second.
 std::string FractionText(std::int64_t milliseconds) {
   if (milliseconds == 0) return {};
   std::string digits = std::to_string(kSecond + milliseconds).substr(1);
@@ -62,7 +62,7 @@ std::string TimeText(std::int64_t ofDay) {
          TwoDigits(ofDay % kMinute / kSecond) + FractionText(ofDay % kSecond);
 }
 
-/// Parts that are zero are left out.
+/// Returns a duration without the parts that are zero.
 std::string DurationText(std::int64_t milliseconds) {
   const std::int64_t rest = std::abs(milliseconds);
   std::string text = milliseconds < 0 ? "-PT" : "PT";
@@ -74,7 +74,7 @@ std::string DurationText(std::int64_t milliseconds) {
   return text;
 }
 
-/// Empty for a day that the system doesn't have.
+/// Returns the date of a day; empty if the date system doesn't have the day.
 std::string DateText(std::int64_t day, DateSystem dates) {
   using namespace std::chrono;
   const bool is1900 = dates == DateSystem::k1900;
@@ -89,7 +89,7 @@ std::string DateText(std::int64_t day, DateSystem dates) {
 }  // namespace
 
 std::string IsoText(double serial, DateFields fields, DateSystem dates) {
-  // the last day that any format shows; also keeps the product below within its type
+  // the last day that any format shows; the limit also prevents an overflow in the product below
   if (fields == DateFields::kNone || !(std::fabs(serial) <= kLastSerial + 1)) return {};
   const auto milliseconds = static_cast<std::int64_t>(std::llround(serial * static_cast<double>(kDay)));
   if (fields == DateFields::kDuration) return DurationText(milliseconds);
@@ -113,7 +113,7 @@ std::optional<double> ParseIsoDate(std::string_view text, DateSystem dates) {
     const year_month_day date{std::chrono::year(*year), std::chrono::month(static_cast<unsigned>(*month)),
                               std::chrono::day(static_cast<unsigned>(*day))};
     if (!date.ok()) return std::nullopt;
-    // both systems count from a day before 1970; 1900 has a 29 February of its own, serial 60
+    // both systems count from a day before 1970; the 1900 system has a 29 February 1900, serial number 60
     const auto days = sys_days(date).time_since_epoch().count();
     serial = days + kSerialOf1970 - SerialOffset(dates);
     if (dates == DateSystem::k1900 && serial <= kPhantomLeapDay) serial -= 1;

@@ -19,7 +19,7 @@ constexpr std::size_t kMostBreaks = 1026;
 
 struct Paper {
   long long code;
-  double width, height;  ///< points, upright
+  double width, height;  ///< points, in portrait orientation
 };
 
 constexpr Paper Inches(long long code, double width, double height) {
@@ -29,7 +29,7 @@ constexpr Paper Millimeters(long long code, double width, double height) {
   return {code, width * kPointsPerMillimeter, height * kPointsPerMillimeter};
 }
 
-/// The usual ones of the sizes that `paperSize` numbers (ECMA-376-1, 18.3.1.63).
+/// The most common paper sizes by their number in `paperSize` (ECMA-376-1, 18.3.1.63).
 constexpr std::array kPapers = {
     Inches(1, 8.5, 11),        Inches(3, 11, 17),         Inches(4, 17, 11),
     Inches(5, 8.5, 14),        Inches(6, 5.5, 8.5),       Inches(7, 7.25, 10.5),
@@ -102,7 +102,7 @@ PageSetup ReadPageSetup(Archive::Stream& part) {
     if (tag.name == "sheetData" && tag.kind == XmlStream::Kind::kStart) {
       stream.SkipElement();
     } else if (tag.name == "customSheetViews" && tag.kind == XmlStream::Kind::kStart) {
-      stream.SkipElement();  // the setups of other people's views
+      stream.SkipElement();  // page setups of other users' views
     } else if (tag.name == "pageSetUpPr") {
       setup.fits = BooleanIn(tag.attributes, "fitToPage");
     } else if (tag.name == "printOptions") {

@@ -33,7 +33,7 @@ struct ReadCornerResult {
   std::size_t length;  ///< of its text
 };
 
-/// The corner that the text begins with.
+/// Reads the corner at the beginning of the text.
 std::optional<ReadCornerResult> ReadCorner(std::string_view text) {
   Corner corner;
   std::size_t i = 0;
@@ -67,7 +67,7 @@ std::string CornerText(const Corner& corner) {
   return text;
 }
 
-/// "R", "C12", "RC3" and their like, which is a reference also without its numbers.
+/// Returns true for "R", "C12", "RC3" and similar names, which are references even without numbers.
 bool ReadsAsR1C1(std::string_view name) {
   const auto take = [&](char letter) {
     if (name.empty() || ascii::Lower(name[0]) != letter) return;
@@ -140,7 +140,7 @@ std::string QuotedSheetName(std::string_view name) {
     plain = c < 0x80 ? IsLetter(static_cast<char>(c)) || IsDigit(static_cast<char>(c)) || c == '_' || c == '.'
                      : runtime::IsLetter(c);
   }
-  // a name that reads as a reference needs quotes too
+  // a name that looks like a reference needs quotes, too
   if (plain && !ReadA1Reference(name) && !ReadsAsR1C1(name)) return std::string(name);
   return "'" + runtime::Replace(name, "'", "''") + "'";
 }
@@ -151,7 +151,7 @@ std::string TakeQuotedSheetName(std::string_view& text) {
   for (; i < text.size(); ++i) {
     if (text[i] == '\'' && !text.substr(i + 1).starts_with('\'')) break;
     name += text[i];
-    if (text[i] == '\'') ++i;  // doubled, for one
+    if (text[i] == '\'') ++i;  // a doubled quote counts as one
   }
   text.remove_prefix(std::min(i + 1, text.size()));
   return name;

@@ -18,8 +18,11 @@ struct CellPlace {
 struct CellRange {
   std::int32_t row1 = 1, column1 = 1, row2 = 1, column2 = 1;
 
+  /// Number of rows.
   std::int32_t RowCount() const { return row2 - row1 + 1; }
+  /// Number of columns.
   std::int32_t ColumnCount() const { return column2 - column1 + 1; }
+  /// Number of cells.
   std::int64_t CellCount() const { return std::int64_t{RowCount()} * ColumnCount(); }
   bool operator==(const CellRange&) const = default;
 };
@@ -66,6 +69,7 @@ struct A1Reference {
   bool range = false;
   std::size_t length = 0;  ///< The length of its text.
 
+  /// Returns the reference as a formula writes it.
   std::string Text() const;
 };
 

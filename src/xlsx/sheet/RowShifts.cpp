@@ -9,8 +9,9 @@ namespace plotsmith::xlsx {
 
 namespace {
 
-/// Whether a text holds a name in any case. Only ASCII letters are compared by case: for others, and for what
-/// XML or quotes would write otherwise, the first few characters that are the same in any writing have to do.
+/// Returns true if a text may contain a name, ignoring case. Case is ignored for ASCII letters only. Of a
+/// name with characters that a file may write in another way, only the longest stretch of plain characters is
+/// compared.
 bool Mentions(std::string_view text, std::string_view name) {
   const auto plain = [](char c) { return ascii::IsDigit(c) || ascii::IsLetter(c) || c == '_' || c == ' '; };
   std::size_t begin = 0, length = 0;  // the longest stretch of plain characters
@@ -32,7 +33,7 @@ void RowShifts::Add(std::string_view sheet, std::int32_t row, std::int32_t count
   auto& shifts = shifts_[runtime::UCase(sheet)];
   if (!shifts.empty() && shifts.back().number + 1 == count_ && !marked_) {
     RowShift& last = shifts.back();
-    // rows that go in, or out, at one place one by one are one change
+    // rows that are inserted or deleted one by one at the same position are one change
     if (last.row == row && (last.count > 0) == (count > 0)) {
       last.count += count;
       return;

@@ -19,6 +19,7 @@ class RowShifts {
  public:
   /// Adds an insertion of `count` rows at `row`, or a deletion if `count` is negative.
   void Add(std::string_view sheet, std::int32_t row, std::int32_t count);
+  /// Returns true if no row has moved.
   bool None() const { return count_ == 0; }
   /// Returns whether there are shifts after a mark.
   bool AnyBehind(std::size_t mark) const { return count_ > mark; }

@@ -8,7 +8,8 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// Whether a sheet's head speaks of a selected tab; only the head is looked at, as a sheet may be large.
+/// Returns true if a sheet's head may mention a selected tab. Only the head is read, because a sheet may be
+/// large.
 bool MaySayIsSelected(const Package& package, const std::string& sheet) {
   std::string head(64 * 1024, '\0');
   const auto stream = package.Stream(sheet);
@@ -27,7 +28,7 @@ void SelectOnlyTab(Package& package, const std::vector<std::string>& sheets, con
       std::string text = xml::ToUtf8(package.Read(sheet));
       if (SetViewSetting(text, kTabSelected, sheet == selected)) package.Replace(sheet, std::move(text));
     } catch (const PackageError&) {
-      // a sheet that can't be read stays as it is
+      // an unreadable sheet stays as it is
     }
   }
 }

@@ -27,7 +27,8 @@ void ReadSharedStrings(Archive::Stream& source, TextPool& strings) {
     } else if (tag.name == "si") {
       if (tag.kind == Kind::kEmpty) item.clear();
       bytes += item.size();
-      if (strings.Count() >= limits::kSharedStrings) throw PackageError("it has more texts than we can hold");
+      if (strings.Count() >= limits::kSharedStrings)
+        throw PackageError("it has more texts than Plotsmith supports");
       strings.Add(item);
     }
   }

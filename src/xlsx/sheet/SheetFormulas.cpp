@@ -25,7 +25,7 @@ bool HoldsFormula(std::string_view local) {
   return false;
 }
 
-/// The attributes of a shared formula without those that share it.
+/// Returns the attributes of a shared formula without those that make it shared.
 std::string Unshared(std::string_view attributes) {
   std::string kept;
   while (const auto attribute = TakeAttribute(attributes)) {
@@ -35,7 +35,7 @@ std::string Unshared(std::string_view attributes) {
   return kept;
 }
 
-/// The formula that a group of cells shares, and the cell that has it in full.
+/// A formula shared by a group of cells, and the cell that contains its text.
 struct SharedFormula {
   std::int32_t row, column;
   std::string formula;
@@ -53,7 +53,7 @@ class FormulaShifter {
       at = tag->span.end;
       if (tag->kind == XmlTag::Kind::kEnd) continue;
       const std::string_view local = xml::LocalName(tag->name);
-      // rows and cells without a reference follow the one before
+      // a row or cell without a reference follows the previous one
       if (local == "row") {
         const auto row = xml::ParseInteger(AttributeIn(tag->attributes, "r"));
         row_ = row ? static_cast<std::int32_t>(std::clamp<long long>(*row, 0, limits::kRows)) : row_ + 1;
@@ -75,7 +75,7 @@ class FormulaShifter {
   }
 
  private:
-  /// The element that begins with the tag. Answers where it ends.
+  /// Handles the element that begins with the tag. Returns the position of its end.
   std::size_t TakeFormula(const XmlTag& tag) {
     TextSpan text{tag.span.end, tag.span.end};
     std::size_t end = tag.span.end;
@@ -89,7 +89,7 @@ class FormulaShifter {
     if (AttributeIn(tag.attributes, "t") == "shared") {
       const std::string group = AttributeIn(tag.attributes, "si");
       if (!formula.empty()) {
-        shared_.erase(group);  // numbers of groups are used again
+        shared_.erase(group);  // group numbers are reused
         const bool sound = runtime::Len(formula) <= limits::kFormula;
         if (sound && shifts_.MayConcern(formula)) shared_[group] = {row_, column_, formula};
       } else if (const auto found = shared_.find(group); found != shared_.end()) {
@@ -111,13 +111,13 @@ class FormulaShifter {
     return shifts_.Follow(formula, home_, followed_);
   }
 
-  /// Another text in the place of a stretch of the part.
+  /// Replaces a stretch of the part by another text.
   void Replace(const TextSpan& stretch, const std::string& by) {
     out_.append(part_, copied_, stretch.begin - copied_).append(by);
     copied_ = stretch.end;
     if (out_.size() > limits::kHeldPart) {
-      throw PackageError("its formulas come to more than " + std::to_string(limits::kHeldPart) +
-                         " bytes, which no sound workbook needs");
+      throw PackageError("its formulas take more than " + std::to_string(limits::kHeldPart) +
+                         " bytes, more than any valid workbook needs");
     }
   }
 
@@ -125,7 +125,7 @@ class FormulaShifter {
   std::string_view home_;
   const RowShifts& shifts_;
   std::size_t followed_;
-  std::map<std::string, SharedFormula> shared_;  ///< those concerned, by their `si`
+  std::map<std::string, SharedFormula> shared_;  ///< the affected ones, by their `si`
   std::int32_t row_ = 0, column_ = 0;
   std::string out_;
   std::size_t copied_ = 0;

@@ -14,18 +14,18 @@
 namespace plotsmith::xlsx {
 namespace {
 
-constexpr double kPointsPerPixel = 0.75;  // at 96 dots an inch
+constexpr double kPointsPerPixel = 0.75;  // at 96 dots per inch
 constexpr int kDefaultCharacters = 8;
-// What a file says beyond these (Excel's limits) is no size.
+// Larger values than these limits of Excel aren't valid sizes.
 constexpr double kMostCharacters = 255, kMostRowHeight = 409.5, kMostFontSize = 409;
 
-/// A column's width in the file, in characters, as pixels (ECMA-376-1, 18.3.1.13).
+/// Converts a column's width from the file's unit, characters, to points (ECMA-376-1, 18.3.1.13).
 double ColumnPoints(double characters, int digit) {
   return std::floor((256 * characters + std::floor(128.0 / digit)) / 256 * digit) * kPointsPerPixel;
 }
 
-/// A width that wasn't written: whole characters, padding of a quarter digit on both sides and a grid line,
-/// up to a multiple of eight pixels.
+/// Returns the default width of columns in points. It consists of whole characters, a padding of a quarter
+/// digit on both sides and a grid line, rounded up to a multiple of eight pixels.
 double DefaultColumnPoints(int characters, int digit) {
   const double pixels = characters * digit + 2 * std::ceil(digit / 4.0) + 1;
   return std::ceil(pixels / 8) * 8 * kPointsPerPixel;
@@ -34,7 +34,7 @@ double DefaultColumnPoints(int characters, int digit) {
 }  // namespace
 
 int DigitWidth(const Styles& styles) {
-  // Common fonts whose digits are wider than the rule below says.
+  // the exact value is known for common default fonts; for others it grows with the size in the same way
   struct Known {
     std::string_view font;
     double size;
@@ -46,14 +46,14 @@ int DigitWidth(const Styles& styles) {
   for (const Known& known : kKnown) {
     if (runtime::EqualsIgnoreCase(name, known.font) && size == known.size) return known.width;
   }
-  // The digits of Calibri 11 have 7 pixels, as have those of Cambria and Aptos Narrow.
+  // a digit is about half as wide as the font is high
   return std::max(1, static_cast<int>(std::lround(size * 96 / 72 * 0.48)));
 }
 
 void GridLines::SetSize(std::int32_t first, std::int32_t last, double size) {
   last = std::min(last, count_ - 1);
   if (first < 0 || first > last || (!own_.empty() && first <= own_.back().last)) return;
-  // some programs give each row its height, the same for a million of them
+  // some programs write a height for each row, which may be the same for a million rows
   if (!own_.empty() && first == own_.back().last + 1 && size == own_.back().size) {
     own_.back().last = last;
     return;
@@ -107,7 +107,7 @@ SheetGeometry ReadGeometry(const std::string& head,
   };
   std::vector<Columns> columns;
 
-  // the head is an element without its end, so it is read as a stream of tags
+  // the head has no end tag, so it is read as a stream of tags
   MemoryStream source(head);
   XmlStream stream(source);
   for (XmlStream::Tag tag = stream.Next(); tag.kind != XmlStream::Kind::kEndOfInput; tag = stream.Next()) {

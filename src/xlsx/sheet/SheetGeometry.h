@@ -16,11 +16,13 @@ inline constexpr double kDefaultRowHeight = 15;
 /// anchors. Distances are in points.
 class GridLines {
  public:
+  /// Makes `count` lines, all of the default size in points.
   explicit GridLines(double defaultSize, std::int32_t count) : default_(defaultSize), count_(count) {}
 
   /// Sets the size of columns or rows from `first` to `last`. Calls are in ascending order, and ranges don't
   /// overlap.
   void SetSize(std::int32_t first, std::int32_t last, double size);
+  /// Returns the size of a column or row in points.
   double SizeOf(std::int32_t index) const;
   /// Returns the distance of the left or upper edge.
   double EdgeOf(std::int32_t index) const;
@@ -38,6 +40,7 @@ class GridLines {
   std::vector<Own> own_;
 };
 
+/// The columns and rows of a sheet.
 struct SheetGeometry {
   GridLines columns;
   GridLines rows;

@@ -19,8 +19,8 @@ namespace {
 using ascii::IsDigit;
 using ascii::IsSpace;
 
-/// Numbers of a sheet. The common ones, with few digits and no exponent, are exact as the quotient of two
-/// whole numbers below 2^53; the rest goes the library's road.
+/// Converts a number of a sheet. Common numbers, with few digits and no exponent, are exact quotients of two
+/// whole numbers below 2^53; the library converts the others.
 std::optional<double> CellNumber(std::string_view text) {
   constexpr int kExactDigits = 15;
   static constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
@@ -44,14 +44,14 @@ std::optional<double> CellNumber(std::string_view text) {
   return xml::ParseDouble(text);
 }
 
-/// The loop over rows and cells. It reads cells straight from the window: a cell is taken when all of it is
-/// there, and read again from its beginning after the window has moved when it isn't, so that the inner loops
-/// look at nothing but the next byte. The zero byte behind the window ends every one of them.
+/// Reads the rows and cells. It reads cells directly from the window: if a cell isn't completely in the
+/// window, the window moves and the cell is read again from its beginning. So the inner loops only look at
+/// the next byte. The zero byte after the window ends each of these loops.
 ///
-/// Nearly all cells that programs write have one of two shapes, and most rows one; those are taken by
-/// comparing whole stretches of text (TakePlainCell, TakePlainRow), which is what makes a large sheet cost
-/// little more than its inflating. Whatever has another shape takes the general road, which reads the same
-/// and more.
+/// Nearly all cells that programs write have one of two shapes, and most rows have one. They are read by
+/// comparing whole stretches of text (TakePlainCell, TakePlainRow), so that reading a large sheet takes
+/// little longer than decompressing it. Cells of other shapes are read by the general code, which gives the
+/// same results.
 class SheetScanner : public XmlStream {
  public:
   SheetScanner(Archive::Stream& source, DateSystem dates) : XmlStream(source), dates_(dates) {}
@@ -65,7 +65,7 @@ class SheetScanner : public XmlStream {
   }
 
  private:
-  /// What a piece of the row content turned out to be.
+  /// The result of reading a piece of the row's content.
   enum class Piece { kTaken, kCut, kEnd };
   /// The start tag of a cell.
   struct CellTag {
@@ -78,8 +78,8 @@ class SheetScanner : public XmlStream {
   bool ReadHead();
   void ReadRows();
   void ReadMergedCells();
-  /// Behind the cell, or the row's tag, at `p` if it has the plain shape and lies whole in the window; else
-  /// null, with nothing taken.
+  /// Reads the cell, or the row's start tag, at `p`, and returns the position after it. Returns null and
+  /// reads nothing if it doesn't have the plain shape or isn't completely in the window.
   const char* TakePlainCell(const char* p);
   const char* TakePlainRow(const char* p);
   Piece ReadPiece();
@@ -96,15 +96,15 @@ class SheetScanner : public XmlStream {
 
   void Put(std::int32_t column, PackedValue value, std::uint32_t style) {
     if (contents_.cells.CellCount() >= limits::kCells)
-      throw PackageError("it has more cells than we can hold");
+      throw PackageError("it has more cells than Plotsmith supports");
     if (row_ == 0) row_ = 1;  // a cell outside of any row
     column_ = column;
-    // blank and without a style it is no cell to Excel, and makes no table longer
+    // to Excel, a blank without a style is no cell; it doesn't extend the used range
     if (value.GetKind() != PackedValue::Kind::kEmpty || style != 0) Use(column);
     contents_.cells.Append(row_, column, value, style);
   }
 
-  /// Of the cell that came last: it counts even while its result is missing.
+  /// Counts a formula of the last cell. It counts even if its result is missing.
   void TakeFormula(bool hasResult) {
     contents_.formulas = true;
     if (!hasResult) contents_.formulasWithoutResult.push_back({row_, column_});
@@ -118,22 +118,24 @@ class SheetScanner : public XmlStream {
     used_.column2 = std::max(used_.column2, column);
   }
 
-  /// Whether the element at `p`, behind its "<" or "</", has the name; `p` is then moved behind it.
+  /// Returns true if the element at `p`, which is after "<" or "</", has this name; `p` then moves to the end
+  /// of the name.
   bool At(const char*& p, std::string_view name) const;
 
   DateSystem dates_;
   SheetContents contents_;
-  std::string prefix_;  ///< of the part's elements, with its colon
+  std::string prefix_;  ///< of the part's elements, including the colon
   std::int32_t row_ = 0;
   std::int32_t column_ = 0;
   CellRange used_{limits::kRows, limits::kColumns, 0, 0};
   std::string text_, piece_;  // of a rare cell
 };
 
-/// Up to and with the start tag of sheetData; false if there is none, as in an empty element.
+/// Reads up to and including the start tag of sheetData; returns false if there is none, or if the element is
+/// empty.
 bool SheetScanner::ReadHead() {
   for (;;) {
-    if (contents_.head.size() > limits::kXmlToken) throw PackageError("it has no cells where they should be");
+    if (contents_.head.size() > limits::kXmlToken) throw PackageError("it has no element for its cells");
     const char* open = position_;
     const auto find = [&] {
       return static_cast<const char*>(std::memchr(open, '<', static_cast<std::size_t>(end_ - open)));
@@ -147,7 +149,7 @@ bool SheetScanner::ReadHead() {
     }
     contents_.head.append(position_, open);
     position_ = open;
-    // the tag whole, so that its name can be looked at
+    // the name can be compared only if the whole tag is in the window
     const char* close = nullptr;
     for (;;) {
       const std::string_view unread(position_, static_cast<std::size_t>(end_ - position_));
@@ -191,7 +193,8 @@ void SheetScanner::ReadRows() {
   }
 }
 
-/// From behind the cells up to the first element that the schema puts behind `mergeCells` (CT_Worksheet).
+/// Reads from the end of the cells up to the first element that follows `mergeCells` in the schema
+/// (CT_Worksheet).
 void SheetScanner::ReadMergedCells() {
   static constexpr std::array<std::string_view, 10> kUpToMergedCells = {
       "sheetCalcPr", "sheetProtection", "protectedRanges",  "scenarios",  "autoFilter",
@@ -233,11 +236,11 @@ SheetScanner::Piece SheetScanner::ReadPiece() {
     return Piece::kCut;
   }
   position_ = open;
-  // "<", the prefix, "c" and what ends the name: with less, nobody could tell a cell from anything else
+  // the name can be recognized only with "<", the prefix, "c" and the character after it
   if (end_ - position_ < static_cast<std::ptrdiff_t>(prefix_.size()) + 3 && Fill()) return Piece::kTaken;
   const char* p = position_ + 1;
   if (At(p, "c")) return ReadCell(p);
-  const Tag tag = Next();  // anything else comes once a row, or less
+  const Tag tag = Next();  // other elements occur at most once per row
   if (tag.kind == Kind::kEndOfInput) Damaged();
   if (tag.name == "row" && tag.kind != Kind::kEnd) ReadRow(tag.attributes);
   return tag.kind == Kind::kEnd && tag.name == "sheetData" ? Piece::kEnd : Piece::kTaken;
@@ -256,10 +259,10 @@ void SheetScanner::ReadRow(std::string_view attributes) {
   }
 }
 
-/// `<c r="AB12" s="3" t="s"><v>123</v></c>`, a number or a shared text, where `s` and `t` may be missing; or
-/// such a cell without a value.
+/// Reads `<c r="AB12" s="3" t="s"><v>123</v></c>`, which is a number or a shared text, or the same cell
+/// without a value; `s` and `t` may be missing.
 const char* SheetScanner::TakePlainCell(const char* p) {
-  // the length is known at compile time, so that this is a comparison or two and no call
+  // the length is known at compile time, so the comparison takes one or two instructions
   const auto skip = [&]<std::size_t N>(const char(&text)[N]) {
     if (std::memcmp(p, text, N - 1) != 0) return false;
     p += N - 1;
@@ -301,7 +304,7 @@ const char* SheetScanner::TakePlainCell(const char* p) {
   return p;
 }
 
-/// `</row>`, or a row's start tag that begins with its number and says nothing of its height.
+/// Reads `</row>`, or a row's start tag that begins with the row's number and has no height.
 const char* SheetScanner::TakePlainRow(const char* p) {
   constexpr std::string_view kEnd = "</row>", kStart = "<row r=\"";
   if (std::memcmp(p, kEnd.data(), kEnd.size()) == 0) return p + kEnd.size();
@@ -311,7 +314,7 @@ const char* SheetScanner::TakePlainRow(const char* p) {
   for (; IsDigit(*p) && row <= limits::kRows; ++p) row = row * 10 + (*p - '0');
   if (*p != '"' || row < 1 || row > limits::kRows) return nullptr;
   for (++p; *p != '>'; ++p) {
-    // " ht=" or " hidden="; and what isn't in the window isn't plain either
+    // " ht=" or " hidden=", or the end of the window, mean that the row isn't plain
     if (*p == '\0' || *p == '/' || (p[1] == 'h' && IsSpace(*p))) return nullptr;
   }
   row_ = row;
@@ -319,6 +322,7 @@ const char* SheetScanner::TakePlainRow(const char* p) {
   return p + 1;
 }
 
+/// Reads a cell. `p` is after the cell's name.
 SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
   CellTag tag;
   tag.column = column_ + 1;
@@ -461,7 +465,7 @@ void SheetScanner::Store(const CellTag& tag, std::string_view value, bool decode
                        ? PackedValue(Packed::kSharedText, static_cast<std::uint32_t>(*index))
                        : PackedValue());
       }
-      return put({Packed::kOwnText, texts.Add(DecodeXString(plain()))});  // "str", the result of a formula
+      return put({Packed::kOwnText, texts.Add(DecodeXString(plain()))});  // "str", a formula's result
     case 'i':
       return put({Packed::kOwnText, texts.Add(value)});
     case 'b':

@@ -13,9 +13,9 @@
 namespace plotsmith::xlsx {
 namespace {
 
-constexpr const char* kNoCells = "it has no cells where they should be";
+constexpr const char* kNoCells = "it has no element for its cells";
 
-/// The next start of an element, up to where the cells begin.
+/// Finds the next start tag of an element in the head, which is everything before the cells.
 std::optional<XmlTag> FindInHead(std::string_view text, std::string_view local) {
   for (auto tag = NextTag(text, 0); tag; tag = NextTag(text, tag->span.end)) {
     if (tag->kind != XmlTag::Kind::kEnd && xml::LocalName(tag->name) == local) return tag;
@@ -24,8 +24,8 @@ std::optional<XmlTag> FindInHead(std::string_view text, std::string_view local) 
   return std::nullopt;
 }
 
-/// The first of the root's own children, from behind one of them on, of which `wanted` is true of its local
-/// name; else the root's end tag.
+/// Finds the first child of the root, after another child, whose local name satisfies `wanted`; else the
+/// root's end tag.
 template <class Wanted>
 XmlTag FindChild(std::string_view text, std::size_t from, const Wanted& wanted) {
   int depth = 0;
@@ -37,7 +37,7 @@ XmlTag FindChild(std::string_view text, std::size_t from, const Wanted& wanted) 
   throw PackageError("its XML is damaged");
 }
 
-/// The whole sheetData element, and its prefix.
+/// Finds the whole sheetData element and its prefix.
 std::pair<TextSpan, std::string> FindSheetData(std::string_view text) {
   const auto tag = FindInHead(text, "sheetData");
   if (!tag) throw PackageError(kNoCells);
@@ -51,7 +51,8 @@ std::pair<TextSpan, std::string> FindSheetData(std::string_view text) {
   return {span, prefix};
 }
 
-/// Where an attribute of a view is, or else where Excel writes it: in front of the view's window.
+/// Returns the position of an attribute of a view or, if it is missing, the position at which Excel writes
+/// it: before the view's window attribute.
 TextSpan PlaceOfAttribute(std::string_view part, const XmlTag& view, std::string_view name) {
   if (const TextSpan found = FindAttribute(part, view, name); found.Found()) return found;
   const TextSpan window = FindAttribute(part, view, "workbookViewId");
@@ -59,7 +60,7 @@ TextSpan PlaceOfAttribute(std::string_view part, const XmlTag& view, std::string
   return {place, place};
 }
 
-/// Gives a sheet without a view one with the attribute.
+/// Adds a view with the attribute to a sheet that has no view.
 void InsertView(std::string& part, const std::string& attribute) {
   const auto root = NextTag(part, 0);
   if (!root || root->kind != XmlTag::Kind::kStart) throw PackageError(kNoCells);

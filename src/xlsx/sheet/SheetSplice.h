@@ -6,8 +6,8 @@
 
 #include "xlsx/sheet/Reference.h"
 
-/// Changes to a sheet's part as text: what is concerned is replaced or put in, and all else stays byte for
-/// byte. The text is UTF-8.
+/// Changes to a sheet's part as text: single elements are replaced or inserted, and all other bytes stay the
+/// same. The text is UTF-8.
 namespace plotsmith::xlsx {
 
 /// Replaces the cells of a sheet's part. `sheetData` makes the element, with the prefix of the part's

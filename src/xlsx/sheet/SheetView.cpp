@@ -10,7 +10,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// The first cell of a reference in an attribute, or `fallback` if it has none.
+/// Returns the first cell of a reference in an attribute, or `fallback` if the attribute is missing.
 CellPlace CellIn(std::string_view attributes, std::string_view name, const CellPlace& fallback) {
   const auto range = ParseA1(AttributeIn(attributes, name));
   return range ? CellPlace{range->row1, range->column1} : fallback;
@@ -23,7 +23,7 @@ std::int32_t CountIn(std::string_view attributes, std::string_view name, std::in
 
 void ReadPane(std::string_view attributes, SheetView& view) {
   view.topLeft = CellIn(attributes, "topLeftCell", view.topLeft);
-  if (!AttributeIn(attributes, "state").starts_with("frozen")) return;  // a split counts in points
+  if (!AttributeIn(attributes, "state").starts_with("frozen")) return;  // a split is measured in points
   view.frozenRows = CountIn(attributes, "ySplit", limits::kRows - 1);
   view.frozenColumns = CountIn(attributes, "xSplit", limits::kColumns - 1);
 }
@@ -49,7 +49,7 @@ SheetView ReadSheetView(Archive::Stream& part) {
       if (!pane.empty()) activePane = pane;
       ReadPane(tag.attributes, view);
     } else if (inView && tag.name == "selection") {
-      // each pane has a selection of its own
+      // each pane has its own selection
       const std::string pane = AttributeIn(tag.attributes, "pane");
       if (pane == activePane || (pane.empty() && activePane == "topLeft"))
         view.activeCell = CellIn(tag.attributes, "activeCell", view.activeCell);

@@ -18,7 +18,7 @@ namespace {
 constexpr int kFirstCustomFormat = 164;
 constexpr int kLastFormat = std::numeric_limits<int>::max();
 constexpr int kPaletteSize = 56;
-/// The indexed colours of the file begin with eight fixed ones.
+/// The file's indexed colours begin with eight fixed colours.
 constexpr int kFixedColors = 8;
 
 constexpr std::string_view kEmptyStyles =
@@ -30,7 +30,7 @@ constexpr std::string_view kEmptyStyles =
     R"(<cellXfs count="1"><xf numFmtId="0" fontId="0" fillId="0" borderId="0" xfId="0"/></cellXfs>)"
     R"(<cellStyles count="1"><cellStyle name="Normal" xfId="0" builtinId="0"/></cellStyles></styleSheet>)";
 
-/// The children of `styleSheet` in the order that its schema wants (CT_Stylesheet).
+/// The children of `styleSheet` in the order of the schema (CT_Stylesheet).
 constexpr std::array<std::string_view, 11> kOrder = {"numFmts",      "fonts",   "fills",      "borders",
                                                      "cellStyleXfs", "cellXfs", "cellStyles", "dxfs",
                                                      "tableStyles",  "colors",  "extLst"};
@@ -48,8 +48,8 @@ std::int32_t Swapped(std::uint32_t rgb) {
   return static_cast<std::int32_t>((rgb & 0xFF) << 16 | (rgb & 0xFF00) | (rgb >> 16 & 0xFF));
 }
 
-/// The elements of a list, where a writer may have put several versions of some: the plainest of each, which
-/// is numbered as cells count it.
+/// Collects the elements of a list in the order in which cells number them. If an element has alternatives
+/// for other programs, the simplest one is collected.
 void Collect(pugi::xml_node list, std::string_view local, std::vector<pugi::xml_node>& found) {
   for (const pugi::xml_node& child : list.children()) {
     if (xml::Is(child, local)) found.push_back(child);
@@ -117,7 +117,7 @@ const NumberFormat& Styles::Format(std::uint32_t style) const { return *Known(st
 void Styles::Parse(const CellStyle& style) const {
   static const std::shared_ptr<const NumberFormat> general = NumberFormat::Parse("General");
   style.format = NumberFormat::Parse(CodeOf(style.formatId));
-  if (!style.format) style.format = general;  // what Excel would refuse shows nothing of its own
+  if (!style.format) style.format = general;  // a format that Excel would refuse shows numbers as General
   style.general = style.format->IsGeneral();
   style.date = style.format->IsDate();
 }
@@ -153,7 +153,7 @@ std::uint32_t Styles::WithFormat(std::uint32_t base, std::string_view code) {
   }
   pugi::xml_node list = xml::EnsureInOrder(Root(), "cellXfs", kOrder);
   const std::string name = std::string(xml::Prefix(list.name())) + "xf";
-  if (cellStyles_.empty()) {  // the first style is that of all cells that name none
+  if (cellStyles_.empty()) {  // cells without a style have the first one
     pugi::xml_node first = list.append_child(name.c_str());
     xml::SetAttribute(first, "numFmtId", "0");
     AddStyle(first);
@@ -191,7 +191,7 @@ void Styles::SetPaletteColor(std::int32_t index, std::int32_t color) {
   pugi::xml_node palette = xml::Child(colors, "indexedColors");
   if (!palette) palette = colors.prepend_child((prefix + "indexedColors").c_str());
   auto entries = xml::Children(palette, "rgbColor");
-  // the part holds all of the palette or nothing
+  // the part contains the complete palette or none
   for (int i = static_cast<int>(entries.size()); i < kPaletteSize + kFixedColors; ++i) {
     pugi::xml_node entry = palette.append_child((prefix + "rgbColor").c_str());
     xml::SetAttribute(entry, "rgb",

@@ -23,9 +23,11 @@ class Styles {
 
   /// Returns the number format of a cell style, an index into cellXfs; General if there is no such style.
   const NumberFormat& Format(std::uint32_t style) const;
-  /// Whether the format is General, or a date. These are fast, because they are called for each cell.
+  /// Returns true if the format is General. This is fast, because it is called for each cell; so is IsDate.
   bool IsGeneral(std::uint32_t style) const { return Known(style).general; }
+  /// Returns true if the format of a cell style shows a date.
   bool IsDate(std::uint32_t style) const { return Known(style).date; }
+  /// Returns the code of a cell style's number format.
   std::string FormatCode(std::uint32_t style) const;
   /// Returns the style that equals `base` except for the number format, and adds it if necessary. The code
   /// must be valid.
@@ -42,15 +44,19 @@ class Styles {
 
   /// An entry of the palette, from 1 to 56, as red + 256 * green + 65536 * blue.
   std::int32_t PaletteColor(std::int32_t index) const;
+  /// Sets an entry of the palette, from 1 to 56.
   void SetPaletteColor(std::int32_t index, std::int32_t color);
 
   /// The font of the Normal style, which column widths depend on. Its size is in points.
   std::string NormalFontName() const;
+  /// The size of the Normal style's font in points.
   double NormalFontSize() const;
   /// Returns "minor" or "major" if that font comes from the theme, otherwise an empty text.
   std::string NormalFontScheme() const;
 
+  /// Returns true if styles were added or the palette was changed.
   bool Changed() const { return changed_; }
+  /// Returns the part in UTF-8.
   std::string Serialize() const;
 
  private:

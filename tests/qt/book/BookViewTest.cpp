@@ -67,7 +67,7 @@ TEST_F(BookViewTest, TabsFollowTheSheets) {
   EXPECT_EQ(Tabs(), "[Data1]|Charts|Notes && more");
 }
 
-TEST_F(BookViewTest, TurnsToTheSheetThatWasActivatedAndStaysElse) {
+TEST_F(BookViewTest, ShowsAnActivatedSheetAndOtherwiseTheSelectedOne) {
   BookView& view = Show(BookOfSheets());
   view.Tabs().setCurrentIndex(0);
   EXPECT_EQ(Book().ActiveSheet()->Name(), "Charts");  // Viewing a sheet doesn't activate it.
@@ -109,7 +109,7 @@ TEST_F(BookViewTest, AChartIsFoundOnItsSheet) {
   EXPECT_TRUE(Sheet().viewport()->rect().contains(Sheet().FrameArea(Sheet().Frames()[0])));
 }
 
-TEST_F(BookViewTest, KeysTurnToTheNextSheet) {
+TEST_F(BookViewTest, KeysSelectTheNextSheet) {
   Show(BookOfSheets());
   Press(Qt::Key_PageDown, Qt::ControlModifier);
   EXPECT_EQ(Tabs(), "Data1|Charts|[Notes && more]|Far");
@@ -134,7 +134,7 @@ TEST_F(BookViewTest, GridLinesAndHeadsAreThoseOfTheWindow) {
 }
 
 TEST_F(BookViewTest, AChartSheetShowsItsChart) {
-  // the sheet of the charts becomes a chart sheet, with the drawing of its first chart
+  // the charts' sheet becomes a chart sheet with the drawing of its first chart
   auto book = test::SalesBook({test::Definition{}});
   book.Write(folder_ / "chartsheet.xlsx");
   test::EditPart(folder_ / "chartsheet.xlsx", "/xl/_rels/workbook.xml.rels", [](S& links) {
@@ -192,7 +192,7 @@ TEST_F(BookViewTest, WorkbooksOfAllKindsAreShownAndStayAsTheyAre) {
   EXPECT_GE(shown, 4);
 }
 
-TEST_F(BookViewTest, ASheetThatCannotBeReadSaysSoAndTheWorkbookCanBeSaved) {
+TEST_F(BookViewTest, AnUnreadableSheetShowsItsErrorAndTheWorkbookCanBeSaved) {
   auto book = BookOfSheets();
   book.Sheet("Far").beforeData = "<!DOCTYPE a>";
   BookView& view = Show(book);

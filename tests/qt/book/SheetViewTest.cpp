@@ -59,7 +59,7 @@ test::PlainBook RowBook(test::PlainRow cells) {
   return book;
 }
 
-TEST_F(SheetViewTest, TextsAreThoseOfTheCommand) {
+TEST_F(SheetViewTest, TextsAreTheSameAsInTheCommand) {
   const S path = S(test::kSourceFolder) + "/examples/bicycle-sales.xlsx";
   OpenFile(path);
   Show();
@@ -74,7 +74,7 @@ TEST_F(SheetViewTest, TextsAreThoseOfTheCommand) {
   }
 }
 
-TEST_F(SheetViewTest, TextsStandWhereTheKindOfValueOrTheStyleHasThem) {
+TEST_F(SheetViewTest, TextsAreAlignedByTheirKindOrStyle) {
   const struct {
     const char* cell;
     S side;
@@ -100,7 +100,7 @@ TEST_F(SheetViewTest, TextsStandWhereTheKindOfValueOrTheStyleHasThem) {
   }
 }
 
-TEST_F(SheetViewTest, ALongTextGoesOverEmptyCellsAndALongNumberDoesNot) {
+TEST_F(SheetViewTest, ALongTextExtendsOverEmptyCellsAndALongNumberDoesNot) {
   const S text = " t=\"str\"><v>A text longer than two cells</v></c>";
   Show(RowBook({std::monostate(), RawCell{text}, std::monostate(), std::monostate(), 7.0, RawCell{text}, 8.0,
                 RawCell{" s=\"4\"><v>45000</v></c>"}, std::monostate(), RawCell{" s=\"5\"" + text},
@@ -136,7 +136,7 @@ TEST_F(SheetViewTest, NumbersAreCutToTheirCells) {
   EXPECT_EQ(fitted(5, 2), "1");
 }
 
-TEST_F(SheetViewTest, CellsAndFramesLieWhereTheHostHasThem) {
+TEST_F(SheetViewTest, CellsAndFramesHaveTheHostsPositions) {
   auto book = test::SalesBook({test::Definition{}, test::Definition{}});
   book.Sheet("Charts").beforeData =
       "<sheetFormatPr defaultRowHeight=\"13.5\"/><cols><col min=\"2\" max=\"2\" width=\"3.3\"/>"
@@ -238,7 +238,7 @@ TEST_F(SheetViewTest, KeysMoveTheActiveCell) {
   EXPECT_EQ(ActiveCell(), "A7");
 }
 
-TEST_F(SheetViewTest, KeysMakeCellsLargerAroundTheCorner) {
+TEST_F(SheetViewTest, KeysZoomAroundTheCorner) {
   Show(test::SalesBook({}));
   Sheet().SetActiveCell({500, 1});
   Sheet().verticalScrollBar()->setValue(Sheet().verticalScrollBar()->value() / 20 * 20);
@@ -275,7 +275,7 @@ TEST_F(SheetViewTest, FrozenRowsAndColumnsStayWhileTheRestScrolls) {
   EXPECT_TRUE(Sheet().viewport()->rect().contains(Sheet().CellArea({300, 1}).topLeft()));
 }
 
-TEST_F(SheetViewTest, ColorsAreRolesOfThePaletteAndThoseOfTheWorkbook) {
+TEST_F(SheetViewTest, ColorsComeFromThePaletteAndTheWorkbook) {
   auto book = RowBook({RawCell{"><v>1</v></c>"}, RawCell{" s=\"1\"><v>5</v></c>"},
                        RawCell{" s=\"6\" t=\"str\"><v>white</v></c>"}, RawCell{" s=\"7\"/"}});
   Show(book);
@@ -317,7 +317,7 @@ TEST_F(SheetViewTest, ColorsAreRolesOfThePaletteAndThoseOfTheWorkbook) {
   EXPECT_LT(darkBright, 0.1);
 }
 
-TEST_F(SheetViewTest, ChartsAreDrawnWhenTheyAreSeenAndWhenTheyChange) {
+TEST_F(SheetViewTest, ChartsAreDrawnWhenTheyBecomeVisibleOrChange) {
   auto book = test::SalesBook({test::Definition{}, test::Definition{}});
   book.workbookExtra = "<bookViews><workbookView activeTab=\"1\"/></bookViews>";
   book.Sheet("Charts").frames[1].row = 5000;
@@ -354,7 +354,7 @@ TEST_F(SheetViewTest, ChartsAreDrawnWhenTheyAreSeenAndWhenTheyChange) {
   EXPECT_EQ(Sheet().Frames().size(), 1U);
 }
 
-TEST_F(SheetViewTest, AFrameTellsTitleAndTypeOfItsChart) {
+TEST_F(SheetViewTest, AFrameShowsTitleAndTypeOfItsChart) {
   OpenFile(S(test::kSourceFolder) + "/examples/bicycle-sales.xlsx");
   Book().FindSheet("Charts")->object->Activate();
   Show();
@@ -368,7 +368,7 @@ TEST_F(SheetViewTest, AFrameTellsTitleAndTypeOfItsChart) {
   }
 }
 
-TEST_F(SheetViewTest, ScreenReadersHearTheActiveCell) {
+TEST_F(SheetViewTest, ScreenReadersGetTheActiveCell) {
   Show(test::SalesBook({}));
   QAccessibleInterface* sheet = QAccessible::queryAccessibleInterface(&Sheet());
   ASSERT_NE(sheet, nullptr);

@@ -47,7 +47,7 @@ class HelpWindowTest : public testing::Test {
   HelpWindow window_;
 };
 
-TEST_F(HelpWindowTest, EachPageIsThereWithItsPictures) {
+TEST_F(HelpWindowTest, EachPageHasItsPictures) {
   const auto topics = ReadHelpTopics(QString(test::kSourceFolder) + "/docs/help");
   ASSERT_EQ(topics.size(), 13u);
   std::set<std::int32_t> numbers;
@@ -84,16 +84,16 @@ TEST_F(HelpWindowTest, EachPageIsThereWithItsPictures) {
   EXPECT_EQ(numbers, (std::set<std::int32_t>{1, 2, 3, 4, 5, 6, 7, 8, 18}));
 }
 
-TEST_F(HelpWindowTest, WhatIsMissingIsSaid) {
+TEST_F(HelpWindowTest, MissingPagesAreReported) {
   window_.ShowTopic(42);
-  EXPECT_EQ(Text().toPlainText().toStdString(), "The help has no topic of the number 42.\nAll topics");
+  EXPECT_EQ(Text().toPlainText().toStdString(), "The help has no topic with the number 42.\nAll topics");
   EXPECT_EQ(List().currentRow(), -1);
   EXPECT_EQ(Title(), "Plotsmith Help");
   const QTemporaryDir folder;
   HelpWindow empty(folder.path());
   empty.ShowTopic(1);
   auto& text = *empty.findChild<QTextBrowser*>("helpText");
-  EXPECT_EQ(text.toPlainText().toStdString(), "The help has no topic of the number 1.");
+  EXPECT_EQ(text.toPlainText().toStdString(), "The help has no topic with the number 1.");
   empty.ShowFirstPage();
   EXPECT_EQ(text.toPlainText(), "The help page index.html isn't in the folder " + folder.path() + ".");
   QFile table(folder.filePath("topics.tsv"));
@@ -106,7 +106,7 @@ TEST_F(HelpWindowTest, WhatIsMissingIsSaid) {
             "The help page gone.html isn't in the folder " + folder.path() + ".");
 }
 
-TEST_F(HelpWindowTest, KeysLeadThroughTheTopics) {
+TEST_F(HelpWindowTest, KeysMoveThroughTheTopics) {
   OpenTopic(6);
   Key(Qt::Key_Home, Qt::AltModifier);
   EXPECT_EQ(File(), "index.html");
@@ -130,7 +130,7 @@ TEST_F(HelpWindowTest, KeysLeadThroughTheTopics) {
   EXPECT_EQ(File(), "topic18-strategic-bucket-layout.html");
 }
 
-TEST_F(HelpWindowTest, TheSearchGoesRoundThePage) {
+TEST_F(HelpWindowTest, TheSearchContinuesAtTheBeginning) {
   OpenTopic(6);
   EXPECT_FALSE(FindText().isVisible());
   Key(Qt::Key_F, Qt::ControlModifier);
@@ -145,7 +145,7 @@ TEST_F(HelpWindowTest, TheSearchGoesRoundThePage) {
   EXPECT_EQ(Text().textCursor().position(), first);
   Key(Qt::Key_F3, Qt::ShiftModifier);
   const int last = Text().textCursor().position();
-  EXPECT_GT(last, second) << "the search goes on at the end";
+  EXPECT_GT(last, second) << "the search continues at the other end";
   Key(Qt::Key_F3);
   EXPECT_EQ(Text().textCursor().position(), first);
   Type("tile");

@@ -24,7 +24,7 @@ class ChartPictureTest : public test::HostTest {
   std::shared_ptr<xlsx::SheetShape> shape_;
 };
 
-TEST_F(ChartPictureTest, HasTheSizeThatIsAskedForAndTheColorsOfTheChart) {
+TEST_F(ChartPictureTest, HasTheRequestedSizeAndTheColorsOfTheChart) {
   for (const QSize size : {QSize(512, 360), QSize(1024, 720), QSize(301, 207)}) {
     const QImage picture = Picture(size);
     ASSERT_EQ(picture.size(), size);
@@ -60,11 +60,11 @@ TEST_F(ChartPictureTest, ThePainterDrawsWithThePixelsOfTheScreen) {
     EXPECT_TRUE(MakeChartPainter()(painter, shape_->Chart(), QRectF(0, 0, 300, 200)));
     painter.end();
     EXPECT_EQ(pixmap.toImage().convertToFormat(QImage::Format_RGB32), Picture(pixmap.size()))
-        << "nothing was stretched at " << ratio;
+        << "the picture isn't stretched at " << ratio;
   }
 }
 
-TEST_F(ChartPictureTest, FitsIntoARoomInItsProportions) {
+TEST_F(ChartPictureTest, FitsIntoAnAreaInItsProportions) {
   const double width = shape_->Width(), height = shape_->Height();
   const QSize wide = FittingSize(shape_->Chart(), {1000, 200}),
               high = FittingSize(shape_->Chart(), {200, 1000});

@@ -69,7 +69,7 @@ std::vector<S> Walk(qt::FormWindow& page, const S& first, Qt::Key key) {
   return names;
 }
 
-TEST_F(KeyboardTest, TabGoesRoundInTheOrderOfTheForm) {
+TEST_F(KeyboardTest, TabMovesInTheOrderOfTheForm) {
   OnEachPage([](qt::FormWindow& page) {
     std::vector<S> stops = TabStops(page.Model());
     ASSERT_GT(stops.size(), 3u);
@@ -92,7 +92,7 @@ TEST_F(KeyboardTest, NoTwoCaptionsHaveTheSameLetter) {
   });
 }
 
-TEST_F(KeyboardTest, EachKindOfControlIsWorkedByKeys) {
+TEST_F(KeyboardTest, EachKindOfControlReactsToKeys) {
   OnEachPage([](qt::FormWindow& page) {
     for (forms::Control* control : page.Model().Controls()) {
       if (!control->Obstacle().empty()) continue;
@@ -141,12 +141,12 @@ S Spoken(QAccessibleInterface& item, int depth) {
   return line;
 }
 
-TEST_F(KeyboardTest, ScreenReadersAreTold) {
+TEST_F(KeyboardTest, ScreenReadersGetTheTexts) {
   const S folder = S(test::kSourceFolder) + "/tests/qt/wizard/golden/";
   OnEachPage([&](qt::FormWindow& page) {
     for (const forms::Control* control : page.Model().Controls()) {
       EXPECT_NE(control->AccessibleName(), "");
-      EXPECT_NE(control->AccessibleName(), control->Name()) << "a name of the code tells a person nothing";
+      EXPECT_NE(control->AccessibleName(), control->Name()) << "names from the code mean nothing to users";
     }
     const S spoken = Spoken(*QAccessible::queryAccessibleInterface(&page), 0);
     const S file = folder + page.Model().Name() + ".txt";

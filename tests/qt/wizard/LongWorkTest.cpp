@@ -68,7 +68,7 @@ TEST_F(LongWorkTest, TheWindowsWorkDuringABuild) {
   EXPECT_EQ(run.failure, "");
   EXPECT_TRUE(run.seen.ends_with("box")) << run.seen;
   EXPECT_TRUE(test::BytesOf(book_) == fresh_);
-  EXPECT_FALSE(watch.BarValues().empty()) << "the busy window has its turns";
+  EXPECT_FALSE(watch.BarValues().empty()) << "the busy window processes events";
   EXPECT_LT(watch.LongestGap(), 3000);
   RecordProperty("longest_gap", static_cast<int>(watch.LongestGap()));
   std::cout << "longest gap " << watch.LongestGap() << " ms, " << watch.BarValues().size()

@@ -189,7 +189,7 @@ std::chrono::seconds TimePerPage() {
   return std::chrono::seconds(seconds == nullptr ? 0 : std::atoi(seconds));
 }
 
-TEST_P(MonkeyTest, APageStandsIt) {
+TEST_P(MonkeyTest, APageSurvivesRandomInput) {
   const auto end = std::chrono::steady_clock::now() + TimePerPage();
   unsigned seed = 0;
   do {

@@ -58,7 +58,7 @@ S UnseenFocus(qt::FormWindow& page) {
   return names;
 }
 
-TEST_F(PageFitsTest, NothingIsCut) {
+TEST_F(PageFitsTest, NothingIsCutOff) {
   for (const test::Way& way : test::kWays) {
     for (const int points : {8, 10, 12}) {
       for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {

@@ -93,7 +93,7 @@ TEST_F(PreviewTest, EachLayoutPageHasOneAndAlsoAChartThatIsModified) {
   EXPECT_TRUE(BytesOf(book_) == fresh_);
 }
 
-TEST_F(PreviewTest, TheWorkerIsAnotherProcessAndIsEndedByTheNextStart) {
+TEST_F(PreviewTest, TheWorkerIsAProcessThatTheNextStartEnds) {
   std::vector<S> done;
   qt::PreviewWorker worker([&](qt::Preview preview) { done.push_back(preview.message); });
   int here = 0;
@@ -118,7 +118,7 @@ TEST_F(PreviewTest, TheWorkerIsAnotherProcessAndIsEndedByTheNextStart) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return done.size() == 2; }, 10000));
   EXPECT_EQ(BytesOf(folder_ / "again"), "done");
   QTest::qWait(500);
-  EXPECT_EQ(BytesOf(folder_ / "slow"), "") << "the process that was ended went on";
+  EXPECT_EQ(BytesOf(folder_ / "slow"), "") << "the ended process continued";
 }
 
 }  // namespace

@@ -145,7 +145,7 @@ TEST_F(RudeHandsTest, EachPageIsClosedOnce) {
   }
 }
 
-TEST_F(RudeHandsTest, APageBehindAMessageTakesNothing) {
+TEST_F(RudeHandsTest, APageBehindAMessageTakesNoInput) {
   const auto poke = [] {
     for (QWidget* window : QApplication::topLevelWidgets()) {
       auto* page = dynamic_cast<qt::FormWindow*>(window);
@@ -218,7 +218,7 @@ S Expected(const forms::Control& control, const Input& input) {
 
 S TextOf(const forms::Control& control) { return *forms::StateOf(control).text; }
 
-TEST_F(RudeHandsTest, BoxesTakeWhatFitsAndShowIt) {
+TEST_F(RudeHandsTest, BoxesAcceptAndShowTheInputThatFits) {
   const S longText = Times(10000, "x"), manyLines = Times(10000, "a\n");
   const Input inputs[] = {
       {longText, longText, longText},

@@ -37,7 +37,7 @@ class WizardProgramTest : public test::ProgramTest {
   }
 };
 
-TEST_F(WizardProgramTest, TheBarAsksAndTheAnswerIsDone) {
+TEST_F(WizardProgramTest, TheBarsAnswerIsCarriedOut) {
   const S start = folder_ / "start.xlsx", pages = "frmPSSelectTable frmPSLayoutABC frmPSChartLocation ";
   std::filesystem::copy_file(book_, start);
   const S wanted = BytesByCommand();
@@ -82,7 +82,7 @@ TEST_F(WizardProgramTest, ClosingAsksBeforeItSavesWithAnOutputToo) {
   EXPECT_EQ(BytesOf(Other()), "");
 }
 
-TEST_F(WizardProgramTest, WhatIsNotAskedForIsNotSaved) {
+TEST_F(WizardProgramTest, NothingIsSavedWithoutARequest) {
   struct Case {
     S script, seen;
   };
@@ -110,7 +110,7 @@ TEST_F(WizardProgramTest, WhatIsNotAskedForIsNotSaved) {
   }
 }
 
-TEST_F(WizardProgramTest, AFileThatCannotBeWrittenIsTold) {
+TEST_F(WizardProgramTest, AFileThatCannotBeWrittenIsReported) {
   const S folder = folder_ / "none";
   const S elsewhere = folder + "/out.xlsx";
   const auto make = [&] { std::filesystem::create_directory(folder); };
@@ -128,7 +128,7 @@ TEST_F(WizardProgramTest, AFileThatCannotBeWrittenIsTold) {
   EXPECT_TRUE(BytesOf(book_) == fresh_) << "-o leaves the workbook alone";
 }
 
-TEST_F(WizardProgramTest, ALockStopsTheProgramWithTheWordsOfTheCommand) {
+TEST_F(WizardProgramTest, ALockStopsTheProgramWithTheCommandsMessage) {
   std::ofstream(folder_ / ".~lock.orders.xlsx#") << "someone";
   const auto run = Run("page frmPSSelectTable");
   const auto command = test::RunCommand({"wizard", book_, "--script", "-"}, "close\n");
@@ -138,7 +138,7 @@ TEST_F(WizardProgramTest, ALockStopsTheProgramWithTheWordsOfTheCommand) {
   EXPECT_EQ(run.seen, "");
 }
 
-TEST_F(WizardProgramTest, AnotherRunGoesOnFromTheFirst) {
+TEST_F(WizardProgramTest, AnotherRunContinuesFromTheFirst) {
   const S removed =
       "press cmdFinish; bar Save; bar Chart Wizard; page frmPSSelectAction; select grdCharts #1; "
       "press cmdDelete; box OK; page frmPSSelectTable; close; bar Discard";

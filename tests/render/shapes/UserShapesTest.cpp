@@ -72,7 +72,7 @@ void ExpectNear(const Rect& actual, const Rect& expected, const std::string& wha
   EXPECT_NEAR(actual.height, expected.height, 0.01) << what;
 }
 
-TEST_F(UserShapesTest, ShapesLieWhereTheirAnchorsSay) {
+TEST_F(UserShapesTest, ShapesAreAtTheirAnchors) {
   const Rect frame{100, 50, 200, 50};
   for (const std::string form :
        {"rect",      "roundRect",     "ellipse",   "line",      "triangle", "rtTriangle",
@@ -92,7 +92,7 @@ TEST_F(UserShapesTest, ShapesLieWhereTheirAnchorsSay) {
   }
 }
 
-TEST_F(UserShapesTest, UnknownFormsAreRectanglesAndSaidSo) {
+TEST_F(UserShapesTest, UnknownFormsAreDrawnAsRectanglesAndNoted) {
   const Drawing drawing = DrawWith(Anchor(Shape("smileyFace", Solid("FF0000"))));
   ExpectNear(BoundsOfFirst(drawing, Role::kShape), {100, 50, 200, 50}, "");
   EXPECT_EQ(notes_,
@@ -128,7 +128,7 @@ TEST_F(UserShapesTest, GroupsPlaceStretchAndTurnTheirMembers) {
   }
 }
 
-TEST_F(UserShapesTest, TextsStandAsTheirBodySays) {
+TEST_F(UserShapesTest, TextsHaveTheLayoutOfTheirBody) {
   const std::string insets = "lIns=\"127000\" tIns=\"63500\" rIns=\"254000\" bIns=\"127000\" ";
   struct Case {
     std::string body, paragraph;

@@ -51,7 +51,7 @@ TEST_F(Bodies3DTest, FrontsAreProportionalToTheValues) {
   }
 }
 
-TEST_F(Bodies3DTest, PiecesOfAPileTouch) {
+TEST_F(Bodies3DTest, StackedPiecesTouch) {
   for (const std::string grouping : {"stacked", "percentStacked"}) {
     const Drawing drawing = Draw({.grouping = grouping});
     for (int point = 1; point <= 4; ++point) {
@@ -190,7 +190,7 @@ TEST_F(Bodies3DTest, NoBarIsPaintedOverANearerOne) {
   }
 }
 
-TEST_F(Bodies3DTest, AreasOfAPileShareTheirBorders) {
+TEST_F(Bodies3DTest, StackedAreasShareTheirBorders) {
   const Drawing drawing = Draw({.group = "area3DChart", .grouping = "stacked"});
   const auto fronts = ItemsOf(drawing, Role::kArea);
   ASSERT_EQ(fronts.size(), 3);
@@ -206,7 +206,7 @@ TEST_F(Bodies3DTest, AreasOfAPileShareTheirBorders) {
   }
 }
 
-TEST_F(Bodies3DTest, AreasStandBehindEachOtherWithTheFirstInFront) {
+TEST_F(Bodies3DTest, AreasAreBehindEachOtherWithTheFirstInFront) {
   const Drawing drawing = Draw({.view = R"(<c:rotX val="15"/><c:rotY val="20"/><c:perspective val="30"/>)",
                                 .group = "area3DChart",
                                 .grouping = "standard"});
@@ -260,7 +260,7 @@ TEST_F(Bodies3DTest, AxisLabelsStayOnTheChartApartAndOffTheFloor) {
   }
 }
 
-TEST_F(Bodies3DTest, BarsHaveTheFormsOfTheFile) {
+TEST_F(Bodies3DTest, BarsHaveTheShapesInTheFile) {
   struct Case {
     const char* shape;
     double narrowed;  ///< The ratio of the front widths of the second series at its end and at its base, in a

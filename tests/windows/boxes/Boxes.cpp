@@ -33,7 +33,7 @@ HWND NewWindow() {
   return window;
 }
 
-/// How many handles of the kernel the process has. Wine's GetProcessHandleCount knows none.
+/// Returns the number of kernel handles of the process. Wine's GetProcessHandleCount doesn't count them.
 int KernelHandles() {
   int count = 0;
   for (std::uintptr_t handle = 4; handle < 0x10000; handle += 4) {
@@ -43,8 +43,8 @@ int KernelHandles() {
   return count;
 }
 
-/// How many pens, fonts and the like the process has. Wine's GetGuiResources knows none, but Wine finds an
-/// object by the lower half of its handle.
+/// Returns the number of GDI objects of the process. Wine's GetGuiResources doesn't count them, but Wine
+/// finds an object by the lower half of its handle.
 int GdiObjects() {
   int count = static_cast<int>(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
   if (count != 0) return count;
@@ -54,7 +54,7 @@ int GdiObjects() {
   return count;
 }
 
-/// How many windows and menus the process has, in the same way.
+/// Returns the number of windows and menus of the process, in the same way.
 int UserObjects() {
   int count = static_cast<int>(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS));
   if (count != 0) return count;
@@ -71,7 +71,8 @@ std::string ResourceCounts() {
          std::to_string(UserObjects()) + " USER objects";
 }
 
-/// Makes a key of the registry for all users that goes with the session. It can't hold keys that stay.
+/// Makes a registry key for all users that exists only during the session. It can't contain keys that
+/// persist.
 void MakeVolatileKey(const std::string& path) {
   HKEY key = nullptr;
   const LSTATUS status = RegCreateKeyExW(HKEY_LOCAL_MACHINE, com::Wide(path).c_str(), 0, nullptr,
@@ -176,8 +177,7 @@ const Boxes::Member Boxes::kMembers[] = {
        const std::string failure = hands->Finish();
        return com::ToVariant(Variant(failure + "\n" + hands->Shown()));
      }},
-    // PlayMonkey(seed, events): sends random input to dialogs and boxes from now on (see
-    // MonkeyHands).
+    // PlayMonkey(seed, events): sends random input to dialogs and boxes from now on (see MonkeyHands).
     {"PlayMonkey",
      [](Boxes& boxes, const DISPPARAMS& sent) -> OwnedVariant {
        const auto number = [&](UINT position) { return CDbl(com::FromVariant(Last(sent, position))); };
@@ -195,8 +195,8 @@ const Boxes::Member Boxes::kMembers[] = {
        const auto monkey = std::exchange(boxes.monkey_, nullptr);
        return com::ToVariant(Variant(static_cast<std::int32_t>(monkey->Made())));
      }},
-    // PressEachPage("PAGE BUTTON PAGE BUTTON ..."): presses a button on each page that comes.
-    // StopPressing(): returns the number of presses.
+    // PressEachPage("PAGE BUTTON PAGE BUTTON ..."): presses a button on each page that opens. StopPressing():
+    // returns the number of presses.
     {"PressEachPage",
      [](Boxes& boxes, const DISPPARAMS& sent) -> OwnedVariant {
        std::istringstream words(Text(sent, 0));
@@ -258,7 +258,7 @@ const Boxes::Member Boxes::kMembers[] = {
      [](Boxes&, const DISPPARAMS&) -> OwnedVariant {
        return com::ToVariant(static_cast<IDispatch*>(nullptr));
      }},
-    // Resources(): how many handles and objects of the system the process has.
+    // Resources(): returns the numbers of handles and system objects of the process.
     {"Resources",
      [](Boxes&, const DISPPARAMS&) -> OwnedVariant { return com::ToVariant(Variant(ResourceCounts())); }},
     // MakeVolatileKey(path)

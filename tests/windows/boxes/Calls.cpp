@@ -71,7 +71,7 @@ VARIANT ObjectOf(IUnknown* object, VARTYPE type) {
   return value;
 }
 
-/// An object that has nothing but a default member, a text.
+/// An object that has only a default member, a text.
 class TextObject final : public IDispatch {
  public:
   explicit TextObject(std::string text) : text_(std::move(text)) {}
@@ -94,7 +94,7 @@ class TextObject final : public IDispatch {
   STDMETHODIMP Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
                       UINT*) override {
     if (member != DISPID_VALUE || (flags & DISPATCH_PROPERTYGET) == 0) return DISP_E_MEMBERNOTFOUND;
-    // without a text it answers itself, as a hostile object may
+    // without a text it returns itself, like a hostile object
     *result = (text_.empty() ? com::ToVariant(static_cast<IDispatch*>(this))
                              : com::ToVariant(runtime::Variant(text_)))
                   .Detach();

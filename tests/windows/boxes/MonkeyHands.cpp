@@ -12,7 +12,7 @@ MonkeyHands* theMonkey = nullptr;  // a timer has no data of its own
 }  // namespace
 
 MonkeyHands::MonkeyHands(unsigned seed, int events) : monkey_(seed), events_(events) {
-  SetDoubleClickTime(1);  // milliseconds; a monkey presses buttons faster than people do
+  SetDoubleClickTime(1);  // milliseconds; a monkey presses buttons faster than a user
   theMonkey = this;
   timer_ = SetTimer(nullptr, 0, kTickInterval, Tick);
 }

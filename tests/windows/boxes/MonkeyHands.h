@@ -7,8 +7,8 @@
 
 namespace plotsmith::test {
 
-/// Lets a monkey play with the dialogs of this thread and their message boxes: one event each time when a
-/// timer of this thread ticks and a dialog waits, and in the end it closes them all.
+/// Sends random input to the dialogs of this thread and their message boxes: one event for each tick of a
+/// timer while a dialog waits. At the end it closes all dialogs.
 class MonkeyHands {
  public:
   MonkeyHands(unsigned seed, int events);
@@ -16,9 +16,9 @@ class MonkeyHands {
   MonkeyHands(const MonkeyHands&) = delete;
   MonkeyHands& operator=(const MonkeyHands&) = delete;
 
-  /// What the monkey answers to a message box: IDOK or IDCANCEL.
+  /// Returns the answer to a message box: IDOK or IDCANCEL.
   int AnswerBox(bool isQuestion);
-  /// How many events it has made.
+  /// The number of events so far.
   int Made() const { return made_; }
 
  private:

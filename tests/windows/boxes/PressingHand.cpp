@@ -16,7 +16,7 @@ PressingHand* theHand = nullptr;  // a timer has no data of its own
 }  // namespace
 
 PressingHand::PressingHand(std::map<std::string, std::string> buttons) : buttons_(std::move(buttons)) {
-  SetDoubleClickTime(1);  // milliseconds; this hand is faster than a person's
+  SetDoubleClickTime(1);  // milliseconds; this hand presses buttons faster than a user
   theHand = this;
   timer_ = SetTimer(nullptr, 0, kTickInterval, Tick);
 }

@@ -7,17 +7,17 @@
 
 namespace plotsmith::test {
 
-/// A hand that presses a button on each page that comes, for as long as this lives. Message boxes are
-/// answered as ever.
+/// Presses a button on each page that opens, as long as this object lives. Message boxes are answered as
+/// usual.
 class PressingHand {
  public:
-  /// `buttons` has the name of the button for the name of each page.
+  /// `buttons` has the name of a button for the name of each page.
   explicit PressingHand(std::map<std::string, std::string> buttons);
   ~PressingHand();
   PressingHand(const PressingHand&) = delete;
   PressingHand& operator=(const PressingHand&) = delete;
 
-  /// How many buttons were pressed.
+  /// The number of presses so far.
   int Presses() const { return presses_; }
 
  private:

@@ -143,7 +143,7 @@ ScriptedHands::ScriptedHands(const std::string& script)
                                           queue.Post(SeenForm({}), [] {
                                           });  // the messages are handled when this timer has ticked
                                         })) {
-  SetDoubleClickTime(1);  // milliseconds; scripts press buttons faster than people do
+  SetDoubleClickTime(1);  // milliseconds; scripts press buttons faster than a user
   theHands = this;
   timer_ = SetTimer(nullptr, 0, kTickInterval, Tick);
 }

@@ -9,12 +9,12 @@
 
 namespace plotsmith::test {
 
-/// The dialog of this thread that waits for a hand; null if none does.
+/// The dialog of this thread that waits for user input; null if there is none.
 HWND WaitingForm();
 
-/// Plays a script of the wizard on the dialogs of this thread, by the messages of a mouse and a keyboard. It
-/// works from outside: it finds the dialogs on the screen, reads them, and makes the next gesture each time
-/// when a timer of this thread ticks and a dialog waits.
+/// Plays a script of the wizard on the dialogs of this thread, with mouse and keyboard messages. It works
+/// from outside: it finds the dialogs on the screen, reads them, and performs the next action when a timer of
+/// this thread ticks while a dialog waits.
 class ScriptedHands {
  public:
   explicit ScriptedHands(const std::string& script);

@@ -13,7 +13,7 @@ namespace {
 constexpr auto kRefused = static_cast<HRESULT>(0x800A03EC);
 constexpr auto kSuspended = static_cast<HRESULT>(0x800AC472);
 
-TEST(CallsTest, FailuresHaveTheNumbersOfTheLanguage) {
+TEST(CallsTest, FailuresHaveVisualBasicsNumbers) {
   const std::vector<std::pair<HRESULT, const char*>> failures = {
       {DISP_E_UNKNOWNNAME, "error 438: Object doesn't support this property or method"},
       {DISP_E_MEMBERNOTFOUND, "error 438: Object doesn't support this property or method"},
@@ -66,7 +66,7 @@ TEST(CallsTest, ExceptionsKeepNumberAndText) {
   }
 }
 
-TEST(CallsTest, ErrorsGoThereAndBack) {
+TEST(CallsTest, ErrorsSurviveBothConversions) {
   for (const int number : {5, 9, 13, 91, 1004, 65535, static_cast<int>(E_UNEXPECTED)}) {
     EXCEPINFO exception{};
     EXPECT_EQ(com::FillException(runtime::RuntimeError(number, "words", "source"), &exception),
@@ -78,7 +78,7 @@ TEST(CallsTest, ErrorsGoThereAndBack) {
   }
 }
 
-TEST(CallsTest, ArgumentsComeInTurnAndTheValueOfAPropertyLast) {
+TEST(CallsTest, ArgumentsAreInOrderAndTheValueOfAPropertyIsLast) {
   std::string seen;
   FakeDispatch object([&](WORD flags, const DISPPARAMS& sent, VARIANT*, EXCEPINFO*) {
     seen = std::to_string(flags);
@@ -96,7 +96,7 @@ TEST(CallsTest, ArgumentsComeInTurnAndTheValueOfAPropertyLast) {
   EXPECT_EQ(seen, "4 1 \"two\" True value");
 }
 
-TEST(CallsTest, NumbersOfMembersAreAskedForOnce) {
+TEST(CallsTest, NumbersOfMembersAreLookedUpOnce) {
   const auto fine = [](WORD, const DISPPARAMS&, VARIANT*, EXCEPINFO*) { return S_OK; };
   FakeDispatch first(fine), second(fine);
   com::Member member(L"Known"), other(L"Unknown");
@@ -109,7 +109,7 @@ TEST(CallsTest, NumbersOfMembersAreAskedForOnce) {
        "error 438: Object doesn't support this property or method");
 }
 
-TEST(CallsTest, ABusyServerIsAskedAgain) {
+TEST(CallsTest, ACallToABusyServerIsRepeated) {
   com::Member member(L"Known");
   for (const HRESULT busy : {RPC_E_CALL_REJECTED, RPC_E_SERVERCALL_RETRYLATER, kSuspended}) {
     int refusals = 3, calls = 0;
@@ -122,7 +122,7 @@ TEST(CallsTest, ABusyServerIsAskedAgain) {
   }
 }
 
-TEST(CallsTest, ABusyServerIsNotWaitedForLong) {
+TEST(CallsTest, TheWaitForABusyServerIsShort) {
   com::Member member(L"Known");
   HRESULT answer = kSuspended;
   int calls = 0;
@@ -142,13 +142,13 @@ TEST(CallsTest, ABusyServerIsNotWaitedForLong) {
   EXPECT_LE(waited, 4000U);
   const int before = calls;
   for (int i = 0; i < 50; ++i) call(com::WhenBusy::kWait);
-  EXPECT_EQ(calls - before, 50) << "the time is used up";
+  EXPECT_EQ(calls - before, 50) << "the waiting time is used up";
   answer = S_OK;
   EXPECT_EQ(call(com::WhenBusy::kWait), "done");
   answer = kRefused;
   const int others = calls;
   EXPECT_EQ(call(com::WhenBusy::kWait), "error 1004:");
-  EXPECT_EQ(calls - others, 1) << "no other failure is tried again";
+  EXPECT_EQ(calls - others, 1) << "calls with other failures aren't repeated";
 }
 
 }  // namespace

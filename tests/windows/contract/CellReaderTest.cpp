@@ -43,7 +43,7 @@ class CellReaderTest : public testing::Test {
   Ref<excel::Worksheet> direct_, proxy_;
 };
 
-TEST_F(CellReaderTest, APassDownAColumnTakesFewCalls) {
+TEST_F(CellReaderTest, ReadingAColumnTakesFewCalls) {
   for (std::int32_t column = 1; column <= 3; ++column) {
     const auto calls = Calls([&] {
       for (std::int32_t row = 1; row <= kRows; ++row) {
@@ -55,7 +55,7 @@ TEST_F(CellReaderTest, APassDownAColumnTakesFewCalls) {
   }
 }
 
-TEST_F(CellReaderTest, APassAlongTheRowsTakesFewCalls) {
+TEST_F(CellReaderTest, ReadingRowByRowTakesFewCalls) {
   const auto calls = Calls([&] {
     for (std::int32_t row = 1; row <= kRows; ++row) {
       proxy_->CellValueAt(row, 2);
@@ -76,7 +76,7 @@ TEST_F(CellReaderTest, TextsInThePlainFormatNeedNoCallEach) {
     });
   };
   EXPECT_LE(read(1), 45U);
-  EXPECT_GE(read(2), 2U * kRows) << "how a date is shown, only the host knows";
+  EXPECT_GE(read(2), 2U * kRows) << "only the host knows how a date is displayed";
 }
 
 TEST_F(CellReaderTest, FormulasAreReadAsTheSheetShowsThem) {
@@ -105,12 +105,12 @@ TEST_F(CellReaderTest, AWriteIsSeenByTheNextRead) {
   proxy_->SetCellValueAt(41, 3, 7);
   SAYS(proxy_->CellValueAt(41, 3).ToVariant(), "7");
   proxy_->CellValueAt(42, 3);
-  direct_->SetCellValueAt(43, 3, "by somebody else");
+  direct_->SetCellValueAt(43, 3, "by another program");
   com::NoteChange();
-  SAYS(proxy_->CellValueAt(43, 3).ToVariant(), R"("by somebody else")");
+  SAYS(proxy_->CellValueAt(43, 3).ToVariant(), R"("by another program")");
 }
 
-TEST_F(CellReaderTest, TextsStayGoodWhileOtherCellsAreRead) {
+TEST_F(CellReaderTest, TextsStayValidWhileOtherCellsAreRead) {
   const std::string_view first = proxy_->CellValueAt(1, 1).text;
   for (std::int32_t row = 2; row <= kRows; ++row) proxy_->CellValueAt(row, 1);
   com::NoteChange();
@@ -118,7 +118,7 @@ TEST_F(CellReaderTest, TextsStayGoodWhileOtherCellsAreRead) {
   EXPECT_EQ(first, "text 1");
 }
 
-TEST_F(CellReaderTest, BlankStretchesArePassedOver) {
+TEST_F(CellReaderTest, BlankStretchesAreSkipped) {
   direct_->SetCellValueAt(900, 5, "far below");
   std::vector<std::int32_t> rows;
   const auto calls = Calls([&] {

@@ -34,7 +34,7 @@ std::vector<fs::path> BooksIn(const std::string& folder) {
   return books;
 }
 
-TEST(CorpusContractTest, AllThatTheHostTellsIsTheSameThroughCom) {
+TEST(CorpusContractTest, TheHostsResultsAreTheSameThroughCom) {
   int described = 0;
   for (const char* folder :
        {"examples", "examples/data", "../shared/corpus/charts", "../shared/corpus/real"}) {
@@ -56,7 +56,7 @@ TEST(CorpusContractTest, AllThatTheHostTellsIsTheSameThroughCom) {
 
 TEST(CorpusContractTest, SheetsWithoutCellsAreSheetsThroughCom) {
   const fs::path book = fs::path(PLOTSMITH_SOURCE_DIR) / "../shared/corpus/charts/chartsheet04.xlsx";
-  if (!fs::exists(book)) GTEST_SKIP() << "there is no corpus";
+  if (!fs::exists(book)) GTEST_SKIP() << "the corpus is missing";
   const auto host = std::make_shared<dress::Host>();
   host->application->Open(runtime::Utf8Of(book));
   const auto dressed = com::ComPtr<IDispatch>::Attach(dress::NewApplication(host));

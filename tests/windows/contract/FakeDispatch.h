@@ -17,8 +17,8 @@ class FakeDispatch final : public IDispatch {
 
   explicit FakeDispatch(Call call) : call_(std::move(call)) {}
 
-  int lookUps = 0;        ///< of names; those that begin with "Unknown" aren't there
-  std::wstring lastName;  ///< of the member that was called last
+  int lookUps = 0;        ///< number of look-ups of names; names that begin with "Unknown" don't exist
+  std::wstring lastName;  ///< the name of the member that was last called
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) noexcept override {
     *object = id == IID_IUnknown || id == IID_IDispatch ? this : nullptr;
@@ -46,7 +46,7 @@ class FakeDispatch final : public IDispatch {
   }
 
  private:
-  /// Of all members, by their numbers. Objects of a class know a member by the same number.
+  /// The names of all members, by number. All objects of a class use the same numbers.
   static std::vector<std::wstring>& Names() {
     static std::vector<std::wstring> names;
     return names;

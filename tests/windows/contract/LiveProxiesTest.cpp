@@ -117,7 +117,7 @@ TEST_F(LiveProxiesTest, AGuardLeavesOnlyTheApplication) {
   said_ = "You are currently editing a cell or object. Please finish editing before using the Plotsmith.\n";
   const ULONGLONG began = GetTickCount64();
   controller_.RefreshPlotsmithData(Excel(), "test", "");
-  EXPECT_LT(GetTickCount64() - began, 500U) << "a person waits for the answer";
+  EXPECT_LT(GetTickCount64() - began, 500U) << "the user waits for the answer";
   EXPECT_EQ(com::LiveProxies(), 1);
 }
 

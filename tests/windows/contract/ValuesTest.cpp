@@ -7,7 +7,7 @@
 namespace plotsmith::contract {
 namespace {
 
-TEST(ValuesTest, ValuesGoThereAndBack) {
+TEST(ValuesTest, ValuesSurviveBothConversions) {
   const std::vector<std::pair<excel::Variant, VARTYPE>> values = {
       {excel::Variant(), VT_EMPTY},
       {runtime::kNull, VT_NULL},
@@ -33,7 +33,7 @@ TEST(ValuesTest, ValuesGoThereAndBack) {
   }
 }
 
-TEST(ValuesTest, NumbersOfAllWidthsComeIn) {
+TEST(ValuesTest, NumbersOfAllWidthsAreRead) {
   VARIANT value;
   const auto says = [&](VARTYPE type) {
     V_VT(&value) = type;
@@ -63,7 +63,7 @@ TEST(ValuesTest, NumbersOfAllWidthsComeIn) {
   EXPECT_EQ(says(VT_RECORD), "error 13: Type mismatch");
 }
 
-TEST(ValuesTest, ObjectsAreWantedAsObjects) {
+TEST(ValuesTest, OnlyObjectsCanBeReadAsObjects) {
   SAYS(com::ObjectOf(com::ToVariant(static_cast<IDispatch*>(nullptr)).Get()).Get() == nullptr, "True");
   SAYS(com::ObjectOf(com::ToVariant(runtime::kNull).Get()).Get() == nullptr, "error 424: Object required");
   SAYS(com::ObjectOf(com::ToVariant(7).Get()).Get() == nullptr, "error 424: Object required");

@@ -9,8 +9,8 @@
 namespace plotsmith::contract {
 namespace {
 
-/// The name of a type in Excel's reference, of a value or an object that a member answers.
-///@{
+/// Returns the name in Excel's reference of a type that a member returns, either a value or an object.
+/// @{
 template <class T>
 struct TypeName;
 // clang-format off
@@ -27,7 +27,7 @@ template <> struct TypeName<std::vector<excel::Variant>> { static constexpr cons
 // clang-format on
 ///@}
 
-/// An argument as Excel gets it: its type, and its value where it has one.
+/// Returns an argument as Excel gets it: its type, and its value if it has one.
 std::string Sent(const VARIANT& value) {
   if (com::IsArray(value)) return "Array(" + Words(com::ListOf(value)) + ")";
   if (com::IsMissing(value)) return "Missing";
@@ -47,7 +47,7 @@ std::string Sent(const VARIANT& value) {
   }
 }
 
-/// The arguments from the first to the one in front of `end`. Several in a row that are missing are counted.
+/// Returns the arguments before `end`. Several omitted arguments in a row are counted.
 std::string Listed(const DISPPARAMS& sent, UINT end) {
   std::string list;
   UINT missing = 0;
@@ -66,7 +66,7 @@ std::string Listed(const DISPPARAMS& sent, UINT end) {
   return list;
 }
 
-/// A call as the language writes it.
+/// Returns a call as Visual Basic writes it.
 std::string Called(WORD flags, const std::wstring& name, const DISPPARAMS& sent) {
   const std::string text(name.begin(), name.end());
   const bool puts = sent.cNamedArgs == 1 && sent.rgdispidNamedArgs[0] == DISPID_PROPERTYPUT;
@@ -77,8 +77,8 @@ std::string Called(WORD flags, const std::wstring& name, const DISPPARAMS& sent)
   return flags == DISPATCH_METHOD ? "Call " + arguments : "several kinds of " + arguments;
 }
 
-/// What the fake Excel answers to a member of the type T.
-///@{
+/// Returns the fake Excel's result for a member of type T.
+/// @{
 template <class T>
 T Sample() {
   return {};
@@ -111,7 +111,7 @@ std::vector<excel::Variant> Sample<std::vector<excel::Variant>>() {
 
 template <class T>
 com::OwnedVariant AnswerOf(IDispatch* self, const std::wstring& name) {
-  // members on the way to the one that is asked for
+  // members on the way to the tested one
   static const std::set<std::wstring> kObjects = {L"BuiltinDocumentProperties", L"Cells", L"Item", L"Rows"};
   if constexpr (proxies::IsRef<T>::value || std::is_void_v<T>) {
     return com::ToVariant(self);
@@ -122,8 +122,8 @@ com::OwnedVariant AnswerOf(IDispatch* self, const std::wstring& name) {
   }
 }
 
-/// What Excel is asked by a call of a port's class, and the type of what that answers. Every object that
-/// Excel answers is itself; a value must come through as it is.
+/// Returns what Excel receives from a call of a port's class, and the type of the result. Every object that
+/// Excel returns is the fake itself; a value must arrive unchanged.
 template <class Class, class Result>
 std::string AskedBy(const std::function<Result(Class&)>& use) {
   std::string asked;
@@ -149,13 +149,13 @@ std::string AskedBy(const std::function<Result(Class&)>& use) {
   }
 }
 
-/// The same of a function, for each of which little code is made: there are hundreds.
+/// Does the same for a function. The code for each is small, because there are hundreds.
 template <class Class, class Use>
 std::string Asked(const Use& use) {
   return AskedBy<Class, decltype(use(std::declval<Class&>()))>(use);
 }
 
-/// A call of the port, and what Excel gets of it.
+/// A call of the port, and what Excel receives from it.
 struct Row {
   std::string memberOf;
   std::string call;
@@ -168,9 +168,9 @@ struct Row {
         [] { return Asked<excel::Class>([](excel::Class& object) { return object.call; }); }, expected \
   }
 
-// The kinds, arguments and types are those of the reference of Excel's object model. They are written out
-// here, as the proxies and the test's Excel are both made of src/windows/excel/members, and a wrong line
-// there would be wrong on both sides.
+// The kinds, arguments and types are those in the reference of Excel's object model. They are written again
+// here, because the proxies and the test's Excel are both made from src/windows/excel/members, and a wrong
+// line there would be wrong on both sides.
 
 const std::vector<Row>& BookRows() {
   static const std::vector<Row> rows = {
@@ -480,11 +480,11 @@ std::vector<Row> AllRows() {
   return all;
 }
 
-TEST(WireTest, EveryCallIsAsExcelHasIt) {
+TEST(WireTest, EveryCallMatchesExcelsReference) {
   for (const Row& row : AllRows()) EXPECT_EQ(row.asked(), row.expected) << row.memberOf << "." << row.call;
 }
 
-/// The members that are called in a row, such as "Axis.HasTitle put".
+/// Returns the members that are called in a row, such as "Axis.HasTitle put".
 std::set<std::string> MembersIn(const Row& row) {
   static const std::map<std::string, std::string> kKinds = {
       {"Get", " read"}, {"Let", " put"}, {"Call", " called"}};
@@ -499,7 +499,7 @@ std::set<std::string> MembersIn(const Row& row) {
 }
 
 TEST(WireTest, EveryMemberHasARow) {
-  // CellReader asks for these, and CellReaderTest sees what comes of it
+  // CellReader calls these, and CellReaderTest checks the results
   std::set<std::string> inRows = {"Range.DisplayFormat read", "Range.Formula read", "Range.HasFormula read"};
   for (const Row& row : AllRows()) inRows.merge(MembersIn(row));
   for (const std::string& way : dress::AllWays()) EXPECT_TRUE(inRows.contains(way)) << way;

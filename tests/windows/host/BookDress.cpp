@@ -16,7 +16,7 @@ void CheckEditing(const HostPtr& host) {
   if (host->editing) throw RuntimeError(kSuspended);
 }
 
-/// The list of a workbook's properties, of which the port has only the items.
+/// The list of a workbook's properties. The port has only its items.
 struct DocumentProperties {
   Ref<excel::Workbook> book;
 };
@@ -65,7 +65,7 @@ void AddWays(Table<excel::Sheets>& table) {
 void AddWays(Table<excel::Sheet>&) {}
 void AddWays(Table<excel::Worksheet>&) {}
 
-/// What `of` gives for the only cell, or for all cells as an array.
+/// Returns the result of `of` for the only cell, or for all cells as an array.
 template <class Of>
 com::OwnedVariant EachOf(excel::Range& range, const Of& of) {
   const auto [sheet, cells] = xlsx::CellsOf(range);
@@ -83,7 +83,7 @@ excel::Variant ValueAt(xlsx::Worksheet& sheet, std::int32_t row, std::int32_t co
   return sheet.CellValueAt(row, column).ToVariant();
 }
 
-/// What `of` gives for every cell, if that is the same; otherwise Null.
+/// Returns the result of `of` if it is the same for every cell, otherwise Null.
 template <class Of>
 excel::Variant Common(excel::Range& range, const Of& of) {
   const auto [sheet, cells] = xlsx::CellsOf(range);
@@ -101,7 +101,7 @@ std::string TextAt(xlsx::Worksheet& sheet, std::int32_t row, std::int32_t column
   return std::string(sheet.CellTextAt(row, column, scratch));
 }
 
-/// Of a cell without a formula its value, which is as good for texts.
+/// Returns the formula of a cell, or its value if it has none, which has the same effect for texts.
 excel::Variant FormulaAt(const Host& host, xlsx::Worksheet& sheet, std::int32_t row, std::int32_t column) {
   const auto formula = host.formulas.find({row, column});
   return formula == host.formulas.end() ? ValueAt(sheet, row, column) : excel::Variant(formula->second);

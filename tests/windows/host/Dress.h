@@ -16,8 +16,8 @@
 #include "windows/com/Values.h"
 #include "xlsx/Application.h"
 
-/// The embedded host dressed as Excel: its objects behind IDispatch. The tables of src/windows/excel/members
-/// make both the dress and the proxies.
+/// Presents the embedded host as Excel: its objects have IDispatch. The tables of src/windows/excel/members
+/// define both these COM objects and the proxies.
 namespace plotsmith::dress {
 
 using excel::Ref;
@@ -31,13 +31,13 @@ struct Host {
   std::map<std::string, com::ComPtr<IDispatch>> macros;
   /// The formulas of cells, which the embedded host doesn't have, by row and column of any sheet.
   std::map<std::pair<std::int32_t, std::int32_t>, std::string> formulas;
-  /// The dress of the open workbook while it lives: as in Excel, a workbook is always the same object.
+  /// The COM object of the open workbook while it exists: as in Excel, a workbook is always the same object.
   IDispatch* workbook = nullptr;
   bool displayFormulas = false;  ///< cells show their formulas
 
-  /// The one way to call a member that is spoilt, such as "Series.Values read", and how: see Spoilt.
+  /// The spoilt way to call a member, such as "Series.Values read", and the kind of spoiling: see Spoilt.
   std::string spoiltWay, spoiltHow;
-  com::ComPtr<IDispatch> callback;  ///< that a member of the kind "calls back" calls
+  com::ComPtr<IDispatch> callback;  ///< called by a spoilt member of the kind "calls back"
 };
 using HostPtr = std::shared_ptr<Host>;
 
@@ -155,11 +155,11 @@ class Dressed final : public Dispatch {
   Ref<T> object_;
 };
 
-/// What a spoilt member answers: an error, "Null", "Empty", "Nothing", a number, a text, an object of another
-/// class, an array; nothing where it calls back first and then answers as usual.
+/// Returns the result of a spoilt member: an error, "Null", "Empty", "Nothing", a number, a text, an object
+/// of another class, or an array; absent if it calls back first and then returns the usual result.
 std::optional<com::OwnedVariant> Spoilt(const HostPtr& host);
 
-/// The default member's answer for arguments that a property of an object doesn't take itself: Sheets("A").
+/// Calls the default member of an object with arguments that a property itself doesn't have: Sheets("A").
 com::OwnedVariant ItemOf(const com::OwnedVariant& collection, const Arguments& arguments);
 
 /// Returns an object as IDispatch; Nothing for null.

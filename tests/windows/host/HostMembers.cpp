@@ -106,7 +106,8 @@ com::OwnedVariant UnsureCalls(excel::Application&, const Arguments&, const HostP
   return com::ToVariant(counts.unsure.load());
 }
 
-/// WaysCalled: the ways in which Excel's members have been called, such as "Series.Values read", a line each.
+/// WaysCalled: the ways in which Excel's members have been called, such as "Series.Values read", one per
+/// line.
 com::OwnedVariant WaysCalled(excel::Application&, const Arguments&, const HostPtr&) {
   const std::vector<std::string> notCalled = WaysNotCalled();
   std::string lines;
@@ -117,7 +118,7 @@ com::OwnedVariant WaysCalled(excel::Application&, const Arguments&, const HostPt
   return com::ToVariant(lines);
 }
 
-/// Spoil(way, how, callback): a way of calling a member that answers from now on what no Excel does; see
+/// Spoil(way, how, callback): makes a way to call a member return results that Excel never returns; see
 /// Spoilt.
 com::OwnedVariant Spoil(excel::Application&, const Arguments& arguments, const HostPtr& host) {
   host->spoiltWay = Given<std::string>(arguments[0]);
@@ -126,12 +127,12 @@ com::OwnedVariant Spoil(excel::Application&, const Arguments& arguments, const H
   return {};
 }
 
-/// LiveObjects: how many objects of this library somebody refers to.
+/// LiveObjects: the number of this library's objects with references.
 com::OwnedVariant LiveObjects(excel::Application&, const Arguments&, const HostPtr&) {
   return com::ToVariant(counts.objects.load());
 }
 
-/// Which ways are listed.
+/// The ways that are listed.
 enum class Which { kAll, kNotCalled };
 
 template <class T>
@@ -142,7 +143,7 @@ void ListWays(Which which, std::vector<std::string>& list) {
   }
 }
 
-/// The members that are here for scripts.
+/// The members for scripts.
 constexpr std::array kHostMembers = {"Open",        "Save",        "SaveAs",      "Journal",
                                      "SaveJournal", "Spoil",       "DefineMacro", "Editing",
                                      "Calls",       "UnsureCalls", "LiveObjects", "WaysCalled"};

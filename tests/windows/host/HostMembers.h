@@ -7,9 +7,9 @@ namespace plotsmith::dress {
 /// Adds the host's members for scripts, which HostMembers.cpp lists.
 void AddHostMembers(Table<excel::Application>& table);
 
-/// Ways to call Excel's members, such as "Axis.HasTitle read".
+/// Returns the ways to call Excel's members, such as "Axis.HasTitle read".
 std::vector<std::string> AllWays();
-/// Those of them that have not been called yet.
+/// Returns those of them that have not been called yet.
 std::vector<std::string> WaysNotCalled();
 
 /// Makes a host as IDispatch with one reference, which the caller owns.

@@ -28,7 +28,7 @@ check("refresh a table", progressOf(function() { addIn.refreshTable("VEX_TableRa
 check("refresh another table", progressOf(function() { addIn.refreshTable("Data5"); }), "started, complete");
 check("boxes", boxes.Take(), "");
 
-// A workbook that is closed and opened again is another one, of which all charts are refreshed first.
+// A workbook that is closed and opened again is a different one, so all its charts are refreshed first.
 host.Open(examples + "countries.xlsx");
 var kAll = "started, started VEX_Chart1, started VEX_Chart2, complete";
 check("another workbook", progressOf(function() { addIn.refreshTable("VEX_TableRange_Countries"); }), kAll + ", " + kAll);

@@ -12,13 +12,13 @@ function report(operation, description) {
   return "Brindle Plotsmith [OK]: CPlotsmithController." + operation + "\\r\\n" + description;
 }
 
-// An operation that runs shows a message: without an open workbook, the guard reports it.
+// An operation that begins shows a message: without an open workbook, the guard reports that.
 function runs(call) {
   check(call, boxes.LateBound(controller, call, host), "ok");
   check(call + ": boxes", boxes.Take(), kNoWorkbook);
 }
 
-// An operation that is refused hasn't begun.
+// An operation that is refused doesn't begin.
 function isRefused(call, result) {
   check(call, boxes.LateBound(controller, call, host), result);
   check(call + ": boxes", boxes.Take(), "");
@@ -70,7 +70,7 @@ isRefused("UpdateChartColumnNamesForTable|o|s:Data1|s:Old|as:New", kMismatch + "
 isRefused("UpdateChartColumnNamesForTable|o|s:Data1|as:Old|as2", kMismatch + " at 0");
 isRefused("UpdateChartColumnNamesForTable|o|s:Data1|as:Old|&vnull", kMismatch + " at 0");
 
-// Nothing is an object that is not set.
+// Nothing is an unset object.
 check("Nothing", boxes.LateBound(controller, "RunPlotsmith|n|s:|s:", host), "ok");
 check("Nothing: boxes", boxes.Take(), report("RunPlotsmith", "Object variable or With block variable not set"));
 check("Nothing, as IUnknown", boxes.LateBound(controller, "RunPlotsmith|&n|s:|s:", host), "ok");
@@ -88,7 +88,7 @@ check("early bound, Nothing: boxes", boxes.Take(),
 check("a script without arguments", resultOf(function() { controller.RunPlotsmith(); }), kNotOptional);
 check("a script with too many", resultOf(function() { controller.RunPlotsmith(host, "", "", ""); }), kCount);
 check("a script without a host", resultOf(function() { controller.RunPlotsmith("Excel", "", ""); }), kMismatch);
-check("a script that knows no better", resultOf(function() { controller.Refresh(host); }), "0x800A01B6");
+check("a script with wrong arguments", resultOf(function() { controller.Refresh(host); }), "0x800A01B6");
 check("a script that reads", resultOf(function() { var value = controller.RunPlotsmith; }), "0x80020003");
 check("a script: boxes", boxes.Take(), "");
 
@@ -101,7 +101,7 @@ fileSystem.CopyFile(WScript.Arguments(1) + "\\countries.xlsx", book, true);
 function columnsAfter(invoke, call) {
   var session = new ActiveXObject("PlotsmithTestHost.Application");
   session.Open(book);
-  newController().RefreshPlotsmithData(session, "", "");  // lets go of the workbook of the call before
+  newController().RefreshPlotsmithData(session, "", "");  // releases the workbook of the previous call
   boxes.Take();
   session.Open(book);
   check(call, boxes[invoke](controller, "UpdateChartColumnNamesForTable|" + call, session), "ok");

@@ -22,7 +22,7 @@ function says(name, host, expected) {
 
 var host = new ActiveXObject("PlotsmithTestHost.Application");
 
-// The operations on one table have no guards: what trips over a workbook that isn't there says so.
+// The operations on one table have no guards. They report an error when they use the missing workbook.
 function tripsWithoutWorkbook(name, call) {
   check(name + " without a workbook", boxes.LateBound(newController(), call, host), "ok");
   check(name + " without a workbook: boxes", boxes.Take(), [
@@ -30,7 +30,7 @@ function tripsWithoutWorkbook(name, call) {
     kProduct + "PSFunctions.RetrieveChartDefinitions\\r\\n" + kNotSet
   ].join("\n"));
   CollectGarbage();
-  boxes.FreeUnusedLibraries();  // the component forgets what it holds
+  boxes.FreeUnusedLibraries();  // the component forgets its state
 }
 tripsWithoutWorkbook("a refresh of a table", "RefreshChartsForTable|o|s:Data1");
 tripsWithoutWorkbook("a rename", "UpdateChartColumnNamesForTable|o|s:Data1|as:Old|as:New");
@@ -41,7 +41,7 @@ host.Editing = true;
 says("a cell is edited", host, kEditing);
 check("a cell is edited: the journal", host.Journal, "");
 
-// Where Interactive is False already, nothing can be learnt from it, and it stays untouched.
+// If Interactive is already False, it gives no information and isn't changed.
 host.Editing = false;
 host.Interactive = false;
 host.Editing = true;
@@ -54,9 +54,9 @@ check("Interactive is False: it stays so", host.Journal.split("Application.Inter
 host.Editing = false;
 host.Interactive = true;
 
-// The operations on one table work on the workbook that is open.
+// The operations on one table use the open workbook.
 newController().RefreshChartsForTable(host, "no such table");
-check("a table that isn't there", boxes.Take(), "");
+check("a missing table", boxes.Take(), "");
 
 // The component keeps the Application of the first call, so the script's own Application is used last.
 says("protected", hostWith(true, false), kProtected);
@@ -71,7 +71,7 @@ newController().RefreshPlotsmithData(owned, "", "");
 check("the owner", boxes.Take(), kProtected.replace("[OK]", "[OK] of A window of the host"));
 owned.Hwnd = 12345;
 newController().RefreshPlotsmithData(owned, "", "");
-check("a window that isn't there", boxes.Take(), kProtected);
+check("a missing window", boxes.Take(), kProtected);
 owned.Hwnd = "no number";
 newController().RefreshPlotsmithData(owned, "", "");
 check("no window", boxes.Take(), kProtected);

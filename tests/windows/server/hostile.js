@@ -2,7 +2,7 @@
 var kMismatch = "Type mismatch";
 var kNoObject = "Object required";
 var kNoMember = "Object doesn't support this property or method";
-var kAtWork = "Plotsmith is still at work on an earlier call. Call it again when that has returned.";
+var kAtWork = "Plotsmith is still working on an earlier call. Call it again when that call has returned.";
 // While charts are drawn, boxes are in front of the busy window.
 var kBusy = "Brindle Plotsmith [OK] of Please Wait: ";
 var kNoSheet = kBusy + "Unable to create the metadata worksheet";
@@ -13,17 +13,17 @@ function report(procedure, description) {
   return "Brindle Plotsmith [OK]: " + procedure + "\\r\\n" + description;
 }
 
-// The same while charts are drawn.
+// Returns the same report while charts are drawn.
 function busyReport(procedure, description) {
   return kBusy + procedure + "\\r\\n" + description;
 }
 
-// Refreshes with an Application of its own, as no other remains once the DLL is gone.
+// Refreshes with its own Application, because no other one exists after the DLL is unloaded.
 function refreshSays(name, host, boxesExpected) {
   check(name, resultOf(function() { newController().RefreshPlotsmithData(host, "Add-in", ""); }), "ok");
   check(name + ": boxes", boxes.Take(), boxesExpected.join("\n"));
   boxes.FreeUnusedLibraries();
-  check(name + ": the DLL is gone", boxes.IsLoaded("Plotsmith.dll"), false);
+  check(name + ": the DLL is unloaded", boxes.IsLoaded("Plotsmith.dll"), false);
 }
 
 // An Application that returns this as its workbook.
@@ -104,8 +104,9 @@ namesSay("names that throw", {Count: 1, Item: function() { throw new Error(5, "n
 })();
 boxes.FreeUnusedLibraries();
 
-// An Excel of which one member answers what it never would, for every member that a refresh calls: sheets, ranges,
-// cells, names, shapes, charts, series, axes. Whatever comes is said in reports, and the component works afterwards.
+// Tests an Excel in which one member returns a result that Excel never returns, for every member that a refresh calls:
+// sheets, ranges, cells, names, shapes, charts, series, axes. All failures are reported, and the component works
+// afterwards.
 var book = WScript.Arguments(3);
 var kWays = ["throws", "Null", "Empty", "Nothing", "a number", "a text", "an array", "another object", "calls back"];
 
@@ -116,7 +117,7 @@ function spoiltHost(way, how, callback) {
   return host;
 }
 
-// What the boxes say of a refresh in which a member is spoilt.
+// Returns the texts of the boxes in a refresh with a spoilt member.
 function spoiltRefresh(way, how) {
   var controller = newController();
   var host = spoiltHost(way, how, function() { controller.RefreshPlotsmithData(host, "Add-in", ""); });
@@ -126,23 +127,24 @@ function spoiltRefresh(way, how) {
   return boxes.Take();
 }
 
-// A call back is refused, and does not disturb what is at work.
+// A call back is refused, and doesn't disturb the running operation.
 function isAtWork(box) {
   return box.replace(" of Please Wait", "") === report(kRefresh, kAtWork);
 }
 
-// What is said at most: reports of procedures, sentences for the user.
+// The only allowed texts: reports of procedures, and sentences for the user.
 function isSaid(box) {
   return /^Brindle Plotsmith \[OK\]( of Please Wait)?: (\w+\.\w+\\r\\n.|[A-Z].*\.$|Unable to )/.test(box);
 }
 
 var untouched = spoiltHost();
 newController().RefreshPlotsmithData(untouched, "Add-in", "");
-check("nothing is spoilt", boxes.Take(), "");
+check("without spoilt members", boxes.Take(), "");
 var plain = untouched.Journal;
 var members = untouched.WaysCalled.split("\n");
 untouched = null;
-// Two ways for each member, other ones for the next: all of them for each would take too long.
+// Two ways of spoiling for each member, different ones for the next member: all ways for each member would take too
+// long.
 (function() {
   var runs = 0;
   var reported = 0;
@@ -164,13 +166,13 @@ untouched = null;
 })();
 CollectGarbage();
 boxes.FreeUnusedLibraries();
-check("the DLL is gone", boxes.IsLoaded("Plotsmith.dll"), false);
+check("the DLL is unloaded", boxes.IsLoaded("Plotsmith.dll"), false);
 
-// The component works on after all that.
+// The component still works after all of this.
 (function() {
   var host = spoiltHost();
   newController().RefreshPlotsmithData(host, "Add-in", "");
   check("after all", boxes.Take(), "");
-  check("after all: the journal", host.Journal, plain);
+  check("after all runs: the journal", host.Journal, plain);
 })();
 finish();

@@ -2,7 +2,7 @@
 var examples = WScript.Arguments(1) + "\\";
 var kProduct = "Brindle Plotsmith [OK]: ";
 var kAtWork = kProduct + "CPlotsmithController.RefreshPlotsmithData\\r\\n" +
-    "Plotsmith is still at work on an earlier call. Call it again when that has returned.";
+    "Plotsmith is still working on an earlier call. Call it again when that call has returned.";
 
 function open(name) {
   var host = new ActiveXObject("PlotsmithTestHost.Application");
@@ -14,7 +14,7 @@ function open(name) {
 function unload(name) {
   CollectGarbage();
   boxes.FreeUnusedLibraries();
-  check(name + ": the DLL is gone", boxes.IsLoaded("Plotsmith.dll"), false);
+  check(name + ": the DLL is unloaded", boxes.IsLoaded("Plotsmith.dll"), false);
 }
 
 check("at first", boxes.IsLoaded("Plotsmith.dll"), false);
@@ -27,7 +27,7 @@ unload("an object that was not called");
   var controller = newController();
   controller.RefreshPlotsmithData(host, "Add-in", "");
   boxes.FreeUnusedLibraries();
-  check("with an object that was called", boxes.IsLoaded("Plotsmith.dll"), true);
+  check("with a used object", boxes.IsLoaded("Plotsmith.dll"), true);
 })();
 unload("after a refresh");
 
@@ -37,8 +37,8 @@ unload("after a refresh");
 })();
 unload("after a refresh of a table, which keeps its workbook");
 
-// Two Applications one after the other: each has its own workbook refreshed. What the component changes in the
-// Application itself, it changes in the first one.
+// Two Applications one after the other: the workbook of each is refreshed. The component changes properties of the
+// Application only in the first one.
 function linesOf(journal, ofApplication) {
   var lines = journal.split("\n");
   var chosen = [];
@@ -82,12 +82,12 @@ unload("after a refresh without macros");
     boxes.FreeUnusedLibraries();
     loaded.push(boxes.IsLoaded("Plotsmith.dll"));
   });
-  check("released under the run", boxes.Refresh(host), "ok");
+  check("released during the run", boxes.Refresh(host), "ok");
   check("macros", started.join(", "), "all, VEX_Chart1 false, VEX_Chart2 false");
   check("under a run", loaded.join(), "true,true,true");
   check("calling back", boxes.Take(), kAtWork);
   check("the window afterwards", boxes.WindowIsEnabled(), true);
-  check("the refresh goes on", host.Journal, plain);
+  check("the refresh continues", host.Journal, plain);
 })();
 unload("after a macro");
 
@@ -96,7 +96,7 @@ unload("after a macro");
   var controller = newController();
   controller.RefreshPlotsmithData(open("countries.xlsx"), "Add-in", "");
   check("another thread", boxes.RefreshOnOtherThread(), "ok\n" + kProduct +
-      "CPlotsmithController.RefreshPlotsmithData\\r\\nPlotsmith belongs to the thread that has called it first.");
+      "CPlotsmithController.RefreshPlotsmithData\\r\\nPlotsmith can only be called on the thread that called it first.");
   function refresh() { controller.RefreshPlotsmithData(open("countries.xlsx"), "Add-in", ""); }
   boxes.WithStackOf(200, refresh);
   check("200 KB of stack", boxes.Take(),
@@ -105,7 +105,7 @@ unload("after a macro");
   check("400 KB of stack", boxes.Take(), "");
 })();
 
-// The wizard nests a page in a page, as long as the stack lasts. Then it ends with a report.
+// The wizard nests pages until the stack is exhausted. Then it ends with a report.
 (function() {
   var controller = newController();
   var host = open("countries.xlsx");
@@ -132,7 +132,7 @@ unload("after another thread");
     return boxes.Resources() + ", " + host.LiveObjects + " objects of Excel";
   }
   var before = leftAfter(3);
-  check("what is counted", /^([1-9]\d* [\w ]+(, |$)){4}$/.test(before), true);
+  check("the counts", /^([1-9]\d* [\w ]+(, |$)){4}$/.test(before), true);
   check("a thousand runs", leftAfter(Number(WScript.Arguments(4))), before);
   check("a thousand runs: boxes", boxes.Take(), "");
 })();

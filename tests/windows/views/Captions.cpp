@@ -9,9 +9,9 @@
 namespace plotsmith::test {
 namespace {
 
-constexpr int kMoreWidth = 100;  // even, as a button has half of it on each side
+constexpr int kMoreWidth = 100;  // even, because a button has half of it on each side
 
-/// What a window paints, a pixel each.
+/// The pixels that a window paints.
 struct Painting {
   int width = 0, height = 0;
   std::vector<std::uint32_t> pixels;
@@ -26,7 +26,7 @@ class Canvas {
     BITMAPINFOHEADER head = {};
     head.biSize = sizeof head;
     head.biWidth = width;
-    head.biHeight = -height;  // the first row is the upper one
+    head.biHeight = -height;  // the first row is at the top
     head.biPlanes = 1;
     head.biBitCount = 32;
     bitmap_ = CreateDIBSection(context_, reinterpret_cast<BITMAPINFO*>(&head), DIB_RGB_COLORS, &pixels_,
@@ -78,7 +78,8 @@ Painting PaintWider(HWND window) {
   return painting;
 }
 
-/// Whether columns of a painting are those of another one, which lie further to the right by so many pixels.
+/// Returns true if columns of a painting are the same as those of another one that are further to the right
+/// by this number of pixels.
 bool AreSame(const Painting& left, int from, int to, const Painting& right, int further) {
   for (int y = 0; y < left.height; ++y) {
     for (int x = from; x < to; ++x) {
@@ -88,7 +89,7 @@ bool AreSame(const Painting& left, int from, int to, const Painting& right, int 
   return true;
 }
 
-/// Whether nothing is painted in some columns: they are all as the first one.
+/// Returns true if some columns are empty: they are all the same as the first one.
 bool IsEmpty(const Painting& painting, int from, int to) {
   for (int y = 0; y < painting.height; ++y) {
     for (int x = from; x < to; ++x) {

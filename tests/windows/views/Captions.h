@@ -6,8 +6,8 @@
 
 namespace plotsmith::test {
 
-/// The controls of a form whose caption isn't wholly painted, as a person sees it: each is painted once in
-/// its own width and once in a larger one, and the captions are compared. Empty if all captions are whole.
+/// Returns the controls of a form whose caption isn't painted completely; empty if there are none. Each
+/// control is painted once in its own width and once in a larger one, and the captions are compared.
 std::string CutCaptions(HWND form);
 
 }  // namespace plotsmith::test

@@ -21,7 +21,7 @@ class HostWindowTest : public test::DialogTest {
  protected:
   void ExpectFree() {
     EXPECT_TRUE(IsWindowEnabled(hostWindow_.Handle()));
-    EXPECT_TRUE(hostWindow_.CameBackInTime()) << "a window of another program would have come to the front";
+    EXPECT_TRUE(hostWindow_.CameBackInTime()) << "a window of another program would have been activated";
     EXPECT_EQ(FindWindowW(L"PlotsmithForm", nullptr), nullptr);
   }
 };
@@ -48,7 +48,7 @@ TEST_F(HostWindowTest, ItTakesNoInputWhileAPageIsOpenAndItsTimersTick) {
   ExpectFree();
 }
 
-TEST_F(HostWindowTest, EachWayOutOfAPageGivesItBack) {
+TEST_F(HostWindowTest, EachWayToCloseAPageEnablesIt) {
   const auto destroy = [] { DestroyWindow(test::FrontWindow()), test::EndDeed(); };
   const auto quit = [] { PostQuitMessage(7), test::EndDeed(); };
   for (const test::Way& way : kWays) {
@@ -69,7 +69,7 @@ TEST_F(HostWindowTest, AHostThatIsDestroyedEndsTheRun) {
   EXPECT_EQ(FindWindowW(L"PlotsmithForm", nullptr), nullptr);
 }
 
-TEST_F(HostWindowTest, AnErrorOfAPageGivesItBack) {
+TEST_F(HostWindowTest, AnErrorOfAPageEnablesIt) {
   std::vector<S> log;
   const auto form = std::make_shared<test::SmallForm>(log);
   form->OnOK = [] { throw std::runtime_error("an error that no page handles"); };
@@ -108,7 +108,8 @@ TEST_F(HostWindowTest, TheBusyWindowIsModalAndItsBarMovesWhileItWorks) {
   ExpectFree();
 }
 
-/// A window of the host that posts itself a message with each one, and never paints what it is asked to.
+/// A window of the host that posts itself a message with each one, and never paints the area that it is asked
+/// to paint.
 LRESULT CALLBACK KeepBusy(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_PAINT) return 0;
   if (message != WM_APP) return DefWindowProcW(window, message, wParam, lParam);
@@ -116,7 +117,7 @@ LRESULT CALLBACK KeepBusy(HWND window, UINT message, WPARAM wParam, LPARAM lPara
   return 0;
 }
 
-TEST_F(HostWindowTest, WorkGoesOnAlthoughTheHostNeverRests) {
+TEST_F(HostWindowTest, WorkContinuesAlthoughTheHostIsNeverIdle) {
   const HWND busy =
       CreateWindowW(L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr, nullptr, nullptr);
   SetWindowLongPtrW(busy, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(KeepBusy));
@@ -130,8 +131,8 @@ TEST_F(HostWindowTest, WorkGoesOnAlthoughTheHostNeverRests) {
   DestroyWindow(busy);
 }
 
-// A screen reader may watch the windows of a page by a procedure of its own.
-TEST_F(HostWindowTest, AProcedureThatIsPutInFrontLaterSeesTheEndOfTheWindow) {
+// A screen reader may subclass the windows of a page.
+TEST_F(HostWindowTest, ALaterSubclassReceivesTheEndOfTheWindow) {
   static WNDPROC before = nullptr;
   static int ends = 0;
   ends = 0;
@@ -166,7 +167,7 @@ TEST_F(HostWindowTest, NothingIsLeftOnTheThread) {
   EXPECT_EQ(context, nullptr) << "the activation context is there";
 }
 
-TEST_F(HostWindowTest, TheFinishedRunGivesItBack) {
+TEST_F(HostWindowTest, TheFinishedRunEnablesIt) {
   EXPECT_EQ(PlayOnOrders(kWays[6].lines + "press cmdFinish; page none"), "");
   ExpectFree();
 }

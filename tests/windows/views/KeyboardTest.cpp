@@ -66,7 +66,7 @@ class KeysTest : public test::DialogTest {
   }
 };
 
-TEST_F(KeysTest, TabGoesRoundInTheOrderOfTheForm) {
+TEST_F(KeysTest, TabMovesInTheOrderOfTheForm) {
   OnEachPage([] {
     std::vector<S> stops = TabStops(test::FrontForm());
     ASSERT_GT(stops.size(), 3u);

@@ -23,7 +23,7 @@ LOGFONTW FontOf(HWND window) {
   return font;
 }
 
-/// The system writes messages in another typeface for as long as this lives.
+/// The system uses another typeface for messages as long as this object lives.
 class MessageTypeface {
  public:
   explicit MessageTypeface(const wchar_t* name) {

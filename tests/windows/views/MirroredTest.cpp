@@ -10,7 +10,7 @@ namespace {
 
 using S = std::string;
 
-/// Where a control of the page in front begins, from the left of the screen.
+/// Returns the left edge of a control of the front page, in pixels of the screen.
 LONG LeftOf(const S& name) {
   RECT area = {};
   GetWindowRect(test::ControlWindow(test::FrontWindow(), name), &area);
@@ -21,7 +21,7 @@ bool IsMirrored(HWND window) { return (GetWindowLongPtrW(window, GWL_EXSTYLE) & 
 
 class MirroredTest : public test::DialogTest {
  protected:
-  /// Goes on to a page in the language of the locale, and looks at it.
+  /// Opens a page in the language of the locale, and checks it.
   void OnPage(std::int32_t lcid, const S& lines, const std::function<void()>& look) {
     const auto move = [lcid] { App.Desktop = runtime::MakeRef<test::ForeignDesktop>(lcid), test::EndDeed(); };
     const auto deed = [&] { look(), test::EndDeed(); };

@@ -6,12 +6,12 @@
 
 namespace plotsmith::test {
 
-/// Posts random messages of a mouse and a keyboard to random controls of a form's window, the same ones for
-/// the same seed.
+/// Posts random mouse and keyboard messages to random controls of a form's window. The same seed gives the
+/// same messages.
 class Monkey {
  public:
   explicit Monkey(unsigned seed) : random_(seed) {}
-  /// `front` is the window of the form in front. The messages wait to be handled.
+  /// Posts the messages of one event. `front` is the window of the front form.
   void MakeEvent(HWND front);
 
  private:

@@ -13,8 +13,8 @@ constexpr unsigned kSeeds = 3;
 
 class MonkeyTest : public test::DialogTest, public testing::WithParamInterface<std::size_t> {};
 
-// After each line of a script the stage compares the window with its form.
-TEST_P(MonkeyTest, APageShowsWhatItsFormSays) {
+// After each line of a script, the stage compares the window with its form.
+TEST_P(MonkeyTest, APageShowsTheStateOfItsForm) {
   const test::Way& way = test::kWays[GetParam()];
   for (unsigned seed = 1; seed <= kSeeds; ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));

@@ -147,7 +147,7 @@ std::multiset<S> DesktopNames(const S& page) {
 
 class NamesTest : public test::DialogTest {};
 
-TEST_F(NamesTest, ScreenReadersAreToldTheSameAsOnTheDesktop) {
+TEST_F(NamesTest, ScreenReadersGetTheSameTextsAsOnTheDesktop) {
   Service service;
   const Factory factory(service);
   for (const test::Way& way : test::kWays) {
@@ -169,11 +169,11 @@ TEST_F(NamesTest, ScreenReadersAreToldTheSameAsOnTheDesktop) {
       test::EndDeed();
     };
     EXPECT_EQ(PlayOnOrders(way.lines + "do look", {{"look", look}}), "");
-    EXPECT_EQ(service.told.size(), 0u) << "windows that have gone are forgotten";
+    EXPECT_EQ(service.told.size(), 0u) << "destroyed windows are removed";
   }
 }
 
-/// The name of a window as a screen reader asks for it.
+/// Returns the name of a window as a screen reader requests it.
 S NameOf(HWND window) {
   IAccessible* object = nullptr;
   const DWORD client = static_cast<DWORD>(OBJID_CLIENT);
@@ -189,8 +189,8 @@ S NameOf(HWND window) {
   return com::Utf8(name);
 }
 
-// Where the system has no annotations, the windows' own texts are all that a screen reader knows.
-TEST_F(NamesTest, WindowsTellTheirCaptions) {
+// If the system has no annotations, a screen reader knows only the windows' own texts.
+TEST_F(NamesTest, WindowsHaveTheirCaptions) {
   for (const test::Way& way : test::kWays) {
     const auto look = [&] {
       for (const auto& control : test::StateOfWindow(test::FrontWindow()).controls) {

@@ -25,7 +25,7 @@ int Width(const RECT& area) { return static_cast<int>(area.right - area.left); }
 
 UINT DpiOf(int percent) { return static_cast<UINT>(USER_DEFAULT_SCREEN_DPI * percent / 100); }
 
-/// The window comes to a monitor of another resolution, as Windows says it.
+/// Moves the window to a monitor of another resolution, with the message that Windows sends.
 void MoveToResolution(HWND window, UINT dpi) {
   SIZE size = {};
   RECT area = AreaOf(window);
@@ -36,7 +36,7 @@ void MoveToResolution(HWND window, UINT dpi) {
                reinterpret_cast<LPARAM>(&area));
 }
 
-/// Lets the window become larger than the screen of the test, which has room for few pages at 250 %.
+/// Lets the window become larger than the test's screen, which is too small for most pages at 250 %.
 void AllowAllSizes(HWND window) {
   static WNDPROC before = nullptr;
   const WNDPROC own = [](HWND form, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
@@ -48,7 +48,7 @@ void AllowAllSizes(HWND window) {
       reinterpret_cast<WNDPROC>(SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(own)));
 }
 
-/// Controls that lie on another one, or outside of the window.
+/// Returns controls that overlap another one or are outside the window.
 S OverlappingControls(HWND form) {
   S names;
   std::vector<RECT> areas;
@@ -72,12 +72,12 @@ S OverlappingControls(HWND form) {
 
 class ResolutionTest : public test::DialogTest {};
 
-TEST_F(ResolutionTest, EachPageIsWholeInAllResolutionsAndFonts) {
+TEST_F(ResolutionTest, EachPageIsCompleteInAllResolutionsAndFonts) {
   for (const test::Way& way : test::kWays) {
     const auto look = [&] {
       const HWND window = test::FrontWindow();
       AllowAllSizes(window);
-      SetFocus(window);  // a caption is painted without the mark of the focus
+      SetFocus(window);  // a caption is painted without the focus rectangle
       for (const std::int32_t lcid : {1033, 1041}) {
         App.Desktop = runtime::MakeRef<test::ForeignDesktop>(lcid);
         ApplyLocaleFontsToForm(test::FrontForm());
@@ -107,7 +107,7 @@ TEST_F(ResolutionTest, AShrunkenWindowStaysSoInAnotherResolution) {
   EXPECT_EQ(PlayOnOrders(test::kWays[2].lines + "do look", {{"look", look}}), "");
 }
 
-// A gesture that waits keeps the window from being updated, but not from getting the new fonts.
+// A pending gesture delays the update of the window, but not its new fonts.
 TEST_F(ResolutionTest, FontsAreThereWhileAGestureWaits) {
   const auto look = [] {
     const HWND title = test::ControlWindow(test::FrontWindow(), "txtTitle");
@@ -125,7 +125,7 @@ TEST_F(ResolutionTest, FontsAreThereWhileAGestureWaits) {
   EXPECT_EQ(PlayOnOrders(test::kWays[2].lines + "do look; expect txtTitle.Text Ax", {{"look", look}}), "");
 }
 
-RECT createdAt = {};  // where the window of the form was at its beginning
+RECT createdAt = {};  // the initial position of the form's window
 
 LRESULT CALLBACK WatchCreation(int code, WPARAM window, LPARAM data) {
   wchar_t name[32] = {};
@@ -137,8 +137,8 @@ LRESULT CALLBACK WatchCreation(int code, WPARAM window, LPARAM data) {
   return CallNextHookEx(nullptr, code, window, data);
 }
 
-// Windows gives a window the resolution of the monitor on which it is created, which may be another one than
-// that of its owner.
+// Windows gives a window the resolution of the monitor on which it is created, which may differ from that of
+// its owner.
 TEST_F(ResolutionTest, AWindowIsCreatedInTheMiddleOfItsOwner) {
   const windows::ThreadDpi dpi;
   const HHOOK hook = SetWindowsHookExW(WH_CBT, WatchCreation, nullptr, GetCurrentThreadId());

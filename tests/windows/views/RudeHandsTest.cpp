@@ -8,7 +8,7 @@
 #include "tests/windows/views/WindowsHand.h"
 #include "windows/com/Texts.h"
 
-// Behind the types of Windows that it needs.
+// This header must follow the types of Windows that it uses.
 #include <commctrl.h>
 
 namespace plotsmith {
@@ -61,8 +61,7 @@ TEST_F(RudeHandsTest, ADoubleClickOnAButtonIsOnePress) {
   EXPECT_EQ(PlayOnOrders(test::kWays[2].lines + "do twice; page frmPSChartLocation", {{"twice", twice}}), "");
 }
 
-// A screen reader presses a button by a message of its own, which Windows would make a press of the mouse in
-// the corner.
+// A screen reader presses a button with a message that Windows would convert to a mouse click in the corner.
 TEST_F(RudeHandsTest, EachPressWithoutAMouseCounts) {
   const SlowDoubleClicks slow;
   const auto press = [] { SendMessageW(ButtonOf("cmdHelp"), BM_CLICK, 0, 0), test::EndDeed(); };
@@ -71,7 +70,7 @@ TEST_F(RudeHandsTest, EachPressWithoutAMouseCounts) {
   EXPECT_EQ(helpTopics_, (std::vector<std::int32_t>{4, 4}));
 }
 
-TEST_F(RudeHandsTest, ColumnsStayAsWideAsAHandHasMadeThem) {
+TEST_F(RudeHandsTest, ColumnsKeepTheWidthThatTheUserSets) {
   const auto width = [] { return ListView_GetColumnWidth(ButtonOf("grdCharts"), 0); };
   int wanted = 0;
   const auto widen = [&] {
@@ -168,7 +167,7 @@ std::wstring Expected(const forms::Control& control, const Input& input) {
   return text;
 }
 
-TEST_F(RudeHandsTest, BoxesTakeWhatFitsAndShowIt) {
+TEST_F(RudeHandsTest, BoxesAcceptAndShowTheInputThatFits) {
   const Input inputs[] = {
       {Times(10000, "x"), Times(10000, "x"), Times(10000, "x")},
       {Times(10000, "a\n"), Times(10000, "a "), Times(10000, "a\r\n")},

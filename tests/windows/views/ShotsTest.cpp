@@ -45,7 +45,7 @@ void WriteShot(HWND window, const S& file) {
 class ShotsTest : public test::DialogTest {};
 
 /// Takes a picture of each page. PLOTSMITH_SHOTS names the folder.
-TEST_F(ShotsTest, EachPageIsShot) {
+TEST_F(ShotsTest, PicturesOfEachPage) {
   const char* const folder = std::getenv("PLOTSMITH_SHOTS");
   if (folder == nullptr) GTEST_SKIP() << "PLOTSMITH_SHOTS names no folder";
   const S toFilledLayout =

@@ -12,11 +12,11 @@ namespace {
 
 using S = std::string;
 
-/// Types into the boxes of a small form, in the loop that a page has in Excel. It performs a gesture as soon
-/// as one is reported, while a script has all messages handled first.
+/// Types into the boxes of a small form, in the loop that a page has in Excel. This loop performs a gesture
+/// as soon as it is reported, while in a script all messages are handled first.
 class TypingTest : public test::DialogTest {
  protected:
-  /// Posts these units to the control, then Tab and the wish to close. Answers the text in the window.
+  /// Posts these units to the control, then Tab and a request to close. Returns the text in the window.
   S Type(test::SmallForm& form, forms::Control& control, const std::wstring& units) {
     const auto view = std::make_shared<windows::FormsView>([this] { return hostWindow_.Handle(); });
     forms::ModalLoop loop(view);
@@ -30,7 +30,7 @@ class TypingTest : public test::DialogTest {
     };
     S shown;
     const auto look = [&] {
-      for (int i = 0; i < 2; ++i) loop.DoEvents();  // the box has news after it was left
+      for (int i = 0; i < 2; ++i) loop.DoEvents();  // the box reports its text after it has lost the focus
       for (const auto& state : test::StateOfWindow(view->Front()->Handle()).controls) {
         if (state.name == control.FullName()) shown = *state.text;
       }
@@ -44,16 +44,16 @@ class TypingTest : public test::DialogTest {
   }
 };
 
-TEST_F(TypingTest, ACharacterOfTwoUnitsArrivesWhole) {
+TEST_F(TypingTest, ACharacterOfTwoUnitsIsKept) {
   const struct {
     std::wstring units;
     S text;
   } cases[] = {
       {L"a\xD83D\xDE00z", "a\xF0\x9F\x98\x80z"},
       {L"\xD83D\xDE00\xD83D\xDE00", "\xF0\x9F\x98\x80\xF0\x9F\x98\x80"},
-      {L"a\xD83D", "a "},             // without its other half it is none
-      {L"\xDE00z", "z"},              // which doesn't come alone, either
-      {L"abcd\xD83D\xDE00", "abcd"},  // there is room for five units
+      {L"a\xD83D", "a "},             // half of a surrogate pair is no character
+      {L"\xDE00z", "z"},              // this half doesn't come alone, either
+      {L"abcd\xD83D\xDE00", "abcd"},  // there is space for five units
       {L"abc\xD83D\xDE00", "abc\xF0\x9F\x98\x80"},
   };
   for (const auto& [units, text] : cases) {
@@ -65,7 +65,7 @@ TEST_F(TypingTest, ACharacterOfTwoUnitsArrivesWhole) {
     EXPECT_EQ(one.txtTitle.Text(), text);
     EXPECT_EQ(Type(several, several.txtNote, units), text);
     EXPECT_EQ(several.txtNote.Text(), text);
-    if (text == "abcd") continue;  // a combo box has room
+    if (text == "abcd") continue;  // a combo box has enough space
     EXPECT_EQ(Type(combo, combo.cboFormat, units), text);
     EXPECT_EQ(combo.cboFormat.Text(), text);
   }

@@ -178,8 +178,8 @@ ControlState Read(HWND form, HWND window) {
   return state;
 }
 
-/// Whether a hand hasn't finished what it does in a control: its list is open, or only the first unit of a
-/// character was typed.
+/// Returns true if the user is in the middle of an action in a control: its list is open, or only the first
+/// unit of a character was typed.
 bool IsInTheMiddle(HWND window, const std::string& kind) {
   const bool isOpen = kind == "ComboBox" && SendMessageW(window, CB_GETDROPPEDSTATE, 0, 0) != 0;
   const HWND edit = kind == "ComboBox" ? GetWindow(window, GW_CHILD) : window;
@@ -219,7 +219,7 @@ std::string DifferencesFromModel(const forms::Form& form, HWND window) {
   const bool isInOrder = std::ranges::equal(names, shown.controls, {}, {}, &ControlState::name);
   return StateDifferences(forms::StateOf(form), shown,
                           [&](ControlState& model, ControlState& seen) {
-                            model.accessibleName.clear();  // a screen reader knows it, a window doesn't
+                            model.accessibleName.clear();  // screen readers know it, windows don't
                             if (model.kind == "ListBox") model.listIndex = seen.listIndex;
                             if (IsInTheMiddle(ControlWindow(window, model.name), model.kind)) model = seen;
                           }) +

@@ -10,7 +10,7 @@ namespace {
 
 using S = std::string;
 
-/// The tokens of an enumeration of ECMA-376-1, each between blanks.
+/// The tokens of an enumeration in ECMA-376-1, separated by blanks.
 constexpr const char* kPresetPatterns =
     " pct5 pct10 pct20 pct25 pct30 pct40 pct50 pct60 pct70 pct75 pct80 pct90 horz vert ltHorz ltVert dkHorz "
     "dkVert "
@@ -24,10 +24,10 @@ constexpr const char* kUnits =
     " hundreds thousands tenThousands hundredThousands millions tenMillions hundredMillions billions "
     "trillions ";
 
-TEST(ChartEnumerationsTest, NumbersNamesAndTokensBelongToEachOther) {
+TEST(ChartEnumerationsTest, NumbersNamesAndTokensMatch) {
   const struct {
     const Enumeration& enumeration;
-    S name;  ///< what the names of the members begin with
+    S name;  ///< the common beginning of the members' names
     S tokens;
   } cases[] = {
       {kLegendPositions, "xlLegendPosition", " r l t b tr "},
@@ -54,7 +54,7 @@ TEST(ChartEnumerationsTest, NumbersNamesAndTokensBelongToEachOther) {
     }
     EXPECT_TRUE(c.enumeration.absent.empty() || c.enumeration.Number(c.enumeration.absent));
   }
-  // members of the patterns are numbered in one row
+  // the members of the patterns have consecutive numbers
   for (std::int32_t number = 1; number <= 54; ++number) EXPECT_TRUE(kPatterns.Token(number)) << number;
 }
 

@@ -60,7 +60,7 @@ TEST_F(ChartFamiliesTest, ANewSeriesHasNoLabelsAndANumberOfItsOwn) {
   Sound(column, draw);
 }
 
-TEST_F(ChartFamiliesTest, APieThatSomebodyDressedComesOutOfARefreshAsItWentIn) {
+TEST_F(ChartFamiliesTest, ARefreshKeepsTheFormatsOfAPie) {
   const S pie =
       "<c:view3D><c:rotX val=\"75\"/><c:rotY val=\"120\"/></c:view3D><c:plotArea><c:pie3DChart><c:varyColors "
       "val=\"1\"/><c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:explosion val=\"40\"/></c:ser><c:dLbls>"
@@ -91,13 +91,13 @@ TEST_F(ChartFamiliesTest, APieThatSomebodyDressedComesOutOfARefreshAsItWentIn) {
     chart.SetChartType(excel::xl3DPie);
   });
   EXPECT_TRUE(Has(solid, "<c:view3D><c:rotX val=\"30\"/><c:rotY val=\"0\"/>"))
-      << "a column's view is no pie's";
+      << "the view of a column chart isn't used for a pie";
   EXPECT_FALSE(Has(solid, "floor"));
 }
 
 /// A stock chart has three or four series. With any other number, the chart is a line chart with the same
 /// look.
-TEST_F(ChartFamiliesTest, AStockChartOfAnotherNumberOfSeriesIsALineChart) {
+TEST_F(ChartFamiliesTest, AStockChartWithAnotherNumberOfSeriesBecomesALineChart) {
   const auto stock = [](int count) {
     S series;
     for (int i = 0; i < count; ++i) {
@@ -142,7 +142,7 @@ TEST_F(ChartFamiliesTest, AChartWithoutAGroupIsWrittenWithAnEmptyOne) {
   EXPECT_EQ(CountOf(drawn, "<c:delete val=\"0\"/>"), 2u) << drawn;
 }
 
-TEST_F(ChartFamiliesTest, AxesComeBackFromTypesWithoutThem) {
+TEST_F(ChartFamiliesTest, AxesAreRestoredAfterTypesWithoutThem) {
   const S columns =
       "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart>"
       "<c:catAx><c:axId val=\"1\"/><c:scaling/><c:axPos val=\"t\"/><c:numFmt formatCode=\"@\" "
@@ -184,7 +184,7 @@ TEST_F(ChartFamiliesTest, ASeriesKeepsTheTypeThatItsGroupGivesIt) {
     std::int32_t type, next;  ///< The types of the series and of a new series after it.
   };
   const Case cases[] = {
-      {"bubbles that only the group calls solid",
+      {"bubbles that are 3-D only in the group",
        "<c:bubbleChart>" + ser + "<c:bubble3D val=\"1\"/>" + scales + "</c:bubbleChart>" + valueAxes, 87, 87},
       {"a smooth line through points",
        "<c:scatterChart><c:scatterStyle val=\"smoothMarker\"/>" + ser + scales + "</c:scatterChart>" +
@@ -307,18 +307,18 @@ TEST_F(ChartFamiliesTest, ColumnsAndALineShareTheirAxes) {
 
   const S moved = Sound(
       after, [](Chart& chart) { chart.SeriesCollection()->Item(4)->SetChartType(excel::xlColumnClustered); });
-  EXPECT_FALSE(Has(moved, "lineChart")) << "an emptied group goes";
-  EXPECT_TRUE(Has(moved, "<c:grouping val=\"clustered\"/>")) << "and columns are stacked alike";
+  EXPECT_FALSE(Has(moved, "lineChart")) << "an empty group is removed";
+  EXPECT_TRUE(Has(moved, "<c:grouping val=\"clustered\"/>")) << "all columns have the same stacking";
   EXPECT_FALSE(Has(moved, "overlap") || Has(moved, "symbol"));
   const S area = Sound(
       after, [](Chart& chart) { chart.SeriesCollection()->Item(1)->SetChartType(excel::xlAreaStacked); });
   EXPECT_LT(area.find("<c:areaChart>"), area.find("<c:barChart>")) << "areas are drawn first";
 }
 
-TEST_F(ChartFamiliesTest, ChartsOfOthersGoThroughAllFamilies) {
+TEST_F(ChartFamiliesTest, ChartsOfOtherProgramsCanHaveAllTypes) {
   std::error_code absent;
   const auto folder = std::filesystem::path(test::kCorpusFolder) / "charts";
-  if (!std::filesystem::is_directory(folder, absent)) GTEST_SKIP() << "the corpus isn't there";
+  if (!std::filesystem::is_directory(folder, absent)) GTEST_SKIP() << "the corpus is missing";
   const auto mix = [](Chart& chart) {
     DeleteSeries(chart);
     chart.SetChartType(excel::xlBarClustered);

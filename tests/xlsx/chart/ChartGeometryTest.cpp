@@ -30,7 +30,7 @@ TEST(TextMetricsTest, TextsAreAsWideAsTheirFontsMakeThem) {
   for (const Case& c : cases) {
     EXPECT_NEAR(TextWidth(c.text, c.face), c.ems * c.face.size, 1e-9) << c.text << " in " << c.face.font;
   }
-  // the widths of all letters that the tables have, so that none changes unseen
+  // the widths of all letters in the tables, so that every change is noticed
   S letters;
   for (char c = ' '; c <= '~'; ++c) letters += c;
   for (char16_t c = u'\u00A0'; c <= u'\u00FF'; ++c) letters += runtime::ToUtf8(std::u16string(1, c));
@@ -61,7 +61,7 @@ class ChartGeometryTest : public test::ChartTest {
 /// The number of letters that a title of 20 points in Calibri, bold or regular, has in one line.
 constexpr int kTitleLetters = 29;
 
-TEST_F(ChartGeometryTest, TitlesTakeTheRoomThatTheirTextTakes) {
+TEST_F(ChartGeometryTest, TitlesTakeTheSpaceOfTheirText) {
   const S letters(kTitleLetters, 'n');
   const auto title = [](const S& paragraphs) {
     return "<c:title><c:tx><c:rich>" + paragraphs + "</c:rich></c:tx></c:title>";
@@ -73,10 +73,9 @@ TEST_F(ChartGeometryTest, TitlesTakeTheRoomThatTheirTextTakes) {
            5;
   };
   const double line = 20 * 1.2207;
-  EXPECT_NEAR(depth("<a:p>" + run + letters + "</a:t></a:r></a:p>", ""), 2 * line, 0.01)
-      << "bold, as titles are";
+  EXPECT_NEAR(depth("<a:p>" + run + letters + "</a:t></a:r></a:p>", ""), 2 * line, 0.01) << "bold by default";
   EXPECT_NEAR(depth("<a:p>" + run + letters + "</a:t></a:r></a:p>", plain), 2 * line, 0.01)
-      << "also where the chart's texts aren't";
+      << "even if the chart's texts aren't bold";
   EXPECT_NEAR(
       depth("<a:p>" + runtime::Replace(run, " sz", " b=\"0\" sz") + letters + "</a:t></a:r></a:p>", ""), line,
       0.01);
@@ -125,7 +124,7 @@ TEST_F(ChartGeometryTest, ALegendIsAsWideAsTheWidestOfItsEntries) {
   }
 }
 
-TEST_F(ChartGeometryTest, ScalesFollowWhatTheFileSaysOfTheAxis) {
+TEST_F(ChartGeometryTest, ScalesFollowTheSettingsOfTheAxis) {
   const auto numbers = [](const S& element, const S& first, const S& second) {
     return "<c:" + element + "><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>" + first +
            "</c:v></c:pt><c:pt idx=\"1\"><c:v>" + second + "</c:v></c:pt></c:numLit></c:" + element + ">";
@@ -142,14 +141,14 @@ TEST_F(ChartGeometryTest, ScalesFollowWhatTheFileSaysOfTheAxis) {
     double minimum, maximum;
   } cases[] = {
       {"of the values", "barChart", series(0, wide), "", "", 0, 120},
-      {"a unit by hand", "barChart", series(0, wide), "", "<c:majorUnit val=\"25\"/>", 0, 125},
-      {"a unit that can't be", "barChart", series(0, wide), "", "<c:majorUnit val=\"0\"/>", 0, 120},
-      {"limits by hand", "barChart", series(0, wide), "<c:max val=\"77\"/><c:min val=\"7\"/>", "", 7, 77},
+      {"a manual unit", "barChart", series(0, wide), "", "<c:majorUnit val=\"25\"/>", 0, 125},
+      {"an invalid unit", "barChart", series(0, wide), "", "<c:majorUnit val=\"0\"/>", 0, 120},
+      {"manual limits", "barChart", series(0, wide), "<c:max val=\"77\"/><c:min val=\"7\"/>", "", 7, 77},
       {"powers", "barChart", series(0, numbers("val", "3", "4000")), "<c:logBase val=\"10\"/>", "", 1, 10000},
       {"side by side", "barChart", grouping("clustered") + two, "", "", 0, 120},
-      {"on each other", "barChart", grouping("stacked") + two, "", "", 0, 180},
+      {"stacked", "barChart", grouping("stacked") + two, "", "", 0, 180},
       {"shares", "barChart", grouping("percentStacked") + two, "", "", 0, 1},
-      {"no room in 3-D", "bar3DChart", series(0, wide), "", "", 0, 100},
+      {"no space in 3-D", "bar3DChart", series(0, wide), "", "", 0, 100},
       {"across", "scatterChart", series(0, numbers("xVal", "0", "9") + wide), "", "", 0, 120},
   };
   for (const auto& c : cases) {
@@ -166,7 +165,7 @@ TEST_F(ChartGeometryTest, ScalesFollowWhatTheFileSaysOfTheAxis) {
   }
 }
 
-TEST_F(ChartGeometryTest, ALegendIsAtItsSideOrWhereItsLayoutMovesIt) {
+TEST_F(ChartGeometryTest, ALegendIsAtItsSideOrAtItsManualPosition) {
   const S x = "<c:x val=\"0.1\"/>", y = "<c:y val=\"0.1\"/>", edge = "<c:xMode val=\"edge\"/>";
   const struct {
     S position, layout;
@@ -197,7 +196,7 @@ TEST_F(ChartGeometryTest, ALegendAboveOrBelowHasAsManyRowsAsItsEntriesFill) {
   }
 }
 
-TEST_F(ChartGeometryTest, ThePlotAreaIsWhereItsLayoutSaysOrWhatTheOthersLeave) {
+TEST_F(ChartGeometryTest, ThePlotAreaHasItsManualLayoutOrTheFreeSpace) {
   const S axes = "<c:catAx><c:axPos val=\"b\"/></c:catAx><c:valAx><c:axPos val=\"l\"/></c:valAx>";
   const S title =
       "<c:title><c:tx><c:rich><a:p><a:r><a:rPr sz=\"2000\"/><a:t>T</a:t></a:r></a:p></c:rich></c:tx>"
@@ -238,20 +237,25 @@ TEST_F(ChartGeometryTest, ThePlotAreaIsWhereItsLayoutSaysOrWhatTheOthersLeave) {
        runtime::Replace(axes, "<c:axPos", "<c:delete val=\"1\"/><c:title/><c:axPos"),
        "",
        {7, 7, 370, 256}},
-      {"by hand",
+      {"manual",
        "",
        manual(edges + "<c:x val=\"0.25\"/><c:y val=\"0.1\"/><c:w val=\"0.5\"/><c:h val=\"0.5\"/>"),
        axes,
        "",
        {96, 27, 192, 135}},
-      {"by hand, without its labels",
+      {"manual, without its labels",
        "",
        manual("<c:layoutTarget val=\"inner\"/>" + edges +
               "<c:x val=\"0.25\"/><c:y val=\"0.1\"/><c:w val=\"0.5\"/><c:h val=\"0.5\"/>"),
        axes,
        "",
        {96 - labels, 27, 192 + labels, 135 + line + 5}},
-      {"moved from where it were", "", manual("<c:x val=\"0.25\"/>"), axes, "", {103, 7, 370, 256}},
+      {"moved relative to its automatic position",
+       "",
+       manual("<c:x val=\"0.25\"/>"),
+       axes,
+       "",
+       {103, 7, 370, 256}},
       {"up to an edge",
        "",
        manual(edges + "<c:wMode val=\"edge\"/><c:x val=\"0.25\"/><c:w val=\"0.75\"/>"),

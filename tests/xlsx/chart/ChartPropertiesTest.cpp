@@ -88,7 +88,7 @@ TEST_F(ChartPropertiesTest, PropertiesOfSeriesLabelsAndAxesAreWrittenInPlace) {
   };
   const S lineEnd = "</a:ln></c:spPr>";
   const Case cases[] = {
-      {"a pattern takes the colour for its ground", 15,
+      {"the colour becomes the background of a pattern", 15,
        [](Chart&, Series& s) {
          s.Interior()->SetColor(0xFF);
          s.Interior()->SetPattern(14);
@@ -99,27 +99,27 @@ TEST_F(ChartPropertiesTest, PropertiesOfSeriesLabelsAndAxesAreWrittenInPlace) {
        "<a:pattFill prst=\"ltUpDiag\"><a:fgClr><a:srgbClr val=\"0000FF\"/></a:fgClr><a:bgClr><a:srgbClr "
        "val=\"FF0000\"/></a:bgClr></a:pattFill>",
        ""},
-      {"an automatic index takes the filling away, and leaves the outline", 51,
+      {"an automatic index removes the filling and keeps the outline", 51,
        [](Chart&, Series& s) {
          s.Border()->SetColor(0);
          s.Interior()->SetColor(0xFF);
          s.Interior()->SetColorIndex(-4105);
        },
        "<c:spPr><a:ln><a:solidFill><a:srgbClr val=\"000000\"/></a:solidFill></a:ln></c:spPr>", "FF0000"},
-      {"a hairline shows a line that was hidden", 15,
+      {"a hairline shows a hidden line", 15,
        [](Chart&, Series& s) {
          s.Border()->SetLineStyle(-4142);
          s.Border()->SetWeight(1);
        },
        "<c:spPr><a:ln w=\"3175\"/></c:spPr>", "noFill"},
-      {"dashes of a colour", 52,
+      {"coloured dashes", 52,
        [](Chart&, Series& s) {
          s.Border()->SetLineStyle(-4115);
          s.Border()->SetColor(0xFF);
        },
        "<a:ln><a:solidFill><a:srgbClr val=\"FF0000\"/></a:solidFill><a:prstDash val=\"dash\"/>" + lineEnd,
        ""},
-      {"a label with a text of its own repeats how the others look", 15,
+      {"a label with its own text repeats the format of the others", 15,
        [](Chart&, Series& s) {
          s.SetHasDataLabels(true);
          const auto labels = s.DataLabels();
@@ -141,7 +141,7 @@ TEST_F(ChartPropertiesTest, PropertiesOfSeriesLabelsAndAxesAreWrittenInPlace) {
        "<c:dLblPos val=\"ctr\"/><c:showLegendKey val=\"0\"/><c:showVal val=\"1\"/><c:showCatName val=\"0\"/>"
        "<c:showSerName val=\"0\"/><c:showPercent val=\"0\"/><c:showBubbleSize val=\"0\"/></c:dLbl>",
        ""},
-      {"labels of points stand by their numbers, and follow what the others are told", 51,
+      {"labels of points are in order and follow the settings of the others", 51,
        [](Chart&, Series& s) {
          s.SetHasDataLabels(true);
          for (const int point : {3, 1, 2, 1}) s.DataLabels()->Item(point)->SetText(std::to_string(point));
@@ -151,14 +151,14 @@ TEST_F(ChartPropertiesTest, PropertiesOfSeriesLabelsAndAxesAreWrittenInPlace) {
        "<a:bodyPr rot=\"-2700000\" vert=\"horz\"/><a:lstStyle/><a:p><a:pPr><a:defRPr b=\"1\" "
        "i=\"0\"/></a:pPr><a:r><a:rPr lang=\"en-US\" b=\"1\" i=\"0\"/><a:t>3</a:t>",
        "<c:idx val=\"3\"/>"},
-      {"no labels where the group has some for all", 51,
+      {"no labels although the group has some", 51,
        [](Chart&, Series& s) {
          s.SetHasDataLabels(true);
          s.SetHasDataLabels(false);
          EXPECT_FALSE(s.DataLabels());
        },
        "<c:invertIfNegative val=\"0\"/><c:cat>", "dLbls"},
-      {"an axis of values", 15,
+      {"a value axis", 15,
        [](Chart& c, Series&) {
          const auto axis = c.Axes(1, 1);
          axis->SetHasMajorGridlines(true);
@@ -188,7 +188,7 @@ TEST_F(ChartPropertiesTest, PropertiesOfSeriesLabelsAndAxesAreWrittenInPlace) {
        "val=\"midCat\"/><c:majorUnit val=\"14.5\"/><c:dispUnits><c:builtInUnit val=\"thousands\"/>"
        "<c:dispUnitsLbl/></c:dispUnits></c:valAx>",
        "logBase"},
-      {"where an axis is crossed stands with the one that crosses it", 51,
+      {"the crossing of an axis is stored in the other axis", 51,
        [](Chart& c, Series&) { c.Axes(1, 1)->SetCrosses(2); },
        "<c:crossAx val=\"111111111\"/><c:crosses val=\"max\"/><c:crossBetween val=\"between\"/></c:valAx>",
        ""},
@@ -200,7 +200,7 @@ TEST_F(ChartPropertiesTest, PropertiesOfSeriesLabelsAndAxesAreWrittenInPlace) {
          EXPECT_EQ(axis->MinimumScale(), 0);
        },
        "<c:crossBetween val=\"between\"/><c:majorUnit val=\"2\"/>", ""},
-      {"an axis of categories has no scale", 51,
+      {"a category axis has no scale", 51,
        [](Chart& c, Series& s) {
          const auto axis = c.Axes(1, 1);
          ExpectError1004([&] { axis->MaximumScale(); });
@@ -249,7 +249,7 @@ TEST_F(ChartPropertiesTest, PresetColoursHaveTheirValues) {
   }
 }
 
-TEST_F(ChartPropertiesTest, WhatIsThereIsChangedInPlace) {
+TEST_F(ChartPropertiesTest, ExistingElementsAreChangedInPlace) {
   const auto bars = [](const S& labels, const S& title) {
     return Part(
         "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>" +
@@ -277,13 +277,12 @@ TEST_F(ChartPropertiesTest, WhatIsThereIsChangedInPlace) {
     std::function<void(Chart&)> call;
     S after;
   } cases[] = {
-      {"the label of a point keeps what it shows", bars(all(label("", "1")), ""),
+      {"the label of a point keeps its contents", bars(all(label("", "1")), ""),
        [](Chart& c) { c.SeriesCollection()->Item(1)->DataLabels()->Item(2)->SetText("Two"); },
        bars(all(label(text, "1")), "")},
-      {"a place goes in front of extensions", legend("<c:extLst/>"),
-       [](Chart& c) { c.Legend()->SetLeft(96); },
+      {"a position precedes extensions", legend("<c:extLst/>"), [](Chart& c) { c.Legend()->SetLeft(96); },
        legend("<c:manualLayout><c:xMode val=\"edge\"/><c:x val=\"0.25\"/></c:manualLayout><c:extLst/>")},
-      {"the title of an axis that a cell holds is turned", bars("", "<c:title>" + cell + "</c:title>"),
+      {"an axis title from a cell is rotated", bars("", "<c:title>" + cell + "</c:title>"),
        [](Chart& c) { c.Axes(excel::xlValue, 1)->AxisTitle()->SetOrientation(-4171); },
        bars("",
             "<c:title>" + cell + "<c:txPr><a:bodyPr rot=\"-5400000\" vert=\"horz\"/></c:txPr></c:title>")},
@@ -294,7 +293,7 @@ TEST_F(ChartPropertiesTest, WhatIsThereIsChangedInPlace) {
   }
 }
 
-TEST_F(ChartPropertiesTest, AChartRepeatsNoMoreCellsThanItCanHold) {
+TEST_F(ChartPropertiesTest, AChartCachesOnlyAsManyCellsAsItCanContain) {
   const S after = Sound(kNothing, [](Chart& chart) {
     for (int i = 0; i < 2; ++i)
       AddOfType(chart, excel::xlColumnClustered)->SetValues("=Sheet1!R1C1:R1048576C2");
@@ -319,7 +318,7 @@ TEST_F(ChartPropertiesTest, ScalesCoverWhatIsDrawn) {
   }
 }
 
-TEST_F(ChartPropertiesTest, LegendEntriesGoWithTheirSeries) {
+TEST_F(ChartPropertiesTest, LegendEntriesAreDeletedWithTheirSeries) {
   const auto draw = [](Chart& chart) {
     DeleteSeries(chart);
     chart.SetChartType(excel::xlBubble);
@@ -359,7 +358,7 @@ TEST_F(ChartPropertiesTest, LegendEntriesGoWithTheirSeries) {
   });
 }
 
-TEST_F(ChartPropertiesTest, TextsComeBackFromTheChartAsTheyWentIn) {
+TEST_F(ChartPropertiesTest, TextsOfTheChartCanBeReadBack) {
   const S literal = "_x000D_ & \x01";
   After(kNothing, [&](Chart& chart) {
     Book().FindWorksheet("Sheet1")->SetCellValueAt(1, 1, "two\r\nlines _x0041_");
@@ -376,7 +375,7 @@ TEST_F(ChartPropertiesTest, TextsComeBackFromTheChartAsTheyWentIn) {
   EXPECT_EQ(chart->ChartTitle()->Text(), "two\r\nlines _x0041_");
 }
 
-TEST_F(ChartPropertiesTest, ATitleHasALineForEachOfItsTextsLines) {
+TEST_F(ChartPropertiesTest, ATitleHasAParagraphForEachLine) {
   const S after = Sound(kNothing, [](Chart& chart) {
     const auto series = AddOfType(chart, excel::xlColumnClustered);
     chart.Axes(excel::xlValue, 1)->SetHasTitle(true);
@@ -398,7 +397,7 @@ TEST_F(ChartPropertiesTest, ATitleHasALineForEachOfItsTextsLines) {
   EXPECT_TRUE(Has(after, "<a:t>a</a:t></a:r></a:p>")) << after;
 }
 
-TEST_F(ChartPropertiesTest, ALabelsTextTakesOverTheDressOfTheLabels) {
+TEST_F(ChartPropertiesTest, ALabelsTextHasTheFormatOfTheLabels) {
   const S after = After(
       Part("<c:plotArea><c:barChart><c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:dLbls><c:txPr><a:bodyPr/>"
            "<a:p><a:pPr><a:defRPr sz=\"900\" bmk=\"A &amp; B\"/></a:pPr></a:p></c:txPr><c:showVal val=\"1\"/>"

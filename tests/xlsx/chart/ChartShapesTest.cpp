@@ -136,7 +136,7 @@ TEST_F(ChartShapesTest, ALegendIsDrawnBesideThePlotArea) {
   const double height = area->Height(), top = area->Top(), left = area->Left();
   area->SetWidth(Chart()->ChartArea()->Width());
   const double widest = area->Width();
-  EXPECT_NEAR(left + widest, 384 - 7, 1e-9) << "the widest that fits";
+  EXPECT_NEAR(left + widest, 384 - 7, 1e-9) << "the maximum width";
   const auto legend = shapes->Range({"VEX_Legend"});
   EXPECT_EQ(legend->Name(), "VEX_Legend");
   EXPECT_EQ(legend->Width(), 52);
@@ -153,7 +153,7 @@ TEST_F(ChartShapesTest, ALegendIsDrawnBesideThePlotArea) {
   EXPECT_NEAR(again->Width(), widest - left - 42, 1e-6);
   const auto group = Chart()->Shapes()->Item("vex_legend");
   EXPECT_EQ(group->Type(), excel::msoGroup);
-  EXPECT_NEAR(group->Left(), 384 - 52, 0.001) << "inside of the chart";
+  EXPECT_NEAR(group->Left(), 384 - 52, 0.001) << "inside the chart";
   EXPECT_GE(group->Left(), again->Left() + again->Width());
   EXPECT_NEAR(group->Top(), 7 + 256 / 2.0 - 15.5, 0.001);
 
@@ -199,7 +199,7 @@ TEST_F(ChartShapesTest, ALegendIsDrawnBesideThePlotArea) {
   EXPECT_EQ(SavedPart("/xl/charts/chart1.xml").find("userShapes"), S::npos);
 }
 
-TEST_F(ChartShapesTest, EveryChangeIsWrittenDown) {
+TEST_F(ChartShapesTest, TheJournalHasEveryChange) {
   OpenChart();
   const auto box = Chart()->Shapes()->AddTextbox(1, 1, 2, 3, 4);
   box->SetName("A");
@@ -223,7 +223,7 @@ TEST_F(ChartShapesTest, EveryChangeIsWrittenDown) {
   EXPECT_EQ(journal_, wanted);
 }
 
-TEST_F(ChartShapesTest, WhatOthersDrewOnTheChartStays) {
+TEST_F(ChartShapesTest, ShapesOfOtherProgramsStay) {
   const S own =
       "<cdr:relSizeAnchor xmlns:cdr=\"http://schemas.openxmlformats.org/drawingml/2006/chartDrawing\">"
       "<cdr:from><cdr:x>0.25</cdr:x><cdr:y>0.5</cdr:y></cdr:from><cdr:to><cdr:x>0.5</cdr:x><cdr:y>0.6"
@@ -247,14 +247,14 @@ TEST_F(ChartShapesTest, WhatOthersDrewOnTheChartStays) {
     EXPECT_EQ(trend->Left(), 96);
     EXPECT_EQ(trend->Height(), 27);
     EXPECT_EQ(trend->TextFrame()->Characters()->Text(), "up & \u2197");
-    EXPECT_FALSE(Book().Changed()) << "to look changes nothing";
+    EXPECT_FALSE(Book().Changed()) << "reading changes nothing";
   }
   DrawLegend();
   SaveAndReopen();
   EXPECT_EQ(Chart()->Shapes()->Item(1)->Name(), "Trend");
   EXPECT_EQ(Chart()->Shapes()->Item(2)->Name(), "VEX_Legend");
   EXPECT_NE(SavedPart(kPart).find(own), S::npos) << SavedPart(kPart);
-  EXPECT_NE(SavedPart("/xl/charts/chart1.xml").find("q:id=\"rId7\""), S::npos) << "the link is the old one";
+  EXPECT_NE(SavedPart("/xl/charts/chart1.xml").find("q:id=\"rId7\""), S::npos) << "the link doesn't change";
   Chart()->Shapes()->Item(2)->Delete();
   SaveAndReopen();
   EXPECT_EQ(Chart()->Shapes()->Count(), 1);
@@ -336,7 +336,7 @@ TEST_F(ChartShapesTest, ABoxFollowsItsTextUntilItIsSized) {
   OpenChart();
   const auto box = Chart()->Shapes()->AddTextbox(1, 5, 5, 0, 0);
   box->TextFrame()->Characters()->SetText("Sales");
-  EXPECT_EQ(box->Width(), 0) << "nobody asked for it yet";
+  EXPECT_EQ(box->Width(), 0) << "it wasn't requested yet";
   box->TextFrame2()->SetWordWrap(false);
   box->TextFrame2()->SetAutoSize(1);
   const double width = box->Width(), height = box->Height();
@@ -351,7 +351,7 @@ TEST_F(ChartShapesTest, ABoxFollowsItsTextUntilItIsSized) {
   EXPECT_NEAR(box->Height(), 3.6 + 2 * 1.2207 * 22, 0.001);
   const double widest = box->Width();
   box->TextFrame2()->SetWordWrap(true);
-  EXPECT_EQ(box->Width(), widest) << "wrapped text has a width to keep to";
+  EXPECT_EQ(box->Width(), widest) << "wrapped text has a fixed width";
   box->SetWidth(30);
   EXPECT_EQ(box->Width(), 30);
   box->TextFrame2()->SetAutoSize(1);
@@ -361,11 +361,11 @@ TEST_F(ChartShapesTest, ABoxFollowsItsTextUntilItIsSized) {
   box->TextFrame2()->SetWordWrap(false);
   SaveAndReopen();
   const auto again = Chart()->Shapes()->Item(1);
-  EXPECT_NEAR(again->Width(), 30, 0.001) << "the text no longer decides";
+  EXPECT_NEAR(again->Width(), 30, 0.001) << "the text no longer determines the size";
   EXPECT_NEAR(again->Height(), 18, 0.001);
 }
 
-TEST_F(ChartShapesTest, StretchesOfATextHaveTheirOwnFont) {
+TEST_F(ChartShapesTest, PiecesOfATextHaveTheirOwnFont) {
   OpenChart();
   const auto sheetShapes = [&] { return Book().FindWorksheet("Sheet1")->Shapes(); };
   sheetShapes()->AddTextbox(1, 10, 10, 100, 50)->SetName("Note");
@@ -390,7 +390,7 @@ TEST_F(ChartShapesTest, StretchesOfATextHaveTheirOwnFont) {
     EXPECT_EQ(font(10, 4)->FontStyle(), runtime::Variant("Bold"));
     EXPECT_EQ(font(11, 2)->Color(), runtime::Variant(0x00FF00));
     EXPECT_EQ(font(1, 9)->FontStyle(), runtime::Variant("Regular"));
-    EXPECT_TRUE(font(1, 12)->FontStyle().IsNull()) << "the stretches differ";
+    EXPECT_TRUE(font(1, 12)->FontStyle().IsNull()) << "the parts differ";
     EXPECT_EQ(font(1, 12)->Name(), runtime::Variant("Calibri"));
     EXPECT_EQ(font(1, 12)->Size(), runtime::Variant(11.0));
   }
@@ -407,7 +407,7 @@ TEST_F(ChartShapesTest, NewShapesHaveNamesThatNoOtherHas) {
   EXPECT_EQ(shapes->Range({"TextBox 3", "Oval 4"})->Group()->Name(), "Group 5");
 }
 
-TEST_F(ChartShapesTest, ThePartOfShapesStandsInTheFolderOfTheWorkbook) {
+TEST_F(ChartShapesTest, ThePartOfShapesIsInTheFolderOfTheWorkbook) {
   test::PlainBook book;
   book.sheets = {test::SalesSheet("Sheet1")};
   book.sheets[0].frames = {{"id", kBubbles}};
@@ -430,7 +430,7 @@ TEST_F(ChartShapesTest, ThePartOfShapesStandsInTheFolderOfTheWorkbook) {
   EXPECT_TRUE(Book().Package().Has("/book/drawings/drawing2.xml"));
 }
 
-TEST_F(ChartShapesTest, WhatCantBeIsError1004) {
+TEST_F(ChartShapesTest, ImpossibleCallsAreError1004) {
   OpenChart();
   const auto shapes = Chart()->Shapes();
   const auto box = shapes->AddTextbox(1, 0, 0, 10, 10), gone = shapes->AddTextbox(1, 0, 0, 10, 10);
@@ -484,7 +484,7 @@ TEST_F(ChartShapesTest, WhatCantBeIsError1004) {
   }
   EXPECT_EQ(shapes->Count(), 3);
   SaveAndReopen();
-  EXPECT_EQ(test::CountOf(SavedPart(kPart), "<cdr:relSizeAnchor>"), 3u) << "nothing is left of what failed";
+  EXPECT_EQ(test::CountOf(SavedPart(kPart), "<cdr:relSizeAnchor>"), 3u) << "the failed call leaves nothing";
   EXPECT_FALSE(test::Has(SavedPart(kPart), "<a:ln>"));
 }
 

@@ -43,7 +43,7 @@ TEST_F(ChartViewTest, SettersPutElementsWhereTheSchemaWantsThem) {
     S gone;   ///< A text that must not exist.
   };
   const Case cases[] = {
-      {"a title goes in front", Part(columns),
+      {"a title comes first", Part(columns),
        [](Chart& c) {
          c.SetHasTitle(true);
          c.ChartTitle()->SetText("A & B\nC");
@@ -54,7 +54,7 @@ TEST_F(ChartViewTest, SettersPutElementsWhereTheSchemaWantsThem) {
        "val=\"0\"/></c:title>"
        "<c:autoTitleDeleted val=\"0\"/><c:plotArea>",
        ""},
-      {"a title's dress stays when its text changes",
+      {"a title keeps its format when its text changes",
        Part("<c:title><c:tx><c:rich><a:bodyPr rot=\"1\"/><a:p><a:pPr><a:defRPr "
             "sz=\"1800\"/></a:pPr><a:r><a:rPr b=\"1\"/><a:t>x</a:t></a:r>"
             "<a:r><a:t>y</a:t></a:r></a:p></c:rich></c:tx><c:layout/></c:title>" +
@@ -66,7 +66,7 @@ TEST_F(ChartViewTest, SettersPutElementsWhereTheSchemaWantsThem) {
        "<c:rich><a:bodyPr rot=\"1\"/><a:lstStyle/><a:p><a:pPr><a:defRPr sz=\"1800\"/></a:pPr><a:r><a:rPr "
        "b=\"1\"/><a:t>New</a:t></a:r></a:p></c:rich></c:tx><c:layout/>",
        "<a:t>y"},
-      {"a title from a cell becomes a text, dressed alike",
+      {"a title from a cell becomes a text with the same format",
        Part("<c:title><c:tx><c:strRef><c:f>Sheet1!$A$1</c:f></c:strRef></c:tx><c:txPr><a:bodyPr/"
             "><a:p><a:pPr><a:defRPr sz=\"900\"/></a:pPr>"
             "<a:endParaRPr lang=\"de\"/></a:p></c:txPr></c:title>" +
@@ -75,19 +75,20 @@ TEST_F(ChartViewTest, SettersPutElementsWhereTheSchemaWantsThem) {
        "<c:title><c:tx><c:rich><a:bodyPr/><a:lstStyle/><a:p><a:pPr><a:defRPr sz=\"900\"/></a:pPr><a:r><a:rPr "
        "lang=\"en-US\"/><a:t>T</a:t></a:r></a:p></c:rich></c:tx></c:title>",
        "txPr"},
-      {"no title, and none by itself", Part("<c:title/>" + columns), [](Chart& c) { c.SetHasTitle(false); },
-       "<c:chart><c:autoTitleDeleted val=\"1\"/><c:plotArea>", "<c:title"},
-      {"a legend goes behind the plot area", Part(columns + "<c:plotVisOnly val=\"1\"/>"),
+      {"no title and no automatic title", Part("<c:title/>" + columns),
+       [](Chart& c) { c.SetHasTitle(false); }, "<c:chart><c:autoTitleDeleted val=\"1\"/><c:plotArea>",
+       "<c:title"},
+      {"a legend follows the plot area", Part(columns + "<c:plotVisOnly val=\"1\"/>"),
        [](Chart& c) { c.SetHasLegend(true); },
        "</c:plotArea><c:legend><c:legendPos val=\"r\"/><c:overlay val=\"0\"/></c:legend><c:plotVisOnly", ""},
-      {"a legend that is there stays", Part(columns + legend), [](Chart& c) { c.SetHasLegend(true); }, legend,
+      {"an existing legend is kept", Part(columns + legend), [](Chart& c) { c.SetHasLegend(true); }, legend,
        ""},
-      {"a position takes the place of a layout", Part(columns + legend),
+      {"a position replaces a layout", Part(columns + legend),
        [](Chart& c) { c.Legend()->SetPosition(-4107); },
        "<c:legend><c:legendPos val=\"b\"/><c:legendEntry><c:idx "
        "val=\"0\"/></c:legendEntry><c:layout/></c:legend>",
        ""},
-      {"a place of one's own", Part(columns + "<c:legend><c:legendPos val=\"r\"/></c:legend>"),
+      {"a manual position", Part(columns + "<c:legend><c:legendPos val=\"r\"/></c:legend>"),
        [](Chart& c) {
          c.Legend()->SetTop(27);
          c.Legend()->SetLeft(96);
@@ -120,7 +121,7 @@ TEST_F(ChartViewTest, SettersPutElementsWhereTheSchemaWantsThem) {
        "vert=\"horz\"/><a:lstStyle/><a:p><a:r><a:rPr lang=\"en-US\"/>"
        "<a:t>V</a:t></a:r></a:p></c:rich></c:tx><c:overlay val=\"0\"/></c:title><c:crossAx",
        ""},
-      {"a hidden axis comes back",
+      {"a hidden axis is shown again",
        Part("<c:plotArea><c:barChart>" +
             runtime::Replace(kAxes, "<c:axPos val=\"b\"/>", "<c:delete val=\"1\"/><c:axPos val=\"b\"/>") +
             "</c:plotArea>"),
@@ -146,7 +147,7 @@ TEST_F(ChartViewTest, SettersPutElementsWhereTheSchemaWantsThem) {
       {"a writer's own prefixes", runtime::Replace(runtime::Replace(Part(columns), "c:", ""), ":c=", "="),
        [](Chart& c) { c.SetHasLegend(true); },
        "</plotArea><legend><legendPos val=\"r\"/><overlay val=\"0\"/></legend></chart>", ""},
-      {"what nobody knows stays where it was",
+      {"unknown elements stay in place",
        Part("<?pi?><!--c--><x:y xmlns:x=\"u\" v='\"'>&#13;&lt;<![CDATA[<]]></x:y>" + columns),
        [](Chart& c) { c.SetHasLegend(true); },
        "<c:chart><?pi?><!--c--><x:y xmlns:x=\"u\" v=\"&quot;\">&#13;&lt;<![CDATA[<]]></x:y><c:plotArea>", ""},
@@ -196,7 +197,7 @@ TEST_F(ChartViewTest, ASeriesShowsItsCells) {
       << "categories without a text are numbers";
 }
 
-TEST_F(ChartViewTest, NumbersOfSeriesEndWhereTheirTypeDoes) {
+TEST_F(ChartViewTest, IndicesOfSeriesHaveTheLimitsOfTheirType) {
   After(Part("<c:plotArea><c:barChart><c:ser><c:idx val=\"9223372036854775807\"/><c:order "
              "val=\"9223372036854775807\"/></c:ser></c:barChart></c:plotArea>"),
         [](Chart& chart) {
@@ -223,7 +224,7 @@ TEST_F(ChartViewTest, AnEmptyChartShowsItsAxesWithTheFirstSeries) {
   EXPECT_EQ(CountOf(After(chart(series, hidden), draw), "<c:delete val=\"1\"/>"), 2u) << "likewise";
 }
 
-TEST_F(ChartViewTest, ATypeComesBackAsItWas) {
+TEST_F(ChartViewTest, AFormerTypeIsRestored) {
   // The refresh first draws every chart as clustered bars. Settings of the original type must survive this.
   const S area =
       "<c:view3D><c:rotX val=\"40\"/></c:view3D><c:floor><c:thickness "
@@ -280,7 +281,7 @@ TEST_F(ChartViewTest, EveryTypeIsBuiltAsExcelBuildsIt) {
     EXPECT_EQ(group.find("<c:overlap val=\"100\"/>") != S::npos,
               type.element == "barChart" && type.IsStacked());
     EXPECT_EQ(group.find("dLblPos") != S::npos, (!type.Is3D() && !type.IsArea()) || type.IsPie())
-        << "a position stays where Excel allows it";
+        << "a position is kept if Excel allows it";
     EXPECT_EQ(after.find("<c:view3D>") != S::npos, type.Is3D());
     EXPECT_EQ(after.find("<c:serAx>") != S::npos, type.HasDepthAxis());
     EXPECT_EQ(after.find("<c:catAx>") != S::npos, type.HasAxes() && !type.HasXValues());
@@ -291,7 +292,7 @@ TEST_F(ChartViewTest, EveryTypeIsBuiltAsExcelBuildsIt) {
   }
 }
 
-TEST_F(ChartViewTest, SeriesOfSeveralGroupsComeTogether) {
+TEST_F(ChartViewTest, SeriesOfSeveralGroupsAreCombined) {
   const S mixed =
       "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:ser><c:idx val=\"0\"/><c:order "
       "val=\"1\"/></c:ser><c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart>"
@@ -309,7 +310,7 @@ TEST_F(ChartViewTest, SeriesOfSeveralGroupsComeTogether) {
   EXPECT_LT(after.find("<c:order val=\"0\"/>"), after.find("<c:order val=\"1\"/>")) << after;
 }
 
-TEST_F(ChartViewTest, WhatAChartDoesNotHaveIsError1004) {
+TEST_F(ChartViewTest, MissingPartsOfAChartAreError1004) {
   After(Part("<c:plotArea/>"), [](Chart& chart) {
     for (const std::function<void()>& call : std::initializer_list<std::function<void()>>{
              [&] { chart.ChartTitle(); }, [&] { chart.Legend(); }, [&] { chart.Axes(1, 1); },
@@ -338,7 +339,7 @@ TEST_F(ChartViewTest, WhatAChartDoesNotHaveIsError1004) {
   EXPECT_FALSE(Book().Damage());
 }
 
-TEST(EnumerationsTest, GoBothWays) {
+TEST(EnumerationsTest, ConvertBothWays) {
   for (const Enumeration* enumeration :
        {&kLegendPositions, &kLabelPositions, &kPatterns, &kInteriorPatterns, &kLineStyles, &kLineWeights,
         &kMarkerStyles, &kHorizontalAlignments, &kVerticalAlignments, &kTickLabelPositions, &kCrosses,

@@ -11,7 +11,7 @@ namespace {
 
 using S = std::string;
 
-/// Children by ECMA-376-1, 21.2.2, and 20.1; where the schema has a choice, one of it.
+/// Children by ECMA-376-1, 21.2.2 and 20.1. If the schema has a choice, one of its elements is used.
 constexpr std::pair<const char*, const char*> kOrders[] = {
     {"chartSpace",
      "date1904 lang roundedCorners style clrMapOvr pivotSource protection chart spPr txPr externalData "
@@ -62,14 +62,14 @@ constexpr std::pair<const char*, const char*> kOrders[] = {
     {"txPr", "bodyPr lstStyle p"},
 };
 
-TEST(DrawingSchemaTest, ChildrenComeInTheOrderOfTheSchemaHoweverTheyAreMade) {
+TEST(DrawingSchemaTest, ChildrenAreInTheOrderOfTheSchema) {
   for (const auto& [parent, children] : kOrders) {
     std::vector<S> names;
     std::istringstream words(children);
     for (S word; words >> word;) names.push_back(word);
     pugi::xml_document document;
     const pugi::xml_node node = document.append_child((S("c:") + parent).c_str());
-    // from the last to the first, so that each has to be put in front of all others
+    // from the last to the first, so that each one has to be inserted before all others
     for (auto name = names.rbegin(); name != names.rend(); ++name) schema::Ensure(node, *name);
     S made;
     for (const pugi::xml_node& child : node.children()) {

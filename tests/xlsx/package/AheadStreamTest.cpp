@@ -21,7 +21,7 @@ std::string Bytes(std::size_t size) {
   return bytes;
 }
 
-/// Ends with an error instead of its end.
+/// A stream that ends with an error.
 class FailingStream final : public Archive::Stream {
  public:
   explicit FailingStream(std::string_view bytes, std::size_t piece) : inner_(bytes, piece) {}
@@ -35,7 +35,7 @@ class FailingStream final : public Archive::Stream {
   MemoryStream inner_;
 };
 
-/// All that is read with a buffer of the size, and what was thrown at the end.
+/// Returns all bytes that a reader with a buffer of this size gets, and the error at the end.
 std::pair<std::string, std::string> All(Archive::Stream& stream, std::size_t size) {
   std::string all, buffer(size, '\0'), error;
   try {
@@ -51,7 +51,7 @@ TEST(AheadStreamTest, GivesTheBytesOfTheOtherStreamInPiecesOfAnySize) {
     std::size_t length, piece, buffer;
   } cases[] = {{0, 100, 100},
                {1, 100, 100},
-               {kMebibyte, 65536, 65536},  // the most that no thread reads
+               {kMebibyte, 65536, 65536},  // the maximum size without a thread
                {kMebibyte + 1, 65536, 65536},
                {5 * kMebibyte, 1000, 100000},
                {5 * kMebibyte, 100000, 1000},
@@ -62,14 +62,15 @@ TEST(AheadStreamTest, GivesTheBytesOfTheOtherStreamInPiecesOfAnySize) {
     MemoryStream whole(bytes, c.piece);
     AheadStream ahead(whole);
     EXPECT_TRUE(All(ahead, c.buffer) == std::pair(bytes, std::string())) << c.length << ' ' << c.piece;
-    EXPECT_TRUE(All(ahead, c.buffer) == std::pair(std::string(), std::string())) << "the end stays the end";
+    EXPECT_TRUE(All(ahead, c.buffer) == std::pair(std::string(), std::string()))
+        << "reading after the end gives the end again";
     FailingStream failing(bytes, c.piece);
     AheadStream aheadOfFailure(failing);
     EXPECT_TRUE(All(aheadOfFailure, c.buffer) == std::pair(bytes, std::string("it ends here"))) << c.length;
   }
 }
 
-TEST(AheadStreamTest, ALeftStreamIsReadNoFurtherThanAFewPieces) {
+TEST(AheadStreamTest, AnAbandonedStreamIsReadOnlyAFewPiecesAhead) {
   const std::string bytes = Bytes(20 * kMebibyte);
   MemoryStream whole(bytes, 64 * 1024);
   {
@@ -84,7 +85,7 @@ TEST(AheadStreamTest, ALeftStreamIsReadNoFurtherThanAFewPieces) {
   EXPECT_TRUE(bytes.ends_with(rest));
 }
 
-TEST(AheadStreamTest, ALargeSheetIsScannedAsASmallOne) {
+TEST(AheadStreamTest, ALargeSheetIsScannedLikeASmallOne) {
   constexpr int kRows = 40000;
   std::string text = "<worksheet xmlns='m'><sheetData>";
   for (int row = 1; row <= kRows; ++row) {

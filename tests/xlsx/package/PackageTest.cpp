@@ -73,7 +73,7 @@ TEST_F(PackageFileTest, UntouchedPartsKeepTheirBytesOrderAndNames) {
   EXPECT_EQ(again.FindRelationship("/xl/workbook.xml", id)->type, "new");
 }
 
-TEST_F(PackageFileTest, APackageThatIsSavedOverItsOwnFileGoesOnWithTheNewOne) {
+TEST_F(PackageFileTest, APackageSavedOverItsOwnFileUsesTheNewFile) {
   const S path = Book();
   Package package = Package::Open(path);
   const S noise = package.Read("/xl/media/noise.bin");
@@ -108,7 +108,7 @@ Package Linked(const std::vector<S>& links) {
   return package;
 }
 
-TEST_F(PackageFileTest, WhatNothingElseRefersToGoesWithItsRelationship) {
+TEST_F(PackageFileTest, UnreferencedPartsAreRemovedWithTheirRelationship) {
   struct Case {
     std::vector<S> links;
     S source, id;
@@ -151,7 +151,7 @@ TEST_F(PackageFileTest, WhatNothingElseRefersToGoesWithItsRelationship) {
   }
 }
 
-TEST_F(PackageFileTest, NoPartGoesWhileRelationshipsCantBeRead) {
+TEST_F(PackageFileTest, NoPartIsRemovedIfRelationshipsCantBeRead) {
   Package package = Linked({">d", "d>c", "d>e", "e>s"});
   package.Replace("/_rels/e.rels", "<Relationships");
   EXPECT_EQ(package.RemoveRelationship("/d", "rId1"), std::vector<S>{});
@@ -159,11 +159,11 @@ TEST_F(PackageFileTest, NoPartGoesWhileRelationshipsCantBeRead) {
   EXPECT_FALSE(package.FindRelationship("/d", "rId1"));
 }
 
-TEST_F(PackageFileTest, ForeignEntriesAreCopiedByWhateverMethodTheyCame) {
+TEST_F(PackageFileTest, ForeignEntriesKeepTheirCompressionMethod) {
   {
     ArchiveWriter writer(folder_ / "odd.xlsx");
     writer.Add("[Content_Types].xml", "<Types/>");
-    writer.Add("foreign.bin", "in LZMA, or so it says", false);
+    writer.Add("foreign.bin", "declared as LZMA", false);
     writer.Finish();
   }
   std::ifstream in(folder_ / "odd.xlsx", std::ios::binary);
@@ -181,25 +181,25 @@ TEST_F(PackageFileTest, ForeignEntriesAreCopiedByWhateverMethodTheyCame) {
   test::SaveThroughFailures(folder_ / "out.xlsx", [&](const S& path) { package.Save(path); });
   std::ifstream saved(folder_ / "out.xlsx", std::ios::binary);
   const S after((std::istreambuf_iterator<char>(saved)), {});
-  EXPECT_NE(after.find("in LZMA, or so it says"), S::npos);
+  EXPECT_NE(after.find("declared as LZMA"), S::npos);
   EXPECT_TRUE(after.ends_with(comment));
   EXPECT_EQ(after[after.find("foreign.bin") - 22], 14);
   EXPECT_EQ(Archive(folder_ / "out.xlsx").Entries()[1].method, 14);
 }
 
-TEST_F(PackageFileTest, TheFileIsReplacedWholeOrNotAtAll) {
+TEST_F(PackageFileTest, TheFileIsReplacedCompletelyOrNotAtAll) {
   const S path = Book();
   chmod(path.c_str(), 0640);
   symlink(path.c_str(), (folder_ / "link.xlsx").c_str());
   Package::Open(path).Save(folder_ / "link.xlsx");
   struct stat status {};
   ASSERT_EQ(lstat((folder_ / "link.xlsx").c_str(), &status), 0);
-  EXPECT_TRUE(S_ISLNK(status.st_mode)) << "a link keeps pointing";
+  EXPECT_TRUE(S_ISLNK(status.st_mode)) << "a link stays a link";
   ASSERT_EQ(stat(path.c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777, 0640u);
   const mode_t mask = umask(027);
   Package::Open(path).Save(folder_ / "new.xlsx");
-  EXPECT_EQ(umask(mask), mode_t{027}) << "the mask is as it was";
+  EXPECT_EQ(umask(mask), mode_t{027}) << "the file mask doesn't change";
   ASSERT_EQ(stat((folder_ / "new.xlsx").c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777, 0640u);
   std::filesystem::remove(folder_ / "new.xlsx");
@@ -219,10 +219,10 @@ TEST_F(PackageFileTest, TheFileIsReplacedWholeOrNotAtAll) {
   std::size_t files = 0;
   for (const auto& entry : std::filesystem::directory_iterator(folder_.Path()))
     files += entry.symlink_status().type() == std::filesystem::file_type::regular;
-  EXPECT_EQ(files, 1u) << "nothing is left behind";
+  EXPECT_EQ(files, 1u) << "no other file remains";
 }
 
-TEST_F(PackageFileTest, DamageIsFoundWhereItLies) {
+TEST_F(PackageFileTest, DamageIsReportedWithItsPart) {
   const S path = Book();
   std::ifstream in(path, std::ios::binary);
   S bytes((std::istreambuf_iterator<char>(in)), {});
@@ -231,7 +231,7 @@ TEST_F(PackageFileTest, DamageIsFoundWhereItLies) {
     return folder_ / "bad.xlsx";
   };
   EXPECT_THROW(Package::Open(write("")), PackageError);
-  EXPECT_THROW(Package::Open(write("no zip at all")), PackageError);
+  EXPECT_THROW(Package::Open(write("not a zip file")), PackageError);
   EXPECT_THROW(Package::Open(write(bytes.substr(0, bytes.size() / 2))), PackageError);
   // Changing one byte of a part's data damages only this part.
   S flipped = bytes;
@@ -248,7 +248,7 @@ TEST_F(PackageFileTest, DamageIsFoundWhereItLies) {
   EXPECT_THROW(package.Read("/xl/none.xml"), PackageError);
 }
 
-TEST_F(PackageFileTest, BombsAreRefusedBeforeTheyGoOff) {
+TEST_F(PackageFileTest, BombsAreRefusedBeforeTheyUseMemory) {
   ArchiveWriter writer(folder_ / "bomb.xlsx");
   const S blanks(64 << 20, ' ');
   writer.Add("[Content_Types].xml", "<Types/>");
@@ -259,7 +259,7 @@ TEST_F(PackageFileTest, BombsAreRefusedBeforeTheyGoOff) {
   EXPECT_THROW(package.Stream("/xl/blanks.xml"), PackageError);
 }
 
-TEST(XmlTest, WhatIsNotTouchedGoesOutAsItCame) {
+TEST(XmlTest, UnchangedPartsAreWrittenUnchanged) {
   for (const S& text : {S("<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?><a x=\"1 &lt; &#10; "
                           "&apos;\">&#13;\r\n &amp; <b/>\t<!-- c --><?p q?><![CDATA[<]]> </a>"),
                         S("<a><b xml:space=\"preserve\">  </b></a>")}) {
@@ -275,19 +275,19 @@ TEST(XmlTest, WhatIsNotTouchedGoesOutAsItCame) {
     EXPECT_THROW(xml::Parse(document, bad), PackageError) << bad;
 }
 
-TEST(XmlTest, WhatNoPartMayBringIsRefused) {
+TEST(XmlTest, ForbiddenContentsAreRefused) {
   S deep;
   for (int i = 0; i < 500000; ++i) deep += "<a>";
   for (int i = 0; i < 500000; ++i) deep += "</a>";
   S wide = "<a";
   for (std::size_t i = 0; i <= limits::kXmlAttributes; ++i) wide += " a='1'";
   const std::pair<S, const char*> cases[] = {
-      {deep, "its XML nests too deep"},
-      {wide + "/>", "an element of it has more attributes than we can hold"},
+      {deep, "its XML is nested too deeply"},
+      {wide + "/>", "an element of it has more attributes than Plotsmith supports"},
       {"<?xml version='1.0?><!--'>" + deep + "<!-- -->", "its XML is damaged"},
-      {"<!DOCTYPE a [<!-- ' -->]>" + deep, "its XML nests too deep"},
-      {S(limits::kXmlMarks + 1, '<'), "it has more elements than we can hold"},
-      {"<!DOCTYPE a><a/>", "it declares a document type, which no part of a workbook may"},
+      {"<!DOCTYPE a [<!-- ' -->]>" + deep, "its XML is nested too deeply"},
+      {S(limits::kXmlMarks + 1, '<'), "it has more elements than Plotsmith supports"},
+      {"<!DOCTYPE a><a/>", "it declares a document type, which isn't allowed in a workbook"},
       {"<a>\xE4</a>", "its text isn't in the encoding that it declares"}};
   for (const auto& [text, reason] : cases) {
     pugi::xml_document document;
@@ -300,7 +300,7 @@ TEST(XmlTest, WhatNoPartMayBringIsRefused) {
   }
 }
 
-TEST(XmlTest, AnyEncodingBecomesUtf8AndSaysSo) {
+TEST(XmlTest, AnyEncodingIsConvertedToUtf8) {
   const auto declared = [](const S& encoding, const S& text) {
     return "<?xml version='1.0' encoding='" + encoding + "' standalone='yes'?><a>" + text + "</a>";
   };
@@ -327,9 +327,10 @@ TEST(XmlTest, AnyEncodingBecomesUtf8AndSaysSo) {
   }
 }
 
-TEST(XmlTest, ValuesPassThroughBothWays) {
+TEST(XmlTest, ValuesAreEncodedAndDecoded) {
   const S value = "a<b>&\"c'\r\n\td\x01";
-  EXPECT_EQ(xml::Decode(xml::EncodeText(value)), "a<b>&\"c'\r\n\td") << "what XML can't hold goes";
+  EXPECT_EQ(xml::Decode(xml::EncodeText(value)), "a<b>&\"c'\r\n\td")
+      << "characters that XML can't contain are removed";
   EXPECT_EQ(xml::Decode(xml::EncodeAttribute(value)), "a<b>&\"c'\r\n\td");
   EXPECT_EQ(xml::Decode("&#x20AC;&#8364;&lt;&unknown;&;&#xFFFFFFF;&"), "€€<&unknown;&;&#xFFFFFFF;&");
   for (const char* raw : {"&#1;", "&#xD83D;", "&#xFFFE;", "&#x110000;"}) EXPECT_EQ(xml::Decode(raw), raw);

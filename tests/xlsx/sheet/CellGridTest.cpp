@@ -8,7 +8,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-TEST(CellGridTest, RowsKeepTheirOrderWhereverSomeGoInAndOut) {
+TEST(CellGridTest, RowsKeepTheirOrderAfterInsertionsAndDeletions) {
   CellGrid grid;
   std::vector<double> expected;  // The first cell of each row, or 0.
   std::mt19937 random(7);

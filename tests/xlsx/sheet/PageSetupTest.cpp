@@ -10,7 +10,7 @@ using S = std::string;
 
 constexpr double kMillimeter = 72 / 25.4;
 
-TEST(PageSetupTest, TellsHowTheSheetIsPrinted) {
+TEST(PageSetupTest, ReadsThePrintSettings) {
   const struct {
     const char* before;  ///< The elements before the cells.
     const char* after;

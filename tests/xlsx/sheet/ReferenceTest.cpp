@@ -175,7 +175,7 @@ TEST(ReferenceTest, FormulasFollowRows) {
   }
 }
 
-TEST(RowShiftsTest, EachHolderCatchesUpFromWhereItStands) {
+TEST(RowShiftsTest, EachObjectFollowsTheShiftsSinceItsMark) {
   RowShifts shifts;
   for (int i = 0; i < 3; ++i) shifts.Add("Data", 5, 1);
   EXPECT_EQ(shifts.Follow("Data!$A$5", "", 0), "Data!$A$8");

@@ -89,14 +89,14 @@ const std::pair<std::pair<int, int>, std::string> kCells[] = {{{2, 1}, "n1"},
                                                               {{10, 5}, "n123456789012345680"},
                                                               {{10, 28}, "n0.1"}};
 
-TEST(SheetScannerTest, ReadsEveryKindOfCellHoweverTheWindowCuts) {
+TEST(SheetScannerTest, ReadsEveryKindOfCellAtEveryWindowBorder) {
   for (const std::size_t piece : {std::size_t{1} << 20, std::size_t{1000}, std::size_t{7}, std::size_t{1}}) {
     SCOPED_TRACE(piece);
     const SheetContents sheet = Scan(kSheet, piece);
     for (const auto& [place, shown] : kCells) {
       EXPECT_EQ(Show(sheet, place.first, place.second), shown) << place.first << "," << place.second;
     }
-    EXPECT_EQ(sheet.used, (CellRange{2, 1, 10, 28})) << "whatever the dimension claims";
+    EXPECT_EQ(sheet.used, (CellRange{2, 1, 10, 28})) << "independent of the dimension";
     EXPECT_EQ(sheet.cells.StyleAt(2, 3), 7u);
     EXPECT_EQ(sheet.cells.StyleAt(3, 5), 3u);
     EXPECT_EQ(sheet.cells.StyleAt(3, 3), 0u);
@@ -192,7 +192,7 @@ TEST(SheetScannerTest, TheHeadEndsBeforeTheCells) {
   }
 }
 
-TEST(SheetScannerTest, SpaceIsSpaceInAnyWriting) {
+TEST(SheetScannerTest, AllKindsOfWhiteSpaceAreAccepted) {
   const SheetContents sheet = Scan(
       "<worksheet><sheetData><row r=\"3\"\tht=\"30\"><c r=\"A3\" t=\"s\"><v> 5 </v></c></row>"
       "<row r=\"4\"\nhidden=\"on\"><c r=\"A4\"><v>\n+2.5</v></c></row></sheetData></worksheet>",
@@ -202,7 +202,7 @@ TEST(SheetScannerTest, SpaceIsSpaceInAnyWriting) {
   EXPECT_EQ(sheet.rowHeights, (std::vector<std::pair<std::int32_t, double>>{{3, 30}, {4, 0}}));
 }
 
-TEST(SheetScannerTest, FormulasWithoutAResultAreToldByTheirCells) {
+TEST(SheetScannerTest, FormulasWithoutAResultAreListed) {
   const SheetContents sheet = Scan(
       "<w><sheetData><row r='2'><c r='A2'><f>1</f><v>1</v></c><c r='B2'><f>1</f><v></v></c>"
       "<c r='C2'><f>1</f><v/></c><c r='D2'><f>1</f></c><c r='E2' t='str'><f>\"\"</f><v></v></c>"
@@ -212,7 +212,7 @@ TEST(SheetScannerTest, FormulasWithoutAResultAreToldByTheirCells) {
   EXPECT_EQ(sheet.formulasWithoutResult, (std::vector<CellPlace>{{2, 2}, {2, 3}, {2, 4}, {4, 3}}));
 }
 
-TEST(SheetScannerTest, WhatCountsAsUsed) {
+TEST(SheetScannerTest, UsedCells) {
   const std::pair<const char*, CellRange> cases[] = {
       {"<c r='C9'/><c r='D9'></c><c r='E9' t='inlineStr'><is/></c>", {2, 2, 2, 2}},
       {"<c r='C9' s='1'/>", {2, 2, 9, 3}},
@@ -229,7 +229,7 @@ TEST(SheetScannerTest, WhatCountsAsUsed) {
             (CellRange{1, 1, 1, 1}));
 }
 
-TEST(SheetScannerTest, MergedCellsAreFoundBehindAllThatTheSchemaPutsBeforeThem) {
+TEST(SheetScannerTest, MergedCellsAreFoundAfterAllPrecedingElements) {
   const std::vector<CellRange> merged = {{1, 1, 2, 2}, {4, 3, 4, 5}};
   for (const std::string before : {"", "sheetCalcPr", "sheetProtection", "protectedRanges", "scenarios",
                                    "autoFilter", "sortState", "dataConsolidate", "customSheetViews"}) {
@@ -266,7 +266,7 @@ TEST(SheetScannerTest, SheetsWithoutCells) {
   }
 }
 
-TEST(SheetScannerTest, CellsOutOfOrderAreFoundAllTheSame) {
+TEST(SheetScannerTest, CellsOutOfOrderAreFound) {
   const SheetContents sheet = Scan(
       "<w><sheetData><row r='5'><c r='B5'><v>5</v></c><c r='A5'><v>4</v></c></row>"
       "<row r='2'><c r='B2' s='2'><v>2</v></c></row><row r='5'><c r='B5'><v>6</v></c></row></sheetData></w>");
@@ -277,7 +277,7 @@ TEST(SheetScannerTest, CellsOutOfOrderAreFoundAllTheSame) {
   EXPECT_EQ(sheet.used, (CellRange{2, 1, 5, 2}));
 }
 
-TEST(SheetScannerTest, DamageIsSaid) {
+TEST(SheetScannerTest, DamageIsReported) {
   const std::string damaged = "its XML is damaged", outside = "it has a cell outside of any sheet";
   const std::string row = "it has a row outside of any sheet", type = xml::kHasDocumentType;
   const std::pair<const char*, std::string> cases[] = {
@@ -368,7 +368,7 @@ TEST(SharedStringsTest, RichTextsEscapesAndOddItems) {
     EXPECT_EQ(strings.At(3), "");
     EXPECT_EQ(strings.At(4), "A_x0041_\xF0\x9D\x84\x9E");
     EXPECT_EQ(strings.At(5), "<x>\ny");
-    EXPECT_EQ(strings.At(6), "") << "an index that isn't there";
+    EXPECT_EQ(strings.At(6), "") << "an index out of range";
   }
 }
 

@@ -8,7 +8,7 @@ namespace {
 
 using S = std::string;
 
-TEST(SheetSpliceTest, TheDrawingGoesWhereTheSchemaWantsIt) {
+TEST(SheetSpliceTest, TheDrawingIsInsertedInTheOrderOfTheSchema) {
   const S drawing = "<drawing xmlns:r=\"R\" r:id=\"rId1\"/>";
   // "@" marks the position.
   for (const S& tail : {
@@ -52,7 +52,7 @@ TEST(SheetSpliceTest, TheDrawingGoesWhereTheSchemaWantsIt) {
   }
 }
 
-TEST(SheetSpliceTest, CellsAreReplacedWithWhatTheSheetSaysOfThem) {
+TEST(SheetSpliceTest, CellsAreReplacedTogetherWithTheDimension) {
   const std::pair<const char*, const char*> cases[] = {
       {"<w><!-- <dimension ref='A1'/> --><dimension q='>' ref = 'A1:B2' "
        "z='1'/><sheetData><row/></sheetData></w>",

@@ -20,7 +20,7 @@ S Text(const SheetView& view) {
          cell(view.activeCell) + cell({view.frozenRows, view.frozenColumns});
 }
 
-TEST(SheetViewTest, TellsHowTheFirstWindowShowsTheSheet) {
+TEST(SheetViewTest, ReadsTheViewOfTheFirstWindow) {
   const struct {
     const char* views;
     SheetView view;
@@ -90,7 +90,7 @@ TEST_F(LookedAtTest, TheViewFollowsTheWindowAndTheActiveCell) {
   EXPECT_EQ(Book().Activations(), activations + 2);
 }
 
-TEST_F(LookedAtTest, MergedCellsComeFromThePlaceWhereTheSchemaHasThem) {
+TEST_F(LookedAtTest, MergedCellsAreReadAtTheirPositionInTheSchema) {
   const struct {
     const char* behindCells;
     std::vector<CellRange> merged;
@@ -112,7 +112,7 @@ TEST_F(LookedAtTest, MergedCellsComeFromThePlaceWhereTheSchemaHasThem) {
   }
 }
 
-TEST_F(LookedAtTest, WhatIsOnlyLookedAtDoesNotDamageTheWorkbook) {
+TEST_F(LookedAtTest, ViewingDoesNotDamageTheWorkbook) {
   auto book = test::SalesBook({});
   book.Sheet("Charts").beforeData = "<!DOCTYPE a>";
   Open(book);

@@ -29,7 +29,7 @@ class SortTest : public test::HostTest {
   }
 };
 
-TEST_F(SortTest, ValuesComeInExcelsOrder) {
+TEST_F(SortTest, ValuesAreInExcelsOrder) {
   using test::RawCell;
   const RawCell yes{" t=\"b\"><v>1</v></c>"}, no{" t=\"b\"><v>0</v></c>"};
   const RawCell error{" t=\"e\"><v>#N/A</v></c>"}, other{" t=\"e\"><v>#DIV/0!</v></c>"};
@@ -44,14 +44,17 @@ TEST_F(SortTest, ValuesComeInExcelsOrder) {
       {"numbers", {3.0, -1.0, 2.5, 3.0}, "2 3 1 4", "1 4 3 2"},
       {"kinds", {none, error, yes, S("a"), 5.0, no, S("5"), other}, "5 7 4 6 3 2 8 1", "2 8 3 6 4 7 5 1"},
       {"empty ones last in either direction", {none, 1.0, none, 2.0}, "2 4 1 3", "4 2 1 3"},
-      {"case aside, equal ones stay", {S("b"), S("A"), S("a"), S("B")}, "2 3 1 4", "1 4 2 3"},
-      {"by case: lower goes first", {S("b"), S("A"), S("a"), S("B")}, "3 2 1 4", "4 1 2 3", true},
+      {"texts that differ only in case keep their order",
+       {S("b"), S("A"), S("a"), S("B")},
+       "2 3 1 4",
+       "1 4 2 3"},
+      {"by case: lower case comes first", {S("b"), S("A"), S("a"), S("B")}, "3 2 1 4", "4 1 2 3", true},
       {"digits, signs, letters",
        {S("a"), S("_x"), S("1"), S(" x"), S("~"), S("+")},
        "3 4 2 5 6 1",
        "1 6 5 2 4 3"},
-      {"the shorter first", {S("ab"), S("a"), S("abc")}, "2 1 3", "3 1 2"},
-      {"hyphens and apostrophes count at the last",
+      {"the shorter one first", {S("ab"), S("a"), S("abc")}, "2 1 3", "3 1 2"},
+      {"hyphens and apostrophes count last",
        {S("co-op"), S("coop"), S("cooa"), S("o'b"), S("oa")},
        "3 2 1 5 4",
        "4 5 1 2 3"},
@@ -64,7 +67,7 @@ TEST_F(SortTest, ValuesComeInExcelsOrder) {
   }
 }
 
-TEST_F(SortTest, RowsMoveWholeWithTheirFormatsInsideOfTheRange) {
+TEST_F(SortTest, RowsMoveWithTheirFormatsInsideTheRange) {
   test::PlainBook book = test::SalesBook({});
   book.sheets[0].rows[0].push_back(S("beside"));
   Open(book);
@@ -78,7 +81,7 @@ TEST_F(SortTest, RowsMoveWholeWithTheirFormatsInsideOfTheRange) {
   EXPECT_EQ(journal_[1], "Sheets(\"Data1\").Range(\"$A$1:$D$6\").Sort(\"$C$2\", 2, 1, 1, False, 1)");
 }
 
-TEST_F(SortTest, WhatItCantDoIsError1004) {
+TEST_F(SortTest, UnsupportedSortsAreError1004) {
   test::PlainBook book = test::SalesBook({});
   const auto expectError = [&](const std::function<void(Worksheet&)>& call) {
     Open(book);

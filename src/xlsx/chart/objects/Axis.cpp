@@ -26,7 +26,7 @@ namespace {
 
 constexpr std::int32_t kLogarithmic = -4133;  // xlScaleLogarithmic
 
-/// An axis. It is found anew at each use, because a change of the chart's type may replace the element.
+/// An axis. Each use looks it up again, because a change of the chart's type may replace its element.
 struct AxisHandle {
   std::shared_ptr<ChartPart> part;
   std::int32_t type;
@@ -231,7 +231,7 @@ class AxisObject final : public excel::Axis {
     }
     axis_.part->MarkChanged();
   }
-  /// The axis. Error 1004 if it isn't a value axis, which alone has the property.
+  /// Returns the axis. Raises error 1004 if it isn't a value axis, because only those have the property.
   pugi::xml_node Values(const char* property) const {
     const pugi::xml_node axis = axis_.Node();
     if (!xml::Is(axis, "valAx")) throw CantSet(property, "Axis");

@@ -13,7 +13,7 @@ class DrawnShape;
 /// A chart for the port: a view over its part.
 class Chart final : public excel::Chart {
  public:
-  /// `frame` is the shape that frames the chart on a sheet; empty for a chart sheet.
+  /// `frame` is the shape that contains the chart on a sheet; empty for a chart sheet.
   Chart(std::shared_ptr<ChartPart> part, std::weak_ptr<DrawnShape> frame);
 
   excel::Ref<excel::Application> Application() override;
@@ -34,7 +34,7 @@ class Chart final : public excel::Chart {
   excel::Ref<excel::PlotArea> PlotArea() override;
   excel::Ref<excel::Shapes> Shapes() override;
 
-  /// The part behind the chart.
+  /// The part of the chart.
   ChartPart& Part() const { return *part_; }
   /// The width and height of the frame on the sheet, or of the chart sheet's page, in points.
   Frame Size() const;

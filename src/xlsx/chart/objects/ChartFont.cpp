@@ -10,7 +10,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// The run properties that hold the font of the element. Missing ones are made.
+/// Returns the run properties that contain the element's font. Missing ones are created.
 std::vector<pugi::xml_node> RunProperties(pugi::xml_node element) {
   std::vector<pugi::xml_node> properties;
   for (const pugi::xml_node& body : TextBodies(element)) {
@@ -22,7 +22,7 @@ std::vector<pugi::xml_node> RunProperties(pugi::xml_node element) {
         properties.push_back(schema::Ensure(child, "rPr"));
         empty = false;
       }
-      // The end of an empty line holds the format of the text that will be typed there.
+      // The end mark of an empty paragraph has the format of text that will be typed there.
       const auto ending = xml::Child(paragraph, "endParaRPr");
       if (empty && ending && xml::Is(body, "rich")) properties.push_back(ending);
     }

@@ -33,7 +33,7 @@ std::vector<pugi::xml_node> AllOf(pugi::xml_node labels) {
   return all;
 }
 
-/// The runs of a label's own text don't inherit the label's format, so each run repeats it.
+/// The runs of a label's own text don't inherit the label's format, so the format is repeated in each run.
 void DressRuns(pugi::xml_node label) {
   for (const pugi::xml_node& paragraph : xml::Children(xml::Child(label, "tx", "rich"), "p")) {
     const auto dress = xml::Child(paragraph, "pPr", "defRPr");

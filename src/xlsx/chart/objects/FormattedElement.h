@@ -12,7 +12,7 @@
 
 namespace plotsmith::xlsx {
 
-/// A chart element with shape properties. It is found anew at each use, because the element may be replaced,
+/// A chart element with shape properties. Each use looks it up again, because the element may be replaced,
 /// and its `spPr` added and removed, between two uses.
 struct FormattedElement {
   std::shared_ptr<ChartPart> part;
@@ -23,6 +23,7 @@ struct FormattedElement {
   pugi::xml_node FindProperties() const { return xml::Child(find(), "spPr"); }
   /// The shape properties, which are made if they are missing.
   pugi::xml_node Properties() const { return schema::Ensure(find(), "spPr"); }
+  /// The journal of the host's calls.
   const Journal& Log() const { return part->Book().Journal(); }
 };
 

@@ -39,9 +39,9 @@ std::int32_t NearestIndex(const Styles& styles, std::int32_t color) {
   return nearest;
 }
 
-/// The fill in Excel's older object model: a colour, and a pattern with a second colour.
-/// The system copies fills property by property. In any order of the properties, the
-/// colour that was set last is seen.
+/// The fill in Excel's older object model: a colour, and a pattern with a second colour. The system copies
+/// fills property by property. The colour that was set last is visible, in whichever order the properties are
+/// set.
 class InteriorObject final : public excel::Interior {
  public:
   InteriorObject(FormattedElement element, std::function<std::int32_t()> automatic)

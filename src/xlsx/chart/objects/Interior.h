@@ -8,8 +8,8 @@
 
 namespace plotsmith::xlsx {
 
-/// The fill of a chart element for the port. `automatic` returns the colour of an element without a fill of
-/// its own.
+/// The fill of a chart element for the port. `automatic` returns the colour of an element without its own
+/// fill.
 excel::Ref<excel::Interior> MakeInterior(FormattedElement element, std::function<std::int32_t()> automatic);
 
 }  // namespace plotsmith::xlsx

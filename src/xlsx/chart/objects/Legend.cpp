@@ -22,7 +22,7 @@ namespace {
 
 std::string Path() { return "Chart.Legend"; }
 
-/// The approximate place of an automatic legend, as fractions of the chart.
+/// Approximate positions of an automatic legend, as fractions of the chart.
 constexpr double kNear = 0.02, kMiddle = 0.4, kFar = 0.8;
 
 class LegendObject final : public excel::Legend {
@@ -83,7 +83,8 @@ class LegendObject final : public excel::Legend {
     return xml::Child(layout, "x") || xml::Child(layout, "y") ? layout : pugi::xml_node();
   }
 
-  /// A coordinate as a fraction of the chart. An automatic legend is taken to be in the middle of its side.
+  /// Returns a coordinate as a fraction of the chart. An automatic legend is assumed to be in the middle of
+  /// its side.
   double Place(const char* coordinate) const {
     const auto layout = PlaceOf(Node());
     const auto value = schema::NumberVal(layout, coordinate);
@@ -93,7 +94,7 @@ class LegendObject final : public excel::Legend {
     const double start = side == (horizontal ? "l" : "t") || (!horizontal && side == "tr")  ? kNear
                          : side == (horizontal ? "r" : "b") || (horizontal && side == "tr") ? kFar
                                                                                             : kMiddle;
-    return start + value.value_or(0);  // factor mode counts from the automatic place
+    return start + value.value_or(0);  // the mode `factor` counts from the automatic position
   }
 
   void SetPlace(const char* property, const char* mode, const char* fraction, double points, double extent) {

@@ -5,11 +5,11 @@
 
 namespace plotsmith::xlsx {
 
-/// The properties of the markers of a series: the colours of outline and fill, the style, the size.
+/// The properties of a series' markers: the colours of outline and fill, the style, and the size.
 enum class MarkerProperty { kOutline, kFilling, kStyle, kSize };
 
-/// Sets a property of a series' markers: a colour, a style (XlMarkerStyle) or a size in points. False for a
-/// value that Excel doesn't take.
+/// Sets a property of a series' markers: a colour, a style (XlMarkerStyle) or a size in points. Returns false
+/// for a value that Excel doesn't accept.
 bool SetMarker(pugi::xml_node series, MarkerProperty which, std::int32_t value);
 
 }  // namespace plotsmith::xlsx

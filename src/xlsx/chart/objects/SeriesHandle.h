@@ -18,6 +18,7 @@ struct SeriesHandle {
   pugi::xml_node Node() const;
   /// The path of the series in the journal.
   std::string Path() const;
+  /// The journal of the host's calls.
   const Journal& Log() const;
 };
 

@@ -9,17 +9,18 @@
 
 #include "runtime/Variant.h"
 
-/// The caches of a chart part: the data of its series and titles, from which a reader can show the chart
-/// without computing anything. All texts in it are ST_Xstring, which only these functions encode and decode.
+/// The caches of a chart part. They contain the data of series and titles, so that a program can show the
+/// chart without computing anything. All texts are of type ST_Xstring, which only these functions encode and
+/// decode.
 namespace plotsmith::xlsx {
 
-/// The text in the `v` child of a point, or of a series name that isn't a cell's.
+/// The text in the `v` child of a point, or of a series name that doesn't come from a cell.
 std::string CachedText(pugi::xml_node holder);
-/// Sets that text.
+/// Sets the text in the `v` child.
 void SetCachedText(pugi::xml_node holder, std::string_view text);
 
-/// The texts of a series' data, or of a title's cells, by the numbers of their points from 0. Points without
-/// a text are left out.
+/// The texts of a series' data, or of a title's cells, by the index of their point, from 0. Points without a
+/// text are left out.
 std::map<std::size_t, std::string> CachedTexts(pugi::xml_node data);
 /// The numbers of a series' data, one for each point; Empty for a point without a number.
 std::vector<runtime::Variant> CachedNumbers(pugi::xml_node data);
@@ -31,9 +32,9 @@ std::size_t CachedPoints(pugi::xml_node series);
 /// Fills an empty cache (c:strCache, c:numCache) with its points.
 class CacheWriter {
  public:
-  /// `count` is the number of points, with those that have no text.
+  /// `count` is the number of points, including those without a text.
   CacheWriter(pugi::xml_node cache, std::size_t count);
-  /// Adds a point by its number from 0. Points must be added in ascending order.
+  /// Adds a point by its index, from 0. Points must be added in ascending order.
   void Add(std::size_t index, std::string_view text);
 
  private:

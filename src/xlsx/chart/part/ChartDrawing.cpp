@@ -72,7 +72,7 @@ ChartDrawing::ChartDrawing(ChartPart& chart) : chart_(chart) {
     if (link && !link->external && package.Has(link->target)) part_ = link->target;
     InPart(part_, [&] {
       xml::Parse(document_, part_.empty() ? EmptyUserShapes(chart.Book().Vocabulary()) : package.Read(part_));
-      if (!xml::Is(xml::Root(document_), "userShapes")) throw PackageError("it holds no shapes of a chart");
+      if (!xml::Is(xml::Root(document_), "userShapes")) throw PackageError("it contains no chart shapes");
     });
   } catch (const PackageError& e) {
     throw Refusal("The chart's shapes can't be read: " + std::string(e.what()) + ".");

@@ -14,16 +14,17 @@ namespace plotsmith::xlsx {
 class ChartPart;
 class DrawnShape;
 
-/// The shapes that are drawn on a chart: its user shapes part. Anchors in it give places as fractions of the
-/// chart. The part is created with the first shape and removed with the last.
+/// The shapes on a chart, in its user shapes part. The part's anchors are fractions of the chart's size. The
+/// part is created with the first shape and removed with the last one.
 class ChartDrawing : public AnchoredShapes<ChartShape> {
  public:
-  /// Error 1004 if the part can't be read.
+  /// Reads the part, if there is one. Error 1004 if it can't be read.
   explicit ChartDrawing(ChartPart& chart);
   ~ChartDrawing() override;
 
+  /// The chart of the drawing.
   ChartPart& Chart() const { return chart_; }
-  /// Sets the shape that frames the chart on its sheet and gives the chart its size.
+  /// Sets the shape that contains the chart on its sheet and determines the chart's size.
   void SetFrame(std::weak_ptr<DrawnShape> frame) { frame_ = std::move(frame); }
   /// Width and height in points.
   Frame Size() const;
@@ -33,10 +34,10 @@ class ChartDrawing : public AnchoredShapes<ChartShape> {
   /// The shape's name is `name` and a number; `preset` is its geometry in the file (ST_ShapeType).
   std::shared_ptr<ChartShape> AddAutoShape(std::string_view name, std::string_view preset,
                                            const Frame& frame);
-  /// Makes one shape of several. It takes the place of the foremost of them in the order of drawing. Error
-  /// 1004 if fewer than two of them are on the chart.
+  /// Groups several shapes into one. The group takes the front-most shape's place in the drawing order. Error
+  /// 1004 if fewer than two of the shapes are on the chart.
   std::shared_ptr<ChartShape> Group(const std::vector<std::shared_ptr<DrawnShape>>& shapes);
-  /// Brings the part, and the chart's link to it, up to date.
+  /// Updates the part and the chart's link to it.
   void Write();
 
  protected:

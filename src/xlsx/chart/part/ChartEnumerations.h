@@ -2,7 +2,7 @@
 
 #include "xlsx/base/Enumerations.h"
 
-/// Enumerations of Excel's object model that only charts have, and how the file says them.
+/// Enumerations of Excel's object model that only charts have, and their tokens in the file.
 namespace plotsmith::xlsx {
 
 /// XlLegendPosition, ST_LegendPos.
@@ -11,7 +11,7 @@ extern const Enumeration kLegendPositions;
 extern const Enumeration kLabelPositions;
 /// MsoPatternType, ST_PresetPatternVal.
 extern const Enumeration kPatterns;
-/// XlPattern, as far as it is a pattern of two colours, ST_PresetPatternVal.
+/// XlPattern without the patterns of one colour, ST_PresetPatternVal.
 extern const Enumeration kInteriorPatterns;
 /// XlLineStyle, ST_PresetLineDashVal.
 extern const Enumeration kLineStyles;

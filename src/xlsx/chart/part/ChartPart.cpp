@@ -57,7 +57,7 @@ void ChartPart::Leave() {
 
 pugi::xml_node ChartPart::Space() {
   Load();
-  // A chart that can't be read only fails itself, and not the workbook.
+  // An unreadable chart fails only when it is used; the workbook can be opened.
   if (!document_) throw Refusal("The chart can't be read: " + *unreadable_ + ".");
   return xml::Root(*document_);
 }
@@ -70,9 +70,9 @@ void ChartPart::Load() {
     if (part_.empty()) throw PackageError("the chart's part is missing");
     InPart(part_, [&] {
       xml::Parse(*document, book_.Package().Read(part_));
-      if (!xml::Is(xml::Root(*document), "chartSpace")) throw PackageError("it is no chart");
+      if (!xml::Is(xml::Root(*document), "chartSpace")) throw PackageError("it isn't a chart");
       if (CountSeries(xml::Root(*document)) > limits::kSeries) {
-        throw PackageError("it has more series than we can hold");
+        throw PackageError("it has more series than Plotsmith supports");
       }
     });
     document_ = std::move(document);
@@ -93,7 +93,7 @@ const Theme& ChartPart::Theme() {
         ownTheme_ = book_.Theme().WithOverride(book_.Package().Read(link->target));
       }
     } catch (const PackageError&) {
-      // An unreadable override is ignored; the workbook's theme counts.
+      // An unreadable override is ignored, and the workbook's theme is used.
     }
   }
   return ownTheme_ ? *ownTheme_ : book_.Theme();
@@ -172,7 +172,7 @@ void ChartPart::Follow() {
 }
 
 void ChartPart::Write() {
-  if (!book_.Shifts().None()) Load();  // the chart may point at rows that have moved
+  if (!book_.Shifts().None()) Load();  // the chart may refer to rows that have moved
   if (!document_) return;
   Follow();
   if (drawing_) drawing_->Write();

@@ -16,63 +16,69 @@ class BookContext;
 class ChartDrawing;
 class ChartParts;
 
-/// A series element. It becomes a null node when the series is deleted while an object still refers to it.
+/// A series element. It becomes a null node when the series is deleted, because objects may still refer to
+/// it.
 struct SeriesEntry {
   pugi::xml_node node;
 };
 using SeriesRef = std::shared_ptr<SeriesEntry>;
 
-/// A chart part: the document that the objects of a chart are views over. It is parsed at the first use, and
+/// A chart part, whose document the objects of a chart are views of. It is parsed at the first use, and
 /// written if it was changed.
 class ChartPart {
  public:
-  /// If `part` is empty, or names a part that can't be read, every use is error 1004.
+  /// If `part` is empty or names an unreadable part, every use raises error 1004.
   ChartPart(ChartParts& parts, std::string part);
   ~ChartPart();
 
+  /// The workbook of the chart.
   BookContext& Book() const { return book_; }
-  /// The chart parts of the workbook, this one among them.
+  /// The chart parts of the workbook, including this one.
   ChartParts& Parts() const { return parts_; }
+  /// The name of the part; empty if there is none.
   const std::string& Part() const { return part_; }
-  /// Call this when the chart is deleted. Every use of it, its series and its shapes is error 1004 from then
-  /// on.
+  /// Call this when the chart is deleted. After that, every use of it, its series and its shapes raises error
+  /// 1004.
   void Leave();
-  /// The chartSpace element; error 1004 if the part can't be read, or the chart was deleted.
+  /// The chartSpace element. Error 1004 if the part can't be read or the chart was deleted.
   pugi::xml_node Space();
-  /// Whether the part can be parsed; error 1004 if the chart was deleted.
+  /// Returns true if the part can be parsed. Error 1004 if the chart was deleted.
   bool IsReadable();
-  /// The chart element and its plot area, which are made if they are missing.
+  /// The chart element, which is made if it is missing.
   pugi::xml_node Chart();
+  /// The plot area, which is made if it is missing.
   pugi::xml_node PlotArea();
   /// All plot groups, in the order of the part.
   std::vector<pugi::xml_node> Groups();
-  /// All series in plot order. Code that adds or removes a series element must do so here as well.
+  /// All series in plot order. Code that adds or removes a series element must update this list as well.
   std::vector<SeriesRef>& Series();
-  /// Whether the part had no series when it was opened.
+  /// Returns true if the part had no series when it was opened.
   bool CameEmpty();
 
-  /// The theme that the chart's colours and fonts refer to: its own override, else the workbook's.
+  /// The theme of the chart's colours and fonts: its own override, otherwise the workbook's.
   const xlsx::Theme& Theme();
-  /// The colour that an element such as `solidFill` gives on this chart, as red + 256 * green + 65536 * blue;
-  /// nothing if it depends on something unknown.
+  /// The colour of an element such as `solidFill` on this chart, as red + 256 * green + 65536 * blue; absent
+  /// if it depends on something unknown.
   std::optional<std::int32_t> Color(pugi::xml_node holder);
 
   /// The shapes that are drawn on the chart.
   ChartDrawing& Drawing();
 
+  /// Notes that the part must be written.
   void MarkChanged() { changed_ = true; }
+  /// Returns true if the part or its shapes were changed.
   bool Changed() const;
-  /// References in the part follow the rows that moved since they were last looked at.
+  /// Updates the references in the part for rows that have moved since the last call.
   void CatchUp();
-  /// Brings the part in the package up to date. A part that can't be read stays as it is.
+  /// Writes the changes into the package. A part that can't be read stays as it is.
   void Write();
 
   /// The elements that were set aside when the chart's type changed, by the name of the type's state. They
-  /// come back with the type. They exist in memory only.
+  /// are restored with the type. They exist in memory only.
   pugi::xml_node LaidAside(const std::string& state) const;
-  /// An empty element for them, which replaces an earlier one.
+  /// Makes an empty element for them, which replaces an earlier one.
   pugi::xml_node LayAside(const std::string& state);
-  /// Drops what was set aside.
+  /// Discards the elements that were set aside.
   void Forget(const std::string& state);
 
  private:
@@ -89,7 +95,7 @@ class ChartPart {
   std::unique_ptr<ChartDrawing> drawing_;
   pugi::xml_document laidAside_;
   std::optional<std::vector<SeriesRef>> series_;
-  bool cameEmpty_ = false;  ///< known with series_
+  bool cameEmpty_ = false;  ///< set together with series_
   bool changed_ = false;
   bool deleted_ = false;
   std::size_t followed_ = 0;

@@ -49,7 +49,7 @@ void ChartParts::UseChartsOfMovedRows() {
     try {
       if (book_.Shifts().MayConcern(xml::ToUtf8(book_.Package().Read(part)))) At(part);
     } catch (const PackageError&) {
-      // A chart that can't be read follows no rows and stays as it is.
+      // An unreadable chart stays as it is; its references aren't updated.
     }
   }
 }

@@ -9,9 +9,10 @@ namespace plotsmith::xlsx {
 
 class ChartDrawing;
 
-/// A shape on a chart: a view over its anchor in the chart's drawing.
+/// A shape on a chart, as a view of its anchor in the chart's drawing.
 class ChartShape final : public DrawnShape {
  public:
+  /// Makes the shape for an anchor and the object on it.
   ChartShape(ChartDrawing& drawing, pugi::xml_node anchor, pugi::xml_node object);
 
   Frame PlacedFrame() const override;
@@ -21,7 +22,7 @@ class ChartShape final : public DrawnShape {
   const xlsx::Theme& Theme() const override;
 
  protected:
-  /// Anchors can only give places on the chart. A shape that would stick out is moved back, and made smaller
+  /// Anchors are limited to the chart. A shape that would extend beyond it is moved back, and made smaller
   /// only if it is larger than the chart.
   Frame MoveAnchor(const Frame& wanted) override;
   void RemoveFromDrawing() override;

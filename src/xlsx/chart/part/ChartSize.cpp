@@ -7,7 +7,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// The chart sheet that Excel makes for paper of letter size.
+/// The size of a chart sheet that Excel makes for paper of letter size.
 constexpr Frame kChartSheet = {0, 0, 682.5, 495};
 
 }  // namespace

@@ -46,7 +46,7 @@ std::int32_t Varied(ChartPart& part, const std::string& color, const Variation& 
   return part.Color(holder.first_child()).value_or(0);
 }
 
-/// A colour of the theme of which so much is left, in thousandths of a percent, and the rest is white.
+/// Mixes a theme colour with white. `left` is the share of the colour, in thousandths of a percent.
 std::int32_t Tinted(ChartPart& part, const std::string& color, int left) {
   pugi::xml_document holder;
   pugi::xml_node scheme = holder.append_child("solidFill").append_child("schemeClr");
@@ -65,7 +65,7 @@ Variation Faded(std::size_t index, std::size_t count) {
 }  // namespace
 
 long long ChartStyleOf(ChartPart& part) {
-  // Newer files have it twice.
+  // Newer files contain the element twice.
   const auto space = part.Space();
   const auto alternatives = xml::Child(space, "AlternateContent");
   for (const pugi::xml_node& holder :

@@ -23,7 +23,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-// More constants like those in the header.
+// Further constants of the kind in the header.
 constexpr double kLegendPadding = 8;  // around all entries together
 constexpr double kKeyEms = 2.4;       // a legend key with the gaps around it, which grows with the text
 
@@ -33,7 +33,7 @@ TextFace FaceOf(ChartPart& part, pugi::xml_node element, TextRole role) {
   return {look.typeface, look.points, look.bold};
 }
 
-/// The room that a title takes across its text, in points; 0 if the title overlays the plot area.
+/// Returns the space that a title takes across its text, in points; 0 if the title overlays the plot area.
 double TitleDepth(ChartPart& part, pugi::xml_node title, TextRole role, double room) {
   if (!title || schema::BooleanVal(title, "overlay", false)) return 0;
   const TextFace face = FaceOf(part, title, role);
@@ -49,7 +49,7 @@ double TitleDepth(ChartPart& part, pugi::xml_node title, TextRole role, double r
   return lines * LineHeight(face) + kTitlePadding;
 }
 
-/// Takes the room of the legend from the free room.
+/// Subtracts the space of the legend from the free space.
 void SetLegendAside(ChartPart& part, const Frame& chart, Edges& taken) {
   const auto legend = xml::Child(part.Chart(), "legend");
   if (!legend || schema::BooleanVal(legend, "overlay", false)) return;
@@ -84,7 +84,7 @@ void ForEachAxis(ChartPart& part, const Visit& visit) {
   }
 }
 
-/// The texts along an axis: the categories, or the least and the greatest value.
+/// Returns the texts along an axis: the categories, or the smallest and the largest value.
 std::vector<std::string> LabelsOf(ChartPart& part, pugi::xml_node axis) {
   std::vector<std::string> labels;
   if (xml::Is(axis, "serAx")) return labels;

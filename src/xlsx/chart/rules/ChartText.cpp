@@ -36,7 +36,7 @@ void SetTitleText(pugi::xml_node title, std::string_view text) {
   pugi::xml_node rich = schema::Ensure(tx, "rich");
   pugi::xml_node first = EnsureParagraph(rich);
   if (fresh) {
-    // A title with a cell's text has its format in text properties.
+    // A title that shows a cell's text has its format in text properties.
     if (const auto own = xml::Child(title, "txPr")) {
       rich.remove_children();
       for (const pugi::xml_node& child : own.children()) rich.append_copy(child);
@@ -90,7 +90,7 @@ bool SetTextOrientation(pugi::xml_node body, std::int32_t orientation) {
       degrees = orientation;
   }
   const pugi::xml_node properties = schema::Ensure(body, "bodyPr");
-  // The file counts clockwise, in sixty-thousandths of a degree.
+  // The file counts clockwise, in units of 1/60,000 degree.
   xml::SetAttribute(properties, "rot", std::to_string(-degrees * 60000));
   xml::SetAttribute(properties, "vert", direction);
   return true;

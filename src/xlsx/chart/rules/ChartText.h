@@ -7,24 +7,24 @@
 #include <string_view>
 #include <vector>
 
-/// The texts of a chart: titles, and labels with a text of their own.
+/// The texts of a chart: titles, and labels with their own text.
 namespace plotsmith::xlsx {
 
 class ChartPart;
 
-/// The text of a title, with line feeds between lines. Empty for a title whose text Excel chooses.
+/// The text of a title, with line feeds between lines. Empty for an automatic title.
 std::string TitleText(ChartPart& part, pugi::xml_node title);
-/// The title that the chart shows; nothing if it shows none. A chart of one series without a title shows the
-/// series' name, unless the automatic title was deleted.
+/// The title that the chart shows; absent if it shows none. A chart of one series without a title shows the
+/// name of the series, unless the automatic title was deleted.
 std::optional<std::string> ShownTitle(ChartPart& part);
-/// Sets the text of a title or a label, one paragraph a line. The format of the former text is kept.
+/// Sets the text of a title or a label, one paragraph for each line. The format of the old text is kept.
 void SetTitleText(pugi::xml_node title, std::string_view text);
 
-/// The bodies that hold the text format of an element: its rich text, else its text properties, which are
-/// made if they are missing. For the labels of a series, those of single points that differ are included.
+/// The bodies with the text format of an element: its rich text, otherwise its text properties, which are
+/// made if they are missing. For the labels of a series, the bodies of single points are included.
 std::vector<pugi::xml_node> TextBodies(pugi::xml_node element);
-/// Rotates a body of text: degrees from -90 to 90, or one of xlHorizontal, xlUpward, xlDownward, xlVertical.
-/// False for anything else.
+/// Rotates a text body by degrees from -90 to 90, or as xlHorizontal, xlUpward, xlDownward or xlVertical.
+/// Returns false for other values.
 bool SetTextOrientation(pugi::xml_node body, std::int32_t orientation);
 
 }  // namespace plotsmith::xlsx

@@ -9,17 +9,17 @@
 namespace plotsmith::xlsx {
 namespace {
 
-// Excel's sizes for texts without a size.
+// Excel's default text sizes.
 constexpr double kPoints = 10;
 constexpr double kTitlePoints = 18;
-constexpr double kTitleGrowth = 1.2;  // times the chart's own size, if it has one
+constexpr double kTitleGrowth = 1.2;  // relative to the chart's own size, if it has one
 
-/// Text properties in the order in which they count. Null nodes are skipped.
+/// Text properties in order of precedence. Null nodes are skipped.
 using Chain = std::vector<pugi::xml_node>;
 
 pugi::xml_node DefaultsOf(pugi::xml_node paragraph) { return xml::Child(paragraph, "pPr", "defRPr"); }
 
-/// The properties of a body (c:txPr, c:rich) for all of its text.
+/// Returns the default properties of a body (c:txPr, c:rich).
 pugi::xml_node DefaultsOfBody(pugi::xml_node body) { return DefaultsOf(xml::Child(body, "p")); }
 
 std::string AttributeOf(const Chain& chain, const char* name) {
@@ -70,7 +70,7 @@ TextLook Look(ChartPart& part, Chain chain, TextRole role) {
   return look;
 }
 
-/// Adds the formats of a body's runs. `behind` are the properties that count where a run has none.
+/// Adds the formats of a body's runs. `behind` are the properties that a run falls back to.
 void AddRuns(ChartPart& part, pugi::xml_node body, const Chain& behind, TextRole role,
              std::vector<TextLook>& looks) {
   for (const pugi::xml_node& paragraph : xml::Children(body, "p")) {

@@ -12,7 +12,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-constexpr const char* kExplosion = "25";        // percent, as Excel pulls slices out
+constexpr const char* kExplosion = "25";        // percent; Excel's default for exploded slices
 constexpr const char* kScatterWidth = "28575";  // EMU, of the hidden line of a scatter chart without lines
 
 bool Lists(std::string_view list, std::string_view word) {
@@ -24,7 +24,7 @@ bool Lists(std::string_view list, std::string_view word) {
   return false;
 }
 
-/// Elements that only series of some groups have.
+/// Elements that only the series of some groups have.
 struct Extra {
   std::string_view name, groups;
 };
@@ -125,7 +125,7 @@ void RemoveMisfits(ChartPart& part, pugi::xml_node series) {
 }
 
 void FitToGroup(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type) {
-  // Only lines have it, and Excel and this host always write it.
+  // Only lines have this element, and Excel and this host always write it.
   const bool wasLine = static_cast<bool>(xml::Child(series, "smooth"));
   RemoveMisfits(part, series);
   if (type.HasXValues()) {
@@ -135,14 +135,14 @@ void FitToGroup(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& ty
     Rename(series, "xVal", "cat");
     Rename(series, "yVal", "val");
   }
-  // Readers have different defaults for these two.
+  // Programs have different defaults for these two elements.
   if ((type.IsBar() || type.IsBubble()) && !xml::Child(series, "invertIfNegative")) {
     schema::SetVal(series, "invertIfNegative", "0");
   }
   const bool isLine = type.IsLine() || type.element == "scatterChart";
   if (isLine && !wasLine) schema::SetVal(series, "smooth", "0");
   if (wasLine && !isLine) {
-    // A hidden line would become a hidden outline.
+    // A hidden line would become a hidden outline in the new group.
     pugi::xml_node properties = xml::Child(series, "spPr");
     if (xml::Is(FindFill(xml::Child(properties, "ln")), "noFill")) schema::Remove(properties, "ln");
   }

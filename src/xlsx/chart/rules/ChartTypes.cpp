@@ -118,7 +118,7 @@ std::int32_t BarType(pugi::xml_node group, pugi::xml_node series, bool is3D) {
   const bool bars = schema::Val(group, "barDir", "col") == "bar";
   if (!is3D) return (bars ? kBars : kColumns).Of(grouping);
   std::string shape = schema::Val(series, "shape", schema::Val(group, "shape", "box"));
-  // The object model has no types for "to max", which cuts all shapes at one height.
+  // The object model has no types for "to max", which cuts off all shapes at the same height.
   if (const auto cut = shape.find("ToMax"); cut != std::string::npos) shape.erase(cut);
   const auto found = std::find_if(kColumnShapes.begin(), kColumnShapes.end(),
                                   [&](const ColumnShape& entry) { return entry.shape == shape; });
@@ -142,7 +142,7 @@ std::int32_t LineType(pugi::xml_node group, pugi::xml_node series) {
 }
 
 std::int32_t ScatterType(pugi::xml_node group, pugi::xml_node series) {
-  // Excel joins the points with lines where a file doesn't say how they are drawn.
+  // Excel joins the points with lines if the file has no style.
   const std::string style = schema::Val(group, "scatterStyle", "lineMarker");
   if (!HasLine(series) || style == "marker" || style == "none") return excel::xlXYScatter;
   const bool markers = HasMarkers(series, style != "line" && style != "smooth");

@@ -37,7 +37,7 @@ void Link(pugi::xml_node group, const std::string& id) {
   xml::SetAttribute(schema::Insert(group, "axId"), "val", id);
 }
 
-/// The wanted id, or an unused id if that is empty or already used.
+/// Returns the wanted id, or an unused one if that is empty or already used.
 std::string FreeAxisId(pugi::xml_node plotArea, const std::string& wanted = {}) {
   std::set<std::string> taken;
   for (const pugi::xml_node& axis : plotArea.children()) {
@@ -83,7 +83,7 @@ pugi::xml_node Restored(pugi::xml_node plotArea, pugi::xml_node laidAside) {
   return axis;
 }
 
-/// The axis that the chart has in a role, else the last one that it had, else a new one.
+/// Returns the chart's axis for a role: the present one, else the last one that it had, else a new one.
 pugi::xml_node EnsureAxis(ChartPart& part, pugi::xml_node present, const char* role) {
   if (present) return present;
   if (const auto laidAside = part.LaidAside(role).first_child()) return Restored(part.PlotArea(), laidAside);
@@ -103,7 +103,7 @@ void TurnAxis(pugi::xml_node axis, bool upright) {
 }  // namespace
 
 std::vector<pugi::xml_node> AxesOf(pugi::xml_node group) {
-  constexpr std::size_t kMost = 3;  // with the depth axis
+  constexpr std::size_t kMost = 3;  // including the depth axis
   std::vector<pugi::xml_node> axes;
   auto links = xml::Children(group, "axId");
   links.resize(std::min(links.size(), kMost));
@@ -153,7 +153,7 @@ void ShowAxes(ChartPart& part) {
   for (const pugi::xml_node& child : part.PlotArea().children()) {
     if (schema::IsAxis(child)) axes.push_back(child);
   }
-  // An axis that is hidden beside a visible one was hidden on purpose.
+  // An axis that is hidden while another one is visible was hidden on purpose.
   const bool hidden = std::all_of(axes.begin(), axes.end(), [](const pugi::xml_node& axis) {
     return schema::BooleanVal(axis, "delete", false);
   });
@@ -169,8 +169,7 @@ std::string_view CrossBetween(std::string_view groupElement) {
 
 namespace {
 
-/// Removes the axes that the type doesn't need from the plot area, and lays them aside. Returns those that
-/// stay.
+/// Removes the axes that the type doesn't need from the plot area, and sets them aside. Returns the others.
 AxisRoles KeepAxes(ChartPart& part, const std::vector<pugi::xml_node>& old, const ChartTypeEntry& type) {
   pugi::xml_node plotArea = part.PlotArea();
   AxisRoles roles = RolesOf(old);
@@ -192,7 +191,7 @@ AxisRoles KeepAxes(ChartPart& part, const std::vector<pugi::xml_node>& old, cons
   return roles;
 }
 
-/// Sets where the value axis, and an axis of X values, crosses the other one.
+/// Sets the positions at which the value axis, and an axis of X values, cross the other axis.
 void SetCrossing(pugi::xml_node first, pugi::xml_node value, const ChartTypeEntry& type, pugi::xml_node state,
                  bool familyChanged) {
   const std::string between = xml::Attribute(state, "crossBetween");
@@ -231,7 +230,7 @@ void ArrangeAxes(ChartPart& part, pugi::xml_node group, const std::vector<pugi::
   const pugi::xml_node first =
       type.HasXValues() ? EnsureAxis(part, roles.x, kXRole) : EnsureAxis(part, roles.category, kCategoryRole);
   const pugi::xml_node value = EnsureAxis(part, roles.value, kValueRole);
-  if (!roles.category && !roles.x) plotArea.insert_move_before(first, value);  // as Excel writes them
+  if (!roles.category && !roles.x) plotArea.insert_move_before(first, value);  // in Excel's order
   schema::SetVal(first, "crossAx", AxisId(value));
   schema::SetVal(value, "crossAx", AxisId(first));
   TurnAxis(first, type.IsHorizontal());

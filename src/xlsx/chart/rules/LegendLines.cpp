@@ -20,7 +20,7 @@ namespace {
 
 pugi::xml_node FindLegend(ChartPart& part) { return xml::Child(part.Chart(), "legend"); }
 
-/// Whether the legend lists points: always for a pie, else for a single series in varied colours.
+/// Returns true if the legend lists points: always for a pie, and for a single series in varied colours.
 bool ListsPoints(ChartPart& part) {
   const auto groups = DrawnGroups(part);
   if (groups.empty()) return false;
@@ -29,7 +29,7 @@ bool ListsPoints(ChartPart& part) {
   return part.Series().size() == 1 && schema::BooleanVal(groups[0], "varyColors", false);
 }
 
-/// The texts of the categories; of several levels they are one text, the outermost first.
+/// Returns the texts of the categories. Several levels are joined to one text, the outermost first.
 std::map<std::size_t, std::string> CategoryTexts(ChartPart& part, pugi::xml_node categories) {
   const auto cache = xml::Child(categories, "multiLvlStrRef", "multiLvlStrCache");
   if (!cache) return DataTexts(part, categories);
@@ -44,7 +44,7 @@ std::map<std::size_t, std::string> CategoryTexts(ChartPart& part, pugi::xml_node
       texts = std::move(own);
       continue;
     }
-    // a text of an outer level holds until the next one
+    // a text of an outer level is valid until the next one
     for (auto& [index, text] : texts) {
       const auto next = own.upper_bound(index);
       if (next != own.begin()) text.insert(0, std::prev(next)->second + " ");

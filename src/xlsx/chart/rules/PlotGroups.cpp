@@ -33,8 +33,8 @@ std::string StateName(const ChartTypeEntry& type) {
   return std::string(type.element) + "-" + std::string(type.direction) + "-" + std::string(type.grouping);
 }
 
-/// Copies of the group without its series, of the view, floor and walls of a 3-D chart, of the depth axis,
-/// and of the crossing of the value axis: all elements that belong to one type.
+/// Sets aside all elements that belong to one chart type: copies of the group without its series, of the
+/// view, floor and walls of a 3-D chart, of the depth axis, and of the crossing of the value axis.
 void LayTypeAside(ChartPart& part, pugi::xml_node group) {
   pugi::xml_node state = part.LayAside(StateName(group));
   pugi::xml_node kept = state.append_copy(group);
@@ -49,7 +49,7 @@ void LayTypeAside(ChartPart& part, pugi::xml_node group) {
   if (!between.empty()) xml::SetAttribute(state, "crossBetween", between);
 }
 
-/// The group that was set aside for the type, else one derived from an old group.
+/// Returns the group that was set aside for the type, else one that is derived from an old group.
 pugi::xml_node MakeGroup(ChartPart& part, pugi::xml_node old, const ChartTypeEntry& type,
                          pugi::xml_node state) {
   const auto laidAside = xml::Child(state, type.element);
@@ -59,8 +59,8 @@ pugi::xml_node MakeGroup(ChartPart& part, pugi::xml_node old, const ChartTypeEnt
   return group;
 }
 
-/// Sets view, floor and walls: those set aside for the type, else the present ones of the same kind, else
-/// Excel's defaults.
+/// Sets the view, floor and walls: those that were set aside for the type, else the present ones of the same
+/// kind, else Excel's defaults.
 void Arrange3DView(pugi::xml_node chart, const ChartTypeEntry& type, pugi::xml_node state, bool sameKind) {
   if (!type.Is3D() || state || !sameKind) {
     for (const std::string_view element : k3DViewElements) schema::Remove(chart, element);
@@ -100,8 +100,8 @@ void PutInDrawingOrder(pugi::xml_node group) {
   }
 }
 
-/// The series that a person has filtered out. They are in the extensions of the groups and don't count as
-/// series of the chart.
+/// Returns the series that a user has filtered out. They are in the extensions of the groups, and don't count
+/// as series of the chart.
 std::vector<pugi::xml_node> FilteredSeriesOf(ChartPart& part) {
   std::vector<pugi::xml_node> filtered;
   for (const pugi::xml_node& group : part.Groups()) {
@@ -226,7 +226,7 @@ void SetType(ChartPart& part, const ChartTypeEntry& type) {
   const bool familyChanged = kind.empty() || CrossBetween(kind) != CrossBetween(type.element);
   ArrangeAxes(part, group, axes, type, state, familyChanged);
   Arrange3DView(part.Chart(), type, state, kind.starts_with("pie") == type.IsPie());
-  // Without it, Excel shows gaps and other programs show zeros, and a pivot has blanks.
+  // Without this element, Excel shows gaps and other programs show zeros. A pivot contains blanks.
   if (!xml::Child(part.Chart(), "dispBlanksAs")) schema::SetVal(part.Chart(), "dispBlanksAs", "gap");
 }
 

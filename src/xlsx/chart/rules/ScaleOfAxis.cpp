@@ -20,7 +20,7 @@ using runtime::Variant;
 
 namespace {
 
-/// X values are numbers; where they are texts, points are counted.
+/// X values are numbers; if they are texts, the number of the point is used.
 void AddXValues(pugi::xml_node series, DataExtent& extent) {
   const auto numbers = CachedNumbers(xml::Child(series, "xVal"));
   for (const Variant& number : numbers) {
@@ -31,7 +31,7 @@ void AddXValues(pugi::xml_node series, DataExtent& extent) {
   extent.Add(static_cast<double>(std::max<std::size_t>(PointCount(FindValues(series)), 1)));
 }
 
-/// The cached values of a series, NaN where there is none.
+/// Returns the cached values of a series; NaN for a missing one.
 std::vector<double> ValuesOf(pugi::xml_node series) {
   std::vector<double> values;
   for (const Variant& number : CachedNumbers(FindValues(series))) {

@@ -8,8 +8,8 @@ namespace plotsmith::xlsx {
 
 class ChartPart;
 
-/// The scale of a value axis. Limits that aren't set are computed as Excel computes them, from the cached
-/// data of the series along the axis.
+/// The scale of a value axis. Automatic limits are computed like Excel's, from the cached data of the series
+/// on the axis.
 AxisScale ScaleOf(ChartPart& part, pugi::xml_node axis);
 
 }  // namespace plotsmith::xlsx

@@ -6,18 +6,17 @@
 namespace plotsmith::xlsx {
 namespace {
 
-constexpr double kHeadroom = 0.05;  // of the data's range, above its greatest value
-constexpr double kFarFromZero =
-    1.0 / 6;                       // range to greatest value, below which an axis doesn't begin at zero
-constexpr double kFootroom = 0.5;  // of the range, below the least value of such an axis
-constexpr double kMostSteps = 10;  // major units on an axis of the usual length
-constexpr double kDust = 1e-9;     // of a unit: a value that is nearer to a step is on the step
+constexpr double kHeadroom = 0.05;        // of the data's range, above its largest value
+constexpr double kFarFromZero = 1.0 / 6;  // of the largest value; an axis of a smaller range has no zero
+constexpr double kFootroom = 0.5;         // of the range, below the smallest value of such an axis
+constexpr double kMostSteps = 10;         // major units on an axis of the usual length
+constexpr double kDust = 1e-9;            // of a unit: a value this close to a step counts as that step
 
 /// The smallest of 1, 2, 5, 10 and so on that divides a range into at most the allowed number of steps.
 double UnitFor(double range) {
   const double least = range / kMostSteps;
   const double power = std::pow(10, std::floor(std::log10(least)));
-  if (!(power > 0) || !std::isfinite(power)) return 1;  // no range, or beyond the range of numbers
+  if (!(power > 0) || !std::isfinite(power)) return 1;  // no range, or beyond the range of double
   for (const double step : {1.0, 2.0, 5.0}) {
     if (step * power >= least * (1 - kDust)) return step * power;
   }
@@ -39,7 +38,7 @@ AxisScale LogScale(double least, double greatest, const AxisSettings& settings) 
           settings.majorUnit.value_or(scale.majorUnit)};
 }
 
-/// The limits before they are rounded outwards to the next major unit.
+/// The limits before they are rounded outwards to a multiple of the major unit.
 struct Wish {
   double minimum, maximum;
 };
@@ -63,7 +62,7 @@ Wish WishFor(double least, double greatest, bool headroom) {
 AxisScale ScaleAxis(double least, double greatest, const AxisSettings& settings) {
   if (!std::isfinite(least) || !std::isfinite(greatest) || least > greatest) return ScaleEmptyAxis(settings);
   if (settings.logBase) return LogScale(least, greatest, settings);
-  // A single value counts from zero.
+  // For a single value, the range begins at zero.
   if (least == greatest && least > 0) least = 0;
   if (least == greatest && greatest < 0) greatest = 0;
   if (least == greatest) return ScaleEmptyAxis(settings);

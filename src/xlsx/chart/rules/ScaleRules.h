@@ -9,12 +9,11 @@ struct AxisScale {
   double minimum = 0, maximum = 1, majorUnit = 0.1;
 };
 
-/// The settings of an axis that replace automatic ones. A limit that is set counts instead of the data on its
-/// side.
+/// The settings of an axis that replace automatic ones. A limit that is set replaces the data on its side.
 struct AxisSettings {
   std::optional<double> minimum, maximum, majorUnit;
   std::optional<double> logBase;
-  /// Whether there is room above the greatest value. 3-D charts and 100 % stacked charts leave none.
+  /// True if there is space above the largest value. 3-D charts and 100 % stacked charts have none.
   bool headroom = true;
 };
 

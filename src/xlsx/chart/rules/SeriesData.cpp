@@ -41,7 +41,8 @@ const char* PropertyName(SeriesData which) {
   return "Values";
 }
 
-/// The cells of a formula without its equals sign, if a sheet has them and a cache has room for them.
+/// Finds the cells of a formula without its equals sign. Absent if no sheet has them or if they are too many
+/// for a cache.
 std::optional<Source> FindCells(ChartPart& part, std::string_view formula) {
   const auto range = ParseSheetRange(formula);
   auto sheet = range ? part.Book().FindCells(range->sheet) : nullptr;
@@ -57,7 +58,7 @@ Source FindSource(ChartPart& part, SeriesData which, const std::string& referenc
   return *std::move(source);
 }
 
-/// The cells that a series' data refers to, if the part has no cache of them.
+/// Finds the cells of a series' data if the part has no cache of them.
 std::optional<Source> FindUncached(ChartPart& part, pugi::xml_node data) {
   for (const pugi::xml_node& reference : data.children()) {
     const auto formula = xml::Child(reference, "f");
@@ -70,7 +71,7 @@ std::optional<Source> FindUncached(ChartPart& part, pugi::xml_node data) {
   return std::nullopt;
 }
 
-/// Calls `visit` with the number of each cell, from 0, its place and its value.
+/// Calls `visit` with each cell's index (from 0), address and value.
 template <class Visit>
 void ForEachCell(const Source& source, const Visit& visit) {
   std::size_t index = 0;
@@ -120,9 +121,8 @@ pugi::xml_node Emptied(pugi::xml_node series, std::string_view local) {
   return data;
 }
 
-/// Whether a chart has room for the cache of the source. A cache is for readers without the
-/// cells. A chart with too many points only refers to its cells, which is enough for
-/// Excel.
+/// Returns true if the chart has room for a cache of the source. The cache serves programs that don't read
+/// the cells. A chart with too many points only refers to its cells, which is enough for Excel.
 bool HasRoom(ChartPart& part, const Source& source) {
   constexpr std::int64_t kReferences =
       std::int64_t{3} * 255;  // 3 for each of the 255 series that Excel allows
@@ -162,7 +162,7 @@ std::size_t DataPoints(ChartPart& part, pugi::xml_node data) {
 }
 
 std::string SourceText(ChartPart& part, pugi::xml_node tx) {
-  constexpr std::size_t kMostCells = 1000;  // a chart may have many series that point at large ranges
+  constexpr std::size_t kMostCells = 1000;  // a chart may have many series that refer to large ranges
   if (xml::Child(tx, "v")) return CachedText(tx);
   if (const auto cells = FindUncached(part, tx); cells && cells->CellCount() > kMostCells) return {};
   std::string all;
@@ -176,7 +176,7 @@ std::string SeriesName(ChartPart& part, pugi::xml_node series) {
 
 std::string ShownName(ChartPart& part, pugi::xml_node series) {
   if (xml::Child(series, "tx")) return SeriesName(part, series);
-  // The number is that of the series, and not its place in the file.
+  // The number is the index of the series, not its position in the file.
   return "Series" + std::to_string(schema::IntegerVal(series, "idx", 0) + 1);
 }
 

@@ -31,7 +31,7 @@ constexpr std::array<LabelType, 5> kLabelTypes = {{
 }};
 constexpr std::array<const char*, 6> kShown = {"showLegendKey", "showVal",     "showCatName",
                                                "showSerName",   "showPercent", "showBubbleSize"};
-/// The elements of a series' labels that the file repeats in the label of a point.
+/// Elements of a series' labels that the file repeats in each point's label.
 constexpr std::array<const char*, 5> kRepeated = {"numFmt", "spPr", "txPr", "dLblPos", "separator"};
 
 /// The labels that the series of a group have in common, or a null node. They follow the series, so the
