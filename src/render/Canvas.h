@@ -7,6 +7,7 @@
 #include "render/ChartDrawing.h"
 #include "render/Drawing.h"
 #include "render/TextMeasure.h"
+#include "render/fills/Shadow.h"
 
 namespace plotsmith::render {
 
@@ -20,6 +21,8 @@ class Canvas {
   void Add(Tag tag, Path path, const Fill& fill, const Stroke& stroke = {});
   /// Appends a rectangle that readers of the drawing look for, even if nothing of it is seen.
   void AddFrame(Tag tag, const Rect& box, const Fill& fill, const Stroke& stroke);
+  /// Appends the shadow of a shape, which is added after it. `tag` is that of the shape.
+  void AddShadow(Tag tag, const Path& path, const Fill& fill, const Stroke& stroke, const Shadow& shadow);
   void AddLine(Tag tag, Point from, Point to, const Stroke& stroke);
   /// Appends one line of text and fills in its measures.
   void AddText(Tag tag, TextItem text);
@@ -34,6 +37,10 @@ class Canvas {
  private:
   void AddPictures(Tag tag, const Path& path, const PictureFill& fill);
 
+  bool TakeShadow(const Rect& bounds);
+
+  std::size_t shadowsLeft_ = 5000;
+  double shadowAreaLeft_ = 40;  ///< in areas of the drawing, as soft edges take time
   std::size_t pictureBytesLeft_ = 16 * 1024 * 1024;
   Drawing& drawing_;
   const TextMeasure& measure_;

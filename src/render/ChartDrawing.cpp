@@ -6,11 +6,13 @@
 #include "render/Canvas.h"
 #include "render/Description.h"
 #include "render/Images.h"
+#include "render/StyledShape.h"
 #include "render/axes/AxisDrawing.h"
 #include "render/families/Plot.h"
 #include "render/labels/DataLabels.h"
 #include "render/layout/ChartLayout.h"
 #include "render/model/ChartReader.h"
+#include "render/model/EffectReader.h"
 #include "render/model/StyleReader.h"
 #include "render/shapes/UserShapes.h"
 #include "render/threed/Plot3D.h"
@@ -92,6 +94,7 @@ void NoteMissingLooks(Canvas& canvas, xlsx::ChartPart& part) {
     canvas.Note(
         "A picture as a filling isn't drawn, as it is no PNG; what has it is in its automatic colour.");
   }
+  for (std::string& sentence : MissingEffects(part.Space())) canvas.Note(std::move(sentence));
 }
 
 /// What of a chart is known but not drawn.
@@ -99,15 +102,28 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
   const auto has = [](pugi::xml_node node, std::string_view local) {
     return bool(xlsx::xml::Child(node, local));
   };
+  if (chart.chartArea.shadow) {
+    canvas.Note("The shadow of the chart area isn't drawn, as it lies outside of the picture.");
+  }
   for (const GroupModel& group : chart.groups) {
+    const bool hasShadows =
+        std::any_of(group.series.begin(), group.series.end(),
+                    [](const SeriesModel& series) { return series.style.shadow.has_value(); });
+    if (group.is3D && hasShadows) canvas.Note("Shadows of bodies in 3-D aren't drawn.");
     if (group.is3D && !group.outerLevels.empty()) {
       canvas.Note("Of categories in several levels, only the innermost are drawn in 3-D.");
     }
-    if (has(group.node, "upDownBars")) canvas.Note("Up and down bars aren't drawn.");
+    if (has(group.node, "upDownBars") && !group.upDownBars) {
+      canvas.Note("Up and down bars are only drawn between lines.");
+    }
     if (has(group.node.parent(), "dTable")) canvas.Note("The data table below the chart isn't drawn.");
     for (const SeriesModel& series : group.series) {
-      if (has(series.node, "trendline")) canvas.Note("Trendlines aren't drawn.");
-      if (has(series.node, "errBars")) canvas.Note("Error bars aren't drawn.");
+      if (has(series.node, "trendline") && series.trendlines.empty()) {
+        canvas.Note("Trendlines aren't drawn in a chart of this type.");
+      }
+      if (has(series.node, "errBars") && series.errorBars.empty()) {
+        canvas.Note("Error bars aren't drawn in a chart of this type.");
+      }
     }
   }
 }
@@ -115,6 +131,10 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
 void DrawPlot(Plot& plot, const ChartLayout& layout) {
   const ChartModel& chart = plot.chart;
   if (chart.groups.empty()) return;  // a chart without data shows nothing of its plot area
+  if (chart.plotArea.shadow) {
+    plot.canvas.AddShadow({Role::kPlotArea}, Path().AddRect(plot.area), chart.plotArea.fill,
+                          chart.plotArea.stroke, *chart.plotArea.shadow);
+  }
   plot.canvas.AddFrame({Role::kPlotArea}, plot.area, chart.plotArea.fill, chart.plotArea.stroke);
   for (const AxisModel& axis : chart.axes) DrawGridlines(plot.canvas, chart, axis, plot.area);
   for (const GroupModel& group : chart.groups) DrawGroup(plot, group);
@@ -125,7 +145,7 @@ void DrawPlot(Plot& plot, const ChartLayout& layout) {
 }
 
 void DrawTitle(Canvas& canvas, Tag tag, const PlacedTitle& placed, const ShapeStyle& style) {
-  canvas.Add(tag, Path().AddRect(placed.box), style.fill, style.stroke);
+  AddShape(canvas, tag, Path().AddRect(placed.box), style);
   DrawBlock(canvas, tag, placed.block, placed.box.Center());
 }
 

@@ -160,7 +160,14 @@ enum class Role : std::uint8_t {
   kShape,
   kShapeText,
   kCell,
-  kCellText
+  kCellText,
+  kShadow,  ///< of the item that follows it, with the numbers of that item
+  kTrendline,
+  kTrendlineLabel,
+  kUpDownBar,
+  kTableLine,  ///< of a data table, whose texts have the numbers of their series and point
+  kTableText,
+  kSurface
 };
 std::string_view NameOf(Role role);
 
@@ -201,6 +208,15 @@ struct PushClip {
 };
 struct PopClip {};
 
+/// The shadow of a shape: its area and its line in one colour, with soft edges.
+struct ShadowItem {
+  Path path;
+  bool filled = true;
+  double lineWidth = 0;  ///< 0 is no line
+  Color color;
+  double blur = 0;  ///< standard deviation of the soft edge, in points
+};
+
 /// A PNG or JPEG picture, stretched to a rectangle.
 struct ImageItem {
   std::string bytes;
@@ -209,7 +225,7 @@ struct ImageItem {
 
 struct Item {
   Tag tag;
-  std::variant<PathItem, TextItem, PushClip, PopClip, ImageItem> content;
+  std::variant<PathItem, TextItem, PushClip, PopClip, ImageItem, ShadowItem> content;
 };
 
 /// Around what the item paints; empty for clips.

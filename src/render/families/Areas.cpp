@@ -1,7 +1,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "render/StyledShape.h"
 #include "render/axes/DateAxis.h"
+#include "render/families/Analysis.h"
 #include "render/families/Curves.h"
 #include "render/families/Plot.h"
 
@@ -24,6 +26,7 @@ void DrawAreas(Plot& plot, const GroupModel& group) {
   const AxisMap values = AxisMap::Along(*valueAxis, plot.area);
   const Extents extents = StackValues(group);
   const double base = plot.BaseOf(group);
+  ErrorBarPainter bars(plot, group);
   plot.canvas.PushClip(Path().AddRect(plot.area));
   std::vector<DropLine> dropLines;
   std::vector<double> pile(group.PointCount());  // a series without a value leaves the pile as it is
@@ -39,6 +42,7 @@ void DrawAreas(Plot& plot, const GroupModel& group) {
       upper.push_back({x, values.OfValue(to)});
       lower.push_back({x, from == 0 ? base : values.OfValue(from)});
       if (!present) continue;
+      bars.Add(series, i, x, to);
       const double top = std::min(upper.back().y, lower.back().y);
       const double bottom = std::max(upper.back().y, lower.back().y);
       plot.Keep({&group, &series, i, {x, top, 0, bottom - top}, to < from});
@@ -50,13 +54,14 @@ void DrawAreas(Plot& plot, const GroupModel& group) {
     std::vector<Point> outline = Thinned(upper);
     const std::vector<Point> back = Thinned(lower);
     outline.insert(outline.end(), back.rbegin(), back.rend());
-    plot.canvas.Add({Role::kArea, series.number}, Path().AddPolygon(outline), series.style.fill,
-                    series.style.stroke);
+    AddShape(plot.canvas, {Role::kArea, series.number}, Path().AddPolygon(outline), series.style);
   }
   for (const DropLine& line : dropLines) {
     plot.canvas.AddLine(line.tag, {line.x, line.top}, {line.x, line.bottom}, *group.dropLines);
   }
+  bars.Draw();
   plot.canvas.PopClip();
+  DrawTrendlines(plot, group);
 }
 
 }  // namespace plotsmith::render

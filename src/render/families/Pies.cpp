@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "render/StyledShape.h"
 #include "render/families/Plot.h"
 #include "render/labels/DataLabels.h"
 #include "render/labels/LabelText.h"
@@ -116,8 +117,8 @@ void DrawSlices(Plot& plot, std::vector<DrawnPoint> slices, const Ring& ring) {
     slice.hole = hole;
     if (slice.sweep > 0) {
       const ShapeStyle& style = series.StyleOf(slice.index);
-      plot.canvas.Add({Role::kSlice, series.number, static_cast<int>(slice.index + 1)},
-                      SliceOutline(slice.circle, slice), style.fill, style.stroke);
+      AddShape(plot.canvas, {Role::kSlice, series.number, static_cast<int>(slice.index + 1)},
+               SliceOutline(slice.circle, slice), style);
     }
     plot.Keep(slice);
   }

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "render/StyledShape.h"
 #include "render/labels/LabelText.h"
 #include "render/labels/PieLabels.h"
 #include "render/layout/LegendLayout.h"
@@ -165,7 +166,7 @@ void DrawLabel(Plot& plot, const PlacedLabel& placed) {
   const Tag tag{Role::kDataLabel, point.series->number, static_cast<int>(point.index + 1)};
   const Rect box = placed.Box();
   DrawLeader(plot, placed);
-  plot.canvas.Add(tag, Path().AddRect(box), label.style.fill, label.style.stroke);
+  AddShape(plot.canvas, tag, Path().AddRect(box), label.style);
   if (label.showsKey) {
     DrawKey(plot.canvas, plot.chart, {Role::kLegendKey, tag.series, tag.point},
             {box.left + kLabelPadding, placed.center.y - kKeySide / 2, kKeySide, kKeySide});

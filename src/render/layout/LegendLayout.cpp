@@ -28,6 +28,7 @@ struct Measured {
 };
 
 bool HasLineKey(const ChartModel& chart, const LegendEntry& entry) {
+  if (entry.trendline > 0) return true;
   const GroupModel* group = chart.GroupOfSeries(entry.series);
   if (group == nullptr || group->is3D) return false;
   return group->family == Family::kLine || group->family == Family::kScatter ||
@@ -277,6 +278,18 @@ void DrawKey(Canvas& canvas, const ChartModel& chart, Tag tag, const Rect& box) 
   DrawMarker(canvas, tag, marker, box.Center());
 }
 
+namespace {
+
+void DrawTrendlineKey(Canvas& canvas, const ChartModel& chart, const LegendEntry& entry, const Rect& box) {
+  const SeriesModel* series = chart.FindSeries(entry.series);
+  if (series == nullptr) return;
+  const double middle = box.Center().y;
+  canvas.AddLine({Role::kLegendKey, entry.series}, {box.left, middle}, {box.Right(), middle},
+                 series->trendlines[static_cast<std::size_t>(entry.trendline - 1)].style.stroke);
+}
+
+}  // namespace
+
 void DrawLegend(Canvas& canvas, const ChartModel& chart, const LegendLayout& layout) {
   if (layout.leftOut > 0) {
     canvas.Note(layout.entries.empty() ? "The chart has no room for its legend, which is left out."
@@ -284,10 +297,18 @@ void DrawLegend(Canvas& canvas, const ChartModel& chart, const LegendLayout& lay
                                              " of its entries; the others are left out.");
   }
   if (layout.entries.empty()) return;
-  canvas.AddFrame({Role::kLegend}, layout.box, chart.legend->style.fill, chart.legend->style.stroke);
+  const ShapeStyle& style = chart.legend->style;
+  if (style.shadow) {
+    canvas.AddShadow({Role::kLegend}, Path().AddRect(layout.box), style.fill, style.stroke, *style.shadow);
+  }
+  canvas.AddFrame({Role::kLegend}, layout.box, style.fill, style.stroke);
   for (const PlacedEntry& placed : layout.entries) {
     const LegendEntry& entry = *placed.entry;
-    DrawKey(canvas, chart, {Role::kLegendKey, entry.series, entry.point}, placed.key);
+    if (entry.trendline > 0) {
+      DrawTrendlineKey(canvas, chart, entry, placed.key);
+    } else {
+      DrawKey(canvas, chart, {Role::kLegendKey, entry.series, entry.point}, placed.key);
+    }
     DrawBlock(canvas, {Role::kLegendEntry, entry.series, entry.point}, placed.text, placed.textCenter,
               TextAlign::kStart);
   }

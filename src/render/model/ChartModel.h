@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "render/Drawing.h"
+#include "render/fills/Shadow.h"
+#include "render/model/Analysis.h"
 #include "xlsx/chart/rules/DataExtent.h"
 #include "xlsx/chart/rules/ScaleRules.h"
 #include "xlsx/numberformat/DateSystem.h"
@@ -21,6 +23,7 @@ namespace plotsmith::render {
 struct ShapeStyle {
   Fill fill;
   Stroke stroke;
+  std::optional<Shadow> shadow = {};
 };
 
 struct TextStyle {
@@ -99,6 +102,20 @@ struct PointModel {
   std::optional<bool> invertIfNegative;  ///< nothing where it is as the series says
 };
 
+/// A trendline of a series (c:trendline).
+struct Trendline {
+  TrendKind kind = TrendKind::kLinear;
+  std::size_t period = 2;  ///< of a moving average, in points
+  std::string name;
+  double forward = 0, backward = 0;  ///< how far it goes on beyond the points
+  double shift = 0;  ///< what is taken from x for the number along the axis, as AxisMap::OfX takes it
+  std::vector<Point> points;  ///< x and value; empty if no line could be fitted
+  ShapeStyle style;
+  RichText label;  ///< its equation and how well it fits
+  ShapeStyle labelStyle;
+  std::optional<ManualLayout> labelLayout;
+};
+
 struct SeriesModel {
   pugi::xml_node node;
   int number = 1;  ///< in plot order, from 1
@@ -117,12 +134,20 @@ struct SeriesModel {
   std::vector<PointModel> palette;           ///< of points in varied colours; begins again behind its end
   std::map<std::size_t, PointModel> points;  ///< those that differ from these, from 0
   LabelsModel labels;
+  std::vector<ErrorBars> errorBars;
+  std::vector<Trendline> trendlines;
 
   const ShapeStyle& StyleOf(std::size_t point) const;
   /// The same with the filling that a point has by its value or size, where those below zero are inverted.
   ShapeStyle StyleOf(std::size_t point, double value) const;
   bool IsInverted(std::size_t point, double value) const;
   const MarkerModel& MarkerOf(std::size_t point) const;
+};
+
+/// Bars from the first series of a group of lines to the last one.
+struct UpDownBars {
+  double gapWidth = 150;  ///< percent of a bar's width
+  ShapeStyle up, down;    ///< the last series above the first, or below it
 };
 
 /// What neighbouring categories have in common, on an outer level.
@@ -163,6 +188,7 @@ struct GroupModel {
   bool showNegativeBubbles = false;
   bool sizeIsWidth = false;  ///< else the area of a bubble is its size
   std::optional<Stroke> dropLines, highLowLines;
+  std::optional<UpDownBars> upDownBars;
   std::vector<SeriesModel> series;
   std::vector<std::string> categories;     ///< texts of the tick labels; as many as there are points
   std::vector<CategoryLevel> outerLevels;  ///< from the one next to the categories outwards
@@ -235,6 +261,7 @@ struct LegendEntry {
   std::string text;
   TextStyle style;
   int series = 0, point = 0;  ///< from 1; point is 0 where the entry is of a series
+  int trendline = 0;          ///< the number of the series' trendline that it is of, from 1
 };
 struct LegendModel {
   std::string position = "r";  ///< ST_LegendPos

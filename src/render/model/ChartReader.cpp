@@ -167,6 +167,8 @@ ChartModel ReadChart(xlsx::ChartPart& part, Notes& notes) {
     chart.title = ReadTitle(context, xml::Child(node, "title"), xlsx::TextRole::kChartTitle, *title);
   }
   chart.legend = ReadLegend(context);
+  ReadAnalysis(context, chart);
+  AddTrendlineEntries(context, chart);
   ScaleAxes(chart);
   return chart;
 }

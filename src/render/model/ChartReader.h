@@ -46,6 +46,13 @@ AxisModel ReadAxis(ReadingContext& context, pugi::xml_node axis);
 TitleModel ReadTitle(ReadingContext& context, pugi::xml_node title, xlsx::TextRole role,
                      const std::string& automatic);
 std::optional<LegendModel> ReadLegend(ReadingContext& context);
+/// Reads error bars, trendlines and up/down bars of groups whose axes are read. Axes of categories are
+/// extended for trendlines.
+void ReadAnalysis(ReadingContext& context, ChartModel& chart);
+/// Adds what error bars and extended trendlines need of an axis.
+void AddAnalysisExtent(const GroupModel& group, bool isX, xlsx::DataExtent& extent);
+/// Adds the entries of trendlines to the legend.
+void AddTrendlineEntries(ReadingContext& context, ChartModel& chart);
 /// Lays the categories of an axis of dates (c:cat) out by their dates; leaves it as one of categories where
 /// they are none.
 void ReadDates(ReadingContext& context, pugi::xml_node categories, AxisModel& axis);

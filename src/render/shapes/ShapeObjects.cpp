@@ -6,6 +6,7 @@
 #include <string>
 
 #include "render/Images.h"
+#include "render/StyledShape.h"
 #include "render/shapes/Placement.h"
 #include "render/shapes/ShapeForms.h"
 #include "render/shapes/ShapeText.h"
@@ -127,8 +128,8 @@ class ObjectPainter {
                    name + ").");
       form = ShapeForm{Path().AddRect(frame), false};
     }
-    canvas_.Add({Role::kShape, 0, number_}, placement.Map(form->path), form->open ? Fill() : style.fill,
-                style.stroke);
+    if (form->open) style.fill = {};
+    AddShape(canvas_, {Role::kShape, 0, number_}, placement.Map(form->path), style);
     DrawShapeText(canvas_, {Role::kShapeText, 0, number_}, ReadShapeText(palette_, object, automatic.text),
                   frame, placement);
   }
