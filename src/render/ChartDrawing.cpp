@@ -65,17 +65,14 @@ void DrawGroup(Plot& plot, const GroupModel& group) {
     case Family::kRadar:
       return DrawRadar(plot, group);
     case Family::kSurface:
-      return plot.canvas.Note("Surface charts aren't drawn.");
+      return plot.canvas.Note("A surface without an axis of categories and one of values isn't drawn.");
   }
 }
 
-/// Hides the axes of a radar chart, which draws them by itself, and those of a surface chart, which would
-/// look like a column chart that lost its columns.
+/// Hides the axes of a radar chart, which draws them by itself.
 void HideAxesWithoutGroups(ChartModel& chart) {
   const auto isRadar = [](const GroupModel& group) { return group.family == Family::kRadar; };
-  const bool hides = std::all_of(chart.groups.begin(), chart.groups.end(), [&](const GroupModel& group) {
-    return isRadar(group) || group.family == Family::kSurface;
-  });
+  const bool hides = std::all_of(chart.groups.begin(), chart.groups.end(), isRadar);
   if (std::any_of(chart.groups.begin(), chart.groups.end(), isRadar)) chart.spokes = chart.axes;
   if (!hides) return;
   for (AxisModel& axis : chart.axes) {
@@ -110,13 +107,9 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
         std::any_of(group.series.begin(), group.series.end(),
                     [](const SeriesModel& series) { return series.style.shadow.has_value(); });
     if (group.is3D && hasShadows) canvas.Note("Shadows of bodies in 3-D aren't drawn.");
-    if (group.is3D && !group.outerLevels.empty()) {
-      canvas.Note("Of categories in several levels, only the innermost are drawn in 3-D.");
-    }
     if (has(group.node, "upDownBars") && !group.upDownBars) {
       canvas.Note("Up and down bars are only drawn between lines.");
     }
-    if (has(group.node.parent(), "dTable")) canvas.Note("The data table below the chart isn't drawn.");
     for (const SeriesModel& series : group.series) {
       if (has(series.node, "trendline") && series.trendlines.empty()) {
         canvas.Note("Trendlines aren't drawn in a chart of this type.");
@@ -142,6 +135,7 @@ void DrawPlot(Plot& plot, const ChartLayout& layout) {
     DrawAxisLine(plot.canvas, chart, chart.axes[i], plot.area);
     DrawTickLabels(plot.canvas, chart, chart.axes[i], layout.axes[i].labels, plot.area);
   }
+  if (layout.table) DrawTable(plot.canvas, chart, *layout.table);
 }
 
 void DrawTitle(Canvas& canvas, Tag tag, const PlacedTitle& placed, const ShapeStyle& style) {

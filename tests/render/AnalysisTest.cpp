@@ -223,8 +223,9 @@ TEST_F(AnalysisTest, NoCurveIsFoundWithoutEnoughPoints) {
 TEST_F(AnalysisTest, NumbersInEquationsHaveFiveDigits) {
   const std::pair<double, S> kCases[] = {{0.942857, "0.9429"}, {14.28571, "14.286"}, {103.5714, "103.57"},
                                          {123456.7, "123457"}, {-2, "-2"},           {0, "0"},
-                                         {0.00002, "2E-05"},   {9.7e-6, "1E-05"},    {-3e12, "-3E+12"},
-                                         {1e300, "1E+300"},    {kNoValue, "?"}};
+                                         {0.00021, "0.0002"},  {1e9, "1000000000"},  {0.00002, "2E-05"},
+                                         {9.7e-6, "1E-05"},    {-3e12, "-3E+12"},    {1e300, "1E+300"},
+                                         {kNoValue, "?"}};
   for (const auto& [number, text] : kCases) EXPECT_EQ(render::EquationNumber(number), text);
 }
 

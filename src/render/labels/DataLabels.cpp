@@ -120,6 +120,41 @@ Point CenterOf(const Plot& plot, const DrawnPoint& point, const LabelModel& labe
   }
 }
 
+/// Whether a line crosses the circle of a slice.
+bool CrossesCircle(const Rect& circle, Point from, Point to) {
+  const Point middle = circle.Center();
+  constexpr int kSamples = 32;
+  for (int i = 0; i <= kSamples; ++i) {
+    const double share = static_cast<double>(i) / kSamples;
+    const double x = from.x + (to.x - from.x) * share - middle.x;
+    const double y = from.y + (to.y - from.y) * share - middle.y;
+    constexpr double kInside = 0.99;  // of the radius
+    if (std::hypot(x / (circle.width / 2), y / (circle.height / 2)) < kInside) return true;
+  }
+  return false;
+}
+
+/// A straight line, or one that goes round the circle as far as it would cross it.
+Path LeaderPath(const DrawnPoint& point, Point from, Point to) {
+  constexpr double kAside = 2, kStep = 4, kMostTurn = 180;  // points and degrees
+  const Rect& circle = point.circle;
+  const Rect around{circle.left - kAside, circle.top - kAside, circle.width + 2 * kAside,
+                    circle.height + 2 * kAside};
+  const Point middle = circle.Center();
+  double angle = point.angle + point.sweep / 2;
+  const double wanted =
+      std::atan2((to.x - middle.x) / circle.width, (middle.y - to.y) / circle.height) / kRadian;
+  const double turn = std::remainder(wanted - angle, 360);
+  Path path;
+  path.MoveTo(from);
+  Point at = from;
+  for (double turned = 0; turned < kMostTurn && CrossesCircle(circle, at, to); turned += kStep) {
+    at = OnEllipse(around, angle += turn < 0 ? -kStep : kStep);
+    path.LineTo(at);
+  }
+  return path.LineTo(to);
+}
+
 /// The line from a slice to a label that was moved away from it.
 void DrawLeader(Plot& plot, const PlacedLabel& placed) {
   const DrawnPoint& point = *placed.point;
@@ -131,8 +166,8 @@ void DrawLeader(Plot& plot, const PlacedLabel& placed) {
   if (to.x != from.x) to.y = label.Center().y;  // to the middle of a side, not to a corner
   constexpr double kShortest = 5;               // points
   if (std::hypot(to.x - from.x, to.y - from.y) < kShortest) return;
-  plot.canvas.AddLine({Role::kLeaderLine, point.series->number, static_cast<int>(point.index + 1)}, from, to,
-                      labels.leaderStroke);
+  plot.canvas.Add({Role::kLeaderLine, point.series->number, static_cast<int>(point.index + 1)},
+                  LeaderPath(point, from, to), {}, labels.leaderStroke);
 }
 
 /// A label where it belongs by itself, and on the chart.

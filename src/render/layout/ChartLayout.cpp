@@ -152,6 +152,7 @@ class Layouter {
       if (inner) layout_.plot = KeepLeast(Applied(*chart_.layout, bounds_, layout_.plot), bounds_, bounds_);
       SetTickLabels();
     }
+    ShortenSlanted();
     if (inner) {
       layout_.outer = {layout_.plot.left - rooms_.left, layout_.plot.top - rooms_.top,
                        layout_.plot.width + rooms_.left + rooms_.right,
@@ -175,6 +176,11 @@ class Layouter {
       double& room = RoomAt(rooms_, place.labelSide);
       room = std::max(room, labels.depth + kLabelGap - inside);
       AddOverhang(axis, labels, length, overhang);
+    }
+    if (chart_.table) {
+      layout_.table = LayOutTable(chart_, bounds_, layout_.plot, measure_);
+      rooms_.left = std::max(rooms_.left, layout_.table->NamesWidth());
+      rooms_.bottom = std::max(rooms_.bottom, layout_.table->Height());
     }
     // what sticks out at the ends of an axis may use the inset, but not leave the chart
     const auto widen = [](double& room, double wanted, double available) {
@@ -203,6 +209,27 @@ class Layouter {
     double& second = axis.IsUpright() ? overhang.top : overhang.right;
     first = std::max(first, before);
     second = std::max(second, behind);
+  }
+
+  /// Ends slanted labels below an axis in dots where they would begin outside of the chart.
+  void ShortenSlanted() {
+    for (std::size_t i = 0; i < chart_.axes.size(); ++i) {
+      const AxisModel& axis = chart_.axes[i];
+      TickLabels& labels = layout_.axes[i].labels;
+      const double angle = labels.rotation * std::numbers::pi / 180;
+      const bool slanted = std::abs(std::sin(angle)) > 0.05 && std::abs(std::sin(angle)) < 0.99;
+      if (axis.IsUpright() || !slanted || labels.IsEmpty()) continue;
+      const AxisPlace place = PlaceOf(chart_, axis, layout_.plot);
+      const AxisMap map = AxisMap::Along(axis, layout_.plot);
+      const bool endsHere = (angle < 0) == (place.labelSide == Side::kBottom);
+      for (TickLabel& label : labels.labels) {
+        const double along = label.category ? map.OfSlot(label.place) : map.OfValue(label.place);
+        const double free = endsHere ? along - bounds_.left : bounds_.Right() - along;
+        // half of the height of a slanted line sticks out beside its end
+        const double corner = label.block.height / 2 * std::abs(std::sin(angle));
+        Shorten(label.block, (free - kEdgeMargin - corner) / std::abs(std::cos(angle)), measure_);
+      }
+    }
   }
 
   void PlaceAxisTitles() {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "render/axes/TickLabels.h"
+#include "render/layout/DataTable.h"
 #include "render/layout/LegendLayout.h"
 #include "render/layout/TextBlock.h"
 #include "render/model/ChartModel.h"
@@ -24,6 +25,7 @@ struct AxisLayout {
 struct ChartLayout {
   std::optional<PlacedTitle> title;
   std::optional<LegendLayout> legend;
+  std::optional<TableLayout> table;
   std::vector<AxisLayout> axes;  ///< one for each of the chart
   Rect outer;                    ///< the plot area with its tick labels
   Rect plot;                     ///< inside of the axes

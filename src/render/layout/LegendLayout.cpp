@@ -39,9 +39,10 @@ bool HasLineKey(const ChartModel& chart, const LegendEntry& entry) {
 std::vector<const LegendEntry*> InOrder(const ChartModel& chart, bool upright) {
   std::vector<const LegendEntry*> entries;
   for (const LegendEntry& entry : chart.legend->entries) entries.push_back(&entry);
-  const bool piled = !chart.groups.empty() &&
-                     std::all_of(chart.groups.begin(), chart.groups.end(),
-                                 [](const auto& group) { return group.IsStacked() && !group.horizontal; });
+  const bool piled =
+      !chart.groups.empty() && std::all_of(chart.groups.begin(), chart.groups.end(), [](const auto& group) {
+        return (group.IsStacked() && !group.horizontal) || !group.bands.empty();
+      });
   if (upright && piled) std::reverse(entries.begin(), entries.end());
   return entries;
 }
@@ -288,6 +289,17 @@ void DrawTrendlineKey(Canvas& canvas, const ChartModel& chart, const LegendEntry
                  series->trendlines[static_cast<std::size_t>(entry.trendline - 1)].style.stroke);
 }
 
+void DrawBandKey(Canvas& canvas, const ChartModel& chart, const LegendEntry& entry, const Rect& box) {
+  const auto group = std::find_if(chart.groups.begin(), chart.groups.end(),
+                                  [](const GroupModel& one) { return !one.bands.empty(); });
+  if (group == chart.groups.end()) return;
+  const ShapeStyle& style = group->bands[static_cast<std::size_t>(entry.band - 1)].style;
+  const Tag tag{Role::kLegendKey, 0, entry.band};
+  if (!group->wireframe) return canvas.Add(tag, Path().AddRect(box), style.fill, style.stroke);
+  const double middle = box.Center().y;
+  canvas.AddLine(tag, {box.left, middle}, {box.Right(), middle}, style.stroke);
+}
+
 }  // namespace
 
 void DrawLegend(Canvas& canvas, const ChartModel& chart, const LegendLayout& layout) {
@@ -306,11 +318,13 @@ void DrawLegend(Canvas& canvas, const ChartModel& chart, const LegendLayout& lay
     const LegendEntry& entry = *placed.entry;
     if (entry.trendline > 0) {
       DrawTrendlineKey(canvas, chart, entry, placed.key);
+    } else if (entry.band > 0) {
+      DrawBandKey(canvas, chart, entry, placed.key);
     } else {
       DrawKey(canvas, chart, {Role::kLegendKey, entry.series, entry.point}, placed.key);
     }
-    DrawBlock(canvas, {Role::kLegendEntry, entry.series, entry.point}, placed.text, placed.textCenter,
-              TextAlign::kStart);
+    DrawBlock(canvas, {Role::kLegendEntry, entry.series, std::max(entry.point, entry.band)}, placed.text,
+              placed.textCenter, TextAlign::kStart);
   }
 }
 

@@ -172,6 +172,12 @@ enum class Family : std::uint8_t {
 };
 enum class Grouping : std::uint8_t { kStandard, kClustered, kStacked, kPercent };
 
+/// A band of values on a surface, which has a colour of its own.
+struct SurfaceBand {
+  double from = 0, to = 0;
+  ShapeStyle style;  ///< of lines alone the stroke
+};
+
 struct GroupModel {
   pugi::xml_node node;
   Family family = Family::kBar;
@@ -189,6 +195,9 @@ struct GroupModel {
   bool sizeIsWidth = false;  ///< else the area of a bubble is its size
   std::optional<Stroke> dropLines, highLowLines;
   std::optional<UpDownBars> upDownBars;
+  bool wireframe = false;  ///< a surface of lines
+  bool isContour = false;  ///< a surface that is seen from above
+  std::vector<SurfaceBand> bands;
   std::vector<SeriesModel> series;
   std::vector<std::string> categories;     ///< texts of the tick labels; as many as there are points
   std::vector<CategoryLevel> outerLevels;  ///< from the one next to the categories outwards
@@ -262,6 +271,7 @@ struct LegendEntry {
   TextStyle style;
   int series = 0, point = 0;  ///< from 1; point is 0 where the entry is of a series
   int trendline = 0;          ///< the number of the series' trendline that it is of, from 1
+  int band = 0;               ///< the number of the surface's band that it is of, from 1
 };
 struct LegendModel {
   std::string position = "r";  ///< ST_LegendPos
@@ -275,11 +285,21 @@ struct LegendModel {
   bool IsFlat() const { return position == "t" || position == "b"; }
 };
 
+/// A table of the values below the plot area (c:dTable).
+struct DataTable {
+  int axis = 0;  ///< index of the axis of categories that it is below
+  bool horizontalLines = false, verticalLines = false, outline = false;
+  bool keys = false;  ///< legend keys beside the names of the series
+  Stroke stroke;
+  TextStyle text;
+};
+
 struct ChartModel {
   ShapeStyle chartArea, plotArea;
   bool roundedCorners = false;
   std::optional<TitleModel> title;
   std::optional<LegendModel> legend;
+  std::optional<DataTable> table;
   std::optional<ManualLayout> layout;  ///< of the plot area
   std::vector<GroupModel> groups;      ///< those with series, in the order in which they are drawn
   std::vector<AxisModel> axes;

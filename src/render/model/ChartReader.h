@@ -49,6 +49,10 @@ std::optional<LegendModel> ReadLegend(ReadingContext& context);
 /// Reads error bars, trendlines and up/down bars of groups whose axes are read. Axes of categories are
 /// extended for trendlines.
 void ReadAnalysis(ReadingContext& context, ChartModel& chart);
+/// Reads the data table of a plot area, and makes room for it in place of tick labels.
+void ReadDataTable(ReadingContext& context, pugi::xml_node plotArea, ChartModel& chart);
+/// Reads surfaces, whose axes are scaled, and gives their bands to the legend.
+void ReadSurfaces(ReadingContext& context, ChartModel& chart);
 /// Adds what error bars and extended trendlines need of an axis.
 void AddAnalysisExtent(const GroupModel& group, bool isX, xlsx::DataExtent& extent);
 /// Adds the entries of trendlines to the legend.

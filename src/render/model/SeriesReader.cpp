@@ -40,7 +40,7 @@ constexpr std::array<Kind, 16> kKinds = {{{"areaChart", Family::kArea, false},
                                           {"bubbleChart", Family::kBubble, false},
                                           {"stockChart", Family::kStock, false},
                                           {"radarChart", Family::kRadar, false},
-                                          {"surfaceChart", Family::kSurface, false},
+                                          {"surfaceChart", Family::kSurface, true},
                                           {"surface3DChart", Family::kSurface, true}}};
 
 const Kind* KindOf(pugi::xml_node group) {

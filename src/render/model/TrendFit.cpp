@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <numeric>
 
@@ -165,9 +166,15 @@ std::string EquationNumber(double number) {
     return xlsx::xml::Number(leading) + "E" + (power < 0 ? "-" : "+") + (digits.size() < 2 ? "0" : "") +
            digits;
   }
-  const int decimals = std::max(kDigits - 1 - std::max(power, 0), 0);
-  const double shift = std::pow(10.0, decimals);
-  return xlsx::xml::Number(std::round(number * shift) / shift);
+  std::array<char, 32> digits{};
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number,
+                                 std::chars_format::fixed, std::max(kDigits - 1 - std::max(power, 0), 0));
+  std::string text(digits.data(), end.ptr);
+  if (text.find('.') != std::string::npos) {
+    text.erase(text.find_last_not_of('0') + 1);
+    if (text.ends_with('.')) text.pop_back();
+  }
+  return text;
 }
 
 namespace {
