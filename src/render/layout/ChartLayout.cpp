@@ -20,6 +20,7 @@ using xlsx::kTitleShare;
 namespace {
 
 constexpr double kDeepestLabels = 0.4;  // of the chart that the labels of one axis may take
+constexpr double kMostOverhang = 0.2;   // of the chart's width that a slanted label may push the plot area by
 constexpr double kEdgeMargin = 2;       // that labels keep to the chart's edge
 
 double& RoomAt(Edges& edges, Side side) {
@@ -201,8 +202,10 @@ class Layouter {
       const bool slanted = !axis.IsUpright() && std::abs(turn) > 0.05 && std::abs(turn) < 0.99;
       const double along = axis.IsUpright() ? label->block.TurnedHeight() : label->block.TurnedWidth();
       const double start = slanted ? (turn < 0 ? along : 0) : along / 2;
-      before = std::max(before, start - place);
-      behind = std::max(behind, along - start - (length - place));
+      // a slanted label is rather shortened than the plot area made small for it
+      const double most = slanted ? kMostOverhang * bounds_.width : kUnlimited;
+      before = std::max(before, std::min(start - place, most));
+      behind = std::max(behind, std::min(along - start - (length - place), most));
     }
     // upright axes begin at the bottom
     double& first = axis.IsUpright() ? overhang.bottom : overhang.left;

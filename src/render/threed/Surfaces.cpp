@@ -43,6 +43,14 @@ struct Band {
   const ShapeStyle* style = nullptr;
 };
 
+/// A line that covers the seam between two pieces, which is seen on a picture of pixels.
+Stroke WideSeamOf(const Fill& fill) {
+  constexpr double kWidth = 0.6;  // points
+  Stroke seam = SeamOf(fill);
+  if (seam.width > 0) seam.width = kWidth;
+  return seam;
+}
+
 class SurfacePainter {
  public:
   SurfacePainter(Plot& plot, const Stage& stage, const Projection& projection)
@@ -173,7 +181,7 @@ class SurfacePainter {
       ForEachPiece(triangle, [&](const Band& band, const std::vector<Corner>& piece) {
         const Fill lit = Lit(band.style->fill, light);
         plot_.canvas.Add({Role::kSurface, 0, band.number}, PathOf(piece), lit,
-                         band.style->stroke.width > 0 ? band.style->stroke : SeamOf(lit));
+                         band.style->stroke.width > 0 ? band.style->stroke : WideSeamOf(lit));
       });
     }
   }
@@ -195,7 +203,7 @@ class SurfacePainter {
     for (const Band& band : bands_) {
       plot_.canvas.Add({Role::kSurface, 0, band.number},
                        std::move(paths[static_cast<std::size_t>(band.number - 1)]), band.style->fill,
-                       SeamOf(band.style->fill));
+                       WideSeamOf(band.style->fill));
     }
   }
 
