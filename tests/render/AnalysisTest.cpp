@@ -261,7 +261,7 @@ TEST_F(AnalysisTest, MovingAveragesBeginAtTheirFirstWholePeriod) {
   for (const auto& step : std::get<PathItem>(items[0].content).path.Steps()) {
     values.push_back(std::round((plot.Bottom() - step.to.y) / plot.height * 1e6) / 1e5);
   }
-  EXPECT_EQ(values, (Numbers{2, 4, 8}));
+  EXPECT_EQ(values, (Numbers{2, 4}));  // A single point behind the gap is no line.
 }
 
 TEST_F(AnalysisTest, TrendlinesSayTheirEquationAndHaveLegendEntries) {
@@ -300,6 +300,17 @@ TEST_F(AnalysisTest, UpDownBarsGoFromTheFirstSeriesToTheLast) {
   const Rect plot = BoxOf(drawing, Role::kPlotArea);
   EXPECT_NEAR(BoundsOf(items[0]).width, plot.width / 3 / 2, 1e-9);
   EXPECT_NEAR(BoundsOf(items[1]).Center().x, plot.Center().x, 1e-9);
+}
+
+TEST_F(AnalysisTest, ManyTrendlinesThroughManyPointsAreLimited) {
+  S trends;
+  for (int i = 0; i < 400; ++i) trends += TrendXml("movingAvg", "<c:period val=\"100\"/>");
+  const Drawing drawing = DrawColumns(Numbers(5000, 1), trends, "");
+  const std::size_t drawn = ItemsOf(drawing, Role::kTrendline).size();
+  EXPECT_EQ(drawn, 72u);  // 4,000,000 points of fits, of which each line takes 55,100
+  EXPECT_EQ(notes_,
+            (render::Notes{"The chart has more trendlines through many points than are drawn; the rest is "
+                           "left out."}));
 }
 
 TEST_F(AnalysisTest, WildNumbersTakeLittleTime) {

@@ -1,3 +1,5 @@
+#include <chrono>
+
 #include "tests/render/DrawingTest.h"
 
 namespace plotsmith {
@@ -113,6 +115,17 @@ TEST_F(DataTableTest, SaysWhatHasNoRoom) {
     EXPECT_EQ(notes_, test.notes) << test.what;
     EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
   }
+}
+
+TEST_F(DataTableTest, LongTextsEndInDots) {
+  const auto start = std::chrono::steady_clock::now();
+  const S name(20'000, 'x');
+  const Drawing drawing =
+      DrawWithTable(kLines, SeriesXml(0, {1, 1e300}, "", "", CategoriesXml({name, S(20'000, ' ') + name})));
+  EXPECT_EQ(DrawingComplaints(drawing), "");
+  for (const S& text : TextsOf(drawing, Role::kTickLabel, 1))
+    EXPECT_TRUE(text.ends_with("...")) << text.size();
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "render/StyledShape.h"
+#include "render/families/Curves.h"
 #include "render/layout/TextBlock.h"
 
 namespace plotsmith::render {
@@ -75,18 +76,24 @@ Point DrawLine(Plot& plot, const GroupModel& group, const SeriesModel& series, c
   const AxisMap map = AxisMap::Along(values, plot.area);
   Point last = plot.area.Center();
   Path path;
-  bool open = false;
+  std::vector<Point> piece;
+  const auto finish = [&] {
+    if (piece.size() > 1) AddCurve(path, piece, false);
+    piece.clear();
+  };
   for (const Point& point : line.points) {
     const bool present = std::isfinite(point.x) && std::isfinite(point.y) && (!values.logBase || point.y > 0);
-    if (present) {
+    if (!present) {
+      finish();
+    } else {
       const Point place = PlaceAt(values.IsUpright(), across.OfX(point.x - line.shift), map.OfValue(point.y));
-      open ? path.LineTo(place) : path.MoveTo(place);
+      piece.push_back(place);
       const bool inside = place.x >= plot.area.left && place.x <= plot.area.Right() &&
                           place.y >= plot.area.top && place.y <= plot.area.Bottom();
       if (inside) last = place;
     }
-    open = present;
   }
+  finish();
   plot.canvas.PushClip(Path().AddRect(plot.area));
   AddShape(plot.canvas, {Role::kTrendline, series.number, number}, std::move(path), line.style);
   plot.canvas.PopClip();

@@ -18,7 +18,8 @@ namespace {
 
 constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
 constexpr Stroke kThinLine = {Color{0, 0, 0, 1}, 0.75};
-constexpr std::size_t kMostTrendlines = 20;  // of a series
+constexpr long long kLongestPeriod = 255;  // points of a moving average
+constexpr double kMostFittedPoints = 4e6;  // by all trendlines of a chart
 
 /// What of a series counts as x for a trendline, and what is taken from that for the number along the axis.
 struct TrendPlaces {
@@ -194,7 +195,7 @@ double ExtensionOf(pugi::xml_node node, const char* name) {
 
 Trendline ReadTrendline(ReadingContext& context, const ChartModel& chart, const GroupModel& group,
                         const SeriesModel& series, pugi::xml_node node) {
-  constexpr long long kHighestOrder = 6, kLongestPeriod = 255;
+  constexpr long long kHighestOrder = 6;
   Trendline line;
   line.kind = KindOf(schema::Val(node, "trendlineType", "linear"));
   line.period =
@@ -263,6 +264,14 @@ void ExtendCategories(const GroupModel& group, const Trendline& line, ChartModel
   while (static_cast<double>(axis.categories.size()) < wanted) axis.categories.emplace_back();
 }
 
+/// What a trendline takes, in points that a line is fitted to.
+double CostOf(pugi::xml_node node, const SeriesModel& series) {
+  constexpr double kLeast = 100, kAverageOfFit = 0.1;  // the points of a curve; a point of a moving average
+  const double period =
+      static_cast<double>(std::clamp(schema::IntegerVal(node, "period", 2), 2LL, kLongestPeriod));
+  return kLeast + static_cast<double>(series.values.size()) * (1 + kAverageOfFit * period);
+}
+
 void ReadUpDownBars(ReadingContext& context, GroupModel& group) {
   const auto node = xml::Child(group.node, "upDownBars");
   if (!node) return;
@@ -279,6 +288,7 @@ void ReadUpDownBars(ReadingContext& context, GroupModel& group) {
 }  // namespace
 
 void ReadAnalysis(ReadingContext& context, ChartModel& chart) {
+  double fittedPoints = 0;
   for (GroupModel& group : chart.groups) {
     if (group.family == Family::kLine || group.family == Family::kStock) ReadUpDownBars(context, group);
     if (!CanBeAnalysed(group)) continue;
@@ -291,7 +301,12 @@ void ReadAnalysis(ReadingContext& context, ChartModel& chart) {
       }
       if (group.IsStacked()) continue;  // Excel has no trendlines of piles
       for (const pugi::xml_node& node : xml::Children(series.node, "trendline")) {
-        if (series.trendlines.size() == kMostTrendlines) break;
+        fittedPoints += CostOf(node, series);
+        if (fittedPoints > kMostFittedPoints) {
+          context.notes.push_back(
+              "The chart has more trendlines through many points than are drawn; the rest is left out.");
+          return;
+        }
         series.trendlines.push_back(ReadTrendline(context, chart, group, series, node));
         ExtendCategories(group, series.trendlines.back(), chart);
       }

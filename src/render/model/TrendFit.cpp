@@ -61,8 +61,9 @@ std::vector<Row> NormalEquations(const std::vector<double>& t, const std::vector
   const std::size_t count = most - least + 1;
   std::vector<Row> rows(count, Row(count + 1));
   for (std::size_t i = 0; i < t.size(); ++i) {
-    Row powers;
-    for (std::size_t k = least; k <= most; ++k) powers.push_back(std::pow(static_cast<long double>(t[i]), k));
+    std::array<long double, 7> powers{};
+    long double power = least == 0 ? 1 : t[i];
+    for (std::size_t k = 0; k < count; ++k, power *= t[i]) powers[k] = power;
     for (std::size_t a = 0; a < count; ++a) {
       for (std::size_t b = 0; b < count; ++b) rows[a][b] += powers[a] * powers[b];
       rows[a][count] += powers[a] * v[i];
@@ -120,7 +121,8 @@ std::vector<double> TrendCurve::Factors() const {
 std::optional<TrendCurve> FitTrend(TrendKind kind, std::size_t order, std::optional<double> intercept,
                                    const std::vector<double>& x, const std::vector<double>& y) {
   if (kind == TrendKind::kMovingAverage) return std::nullopt;
-  if (kind != TrendKind::kPolynomial) order = 1;
+  constexpr std::size_t kHighestOrder = 6;
+  order = kind == TrendKind::kPolynomial ? std::clamp<std::size_t>(order, 1, kHighestOrder) : 1;
   if (HasLogarithmOfX(kind)) intercept.reset();
   if (intercept && HasLogarithmOfY(kind)) *intercept = std::log(*intercept);
   if (intercept && !std::isfinite(*intercept)) return std::nullopt;

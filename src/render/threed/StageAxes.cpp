@@ -244,9 +244,13 @@ StageAxes::PlacedGroup StageAxes::PlaceGroup(const PlacedRuler& placed, const Ca
   Shorten(result.block, (below ? std::abs(b.x - a.x) : std::abs(b.y - a.y)) - 2, measure_);
   const double middle = distance + depth / 2, end = distance + depth;
   result.center = {(a.x + b.x) / 2 + way.x * middle, (a.y + b.y) / 2 + way.y * middle};
-  for (const Point edge : {a, b}) {
+  const auto addLine = [&](Point edge, bool isEndOfAxis) {
+    // where the axis ends on a category, a line would go through its label
+    if (isEndOfAxis && stage_.StandsOnTicks()) return;
     result.lines.push_back({edge, {edge.x + way.x * end, edge.y + way.y * end}});
-  }
+  };
+  addLine(a, std::min(first.from, last.from) <= 0);
+  addLine(b, std::max(first.to, last.to) >= 1);
   return result;
 }
 
