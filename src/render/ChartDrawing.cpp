@@ -139,7 +139,7 @@ void DrawPlot(Plot& plot, const ChartLayout& layout) {
 }
 
 void DrawTitle(Canvas& canvas, Tag tag, const PlacedTitle& placed, const ShapeStyle& style) {
-  AddShape(canvas, tag, Path().AddRect(placed.box), style);
+  AddTextFrame(canvas, tag, placed.box, style);
   DrawBlock(canvas, tag, placed.block, placed.box.Center());
 }
 

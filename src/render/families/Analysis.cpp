@@ -114,7 +114,7 @@ void DrawLabel(Plot& plot, Tag tag, const Trendline& line, Point end) {
   }
   box.left = std::max(std::min(box.left, bounds.Right() - width), bounds.left);
   box.top = std::max(std::min(box.top, bounds.Bottom() - height), bounds.top);
-  AddShape(plot.canvas, tag, Path().AddRect(box), line.labelStyle);
+  AddTextFrame(plot.canvas, tag, box, line.labelStyle);
   DrawBlock(plot.canvas, tag, block, box.Center());
 }
 

@@ -201,7 +201,7 @@ void DrawLabel(Plot& plot, const PlacedLabel& placed) {
   const Tag tag{Role::kDataLabel, point.series->number, static_cast<int>(point.index + 1)};
   const Rect box = placed.Box();
   DrawLeader(plot, placed);
-  AddShape(plot.canvas, tag, Path().AddRect(box), label.style);
+  AddTextFrame(plot.canvas, tag, box, label.style);
   if (label.showsKey) {
     DrawKey(plot.canvas, plot.chart, {Role::kLegendKey, tag.series, tag.point},
             {box.left + kLabelPadding, placed.center.y - kKeySide / 2, kKeySide, kKeySide});

@@ -7,6 +7,7 @@
 
 #include "render/Images.h"
 #include "render/StyledShape.h"
+#include "render/model/EffectReader.h"
 #include "render/shapes/Placement.h"
 #include "render/shapes/ShapeForms.h"
 #include "render/shapes/ShapeText.h"
@@ -128,6 +129,7 @@ class ObjectPainter {
                    name + ").");
       form = ShapeForm{Path().AddRect(frame), false};
     }
+    for (std::string& sentence : MissingEffects(object)) canvas_.Note(std::move(sentence));
     if (form->open) style.fill = {};
     AddShape(canvas_, {Role::kShape, 0, number_}, placement.Map(form->path), style);
     DrawShapeText(canvas_, {Role::kShapeText, 0, number_}, ReadShapeText(palette_, object, automatic.text),
@@ -147,11 +149,16 @@ class ObjectPainter {
                    NameOf(object) + ".");
       return;
     }
+    const ShapeStyle style = ReadStyle(palette_, xlsx::ShapePropertiesOf(object), {});
+    if (style.shadow) {
+      const Fill opaque = SolidFill{};
+      canvas_.AddShadow({Role::kShape, 0, number_}, Path().AddRect(frame), opaque, style.stroke,
+                        *style.shadow);
+    }
     const Rect place = Uncropped(xml::Child(fill, "srcRect"), frame);
     if (place != frame) canvas_.PushClip(Path().AddRect(frame));
     canvas_.Target().items.push_back({{Role::kShape, 0, number_}, ImageItem{std::move(bytes), place}});
     if (place != frame) canvas_.PopClip();
-    const ShapeStyle style = ReadStyle(palette_, xlsx::ShapePropertiesOf(object), {});
     canvas_.Add({Role::kShape, 0, number_}, Path().AddRect(frame), {}, style.stroke);
   }
   /// Where all of a picture would be, of which a frame shows a part.

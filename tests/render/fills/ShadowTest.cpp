@@ -104,6 +104,16 @@ TEST_F(ShadowTest, LooksAlikeInSvgAndPng) {
   EXPECT_NEAR(redAt(cast.Right() + 8), 255, 3);
 }
 
+TEST_F(ShadowTest, ATextWithoutAFrameHasNoneAndSaysIt) {
+  const S title =
+      "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>Sales</a:t></a:r></a:p></c:rich></c:tx>"
+      "<c:spPr><a:effectLst><a:outerShdw><a:srgbClr val=\"000000\"/></a:outerShdw></a:effectLst></c:spPr>"
+      "</c:title>";
+  const Drawing drawing = Draw(title + "<c:plotArea/>");
+  EXPECT_EQ(ItemsOf(drawing, Role::kShadow).size(), 0u);
+  EXPECT_EQ(notes_, (render::Notes{"Shadows of texts aren't drawn."}));
+}
+
 TEST_F(ShadowTest, OtherEffectsAreSaid) {
   const auto effects = [](const S& list) {
     return "<c:spPr><a:effectLst>" + list + "</a:effectLst></c:spPr>";
