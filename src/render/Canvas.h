@@ -6,8 +6,8 @@
 
 #include "render/ChartDrawing.h"
 #include "render/Drawing.h"
+#include "render/Shadow.h"
 #include "render/TextMeasure.h"
-#include "render/fills/Shadow.h"
 
 namespace plotsmith::render {
 

@@ -4,9 +4,9 @@
 #include <cmath>
 #include <utility>
 
-#include "render/StyledShape.h"
 #include "render/families/Curves.h"
 #include "render/layout/TextBlock.h"
+#include "render/model/StyledShape.h"
 
 namespace plotsmith::render {
 namespace {

@@ -1,11 +1,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "render/StyledShape.h"
 #include "render/axes/DateAxis.h"
 #include "render/families/Analysis.h"
 #include "render/families/Curves.h"
 #include "render/families/Plot.h"
+#include "render/model/StyledShape.h"
 
 namespace plotsmith::render {
 namespace {

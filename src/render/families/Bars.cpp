@@ -1,11 +1,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "render/StyledShape.h"
 #include "render/axes/AxisPlace.h"
 #include "render/families/Analysis.h"
 #include "render/families/Plot.h"
 #include "render/families/ThinBars.h"
+#include "render/model/StyledShape.h"
 
 namespace plotsmith::render {
 namespace {

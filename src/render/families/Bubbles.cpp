@@ -1,10 +1,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "render/StyledShape.h"
 #include "render/families/Analysis.h"
 #include "render/families/Plot.h"
 #include "render/fills/BallFill.h"
+#include "render/model/StyledShape.h"
 
 namespace plotsmith::render {
 namespace {

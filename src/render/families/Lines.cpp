@@ -5,12 +5,12 @@
 #include <set>
 #include <utility>
 
-#include "render/StyledShape.h"
 #include "render/axes/DateAxis.h"
 #include "render/families/Analysis.h"
 #include "render/families/Curves.h"
 #include "render/families/Markers.h"
 #include "render/families/Plot.h"
+#include "render/model/StyledShape.h"
 
 namespace plotsmith::render {
 namespace {

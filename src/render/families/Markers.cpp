@@ -1,6 +1,6 @@
 #include "render/families/Markers.h"
 
-#include "render/StyledShape.h"
+#include "render/model/StyledShape.h"
 
 namespace plotsmith::render {
 namespace {

@@ -1,10 +1,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "render/StyledShape.h"
 #include "render/families/Plot.h"
 #include "render/labels/DataLabels.h"
 #include "render/labels/LabelText.h"
+#include "render/model/StyledShape.h"
 
 namespace plotsmith::render {
 namespace {

@@ -3,12 +3,12 @@
 #include <numbers>
 #include <optional>
 
-#include "render/StyledShape.h"
 #include "render/axes/AxisMap.h"
 #include "render/axes/TickLabels.h"
 #include "render/families/Markers.h"
 #include "render/families/Plot.h"
 #include "render/layout/TextBlock.h"
+#include "render/model/StyledShape.h"
 
 namespace plotsmith::render {
 namespace {

@@ -4,10 +4,10 @@
 #include <cmath>
 #include <numbers>
 
-#include "render/StyledShape.h"
 #include "render/labels/LabelText.h"
 #include "render/labels/PieLabels.h"
 #include "render/layout/LegendLayout.h"
+#include "render/model/StyledShape.h"
 
 namespace plotsmith::render {
 namespace {

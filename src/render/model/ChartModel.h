@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "render/Drawing.h"
-#include "render/fills/Shadow.h"
+#include "render/Shadow.h"
 #include "render/model/Analysis.h"
 #include "xlsx/chart/rules/DataExtent.h"
 #include "xlsx/chart/rules/ScaleRules.h"

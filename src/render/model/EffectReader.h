@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "render/fills/Shadow.h"
+#include "render/Shadow.h"
 #include "render/model/StyleReader.h"
 
 namespace plotsmith::render {

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "render/axes/AxisMap.h"
 #include "render/model/ChartReader.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Xml.h"
@@ -16,15 +15,23 @@ namespace {
 constexpr std::size_t kMostBands = 60;
 
 /// The limits of bands: the major units of an axis and its ends; of very many, some.
-std::vector<double> LimitsOf(const AxisModel& axis, xlsx::DateSystem dates) {
-  std::vector<double> limits = {axis.scale.minimum};
-  const std::vector<Tick> ticks = MajorTicks(axis, dates);
-  const std::size_t step = ticks.size() / kMostBands + 1;
-  for (std::size_t i = 0; i < ticks.size(); i += step) {
-    if (ticks[i].value > limits.back() && ticks[i].value < axis.scale.maximum)
-      limits.push_back(ticks[i].value);
+std::vector<double> LimitsOf(const AxisModel& axis) {
+  constexpr double kDust = 1e-9;  // of a unit
+  const auto& [minimum, maximum, unit] = axis.scale;
+  std::vector<double> limits = {minimum};
+  if (axis.logBase) {
+    const double step = std::max(unit, 2.0);
+    while (limits.size() < kMostBands && limits.back() * step < maximum)
+      limits.push_back(limits.back() * step);
+  } else {
+    const double steps = (maximum - minimum) / unit;
+    const double every = std::max(std::ceil(steps / kMostBands), 1.0);
+    for (double i = every; i < steps - kDust; i += every) {
+      const double limit = minimum + i * unit;
+      limits.push_back(std::abs(limit) < unit * kDust ? 0 : limit);
+    }
   }
-  limits.push_back(axis.scale.maximum);
+  limits.push_back(maximum);
   return limits;
 }
 
@@ -51,13 +58,13 @@ void ReadSurfaces(ReadingContext& context, ChartModel& chart) {
     group.isContour = xml::Is(group.node, "surfaceChart");
     AxisModel& axis = chart.axes[static_cast<std::size_t>(group.value)];
     axis.settings.majorUnit = axis.scale.majorUnit;  // the bands are made by it
-    ReadBands(context, LimitsOf(axis, chart.dates), group);
+    ReadBands(context, LimitsOf(axis), group);
     if (!chart.legend) continue;
     // the legend has the bands in place of the series
     chart.legend->entries.clear();
     const auto text = [&](double value) {
       std::string number;
-      axis.format->AppendNumber(number, value, chart.dates);
+      axis.format->AppendNumber(number, value / axis.units.factor, chart.dates);
       return number;
     };
     int number = 0;

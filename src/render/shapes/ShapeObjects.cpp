@@ -6,8 +6,8 @@
 #include <string>
 
 #include "render/Images.h"
-#include "render/StyledShape.h"
 #include "render/model/EffectReader.h"
+#include "render/model/StyledShape.h"
 #include "render/shapes/Placement.h"
 #include "render/shapes/ShapeForms.h"
 #include "render/shapes/ShapeText.h"

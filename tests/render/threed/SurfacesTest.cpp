@@ -87,6 +87,25 @@ TEST_F(SurfacesTest, LegendsHaveTheBands) {
   }
 }
 
+TEST_F(SurfacesTest, BandsFollowTheUnitsOfTheirAxis) {
+  const auto scaling = [](const S& least, const S& most, const S& base = "") {
+    return "<c:scaling>" + base + "<c:max val=\"" + most + "\"/><c:min val=\"" + least + "\"/></c:scaling>";
+  };
+  const S thousands = "<c:dispUnits><c:builtInUnit val=\"thousands\"/></c:dispUnits>";
+  struct {
+    S axis;
+    Texts bands;
+  } const kCases[] = {
+      {scaling("-1", "2.5") + "<c:majorUnit val=\"1\"/>", {"2-2.5", "1-2", "0-1", "-1-0"}},
+      {scaling("1", "1000", "<c:logBase val=\"10\"/>"), {"100-1000", "10-100", "1-10"}},
+      {scaling("0", "4000") + "<c:majorUnit val=\"2000\"/>" + thousands, {"2-4", "0-2"}},
+  };
+  for (const auto& test : kCases) {
+    const Drawing drawing = DrawSurface("surface3DChart", {{1, 2}, {2, 1}}, "", "", "", test.axis);
+    EXPECT_EQ(TextsOf(drawing, Role::kLegendEntry), test.bands);
+  }
+}
+
 TEST_F(SurfacesTest, SurfacesInThreeDimensionsCoverWhatIsBehind) {
   // One looks at a ridge from the front, with parallel rays. The second half of the depth is behind it.
   const S view = "<c:rotX val=\"10\"/><c:rotY val=\"0\"/><c:rAngAx val=\"0\"/><c:perspective val=\"0\"/>";

@@ -1,4 +1,4 @@
-#include "render/StyledShape.h"
+#include "render/model/StyledShape.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "render/fills/Shadow.h"
+#include "render/Shadow.h"
 
 namespace plotsmith::render {
 
