@@ -64,6 +64,37 @@ void Canvas::AddFrame(Tag tag, const Rect& box, const Fill& fill, const Stroke& 
   drawing_.items.push_back({tag, PathItem{Path().AddRect(box), fill, stroke}});
 }
 
+bool Canvas::TakeShadow(const Rect& bounds) {
+  const Rect page = Bounds();
+  const double across = std::min(bounds.Right(), page.Right()) - std::max(bounds.left, page.left);
+  const double down = std::min(bounds.Bottom(), page.Bottom()) - std::max(bounds.top, page.top);
+  if (!(across > 0 && down > 0)) return false;
+  shadowAreaLeft_ -= across * down / (page.width * page.height);
+  if (shadowsLeft_ > 0 && shadowAreaLeft_ > 0) {
+    --shadowsLeft_;
+    return true;
+  }
+  Note("The chart has more shadows than are drawn; the rest is left out.");
+  return false;
+}
+
+void Canvas::AddShadow(Tag tag, const Path& path, const Fill& fill, const Stroke& stroke,
+                       const Shadow& shadow) {
+  ShadowItem item{shadow.Cast(path), !std::holds_alternative<std::monostate>(fill), stroke.width,
+                  shadow.color, shadow.blur};
+  if (!item.filled && !(item.lineWidth > 0)) return;
+  if (path.IsEmpty() || !IsNear(item.path) || !(item.color.alpha > 0)) return;
+  if (const auto* solid = std::get_if<SolidFill>(&fill)) item.color.alpha *= solid->color.alpha;
+  constexpr double kReach = 3;  // standard deviations, beyond which a soft edge isn't seen
+  const double reach = item.lineWidth / 2 + kReach * item.blur;
+  const Rect bounds = item.path.Bounds();
+  if (!TakeShadow(
+          {bounds.left - reach, bounds.top - reach, bounds.width + 2 * reach, bounds.height + 2 * reach}))
+    return;
+  tag.role = Role::kShadow;
+  drawing_.items.push_back({tag, std::move(item)});
+}
+
 void Canvas::AddLine(Tag tag, Point from, Point to, const Stroke& stroke) {
   Add(tag, Path().MoveTo(from).LineTo(to), {}, stroke);
 }

@@ -6,6 +6,7 @@
 
 #include "render/Drawing.h"
 #include "render/Notes.h"
+#include "render/Shadow.h"
 #include "render/TextMeasure.h"
 
 namespace plotsmith::render {
@@ -22,7 +23,8 @@ class Canvas {
   void Add(Tag tag, Path path, const Fill& fill, const Stroke& stroke = {});
   /// Appends a rectangle even if it is invisible, for readers of the drawing who look for its place.
   void AddFrame(Tag tag, const Rect& box, const Fill& fill, const Stroke& stroke);
-  /// Appends a straight line. The same lines are left out as in Add.
+  /// Appends the shadow of a shape, which is added after it. `tag` is that of the shape.
+  void AddShadow(Tag tag, const Path& path, const Fill& fill, const Stroke& stroke, const Shadow& shadow);
   void AddLine(Tag tag, Point from, Point to, const Stroke& stroke);
   /// Measures a line of text and appends it. Empty texts are left out.
   void AddText(Tag tag, TextItem text);
@@ -44,7 +46,11 @@ class Canvas {
   /// Appends the pictures of a filling, clipped to the path.
   void AddPictures(Tag tag, const Path& path, const PictureFill& fill);
 
-  std::size_t pictureBytesLeft_ = 16 * 1024 * 1024;  ///< that fillings may still add to the drawing
+  bool TakeShadow(const Rect& bounds);
+
+  std::size_t shadowsLeft_ = 5000;
+  double shadowAreaLeft_ = 40;  ///< in areas of the drawing, as soft edges take time
+  std::size_t pictureBytesLeft_ = 16 * 1024 * 1024;
   Drawing& drawing_;
   const TextMeasure& measure_;
   Notes& notes_;

@@ -46,6 +46,9 @@ class Placer {
     for (double* length : {&item.font.size, &item.width, &item.ascent, &item.descent}) *length *= scale_;
     return item;
   }
+  ShadowItem At(const ShadowItem& item) const {
+    return {At(item.path), item.filled, item.lineWidth * scale_, item.color, item.blur * scale_};
+  }
   PushClip At(const PushClip& clip) const { return {At(clip.path)}; }
   PopClip At(const PopClip&) const { return {}; }
   ImageItem At(const ImageItem& item) const {

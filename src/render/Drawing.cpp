@@ -170,12 +170,14 @@ void Path::Move(Point by) {
 }
 
 std::string_view NameOf(Role role) {
-  constexpr std::array<std::string_view, 32> kNames = {
-      "Other",         "ChartArea",  "PlotArea", "Title",         "AxisTitle",    "AxisLine", "TickMark",
-      "MinorTickMark", "TickLabel",  "Gridline", "MinorGridline", "DisplayUnits", "Legend",   "LegendKey",
-      "LegendEntry",   "Bar",        "Area",     "Line",          "Marker",       "Slice",    "Bubble",
-      "DataLabel",     "LeaderLine", "ErrorBar", "DropLine",      "Wall",         "Floor",    "Side",
-      "Shape",         "ShapeText",  "Cell",     "CellText"};
+  constexpr std::array<std::string_view, 39> kNames = {
+      "Other",     "ChartArea",     "PlotArea",    "Title",     "AxisTitle",      "AxisLine",
+      "TickMark",  "MinorTickMark", "TickLabel",   "Gridline",  "MinorGridline",  "DisplayUnits",
+      "Legend",    "LegendKey",     "LegendEntry", "Bar",       "Area",           "Line",
+      "Marker",    "Slice",         "Bubble",      "DataLabel", "LeaderLine",     "ErrorBar",
+      "DropLine",  "Wall",          "Floor",       "Side",      "Shape",          "ShapeText",
+      "Cell",      "CellText",      "Shadow",      "Trendline", "TrendlineLabel", "UpDownBar",
+      "TableLine", "TableText",     "Surface"};
   return kNames[static_cast<std::size_t>(role)];
 }
 
@@ -195,11 +197,13 @@ Rect BoundsOf(const Item& item) {
   if (const auto* path = std::get_if<PathItem>(&item.content)) return path->path.Bounds();
   if (const auto* text = std::get_if<TextItem>(&item.content)) return text->Bounds();
   if (const auto* image = std::get_if<ImageItem>(&item.content)) return image->place;
+  if (const auto* shadow = std::get_if<ShadowItem>(&item.content)) return shadow->path.Bounds();
   return {};
 }
 
 Item Moved(Item item, Point by) {
   if (auto* path = std::get_if<PathItem>(&item.content)) path->path.Move(by);
+  if (auto* shadow = std::get_if<ShadowItem>(&item.content)) shadow->path.Move(by);
   if (auto* clip = std::get_if<PushClip>(&item.content)) clip->path.Move(by);
   if (auto* text = std::get_if<TextItem>(&item.content)) {
     text->anchor = {text->anchor.x + by.x, text->anchor.y + by.y};

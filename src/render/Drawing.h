@@ -177,7 +177,14 @@ enum class Role : std::uint8_t {
   kShape,
   kShapeText,
   kCell,
-  kCellText
+  kCellText,
+  kShadow,  ///< of the item that follows it, with the numbers of that item
+  kTrendline,
+  kTrendlineLabel,
+  kUpDownBar,
+  kTableLine,  ///< of a data table, whose texts have the numbers of their series and point
+  kTableText,
+  kSurface
 };
 /// Returns the name of a role without the k, such as "ChartArea".
 std::string_view NameOf(Role role);
@@ -221,7 +228,16 @@ struct PushClip {
 /// Ends the last PushClip.
 struct PopClip {};
 
-/// A PNG picture, stretched to a rectangle.
+/// The shadow of a shape: its area and its line in one colour, with soft edges.
+struct ShadowItem {
+  Path path;
+  bool filled = true;
+  double lineWidth = 0;  ///< 0 is no line
+  Color color;
+  double blur = 0;  ///< standard deviation of the soft edge, in points
+};
+
+/// A PNG or JPEG picture, stretched to a rectangle.
 struct ImageItem {
   std::string bytes;  ///< of the PNG file
   Rect place;
@@ -230,7 +246,7 @@ struct ImageItem {
 /// A part of a picture.
 struct Item {
   Tag tag;
-  std::variant<PathItem, TextItem, PushClip, PopClip, ImageItem> content;
+  std::variant<PathItem, TextItem, PushClip, PopClip, ImageItem, ShadowItem> content;
 };
 
 /// Returns the smallest rectangle around what the item paints; an empty one for clips. The width of lines

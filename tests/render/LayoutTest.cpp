@@ -350,31 +350,6 @@ TEST_F(LayoutTest, ATitleWithoutACacheHasTheTextOfItsCell) {
   EXPECT_NE(drawing.title, "");
 }
 
-TEST_F(LayoutTest, AxesOfKindsThatArentDrawnAreLeftOut) {
-  const S look =
-      "<c:majorGridlines/><c:minorGridlines/><c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>Values"
-      "</a:t></a:r></a:p></c:rich></c:tx></c:title>";
-  struct {
-    const char* group;
-    bool hasAxes;
-    Texts notes;
-  } cases[] = {
-      {"surfaceChart", false, {"Surface charts aren't drawn."}},
-      {"surface3DChart", false, {"Surface charts aren't drawn."}},
-      {"barChart", true, {}},
-  };
-  for (const auto& test : cases) {
-    const Drawing drawing =
-        Draw(PlotXml(GroupXml(test.group, "", SeriesXml(0, {1, 2})) + AxesXml("", look), "<c:legend/>"));
-    for (const Role role : {Role::kGridline, Role::kMinorGridline, Role::kAxisLine, Role::kTickMark,
-                            Role::kTickLabel, Role::kAxisTitle}) {
-      EXPECT_EQ(!ItemsOf(drawing, role).empty(), test.hasAxes) << test.group << NameOf(role);
-    }
-    EXPECT_EQ(TextsOf(drawing, Role::kLegendEntry), Texts{"Series 0"}) << test.group;
-    EXPECT_EQ(notes_, test.notes) << test.group;
-  }
-}
-
 TEST_F(LayoutTest, FillingsAndLinesAreTheChartParts) {
   const S look =
       "<c:spPr><a:solidFill><a:srgbClr val=\"00B050\"><a:alpha "

@@ -86,6 +86,27 @@ void SetPattern(cairo_t* cr, const PatternFill& fill, const PatternTile& tile) {
 
 }  // namespace
 
+void Trace(cairo_t* cr, const Path& path) {
+  cairo_new_path(cr);
+  for (const PathStep& step : path.Steps()) {
+    switch (step.kind) {
+      case PathStep::Kind::kMove:
+        cairo_move_to(cr, step.to.x, step.to.y);
+        break;
+      case PathStep::Kind::kLine:
+        cairo_line_to(cr, step.to.x, step.to.y);
+        break;
+      case PathStep::Kind::kCurve:
+        cairo_curve_to(cr, step.control1.x, step.control1.y, step.control2.x, step.control2.y, step.to.x,
+                       step.to.y);
+        break;
+      case PathStep::Kind::kClose:
+        cairo_close_path(cr);
+        break;
+    }
+  }
+}
+
 bool SetSource(cairo_t* cr, const Fill& fill, const Rect& bounds) {
   if (const auto* solid = std::get_if<SolidFill>(&fill)) {
     SetColor(cr, solid->color);

@@ -12,6 +12,7 @@
 
 #include "render/cairo/CairoImage.h"
 #include "render/cairo/CairoPaint.h"
+#include "render/cairo/CairoShadow.h"
 #include "render/cairo/PixelGrid.h"
 #include "render/cairo/PngWriter.h"
 
@@ -30,27 +31,6 @@ using Context = std::unique_ptr<cairo_t, DestroyContext>;
 cairo_status_t Append(void* bytes, const unsigned char* data, unsigned length) {
   static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);
   return CAIRO_STATUS_SUCCESS;
-}
-
-void Trace(cairo_t* cr, const Path& path) {
-  cairo_new_path(cr);
-  for (const PathStep& step : path.Steps()) {
-    switch (step.kind) {
-      case PathStep::Kind::kMove:
-        cairo_move_to(cr, step.to.x, step.to.y);
-        break;
-      case PathStep::Kind::kLine:
-        cairo_line_to(cr, step.to.x, step.to.y);
-        break;
-      case PathStep::Kind::kCurve:
-        cairo_curve_to(cr, step.control1.x, step.control1.y, step.control2.x, step.control2.y, step.to.x,
-                       step.to.y);
-        break;
-      case PathStep::Kind::kClose:
-        cairo_close_path(cr);
-        break;
-    }
-  }
 }
 
 void SetStroke(cairo_t* cr, const Stroke& stroke) {
@@ -157,6 +137,7 @@ class ItemPainter {
     cairo_restore(cr_);
   }
   void operator()(const ImageItem& item) { PaintImage(cr_, item); }
+  void operator()(const ShadowItem& item) { PaintShadow(cr_, item); }
 
  private:
   void DrawOnPixels(const PathItem& item) {

@@ -11,7 +11,9 @@
 #include "render/labels/DataLabels.h"
 #include "render/layout/ChartLayout.h"
 #include "render/model/ChartReader.h"
+#include "render/model/EffectReader.h"
 #include "render/model/StyleReader.h"
+#include "render/model/StyledShape.h"
 #include "render/shapes/UserShapes.h"
 #include "render/threed/Plot3D.h"
 #include "xlsx/book/BookContext.h"
@@ -64,17 +66,14 @@ void DrawGroup(Plot& plot, const GroupModel& group) {
     case Family::kRadar:
       return DrawRadar(plot, group);
     case Family::kSurface:
-      return plot.canvas.Note("Surface charts aren't drawn.");
+      return plot.canvas.Note("A surface without an axis of categories and one of values isn't drawn.");
   }
 }
 
-/// Hides the axes of radar charts, as DrawRadar draws them, and those of surface charts, as an empty plot
-/// with axes would look like a column chart without columns.
+/// Hides the axes of a radar chart, which draws them by itself.
 void HideAxesWithoutGroups(ChartModel& chart) {
   const auto isRadar = [](const GroupModel& group) { return group.family == Family::kRadar; };
-  const bool hides = std::all_of(chart.groups.begin(), chart.groups.end(), [&](const GroupModel& group) {
-    return isRadar(group) || group.family == Family::kSurface;
-  });
+  const bool hides = std::all_of(chart.groups.begin(), chart.groups.end(), isRadar);
   if (std::any_of(chart.groups.begin(), chart.groups.end(), isRadar)) chart.spokes = chart.axes;
   if (!hides) return;
   for (AxisModel& axis : chart.axes) {
@@ -93,6 +92,7 @@ void NoteMissingLooks(Canvas& canvas, xlsx::ChartPart& part) {
     canvas.Note(
         "A picture as a filling isn't drawn, as it is no PNG; what has it is in its automatic colour.");
   }
+  for (std::string& sentence : MissingEffects(part.Space())) canvas.Note(std::move(sentence));
 }
 
 /// Notes elements of a chart that aren't drawn.
@@ -100,22 +100,35 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
   const auto has = [](pugi::xml_node node, std::string_view local) {
     return bool(xlsx::xml::Child(node, local));
   };
+  if (chart.chartArea.shadow) {
+    canvas.Note("The shadow of the chart area isn't drawn, as it lies outside of the picture.");
+  }
   for (const GroupModel& group : chart.groups) {
-    if (group.is3D && !group.outerLevels.empty()) {
-      canvas.Note("Of categories in several levels, only the innermost are drawn in 3-D.");
+    const bool hasShadows =
+        std::any_of(group.series.begin(), group.series.end(),
+                    [](const SeriesModel& series) { return series.style.shadow.has_value(); });
+    if (group.is3D && hasShadows) canvas.Note("Shadows of bodies in 3-D aren't drawn.");
+    if (has(group.node, "upDownBars") && !group.upDownBars) {
+      canvas.Note("Up and down bars are only drawn between lines.");
     }
-    if (has(group.node, "upDownBars")) canvas.Note("Up and down bars aren't drawn.");
-    if (has(group.node.parent(), "dTable")) canvas.Note("The data table below the chart isn't drawn.");
     for (const SeriesModel& series : group.series) {
-      if (has(series.node, "trendline")) canvas.Note("Trendlines aren't drawn.");
-      if (has(series.node, "errBars")) canvas.Note("Error bars aren't drawn.");
+      if (has(series.node, "trendline") && series.trendlines.empty()) {
+        canvas.Note("Trendlines aren't drawn in a chart of this type.");
+      }
+      if (has(series.node, "errBars") && series.errorBars.empty()) {
+        canvas.Note("Error bars aren't drawn in a chart of this type.");
+      }
     }
   }
 }
 
 void DrawPlot(Plot& plot, const ChartLayout& layout) {
   const ChartModel& chart = plot.chart;
-  if (chart.groups.empty()) return;  // A chart without data doesn't show its plot area.
+  if (chart.groups.empty()) return;  // a chart without data shows nothing of its plot area
+  if (chart.plotArea.shadow) {
+    plot.canvas.AddShadow({Role::kPlotArea}, Path().AddRect(plot.area), chart.plotArea.fill,
+                          chart.plotArea.stroke, *chart.plotArea.shadow);
+  }
   plot.canvas.AddFrame({Role::kPlotArea}, plot.area, chart.plotArea.fill, chart.plotArea.stroke);
   for (const AxisModel& axis : chart.axes) DrawGridlines(plot.canvas, chart, axis, plot.area);
   for (const GroupModel& group : chart.groups) DrawGroup(plot, group);
@@ -123,10 +136,11 @@ void DrawPlot(Plot& plot, const ChartLayout& layout) {
     DrawAxisLine(plot.canvas, chart, chart.axes[i], plot.area);
     DrawTickLabels(plot.canvas, chart, chart.axes[i], layout.axes[i].labels, plot.area);
   }
+  if (layout.table) DrawTable(plot.canvas, chart, *layout.table);
 }
 
 void DrawTitle(Canvas& canvas, Tag tag, const PlacedTitle& placed, const ShapeStyle& style) {
-  canvas.Add(tag, Path().AddRect(placed.box), style.fill, style.stroke);
+  AddTextFrame(canvas, tag, placed.box, style);
   DrawBlock(canvas, tag, placed.block, placed.box.Center());
 }
 

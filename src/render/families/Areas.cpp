@@ -2,7 +2,9 @@
 #include <cmath>
 
 #include "render/axes/DateAxis.h"
+#include "render/families/Analysis.h"
 #include "render/families/Families.h"
+#include "render/model/StyledShape.h"
 #include "render/plot/Curves.h"
 
 namespace plotsmith::render {
@@ -31,7 +33,8 @@ class AreaPainter {
         values_(AxisMap::Along(*plot.ValueAxisOf(group), plot.area)),
         extents_(StackValues(group)),
         base_(plot.BaseOf(group)),
-        pile_(group.PointCount()) {}
+        pile_(group.PointCount()),
+        bars_(plot, group) {}
 
   void Draw() {
     plot_.canvas.PushClip(Path().AddRect(plot_.area));
@@ -43,7 +46,9 @@ class AreaPainter {
     for (const DropLine& line : dropLines_) {
       plot_.canvas.AddLine(line.tag, {line.x, line.top}, {line.x, line.bottom}, *group_.dropLines);
     }
+    bars_.Draw();
     plot_.canvas.PopClip();
+    DrawTrendlines(plot_, group_);
   }
 
  private:
@@ -61,6 +66,7 @@ class AreaPainter {
       borders.upper.push_back({x, upper});
       borders.lower.push_back({x, lower});
       if (!present) continue;
+      bars_.Add(series, i, x, to);
       const double top = std::min(upper, lower), bottom = std::max(upper, lower);
       plot_.Keep({&group_, &series, i, {x, top, 0, bottom - top}, to < from});
       if (group_.dropLines) {
@@ -74,8 +80,7 @@ class AreaPainter {
     std::vector<Point> outline = Thinned(borders.upper);
     const std::vector<Point> back = Thinned(borders.lower);
     outline.insert(outline.end(), back.rbegin(), back.rend());
-    plot_.canvas.Add({Role::kArea, series.number}, Path().AddPolygon(outline), series.style.fill,
-                     series.style.stroke);
+    AddShape(plot_.canvas, {Role::kArea, series.number}, Path().AddPolygon(outline), series.style);
   }
 
   Plot& plot_;
@@ -86,6 +91,7 @@ class AreaPainter {
   const double base_;
   std::vector<double> pile_;  ///< top of the stack at each point, in values
   std::vector<DropLine> dropLines_;
+  ErrorBarPainter bars_;
 };
 
 }  // namespace

@@ -2,8 +2,10 @@
 #include <cmath>
 
 #include "render/axes/AxisPlace.h"
+#include "render/families/Analysis.h"
 #include "render/families/Families.h"
 #include "render/families/ThinBars.h"
+#include "render/model/StyledShape.h"
 
 namespace plotsmith::render {
 namespace {
@@ -68,6 +70,7 @@ void DrawBars(Plot& plot, const GroupModel& group) {
   if (categoryAxis == nullptr || valueAxis == nullptr) return;
   const BarPlaces places(plot, group, *categoryAxis, *valueAxis);
   const bool thin = places.Width() <= ThinBars::kWidest;
+  ErrorBarPainter bars(plot, group);
   ThinBars merged(places.IsHorizontal());
   const Extents extents = StackValues(group);
   const double crossing = CrossingValue(*valueAxis, *categoryAxis);
@@ -83,14 +86,17 @@ void DrawBars(Plot& plot, const GroupModel& group) {
         merged.Add(series, i, box);
       } else {
         const ShapeStyle style = series.StyleOf(i, series.values[i]);
-        plot.canvas.Add({Role::kBar, series.number, static_cast<int>(i + 1)}, Path().AddRect(box), style.fill,
-                        style.stroke);
+        AddShape(plot.canvas, {Role::kBar, series.number, static_cast<int>(i + 1)}, Path().AddRect(box),
+                 style);
       }
+      bars.Add(series, i, places.IsHorizontal() ? box.Center().y : box.Center().x, to);
       plot.Keep({&group, &series, i, box, to < (group.IsStacked() ? from : crossing)});
     }
   }
   merged.Draw(plot.canvas);
+  bars.Draw();
   plot.canvas.PopClip();
+  DrawTrendlines(plot, group);
 }
 
 }  // namespace plotsmith::render

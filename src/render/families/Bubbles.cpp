@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "render/families/Analysis.h"
 #include "render/families/Families.h"
 #include "render/fills/BallFill.h"
+#include "render/model/StyledShape.h"
 
 namespace plotsmith::render {
 namespace {
@@ -36,6 +38,7 @@ void DrawBubbles(Plot& plot, const GroupModel& group) {
     }
   }
   const double largest = kLargest * std::min(plot.area.width, plot.area.height) * group.bubbleScale / 100;
+  ErrorBarPainter bars(plot, group);
   plot.canvas.PushClip(Path().AddRect(plot.area));
   for (const SeriesModel& series : group.series) {
     for (std::size_t i = 0; i < series.values.size(); ++i) {
@@ -49,12 +52,15 @@ void DrawBubbles(Plot& plot, const GroupModel& group) {
       const Rect box{center.x - diameter / 2, center.y - diameter / 2, diameter, diameter};
       ShapeStyle style = series.StyleOf(i, size);
       if (series.bubble3D) style.fill = AsBall(style.fill);
-      plot.canvas.Add({Role::kBubble, series.number, static_cast<int>(i + 1)}, Path().AddEllipse(box),
-                      style.fill, style.stroke);
+      AddShape(plot.canvas, {Role::kBubble, series.number, static_cast<int>(i + 1)}, Path().AddEllipse(box),
+               style);
+      bars.Add(series, i, center.x, series.values[i]);
       if (Overlap(box, plot.area)) plot.Keep({&group, &series, i, box, size < 0});
     }
   }
+  bars.Draw();
   plot.canvas.PopClip();
+  DrawTrendlines(plot, group);
 }
 
 }  // namespace plotsmith::render

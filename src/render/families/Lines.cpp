@@ -6,7 +6,9 @@
 #include <utility>
 
 #include "render/axes/DateAxis.h"
+#include "render/families/Analysis.h"
 #include "render/families/Families.h"
+#include "render/model/StyledShape.h"
 #include "render/plot/Curves.h"
 #include "render/plot/Markers.h"
 
@@ -33,7 +35,13 @@ std::vector<std::vector<Point>> Pieces(const std::vector<LinePoint>& points, boo
   return pieces;
 }
 
-/// Draws a line whose points may have strokes of their own. Neighbours with the same stroke are one path.
+/// A style without its filling.
+ShapeStyle LineStyle(ShapeStyle style) {
+  style.fill = {};
+  return style;
+}
+
+/// Draws the line piecewise where points have strokes of their own. Neighbours of one stroke are one path.
 void DrawSegments(Plot& plot, const SeriesModel& series, const std::vector<LinePoint>& points) {
   const LinePoint* previous = nullptr;
   const ShapeStyle* style = nullptr;
@@ -43,7 +51,7 @@ void DrawSegments(Plot& plot, const SeriesModel& series, const std::vector<LineP
     if (run.size() > 1) {
       Path path;
       AddCurve(path, run, series.smooth);
-      plot.canvas.Add({Role::kLine, series.number, last}, std::move(path), {}, style->stroke);
+      AddShape(plot.canvas, {Role::kLine, series.number, last}, std::move(path), LineStyle(*style));
     }
     run.clear();
   };
@@ -76,7 +84,7 @@ void DrawLineOf(Plot& plot, const SeriesModel& series, const std::vector<LinePoi
     for (const auto& piece : Pieces(points, plot.chart.blanks == "span")) {
       if (piece.size() > 1) AddCurve(path, piece, series.smooth);
     }
-    plot.canvas.Add({Role::kLine, series.number}, std::move(path), {}, series.style.stroke);
+    AddShape(plot.canvas, {Role::kLine, series.number}, std::move(path), LineStyle(series.style));
   }
   plot.canvas.PopClip();
 }
@@ -154,8 +162,9 @@ void DrawLines(Plot& plot, const GroupModel& group) {
   if (group.highLowLines) {
     DrawUprights(plot, categories, values, extents, group.PointCount(), *group.highLowLines);
   }
-  std::vector<double> pile(
-      group.PointCount());  // Without a value, the point of a stacked line is on the line below.
+  DrawUpDownBars(plot, group, extents);
+  ErrorBarPainter bars(plot, group);
+  std::vector<double> pile(group.PointCount());  // a blank in a stack is drawn on the series below it
   for (std::size_t s = 0; s < group.series.size(); ++s) {
     const SeriesModel& series = group.series[s];
     std::vector<LinePoint> points;
@@ -167,10 +176,13 @@ void DrawLines(Plot& plot, const GroupModel& group) {
       point.index = i;
       point.present = std::isfinite(value) && (!valueAxis->logBase || value > 0);
       if (point.present) point.place = {categories.OfCategory(static_cast<double>(i)), values.OfValue(value)};
+      if (std::isfinite(extents.to[s][i])) bars.Add(series, i, point.place.x, value);
     }
     DrawLineOf(plot, series, points);
+    bars.DrawClipped();
     DrawMarkersOf(plot, group, series, points);
   }
+  DrawTrendlines(plot, group);
 }
 
 void DrawScatter(Plot& plot, const GroupModel& group) {
@@ -179,17 +191,22 @@ void DrawScatter(Plot& plot, const GroupModel& group) {
   if (xAxis == nullptr || valueAxis == nullptr) return;
   const AxisMap across = AxisMap::Along(*xAxis, plot.area);
   const AxisMap values = AxisMap::Along(*valueAxis, plot.area);
+  ErrorBarPainter bars(plot, group);
   for (const SeriesModel& series : group.series) {
     std::vector<LinePoint> points;
     for (std::size_t i = 0; i < series.values.size(); ++i) {
       LinePoint& point = points.emplace_back();
       point.index = i;
       point.present = i < series.x.size() && std::isfinite(series.values[i]) && std::isfinite(series.x[i]);
-      if (point.present) point.place = {across.OfX(series.x[i]), values.OfValue(series.values[i])};
+      if (!point.present) continue;
+      point.place = {across.OfX(series.x[i]), values.OfValue(series.values[i])};
+      bars.Add(series, i, point.place.x, series.values[i]);
     }
     if (!group.markersOnly) DrawLineOf(plot, series, points);
+    bars.DrawClipped();
     DrawMarkersOf(plot, group, series, points);
   }
+  DrawTrendlines(plot, group);
 }
 
 }  // namespace plotsmith::render

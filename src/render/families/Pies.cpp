@@ -4,6 +4,7 @@
 #include "render/families/Families.h"
 #include "render/labels/DataLabels.h"
 #include "render/labels/LabelText.h"
+#include "render/model/StyledShape.h"
 
 namespace plotsmith::render {
 namespace {
@@ -18,22 +19,25 @@ double ExplosionOf(const SeriesModel& series, std::size_t point) {
 
 /// Returns the slices of a series, in a circle of radius 1 around the origin.
 std::vector<DrawnPoint> SlicesOf(const GroupModel& group, const SeriesModel& series) {
-  double whole = 0;
+  // values are taken as shares of the greatest, as their sum may be no number
+  double most = 0, whole = 0, sum = 0;
   for (const double value : series.values) {
-    if (std::isfinite(value)) whole += std::abs(value);
+    if (std::isfinite(value)) most = std::max(most, std::abs(value));
   }
   std::vector<DrawnPoint> slices;
-  if (!(whole > 0) || !std::isfinite(whole)) return slices;
-  double sum = 0;
+  if (!(most > 0)) return slices;
+  for (const double value : series.values) {
+    if (std::isfinite(value)) whole += std::abs(value) / most;
+  }
   for (std::size_t i = 0; i < series.values.size(); ++i) {
     const double value = series.values[i];
     if (!std::isfinite(value)) continue;
     DrawnPoint slice{&group, &series, i};
-    slice.share = std::abs(value) / whole;
+    slice.share = std::abs(value) / most / whole;
     slice.angle = group.firstSliceAngle + 360 * sum / whole;
     slice.sweep = 360 * slice.share;
     slice.circle = {-1, -1, 2, 2};
-    sum += std::abs(value);
+    sum += std::abs(value) / most;
     slices.push_back(slice);
   }
   return slices;
@@ -116,8 +120,8 @@ void DrawSlices(Plot& plot, std::vector<DrawnPoint> slices, const Ring& ring) {
     slice.hole = hole;
     if (slice.sweep > 0) {
       const ShapeStyle& style = series.StyleOf(slice.index);
-      plot.canvas.Add({Role::kSlice, series.number, static_cast<int>(slice.index + 1)},
-                      SliceOutline(slice.circle, slice), style.fill, style.stroke);
+      AddShape(plot.canvas, {Role::kSlice, series.number, static_cast<int>(slice.index + 1)},
+               SliceOutline(slice.circle, slice), style);
     }
     plot.Keep(slice);
   }

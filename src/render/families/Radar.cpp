@@ -6,6 +6,7 @@
 #include "render/axes/AxisMap.h"
 #include "render/axes/TickLabels.h"
 #include "render/families/Families.h"
+#include "render/model/StyledShape.h"
 #include "render/plot/Markers.h"
 #include "render/text/TextBlock.h"
 
@@ -77,8 +78,10 @@ class Web {
       open = place || (open && spans);
     }
     if (closed && !path.IsEmpty()) path.Close();
-    plot_.canvas.Add({group_.filled ? Role::kArea : Role::kLine, series.number}, std::move(path),
-                     group_.filled ? series.style.fill : Fill(), series.style.stroke);
+    ShapeStyle style = series.style;
+    if (!group_.filled) style.fill = {};
+    AddShape(plot_.canvas, {group_.filled ? Role::kArea : Role::kLine, series.number}, std::move(path),
+             style);
     for (std::size_t i = 0; i < places.size(); ++i) {
       if (!places[i]) continue;
       const MarkerModel& marker = series.MarkerOf(i);

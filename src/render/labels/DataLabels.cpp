@@ -6,6 +6,7 @@
 
 #include "render/labels/LabelText.h"
 #include "render/labels/PieLabels.h"
+#include "render/model/StyledShape.h"
 #include "render/plot/LegendKey.h"
 
 namespace plotsmith::render {
@@ -120,7 +121,42 @@ Point CenterOf(const Plot& plot, const DrawnPoint& point, const LabelModel& labe
   }
 }
 
-/// Draws the line from a slice to a label that was moved away from it.
+/// Whether a line crosses the circle of a slice.
+bool CrossesCircle(const Rect& circle, Point from, Point to) {
+  const Point middle = circle.Center();
+  constexpr int kSamples = 32;
+  for (int i = 0; i <= kSamples; ++i) {
+    const double share = static_cast<double>(i) / kSamples;
+    const double x = from.x + (to.x - from.x) * share - middle.x;
+    const double y = from.y + (to.y - from.y) * share - middle.y;
+    constexpr double kInside = 0.99;  // of the radius
+    if (std::hypot(x / (circle.width / 2), y / (circle.height / 2)) < kInside) return true;
+  }
+  return false;
+}
+
+/// A straight line, or one that goes round the circle as far as it would cross it.
+Path LeaderPath(const DrawnPoint& point, Point from, Point to) {
+  constexpr double kAside = 2, kStep = 4, kMostTurn = 180;  // points and degrees
+  const Rect& circle = point.circle;
+  const Rect around{circle.left - kAside, circle.top - kAside, circle.width + 2 * kAside,
+                    circle.height + 2 * kAside};
+  const Point middle = circle.Center();
+  double angle = point.angle + point.sweep / 2;
+  const double wanted =
+      std::atan2((to.x - middle.x) / circle.width, (middle.y - to.y) / circle.height) / kRadian;
+  const double turn = std::remainder(wanted - angle, 360);
+  Path path;
+  path.MoveTo(from);
+  Point at = from;
+  for (double turned = 0; turned < kMostTurn && CrossesCircle(circle, at, to); turned += kStep) {
+    at = OnEllipse(around, angle += turn < 0 ? -kStep : kStep);
+    path.LineTo(at);
+  }
+  return path.LineTo(to);
+}
+
+/// The line from a slice to a label that was moved away from it.
 void DrawLeader(Plot& plot, const PlacedLabel& placed) {
   const DrawnPoint& point = *placed.point;
   const LabelsModel& labels = point.series->labels;
@@ -131,8 +167,8 @@ void DrawLeader(Plot& plot, const PlacedLabel& placed) {
   if (to.x != from.x) to.y = label.Center().y;  // The line ends at the middle of a side.
   constexpr double kShortest = 5;               // points
   if (std::hypot(to.x - from.x, to.y - from.y) < kShortest) return;
-  plot.canvas.AddLine({Role::kLeaderLine, point.series->number, static_cast<int>(point.index + 1)}, from, to,
-                      labels.leaderStroke);
+  plot.canvas.Add({Role::kLeaderLine, point.series->number, static_cast<int>(point.index + 1)},
+                  LeaderPath(point, from, to), {}, labels.leaderStroke);
 }
 
 /// Lays out a label at its position, or as its layout says, and keeps it on the chart.
@@ -166,7 +202,7 @@ void DrawLabel(Plot& plot, const PlacedLabel& placed) {
   const Tag tag{Role::kDataLabel, point.series->number, static_cast<int>(point.index + 1)};
   const Rect box = placed.Box();
   DrawLeader(plot, placed);
-  plot.canvas.Add(tag, Path().AddRect(box), label.style.fill, label.style.stroke);
+  AddTextFrame(plot.canvas, tag, box, label.style);
   if (label.showsKey) {
     DrawKey(plot.canvas, plot.chart, {Role::kLegendKey, tag.series, tag.point},
             {box.left + kLabelPadding, placed.center.y - kKeySide / 2, kKeySide, kKeySide});

@@ -19,8 +19,9 @@ using xlsx::kTitleShare;
 
 namespace {
 
-constexpr double kDeepestLabels = 0.4;  // share of the chart that the labels of one axis may take
-constexpr double kEdgeMargin = 2;       // points between labels and the chart's edge
+constexpr double kDeepestLabels = 0.4;  // of the chart that the labels of one axis may take
+constexpr double kMostOverhang = 0.2;   // of the chart's width that a slanted label may push the plot area by
+constexpr double kEdgeMargin = 2;       // that labels keep to the chart's edge
 
 double& RoomAt(Edges& edges, Side side) {
   switch (side) {
@@ -151,6 +152,7 @@ class Layouter {
       if (inner) layout_.plot = KeepLeast(Applied(*chart_.layout, bounds_, layout_.plot), bounds_, bounds_);
       SetTickLabels();
     }
+    ShortenSlanted();
     if (inner) {
       layout_.outer = {layout_.plot.left - rooms_.left, layout_.plot.top - rooms_.top,
                        layout_.plot.width + rooms_.left + rooms_.right,
@@ -175,7 +177,12 @@ class Layouter {
       room = std::max(room, labels.depth + kLabelGap - inside);
       AddOverhang(axis, labels, length, overhang);
     }
-    // Labels that extend beyond the ends of an axis may use the margin, but not leave the chart.
+    if (chart_.table) {
+      layout_.table = LayOutTable(chart_, bounds_, layout_.plot, measure_);
+      rooms_.left = std::max(rooms_.left, layout_.table->NamesWidth());
+      rooms_.bottom = std::max(rooms_.bottom, layout_.table->Height());
+    }
+    // what sticks out at the ends of an axis may use the inset, but not leave the chart
     const auto widen = [](double& room, double wanted, double available) {
       room = std::max(room, wanted - std::max(available - kEdgeMargin, 0.0));
     };
@@ -194,14 +201,37 @@ class Layouter {
       const bool slanted = !axis.IsUpright() && std::abs(turn) > 0.05 && std::abs(turn) < 0.99;
       const double along = axis.IsUpright() ? label->block.TurnedHeight() : label->block.TurnedWidth();
       const double start = slanted ? (turn < 0 ? along : 0) : along / 2;
-      before = std::max(before, start - place);
-      behind = std::max(behind, along - start - (length - place));
+      // a slanted label is rather shortened than the plot area made small for it
+      const double most = slanted ? kMostOverhang * bounds_.width : kUnlimited;
+      before = std::max(before, std::min(start - place, most));
+      behind = std::max(behind, std::min(along - start - (length - place), most));
     }
     // Vertical axes begin at the bottom.
     double& first = axis.IsUpright() ? overhang.bottom : overhang.left;
     double& second = axis.IsUpright() ? overhang.top : overhang.right;
     first = std::max(first, before);
     second = std::max(second, behind);
+  }
+
+  /// Ends slanted labels below an axis in dots where they would begin outside of the chart.
+  void ShortenSlanted() {
+    for (std::size_t i = 0; i < chart_.axes.size(); ++i) {
+      const AxisModel& axis = chart_.axes[i];
+      TickLabels& labels = layout_.axes[i].labels;
+      const double angle = labels.rotation * std::numbers::pi / 180;
+      const bool slanted = std::abs(std::sin(angle)) > 0.05 && std::abs(std::sin(angle)) < 0.99;
+      if (axis.IsUpright() || !slanted || labels.IsEmpty()) continue;
+      const AxisPlace place = PlaceOf(chart_, axis, layout_.plot);
+      const AxisMap map = AxisMap::Along(axis, layout_.plot);
+      const bool endsHere = (angle < 0) == (place.labelSide == Side::kBottom);
+      for (TickLabel& label : labels.labels) {
+        const double along = label.category ? map.OfSlot(label.place) : map.OfValue(label.place);
+        const double free = endsHere ? along - bounds_.left : bounds_.Right() - along;
+        // half of the height of a slanted line sticks out beside its end
+        const double corner = label.block.height / 2 * std::abs(std::sin(angle));
+        Shorten(label.block, (free - kEdgeMargin - corner) / std::abs(std::cos(angle)), measure_);
+      }
+    }
   }
 
   void PlaceAxisTitles() {

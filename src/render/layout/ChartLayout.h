@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "render/axes/TickLabels.h"
+#include "render/layout/DataTable.h"
 #include "render/layout/LegendLayout.h"
 #include "render/model/ChartModel.h"
 #include "render/text/TextBlock.h"
@@ -26,7 +27,8 @@ struct AxisLayout {
 struct ChartLayout {
   std::optional<PlacedTitle> title;
   std::optional<LegendLayout> legend;
-  std::vector<AxisLayout> axes;  ///< one for each axis of the chart
+  std::optional<TableLayout> table;
+  std::vector<AxisLayout> axes;  ///< one for each of the chart
   Rect outer;                    ///< the plot area with its tick labels
   Rect plot;                     ///< the rectangle between the axes
 };

@@ -32,9 +32,10 @@ struct Measured {
 std::vector<const LegendEntry*> InOrder(const ChartModel& chart, bool upright) {
   std::vector<const LegendEntry*> entries;
   for (const LegendEntry& entry : chart.legend->entries) entries.push_back(&entry);
-  const bool piled = !chart.groups.empty() &&
-                     std::all_of(chart.groups.begin(), chart.groups.end(),
-                                 [](const auto& group) { return group.IsStacked() && !group.horizontal; });
+  const bool piled =
+      !chart.groups.empty() && std::all_of(chart.groups.begin(), chart.groups.end(), [](const auto& group) {
+        return (group.IsStacked() && !group.horizontal) || !group.bands.empty();
+      });
   if (upright && piled) std::reverse(entries.begin(), entries.end());
   return entries;
 }
@@ -228,8 +229,9 @@ LegendLayout LayOutLegend(const ChartModel& chart, const Rect& bounds, Rect& fre
   LegendLayout layout;
   const LegendModel& legend = *chart.legend;
   const std::vector<const LegendEntry*> order = InOrder(chart, !legend.IsFlat());
-  const bool lineKeys = std::any_of(
-      order.begin(), order.end(), [&](const LegendEntry* entry) { return HasLineKey(chart, entry->series); });
+  const bool lineKeys = std::any_of(order.begin(), order.end(), [&](const LegendEntry* entry) {
+    return entry->trendline > 0 || HasLineKey(chart, entry->series);
+  });
   Grid grid;
   grid.em = legend.text.font.size;
   grid.keyWidth = (lineKeys ? kLineKeyEms : kSquareEms) * grid.em;
@@ -249,6 +251,29 @@ LegendLayout LayOutLegend(const ChartModel& chart, const Rect& bounds, Rect& fre
   return layout;
 }
 
+namespace {
+
+void DrawTrendlineKey(Canvas& canvas, const ChartModel& chart, const LegendEntry& entry, const Rect& box) {
+  const SeriesModel* series = chart.FindSeries(entry.series);
+  if (series == nullptr) return;
+  const double middle = box.Center().y;
+  canvas.AddLine({Role::kLegendKey, entry.series}, {box.left, middle}, {box.Right(), middle},
+                 series->trendlines[static_cast<std::size_t>(entry.trendline - 1)].style.stroke);
+}
+
+void DrawBandKey(Canvas& canvas, const ChartModel& chart, const LegendEntry& entry, const Rect& box) {
+  const auto group = std::find_if(chart.groups.begin(), chart.groups.end(),
+                                  [](const GroupModel& one) { return !one.bands.empty(); });
+  if (group == chart.groups.end()) return;
+  const ShapeStyle& style = group->bands[static_cast<std::size_t>(entry.band - 1)].style;
+  const Tag tag{Role::kLegendKey, 0, entry.band};
+  if (!group->wireframe) return canvas.Add(tag, Path().AddRect(box), style.fill, style.stroke);
+  const double middle = box.Center().y;
+  canvas.AddLine(tag, {box.left, middle}, {box.Right(), middle}, style.stroke);
+}
+
+}  // namespace
+
 void DrawLegend(Canvas& canvas, const ChartModel& chart, const LegendLayout& layout) {
   if (layout.leftOut > 0) {
     canvas.Note(layout.entries.empty() ? "The chart has no room for its legend, which is left out."
@@ -256,12 +281,22 @@ void DrawLegend(Canvas& canvas, const ChartModel& chart, const LegendLayout& lay
                                              " of its entries; the others are left out.");
   }
   if (layout.entries.empty()) return;
-  canvas.AddFrame({Role::kLegend}, layout.box, chart.legend->style.fill, chart.legend->style.stroke);
+  const ShapeStyle& style = chart.legend->style;
+  if (style.shadow) {
+    canvas.AddShadow({Role::kLegend}, Path().AddRect(layout.box), style.fill, style.stroke, *style.shadow);
+  }
+  canvas.AddFrame({Role::kLegend}, layout.box, style.fill, style.stroke);
   for (const PlacedEntry& placed : layout.entries) {
     const LegendEntry& entry = *placed.entry;
-    DrawKey(canvas, chart, {Role::kLegendKey, entry.series, entry.point}, placed.key);
-    DrawBlock(canvas, {Role::kLegendEntry, entry.series, entry.point}, placed.text, placed.textCenter,
-              TextAlign::kStart);
+    if (entry.trendline > 0) {
+      DrawTrendlineKey(canvas, chart, entry, placed.key);
+    } else if (entry.band > 0) {
+      DrawBandKey(canvas, chart, entry, placed.key);
+    } else {
+      DrawKey(canvas, chart, {Role::kLegendKey, entry.series, entry.point}, placed.key);
+    }
+    DrawBlock(canvas, {Role::kLegendEntry, entry.series, std::max(entry.point, entry.band)}, placed.text,
+              placed.textCenter, TextAlign::kStart);
   }
 }
 

@@ -65,6 +65,7 @@ void ScaleAxes(ChartModel& chart) {
       if (!isX && group.value != static_cast<int>(i)) continue;
       headroom &= !group.is3D && group.grouping != Grouping::kPercent;
       AddGroup(group, isX, axis.extent);
+      AddAnalysisExtent(group, isX, axis.extent);
     }
     axis.settings = xlsx::SettingsOf(axis.node, headroom);
     axis.settings.logBase = axis.logBase;

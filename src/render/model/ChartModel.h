@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "render/Drawing.h"
+#include "render/Shadow.h"
+#include "render/model/Analysis.h"
 #include "render/model/DateSlots.h"
 #include "render/text/RichText.h"
 #include "xlsx/chart/rules/DataExtent.h"
@@ -24,6 +26,7 @@ namespace plotsmith::render {
 struct ShapeStyle {
   Fill fill;
   Stroke stroke;
+  std::optional<Shadow> shadow = {};
 };
 
 /// A layout that a person set (c:manualLayout), in fractions of the chart's width and height. A missing value
@@ -91,7 +94,20 @@ struct PointModel {
   std::optional<bool> invertIfNegative;  ///< nothing for that of the series
 };
 
-/// A series.
+/// A trendline of a series (c:trendline).
+struct Trendline {
+  TrendKind kind = TrendKind::kLinear;
+  std::size_t period = 2;  ///< of a moving average, in points
+  std::string name;
+  double forward = 0, backward = 0;  ///< how far it goes on beyond the points
+  double shift = 0;  ///< what is taken from x for the number along the axis, as AxisMap::OfX takes it
+  std::vector<Point> points;  ///< x and value; empty if no line could be fitted
+  ShapeStyle style;
+  RichText label;  ///< its equation and how well it fits
+  ShapeStyle labelStyle;
+  std::optional<ManualLayout> labelLayout;
+};
+
 struct SeriesModel {
   pugi::xml_node node;  ///< c:ser
   int number = 1;       ///< in plot order, from 1
@@ -111,6 +127,8 @@ struct SeriesModel {
       palette;  ///< looks of points in varied colours, repeated from its beginning; empty otherwise
   std::map<std::size_t, PointModel> points;  ///< points with a look of their own, which count from 0
   LabelsModel labels;
+  std::vector<ErrorBars> errorBars;
+  std::vector<Trendline> trendlines;
 
   /// Returns the style of a point, which counts from 0.
   const ShapeStyle& StyleOf(std::size_t point) const;
@@ -122,7 +140,13 @@ struct SeriesModel {
   const MarkerModel& MarkerOf(std::size_t point) const;
 };
 
-/// Neighbouring categories that share a text on an outer level.
+/// Bars from the first series of a group of lines to the last one.
+struct UpDownBars {
+  double gapWidth = 150;  ///< percent of a bar's width
+  ShapeStyle up, down;    ///< the last series above the first, or below it
+};
+
+/// What neighbouring categories have in common, on an outer level.
 struct CategoryGroup {
   std::size_t first = 0,
               end = 0;  ///< the categories from `first` up to but not including `end`; they count from 0
@@ -148,7 +172,12 @@ enum class Family : std::uint8_t {
 /// How the series of a group share a category.
 enum class Grouping : std::uint8_t { kStandard, kClustered, kStacked, kPercent };
 
-/// A plot group: series of one kind on the same axes.
+/// A band of values on a surface, which has a colour of its own.
+struct SurfaceBand {
+  double from = 0, to = 0;
+  ShapeStyle style;  ///< of lines alone the stroke
+};
+
 struct GroupModel {
   pugi::xml_node node;  ///< c:barChart and the like
   Family family = Family::kBar;
@@ -165,6 +194,10 @@ struct GroupModel {
   bool showNegativeBubbles = false;
   bool sizeIsWidth = false;  ///< else the area of a bubble is its size
   std::optional<Stroke> dropLines, highLowLines;
+  std::optional<UpDownBars> upDownBars;
+  bool wireframe = false;  ///< a surface of lines
+  bool isContour = false;  ///< a surface that is seen from above
+  std::vector<SurfaceBand> bands;
   std::vector<SeriesModel> series;
   std::vector<std::string> categories;     ///< texts of the tick labels, at least one for each point
   std::vector<CategoryLevel> outerLevels;  ///< from the innermost to the outermost
@@ -236,7 +269,9 @@ struct AxisModel {
 struct LegendEntry {
   std::string text;
   TextStyle style;
-  int series = 0, point = 0;  ///< from 1; `point` is 0 if the entry is that of a series
+  int series = 0, point = 0;  ///< from 1; point is 0 where the entry is of a series
+  int trendline = 0;          ///< the number of the series' trendline that it is of, from 1
+  int band = 0;               ///< the number of the surface's band that it is of, from 1
 };
 /// The legend.
 struct LegendModel {
@@ -251,12 +286,21 @@ struct LegendModel {
   bool IsFlat() const { return position == "t" || position == "b"; }
 };
 
-/// A chart.
+/// A table of the values below the plot area (c:dTable).
+struct DataTable {
+  int axis = 0;  ///< index of the axis of categories that it is below
+  bool horizontalLines = false, verticalLines = false, outline = false;
+  bool keys = false;  ///< legend keys beside the names of the series
+  Stroke stroke;
+  TextStyle text;
+};
+
 struct ChartModel {
   ShapeStyle chartArea, plotArea;
   bool roundedCorners = false;
   std::optional<TitleModel> title;
   std::optional<LegendModel> legend;
+  std::optional<DataTable> table;
   std::optional<ManualLayout> layout;  ///< of the plot area
   std::vector<GroupModel> groups;      ///< groups that have series, in the order of drawing
   std::vector<AxisModel> axes;

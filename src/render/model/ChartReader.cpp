@@ -168,7 +168,11 @@ ChartModel ReadChart(xlsx::ChartPart& part, Notes& notes) {
     chart.title = ReadTitle(context, xml::Child(node, "title"), xlsx::TextRole::kChartTitle, *title);
   }
   chart.legend = ReadLegend(context);
+  ReadDataTable(context, plotArea, chart);
+  ReadAnalysis(context, chart);
+  AddTrendlineEntries(context, chart);
   ScaleAxes(chart);
+  ReadSurfaces(context, chart);
   return chart;
 }
 

@@ -48,8 +48,19 @@ TitleModel ReadTitle(ReadingContext& context, pugi::xml_node title, xlsx::TextRo
                      const std::string& automatic);
 /// Reads the legend. Returns nothing if the chart has none.
 std::optional<LegendModel> ReadLegend(ReadingContext& context);
-/// Sets the slots of an axis of dates from its categories (c:cat). The axis stays one of categories if they
-/// aren't dates.
+/// Reads error bars, trendlines and up/down bars of groups whose axes are read. Axes of categories are
+/// extended for trendlines.
+void ReadAnalysis(ReadingContext& context, ChartModel& chart);
+/// Reads the data table of a plot area, and makes room for it in place of tick labels.
+void ReadDataTable(ReadingContext& context, pugi::xml_node plotArea, ChartModel& chart);
+/// Reads surfaces, whose axes are scaled, and gives their bands to the legend.
+void ReadSurfaces(ReadingContext& context, ChartModel& chart);
+/// Adds what error bars and extended trendlines need of an axis.
+void AddAnalysisExtent(const GroupModel& group, bool isX, xlsx::DataExtent& extent);
+/// Adds the entries of trendlines to the legend.
+void AddTrendlineEntries(ReadingContext& context, ChartModel& chart);
+/// Lays the categories of an axis of dates (c:cat) out by their dates; leaves it as one of categories where
+/// they are none.
 void ReadDates(ReadingContext& context, pugi::xml_node categories, AxisModel& axis);
 
 /// Reads the numbers of a series' data (c:val, c:xVal and the like): one for each point, and NaN for a

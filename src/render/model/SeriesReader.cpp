@@ -26,8 +26,9 @@ struct Kind {
   std::string_view element;
   Family family;
 
-  /// Returns whether the group is drawn in 3-D, which is part of the name of its element.
-  bool Is3D() const { return element.find("3D") != std::string_view::npos; }
+  /// Returns whether the group is drawn in 3-D: a surface, also one that is seen from above, and groups that
+  /// have this in the name of their element.
+  bool Is3D() const { return family == Family::kSurface || element.find("3D") != std::string_view::npos; }
 };
 constexpr std::array<Kind, 16> kKinds = {{{"areaChart", Family::kArea},
                                           {"area3DChart", Family::kArea},

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "render/Images.h"
+#include "render/model/EffectReader.h"
 #include "render/model/PictureSource.h"
 #include "xlsx/book/BookContext.h"
 #include "xlsx/chart/part/ChartCache.h"
@@ -209,7 +210,8 @@ Stroke ReadStroke(const Palette& palette, pugi::xml_node line, const Stroke& aut
 
 ShapeStyle ReadStyle(const Palette& palette, pugi::xml_node properties, const ShapeStyle& automatic) {
   return {ReadFill(palette, xlsx::FindFill(properties), automatic.fill),
-          ReadStroke(palette, xml::Child(properties, "ln"), automatic.stroke)};
+          ReadStroke(palette, xml::Child(properties, "ln"), automatic.stroke),
+          ReadShadow(palette, properties, automatic.shadow)};
 }
 
 TextStyle ReadTextStyle(xlsx::ChartPart& part, pugi::xml_node element, xlsx::TextRole role) {

@@ -1,5 +1,7 @@
 #include "render/plot/Markers.h"
 
+#include "render/model/StyledShape.h"
+
 namespace plotsmith::render {
 namespace {
 
@@ -35,8 +37,9 @@ Path OutlineOf(const std::string& symbol, Point center, double size) {
 
 void DrawMarker(Canvas& canvas, Tag tag, const MarkerModel& marker, Point center) {
   if (marker.symbol == "none" || marker.symbol == "picture") return;
-  const Fill fill = IsOpen(marker.symbol) ? Fill() : marker.style.fill;
-  canvas.Add(tag, OutlineOf(marker.symbol, center, marker.size), fill, marker.style.stroke);
+  ShapeStyle style = marker.style;
+  if (IsOpen(marker.symbol)) style.fill = {};
+  AddShape(canvas, tag, OutlineOf(marker.symbol, center, marker.size), style);
 }
 
 }  // namespace plotsmith::render

@@ -6,6 +6,8 @@
 #include <string>
 
 #include "render/Images.h"
+#include "render/model/EffectReader.h"
+#include "render/model/StyledShape.h"
 #include "render/shapes/Placement.h"
 #include "render/shapes/ShapeForms.h"
 #include "render/shapes/ShapeText.h"
@@ -126,8 +128,9 @@ class ObjectPainter {
                    name + ").");
       form = ShapeForm{Path().AddRect(frame), false};
     }
-    canvas_.Add({Role::kShape, 0, number_}, placement.Map(form->path), form->open ? Fill() : style.fill,
-                style.stroke);
+    for (std::string& sentence : MissingEffects(object)) canvas_.Note(std::move(sentence));
+    if (form->open) style.fill = {};
+    AddShape(canvas_, {Role::kShape, 0, number_}, placement.Map(form->path), style);
     DrawShapeText(canvas_, {Role::kShapeText, 0, number_}, ReadShapeText(palette_, object, automatic.text),
                   frame, placement);
   }
@@ -145,11 +148,16 @@ class ObjectPainter {
                    NameOf(object) + ".");
       return;
     }
+    const ShapeStyle style = ReadStyle(palette_, xlsx::ShapePropertiesOf(object), {});
+    if (style.shadow) {
+      const Fill opaque = SolidFill{};
+      canvas_.AddShadow({Role::kShape, 0, number_}, Path().AddRect(frame), opaque, style.stroke,
+                        *style.shadow);
+    }
     const Rect place = Uncropped(xml::Child(fill, "srcRect"), frame);
     if (place != frame) canvas_.PushClip(Path().AddRect(frame));
     canvas_.Target().items.push_back({{Role::kShape, 0, number_}, ImageItem{std::move(bytes), place}});
     if (place != frame) canvas_.PopClip();
-    const ShapeStyle style = ReadStyle(palette_, xlsx::ShapePropertiesOf(object), {});
     canvas_.Add({Role::kShape, 0, number_}, Path().AddRect(frame), {}, style.stroke);
   }
   /// Returns the rectangle of a whole picture of which a frame shows a part.

@@ -166,7 +166,8 @@ std::string PrefixFor(std::string_view svg) {
 
 class Writer {
  public:
-  explicit Writer(Font usual) : usual_(std::move(usual)) {}
+  Writer(Font usual, const Drawing& drawing)
+      : usual_(std::move(usual)), width_(drawing.width), height_(drawing.height) {}
 
   void operator()(const PathItem& item) {
     if (std::holds_alternative<std::monostate>(item.fill) && !(item.stroke.width > 0)) return;
@@ -204,6 +205,23 @@ class Writer {
     --groups_;
     body_ += "</g>\n";
   }
+  void operator()(const ShadowItem& item) {
+    const std::string color = HexOf(item.color);
+    body_ += "<path d=\"" + PathData(item.path) + "\" fill=\"" + (item.filled ? color : "none") + '"';
+    if (item.lineWidth > 0) {
+      body_ += " stroke=\"" + color + "\" stroke-width=\"" + SvgNumber(item.lineWidth) + '"';
+    }
+    if (item.color.alpha < 1) body_ += " opacity=\"" + SvgNumber(item.color.alpha) + '"';
+    if (item.blur > 0) {
+      // the region is that of the drawing, as that of a line without a height would be empty
+      const std::string id =
+          definitions_.IdOf("<filter id=\"@\" filterUnits=\"userSpaceOnUse\" x=\"0\" y=\"0\" width=\"" +
+                            SvgNumber(width_) + "\" height=\"" + SvgNumber(height_) +
+                            "\"><feGaussianBlur stdDeviation=\"" + SvgNumber(item.blur) + "\"/></filter>");
+      body_ += " filter=\"url(#" + id + ")\"";
+    }
+    body_ += "/>\n";
+  }
   void operator()(const ImageItem& item) { body_ += ImageElement(item); }
 
   std::string Finish() {
@@ -213,6 +231,7 @@ class Writer {
 
  private:
   const Font usual_;
+  const double width_, height_;  // of the drawing
   SvgDefinitions definitions_{kPrefixLeftOpen};
   std::string body_;
   int groups_ = 0;
@@ -228,7 +247,7 @@ std::string MakeSvg(const Drawing& drawing) {
                     FontAttributes(usual.family, usual.size, Font{"", 0}) + ">\n";
   if (!drawing.title.empty()) svg += "<title>" + SvgEscape(drawing.title) + "</title>\n";
   if (!drawing.description.empty()) svg += "<desc>" + SvgEscape(drawing.description) + "</desc>\n";
-  Writer writer(usual);
+  Writer writer(usual, drawing);
   for (const Item& item : drawing.items) std::visit(writer, item.content);
   svg += writer.Finish() + "</svg>\n";
   return runtime::Replace(svg, kPrefixLeftOpen, PrefixFor(svg));

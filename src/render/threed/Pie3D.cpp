@@ -30,13 +30,16 @@ struct Slice {
 };
 
 std::vector<Slice> SlicesOf(const SeriesModel& series, double firstAngle) {
-  double whole = 0;
-  for (const double value : series.values) whole += std::isfinite(value) ? std::abs(value) : 0;
+  // values are taken as shares of the greatest, as their sum may be no number
+  double most = 0, whole = 0;
+  for (const double value : series.values) most = std::max(most, std::isfinite(value) ? std::abs(value) : 0);
+  for (const double value : series.values)
+    whole += std::isfinite(value) && most > 0 ? std::abs(value) / most : 0;
   std::vector<Slice> slices;
   if (!(whole > 0) || !std::isfinite(whole)) return slices;
   double angle = firstAngle;
   for (std::size_t i = 0; i < series.values.size(); ++i) {
-    const double share = std::isfinite(series.values[i]) ? std::abs(series.values[i]) / whole : 0;
+    const double share = std::isfinite(series.values[i]) ? std::abs(series.values[i]) / most / whole : 0;
     if (share <= 0) continue;
     const auto own = series.points.find(i);
     const bool differs = own != series.points.end() && own->second.explosion;

@@ -51,6 +51,7 @@ BoxShape Stage::Shape(const View& view) const {
 }
 
 bool Stage::StandsOnTicks() const {
+  if (group_.family == Family::kSurface) return categories_ > 1;
   return group_.family != Family::kBar && !Categories().crossesBetween && categories_ > 1;
 }
 
@@ -83,6 +84,10 @@ Span Stage::Depth(std::size_t series) const {
   const double slots = static_cast<double>(DepthSlots());
   double place = DepthSlots() > 1 ? static_cast<double>(series) : 0;
   if (Series() != nullptr && Series()->reversed) place = slots - 1 - place;
+  if (group_.family == Family::kSurface && slots > 1) {
+    place /= slots - 1;  // a surface goes from the first series to the last
+    return {place, place};
+  }
   const double middle = (place + 0.5) / slots, half = 0.5 / slots / (1 + gapDepth_);
   return {middle - half, middle + half};
 }

@@ -6,6 +6,7 @@
 
 #include "render/axes/AxisMap.h"
 #include "render/axes/DateAxis.h"
+#include "render/axes/TickLabels.h"
 
 namespace plotsmith::render {
 namespace {
@@ -83,9 +84,11 @@ StageAxes::Ruler StageAxes::ReadSeries() const {
   const auto& all = stage_.Group().series;
   for (std::size_t i = 0; i < all.size(); ++i) {
     ruler.labels.push_back({all[i].name, stage_.Depth(i).Middle(), static_cast<int>(i) + 1});
-    ruler.ticks.push_back(static_cast<double>(i) / static_cast<double>(all.size()));
+    const bool onTicks = stage_.Group().family == Family::kSurface;
+    ruler.ticks.push_back(onTicks ? stage_.Depth(i).Middle()
+                                  : static_cast<double>(i) / static_cast<double>(all.size()));
   }
-  ruler.ticks.push_back(1);
+  if (stage_.Group().family != Family::kSurface) ruler.ticks.push_back(1);
   return ruler;
 }
 
@@ -143,6 +146,13 @@ std::vector<StageAxes::PlacedRuler> StageAxes::Place(const Projection& projectio
   std::vector<PlacedRuler> placed = {{&values_, stage_.Lying() ? lower : upright},
                                      {&categories_, stage_.Lying() ? upright : lower}};
   if (series_.axis != nullptr) placed.push_back({&series_, SeriesEdge(projection)});
+  // an edge that one looks along shows nothing of its axis
+  std::erase_if(placed, [&](const PlacedRuler& one) {
+    const Point a = Along(projection, one.edge.from, one.edge.to, 0);
+    const Point b = Along(projection, one.edge.from, one.edge.to, 1);
+    constexpr double kShortest = 1;  // points
+    return std::hypot(a.x - b.x, a.y - b.y) < kShortest;
+  });
   return placed;
 }
 
@@ -201,6 +211,75 @@ std::vector<StageAxes::PlacedLabel> StageAxes::LabelsOf(const PlacedRuler& place
   return shown;
 }
 
+Rect StageAxes::PlacedGroup::Bounds() const {
+  const double width = block.TurnedWidth(), height = block.TurnedHeight();
+  Rect bounds{center.x - width / 2, center.y - height / 2, width, height};
+  for (const auto& [from, to] : lines) {
+    bounds = Union(Union(bounds, {from.x, from.y, 0, 0}), {to.x, to.y, 0, 0});
+  }
+  return bounds;
+}
+
+/// The way from an edge of the box to its labels.
+Point StageAxes::WayOf(Beside beside) {
+  if (beside == Beside::kBelow) return {0, 1};
+  return {beside == Beside::kLeft ? -1.0 : 1.0, 0};
+}
+
+StageAxes::PlacedGroup StageAxes::PlaceGroup(const PlacedRuler& placed, const CategoryGroup& group,
+                                             double distance, const Projection& projection) const {
+  const auto at = [&](double share) {
+    return Along(projection, placed.edge.from, placed.edge.to, std::clamp(share, 0.0, 1.0));
+  };
+  const Span first = stage_.Category(group.first), last = stage_.Category(group.end - 1);
+  const Point a = at(std::min(first.from, last.from)), b = at(std::max(first.to, last.to));
+  const Point way = WayOf(placed.edge.beside);
+  const bool below = placed.edge.beside == Beside::kBelow;
+  TextStyle style = placed.ruler->axis->text;
+  style.rotation = below ? 0 : -90;
+  PlacedGroup result;
+  result.number = static_cast<int>(group.first) + 1;
+  result.block = LayOut(group.text, style, measure_);
+  const double depth = result.block.height;
+  Shorten(result.block, (below ? std::abs(b.x - a.x) : std::abs(b.y - a.y)) - 2, measure_);
+  const double middle = distance + depth / 2, end = distance + depth;
+  result.center = {(a.x + b.x) / 2 + way.x * middle, (a.y + b.y) / 2 + way.y * middle};
+  const auto addLine = [&](Point edge, bool isEndOfAxis) {
+    // where the axis ends on a category, a line would go through its label
+    if (isEndOfAxis && stage_.StandsOnTicks()) return;
+    result.lines.push_back({edge, {edge.x + way.x * end, edge.y + way.y * end}});
+  };
+  addLine(a, std::min(first.from, last.from) <= 0);
+  addLine(b, std::max(first.to, last.to) >= 1);
+  return result;
+}
+
+std::vector<StageAxes::PlacedGroup> StageAxes::GroupsOf(const PlacedRuler& placed,
+                                                        const std::vector<PlacedLabel>& labels,
+                                                        const Projection& projection) const {
+  std::vector<PlacedGroup> groups;
+  if (placed.ruler != &categories_ || labels.empty()) return groups;
+  const bool below = placed.edge.beside == Beside::kBelow;
+  double distance = kLabelGap;
+  for (const PlacedLabel& label : labels) {
+    const double depth = below ? label.block.TurnedHeight() : label.block.TurnedWidth();
+    distance = std::max(distance, kLabelGap + depth);
+  }
+  for (const CategoryLevel& level : placed.ruler->axis->outerLevels) {
+    distance += kLabelGap / 2;
+    double depth = 0;
+    for (const CategoryGroup& group : level) {
+      if (group.first >= stage_.CategoryCount() || groups.size() >= kMostLabels) break;
+      CategoryGroup shown = group;
+      shown.end = std::min(shown.end, stage_.CategoryCount());
+      groups.push_back(PlaceGroup(placed, shown, distance, projection));
+      depth = std::max(depth, measure_.Measure(group.text, placed.ruler->axis->text.font).Height());
+    }
+    distance += depth;
+  }
+  return groups;
+}
+
 Rect StageAxes::BoundsOf(const Projection& projection) const {
   Rect bounds;
   bool first = true;
@@ -215,7 +294,10 @@ Rect StageAxes::BoundsOf(const Projection& projection) const {
     }
   }
   for (const PlacedRuler& placed : Place(projection)) {
-    for (const PlacedLabel& label : LabelsOf(placed, projection)) bounds = Union(bounds, label.Bounds());
+    const auto labels = LabelsOf(placed, projection);
+    for (const PlacedLabel& label : labels) bounds = Union(bounds, label.Bounds());
+    for (const PlacedGroup& group : GroupsOf(placed, labels, projection))
+      bounds = Union(bounds, group.Bounds());
   }
   return bounds;
 }
@@ -236,9 +318,15 @@ void StageAxes::DrawRuler(Canvas& canvas, const PlacedRuler& placed, const Proje
     }
   }
   constexpr TextAlign kAligns[] = {TextAlign::kEnd, TextAlign::kMiddle, TextAlign::kStart};
-  for (const PlacedLabel& label : LabelsOf(placed, projection)) {
+  const auto labels = LabelsOf(placed, projection);
+  for (const PlacedLabel& label : labels) {
     DrawBlock(canvas, {Role::kTickLabel, axis.number, label.label->number}, label.block, label.center,
               kAligns[static_cast<std::size_t>(placed.edge.beside)]);
+  }
+  for (const PlacedGroup& group : GroupsOf(placed, labels, projection)) {
+    DrawBlock(canvas, {Role::kTickLabel, axis.number, group.number}, group.block, group.center);
+    for (const auto& [from, to] : group.lines)
+      canvas.AddLine({Role::kTickMark, axis.number}, from, to, axis.line);
   }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "render/Canvas.h"
@@ -68,6 +69,21 @@ class StageAxes {
   /// Places the labels of an axis. Some are left out if they would touch each other.
   std::vector<PlacedLabel> LabelsOf(const PlacedRuler& placed, const Projection& projection) const;
   PlacedLabel PlaceLabel(const PlacedRuler& placed, const Label& label, TextBlock block,
+                         const Projection& projection) const;
+  /// A text of an outer level of categories, and the line that parts it from its neighbour.
+  struct PlacedGroup {
+    TextBlock block;
+    Point center;
+    int number = 0;  ///< of its first category
+    std::vector<std::pair<Point, Point>> lines;
+
+    Rect Bounds() const;
+  };
+  /// The outer levels of categories, outside of the labels of an axis.
+  std::vector<PlacedGroup> GroupsOf(const PlacedRuler& placed, const std::vector<PlacedLabel>& labels,
+                                    const Projection& projection) const;
+  static Point WayOf(Beside beside);
+  PlacedGroup PlaceGroup(const PlacedRuler& placed, const CategoryGroup& group, double distance,
                          const Projection& projection) const;
   void DrawRuler(Canvas& canvas, const PlacedRuler& placed, const Projection& projection) const;
 

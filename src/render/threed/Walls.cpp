@@ -6,6 +6,7 @@
 #include "render/model/StyleReader.h"
 #include "render/threed/Solids.h"
 #include "xlsx/chart/part/ChartPart.h"
+#include "xlsx/chart/rules/AutomaticColors.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::render {
@@ -102,8 +103,12 @@ WallStyles ReadWalls(xlsx::ChartPart& part) {
   const auto read = [&](const char* name, const ShapeStyle& automatic) {
     return ReadStyle(part, xlsx::xml::Child(chart, name, "spPr"), automatic);
   };
-  const ShapeStyle lined{{}, AutomaticStyles(part).AxisLine()};
-  return {read("floor", lined), read("sideWall", {}), read("backWall", {})};
+  // in a chart of a dark style they have the filling of a flat plot area
+  constexpr long long kFirstDark = 33;
+  Fill fill;
+  if (xlsx::ChartStyleOf(part) >= kFirstDark) fill = AutomaticStyles(part).PlotArea(true).fill;
+  return {read("floor", {fill, AutomaticStyles(part).AxisLine()}), read("sideWall", {fill, {}}),
+          read("backWall", {fill, {}})};
 }
 
 FarSides FarSidesOf(const Projection& projection) {

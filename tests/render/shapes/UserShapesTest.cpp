@@ -232,5 +232,21 @@ TEST(PlacementTest, InnerTurnsComeBeforeOuterOnes) {
   EXPECT_EQ(placement.Rotation(), 90);
 }
 
+TEST_F(UserShapesTest, ShapesThrowShadowsAndSayOtherEffects) {
+  const std::string effects =
+      "<a:effectLst><a:glow/><a:outerShdw dist=\"127000\" dir=\"5400000\"><a:srgbClr "
+      "val=\"445566\"/></a:outerShdw>"
+      "</a:effectLst>";
+  const Drawing drawing = DrawWith(Anchor(Shape("ellipse", Solid("FF0000") + effects)));
+  const auto shadows = ItemsOf(drawing, Role::kShadow), shapes = ItemsOf(drawing, Role::kShape);
+  ASSERT_EQ(shadows.size(), 1u);
+  ASSERT_EQ(shapes.size(), 1u);
+  const Rect own = BoundsOf(*shapes[0]), cast = BoundsOf(*shadows[0]);
+  EXPECT_NEAR(cast.left, own.left, 1e-9);
+  EXPECT_NEAR(cast.top, own.top + 10, 1e-9);
+  EXPECT_EQ(HexOf(std::get<render::ShadowItem>(shadows[0]->content).color), "#445566");
+  EXPECT_EQ(notes_, render::Notes{"Glows aren't drawn."});
+}
+
 }  // namespace
 }  // namespace plotsmith::test

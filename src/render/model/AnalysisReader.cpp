@@ -1,0 +1,360 @@
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "render/model/DateSlots.h"
+#include "render/model/ChartReader.h"
+#include "xlsx/book/BookContext.h"
+#include "xlsx/chart/part/ChartPart.h"
+#include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::render {
+
+namespace schema = xlsx::schema;
+namespace xml = xlsx::xml;
+
+namespace {
+
+constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
+constexpr Stroke kThinLine = {Color{0, 0, 0, 1}, 0.75};
+constexpr long long kLongestPeriod = 255;  // points of a moving average
+constexpr double kMostFittedPoints = 4e6;  // by all trendlines of a chart
+
+/// What of a series counts as x for a trendline, and what is taken from that for the number along the axis.
+struct TrendPlaces {
+  std::vector<double> x;
+  double shift = 0;
+};
+
+/// X values, the numbers of dates, or the numbers of categories from 1.
+TrendPlaces PlacesOf(const ChartModel& chart, const GroupModel& group, const SeriesModel& series) {
+  TrendPlaces places;
+  const AxisModel* axis =
+      group.category < 0 ? nullptr : &chart.axes[static_cast<std::size_t>(group.category)];
+  if (group.HasXValues()) {
+    places.x = series.x;
+    return places;
+  }
+  const DateSlots* dates = axis != nullptr && axis->dates ? &*axis->dates : nullptr;
+  if (dates != nullptr && dates->base == TimeUnit::kDays) {
+    places.shift = SerialOf(dates->first, dates->base, chart.dates) - 1;
+  }
+  for (std::size_t i = 0; i < series.values.size(); ++i) {
+    const bool hasDate = dates != nullptr && i < dates->positions.size();
+    places.x.push_back((hasDate ? dates->positions[i] : static_cast<double>(i)) + 1 + places.shift);
+  }
+  return places;
+}
+
+/// Mean and standard deviation of a sample; NaN without one.
+struct Spread {
+  double mean = kNothing, deviation = kNothing, error = kNothing;
+};
+
+Spread SpreadOf(const std::vector<double>& numbers) {
+  double count = 0, sum = 0, squares = 0, most = 0;
+  for (const double number : numbers) {
+    if (std::isfinite(number)) most = std::max(most, std::abs(number));
+  }
+  if (!(most > 0)) most = 1;
+  for (const double number : numbers) {
+    if (!std::isfinite(number)) continue;
+    sum += number / most;
+    ++count;
+  }
+  if (!(count > 1)) return {};
+  for (const double number : numbers) {
+    if (std::isfinite(number)) squares += std::pow(number / most - sum / count, 2);
+  }
+  const double deviation = std::sqrt(squares / (count - 1)) * most;
+  return {sum / count * most, deviation, deviation / std::sqrt(count)};
+}
+
+/// Amounts by hand, of which a single one is that of all points.
+double CustomAmount(const std::vector<double>& amounts, std::size_t point) {
+  if (amounts.size() == 1) return amounts.front();
+  return point < amounts.size() ? amounts[point] : kNothing;
+}
+
+ErrorBars ReadErrorBars(ReadingContext& context, pugi::xml_node node, const SeriesModel& series) {
+  ErrorBars bars;
+  bars.alongX = schema::Val(node, "errDir", "y") == "x";
+  bars.caps = !schema::BooleanVal(node, "noEndCap", false);
+  bars.stroke = ReadStroke(context.part, xml::Child(node, "spPr", "ln"), kThinLine);
+  const std::string ends = schema::Val(node, "errBarType", "both"),
+                    kind = schema::Val(node, "errValType", "fixedVal");
+  const double amount = schema::NumberVal(node, "val").value_or(0);
+  const std::vector<double>& numbers = bars.alongX ? series.x : series.values;
+  const Spread spread = SpreadOf(numbers);
+  std::vector<double> plus, minus;
+  if (kind == "cust") {
+    plus = ReadNumbers(context, xml::Child(node, "plus"));
+    minus = ReadNumbers(context, xml::Child(node, "minus"));
+  }
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    double up = amount, middle = 0;
+    if (kind == "percentage") up = std::abs(numbers[i]) * amount / 100;
+    if (kind == "stdErr") up = spread.error;
+    if (kind == "stdDev") {
+      // bars of the standard deviation are about the mean, not about the points
+      up = spread.deviation * amount;
+      middle = spread.mean - numbers[i];
+    }
+    double down = up;
+    if (kind == "cust") {
+      up = CustomAmount(plus, i);
+      down = CustomAmount(minus, i);
+    }
+    const bool hasUp = ends != "minus" && std::isfinite(middle + up);
+    const bool hasDown = ends != "plus" && std::isfinite(middle - down);
+    bars.from.push_back(hasDown ? middle - down : hasUp ? middle : kNothing);
+    bars.to.push_back(hasUp ? middle + up : hasDown ? middle : kNothing);
+  }
+  return bars;
+}
+
+TrendKind KindOf(const std::string& name) {
+  if (name == "log") return TrendKind::kLogarithmic;
+  if (name == "exp") return TrendKind::kExponential;
+  if (name == "power") return TrendKind::kPower;
+  if (name == "poly") return TrendKind::kPolynomial;
+  return name == "movingAvg" ? TrendKind::kMovingAverage : TrendKind::kLinear;
+}
+
+/// The name that Excel gives a trendline.
+std::string AutomaticName(const Trendline& line, const std::string& series) {
+  const auto kind = [&]() -> std::string {
+    switch (line.kind) {
+      case TrendKind::kLogarithmic:
+        return "Log.";
+      case TrendKind::kExponential:
+        return "Expon.";
+      case TrendKind::kPower:
+        return "Power";
+      case TrendKind::kPolynomial:
+        return "Poly.";
+      case TrendKind::kMovingAverage:
+        return std::to_string(line.period) + " per. Mov. Avg.";
+      case TrendKind::kLinear:
+        break;
+    }
+    return "Linear";
+  };
+  return kind() + " (" + series + ")";
+}
+
+/// The means of so many points up to each, where all of them have a number.
+void AddMovingAverage(const std::vector<double>& x, const std::vector<double>& y, Trendline& line) {
+  for (std::size_t i = line.period - 1; i < std::min(x.size(), y.size()); ++i) {
+    double mean = 0;
+    for (std::size_t k = 0; k < line.period; ++k) mean += y[i - k] / static_cast<double>(line.period);
+    line.points.push_back({x[i], mean});
+  }
+}
+
+/// The points of a curve from one x to another, equally far from each other.
+void AddCurve(const TrendCurve& curve, double from, double to, bool isLogarithmic, Trendline& line) {
+  constexpr int kSteps = 100;
+  const bool byFactor = isLogarithmic && from > 0 && to > 0;
+  for (int step = 0; step <= kSteps; ++step) {
+    const double share = static_cast<double>(step) / kSteps;
+    const double x = byFactor ? from * std::pow(to / from, share) : from * (1 - share) + to * share;
+    line.points.push_back({x, curve.At(x)});
+  }
+}
+
+void ReadLabel(ReadingContext& context, pugi::xml_node node, const TrendCurve& curve, Trendline& line) {
+  const auto label = xml::Child(node, "trendlineLbl");
+  const auto format = xml::Child(label, "numFmt");
+  const std::string code = xml::Attribute(format, "formatCode", "General");
+  FormatPointer numbers;
+  if (code != "General") numbers = context.Format(code);
+  const auto formatted = [&](double number) {
+    if (!numbers || !std::isfinite(number)) return EquationNumber(number);
+    std::string text;
+    numbers->AppendNumber(text, number, context.part.Book().Dates());
+    return text;
+  };
+  std::string text;
+  if (schema::BooleanVal(node, "dispEq", false)) text = EquationOf(curve, formatted);
+  if (schema::BooleanVal(node, "dispRSqr", false)) {
+    text += (text.empty() ? "R² = " : "\nR² = ") + formatted(curve.determination);
+  }
+  if (text.empty()) return;
+  line.label = ReadText(context.part, label ? label : node, xlsx::TextRole::kOther, text);
+  line.labelStyle = ReadStyle(context.part, xml::Child(label, "spPr"), {});
+  line.labelLayout = ReadLayout(label);
+}
+
+/// The length by which a trendline goes on beyond the points. A file may say any number.
+double ExtensionOf(pugi::xml_node node, const char* name) {
+  const double length = schema::NumberVal(node, name).value_or(0);
+  return std::isfinite(length) ? std::max(length, 0.0) : 0;
+}
+
+Trendline ReadTrendline(ReadingContext& context, const ChartModel& chart, const GroupModel& group,
+                        const SeriesModel& series, pugi::xml_node node) {
+  constexpr long long kHighestOrder = 6;
+  Trendline line;
+  line.kind = KindOf(schema::Val(node, "trendlineType", "linear"));
+  line.period =
+      static_cast<std::size_t>(std::clamp(schema::IntegerVal(node, "period", 2), 2LL, kLongestPeriod));
+  line.name = xml::Text(xml::Child(node, "name"));
+  if (line.name.empty()) line.name = AutomaticName(line, series.name);
+  line.style = ReadStyle(context.part, xml::Child(node, "spPr"), {{}, kThinLine});
+  line.style.fill = {};
+  const TrendPlaces places = PlacesOf(chart, group, series);
+  line.shift = places.shift;
+  if (line.kind == TrendKind::kMovingAverage) {
+    AddMovingAverage(places.x, series.values, line);
+    return line;
+  }
+  const auto order =
+      static_cast<std::size_t>(std::clamp(schema::IntegerVal(node, "order", 2), 1LL, kHighestOrder));
+  const auto curve =
+      FitTrend(line.kind, order, schema::NumberVal(node, "intercept"), places.x, series.values);
+  if (!curve) {
+    const std::string sentence =
+        "A trendline isn't drawn, as its series has no points for a line of its kind.";
+    if (std::find(context.notes.begin(), context.notes.end(), sentence) == context.notes.end()) {
+      context.notes.push_back(sentence);
+    }
+    return line;
+  }
+  double least = std::numeric_limits<double>::infinity(), greatest = -least;
+  for (std::size_t i = 0; i < std::min(places.x.size(), series.values.size()); ++i) {
+    if (!std::isfinite(places.x[i]) || !std::isfinite(series.values[i])) continue;
+    least = std::min(least, places.x[i]);
+    greatest = std::max(greatest, places.x[i]);
+  }
+  line.forward = ExtensionOf(node, "forward");
+  line.backward = ExtensionOf(node, "backward");
+  const bool isLogarithmic =
+      group.category >= 0 && chart.axes[static_cast<std::size_t>(group.category)].logBase.has_value();
+  AddCurve(*curve, least - line.backward, greatest + line.forward, isLogarithmic, line);
+  ReadLabel(context, node, *curve, line);
+  return line;
+}
+
+/// Whether Excel has error bars and trendlines for series of a group.
+bool CanBeAnalysed(const GroupModel& group) {
+  switch (group.family) {
+    case Family::kArea:
+    case Family::kBar:
+    case Family::kLine:
+    case Family::kScatter:
+    case Family::kBubble:
+    case Family::kStock:
+      return !group.is3D;
+    default:
+      return false;
+  }
+}
+
+/// Adds empty categories to an axis that a trendline is extended along.
+void ExtendCategories(const GroupModel& group, const Trendline& line, ChartModel& chart) {
+  if (group.category < 0 || group.HasXValues()) return;
+  AxisModel& axis = chart.axes[static_cast<std::size_t>(group.category)];
+  if (axis.IsOfValues() || axis.dates) return;
+  constexpr double kMost = 1000;
+  const double free = axis.crossesBetween ? 0.5 : 0;
+  const double wanted =
+      static_cast<double>(group.categories.size()) + std::min(std::ceil(line.forward - free), kMost);
+  while (static_cast<double>(axis.categories.size()) < wanted) axis.categories.emplace_back();
+}
+
+/// What a trendline takes, in points that a line is fitted to.
+double CostOf(pugi::xml_node node, const SeriesModel& series) {
+  constexpr double kLeast = 100, kAverageOfFit = 0.1;  // the points of a curve; a point of a moving average
+  const double period =
+      static_cast<double>(std::clamp(schema::IntegerVal(node, "period", 2), 2LL, kLongestPeriod));
+  return kLeast + static_cast<double>(series.values.size()) * (1 + kAverageOfFit * period);
+}
+
+void ReadUpDownBars(ReadingContext& context, GroupModel& group) {
+  const auto node = xml::Child(group.node, "upDownBars");
+  if (!node) return;
+  const auto styleOf = [&](const char* name, std::uint8_t grey) {
+    const ShapeStyle automatic{SolidFill{{grey, grey, grey, 1}}, kThinLine};
+    return ReadStyle(context.part, xml::Child(node, name, "spPr"), automatic);
+  };
+  const auto gap = schema::NumberVal(node, "gapWidth");
+  constexpr double kUsualGap = 150, kWidestGap = 500;  // percent
+  group.upDownBars = UpDownBars{gap && std::isfinite(*gap) ? std::clamp(*gap, 0.0, kWidestGap) : kUsualGap,
+                                styleOf("upBars", 255), styleOf("downBars", 64)};
+}
+
+}  // namespace
+
+void ReadAnalysis(ReadingContext& context, ChartModel& chart) {
+  double fittedPoints = 0;
+  for (GroupModel& group : chart.groups) {
+    if (group.family == Family::kLine || group.family == Family::kStock) ReadUpDownBars(context, group);
+    if (!CanBeAnalysed(group)) continue;
+    for (SeriesModel& series : group.series) {
+      constexpr std::size_t kMostErrorBars = 2;  // one in each direction
+      for (const pugi::xml_node& node : xml::Children(series.node, "errBars")) {
+        if (series.errorBars.size() < kMostErrorBars) {
+          series.errorBars.push_back(ReadErrorBars(context, node, series));
+        }
+      }
+      if (group.IsStacked()) continue;  // Excel has no trendlines of piles
+      for (const pugi::xml_node& node : xml::Children(series.node, "trendline")) {
+        fittedPoints += CostOf(node, series);
+        if (fittedPoints > kMostFittedPoints) {
+          context.notes.push_back(
+              "The chart has more trendlines through many points than are drawn; the rest is left out.");
+          return;
+        }
+        series.trendlines.push_back(ReadTrendline(context, chart, group, series, node));
+        ExtendCategories(group, series.trendlines.back(), chart);
+      }
+    }
+  }
+}
+
+void AddAnalysisExtent(const GroupModel& group, bool isX, xlsx::DataExtent& extent) {
+  for (const SeriesModel& series : group.series) {
+    const std::vector<double>& numbers = isX ? series.x : series.values;
+    for (const ErrorBars& bars : series.errorBars) {
+      if (bars.alongX != isX || group.IsStacked()) continue;
+      for (std::size_t i = 0; i < std::min(numbers.size(), bars.from.size()); ++i) {
+        extent.Add(numbers[i] + bars.from[i]);
+        extent.Add(numbers[i] + bars.to[i]);
+      }
+    }
+    for (const Trendline& line : series.trendlines) {
+      if (line.points.empty()) continue;
+      const auto add = [&](Point point) { extent.Add(isX ? point.x : point.y); };
+      if (line.backward > 0) add(line.points.front());
+      if (line.forward > 0) add(line.points.back());
+    }
+  }
+}
+
+void AddTrendlineEntries(ReadingContext& context, ChartModel& chart) {
+  if (!chart.legend) return;
+  LegendModel& legend = *chart.legend;
+  const auto node = xml::Child(context.part.Space(), "chart", "legend");
+  // entries of trendlines are counted behind those of all series, or of all points
+  std::size_t number = context.part.Series().size();
+  const bool hasPoints = std::any_of(legend.entries.begin(), legend.entries.end(),
+                                     [](const LegendEntry& entry) { return entry.point > 0; });
+  if (hasPoints && !chart.groups.empty()) number = chart.groups.front().PointCount();
+  for (const GroupModel& group : chart.groups) {
+    for (const SeriesModel& series : group.series) {
+      int count = 0;
+      for (const Trendline& line : series.trendlines) {
+        const auto own = schema::FindNumbered(node, "legendEntry", static_cast<long long>(number++));
+        ++count;
+        if (schema::BooleanVal(own, "delete", false)) continue;
+        LegendEntry entry{line.name, legend.text, series.number, 0, count};
+        if (xml::Child(own, "txPr")) entry.style = ReadTextStyle(context.part, own, xlsx::TextRole::kOther);
+        legend.entries.push_back(std::move(entry));
+      }
+    }
+  }
+}
+
+}  // namespace plotsmith::render

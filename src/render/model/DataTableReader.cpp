@@ -1,0 +1,51 @@
+#include <algorithm>
+
+#include "render/model/ChartReader.h"
+#include "xlsx/drawing/DrawingSchema.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::render {
+
+namespace schema = xlsx::schema;
+namespace xml = xlsx::xml;
+
+namespace {
+
+/// The index of the flat axis of categories that a table can be below; -1 if the chart has none.
+int FindTableAxis(const ChartModel& chart) {
+  for (const GroupModel& group : chart.groups) {
+    const bool hasColumns = group.family == Family::kArea || group.family == Family::kBar ||
+                            group.family == Family::kLine || group.family == Family::kStock;
+    if (!hasColumns || group.is3D || group.category < 0) continue;
+    const AxisModel& axis = chart.axes[static_cast<std::size_t>(group.category)];
+    if (!axis.IsUpright() && !axis.dates && !axis.IsOfValues()) return group.category;
+  }
+  return -1;
+}
+
+}  // namespace
+
+void ReadDataTable(ReadingContext& context, pugi::xml_node plotArea, ChartModel& chart) {
+  const auto node = xml::Child(plotArea, "dTable");
+  if (!node) return;
+  const int axis = FindTableAxis(chart);
+  if (axis < 0) {
+    context.notes.push_back("The data table isn't drawn, as its chart has no flat axis of categories.");
+    return;
+  }
+  DataTable table;
+  table.axis = axis;
+  table.horizontalLines = schema::BooleanVal(node, "showHorzBorder", false);
+  table.verticalLines = schema::BooleanVal(node, "showVertBorder", false);
+  table.outline = schema::BooleanVal(node, "showOutline", false);
+  table.keys = schema::BooleanVal(node, "showKeys", false);
+  table.stroke = ReadStroke(context.part, xml::Child(node, "spPr", "ln"), context.styles.AxisLine());
+  table.text = ReadTextStyle(context.part, node, xlsx::TextRole::kOther);
+  chart.table = table;
+  // its first row takes the place of the labels, and each value is in the middle of its column
+  AxisModel& categories = chart.axes[static_cast<std::size_t>(axis)];
+  categories.tickLabels = "none";
+  categories.crossesBetween = true;
+}
+
+}  // namespace plotsmith::render

@@ -1,0 +1,114 @@
+#include "render/model/EffectReader.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+#include <string_view>
+
+#include "xlsx/drawing/ShapeXml.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith::render {
+
+namespace xml = xlsx::xml;
+
+namespace {
+
+constexpr double kDegree = 60000;  // of a:outerShdw/@dir and the angles by which a shadow leans
+
+/// A length within what a picture can show, in points.
+double LengthOf(pugi::xml_node node, const char* name, double most) {
+  const double points = xlsx::PointsOf(node, name, 0);
+  return std::isfinite(points) ? std::clamp(points, 0.0, most) : 0;
+}
+
+/// A percentage, in thousandths or with its sign.
+double ScaleOf(pugi::xml_node node, const char* name) {
+  std::string text = xml::Attribute(node, name, "100000");
+  double whole = 100'000;
+  if (text.ends_with('%')) {
+    text.pop_back();
+    whole = 100;
+  }
+  constexpr double kMost = 20;
+  const double scale = xml::ParseDouble(text).value_or(whole) / whole;
+  return std::isfinite(scale) ? std::clamp(scale, -kMost, kMost) : 1;
+}
+
+double LeanOf(pugi::xml_node node, const char* name) {
+  constexpr double kSteepest = 80;  // degrees
+  const double degrees = xml::NumberAttribute(node, name, 0) / kDegree;
+  if (!std::isfinite(degrees)) return 0;
+  return std::tan(std::clamp(degrees, -kSteepest, kSteepest) * std::numbers::pi / 180);
+}
+
+/// The point of the bounds that an alignment (ST_RectAlignment) names.
+Point FixedPointOf(std::string_view alignment) {
+  const double x = alignment.ends_with('l') ? 0 : alignment.ends_with('r') ? 1 : 0.5;
+  const double y = alignment.starts_with('t') ? 0 : alignment.starts_with('b') ? 1 : 0.5;
+  return {x, alignment == "ctr" ? 0.5 : y};
+}
+
+}  // namespace
+
+std::optional<Shadow> ReadShadow(const Palette& palette, pugi::xml_node properties,
+                                 const std::optional<Shadow>& automatic) {
+  const auto effects = xml::Child(properties, "effectLst");
+  if (!effects) return automatic;
+  const auto node = xml::Child(effects, "outerShdw");
+  const auto color = ReadColor(palette, node);
+  if (!node || !color) return std::nullopt;
+  constexpr double kSoftest = 200, kFarthest = 1000;  // points
+  Shadow shadow{*color};
+  // a radius of two standard deviations holds nearly all of a soft edge
+  shadow.blur = LengthOf(node, "blurRad", kSoftest) / 2;
+  const double distance = LengthOf(node, "dist", kFarthest);
+  const double direction = xml::NumberAttribute(node, "dir", 0) / kDegree;
+  const double angle = std::isfinite(direction) ? direction * std::numbers::pi / 180 : 0;
+  shadow.offset = {distance * std::cos(angle), distance * std::sin(angle)};
+  shadow.scaleX = ScaleOf(node, "sx");
+  shadow.scaleY = ScaleOf(node, "sy");
+  shadow.skewX = LeanOf(node, "kx");
+  shadow.skewY = LeanOf(node, "ky");
+  std::string alignment = xml::Attribute(node, "algn", "b");
+  shadow.fixed = FixedPointOf(alignment);
+  return shadow;
+}
+
+std::vector<std::string> MissingEffects(pugi::xml_node part) {
+  struct Kind {
+    std::string_view element;
+    const char* sentence;
+  };
+  static constexpr std::array<Kind, 9> kKinds = {
+      {{"glow", "Glows aren't drawn."},
+       {"softEdge", "Soft edges aren't drawn."},
+       {"innerShdw", "Inner shadows aren't drawn."},
+       {"reflection", "Reflections aren't drawn."},
+       {"prstShdw", "Preset shadows aren't drawn."},
+       {"effectDag", "Effects that build on each other (effectDag) aren't drawn."},
+       {"blur", "Blurred shapes aren't drawn; they have sharp edges."},
+       {"bevelT", "Bevels aren't drawn."},
+       {"bevelB", "Bevels aren't drawn."}}};
+  std::vector<std::string> sentences;
+  const auto add = [&](const char* sentence) {
+    if (std::find(sentences.begin(), sentences.end(), sentence) == sentences.end()) {
+      sentences.emplace_back(sentence);
+    }
+  };
+  // the walk ends where the predicate finds what it looks for, which is nowhere
+  part.find_node([&](pugi::xml_node node) {
+    const std::string_view name = xml::LocalName(node);
+    for (const Kind& kind : kKinds) {
+      if (kind.element == name) add(kind.sentence);
+    }
+    if (name == "outerShdw" && xml::LocalName(node.parent().parent()).ends_with("RPr")) {
+      add("Shadows of texts aren't drawn.");
+    }
+    return false;
+  });
+  return sentences;
+}
+
+}  // namespace plotsmith::render

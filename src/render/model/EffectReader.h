@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+#include <pugixml.hpp>
+#include <string>
+#include <vector>
+
+#include "render/Shadow.h"
+#include "render/model/StyleReader.h"
+
+namespace plotsmith::render {
+
+/// The outer shadow in shape properties (c:spPr, a:effectLst); `automatic` where they have no effects.
+std::optional<Shadow> ReadShadow(const Palette& palette, pugi::xml_node properties,
+                                 const std::optional<Shadow>& automatic);
+
+/// A sentence for each kind of effect in a part that isn't drawn.
+std::vector<std::string> MissingEffects(pugi::xml_node part);
+
+}  // namespace plotsmith::render

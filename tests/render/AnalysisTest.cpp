@@ -1,0 +1,334 @@
+#include <chrono>
+
+#include "render/model/Analysis.h"
+#include "tests/render/DrawingTest.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith {
+namespace {
+
+using namespace test;
+using render::Drawing;
+using render::FitTrend;
+using render::PathItem;
+using render::Point;
+using render::Rect;
+using render::Role;
+using render::TrendKind;
+using S = std::string;
+using Texts = std::vector<S>;
+using Numbers = std::vector<double>;
+
+const S kZeroToTen = "<c:scaling><c:max val=\"10\"/><c:min val=\"0\"/></c:scaling>";
+
+/// Error bars of a kind with an amount.
+S ErrorBarsXml(const S& kind, const S& amount, const S& more = "", const S& ends = "both") {
+  return "<c:errBars>" + (more.find("errDir") == S::npos ? "<c:errDir val=\"y\"/>" : S()) +
+         "<c:errBarType val=\"" + ends + "\"/><c:errValType val=\"" + kind + "\"/>" + more + "<c:val val=\"" +
+         amount + "\"/></c:errBars>";
+}
+
+S AmountsXml(const S& element, const Numbers& amounts) {
+  S points;
+  for (std::size_t i = 0; i < amounts.size(); ++i) {
+    points +=
+        "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + xlsx::xml::Number(amounts[i]) + "</c:v></c:pt>";
+  }
+  return "<c:" + element + "><c:numLit><c:ptCount val=\"" + std::to_string(amounts.size()) + "\"/>" + points +
+         "</c:numLit></c:" + element + ">";
+}
+
+S TrendXml(const S& type, const S& more = "") {
+  return "<c:trendline><c:trendlineType val=\"" + type + "\"/>" + more + "</c:trendline>";
+}
+
+class AnalysisTest : public DrawingTest {
+ protected:
+  Drawing DrawGroup(const S& element, const S& first, const S& series, const S& value = kZeroToTen,
+                    const S& behind = "") {
+    return Draw(PlotXml(GroupXml(element, first, series) + AxesXml("", value), behind));
+  }
+  Drawing DrawColumns(const Numbers& values, const S& more, const S& value = kZeroToTen) {
+    return DrawGroup("barChart", "<c:barDir val=\"col\"/>", SeriesXml(0, values, more), value);
+  }
+  /// Returns the values, on an axis from 0 to 10, at the upper and the lower ends of items.
+  static std::vector<std::pair<double, double>> EndsOf(const Drawing& drawing, Role role) {
+    const Rect plot = BoxOf(drawing, Role::kPlotArea);
+    std::vector<std::pair<double, double>> ends;
+    const auto valueAt = [&](double y) { return std::round((plot.Bottom() - y) / plot.height * 1e7) / 1e6; };
+    for (const Rect& box : BoxesOf(drawing, role)) ends.emplace_back(valueAt(box.top), valueAt(box.Bottom()));
+    return ends;
+  }
+};
+
+TEST_F(AnalysisTest, ErrorBarsReachAsFarAsTheirAmounts) {
+  using Ends = std::vector<std::pair<double, double>>;
+  const S custom = AmountsXml("plus", {1, 2, 3}) + AmountsXml("minus", {0.5, 1, kNoValue});
+  struct {
+    const char* what;
+    S bars;
+    Ends ends;
+  } const kCases[] = {
+      {"fixed", ErrorBarsXml("fixedVal", "1.5"), {{3.5, 0.5}, {5.5, 2.5}, {7.5, 4.5}}},
+      {"plus", ErrorBarsXml("fixedVal", "1", "", "plus"), {{3, 2}, {5, 4}, {7, 6}}},
+      {"minus", ErrorBarsXml("fixedVal", "1", "", "minus"), {{2, 1}, {4, 3}, {6, 5}}},
+      {"percentage", ErrorBarsXml("percentage", "50"), {{3, 1}, {6, 2}, {9, 3}}},
+      {"custom", ErrorBarsXml("cust", "0", custom), {{3, 1.5}, {6, 3}, {9, 6}}},
+      {"one custom amount for all",
+       ErrorBarsXml("cust", "0", AmountsXml("plus", {1}) + AmountsXml("minus", {2})),
+       {{3, 0}, {5, 2}, {7, 4}}},
+      // the mean is 4, the standard deviation of the sample 2
+      {"standard deviation about the mean", ErrorBarsXml("stdDev", "1"), {{6, 2}, {6, 2}, {6, 2}}},
+      {"standard error",
+       ErrorBarsXml("stdErr", "1"),
+       {{3.154701, 0.845299}, {5.154701, 2.845299}, {7.154701, 4.845299}}},
+  };
+  for (const auto& test : kCases) {
+    const Drawing drawing = DrawColumns({2, 4, 6}, test.bars);
+    EXPECT_EQ(EndsOf(drawing, Role::kErrorBar), test.ends) << test.what;
+    EXPECT_EQ(notes_, render::Notes()) << test.what;
+  }
+}
+
+TEST_F(AnalysisTest, ErrorBarsHaveTheirPlaceLineAndCaps) {
+  const S line =
+      "<c:spPr><a:ln w=\"25400\"><a:solidFill><a:srgbClr val=\"00B050\"/></a:solidFill></a:ln></c:spPr>";
+  for (const bool caps : {true, false}) {
+    S bars = ErrorBarsXml("fixedVal", "1", S("<c:noEndCap val=\"") + (caps ? "0" : "1") + "\"/>");
+    bars.insert(bars.size() - S("</c:errBars>").size(), line);
+    const Drawing drawing = DrawColumns({2, 4}, bars);
+    const auto items = ItemsOf(drawing, Role::kErrorBar, 1);
+    ASSERT_EQ(items.size(), 2u);
+    for (std::size_t i = 0; i < 2; ++i) {
+      const auto& path = std::get<PathItem>(items[i].content);
+      EXPECT_NEAR(path.path.Bounds().Center().x, BoxesOf(drawing, Role::kBar)[i].Center().x, 1e-9);
+      EXPECT_NEAR(path.path.Bounds().width, caps ? 6 : 0, 1e-9);
+      EXPECT_EQ(path.path.Steps().size(), caps ? 6u : 2u);
+      EXPECT_EQ(HexOf(path.stroke.color), "#00B050");
+      EXPECT_EQ(path.stroke.width, 2);
+      EXPECT_EQ(items[i].tag.point, static_cast<int>(i + 1));
+    }
+  }
+}
+
+TEST_F(AnalysisTest, ErrorBarsOfScatterChartsGoBothWays) {
+  const S bars = ErrorBarsXml("fixedVal", "1") + ErrorBarsXml("fixedVal", "2", "<c:errDir val=\"x\"/>");
+  const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>" + bars + AmountsXml("xVal", {5}) +
+                   AmountsXml("yVal", {4}) + "</c:ser>";
+  S axes = AxesXml(kZeroToTen, kZeroToTen);
+  for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "valAx");
+  const Drawing drawing = Draw(PlotXml(GroupXml("scatterChart", "", series) + axes));
+  const Rect plot = BoxOf(drawing, Role::kPlotArea);
+  const auto boxes = BoxesOf(drawing, Role::kErrorBar);
+  ASSERT_EQ(boxes.size(), 2u);
+  EXPECT_NEAR(boxes[0].height, plot.height / 5, 1e-9);
+  EXPECT_NEAR(boxes[0].Center().x, plot.left + plot.width / 2, 1e-9);
+  EXPECT_NEAR(boxes[1].width, plot.width * 0.4, 1e-9);
+  EXPECT_NEAR(boxes[1].Center().y, plot.top + plot.height * 0.6, 1e-9);
+}
+
+TEST_F(AnalysisTest, AxesHaveRoomForErrorBarsAndExtendedTrendlines) {
+  const auto last = [&](const S& more) {
+    return TextsOf(DrawColumns({1, 2, 3}, more, ""), Role::kTickLabel, 2).back();
+  };
+  EXPECT_EQ(last(""), "3.5");
+  EXPECT_EQ(last(ErrorBarsXml("fixedVal", "40")), "50");
+  EXPECT_EQ(last(TrendXml("linear")), "3.5");
+  EXPECT_EQ(last(TrendXml("linear", "<c:forward val=\"5\"/>")), "9");
+}
+
+TEST_F(AnalysisTest, CurvesAreFoundByLeastSquares) {
+  const auto points = [](auto curve) {
+    std::pair<Numbers, Numbers> all;
+    for (int i = 1; i <= 9; ++i) {
+      all.first.push_back(i);
+      all.second.push_back(curve(static_cast<double>(i)));
+    }
+    return all;
+  };
+  const auto linear = points([](double x) { return 2.5 * x - 3; });
+  struct {
+    TrendKind kind;
+    std::size_t order;
+    std::optional<double> intercept;
+    std::pair<Numbers, Numbers> points;
+    S equation;
+    double determination;
+  } const kCases[] = {
+      {TrendKind::kLinear, 2, {}, linear, "y = 2.5x - 3", 1},
+      // The sums of x * x, x * y and y * y are 285, 577.5 and 1187.25. The variance of y is 375 / 9.
+      {TrendKind::kLinear, 2, 0.0, linear, "y = 2.0263x", 1 - 17.052632 / 375},
+      {TrendKind::kLinear, 2, {}, {{1, 2, 3, 4}, {2, 1, 4, 3}}, "y = 0.6x + 1", 0.36},
+      {TrendKind::kLogarithmic,
+       2,
+       {},
+       points([](double x) { return 4 * std::log(x) + 7; }),
+       "y = 4ln(x) + 7",
+       1},
+      {TrendKind::kExponential,
+       2,
+       {},
+       points([](double x) { return 3 * std::exp(0.25 * x); }),
+       "y = 3e^0.25x",
+       1},
+      {TrendKind::kExponential, 2, 3.0, points([](double x) { return 3 * std::exp(-0.5 * x); }),
+       "y = 3e^-0.5x", 1},
+      {TrendKind::kPower, 2, {}, points([](double x) { return 5 * std::pow(x, 1.5); }), "y = 5x^1.5", 1},
+      {TrendKind::kPolynomial, 2, {}, points([](double x) { return -x * x + 4 * x; }), "y = -1x² + 4x", 1},
+      {TrendKind::kPolynomial,
+       6,
+       {},
+       points([](double x) { return std::pow(x, 6) - 2 * x * x + 1; }),
+       "y = 1x⁶ - 2x² + 1",
+       1},
+  };
+  for (const auto& test : kCases) {
+    const auto curve = FitTrend(test.kind, test.order, test.intercept, test.points.first, test.points.second);
+    ASSERT_TRUE(curve) << test.equation;
+    // what rounding leaves of a power that isn't there counts as none
+    const auto format = [](double number) { return render::EquationNumber(std::round(number * 1e7) / 1e7); };
+    S equation = EquationOf(*curve, format);
+    for (const char* none :
+         {" + 0x⁵", " - 0x⁵", " + 0x⁴", " - 0x⁴", " + 0x³", " - 0x³", " + 0x", " - 0x", " + 0", " - 0"}) {
+      const auto at = equation.find(none);
+      const auto end = at + S(none).size();
+      const bool whole = at != S::npos && (end == equation.size() || equation[end] == ' ');
+      if (whole) equation.erase(at, S(none).size());
+    }
+    EXPECT_EQ(equation, test.equation);
+    EXPECT_NEAR(curve->determination, test.determination, 1e-6) << test.equation;
+  }
+}
+
+TEST_F(AnalysisTest, NoCurveIsFoundWithoutEnoughPoints) {
+  struct {
+    TrendKind kind;
+    std::size_t order;
+    Numbers x, y;
+  } const kCases[] = {
+      {TrendKind::kLinear, 1, {1}, {1}},
+      {TrendKind::kLinear, 1, {2, 2, 2}, {1, 2, 3}},
+      {TrendKind::kPolynomial, 4, {1, 2, 3, 4}, {1, 2, 3, 4}},
+      {TrendKind::kExponential, 1, {1, 2}, {-1, 0}},
+      {TrendKind::kPower, 1, {0, -1}, {1, 2}},
+      {TrendKind::kLinear, 1, {kNoValue, 1}, {1, kNoValue}},
+      {TrendKind::kMovingAverage, 1, {1, 2}, {1, 2}},
+  };
+  for (const auto& test : kCases) EXPECT_FALSE(FitTrend(test.kind, test.order, {}, test.x, test.y));
+  const auto huge = FitTrend(TrendKind::kLinear, 1, {}, {-1e308, 1e308}, {-1e308, 1e308});
+  ASSERT_TRUE(huge);
+  EXPECT_NEAR(huge->At(5e307) / 5e307, 1, 1e-9);
+}
+
+TEST_F(AnalysisTest, NumbersInEquationsHaveFiveDigits) {
+  const std::pair<double, S> kCases[] = {{0.942857, "0.9429"}, {14.28571, "14.286"}, {103.5714, "103.57"},
+                                         {123456.7, "123457"}, {-2, "-2"},           {0, "0"},
+                                         {0.00021, "0.0002"},  {1e9, "1000000000"},  {0.00002, "2E-05"},
+                                         {9.7e-6, "1E-05"},    {-3e12, "-3E+12"},    {1e300, "1E+300"},
+                                         {kNoValue, "?"}};
+  for (const auto& [number, text] : kCases) EXPECT_EQ(render::EquationNumber(number), text);
+}
+
+TEST_F(AnalysisTest, TrendlinesGoThroughTheirPointsAndBeyond) {
+  const S line =
+      "<c:name>Trend</c:name><c:spPr><a:ln w=\"38100\"><a:solidFill><a:srgbClr val=\"7030A0\"/>"
+      "</a:solidFill></a:ln></c:spPr>";
+  S trend = TrendXml("linear", "<c:forward val=\"2\"/><c:backward val=\"0.5\"/>");
+  trend.insert(S("<c:trendline>").size(), line);
+  const Drawing drawing = DrawColumns({2, 4, 6}, trend);
+  EXPECT_EQ(notes_, render::Notes());
+  const auto items = ItemsOf(drawing, Role::kTrendline, 1);
+  ASSERT_EQ(items.size(), 1u);
+  const auto& path = std::get<PathItem>(items[0].content);
+  EXPECT_EQ(HexOf(path.stroke.color), "#7030A0");
+  EXPECT_EQ(path.stroke.width, 3);
+  // five places: three categories, and two for the forecast, of which half a place is free
+  const Rect plot = BoxOf(drawing, Role::kPlotArea), box = path.path.Bounds();
+  EXPECT_NEAR(BoxesOf(drawing, Role::kBar)[0].Center().x, plot.left + plot.width / 10, 1e-6);
+  EXPECT_NEAR(box.left, plot.left, 1e-6);
+  EXPECT_NEAR(box.Right(), plot.left + plot.width * 0.9, 1e-6);
+  EXPECT_NEAR(box.Bottom(), plot.Bottom() - plot.height * 0.1, 1e-6);
+  EXPECT_NEAR(box.top, plot.top, 1e-6);
+}
+
+TEST_F(AnalysisTest, MovingAveragesBeginAtTheirFirstWholePeriod) {
+  const Drawing drawing =
+      DrawColumns({1, 3, 5, kNoValue, 9, 7}, TrendXml("movingAvg", "<c:period val=\"2\"/>"));
+  const auto items = ItemsOf(drawing, Role::kTrendline);
+  ASSERT_EQ(items.size(), 1u);
+  const Rect plot = BoxOf(drawing, Role::kPlotArea);
+  Numbers values;
+  for (const auto& step : std::get<PathItem>(items[0].content).path.Steps()) {
+    values.push_back(std::round((plot.Bottom() - step.to.y) / plot.height * 1e6) / 1e5);
+  }
+  EXPECT_EQ(values, (Numbers{2, 4}));  // A single point behind the gap is no line.
+}
+
+TEST_F(AnalysisTest, TrendlinesSayTheirEquationAndHaveLegendEntries) {
+  const S label = "<c:dispRSqr val=\"1\"/><c:dispEq val=\"1\"/>";
+  const S format = "<c:trendlineLbl><c:numFmt formatCode=\"0.000\" sourceLinked=\"0\"/></c:trendlineLbl>";
+  const S series =
+      SeriesXml(0, {1, 3, 2, 5}, TrendXml("linear", label) + TrendXml("poly", "<c:order val=\"3\"/>"));
+  const S other = SeriesXml(
+      1, {2, 4, 6, 8}, TrendXml("movingAvg", "<c:period val=\"3\"/>") + TrendXml("linear", label + format));
+  const Drawing drawing =
+      DrawGroup("lineChart", "<c:grouping val=\"standard\"/>", series + other, kZeroToTen,
+                "<c:legend><c:legendEntry><c:idx val=\"3\"/><c:delete val=\"1\"/></c:legendEntry>"
+                "</c:legend>");
+  EXPECT_EQ(TextsOf(drawing, Role::kTrendlineLabel, 1), (Texts{"y = 1.1x", "R² = 0.6914"}));
+  EXPECT_EQ(TextsOf(drawing, Role::kTrendlineLabel, 2), (Texts{"y = 2.000x", "R² = 1.000"}));
+  EXPECT_EQ(TextsOf(drawing, Role::kLegendEntry),
+            (Texts{"Series 0", "Series 1", "Linear (Series 0)", "3 per. Mov. Avg. (Series 1)",
+                   "Linear (Series 1)"}));
+  EXPECT_EQ(DrawingComplaints(drawing), "");
+}
+
+TEST_F(AnalysisTest, UpDownBarsGoFromTheFirstSeriesToTheLast) {
+  const S bars =
+      "<c:upDownBars><c:gapWidth val=\"100\"/><c:upBars/><c:downBars><c:spPr><a:solidFill>"
+      "<a:srgbClr val=\"C00000\"/></a:solidFill></c:spPr></c:downBars></c:upDownBars>";
+  const Drawing drawing = Draw(PlotXml(
+      GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
+               SeriesXml(0, {2, 8, 5}) + SeriesXml(1, {9, 9, 9}) + SeriesXml(2, {6, 3, kNoValue}), bars) +
+      AxesXml("", kZeroToTen)));
+  EXPECT_EQ(notes_, render::Notes());
+  EXPECT_EQ(EndsOf(drawing, Role::kUpDownBar), (std::vector<std::pair<double, double>>{{6, 2}, {8, 3}}));
+  const auto items = ItemsOf(drawing, Role::kUpDownBar);
+  ASSERT_EQ(items.size(), 2u);
+  EXPECT_EQ(FillOf(items[0]), "#FFFFFF");
+  EXPECT_EQ(FillOf(items[1]), "#C00000");
+  const Rect plot = BoxOf(drawing, Role::kPlotArea);
+  EXPECT_NEAR(BoundsOf(items[0]).width, plot.width / 3 / 2, 1e-9);
+  EXPECT_NEAR(BoundsOf(items[1]).Center().x, plot.Center().x, 1e-9);
+}
+
+TEST_F(AnalysisTest, ManyTrendlinesThroughManyPointsAreLimited) {
+  S trends;
+  for (int i = 0; i < 400; ++i) trends += TrendXml("movingAvg", "<c:period val=\"100\"/>");
+  const Drawing drawing = DrawColumns(Numbers(5000, 1), trends, "");
+  const std::size_t drawn = ItemsOf(drawing, Role::kTrendline).size();
+  EXPECT_EQ(drawn, 72u);  // 4,000,000 points of fits, of which each line takes 55,100
+  EXPECT_EQ(notes_,
+            (render::Notes{"The chart has more trendlines through many points than are drawn; the rest is "
+                           "left out."}));
+}
+
+TEST_F(AnalysisTest, WildNumbersTakeLittleTime) {
+  const auto start = std::chrono::steady_clock::now();
+  Numbers many;
+  for (int i = 0; i < 20'000; ++i) many.push_back(i % 7 == 0 ? 1e308 : -1e308);
+  const S wild = TrendXml("poly",
+                          "<c:order val=\"99\"/><c:forward val=\"1e300\"/><c:backward val=\"INF\"/>"
+                          "<c:intercept val=\"NaN\"/><c:dispEq val=\"1\"/>") +
+                 TrendXml("movingAvg", "<c:period val=\"4000000000\"/>") + TrendXml("exp") +
+                 ErrorBarsXml("stdDev", "1e308") + ErrorBarsXml("percentage", "-1e300");
+  for (const Numbers& values : {many, Numbers{}, Numbers{kNoValue}, Numbers{0}}) {
+    const Drawing drawing = DrawColumns(values, wild, "");
+    EXPECT_LT(drawing.items.size(), 200'000u);
+    EXPECT_EQ(DrawingComplaints(drawing), "");
+  }
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+}
+
+}  // namespace
+}  // namespace plotsmith

@@ -1,0 +1,132 @@
+#include "tests/render/DrawingTest.h"
+
+namespace plotsmith {
+namespace {
+
+using namespace test;
+using render::Drawing;
+using render::Rect;
+using render::Role;
+using S = std::string;
+using Texts = std::vector<S>;
+
+class WallsAndLevelsTest : public DrawingTest {
+ protected:
+  Drawing DrawColumns(const S& series, bool lying = false, const S& before = "") {
+    const S chart =
+        "<c:autoTitleDeleted val=\"1\"/><c:view3D><c:rotX val=\"15\"/><c:rotY val=\"20\"/><c:rAngAx "
+        "val=\"1\"/></c:view3D><c:plotArea>" +
+        GroupXml("bar3DChart", S("<c:barDir val=\"") + (lying ? "bar" : "col") + "\"/>", series) +
+        AxesXml("", "", lying) + "</c:plotArea>";
+    S part = ChartPartXml(chart);
+    part.insert(part.find("<c:chart>"), before);
+    return DrawPart(part);
+  }
+};
+
+S LevelXml(const std::vector<std::pair<int, S>>& texts) {
+  S xml = "<c:lvl>";
+  for (const auto& [index, text] : texts) {
+    xml += "<c:pt idx=\"" + std::to_string(index) + "\"><c:v>" + text + "</c:v></c:pt>";
+  }
+  return xml + "</c:lvl>";
+}
+
+TEST_F(WallsAndLevelsTest, OuterLevelsAreBeyondTheLabelsOfTheirCategories) {
+  const S categories = "<c:cat><c:multiLvlStrRef><c:multiLvlStrCache><c:ptCount val=\"4\"/>" +
+                       LevelXml({{0, "Q1"}, {1, "Q2"}, {2, "Q3"}, {3, "Q4"}}) +
+                       LevelXml({{0, "Cold"}, {3, "Warm"}}) + LevelXml({{0, "Year"}}) +
+                       "</c:multiLvlStrCache></c:multiLvlStrRef></c:cat>";
+  for (const bool lying : {false, true}) {
+    const Drawing drawing = DrawColumns(SeriesXml(0, {1, 2, 3, 4}, "", "", categories), lying);
+    EXPECT_EQ(notes_, render::Notes());
+    EXPECT_EQ(DrawingComplaints(drawing), "") << lying;
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), (Texts{"Q1", "Q2", "Q3", "Q4", "Cold", "Warm", "Year"}));
+    const auto boxes = BoxesOf(drawing, Role::kTickLabel, 1);
+    // a group is in the middle of its categories, and each level is farther from the axis than the one before
+    const auto along = [&](std::size_t i) { return lying ? boxes[i].Center().y : boxes[i].Center().x; };
+    const auto across = [&](std::size_t i) { return lying ? -boxes[i].Center().x : boxes[i].Center().y; };
+    EXPECT_NEAR(along(4), along(1), 0.01) << lying;
+    EXPECT_NEAR(along(5), along(3), 0.01) << lying;
+    EXPECT_NEAR(along(6), (along(0) + along(3)) / 2, 0.01) << lying;
+    EXPECT_NEAR(across(4), across(5), 0.01) << lying;
+    EXPECT_GT(across(4), across(1) + 5) << lying;
+    EXPECT_GT(across(6), across(4) + 5) << lying;
+  }
+}
+
+TEST_F(WallsAndLevelsTest, WallsOfDarkStylesAreFilled) {
+  struct {
+    int style;
+    S fill;
+  } const kCases[] = {{2, ""}, {34, "#E7E7E7"}, {35, "#E9EDF4"}, {42, "#3F3F3F"}};
+  for (const auto& test : kCases) {
+    const Drawing drawing =
+        DrawColumns(SeriesXml(0, {1, 2}), false, "<c:style val=\"" + std::to_string(test.style) + "\"/>");
+    Texts fills;
+    for (const Role role : {Role::kWall, Role::kFloor}) {
+      for (const auto& item : ItemsOf(drawing, role)) {
+        if (FillOf(item) != "none") fills.push_back(FillOf(item));
+      }
+    }
+    EXPECT_EQ(fills, Texts(test.fill.empty() ? 0 : 3, test.fill)) << test.style;
+  }
+}
+
+TEST_F(WallsAndLevelsTest, ALongSlantedLabelStaysOnTheChart) {
+  Texts names(12, "Short");
+  names.front() = "A first name that is so very long that nothing of the chart would be left for it";
+  for (const S rotation : {"-2700000", "2700000"}) {
+    Texts texts = names;
+    if (rotation[0] != '-') std::reverse(texts.begin(), texts.end());
+    const S turned =
+        "<c:txPr><a:bodyPr rot=\"" + rotation + "\"/><a:p><a:pPr><a:defRPr/></a:pPr></a:p></c:txPr>";
+    const Drawing drawing =
+        Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>",
+                              SeriesXml(0, std::vector<double>(12, 1), "", "", CategoriesXml(texts))) +
+                     AxesXml(turned)),
+             "", 384, 400);
+    EXPECT_EQ(DrawingComplaints(drawing), "") << rotation;
+    const Texts labels = TextsOf(drawing, Role::kTickLabel, 1);
+    ASSERT_EQ(labels.size(), 12u) << rotation;
+    EXPECT_GT(BoxOf(drawing, Role::kPlotArea).width, 384 * 0.7) << rotation;
+    const S shown = rotation[0] == '-' ? labels.front() : labels.back();
+    EXPECT_TRUE(shown.starts_with("A f") && shown.ends_with("...")) << shown;
+  }
+}
+
+TEST_F(WallsAndLevelsTest, PiesOfHugeValuesHaveTheirSlices) {
+  for (const char* element : {"pieChart", "pie3DChart", "doughnutChart"}) {
+    const Drawing drawing =
+        Draw(PlotXml("<c:" + S(element) + ">" + SeriesXml(0, {1.5e308, 1.5e308}) + "</c:" + element + ">"));
+    const auto slices = BoxesOf(drawing, Role::kSlice);
+    ASSERT_EQ(slices.size(), 2u) << element;
+    EXPECT_NEAR(slices[0].left, slices[1].Right(), 1e-6) << element;
+    EXPECT_NEAR(slices[0].width, slices[1].width, 1e-6) << element;
+  }
+}
+
+TEST_F(WallsAndLevelsTest, LeaderLinesGoRoundThePie) {
+  std::vector<double> values(70, 1);
+  values.push_back(3000);
+  const S labels =
+      "<c:dLbls><c:dLblPos val=\"outEnd\"/><c:showVal val=\"1\"/><c:showCatName val=\"1\"/>"
+      "<c:showLeaderLines val=\"1\"/></c:dLbls>";
+  const Drawing drawing = Draw(PlotXml("<c:pieChart>" + SeriesXml(0, values, labels) + "</c:pieChart>"));
+  const Rect circle = BoxOf(drawing, Role::kSlice);
+  const auto lines = ItemsOf(drawing, Role::kLeaderLine);
+  ASSERT_GT(lines.size(), 5u);
+  for (const auto& line : lines) {
+    const auto& steps = std::get<render::PathItem>(line.content).path.Steps();
+    for (std::size_t i = 0; i + 1 < steps.size(); ++i) {
+      for (double share = 0; share <= 1; share += 0.02) {
+        const double x = steps[i].to.x + (steps[i + 1].to.x - steps[i].to.x) * share - circle.Center().x;
+        const double y = steps[i].to.y + (steps[i + 1].to.y - steps[i].to.y) * share - circle.Center().y;
+        ASSERT_GT(std::hypot(x, y), circle.width / 2 * 0.98) << line.tag.point << ' ' << i;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace plotsmith
