@@ -14,6 +14,7 @@ namespace plotsmith::render {
 /// files alone. Fonts and texts are cached. Each thread needs an object of its own.
 class Fonts final : public TextMeasure {
  public:
+  /// Makes an object with empty caches.
   Fonts();
   ~Fonts() override;
   Fonts(const Fonts&) = delete;
