@@ -104,9 +104,13 @@ struct PathStep {
 /// An outline of lines and cubic curves. Angles are in degrees, clockwise from twelve o'clock.
 class Path {
  public:
+  /// Begins a new outline at a point.
   Path& MoveTo(Point to);
+  /// Adds a straight line to a point.
   Path& LineTo(Point to);
+  /// Adds a cubic curve to a point.
   Path& CurveTo(Point control1, Point control2, Point to);
+  /// Adds a straight line to the beginning of the outline, and ends the outline.
   Path& Close();
   /// Adds a closed rectangle.
   Path& AddRect(const Rect& rect);

@@ -42,7 +42,9 @@ const DynamicSetting kDynamicSettings[] = {{"3D", kTypes},
                                            {"exploded", {"pie"}}};
 
 ElementFormat SettingFormat(Names settings) {
-  return {"attribute", {{"setting", std::move(settings), true}}, {}, true};
+  return {.name = "attribute",
+          .attributes = {{.name = "setting", .values = std::move(settings), .required = true}},
+          .repeated = true};
 }
 
 /// Appends the properties of a font, whose names begin with `stem`.
@@ -60,31 +62,41 @@ ElementFormat PersistFormat() {
       AppendFont(list, stem);
     return list;
   }();
-  return {"persist", {{"property", Names(properties.begin(), properties.end()), true}, {"value"}}, {}, true};
+  const Names names(properties.begin(), properties.end());
+  return {.name = "persist",
+          .attributes = {{.name = "property", .values = names, .required = true}, {"value"}},
+          .repeated = true};
 }
 
 std::vector<ElementFormat> GroupFormats() {
   const ElementFormat column = {
-      "column", {{"name", {}, true}, {"worksheet-column-number", {}, false, true}}, {}, true};
+      .name = "column",
+      .attributes = {{.name = "name", .required = true}, {.name = "worksheet-column-number", .isOwn = true}},
+      .repeated = true};
   std::vector<ElementFormat> formats;
   for (const ColumnGroup& group : ColumnGroups()) {
     ElementFormat& format = formats.emplace_back(ElementFormat{group.element, {}, {column}});
-    if (!group.headingsIn.empty()) format.attributes.push_back({"headings-in", group.headingsIn, true});
-    if (format.name == "sort-order") format.attributes.push_back({"sort", {"ascending", "descending"}, true});
+    if (!group.headingsIn.empty()) {
+      format.attributes.push_back({.name = "headings-in", .values = group.headingsIn, .required = true});
+    }
+    if (format.name == "sort-order") {
+      format.attributes.push_back({.name = "sort", .values = {"ascending", "descending"}, .required = true});
+    }
   }
   return formats;
 }
 
 std::vector<AttributeFormat> ChartAttributes() {
-  std::vector<AttributeFormat> attributes = {{"id"},           {"name"},
-                                             {"title"},        {"type", kTypes, true},
-                                             {"table-id"},     {"strategic-bucket-table-id"},
-                                             {"number-format"}};
+  std::vector<AttributeFormat> attributes = {
+      {"id"},           {"name"},
+      {"title"},        {.name = "type", .values = kTypes, .required = true},
+      {"table-id"},     {"strategic-bucket-table-id"},
+      {"number-format"}};
   for (const char* name :
        {"ps-chart-schema-version", "chart-worksheet", "table-worksheet", "table-corrupted",
         "chart-area-crosshatched", "table-top-row", "table-left-column", "table-height", "header-row-count",
         "bucket-name-column-position", "bucket-value-column-position", "data-start-row"}) {
-    attributes.push_back({name, {}, false, true});
+    attributes.push_back({.name = name, .isOwn = true});
   }
   return attributes;
 }
@@ -95,10 +107,16 @@ const ElementFormat& ChartFormat() {
     const ElementFormat others[] = {
         {"axes",
          {},
-         {{"axis", {{"type", {"label", "value"}, true}, {"label"}, {"sticky", kYesNo}}, {}, true}}},
+         {{.name = "axis",
+           .attributes = {{.name = "type", .values = {"label", "value"}, .required = true},
+                          {"label"},
+                          {"sticky", kYesNo}},
+           .repeated = true}}},
         {"data-labels",
          {{"manual-labels", kYesNo}},
-         {{"data-label", {{"show", {"values", "percentages"}, true}}, {}, true}}},
+         {{.name = "data-label",
+           .attributes = {{.name = "show", .values = {"values", "percentages"}, .required = true}},
+           .repeated = true}}},
         {"dynamic-attributes", {}, {SettingFormat({})}},  // See CheckSettings.
         {"static-attributes",
          {},

@@ -213,12 +213,13 @@ void SheetView::PaintMerged(QPainter& painter, const Pane& pane, const PaneCells
 /// Paints the borders, which are on the gridlines. A wide border extends into both cells.
 void SheetView::PaintBorders(QPainter& painter, const Pane& pane, const PaneCells& shown) {
   const QColor base = palette().color(QPalette::Base), text = palette().color(QPalette::Text);
-  const auto paint = [&](const xlsx::BorderLine& line, int x, int y, int length, bool upright) {
+  const auto paint = [&](const xlsx::BorderLine& line, int x, int y, int length, Qt::Orientation direction) {
     if (line.width == 0) return;
     const int width = std::max(1, static_cast<int>(std::lround(line.width * zoom_)));
     const QColor color = line.color ? Readable(FromExcel(*line.color), base, palette()) : text;
     const int from = (width - 1) / 2;
-    const QRect area = upright ? QRect(x - from, y, width, length) : QRect(x, y - from, length, width);
+    const QRect area =
+        direction == Qt::Vertical ? QRect(x - from, y, width, length) : QRect(x, y - from, length, width);
     painter.fillRect(area, color);
   };
   for (std::size_t row = 0; row < shown.rows.size(); ++row) {
@@ -226,10 +227,10 @@ void SheetView::PaintBorders(QPainter& painter, const Pane& pane, const PaneCell
       const xlsx::CellLook& look = source_.LookOf(shown.At(row, column).style);
       const QRect area = AreaOf(shown.rows[row], shown.columns[column]).translated(pane.origin);
       const int left = area.left() - 1, top = area.top() - 1;
-      paint(look.left, left, top, area.height() + 1, true);
-      paint(look.right, area.right(), top, area.height() + 1, true);
-      paint(look.top, left, top, area.width() + 1, false);
-      paint(look.bottom, left, area.bottom(), area.width() + 1, false);
+      paint(look.left, left, top, area.height() + 1, Qt::Vertical);
+      paint(look.right, area.right(), top, area.height() + 1, Qt::Vertical);
+      paint(look.top, left, top, area.width() + 1, Qt::Horizontal);
+      paint(look.bottom, left, area.bottom(), area.width() + 1, Qt::Horizontal);
     }
   }
 }

@@ -47,24 +47,23 @@ void FindBar::Close() {
   browser_.setFocus(Qt::OtherFocusReason);
 }
 
-void FindBar::FindNext() { Find(false); }
+void FindBar::FindNext() { Find({}); }
 
-void FindBar::FindPrevious() { Find(true); }
+void FindBar::FindPrevious() { Find(QTextDocument::FindBackward); }
 
 void FindBar::FindTyped() {
   QTextCursor cursor = browser_.textCursor();
   cursor.setPosition(cursor.selectionStart());
   browser_.setTextCursor(cursor);
-  Find(false);
+  Find({});
 }
 
-void FindBar::Find(bool backward) {
+void FindBar::Find(QTextDocument::FindFlags flags) {
   result_->clear();
   if (text_->text().isEmpty()) return;
-  const auto flags = backward ? QTextDocument::FindBackward : QTextDocument::FindFlags();
   if (browser_.find(text_->text(), flags)) return;
   const QTextCursor before = browser_.textCursor();
-  browser_.moveCursor(backward ? QTextCursor::End : QTextCursor::Start);
+  browser_.moveCursor(flags.testFlag(QTextDocument::FindBackward) ? QTextCursor::End : QTextCursor::Start);
   if (browser_.find(text_->text(), flags)) return;
   browser_.setTextCursor(before);
   result_->setText("This topic doesn't have the text.");
@@ -73,7 +72,7 @@ void FindBar::Find(bool backward) {
 void FindBar::keyPressEvent(QKeyEvent* event) {
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (isEnter && text_->hasFocus()) {
-    Find(event->modifiers().testFlag(Qt::ShiftModifier));
+    event->modifiers().testFlag(Qt::ShiftModifier) ? FindPrevious() : FindNext();
   } else {
     QWidget::keyPressEvent(event);
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtGui/QTextDocument>
 #include <QtWidgets/QWidget>
 
 class QLabel;
@@ -30,7 +31,7 @@ class FindBar final : public QWidget {
  private:
   /// Selects the next occurrence of the text after the cursor. An empty text finds nothing and shows no
   /// message.
-  void Find(bool backward);
+  void Find(QTextDocument::FindFlags flags);
   /// Repeats the search from the start of the last one, while the user types.
   void FindTyped();
 

@@ -15,6 +15,7 @@ namespace plotsmith::render {
 /// object. A text is measured or drawn for one of them at a time.
 class Fonts final : public TextMeasure {
  public:
+  /// Makes an object with empty caches.
   Fonts();
   ~Fonts() override;
   Fonts(const Fonts&) = delete;

@@ -11,7 +11,7 @@
 namespace plotsmith::render {
 
 /// The most points that are drawn of one series, and of all series of a chart. Numbers and texts count alike.
-/// Excel drew at most 32,000 and 256,000 until Excel 2010.
+/// Excel 2007 and older draw at most 32,000 and 256,000.
 inline constexpr std::size_t kMostPoints = 100'000, kMostPointsOfAll = 2'000'000;
 
 /// What the functions share that read a chart.

@@ -15,8 +15,7 @@ using WidthOf = std::function<double(std::string_view)>;
 std::vector<std::string> WrappedLines(std::string_view text, double width, const WidthOf& widthOf);
 
 /// Returns what a cell of a width in points shows of a number. If `text` doesn't fit, a number in the format
-/// General
-/// (`general`) loses decimals; other numbers become as many "#" as fit.
+/// General (`general`) loses decimals. Other numbers become as many "#" as fit.
 std::string FittedNumber(double number, const std::string& text, bool general, double width,
                          const WidthOf& widthOf);
 

@@ -28,8 +28,9 @@ struct TextBlock {
   double width = 0, height = 0;  ///< points, before it is turned
   double rotation = 0;           ///< degrees clockwise
 
-  /// The width and height of the smallest upright rectangle around the turned block, in points.
+  /// The width of the smallest upright rectangle around the turned block, in points.
   double TurnedWidth() const;
+  /// The height of that rectangle, in points.
   double TurnedHeight() const;
   /// Returns whether the block has no line.
   bool IsEmpty() const { return lines.empty(); }
