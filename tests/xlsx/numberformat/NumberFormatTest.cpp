@@ -398,6 +398,7 @@ TEST(NumberFormatTest, RefusesWhatExcelRefuses) {
                                // Elapsed units in invalid places.
                                "HH[MM]", "[m]:[s]", "[h]:[mm]", "[s]:mm"};
   for (const char* code : codes) EXPECT_EQ(NumberFormat::Parse(code), nullptr) << code;
+  for (const char* code : {"[Color1]0", "[Color 56]0"}) EXPECT_NE(NumberFormat::Parse(code), nullptr) << code;
   EXPECT_NE(NumberFormat::Parse(std::string(500, '0')), nullptr);
   EXPECT_EQ(NumberFormat::Parse(std::string(1'000'000, '0')), nullptr);
 }
