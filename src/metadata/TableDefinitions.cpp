@@ -54,6 +54,32 @@ class TableBuilder {
   std::int32_t lNumbers_ = 0;
 };
 
+/// Appends the columns of a range table, and states whether the first two are the names and values of
+/// buckets.
+void AppendRangeColumns(TableBuilder& oTable, const Ref<excel::Worksheet>& oSheet, std::int32_t lTop,
+                        std::int32_t lLeft, std::int32_t lHeight) {
+  // Only the rows come from the name. The width comes from the used range, counted from the table's left
+  // edge, so that columns added beside the range belong to the table.
+  const std::int32_t lWidth = oSheet->UsedRange()->Columns()->Count();
+  std::string sBucketName, sBucketValue;
+  for (std::int32_t lCol = lLeft; lCol < lLeft + lWidth; ++lCol) {
+    auto oColumn = GetColumnDefinitionAsXML(oSheet, lTop + 2, lCol, lTop + lHeight - 1);
+    if (oColumn) {
+      const bool bLabel = oColumn.tagName() == "label-column";
+      if (bLabel && lCol == lLeft) sBucketName = GetAttributeText(oColumn, "name");
+      if (!bLabel && lCol == lLeft + 1) sBucketValue = GetAttributeText(oColumn, "name");
+      oTable.AppendColumn(oColumn);
+    }
+    YieldToHost();
+  }
+  const bool bCandidate = !sBucketName.empty() && !sBucketValue.empty();
+  if (!bCandidate) sBucketName = sBucketValue = "";
+  oTable.SetCounts();
+  oTable.Set("is-bucket-candidate", bCandidate ? "yes" : "no");
+  oTable.Set("bucket-name-column", sBucketName);
+  oTable.Set("bucket-value-column", sBucketValue);
+}
+
 }  // namespace
 
 // A name that belongs to one sheet begins with the sheet's name, which may begin like the name of a table.
@@ -124,28 +150,7 @@ IXMLDOMDocument2 GetTableDefinitionAsXML(const std::string& sTableRangeName) {
     oTable.Set("table-left-column", lLeft);
     oTable.Set("table-height", lHeight);
     oTable.Set("header-row-count", kRangeHeaderRows);
-
-    // Only the rows come from the name. The width comes from the used range, counted from the table's left
-    // edge, so that columns added beside the range belong to the table.
-    const auto oSheet = oWorkbook->Worksheets()->Item(sSheet);
-    const std::int32_t lWidth = oSheet->UsedRange()->Columns()->Count();
-    std::string sBucketName, sBucketValue;
-    for (std::int32_t lCol = lLeft; lCol < lLeft + lWidth; ++lCol) {
-      auto oColumn = GetColumnDefinitionAsXML(oSheet, lTop + 2, lCol, lTop + lHeight - 1);
-      if (oColumn) {
-        const bool bLabel = oColumn.tagName() == "label-column";
-        if (bLabel && lCol == lLeft) sBucketName = GetAttributeText(oColumn, "name");
-        if (!bLabel && lCol == lLeft + 1) sBucketValue = GetAttributeText(oColumn, "name");
-        oTable.AppendColumn(oColumn);
-      }
-      YieldToHost();
-    }
-    const bool bCandidate = !sBucketName.empty() && !sBucketValue.empty();
-    if (!bCandidate) sBucketName = sBucketValue = "";
-    oTable.SetCounts();
-    oTable.Set("is-bucket-candidate", bCandidate ? "yes" : "no");
-    oTable.Set("bucket-name-column", sBucketName);
-    oTable.Set("bucket-value-column", sBucketValue);
+    AppendRangeColumns(oTable, oWorkbook->Worksheets()->Item(sSheet), lTop, lLeft, lHeight);
     return oTable.Finish();
   });
 }

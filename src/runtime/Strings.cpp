@@ -4,7 +4,6 @@
 #include <utf8proc.h>
 
 #include "runtime/Ascii.h"
-#include "runtime/RuntimeError.h"
 
 namespace plotsmith::runtime {
 namespace {
@@ -122,14 +121,6 @@ std::size_t Len(std::string_view text) {
   std::size_t units = 0;
   for (std::size_t i = 0; i < text.size();) units += NextCharacter(text, i) >= 0x10000 ? 2 : 1;
   return units;
-}
-
-std::string Mid(std::string_view text, std::size_t start, std::size_t length) {
-  if (start == 0) throw RuntimeError(error::kInvalidCall);
-  if (IsAscii(text)) return start > text.size() ? std::string() : std::string(text.substr(start - 1, length));
-  const std::u16string units = ToUtf16(text);
-  if (start > units.size()) return {};
-  return ToUtf8(std::u16string_view(units).substr(start - 1, length));
 }
 
 std::u16string ToUtf16(std::string_view text) {

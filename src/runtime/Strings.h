@@ -23,9 +23,6 @@ std::string_view Trim(std::string_view text);
 
 /// Returns the number of UTF-16 units.
 std::size_t Len(std::string_view text);
-/// Returns up to `length` UTF-16 units from position `start`, which counts from 1. Raises error 5 if `start`
-/// is 0. The result is shorter if the string ends before.
-std::string Mid(std::string_view text, std::size_t start, std::size_t length);
 
 /// Converts between UTF-8 and UTF-16. Invalid UTF-8 becomes U+FFFD; halves of surrogate pairs are kept in
 /// both directions.

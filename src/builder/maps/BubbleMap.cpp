@@ -13,6 +13,42 @@
 namespace plotsmith {
 
 using dom::IXMLDOMElement;
+using runtime::Ref;
+
+namespace {
+
+/// Numbers the names of the bubbles in their column.
+void NumberBubbles(const IXMLDOMElement& oChartElement, const DataRows& oRows,
+                   const Ref<excel::Worksheet>& oSheet, std::int32_t lNameColumn) {
+  Numbering oBubbles(mCategoryPositions, mCategoryNames);
+  std::string sScratch;
+  for (std::int32_t lRow = oRows.lFirst; lRow <= oRows.Last(); ++lRow) {
+    oBubbles.NumberIfNew(GetCellText(*oSheet, lRow, lNameColumn, sScratch), sScratch);
+    // This comes after the numbering: the last name that fits is charted, and shows the message as well.
+    if (oBubbles.Count() >= kSeriesLimit) {
+      ShowLimitMessage(oChartElement);
+      break;
+    }
+  }
+}
+
+/// Adds the rules of the four columns of a bubble. The color and the size have a value of their own if the
+/// chart has no column for them.
+void AddBubbleRules(const IXMLDOMElement& oChartElement, std::int32_t lNameColumn) {
+  std::int32_t lColorColumn = -1;
+  if (const auto oSeries = oChartElement.selectSingleNode("series")) {
+    if (GetAttributeText(oSeries, "headings-in") != "none") lColorColumn = FirstColumn(oSeries);
+  }
+  const std::int32_t lXColumn = FirstColumnOf(oChartElement, "x-values", 0);
+  const std::int32_t lYColumn = FirstColumnOf(oChartElement, "values", 0);
+  const std::int32_t lSizeColumn = FirstColumnOf(oChartElement, "bubble-sizes", -1);
+  AddPseudoSeriesRule(lNameColumn, bubble_column::kColor, cell::kText, lColorColumn, "[none]");
+  AddPseudoSeriesRule(lNameColumn, bubble_column::kX, cell::kDouble, lXColumn, {});
+  AddPseudoSeriesRule(lNameColumn, bubble_column::kY, cell::kDouble, lYColumn, {});
+  AddPseudoSeriesRule(lNameColumn, bubble_column::kSize, cell::kDouble, lSizeColumn, 1);
+}
+
+}  // namespace
 
 bool BuildBubbleMap(const IXMLDOMElement& oChartElement) {
   return ReportErrors("PSChartBuilder.BuildBubbleMap", false, [&] {
@@ -27,30 +63,9 @@ bool BuildBubbleMap(const IXMLDOMElement& oChartElement) {
     std::int32_t lNameColumn = 0;
     if (const auto oCategories = oChartElement.selectSingleNode("categories")) {
       lNameColumn = FirstColumn(oCategories);
-      Numbering oBubbles(mCategoryPositions, mCategoryNames);
-      std::string sScratch;
-      for (std::int32_t lRow = oRows.lFirst; lRow <= oRows.Last(); ++lRow) {
-        oBubbles.NumberIfNew(GetCellText(*oSheet, lRow, lNameColumn, sScratch), sScratch);
-        // This comes after the numbering: the last name that fits is charted and also causes the message.
-        if (oBubbles.Count() >= kSeriesLimit) {
-          ShowLimitMessage(oChartElement);
-          break;
-        }
-      }
+      NumberBubbles(oChartElement, oRows, oSheet, lNameColumn);
     }
-
-    std::int32_t lColorColumn = -1;
-    if (const auto oSeries = oChartElement.selectSingleNode("series")) {
-      if (GetAttributeText(oSeries, "headings-in") != "none") lColorColumn = FirstColumn(oSeries);
-    }
-    const std::int32_t lXColumn = FirstColumnOf(oChartElement, "x-values", 0);
-    const std::int32_t lYColumn = FirstColumnOf(oChartElement, "values", 0);
-    const std::int32_t lSizeColumn = FirstColumnOf(oChartElement, "bubble-sizes", -1);
-    AddPseudoSeriesRule(lNameColumn, bubble_column::kColor, cell::kText, lColorColumn, "[none]");
-    AddPseudoSeriesRule(lNameColumn, bubble_column::kX, cell::kDouble, lXColumn, {});
-    AddPseudoSeriesRule(lNameColumn, bubble_column::kY, cell::kDouble, lYColumn, {});
-    AddPseudoSeriesRule(lNameColumn, bubble_column::kSize, cell::kDouble, lSizeColumn, 1);
-
+    AddBubbleRules(oChartElement, lNameColumn);
     if (FinishMap()) return true;
     ShowComplaint("PSChartBuilder.BuildBubbleMap", kEmptyMapComplaint);
     return false;

@@ -46,6 +46,23 @@ void NumberItems(const IXMLDOMElement& oChartElement, const DataRows& oRows, exc
   }
 }
 
+/// Adds the rules: for each item its label and its place, and for each item and bucket the sum of the values.
+void AddBucketRules(const IXMLDOMElement& oChartElement, std::int32_t lItemColumn,
+                    std::int32_t lBucketNameColumn, std::int32_t lBucketValueColumn) {
+  std::int32_t lLabelColumn = -1;
+  if (const auto oSeries = oChartElement.selectSingleNode("series")) {
+    if (GetAttributeText(oSeries, "headings-in") == "rows") lLabelColumn = FirstColumn(oSeries);
+  }
+  AddPseudoSeriesRule(lItemColumn, bucket_column::kLabel, cell::kText, lLabelColumn, "[none]");
+  AddPseudoSeriesRule(lItemColumn, bucket_column::kSort, cell::kDouble,
+                      FirstColumnOf(oChartElement, "sort-order", -1), 1);
+  auto& oInstruction = mMapInstructions.emplace_back(ColumnSumRule(lBucketValueColumn));
+  oInstruction.SetRowReferenceType(reference::kByCell);
+  oInstruction.SetRowReferencePosition(lItemColumn);
+  oInstruction.SetColReferenceType(reference::kByCell);
+  oInstruction.SetColReferencePosition(lBucketNameColumn);
+}
+
 }  // namespace
 
 bool BuildStrBuckMap(const IXMLDOMElement& oChartElement) {
@@ -71,18 +88,7 @@ bool BuildStrBuckMap(const IXMLDOMElement& oChartElement) {
       lItemColumn = FirstColumn(oCategories);
       NumberItems(oChartElement, oRows, *oSheet, lItemColumn, oItems);
     }
-    std::int32_t lLabelColumn = -1;
-    if (const auto oSeries = oChartElement.selectSingleNode("series")) {
-      if (GetAttributeText(oSeries, "headings-in") == "rows") lLabelColumn = FirstColumn(oSeries);
-    }
-    AddPseudoSeriesRule(lItemColumn, bucket_column::kLabel, cell::kText, lLabelColumn, "[none]");
-    AddPseudoSeriesRule(lItemColumn, bucket_column::kSort, cell::kDouble,
-                        FirstColumnOf(oChartElement, "sort-order", -1), 1);
-    auto& oInstruction = mMapInstructions.emplace_back(ColumnSumRule(lBucketValueColumn));
-    oInstruction.SetRowReferenceType(reference::kByCell);
-    oInstruction.SetRowReferencePosition(lItemColumn);
-    oInstruction.SetColReferenceType(reference::kByCell);
-    oInstruction.SetColReferencePosition(lBucketNameColumn);
+    AddBucketRules(oChartElement, lItemColumn, lBucketNameColumn, lBucketValueColumn);
 
     if (FinishMap()) return true;
     ShowMessage(std::string("PSChartBuilder.BuildStrBuckMap") + kLineBreak + kEmptyMapComplaint);

@@ -26,7 +26,7 @@ std::string OneLine(std::string text) {
 
 std::string Quoted(std::string_view text) {
   if (runtime::Len(text) <= kLongest) return "'" + OneLine(std::string(text)) + "'";
-  return "'" + OneLine(runtime::Mid(text, 1, kLongest)) + "...'";
+  return "'" + OneLine(runtime::ToUtf8(runtime::ToUtf16(text).substr(0, kLongest))) + "...'";
 }
 
 std::string ShellWord(const std::string& text) {

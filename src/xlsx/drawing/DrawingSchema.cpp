@@ -174,7 +174,8 @@ std::size_t Rank(const Type* type, std::string_view name) {
   return std::string_view::npos;
 }
 
-/// Returns the child before which a child of this name must be inserted; null for the end.
+/// The child before which a child of the name must be inserted; null for the end. The search begins at the
+/// end and ends at a child of the same name, so that it doesn't pass all series or points of a chart.
 pugi::xml_node Follower(pugi::xml_node parent, std::string_view local) {
   const Type* type = TypeOf(parent);
   const std::size_t rank = Rank(type, local);

@@ -142,55 +142,61 @@ void AppendHour(std::string& out, const Section& section, const Moment& moment, 
   AppendInteger(out, hour, letters);
 }
 
+/// Appends an era, or a year that is counted in one. A date before the first era has a year of the calendar.
+void AppendEra(std::string& out, const Section& section, const Token& token, const Moment& moment) {
+  const Era* era = FindEra(section.language, moment.date.point);
+  if (token.kind == Kind::kEra) {
+    if (era) out += era->names[std::min<std::uint32_t>(token.size, 3) - 1];
+  } else if (era) {
+    AppendInteger(out, Year(moment.date.point) - Year(era->begin) + 1, token.size);
+  } else {
+    AppendYear(out, moment.date.year + section.yearOffset, true);
+  }
+}
+
+/// Appends a minute, a second or a part of one.
+void AppendTime(std::string& out, const Section& section, const Token& token, const Moment& moment) {
+  const bool isElapsed = section.elapsed == token.kind;
+  if (token.kind == Kind::kMinute) {
+    AppendInteger(out, isElapsed ? moment.elapsed / 60 : moment.second / 60 % 60, token.size);
+  } else if (token.kind == Kind::kSecond) {
+    AppendInteger(out, isElapsed ? moment.elapsed : moment.second % 60, token.size);
+  } else {
+    out += '.';
+    AppendInteger(out, moment.fraction / PowerOfTen(section.subseconds - static_cast<int>(token.size)),
+                  token.size);
+  }
+}
+
+/// Appends the mark of the half of the day, from marks such as "AM/PM".
+void AppendDayHalf(std::string& out, std::string_view marks, const Moment& moment) {
+  const std::size_t slash = marks.find('/');
+  out += moment.second < kDaySeconds / 2 ? marks.substr(0, slash) : marks.substr(slash + 1);
+}
+
 void AppendDateToken(std::string& out, const Section& section, const Token& token, const Moment& moment) {
-  const bool hasEraYear = token.kind == Kind::kEraYear || token.kind == Kind::kEra;
-  const Era* era = hasEraYear ? FindEra(section.language, moment.date.point) : nullptr;
   switch (token.kind) {
     case Kind::kYear:
-      AppendYear(out, moment.date.year + section.yearOffset, token.size > 2);
-      return;
+      return AppendYear(out, moment.date.year + section.yearOffset, token.size > 2);
     case Kind::kBuddhistYear:
-      AppendYear(out, moment.date.year + 543, token.size > 2);
-      return;
+      return AppendYear(out, moment.date.year + 543, token.size > 2);
     case Kind::kEraYear:
-      if (era)
-        AppendInteger(out, Year(moment.date.point) - Year(era->begin) + 1, token.size);
-      else
-        AppendYear(out, moment.date.year + section.yearOffset, true);
-      return;
     case Kind::kEra:
-      if (era) out += era->names[std::min<std::uint32_t>(token.size, 3) - 1];
-      return;
+      return AppendEra(out, section, token, moment);
     case Kind::kMonth:
-      AppendMonth(out, moment, token.size);
-      return;
+      return AppendMonth(out, moment, token.size);
     case Kind::kDay:
-      AppendDay(out, moment, token.size);
-      return;
+      return AppendDay(out, moment, token.size);
     case Kind::kHour:
-      AppendHour(out, section, moment, token.size);
-      return;
+      return AppendHour(out, section, moment, token.size);
     case Kind::kMinute:
-      AppendInteger(out, section.elapsed == Kind::kMinute ? moment.elapsed / 60 : moment.second / 60 % 60,
-                    token.size);
-      return;
     case Kind::kSecond:
-      AppendInteger(out, section.elapsed == Kind::kSecond ? moment.elapsed : moment.second % 60, token.size);
-      return;
     case Kind::kSubsecond:
-      out += '.';
-      AppendInteger(out, moment.fraction / PowerOfTen(section.subseconds - static_cast<int>(token.size)),
-                    token.size);
-      return;
-    case Kind::kAmPm: {
-      const std::string_view marks = section.Text(token);
-      const std::size_t slash = marks.find('/');
-      out += moment.second < kDaySeconds / 2 ? marks.substr(0, slash) : marks.substr(slash + 1);
-      return;
-    }
+      return AppendTime(out, section, token, moment);
+    case Kind::kAmPm:
+      return AppendDayHalf(out, section.Text(token), moment);
     default:
       out += section.Text(token);
-      return;
   }
 }
 

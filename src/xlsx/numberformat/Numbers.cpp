@@ -67,7 +67,19 @@ void SettleDigit(Section& section, Token& token, Kind part) {
   ++count;
 }
 
-/// Assigns the tokens of a plain or a scientific number.
+/// Settles a point: the first one begins the decimals, and the others are literals. Returns false for a point
+/// in the exponent.
+bool SettlePoint(Token& token, Kind& part) {
+  if (part == Kind::kExponentDigit) return false;
+  if (part == Kind::kInteger) {
+    part = Kind::kDecimal;
+  } else {
+    token.kind = Kind::kLiteral;
+  }
+  return true;
+}
+
+/// Settles the tokens of a plain or a scientific number.
 bool SettlePlainNumber(Section& section) {
   auto& tokens = section.tokens;
   const auto lastDigit = LastDigitOfMantissa(tokens);
@@ -84,13 +96,8 @@ bool SettlePlainNumber(Section& section) {
         SettleDigit(section, token, part);
         break;
       case Kind::kPoint:
-        if (part == Kind::kExponentDigit) return false;
-        if (part == Kind::kInteger) {
-          part = Kind::kDecimal;
-          inDigits = true;
-        } else {
-          token.kind = Kind::kLiteral;
-        }
+        inDigits = part == Kind::kInteger;
+        if (!SettlePoint(token, part)) return false;
         break;
       case Kind::kComma:
         if (wasInDigits && part != Kind::kExponentDigit) {
