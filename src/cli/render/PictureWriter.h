@@ -34,7 +34,7 @@ class PictureWriter {
   std::string BytesOf(const std::vector<render::Drawing>& pages) const;
   std::string PngOf(const render::Drawing& drawing) const;
   void AddPage(const render::Drawing& page);
-  /// Waits for the pictures that were taken, and prints their paths. Throws what went wrong first.
+  /// Waits for the added pictures, and prints their paths. Throws the first error.
   void Await();
 
   PicturePlan plan_;
