@@ -28,8 +28,7 @@ class TerminalText : public std::streambuf {
 
   std::ostream& stream_;
   std::streambuf* terminal_;  // not owned
-  bool hasLead_ = false;      // the byte C2, which begins U+0080 to U+00BF, was written, and the next byte is
-                              // still missing
+  bool hasLead_ = false;      // C2, the first byte of U+0080 to U+00BF, was written
 };
 
 }  // namespace plotsmith::cli
