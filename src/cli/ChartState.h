@@ -8,7 +8,7 @@ namespace plotsmith::cli {
 /// The state of a chart.
 enum class ChartState {
   kOk,           ///< The chart is drawn.
-  kUnsupported,  ///< A person changed it to an unsupported type.
+  kUnsupported,  ///< The user changed it to an unsupported type.
   kTable,        ///< Its table doesn't exist or no longer fits.
   kUnavailable,  ///< It couldn't be built.
   kNotDrawn      ///< It waits for its first refresh.

@@ -6,9 +6,9 @@
 
 namespace plotsmith::cli {
 
-/// Keeps a workbook's texts from steering a terminal. While it lives, what goes to the stream reaches the
-/// terminal with U+FFFD in place of each control character of ECMA-48 (U+0000 to U+001F, U+007F to U+009F)
-/// but for tabs, line feeds and carriage returns.
+/// Prevents a workbook's texts from controlling a terminal. While it lives, each control character of ECMA-48
+/// (U+0000 to U+001F, U+007F to U+009F) that is written to the stream, except tabs, line feeds and carriage
+/// returns, is shown as U+FFFD.
 class TerminalText : public std::streambuf {
  public:
   /// Replaces the buffer of the stream until this object is destroyed. `stream` must outlive it.
@@ -28,7 +28,7 @@ class TerminalText : public std::streambuf {
 
   std::ostream& stream_;
   std::streambuf* terminal_;  // not owned
-  bool hasLead_ = false;      // the byte C2, which begins U+0080 to U+00BF, waits for the next one
+  bool hasLead_ = false;      // C2, the first byte of U+0080 to U+00BF, was written
 };
 
 }  // namespace plotsmith::cli

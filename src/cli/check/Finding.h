@@ -20,10 +20,9 @@ enum class FindingKind {
 /// The effect of a finding on a command that writes the workbook.
 enum class Severity {
   kSaid,      ///< It prints the sentence and continues.
-  kKeeps,     ///< The command keeps the chart's setting instead of the definition's, and reports that.
+  kKeeps,     ///< It keeps the chart's setting instead of the definition's, and reports that.
   kConfuses,  ///< It prints the sentence; making, changing or deleting charts needs --drop-broken.
-  kRemoves,   ///< The command removes the definition, because its drawn chart no longer exists, and reports
-              ///< that.
+  kRemoves,   ///< It removes the definition of a drawn chart that no longer exists, and reports that.
   kRefuses    ///< It would lose the definition, and writes nothing without --drop-broken.
 };
 
@@ -48,9 +47,9 @@ void Append(Findings& findings, Findings more);
 const char* KindName(FindingKind kind);
 /// Returns the severity in one word, for programs.
 const char* SeverityName(Severity severity);
-/// Returns the sentence, with what the next command that writes the workbook will do about it.
+/// Returns the sentence with the effect on the next command that writes the workbook.
 std::string Foretold(const Finding& finding);
-/// Returns the sentence, with what the command that wrote the workbook did about it.
+/// Returns the sentence with the effect on the command that has written the workbook.
 std::string Reported(const Finding& finding);
 
 }  // namespace plotsmith::cli
