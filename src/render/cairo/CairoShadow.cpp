@@ -86,7 +86,7 @@ Rect SeenOf(cairo_t* cr, const ShadowItem& item, double reach) {
 
 /// Pixels for a point: those of the picture, or enough for a page. The softer the edge, the fewer show it.
 double ResolutionOf(cairo_t* cr, const Rect& seen, double deviation) {
-  constexpr double kLeast = 2, kMostPixels = 1e7, kOfDeviation = 8;
+  constexpr double kLeast = 2, kMostPixels = 1e7, kOfDeviation = 4;
   double across = 1, down = 0;
   cairo_user_to_device_distance(cr, &across, &down);
   const double scale = std::min(std::max(std::hypot(across, down), kLeast), kOfDeviation / deviation);
