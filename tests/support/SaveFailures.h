@@ -15,7 +15,8 @@ void SaveThroughFailures(const std::string& path, const Save& save);
 /// Does the same with a failure of each single call to a file.
 void SaveThroughEachFailure(const std::string& path, const Save& save);
 /// Saves while one allocation, counted from 1, fails. Returns true if the save has ended before this
-/// allocation. Otherwise expects that the file at the path is unchanged.
+/// allocation. Expects that a failed save leaves the file at the path unchanged. A save can succeed in spite
+/// of the failure, because the file is already in place when the package is opened again.
 bool SaveWithoutMemory(const std::string& path, int allocation, const Save& save);
 
 }  // namespace plotsmith::test

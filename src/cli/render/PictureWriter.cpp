@@ -73,14 +73,20 @@ std::string PictureWriter::PngOf(const render::Drawing& drawing) const {
   }
 }
 
+std::vector<render::Drawing> PictureWriter::Drawn(const DrawPages& draw) const {
+  std::vector<render::Drawing> pages = draw();
+  const bool scales = plan_.scale != 1 && plan_.format != PictureFormat::kPng;
+  for (render::Drawing& page : pages) {
+    if (scales) page = render::Scaled(page, plan_.scale);
+  }
+  return pages;
+}
+
 std::string PictureWriter::BytesOf(const std::vector<render::Drawing>& pages) const {
   if (plan_.format == PictureFormat::kPng) return PngOf(pages.front());
-  const auto scaled = [&](const render::Drawing& page) {
-    return plan_.scale == 1 ? page : render::Scaled(page, plan_.scale);
-  };
-  if (plan_.format == PictureFormat::kSvg) return render::MakeSvg(scaled(pages.front()));
+  if (plan_.format == PictureFormat::kSvg) return render::MakeSvg(pages.front());
   const auto document = LoadPainter().NewPdf();
-  for (const render::Drawing& page : pages) document->Add(scaled(page));
+  for (const render::Drawing& page : pages) document->Add(page);
   return document->Finish();
 }
 
@@ -88,14 +94,15 @@ void PictureWriter::Add(const std::string& name, DrawPages draw) {
   if (tasks_.HasFailed()) Await();
   if (plan_.target != PicturePlan::Target::kFolder) {
     // A task is copied when it is taken, but not its pages.
-    tasks_.Add(
-        [this, pages = std::make_shared<const std::vector<render::Drawing>>(draw())] { PaintPages(*pages); });
+    tasks_.Add([this, pages = std::make_shared<const std::vector<render::Drawing>>(Drawn(draw))] {
+      PaintPages(*pages);
+    });
     return;
   }
   const fs::path path = runtime::PathOf(plan_.path) / runtime::PathOf(name + EndingOf(plan_.format));
   PictureFile& file = files_.emplace_back(PictureFile{runtime::Utf8Of(path.lexically_normal())});
   tasks_.Add([this, &file, draw = std::move(draw)] {
-    const std::vector<render::Drawing> pages = draw();
+    const std::vector<render::Drawing> pages = Drawn(draw);
     if (pages.empty()) return;
     WriteFile(file.path, BytesOf(pages));
     file.isWritten = true;
@@ -109,8 +116,7 @@ void PictureWriter::PaintPages(const std::vector<render::Drawing>& pages) {
     return;
   }
   if (!document_) document_ = LoadPainter().NewPdf();
-  for (const render::Drawing& page : pages)
-    document_->Add(plan_.scale == 1 ? page : render::Scaled(page, plan_.scale));
+  for (const render::Drawing& page : pages) document_->Add(page);
 }
 
 void PictureWriter::Await() {

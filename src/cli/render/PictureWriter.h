@@ -41,6 +41,8 @@ class PictureWriter {
     bool isWritten = false;
   };
 
+  /// Draws pages. Those of SVG and PDF are scaled; a PNG is painted larger instead.
+  std::vector<render::Drawing> Drawn(const DrawPages& draw) const;
   /// Returns all pages as PDF, or the first page in another format.
   std::string BytesOf(const std::vector<render::Drawing>& pages) const;
   std::string PngOf(const render::Drawing& drawing) const;

@@ -24,12 +24,21 @@ struct Sizes {
   double widest = 0, widestWord = 0, lineHeight = 0;
 };
 
+/// Returns whether a text is a single word, as numbers and most categories are.
+bool IsOneWord(std::string_view text) { return text.find_first_of(" \n") == std::string_view::npos; }
+
 Sizes Measure(const std::vector<std::string>& texts, const TextStyle& style, const TextMeasure& measure) {
   Sizes sizes;
   sizes.lineHeight = measure.Measure("0", style.font).Height();
   const std::size_t step = std::max<std::size_t>(texts.size() / kMostMeasured, 1);
   for (std::size_t i = 0; i < texts.size(); i += step) {
     const std::string& text = texts[i];
+    if (IsOneWord(text) && !style.stacked) {
+      const double width = measure.Measure(text, style.font).width;
+      sizes.widestWord = std::max(sizes.widestWord, width);
+      sizes.widest = std::max(sizes.widest, width);
+      continue;
+    }
     sizes.widestWord = std::max(sizes.widestWord, WidestWord(text, style.font, measure));
     for (const TextLine& line : LayOut(text, style, measure).lines)
       sizes.widest = std::max(sizes.widest, line.width);

@@ -97,14 +97,22 @@ std::vector<std::string> MissingEffects(pugi::xml_node part) {
       sentences.emplace_back(sentence);
     }
   };
-  // the walk ends where the predicate finds what it looks for, which is nowhere
-  part.find_node([&](pugi::xml_node node) {
-    const std::string_view name = xml::LocalName(node);
+  const auto addIfKnown = [&](pugi::xml_node effect) {
+    const std::string_view name = xml::LocalName(effect);
     for (const Kind& kind : kKinds) {
       if (kind.element == name) add(kind.sentence);
     }
-    if (name == "outerShdw" && xml::LocalName(node.parent().parent()).ends_with("RPr")) {
+    if (name == "outerShdw" && xml::LocalName(effect.parent().parent()).ends_with("RPr")) {
       add("Shadows of texts aren't drawn.");
+    }
+  };
+  // The walk visits all elements, because the predicate finds nothing.
+  part.find_node([&](pugi::xml_node node) {
+    const std::string_view name = node.name();
+    const bool isGraph = name.ends_with("effectDag");
+    if (isGraph) addIfKnown(node);
+    if (isGraph || name.ends_with("effectLst") || name.ends_with("sp3d")) {
+      for (const pugi::xml_node& effect : node.children()) addIfKnown(effect);
     }
     return false;
   });

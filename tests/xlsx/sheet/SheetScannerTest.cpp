@@ -313,7 +313,7 @@ TEST(SheetScannerTest, DamageIsReported) {
     Scan("<w>" + blanks + "<a/><sheetData/></w>");
     ADD_FAILURE() << "no error";
   } catch (const PackageError& error) {
-    EXPECT_STREQ(error.what(), "it has no cells where they should be");
+    EXPECT_STREQ(error.what(), "it has no element for its cells");
   }
   for (const auto& [text, message] : cases) {
     for (const std::size_t piece : {std::size_t{1} << 20, std::size_t{1}}) {
