@@ -1,6 +1,7 @@
 #!/bin/sh
 # Runs each fuzzer for a while. The seeds are made from the workbooks of the examples and the corpus.
 # Usage: scripts/fuzz.sh [SECONDS-EACH [TARGET...]]
+# Each run of a target adds a line to build-fuzz/runs.tsv: target, seconds, executed inputs, covered edges.
 # FUZZ_SEED=N repeats the same choices on every run; without it, each run makes other choices.
 set -eu
 cd "$(dirname "$0")/.."
@@ -22,9 +23,12 @@ for target in $targets; do
   mkdir -p "build-fuzz/corpus/$target" "$artifacts"
   echo "== $target"
   PLOTSMITH_FUZZ_TARGET=$target build-fuzz/fuzz/fuzzer -max_total_time="$seconds" -seed="${FUZZ_SEED:-0}" -timeout=20 \
-    -rss_limit_mb=2048 -print_final_stats=1 -verbosity=0 -artifact_prefix="$artifacts/" \
+    -rss_limit_mb=2048 -print_final_stats=1 -artifact_prefix="$artifacts/" \
     "build-fuzz/corpus/$target" "$seeds/$target" "fuzz/findings/$target" 2>"$log" || found="$found $target"
-  grep -E 'number_of_executed_units|peak_rss_mb' "$log" | sed 's/^stat:://' || true
+  executed=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
+  edges=$(grep -oE 'cov: [0-9]+' "$log" | tail -n 1 | cut -d ' ' -f 2)
+  printf '%s\t%s\t%s\t%s\n' "$target" "$seconds" "${executed:-0}" "${edges:-0}" >>build-fuzz/runs.tsv
+  echo "executed inputs: ${executed:-0}, covered edges: ${edges:-0}"
 done
 # findings are printed last, so that they are noticed, with the input that causes them
 for target in $found; do

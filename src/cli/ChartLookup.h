@@ -19,7 +19,7 @@ using ChartNames = std::vector<std::pair<std::string, std::string>>;
 /// Returns the loaded charts in their order. `colCharts` must be set.
 ChartNames LoadedCharts();
 
-/// A chart of Plotsmith, with what its definition calls it.
+/// A chart of Plotsmith, with the id and the name in its definition.
 struct DefinedChart {
   std::string id, name;
   excel::Ref<excel::Chart> chart;
@@ -34,7 +34,7 @@ std::vector<DefinedChart> DefinedCharts(xlsx::Workbook& book);
 /// name can equal the id of another chart. Several charts can have the same name, since a modified chart can
 /// take any name.
 std::vector<std::size_t> FindCharts(const ChartNames& charts, const std::string& idOrName);
-/// Returns a sentence, without full stop, that lists the charts with the same name.
+/// Returns a sentence, without a full stop, that lists the charts with the same name.
 std::string SeveralCharts(const ChartNames& charts, const std::vector<std::size_t>& places,
                           const std::string& name);
 

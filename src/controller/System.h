@@ -8,8 +8,8 @@
 
 namespace plotsmith {
 
-/// Initializes the component with a desktop and a view of its forms. A program calls this before any other
-/// function of the component.
+/// Initializes the system with a desktop and a view of its forms. A program calls this before any other
+/// function of the system.
 void StartSystem(runtime::Ref<desktop::Desktop> oDesktop, std::shared_ptr<forms::View> oView);
 /// Resets the variables of all modules to their initial state. The system's references to a host must not
 /// outlive the host, so a program calls this before it destroys the host.

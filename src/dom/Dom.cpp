@@ -55,10 +55,11 @@ IXMLDOMNode IXMLDOMNode::firstChild() const { return {tree_, Checked().first_chi
 
 std::string IXMLDOMNode::xml() const {
   std::ostringstream text;
-  if (Checked() == tree_->content) {
-    for (const auto& child : node_.children()) child.print(text, "", pugi::format_raw);
+  const pugi::xml_node self = Checked();
+  if (self == tree_->content) {
+    for (const auto& child : self.children()) child.print(text, "", pugi::format_raw);
   } else {
-    node_.print(text, "", pugi::format_raw);
+    self.print(text, "", pugi::format_raw);
   }
   return std::move(text).str();
 }

@@ -47,9 +47,9 @@ class Form {
   /// The control with the focus, or null if none has it.
   Control* ActiveControl() const { return activeControl_; }
 
-  /// Raises Form_Load at the first call.
+  /// Loads the form. The first call raises Form_Load.
   void Load();
-  /// Raises Form_Unload at the first call and hides the form for good.
+  /// Unloads the form: hides it for good. The first call raises Form_Unload.
   void Unload();
   /// Hides the form. This ends its modal show.
   void Hide();

@@ -45,7 +45,7 @@ class View {
   virtual void Open(Form& form) = 0;
   /// Closes the form that was opened last.
   virtual void Close(Form& form) = 0;
-  /// Shows the changes, then waits until an action was posted, but at most `atMost` if given. The program
+  /// Shows the changes, then waits until an action is posted, or for `atMost` if that is given. The program
   /// hangs if no action is ever posted.
   virtual void Wait(EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) = 0;
   /// Shows the changes and posts the actions of the user since the last call, without waiting.
@@ -61,7 +61,7 @@ class ModalLoop {
   /// The maximum depth of nested forms. Each step of a wizard, forward or back, adds one level and uses stack
   /// space.
   static constexpr std::size_t kMostForms = 500;
-  /// The stack that the last of them needs for its own work and for a report, in bytes.
+  /// The stack space that the last of them needs for its work and for an error message, in bytes.
   static constexpr std::size_t kStackOfForm = std::size_t{128} * 1024;
 
   /// Loads a form, if it isn't loaded yet, and shows it in front of the others. Returns when the form is

@@ -88,10 +88,10 @@ class VSFlexGrid : public FontControl {
   /// Raised after the user has changed the selection.
   Event AfterSelChange;
 
-  /// Handles a selection by the user: exactly these rows. Raises AfterSelChange, then Click. Returns false if
+  /// Handles the user's selection of exactly these rows. Raises AfterSelChange, then Click. Returns false if
   /// the user can't use the grid.
   bool UserSelect(const std::vector<std::int32_t>& rows);
-  /// Handles a double click by the user: selects the row as UserSelect does, then raises DblClick.
+  /// Handles a double click by the user: calls UserSelect for the row and, if it succeeds, raises DblClick.
   bool UserDoubleClick(std::int32_t row);
 
  protected:

@@ -37,9 +37,9 @@ class SheetList {
 
   /// Adds an empty worksheet at a tab and makes it the active one.
   std::shared_ptr<Worksheet> Add(std::size_t position);
-  /// Removes a sheet. Error 1004 for a sheet that this program hasn't added.
+  /// Removes a sheet. Raises error 1004 for a sheet that this program hasn't added.
   void Remove(const SheetEntry& sheet);
-  /// Renames a sheet. Error 1004 for a name that Excel doesn't allow or that another sheet has, and for a
+  /// Renames a sheet. Raises error 1004 for a name that is invalid or that another sheet has, and for a
   /// sheet that this program hasn't added.
   void Rename(SheetEntry& sheet, std::string_view name);
   /// Shows or hides a sheet. `visible` is a member of XlSheetVisibility.
@@ -47,7 +47,7 @@ class SheetList {
 
   /// The active sheet; null in a workbook without sheets.
   std::shared_ptr<SheetEntry> Active() const;
-  /// Makes a sheet the active one. Error 1004 for a hidden sheet, unless it was active in the opened file.
+  /// Makes a sheet the active one. Raises error 1004 for a hidden sheet, unless it was active in the file.
   void Activate(const SheetEntry& sheet);
   /// The number of times that a sheet or a cell was activated. A window returns from another sheet to the
   /// active one when this number has increased.

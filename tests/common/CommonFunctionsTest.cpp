@@ -141,7 +141,7 @@ TEST_F(CommonFunctionsTest, YieldsAtMostEveryTwoSeconds) {
   const auto clock = std::make_shared<ClockDesktop>();
   const auto view = std::make_shared<test::HandView>();
   StartSystem(clock, view);
-  // The stored time is in whole seconds. After midnight nothing happens until the clock has passed it.
+  // The stored time is in whole seconds. After midnight nothing happens until the clock passes it.
   const std::pair<double, int> cases[] = {{50000.4, 1}, {50001.9, 1}, {50002.0, 2}, {86399.0, 3},
                                           {5.0, 3},     {86400.9, 3}, {86401.0, 4}};
   for (const auto& [now, yields] : cases) {

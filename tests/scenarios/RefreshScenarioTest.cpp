@@ -19,7 +19,7 @@ using S = std::string;
 class RefreshScenarioTest : public test::HostTest {
  protected:
   S Refers(const S& name) { return Book().Names()->Item(name)->RefersTo(); }
-  /// Opens the saved workbook with the first sheet of another workbook, as an export would replace it.
+  /// Opens the saved workbook after its first sheet was replaced by that of `book`, as by an export.
   void OpenSavedWithDataOf(const PlainBook& book) {
     book.Write(folder_ / "filled.xlsx");
     auto package = xlsx::Package::Open(folder_ / "saved.xlsx");

@@ -48,7 +48,7 @@ CPSMapInstruction ColumnSumRule(std::int32_t lColumn);
 void AddPseudoSeriesRule(std::int32_t lRowColumn, std::int32_t lDataColumn, std::int32_t lCellValueType,
                          std::int32_t lColumn, const runtime::Variant& vConstant);
 
-/// Converts a position from the dictionaries. Reading an unknown key leaves Empty there, which counts as 0.
+/// Converts a position from the dictionaries. An unknown key has the position Empty, which counts as 0.
 std::int32_t PositionOf(const runtime::Variant& vPosition);
 
 /// A cache of the positions of texts, by their addresses in memory. The texts of a sheet stay at their
@@ -86,7 +86,7 @@ class PositionCache {
 /// Numbers the headings of one dimension of the rectangle, in the order of their first appearance.
 class Numbering {
  public:
-  /// Numbers headings into these dictionaries, which must outlive the object. Both are by upper-cased text.
+  /// Numbers headings into these dictionaries, which must outlive the object. Their keys are upper-cased.
   Numbering(runtime::Dictionary& oPositions, runtime::Dictionary& oNames)
       : oPositions_(oPositions), oNames_(oNames) {}
 

@@ -17,7 +17,7 @@ inline constexpr std::int32_t kSort = kLabel + 1;
 inline constexpr std::int32_t kFirstBucket = kLabel + 2;
 }  // namespace bucket_column
 
-/// Fills the map's variables and `mStrategicBuckets` for BuildPivotMap.
+/// Fills the map's variables and `mStrategicBuckets` for BuildPivotMap. Returns False if the map is empty.
 bool BuildStrBuckMap(const dom::IXMLDOMElement& oChartElement);
 
 }  // namespace plotsmith

@@ -39,7 +39,7 @@ using DoRun = std::function<BookResult(const BookRun&, const Streams&)>;
 int RunBatch(const std::vector<BookRun>& runs, const DoRun& doRun, std::size_t processes, bool verbose,
              const Streams& streams);
 
-/// "8 charts refreshed, 1 unavailable"
+/// Returns a text such as "8 charts refreshed, 1 unavailable".
 std::string CountsText(const RefreshCounts& counts);
 
 }  // namespace plotsmith::cli

@@ -128,7 +128,7 @@ std::shared_ptr<xlsx::Worksheet> UncalculatedSheet(xlsx::Workbook& book, const d
   return sheet && !sheet->FormulasWithoutResult().empty() ? sheet : nullptr;
 }
 
-/// Finds formulas in the given columns, and in the headings if one of the columns is missing.
+/// Finds formulas without a result in the given columns, and in the headings if one column is missing.
 Findings CheckFormulasOf(xlsx::Worksheet& sheet, const dom::IXMLDOMElement& table,
                          const std::vector<std::string>& names) {
   FormulaScope scope{.headings = false, .columns = std::set<std::int32_t>()};

@@ -34,7 +34,7 @@ Findings FindingsOf(const dom::IXMLDOMElement& chart, const std::vector<CheckedD
 /// Returns sentences that explain the state of a chart.
 std::string ReasonOf(ChartState state, const Findings& findings) {
   if (state == ChartState::kOk) return {};
-  // A chart that was never refreshed waits for a refresh, independent of its findings.
+  // A chart that was never refreshed waits for a refresh, regardless of its findings.
   std::string sentences = state == ChartState::kNotDrawn ? StateReason(state) : "";
   for (const Finding& finding : findings) sentences += (sentences.empty() ? "" : " ") + finding.sentence;
   return sentences.empty() ? StateReason(state) : sentences;

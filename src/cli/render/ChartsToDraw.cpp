@@ -39,7 +39,7 @@ std::vector<std::shared_ptr<xlsx::SheetShape>> ChartShapes(xlsx::Workbook& book,
       }
     });
   } catch (const runtime::RuntimeError&) {
-    // The shape shows no chart.
+    // A drawing that can't be read has no charts.
   }
   return charts;
 }

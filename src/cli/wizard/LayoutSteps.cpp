@@ -38,8 +38,8 @@ const NamedControl& ControlOfWord(const std::vector<NamedControl>& controls, con
   throw ScriptError(ChartOf(type) + " has no " + kind + " " + Quoted(word) + "; it has " + Listed(words));
 }
 
-/// Enables optCategories(2), which is disabled while number columns are the series, if the series change
-/// anyway.
+/// Returns a step that enables optCategories(2), which is disabled while number columns are the series. It is
+/// for options that change the series anyway.
 Step FreeCategoryColumns() {
   return [](const forms::Form& page) -> std::optional<std::string> {
     if (page.FindControl("optCategories(2)")->Enabled()) return std::nullopt;

@@ -20,7 +20,7 @@ struct Gesture {
   Hand& hand;
   EventQueue& queue;
 
-  /// Returns the control that the line names. The user can use it at present.
+  /// Returns the control that the line names. Throws ScriptError if the user can't use it now.
   Control& Target() const {
     Control& control = ControlOf(form, words[1].text);
     const std::string obstacle = control.Obstacle();

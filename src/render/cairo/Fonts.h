@@ -9,10 +9,10 @@ typedef struct _cairo cairo_t;
 
 namespace plotsmith::render {
 
-/// Measures and draws texts with the installed fonts, over Pango and Cairo. A font that isn't installed is
+/// Measures and draws texts with the installed fonts, using Pango and Cairo. A font that isn't installed is
 /// replaced by its substitute. Hinting and the rounding of widths are off, so that results depend on the font
-/// files alone. Fonts and texts are cached. Several threads may use one
-/// object. A text is measured or drawn for one of them at a time.
+/// files alone. Fonts and texts are cached. Several threads may use one object; it measures or draws for one
+/// of them at a time.
 class Fonts final : public TextMeasure {
  public:
   /// Makes an object with empty caches.

@@ -19,7 +19,7 @@
 #include "xlsx/numberformat/DateSystem.h"
 #include "xlsx/numberformat/NumberFormat.h"
 
-/// What is drawn of a chart part. It is read once; defaults, themes and inheritance are resolved.
+/// A chart as it is drawn. It is read once from the part; defaults, themes and inheritance are resolved.
 namespace plotsmith::render {
 
 /// Filling and outline of an element.
@@ -75,7 +75,7 @@ struct LabelsModel {
   bool leaderLines = false;
   Stroke leaderStroke;
 
-  /// Returns the label of a point, which counts from 0. Returns null if the point has none.
+  /// Returns the label of a point by its index, from 0, or null if the point has none.
   const LabelModel* Of(std::size_t point) const;
 };
 
@@ -99,9 +99,9 @@ struct Trendline {
   TrendKind kind = TrendKind::kLinear;
   std::size_t period = 2;  ///< of a moving average, in points
   std::string name;
-  double forward = 0, backward = 0;  ///< how far it goes on beyond the points
-  double shift = 0;  ///< what is taken from x for the number along the axis, as AxisMap::OfX takes it
-  std::vector<Point> points;  ///< x and value; empty if no line could be fitted
+  double forward = 0, backward = 0;  ///< extension beyond the points, in X units
+  double shift = 0;                  ///< subtracted from x to get the argument of AxisMap::OfX
+  std::vector<Point> points;         ///< x and value; empty if no line could be fitted
   ShapeStyle style;
   RichText label;  ///< its equation and how well it fits
   ShapeStyle labelStyle;
@@ -122,21 +122,20 @@ struct SeriesModel {
   bool invertIfNegative = false;
   Fill invertedFill;  ///< replaces a solid filling below zero if that is inverted
   bool bubble3D = false;
-  double explosion = 0;  ///< percent of the radius
-  std::vector<PointModel>
-      palette;  ///< looks of points in varied colours, repeated from its beginning; empty otherwise
-  std::map<std::size_t, PointModel> points;  ///< points with a look of their own, which count from 0
+  double explosion = 0;             ///< percent of the radius
+  std::vector<PointModel> palette;  ///< looks of points in varied colours, used in rotation; empty otherwise
+  std::map<std::size_t, PointModel> points;  ///< points with a look of their own, by index from 0
   LabelsModel labels;
   std::vector<ErrorBars> errorBars;
   std::vector<Trendline> trendlines;
 
-  /// Returns the style of a point, which counts from 0.
+  /// Returns the style of a point by its index, from 0.
   const ShapeStyle& StyleOf(std::size_t point) const;
-  /// Returns the style of a point of a value or size. If that is below zero, the filling may be inverted.
+  /// Returns the style of a point with a value or size. If that is below zero, the filling may be inverted.
   ShapeStyle StyleOf(std::size_t point, double value) const;
-  /// Returns whether the filling of a point of a value is inverted.
+  /// Returns whether the filling of a point with this value is inverted.
   bool IsInverted(std::size_t point, double value) const;
-  /// Returns the marker of a point, which counts from 0.
+  /// Returns the marker of a point by its index, from 0.
   const MarkerModel& MarkerOf(std::size_t point) const;
 };
 
@@ -146,7 +145,7 @@ struct UpDownBars {
   ShapeStyle up, down;    ///< the last series above the first, or below it
 };
 
-/// What neighbouring categories have in common, on an outer level.
+/// Neighbouring categories that have one text in common, on an outer level.
 struct CategoryGroup {
   std::size_t first = 0,
               end = 0;  ///< the categories from `first` up to but not including `end`; they count from 0
@@ -175,7 +174,7 @@ enum class Grouping : std::uint8_t { kStandard, kClustered, kStacked, kPercent }
 /// A band of values on a surface, which has a colour of its own.
 struct SurfaceBand {
   double from = 0, to = 0;
-  ShapeStyle style;  ///< of lines alone the stroke
+  ShapeStyle style;  ///< a wireframe uses only the stroke
 };
 
 struct GroupModel {
@@ -183,7 +182,7 @@ struct GroupModel {
   Family family = Family::kBar;
   Grouping grouping = Grouping::kStandard;
   bool is3D = false;
-  bool horizontal = false;             ///< bars that lie
+  bool horizontal = false;             ///< horizontal bars
   bool filled = false;                 ///< a radar chart that is drawn as areas
   bool varyColors = false;             ///< points differ in colour
   bool markersOnly = false;            ///< a scatter chart without lines
@@ -192,7 +191,7 @@ struct GroupModel {
   double holeSize = 10;                ///< percent
   double bubbleScale = 100;            ///< percent
   bool showNegativeBubbles = false;
-  bool sizeIsWidth = false;  ///< else the area of a bubble is its size
+  bool sizeIsWidth = false;  ///< the size is the width of a bubble, otherwise its area
   std::optional<Stroke> dropLines, highLowLines;
   std::optional<UpDownBars> upDownBars;
   bool wireframe = false;  ///< a surface of lines
@@ -238,7 +237,7 @@ struct AxisModel {
   bool reversed = false;
   std::optional<double> logBase;      ///< of a logarithmic scale
   xlsx::AxisScale scale;              ///< minimum, maximum and major unit of an axis of values
-  xlsx::AxisSettings settings;        ///< what a person set of the scale
+  xlsx::AxisSettings settings;        ///< the parts of the scale that a person set
   xlsx::DataExtent extent;            ///< of the data along an axis of values
   std::optional<double> minorUnit;    ///< nothing if it is automatic
   FormatPointer format;               ///< of the tick labels
@@ -253,7 +252,7 @@ struct AxisModel {
   std::optional<double> crossesAt;   ///< value or category from 1 where it crosses that axis
   bool crossesBetween = true;  ///< the axis of values crosses this one between categories, not on a category
   long long labelSkip = 0,
-            tickSkip = 1;  ///< every so many categories have a label or mark; 0 if Excel decides
+            tickSkip = 1;  ///< categories from one label or mark to the next; 0: automatic
   DisplayUnits units;
   std::vector<std::string> categories;     ///< of the group that has most of them
   std::vector<CategoryLevel> outerLevels;  ///< from the innermost to the outermost
@@ -269,9 +268,9 @@ struct AxisModel {
 struct LegendEntry {
   std::string text;
   TextStyle style;
-  int series = 0, point = 0;  ///< from 1; point is 0 where the entry is of a series
-  int trendline = 0;          ///< the number of the series' trendline that it is of, from 1
-  int band = 0;               ///< the number of the surface's band that it is of, from 1
+  int series = 0, point = 0;  ///< from 1; point is 0 in the entry of a series
+  int trendline = 0;          ///< the trendline of the series, from 1; 0 for other entries
+  int band = 0;               ///< the band of the surface, from 1; 0 for other entries
 };
 /// The legend.
 struct LegendModel {
@@ -312,7 +311,7 @@ struct ChartModel {
   bool Is3D() const;
   /// Returns whether all groups are pies or doughnuts.
   bool IsRound() const;
-  /// Returns the series of a number, which counts from 1 in plot order. Returns null if there is none.
+  /// Returns the series with a number, from 1 in plot order, or null if there is none.
   const SeriesModel* FindSeries(int number) const;
   /// Returns the group of a series by its number, or null if there is none.
   const GroupModel* GroupOfSeries(int number) const;

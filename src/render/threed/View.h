@@ -5,7 +5,7 @@
 
 namespace plotsmith::render {
 
-/// How a chart in 3-D is looked at (c:view3D).
+/// The direction and perspective from which a 3-D chart is seen (c:view3D).
 struct View {
   double elevation = 15;    ///< degrees from -90 to 90; positive for a view from above (rotX)
   double rotation = 20;     ///< degrees from 0 to 360; right sides are visible between 0 and 180 (rotY)

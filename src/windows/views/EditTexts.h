@@ -13,7 +13,7 @@ enum class Lines { kOne, kSeveral };
 /// blanks; in a box of several lines, line breaks become CR LF and tabs are kept.
 std::wstring Typeable(std::wstring text, Lines lines);
 
-/// Handles the messages for which a form needs another behaviour than that of an edit control; returns false
+/// Handles the messages to which a form reacts differently from a standard edit control. Returns false
 /// for all others. A text of several lines that is pasted into a box of one line isn't cut after the first
 /// line. Text that doesn't fit is left out with a beep, and so is a trailing surrogate without a leading one.
 /// Ctrl+A selects everything.

@@ -11,7 +11,7 @@
 namespace plotsmith::xlsx {
 
 /// Replaces the cells of a sheet's part. `sheetData` makes the element, with the prefix of the part's
-/// elements.
+/// elements. `used` is the new range of the `dimension` element, if the part has one.
 void ReplaceSheetData(std::string& part,
                       const std::function<std::string(const std::string& prefix)>& sheetData,
                       const CellRange& used);

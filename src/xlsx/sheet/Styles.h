@@ -47,7 +47,7 @@ class Styles {
   /// Sets an entry of the palette, from 1 to 56.
   void SetPaletteColor(std::int32_t index, std::int32_t color);
 
-  /// The font of the Normal style, which column widths depend on. Its size is in points.
+  /// The name of the Normal style's font. Column widths depend on this font.
   std::string NormalFontName() const;
   /// The size of the Normal style's font in points.
   double NormalFontSize() const;

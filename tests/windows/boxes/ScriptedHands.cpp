@@ -24,7 +24,7 @@ constexpr UINT kTickInterval = 10;  // milliseconds
 
 ScriptedHands* theHands = nullptr;  // A timer has no user data.
 
-/// A form with the visible controls of a window and their states, for the script.
+/// A form with the controls of a window and their states, for the script.
 class SeenForm final : public forms::Form {
  public:
   explicit SeenForm(const forms::FormState& state) : Form(state.name.c_str()) {

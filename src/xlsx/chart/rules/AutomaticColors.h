@@ -19,7 +19,7 @@ bool HasDarkArea(ChartPart& part);
 std::int32_t AutomaticChartArea(ChartPart& part);
 std::int32_t AutomaticPlotArea(ChartPart& part);
 ///@}
-/// The colour of texts where nothing is set.
+/// The colour of texts that have no colour in the file.
 std::int32_t AutomaticTextColor(ChartPart& part);
 /// The colour of a series without its own fill. It depends on the series' number, the chart's style and the
 /// theme.

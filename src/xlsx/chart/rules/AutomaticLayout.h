@@ -11,11 +11,11 @@ class ChartPart;
 // Excel's layout is not documented. With these constants, the layout of simple charts differs from Excel's by
 // a few points at most.
 inline constexpr double kChartInset = 7;      ///< the margin inside the edge of a chart
-inline constexpr double kTitlePadding = 7.2;  ///< above and below a title's text together
-inline constexpr double kTitleShare = 0.8;    ///< of the chart's width, at which a title is wrapped
+inline constexpr double kTitlePadding = 7.2;  ///< sum of the padding above and below a title's text
+inline constexpr double kTitleShare = 0.8;    ///< share of the chart's width at which a title is wrapped
 inline constexpr double kTitleGap = 5;        ///< between the chart's title and the plot area
 inline constexpr double kLabelGap = 5;        ///< between an axis and its labels
-/// The least share of the chart that the plot area takes.
+/// The minimum share of the chart's width and height that the plot area takes.
 inline constexpr double kLeastShare = 0.1;
 
 /// The space at the four sides of a rectangle, in points.
