@@ -120,6 +120,17 @@ S LevelsXml(int count, const std::vector<std::vector<std::pair<int, S>>>& levels
   return xml + "</c:multiLvlStrCache></c:multiLvlStrRef></c:cat>";
 }
 
+TEST_F(AxesTest, TextsOfLevelsAreRepeatedWithinBounds) {
+  for (const auto& [length, prefix] : {std::pair<std::size_t, S>(10, S(10, 'x') + " "), {20'000, ""}}) {
+    const S levels = LevelsXml(1000, {{{0, "first"}}, {{0, S(length, 'x')}}});
+    const Drawing drawing =
+        Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"bar\"/>", SeriesXml(0, {1}, "", "", levels)) +
+                     AxesXml("<c:noMultiLvlLbl val=\"1\"/>", "", true)),
+             "", 2000, 20'000);
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1).front(), prefix + "first") << length;
+  }
+}
+
 TEST_F(AxesTest, CategoriesOfSeveralLevelsHaveARowForEach) {
   const S levels = LevelsXml(
       4, {{{0, "Q1"}, {1, "Q2"}, {2, "Q1"}, {3, "Q2"}}, {{0, "2023"}, {2, "2024"}}, {{0, S(90, 'x')}}});

@@ -343,6 +343,27 @@ TEST_F(LayoutTest, PicturesAsFillingsAreStretchedOrTiledInsideOfTheirShapes) {
   }
 }
 
+TEST_F(LayoutTest, OnlyPicturesAndShapesOnAChartNeedTheWorkbookToBeDrawn) {
+  const S named = " xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\"";
+  const S picture = "<c:spPr" + named + "><a:blipFill><a:blip r:embed=\"rId1\"/></a:blipFill></c:spPr>";
+  const struct {
+    const char* what;
+    S series, behind;
+    bool needs;
+  } cases[] = {{"nothing", "", "", false},
+               {"a solid filling", "<c:spPr><a:solidFill/></c:spPr>", "", false},
+               // The relationships don't exist, so their types can't decide.
+               {"a picture", picture, "", true},
+               {"shapes", "", "<c:userShapes" + named + " r:id=\"rId7\"/>", true}};
+  for (const auto& test : cases) {
+    OpenChart(ChartPartXml(PlotXml(GroupXml("barChart", "", SeriesXml(0, {2}, test.series)) + AxesXml()),
+                           test.behind));
+    render::UndrawnChart chart(*Book().Chart("/xl/charts/chart1.xml"), 384, 270, notes_);
+    EXPECT_EQ(chart.NeedsWorkbook(), test.needs) << test.what;
+    EXPECT_EQ(ItemsOf(std::move(chart).Draw(SharedFonts(), notes_), Role::kBar).size(), 1u) << test.what;
+  }
+}
+
 TEST_F(LayoutTest, ATitleWithoutACacheHasTheTextOfItsCell) {
   const Drawing drawing =
       DrawColumns("", "", "<c:title><c:tx><c:strRef><c:f>Sheet1!$A$1</c:f></c:strRef></c:tx></c:title>");

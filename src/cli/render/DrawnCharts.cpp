@@ -24,6 +24,11 @@ struct DrawnChart {
   bool isDrawn = false;
 };
 
+void NoteUnreadable(DrawnChart& drawn) {
+  drawn.notes.emplace_back("The chart can't be read; nothing is drawn.");
+  drawn.isDrawn = false;
+}
+
 /// Reads a chart, or notes that there is nothing to draw. A chart that needs the workbook is drawn at once.
 void Read(xlsx::Workbook& workbook, const excel::Ref<excel::Chart>& chart, DrawnChart& drawn) {
   if (!chart) {
@@ -43,14 +48,18 @@ void Read(xlsx::Workbook& workbook, const excel::Ref<excel::Chart>& chart, Drawn
     });
     drawn.isDrawn = true;
   } catch (const runtime::RuntimeError&) {
-    drawn.notes.emplace_back("The chart can't be read; nothing is drawn.");
+    NoteUnreadable(drawn);
   }
 }
 
 /// Returns the drawing of a chart that was read.
 std::vector<render::Drawing> Draw(DrawnChart& drawn) {
   if (drawn.read) {
-    drawn.pages.push_back(std::move(*drawn.read).Draw(LoadPainter().Measure(), drawn.notes));
+    try {
+      drawn.pages.push_back(std::move(*drawn.read).Draw(LoadPainter().Measure(), drawn.notes));
+    } catch (const runtime::RuntimeError&) {
+      NoteUnreadable(drawn);
+    }
     drawn.read.reset();
   }
   return std::exchange(drawn.pages, {});

@@ -41,7 +41,7 @@ void WriteFile(const std::string& name, const std::string& bytes) {
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
   if (!file) {
-    error.assign(errno, std::generic_category());
+    error.assign(errno != 0 ? errno : EIO, std::generic_category());
   } else if (isThere) {
     fs::resize_file(path, bytes.size(), error);
   }

@@ -83,12 +83,14 @@ void HideAxesWithoutGroups(ChartModel& chart) {
   }
 }
 
+bool IsPictureFill(pugi::xml_node node) { return xlsx::xml::Is(node, "blipFill"); }
+
 /// Notes fillings that aren't drawn.
-void NoteMissingLooks(Canvas& canvas, xlsx::ChartPart& part) {
+void NoteMissingLooks(Canvas& canvas, xlsx::ChartPart& part, bool hasPictures) {
   const auto isMissing = [&](pugi::xml_node node) {
-    return xlsx::xml::Is(node, "blipFill") && !IsDrawableImage(Palette(part).Picture(node));
+    return IsPictureFill(node) && !IsDrawableImage(Palette(part).Picture(node));
   };
-  if (part.Space().find_node(isMissing)) {
+  if (hasPictures && part.Space().find_node(isMissing)) {
     canvas.Note(
         "A picture as a filling isn't drawn, as it is no PNG; what has it is in its automatic colour.");
   }
@@ -162,6 +164,7 @@ UndrawnChart::UndrawnChart(xlsx::ChartPart& part, double width, double height, N
   part.Theme();  // The theme is read when it is first asked for, which is no work for several threads.
   *chart_ = ReadChart(part, notes);
   HideAxesWithoutGroups(*chart_);
+  hasPictures_ = bool(part.Space().find_node(IsPictureFill));
 }
 
 UndrawnChart::UndrawnChart(UndrawnChart&&) noexcept = default;
@@ -169,10 +172,7 @@ UndrawnChart& UndrawnChart::operator=(UndrawnChart&&) noexcept = default;
 UndrawnChart::~UndrawnChart() = default;
 
 bool UndrawnChart::NeedsWorkbook() const {
-  const auto& links = part_->Book().Package().Relationships(part_->Part());
-  return std::any_of(links.begin(), links.end(), [](const xlsx::Relationship& link) {
-    return link.type == "image" || link.type == "chartUserShapes";
-  });
+  return hasPictures_ || xlsx::xml::Child(part_->Space(), "userShapes");
 }
 
 Drawing UndrawnChart::Draw(const TextMeasure& measure, Notes& notes) && {
@@ -191,7 +191,7 @@ Drawing UndrawnChart::Draw(const TextMeasure& measure, Notes& notes) && {
   if (layout.legend) DrawLegend(canvas, chart, *layout.legend);
   DrawUserShapes(part, canvas);
   NoteMissing(canvas, chart);
-  NoteMissingLooks(canvas, part);
+  NoteMissingLooks(canvas, part, hasPictures_);
   Describe(chart, drawing);
   return drawing;
 }

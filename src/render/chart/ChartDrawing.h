@@ -37,6 +37,7 @@ class UndrawnChart {
   xlsx::ChartPart* part_;
   double width_, height_;
   std::unique_ptr<ChartModel> chart_;
+  bool hasPictures_ = false;  ///< Whether a filling is a picture.
 };
 
 /// Reads and draws a chart.

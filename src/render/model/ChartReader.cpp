@@ -44,13 +44,18 @@ void LayAcross(const GroupModel& group, AxisModel& category, AxisModel& value) {
   value.side = group.horizontal ? Side::kBottom : Side::kLeft;
 }
 
-/// Gives an axis the categories of a group. If the axis shows no levels, the texts of all levels become one.
+/// Gives an axis the categories of a group. If the axis shows no levels, the texts of all levels become one,
+/// as far as they take a bounded number of bytes: a text of a level is repeated for each of its categories.
 void TakeCategories(const GroupModel& group, AxisModel& axis) {
   axis.categories = group.categories;
   axis.outerLevels = group.outerLevels;
   if (!schema::BooleanVal(axis.node, "noMultiLvlLbl", false)) return;
+  std::size_t bytesLeft = 16 << 20;
   for (const CategoryLevel& level : std::exchange(axis.outerLevels, {})) {
     for (const CategoryGroup& one : level) {
+      const std::size_t bytes = (one.text.size() + 1) * (one.end - one.first);
+      if (bytes > bytesLeft) return;
+      bytesLeft -= bytes;
       for (std::size_t i = one.first; i < one.end; ++i) axis.categories[i].insert(0, one.text + " ");
     }
   }

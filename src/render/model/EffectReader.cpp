@@ -45,9 +45,10 @@ double LeanOf(pugi::xml_node node, const char* name) {
 
 /// The point of the bounds that an alignment (ST_RectAlignment) names.
 Point FixedPointOf(std::string_view alignment) {
+  if (alignment == "ctr") return {0.5, 0.5};
   const double x = alignment.ends_with('l') ? 0 : alignment.ends_with('r') ? 1 : 0.5;
   const double y = alignment.starts_with('t') ? 0 : alignment.starts_with('b') ? 1 : 0.5;
-  return {x, alignment == "ctr" ? 0.5 : y};
+  return {x, y};
 }
 
 }  // namespace

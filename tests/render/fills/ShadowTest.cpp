@@ -64,6 +64,21 @@ TEST_F(ShadowTest, MayBeLargerAndLean) {
   EXPECT_NEAR(cast.Right(), own.Center().x + own.width, 1e-9);
 }
 
+TEST_F(ShadowTest, GrowsAboutThePointOfItsAlignment) {
+  const struct {
+    const char* alignment;
+    double x, y;  // of the point, in shares of the shape
+  } cases[] = {{"tl", 0, 0},  {"t", 0.5, 0}, {"tr", 1, 0},  {"l", 0, 0.5}, {"ctr", 0.5, 0.5},
+               {"r", 1, 0.5}, {"bl", 0, 1},  {"b", 0.5, 1}, {"br", 1, 1}};
+  for (const auto& test : cases) {
+    const Drawing drawing =
+        Draw(ColumnsXml(ShadowedXml(S("sx=\"200000\" sy=\"200000\" algn=\"") + test.alignment + "\"")));
+    const render::Rect own = BoxesOf(drawing, Role::kBar)[0], cast = BoxesOf(drawing, Role::kShadow)[0];
+    EXPECT_NEAR(cast.left, own.left - test.x * own.width, 1e-9) << test.alignment;
+    EXPECT_NEAR(cast.top, own.top - test.y * own.height, 1e-9) << test.alignment;
+  }
+}
+
 TEST_F(ShadowTest, IsThrownByEveryPartOfAChart) {
   const S shadow = ShadowedXml("dist=\"38100\"");
   const S labels = "<c:dLbls>" + shadow + "<c:showVal val=\"1\"/></c:dLbls>";
