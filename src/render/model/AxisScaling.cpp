@@ -5,6 +5,7 @@
 #include <span>
 #include <vector>
 
+#include "render/model/ChartReader.h"
 #include "xlsx/chart/rules/DataExtent.h"
 
 namespace plotsmith::render {

@@ -213,7 +213,8 @@ class SurfacePainter {
     std::vector<Path> paths(bands_.size());
     const auto add = [&](const Corner& a, const Corner& b) {
       for (const Band& band : bands_) {
-        const auto [low, high] = a.value <= b.value ? std::pair(a, b) : std::pair(b, a);
+        const bool rises = a.value <= b.value;
+        const Corner &low = rises ? a : b, &high = rises ? b : a;
         if (high.value < band.from || low.value > band.to) continue;
         const double rise = high.value - low.value;
         const auto at = [&](double value) {
