@@ -174,12 +174,12 @@ TEST_F(AnalysisTest, CurvesAreFoundByLeastSquares) {
       {TrendKind::kExponential, 2, 3.0, points([](double x) { return 3 * std::exp(-0.5 * x); }),
        "y = 3e^-0.5x", 1},
       {TrendKind::kPower, 2, {}, points([](double x) { return 5 * std::pow(x, 1.5); }), "y = 5x^1.5", 1},
-      {TrendKind::kPolynomial, 2, {}, points([](double x) { return -x * x + 4 * x; }), "y = -1x² + 4x", 1},
+      {TrendKind::kPolynomial, 2, {}, points([](double x) { return -x * x + 4 * x; }), "y = -x² + 4x", 1},
       {TrendKind::kPolynomial,
        6,
        {},
        points([](double x) { return std::pow(x, 6) - 2 * x * x + 1; }),
-       "y = 1x⁶ - 2x² + 1",
+       "y = x⁶ - 2x² + 1",
        1},
   };
   for (const auto& test : kCases) {
@@ -211,6 +211,11 @@ TEST_F(AnalysisTest, NoCurveIsFoundWithoutEnoughPoints) {
       {TrendKind::kPolynomial, 4, {1, 2, 3, 4}, {1, 2, 3, 4}},
       {TrendKind::kExponential, 1, {1, 2}, {-1, 0}},
       {TrendKind::kPower, 1, {0, -1}, {1, 2}},
+      // one point without a logarithm is enough
+      {TrendKind::kExponential, 1, {1, 2, 3}, {1, 2, 0}},
+      {TrendKind::kPower, 1, {1, 2, 3}, {1, -2, 3}},
+      {TrendKind::kPower, 1, {0, 2, 3}, {1, 2, 3}},
+      {TrendKind::kLogarithmic, 1, {-1, 2, 3}, {1, 2, 3}},
       {TrendKind::kLinear, 1, {kNoValue, 1}, {1, kNoValue}},
       {TrendKind::kMovingAverage, 1, {1, 2}, {1, 2}},
   };
@@ -223,7 +228,8 @@ TEST_F(AnalysisTest, NoCurveIsFoundWithoutEnoughPoints) {
 TEST_F(AnalysisTest, NumbersInEquationsHaveFiveDigits) {
   const std::pair<double, S> kCases[] = {{0.942857, "0.9429"}, {14.28571, "14.286"}, {103.5714, "103.57"},
                                          {123456.7, "123457"}, {-2, "-2"},           {0, "0"},
-                                         {0.00021, "0.0002"},  {1e9, "1000000000"},  {0.00002, "2E-05"},
+                                         {0.00021, "0.0002"},  {999999.4, "999999"}, {999999.6, "1E+06"},
+                                         {-3.2e6, "-3E+06"},   {1e9, "1E+09"},       {0.00002, "2E-05"},
                                          {9.7e-6, "1E-05"},    {-3e12, "-3E+12"},    {1e300, "1E+300"},
                                          {kNoValue, "?"}};
   for (const auto& [number, text] : kCases) EXPECT_EQ(render::EquationNumber(number), text);
@@ -311,6 +317,38 @@ TEST_F(AnalysisTest, ManyTrendlinesThroughManyPointsAreLimited) {
   EXPECT_EQ(notes_,
             (render::Notes{"The chart has more trendlines through many points than are drawn; the rest is "
                            "left out."}));
+}
+
+TEST_F(AnalysisTest, TheLimitOfTrendlinesEndsNothingElse) {
+  S trends;
+  for (int i = 0; i < 400; ++i) trends += TrendXml("movingAvg", "<c:period val=\"100\"/>");
+  const S bars = "<c:upDownBars><c:upBars/><c:downBars/></c:upDownBars>";
+  const S later = TrendXml("linear") + ErrorBarsXml("fixedVal", "1");
+  const Drawing drawing =
+      Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>",
+                            SeriesXml(0, Numbers(5000, 1), trends) + SeriesXml(1, Numbers(1000, 2), trends)) +
+                   GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
+                            SeriesXml(2, {1, 2}, later) + SeriesXml(3, {3, 4}), bars) +
+                   AxesXml()));
+  EXPECT_EQ(ItemsOf(drawing, Role::kErrorBar).size(), 2u);
+  EXPECT_EQ(ItemsOf(drawing, Role::kUpDownBar).size(), 2u);
+  EXPECT_EQ(notes_,
+            (render::Notes{"The chart has more trendlines through many points than are drawn; the rest is "
+                           "left out."}));
+}
+
+TEST_F(AnalysisTest, ManyLegendEntriesTakeLittleTime) {
+  const auto start = std::chrono::steady_clock::now();
+  S trends, entries;
+  for (int i = 0; i < 30'000; ++i) {
+    trends += TrendXml("linear");
+    entries += "<c:legendEntry><c:idx val=\"" + std::to_string(i + 1) + "\"/>" +
+               (i % 20 == 0 ? "" : "<c:delete val=\"1\"/>") + "</c:legendEntry>";
+  }
+  const Drawing drawing = DrawGroup("barChart", "<c:barDir val=\"col\"/>", SeriesXml(0, {1, 2}, trends), "",
+                                    "<c:legend>" + entries + "</c:legend>");
+  EXPECT_FALSE(TextsOf(drawing, Role::kLegendEntry).empty());
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
 }
 
 TEST_F(AnalysisTest, WildNumbersTakeLittleTime) {

@@ -1,9 +1,10 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <map>
 
-#include "render/model/DateSlots.h"
 #include "render/model/ChartReader.h"
+#include "render/model/DateSlots.h"
 #include "xlsx/book/BookContext.h"
 #include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/drawing/DrawingSchema.h"
@@ -20,6 +21,10 @@ constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
 constexpr Stroke kThinLine = {Color{0, 0, 0, 1}, 0.75};
 constexpr long long kLongestPeriod = 255;  // points of a moving average
 constexpr double kMostFittedPoints = 4e6;  // by all trendlines of a chart
+
+void AddOnce(Notes& notes, const std::string& sentence) {
+  if (std::find(notes.begin(), notes.end(), sentence) == notes.end()) notes.push_back(sentence);
+}
 
 /// What of a series counts as x for a trendline, and what is taken from that for the number along the axis.
 struct TrendPlaces {
@@ -215,11 +220,7 @@ Trendline ReadTrendline(ReadingContext& context, const ChartModel& chart, const 
   const auto curve =
       FitTrend(line.kind, order, schema::NumberVal(node, "intercept"), places.x, series.values);
   if (!curve) {
-    const std::string sentence =
-        "A trendline isn't drawn, as its series has no points for a line of its kind.";
-    if (std::find(context.notes.begin(), context.notes.end(), sentence) == context.notes.end()) {
-      context.notes.push_back(sentence);
-    }
+    AddOnce(context.notes, "A trendline isn't drawn, as its series has no points for a line of its kind.");
     return line;
   }
   double least = std::numeric_limits<double>::infinity(), greatest = -least;
@@ -235,21 +236,6 @@ Trendline ReadTrendline(ReadingContext& context, const ChartModel& chart, const 
   AddCurve(*curve, least - line.backward, greatest + line.forward, isLogarithmic, line);
   ReadLabel(context, node, *curve, line);
   return line;
-}
-
-/// Whether Excel has error bars and trendlines for series of a group.
-bool CanBeAnalysed(const GroupModel& group) {
-  switch (group.family) {
-    case Family::kArea:
-    case Family::kBar:
-    case Family::kLine:
-    case Family::kScatter:
-    case Family::kBubble:
-    case Family::kStock:
-      return !group.is3D;
-    default:
-      return false;
-  }
 }
 
 /// Adds empty categories to an axis that a trendline is extended along.
@@ -291,7 +277,7 @@ void ReadAnalysis(ReadingContext& context, ChartModel& chart) {
   double fittedPoints = 0;
   for (GroupModel& group : chart.groups) {
     if (group.family == Family::kLine || group.family == Family::kStock) ReadUpDownBars(context, group);
-    if (!CanBeAnalysed(group)) continue;
+    if (!group.CanHaveErrorBars()) continue;
     for (SeriesModel& series : group.series) {
       constexpr std::size_t kMostErrorBars = 2;  // one in each direction
       for (const pugi::xml_node& node : xml::Children(series.node, "errBars")) {
@@ -299,13 +285,13 @@ void ReadAnalysis(ReadingContext& context, ChartModel& chart) {
           series.errorBars.push_back(ReadErrorBars(context, node, series));
         }
       }
-      if (group.IsStacked()) continue;  // Excel has no trendlines of piles
+      if (!group.CanHaveTrendlines()) continue;
       for (const pugi::xml_node& node : xml::Children(series.node, "trendline")) {
         fittedPoints += CostOf(node, series);
         if (fittedPoints > kMostFittedPoints) {
-          context.notes.push_back(
-              "The chart has more trendlines through many points than are drawn; the rest is left out.");
-          return;
+          AddOnce(context.notes,
+                  "The chart has more trendlines through many points than are drawn; the rest is left out.");
+          break;
         }
         series.trendlines.push_back(ReadTrendline(context, chart, group, series, node));
         ExtendCategories(group, series.trendlines.back(), chart);
@@ -342,11 +328,17 @@ void AddTrendlineEntries(ReadingContext& context, ChartModel& chart) {
   const bool hasPoints = std::any_of(legend.entries.begin(), legend.entries.end(),
                                      [](const LegendEntry& entry) { return entry.point > 0; });
   if (hasPoints && !chart.groups.empty()) number = chart.groups.front().PointCount();
+  std::map<std::size_t, pugi::xml_node> owns;  // by their numbers; the first of a number counts
+  for (const pugi::xml_node& own : xml::Children(node, "legendEntry")) {
+    owns.emplace(static_cast<std::size_t>(schema::IntegerVal(own, "idx", -1)), own);
+  }
   for (const GroupModel& group : chart.groups) {
     for (const SeriesModel& series : group.series) {
       int count = 0;
       for (const Trendline& line : series.trendlines) {
-        const auto own = schema::FindNumbered(node, "legendEntry", static_cast<long long>(number++));
+        if (legend.entries.size() >= kMostLegendEntries) return;
+        const auto found = owns.find(number++);
+        const pugi::xml_node own = found == owns.end() ? pugi::xml_node() : found->second;
         ++count;
         if (schema::BooleanVal(own, "delete", false)) continue;
         LegendEntry entry{line.name, legend.text, series.number, 0, count};

@@ -46,6 +46,20 @@ const MarkerModel& SeriesModel::MarkerOf(std::size_t point) const {
   return varied != nullptr && varied->has_value() ? **varied : marker;
 }
 
+bool GroupModel::CanHaveErrorBars() const {
+  switch (family) {
+    case Family::kArea:
+    case Family::kBar:
+    case Family::kLine:
+    case Family::kScatter:
+    case Family::kBubble:
+    case Family::kStock:
+      return !is3D;
+    default:
+      return false;
+  }
+}
+
 std::size_t GroupModel::PointCount() const {
   std::size_t count = 0;
   for (const SeriesModel& one : series) count = std::max(count, one.values.size());

@@ -210,6 +210,10 @@ struct GroupModel {
   bool IsRound() const {
     return family == Family::kPie || family == Family::kDoughnut || family == Family::kOfPie;
   }
+  /// Returns whether Excel has error bars for the series.
+  bool CanHaveErrorBars() const;
+  /// Returns whether Excel has trendlines for the series, which it hasn't for piles.
+  bool CanHaveTrendlines() const { return CanHaveErrorBars() && !IsStacked(); }
   /// Returns whether points lie at X values instead of categories.
   bool HasXValues() const { return family == Family::kScatter || family == Family::kBubble; }
   /// Returns the number of points of the longest series.

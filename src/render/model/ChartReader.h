@@ -13,6 +13,8 @@ namespace plotsmith::render {
 /// The most points that are drawn of one series, and of all series of a chart. Numbers and texts count alike.
 /// Excel 2007 and older draw at most 32,000 and 256,000.
 inline constexpr std::size_t kMostPoints = 100'000, kMostPointsOfAll = 2'000'000;
+/// The most entries that are read of a legend.
+inline constexpr std::size_t kMostLegendEntries = 2000;
 
 /// What the functions share that read a chart.
 struct ReadingContext {
