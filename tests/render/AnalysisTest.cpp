@@ -319,6 +319,77 @@ TEST_F(AnalysisTest, ManyTrendlinesThroughManyPointsAreLimited) {
                            "left out."}));
 }
 
+TEST_F(AnalysisTest, ErrorBarsOfSharesAreShares) {
+  const S first = "<c:barDir val=\"col\"/><c:grouping val=\"percentStacked\"/><c:overlap val=\"100\"/>";
+  const S toOne = "<c:scaling><c:max val=\"1\"/><c:min val=\"0\"/></c:scaling>";
+  const Drawing drawing = DrawGroup(
+      "barChart", first, SeriesXml(0, {2, 3}, ErrorBarsXml("fixedVal", "1")) + SeriesXml(1, {2, 2}), toOne);
+  // wholes of 4 and 5, in tenths of the axis
+  EXPECT_EQ(EndsOf(drawing, Role::kErrorBar), (std::vector<std::pair<double, double>>{{7.5, 2.5}, {8, 4}}));
+}
+
+TEST_F(AnalysisTest, DatesGoOnForTrendlines) {
+  S axes = AxesXml();
+  for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "dateAx");
+  const S trend = TrendXml("linear", "<c:forward val=\"4\"/>");
+  const S series = SeriesXml(0, {1, 2, 3}, trend, "", AmountsXml("cat", {45000, 45001, 45002}));
+  const Drawing drawing = Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>", series) + axes));
+  // seven days, of which the last one is the end of the line
+  const Rect plot = BoxOf(drawing, Role::kPlotArea), line = BoxOf(drawing, Role::kTrendline);
+  EXPECT_NEAR(BoxesOf(drawing, Role::kBar)[0].Center().x, plot.left + plot.width / 14, 1e-6);
+  EXPECT_NEAR(line.Right(), plot.Right() - plot.width / 14, 1e-6);
+  EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2).back(), "8");
+}
+
+TEST_F(AnalysisTest, AxesHaveRoomOnlyForWhatIsSeen) {
+  // a line can't go back beyond the first category, and its end there needs no negative values
+  const Drawing drawing = DrawColumns({10, 20, 30}, TrendXml("linear", "<c:backward val=\"9\"/>"), "");
+  EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2).front(), "0");
+}
+
+TEST_F(AnalysisTest, CurvesKeepTheirSlopeWhereTheyLeaveThePlotArea) {
+  const Drawing drawing = DrawColumns({1, 1e3, 1e6, 1e9}, TrendXml("exp"));
+  const Rect plot = BoxOf(drawing, Role::kPlotArea);
+  const auto items = ItemsOf(drawing, Role::kTrendline);
+  ASSERT_EQ(items.size(), 1u);
+  const auto& steps = std::get<PathItem>(items[0].content).path.Steps();
+  EXPECT_GT(steps.size(), 20u);
+  for (const auto& step : steps) {
+    const double x = (step.to.x - plot.left) / plot.width * 4 + 0.5;
+    EXPECT_NEAR((plot.Bottom() - step.to.y) / plot.height * 10, std::pow(1000, x - 1), 1e-6);
+  }
+  EXPECT_NEAR(steps.back().to.y, plot.top - 20, 1e-6);  // where the last of it may be seen
+  // a line that crosses the plot area between two samples
+  const Drawing steep = DrawColumns({-1e9, 1e9}, TrendXml("linear"));
+  const Rect line = BoxOf(steep, Role::kTrendline);
+  EXPECT_NEAR(line.Center().x, plot.Center().x, 1);
+  EXPECT_NEAR(line.height, BoxOf(steep, Role::kPlotArea).height + 40, 0.1);
+}
+
+TEST_F(AnalysisTest, CurvesAreSampledBetweenTheEndsOfTheirAxis) {
+  const auto draw = [&](const S& kind, const S& x, const Numbers& values) {
+    const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>" +
+                     TrendXml(kind, "<c:backward val=\"9\"/>") + AmountsXml("xVal", {1, 10, 100'000}) +
+                     AmountsXml("yVal", values) + "</c:ser>";
+    S axes = AxesXml(x, kZeroToTen);
+    for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "valAx");
+    return Draw(PlotXml(GroupXml("scatterChart", "", series) + axes));
+  };
+  for (const char* kind : {"linear", "log", "power"}) {
+    const Drawing drawing = draw(kind, kZeroToTen, {1, 2, 6});
+    const auto items = ItemsOf(drawing, Role::kTrendline);
+    ASSERT_EQ(items.size(), 1u) << kind;
+    EXPECT_GT(std::get<PathItem>(items[0].content).path.Steps().size(), 50u) << kind;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << kind;
+    EXPECT_NEAR(BoundsOf(items[0]).Right(), BoxOf(drawing, Role::kPlotArea).Right(), 1e-6) << kind;
+    EXPECT_EQ(notes_, render::Notes()) << kind;
+  }
+  const S beyond = "<c:scaling><c:max val=\"300000\"/><c:min val=\"200000\"/></c:scaling>";
+  EXPECT_TRUE(ItemsOf(draw("linear", beyond, {1, 2, 6}), Role::kTrendline).empty());
+  EXPECT_EQ(notes_,
+            (render::Notes{"A trendline isn't drawn, as less than two of its points are on the axes."}));
+}
+
 TEST_F(AnalysisTest, TheLimitOfTrendlinesEndsNothingElse) {
   S trends;
   for (int i = 0; i < 400; ++i) trends += TrendXml("movingAvg", "<c:period val=\"100\"/>");

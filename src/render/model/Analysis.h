@@ -41,6 +41,8 @@ class TrendCurve {
   /// The value at a place. It is not finite where the curve has none.
   double At(double x) const;
   TrendKind Kind() const { return kind_; }
+  /// Whether the curve has values only above an x of zero.
+  bool NeedsPositiveX() const { return kind_ == TrendKind::kLogarithmic || kind_ == TrendKind::kPower; }
   /// Factors of x^0, x^1, ... of the polynomial in logarithmic terms.
   std::vector<double> Factors() const;
   /// The value of the polynomial; the same as the curve's value or its logarithm.

@@ -158,17 +158,6 @@ void AddMovingAverage(const std::vector<double>& x, const std::vector<double>& y
   }
 }
 
-/// The points of a curve from one x to another, equally far from each other.
-void AddCurve(const TrendCurve& curve, double from, double to, bool isLogarithmic, Trendline& line) {
-  constexpr int kSteps = 100;
-  const bool byFactor = isLogarithmic && from > 0 && to > 0;
-  for (int step = 0; step <= kSteps; ++step) {
-    const double share = static_cast<double>(step) / kSteps;
-    const double x = byFactor ? from * std::pow(to / from, share) : from * (1 - share) + to * share;
-    line.points.push_back({x, curve.At(x)});
-  }
-}
-
 void ReadLabel(ReadingContext& context, pugi::xml_node node, const TrendCurve& curve, Trendline& line) {
   const auto label = xml::Child(node, "trendlineLbl");
   const auto format = xml::Child(label, "numFmt");
@@ -231,18 +220,27 @@ Trendline ReadTrendline(ReadingContext& context, const ChartModel& chart, const 
   }
   line.forward = ExtensionOf(node, "forward");
   line.backward = ExtensionOf(node, "backward");
-  const bool isLogarithmic =
-      group.category >= 0 && chart.axes[static_cast<std::size_t>(group.category)].logBase.has_value();
-  AddCurve(*curve, least - line.backward, greatest + line.forward, isLogarithmic, line);
+  line.from = least - line.backward;
+  line.to = greatest + line.forward;
   ReadLabel(context, node, *curve, line);
+  line.curve = curve;
   return line;
+}
+
+/// Adds slots to an axis of dates that a trendline is extended along, but none after the last date of Excel.
+void ExtendDates(const Trendline& line, xlsx::DateSystem system, AxisModel& axis) {
+  DateSlots& dates = *axis.dates;
+  const double most = static_cast<double>(SlotOf(xlsx::kLastSerial, dates.base, system) - dates.first + 1);
+  const double free = axis.crossesBetween ? 0.5 : 0;
+  dates.count = std::max(dates.count, std::min(std::ceil(line.to - line.shift - free), most));
 }
 
 /// Adds empty categories to an axis that a trendline is extended along.
 void ExtendCategories(const GroupModel& group, const Trendline& line, ChartModel& chart) {
-  if (group.category < 0 || group.HasXValues()) return;
+  if (group.category < 0 || group.HasXValues() || !(line.forward > 0)) return;
   AxisModel& axis = chart.axes[static_cast<std::size_t>(group.category)];
-  if (axis.IsOfValues() || axis.dates) return;
+  if (axis.IsOfValues()) return;
+  if (axis.dates) return ExtendDates(line, chart.dates, axis);
   constexpr double kMost = 1000;
   const double free = axis.crossesBetween ? 0.5 : 0;
   const double wanted =
@@ -300,7 +298,24 @@ void ReadAnalysis(ReadingContext& context, ChartModel& chart) {
   }
 }
 
-void AddAnalysisExtent(const GroupModel& group, bool isX, xlsx::DataExtent& extent) {
+namespace {
+
+/// Adds the ends by which a trendline is extended, as far as the axis of X values shows them.
+void AddExtensions(const Trendline& line, const AxisModel* axis, bool isX, xlsx::DataExtent& extent) {
+  if (!line.curve) return;
+  const bool reachesZero = line.curve->NeedsPositiveX() && !(line.from > 0);
+  const auto seen = isX ? std::pair(line.from, line.to) : SeenPart(line, axis).value_or(std::pair(0.0, 0.0));
+  if (!(seen.second > seen.first)) return;
+  const auto add = [&](double x) { extent.Add(isX ? x : line.curve->At(x)); };
+  if (line.backward > 0 && !reachesZero) add(seen.first);
+  if (line.forward > 0) add(seen.second);
+}
+
+}  // namespace
+
+void AddAnalysisExtent(const ChartModel& chart, const GroupModel& group, bool isX, xlsx::DataExtent& extent) {
+  const AxisModel* axis =
+      group.category < 0 ? nullptr : &chart.axes[static_cast<std::size_t>(group.category)];
   for (const SeriesModel& series : group.series) {
     const std::vector<double>& numbers = isX ? series.x : series.values;
     for (const ErrorBars& bars : series.errorBars) {
@@ -310,12 +325,7 @@ void AddAnalysisExtent(const GroupModel& group, bool isX, xlsx::DataExtent& exte
         extent.Add(numbers[i] + bars.to[i]);
       }
     }
-    for (const Trendline& line : series.trendlines) {
-      if (line.points.empty()) continue;
-      const auto add = [&](Point point) { extent.Add(isX ? point.x : point.y); };
-      if (line.backward > 0) add(line.points.front());
-      if (line.forward > 0) add(line.points.back());
-    }
+    for (const Trendline& line : series.trendlines) AddExtensions(line, axis, isX, extent);
   }
 }
 

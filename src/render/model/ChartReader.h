@@ -57,8 +57,9 @@ void ReadAnalysis(ReadingContext& context, ChartModel& chart);
 void ReadDataTable(ReadingContext& context, pugi::xml_node plotArea, ChartModel& chart);
 /// Reads surfaces, whose axes are scaled, and gives their bands to the legend.
 void ReadSurfaces(ReadingContext& context, ChartModel& chart);
-/// Adds what error bars and extended trendlines need of an axis.
-void AddAnalysisExtent(const GroupModel& group, bool isX, xlsx::DataExtent& extent);
+/// Adds what error bars and extended trendlines need of an axis. The axis of X values must be scaled before
+/// that of values.
+void AddAnalysisExtent(const ChartModel& chart, const GroupModel& group, bool isX, xlsx::DataExtent& extent);
 /// Adds the entries of trendlines to the legend.
 void AddTrendlineEntries(ReadingContext& context, ChartModel& chart);
 /// Lays the categories of an axis of dates (c:cat) out by their dates; leaves it as one of categories where
