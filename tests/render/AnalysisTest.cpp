@@ -390,6 +390,37 @@ TEST_F(AnalysisTest, CurvesAreSampledBetweenTheEndsOfTheirAxis) {
             (render::Notes{"A trendline isn't drawn, as less than two of its points are on the axes."}));
 }
 
+TEST_F(AnalysisTest, SaysWhatIsNotDrawn) {
+  const S longest = "A moving average isn't drawn, as its period isn't shorter than its series.";
+  const S shadow =
+      "<c:spPr><a:effectLst><a:outerShdw><a:srgbClr val=\"000000\"/></a:outerShdw></a:effectLst></c:spPr>";
+  const auto average = [](int period) {
+    return TrendXml("movingAvg", "<c:period val=\"" + std::to_string(period) + "\"/>");
+  };
+  S shadowed = ErrorBarsXml("fixedVal", "1");
+  shadowed.insert(shadowed.size() - S("</c:errBars>").size(), shadow);
+  struct {
+    S more, axis;
+    render::Notes notes;
+  } const kCases[] = {
+      {average(2), "", {}},
+      {average(3), "", {longest}},
+      {average(4) + average(5), "", {longest}},
+      {ErrorBarsXml("fixedVal", "1", "<c:errDir val=\"x\"/>"),
+       "",
+       {"Error bars along an axis of categories aren't drawn."}},
+      {shadowed, "", {"Shadows of error bars aren't drawn."}},
+      {"", "<c:majorGridlines>" + shadow + "</c:majorGridlines>", {"Shadows of gridlines aren't drawn."}},
+      {"", shadow, {"Shadows of axes aren't drawn."}},
+  };
+  for (const auto& test : kCases) {
+    const Drawing drawing = DrawGroup("lineChart", "<c:grouping val=\"standard\"/>",
+                                      SeriesXml(0, {1, 2, 3}, test.more), test.axis);
+    EXPECT_EQ(notes_, test.notes) << test.more;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.more;
+  }
+}
+
 TEST_F(AnalysisTest, TheLimitOfTrendlinesEndsNothingElse) {
   S trends;
   for (int i = 0; i < 400; ++i) trends += TrendXml("movingAvg", "<c:period val=\"100\"/>");

@@ -201,6 +201,10 @@ Trendline ReadTrendline(ReadingContext& context, const ChartModel& chart, const 
   const TrendPlaces places = PlacesOf(chart, group, series);
   line.shift = places.shift;
   if (line.kind == TrendKind::kMovingAverage) {
+    if (line.period >= series.values.size()) {
+      AddOnce(context.notes, "A moving average isn't drawn, as its period isn't shorter than its series.");
+      return line;
+    }
     AddMovingAverage(places.x, series.values, line);
     return line;
   }
@@ -279,7 +283,9 @@ void ReadAnalysis(ReadingContext& context, ChartModel& chart) {
     for (SeriesModel& series : group.series) {
       constexpr std::size_t kMostErrorBars = 2;  // one in each direction
       for (const pugi::xml_node& node : xml::Children(series.node, "errBars")) {
-        if (series.errorBars.size() < kMostErrorBars) {
+        if (!group.HasXValues() && schema::Val(node, "errDir", "y") == "x") {
+          AddOnce(context.notes, "Error bars along an axis of categories aren't drawn.");
+        } else if (series.errorBars.size() < kMostErrorBars) {
           series.errorBars.push_back(ReadErrorBars(context, node, series));
         }
       }

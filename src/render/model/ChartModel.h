@@ -306,7 +306,9 @@ struct LegendModel {
 struct DataTable {
   int axis = 0;  ///< index of the axis of categories that it is below
   bool horizontalLines = false, verticalLines = false, outline = false;
-  bool keys = false;  ///< legend keys beside the names of the series
+  bool keys = false;       ///< legend keys beside the names of the series
+  std::string tickLabels;  ///< AxisModel::tickLabels and crossesBetween of the axis without the table
+  bool crossesBetween = false;
   Stroke stroke;
   TextStyle text;
 };
