@@ -174,12 +174,12 @@ TEST_F(AnalysisTest, CurvesAreFoundByLeastSquares) {
       {TrendKind::kExponential, 2, 3.0, points([](double x) { return 3 * std::exp(-0.5 * x); }),
        "y = 3e^-0.5x", 1},
       {TrendKind::kPower, 2, {}, points([](double x) { return 5 * std::pow(x, 1.5); }), "y = 5x^1.5", 1},
-      {TrendKind::kPolynomial, 2, {}, points([](double x) { return -x * x + 4 * x; }), "y = -1x² + 4x", 1},
+      {TrendKind::kPolynomial, 2, {}, points([](double x) { return -x * x + 4 * x; }), "y = -x² + 4x", 1},
       {TrendKind::kPolynomial,
        6,
        {},
        points([](double x) { return std::pow(x, 6) - 2 * x * x + 1; }),
-       "y = 1x⁶ - 2x² + 1",
+       "y = x⁶ - 2x² + 1",
        1},
   };
   for (const auto& test : kCases) {
@@ -211,6 +211,11 @@ TEST_F(AnalysisTest, NoCurveIsFoundWithoutEnoughPoints) {
       {TrendKind::kPolynomial, 4, {1, 2, 3, 4}, {1, 2, 3, 4}},
       {TrendKind::kExponential, 1, {1, 2}, {-1, 0}},
       {TrendKind::kPower, 1, {0, -1}, {1, 2}},
+      // one point without a logarithm is enough
+      {TrendKind::kExponential, 1, {1, 2, 3}, {1, 2, 0}},
+      {TrendKind::kPower, 1, {1, 2, 3}, {1, -2, 3}},
+      {TrendKind::kPower, 1, {0, 2, 3}, {1, 2, 3}},
+      {TrendKind::kLogarithmic, 1, {-1, 2, 3}, {1, 2, 3}},
       {TrendKind::kLinear, 1, {kNoValue, 1}, {1, kNoValue}},
       {TrendKind::kMovingAverage, 1, {1, 2}, {1, 2}},
   };
@@ -223,7 +228,8 @@ TEST_F(AnalysisTest, NoCurveIsFoundWithoutEnoughPoints) {
 TEST_F(AnalysisTest, NumbersInEquationsHaveFiveDigits) {
   const std::pair<double, S> kCases[] = {{0.942857, "0.9429"}, {14.28571, "14.286"}, {103.5714, "103.57"},
                                          {123456.7, "123457"}, {-2, "-2"},           {0, "0"},
-                                         {0.00021, "0.0002"},  {1e9, "1000000000"},  {0.00002, "2E-05"},
+                                         {0.00021, "0.0002"},  {999999.4, "999999"}, {999999.6, "1E+06"},
+                                         {-3.2e6, "-3E+06"},   {1e9, "1E+09"},       {0.00002, "2E-05"},
                                          {9.7e-6, "1E-05"},    {-3e12, "-3E+12"},    {1e300, "1E+300"},
                                          {kNoValue, "?"}};
   for (const auto& [number, text] : kCases) EXPECT_EQ(render::EquationNumber(number), text);
@@ -311,6 +317,140 @@ TEST_F(AnalysisTest, ManyTrendlinesThroughManyPointsAreLimited) {
   EXPECT_EQ(notes_,
             (render::Notes{"The chart has more trendlines through many points than are drawn; the rest is "
                            "left out."}));
+}
+
+TEST_F(AnalysisTest, ErrorBarsOfSharesAreShares) {
+  const S first = "<c:barDir val=\"col\"/><c:grouping val=\"percentStacked\"/><c:overlap val=\"100\"/>";
+  const S toOne = "<c:scaling><c:max val=\"1\"/><c:min val=\"0\"/></c:scaling>";
+  const Drawing drawing = DrawGroup(
+      "barChart", first, SeriesXml(0, {2, 3}, ErrorBarsXml("fixedVal", "1")) + SeriesXml(1, {2, 2}), toOne);
+  // wholes of 4 and 5, in tenths of the axis
+  EXPECT_EQ(EndsOf(drawing, Role::kErrorBar), (std::vector<std::pair<double, double>>{{7.5, 2.5}, {8, 4}}));
+}
+
+TEST_F(AnalysisTest, DatesGoOnForTrendlines) {
+  S axes = AxesXml();
+  for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "dateAx");
+  const S trend = TrendXml("linear", "<c:forward val=\"4\"/>");
+  const S series = SeriesXml(0, {1, 2, 3}, trend, "", AmountsXml("cat", {45000, 45001, 45002}));
+  const Drawing drawing = Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>", series) + axes));
+  // seven days, of which the last one is the end of the line
+  const Rect plot = BoxOf(drawing, Role::kPlotArea), line = BoxOf(drawing, Role::kTrendline);
+  EXPECT_NEAR(BoxesOf(drawing, Role::kBar)[0].Center().x, plot.left + plot.width / 14, 1e-6);
+  EXPECT_NEAR(line.Right(), plot.Right() - plot.width / 14, 1e-6);
+  EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2).back(), "8");
+}
+
+TEST_F(AnalysisTest, AxesHaveRoomOnlyForWhatIsSeen) {
+  // a line can't go back beyond the first category, and its end there needs no negative values
+  const Drawing drawing = DrawColumns({10, 20, 30}, TrendXml("linear", "<c:backward val=\"9\"/>"), "");
+  EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2).front(), "0");
+}
+
+TEST_F(AnalysisTest, CurvesKeepTheirSlopeWhereTheyLeaveThePlotArea) {
+  const Drawing drawing = DrawColumns({1, 1e3, 1e6, 1e9}, TrendXml("exp"));
+  const Rect plot = BoxOf(drawing, Role::kPlotArea);
+  const auto items = ItemsOf(drawing, Role::kTrendline);
+  ASSERT_EQ(items.size(), 1u);
+  const auto& steps = std::get<PathItem>(items[0].content).path.Steps();
+  EXPECT_GT(steps.size(), 20u);
+  for (const auto& step : steps) {
+    const double x = (step.to.x - plot.left) / plot.width * 4 + 0.5;
+    EXPECT_NEAR((plot.Bottom() - step.to.y) / plot.height * 10, std::pow(1000, x - 1), 1e-6);
+  }
+  EXPECT_NEAR(steps.back().to.y, plot.top - 20, 1e-6);  // where the last of it may be seen
+  // a line that crosses the plot area between two samples
+  const Drawing steep = DrawColumns({-1e9, 1e9}, TrendXml("linear"));
+  const Rect line = BoxOf(steep, Role::kTrendline);
+  EXPECT_NEAR(line.Center().x, plot.Center().x, 1);
+  EXPECT_NEAR(line.height, BoxOf(steep, Role::kPlotArea).height + 40, 0.1);
+}
+
+TEST_F(AnalysisTest, CurvesAreSampledBetweenTheEndsOfTheirAxis) {
+  const auto draw = [&](const S& kind, const S& x, const Numbers& values) {
+    const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>" +
+                     TrendXml(kind, "<c:backward val=\"9\"/>") + AmountsXml("xVal", {1, 10, 100'000}) +
+                     AmountsXml("yVal", values) + "</c:ser>";
+    S axes = AxesXml(x, kZeroToTen);
+    for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "valAx");
+    return Draw(PlotXml(GroupXml("scatterChart", "", series) + axes));
+  };
+  for (const char* kind : {"linear", "log", "power"}) {
+    const Drawing drawing = draw(kind, kZeroToTen, {1, 2, 6});
+    const auto items = ItemsOf(drawing, Role::kTrendline);
+    ASSERT_EQ(items.size(), 1u) << kind;
+    EXPECT_GT(std::get<PathItem>(items[0].content).path.Steps().size(), 50u) << kind;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << kind;
+    EXPECT_NEAR(BoundsOf(items[0]).Right(), BoxOf(drawing, Role::kPlotArea).Right(), 1e-6) << kind;
+    EXPECT_EQ(notes_, render::Notes()) << kind;
+  }
+  const S beyond = "<c:scaling><c:max val=\"300000\"/><c:min val=\"200000\"/></c:scaling>";
+  EXPECT_TRUE(ItemsOf(draw("linear", beyond, {1, 2, 6}), Role::kTrendline).empty());
+  EXPECT_EQ(notes_,
+            (render::Notes{"A trendline isn't drawn, as less than two of its points are on the axes."}));
+}
+
+TEST_F(AnalysisTest, SaysWhatIsNotDrawn) {
+  const S longest = "A moving average isn't drawn, as its period isn't shorter than its series.";
+  const S shadow =
+      "<c:spPr><a:effectLst><a:outerShdw><a:srgbClr val=\"000000\"/></a:outerShdw></a:effectLst></c:spPr>";
+  const auto average = [](int period) {
+    return TrendXml("movingAvg", "<c:period val=\"" + std::to_string(period) + "\"/>");
+  };
+  S shadowed = ErrorBarsXml("fixedVal", "1");
+  shadowed.insert(shadowed.size() - S("</c:errBars>").size(), shadow);
+  struct {
+    S more, axis;
+    render::Notes notes;
+  } const kCases[] = {
+      {average(2), "", {}},
+      {average(3), "", {longest}},
+      {average(4) + average(5), "", {longest}},
+      {ErrorBarsXml("fixedVal", "1", "<c:errDir val=\"x\"/>"),
+       "",
+       {"Error bars along an axis of categories aren't drawn."}},
+      {shadowed, "", {"Shadows of error bars aren't drawn."}},
+      {"", "<c:majorGridlines>" + shadow + "</c:majorGridlines>", {"Shadows of gridlines aren't drawn."}},
+      {"", shadow, {"Shadows of axes aren't drawn."}},
+  };
+  for (const auto& test : kCases) {
+    const Drawing drawing = DrawGroup("lineChart", "<c:grouping val=\"standard\"/>",
+                                      SeriesXml(0, {1, 2, 3}, test.more), test.axis);
+    EXPECT_EQ(notes_, test.notes) << test.more;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.more;
+  }
+}
+
+TEST_F(AnalysisTest, TheLimitOfTrendlinesEndsNothingElse) {
+  S trends;
+  for (int i = 0; i < 400; ++i) trends += TrendXml("movingAvg", "<c:period val=\"100\"/>");
+  const S bars = "<c:upDownBars><c:upBars/><c:downBars/></c:upDownBars>";
+  const S later = TrendXml("linear") + ErrorBarsXml("fixedVal", "1");
+  const Drawing drawing =
+      Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>",
+                            SeriesXml(0, Numbers(5000, 1), trends) + SeriesXml(1, Numbers(1000, 2), trends)) +
+                   GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
+                            SeriesXml(2, {1, 2}, later) + SeriesXml(3, {3, 4}), bars) +
+                   AxesXml()));
+  EXPECT_EQ(ItemsOf(drawing, Role::kErrorBar).size(), 2u);
+  EXPECT_EQ(ItemsOf(drawing, Role::kUpDownBar).size(), 2u);
+  EXPECT_EQ(notes_,
+            (render::Notes{"The chart has more trendlines through many points than are drawn; the rest is "
+                           "left out."}));
+}
+
+TEST_F(AnalysisTest, ManyLegendEntriesTakeLittleTime) {
+  const auto start = std::chrono::steady_clock::now();
+  S trends, entries;
+  for (int i = 0; i < 30'000; ++i) {
+    trends += TrendXml("linear");
+    entries += "<c:legendEntry><c:idx val=\"" + std::to_string(i + 1) + "\"/>" +
+               (i % 20 == 0 ? "" : "<c:delete val=\"1\"/>") + "</c:legendEntry>";
+  }
+  const Drawing drawing = DrawGroup("barChart", "<c:barDir val=\"col\"/>", SeriesXml(0, {1, 2}, trends), "",
+                                    "<c:legend>" + entries + "</c:legend>");
+  EXPECT_FALSE(TextsOf(drawing, Role::kLegendEntry).empty());
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
 }
 
 TEST_F(AnalysisTest, WildNumbersTakeLittleTime) {

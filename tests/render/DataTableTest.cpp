@@ -117,6 +117,21 @@ TEST_F(DataTableTest, SaysWhatHasNoRoom) {
   }
 }
 
+TEST_F(DataTableTest, LeavesTheTickLabelsWhereItHasNoRoom) {
+  // the columns are too narrow with the names beside them, or even without
+  const S name = "A name that takes nearly a third of the width";
+  for (const std::size_t count : {75u, 300u}) {
+    S series = SeriesXml(0, std::vector<double>(count, 1));
+    series.replace(series.find("Series 0"), S("Series 0").size(), name);
+    const Drawing drawing = DrawWithTable(kLines, series);
+    EXPECT_FALSE(TextsOf(drawing, Role::kTickLabel, 1).empty()) << count;
+    EXPECT_TRUE(TextsOf(drawing, Role::kTableText).empty()) << count;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << count;
+    EXPECT_EQ(notes_, (render::Notes{"The data table isn't drawn, as its columns have no room for a text."}))
+        << count;
+  }
+}
+
 TEST_F(DataTableTest, LongTextsEndInDots) {
   const auto start = std::chrono::steady_clock::now();
   const S name(20'000, 'x');

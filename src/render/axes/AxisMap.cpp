@@ -16,7 +16,7 @@ AxisMap::AxisMap(const AxisModel& axis, double low, double high)
     : axis_(axis),
       low_(axis.reversed ? high : low),
       high_(axis.reversed ? low : high),
-      slots_(std::max(axis.dates ? axis.dates->count : static_cast<double>(axis.categories.size()), 1.0)) {}
+      slots_(axis.SlotCount()) {}
 
 AxisMap AxisMap::Along(const AxisModel& axis, const Rect& plot) {
   return axis.IsUpright() ? AxisMap(axis, plot.Bottom(), plot.top) : AxisMap(axis, plot.left, plot.Right());

@@ -84,13 +84,15 @@ Rect SeenOf(cairo_t* cr, const ShadowItem& item, double reach) {
   return right > left && bottom > top ? Rect{left, top, right - left, bottom - top} : Rect();
 }
 
-/// Pixels for a point: those of the picture, or enough for a page. The softer the edge, the fewer show it.
+/// Pixels for a point: those of the picture, or enough for a page. The softer the edge, the fewer show it. No
+/// edge of the mask has more than Cairo allows.
 double ResolutionOf(cairo_t* cr, const Rect& seen, double deviation) {
-  constexpr double kLeast = 2, kMostPixels = 1e7, kOfDeviation = 4;
+  constexpr double kLeast = 2, kMostPixels = 1e7, kLongestEdge = 32'000, kOfDeviation = 4;
   double across = 1, down = 0;
   cairo_user_to_device_distance(cr, &across, &down);
   const double scale = std::min(std::max(std::hypot(across, down), kLeast), kOfDeviation / deviation);
-  return std::min(scale, std::sqrt(kMostPixels / (seen.width * seen.height)));
+  return std::min({scale, std::sqrt(kMostPixels / (seen.width * seen.height)),
+                   kLongestEdge / std::max(seen.width, seen.height)});
 }
 
 void PaintSoft(cairo_t* cr, const ShadowItem& item) {

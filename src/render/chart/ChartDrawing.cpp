@@ -114,10 +114,10 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
       canvas.Note("Up and down bars are only drawn between lines.");
     }
     for (const SeriesModel& series : group.series) {
-      if (has(series.node, "trendline") && series.trendlines.empty()) {
+      if (has(series.node, "trendline") && !group.CanHaveTrendlines()) {
         canvas.Note("Trendlines aren't drawn in a chart of this type.");
       }
-      if (has(series.node, "errBars") && series.errorBars.empty()) {
+      if (has(series.node, "errBars") && !group.CanHaveErrorBars()) {
         canvas.Note("Error bars aren't drawn in a chart of this type.");
       }
     }

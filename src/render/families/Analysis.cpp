@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <optional>
 #include <utility>
+#include <vector>
 
 #include "render/model/StyledShape.h"
 #include "render/plot/Curves.h"
@@ -19,6 +22,12 @@ Point PlaceAt(bool isUpright, double along, double across) {
 }
 
 }  // namespace
+
+ErrorBarPainter::ErrorBarPainter(Plot& plot, const GroupModel& group) : plot_(plot), group_(group) {
+  const bool hasBars = std::any_of(group.series.begin(), group.series.end(),
+                                   [](const SeriesModel& series) { return !series.errorBars.empty(); });
+  if (hasBars && group.grouping == Grouping::kPercent) wholes_ = Wholes(group);
+}
 
 void ErrorBarPainter::Add(const SeriesModel& series, std::size_t point, double along, double value) {
   if (!series.errorBars.empty()) points_.push_back({&series, point, along, value});
@@ -40,8 +49,10 @@ void ErrorBarPainter::DrawBar(const BarPoint& point, const ErrorBars& bars) {
     across = map.OfValue(point.value);
     upright = !upright;
   } else {
-    low = map.OfValue(point.value + from);
-    high = map.OfValue(point.value + to);
+    const double whole = wholes_.empty() ? 1 : wholes_[point.index];
+    const double unit = whole > 0 ? 1 / whole : 0;  // a whole of zero has no shares
+    low = map.OfValue(point.value + from * unit);
+    high = map.OfValue(point.value + to * unit);
   }
   Path path;
   path.MoveTo(PlaceAt(upright, across, low)).LineTo(PlaceAt(upright, across, high));
@@ -68,37 +79,133 @@ void ErrorBarPainter::DrawClipped() {
 
 namespace {
 
-/// Draws a trendline. Returns its last place in the plot area, which its label is beside.
-Point DrawLine(Plot& plot, const GroupModel& group, const SeriesModel& series, const Trendline& line,
-               int number) {
-  const AxisModel& values = *plot.ValueAxisOf(group);
-  const AxisMap across = AxisMap::Along(*plot.CategoryAxisOf(group), plot.area);
-  const AxisMap map = AxisMap::Along(values, plot.area);
-  Point last = plot.area.Center();
-  Path path;
-  std::vector<Point> piece;
-  const auto finish = [&] {
-    if (piece.size() > 1) AddCurve(path, piece, false);
-    piece.clear();
-  };
-  for (const Point& point : line.points) {
-    const bool present = std::isfinite(point.x) && std::isfinite(point.y) && (!values.logBase || point.y > 0);
-    if (!present) {
-      finish();
+/// The path of a trendline in a plot area.
+class TrendPath {
+ public:
+  TrendPath(const Plot& plot, const GroupModel& group, const Trendline& line)
+      : area_(plot.area),
+        line_(line),
+        across_(*plot.CategoryAxisOf(group)),
+        values_(*plot.ValueAxisOf(group)),
+        acrossMap_(AxisMap::Along(across_, area_)),
+        valueMap_(AxisMap::Along(values_, area_)) {}
+
+  Path Take() {
+    if (line_.curve) {
+      AddPartSeen(*line_.curve);
     } else {
-      const Point place = PlaceAt(values.IsUpright(), across.OfX(point.x - line.shift), map.OfValue(point.y));
-      piece.push_back(place);
-      const bool inside = place.x >= plot.area.left && place.x <= plot.area.Right() &&
-                          place.y >= plot.area.top && place.y <= plot.area.Bottom();
-      if (inside) last = place;
+      for (const Point& point : line_.points) {
+        if (const auto place = PlaceOf(point)) {
+          Add(*place);
+        } else {
+          Finish();
+        }
+      }
+    }
+    Finish();
+    return std::move(path_);
+  }
+  /// The last place in the plot area, or its centre if there is none.
+  Point Last() const { return last_.value_or(area_.Center()); }
+
+ private:
+  std::optional<Point> PlaceOf(Point point) const {
+    const bool present =
+        std::isfinite(point.x) && std::isfinite(point.y) && (!values_.logBase || point.y > 0);
+    if (!present) return std::nullopt;
+    return PlaceAt(values_.IsUpright(), acrossMap_.OfX(point.x - line_.shift), valueMap_.OfValue(point.y));
+  }
+
+  /// How a place lies along the axis of values.
+  enum class Where : std::uint8_t { kNowhere, kBefore, kNear, kBehind };
+
+  /// Returns kNear in the plot area and just beyond its edges, and kNowhere where the curve has no place.
+  Where WhereIs(const std::optional<Point>& place) const {
+    constexpr double kBeyond = 20;  // points
+    if (!place) return Where::kNowhere;
+    const double along = values_.IsUpright() ? place->y - area_.top : place->x - area_.left;
+    if (along < -kBeyond) return Where::kBefore;
+    const double length = values_.IsUpright() ? area_.height : area_.width;
+    return along <= length + kBeyond ? Where::kNear : Where::kBehind;
+  }
+  Where WhereIs(const TrendCurve& curve, double x) const { return WhereIs(PlaceOf({x, curve.At(x)})); }
+
+  /// The place nearest to where a curve leaves what is near, between an x that is near and one that isn't.
+  Point EndBetween(const TrendCurve& curve, double near, double far) const {
+    constexpr int kHalvings = 50;
+    for (int i = 0; i < kHalvings; ++i) {
+      const double middle = near / 2 + far / 2;
+      (WhereIs(curve, middle) == Where::kNear ? near : far) = middle;
+    }
+    return *PlaceOf({near, curve.At(near)});
+  }
+
+  /// Adds a steep piece of a curve that goes from one side of what is near to the other.
+  void AddCrossing(const TrendCurve& curve, double from, double to) {
+    constexpr int kHalvings = 50;
+    const Where begin = WhereIs(curve, from);
+    double low = from, high = to;
+    for (int i = 0; i < kHalvings; ++i) {
+      const double middle = low / 2 + high / 2;
+      const Where where = WhereIs(curve, middle);
+      if (where == Where::kNear) {
+        Add(EndBetween(curve, middle, from));
+        Add(EndBetween(curve, middle, to));
+        return Finish();
+      }
+      (where == begin ? low : high) = middle;
     }
   }
-  finish();
-  plot.canvas.PushClip(Path().AddRect(plot.area));
-  AddShape(plot.canvas, {Role::kTrendline, series.number, number}, std::move(path), line.style);
-  plot.canvas.PopClip();
-  return last;
-}
+
+  /// Adds what may be seen of a curve. Places far beyond the edges would be moved, and bend it.
+  void AddPartSeen(const TrendCurve& curve) {
+    constexpr int kSteps = 200;
+    const auto seen = SeenPart(line_, &across_);
+    if (!seen) return;
+    const auto [from, to] = *seen;
+    const bool byFactor = from > 0 && (across_.logBase || curve.NeedsPositiveX());
+    Where last = Where::kNowhere;
+    double before = from;
+    for (int step = 0; step <= kSteps; ++step) {
+      const double share = static_cast<double>(step) / kSteps;
+      const double x = byFactor ? from * std::pow(to / from, share) : from * (1 - share) + to * share;
+      const auto place = PlaceOf({x, curve.At(x)});
+      const Where where = WhereIs(place);
+      const bool isNear = where == Where::kNear, wasNear = last == Where::kNear;
+      if (isNear && !wasNear && step > 0) Add(EndBetween(curve, x, before));
+      if (isNear) Add(*place);
+      if (!isNear && wasNear) {
+        Add(EndBetween(curve, before, x));
+        Finish();
+      }
+      const bool crosses = (last == Where::kBefore && where == Where::kBehind) ||
+                           (last == Where::kBehind && where == Where::kBefore);
+      if (crosses) AddCrossing(curve, before, x);
+      last = where;
+      before = x;
+    }
+  }
+
+  void Add(Point place) {
+    piece_.push_back(place);
+    const bool inside = place.x >= area_.left && place.x <= area_.Right() && place.y >= area_.top &&
+                        place.y <= area_.Bottom();
+    if (inside) last_ = place;
+  }
+
+  void Finish() {
+    if (piece_.size() > 1) AddCurve(path_, piece_, false);
+    piece_.clear();
+  }
+
+  const Rect area_;
+  const Trendline& line_;
+  const AxisModel &across_, &values_;
+  const AxisMap acrossMap_, valueMap_;
+  Path path_;
+  std::vector<Point> piece_;
+  std::optional<Point> last_;
+};
 
 /// Draws the label above the end of its line, or as far from there as a layout by hand says.
 void DrawLabel(Plot& plot, Tag tag, const Trendline& line, Point end) {
@@ -125,9 +232,19 @@ void DrawTrendlines(Plot& plot, const GroupModel& group) {
     int number = 0;
     for (const Trendline& line : series.trendlines) {
       ++number;
-      if (line.points.empty()) continue;
-      const Point end = DrawLine(plot, group, series, line, number);
-      if (!line.label.IsEmpty()) DrawLabel(plot, {Role::kTrendlineLabel, series.number, number}, line, end);
+      if (!line.curve && line.points.empty()) continue;
+      TrendPath trend(plot, group, line);
+      Path path = trend.Take();
+      if (path.IsEmpty()) {
+        plot.canvas.Note("A trendline isn't drawn, as less than two of its points are on the axes.");
+        continue;
+      }
+      const Tag tag{Role::kTrendline, series.number, number};
+      plot.canvas.PushClip(Path().AddRect(plot.area));
+      AddShape(plot.canvas, tag, std::move(path), line.style);
+      plot.canvas.PopClip();
+      if (line.label.IsEmpty()) continue;
+      DrawLabel(plot, {Role::kTrendlineLabel, series.number, number}, line, trend.Last());
     }
   }
 }

@@ -10,7 +10,7 @@ namespace plotsmith::render {
 /// Collects points of a group that were drawn, and draws their error bars.
 class ErrorBarPainter {
  public:
-  ErrorBarPainter(Plot& plot, const GroupModel& group) : plot_(plot), group_(group) {}
+  ErrorBarPainter(Plot& plot, const GroupModel& group);
 
   /// `along` is the place of the point along the axis of categories or X values; `value` is its value, or the
   /// sum up to it where values are stacked.
@@ -30,6 +30,7 @@ class ErrorBarPainter {
 
   Plot& plot_;
   const GroupModel& group_;
+  std::vector<double> wholes_;  ///< what 100 percent are at each point; empty if values aren't shares
   std::vector<BarPoint> points_;
 };
 

@@ -146,11 +146,10 @@ class Layouter {
     if (chart_.layout && !inner) {
       layout_.outer = KeepLeast(Applied(*chart_.layout, bounds_, layout_.outer), bounds_, bounds_);
     }
-    // The labels affect the size of the plot area, which affects the labels.
-    for (int pass = 0; pass < 3; ++pass) {
-      layout_.plot = KeepLeast(Without(layout_.outer, rooms_), bounds_, layout_.outer);
-      if (inner) layout_.plot = KeepLeast(Applied(*chart_.layout, bounds_, layout_.plot), bounds_, bounds_);
-      SetTickLabels();
+    FitPlot(inner);
+    if (isTableTooNarrow_) {
+      TakeBackTickLabels();
+      FitPlot(inner);
     }
     ShortenSlanted();
     if (inner) {
@@ -158,6 +157,24 @@ class Layouter {
                        layout_.plot.width + rooms_.left + rooms_.right,
                        layout_.plot.height + rooms_.top + rooms_.bottom};
     }
+  }
+
+  /// Fits the plot area and the labels around it. The labels affect its size, which affects the labels.
+  void FitPlot(bool inner) {
+    for (int pass = 0; pass < 3; ++pass) {
+      layout_.plot = KeepLeast(Without(layout_.outer, rooms_), bounds_, layout_.outer);
+      if (inner) layout_.plot = KeepLeast(Applied(*chart_.layout, bounds_, layout_.plot), bounds_, bounds_);
+      SetTickLabels();
+    }
+  }
+
+  /// Gives the axis above a data table without room the labels that the table would have replaced.
+  void TakeBackTickLabels() {
+    AxisModel& axis = chart_.axes[static_cast<std::size_t>(chart_.table->axis)];
+    axis.tickLabels = chart_.table->tickLabels;
+    axis.crossesBetween = chart_.table->crossesBetween;
+    layout_.table.emplace().isTooNarrow = true;
+    rooms_ = {};
   }
 
   void SetTickLabels() {
@@ -177,8 +194,9 @@ class Layouter {
       room = std::max(room, labels.depth + kLabelGap - inside);
       AddOverhang(axis, labels, length, overhang);
     }
-    if (chart_.table) {
+    if (chart_.table && !isTableTooNarrow_) {
       layout_.table = LayOutTable(chart_, bounds_, layout_.plot, measure_);
+      isTableTooNarrow_ = layout_.table->isTooNarrow;
       rooms_.left = std::max(rooms_.left, layout_.table->NamesWidth());
       rooms_.bottom = std::max(rooms_.bottom, layout_.table->Height());
     }
@@ -271,6 +289,7 @@ class Layouter {
   ChartLayout layout_;
   Rect free_;
   Edges titles_, rooms_;
+  bool isTableTooNarrow_ = false;  ///< the data table had no room in any pass
 };
 
 }  // namespace

@@ -41,6 +41,8 @@ class TrendCurve {
   /// The value at a place. It is not finite where the curve has none.
   double At(double x) const;
   TrendKind Kind() const { return kind_; }
+  /// Whether the curve has values only above an x of zero.
+  bool NeedsPositiveX() const { return kind_ == TrendKind::kLogarithmic || kind_ == TrendKind::kPower; }
   /// Factors of x^0, x^1, ... of the polynomial in logarithmic terms.
   std::vector<double> Factors() const;
   /// The value of the polynomial; the same as the curve's value or its logarithm.
@@ -54,9 +56,9 @@ class TrendCurve {
   double center_, scale_;
 };
 
-/// Fits a curve to points; those that are no numbers, or that have no logarithm where one is needed, are left
-/// out. `order` is that of a polynomial, from 1 to 6. `intercept` is the value at zero. Nothing if there are
-/// too few points, or if they don't differ in x. A moving average is no curve.
+/// Fits a curve to points; those that are no numbers are left out. `order` is that of a polynomial, from 1 to
+/// 6. `intercept` is the value at zero. Nothing if there are too few points, if they don't differ in x, or if
+/// one of them has no logarithm where the curve needs it. A moving average is no curve.
 std::optional<TrendCurve> FitTrend(TrendKind kind, std::size_t order, std::optional<double> intercept,
                                    const std::vector<double>& x, const std::vector<double>& y);
 

@@ -1,9 +1,10 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <map>
 
-#include "render/model/DateSlots.h"
 #include "render/model/ChartReader.h"
+#include "render/model/DateSlots.h"
 #include "xlsx/book/BookContext.h"
 #include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/drawing/DrawingSchema.h"
@@ -20,6 +21,10 @@ constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
 constexpr Stroke kThinLine = {Color{0, 0, 0, 1}, 0.75};
 constexpr long long kLongestPeriod = 255;  // points of a moving average
 constexpr double kMostFittedPoints = 4e6;  // by all trendlines of a chart
+
+void AddOnce(Notes& notes, const std::string& sentence) {
+  if (std::find(notes.begin(), notes.end(), sentence) == notes.end()) notes.push_back(sentence);
+}
 
 /// What of a series counts as x for a trendline, and what is taken from that for the number along the axis.
 struct TrendPlaces {
@@ -153,17 +158,6 @@ void AddMovingAverage(const std::vector<double>& x, const std::vector<double>& y
   }
 }
 
-/// The points of a curve from one x to another, equally far from each other.
-void AddCurve(const TrendCurve& curve, double from, double to, bool isLogarithmic, Trendline& line) {
-  constexpr int kSteps = 100;
-  const bool byFactor = isLogarithmic && from > 0 && to > 0;
-  for (int step = 0; step <= kSteps; ++step) {
-    const double share = static_cast<double>(step) / kSteps;
-    const double x = byFactor ? from * std::pow(to / from, share) : from * (1 - share) + to * share;
-    line.points.push_back({x, curve.At(x)});
-  }
-}
-
 void ReadLabel(ReadingContext& context, pugi::xml_node node, const TrendCurve& curve, Trendline& line) {
   const auto label = xml::Child(node, "trendlineLbl");
   const auto format = xml::Child(label, "numFmt");
@@ -207,6 +201,10 @@ Trendline ReadTrendline(ReadingContext& context, const ChartModel& chart, const 
   const TrendPlaces places = PlacesOf(chart, group, series);
   line.shift = places.shift;
   if (line.kind == TrendKind::kMovingAverage) {
+    if (line.period >= series.values.size()) {
+      AddOnce(context.notes, "A moving average isn't drawn, as its period isn't shorter than its series.");
+      return line;
+    }
     AddMovingAverage(places.x, series.values, line);
     return line;
   }
@@ -215,11 +213,7 @@ Trendline ReadTrendline(ReadingContext& context, const ChartModel& chart, const 
   const auto curve =
       FitTrend(line.kind, order, schema::NumberVal(node, "intercept"), places.x, series.values);
   if (!curve) {
-    const std::string sentence =
-        "A trendline isn't drawn, as its series has no points for a line of its kind.";
-    if (std::find(context.notes.begin(), context.notes.end(), sentence) == context.notes.end()) {
-      context.notes.push_back(sentence);
-    }
+    AddOnce(context.notes, "A trendline isn't drawn, as its series has no points for a line of its kind.");
     return line;
   }
   double least = std::numeric_limits<double>::infinity(), greatest = -least;
@@ -230,33 +224,27 @@ Trendline ReadTrendline(ReadingContext& context, const ChartModel& chart, const 
   }
   line.forward = ExtensionOf(node, "forward");
   line.backward = ExtensionOf(node, "backward");
-  const bool isLogarithmic =
-      group.category >= 0 && chart.axes[static_cast<std::size_t>(group.category)].logBase.has_value();
-  AddCurve(*curve, least - line.backward, greatest + line.forward, isLogarithmic, line);
+  line.from = least - line.backward;
+  line.to = greatest + line.forward;
   ReadLabel(context, node, *curve, line);
+  line.curve = curve;
   return line;
 }
 
-/// Whether Excel has error bars and trendlines for series of a group.
-bool CanBeAnalysed(const GroupModel& group) {
-  switch (group.family) {
-    case Family::kArea:
-    case Family::kBar:
-    case Family::kLine:
-    case Family::kScatter:
-    case Family::kBubble:
-    case Family::kStock:
-      return !group.is3D;
-    default:
-      return false;
-  }
+/// Adds slots to an axis of dates that a trendline is extended along, but none after the last date of Excel.
+void ExtendDates(const Trendline& line, xlsx::DateSystem system, AxisModel& axis) {
+  DateSlots& dates = *axis.dates;
+  const double most = static_cast<double>(SlotOf(xlsx::kLastSerial, dates.base, system) - dates.first + 1);
+  const double free = axis.crossesBetween ? 0.5 : 0;
+  dates.count = std::max(dates.count, std::min(std::ceil(line.to - line.shift - free), most));
 }
 
 /// Adds empty categories to an axis that a trendline is extended along.
 void ExtendCategories(const GroupModel& group, const Trendline& line, ChartModel& chart) {
-  if (group.category < 0 || group.HasXValues()) return;
+  if (group.category < 0 || group.HasXValues() || !(line.forward > 0)) return;
   AxisModel& axis = chart.axes[static_cast<std::size_t>(group.category)];
-  if (axis.IsOfValues() || axis.dates) return;
+  if (axis.IsOfValues()) return;
+  if (axis.dates) return ExtendDates(line, chart.dates, axis);
   constexpr double kMost = 1000;
   const double free = axis.crossesBetween ? 0.5 : 0;
   const double wanted =
@@ -291,21 +279,23 @@ void ReadAnalysis(ReadingContext& context, ChartModel& chart) {
   double fittedPoints = 0;
   for (GroupModel& group : chart.groups) {
     if (group.family == Family::kLine || group.family == Family::kStock) ReadUpDownBars(context, group);
-    if (!CanBeAnalysed(group)) continue;
+    if (!group.CanHaveErrorBars()) continue;
     for (SeriesModel& series : group.series) {
       constexpr std::size_t kMostErrorBars = 2;  // one in each direction
       for (const pugi::xml_node& node : xml::Children(series.node, "errBars")) {
-        if (series.errorBars.size() < kMostErrorBars) {
+        if (!group.HasXValues() && schema::Val(node, "errDir", "y") == "x") {
+          AddOnce(context.notes, "Error bars along an axis of categories aren't drawn.");
+        } else if (series.errorBars.size() < kMostErrorBars) {
           series.errorBars.push_back(ReadErrorBars(context, node, series));
         }
       }
-      if (group.IsStacked()) continue;  // Excel has no trendlines of piles
+      if (!group.CanHaveTrendlines()) continue;
       for (const pugi::xml_node& node : xml::Children(series.node, "trendline")) {
         fittedPoints += CostOf(node, series);
         if (fittedPoints > kMostFittedPoints) {
-          context.notes.push_back(
-              "The chart has more trendlines through many points than are drawn; the rest is left out.");
-          return;
+          AddOnce(context.notes,
+                  "The chart has more trendlines through many points than are drawn; the rest is left out.");
+          break;
         }
         series.trendlines.push_back(ReadTrendline(context, chart, group, series, node));
         ExtendCategories(group, series.trendlines.back(), chart);
@@ -314,7 +304,24 @@ void ReadAnalysis(ReadingContext& context, ChartModel& chart) {
   }
 }
 
-void AddAnalysisExtent(const GroupModel& group, bool isX, xlsx::DataExtent& extent) {
+namespace {
+
+/// Adds the ends by which a trendline is extended, as far as the axis of X values shows them.
+void AddExtensions(const Trendline& line, const AxisModel* axis, bool isX, xlsx::DataExtent& extent) {
+  if (!line.curve) return;
+  const bool reachesZero = line.curve->NeedsPositiveX() && !(line.from > 0);
+  const auto seen = isX ? std::pair(line.from, line.to) : SeenPart(line, axis).value_or(std::pair(0.0, 0.0));
+  if (!(seen.second > seen.first)) return;
+  const auto add = [&](double x) { extent.Add(isX ? x : line.curve->At(x)); };
+  if (line.backward > 0 && !reachesZero) add(seen.first);
+  if (line.forward > 0) add(seen.second);
+}
+
+}  // namespace
+
+void AddAnalysisExtent(const ChartModel& chart, const GroupModel& group, bool isX, xlsx::DataExtent& extent) {
+  const AxisModel* axis =
+      group.category < 0 ? nullptr : &chart.axes[static_cast<std::size_t>(group.category)];
   for (const SeriesModel& series : group.series) {
     const std::vector<double>& numbers = isX ? series.x : series.values;
     for (const ErrorBars& bars : series.errorBars) {
@@ -324,12 +331,7 @@ void AddAnalysisExtent(const GroupModel& group, bool isX, xlsx::DataExtent& exte
         extent.Add(numbers[i] + bars.to[i]);
       }
     }
-    for (const Trendline& line : series.trendlines) {
-      if (line.points.empty()) continue;
-      const auto add = [&](Point point) { extent.Add(isX ? point.x : point.y); };
-      if (line.backward > 0) add(line.points.front());
-      if (line.forward > 0) add(line.points.back());
-    }
+    for (const Trendline& line : series.trendlines) AddExtensions(line, axis, isX, extent);
   }
 }
 
@@ -342,11 +344,17 @@ void AddTrendlineEntries(ReadingContext& context, ChartModel& chart) {
   const bool hasPoints = std::any_of(legend.entries.begin(), legend.entries.end(),
                                      [](const LegendEntry& entry) { return entry.point > 0; });
   if (hasPoints && !chart.groups.empty()) number = chart.groups.front().PointCount();
+  std::map<std::size_t, pugi::xml_node> owns;  // by their numbers; the first of a number counts
+  for (const pugi::xml_node& own : xml::Children(node, "legendEntry")) {
+    owns.emplace(static_cast<std::size_t>(schema::IntegerVal(own, "idx", -1)), own);
+  }
   for (const GroupModel& group : chart.groups) {
     for (const SeriesModel& series : group.series) {
       int count = 0;
       for (const Trendline& line : series.trendlines) {
-        const auto own = schema::FindNumbered(node, "legendEntry", static_cast<long long>(number++));
+        if (legend.entries.size() >= kMostLegendEntries) return;
+        const auto found = owns.find(number++);
+        const pugi::xml_node own = found == owns.end() ? pugi::xml_node() : found->second;
         ++count;
         if (schema::BooleanVal(own, "delete", false)) continue;
         LegendEntry entry{line.name, legend.text, series.number, 0, count};

@@ -45,6 +45,21 @@ void Rescale(AxisModel& axis, const xlsx::AxisSettings& settings) {
   MakeSound(axis);
 }
 
+void ScaleAxis(ChartModel& chart, int index) {
+  AxisModel& axis = chart.axes[static_cast<std::size_t>(index)];
+  bool headroom = true;
+  for (const GroupModel& group : chart.groups) {
+    const bool isX = group.HasXValues() && group.category == index;
+    if (!isX && group.value != index) continue;
+    headroom &= !group.is3D && group.grouping != Grouping::kPercent;
+    AddGroup(group, isX, axis.extent);
+    AddAnalysisExtent(chart, group, isX, axis.extent);
+  }
+  axis.settings = xlsx::SettingsOf(axis.node, headroom);
+  axis.settings.logBase = axis.logBase;
+  Rescale(axis, axis.settings);
+}
+
 }  // namespace
 
 void CoarsenScale(AxisModel& axis) {
@@ -57,20 +72,14 @@ void CoarsenScale(AxisModel& axis) {
 }
 
 void ScaleAxes(ChartModel& chart) {
-  for (std::size_t i = 0; i < chart.axes.size(); ++i) {
-    AxisModel& axis = chart.axes[i];
-    if (!axis.IsOfValues()) continue;
-    bool headroom = true;
-    for (const GroupModel& group : chart.groups) {
-      const bool isX = group.HasXValues() && group.category == static_cast<int>(i);
-      if (!isX && group.value != static_cast<int>(i)) continue;
-      headroom &= !group.is3D && group.grouping != Grouping::kPercent;
-      AddGroup(group, isX, axis.extent);
-      AddAnalysisExtent(group, isX, axis.extent);
+  // what is seen of trendlines along X values decides which values they need
+  for (const bool ofX : {true, false}) {
+    for (int i = 0; i < static_cast<int>(chart.axes.size()); ++i) {
+      const bool hasX = std::any_of(chart.groups.begin(), chart.groups.end(), [&](const GroupModel& group) {
+        return group.HasXValues() && group.category == i;
+      });
+      if (chart.axes[static_cast<std::size_t>(i)].IsOfValues() && hasX == ofX) ScaleAxis(chart, i);
     }
-    axis.settings = xlsx::SettingsOf(axis.node, headroom);
-    axis.settings.logBase = axis.logBase;
-    Rescale(axis, axis.settings);
   }
 }
 

@@ -1,6 +1,7 @@
 #include "render/model/ChartModel.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace plotsmith::render {
@@ -14,6 +15,20 @@ const LabelModel* LabelsModel::Of(std::size_t point) const {
   const auto special = points.find(point);
   const LabelModel& label = special == points.end() ? common : special->second;
   return label.ShowsAnything() ? &label : nullptr;
+}
+
+std::optional<std::pair<double, double>> SeenPart(const Trendline& line, const AxisModel* axis) {
+  constexpr double kNearZero = 1e-3;  // of the far end
+  double from = line.from, to = line.to;
+  if (axis != nullptr) {
+    const auto [first, last] = axis->EndsOfX();
+    from = std::max(from, first + line.shift);
+    to = std::min(to, last + line.shift);
+  }
+  const bool isLogarithmic = axis != nullptr && axis->logBase;
+  if ((isLogarithmic || (line.curve && line.curve->NeedsPositiveX())) && !(from > 0)) from = kNearZero * to;
+  if (!(to > from) || !std::isfinite(to - from)) return std::nullopt;
+  return std::pair(from, to);
 }
 
 const ShapeStyle& SeriesModel::StyleOf(std::size_t point) const {
@@ -46,10 +61,34 @@ const MarkerModel& SeriesModel::MarkerOf(std::size_t point) const {
   return varied != nullptr && varied->has_value() ? **varied : marker;
 }
 
+bool GroupModel::CanHaveErrorBars() const {
+  switch (family) {
+    case Family::kArea:
+    case Family::kBar:
+    case Family::kLine:
+    case Family::kScatter:
+    case Family::kBubble:
+    case Family::kStock:
+      return !is3D;
+    default:
+      return false;
+  }
+}
+
 std::size_t GroupModel::PointCount() const {
   std::size_t count = 0;
   for (const SeriesModel& one : series) count = std::max(count, one.values.size());
   return count;
+}
+
+double AxisModel::SlotCount() const {
+  return std::max(dates ? dates->count : static_cast<double>(categories.size()), 1.0);
+}
+
+std::pair<double, double> AxisModel::EndsOfX() const {
+  if (IsOfValues()) return {scale.minimum, scale.maximum};
+  const double free = crossesBetween ? 0.5 : 0;
+  return {1 - free, SlotCount() + free};
 }
 
 bool ChartModel::Is3D() const {

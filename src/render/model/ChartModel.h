@@ -7,6 +7,7 @@
 #include <pugixml.hpp>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "render/Drawing.h"
@@ -101,12 +102,20 @@ struct Trendline {
   std::string name;
   double forward = 0, backward = 0;  ///< extension beyond the points, in X units
   double shift = 0;                  ///< subtracted from x to get the argument of AxisMap::OfX
-  std::vector<Point> points;         ///< x and value; empty if no line could be fitted
+  std::optional<TrendCurve> curve;   ///< nothing if none could be fitted, or for a moving average
+  double from = 0, to = 0;           ///< the ends of the curve with its extensions
+  std::vector<Point> points;         ///< x and value of a moving average
   ShapeStyle style;
   RichText label;  ///< its equation and how well it fits
   ShapeStyle labelStyle;
   std::optional<ManualLayout> labelLayout;
 };
+
+struct AxisModel;
+/// Returns the X values between which the curve of a trendline may be seen along an axis, which may be null.
+/// The first is above zero where the curve or the axis needs that. Nothing if the axis shows no part of the
+/// curve.
+std::optional<std::pair<double, double>> SeenPart(const Trendline& line, const AxisModel* axis);
 
 struct SeriesModel {
   pugi::xml_node node;  ///< c:ser
@@ -210,6 +219,10 @@ struct GroupModel {
   bool IsRound() const {
     return family == Family::kPie || family == Family::kDoughnut || family == Family::kOfPie;
   }
+  /// Returns whether Excel has error bars for the series.
+  bool CanHaveErrorBars() const;
+  /// Returns whether Excel has trendlines for the series, which it hasn't for piles.
+  bool CanHaveTrendlines() const { return CanHaveErrorBars() && !IsStacked(); }
   /// Returns whether points lie at X values instead of categories.
   bool HasXValues() const { return family == Family::kScatter || family == Family::kBubble; }
   /// Returns the number of points of the longest series.
@@ -260,6 +273,10 @@ struct AxisModel {
 
   /// Returns whether the axis is vertical.
   bool IsUpright() const { return side == Side::kLeft || side == Side::kRight; }
+  /// Returns the number of categories along the axis, or of days, months or years; at least 1.
+  double SlotCount() const;
+  /// Returns the X values at the ends of the axis, as AxisMap::OfX takes them.
+  std::pair<double, double> EndsOfX() const;
   /// Returns whether values lie along the axis.
   bool IsOfValues() const { return kind == AxisKind::kValue; }
 };
@@ -289,7 +306,9 @@ struct LegendModel {
 struct DataTable {
   int axis = 0;  ///< index of the axis of categories that it is below
   bool horizontalLines = false, verticalLines = false, outline = false;
-  bool keys = false;  ///< legend keys beside the names of the series
+  bool keys = false;       ///< legend keys beside the names of the series
+  std::string tickLabels;  ///< AxisModel::tickLabels and crossesBetween of the axis without the table
+  bool crossesBetween = false;
   Stroke stroke;
   TextStyle text;
 };

@@ -137,8 +137,7 @@ std::optional<LegendModel> ReadLegend(ReadingContext& context) {
   legend.layout = ReadLayout(node);
   legend.style = ReadStyle(context.part, xml::Child(node, "spPr"), {});
   legend.text = ReadTextStyle(context.part, node, xlsx::TextRole::kOther);
-  constexpr std::size_t kMostEntries = 2000;
-  for (const xlsx::LegendLine& line : xlsx::LegendLines(context.part, kMostEntries)) {
+  for (const xlsx::LegendLine& line : xlsx::LegendLines(context.part, kMostLegendEntries)) {
     LegendEntry entry{line.text, legend.text, static_cast<int>(line.series + 1),
                       line.point ? static_cast<int>(*line.point + 1) : 0};
     const auto own = schema::FindNumbered(node, "legendEntry", static_cast<long long>(line.number));

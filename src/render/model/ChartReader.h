@@ -13,6 +13,8 @@ namespace plotsmith::render {
 /// The most points that are drawn of one series, and of all series of a chart. Numbers and texts count alike.
 /// Excel 2007 and older draw at most 32,000 and 256,000.
 inline constexpr std::size_t kMostPoints = 100'000, kMostPointsOfAll = 2'000'000;
+/// The most entries that are read of a legend.
+inline constexpr std::size_t kMostLegendEntries = 2000;
 
 /// What the functions share that read a chart.
 struct ReadingContext {
@@ -55,8 +57,9 @@ void ReadAnalysis(ReadingContext& context, ChartModel& chart);
 void ReadDataTable(ReadingContext& context, pugi::xml_node plotArea, ChartModel& chart);
 /// Reads surfaces, whose axes are scaled, and gives their bands to the legend.
 void ReadSurfaces(ReadingContext& context, ChartModel& chart);
-/// Adds what error bars and extended trendlines need of an axis.
-void AddAnalysisExtent(const GroupModel& group, bool isX, xlsx::DataExtent& extent);
+/// Adds what error bars and extended trendlines need of an axis. The axis of X values must be scaled before
+/// that of values.
+void AddAnalysisExtent(const ChartModel& chart, const GroupModel& group, bool isX, xlsx::DataExtent& extent);
 /// Adds the entries of trendlines to the legend.
 void AddTrendlineEntries(ReadingContext& context, ChartModel& chart);
 /// Lays the categories of an axis of dates (c:cat) out by their dates; leaves it as one of categories where

@@ -92,6 +92,18 @@ std::vector<std::string> MissingEffects(pugi::xml_node part) {
        {"blur", "Blurred shapes aren't drawn; they have sharp edges."},
        {"bevelT", "Bevels aren't drawn."},
        {"bevelB", "Bevels aren't drawn."}}};
+  static constexpr std::array<Kind, 11> kWithoutShadows = {
+      {{"errBars", "Shadows of error bars aren't drawn."},
+       {"dropLines", "Shadows of drop lines aren't drawn."},
+       {"hiLowLines", "Shadows of high-low lines aren't drawn."},
+       {"leaderLines", "Shadows of leader lines aren't drawn."},
+       {"majorGridlines", "Shadows of gridlines aren't drawn."},
+       {"minorGridlines", "Shadows of gridlines aren't drawn."},
+       {"catAx", "Shadows of axes aren't drawn."},
+       {"dateAx", "Shadows of axes aren't drawn."},
+       {"valAx", "Shadows of axes aren't drawn."},
+       {"serAx", "Shadows of axes aren't drawn."},
+       {"dTable", "Shadows of data tables aren't drawn."}}};
   std::vector<std::string> sentences;
   const auto add = [&](const char* sentence) {
     if (std::find(sentences.begin(), sentences.end(), sentence) == sentences.end()) {
@@ -103,7 +115,12 @@ std::vector<std::string> MissingEffects(pugi::xml_node part) {
     for (const Kind& kind : kKinds) {
       if (kind.element == name) add(kind.sentence);
     }
-    if (name == "outerShdw" && xml::LocalName(effect.parent().parent()).ends_with("RPr")) {
+    if (name != "outerShdw") return;
+    const std::string_view owner = xml::LocalName(effect.parent().parent().parent());
+    for (const Kind& kind : kWithoutShadows) {
+      if (kind.element == owner && xml::Is(effect.parent().parent(), "spPr")) add(kind.sentence);
+    }
+    if (xml::LocalName(effect.parent().parent()).ends_with("RPr")) {
       add("Shadows of texts aren't drawn.");
     }
   };

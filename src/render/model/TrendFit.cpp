@@ -13,6 +13,16 @@ namespace {
 bool HasLogarithmOfX(TrendKind kind) { return kind == TrendKind::kLogarithmic || kind == TrendKind::kPower; }
 bool HasLogarithmOfY(TrendKind kind) { return kind == TrendKind::kExponential || kind == TrendKind::kPower; }
 
+/// Whether all points have the logarithms that a curve needs. Excel offers no curve where one hasn't.
+bool HaveLogarithms(TrendKind kind, const std::vector<double>& x, const std::vector<double>& y) {
+  for (std::size_t i = 0; i < std::min(x.size(), y.size()); ++i) {
+    if (!std::isfinite(x[i]) || !std::isfinite(y[i])) continue;
+    if (HasLogarithmOfX(kind) && x[i] <= 0) return false;
+    if (HasLogarithmOfY(kind) && y[i] <= 0) return false;
+  }
+  return true;
+}
+
 /// Points in logarithmic terms.
 struct Terms {
   std::vector<double> u, v;
@@ -120,7 +130,7 @@ std::vector<double> TrendCurve::Factors() const {
 
 std::optional<TrendCurve> FitTrend(TrendKind kind, std::size_t order, std::optional<double> intercept,
                                    const std::vector<double>& x, const std::vector<double>& y) {
-  if (kind == TrendKind::kMovingAverage) return std::nullopt;
+  if (kind == TrendKind::kMovingAverage || !HaveLogarithms(kind, x, y)) return std::nullopt;
   constexpr std::size_t kHighestOrder = 6;
   order = kind == TrendKind::kPolynomial ? std::clamp<std::size_t>(order, 1, kHighestOrder) : 1;
   if (HasLogarithmOfX(kind)) intercept.reset();
@@ -152,7 +162,7 @@ std::optional<TrendCurve> FitTrend(TrendKind kind, std::size_t order, std::optio
 }
 
 std::string EquationNumber(double number) {
-  constexpr double kLeast = 1e-4, kMost = 1e10;
+  constexpr double kLeast = 1e-4, kMost = 999'999.5;  // what is rounded to seven digits has an exponent
   constexpr int kDigits = 5;
   if (!std::isfinite(number)) return "?";
   const double size = std::abs(number);
@@ -188,10 +198,13 @@ class Sum {
 
   void Add(double factor, const std::string& behind) {
     if (factor == 0) return;
-    if (text_.empty()) {
+    const char* sign = text_.empty() ? (factor < 0 ? "-" : "") : factor < 0 ? " - " : " + ";
+    std::string size = format_(std::abs(factor));
+    if (size == "1" && behind.starts_with("x")) size.clear();
+    if (text_.empty() && !size.empty()) {
       text_ = format_(factor) + behind;
     } else {
-      text_ += (factor < 0 ? " - " : " + ") + format_(std::abs(factor)) + behind;
+      text_ += sign + size + behind;
     }
   }
   std::string Text() const { return text_.empty() ? format_(0) : text_; }

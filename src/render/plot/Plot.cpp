@@ -12,17 +12,6 @@ const AxisModel* AxisAt(const ChartModel& chart, int index) {
   return index < 0 ? nullptr : &chart.axes[static_cast<std::size_t>(index)];
 }
 
-/// Returns the sum of the absolute values of each point, which is 100 percent.
-std::vector<double> Wholes(const GroupModel& group) {
-  std::vector<double> wholes(group.PointCount());
-  for (const SeriesModel& series : group.series) {
-    for (std::size_t i = 0; i < series.values.size(); ++i) {
-      if (std::isfinite(series.values[i])) wholes[i] += std::abs(series.values[i]);
-    }
-  }
-  return wholes;
-}
-
 }  // namespace
 
 bool Plot::TakeSymbol() {
@@ -49,6 +38,16 @@ double Plot::CrossingOf(const GroupModel& group) const {
 
 double Plot::BaseOf(const GroupModel& group) const {
   return group.IsStacked() ? AxisMap::Along(*ValueAxisOf(group), area).Base() : CrossingOf(group);
+}
+
+std::vector<double> Wholes(const GroupModel& group) {
+  std::vector<double> wholes(group.PointCount());
+  for (const SeriesModel& series : group.series) {
+    for (std::size_t i = 0; i < series.values.size(); ++i) {
+      if (std::isfinite(series.values[i])) wholes[i] += std::abs(series.values[i]);
+    }
+  }
+  return wholes;
 }
 
 Extents StackValues(const GroupModel& group) {

@@ -119,6 +119,27 @@ TEST_F(ShadowTest, LooksAlikeInSvgAndPng) {
   EXPECT_NEAR(redAt(cast.Right() + 8), 255, 3);
 }
 
+TEST_F(ShadowTest, IsDrawnOfVeryWideShapes) {
+  const S bars =
+      GroupXml("barChart", "<c:barDir val=\"bar\"/>",
+               SeriesXml(0, {3}, ShadowedXml("blurRad=\"12700\" dist=\"76200\" dir=\"5400000\"", "100000")));
+  const Drawing drawing = Draw(PlotXml(bars + AxesXml("", "", true)), "", 20'000, 100);
+  const render::Raster raster = MakeRaster(drawing, SharedFonts(), 72);
+  const render::Rect cast = BoxesOf(drawing, Role::kShadow)[0];
+  ASSERT_GT(cast.width, 16'384);
+  const auto index = static_cast<std::size_t>(cast.Bottom() - 3) * static_cast<std::size_t>(raster.width) +
+                     static_cast<std::size_t>(cast.Center().x);
+  EXPECT_NEAR(static_cast<int>(raster.values[index] >> 16 & 255), 17, 3);
+}
+
+TEST_F(ShadowTest, ThinBarsHaveNoneAndSayIt) {
+  const Drawing drawing =
+      Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>",
+                            SeriesXml(0, std::vector<double>(20'000, 5), ShadowedXml("dist=\"38100\""))) +
+                   AxesXml()));
+  EXPECT_EQ(notes_, (render::Notes{"Shadows of bars that are thinner than a pixel aren't drawn."}));
+}
+
 TEST_F(ShadowTest, ATextWithoutAFrameHasNoneAndSaysIt) {
   const S title =
       "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>Sales</a:t></a:r></a:p></c:rich></c:tx>"
