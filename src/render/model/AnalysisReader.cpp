@@ -254,7 +254,7 @@ void ExtendCategories(const GroupModel& group, const Trendline& line, ChartModel
 
 /// What a trendline takes, in points that a line is fitted to.
 double CostOf(pugi::xml_node node, const SeriesModel& series) {
-  constexpr double kLeast = 100, kAverageOfFit = 0.1;  // the points of a curve; a point of a moving average
+  constexpr double kLeast = 200, kAverageOfFit = 0.1;  // the points of a curve; a point of a moving average
   const double period =
       static_cast<double>(std::clamp(schema::IntegerVal(node, "period", 2), 2LL, kLongestPeriod));
   return kLeast + static_cast<double>(series.values.size()) * (1 + kAverageOfFit * period);
