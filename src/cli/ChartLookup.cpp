@@ -20,8 +20,6 @@
 namespace plotsmith::cli {
 namespace {
 
-constexpr std::int32_t kFirstDefinitionRow = 2;
-
 /// Finds the charts of definitions, each chart once.
 class ChartFinder {
  public:

@@ -10,6 +10,7 @@ inline constexpr const char* kProductTitle = "Brindle Plotsmith";
 /// on contains a document.
 inline constexpr const char* kDefinitionsSheet = "VEX_ChartDefinitions";
 inline constexpr const char* kDefinitionsSheetMark = "Plotsmith Version 2.0";
+inline constexpr std::int32_t kFirstDefinitionRow = 2;
 /// The very hidden sheet of the pivoted data. Each chart has a block of rows on it.
 inline constexpr const char* kDataSheet = "VEX_ChartData";
 

@@ -28,7 +28,6 @@ using runtime::Ref;
 
 namespace {
 
-constexpr std::int32_t kFirstDefinitionRow = 2;
 constexpr const char* kSchemaVersion = "2";
 
 /// A row of the sheet, as it was last read.

@@ -16,24 +16,7 @@ class Placer {
  private:
   Point At(Point point) const { return {corner_.x + point.x * scale_, corner_.y + point.y * scale_}; }
   Path At(const Path& path) const {
-    Path placed;
-    for (const PathStep& step : path.Steps()) {
-      switch (step.kind) {
-        case PathStep::Kind::kMove:
-          placed.MoveTo(At(step.to));
-          break;
-        case PathStep::Kind::kLine:
-          placed.LineTo(At(step.to));
-          break;
-        case PathStep::Kind::kCurve:
-          placed.CurveTo(At(step.control1), At(step.control2), At(step.to));
-          break;
-        case PathStep::Kind::kClose:
-          placed.Close();
-          break;
-      }
-    }
-    return placed;
+    return path.Mapped([this](Point point) { return At(point); });
   }
   PathItem At(const PathItem& item) const {
     PathItem placed{At(item.path), item.fill, item.stroke};

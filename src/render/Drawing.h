@@ -126,6 +126,19 @@ class Path {
   bool IsEmpty() const { return steps_.empty(); }
   /// Returns the smallest rectangle around the lines and curves. Control points may lie outside.
   Rect Bounds() const;
+  /// Returns the path with each of its points mapped. `map` takes and returns a Point.
+  template <class Map>
+  Path Mapped(const Map& map) const {
+    Path mapped = *this;
+    for (PathStep& step : mapped.steps_) {
+      if (step.kind == PathStep::Kind::kClose) continue;
+      step.to = map(step.to);
+      if (step.kind != PathStep::Kind::kCurve) continue;
+      step.control1 = map(step.control1);
+      step.control2 = map(step.control2);
+    }
+    return mapped;
+  }
   /// Moves the whole path.
   void Move(Point by);
 

@@ -23,8 +23,6 @@
 namespace plotsmith::cli {
 namespace {
 
-constexpr std::int32_t kFirstRow = 2;
-
 /// Checks the rows of the sheet.
 class RowCheck {
  public:
@@ -32,8 +30,8 @@ class RowCheck {
 
   std::vector<CheckedDefinition> Run() {
     CheckHead();
-    std::int32_t expected = kFirstRow;
-    for (std::int32_t row = kFirstRow - 1; (row = sheet_.NextRowAt(row, 1)) != 0;) {
+    std::int32_t expected = kFirstDefinitionRow;
+    for (std::int32_t row = kFirstDefinitionRow - 1; (row = sheet_.NextRowAt(row, 1)) != 0;) {
       const std::string text = TextAt(row);
       if (text.empty()) continue;
       CheckedDefinition& definition = Add(row);
@@ -70,7 +68,8 @@ class RowCheck {
 
   /// Checks the first row, which is reserved for the version text.
   void CheckHead() {
-    if (TextAt(1).starts_with('<')) MarkUnread(Add(1), "the list begins in " + DefinitionPlace(kFirstRow));
+    if (TextAt(1).starts_with('<'))
+      MarkUnread(Add(1), "the list begins in " + DefinitionPlace(kFirstDefinitionRow));
   }
 
   void CheckRow(CheckedDefinition& definition, const std::string& text) {

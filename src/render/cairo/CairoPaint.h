@@ -1,10 +1,21 @@
 #pragma once
 
+#include <cairo.h>
+#include <memory>
+
 #include "render/Drawing.h"
 
-typedef struct _cairo cairo_t;
-
 namespace plotsmith::render {
+
+/// Surfaces and contexts of Cairo that destroy themselves.
+struct DestroySurface {
+  void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
+};
+struct DestroyContext {
+  void operator()(cairo_t* cr) const { cairo_destroy(cr); }
+};
+using Surface = std::unique_ptr<cairo_surface_t, DestroySurface>;
+using Context = std::unique_ptr<cairo_t, DestroyContext>;
 
 /// Makes an outline the current path.
 void Trace(cairo_t* cr, const Path& path);

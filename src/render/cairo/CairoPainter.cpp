@@ -19,15 +19,6 @@
 namespace plotsmith::render {
 namespace {
 
-struct DestroySurface {
-  void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
-};
-struct DestroyContext {
-  void operator()(cairo_t* cr) const { cairo_destroy(cr); }
-};
-using Surface = std::unique_ptr<cairo_surface_t, DestroySurface>;
-using Context = std::unique_ptr<cairo_t, DestroyContext>;
-
 cairo_status_t Append(void* bytes, const unsigned char* data, unsigned length) {
   static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);
   return CAIRO_STATUS_SUCCESS;

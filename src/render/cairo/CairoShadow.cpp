@@ -11,15 +11,6 @@
 namespace plotsmith::render {
 namespace {
 
-struct DestroySurface {
-  void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
-};
-struct DestroyContext {
-  void operator()(cairo_t* cr) const { cairo_destroy(cr); }
-};
-using Surface = std::unique_ptr<cairo_surface_t, DestroySurface>;
-using Context = std::unique_ptr<cairo_t, DestroyContext>;
-
 /// Paints area and line of a shadow as they are, so that they don't add up where they lie on each other.
 void PaintForm(cairo_t* cr, const ShadowItem& item) {
   cairo_set_source_rgba(cr, 0, 0, 0, 1);

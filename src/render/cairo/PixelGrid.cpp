@@ -23,14 +23,7 @@ Path OnPixels(const Path& path, const PixelScale& scale, double strokeWidth) {
     const double at = place * pixels + kDust;
     return (odd ? std::floor(at) + 0.5 : std::round(at)) / pixels;
   };
-  Path snapped;
-  for (const PathStep& step : path.Steps()) {
-    const Point to{snap(step.to.x, scale.x), snap(step.to.y, scale.y)};
-    if (step.kind == PathStep::Kind::kMove) snapped.MoveTo(to);
-    if (step.kind == PathStep::Kind::kLine) snapped.LineTo(to);
-    if (step.kind == PathStep::Kind::kClose) snapped.Close();
-  }
-  return snapped;
+  return path.Mapped([&](Point point) { return Point{snap(point.x, scale.x), snap(point.y, scale.y)}; });
 }
 
 double WidthOnPixels(double width, const PixelScale& scale) {

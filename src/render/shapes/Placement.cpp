@@ -29,24 +29,7 @@ Point Placement::Map(Point point) const {
 }
 
 Path Placement::Map(const Path& path) const {
-  Path mapped;
-  for (const PathStep& step : path.Steps()) {
-    switch (step.kind) {
-      case PathStep::Kind::kMove:
-        mapped.MoveTo(Map(step.to));
-        break;
-      case PathStep::Kind::kLine:
-        mapped.LineTo(Map(step.to));
-        break;
-      case PathStep::Kind::kCurve:
-        mapped.CurveTo(Map(step.control1), Map(step.control2), Map(step.to));
-        break;
-      case PathStep::Kind::kClose:
-        mapped.Close();
-        break;
-    }
-  }
-  return mapped;
+  return path.Mapped([this](Point point) { return Map(point); });
 }
 
 }  // namespace plotsmith::render

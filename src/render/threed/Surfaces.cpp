@@ -126,12 +126,10 @@ class SurfacePainter {
     return stage_.At(projection_, corner.category, corner.value, corner.depth);
   }
 
-  Path PathOf(const std::vector<Corner>& polygon) const {
+  void AddPolygon(const std::vector<Corner>& polygon, Path& path) const {
     std::vector<Point> corners;
     for (const Corner& corner : polygon) corners.push_back(projection_.Project(Place(corner)));
-    Path path;
     path.AddPolygon(corners);
-    return path;
   }
 
   /// The triangles of a cell, about the mean of its corners.
@@ -181,7 +179,9 @@ class SurfacePainter {
       const double light = LightOf(triangle);
       ForEachPiece(triangle, [&](const Band& band, const std::vector<Corner>& piece) {
         const Fill lit = Lit(band.style->fill, light);
-        plot_.canvas.Add({Role::kSurface, 0, band.number}, PathOf(piece), lit,
+        Path path;
+        AddPolygon(piece, path);
+        plot_.canvas.Add({Role::kSurface, 0, band.number}, std::move(path), lit,
                          band.style->stroke.width > 0 ? band.style->stroke : WideSeamOf(lit));
       });
     }
@@ -194,9 +194,7 @@ class SurfacePainter {
       for (std::size_t column = 0; column + 1 < columns_.size(); ++column) {
         for (const auto& triangle : TrianglesOf(row, column)) {
           ForEachPiece(triangle, [&](const Band& band, const std::vector<Corner>& piece) {
-            std::vector<Point> corners;
-            for (const Corner& corner : piece) corners.push_back(projection_.Project(Place(corner)));
-            paths[static_cast<std::size_t>(band.number - 1)].AddPolygon(corners);
+            AddPolygon(piece, paths[static_cast<std::size_t>(band.number - 1)]);
           });
         }
       }

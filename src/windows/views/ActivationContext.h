@@ -4,9 +4,9 @@
 
 namespace plotsmith::windows {
 
-/// While it lives, windows are created with version 6 of the common controls, which has visual styles,
-/// whatever version the program uses. A manifest in the module, resource 2, names that version. Without this
-/// manifest, windows use the program's version.
+/// While it lives, windows are created with version 6 of the common controls, which has visual styles, even
+/// if the program uses another version. A manifest in the module, resource 2, names that version. Without
+/// this manifest, windows use the program's version.
 class ActivationContext {
  public:
   ActivationContext();

@@ -77,7 +77,7 @@ struct Section {
   Kind kind = Kind::kLiteral;
   std::optional<Condition> condition;
   bool onlyNegative = false;     // only negative numbers use the section, so the minus sign is left out
-  bool hidesSignOfZero = false;  // a number of which only zeros are shown has no minus sign
+  bool hidesSignOfZero = false;  // a number whose shown digits are all zeros has no minus sign
   std::vector<Token> tokens;
   std::string texts;  // the texts of the tokens
 

@@ -129,7 +129,7 @@ TEST(SheetScannerTest, TheUsualFormOfCellsAndRowsReadsAsTheOthers) {
        R"(<c r="C2" t="s"><v>1.5</v></c><c r="D2" t="s"><v></v></c><c r="E2" t="s"><v>1x</v></c><c r="F2" t="s"><v>0</v></c>)"
        R"(<c r="G2" t="s"><v>-1</v></c></row>)",
        "F2=s0 used $F$2"},
-      // Heights of rows, whatever else the row says.
+      // Heights of rows, with and without other attributes.
       {R"(<row r="2" ht="30"/><row r="3" spans="1:2" hidden="1"></row><row r="4" ht="x"><c r="A4"><v>1</v></c></row>)"
        R"(<row r="5" customHeight="1" ht="20.5" hidden="0"/><row r="6" hidden="true" ht="9"/><row r="7" height="3"/>)",
        "A4=n1 used $A$4 ht2=30 ht3=0 ht5=20.5 ht6=0"},
