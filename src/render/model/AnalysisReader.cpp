@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <map>
 
 #include "render/model/ChartReader.h"
 #include "render/model/DateSlots.h"
@@ -332,36 +331,6 @@ void AddAnalysisExtent(const ChartModel& chart, const GroupModel& group, bool is
       }
     }
     for (const Trendline& line : series.trendlines) AddExtensions(line, axis, isX, extent);
-  }
-}
-
-void AddTrendlineEntries(ReadingContext& context, ChartModel& chart) {
-  if (!chart.legend) return;
-  LegendModel& legend = *chart.legend;
-  const auto node = xml::Child(context.part.Space(), "chart", "legend");
-  // entries of trendlines are counted behind those of all series, or of all points
-  std::size_t number = context.part.Series().size();
-  const bool hasPoints = std::any_of(legend.entries.begin(), legend.entries.end(),
-                                     [](const LegendEntry& entry) { return entry.point > 0; });
-  if (hasPoints && !chart.groups.empty()) number = chart.groups.front().PointCount();
-  std::map<std::size_t, pugi::xml_node> owns;  // by their numbers; the first of a number counts
-  for (const pugi::xml_node& own : xml::Children(node, "legendEntry")) {
-    owns.emplace(static_cast<std::size_t>(schema::IntegerVal(own, "idx", -1)), own);
-  }
-  for (const GroupModel& group : chart.groups) {
-    for (const SeriesModel& series : group.series) {
-      int count = 0;
-      for (const Trendline& line : series.trendlines) {
-        if (legend.entries.size() >= kMostLegendEntries) return;
-        const auto found = owns.find(number++);
-        const pugi::xml_node own = found == owns.end() ? pugi::xml_node() : found->second;
-        ++count;
-        if (schema::BooleanVal(own, "delete", false)) continue;
-        LegendEntry entry{line.name, legend.text, series.number, 0, count};
-        if (xml::Child(own, "txPr")) entry.style = ReadTextStyle(context.part, own, xlsx::TextRole::kOther);
-        legend.entries.push_back(std::move(entry));
-      }
-    }
   }
 }
 

@@ -8,7 +8,6 @@
 #include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/chart/rules/ChartText.h"
 #include "xlsx/chart/rules/GroupAxes.h"
-#include "xlsx/chart/rules/LegendLines.h"
 #include "xlsx/chart/rules/PlotGroups.h"
 #include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/package/Xml.h"
@@ -128,25 +127,6 @@ FormatPointer ReadingContext::Format(const std::string& code) {
   return format;
 }
 
-std::optional<LegendModel> ReadLegend(ReadingContext& context) {
-  const auto node = xml::Child(context.part.Space(), "chart", "legend");
-  if (!node) return std::nullopt;
-  LegendModel legend;
-  legend.position = schema::Val(node, "legendPos", "r");
-  legend.overlay = schema::BooleanVal(node, "overlay", false);
-  legend.layout = ReadLayout(node);
-  legend.style = ReadStyle(context.part, xml::Child(node, "spPr"), {});
-  legend.text = ReadTextStyle(context.part, node, xlsx::TextRole::kOther);
-  for (const xlsx::LegendLine& line : xlsx::LegendLines(context.part, kMostLegendEntries)) {
-    LegendEntry entry{line.text, legend.text, static_cast<int>(line.series + 1),
-                      line.point ? static_cast<int>(*line.point + 1) : 0};
-    const auto own = schema::FindNumbered(node, "legendEntry", static_cast<long long>(line.number));
-    if (xml::Child(own, "txPr")) entry.style = ReadTextStyle(context.part, own, xlsx::TextRole::kOther);
-    legend.entries.push_back(std::move(entry));
-  }
-  return legend;
-}
-
 ChartModel ReadChart(xlsx::ChartPart& part, Notes& notes) {
   ReadingContext context(part, notes);
   const auto space = part.Space();
@@ -177,6 +157,7 @@ ChartModel ReadChart(xlsx::ChartPart& part, Notes& notes) {
   AddTrendlineEntries(context, chart);
   ScaleAxes(chart);
   ReadSurfaces(context, chart);
+  AddBandEntries(context, chart);
   return chart;
 }
 

@@ -55,13 +55,15 @@ std::optional<LegendModel> ReadLegend(ReadingContext& context);
 void ReadAnalysis(ReadingContext& context, ChartModel& chart);
 /// Reads the data table of a plot area, and makes room for it in place of tick labels.
 void ReadDataTable(ReadingContext& context, pugi::xml_node plotArea, ChartModel& chart);
-/// Reads surfaces, whose axes are scaled, and gives their bands to the legend.
+/// Reads the bands of surfaces, whose axes must be scaled.
 void ReadSurfaces(ReadingContext& context, ChartModel& chart);
 /// Adds what error bars and extended trendlines need of an axis. The axis of X values must be scaled before
 /// that of values.
 void AddAnalysisExtent(const ChartModel& chart, const GroupModel& group, bool isX, xlsx::DataExtent& extent);
 /// Adds the entries of trendlines to the legend.
 void AddTrendlineEntries(ReadingContext& context, ChartModel& chart);
+/// Replaces the entries of the legend by those of the bands, if the chart has surfaces.
+void AddBandEntries(ReadingContext& context, ChartModel& chart);
 /// Lays the categories of an axis of dates (c:cat) out by their dates; leaves it as one of categories where
 /// they are none.
 void ReadDates(ReadingContext& context, pugi::xml_node categories, AxisModel& axis);

@@ -59,20 +59,6 @@ void ReadSurfaces(ReadingContext& context, ChartModel& chart) {
     AxisModel& axis = chart.axes[static_cast<std::size_t>(group.value)];
     axis.settings.majorUnit = axis.scale.majorUnit;  // the bands are made by it
     ReadBands(context, LimitsOf(axis), group);
-    if (!chart.legend) continue;
-    // the legend has the bands in place of the series
-    chart.legend->entries.clear();
-    const auto text = [&](double value) {
-      std::string number;
-      axis.format->AppendNumber(number, value / axis.units.factor, chart.dates);
-      return number;
-    };
-    int number = 0;
-    for (const SurfaceBand& band : group.bands) {
-      LegendEntry entry{text(band.from) + "-" + text(band.to), chart.legend->text};
-      entry.band = ++number;
-      chart.legend->entries.push_back(std::move(entry));
-    }
   }
 }
 
