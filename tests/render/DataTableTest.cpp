@@ -1,5 +1,3 @@
-#include <chrono>
-
 #include "tests/render/DrawingTest.h"
 
 namespace plotsmith {
@@ -18,10 +16,12 @@ const S kLines = "<c:showHorzBorder val=\"1\"/><c:showVertBorder val=\"1\"/><c:s
 
 class DataTableTest : public DrawingTest {
  protected:
-  Drawing DrawWithTable(const S& table, const S& series, const S& category = "", bool horizontal = false) {
+  Drawing DrawWithTable(const S& table, const S& series, const S& category = "", bool horizontal = false,
+                        double width = 384) {
     return Draw(
         PlotXml(GroupXml("barChart", S("<c:barDir val=\"") + (horizontal ? "bar" : "col") + "\"/>", series) +
-                AxesXml(category, "", horizontal) + "<c:dTable>" + table + "</c:dTable>"));
+                AxesXml(category, "", horizontal) + "<c:dTable>" + table + "</c:dTable>"),
+        "", width, 270);
   }
 };
 
@@ -90,27 +90,43 @@ TEST_F(DataTableTest, HasTheLinesKeysAndFontOfItsElement) {
 TEST_F(DataTableTest, SaysWhatHasNoRoom) {
   S many;
   for (int i = 0; i < 60; ++i) many += SeriesXml(i, {1, 2});
+  S wide;
+  for (int i = 0; i < 3; ++i) wide += SeriesXml(i, std::vector<double>(10'000, 1));
   struct {
     const char* what;
     S series;
     bool horizontal;
+    double width;
     std::size_t texts;
     render::Notes notes;
   } const kCases[] = {
-      {"rows", many, false, 8 * 3, {"The data table has no room for 52 of its series, which are left out."}},
+      {"rows",
+       many,
+       false,
+       384,
+       8 * 3,
+       {"The data table has no room for 52 of its series, which are left out."}},
       {"columns",
        SeriesXml(0, std::vector<double>(5000, 1)),
        false,
+       384,
        0,
        {"The data table isn't drawn, as its columns have no room for a text."}},
+      {"cells",
+       wide,
+       false,
+       200'000,
+       2 * 10'001,
+       {"The data table has no room for 1 of its series, which are left out."}},
       {"lying bars",
        SeriesXml(0, {1}),
        true,
+       384,
        0,
        {"The data table isn't drawn, as its chart has no flat axis of categories."}},
   };
   for (const auto& test : kCases) {
-    const Drawing drawing = DrawWithTable(kLines, test.series, "", test.horizontal);
+    const Drawing drawing = DrawWithTable(kLines, test.series, "", test.horizontal, test.width);
     EXPECT_EQ(TextsOf(drawing, Role::kTableText).size(), test.texts) << test.what;
     EXPECT_EQ(notes_, test.notes) << test.what;
     EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
@@ -120,7 +136,7 @@ TEST_F(DataTableTest, SaysWhatHasNoRoom) {
 TEST_F(DataTableTest, LeavesTheTickLabelsWhereItHasNoRoom) {
   // the columns are too narrow with the names beside them, or even without
   const S name = "A name that takes nearly a third of the width";
-  for (const std::size_t count : {75u, 300u}) {
+  for (const std::size_t count : {55u, 75u, 300u}) {
     S series = SeriesXml(0, std::vector<double>(count, 1));
     series.replace(series.find("Series 0"), S("Series 0").size(), name);
     const Drawing drawing = DrawWithTable(kLines, series);
@@ -133,14 +149,12 @@ TEST_F(DataTableTest, LeavesTheTickLabelsWhereItHasNoRoom) {
 }
 
 TEST_F(DataTableTest, LongTextsEndInDots) {
-  const auto start = std::chrono::steady_clock::now();
   const S name(20'000, 'x');
   const Drawing drawing =
       DrawWithTable(kLines, SeriesXml(0, {1, 1e300}, "", "", CategoriesXml({name, S(20'000, ' ') + name})));
   EXPECT_EQ(DrawingComplaints(drawing), "");
   for (const S& text : TextsOf(drawing, Role::kTickLabel, 1))
     EXPECT_TRUE(text.ends_with("...")) << text.size();
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
 }
 
 }  // namespace

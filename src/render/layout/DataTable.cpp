@@ -13,12 +13,12 @@ namespace plotsmith::render {
 namespace {
 
 constexpr double kPadding = 2;         // points between a text and the edges of its cell
-constexpr double kNarrowest = 4;       // points of a column in which something can be read
 constexpr double kKeyWidth = 18;       // points of a legend key with the gap behind it
 constexpr double kRowSpacing = 1.2;    // of the height of a line
 constexpr double kMostHeight = 0.5;    // of the chart
 constexpr double kMostOfNames = 0.3;   // of the chart's width
 constexpr std::size_t kMostLines = 3;  // of a category
+constexpr std::size_t kMostCells = 20'000;
 
 std::vector<const SeriesModel*> SeriesOf(const ChartModel& chart) {
   std::vector<const SeriesModel*> all;
@@ -78,7 +78,7 @@ TableLayout LayOutTable(const ChartModel& chart, const Rect& bounds, const Rect&
   const auto series = SeriesOf(chart);
   const double row = measure.Measure("0", style.font).Height() * kRowSpacing;
   const double width = plot.width / std::max<double>(static_cast<double>(axis.categories.size()), 1);
-  layout.isTooNarrow = width < kNarrowest;
+  layout.isTooNarrow = width < measure.Measure("0", style.font).width + 2 * kPadding;
   layout.rows.push_back(plot.Bottom());
   if (layout.isTooNarrow || axis.categories.empty()) return layout;
   layout.columns.push_back(plot.left - WidthOfNames(chart, series, kMostOfNames * bounds.width, measure));
@@ -91,8 +91,9 @@ TableLayout LayOutTable(const ChartModel& chart, const Rect& bounds, const Rect&
   }
   layout.rows.push_back(plot.Bottom() + head);
   const double most = plot.Bottom() + kMostHeight * bounds.height;
+  const std::size_t mostSeries = kMostCells / axis.categories.size();
   for (std::size_t i = 0; i < series.size(); ++i) {
-    if (layout.rows.back() + row > most) {
+    if (i == mostSeries || layout.rows.back() + row > most) {
       layout.leftOut = series.size() - i;
       break;
     }
