@@ -127,11 +127,7 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
 void DrawPlot(Plot& plot, const ChartLayout& layout) {
   const ChartModel& chart = plot.chart;
   if (chart.groups.empty()) return;  // a chart without data shows nothing of its plot area
-  if (chart.plotArea.shadow) {
-    plot.canvas.AddShadow({Role::kPlotArea}, Path().AddRect(plot.area), chart.plotArea.fill,
-                          chart.plotArea.stroke, *chart.plotArea.shadow);
-  }
-  plot.canvas.AddFrame({Role::kPlotArea}, plot.area, chart.plotArea.fill, chart.plotArea.stroke);
+  AddFrame(plot.canvas, {Role::kPlotArea}, plot.area, chart.plotArea);
   for (const AxisModel& axis : chart.axes) DrawGridlines(plot.canvas, chart, axis, plot.area);
   for (const GroupModel& group : chart.groups) DrawGroup(plot, group);
   for (std::size_t i = 0; i < chart.axes.size(); ++i) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "render/model/StyledShape.h"
 #include "render/plot/LegendKey.h"
 
 namespace plotsmith::render {
@@ -281,11 +282,7 @@ void DrawLegend(Canvas& canvas, const ChartModel& chart, const LegendLayout& lay
                                              " of its entries; the others are left out.");
   }
   if (layout.entries.empty()) return;
-  const ShapeStyle& style = chart.legend->style;
-  if (style.shadow) {
-    canvas.AddShadow({Role::kLegend}, Path().AddRect(layout.box), style.fill, style.stroke, *style.shadow);
-  }
-  canvas.AddFrame({Role::kLegend}, layout.box, style.fill, style.stroke);
+  AddFrame(canvas, {Role::kLegend}, layout.box, chart.legend->style);
   for (const PlacedEntry& placed : layout.entries) {
     const LegendEntry& entry = *placed.entry;
     if (entry.trendline > 0) {

@@ -7,8 +7,10 @@ namespace plotsmith::render {
 
 /// Appends a path in a style: its shadow, and on it the path itself.
 void AddShape(Canvas& canvas, Tag tag, Path path, const ShapeStyle& style);
-/// The same of the frame around a text. Without filling and line, the text would have the shadow; that isn't
-/// drawn, which a sentence says.
+/// Appends a frame in a style, which is one item even if nothing of it is seen.
+void AddFrame(Canvas& canvas, Tag tag, const Rect& frame, const ShapeStyle& style);
+/// Appends the frame around a text. If the frame has neither filling nor line, its shadow is that of the
+/// text. Such shadows aren't drawn, and a note says that.
 void AddTextFrame(Canvas& canvas, Tag tag, const Rect& frame, const ShapeStyle& style);
 
 }  // namespace plotsmith::render

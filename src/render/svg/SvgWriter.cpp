@@ -213,10 +213,13 @@ class Writer {
     }
     if (item.color.alpha < 1) body_ += " opacity=\"" + SvgNumber(item.color.alpha) + '"';
     if (item.blur > 0) {
-      // the region is that of the drawing, as that of a line without a height would be empty
+      // The region of the filter is the drawing and what a blur takes from around it. The default region
+      // of a line without a height would be empty.
+      const double around = 3 * item.blur;
       const std::string id =
-          definitions_.IdOf("<filter id=\"@\" filterUnits=\"userSpaceOnUse\" x=\"0\" y=\"0\" width=\"" +
-                            SvgNumber(width_) + "\" height=\"" + SvgNumber(height_) +
+          definitions_.IdOf("<filter id=\"@\" filterUnits=\"userSpaceOnUse\" x=\"" + SvgNumber(-around) +
+                            "\" y=\"" + SvgNumber(-around) + "\" width=\"" + SvgNumber(width_ + 2 * around) +
+                            "\" height=\"" + SvgNumber(height_ + 2 * around) +
                             "\"><feGaussianBlur stdDeviation=\"" + SvgNumber(item.blur) + "\"/></filter>");
       body_ += " filter=\"url(#" + id + ")\"";
     }

@@ -103,7 +103,8 @@ TEST_F(ShadowTest, LooksAlikeInSvgAndPng) {
   const Drawing drawing =
       Draw(ColumnsXml(ShadowedXml("blurRad=\"50800\" dist=\"127000\" dir=\"0\"", "100000")));
   const S svg = MakeSvg(drawing);
-  EXPECT_NE(svg.find("<feGaussianBlur stdDeviation=\"2\"/>"), S::npos);
+  EXPECT_NE(svg.find("x=\"-6\" y=\"-6\" width=\"396\" height=\"282\"><feGaussianBlur stdDeviation=\"2\"/>"),
+            S::npos);
   EXPECT_EQ(svg.find("<filter "), svg.rfind("<filter "));  // Both shadows share the filter.
   EXPECT_NE(svg.find("fill=\"#112233\" filter=\"url(#"), S::npos);
   const render::Raster raster = MakeRaster(drawing, SharedFonts(), 72);
