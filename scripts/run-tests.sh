@@ -1,6 +1,7 @@
 #!/bin/sh
 # Runs test programs, each split into one part per processor, and prints how many tests passed. One process per test, as
-# ctest starts them, takes longer than most tests, above all under the sanitizers.
+# ctest starts them, takes longer than most tests, above all under the sanitizers. A part that has not ended within half an
+# hour is stopped.
 # Usage: scripts/run-tests.sh PROGRAM...
 set -eu
 parts=$(nproc)
@@ -12,7 +13,7 @@ for program; do
   for part in $(seq 0 $((parts - 1))); do
     (
       code=0
-      GTEST_TOTAL_SHARDS=$parts GTEST_SHARD_INDEX=$part "$program" --gtest_brief=1 >"$logs/$part" 2>&1 || code=$?
+      GTEST_TOTAL_SHARDS=$parts GTEST_SHARD_INDEX=$part timeout 1800 "$program" --gtest_brief=1 >"$logs/$part" 2>&1 || code=$?
       echo "$code" >"$logs/$part.code"
     ) &
   done

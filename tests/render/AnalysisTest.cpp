@@ -1,5 +1,3 @@
-#include <chrono>
-
 #include "render/model/Analysis.h"
 #include "tests/render/DrawingTest.h"
 #include "xlsx/package/Xml.h"
@@ -439,8 +437,7 @@ TEST_F(AnalysisTest, TheLimitOfTrendlinesEndsNothingElse) {
                            "left out."}));
 }
 
-TEST_F(AnalysisTest, ManyLegendEntriesTakeLittleTime) {
-  const auto start = std::chrono::steady_clock::now();
+TEST_F(AnalysisTest, LegendsOfManyTrendlinesHaveTheEntriesThatFit) {
   S trends, entries;
   for (int i = 0; i < 30'000; ++i) {
     trends += TrendXml("linear");
@@ -449,12 +446,14 @@ TEST_F(AnalysisTest, ManyLegendEntriesTakeLittleTime) {
   }
   const Drawing drawing = DrawGroup("barChart", "<c:barDir val=\"col\"/>", SeriesXml(0, {1, 2}, trends), "",
                                     "<c:legend>" + entries + "</c:legend>");
-  EXPECT_FALSE(TextsOf(drawing, Role::kLegendEntry).empty());
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+  EXPECT_EQ(TextsOf(drawing, Role::kLegendEntry).size(), 18u);
+  EXPECT_EQ(notes_,
+            (render::Notes{"The chart has more trendlines through many points than are drawn; the rest is "
+                           "left out.",
+                           "The legend has room for 18 of its entries; the others are left out."}));
 }
 
-TEST_F(AnalysisTest, WildNumbersTakeLittleTime) {
-  const auto start = std::chrono::steady_clock::now();
+TEST_F(AnalysisTest, WildNumbersStayOnTheDrawing) {
   Numbers many;
   for (int i = 0; i < 20'000; ++i) many.push_back(i % 7 == 0 ? 1e308 : -1e308);
   const S wild = TrendXml("poly",
@@ -467,7 +466,6 @@ TEST_F(AnalysisTest, WildNumbersTakeLittleTime) {
     EXPECT_LT(drawing.items.size(), 200'000u);
     EXPECT_EQ(DrawingComplaints(drawing), "");
   }
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
 }
 
 }  // namespace

