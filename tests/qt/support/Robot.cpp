@@ -31,6 +31,15 @@ void TypeFileName(QWidget& dialog, const std::string& name) {
   });
 }
 
+/// Returns the visible button with a text, or null.
+QPushButton* FindButton(const QWidget& window, const std::string& text) {
+  for (QPushButton* button : window.findChildren<QPushButton*>()) {
+    const QString shown = button->text().remove('&').remove("...");
+    if (button->isVisible() && qt::TextOf(shown) == text) return button;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 std::vector<std::string> LinesOf(const std::string& script) {
@@ -44,13 +53,9 @@ std::vector<std::string> LinesOf(const std::string& script) {
 }
 
 bool PressButton(QWidget& window, const std::string& text) {
-  for (QPushButton* button : window.findChildren<QPushButton*>()) {
-    const QString shown = button->text().remove('&').remove("...");
-    if (!button->isVisible() || qt::TextOf(shown) != text) continue;
-    QTest::mouseClick(button, Qt::LeftButton);
-    return true;
-  }
-  return false;
+  QPushButton* const button = FindButton(window, text);
+  if (button != nullptr) QTest::mouseClick(button, Qt::LeftButton);
+  return button != nullptr;
 }
 
 Robot::Robot(const std::string& script, Deeds deeds)
@@ -94,12 +99,13 @@ bool Robot::Play(const std::string& line) {
   const auto [verb, rest] = VerbAndRest(line);
   QWidget* const front = FrontWindow();
   const std::string name = NameOf(front);
-  if (line == "do wait") return sinceLine_.hasExpired(kPause) && front != nullptr;
+  if (line == "do wait") return sinceLine_.hasExpired(kPause) && !name.empty() && name != kBusyWindow;
   if (verb == "do") {
     deeds_.at(rest)();
     return true;
   }
   if (verb == "page") return name == rest;
+  if (verb == "button") return front != nullptr && FindButton(*front, rest) != nullptr;
   if (verb == "quit") {
     BookWindow()->close();
     return true;

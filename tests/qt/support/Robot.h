@@ -18,12 +18,13 @@ namespace plotsmith::test {
 /// | line | what it does |
 /// |---|---|
 /// | `page NAME` | waits for the page |
+/// | `button BUTTON` | waits for the button in the window in front |
 /// | an action, as in the scripts of the command | performs it on the front page |
 /// | `box BUTTON` | presses the button of a message box; "&" is left out |
 /// | `bar BUTTON` | presses the button of the bar above the workbook |
 /// | `file NAME` | types the name into the file dialog and presses Enter |
 /// | `quit` | closes the workbook window |
-/// | `do wait` | waits until a window is in front |
+/// | `do wait` | pauses, and waits until a window other than the busy window is in front |
 /// | `do NAME` | calls the function with this name at once |
 ///
 /// The program may be busy, so a line that can't be executed is repeated for a while. If it still fails, and

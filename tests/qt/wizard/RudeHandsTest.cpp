@@ -124,7 +124,7 @@ TEST_F(RudeHandsTest, AKeyThatIsHeldDownCountsOnce) {
        "frmPSSelectAction frmPSSelectTable box frmPSSelectTable"},
       {test::kWays[0].lines + "press cmdDelete; do repeat; do escape; do repeat; box Cancel",
        "frmPSSelectAction box frmPSSelectAction"},
-      {test::kWays[6].lines + "press cmdFinish; do wait; do repeat; do repeat; bar Discard",
+      {test::kWays[6].lines + "press cmdFinish; button Discard; do repeat; do repeat; bar Discard",
        "frmPSSelectAction frmPSSelectTable frmPSLayoutABC frmPSChartLocation bar"},
       {test::kWays[1].lines + "do escape; page frmPSSelectTable", "frmPSSelectAction frmPSSelectTable"},
   };
@@ -157,7 +157,7 @@ TEST_F(RudeHandsTest, APageBehindAMessageTakesNoInput) {
     }
   };
   const auto run = RunUnsaved(
-      "page frmPSSelectAction; press cmdNew; page frmPSSelectTable; press cmdNext; do wait; "
+      "page frmPSSelectAction; press cmdNew; page frmPSSelectTable; press cmdNext; button OK; "
       "do poke; box OK; page frmPSSelectTable",
       {{"poke", poke}});
   EXPECT_EQ(run.seen, "frmPSSelectAction frmPSSelectTable box frmPSSelectTable");
