@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "dom/XmlCharacters.h"
+#include "runtime/Ascii.h"
 #include "runtime/Strings.h"
 #include "xlsx/base/Limits.h"
 #include "xlsx/package/PackageError.h"
@@ -161,12 +162,10 @@ struct PartWalker : pugi::xml_tree_walker {
   }
 };
 
-bool IsWhiteSpace(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
-
 /// Returns the number without surrounding white space and without a plus sign.
 std::string_view NumberIn(std::string_view text) {
-  while (!text.empty() && IsWhiteSpace(text.front())) text.remove_prefix(1);
-  while (!text.empty() && IsWhiteSpace(text.back())) text.remove_suffix(1);
+  while (!text.empty() && ascii::IsSpace(text.front())) text.remove_prefix(1);
+  while (!text.empty() && ascii::IsSpace(text.back())) text.remove_suffix(1);
   if (text.starts_with('+')) text.remove_prefix(1);
   return text;
 }
