@@ -212,11 +212,11 @@ void Parse(pugi::xml_document& document, std::string_view bytes) {
   const auto status = document.load_buffer(text.data(), text.size(), kParse, pugi::encoding_utf8);
   if (status.status == pugi::status_out_of_memory) throw std::bad_alloc();
   if (!status || !Root(document)) throw PackageError("its XML is damaged");
+  PartWalker walker;
+  document.traverse(walker);
   for (const pugi::xml_node& node : document.children()) {
     if (node.type() == pugi::node_doctype) throw PackageError(kHasDocumentType);
   }
-  PartWalker walker;
-  document.traverse(walker);
   pugi::xml_node declaration = document.first_child();
   if (declaration.type() == pugi::node_declaration && declaration.attribute("encoding")) {
     declaration.attribute("encoding").set_value("UTF-8");
