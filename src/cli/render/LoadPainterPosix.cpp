@@ -50,6 +50,7 @@ const render::Painter& Load() {
   const auto refuse = [&](const std::string& why) -> CommandError {
     return CommandError(exit_code::kUsage, "nothing can be drawn: \"" + path.string() + "\" " + why + ".");
   };
+  // Most functions of the graphics libraries are never called, so they are bound when they are.
   void* const module = dlopen(path.c_str(), RTLD_LAZY | RTLD_LOCAL);
   if (module == nullptr) {
     const char* const reason = dlerror();
