@@ -96,7 +96,9 @@ void Canvas::AddShadow(Tag tag, const Path& path, const Fill& fill, const Stroke
 }
 
 void Canvas::AddLine(Tag tag, Point from, Point to, const Stroke& stroke) {
-  Add(tag, Path().MoveTo(from).LineTo(to), {}, stroke);
+  Path line;
+  line.MoveTo(from).LineTo(to);
+  Add(tag, std::move(line), {}, stroke);
 }
 
 void Canvas::AddText(Tag tag, TextItem text) {

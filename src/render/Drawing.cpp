@@ -109,6 +109,7 @@ Path& Path::Close() {
 }
 
 Path& Path::AddRect(const Rect& rect) {
+  if (steps_.empty()) steps_.reserve(5);
   return MoveTo({rect.left, rect.top})
       .LineTo({rect.Right(), rect.top})
       .LineTo({rect.Right(), rect.Bottom()})

@@ -216,5 +216,22 @@ TEST_F(PictureFilesTest, FontsHaveTheWidthsOfTheFiles) {
   EXPECT_NEAR(extent.Height(), 12.2, 0.1);
 }
 
+TEST_F(PictureFilesTest, PlainTextsAreAsWideAsOthers) {
+  constexpr const char* kZeroWidth = "\u2060";  // With it, a text is measured in another way.
+  const auto width = [](const S& text, const render::Font& font) {
+    return SharedFonts().Measure(text, font).width;
+  };
+  for (const render::Font& font : {render::Font{"Calibri", 10}, render::Font{"Arial", 9.5, true, true},
+                                   render::Font{"No such font", 12, false, false, true}}) {
+    for (const S text :
+         {"1,234.5 %", "To AV AWAY", "office fi ffl", " a  b ", "(x+y)/2 = \"q\"", "#,##0;-$"}) {
+      EXPECT_EQ(width(text, font), width(text + kZeroWidth, font)) << font.family << ": " << text;
+    }
+  }
+  // letters move together
+  const render::Font calibri{"Calibri", 10};
+  EXPECT_LT(width("AV", calibri), width("A", calibri) + width("V", calibri));
+}
+
 }  // namespace
 }  // namespace plotsmith

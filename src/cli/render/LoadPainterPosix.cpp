@@ -50,7 +50,8 @@ const render::Painter& Load() {
   const auto refuse = [&](const std::string& why) -> CommandError {
     return CommandError(exit_code::kUsage, "nothing can be drawn: \"" + path.string() + "\" " + why + ".");
   };
-  void* const module = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+  // Most functions of the graphics libraries are never called, so they are bound when they are.
+  void* const module = dlopen(path.c_str(), RTLD_LAZY | RTLD_LOCAL);
   if (module == nullptr) {
     const char* const reason = dlerror();
     throw refuse("can't be loaded: " + std::string(reason == nullptr ? "no reason is given" : reason));

@@ -98,11 +98,15 @@ Setting SettingForFlat(const AxisModel& axis, const Sizes& sizes, double slot, d
 }
 
 /// Returns the height of the highest label if lines break at a width.
-double TallestWrapped(const std::vector<std::string>& texts, const TextStyle& style, double wrap,
-                      const TextMeasure& measure) {
+double TallestWrapped(const std::vector<std::string>& texts, const TextStyle& style, const Sizes& sizes,
+                      double wrap, const TextMeasure& measure) {
   double tallest = 0;
   const std::size_t step = std::max<std::size_t>(texts.size() / kMostMeasured, 1);
   for (std::size_t i = 0; i < texts.size(); i += step) {
+    if (!texts[i].empty() && IsOneWord(texts[i]) && !style.stacked && sizes.widestWord <= wrap) {
+      tallest = std::max(tallest, sizes.lineHeight);
+      continue;
+    }
     tallest = std::max(tallest, LayOut(texts[i], style, measure, wrap).height);
   }
   return tallest;
@@ -114,7 +118,7 @@ Setting SettingForUpright(const AxisModel& axis, const std::vector<std::string>&
   Setting setting{rotation, kUnlimited, std::max(static_cast<double>(axis.labelSkip), 1.0)};
   const double turned = std::abs(std::sin(rotation * kRadian));
   if (turned < 0.05 && !axis.IsOfValues()) setting.wrap = std::max(depth, sizes.widestWord);
-  const double needed = turned < 0.05 ? TallestWrapped(texts, axis.text, setting.wrap, measure)
+  const double needed = turned < 0.05 ? TallestWrapped(texts, axis.text, sizes, setting.wrap, measure)
                                       : NeededAlong(sizes, 90 - std::abs(rotation), 0);
   setting.skip = MultipleFor(setting.skip, needed, slot);
   return setting;

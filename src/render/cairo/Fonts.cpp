@@ -6,11 +6,13 @@
 #include <functional>
 #include <hb-ot.h>
 #include <mutex>
+#include <optional>
 #include <pango/pangocairo.h>
 #include <string>
 #include <unordered_map>
 
 #include "render/FontSubstitutes.h"
+#include "runtime/Ascii.h"
 #include "runtime/Strings.h"
 
 namespace plotsmith::render {
@@ -35,6 +37,9 @@ struct Release {
 };
 struct FreeDescription {
   void operator()(PangoFontDescription* description) const { pango_font_description_free(description); }
+};
+struct FreeGlyphs {
+  void operator()(PangoGlyphString* glyphs) const { pango_glyph_string_free(glyphs); }
 };
 using Layout = std::unique_ptr<PangoLayout, Release>;
 using Description = std::unique_ptr<PangoFontDescription, FreeDescription>;
@@ -71,14 +76,15 @@ std::string Presentable(std::string_view text) {
 
 }  // namespace
 
-/// A text, laid out in a font, with its width in points.
+/// A text in a font.
 struct LaidOut {
-  Layout layout;
-  double width = 0;
+  double width = 0;  ///< points
+  Layout layout;     ///< nullptr until it is needed
 };
 
 struct FontEntry {
   Description description;
+  std::unique_ptr<PangoFont, Release> font;  ///< nullptr if none can be loaded
   double ascent = 0, descent = 0;
   std::unordered_map<std::string, LaidOut, TextHash, std::equal_to<>> texts;
 };
@@ -108,9 +114,7 @@ struct Fonts::State {
   /// Reads ascent and descent as Windows defines them: the clipping heights of the font, and the part of its
   /// line gap that they don't contain.
   void MeasureHeight(FontEntry& entry, double size) const {
-    const std::unique_ptr<PangoFont, Release> found(
-        pango_font_map_load_font(map.get(), context.get(), entry.description.get()));
-    hb_font_t* font = found ? pango_font_get_hb_font(found.get()) : nullptr;
+    hb_font_t* font = entry.font ? pango_font_get_hb_font(entry.font.get()) : nullptr;
     int scale = 0;
     if (font != nullptr) hb_font_get_scale(font, nullptr, &scale);
     const auto ems = [&](hb_ot_metrics_tag_t tag) {
@@ -123,8 +127,10 @@ struct Fonts::State {
     const double line = ems(HB_OT_METRICS_TAG_HORIZONTAL_ASCENDER) +
                         ems(HB_OT_METRICS_TAG_HORIZONTAL_DESCENDER) +
                         ems(HB_OT_METRICS_TAG_HORIZONTAL_LINE_GAP);
-    if (!(entry.ascent + entry.descent > 0))
-      entry = {std::move(entry.description), 0.9, 0.25, {}};  // The font isn't OpenType.
+    if (!(entry.ascent + entry.descent > 0)) {  // The font isn't OpenType.
+      entry.ascent = 0.9;
+      entry.descent = 0.25;
+    }
     entry.descent = std::max(entry.descent, line - entry.ascent);
     entry.ascent *= size;
     entry.descent *= size;
@@ -145,11 +151,30 @@ struct Fonts::State {
                                       font.bold ? PANGO_WEIGHT_BOLD : PANGO_WEIGHT_NORMAL);
     pango_font_description_set_style(entry.description.get(),
                                      font.italic ? PANGO_STYLE_ITALIC : PANGO_STYLE_NORMAL);
+    entry.font.reset(pango_font_map_load_font(map.get(), context.get(), entry.description.get()));
     MeasureHeight(entry, font.size);
     return entry;
   }
 
-  const LaidOut& TextOf(FontEntry& entry, std::string_view line, const Font& font) {
+  /// Returns the width of a plain text in Pango's units, or nothing if the font doesn't have all of its
+  /// characters. The text is one run of glyphs then, and a layout, which takes longer, has the same width.
+  std::optional<int> WidthOfRun(const std::string& text, const FontEntry& entry) const {
+    if (text.empty() || !IsPlain(text) || !entry.font) return std::nullopt;
+    const bool hasLetters = std::any_of(text.begin(), text.end(), ascii::IsLetter);
+    PangoAnalysis analysis{};
+    analysis.font = entry.font.get();
+    analysis.language = pango_context_get_language(context.get());
+    analysis.script = static_cast<guint8>(hasLetters ? PANGO_SCRIPT_LATIN : PANGO_SCRIPT_COMMON);
+    const int size = static_cast<int>(text.size());
+    const std::unique_ptr<PangoGlyphString, FreeGlyphs> glyphs(pango_glyph_string_new());
+    pango_shape_with_flags(text.data(), size, text.data(), size, &analysis, glyphs.get(), PANGO_SHAPE_NONE);
+    for (int i = 0; i < glyphs->num_glyphs; ++i) {
+      if (glyphs->glyphs[i].glyph & PANGO_GLYPH_UNKNOWN_FLAG) return std::nullopt;
+    }
+    return pango_glyph_string_get_width(glyphs.get());
+  }
+
+  LaidOut& TextOf(FontEntry& entry, std::string_view line, const Font& font) {
     if (IsPlain(line)) {
       const auto found = entry.texts.find(line);
       if (found != entry.texts.end()) return found->second;
@@ -161,10 +186,15 @@ struct Fonts::State {
       for (auto& [key, other] : fonts) other.texts.clear();
       texts = 1;
     }
-    LaidOut laidOut{MakeLayout(text, entry, font.underline), 0};
-    PangoRectangle logical;
-    pango_layout_get_extents(laidOut.layout.get(), nullptr, &logical);
-    laidOut.width = pango_units_to_double(logical.width);
+    LaidOut laidOut;
+    if (const auto width = WidthOfRun(text, entry)) {
+      laidOut.width = pango_units_to_double(*width);
+    } else {
+      laidOut.layout = MakeLayout(text, entry, font.underline);
+      PangoRectangle logical;
+      pango_layout_get_extents(laidOut.layout.get(), nullptr, &logical);
+      laidOut.width = pango_units_to_double(logical.width);
+    }
     return entry.texts.emplace(text, std::move(laidOut)).first->second;
   }
 };
@@ -193,7 +223,9 @@ TextExtent Fonts::Measure(std::string_view line, const Font& font) const {
 
 void Fonts::Show(cairo_t* cr, std::string_view line, const Font& font) const {
   const std::scoped_lock lock(state_->mutex);
-  const LaidOut& text = state_->TextOf(state_->EntryOf(font), line, font);
+  FontEntry& entry = state_->EntryOf(font);
+  LaidOut& text = state_->TextOf(entry, line, font);
+  if (!text.layout) text.layout = state_->MakeLayout(Presentable(line), entry, font.underline);
   cairo_move_to(cr, 0, 0);
   pango_cairo_show_layout_line(cr, pango_layout_get_line_readonly(text.layout.get(), 0));
 }

@@ -83,18 +83,14 @@ void HideAxesWithoutGroups(ChartModel& chart) {
   }
 }
 
-bool IsPictureFill(pugi::xml_node node) { return xlsx::xml::Is(node, "blipFill"); }
-
-/// Notes fillings that aren't drawn.
-void NoteMissingLooks(Canvas& canvas, xlsx::ChartPart& part, bool hasPictures) {
-  const auto isMissing = [&](pugi::xml_node node) {
-    return IsPictureFill(node) && !IsDrawableImage(Palette(part).Picture(node));
-  };
-  if (hasPictures && part.Space().find_node(isMissing)) {
+/// Notes fillings and effects that aren't drawn.
+void NoteMissingLooks(Canvas& canvas, xlsx::ChartPart& part, const RareLooks& looks) {
+  const auto isMissing = [&](pugi::xml_node node) { return !IsDrawableImage(Palette(part).Picture(node)); };
+  if (std::any_of(looks.pictures.begin(), looks.pictures.end(), isMissing)) {
     canvas.Note(
         "A picture as a filling isn't drawn, as it is no PNG; what has it is in its automatic colour.");
   }
-  for (std::string& sentence : MissingEffects(part.Space())) canvas.Note(std::move(sentence));
+  for (std::string& sentence : MissingEffects(looks)) canvas.Note(std::move(sentence));
 }
 
 /// Notes elements of a chart that aren't drawn.
@@ -160,7 +156,7 @@ UndrawnChart::UndrawnChart(xlsx::ChartPart& part, double width, double height, N
   part.Theme();  // The theme is read when it is first asked for, which is no work for several threads.
   *chart_ = ReadChart(part, notes);
   HideAxesWithoutGroups(*chart_);
-  hasPictures_ = bool(part.Space().find_node(IsPictureFill));
+  looks_ = std::make_unique<RareLooks>(FindRareLooks(part.Space()));
 }
 
 UndrawnChart::UndrawnChart(UndrawnChart&&) noexcept = default;
@@ -168,7 +164,7 @@ UndrawnChart& UndrawnChart::operator=(UndrawnChart&&) noexcept = default;
 UndrawnChart::~UndrawnChart() = default;
 
 bool UndrawnChart::NeedsWorkbook() const {
-  return hasPictures_ || xlsx::xml::Child(part_->Space(), "userShapes");
+  return !looks_->pictures.empty() || xlsx::xml::Child(part_->Space(), "userShapes");
 }
 
 Drawing UndrawnChart::Draw(const TextMeasure& measure, Notes& notes) && {
@@ -187,7 +183,7 @@ Drawing UndrawnChart::Draw(const TextMeasure& measure, Notes& notes) && {
   if (layout.legend) DrawLegend(canvas, chart, *layout.legend);
   DrawUserShapes(part, canvas);
   NoteMissing(canvas, chart);
-  NoteMissingLooks(canvas, part, hasPictures_);
+  NoteMissingLooks(canvas, part, *looks_);
   Describe(chart, drawing);
   return drawing;
 }

@@ -13,6 +13,7 @@ class ChartPart;
 namespace plotsmith::render {
 
 struct ChartModel;
+struct RareLooks;
 
 /// A chart that was read, and isn't drawn yet. Reading uses the workbook, which charts share, so one thread
 /// reads them all. Drawing uses the chart alone, so that each thread can draw a chart of its own.
@@ -37,7 +38,7 @@ class UndrawnChart {
   xlsx::ChartPart* part_;
   double width_, height_;
   std::unique_ptr<ChartModel> chart_;
-  bool hasPictures_ = false;  ///< Whether a filling is a picture.
+  std::unique_ptr<RareLooks> looks_;
 };
 
 /// Reads and draws a chart.

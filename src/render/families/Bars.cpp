@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "render/axes/AxisPlace.h"
 #include "render/families/Analysis.h"
@@ -86,8 +87,9 @@ void DrawBars(Plot& plot, const GroupModel& group) {
         merged.Add(series, i, box);
       } else {
         const ShapeStyle style = series.StyleOf(i, series.values[i]);
-        AddShape(plot.canvas, {Role::kBar, series.number, static_cast<int>(i + 1)}, Path().AddRect(box),
-                 style);
+        Path path;
+        path.AddRect(box);
+        AddShape(plot.canvas, {Role::kBar, series.number, static_cast<int>(i + 1)}, std::move(path), style);
       }
       bars.Add(series, i, places.IsHorizontal() ? box.Center().y : box.Center().x, to);
       plot.Keep({&group, &series, i, box, to < (group.IsStacked() ? from : crossing)});

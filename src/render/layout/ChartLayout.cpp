@@ -162,8 +162,10 @@ class Layouter {
   /// Fits the plot area and the labels around it. The labels affect its size, which affects the labels.
   void FitPlot(bool inner) {
     for (int pass = 0; pass < 3; ++pass) {
+      const Rect before = layout_.plot;
       layout_.plot = KeepLeast(Without(layout_.outer, rooms_), bounds_, layout_.outer);
       if (inner) layout_.plot = KeepLeast(Applied(*chart_.layout, bounds_, layout_.plot), bounds_, bounds_);
+      if (pass > 0 && layout_.plot == before) return;  // the labels would be the same
       SetTickLabels();
     }
   }

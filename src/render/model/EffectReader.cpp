@@ -77,7 +77,21 @@ std::optional<Shadow> ReadShadow(const Palette& palette, pugi::xml_node properti
   return shadow;
 }
 
-std::vector<std::string> MissingEffects(pugi::xml_node part) {
+RareLooks FindRareLooks(pugi::xml_node root) {
+  RareLooks looks;
+  const auto visit = [&](const auto& self, pugi::xml_node parent) -> void {
+    for (auto node = parent.first_child(); node; node = node.next_sibling()) {
+      const std::string_view name = xml::LocalName(node);
+      if (name == "blipFill") looks.pictures.push_back(node);
+      if (name == "effectLst" || name == "effectDag" || name == "sp3d") looks.effects.push_back(node);
+      if (!name.ends_with("Cache")) self(self, node);
+    }
+  };
+  visit(visit, root);
+  return looks;
+}
+
+std::vector<std::string> MissingEffects(const RareLooks& looks) {
   struct Kind {
     std::string_view element;
     const char* sentence;
@@ -124,16 +138,10 @@ std::vector<std::string> MissingEffects(pugi::xml_node part) {
       add("Shadows of texts aren't drawn.");
     }
   };
-  // The walk visits all elements, because the predicate finds nothing.
-  part.find_node([&](pugi::xml_node node) {
-    const std::string_view name = node.name();
-    const bool isGraph = name.ends_with("effectDag");
-    if (isGraph) addIfKnown(node);
-    if (isGraph || name.ends_with("effectLst") || name.ends_with("sp3d")) {
-      for (const pugi::xml_node& effect : node.children()) addIfKnown(effect);
-    }
-    return false;
-  });
+  for (const pugi::xml_node& node : looks.effects) {
+    if (xml::Is(node, "effectDag")) addIfKnown(node);
+    for (const pugi::xml_node& effect : node.children()) addIfKnown(effect);
+  }
   return sentences;
 }
 

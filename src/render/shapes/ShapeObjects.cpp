@@ -128,7 +128,7 @@ class ObjectPainter {
                    name + ").");
       form = ShapeForm{Path().AddRect(frame), false};
     }
-    for (std::string& sentence : MissingEffects(object)) canvas_.Note(std::move(sentence));
+    for (std::string& sentence : MissingEffects(FindRareLooks(object))) canvas_.Note(std::move(sentence));
     if (form->open) style.fill = {};
     AddShape(canvas_, {Role::kShape, 0, number_}, placement.Map(form->path), style);
     DrawShapeText(canvas_, {Role::kShapeText, 0, number_}, ReadShapeText(palette_, object, automatic.text),

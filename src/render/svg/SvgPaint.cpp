@@ -47,12 +47,20 @@ void AppendHundredths(std::string& text, long long hundredths) {
     *end++ = static_cast<char>('0' + rest / 10);
     if (rest % 10 != 0) *end++ = static_cast<char>('0' + rest % 10);
   }
-  text.append(characters.begin(), end);
+  text.append(characters.data(), static_cast<std::size_t>(end - characters.data()));
 }
 
 std::string SvgEscape(std::string_view text) {
+  const auto isPlain = [](char c) {
+    return (c >= 0x20 && c < 0x7F && c != '&' && c != '<' && c != '>' && c != '"') || c == '\n';
+  };
   std::string escaped;
+  escaped.reserve(text.size());
   for (std::size_t at = 0; at < text.size();) {
+    const std::size_t from = at;
+    while (at < text.size() && isPlain(text[at])) ++at;
+    escaped.append(text, from, at - from);
+    if (at == text.size()) break;
     const char32_t character = runtime::NextCharacter(text, at);
     const bool isText = character >= 0x20 || character == '\n' || character == '\t';
     const bool isHalf = character >= 0xD800 && character <= 0xDFFF;

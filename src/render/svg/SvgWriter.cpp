@@ -13,9 +13,10 @@
 namespace plotsmith::render {
 namespace {
 
-/// Writes the commands and numbers of a path, with a blank only between numbers that would run together.
+/// Appends the commands and numbers of a path, with a blank only between numbers that would run together.
 class PathText {
  public:
+  explicit PathText(std::string& text) : text_(text) {}
   void Command(char letter) {
     text_ += letter;
     afterNumber_ = false;
@@ -25,10 +26,9 @@ class PathText {
     AppendHundredths(text_, hundredths);
     afterNumber_ = true;
   }
-  const std::string& Text() const { return text_; }
 
  private:
-  std::string text_;
+  std::string& text_;
   bool afterNumber_ = false;
 };
 
@@ -39,8 +39,8 @@ struct GridPoint {
 };
 GridPoint OnGrid(Point point) { return {std::llround(point.x * 100), std::llround(point.y * 100)}; }
 
-std::string PathData(const Path& path) {
-  PathText text;
+void AppendPathData(std::string& data, const Path& path) {
+  PathText text(data);
   GridPoint at, start;
   for (const PathStep& step : path.Steps()) {
     const GridPoint to = OnGrid(step.to);
@@ -80,15 +80,30 @@ std::string PathData(const Path& path) {
     }
     at = to;
   }
-  return text.Text();
 }
 
-/// Returns the attributes of an outline. `hasCorners` says whether the form of corners is visible.
-std::string StrokeAttributes(const Stroke& stroke, bool hasCorners) {
-  if (!(stroke.width > 0)) return {};
-  std::string text = " stroke=\"" + HexOf(stroke.color) + '"';
-  if (stroke.color.alpha < 1) text += " stroke-opacity=\"" + SvgNumber(stroke.color.alpha) + '"';
-  if (stroke.width != 1) text += " stroke-width=\"" + SvgNumber(stroke.width) + '"';
+std::string PathData(const Path& path) {
+  std::string data;
+  AppendPathData(data, path);
+  return data;
+}
+
+void AppendNumberAttribute(std::string& text, std::string_view name, double value) {
+  text += ' ';
+  text += name;
+  text += "=\"";
+  text += SvgNumber(value);
+  text += '"';
+}
+
+/// Appends the attributes of an outline. `hasCorners` says whether the form of corners is visible.
+void AppendStrokeAttributes(std::string& text, const Stroke& stroke, bool hasCorners) {
+  if (!(stroke.width > 0)) return;
+  text += " stroke=\"";
+  text += HexOf(stroke.color);
+  text += '"';
+  if (stroke.color.alpha < 1) AppendNumberAttribute(text, "stroke-opacity", stroke.color.alpha);
+  if (stroke.width != 1) AppendNumberAttribute(text, "stroke-width", stroke.width);
   if (!stroke.dashes.empty()) {
     text += " stroke-dasharray=\"";
     for (std::size_t i = 0; i < stroke.dashes.size(); ++i)
@@ -101,7 +116,6 @@ std::string StrokeAttributes(const Stroke& stroke, bool hasCorners) {
   if (hasCorners && stroke.join != LineJoin::kMiter) {
     text += stroke.join == LineJoin::kRound ? " stroke-linejoin=\"round\"" : " stroke-linejoin=\"bevel\"";
   }
-  return text;
 }
 
 /// Returns a font family for CSS: the original font, its substitute, and the generic family.
@@ -171,13 +185,18 @@ class Writer {
 
   void operator()(const PathItem& item) {
     if (std::holds_alternative<std::monostate>(item.fill) && !(item.stroke.width > 0)) return;
-    body_ += "<path d=\"" + PathData(item.path) + '"' +
-             FillAttributes(item.fill, item.path.Bounds(), definitions_) +
-             StrokeAttributes(item.stroke, item.path.Steps().size() > 2) + "/>\n";
+    body_ += "<path d=\"";
+    AppendPathData(body_, item.path);
+    body_ += '"';
+    body_ += FillAttributes(item.fill, item.path.Bounds(), definitions_);
+    AppendStrokeAttributes(body_, item.stroke, item.path.Steps().size() > 2);
+    body_ += "/>\n";
   }
   void operator()(const TextItem& item) {
     const Font& font = item.font;
-    body_ += "<text x=\"" + SvgNumber(item.anchor.x) + "\" y=\"" + SvgNumber(item.anchor.y) + '"';
+    body_ += "<text";
+    AppendNumberAttribute(body_, "x", item.anchor.x);
+    AppendNumberAttribute(body_, "y", item.anchor.y);
     if (item.rotation != 0) {
       body_ += " transform=\"rotate(" + SvgNumber(item.rotation) + ' ' + SvgNumber(item.anchor.x) + ' ' +
                SvgNumber(item.anchor.y) + ")\"";
@@ -192,7 +211,9 @@ class Writer {
     const Color black;
     if (item.color != black) body_ += FillAttributes(SolidFill{item.color}, {}, definitions_);
     if (LosesBlanks(item.text)) body_ += " xml:space=\"preserve\"";
-    body_ += '>' + SvgEscape(item.text) + "</text>\n";
+    body_ += '>';
+    body_ += SvgEscape(item.text);
+    body_ += "</text>\n";
   }
   void operator()(const PushClip& clip) {
     const std::string id =
@@ -253,6 +274,7 @@ std::string MakeSvg(const Drawing& drawing) {
   Writer writer(usual, drawing);
   for (const Item& item : drawing.items) std::visit(writer, item.content);
   svg += writer.Finish() + "</svg>\n";
+  if (svg.find(kPrefixLeftOpen) == std::string::npos) return svg;
   return runtime::Replace(svg, kPrefixLeftOpen, PrefixFor(svg));
 }
 

@@ -16,7 +16,7 @@ RichText Plain(const std::string& text, const TextStyle& style) {
   rich.stacked = style.stacked;
   for (std::size_t from = 0;;) {
     const auto end = text.find('\n', from);
-    rich.paragraphs.push_back({{text.substr(from, end - from), style.font, style.color}});
+    rich.paragraphs.emplace_back().push_back({text.substr(from, end - from), style.font, style.color});
     if (end == std::string::npos) return rich;
     from = end + 1;
   }

@@ -42,6 +42,7 @@ std::vector<Word> WordsOf(const std::vector<TextRun>& runs, const TextMeasure& m
 /// Returns a measured line. Neighbouring runs of the same look are joined.
 TextLine Finished(std::vector<TextRun> runs, const TextMeasure& measure) {
   TextLine line;
+  if (runs.size() == 1) line.runs.swap(runs);  // there is nothing to join
   for (TextRun& run : runs) {
     const bool same =
         !line.runs.empty() && line.runs.back().font == run.font && line.runs.back().color == run.color;
@@ -95,10 +96,9 @@ void BreakInside(Word& word, double width, const TextMeasure& measure, TextBlock
   word.width = measure.Measure(word.run.text, word.run.font).width;
 }
 
-void AddParagraph(const std::vector<TextRun>& runs, const TextMeasure& measure, double width,
-                  TextBlock& block) {
+void AddParagraph(std::vector<TextRun> runs, const TextMeasure& measure, double width, TextBlock& block) {
   if (width == kUnlimited) {
-    block.lines.push_back(Finished(runs, measure));
+    block.lines.push_back(Finished(std::move(runs), measure));
     return;
   }
   std::vector<TextRun> line;
@@ -143,13 +143,13 @@ double TextBlock::TurnedHeight() const {
   return width * std::abs(std::sin(rotation * kRadian)) + height * std::abs(std::cos(rotation * kRadian));
 }
 
-TextBlock LayOut(const RichText& text, const TextMeasure& measure, double width) {
+TextBlock LayOut(RichText text, const TextMeasure& measure, double width) {
   if (text.stacked) return LayOut(Stacked(text), measure);
   TextBlock block;
   block.rotation = text.rotation.value_or(0);
-  for (const auto& runs : text.paragraphs) {
+  for (auto& runs : text.paragraphs) {
     if (block.lines.size() > kMostLines) break;
-    AddParagraph(runs, measure, width, block);
+    AddParagraph(std::move(runs), measure, width, block);
   }
   for (const TextLine& line : block.lines) {
     block.width = std::max(block.width, line.width);

@@ -38,7 +38,7 @@ struct TextBlock {
 
 /// Breaks a text into lines that aren't wider than `width`, in points. Lines break at blanks, and inside of
 /// words that are wider than a line.
-TextBlock LayOut(const RichText& text, const TextMeasure& measure, double width = kUnlimited);
+TextBlock LayOut(RichText text, const TextMeasure& measure, double width = kUnlimited);
 /// Breaks a text in one style into lines, in the same way. Line feeds break lines, too.
 TextBlock LayOut(const std::string& text, const TextStyle& style, const TextMeasure& measure,
                  double width = kUnlimited);

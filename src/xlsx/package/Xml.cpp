@@ -4,11 +4,12 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <new>
 #include <sstream>
 
 #include "dom/XmlCharacters.h"
-#include "dom/XmlDepth.h"
+#include "runtime/Ascii.h"
 #include "runtime/Strings.h"
 #include "xlsx/base/Limits.h"
 #include "xlsx/package/PackageError.h"
@@ -56,10 +57,10 @@ std::string Encode(std::string_view text, bool attribute) {
 /// Values are written undecoded between double quotes, so a bare quote inside a value would end it.
 void QuoteSafe(pugi::xml_node element) {
   std::size_t count = 0;
-  for (pugi::xml_attribute attribute : element.attributes()) {
+  for (auto attribute = element.first_attribute(); attribute; attribute = attribute.next_attribute()) {
     if (++count > limits::kXmlAttributes)
       throw PackageError("an element of it has more attributes than Plotsmith supports");
-    if (std::string_view(attribute.value()).find('"') != std::string_view::npos) {
+    if (std::strchr(attribute.value(), '"') != nullptr) {
       attribute.set_value(runtime::Replace(attribute.value(), "\"", "&quot;").c_str());
     }
   }
@@ -149,18 +150,22 @@ bool IsUtf8(std::string_view text) {
   return true;
 }
 
-struct QuoteWalker : pugi::xml_tree_walker {
+/// Visits all nodes of a part that was just parsed.
+struct PartWalker : pugi::xml_tree_walker {
   bool for_each(pugi::xml_node& node) override {
-    if (node.type() == pugi::node_element || node.type() == pugi::node_declaration) QuoteSafe(node);
+    const pugi::xml_node_type type = node.type();
+    if (type == pugi::node_element && depth() >= limits::kXmlDepth) {
+      throw PackageError("its XML is nested too deeply");
+    }
+    if (type == pugi::node_element || type == pugi::node_declaration) QuoteSafe(node);
     return true;
   }
 };
 
 /// Returns the number without surrounding white space and without a plus sign.
 std::string_view NumberIn(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t\r\n");
-  if (first == std::string_view::npos) return {};
-  text = text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
+  while (!text.empty() && ascii::IsSpace(text.front())) text.remove_prefix(1);
+  while (!text.empty() && ascii::IsSpace(text.back())) text.remove_suffix(1);
   if (text.starts_with('+')) text.remove_prefix(1);
   return text;
 }
@@ -200,18 +205,18 @@ void Parse(pugi::xml_document& document, std::string_view bytes) {
   if (NeedsConversion(bytes)) text = converted = ToUtf8(std::string(bytes));
   if (!IsUtf8(text)) throw PackageError("its text isn't in the encoding that it declares");
   const auto mark = [](char c) { return c == '<' || c == '='; };
-  if (std::count_if(text.begin(), text.end(), mark) > limits::kXmlMarks) {
+  if (std::ssize(text) > limits::kXmlMarks &&
+      std::count_if(text.begin(), text.end(), mark) > limits::kXmlMarks) {
     throw PackageError("it has more elements than Plotsmith supports");
   }
   const auto status = document.load_buffer(text.data(), text.size(), kParse, pugi::encoding_utf8);
   if (status.status == pugi::status_out_of_memory) throw std::bad_alloc();
   if (!status || !Root(document)) throw PackageError("its XML is damaged");
-  if (dom::NestsDeeperThan(document, limits::kXmlDepth)) throw PackageError("its XML is nested too deeply");
+  PartWalker walker;
+  document.traverse(walker);
   for (const pugi::xml_node& node : document.children()) {
     if (node.type() == pugi::node_doctype) throw PackageError(kHasDocumentType);
   }
-  QuoteWalker walker;
-  document.traverse(walker);
   pugi::xml_node declaration = document.first_child();
   if (declaration.type() == pugi::node_declaration && declaration.attribute("encoding")) {
     declaration.attribute("encoding").set_value("UTF-8");
@@ -231,7 +236,8 @@ std::string Serialize(const pugi::xml_document& document) {
 }
 
 std::string Decode(std::string_view raw) {
-  if (raw.find_first_of("&\r") == std::string_view::npos) return std::string(raw);
+  const auto isRaw = [](char c) { return c == '&' || c == '\r'; };
+  if (std::none_of(raw.begin(), raw.end(), isRaw)) return std::string(raw);
   std::string text;
   text.reserve(raw.size());
   for (std::size_t i = 0; i < raw.size(); ++i) {
@@ -273,6 +279,18 @@ std::string Decode(std::string_view raw) {
 std::string EncodeText(std::string_view text) { return Encode(text, false); }
 std::string EncodeAttribute(std::string_view text) { return Encode(text, true); }
 
+bool Is(pugi::xml_node node, std::string_view local) {
+  // a single pass over the name, which is faster than to measure it and to search it for the prefix
+  const char* const name = node.name();
+  const char* rest = name;
+  while (*rest != '\0' && *rest != ':') ++rest;
+  rest = *rest == ':' ? rest + 1 : name;
+  for (const char c : local) {
+    if (*rest++ != c) return false;
+  }
+  return *rest == '\0';
+}
+
 std::string_view LocalName(std::string_view name) {
   const auto colon = name.find(':');
   return colon == std::string_view::npos ? name : name.substr(colon + 1);
@@ -285,9 +303,7 @@ std::string_view Prefix(std::string_view name) {
 
 pugi::xml_node Child(pugi::xml_node parent, std::string_view local) {
   for (pugi::xml_node child = parent.first_child(); child; child = child.next_sibling()) {
-    // the ends of most names differ, and are faster to compare than to search for the prefix
-    const std::string_view name = child.name();
-    if (name.ends_with(local) && LocalName(name) == local && child.type() == pugi::node_element) return child;
+    if (Is(child, local) && child.type() == pugi::node_element) return child;
   }
   return {};
 }
@@ -317,7 +333,7 @@ pugi::xml_node NextSame(pugi::xml_node node) {
   const std::string_view local = LocalName(node);
   do {
     node = node.next_sibling();
-  } while (node && (node.type() != pugi::node_element || LocalName(node) != local));
+  } while (node && !(Is(node, local) && node.type() == pugi::node_element));
   return node;
 }
 
@@ -373,7 +389,7 @@ std::set<std::string> RelationshipIdsIn(pugi::xml_node element) {
 
 std::string Text(pugi::xml_node node) {
   std::string text;
-  for (const pugi::xml_node& child : node.children()) {
+  for (auto child = node.first_child(); child; child = child.next_sibling()) {
     if (child.type() == pugi::node_pcdata) text += Decode(child.value());
     if (child.type() == pugi::node_cdata) text += child.value();
   }

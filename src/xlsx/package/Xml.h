@@ -44,7 +44,7 @@ std::string_view LocalName(std::string_view name);
 /// The name of an element without its prefix.
 inline std::string_view LocalName(pugi::xml_node node) { return LocalName(node.name()); }
 /// Returns true if the element has this local name.
-inline bool Is(pugi::xml_node node, std::string_view local) { return LocalName(node) == local; }
+bool Is(pugi::xml_node node, std::string_view local);
 /// The prefix with its colon; empty if there is none.
 std::string_view Prefix(std::string_view name);
 

@@ -28,7 +28,7 @@ void SetRaw(pugi::xml_node value, std::string_view text) {
 }
 
 void AddTexts(pugi::xml_node cache, std::map<std::size_t, std::string>& texts) {
-  for (const pugi::xml_node& point : xml::Children(cache, "pt")) {
+  for (auto point = xml::Child(cache, "pt"); point; point = xml::NextSame(point)) {
     const long long index = xml::IntegerAttribute(point, "idx", -1);
     if (index >= 0) texts[static_cast<std::size_t>(index)] = CachedText(point);
   }

@@ -143,17 +143,20 @@ void PointAt(ChartPart& part, pugi::xml_node data, const Source& source, bool te
   }
 }
 
+std::map<std::size_t, std::string> TextsOfCells(const Source& source) {
+  std::map<std::size_t, std::string> texts;
+  std::string scratch;
+  ForEachCell(source, [&](std::size_t index, std::int32_t row, std::int32_t column, const CellValue& value) {
+    if (value.kind != CellValue::Kind::kEmpty) texts[index] = source.sheet->CellTextAt(row, column, scratch);
+  });
+  return texts;
+}
+
 }  // namespace
 
 std::map<std::size_t, std::string> DataTexts(ChartPart& part, pugi::xml_node data) {
   const auto source = FindUncached(part, data);
-  if (!source) return CachedTexts(data);
-  std::map<std::size_t, std::string> texts;
-  std::string scratch;
-  ForEachCell(*source, [&](std::size_t index, std::int32_t row, std::int32_t column, const CellValue& value) {
-    if (value.kind != CellValue::Kind::kEmpty) texts[index] = source->sheet->CellTextAt(row, column, scratch);
-  });
-  return texts;
+  return source ? TextsOfCells(*source) : CachedTexts(data);
 }
 
 std::size_t DataPoints(ChartPart& part, pugi::xml_node data) {
@@ -164,9 +167,12 @@ std::size_t DataPoints(ChartPart& part, pugi::xml_node data) {
 std::string SourceText(ChartPart& part, pugi::xml_node tx) {
   constexpr std::size_t kMostCells = 1000;  // a chart may have many series that refer to large ranges
   if (xml::Child(tx, "v")) return CachedText(tx);
-  if (const auto cells = FindUncached(part, tx); cells && cells->CellCount() > kMostCells) return {};
+  const auto cells = FindUncached(part, tx);
+  if (cells && cells->CellCount() > kMostCells) return {};
   std::string all;
-  for (const auto& [point, text] : DataTexts(part, tx)) all += (all.empty() ? "" : " ") + text;
+  for (const auto& [point, text] : cells ? TextsOfCells(*cells) : CachedTexts(tx)) {
+    all += (all.empty() ? "" : " ") + text;
+  }
   return all;
 }
 
