@@ -19,7 +19,7 @@ struct GlobalOptions {
 /// The exit codes of the command.
 namespace exit_code {
 inline constexpr int kDone = 0;
-inline constexpr int kSaidSomething = 1;  ///< The command did its work, and there was a message.
+inline constexpr int kDoneWithMessages = 1;  ///< The command did its work, and there was a message.
 inline constexpr int kUsage = 2;
 /// A workbook or the output can't be read or written, or definitions would be lost. Nothing was changed.
 inline constexpr int kFile = 3;
@@ -39,7 +39,7 @@ class CommandError : public std::runtime_error {
 };
 
 /// Flushes `out`. Throws CommandError if that fails, because lost data is an error.
-inline void Deliver(const Streams& streams) {
+inline void FlushOutput(const Streams& streams) {
   if (!streams.out.flush()) throw CommandError(exit_code::kFile, "the output can't be written.");
 }
 

@@ -34,7 +34,7 @@ class PagesDesktop final : public cli::ConsoleDesktop {
                       std::string_view) override {
     if (buttons == desktop::Buttons::kOkCancel)
       return player_->Answer(text) ? desktop::kOk : desktop::kCancel;
-    player_->Heard(text);
+    player_->AddMessage(text);
     return desktop::kOk;
   }
   void ShowHelp(std::intptr_t, const S&, std::int32_t topic) override { helpTopics_.push_back(topic); }
@@ -119,15 +119,15 @@ PageLines::PageLines(const S& script, Deeds deeds) : deeds_(std::move(deeds)) {
   }
 }
 
-std::optional<S> PageLines::NextLine(const forms::Scene& scene) {
+std::optional<S> PageLines::NextLine(const forms::ScriptState& state) {
   if (next_ == lines_.size()) return std::nullopt;
   const S& line = lines_[next_++];
-  if (scene.page != nullptr) {
-    for (const Control* control : scene.page->Controls()) {
+  if (state.page != nullptr) {
+    for (const Control* control : state.page->Controls()) {
       if (dynamic_cast<const forms::Image*>(control) != nullptr) images.insert(control->Name());
     }
   }
-  return PlayOwn(line, scene.page) ? "" : line;
+  return PlayOwn(line, state.page) ? "" : line;
 }
 
 bool PageLines::PlayOwn(const S& line, const forms::Form* form) {

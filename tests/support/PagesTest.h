@@ -37,7 +37,7 @@ using Deeds = std::map<std::string, std::function<void()>>;
 class PageLines final : public forms::LineSource {
  public:
   explicit PageLines(const std::string& script, Deeds deeds = {});
-  std::optional<std::string> NextLine(const forms::Scene& scene) override;
+  std::optional<std::string> NextLine(const forms::ScriptState& state) override;
 
   const std::string& LastLine() const { return lines_[next_ - 1]; }
   std::vector<std::string> definitions;

@@ -33,8 +33,8 @@ void FinishAxes();
 /// Applies the persisted font of data labels.
 void SetLabelFont(const runtime::Ref<excel::Font>& oFont);
 /// Sets the position (XlDataLabelPosition) and the font of labels, in the order that most families require.
-void DressLabels(const runtime::Ref<excel::DataLabels>& oLabels, std::int32_t lPosition,
-                 const runtime::Variant& vAutoScale);
+void FormatLabels(const runtime::Ref<excel::DataLabels>& oLabels, std::int32_t lPosition,
+                  const runtime::Variant& vAutoScale);
 /// Adds labels of a type (XlDataLabelsType) at a position to all series.
 void ApplyLabels(std::int32_t lType, std::int32_t lPosition);
 

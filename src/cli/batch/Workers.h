@@ -11,7 +11,7 @@ namespace plotsmith::cli {
 struct TaskEnding {
   std::string report;  ///< The result of the task.
   /// The reason if the process died, such as "Segmentation fault"; empty if the task was completed.
-  std::optional<std::string> death;
+  std::optional<std::string> crash;
 };
 
 /// Tasks that are distributed to worker processes. Each process performs one task after the other. The system

@@ -68,7 +68,7 @@ bool ReportUnlisted(const std::vector<CheckedDefinition>& checked, std::ostream&
   for (const CheckedDefinition& definition : checked) {
     if (!definition.IsLost() && !definition.IsUnread()) continue;
     const Finding& finding = definition.findings.front();
-    err << "plotsmith: " << finding.place << ": " << Foretold(finding) << '\n';
+    err << "plotsmith: " << finding.place << ": " << SentenceBeforeRun(finding) << '\n';
     isAny = true;
   }
   return isAny;
@@ -89,7 +89,7 @@ int ChartsCommand::Run(const GlobalOptions& options, const Streams& streams) {
   const auto checked = CheckDefinitions(session.Book());  // Check before the load, which drops invalid rows.
   session.LoadCharts();
   int code = session.Finish();
-  if (ReportUnlisted(checked, streams.err)) code = exit_code::kSaidSomething;
+  if (ReportUnlisted(checked, streams.err)) code = exit_code::kDoneWithMessages;
   Json list = Json::array();
   for (const auto& document : *colCharts) {
     list.push_back(Describe(document.selectSingleNode("chart"), checked, session.Book()));

@@ -77,7 +77,7 @@ BookResult RefreshCommand::RefreshBook(const BookRun& run, const GlobalOptions& 
                                        const Streams& streams) const {
   Session session(run.book, options, streams);
   session.CheckWritable(run.output);
-  session.LookBeforeRun(DefinitionsAre::kTaken);
+  session.CheckBeforeRun(DefinitionsAre::kUsed);
   CPlotsmithController controller;
   if (table_) {
     std::string table = *table_;
@@ -93,14 +93,14 @@ BookResult RefreshCommand::RefreshBook(const BookRun& run, const GlobalOptions& 
     for (auto& [id, chart] : session.StartedCharts()) charts.push_back({id, chart});
     const bool list = !IsStandardOutput(run.output);
     const auto drawn = WriteCharts(session.Book(), run.book, charts, PlanOfPictures(), streams, list);
-    if (drawn.said && code == exit_code::kDone) code = exit_code::kSaidSomething;
+    if (drawn.hasMessages && code == exit_code::kDone) code = exit_code::kDoneWithMessages;
   }
   if (session.ChartsStarted() > 0 || session.HasMessages()) return {code, counts};
   streams.err << "plotsmith: "
               << (table_ ? "no chart of \"" + run.book + "\" uses the table \"" + *table_ + "\""
                          : "\"" + run.book + "\" has no charts of Plotsmith")
               << ", so nothing was refreshed.\n";
-  return {exit_code::kSaidSomething, counts};
+  return {exit_code::kDoneWithMessages, counts};
 }
 
 }  // namespace plotsmith::cli

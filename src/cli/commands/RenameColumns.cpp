@@ -99,7 +99,7 @@ int RenameColumnsCommand::Run(const GlobalOptions& options, const Streams& strea
   }
   Session session(book_, options, streams);
   session.CheckWritable(output_);
-  session.LookBeforeRun(DefinitionsAre::kRenamed);
+  session.CheckBeforeRun(DefinitionsAre::kRenamed);
   CPlotsmithController controller;
   controller.UpdateChartColumnNamesForTable(session.Host(), table_, oldNames, newNames);
   session.CheckTable(table_);
@@ -123,7 +123,7 @@ int RenameColumnsCommand::Run(const GlobalOptions& options, const Streams& strea
   if (renamed && ready) controller.RefreshChartsForTable(session.Host(), table_);
   const int code = session.Save(output_);
   for (const std::string& complaint : complaints) streams.err << "plotsmith: " << complaint << '\n';
-  return complaints.empty() ? code : exit_code::kSaidSomething;
+  return complaints.empty() ? code : exit_code::kDoneWithMessages;
 }
 
 }  // namespace plotsmith::cli

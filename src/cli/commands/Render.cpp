@@ -48,20 +48,20 @@ int RenderCommand::RenderCharts(Session& session, const PicturePlan& plan, const
     streams.err << "plotsmith: \"" << book_ << "\" has no charts of Plotsmith, so nothing was drawn";
     if (!others.empty()) streams.err << "; other charts are drawn if you name them: " << Listed(others);
     streams.err << ".\n";
-    return exit_code::kSaidSomething;
+    return exit_code::kDoneWithMessages;
   }
-  CheckRoom(plan, charts.size(), "chart", streams);
+  CheckPictureCount(plan, charts.size(), "chart", streams);
   const bool list = plan.target == PicturePlan::Target::kFolder;
   const DrawnCounts counts = WriteCharts(session.Book(), book_, charts, plan, streams, list);
   if (counts.drawn == 0) throw CommandError(exit_code::kFile, "nothing was drawn.");
-  return counts.said ? exit_code::kSaidSomething : code;
+  return counts.hasMessages ? exit_code::kDoneWithMessages : code;
 }
 
 int RenderCommand::RenderSheet(Session& session, const PicturePlan& plan, const Streams& streams) const {
   const auto sheet = session.Book().FindSheet(*sheet_);
   if (!sheet) throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no sheet \"" + *sheet_ + "\".");
   const auto paper = onePage_ ? render::Paper::kOne : render::Paper::kPrinted;
-  return WriteSheet(session.Book(), book_, *sheet, paper, plan, streams) ? exit_code::kSaidSomething
+  return WriteSheet(session.Book(), book_, *sheet, paper, plan, streams) ? exit_code::kDoneWithMessages
                                                                          : session.Finish();
 }
 

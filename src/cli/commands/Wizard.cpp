@@ -75,7 +75,7 @@ int WizardCommand::Play(std::istream& script, const GlobalOptions& options, cons
   };
   WizardRun run(book_, options, streams, lines, print, Outside::kScript);
   run.Workbook().CheckWritable(output_);
-  run.Workbook().LookBeforeRun(DefinitionsAre::kEdited);
+  run.Workbook().CheckBeforeRun(DefinitionsAre::kEdited);
   run.Play();
   if (const auto& failure = run.Player().Failed()) {
     run.Workbook().Finish();
@@ -83,7 +83,7 @@ int WizardCommand::Play(std::istream& script, const GlobalOptions& options, cons
                        *script_ + ":" + std::to_string(failure->line) + ": " + failure->sentence + ".");
   }
   if (show_ && run.Player().LastState()) print(*run.Player().LastState());
-  return run.CameToSomething() ? run.Workbook().Save(output_) : run.Workbook().Finish();
+  return run.HasChangedCharts() ? run.Workbook().Save(output_) : run.Workbook().Finish();
 }
 
 }  // namespace plotsmith::cli

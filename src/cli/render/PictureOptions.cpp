@@ -101,7 +101,8 @@ PicturePlan PlanPictures(const PictureOptions& options, const std::optional<std:
   return plan;
 }
 
-void CheckRoom(const PicturePlan& plan, std::size_t count, const std::string& noun, const Streams& streams) {
+void CheckPictureCount(const PicturePlan& plan, std::size_t count, const std::string& noun,
+                       const Streams& streams) {
   const bool toOut = plan.target == PicturePlan::Target::kStandardOutput;
   if (toOut && streams.outTerminal && plan.format != PictureFormat::kSvg)
     throw Usage("a picture isn't written to a terminal; redirect the output, or name a file.");

@@ -48,6 +48,7 @@ PicturePlan PlanPictures(const PictureOptions& options, const std::optional<std:
 
 /// Throws CommandError if `count` pictures don't fit into a single file, or if binary pictures would go to a
 /// terminal. `noun` is the subject of the pictures, such as "chart".
-void CheckRoom(const PicturePlan& plan, std::size_t count, const std::string& noun, const Streams& streams);
+void CheckPictureCount(const PicturePlan& plan, std::size_t count, const std::string& noun,
+                       const Streams& streams);
 
 }  // namespace plotsmith::cli

@@ -71,7 +71,7 @@ void ControlView::Report(std::function<void()> gesture) {
   });
 }
 
-void ControlView::ForgetGestures() {
+void ControlView::DiscardGestures() {
   waiting_ = 0;
   touched_ = true;
 }

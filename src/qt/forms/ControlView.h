@@ -40,7 +40,7 @@ class ControlView {
   /// widget.
   void Update();
   /// Discards the actions that were reported but not performed.
-  void ForgetGestures();
+  void DiscardGestures();
 
  protected:
   /// Connects a view with its control. `post` queues the user's actions.

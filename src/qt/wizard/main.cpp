@@ -51,10 +51,10 @@ int Run(plotsmith::qt::WizardOptions options) {
   try {
     return plotsmith::qt::WizardProgram(std::move(options), streams).Run();
   } catch (const cli::CommandError& e) {
-    plotsmith::qt::Tell(nullptr, e.what(), streams);
+    plotsmith::qt::ReportError(nullptr, e.what(), streams);
     return e.ExitCode();
   } catch (const std::exception& e) {
-    plotsmith::qt::Tell(nullptr, std::string("an unexpected error occurred: ") + e.what(), streams);
+    plotsmith::qt::ReportError(nullptr, std::string("an unexpected error occurred: ") + e.what(), streams);
     return cli::exit_code::kFile;
   }
 }

@@ -53,7 +53,7 @@ struct Extents {
   std::vector<std::vector<double>> from, to;
 };
 /// Returns the sum of the absolute values of each point of a group, which is 100 percent.
-std::vector<double> Wholes(const GroupModel& group);
+std::vector<double> PointTotals(const GroupModel& group);
 /// Stacks the values of a group, or turns them into shares of 1, as its grouping says. Values that aren't
 /// stacked begin at 0.
 Extents StackValues(const GroupModel& group);

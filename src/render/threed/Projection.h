@@ -48,7 +48,7 @@ class Projection {
   bool Shows(std::span<const Point3> corners) const;
 
  private:
-  void FillRoom(const BoxShape& shape, const Rect& room);
+  void FillSpace(const BoxShape& shape, const Rect& room);
   void FindShape(const BoxShape& shape, const Rect& room);
   void SetShape(const BoxShape& shape, double heightOfWidth);
   void Center(const Rect& room);

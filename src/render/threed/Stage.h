@@ -34,14 +34,14 @@ class Stage {
   /// The axis of series; null if all series are at the same depth.
   const AxisModel* Series() const;
   /// Returns whether bars are horizontal.
-  bool Lying() const { return group_.horizontal; }
+  bool IsHorizontal() const { return group_.horizontal; }
   /// Returns how deep the box is in a view.
   BoxShape Shape(const View& view) const;
 
   /// The number of categories, at least one.
   std::size_t CategoryCount() const { return categories_; }
   /// Returns whether the first and the last category are at the edges of the box.
-  bool StandsOnTicks() const;
+  bool PointsAreOnTicks() const;
   /// Returns the room of a category, which counts from 0.
   Span Category(std::size_t index) const;
   /// Returns the room of the bar of a series in a category. Both count from 0.

@@ -82,7 +82,7 @@ class StageAxes {
   /// The outer levels of categories, outside of the labels of an axis.
   std::vector<PlacedGroup> GroupsOf(const PlacedRuler& placed, const std::vector<PlacedLabel>& labels,
                                     const Projection& projection) const;
-  static Point WayOf(Beside beside);
+  static Point DirectionOf(Beside beside);
   PlacedGroup PlaceGroup(const PlacedRuler& placed, const CategoryGroup& group, double distance,
                          const Projection& projection) const;
   void DrawRuler(Canvas& canvas, const PlacedRuler& placed, const Projection& projection) const;

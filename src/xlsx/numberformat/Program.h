@@ -123,11 +123,11 @@ struct NumberFormat::Program {
 std::unique_ptr<NumberFormat::Program> ParseNumberFormat(std::string_view code);
 
 /// Determines the meaning of the tokens in a section with dates. Returns false if they make no sense.
-bool SettleDate(Section& section);
+bool ResolveDate(Section& section);
 /// Determines the meaning of the tokens in a section with a number. Returns false if they make no sense.
-bool SettleNumber(Section& section);
+bool ResolveNumber(Section& section);
 /// Assigns the tokens of a fraction, whose slash is at index `slash`. Returns false if they make no sense.
-bool SettleFraction(Section& section, std::size_t slash);
+bool ResolveFraction(Section& section, std::size_t slash);
 /// The index of the slash that makes a section a fraction; the number of tokens if there is none.
 std::size_t FindFractionSlash(const std::vector<Token>& tokens);
 

@@ -26,7 +26,7 @@ struct GridCell {
 class CellGrid {
  public:
   /// Raises error 1004 if a sheet has too many cells to be written to. A row counts up to its last cell.
-  static void CheckRoom(std::size_t cells);
+  static void CheckSize(std::size_t cells);
 
   /// Returns a cell, or null if it was never written.
   const GridCell* Find(std::int32_t row, std::int32_t column) const;
