@@ -23,7 +23,7 @@ namespace plotsmith::cli {
 
 /// The results of a refresh.
 struct RefreshCounts {
-  std::size_t refreshed = 0;
+  std::size_t refreshed = 0;    ///< Charts that were drawn.
   std::size_t unavailable = 0;  ///< Charts that couldn't be drawn.
 };
 

@@ -18,7 +18,7 @@ struct TaskEnding {
 /// keeps its state in variables of modules, so two simultaneous tasks need two processes. A task that crashes
 /// ends only its own process.
 struct WorkerTasks {
-  std::size_t count = 0;
+  std::size_t count = 0;  ///< The number of tasks.
   /// Performs a task, counted from 0, in a worker process.
   std::function<std::string(std::size_t)> run;
   /// Called in this process after each task, in the order in which the tasks end.

@@ -30,7 +30,7 @@ enum class Severity {
 struct Finding {
   std::string place;  ///< A cell such as "Data1!C5", or a defined name.
   FindingKind kind;
-  std::string sentence;
+  std::string sentence;  ///< The message, with a full stop.
   Severity severity = Severity::kReports;
 };
 

@@ -16,7 +16,7 @@ namespace plotsmith::cli {
 
 /// The results of drawing charts.
 struct DrawnCounts {
-  std::size_t drawn = 0;
+  std::size_t drawn = 0;     ///< The number of pictures that were written.
   bool hasMessages = false;  ///< Whether something isn't drawn, which was reported on `err`.
 };
 

@@ -20,7 +20,7 @@ class VerbScript : public forms::LineSource {
 
   /// The lines that were generated so far.
   const std::vector<std::string>& Lines() const { return lines_; }
-  /// Sets the messages of pages, so that they can be distinguished from messages of a build.
+  /// Sets the list of messages that pages have shown. Other messages come from the build of a chart.
   void SetPageMessages(const std::vector<std::string>& texts) { pageMessages_ = &texts; }
 
  protected:

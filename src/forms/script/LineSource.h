@@ -11,7 +11,7 @@
 
 namespace plotsmith::forms {
 
-/// The state of the run when the next line of the script is read.
+/// The state of the pages when the next line of the script is requested.
 struct ScriptState {
   const Form* page;  ///< The form that waits for an action, or null if the run is over.
   const std::deque<std::string>& messages;  ///< The texts of message boxes that no line has expected yet.

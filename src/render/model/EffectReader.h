@@ -10,11 +10,12 @@
 
 namespace plotsmith::render {
 
-/// The outer shadow in shape properties (c:spPr, a:effectLst); `automatic` where they have no effects.
+/// Reads the outer shadow in shape properties (c:spPr, a:effectLst). Returns `automatic` if the properties
+/// have no effects.
 std::optional<Shadow> ReadShadow(const Palette& palette, pugi::xml_node properties,
                                  const std::optional<Shadow>& automatic);
 
-/// A sentence for each kind of effect in a part that isn't drawn.
+/// Returns a sentence for each kind of effect that the part contains and that isn't drawn.
 std::vector<std::string> MissingEffects(pugi::xml_node part);
 
 }  // namespace plotsmith::render

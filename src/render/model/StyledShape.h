@@ -5,10 +5,10 @@
 
 namespace plotsmith::render {
 
-/// Appends a path in a style: its shadow, and on it the path itself.
+/// Adds the shadow of a path and then the path in its style.
 void AddShape(Canvas& canvas, Tag tag, Path path, const ShapeStyle& style);
-/// The same of the frame around a text. Without filling and line, the text would have the shadow; that isn't
-/// drawn, which a sentence says.
+/// Adds the frame around a text, with its shadow. If the frame has neither filling nor line, the text would
+/// throw the shadow. That shadow isn't drawn, and a note reports it.
 void AddTextFrame(Canvas& canvas, Tag tag, const Rect& frame, const ShapeStyle& style);
 
 }  // namespace plotsmith::render

@@ -73,10 +73,10 @@ class ChartPart {
   /// Writes the changes into the package. A part that can't be read stays as it is.
   void Write();
 
-  /// The elements that were set aside when the chart's type changed, by the name of the type's state. They
-  /// are restored with the type. They exist in memory only.
+  /// Returns the elements that were set aside when the chart's type changed, by the name of the type's state.
+  /// They are restored with the type. They exist in memory only.
   pugi::xml_node FindSetAside(const std::string& state) const;
-  /// Makes an empty element for them, which replaces an earlier one.
+  /// Makes an empty element for the elements to set aside, which replaces an earlier one.
   pugi::xml_node SetAside(const std::string& state);
   /// Discards the elements that were set aside.
   void DiscardSetAside(const std::string& state);
