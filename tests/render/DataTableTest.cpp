@@ -102,12 +102,12 @@ TEST_F(DataTableTest, SaysWhatHasNoRoom) {
        SeriesXml(0, std::vector<double>(5000, 1)),
        false,
        0,
-       {"The data table isn't drawn, as its columns have no room for a text."}},
+       {"The data table isn't drawn because its columns are too narrow for a text."}},
       {"lying bars",
        SeriesXml(0, {1}),
        true,
        0,
-       {"The data table isn't drawn, as its chart has no flat axis of categories."}},
+       {"The data table isn't drawn because the chart has no horizontal category axis or is in 3-D."}},
   };
   for (const auto& test : kCases) {
     const Drawing drawing = DrawWithTable(kLines, test.series, "", test.horizontal);
@@ -127,7 +127,8 @@ TEST_F(DataTableTest, LeavesTheTickLabelsWhereItHasNoRoom) {
     EXPECT_FALSE(TextsOf(drawing, Role::kTickLabel, 1).empty()) << count;
     EXPECT_TRUE(TextsOf(drawing, Role::kTableText).empty()) << count;
     EXPECT_EQ(DrawingComplaints(drawing), "") << count;
-    EXPECT_EQ(notes_, (render::Notes{"The data table isn't drawn, as its columns have no room for a text."}))
+    EXPECT_EQ(notes_,
+              (render::Notes{"The data table isn't drawn because its columns are too narrow for a text."}))
         << count;
   }
 }

@@ -79,7 +79,7 @@ bool ReportUnlisted(const std::vector<CheckedDefinition>& checked, std::ostream&
 CLI::App* ChartsCommand::Declare(CLI::App& app) {
   CLI::App* verb = app.add_subcommand("charts", "List the charts that a workbook defines");
   verb->add_option("BOOK", book_, "The workbook")->required();
-  verb->add_flag("--json", json_, "As JSON");
+  verb->add_flag("--json", json_, "Print JSON");
   return verb;
 }
 

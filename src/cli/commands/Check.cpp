@@ -137,7 +137,7 @@ CLI::App* CheckCommand::Declare(CLI::App& app) {
   CLI::App* verb =
       app.add_subcommand("check", "List the problems in definitions and tables, and change nothing");
   verb->add_option("BOOK", book_, "The workbook")->required();
-  verb->add_flag("--json", json_, "As JSON");
+  verb->add_flag("--json", json_, "Print JSON");
   return verb;
 }
 

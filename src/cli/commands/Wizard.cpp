@@ -25,7 +25,7 @@ CLI::App* WizardCommand::Declare(CLI::App& app) {
   verb->footer(
       "plotsmith wizard BOOK [-o FILE]\n"
       "plotsmith wizard BOOK --script FILE [-o FILE] [--show] [--json]");
-  verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm)")->required();
+  verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm, .xltx or .xltm)")->required();
   CLI::Option* const script =
       verb->add_option("--script", script_, "The script, one action per line; \"-\" is the standard input")
           ->type_name("FILE");

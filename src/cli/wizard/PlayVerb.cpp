@@ -13,7 +13,7 @@ std::string Ended(const std::string& sentence) {
 }  // namespace
 
 void DeclareBook(CLI::App& verb, VerbOptions& options) {
-  verb.add_option("BOOK", options.book, "The workbook (.xlsx, .xlsm)")->required();
+  verb.add_option("BOOK", options.book, "The workbook (.xlsx, .xlsm, .xltx or .xltm)")->required();
 }
 
 void DeclareOutput(CLI::App& verb, VerbOptions& options) {

@@ -15,7 +15,7 @@ namespace plotsmith::qt {
 namespace {
 
 constexpr const char* kLinePrefix = "plotsmith: ";  ///< The beginning of each line of the session.
-constexpr const char* kWorkbooks = "Workbooks (*.xlsx *.xlsm)";
+constexpr const char* kWorkbooks = "Workbooks (*.xlsx *.xlsm *.xltx *.xltm)";
 
 }  // namespace
 

@@ -236,7 +236,7 @@ void DrawTrendlines(Plot& plot, const GroupModel& group) {
       TrendPath trend(plot, group, line);
       Path path = trend.Take();
       if (path.IsEmpty()) {
-        plot.canvas.Note("A trendline isn't drawn, as less than two of its points are on the axes.");
+        plot.canvas.Note("A trendline isn't drawn because fewer than two of its points are on the axes.");
         continue;
       }
       const Tag tag{Role::kTrendline, series.number, number};

@@ -56,15 +56,15 @@ std::optional<LegendModel> ReadLegend(ReadingContext& context);
 void ReadAnalysis(ReadingContext& context, ChartModel& chart);
 /// Reads the data table of a plot area, which replaces the tick labels of its axis.
 void ReadDataTable(ReadingContext& context, pugi::xml_node plotArea, ChartModel& chart);
-/// Reads the bands of surfaces and adds them to the legend. The axes must be scaled before.
+/// Reads surfaces, whose axes are scaled, and gives their bands to the legend.
 void ReadSurfaces(ReadingContext& context, ChartModel& chart);
 /// Extends the extent of an axis by error bars and extended trendlines. The axis of X values must be scaled
 /// before the value axis.
 void AddAnalysisExtent(const ChartModel& chart, const GroupModel& group, bool isX, xlsx::DataExtent& extent);
 /// Adds the entries of trendlines to the legend.
 void AddTrendlineEntries(ReadingContext& context, ChartModel& chart);
-/// Reads the dates of the categories (c:cat) of a date axis. The axis becomes a category axis if they aren't
-/// dates.
+/// Lays the categories of an axis of dates (c:cat) out by their dates; leaves it as one of categories where
+/// they are none.
 void ReadDates(ReadingContext& context, pugi::xml_node categories, AxisModel& axis);
 
 /// Reads the numbers of a series (c:val, c:xVal and the like), one for each point. A missing number is NaN.
