@@ -11,7 +11,7 @@
 /// Lengths are in points, y grows downwards, and the origin is the top left corner of the picture.
 namespace plotsmith::render {
 
-/// A place on a picture, in points.
+/// A point on a picture. Lengths are in points.
 struct Point {
   /// The distances from the left and the upper edge of the picture.
   double x = 0, y = 0;
@@ -58,7 +58,7 @@ std::string HexOf(const Color& color);
 struct SolidFill {
   Color color;
 };
-/// A place on a gradient with its colour.
+/// A position on a gradient with its colour.
 struct GradientStop {
   /// The position, from 0 (start) to 1 (end).
   double position = 0;
@@ -296,8 +296,8 @@ struct Item {
   std::variant<PathItem, TextItem, PushClip, PopClip, ImageItem, ShadowItem> content;
 };
 
-/// Returns the smallest rectangle around what the item paints; an empty one for clips. The width of lines
-/// doesn't count.
+/// Returns the smallest rectangle around the contents of an item, without the width of lines. It is empty for
+/// clips.
 Rect BoundsOf(const Item& item);
 /// Returns the item moved by a distance.
 Item Moved(Item item, Point by);

@@ -39,7 +39,7 @@ struct PicturePlan {
   double scale = 1;  ///< The size of the picture, as a multiple of the size of the chart.
 };
 
-/// Returns whether a path isn't a folder and has the extension of a picture format.
+/// Returns true if a path isn't a folder and has the extension of a picture format.
 bool LooksLikePicture(const std::string& path);
 
 /// Makes the plan from the options and `-o`. The default destination is the current folder, and the default

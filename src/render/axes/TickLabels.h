@@ -38,7 +38,7 @@ struct TickLabels {
 
   std::vector<LevelLabels> levels;  ///< The outer levels, beyond the labels of the categories.
 
-  /// Returns whether the axis has no labels.
+  /// Returns true if the axis has no labels.
   bool IsEmpty() const { return labels.empty(); }
 };
 

@@ -77,7 +77,7 @@ struct LabelModel {
   /// The layout that a person set. It is absent if the layout is automatic.
   std::optional<ManualLayout> layout;
 
-  /// Returns whether the label has any part of a text.
+  /// Returns true if the label has any part of a text.
   bool ShowsAnything() const;
 };
 /// The data labels of a series.
@@ -189,7 +189,7 @@ struct SeriesModel {
   /// Returns the style of a point by its index, from 0. The filling may be inverted if `value`, which is the
   /// value or the bubble size, is below zero.
   ShapeStyle StyleOf(std::size_t point, double value) const;
-  /// Returns whether the filling of a point with this value is inverted.
+  /// Returns true if the filling of a point with this value is inverted.
   bool IsInverted(std::size_t point, double value) const;
   /// Returns the marker of a point by its index, from 0.
   const MarkerModel& MarkerOf(std::size_t point) const;
@@ -284,17 +284,17 @@ struct GroupModel {
   /// X values of a scatter or bubble chart.
   int category = -1, value = -1, depth = -1;
 
-  /// Returns whether the values of series are added up.
+  /// Returns true if the values of series are added up.
   bool IsStacked() const { return grouping == Grouping::kStacked || grouping == Grouping::kPercent; }
-  /// Returns whether the group is drawn as slices of a circle.
+  /// Returns true if the group is drawn as slices of a circle.
   bool IsRound() const {
     return family == Family::kPie || family == Family::kDoughnut || family == Family::kOfPie;
   }
-  /// Returns whether the series of this kind of group can have error bars in Excel.
+  /// Returns true if the series of this kind of group can have error bars in Excel.
   bool CanHaveErrorBars() const;
-  /// Returns whether the series of this kind of group can have trendlines in Excel. Stacked series can't.
+  /// Returns true if the series of this kind of group can have trendlines in Excel. Stacked series can't.
   bool CanHaveTrendlines() const { return CanHaveErrorBars() && !IsStacked(); }
-  /// Returns whether points lie at X values instead of categories.
+  /// Returns true if points lie at X values instead of categories.
   bool HasXValues() const { return family == Family::kScatter || family == Family::kBubble; }
   /// Returns the number of points of the longest series.
   std::size_t PointCount() const;
@@ -368,13 +368,13 @@ struct AxisModel {
   /// The positions of the categories on a date axis. It is absent if the categories aren't dates.
   std::optional<DateSlots> dates;
 
-  /// Returns whether the axis is vertical.
+  /// Returns true if the axis is vertical.
   bool IsUpright() const { return side == Side::kLeft || side == Side::kRight; }
   /// Returns the number of categories along the axis, or of days, months or years; at least 1.
   double SlotCount() const;
   /// Returns the X values at the ends of the axis, as AxisMap::OfX takes them.
   std::pair<double, double> EndsOfX() const;
-  /// Returns whether values lie along the axis.
+  /// Returns true if values lie along the axis.
   bool IsOfValues() const { return kind == AxisKind::kValue; }
 };
 
@@ -401,7 +401,7 @@ struct LegendModel {
   TextStyle text;
   std::vector<LegendEntry> entries;
 
-  /// Returns whether the legend is above or below the plot area, with its entries side by side.
+  /// Returns true if the legend is above or below the plot area, with its entries side by side.
   bool IsFlat() const { return position == "t" || position == "b"; }
 };
 
@@ -442,9 +442,9 @@ struct ChartModel {
   /// The date system of the workbook.
   xlsx::DateSystem dates = xlsx::DateSystem::k1900;
 
-  /// Returns whether any group is drawn in 3-D.
+  /// Returns true if any group is drawn in 3-D.
   bool Is3D() const;
-  /// Returns whether all groups are pies or doughnuts.
+  /// Returns true if all groups are pies or doughnuts.
   bool IsRound() const;
   /// Returns the series with a number, from 1 in plot order, or null if there is none.
   const SeriesModel* FindSeries(int number) const;

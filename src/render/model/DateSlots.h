@@ -7,7 +7,7 @@
 
 namespace plotsmith::render {
 
-/// The unit of an axis of dates.
+/// The unit of a date axis.
 enum class TimeUnit : std::uint8_t { kDays, kMonths, kYears };
 
 /// The positions of categories on a date axis. A slot is the space for a day, a month or a year.

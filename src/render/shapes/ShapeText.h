@@ -29,7 +29,7 @@ struct ShapeText {
   /// The rotation relative to the shape, in degrees clockwise.
   double rotation = 0;
 
-  /// Returns whether no paragraph has a text.
+  /// Returns true if no paragraph has a text.
   bool IsEmpty() const;
 };
 

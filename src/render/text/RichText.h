@@ -28,7 +28,7 @@ struct RichText {
   std::optional<double> rotation;  ///< The rotation in degrees clockwise; absent if it is automatic.
   bool stacked = false;            ///< Whether letters are below each other.
 
-  /// Returns whether no run has a text.
+  /// Returns true if no run has a text.
   bool IsEmpty() const;
 };
 

@@ -33,7 +33,7 @@ struct TextBlock {
   double TurnedWidth() const;
   /// The height of the smallest upright rectangle around the rotated block, in points.
   double TurnedHeight() const;
-  /// Returns whether the block has no line.
+  /// Returns true if the block has no line.
   bool IsEmpty() const { return lines.empty(); }
 };
 

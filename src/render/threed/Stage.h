@@ -26,7 +26,7 @@ class Stage {
 
   /// The group that is drawn.
   const GroupModel& Group() const { return group_; }
-  /// Returns whether a missing value counts as zero, which has a body without a height.
+  /// Returns true if a missing value counts as zero, which has a body without a height.
   bool BlanksAreZero() const { return chart_.blanks == "zero"; }
   /// The category axis.
   const AxisModel& Categories() const { return chart_.axes[static_cast<std::size_t>(group_.category)]; }
@@ -34,14 +34,14 @@ class Stage {
   const AxisModel& Values() const { return chart_.axes[static_cast<std::size_t>(group_.value)]; }
   /// The series axis; null if all series are at the same depth.
   const AxisModel* Series() const;
-  /// Returns whether bars are horizontal.
+  /// Returns true if bars are horizontal.
   bool IsHorizontal() const { return group_.horizontal; }
   /// Returns the proportions of the box in a view.
   BoxShape Shape(const View& view) const;
 
   /// The number of categories, at least one.
   std::size_t CategoryCount() const { return categories_; }
-  /// Returns whether the first and the last category are at the edges of the box.
+  /// Returns true if the first and the last category are at the edges of the box.
   bool PointsAreOnTicks() const;
   /// Returns the space of a category by its index, from 0.
   Span Category(std::size_t index) const;

@@ -76,7 +76,7 @@ struct A1Reference {
 /// Reads the reference at the start of a text, without a sheet.
 std::optional<A1Reference> ReadA1Reference(std::string_view text);
 
-/// Returns whether names in formulas can contain the character: functions, defined names, sheets without
+/// Returns true if names in formulas can contain the character: functions, defined names, sheets without
 /// quotes.
 bool IsNameCharacter(char c);
 
