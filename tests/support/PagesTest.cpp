@@ -111,7 +111,7 @@ Hands HandsOnModel() {
 
 std::function<Hands()> MakeHands = HandsOnModel;
 
-PageLines::PageLines(const S& script, Deeds deeds) : deeds_(std::move(deeds)) {
+PageLines::PageLines(const S& script, Actions actions) : actions_(std::move(actions)) {
   for (std::size_t from = 0; from <= script.size();) {
     const std::size_t to = std::min(script.find("; ", from), script.size());
     lines_.push_back(script.substr(from, to - from));
@@ -138,7 +138,7 @@ bool PageLines::PlayOwn(const S& line, const forms::Form* form) {
   if (verb != "look" && verb != "clear" && verb != "force" && verb != "definition" && verb != "do")
     return false;
   if (verb == "do") {
-    deeds_.at(what)();
+    actions_.at(what)();
     return true;
   }
   if (form == nullptr) throw forms::ScriptError("no page is open");
@@ -151,9 +151,9 @@ bool PageLines::PlayOwn(const S& line, const forms::Form* form) {
   return true;
 }
 
-S PagesTest::Play(const S& script, Deeds deeds) {
+S PagesTest::Play(const S& script, Actions actions) {
   helpTopics_.clear();
-  PageLines lines(script, std::move(deeds));
+  PageLines lines(script, std::move(actions));
   Hands hands = MakeHands();
   const auto player = std::make_shared<forms::ScriptPlayer>(
       lines, [](const forms::FormState&) {}, std::move(hands.hand));

@@ -52,7 +52,7 @@ class ControlView {
   void Report(std::function<void()> gesture);
   /// Sets the object name, the colour roles and the common properties of the widget. Call this after the
   /// widget is made.
-  void Dress();
+  void SetUpWidget();
 
  private:
   void ShowColors();

@@ -71,7 +71,7 @@ GridView::GridView(forms::VSFlexGrid& model, QWidget* parent, const Post& post)
   QObject::connect(table_, &QTableWidget::cellDoubleClicked, table_, [this](int row, int) {
     Report([this, row] { model_.UserDoubleClick(row + model_.FixedRows()); });
   });
-  Dress();
+  SetUpWidget();
 }
 
 void GridView::ReportSelection() {
