@@ -203,8 +203,8 @@ Section Buckets() {
 
 std::vector<Section> Gallery() {
   return {AreaBarColumn("column", "The columns are vertical."),
-          AreaBarColumn("bar", "The same charts with horizontal bars."),
-          AreaBarColumn("area", "The same charts with areas. Plain areas cover each other."),
+          AreaBarColumn("bar", "These are the same charts with horizontal bars."),
+          AreaBarColumn("area", "These are the same charts with areas. Plain areas cover each other."),
           Dimensions(),
           TextsAndLook(),
           Pies(),

@@ -22,7 +22,7 @@ ChartNames LoadedCharts();
 /// A chart of Plotsmith, with the id and the name in its definition.
 struct DefinedChart {
   std::string id, name;
-  excel::Ref<excel::Chart> chart;
+  excel::Ref<excel::Chart> chart;  ///< The chart; Nothing if no sheet has it.
 };
 
 /// Returns the charts that have a definition, in the order of their definitions. They are the charts that a

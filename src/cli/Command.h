@@ -10,17 +10,17 @@ namespace plotsmith::cli {
 
 /// The options of all commands.
 struct GlobalOptions {
-  double hostVersion = 16;
-  bool journal = false;
+  double hostVersion = 16;  ///< The version of Excel that the embedded host reports.
+  bool journal = false;     ///< Whether calls to the host are printed.
   bool force = false;       ///< Also write a workbook that another program has open.
   bool dropBroken = false;  ///< Also write a workbook if broken definitions are lost.
 };
 
 /// The exit codes of the command.
 namespace exit_code {
-inline constexpr int kDone = 0;
-inline constexpr int kSaidSomething = 1;  ///< The command did its work, and there was a message.
-inline constexpr int kUsage = 2;
+inline constexpr int kDone = 0;              ///< The command did its work, and there was no message.
+inline constexpr int kDoneWithMessages = 1;  ///< The command did its work, and there was a message.
+inline constexpr int kUsage = 2;             ///< The arguments are wrong. Nothing was changed.
 /// A workbook or the output can't be read or written, or definitions would be lost. Nothing was changed.
 inline constexpr int kFile = 3;
 }  // namespace exit_code
@@ -39,7 +39,7 @@ class CommandError : public std::runtime_error {
 };
 
 /// Flushes `out`. Throws CommandError if that fails, because lost data is an error.
-inline void Deliver(const Streams& streams) {
+inline void FlushOutput(const Streams& streams) {
   if (!streams.out.flush()) throw CommandError(exit_code::kFile, "the output can't be written.");
 }
 

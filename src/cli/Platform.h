@@ -28,6 +28,7 @@ class StandardStreams {
 /// the system asks for the time in its innermost loops.
 std::int64_t CoarseTime();
 
+/// Returns true if a stream is a terminal.
 bool IsTerminal(std::FILE* stream);
 
 /// Returns the Windows locale identifier (MS-LCID) of the user's locale.

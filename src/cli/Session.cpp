@@ -154,7 +154,7 @@ void Session::CheckTable(const std::string& id) const {
                      "\"" + path_ + "\" has no table \"" + id + "\" (plotsmith tables lists its tables).");
 }
 
-void Session::Look(const std::function<void()>& look) const {
+void Session::Guard(const std::function<void()>& check) const {
   struct Restored {
     runtime::Ref<excel::Application> application = oApplication;
     runtime::Ref<excel::Workbook> workbook = oWorkbook;
@@ -165,7 +165,7 @@ void Session::Look(const std::function<void()>& look) const {
   } restored;
   UseBook();
   try {
-    look();
+    check();
   } catch (const runtime::RuntimeError&) {
     CheckDamage();  // This reports damage.
     throw;
@@ -173,10 +173,10 @@ void Session::Look(const std::function<void()>& look) const {
   CheckDamage();
 }
 
-void Session::LookBeforeRun(DefinitionsAre definitions) {
-  Look([&] { look_.emplace(Book(), definitions); });
-  if (!look_ || options_.dropBroken) return;
-  const RunRefusals refusals = look_->Refusals();
+void Session::CheckBeforeRun(DefinitionsAre definitions) {
+  Guard([&] { check_.emplace(Book(), definitions); });
+  if (!check_ || options_.dropBroken) return;
+  const RunRefusals refusals = check_->Refusals();
   if (!ReportFindings(refusals.lines)) return;
   throw CommandError(exit_code::kFile,
                      "nothing was changed, because " +
@@ -195,7 +195,7 @@ void Session::ChartStarted(const std::vector<runtime::Variant>& arguments) {
   if (arguments.empty() || !colCharts) return;
   const std::string id = runtime::CStr(arguments[0]);
   started_.push_back({colCharts->Item(id).selectSingleNode("chart"), colChartObjects->Item(id)});
-  if (look_) look_->ChartStarted(id);
+  if (check_) check_->ChartStarted(id);
   if (!streams_.terminal) return;
   const std::string line = "Refreshing chart " + std::to_string(started_.size()) + " ...";
   streams_.err << '\r' << line << std::flush;
@@ -231,15 +231,15 @@ void Session::CheckDamage() const {
 int Session::ReportMessages() {
   ClearProgress();
   for (const std::string& message : desktop_->Messages()) streams_.err << message << '\n';
-  return desktop_->Messages().empty() ? exit_code::kDone : exit_code::kSaidSomething;
+  return desktop_->Messages().empty() ? exit_code::kDone : exit_code::kDoneWithMessages;
 }
 
 int Session::Save(const std::optional<std::string>& output) {
   std::vector<std::string> findings;
-  Look([&] {
-    if (look_) findings = look_->Finish();
+  Guard([&] {
+    if (check_) findings = check_->Finish();
   });
-  Deliver(streams_);  // Nothing is changed yet.
+  FlushOutput(streams_);  // Nothing is changed yet.
   if (output || Book().Changed()) {
     try {
       WriteBook(output);
@@ -249,7 +249,7 @@ int Session::Save(const std::optional<std::string>& output) {
     }
   }
   const int code = ReportMessages();
-  return ReportFindings(findings) ? exit_code::kSaidSomething : code;
+  return ReportFindings(findings) ? exit_code::kDoneWithMessages : code;
 }
 
 void Session::WriteBook(const std::optional<std::string>& output) {
@@ -258,7 +258,7 @@ void Session::WriteBook(const std::optional<std::string>& output) {
     return;
   }
   Book().Save(streams_.out);
-  Deliver(streams_);
+  FlushOutput(streams_);
 }
 
 int Session::Finish() {

@@ -11,7 +11,7 @@
 #include "cli/Command.h"
 #include "cli/ConsoleDesktop.h"
 #include "cli/Streams.h"
-#include "cli/check/RunLook.h"
+#include "cli/check/RunCheck.h"
 #include "dom/Dom.h"
 #include "forms/ModalLoop.h"
 #include "host/excel/Excel.h"
@@ -23,7 +23,7 @@ namespace plotsmith::cli {
 
 /// The results of a refresh.
 struct RefreshCounts {
-  std::size_t refreshed = 0;
+  std::size_t refreshed = 0;    ///< Charts that were drawn.
   std::size_t unavailable = 0;  ///< Charts that couldn't be drawn.
 };
 
@@ -60,7 +60,7 @@ class Session {
   /// Checks the definitions before a run that writes. If the run would lose definitions, prints a line for
   /// each on `err` and throws CommandError, unless the options allow it. Other findings are reported after
   /// the save.
-  void LookBeforeRun(DefinitionsAre definitions);
+  void CheckBeforeRun(DefinitionsAre definitions);
   /// Checks a table id after the run. Throws CommandError if the workbook has neither a table nor a chart
   /// with it.
   void CheckTable(const std::string& id) const;
@@ -92,7 +92,7 @@ class Session {
   void CheckDamage() const;
   int ReportMessages();
   /// Calls a check with the system's variables set to the workbook, and restores them.
-  void Look(const std::function<void()>& look) const;
+  void Guard(const std::function<void()>& check) const;
   /// Prints the findings of the checks. Returns false if there are none.
   bool ReportFindings(const std::vector<std::string>& lines) const;
 
@@ -101,7 +101,7 @@ class Session {
   Streams streams_;
   std::shared_ptr<ConsoleDesktop> desktop_;
   std::shared_ptr<xlsx::Application> host_;
-  std::optional<RunLook> look_;
+  std::optional<RunCheck> check_;
   std::vector<StartedChart> started_;
   std::size_t progressWidth_ = 0;
   bool bookToOut_ = false;  ///< Whether the workbook goes to standard output, which then takes nothing else.

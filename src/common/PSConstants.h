@@ -4,12 +4,15 @@
 
 namespace plotsmith {
 
+/// The name of the product in the titles of message boxes.
 inline constexpr const char* kProductTitle = "Brindle Plotsmith";
 
 /// The very hidden sheet of the chart definitions. A1 contains kDefinitionsSheetMark, and each cell from A2
 /// on contains a document.
 inline constexpr const char* kDefinitionsSheet = "VEX_ChartDefinitions";
+/// The text in A1 of the sheet of definitions.
 inline constexpr const char* kDefinitionsSheetMark = "Plotsmith Version 2.0";
+/// The row of the first definition, from 1.
 inline constexpr std::int32_t kFirstDefinitionRow = 2;
 /// The very hidden sheet of the pivoted data. Each chart has a block of rows on it.
 inline constexpr const char* kDataSheet = "VEX_ChartData";
@@ -25,9 +28,12 @@ inline constexpr std::int32_t kFirstSeries = 3;
 /// The name of the table's sheet in a definition whose table was deleted.
 inline constexpr const char* kDeletedTable = "[Deleted]";
 
+/// Macros that a workbook can have. The system calls the first one at the start of a refresh and, with the
+/// id, at the start of each chart. It calls the second one at the end of a refresh.
 inline constexpr const char* kRefreshStartedMacro = "VEXEvents.VEXChartRefreshStarted";
 inline constexpr const char* kRefreshCompleteMacro = "VEXEvents.VEXChartRefreshComplete";
 
+/// The line break in the texts of shapes and message boxes.
 inline constexpr const char* kLineBreak = "\r\n";
 
 /// The last host version without the busy window and without A1 references for series names.

@@ -12,26 +12,29 @@
 /// built.
 namespace plotsmith {
 
+/// XML documents by their ids.
 using DocumentCollection = runtime::Collection<dom::IXMLDOMDocument2>;
 
-extern runtime::Ref<excel::Application> oApplication;  ///< the host of the first call
-extern std::string sCustomAppName;                     ///< the host's name in the first call
-extern runtime::Ref<excel::Workbook> oWorkbook;        ///< the workbook of the run
+extern runtime::Ref<excel::Application> oApplication;  ///< The host of the first call.
+extern std::string sCustomAppName;                     ///< The name of the host in the first call.
+extern runtime::Ref<excel::Workbook> oWorkbook;        ///< The workbook of the run.
 
-extern runtime::Ref<DocumentCollection> colTables;  ///< table documents by table id; Nothing until discovered
-extern runtime::Ref<DocumentCollection> colCharts;  ///< chart documents by chart id; Nothing until loaded
+extern runtime::Ref<DocumentCollection> colTables;  ///< The tables by id; Nothing until they are found.
+extern runtime::Ref<DocumentCollection>
+    colCharts;  ///< The definitions by chart id; Nothing until they are loaded.
 /// The charts, and the comment boxes of charts that have one, by chart id.
 extern runtime::Ref<runtime::Collection<runtime::Ref<excel::Chart>>> colChartObjects;
 extern runtime::Ref<runtime::Collection<runtime::Ref<excel::Shape>>> colChartShapes;
 
-extern dom::IXMLDOMDocument2 oChartDoc;  ///< the document being edited
-extern std::int32_t lMethodType;         ///< the task of the run, see PSConstants.h; kept between runs
-extern std::string sChartType;           ///< of the current chart; "unknown" without one
-extern std::string sChartID;             ///< of the current chart
-extern std::string sTableID;             ///< the source table of the current chart
-extern std::string sPendingMessage;      ///< the text of the next ShowMessage without a text
-extern bool bRunAborted;                 ///< the run ended in an error
-extern bool bUnloadingPage;              ///< the controller, and not the user, is closing a page
+extern dom::IXMLDOMDocument2 oChartDoc;  ///< The definition that is being edited.
+extern std::int32_t
+    lMethodType;  ///< The task of the run, from the namespace `method`. It is kept between runs.
+extern std::string sChartType;       ///< The type of the current chart; "unknown" if there is none.
+extern std::string sChartID;         ///< The id of the current chart.
+extern std::string sTableID;         ///< The id of the source table of the current chart.
+extern std::string sPendingMessage;  ///< The text that ShowMessage shows if it gets none.
+extern bool bRunAborted;             ///< Whether the run ended in an error.
+extern bool bUnloadingPage;          ///< Whether the controller, and not the user, is closing a page.
 
 /// Resets all of these variables, including the host, to their values at the start of the component.
 void ResetRunVariables();

@@ -32,7 +32,7 @@ int Gaps(std::size_t count, const Measures& measures) {
 }
 
 /// Distributes extra space by shares. Without shares, the lengths don't change.
-void ShareOut(Lengths& lengths, const Lengths& shares, int room) {
+void Distribute(Lengths& lengths, const Lengths& shares, int room) {
   int sum = Sum(shares);
   for (std::size_t i = 0; i < lengths.size() && sum > 0; ++i) {
     const int part = room * shares[i] / sum;  // A share of the remaining space.
@@ -126,7 +126,7 @@ class Arranger {
       widths.push_back(LeastSize(part, measures_).width);
       shares.push_back(part.stretch);
     }
-    ShareOut(widths, shares, area.width - Sum(widths) - Gaps(widths.size(), measures_));
+    Distribute(widths, shares, area.width - Sum(widths) - Gaps(widths.size(), measures_));
     const bool hasLines = HasLines(row);
     int left = area.left;
     for (std::size_t i = 0; i < widths.size(); ++i) {
@@ -143,7 +143,7 @@ class Arranger {
       lists.push_back(HasLines(part) ? 1 : 0);
     }
     const int room = area.height - Sum(heights) - Gaps(heights.size(), measures_);
-    ShareOut(heights, Sum(shares) > 0 ? shares : lists, room);
+    Distribute(heights, Sum(shares) > 0 ? shares : lists, room);
     int top = area.top;
     for (std::size_t i = 0; i < heights.size(); ++i) {
       Place(column.parts[i], {area.left, top, area.width, heights[i]});
@@ -153,10 +153,10 @@ class Arranger {
 
   void PlaceGrid(const Layout& grid, const Area& area) {
     GridLines lines = LinesOf(grid, measures_);
-    ShareOut(lines.widths, lines.columnShares,
-             area.width - Sum(lines.widths) - Gaps(lines.widths.size(), measures_));
-    ShareOut(lines.heights, lines.rowShares,
-             area.height - Sum(lines.heights) - Gaps(lines.heights.size(), measures_));
+    Distribute(lines.widths, lines.columnShares,
+               area.width - Sum(lines.widths) - Gaps(lines.widths.size(), measures_));
+    Distribute(lines.heights, lines.rowShares,
+               area.height - Sum(lines.heights) - Gaps(lines.heights.size(), measures_));
     Area cell{area.left, area.top, 0, 0};
     for (std::size_t i = 0; i < grid.parts.size(); ++i) {
       const std::size_t row = i / lines.widths.size(), column = i % lines.widths.size();

@@ -88,7 +88,8 @@ class Control {
 
   /// Raised when the control gets the focus.
   Event GotFocus;
-  Event Validate;  ///< Raised when the focus moves from this control to another one.
+  /// Raised when the focus moves from this control to another one.
+  Event Validate;
 
   /// Returns why the user can't use the control at present, as the end of a sentence ("is off"). It is empty
   /// if the user can.

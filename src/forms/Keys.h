@@ -9,9 +9,8 @@ enum class Key { kOther, kEnter, kEscape, kHelp };
 
 /// A key press, as toolkits report it.
 struct KeyPress {
-  Key key = Key::kOther;
-  /// Whether the Alt key is held down.
-  bool withAlt = false;
+  Key key = Key::kOther;    ///< The key.
+  bool withAlt = false;     ///< Whether the Alt key is held down.
   bool isRepeated = false;  ///< Whether this press is an automatic repetition of a held key.
 };
 

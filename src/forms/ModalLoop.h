@@ -61,7 +61,7 @@ class ModalLoop {
   /// The maximum depth of nested forms. Each step of a wizard, forward or back, adds one level and uses stack
   /// space.
   static constexpr std::size_t kMostForms = 500;
-  /// The stack space that the last of them needs for its work and for an error message, in bytes.
+  /// The stack space in bytes that the innermost form needs for its work and for an error message.
   static constexpr std::size_t kStackOfForm = std::size_t{128} * 1024;
 
   /// Loads a form, if it isn't loaded yet, and shows it in front of the others. Returns when the form is

@@ -11,8 +11,9 @@
 /// Lengths are in points, y grows downwards, and the origin is the top left corner of the picture.
 namespace plotsmith::render {
 
-/// A place on a picture, in points.
+/// A point on a picture. Lengths are in points.
 struct Point {
+  /// The distances from the left and the upper edge of the picture.
   double x = 0, y = 0;
 
   bool operator==(const Point&) const = default;
@@ -22,8 +23,11 @@ struct Point {
 struct Rect {
   double left = 0, top = 0, width = 0, height = 0;
 
+  /// The X coordinate of the right edge.
   double Right() const { return left + width; }
+  /// The Y coordinate of the lower edge.
   double Bottom() const { return top + height; }
+  /// The middle of the rectangle.
   Point Center() const { return {left + width / 2, top + height / 2}; }
   bool operator==(const Rect&) const = default;
 };
@@ -31,16 +35,17 @@ struct Rect {
 /// Returns the rectangle with its left and right sides moved inwards by `horizontal` and the others by
 /// `vertical`, in points. Sides that would pass each other meet in the middle.
 Rect Inset(const Rect& rect, double horizontal, double vertical);
-/// Returns whether two rectangles share more than an edge. An overlap of at most `slack` points doesn't
-/// count.
+/// Returns true if two rectangles overlap by more than `slack` points in both directions.
 bool Overlap(const Rect& a, const Rect& b, double slack = 0);
 /// Returns the smallest rectangle that contains both.
 Rect Union(const Rect& a, const Rect& b);
 
 /// A colour with its opacity.
 struct Color {
+  /// The parts of the colour, from 0 to 255.
   std::uint8_t red = 0, green = 0, blue = 0;
-  double alpha = 1;  ///< from 0, transparent, to 1, opaque
+  /// The opacity, from 0 (transparent) to 1 (opaque).
+  double alpha = 1;
 
   bool operator==(const Color&) const = default;
 };
@@ -53,28 +58,36 @@ std::string HexOf(const Color& color);
 struct SolidFill {
   Color color;
 };
-/// A place on a gradient with its colour.
+/// A position on a gradient with its colour.
 struct GradientStop {
-  double position = 0;  ///< from 0 to 1
+  /// The position, from 0 (start) to 1 (end).
+  double position = 0;
   Color color;
 };
 /// A linear or radial gradient over the bounds of the filled path.
 struct GradientFill {
-  std::vector<GradientStop> stops;  ///< by their positions
+  /// The stops, in the order of their positions.
+  std::vector<GradientStop> stops;
+  /// Whether the gradient is radial. Otherwise it is linear.
   bool radial = false;
-  double angle = 0;          ///< direction of a linear gradient, in degrees clockwise from left to right
-  Point focus = {0.5, 0.5};  ///< start of a radial gradient, in fractions of the bounds
+  /// The direction of a linear gradient, in degrees clockwise from "left to right".
+  double angle = 0;
+  /// The start of a radial gradient, in fractions of the bounds.
+  Point focus = {0.5, 0.5};
 };
 /// A preset pattern of 8 by 8 pixels at 96 dpi. The tiles begin at the picture's origin.
 struct PatternFill {
-  std::string preset;  ///< name of the pattern (ST_PresetPatternVal)
+  /// The name of the pattern, as a value of ST_PresetPatternVal.
+  std::string preset;
   Color foreground, background;
 };
 /// A PNG picture, stretched over the bounds of the path or repeated in tiles. Drawings don't contain this
 /// filling: a Canvas replaces it by images that are clipped to the path.
 struct PictureFill {
-  std::shared_ptr<const std::string> bytes;  ///< of the PNG file
-  double tileWidth = 0, tileHeight = 0;      ///< points; 0 if the picture is stretched
+  /// The bytes of the PNG file.
+  std::shared_ptr<const std::string> bytes;
+  /// The size of a tile in points. It is 0 if the picture is stretched.
+  double tileWidth = 0, tileHeight = 0;
 };
 /// The inside of a path. std::monostate is no filling.
 using Fill = std::variant<std::monostate, SolidFill, GradientFill, PatternFill, PictureFill>;
@@ -87,18 +100,23 @@ enum class LineJoin : std::uint8_t { kMiter, kRound, kBevel };
 /// The outline of a path.
 struct Stroke {
   Color color;
-  double width = 0;            ///< points; 0 if there is no line
-  std::vector<double> dashes;  ///< lengths of dash, gap, dash, ... in points; empty for a solid line
+  /// The width in points. It is 0 if there is no line.
+  double width = 0;
+  /// The lengths of dash, gap, dash and so on, in points. It is empty for a solid line.
+  std::vector<double> dashes;
   LineCap cap = LineCap::kFlat;
   LineJoin join = LineJoin::kRound;
 };
 
 /// A step of a path from the point where the previous one ended.
 struct PathStep {
+  /// The kind of a step: the start of an outline, a line, a cubic curve, or the end of an outline.
   enum class Kind : std::uint8_t { kMove, kLine, kCurve, kClose };
   Kind kind = Kind::kMove;
-  Point to;                  ///< end of the step; unused by kClose
-  Point control1, control2;  ///< control points of a cubic curve
+  /// The end of the step, which kClose doesn't use.
+  Point to;
+  /// The control points of a cubic curve.
+  Point control1, control2;
 };
 
 /// An outline of lines and cubic curves. Angles are in degrees, clockwise from twelve o'clock.
@@ -122,9 +140,11 @@ class Path {
   /// current point must be at `from`. A negative sweep goes counter-clockwise.
   Path& ArcTo(const Rect& bounds, double from, double sweep);
 
+  /// The steps in the order in which they were added.
   const std::vector<PathStep>& Steps() const { return steps_; }
+  /// Returns true if the path has no steps.
   bool IsEmpty() const { return steps_.empty(); }
-  /// Returns the smallest rectangle around the lines and curves. Control points may lie outside.
+  /// Returns the smallest rectangle that contains the lines and curves. Control points may be outside of it.
   Rect Bounds() const;
   /// Returns the path with each of its points mapped. `map` takes and returns a Point.
   template <class Map>
@@ -151,21 +171,23 @@ Point OnEllipse(const Rect& bounds, double degrees);
 
 /// A font of a text.
 struct Font {
-  std::string family;  ///< as the file names it; the font may not be installed
-  double size = 10;    ///< points
+  /// The name in the file. The font may not be installed.
+  std::string family;
+  /// The size in points.
+  double size = 10;
   bool bold = false, italic = false, underline = false;
 
   bool operator==(const Font&) const = default;
 };
 
-/// The part of a text that is at its anchor.
+/// The point of a text that is at its anchor.
 enum class TextAlign : std::uint8_t { kStart, kMiddle, kEnd };
 
 /// The element of a chart or sheet that an item is part of.
 enum class Role : std::uint8_t {
   kOther,
   kChartArea,
-  kPlotArea,  ///< the rectangle between the axes
+  kPlotArea,  ///< The rectangle between the axes.
   kTitle,
   kAxisTitle,
   kAxisLine,
@@ -190,25 +212,25 @@ enum class Role : std::uint8_t {
   kDropLine,
   kWall,
   kFloor,
-  kSide,  ///< a side face of a body in 3-D; its front has the role of the flat shape
+  kSide,  ///< A side face of a body in 3-D. The front face has the role of the flat shape.
   kShape,
   kShapeText,
   kCell,
   kCellText,
-  kShadow,  ///< of the item that follows it, with the numbers of that item
+  kShadow,  ///< The shadow of the following item, with the numbers of that item.
   kTrendline,
   kTrendlineLabel,
   kUpDownBar,
-  kTableLine,  ///< of a data table, whose texts have the numbers of their series and point
+  kTableLine,  ///< A line of a data table. The texts have the numbers of their series and point.
   kTableText,
   kSurface
 };
 /// Returns the name of a role without the k, such as "ChartArea".
 std::string_view NameOf(Role role);
 
-/// What an item shows. Numbers count from 1; 0 is none. For an axis and its parts, `series` is the number of
-/// the axis in the chart part, and `point` the number of the tick. For a part of the legend they are the
-/// series and the point of the entry.
+/// The element that an item shows. Numbers count from 1; 0 means none. For an axis and its parts, `series` is
+/// the number of the axis in the chart part, and `point` the number of the tick. For a part of the legend
+/// they are the series and the point of the entry.
 struct Tag {
   Role role = Role::kOther;
   int series = 0;
@@ -226,19 +248,23 @@ struct PathItem {
 
 /// One line of text in one font.
 struct TextItem {
-  std::string text;  ///< UTF-8
+  /// The text in UTF-8.
+  std::string text;
   Font font;
   Color color;
-  Point anchor;  ///< the start, the middle or the end of the baseline, as `align` says
+  /// The start, the middle or the end of the baseline, depending on `align`.
+  Point anchor;
   TextAlign align = TextAlign::kStart;
-  double rotation = 0;                        ///< in degrees clockwise about the anchor
-  double width = 0, ascent = 0, descent = 0;  ///< points, as measured
+  /// The rotation about the anchor, in degrees clockwise.
+  double rotation = 0;
+  /// The measured size in points.
+  double width = 0, ascent = 0, descent = 0;
 
-  /// Returns the smallest upright rectangle around the turned text.
+  /// Returns the smallest upright rectangle that contains the rotated text.
   Rect Bounds() const;
 };
 
-/// Limits the items up to the matching PopClip to the inside of the path.
+/// Clips the following items, up to the matching PopClip, to the inside of a path.
 struct PushClip {
   Path path;
 };
@@ -248,15 +274,19 @@ struct PopClip {};
 /// The shadow of a shape: its area and its line in one colour, with soft edges.
 struct ShadowItem {
   Path path;
+  /// Whether the area of the shape throws a shadow.
   bool filled = true;
-  double lineWidth = 0;  ///< 0 is no line
+  /// The width of the line that throws a shadow, in points. It is 0 if there is none.
+  double lineWidth = 0;
   Color color;
-  double blur = 0;  ///< standard deviation of the soft edge, in points
+  /// The standard deviation of the soft edge, in points.
+  double blur = 0;
 };
 
-/// A PNG or JPEG picture, stretched to a rectangle.
+/// A PNG picture, stretched to a rectangle.
 struct ImageItem {
-  std::string bytes;  ///< of the PNG file
+  /// The bytes of the PNG file.
+  std::string bytes;
   Rect place;
 };
 
@@ -266,18 +296,22 @@ struct Item {
   std::variant<PathItem, TextItem, PushClip, PopClip, ImageItem, ShadowItem> content;
 };
 
-/// Returns the smallest rectangle around what the item paints; an empty one for clips. The width of lines
-/// doesn't count.
+/// Returns the smallest rectangle around the contents of an item, without the width of lines. It is empty for
+/// clips.
 Rect BoundsOf(const Item& item);
 /// Returns the item moved by a distance.
 Item Moved(Item item, Point by);
 
 /// A picture.
 struct Drawing {
-  double width = 0, height = 0;  ///< points
-  std::string title;             ///< one line for screen readers
-  std::string description;       ///< the values of the chart, as lines of text for screen readers
-  std::vector<Item> items;       ///< in painting order
+  /// The size in points.
+  double width = 0, height = 0;
+  /// The title for screen readers, which is one line.
+  std::string title;
+  /// The values of the chart for screen readers, as lines of text.
+  std::string description;
+  /// The items in the order in which they are painted.
+  std::vector<Item> items;
 };
 
 /// Appends the items of a drawing to a page. The top left corner of the drawing is at the point `at`.

@@ -5,7 +5,7 @@
 
 namespace plotsmith::render {
 
-/// Sentences about what could not be drawn. Each is complete and ends with a full stop.
+/// Sentences about everything that isn't drawn. Each is complete and ends with a full stop.
 using Notes = std::vector<std::string>;
 
 }  // namespace plotsmith::render

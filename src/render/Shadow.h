@@ -4,16 +4,21 @@
 
 namespace plotsmith::render {
 
-/// The shadow that a shape throws (a:outerShdw).
+/// The outer shadow of a shape (a:outerShdw).
 struct Shadow {
   Color color;
-  double blur = 0;                ///< standard deviation of the soft edge, in points
-  Point offset;                   ///< from the shape to the shadow, in points
-  double scaleX = 1, scaleY = 1;  ///< the size of the shadow in sizes of the shape
-  double skewX = 0, skewY = 0;    ///< tangents of the angles by which it leans
-  Point fixed = {0.5, 1};         ///< the point that scaling and leaning keep, in fractions of the bounds
+  /// The standard deviation of the soft edge, in points.
+  double blur = 0;
+  /// The distance from the shape to the shadow, in points.
+  Point offset;
+  /// The size of the shadow, as a multiple of the size of the shape.
+  double scaleX = 1, scaleY = 1;
+  /// The tangents of the skew angles.
+  double skewX = 0, skewY = 0;
+  /// The point that scaling and skewing don't move, in fractions of the bounds.
+  Point fixed = {0.5, 1};
 
-  /// The outline of the shadow of a shape.
+  /// Returns the outline of the shadow of a shape.
   Path Cast(const Path& shape) const;
 };
 

@@ -9,8 +9,10 @@ namespace plotsmith::render {
 /// The size of one line of text, in points.
 struct TextExtent {
   double width = 0;
-  double ascent = 0, descent = 0;  ///< those of the font, which are the same for all texts
+  /// The ascent and the descent of the font, which are the same for all texts.
+  double ascent = 0, descent = 0;
 
+  /// The height of the line.
   double Height() const { return ascent + descent; }
 };
 

@@ -12,13 +12,13 @@ class Theme;
 /// The horizontal alignment of a cell (ST_HorizontalAlignment). kGeneral aligns numbers right, texts left,
 /// and Booleans and error values in the centre.
 enum class HorizontalAlignment { kGeneral, kLeft, kCenter, kRight, kFill, kCenterAcross };
-/// ST_VerticalAlignment.
+/// The vertical alignment of a cell (ST_VerticalAlignment).
 enum class VerticalAlignment { kTop, kCenter, kBottom };
 
 /// A line at an edge of a cell (CT_BorderPr). Its dashes are not kept.
 struct BorderLine {
-  int width = 0;                      ///< pixels at 96 dots per inch; 0 for no line
-  std::optional<std::int32_t> color;  ///< red + 256 * green + 65536 * blue; absent for the text colour
+  int width = 0;                      ///< The width in pixels at 96 dots per inch; 0 for no line.
+  std::optional<std::int32_t> color;  ///< Red + 256 * green + 65536 * blue; absent for the text colour.
 
   bool operator==(const BorderLine&) const = default;
 };
@@ -27,12 +27,12 @@ struct BorderLine {
 struct CellLook {
   HorizontalAlignment horizontal = HorizontalAlignment::kGeneral;
   VerticalAlignment vertical = VerticalAlignment::kBottom;
-  int indent = 0;     ///< in steps of three blanks
-  bool wrap = false;  ///< a long text continues on the next line of the cell
+  int indent = 0;     ///< The indent in steps of three blanks.
+  bool wrap = false;  ///< Whether a long text continues on the next line of the cell.
   bool bold = false, italic = false, underline = false, strike = false;
-  std::string font;
-  double size = 11;  ///< points
-  /// Colours as red + 256 * green + 65536 * blue; absent for the window's colours.
+  std::string font;  ///< The name of the font.
+  double size = 11;  ///< The size of the font in points.
+  /// The colours as red + 256 * green + 65536 * blue. They are absent for the default colours of the window.
   /// @{
   std::optional<std::int32_t> textColor, fillColor;
   ///@}
@@ -42,8 +42,8 @@ struct CellLook {
   bool operator==(const CellLook&) const = default;
 };
 
-/// The format of a cell style, by its index in the workbook's cell styles. A style that doesn't exist has the
-/// first font of the workbook.
+/// Returns the format of a cell style by its index, from 0, in the workbook's cell styles. A style that
+/// doesn't exist has the first font of the workbook.
 CellLook LookOf(const Styles& styles, const Theme& theme, std::uint32_t style);
 
 }  // namespace plotsmith::xlsx

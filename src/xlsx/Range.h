@@ -9,7 +9,7 @@ namespace plotsmith::xlsx {
 
 class Worksheet;
 
-/// Cells of a sheet for the port: a rectangle, entire rows or entire columns.
+/// Makes the port's object for cells of a sheet: a rectangle, entire rows or entire columns.
 excel::Ref<excel::Range> MakeRange(std::shared_ptr<Worksheet> sheet, const CellRange& cells);
 
 /// The sheet and the cells of a range.
@@ -17,7 +17,7 @@ struct SheetCells {
   Worksheet& sheet;
   CellRange cells;
 };
-/// The sheet and the cells of a range. Error 13 for a range of another host.
+/// Returns the sheet and the cells of a range. Raises error 13 if another host made the range.
 SheetCells CellsOf(const excel::Range& range);
 
 }  // namespace plotsmith::xlsx

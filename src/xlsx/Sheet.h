@@ -14,9 +14,9 @@ namespace plotsmith::xlsx {
 
 /// A sheet in the list of the workbook part.
 struct SheetEntry {
-  std::string name;     ///< on its tab
-  std::string part;     ///< in the package
-  pugi::xml_node node;  ///< its element in the workbook part
+  std::string name;     ///< The name on its tab.
+  std::string part;     ///< The name of its part in the package.
+  pugi::xml_node node;  ///< The element `sheet` in the workbook part.
   /// The sheet for the port. `worksheet` is the same object if the sheet has cells, and null otherwise.
   std::shared_ptr<excel::Sheet> object;
   std::shared_ptr<Worksheet> worksheet;
@@ -53,7 +53,7 @@ class SheetMembers : public Base {
   }
 
  protected:
-  /// The entry; error 1004 if the sheet was deleted.
+  /// Returns the entry. Raises error 1004 if the sheet was deleted.
   SheetEntry& Entry() const {
     const auto entry = entry_.lock();
     if (!entry) throw runtime::RuntimeError(runtime::error::kApplication);  // the sheet was deleted

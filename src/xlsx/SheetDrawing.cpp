@@ -64,7 +64,7 @@ std::shared_ptr<SheetShape> SheetDrawing::AddChart(const Frame& frame) {
   const std::string chartPart = book.Package().FreeName(book.Folder() + "charts/chart", ".xml");
   book.Package().Add(chartPart, content_type::kChart, EmptyChart(book.IsStrict()));
   const auto chart = book.Charts().At(chartPart);
-  chart->CatchUp();
+  chart->FollowMovedRows();
   chart->MarkChanged();
   const std::string link = book.Package().AddRelationship(part_, names.RelationshipType("chart"), chartPart);
   return AddAnchor(

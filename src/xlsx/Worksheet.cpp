@@ -111,7 +111,7 @@ CellGrid& Worksheet::Grid() {
                   "\" has formulas, and a sheet with formulas can't be written.");
   }
   if (contents.used && contents.used->CellCount() > std::int64_t{limits::kGridCells}) {
-    CellGrid::CheckRoom(RoomOf(contents.cells));
+    CellGrid::CheckSize(RoomOf(contents.cells));
   }
   CellGrid grid;
   for (std::int32_t column = 1; column <= contents.cells.ColumnCount(); ++column) {

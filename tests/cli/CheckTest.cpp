@@ -440,7 +440,7 @@ TEST_F(CheckTest, JsonHasTheSameContent) {
     "place": "VEX_ChartDefinitions!A2", "id": "VEX_Chart1", "name": "Name of VEX_Chart1", "type": "column",
     "table": "Gone", "chartSheet": "Charts",
     "findings": [{"place": "VEX_ChartDefinitions!A2", "kind": "table",
-                  "severity": "said",
+                  "severity": "reports",
                   "sentence": "There is no table 'Gone'; there is Data1; a sheet is a table only if its name is exactly one of Data1 to Data5."}]}])"));
   ASSERT_EQ(json["tables"].size(), 2u);
   const auto& table = json["tables"][0];

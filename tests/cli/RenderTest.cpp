@@ -158,14 +158,14 @@ TEST_F(RenderTest, PicturesGoWhereTheOutputSays) {
 TEST_F(RenderTest, TheHelpSaysTheFormatThatIsTakenWithoutOne) {
   const struct {
     S verb, format;
-  } cases[] = {{"render", "(default: as -o ends, else svg)"}, {"refresh", "(default: svg)"}};
+  } cases[] = {{"render", "(default: the extension of -o, else svg)"}, {"refresh", "(default: svg)"}};
   for (const auto& c : cases) {
     const S help = RunCommand({c.verb, "--help"}).out;
     EXPECT_NE(help.find("svg, png or pdf " + c.format + "\n"), S::npos) << c.verb << help;
   }
 }
 
-TEST_F(RenderTest, AMachineWithoutFontsIsSaidOnce) {
+TEST_F(RenderTest, AMachineWithoutFontsIsReportedOnce) {
   const S none = folder_ / "fonts.conf", said = folder_ / "said.txt";
   std::ofstream(none) << "<?xml version=\"1.0\"?><fontconfig></fontconfig>";
   const S sentence = "plotsmith: no fonts are installed, so texts are misplaced or missing.\n";

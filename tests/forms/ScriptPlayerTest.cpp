@@ -31,8 +31,8 @@ class ScriptPlayerTest : public ::testing::Test {
       second->OnOK = [&, form = second.get()] {
         if (!player->Answer("Sure?\r\n\r\nOK deletes.")) return;
         form->Unload();
-        player->Heard("One\r\nis done.");
-        player->Heard("Two");
+        player->AddMessage("One\r\nis done.");
+        player->AddMessage("Two");
       };
       loop.ShowModal(second);
     };

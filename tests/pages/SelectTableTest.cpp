@@ -86,7 +86,7 @@ TEST_F(SelectTableTest, EachTypeHasItsPictureAndItsPage) {
   EXPECT_EQ(images_, known) << "the pages have exactly the pictures that can be drawn";
 }
 
-TEST_F(SelectTableTest, MessagesAreSaidOnce) {
+TEST_F(SelectTableTest, MessagesAreShownOnce) {
   const S noTable =
       "expect message \"Please select the table on which the chart is based\"; look focus grdTables";
   const S noType = "expect message \"Please select a chart type\"; look focus ";

@@ -385,11 +385,11 @@ TEST_F(AnalysisTest, CurvesAreSampledBetweenTheEndsOfTheirAxis) {
   const S beyond = "<c:scaling><c:max val=\"300000\"/><c:min val=\"200000\"/></c:scaling>";
   EXPECT_TRUE(ItemsOf(draw("linear", beyond, {1, 2, 6}), Role::kTrendline).empty());
   EXPECT_EQ(notes_,
-            (render::Notes{"A trendline isn't drawn, as less than two of its points are on the axes."}));
+            (render::Notes{"A trendline isn't drawn because fewer than two of its points are on the axes."}));
 }
 
 TEST_F(AnalysisTest, SaysWhatIsNotDrawn) {
-  const S longest = "A moving average isn't drawn, as its period isn't shorter than its series.";
+  const S longest = "A moving average isn't drawn because its period isn't shorter than its series.";
   const S shadow =
       "<c:spPr><a:effectLst><a:outerShdw><a:srgbClr val=\"000000\"/></a:outerShdw></a:effectLst></c:spPr>";
   const auto average = [](int period) {
@@ -406,7 +406,7 @@ TEST_F(AnalysisTest, SaysWhatIsNotDrawn) {
       {average(4) + average(5), "", {longest}},
       {ErrorBarsXml("fixedVal", "1", "<c:errDir val=\"x\"/>"),
        "",
-       {"Error bars along an axis of categories aren't drawn."}},
+       {"Error bars along a category axis aren't drawn."}},
       {shadowed, "", {"Shadows of error bars aren't drawn."}},
       {"", "<c:majorGridlines>" + shadow + "</c:majorGridlines>", {"Shadows of gridlines aren't drawn."}},
       {"", shadow, {"Shadows of axes aren't drawn."}},

@@ -111,7 +111,7 @@ TEST_F(DataTableTest, SaysWhatHasNoRoom) {
        false,
        384,
        0,
-       {"The data table isn't drawn, as its columns have no room for a text."}},
+       {"The data table isn't drawn because its columns are too narrow for a text."}},
       {"cells",
        wide,
        false,
@@ -123,7 +123,7 @@ TEST_F(DataTableTest, SaysWhatHasNoRoom) {
        true,
        384,
        0,
-       {"The data table isn't drawn, as its chart has no flat axis of categories."}},
+       {"The data table isn't drawn because the chart has no horizontal category axis or is in 3-D."}},
   };
   for (const auto& test : kCases) {
     const Drawing drawing = DrawWithTable(kLines, test.series, "", test.horizontal, test.width);
@@ -143,7 +143,8 @@ TEST_F(DataTableTest, LeavesTheTickLabelsWhereItHasNoRoom) {
     EXPECT_FALSE(TextsOf(drawing, Role::kTickLabel, 1).empty()) << count;
     EXPECT_TRUE(TextsOf(drawing, Role::kTableText).empty()) << count;
     EXPECT_EQ(DrawingComplaints(drawing), "") << count;
-    EXPECT_EQ(notes_, (render::Notes{"The data table isn't drawn, as its columns have no room for a text."}))
+    EXPECT_EQ(notes_,
+              (render::Notes{"The data table isn't drawn because its columns are too narrow for a text."}))
         << count;
   }
 }

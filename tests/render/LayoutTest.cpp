@@ -168,7 +168,7 @@ TEST_F(LayoutTest, ALegendShowsTheEntriesThatFitAndDoesNotCoverThePlot) {
        40,
        40,
        0,
-       {"The chart has no room for its legend, which is left out."}},
+       {"There is no space for the legend, which is left out."}},
   };
   for (const auto& test : cases) {
     const Drawing drawing = Draw(
@@ -315,7 +315,8 @@ TEST_F(LayoutTest, PicturesAsFillingsAreStretchedOrTiledInsideOfTheirShapes) {
        "GIF89a",
        "",
        0,
-       {"A picture as a filling isn't drawn, as it is no PNG; what has it is in its automatic colour."}},
+       {"A picture isn't drawn as a filling because it isn't PNG or is too large; the automatic colour "
+        "replaces it."}},
   };
   for (const auto& test : cases) {
     const S fill =

@@ -131,9 +131,9 @@ class NotingLines final : public forms::LineSource {
   NotingLines(const S& script, NotingDesktop& desktop, TextsByTopic& texts)
       : lines_(script), desktop_(desktop), texts_(texts) {}
 
-  std::optional<S> NextLine(const forms::Scene& scene) override {
-    if (desktop_.asked && scene.page != nullptr) Note(*scene.page);
-    return lines_.NextLine(scene);
+  std::optional<S> NextLine(const forms::ScriptState& state) override {
+    if (desktop_.asked && state.page != nullptr) Note(*state.page);
+    return lines_.NextLine(state);
   }
   const S& LastLine() const { return lines_.LastLine(); }
 

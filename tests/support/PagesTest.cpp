@@ -34,7 +34,7 @@ class PagesDesktop final : public cli::ConsoleDesktop {
                       std::string_view) override {
     if (buttons == desktop::Buttons::kOkCancel)
       return player_->Answer(text) ? desktop::kOk : desktop::kCancel;
-    player_->Heard(text);
+    player_->AddMessage(text);
     return desktop::kOk;
   }
   void ShowHelp(std::intptr_t, const S&, std::int32_t topic) override { helpTopics_.push_back(topic); }
@@ -111,7 +111,7 @@ Hands HandsOnModel() {
 
 std::function<Hands()> MakeHands = HandsOnModel;
 
-PageLines::PageLines(const S& script, Deeds deeds) : deeds_(std::move(deeds)) {
+PageLines::PageLines(const S& script, Actions actions) : actions_(std::move(actions)) {
   for (std::size_t from = 0; from <= script.size();) {
     const std::size_t to = std::min(script.find("; ", from), script.size());
     lines_.push_back(script.substr(from, to - from));
@@ -119,15 +119,15 @@ PageLines::PageLines(const S& script, Deeds deeds) : deeds_(std::move(deeds)) {
   }
 }
 
-std::optional<S> PageLines::NextLine(const forms::Scene& scene) {
+std::optional<S> PageLines::NextLine(const forms::ScriptState& state) {
   if (next_ == lines_.size()) return std::nullopt;
   const S& line = lines_[next_++];
-  if (scene.page != nullptr) {
-    for (const Control* control : scene.page->Controls()) {
+  if (state.page != nullptr) {
+    for (const Control* control : state.page->Controls()) {
       if (dynamic_cast<const forms::Image*>(control) != nullptr) images.insert(control->Name());
     }
   }
-  return PlayOwn(line, scene.page) ? "" : line;
+  return PlayOwn(line, state.page) ? "" : line;
 }
 
 bool PageLines::PlayOwn(const S& line, const forms::Form* form) {
@@ -138,7 +138,7 @@ bool PageLines::PlayOwn(const S& line, const forms::Form* form) {
   if (verb != "look" && verb != "clear" && verb != "force" && verb != "definition" && verb != "do")
     return false;
   if (verb == "do") {
-    deeds_.at(what)();
+    actions_.at(what)();
     return true;
   }
   if (form == nullptr) throw forms::ScriptError("no page is open");
@@ -151,9 +151,9 @@ bool PageLines::PlayOwn(const S& line, const forms::Form* form) {
   return true;
 }
 
-S PagesTest::Play(const S& script, Deeds deeds) {
+S PagesTest::Play(const S& script, Actions actions) {
   helpTopics_.clear();
-  PageLines lines(script, std::move(deeds));
+  PageLines lines(script, std::move(actions));
   Hands hands = MakeHands();
   const auto player = std::make_shared<forms::ScriptPlayer>(
       lines, [](const forms::FormState&) {}, std::move(hands.hand));

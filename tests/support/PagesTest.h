@@ -18,7 +18,7 @@
 namespace plotsmith::test {
 
 /// Functions that a test calls during a script, by name.
-using Deeds = std::map<std::string, std::function<void()>>;
+using Actions = std::map<std::string, std::function<void()>>;
 
 /// The lines of a script, separated by "; ", with additional verbs for properties that scripts of the command
 /// can't check:
@@ -36,8 +36,8 @@ using Deeds = std::map<std::string, std::function<void()>>;
 /// function of the test with this name |
 class PageLines final : public forms::LineSource {
  public:
-  explicit PageLines(const std::string& script, Deeds deeds = {});
-  std::optional<std::string> NextLine(const forms::Scene& scene) override;
+  explicit PageLines(const std::string& script, Actions actions = {});
+  std::optional<std::string> NextLine(const forms::ScriptState& state) override;
 
   const std::string& LastLine() const { return lines_[next_ - 1]; }
   std::vector<std::string> definitions;
@@ -48,7 +48,7 @@ class PageLines final : public forms::LineSource {
   bool PlayOwn(const std::string& line, const forms::Form* form);
 
   std::vector<std::string> lines_;
-  Deeds deeds_;
+  Actions actions_;
   std::size_t next_ = 0;
 };
 
@@ -65,7 +65,7 @@ class PagesTest : public HostTest {
  protected:
   /// Runs the wizard on the open workbook with a script for PageLines. Returns "", or the line that failed
   /// and the reason.
-  std::string Play(const std::string& script, Deeds deeds = {});
+  std::string Play(const std::string& script, Actions actions = {});
   /// Does the same on a new workbook.
   std::string Play(const PlainBook& book, const std::string& script) {
     Open(book);

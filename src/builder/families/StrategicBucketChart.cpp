@@ -181,7 +181,7 @@ void SetStrBuckChartAttributes(const IXMLDOMElement& oChartElement) {
         if (oSeries->ChartType() == excel::xlColumnStacked) {
           // The items' fonts use the AutoScale setting of the buckets' labels on purpose.
           if (const auto oLabels = oSeries->DataLabels())
-            DressLabels(oLabels, excel::xlLabelPositionCenter, mBucketLabelFont.vAutoScale);
+            FormatLabels(oLabels, excel::xlLabelPositionCenter, mBucketLabelFont.vAutoScale);
         }
         YieldToHost();
       }

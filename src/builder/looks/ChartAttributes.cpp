@@ -85,8 +85,8 @@ void SetLabelFont(const runtime::Ref<excel::Font>& oFont) {
   oFont->SetColor(mLabelFont.vColor);
 }
 
-void DressLabels(const runtime::Ref<excel::DataLabels>& oLabels, std::int32_t lPosition,
-                 const runtime::Variant& vAutoScale) {
+void FormatLabels(const runtime::Ref<excel::DataLabels>& oLabels, std::int32_t lPosition,
+                  const runtime::Variant& vAutoScale) {
   oLabels->SetPosition(lPosition);
   oLabels->SetAutoScaleFont(SafeBool(vAutoScale));
   SetLabelFont(oLabels->Font());
@@ -97,7 +97,7 @@ void ApplyLabels(std::int32_t lType, std::int32_t lPosition) {
   for (std::int32_t i = 1; i <= oCollection->Count(); ++i) {
     const auto oSeries = oCollection->Item(i);
     oSeries->ApplyDataLabels(lType);
-    if (const auto oLabels = oSeries->DataLabels()) DressLabels(oLabels, lPosition, mLabelFont.vAutoScale);
+    if (const auto oLabels = oSeries->DataLabels()) FormatLabels(oLabels, lPosition, mLabelFont.vAutoScale);
   }
 }
 

@@ -21,9 +21,9 @@ void ClearAxisTitles();
 /// The differences between families in the handling of axis titles. The defaults are those of area, bar and
 /// column charts.
 struct AxisTitleManner {
-  bool bSwitchAxisOn = true;    ///< shows the axis that has a title
-  bool bSizeThroughVal = true;  ///< converts the font size with Val
-  bool bYield = false;          ///< lets the host handle events after each `axis`
+  bool bSwitchAxisOn = true;    ///< Shows the axis that has a title.
+  bool bSizeThroughVal = true;  ///< Converts the font size with Val.
+  bool bYield = false;          ///< Lets the host handle events after each `axis`.
 };
 /// Sets the axis titles of the definition, with the persisted fonts, and shows the axes that have titles.
 void ApplyAxisTitles(const dom::IXMLDOMElement& oChartElement, const AxisTitleManner& oManner = {});
@@ -33,17 +33,18 @@ void FinishAxes();
 /// Applies the persisted font of data labels.
 void SetLabelFont(const runtime::Ref<excel::Font>& oFont);
 /// Sets the position (XlDataLabelPosition) and the font of labels, in the order that most families require.
-void DressLabels(const runtime::Ref<excel::DataLabels>& oLabels, std::int32_t lPosition,
-                 const runtime::Variant& vAutoScale);
+void FormatLabels(const runtime::Ref<excel::DataLabels>& oLabels, std::int32_t lPosition,
+                  const runtime::Variant& vAutoScale);
 /// Adds labels of a type (XlDataLabelsType) at a position to all series.
 void ApplyLabels(std::int32_t lType, std::int32_t lPosition);
 
 /// A setting of `dynamic-attributes`, and its weight in a sum.
 struct SettingWeight {
-  std::string_view sSetting;
-  std::int32_t lWeight;
+  std::string_view sSetting;  ///< The attribute `setting` of a `dynamic-attribute`.
+  std::int32_t lWeight;       ///< The weight, a power of two.
 };
-/// The sum of the weights of the settings in `dynamic-attributes`. A setting that occurs twice counts twice.
+/// Returns the sum of the weights of the settings in `dynamic-attributes`. A setting that occurs twice counts
+/// twice.
 std::int32_t SumOfSettings(const dom::IXMLDOMElement& oChartElement,
                            std::initializer_list<SettingWeight> aWeights, bool bYield = false);
 

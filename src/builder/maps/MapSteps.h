@@ -25,8 +25,8 @@ bool FinishMap();
 
 /// The data rows of the source table, by sheet rows from 1.
 struct DataRows {
-  std::int32_t lFirst;
-  std::int32_t lCount;
+  std::int32_t lFirst;  ///< The first data row.
+  std::int32_t lCount;  ///< The number of data rows.
 
   /// Reads the rows from `table-top-row`, `table-height` and `header-row-count` of the definition.
   explicit DataRows(const dom::IXMLDOMElement& oChartElement);

@@ -9,14 +9,14 @@ namespace plotsmith {
 
 /// How a map instruction finds a row or column of the rectangle.
 namespace reference {
-inline constexpr std::int32_t kFixed = 0;   ///< the position is the index
-inline constexpr std::int32_t kByCell = 1;  ///< the text in this sheet column determines the index
+inline constexpr std::int32_t kFixed = 0;   ///< The position is the index.
+inline constexpr std::int32_t kByCell = 1;  ///< The text in this sheet column determines the index.
 }  // namespace reference
 
 /// The source of a map instruction's value.
 namespace value_reference {
-inline constexpr std::int32_t kCell = 0;
-inline constexpr std::int32_t kConstant = 2;
+inline constexpr std::int32_t kCell = 0;      ///< A cell of the table.
+inline constexpr std::int32_t kConstant = 2;  ///< A constant in the instruction.
 }  // namespace value_reference
 
 /// An instruction of the map from the source table to the rectangle. It is applied to each row of the table.

@@ -27,17 +27,17 @@ std::string DataCellA1(std::int32_t lRow, const std::string& sColumnLetters);
 
 /// The rows and columns of a block, by sheet rows and sheet columns from 1.
 struct Block {
-  std::int32_t lHeaderRow;   ///< of the series' names
-  std::int32_t lLastRow;     ///< of the last category
-  std::int32_t lLastColumn;  ///< of the last series
+  std::int32_t lHeaderRow;   ///< The row of the series names.
+  std::int32_t lLastRow;     ///< The row of the last category.
+  std::int32_t lLastColumn;  ///< The column of the last series.
 
   /// Reads `data-start-row` of the definition and the counts of the map.
   explicit Block(const dom::IXMLDOMElement& oChartElement);
 
-  std::int32_t FirstRow() const { return lHeaderRow + 1; }  ///< of the first category
-  /// The reference to the category texts.
+  std::int32_t FirstRow() const { return lHeaderRow + 1; }  ///< The row of the first category.
+  /// Returns the reference to the names of the categories.
   std::string Categories() const;
-  /// The reference to the values of one column.
+  /// Returns the reference to the values of a column, from 1.
   std::string Values(std::int32_t lColumn) const;
 };
 

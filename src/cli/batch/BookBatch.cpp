@@ -209,7 +209,7 @@ int RunBatch(const std::vector<BookRun>& runs, const DoRun& doRun, std::size_t p
     return Packed({{code, result.counts}, out.str(), err.str()});
   };
   tasks.ended = [&](std::size_t i, TaskEnding ending) {
-    output.Take(i, ending.death ? Failure("the process that refreshed it died (" + *ending.death +
+    output.Take(i, ending.crash ? Failure("the process that refreshed it died (" + *ending.crash +
                                           "); the workbook is either unchanged or completely refreshed.")
                                 : Unpacked(ending.report));
   };

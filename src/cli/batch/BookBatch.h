@@ -11,10 +11,10 @@
 
 namespace plotsmith::cli {
 
-/// A workbook to process, and the path of the result; empty for the original file.
+/// A workbook to process.
 struct BookRun {
-  std::string book;
-  std::optional<std::string> output;
+  std::string book;                   ///< The path of the workbook.
+  std::optional<std::string> output;  ///< The path of the result; absent for the original file.
 };
 
 /// The result of a run.

@@ -11,14 +11,14 @@ namespace plotsmith::cli {
 struct TaskEnding {
   std::string report;  ///< The result of the task.
   /// The reason if the process died, such as "Segmentation fault"; empty if the task was completed.
-  std::optional<std::string> death;
+  std::optional<std::string> crash;
 };
 
 /// Tasks that are distributed to worker processes. Each process performs one task after the other. The system
 /// keeps its state in variables of modules, so two simultaneous tasks need two processes. A task that crashes
 /// ends only its own process.
 struct WorkerTasks {
-  std::size_t count = 0;
+  std::size_t count = 0;  ///< The number of tasks.
   /// Performs a task, counted from 0, in a worker process.
   std::function<std::string(std::size_t)> run;
   /// Called in this process after each task, in the order in which the tasks end.

@@ -41,12 +41,12 @@ class SignalWatch {
     }
     sigprocmask(SIG_BLOCK, &watched_, &oldMask_);
   }
-  ~SignalWatch() { Leave(); }
+  ~SignalWatch() { Restore(); }
   SignalWatch(const SignalWatch&) = delete;
   SignalWatch& operator=(const SignalWatch&) = delete;
 
   /// Restores the previous state, also in a worker.
-  void Leave() {
+  void Restore() {
     for (std::size_t i = 0; i < kStopSignals.size(); ++i) sigaction(kStopSignals[i], &old_[i], nullptr);
     sigprocmask(SIG_SETMASK, &oldMask_, nullptr);
   }
@@ -143,7 +143,7 @@ class WorkerPool {
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) return false;
     const pid_t process = fork();
     if (process == 0) {
-      signals_.Leave();
+      signals_.Restore();
       close(ends[0]);
       for (const Worker& other : workers_)
         close(other.file);  // Otherwise the other workers would outlive the parent.

@@ -33,14 +33,14 @@ struct ColumnCells {
   /// The row of the cell that makes it a label column. An error precedes the first text. It is 0 if there is
   /// none, or if only dates make it one.
   std::int32_t LabelRow() const { return firstError != 0 ? firstError : firstText; }
-  /// Describes that cell: "the error #N/A", "the text '5 pcs'".
+  /// Describes the cell that makes it a label column: "the error #N/A", "the text '5 pcs'".
   std::string LabelCell() const;
 
-  std::size_t errors = 0;
+  std::size_t errors = 0;       ///< The number of error values.
   std::int32_t firstError = 0;  ///< The row of the first error value.
   std::int32_t firstText = 0;   ///< The row of the first text that isn't a number.
-  bool hasDates = false;
-  std::string error, text;  ///< The displayed texts of these two cells.
+  bool hasDates = false;        ///< Whether the column contains dates.
+  std::string error, text;      ///< The displayed texts of the first error value and of the first text.
 };
 
 /// Returns the column with the name, ignoring case as charts do, or Nothing.

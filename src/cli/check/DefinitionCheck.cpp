@@ -54,12 +54,12 @@ class RowCheck {
     return definition;
   }
   static void Report(CheckedDefinition& definition, FindingKind kind, std::string sentence,
-                     Severity severity = Severity::kSaid) {
+                     Severity severity = Severity::kReports) {
     definition.findings.push_back({definition.place, kind, std::move(sentence), severity});
   }
   /// Marks a row that is never read, and therefore never removed.
   static void MarkUnread(CheckedDefinition& definition, const std::string& reason) {
-    for (Finding& finding : definition.findings) finding.severity = Severity::kSaid;
+    for (Finding& finding : definition.findings) finding.severity = Severity::kReports;
     definition.findings.insert(
         definition.findings.begin(),
         {definition.place, FindingKind::kUnread, "This definition is never read, because " + reason + ".",

@@ -12,8 +12,9 @@ namespace plotsmith::cli {
 
 /// A row of the sheet of definitions with its problems. Missing values are empty.
 struct CheckedDefinition {
-  std::int32_t row = 0;
-  std::string place;  ///< Its cell, such as "VEX_ChartDefinitions!A2".
+  std::int32_t row = 0;  ///< The row on the sheet, from 1.
+  std::string place;     ///< The cell, such as "VEX_ChartDefinitions!A2".
+  /// The attributes `id`, `name`, `type` and `table-id`.
   std::string id, name, type, table;
   std::string chartSheet;          ///< The sheet of the chart; empty if there is none.
   std::string chartPart;           ///< The part of the chart with the id; empty if there is none.

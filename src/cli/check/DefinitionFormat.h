@@ -15,7 +15,7 @@ Findings CheckFormat(const dom::IXMLDOMElement& chart, const std::string& place)
 
 /// A child element of `chart` that names columns.
 struct ColumnGroup {
-  const char* element;
+  const char* element;                      ///< The name of the element.
   std::vector<std::string_view> readFor;    ///< The chart types that use it.
   std::vector<std::string_view> neededFor;  ///< The chart types that require it.
   bool numbers;                             ///< Whether its columns give numbers rather than names.

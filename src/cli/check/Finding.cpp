@@ -44,8 +44,8 @@ const char* KindName(FindingKind kind) {
 
 const char* SeverityName(Severity severity) {
   switch (severity) {
-    case Severity::kSaid:
-      return "said";
+    case Severity::kReports:
+      return "reports";
     case Severity::kKeeps:
       return "keeps";
     case Severity::kConfuses:
@@ -58,9 +58,9 @@ const char* SeverityName(Severity severity) {
   return "";
 }
 
-std::string Foretold(const Finding& finding) {
+std::string SentenceBeforeRun(const Finding& finding) {
   switch (finding.severity) {
-    case Severity::kSaid:
+    case Severity::kReports:
       break;
     case Severity::kKeeps:
       return With(finding.sentence, "the next refresh keeps the one on the chart");
@@ -77,9 +77,9 @@ std::string Foretold(const Finding& finding) {
   return finding.sentence;
 }
 
-std::string Reported(const Finding& finding) {
+std::string SentenceAfterRun(const Finding& finding) {
   switch (finding.severity) {
-    case Severity::kSaid:
+    case Severity::kReports:
     case Severity::kConfuses:
       break;
     case Severity::kKeeps:

@@ -19,7 +19,7 @@ enum class FindingKind {
 
 /// The effect of a finding on a command that writes the workbook.
 enum class Severity {
-  kSaid,      ///< It prints the sentence and continues.
+  kReports,   ///< It prints the sentence and continues.
   kKeeps,     ///< It keeps the chart's setting instead of the definition's, and reports that.
   kConfuses,  ///< It prints the sentence; making, changing or deleting charts needs --drop-broken.
   kRemoves,   ///< It removes the definition of a drawn chart that no longer exists, and reports that.
@@ -30,8 +30,8 @@ enum class Severity {
 struct Finding {
   std::string place;  ///< A cell such as "Data1!C5", or a defined name.
   FindingKind kind;
-  std::string sentence;
-  Severity severity = Severity::kSaid;
+  std::string sentence;  ///< The message, with a full stop.
+  Severity severity = Severity::kReports;
 };
 
 /// A list of findings.
@@ -48,8 +48,8 @@ const char* KindName(FindingKind kind);
 /// Returns the severity in one word, for programs.
 const char* SeverityName(Severity severity);
 /// Returns the sentence with the effect on the next command that writes the workbook.
-std::string Foretold(const Finding& finding);
+std::string SentenceBeforeRun(const Finding& finding);
 /// Returns the sentence with the effect on the command that has written the workbook.
-std::string Reported(const Finding& finding);
+std::string SentenceAfterRun(const Finding& finding);
 
 }  // namespace plotsmith::cli

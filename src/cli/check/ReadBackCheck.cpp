@@ -17,7 +17,7 @@ using dom::IXMLDOMElement;
 struct Aspect {
   std::string what;     ///< The name for messages, such as "title".
   bool stored = false;  ///< Whether the definition contains the setting.
-  std::string saidByDefinition = {}, keptOnChart = {};
+  std::string inDefinition = {}, onChart = {};
 };
 
 bool HasAttribute(const IXMLDOMElement& element, std::string_view name) {
@@ -38,8 +38,9 @@ std::string AttributeList(const IXMLDOMElement& chart, const char* query, const 
 
 Aspect AttributeAspect(const IXMLDOMElement& stored, const IXMLDOMElement& read, const char* attribute,
                        const char* what) {
-  const std::string said = GetAttributeText(stored, attribute);
-  return {what, !said.empty() || HasAttribute(stored, attribute), said, GetAttributeText(read, attribute)};
+  const std::string before = GetAttributeText(stored, attribute);
+  return {what, !before.empty() || HasAttribute(stored, attribute), before,
+          GetAttributeText(read, attribute)};
 }
 
 /// Returns the axis of a type ("label" or "value"), or Nothing if the definition has none.
@@ -100,11 +101,11 @@ Aspect PersistAspect(const IXMLDOMElement& stored, const IXMLDOMElement& read, c
     }
     return IXMLDOMElement();
   };
-  const IXMLDOMElement said = find(stored), kept = find(read);
-  if (!said || !kept) return {look.what};
-  Aspect aspect{look.what, true, GetAttributeText(said, "value"), GetAttributeText(kept, "value")};
+  const IXMLDOMElement before = find(stored), after = find(read);
+  if (!before || !after) return {look.what};
+  Aspect aspect{look.what, true, GetAttributeText(before, "value"), GetAttributeText(after, "value")};
   // An empty value means that the chart had no such title or marks.
-  aspect.stored = !aspect.saidByDefinition.empty() && !aspect.keptOnChart.empty();
+  aspect.stored = !aspect.inDefinition.empty() && !aspect.onChart.empty();
   return aspect;
 }
 
@@ -130,8 +131,8 @@ std::vector<Aspect> Aspects(const IXMLDOMElement& stored, const IXMLDOMElement& 
 
 std::string Sentence(const Aspect& aspect) {
   const auto shown = [](const std::string& text) { return text.empty() ? "none" : Quoted(text); };
-  return "The " + aspect.what + " is " + shown(aspect.keptOnChart) + " on the chart and " +
-         shown(aspect.saidByDefinition) + " in the definition.";
+  return "The " + aspect.what + " is " + shown(aspect.onChart) + " on the chart and " +
+         shown(aspect.inDefinition) + " in the definition.";
 }
 
 /// Finds the settings in which a definition differs from its drawn chart. `stored` is the `chart` element in
@@ -141,7 +142,7 @@ Findings Differences(const IXMLDOMElement& stored, const IXMLDOMElement& read, c
                      AxisTitles axisTitles) {
   Findings findings;
   for (const Aspect& aspect : Aspects(stored, read, axisTitles)) {
-    if (!aspect.stored || aspect.saidByDefinition == aspect.keptOnChart) continue;
+    if (!aspect.stored || aspect.inDefinition == aspect.onChart) continue;
     findings.push_back({place, FindingKind::kChart, Sentence(aspect), Severity::kKeeps});
   }
   return findings;

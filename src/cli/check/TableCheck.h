@@ -10,7 +10,7 @@ namespace plotsmith::cli {
 
 /// A table, or a defined name that should mark one, with its problems.
 struct CheckedTable {
-  std::string id;
+  std::string id;             ///< The table id.
   dom::IXMLDOMElement table;  ///< Nothing for a name that defines no table.
   Findings findings;
 };

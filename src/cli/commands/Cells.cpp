@@ -74,7 +74,7 @@ xlsx::CellRange UsedPart(xlsx::CellRange range, xlsx::Worksheet& sheet) {
 CLI::App* CellsCommand::Declare(CLI::App& app) {
   CLI::App* verb = app.add_subcommand("cells", "Print the cells of a range, also on hidden sheets");
   verb->add_option("BOOK", book_, "The workbook")->required();
-  verb->add_option("RANGE", range_, "Such as 'Sheet1!A1:D9'")->required();
+  verb->add_option("RANGE", range_, "The range, such as 'Sheet1!A1:D9'")->required();
   verb->add_flag("--value", value_, "Print values instead of displayed texts");
   verb->add_flag(
       "--json", json_,

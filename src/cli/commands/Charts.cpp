@@ -68,7 +68,7 @@ bool ReportUnlisted(const std::vector<CheckedDefinition>& checked, std::ostream&
   for (const CheckedDefinition& definition : checked) {
     if (!definition.IsLost() && !definition.IsUnread()) continue;
     const Finding& finding = definition.findings.front();
-    err << "plotsmith: " << finding.place << ": " << Foretold(finding) << '\n';
+    err << "plotsmith: " << finding.place << ": " << SentenceBeforeRun(finding) << '\n';
     isAny = true;
   }
   return isAny;
@@ -79,7 +79,7 @@ bool ReportUnlisted(const std::vector<CheckedDefinition>& checked, std::ostream&
 CLI::App* ChartsCommand::Declare(CLI::App& app) {
   CLI::App* verb = app.add_subcommand("charts", "List the charts that a workbook defines");
   verb->add_option("BOOK", book_, "The workbook")->required();
-  verb->add_flag("--json", json_, "As JSON");
+  verb->add_flag("--json", json_, "Print JSON");
   return verb;
 }
 
@@ -89,7 +89,7 @@ int ChartsCommand::Run(const GlobalOptions& options, const Streams& streams) {
   const auto checked = CheckDefinitions(session.Book());  // Check before the load, which drops invalid rows.
   session.LoadCharts();
   int code = session.Finish();
-  if (ReportUnlisted(checked, streams.err)) code = exit_code::kSaidSomething;
+  if (ReportUnlisted(checked, streams.err)) code = exit_code::kDoneWithMessages;
   Json list = Json::array();
   for (const auto& document : *colCharts) {
     list.push_back(Describe(document.selectSingleNode("chart"), checked, session.Book()));

@@ -45,7 +45,7 @@ Json Describe(const Findings& findings) {
     list.push_back({{"place", finding.place},
                     {"kind", KindName(finding.kind)},
                     {"severity", SeverityName(finding.severity)},
-                    {"sentence", Foretold(finding)}});
+                    {"sentence", SentenceBeforeRun(finding)}});
   }
   return list;
 }
@@ -76,7 +76,8 @@ Json DescribeAll(const List& list) {
 /// Ends the line with the subject, and prints each finding on a line below it.
 void Print(std::ostream& out, const Findings& findings) {
   out << (findings.empty() ? ": ok\n" : ":\n");
-  for (const Finding& finding : findings) out << "  " << finding.place << ": " << Foretold(finding) << '\n';
+  for (const Finding& finding : findings)
+    out << "  " << finding.place << ": " << SentenceBeforeRun(finding) << '\n';
 }
 
 void Print(std::ostream& out, const CheckedDefinition& definition) {
@@ -109,7 +110,7 @@ void Print(std::ostream& out, const Report& report) {
   for (const CheckedDefinition& definition : report.definitions) Print(out, definition);
   if (report.definitions.empty()) out << kNoDefinitions << '\n';
   for (const Finding& finding : report.strayCharts) {
-    out << "  " << finding.place << ": " << Foretold(finding) << '\n';
+    out << "  " << finding.place << ": " << SentenceBeforeRun(finding) << '\n';
   }
   for (const CheckedTable& table : report.tables) Print(out, table);
   if (report.tables.empty()) out << kNoTables << '\n';
@@ -136,7 +137,7 @@ CLI::App* CheckCommand::Declare(CLI::App& app) {
   CLI::App* verb =
       app.add_subcommand("check", "List the problems in definitions and tables, and change nothing");
   verb->add_option("BOOK", book_, "The workbook")->required();
-  verb->add_flag("--json", json_, "As JSON");
+  verb->add_flag("--json", json_, "Print JSON");
   return verb;
 }
 
@@ -161,7 +162,7 @@ int CheckCommand::Run(const GlobalOptions& options, const Streams& streams) {
   } else {
     Print(streams.out, report);
   }
-  return report.IsFine() ? code : exit_code::kSaidSomething;
+  return report.IsFine() ? code : exit_code::kDoneWithMessages;
 }
 
 }  // namespace plotsmith::cli

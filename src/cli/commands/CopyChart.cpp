@@ -7,7 +7,7 @@ namespace plotsmith::cli {
 CLI::App* CopyChartCommand::Declare(CLI::App& app) {
   CLI::App* verb = app.add_subcommand("copy", "Copy a chart; settings without an option are copied");
   DeclareBook(*verb, verb_);
-  verb->add_option("CHART", id_, "The chart's id or name")->required();
+  verb->add_option("CHART", id_, "The id or the name of the chart")->required();
   DeclareChartOptions(*verb, chart_);
   DeclarePlaceOptions(*verb, chart_);
   DeclareOutput(*verb, verb_);

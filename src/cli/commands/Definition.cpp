@@ -9,7 +9,7 @@ namespace plotsmith::cli {
 CLI::App* DefinitionCommand::Declare(CLI::App& app) {
   CLI::App* verb = app.add_subcommand("definition", "Print the definition of a chart");
   verb->add_option("BOOK", book_, "The workbook")->required();
-  verb->add_option("CHART", chart_, "The chart's id or name")->required();
+  verb->add_option("CHART", chart_, "The id or the name of the chart")->required();
   return verb;
 }
 

@@ -12,15 +12,15 @@ namespace plotsmith::cli {
 
 CLI::App* RefreshCommand::Declare(CLI::App& app) {
   CLI::App* verb = app.add_subcommand("refresh", "Rebuild the charts of workbooks from their tables");
-  verb->add_option("BOOK", books_, "The workbooks (.xlsx, .xlsm)")->required();
-  verb->add_option("--table", table_, "Only the charts of the table with this id")->type_name("ID");
+  verb->add_option("BOOK", books_, "The workbooks (.xlsx, .xlsm, .xltx or .xltm)")->required();
+  verb->add_option("--table", table_, "Rebuild only the charts of the table with this id")->type_name("ID");
   verb->add_option("-o,--output", output_,
                    "Write to this file, or into this folder, and leave BOOK as it is; \"-\" is the standard "
                    "output")
       ->type_name("FILE");
   verb->add_option("--jobs", jobs_,
                    "Work on this many workbooks at a time (default: two for each processor). "
-                   "On Windows, one after the other")
+                   "On Windows, workbooks are processed one after the other")
       ->type_name("N");
   verb->add_flag("--verbose", verbose_, "Print a summary at the end");
   verb->add_option("--render", pictureFolder_, "Also draw the refreshed charts into this folder")
@@ -77,7 +77,7 @@ BookResult RefreshCommand::RefreshBook(const BookRun& run, const GlobalOptions& 
                                        const Streams& streams) const {
   Session session(run.book, options, streams);
   session.CheckWritable(run.output);
-  session.LookBeforeRun(DefinitionsAre::kTaken);
+  session.CheckBeforeRun(DefinitionsAre::kUsed);
   CPlotsmithController controller;
   if (table_) {
     std::string table = *table_;
@@ -93,14 +93,14 @@ BookResult RefreshCommand::RefreshBook(const BookRun& run, const GlobalOptions& 
     for (auto& [id, chart] : session.StartedCharts()) charts.push_back({id, chart});
     const bool list = !IsStandardOutput(run.output);
     const auto drawn = WriteCharts(session.Book(), run.book, charts, PlanOfPictures(), streams, list);
-    if (drawn.said && code == exit_code::kDone) code = exit_code::kSaidSomething;
+    if (drawn.hasMessages && code == exit_code::kDone) code = exit_code::kDoneWithMessages;
   }
   if (session.ChartsStarted() > 0 || session.HasMessages()) return {code, counts};
   streams.err << "plotsmith: "
               << (table_ ? "no chart of \"" + run.book + "\" uses the table \"" + *table_ + "\""
                          : "\"" + run.book + "\" has no charts of Plotsmith")
               << ", so nothing was refreshed.\n";
-  return {exit_code::kSaidSomething, counts};
+  return {exit_code::kDoneWithMessages, counts};
 }
 
 }  // namespace plotsmith::cli

@@ -82,7 +82,7 @@ std::vector<Renaming> InSteps(std::vector<Renaming> renamings) {
 CLI::App* RenameColumnsCommand::Declare(CLI::App& app) {
   CLI::App* verb = app.add_subcommand("rename-columns",
                                       "Rename columns in a table's charts after its headings were changed");
-  verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm)")->required();
+  verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm, .xltx or .xltm)")->required();
   verb->add_option("OLD=NEW", renamings_, "The old and the new name of a column")->required();
   verb->add_option("--table", table_, "The id of the table")->required()->type_name("ID");
   verb->add_option("-o,--output", output_, kOutputDescription)->type_name("FILE");
@@ -99,7 +99,7 @@ int RenameColumnsCommand::Run(const GlobalOptions& options, const Streams& strea
   }
   Session session(book_, options, streams);
   session.CheckWritable(output_);
-  session.LookBeforeRun(DefinitionsAre::kRenamed);
+  session.CheckBeforeRun(DefinitionsAre::kRenamed);
   CPlotsmithController controller;
   controller.UpdateChartColumnNamesForTable(session.Host(), table_, oldNames, newNames);
   session.CheckTable(table_);
@@ -123,7 +123,7 @@ int RenameColumnsCommand::Run(const GlobalOptions& options, const Streams& strea
   if (renamed && ready) controller.RefreshChartsForTable(session.Host(), table_);
   const int code = session.Save(output_);
   for (const std::string& complaint : complaints) streams.err << "plotsmith: " << complaint << '\n';
-  return complaints.empty() ? code : exit_code::kSaidSomething;
+  return complaints.empty() ? code : exit_code::kDoneWithMessages;
 }
 
 }  // namespace plotsmith::cli

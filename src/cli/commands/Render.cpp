@@ -12,14 +12,14 @@ namespace plotsmith::cli {
 CLI::App* RenderCommand::Declare(CLI::App& app) {
   CLI::App* verb = app.add_subcommand("render", "Draw charts into files: SVG, PNG or PDF");
   verb->add_option("BOOK", book_, "The workbook")->required();
-  verb->add_option(
-      "CHART", charts_,
-      "A chart's id or name; any chart by its sheet and shape, 'Sheet1!Chart 2', or by its chart sheet. "
-      "Without one, all charts of Plotsmith");
+  verb->add_option("CHART", charts_,
+                   "The id or the name of a chart; or any chart by its sheet and shape, such as "
+                   "'Sheet1!Chart 2', or by its "
+                   "chart sheet. Without this argument, all charts of Plotsmith are drawn");
   verb->add_option("--sheet", sheet_, "Draw this sheet with its cells and charts, as it is printed")
       ->type_name("SHEET");
   verb->add_flag("--one-page", onePage_, "Draw the sheet on one page that is as large as its contents");
-  DeclarePictureOptions(*verb, pictures_, "as -o ends, else svg");
+  DeclarePictureOptions(*verb, pictures_, "the extension of -o, else svg");
   verb->add_option("-o,--output", output_,
                    "Write to this file or into this folder (default: the current folder); \"-\" is the "
                    "standard output")
@@ -48,20 +48,20 @@ int RenderCommand::RenderCharts(Session& session, const PicturePlan& plan, const
     streams.err << "plotsmith: \"" << book_ << "\" has no charts of Plotsmith, so nothing was drawn";
     if (!others.empty()) streams.err << "; other charts are drawn if you name them: " << Listed(others);
     streams.err << ".\n";
-    return exit_code::kSaidSomething;
+    return exit_code::kDoneWithMessages;
   }
-  CheckRoom(plan, charts.size(), "chart", streams);
+  CheckPictureCount(plan, charts.size(), "chart", streams);
   const bool list = plan.target == PicturePlan::Target::kFolder;
   const DrawnCounts counts = WriteCharts(session.Book(), book_, charts, plan, streams, list);
   if (counts.drawn == 0) throw CommandError(exit_code::kFile, "nothing was drawn.");
-  return counts.said ? exit_code::kSaidSomething : code;
+  return counts.hasMessages ? exit_code::kDoneWithMessages : code;
 }
 
 int RenderCommand::RenderSheet(Session& session, const PicturePlan& plan, const Streams& streams) const {
   const auto sheet = session.Book().FindSheet(*sheet_);
   if (!sheet) throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no sheet \"" + *sheet_ + "\".");
   const auto paper = onePage_ ? render::Paper::kOne : render::Paper::kPrinted;
-  return WriteSheet(session.Book(), book_, *sheet, paper, plan, streams) ? exit_code::kSaidSomething
+  return WriteSheet(session.Book(), book_, *sheet, paper, plan, streams) ? exit_code::kDoneWithMessages
                                                                          : session.Finish();
 }
 

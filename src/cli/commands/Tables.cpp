@@ -26,7 +26,7 @@ void Print(std::ostream& out, const Json& table) {
 CLI::App* TablesCommand::Declare(CLI::App& app) {
   CLI::App* verb = app.add_subcommand("tables", "List the tables of a workbook, with their columns");
   verb->add_option("BOOK", book_, "The workbook")->required();
-  verb->add_flag("--json", json_, "As JSON");
+  verb->add_flag("--json", json_, "Print JSON");
   return verb;
 }
 

@@ -25,7 +25,7 @@ CLI::App* WizardCommand::Declare(CLI::App& app) {
   verb->footer(
       "plotsmith wizard BOOK [-o FILE]\n"
       "plotsmith wizard BOOK --script FILE [-o FILE] [--show] [--json]");
-  verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm)")->required();
+  verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm, .xltx or .xltm)")->required();
   CLI::Option* const script =
       verb->add_option("--script", script_, "The script, one action per line; \"-\" is the standard input")
           ->type_name("FILE");
@@ -75,7 +75,7 @@ int WizardCommand::Play(std::istream& script, const GlobalOptions& options, cons
   };
   WizardRun run(book_, options, streams, lines, print, Outside::kScript);
   run.Workbook().CheckWritable(output_);
-  run.Workbook().LookBeforeRun(DefinitionsAre::kEdited);
+  run.Workbook().CheckBeforeRun(DefinitionsAre::kEdited);
   run.Play();
   if (const auto& failure = run.Player().Failed()) {
     run.Workbook().Finish();
@@ -83,7 +83,7 @@ int WizardCommand::Play(std::istream& script, const GlobalOptions& options, cons
                        *script_ + ":" + std::to_string(failure->line) + ": " + failure->sentence + ".");
   }
   if (show_ && run.Player().LastState()) print(*run.Player().LastState());
-  return run.CameToSomething() ? run.Workbook().Save(output_) : run.Workbook().Finish();
+  return run.HasChangedCharts() ? run.Workbook().Save(output_) : run.Workbook().Finish();
 }
 
 }  // namespace plotsmith::cli

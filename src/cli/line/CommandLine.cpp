@@ -110,7 +110,7 @@ int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
     } catch (const CLI::Success& e) {  // help and version
       line.app.exit(e, streams.out, streams.err);
     }
-    Deliver(streams);
+    FlushOutput(streams);
     return code;
   });
 }

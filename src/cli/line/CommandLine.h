@@ -16,8 +16,8 @@ struct CommandLine {
 
   CLI::App app;
   GlobalOptions options;
-  std::vector<std::unique_ptr<Command>> commands;
-  std::vector<CLI::App*> verbs;  ///< The declaration of each of `commands`.
+  std::vector<std::unique_ptr<Command>> commands;  ///< The verbs.
+  std::vector<CLI::App*> verbs;                    ///< The declaration of each of `commands`.
 };
 
 /// Returns a sentence that says that no verb has the name.

@@ -46,15 +46,15 @@ std::vector<std::string> VerbNames(const CommandLine& line) {
 }
 
 /// The value of an option: its name, and whether several values may follow.
-struct WantedValue {
+struct OptionValue {
   std::string name;
   bool many;
-  auto operator<=>(const WantedValue&) const = default;
+  auto operator<=>(const OptionValue&) const = default;
 };
 
 /// Returns the options with a value, by that value.
-std::map<WantedValue, std::vector<std::string>> ValueOptions(const CommandLine& line) {
-  std::map<WantedValue, std::vector<std::string>> options;
+std::map<OptionValue, std::vector<std::string>> ValueOptions(const CommandLine& line) {
+  std::map<OptionValue, std::vector<std::string>> options;
   const auto add = [&](const CLI::App& app) {
     for (const OptionView& option : OptionsOf(app)) {
       if (option.positional || option.value.empty()) continue;

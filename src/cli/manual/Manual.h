@@ -23,10 +23,10 @@ struct OptionView {
   std::vector<std::string>
       names;          ///< The names, such as "-o" and "--output", or the usage name of a positional argument.
   std::string value;  ///< The usage name of its value; empty for a flag.
-  std::string description;
-  bool positional;
-  bool required;
-  bool repeated;
+  std::string description;  ///< The text of the help.
+  bool positional;          ///< Whether it is a positional argument.
+  bool required;            ///< Whether it must be given.
+  bool repeated;            ///< Whether it takes several values.
 };
 
 /// Returns the options of a verb except help, or the global options. Positional arguments come first.

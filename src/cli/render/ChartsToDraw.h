@@ -12,9 +12,9 @@ class Workbook;
 
 namespace plotsmith::cli {
 
-/// A chart to draw, with its label: its id, "Sheet1!Chart 2", or the name of its chart sheet.
+/// A chart to draw.
 struct ChartToDraw {
-  std::string label;
+  std::string label;               ///< The id, "Sheet1!Chart 2", or the name of the chart sheet.
   excel::Ref<excel::Chart> chart;  ///< Nothing if the workbook has only a definition.
 };
 

@@ -82,11 +82,11 @@ DrawnCounts WriteCharts(xlsx::Workbook& workbook, const std::string& book,
   }
   writer.Finish();
   DrawnCounts counts;
-  counts.said = !charts.empty() && SayIfFontsAreMissing(streams);
+  counts.hasMessages = !charts.empty() && ReportMissingFonts(streams);
   for (const DrawnChart& one : drawn) {
     for (const std::string& note : one.notes)
       streams.err << "plotsmith: " << one.label << ": " << note << '\n';
-    counts.said = counts.said || !one.notes.empty();
+    counts.hasMessages = counts.hasMessages || !one.notes.empty();
     if (one.isDrawn) ++counts.drawn;
   }
   return counts;

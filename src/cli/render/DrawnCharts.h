@@ -16,8 +16,8 @@ namespace plotsmith::cli {
 
 /// The results of drawing charts.
 struct DrawnCounts {
-  std::size_t drawn = 0;
-  bool said = false;  ///< Whether something isn't drawn, which was reported on `err`.
+  std::size_t drawn = 0;     ///< The number of pictures that were written.
+  bool hasMessages = false;  ///< Whether something isn't drawn, which was reported on `err`.
 };
 
 /// Draws charts of the workbook at `book` and writes their pictures. Reports what isn't drawn on `err`, one

@@ -15,7 +15,7 @@ namespace plotsmith::cli {
 
 bool WriteSheet(xlsx::Workbook& workbook, const std::string& book, const xlsx::SheetEntry& sheet,
                 render::Paper paper, const PicturePlan& plan, const Streams& streams) {
-  const bool fontsAreMissing = SayIfFontsAreMissing(streams);
+  const bool fontsAreMissing = ReportMissingFonts(streams);
   render::Notes notes;
   std::vector<render::Drawing> pages =
       render::DrawSheet(workbook, sheet, paper, LoadPainter().Measure(), notes);
@@ -23,7 +23,7 @@ bool WriteSheet(xlsx::Workbook& workbook, const std::string& book, const xlsx::S
   if (pages.empty()) {
     throw CommandError(exit_code::kUsage, "the sheet \"" + sheet.name + "\" has nothing to print.");
   }
-  CheckRoom(plan, pages.size(), "page", streams);
+  CheckPictureCount(plan, pages.size(), "page", streams);
   PictureWriter writer(plan, streams, plan.target == PicturePlan::Target::kFolder);
   const std::string name = PictureNames(book).NameFor(sheet.name);
   if (plan.format == PictureFormat::kPdf || pages.size() == 1) {

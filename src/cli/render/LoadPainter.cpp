@@ -23,7 +23,7 @@ std::future<void> LoadPainterAhead() {
   }
 }
 
-bool SayIfFontsAreMissing(const Streams& streams) {
+bool ReportMissingFonts(const Streams& streams) {
   if (LoadPainter().HasFonts()) return false;
   streams.err << "plotsmith: no fonts are installed, so texts are misplaced or missing.\n";
   return true;

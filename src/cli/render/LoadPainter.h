@@ -14,6 +14,6 @@ const render::Painter& LoadPainter();
 /// thread. LoadPainter reports a failure.
 [[nodiscard]] std::future<void> LoadPainterAhead();
 /// Reports on `streams` if no font is installed. Returns true in this case.
-bool SayIfFontsAreMissing(const Streams& streams);
+bool ReportMissingFonts(const Streams& streams);
 
 }  // namespace plotsmith::cli

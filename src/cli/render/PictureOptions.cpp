@@ -74,9 +74,9 @@ const char* EndingOf(PictureFormat format) {
 }
 
 void DeclarePictureOptions(CLI::App& verb, PictureOptions& options, const std::string& usualFormat) {
-  verb.add_option("--format", options.format, "svg, png or pdf (default: " + usualFormat + ")")
+  verb.add_option("--format", options.format, "Write svg, png or pdf (default: " + usualFormat + ")")
       ->type_name("KIND");
-  verb.add_option("--dpi", options.dpi, "Resolution of a PNG in pixels per inch (default: 96)")
+  verb.add_option("--dpi", options.dpi, "Set the resolution of PNG pictures in pixels per inch (default: 96)")
       ->type_name("N");
   verb.add_option("--scale", options.scale, "Enlarge the picture by this factor")->type_name("N");
 }
@@ -101,7 +101,8 @@ PicturePlan PlanPictures(const PictureOptions& options, const std::optional<std:
   return plan;
 }
 
-void CheckRoom(const PicturePlan& plan, std::size_t count, const std::string& noun, const Streams& streams) {
+void CheckPictureCount(const PicturePlan& plan, std::size_t count, const std::string& noun,
+                       const Streams& streams) {
   const bool toOut = plan.target == PicturePlan::Target::kStandardOutput;
   if (toOut && streams.outTerminal && plan.format != PictureFormat::kSvg)
     throw Usage("a picture isn't written to a terminal; redirect the output, or name a file.");

@@ -15,7 +15,7 @@ enum class PictureFormat { kSvg, kPng, kPdf };
 /// Returns the file extension of a format, including the dot.
 const char* EndingOf(PictureFormat format);
 
-/// The picture options of the command line.
+/// The picture options of the command line. Options that weren't given are absent.
 struct PictureOptions {
   std::optional<std::string> format;
   std::optional<double> dpi;
@@ -32,14 +32,14 @@ struct PicturePlan {
   /// The destination of pictures.
   enum class Target { kFolder, kFile, kStandardOutput };
 
-  PictureFormat format = PictureFormat::kSvg;
-  Target target = Target::kFolder;
-  std::string path;  ///< The path of the folder or the file.
-  double dpi = 96;   ///< The resolution of a PNG.
-  double scale = 1;
+  PictureFormat format = PictureFormat::kSvg;  ///< The format.
+  Target target = Target::kFolder;             ///< The destination.
+  std::string path;                            ///< The path of the folder or the file.
+  double dpi = 96;                             ///< The resolution of a PNG picture in dots per inch.
+  double scale = 1;  ///< The size of the picture, as a multiple of the size of the chart.
 };
 
-/// Returns whether a path isn't a folder and has the extension of a picture format.
+/// Returns true if a path isn't a folder and has the extension of a picture format.
 bool LooksLikePicture(const std::string& path);
 
 /// Makes the plan from the options and `-o`. The default destination is the current folder, and the default
@@ -48,6 +48,7 @@ PicturePlan PlanPictures(const PictureOptions& options, const std::optional<std:
 
 /// Throws CommandError if `count` pictures don't fit into a single file, or if binary pictures would go to a
 /// terminal. `noun` is the subject of the pictures, such as "chart".
-void CheckRoom(const PicturePlan& plan, std::size_t count, const std::string& noun, const Streams& streams);
+void CheckPictureCount(const PicturePlan& plan, std::size_t count, const std::string& noun,
+                       const Streams& streams);
 
 }  // namespace plotsmith::cli

@@ -140,7 +140,7 @@ void PictureWriter::Finish() {
   }
   if (plan_.target != PicturePlan::Target::kStandardOutput) return;
   streams_.out.write(bytes_.data(), static_cast<std::streamsize>(bytes_.size()));
-  Deliver(streams_);
+  FlushOutput(streams_);
 }
 
 }  // namespace plotsmith::cli

@@ -15,10 +15,13 @@ namespace plotsmith::cli {
 /// or if no thread can be created, the calling thread runs the tasks.
 class TaskQueue {
  public:
+  /// A function to run.
   using Task = std::function<void()>;
-  /// Determines whether several tasks may run at the same time, or each has to wait for the previous one.
-  /// Tasks that run in order are all run by one thread.
-  enum class Order { kAny, kInTurn };
+  /// Whether tasks may run at the same time. Tasks that run in turn are all run by one thread.
+  enum class Order {
+    kAny,     ///< Several tasks at the same time.
+    kInTurn,  ///< One task after the other.
+  };
 
   /// Makes an empty queue. Threads are started with the second task.
   explicit TaskQueue(Order order);

@@ -45,7 +45,7 @@ void DeclareLooks(CLI::App& verb, LayoutOptions& layout) {
   verb.add_option("--number-format", layout.numberFormat,
                   "The number format of the values, such as \"#,##0\"")
       ->type_name("FORMAT");
-  verb.add_option("--labels", layout.labels, "Contents of the labels: values, percentages, names or none")
+  verb.add_option("--labels", layout.labels, "The contents of the labels: values, percentages, names or none")
       ->type_name("LABELS");
   const std::string settings =
       "3D, stacked, 100%, exploded, quadrants, autoscale-x, autoscale-y or show-zero-bubbles";
@@ -58,7 +58,8 @@ void DeclareLooks(CLI::App& verb, LayoutOptions& layout) {
 
 void DeclareChartOptions(CLI::App& verb, ChartOptions& options) {
   verb.add_option("--table", options.table, "The id of the table that the chart shows")->type_name("ID");
-  verb.add_option("--type", options.type, "area, bar, column, pie, bubble or strategic bucket")
+  verb.add_option("--type", options.type,
+                  "The type of the chart: area, bar, column, pie, bubble or strategic bucket")
       ->type_name("TYPE");
   DeclareColumns(verb, options.layout);
   DeclareLooks(verb, options.layout);

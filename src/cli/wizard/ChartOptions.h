@@ -7,7 +7,8 @@
 
 namespace plotsmith::cli {
 
-/// The layout options of a chart. Absent options don't change the chart.
+/// The layout options of a chart, with the names of the options of the command line. Options that are absent
+/// or empty don't change the chart. Columns are given by their headings.
 struct LayoutOptions {
   std::optional<std::string> title;
   std::optional<std::string> categories;

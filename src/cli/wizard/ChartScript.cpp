@@ -94,9 +94,9 @@ Steps ChartScript::StepsOn(const forms::Form& page) {
   return OnLayout();
 }
 
-bool ChartScript::Deals(const forms::Form& page, const std::string& message) {
+bool ChartScript::Resolves(const forms::Form& page, const std::string& message) {
   // The page opens by itself with a message if the chart's table or type can't be used.
-  if (page.Name() != page_name::kSelectTable || beenOnSelectTable_) return false;
+  if (page.Name() != page_name::kSelectTable || hasVisitedSelectTable_) return false;
   return message == kNoType ? options_.type.has_value() : options_.table.has_value();
 }
 
@@ -108,7 +108,7 @@ Steps ChartScript::OnSelectAction(const forms::Form& page) const {
 }
 
 Steps ChartScript::OnSelectTable(const forms::Form& page) {
-  beenOnSelectTable_ = true;
+  hasVisitedSelectTable_ = true;
   if (work_ != ChartWork::kNew && colCharts->Count() == 0) {
     throw ScriptError("no chart " + Quoted(chart_) + "; the workbook has no charts");
   }
@@ -153,7 +153,7 @@ Steps ChartScript::OnChartLocation() const {
 }
 
 bool ChartScript::WantsSelectTable() const {
-  return (options_.table || options_.type) && !beenOnSelectTable_;
+  return (options_.table || options_.type) && !hasVisitedSelectTable_;
 }
 
 bool ChartScript::WantsChartLocation() const {

@@ -20,7 +20,7 @@ class ChartScript final : public VerbScript {
 
  protected:
   Steps StepsOn(const forms::Form& page) override;
-  bool Deals(const forms::Form& page, const std::string& message) override;
+  bool Resolves(const forms::Form& page, const std::string& message) override;
 
  private:
   Steps OnSelectAction(const forms::Form& page) const;
@@ -36,7 +36,7 @@ class ChartScript final : public VerbScript {
   ChartWork work_;
   std::string chart_;
   ChartOptions options_;
-  bool beenOnSelectTable_ = false;
+  bool hasVisitedSelectTable_ = false;
 };
 
 /// The script of the verb that deletes charts.

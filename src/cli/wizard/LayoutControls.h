@@ -9,12 +9,12 @@ namespace plotsmith::cli {
 
 /// A value of an option, and its control.
 struct NamedControl {
-  std::string_view word;
-  const char* control;
-  bool on = true;  ///< Whether the value checks or unchecks a check box.
+  std::string_view word;  ///< The value on the command line.
+  const char* control;    ///< The name of the control.
+  bool on = true;         ///< Whether the value checks or unchecks a check box.
 };
 
-/// The controls of a layout page that correspond to the options of the command. A null pointer means that the
+/// The names of the controls of a layout page, for the options of the command. A null pointer means that the
 /// page doesn't have the control. Titles, comments and the boxes of axes have the same names on all pages.
 struct LayoutControls {
   const char* categories = nullptr;

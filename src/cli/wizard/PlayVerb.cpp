@@ -13,7 +13,7 @@ std::string Ended(const std::string& sentence) {
 }  // namespace
 
 void DeclareBook(CLI::App& verb, VerbOptions& options) {
-  verb.add_option("BOOK", options.book, "The workbook (.xlsx, .xlsm)")->required();
+  verb.add_option("BOOK", options.book, "The workbook (.xlsx, .xlsm, .xltx or .xltm)")->required();
 }
 
 void DeclareOutput(CLI::App& verb, VerbOptions& options) {
@@ -26,17 +26,17 @@ int PlayVerb(VerbScript& script, const VerbOptions& verb, const GlobalOptions& o
              const Streams& streams) {
   WizardRun run(
       verb.book, options, streams, script, [](const forms::FormState&) {}, Outside::kCommand);
-  script.SetSaidByPages(run.Desktop().SaidByPages());
+  script.SetPageMessages(run.Desktop().PageMessages());
   if (!verb.printScript) {
     run.Workbook().CheckWritable(verb.output);
-    run.Workbook().LookBeforeRun(DefinitionsAre::kEdited);
+    run.Workbook().CheckBeforeRun(DefinitionsAre::kEdited);
   }
   run.Play();
   if (const auto& failure = run.Player().Failed()) {
     run.Workbook().Finish();
     throw CommandError(exit_code::kUsage, Ended(failure->sentence));
   }
-  if (!run.CameToSomething()) {
+  if (!run.HasChangedCharts()) {
     // The run ended early and has reported the reason.
     run.Workbook().Finish();
     throw CommandError(exit_code::kUsage, "nothing was done, and nothing is saved.");

@@ -10,9 +10,9 @@ namespace plotsmith::cli {
 
 /// The options of all verbs that use the wizard's pages.
 struct VerbOptions {
-  std::string book;
-  std::optional<std::string> output;
-  bool printScript = false;
+  std::string book;                   ///< The path of the workbook.
+  std::optional<std::string> output;  ///< The path of the result; absent for the original file.
+  bool printScript = false;           ///< Whether the script is printed and nothing is saved.
 };
 
 /// Declares the workbook.

@@ -16,10 +16,10 @@ std::int32_t ScriptDesktop::MsgBox(std::string_view text, desktop::Buttons butto
     confirmed_ = confirmed_ || ok;
     return ok ? desktop::kOk : desktop::kCancel;
   }
-  player_->Heard(text);
+  player_->AddMessage(text);
   const forms::Form* const front = player_->Front();
   if (front != nullptr && front->Name() != kBusyWindow) {
-    saidByPages_.push_back(forms::WithLineEnds(text, "\n"));
+    pageMessages_.push_back(forms::WithLineEnds(text, "\n"));
   } else if (outside_ == Outside::kCommand) {
     ConsoleDesktop::MsgBox(text, buttons, icon, title);
   }

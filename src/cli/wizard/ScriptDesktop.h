@@ -31,13 +31,13 @@ class ScriptDesktop final : public ConsoleDesktop {
   /// deletion.
   bool Confirmed() const { return confirmed_; }
   /// The messages of pages, in the spelling of the script player.
-  const std::vector<std::string>& SaidByPages() const { return saidByPages_; }
+  const std::vector<std::string>& PageMessages() const { return pageMessages_; }
 
  private:
   std::shared_ptr<forms::ScriptPlayer> player_;
   Outside outside_;
   bool confirmed_ = false;
-  std::vector<std::string> saidByPages_;
+  std::vector<std::string> pageMessages_;
 };
 
 }  // namespace plotsmith::cli

@@ -16,26 +16,26 @@ namespace plotsmith::cli {
 /// doesn't need to know the order of the pages.
 class VerbScript : public forms::LineSource {
  public:
-  std::optional<std::string> NextLine(const forms::Scene& scene) final;
+  std::optional<std::string> NextLine(const forms::ScriptState& state) final;
 
   /// The lines that were generated so far.
   const std::vector<std::string>& Lines() const { return lines_; }
-  /// Sets the messages of pages, so that they can be distinguished from messages of a build.
-  void SetSaidByPages(const std::vector<std::string>& texts) { saidByPages_ = &texts; }
+  /// Sets the list of messages that pages have shown. Other messages come from the build of a chart.
+  void SetPageMessages(const std::vector<std::string>& texts) { pageMessages_ = &texts; }
 
  protected:
   /// Returns the steps on a page that has opened. An empty list ends the script.
   virtual Steps StepsOn(const forms::Form& page) = 0;
   /// Returns true if the verb resolves the problem in a page's message, so that the script continues.
-  virtual bool Deals(const forms::Form& /*page*/, const std::string& /*message*/) { return false; }
+  virtual bool Resolves(const forms::Form& /*page*/, const std::string& /*message*/) { return false; }
 
  private:
-  std::optional<std::string> MakeLine(const forms::Scene& scene);
+  std::optional<std::string> MakeLine(const forms::ScriptState& state);
   /// Returns the line that expects a message, or stops the script because of it.
   std::string LineFor(const std::string& message, const forms::Form* page);
   bool IsOfPage(const std::string& message) const;
 
-  const std::vector<std::string>* saidByPages_ = nullptr;
+  const std::vector<std::string>* pageMessages_ = nullptr;
   std::uint64_t page_ = 0;  ///< The id of the form of the steps.
   std::deque<Step> steps_;
   bool over_ = false;

@@ -28,7 +28,7 @@ class WizardRun {
   /// The desktop, which has collected the messages.
   const ScriptDesktop& Desktop() const { return *desktop_; }
   /// Returns true if the run has built or deleted a chart. Otherwise there is nothing to save.
-  bool CameToSomething() const { return session_.ChartsStarted() > 0 || desktop_->Confirmed(); }
+  bool HasChangedCharts() const { return session_.ChartsStarted() > 0 || desktop_->Confirmed(); }
 
  private:
   std::shared_ptr<forms::ScriptPlayer> player_;

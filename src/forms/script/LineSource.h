@@ -11,8 +11,8 @@
 
 namespace plotsmith::forms {
 
-/// The state of the run when the next line of the script is read.
-struct Scene {
+/// The state of the pages when the next line of the script is requested.
+struct ScriptState {
   const Form* page;  ///< The form that waits for an action, or null if the run is over.
   const std::deque<std::string>& messages;  ///< The texts of message boxes that no line has expected yet.
 };
@@ -23,7 +23,7 @@ class LineSource {
  public:
   virtual ~LineSource() = default;
   /// Returns the next line, or nothing at the end of the script. A ScriptError stops the script.
-  virtual std::optional<std::string> NextLine(const Scene& scene) = 0;
+  virtual std::optional<std::string> NextLine(const ScriptState& state) = 0;
 };
 
 /// The lines of a file or of standard input.
@@ -31,7 +31,7 @@ class StreamLines final : public LineSource {
  public:
   /// Makes a source that reads a stream. The stream must outlive this object.
   explicit StreamLines(std::istream& stream) : stream_(stream) {}
-  std::optional<std::string> NextLine(const Scene&) override {
+  std::optional<std::string> NextLine(const ScriptState&) override {
     std::string line;
     if (!std::getline(stream_, line)) return std::nullopt;
     if (std::exchange(first_, false) && line.starts_with(kByteOrderMark))

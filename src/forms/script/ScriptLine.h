@@ -8,8 +8,8 @@ namespace plotsmith::forms {
 
 /// A word in a line of a script, or a text in double quotes.
 struct Word {
-  std::string text;
-  bool quoted = false;
+  std::string text;     ///< The text without quotes.
+  bool quoted = false;  ///< Whether it was in double quotes.
 };
 /// The words of a line.
 using Words = std::vector<Word>;

@@ -156,7 +156,7 @@ void ScriptPlayer::CheckMessages() const {
   }
 }
 
-void ScriptPlayer::Heard(std::string_view text) { messages_.push_back(WithLineEnds(text, "\n")); }
+void ScriptPlayer::AddMessage(std::string_view text) { messages_.push_back(WithLineEnds(text, "\n")); }
 
 bool ScriptPlayer::Answer(std::string_view text) {
   questions_.push_back(WithLineEnds(text, "\n"));

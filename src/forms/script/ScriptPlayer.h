@@ -39,7 +39,7 @@ class ScriptPlayer final : public View {
   void HandleEvents(EventQueue&) override {}
 
   /// Reports a message box to the player.
-  void Heard(std::string_view text);
+  void AddMessage(std::string_view text);
   /// Reports a question with OK and Cancel to the player. Returns true if the script answers OK.
   bool Answer(std::string_view text);
   /// Executes the rest of the script after the run, when no form is open.

@@ -79,10 +79,10 @@ FramePainter::FramePainter() : pictures_(kMostPictures) {}
 
 void FramePainter::SetChartPainter(ChartPainter painter) {
   chartPainter_ = std::move(painter);
-  LookAgain();
+  DiscardPictures();
 }
 
-void FramePainter::LookAgain() {
+void FramePainter::DiscardPictures() {
   pictures_.clear();
   captions_.clear();
 }

@@ -35,7 +35,7 @@ class FramePainter {
   /// Sets the function that draws charts. Without it, a chart is shown as a frame with title and type.
   void SetChartPainter(ChartPainter painter);
   /// Discards the pictures, because the charts may have changed.
-  void LookAgain();
+  void DiscardPictures();
   /// Paints a frame. `index` is its index on the sheet, and `area` is its position in the window, in pixels.
   void Paint(QPainter& painter, std::size_t index, const ShownFrame& frame, const QRect& area,
              const QPalette& palette, const QFont& font);

@@ -26,7 +26,7 @@ void ChartSheetPage::SetChartPainter(const ChartPainter& painter) {
 }
 
 void ChartSheetPage::Refresh() {
-  painter_.LookAgain();
+  painter_.DiscardPictures();
   const ChartCaption caption = CaptionOf(frame_);
   setAccessibleName(caption.title);
   setAccessibleDescription(caption.type);

@@ -56,12 +56,12 @@ auto SheetSource::Ask(Question&& question) {
 }
 
 bool SheetSource::IsEmptyAt(std::int32_t row, std::int32_t column) {
-  ++cellsAsked_;
+  ++cellsRead_;
   return Ask([&](xlsx::Worksheet& sheet) { return sheet.Stored(row, column).kind == Kind::kEmpty; });
 }
 
 ShownCell SheetSource::CellAt(std::int32_t row, std::int32_t column) {
-  ++cellsAsked_;
+  ++cellsRead_;
   return Ask([&](xlsx::Worksheet& sheet) {
     const excel::CellValue value = sheet.Stored(row, column);
     ShownCell cell;

@@ -77,9 +77,9 @@ class SheetSource {
   std::vector<ShownFrame> Frames();
 
   /// Clears the cache of cell styles, for example after a change of the palette.
-  void LookAgain() { looks_.clear(); }
+  void DiscardLooks() { looks_.clear(); }
   /// The number of cells that were read from the host, which measures the cost of scrolling.
-  std::uint64_t CellsAsked() const { return cellsAsked_; }
+  std::uint64_t CellsRead() const { return cellsRead_; }
 
  private:
   /// Calls a function on the sheet. Damage that it finds doesn't prevent saving the workbook.
@@ -89,7 +89,7 @@ class SheetSource {
   xlsx::Workbook& book_;
   std::weak_ptr<xlsx::SheetEntry> sheet_;
   std::map<std::uint32_t, xlsx::CellLook> looks_;  ///< The looks of styles that were visible.
-  std::uint64_t cellsAsked_ = 0;
+  std::uint64_t cellsRead_ = 0;
 };
 
 }  // namespace plotsmith::qtbook

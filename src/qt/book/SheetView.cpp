@@ -63,8 +63,8 @@ void SheetView::SetChartPainter(const ChartPainter& painter) {
 void SheetView::Refresh() {
   unreadable_.clear();
   Guarded([&] {
-    source_.LookAgain();
-    framePainter_.LookAgain();
+    source_.DiscardLooks();
+    framePainter_.DiscardPictures();
     const CellPlace before = view_.activeCell;
     view_ = source_.View();
     used_ = source_.UsedCells();

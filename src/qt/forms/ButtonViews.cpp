@@ -8,7 +8,7 @@ CommandButtonView::CommandButtonView(forms::CommandButton& model, QWidget* paren
   button_->setFocusPolicy(Qt::StrongFocus);
   QObject::connect(button_, &QPushButton::clicked, button_,
                    [this] { Report([this] { model_.UserPress(); }); });
-  Dress();
+  SetUpWidget();
 }
 
 void CommandButtonView::Show() {
@@ -21,7 +21,7 @@ CheckBoxView::CheckBoxView(forms::CheckBox& model, QWidget* parent, const Post& 
   box_->setFocusPolicy(Qt::StrongFocus);
   QObject::connect(box_, &QCheckBox::clicked, box_,
                    [this](bool checked) { Report([this, checked] { model_.UserToggle(checked); }); });
-  Dress();
+  SetUpWidget();
 }
 
 void CheckBoxView::Show() {
@@ -34,7 +34,7 @@ OptionButtonView::OptionButtonView(forms::OptionButton& model, QWidget* parent, 
   button_->setFocusPolicy(Qt::StrongFocus);
   QObject::connect(button_, &QRadioButton::clicked, button_,
                    [this] { Report([this] { model_.UserChoose(); }); });
-  Dress();
+  SetUpWidget();
 }
 
 // Qt doesn't deselect the last of several exclusive options, but the model can.

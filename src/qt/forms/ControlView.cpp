@@ -60,7 +60,7 @@ std::unique_ptr<ControlView> MakeControlView(forms::Control& control, QWidget* p
   return nullptr;
 }
 
-void ControlView::Dress() { Widget().setObjectName(TextOf(model_.FullName())); }
+void ControlView::SetUpWidget() { Widget().setObjectName(TextOf(model_.FullName())); }
 
 void ControlView::Report(std::function<void()> gesture) {
   ++waiting_;
@@ -71,7 +71,7 @@ void ControlView::Report(std::function<void()> gesture) {
   });
 }
 
-void ControlView::ForgetGestures() {
+void ControlView::DiscardGestures() {
   waiting_ = 0;
   touched_ = true;
 }

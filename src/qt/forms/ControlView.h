@@ -40,7 +40,7 @@ class ControlView {
   /// widget.
   void Update();
   /// Discards the actions that were reported but not performed.
-  void ForgetGestures();
+  void DiscardGestures();
 
  protected:
   /// Connects a view with its control. `post` queues the user's actions.
@@ -52,7 +52,7 @@ class ControlView {
   void Report(std::function<void()> gesture);
   /// Sets the object name, the colour roles and the common properties of the widget. Call this after the
   /// widget is made.
-  void Dress();
+  void SetUpWidget();
 
  private:
   void ShowColors();

@@ -112,8 +112,8 @@ void FormWindow::Update() {
   }
 }
 
-void FormWindow::ComeBack() {
-  for (const auto& view : views_) view->ForgetGestures();
+void FormWindow::BecomeFront() {
+  for (const auto& view : views_) view->DiscardGestures();
   if (form_.Visible()) activateWindow();
 }
 

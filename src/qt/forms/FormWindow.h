@@ -27,7 +27,7 @@ class FormWindow final : public QWidget {
   /// Shows the changes of the form.
   void Update();
   /// Called when the window is the front window again. Actions on it were discarded meanwhile.
-  void ComeBack();
+  void BecomeFront();
   /// Returns the widget of a control, or null for an invisible control.
   QWidget* WidgetOf(const forms::Control& control) const;
 

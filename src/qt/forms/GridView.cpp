@@ -26,17 +26,17 @@ class Table final : public FromFirstRow<QTableWidget> {
 
   void SetShares(std::vector<double> shares) {
     shares_ = std::move(shares);
-    ShareOut();
+    DistributeWidth();
   }
 
  protected:
   void resizeEvent(QResizeEvent* event) override {
     FromFirstRow::resizeEvent(event);
-    ShareOut();
+    DistributeWidth();
   }
 
  private:
-  void ShareOut() {
+  void DistributeWidth() {
     const double sum = std::accumulate(shares_.begin(), shares_.end(), 0.0);
     for (int i = 0; i < columnCount(); ++i) {
       // Without widths, all columns are equal.
@@ -71,7 +71,7 @@ GridView::GridView(forms::VSFlexGrid& model, QWidget* parent, const Post& post)
   QObject::connect(table_, &QTableWidget::cellDoubleClicked, table_, [this](int row, int) {
     Report([this, row] { model_.UserDoubleClick(row + model_.FixedRows()); });
   });
-  Dress();
+  SetUpWidget();
 }
 
 void GridView::ReportSelection() {
@@ -90,7 +90,7 @@ void GridView::Show() {
   ShowHeads();
   ShowCells();
   ShowSelection();
-  ShareOutWidth();
+  SetColumnShares();
 }
 
 void GridView::ShowHeads() {
@@ -133,7 +133,7 @@ void GridView::ShowSelection() {
   table_->viewport()->update();
 }
 
-void GridView::ShareOutWidth() {
+void GridView::SetColumnShares() {
   std::vector<double> shares;
   for (int col = 0; col < table_->columnCount(); ++col) shares.push_back(model_.ColWidth(col));
   static_cast<Table*>(table_)->SetShares(std::move(shares));

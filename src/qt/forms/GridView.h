@@ -22,7 +22,7 @@ class GridView final : public ControlView {
   void ShowHeads();
   void ShowCells();
   void ShowSelection();
-  void ShareOutWidth();
+  void SetColumnShares();
 
   forms::VSFlexGrid& model_;
   QTableWidget* table_;

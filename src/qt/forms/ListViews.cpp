@@ -40,7 +40,7 @@ ComboBoxView::ComboBoxView(forms::ComboBox& model, QWidget* parent, const Post& 
   }
   QObject::connect(box_, &QComboBox::activated, box_,
                    [this](int entry) { Report([this, entry] { model_.UserChoose(entry); }); });
-  Dress();
+  SetUpWidget();
 }
 
 void ComboBoxView::Show() {
@@ -66,7 +66,7 @@ ListBoxView::ListBoxView(forms::ListBox& model, QWidget* parent, const Post& pos
                               : QAbstractItemView::SingleSelection);
   list_->setUniformItemSizes(true);
   QObject::connect(list_, &QListWidget::itemSelectionChanged, list_, [this] { ReportSelection(); });
-  Dress();
+  SetUpWidget();
 }
 
 void ListBoxView::ReportSelection() {

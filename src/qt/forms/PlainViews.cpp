@@ -64,14 +64,14 @@ class PictureWidget final : public QWidget {
 LabelView::LabelView(forms::Label& model, QWidget* parent, const Post& post)
     : ControlView(model, post), model_(model), label_(new QLabel(parent)) {
   label_->setTextFormat(Qt::PlainText);
-  Dress();
+  SetUpWidget();
 }
 
 void LabelView::Show() { label_->setText(TextOf(model_.Caption())); }
 
 FrameView::FrameView(forms::Frame& model, QWidget* parent, const Post& post)
     : ControlView(model, post), model_(model), box_(new TitledBox(parent)) {
-  Dress();
+  SetUpWidget();
 }
 
 void FrameView::Show() {
@@ -81,14 +81,14 @@ void FrameView::Show() {
 
 ImageView::ImageView(forms::Image& model, QWidget* parent, const Post& post)
     : ControlView(model, post), picture_(new PictureWidget(SamplePicture(model.Name()), parent)) {
-  Dress();
+  SetUpWidget();
 }
 
 ProgressBarView::ProgressBarView(forms::ProgressBar& model, QWidget* parent, const Post& post)
     : ControlView(model, post), model_(model), bar_(new QProgressBar(parent)) {
   bar_->setRange(forms::ProgressBar::kMin, forms::ProgressBar::kMax);
   bar_->setTextVisible(false);
-  Dress();
+  SetUpWidget();
 }
 
 void ProgressBarView::Show() { bar_->setValue(model_.Value()); }

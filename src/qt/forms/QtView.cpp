@@ -23,7 +23,7 @@ void QtView::Open(forms::Form& form) {
 void QtView::Close(forms::Form& form) {
   std::erase_if(pending_, [&](const Gesture& gesture) { return gesture.form == &form; });
   windows_.pop_back();
-  if (Front() != nullptr) Front()->ComeBack();
+  if (Front() != nullptr) Front()->BecomeFront();
 }
 
 void QtView::ShowChanges() {

@@ -34,7 +34,7 @@ class QtView final : public forms::View {
   /// Closes the next form that waits, as a user would, and all forms behind it.
   void CloseAll() { closesAll_ = true; }
   /// Cancels CloseAll before a new run.
-  void StayOpen() { closesAll_ = false; }
+  void CancelCloseAll() { closesAll_ = false; }
 
  private:
   struct Gesture {

@@ -35,7 +35,7 @@ class LineView final : public ControlView {
       Report([this, text] { model_.UserType(TextOf(OneLine(text))); });
     });
     QObject::connect(edit_, &QLineEdit::inputRejected, edit_, [] { QApplication::beep(); });
-    Dress();
+    SetUpWidget();
   }
   QWidget& Widget() override { return *edit_; }
 
@@ -69,7 +69,7 @@ class LinesView final : public ControlView {
       ReplaceUntypeable(text, u"\n\t");
       Report([this, text] { model_.UserType(TextOf(text)); });
     });
-    Dress();
+    SetUpWidget();
   }
   QWidget& Widget() override { return *edit_; }
 

@@ -32,7 +32,7 @@ class ShotLines final : public forms::LineSource {
   ShotLines(qt::QtView& windows, QString folder, QString suffix)
       : windows_(windows), folder_(std::move(folder)), suffix_(std::move(suffix)) {}
 
-  std::optional<std::string> NextLine(const forms::Scene&) override {
+  std::optional<std::string> NextLine(const forms::ScriptState&) override {
     std::string line;
     if (!std::getline(std::cin, line)) return std::nullopt;
     if (!line.starts_with(kShot)) return line;

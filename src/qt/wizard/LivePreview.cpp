@@ -41,7 +41,7 @@ LivePreview::LivePreview(QtView& pages, std::shared_ptr<xlsx::Application> host,
   pause_.setSingleShot(true);
   pause_.setInterval(kPause);
   QObject::connect(&pause_, &QTimer::timeout, &window_, [this] { Begin(); });
-  window_.Resized = [this] { LookLater(); };
+  window_.Resized = [this] { StartAgain(); };
 }
 
 LayoutPage* LivePreview::Page() const {
@@ -49,13 +49,13 @@ LayoutPage* LivePreview::Page() const {
   return front != nullptr && front->isVisible() ? dynamic_cast<LayoutPage*>(&front->Model()) : nullptr;
 }
 
-void LivePreview::LookLater() {
+void LivePreview::StartAgain() {
   worker_.Stop();
   seen_.clear();
-  Look();
+  Update();
 }
 
-void LivePreview::Look() {
+void LivePreview::Update() {
   const LayoutPage* const page = Page();
   if (page == nullptr) {
     worker_.Stop();

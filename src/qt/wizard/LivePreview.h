@@ -19,14 +19,14 @@ class LivePreview {
   LivePreview(QtView& pages, std::shared_ptr<xlsx::Application> host, QWidget* owner);
 
   /// Checks for changes. Call this when the pages may have changed.
-  void Look();
+  void Update();
   /// Begins a new run. A preview window that the user has closed is shown again.
   void Restart();
   /// The window that shows the preview.
   const PreviewWindow& Window() const { return window_; }
 
  private:
-  void LookLater();
+  void StartAgain();
   void Begin();
   LayoutPage* Page() const;
 

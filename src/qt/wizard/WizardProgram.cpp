@@ -15,11 +15,11 @@ namespace plotsmith::qt {
 namespace {
 
 constexpr const char* kLinePrefix = "plotsmith: ";  ///< The beginning of each line of the session.
-constexpr const char* kWorkbooks = "Workbooks (*.xlsx *.xlsm)";
+constexpr const char* kWorkbooks = "Workbooks (*.xlsx *.xlsm *.xltx *.xltm)";
 
 }  // namespace
 
-void Tell(QWidget* owner, const std::string& sentence, const cli::Streams& streams) {
+void ReportError(QWidget* owner, const std::string& sentence, const cli::Streams& streams) {
   streams.err << "plotsmith-wizard: " << sentence << '\n';
   QString text = TextOf(sentence);
   if (!text.isEmpty()) text[0] = text[0].toUpper();
@@ -30,7 +30,7 @@ WizardProgram::WizardProgram(WizardOptions options, const cli::Streams& streams)
     : options_(std::move(options)),
       pages_(std::make_shared<QtView>()),
       desktop_(std::make_shared<WizardDesktop>(pages_)),
-      session_(options_.book, options_.global, cli::Streams{streams.in, streams.out, said_}, desktop_,
+      session_(options_.book, options_.global, cli::Streams{streams.in, streams.out, messages_}, desktop_,
                pages_),
       streams_(streams),
       target_(options_.output) {
@@ -42,7 +42,7 @@ WizardProgram::WizardProgram(WizardOptions options, const cli::Streams& streams)
   preview_ = std::make_unique<LivePreview>(*pages_, session_.Host(), window_.get());
   pages_->Shown = [this] {
     window_->Book().Update();
-    preview_->Look();
+    preview_->Update();
   };
   window_->CloseAsked = [this] {
     closing_ = true;
@@ -54,7 +54,7 @@ WizardProgram::WizardProgram(WizardOptions options, const cli::Streams& streams)
 int WizardProgram::Run() {
   window_->show();
   Next next = Next::kRunAgain;
-  while (next == Next::kRunAgain && LookBeforeRun()) {
+  while (next == Next::kRunAgain && CheckBeforeRun()) {
     if (RunPages()) {
       next = Finish();
     } else {
@@ -64,37 +64,37 @@ int WizardProgram::Run() {
   return cli::exit_code::kDone;
 }
 
-QString WizardProgram::TakeSaid() {
-  QString text = TextOf(said_.str());
-  said_.str({});
+QString WizardProgram::TakeMessages() {
+  QString text = TextOf(messages_.str());
+  messages_.str({});
   return text.remove(QLatin1String(kLinePrefix)).trimmed();
 }
 
-void WizardProgram::ShowSaid() {
-  const QString text = TakeSaid();
+void WizardProgram::ShowMessages() {
+  const QString text = TakeMessages();
   if (!text.isEmpty()) ShowMessageBox(window_.get(), QMessageBox::Information, text);
 }
 
-bool WizardProgram::LookBeforeRun() {
+bool WizardProgram::CheckBeforeRun() {
   try {
-    session_.LookBeforeRun(cli::DefinitionsAre::kEdited);
+    session_.CheckBeforeRun(cli::DefinitionsAre::kEdited);
     return true;
   } catch (const cli::CommandError&) {
     return ShowMessageBox(
                window_.get(), QMessageBox::Warning,
-               TakeSaid() + QStringLiteral("\n\nThe wizard would drop these definitions. Continue?"),
+               TakeMessages() + QStringLiteral("\n\nThe wizard would drop these definitions. Continue?"),
                QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Ok;
   }
 }
 
 bool WizardProgram::RunPages() {
   chartsBefore_ = session_.ChartsStarted();
-  pages_->StayOpen();
+  pages_->CancelCloseAll();
   preview_->Restart();
   desktop_->Forget();
   CPlotsmithController().RunPlotsmith(session_.Host(), cli::kHostName, "");
   window_->Book().Update();
-  preview_->Look();
+  preview_->Update();
   return session_.ChartsStarted() > chartsBefore_ || desktop_->Confirmed();
 }
 
@@ -176,9 +176,9 @@ std::optional<WizardProgram::Next> WizardProgram::Save() {
   try {
     session_.CheckWritable(target_);
     session_.Save(target_);
-    ShowSaid();
+    ShowMessages();
   } catch (const cli::CommandError& e) {
-    Tell(window_.get(), e.what(), streams_);
+    ReportError(window_.get(), e.what(), streams_);
     return std::nullopt;
   }
   isSaved_ = true;

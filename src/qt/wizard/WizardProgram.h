@@ -38,11 +38,11 @@ class WizardProgram {
 
   /// Checks the definitions. If the run would lose some, asks the user. Returns false if the run must not
   /// begin.
-  bool LookBeforeRun();
+  bool CheckBeforeRun();
   /// Shows the messages of the session, if any.
-  void ShowSaid();
+  void ShowMessages();
   /// Returns the session's messages since the last call, without the program's name.
-  QString TakeSaid();
+  QString TakeMessages();
   /// Runs the pages. Returns true if a chart was built or deleted.
   bool RunPages();
   Next Finish();
@@ -64,7 +64,7 @@ class WizardProgram {
   WizardOptions options_;
   std::shared_ptr<QtView> pages_;
   std::shared_ptr<WizardDesktop> desktop_;
-  std::ostringstream said_;  ///< The messages of the session, one per line.
+  std::ostringstream messages_;  ///< The messages of the session, one per line.
   cli::Session session_;
   cli::Streams streams_;
   std::optional<std::string> target_;  ///< The target of Save; if absent, the workbook's own file.
@@ -76,6 +76,6 @@ class WizardProgram {
 };
 
 /// Reports an error in a message box, and on stderr for users who started the program from a terminal.
-void Tell(QWidget* owner, const std::string& sentence, const cli::Streams& streams);
+void ReportError(QWidget* owner, const std::string& sentence, const cli::Streams& streams);
 
 }  // namespace plotsmith::qt

@@ -15,7 +15,7 @@ using plotsmith::qt::TextOf;
 /// Asks the user for a workbook if the program was started without one. Returns "" if none is selected.
 std::string PickBook() {
   QFileDialog dialog(nullptr, QStringLiteral("Open a workbook"), QString(),
-                     QStringLiteral("Workbooks (*.xlsx *.xlsm)"));
+                     QStringLiteral("Workbooks (*.xlsx *.xlsm *.xltx *.xltm)"));
   dialog.setFileMode(QFileDialog::ExistingFile);
   if (plotsmith::qt::RunDialog(dialog) != QDialog::Accepted) return {};
   return TextOf(dialog.selectedFiles().front());
@@ -30,7 +30,8 @@ bool HasScreen() {
 
 /// Declares the arguments.
 void Declare(CLI::App& app, plotsmith::qt::WizardOptions& options) {
-  app.add_option("BOOK", options.book, "The workbook (.xlsx, .xlsm); without it, a dialog asks for one");
+  app.add_option("BOOK", options.book,
+                 "The workbook (.xlsx, .xlsm, .xltx or .xltm); without it, a dialog asks for one");
   app.add_option("-o,--output", options.output, "Write to this file and leave BOOK as it is")
       ->type_name("FILE");
   app.add_flag("--force", options.global.force, "Also write a workbook that another program has open");
@@ -51,10 +52,10 @@ int Run(plotsmith::qt::WizardOptions options) {
   try {
     return plotsmith::qt::WizardProgram(std::move(options), streams).Run();
   } catch (const cli::CommandError& e) {
-    plotsmith::qt::Tell(nullptr, e.what(), streams);
+    plotsmith::qt::ReportError(nullptr, e.what(), streams);
     return e.ExitCode();
   } catch (const std::exception& e) {
-    plotsmith::qt::Tell(nullptr, std::string("an unexpected error occurred: ") + e.what(), streams);
+    plotsmith::qt::ReportError(nullptr, std::string("an unexpected error occurred: ") + e.what(), streams);
     return cli::exit_code::kFile;
   }
 }

@@ -10,7 +10,7 @@ namespace plotsmith::render {
 void DrawGridlines(Canvas& canvas, const ChartModel& chart, const AxisModel& axis, const Rect& plot);
 /// Draws the line of an axis with its tick marks.
 void DrawAxisLine(Canvas& canvas, const ChartModel& chart, const AxisModel& axis, const Rect& plot);
-/// Draws the labels of an axis, as they were laid out, beside the plot area `plot`.
+/// Draws the laid out labels of an axis beside the plot area `plot`.
 void DrawTickLabels(Canvas& canvas, const ChartModel& chart, const AxisModel& axis, const TickLabels& labels,
                     const Rect& plot);
 

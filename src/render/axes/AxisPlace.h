@@ -4,18 +4,18 @@
 
 namespace plotsmith::render {
 
-/// Where an axis is: x of a vertical axis, y of a horizontal one, and the sides of its labels and outer tick
-/// marks.
+/// The position of an axis, and the sides of its labels and outer tick marks. Positions are X coordinates of
+/// a vertical axis and Y coordinates of a horizontal one.
 struct AxisPlace {
-  double at = 0;                 ///< place of the line, in points
-  Side side = Side::kLeft;       ///< side of the line on which the outer marks are
-  double labelsAt = 0;           ///< place where the gap before the labels begins, in points
-  Side labelSide = Side::kLeft;  ///< side of that place on which the labels are
+  double at = 0;                 ///< The position of the line, in points.
+  Side side = Side::kLeft;       ///< The side of the line with the outer tick marks.
+  double labelsAt = 0;           ///< The position at which the gap before the labels begins, in points.
+  Side labelSide = Side::kLeft;  ///< The side of that position with the labels.
 };
 
-/// Returns the value at which a category axis crosses an axis of values. It is on the scale.
+/// Returns the value at which a category axis crosses a value axis. The value is on the scale.
 double CrossingValue(const AxisModel& values, const AxisModel& category);
-/// Returns where an axis is at the plot area `plot`.
+/// Returns the position of an axis of the plot area `plot`.
 AxisPlace PlaceOf(const ChartModel& chart, const AxisModel& axis, const Rect& plot);
 /// Returns the coordinate of a side of a rectangle.
 double EdgeOf(const Rect& rect, Side side);

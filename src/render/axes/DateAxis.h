@@ -7,17 +7,17 @@
 
 namespace plotsmith::render {
 
-/// A major unit of an axis of dates.
+/// A tick of a date axis.
 struct DateTick {
-  double slot = 0;  ///< from 0
-  std::string label;
+  double slot = 0;    ///< The slot, from 0.
+  std::string label;  ///< The text of the tick label.
 };
 
-/// Returns the major units of an axis of dates with their labels. `axis.dates` must be set.
+/// Returns the major ticks of a date axis with their labels. `axis.dates` must be set.
 std::vector<DateTick> DateTicks(const AxisModel& axis, xlsx::DateSystem dates);
 
-/// Returns the numbers of `count` points, from 0, in their order along an axis: sorted by their dates on an
-/// axis of dates, otherwise unchanged.
+/// Returns the indices of `count` points, from 0, in their order along an axis: sorted by date on a date
+/// axis, otherwise unchanged.
 std::vector<std::size_t> OrderAlong(const AxisModel& axis, std::size_t count);
 
 }  // namespace plotsmith::render

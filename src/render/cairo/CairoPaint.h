@@ -7,20 +7,23 @@
 
 namespace plotsmith::render {
 
-/// Surfaces and contexts of Cairo that destroy themselves.
+/// Deletes a surface of Cairo.
 struct DestroySurface {
   void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
 };
+/// Deletes a context of Cairo.
 struct DestroyContext {
   void operator()(cairo_t* cr) const { cairo_destroy(cr); }
 };
+/// A surface and a context of Cairo that are deleted automatically.
 using Surface = std::unique_ptr<cairo_surface_t, DestroySurface>;
 using Context = std::unique_ptr<cairo_t, DestroyContext>;
 
 /// Makes an outline the current path.
 void Trace(cairo_t* cr, const Path& path);
 
-/// Makes a filling the source of what is painted next. `bounds` is what it fills. False for no filling.
+/// Makes a filling the source of the next painting. `bounds` is the rectangle around the filled path. Returns
+/// false if there is no filling.
 bool SetSource(cairo_t* cr, const Fill& fill, const Rect& bounds);
 
 }  // namespace plotsmith::render

@@ -24,9 +24,9 @@ class Fonts final : public TextMeasure {
   TextExtent Measure(std::string_view line, const Font& font) const override;
   /// Draws a line of text with the current source. Its baseline begins at the current origin.
   void Show(cairo_t* cr, std::string_view line, const Font& font) const;
-  /// Returns whether a family is installed. Upper and lower case are the same.
+  /// Returns true if a family is installed. Upper and lower case are the same.
   static bool IsInstalled(std::string_view family);
-  /// Returns whether any font is installed.
+  /// Returns true if any font is installed.
   static bool IsAnyInstalled();
 
  private:

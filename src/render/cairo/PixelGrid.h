@@ -9,7 +9,7 @@ struct PixelScale {
   double x = 1, y = 1;
 };
 
-/// Returns whether all steps of an outline are horizontal or vertical.
+/// Returns true if all steps of an outline are horizontal or vertical.
 bool IsUpright(const Path& path);
 /// Returns the outline with its corners moved to the edges of pixels, or to their middles if its line is an
 /// odd number of pixels wide. Lines and edges then aren't blurred, and shapes that touch have no seam between

@@ -66,7 +66,7 @@ void DrawGroup(Plot& plot, const GroupModel& group) {
     case Family::kRadar:
       return DrawRadar(plot, group);
     case Family::kSurface:
-      return plot.canvas.Note("A surface without an axis of categories and one of values isn't drawn.");
+      return plot.canvas.Note("A surface isn't drawn because it needs a category axis and a value axis.");
   }
 }
 
@@ -88,7 +88,8 @@ void NoteMissingLooks(Canvas& canvas, xlsx::ChartPart& part, const RareLooks& lo
   const auto isMissing = [&](pugi::xml_node node) { return !IsDrawableImage(Palette(part).Picture(node)); };
   if (std::any_of(looks.pictures.begin(), looks.pictures.end(), isMissing)) {
     canvas.Note(
-        "A picture as a filling isn't drawn, as it is no PNG; what has it is in its automatic colour.");
+        "A picture isn't drawn as a filling because it isn't PNG or is too large; the automatic colour "
+        "replaces it.");
   }
   for (std::string& sentence : MissingEffects(looks)) canvas.Note(std::move(sentence));
 }
@@ -99,7 +100,7 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
     return bool(xlsx::xml::Child(node, local));
   };
   if (chart.chartArea.shadow) {
-    canvas.Note("The shadow of the chart area isn't drawn, as it lies outside of the picture.");
+    canvas.Note("The shadow of the chart area isn't drawn because it is outside of the picture.");
   }
   for (const GroupModel& group : chart.groups) {
     const bool hasShadows =
@@ -107,7 +108,7 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
                     [](const SeriesModel& series) { return series.style.shadow.has_value(); });
     if (group.is3D && hasShadows) canvas.Note("Shadows of bodies in 3-D aren't drawn.");
     if (has(group.node, "upDownBars") && !group.upDownBars) {
-      canvas.Note("Up and down bars are only drawn between lines.");
+      canvas.Note("Up/down bars are only drawn between lines.");
     }
     for (const SeriesModel& series : group.series) {
       if (has(series.node, "trendline") && !group.CanHaveTrendlines()) {

@@ -15,23 +15,24 @@ namespace plotsmith::render {
 struct ChartModel;
 struct RareLooks;
 
-/// A chart that was read, and isn't drawn yet. Reading uses the workbook, which charts share, so one thread
-/// reads them all. Drawing uses the chart alone, so that each thread can draw a chart of its own.
+/// A chart that was read, and isn't drawn yet. Reading uses the workbook, which all charts share, so one
+/// thread reads all charts. Drawing uses only the chart, so each chart can be drawn by another thread.
 class UndrawnChart {
  public:
-  /// Reads a chart that will be drawn at a size in points. The values are those of the caches in the chart
-  /// part, or those of the cells where the part has no cache. The chart part isn't changed. It must exist
-  /// longer than this object. What isn't drawn is added to `notes`. Raises error 1004 if the chart can't be
+  /// Reads a chart that will be drawn at a size in points. The values come from the caches in the chart part,
+  /// or from the cells if the part has no cache. The chart part isn't changed, and must outlive this object.
+  /// Adds a sentence to `notes` about everything that isn't drawn. Raises error 1004 if the chart can't be
   /// read.
   UndrawnChart(xlsx::ChartPart& part, double width, double height, Notes& notes);
   UndrawnChart(UndrawnChart&&) noexcept;
   UndrawnChart& operator=(UndrawnChart&&) noexcept;
   ~UndrawnChart();
 
-  /// Returns whether drawing reads further parts of the workbook, which are pictures and the shapes on the
-  /// chart. Such a chart must be drawn by the thread that reads.
+  /// Returns true if drawing reads other parts of the workbook: pictures, or shapes on the chart. Such a
+  /// chart must be drawn by the thread that reads.
   bool NeedsWorkbook() const;
-  /// Draws the chart, which can be done once. What isn't drawn is added to `notes`.
+  /// Draws the chart. This can be done only once. Adds a sentence to `notes` about everything that isn't
+  /// drawn.
   Drawing Draw(const TextMeasure& measure, Notes& notes) &&;
 
  private:

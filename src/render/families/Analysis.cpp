@@ -26,7 +26,7 @@ Point PlaceAt(bool isUpright, double along, double across) {
 ErrorBarPainter::ErrorBarPainter(Plot& plot, const GroupModel& group) : plot_(plot), group_(group) {
   const bool hasBars = std::any_of(group.series.begin(), group.series.end(),
                                    [](const SeriesModel& series) { return !series.errorBars.empty(); });
-  if (hasBars && group.grouping == Grouping::kPercent) wholes_ = Wholes(group);
+  if (hasBars && group.grouping == Grouping::kPercent) wholes_ = PointTotals(group);
 }
 
 void ErrorBarPainter::Add(const SeriesModel& series, std::size_t point, double along, double value) {
@@ -236,7 +236,7 @@ void DrawTrendlines(Plot& plot, const GroupModel& group) {
       TrendPath trend(plot, group, line);
       Path path = trend.Take();
       if (path.IsEmpty()) {
-        plot.canvas.Note("A trendline isn't drawn, as less than two of its points are on the axes.");
+        plot.canvas.Note("A trendline isn't drawn because fewer than two of its points are on the axes.");
         continue;
       }
       const Tag tag{Role::kTrendline, series.number, number};

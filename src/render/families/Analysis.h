@@ -10,14 +10,15 @@ namespace plotsmith::render {
 /// Collects points of a group that were drawn, and draws their error bars.
 class ErrorBarPainter {
  public:
+  /// Makes a painter for a group. `plot` and `group` must outlive it.
   ErrorBarPainter(Plot& plot, const GroupModel& group);
 
-  /// `along` is the place of the point along the axis of categories or X values; `value` is its value, or the
-  /// sum up to it where values are stacked.
+  /// Adds a point. `along` is its position along the category axis or the axis of X values, and `value` is
+  /// its value. If the values are stacked, `value` is the sum up to the point.
   void Add(const SeriesModel& series, std::size_t point, double along, double value);
   /// Draws the bars of the points so far.
   void Draw();
-  /// The same within the plot area.
+  /// Draws the bars of the points so far, clipped to the plot area.
   void DrawClipped();
 
  private:
@@ -30,14 +31,15 @@ class ErrorBarPainter {
 
   Plot& plot_;
   const GroupModel& group_;
-  std::vector<double> wholes_;  ///< what 100 percent are at each point; empty if values aren't shares
+  std::vector<double>
+      wholes_;  ///< The sums of the points, which are 100 percent; empty if values aren't shares.
   std::vector<BarPoint> points_;
 };
 
 /// Draws the trendlines of a group with their labels.
 void DrawTrendlines(Plot& plot, const GroupModel& group);
 
-/// Draws bars from the first series to the last one, where a group of lines has them.
+/// Draws the up/down bars of a group of lines, if it has any.
 void DrawUpDownBars(Plot& plot, const GroupModel& group, const Extents& extents);
 
 }  // namespace plotsmith::render

@@ -21,7 +21,7 @@ struct BarSlots {
 BarSlots SlotsOf(const GroupModel& group, double categoryWidth) {
   const double count = group.IsStacked() ? 1 : static_cast<double>(group.series.size());
   const double overlap = group.IsStacked() ? 1 : group.overlap / 100;
-  // This is the width of a category in widths of bars, as the gap is a share of a bar's width.
+  // This is the width of a category in widths of bars, because the gap is a share of the width of a bar.
   const double widths = 1 + (count - 1) * (1 - overlap) + group.gapWidth / 100;
   BarSlots slots;
   slots.width = categoryWidth / widths;

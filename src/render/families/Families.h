@@ -16,9 +16,9 @@ void DrawLines(Plot& plot, const GroupModel& group);
 void DrawScatter(Plot& plot, const GroupModel& group);
 /// Draws bubbles.
 void DrawBubbles(Plot& plot, const GroupModel& group);
-/// Draws the series of a radar chart, and the axes that they lie on.
+/// Draws the series of a radar chart, and its axes.
 void DrawRadar(Plot& plot, const GroupModel& group);
-/// Draws a pie or a doughnut in the middle of the plot area. A pie leaves room for labels outside of it.
+/// Draws a pie or a doughnut in the middle of the plot area. A pie leaves space for labels outside of it.
 void DrawPie(Plot& plot, const GroupModel& group);
 
 }  // namespace plotsmith::render

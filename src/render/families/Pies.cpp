@@ -19,7 +19,7 @@ double ExplosionOf(const SeriesModel& series, std::size_t point) {
 
 /// Returns the slices of a series, in a circle of radius 1 around the origin.
 std::vector<DrawnPoint> SlicesOf(const GroupModel& group, const SeriesModel& series) {
-  // values are taken as shares of the greatest, as their sum may be no number
+  // Values are shares of the greatest one, because their sum may be infinite.
   double most = 0, whole = 0, sum = 0;
   for (const double value : series.values) {
     if (std::isfinite(value)) most = std::max(most, std::abs(value));

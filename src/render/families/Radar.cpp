@@ -20,7 +20,7 @@ constexpr std::size_t kMostSpokes = 1000;
 
 /// Returns the direction of a spoke as a vector of length 1. The first spoke goes up, the others follow
 /// clockwise.
-Point WayOf(std::size_t spoke, std::size_t count) {
+Point DirectionOf(std::size_t spoke, std::size_t count) {
   const double angle = 2 * std::numbers::pi * static_cast<double>(spoke) / static_cast<double>(count);
   return {std::sin(angle), -std::cos(angle)};
 }
@@ -59,7 +59,7 @@ class Web {
     if (!value_.hidden && value_.tickLabels != "none") DrawValueLabels();
     for (std::size_t i = 0; i < labels_.size(); ++i) {
       const TextBlock& block = labels_[i];
-      const Point way = WayOf(i, count_), end = At(i, radius_);
+      const Point way = DirectionOf(i, count_), end = At(i, radius_);
       const Point center{end.x + way.x * (block.TurnedWidth() / 2 + kGap),
                          end.y + way.y * (block.TurnedHeight() / 2 + kGap)};
       DrawBlock(plot_.canvas, {Role::kTickLabel, category_.number, static_cast<int>(i + 1)}, block, center);
@@ -96,7 +96,7 @@ class Web {
  private:
   Point Middle() const { return plot_.area.Center(); }
   Point At(std::size_t spoke, double distance) const {
-    const Point way = WayOf(spoke, count_), middle = Middle();
+    const Point way = DirectionOf(spoke, count_), middle = Middle();
     return {middle.x + way.x * distance, middle.y + way.y * distance};
   }
   Point PlaceOf(std::size_t spoke, double value) const {
@@ -129,7 +129,7 @@ class Web {
     for (std::size_t i = 0; i < std::min(count_, category_.categories.size()); ++i) {
       TextBlock block = LayOut(category_.categories[i], style, plot_.canvas.Measure());
       Shorten(block, kWidestLabel * area.width, plot_.canvas.Measure());
-      const Point way{std::abs(WayOf(i, count_).x), std::abs(WayOf(i, count_).y)};
+      const Point way{std::abs(DirectionOf(i, count_).x), std::abs(DirectionOf(i, count_).y)};
       const auto limit = [&](double share, double half, double extent) {
         constexpr double kFlat = 0.05;  // Labels of spokes along this side need no room at it.
         if (share > kFlat) radius_ = std::min(radius_, (half - extent / 2) / share - extent / 2 - kGap);

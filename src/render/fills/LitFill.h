@@ -9,8 +9,8 @@ Color Lit(const Color& color, double light);
 /// Returns a filling with all of its colours lit.
 Fill Lit(const Fill& fill, double light);
 /// Returns a thin line in the colour of a filling, for faces without a line of their own. Without it, a
-/// hairline of the background would show between neighbouring faces, as their edges are smoothed. Fillings
-/// that are transparent and patterns get no line.
+/// hairline of the background would show between neighbouring faces, because their edges are smoothed.
+/// Fillings that are transparent and patterns get no line.
 Stroke SeamOf(const Fill& fill);
 /// Returns the main colour of a filling: the background of a pattern, and the first colour of a gradient. It
 /// is transparent if there is no filling.

@@ -8,10 +8,10 @@ namespace plotsmith::render {
 /// The padding to the left and right of the text of a label, in points.
 inline constexpr double kLabelPadding = 2;
 
-/// Returns whether a label fits into its slice, near the edge. `width` and `height` include its padding, in
+/// Returns true if a label fits into its slice, near the edge. `width` and `height` include its padding, in
 /// points.
 bool FitsInSlice(const DrawnPoint& slice, double width, double height);
-/// Draws the labels of the points that the plot has kept.
+/// Draws the labels of all points in Plot::points.
 void DrawDataLabels(Plot& plot);
 
 }  // namespace plotsmith::render

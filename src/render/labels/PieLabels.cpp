@@ -29,9 +29,9 @@ double MiddleOf(const DrawnPoint& slice) {
 bool IsRight(const PlacedLabel& label) { return MiddleOf(*label.point) < 180; }
 
 /// Labels below each other that touch.
-struct Pile {
+struct Cluster {
   std::size_t first = 0, count = 0;
-  double wanted = 0;  ///< sum of the tops of the pile with which each label would be at its own place
+  double wanted = 0;  ///< sum of the tops of the cluster with which each label would be at its own place
   double height = 0;
   double top = 0;
 };
@@ -39,27 +39,27 @@ struct Pile {
 /// Moves labels up and down, as little as possible, until none overlaps the next. They must be sorted from
 /// top to bottom. They stay between `least` and `most`.
 void SpreadDown(const std::vector<PlacedLabel*>& labels, double least, double most) {
-  std::vector<Pile> piles;
-  const auto settle = [&](Pile& pile) {
-    pile.top =
-        std::clamp(pile.wanted / static_cast<double>(pile.count), least, std::max(most - pile.height, least));
+  std::vector<Cluster> clusters;
+  const auto settle = [&](Cluster& cluster) {
+    cluster.top = std::clamp(cluster.wanted / static_cast<double>(cluster.count), least,
+                             std::max(most - cluster.height, least));
   };
   for (std::size_t i = 0; i < labels.size(); ++i) {
-    Pile pile{i, 1, labels[i]->Box().top, 2 * labels[i]->halfHeight, 0};
-    settle(pile);
-    while (!piles.empty() && piles.back().top + piles.back().height > pile.top) {
-      const Pile& above = piles.back();
-      pile = {above.first, above.count + pile.count,
-              above.wanted + pile.wanted - above.height * static_cast<double>(pile.count),
-              above.height + pile.height, 0};
-      piles.pop_back();
-      settle(pile);
+    Cluster cluster{i, 1, labels[i]->Box().top, 2 * labels[i]->halfHeight, 0};
+    settle(cluster);
+    while (!clusters.empty() && clusters.back().top + clusters.back().height > cluster.top) {
+      const Cluster& above = clusters.back();
+      cluster = {above.first, above.count + cluster.count,
+                 above.wanted + cluster.wanted - above.height * static_cast<double>(cluster.count),
+                 above.height + cluster.height, 0};
+      clusters.pop_back();
+      settle(cluster);
     }
-    piles.push_back(pile);
+    clusters.push_back(cluster);
   }
-  for (const Pile& pile : piles) {
-    double top = pile.top;
-    for (std::size_t i = pile.first; i < pile.first + pile.count; ++i) {
+  for (const Cluster& cluster : clusters) {
+    double top = cluster.top;
+    for (std::size_t i = cluster.first; i < cluster.first + cluster.count; ++i) {
       labels[i]->center.y = top + labels[i]->halfHeight;
       top += 2 * labels[i]->halfHeight;
     }
@@ -99,7 +99,7 @@ bool OverlapsAny(const PlacedLabel& label, const std::vector<PlacedLabel*>& othe
 
 /// Removes the labels of the smallest slices until the others fit into the height. Of slices of equal size,
 /// multiples of the golden ratio choose the labels, so that the remaining ones are spread evenly.
-void KeepThoseWithRoom(std::vector<PlacedLabel*>& side, double height) {
+void RemoveLabelsWithoutSpace(std::vector<PlacedLabel*>& side, double height) {
   struct Candidate {
     double share, turn;
     PlacedLabel* label;
@@ -126,7 +126,7 @@ void KeepThoseWithRoom(std::vector<PlacedLabel*>& side, double height) {
 Rect RoomOf(const Plot& plot) { return plot.chart.layout ? plot.canvas.Bounds() : plot.area; }
 
 void SpreadSide(std::vector<PlacedLabel*>& side, const Rect& room) {
-  KeepThoseWithRoom(side, room.height);
+  RemoveLabelsWithoutSpace(side, room.height);
   const bool right = !side.empty() && IsRight(*side.front());
   std::stable_sort(side.begin(), side.end(), [&](const PlacedLabel* a, const PlacedLabel* b) {
     const double first = MiddleOf(*a->point), second = MiddleOf(*b->point);

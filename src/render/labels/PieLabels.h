@@ -8,27 +8,28 @@
 
 namespace plotsmith::render {
 
-/// A data label with its place.
+/// A data label with its position.
 struct PlacedLabel {
-  const DrawnPoint* point = nullptr;
-  const LabelModel* label = nullptr;
-  TextBlock block;
-  double keyRoom = 0;  ///< room for a legend key before the text, in points
+  const DrawnPoint* point = nullptr;  ///< The point.
+  const LabelModel* label = nullptr;  ///< What the label shows.
+  TextBlock block;                    ///< The text, broken into lines.
+  double keyRoom = 0;                 ///< The space for a legend key before the text, in points.
+  /// Half of the size of the label, in points.
   double halfWidth = 0, halfHeight = 0;
-  Point center;
-  bool moved = false;  ///< away from its automatic place
-  bool leftOut = false;
+  Point center;          ///< The middle of the label.
+  bool moved = false;    ///< Whether the label isn't at its automatic position.
+  bool leftOut = false;  ///< Whether the label isn't drawn because there is no space for it.
 
   /// The rectangle of the label.
   Rect Box() const { return {center.x - halfWidth, center.y - halfHeight, 2 * halfWidth, 2 * halfHeight}; }
 };
 
-/// Returns whether a label doesn't cover the circle of its slice, or the ellipse and the rim of a pie in 3-D.
+/// Returns true if a label doesn't cover the circle of its slice, or the ellipse and the rim of a pie in 3-D.
 bool IsBesideSlice(const DrawnPoint& point, const Rect& label);
 
 /// Moves labels outside of pies so that they don't touch. They stay on their side of the circle and in the
-/// plot area. If there is no room for all of them, the labels of the smallest slices are removed. Returns how
-/// many were removed.
+/// plot area. If there isn't enough space for all of them, the labels of the smallest slices are removed.
+/// Returns the number of removed labels.
 std::size_t SpreadPieLabels(const Plot& plot, std::vector<PlacedLabel>& labels);
 
 }  // namespace plotsmith::render

@@ -148,7 +148,7 @@ class Layouter {
     }
     FitPlot(inner);
     if (isTableTooNarrow_) {
-      TakeBackTickLabels();
+      RestoreTickLabels();
       FitPlot(inner);
     }
     ShortenSlanted();
@@ -171,7 +171,7 @@ class Layouter {
   }
 
   /// Gives the axis above a data table without room the labels that the table would have replaced.
-  void TakeBackTickLabels() {
+  void RestoreTickLabels() {
     AxisModel& axis = chart_.axes[static_cast<std::size_t>(chart_.table->axis)];
     axis.tickLabels = chart_.table->tickLabels;
     axis.crossesBetween = chart_.table->crossesBetween;

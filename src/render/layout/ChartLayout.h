@@ -11,30 +11,30 @@
 
 namespace plotsmith::render {
 
-/// A title with its place.
+/// A title with its position.
 struct PlacedTitle {
   TextBlock block;
-  Rect box;  ///< the text with its padding
+  Rect box;  ///< The rectangle of the text with its padding.
 };
 
-/// What is laid out beside an axis.
+/// The elements beside an axis. Title and display units are absent if the axis has none.
 struct AxisLayout {
   TickLabels labels;
   std::optional<PlacedTitle> title, units;
 };
 
-/// Where the elements of a chart are.
+/// The positions of the elements of a chart. Title, legend and data table are absent if the chart has none.
 struct ChartLayout {
   std::optional<PlacedTitle> title;
   std::optional<LegendLayout> legend;
   std::optional<TableLayout> table;
-  std::vector<AxisLayout> axes;  ///< one for each of the chart
-  Rect outer;                    ///< the plot area with its tick labels
-  Rect plot;                     ///< the rectangle between the axes
+  std::vector<AxisLayout> axes;  ///< One for each axis of the chart.
+  Rect outer;                    ///< The plot area with its tick labels.
+  Rect plot;                     ///< The rectangle between the axes.
 };
 
-/// Lays out a chart in the rectangle `bounds`. Axes of values whose major unit is automatic get one for which
-/// their labels have room.
+/// Lays out a chart in the rectangle `bounds`. An automatic major unit of a value axis is
+/// increased until there is enough space for the labels.
 ChartLayout LayOutChart(ChartModel& chart, const Rect& bounds, const TextMeasure& measure);
 
 }  // namespace plotsmith::render

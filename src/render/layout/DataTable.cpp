@@ -190,7 +190,8 @@ class TablePainter {
 }  // namespace
 
 void DrawTable(Canvas& canvas, const ChartModel& chart, const TableLayout& layout) {
-  if (layout.isTooNarrow) canvas.Note("The data table isn't drawn, as its columns have no room for a text.");
+  if (layout.isTooNarrow)
+    canvas.Note("The data table isn't drawn because its columns are too narrow for a text.");
   if (layout.leftOut > 0) {
     canvas.Note("The data table has no room for " + std::to_string(layout.leftOut) +
                 " of its series, which are left out.");

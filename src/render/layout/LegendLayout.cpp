@@ -277,7 +277,7 @@ void DrawBandKey(Canvas& canvas, const ChartModel& chart, const LegendEntry& ent
 
 void DrawLegend(Canvas& canvas, const ChartModel& chart, const LegendLayout& layout) {
   if (layout.leftOut > 0) {
-    canvas.Note(layout.entries.empty() ? "The chart has no room for its legend, which is left out."
+    canvas.Note(layout.entries.empty() ? "There is no space for the legend, which is left out."
                                        : "The legend has room for " + std::to_string(layout.entries.size()) +
                                              " of its entries; the others are left out.");
   }

@@ -7,23 +7,23 @@
 
 namespace plotsmith::render {
 
-/// An entry of the legend with its place.
+/// An entry of the legend with its position.
 struct PlacedEntry {
-  const LegendEntry* entry = nullptr;
-  Rect key;
-  TextBlock text;
-  Point textCenter;
+  const LegendEntry* entry = nullptr;  ///< The entry.
+  Rect key;                            ///< The rectangle of the legend key.
+  TextBlock text;                      ///< The text, broken into lines.
+  Point textCenter;                    ///< The middle of the text.
 };
 
-/// The legend with its place.
+/// The legend with its position.
 struct LegendLayout {
-  Rect box;
-  std::vector<PlacedEntry> entries;  ///< entries that have room
-  std::size_t leftOut = 0;           ///< number of the others
+  Rect box;                          ///< The frame.
+  std::vector<PlacedEntry> entries;  ///< The entries for which there is enough space.
+  std::size_t leftOut = 0;           ///< The number of the other entries.
 };
 
-/// Lays out the legend of a chart. `free` is the room that the title and the margins leave, and loses the
-/// room that the legend takes.
+/// Lays out the legend of a chart. `free` is the space inside the margins and below the title. It is reduced
+/// by the space that the legend takes.
 LegendLayout LayOutLegend(const ChartModel& chart, const Rect& bounds, Rect& free,
                           const TextMeasure& measure);
 /// Draws the frame, the keys and the texts. Adds a note if entries are left out.

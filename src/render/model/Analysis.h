@@ -10,18 +10,22 @@
 
 #include "render/Drawing.h"
 
-/// What a chart says about the values of its series beside drawing them: error bars and trendlines.
+/// Error bars and trendlines, and the curves that fit the points of a series.
 namespace plotsmith::render {
 
 /// Error bars of a series (c:errBars) in one direction.
 struct ErrorBars {
-  bool alongX = false;  ///< along the axis of X values; else along that of values
+  /// Whether the bars are parallel to the axis of X values. Otherwise they are parallel to the value axis.
+  bool alongX = false;
+  /// Whether the ends of the bars have caps.
   bool caps = true;
-  /// The ends of each point's bar, as distances from the point's number. NaN where a point has no bar.
+  /// The ends of the bar of each point, as distances from the value of the point. NaN is a point without a
+  /// bar.
   std::vector<double> from, to;
   Stroke stroke;
 };
 
+/// The kind of a trendline (ST_TrendlineType).
 enum class TrendKind : std::uint8_t {
   kLinear,
   kLogarithmic,
@@ -31,24 +35,29 @@ enum class TrendKind : std::uint8_t {
   kMovingAverage
 };
 
-/// A line through points, found by least squares. In logarithmic terms, it is a polynomial.
+/// A curve that fits points by least squares. Every kind of curve is a polynomial: of x or of its logarithm,
+/// for the value or for its logarithm.
 class TrendCurve {
  public:
-  /// A curve with coefficients of powers of (u - center) / scale, where u is x or its logarithm.
+  /// Makes a curve. `coefficients` belong to the powers of (u - center) / scale from 0, where u is x or its
+  /// logarithm.
   TrendCurve(TrendKind kind, std::vector<double> coefficients, double center, double scale)
       : kind_(kind), coefficients_(std::move(coefficients)), center_(center), scale_(scale) {}
 
-  /// The value at a place. It is not finite where the curve has none.
+  /// Returns the value at an X value. The result isn't finite if the curve has no value there.
   double At(double x) const;
+  /// The kind of the curve.
   TrendKind Kind() const { return kind_; }
-  /// Whether the curve has values only above an x of zero.
+  /// Returns true if the curve has values only for positive X values.
   bool NeedsPositiveX() const { return kind_ == TrendKind::kLogarithmic || kind_ == TrendKind::kPower; }
-  /// Factors of x^0, x^1, ... of the polynomial in logarithmic terms.
+  /// Returns the factors of u^0, u^1 and so on of the polynomial, where u is x or its logarithm.
   std::vector<double> Factors() const;
-  /// The value of the polynomial; the same as the curve's value or its logarithm.
+  /// Returns the value of the polynomial at `u`, which is x or its logarithm. It is the value of the curve or
+  /// the logarithm of that value.
   double TermAt(double u) const;
 
-  double determination = 0;  ///< the share of the variance that the curve explains (R squared)
+  /// The share of the variance that the curve explains (R squared).
+  double determination = 0;
 
  private:
   TrendKind kind_;
@@ -56,16 +65,17 @@ class TrendCurve {
   double center_, scale_;
 };
 
-/// Fits a curve to points; those that are no numbers are left out. `order` is that of a polynomial, from 1 to
-/// 6. `intercept` is the value at zero. Nothing if there are too few points, if they don't differ in x, or if
-/// one of them has no logarithm where the curve needs it. A moving average is no curve.
+/// Fits a curve to points. Points with a NaN are left out. `order` is the order of a polynomial, from 1 to 6.
+/// `intercept` is the value at zero, if it is fixed. Returns nothing if there are too few points, if all X
+/// values are the same, if the curve needs a logarithm that one of the points doesn't have, or if `kind` is a
+/// moving average.
 std::optional<TrendCurve> FitTrend(TrendKind kind, std::size_t order, std::optional<double> intercept,
                                    const std::vector<double>& x, const std::vector<double>& y);
 
-/// The equation of a curve, as Excel writes it. Powers are written with raised digits, or behind a caret.
-/// `format` writes its numbers.
+/// Returns the equation of a curve, as Excel writes it. Exponents are raised digits, or follow a caret.
+/// `format` formats the numbers.
 std::string EquationOf(const TrendCurve& curve, const std::function<std::string(double)>& format);
-/// A number as Excel shows it in an equation: five digits, or an exponent.
+/// Returns a number as Excel shows it in an equation, with five digits or with an exponent.
 std::string EquationNumber(double number);
 
 }  // namespace plotsmith::render

@@ -201,7 +201,8 @@ Trendline ReadTrendline(ReadingContext& context, const ChartModel& chart, const 
   line.shift = places.shift;
   if (line.kind == TrendKind::kMovingAverage) {
     if (line.period >= series.values.size()) {
-      AddOnce(context.notes, "A moving average isn't drawn, as its period isn't shorter than its series.");
+      AddOnce(context.notes,
+              "A moving average isn't drawn because its period isn't shorter than its series.");
       return line;
     }
     AddMovingAverage(places.x, series.values, line);
@@ -212,7 +213,8 @@ Trendline ReadTrendline(ReadingContext& context, const ChartModel& chart, const 
   const auto curve =
       FitTrend(line.kind, order, schema::NumberVal(node, "intercept"), places.x, series.values);
   if (!curve) {
-    AddOnce(context.notes, "A trendline isn't drawn, as its series has no points for a line of its kind.");
+    AddOnce(context.notes,
+            "A trendline isn't drawn because no line of its kind fits the points of its series.");
     return line;
   }
   double least = std::numeric_limits<double>::infinity(), greatest = -least;
@@ -283,7 +285,7 @@ void ReadAnalysis(ReadingContext& context, ChartModel& chart) {
       constexpr std::size_t kMostErrorBars = 2;  // one in each direction
       for (const pugi::xml_node& node : xml::Children(series.node, "errBars")) {
         if (!group.HasXValues() && schema::Val(node, "errDir", "y") == "x") {
-          AddOnce(context.notes, "Error bars along an axis of categories aren't drawn.");
+          AddOnce(context.notes, "Error bars along a category axis aren't drawn.");
         } else if (series.errorBars.size() < kMostErrorBars) {
           series.errorBars.push_back(ReadErrorBars(context, node, series));
         }

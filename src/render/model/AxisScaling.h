@@ -4,9 +4,9 @@
 
 namespace plotsmith::render {
 
-/// Sets the scales of all axes of values from the data of their groups.
+/// Sets the scales of all value axes from the data of their groups.
 void ScaleAxes(ChartModel& chart);
-/// Rescales an axis of values with the next larger major unit of the sequence 1, 2, 5, 10, 20, ...
+/// Rescales a value axis with the next larger major unit of the sequence 1, 2, 5, 10, 20 and so on.
 void CoarsenScale(AxisModel& axis);
 
 }  // namespace plotsmith::render

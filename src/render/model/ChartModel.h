@@ -23,10 +23,11 @@
 /// A chart as it is drawn. It is read once from the part; defaults, themes and inheritance are resolved.
 namespace plotsmith::render {
 
-/// Filling and outline of an element.
+/// The filling, the outline and the shadow of an element.
 struct ShapeStyle {
   Fill fill;
   Stroke stroke;
+  /// The outer shadow. It is absent if the element has none.
   std::optional<Shadow> shadow = {};
 };
 
@@ -35,18 +36,24 @@ struct ShapeStyle {
 struct ManualLayout {
   /// The layout of a plot area is that of the rectangle between the axes, without tick labels.
   bool inner = false;
-  std::optional<double> x, y;             ///< left and top edge, or distances from the automatic place
-  std::optional<double> width, height;    ///< extents, or the right and bottom edge
-  bool xIsEdge = false, yIsEdge = false;  ///< `x` and `y` are edges
-  bool widthIsEdge = false, heightIsEdge = false;  ///< `width` and `height` are edges
+  /// The left and the top edge, or the distances from the automatic position.
+  std::optional<double> x, y;
+  /// The extents, or the right and the bottom edge.
+  std::optional<double> width, height;
+  /// Whether `x` and `y` are edges. Otherwise they are distances.
+  bool xIsEdge = false, yIsEdge = false;
+  /// Whether `width` and `height` are edges. Otherwise they are extents.
+  bool widthIsEdge = false, heightIsEdge = false;
 };
 
 /// The title of a chart or of an axis, or the label of display units.
 struct TitleModel {
   RichText text;
   ShapeStyle style;
+  /// The layout that a person set. It is absent if the layout is automatic.
   std::optional<ManualLayout> layout;
-  bool overlay = false;  ///< it takes no room from the plot area
+  /// Whether the title takes no space from the plot area.
+  bool overlay = false;
 };
 
 /// A number format.
@@ -54,25 +61,34 @@ using FormatPointer = std::shared_ptr<const xlsx::NumberFormat>;
 
 /// What the data label of a point shows, and how it looks.
 struct LabelModel {
+  /// The parts of the text, and the legend key.
   bool showsValue = false, showsPercent = false, showsCategory = false, showsSeries = false;
   bool showsBubbleSize = false, showsKey = false;
-  std::optional<std::string> separator;  ///< between the parts of the text; ", " if there is none
-  std::string position;                  ///< of ST_DLblPos; never empty
-  /// The format of the value, or of the percentage if there is no value; null for the format of the data.
+  /// The text between two parts. If it is absent, the text is ", ".
+  std::optional<std::string> separator;
+  /// The position, as a value of ST_DLblPos. It is never empty.
+  std::string position;
+  /// The format of the value, or of the percentage if there is no value. Null is the format of the data.
   FormatPointer format;
   TextStyle text;
   ShapeStyle style;
-  RichText own;  ///< a text that a person typed, which replaces all other parts; empty if there is none
+  /// The text that a person typed, which replaces all other parts. It is empty if there is none.
+  RichText own;
+  /// The layout that a person set. It is absent if the layout is automatic.
   std::optional<ManualLayout> layout;
 
-  /// Returns whether the label has any part of a text.
+  /// Returns true if the label has any part of a text.
   bool ShowsAnything() const;
 };
 /// The data labels of a series.
 struct LabelsModel {
+  /// The label of all points that have no label of their own.
   LabelModel common;
-  std::map<std::size_t, LabelModel> points;  ///< labels that differ from `common`, by their points from 0
-  std::set<std::size_t> deleted;             ///< points without a label, from 0
+  /// The labels that differ from `common`, by the index of the point from 0.
+  std::map<std::size_t, LabelModel> points;
+  /// The indices, from 0, of points without a label.
+  std::set<std::size_t> deleted;
+  /// Whether lines connect labels that were moved with their points.
   bool leaderLines = false;
   Stroke leaderStroke;
 
@@ -82,67 +98,98 @@ struct LabelsModel {
 
 /// The marker of a point of a line.
 struct MarkerModel {
-  std::string symbol;  ///< of ST_MarkerStyle, but not "auto"; "none" for no marker
-  double size = 7;     ///< edge of the square around it, in points
+  /// A value of ST_MarkerStyle except "auto". It is "none" if there is no marker.
+  std::string symbol;
+  /// The edge length of the square around the marker, in points.
+  double size = 7;
   ShapeStyle style;
 };
 
 /// The look of a point that differs from its series.
 struct PointModel {
   ShapeStyle style;
+  /// The marker. It is absent if the point has the marker of the series.
   std::optional<MarkerModel> marker;
-  std::optional<double> explosion;       ///< percent of the radius; nothing for that of the series
-  std::optional<bool> invertIfNegative;  ///< nothing for that of the series
+  /// The distance of a slice from the middle, in percent of the radius. It is absent if the point has that of
+  /// the series.
+  std::optional<double> explosion;
+  /// Whether the filling is inverted below zero. It is absent if the series decides.
+  std::optional<bool> invertIfNegative;
 };
 
 /// A trendline of a series (c:trendline).
 struct Trendline {
   TrendKind kind = TrendKind::kLinear;
-  std::size_t period = 2;  ///< of a moving average, in points
+  /// The number of points in a moving average.
+  std::size_t period = 2;
   std::string name;
-  double forward = 0, backward = 0;  ///< extension beyond the points, in X units
-  double shift = 0;                  ///< subtracted from x to get the argument of AxisMap::OfX
-  std::optional<TrendCurve> curve;   ///< nothing if none could be fitted, or for a moving average
-  double from = 0, to = 0;           ///< the ends of the curve with its extensions
-  std::vector<Point> points;         ///< x and value of a moving average
+  /// The extensions beyond the last and the first point, in X units.
+  double forward = 0, backward = 0;
+  /// The number to subtract from an X value to get the argument of AxisMap::OfX.
+  double shift = 0;
+  /// The curve. It is absent for a moving average, and if no curve could be fitted.
+  std::optional<TrendCurve> curve;
+  /// The X values of the ends of the curve, with its extensions.
+  double from = 0, to = 0;
+  /// The X values and the values of a moving average.
+  std::vector<Point> points;
   ShapeStyle style;
-  RichText label;  ///< its equation and how well it fits
+  /// The equation and R squared. It is empty if the trendline has no label.
+  RichText label;
   ShapeStyle labelStyle;
+  /// The layout that a person set for the label. It is absent if the layout is automatic.
   std::optional<ManualLayout> labelLayout;
 };
 
 struct AxisModel;
-/// Returns the X values between which the curve of a trendline may be seen along an axis, which may be null.
-/// The first is above zero where the curve or the axis needs that. Nothing if the axis shows no part of the
-/// curve.
+/// Returns the X values between which the curve of a trendline is visible. `axis` is the axis of X values, or
+/// null. The first X value is above zero if the curve or the axis requires it. Returns nothing if the axis
+/// shows no part of the curve.
 std::optional<std::pair<double, double>> SeenPart(const Trendline& line, const AxisModel* axis);
 
+/// A series.
 struct SeriesModel {
-  pugi::xml_node node;  ///< c:ser
-  int number = 1;       ///< in plot order, from 1
+  /// The element c:ser.
+  pugi::xml_node node;
+  /// The number in plot order, from 1.
+  int number = 1;
   std::string name;
-  std::vector<double> values;  ///< NaN for points without a value
-  std::vector<double> x;       ///< X values of scatter and bubble charts; 1, 2, 3, ... if they are texts
-  std::vector<double> sizes;   ///< sizes of bubbles
+  /// The values of the points. NaN is a point without a value.
+  std::vector<double> values;
+  /// The X values of a scatter or bubble chart. They are 1, 2, 3, ... if the file has texts instead.
+  std::vector<double> x;
+  /// The sizes of bubbles.
+  std::vector<double> sizes;
+  /// The formats of the values and of the bubble sizes.
   FormatPointer valueFormat, sizeFormat;
-  ShapeStyle style;  ///< of bars, areas, bubbles and slices; lines have its stroke
+  /// The style of bars, areas, bubbles and slices. Lines have its stroke.
+  ShapeStyle style;
   MarkerModel marker;
+  /// Whether the line is a smooth curve.
   bool smooth = false;
+  /// Whether the filling is inverted below zero.
   bool invertIfNegative = false;
-  Fill invertedFill;  ///< replaces a solid filling below zero if that is inverted
+  /// The filling that replaces an inverted solid filling.
+  Fill invertedFill;
+  /// Whether bubbles look like balls.
   bool bubble3D = false;
-  double explosion = 0;             ///< percent of the radius
-  std::vector<PointModel> palette;  ///< looks of points in varied colours, used in rotation; empty otherwise
-  std::map<std::size_t, PointModel> points;  ///< points with a look of their own, by index from 0
+  /// The distance of the slices from the middle, in percent of the radius.
+  double explosion = 0;
+  /// The looks of points in varied colours, which are used in rotation. It is empty if the colours aren't
+  /// varied.
+  std::vector<PointModel> palette;
+  /// The looks of points that differ from the series, by index from 0.
+  std::map<std::size_t, PointModel> points;
   LabelsModel labels;
   std::vector<ErrorBars> errorBars;
   std::vector<Trendline> trendlines;
 
   /// Returns the style of a point by its index, from 0.
   const ShapeStyle& StyleOf(std::size_t point) const;
-  /// Returns the style of a point with a value or size. If that is below zero, the filling may be inverted.
+  /// Returns the style of a point by its index, from 0. The filling may be inverted if `value`, which is the
+  /// value or the bubble size, is below zero.
   ShapeStyle StyleOf(std::size_t point, double value) const;
-  /// Returns whether the filling of a point with this value is inverted.
+  /// Returns true if the filling of a point with this value is inverted.
   bool IsInverted(std::size_t point, double value) const;
   /// Returns the marker of a point by its index, from 0.
   const MarkerModel& MarkerOf(std::size_t point) const;
@@ -150,14 +197,16 @@ struct SeriesModel {
 
 /// Bars from the first series of a group of lines to the last one.
 struct UpDownBars {
-  double gapWidth = 150;  ///< percent of a bar's width
-  ShapeStyle up, down;    ///< the last series above the first, or below it
+  /// The gap between two bars, in percent of the width of a bar.
+  double gapWidth = 150;
+  /// The styles of bars at which the last series is above the first one, and below it.
+  ShapeStyle up, down;
 };
 
 /// Neighbouring categories that have one text in common, on an outer level.
 struct CategoryGroup {
-  std::size_t first = 0,
-              end = 0;  ///< the categories from `first` up to but not including `end`; they count from 0
+  /// The index of the first category, from 0, and the index after the last one.
+  std::size_t first = 0, end = 0;
   std::string text;
 };
 /// The groups of an outer level of categories, in their order.
@@ -182,48 +231,70 @@ enum class Grouping : std::uint8_t { kStandard, kClustered, kStacked, kPercent }
 
 /// A band of values on a surface, which has a colour of its own.
 struct SurfaceBand {
+  /// The lower and the upper limit of the values.
   double from = 0, to = 0;
-  ShapeStyle style;  ///< a wireframe uses only the stroke
+  /// The style, of which a wireframe uses only the stroke.
+  ShapeStyle style;
 };
 
+/// A plot group: series that are drawn in the same way on the same axes.
 struct GroupModel {
-  pugi::xml_node node;  ///< c:barChart and the like
+  /// The element, such as c:barChart.
+  pugi::xml_node node;
   Family family = Family::kBar;
   Grouping grouping = Grouping::kStandard;
   bool is3D = false;
-  bool horizontal = false;             ///< horizontal bars
-  bool filled = false;                 ///< a radar chart that is drawn as areas
-  bool varyColors = false;             ///< points differ in colour
-  bool markersOnly = false;            ///< a scatter chart without lines
-  double gapWidth = 150, overlap = 0;  ///< percent
-  double firstSliceAngle = 0;          ///< degrees clockwise from twelve o'clock
-  double holeSize = 10;                ///< percent
-  double bubbleScale = 100;            ///< percent
+  /// Whether bars are horizontal.
+  bool horizontal = false;
+  /// Whether a radar chart is drawn as areas.
+  bool filled = false;
+  /// Whether the points of a series differ in colour.
+  bool varyColors = false;
+  /// Whether a scatter chart has no lines.
+  bool markersOnly = false;
+  /// The gap between clusters and the overlap of bars, in percent of the width of a bar.
+  double gapWidth = 150, overlap = 0;
+  /// The angle at which the first slice begins, in degrees clockwise from twelve o'clock.
+  double firstSliceAngle = 0;
+  /// The diameter of the hole of a doughnut, in percent of the diameter of the doughnut.
+  double holeSize = 10;
+  /// The size of bubbles in percent of the default.
+  double bubbleScale = 100;
+  /// Whether bubbles with a size below zero are drawn.
   bool showNegativeBubbles = false;
-  bool sizeIsWidth = false;  ///< the size is the width of a bubble, otherwise its area
+  /// Whether the size of a bubble is its width. Otherwise it is its area.
+  bool sizeIsWidth = false;
+  /// The lines from points to the category axis, and the lines from the highest to the lowest point of each
+  /// category. They are absent if the group has none.
   std::optional<Stroke> dropLines, highLowLines;
+  /// The up/down bars. They are absent if the group has none.
   std::optional<UpDownBars> upDownBars;
-  bool wireframe = false;  ///< a surface of lines
-  bool isContour = false;  ///< a surface that is seen from above
+  /// Whether a surface consists of lines.
+  bool wireframe = false;
+  /// Whether a surface is seen from above.
+  bool isContour = false;
+  /// The bands of a surface, from the lowest to the highest.
   std::vector<SurfaceBand> bands;
   std::vector<SeriesModel> series;
-  std::vector<std::string> categories;     ///< texts of the tick labels, at least one for each point
-  std::vector<CategoryLevel> outerLevels;  ///< from the innermost to the outermost
-  /// Indices into ChartModel::axes; -1 if the group has no such axis. `category` is the axis of the X values
-  /// of a scatter or bubble chart.
+  /// The texts of the tick labels, at least one for each point.
+  std::vector<std::string> categories;
+  /// The outer levels of the categories, from the innermost to the outermost.
+  std::vector<CategoryLevel> outerLevels;
+  /// Indices into ChartModel::axes. They are -1 if the group has no such axis. `category` is the axis of the
+  /// X values of a scatter or bubble chart.
   int category = -1, value = -1, depth = -1;
 
-  /// Returns whether the values of series are added up.
+  /// Returns true if the values of series are added up.
   bool IsStacked() const { return grouping == Grouping::kStacked || grouping == Grouping::kPercent; }
-  /// Returns whether the group is drawn as slices of a circle.
+  /// Returns true if the group is drawn as slices of a circle.
   bool IsRound() const {
     return family == Family::kPie || family == Family::kDoughnut || family == Family::kOfPie;
   }
-  /// Returns whether Excel has error bars for the series.
+  /// Returns true if the series of this kind of group can have error bars in Excel.
   bool CanHaveErrorBars() const;
-  /// Returns whether Excel has trendlines for the series, which it hasn't for piles.
+  /// Returns true if the series of this kind of group can have trendlines in Excel. Stacked series can't.
   bool CanHaveTrendlines() const { return CanHaveErrorBars() && !IsStacked(); }
-  /// Returns whether points lie at X values instead of categories.
+  /// Returns true if points lie at X values instead of categories.
   bool HasXValues() const { return family == Family::kScatter || family == Family::kBubble; }
   /// Returns the number of points of the longest series.
   std::size_t PointCount() const;
@@ -236,48 +307,74 @@ enum class Side : std::uint8_t { kLeft, kRight, kTop, kBottom };
 
 /// The unit in which an axis shows its values (c:dispUnits).
 struct DisplayUnits {
-  double factor = 1;                ///< values are divided by it
-  std::optional<TitleModel> label;  ///< names the unit beside the axis
+  /// The number by which values are divided.
+  double factor = 1;
+  /// The name of the unit beside the axis. It is absent if it isn't shown.
+  std::optional<TitleModel> label;
 };
 
 /// An axis.
 struct AxisModel {
-  pugi::xml_node node;  ///< c:catAx and the like
-  int number = 1;       ///< place in the chart part, from 1
+  /// The element, such as c:catAx.
+  pugi::xml_node node;
+  /// The number in the chart part, from 1.
+  int number = 1;
   AxisKind kind = AxisKind::kCategory;
-  Side side = Side::kBottom;  ///< of the plot area, as the file says; decides the direction of the axis
+  /// The side of the plot area that the file gives. It decides whether the axis is vertical.
+  Side side = Side::kBottom;
+  /// Whether the axis isn't drawn.
   bool hidden = false;
+  /// Whether the axis runs backwards.
   bool reversed = false;
-  std::optional<double> logBase;      ///< of a logarithmic scale
-  xlsx::AxisScale scale;              ///< minimum, maximum and major unit of an axis of values
-  xlsx::AxisSettings settings;        ///< the parts of the scale that a person set
-  xlsx::DataExtent extent;            ///< of the data along an axis of values
-  std::optional<double> minorUnit;    ///< nothing if it is automatic
-  FormatPointer format;               ///< of the tick labels
-  std::string tickLabels = "nextTo";  ///< of ST_TickLblPos
-  std::string majorTicks = "out", minorTicks = "none";  ///< of ST_TickMark
+  /// The base of a logarithmic scale. It is absent for a linear scale.
+  std::optional<double> logBase;
+  /// The minimum, the maximum and the major unit of a value axis.
+  xlsx::AxisScale scale;
+  /// The parts of the scale that a person set.
+  xlsx::AxisSettings settings;
+  /// The extent of the data along a value axis.
+  xlsx::DataExtent extent;
+  /// The minor unit. It is absent if it is automatic.
+  std::optional<double> minorUnit;
+  /// The format of the tick labels.
+  FormatPointer format;
+  /// The position of the tick labels, as a value of ST_TickLblPos.
+  std::string tickLabels = "nextTo";
+  /// The tick marks, as values of ST_TickMark.
+  std::string majorTicks = "out", minorTicks = "none";
   Stroke line;
+  /// The gridlines. They are absent if the axis has none.
   std::optional<Stroke> majorGridlines, minorGridlines;
+  /// The title. It is absent if the axis has none.
   std::optional<TitleModel> title;
+  /// The style of the tick labels.
   TextStyle text;
-  int crossed = -1;  ///< index into ChartModel::axes of the axis that it crosses; -1 if there is none
-  std::string crosses = "autoZero";  ///< of ST_Crosses
-  std::optional<double> crossesAt;   ///< value or category from 1 where it crosses that axis
-  bool crossesBetween = true;  ///< the axis of values crosses this one between categories, not on a category
-  long long labelSkip = 0,
-            tickSkip = 1;  ///< categories from one label or mark to the next; 0: automatic
+  /// The index into ChartModel::axes of the axis that this one crosses, or -1 if there is none.
+  int crossed = -1;
+  /// Where this axis crosses that axis, as a value of ST_Crosses. `crossesAt` replaces it.
+  std::string crosses = "autoZero";
+  /// The value or the category, from 1, at which this axis crosses the other one. It is absent if `crosses`
+  /// applies.
+  std::optional<double> crossesAt;
+  /// Whether the value axis crosses this one between two categories. Otherwise it crosses on a category.
+  bool crossesBetween = true;
+  /// The numbers of categories from one label to the next and from one tick mark to the next. 0 is automatic.
+  long long labelSkip = 0, tickSkip = 1;
   DisplayUnits units;
-  std::vector<std::string> categories;     ///< of the group that has most of them
-  std::vector<CategoryLevel> outerLevels;  ///< from the innermost to the outermost
-  std::optional<DateSlots> dates;          ///< of an axis of dates if its categories are dates
+  /// The categories of the group with the most categories.
+  std::vector<std::string> categories;
+  /// The outer levels of the categories, from the innermost to the outermost.
+  std::vector<CategoryLevel> outerLevels;
+  /// The positions of the categories on a date axis. It is absent if the categories aren't dates.
+  std::optional<DateSlots> dates;
 
-  /// Returns whether the axis is vertical.
+  /// Returns true if the axis is vertical.
   bool IsUpright() const { return side == Side::kLeft || side == Side::kRight; }
   /// Returns the number of categories along the axis, or of days, months or years; at least 1.
   double SlotCount() const;
   /// Returns the X values at the ends of the axis, as AxisMap::OfX takes them.
   std::pair<double, double> EndsOfX() const;
-  /// Returns whether values lie along the axis.
+  /// Returns true if values lie along the axis.
   bool IsOfValues() const { return kind == AxisKind::kValue; }
 };
 
@@ -285,50 +382,69 @@ struct AxisModel {
 struct LegendEntry {
   std::string text;
   TextStyle style;
-  int series = 0, point = 0;  ///< from 1; point is 0 in the entry of a series
-  int trendline = 0;          ///< the trendline of the series, from 1; 0 for other entries
-  int band = 0;               ///< the band of the surface, from 1; 0 for other entries
+  /// The number of the series and of the point, from 1. The point is 0 in the entry of a series.
+  int series = 0, point = 0;
+  /// The number of the trendline of the series, from 1. It is 0 in other entries.
+  int trendline = 0;
+  /// The number of the band of a surface, from 1. It is 0 in other entries.
+  int band = 0;
 };
 /// The legend.
 struct LegendModel {
-  std::string position = "r";  ///< of ST_LegendPos
-  bool overlay = false;        ///< it takes no room from the plot area
+  /// The position, as a value of ST_LegendPos.
+  std::string position = "r";
+  /// Whether the legend takes no space from the plot area.
+  bool overlay = false;
+  /// The layout that a person set. It is absent if the layout is automatic.
   std::optional<ManualLayout> layout;
   ShapeStyle style;
   TextStyle text;
   std::vector<LegendEntry> entries;
 
-  /// Returns whether the legend is above or below the plot area, with its entries side by side.
+  /// Returns true if the legend is above or below the plot area, with its entries side by side.
   bool IsFlat() const { return position == "t" || position == "b"; }
 };
 
 /// A table of the values below the plot area (c:dTable).
 struct DataTable {
-  int axis = 0;  ///< index of the axis of categories that it is below
+  /// The index into ChartModel::axes of the category axis above the table.
+  int axis = 0;
+  /// The lines that are drawn.
   bool horizontalLines = false, verticalLines = false, outline = false;
-  bool keys = false;       ///< legend keys beside the names of the series
-  std::string tickLabels;  ///< AxisModel::tickLabels and crossesBetween of the axis without the table
+  /// Whether the table shows legend keys beside the names of the series.
+  bool keys = false;
+  /// AxisModel::tickLabels of the axis if the table can't be drawn.
+  std::string tickLabels;
+  /// AxisModel::crossesBetween of the axis if the table can't be drawn.
   bool crossesBetween = false;
   Stroke stroke;
   TextStyle text;
 };
 
+/// A chart. Title, legend and data table are absent if the chart has none.
 struct ChartModel {
   ShapeStyle chartArea, plotArea;
+  /// Whether the corners of the chart area are rounded.
   bool roundedCorners = false;
   std::optional<TitleModel> title;
   std::optional<LegendModel> legend;
   std::optional<DataTable> table;
-  std::optional<ManualLayout> layout;  ///< of the plot area
-  std::vector<GroupModel> groups;      ///< groups that have series, in the order of drawing
+  /// The layout of the plot area. It is absent if the layout is automatic.
+  std::optional<ManualLayout> layout;
+  /// The groups that have series, in the order in which they are drawn.
+  std::vector<GroupModel> groups;
+  /// The axes. They are hidden if all groups are radar charts.
   std::vector<AxisModel> axes;
-  std::vector<AxisModel> spokes;  ///< axes of a radar chart, which DrawRadar draws
-  std::string blanks = "gap";     ///< of ST_DispBlanksAs
+  /// A copy of the axes for DrawRadar. It is empty if the chart has no radar group.
+  std::vector<AxisModel> spokes;
+  /// How points without a value are drawn, as a value of ST_DispBlanksAs.
+  std::string blanks = "gap";
+  /// The date system of the workbook.
   xlsx::DateSystem dates = xlsx::DateSystem::k1900;
 
-  /// Returns whether any group is drawn in 3-D.
+  /// Returns true if any group is drawn in 3-D.
   bool Is3D() const;
-  /// Returns whether all groups are pies or doughnuts.
+  /// Returns true if all groups are pies or doughnuts.
   bool IsRound() const;
   /// Returns the series with a number, from 1 in plot order, or null if there is none.
   const SeriesModel* FindSeries(int number) const;

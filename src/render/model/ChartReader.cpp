@@ -107,8 +107,8 @@ void ReadGroups(ReadingContext& context, ChartModel& chart) {
   for (const xlsx::SeriesRef& series : context.part.Series()) numbers[series->node] = ++number;
   for (const pugi::xml_node& node : xlsx::DrawnGroups(context.part)) {
     if (!IsKnownGroup(node)) {
-      context.notes.push_back(
-          "The chart has a group of a kind that isn't drawn: " + std::string(xml::LocalName(node)) + ".");
+      context.notes.push_back("The chart has a plot group of a kind that isn't drawn: " +
+                              std::string(xml::LocalName(node)) + ".");
       continue;
     }
     GroupModel group = ReadGroup(context, node, numbers);

@@ -10,30 +10,31 @@
 
 namespace plotsmith::render {
 
-/// The most points that are drawn of one series, and of all series of a chart. Numbers and texts count alike.
-/// Excel 2007 and older draw at most 32,000 and 256,000.
+/// The maximum number of points that are drawn, per series and per chart. Points with texts count too. Excel
+/// 2007 and older versions draw at most 32,000 and 256,000.
 inline constexpr std::size_t kMostPoints = 100'000, kMostPointsOfAll = 2'000'000;
-/// The most entries that are read of a legend.
+/// The maximum number of legend entries that are read.
 inline constexpr std::size_t kMostLegendEntries = 2000;
 
-/// What the functions share that read a chart.
+/// The common state of the functions that read a chart.
 struct ReadingContext {
   xlsx::ChartPart& part;
   Notes& notes;
   AutomaticStyles styles;
+  /// The formats that were parsed so far, by their codes.
   std::map<std::string, FormatPointer> formats = {};
-  std::size_t pointsLeft = kMostPointsOfAll;  ///< that may still be read
+  /// The number of points that may still be read.
+  std::size_t pointsLeft = kMostPointsOfAll;
 
-  /// The chart and the sentences must outlive the context.
+  /// Makes a context. `chart` and `sentences` must outlive it.
   ReadingContext(xlsx::ChartPart& chart, Notes& sentences) : part(chart), notes(sentences), styles(chart) {}
-  /// Returns the format of a code, and General for a code that Excel refuses. Never null.
+  /// Returns the format of a code, or General if Excel refuses the code. The result is never null.
   FormatPointer Format(const std::string& code);
 };
 
-/// Reads a chart. What is left out is added to `notes`. Raises error 1004 if the chart can't be read.
+/// Reads a chart. Adds a sentence to `notes` about everything that is left out. Raises error 1004 if the
+/// chart can't be read.
 ChartModel ReadChart(xlsx::ChartPart& part, Notes& notes);
-
-// ReadChart calls the functions below.
 
 /// Reads a plot group (c:barChart and the like) with its series, but without its axes. `numbers` has the
 /// numbers of the series in plot order, from 1.
@@ -50,15 +51,15 @@ TitleModel ReadTitle(ReadingContext& context, pugi::xml_node title, xlsx::TextRo
                      const std::string& automatic);
 /// Reads the legend. Returns nothing if the chart has none.
 std::optional<LegendModel> ReadLegend(ReadingContext& context);
-/// Reads error bars, trendlines and up/down bars of groups whose axes are read. Axes of categories are
-/// extended for trendlines.
+/// Reads the error bars, trendlines and up/down bars of all groups. The axes must be read before. Category
+/// axes are extended for trendlines.
 void ReadAnalysis(ReadingContext& context, ChartModel& chart);
-/// Reads the data table of a plot area, and makes room for it in place of tick labels.
+/// Reads the data table of a plot area, which replaces the tick labels of its axis.
 void ReadDataTable(ReadingContext& context, pugi::xml_node plotArea, ChartModel& chart);
 /// Reads the bands of surfaces, whose axes must be scaled.
 void ReadSurfaces(ReadingContext& context, ChartModel& chart);
-/// Adds what error bars and extended trendlines need of an axis. The axis of X values must be scaled before
-/// that of values.
+/// Extends the extent of an axis by error bars and extended trendlines. The axis of X values must be scaled
+/// before the value axis.
 void AddAnalysisExtent(const ChartModel& chart, const GroupModel& group, bool isX, xlsx::DataExtent& extent);
 /// Adds the entries of trendlines to the legend.
 void AddTrendlineEntries(ReadingContext& context, ChartModel& chart);
@@ -68,13 +69,13 @@ void AddBandEntries(ReadingContext& context, ChartModel& chart);
 /// they are none.
 void ReadDates(ReadingContext& context, pugi::xml_node categories, AxisModel& axis);
 
-/// Reads the numbers of a series' data (c:val, c:xVal and the like): one for each point, and NaN for a
-/// missing one.
+/// Reads the numbers of a series (c:val, c:xVal and the like), one for each point. A missing number is NaN.
 std::vector<double> ReadNumbers(ReadingContext& context, pugi::xml_node data);
-/// Reads the outer levels of `categories` categories. Returns none if there is only one level.
+/// Reads the outer levels of the categories. `categories` is the number of categories. The result is empty if
+/// there is only one level.
 std::vector<CategoryLevel> ReadOuterLevels(pugi::xml_node data, std::size_t categories);
-/// Reads the texts of categories (c:cat), one for each point. If there are several levels, they are those of
-/// the innermost.
+/// Reads the texts of categories (c:cat), one for each point. If there are several levels, the
+/// result has the texts of the innermost one.
 std::vector<std::string> ReadCategories(ReadingContext& context, pugi::xml_node data);
 
 }  // namespace plotsmith::render

@@ -30,7 +30,8 @@ void ReadDataTable(ReadingContext& context, pugi::xml_node plotArea, ChartModel&
   if (!node) return;
   const int axis = FindTableAxis(chart);
   if (axis < 0) {
-    context.notes.push_back("The data table isn't drawn, as its chart has no flat axis of categories.");
+    context.notes.push_back(
+        "The data table isn't drawn because the chart has no horizontal category axis or is in 3-D.");
     return;
   }
   DataTable table;

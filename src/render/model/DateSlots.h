@@ -7,23 +7,28 @@
 
 namespace plotsmith::render {
 
-/// The unit of an axis of dates.
+/// The unit of a date axis.
 enum class TimeUnit : std::uint8_t { kDays, kMonths, kYears };
 
-/// How categories lie along an axis of dates. A slot is a day, month or year on it.
+/// The positions of categories on a date axis. A slot is the space for a day, a month or a year.
 struct DateSlots {
-  TimeUnit base = TimeUnit::kDays;  ///< of a slot
-  long long first = 0;              ///< the first slot, as SlotOf numbers it
-  double count = 0;                 ///< of slots on the axis
-  std::vector<double> positions;    ///< the places of the categories, in slots from the first
-  double majorUnit = 0;             ///< from label to label, in `majorBase`; 0 if Excel decides
+  /// The unit of a slot.
+  TimeUnit base = TimeUnit::kDays;
+  /// The number of the first slot, from SlotOf.
+  long long first = 0;
+  /// The number of slots on the axis.
+  double count = 0;
+  /// The positions of the categories, in slots from the first one.
+  std::vector<double> positions;
+  /// The distance between two labels in units of `majorBase`. 0 is automatic.
+  double majorUnit = 0;
   TimeUnit majorBase = TimeUnit::kDays;
 };
 
-/// Returns the number of the slot of a day: days since 1970, or months or years since year 0. `serial` is
-/// Excel's number of the day.
+/// Returns the number of the slot for a date: days since 1970-01-01, or months or years since year 0.
+/// `serial` is the serial number of the date in Excel.
 long long SlotOf(double serial, TimeUnit base, xlsx::DateSystem dates);
-/// Returns Excel's number of the first day of a slot.
+/// Returns the serial number in Excel of the first day of a slot.
 double SerialOf(long long slot, TimeUnit base, xlsx::DateSystem dates);
 
 }  // namespace plotsmith::render

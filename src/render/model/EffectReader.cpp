@@ -102,7 +102,7 @@ std::vector<std::string> MissingEffects(const RareLooks& looks) {
        {"innerShdw", "Inner shadows aren't drawn."},
        {"reflection", "Reflections aren't drawn."},
        {"prstShdw", "Preset shadows aren't drawn."},
-       {"effectDag", "Effects that build on each other (effectDag) aren't drawn."},
+       {"effectDag", "Effects in a graph (effectDag) aren't drawn."},
        {"blur", "Blurred shapes aren't drawn; they have sharp edges."},
        {"bevelT", "Bevels aren't drawn."},
        {"bevelB", "Bevels aren't drawn."}}};

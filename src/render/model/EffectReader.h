@@ -10,7 +10,8 @@
 
 namespace plotsmith::render {
 
-/// The outer shadow in shape properties (c:spPr, a:effectLst); `automatic` where they have no effects.
+/// Reads the outer shadow in shape properties (c:spPr, a:effectLst). Returns `automatic` if the properties
+/// have no effects.
 std::optional<Shadow> ReadShadow(const Palette& palette, pugi::xml_node properties,
                                  const std::optional<Shadow>& automatic);
 

@@ -17,8 +17,8 @@ class Theme;
 /// Reads fillings, lines and texts of DrawingML.
 namespace plotsmith::render {
 
-/// Resolves colours and pictures: those of a chart, which may have a theme and a colour map of its own, or
-/// those of the shapes of a sheet.
+/// Resolves the colours and pictures of a chart, or of the shapes on a sheet. A chart can have its own theme
+/// and colour map.
 class Palette {
  public:
   /// Makes the palette of a chart. The conversion is implicit, so that a chart can be given as a palette.
@@ -26,8 +26,8 @@ class Palette {
   /// Makes the palette of the shapes of a sheet.
   explicit Palette(const xlsx::Theme& theme) : theme_(&theme) {}
 
-  /// Returns Excel's number of the colour in an element such as a:solidFill. Returns nothing if it isn't
-  /// known.
+  /// Returns the colour in an element such as a:solidFill, as red + 256 * green + 65536 * blue. Returns
+  /// nothing if the colour isn't known.
   std::optional<std::int32_t> Color(pugi::xml_node holder) const;
   /// The theme whose colours are used.
   const xlsx::Theme& Theme() const;
@@ -43,14 +43,15 @@ class Palette {
 /// Reads the colour in an element (a:solidFill, a:fgClr) with its opacity. Returns nothing if it isn't known.
 std::optional<Color> ReadColor(const Palette& palette, pugi::xml_node holder);
 /// Reads a filling (a:solidFill, a:gradFill, a:pattFill, a:blipFill, a:noFill). Returns `automatic` if the
-/// node is null or isn't known.
+/// node is null or another element.
 Fill ReadFill(const Palette& palette, pugi::xml_node fill, const Fill& automatic);
-/// Reads a line (a:ln). What the line doesn't set is that of `automatic`.
+/// Reads a line (a:ln). Properties that it doesn't set are those of `automatic`.
 Stroke ReadStroke(const Palette& palette, pugi::xml_node line, const Stroke& automatic);
-/// Reads shape properties (c:spPr). What they don't set is that of `automatic`. The node may be null.
+/// Reads shape properties (c:spPr). Properties that are not set are those of `automatic`. The node may be
+/// null.
 ShapeStyle ReadStyle(const Palette& palette, pugi::xml_node properties, const ShapeStyle& automatic);
 
-/// Reads the text properties (c:txPr) of an element without a text of its own.
+/// Reads the text properties (c:txPr) of an element that contains no text, such as an axis.
 TextStyle ReadTextStyle(xlsx::ChartPart& part, pugi::xml_node element, xlsx::TextRole role);
 /// Reads the text of an element (c:tx): its runs, or the text of the cells that it refers to. Returns
 /// `automatic` if it has neither.
@@ -59,22 +60,23 @@ RichText ReadText(xlsx::ChartPart& part, pugi::xml_node element, xlsx::TextRole 
 /// Reads the layout of an element (c:layout). Returns nothing if it is automatic.
 std::optional<ManualLayout> ReadLayout(pugi::xml_node element);
 
-/// The looks that Excel gives to elements by the chart's style if nothing else is set.
+/// The formats of elements that the file doesn't format. They depend on the style of the chart.
 class AutomaticStyles {
  public:
-  /// The chart must outlive the object.
+  /// Makes the formats of a chart. `part` must outlive this object.
   explicit AutomaticStyles(xlsx::ChartPart& part) : part_(part) {}
 
-  /// The filling and border of the chart area.
+  /// Returns the filling and the border of the chart area.
   ShapeStyle ChartArea() const;
-  /// The filling of the plot area. `isFlat` says that the chart has axes and no depth; other plot areas have
-  /// no filling.
+  /// Returns the filling of the plot area. `isFlat` is true if the chart has axes and isn't in 3-D. Other
+  /// plot areas have no filling.
   ShapeStyle PlotArea(bool isFlat) const;
-  /// The line of axes and of major gridlines.
+  /// Returns the line of axes and of major gridlines.
   Stroke AxisLine() const;
-  /// The line of minor gridlines.
+  /// Returns the line of minor gridlines.
   Stroke MinorGridline() const;
-  /// The colour of a series or point. `index` counts from 0, `count` is the number of all of them.
+  /// Returns the colour of a series or a point by its index, from 0. `count` is the number of series or
+  /// points.
   Color SeriesColor(std::size_t index, std::size_t count) const;
 
  private:

@@ -5,7 +5,7 @@
 
 namespace plotsmith::render {
 
-/// Appends a path in a style: its shadow, and on it the path itself.
+/// Adds the shadow of a path and then the path in its style.
 void AddShape(Canvas& canvas, Tag tag, Path path, const ShapeStyle& style);
 /// Appends a frame in a style, which is one item even if nothing of it is seen.
 void AddFrame(Canvas& canvas, Tag tag, const Rect& frame, const ShapeStyle& style);

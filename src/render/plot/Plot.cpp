@@ -40,7 +40,7 @@ double Plot::BaseOf(const GroupModel& group) const {
   return group.IsStacked() ? AxisMap::Along(*ValueAxisOf(group), area).Base() : CrossingOf(group);
 }
 
-std::vector<double> Wholes(const GroupModel& group) {
+std::vector<double> PointTotals(const GroupModel& group) {
   std::vector<double> wholes(group.PointCount());
   for (const SeriesModel& series : group.series) {
     for (std::size_t i = 0; i < series.values.size(); ++i) {
@@ -54,7 +54,7 @@ Extents StackValues(const GroupModel& group) {
   constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
   Extents extents;
   const bool percent = group.grouping == Grouping::kPercent;
-  const std::vector<double> wholes = percent ? Wholes(group) : std::vector<double>();
+  const std::vector<double> wholes = percent ? PointTotals(group) : std::vector<double>();
   // Bars below zero are stacked downwards, while areas and lines show sums.
   const bool split = group.family == Family::kBar;
   std::vector<double> above(group.PointCount()), below(group.PointCount());

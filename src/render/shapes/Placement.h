@@ -6,20 +6,20 @@ namespace plotsmith::render {
 
 /// The axes along which a shape is mirrored.
 struct Flip {
-  bool horizontal = false;  ///< left and right are exchanged
-  bool vertical = false;    ///< top and bottom are exchanged
+  bool horizontal = false;  ///< Whether left and right are exchanged.
+  bool vertical = false;    ///< Whether top and bottom are exchanged.
 };
 
-/// How a shape and the groups around it are turned and mirrored.
+/// The rotations and reflections of a shape and of the groups around it.
 class Placement {
  public:
-  /// Returns the placement of a shape inside of this one. The shape is mirrored, and then turned clockwise
+  /// Returns the placement of a shape inside of this one. The shape is mirrored, and then rotated clockwise
   /// about `center`.
   Placement Turned(Point center, double degrees, const Flip& flip = {}) const;
 
-  /// Returns where a point of the shape is on the picture.
+  /// Returns the position of a point of the shape on the picture.
   Point Map(Point point) const;
-  /// Returns where a path of the shape is on the picture.
+  /// Returns a path of the shape as it is on the picture.
   Path Map(const Path& path) const;
   /// Returns the rotation of the shape's text in degrees clockwise. Texts aren't mirrored.
   double Rotation() const { return rotation_; }

@@ -124,7 +124,7 @@ class ObjectPainter {
     auto form = FormOf(geometry, frame);
     if (!form) {
       const std::string name = xml::Attribute(geometry, "prst", "a form of its own");
-      canvas_.Note("A shape is drawn as a rectangle, as its form isn't known: " + NameOf(object) + " (" +
+      canvas_.Note("A shape is drawn as a rectangle because its form isn't known: " + NameOf(object) + " (" +
                    name + ").");
       form = ShapeForm{Path().AddRect(frame), false};
     }
@@ -144,7 +144,7 @@ class ObjectPainter {
     }
     const bool turned = placement.Rotation() != 0 || transform.flip.horizontal || transform.flip.vertical;
     if (turned || !IsDrawableImage(bytes)) {
-      canvas_.Note("A picture among the shapes isn't drawn, as it is turned or of another kind than PNG: " +
+      canvas_.Note("A picture isn't drawn because it is rotated or mirrored, isn't PNG, or is too large: " +
                    NameOf(object) + ".");
       return;
     }

@@ -9,8 +9,8 @@
 namespace plotsmith::render {
 
 /// Draws an object (sp, cxnSp, grpSp, pic) of the drawing of a chart or sheet. `frame` is the rectangle of
-/// its anchor, `number` its place in the drawing, from 1. `images` reads pictures; without it, they aren't
-/// drawn. Adds a note about what can't be drawn.
+/// its anchor, and `number` is its number in the drawing, from 1. `images` reads pictures; without it,
+/// pictures aren't drawn. Adds a note about everything that can't be drawn.
 void DrawShapeObject(Canvas& canvas, const Palette& palette, pugi::xml_node object, const Rect& frame,
                      int number, const ImageSource& images = {});
 

@@ -13,19 +13,23 @@ namespace plotsmith::render {
 
 /// A paragraph of a shape's text.
 struct ShapeParagraph {
-  RichText text;  ///< has a paragraph for each line that a line break ends
+  RichText text;  ///< The text, with a paragraph for each line that ends with a line break.
   TextAlign align = TextAlign::kStart;
 };
 
 /// The text of a shape (txBody).
 struct ShapeText {
   std::vector<ShapeParagraph> paragraphs;
-  double left = 7.2, top = 3.6, right = 7.2, bottom = 3.6;  ///< insets in points
+  /// The distances between the frame and the text, in points.
+  double left = 7.2, top = 3.6, right = 7.2, bottom = 3.6;
+  /// The vertical alignment in the frame.
   enum class Anchor { kTop, kMiddle, kBottom } anchor = Anchor::kTop;
+  /// Whether long lines are broken.
   bool wraps = true;
-  double rotation = 0;  ///< degrees clockwise, relative to the shape
+  /// The rotation relative to the shape, in degrees clockwise.
+  double rotation = 0;
 
-  /// Returns whether no paragraph has a text.
+  /// Returns true if no paragraph has a text.
   bool IsEmpty() const;
 };
 

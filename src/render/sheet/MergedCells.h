@@ -16,7 +16,7 @@ class MergedCells {
   /// Takes the merged ranges of a sheet, which don't overlap.
   explicit MergedCells(std::vector<xlsx::CellRange> ranges);
 
-  /// Returns whether a cell is in a range. Rows and columns count from 1.
+  /// Returns true if a cell is in a range. Rows and columns count from 1.
   bool Hold(std::int32_t row, std::int32_t column);
 
  private:

@@ -11,9 +11,9 @@ namespace plotsmith::render {
 
 /// The pages of a printed sheet.
 struct PageCuts {
-  double scale = 1;                    ///< size on the paper divided by the size on the sheet
-  std::vector<xlsx::CellRange> pages;  ///< the cells of each page, in the order of printing
-  std::size_t count = 0;               ///< number of all pages, also of those that aren't in `pages`
+  double scale = 1;                    ///< The size on the paper divided by the size on the sheet.
+  std::vector<xlsx::CellRange> pages;  ///< The cells of each page, in the order of printing.
+  std::size_t count = 0;               ///< The number of all pages, including pages that aren't in `pages`.
 };
 
 /// Divides ranges of cells into pages. A page has as many whole rows and columns as fit between the margins,

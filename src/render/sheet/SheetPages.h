@@ -13,15 +13,15 @@ struct SheetEntry;
 
 namespace plotsmith::render {
 
-/// The pages that a sheet is drawn on.
+/// The kinds of pages on which a sheet can be drawn.
 enum class Paper {
-  kPrinted,  ///< pages with the size and the margins of the page setup
-  kOne,      ///< one page as large as the contents of the sheet, up to 200 inches
+  kPrinted,  ///< Pages with the size and the margins of the page setup.
+  kOne,      ///< One page as large as the contents of the sheet, up to 200 inches.
 };
 
 /// Draws the pages of a sheet with its cells, charts and shapes. A chart sheet has one page, an empty sheet
-/// none. If a sheet has more than a hundred pages, the first hundred are drawn. What isn't drawn is added to
-/// `notes`. Raises error 1004 if the sheet can't be read.
+/// none. If a sheet has more than a hundred pages, the first hundred are drawn. Adds a sentence to `notes`
+/// about everything that isn't drawn. Raises error 1004 if the sheet can't be read.
 std::vector<Drawing> DrawSheet(xlsx::Workbook& book, const xlsx::SheetEntry& sheet, Paper paper,
                                const TextMeasure& measure, Notes& notes);
 

@@ -22,31 +22,31 @@ namespace plotsmith::render {
 /// The contents of a cell.
 struct PrintedCell {
   excel::CellValue::Kind kind = excel::CellValue::Kind::kEmpty;
-  double number = 0;        ///< value of a number or date
-  bool general = false;     ///< a number in the format General
-  std::uint32_t style = 0;  ///< argument of SheetReader::LookOf
-  std::string text;         ///< displayed text, as Range.Text returns it
+  double number = 0;        ///< The value of a number or a date.
+  bool general = false;     ///< Whether it is a number in the format General.
+  std::uint32_t style = 0;  ///< The style for SheetReader::LookOf.
+  std::string text;         ///< The displayed text, as in Range.Text.
 
-  /// Returns whether the cell has no value.
+  /// Returns true if the cell has no value.
   bool IsEmpty() const { return kind == excel::CellValue::Kind::kEmpty; }
-  /// Returns whether the cell has a number or a date.
+  /// Returns true if the cell has a number or a date.
   bool IsNumber() const {
     return kind == excel::CellValue::Kind::kNumber || kind == excel::CellValue::Kind::kDate;
   }
 };
 
-/// Reads what printed pages show of a worksheet. Rows and columns count from 1. Members throw RuntimeError if
+/// Reads the printed contents of a worksheet. Rows and columns count from 1. Members throw RuntimeError if
 /// the sheet can't be read.
 class SheetReader {
  public:
-  /// The workbook and the sheet must outlive the reader.
+  /// Makes a reader. The workbook and the sheet must outlive it.
   SheetReader(xlsx::Workbook& book, xlsx::Worksheet& sheet);
 
-  /// Returns whether a cell has no value.
+  /// Returns true if a cell has no value.
   bool IsEmptyAt(std::int32_t row, std::int32_t column);
   /// Returns the contents of a cell.
   PrintedCell CellAt(std::int32_t row, std::int32_t column);
-  /// Returns the look of a style. The reference is valid as long as the reader.
+  /// Returns the look of a style. The reference is valid while the reader exists.
   const xlsx::CellLook& LookOf(std::uint32_t style);
   /// Returns the look of a cell.
   const xlsx::CellLook& LookAt(std::int32_t row, std::int32_t column);
@@ -61,7 +61,7 @@ class SheetReader {
   Rect AreaOf(const xlsx::CellRange& cells) const;
 
  private:
-  /// Returns whether a cell has a value, a filling or a border.
+  /// Returns true if a cell has a value, a filling or a border.
   bool Shows(std::int32_t row, std::int32_t column);
 
   xlsx::Workbook& book_;

@@ -10,7 +10,7 @@ namespace plotsmith::render {
 
 /// Returns a number with at most two decimals, in as few characters as possible.
 std::string SvgNumber(double value);
-/// Appends a number that is given in hundredths, in the same way.
+/// Appends a number that is given in hundredths, in as few characters as possible.
 void AppendHundredths(std::string& text, long long hundredths);
 /// Escapes a text for elements and attributes of XML. Characters that XML doesn't allow are left out.
 std::string SvgEscape(std::string_view text);
@@ -18,7 +18,7 @@ std::string SvgEscape(std::string_view text);
 /// Collects the definitions that fillings refer to. Equal definitions are written once.
 class SvgDefinitions {
  public:
-  /// All ids begin with `prefix`.
+  /// Makes an empty collection. All ids will begin with `prefix`.
   explicit SvgDefinitions(std::string prefix = "f") : prefix_(std::move(prefix)) {}
   /// Returns the id of an element, which is added if it is new. `element` is its markup with "@" in place of
   /// the id.

@@ -8,27 +8,27 @@
 
 namespace plotsmith::render {
 
-/// The look of a text.
+/// The format of a text.
 struct TextStyle {
   Font font;
   Color color;
-  std::optional<double> rotation;  ///< degrees clockwise; nothing if Excel decides
-  bool stacked = false;            ///< letters are below each other
+  std::optional<double> rotation;  ///< The rotation in degrees clockwise; absent if it is automatic.
+  bool stacked = false;            ///< Whether letters are below each other.
 };
 
-/// A part of a text in one look.
+/// A part of a text in one format.
 struct TextRun {
-  std::string text;  ///< UTF-8, without line feeds
+  std::string text;  ///< The text in UTF-8, without line feeds.
   Font font;
   Color color;
 };
 /// A text of paragraphs, which consist of runs.
 struct RichText {
   std::vector<std::vector<TextRun>> paragraphs;
-  std::optional<double> rotation;  ///< degrees clockwise; nothing if Excel decides
-  bool stacked = false;            ///< letters are below each other
+  std::optional<double> rotation;  ///< The rotation in degrees clockwise; absent if it is automatic.
+  bool stacked = false;            ///< Whether letters are below each other.
 
-  /// Returns whether no run has a text.
+  /// Returns true if no run has a text.
   bool IsEmpty() const;
 };
 

@@ -16,23 +16,24 @@ inline constexpr double kUnlimited = std::numeric_limits<double>::infinity();
 /// A line of a text block. Sizes are in points.
 struct TextLine {
   std::vector<TextRun> runs;
-  std::vector<double> widths;  ///< widths of the runs
+  std::vector<double> widths;  ///< The widths of the runs.
   double width = 0, ascent = 0, descent = 0;
 
+  /// The height of the line.
   double Height() const { return ascent + descent; }
 };
 
-/// A text that is broken into lines. It is turned about its centre.
+/// A text that is broken into lines. It is rotated about its centre.
 struct TextBlock {
   std::vector<TextLine> lines;
-  double width = 0, height = 0;  ///< points, before it is turned
-  double rotation = 0;           ///< degrees clockwise
+  double width = 0, height = 0;  ///< The size in points before the rotation.
+  double rotation = 0;           ///< The rotation in degrees clockwise.
 
-  /// The width of the smallest upright rectangle around the turned block, in points.
+  /// The width of the smallest upright rectangle around the rotated block, in points.
   double TurnedWidth() const;
-  /// The height of that rectangle, in points.
+  /// The height of the smallest upright rectangle around the rotated block, in points.
   double TurnedHeight() const;
-  /// Returns whether the block has no line.
+  /// Returns true if the block has no line.
   bool IsEmpty() const { return lines.empty(); }
 };
 

@@ -21,15 +21,15 @@ std::vector<std::pair<Border, Border>> BordersOf(const Stage& stage) {
   const GroupModel& group = stage.Group();
   const Extents extents = StackValues(group);
   const std::size_t count = stage.CategoryCount();
-  Border pile(count, stage.Value(group.IsStacked() ? 0 : stage.Base()));
+  Border stack(count, stage.Value(group.IsStacked() ? 0 : stage.Base()));
   std::vector<std::pair<Border, Border>> borders;
   for (const std::vector<double>& values : extents.to) {
-    Border above = pile;
+    Border above = stack;
     for (std::size_t i = 0; i < values.size(); ++i) {
       if (std::isfinite(values[i])) above[i] = stage.Value(values[i]);
     }
-    borders.emplace_back(pile, above);
-    if (group.IsStacked()) pile = std::move(above);
+    borders.emplace_back(stack, above);
+    if (group.IsStacked()) stack = std::move(above);
   }
   return borders;
 }
@@ -79,30 +79,30 @@ class AreaPainter {
 
   void Paint() {
     if (stage_.Group().IsStacked()) {
-      std::vector<std::size_t> pile(borders_.size());
-      std::iota(pile.begin(), pile.end(), 0);
-      return PaintPile(pile);
+      std::vector<std::size_t> stack(borders_.size());
+      std::iota(stack.begin(), stack.end(), 0);
+      return PaintStack(stack);
     }
-    for (const std::size_t series : SeriesBackToFront(stage_, eye_.z)) PaintPile({series});
+    for (const std::size_t series : SeriesBackToFront(stage_, eye_.z)) PaintStack({series});
   }
 
  private:
   /// Paints stacked areas: their strips, their ends, and then their fronts, which are in one plane before all
   /// others.
-  void PaintPile(const std::vector<std::size_t>& pile) {
+  void PaintStack(const std::vector<std::size_t>& stack) {
     for (const std::size_t stretch : stretches_) {
       const auto seen = [&](std::size_t series) {
         const auto& [below, above] = borders_[series];
         return above[stretch] != below[stretch] || above[stretch + 1] != below[stretch + 1];
       };
-      const auto lowest = std::find_if(pile.begin(), pile.end(), seen);
-      const auto highest = std::find_if(pile.rbegin(), pile.rend(), seen);
-      if (lowest != pile.end()) PaintStretch(stretch, *lowest, *highest);
+      const auto lowest = std::find_if(stack.begin(), stack.end(), seen);
+      const auto highest = std::find_if(stack.rbegin(), stack.rend(), seen);
+      if (lowest != stack.end()) PaintStretch(stretch, *lowest, *highest);
     }
     for (const std::size_t category : {std::size_t{0}, stage_.CategoryCount() - 1}) {
-      for (const std::size_t series : pile) PaintEnd(series, category);
+      for (const std::size_t series : stack) PaintEnd(series, category);
     }
-    for (const std::size_t series : pile) PaintFront(series);
+    for (const std::size_t series : stack) PaintFront(series);
   }
 
   /// Paints the lower and the upper strip between two categories. If the borders cross, the strips are

@@ -92,7 +92,7 @@ BarSpace SpaceOf(const Stage& stage, const Projection& projection, const Standin
   BarSpace space;
   space.from = stage.At(projection, bar.across.from, least, bar.depth.from);
   space.to = stage.At(projection, bar.across.to, most, bar.depth.to);
-  space.alongX = stage.Lying();
+  space.alongX = stage.IsHorizontal();
   space.backwards = bar.negative;
   return space;
 }

@@ -30,7 +30,7 @@ struct Slice {
 };
 
 std::vector<Slice> SlicesOf(const SeriesModel& series, double firstAngle) {
-  // values are taken as shares of the greatest, as their sum may be no number
+  // Values are shares of the greatest one, because their sum may be infinite.
   double most = 0, whole = 0;
   for (const double value : series.values) most = std::max(most, std::isfinite(value) ? std::abs(value) : 0);
   for (const double value : series.values)
@@ -224,7 +224,7 @@ void DrawPie3D(xlsx::ChartPart& part, Plot& plot, const GroupModel& group) {
     adder.AddRim(slice);
     if (explosion > 0) adder.AddCuts(slice);
   }
-  // Walls don't cover upper sides, as they are below them.
+  // Walls don't cover upper sides, because they are below them.
   DrawWalls(plot.canvas, walls);
   for (const Slice& slice : slices) {
     const ShapeStyle& style = series.StyleOf(slice.point);

@@ -52,7 +52,7 @@ Projection FitWithLabels(const Stage& stage, const StageAxes& axes, const View& 
 bool DrawPlot3D(xlsx::ChartPart& part, Plot& plot, const Rect& outer) {
   const GroupModel* group = FindGroup(plot.chart);
   if (group == nullptr) return false;
-  if (plot.chart.groups.size() > 1) plot.canvas.Note("Only the first group of a chart in 3-D is drawn.");
+  if (plot.chart.groups.size() > 1) plot.canvas.Note("Only the first plot group of a chart in 3-D is drawn.");
   if (group->family == Family::kPie) {
     DrawPie3D(part, plot, *group);
     return true;

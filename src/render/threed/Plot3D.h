@@ -8,7 +8,7 @@ class ChartPart;
 
 namespace plotsmith::render {
 
-/// Draws the plot of a chart in 3-D: walls, axes with their labels, and bodies. `outer` is the room for all
+/// Draws the plot of a chart in 3-D: walls, axes with their labels, and bodies. `outer` is the space for all
 /// of them. Returns false, and draws nothing, if the chart has no group in 3-D that can be drawn.
 bool DrawPlot3D(xlsx::ChartPart& part, Plot& plot, const Rect& outer);
 

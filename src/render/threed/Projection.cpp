@@ -30,7 +30,7 @@ Projection::Projection(const View& view, const BoxShape& shape, const Rect& room
   if (view.heightPercent) {
     SetShape(shape, *view.heightPercent / 100);
   } else if (oblique_) {
-    FillRoom(shape, room);
+    FillSpace(shape, room);
   } else {
     FindShape(shape, room);
   }
@@ -44,7 +44,7 @@ void Projection::SetShape(const BoxShape& shape, double heightOfWidth) {
 }
 
 /// Makes the front as large as possible. The depth goes sideways and up from it.
-void Projection::FillRoom(const BoxShape& shape, const Rect& room) {
+void Projection::FillSpace(const BoxShape& shape, const Rect& room) {
   const double aside = std::abs(sinRotation_), up = std::abs(sinElevation_);
   const double width = std::max(room.width, 1e-3), height = std::max(room.height, 1e-3);
   if (shape.lying) {

@@ -9,17 +9,18 @@
 
 namespace plotsmith::render {
 
-/// How a body looks, and what it shows. The foremost face has the role of the tag; the others have kSide.
+/// The format of a body and the element that it shows. The front face has the role of the tag; the other
+/// faces have kSide.
 struct Look {
   Tag tag;
   Fill fill;
   Stroke stroke;
 };
 
-/// The corners of a plane face. Seen from outside, they go counter-clockwise.
+/// The corners of a plane face. Seen from outside, they are in counter-clockwise order.
 using Face = std::vector<Point3>;
 
-/// Paints the visible faces of a convex body, each lit by its direction.
+/// Paints the visible faces of a convex body. The brightness of a face depends on its direction.
 void AddFaces(Canvas& canvas, const Projection& projection, const std::vector<Face>& faces, const Look& look);
 
 /// Paints a face that is visible from both sides.
@@ -30,22 +31,26 @@ std::vector<Face> BlockFaces(const Point3& from, const Point3& to);
 
 /// The form of bars in 3-D (ST_Shape).
 enum class BarForm : std::uint8_t { kBox, kCylinder, kCone, kPyramid };
-/// The form of bars, and where its tip is.
+/// The form of bars, and the position of the tip.
 struct BarShape {
   BarForm form = BarForm::kBox;
-  /// The tip is at the greatest value of the chart, and the form is cut off at the bar's own value
+  /// Whether the tip is at the greatest value of the chart, and the form is cut off at the value of the bar
   /// ("coneToMax").
   bool toGreatest = false;
 };
-/// Returns the form of a name of ST_Shape. Unknown names are boxes.
+/// Returns the form for a value of ST_Shape. It is a box for an unknown value.
 BarShape ReadBarShape(std::string_view name);
 
 /// The space of a bar.
 struct BarSpace {
-  Point3 from, to;                     ///< opposite corners; `from` has the lower coordinates
-  bool alongX = false;                 ///< the bar is horizontal
-  bool backwards = false;              ///< the value is below the base
-  double baseWidth = 1, endWidth = 1;  ///< shares of the width of the space
+  /// Two opposite corners. `from` has the lower coordinates.
+  Point3 from, to;
+  /// Whether the bar is horizontal.
+  bool alongX = false;
+  /// Whether the value is below the base.
+  bool backwards = false;
+  /// The widths of the bar at its base and at its end, as shares of the width of the space.
+  double baseWidth = 1, endWidth = 1;
 };
 /// Paints a bar of a form.
 void AddBar(Canvas& canvas, const Projection& projection, const BarSpace& space, BarForm form,

@@ -47,10 +47,10 @@ BoxShape Stage::Shape(const View& view) const {
   const double slots = byDay ? std::max(Categories().dates->count, 1.0) : static_cast<double>(categories_);
   const double bar = BarShare() / slots;
   const double depth = static_cast<double>(DepthSlots()) * bar * (1 + gapDepth_) * view.depthPercent / 100;
-  return {std::clamp(depth, kLeastDepth, kMostDepth), Lying()};
+  return {std::clamp(depth, kLeastDepth, kMostDepth), IsHorizontal()};
 }
 
-bool Stage::StandsOnTicks() const {
+bool Stage::PointsAreOnTicks() const {
   if (group_.family == Family::kSurface) return categories_ > 1;
   return group_.family != Family::kBar && !Categories().crossesBetween && categories_ > 1;
 }
@@ -63,7 +63,7 @@ Span Stage::Category(std::size_t index) const {
   }
   const double count = static_cast<double>(categories_);
   Span span{static_cast<double>(index) / count, static_cast<double>(index + 1) / count};
-  if (StandsOnTicks()) {
+  if (PointsAreOnTicks()) {
     const double step = 1 / (count - 1);
     span = {(static_cast<double>(index) - 0.5) * step, (static_cast<double>(index) + 0.5) * step};
   }
@@ -99,14 +99,14 @@ double Stage::Value(double value) const {
 double Stage::Base() const { return CrossingValue(Values(), Categories()); }
 
 Point3 Stage::At(const Projection& projection, double category, double value, double depth) const {
-  return Lying() ? projection.Place(value, category, depth) : projection.Place(category, value, depth);
+  return IsHorizontal() ? projection.Place(value, category, depth) : projection.Place(category, value, depth);
 }
 
 Point3 Stage::EyeShares(const Projection& projection) const {
   const Point3 eye = projection.Eye();
   const Box& box = projection.Extent();
   Point3 shares{eye.x / box.width, eye.y / box.height, eye.z / box.depth};
-  if (Lying()) std::swap(shares.x, shares.y);
+  if (IsHorizontal()) std::swap(shares.x, shares.y);
   return shares;
 }
 

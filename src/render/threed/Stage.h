@@ -7,56 +7,57 @@
 
 namespace plotsmith::render {
 
-/// A part of an axis, in shares from 0 at its beginning to 1 at its end.
+/// A part of an axis, in shares from 0 (beginning) to 1 (end).
 struct Span {
   double from = 0, to = 1;
 
+  /// The middle of the part.
   double Middle() const { return (from + to) / 2; }
 };
 
-/// The axes of a chart in 3-D, and the places of its categories, series and values along them. Places are
-/// shares of an axis. The category axis goes to the right, or up for horizontal bars; the value axis goes up,
-/// or to the right; the depth goes to the back.
+/// The axes of a chart in 3-D, and the positions of its categories, series and values along them. Positions
+/// are shares of the length of an axis. The category axis goes to the right, or up for horizontal bars; the
+/// value axis goes up, or to the right; the depth goes to the back.
 class Stage {
  public:
-  /// The group must be in 3-D, with an axis of categories and one of values. Chart and group must outlive the
-  /// stage.
+  /// Makes the axes of a group. The group must be in 3-D and have a category axis and a value axis. `chart`
+  /// and `group` must outlive this object.
   Stage(const ChartModel& chart, const GroupModel& group);
 
   /// The group that is drawn.
   const GroupModel& Group() const { return group_; }
-  /// Returns whether a missing value counts as zero, which has a body without a height.
+  /// Returns true if a missing value counts as zero, which has a body without a height.
   bool BlanksAreZero() const { return chart_.blanks == "zero"; }
-  /// The axis of categories.
+  /// The category axis.
   const AxisModel& Categories() const { return chart_.axes[static_cast<std::size_t>(group_.category)]; }
-  /// The axis of values.
+  /// The value axis.
   const AxisModel& Values() const { return chart_.axes[static_cast<std::size_t>(group_.value)]; }
-  /// The axis of series; null if all series are at the same depth.
+  /// The series axis; null if all series are at the same depth.
   const AxisModel* Series() const;
-  /// Returns whether bars are horizontal.
-  bool Lying() const { return group_.horizontal; }
-  /// Returns how deep the box is in a view.
+  /// Returns true if bars are horizontal.
+  bool IsHorizontal() const { return group_.horizontal; }
+  /// Returns the proportions of the box in a view.
   BoxShape Shape(const View& view) const;
 
   /// The number of categories, at least one.
   std::size_t CategoryCount() const { return categories_; }
-  /// Returns whether the first and the last category are at the edges of the box.
-  bool StandsOnTicks() const;
-  /// Returns the room of a category, which counts from 0.
+  /// Returns true if the first and the last category are at the edges of the box.
+  bool PointsAreOnTicks() const;
+  /// Returns the space of a category by its index, from 0.
   Span Category(std::size_t index) const;
-  /// Returns the room of the bar of a series in a category. Both count from 0.
+  /// Returns the space for the bar of a series in a category. Both indices count from 0.
   Span Bar(std::size_t category, std::size_t series) const;
-  /// Returns the room of a series in the depth. All series of a stacked group share the same room.
+  /// Returns the space of a series in the depth. All series of a stacked group have the same space.
   Span Depth(std::size_t series) const;
-  /// Returns the place of a value. Values beyond the axis are at its ends.
+  /// Returns the position of a value. Values beyond the axis are at its ends.
   double Value(double value) const;
-  /// Returns the place where bars and areas begin.
+  /// Returns the position at which bars and areas begin.
   double Base() const;
 
-  /// Returns a place in the box of a projection.
+  /// Returns a position in the box of a projection.
   Point3 At(const Projection& projection, double category, double value, double depth) const;
-  /// Returns the place of the viewer with the axes of the stage: x along the category axis, y along the value
-  /// axis, z along the depth.
+  /// Returns the position of the viewer along the axes of the stage: X along the category axis, Y along the
+  /// value axis, Z along the depth.
   Point3 EyeShares(const Projection& projection) const;
 
  private:
@@ -68,7 +69,7 @@ class Stage {
   const ChartModel& chart_;
   const GroupModel& group_;
   std::size_t categories_ = 1;
-  double gapDepth_ = 1.5;  ///< gap between series in the depth, as a share of the depth of a bar
+  double gapDepth_ = 1.5;  ///< The gap between series in the depth, as a share of the depth of a bar.
 };
 
 }  // namespace plotsmith::render

@@ -56,7 +56,7 @@ StageAxes::Ruler StageAxes::ReadCategories() const {
     const Span room = stage_.Category(i);
     const std::string text = i < texts.size() ? texts[i] : std::to_string(i + 1);
     ruler.labels.push_back({text, room.Middle(), static_cast<int>(i) + 1});
-    if (stage_.StandsOnTicks()) {
+    if (stage_.PointsAreOnTicks()) {
       ruler.ticks.push_back(room.Middle());
       continue;
     }
@@ -143,8 +143,8 @@ StageAxes::Beside StageAxes::SideOf(const Projection& projection, const BoxEdge&
 
 std::vector<StageAxes::PlacedRuler> StageAxes::Place(const Projection& projection) const {
   const BoxEdge upright = UprightEdge(projection), lower = LowerEdge(projection);
-  std::vector<PlacedRuler> placed = {{&values_, stage_.Lying() ? lower : upright},
-                                     {&categories_, stage_.Lying() ? upright : lower}};
+  std::vector<PlacedRuler> placed = {{&values_, stage_.IsHorizontal() ? lower : upright},
+                                     {&categories_, stage_.IsHorizontal() ? upright : lower}};
   if (series_.axis != nullptr) placed.push_back({&series_, SeriesEdge(projection)});
   // an edge that one looks along shows nothing of its axis
   std::erase_if(placed, [&](const PlacedRuler& one) {
@@ -221,7 +221,7 @@ Rect StageAxes::PlacedGroup::Bounds() const {
 }
 
 /// The way from an edge of the box to its labels.
-Point StageAxes::WayOf(Beside beside) {
+Point StageAxes::DirectionOf(Beside beside) {
   if (beside == Beside::kBelow) return {0, 1};
   return {beside == Beside::kLeft ? -1.0 : 1.0, 0};
 }
@@ -233,7 +233,7 @@ StageAxes::PlacedGroup StageAxes::PlaceGroup(const PlacedRuler& placed, const Ca
   };
   const Span first = stage_.Category(group.first), last = stage_.Category(group.end - 1);
   const Point a = at(std::min(first.from, last.from)), b = at(std::max(first.to, last.to));
-  const Point way = WayOf(placed.edge.beside);
+  const Point way = DirectionOf(placed.edge.beside);
   const bool below = placed.edge.beside == Beside::kBelow;
   TextStyle style = placed.ruler->axis->text;
   style.rotation = below ? 0 : -90;
@@ -246,7 +246,7 @@ StageAxes::PlacedGroup StageAxes::PlaceGroup(const PlacedRuler& placed, const Ca
   result.center = {(a.x + b.x) / 2 + way.x * middle, (a.y + b.y) / 2 + way.y * middle};
   const auto addLine = [&](Point edge, bool isEndOfAxis) {
     // where the axis ends on a category, a line would go through its label
-    if (isEndOfAxis && stage_.StandsOnTicks()) return;
+    if (isEndOfAxis && stage_.PointsAreOnTicks()) return;
     result.lines.push_back({edge, {edge.x + way.x * end, edge.y + way.y * end}});
   };
   addLine(a, std::min(first.from, last.from) <= 0);

@@ -13,7 +13,7 @@ namespace plotsmith::render {
 /// The axes of a chart in 3-D with their labels. They are drawn along edges of the box.
 class StageAxes {
  public:
-  /// The stage and the measure must outlive the object.
+  /// Lays out the axes. `stage` and `measure` must outlive this object.
   StageAxes(const Stage& stage, const TextMeasure& measure, xlsx::DateSystem dates);
 
   /// Returns the rectangle around the box and all labels on the picture.
@@ -24,14 +24,14 @@ class StageAxes {
  private:
   struct Label {
     std::string text;
-    double share = 0;  ///< place on the axis, from 0 to 1
-    int number = 0;    ///< of the tick, from 1
+    double share = 0;  ///< The position on the axis, from 0 to 1.
+    int number = 0;    ///< The number of the tick, from 1.
   };
-  /// What is along an axis.
+  /// The labels and ticks of an axis.
   struct Ruler {
     const AxisModel* axis = nullptr;
     std::vector<Label> labels;
-    std::vector<double> ticks;  ///< shares
+    std::vector<double> ticks;  ///< The positions of the ticks, from 0 to 1.
   };
   /// The side of an axis on which its labels are.
   enum class Beside { kLeft, kBelow, kRight };
@@ -58,7 +58,7 @@ class StageAxes {
     BoxEdge edge;
   };
   std::vector<PlacedRuler> Place(const Projection& projection) const;
-  /// A label with its place.
+  /// A label with its position.
   struct PlacedLabel {
     const Label* label;
     TextBlock block;
@@ -70,11 +70,11 @@ class StageAxes {
   std::vector<PlacedLabel> LabelsOf(const PlacedRuler& placed, const Projection& projection) const;
   PlacedLabel PlaceLabel(const PlacedRuler& placed, const Label& label, TextBlock block,
                          const Projection& projection) const;
-  /// A text of an outer level of categories, and the line that parts it from its neighbour.
+  /// A text of an outer level of categories, and the line between it and the next text.
   struct PlacedGroup {
     TextBlock block;
     Point center;
-    int number = 0;  ///< of its first category
+    int number = 0;  ///< The number of its first category, from 1.
     std::vector<std::pair<Point, Point>> lines;
 
     Rect Bounds() const;
@@ -82,7 +82,7 @@ class StageAxes {
   /// The outer levels of categories, outside of the labels of an axis.
   std::vector<PlacedGroup> GroupsOf(const PlacedRuler& placed, const std::vector<PlacedLabel>& labels,
                                     const Projection& projection) const;
-  static Point WayOf(Beside beside);
+  static Point DirectionOf(Beside beside);
   PlacedGroup PlaceGroup(const PlacedRuler& placed, const CategoryGroup& group, double distance,
                          const Projection& projection) const;
   void DrawRuler(Canvas& canvas, const PlacedRuler& placed, const Projection& projection) const;

@@ -65,7 +65,7 @@ class SurfacePainter {
 
   void Paint() {
     if (columns_.size() < 2 || rows_.size() < 2) {
-      return plot_.canvas.Note("A surface isn't drawn, as it takes two series and two categories.");
+      return plot_.canvas.Note("A surface isn't drawn because it needs two series and two categories.");
     }
     if (stage_.Group().wireframe) return PaintWires();
     if (isFlat_) return PaintContours();
@@ -98,7 +98,7 @@ class SurfacePainter {
     };
     while (cells() > most) (rows / rowStep > columns / columnStep ? rowStep : columnStep) += 1;
     if (rowStep * columnStep > 1) {
-      plot_.canvas.Note("The surface has more points than are drawn; of each few neighbours, one is.");
+      plot_.canvas.Note("The surface has more points than are drawn; some points are left out.");
     }
     for (std::size_t i = 0; i < rows; i += rowStep) rows_.push_back({i, stage_.Depth(i).Middle()});
     for (std::size_t i = 0; i < columns; i += columnStep) {

@@ -6,11 +6,11 @@
 
 namespace plotsmith::render {
 
-/// The view of a contour chart, which one looks at from above.
+/// The view of a contour chart, which is seen from above.
 View ContourView();
 
-/// Draws a surface through all values in the colours of its bands, or its lines alone where the group says
-/// so. A contour chart is one that is seen from above, without light.
+/// Draws a surface through all values in the colours of its bands, or only its lines if the group is a
+/// wireframe. A contour chart is a surface that is seen from above, without light.
 void DrawSurface(Plot& plot, const Stage& stage, const Projection& projection);
 
 }  // namespace plotsmith::render

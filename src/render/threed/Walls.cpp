@@ -62,7 +62,8 @@ class Gridlines {
     for (std::size_t i = 0; i <= count; ++i) {
       const double place = i < count ? stage_.Category(i).from : stage_.Category(count - 1).to;
       if (place < 0 || place > 1) continue;
-      Draw(Role::kGridline, axis, static_cast<int>(i) + 1, !stage_.Lying(), place, *axis.majorGridlines);
+      Draw(Role::kGridline, axis, static_cast<int>(i) + 1, !stage_.IsHorizontal(), place,
+           *axis.majorGridlines);
     }
   }
   void OfSeries(const AxisModel& axis) {
@@ -77,7 +78,7 @@ class Gridlines {
 
  private:
   void Across(Role role, const AxisModel& axis, int number, double value, const Stroke& stroke) {
-    Draw(role, axis, number, stage_.Lying(), stage_.Value(value), stroke);
+    Draw(role, axis, number, stage_.IsHorizontal(), stage_.Value(value), stroke);
   }
   /// Draws a line. At a share of x, it goes over the floor and up the back wall; at a share of y, over two
   /// walls.
@@ -120,11 +121,11 @@ void DrawWalls(Canvas& canvas, const Stage& stage, const Projection& projection,
                xlsx::DateSystem dates) {
   const FarSides far = FarSidesOf(projection);
   // The base of horizontal bars is the side wall, which has the look of the floor.
-  const ShapeStyle& ground = stage.Lying() ? styles.side : styles.floor;
-  const ShapeStyle& side = stage.Lying() ? styles.floor : styles.side;
-  DrawPlane(canvas, projection, stage.Lying() ? Role::kWall : Role::kFloor,
+  const ShapeStyle& ground = stage.IsHorizontal() ? styles.side : styles.floor;
+  const ShapeStyle& side = stage.IsHorizontal() ? styles.floor : styles.side;
+  DrawPlane(canvas, projection, stage.IsHorizontal() ? Role::kWall : Role::kFloor,
             {{0, 0, 0}, {1, 0, 0}, {1, 0, 1}, {0, 0, 1}}, ground);
-  DrawPlane(canvas, projection, stage.Lying() ? Role::kFloor : Role::kWall,
+  DrawPlane(canvas, projection, stage.IsHorizontal() ? Role::kFloor : Role::kWall,
             {{far.x, 0, 0}, {far.x, 1, 0}, {far.x, 1, 1}, {far.x, 0, 1}}, side);
   DrawPlane(canvas, projection, Role::kWall, {{0, 0, far.z}, {1, 0, far.z}, {1, 1, far.z}, {0, 1, far.z}},
             styles.back);

@@ -9,11 +9,11 @@ class ChartPart;
 
 namespace plotsmith::render {
 
-/// How the walls and the floor of a chart in 3-D look.
+/// The formats of the walls and the floor of a chart in 3-D.
 struct WallStyles {
   ShapeStyle floor, side, back;
 };
-/// Reads the looks of the walls and the floor.
+/// Reads the formats of the walls and the floor.
 WallStyles ReadWalls(xlsx::ChartPart& part);
 
 /// The sides of the box that are behind its contents: 0 or 1 on the axes x and z.

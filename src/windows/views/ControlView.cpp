@@ -27,10 +27,10 @@ ControlView::ControlView(forms::Control& model, const Stage& stage, const Window
 
 // The form's window destroys this window, unless it was destroyed before.
 ControlView::~ControlView() {
-  if (window_ != nullptr) LetGo();
+  if (window_ != nullptr) DetachWindow();
 }
 
-void ControlView::LetGo() {
+void ControlView::DetachWindow() {
   const HWND window = std::exchange(window_, nullptr);
   stage_.annotations.Clear(window);
   RemoveWindowName(window);
@@ -48,7 +48,7 @@ LRESULT CALLBACK ControlView::Procedure(HWND window, UINT message, WPARAM wParam
   auto* const view = reinterpret_cast<ControlView*>(data);
   try {
     if (message == WM_NCDESTROY) {
-      if (view != nullptr) view->LetGo();  // the host has destroyed the window
+      if (view != nullptr) view->DetachWindow();  // the host has destroyed the window
       RemoveSubclass(window, Procedure);
     } else if (view != nullptr) {
       return view->Handle(message, wParam, lParam);
@@ -62,7 +62,7 @@ LRESULT CALLBACK ControlView::Procedure(HWND window, UINT message, WPARAM wParam
 LRESULT ControlView::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == kNews) {
     awaitsNews_ = false;
-    OnNews();
+    OnChanges();
     return 0;
   }
   if (const auto answer = OnMessage(message, wParam, lParam)) return *answer;
@@ -90,12 +90,12 @@ void ControlView::ReportFocus() {
   stage_.post([this] { model_.UserFocus(); });
 }
 
-void ControlView::AwaitNews() {
+void ControlView::AwaitChanges() {
   if (isShowing_ || std::exchange(awaitsNews_, true)) return;
   PostMessageW(window_, kNews, 0, 0);
 }
 
-void ControlView::ForgetGestures() {
+void ControlView::DiscardGestures() {
   waiting_ = 0;
   touched_ = true;
 }

@@ -51,7 +51,7 @@ class ControlView {
   /// window.
   void Update();
   /// Drops the gestures that were reported but not yet performed.
-  void ForgetGestures();
+  void DiscardGestures();
   /// Uses these fonts from now on; they must outlive the view.
   void UseFonts(Fonts& fonts);
   /// Begins a group with this control, so that arrow keys don't reach it from the control before.
@@ -101,11 +101,11 @@ class ControlView {
   void Report(std::function<void()> gesture);
   /// Reports that the user has moved the focus here.
   void ReportFocus();
-  /// Lets OnNews be called once, after the messages that are waiting now. Windows reports one change with
+  /// Lets OnChanges be called once, after the messages that are waiting now. Windows reports one change with
   /// several messages.
-  void AwaitNews();
-  /// Is called after AwaitNews, when the messages were handled.
-  virtual void OnNews() {}
+  void AwaitChanges();
+  /// Is called after AwaitChanges, when the messages were handled.
+  virtual void OnChanges() {}
   /// Notes that user input has changed the window, which may differ from the model now.
   void Touch() { touched_ = true; }
   /// Returns true while the window is getting the focus.
@@ -130,7 +130,7 @@ class ControlView {
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                     DWORD_PTR data);
   /// Removes the view's data from the window and forgets the window.
-  void LetGo();
+  void DetachWindow();
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
   void ShowFont();
 

@@ -147,8 +147,8 @@ void FormWindow::Update() {
   }
 }
 
-void FormWindow::ComeBack() {
-  for (const auto& view : *views_) view->ForgetGestures();
+void FormWindow::BecomeFront() {
+  for (const auto& view : *views_) view->DiscardGestures();
   if (form_.Visible() && window_ != nullptr) SetActiveWindow(window_);
 }
 

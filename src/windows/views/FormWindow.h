@@ -30,7 +30,7 @@ class FormWindow {
   void Update();
   /// Activates the window again after the form in front of it has closed. Gestures that were reported before
   /// that are dropped, as the loop drops gestures of a form that isn't in front.
-  void ComeBack();
+  void BecomeFront();
   /// Handles a message as dialogs do; returns false if the message belongs to another window.
   bool TakeMessage(MSG& message);
 

@@ -45,7 +45,7 @@ void FormsView::Close(forms::Form& form) {
   std::erase_if(pending_, [&](const Gesture& gesture) { return gesture.form == &form; });
   windows_.pop_back();
   if (Front() != nullptr) {
-    Front()->ComeBack();
+    Front()->BecomeFront();
     return;
   }
   heldKeys_.reset();

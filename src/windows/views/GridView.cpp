@@ -49,7 +49,7 @@ int GridView::HeightOf(int lines) const {
 
 void GridView::Place(const forms::Area& area) {
   ControlView::Place(area);
-  ShareOutWidth();
+  SetColumnShares();
 }
 
 // One click moves the selection from some rows to others, and Windows sends a message for each row.
@@ -57,11 +57,11 @@ std::optional<LRESULT> GridView::OnNotify(NMHDR& header) {
   switch (header.code) {
     case LVN_ITEMCHANGED: {
       const auto& change = reinterpret_cast<const NMLISTVIEW&>(header);
-      if (((change.uOldState ^ change.uNewState) & LVIS_SELECTED) != 0) AwaitNews();
+      if (((change.uOldState ^ change.uNewState) & LVIS_SELECTED) != 0) AwaitChanges();
       return 0;
     }
     case LVN_ODSTATECHANGED:
-      AwaitNews();
+      AwaitChanges();
       return 0;
     case NM_DBLCLK: {
       const int row = reinterpret_cast<const NMITEMACTIVATE&>(header).iItem;
@@ -73,7 +73,7 @@ std::optional<LRESULT> GridView::OnNotify(NMHDR& header) {
   }
 }
 
-void GridView::OnNews() {
+void GridView::OnChanges() {
   Report([this, rows = Selected()] { model_.UserSelect(rows); });
 }
 
@@ -104,7 +104,7 @@ void GridView::Show() {
   ShowColumns();
   ShowCells();
   ShowSelection();
-  ShareOutWidth();
+  SetColumnShares();
 }
 
 void GridView::ShowColumns() {
@@ -165,7 +165,7 @@ void GridView::ShowSelection() {
 
 // No text is cut off as long as there is room. A page that sets no widths gets equal ones. Widths that the
 // user has set are kept, and grow with the resolution.
-void GridView::ShareOutWidth() {
+void GridView::SetColumnShares() {
   if (handDpi_ != 0) {
     const UINT before = std::exchange(handDpi_, Dpi());
     for (int column = 0; column < model_.Cols() && before != handDpi_; ++column) {

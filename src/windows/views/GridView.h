@@ -21,7 +21,7 @@ class GridView final : public ControlView {
  protected:
   void Show() override;
   std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-  void OnNews() override;
+  void OnChanges() override;
 
  private:
   /// Returns the rows of the model that are selected in the window.
@@ -29,7 +29,7 @@ class GridView final : public ControlView {
   void ShowColumns();
   void ShowCells();
   void ShowSelection();
-  void ShareOutWidth();
+  void SetColumnShares();
 
   forms::VSFlexGrid& model_;
   UINT handDpi_ = 0;  ///< the resolution at which the user has set column widths; 0 if the user has set none

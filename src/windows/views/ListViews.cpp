@@ -72,10 +72,10 @@ ComboBoxView::ComboBoxView(forms::ComboBox& model, const Stage& stage)
 }
 
 ComboBoxView::~ComboBoxView() {
-  if (edit_ != nullptr) LetGoOfEdit();
+  if (edit_ != nullptr) DetachEdit();
 }
 
-void ComboBoxView::LetGoOfEdit() {
+void ComboBoxView::DetachEdit() {
   Reader().Clear(edit_);
   ForgetSubclassData(std::exchange(edit_, nullptr), EditProcedure);
 }
@@ -86,7 +86,7 @@ LRESULT CALLBACK ComboBoxView::EditProcedure(HWND window, UINT message, WPARAM w
   auto* const view = reinterpret_cast<ComboBoxView*>(data);
   try {
     if (view != nullptr && HandleEditMessage(window, Lines::kOne, message, wParam)) return 0;
-    if (message == WM_NCDESTROY && view != nullptr) view->LetGoOfEdit();
+    if (message == WM_NCDESTROY && view != nullptr) view->DetachEdit();
   } catch (...) {
     return 0;  // memory is short
   }
@@ -120,16 +120,16 @@ void ComboBoxView::OnCommand(WORD code) {
     case CBN_SELENDCANCEL:
       isDecided_ = false;
       Touch();
-      AwaitNews();
+      AwaitChanges();
       break;
     case CBN_SELENDOK:
     case CBN_CLOSEUP:
       isDecided_ = isDecided_ || code == CBN_SELENDOK;
-      AwaitNews();
+      AwaitChanges();
       break;
     case CBN_SELCHANGE:
       isDecided_ = isDecided_ || !IsOpen();
-      AwaitNews();
+      AwaitChanges();
       break;
     default:
       break;
@@ -150,7 +150,7 @@ void ComboBoxView::ShowSpoken(const Spoken& spoken) {
   if (edit_ != nullptr) Reader().Set(edit_, spoken);  // the edit control has the focus
 }
 
-void ComboBoxView::OnNews() {
+void ComboBoxView::OnChanges() {
   if (IsOpen() || !std::exchange(isDecided_, false)) return;
   const auto entry = static_cast<std::int32_t>(Send(CB_GETCURSEL));
   if (entry >= 0) Report([this, entry] { model_.UserChoose(entry); });

@@ -24,12 +24,12 @@ class ComboBoxView final : public ControlView {
   bool IsInTheMiddle() const override;
   void ShowSpoken(const Spoken& spoken) override;
   std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-  void OnNews() override;
+  void OnChanges() override;
 
  private:
   static LRESULT CALLBACK EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                         DWORD_PTR data);
-  void LetGoOfEdit();
+  void DetachEdit();
   void ReportText();
   bool IsOpen() const { return Send(CB_GETDROPPEDSTATE) != 0; }
 

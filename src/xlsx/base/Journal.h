@@ -15,6 +15,7 @@ namespace plotsmith::xlsx {
 /// `Chart.SeriesCollection.NewSeries`. Without a sink, no lines are made.
 class Journal {
  public:
+  /// A function that gets the lines of the journal.
   using Sink = std::function<void(std::string_view line)>;
 
   /// Passes each further line to `sink`; an empty function stops this.

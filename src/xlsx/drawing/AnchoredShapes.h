@@ -61,10 +61,10 @@ class AnchoredShapes {
   /// Removes relationships of the drawing's part from the package.
   virtual void RemoveRelationships(const std::set<std::string>& ids) = 0;
 
-  std::string part_;  ///< empty while there is none
-  pugi::xml_document document_;
-  std::vector<std::shared_ptr<Shape>> shapes_;
-  bool changed_ = false;
+  std::string part_;                            ///< The name of the part; empty if there is none yet.
+  pugi::xml_document document_;                 ///< The contents of the part.
+  std::vector<std::shared_ptr<Shape>> shapes_;  ///< The shapes from back to front.
+  bool changed_ = false;                        ///< Whether the part must be written.
 };
 
 }  // namespace plotsmith::xlsx

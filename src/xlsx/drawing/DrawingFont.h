@@ -14,10 +14,10 @@ class Journal;
 
 /// The format of a piece of text.
 struct TextLook {
-  std::string typeface;
-  double points = 0;  ///< the size
+  std::string typeface;  ///< The name of the font.
+  double points = 0;     ///< The size in points.
   bool bold = false, italic = false;
-  std::int32_t color = 0;  ///< red + 256 * green + 65536 * blue
+  std::int32_t color = 0;  ///< Red + 256 * green + 65536 * blue.
   bool underline = false;
 
   bool operator==(const TextLook&) const = default;

@@ -9,8 +9,9 @@ namespace plotsmith::xlsx {
 extern const Enumeration kAutoShapes;
 /// MsoAutoSize, and the element of bodyPr for each member.
 extern const Enumeration kAutoSizes;
-/// XlHAlign, ST_TextAlignType, and XlVAlign, ST_TextAnchoringType.
+/// XlHAlign, ST_TextAlignType.
 extern const Enumeration kHorizontalAlignments;
+/// XlVAlign, ST_TextAnchoringType.
 extern const Enumeration kVerticalAlignments;
 
 }  // namespace plotsmith::xlsx

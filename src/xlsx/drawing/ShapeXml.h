@@ -19,6 +19,7 @@ struct Frame {
   double Bottom() const { return top + height; }
 };
 
+/// The number of English Metric Units in a point.
 inline constexpr double kEmuPerPoint = 12700;
 /// Converts points to whole EMU.
 long long Emu(double points);

@@ -297,7 +297,7 @@ std::optional<Moment> MomentOf(const Section& section, double magnitude, DateSys
 
 }  // namespace
 
-bool SettleDate(Section& section) {
+bool ResolveDate(Section& section) {
   section.kind = Section::Kind::kDate;
   FindMinutes(section);
   std::vector<Token> settled;

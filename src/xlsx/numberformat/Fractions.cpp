@@ -142,7 +142,7 @@ std::size_t FindFractionSlash(const std::vector<Token>& tokens) {
   return tokens.size();
 }
 
-bool SettleFraction(Section& section, std::size_t slash) {
+bool ResolveFraction(Section& section, std::size_t slash) {
   auto& tokens = section.tokens;
   const std::size_t denominatorEnd = SettleDenominator(section, slash + 1);
   if (denominatorEnd == 0) return false;

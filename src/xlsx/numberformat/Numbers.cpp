@@ -80,7 +80,7 @@ bool SettlePoint(Token& token, Kind& part) {
 }
 
 /// Settles the tokens of a plain or a scientific number.
-bool SettlePlainNumber(Section& section) {
+bool ResolvePlainNumber(Section& section) {
   auto& tokens = section.tokens;
   const auto lastDigit = LastDigitOfMantissa(tokens);
   if (!lastDigit) return false;
@@ -130,9 +130,9 @@ bool SettlePlainNumber(Section& section) {
 
 }  // namespace
 
-bool SettleNumber(Section& section) {
+bool ResolveNumber(Section& section) {
   const std::size_t slash = FindFractionSlash(section.tokens);
-  return slash < section.tokens.size() ? SettleFraction(section, slash) : SettlePlainNumber(section);
+  return slash < section.tokens.size() ? ResolveFraction(section, slash) : ResolvePlainNumber(section);
 }
 
 void AppendGeneral(std::string& out, double value) {

@@ -349,8 +349,8 @@ bool Reader::SettleSection() {
     hasPercent |= token.kind == Kind::kPercent;
     hasDate |= token.kind >= Kind::kYear && token.kind <= Kind::kBuddhistYear;
   }
-  if (hasDate) return !hasGeneral && !hasText && SettleDate(section);
-  if (hasDigit_) return !hasGeneral && !hasText && SettleNumber(section);
+  if (hasDate) return !hasGeneral && !hasText && ResolveDate(section);
+  if (hasDigit_) return !hasGeneral && !hasText && ResolveNumber(section);
   if (hasGeneral && (hasText || hasPercent)) return false;
   section.kind = hasGeneral ? Section::Kind::kGeneral
                  : hasText  ? Section::Kind::kText

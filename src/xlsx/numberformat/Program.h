@@ -48,10 +48,10 @@ struct Token {
     kPercent,
   };
 
-  Kind kind = Kind::kLiteral;
-  char symbol = 0;
-  std::uint32_t begin = 0;  // of the text
-  std::uint32_t size = 0;
+  Kind kind = Kind::kLiteral;  ///< The meaning.
+  char symbol = 0;             ///< The character of a placeholder; see Kind.
+  std::uint32_t begin = 0;     ///< The position of the text in Section::texts.
+  std::uint32_t size = 0;      ///< The length of the text in bytes.
 };
 
 /// A condition in brackets, such as [>=100].
@@ -59,8 +59,8 @@ struct Condition {
   /// The comparison of the value with the limit.
   enum class Operator : std::uint8_t { kLess, kLessEqual, kEqual, kNotEqual, kGreaterEqual, kGreater };
 
-  Operator op = Operator::kEqual;
-  double limit = 0;
+  Operator op = Operator::kEqual;  ///< The comparison.
+  double limit = 0;                ///< The number in the brackets.
 
   /// Returns true if the value meets the condition.
   bool Holds(double value) const;
@@ -75,34 +75,56 @@ struct Section {
   enum class Kind : std::uint8_t { kLiteral, kGeneral, kText, kNumber, kScientific, kFraction, kDate };
 
   Kind kind = Kind::kLiteral;
+  /// The condition in brackets. It is absent if the section has none.
   std::optional<Condition> condition;
-  bool onlyNegative = false;     // only negative numbers use the section, so the minus sign is left out
-  bool hidesSignOfZero = false;  // a number whose shown digits are all zeros has no minus sign
+  /// Whether only negative numbers use the section, so that the minus sign is left out.
+  bool onlyNegative = false;
+  /// Whether a number whose displayed digits are all zeros has no minus sign.
+  bool hidesSignOfZero = false;
   std::vector<Token> tokens;
-  std::string texts;  // the texts of the tokens
+  /// The texts of all tokens, one after the other.
+  std::string texts;
 
-  // Numbers.
-  int scale = 0;  // the power of ten of percent signs and trailing commas
+  /// @name Numbers
+  ///@{
+  /// The power of ten of percent signs and trailing commas.
+  int scale = 0;
+  /// The numbers of digit placeholders in the integer part, after the decimal point and in the exponent.
   int integers = 0;
   int decimals = 0;
   int exponents = 0;
+  /// Whether the integer part has thousands separators.
   bool grouping = false;
+  ///@}
 
-  // Fractions.
+  /// @name Fractions
+  ///@{
+  /// Whether the integer part is written before the fraction.
   bool hasIntegerPart = false;
+  /// The numbers of digit placeholders in the numerator and in the denominator.
   int numerators = 0;
   int denominators = 0;
-  std::int64_t fixedDenominator = 0;  // 0: the best denominator with that number of digits
-  std::size_t fractionBegin = 0;      // the tokens that are blank for a whole number
+  /// The denominator that the format gives. 0 is the best denominator with that number of digits.
+  std::int64_t fixedDenominator = 0;
+  /// The first token that is blank for a whole number, and the token after the last one.
+  std::size_t fractionBegin = 0;
   std::size_t fractionEnd = 0;
+  ///@}
 
-  // Dates.
+  /// @name Dates
+  ///@{
   Calendar calendar = Calendar::kGregorian;
+  /// The Windows language identifier in the format. 0 if there is none.
   std::uint16_t language = 0;
-  int yearOffset = 0;  // for a solar calendar with another first year
-  int subseconds = 0;  // digits
+  /// The number to add to the year, for a solar calendar with another first year.
+  int yearOffset = 0;
+  /// The number of digits after the decimal point of the seconds.
+  int subseconds = 0;
+  /// Whether hours are written from 1 to 12.
   bool twelveHours = false;
-  Token::Kind elapsed = Token::Kind::kLiteral;  // the unit that counts on beyond its usual maximum
+  /// The unit that counts on beyond its usual maximum, or kLiteral if there is none.
+  Token::Kind elapsed = Token::Kind::kLiteral;
+  ///@}
 
   /// The text of a token.
   std::string_view Text(const Token& token) const {
@@ -112,7 +134,9 @@ struct Section {
 
 /// The parsed code of a format.
 struct NumberFormat::Program {
-  std::vector<Section> numbers;  // at most three; the first one whose condition is met applies
+  /// The sections for numbers, at most three. The first one whose condition is met applies.
+  std::vector<Section> numbers;
+  /// The section for texts. It is absent if the format has none.
   std::optional<Section> text;
 
   /// Returns the section for a value; null if there is none.
@@ -123,11 +147,11 @@ struct NumberFormat::Program {
 std::unique_ptr<NumberFormat::Program> ParseNumberFormat(std::string_view code);
 
 /// Determines the meaning of the tokens in a section with dates. Returns false if they make no sense.
-bool SettleDate(Section& section);
+bool ResolveDate(Section& section);
 /// Determines the meaning of the tokens in a section with a number. Returns false if they make no sense.
-bool SettleNumber(Section& section);
+bool ResolveNumber(Section& section);
 /// Assigns the tokens of a fraction, whose slash is at index `slash`. Returns false if they make no sense.
-bool SettleFraction(Section& section, std::size_t slash);
+bool ResolveFraction(Section& section, std::size_t slash);
 /// The index of the slash that makes a section a fraction; the number of tokens if there is none.
 std::size_t FindFractionSlash(const std::vector<Token>& tokens);
 

@@ -12,12 +12,12 @@ namespace plotsmith::xlsx {
 
 /// An entry in the directory of a zip file.
 struct ArchiveEntry {
-  std::string name;  ///< The stored name, with slashes in place of backslashes.
-  std::uint64_t compressedSize = 0;
-  std::uint64_t size = 0;
-  std::uint32_t crc = 0;
-  std::uint16_t method = 0;
-  bool encrypted = false;
+  std::string name;                  ///< The stored name, with slashes in place of backslashes.
+  std::uint64_t compressedSize = 0;  ///< The size in the file, in bytes.
+  std::uint64_t size = 0;            ///< The inflated size in bytes.
+  std::uint32_t crc = 0;             ///< The CRC-32 checksum of the inflated bytes.
+  std::uint16_t method = 0;          ///< The compression method: 0 for stored, 8 for deflated.
+  bool encrypted = false;            ///< Whether the entry is encrypted and can't be read.
 };
 
 /// A zip file that is read entry by entry. All failures are PackageErrors.

@@ -13,7 +13,7 @@ std::string RgbText(std::int32_t color);
 /// Reads "RRGGBB" or "AARRGGBB". Returns nothing for any other text.
 std::optional<std::int32_t> ParseRgb(std::string_view text);
 
-/// Returns whether a number is one of Excel's colours.
+/// Returns true if a number is one of Excel's colours.
 constexpr bool IsColor(std::int32_t value) { return value >= 0 && value <= 0xFFFFFF; }
 
 }  // namespace plotsmith::xlsx

@@ -7,12 +7,12 @@ namespace plotsmith::xlsx {
 
 /// The namespace URIs of a workbook's vocabularies. A file is either Transitional or Strict as a whole.
 struct Namespaces {
-  std::string_view main;                ///< SpreadsheetML
-  std::string_view relationships;       ///< r:id; also the beginning of relationship types
-  std::string_view drawing;             ///< DrawingML
-  std::string_view spreadsheetDrawing;  ///< anchors and shapes on a sheet
-  std::string_view chart;
-  std::string_view chartDrawing;  ///< anchors and shapes on a chart
+  std::string_view main;                ///< SpreadsheetML.
+  std::string_view relationships;       ///< r:id. It is also the beginning of relationship types.
+  std::string_view drawing;             ///< DrawingML.
+  std::string_view spreadsheetDrawing;  ///< Anchors and shapes on a sheet.
+  std::string_view chart;               ///< Charts.
+  std::string_view chartDrawing;        ///< Anchors and shapes on a chart.
 
   /// Returns the URI of a relationship type, such as "chart".
   std::string RelationshipType(std::string_view name) const {
@@ -20,6 +20,7 @@ struct Namespaces {
   }
 };
 
+/// The namespaces of a Transitional file.
 inline constexpr Namespaces kTransitional = {
     "http://schemas.openxmlformats.org/spreadsheetml/2006/main",
     "http://schemas.openxmlformats.org/officeDocument/2006/relationships",
@@ -29,6 +30,7 @@ inline constexpr Namespaces kTransitional = {
     "http://schemas.openxmlformats.org/drawingml/2006/chartDrawing",
 };
 
+/// The namespaces of a Strict file.
 inline constexpr Namespaces kStrict = {
     "http://purl.oclc.org/ooxml/spreadsheetml/main",
     "http://purl.oclc.org/ooxml/officeDocument/relationships",

@@ -19,10 +19,10 @@ class AtomicFile;
 
 /// One relationship of a part, or of the package.
 struct Relationship {
-  std::string id;
+  std::string id;      ///< The id, such as "rId1".
   std::string type;    ///< The last segment of the type's URI: "worksheet", "drawing", "chart".
   std::string target;  ///< The name of a part, as in Parts; the URI as it is written for an external target.
-  bool external = false;
+  bool external = false;  ///< Whether the target is outside of the package.
 };
 
 /// A workbook file as a package of parts (ECMA-376-2). A part is read when it is needed. An unchanged part is

@@ -54,7 +54,7 @@ class XmlStream {
   /// Moves to the next "<", and appends the decoded text before it to `text` unless that is null. Returns
   /// false at the end of the part.
   bool PassText(std::string* text);
-  /// Returns whether the unread bytes begin with `what`. Reads more if the window has too few.
+  /// Returns true if the unread bytes begin with `what`. Reads more if the window has too few.
   bool StartsWith(std::string_view what);
   /// Moves behind the next `what`, which is searched from an offset on. Returns the bytes from the offset to
   /// `what`, valid until the window moves.

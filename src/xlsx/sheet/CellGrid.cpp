@@ -10,7 +10,7 @@
 
 namespace plotsmith::xlsx {
 
-void CellGrid::CheckRoom(std::size_t cells) {
+void CellGrid::CheckSize(std::size_t cells) {
   if (cells > limits::kGridCells) {
     throw runtime::RuntimeError(runtime::error::kApplication, "The sheet is too large to be written.");
   }
@@ -31,7 +31,7 @@ GridCell& CellGrid::At(std::int32_t row, std::int32_t column) {
   Row& cells = const_cast<Row&>(RowAt(row));
   if (column > static_cast<std::int32_t>(cells.size())) {
     const std::size_t held = held_ + static_cast<std::size_t>(column) - cells.size();
-    CheckRoom(held);
+    CheckSize(held);
     cells.resize(static_cast<std::size_t>(column));
     held_ = held;
   }

@@ -13,7 +13,7 @@ namespace plotsmith::xlsx {
 /// A cell of a CellGrid.
 struct GridCell {
   excel::CellValue::Kind kind = excel::CellValue::Kind::kEmpty;
-  double number = 0;
+  double number = 0;        ///< The value of a number; 1 or 0 of a Boolean.
   std::string text;         ///< The text of a text or an error value.
   std::uint32_t style = 0;  ///< An index into cellXfs.
 
@@ -26,7 +26,7 @@ struct GridCell {
 class CellGrid {
  public:
   /// Raises error 1004 if a sheet has too many cells to be written to. A row counts up to its last cell.
-  static void CheckRoom(std::size_t cells);
+  static void CheckSize(std::size_t cells);
 
   /// Returns a cell, or null if it was never written.
   const GridCell* Find(std::int32_t row, std::int32_t column) const;

@@ -10,8 +10,8 @@ namespace plotsmith::xlsx {
 /// The options of a sort.
 struct SortOptions {
   std::int32_t column = 1;  ///< The key's column on the sheet, from 1. It is inside the range.
-  bool descending = false;
-  bool matchCase = false;  ///< Whether lower case precedes upper case in texts that are otherwise equal.
+  bool descending = false;  ///< Whether the order is descending.
+  bool matchCase = false;   ///< Whether lower case precedes upper case in texts that are otherwise equal.
 };
 
 /// Sorts the rows of a range in Excel's order: numbers, texts, FALSE, TRUE, errors. Empty cells are last in

@@ -19,7 +19,7 @@ std::size_t RunBefore(const Runs& runs, std::int32_t row) {
 void CellStore::Column::AppendElsewhere(std::int32_t row, PackedValue value, std::uint32_t style) {
   const std::int32_t last = runs_.empty() ? 0 : runs_.back().lastRow;
   if (row <= last) {
-    strays_[row] = {value, style};
+    unordered_[row] = {value, style};
     return;
   }
   if (runs_.empty() || row - last > kFilledGap + 1) {
@@ -35,8 +35,8 @@ void CellStore::Column::AppendElsewhere(std::int32_t row, PackedValue value, std
 }
 
 PackedValue CellStore::Column::FindValue(std::int32_t row) const {
-  if (!strays_.empty()) {
-    if (const auto stray = strays_.find(row); stray != strays_.end()) return stray->second.value;
+  if (!unordered_.empty()) {
+    if (const auto cell = unordered_.find(row); cell != unordered_.end()) return cell->second.value;
   }
   const std::size_t found = RunBefore(runs_, row);
   if (found == runs_.size() || row > runs_[found].lastRow) return {};
@@ -45,8 +45,8 @@ PackedValue CellStore::Column::FindValue(std::int32_t row) const {
 }
 
 std::uint32_t CellStore::Column::StyleAt(std::int32_t row) const {
-  if (!strays_.empty()) {
-    if (const auto stray = strays_.find(row); stray != strays_.end()) return stray->second.style;
+  if (!unordered_.empty()) {
+    if (const auto cell = unordered_.find(row); cell != unordered_.end()) return cell->second.style;
   }
   if (styles_.empty() || row < styles_.front().firstRow || row > runs_.back().lastRow) return 0;
   const auto holds = [&](std::size_t i) {
@@ -59,9 +59,9 @@ std::uint32_t CellStore::Column::StyleAt(std::int32_t row) const {
 std::int32_t CellStore::Column::NextRow(std::int32_t row) const {
   const auto run = std::upper_bound(runs_.begin(), runs_.end(), row,
                                     [](std::int32_t r, const Run& other) { return r < other.lastRow; });
-  const auto stray = strays_.upper_bound(row);
+  const auto cell = unordered_.upper_bound(row);
   const std::int32_t next = run == runs_.end() ? 0 : std::max(row + 1, run->firstRow);
-  return stray == strays_.end() || (next != 0 && next < stray->first) ? next : stray->first;
+  return cell == unordered_.end() || (next != 0 && next < cell->first) ? next : cell->first;
 }
 
 }  // namespace plotsmith::xlsx

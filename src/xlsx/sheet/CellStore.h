@@ -111,7 +111,7 @@ class CellStore {
     }
     PackedValue ValueAt(std::int32_t row) const {
       // Most callers read a column downwards, so the run of the last call is the best guess.
-      if (strays_.empty() && !runs_.empty()) {
+      if (unordered_.empty() && !runs_.empty()) {
         const Run& run = runs_[recentRun_];
         if (row >= run.firstRow && row <= run.lastRow) {
           return values_[run.firstValue + static_cast<std::size_t>(row - run.firstRow)];
@@ -132,7 +132,7 @@ class CellStore {
       std::int32_t firstRow;
       std::uint32_t style;
     };
-    struct Stray {
+    struct UnorderedCell {
       PackedValue value;
       std::uint32_t style;
     };
@@ -146,7 +146,7 @@ class CellStore {
     std::uint32_t lastStyle_ = 0;
     mutable std::size_t recentRun_ = 0;
     mutable std::size_t recentStyle_ = 0;
-    std::map<std::int32_t, Stray> strays_;  ///< Cells of a file whose rows aren't in order.
+    std::map<std::int32_t, UnorderedCell> unordered_;  ///< Cells of a file whose rows aren't in order.
   };
 
   std::vector<Column> columns_;

@@ -24,10 +24,10 @@ class FormulaReader {
   };
   /// A piece of a formula: a reference, or other text.
   struct Piece {
-    std::string_view text;
-    std::optional<A1Reference> reference;
-    Place place = Place::kHome;
-    std::string sheet;  ///< The name of the sheet, without quotes.
+    std::string_view text;                 ///< The text in the formula.
+    std::optional<A1Reference> reference;  ///< The reference; absent for other text.
+    Place place = Place::kHome;            ///< The sheet of a reference.
+    std::string sheet;                     ///< The name of the sheet, without quotes.
   };
 
   /// Reads `formula`, without "=", from its beginning.

@@ -16,11 +16,13 @@ struct PageSetup {
   bool fits = false;  ///< Whether the scale is chosen so that `fitWidth` by `fitHeight` pages suffice.
   int fitWidth = 1, fitHeight = 1;  ///< 0 means any number of pages.
   bool overThenDown = false;        ///< Whether pages to the right precede pages below.
+  /// Whether the contents are centred horizontally and vertically on the page.
   bool centersAcross = false, centersDown = false;
+  /// Whether gridlines and the headings of rows and columns are printed.
   bool gridLines = false, headings = false;
   /// The rows and columns before manual page breaks, in ascending order, from 1.
   std::vector<std::int32_t> rowBreaks, columnBreaks;
-  bool hasHeaderOrFooter = false;
+  bool hasHeaderOrFooter = false;      ///< Whether there is a header or a footer, which isn't drawn.
   bool hasConditionalFormats = false;  ///< Whether conditional formats change the look of cells.
 
   bool operator==(const PageSetup&) const = default;

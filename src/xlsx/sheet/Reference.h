@@ -29,8 +29,8 @@ struct CellRange {
 
 /// A rectangle on a named sheet.
 struct SheetRange {
-  std::string sheet;
-  CellRange range;
+  std::string sheet;  ///< The name of the sheet, without quotes.
+  CellRange range;    ///< The cells.
 };
 
 /// Returns the letters of a column, from 1.
@@ -48,8 +48,7 @@ std::string TakeQuotedSheetName(std::string_view& text);
 std::string SheetRangeAddress(const SheetRange& range);
 
 /// Reads a reference in A1 style, with or without dollars: a cell, a range, whole rows ("1:5") or whole
-/// columns
-/// ("A:C").
+/// columns ("A:C").
 std::optional<CellRange> ParseA1(std::string_view text);
 /// Reads an absolute reference in R1C1 style: "R6C2", "R6C2:R17C2".
 std::optional<CellRange> ParseR1C1(std::string_view text);
@@ -60,13 +59,14 @@ std::optional<SheetRange> ParseSheetRange(std::string_view text);
 /// One corner of a reference in A1 style: a cell, or only a row or a column if the other number is 0.
 struct Corner {
   std::int32_t row = 0, column = 0;
+  /// Whether a dollar sign precedes the number or the letters.
   bool rowAbsolute = false, columnAbsolute = false;
 };
 
 /// A reference as a formula writes it: one corner, or two with a colon, in the written order.
 struct A1Reference {
-  Corner first, second;  ///< Equal for a single cell.
-  bool range = false;
+  Corner first, second;    ///< Equal for a single cell.
+  bool range = false;      ///< Whether it has two corners.
   std::size_t length = 0;  ///< The length of its text.
 
   /// Returns the reference as a formula writes it.
@@ -76,7 +76,7 @@ struct A1Reference {
 /// Reads the reference at the start of a text, without a sheet.
 std::optional<A1Reference> ReadA1Reference(std::string_view text);
 
-/// Returns whether names in formulas can contain the character: functions, defined names, sheets without
+/// Returns true if names in formulas can contain the character: functions, defined names, sheets without
 /// quotes.
 bool IsNameCharacter(char c);
 

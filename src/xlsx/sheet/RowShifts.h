@@ -21,7 +21,7 @@ class RowShifts {
   void Add(std::string_view sheet, std::int32_t row, std::int32_t count);
   /// Returns true if no row has moved.
   bool None() const { return count_ == 0; }
-  /// Returns whether there are shifts after a mark.
+  /// Returns true if there are shifts after a mark.
   bool AnyBehind(std::size_t mark) const { return count_ > mark; }
   /// Returns the mark of an object that has followed all shifts.
   std::size_t Mark() {
@@ -33,7 +33,7 @@ class RowShifts {
   /// change. `home` is the sheet of the formula, or empty for a chart or a name.
   std::optional<std::string> Follow(std::string_view formula, std::string_view home,
                                     std::size_t followed) const;
-  /// Returns whether a text contains the name of a sheet with shifts.
+  /// Returns true if a text contains the name of a sheet with shifts.
   bool MayConcern(std::string_view text) const;
 
  private:

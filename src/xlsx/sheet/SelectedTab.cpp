@@ -10,7 +10,7 @@ namespace {
 
 /// Returns true if a sheet's head may mention a selected tab. Only the head is read, because a sheet may be
 /// large.
-bool MaySayIsSelected(const Package& package, const std::string& sheet) {
+bool MayBeSelected(const Package& package, const std::string& sheet) {
   std::string head(64 * 1024, '\0');
   const auto stream = package.Stream(sheet);
   std::size_t size = 0;
@@ -24,7 +24,7 @@ bool MaySayIsSelected(const Package& package, const std::string& sheet) {
 void SelectOnlyTab(Package& package, const std::vector<std::string>& sheets, const std::string& selected) {
   for (const std::string& sheet : sheets) {
     try {
-      if (sheet != selected && !MaySayIsSelected(package, sheet)) continue;
+      if (sheet != selected && !MayBeSelected(package, sheet)) continue;
       std::string text = xml::ToUtf8(package.Read(sheet));
       if (SetViewSetting(text, kTabSelected, sheet == selected)) package.Replace(sheet, std::move(text));
     } catch (const PackageError&) {

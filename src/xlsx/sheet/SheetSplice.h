@@ -22,12 +22,15 @@ void InsertDrawingLink(std::string& part, std::string_view relationships, std::s
 
 /// A Boolean attribute of a sheet's view (CT_SheetView).
 struct ViewSetting {
-  std::string_view name;
-  bool ifAbsent;  ///< The value if the attribute or the view is absent.
+  std::string_view name;  ///< The name of the attribute.
+  bool ifAbsent;          ///< The value if the attribute or the view is absent.
 };
+/// The settings that the host changes.
+///@{
 inline constexpr ViewSetting kTabSelected = {"tabSelected", false};
 inline constexpr ViewSetting kShowGridLines = {"showGridLines", true};
 inline constexpr ViewSetting kShowHeadings = {"showRowColHeaders", true};
+///@}
 
 /// Changes a setting of the sheet's first view, the view of the workbook's first window. Returns false if the
 /// setting already has the value; the part then stays the same. Throws PackageError if the part has no view

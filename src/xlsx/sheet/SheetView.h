@@ -7,10 +7,10 @@ namespace plotsmith::xlsx {
 
 /// The view of a sheet in a window (CT_SheetView).
 struct SheetView {
-  bool gridLines = true;
-  bool headings = true;     ///< The letters of columns and the numbers of rows.
-  CellPlace topLeft{1, 1};  ///< The first visible cell, after the frozen rows and columns.
-  CellPlace activeCell{1, 1};
+  bool gridLines = true;       ///< Whether gridlines are shown.
+  bool headings = true;        ///< Whether the letters of columns and the numbers of rows are shown.
+  CellPlace topLeft{1, 1};     ///< The first visible cell, after the frozen rows and columns.
+  CellPlace activeCell{1, 1};  ///< The active cell.
   /// The number of rows at the top, and of columns at the left, that don't scroll.
   std::int32_t frozenRows = 0, frozenColumns = 0;
 

@@ -179,10 +179,10 @@ TEST_F(SheetViewTest, AMillionRowsAreAskedForOneWindowAtATime) {
   OpenFile(folder_ / "million.xlsx");
   Show();
   const auto asked = [&](const std::function<void()>& move) {
-    const auto before = Sheet().Source().CellsAsked();
+    const auto before = Sheet().Source().CellsRead();
     move();
     Shot();
-    return Sheet().Source().CellsAsked() - before;
+    return Sheet().Source().CellsRead() - before;
   };
   // The visible cells are read once for the move event and once for the picture, and a few more at the edge.
   const QSize size = Sheet().viewport()->size();

@@ -58,8 +58,8 @@ bool PressButton(QWidget& window, const std::string& text) {
   return button != nullptr;
 }
 
-Robot::Robot(const std::string& script, Deeds deeds)
-    : lines_(LinesOf(script)), deeds_(std::move(deeds)), hand_([] { return FrontWindow(); }) {
+Robot::Robot(const std::string& script, Actions actions)
+    : lines_(LinesOf(script)), actions_(std::move(actions)), hand_([] { return FrontWindow(); }) {
   QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Work(); });
   sinceLine_.start();
   timer_.start(0);
@@ -101,7 +101,7 @@ bool Robot::Play(const std::string& line) {
   const std::string name = NameOf(front);
   if (line == "do wait") return sinceLine_.hasExpired(kPause) && !name.empty() && name != kBusyWindow;
   if (verb == "do") {
-    deeds_.at(rest)();
+    actions_.at(rest)();
     return true;
   }
   if (verb == "page") return name == rest;

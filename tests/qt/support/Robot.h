@@ -31,8 +31,8 @@ namespace plotsmith::test {
 /// at the end of the script, the robot closes all windows and saves nothing.
 class Robot {
  public:
-  using Deeds = std::map<std::string, std::function<void()>>;
-  explicit Robot(const std::string& script, Deeds deeds = {});
+  using Actions = std::map<std::string, std::function<void()>>;
+  explicit Robot(const std::string& script, Actions actions = {});
 
   /// Returns the reason why the script stopped before its end, or "".
   std::string Failure() const;
@@ -51,7 +51,7 @@ class Robot {
 
   std::vector<std::string> lines_;
   std::size_t next_ = 0;
-  Deeds deeds_;
+  Actions actions_;
   QtHand hand_;
   QTimer timer_;
   QElapsedTimer sinceLine_;

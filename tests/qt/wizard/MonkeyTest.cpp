@@ -37,16 +37,16 @@ class Monkey {
       front->close();
       return;
     }
-    const std::pair<int, void (Monkey::*)(QWidget&)> deeds[] = {
+    const std::pair<int, void (Monkey::*)(QWidget&)> actions[] = {
         {30, &Monkey::Click}, {10, &Monkey::DoubleClick}, {8, &Monkey::Drag},   {30, &Monkey::Press},
         {8, &Monkey::Wheel},  {6, &Monkey::Paste},        {2, &Monkey::Commit}, {3, &Monkey::Resize},
         {2, &Monkey::Theme},  {1, &Monkey::Close}};
     int all = 0;
-    for (const auto& [weight, deed] : deeds) all += weight;
+    for (const auto& [weight, action] : actions) all += weight;
     int place = Below(all);
-    for (const auto& [weight, deed] : deeds) {
+    for (const auto& [weight, action] : actions) {
       if ((place -= weight) >= 0) continue;
-      (this->*deed)(*front);
+      (this->*action)(*front);
       break;
     }
   }

@@ -23,11 +23,11 @@ void ProgramTest::AddChart() {
   fresh_ = BytesOf(book_);
 }
 
-ProgramResult ProgramTest::Run(const std::string& script, Robot::Deeds deeds,
+ProgramResult ProgramTest::Run(const std::string& script, Robot::Actions actions,
                                const std::optional<std::string>& output) {
   std::istringstream in;
   std::ostringstream out, err;
-  const Robot robot(script, std::move(deeds));
+  const Robot robot(script, std::move(actions));
   int code = 0;
   std::string refusal;
   try {

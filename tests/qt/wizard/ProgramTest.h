@@ -23,7 +23,7 @@ struct ProgramResult {
 class ProgramTest : public ::testing::Test {
  protected:
   ProgramTest();
-  ProgramResult Run(const std::string& script, Robot::Deeds deeds = {},
+  ProgramResult Run(const std::string& script, Robot::Actions actions = {},
                     const std::optional<std::string>& output = std::nullopt);
 
   /// Builds a chart in the workbook, so that the wizard has all its pages.

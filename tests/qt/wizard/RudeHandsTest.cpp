@@ -24,9 +24,9 @@ class RudeHandsTest : public test::ProgramTest {
  protected:
   RudeHandsTest() { AddChart(); }
   /// Runs a script on the program, which must not save anything.
-  test::ProgramResult RunUnsaved(const S& script, test::Robot::Deeds deeds) {
+  test::ProgramResult RunUnsaved(const S& script, test::Robot::Actions actions) {
     SCOPED_TRACE(script);
-    const auto run = Run(script, std::move(deeds));
+    const auto run = Run(script, std::move(actions));
     EXPECT_EQ(run.failure, "");
     EXPECT_EQ(run.code, 0);
     EXPECT_EQ(run.err, "");
@@ -232,16 +232,16 @@ TEST_F(RudeHandsTest, BoxesAcceptAndShowTheInputThatFits) {
        S("x") + Times(8000, "\xF0\x9F\x98\x80")},
   };
   for (const test::Way& way : test::kWays) {
-    test::Robot::Deeds deeds;
+    test::Robot::Actions actions;
     S script = way.lines;
     int checked = 0;
     for (const Input& input : inputs) {
       const S number = std::to_string(&input - inputs);
       script += "do feed" + number + "; do look" + number + "; ";
-      deeds["feed" + number] = [&] {
+      actions["feed" + number] = [&] {
         for (const forms::Control* box : BoxesOf(*FrontPage())) Feed(*FrontPage()->WidgetOf(*box), input);
       };
-      deeds["look" + number] = [&] {
+      actions["look" + number] = [&] {
         for (const forms::Control* box : BoxesOf(*FrontPage())) {
           const S expected = Expected(*box, input), text = TextOf(*box);
           EXPECT_TRUE(text == runtime::Replace(expected, "\r\n", "\n"))
@@ -253,7 +253,7 @@ TEST_F(RudeHandsTest, BoxesAcceptAndShowTheInputThatFits) {
         EXPECT_EQ(test::DifferencesFromModel(*FrontPage()), "");
       };
     }
-    RunUnsaved(script, deeds);
+    RunUnsaved(script, actions);
     EXPECT_EQ(checked > 0, way.page.find("Select") == S::npos) << way.page;
   }
 }

@@ -151,7 +151,7 @@ TEST_F(ShadowTest, ATextWithoutAFrameHasNoneAndSaysIt) {
   EXPECT_EQ(notes_, (render::Notes{"Shadows of texts aren't drawn."}));
 }
 
-TEST_F(ShadowTest, OtherEffectsAreSaid) {
+TEST_F(ShadowTest, OtherEffectsAreReported) {
   const auto effects = [](const S& list) {
     return "<c:spPr><a:effectLst>" + list + "</a:effectLst></c:spPr>";
   };

@@ -95,8 +95,8 @@ TEST_F(UserShapesTest, ShapesAreAtTheirAnchors) {
 TEST_F(UserShapesTest, UnknownFormsAreDrawnAsRectanglesAndNoted) {
   const Drawing drawing = DrawWith(Anchor(Shape("smileyFace", Solid("FF0000"))));
   ExpectNear(BoundsOfFirst(drawing, Role::kShape), {100, 50, 200, 50}, "");
-  EXPECT_EQ(notes_,
-            render::Notes{"A shape is drawn as a rectangle, as its form isn't known: Sign (smileyFace)."});
+  EXPECT_EQ(notes_, render::Notes{
+                        "A shape is drawn as a rectangle because its form isn't known: Sign (smileyFace)."});
 }
 
 TEST_F(UserShapesTest, GroupsPlaceStretchAndTurnTheirMembers) {
@@ -208,9 +208,10 @@ TEST_F(UserShapesTest, PicturesFillTheirFrameAsFarAsTheyAreNotCropped) {
     const auto pictures = ItemsOf(drawing, Role::kShape);
     if (c.place.width == 0) {
       EXPECT_TRUE(pictures.empty());
-      EXPECT_EQ(notes_,
-                render::Notes{"A picture among the shapes isn't drawn, as it is turned or of another kind "
-                              "than PNG: Logo."});
+      EXPECT_EQ(
+          notes_,
+          render::Notes{
+              "A picture isn't drawn because it is rotated or mirrored, isn't PNG, or is too large: Logo."});
       continue;
     }
     ASSERT_EQ(pictures.size(), 1);

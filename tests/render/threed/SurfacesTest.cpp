@@ -162,10 +162,11 @@ TEST_F(SurfacesTest, WildSurfacesHaveAFewPieces) {
   for (const char* element : {"surfaceChart", "surface3DChart"}) {
     EXPECT_LT(DrawSurface(element, rows, "", "", "", "<c:majorUnit val=\"1e290\"/>").items.size(), 400'000u);
     EXPECT_EQ(notes_,
-              (render::Notes{"The surface has more points than are drawn; of each few neighbours, one is."}));
+              (render::Notes{"The surface has more points than are drawn; some points are left out."}));
     for (const auto& few : {std::vector<std::vector<double>>{{1, 2}}, {{1}, {2}}, {{}, {}}}) {
       EXPECT_EQ(ItemsOf(DrawSurface(element, few), Role::kSurface).size(), 0u);
-      EXPECT_EQ(notes_, (render::Notes{"A surface isn't drawn, as it takes two series and two categories."}));
+      EXPECT_EQ(notes_,
+                (render::Notes{"A surface isn't drawn because it needs two series and two categories."}));
     }
     const Drawing blank = DrawSurface(element, {{kNoValue, kNoValue}, {kNoValue, kNoValue}});
     EXPECT_EQ(blank.items.empty(), false);

@@ -169,7 +169,7 @@ void ScriptedHands::PlayLines() {
 
 int ScriptedHands::AnswerBox(const std::string& text, bool isQuestion) {
   if (isQuestion) return player_.Answer(text) ? IDOK : IDCANCEL;
-  player_.Heard(text);
+  player_.AddMessage(text);
   return IDOK;
 }
 

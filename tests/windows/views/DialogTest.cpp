@@ -56,9 +56,9 @@ DialogTest::DialogTest() {
 
 DialogTest::~DialogTest() { theHostWindow = nullptr; }
 
-std::string DialogTest::PlayOnOrders(const std::string& script, Deeds deeds) {
+std::string DialogTest::PlayOnOrders(const std::string& script, Actions actions) {
   OpenFile(orders_);
-  return Play(script, std::move(deeds));
+  return Play(script, std::move(actions));
 }
 
 }  // namespace plotsmith::test

@@ -39,7 +39,7 @@ class DialogTest : public PagesTest {
   DialogTest();
   ~DialogTest() override;
   /// Opens a copy of the orders with a chart, in which test::kWays lead to each page, and runs a script.
-  std::string PlayOnOrders(const std::string& script, Deeds deeds = {});
+  std::string PlayOnOrders(const std::string& script, Actions actions = {});
 
   HostWindow hostWindow_;
 

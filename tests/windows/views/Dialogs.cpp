@@ -17,7 +17,7 @@ void HandleMessages() {
   }
 }
 
-void EndDeed() {
+void EndAction() {
   HandleMessages();
   if (theDialogs->IsFrontGone()) {
     theDialogs->Wait(*theQueue, std::nullopt);

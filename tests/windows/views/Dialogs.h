@@ -24,7 +24,7 @@ forms::Form& FrontForm();
 void HandleMessages();
 /// Called at the end of a function of a script. Processes the waiting messages, so that the form reacts
 /// before the next line.
-void EndDeed();
+void EndAction();
 /// The queue for actions while a script executes a line; null otherwise.
 extern forms::EventQueue* theQueue;
 

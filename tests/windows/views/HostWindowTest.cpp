@@ -49,8 +49,8 @@ TEST_F(HostWindowTest, ItTakesNoInputWhileAPageIsOpenAndItsTimersTick) {
 }
 
 TEST_F(HostWindowTest, EachWayToCloseAPageEnablesIt) {
-  const auto destroy = [] { DestroyWindow(test::FrontWindow()), test::EndDeed(); };
-  const auto quit = [] { PostQuitMessage(7), test::EndDeed(); };
+  const auto destroy = [] { DestroyWindow(test::FrontWindow()), test::EndAction(); };
+  const auto quit = [] { PostQuitMessage(7), test::EndAction(); };
   for (const test::Way& way : kWays) {
     for (const S out : {"press cmdCancel", "escape", "close", "do destroy", "do quit"}) {
       EXPECT_EQ(PlayOnOrders(way.lines + out + "; page none", {{"destroy", destroy}, {"quit", quit}}), "")
@@ -64,7 +64,7 @@ TEST_F(HostWindowTest, EachWayToCloseAPageEnablesIt) {
 }
 
 TEST_F(HostWindowTest, AHostThatIsDestroyedEndsTheRun) {
-  const auto destroy = [this] { DestroyWindow(hostWindow_.Handle()), test::EndDeed(); };
+  const auto destroy = [this] { DestroyWindow(hostWindow_.Handle()), test::EndAction(); };
   EXPECT_EQ(PlayOnOrders(kWays[2].lines + "do destroy; page none", {{"destroy", destroy}}), "");
   EXPECT_EQ(FindWindowW(L"PlotsmithForm", nullptr), nullptr);
 }
@@ -144,9 +144,9 @@ TEST_F(HostWindowTest, ALaterSubclassReceivesTheEndOfTheWindow) {
     };
     before =
         reinterpret_cast<WNDPROC>(SetWindowLongPtrW(button, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(own)));
-    test::EndDeed();
+    test::EndAction();
   };
-  const auto destroy = [] { DestroyWindow(test::FrontWindow()), test::EndDeed(); };
+  const auto destroy = [] { DestroyWindow(test::FrontWindow()), test::EndAction(); };
   for (const S out : {"press cmdCancel", "do destroy"}) {
     EXPECT_EQ(PlayOnOrders(kWays[2].lines + "do watch; " + out + "; page none",
                            {{"watch", watch}, {"destroy", destroy}}),

@@ -60,8 +60,8 @@ class KeysTest : public test::DialogTest {
   void OnEachPage(const std::function<void()>& look) {
     for (const test::Way& way : test::kWays) {
       SCOPED_TRACE(way.page);
-      const auto deed = [&] { look(), test::EndDeed(); };
-      EXPECT_EQ(PlayOnOrders(way.lines + "do look; press cmdCancel; page none", {{"look", deed}}), "");
+      const auto action = [&] { look(), test::EndAction(); };
+      EXPECT_EQ(PlayOnOrders(way.lines + "do look; press cmdCancel; page none", {{"look", action}}), "");
     }
   }
 };
@@ -95,10 +95,10 @@ TEST_F(KeysTest, ArrowKeysStayInTheirGroup) {
 
 TEST_F(KeysTest, LettersEnterEscapeAndHelpPressButtons) {
   const auto key = [](WPARAM virtualKey) {
-    return [virtualKey] { test::PostKey(GetFocus(), virtualKey), test::EndDeed(); };
+    return [virtualKey] { test::PostKey(GetFocus(), virtualKey), test::EndAction(); };
   };
   const auto letter = [](wchar_t unit) {
-    return [unit] { PostMessageW(GetFocus(), WM_SYSCHAR, unit, 0x20000001), test::EndDeed(); };
+    return [unit] { PostMessageW(GetFocus(), WM_SYSCHAR, unit, 0x20000001), test::EndAction(); };
   };
   const struct {
     S script;

@@ -115,7 +115,7 @@ RECT AreaOf(HWND window) {
 TEST_F(LooksTest, APageThatIsTooLargeIsScrolledToTheFocus) {
   const auto shrink = [] {
     SetWindowPos(test::FrontWindow(), nullptr, 0, 0, 320, 240, SWP_NOMOVE | SWP_NOZORDER);
-    test::EndDeed();
+    test::EndAction();
   };
   const auto look = [] {
     RECT room = {};
@@ -128,7 +128,7 @@ TEST_F(LooksTest, APageThatIsTooLargeIsScrolledToTheFocus) {
       MapWindowPoints(nullptr, test::FrontWindow(), reinterpret_cast<POINT*>(&area), 2);
       EXPECT_TRUE(IntersectRect(&seen, &area, &room)) << control->FullName();
     }
-    test::EndDeed();
+    test::EndAction();
   };
   EXPECT_EQ(PlayOnOrders(test::kWays[2].lines + "do shrink; do look; press cmdCancel; page none",
                          {{"shrink", shrink}, {"look", look}}),

@@ -23,9 +23,12 @@ class MirroredTest : public test::DialogTest {
  protected:
   /// Opens a page in the language of the locale, and checks it.
   void OnPage(std::int32_t lcid, const S& lines, const std::function<void()>& look) {
-    const auto move = [lcid] { App.Desktop = runtime::MakeRef<test::ForeignDesktop>(lcid), test::EndDeed(); };
-    const auto deed = [&] { look(), test::EndDeed(); };
-    EXPECT_EQ(PlayOnOrders("page frmPSSelectAction; do move; " + lines, {{"move", move}, {"look", deed}}), "")
+    const auto move = [lcid] {
+      App.Desktop = runtime::MakeRef<test::ForeignDesktop>(lcid), test::EndAction();
+    };
+    const auto action = [&] { look(), test::EndAction(); };
+    EXPECT_EQ(PlayOnOrders("page frmPSSelectAction; do move; " + lines, {{"move", move}, {"look", action}}),
+              "")
         << lcid;
   }
 };

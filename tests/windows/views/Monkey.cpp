@@ -11,11 +11,11 @@
 namespace plotsmith::test {
 
 void Monkey::MakeEvent(HWND front) {
-  void (Monkey::*const deeds[])(HWND) = {&Monkey::Click, &Monkey::Click,  &Monkey::Click, &Monkey::Press,
-                                         &Monkey::Press, &Monkey::Press,  &Monkey::Type,  &Monkey::Double,
-                                         &Monkey::Wheel, &Monkey::Paste,  &Monkey::Drag,  &Monkey::Resize,
-                                         &Monkey::Theme, &Monkey::Letter, &Monkey::Close};
-  (this->*deeds[Below(static_cast<int>(std::size(deeds)))])(front);
+  void (Monkey::*const actions[])(HWND) = {&Monkey::Click, &Monkey::Click,  &Monkey::Click, &Monkey::Press,
+                                           &Monkey::Press, &Monkey::Press,  &Monkey::Type,  &Monkey::Double,
+                                           &Monkey::Wheel, &Monkey::Paste,  &Monkey::Drag,  &Monkey::Resize,
+                                           &Monkey::Theme, &Monkey::Letter, &Monkey::Close};
+  (this->*actions[Below(static_cast<int>(std::size(actions)))])(front);
 }
 
 int Monkey::Below(int end) { return static_cast<int>(random_() % static_cast<unsigned>(end)); }

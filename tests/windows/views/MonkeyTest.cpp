@@ -19,14 +19,14 @@ TEST_P(MonkeyTest, APageShowsTheStateOfItsForm) {
   for (unsigned seed = 1; seed <= kSeeds; ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     test::Monkey monkey(seed);
-    const auto deed = [&] {
+    const auto action = [&] {
       if (test::FrontWindow() == nullptr) return;
       monkey.MakeEvent(test::FrontWindow());
-      test::EndDeed();
+      test::EndAction();
     };
     S script = way.lines;
     for (int i = 0; i < kEvents; ++i) script += "answer cancel; do monkey; ";
-    const S failure = PlayOnOrders(script, {{"monkey", deed}});
+    const S failure = PlayOnOrders(script, {{"monkey", action}});
     EXPECT_TRUE(failure.empty() || failure.find("a message that no line expects") != S::npos ||
                 failure.find("the run is over") != S::npos)
         << failure;

@@ -166,7 +166,7 @@ TEST_F(NamesTest, ScreenReadersGetTheSameTextsAsOnTheDesktop) {
                                         : role + ": " + told.name + " / " + told.description);
       }
       EXPECT_EQ(lines, DesktopNames(way.page));
-      test::EndDeed();
+      test::EndAction();
     };
     EXPECT_EQ(PlayOnOrders(way.lines + "do look", {{"look", look}}), "");
     EXPECT_EQ(service.told.size(), 0u) << "destroyed windows are removed";
@@ -199,7 +199,7 @@ TEST_F(NamesTest, WindowsHaveTheirCaptions) {
                   runtime::Replace(*control.caption, "&", ""))
             << way.page << " " << control.name;
       }
-      test::EndDeed();
+      test::EndAction();
     };
     EXPECT_EQ(PlayOnOrders(way.lines + "do look", {{"look", look}}), "");
   }

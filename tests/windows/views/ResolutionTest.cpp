@@ -89,7 +89,7 @@ TEST_F(ResolutionTest, EachPageIsCompleteInAllResolutionsAndFonts) {
           EXPECT_GE(Width(AreaOf(test::ControlWindow(window, "cmdCancel"))), 75 * percent / 100);
         }
       }
-      test::EndDeed();
+      test::EndAction();
     };
     EXPECT_EQ(PlayOnOrders(way.lines + "do look", {{"look", look}}), "") << way.page;
   }
@@ -102,7 +102,7 @@ TEST_F(ResolutionTest, AShrunkenWindowStaysSoInAnotherResolution) {
     SetWindowPos(window, nullptr, 0, 0, 320, 240, SWP_NOMOVE | SWP_NOZORDER);
     MoveToResolution(window, DpiOf(200));
     EXPECT_NEAR(Width(AreaOf(window)), 640, 16);
-    test::EndDeed();
+    test::EndAction();
   };
   EXPECT_EQ(PlayOnOrders(test::kWays[2].lines + "do look", {{"look", look}}), "");
 }
@@ -120,7 +120,7 @@ TEST_F(ResolutionTest, FontsAreThereWhileAGestureWaits) {
     EXPECT_NE(
         GetObjectW(reinterpret_cast<HFONT>(SendMessageW(title, WM_GETFONT, 0, 0)), sizeof after, &after), 0);
     EXPECT_NEAR(after.lfHeight, 2 * before.lfHeight, 1);
-    test::EndDeed();
+    test::EndAction();
   };
   EXPECT_EQ(PlayOnOrders(test::kWays[2].lines + "do look; expect txtTitle.Text Ax", {{"look", look}}), "");
 }

@@ -40,7 +40,7 @@ TEST_F(RudeHandsTest, TheSecondPressDoesNotGoThroughTheNextPage) {
     ScreenToClient(button, &onButton);
     PostMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(onButton.x, onButton.y));
     PostMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(10, 10));
-    test::EndDeed();
+    test::EndAction();
   };
   const auto wait = [] { SetDoubleClickTime(1); };
   const S script = test::kWays[1].lines + "do press; page frmPSLayoutABC; do press; page frmPSLayoutABC; ";
@@ -56,7 +56,7 @@ TEST_F(RudeHandsTest, ADoubleClickOnAButtonIsOnePress) {
     test::PostClick(button);
     PostMessageW(button, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
     PostMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
-    test::EndDeed();
+    test::EndAction();
   };
   EXPECT_EQ(PlayOnOrders(test::kWays[2].lines + "do twice; page frmPSChartLocation", {{"twice", twice}}), "");
 }
@@ -64,7 +64,7 @@ TEST_F(RudeHandsTest, ADoubleClickOnAButtonIsOnePress) {
 // A screen reader presses a button with a message that Windows would convert to a mouse click in the corner.
 TEST_F(RudeHandsTest, EachPressWithoutAMouseCounts) {
   const SlowDoubleClicks slow;
-  const auto press = [] { SendMessageW(ButtonOf("cmdHelp"), BM_CLICK, 0, 0), test::EndDeed(); };
+  const auto press = [] { SendMessageW(ButtonOf("cmdHelp"), BM_CLICK, 0, 0), test::EndAction(); };
   EXPECT_EQ(
       PlayOnOrders(test::kWays[2].lines + "do press; do press; page frmPSLayoutABC", {{"press", press}}), "");
   EXPECT_EQ(helpTopics_, (std::vector<std::int32_t>{4, 4}));
@@ -79,7 +79,7 @@ TEST_F(RudeHandsTest, ColumnsKeepTheWidthThatTheUserSets) {
     PostMessageW(head, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(wanted - 31, 5));
     PostMessageW(head, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(wanted - 1, 5));
     PostMessageW(head, WM_LBUTTONUP, 0, MAKELPARAM(wanted - 1, 5));
-    test::EndDeed();
+    test::EndAction();
   };
   const auto look = [&] {
     EXPECT_EQ(width(), wanted);
@@ -90,7 +90,7 @@ TEST_F(RudeHandsTest, ColumnsKeepTheWidthThatTheUserSets) {
     GetWindowRect(form, &area);
     SendMessageW(form, WM_DPICHANGED, MAKELONG(192, 192), reinterpret_cast<LPARAM>(&area));
     EXPECT_EQ(width(), 2 * wanted);
-    test::EndDeed();
+    test::EndAction();
   };
   EXPECT_EQ(PlayOnOrders("page frmPSSelectAction; do widen; select grdCharts #1; select grdCharts; do look",
                          {{"widen", widen}, {"look", look}}),
@@ -101,10 +101,10 @@ TEST_F(RudeHandsTest, AKeyThatIsHeldDownCountsOnce) {
   const auto repeat = [](WPARAM key) {
     return [key] {
       for (int i = 0; i < 20; ++i) test::PostKey(GetFocus(), key, true);
-      test::EndDeed();
+      test::EndAction();
     };
   };
-  const auto enter = [] { test::PostKey(GetFocus(), VK_RETURN), test::EndDeed(); };
+  const auto enter = [] { test::PostKey(GetFocus(), VK_RETURN), test::EndAction(); };
   EXPECT_EQ(PlayOnOrders(test::kWays[1].lines +
                              "do enter; do repeat; page frmPSLayoutABC; do escape; page "
                              "frmPSLayoutABC; focus txtComment; do repeat; expect txtComment.Text \"" +
@@ -136,7 +136,7 @@ TEST_F(RudeHandsTest, EachPageIsClosedOnce) {
   const auto close = [] {
     for (int i = 0; i < 3; ++i) PostMessageW(test::FrontWindow(), WM_CLOSE, 0, 0);
     test::PostClick(ButtonOf("cmdCancel"));
-    test::EndDeed();
+    test::EndAction();
   };
   for (const test::Way& way : test::kWays) {
     EXPECT_EQ(PlayOnOrders(way.lines + "do close; page none", {{"close", close}}), "");
@@ -180,14 +180,14 @@ TEST_F(RudeHandsTest, BoxesAcceptAndShowTheInputThatFits) {
   };
   const Input* input = nullptr;
   int checked = 0;
-  const auto onBoxes = [](const std::function<void(const forms::Control& control, HWND edit)>& deed) {
+  const auto onBoxes = [](const std::function<void(const forms::Control& control, HWND edit)>& action) {
     for (const forms::Control* control : test::FrontForm().Controls()) {
       const HWND window = ButtonOf(control->FullName());
       const auto* combo = dynamic_cast<const forms::ComboBox*>(control);
       const bool isCombo = combo != nullptr && combo->Style() == forms::ComboStyle::kDropDownCombo;
       const bool isText = dynamic_cast<const forms::TextBox*>(control) != nullptr;
       if (!control->Obstacle().empty() || (!isText && !isCombo)) continue;
-      deed(*control, isText ? window : GetWindow(window, GW_CHILD));
+      action(*control, isText ? window : GetWindow(window, GW_CHILD));
     }
   };
   const auto feed = [&] {
@@ -198,7 +198,7 @@ TEST_F(RudeHandsTest, BoxesAcceptAndShowTheInputThatFits) {
       PostMessageW(edit, WM_CHAR, 22, 0);
       test::HandleMessages();
     });
-    test::EndDeed();
+    test::EndAction();
   };
   const auto look = [&] {
     onBoxes([&](const forms::Control& control, HWND) {

@@ -86,8 +86,8 @@ TEST(CellGridTest, ASheetHasALimitOfCellsAndRows) {
   grid.InsertRow(limits::kRows - 1);
   EXPECT_EQ(grid.RowCount(), limits::kRows);
   EXPECT_EQ(grid.Find(limits::kRows, 1)->number, 1);
-  EXPECT_EQ(test::ErrorOf([] { CellGrid::CheckRoom(limits::kGridCells); }), 0);
-  EXPECT_EQ(test::ErrorOf([] { CellGrid::CheckRoom(limits::kGridCells + 1); }), runtime::error::kApplication);
+  EXPECT_EQ(test::ErrorOf([] { CellGrid::CheckSize(limits::kGridCells); }), 0);
+  EXPECT_EQ(test::ErrorOf([] { CellGrid::CheckSize(limits::kGridCells + 1); }), runtime::error::kApplication);
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ std::vector<pugi::xml_node> AllOf(pugi::xml_node labels) {
 }
 
 /// The runs of a label's own text don't inherit the label's format, so the format is repeated in each run.
-void DressRuns(pugi::xml_node label) {
+void FormatRuns(pugi::xml_node label) {
   for (const pugi::xml_node& paragraph : xml::Children(xml::Child(label, "tx", "rich"), "p")) {
     const auto dress = xml::Child(paragraph, "pPr", "defRPr");
     for (const pugi::xml_node& run : xml::Children(paragraph, "r")) {
@@ -57,7 +57,7 @@ class DataLabelObject final : public excel::DataLabel {
     const pugi::xml_node label = EnsurePointLabel(EnsureLabels(series_.Node()), index_ - 1);
     const bool fresh = !xml::Child(label, "tx", "rich");
     SetTitleText(label, text);
-    if (fresh) DressRuns(label);
+    if (fresh) FormatRuns(label);
     // A label that shows nothing doesn't show its own text.
     if (!ShowsAnything(label)) schema::SetVal(label, "showVal", "1");
     series_.part->MarkChanged();

@@ -44,7 +44,7 @@ class SeriesObject final : public excel::Series {
       }
       return std::string();
     };
-    series_.part->CatchUp();
+    series_.part->FollowMovedRows();
     return "=SERIES(" + reference({"tx"}) + "," + reference({"cat", "xVal"}) + "," +
            reference({"val", "yVal"}) + "," + std::to_string(schema::IntegerVal(series, "order", 0) + 1) +
            ")";

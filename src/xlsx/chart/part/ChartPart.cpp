@@ -136,12 +136,12 @@ std::vector<SeriesRef>& ChartPart::Series() {
   return *series_;
 }
 
-bool ChartPart::CameEmpty() {
+bool ChartPart::WasEmptyWhenOpened() {
   Series();
   return cameEmpty_;
 }
 
-void ChartPart::CatchUp() {
+void ChartPart::FollowMovedRows() {
   Space();
   Follow();
 }
@@ -167,7 +167,7 @@ void ChartPart::Follow() {
   walker.followed = followed_;
   document_->traverse(walker);
   changed_ |= walker.changed;
-  laidAside_.traverse(walker);
+  setAside_.traverse(walker);
   followed_ = mark;
 }
 
@@ -182,15 +182,15 @@ void ChartPart::Write() {
   changed_ = false;
 }
 
-pugi::xml_node ChartPart::LaidAside(const std::string& state) const {
-  return laidAside_.child(state.c_str());
+pugi::xml_node ChartPart::FindSetAside(const std::string& state) const {
+  return setAside_.child(state.c_str());
 }
 
-pugi::xml_node ChartPart::LayAside(const std::string& state) {
-  Forget(state);
-  return laidAside_.append_child(state.c_str());
+pugi::xml_node ChartPart::SetAside(const std::string& state) {
+  DiscardSetAside(state);
+  return setAside_.append_child(state.c_str());
 }
 
-void ChartPart::Forget(const std::string& state) { laidAside_.remove_child(state.c_str()); }
+void ChartPart::DiscardSetAside(const std::string& state) { setAside_.remove_child(state.c_str()); }
 
 }  // namespace plotsmith::xlsx

@@ -53,7 +53,7 @@ class ChartPart {
   /// All series in plot order. Code that adds or removes a series element must update this list as well.
   std::vector<SeriesRef>& Series();
   /// Returns true if the part had no series when it was opened.
-  bool CameEmpty();
+  bool WasEmptyWhenOpened();
 
   /// The theme of the chart's colours and fonts: its own override, otherwise the workbook's.
   const xlsx::Theme& Theme();
@@ -69,17 +69,17 @@ class ChartPart {
   /// Returns true if the part or its shapes were changed.
   bool Changed() const;
   /// Updates the references in the part for rows that have moved since the last call.
-  void CatchUp();
+  void FollowMovedRows();
   /// Writes the changes into the package. A part that can't be read stays as it is.
   void Write();
 
-  /// The elements that were set aside when the chart's type changed, by the name of the type's state. They
-  /// are restored with the type. They exist in memory only.
-  pugi::xml_node LaidAside(const std::string& state) const;
-  /// Makes an empty element for them, which replaces an earlier one.
-  pugi::xml_node LayAside(const std::string& state);
+  /// Returns the elements that were set aside when the chart's type changed, by the name of the type's state.
+  /// They are restored with the type. They exist in memory only.
+  pugi::xml_node FindSetAside(const std::string& state) const;
+  /// Makes an empty element for the elements to set aside, which replaces an earlier one.
+  pugi::xml_node SetAside(const std::string& state);
   /// Discards the elements that were set aside.
-  void Forget(const std::string& state);
+  void DiscardSetAside(const std::string& state);
 
  private:
   void Load();
@@ -93,7 +93,7 @@ class ChartPart {
   std::optional<xlsx::Theme> ownTheme_;
   bool themeKnown_ = false;
   std::unique_ptr<ChartDrawing> drawing_;
-  pugi::xml_document laidAside_;
+  pugi::xml_document setAside_;
   std::optional<std::vector<SeriesRef>> series_;
   bool cameEmpty_ = false;  ///< set together with series_
   bool changed_ = false;

@@ -10,11 +10,12 @@ class ChartPart;
 
 // Excel's layout is not documented. With these constants, the layout of simple charts differs from Excel's by
 // a few points at most.
-inline constexpr double kChartInset = 7;      ///< the margin inside the edge of a chart
-inline constexpr double kTitlePadding = 7.2;  ///< sum of the padding above and below a title's text
-inline constexpr double kTitleShare = 0.8;    ///< share of the chart's width at which a title is wrapped
-inline constexpr double kTitleGap = 5;        ///< between the chart's title and the plot area
-inline constexpr double kLabelGap = 5;        ///< between an axis and its labels
+inline constexpr double kChartInset = 7;      ///< The margin inside the edge of a chart.
+inline constexpr double kTitlePadding = 7.2;  ///< The sum of the padding above and below the text of a title.
+inline constexpr double kTitleShare =
+    0.8;                                ///< The share of the width of the chart at which a title is wrapped.
+inline constexpr double kTitleGap = 5;  ///< The gap between the title of the chart and the plot area.
+inline constexpr double kLabelGap = 5;  ///< The gap between an axis and its labels.
 /// The minimum share of the chart's width and height that the plot area takes.
 inline constexpr double kLeastShare = 0.1;
 
@@ -23,9 +24,9 @@ struct Edges {
   double left = 0, top = 0, right = 0, bottom = 0;
 };
 
-/// The plot area with its tick labels: the space that title, legend and axis titles leave.
+/// Returns the plot area with its tick labels: the space that title, legend and axis titles leave.
 Frame AutomaticPlotArea(ChartPart& part, const Frame& chart);
-/// The space that the tick labels take around the axes.
+/// Returns the space that the tick labels take around the axes.
 Edges TickLabelRoom(ChartPart& part);
 
 }  // namespace plotsmith::xlsx

@@ -119,7 +119,7 @@ void RemoveMisfits(ChartPart& part, pugi::xml_node series) {
   for (const Extra& extra : kExtras) {
     if (Lists(extra.groups, xml::LocalName(series.parent()))) continue;
     const auto node = xml::Child(series, extra.name);
-    if (node && extra.name == "bubbleSize") part.LayAside(StateOfSeries(series)).append_copy(node);
+    if (node && extra.name == "bubbleSize") part.SetAside(StateOfSeries(series)).append_copy(node);
     schema::Remove(series, extra.name);
   }
 }
@@ -147,8 +147,8 @@ void FitToGroup(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& ty
     if (xml::Is(FindFill(xml::Child(properties, "ln")), "noFill")) schema::Remove(properties, "ln");
   }
   if (type.IsBubble() && !xml::Child(series, "bubbleSize")) {
-    const auto laidAside = xml::Child(part.LaidAside(StateOfSeries(series)), "bubbleSize");
-    if (laidAside) schema::InsertCopy(series, laidAside);
+    const auto setAside = xml::Child(part.FindSetAside(StateOfSeries(series)), "bubbleSize");
+    if (setAside) schema::InsertCopy(series, setAside);
   }
   for (const pugi::xml_node& labels : xml::Children(series, "dLbls")) {
     KeepAllowedPositions(labels, series.parent());
@@ -160,7 +160,7 @@ void FitSeries(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& typ
   SetTrait(series, type.trait);
 }
 
-void ForgetSeries(ChartPart& part, pugi::xml_node series) { part.Forget(StateOfSeries(series)); }
+void ForgetSeries(ChartPart& part, pugi::xml_node series) { part.DiscardSetAside(StateOfSeries(series)); }
 
 pugi::xml_node DeriveGroup(pugi::xml_node plotArea, pugi::xml_node old, const ChartTypeEntry& type) {
   pugi::xml_node group = schema::Insert(plotArea, type.element);

@@ -11,6 +11,7 @@ namespace plotsmith::xlsx {
 
 /// The smallest and the largest value along an axis.
 struct DataExtent {
+  /// The two values. They are absent if there are no data.
   std::optional<double> least, greatest;
 
   /// Includes a number, unless it is infinite or NaN.
@@ -19,10 +20,10 @@ struct DataExtent {
 
 /// How the values of several series are added up.
 struct StackRules {
-  /// Bars below zero are stacked downwards, separately from those above it. Lines and areas are simply added
-  /// up.
+  /// Whether values below zero are stacked downwards, separately from those above it, as in bars. Lines and
+  /// areas are simply added up.
   bool isSplit = true;
-  /// Values are shares of the sum of all absolute values of their point.
+  /// Whether values are shares of the sum of all absolute values of their point.
   bool isPercent = false;
 };
 
@@ -31,9 +32,9 @@ struct StackRules {
 void AddStacks(const std::vector<std::span<const double>>& series, const StackRules& rules,
                DataExtent& extent);
 
-/// The manual settings of a value axis. Limits that are impossible for an axis are ignored.
+/// Returns the manual settings of a value axis. Limits that are impossible for an axis are ignored.
 AxisSettings SettingsOf(pugi::xml_node axis, bool headroom);
-/// The scale of an axis with this data and these settings.
+/// Returns the scale of an axis with these data and these settings.
 AxisScale ScaleAxis(const DataExtent& extent, const AxisSettings& settings);
 
 }  // namespace plotsmith::xlsx

@@ -76,9 +76,9 @@ pugi::xml_node NewAxis(pugi::xml_node plotArea, std::string_view element) {
 }
 
 /// Restores an axis that was set aside, with an unused id.
-pugi::xml_node Restored(pugi::xml_node plotArea, pugi::xml_node laidAside) {
-  const std::string id = FreeAxisId(plotArea, AxisId(laidAside));
-  pugi::xml_node axis = schema::InsertCopy(plotArea, laidAside);
+pugi::xml_node Restored(pugi::xml_node plotArea, pugi::xml_node setAside) {
+  const std::string id = FreeAxisId(plotArea, AxisId(setAside));
+  pugi::xml_node axis = schema::InsertCopy(plotArea, setAside);
   schema::SetVal(axis, "axId", id);
   return axis;
 }
@@ -86,7 +86,7 @@ pugi::xml_node Restored(pugi::xml_node plotArea, pugi::xml_node laidAside) {
 /// Returns the chart's axis for a role: the present one, else the last one that it had, else a new one.
 pugi::xml_node EnsureAxis(ChartPart& part, pugi::xml_node present, const char* role) {
   if (present) return present;
-  if (const auto laidAside = part.LaidAside(role).first_child()) return Restored(part.PlotArea(), laidAside);
+  if (const auto setAside = part.FindSetAside(role).first_child()) return Restored(part.PlotArea(), setAside);
   const bool category = std::string_view(role) == kCategoryRole;
   pugi::xml_node axis = NewAxis(part.PlotArea(), category ? "catAx" : "valAx");
   if (std::string_view(role) == kXRole) schema::Remove(axis, "majorGridlines");
@@ -175,7 +175,7 @@ AxisRoles KeepAxes(ChartPart& part, const std::vector<pugi::xml_node>& old, cons
   AxisRoles roles = RolesOf(old);
   const auto drop = [&](pugi::xml_node& axis, bool keep, const char* role) {
     if (!axis || keep) return;
-    part.LayAside(role).append_copy(axis);
+    part.SetAside(role).append_copy(axis);
     axis = {};
   };
   drop(roles.category, type.HasAxes() && !type.HasXValues(), kCategoryRole);
@@ -208,8 +208,8 @@ void LinkDepthAxis(pugi::xml_node plotArea, pugi::xml_node group, pugi::xml_node
                    const ChartTypeEntry& type, pugi::xml_node state) {
   if (type.HasDepthAxis()) {
     if (!depth) {
-      const auto laidAside = xml::Child(state, "serAx");
-      depth = laidAside ? Restored(plotArea, laidAside) : NewAxis(plotArea, "serAx");
+      const auto setAside = xml::Child(state, "serAx");
+      depth = setAside ? Restored(plotArea, setAside) : NewAxis(plotArea, "serAx");
     }
     schema::SetVal(depth, "crossAx", AxisId(first));
     Link(group, AxisId(depth));

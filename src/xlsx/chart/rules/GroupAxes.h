@@ -10,20 +10,21 @@ namespace plotsmith::xlsx {
 
 class ChartPart;
 
-/// The axes of a group, in the order in which the group lists them.
+/// Returns the axes of a group, in the order in which the group lists them.
 std::vector<pugi::xml_node> AxesOf(pugi::xml_node group);
 
 /// The axes of a group by their roles. A group whose points have X values has `x` instead of `category`.
+/// Axes that the group doesn't have are null.
 struct AxisRoles {
   pugi::xml_node category, x, value, depth;
 };
 /// Returns the axes of a group by their roles.
 AxisRoles RolesOf(const std::vector<pugi::xml_node>& axes);
 
-/// The primary axis of a kind; a null node if the chart has none. With `value`, it is the value axis;
-/// otherwise the category axis or the axis of X values.
+/// Returns the primary axis of a kind, or a null node if the chart has none. If `value` is true, it is the
+/// value axis; otherwise it is the category axis or the axis of X values.
 pugi::xml_node FindAxis(ChartPart& part, bool value);
-/// The axis that an axis crosses.
+/// Returns the axis that an axis crosses.
 pugi::xml_node FindCrossedAxis(pugi::xml_node axis);
 
 /// Gives a group the axes that its type needs: those that it had (`old`), those that an earlier type has
@@ -34,8 +35,8 @@ void ArrangeAxes(ChartPart& part, pugi::xml_node group, const std::vector<pugi::
                  const ChartTypeEntry& type, pugi::xml_node state, bool familyChanged);
 /// Shows the axes of the chart if all of them are hidden. Excel hides the axes of a chart without data.
 void ShowAxes(ChartPart& part);
-/// The position at which the value axis crosses the other axis by default (ST_CrossBetween), for a type of
-/// group.
+/// Returns the position at which the value axis crosses the other axis by default (ST_CrossBetween), for a
+/// type of group.
 std::string_view CrossBetween(std::string_view groupElement);
 /// Makes a group use the axes of another group.
 void ShareAxes(pugi::xml_node group, pugi::xml_node other);

@@ -36,7 +36,7 @@ std::string StateName(const ChartTypeEntry& type) {
 /// Sets aside all elements that belong to one chart type: copies of the group without its series, of the
 /// view, floor and walls of a 3-D chart, of the depth axis, and of the crossing of the value axis.
 void LayTypeAside(ChartPart& part, pugi::xml_node group) {
-  pugi::xml_node state = part.LayAside(StateName(group));
+  pugi::xml_node state = part.SetAside(StateName(group));
   pugi::xml_node kept = state.append_copy(group);
   schema::Remove(kept, "ser");
   schema::Remove(kept, "axId");
@@ -52,10 +52,10 @@ void LayTypeAside(ChartPart& part, pugi::xml_node group) {
 /// Returns the group that was set aside for the type, else one that is derived from an old group.
 pugi::xml_node MakeGroup(ChartPart& part, pugi::xml_node old, const ChartTypeEntry& type,
                          pugi::xml_node state) {
-  const auto laidAside = xml::Child(state, type.element);
+  const auto setAside = xml::Child(state, type.element);
   const pugi::xml_node group =
-      laidAside ? schema::InsertCopy(part.PlotArea(), laidAside) : DeriveGroup(part.PlotArea(), old, type);
-  FitGroup(group, type, static_cast<bool>(laidAside));
+      setAside ? schema::InsertCopy(part.PlotArea(), setAside) : DeriveGroup(part.PlotArea(), old, type);
+  FitGroup(group, type, static_cast<bool>(setAside));
   return group;
 }
 
@@ -170,7 +170,7 @@ SeriesRef AddSeries(ChartPart& part) {
   }
   SetLabels(series, false);  // a new series has no labels, even if its group has some
   ClearStaleLegendEntries(part, all.size());
-  if (all.empty() && part.CameEmpty()) ShowAxes(part);
+  if (all.empty() && part.WasEmptyWhenOpened()) ShowAxes(part);
   all.push_back(std::make_shared<SeriesEntry>(SeriesEntry{series}));
   part.MarkChanged();
   return all.back();
@@ -217,7 +217,7 @@ void SetType(ChartPart& part, const ChartTypeEntry& type) {
     FitGroup(group, type, true);
   } else {
     for (const pugi::xml_node& other : groups) LayTypeAside(part, other);
-    state = part.LaidAside(StateName(type));
+    state = part.FindSetAside(StateName(type));
     group = MakeGroup(part, old, type, state);
     for (const pugi::xml_node& node : series) schema::InsertMoved(group, node);
     for (const pugi::xml_node& other : groups) plotArea.remove_child(other);
@@ -249,7 +249,7 @@ void SetSeriesType(ChartPart& part, pugi::xml_node series, const ChartTypeEntry&
   });
   pugi::xml_node target;
   if (found == all.end()) {
-    target = MakeGroup(part, group, type, part.LaidAside(StateName(type)));
+    target = MakeGroup(part, group, type, part.FindSetAside(StateName(type)));
     ShareAxes(target, group);
     PutInDrawingOrder(target);
   } else {

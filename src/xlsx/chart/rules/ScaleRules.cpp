@@ -39,11 +39,11 @@ AxisScale LogScale(double least, double greatest, const AxisSettings& settings) 
 }
 
 /// The limits before they are rounded outwards to a multiple of the major unit.
-struct Wish {
+struct RawLimits {
   double minimum, maximum;
 };
 
-Wish WishFor(double least, double greatest, bool headroom) {
+RawLimits RawLimitsFor(double least, double greatest, bool headroom) {
   const double range = greatest - least;
   const double room = headroom ? range * kHeadroom : 0;
   if (least >= 0) {
@@ -51,7 +51,7 @@ Wish WishFor(double least, double greatest, bool headroom) {
     return {far ? least - range * kFootroom : 0, greatest + room};
   }
   if (greatest <= 0) {
-    const Wish mirrored = WishFor(-greatest, -least, headroom);
+    const RawLimits mirrored = RawLimitsFor(-greatest, -least, headroom);
     return {-mirrored.maximum, -mirrored.minimum};
   }
   return {least - room, greatest + room};
@@ -68,12 +68,12 @@ AxisScale ScaleAxis(double least, double greatest, const AxisSettings& settings)
   if (least == greatest) return ScaleEmptyAxis(settings);
   if (settings.minimum) least = std::min(*settings.minimum, greatest);
   if (settings.maximum) greatest = std::max(*settings.maximum, least);
-  Wish wish = WishFor(least, greatest, settings.headroom);
-  if (settings.minimum) wish.minimum = *settings.minimum;
-  if (settings.maximum) wish.maximum = *settings.maximum;
-  const double unit = settings.majorUnit.value_or(UnitFor(wish.maximum - wish.minimum));
-  const AxisScale scale{settings.minimum.value_or(StepDown(wish.minimum, unit)),
-                        settings.maximum.value_or(StepUp(wish.maximum, unit)), unit};
+  RawLimits limits = RawLimitsFor(least, greatest, settings.headroom);
+  if (settings.minimum) limits.minimum = *settings.minimum;
+  if (settings.maximum) limits.maximum = *settings.maximum;
+  const double unit = settings.majorUnit.value_or(UnitFor(limits.maximum - limits.minimum));
+  const AxisScale scale{settings.minimum.value_or(StepDown(limits.minimum, unit)),
+                        settings.maximum.value_or(StepUp(limits.maximum, unit)), unit};
   const bool sound = std::isfinite(scale.minimum) && std::isfinite(scale.maximum);
   return sound ? scale : AxisScale{least, greatest, unit};
 }

@@ -11,15 +11,17 @@ struct AxisScale {
 
 /// The settings of an axis that replace automatic ones. A limit that is set replaces the data on its side.
 struct AxisSettings {
+  /// The settings. They are absent if they are automatic.
   std::optional<double> minimum, maximum, majorUnit;
+  /// The base of a logarithmic scale. It is absent for a linear scale.
   std::optional<double> logBase;
-  /// True if there is space above the largest value. 3-D charts and 100 % stacked charts have none.
+  /// Whether there is space above the largest value. 3-D charts and 100 % stacked charts have none.
   bool headroom = true;
 };
 
-/// The scale for data from `least` to `greatest`.
+/// Returns the scale for data from `least` to `greatest`.
 AxisScale ScaleAxis(double least, double greatest, const AxisSettings& settings = {});
-/// The scale of an axis without data.
+/// Returns the scale of an axis without data.
 AxisScale ScaleEmptyAxis(const AxisSettings& settings = {});
 
 }  // namespace plotsmith::xlsx

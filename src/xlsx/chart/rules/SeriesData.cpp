@@ -189,7 +189,7 @@ std::string ShownName(ChartPart& part, pugi::xml_node series) {
 void SetSeriesData(ChartPart& part, pugi::xml_node series, SeriesData which, const Variant& value) {
   const auto* text = value.If<std::string>();
   if (text == nullptr) throw CantSet(PropertyName(which), "Series");
-  part.CatchUp();  // references that are set now are up to date
+  part.FollowMovedRows();  // references that are set now are up to date
   if (which == SeriesData::kName && !text->starts_with('=')) {
     SetCachedText(Emptied(series, "tx"), *text);
   } else {

@@ -13,7 +13,7 @@ namespace plotsmith::cli {
 
 /// The effect of a run on the definitions of the charts that it builds.
 enum class DefinitionsAre {
-  kTaken,    ///< It uses them as stored.
+  kUsed,     ///< It uses them as stored.
   kRenamed,  ///< It renames columns, and axis titles with them.
   kEdited    ///< Pages and options change them.
 };
@@ -27,10 +27,10 @@ struct RunRefusals {
 /// Checks a workbook before, during and after a run that writes it: the rows of definitions before, each
 /// chart when its build begins, and the result. So the user learns everything that the run does to their
 /// work.
-class RunLook {
+class RunCheck {
  public:
   /// Checks the rows. `oWorkbook` must be set, and `book` is that workbook. `book` must outlive this object.
-  RunLook(xlsx::Workbook& book, DefinitionsAre definitions);
+  RunCheck(xlsx::Workbook& book, DefinitionsAre definitions);
 
   /// Returns the rows that the run would lose. A run that makes, changes or deletes charts is also forbidden
   /// if ids are ambiguous.

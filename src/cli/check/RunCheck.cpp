@@ -1,4 +1,4 @@
-#include "cli/check/RunLook.h"
+#include "cli/check/RunCheck.h"
 
 #include <algorithm>
 #include <utility>
@@ -37,13 +37,13 @@ bool ForbidsDrawing(const Finding& finding) {
 
 }  // namespace
 
-RunLook::RunLook(xlsx::Workbook& book, DefinitionsAre definitions)
+RunCheck::RunCheck(xlsx::Workbook& book, DefinitionsAre definitions)
     : book_(book),
       definitions_(definitions),
       rows_(CheckRows(book)),
       strayCharts_(CheckStrayCharts(book, rows_)) {}
 
-RunRefusals RunLook::Refusals() const {
+RunRefusals RunCheck::Refusals() const {
   RunRefusals refusals;
   const auto refuses = [&](const Finding& finding) {
     return finding.severity == Severity::kRefuses ||
@@ -62,14 +62,14 @@ RunRefusals RunLook::Refusals() const {
   return refusals;
 }
 
-const CheckedDefinition* RunLook::FindRow(const std::string& id) const {
+const CheckedDefinition* RunCheck::FindRow(const std::string& id) const {
   const auto found = std::find_if(rows_.begin(), rows_.end(), [&](const CheckedDefinition& row) {
     return row.id == id && !row.IsLost() && !row.IsUnread();
   });
   return found == rows_.end() ? nullptr : &*found;
 }
 
-void RunLook::ChartStarted(const std::string& id) {
+void RunCheck::ChartStarted(const std::string& id) {
   const auto chart = colCharts->Item(id).selectSingleNode("chart");
   Findings& findings = started_[id];
   findings = CheckSources(book_, chart, "");
@@ -80,13 +80,13 @@ void RunLook::ChartStarted(const std::string& id) {
   }
 }
 
-void RunLook::CompareStored() {
+void RunCheck::CompareStored() {
   if (definitions_ == DefinitionsAre::kEdited || !colCharts || std::exchange(compared_, true)) return;
   differences_ = CheckReadBack(
       book_, rows_, definitions_ == DefinitionsAre::kRenamed ? AxisTitles::kRenamed : AxisTitles::kCompared);
 }
 
-bool RunLook::IsFine() const {
+bool RunCheck::IsFine() const {
   const auto isFine = [](const auto& findings) { return findings.empty(); };
   return bubbles_.empty() && differences_.empty() && strayCharts_.empty() &&
          std::all_of(rows_.begin(), rows_.end(), [&](const auto& row) { return isFine(row.findings); }) &&
@@ -94,7 +94,7 @@ bool RunLook::IsFine() const {
                      [&](const auto& chart) { return isFine(chart.second); });
 }
 
-void RunLook::CollectLost(std::vector<ChartFinding>& collected) const {
+void RunCheck::CollectLost(std::vector<ChartFinding>& collected) const {
   for (const CheckedDefinition& row : rows_) {
     for (const Finding& finding : row.findings) {
       if (LosesRow(finding)) collected.push_back({finding, Called(row.id, row.name)});
@@ -102,7 +102,7 @@ void RunLook::CollectLost(std::vector<ChartFinding>& collected) const {
   }
 }
 
-void RunLook::CollectKept(const CheckedDefinition& row, std::vector<ChartFinding>& collected) const {
+void RunCheck::CollectKept(const CheckedDefinition& row, std::vector<ChartFinding>& collected) const {
   const auto collect = [&](Finding finding) {
     if (finding.place.empty()) finding.place = row.place;
     collected.push_back({std::move(finding), Called(row.id, row.name)});
@@ -138,7 +138,7 @@ void RunLook::CollectKept(const CheckedDefinition& row, std::vector<ChartFinding
   }
 }
 
-std::vector<std::string> RunLook::Lines(const std::vector<ChartFinding>& collected) {
+std::vector<std::string> RunCheck::Lines(const std::vector<ChartFinding>& collected) {
   std::vector<std::pair<const Finding*, std::vector<std::string>>> groups;
   for (const ChartFinding& each : collected) {
     const auto group = std::find_if(groups.begin(), groups.end(), [&](const auto& other) {
@@ -151,11 +151,11 @@ std::vector<std::string> RunLook::Lines(const std::vector<ChartFinding>& collect
   }
   std::vector<std::string> lines;
   for (const auto& [finding, charts] : groups)
-    lines.push_back(Line(finding->place, charts, Reported(*finding)));
+    lines.push_back(Line(finding->place, charts, SentenceAfterRun(*finding)));
   return lines;
 }
 
-std::vector<std::string> RunLook::Finish() {
+std::vector<std::string> RunCheck::Finish() {
   CompareStored();
   if (IsFine()) return {};
   std::vector<ChartFinding> collected;

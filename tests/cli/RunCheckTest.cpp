@@ -27,7 +27,7 @@ const S kDrawing = "/xl/drawings/drawing2.xml";
 const S kChart = "/xl/charts/chart1.xml";
 
 /// Tests the messages on stderr with which writing commands report what happens to a person's work.
-class RunLookTest : public ::testing::Test {
+class RunCheckTest : public ::testing::Test {
  protected:
   static S Bytes(const S& path) {
     std::ifstream file(path, std::ios::binary);
@@ -77,7 +77,7 @@ S Line(const S& sentence, const S& place = "VEX_ChartDefinitions!A2") {
   return "plotsmith: " + place + " (chart 'Name of VEX_Chart1'): " + sentence + "\n";
 }
 
-TEST_F(RunLookTest, NothingIsWrittenIfADefinitionWouldBeLost) {
+TEST_F(RunCheckTest, NothingIsWrittenIfADefinitionWouldBeLost) {
   const S good = Definition{"VEX_Chart1"}.Xml();
   const S named = " (chart 'Name of VEX_Chart1'): ";
   const struct {
@@ -119,7 +119,7 @@ TEST_F(RunLookTest, NothingIsWrittenIfADefinitionWouldBeLost) {
   }
 }
 
-TEST_F(RunLookTest, AMissingDrawnChartLosesItsDefinition) {
+TEST_F(RunCheckTest, AMissingDrawnChartLosesItsDefinition) {
   Write(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}}));
   EXPECT_EQ(Refresh(), "");
   Edit(kDrawing, "descr=\"VEX_Chart1\"", "descr=\"Mine\"");
@@ -131,7 +131,7 @@ TEST_F(RunLookTest, AMissingDrawnChartLosesItsDefinition) {
   EXPECT_EQ(Refresh(), "");
 }
 
-TEST_F(RunLookTest, AGroupedChartIsNotLost) {
+TEST_F(RunCheckTest, AGroupedChartIsNotLost) {
   Write(SalesBook({{"VEX_Chart1"}}));
   EXPECT_EQ(Refresh(), "");
   const S group =
@@ -150,7 +150,7 @@ TEST_F(RunLookTest, AGroupedChartIsNotLost) {
   EXPECT_EQ(Refresh(), "") << "the definition is still there";
 }
 
-TEST_F(RunLookTest, UnreadRowsAndUnknownNamesAreReported) {
+TEST_F(RunCheckTest, UnreadRowsAndUnknownNamesAreReported) {
   Definition odd{"VEX_Chart1"};
   odd.attributes += " colour=\"red\"";
   odd.rest = test::Settings({"staked"});
@@ -175,7 +175,7 @@ TEST_F(RunLookTest, UnreadRowsAndUnknownNamesAreReported) {
                      "pie, bubble or strategic bucket."));
 }
 
-TEST_F(RunLookTest, ChangesOfDefinitionsAndOfChartsAreDistinguished) {
+TEST_F(RunCheckTest, ChangesOfDefinitionsAndOfChartsAreDistinguished) {
   Definition definition{"VEX_Chart1"};
   definition.rest = "<axes><axis type=\"value\" label=\"Euro\" sticky=\"no\"/></axes>";
   PlainBook book = SalesBook({definition});
@@ -222,7 +222,7 @@ TEST_F(RunLookTest, ChangesOfDefinitionsAndOfChartsAreDistinguished) {
           "The title is 'Sales' on the chart and 'Costs' in the definition; the one on the chart was kept."));
 }
 
-TEST_F(RunLookTest, AVerbThatChangesDefinitionsReportsTheRemainingProblems) {
+TEST_F(RunCheckTest, AVerbThatChangesDefinitionsReportsTheRemainingProblems) {
   Definition definition{"VEX_Chart1"};
   definition.rest = "<axes><axis type=\"value\" label=\"Amount\" sticky=\"no\"/></axes>";
   Write(SalesBook({definition}));
@@ -247,7 +247,7 @@ TEST_F(RunLookTest, AVerbThatChangesDefinitionsReportsTheRemainingProblems) {
       << "the type has changed, and the other chart isn't drawn";
 }
 
-TEST_F(RunLookTest, CellsThatMakeAWrongPictureAreReported) {
+TEST_F(RunCheckTest, CellsThatMakeAWrongPictureAreReported) {
   const RawCell formula{"><f>1+1</f><v></v></c>"}, error{" t=\"e\"><v>#N/A</v></c>"};
   const auto refresh = [&](const auto& change, const Definition& definition = {}) {
     PlainBook book = SalesBook({definition});
@@ -282,7 +282,7 @@ TEST_F(RunLookTest, CellsThatMakeAWrongPictureAreReported) {
             Line("A column chart needs the element 'values', unless its headings are in columns."));
 }
 
-TEST_F(RunLookTest, CommonProblemsOfSeveralChartsAreOneLine) {
+TEST_F(RunCheckTest, CommonProblemsOfSeveralChartsAreOneLine) {
   PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}});
   book.Sheet("Data1").rows[2][2] = S("5 pcs");
   Write(book);
@@ -292,7 +292,7 @@ TEST_F(RunLookTest, CommonProblemsOfSeveralChartsAreOneLine) {
             "counts as 0.\n");
 }
 
-TEST_F(RunLookTest, APossiblyRenamedColumnIsReported) {
+TEST_F(RunCheckTest, APossiblyRenamedColumnIsReported) {
   PlainBook book = SalesBook({{"VEX_Chart1"}});
   Write(book);
   EXPECT_EQ(Refresh(), "");
@@ -329,7 +329,7 @@ TEST_F(RunLookTest, APossiblyRenamedColumnIsReported) {
       << "a column of another chart isn't a new name";
 }
 
-TEST_F(RunLookTest, ABubbleWithoutALabelPreventsTheLegend) {
+TEST_F(RunCheckTest, ABubbleWithoutALabelPreventsTheLegend) {
   const S start = "The column 'Group' has ";
   const S again =
       ", and then switch on the chart's own legend in a spreadsheet program; the next refresh draws it.";
@@ -364,7 +364,7 @@ TEST_F(RunLookTest, ABubbleWithoutALabelPreventsTheLegend) {
   EXPECT_EQ(Refresh(), "") << "each piece has a colour";
 }
 
-TEST_F(RunLookTest, TooManyBucketsAreReported) {
+TEST_F(RunCheckTest, TooManyBucketsAreReported) {
   const auto write = [&](int count) {
     PlainBook book = test::BucketBook(test::BucketDefinition());
     auto& rows = book.Sheet("Buckets").rows;
@@ -410,7 +410,7 @@ TEST_F(RunLookTest, TooManyBucketsAreReported) {
   EXPECT_NE(Charts().find("strategic bucket chart"), S::npos) << Charts();
 }
 
-TEST_F(RunLookTest, AmbiguousChartsPreventNewAndDeletedCharts) {
+TEST_F(RunCheckTest, AmbiguousChartsPreventNewAndDeletedCharts) {
   const S drop =
       "plotsmith: nothing was changed, because charts could be confused with each other; correct this, or "
       "use --drop-broken.\n";
@@ -444,7 +444,7 @@ TEST_F(RunLookTest, AmbiguousChartsPreventNewAndDeletedCharts) {
   }
 }
 
-TEST_F(RunLookTest, AWorkbookWithoutDefinitionsHasNoOtherMessages) {
+TEST_F(RunCheckTest, AWorkbookWithoutDefinitionsHasNoOtherMessages) {
   PlainBook book;
   book.sheets.push_back(test::SalesSheet("Sheet1"));
   book.sheets[0].rows[1][2] = RawCell{"><f>1+1</f><v></v></c>"};
