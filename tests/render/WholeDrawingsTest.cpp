@@ -1,0 +1,343 @@
+#include <cstdlib>
+#include <fstream>
+#include <map>
+#include <sstream>
+
+#include "render/TextMeasure.h"
+#include "runtime/Strings.h"
+#include "tests/render/DrawingTest.h"
+#include "tests/support/Paths.h"
+#include "xlsx/chart/part/ChartPart.h"
+#include "xlsx/package/Xml.h"
+
+namespace plotsmith {
+namespace {
+
+using namespace test;
+using render::Drawing;
+using render::Item;
+using render::Point;
+using render::Rect;
+using S = std::string;
+using Numbers = std::vector<double>;
+
+/// A font whose letters all have the same width, so that drawings don't depend on the installed fonts.
+class EvenMeasure : public render::TextMeasure {
+ public:
+  render::TextExtent Measure(std::string_view line, const render::Font& font) const override {
+    return {0.5 * font.size * static_cast<double>(runtime::Len(line)), 0.75 * font.size, 0.25 * font.size};
+  }
+};
+
+/// Returns a number with one decimal.
+S Short(double value) { return xlsx::xml::Number(std::floor(value * 10 + 0.5 + 1e-6) / 10 + 0.0); }
+S Place(Point at) { return Short(at.x) + "," + Short(at.y); }
+
+S WordsOf(const render::Path& path) {
+  using Kind = render::PathStep::Kind;
+  S words;
+  for (const auto& step : path.Steps()) {
+    if (step.kind == Kind::kMove) words += " M" + Place(step.to);
+    if (step.kind == Kind::kLine) words += " " + Place(step.to);
+    if (step.kind == Kind::kCurve)
+      words += " C" + Place(step.control1) + " " + Place(step.control2) + " " + Place(step.to);
+    if (step.kind == Kind::kClose) words += "Z";
+  }
+  return words;
+}
+
+S WordsOf(const render::Color& color) {
+  return HexOf(color) + (color.alpha < 1 ? "@" + Short(100 * color.alpha) : "");
+}
+
+S WordsOf(const render::Fill& fill) {
+  if (const auto* solid = std::get_if<render::SolidFill>(&fill)) return WordsOf(solid->color);
+  if (const auto* pattern = std::get_if<render::PatternFill>(&fill)) return pattern->preset;
+  return std::holds_alternative<std::monostate>(fill) ? "none" : "other";
+}
+
+S WordsOf(const render::Stroke& stroke) {
+  if (stroke.width == 0) return "";
+  S words = "/" + WordsOf(stroke.color) + "*" + Short(stroke.width);
+  for (const double dash : stroke.dashes) words += "-" + Short(dash);
+  return words;
+}
+
+/// Returns the look of an item and its place.
+std::pair<S, S> WordsOf(const Item& item) {
+  if (const auto* path = std::get_if<render::PathItem>(&item.content))
+    return {WordsOf(path->fill) + WordsOf(path->stroke), WordsOf(path->path)};
+  if (const auto* text = std::get_if<render::TextItem>(&item.content)) {
+    constexpr const char* kAligns[] = {"<", "|", ">"};
+    const S look = WordsOf(text->color) + "~" + Short(text->font.size) + (text->font.bold ? "b" : "") +
+                   kAligns[static_cast<int>(text->align)] +
+                   (text->rotation == 0 ? "" : Short(text->rotation));
+    return {look, " '" + text->text + "'" + Place(text->anchor)};
+  }
+  if (const auto* clip = std::get_if<render::PushClip>(&item.content))
+    return {"", " clip" + WordsOf(clip->path)};
+  if (const auto* shadow = std::get_if<render::ShadowItem>(&item.content))
+    return {WordsOf(shadow->color) + "*" + Short(shadow->lineWidth) + "%" + Short(shadow->blur),
+            WordsOf(shadow->path)};
+  return {"", std::holds_alternative<render::PopClip>(item.content) ? " end" : " image"};
+}
+
+/// Returns a drawing as text: a line for each element of the chart, with its items. A look in braces applies
+/// up to the next one.
+S WordsOf(const Drawing& drawing) {
+  S words, element, look;
+  for (const Item& item : drawing.items) {
+    const S of = S(NameOf(item.tag.role)) + " " + std::to_string(item.tag.series);
+    if (of != element) words += "\n" + of + ":";
+    element = of;
+    const auto [itsLook, place] = WordsOf(item);
+    if (itsLook != look && !itsLook.empty()) words += " {" + itsLook + "}";
+    if (!itsLook.empty()) look = itsLook;
+    words += (item.tag.point == 0 ? "" : " " + std::to_string(item.tag.point)) + place;
+  }
+  return words.substr(1) + "\n";
+}
+
+S Scaling(const S& more) { return "<c:scaling>" + more + "</c:scaling>"; }
+S Columns(const S& series, const S& last = "", const S& grouping = "clustered", const S& direction = "col") {
+  return GroupXml("barChart", "<c:barDir val=\"" + direction + "\"/><c:grouping val=\"" + grouping + "\"/>",
+                  series, last);
+}
+S Lines(const S& series, const S& last = "", const S& grouping = "standard") {
+  return GroupXml("lineChart", "<c:grouping val=\"" + grouping + "\"/>", series, last);
+}
+S Labels(const S& which, const S& more = "") {
+  return "<c:dLbls>" + more + "<c:" + which + " val=\"1\"/></c:dLbls>";
+}
+S Marker(const S& symbol, const S& size = "6") {
+  return "<c:marker><c:symbol val=\"" + symbol + "\"/><c:size val=\"" + size + "\"/></c:marker>";
+}
+S Literal(const S& element, const Numbers& numbers) {
+  S points;
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    points +=
+        "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + xlsx::xml::Number(numbers[i]) + "</c:v></c:pt>";
+  }
+  return "<c:" + element + "><c:numLit><c:ptCount val=\"" + std::to_string(numbers.size()) + "\"/>" + points +
+         "</c:numLit></c:" + element + ">";
+}
+S PointSeries(int index, const Numbers& x, const Numbers& y, const S& more = "", const S& behind = "") {
+  const S number = std::to_string(index);
+  return "<c:ser><c:idx val=\"" + number + "\"/><c:order val=\"" + number + "\"/>" + more +
+         Literal("xVal", x) + Literal("yVal", y) + behind + "</c:ser>";
+}
+S With(S xml, const S& from, const S& to) { return runtime::Replace(xml, from, to); }
+S Title(const S& text) {
+  return "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>" + text +
+         "</a:t></a:r></a:p></c:rich></c:tx></c:title>";
+}
+/// Categories of two levels.
+S Levels() {
+  const auto level = [](const std::vector<std::pair<int, S>>& texts) {
+    S xml = "<c:lvl>";
+    for (const auto& [index, text] : texts)
+      xml += "<c:pt idx=\"" + std::to_string(index) + "\"><c:v>" + text + "</c:v></c:pt>";
+    return xml + "</c:lvl>";
+  };
+  return "<c:cat><c:multiLvlStrRef><c:f>Sheet1!$A$1:$B$5</c:f><c:multiLvlStrCache><c:ptCount val=\"5\"/>" +
+         level({{0, "Jan"}, {1, "Feb"}, {2, "Mar"}, {3, "Apr"}, {4, "May"}}) +
+         level({{0, "North"}, {2, "A long name of the south and all of its many islands"}}) +
+         "</c:multiLvlStrCache></c:multiLvlStrRef></c:cat>";
+}
+
+const S kNames = CategoriesXml({"North", "East", "South", "West"});
+const S kLegend = "<c:legend><c:legendPos val=\"r\"/></c:legend>";
+const S kGrid = "<c:majorGridlines/>", kBothGrids = "<c:majorGridlines/><c:minorGridlines/>";
+const S kMarks = "<c:majorTickMark val=\"cross\"/><c:minorTickMark val=\"in\"/>";
+const S kMarksIn = "<c:majorTickMark val=\"in\"/><c:minorTickMark val=\"out\"/>";
+
+std::map<S, S> Charts() {
+  const S values = "<c:valAx>", points = "<c:catAx>";
+  const S valueAxes = With(AxesXml(kGrid, kGrid), "catAx", "valAx");
+  const S dates =
+      "<c:cat><c:numLit><c:formatCode>m-d</c:formatCode><c:ptCount val=\"3\"/><c:pt idx=\"0\"><c:v>45292"
+      "</c:v></c:pt><c:pt idx=\"1\"><c:v>45296</c:v></c:pt><c:pt idx=\"2\"><c:v>45294</c:v></c:pt>"
+      "</c:numLit></c:cat>";
+  const S reversed = Scaling("<c:orientation val=\"maxMin\"/>");
+  const S slices = "<c:pieChart><c:varyColors val=\"1\"/>";
+  const S moved =
+      "<c:dLbl><c:idx val=\"1\"/><c:layout><c:manualLayout><c:x val=\"0.2\"/><c:y val=\"-0.1\"/>"
+      "</c:manualLayout></c:layout><c:showVal val=\"1\"/></c:dLbl><c:dLbl><c:idx val=\"2\"/><c:layout>"
+      "<c:manualLayout><c:x val=\"0.4\"/></c:manualLayout></c:layout><c:showVal val=\"1\"/></c:dLbl>";
+  const S wide = CategoriesXml({"Northern hemisphere", "Equator", "Southern hemisphere"});
+  S many;
+  Numbers small = {40, 30};
+  for (int i = 0; i < 14; ++i) small.push_back(1.5 + i % 3);
+  const S errors =
+      "<c:errBars><c:errDir val=\"y\"/><c:errBarType val=\"both\"/><c:errValType val=\"fixedVal\"/>"
+      "<c:val val=\"2\"/></c:errBars>";
+  const S trend =
+      "<c:trendline><c:trendlineType val=\"linear\"/><c:forward val=\"1\"/><c:backward val=\"0.5\"/>"
+      "<c:dispRSqr val=\"1\"/><c:dispEq val=\"1\"/></c:trendline>";
+  const S shadow =
+      "<c:spPr><a:solidFill><a:srgbClr val=\"00B050\"/></a:solidFill><a:ln w=\"25400\"><a:solidFill>"
+      "<a:srgbClr val=\"7030A0\"/></a:solidFill><a:prstDash val=\"dash\"/></a:ln><a:effectLst>"
+      "<a:outerShdw blurRad=\"40000\" dist=\"38100\" dir=\"2700000\"><a:srgbClr val=\"000000\"/>"
+      "</a:outerShdw></a:effectLst></c:spPr>";
+  return {
+      {"area-stacked", PlotXml(GroupXml("areaChart", "<c:grouping val=\"stacked\"/>",
+                                        SeriesXml(0, {2, 4, 3}, Labels("showVal")) +
+                                            SeriesXml(1, {3, kNoValue, 5}, Labels("showSerName"))) +
+                                   AxesXml(kMarks, "<c:crossBetween val=\"midCat\"/>" + kMarksIn),
+                               kLegend)},
+      {"bars-of-levels",
+       PlotXml(Columns(SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels()), "", "clustered", "bar") +
+               AxesXml(kMarks, kBothGrids + kMarks, true))},
+      {"bars-reversed",
+       PlotXml(Columns(SeriesXml(0, {5, -3}, Labels("showVal"), "", kNames) +
+                           SeriesXml(1, {1, 2}, Labels("showVal", "<c:dLblPos val=\"inBase\"/>")),
+                       "<c:gapWidth val=\"50\"/><c:overlap val=\"-20\"/>", "clustered", "bar") +
+               AxesXml(reversed + "<c:tickLblPos val=\"low\"/>",
+                       reversed + kGrid + "<c:tickLblPos val=\"high\"/>" + kMarks, true))},
+      {"bubbles", PlotXml(GroupXml("bubbleChart", "",
+                                   With(PointSeries(0, {1, 2, 3}, {3, 1, 2},
+                                                    Labels("showVal", "<c:dLblPos val=\"r\"/>")),
+                                        "</c:ser>", Literal("bubbleSize", {4, 1, -2}) + "</c:ser>"),
+                                   "<c:bubbleScale val=\"60\"/><c:showNegBubbles val=\"1\"/>") +
+                          valueAxes)},
+      {"columns-labels",
+       PlotXml(
+           Columns(SeriesXml(0, {20, -5, 80}, Labels("showVal", "<c:showLegendKey val=\"1\"/>"), "", kNames) +
+                   SeriesXml(1, {10, 5, 40}, Labels("showCatName", "<c:dLblPos val=\"ctr\"/>")) +
+                   SeriesXml(2, {1, 5, 4}, Labels("showSerName", "<c:dLblPos val=\"inEnd\"/>"))) +
+               AxesXml(Title("Regions") + kMarksIn, Title("Sales") + kBothGrids + kMarks),
+           "<c:legend><c:legendPos val=\"b\"/></c:legend>")},
+      {"columns-of-levels",
+       PlotXml(Columns(SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels())) + AxesXml(kGrid + kMarks))},
+      {"columns-percent",
+       PlotXml(Columns(SeriesXml(0, {5, 3, 0}) + SeriesXml(1, {1, -2, 0}),
+                       "<c:overlap val=\"100\"/><c:serLines/>", "percentStacked") +
+               AxesXml("", Scaling("<c:orientation val=\"maxMin\"/>") + "<c:crosses val=\"max\"/>"))},
+      {"columns-shadow", PlotXml(Columns(SeriesXml(0, {5, 3}, shadow)) + AxesXml(), kLegend)},
+      {"columns-slanted",
+       PlotXml(Columns(SeriesXml(
+                   0, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}, "", "",
+                   CategoriesXml({"Januaries", "Februaries", "Marches", "Aprils", "Mays", "Junes", "Julies",
+                                  "Augusts", "Septembers", "Octobers", "Novembers", "Decembers"}))) +
+               AxesXml("", kGrid))},
+      {"columns-table",
+       PlotXml(Columns(SeriesXml(0, {20, 5}, "", "", kNames) + SeriesXml(1, {1, 2})) + AxesXml() +
+               "<c:dTable><c:showHorzBorder val=\"1\"/><c:showVertBorder val=\"1\"/><c:showOutline "
+               "val=\"1\"/><c:showKeys val=\"1\"/></c:dTable>")},
+      {"columns-upright",
+       PlotXml(Columns(SeriesXml(0, Numbers(30, 2), "", "", wide)) +
+               AxesXml("<c:txPr><a:bodyPr rot=\"-5400000\"/><a:p><a:pPr><a:defRPr/></a:pPr></a:p>"
+                       "</c:txPr><c:tickLblSkip val=\"2\"/><c:tickMarkSkip val=\"3\"/>" +
+                       kMarks))},
+      {"columns-wrapped",
+       PlotXml(Columns(SeriesXml(0, {1, 2, 3}, "", "", wide)) +
+               AxesXml("<c:crosses val=\"max\"/>" + kMarks, "<c:crossesAt val=\"2\"/>" + kMarksIn))},
+      {"dates-days",
+       PlotXml(Lines(SeriesXml(0, {1, 3, 2}, Marker("circle"), "", dates)) +
+               With(AxesXml("<c:numFmt formatCode=\"m-d\" sourceLinked=\"0\"/>" + kGrid + kMarks), "catAx",
+                    "dateAx"))},
+      {"dates-midcat",
+       PlotXml(GroupXml("areaChart", "", SeriesXml(0, {1, 3, 2}, "", "", dates)) +
+               With(AxesXml("<c:numFmt formatCode=\"m-d\" sourceLinked=\"0\"/>" + kMarks + kGrid,
+                            "<c:crossBetween val=\"midCat\"/>"),
+                    "catAx", "dateAx"))},
+      {"doughnut",
+       PlotXml("<c:doughnutChart><c:varyColors val=\"1\"/>" + SeriesXml(0, {3, 2, 1}, Labels("showPercent")) +
+                   SeriesXml(1, {1, 1, 1}, "<c:explosion val=\"10\"/>" + Labels("showVal")) +
+                   "<c:firstSliceAng val=\"30\"/><c:holeSize val=\"40\"/></c:doughnutChart>",
+               kLegend)},
+      {"errors-and-trends",
+       PlotXml(Columns(SeriesXml(0, {2, 4, 3, 6}, trend + errors)) + AxesXml(), kLegend)},
+      {"lines-gaps",
+       PlotXml(Lines(SeriesXml(0, {1, kNoValue, 3, 2}, Marker("none")) +
+                     SeriesXml(1, {3, kNoValue, kNoValue, 1},
+                               Marker("diamond") + Labels("showVal", "<c:dLblPos val=\"t\"/>"),
+                               "<c:smooth val=\"1\"/>") +
+                     SeriesXml(2, {2, 2.5, 2, 4}, Marker("x") + Labels("showVal", "<c:dLblPos val=\"b\"/>"),
+                               "<c:smooth val=\"1\"/>")) +
+                   AxesXml("", kGrid),
+               "<c:dispBlanksAs val=\"span\"/>")},
+      {"lines-stock",
+       PlotXml(Lines(SeriesXml(0, {2, 8, 5}) + SeriesXml(1, {9, 9, 9}) + SeriesXml(2, {6, 3, 5}),
+                     "<c:dropLines/><c:hiLowLines/><c:upDownBars><c:gapWidth val=\"100\"/><c:upBars/>"
+                     "<c:downBars/></c:upDownBars>") +
+               AxesXml("<c:tickLblPos val=\"none\"/>", kGrid))},
+      {"lines-stacked",
+       PlotXml(Lines(SeriesXml(0, {1, 2}, Marker("square", "12")) + SeriesXml(1, {3, 4}, Marker("plus")), "",
+                     "stacked") +
+                   AxesXml(),
+               kLegend)},
+      {"pie-inside",
+       PlotXml(slices +
+                   SeriesXml(0, {30, 20, 50}, Labels("showVal", "<c:dLblPos val=\"inEnd\"/>"), "", kNames) +
+                   "</c:pieChart>",
+               kLegend)},
+      {"pie-moved", PlotXml(slices +
+                            SeriesXml(0, {30, 20, 50},
+                                      Labels("showVal", moved + "<c:dLblPos val=\"outEnd\"/>"), "", kNames) +
+                            "</c:pieChart>")},
+      {"pie-leaders", PlotXml(slices +
+                              SeriesXml(0, {30, 20, 50},
+                                        With(Labels("showVal", moved + "<c:dLblPos val=\"outEnd\"/>"),
+                                             "</c:dLbls>", "<c:showLeaderLines val=\"1\"/></c:dLbls>"),
+                                        "", kNames) +
+                              "</c:pieChart>")},
+      {"pie-small-slices",
+       PlotXml(slices + SeriesXml(0, small, Labels("showPercent", "<c:dLblPos val=\"bestFit\"/>")) +
+               "<c:firstSliceAng val=\"300\"/></c:pieChart>")},
+      {"radar", PlotXml(GroupXml("radarChart", "<c:radarStyle val=\"marker\"/>",
+                                 SeriesXml(0, {10, 5, 2.5, 7.5}, Labels("showVal"), "", kNames) +
+                                     SeriesXml(1, {2, kNoValue, 3, 4})) +
+                        AxesXml("", kGrid + kMarks))},
+      {"scatter-logarithmic",
+       PlotXml(GroupXml("scatterChart", "<c:scatterStyle val=\"smoothMarker\"/>",
+                        PointSeries(0, {1, 10, 200, -1}, {0.5, 40, 3, 2}, Marker("star") + trend,
+                                    "<c:smooth val=\"1\"/>")) +
+               With(AxesXml(Scaling("<c:logBase val=\"10\"/>") + kBothGrids + kMarks,
+                            Scaling("<c:logBase val=\"10\"/><c:min val=\"0.1\"/>") + kBothGrids + kMarks),
+                    "catAx", "valAx"))},
+      {"scatter-outside",
+       PlotXml(
+           GroupXml("scatterChart", "",
+                    PointSeries(0, {-2, 3, 5, 9, 4}, {2, 12, 5, 5, -9}, Marker("triangle") + errors)) +
+           With(AxesXml(Scaling("<c:max val=\"6\"/><c:min val=\"0\"/>"),
+                        Scaling("<c:max val=\"10\"/><c:min val=\"0\"/>") +
+                            "<c:dispUnits><c:builtInUnit val=\"hundreds\"/><c:dispUnitsLbl/></c:dispUnits>"),
+                "catAx", "valAx"))},
+  };
+}
+
+class WholeDrawingsTest : public DrawingTest {};
+
+/// The drawings are in a file, a section for each chart. With PLOTSMITH_WRITE_DRAWINGS set, the test writes
+/// it again.
+TEST_F(WholeDrawingsTest, AreAsTheyWere) {
+  const S path = S(kSourceFolder) + "/tests/render/drawings.txt";
+  std::map<S, S> expected;
+  std::ifstream file(path);
+  for (S line, section; std::getline(file, line);) {
+    if (line.starts_with("# "))
+      section = line.substr(2);
+    else
+      expected[section] += line + "\n";
+  }
+  const EvenMeasure measure;
+  std::map<S, S> drawn;
+  for (const auto& [name, chart] : Charts()) {
+    OpenChart(ChartPartXml(chart));
+    notes_.clear();
+    drawn[name] =
+        WordsOf(render::DrawChart(*Book().Chart("/xl/charts/chart1.xml"), 384, 270, measure, notes_));
+    for (const S& note : notes_) drawn[name] += note + "\n";
+  }
+  if (std::getenv("PLOTSMITH_WRITE_DRAWINGS") != nullptr) {
+    std::ofstream out(path);
+    for (const auto& [name, words] : drawn) out << "# " << name << "\n" << words;
+    return;
+  }
+  for (const auto& [name, words] : drawn) EXPECT_EQ(words, expected[name]) << name;
+  EXPECT_EQ(drawn.size(), expected.size());
+}
+
+}  // namespace
+}  // namespace plotsmith
