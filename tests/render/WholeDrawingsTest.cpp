@@ -1,5 +1,6 @@
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <map>
 #include <sstream>
 
@@ -53,7 +54,13 @@ S WordsOf(const render::Color& color) {
 S WordsOf(const render::Fill& fill) {
   if (const auto* solid = std::get_if<render::SolidFill>(&fill)) return WordsOf(solid->color);
   if (const auto* pattern = std::get_if<render::PatternFill>(&fill)) return pattern->preset;
-  return std::holds_alternative<std::monostate>(fill) ? "none" : "other";
+  if (const auto* gradient = std::get_if<render::GradientFill>(&fill)) {
+    S words = gradient->radial ? "radial" + Place(gradient->focus) : "linear" + Short(gradient->angle);
+    for (const auto& stop : gradient->stops)
+      words += "-" + Short(100 * stop.position) + "%" + WordsOf(stop.color);
+    return words;
+  }
+  return std::holds_alternative<std::monostate>(fill) ? "none" : "picture";
 }
 
 S WordsOf(const render::Stroke& stroke) {
@@ -145,14 +152,82 @@ S Levels() {
          "</c:multiLvlStrCache></c:multiLvlStrRef></c:cat>";
 }
 
+S Solid(const S& color, const S& more = "") {
+  return "<a:solidFill><a:srgbClr val=\"" + color + "\">" + more + "</a:srgbClr></a:solidFill>";
+}
+S Look(const S& fill, const S& line = "") {
+  return "<c:spPr>" + fill + (line.empty() ? "" : "<a:ln w=\"25400\">" + line + "</a:ln>") + "</c:spPr>";
+}
+
+/// A shape on the chart in a cell of a grid of 6 by 5.
+S ShapeXml(int cell, const S& form, const S& adjustments = "", const S& more = "", const S& text = "") {
+  const double left = cell % 6 / 6.0, top = cell / 6 / 5.0;
+  const auto corner = [](double x, double y) {
+    return "<cdr:x>" + xlsx::xml::Number(x) + "</cdr:x><cdr:y>" + xlsx::xml::Number(y) + "</cdr:y>";
+  };
+  return "<cdr:relSizeAnchor><cdr:from>" + corner(left + 0.01, top + 0.01) + "</cdr:from><cdr:to>" +
+         corner(left + 0.15, top + 0.18) +
+         "</cdr:to><cdr:sp><cdr:nvSpPr><cdr:cNvPr id=\"2\" "
+         "name=\"Sign\"/><cdr:cNvSpPr/></cdr:nvSpPr><cdr:spPr>"
+         "<a:prstGeom prst=\"" +
+         form + "\"><a:avLst>" + adjustments + "</a:avLst></a:prstGeom>" + more + "</cdr:spPr>" + text +
+         "</cdr:sp></cdr:relSizeAnchor>";
+}
+/// Shapes of all forms; `adjust` returns the value of an adjustment by the number of the form.
+S AllForms(const std::function<S(int)>& adjust) {
+  S xml;
+  int cell = 0;
+  for (const char* form : {"rect",     "roundRect",  "ellipse", "line",          "straightConnector1",
+                           "triangle", "rtTriangle", "diamond", "parallelogram", "trapezoid",
+                           "hexagon",  "octagon",    "plus",    "pentagon",      "star4",
+                           "star5",    "homePlate",  "chevron", "rightArrow",    "leftArrow",
+                           "upArrow",  "downArrow",  "can",     "donut",         "sun"}) {
+    xml += ShapeXml(cell, form, adjust(cell));
+    ++cell;
+  }
+  return xml;
+}
+/// Shapes with texts.
+S ShapeTexts() {
+  struct {
+    S box, paragraph, run;
+  } const kTexts[] = {
+      {"", "", ""},
+      {"anchor=\"ctr\"", "algn=\"ctr\"", "b=\"1\" sz=\"700\""},
+      {"anchor=\"b\" wrap=\"none\"", "algn=\"r\"", "sz=\"900\" i=\"1\" u=\"sng\""},
+      {"lIns=\"0\" tIns=\"0\" rIns=\"0\" bIns=\"0\" wrap=\"none\"", "algn=\"dist\"", "u=\"none\""},
+      {"vert=\"vert\"", "", "sz=\"600\""},
+      {"vert=\"vert270\"", "algn=\"ctr\"", "sz=\"600\""},
+      {"rot=\"1800000\"", "", "sz=\"50\""},
+      {"anchor=\"b\" lIns=\"127000\" bIns=\"63500\"", "algn=\"r\"", "sz=\"600\""},
+  };
+  S xml;
+  int cell = 0;
+  for (const auto& [box, paragraph, run] : kTexts) {
+    xml += ShapeXml(
+        cell, "rect", "", cell % 2 == 0 ? Solid("00B050") : "",
+        "<cdr:txBody><a:bodyPr " + box + "/><a:p><a:pPr " + paragraph + "/><a:r><a:rPr " + run +
+            "><a:solidFill><a:srgbClr val=\"C00000\"/></a:solidFill><a:latin typeface=\"Arial\"/></a:rPr>"
+            "<a:t>North and</a:t></a:r><a:br/><a:r><a:rPr/><a:t>East</a:t></a:r></a:p><a:p><a:r><a:t>End"
+            "</a:t></a:r></a:p></cdr:txBody>");
+    ++cell;
+  }
+  return xml;
+}
+
+/// A chart element, and the shapes on the chart.
+struct Whole {
+  Whole(S part, S drawn = "") : chart(std::move(part)), shapes(std::move(drawn)) {}
+  S chart, shapes;
+};
+
 const S kNames = CategoriesXml({"North", "East", "South", "West"});
 const S kLegend = "<c:legend><c:legendPos val=\"r\"/></c:legend>";
 const S kGrid = "<c:majorGridlines/>", kBothGrids = "<c:majorGridlines/><c:minorGridlines/>";
 const S kMarks = "<c:majorTickMark val=\"cross\"/><c:minorTickMark val=\"in\"/>";
 const S kMarksIn = "<c:majorTickMark val=\"in\"/><c:minorTickMark val=\"out\"/>";
 
-std::map<S, S> Charts() {
-  const S values = "<c:valAx>", points = "<c:catAx>";
+std::map<S, Whole> Charts() {
   const S valueAxes = With(AxesXml(kGrid, kGrid), "catAx", "valAx");
   const S dates =
       "<c:cat><c:numLit><c:formatCode>m-d</c:formatCode><c:ptCount val=\"3\"/><c:pt idx=\"0\"><c:v>45292"
@@ -165,7 +240,6 @@ std::map<S, S> Charts() {
       "</c:manualLayout></c:layout><c:showVal val=\"1\"/></c:dLbl><c:dLbl><c:idx val=\"2\"/><c:layout>"
       "<c:manualLayout><c:x val=\"0.4\"/></c:manualLayout></c:layout><c:showVal val=\"1\"/></c:dLbl>";
   const S wide = CategoriesXml({"Northern hemisphere", "Equator", "Southern hemisphere"});
-  S many;
   Numbers small = {40, 30};
   for (int i = 0; i < 14; ++i) small.push_back(1.5 + i % 3);
   const S errors =
@@ -179,7 +253,88 @@ std::map<S, S> Charts() {
       "<a:srgbClr val=\"7030A0\"/></a:solidFill><a:prstDash val=\"dash\"/></a:ln><a:effectLst>"
       "<a:outerShdw blurRad=\"40000\" dist=\"38100\" dir=\"2700000\"><a:srgbClr val=\"000000\"/>"
       "</a:outerShdw></a:effectLst></c:spPr>";
+  S dashes;
+  int row = 0;
+  for (const char* dash : {"solid", "dash", "dashDot", "dot", "lgDash", "lgDashDot", "lgDashDotDot",
+                           "sysDash", "sysDashDot", "sysDashDotDot", "sysDot"}) {
+    dashes += SeriesXml(row, {1.0 * row, 2.0 * row},
+                        Look("", Solid("7030A0") + "<a:prstDash val=\"" + S(dash) + "\"/>") + Marker("none"));
+    ++row;
+  }
+  const S stops =
+      "<a:gsLst><a:gs pos=\"0\"><a:srgbClr val=\"FF0000\"/></a:gs><a:gs pos=\"100000\"><a:srgbClr "
+      "val=\"0000FF\"><a:alpha val=\"50000\"/></a:srgbClr></a:gs><a:gs pos=\"40000\"><a:srgbClr "
+      "val=\"00FF00\"/></a:gs></a:gsLst>";
+  const S fills =
+      SeriesXml(0, {1}, Look("<a:gradFill>" + stops + "<a:lin ang=\"2700000\"/></a:gradFill>")) +
+      SeriesXml(1, {2},
+                Look("<a:gradFill>" + stops +
+                     "<a:path path=\"circle\"><a:fillToRect l=\"20000\" t=\"40000\" "
+                     "r=\"60000\" b=\"20000\"/></a:path></a:gradFill>")) +
+      SeriesXml(2, {3},
+                Look("<a:pattFill prst=\"ltUpDiag\"><a:fgClr><a:srgbClr val=\"FF0000\"/></a:fgClr><a:bgClr>"
+                     "<a:srgbClr val=\"FFFFFF\"/></a:bgClr></a:pattFill>")) +
+      SeriesXml(3, {4},
+                Look(Solid("00B050",
+                           "<a:alpha val=\"80000\"/><a:alphaMod val=\"50000\"/><a:alphaOff "
+                           "val=\"10000\"/>"),
+                     Solid("C00000"))) +
+      SeriesXml(4, {5}, Look("<a:noFill/>", "<a:noFill/>")) +
+      SeriesXml(5, {6}, Look(Solid("FFFF00"), "<a:round/>"));
+  const auto point = [](int index, const S& more) {
+    return "<c:dPt><c:idx val=\"" + std::to_string(index) + "\"/>" + more + "</c:dPt>";
+  };
+  const auto legend = [](const S& place, const S& more = "") {
+    return "<c:legend><c:legendPos val=\"" + place + "\"/>" + more + "</c:legend>";
+  };
+  const auto layout = [](const S& target, const S& mode) {
+    return "<c:layout><c:manualLayout>" + target + "<c:xMode val=\"" + mode + "\"/><c:yMode val=\"" + mode +
+           "\"/><c:x val=\"0.1\"/><c:y val=\"0.2\"/><c:w val=\"0.5\"/><c:h "
+           "val=\"0.4\"/></c:manualLayout></c:layout>";
+  };
+  const S two = Columns(SeriesXml(0, {5, 3}) + SeriesXml(1, {1, 2}));
   return {
+      {"layout-by-hand",
+       PlotXml(layout("<c:layoutTarget val=\"inner\"/>", "edge") + two + AxesXml(Title("X"), Title("Y")),
+               legend("r", layout("", "edge")))},
+      {"layout-by-hand-of-all", PlotXml(layout("", "edge") + two + AxesXml(Title("X"), Title("Y")),
+                                        legend("r", layout("", "factor") + "<c:overlay val=\"1\"/>"))},
+      {"legend-corner", PlotXml(two + AxesXml(), legend("tr"))},
+      {"legend-left", PlotXml(two + AxesXml(), legend("l"))},
+      {"legend-top", Title("All sales") + "<c:autoTitleDeleted val=\"0\"/><c:plotArea>" + two + AxesXml() +
+                         "</c:plotArea>" + legend("t")},
+      {"line-points",
+       PlotXml(Lines(SeriesXml(0, {1, 3, 2, 4},
+                               Marker("square", "8") +
+                                   point(1, Marker("diamond", "12") + Look("", Solid("FF0000"))) +
+                                   point(2, Look("", "<a:noFill/>"))) +
+                     SeriesXml(1, {2, 2, 2, 2}, "")) +
+                   AxesXml(),
+               kLegend)},
+      {"looks-of-fills", PlotXml(Columns(fills) + AxesXml(), kLegend)},
+      {"looks-of-lines", PlotXml(Lines(dashes) + AxesXml())},
+      {"ring-of-one", PlotXml("<c:doughnutChart>" + SeriesXml(0, {3, 0}) + SeriesXml(1, {1, 2}) +
+                              "<c:holeSize val=\"60\"/></c:doughnutChart>")},
+      {"pie-of-one",
+       PlotXml(slices + SeriesXml(0, {3}, Labels("showVal", "<c:dLblPos val=\"ctr\"/>")) + "</c:pieChart>")},
+      {"pie-exploded", PlotXml(slices +
+                               SeriesXml(0, {3, 2, 1},
+                                         "<c:explosion val=\"20\"/>" + point(1, "<c:explosion val=\"50\"/>") +
+                                             Labels("showCatName", "<c:dLblPos val=\"outEnd\"/>")) +
+                               "</c:pieChart>")},
+      {"radar-filled",
+       PlotXml(GroupXml("radarChart", "<c:radarStyle val=\"filled\"/>",
+                        SeriesXml(0, {10, 5, 2.5, 7.5, 1}, Labels("showVal")) + SeriesXml(1, {2, 3, 4})) +
+               AxesXml("", Scaling("<c:max val=\"9\"/><c:min val=\"1\"/>") + kGrid))},
+      {"shapes", {"<c:plotArea/>", AllForms([](int) { return S(); })}},
+      {"shapes-adjusted",
+       {"<c:plotArea/>", AllForms([](int cell) {
+          const S value = "\" fmla=\"val " + std::to_string(10000 + 1000 * cell) + "\"/>";
+          return "<a:gd name=\"adj" + value + "<a:gd name=\"adj1" + value +
+                 "<a:gd name=\"adj2\" fmla=\"val 40000\"/>"
+                 "<a:gd name=\"other\" fmla=\"val 1\"/><a:gd name=\"adj\" fmla=\"*/ 1 2 3\"/>";
+        })}},
+      {"shapes-with-texts", {"<c:plotArea/>", ShapeTexts()}},
       {"area-stacked", PlotXml(GroupXml("areaChart", "<c:grouping val=\"stacked\"/>",
                                         SeriesXml(0, {2, 4, 3}, Labels("showVal")) +
                                             SeriesXml(1, {3, kNoValue, 5}, Labels("showSerName"))) +
@@ -307,6 +462,11 @@ std::map<S, S> Charts() {
   };
 }
 
+const S kUserShapes =
+    "<c:userShapes xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\" "
+    "xmlns:cdr=\"http://schemas.openxmlformats.org/drawingml/2006/chartDrawing\" "
+    "xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\">";
+
 class WholeDrawingsTest : public DrawingTest {};
 
 /// The drawings are in a file, a section for each chart. With PLOTSMITH_WRITE_DRAWINGS set, the test writes
@@ -324,7 +484,11 @@ TEST_F(WholeDrawingsTest, AreAsTheyWere) {
   const EvenMeasure measure;
   std::map<S, S> drawn;
   for (const auto& [name, chart] : Charts()) {
-    OpenChart(ChartPartXml(chart));
+    const S link =
+        "<c:userShapes xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\" "
+        "r:id=\"rId7\"/>";
+    OpenChart(ChartPartXml(chart.chart, chart.shapes.empty() ? "" : link),
+              chart.shapes.empty() ? "" : kUserShapes + chart.shapes + "</c:userShapes>");
     notes_.clear();
     drawn[name] =
         WordsOf(render::DrawChart(*Book().Chart("/xl/charts/chart1.xml"), 384, 270, measure, notes_));
