@@ -281,6 +281,7 @@ TEST(NumberFormatTest, Dates) {
       {"B1yyyy", 45000, "2023"},
       {"[$-F800]\"other\"", 45000, "Wednesday, March 15, 2023"},
       {"[$-x-systime]d", 45000.75, "6:00:00 PM"},
+      {"[$-x-sysdate]d", 45000.75, "Wednesday, March 15, 2023"},
   });
 }
 
