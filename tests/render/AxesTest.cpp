@@ -131,54 +131,6 @@ TEST_F(AxesTest, TextsOfLevelsAreRepeatedWithinBounds) {
   }
 }
 
-TEST_F(AxesTest, CategoriesOfSeveralLevelsHaveARowForEach) {
-  const S levels = LevelsXml(
-      4, {{{0, "Q1"}, {1, "Q2"}, {2, "Q1"}, {3, "Q2"}}, {{0, "2023"}, {2, "2024"}}, {{0, S(90, 'x')}}});
-  struct {
-    const char* what;
-    bool horizontal;
-    S category, value;
-    Texts labels;
-    std::size_t lines;
-  } cases[] = {
-      {"below", false, "", "", {"Q1", "Q2", "Q1", "Q2", "2023", "2024"}, 5},
-      {"beside", true, "", "", {"Q1", "Q2", "Q1", "Q2", "2023", "2024"}, 5},
-      {"on the marks",
-       false,
-       "",
-       "<c:crossBetween val=\"midCat\"/>",
-       {"Q1", "Q2", "Q1", "Q2", "2023", "2024"},
-       1},
-      {"as one text", false, "<c:noMultiLvlLbl val=\"1\"/>", "", {}, 0},
-  };
-  for (const auto& test : cases) {
-    const S first = S("<c:barDir val=\"") + (test.horizontal ? "bar" : "col") + "\"/>";
-    const Drawing drawing = Draw(
-        PlotXml(GroupXml("barChart", first, SeriesXml(0, {1, 2, 3, 4}, "", "", levels)) +
-                AxesXml("<c:majorTickMark val=\"none\"/>" + test.category, test.value, test.horizontal)));
-    EXPECT_EQ(notes_, Texts()) << test.what;
-    EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
-    EXPECT_EQ(ItemsOf(drawing, Role::kTickMark, 1).size(), test.lines) << test.what;
-    Texts labels = TextsOf(drawing, Role::kTickLabel, 1);
-    if (test.labels.empty()) {
-      EXPECT_NE(labels[0].find("xxx"), S::npos) << test.what;
-      continue;
-    }
-    ASSERT_EQ(labels.size(), 7u) << test.what;
-    EXPECT_TRUE(labels[6].starts_with("xxx") && labels[6].ends_with("...")) << labels[6];
-    labels.pop_back();
-    EXPECT_EQ(labels, test.labels) << test.what;
-    if (test.value.empty()) {
-      // a group's text is in the middle of its bars, farther out than their own labels
-      const auto boxes = BoxesOf(drawing, Role::kTickLabel, 1), bars = BoxesOf(drawing, Role::kBar);
-      const Rect pair = Union(bars[0], bars[1]);
-      EXPECT_NEAR(test.horizontal ? boxes[4].Center().y : boxes[4].Center().x,
-                  test.horizontal ? pair.Center().y : pair.Center().x, 0.1);
-      EXPECT_TRUE(test.horizontal ? boxes[4].Right() < boxes[0].left : boxes[4].top > boxes[0].Bottom());
-    }
-  }
-}
-
 TEST_F(AxesTest, AxesAtTheEndOfAllNumbersAreDrawn) {
   const Drawing drawing = DrawWith({1e308, -1e308, 1.7e308, 1e-308}, "<c:majorGridlines/>");
   EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), (Texts{"-8E+307", "-4E+307", "0", "4E+307", "8E+307"}));
@@ -190,100 +142,6 @@ TEST_F(AxesTest, AxesAtTheEndOfAllNumbersAreDrawn) {
   EXPECT_LT(bars[2].top, plot.top);
   EXPECT_NEAR(bars[3].height, 0, 1e-9);
   EXPECT_EQ(DrawingComplaints(drawing), "");
-}
-
-TEST_F(AxesTest, LabelsAndGridlinesAreAtTheirValues) {
-  for (const bool reversed : {false, true}) {
-    for (const bool horizontal : {false, true}) {
-      const S scaling =
-          S("<c:scaling><c:orientation val=\"") + (reversed ? "maxMin" : "minMax") +
-          "\"/><c:max val=\"4\"/><c:min val=\"0\"/></c:scaling><c:majorGridlines/><c:majorUnit val=\"1\"/>";
-      const Drawing drawing = DrawWith({1, 4}, scaling, "", {}, horizontal);
-      const Rect plot = BoxOf(drawing, Role::kPlotArea);
-      const auto lines = BoxesOf(drawing, Role::kGridline, 2), labels = BoxesOf(drawing, Role::kTickLabel, 2);
-      ASSERT_EQ(lines.size(), 5u);
-      ASSERT_EQ(labels.size(), 5u);
-      for (std::size_t i = 0; i < 5; ++i) {
-        const double share = static_cast<double>(reversed ? 4 - i : i) / 4;
-        const auto place = [&](const Rect& box) { return horizontal ? box.Center().x : box.Center().y; };
-        const double expected =
-            horizontal ? plot.left + plot.width * share : plot.Bottom() - plot.height * share;
-        EXPECT_NEAR(place(lines[i]), expected, 1e-6) << reversed << horizontal << i;
-        EXPECT_NEAR(place(labels[i]), expected, 1e-6) << reversed << horizontal << i;
-      }
-      EXPECT_EQ(DrawingComplaints(drawing), "");
-    }
-  }
-}
-
-TEST_F(AxesTest, AnAxisIsAtItsCrossing) {
-  struct {
-    const char* what;
-    S category, value;
-    double share;  // A share of the plot area's height, from the bottom.
-    bool labelsBelowPlot;
-  } cases[] = {
-      {"at zero", "", "", 1.0 / 3, false},
-      {"at the least", "<c:crosses val=\"min\"/>", "", 0, true},
-      {"at the most", "<c:crosses val=\"max\"/>", "", 1, false},
-      {"at a value", "<c:crossesAt val=\"5\"/>", "", 0.5, false},
-      {"labels at the low end", "<c:tickLblPos val=\"low\"/>", "", 1.0 / 3, true},
-  };
-  for (const auto& test : cases) {
-    const Drawing drawing =
-        DrawWith({-5, 15}, "<c:scaling><c:max val=\"20\"/><c:min val=\"-10\"/></c:scaling>" + test.value,
-                 test.category);
-    const Rect plot = BoxOf(drawing, Role::kPlotArea);
-    EXPECT_NEAR(BoxOf(drawing, Role::kAxisLine, 1).top, plot.Bottom() - plot.height * test.share, 1e-6)
-        << test.what;
-    EXPECT_EQ(BoxOf(drawing, Role::kTickLabel, 1).top >= plot.Bottom(), test.labelsBelowPlot) << test.what;
-    // A bar extends from the axis to its value, up or down.
-    const double axis = BoxOf(drawing, Role::kAxisLine, 1).top;
-    const auto bars = BoxesOf(drawing, Role::kBar);
-    ASSERT_EQ(bars.size(), 2u) << test.what;
-    for (std::size_t i = 0; i < 2; ++i) {
-      const double end = plot.Bottom() - plot.height * (i == 0 ? 5 : 25) / 30;
-      EXPECT_NEAR(bars[i].top, std::min(axis, end), 1e-6) << test.what << i;
-      EXPECT_NEAR(bars[i].Bottom(), std::max(axis, end), 1e-6) << test.what << i;
-    }
-    EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
-  }
-}
-
-TEST_F(AxesTest, AreasAndDropLinesEndAtTheCategoryAxisUnlessTheyAreStacked) {
-  const S scaling = "<c:scaling><c:max val=\"20\"/><c:min val=\"0\"/></c:scaling>";
-  struct {
-    const char* what;
-    S group, grouping, last;
-    Role role;
-    double top,
-        bottom;  // The bounds of the drawn items, as shares of the plot area's height from the bottom.
-  } cases[] = {
-      {"areas", "areaChart", "standard", "", Role::kArea, 0.75, 0.1},
-      {"stacked areas", "areaChart", "stacked", "", Role::kArea, 0.75, 0},
-      {"drop lines", "lineChart", "standard", "<c:dropLines/>", Role::kDropLine, 0.75, 0.1},
-      {"columns", "barChart", "clustered", "", Role::kBar, 0.75, 0.1},
-      {"stacked columns", "barChart", "stacked", "", Role::kBar, 0.75, 0},
-  };
-  for (const auto& test : cases) {
-    const Drawing drawing = Draw(PlotXml(GroupXml(test.group, "<c:grouping val=\"" + test.grouping + "\"/>",
-                                                  SeriesXml(0, {2, 15}), test.last) +
-                                         AxesXml("<c:crossesAt val=\"5\"/>", scaling)));
-    const Rect plot = BoxOf(drawing, Role::kPlotArea), box = BoxOf(drawing, test.role);
-    EXPECT_NEAR(box.top, plot.Bottom() - plot.height * test.top, 1e-6) << test.what;
-    EXPECT_NEAR(box.Bottom(), plot.Bottom() - plot.height * test.bottom, 1e-6) << test.what;
-  }
-}
-
-TEST_F(AxesTest, LabelsOfBarsBelowTheirAxisAreBelowThem) {
-  const Drawing drawing = Draw(PlotXml(
-      GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>",
-               SeriesXml(0, {2, 15}, "<c:dLbls><c:showVal val=\"1\"/></c:dLbls>")) +
-      AxesXml("<c:crossesAt val=\"5\"/>", "<c:scaling><c:max val=\"20\"/><c:min val=\"-5\"/></c:scaling>")));
-  const auto bars = BoxesOf(drawing, Role::kBar), labels = BoxesOf(drawing, Role::kDataLabel);
-  ASSERT_EQ(labels.size(), 2u);
-  EXPECT_GE(labels[0].top, bars[0].Bottom());
-  EXPECT_LE(labels[1].Bottom(), bars[1].top);
 }
 
 /// The look of the labels on the category axis.
@@ -384,37 +242,6 @@ TEST_F(AxesTest, DatesAreAtTheirDayMonthOrYear) {
   }
 }
 
-TEST_F(AxesTest, LinesAndAreasGoFromDateToDate) {
-  const S dates =
-      "<c:cat><c:numLit><c:formatCode>m-d</c:formatCode><c:ptCount val=\"3\"/><c:pt "
-      "idx=\"0\"><c:v>45292</c:v>"
-      "</c:pt><c:pt idx=\"1\"><c:v>45296</c:v></c:pt><c:pt "
-      "idx=\"2\"><c:v>45294</c:v></c:pt></c:numLit></c:cat>";
-  struct {
-    const char* group;
-    Role role;
-    bool hasDates;
-    std::vector<double> places;  // As shares of the distance from the first to the last point.
-  } cases[] = {{"lineChart", Role::kLine, true, {0, 0.5, 1}},
-               {"areaChart", Role::kArea, true, {0, 0.5, 1}},
-               {"lineChart", Role::kLine, false, {0, 0.5, 1}}};
-  for (const auto& test : cases) {
-    S axes = AxesXml();
-    for (std::size_t at; test.hasDates && (at = axes.find("catAx")) != S::npos;)
-      axes.replace(at, 5, "dateAx");
-    const Drawing drawing =
-        Draw(PlotXml(GroupXml(test.group, "", SeriesXml(0, {1, 3, 2}, "", "", dates)) + axes));
-    const auto steps = std::get<render::PathItem>(ItemsOf(drawing, test.role)[0].content).path.Steps();
-    ASSERT_GE(steps.size(), 3u);
-    for (std::size_t i = 0; i < 3; ++i) {
-      const double way = steps[2].to.x - steps[0].to.x;
-      EXPECT_NEAR(steps[i].to.x, steps[0].to.x + way * test.places[i], 1e-6) << test.group << i;
-    }
-    // The values increase by date, but not in the order of the cells.
-    EXPECT_EQ(steps[1].to.y > steps[2].to.y, test.hasDates) << test.group;
-  }
-}
-
 TEST_F(AxesTest, LongNamesBesideBarsLeaveRoomForThem) {
   const Drawing drawing = DrawWith(
       {3, 5}, "", "", {"A name that goes on and on until nothing is left of the chart at all", "B"}, true);
@@ -446,28 +273,6 @@ TEST_F(AxesTest, LabelsOfSeveralLinesBesideBarsAreSkippedByTheirHeight) {
     EXPECT_TRUE(numbers.contains(1)) << test.what;
     EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
   }
-}
-
-TEST_F(AxesTest, TitlesAreOutsideOfTheLabels) {
-  const auto title = [](const S& text, const S& body = "<a:bodyPr/>") {
-    return "<c:title><c:tx><c:rich>" + body + "<a:p><a:r><a:t>" + text +
-           "</a:t></a:r></a:p></c:rich></c:tx></c:title>";
-  };
-  const Drawing drawing = DrawWith(
-      {1, 2},
-      title("Sales") + "<c:dispUnits><c:builtInUnit val=\"thousands\"/><c:dispUnitsLbl/></c:dispUnits>",
-      title("Quarter"));
-  EXPECT_EQ(DrawingComplaints(drawing), "");
-  EXPECT_EQ(TextsOf(drawing, Role::kAxisTitle, 2), Texts{"Sales"});
-  EXPECT_EQ(std::get<render::TextItem>(ItemsOf(drawing, Role::kAxisTitle, 2)[0].content).rotation, -90);
-  EXPECT_LT(BoxOf(drawing, Role::kAxisTitle, 2).Right(), BoxOf(drawing, Role::kTickLabel, 2).left);
-  EXPECT_EQ(TextsOf(drawing, Role::kDisplayUnits), Texts{"Thousands"});
-  EXPECT_LT(BoxOf(drawing, Role::kTickLabel, 1).Bottom(), BoxOf(drawing, Role::kAxisTitle, 1).top);
-  EXPECT_NEAR(BoxOf(drawing, Role::kAxisTitle, 1).Center().x, BoxOf(drawing, Role::kPlotArea).Center().x,
-              0.5);
-  // The title was set to horizontal by hand.
-  const Drawing flat = DrawWith({1, 2}, title("Sales", "<a:bodyPr rot=\"0\" vert=\"horz\"/>"));
-  EXPECT_EQ(std::get<render::TextItem>(ItemsOf(flat, Role::kAxisTitle, 2)[0].content).rotation, 0);
 }
 
 }  // namespace

@@ -63,53 +63,6 @@ TEST_P(BarsTest, AreAsLongAsTheirValues) {
   EXPECT_NEAR(Thickness(BoxesOf(drawing, Role::kBar)[0]) * slots * 3, Thickness(plot), 1e-6);
 }
 
-TEST_P(BarsTest, StackedBarsTouchAndOthersAreSideBySide) {
-  const Drawing drawing = DrawCase({{10, 25, 3}, {30, 5, 12}, {5, 5, 5}});
-  for (std::size_t i = 0; i < 3; ++i) {
-    for (int s = 1; s < 3; ++s) {
-      const Rect a = BoxesOf(drawing, Role::kBar, s)[i], b = BoxesOf(drawing, Role::kBar, s + 1)[i];
-      EXPECT_FALSE(Overlap(a, b, 1e-6));
-      const Rect both = Union(a, b);
-      EXPECT_NEAR(both.width * both.height,
-                  S(GetParam().grouping) == "clustered" ? both.width * both.height
-                                                        : a.width * a.height + b.width * b.height,
-                  1e-6);
-      const double step = Horizontal() ? a.top - b.top : b.left - a.left;
-      EXPECT_NEAR(step, S(GetParam().grouping) == "clustered" ? Thickness(a) : 0, 1e-6);
-    }
-  }
-}
-
-TEST_P(BarsTest, NegativeBarsExtendInTheOtherDirection) {
-  const Drawing drawing = DrawCase({{10, -20, kNoValue}, {-5, -10, 15}});
-  EXPECT_EQ(DrawingComplaints(drawing), "");
-  const auto first = BoxesOf(drawing, Role::kBar, 1), second = BoxesOf(drawing, Role::kBar, 2);
-  ASSERT_EQ(first.size(), 2u);
-  ASSERT_EQ(second.size(), 3u);
-  const auto base = [&](const Rect& box, bool negative) {
-    const bool reversed = GetParam().valueAxis.find("maxMin") != S::npos;
-    if (Horizontal()) return negative != reversed ? box.Right() : box.left;
-    return negative != reversed ? box.top : box.Bottom();
-  };
-  EXPECT_NEAR(base(first[0], false), base(first[1], true), 1e-6);
-  EXPECT_NEAR(base(first[0], false), base(second[0], true), 1e-6);
-  EXPECT_NEAR(base(first[0], false), base(second[2], false), 1e-6);
-}
-
-TEST_F(DrawingTest, BarsOverlapOrHaveGapsByAShareOfTheirWidth) {
-  for (const double overlap : {-100, -50, 0, 40, 100}) {
-    const Drawing drawing = Draw(
-        PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>",
-                         SeriesXml(0, {4, 2}) + SeriesXml(1, {1, 3}),
-                         "<c:gapWidth val=\"100\"/><c:overlap val=\"" + xlsx::xml::Number(overlap) + "\"/>") +
-                AxesXml()));
-    const Rect first = BoxesOf(drawing, Role::kBar, 1)[0], second = BoxesOf(drawing, Role::kBar, 2)[0];
-    EXPECT_NEAR((first.Right() - second.left) / first.width, overlap / 100, 1e-6) << overlap;
-    const double category = BoxOf(drawing, Role::kPlotArea).width / 2;
-    EXPECT_NEAR(category, Union(first, second).width + first.width, 1e-6) << overlap;
-  }
-}
-
 TEST_F(DrawingTest, BarsBelowZeroAreInvertedIfTheFileSaysSo) {
   const auto solid = [](const S& color) {
     return "<c:spPr><a:solidFill><a:srgbClr val=\"" + color + "\"/></a:solidFill></c:spPr>";

@@ -1,8 +1,5 @@
-#include <numbers>
-
 #include "tests/render/DrawingTest.h"
 #include "xlsx/Worksheet.h"
-#include "xlsx/package/Xml.h"
 
 namespace plotsmith {
 namespace {
@@ -12,99 +9,11 @@ using render::Drawing;
 using render::Item;
 using render::PathItem;
 using render::PathStep;
-using render::Point;
 using render::Rect;
 using render::Role;
 using S = std::string;
 
-class FamiliesTest : public DrawingTest {
- protected:
-  Drawing DrawPie(const std::vector<double>& values, const S& more = "", const S& last = "",
-                  const S& behind = "") {
-    return Draw(
-        PlotXml("<c:pieChart><c:varyColors val=\"1\"/>" + SeriesXml(0, values, more) + last + "</c:pieChart>",
-                behind));
-  }
-  /// Draws a bubble chart with one series. Each bubble is X, Y and size.
-  Drawing DrawBubbles(const std::vector<std::array<double, 3>>& bubbles, const S& last) {
-    const auto data = [&](const char* element, std::size_t which) {
-      S xml = "<c:" + S(element) + "><c:numLit><c:ptCount val=\"" + std::to_string(bubbles.size()) + "\"/>";
-      for (std::size_t i = 0; i < bubbles.size(); ++i) {
-        xml += "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + xlsx::xml::Number(bubbles[i][which]) +
-               "</c:v></c:pt>";
-      }
-      return xml + "</c:numLit></c:" + element + ">";
-    };
-    const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>" + data("xVal", 0) + data("yVal", 1) +
-                     data("bubbleSize", 2) + "</c:ser>";
-    S axes = AxesXml("", "");
-    for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "valAx");
-    return Draw(PlotXml(GroupXml("bubbleChart", "", series, last) + axes));
-  }
-};
-
-/// Returns the angles in degrees at which a slice begins and ends, clockwise from twelve o'clock around its
-/// tip.
-std::pair<double, double> AnglesOf(const Item& slice) {
-  const auto& steps = std::get<PathItem>(slice.content).path.Steps();
-  const Point center = steps[0].to;
-  const auto angle = [&](Point p) {
-    const double degrees = std::atan2(p.x - center.x, center.y - p.y) * 180 / std::numbers::pi;
-    return degrees < -1e-9 ? degrees + 360 : degrees;
-  };
-  return {angle(steps[1].to), angle(steps[steps.size() - 2].to)};
-}
-
-TEST_F(FamiliesTest, SlicesShareTheCircleByTheirValues) {
-  const std::vector<double> values = {30, 10, -20, 60};  // A pie uses the absolute values.
-  const Drawing drawing = DrawPie(values, "", "<c:firstSliceAng val=\"90\"/>");
-  const auto slices = ItemsOf(drawing, Role::kSlice);
-  ASSERT_EQ(slices.size(), 4u);
-  double at = 90, sum = 0;
-  for (std::size_t i = 0; i < 4; ++i) {
-    const auto [from, to] = AnglesOf(slices[i]);
-    EXPECT_NEAR(std::fmod(at, 360), from, 1e-6) << i;
-    const double sweep = std::fmod(to - from + 360, 360);
-    EXPECT_NEAR(sweep, 360 * std::abs(values[i]) / 120, 1e-6) << i;
-    at += sweep;
-    sum += sweep;
-  }
-  EXPECT_NEAR(sum, 360, 1e-6);
-  EXPECT_EQ(FillOf(slices[0]), "#4F81BD");
-  EXPECT_EQ(FillOf(slices[1]), "#C0504D");
-}
-
-TEST_F(FamiliesTest, ExplodedSlicesMoveOutAlongTheirMiddle) {
-  const Drawing whole = DrawPie({1, 1});
-  const Drawing exploded = DrawPie({1, 1}, "<c:explosion val=\"25\"/>");
-  const auto before = BoxesOf(whole, Role::kSlice), after = BoxesOf(exploded, Role::kSlice);
-  const double radius = after[0].width;
-  EXPECT_NEAR(before[0].left, before[1].Right(), 1e-6);
-  EXPECT_NEAR(after[0].left - after[1].Right(), 2 * 0.25 * radius, 1e-6);
-  EXPECT_NEAR(before[0].width, radius * 1.25, 1e-6);  // The moved slices must stay in the same area.
-}
-
-TEST_F(FamiliesTest, OnlyTheOutermostRingOfADoughnutExplodes) {
-  const S explosion = "<c:explosion val=\"25\"/>";
-  struct {
-    const char* what;
-    S first, second;
-    double width, moved;  // The width of the outer ring as a share of the plot area, and the distance of its
-                          // halves in radii.
-  } cases[] = {{"none", "", "", 1, 0}, {"inner", explosion, "", 1, 0}, {"outer", "", explosion, 0.8, 0.25}};
-  for (const auto& test : cases) {
-    const Drawing drawing =
-        Draw(PlotXml("<c:doughnutChart>" + SeriesXml(0, {1, 1}, test.first) +
-                     SeriesXml(1, {1, 1}, test.second) + "<c:holeSize val=\"50\"/></c:doughnutChart>"));
-    const Rect plot = BoxOf(drawing, Role::kPlotArea);
-    const auto inner = BoxesOf(drawing, Role::kSlice, 1), outer = BoxesOf(drawing, Role::kSlice, 2);
-    const double free = std::min(plot.width, plot.height);
-    EXPECT_NEAR(outer[0].height, free * test.width, 1e-6) << test.what;
-    EXPECT_NEAR(inner[0].height, free * test.width * 0.75, 1e-6) << test.what;
-    EXPECT_NEAR(inner[0].left, inner[1].Right(), 1e-6) << test.what;
-    EXPECT_NEAR(outer[0].left - outer[1].Right(), outer[0].height * test.moved, 1e-6) << test.what;
-  }
-}
+class FamiliesTest : public DrawingTest {};
 
 TEST_F(FamiliesTest, PiesAndDoughnutsHaveNoPlotAreaOfTheirOwn) {
   struct {
@@ -149,62 +58,6 @@ TEST_F(FamiliesTest, PointsAreDrawnAlongAnAxisOfCategoriesAsWell) {
     EXPECT_NEAR(markers[0].Center().x, plot.left + plot.width * test.first, 1e-6) << test.what;
     EXPECT_NEAR(markers[1].Center().x, plot.left + plot.width * test.second, 1e-6) << test.what;
     EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), test.labels) << test.what;
-  }
-}
-
-TEST_F(FamiliesTest, BubblesShowTheirSizeAsAreaOrAsWidth) {
-  const std::vector<std::array<double, 3>> bubbles = {{1, 1, 100}, {2, 3, 25}, {3, 2, -50}, {4, 4, 0}};
-  struct {
-    const char* last;
-    std::vector<double> shares;  // As shares of the largest width.
-  } cases[] = {
-      {"", {1, 0.5}},
-      {"<c:sizeRepresents val=\"w\"/>", {1, 0.25}},
-      {"<c:bubbleScale val=\"200\"/>", {2, 1}},
-      {"<c:showNegBubbles val=\"1\"/>", {1, 0.5, std::sqrt(0.5)}},
-  };
-  for (const auto& test : cases) {
-    const Drawing drawing = DrawBubbles(bubbles, test.last);
-    const auto boxes = BoxesOf(drawing, Role::kBubble);
-    const Rect plot = BoxOf(drawing, Role::kPlotArea);
-    ASSERT_EQ(boxes.size(), test.shares.size()) << test.last;
-    for (std::size_t i = 0; i < boxes.size(); ++i) {
-      EXPECT_NEAR(boxes[i].width, std::min(plot.width, plot.height) / 4 * test.shares[i], 1e-6)
-          << test.last << i;
-      EXPECT_NEAR(boxes[i].width, boxes[i].height, 1e-9);
-    }
-  }
-}
-
-TEST_F(FamiliesTest, LinesAndAreasGoThroughTheirValues) {
-  const auto value = "<c:scaling><c:max val=\"10\"/><c:min val=\"0\"/></c:scaling>";
-  const Drawing lines =
-      Draw(PlotXml(GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
-                            SeriesXml(0, {2, kNoValue, 10, 5},
-                                      "<c:marker><c:symbol val=\"square\"/><c:size val=\"6\"/></c:marker>")) +
-                       AxesXml("", value),
-                   "<c:dispBlanksAs val=\"gap\"/>"));
-  const Rect plot = BoxOf(lines, Role::kPlotArea);
-  const auto markers = BoxesOf(lines, Role::kMarker);
-  ASSERT_EQ(markers.size(), 3u);
-  EXPECT_NEAR(markers[0].Center().y, plot.Bottom() - plot.height * 0.2, 1e-6);
-  EXPECT_NEAR(markers[1].Center().y, plot.top, 1e-6);
-  EXPECT_NEAR(markers[2].Center().x, plot.left + plot.width * 3.5 / 4, 1e-6);
-  // The value before the gap is alone, so only the last two are connected.
-  const Rect line = BoxOf(lines, Role::kLine);
-  EXPECT_NEAR(line.left, markers[1].Center().x, 1e-6);
-  EXPECT_NEAR(line.Right(), markers[2].Center().x, 1e-6);
-
-  const Drawing areas = Draw(PlotXml(
-      GroupXml("areaChart", "<c:grouping val=\"stacked\"/>", SeriesXml(0, {2, 4}) + SeriesXml(1, {3, 6})) +
-      AxesXml("", value + S("<c:crossBetween val=\"midCat\"/>"))));
-  const Rect inner = BoxOf(areas, Role::kPlotArea);
-  const auto steps = std::get<PathItem>(ItemsOf(areas, Role::kArea, 2)[0].content).path.Steps();
-  const double expected[][2] = {{0, 5}, {1, 10}, {1, 4}, {0, 2}};
-  ASSERT_EQ(steps.size(), 5u);
-  for (std::size_t i = 0; i < 4; ++i) {
-    EXPECT_NEAR(steps[i].to.x, inner.left + inner.width * expected[i][0], 1e-6) << i;
-    EXPECT_NEAR(steps[i].to.y, inner.Bottom() - inner.height * expected[i][1] / 10, 1e-6) << i;
   }
 }
 
@@ -253,30 +106,6 @@ TEST_F(FamiliesTest, BlanksOfLinesAreGapsUnlessTheFileSaysOtherwise) {
         EXPECT_NEAR(heights[i], test.upper[i], 1e-4) << test.grouping << test.behind << i;
       }
     }
-  }
-}
-
-TEST_F(FamiliesTest, PointsAreJoinedUnlessTheFileShowsMarkersOnly) {
-  const auto numbers = [](const char* element) {
-    return "<c:" + S(element) +
-           "><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>1</c:v></c:pt><c:pt "
-           "idx=\"1\"><c:v>2</c:v></c:pt></c:numLit></c:" +
-           element + ">";
-  };
-  struct {
-    S style, marker;
-    std::size_t lines, markers;
-  } cases[] = {
-      {"", "none", 1, 0},     {"", "square", 1, 2},       {"lineMarker", "none", 1, 0},
-      {"line", "none", 1, 0}, {"marker", "square", 0, 2},
-  };
-  for (const auto& test : cases) {
-    const S style = test.style.empty() ? "" : "<c:scatterStyle val=\"" + test.style + "\"/>";
-    const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:marker><c:symbol val=\"" + test.marker +
-                     "\"/></c:marker>" + numbers("xVal") + numbers("yVal") + "</c:ser>";
-    const Drawing drawing = Draw(PlotXml(GroupXml("scatterChart", style, series) + AxesXml()));
-    EXPECT_EQ(ItemsOf(drawing, Role::kLine, 1).size(), test.lines) << test.style << test.marker;
-    EXPECT_EQ(ItemsOf(drawing, Role::kMarker, 1).size(), test.markers) << test.style << test.marker;
   }
 }
 
@@ -372,46 +201,6 @@ TEST_F(FamiliesTest, SeriesOfTwoAxesFollowTheirOwnScale) {
   EXPECT_LT(BoxOf(drawing, Role::kTickLabel, 2).Right(), plot.left);
   EXPECT_GT(BoxOf(drawing, Role::kTickLabel, 4).left, plot.Right());
   EXPECT_EQ(DrawingComplaints(drawing), "");
-}
-
-TEST_F(DrawingTest, RadarChartsLieOnAWebOfTheirScale) {
-  const S scale =
-      "<c:scaling><c:max val=\"10\"/><c:min val=\"0\"/></c:scaling><c:majorGridlines/>"
-      "<c:majorUnit val=\"5\"/>";
-  struct {
-    const char* style;
-    Role role;
-    std::size_t markers;
-  } cases[] = {{"standard", Role::kLine, 0}, {"marker", Role::kLine, 4}, {"filled", Role::kArea, 0}};
-  for (const auto& test : cases) {
-    const Drawing drawing =
-        Draw(PlotXml(GroupXml("radarChart", S("<c:radarStyle val=\"") + test.style + "\"/>",
-                              SeriesXml(0, {10, 5, 2.5, 7.5}, "<c:dLbls><c:showVal val=\"1\"/></c:dLbls>", "",
-                                        CategoriesXml({"North", "East", "South", "West"}))) +
-                         AxesXml("", scale),
-                     "<c:legend/>"));
-    EXPECT_EQ(notes_, std::vector<S>()) << test.style;
-    EXPECT_EQ(DrawingComplaints(drawing), "") << test.style;
-    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), (std::vector<S>{"North", "East", "South", "West"}));
-    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), (std::vector<S>{"0", "5", "10"})) << test.style;
-    EXPECT_EQ(ItemsOf(drawing, Role::kMarker).size(), test.markers) << test.style;
-    const auto webs = BoxesOf(drawing, Role::kGridline);
-    ASSERT_EQ(webs.size(), 3u) << test.style;
-    const Rect web = webs[2], series = BoxOf(drawing, test.role);
-    const double radius = web.width / 2;
-    EXPECT_NEAR(web.height / 2, radius, 1e-6) << test.style;
-    EXPECT_NEAR(web.Center().y - series.top, radius, 1e-6) << test.style;
-    EXPECT_NEAR(series.Right() - web.Center().x, radius * 0.5, 1e-6) << test.style;
-    EXPECT_NEAR(series.Bottom() - web.Center().y, radius * 0.25, 1e-6) << test.style;
-    EXPECT_NEAR(web.Center().x - series.left, radius * 0.75, 1e-6) << test.style;
-    EXPECT_FALSE(Overlap(BoxesOf(drawing, Role::kTickLabel, 1)[1], web)) << test.style;
-    const auto labels = BoxesOf(drawing, Role::kDataLabel);
-    ASSERT_EQ(labels.size(), 4u) << test.style;
-    EXPECT_LE(labels[0].Bottom(), series.top + 0.01) << test.style;
-    EXPECT_GE(labels[1].left, series.Right() - 0.01) << test.style;
-    EXPECT_GE(labels[2].top, series.Bottom() - 0.01) << test.style;
-    EXPECT_LE(labels[3].Right(), series.left + 0.01) << test.style;
-  }
 }
 
 }  // namespace

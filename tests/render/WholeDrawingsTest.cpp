@@ -293,7 +293,55 @@ std::map<S, Whole> Charts() {
            "val=\"0.4\"/></c:manualLayout></c:layout>";
   };
   const S two = Columns(SeriesXml(0, {5, 3}) + SeriesXml(1, {1, 2}));
+  const S twenty = Scaling("<c:max val=\"20\"/><c:min val=\"-10\"/>");
+  const auto crossing = [&](const S& group, const S& element, const S& more = "") {
+    return PlotXml(group + AxesXml(element + more, twenty));
+  };
+  const S both = SeriesXml(0, {-5, 2, 15}, Labels("showVal"));
+  const auto placed = [](const std::vector<S>& places, const Numbers& values, const S& more) {
+    S series;
+    for (std::size_t i = 0; i < places.size(); ++i) {
+      series += SeriesXml(static_cast<int>(i), values,
+                          more + Labels("showVal", "<c:dLblPos val=\"" + places[i] + "\"/>"));
+    }
+    return series;
+  };
+  const std::vector<S> barPlaces = {"outEnd", "inEnd", "ctr", "inBase"},
+                       markerPlaces = {"t", "b", "l", "r", "ctr"};
+  const auto scatter = [&](const S& style, const S& marker) {
+    return PlotXml(GroupXml("scatterChart", style.empty() ? "" : "<c:scatterStyle val=\"" + style + "\"/>",
+                            PointSeries(0, {1, 2}, {2, 1}, marker)) +
+                   With(AxesXml(), "catAx", "valAx"));
+  };
   return {
+      {"crossing-areas", crossing(GroupXml("areaChart", "", both), "<c:crossesAt val=\"5\"/>")},
+      {"crossing-areas-stacked",
+       crossing(GroupXml("areaChart", "<c:grouping val=\"stacked\"/>", both), "<c:crossesAt val=\"5\"/>")},
+      {"crossing-columns", crossing(Columns(both), "<c:crossesAt val=\"5\"/>")},
+      {"crossing-columns-stacked", crossing(Columns(both, "", "stacked"), "<c:crossesAt val=\"5\"/>")},
+      {"crossing-drop-lines", crossing(Lines(both, "<c:dropLines/>"), "<c:crossesAt val=\"5\"/>")},
+      {"crossing-least", crossing(Columns(both), "<c:crosses val=\"min\"/>")},
+      {"crossing-low-labels", crossing(Columns(both), "", "<c:tickLblPos val=\"low\"/>")},
+      {"crossing-most", crossing(Columns(both), "<c:crosses val=\"max\"/>")},
+      {"labels-of-bars",
+       PlotXml(Columns(placed(barPlaces, {20, -60}, ""), "", "clustered", "bar") + AxesXml("", "", true))},
+      {"labels-of-columns", PlotXml(Columns(placed(barPlaces, {20, -60}, "")) + AxesXml())},
+      {"labels-of-markers",
+       PlotXml(Lines(placed(markerPlaces, {40, 50, 45}, Marker("dot", "8"))) + AxesXml())},
+      {"levels-as-one-text", PlotXml(Columns(SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels())) +
+                                     AxesXml("<c:noMultiLvlLbl val=\"1\"/><c:majorTickMark val=\"none\"/>"))},
+      {"levels-on-marks", PlotXml(Columns(SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels())) +
+                                  AxesXml("", "<c:crossBetween val=\"midCat\"/>"))},
+      {"radar-standard",
+       PlotXml(GroupXml("radarChart", "<c:radarStyle val=\"standard\"/>", SeriesXml(0, {10, 5, 2})) +
+               AxesXml())},
+      {"scatter-default", scatter("", Marker("square"))},
+      {"scatter-line", scatter("line", Marker("none"))},
+      {"scatter-marker", scatter("marker", Marker("square"))},
+      {"stacked-overlap",
+       PlotXml(Columns(SeriesXml(0, {4, -2}) + SeriesXml(1, {1, 3}) + SeriesXml(2, {1, -3}),
+                       "<c:overlap val=\"40\"/>", "stacked") +
+               AxesXml())},
       {"layout-by-hand",
        PlotXml(layout("<c:layoutTarget val=\"inner\"/>", "edge") + two + AxesXml(Title("X"), Title("Y")),
                legend("r", layout("", "edge")))},
@@ -313,8 +361,8 @@ std::map<S, Whole> Charts() {
                kLegend)},
       {"looks-of-fills", PlotXml(Columns(fills) + AxesXml(), kLegend)},
       {"looks-of-lines", PlotXml(Lines(dashes) + AxesXml())},
-      {"ring-of-one", PlotXml("<c:doughnutChart>" + SeriesXml(0, {3, 0}) + SeriesXml(1, {1, 2}) +
-                              "<c:holeSize val=\"60\"/></c:doughnutChart>")},
+      {"ring-of-one", PlotXml("<c:doughnutChart>" + SeriesXml(0, {3, 0}, "<c:explosion val=\"25\"/>") +
+                              SeriesXml(1, {1, 2}) + "<c:holeSize val=\"60\"/></c:doughnutChart>")},
       {"pie-of-one",
        PlotXml(slices + SeriesXml(0, {3}, Labels("showVal", "<c:dLblPos val=\"ctr\"/>")) + "</c:pieChart>")},
       {"pie-exploded", PlotXml(slices +
@@ -349,12 +397,13 @@ std::map<S, Whole> Charts() {
                        "<c:gapWidth val=\"50\"/><c:overlap val=\"-20\"/>", "clustered", "bar") +
                AxesXml(reversed + "<c:tickLblPos val=\"low\"/>",
                        reversed + kGrid + "<c:tickLblPos val=\"high\"/>" + kMarks, true))},
-      {"bubbles", PlotXml(GroupXml("bubbleChart", "",
-                                   With(PointSeries(0, {1, 2, 3}, {3, 1, 2},
-                                                    Labels("showVal", "<c:dLblPos val=\"r\"/>")),
-                                        "</c:ser>", Literal("bubbleSize", {4, 1, -2}) + "</c:ser>"),
-                                   "<c:bubbleScale val=\"60\"/><c:showNegBubbles val=\"1\"/>") +
-                          valueAxes)},
+      {"bubbles",
+       PlotXml(
+           GroupXml("bubbleChart", "",
+                    With(PointSeries(0, {1, 2, 3}, {3, 1, 2}, Labels("showVal", "<c:dLblPos val=\"r\"/>")),
+                         "</c:ser>", Literal("bubbleSize", {4, 1, -2}) + "</c:ser>"),
+                    "<c:bubbleScale val=\"60\"/><c:showNegBubbles val=\"1\"/><c:sizeRepresents val=\"w\"/>") +
+           valueAxes)},
       {"columns-labels",
        PlotXml(
            Columns(SeriesXml(0, {20, -5, 80}, Labels("showVal", "<c:showLegendKey val=\"1\"/>"), "", kNames) +
@@ -424,7 +473,7 @@ std::map<S, Whole> Charts() {
                kLegend)},
       {"pie-inside",
        PlotXml(slices +
-                   SeriesXml(0, {30, 20, 50}, Labels("showVal", "<c:dLblPos val=\"inEnd\"/>"), "", kNames) +
+                   SeriesXml(0, {30, -20, 50}, Labels("showVal", "<c:dLblPos val=\"inEnd\"/>"), "", kNames) +
                    "</c:pieChart>",
                kLegend)},
       {"pie-moved", PlotXml(slices +
