@@ -148,6 +148,8 @@ TEST_F(ScriptPlayerTest, ImpossibleLinesReportTheAlternatives) {
       {"expect chk3D 1", "1: what is expected is a message, a question or CONTROL.PROPERTY, not 'chk3D'"},
       {"expect chk4D.Value 1", "1: frmSmall has no control 'chk4D'; it has " + controls},
       {"expect chk3D.BackColor grey", "1: a colour is written as 0x8000000F, and 'grey' isn't one"},
+      {"expect chk3D.BackColor 0x123456789",
+       "1: a colour is written as 0x8000000F, and '0x123456789' isn't one"},
       {"expect chk3D.BackColor 0xF", "1: chk3D.BackColor is '0x8000000F', not '0xF'"},
       {"expect message Hello", "1: there was no message 'Hello'"},
       {"expect question Sure?", "1: there was no question 'Sure?'"},
