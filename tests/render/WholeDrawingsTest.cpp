@@ -313,7 +313,64 @@ std::map<S, Whole> Charts() {
                             PointSeries(0, {1, 2}, {2, 1}, marker)) +
                    With(AxesXml(), "catAx", "valAx"));
   };
+  const auto solid = [](const S& view, const S& content, const S& behind = "") {
+    return "<c:autoTitleDeleted val=\"1\"/><c:view3D>" + view + "</c:view3D>" +
+           PlotXml(content, behind).substr(S("<c:autoTitleDeleted val=\"1\"/>").size());
+  };
+  const S rightAngles = "<c:rotX val=\"15\"/><c:rotY val=\"20\"/><c:rAngAx val=\"1\"/>";
+  const S perspective =
+      "<c:rotX val=\"25\"/><c:rotY val=\"230\"/><c:depthPercent val=\"150\"/><c:rAngAx val=\"0\"/>"
+      "<c:perspective val=\"60\"/>";
+  const S three = SeriesXml(0, {1, 3}) + SeriesXml(1, {2, 6}) + SeriesXml(2, {3, -2});
+  const S depth =
+      "<c:serAx><c:axId val=\"3\"/><c:scaling/><c:delete val=\"0\"/><c:axPos val=\"b\"/><c:crossAx "
+      "val=\"1\"/></c:serAx>";
+  const auto bodies = [&](const S& grouping, const S& direction, const S& last = "") {
+    return GroupXml("bar3DChart",
+                    "<c:barDir val=\"" + direction + "\"/><c:grouping val=\"" + grouping + "\"/>", three,
+                    last) +
+           AxesXml("", "", direction == "bar");
+  };
+  const auto surface = [&](const S& element, const S& first, const S& view) {
+    const S ridge = SeriesXml(0, {0, 0, 10}) + SeriesXml(1, {30, 15, 20}) + SeriesXml(2, {0, 0, 5});
+    const S formats =
+        "<c:bandFmts><c:bandFmt><c:idx val=\"1\"/>" + Look(Solid("FFC000")) + "</c:bandFmt></c:bandFmts>";
+    return solid(view,
+                 GroupXml(element, first, ridge, formats + "<c:axId val=\"3\"/>") +
+                     AxesXml("", "<c:majorUnit val=\"10\"/>") + depth,
+                 kLegend);
+  };
+  const S disc = "<c:pie3DChart><c:varyColors val=\"1\"/>";
   return {
+      {"3d-areas", solid(perspective, GroupXml("area3DChart", "<c:grouping val=\"standard\"/>", three,
+                                               "<c:axId val=\"3\"/>") +
+                                          AxesXml() + depth)},
+      {"3d-areas-stacked",
+       solid(rightAngles, GroupXml("area3DChart", "<c:grouping val=\"stacked\"/>", three) + AxesXml())},
+      {"3d-bars", solid(rightAngles, bodies("clustered", "bar"))},
+      {"3d-columns",
+       solid(rightAngles, bodies("clustered", "col", "<c:gapWidth val=\"60\"/><c:gapDepth val=\"30\"/>"))},
+      {"3d-columns-behind-each-other",
+       solid(perspective, GroupXml("bar3DChart", "<c:barDir val=\"col\"/><c:grouping val=\"standard\"/>",
+                                   three, "<c:axId val=\"3\"/>") +
+                              AxesXml() + depth)},
+      {"3d-columns-of-levels", solid(rightAngles, GroupXml("bar3DChart", "<c:barDir val=\"col\"/>",
+                                                           SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels())) +
+                                                      AxesXml())},
+      {"3d-columns-percent", solid(rightAngles, bodies("percentStacked", "col"))},
+      {"3d-cones", solid(rightAngles, bodies("stacked", "col", "<c:shape val=\"coneToMax\"/>"))},
+      {"3d-cylinders", solid(perspective, bodies("clustered", "col", "<c:shape val=\"cylinder\"/>"))},
+      {"3d-pie", solid("<c:rotX val=\"30\"/><c:rotY val=\"40\"/>",
+                       disc + SeriesXml(0, {1, 1, 2}, Labels("showVal", "<c:dLblPos val=\"outEnd\"/>")) +
+                           "</c:pie3DChart>")},
+      {"3d-pie-exploded",
+       solid("<c:rotX val=\"60\"/>",
+             disc + SeriesXml(0, {1, 1, 2}, "<c:explosion val=\"40\"/>") + "</c:pie3DChart>")},
+      {"3d-pyramids", solid(rightAngles, bodies("stacked", "bar", "<c:shape val=\"pyramid\"/>"))},
+      {"3d-surface",
+       surface("surface3DChart", "", "<c:rotX val=\"20\"/><c:rotY val=\"30\"/><c:perspective val=\"20\"/>")},
+      {"3d-surface-contours", surface("surfaceChart", "", "")},
+      {"3d-surface-wires", surface("surfaceChart", "<c:wireframe val=\"1\"/>", "")},
       {"crossing-areas", crossing(GroupXml("areaChart", "", both), "<c:crossesAt val=\"5\"/>")},
       {"crossing-areas-stacked",
        crossing(GroupXml("areaChart", "<c:grouping val=\"stacked\"/>", both), "<c:crossesAt val=\"5\"/>")},

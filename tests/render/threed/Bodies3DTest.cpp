@@ -22,65 +22,6 @@ using render::Role;
 
 class Bodies3DTest : public Chart3DTest {};
 
-/// Returns the front rectangle of a bar in a view with right-angle axes.
-Rect FrontOf(const Drawing& drawing, int series, int point) {
-  for (const Item& item : drawing.items) {
-    if (item.tag == render::Tag{Role::kBar, series, point}) return BoundsOf(item);
-  }
-  return {};
-}
-
-TEST_F(Bodies3DTest, FrontsAreProportionalToTheValues) {
-  for (const std::string direction : {"col", "bar"}) {
-    for (const std::string grouping : {"clustered", "stacked", "standard"}) {
-      const Drawing drawing = Draw({.grouping = grouping, .direction = direction});
-      const auto lengthOf = [&](int series, int point) {
-        const Rect front = FrontOf(drawing, series, point);
-        return direction == "col" ? front.height : front.width;
-      };
-      const double unit = lengthOf(1, 1) / 4;
-      EXPECT_GT(unit, 1);
-      for (int series = 1; series <= 3; ++series) {
-        for (int point = 1; point <= 4; ++point) {
-          const double value = Setup().values[static_cast<std::size_t>(point - 1)] * series;
-          EXPECT_NEAR(lengthOf(series, point), value * unit, 1e-6)
-              << direction << grouping << series << point;
-        }
-      }
-    }
-  }
-}
-
-TEST_F(Bodies3DTest, StackedPiecesTouch) {
-  for (const std::string grouping : {"stacked", "percentStacked"}) {
-    const Drawing drawing = Draw({.grouping = grouping});
-    for (int point = 1; point <= 4; ++point) {
-      for (int series = 2; series <= 3; ++series) {
-        const Rect lower = FrontOf(drawing, series - 1, point), upper = FrontOf(drawing, series, point);
-        EXPECT_NEAR(upper.Bottom(), lower.top, 1e-6);
-        EXPECT_DOUBLE_EQ(upper.left, lower.left);
-      }
-      if (grouping == "percentStacked") {
-        EXPECT_NEAR(FrontOf(drawing, 3, point).top, FrontOf(drawing, 3, 1).top, 1e-6);
-      }
-    }
-  }
-}
-
-TEST_F(Bodies3DTest, FrontsHaveTheColorAndSidesAreDarker) {
-  const Drawing drawing = Draw({});
-  const render::Color own{0x4F, 0x81, 0xBD, 1};
-  for (const Item* front : ItemsOf(drawing, Role::kBar, 1)) EXPECT_EQ(FillOf(*front), own);
-  const auto sides = ItemsOf(drawing, Role::kSide, 1);
-  ASSERT_EQ(sides.size(), 8);  // Each bar has a side at the right and one above.
-  for (const Item* side : sides) {
-    const Rect front = FrontOf(drawing, 1, side->tag.point), bounds = BoundsOf(*side);
-    const bool atRight = std::abs(bounds.left - front.Right()) < 1e-6;
-    EXPECT_NE(atRight, std::abs(bounds.Bottom() - front.top) < 1e-6);
-    EXPECT_EQ(FillOf(*side), render::Lit(own, atRight ? render::kSideLight : render::kTopLight));
-  }
-}
-
 TEST_F(Bodies3DTest, BarsShareOutTheWidthAndTheDepth) {
   struct Case {
     const char* grouping;
@@ -190,37 +131,6 @@ TEST_F(Bodies3DTest, NoBarIsPaintedOverANearerOne) {
   }
 }
 
-TEST_F(Bodies3DTest, StackedAreasShareTheirBorders) {
-  const Drawing drawing = Draw({.group = "area3DChart", .grouping = "stacked"});
-  const auto fronts = ItemsOf(drawing, Role::kArea);
-  ASSERT_EQ(fronts.size(), 3);
-  for (std::size_t s = 0; s + 1 < fronts.size(); ++s) {
-    const auto& lower = std::get<render::PathItem>(fronts[s]->content).path.Steps();
-    const auto& upper = std::get<render::PathItem>(fronts[s + 1]->content).path.Steps();
-    ASSERT_EQ(lower.size(),
-              9);  // The path goes along the upper border, back along the lower one, and is closed.
-    for (std::size_t i = 0; i < 4; ++i) {
-      EXPECT_NEAR(lower[i].to.x, upper[7 - i].to.x, 1e-6);
-      EXPECT_NEAR(lower[i].to.y, upper[7 - i].to.y, 1e-6);
-    }
-  }
-}
-
-TEST_F(Bodies3DTest, AreasAreBehindEachOtherWithTheFirstInFront) {
-  const Drawing drawing = Draw({.view = R"(<c:rotX val="15"/><c:rotY val="20"/><c:perspective val="30"/>)",
-                                .group = "area3DChart",
-                                .grouping = "standard"});
-  std::vector<int> order;
-  for (const Item* front : ItemsOf(drawing, Role::kArea)) order.push_back(front->tag.series);
-  EXPECT_EQ(order, (std::vector{3, 2, 1}));
-  // The labels of the series are along the depth, from front to back.
-  std::vector<std::string> names;
-  for (const Item* label : ItemsOf(drawing, Role::kTickLabel, 3)) {
-    names.push_back(std::get<render::TextItem>(label->content).text);
-  }
-  EXPECT_EQ(names, (std::vector<std::string>{"S1", "S2", "S3"}));
-}
-
 /// Returns true if a point is inside a polygon: a ray from it crosses the outline an odd number of times.
 bool IsInside(Point point, const std::vector<render::PathStep>& outline) {
   bool inside = false;
@@ -257,29 +167,6 @@ TEST_F(Bodies3DTest, AxisLabelsStayOnTheChartApartAndOffTheFloor) {
         }
       }
     }
-  }
-}
-
-TEST_F(Bodies3DTest, BarsHaveTheShapesInTheFile) {
-  struct Case {
-    const char* shape;
-    double narrowed;  ///< The ratio of the front widths of the second series at its end and at its base, in a
-                      ///< stack.
-    std::size_t faces;
-  };
-  for (const Case& c : {Case{"box", 1, 3}, Case{"cylinder", 1, 2}, Case{"pyramid", 0.6, 3},
-                        Case{"cone", 0.6, 2}, Case{"coneToMax", 0.78, 2}}) {
-    const Drawing drawing = Draw({.view = R"(<c:rotX val="15"/><c:rotY val="20"/><c:rAngAx val="1"/>)",
-                                  .grouping = "stacked",
-                                  .behind = std::string("<c:shape val=\"") + c.shape + "\"/>",
-                                  .values = {4, 8}});
-    const auto sides = ItemsOf(drawing, Role::kSide, 2);
-    const auto fronts = ItemsOf(drawing, Role::kBar, 2);
-    ASSERT_EQ(fronts.size(), 2) << c.shape;
-    EXPECT_EQ((sides.size() + fronts.size()) / 2, c.faces) << c.shape;
-    // Both bars of a category have the same width where they meet.
-    const Rect lower = FrontOf(drawing, 1, 1), upper = FrontOf(drawing, 2, 1);
-    EXPECT_TRUE(c.narrowed == 1 ? upper.width == lower.width : upper.width < lower.width * 0.99) << c.shape;
   }
 }
 

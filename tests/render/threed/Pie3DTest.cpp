@@ -22,46 +22,6 @@ Rect BoundsOfAll(const std::vector<const Item*>& items) {
   return bounds;
 }
 
-TEST_F(Pie3DTest, TheDiscIsAsFlatAsTheElevationSays) {
-  for (const double elevation : {10, 30, 45, 80}) {
-    const Drawing drawing =
-        Draw({.view = "<c:rotX val=\"" + xlsx::xml::Number(elevation) + "\"/><c:rotY val=\"0\"/>",
-              .group = "pie3DChart"});
-    const auto slices = ItemsOf(drawing, Role::kSlice);
-    ASSERT_EQ(slices.size(), 4);
-    const Rect top = BoundsOfAll(slices), sides = BoundsOfAll(ItemsOf(drawing, Role::kSide));
-    EXPECT_NEAR(top.height / top.width, std::sin(elevation * std::numbers::pi / 180), 1e-3) << elevation;
-    // The rim is below the upper side. It is thinner in a view from above.
-    EXPECT_NEAR((sides.Bottom() - top.Bottom()) / top.width,
-                0.12 * std::cos(elevation * std::numbers::pi / 180), 1e-3);
-    EXPECT_TRUE(top.left >= 0 && top.top >= 0 && top.Right() <= 384 && sides.Bottom() <= 270);
-  }
-}
-
-TEST_F(Pie3DTest, SlicesMeetOnTheirEdgesAndBeginWhereTheViewIsTurnedTo) {
-  for (const double rotation : {0, 90, 275}) {
-    const Drawing drawing =
-        Draw({.view = "<c:rotX val=\"30\"/><c:rotY val=\"" + xlsx::xml::Number(rotation) + "\"/>",
-              .group = "pie3DChart",
-              .values = {1, 1, 2}});
-    const auto slices = ItemsOf(drawing, Role::kSlice);
-    ASSERT_EQ(slices.size(), 3);
-    const Rect disc = BoundsOfAll(slices);
-    const auto stepsOf = [&](std::size_t i) {
-      return std::get<render::PathItem>(slices[i % 3]->content).path.Steps();
-    };
-    for (std::size_t i = 0; i < 3; ++i) {
-      // The path of a slice goes from the middle to the edge, along it, and back.
-      const auto end = stepsOf(i)[stepsOf(i).size() - 2].to, next = stepsOf(i + 1)[1].to;
-      EXPECT_NEAR(end.x, next.x, 1e-6);
-      EXPECT_NEAR(end.y, next.y, 1e-6);
-    }
-    const render::Point begin = stepsOf(0)[1].to;
-    EXPECT_NEAR(begin.x, disc.Center().x + disc.width / 2 * std::sin(rotation * std::numbers::pi / 180),
-                0.02);
-  }
-}
-
 TEST_F(Pie3DTest, NothingIsPaintedOverTheUpperSides) {
   for (const std::string exploded : {"", "<c:explosion val=\"40\"/>"}) {
     OpenChart(Part({.group = "pie3DChart"}));
@@ -81,23 +41,6 @@ TEST_F(Pie3DTest, NothingIsPaintedOverTheUpperSides) {
     const std::size_t walls = ItemsOf(drawing, Role::kSide).size();
     EXPECT_TRUE(exploded.empty() ? walls <= 4 : walls > 4) << walls;
   }
-}
-
-TEST_F(Pie3DTest, SlicesGoOutAlongTheDisc) {
-  std::string part = Part(
-      {.view = "<c:rotX val=\"30\"/><c:rotY val=\"0\"/>", .group = "pie3DChart", .values = {1, 1, 1, 1}});
-  part.insert(part.find("<c:cat>"), "<c:explosion val=\"50\"/>");
-  OpenChart(part);
-  const Drawing drawing = DrawChart(*Book().Chart("/xl/charts/chart1.xml"), 384, 270, fonts_, notes_);
-  const auto slices = ItemsOf(drawing, Role::kSlice);
-  ASSERT_EQ(slices.size(), 4);
-  const auto tipOf = [&](std::size_t i) {
-    return std::get<render::PathItem>(slices[i]->content).path.Steps()[0].to;
-  };
-  const Rect slice = BoundsOf(*slices[0]);  // A quarter is as wide as the radius.
-  // Each slice is moved by half of the radius, at 45 degrees on the disc.
-  EXPECT_NEAR((tipOf(0).x - tipOf(3).x) / 2, slice.width * 0.5 * std::numbers::sqrt2 / 2, 0.02);
-  EXPECT_NEAR((tipOf(1).y - tipOf(0).y) / 2, slice.height * 0.5 * std::numbers::sqrt2 / 2, 0.02);
 }
 
 TEST_F(Pie3DTest, LabelsOutsideStayClearOfTheDiscAndItsRim) {

@@ -19,23 +19,6 @@ using Texts = std::vector<S>;
 
 const S kScale = "<c:scaling><c:max val=\"30\"/><c:min val=\"0\"/></c:scaling><c:majorUnit val=\"10\"/>";
 
-/// Returns the area of a path of polygons in square points.
-double AreaOf(const Item& item) {
-  double twice = 0, part = 0;
-  Point first, last;
-  for (const PathStep& step : std::get<PathItem>(item.content).path.Steps()) {
-    const Point to = step.kind == PathStep::Kind::kClose ? first : step.to;
-    if (step.kind == PathStep::Kind::kMove) {
-      first = to;
-    } else {
-      part += last.x * to.y - to.x * last.y;
-    }
-    last = to;
-    if (step.kind == PathStep::Kind::kClose) twice += std::abs(std::exchange(part, 0));
-  }
-  return twice / 2;
-}
-
 class SurfacesTest : public DrawingTest {
  protected:
   Drawing DrawSurface(const S& element, const std::vector<std::vector<double>>& rows, const S& first = "",
@@ -51,41 +34,6 @@ class SurfacesTest : public DrawingTest {
                 "</c:plotArea><c:legend/>");
   }
 };
-
-TEST_F(SurfacesTest, ContoursSplitTheGroundByValue) {
-  // a slope from 0 to 30 along the categories: each band takes a third of the ground
-  const Drawing drawing = DrawSurface("surfaceChart", {{0, 15, 30}, {0, 15, 30}});
-  EXPECT_EQ(notes_, render::Notes());
-  EXPECT_EQ(DrawingComplaints(drawing), "");
-  const auto bands = ItemsOf(drawing, Role::kSurface);
-  ASSERT_EQ(bands.size(), 3u);
-  const Rect ground = BoxOf(drawing, Role::kSurface);
-  const Texts colors = {"#4F81BD", "#C0504D", "#9BBB59"};
-  for (std::size_t i = 0; i < 3; ++i) {
-    EXPECT_EQ(bands[i].tag, (render::Tag{Role::kSurface, 0, static_cast<int>(i + 1)}));
-    EXPECT_EQ(FillOf(bands[i]), colors[i]);
-    EXPECT_NEAR(AreaOf(bands[i]), ground.width * ground.height / 3, 0.01);
-    EXPECT_NEAR(BoundsOf(bands[i]).left, ground.left + ground.width * static_cast<double>(i) / 3, 1e-6);
-  }
-  EXPECT_GT(ground.height, 150);  // The ground fills the plot area.
-  EXPECT_GT(ground.width, 200);
-  EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), (Texts{"1", "2", "3"}));
-  EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), Texts());
-  EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 3), (Texts{"Series 0", "Series 1"}));
-}
-
-TEST_F(SurfacesTest, LegendsHaveTheBands) {
-  const S format =
-      "<c:bandFmts><c:bandFmt><c:idx val=\"1\"/><c:spPr><a:solidFill><a:srgbClr val=\"FFC000\"/>"
-      "</a:solidFill></c:spPr></c:bandFmt></c:bandFmts>";
-  for (const char* element : {"surfaceChart", "surface3DChart"}) {
-    const Drawing drawing = DrawSurface(element, {{0, 30}, {30, 0}}, "", format);
-    EXPECT_EQ(TextsOf(drawing, Role::kLegendEntry), (Texts{"20-30", "10-20", "0-10"})) << element;
-    Texts keys;
-    for (const Item& key : ItemsOf(drawing, Role::kLegendKey)) keys.push_back(FillOf(key));
-    EXPECT_EQ(keys, (Texts{"#9BBB59", "#FFC000", "#4F81BD"})) << element;
-  }
-}
 
 TEST_F(SurfacesTest, BandsFollowTheUnitsOfTheirAxis) {
   const auto scaling = [](const S& least, const S& most, const S& base = "") {
@@ -104,43 +52,6 @@ TEST_F(SurfacesTest, BandsFollowTheUnitsOfTheirAxis) {
     const Drawing drawing = DrawSurface("surface3DChart", {{1, 2}, {2, 1}}, "", "", "", test.axis);
     EXPECT_EQ(TextsOf(drawing, Role::kLegendEntry), test.bands);
   }
-}
-
-TEST_F(SurfacesTest, SurfacesInThreeDimensionsCoverWhatIsBehind) {
-  // One looks at a ridge from the front, with parallel rays. The second half of the depth is behind it.
-  const S view = "<c:rotX val=\"10\"/><c:rotY val=\"0\"/><c:rAngAx val=\"0\"/><c:perspective val=\"0\"/>";
-  const Drawing drawing = DrawSurface("surface3DChart", {{0, 0}, {30, 30}, {0, 0}}, "", "", view);
-  EXPECT_EQ(notes_, render::Notes());
-  const auto pieces = ItemsOf(drawing, Role::kSurface);
-  ASSERT_GT(pieces.size(), 12u);
-  // all pieces of the back are painted before those of the front
-  std::vector<int> bands;
-  for (const Item& piece : pieces) bands.push_back(piece.tag.point);
-  EXPECT_EQ(bands.size() % 2, 0u);
-  const auto half = static_cast<std::ptrdiff_t>(bands.size() / 2);
-  EXPECT_EQ(std::count(bands.begin(), bands.begin() + half, 3),
-            std::count(bands.begin() + half, bands.end(), 3));
-  double back = 0, front = 0;
-  for (std::size_t i = 0; i < pieces.size(); ++i) {
-    (i < pieces.size() / 2 ? back : front) += BoundsOf(pieces[i]).Center().y;
-  }
-  EXPECT_LT(back, front);  // From above, what is behind is higher on the picture.
-  EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), (Texts{"0", "10", "20", "30"}));
-}
-
-TEST_F(SurfacesTest, WireframesAreLinesInTheColoursOfTheirBands) {
-  const Drawing drawing = DrawSurface("surfaceChart", {{0, 15, 30}, {0, 15, 30}}, "<c:wireframe val=\"1\"/>");
-  const auto bands = ItemsOf(drawing, Role::kSurface);
-  ASSERT_EQ(bands.size(), 3u);
-  const Texts colors = {"#4F81BD", "#C0504D", "#9BBB59"};
-  for (std::size_t i = 0; i < 3; ++i) {
-    const auto& path = std::get<PathItem>(bands[i].content);
-    EXPECT_TRUE(std::holds_alternative<std::monostate>(path.fill));
-    EXPECT_EQ(HexOf(path.stroke.color), colors[i]);
-  }
-  const auto keys = ItemsOf(drawing, Role::kLegendKey);
-  ASSERT_EQ(keys.size(), 3u);
-  EXPECT_EQ(HexOf(std::get<PathItem>(keys[0].content).stroke.color), colors[2]);
 }
 
 TEST_F(SurfacesTest, WildSurfacesTakeLittleTime) {
