@@ -8,12 +8,10 @@ namespace {
 
 using namespace test;
 using render::Drawing;
-using render::Item;
 using render::Path;
 using render::PathItem;
 using render::PathStep;
 using render::Point;
-using render::Rect;
 using render::Role;
 using S = std::string;
 

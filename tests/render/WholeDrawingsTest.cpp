@@ -18,7 +18,6 @@ using namespace test;
 using render::Drawing;
 using render::Item;
 using render::Point;
-using render::Rect;
 using S = std::string;
 using Numbers = std::vector<double>;
 

@@ -6,7 +6,6 @@
 #include "render/fills/LitFill.h"
 #include "render/model/ChartReader.h"
 #include "render/threed/Bars3D.h"
-#include "render/threed/Shading.h"
 #include "render/threed/Solids.h"
 #include "tests/render/threed/Chart3DTest.h"
 #include "xlsx/chart/part/ChartPart.h"

@@ -1,10 +1,8 @@
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
-#include <numbers>
 
 #include "tests/render/threed/Chart3DTest.h"
-#include "xlsx/package/Xml.h"
 
 namespace plotsmith::test {
 namespace {

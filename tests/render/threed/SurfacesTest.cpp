@@ -8,11 +8,6 @@ namespace {
 
 using namespace test;
 using render::Drawing;
-using render::Item;
-using render::PathItem;
-using render::PathStep;
-using render::Point;
-using render::Rect;
 using render::Role;
 using S = std::string;
 using Texts = std::vector<S>;
