@@ -11,7 +11,6 @@ using namespace test;
 using render::Drawing;
 using render::FitTrend;
 using render::PathItem;
-using render::Point;
 using render::Rect;
 using render::Role;
 using render::TrendKind;
@@ -88,43 +87,6 @@ TEST_F(AnalysisTest, ErrorBarsReachAsFarAsTheirAmounts) {
     EXPECT_EQ(EndsOf(drawing, Role::kErrorBar), test.ends) << test.what;
     EXPECT_EQ(notes_, render::Notes()) << test.what;
   }
-}
-
-TEST_F(AnalysisTest, ErrorBarsHaveTheirPlaceLineAndCaps) {
-  const S line =
-      "<c:spPr><a:ln w=\"25400\"><a:solidFill><a:srgbClr val=\"00B050\"/></a:solidFill></a:ln></c:spPr>";
-  for (const bool caps : {true, false}) {
-    S bars = ErrorBarsXml("fixedVal", "1", S("<c:noEndCap val=\"") + (caps ? "0" : "1") + "\"/>");
-    bars.insert(bars.size() - S("</c:errBars>").size(), line);
-    const Drawing drawing = DrawColumns({2, 4}, bars);
-    const auto items = ItemsOf(drawing, Role::kErrorBar, 1);
-    ASSERT_EQ(items.size(), 2u);
-    for (std::size_t i = 0; i < 2; ++i) {
-      const auto& path = std::get<PathItem>(items[i].content);
-      EXPECT_NEAR(path.path.Bounds().Center().x, BoxesOf(drawing, Role::kBar)[i].Center().x, 1e-9);
-      EXPECT_NEAR(path.path.Bounds().width, caps ? 6 : 0, 1e-9);
-      EXPECT_EQ(path.path.Steps().size(), caps ? 6u : 2u);
-      EXPECT_EQ(HexOf(path.stroke.color), "#00B050");
-      EXPECT_EQ(path.stroke.width, 2);
-      EXPECT_EQ(items[i].tag.point, static_cast<int>(i + 1));
-    }
-  }
-}
-
-TEST_F(AnalysisTest, ErrorBarsOfScatterChartsGoBothWays) {
-  const S bars = ErrorBarsXml("fixedVal", "1") + ErrorBarsXml("fixedVal", "2", "<c:errDir val=\"x\"/>");
-  const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>" + bars + AmountsXml("xVal", {5}) +
-                   AmountsXml("yVal", {4}) + "</c:ser>";
-  S axes = AxesXml(kZeroToTen, kZeroToTen);
-  for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "valAx");
-  const Drawing drawing = Draw(PlotXml(GroupXml("scatterChart", "", series) + axes));
-  const Rect plot = BoxOf(drawing, Role::kPlotArea);
-  const auto boxes = BoxesOf(drawing, Role::kErrorBar);
-  ASSERT_EQ(boxes.size(), 2u);
-  EXPECT_NEAR(boxes[0].height, plot.height / 5, 1e-9);
-  EXPECT_NEAR(boxes[0].Center().x, plot.left + plot.width / 2, 1e-9);
-  EXPECT_NEAR(boxes[1].width, plot.width * 0.4, 1e-9);
-  EXPECT_NEAR(boxes[1].Center().y, plot.top + plot.height * 0.6, 1e-9);
 }
 
 TEST_F(AnalysisTest, AxesHaveRoomForErrorBarsAndExtendedTrendlines) {
@@ -235,41 +197,6 @@ TEST_F(AnalysisTest, NumbersInEquationsHaveFiveDigits) {
   for (const auto& [number, text] : kCases) EXPECT_EQ(render::EquationNumber(number), text);
 }
 
-TEST_F(AnalysisTest, TrendlinesGoThroughTheirPointsAndBeyond) {
-  const S line =
-      "<c:name>Trend</c:name><c:spPr><a:ln w=\"38100\"><a:solidFill><a:srgbClr val=\"7030A0\"/>"
-      "</a:solidFill></a:ln></c:spPr>";
-  S trend = TrendXml("linear", "<c:forward val=\"2\"/><c:backward val=\"0.5\"/>");
-  trend.insert(S("<c:trendline>").size(), line);
-  const Drawing drawing = DrawColumns({2, 4, 6}, trend);
-  EXPECT_EQ(notes_, render::Notes());
-  const auto items = ItemsOf(drawing, Role::kTrendline, 1);
-  ASSERT_EQ(items.size(), 1u);
-  const auto& path = std::get<PathItem>(items[0].content);
-  EXPECT_EQ(HexOf(path.stroke.color), "#7030A0");
-  EXPECT_EQ(path.stroke.width, 3);
-  // five places: three categories, and two for the forecast, of which half a place is free
-  const Rect plot = BoxOf(drawing, Role::kPlotArea), box = path.path.Bounds();
-  EXPECT_NEAR(BoxesOf(drawing, Role::kBar)[0].Center().x, plot.left + plot.width / 10, 1e-6);
-  EXPECT_NEAR(box.left, plot.left, 1e-6);
-  EXPECT_NEAR(box.Right(), plot.left + plot.width * 0.9, 1e-6);
-  EXPECT_NEAR(box.Bottom(), plot.Bottom() - plot.height * 0.1, 1e-6);
-  EXPECT_NEAR(box.top, plot.top, 1e-6);
-}
-
-TEST_F(AnalysisTest, MovingAveragesBeginAtTheirFirstWholePeriod) {
-  const Drawing drawing =
-      DrawColumns({1, 3, 5, kNoValue, 9, 7}, TrendXml("movingAvg", "<c:period val=\"2\"/>"));
-  const auto items = ItemsOf(drawing, Role::kTrendline);
-  ASSERT_EQ(items.size(), 1u);
-  const Rect plot = BoxOf(drawing, Role::kPlotArea);
-  Numbers values;
-  for (const auto& step : std::get<PathItem>(items[0].content).path.Steps()) {
-    values.push_back(std::round((plot.Bottom() - step.to.y) / plot.height * 1e6) / 1e5);
-  }
-  EXPECT_EQ(values, (Numbers{2, 4}));  // A single point behind the gap is no line.
-}
-
 TEST_F(AnalysisTest, TrendlinesSayTheirEquationAndHaveLegendEntries) {
   const S label = "<c:dispRSqr val=\"1\"/><c:dispEq val=\"1\"/>";
   const S format = "<c:trendlineLbl><c:numFmt formatCode=\"0.000\" sourceLinked=\"0\"/></c:trendlineLbl>";
@@ -289,25 +216,6 @@ TEST_F(AnalysisTest, TrendlinesSayTheirEquationAndHaveLegendEntries) {
   EXPECT_EQ(DrawingComplaints(drawing), "");
 }
 
-TEST_F(AnalysisTest, UpDownBarsGoFromTheFirstSeriesToTheLast) {
-  const S bars =
-      "<c:upDownBars><c:gapWidth val=\"100\"/><c:upBars/><c:downBars><c:spPr><a:solidFill>"
-      "<a:srgbClr val=\"C00000\"/></a:solidFill></c:spPr></c:downBars></c:upDownBars>";
-  const Drawing drawing = Draw(PlotXml(
-      GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
-               SeriesXml(0, {2, 8, 5}) + SeriesXml(1, {9, 9, 9}) + SeriesXml(2, {6, 3, kNoValue}), bars) +
-      AxesXml("", kZeroToTen)));
-  EXPECT_EQ(notes_, render::Notes());
-  EXPECT_EQ(EndsOf(drawing, Role::kUpDownBar), (std::vector<std::pair<double, double>>{{6, 2}, {8, 3}}));
-  const auto items = ItemsOf(drawing, Role::kUpDownBar);
-  ASSERT_EQ(items.size(), 2u);
-  EXPECT_EQ(FillOf(items[0]), "#FFFFFF");
-  EXPECT_EQ(FillOf(items[1]), "#C00000");
-  const Rect plot = BoxOf(drawing, Role::kPlotArea);
-  EXPECT_NEAR(BoundsOf(items[0]).width, plot.width / 3 / 2, 1e-9);
-  EXPECT_NEAR(BoundsOf(items[1]).Center().x, plot.Center().x, 1e-9);
-}
-
 TEST_F(AnalysisTest, ManyTrendlinesThroughManyPointsAreLimited) {
   S trends;
   for (int i = 0; i < 400; ++i) trends += TrendXml("movingAvg", "<c:period val=\"100\"/>");
@@ -317,15 +225,6 @@ TEST_F(AnalysisTest, ManyTrendlinesThroughManyPointsAreLimited) {
   EXPECT_EQ(notes_,
             (render::Notes{"The chart has more trendlines through many points than are drawn; the rest is "
                            "left out."}));
-}
-
-TEST_F(AnalysisTest, ErrorBarsOfSharesAreShares) {
-  const S first = "<c:barDir val=\"col\"/><c:grouping val=\"percentStacked\"/><c:overlap val=\"100\"/>";
-  const S toOne = "<c:scaling><c:max val=\"1\"/><c:min val=\"0\"/></c:scaling>";
-  const Drawing drawing = DrawGroup(
-      "barChart", first, SeriesXml(0, {2, 3}, ErrorBarsXml("fixedVal", "1")) + SeriesXml(1, {2, 2}), toOne);
-  // wholes of 4 and 5, in tenths of the axis
-  EXPECT_EQ(EndsOf(drawing, Role::kErrorBar), (std::vector<std::pair<double, double>>{{7.5, 2.5}, {8, 4}}));
 }
 
 TEST_F(AnalysisTest, DatesGoOnForTrendlines) {

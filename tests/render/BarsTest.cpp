@@ -7,60 +7,8 @@ namespace {
 
 using namespace test;
 using render::Drawing;
-using render::Rect;
 using render::Role;
 using S = std::string;
-
-/// The bars for the values of three categories.
-struct BarCase {
-  const char* name;
-  const char* direction;
-  const char* grouping;
-  S valueAxis;
-};
-
-class BarsTest : public DrawingTest, public ::testing::WithParamInterface<BarCase> {
- protected:
-  Drawing DrawCase(const std::vector<std::vector<double>>& values) {
-    const BarCase& test = GetParam();
-    S series;
-    for (std::size_t s = 0; s < values.size(); ++s) series += SeriesXml(static_cast<int>(s), values[s]);
-    const bool stacked = S(test.grouping) != "clustered";
-    const S first =
-        S("<c:barDir val=\"") + test.direction + "\"/><c:grouping val=\"" + test.grouping + "\"/>";
-    return Draw(PlotXml(
-        GroupXml("barChart", first, series,
-                 stacked ? "<c:gapWidth val=\"50\"/><c:overlap val=\"100\"/>" : "<c:gapWidth val=\"50\"/>") +
-        AxesXml("", test.valueAxis, Horizontal())));
-  }
-  bool Horizontal() const { return S(GetParam().direction) == "bar"; }
-  double Length(const Rect& box) const { return Horizontal() ? box.width : box.height; }
-  double Thickness(const Rect& box) const { return Horizontal() ? box.height : box.width; }
-};
-
-TEST_P(BarsTest, AreAsLongAsTheirValues) {
-  const std::vector<std::vector<double>> values = {{10, 25, 0.5}, {30, 5, 12}};
-  const Drawing drawing = DrawCase(values);
-  EXPECT_EQ(DrawingComplaints(drawing), "");
-  const bool percent = S(GetParam().grouping) == "percentStacked";
-  std::optional<double> pointsPerUnit;
-  for (int s = 0; s < 2; ++s) {
-    const auto boxes = BoxesOf(drawing, Role::kBar, s + 1);
-    ASSERT_EQ(boxes.size(), 3u);
-    for (std::size_t i = 0; i < 3; ++i) {
-      const double value =
-          values[static_cast<std::size_t>(s)][i] / (percent ? values[0][i] + values[1][i] : 1);
-      const double scale = Length(boxes[i]) / value;
-      EXPECT_NEAR(scale / pointsPerUnit.value_or(scale), 1, 1e-9) << s << ' ' << i;
-      pointsPerUnit = scale;
-      EXPECT_NEAR(Thickness(boxes[i]), Thickness(boxes[0]), 1e-9);
-    }
-  }
-  // The gap is half a bar's width, so a category is two and a half bars wide, or one and a half.
-  const Rect plot = BoxOf(drawing, Role::kPlotArea);
-  const double slots = S(GetParam().grouping) == "clustered" ? 2.5 : 1.5;
-  EXPECT_NEAR(Thickness(BoxesOf(drawing, Role::kBar)[0]) * slots * 3, Thickness(plot), 1e-6);
-}
 
 TEST_F(DrawingTest, BarsBelowZeroAreInvertedIfTheFileSaysSo) {
   const auto solid = [](const S& color) {
@@ -127,17 +75,6 @@ TEST_F(DrawingTest, PatternsAreInvertedByTheirColors) {
   }
   EXPECT_EQ(foregrounds, (std::vector<S>{"#FF0000", "#00FF00"}));
 }
-
-INSTANTIATE_TEST_SUITE_P(Kinds, BarsTest,
-                         ::testing::Values(BarCase{"Columns", "col", "clustered", ""},
-                                           BarCase{"StackedColumns", "col", "stacked", ""},
-                                           BarCase{"PercentColumns", "col", "percentStacked", ""},
-                                           BarCase{"Bars", "bar", "clustered", ""},
-                                           BarCase{"StackedBars", "bar", "stacked", ""},
-                                           BarCase{"PercentBars", "bar", "percentStacked", ""},
-                                           BarCase{"HangingColumns", "col", "clustered",
-                                                   "<c:scaling><c:orientation val=\"maxMin\"/></c:scaling>"}),
-                         [](const auto& each) { return S(each.param.name); });
 
 }  // namespace
 }  // namespace plotsmith

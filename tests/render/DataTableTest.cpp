@@ -7,9 +7,6 @@ namespace {
 
 using namespace test;
 using render::Drawing;
-using render::PathItem;
-using render::PathStep;
-using render::Rect;
 using render::Role;
 using S = std::string;
 using Texts = std::vector<S>;
@@ -24,68 +21,6 @@ class DataTableTest : public DrawingTest {
                 AxesXml(category, "", horizontal) + "<c:dTable>" + table + "</c:dTable>"));
   }
 };
-
-TEST_F(DataTableTest, HasACellBelowEachValue) {
-  const S series =
-      SeriesXml(0, {1.5, 20}, "", "", CategoriesXml({"North", "South"})) + SeriesXml(1, {3, kNoValue});
-  for (const bool reversed : {false, true}) {
-    const S category = reversed ? "<c:scaling><c:orientation val=\"maxMin\"/></c:scaling>" : "";
-    const Drawing drawing = DrawWithTable(kLines, series, category);
-    EXPECT_EQ(notes_, render::Notes());
-    EXPECT_EQ(DrawingComplaints(drawing), "");
-    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), (Texts{"North", "South"}));
-    EXPECT_EQ(TextsOf(drawing, Role::kTableText), (Texts{"Series 0", "1.5", "20", "Series 1", "3"}));
-    const Rect plot = BoxOf(drawing, Role::kPlotArea), table = BoxOf(drawing, Role::kTableLine);
-    EXPECT_NEAR(table.top, plot.Bottom(), 1e-9);
-    EXPECT_NEAR(table.Right(), plot.Right(), 1e-9);
-    EXPECT_LT(table.left, plot.left);
-    const auto texts = BoxesOf(drawing, Role::kTableText, 1), heads = BoxesOf(drawing, Role::kTickLabel, 1);
-    const auto bars = BoxesOf(drawing, Role::kBar, 1);
-    for (std::size_t i = 0; i < 2; ++i) {
-      const double middle = plot.left + plot.width * (reversed ? 0.75 - 0.5 * static_cast<double>(i)
-                                                               : 0.25 + 0.5 * static_cast<double>(i));
-      EXPECT_NEAR(texts[i + 1].Center().x, middle, 1e-6);
-      EXPECT_NEAR(heads[i].Center().x, middle, 1e-6);
-      EXPECT_TRUE(bars[i].left < middle + plot.width / 4 && bars[i].Right() > middle - plot.width / 4);
-    }
-    // rows follow each other from top to bottom
-    EXPECT_LT(heads[0].Center().y, texts[0].Center().y);
-    EXPECT_LT(texts[0].Center().y, BoxesOf(drawing, Role::kTableText, 2)[0].Center().y);
-    EXPECT_LE(table.Bottom(), 270);
-  }
-}
-
-TEST_F(DataTableTest, HasTheLinesKeysAndFontOfItsElement) {
-  const S look =
-      "<c:spPr><a:ln w=\"19050\"><a:solidFill><a:srgbClr val=\"0070C0\"/></a:solidFill></a:ln></c:spPr>"
-      "<c:txPr><a:bodyPr/><a:p><a:pPr><a:defRPr sz=\"800\" b=\"1\"/></a:pPr></a:p></c:txPr>";
-  struct {
-    S table;
-    std::size_t moves;  // The lines of the table.
-    std::size_t keys;
-  } const kCases[] = {
-      {kLines + "<c:showKeys val=\"1\"/>", 2 + 2 + 1, 2},
-      {"<c:showHorzBorder val=\"1\"/>", 2, 0},
-      {"<c:showVertBorder val=\"1\"/>", 2, 0},
-      {"<c:showOutline val=\"1\"/>", 1, 0},
-      {"<c:showKeys val=\"1\"/>", 0, 2},
-  };
-  for (const auto& test : kCases) {
-    const Drawing drawing = DrawWithTable(test.table + look, SeriesXml(0, {1, 2}) + SeriesXml(1, {3, 4}));
-    std::size_t moves = 0;
-    for (const auto& item : ItemsOf(drawing, Role::kTableLine)) {
-      const auto& path = std::get<PathItem>(item.content);
-      EXPECT_EQ(HexOf(path.stroke.color), "#0070C0");
-      EXPECT_EQ(path.stroke.width, 1.5);
-      for (const PathStep& step : path.path.Steps()) moves += step.kind == PathStep::Kind::kMove;
-    }
-    EXPECT_EQ(moves, test.moves) << test.table;
-    EXPECT_EQ(ItemsOf(drawing, Role::kLegendKey).size(), test.keys) << test.table;
-    const auto text = std::get<render::TextItem>(ItemsOf(drawing, Role::kTableText)[0].content);
-    EXPECT_EQ(text.font.size, 8);
-    EXPECT_TRUE(text.font.bold);
-  }
-}
 
 TEST_F(DataTableTest, SaysWhatHasNoRoom) {
   S many;

@@ -339,8 +339,91 @@ std::map<S, Whole> Charts() {
                      AxesXml("", "<c:majorUnit val=\"10\"/>") + depth,
                  kLegend);
   };
+  const auto dated = [](const std::vector<double>& serials, const S& axis) {
+    const S cells = With(Literal("cat", serials), "<c:numLit>", "<c:numLit><c:formatCode>m-d</c:formatCode>");
+    return PlotXml(
+        Lines(SeriesXml(0, Numbers(serials.size(), 2), "", "", cells), "<c:marker val=\"1\"/>") +
+        With(AxesXml("<c:numFmt formatCode=\"m-d\" sourceLinked=\"0\"/>" + axis), "catAx", "dateAx"));
+  };
+  const auto named = [](std::size_t count, const S& name, const S& axis = "", bool lying = false) {
+    std::vector<S> names;
+    for (std::size_t i = 1; i <= count; ++i) names.push_back(name + std::to_string(i));
+    return PlotXml(Columns(SeriesXml(0, Numbers(count, 5), "", "", CategoriesXml(names)), "", "clustered",
+                           lying ? "bar" : "col") +
+                   AxesXml(axis, "", lying));
+  };
+  const auto turned = [](const S& angle) {
+    return "<c:txPr><a:bodyPr rot=\"" + angle + "\"/><a:p><a:pPr><a:defRPr/></a:pPr></a:p></c:txPr>";
+  };
+  const auto table = [&](const S& more, const S& axis = "") {
+    return PlotXml(
+        Columns(SeriesXml(0, {1.5, 20}, "", "", CategoriesXml({"North", "A long name of the south"})) +
+                SeriesXml(1, {3, kNoValue})) +
+        AxesXml(axis) + "<c:dTable>" + more + "</c:dTable>");
+  };
+  const S boldTable =
+      "<c:spPr><a:ln w=\"19050\"><a:solidFill><a:srgbClr val=\"0070C0\"/></a:solidFill></a:ln></c:spPr>"
+      "<c:txPr><a:bodyPr/><a:p><a:pPr><a:defRPr sz=\"800\" b=\"1\"/></a:pPr></a:p></c:txPr>";
+  const auto cast = [](const S& attributes) {
+    return Look(
+        Solid("00B050") + "<a:effectLst><a:outerShdw " + attributes +
+        "><a:srgbClr val=\"112233\"><a:alpha val=\"40000\"/></a:srgbClr></a:outerShdw></a:effectLst>");
+  };
+  S shadows;
+  int casting = 0;
+  for (const S alignment : {"tl", "t", "tr", "l", "ctr", "r", "bl", "b", "br"})
+    shadows +=
+        SeriesXml(casting++, {2}, cast("sx=\"200000\" sy=\"50%\" kx=\"2700000\" algn=\"" + alignment + "\""));
+  const S far = cast("dist=\"38100\" dir=\"2700000\" blurRad=\"50800\"");
+  const auto errorBars = [](const S& way, const S& more) {
+    return "<c:errBars><c:errDir val=\"" + way +
+           "\"/><c:errBarType val=\"both\"/><c:errValType val=\"fixedVal\"/>" + more + "<c:val val=\"1\"/>" +
+           Look("", Solid("00B050")) + "</c:errBars>";
+  };
   const S disc = "<c:pie3DChart><c:varyColors val=\"1\"/>";
   return {
+      {"bars-percent",
+       PlotXml(Columns(SeriesXml(0, {10, 25, 0.5}) + SeriesXml(1, {30, 5, 12}), "", "percentStacked", "bar") +
+               AxesXml("", "", true))},
+      {"bars-stacked", PlotXml(Columns(SeriesXml(0, {10, 25, 0.5}) + SeriesXml(1, {30, -5, 12}),
+                                       "<c:gapWidth val=\"50\"/><c:overlap val=\"100\"/>", "stacked", "bar") +
+                               AxesXml("", "", true))},
+      {"dates-by-days", dated({45322, 45323, 45412},
+                              "<c:baseTimeUnit val=\"days\"/><c:majorUnit val=\"1\"/>"
+                              "<c:majorTimeUnit val=\"months\"/>")},
+      {"dates-by-months", dated({45292, 45352, 45383}, "")},
+      {"dates-by-years", dated({45292, 45352, 46023}, "<c:baseTimeUnit val=\"years\"/>")},
+      {"dates-of-years", dated({45323, 45352, 46054},
+                               "<c:baseTimeUnit val=\"months\"/><c:majorUnit val=\"1\"/>"
+                               "<c:majorTimeUnit val=\"years\"/>")},
+      {"dates-that-are-none", dated({1, 1e9}, "")},
+      {"errors-both-ways",
+       PlotXml(GroupXml("scatterChart", "<c:scatterStyle val=\"marker\"/>",
+                        PointSeries(0, {2, 5}, {4, 3},
+                                    errorBars("y", "") + errorBars("x", "<c:noEndCap val=\"1\"/>"))) +
+               With(AxesXml(), "catAx", "valAx"))},
+      {"errors-of-shares",
+       PlotXml(Columns(SeriesXml(0, {2, 4}, errors) + SeriesXml(1, {2, 6}, errors), "", "percentStacked") +
+               AxesXml())},
+      {"labels-beside-bars",
+       named(12, "Northern hemisphere and the islands around it, as it was counted in the year ", "", true)},
+      {"labels-flat-by-hand", named(40, "Septembers", turned("0"))},
+      {"labels-skipped", named(200, "")},
+      {"labels-skipped-by-hand", named(10, "Q", "<c:tickLblSkip val=\"3\"/>")},
+      {"labels-turned-by-hand", named(5, "Q", turned("5400000"))},
+      {"labels-upright", named(24, "Septembers")},
+      {"moving-average",
+       PlotXml(Columns(SeriesXml(0, {1, 3, 5, kNoValue, 9, 7}, With(trend, "linear", "movingAvg"))) +
+               AxesXml())},
+      {"shadows",
+       Title("Sales") + "<c:autoTitleDeleted val=\"0\"/><c:plotArea>" +
+           Columns(SeriesXml(0, {3}, far + With(Labels("showVal"), "<c:dLbls>", "<c:dLbls>" + far))) +
+           Lines(SeriesXml(1, {2}, With(Marker("circle"), "</c:marker>", far + "</c:marker>"))) + AxesXml() +
+           far + "</c:plotArea><c:legend>" + far + "</c:legend>"},
+      {"shadows-aligned", PlotXml(Columns(shadows) + AxesXml())},
+      {"table-reversed", table("<c:showOutline val=\"1\"/>" + boldTable, reversed)},
+      {"table-with-columns", table("<c:showVertBorder val=\"1\"/><c:showKeys val=\"1\"/>")},
+      {"table-with-rows", table("<c:showHorzBorder val=\"1\"/>")},
       {"3d-areas", solid(perspective, GroupXml("area3DChart", "<c:grouping val=\"standard\"/>", three,
                                                "<c:axId val=\"3\"/>") +
                                           AxesXml() + depth)},
@@ -518,10 +601,12 @@ std::map<S, Whole> Charts() {
                    AxesXml("", kGrid),
                "<c:dispBlanksAs val=\"span\"/>")},
       {"lines-stock",
-       PlotXml(Lines(SeriesXml(0, {2, 8, 5}) + SeriesXml(1, {9, 9, 9}) + SeriesXml(2, {6, 3, 5}),
-                     "<c:dropLines/><c:hiLowLines/><c:upDownBars><c:gapWidth val=\"100\"/><c:upBars/>"
-                     "<c:downBars/></c:upDownBars>") +
-               AxesXml("<c:tickLblPos val=\"none\"/>", kGrid))},
+       PlotXml(
+           Lines(
+               SeriesXml(0, {2, 8, 5}) + SeriesXml(1, {9, 9, 9}) + SeriesXml(2, {6, 3, kNoValue}),
+               "<c:dropLines/><c:hiLowLines/><c:upDownBars><c:gapWidth val=\"100\"/><c:upBars/><c:downBars>" +
+                   Look(Solid("C00000")) + "</c:downBars></c:upDownBars>") +
+           AxesXml("<c:tickLblPos val=\"none\"/>", kGrid))},
       {"lines-stacked",
        PlotXml(Lines(SeriesXml(0, {1, 2}, Marker("square", "12")) + SeriesXml(1, {3, 4}, Marker("plus")), "",
                      "stacked") +

@@ -7,9 +7,7 @@ namespace {
 
 using namespace test;
 using render::Drawing;
-using render::Item;
 using render::Role;
-using render::ShadowItem;
 using S = std::string;
 
 /// Shape properties with a red filling and a shadow. Lengths are EMU, angles 1/60000 degree.
@@ -25,79 +23,6 @@ S ColumnsXml(const S& properties, const S& behind = "") {
 }
 
 class ShadowTest : public DrawingTest {};
-
-TEST_F(ShadowTest, IsTheShapeMovedInItsDirectionBeforeTheShape) {
-  // 3 points to the lower right, blurred over 4 points
-  const Drawing drawing =
-      Draw(ColumnsXml(ShadowedXml("blurRad=\"50800\" dist=\"38100\" dir=\"2700000\" algn=\"tl\"")));
-  EXPECT_EQ(notes_, render::Notes());
-  const auto shadows = ItemsOf(drawing, Role::kShadow, 1);
-  const auto bars = ItemsOf(drawing, Role::kBar, 1);
-  ASSERT_EQ(shadows.size(), 2u);
-  for (std::size_t i = 0; i < 2; ++i) {
-    const auto& shadow = std::get<ShadowItem>(shadows[i].content);
-    const render::Rect own = BoundsOf(bars[i]), cast = BoundsOf(shadows[i]);
-    EXPECT_NEAR(cast.left - own.left, 3 * std::sqrt(0.5), 1e-9);
-    EXPECT_NEAR(cast.top - own.top, 3 * std::sqrt(0.5), 1e-9);
-    EXPECT_NEAR(cast.width, own.width, 1e-9);
-    EXPECT_NEAR(cast.height, own.height, 1e-9);
-    EXPECT_EQ(HexOf(shadow.color), "#112233");
-    EXPECT_DOUBLE_EQ(shadow.color.alpha, 0.4);
-    EXPECT_DOUBLE_EQ(shadow.blur, 2);
-    EXPECT_TRUE(shadow.filled);
-    EXPECT_EQ(shadow.lineWidth, 0);
-    EXPECT_EQ(shadows[i].tag.point, static_cast<int>(i + 1));
-  }
-  const auto behind = std::find_if(drawing.items.begin(), drawing.items.end(),
-                                   [](const Item& item) { return item.tag.role == Role::kShadow; });
-  ASSERT_NE(behind, drawing.items.end());
-  EXPECT_EQ((behind + 1)->tag, (render::Tag{Role::kBar, 1, 1}));
-}
-
-TEST_F(ShadowTest, MayBeLargerAndLean) {
-  // twice as wide about the middle of the lower edge, half as high, leaning by 45 degrees
-  const Drawing drawing = Draw(ColumnsXml(ShadowedXml("sx=\"200000\" sy=\"50%\" kx=\"2700000\" algn=\"b\"")));
-  const render::Rect own = BoxesOf(drawing, Role::kBar)[0], cast = BoxesOf(drawing, Role::kShadow)[0];
-  EXPECT_NEAR(cast.Bottom(), own.Bottom(), 1e-9);
-  EXPECT_NEAR(cast.height, own.height / 2, 1e-9);
-  EXPECT_NEAR(cast.width, 2 * own.width + own.height, 1e-9);
-  EXPECT_NEAR(cast.Right(), own.Center().x + own.width, 1e-9);
-}
-
-TEST_F(ShadowTest, GrowsAboutThePointOfItsAlignment) {
-  const struct {
-    const char* alignment;
-    double x, y;  // of the point, in shares of the shape
-  } cases[] = {{"tl", 0, 0},  {"t", 0.5, 0}, {"tr", 1, 0},  {"l", 0, 0.5}, {"ctr", 0.5, 0.5},
-               {"r", 1, 0.5}, {"bl", 0, 1},  {"b", 0.5, 1}, {"br", 1, 1}};
-  for (const auto& test : cases) {
-    const Drawing drawing =
-        Draw(ColumnsXml(ShadowedXml(S("sx=\"200000\" sy=\"200000\" algn=\"") + test.alignment + "\"")));
-    const render::Rect own = BoxesOf(drawing, Role::kBar)[0], cast = BoxesOf(drawing, Role::kShadow)[0];
-    EXPECT_NEAR(cast.left, own.left - test.x * own.width, 1e-9) << test.alignment;
-    EXPECT_NEAR(cast.top, own.top - test.y * own.height, 1e-9) << test.alignment;
-  }
-}
-
-TEST_F(ShadowTest, IsThrownByEveryPartOfAChart) {
-  const S shadow = ShadowedXml("dist=\"38100\"");
-  const S labels = "<c:dLbls>" + shadow + "<c:showVal val=\"1\"/></c:dLbls>";
-  const S title = "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>Sales</a:t></a:r></a:p></c:rich></c:tx>" +
-                  shadow + "</c:title>";
-  const S line = "<c:marker><c:symbol val=\"circle\"/>" + shadow + "</c:marker>";
-  const Drawing drawing =
-      Draw(title + "<c:plotArea>" +
-           GroupXml("barChart", "<c:barDir val=\"col\"/>", SeriesXml(0, {3}, shadow + labels)) +
-           GroupXml("lineChart", "<c:grouping val=\"standard\"/>", SeriesXml(1, {2}, line)) + AxesXml() +
-           shadow + "</c:plotArea><c:legend>" + shadow + "</c:legend>");
-  std::vector<S> casting;
-  for (std::size_t i = 0; i + 1 < drawing.items.size(); ++i) {
-    if (drawing.items[i].tag.role == Role::kShadow)
-      casting.emplace_back(NameOf(drawing.items[i + 1].tag.role));
-  }
-  EXPECT_EQ(casting,
-            (std::vector<S>{"PlotArea", "Bar", "Marker", "DataLabel", "Title", "Legend", "LegendKey"}));
-}
 
 TEST_F(ShadowTest, LooksAlikeInSvgAndPng) {
   const Drawing drawing =
