@@ -285,6 +285,18 @@ TEST(NumberFormatTest, Dates) {
   });
 }
 
+TEST(NumberFormatTest, MonthsOfTheHijriCalendar) {
+  constexpr const char* kNames[] = {"Muharram", "Safar",     "Rabi I",        "Rabi II",
+                                    "Jumada I", "Jumada II", "Rajab",         "Sha'ban",
+                                    "Ramadan",  "Shawwal",   "Dhu al-Qi'dah", "Dhu al-Hijjah"};
+  int day = 45480;  // the first day of 1446
+  for (int month = 0; month < 12; ++month) {
+    ExpectShown(
+        {{"B2d mmmm yyyy", static_cast<double>(day), ("1 " + std::string(kNames[month]) + " 1446").c_str()}});
+    day += month % 2 == 0 ? 30 : 29;
+  }
+}
+
 TEST(NumberFormatTest, Times) {
   ExpectShown({
       {"h:m:s", 0.25, "6:0:0"},

@@ -25,6 +25,8 @@ TEST(PackageTest, TargetsAreResolvedInsideThePackage) {
       {"", "xl/workbook.xml", "/xl/workbook.xml"},
       {"/xl/workbook.xml", "/xl/styles.xml", "/xl/styles.xml"},
       {"/xl/a.xml", ".\\b%20c.xml#d", "/xl/b c.xml"},
+      {"/xl/a.xml", "x%41%4a", "/xl/xAJ"},
+      {"/xl/a.xml", "x%4%G1%1G", "/xl/x%4%G1%1G"},
       {"/xl/a.xml", "../../etc/passwd", ""},
       {"/xl/a.xml", "../../xl/b.xml", ""}};
   for (const auto& [source, target, resolved] : cases)
@@ -433,11 +435,24 @@ TEST(XmlTest, AnyEncodingIsConvertedToUtf8) {
   }
 }
 
+TEST(XmlTest, ChildrenAreFoundByTheirLocalNames) {
+  pugi::xml_document document;
+  xml::Parse(document, "<r><ab n='1'/><!--b--><x:a n='2'/><x:b n='3'/><b n='4'/><b:c n='5'/></r>");
+  const std::pair<const char*, S> cases[] = {{"a", "2"}, {"b", "34"}, {"ab", "1"}, {"c", "5"}, {"x", ""}};
+  for (const auto& [name, numbers] : cases) {
+    S found;
+    for (const auto& child : xml::Children(xml::Root(document), name)) found += xml::Attribute(child, "n");
+    EXPECT_EQ(found, numbers) << name;
+  }
+}
+
 TEST(XmlTest, ValuesAreEncodedAndDecoded) {
   const S value = "a<b>&\"c'\r\n\td\x01";
   EXPECT_EQ(xml::Decode(xml::EncodeText(value)), "a<b>&\"c'\r\n\td")
       << "characters that XML can't contain are removed";
   EXPECT_EQ(xml::Decode(xml::EncodeAttribute(value)), "a<b>&\"c'\r\n\td");
+  EXPECT_EQ(xml::EncodeText(value), "a&lt;b&gt;&amp;\"c'&#13;\n\td");
+  EXPECT_EQ(xml::EncodeAttribute(value), "a&lt;b&gt;&amp;&quot;c'&#13;&#10;&#9;d");
   EXPECT_EQ(xml::Decode("&#x20AC;&#8364;&lt;&unknown;&;&#xFFFFFFF;&"), "€€<&unknown;&;&#xFFFFFFF;&");
   EXPECT_EQ(xml::Decode("&#x000000041;&#x0000000041;"), "A&#x0000000041;") << "at most 13 characters";
   for (const char* raw : {"&#1;", "&#xD83D;", "&#xFFFE;", "&#x110000;"}) EXPECT_EQ(xml::Decode(raw), raw);
