@@ -1,8 +1,8 @@
 #include "dom/Dom.h"
 
-#include <climits>
 #include <expat.h>
 #include <memory>
+#include <new>
 #include <sstream>
 
 #include "dom/XmlCharacters.h"
@@ -24,7 +24,7 @@ constexpr int kDeepest = 256;
 IXMLDOMParseError FindError(std::string_view xml) {
   const std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser(XML_ParserCreate("UTF-8"),
                                                                             XML_ParserFree);
-  if (!parser || xml.size() > INT_MAX) return {"the text is too long", 1, 1};
+  if (!parser) throw std::bad_alloc();
   if (XML_Parse(parser.get(), xml.data(), static_cast<int>(xml.size()), XML_TRUE) == XML_STATUS_OK) return {};
   return {XML_ErrorString(XML_GetErrorCode(parser.get())),
           static_cast<std::int32_t>(XML_GetCurrentLineNumber(parser.get())),
@@ -36,7 +36,7 @@ IXMLDOMParseError FindError(std::string_view xml) {
 /// The nodes of a document. One pugixml document contains both the tree and the nodes outside the tree,
 /// because pugixml moves nodes only within one document.
 struct IXMLDOMNode::Tree {
-  Tree() : content(document.append_child("content")), detached(document.append_child("detached")) {}
+  Tree() : content(document.append_child()), detached(document.append_child()) {}
 
   pugi::xml_document document;
   pugi::xml_node content;
@@ -137,13 +137,13 @@ bool IXMLDOMDocument2::loadXML(std::string_view xml) {
   pugi::xml_document parsed;
   const pugi::xml_parse_result result = parsed.load_buffer(
       xml.data(), xml.size(), pugi::parse_full | pugi::parse_ws_pcdata, pugi::encoding_utf8);
-  if (!result) {
-    tree_->error = {result.description(), 1, static_cast<std::int32_t>(result.offset) + 1};
+  const auto refuse = [&](std::string reason) {
+    tree_->error = {std::move(reason), 1, 1};
     return false;
-  }
+  };
+  if (!result) return refuse(result.description());
   if (NestsDeeperThan(parsed, kDeepest)) {
-    tree_->error = {"elements are nested deeper than " + std::to_string(kDeepest), 1, 1};
-    return false;
+    return refuse("elements are nested deeper than " + std::to_string(kDeepest));
   }
   // Declarations and document types can't be below the tree's own root, and the system doesn't need them.
   for (const pugi::xml_node& node : parsed.children()) node_.append_copy(node);

@@ -80,6 +80,27 @@ TEST(ModelTest, SettingAPropertyRaisesTheEventsOfAUserAction) {
          form.cboFormat.SetText("0");
        },
        {}},
+      {"entries of lists",
+       [](auto& form) {
+         form.lstOne.SetSelected(1, true);
+         form.lstOne.SetSelected(0, false);
+         EXPECT_EQ(form.lstOne.ListIndex(), 1) << "it wasn't the selected one";
+         form.lstOne.SetSelected(0, true);
+         EXPECT_EQ(form.lstOne.ListIndex(), 0);
+         EXPECT_FALSE(form.lstOne.Selected(1));
+         form.lstOne.AddItem("First", 0);
+         EXPECT_EQ(form.lstOne.ListIndex(), 1) << "the entry is the same";
+         EXPECT_FALSE(form.lstOne.Selected(0));
+         EXPECT_TRUE(form.lstOne.Selected(1));
+         form.lstOne.SetSelected(1, false);
+         EXPECT_EQ(form.lstOne.ListIndex(), -1);
+         EXPECT_EQ(form.lstOne.SelCount(), 0);
+         EXPECT_EQ(test::ErrorOf([&] { form.lstOne.Selected(3); }), 380);
+         EXPECT_EQ(test::ErrorOf([&] { form.lstOne.SetSelected(-1, true); }), 380);
+         EXPECT_EQ(test::ErrorOf([&] { form.lstOne.AddItem("x", 4); }), 5);
+         EXPECT_EQ(form.lstOne.List(0) + form.lstOne.List(-1) + form.lstOne.List(3), "First");
+       },
+       {}},
       {"controls that can't have the focus",
        [](auto& form) {
          EXPECT_EQ(test::ErrorOf([&] { form.cmdOff.SetFocus(); }), 5);

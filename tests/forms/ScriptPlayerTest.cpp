@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 #include <sstream>
 
+#include "forms/script/ScriptError.h"
+#include "forms/script/ScriptLine.h"
 #include "forms/script/ScriptPlayer.h"
 #include "tests/support/SmallForm.h"
 
@@ -105,12 +107,7 @@ TEST_F(ScriptPlayerTest, ImpossibleLinesReportTheAlternatives) {
       {"type txtTitle 5\"",
        "1: a text with a quotation mark in it is put in double quotes, and the mark is "
        "written \\\""},
-      {"type txtTitle", "1: the line should be: type CONTROL TEXT"},
-      {"type txtTitle a b",
-       "1: the line should be: type CONTROL TEXT (a text with blanks is put in double quotes)"},
       {"show all", "1: the line should be: show"},
-      {"expect message",
-       "1: the line should be: expect message TEXT, expect question TEXT, or expect CONTROL.PROPERTY VALUE"},
       {"answer yes", "1: a question can't be answered with 'yes'; there are ok and cancel"},
       // pages
       {"page frmSecond", "1: the page that is open is frmSmall"},
@@ -151,6 +148,8 @@ TEST_F(ScriptPlayerTest, ImpossibleLinesReportTheAlternatives) {
       {"expect chk3D 1", "1: what is expected is a message, a question or CONTROL.PROPERTY, not 'chk3D'"},
       {"expect chk4D.Value 1", "1: frmSmall has no control 'chk4D'; it has " + controls},
       {"expect chk3D.BackColor grey", "1: a colour is written as 0x8000000F, and 'grey' isn't one"},
+      {"expect chk3D.BackColor 0x123456789",
+       "1: a colour is written as 0x8000000F, and '0x123456789' isn't one"},
       {"expect chk3D.BackColor 0xF", "1: chk3D.BackColor is '0x8000000F', not '0xF'"},
       {"expect message Hello", "1: there was no message 'Hello'"},
       {"expect question Sure?", "1: there was no question 'Sure?'"},
@@ -206,6 +205,44 @@ TEST_F(ScriptPlayerTest, LongListsAreShortened) {
   loop.ShowModal(form);
   EXPECT_EQ(player->Failed()->sentence,
             "cboValues has no entry 'x'; it has '1', '2', '3', '4', '5', '6', ... (100 in all)");
+}
+
+TEST(ScriptLineTest, EachVerbHasItsNumberOfWords) {
+  struct {
+    S usage;
+    std::size_t least, most;
+  } const cases[] = {
+      {"page NAME", 1, 1},
+      {"select CONTROL ITEM...", 1, 1000},
+      {"choose CONTROL [ITEM]", 1, 2},
+      {"check CONTROL", 1, 1},
+      {"uncheck CONTROL", 1, 1},
+      {"type CONTROL TEXT", 2, 2},
+      {"press CONTROL", 1, 1},
+      {"double CONTROL ITEM", 2, 2},
+      {"focus CONTROL", 1, 1},
+      {"enter", 0, 0},
+      {"escape", 0, 0},
+      {"close", 0, 0},
+      {"answer ok, or answer cancel", 1, 1},
+      {"expect message TEXT, expect question TEXT, or expect CONTROL.PROPERTY VALUE", 2, 2},
+      {"show", 0, 0},
+  };
+  for (const auto& [usage, least, most] : cases) {
+    S line = usage.substr(0, usage.find(' '));
+    for (std::size_t words = 0; words <= 100; ++words, line += " x") {
+      S sentence;
+      if (words < least || words > most) sentence = "the line should be: " + usage;
+      if (words > most && most > 0) sentence += " (a text with blanks is put in double quotes)";
+      S thrown;
+      try {
+        EXPECT_EQ(ParseLine(line).size(), words + 1);
+      } catch (const ScriptError& e) {
+        thrown = e.what();
+      }
+      EXPECT_EQ(thrown, sentence) << line;
+    }
+  }
 }
 
 TEST(ScriptLineTest, AWordForATextIsReadAsThatText) {

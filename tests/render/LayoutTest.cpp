@@ -35,43 +35,6 @@ S LegendXml(const S& position, const S& more = "") {
   return "<c:legend><c:legendPos val=\"" + position + "\"/>" + more + "</c:legend>";
 }
 
-TEST_F(LayoutTest, TheLegendIsAtItsSide) {
-  for (const S position : {"r", "l", "t", "b", "tr"}) {
-    const Drawing drawing = DrawColumns(LegendXml(position));
-    EXPECT_EQ(DrawingComplaints(drawing), "") << position;
-    EXPECT_EQ(TextsOf(drawing, Role::kLegendEntry), (Texts{"Series 0", "Series 1", "Series 2"})) << position;
-    const Rect entries = BoxOf(drawing, Role::kLegendEntry), plot = BoxOf(drawing, Role::kPlotArea);
-    if (position == "r" || position == "tr") {
-      EXPECT_GT(entries.left, plot.Right()) << position;
-    }
-    if (position == "l") {
-      EXPECT_LT(entries.Right(), plot.left);
-    }
-    if (position == "t") {
-      EXPECT_LT(entries.Bottom(), plot.top);
-    }
-    if (position == "b") {
-      EXPECT_GT(entries.top, BoxOf(drawing, Role::kTickLabel, 1).Bottom());
-    }
-    if (position == "r") {
-      EXPECT_NEAR(entries.Center().y, 135, 1);
-    }
-    if (position == "tr") {
-      EXPECT_LT(entries.top, 15);
-    }
-    // Each entry has a key, on its line and before it.
-    const auto keys = ItemsOf(drawing, Role::kLegendKey);
-    const auto texts = BoxesOf(drawing, Role::kLegendEntry);
-    ASSERT_EQ(keys.size(), 3u);
-    for (std::size_t i = 0; i < 3; ++i) {
-      EXPECT_EQ(FillOf(keys[i]), FillOf(ItemsOf(drawing, Role::kBar, static_cast<int>(i + 1))[0]))
-          << position;
-      EXPECT_LT(BoundsOf(keys[i]).Right(), texts[i].left) << position;
-      EXPECT_NEAR(BoundsOf(keys[i]).Center().y, texts[i].Center().y, 0.1) << position;
-    }
-  }
-}
-
 TEST_F(LayoutTest, TheLegendLeavesOutEntriesAndHasItsManualPosition) {
   const Drawing deleted =
       DrawColumns(LegendXml("r", "<c:legendEntry><c:idx val=\"1\"/><c:delete val=\"1\"/></c:legendEntry>"));
@@ -188,26 +151,6 @@ TEST_F(LayoutTest, ALegendShowsTheEntriesThatFitAndDoesNotCoverThePlot) {
     const auto keys = BoxesOf(drawing, Role::kLegendKey);
     for (std::size_t i = 1; i < keys.size(); ++i) EXPECT_FALSE(Overlap(keys[i - 1], keys[i])) << test.what;
   }
-}
-
-TEST_F(LayoutTest, AManualPlotAreaHasItsLayout) {
-  const auto layout = [](const S& target) {
-    return "<c:layout><c:manualLayout><c:layoutTarget val=\"" + target +
-           "\"/><c:xMode val=\"edge\"/><c:yMode val=\"edge\"/><c:x val=\"0.25\"/><c:y val=\"0.2\"/><c:w "
-           "val=\"0.5\"/>"
-           "<c:h val=\"0.6\"/></c:manualLayout></c:layout>";
-  };
-  const Rect wanted{96, 54, 192, 162};
-  const Drawing inner = DrawColumns("", layout("inner"));
-  const Rect plot = BoxOf(inner, Role::kPlotArea);
-  EXPECT_NEAR(plot.left, wanted.left, 1e-6);
-  EXPECT_NEAR(plot.Bottom(), wanted.Bottom(), 1e-6);
-  EXPECT_NEAR(plot.width, wanted.width, 1e-6);
-  const Drawing outer = DrawColumns("", layout("outer"));
-  Rect all = Union(BoxOf(outer, Role::kPlotArea), BoxOf(outer, Role::kTickLabel));
-  EXPECT_NEAR(all.left, wanted.left, 0.5);
-  EXPECT_NEAR(all.Right(), wanted.Right(), 0.5);
-  EXPECT_NEAR(all.Bottom(), wanted.Bottom(), 0.5);
 }
 
 TEST_F(LayoutTest, TitlesWrapKeepTheirRunsAndTakeSpace) {

@@ -48,6 +48,7 @@ TEST(StringsTest, AnyBytesAreReadAsCharacters) {
                {"\x80", wrong},
                {"\xBF\x41", wrong + U"A"},
                {"\xC1\xBF", wrong + wrong},
+               {"\xC1\x41\x80\x80", wrong + U"A" + wrong + wrong},
                {"\xC2", wrong},
                {"\xC2\x41", wrong + U"A"},
                {"\xE0\x9F\xBF", wrong + wrong + wrong},

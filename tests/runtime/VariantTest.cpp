@@ -47,7 +47,7 @@ TEST(VariantTest, TextsAsNumbers) {
       {"&HFFFF", -1},      {"&O17", 15},        {"5$", 5},          {"1E-400", 0},      {"\v\f5\r\n", 5},
       {"&H7FFF", 32767},   {"&H8000", -32768},  {"&H8000&", 32768}, {"&H10000", 65536}, {"&HFFFFFFFF", -1},
       {"&O177777", 65535}, {"&o7 ", 7},         {"&h1f", 31},       {"(5) $", -5},      {"- $ 5", -5},
-      {"1d+2", 100},       {"1,e2", 100},       {"1E2", 100}};
+      {"1d+2", 100},       {"1,e2", 100},       {"1E2", 100},       {"$-5", -5},        {"$ (5)", -5}};
   for (const auto& [text, value] : cases) {
     EXPECT_TRUE(IsNumeric(Variant(text))) << text;
     EXPECT_EQ(CDbl(text), value) << text;
@@ -56,7 +56,7 @@ TEST(VariantTest, TextsAsNumbers) {
        {"",      " ",    "abc",  "5%",    "1.2.3", "--5",  "(5",       "5)",  "1e",   "1 2",         ",5",
         "$",     "&H",   "&HG",  "12x",   "True",  "0x10", "1/2/2020", "inf", "nan",  "&H100000000", "&O8",
         "&",     "-&H1", "$&H1", "&HF F", "&X1",   "$$5",  "5$$",      "$5$", "(-5)", "-(5)",        "+5-",
-        "((5))", "(5))", "1e+",  ".",     "-.",    ".e5"}) {
+        "((5))", "(5))", "1e+",  ".",     "-.",    ".e5",  "&_7"}) {
     EXPECT_FALSE(IsNumeric(Variant(text))) << text;
     EXPECT_EQ(ErrorOf([&] { CDbl(text); }), error::kTypeMismatch) << text;
   }
@@ -66,8 +66,9 @@ TEST(VariantTest, NumbersOutOfRange) {
   const std::string small = "0." + std::string(400, '0') + "1e3", large = std::string(400, '9') + "e-3";
   EXPECT_EQ(CDbl(small), 0);
   EXPECT_EQ(CDbl(".001e-9223372036854775808"), 0);
-  for (const std::string& text :
-       {large, std::string("1E+400"), std::string("-1E+400"), std::string("10e9223372036854775807")}) {
+  EXPECT_EQ(CDbl("1E-99999999999999999999"), 0);
+  for (const std::string& text : {large, std::string("1E99999999999999999999"), std::string("1E+400"),
+                                  std::string("-1E+400"), std::string("10e9223372036854775807")}) {
     EXPECT_EQ(ErrorOf([&] { CDbl(text); }), error::kOverflow) << text;
     EXPECT_EQ(ErrorOf([&] { Val(std::string_view(text)); }), error::kOverflow) << text;
     EXPECT_FALSE(IsNumeric(Variant(text)));

@@ -43,7 +43,7 @@ void NameList::Define(std::string name, std::string definition) {
 
 void NameList::FollowTabs(std::size_t position, int step) {
   const auto nodes = NameNodes(book_);
-  for (std::size_t i = 0; i < names_.size() && i < nodes.size(); ++i) {
+  for (std::size_t i = 0; i < names_.size(); ++i) {
     auto& tab = names_[i].sheet;
     if (!tab || *tab < position) continue;
     tab = *tab + static_cast<std::size_t>(step);
@@ -55,7 +55,7 @@ void NameList::FollowTabs(std::size_t position, int step) {
 void NameList::FollowRows(RowShifts& shifts) {
   if (!shifts.AnyBehind(followed_)) return;
   const auto nodes = NameNodes(book_);
-  for (std::size_t i = 0; i < names_.size() && i < nodes.size(); ++i) {
+  for (std::size_t i = 0; i < names_.size(); ++i) {
     const auto moved = shifts.Follow(names_[i].definition, "", followed_);
     if (!moved) continue;
     names_[i].definition = *moved;

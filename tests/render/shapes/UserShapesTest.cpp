@@ -38,12 +38,6 @@ std::string Solid(const std::string& color) {
   return "<a:solidFill><a:srgbClr val=\"" + color + "\"/></a:solidFill>";
 }
 
-std::string Text(const std::string& body, const std::string& paragraph, const std::string& words) {
-  return "<cdr:txBody><a:bodyPr " + body + "/><a:p><a:pPr " + paragraph +
-         "/><a:r><a:rPr sz=\"1000\"><a:latin typeface=\"Arial\"/></a:rPr><a:t>" + words +
-         "</a:t></a:r></a:p></cdr:txBody>";
-}
-
 class UserShapesTest : public Chart3DTest {
  protected:
   Drawing DrawWith(const std::string& anchors) {
@@ -70,33 +64,6 @@ void ExpectNear(const Rect& actual, const Rect& expected, const std::string& wha
   EXPECT_NEAR(actual.top, expected.top, 0.01) << what;
   EXPECT_NEAR(actual.width, expected.width, 0.01) << what;
   EXPECT_NEAR(actual.height, expected.height, 0.01) << what;
-}
-
-TEST_F(UserShapesTest, ShapesAreAtTheirAnchors) {
-  const Rect frame{100, 50, 200, 50};
-  for (const std::string form :
-       {"rect",      "roundRect",     "ellipse",   "line",      "triangle", "rtTriangle",
-        "diamond",   "parallelogram", "trapezoid", "hexagon",   "octagon",  "plus",
-        "pentagon",  "star5",         "star4",     "homePlate", "chevron",  "rightArrow",
-        "leftArrow", "upArrow",       "downArrow", "can",       "donut"}) {
-    const std::string line = form == "line" ? "<a:ln w=\"12700\">" + Solid("000000") + "</a:ln>" : "";
-    const Drawing drawing = DrawWith(Anchor(Shape(form, Solid("FF0000") + line)));
-    // The corners of a pentagon are slightly inside its frame.
-    const double slack = form == "pentagon" || form == "star5" ? 0.5 : 0.01;
-    const Rect bounds = BoundsOfFirst(drawing, Role::kShape);
-    EXPECT_NEAR(bounds.left, frame.left, slack) << form;
-    EXPECT_NEAR(bounds.Right(), frame.Right(), slack) << form;
-    EXPECT_NEAR(bounds.top, frame.top, slack) << form;
-    EXPECT_NEAR(bounds.Bottom(), frame.Bottom(), slack) << form;
-    EXPECT_TRUE(notes_.empty()) << form;
-  }
-}
-
-TEST_F(UserShapesTest, UnknownFormsAreDrawnAsRectanglesAndNoted) {
-  const Drawing drawing = DrawWith(Anchor(Shape("smileyFace", Solid("FF0000"))));
-  ExpectNear(BoundsOfFirst(drawing, Role::kShape), {100, 50, 200, 50}, "");
-  EXPECT_EQ(notes_, render::Notes{
-                        "A shape is drawn as a rectangle because its form isn't known: Sign (smileyFace)."});
 }
 
 TEST_F(UserShapesTest, GroupsPlaceStretchAndTurnTheirMembers) {
@@ -126,37 +93,6 @@ TEST_F(UserShapesTest, GroupsPlaceStretchAndTurnTheirMembers) {
     ExpectNear(BoundsOfFirst(drawing, Role::kShape), c.expected, std::string(c.turn) + "/" + c.memberTurn);
     EXPECT_EQ(FillOf(*ItemsOf(drawing, Role::kShape)[0]), (render::Color{0, 255, 0, 1}));
   }
-}
-
-TEST_F(UserShapesTest, TextsHaveTheLayoutOfTheirBody) {
-  const std::string insets = "lIns=\"127000\" tIns=\"63500\" rIns=\"254000\" bIns=\"127000\" ";
-  struct Case {
-    std::string body, paragraph;
-    double x, y;                 ///< The position of the text's side, if it is known.
-    double along = 0, down = 0;  ///< The side: 0 for the first, 0.5 for the middle, 1 for the last.
-  };
-  for (const Case& c :
-       {Case{insets, "", 110, 55}, Case{insets, "algn=\"r\"", 280, 55, 1},
-        Case{insets, "algn=\"ctr\"", 195, 55, 0.5}, Case{insets + "anchor=\"b\"", "", 110, 90, 0, 1},
-        Case{insets + "anchor=\"ctr\"", "", 110, 72.5, 0, 0.5},
-        Case{insets + "wrap=\"none\"", "algn=\"r\"", 280, 55, 1}, Case{"", "", 107.2, 53.6},
-        // Rotated by a right angle around the middle at (200, 75).
-        Case{insets + "vert=\"vert\"", "", 220, -15, 1, 0},
-        Case{insets + "vert=\"vert270\"", "", 180, 165, 0, 1}}) {
-    const Drawing drawing = DrawWith(Anchor(Shape("rect", "", {}, "", Text(c.body, c.paragraph, "Words"))));
-    const Rect box = BoundsOfFirst(drawing, Role::kShapeText);
-    if (c.body.find("vert=") == std::string::npos) {
-      EXPECT_NEAR(box.left + box.width * c.along, c.x, 0.01) << c.body << c.paragraph;
-      EXPECT_NEAR(box.top + box.height * c.down, c.y, 0.01) << c.body << c.paragraph;
-    } else {
-      EXPECT_GT(box.height, box.width) << c.body;
-    }
-  }
-  const Drawing wrapped =
-      DrawWith(Anchor(Shape("rect", "", {}, "", Text("", "", "one two three four five six")), "0.4"));
-  EXPECT_GT(ItemsOf(wrapped, Role::kShapeText).size(), 1);
-  for (const Item* line : ItemsOf(wrapped, Role::kShapeText))
-    EXPECT_LE(BoundsOf(*line).Right(), 160 - 7.2 + 0.01);
 }
 
 TEST_F(UserShapesTest, ADrawingThatCantBeReadIsNoted) {

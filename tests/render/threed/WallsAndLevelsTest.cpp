@@ -24,37 +24,6 @@ class WallsAndLevelsTest : public DrawingTest {
   }
 };
 
-S LevelXml(const std::vector<std::pair<int, S>>& texts) {
-  S xml = "<c:lvl>";
-  for (const auto& [index, text] : texts) {
-    xml += "<c:pt idx=\"" + std::to_string(index) + "\"><c:v>" + text + "</c:v></c:pt>";
-  }
-  return xml + "</c:lvl>";
-}
-
-TEST_F(WallsAndLevelsTest, OuterLevelsAreBeyondTheLabelsOfTheirCategories) {
-  const S categories = "<c:cat><c:multiLvlStrRef><c:multiLvlStrCache><c:ptCount val=\"4\"/>" +
-                       LevelXml({{0, "Q1"}, {1, "Q2"}, {2, "Q3"}, {3, "Q4"}}) +
-                       LevelXml({{0, "Cold"}, {3, "Warm"}}) + LevelXml({{0, "Year"}}) +
-                       "</c:multiLvlStrCache></c:multiLvlStrRef></c:cat>";
-  for (const bool lying : {false, true}) {
-    const Drawing drawing = DrawColumns(SeriesXml(0, {1, 2, 3, 4}, "", "", categories), lying);
-    EXPECT_EQ(notes_, render::Notes());
-    EXPECT_EQ(DrawingComplaints(drawing), "") << lying;
-    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), (Texts{"Q1", "Q2", "Q3", "Q4", "Cold", "Warm", "Year"}));
-    const auto boxes = BoxesOf(drawing, Role::kTickLabel, 1);
-    // a group is in the middle of its categories, and each level is farther from the axis than the one before
-    const auto along = [&](std::size_t i) { return lying ? boxes[i].Center().y : boxes[i].Center().x; };
-    const auto across = [&](std::size_t i) { return lying ? -boxes[i].Center().x : boxes[i].Center().y; };
-    EXPECT_NEAR(along(4), along(1), 0.01) << lying;
-    EXPECT_NEAR(along(5), along(3), 0.01) << lying;
-    EXPECT_NEAR(along(6), (along(0) + along(3)) / 2, 0.01) << lying;
-    EXPECT_NEAR(across(4), across(5), 0.01) << lying;
-    EXPECT_GT(across(4), across(1) + 5) << lying;
-    EXPECT_GT(across(6), across(4) + 5) << lying;
-  }
-}
-
 TEST_F(WallsAndLevelsTest, WallsOfDarkStylesAreFilled) {
   struct {
     int style;

@@ -261,15 +261,40 @@ TEST(NumberFormatTest, Dates) {
       {"[$-411]ggge\"年\" gg g ee", 43586, "令和1年 令 R 01"},
       {"[$-411]ge.m.d", 43585, "H31.4.30"},
       {"[$-30411]ge", 367, "M34"},
+      // The first and the last day of each era.
+      {"[$-411]ge.m.d", 43586, "R1.5.1"},
+      {"[$-411]ge.m.d", 32516, "H1.1.8"},
+      {"[$-411]ge.m.d", 32515, "S64.1.7"},
+      {"[$-411]ge.m.d", 9856, "S1.12.25"},
+      {"[$-411]ge.m.d", 9855, "T15.12.24"},
+      {"[$-411]ge.m.d", 4595, "T1.7.30"},
+      {"[$-411]ge.m.d", 4594, "M45.7.29"},
+      {"[$-404]gg e", 4384, "民國 1"},
+      {"[$-404]gg e", 4383, " 1911"},
       {"[$-404]e/m/d", 45000, "112/3/15"},
       {"g", 45000, ""},
       {"B2yyyy-mm-dd", 0, "1317-08-29"},
       {"[$-2060401]d mmmm yyyy", 45472, "23 Dhu al-Hijjah 1445"},
+      {"[$-2060401]d mmmm yyyy", 45479, "30 Dhu al-Hijjah 1445"},
+      {"B2d/m/yyyy", 45480, "1/1/1446"},
       {"B2d/m/yyyy", 45481, "2/1/1446"},
       {"B1yyyy", 45000, "2023"},
       {"[$-F800]\"other\"", 45000, "Wednesday, March 15, 2023"},
       {"[$-x-systime]d", 45000.75, "6:00:00 PM"},
+      {"[$-x-sysdate]d", 45000.75, "Wednesday, March 15, 2023"},
   });
+}
+
+TEST(NumberFormatTest, MonthsOfTheHijriCalendar) {
+  constexpr const char* kNames[] = {"Muharram", "Safar",     "Rabi I",        "Rabi II",
+                                    "Jumada I", "Jumada II", "Rajab",         "Sha'ban",
+                                    "Ramadan",  "Shawwal",   "Dhu al-Qi'dah", "Dhu al-Hijjah"};
+  int day = 45480;  // the first day of 1446
+  for (int month = 0; month < 12; ++month) {
+    ExpectShown(
+        {{"B2d mmmm yyyy", static_cast<double>(day), ("1 " + std::string(kNames[month]) + " 1446").c_str()}});
+    day += month % 2 == 0 ? 30 : 29;
+  }
 }
 
 TEST(NumberFormatTest, Times) {

@@ -9,6 +9,7 @@
 #include "xlsx/base/Limits.h"
 #include "xlsx/package/Package.h"
 #include "xlsx/package/PackageError.h"
+#include "xlsx/package/WorkbookKind.h"
 #include "xlsx/package/XString.h"
 #include "xlsx/package/Xml.h"
 
@@ -24,6 +25,8 @@ TEST(PackageTest, TargetsAreResolvedInsideThePackage) {
       {"", "xl/workbook.xml", "/xl/workbook.xml"},
       {"/xl/workbook.xml", "/xl/styles.xml", "/xl/styles.xml"},
       {"/xl/a.xml", ".\\b%20c.xml#d", "/xl/b c.xml"},
+      {"/xl/a.xml", "x%41%4a", "/xl/xAJ"},
+      {"/xl/a.xml", "x%4%G1%1G", "/xl/x%4%G1%1G"},
       {"/xl/a.xml", "../../etc/passwd", ""},
       {"/xl/a.xml", "../../xl/b.xml", ""}};
   for (const auto& [source, target, resolved] : cases)
@@ -171,9 +174,7 @@ TEST_F(PackageFileTest, ForeignEntriesKeepTheirCompressionMethod) {
   // The compression method is 22 bytes before a local name, and 36 bytes before a name in the directory.
   const auto local = bytes.find("foreign.bin"), central = bytes.rfind("foreign.bin");
   bytes[local - 22] = bytes[central - 36] = 14;
-  const S comment = "a comment on the file";
-  bytes[bytes.size() - 2] = static_cast<char>(comment.size());
-  std::ofstream(folder_ / "odd.xlsx", std::ios::binary) << bytes << comment;
+  std::ofstream(folder_ / "odd.xlsx", std::ios::binary) << bytes;
 
   Package package = Package::Open(folder_ / "odd.xlsx");
   EXPECT_THROW(package.Read("/foreign.bin"), PackageError);
@@ -182,9 +183,88 @@ TEST_F(PackageFileTest, ForeignEntriesKeepTheirCompressionMethod) {
   std::ifstream saved(folder_ / "out.xlsx", std::ios::binary);
   const S after((std::istreambuf_iterator<char>(saved)), {});
   EXPECT_NE(after.find("declared as LZMA"), S::npos);
-  EXPECT_TRUE(after.ends_with(comment));
   EXPECT_EQ(after[after.find("foreign.bin") - 22], 14);
   EXPECT_EQ(Archive(folder_ / "out.xlsx").Entries()[1].method, 14);
+}
+
+TEST_F(PackageFileTest, EntriesThatCantBeReadSayWhy) {
+  struct {
+    std::size_t local, central;  // Bytes before the name, locally and in the directory.
+    char value;
+    S reason;
+  } const kCases[] = {{22, 36, 14, "it is compressed by an unsupported method"},
+                      {24, 38, 1, "it is encrypted"},
+                      {16, 30, 77, "its checksum is wrong"},
+                      {8, 22, 127, "its size isn't the one in the archive's directory"}};
+  for (const auto& test : kCases) {
+    ArchiveWriter writer(folder_ / "odd.xlsx");
+    writer.Add("[Content_Types].xml", "<Types/>");
+    writer.Add("some.bin", S(300, 'x'));
+    writer.Finish();
+    std::ifstream in(folder_ / "odd.xlsx", std::ios::binary);
+    S bytes((std::istreambuf_iterator<char>(in)), {});
+    bytes[bytes.find("some.bin") - test.local] = bytes[bytes.rfind("some.bin") - test.central] = test.value;
+    std::ofstream(folder_ / "odd.xlsx", std::ios::binary) << bytes;
+    try {
+      Package::Open(folder_ / "odd.xlsx").Read("/some.bin");
+      ADD_FAILURE() << test.reason;
+    } catch (const PackageError& e) {
+      EXPECT_EQ(e.what(), "its part /some.bin can't be read: " + test.reason);
+    }
+  }
+}
+
+TEST_F(PackageFileTest, AFileThatWasCutWhileItWasOpenIsDamaged) {
+  const S path = folder_ / "book.xlsx";
+  {
+    ArchiveWriter writer(path);
+    writer.Add("[Content_Types].xml", "<Types/>");
+    for (const char* name : {"first.bin", "second.bin"}) writer.Add(name, S(1 << 20, name[0]), false);
+    writer.Finish();
+  }
+  const Package package = Package::Open(path);
+  std::filesystem::resize_file(path, 100'000);
+  EXPECT_THROW(package.Read("/first.bin"), PackageError);
+  EXPECT_THROW(package.Read("/second.bin"), PackageError);
+}
+
+TEST_F(PackageFileTest, CommentsOfArchivesAreKept) {
+  for (const S& comment : {S(), S("x"), S("two lines\nof it")}) {
+    {
+      ArchiveWriter writer(folder_ / "book.xlsx");
+      writer.Add("[Content_Types].xml", "<Types/>");
+      writer.Finish();
+    }
+    std::ifstream in(folder_ / "book.xlsx", std::ios::binary);
+    S bytes((std::istreambuf_iterator<char>(in)), {});
+    bytes[bytes.size() - 2] = static_cast<char>(comment.size());
+    bytes += comment;
+    std::ofstream(folder_ / "book.xlsx", std::ios::binary) << bytes;
+    Package::Open(folder_ / "book.xlsx").Save(folder_ / "out.xlsx");
+    std::ifstream saved(folder_ / "out.xlsx", std::ios::binary);
+    EXPECT_EQ(S((std::istreambuf_iterator<char>(saved)), {}), bytes);
+  }
+}
+
+TEST_F(PackageFileTest, RelationshipsGetTheFirstFreeNumber) {
+  Package package;
+  for (const char* part : {"/a", "/b"}) package.Add(part, "application/x", "<x/>");
+  const auto add = [&] { return package.AddRelationship("/a", "http://x/x", "/b"); };
+  EXPECT_EQ(add(), "rId1");
+  EXPECT_EQ(add(), "rId2");
+  EXPECT_EQ(add(), "rId3");
+  package.RemoveRelationship("/a", "rId2");
+  EXPECT_EQ(add(), "rId2");
+  package.Replace("/_rels/a.rels", "<Relationships><Relationship Id=\"RID1\"/></Relationships>");
+  EXPECT_EQ(add(), "rId2");
+}
+
+TEST(PackageTest, ContentTypesOfMacros) {
+  for (const char* type : {"application/vnd.ms-office.vbaProject", "application/vnd.ms-excel.macrosheet+xml",
+                           "application/vnd.ms-excel.intlmacrosheet+xml"})
+    EXPECT_TRUE(HoldsMacros(type)) << type;
+  for (const char* type : {"", "application/vnd.ms-excel.sheet.macroEnabled.main+xml"})
+    EXPECT_FALSE(HoldsMacros(type)) << type;
 }
 
 TEST_F(PackageFileTest, TheFileIsReplacedCompletelyOrNotAtAll) {
@@ -300,6 +380,34 @@ TEST(XmlTest, ForbiddenContentsAreRefused) {
   }
 }
 
+TEST(XmlTest, ContentsUpToTheLimitsAreRead) {
+  const auto nested = [](int depth) {
+    S open, close;
+    for (int i = 0; i < depth; ++i) open += "<a>", close += "</a>";
+    return open + close;
+  };
+  const auto wide = [](std::size_t attributes) {
+    S text = "<a";
+    for (std::size_t i = 0; i < attributes; ++i) text += " a='1'";
+    return text + "/>";
+  };
+  const auto marks = [](std::size_t count) { return "<a>" + S(count - 2, '=') + "</a>"; };
+  const std::pair<S, bool> cases[] = {
+      {nested(limits::kXmlDepth), true},    {nested(limits::kXmlDepth + 1), false},
+      {wide(limits::kXmlAttributes), true}, {wide(limits::kXmlAttributes + 1), false},
+      {marks(limits::kXmlMarks), true},     {marks(limits::kXmlMarks + 1), false}};
+  for (const auto& [text, read] : cases) {
+    pugi::xml_document document;
+    bool refused = false;
+    try {
+      xml::Parse(document, text);
+    } catch (const PackageError&) {
+      refused = true;
+    }
+    EXPECT_EQ(refused, !read) << text.size();
+  }
+}
+
 TEST(XmlTest, AnyEncodingIsConvertedToUtf8) {
   const auto declared = [](const S& encoding, const S& text) {
     return "<?xml version='1.0' encoding='" + encoding + "' standalone='yes'?><a>" + text + "</a>";
@@ -327,12 +435,26 @@ TEST(XmlTest, AnyEncodingIsConvertedToUtf8) {
   }
 }
 
+TEST(XmlTest, ChildrenAreFoundByTheirLocalNames) {
+  pugi::xml_document document;
+  xml::Parse(document, "<r><ab n='1'/><!--b--><x:a n='2'/><x:b n='3'/><b n='4'/><b:c n='5'/></r>");
+  const std::pair<const char*, S> cases[] = {{"a", "2"}, {"b", "34"}, {"ab", "1"}, {"c", "5"}, {"x", ""}};
+  for (const auto& [name, numbers] : cases) {
+    S found;
+    for (const auto& child : xml::Children(xml::Root(document), name)) found += xml::Attribute(child, "n");
+    EXPECT_EQ(found, numbers) << name;
+  }
+}
+
 TEST(XmlTest, ValuesAreEncodedAndDecoded) {
   const S value = "a<b>&\"c'\r\n\td\x01";
   EXPECT_EQ(xml::Decode(xml::EncodeText(value)), "a<b>&\"c'\r\n\td")
       << "characters that XML can't contain are removed";
   EXPECT_EQ(xml::Decode(xml::EncodeAttribute(value)), "a<b>&\"c'\r\n\td");
+  EXPECT_EQ(xml::EncodeText(value), "a&lt;b&gt;&amp;\"c'&#13;\n\td");
+  EXPECT_EQ(xml::EncodeAttribute(value), "a&lt;b&gt;&amp;&quot;c'&#13;&#10;&#9;d");
   EXPECT_EQ(xml::Decode("&#x20AC;&#8364;&lt;&unknown;&;&#xFFFFFFF;&"), "€€<&unknown;&;&#xFFFFFFF;&");
+  EXPECT_EQ(xml::Decode("&#x000000041;&#x0000000041;"), "A&#x0000000041;") << "at most 13 characters";
   for (const char* raw : {"&#1;", "&#xD83D;", "&#xFFFE;", "&#x110000;"}) EXPECT_EQ(xml::Decode(raw), raw);
   // Characters that aren't allowed in a file stay in the tree, where halves of a surrogate pair can be
   // joined.
