@@ -75,6 +75,8 @@ std::pair<S, S> WordsOf(const Item& item) {
   if (const auto* text = std::get_if<render::TextItem>(&item.content)) {
     constexpr const char* kAligns[] = {"<", "|", ">"};
     const S look = WordsOf(text->color) + "~" + Short(text->font.size) + (text->font.bold ? "b" : "") +
+                   (text->font.italic ? "i" : "") + (text->font.underline ? "u" : "") +
+                   (text->font.family == "Calibri" ? "" : text->font.family) +
                    kAligns[static_cast<int>(text->align)] +
                    (text->rotation == 0 ? "" : Short(text->rotation));
     return {look, " '" + text->text + "'" + Place(text->anchor)};

@@ -38,7 +38,9 @@ std::string AllFormsXml(bool adjusted) {
                            "hexagon",  "octagon",    "plus",    "pentagon",      "star4",
                            "star5",    "homePlate",  "chevron", "rightArrow",    "leftArrow",
                            "upArrow",  "downArrow",  "can",     "donut",         "sun"}) {
-    xml += ShapeXml(cell, form, adjusted ? Adjustments(cell) : "");
+    xml += ShapeXml(cell, form, adjusted ? Adjustments(cell) : "",
+                    "<a:solidFill><a:srgbClr val=\"FF0000\"/></a:solidFill><a:ln w=\"12700\"><a:solidFill>"
+                    "<a:srgbClr val=\"0000FF\"/></a:solidFill></a:ln>");
     ++cell;
   }
   return xml;
