@@ -69,7 +69,7 @@ class ArchiveWriter {
   void Copy(const Archive& source, std::size_t index);
   /// Copies the comment of the file.
   void CopyComment(const Archive& source);
-  /// Adds an entry with new bytes, compressed or stored.
+  /// Adds an entry with new bytes, compressed or stored. The bytes must stay unchanged until Finish.
   void Add(const std::string& name, std::string_view bytes, bool compress = true);
   /// Writes the file.
   void Finish();

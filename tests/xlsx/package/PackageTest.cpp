@@ -199,7 +199,8 @@ TEST_F(PackageFileTest, EntriesThatCantBeReadSayWhy) {
   for (const auto& test : kCases) {
     ArchiveWriter writer(folder_ / "odd.xlsx");
     writer.Add("[Content_Types].xml", "<Types/>");
-    writer.Add("some.bin", S(300, 'x'));
+    const S some(300, 'x');
+    writer.Add("some.bin", some);
     writer.Finish();
     std::ifstream in(folder_ / "odd.xlsx", std::ios::binary);
     S bytes((std::istreambuf_iterator<char>(in)), {});
@@ -219,7 +220,9 @@ TEST_F(PackageFileTest, AFileThatWasCutWhileItWasOpenIsDamaged) {
   {
     ArchiveWriter writer(path);
     writer.Add("[Content_Types].xml", "<Types/>");
-    for (const char* name : {"first.bin", "second.bin"}) writer.Add(name, S(1 << 20, name[0]), false);
+    const S first(1 << 20, 'f'), second(1 << 20, 's');
+    writer.Add("first.bin", first, false);
+    writer.Add("second.bin", second, false);
     writer.Finish();
   }
   const Package package = Package::Open(path);
