@@ -9,8 +9,8 @@
 #include <iostream>
 #include <string>
 
+#include "render/cairo/CairoFonts.h"
 #include "render/cairo/CairoPainter.h"
-#include "render/cairo/Fonts.h"
 #include "render/chart/ChartDrawing.h"
 #include "render/svg/SvgWriter.h"
 #include "runtime/RuntimeError.h"
@@ -82,7 +82,7 @@ class Pictures {
  private:
   std::string folder_;
   std::ofstream list_;
-  render::Fonts fonts_;
+  render::CairoFonts fonts_;
   int count_ = 0;
 };
 

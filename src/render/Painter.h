@@ -21,16 +21,14 @@ class PdfDocument {
 };
 
 /// Measures texts and paints pictures with a graphics library. Loading the library takes longer than
-/// starting the command. Therefore the library is loaded through this interface when a picture is drawn. Only
-/// SVG can be written without it. Several threads may paint at the same time.
+/// starting the command. Therefore the library is loaded through this interface when a picture is painted.
+/// SVG is written without it. Several threads may paint at the same time.
 class Painter {
  public:
   virtual ~Painter() = default;
 
-  /// Returns the measure of this painter, for all threads.
+  /// Returns the measure for texts that this painter paints, for all threads.
   virtual const TextMeasure& Measure() const = 0;
-  /// Returns true if any font is installed. Without fonts, texts become boxes or are invisible.
-  virtual bool HasFonts() const = 0;
   /// Paints a drawing on a white background. `scale` is the number of pixels in a point. Throws
   /// std::length_error if the picture would have no pixel or more than a hundred million.
   virtual Raster Rasterize(const Drawing& drawing, double scale) const = 0;

@@ -408,12 +408,17 @@ TEST_F(RenderTest, WithoutTheModuleThatDrawsTheCommandSaysSo) {
   fs::create_directory(folder_ / "bin");
   fs::copy_file(test::kCommand, folder_ / "bin/plotsmith");
   const S err = folder_ / "err.txt";
-  const int status = std::system(
-      ((folder_ / "bin/plotsmith") + " render " + book_ + " -o " + folder_.Path().string() + " 2> " + err)
-          .c_str());
-  EXPECT_EQ(WEXITSTATUS(status), 2);
-  EXPECT_EQ(BytesOf(err), "plotsmith: nothing can be drawn: \"" + (folder_ / "lib/plotsmith/render.so") +
-                              "\", which draws, isn't installed.\n");
+  struct Case {
+    const char *format, *module;
+  };
+  for (const Case& test : {Case{"svg", "fonts.so"}, Case{"png", "render.so"}, Case{"pdf", "render.so"}}) {
+    const int status = std::system(((folder_ / "bin/plotsmith") + " render " + book_ + " --format " +
+                                    test.format + " -o " + folder_.Path().string() + " 2> " + err)
+                                       .c_str());
+    EXPECT_EQ(WEXITSTATUS(status), 2) << test.format;
+    EXPECT_EQ(BytesOf(err), "plotsmith: nothing can be drawn: \"" + (folder_ / "lib/plotsmith/") +
+                                test.module + "\", which draws, isn't installed.\n");
+  }
 }
 
 }  // namespace

@@ -118,8 +118,8 @@ std::string PlotXml(const std::string& content, const std::string& behind) {
   return "<c:autoTitleDeleted val=\"1\"/><c:plotArea>" + content + "</c:plotArea>" + behind;
 }
 
-render::Fonts& DrawingTest::SharedFonts() {
-  static render::Fonts fonts;
+render::CairoFonts& DrawingTest::SharedFonts() {
+  static render::CairoFonts fonts;
   return fonts;
 }
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "render/cairo/Fonts.h"
+#include "render/cairo/CairoFonts.h"
 #include "render/chart/ChartDrawing.h"
 #include "tests/support/ChartTest.h"
 
@@ -39,7 +39,7 @@ class DrawingTest : public ChartTest {
   /// Draws a whole chart part.
   render::Drawing DrawPart(const std::string& part, double width = 384, double height = 270);
 
-  static render::Fonts& SharedFonts();
+  static render::CairoFonts& SharedFonts();
   render::Notes notes_;
 };
 

@@ -133,7 +133,7 @@ TEST_F(PictureFilesTest, NumbersAreShort) {
 
 TEST_F(PictureFilesTest, PngIsTheSameOnEveryRunAndAsLargeAsAsked) {
   const Drawing drawing = Columns(3, 4);
-  render::Fonts others;  // Earlier drawings must have no effect.
+  render::CairoFonts others;  // Earlier drawings must have no effect.
   const S png = MakePng(drawing, SharedFonts(), 96);
   EXPECT_EQ(png, MakePng(drawing, others, 96));
   EXPECT_EQ(png.substr(0, 8), "\x89PNG\r\n\x1A\n");
@@ -214,6 +214,29 @@ TEST_F(PictureFilesTest, FontsHaveTheWidthsOfTheFiles) {
   EXPECT_EQ(width("", calibri), 0);
   const auto extent = SharedFonts().Measure("x", calibri);
   EXPECT_NEAR(extent.Height(), 12.2, 0.1);
+}
+
+TEST_F(PictureFilesTest, FontsWithAndWithoutCairoMeasureTheSame) {
+  const render::Fonts fonts;
+  const S texts[] = {"0",
+                     "12,345.67 %",
+                     "To AVAToWe fi ffl",
+                     "Gr\u00fc\u00dfe aus \u0141\u00f3d\u017a",
+                     "\u2212\u221e\u00b7",
+                     ""};
+  for (const char* const family : {"Calibri", "Arial", "Cambria", "Liberation Mono", "No such font", ""}) {
+    for (const double size : {6.0, 10.0, 10.5, 11.3, 96.0}) {
+      for (const bool bold : {false, true}) {
+        for (const S& text : texts) {
+          const render::Font font{family, size, bold, !bold};
+          const auto measured = fonts.Measure(text, font), painted = SharedFonts().Measure(text, font);
+          EXPECT_EQ(measured.width, painted.width) << family << " " << size << ": " << text;
+          EXPECT_EQ(measured.ascent, painted.ascent) << family;
+          EXPECT_EQ(measured.descent, painted.descent) << family;
+        }
+      }
+    }
+  }
 }
 
 TEST_F(PictureFilesTest, PlainTextsAreAsWideAsOthers) {

@@ -26,6 +26,7 @@ class EvenMeasure : public render::TextMeasure {
   render::TextExtent Measure(std::string_view line, const render::Font& font) const override {
     return {0.5 * font.size * static_cast<double>(runtime::Len(line)), 0.75 * font.size, 0.25 * font.size};
   }
+  bool HasFonts() const override { return true; }
 };
 
 /// Returns a number with one decimal.

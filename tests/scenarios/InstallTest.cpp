@@ -44,7 +44,7 @@ TEST_F(InstallTest, EveryFileIsInstalledAndRemoved) {
             0);
   const std::set<S> files = Files();
   for (const char* file :
-       {"bin/plotsmith", "lib/plotsmith/render.so", "share/man/man1/plotsmith.1",
+       {"bin/plotsmith", "lib/plotsmith/fonts.so", "lib/plotsmith/render.so", "share/man/man1/plotsmith.1",
         "share/bash-completion/completions/plotsmith", "share/zsh/site-functions/_plotsmith",
         "share/doc/plotsmith/README.md", "share/doc/plotsmith/docs/file-formats.md",
         "share/doc/plotsmith/docs/images/orders.svg"}) {

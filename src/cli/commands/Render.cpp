@@ -32,7 +32,7 @@ int RenderCommand::Run(const GlobalOptions& options, const Streams& streams) {
     throw CommandError(exit_code::kUsage, "--sheet draws a whole sheet and can't be combined with charts.");
   if (onePage_ && !sheet_) throw CommandError(exit_code::kUsage, "--one-page can only be used with --sheet.");
   const PicturePlan plan = PlanPictures(pictures_, output_);
-  const auto loading = LoadPainterAhead();
+  const auto loading = LoadMeasureAhead(plan.format);
   Session session(book_, options, streams);
   return sheet_ ? RenderSheet(session, plan, streams) : RenderCharts(session, plan, streams);
 }

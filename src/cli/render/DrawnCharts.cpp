@@ -30,7 +30,8 @@ void NoteUnreadable(DrawnChart& drawn) {
 }
 
 /// Reads a chart, or notes that there is nothing to draw. A chart that needs the workbook is drawn at once.
-void Read(xlsx::Workbook& workbook, const excel::Ref<excel::Chart>& chart, DrawnChart& drawn) {
+void Read(xlsx::Workbook& workbook, const excel::Ref<excel::Chart>& chart, PictureFormat format,
+          DrawnChart& drawn) {
   if (!chart) {
     drawn.notes.emplace_back("The workbook has its definition, but no chart; nothing is drawn.");
     return;
@@ -41,7 +42,7 @@ void Read(xlsx::Workbook& workbook, const excel::Ref<excel::Chart>& chart, Drawn
       const xlsx::Frame size = held.Size();
       render::UndrawnChart read(held.Part(), size.width, size.height, drawn.notes);
       if (read.NeedsWorkbook()) {
-        drawn.pages.push_back(std::move(read).Draw(LoadPainter().Measure(), drawn.notes));
+        drawn.pages.push_back(std::move(read).Draw(LoadMeasure(format), drawn.notes));
       } else {
         drawn.read = std::move(read);
       }
@@ -53,10 +54,10 @@ void Read(xlsx::Workbook& workbook, const excel::Ref<excel::Chart>& chart, Drawn
 }
 
 /// Returns the drawing of a chart that was read.
-std::vector<render::Drawing> Draw(DrawnChart& drawn) {
+std::vector<render::Drawing> Draw(DrawnChart& drawn, PictureFormat format) {
   if (drawn.read) {
     try {
-      drawn.pages.push_back(std::move(*drawn.read).Draw(LoadPainter().Measure(), drawn.notes));
+      drawn.pages.push_back(std::move(*drawn.read).Draw(LoadMeasure(format), drawn.notes));
     } catch (const runtime::RuntimeError&) {
       NoteUnreadable(drawn);
     }
@@ -76,13 +77,13 @@ DrawnCounts WriteCharts(xlsx::Workbook& workbook, const std::string& book,
   for (const ChartToDraw& chart : charts) {
     DrawnChart& one = drawn.emplace_back();
     one.label = chart.label;
-    Read(workbook, chart.chart, one);
+    Read(workbook, chart.chart, plan.format, one);
     const std::string name = names.NameFor(chart.label);
-    if (one.isDrawn) writer.Add(name, [&one] { return Draw(one); });
+    if (one.isDrawn) writer.Add(name, [&one, &plan] { return Draw(one, plan.format); });
   }
   writer.Finish();
   DrawnCounts counts;
-  counts.hasMessages = !charts.empty() && ReportMissingFonts(streams);
+  counts.hasMessages = !charts.empty() && ReportMissingFonts(LoadMeasure(plan.format), streams);
   for (const DrawnChart& one : drawn) {
     for (const std::string& note : one.notes)
       streams.err << "plotsmith: " << one.label << ": " << note << '\n';

@@ -15,10 +15,10 @@ namespace plotsmith::cli {
 
 bool WriteSheet(xlsx::Workbook& workbook, const std::string& book, const xlsx::SheetEntry& sheet,
                 render::Paper paper, const PicturePlan& plan, const Streams& streams) {
-  const bool fontsAreMissing = ReportMissingFonts(streams);
+  const render::TextMeasure& measure = LoadMeasure(plan.format);
+  const bool fontsAreMissing = ReportMissingFonts(measure, streams);
   render::Notes notes;
-  std::vector<render::Drawing> pages =
-      render::DrawSheet(workbook, sheet, paper, LoadPainter().Measure(), notes);
+  std::vector<render::Drawing> pages = render::DrawSheet(workbook, sheet, paper, measure, notes);
   for (const std::string& note : notes) streams.err << "plotsmith: " << sheet.name << ": " << note << '\n';
   if (pages.empty()) {
     throw CommandError(exit_code::kUsage, "the sheet \"" + sheet.name + "\" has nothing to print.");

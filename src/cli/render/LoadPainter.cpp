@@ -7,13 +7,17 @@
 
 namespace plotsmith::cli {
 
-std::future<void> LoadPainterAhead() {
-  const auto load = [] {
+const render::TextMeasure& LoadMeasure(PictureFormat format) {
+  return format == PictureFormat::kSvg ? LoadFonts() : LoadPainter().Measure();
+}
+
+std::future<void> LoadMeasureAhead(PictureFormat format) {
+  const auto load = [format] {
     try {
       // Most charts have their texts in this font. To find a font takes longer than to draw a chart.
-      LoadPainter().Measure().Measure("0", render::Font{"Calibri", 10});
+      LoadMeasure(format).Measure("0", render::Font{"Calibri", 10});
     } catch (const CommandError&) {
-      // LoadPainter will report the error again
+      // LoadMeasure will report the error again
     }
   };
   try {
@@ -23,8 +27,8 @@ std::future<void> LoadPainterAhead() {
   }
 }
 
-bool ReportMissingFonts(const Streams& streams) {
-  if (LoadPainter().HasFonts()) return false;
+bool ReportMissingFonts(const render::TextMeasure& measure, const Streams& streams) {
+  if (measure.HasFonts()) return false;
   streams.err << "plotsmith: no fonts are installed, so texts are misplaced or missing.\n";
   return true;
 }

@@ -3,17 +3,27 @@
 #include <future>
 
 #include "cli/Streams.h"
+#include "cli/render/PictureOptions.h"
 #include "render/Painter.h"
 
 namespace plotsmith::cli {
 
-/// Returns the painter of this process. The first call loads it with the list of fonts, and other threads
-/// wait for that. Throws CommandError if it is missing or has another version.
+/// Return what draws in this process. The first call loads it with the list of fonts, and other threads wait
+/// for that. They throw CommandError if it is missing or has another version.
+///@{
+/// Returns the measure of texts for pictures without a painter, such as SVG. It loads faster than the
+/// painter. The two measure the same, except for characters that no font has.
+const render::TextMeasure& LoadFonts();
+/// Returns the painter.
 const render::Painter& LoadPainter();
-/// Begins to load the painter and the list of fonts in a thread. The destructor of the result waits for the
-/// thread. LoadPainter reports a failure.
-[[nodiscard]] std::future<void> LoadPainterAhead();
+/// Returns the measure of texts for pictures of a format.
+const render::TextMeasure& LoadMeasure(PictureFormat format);
+///@}
+
+/// Begins to load the measure and the list of fonts in a thread. The destructor of the result waits for the
+/// thread. LoadMeasure reports a failure.
+[[nodiscard]] std::future<void> LoadMeasureAhead(PictureFormat format);
 /// Reports on `streams` if no font is installed. Returns true in this case.
-bool ReportMissingFonts(const Streams& streams);
+bool ReportMissingFonts(const render::TextMeasure& measure, const Streams& streams);
 
 }  // namespace plotsmith::cli

@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The folders of the module, relative to the folder of the program: beside it in an installation, below it
+/// The folders of the modules, relative to the folder of the program: beside it in an installation, below it
 /// in a build folder, and for tests below one of its parents.
 constexpr std::array kFolders = {"../lib/plotsmith", "lib/plotsmith", "../../lib/plotsmith"};
 
@@ -27,17 +27,16 @@ fs::path FolderOfProgram() {
   return program.parent_path();
 }
 
-fs::path FindModule() {
+fs::path FindModule(const char* file) {
   std::error_code ignored;
   const fs::path folder = FolderOfProgram();
   for (const char* const relative : kFolders) {
-    const fs::path module = (folder / relative / render::kModuleFile).lexically_normal();
+    const fs::path module = (folder / relative / file).lexically_normal();
     if (module.is_absolute() && fs::exists(module, ignored)) return module;
   }
-  throw CommandError(exit_code::kUsage,
-                     "nothing can be drawn: \"" +
-                         (folder / kFolders[0] / render::kModuleFile).lexically_normal().string() +
-                         "\", which draws, isn't installed.");
+  throw CommandError(exit_code::kUsage, "nothing can be drawn: \"" +
+                                            (folder / kFolders[0] / file).lexically_normal().string() +
+                                            "\", which draws, isn't installed.");
 }
 
 template <class Function>
@@ -45,8 +44,10 @@ Function* Find(void* module, const char* name) {
   return reinterpret_cast<Function*>(dlsym(module, name));
 }
 
-const render::Painter& Load() {
-  const fs::path path = FindModule();
+/// Loads a module and returns what its function returns.
+template <class Function>
+auto Load(const char* file, const char* function) {
+  const fs::path path = FindModule(file);
   const auto refuse = [&](const std::string& why) -> CommandError {
     return CommandError(exit_code::kUsage, "nothing can be drawn: \"" + path.string() + "\" " + why + ".");
   };
@@ -57,20 +58,35 @@ const render::Painter& Load() {
     throw refuse("can't be loaded: " + std::string(reason == nullptr ? "no reason is given" : reason));
   }
   auto* const version = Find<render::ModuleVersion>(module, render::kVersionFunction);
-  auto* const painter = Find<render::ModulePainter>(module, render::kPainterFunction);
-  if (version == nullptr || painter == nullptr) throw refuse("isn't Plotsmith's drawing library");
+  auto* const entry = Find<Function>(module, function);
+  if (version == nullptr || entry == nullptr) throw refuse("isn't Plotsmith's drawing library");
   if (version() != std::string(PLOTSMITH_VERSION)) {
     throw refuse("is of version " + std::string(version()) + ", and this program of version " +
                  PLOTSMITH_VERSION);
   }
-  painter()->HasFonts();  // This reads the list of fonts. Threads that need it at once would each read it.
-  return *painter();
+  return entry();
 }
+
+/// Reads the list of fonts. Threads that need it at once would each read it.
+void ReadFonts(const render::TextMeasure& measure) { measure.HasFonts(); }
 
 }  // namespace
 
+const render::TextMeasure& LoadFonts() {
+  static const render::TextMeasure& fonts = []() -> const render::TextMeasure& {
+    const auto* const loaded = Load<render::ModuleMeasure>(render::kFontsFile, render::kMeasureFunction);
+    ReadFonts(*loaded);
+    return *loaded;
+  }();
+  return fonts;
+}
+
 const render::Painter& LoadPainter() {
-  static const render::Painter& painter = Load();
+  static const render::Painter& painter = []() -> const render::Painter& {
+    const auto* const loaded = Load<render::ModulePainter>(render::kPainterFile, render::kPainterFunction);
+    ReadFonts(loaded->Measure());
+    return *loaded;
+  }();
   return painter;
 }
 

@@ -71,7 +71,7 @@ bool MayBeStrokedInPieces(const PathItem& item) {
 class ItemPainter {
  public:
   /// If `pixels` isn't null, vertical and horizontal lines and edges are moved onto the pixels of a picture.
-  ItemPainter(cairo_t* cr, const Fonts& fonts, std::optional<PixelScale> pixels)
+  ItemPainter(cairo_t* cr, const CairoFonts& fonts, std::optional<PixelScale> pixels)
       : cr_(cr), fonts_(fonts), pixels_(pixels) {}
   ~ItemPainter() {
     for (; clips_ > 0; --clips_) cairo_restore(cr_);
@@ -141,7 +141,7 @@ class ItemPainter {
   }
 
   cairo_t* cr_;
-  const Fonts& fonts_;
+  const CairoFonts& fonts_;
   const std::optional<PixelScale> pixels_;
   int clips_ = 0;
 };
@@ -151,7 +151,8 @@ void Check(cairo_status_t status) {
   if (status != CAIRO_STATUS_SUCCESS) throw std::runtime_error(cairo_status_to_string(status));
 }
 
-void PaintItems(cairo_t* cr, const Drawing& drawing, const Fonts& fonts, std::optional<PixelScale> pixels) {
+void PaintItems(cairo_t* cr, const Drawing& drawing, const CairoFonts& fonts,
+                std::optional<PixelScale> pixels) {
   cairo_set_miter_limit(cr, 4);
   ItemPainter painter(cr, fonts, pixels);
   for (const Item& item : drawing.items) painter.Draw(item);
@@ -159,14 +160,14 @@ void PaintItems(cairo_t* cr, const Drawing& drawing, const Fonts& fonts, std::op
 
 }  // namespace
 
-void Paint(cairo_t* cr, const Drawing& drawing, const Fonts& fonts) {
+void Paint(cairo_t* cr, const Drawing& drawing, const CairoFonts& fonts) {
   PaintItems(cr, drawing, fonts, std::nullopt);
 }
 
 namespace {
 
 /// Paints a drawing on a white background.
-Surface PaintImage(const Drawing& drawing, const Fonts& fonts, double dpi) {
+Surface PaintImage(const Drawing& drawing, const CairoFonts& fonts, double dpi) {
   constexpr double kMostPixels = 1e8;
   const double scale = dpi / 72;
   const double width = std::round(drawing.width * scale), height = std::round(drawing.height * scale);
@@ -196,12 +197,12 @@ Pixels PixelsOf(cairo_surface_t* image) {
 
 }  // namespace
 
-std::string MakePng(const Drawing& drawing, const Fonts& fonts, double dpi) {
+std::string MakePng(const Drawing& drawing, const CairoFonts& fonts, double dpi) {
   const Surface surface = PaintImage(drawing, fonts, dpi);
   return EncodePng(PixelsOf(surface.get()), dpi);
 }
 
-Raster MakeRaster(const Drawing& drawing, const Fonts& fonts, double dpi) {
+Raster MakeRaster(const Drawing& drawing, const CairoFonts& fonts, double dpi) {
   const Surface surface = PaintImage(drawing, fonts, dpi);
   const Pixels pixels = PixelsOf(surface.get());
   Raster raster{static_cast<int>(pixels.width), static_cast<int>(pixels.height), {}};
@@ -217,7 +218,7 @@ namespace {
 
 class CairoPdf final : public PdfDocument {
  public:
-  explicit CairoPdf(const Fonts& fonts)
+  explicit CairoPdf(const CairoFonts& fonts)
       : fonts_(fonts), surface_(cairo_pdf_surface_create_for_stream(Append, &bytes_, 1, 1)) {
     // The date is fixed, so that the same drawings have the same bytes.
     cairo_pdf_surface_set_metadata(surface_.get(), CAIRO_PDF_METADATA_CREATE_DATE, "2000-01-01T00:00:00Z");
@@ -240,7 +241,7 @@ class CairoPdf final : public PdfDocument {
   }
 
  private:
-  const Fonts& fonts_;
+  const CairoFonts& fonts_;
   std::string bytes_;  // The surface writes to it until it is destroyed.
   const Surface surface_;
   bool hasPages_ = false;
@@ -248,9 +249,9 @@ class CairoPdf final : public PdfDocument {
 
 }  // namespace
 
-std::unique_ptr<PdfDocument> NewPdf(const Fonts& fonts) { return std::make_unique<CairoPdf>(fonts); }
+std::unique_ptr<PdfDocument> NewPdf(const CairoFonts& fonts) { return std::make_unique<CairoPdf>(fonts); }
 
-std::string MakePdf(std::span<const Drawing> pages, const Fonts& fonts) {
+std::string MakePdf(std::span<const Drawing> pages, const CairoFonts& fonts) {
   const auto document = NewPdf(fonts);
   for (const Drawing& page : pages) document->Add(page);
   return document->Finish();

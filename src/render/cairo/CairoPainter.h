@@ -7,23 +7,23 @@
 #include "render/Drawing.h"
 #include "render/Painter.h"
 #include "render/Raster.h"
-#include "render/cairo/Fonts.h"
+#include "render/cairo/CairoFonts.h"
 
 typedef struct _cairo cairo_t;
 
 namespace plotsmith::render {
 
 /// Paints a drawing. A unit of the context must be a point.
-void Paint(cairo_t* cr, const Drawing& drawing, const Fonts& fonts);
+void Paint(cairo_t* cr, const Drawing& drawing, const CairoFonts& fonts);
 
 /// Returns the bytes of a PNG picture on a white background, which are the same on every run. Throws
 /// std::length_error if the picture would have no pixel or more than a hundred million.
-std::string MakePng(const Drawing& drawing, const Fonts& fonts, double dpi = 96);
+std::string MakePng(const Drawing& drawing, const CairoFonts& fonts, double dpi = 96);
 /// Returns the pixels of the same picture, with the same errors.
-Raster MakeRaster(const Drawing& drawing, const Fonts& fonts, double dpi = 96);
+Raster MakeRaster(const Drawing& drawing, const CairoFonts& fonts, double dpi = 96);
 /// Begins a PDF document without a page. The fonts must outlive it.
-std::unique_ptr<PdfDocument> NewPdf(const Fonts& fonts);
+std::unique_ptr<PdfDocument> NewPdf(const CairoFonts& fonts);
 /// Returns the bytes of a PDF document with a page for each drawing, which are the same on every run.
-std::string MakePdf(std::span<const Drawing> pages, const Fonts& fonts);
+std::string MakePdf(std::span<const Drawing> pages, const CairoFonts& fonts);
 
 }  // namespace plotsmith::render

@@ -1,20 +1,30 @@
 #pragma once
 
-/// The entry points of the module that draws. It is a shared library which a program loads when it draws for
-/// the first time, so that other commands don't wait for the graphics libraries.
+/// The entry points of the modules that measure texts and draw. They are shared libraries which a program
+/// loads when it draws for the first time, so that other commands don't wait for the graphics libraries.
+/// SVG needs only the fonts, which load in half the time.
 namespace plotsmith::render {
 
 class Painter;
+class TextMeasure;
 
-/// The file name of the module.
-inline constexpr const char* kModuleFile = "render.so";
+/// The file names of the modules.
+///@{
+inline constexpr const char* kFontsFile = "fonts.so";
+inline constexpr const char* kPainterFile = "render.so";
+///@}
 
-/// Functions that the module exports. One returns the version of Plotsmith that the module belongs to, the
-/// other the painter, which exists until the process ends.
+/// The function of both modules that returns the version of Plotsmith that the module belongs to.
 ///@{
 using ModuleVersion = const char*();
+inline constexpr const char* kVersionFunction = "plotsmith_module_version";
+///@}
+
+/// Functions of one module each. They return the measure and the painter, which exist until the process ends.
+///@{
+using ModuleMeasure = const TextMeasure*();
 using ModulePainter = const Painter*();
-inline constexpr const char* kVersionFunction = "plotsmith_render_version";
+inline constexpr const char* kMeasureFunction = "plotsmith_fonts_measure";
 inline constexpr const char* kPainterFunction = "plotsmith_render_painter";
 ///@}
 

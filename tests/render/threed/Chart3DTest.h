@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "render/cairo/Fonts.h"
+#include "render/cairo/CairoFonts.h"
 #include "render/chart/ChartDrawing.h"
 #include "tests/support/ChartTest.h"
 
@@ -29,7 +29,7 @@ class Chart3DTest : public ChartTest {
                                                   int series = 0);
   static render::Color FillOf(const render::Item& item);
 
-  render::Fonts fonts_;
+  render::CairoFonts fonts_;
   render::Notes notes_;
 };
 

@@ -1,10 +1,7 @@
-#include "render/module/Module.h"
-
-#include <cmath>
-
 #include "render/Painter.h"
+#include "render/cairo/CairoFonts.h"
 #include "render/cairo/CairoPainter.h"
-#include "render/cairo/Fonts.h"
+#include "render/module/Module.h"
 
 namespace plotsmith::render {
 namespace {
@@ -16,16 +13,16 @@ thread_local bool measures = false;
 
 /// Returns the fonts that all threads measure with. To find a font takes longer than to draw a chart, so a
 /// text that one thread has measured isn't laid out again by another.
-const Fonts& SharedFonts() {
-  static const Fonts fonts;
+const CairoFonts& SharedFonts() {
+  static const CairoFonts fonts;
   return fonts;
 }
 
 /// Returns the fonts that the calling thread paints with. A thread that only paints has its own, so that it
 /// doesn't wait for those that measure.
-const Fonts& FontsToPaintWith() {
+const CairoFonts& FontsToPaintWith() {
   if (measures) return SharedFonts();
-  thread_local const Fonts fonts;
+  thread_local const CairoFonts fonts;
   return fonts;
 }
 
@@ -35,7 +32,6 @@ class CairoPainter final : public Painter {
     measures = true;
     return SharedFonts();
   }
-  bool HasFonts() const override { return Fonts::IsAnyInstalled(); }
   Raster Rasterize(const Drawing& drawing, double scale) const override {
     return MakeRaster(drawing, FontsToPaintWith(), scale * kPointsPerInch);
   }
@@ -50,7 +46,7 @@ class CairoPainter final : public Painter {
 
 extern "C" {
 
-const char* plotsmith_render_version() { return PLOTSMITH_VERSION; }
+const char* plotsmith_module_version() { return PLOTSMITH_VERSION; }
 
 const plotsmith::render::Painter* plotsmith_render_painter() {
   static const plotsmith::render::CairoPainter painter;

@@ -1,4 +1,4 @@
-#include "render/cairo/Fonts.h"
+#include "render/fonts/Fonts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -7,7 +7,8 @@
 #include <hb-ot.h>
 #include <mutex>
 #include <optional>
-#include <pango/pangocairo.h>
+#include <pango/pangofc-fontmap.h>
+#include <pango/pangoft2.h>
 #include <string>
 #include <unordered_map>
 
@@ -22,7 +23,7 @@ constexpr double kPointsPerInch = 72;  // A unit of the picture is a point.
 constexpr std::size_t kMostTexts = 8000;
 constexpr std::size_t kLongestText = 4096;  // bytes that are laid out; longer texts don't fit on any chart
 
-/// Returns whether a font matches all of a pattern.
+/// Returns whether an installed font matches all of a pattern.
 bool IsAnyLike(FcPattern* wanted) {
   FcObjectSet* nothing = FcObjectSetBuild(FC_FAMILY, nullptr);
   FcFontSet* fonts = FcFontList(nullptr, wanted, nothing);
@@ -30,6 +31,30 @@ bool IsAnyLike(FcPattern* wanted) {
   if (fonts != nullptr) FcFontSetDestroy(fonts);
   FcObjectSetDestroy(nothing);
   return found;
+}
+
+/// Returns true if a family is installed. Upper and lower case are the same.
+bool IsInstalled(const std::string& family) {
+  FcPattern* wanted = FcPatternCreate();
+  FcPatternAddString(wanted, FC_FAMILY, reinterpret_cast<const FcChar8*>(family.c_str()));
+  const bool found = IsAnyLike(wanted);
+  FcPatternDestroy(wanted);
+  return found;
+}
+
+void TurnOffHinting(FcPattern* font, void*) {
+  FcPatternDel(font, FC_HINTING);
+  FcPatternAddBool(font, FC_HINTING, FcFalse);
+}
+
+/// Returns a context that loads fonts with FreeType.
+PangoContext* NewFreeTypeContext() {
+  PangoFontMap* map = pango_ft2_font_map_new();
+  pango_ft2_font_map_set_resolution(PANGO_FT2_FONT_MAP(map), kPointsPerInch, kPointsPerInch);
+  pango_fc_font_map_set_default_substitute(PANGO_FC_FONT_MAP(map), TurnOffHinting, nullptr, nullptr);
+  PangoContext* context = pango_font_map_create_context(map);
+  g_object_unref(map);  // The context holds it.
+  return context;
 }
 
 struct Release {
@@ -91,7 +116,6 @@ struct FontEntry {
 
 struct Fonts::State {
   std::mutex mutex;  ///< Pango's objects are for one thread at a time.
-  std::unique_ptr<PangoFontMap, Release> map;
   std::unique_ptr<PangoContext, Release> context;
   std::unordered_map<Font, FontEntry, FontHash> fonts;
   std::pair<const Font, FontEntry>* recent = nullptr;
@@ -151,7 +175,7 @@ struct Fonts::State {
                                       font.bold ? PANGO_WEIGHT_BOLD : PANGO_WEIGHT_NORMAL);
     pango_font_description_set_style(entry.description.get(),
                                      font.italic ? PANGO_STYLE_ITALIC : PANGO_STYLE_NORMAL);
-    entry.font.reset(pango_font_map_load_font(map.get(), context.get(), entry.description.get()));
+    entry.font.reset(pango_context_load_font(context.get(), entry.description.get()));
     MeasureHeight(entry, font.size);
     return entry;
   }
@@ -199,18 +223,12 @@ struct Fonts::State {
   }
 };
 
-Fonts::Fonts() : state_(std::make_unique<State>()) {
-  state_->map.reset(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT));
-  pango_cairo_font_map_set_resolution(PANGO_CAIRO_FONT_MAP(state_->map.get()), kPointsPerInch);
-  state_->context.reset(pango_font_map_create_context(state_->map.get()));
-  cairo_font_options_t* options = cairo_font_options_create();
-  cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
-  cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
-  cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
-  pango_cairo_context_set_font_options(state_->context.get(), options);
-  cairo_font_options_destroy(options);
-  pango_context_set_round_glyph_positions(state_->context.get(), FALSE);
-  pango_context_set_language(state_->context.get(), pango_language_from_string("en"));
+Fonts::Fonts() : Fonts(NewFreeTypeContext()) {}
+
+Fonts::Fonts(PangoContext* context) : state_(std::make_unique<State>()) {
+  state_->context.reset(context);
+  pango_context_set_round_glyph_positions(context, FALSE);
+  pango_context_set_language(context, pango_language_from_string("en"));
 }
 
 Fonts::~Fonts() = default;
@@ -221,24 +239,16 @@ TextExtent Fonts::Measure(std::string_view line, const Font& font) const {
   return {state_->TextOf(entry, line, font).width, entry.ascent, entry.descent};
 }
 
-void Fonts::Show(cairo_t* cr, std::string_view line, const Font& font) const {
+void Fonts::WithGlyphs(std::string_view line, const Font& font,
+                       const std::function<void(PangoLayoutLine*)>& use) const {
   const std::scoped_lock lock(state_->mutex);
   FontEntry& entry = state_->EntryOf(font);
   LaidOut& text = state_->TextOf(entry, line, font);
   if (!text.layout) text.layout = state_->MakeLayout(Presentable(line), entry, font.underline);
-  cairo_move_to(cr, 0, 0);
-  pango_cairo_show_layout_line(cr, pango_layout_get_line_readonly(text.layout.get(), 0));
+  use(pango_layout_get_line_readonly(text.layout.get(), 0));
 }
 
-bool Fonts::IsInstalled(std::string_view family) {
-  FcPattern* wanted = FcPatternCreate();
-  FcPatternAddString(wanted, FC_FAMILY, reinterpret_cast<const FcChar8*>(std::string(family).c_str()));
-  const bool found = IsAnyLike(wanted);
-  FcPatternDestroy(wanted);
-  return found;
-}
-
-bool Fonts::IsAnyInstalled() {
+bool Fonts::HasFonts() const {
   FcPattern* any = FcPatternCreate();
   const bool found = IsAnyLike(any);
   FcPatternDestroy(any);
