@@ -7,7 +7,6 @@
 #include <hb-ot.h>
 #include <mutex>
 #include <optional>
-#include <pango/pangofc-fontmap.h>
 #include <pango/pangoft2.h>
 #include <string>
 #include <unordered_map>
@@ -19,42 +18,29 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kPointsPerInch = 72;  // A unit of the picture is a point.
 constexpr std::size_t kMostTexts = 8000;
 constexpr std::size_t kLongestText = 4096;  // bytes that are laid out; longer texts don't fit on any chart
 
-/// Returns whether an installed font matches all of a pattern.
-bool IsAnyLike(FcPattern* wanted) {
-  FcObjectSet* nothing = FcObjectSetBuild(FC_FAMILY, nullptr);
-  FcFontSet* fonts = FcFontList(nullptr, wanted, nothing);
-  const bool found = fonts != nullptr && fonts->nfont > 0;
-  if (fonts != nullptr) FcFontSetDestroy(fonts);
-  FcObjectSetDestroy(nothing);
+/// Returns true if an installed font fulfils a condition. FcFontList would copy the names of all fonts first.
+bool HasFont(const std::function<bool(FcPattern*)>& isWanted) {
+  FcConfig* const fonts = FcConfigReference(nullptr);
+  bool found = false;
+  for (const FcSetName name : {FcSetSystem, FcSetApplication}) {
+    const FcFontSet* const set = FcConfigGetFonts(fonts, name);
+    found = found || (set != nullptr && std::any_of(set->fonts, set->fonts + set->nfont, isWanted));
+  }
+  FcConfigDestroy(fonts);
   return found;
 }
 
-/// Returns true if a family is installed. Upper and lower case are the same.
-bool IsInstalled(const std::string& family) {
-  FcPattern* wanted = FcPatternCreate();
-  FcPatternAddString(wanted, FC_FAMILY, reinterpret_cast<const FcChar8*>(family.c_str()));
-  const bool found = IsAnyLike(wanted);
-  FcPatternDestroy(wanted);
-  return found;
-}
-
-void TurnOffHinting(FcPattern* font, void*) {
-  FcPatternDel(font, FC_HINTING);
-  FcPatternAddBool(font, FC_HINTING, FcFalse);
-}
-
-/// Returns a context that loads fonts with FreeType.
-PangoContext* NewFreeTypeContext() {
-  PangoFontMap* map = pango_ft2_font_map_new();
-  pango_ft2_font_map_set_resolution(PANGO_FT2_FONT_MAP(map), kPointsPerInch, kPointsPerInch);
-  pango_fc_font_map_set_default_substitute(PANGO_FC_FONT_MAP(map), TurnOffHinting, nullptr, nullptr);
-  PangoContext* context = pango_font_map_create_context(map);
-  g_object_unref(map);  // The context holds it.
-  return context;
+/// Returns true if a font has this name among the names of its family. Upper and lower case are the same.
+bool IsOfFamily(FcPattern* font, const std::string& family) {
+  const auto* const wanted = reinterpret_cast<const FcChar8*>(family.c_str());
+  FcChar8* name = nullptr;
+  for (int i = 0; FcPatternGetString(font, FC_FAMILY, i, &name) == FcResultMatch; ++i) {
+    if (FcStrCmpIgnoreCase(name, wanted) == 0) return true;
+  }
+  return false;
 }
 
 struct Release {
@@ -68,6 +54,16 @@ struct FreeGlyphs {
 };
 using Layout = std::unique_ptr<PangoLayout, Release>;
 using Description = std::unique_ptr<PangoFontDescription, FreeDescription>;
+
+/// Returns a context that loads fonts with FreeType. A new map has 72 dots per inch. To set that, or to turn
+/// off hinting, which doesn't change widths that aren't rounded, would make Pango list the families of all
+/// fonts.
+PangoContext* NewFreeTypeContext() {
+  FcInit();  // Pango starts a thread for this. A thread that needs the fonts meanwhile would read them as
+             // well.
+  const std::unique_ptr<PangoFontMap, Release> map(pango_ft2_font_map_new());
+  return pango_font_map_create_context(map.get());
+}
 
 struct FontHash {
   std::size_t operator()(const Font& font) const {
@@ -166,7 +162,8 @@ struct Fonts::State {
     recent = &*found;
     FontEntry& entry = found->second;
     if (!isNew) return entry;
-    const bool installed = !font.family.empty() && IsInstalled(font.family);
+    const bool installed =
+        !font.family.empty() && HasFont([&font](FcPattern* other) { return IsOfFamily(other, font.family); });
     const std::string family = installed ? font.family : std::string(SubstituteFor(font.family));
     entry.description.reset(pango_font_description_new());
     pango_font_description_set_family(entry.description.get(), family.c_str());
@@ -249,10 +246,7 @@ void Fonts::WithGlyphs(std::string_view line, const Font& font,
 }
 
 bool Fonts::HasFonts() const {
-  FcPattern* any = FcPatternCreate();
-  const bool found = IsAnyLike(any);
-  FcPatternDestroy(any);
-  return found;
+  return HasFont([](FcPattern*) { return true; });
 }
 
 }  // namespace plotsmith::render
