@@ -11,6 +11,7 @@ namespace plotsmith::xlsx {
 
 /// The position and size of a shape, in points from the upper left corner of the sheet or the chart.
 struct Frame {
+  /// The left and the upper edge, and the size.
   double left = 0, top = 0, width = 0, height = 0;
 
   /// The right edge.
