@@ -28,10 +28,10 @@ enum class Severity {
 
 /// A problem in a workbook.
 struct Finding {
-  std::string place;  ///< A cell such as "Data1!C5", or a defined name.
-  FindingKind kind;
-  std::string sentence;  ///< The message, with a full stop.
-  Severity severity = Severity::kReports;
+  std::string place;                       ///< A cell such as "Data1!C5", or a defined name.
+  FindingKind kind;                        ///< The kind of the problem, for programs.
+  std::string sentence;                    ///< The message, with a full stop.
+  Severity severity = Severity::kReports;  ///< The effect on a command that writes the workbook.
 };
 
 /// A list of findings.
