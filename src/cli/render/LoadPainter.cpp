@@ -19,7 +19,7 @@ std::future<void> LoadPainterAhead() {
   try {
     return std::async(std::launch::async, load);
   } catch (const std::system_error&) {
-    return {};  // no thread could be created
+    return {};  // No thread could be created.
   }
 }
 

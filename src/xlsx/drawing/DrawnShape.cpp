@@ -102,7 +102,7 @@ void DrawnShape::SetText(std::u16string_view text) {
   TextBody body(Object());
   if (text.size() > limits::kShapeText) throw Refusal("The text is longer than a shape can contain.");
   body.SetText(runtime::ToUtf8(text));
-  text_.reset();  // the body may store a different text, for example other line ends
+  text_.reset();  // The body may store a different text, for example other line ends.
   FitToText();
   MarkChanged();
 }
@@ -177,7 +177,7 @@ void DrawnShape::SetAutoShapeType(std::int32_t type) {
   const pugi::xml_node properties = Properties();
   schema::Remove(properties, "custGeom");
   pugi::xml_node form = schema::Ensure(properties, "prstGeom");
-  form.remove_children();  // the adjustments belong to the old geometry
+  form.remove_children();  // The adjustments belong to the old geometry.
   xml::SetAttribute(form, "prst", *preset);
   schema::Ensure(form, "avLst");
   MarkChanged();
@@ -216,7 +216,7 @@ void DrawnShape::StopFittingToText() {
 void DrawnShape::Delete() {
   Log().Call([this] { return JournalPath(); }, "Delete");
   Object();
-  const auto alive = shared_from_this();  // the drawing may hold the last reference
+  const auto alive = shared_from_this();  // The drawing may hold the last reference.
   RemoveFromDrawing();
 }
 

@@ -125,7 +125,7 @@ std::vector<pugi::xml_node> TextBody::EnsureRunProperties(std::size_t start, std
   const std::size_t size = ForEachRun(paragraphs, [&](pugi::xml_node run, std::size_t from, std::size_t to) {
     if (to <= start || from >= end) return;
     if (from < start) {
-      Cut(run, start - from);  // the next run is inside the part
+      Cut(run, start - from);  // The next run is inside the part.
       if (xml::Is(run, "r")) return;
     }
     if (to > end) Cut(run, end - from);

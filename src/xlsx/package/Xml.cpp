@@ -231,7 +231,7 @@ std::string Serialize(const pugi::xml_document& document) {
     }
   } writer;
   document.save(writer, "", kSave, pugi::encoding_utf8);
-  // a tree may contain half of a surrogate pair, but a file may not
+  // A tree may contain half of a surrogate pair, but a file may not.
   return dom::XmlCharactersOf(writer.bytes);
 }
 
@@ -280,7 +280,7 @@ std::string EncodeText(std::string_view text) { return Encode(text, false); }
 std::string EncodeAttribute(std::string_view text) { return Encode(text, true); }
 
 bool Is(pugi::xml_node node, std::string_view local) {
-  // a single pass over the name, which is faster than to measure it and to search it for the prefix
+  // A single pass over the name is faster than measuring it and searching for the prefix.
   const char* const name = node.name();
   const char* rest = name;
   while (*rest != '\0' && *rest != ':') ++rest;
