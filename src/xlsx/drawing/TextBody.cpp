@@ -61,8 +61,8 @@ std::string BodyText(pugi::xml_node body) {
 }
 
 void SetBodyText(pugi::xml_node body, std::string_view text) {
-  pugi::xml_document dress;  // copies, because the originals are removed
-  const auto keep = [&](pugi::xml_node node) { return node ? dress.append_copy(node) : pugi::xml_node(); };
+  pugi::xml_document kept;  // copies, because the originals are removed
+  const auto keep = [&](pugi::xml_node node) { return node ? kept.append_copy(node) : pugi::xml_node(); };
   const auto keepAs = [&](pugi::xml_node node, const char* name) {
     pugi::xml_node copy = keep(node);
     copy.set_name((std::string(xml::Prefix(node.name())) + name).c_str());

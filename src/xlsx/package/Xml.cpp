@@ -236,8 +236,8 @@ std::string Serialize(const pugi::xml_document& document) {
 }
 
 std::string Decode(std::string_view raw) {
-  const auto isRaw = [](char c) { return c == '&' || c == '\r'; };
-  if (std::none_of(raw.begin(), raw.end(), isRaw)) return std::string(raw);
+  const auto needsDecoding = [](char c) { return c == '&' || c == '\r'; };
+  if (std::none_of(raw.begin(), raw.end(), needsDecoding)) return std::string(raw);
   std::string text;
   text.reserve(raw.size());
   for (std::size_t i = 0; i < raw.size(); ++i) {
