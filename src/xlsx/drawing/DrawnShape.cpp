@@ -23,10 +23,9 @@ using excel::Ref;
 namespace {
 
 constexpr std::int32_t kLine = 9;  // msoLine
-// the default insets of a text box (ECMA-376-1, 21.1.2.1.1): 0.1 and 0.05 inches, in points
+// The default insets of a text box (ECMA-376-1, 21.1.2.1.1), in points. They are 0.1 and 0.05 inches.
 constexpr double kUsualMarginAcross = 7.2, kUsualMarginDown = 3.6;
-// the left and right inset that Excel writes for a box with automatic margins (AutoMargins), in
-// points
+// The left and right inset that Excel writes for a box with automatic margins (AutoMargins), in points.
 constexpr double kAutomaticMargin = 2.16;
 
 std::int32_t TypeOf(pugi::xml_node object) {
@@ -161,7 +160,7 @@ bool DrawnShape::KeepsItsProportions() const {
 void DrawnShape::SetLockAspectRatio(bool value) {
   Log().Put([this] { return JournalPath(); }, "LockAspectRatio", value);
   const pugi::xml_node properties = KindPropertiesOf(Object());
-  // cNvSpPr has spLocks, cNvPicPr has picLocks, and so on
+  // The element cNvSpPr has spLocks, cNvPicPr has picLocks, and so on.
   std::string kind(xml::LocalName(properties));
   if (kind.size() < 6) throw OutOfRange();
   kind = kind.substr(3, kind.size() - 5);

@@ -81,7 +81,7 @@ pugi::xml_node ObjectOf(pugi::xml_node anchor) {
 }
 
 pugi::xml_node IdentityOf(pugi::xml_node object) {
-  // nvSpPr, nvGraphicFramePr, nvPicPr, ...: the first child of each kind of object
+  // The parent is nvSpPr, nvGraphicFramePr, nvPicPr or the like: the first child of each kind of object.
   for (const pugi::xml_node& child : object.children()) {
     if (const auto identity = xml::Child(child, "cNvPr")) return identity;
   }

@@ -168,7 +168,7 @@ TextBody::Extent TextBody::Measure(const Theme& theme, std::optional<double> wid
       }
       const std::string text = xml::Text(xml::Child(run, "t"));
       for (std::string_view rest = text; !rest.empty();) {
-        // a word with the blank after it, which may cross the edge
+        // The blank after a word may cross the edge.
         const std::size_t blank = rest.find(' ');
         const std::string_view word = rest.substr(0, blank);
         if (width && x > 0 && x + TextWidth(word, face) > *width) endLine();
