@@ -134,7 +134,7 @@ TEST_F(DataTableTest, SaysWhatHasNoRoom) {
 }
 
 TEST_F(DataTableTest, LeavesTheTickLabelsWhereItHasNoRoom) {
-  // The columns are too narrow with the names beside them, or even without them.
+  // the columns are too narrow with the names beside them, or even without
   const S name = "A name that takes nearly a third of the width";
   for (const std::size_t count : {55u, 75u, 300u}) {
     S series = SeriesXml(0, std::vector<double>(count, 1));
