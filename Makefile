@@ -55,11 +55,12 @@ fuzz:
 bench:
 	@scripts/bench.sh
 
-# Builds the reference pages in build/docs/html.
+# Builds the reference pages in build/docs/html, and names members without a comment.
 docs:
 	@scripts/install-dependencies.sh doxygen
 	@cmake --preset release
 	@cmake --build build --target docs
+	@scripts/check-comments.sh
 
 clean:
 	@rm -rf build build-debug build-sanitizers build-fuzz build-windows-x64 build-windows-x86 demo

@@ -184,7 +184,7 @@ void PopulateAllCharts() {
 
 void PopulateModifiedCharts(const std::string& sTableRangeName) {
   QuietHost oQuiet;
-  lMethodType = method::kRefresh;  // these charts already exist
+  lMethodType = method::kRefresh;  // These charts already exist.
   RunMacro(kRefreshStartedMacro);
   ReportErrors("PSChartBuilder.PopulateModifiedCharts", [&] {
     oQuiet.Enter();

@@ -21,6 +21,7 @@ ChartNames LoadedCharts();
 
 /// A chart of Plotsmith, with the id and the name in its definition.
 struct DefinedChart {
+  /// The attributes `id` and `name` of the definition.
   std::string id, name;
   excel::Ref<excel::Chart> chart;  ///< The chart; Nothing if no sheet has it.
 };

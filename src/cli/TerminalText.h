@@ -18,9 +18,12 @@ class TerminalText : public std::streambuf {
   TerminalText& operator=(const TerminalText&) = delete;
 
  protected:
+  /// Write text to the buffer that the stream had before.
+  ///@{
   int_type overflow(int_type c) override;
   std::streamsize xsputn(const char* text, std::streamsize size) override;
   int sync() override;
+  ///@}
 
  private:
   bool Write(std::string_view text);

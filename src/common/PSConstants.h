@@ -20,8 +20,11 @@ inline constexpr const char* kDataSheet = "VEX_ChartData";
 /// The columns of a block, from 1: the chart's id in each row, the name of the row's category, and the
 /// series.
 namespace data_column {
+/// The id of the chart.
 inline constexpr std::int32_t kId = 1;
+/// The name of the category.
 inline constexpr std::int32_t kName = 2;
+/// The values of the first series. Other series follow it.
 inline constexpr std::int32_t kFirstSeries = 3;
 }  // namespace data_column
 
@@ -30,8 +33,10 @@ inline constexpr const char* kDeletedTable = "[Deleted]";
 
 /// Macros that a workbook can have. The system calls the first one at the start of a refresh and, with the
 /// id, at the start of each chart. It calls the second one at the end of a refresh.
+///@{
 inline constexpr const char* kRefreshStartedMacro = "VEXEvents.VEXChartRefreshStarted";
 inline constexpr const char* kRefreshCompleteMacro = "VEXEvents.VEXChartRefreshComplete";
+///@}
 
 /// The line break in the texts of shapes and message boxes.
 inline constexpr const char* kLineBreak = "\r\n";
@@ -41,17 +46,25 @@ inline constexpr double kLastClassicVersion = 11.0;
 
 /// The task of a run (`lMethodType`).
 namespace method {
+/// Makes a chart.
 inline constexpr std::int32_t kNew = 0;
+/// Changes the definition of a chart.
 inline constexpr std::int32_t kModify = 1;
+/// Copies a chart and changes the definition of the copy.
 inline constexpr std::int32_t kCopy = 2;
+/// Deletes charts.
 inline constexpr std::int32_t kDelete = 3;
+/// Refreshes charts.
 inline constexpr std::int32_t kRefresh = 4;
 }  // namespace method
 
 /// The kinds of results of `GetCellValue`: the displayed text, the number, or the value as a text.
 namespace cell {
+/// The displayed text.
 inline constexpr std::int32_t kText = 0;
+/// The number, as a Double.
 inline constexpr std::int32_t kDouble = 1;
+/// The value, as a text.
 inline constexpr std::int32_t kString = 2;
 }  // namespace cell
 

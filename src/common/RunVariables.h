@@ -23,8 +23,10 @@ extern runtime::Ref<DocumentCollection> colTables;  ///< The tables by id; Nothi
 extern runtime::Ref<DocumentCollection>
     colCharts;  ///< The definitions by chart id; Nothing until they are loaded.
 /// The charts, and the comment boxes of charts that have one, by chart id.
+///@{
 extern runtime::Ref<runtime::Collection<runtime::Ref<excel::Chart>>> colChartObjects;
 extern runtime::Ref<runtime::Collection<runtime::Ref<excel::Shape>>> colChartShapes;
+///@}
 
 extern dom::IXMLDOMDocument2 oChartDoc;  ///< The definition that is being edited.
 extern std::int32_t

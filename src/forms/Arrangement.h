@@ -10,16 +10,19 @@ namespace plotsmith::forms {
 
 /// The size of a rectangle.
 struct Size {
+  /// The extents in the unit of the view.
   int width = 0, height = 0;
 };
 
 /// A rectangle, relative to the form.
 struct Area {
+  /// The position of the upper left corner, and the extents, in the unit of the view.
   int left = 0, top = 0, width = 0, height = 0;
 };
 
 /// The distances between the edges of a frame and its contents.
 struct Edges {
+  /// The distances in the unit of the view.
   int left = 0, top = 0, right = 0, bottom = 0;
 };
 
@@ -45,8 +48,8 @@ Size LeastSize(const Layout& layout, const Measures& measures);
 
 /// A control with its position and size.
 struct PlacedControl {
-  const Control* control;
-  Area area;
+  const Control* control;  ///< The control, which belongs to the form.
+  Area area;               ///< The position and the size, relative to the form.
 };
 
 /// Computes the areas of all controls of a layout. `area` is at least as large as the minimum size. Extra

@@ -21,6 +21,7 @@ using Event = std::function<void()>;
 
 /// The position and size of a control in points, relative to the corner of its container.
 struct Place {
+  /// The distances from the corner, and the extents.
   double Left = 0, Top = 0, Width = 0, Height = 0;
 };
 

@@ -21,11 +21,11 @@ struct Layout {
     kSpace,    ///< Flexible space.
   };
 
-  Kind kind = Kind::kSpace;
+  Kind kind = Kind::kSpace;          ///< How the part arranges its contents.
   const Control* control = nullptr;  ///< The control of kControl.
-  std::vector<Layout> parts;
-  int columns = 0;     ///< The number of columns of kGrid.
-  int stretch = 0;     ///< The share of the extra space; 0 for none while other parts stretch.
+  std::vector<Layout> parts;         ///< The parts in reading order; for a frame, the part inside.
+  int columns = 0;                   ///< The number of columns of kGrid.
+  int stretch = 0;                   ///< The share of the extra space; 0 for none while other parts stretch.
   int characters = 0;  ///< The minimum width in average characters; 0 for the width of the control.
   int lines = 0;       ///< The minimum height in lines; 0 for the height of the control.
 

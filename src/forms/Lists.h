@@ -40,8 +40,8 @@ class EntryList : public FontControl {
   virtual void ShowEntry(std::int32_t index) { listIndex_ = index; }
   const char* KindText() const override { return "list"; }
 
-  std::vector<std::string> list_;
-  std::int32_t listIndex_ = -1;
+  std::vector<std::string> list_;  ///< The texts of the entries.
+  std::int32_t listIndex_ = -1;    ///< The index of the current entry, from 0; -1 if there is none.
 };
 
 /// Whether the user can type into a combo box.

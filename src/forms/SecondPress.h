@@ -14,7 +14,8 @@ class SecondPress {
   /// A press of a mouse button.
   struct Press {
     std::uint64_t time;  ///< The time of the event in milliseconds.
-    int x, y;            ///< The position on the screen in pixels.
+    /// The position on the screen in pixels.
+    int x, y;
   };
   /// The user's settings for double clicks.
   struct Reach {

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view kIdPrefix = "VEX_Chart";
 
-// points
+// Lengths are in points.
 constexpr double kFrameStep = 20;
 constexpr double kFrameWidth = 420;
 constexpr double kFrameHeight = 345;

@@ -90,9 +90,9 @@ class AxisBoxes {
 
 /// The names of the controls of a number format box. They differ between pages.
 struct NumberFormatNames {
-  const char* sMaskLabel;
-  const char* sMask;
-  const char* sExampleLabel;
+  const char* sMaskLabel;     ///< The label before the box.
+  const char* sMask;          ///< The box for the number format.
+  const char* sExampleLabel;  ///< The label that shows the sample number.
 };
 
 /// The number format of the values, with a sample number in this format.

@@ -17,8 +17,8 @@ class LayoutPage : public Page {
  public:
   bool ValidSelections() final;
 
-  forms::Frame Frame1{*this, "Frame1", nullptr, "1. Chart Title"};
-  forms::TextBox txtTitle{*this, "txtTitle", &Frame1};
+  forms::Frame Frame1{*this, "Frame1", nullptr, "1. Chart Title"};  ///< The frame of the title.
+  forms::TextBox txtTitle{*this, "txtTitle", &Frame1};              ///< The title of the chart.
 
  protected:
   /// Makes a page. `sName` is the name of its form.

@@ -35,9 +35,12 @@ class frmBusyPS final : public forms::Form {
   std::int32_t rMode = 0;  ///< The mode of ExecuteRun.
   std::string sChartID;    ///< The chart of PopulateChart.
 
+  /// The controls in tab order.
+  ///@{
   forms::Label WaitLabel{*this, "WaitLabel", nullptr, "Loading . . ."};
   forms::ProgressBar ProgressBar1{*this, "ProgressBar1", nullptr};
   forms::Timer Timer1{*this, "Timer1", false};
+  ///@}
 
   forms::Layout Layout() const override;
 

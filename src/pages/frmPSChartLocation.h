@@ -19,6 +19,8 @@ class frmPSChartLocation final : public Page {
   explicit frmPSChartLocation(Navigation& oNavigation);
   bool ValidSelections() override;
 
+  /// The controls in tab order.
+  ///@{
   forms::Frame Frame1{*this, "Frame1", nullptr, "Place the chart on"};
   forms::OptionButton optTargetSheet0{*this, "optTargetSheet", 0, &Frame1, "A new worksheet"};
   forms::TextBox txtSheet{*this, "txtSheet", &Frame1};
@@ -27,6 +29,7 @@ class frmPSChartLocation final : public Page {
   forms::Label lblName{*this, "lblName", &Frame1, "Chart Name"};
   forms::TextBox txtName{*this, "txtName", &Frame1};
   WizardButtons Buttons{*this};
+  ///@}
 
   forms::Layout Layout() const override;
 

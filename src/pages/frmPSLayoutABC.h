@@ -18,6 +18,8 @@ class frmPSLayoutABC final : public LayoutPage {
   /// Makes the page. `oNavigation` must outlive it.
   explicit frmPSLayoutABC(Navigation& oNavigation);
 
+  /// The controls in tab order.
+  ///@{
   forms::Frame Frame2{*this, "Frame2", nullptr, "2. Vertical (Y-axis) Shows"};
   forms::OptionButton optCategories1{*this, "optCategories", 1, &Frame2, ""};
   forms::ComboBox cboCategories{*this, "cboCategories", &Frame2, forms::ComboStyle::kDropDownList};
@@ -43,6 +45,7 @@ class frmPSLayoutABC final : public LayoutPage {
   CommentBox Comment{*this, "7. Chart Comments"};
   PictureGroup Pictures;
   WizardButtons Buttons{*this};
+  ///@}
 
   forms::Layout Layout() const override;
 

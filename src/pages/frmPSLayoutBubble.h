@@ -16,6 +16,8 @@ class frmPSLayoutBubble final : public LayoutPage {
   /// Makes the page. `oNavigation` must outlive it.
   explicit frmPSLayoutBubble(Navigation& oNavigation);
 
+  /// The controls in tab order.
+  ///@{
   forms::Frame Frame2{*this, "Frame2", nullptr, "2. Vertical (Y-axis)"};
   forms::ListBox lstYValues{*this, "lstYValues", &Frame2, forms::MultiSelect::kNone};
   forms::Frame Frame4{*this, "Frame4", nullptr, "3. Horizontal (X-axis)"};
@@ -38,6 +40,7 @@ class frmPSLayoutBubble final : public LayoutPage {
   CommentBox Comment{*this, "9. Chart Comments"};
   PictureGroup Pictures;
   WizardButtons Buttons{*this};
+  ///@}
 
   forms::Layout Layout() const override;
 

@@ -15,6 +15,8 @@ class frmPSLayoutPie final : public LayoutPage {
   /// Makes the page. `oNavigation` must outlive it.
   explicit frmPSLayoutPie(Navigation& oNavigation);
 
+  /// The controls in tab order.
+  ///@{
   forms::Frame Frame4{*this, "Frame4", nullptr, "2. Slice Size"};
   forms::ComboBox cboValues{*this, "cboValues", &Frame4, forms::ComboStyle::kDropDownList};
   forms::Frame Frame2{*this, "Frame2", nullptr, "3. A Slice Represents"};
@@ -31,6 +33,7 @@ class frmPSLayoutPie final : public LayoutPage {
   CommentBox Comment{*this, "6. Chart Comments"};
   PictureGroup Pictures;
   WizardButtons Buttons{*this};
+  ///@}
 
   forms::Layout Layout() const override;
 

@@ -20,6 +20,8 @@ class frmPSLayoutStrBuck final : public LayoutPage {
   /// Makes the page. `oNavigation` must outlive it.
   explicit frmPSLayoutStrBuck(Navigation& oNavigation);
 
+  /// The controls in tab order.
+  ///@{
   forms::Frame Frame2{*this, "Frame2", nullptr, "2. Strategic Buckets"};
   forms::ComboBox cboBucketTables{*this, "cboBucketTables", &Frame2, forms::ComboStyle::kDropDownList};
   forms::VSFlexGrid grdBuckets{*this, "grdBuckets", &Frame2, forms::MultiSelect::kNone, 2, 1};
@@ -39,6 +41,7 @@ class frmPSLayoutStrBuck final : public LayoutPage {
   CommentBox Comment{*this, "7. Chart Comments"};
   forms::Image imgStrBuckBasic{*this, "imgStrBuckBasic", nullptr};
   WizardButtons Buttons{*this};
+  ///@}
 
   forms::Layout Layout() const override;
 

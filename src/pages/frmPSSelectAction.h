@@ -14,6 +14,8 @@ class frmPSSelectAction final : public Page {
   /// Makes the page. `oNavigation` must outlive it.
   explicit frmPSSelectAction(Navigation& oNavigation);
 
+  /// The controls in tab order.
+  ///@{
   forms::Frame Frame2{*this, "Frame2", nullptr, "Charts in this Workbook"};
   forms::VSFlexGrid grdCharts{*this, "grdCharts", &Frame2, forms::MultiSelect::kExtended, 4, 1};
   forms::CommandButton cmdNew{*this, "cmdNew", nullptr, "&New..."};
@@ -24,6 +26,7 @@ class frmPSSelectAction final : public Page {
   forms::CommandButton cmdGoToTable{*this, "cmdGoToTable", nullptr, "Go To &Table"};
   forms::CommandButton cmdHelp{*this, "cmdHelp", nullptr, "&Help"};
   forms::CommandButton cmdCancel{*this, "cmdCancel", nullptr, "Cancel"};
+  ///@}
 
   forms::Layout Layout() const override;
 

@@ -28,7 +28,7 @@ constexpr const char* kUnknownType = "unknown";
 constexpr std::array<const char*, 6> kTypes = {"bar", "column", "area", "pie", "bubble", "strategic bucket"};
 constexpr std::size_t kBucketType = 5;
 
-// points
+// Lengths are in points.
 constexpr double kFrameWidth = 320, kFrameHeight = 150, kPictureWidth = 120, kPictureHeight = 90;
 
 }  // namespace

@@ -17,6 +17,8 @@ class frmPSSelectTable final : public Page {
   explicit frmPSSelectTable(Navigation& oNavigation);
   bool ValidSelections() override;
 
+  /// The controls in tab order.
+  ///@{
   forms::Frame fraTableList{*this, "fraTableList", nullptr, "Tables in this Workbook"};
   forms::VSFlexGrid grdTables{*this, "grdTables", &fraTableList, forms::MultiSelect::kNone, 1, 0};
   forms::Frame fraChartType{*this, "fraChartType", nullptr, "Chart Type"};
@@ -29,6 +31,7 @@ class frmPSSelectTable final : public Page {
   PictureGroup Pictures{
       *this, &fraChartType, {"imgBar", "imgColumn", "imgArea", "imgPie", "imgBubble", "imgStrBuck"}};
   WizardButtons Buttons{*this};
+  ///@}
 
   forms::Layout Layout() const override;
 

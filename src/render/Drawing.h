@@ -21,6 +21,7 @@ struct Point {
 
 /// An upright rectangle on a picture, in points.
 struct Rect {
+  /// The left and the upper edge, and the size.
   double left = 0, top = 0, width = 0, height = 0;
 
   /// The X coordinate of the right edge.
@@ -56,12 +57,14 @@ std::string HexOf(const Color& color);
 
 /// A filling of one colour.
 struct SolidFill {
+  /// The colour of the whole area.
   Color color;
 };
 /// A position on a gradient with its colour.
 struct GradientStop {
   /// The position, from 0 (start) to 1 (end).
   double position = 0;
+  /// The colour at the position.
   Color color;
 };
 /// A linear or radial gradient over the bounds of the filled path.
@@ -79,6 +82,7 @@ struct GradientFill {
 struct PatternFill {
   /// The name of the pattern, as a value of ST_PresetPatternVal.
   std::string preset;
+  /// The colours of the pixels that the pattern sets, and of the others.
   Color foreground, background;
 };
 /// A PNG picture, stretched over the bounds of the path or repeated in tiles. Drawings don't contain this
@@ -99,12 +103,15 @@ enum class LineJoin : std::uint8_t { kMiter, kRound, kBevel };
 
 /// The outline of a path.
 struct Stroke {
+  /// The colour of the line and of its dashes.
   Color color;
   /// The width in points. It is 0 if there is no line.
   double width = 0;
   /// The lengths of dash, gap, dash and so on, in points. It is empty for a solid line.
   std::vector<double> dashes;
+  /// The form of the ends of the line, and of each dash.
   LineCap cap = LineCap::kFlat;
+  /// The form of the corners.
   LineJoin join = LineJoin::kRound;
 };
 
@@ -112,6 +119,7 @@ struct Stroke {
 struct PathStep {
   /// The kind of a step: the start of an outline, a line, a cubic curve, or the end of an outline.
   enum class Kind : std::uint8_t { kMove, kLine, kCurve, kClose };
+  /// What the step adds to the path.
   Kind kind = Kind::kMove;
   /// The end of the step, which kClose doesn't use.
   Point to;
@@ -175,6 +183,7 @@ struct Font {
   std::string family;
   /// The size in points.
   double size = 10;
+  /// The styles of the letters. Underlines have the colour of the text.
   bool bold = false, italic = false, underline = false;
 
   bool operator==(const Font&) const = default;
@@ -232,8 +241,11 @@ std::string_view NameOf(Role role);
 /// the number of the axis in the chart part, and `point` the number of the tick. For a part of the legend
 /// they are the series and the point of the entry.
 struct Tag {
+  /// The kind of the element.
   Role role = Role::kOther;
+  /// The number of the series in plot order, from 1, or the number of the axis.
   int series = 0;
+  /// The number of the point, the tick or the category, from 1.
   int point = 0;
 
   bool operator==(const Tag&) const = default;
@@ -241,8 +253,11 @@ struct Tag {
 
 /// A path that is filled, then stroked.
 struct PathItem {
+  /// The outlines, in points.
   Path path;
+  /// The filling inside the outlines.
   Fill fill;
+  /// The line along the outlines, which is painted over the filling.
   Stroke stroke;
 };
 
@@ -250,10 +265,13 @@ struct PathItem {
 struct TextItem {
   /// The text in UTF-8.
   std::string text;
+  /// The font, and its size in points.
   Font font;
+  /// The colour of the letters.
   Color color;
   /// The start, the middle or the end of the baseline, depending on `align`.
   Point anchor;
+  /// The part of the baseline that is at the anchor.
   TextAlign align = TextAlign::kStart;
   /// The rotation about the anchor, in degrees clockwise.
   double rotation = 0;
@@ -266,6 +284,7 @@ struct TextItem {
 
 /// Clips the following items, up to the matching PopClip, to the inside of a path.
 struct PushClip {
+  /// The outlines of the visible area.
   Path path;
 };
 /// Ends the last PushClip.
@@ -273,11 +292,13 @@ struct PopClip {};
 
 /// The shadow of a shape: its area and its line in one colour, with soft edges.
 struct ShadowItem {
+  /// The outlines of the shadow, which include its offset.
   Path path;
   /// Whether the area of the shape throws a shadow.
   bool filled = true;
   /// The width of the line that throws a shadow, in points. It is 0 if there is none.
   double lineWidth = 0;
+  /// The colour and the opacity of the shadow.
   Color color;
   /// The standard deviation of the soft edge, in points.
   double blur = 0;
@@ -287,12 +308,15 @@ struct ShadowItem {
 struct ImageItem {
   /// The bytes of the PNG file.
   std::string bytes;
+  /// The position of the whole picture, in points.
   Rect place;
 };
 
 /// A part of a picture.
 struct Item {
+  /// The element of the chart or sheet that the item shows.
   Tag tag;
+  /// What is painted, or which clip begins or ends.
   std::variant<PathItem, TextItem, PushClip, PopClip, ImageItem, ShadowItem> content;
 };
 

@@ -6,6 +6,7 @@ namespace plotsmith::render {
 
 /// The outer shadow of a shape (a:outerShdw).
 struct Shadow {
+  /// The colour and the opacity of the shadow.
   Color color;
   /// The standard deviation of the soft edge, in points.
   double blur = 0;

@@ -8,6 +8,7 @@ namespace plotsmith::render {
 
 /// The size of one line of text, in points.
 struct TextExtent {
+  /// The advance of the text, which can differ from the extent of its ink.
   double width = 0;
   /// The ascent and the descent of the font, which are the same for all texts.
   double ascent = 0, descent = 0;

@@ -17,6 +17,7 @@ class Workbook;
 /// be used after it has been destroyed.
 class Application : public excel::Application, public std::enable_shared_from_this<Application> {
  public:
+  /// A macro of the workbook. `arguments` are those of Run after the name.
   using Macro = std::function<void(const std::vector<runtime::Variant>& arguments)>;
 
   /// `version` is the result of Version, such as "16.0".
@@ -49,6 +50,7 @@ class Application : public excel::Application, public std::enable_shared_from_th
   /// In Excel this is the font of new workbooks. In this host it is the font of the workbook's Normal style.
   std::string StandardFont() override;
   double StandardFontSize() override;
+  /// Runs the macro with that name. Raises error 1004 if there is none.
   void Run(std::string_view macro, const std::vector<runtime::Variant>& arguments) override;
 
  private:

@@ -25,18 +25,20 @@ struct BorderLine {
 
 /// The format of a cell, except its number format.
 struct CellLook {
+  /// The horizontal alignment.
   HorizontalAlignment horizontal = HorizontalAlignment::kGeneral;
+  /// The vertical alignment.
   VerticalAlignment vertical = VerticalAlignment::kBottom;
   int indent = 0;     ///< The indent in steps of three blanks.
   bool wrap = false;  ///< Whether a long text continues on the next line of the cell.
+  /// The styles of the letters.
   bool bold = false, italic = false, underline = false, strike = false;
   std::string font;  ///< The name of the font.
   double size = 11;  ///< The size of the font in points.
   /// The colours as red + 256 * green + 65536 * blue. They are absent for the default colours of the window.
-  /// @{
   std::optional<std::int32_t> textColor, fillColor;
-  ///@}
 
+  /// The lines at the edges. Neighbouring cells may both have a line at the common edge.
   BorderLine left, top, right, bottom;
 
   bool operator==(const CellLook&) const = default;

@@ -14,8 +14,8 @@ excel::Ref<excel::Range> MakeRange(std::shared_ptr<Worksheet> sheet, const CellR
 
 /// The sheet and the cells of a range.
 struct SheetCells {
-  Worksheet& sheet;
-  CellRange cells;
+  Worksheet& sheet;  ///< The sheet, which must outlive this object.
+  CellRange cells;   ///< The cells, with numbers of rows and columns from 1.
 };
 /// Returns the sheet and the cells of a range. Raises error 13 if another host made the range.
 SheetCells CellsOf(const excel::Range& range);

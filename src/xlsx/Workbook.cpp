@@ -121,7 +121,7 @@ Ref<excel::Chart> Workbook::ChartOf(const SheetEntry& sheet) {
     if (!chart) return nullptr;
     return std::make_shared<xlsx::Chart>(charts_.At(chart->target), std::weak_ptr<DrawnShape>());
   } catch (const PackageError&) {
-    return nullptr;  // a chart sheet that can't be read shows no chart
+    return nullptr;  // A chart sheet that can't be read shows no chart.
   }
 }
 

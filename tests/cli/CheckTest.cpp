@@ -429,6 +429,28 @@ TEST_F(CheckTest, DatesAreNumbersToAChart) {
       << "without the error it would still be a label column";
 }
 
+TEST_F(CheckTest, JsonNamesTheEffectOnAWrite) {
+  const auto severities = [this](const PlainBook& book) {
+    List names;
+    const auto json = nlohmann::ordered_json::parse(Check(book, {"--json"}).out);
+    for (const auto& definition : json["definitions"]) {
+      for (const auto& finding : definition["findings"]) names.push_back(finding["severity"]);
+    }
+    return names;
+  };
+  PlainBook book = SalesBook({{"VEX_Chart1", "column", "table-id=\"Gone\""}});
+  EXPECT_EQ(severities(book), List{"reports"});
+  book = SalesBook({{"VEX_Chart1"}});
+  book.Sheet("Charts").frames.clear();
+  EXPECT_EQ(severities(book), List{"refuses"});
+  book.sheets.push_back({"VEX_ChartData", {{S("VEX_Chart1")}}, 3});
+  EXPECT_EQ(severities(book), List{"removes"});
+  book = SalesBook({{"VEX_Chart1"}});
+  book.sheets.pop_back();
+  book.AddDefinitions({"", Definition{"VEX_Chart1"}.Xml()});
+  EXPECT_EQ(severities(book), List{"blocks-edits"});
+}
+
 TEST_F(CheckTest, JsonHasTheSameContent) {
   PlainBook book = SalesBook({{"VEX_Chart1", "column", "table-id=\"Gone\""}});
   book.Sheet("Data1").rows[1][3] = RawCell{kFormula};

@@ -1,6 +1,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <nlohmann/json.hpp>
 #include <vector>
 
 #include "runtime/Strings.h"
@@ -205,6 +206,8 @@ TEST_F(RunCheckTest, ChangesOfDefinitionsAndOfChartsAreDistinguished) {
                          "definition; the next refresh keeps the one on the chart.\n"),
             S::npos)
       << checked;
+  const auto json = nlohmann::json::parse(RunCommand({"check", path_, "--json"}).out);
+  EXPECT_EQ(json["definitions"][0]["findings"][0]["severity"], "keeps-chart");
   EXPECT_EQ(
       RunCommand({"refresh", path_, "--table", "Data2", "-o", folder_ / "other.xlsx"}).err,
       kept + "plotsmith: no chart of \"" + path_ + "\" uses the table \"Data2\", so nothing was refreshed.\n")

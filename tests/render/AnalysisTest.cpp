@@ -75,7 +75,7 @@ TEST_F(AnalysisTest, ErrorBarsReachAsFarAsTheirAmounts) {
       {"one custom amount for all",
        ErrorBarsXml("cust", "0", AmountsXml("plus", {1}) + AmountsXml("minus", {2})),
        {{3, 0}, {5, 2}, {7, 4}}},
-      // the mean is 4, the standard deviation of the sample 2
+      // The mean is 4, and the standard deviation of the sample is 2.
       {"standard deviation about the mean", ErrorBarsXml("stdDev", "1"), {{6, 2}, {6, 2}, {6, 2}}},
       {"standard error",
        ErrorBarsXml("stdErr", "1"),
@@ -183,7 +183,7 @@ TEST_F(AnalysisTest, CurvesAreFoundByLeastSquares) {
   for (const auto& test : kCases) {
     const auto curve = FitTrend(test.kind, test.order, test.intercept, test.points.first, test.points.second);
     ASSERT_TRUE(curve) << test.equation;
-    // what rounding leaves of a power that isn't there counts as none
+    // A coefficient that only rounding leaves counts as zero.
     const auto format = [](double number) { return render::EquationNumber(std::round(number * 1e7) / 1e7); };
     S equation = EquationOf(*curve, format);
     for (const char* none :
@@ -209,7 +209,7 @@ TEST_F(AnalysisTest, NoCurveIsFoundWithoutEnoughPoints) {
       {TrendKind::kPolynomial, 4, {1, 2, 3, 4}, {1, 2, 3, 4}},
       {TrendKind::kExponential, 1, {1, 2}, {-1, 0}},
       {TrendKind::kPower, 1, {0, -1}, {1, 2}},
-      // one point without a logarithm is enough
+      // One point without a logarithm is enough.
       {TrendKind::kExponential, 1, {1, 2, 3}, {1, 2, 0}},
       {TrendKind::kPower, 1, {1, 2, 3}, {1, -2, 3}},
       {TrendKind::kPower, 1, {0, 2, 3}, {1, 2, 3}},
@@ -340,7 +340,7 @@ TEST_F(AnalysisTest, DatesGoOnForTrendlines) {
 }
 
 TEST_F(AnalysisTest, AxesHaveRoomOnlyForWhatIsSeen) {
-  // a line can't go back beyond the first category, and its end there needs no negative values
+  // A line can't begin before the first category, and its end there needs no negative values.
   const Drawing drawing = DrawColumns({10, 20, 30}, TrendXml("linear", "<c:backward val=\"9\"/>"), "");
   EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2).front(), "0");
 }

@@ -169,7 +169,7 @@ TEST_F(AxesTest, CategoriesOfSeveralLevelsHaveARowForEach) {
     labels.pop_back();
     EXPECT_EQ(labels, test.labels) << test.what;
     if (test.value.empty()) {
-      // a group's text is in the middle of its bars, farther out than their own labels
+      // The text of a group is in the middle of its bars, farther out than their labels.
       const auto boxes = BoxesOf(drawing, Role::kTickLabel, 1), bars = BoxesOf(drawing, Role::kBar);
       const Rect pair = Union(bars[0], bars[1]);
       EXPECT_NEAR(test.horizontal ? boxes[4].Center().y : boxes[4].Center().x,

@@ -48,7 +48,7 @@ TEST_F(DataTableTest, HasACellBelowEachValue) {
       EXPECT_NEAR(heads[i].Center().x, middle, 1e-6);
       EXPECT_TRUE(bars[i].left < middle + plot.width / 4 && bars[i].Right() > middle - plot.width / 4);
     }
-    // rows follow each other from top to bottom
+    // Rows follow each other from top to bottom.
     EXPECT_LT(heads[0].Center().y, texts[0].Center().y);
     EXPECT_LT(texts[0].Center().y, BoxesOf(drawing, Role::kTableText, 2)[0].Center().y);
     EXPECT_LE(table.Bottom(), 270);

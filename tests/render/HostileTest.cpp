@@ -165,7 +165,7 @@ TEST_F(DrawingTest, ColumnsThinnerThanPixelsAreFewPathsOfTheirColours) {
   EXPECT_LT(steps, 40'000u);  // 400,000 if each bar is drawn by itself
   const Rect plot = BoxOf(drawing, Role::kPlotArea), bars = BoxOf(drawing, Role::kBar);
   EXPECT_NEAR(bars.width, plot.width, 1);
-  // the last series is in front, in its colour and in the colour of points below zero
+  // The last series is in front, in its colour and in the colour of points below zero.
   const auto front = ItemsOf(drawing, Role::kBar, 40);
   ASSERT_GT(front.size(), 1u);
   EXPECT_NE(FillOf(front[0]), FillOf(front[1]));

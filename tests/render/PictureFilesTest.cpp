@@ -251,7 +251,7 @@ TEST_F(PictureFilesTest, PlainTextsAreAsWideAsOthers) {
       EXPECT_EQ(width(text, font), width(text + kZeroWidth, font)) << font.family << ": " << text;
     }
   }
-  // letters move together
+  // Letters move together.
   const render::Font calibri{"Calibri", 10};
   EXPECT_LT(width("AV", calibri), width("A", calibri) + width("V", calibri));
 }

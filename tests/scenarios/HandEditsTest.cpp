@@ -206,10 +206,10 @@ TEST_F(HandEditsTest, TheMarksOfBucketsKeepTheFontOfTheirLabels) {
   EditChart([&](S& xml) {
     const auto marks = xml.rfind(labels);
     ASSERT_NE(marks, S::npos);
-    S dressed = xml.substr(marks);
-    ReplaceSpan(dressed, "<a:defRPr", "</a:pPr>",
+    S formatted = xml.substr(marks);
+    ReplaceSpan(formatted, "<a:defRPr", "</a:pPr>",
                 "<a:defRPr sz=\"1400\" b=\"0\" i=\"1\">" + kRed + georgia + "</a:defRPr>");
-    xml = xml.substr(0, marks) + dressed;
+    xml = xml.substr(0, marks) + formatted;
   });
   for (int i = 0; i < 2; ++i) {
     Refresh();

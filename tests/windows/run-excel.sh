@@ -66,8 +66,8 @@ type_of_chart "strategic bucket" --title "Amounts and targets" --categories Prod
   --bucket-table VEX_SB_Targets --labels names --new-sheet Buckets
 
 # This chart can't be drawn any more, because the user has deleted headings.
-run_script "$(windows_path tests/windows/spoil.js)" "$(windows_path "$work/books/column.xlsx")" \
-  "$(windows_path "$work/books")\\spoiled.xlsx" Data1 1 2 >"$work/printed.txt"
+run_script "$(windows_path tests/windows/rename-heading.js)" "$(windows_path "$work/books/column.xlsx")" \
+  "$(windows_path "$work/books")\\renamed.xlsx" Data1 1 2 >"$work/printed.txt"
 [ "$(cat "$work/printed.txt")" = '$B$1 Something else' ] || fails "$(cat "$work/printed.txt")" "a cell of a script"
 
 for book in "$work"/books/*.xlsx; do

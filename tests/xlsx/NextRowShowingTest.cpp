@@ -26,7 +26,7 @@ TEST_F(HostTest, ASearchForATextSkipsRowsWithOtherTexts) {
   const std::vector<runtime::Variant> values = {"b", "b", "a", "a", "b", 7, "ab", "A", "a", "b"};
   for (std::size_t i = 0; i < values.size(); ++i)
     sheet->SetCellValueAt(static_cast<std::int32_t>(i) + 1, 1, values[i]);
-  // the search begins at row 1, and visits all cells that aren't plain texts
+  // The search begins at row 1, and visits all cells that aren't plain texts.
   EXPECT_EQ(Walk(*sheet, "a"), "1 3 4 6 9 11 ");
   EXPECT_EQ(Walk(*sheet, "none"), "1 6 11 ");
   sheet->Rows(4)->Insert();

@@ -83,7 +83,7 @@ bool BuildStrBuckMap(const IXMLDOMElement& oChartElement) {
 
     const DataRows oRows(oChartElement);
     const auto oSheet = SheetWithCells(GetAttributeText(oChartElement, "table-worksheet"));
-    std::int32_t lItemColumn = 0;  // column 0 has no cells: without categories no value has a row
+    std::int32_t lItemColumn = 0;  // Column 0 has no cells. Without categories no value has a row.
     if (const auto oCategories = oChartElement.selectSingleNode("categories")) {
       lItemColumn = FirstColumn(oCategories);
       NumberItems(oChartElement, oRows, *oSheet, lItemColumn, oItems);

@@ -12,8 +12,11 @@ namespace plotsmith {
 
 /// The series columns of a strategic bucket chart's block on the data sheet.
 namespace bucket_column {
+/// The texts of the categories.
 inline constexpr std::int32_t kLabel = data_column::kFirstSeries;
+/// The sort keys.
 inline constexpr std::int32_t kSort = kLabel + 1;
+/// The first of the buckets, which take the columns from here.
 inline constexpr std::int32_t kFirstBucket = kLabel + 2;
 }  // namespace bucket_column
 

@@ -19,8 +19,8 @@ struct BookRun {
 
 /// The result of a run.
 struct BookResult {
-  int code = 0;  ///< The exit code.
-  RefreshCounts counts;
+  int code = 0;          ///< The exit code.
+  RefreshCounts counts;  ///< The numbers of charts by their outcome.
 };
 
 /// Returns the runs for the workbooks of a command line. A workbook that is named twice has one run. With

@@ -19,10 +19,12 @@ struct TableArea {
   /// Returns the row of the headings.
   std::int32_t HeadingRow() const { return firstRow - 1; }
 
+  /// The name of the sheet.
   std::string sheet;
+  /// The first column of the table.
   std::int32_t leftColumn = 0;
-  std::int32_t firstRow = 0,
-               lastRow = 0;  ///< The data rows. lastRow is less than firstRow if there are none.
+  /// The first and the last data row. `lastRow` is less than `firstRow` if there are none.
+  std::int32_t firstRow = 0, lastRow = 0;
 };
 
 /// The contents of a column. A row of 0 means that there is no such cell.
@@ -40,7 +42,8 @@ struct ColumnCells {
   std::int32_t firstError = 0;  ///< The row of the first error value.
   std::int32_t firstText = 0;   ///< The row of the first text that isn't a number.
   bool hasDates = false;        ///< Whether the column contains dates.
-  std::string error, text;      ///< The displayed texts of the first error value and of the first text.
+  /// The displayed texts of the first error value and of the first text.
+  std::string error, text;
 };
 
 /// Returns the column with the name, ignoring case as charts do, or Nothing.

@@ -63,7 +63,7 @@ class RowCheck {
     definition.findings.insert(
         definition.findings.begin(),
         {definition.place, FindingKind::kUnread, "This definition is never read, because " + reason + ".",
-         Severity::kConfuses});
+         Severity::kBlocksEdits});
   }
 
   /// Checks the first row, which is reserved for the version text.
@@ -176,7 +176,7 @@ Findings CheckStrayCharts(xlsx::Workbook& book, const std::vector<CheckedDefinit
   };
   Findings findings;
   const auto report = [&](const std::string& sheet, const std::string& sentence) {
-    findings.push_back({xlsx::QuotedSheetName(sheet), FindingKind::kChart, sentence, Severity::kConfuses});
+    findings.push_back({xlsx::QuotedSheetName(sheet), FindingKind::kChart, sentence, Severity::kBlocksEdits});
   };
   for (const auto& [id, sheets] : ChartMarkers(book).SheetsByText()) {
     if (ChartNumber(id).empty()) continue;

@@ -19,7 +19,7 @@ struct CheckedDefinition {
   std::string chartSheet;          ///< The sheet of the chart; empty if there is none.
   std::string chartPart;           ///< The part of the chart with the id; empty if there is none.
   dom::IXMLDOMDocument2 document;  ///< The document in the row; Nothing if it isn't a definition.
-  Findings findings;
+  Findings findings;               ///< The problems of the row; empty if there are none.
 
   /// Returns true if a load removes the row.
   bool IsLost() const;

@@ -46,10 +46,10 @@ const char* SeverityName(Severity severity) {
   switch (severity) {
     case Severity::kReports:
       return "reports";
-    case Severity::kKeeps:
-      return "keeps";
-    case Severity::kConfuses:
-      return "confuses";
+    case Severity::kKeepsChart:
+      return "keeps-chart";
+    case Severity::kBlocksEdits:
+      return "blocks-edits";
     case Severity::kRemoves:
       return "removes";
     case Severity::kRefuses:
@@ -62,9 +62,9 @@ std::string SentenceBeforeRun(const Finding& finding) {
   switch (finding.severity) {
     case Severity::kReports:
       break;
-    case Severity::kKeeps:
+    case Severity::kKeepsChart:
       return With(finding.sentence, "the next refresh keeps the one on the chart");
-    case Severity::kConfuses:
+    case Severity::kBlocksEdits:
       return With(finding.sentence,
                   "until this is corrected, charts are only made, changed or deleted with --drop-broken");
     case Severity::kRemoves:
@@ -80,9 +80,9 @@ std::string SentenceBeforeRun(const Finding& finding) {
 std::string SentenceAfterRun(const Finding& finding) {
   switch (finding.severity) {
     case Severity::kReports:
-    case Severity::kConfuses:
+    case Severity::kBlocksEdits:
       break;
-    case Severity::kKeeps:
+    case Severity::kKeepsChart:
       return With(finding.sentence, "the one on the chart was kept");
     case Severity::kRemoves:
       return With(finding.sentence,

@@ -19,19 +19,19 @@ enum class FindingKind {
 
 /// The effect of a finding on a command that writes the workbook.
 enum class Severity {
-  kReports,   ///< It prints the sentence and continues.
-  kKeeps,     ///< It keeps the chart's setting instead of the definition's, and reports that.
-  kConfuses,  ///< It prints the sentence; making, changing or deleting charts needs --drop-broken.
-  kRemoves,   ///< It removes the definition of a drawn chart that no longer exists, and reports that.
-  kRefuses    ///< It would lose the definition, and writes nothing without --drop-broken.
+  kReports,      ///< It prints the sentence and continues.
+  kKeepsChart,   ///< It keeps the chart's setting instead of the definition's, and reports that.
+  kBlocksEdits,  ///< It prints the sentence; making, changing or deleting charts needs --drop-broken.
+  kRemoves,      ///< It removes the definition of a drawn chart that no longer exists, and reports that.
+  kRefuses       ///< It would lose the definition, and writes nothing without --drop-broken.
 };
 
 /// A problem in a workbook.
 struct Finding {
-  std::string place;  ///< A cell such as "Data1!C5", or a defined name.
-  FindingKind kind;
-  std::string sentence;  ///< The message, with a full stop.
-  Severity severity = Severity::kReports;
+  std::string place;                       ///< A cell such as "Data1!C5", or a defined name.
+  FindingKind kind;                        ///< The kind of the problem, for programs.
+  std::string sentence;                    ///< The message, with a full stop.
+  Severity severity = Severity::kReports;  ///< The effect on a command that writes the workbook.
 };
 
 /// A list of findings.

@@ -143,7 +143,7 @@ Findings Differences(const IXMLDOMElement& stored, const IXMLDOMElement& read, c
   Findings findings;
   for (const Aspect& aspect : Aspects(stored, read, axisTitles)) {
     if (!aspect.stored || aspect.inDefinition == aspect.onChart) continue;
-    findings.push_back({place, FindingKind::kChart, Sentence(aspect), Severity::kKeeps});
+    findings.push_back({place, FindingKind::kChart, Sentence(aspect), Severity::kKeepsChart});
   }
   return findings;
 }

@@ -47,7 +47,7 @@ RunRefusals RunCheck::Refusals() const {
   RunRefusals refusals;
   const auto refuses = [&](const Finding& finding) {
     return finding.severity == Severity::kRefuses ||
-           (finding.severity == Severity::kConfuses && definitions_ == DefinitionsAre::kEdited);
+           (finding.severity == Severity::kBlocksEdits && definitions_ == DefinitionsAre::kEdited);
   };
   for (const CheckedDefinition& row : rows_) {
     for (const Finding& finding : row.findings) {

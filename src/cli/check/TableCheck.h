@@ -12,7 +12,7 @@ namespace plotsmith::cli {
 struct CheckedTable {
   std::string id;             ///< The table id.
   dom::IXMLDOMElement table;  ///< Nothing for a name that defines no table.
-  Findings findings;
+  Findings findings;          ///< The problems of the table; empty if there are none.
 };
 
 /// Checks the cells of the columns that the definition `chart` uses, in the tables in `colTables`, for

@@ -14,8 +14,8 @@ namespace plotsmith::cli {
 struct CommandLine {
   CommandLine();
 
-  CLI::App app;
-  GlobalOptions options;
+  CLI::App app;                                    ///< The parser, with the declarations of all verbs.
+  GlobalOptions options;                           ///< The options that apply to all verbs.
   std::vector<std::unique_ptr<Command>> commands;  ///< The verbs.
   std::vector<CLI::App*> verbs;                    ///< The declaration of each of `commands`.
 };

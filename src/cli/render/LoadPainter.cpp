@@ -23,7 +23,7 @@ std::future<void> LoadMeasureAhead(PictureFormat format) {
   try {
     return std::async(std::launch::async, load);
   } catch (const std::system_error&) {
-    return {};  // no thread could be created
+    return {};  // No thread could be created.
   }
 }
 

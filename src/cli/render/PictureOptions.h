@@ -17,9 +17,9 @@ const char* EndingOf(PictureFormat format);
 
 /// The picture options of the command line. Options that weren't given are absent.
 struct PictureOptions {
-  std::optional<std::string> format;
-  std::optional<double> dpi;
-  std::optional<double> scale;
+  std::optional<std::string> format;  ///< "svg", "png" or "pdf", in any case.
+  std::optional<double> dpi;          ///< The pixels per inch of a PNG picture.
+  std::optional<double> scale;        ///< The factor by which the picture is enlarged.
 
   /// Returns true if any of the options was given.
   bool AreGiven() const { return format || dpi || scale; }

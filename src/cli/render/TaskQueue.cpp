@@ -34,7 +34,7 @@ TaskQueue::~TaskQueue() {
 void TaskQueue::Add(Task task) {
   std::unique_lock lock(mutex_);
   waiting_.push_back({given_++, std::move(task)});
-  if (given_ == 1) return;  // one task isn't worth a thread
+  if (given_ == 1) return;  // One task isn't worth a thread.
   if (given_ == 2) Start();
   changed_.notify_all();
   WorkUntilThereAre(threads_.empty() ? 0 : kMostWaiting, lock);
@@ -44,7 +44,7 @@ void TaskQueue::Start() {
   try {
     for (std::size_t i = ThreadsFor(order_); i > 0; --i) threads_.emplace_back([this] { Work(); });
   } catch (const std::system_error&) {
-    // the tasks run on fewer threads, or on the caller's
+    // The tasks run on fewer threads, or on the caller's.
   }
 }
 

@@ -17,18 +17,18 @@ struct NamedControl {
 /// The names of the controls of a layout page, for the options of the command. A null pointer means that the
 /// page doesn't have the control. Titles, comments and the boxes of axes have the same names on all pages.
 struct LayoutControls {
-  const char* categories = nullptr;
-  const char* series = nullptr;
+  const char* categories = nullptr;  ///< The list of label columns for categories, slices, bubbles or blocks.
+  const char* series = nullptr;      ///< The list of label columns for series.
   bool hasColumns =
       false;  ///< Whether number columns can be the categories or the series (optCategories, optSeries).
-  const char* values = nullptr;
-  const char* xValues = nullptr;
-  const char* sizes = nullptr;
-  const char* bucketTables = nullptr;
-  const char* sortBy = nullptr;
-  const char* numberFormat = nullptr;
-  bool hasAxes = false;
-  std::vector<NamedControl> labels;
+  const char* values = nullptr;        ///< The list of number columns for values, or for Y values.
+  const char* xValues = nullptr;       ///< The list of number columns for X values.
+  const char* sizes = nullptr;         ///< The list of number columns for bubble sizes.
+  const char* bucketTables = nullptr;  ///< The list of bucket tables.
+  const char* sortBy = nullptr;        ///< The list of number columns that sort blocks.
+  const char* numberFormat = nullptr;  ///< The box for the number format.
+  bool hasAxes = false;                ///< Whether the page has boxes for the titles of axes.
+  std::vector<NamedControl> labels;    ///< The control for each value of `--labels`.
   std::vector<NamedControl> settings;  ///< The settings, in the order in which one enables the next.
 };
 

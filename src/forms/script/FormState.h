@@ -39,8 +39,8 @@ struct ControlState {
 
 /// The visible state of a form.
 struct FormState {
-  std::string name;
-  std::string caption;
+  std::string name;                    ///< The name of the form, such as "frmPSSelectTable".
+  std::string caption;                 ///< The title of its window.
   std::vector<ControlState> controls;  ///< The controls in tab order.
 };
 

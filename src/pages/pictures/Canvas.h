@@ -9,10 +9,13 @@ namespace plotsmith::pictures {
 
 /// A rectangle, given by its edges.
 struct Rectangle {
+  /// The edges in points. The Y axis points downwards.
+  ///@{
   double dLeft = 0;
   double dTop = 0;
   double dRight = 0;
   double dBottom = 0;
+  ///@}
 };
 
 /// Returns a mix of two colours: the first one for a share of 0, the second one for a share of 1.

@@ -19,9 +19,9 @@ enum class Look { kFlat, k3D };
 
 /// The area between the axes.
 struct Plot {
-  Rectangle oArea;  ///< The area; the front face in 3-D.
-  Point oDepth;     ///< The vector from the front to the back wall; (0, 0) in a flat chart.
-  Values eValues = Values::kUpwards;
+  Rectangle oArea;                    ///< The area; the front face in 3-D.
+  Point oDepth;                       ///< The vector from the front to the back wall; (0, 0) in a flat chart.
+  Values eValues = Values::kUpwards;  ///< The direction in which values grow.
 
   /// Returns the position of a share of the category axis and a share of the value axis, each from 0 to 1, on
   /// the front.
@@ -32,8 +32,8 @@ struct Plot {
 
 /// An empty card, and the area for the chart on it.
 struct Stage {
-  Canvas oCanvas;
-  Rectangle oArea;
+  Canvas oCanvas;   ///< The canvas with the empty card.
+  Rectangle oArea;  ///< The area for the chart, in points.
 };
 
 /// Makes the card of a sample on a layout page.

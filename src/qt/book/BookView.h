@@ -49,8 +49,11 @@ class BookView : public QWidget {
   SheetView* ShownSheet();
 
  protected:
+  /// Turn to another sheet by Ctrl+Page Up and Ctrl+Page Down, and adapt the tabs to a change of colours.
+  ///@{
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
+  ///@}
 
  private:
   /// A sheet with a tab.

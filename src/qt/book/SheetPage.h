@@ -36,6 +36,7 @@ class ChartSheetPage final : public QWidget, public SheetPage {
   void Refresh() override;
 
  protected:
+  /// Paints the chart, fitted to the page.
   void paintEvent(QPaintEvent* event) override;
 
  private:

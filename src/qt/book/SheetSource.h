@@ -26,8 +26,8 @@ namespace plotsmith::qtbook {
 
 /// A cell as the window shows it.
 struct ShownCell {
-  excel::CellValue::Kind kind = excel::CellValue::Kind::kEmpty;
-  double number = 0;        ///< The value of a number.
+  excel::CellValue::Kind kind = excel::CellValue::Kind::kEmpty;  ///< The kind of the value.
+  double number = 0;                                             ///< The value of a number.
   bool general = false;     ///< Whether it is a number in the General format.
   std::uint32_t style = 0;  ///< The style for SheetSource::LookOf.
   QString text;             ///< The displayed text, as in Range.Text.
@@ -38,8 +38,8 @@ struct ShownCell {
 
 /// A shape on a sheet.
 struct ShownFrame {
-  QRectF place;  ///< The position in points from the sheet's corner.
-  bool isChart = false;
+  QRectF place;                 ///< The position in points from the sheet's corner.
+  bool isChart = false;         ///< Whether the shape is a chart, which `chart` returns.
   std::string alternativeText;  ///< The alternative text, which is the id of a chart of Plotsmith.
   QString label;                ///< The name of the shape, or the text of a text box.
   /// Returns the chart, or Nothing if it was deleted or the shape isn't a chart.

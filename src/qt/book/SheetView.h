@@ -63,6 +63,8 @@ class SheetView : public QAbstractScrollArea, public SheetPage {
   SheetSource& Source() { return source_; }
 
  protected:
+  /// Paint the cells, scroll them, and handle the keyboard and the mouse.
+  ///@{
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
@@ -71,6 +73,7 @@ class SheetView : public QAbstractScrollArea, public SheetPage {
   void wheelEvent(QWheelEvent* event) override;
   void changeEvent(QEvent* event) override;
   bool viewportEvent(QEvent* event) override;
+  ///@}
 
  private:
   /// A part of the viewport that scrolls as a unit: all cells, or up to four parts with frozen rows and

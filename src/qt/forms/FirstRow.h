@@ -15,6 +15,7 @@ class FromFirstRow : public Base {
   using Base::Base;
 
  protected:
+  /// Selects the first row if a cursor key is pressed while nothing is selected.
   void keyPressEvent(QKeyEvent* event) override {
     constexpr std::array kKeys = {Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Home};
     const bool isCursor = std::find(kKeys.begin(), kKeys.end(), event->key()) != kKeys.end();

@@ -32,9 +32,11 @@ class FormWindow final : public QWidget {
   QWidget* WidgetOf(const forms::Control& control) const;
 
  protected:
+  /// Tells the form that the user closes the window, which stays open until the form closes it.
   void closeEvent(QCloseEvent* event) override;
   /// Handles keys while none of the controls has the focus.
   void keyPressEvent(QKeyEvent* event) override;
+  /// Reports the focus of the widgets and some of their keys to the form.
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:

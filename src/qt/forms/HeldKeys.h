@@ -18,6 +18,7 @@ class HeldKeys final : public QObject {
   HeldKeys();
 
  protected:
+  /// Discards the repetitions.
   bool eventFilter(QObject* object, QEvent* event) override;
 };
 

@@ -26,6 +26,7 @@ class FindBar final : public QWidget {
   void FindPrevious();
 
  protected:
+  /// Finds the next occurrence if Enter is pressed, and the previous one if Shift is held.
   void keyPressEvent(QKeyEvent* event) override;
 
  private:

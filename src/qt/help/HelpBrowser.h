@@ -17,7 +17,9 @@ class HelpBrowser final : public QTextBrowser {
   static QUrl AddressOfUnknownTopic(std::int32_t number);
 
  protected:
+  /// Loads a page or a picture. A missing page is replaced by a sentence that says so.
   QVariant loadResource(int type, const QUrl& name) override;
+  /// Adapts the pages to a change of colours.
   void changeEvent(QEvent* event) override;
 
  private:

@@ -10,9 +10,9 @@ namespace plotsmith::qt {
 /// A help page, from its row in topics.tsv.
 struct HelpTopic {
   std::optional<std::int32_t>
-      number;    ///< The number with which a page of the wizard opens it; absent for other pages.
-  QString file;  ///< The file name, such as "topic1-select-action.html".
-  QString title;
+      number;     ///< The number with which a page of the wizard opens it; absent for other pages.
+  QString file;   ///< The file name, such as "topic1-select-action.html".
+  QString title;  ///< The title of the page.
 };
 
 /// Reads the list of help pages in a folder, in reading order. The first page lists all others. The list is

@@ -35,9 +35,12 @@ class PreviewWindow final : public QWidget {
   std::function<void()> Resized = [] {};
 
  protected:
+  /// Paint the preview, report a new size, and record that the user closed the window.
+  ///@{
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  ///@}
 
  private:
   /// Moves the window to the side of the page with more space. Returns false if there isn't enough.

@@ -58,7 +58,7 @@ void WriteAll(int file, const QByteArray& bytes) {
 /// windows and files belong to the original process.
 [[noreturn]] void WorkInCopy(const PreviewWorker::Work& work, int output) {
   alarm(kLongest);
-  if (nice(kNiceness) == -1) errno = 0;  // on failure, the priority stays normal
+  if (nice(kNiceness) == -1) errno = 0;  // If this fails, the priority stays normal.
   try {
     WriteAll(output, Packed(work()));
   } catch (const std::exception&) {

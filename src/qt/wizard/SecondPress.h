@@ -15,6 +15,7 @@ class SecondPress final : public QObject {
   explicit SecondPress(QWidget& window);
 
  protected:
+  /// Discards the second press.
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:

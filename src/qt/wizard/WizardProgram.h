@@ -16,10 +16,10 @@ namespace plotsmith::qt {
 
 /// The arguments of the wizard.
 struct WizardOptions {
-  std::string book;
+  std::string book;  ///< The path of the workbook.
   std::optional<std::string>
       output;  ///< The output file; if absent, the user is asked when there is something to save.
-  cli::GlobalOptions global;
+  cli::GlobalOptions global;  ///< The options that apply to all verbs of the command.
 };
 
 /// The wizard on one workbook: its window, the pages in front of it, and saving. The file is written only

@@ -41,6 +41,7 @@ class WizardWindow final : public QMainWindow {
   std::function<void()> HelpAsked = [] {};
 
  protected:
+  /// Calls CloseAsked, or ends the question that the bar shows. The window stays open.
   void closeEvent(QCloseEvent* event) override;
 
  private:

@@ -20,9 +20,12 @@ struct TickLabel {
 struct LevelLabels {
   /// A group of categories with its text.
   struct Group {
+    /// The categories, by their indices from 0.
     CategoryGroup group;
+    /// The text of the group, broken into lines.
     TextBlock block;
   };
+  /// The groups in the order of their categories.
   std::vector<Group> groups;
   double from = 0;   ///< The distance of the level from the gap beside the axis, in points.
   double depth = 0;  ///< The extent of the level across the axis, in points.
@@ -31,6 +34,7 @@ struct LevelLabels {
 /// The labels along an axis. Some are left out, or all are wrapped or rotated, so that no label touches the
 /// next one.
 struct TickLabels {
+  /// The labels that are drawn, in the order of their numbers.
   std::vector<TickLabel> labels;
   double rotation = 0;   ///< The rotation in degrees clockwise.
   double depth = 0;      ///< The extent across the axis without the gap, in points.

@@ -123,7 +123,7 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
 
 void DrawPlot(Plot& plot, const ChartLayout& layout) {
   const ChartModel& chart = plot.chart;
-  if (chart.groups.empty()) return;  // a chart without data shows nothing of its plot area
+  if (chart.groups.empty()) return;  // A chart without data shows nothing of its plot area.
   AddFrame(plot.canvas, {Role::kPlotArea}, plot.area, chart.plotArea);
   for (const AxisModel& axis : chart.axes) DrawGridlines(plot.canvas, chart, axis, plot.area);
   for (const GroupModel& group : chart.groups) DrawGroup(plot, group);

@@ -24,8 +24,11 @@ class UndrawnChart {
   /// Adds a sentence to `notes` about everything that isn't drawn. Raises error 1004 if the chart can't be
   /// read.
   UndrawnChart(xlsx::ChartPart& part, double width, double height, Notes& notes);
+  /// Moves the chart. The other object can then only be assigned to or destroyed.
+  ///@{
   UndrawnChart(UndrawnChart&&) noexcept;
   UndrawnChart& operator=(UndrawnChart&&) noexcept;
+  ///@}
   ~UndrawnChart();
 
   /// Returns true if drawing reads other parts of the workbook: pictures, or shapes on the chart. Such a

@@ -5,7 +5,8 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr std::size_t kMostPoints = 200;  // of all series; a screen reader would read more for too long
+// The points of all series together. A screen reader would read more for too long.
+constexpr std::size_t kMostPoints = 200;
 
 const char* NameOf(const GroupModel& group) {
   switch (group.family) {

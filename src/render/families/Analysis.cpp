@@ -50,7 +50,7 @@ void ErrorBarPainter::DrawBar(const BarPoint& point, const ErrorBars& bars) {
     upright = !upright;
   } else {
     const double whole = wholes_.empty() ? 1 : wholes_[point.index];
-    const double unit = whole > 0 ? 1 / whole : 0;  // a whole of zero has no shares
+    const double unit = whole > 0 ? 1 / whole : 0;  // A whole of zero has no shares.
     low = map.OfValue(point.value + from * unit);
     high = map.OfValue(point.value + to * unit);
   }

@@ -164,7 +164,7 @@ void DrawLines(Plot& plot, const GroupModel& group) {
   }
   DrawUpDownBars(plot, group, extents);
   ErrorBarPainter bars(plot, group);
-  std::vector<double> pile(group.PointCount());  // a blank in a stack is drawn on the series below it
+  std::vector<double> pile(group.PointCount());  // A blank in a stack is drawn on the series below it.
   for (std::size_t s = 0; s < group.series.size(); ++s) {
     const SeriesModel& series = group.series[s];
     std::vector<LinePoint> points;

@@ -6,6 +6,7 @@ namespace plotsmith::render {
 
 /// The line from the first to the last position of a linear gradient.
 struct GradientLine {
+  /// The points of the positions 0 and 1, on the picture.
   Point from, to;
 };
 /// Returns the line of a linear gradient over `bounds`. Its positions 0 and 1 are at the corners that are

@@ -129,7 +129,7 @@ bool CrossesCircle(const Rect& circle, Point from, Point to) {
     const double share = static_cast<double>(i) / kSamples;
     const double x = from.x + (to.x - from.x) * share - middle.x;
     const double y = from.y + (to.y - from.y) * share - middle.y;
-    constexpr double kInside = 0.99;  // of the radius
+    constexpr double kInside = 0.99;  // share of the radius
     if (std::hypot(x / (circle.width / 2), y / (circle.height / 2)) < kInside) return true;
   }
   return false;

@@ -13,7 +13,8 @@ struct PlacedLabel {
   const DrawnPoint* point = nullptr;  ///< The point.
   const LabelModel* label = nullptr;  ///< What the label shows.
   TextBlock block;                    ///< The text, broken into lines.
-  double keyRoom = 0;                 ///< The space for a legend key before the text, in points.
+  /// The space for a legend key before the text, in points.
+  double keyRoom = 0;
   /// Half of the size of the label, in points.
   double halfWidth = 0, halfHeight = 0;
   Point center;          ///< The middle of the label.

@@ -19,9 +19,10 @@ using xlsx::kTitleShare;
 
 namespace {
 
-constexpr double kDeepestLabels = 0.4;  // of the chart that the labels of one axis may take
-constexpr double kMostOverhang = 0.2;   // of the chart's width that a slanted label may push the plot area by
-constexpr double kEdgeMargin = 2;       // that labels keep to the chart's edge
+constexpr double kDeepestLabels = 0.4;  // share of the chart that the labels of one axis may take
+// The share of the chart's width by which a slanted label may push the plot area.
+constexpr double kMostOverhang = 0.2;
+constexpr double kEdgeMargin = 2;  // points between the labels and the chart's edge
 
 double& RoomAt(Edges& edges, Side side) {
   switch (side) {
@@ -165,7 +166,7 @@ class Layouter {
       const Rect before = layout_.plot;
       layout_.plot = KeepLeast(Without(layout_.outer, rooms_), bounds_, layout_.outer);
       if (inner) layout_.plot = KeepLeast(Applied(*chart_.layout, bounds_, layout_.plot), bounds_, bounds_);
-      if (pass > 0 && layout_.plot == before) return;  // the labels would be the same
+      if (pass > 0 && layout_.plot == before) return;  // The labels would be the same.
       SetTickLabels();
     }
   }
@@ -202,7 +203,7 @@ class Layouter {
       rooms_.left = std::max(rooms_.left, layout_.table->NamesWidth());
       rooms_.bottom = std::max(rooms_.bottom, layout_.table->Height());
     }
-    // what sticks out at the ends of an axis may use the inset, but not leave the chart
+    // A label may extend into the inset beyond the ends of an axis, but not beyond the chart.
     const auto widen = [](double& room, double wanted, double available) {
       room = std::max(room, wanted - std::max(available - kEdgeMargin, 0.0));
     };
@@ -221,7 +222,7 @@ class Layouter {
       const bool slanted = !axis.IsUpright() && std::abs(turn) > 0.05 && std::abs(turn) < 0.99;
       const double along = axis.IsUpright() ? label->block.TurnedHeight() : label->block.TurnedWidth();
       const double start = slanted ? (turn < 0 ? along : 0) : along / 2;
-      // a slanted label is rather shortened than the plot area made small for it
+      // A slanted label pushes the plot area up to this limit. A longer one is shortened.
       const double most = slanted ? kMostOverhang * bounds_.width : kUnlimited;
       before = std::max(before, std::min(start - place, most));
       behind = std::max(behind, std::min(along - start - (length - place), most));
@@ -247,7 +248,7 @@ class Layouter {
       for (TickLabel& label : labels.labels) {
         const double along = label.category ? map.OfSlot(label.place) : map.OfValue(label.place);
         const double free = endsHere ? along - bounds_.left : bounds_.Right() - along;
-        // half of the height of a slanted line sticks out beside its end
+        // Half of the height of a slanted line extends beyond its end.
         const double corner = label.block.height / 2 * std::abs(std::sin(angle));
         Shorten(label.block, (free - kEdgeMargin - corner) / std::abs(std::cos(angle)), measure_);
       }

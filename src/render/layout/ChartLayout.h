@@ -13,20 +13,26 @@ namespace plotsmith::render {
 
 /// A title with its position.
 struct PlacedTitle {
+  /// The text, broken into lines.
   TextBlock block;
   Rect box;  ///< The rectangle of the text with its padding.
 };
 
 /// The elements beside an axis. Title and display units are absent if the axis has none.
 struct AxisLayout {
+  /// The tick labels.
   TickLabels labels;
+  /// The title of the axis, and the label of its display units.
   std::optional<PlacedTitle> title, units;
 };
 
 /// The positions of the elements of a chart. Title, legend and data table are absent if the chart has none.
 struct ChartLayout {
+  /// The title, within the chart area.
   std::optional<PlacedTitle> title;
+  /// The legend, with the positions of its entries.
   std::optional<LegendLayout> legend;
+  /// The data table below the plot area.
   std::optional<TableLayout> table;
   std::vector<AxisLayout> axes;  ///< One for each axis of the chart.
   Rect outer;                    ///< The plot area with its tick labels.

@@ -14,10 +14,10 @@ namespace {
 
 constexpr double kPadding = 2;         // points between a text and the edges of its cell
 constexpr double kKeyWidth = 18;       // points of a legend key with the gap behind it
-constexpr double kRowSpacing = 1.2;    // of the height of a line
-constexpr double kMostHeight = 0.5;    // of the chart
-constexpr double kMostOfNames = 0.3;   // of the chart's width
-constexpr std::size_t kMostLines = 3;  // of a category
+constexpr double kRowSpacing = 1.2;    // height of a row in line heights
+constexpr double kMostHeight = 0.5;    // share of the chart's height
+constexpr double kMostOfNames = 0.3;   // share of the chart's width
+constexpr std::size_t kMostLines = 3;  // lines of a category
 constexpr std::size_t kMostCells = 20'000;
 
 std::vector<const SeriesModel*> SeriesOf(const ChartModel& chart) {

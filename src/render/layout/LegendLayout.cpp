@@ -11,7 +11,7 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kPadding = 4;          // between the frame and its entries
+constexpr double kPadding = 4;          // points between the frame and its entries
 constexpr double kSquareEms = 0.55;     // edge of a key with a filling
 constexpr double kLineKeyEms = 2.0;     // length of a key with a line
 constexpr double kKeyGapEms = 0.4;      // between a key and its text
@@ -19,7 +19,7 @@ constexpr double kEntryGapEms = 0.9;    // between entries side by side
 constexpr double kRowGapEms = 0.12;     // between rows
 constexpr double kColumnGapEms = 0.35;  // on both sides of a column of entries
 constexpr double kMostShare = 0.45;     // share of the chart's width or height that a legend may take
-constexpr double kGap = 5;              // between the legend and the plot area
+constexpr double kGap = 5;              // points between the legend and the plot area
 
 constexpr double kDust = 1e-6;  // points that rounding may add
 

@@ -22,6 +22,7 @@ struct ErrorBars {
   /// The ends of the bar of each point, as distances from the value of the point. NaN is a point without a
   /// bar.
   std::vector<double> from, to;
+  /// The line of the bars and of their caps.
   Stroke stroke;
 };
 

@@ -19,7 +19,7 @@ namespace {
 constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
 constexpr Stroke kThinLine = {Color{0, 0, 0, 1}, 0.75};
 constexpr long long kLongestPeriod = 255;  // points of a moving average
-constexpr double kMostFittedPoints = 4e6;  // by all trendlines of a chart
+constexpr double kMostFittedPoints = 4e6;  // points that all trendlines of a chart use
 
 void AddOnce(Notes& notes, const std::string& sentence) {
   if (std::find(notes.begin(), notes.end(), sentence) == notes.end()) notes.push_back(sentence);
@@ -101,7 +101,7 @@ ErrorBars ReadErrorBars(ReadingContext& context, pugi::xml_node node, const Seri
     if (kind == "percentage") up = std::abs(numbers[i]) * amount / 100;
     if (kind == "stdErr") up = spread.error;
     if (kind == "stdDev") {
-      // bars of the standard deviation are about the mean, not about the points
+      // Bars of the standard deviation have the mean as their middle, not the points.
       up = spread.deviation * amount;
       middle = spread.mean - numbers[i];
     }

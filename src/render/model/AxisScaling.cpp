@@ -24,8 +24,8 @@ void AddGroup(const GroupModel& group, bool isX, xlsx::DataExtent& extent) {
 
 /// Corrects a scale that can't be drawn, which hostile files and extreme data can give.
 void MakeSound(AxisModel& axis) {
-  constexpr double kFarthest = 8e307;  // so that the difference of maximum and minimum is finite
-  constexpr double kMostSteps = 1e9;   // more ticks wouldn't be exact
+  constexpr double kFarthest = 8e307;  // a limit that keeps the difference of maximum and minimum finite
+  constexpr double kMostSteps = 1e9;   // the number of steps up to which ticks are exact
   xlsx::AxisScale& scale = axis.scale;
   if (axis.logBase && !(scale.minimum > 0)) scale.minimum = scale.maximum > 1 ? 1 : scale.maximum / 10;
   if (axis.logBase && !(scale.minimum > 0)) scale = {1, *axis.logBase, *axis.logBase};
@@ -72,7 +72,7 @@ void CoarsenScale(AxisModel& axis) {
 }
 
 void ScaleAxes(ChartModel& chart) {
-  // what is seen of trendlines along X values decides which values they need
+  // The visible part of a trendline along X values decides which values it needs.
   for (const bool ofX : {true, false}) {
     for (int i = 0; i < static_cast<int>(chart.axes.size()); ++i) {
       const bool hasX = std::any_of(chart.groups.begin(), chart.groups.end(), [&](const GroupModel& group) {

@@ -18,7 +18,7 @@ const LabelModel* LabelsModel::Of(std::size_t point) const {
 }
 
 std::optional<std::pair<double, double>> SeenPart(const Trendline& line, const AxisModel* axis) {
-  constexpr double kNearZero = 1e-3;  // of the far end
+  constexpr double kNearZero = 1e-3;  // share of the far end
   double from = line.from, to = line.to;
   if (axis != nullptr) {
     const auto [first, last] = axis->EndsOfX();

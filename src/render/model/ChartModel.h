@@ -25,7 +25,9 @@ namespace plotsmith::render {
 
 /// The filling, the outline and the shadow of an element.
 struct ShapeStyle {
+  /// The filling. It is std::monostate if there is none.
   Fill fill;
+  /// The outline, whose width is 0 if there is none.
   Stroke stroke;
   /// The outer shadow. It is absent if the element has none.
   std::optional<Shadow> shadow = {};
@@ -48,7 +50,9 @@ struct ManualLayout {
 
 /// The title of a chart or of an axis, or the label of display units.
 struct TitleModel {
+  /// The text, with a paragraph for each line.
   RichText text;
+  /// The look of the box around the text.
   ShapeStyle style;
   /// The layout that a person set. It is absent if the layout is automatic.
   std::optional<ManualLayout> layout;
@@ -61,8 +65,9 @@ using FormatPointer = std::shared_ptr<const xlsx::NumberFormat>;
 
 /// What the data label of a point shows, and how it looks.
 struct LabelModel {
-  /// The parts of the text, and the legend key.
+  /// The parts of the text.
   bool showsValue = false, showsPercent = false, showsCategory = false, showsSeries = false;
+  /// The size of the bubble as a part of the text, and the legend key before the text.
   bool showsBubbleSize = false, showsKey = false;
   /// The text between two parts. If it is absent, the text is ", ".
   std::optional<std::string> separator;
@@ -70,7 +75,9 @@ struct LabelModel {
   std::string position;
   /// The format of the value, or of the percentage if there is no value. Null is the format of the data.
   FormatPointer format;
+  /// The format of the automatic text.
   TextStyle text;
+  /// The look of the box around the text.
   ShapeStyle style;
   /// The text that a person typed, which replaces all other parts. It is empty if there is none.
   RichText own;
@@ -90,6 +97,7 @@ struct LabelsModel {
   std::set<std::size_t> deleted;
   /// Whether lines connect labels that were moved with their points.
   bool leaderLines = false;
+  /// The look of leader lines.
   Stroke leaderStroke;
 
   /// Returns the label of a point by its index, from 0, or null if the point has none.
@@ -102,11 +110,13 @@ struct MarkerModel {
   std::string symbol;
   /// The edge length of the square around the marker, in points.
   double size = 7;
+  /// The look of the symbol.
   ShapeStyle style;
 };
 
 /// The look of a point that differs from its series.
 struct PointModel {
+  /// The look of the bar, the slice, the bubble, or the line that ends at the point.
   ShapeStyle style;
   /// The marker. It is absent if the point has the marker of the series.
   std::optional<MarkerModel> marker;
@@ -119,9 +129,11 @@ struct PointModel {
 
 /// A trendline of a series (c:trendline).
 struct Trendline {
+  /// The kind of the curve.
   TrendKind kind = TrendKind::kLinear;
   /// The number of points in a moving average.
   std::size_t period = 2;
+  /// The name, as the legend shows it.
   std::string name;
   /// The extensions beyond the last and the first point, in X units.
   double forward = 0, backward = 0;
@@ -133,9 +145,11 @@ struct Trendline {
   double from = 0, to = 0;
   /// The X values and the values of a moving average.
   std::vector<Point> points;
+  /// The look of the line.
   ShapeStyle style;
   /// The equation and R squared. It is empty if the trendline has no label.
   RichText label;
+  /// The look of the box around the label.
   ShapeStyle labelStyle;
   /// The layout that a person set for the label. It is absent if the layout is automatic.
   std::optional<ManualLayout> labelLayout;
@@ -153,6 +167,7 @@ struct SeriesModel {
   pugi::xml_node node;
   /// The number in plot order, from 1.
   int number = 1;
+  /// The name, as the legend shows it.
   std::string name;
   /// The values of the points. NaN is a point without a value.
   std::vector<double> values;
@@ -164,6 +179,7 @@ struct SeriesModel {
   FormatPointer valueFormat, sizeFormat;
   /// The style of bars, areas, bubbles and slices. Lines have its stroke.
   ShapeStyle style;
+  /// The marker of all points that have none of their own.
   MarkerModel marker;
   /// Whether the line is a smooth curve.
   bool smooth = false;
@@ -180,8 +196,11 @@ struct SeriesModel {
   std::vector<PointModel> palette;
   /// The looks of points that differ from the series, by index from 0.
   std::map<std::size_t, PointModel> points;
+  /// The data labels of the series and of its points.
   LabelsModel labels;
+  /// The error bars, at most one entry for each direction.
   std::vector<ErrorBars> errorBars;
+  /// The trendlines, in the order of the file.
   std::vector<Trendline> trendlines;
 
   /// Returns the style of a point by its index, from 0.
@@ -207,6 +226,7 @@ struct UpDownBars {
 struct CategoryGroup {
   /// The index of the first category, from 0, and the index after the last one.
   std::size_t first = 0, end = 0;
+  /// The text that the categories have in common.
   std::string text;
 };
 /// The groups of an outer level of categories, in their order.
@@ -241,8 +261,11 @@ struct SurfaceBand {
 struct GroupModel {
   /// The element, such as c:barChart.
   pugi::xml_node node;
+  /// The family of charts, which decides how the series are drawn.
   Family family = Family::kBar;
+  /// How the series share a category.
   Grouping grouping = Grouping::kStandard;
+  /// Whether the group is drawn in 3-D.
   bool is3D = false;
   /// Whether bars are horizontal.
   bool horizontal = false;
@@ -275,6 +298,7 @@ struct GroupModel {
   bool isContour = false;
   /// The bands of a surface, from the lowest to the highest.
   std::vector<SurfaceBand> bands;
+  /// The series in plot order.
   std::vector<SeriesModel> series;
   /// The texts of the tick labels, at least one for each point.
   std::vector<std::string> categories;
@@ -319,6 +343,7 @@ struct AxisModel {
   pugi::xml_node node;
   /// The number in the chart part, from 1.
   int number = 1;
+  /// What the axis shows: categories, dates, values or series.
   AxisKind kind = AxisKind::kCategory;
   /// The side of the plot area that the file gives. It decides whether the axis is vertical.
   Side side = Side::kBottom;
@@ -342,6 +367,7 @@ struct AxisModel {
   std::string tickLabels = "nextTo";
   /// The tick marks, as values of ST_TickMark.
   std::string majorTicks = "out", minorTicks = "none";
+  /// The line of the axis and of its tick marks.
   Stroke line;
   /// The gridlines. They are absent if the axis has none.
   std::optional<Stroke> majorGridlines, minorGridlines;
@@ -360,6 +386,7 @@ struct AxisModel {
   bool crossesBetween = true;
   /// The numbers of categories from one label to the next and from one tick mark to the next. 0 is automatic.
   long long labelSkip = 0, tickSkip = 1;
+  /// The display units of a value axis.
   DisplayUnits units;
   /// The categories of the group with the most categories.
   std::vector<std::string> categories;
@@ -380,7 +407,9 @@ struct AxisModel {
 
 /// An entry of the legend.
 struct LegendEntry {
+  /// The name of a series, or the text of a category, a band or a trendline.
   std::string text;
+  /// The format of the text.
   TextStyle style;
   /// The number of the series and of the point, from 1. The point is 0 in the entry of a series.
   int series = 0, point = 0;
@@ -397,8 +426,11 @@ struct LegendModel {
   bool overlay = false;
   /// The layout that a person set. It is absent if the layout is automatic.
   std::optional<ManualLayout> layout;
+  /// The look of the box around the entries.
   ShapeStyle style;
+  /// The format of all entries that have none of their own.
   TextStyle text;
+  /// The entries, in the order in which they are shown.
   std::vector<LegendEntry> entries;
 
   /// Returns true if the legend is above or below the plot area, with its entries side by side.
@@ -417,17 +449,23 @@ struct DataTable {
   std::string tickLabels;
   /// AxisModel::crossesBetween of the axis if the table can't be drawn.
   bool crossesBetween = false;
+  /// The lines of the table.
   Stroke stroke;
+  /// The format of all texts in the table.
   TextStyle text;
 };
 
 /// A chart. Title, legend and data table are absent if the chart has none.
 struct ChartModel {
+  /// The look of the background of the chart, and of the rectangle between the axes.
   ShapeStyle chartArea, plotArea;
   /// Whether the corners of the chart area are rounded.
   bool roundedCorners = false;
+  /// The title, with the automatic text if the file gives none.
   std::optional<TitleModel> title;
+  /// The legend, without the entries that the file deletes.
   std::optional<LegendModel> legend;
+  /// The table of the values.
   std::optional<DataTable> table;
   /// The layout of the plot area. It is absent if the layout is automatic.
   std::optional<ManualLayout> layout;

@@ -18,8 +18,11 @@ inline constexpr std::size_t kMostLegendEntries = 2000;
 
 /// The common state of the functions that read a chart.
 struct ReadingContext {
+  /// The chart part, which is only read.
   xlsx::ChartPart& part;
+  /// Gets a sentence for each setting that isn't drawn.
   Notes& notes;
+  /// The automatic looks of elements without a format.
   AutomaticStyles styles;
   /// The formats that were parsed so far, by their codes.
   std::map<std::string, FormatPointer> formats = {};

@@ -42,7 +42,7 @@ void ReadDataTable(ReadingContext& context, pugi::xml_node plotArea, ChartModel&
   table.keys = schema::BooleanVal(node, "showKeys", false);
   table.stroke = ReadStroke(context.part, xml::Child(node, "spPr", "ln"), context.styles.AxisLine());
   table.text = ReadTextStyle(context.part, node, xlsx::TextRole::kOther);
-  // its first row takes the place of the labels, and each value is in the middle of its column
+  // The first row of the table replaces the labels, and each value is in the middle of its column.
   AxisModel& categories = chart.axes[static_cast<std::size_t>(axis)];
   table.tickLabels = categories.tickLabels;
   table.crossesBetween = categories.crossesBetween;

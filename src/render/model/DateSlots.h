@@ -22,6 +22,7 @@ struct DateSlots {
   std::vector<double> positions;
   /// The distance between two labels in units of `majorBase`. 0 is automatic.
   double majorUnit = 0;
+  /// The unit of `majorUnit`.
   TimeUnit majorBase = TimeUnit::kDays;
 };
 

@@ -16,7 +16,7 @@ constexpr std::size_t kMostBands = 60;
 
 /// The limits of bands: the major units of an axis and its ends; of very many, some.
 std::vector<double> LimitsOf(const AxisModel& axis) {
-  constexpr double kDust = 1e-9;  // of a unit
+  constexpr double kDust = 1e-9;  // share of a unit
   const auto& [minimum, maximum, unit] = axis.scale;
   std::vector<double> limits = {minimum};
   if (axis.logBase) {
@@ -57,7 +57,7 @@ void ReadSurfaces(ReadingContext& context, ChartModel& chart) {
     group.wireframe = schema::BooleanVal(group.node, "wireframe", false);
     group.isContour = xml::Is(group.node, "surfaceChart");
     AxisModel& axis = chart.axes[static_cast<std::size_t>(group.value)];
-    axis.settings.majorUnit = axis.scale.majorUnit;  // the bands are made by it
+    axis.settings.majorUnit = axis.scale.majorUnit;  // The bands have this unit as their height.
     ReadBands(context, LimitsOf(axis), group);
   }
 }

@@ -114,7 +114,7 @@ double TrendCurve::At(double x) const {
 }
 
 std::vector<double> TrendCurve::Factors() const {
-  // from the highest power on, the polynomial so far is multiplied by (u - center) / scale
+  // From the highest power on, the polynomial is multiplied by (u - center) / scale.
   std::vector<double> factors;
   for (std::size_t k = coefficients_.size(); k-- > 0;) {
     std::vector<double> next(factors.size() + 1);
@@ -139,7 +139,7 @@ std::optional<TrendCurve> FitTrend(TrendKind kind, std::size_t order, std::optio
   const Terms terms = TermsOf(kind, x, y);
   if (terms.u.size() < order + (intercept ? 0 : 1) || terms.u.empty()) return std::nullopt;
   const auto [least, most] = std::minmax_element(terms.u.begin(), terms.u.end());
-  // numbers about zero that are not larger than one keep the equations well apart
+  // With numbers from -1 to 1, the equations differ enough to be solved.
   const double center = intercept ? 0 : *least / 2 + *most / 2;
   const double scale = intercept ? std::max(std::abs(*least), std::abs(*most)) : *most / 2 - *least / 2;
   if (!(scale > 0)) return std::nullopt;
@@ -162,7 +162,7 @@ std::optional<TrendCurve> FitTrend(TrendKind kind, std::size_t order, std::optio
 }
 
 std::string EquationNumber(double number) {
-  constexpr double kLeast = 1e-4, kMost = 999'999.5;  // what is rounded to seven digits has an exponent
+  constexpr double kLeast = 1e-4, kMost = 999'999.5;  // Other numbers are written with an exponent.
   constexpr int kDigits = 5;
   if (!std::isfinite(number)) return "?";
   const double size = std::abs(number);

@@ -9,7 +9,7 @@ namespace plotsmith::render {
 
 /// The outline of a shape.
 struct ShapeForm {
-  Path path;
+  Path path;          ///< The outline, in points on the picture.
   bool open = false;  ///< Whether the shape is a line, which has no filling.
 };
 

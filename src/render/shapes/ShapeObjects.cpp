@@ -66,7 +66,7 @@ StyleOfShape ReadStyleOfShape(const Palette& palette, pugi::xml_node object) {
     if (const auto color = ReadColor(palette, fill)) automatic.shape.fill = SolidFill{*color};
   }
   if (const auto line = reference("lnRef"); indexOf(line) > 0) {
-    // widths of the lines of Office's themes, in points
+    // The widths of the lines of Office's themes, in points.
     constexpr std::array kWidths = {0.75, 2.0, 3.0};
     const auto color = ReadColor(palette, line);
     const auto index = static_cast<std::size_t>(std::min<long long>(indexOf(line), kWidths.size()) - 1);

@@ -21,8 +21,8 @@ namespace plotsmith::render {
 
 /// The contents of a cell.
 struct PrintedCell {
-  excel::CellValue::Kind kind = excel::CellValue::Kind::kEmpty;
-  double number = 0;        ///< The value of a number or a date.
+  excel::CellValue::Kind kind = excel::CellValue::Kind::kEmpty;  ///< The kind of the value.
+  double number = 0;                                             ///< The value of a number or a date.
   bool general = false;     ///< Whether it is a number in the format General.
   std::uint32_t style = 0;  ///< The style for SheetReader::LookOf.
   std::string text;         ///< The displayed text, as in Range.Text.

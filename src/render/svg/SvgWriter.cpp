@@ -255,7 +255,7 @@ class Writer {
 
  private:
   const Font usual_;
-  const double width_, height_;  // of the drawing
+  const double width_, height_;  // size of the drawing in points
   SvgDefinitions definitions_{kPrefixLeftOpen};
   std::string body_;
   int groups_ = 0;

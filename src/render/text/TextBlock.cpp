@@ -42,7 +42,7 @@ std::vector<Word> WordsOf(const std::vector<TextRun>& runs, const TextMeasure& m
 /// Returns a measured line. Neighbouring runs of the same look are joined.
 TextLine Finished(std::vector<TextRun> runs, const TextMeasure& measure) {
   TextLine line;
-  if (runs.size() == 1) line.runs.swap(runs);  // there is nothing to join
+  if (runs.size() == 1) line.runs.swap(runs);  // There is nothing to join.
   for (TextRun& run : runs) {
     const bool same =
         !line.runs.empty() && line.runs.back().font == run.font && line.runs.back().color == run.color;

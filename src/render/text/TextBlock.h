@@ -15,8 +15,11 @@ inline constexpr double kUnlimited = std::numeric_limits<double>::infinity();
 
 /// A line of a text block. Sizes are in points.
 struct TextLine {
+  /// The parts of the line, from left to right.
   std::vector<TextRun> runs;
-  std::vector<double> widths;  ///< The widths of the runs.
+  /// The widths of the runs.
+  std::vector<double> widths;
+  /// The width of all runs, and the greatest ascent and descent.
   double width = 0, ascent = 0, descent = 0;
 
   /// The height of the line.
@@ -25,9 +28,11 @@ struct TextLine {
 
 /// A text that is broken into lines. It is rotated about its centre.
 struct TextBlock {
+  /// The lines from top to bottom.
   std::vector<TextLine> lines;
-  double width = 0, height = 0;  ///< The size in points before the rotation.
-  double rotation = 0;           ///< The rotation in degrees clockwise.
+  /// The size in points before the rotation.
+  double width = 0, height = 0;
+  double rotation = 0;  ///< The rotation in degrees clockwise.
 
   /// The width of the smallest upright rectangle around the rotated block, in points.
   double TurnedWidth() const;

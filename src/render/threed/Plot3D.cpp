@@ -29,7 +29,7 @@ const GroupModel* FindGroup(const ChartModel& chart) {
 /// box, so the projection is found in steps.
 Projection FitWithLabels(const Stage& stage, const StageAxes& axes, const View& view, const Rect& area) {
   const auto shapeFor = [&](const Rect& room) {
-    // a contour chart fills its room as a flat chart does
+    // A contour chart fills its space like a flat chart.
     if (stage.Group().isContour) return BoxShape{room.height / std::max(room.width, 1e-3)};
     return stage.Shape(view);
   };

@@ -13,6 +13,7 @@ namespace plotsmith::render {
 /// A position in the box of a chart in 3-D. The origin is the front bottom left corner of the box before it
 /// is rotated. X grows to the right, Y upwards and Z to the back.
 struct Point3 {
+  /// The distances from the origin, in the unit of the box.
   double x = 0, y = 0, z = 0;
 
   bool operator==(const Point3&) const = default;
@@ -20,6 +21,7 @@ struct Point3 {
 
 /// The size of the box, in a unit that the projection chooses.
 struct Box {
+  /// The extents along X, Y and Z.
   double width = 1, height = 1, depth = 1;
 };
 

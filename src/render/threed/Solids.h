@@ -12,8 +12,11 @@ namespace plotsmith::render {
 /// The format of a body and the element that it shows. The front face has the role of the tag; the other
 /// faces have kSide.
 struct Look {
+  /// The element that the faces show.
   Tag tag;
+  /// The filling of a face in full light. Other faces are darker.
   Fill fill;
+  /// The line along all edges.
   Stroke stroke;
 };
 
@@ -33,6 +36,7 @@ std::vector<Face> BlockFaces(const Point3& from, const Point3& to);
 enum class BarForm : std::uint8_t { kBox, kCylinder, kCone, kPyramid };
 /// The form of bars, and the position of the tip.
 struct BarShape {
+  /// The form of the body.
   BarForm form = BarForm::kBox;
   /// Whether the tip is at the greatest value of the chart, and the form is cut off at the value of the bar
   /// ("coneToMax").

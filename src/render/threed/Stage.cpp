@@ -85,7 +85,7 @@ Span Stage::Depth(std::size_t series) const {
   double place = DepthSlots() > 1 ? static_cast<double>(series) : 0;
   if (Series() != nullptr && Series()->reversed) place = slots - 1 - place;
   if (group_.family == Family::kSurface && slots > 1) {
-    place /= slots - 1;  // a surface goes from the first series to the last
+    place /= slots - 1;  // A surface goes from the first series to the last.
     return {place, place};
   }
   const double middle = (place + 0.5) / slots, half = 0.5 / slots / (1 + gapDepth_);

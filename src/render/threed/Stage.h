@@ -9,6 +9,7 @@ namespace plotsmith::render {
 
 /// A part of an axis, in shares from 0 (beginning) to 1 (end).
 struct Span {
+  /// The beginning and the end of the part.
   double from = 0, to = 1;
 
   /// The middle of the part.

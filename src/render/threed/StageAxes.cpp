@@ -146,7 +146,7 @@ std::vector<StageAxes::PlacedRuler> StageAxes::Place(const Projection& projectio
   std::vector<PlacedRuler> placed = {{&values_, stage_.IsHorizontal() ? lower : upright},
                                      {&categories_, stage_.IsHorizontal() ? upright : lower}};
   if (series_.axis != nullptr) placed.push_back({&series_, SeriesEdge(projection)});
-  // an edge that one looks along shows nothing of its axis
+  // An edge in the direction of view shows nothing of its axis.
   std::erase_if(placed, [&](const PlacedRuler& one) {
     const Point a = Along(projection, one.edge.from, one.edge.to, 0);
     const Point b = Along(projection, one.edge.from, one.edge.to, 1);
@@ -245,7 +245,7 @@ StageAxes::PlacedGroup StageAxes::PlaceGroup(const PlacedRuler& placed, const Ca
   const double middle = distance + depth / 2, end = distance + depth;
   result.center = {(a.x + b.x) / 2 + way.x * middle, (a.y + b.y) / 2 + way.y * middle};
   const auto addLine = [&](Point edge, bool isEndOfAxis) {
-    // where the axis ends on a category, a line would go through its label
+    // If the axis ends on a category, a line would cross the label.
     if (isEndOfAxis && stage_.PointsAreOnTicks()) return;
     result.lines.push_back({edge, {edge.x + way.x * end, edge.y + way.y * end}});
   };

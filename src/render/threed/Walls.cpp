@@ -104,7 +104,7 @@ WallStyles ReadWalls(xlsx::ChartPart& part) {
   const auto read = [&](const char* name, const ShapeStyle& automatic) {
     return ReadStyle(part, xlsx::xml::Child(chart, name, "spPr"), automatic);
   };
-  // in a chart of a dark style they have the filling of a flat plot area
+  // In a chart of a dark style, the walls have the filling of a flat plot area.
   constexpr long long kFirstDark = 33;
   Fill fill;
   if (xlsx::ChartStyleOf(part) >= kFirstDark) fill = AutomaticStyles(part).PlotArea(true).fill;

@@ -11,6 +11,7 @@ namespace plotsmith::render {
 
 /// The formats of the walls and the floor of a chart in 3-D.
 struct WallStyles {
+  /// The looks of the floor, the side wall and the back wall (c:floor, c:sideWall, c:backWall).
   ShapeStyle floor, side, back;
 };
 /// Reads the formats of the walls and the floor.
@@ -18,6 +19,7 @@ WallStyles ReadWalls(xlsx::ChartPart& part);
 
 /// The sides of the box that are behind its contents: 0 or 1 on the axes x and z.
 struct FarSides {
+  /// The positions of the side wall and of the back wall: 0 or 1.
   double x = 0, z = 1;
 };
 /// Returns the sides of the box that are behind its contents.

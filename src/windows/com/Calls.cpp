@@ -131,7 +131,7 @@ OwnedVariant CallById(IDispatch& object, DISPID id, Kind kind, std::span<const O
     if (SUCCEEDED(result)) return answer;
     const RuntimeError failure = thrown ? ErrorOf(exception) : ErrorOf(result);
     if (!busy || whenBusy == WhenBusy::kFail || !waiting.WaitOnce()) throw failure;
-    ++changes;  // incoming calls may have changed anything meanwhile
+    ++changes;  // Incoming calls may have changed anything meanwhile.
   }
 }
 

@@ -22,8 +22,11 @@ class ComPtr {
   explicit ComPtr(T* object) : object_(object) {
     if (object_ != nullptr) object_->AddRef();
   }
+  /// Adds a reference to the object of the other pointer.
   ComPtr(const ComPtr& other) : ComPtr(other.object_) {}
+  /// Takes over the reference of the other pointer.
   ComPtr(ComPtr&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
+  /// Takes over the reference of `other`, and releases its own.
   ComPtr& operator=(ComPtr other) noexcept {
     std::swap(object_, other.object_);
     return *this;
@@ -46,6 +49,7 @@ class ComPtr {
 
   /// Returns the object, or null. The reference stays here.
   T* Get() const { return object_; }
+  /// Gives access to the members of the object, which must not be null.
   T* operator->() const { return object_; }
   /// Returns the place where a function stores the reference that it returns. A reference that is already
   /// held is released first.

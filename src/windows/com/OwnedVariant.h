@@ -14,11 +14,14 @@ class OwnedVariant {
   OwnedVariant() { VariantInit(&value_); }
   /// Takes over the content of `value`.
   explicit OwnedVariant(const VARIANT& value) : value_(value) {}
+  /// Takes over the content of the other VARIANT.
+  ///@{
   OwnedVariant(OwnedVariant&& other) noexcept : value_(other.Detach()) {}
   OwnedVariant& operator=(OwnedVariant&& other) noexcept {
     std::swap(value_, other.value_);
     return *this;
   }
+  ///@}
   OwnedVariant(const OwnedVariant&) = delete;
   OwnedVariant& operator=(const OwnedVariant&) = delete;
   ~OwnedVariant() {

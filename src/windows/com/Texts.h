@@ -18,11 +18,14 @@ namespace plotsmith::com {
 class OwnedBstr {
  public:
   OwnedBstr() = default;
+  /// Takes over the BSTR of the other object.
+  ///@{
   OwnedBstr(OwnedBstr&& other) noexcept : text_(std::exchange(other.text_, nullptr)) {}
   OwnedBstr& operator=(OwnedBstr&& other) noexcept {
     std::swap(text_, other.text_);
     return *this;
   }
+  ///@}
   OwnedBstr(const OwnedBstr&) = delete;
   OwnedBstr& operator=(const OwnedBstr&) = delete;
   ~OwnedBstr() {

@@ -146,10 +146,10 @@ OwnedVariant ItemAt(SAFEARRAY* array, VARTYPE type, LONG position) {
     result = SafeArrayGetElement(array, &position, item.Put());
   } else {
     VARIANT value = Typed(type);
-    // all members of the union but the DECIMAL begin at the same address
+    // All members of the union but the DECIMAL begin at the same address.
     void* place = type == VT_DECIMAL ? static_cast<void*>(&V_DECIMAL(&value)) : &V_NONE(&value);
     result = SafeArrayGetElement(array, &position, place);
-    V_VT(&value) = type;  // a DECIMAL overlaps the type
+    V_VT(&value) = type;  // A DECIMAL overlaps the type.
     if (SUCCEEDED(result)) item = OwnedVariant(value);
   }
   if (FAILED(result)) throw ErrorOf(result);

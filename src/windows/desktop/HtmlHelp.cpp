@@ -29,7 +29,7 @@ bool Show(const char* function, HWND owner, const Letter* file, std::int32_t top
 /// Returns the path in the system's code page; absent if the code page lacks one of its characters.
 std::optional<std::string> AnsiPath(const std::wstring& path) {
   const auto length = static_cast<int>(path.size());
-  std::string ansi(path.size() * 4, '\0');  // no code page has longer characters
+  std::string ansi(path.size() * 4, '\0');  // No code page has longer characters.
   ansi.resize(static_cast<std::size_t>(WideCharToMultiByte(CP_ACP, 0, path.data(), length, ansi.data(),
                                                            static_cast<int>(ansi.size()), nullptr, nullptr)));
   std::wstring again(path.size() * 2, L'\0');

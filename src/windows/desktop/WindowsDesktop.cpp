@@ -43,7 +43,7 @@ std::int32_t WindowsDesktop::MsgBox(std::string_view text, desktop::Buttons butt
   if (owner == nullptr) style |= MB_TASKMODAL;
   const int answer = MessageBoxW(owner, com::Wide(text).c_str(),
                                  com::Wide(title.empty() ? kProductTitle : title).c_str(), style);
-  com::NoteChange();  // other windows could handle messages while the box was open
+  com::NoteChange();  // Other windows could handle messages while the box was open.
   return buttons == desktop::Buttons::kOkCancel && answer != IDOK ? desktop::kCancel : desktop::kOk;
 }
 

@@ -64,6 +64,7 @@ struct IsRef : std::false_type {};
 /// True for a Ref.
 template <class T>
 struct IsRef<Ref<T>> : std::true_type {
+  /// The class of the object that it refers to.
   using Class = T;
 };
 
@@ -130,19 +131,23 @@ class Proxy : public Base, public ProxyObject {
 /// The parameter type by which the port takes a value that it returns as a T.
 template <class T>
 struct TakenAs {
+  /// The type itself.
   using Type = T;
 };
 /// A text is passed as a view.
 template <>
 struct TakenAs<std::string> {
+  /// A view, which isn't kept.
   using Type = std::string_view;
 };
 /// A Variant is passed by reference.
 template <>
 struct TakenAs<excel::Variant> {
+  /// A reference, which isn't kept.
   using Type = const excel::Variant&;
 };
 template <class T>
+/// The parameter type for a T.
 using Taken = typename TakenAs<T>::Type;
 
 /// Values of MsoTriState.

@@ -11,12 +11,18 @@ class ClassFactory final : public IClassFactory {
   /// Returns the only instance.
   static ClassFactory& Instance();
 
+  /// The members of IUnknown. References keep the DLL loaded.
+  ///@{
   STDMETHODIMP QueryInterface(REFIID interfaceId, void** object) noexcept override;
   STDMETHODIMP_(ULONG) AddRef() noexcept override;
   STDMETHODIMP_(ULONG) Release() noexcept override;
+  ///@}
 
+  /// The members of IClassFactory. Objects can't be aggregated.
+  ///@{
   STDMETHODIMP CreateInstance(IUnknown* outer, REFIID interfaceId, void** object) noexcept override;
   STDMETHODIMP LockServer(BOOL lock) noexcept override;
+  ///@}
 };
 
 }  // namespace plotsmith::windows

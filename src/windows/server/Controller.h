@@ -13,16 +13,24 @@ namespace plotsmith::windows {
 /// Invalid arguments are refused before an operation begins.
 class Controller final : public IPlotsmithController, public IProvideClassInfo {
  public:
+  /// The members of IUnknown. The last Release deletes the object.
+  ///@{
   STDMETHODIMP QueryInterface(REFIID interfaceId, void** object) noexcept override;
   STDMETHODIMP_(ULONG) AddRef() noexcept override;
   STDMETHODIMP_(ULONG) Release() noexcept override;
+  ///@}
 
+  /// The members of IDispatch, from the type library.
+  ///@{
   STDMETHODIMP GetTypeInfoCount(UINT* count) noexcept override;
   STDMETHODIMP GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept override;
   STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) noexcept override;
   STDMETHODIMP Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS* arguments, VARIANT* result,
                       EXCEPINFO*, UINT* badArgument) noexcept override;
+  ///@}
 
+  /// The operations of CPlotsmithController, which describes them.
+  ///@{
   STDMETHODIMP RunPlotsmith(IDispatch* oApplication, BSTR sCustomAppName, BSTR sHelpFile) noexcept override;
   STDMETHODIMP RefreshPlotsmithData(IDispatch* oApplication, BSTR sCustomAppName,
                                     BSTR sHelpFile) noexcept override;
@@ -30,7 +38,9 @@ class Controller final : public IPlotsmithController, public IProvideClassInfo {
   STDMETHODIMP UpdateChartColumnNamesForTable(IDispatch* oApplication, BSTR sTableRangeName,
                                               SAFEARRAY** aOldColumnNames,
                                               SAFEARRAY** aNewColumnNames) noexcept override;
+  ///@}
 
+  /// Returns the description of the class in the type library.
   STDMETHODIMP GetClassInfo(ITypeInfo** info) noexcept override;
 
  private:

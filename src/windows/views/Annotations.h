@@ -11,9 +11,9 @@ namespace plotsmith::windows {
 
 /// What a screen reader says about a control.
 struct Spoken {
-  std::string name;
-  std::string description;
-  LONG role = 0;  ///< one of MSAA's ROLE_SYSTEM_ constants; 0 keeps the window's own role
+  std::string name;         ///< the name, which most screen readers say first
+  std::string description;  ///< the description, which can be empty
+  LONG role = 0;            ///< one of MSAA's ROLE_SYSTEM_ constants; 0 keeps the window's own role
 
   bool operator==(const Spoken&) const = default;
 };

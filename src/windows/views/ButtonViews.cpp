@@ -44,7 +44,7 @@ void CommandButtonView::OnCommand(WORD code) {
 std::optional<LRESULT> CommandButtonView::OnMessage(UINT message, WPARAM, LPARAM lParam) {
   switch (message) {
     case WM_GETDLGCODE:
-      return DLGC_BUTTON;  // only the model decides which button is the default one
+      return DLGC_BUTTON;  // Only the model decides which button is the default one.
     case BM_CLICK:         // from a program or a screen reader without a mouse: each message is one press
       OnCommand(BN_CLICKED);
       return 0;

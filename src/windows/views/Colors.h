@@ -7,9 +7,9 @@ namespace plotsmith::windows {
 
 /// The colours that paint a control.
 struct Paint {
-  HBRUSH background;  ///< one of the system's brushes, which must not be deleted
-  COLORREF backColor;
-  COLORREF textColor;
+  HBRUSH background;   ///< one of the system's brushes, which must not be deleted
+  COLORREF backColor;  ///< the colour behind the text
+  COLORREF textColor;  ///< the colour of the text
 };
 
 /// Returns the colours of a control whose model has this back colour. All are system colours, so that they

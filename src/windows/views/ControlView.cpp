@@ -48,7 +48,7 @@ LRESULT CALLBACK ControlView::Procedure(HWND window, UINT message, WPARAM wParam
   auto* const view = reinterpret_cast<ControlView*>(data);
   try {
     if (message == WM_NCDESTROY) {
-      if (view != nullptr) view->DetachWindow();  // the host has destroyed the window
+      if (view != nullptr) view->DetachWindow();  // The host has destroyed the window.
       RemoveSubclass(window, Procedure);
     } else if (view != nullptr) {
       return view->Handle(message, wParam, lParam);
@@ -123,7 +123,7 @@ void ControlView::UseFonts(Fonts& fonts) {
 
 void ControlView::Update() {
   if (window_ == nullptr) return;
-  if (waiting_ > 0 || awaitsNews_ || IsInTheMiddle()) return;  // the window is ahead of the model
+  if (waiting_ > 0 || awaitsNews_ || IsInTheMiddle()) return;  // The window is ahead of the model.
   if (model_.Changes() == shown_ && !std::exchange(touched_, false)) return;
   touched_ = false;
   shown_ = model_.Changes();

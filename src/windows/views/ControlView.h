@@ -21,16 +21,16 @@ using Post = std::function<void(std::function<void()> gesture)>;
 
 /// The parts that the views of a form share.
 struct Stage {
-  HWND window;  ///< the form's window, which is the parent of all controls' windows
-  Post post;
-  Annotations& annotations;
+  HWND window;               ///< the form's window, which is the parent of all controls' windows
+  Post post;                 ///< queues a gesture for the form
+  Annotations& annotations;  ///< the names and descriptions for screen readers
 };
 
 /// The class, style and extended style of a control's window.
 struct WindowKind {
-  const wchar_t* className;
-  DWORD style;
-  DWORD extendedStyle = 0;
+  const wchar_t* className;  ///< the name of the window class, which Windows or this program defines
+  DWORD style;               ///< the WS_ constants and those of the class
+  DWORD extendedStyle = 0;   ///< the WS_EX_ constants
 };
 
 /// A window that shows one control. The window has the control's full name.

@@ -178,7 +178,7 @@ bool FormWindow::TakeMessage(MSG& message) {
   const ControlView* const focus = FocusView();
   if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN && focus != nullptr &&
       forms::TakesEnter(&focus->Model())) {
-    return false;  // the text box inserts a new line
+    return false;  // The text box inserts a new line.
   }
   return IsDialogMessageW(window_, &message) != FALSE;
 }
@@ -215,9 +215,9 @@ LRESULT FormWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
   if (const auto answer = HandlePlace(message, wParam, lParam)) return *answer;
   switch (message) {
     case WM_CLOSE:
-      post_([this] { form_.UserClose(); });  // the form decides, and destroys its window when it closes
+      post_([this] { form_.UserClose(); });  // The form decides, and destroys its window when it closes.
       return 0;
-    case WM_DESTROY:  // the host has destroyed the window
+    case WM_DESTROY:  // The host has destroyed the window.
       RemoveWindowName(window_);
       form_.hWnd = 0;
       window_ = nullptr;
@@ -271,7 +271,7 @@ std::optional<LRESULT> FormWindow::HandleControl(UINT message, WPARAM wParam, LP
     case WM_ERASEBKGND:
       Erase(reinterpret_cast<HDC>(wParam));
       return TRUE;
-    case WM_PRINTCLIENT:  // a themed control asks for its background
+    case WM_PRINTCLIENT:  // A themed control asks for its background.
       Erase(reinterpret_cast<HDC>(wParam));
       return 0;
     default:

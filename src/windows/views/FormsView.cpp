@@ -93,7 +93,7 @@ void FormsView::Wait(forms::EventQueue& queue, std::optional<std::chrono::millis
     if (time == 0) break;
     MsgWaitForMultipleObjectsEx(0, nullptr, time, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
   }
-  com::NoteChange();  // the host's own windows could handle messages
+  com::NoteChange();  // The host's own windows could handle messages.
   if (IsFrontGone()) {
     pending_.clear();
     forms::Form& form = Front()->Model();
@@ -112,7 +112,7 @@ void FormsView::HandleEvents(forms::EventQueue& queue) {
   while (!quitCode_ && HandleMessage(PM_QS_PAINT | PM_QS_POSTMESSAGE | PM_QS_SENDMESSAGE) &&
          Clock::now() < end) {
   }
-  if (windows_.empty()) PostQuitAgain();  // no window of this view will close and do it
+  if (windows_.empty()) PostQuitAgain();  // No window of this view will close and do it.
   com::NoteChange();
   PostTo(queue);
 }

@@ -88,7 +88,7 @@ LRESULT CALLBACK ComboBoxView::EditProcedure(HWND window, UINT message, WPARAM w
     if (view != nullptr && HandleEditMessage(window, Lines::kOne, message, wParam)) return 0;
     if (message == WM_NCDESTROY && view != nullptr) view->DetachEdit();
   } catch (...) {
-    return 0;  // memory is short
+    return 0;  // Memory is short.
   }
   if (message == WM_NCDESTROY) RemoveSubclass(window, EditProcedure);
   return CallNextProcedure(window, message, wParam, lParam);
@@ -147,7 +147,7 @@ bool ComboBoxView::IsInTheMiddle() const {
 
 void ComboBoxView::ShowSpoken(const Spoken& spoken) {
   ControlView::ShowSpoken(spoken);
-  if (edit_ != nullptr) Reader().Set(edit_, spoken);  // the edit control has the focus
+  if (edit_ != nullptr) Reader().Set(edit_, spoken);  // The edit control has the focus.
 }
 
 void ComboBoxView::OnChanges() {

@@ -13,7 +13,7 @@ class RowShifts;
 
 /// A defined name in the workbook part.
 struct NameEntry {
-  std::string name;
+  std::string name;                  ///< the name as the file spells it
   std::optional<std::size_t> sheet;  ///< the tab of the sheet that a local name belongs to, from 0
   std::string definition;            ///< the formula without "="
 };

@@ -23,10 +23,9 @@ using excel::Ref;
 namespace {
 
 constexpr std::int32_t kLine = 9;  // msoLine
-// the default insets of a text box (ECMA-376-1, 21.1.2.1.1): 0.1 and 0.05 inches, in points
+// The default insets of a text box (ECMA-376-1, 21.1.2.1.1), in points. They are 0.1 and 0.05 inches.
 constexpr double kUsualMarginAcross = 7.2, kUsualMarginDown = 3.6;
-// the left and right inset that Excel writes for a box with automatic margins (AutoMargins), in
-// points
+// The left and right inset that Excel writes for a box with automatic margins (AutoMargins), in points.
 constexpr double kAutomaticMargin = 2.16;
 
 std::int32_t TypeOf(pugi::xml_node object) {
@@ -102,7 +101,7 @@ void DrawnShape::SetText(std::u16string_view text) {
   TextBody body(Object());
   if (text.size() > limits::kShapeText) throw Refusal("The text is longer than a shape can contain.");
   body.SetText(runtime::ToUtf8(text));
-  text_.reset();  // the body may store a different text, for example other line ends
+  text_.reset();  // The body may store a different text, for example other line ends.
   FitToText();
   MarkChanged();
 }
@@ -161,7 +160,7 @@ bool DrawnShape::KeepsItsProportions() const {
 void DrawnShape::SetLockAspectRatio(bool value) {
   Log().Put([this] { return JournalPath(); }, "LockAspectRatio", value);
   const pugi::xml_node properties = KindPropertiesOf(Object());
-  // cNvSpPr has spLocks, cNvPicPr has picLocks, and so on
+  // The element cNvSpPr has spLocks, cNvPicPr has picLocks, and so on.
   std::string kind(xml::LocalName(properties));
   if (kind.size() < 6) throw OutOfRange();
   kind = kind.substr(3, kind.size() - 5);
@@ -177,7 +176,7 @@ void DrawnShape::SetAutoShapeType(std::int32_t type) {
   const pugi::xml_node properties = Properties();
   schema::Remove(properties, "custGeom");
   pugi::xml_node form = schema::Ensure(properties, "prstGeom");
-  form.remove_children();  // the adjustments belong to the old geometry
+  form.remove_children();  // The adjustments belong to the old geometry.
   xml::SetAttribute(form, "prst", *preset);
   schema::Ensure(form, "avLst");
   MarkChanged();
@@ -216,7 +215,7 @@ void DrawnShape::StopFittingToText() {
 void DrawnShape::Delete() {
   Log().Call([this] { return JournalPath(); }, "Delete");
   Object();
-  const auto alive = shared_from_this();  // the drawing may hold the last reference
+  const auto alive = shared_from_this();  // The drawing may hold the last reference.
   RemoveFromDrawing();
 }
 

@@ -81,7 +81,7 @@ pugi::xml_node ObjectOf(pugi::xml_node anchor) {
 }
 
 pugi::xml_node IdentityOf(pugi::xml_node object) {
-  // nvSpPr, nvGraphicFramePr, nvPicPr, ...: the first child of each kind of object
+  // The parent is nvSpPr, nvGraphicFramePr, nvPicPr or the like: the first child of each kind of object.
   for (const pugi::xml_node& child : object.children()) {
     if (const auto identity = xml::Child(child, "cNvPr")) return identity;
   }
@@ -138,15 +138,15 @@ pugi::xml_node AppendTemplate(pugi::xml_node root, std::string text, const std::
   return root.last_child();
 }
 
-std::string TextboxTemplate(unsigned id, std::string_view name, std::string_view dress) {
+std::string TextboxTemplate(unsigned id, std::string_view name, std::string_view format) {
   return R"(<@sp macro="" textlink="">)" + Start("SpPr", id, name, R"(<@cNvSpPr txBox="1"/>)") + "<@spPr>" +
-         Form("rect") + std::string(dress) +
+         Form("rect") + std::string(format) +
          R"(</@spPr><@txBody><~bodyPr vertOverflow="clip" wrap="square" rtlCol="0"/><~lstStyle/>)"
          R"(<~p><~endParaRPr lang="en-US" sz="1100"><~latin typeface="+mn-lt"/></~endParaRPr></~p></@txBody></@sp>)";
 }
 
 std::string AutoShapeTemplate(unsigned id, std::string_view name, std::string_view preset) {
-  // the theme's style, which Excel gives to new shapes
+  // Excel gives new shapes a style of the theme.
   return R"(<@sp macro="" textlink="">)" + Start("SpPr", id, name, "<@cNvSpPr/>") + "<@spPr>" + Form(preset) +
          R"(</@spPr><@style><~lnRef idx="2"><~schemeClr val="accent1"><~shade val="50000"/></~schemeClr></~lnRef>)"
          R"(<~fillRef idx="1"><~schemeClr val="accent1"/></~fillRef><~effectRef idx="0"><~schemeClr val="accent1"/>)"

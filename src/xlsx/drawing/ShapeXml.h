@@ -11,6 +11,7 @@ namespace plotsmith::xlsx {
 
 /// The position and size of a shape, in points from the upper left corner of the sheet or the chart.
 struct Frame {
+  /// The left and the upper edge, and the size.
   double left = 0, top = 0, width = 0, height = 0;
 
   /// The right edge.
@@ -51,8 +52,8 @@ void SetTransform(pugi::xml_node object, const Frame& frame);
 /// and "~" by that of DrawingML's.
 pugi::xml_node AppendTemplate(pugi::xml_node root, std::string text, const std::string& prefix,
                               const std::string& drawingMl);
-/// The template of a text box, without a position. `dress` is inserted after the shape's geometry.
-std::string TextboxTemplate(unsigned id, std::string_view name, std::string_view dress);
+/// The template of a text box, without a position. `format` is inserted after the shape's geometry.
+std::string TextboxTemplate(unsigned id, std::string_view name, std::string_view format);
 /// The template of an AutoShape. `preset` is its geometry (ST_ShapeType).
 std::string AutoShapeTemplate(unsigned id, std::string_view name, std::string_view preset);
 /// The template of a group. The positions of its members are in the coordinates of the frame.

@@ -61,8 +61,8 @@ std::string BodyText(pugi::xml_node body) {
 }
 
 void SetBodyText(pugi::xml_node body, std::string_view text) {
-  pugi::xml_document dress;  // copies, because the originals are removed
-  const auto keep = [&](pugi::xml_node node) { return node ? dress.append_copy(node) : pugi::xml_node(); };
+  pugi::xml_document kept;  // copies, because the originals are removed
+  const auto keep = [&](pugi::xml_node node) { return node ? kept.append_copy(node) : pugi::xml_node(); };
   const auto keepAs = [&](pugi::xml_node node, const char* name) {
     pugi::xml_node copy = keep(node);
     copy.set_name((std::string(xml::Prefix(node.name())) + name).c_str());
@@ -125,7 +125,7 @@ std::vector<pugi::xml_node> TextBody::EnsureRunProperties(std::size_t start, std
   const std::size_t size = ForEachRun(paragraphs, [&](pugi::xml_node run, std::size_t from, std::size_t to) {
     if (to <= start || from >= end) return;
     if (from < start) {
-      Cut(run, start - from);  // the next run is inside the part
+      Cut(run, start - from);  // The next run is inside the part.
       if (xml::Is(run, "r")) return;
     }
     if (to > end) Cut(run, end - from);
@@ -168,7 +168,7 @@ TextBody::Extent TextBody::Measure(const Theme& theme, std::optional<double> wid
       }
       const std::string text = xml::Text(xml::Child(run, "t"));
       for (std::string_view rest = text; !rest.empty();) {
-        // a word with the blank after it, which may cross the edge
+        // The blank after a word may cross the edge.
         const std::size_t blank = rest.find(' ');
         const std::string_view word = rest.substr(0, blank);
         if (width && x > 0 && x + TextWidth(word, face) > *width) endLine();

@@ -46,7 +46,8 @@ class TextBody {
 
   /// The size of a text.
   struct Extent {
-    double width = 0, height = 0;  ///< points
+    /// The extents in points.
+    double width = 0, height = 0;
   };
   /// The size of the text without the margins. Lines wrap at `width` points if it is given.
   Extent Measure(const Theme& theme, std::optional<double> width) const;

@@ -73,7 +73,7 @@ const Metrics& MetricsOf(std::string_view font) {
   for (const std::string_view narrow : {"Calibri", "Carlito", "Aptos Narrow"}) {
     if (runtime::EqualsIgnoreCase(font.substr(0, narrow.size()), narrow)) return kCalibri;
   }
-  return kArial;  // most sans serif fonts have similar widths
+  return kArial;  // Most sans serif fonts have similar widths.
 }
 
 /// Characters as wide as they are high: CJK, Hangul, kana and full-width forms.

@@ -165,7 +165,7 @@ void Theme::Read(std::string_view part) {
   try {
     xml::Parse(document, part);
   } catch (const PackageError&) {
-    return;  // an unreadable theme doesn't make a chart unreadable
+    return;  // An unreadable theme doesn't make a chart unreadable.
   }
   const pugi::xml_node root = xml::Root(document);
   const auto elements = xml::Child(root, "themeElements");

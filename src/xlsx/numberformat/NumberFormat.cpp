@@ -188,7 +188,7 @@ void NumberFormat::AppendText(std::string& out, std::string_view text) const {
     case Section::Kind::kGeneral:
       AppendLiterals(out, *program_->text, Token::Kind::kGeneral, text);
       return;
-    default:  // a section for numbers contains no text placeholder
+    default:  // A section for numbers contains no text placeholder.
       out += text;
       return;
   }

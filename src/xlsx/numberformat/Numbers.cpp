@@ -30,7 +30,7 @@ Scientific MakeScientific(const Decimal& number, int period, int decimals) {
     Scientific result{number, exponent};
     result.mantissa.Scale(-exponent);
     result.mantissa.Round(decimals);
-    if (result.mantissa.IntegerDigits() <= period) return result;  // rounding may have changed 9.99 to 10.0
+    if (result.mantissa.IntegerDigits() <= period) return result;  // Rounding may have changed 9.99 to 10.0.
   }
 }
 

@@ -74,6 +74,7 @@ struct Section {
   /// What the section displays.
   enum class Kind : std::uint8_t { kLiteral, kGeneral, kText, kNumber, kScientific, kFraction, kDate };
 
+  /// What the section displays.
   Kind kind = Kind::kLiteral;
   /// The condition in brackets. It is absent if the section has none.
   std::optional<Condition> condition;
@@ -81,6 +82,7 @@ struct Section {
   bool onlyNegative = false;
   /// Whether a number whose displayed digits are all zeros has no minus sign.
   bool hidesSignOfZero = false;
+  /// The tokens of the section, in the order of the format.
   std::vector<Token> tokens;
   /// The texts of all tokens, one after the other.
   std::string texts;

@@ -11,7 +11,7 @@ namespace {
 
 /// Reading a smaller stream takes less time than starting a thread.
 constexpr std::size_t kReadInline = 1024 * 1024;
-constexpr std::size_t kPiece = 128 * 1024;  // all pieces fit into a processor's cache
+constexpr std::size_t kPiece = 128 * 1024;  // All pieces fit into a processor's cache.
 
 }  // namespace
 
@@ -32,7 +32,7 @@ void AheadStream::Start() {
   try {
     thread_ = std::thread([this] { ReadAhead(); });
   } catch (const std::system_error&) {
-    // without a thread, Read reads the source itself
+    // Without a thread, Read reads the source itself.
   }
 }
 
@@ -46,7 +46,7 @@ std::size_t AheadStream::Read(char* buffer, std::size_t size) {
   std::unique_lock lock(mutex_);
   filledOne_.wait(lock, [&] { return filled_ > taken_; });
   const Piece& piece = pieces_[taken_ % pieces_.size()];
-  if (piece.size == 0) {  // the last piece stays in the queue, so that every further read finds the end
+  if (piece.size == 0) {  // The last piece stays in the queue, so that every further read finds the end.
     if (failure_) std::rethrow_exception(failure_);
     return 0;
   }
@@ -58,7 +58,7 @@ std::size_t AheadStream::Read(char* buffer, std::size_t size) {
   position_ = 0;
   lock.lock();
   ++taken_;
-  // waking the thread for each piece would take longer than waking it for several
+  // It takes longer to wake the thread for each piece than for several.
   const bool isHalfEmpty = filled_ - taken_ <= pieces_.size() / 2;
   lock.unlock();
   if (isHalfEmpty) emptiedSome_.notify_one();

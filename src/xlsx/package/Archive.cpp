@@ -173,7 +173,7 @@ void ArchiveWriter::Add(const std::string& name, std::string_view bytes, bool co
   const auto index =
       handle_->Add(name.c_str(), zip_source_buffer(handle_->zip.get(), bytes.data(), bytes.size(), 0),
                    compress ? ZIP_CM_DEFLATE : ZIP_CM_STORE);
-  // there is no time stamp, as in files of Office, so that the same content gives the same file
+  // There is no time stamp, as in files of Office, so that the same content gives the same file.
   zip_file_set_dostime(handle_->zip.get(), index, 0, kFirstDosDay, 0);
 }
 

@@ -90,10 +90,10 @@ void AtomicFile::Commit() {
   const bool replaces = stat(path_.c_str(), &old) == 0;
   if (fchmod(file_, replaces ? old.st_mode & 07777 : NewFileMode()) != 0) Fail(path_);
   if (replaces && fchown(file_, old.st_uid, old.st_gid) != 0) {
-    // only root can change the owner; otherwise the copy belongs to the current user
+    // Only root can change the owner. Otherwise the copy belongs to the current user.
   }
   if (fsync(file_) != 0 && errno != EINVAL) Fail(path_);
-  // a link can't replace a file, so the nameless file gets a temporary name first
+  // A link can't replace a file, so the nameless file gets a temporary name first.
   const bool placed = temporary_.empty() && !replaces && LinkTo(file_, path_);
   if (!placed) {
     if (temporary_.empty()) temporary_ = LinkBeside(file_, path_);

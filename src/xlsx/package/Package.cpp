@@ -180,7 +180,7 @@ void Package::ParseContentTypes(std::string_view bytes) {
   overrides_.clear();
   defaults_.clear();
   for (const pugi::xml_node& type : xml::Root(*contentTypes_).children()) {
-    // the first override of a part counts
+    // The first override of a part counts.
     if (xml::Is(type, "Override")) overrides_.emplace(PartNameOf(type), type);
     if (xml::Is(type, "Default")) defaults_.emplace(Folded(xml::Attribute(type, "Extension")), type);
   }
@@ -271,7 +271,7 @@ std::string Package::Read(std::string_view name) const {
   const auto stream = Stream(name);
   std::size_t total = 0;
   while (const std::size_t count = stream->Read(bytes.data() + total, bytes.size() - total)) total += count;
-  char beyond;  // one more read checks the size and the checksum
+  char beyond;  // One more read checks the size and the checksum.
   stream->Read(&beyond, 1);
   return bytes;
 }
@@ -288,7 +288,7 @@ void Package::Add(std::string_view part, std::string_view contentType, std::stri
 
 void Package::SetContentType(std::string_view part, std::string_view contentType) {
   if (ContentType(part) == contentType) return;
-  pugi::xml_node& type = overrides_[Folded(part)];  // there may be one of a deleted part
+  pugi::xml_node& type = overrides_[Folded(part)];  // There may be one of a deleted part.
   if (!type) type = xml::AppendChild(xml::Root(*contentTypes_), "Override");
   xml::SetAttribute(type, "PartName", PercentEncoded(part));
   xml::SetAttribute(type, "ContentType", contentType);
@@ -304,7 +304,7 @@ void Package::Remove(const std::string& part) {
     }
     contentTypesChanged_ = true;
   }
-  // a later part of the same name has its own relationships
+  // A later part of the same name has its own relationships.
   const std::string links = RelationshipsPart(part);
   if (Has(links)) Remove(links);
   relationships_.erase(key);
@@ -431,7 +431,7 @@ std::vector<std::string> Package::RemoveRelationship(std::string_view source, st
   try {
     gone = OnlyThrough(link->target);
   } catch (const PackageError&) {
-    return {};  // a part with unreadable relationships may refer to any part
+    return {};  // A part with unreadable relationships may refer to any part.
   }
   for (const std::string& part : gone) Remove(part);
   return {gone.begin(), gone.end()};
@@ -459,7 +459,7 @@ void Package::Commit(AtomicFile& file, const std::string& path) {
     Reopen(archive_);
     throw;
   }
-  if (!Reopen(archive_)) return;  // the workbook is saved; only its unread parts can't be read any more
+  if (!Reopen(archive_)) return;  // The workbook is saved. Only its unread parts can't be read any more.
   for (std::size_t i = 0; i < parts_.size(); ++i) parts_[i]->entry = i;
 }
 
@@ -483,8 +483,8 @@ void Package::Write(int descriptor) {
     if (part->bytes) {
       const bool stored = part->entry && archive_->Entries()[*part->entry].method == 0;
       writer.Add(part->entry                   ? archive_->Entries()[*part->entry].name
-                 : part->name == kContentTypes ? part->name.substr(1)  // isn't a part, so it keeps its own
-                                                                       // name
+                 : part->name == kContentTypes ? part->name.substr(1)  // It isn't a part, so it keeps its
+                                                                       // own name.
                                                : PercentEncoded(part->name.substr(1)),
                  *part->bytes, !stored);
     } else {

@@ -35,8 +35,11 @@ class Package {
   Package();
   /// Reads the directory, the content types and the relationships of the package.
   static Package Open(const std::string& path);
+  /// Moves the package. The other object can then only be assigned to or destroyed.
+  ///@{
   Package(Package&&) noexcept;
   Package& operator=(Package&&) noexcept;
+  ///@}
   ~Package();
 
   /// Returns true if there is a part with the name.

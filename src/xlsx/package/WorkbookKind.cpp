@@ -52,7 +52,7 @@ constexpr std::size_t kStart = 4 * 1024;
 [[noreturn]] void ThrowCompoundKind(const std::string& start, std::istream& file) {
   std::string name;
   for (const char c : std::string_view("EncryptedPackage")) name.append({c, '\0'});
-  // the directory may be anywhere in the file
+  // The directory may be anywhere in the file.
   const std::string rest((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
   const bool encrypted = start.find(name) != std::string::npos || rest.find(name) != std::string::npos;
   if (encrypted) throw PackageError("it is encrypted with a password");

@@ -231,13 +231,13 @@ std::string Serialize(const pugi::xml_document& document) {
     }
   } writer;
   document.save(writer, "", kSave, pugi::encoding_utf8);
-  // a tree may contain half of a surrogate pair, but a file may not
+  // A tree may contain half of a surrogate pair, but a file may not.
   return dom::XmlCharactersOf(writer.bytes);
 }
 
 std::string Decode(std::string_view raw) {
-  const auto isRaw = [](char c) { return c == '&' || c == '\r'; };
-  if (std::none_of(raw.begin(), raw.end(), isRaw)) return std::string(raw);
+  const auto needsDecoding = [](char c) { return c == '&' || c == '\r'; };
+  if (std::none_of(raw.begin(), raw.end(), needsDecoding)) return std::string(raw);
   std::string text;
   text.reserve(raw.size());
   for (std::size_t i = 0; i < raw.size(); ++i) {
@@ -280,7 +280,7 @@ std::string EncodeText(std::string_view text) { return Encode(text, false); }
 std::string EncodeAttribute(std::string_view text) { return Encode(text, true); }
 
 bool Is(pugi::xml_node node, std::string_view local) {
-  // a single pass over the name, which is faster than to measure it and to search it for the prefix
+  // A single pass over the name is faster than measuring it and searching for the prefix.
   const char* const name = node.name();
   const char* rest = name;
   while (*rest != '\0' && *rest != ':') ++rest;

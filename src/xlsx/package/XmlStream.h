@@ -19,7 +19,7 @@ class XmlStream {
   enum class Kind { kStart, kEnd, kEmpty, kEndOfInput };
   /// A tag of the stream.
   struct Tag {
-    Kind kind;
+    Kind kind;                    ///< The kind of the tag.
     std::string_view name;        ///< The local name. Valid until the next call.
     std::string_view attributes;  ///< As written. Valid until the next call.
   };
@@ -44,10 +44,12 @@ class XmlStream {
   /// Throws the PackageError for XML that isn't well-formed.
   [[noreturn]] static void Damaged();
 
-  // The unread bytes of the window. A zero byte follows at end_. XML can't contain one, so loops stop there
-  // without a comparison. The 15 bytes after it may also be read.
+  /// The unread bytes of the window. A zero byte follows at `end_`. XML can't contain one, so loops stop
+  /// there without a comparison. The 15 bytes after it may also be read.
+  ///@{
   const char* position_ = nullptr;
   const char* end_ = nullptr;
+  ///@}
 
  private:
   std::string_view Unread() const { return {position_, static_cast<std::size_t>(end_ - position_)}; }

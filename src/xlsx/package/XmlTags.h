@@ -10,8 +10,11 @@ namespace plotsmith::xlsx {
 
 /// A part of a text. The end is the position after the last character.
 struct TextSpan {
+  /// The positions of the first character and after the last one. Both are `npos` if there is no such part.
+  ///@{
   std::size_t begin = std::string::npos;
   std::size_t end = std::string::npos;
+  ///@}
   /// Returns true if the span was found.
   bool Found() const { return begin != std::string::npos; }
 };
@@ -20,8 +23,8 @@ struct TextSpan {
 struct XmlTag {
   /// The kind of a tag.
   enum class Kind { kStart, kEnd, kEmpty };
-  TextSpan span;
-  Kind kind = Kind::kStart;
+  TextSpan span;                ///< The tag with its angle brackets.
+  Kind kind = Kind::kStart;     ///< The kind of the tag.
   std::string_view name;        ///< As written.
   std::string_view attributes;  ///< As written, with the space before them.
 };

@@ -111,7 +111,7 @@ class ReadFile final : public ZipFile {
         if (count < 0) return Fail(ZIP_ER_READ);
         block_.resize(static_cast<std::size_t>(count));
         blockAt_ = position_;
-        if (count == 0) break;  // the file was truncated while it was read
+        if (count == 0) break;  // The file was truncated while it was read.
       }
       const auto offset = static_cast<std::size_t>(position_ - blockAt_);
       const auto count = std::min<zip_uint64_t>(block_.size() - offset, length - done);
@@ -140,7 +140,7 @@ class WriteFile final : public ZipFile {
       case ZIP_SOURCE_REMOVE:
         return 0;
       case ZIP_SOURCE_READ:
-        return 0;  // the new file is empty
+        return 0;  // The new file is empty.
       case ZIP_SOURCE_SEEK:
       case ZIP_SOURCE_TELL:
         return 0;
@@ -194,7 +194,7 @@ zip_source_t* MakeSource(std::unique_ptr<ZipFile> file) {
   zip_source_t* source = zip_source_function_create(ZipFile::Callback, file.get(), &error);
   zip_error_fini(&error);
   if (source == nullptr) throw PackageError("out of memory");
-  static_cast<void>(file.release());  // the source frees it
+  static_cast<void>(file.release());  // The source frees it.
   return source;
 }
 

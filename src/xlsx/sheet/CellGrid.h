@@ -12,7 +12,7 @@ namespace plotsmith::xlsx {
 
 /// A cell of a CellGrid.
 struct GridCell {
-  excel::CellValue::Kind kind = excel::CellValue::Kind::kEmpty;
+  excel::CellValue::Kind kind = excel::CellValue::Kind::kEmpty;  ///< The kind of the value.
   double number = 0;        ///< The value of a number; 1 or 0 of a Boolean.
   std::string text;         ///< The text of a text or an error value.
   std::uint32_t style = 0;  ///< An index into cellXfs.

@@ -81,14 +81,14 @@ struct Row {
   bool IsBefore(const Row& other) const {
     if (rank != other.rank) return rank < other.rank;
     if (rank == 1) return text < other.text;
-    return rank != 3 && number < other.number;  // errors are all equal
+    return rank != 3 && number < other.number;  // Errors are all equal.
   }
 };
 
 }  // namespace
 
 void SortRows(CellGrid& grid, const CellRange& range, const SortOptions& options) {
-  const std::int32_t last = std::min(range.row2, grid.RowCount());  // all cells below are empty
+  const std::int32_t last = std::min(range.row2, grid.RowCount());  // All cells below are empty.
   std::vector<Row> rows;
   for (std::int32_t row = range.row1; row <= last; ++row) {
     Row& taken = rows.emplace_back();

@@ -27,7 +27,7 @@ void CellStore::Column::AppendElsewhere(std::int32_t row, PackedValue value, std
   } else {
     for (std::int32_t gap = last + 1; gap < row; ++gap) values_.emplace_back();
   }
-  // rows without cells have no style
+  // Rows without cells have no style.
   if (row > last + 1 && lastStyle_ != 0) styles_.push_back({last + 1, lastStyle_ = 0});
   if (style != lastStyle_) styles_.push_back({row, lastStyle_ = style});
   values_.push_back(value);

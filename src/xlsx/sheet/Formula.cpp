@@ -53,7 +53,7 @@ bool Shift(A1Reference& reference, std::int32_t row, std::int32_t count) {
 
 }  // namespace
 
-// a text that is too long can't be a sheet's name
+// A text that is too long can't be a sheet's name.
 void FormulaReader::PointTo(std::string sheet, bool elsewhere) {
   place_ = elsewhere || runtime::Len(sheet) > limits::kSheetName ? Place::kElsewhere : Place::kSheet;
   sheet_ = place_ == Place::kSheet ? std::move(sheet) : std::string();
@@ -83,7 +83,7 @@ FormulaReader::Piece FormulaReader::TakeBracketed() {
   std::size_t i = 0;
   for (; i < rest_.size(); ++i) {
     if (rest_[i] == '\'' && depth > 0) {
-      ++i;  // the next character is literal
+      ++i;  // The next character is literal.
     } else if (rest_[i] == '[') {
       ++depth;
     } else if (rest_[i] == ']' && --depth == 0) {

@@ -51,7 +51,9 @@ class FormulaReader {
 
 /// An insertion of `count` rows at `row` of a sheet, or a deletion if `count` is negative. Rows count from 1.
 struct RowShift {
+  /// The first row that moves, from 1. For a deletion it is the first row that is removed.
   std::int32_t row;
+  /// The number of new rows. It is negative for removed rows.
   std::int32_t count;
   std::size_t number;  ///< The number of the change among those of all sheets.
 };

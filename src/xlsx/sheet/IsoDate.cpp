@@ -89,7 +89,7 @@ std::string DateText(std::int64_t day, DateSystem dates) {
 }  // namespace
 
 std::string IsoText(double serial, DateFields fields, DateSystem dates) {
-  // the last day that any format shows; the limit also prevents an overflow in the product below
+  // This is the last day that any format shows. The limit also prevents an overflow in the product below.
   if (fields == DateFields::kNone || !(std::fabs(serial) <= kLastSerial + 1)) return {};
   const auto milliseconds = static_cast<std::int64_t>(std::llround(serial * static_cast<double>(kDay)));
   if (fields == DateFields::kDuration) return DurationText(milliseconds);
@@ -113,7 +113,7 @@ std::optional<double> ParseIsoDate(std::string_view text, DateSystem dates) {
     const year_month_day date{std::chrono::year(*year), std::chrono::month(static_cast<unsigned>(*month)),
                               std::chrono::day(static_cast<unsigned>(*day))};
     if (!date.ok()) return std::nullopt;
-    // both systems count from a day before 1970; the 1900 system has a 29 February 1900, serial number 60
+    // Both systems count from a day before 1970. The 1900 system has a 29 February 1900, serial number 60.
     const auto days = sys_days(date).time_since_epoch().count();
     serial = days + kSerialOf1970 - SerialOffset(dates);
     if (dates == DateSystem::k1900 && serial <= kPhantomLeapDay) serial -= 1;

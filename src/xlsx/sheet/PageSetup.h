@@ -9,13 +9,15 @@ namespace plotsmith::xlsx {
 
 /// The page setup of a sheet. Lengths are in points.
 struct PageSetup {
-  double paperWidth = 612,
-         paperHeight = 792;  ///< The size of the page in its orientation; Letter by default.
-  double left = 50.4, right = 50.4, top = 54, bottom = 54;  ///< The margins; by default 0.7 and 0.75 inches.
-  double scale = 1;                                         ///< The scale of the contents; ignored if `fits`.
+  /// The size of the page in its orientation. By default it is Letter in portrait.
+  double paperWidth = 612, paperHeight = 792;
+  /// The margins. By default they are 0.7 and 0.75 inches.
+  double left = 50.4, right = 50.4, top = 54, bottom = 54;
+  double scale = 1;   ///< The scale of the contents; ignored if `fits`.
   bool fits = false;  ///< Whether the scale is chosen so that `fitWidth` by `fitHeight` pages suffice.
-  int fitWidth = 1, fitHeight = 1;  ///< 0 means any number of pages.
-  bool overThenDown = false;        ///< Whether pages to the right precede pages below.
+  /// The numbers of pages across and down if `fits`. 0 means any number.
+  int fitWidth = 1, fitHeight = 1;
+  bool overThenDown = false;  ///< Whether pages to the right precede pages below.
   /// Whether the contents are centred horizontally and vertically on the page.
   bool centersAcross = false, centersDown = false;
   /// Whether gridlines and the headings of rows and columns are printed.

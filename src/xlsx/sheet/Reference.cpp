@@ -140,7 +140,7 @@ std::string QuotedSheetName(std::string_view name) {
     plain = c < 0x80 ? IsLetter(static_cast<char>(c)) || IsDigit(static_cast<char>(c)) || c == '_' || c == '.'
                      : runtime::IsLetter(c);
   }
-  // a name that looks like a reference needs quotes, too
+  // A name that looks like a reference needs quotes, too.
   if (plain && !ReadA1Reference(name) && !ReadsAsR1C1(name)) return std::string(name);
   return "'" + runtime::Replace(name, "'", "''") + "'";
 }
@@ -151,7 +151,7 @@ std::string TakeQuotedSheetName(std::string_view& text) {
   for (; i < text.size(); ++i) {
     if (text[i] == '\'' && !text.substr(i + 1).starts_with('\'')) break;
     name += text[i];
-    if (text[i] == '\'') ++i;  // a doubled quote counts as one
+    if (text[i] == '\'') ++i;  // A doubled quote counts as one.
   }
   text.remove_prefix(std::min(i + 1, text.size()));
   return name;

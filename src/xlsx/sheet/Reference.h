@@ -10,12 +10,14 @@ namespace plotsmith::xlsx {
 
 /// A cell of a sheet. Row and column count from 1.
 struct CellPlace {
+  /// The numbers of the row and the column.
   std::int32_t row = 0, column = 0;
   bool operator==(const CellPlace&) const = default;
 };
 
 /// A rectangle of cells. Rows and columns count from 1, and both ends belong to it.
 struct CellRange {
+  /// The first and the last row and column.
   std::int32_t row1 = 1, column1 = 1, row2 = 1, column2 = 1;
 
   /// Number of rows.
@@ -58,6 +60,7 @@ std::optional<SheetRange> ParseSheetRange(std::string_view text);
 
 /// One corner of a reference in A1 style: a cell, or only a row or a column if the other number is 0.
 struct Corner {
+  /// The numbers of the row and the column, from 1.
   std::int32_t row = 0, column = 0;
   /// Whether a dollar sign precedes the number or the letters.
   bool rowAbsolute = false, columnAbsolute = false;
@@ -65,7 +68,8 @@ struct Corner {
 
 /// A reference as a formula writes it: one corner, or two with a colon, in the written order.
 struct A1Reference {
-  Corner first, second;    ///< Equal for a single cell.
+  /// The corners in the written order. They are equal for a single cell.
+  Corner first, second;
   bool range = false;      ///< Whether it has two corners.
   std::size_t length = 0;  ///< The length of its text.
 

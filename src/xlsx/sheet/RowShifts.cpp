@@ -33,7 +33,7 @@ void RowShifts::Add(std::string_view sheet, std::int32_t row, std::int32_t count
   auto& shifts = shifts_[runtime::UCase(sheet)];
   if (!shifts.empty() && shifts.back().number + 1 == count_ && !marked_) {
     RowShift& last = shifts.back();
-    // rows that are inserted or deleted one by one at the same position are one change
+    // Rows that are inserted or deleted one by one at the same position are one change.
     if (last.row == row && (last.count > 0) == (count > 0)) {
       last.count += count;
       return;

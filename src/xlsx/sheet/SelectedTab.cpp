@@ -28,7 +28,7 @@ void SelectOnlyTab(Package& package, const std::vector<std::string>& sheets, con
       std::string text = xml::ToUtf8(package.Read(sheet));
       if (SetViewSetting(text, kTabSelected, sheet == selected)) package.Replace(sheet, std::move(text));
     } catch (const PackageError&) {
-      // an unreadable sheet stays as it is
+      // An unreadable sheet stays as it is.
     }
   }
 }

@@ -53,7 +53,7 @@ class FormulaShifter {
       at = tag->span.end;
       if (tag->kind == XmlTag::Kind::kEnd) continue;
       const std::string_view local = xml::LocalName(tag->name);
-      // a row or cell without a reference follows the previous one
+      // A row or cell without a reference follows the previous one.
       if (local == "row") {
         const auto row = xml::ParseInteger(AttributeIn(tag->attributes, "r"));
         row_ = row ? static_cast<std::int32_t>(std::clamp<long long>(*row, 0, limits::kRows)) : row_ + 1;
@@ -89,7 +89,7 @@ class FormulaShifter {
     if (AttributeIn(tag.attributes, "t") == "shared") {
       const std::string group = AttributeIn(tag.attributes, "si");
       if (!formula.empty()) {
-        shared_.erase(group);  // group numbers are reused
+        shared_.erase(group);  // Group numbers are reused.
         const bool sound = runtime::Len(formula) <= limits::kFormula;
         if (sound && shifts_.MayConcern(formula)) shared_[group] = {row_, column_, formula};
       } else if (const auto found = shared_.find(group); found != shared_.end()) {

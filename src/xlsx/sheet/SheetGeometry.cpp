@@ -34,7 +34,7 @@ double DefaultColumnPoints(int characters, int digit) {
 }  // namespace
 
 int DigitWidth(const Styles& styles) {
-  // the exact value is known for common default fonts; for others it grows with the size in the same way
+  // The exact value is known for common default fonts. For others it grows with the size in the same way.
   struct Known {
     std::string_view font;
     double size;
@@ -46,14 +46,14 @@ int DigitWidth(const Styles& styles) {
   for (const Known& known : kKnown) {
     if (runtime::EqualsIgnoreCase(name, known.font) && size == known.size) return known.width;
   }
-  // a digit is about half as wide as the font is high
+  // A digit is about half as wide as the font is high.
   return std::max(1, static_cast<int>(std::lround(size * 96 / 72 * 0.48)));
 }
 
 void GridLines::SetSize(std::int32_t first, std::int32_t last, double size) {
   last = std::min(last, count_ - 1);
   if (first < 0 || first > last || (!own_.empty() && first <= own_.back().last)) return;
-  // some programs write a height for each row, which may be the same for a million rows
+  // Some programs write a height for each row, which may be the same for a million rows.
   if (!own_.empty() && first == own_.back().last + 1 && size == own_.back().size) {
     own_.back().last = last;
     return;
@@ -107,7 +107,7 @@ SheetGeometry ReadGeometry(const std::string& head,
   };
   std::vector<Columns> columns;
 
-  // the head has no end tag, so it is read as a stream of tags
+  // The head has no end tag, so it is read as a stream of tags.
   MemoryStream source(head);
   XmlStream stream(source);
   for (XmlStream::Tag tag = stream.Next(); tag.kind != XmlStream::Kind::kEndOfInput; tag = stream.Next()) {

@@ -42,8 +42,8 @@ class GridLines {
 
 /// The columns and rows of a sheet.
 struct SheetGeometry {
-  GridLines columns;
-  GridLines rows;
+  GridLines columns;  ///< The columns and their widths.
+  GridLines rows;     ///< The rows and their heights.
 };
 
 /// Returns the width of the widest digit in the Normal font, in pixels at 96 dots per inch. It is the unit of

@@ -99,7 +99,7 @@ class SheetScanner : public XmlStream {
       throw PackageError("it has more cells than Plotsmith supports");
     if (row_ == 0) row_ = 1;  // a cell outside of any row
     column_ = column;
-    // to Excel, a blank without a style is no cell; it doesn't extend the used range
+    // A blank without a style is no cell in Excel, and doesn't extend the used range.
     if (value.GetKind() != PackedValue::Kind::kEmpty || style != 0) Use(column);
     contents_.cells.Append(row_, column, value, style);
   }
@@ -149,7 +149,7 @@ bool SheetScanner::ReadHead() {
     }
     contents_.head.append(position_, open);
     position_ = open;
-    // the name can be compared only if the whole tag is in the window
+    // The name can be compared only if the whole tag is in the window.
     const char* close = nullptr;
     for (;;) {
       const std::string_view unread(position_, static_cast<std::size_t>(end_ - position_));
@@ -236,11 +236,11 @@ SheetScanner::Piece SheetScanner::ReadPiece() {
     return Piece::kCut;
   }
   position_ = open;
-  // the name can be recognized only with "<", the prefix, "c" and the character after it
+  // The name can be recognized only with "<", the prefix, "c" and the character after it.
   if (end_ - position_ < static_cast<std::ptrdiff_t>(prefix_.size()) + 3 && Fill()) return Piece::kTaken;
   const char* p = position_ + 1;
   if (At(p, "c")) return ReadCell(p);
-  const Tag tag = Next();  // other elements occur at most once per row
+  const Tag tag = Next();  // Other elements occur at most once per row.
   if (tag.kind == Kind::kEndOfInput) Damaged();
   if (tag.name == "row" && tag.kind != Kind::kEnd) ReadRow(tag.attributes);
   return tag.kind == Kind::kEnd && tag.name == "sheetData" ? Piece::kEnd : Piece::kTaken;
@@ -262,7 +262,7 @@ void SheetScanner::ReadRow(std::string_view attributes) {
 /// Reads `<c r="AB12" s="3" t="s"><v>123</v></c>`, which is a number or a shared text, or the same cell
 /// without a value; `s` and `t` may be missing.
 const char* SheetScanner::TakePlainCell(const char* p) {
-  // the length is known at compile time, so the comparison takes one or two instructions
+  // The length is known at compile time, so the comparison takes one or two instructions.
   const auto skip = [&]<std::size_t N>(const char(&text)[N]) {
     if (std::memcmp(p, text, N - 1) != 0) return false;
     p += N - 1;
@@ -356,7 +356,7 @@ SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
     }
   }
   Store(tag, text);
-  // a result of the type "str" may be the empty text
+  // A result of the type "str" may be the empty text.
   if (formula) TakeFormula(!text.empty() || tag.type == "str");
   position_ = p;
   return Piece::kTaken;

@@ -13,6 +13,7 @@ namespace plotsmith::xlsx {
 
 /// The contents of a sheet that Plotsmith uses.
 struct SheetContents {
+  /// The cells that have a value or a style.
   CellStore cells;
   /// The smallest rectangle that contains all cells, or nothing. The `dimension` element isn't used.
   std::optional<CellRange> used;

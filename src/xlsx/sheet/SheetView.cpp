@@ -23,7 +23,7 @@ std::int32_t CountIn(std::string_view attributes, std::string_view name, std::in
 
 void ReadPane(std::string_view attributes, SheetView& view) {
   view.topLeft = CellIn(attributes, "topLeftCell", view.topLeft);
-  if (!AttributeIn(attributes, "state").starts_with("frozen")) return;  // a split is measured in points
+  if (!AttributeIn(attributes, "state").starts_with("frozen")) return;  // A split is measured in points.
   view.frozenRows = CountIn(attributes, "ySplit", limits::kRows - 1);
   view.frozenColumns = CountIn(attributes, "xSplit", limits::kColumns - 1);
 }
@@ -49,7 +49,7 @@ SheetView ReadSheetView(Archive::Stream& part) {
       if (!pane.empty()) activePane = pane;
       ReadPane(tag.attributes, view);
     } else if (inView && tag.name == "selection") {
-      // each pane has its own selection
+      // Each pane has its own selection.
       const std::string pane = AttributeIn(tag.attributes, "pane");
       if (pane == activePane || (pane.empty() && activePane == "topLeft"))
         view.activeCell = CellIn(tag.attributes, "activeCell", view.activeCell);

@@ -117,7 +117,7 @@ const NumberFormat& Styles::Format(std::uint32_t style) const { return *Known(st
 void Styles::Parse(const CellStyle& style) const {
   static const std::shared_ptr<const NumberFormat> general = NumberFormat::Parse("General");
   style.format = NumberFormat::Parse(CodeOf(style.formatId));
-  if (!style.format) style.format = general;  // a format that Excel would refuse shows numbers as General
+  if (!style.format) style.format = general;  // A format that Excel would refuse shows numbers as General.
   style.general = style.format->IsGeneral();
   style.date = style.format->IsDate();
 }
@@ -153,7 +153,7 @@ std::uint32_t Styles::WithFormat(std::uint32_t base, std::string_view code) {
   }
   pugi::xml_node list = xml::EnsureInOrder(Root(), "cellXfs", kOrder);
   const std::string name = std::string(xml::Prefix(list.name())) + "xf";
-  if (cellStyles_.empty()) {  // cells without a style have the first one
+  if (cellStyles_.empty()) {  // Cells without a style have the first one.
     pugi::xml_node first = list.append_child(name.c_str());
     xml::SetAttribute(first, "numFmtId", "0");
     AddStyle(first);
@@ -191,7 +191,7 @@ void Styles::SetPaletteColor(std::int32_t index, std::int32_t color) {
   pugi::xml_node palette = xml::Child(colors, "indexedColors");
   if (!palette) palette = colors.prepend_child((prefix + "indexedColors").c_str());
   auto entries = xml::Children(palette, "rgbColor");
-  // the part contains the complete palette or none
+  // The part contains the complete palette or none.
   for (int i = static_cast<int>(entries.size()); i < kPaletteSize + kFixedColors; ++i) {
     pugi::xml_node entry = palette.append_child((prefix + "rgbColor").c_str());
     xml::SetAttribute(entry, "rgb",

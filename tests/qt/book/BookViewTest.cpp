@@ -134,7 +134,7 @@ TEST_F(BookViewTest, GridLinesAndHeadsAreThoseOfTheWindow) {
 }
 
 TEST_F(BookViewTest, AChartSheetShowsItsChart) {
-  // the charts' sheet becomes a chart sheet with the drawing of its first chart
+  // The charts' sheet becomes a chart sheet with the drawing of its first chart.
   auto book = test::SalesBook({test::Definition{}});
   book.Write(folder_ / "chartsheet.xlsx");
   test::EditPart(folder_ / "chartsheet.xlsx", "/xl/_rels/workbook.xml.rels", [](S& links) {

@@ -37,12 +37,12 @@ struct Cost {
 
 Cost Refresh(const std::string& book, bool throughCom) {
   StartSystem(std::make_shared<SilentDesktop>(), std::make_shared<forms::UnattendedView>());
-  const auto host = std::make_shared<dress::Host>();
+  const auto host = std::make_shared<automation::Host>();
   host->application->Open(book);
   excel::Ref<excel::Application> application(host->application);
   if (throughCom) {
-    const auto dressed = com::ComPtr<IDispatch>::Attach(dress::NewApplication(host));
-    application = excel::WrapApplication(dressed.Get());
+    const auto dispatch = com::ComPtr<IDispatch>::Attach(automation::NewApplication(host));
+    application = excel::WrapApplication(dispatch.Get());
   }
   const std::uint64_t calls = com::CallCount();
   const auto began = std::chrono::steady_clock::now();

@@ -94,7 +94,7 @@ class TextObject final : public IDispatch {
   STDMETHODIMP Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
                       UINT*) override {
     if (member != DISPID_VALUE || (flags & DISPATCH_PROPERTYGET) == 0) return DISP_E_MEMBERNOTFOUND;
-    // without a text it returns itself, like a hostile object
+    // Without a text, the object returns itself, as a hostile object may do.
     *result = (text_.empty() ? com::ToVariant(static_cast<IDispatch*>(this))
                              : com::ToVariant(runtime::Variant(text_)))
                   .Detach();

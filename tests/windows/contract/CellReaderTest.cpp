@@ -23,8 +23,8 @@ class CellReaderTest : public testing::Test {
       if (row % 5 != 0) sheet->SetCellValueAt(row, 3, row / 8.0);
     }
     sheet->Range("$B$2", "$B$1000")->SetNumberFormat("yyyy-mm-dd");
-    dressed_ = com::ComPtr<IDispatch>::Attach(dress::NewApplication(host_));
-    application_ = excel::WrapApplication(dressed_.Get());
+    dispatch_ = com::ComPtr<IDispatch>::Attach(automation::NewApplication(host_));
+    application_ = excel::WrapApplication(dispatch_.Get());
     direct_ = sheet;
     proxy_ = application_->ActiveWorkbook()->Worksheets()->Item(1);
   }
@@ -37,8 +37,8 @@ class CellReaderTest : public testing::Test {
     return com::CallCount() - before;
   }
 
-  dress::HostPtr host_ = std::make_shared<dress::Host>();
-  com::ComPtr<IDispatch> dressed_;
+  automation::HostPtr host_ = std::make_shared<automation::Host>();
+  com::ComPtr<IDispatch> dispatch_;
   Ref<excel::Application> application_;
   Ref<excel::Worksheet> direct_, proxy_;
 };

@@ -39,14 +39,14 @@ TEST(CorpusContractTest, TheHostsResultsAreTheSameThroughCom) {
   for (const char* folder :
        {"examples", "examples/data", "../shared/corpus/charts", "../shared/corpus/real"}) {
     for (const fs::path& book : BooksIn(folder)) {
-      const auto host = std::make_shared<dress::Host>();
+      const auto host = std::make_shared<automation::Host>();
       try {
         host->application->Open(runtime::Utf8Of(book));
       } catch (const xlsx::PackageError&) {
         continue;  // The host refuses it and reports an error.
       }
-      const auto dressed = com::ComPtr<IDispatch>::Attach(dress::NewApplication(host));
-      const auto proxy = excel::WrapApplication(dressed.Get());
+      const auto dispatch = com::ComPtr<IDispatch>::Attach(automation::NewApplication(host));
+      const auto proxy = excel::WrapApplication(dispatch.Get());
       EXPECT_EQ(FirstDifference(Describe(*host->application), Describe(*proxy)), "") << book;
       ++described;
     }
@@ -57,10 +57,10 @@ TEST(CorpusContractTest, TheHostsResultsAreTheSameThroughCom) {
 TEST(CorpusContractTest, SheetsWithoutCellsAreSheetsThroughCom) {
   const fs::path book = fs::path(PLOTSMITH_SOURCE_DIR) / "../shared/corpus/charts/chartsheet04.xlsx";
   if (!fs::exists(book)) GTEST_SKIP() << "the corpus is missing";
-  const auto host = std::make_shared<dress::Host>();
+  const auto host = std::make_shared<automation::Host>();
   host->application->Open(runtime::Utf8Of(book));
-  const auto dressed = com::ComPtr<IDispatch>::Attach(dress::NewApplication(host));
-  const auto book1 = excel::WrapApplication(dressed.Get())->ActiveWorkbook();
+  const auto dispatch = com::ComPtr<IDispatch>::Attach(automation::NewApplication(host));
+  const auto book1 = excel::WrapApplication(dispatch.Get())->ActiveWorkbook();
   const auto sheet = book1->Sheets()->Item("Chart1");
   EXPECT_EQ(dynamic_cast<excel::Worksheet*>(sheet.shared().get()), nullptr);
   EXPECT_NE(dynamic_cast<excel::Worksheet*>(book1->Sheets()->Item("Sheet1").shared().get()), nullptr);

@@ -49,18 +49,18 @@ class LiveProxiesTest : public testing::Test {
   void SetUp() override {
     StartSystem(desktop_, std::make_shared<forms::UnattendedView>());
     host_->application->Open(PLOTSMITH_SOURCE_DIR "/examples/countries.xlsx");
-    dressed_ = com::ComPtr<IDispatch>::Attach(dress::NewApplication(host_));
+    dispatch_ = com::ComPtr<IDispatch>::Attach(automation::NewApplication(host_));
   }
   void TearDown() override {
     StopSystem();
     EXPECT_EQ(com::LiveProxies(), 0);
     EXPECT_EQ(desktop_->said, said_);
   }
-  Ref<excel::Application> Excel() { return excel::WrapApplication(dressed_.Get()); }
+  Ref<excel::Application> Excel() { return excel::WrapApplication(dispatch_.Get()); }
 
   std::shared_ptr<QuietDesktop> desktop_ = std::make_shared<QuietDesktop>();
-  dress::HostPtr host_ = std::make_shared<dress::Host>();
-  com::ComPtr<IDispatch> dressed_;
+  automation::HostPtr host_ = std::make_shared<automation::Host>();
+  com::ComPtr<IDispatch> dispatch_;
   CPlotsmithController controller_;
   std::string said_;  ///< The expected texts of message boxes.
 };
@@ -134,10 +134,10 @@ TEST_F(LiveProxiesTest, ChartsOfATableStayLoadedWithTheirWorkbook) {
 
 TEST_F(LiveProxiesTest, ManyRefreshesLeaveNoMoreThanOne) {
   controller_.RefreshPlotsmithData(Excel(), "test", "");
-  const std::int32_t proxies = com::LiveProxies(), objects = dress::counts.objects;
+  const std::int32_t proxies = com::LiveProxies(), objects = automation::counts.objects;
   for (int i = 0; i < 50; ++i) controller_.RefreshPlotsmithData(Excel(), "test", "");
   EXPECT_EQ(com::LiveProxies(), proxies);
-  EXPECT_EQ(dress::counts.objects, objects);
+  EXPECT_EQ(automation::counts.objects, objects);
 }
 
 }  // namespace

@@ -17,13 +17,13 @@ std::string Words(const std::vector<excel::Variant>& values) {
 }
 
 void PortContract::SetUp() {
-  host_ = std::make_shared<dress::Host>();
+  host_ = std::make_shared<automation::Host>();
   host_->application->NewWorkbook();
   if (GetParam() == Way::kDirect) {
     application_ = host_->application;
   } else {
-    const auto dressed = com::ComPtr<IDispatch>::Attach(dress::NewApplication(host_));
-    application_ = excel::WrapApplication(dressed.Get());
+    const auto dispatch = com::ComPtr<IDispatch>::Attach(automation::NewApplication(host_));
+    application_ = excel::WrapApplication(dispatch.Get());
   }
   host_->application->Journal().SetSink([this](std::string_view line) { journal_.append(line) += '\n'; });
 

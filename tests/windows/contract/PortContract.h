@@ -60,10 +60,10 @@ class PortContract : public testing::TestWithParam<Way> {
   Ref<excel::Worksheet> Sheet() { return Book()->Worksheets()->Item(1); }
   Ref<excel::Chart> Chart() { return Sheet()->ChartObjects()->Item("Chart 1")->Chart(); }
   Ref<excel::Series> Series() { return Chart()->SeriesCollection()->Item(1); }
-  dress::Host& Host() { return *host_; }
+  automation::Host& Host() { return *host_; }
 
  private:
-  dress::HostPtr host_;
+  automation::HostPtr host_;
   Ref<excel::Application> application_;
   std::string journal_;
 };

@@ -502,7 +502,7 @@ TEST(WireTest, EveryMemberHasARow) {
   // CellReader calls these, and CellReaderTest checks the results
   std::set<std::string> inRows = {"Range.DisplayFormat read", "Range.Formula read", "Range.HasFormula read"};
   for (const Row& row : AllRows()) inRows.merge(MembersIn(row));
-  for (const std::string& way : dress::AllWays()) EXPECT_TRUE(inRows.contains(way)) << way;
+  for (const std::string& way : automation::AllWays()) EXPECT_TRUE(inRows.contains(way)) << way;
 }
 
 }  // namespace

@@ -11,13 +11,13 @@ namespace {
 class WholeTables final : public testing::Environment {
   void TearDown() override {
     if (testing::GTEST_FLAG(filter) != "*") return;
-    auto notCalled = plotsmith::dress::WaysNotCalled();
+    auto notCalled = plotsmith::automation::WaysNotCalled();
     // Only the corpus has a sheet without cells, which needs the lines of worksheets.
     if (!std::filesystem::exists(PLOTSMITH_SOURCE_DIR "/../shared/corpus")) {
       std::erase_if(notCalled, [](const std::string& way) { return way.starts_with("Sheet."); });
     }
     EXPECT_EQ(notCalled, std::vector<std::string>());
-    EXPECT_EQ(plotsmith::dress::counts.unsure, 0);
+    EXPECT_EQ(plotsmith::automation::counts.unsure, 0);
   }
 };
 

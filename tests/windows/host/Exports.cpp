@@ -5,7 +5,7 @@
 
 #include "tests/windows/host/HostMembers.h"
 
-namespace plotsmith::dress {
+namespace plotsmith::automation {
 namespace {
 
 constexpr CLSID kClass = {0x6F1C2B54, 0x8E0D, 0x4B7A, {0x9A, 0x63, 0x2D, 0x51, 0xC7, 0x0E, 0x84, 0xF9}};
@@ -41,9 +41,9 @@ HRESULT SetText(const std::wstring& key, const wchar_t* name, const std::wstring
 }
 
 }  // namespace
-}  // namespace plotsmith::dress
+}  // namespace plotsmith::automation
 
-using namespace plotsmith::dress;
+using namespace plotsmith::automation;
 
 extern "C" {
 

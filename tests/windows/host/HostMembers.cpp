@@ -12,7 +12,7 @@
 #include "xlsx/Workbook.h"
 #include "xlsx/package/PackageError.h"
 
-namespace plotsmith::dress {
+namespace plotsmith::automation {
 namespace {
 
 using runtime::RuntimeError;
@@ -118,11 +118,11 @@ com::OwnedVariant WaysCalled(excel::Application&, const Arguments&, const HostPt
   return com::ToVariant(lines);
 }
 
-/// Spoil(way, how, callback): makes a way to call a member return results that Excel never returns; see
-/// Spoilt.
-com::OwnedVariant Spoil(excel::Application&, const Arguments& arguments, const HostPtr& host) {
-  host->spoiltWay = Given<std::string>(arguments[0]);
-  host->spoiltHow = Given<std::string>(arguments[1]);
+/// SetFault(way, fault, callback): makes a way to call a member return results that Excel never returns; see
+/// FaultyResult.
+com::OwnedVariant SetFault(excel::Application&, const Arguments& arguments, const HostPtr& host) {
+  host->faultyWay = Given<std::string>(arguments[0]);
+  host->fault = Given<std::string>(arguments[1]);
   host->callback = com::IsMissing(arguments[2]) ? nullptr : com::ObjectOf(arguments[2]);
   return {};
 }
@@ -145,7 +145,7 @@ void ListWays(Which which, std::vector<std::string>& list) {
 
 /// The members for scripts.
 constexpr std::array kHostMembers = {"Open",        "Save",        "SaveAs",      "Journal",
-                                     "SaveJournal", "Spoil",       "DefineMacro", "Editing",
+                                     "SaveJournal", "SetFault",    "DefineMacro", "Editing",
                                      "Calls",       "UnsureCalls", "LiveObjects", "WaysCalled"};
 
 std::vector<std::string> Ways(Which which) {
@@ -176,13 +176,13 @@ void AddHostMembers(Table<excel::Application>& table) {
   table.Add({L"Calls", DISPATCH_PROPERTYGET, 0, 0, nullptr, Calls});
   table.Add({L"UnsureCalls", DISPATCH_PROPERTYGET, 0, 0, nullptr, UnsureCalls});
   table.Add({L"WaysCalled", DISPATCH_PROPERTYGET, 0, 0, nullptr, WaysCalled});
-  table.Add({L"Spoil", DISPATCH_METHOD, 2, 3, nullptr, Spoil});
+  table.Add({L"SetFault", DISPATCH_METHOD, 2, 3, nullptr, SetFault});
   table.Add({L"LiveObjects", DISPATCH_PROPERTYGET, 0, 0, nullptr, LiveObjects});
 }
 
 IDispatch* NewApplication(HostPtr host) {
   const Ref<excel::Application> application(host->application);
-  return new Dressed<excel::Application>(application, std::move(host));
+  return new ComObject<excel::Application>(application, std::move(host));
 }
 
-}  // namespace plotsmith::dress
+}  // namespace plotsmith::automation

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tests/windows/host/Dress.h"
+#include "tests/windows/host/Automation.h"
 
-namespace plotsmith::dress {
+namespace plotsmith::automation {
 
 /// Adds the host's members for scripts, which HostMembers.cpp lists.
 void AddHostMembers(Table<excel::Application>& table);
@@ -15,4 +15,4 @@ std::vector<std::string> WaysNotCalled();
 /// Makes a host as IDispatch with one reference, which the caller owns.
 IDispatch* NewApplication(HostPtr host = std::make_shared<Host>());
 
-}  // namespace plotsmith::dress
+}  // namespace plotsmith::automation

@@ -108,21 +108,21 @@ boxes.FreeUnusedLibraries();
 // sheets, ranges, cells, names, shapes, charts, series, axes. All failures are reported, and the component works
 // afterwards.
 var book = WScript.Arguments(3);
-var kWays = ["throws", "Null", "Empty", "Nothing", "a number", "a text", "an array", "another object", "calls back"];
+var kFaults = ["throws", "Null", "Empty", "Nothing", "a number", "a text", "an array", "another object", "calls back"];
 
-function spoiltHost(way, how, callback) {
+function faultyHost(way, fault, callback) {
   var host = new ActiveXObject("PlotsmithTestHost.Application");
   host.Open(book);
-  if (way) host.Spoil(way, how, callback);
+  if (way) host.SetFault(way, fault, callback);
   return host;
 }
 
-// Returns the texts of the boxes in a refresh with a spoilt member.
-function spoiltRefresh(way, how) {
+// Returns the texts of the boxes in a refresh with a faulty member.
+function refreshWithFault(way, fault) {
   var controller = newController();
-  var host = spoiltHost(way, how, function() { controller.RefreshPlotsmithData(host, "Add-in", ""); });
+  var host = faultyHost(way, fault, function() { controller.RefreshPlotsmithData(host, "Add-in", ""); });
   var result = resultOf(function() { controller.RefreshPlotsmithData(host, "Add-in", ""); });
-  host.Spoil("", "");  // the callback would keep the host
+  host.SetFault("", "");  // the callback would keep the host
   if (result !== "ok") return "the call fails with " + result;
   return boxes.Take();
 }
@@ -137,32 +137,32 @@ function isSaid(box) {
   return /^Brindle Plotsmith \[OK\]( of Please Wait)?: (\w+\.\w+\\r\\n.|[A-Z].*\.$|Unable to )/.test(box);
 }
 
-var untouched = spoiltHost();
+var untouched = faultyHost();
 newController().RefreshPlotsmithData(untouched, "Add-in", "");
-check("without spoilt members", boxes.Take(), "");
+check("without faulty members", boxes.Take(), "");
 var plain = untouched.Journal;
 var members = untouched.WaysCalled.split("\n");
 untouched = null;
-// Two ways of spoiling for each member, different ones for the next member: all ways for each member would take too
+// Two faults for each member, different ones for the next member: all faults for each member would take too
 // long.
 (function() {
   var runs = 0;
   var reported = 0;
   for (var i = 0; i < 2 * (members.length - 1); ++i) {
     var member = members[Math.floor(i / 2)];
-    var how = kWays[(Math.floor(i / 2) + 4 * (i % 2)) % kWays.length];
-    var said = spoiltRefresh(member, how);
+    var fault = kFaults[(Math.floor(i / 2) + 4 * (i % 2)) % kFaults.length];
+    var said = refreshWithFault(member, fault);
     ++runs;
     reported += said === "" ? 0 : 1;
     var shown = said === "" ? [] : said.split("\n");
     for (var k = 0; k < shown.length; ++k) {
-      if (!isSaid(shown[k])) check(member + ", " + how, shown[k], "a report");
-      if (how === "calls back" && !isAtWork(shown[k])) check(member + ", " + how, shown[k], kAtWork);
+      if (!isSaid(shown[k])) check(member + ", " + fault, shown[k], "a report");
+      if (fault === "calls back" && !isAtWork(shown[k])) check(member + ", " + fault, shown[k], kAtWork);
     }
   }
   WScript.Echo(runs + " runs, " + reported + " reported");
   check("members that a refresh calls", members.length > 80, true);
-  check("reports of spoilt members", reported > 80, true);
+  check("reports of faulty members", reported > 80, true);
 })();
 CollectGarbage();
 boxes.FreeUnusedLibraries();
@@ -170,7 +170,7 @@ check("the DLL is unloaded", boxes.IsLoaded("Plotsmith.dll"), false);
 
 // The component still works after all of this.
 (function() {
-  var host = spoiltHost();
+  var host = faultyHost();
   newController().RefreshPlotsmithData(host, "Add-in", "");
   check("after all", boxes.Take(), "");
   check("after all runs: the journal", host.Journal, plain);

@@ -54,7 +54,7 @@ TEST(ChartEnumerationsTest, NumbersNamesAndTokensMatch) {
     }
     EXPECT_TRUE(c.enumeration.absent.empty() || c.enumeration.Number(c.enumeration.absent));
   }
-  // the members of the patterns have consecutive numbers
+  // The members of the patterns have consecutive numbers.
   for (std::int32_t number = 1; number <= 54; ++number) EXPECT_TRUE(kPatterns.Token(number)) << number;
 }
 

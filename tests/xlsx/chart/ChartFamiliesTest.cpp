@@ -299,8 +299,9 @@ TEST_F(ChartFamiliesTest, ColumnsAndALineShareTheirAxes) {
   EXPECT_LT(after.find("<c:barChart>"), after.find("<c:lineChart>"));
 
   // Settings of either group are kept by the next refresh.
-  const S dressed = runtime::Replace(after, "<c:marker val=\"1\"/>", "<c:hiLowLines/><c:marker val=\"1\"/>");
-  const S again = Sound(dressed, draw);
+  const S withLines =
+      runtime::Replace(after, "<c:marker val=\"1\"/>", "<c:hiLowLines/><c:marker val=\"1\"/>");
+  const S again = Sound(withLines, draw);
   EXPECT_TRUE(Has(again, "<c:hiLowLines/>"));
   EXPECT_EQ(CountOf(again, "<c:ser>"), 4u);
   EXPECT_EQ(CountOf(again, "Chart>"), CountOf(after, "Chart>"));

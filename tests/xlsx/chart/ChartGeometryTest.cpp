@@ -184,7 +184,7 @@ TEST_F(ChartGeometryTest, ALegendIsAtItsSideOrAtItsManualPosition) {
 }
 
 TEST_F(ChartGeometryTest, ALegendAboveOrBelowHasAsManyRowsAsItsEntriesFill) {
-  // a key is 24 points wide with its gaps, the chart has 370 points between its insets, and AV takes 11.46
+  // A key is 24 points wide with its gaps, the chart has 370 points between its insets, and AV takes 11.46.
   for (const auto& [letters, rows] : {std::pair{30, 1}, {31, 2}, {62, 2}, {63, 3}}) {
     S name;
     for (int i = 0; i < letters; ++i) name += "AV";

@@ -102,7 +102,7 @@ class ChartAreaObject final : public excel::ChartArea {
     area_.Log().Put(area_.path, "AutoScaleFont", value);
   }
   double Width() override {
-    area_.find();  // error 1004 if the chart was deleted
+    area_.find();  // Raises error 1004 if the chart was deleted.
     return ChartSize(frame_).width;
   }
 

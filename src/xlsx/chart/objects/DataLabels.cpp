@@ -36,13 +36,13 @@ std::vector<pugi::xml_node> AllOf(pugi::xml_node labels) {
 /// The runs of a label's own text don't inherit the label's format, so the format is repeated in each run.
 void FormatRuns(pugi::xml_node label) {
   for (const pugi::xml_node& paragraph : xml::Children(xml::Child(label, "tx", "rich"), "p")) {
-    const auto dress = xml::Child(paragraph, "pPr", "defRPr");
+    const auto defaults = xml::Child(paragraph, "pPr", "defRPr");
     for (const pugi::xml_node& run : xml::Children(paragraph, "r")) {
       const pugi::xml_node properties = schema::Ensure(run, "rPr");
-      for (const pugi::xml_attribute& attribute : dress.attributes()) {
+      for (const pugi::xml_attribute& attribute : defaults.attributes()) {
         xml::SetAttribute(properties, attribute.name(), xml::Decode(attribute.value()));
       }
-      for (const pugi::xml_node& child : dress.children()) schema::InsertCopy(properties, child);
+      for (const pugi::xml_node& child : defaults.children()) schema::InsertCopy(properties, child);
     }
   }
 }

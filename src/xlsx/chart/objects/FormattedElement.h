@@ -15,9 +15,9 @@ namespace plotsmith::xlsx {
 /// A chart element with shape properties. Each use looks it up again, because the element may be replaced,
 /// and its `spPr` added and removed, between two uses.
 struct FormattedElement {
-  std::shared_ptr<ChartPart> part;
-  std::function<pugi::xml_node()> find;
-  std::function<std::string()> path;  ///< the object's path in the journal
+  std::shared_ptr<ChartPart> part;       ///< the chart part of the element
+  std::function<pugi::xml_node()> find;  ///< looks the element up; a null node if it is missing
+  std::function<std::string()> path;     ///< the object's path in the journal
 
   /// The shape properties; a null node if there are none.
   pugi::xml_node FindProperties() const { return xml::Child(find(), "spPr"); }

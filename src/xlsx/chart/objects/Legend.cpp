@@ -94,7 +94,7 @@ class LegendObject final : public excel::Legend {
     const double start = side == (horizontal ? "l" : "t") || (!horizontal && side == "tr")  ? kNear
                          : side == (horizontal ? "r" : "b") || (horizontal && side == "tr") ? kFar
                                                                                             : kMiddle;
-    return start + value.value_or(0);  // the mode `factor` counts from the automatic position
+    return start + value.value_or(0);  // The mode `factor` counts from the automatic position.
   }
 
   void SetPlace(const char* property, const char* mode, const char* fraction, double points, double extent) {

@@ -11,8 +11,8 @@ namespace plotsmith::xlsx {
 
 /// A series of a chart, which may be deleted while an object still refers to it.
 struct SeriesHandle {
-  std::shared_ptr<ChartPart> part;
-  SeriesRef entry;
+  std::shared_ptr<ChartPart> part;  ///< The chart part of the series.
+  SeriesRef entry;                  ///< The entry, whose node is null after the series was deleted.
 
   /// The series element; error 1004 if the series was deleted.
   pugi::xml_node Node() const;

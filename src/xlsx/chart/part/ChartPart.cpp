@@ -64,7 +64,7 @@ pugi::xml_node ChartPart::Space() {
 
 void ChartPart::Load() {
   if (deleted_) throw Refusal("The object has been deleted.");
-  if (document_ || unreadable_) return;  // a part that can't be read isn't tried again
+  if (document_ || unreadable_) return;  // A part that can't be read isn't tried again.
   auto document = std::make_unique<pugi::xml_document>();
   try {
     if (part_.empty()) throw PackageError("the chart's part is missing");
@@ -172,7 +172,7 @@ void ChartPart::Follow() {
 }
 
 void ChartPart::Write() {
-  if (!book_.Shifts().None()) Load();  // the chart may refer to rows that have moved
+  if (!book_.Shifts().None()) Load();  // The chart may refer to rows that have moved.
   if (!document_) return;
   Follow();
   if (drawing_) drawing_->Write();

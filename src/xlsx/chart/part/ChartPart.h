@@ -19,8 +19,10 @@ class ChartParts;
 /// A series element. It becomes a null node when the series is deleted, because objects may still refer to
 /// it.
 struct SeriesEntry {
+  /// The element c:ser, or null.
   pugi::xml_node node;
 };
+/// A series element that its objects share.
 using SeriesRef = std::shared_ptr<SeriesEntry>;
 
 /// A chart part, whose document the objects of a chart are views of. It is parsed at the first use, and

@@ -21,6 +21,7 @@ inline constexpr double kLeastShare = 0.1;
 
 /// The space at the four sides of a rectangle, in points.
 struct Edges {
+  /// The distances from the edges to the contents.
   double left = 0, top = 0, right = 0, bottom = 0;
 };
 

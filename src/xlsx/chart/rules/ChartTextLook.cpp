@@ -100,8 +100,8 @@ std::vector<TextLook> LooksOfLegend(ChartPart& part, pugi::xml_node legend) {
   std::vector<TextLook> looks = {Look(part, {own}, TextRole::kOther)};
   for (const pugi::xml_node& entry : xml::Children(legend, "legendEntry")) {
     if (schema::BooleanVal(entry, "delete", false)) continue;
-    const auto dress = DefaultsOfBody(xml::Child(entry, "txPr"));
-    if (dress) looks.push_back(Look(part, {dress, own}, TextRole::kOther));
+    const auto defaults = DefaultsOfBody(xml::Child(entry, "txPr"));
+    if (defaults) looks.push_back(Look(part, {defaults, own}, TextRole::kOther));
   }
   return looks;
 }
@@ -113,11 +113,11 @@ std::vector<TextLook> LooksOfLabels(ChartPart& part, pugi::xml_node labels, std:
   for (const pugi::xml_node& label : xml::Children(labels, "dLbl")) {
     ++special;
     if (schema::BooleanVal(label, "delete", false)) continue;
-    const auto dress = DefaultsOfBody(xml::Child(label, "txPr"));
+    const auto defaults = DefaultsOfBody(xml::Child(label, "txPr"));
     const auto rich = xml::Child(label, "tx", "rich");
     const std::size_t before = looks.size();
-    AddRuns(part, rich, {dress, own}, TextRole::kOther, looks);
-    if (looks.size() == before) looks.push_back(Look(part, {dress, own}, TextRole::kOther));
+    AddRuns(part, rich, {defaults, own}, TextRole::kOther, looks);
+    if (looks.size() == before) looks.push_back(Look(part, {defaults, own}, TextRole::kOther));
   }
   // If each point has its own label, no label has the common format.
   if (special < points || looks.empty()) looks.push_back(Look(part, {own}, TextRole::kOther));

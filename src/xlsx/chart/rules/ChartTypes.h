@@ -16,11 +16,11 @@ enum class SeriesTrait { kNone, kNoMarkers, kMarkers, kMarkersOnly, kExploded, k
 
 /// One of Excel's chart types, as it is stored in the file (ECMA-376-1, 21.2.2).
 struct ChartTypeEntry {
-  std::int32_t number;         ///< XlChartType
-  std::string_view element;    ///< the name of the plot group's element
-  std::string_view direction;  ///< `barDir`; empty for a group without it
-  std::string_view grouping;   ///< `grouping`; empty for a group without it
-  SeriesTrait trait = SeriesTrait::kNone;
+  std::int32_t number;                     ///< XlChartType
+  std::string_view element;                ///< the name of the plot group's element
+  std::string_view direction;              ///< `barDir`; empty for a group without it
+  std::string_view grouping;               ///< `grouping`; empty for a group without it
+  SeriesTrait trait = SeriesTrait::kNone;  ///< what the type sets for its series
 
   /// Returns true for a 3-D chart.
   bool Is3D() const { return element.find("3D") != std::string_view::npos; }

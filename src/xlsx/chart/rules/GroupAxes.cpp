@@ -214,7 +214,7 @@ void LinkDepthAxis(pugi::xml_node plotArea, pugi::xml_node group, pugi::xml_node
     schema::SetVal(depth, "crossAx", AxisId(first));
     Link(group, AxisId(depth));
   } else if (type.Is3D()) {
-    Link(group, "0");  // a 3-D group names three axes even if it has two
+    Link(group, "0");  // A 3-D group names three axes even if it has two.
   }
 }
 

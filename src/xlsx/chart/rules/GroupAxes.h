@@ -16,6 +16,7 @@ std::vector<pugi::xml_node> AxesOf(pugi::xml_node group);
 /// The axes of a group by their roles. A group whose points have X values has `x` instead of `category`.
 /// Axes that the group doesn't have are null.
 struct AxisRoles {
+  /// The axis elements, such as c:catAx.
   pugi::xml_node category, x, value, depth;
 };
 /// Returns the axes of a group by their roles.

@@ -44,7 +44,7 @@ std::map<std::size_t, std::string> CategoryTexts(ChartPart& part, pugi::xml_node
       texts = std::move(own);
       continue;
     }
-    // a text of an outer level is valid until the next one
+    // A text of an outer level is valid until the next one.
     for (auto& [index, text] : texts) {
       const auto next = own.upper_bound(index);
       if (next != own.begin()) text.insert(0, std::prev(next)->second + " ");

@@ -16,7 +16,7 @@ struct LegendLine {
   std::size_t number;                ///< among all entries, including deleted ones
   std::size_t series;                ///< the position, in plot order, of the series that the key shows
   std::optional<std::size_t> point;  ///< the point, in a legend of points
-  std::string text;
+  std::string text;                  ///< the shown text
 };
 /// The numbers of the first `most` entries that were not deleted. The limit matters because a part may
 /// declare millions of points that it doesn't contain.

@@ -168,7 +168,7 @@ SeriesRef AddSeries(ChartPart& part) {
   } else if (const ChartTypeEntry* ofGroup = TypeOfGroup(group)) {
     FitToGroup(part, series, *ofGroup);
   }
-  SetLabels(series, false);  // a new series has no labels, even if its group has some
+  SetLabels(series, false);  // A new series has no labels, even if its group has some.
   ClearStaleLegendEntries(part, all.size());
   if (all.empty() && part.WasEmptyWhenOpened()) ShowAxes(part);
   all.push_back(std::make_shared<SeriesEntry>(SeriesEntry{series}));

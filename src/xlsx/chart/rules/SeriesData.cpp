@@ -165,7 +165,7 @@ std::size_t DataPoints(ChartPart& part, pugi::xml_node data) {
 }
 
 std::string SourceText(ChartPart& part, pugi::xml_node tx) {
-  constexpr std::size_t kMostCells = 1000;  // a chart may have many series that refer to large ranges
+  constexpr std::size_t kMostCells = 1000;  // A chart may have many series that refer to large ranges.
   if (xml::Child(tx, "v")) return CachedText(tx);
   const auto cells = FindUncached(part, tx);
   if (cells && cells->CellCount() > kMostCells) return {};
@@ -189,7 +189,7 @@ std::string ShownName(ChartPart& part, pugi::xml_node series) {
 void SetSeriesData(ChartPart& part, pugi::xml_node series, SeriesData which, const Variant& value) {
   const auto* text = value.If<std::string>();
   if (text == nullptr) throw CantSet(PropertyName(which), "Series");
-  part.FollowMovedRows();  // references that are set now are up to date
+  part.FollowMovedRows();  // References that are set now are up to date.
   if (which == SeriesData::kName && !text->starts_with('=')) {
     SetCachedText(Emptied(series, "tx"), *text);
   } else {

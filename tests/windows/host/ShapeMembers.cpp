@@ -1,6 +1,6 @@
-#include "tests/windows/host/Dress.h"
+#include "tests/windows/host/Automation.h"
 
-namespace plotsmith::dress {
+namespace plotsmith::automation {
 namespace {
 
 std::int32_t NumberOr(const VARIANT& value, std::int32_t otherwise) {
@@ -26,7 +26,7 @@ void AddWays(Table<excel::TextFrame>& table) {
 
 }  // namespace
 
-#include "tests/windows/host/DressLines.h"
+#include "tests/windows/host/MemberLines.h"
 #include "windows/excel/members/Shapes.inc"
 
-}  // namespace plotsmith::dress
+}  // namespace plotsmith::automation

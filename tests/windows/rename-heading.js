@@ -1,4 +1,4 @@
-// Deletes the heading of a column, as a user does in Excel: spoil.js BOOK OUTPUT SHEET ROW COLUMN
+// Changes the heading of a column, as a user does in Excel: rename-heading.js BOOK OUTPUT SHEET ROW COLUMN
 var given = WScript.Arguments;
 var excel = new ActiveXObject("PlotsmithTestHost.Application");
 excel.Open(given(0));

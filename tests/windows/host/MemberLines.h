@@ -1,5 +1,5 @@
 // Expands the lines of the tables in src/windows/excel/members/ to ways into the embedded host. README.md
-// there explains them. For source files in the namespace plotsmith::dress.
+// there explains them. For source files in the namespace plotsmith::automation.
 
 // clang-format off
 #define CLASS(Class)                                   \

@@ -18,7 +18,7 @@
 
 /// Presents the embedded host as Excel: its objects have IDispatch. The tables of src/windows/excel/members
 /// define both these COM objects and the proxies.
-namespace plotsmith::dress {
+namespace plotsmith::automation {
 
 using excel::Ref;
 
@@ -35,9 +35,10 @@ struct Host {
   IDispatch* workbook = nullptr;
   bool displayFormulas = false;  ///< cells show their formulas
 
-  /// The spoilt way to call a member, such as "Series.Values read", and the kind of spoiling: see Spoilt.
-  std::string spoiltWay, spoiltHow;
-  com::ComPtr<IDispatch> callback;  ///< called by a spoilt member of the kind "calls back"
+  /// The way to call a member that is faulty, such as "Series.Values read", and its fault; see FaultyResult.
+  /// The way is empty if there is none.
+  std::string faultyWay, fault;
+  com::ComPtr<IDispatch> callback;  ///< called by a member with the fault "calls back"
 };
 using HostPtr = std::shared_ptr<Host>;
 
@@ -98,7 +99,7 @@ class Table {
   /// Returns the way to call a member, or null if it can't be called in this way.
   const Way<T>* Find(DISPID id, WORD kinds, const Arguments& arguments) const;
   const std::vector<Way<T>>& Ways() const { return ways_; }
-  std::string NameOf(const Way<T>& way) const { return dress::NameOf(className_, way.name, way.kind); }
+  std::string NameOf(const Way<T>& way) const { return automation::NameOf(className_, way.name, way.kind); }
 
  private:
   std::string className_;
@@ -138,10 +139,10 @@ class Dispatch : public IDispatch {
 
 /// An object of the host as IDispatch.
 template <class T>
-class Dressed final : public Dispatch {
+class ComObject final : public Dispatch {
  public:
-  Dressed(Ref<T> object, HostPtr host) : host_(std::move(host)), object_(std::move(object)) {}
-  ~Dressed() override {
+  ComObject(Ref<T> object, HostPtr host) : host_(std::move(host)), object_(std::move(object)) {}
+  ~ComObject() override {
     if (host_->workbook == this) host_->workbook = nullptr;
   }
 
@@ -155,9 +156,10 @@ class Dressed final : public Dispatch {
   Ref<T> object_;
 };
 
-/// Returns the result of a spoilt member: an error, "Null", "Empty", "Nothing", a number, a text, an object
-/// of another class, or an array; absent if it calls back first and then returns the usual result.
-std::optional<com::OwnedVariant> Spoilt(const HostPtr& host);
+/// Returns the result of a faulty member by its fault: an error, "Null", "Empty", "Nothing", a number, a
+/// text, an object of another class, or an array; absent if it calls back first and then returns the usual
+/// result.
+std::optional<com::OwnedVariant> FaultyResult(const HostPtr& host);
 
 /// Calls the default member of an object with arguments that a property itself doesn't have: Sheets("A").
 com::OwnedVariant ItemOf(const com::OwnedVariant& collection, const Arguments& arguments);
@@ -167,13 +169,13 @@ template <class T>
 com::OwnedVariant Answer(const Ref<T>& object, const HostPtr& host) {
   if (!object) return com::ToVariant(static_cast<IDispatch*>(nullptr));
   if constexpr (std::is_same_v<T, excel::Workbook>) {
-    const auto* known = dynamic_cast<Dressed<T>*>(host->workbook);
+    const auto* known = dynamic_cast<ComObject<T>*>(host->workbook);
     if (known != nullptr && known->Object().shared() == object.shared())
       return com::ToVariant(host->workbook);
   }
-  const auto dressed = com::ComPtr<IDispatch>::Attach(new Dressed<T>(object, host));
-  if constexpr (std::is_same_v<T, excel::Workbook>) host->workbook = dressed.Get();
-  return com::ToVariant(dressed.Get());
+  const auto comObject = com::ComPtr<IDispatch>::Attach(new ComObject<T>(object, host));
+  if constexpr (std::is_same_v<T, excel::Workbook>) host->workbook = comObject.Get();
+  return com::ToVariant(comObject.Get());
 }
 /// Returns a sheet as IDispatch, as a worksheet if it is one.
 com::OwnedVariant Answer(const Ref<excel::Sheet>& sheet, const HostPtr& host);
@@ -184,12 +186,12 @@ inline com::OwnedVariant Answer(const std::vector<excel::Variant>& values, const
 
 /// Returns the host's object behind an IDispatch; Nothing for Nothing. Raises error 13 for other objects.
 template <class T>
-Ref<T> Undressed(const VARIANT& value) {
+Ref<T> ObjectBehind(const VARIANT& value) {
   const auto object = com::ObjectOf(value);
   if (!object) return nullptr;
-  const auto* dressed = dynamic_cast<Dressed<T>*>(object.Get());
-  if (dressed == nullptr) throw runtime::RuntimeError(runtime::error::kTypeMismatch);
-  return dressed->Object();
+  const auto* comObject = dynamic_cast<ComObject<T>*>(object.Get());
+  if (comObject == nullptr) throw runtime::RuntimeError(runtime::error::kTypeMismatch);
+  return comObject->Object();
 }
 
 /// Converts a result of the port to the type in the tables.
@@ -257,12 +259,12 @@ const Way<T>* Table<T>::Find(DISPID id, WORD kinds, const Arguments& arguments) 
 }
 
 template <class T>
-com::OwnedVariant Dressed<T>::Called(DISPID id, WORD kinds, const Arguments& arguments) {
+com::OwnedVariant ComObject<T>::Called(DISPID id, WORD kinds, const Arguments& arguments) {
   const Way<T>* way = TableOf<T>().Find(id, kinds, arguments);
   if (way == nullptr) throw HRESULT{DISP_E_MEMBERNOTFOUND};
   way->called = true;
-  if (!host_->spoiltWay.empty() && TableOf<T>().NameOf(*way) == host_->spoiltWay) {
-    if (auto spoilt = Spoilt(host_)) return std::move(*spoilt);
+  if (!host_->faultyWay.empty() && TableOf<T>().NameOf(*way) == host_->faultyWay) {
+    if (auto faulty = FaultyResult(host_)) return std::move(*faulty);
   }
   if (arguments.Count() < way->least) throw HRESULT{DISP_E_PARAMNOTOPTIONAL};
   if (arguments.Count() <= way->most) return way->call(*object_, arguments, host_);
@@ -270,4 +272,4 @@ com::OwnedVariant Dressed<T>::Called(DISPID id, WORD kinds, const Arguments& arg
   return ItemOf(way->call(*object_, arguments, host_), arguments);
 }
 
-}  // namespace plotsmith::dress
+}  // namespace plotsmith::automation

@@ -1,11 +1,11 @@
-#include "tests/windows/host/Dress.h"
+#include "tests/windows/host/Automation.h"
 
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "tests/windows/host/HostMembers.h"
 #include "windows/com/Failures.h"
 
-namespace plotsmith::dress {
+namespace plotsmith::automation {
 
 Counts counts;
 
@@ -72,18 +72,18 @@ std::string NameOf(const std::string& className, const std::wstring& member, WOR
   return className + "." + runtime::ToUtf8(std::u16string(member.begin(), member.end())) + words;
 }
 
-std::optional<com::OwnedVariant> Spoilt(const HostPtr& host) {
-  const std::string& how = host->spoiltHow;
-  if (how == "Null") return com::ToVariant(runtime::kNull);
-  if (how == "Empty") return com::OwnedVariant();
-  if (how == "Nothing") return com::ToVariant(static_cast<IDispatch*>(nullptr));
-  if (how == "a number") return com::ToVariant(7);
-  if (how == "a text") return com::ToVariant("perhaps");
-  if (how == "an array") return com::ToArray(std::vector<excel::Variant>{1, "two"});
-  if (how == "another object") {
+std::optional<com::OwnedVariant> FaultyResult(const HostPtr& host) {
+  const std::string& fault = host->fault;
+  if (fault == "Null") return com::ToVariant(runtime::kNull);
+  if (fault == "Empty") return com::OwnedVariant();
+  if (fault == "Nothing") return com::ToVariant(static_cast<IDispatch*>(nullptr));
+  if (fault == "a number") return com::ToVariant(7);
+  if (fault == "a text") return com::ToVariant("perhaps");
+  if (fault == "an array") return com::ToArray(std::vector<excel::Variant>{1, "two"});
+  if (fault == "another object") {
     return com::ToVariant(com::ComPtr<IDispatch>::Attach(NewApplication(host)).Get());
   }
-  if (how != "calls back") throw runtime::RuntimeError(runtime::error::kApplication, "Spoilt");
+  if (fault != "calls back") throw runtime::RuntimeError(runtime::error::kApplication, "Fault");
   DISPPARAMS none{};
   const com::ComPtr<IDispatch> callback = host->callback;
   callback->Invoke(DISPID_VALUE, IID_NULL, 0, DISPATCH_METHOD, &none, nullptr, nullptr, nullptr);
@@ -112,4 +112,4 @@ com::OwnedVariant Answer(const Ref<excel::Sheet>& sheet, const HostPtr& host) {
   return Answer<excel::Sheet>(sheet, host);
 }
 
-}  // namespace plotsmith::dress
+}  // namespace plotsmith::automation

@@ -1,10 +1,10 @@
 #include "runtime/RuntimeError.h"
-#include "tests/windows/host/Dress.h"
+#include "tests/windows/host/Automation.h"
 #include "tests/windows/host/HostMembers.h"
 #include "xlsx/Range.h"
 #include "xlsx/Worksheet.h"
 
-namespace plotsmith::dress {
+namespace plotsmith::automation {
 namespace {
 
 using runtime::RuntimeError;
@@ -54,9 +54,9 @@ void AddWays(Table<excel::Sheets>& table) {
                const auto sheet = [](const VARIANT& value) -> Ref<excel::Sheet> {
                  if (com::IsMissing(value)) return nullptr;
                  const auto object = com::ObjectOf(value);
-                 if (const auto* other = dynamic_cast<Dressed<excel::Sheet>*>(object.Get()))
+                 if (const auto* other = dynamic_cast<ComObject<excel::Sheet>*>(object.Get()))
                    return other->Object();
-                 return Undressed<excel::Worksheet>(value);
+                 return ObjectBehind<excel::Worksheet>(value);
                };
                return Answer(sheets.Add(sheet(arguments[0]), sheet(arguments[1])), host);
              }});
@@ -144,8 +144,8 @@ void AddWays(Table<excel::Range>& table) {
              [](excel::Range& range, const Arguments& arguments, const HostPtr&) {
                constexpr std::size_t kKey1 = 0, kOrder1 = 1, kHeader = 7, kOrderCustom = 8, kMatchCase = 9,
                                      kOrientation = 10;
-               range.Sort(Undressed<excel::Range>(arguments[kKey1]), Given<std::int32_t>(arguments[kOrder1]),
-                          Given<std::int32_t>(arguments[kHeader]),
+               range.Sort(ObjectBehind<excel::Range>(arguments[kKey1]),
+                          Given<std::int32_t>(arguments[kOrder1]), Given<std::int32_t>(arguments[kHeader]),
                           Given<std::int32_t>(arguments[kOrderCustom]), Given<bool>(arguments[kMatchCase]),
                           Given<std::int32_t>(arguments[kOrientation]));
                return com::OwnedVariant();
@@ -185,7 +185,7 @@ const Table<DisplayFormat>& TableOf<DisplayFormat>() {
   return table;
 }
 
-#include "tests/windows/host/DressLines.h"
+#include "tests/windows/host/MemberLines.h"
 #include "windows/excel/members/Book.inc"
 
-}  // namespace plotsmith::dress
+}  // namespace plotsmith::automation
