@@ -103,9 +103,8 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
     canvas.Note("The shadow of the chart area isn't drawn because it is outside of the picture.");
   }
   for (const GroupModel& group : chart.groups) {
-    const bool hasShadows =
-        std::any_of(group.series.begin(), group.series.end(),
-                    [](const SeriesModel& series) { return series.style.shadow.has_value(); });
+    const bool hasShadows = std::any_of(group.series.begin(), group.series.end(),
+                                        [](const SeriesModel& series) { return series.HasShadows(); });
     if (group.is3D && hasShadows) canvas.Note("Shadows of bodies in 3-D aren't drawn.");
     if (has(group.node, "upDownBars") && !group.upDownBars) {
       canvas.Note("Up/down bars are only drawn between lines.");

@@ -61,6 +61,11 @@ const MarkerModel& SeriesModel::MarkerOf(std::size_t point) const {
   return varied != nullptr && varied->has_value() ? **varied : marker;
 }
 
+bool SeriesModel::HasShadows() const {
+  return style.shadow || std::any_of(points.begin(), points.end(),
+                                     [](const auto& point) { return point.second.style.shadow.has_value(); });
+}
+
 bool GroupModel::CanHaveErrorBars() const {
   switch (family) {
     case Family::kArea:

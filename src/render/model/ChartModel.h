@@ -193,6 +193,8 @@ struct SeriesModel {
   bool IsInverted(std::size_t point, double value) const;
   /// Returns the marker of a point by its index, from 0.
   const MarkerModel& MarkerOf(std::size_t point) const;
+  /// Returns true if the series or one of its points has a shadow.
+  bool HasShadows() const;
 };
 
 /// Bars from the first series of a group of lines to the last one.
