@@ -31,6 +31,20 @@ std::optional<std::pair<double, double>> SeenPart(const Trendline& line, const A
   return std::pair(from, to);
 }
 
+std::vector<double> SamplesOf(const Trendline& line, const AxisModel& axis) {
+  constexpr int kSteps = 200;
+  std::vector<double> samples;
+  const auto seen = SeenPart(line, &axis);
+  if (!seen || !line.curve) return samples;
+  const auto [from, to] = *seen;
+  const bool byFactor = from > 0 && (axis.logBase || line.curve->NeedsPositiveX());
+  for (int step = 0; step <= kSteps; ++step) {
+    const double share = static_cast<double>(step) / kSteps;
+    samples.push_back(byFactor ? from * std::pow(to / from, share) : from * (1 - share) + to * share);
+  }
+  return samples;
+}
+
 const ShapeStyle& SeriesModel::StyleOf(std::size_t point) const {
   const auto special = points.find(point);
   if (special != points.end()) return special->second.style;

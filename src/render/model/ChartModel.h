@@ -131,6 +131,8 @@ struct Trendline {
   std::optional<TrendCurve> curve;
   /// The X values of the ends of the curve, with its extensions.
   double from = 0, to = 0;
+  /// Whether the axes show a part of the line. Otherwise it isn't drawn, and the legend has no entry for it.
+  bool isVisible = false;
   /// The X values and the values of a moving average.
   std::vector<Point> points;
   ShapeStyle style;
@@ -146,6 +148,9 @@ struct AxisModel;
 /// null. The first X value is above zero if the curve or the axis requires it. Returns nothing if the axis
 /// shows no part of the curve.
 std::optional<std::pair<double, double>> SeenPart(const Trendline& line, const AxisModel* axis);
+/// Returns the X values at which the visible part of the curve of a trendline is drawn, in ascending order.
+/// `axis` is the axis of X values.
+std::vector<double> SamplesOf(const Trendline& line, const AxisModel& axis);
 
 /// A series.
 struct SeriesModel {
