@@ -544,6 +544,18 @@ TEST_F(AnalysisTest, SaysWhatIsNotDrawn) {
   }
 }
 
+TEST_F(AnalysisTest, SeriesLinesOfStackedBarsAreReported) {
+  for (const char* grouping : {"clustered", "stacked", "percentStacked"}) {
+    Draw(PlotXml(GroupXml("barChart", S("<c:barDir val=\"col\"/><c:grouping val=\"") + grouping + "\"/>",
+                          SeriesXml(0, {1, 2}), "<c:serLines/>") +
+                 AxesXml()));
+    EXPECT_EQ(notes_, grouping == S("clustered")
+                          ? render::Notes{}
+                          : render::Notes{"Series lines between stacked bars aren't drawn."})
+        << grouping;
+  }
+}
+
 TEST_F(AnalysisTest, TheLimitOfTrendlinesEndsNothingElse) {
   S trends;
   for (int i = 0; i < 400; ++i) trends += TrendXml("movingAvg", "<c:period val=\"100\"/>");

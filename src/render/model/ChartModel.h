@@ -180,6 +180,9 @@ struct SeriesModel {
   bool bubble3D = false;
   /// The distance of the slices from the middle, in percent of the radius.
   double explosion = 0;
+  /// The points in the second plot of a pie of pie or bar of pie, by index from 0. If there are any, the last
+  /// value of the series is that of the point "Other", which replaces them in the first plot.
+  std::set<std::size_t> secondPlot;
   /// The looks of points in varied colours, which are used in rotation. It is empty if the colours aren't
   /// varied.
   std::vector<PointModel> palette;
@@ -259,8 +262,13 @@ struct GroupModel {
   bool varyColors = false;
   /// Whether a scatter chart has no lines.
   bool markersOnly = false;
-  /// The gap between clusters and the overlap of bars, in percent of the width of a bar.
+  /// The gap between clusters and the overlap of bars, in percent of the width of a bar. The gap between the
+  /// two plots of a pie of pie is in percent of their mean radius.
   double gapWidth = 150, overlap = 0;
+  /// Whether the second plot of a pie of pie is a bar.
+  bool isBarOfPie = false;
+  /// The height of the second plot of a pie of pie, in percent of the first one.
+  double secondPlotSize = 75;
   /// The angle at which the first slice begins, in degrees clockwise from twelve o'clock.
   double firstSliceAngle = 0;
   /// The diameter of the hole of a doughnut, in percent of the diameter of the doughnut.
@@ -274,6 +282,8 @@ struct GroupModel {
   /// The lines from points to the category axis, and the lines from the highest to the lowest point of each
   /// category. They are absent if the group has none.
   std::optional<Stroke> dropLines, highLowLines;
+  /// The lines between the two plots of a pie of pie. They are absent if the group has none.
+  std::optional<Stroke> seriesLines;
   /// The up/down bars. They are absent if the group has none.
   std::optional<UpDownBars> upDownBars;
   /// Whether a surface consists of lines.
