@@ -290,8 +290,10 @@ void ReadSettings(ReadingContext& context, GroupModel& group) {
   group.filled = kind.family == Family::kRadar && schema::Val(node, "radarStyle") == "filled";
   group.gapWidth = Limited(node, "gapWidth", 150, 0, 500);
   group.overlap = Limited(node, "overlap", 0, -100, 100);
-  group.isBarOfPie = schema::Val(node, "ofPieType", "pie") == "bar";
-  group.secondPlotSize = Limited(node, "secondPieSize", 75, 5, 200);
+  if (kind.family == Family::kOfPie) {
+    group.isBarOfPie = schema::Val(node, "ofPieType", "pie") == "bar";
+    group.secondPlotSize = Limited(node, "secondPieSize", 75, 5, 200);
+  }
   group.firstSliceAngle = Limited(node, "firstSliceAng", 0, 0, 360);
   group.holeSize = Limited(node, "holeSize", 10, 1, 90);
   group.bubbleScale = Limited(node, "bubbleScale", 100, 0, 300);
