@@ -240,32 +240,42 @@ TEST_F(OfPiesTest, TheOtherPointHasItsLabelAndLookButNoLegendEntry) {
 }
 
 TEST_F(OfPiesTest, LabelsOutsideAreOnTheChartAndDoNotTouch) {
-  Numbers values = {60, 50};
-  Texts names = {"North", "South"};
-  for (int i = 0; i < 12; ++i) {
-    values.push_back(i % 3 + 1);
-    names.push_back("Islands " + std::to_string(i));
-  }
-  for (const S& type : {S("pie"), S("bar")}) {
-    for (const S& position : {S("outEnd"), S("bestFit")}) {
-      const Drawing drawing = DrawOfPie(type, values, Split("pos", "12"),
-                                        "<c:dLbls><c:dLblPos val=\"" + position +
-                                            "\"/><c:showCatName val=\"1\"/><c:showLeaderLines val=\"1\"/>"
-                                            "</c:dLbls>",
-                                        "", names);
-      const S what = type + position;
-      EXPECT_EQ(TextsOf(drawing, Role::kDataLabel).size(), 15u) << what;
-      std::vector<Rect> boxes;
-      for (const Item& item : ItemsOf(drawing, Role::kDataLabel)) {
-        if (std::holds_alternative<render::TextItem>(item.content)) boxes.push_back(BoundsOf(item));
-      }
-      for (std::size_t a = 0; a < boxes.size(); ++a) {
-        for (std::size_t b = a + 1; b < boxes.size(); ++b) {
-          EXPECT_FALSE(Overlap(boxes[a], boxes[b], 0.1)) << what << a << " and " << b;
+  Numbers many = {60, 50};
+  for (int i = 0; i < 12; ++i) many.push_back(i % 3 + 1);
+  const struct {
+    const char* what;
+    Numbers values;
+    S last;  // the number of points in the second plot
+  } cases[] = {
+      {"small slices", many, "12"},
+      // The label of the last slice of the second plot begins where the one of the point "Other" is.
+      {"labels in the gap", {40, 20, 5, 5, 10}, "3"},
+  };
+  for (const auto& test : cases) {
+    Texts names;
+    for (std::size_t i = 0; i < test.values.size(); ++i) names.push_back("Islands " + std::to_string(i));
+    for (const S& type : {S("pie"), S("bar")}) {
+      for (const S& position : {S("outEnd"), S("bestFit")}) {
+        const Drawing drawing =
+            DrawOfPie(type, test.values, Split("pos", test.last) + "<c:gapWidth val=\"0\"/>",
+                      "<c:dLbls><c:dLblPos val=\"" + position +
+                          "\"/><c:showCatName val=\"1\"/><c:showLeaderLines val=\"1\"/>"
+                          "</c:dLbls>",
+                      "", names);
+        const S what = test.what + type + position;
+        EXPECT_EQ(TextsOf(drawing, Role::kDataLabel).size(), names.size() + 1) << what;
+        std::vector<Rect> boxes;
+        for (const Item& item : ItemsOf(drawing, Role::kDataLabel)) {
+          if (std::holds_alternative<render::TextItem>(item.content)) boxes.push_back(BoundsOf(item));
         }
+        for (std::size_t a = 0; a < boxes.size(); ++a) {
+          for (std::size_t b = a + 1; b < boxes.size(); ++b) {
+            EXPECT_FALSE(Overlap(boxes[a], boxes[b], 0.1)) << what << a << " and " << b;
+          }
+        }
+        EXPECT_EQ(DrawingComplaints(drawing), "") << what;
+        EXPECT_EQ(notes_, render::Notes()) << what;
       }
-      EXPECT_EQ(DrawingComplaints(drawing), "") << what;
-      EXPECT_EQ(notes_, render::Notes()) << what;
     }
   }
 }
