@@ -171,14 +171,14 @@ void Path::Move(Point by) {
 }
 
 std::string_view NameOf(Role role) {
-  constexpr std::array<std::string_view, 39> kNames = {
+  constexpr std::array<std::string_view, 40> kNames = {
       "Other",     "ChartArea",     "PlotArea",    "Title",     "AxisTitle",      "AxisLine",
       "TickMark",  "MinorTickMark", "TickLabel",   "Gridline",  "MinorGridline",  "DisplayUnits",
       "Legend",    "LegendKey",     "LegendEntry", "Bar",       "Area",           "Line",
       "Marker",    "Slice",         "Bubble",      "DataLabel", "LeaderLine",     "ErrorBar",
       "DropLine",  "Wall",          "Floor",       "Side",      "Shape",          "ShapeText",
       "Cell",      "CellText",      "Shadow",      "Trendline", "TrendlineLabel", "UpDownBar",
-      "TableLine", "TableText",     "Surface"};
+      "TableLine", "TableText",     "Surface",     "SeriesLine"};
   return kNames[static_cast<std::size_t>(role)];
 }
 

@@ -1,4 +1,5 @@
 #include "render/model/Analysis.h"
+#include "runtime/Strings.h"
 #include "tests/render/DrawingTest.h"
 #include "xlsx/package/Xml.h"
 
@@ -339,10 +340,134 @@ TEST_F(AnalysisTest, DatesGoOnForTrendlines) {
   EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2).back(), "8");
 }
 
+TEST_F(AnalysisTest, DatesBeginEarlierForTrendlines) {
+  const auto back = [](const S& length) {
+    return TrendXml("linear", "<c:backward val=\"" + length + "\"/><c:dispEq val=\"1\"/>");
+  };
+  struct {
+    const char* what;
+    S first, second;     // the trendlines of two series
+    Numbers dates;       // the dates of three points
+    double slots, bars;  // the number of slots, and of those before the first bar
+    double from, other;  // the places in slots where the lines begin
+    Texts equations;
+  } const kCases[] = {
+      {"nothing before",
+       back("0"),
+       back("0"),
+       {45000, 45001, 45002},
+       3,
+       0,
+       0,
+       0,
+       {"y = x - 44999", "y = -x + 45003"}},
+      {"half a day",
+       back("0.5"),
+       back("0"),
+       {45000, 45001, 45002},
+       3,
+       0,
+       -0.5,
+       0,
+       {"y = x - 44999", "y = -x + 45003"}},
+      {"days", back("3"), back("1"), {45000, 45001, 45002}, 6, 3, 0, 2, {"y = x - 44999", "y = -x + 45003"}},
+      {"the second line",
+       back("0"),
+       back("1.2"),
+       {45000, 45001, 45002},
+       4,
+       1,
+       1,
+       -0.2,
+       {"y = x - 44999", "y = -x + 45003"}},
+      {"months", back("2"), back("0"), {45292, 45323, 45352}, 5, 2, 0, 2, {"y = x", "y = -x + 4"}},
+      {"before the first date of Excel",
+       back("1e300"),
+       back("0"),
+       {2, 3, 4},
+       5,
+       2,
+       -0.5,
+       2,
+       {"y = x - 1", "y = -x + 5"}},
+  };
+  S axes = AxesXml("<c:numFmt formatCode=\"yyyy-mm-dd\" sourceLinked=\"0\"/>",
+                   "<c:scaling><c:max val=\"10\"/><c:min val=\"-10\"/></c:scaling>");
+  axes = runtime::Replace(axes, "catAx", "dateAx");
+  for (const auto& test : kCases) {
+    const S dates = AmountsXml("cat", test.dates);
+    const Drawing drawing =
+        Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:overlap val=\"100\"/>",
+                              SeriesXml(0, {1, 2, 3}, test.first, "", dates) +
+                                  SeriesXml(1, {3, 2, 1}, test.second, "", dates)) +
+                     axes));
+    const Rect plot = BoxOf(drawing, Role::kPlotArea);
+    const auto slotAt = [&](double x) { return (x - plot.left) / plot.width * test.slots - 0.5; };
+    EXPECT_NEAR(slotAt(BoxesOf(drawing, Role::kBar, 1)[0].Center().x), test.bars, 1e-6) << test.what;
+    EXPECT_NEAR(slotAt(BoxesOf(drawing, Role::kBar, 2)[2].Center().x), test.slots - 1, 1e-6) << test.what;
+    EXPECT_NEAR(slotAt(BoxOf(drawing, Role::kTrendline, 1).left), test.from, 1e-6) << test.what;
+    EXPECT_NEAR(slotAt(BoxOf(drawing, Role::kTrendline, 2).left), test.other, 1e-6) << test.what;
+    EXPECT_EQ(TextsOf(drawing, Role::kTrendlineLabel), test.equations) << test.what;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
+    EXPECT_EQ(notes_, render::Notes()) << test.what;
+  }
+}
+
+TEST_F(AnalysisTest, LegendsHaveEntriesOfDrawnTrendlinesOnly) {
+  const S unfit = "A trendline isn't drawn because no line of its kind fits the points of its series.";
+  const S longest = "A moving average isn't drawn because its period isn't shorter than its series.";
+  const S beyond = "A trendline isn't drawn because fewer than two of its points are on the axes.";
+  const auto scale = [](const S& least, const S& most, const S& more = "") {
+    return "<c:scaling>" + more + "<c:max val=\"" + most + "\"/><c:min val=\"" + least + "\"/></c:scaling>";
+  };
+  struct {
+    const char* what;
+    S trend, axis;
+    Numbers values;
+    bool isDrawn;
+    render::Notes notes;
+  } const kCases[] = {
+      {"drawn", TrendXml("linear"), kZeroToTen, {1, 2, 3}, true, {}},
+      {"a value of zero at the edge", TrendXml("linear"), kZeroToTen, {0, 0, 0}, true, {}},
+      {"no logarithm", TrendXml("exp"), kZeroToTen, {1, -2, 3}, false, {unfit}},
+      {"a long period",
+       TrendXml("movingAvg", "<c:period val=\"3\"/>"),
+       kZeroToTen,
+       {1, 2, 3},
+       false,
+       {longest}},
+      {"a moving average", TrendXml("movingAvg"), kZeroToTen, {1, 2, 3, 4}, true, {}},
+      {"without neighbours", TrendXml("movingAvg"), kZeroToTen, {1, 2, kNoValue, 4}, false, {beyond}},
+      {"below the axis", TrendXml("linear"), scale("4", "10"), {1, 2, 3}, false, {beyond}},
+      {"above the axis", TrendXml("linear"), scale("0", "1"), {2, 2, 3}, false, {beyond}},
+      {"steep across the axis", TrendXml("linear"), scale("-1", "1"), {-1e9, 1e9}, true, {}},
+      {"no logarithm on the axis",
+       TrendXml("movingAvg"),
+       scale("1", "10", "<c:logBase val=\"10\"/>"),
+       {-1, -2, -3},
+       false,
+       {beyond}},
+  };
+  for (const auto& test : kCases) {
+    const S deletedLast = "<c:legendEntry><c:idx val=\"3\"/><c:delete val=\"1\"/></c:legendEntry>";
+    const Drawing drawing = DrawGroup("lineChart", "<c:grouping val=\"standard\"/>",
+                                      SeriesXml(0, test.values, test.trend) +
+                                          SeriesXml(1, {1, 5, 9}, TrendXml("linear") + TrendXml("linear")),
+                                      test.axis, "<c:legend>" + deletedLast + "</c:legend>");
+    Texts entries = TextsOf(drawing, Role::kLegendEntry);
+    EXPECT_EQ(entries.size(), test.isDrawn ? 4u : 3u) << test.what;
+    EXPECT_EQ(entries.back(), "Linear (Series 1)") << test.what;
+    EXPECT_EQ(ItemsOf(drawing, Role::kTrendline, 1).size(), test.isDrawn ? 1u : 0u) << test.what;
+    EXPECT_EQ(notes_, test.notes) << test.what;
+  }
+}
+
 TEST_F(AnalysisTest, AxesHaveRoomOnlyForWhatIsSeen) {
   // A line can't begin before the first category, and its end there needs no negative values.
   const Drawing drawing = DrawColumns({10, 20, 30}, TrendXml("linear", "<c:backward val=\"9\"/>"), "");
   EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2).front(), "0");
+  EXPECT_EQ(notes_,
+            (render::Notes{"The backward forecast of a trendline ends where the category axis begins."}));
 }
 
 TEST_F(AnalysisTest, CurvesKeepTheirSlopeWhereTheyLeaveThePlotArea) {
@@ -416,6 +541,18 @@ TEST_F(AnalysisTest, SaysWhatIsNotDrawn) {
                                       SeriesXml(0, {1, 2, 3}, test.more), test.axis);
     EXPECT_EQ(notes_, test.notes) << test.more;
     EXPECT_EQ(DrawingComplaints(drawing), "") << test.more;
+  }
+}
+
+TEST_F(AnalysisTest, SeriesLinesOfStackedBarsAreReported) {
+  for (const char* grouping : {"clustered", "stacked", "percentStacked"}) {
+    Draw(PlotXml(GroupXml("barChart", S("<c:barDir val=\"col\"/><c:grouping val=\"") + grouping + "\"/>",
+                          SeriesXml(0, {1, 2}), "<c:serLines/>") +
+                 AxesXml()));
+    EXPECT_EQ(notes_, grouping == S("clustered")
+                          ? render::Notes{}
+                          : render::Notes{"Series lines between stacked bars aren't drawn."})
+        << grouping;
   }
 }
 

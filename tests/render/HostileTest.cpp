@@ -76,6 +76,16 @@ INSTANTIATE_TEST_SUITE_P(
                                            AxesXml())},
         HostileCase{"HugePie", PlotXml("<c:pieChart>" + SeriesXml(0, {1e308, 1e308}) + "</c:pieChart>")},
         HostileCase{"ZeroPie", PlotXml("<c:pieChart>" + SeriesXml(0, {0, 0}) + "</c:pieChart>")},
+        HostileCase{"HugePieOfPie", PlotXml("<c:ofPieChart>" + SeriesXml(0, {1e308, 1e308, 1e308, 1e308}) +
+                                            "<c:splitType val=\"percent\"/><c:splitPos val=\"26\"/>"
+                                            "<c:secondPieSize val=\"1e300\"/><c:serLines/></c:ofPieChart>")},
+        HostileCase{"EmptyPieOfPie", PlotXml("<c:ofPieChart>" + SeriesXml(0, {}) + "</c:ofPieChart>")},
+        HostileCase{
+            "ClaimedPieOfPie",
+            PlotXml("<c:ofPieChart><c:ofPieType val=\"bar\"/>" + Claiming("99999999999") +
+                        "<c:gapWidth val=\"-7\"/><c:splitType val=\"pos\"/><c:splitPos val=\"1e300\"/>"
+                        "</c:ofPieChart>",
+                    "<c:legend/>")},
         HostileCase{"ReversedLimits", ColumnsOn("", ScalingXml("10", "-10"))},
         HostileCase{"NoRange", ColumnsOn("", ScalingXml("5", "5"))},
         HostileCase{"EndlessRange", ColumnsOn("", ScalingXml("-1e308", "1e308"))},

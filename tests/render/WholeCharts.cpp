@@ -82,6 +82,9 @@ std::map<std::string, Whole> WholeCharts() {
       "</c:numLit></c:cat>";
   const S reversed = Scaling("<c:orientation val=\"maxMin\"/>");
   const S slices = "<c:pieChart><c:varyColors val=\"1\"/>";
+  const auto ofPie = [](const S& type) {
+    return "<c:ofPieChart><c:ofPieType val=\"" + type + "\"/><c:varyColors val=\"1\"/>";
+  };
   const S moved =
       "<c:dLbl><c:idx val=\"1\"/><c:layout><c:manualLayout><c:x val=\"0.2\"/><c:y val=\"-0.1\"/>"
       "</c:manualLayout></c:layout><c:showVal val=\"1\"/></c:dLbl><c:dLbl><c:idx val=\"2\"/><c:layout>"
@@ -350,6 +353,16 @@ std::map<std::string, Whole> WholeCharts() {
       {"looks-of-lines", PlotXml(Lines(dashes) + AxesXml())},
       {"ring-of-one", PlotXml("<c:doughnutChart>" + SeriesXml(0, {3, 0}, "<c:explosion val=\"25\"/>") +
                               SeriesXml(1, {1, 2}) + "<c:holeSize val=\"60\"/></c:doughnutChart>")},
+      {"bar-of-pie",
+       PlotXml(ofPie("bar") + SeriesXml(0, {40, 30, 5, 4, 3}, Labels("showVal"), "", kNames) +
+                   "<c:gapWidth val=\"100\"/><c:splitType val=\"val\"/><c:splitPos val=\"10\"/><c:serLines/>"
+                   "</c:ofPieChart>",
+               kLegend)},
+      {"pie-of-pie",
+       PlotXml(ofPie("pie") +
+               SeriesXml(0, {40, 30, 5, 4, 3},
+                         "<c:explosion val=\"20\"/>" + Labels("showPercent", "<c:dLblPos val=\"outEnd\"/>")) +
+               "<c:gapWidth val=\"80\"/><c:secondPieSize val=\"50\"/><c:serLines/></c:ofPieChart>")},
       {"pie-of-one",
        PlotXml(slices + SeriesXml(0, {3}, Labels("showVal", "<c:dLblPos val=\"ctr\"/>")) + "</c:pieChart>")},
       {"pie-exploded", PlotXml(slices +

@@ -60,9 +60,7 @@ void DrawGroup(Plot& plot, const GroupModel& group) {
     case Family::kDoughnut:
       return DrawPie(plot, group);
     case Family::kOfPie:
-      plot.canvas.Note(
-          "The second plot of a pie of pie or bar of pie isn't drawn; all slices are in the first.");
-      return DrawPie(plot, group);
+      return DrawOfPie(plot, group);
     case Family::kRadar:
       return DrawRadar(plot, group);
     case Family::kSurface:
@@ -103,10 +101,12 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
     canvas.Note("The shadow of the chart area isn't drawn because it is outside of the picture.");
   }
   for (const GroupModel& group : chart.groups) {
-    const bool hasShadows =
-        std::any_of(group.series.begin(), group.series.end(),
-                    [](const SeriesModel& series) { return series.style.shadow.has_value(); });
+    const bool hasShadows = std::any_of(group.series.begin(), group.series.end(),
+                                        [](const SeriesModel& series) { return series.HasShadows(); });
     if (group.is3D && hasShadows) canvas.Note("Shadows of bodies in 3-D aren't drawn.");
+    if (group.seriesLines && group.IsStacked()) {
+      canvas.Note("Series lines between stacked bars aren't drawn.");
+    }
     if (has(group.node, "upDownBars") && !group.upDownBars) {
       canvas.Note("Up/down bars are only drawn between lines.");
     }

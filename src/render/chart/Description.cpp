@@ -17,8 +17,9 @@ const char* NameOf(const GroupModel& group) {
     case Family::kLine:
       return "Line chart";
     case Family::kPie:
-    case Family::kOfPie:
       return "Pie chart";
+    case Family::kOfPie:
+      return group.isBarOfPie ? "Bar of pie chart" : "Pie of pie chart";
     case Family::kDoughnut:
       return "Doughnut chart";
     case Family::kScatter:
@@ -82,7 +83,8 @@ void Describe(const ChartModel& chart, Drawing& drawing) {
       if (left == 0) break;
       drawing.description += "\n" + series.name + ":";
       const char* comma = " ";
-      for (std::size_t i = 0; i < series.values.size() && left > 0; ++i) {
+      const std::size_t others = series.secondPlot.empty() ? 0 : 1;  // the point "Other" repeats values
+      for (std::size_t i = 0; i + others < series.values.size() && left > 0; ++i) {
         if (!std::isfinite(series.values[i])) continue;
         --left;
         drawing.description += comma + PointText(chart, group, series, i);

@@ -159,28 +159,21 @@ class TrendPath {
 
   /// Adds what may be seen of a curve. Places far beyond the edges would be moved, and bend it.
   void AddPartSeen(const TrendCurve& curve) {
-    constexpr int kSteps = 200;
-    const auto seen = SeenPart(line_, &across_);
-    if (!seen) return;
-    const auto [from, to] = *seen;
-    const bool byFactor = from > 0 && (across_.logBase || curve.NeedsPositiveX());
     Where last = Where::kNowhere;
-    double before = from;
-    for (int step = 0; step <= kSteps; ++step) {
-      const double share = static_cast<double>(step) / kSteps;
-      const double x = byFactor ? from * std::pow(to / from, share) : from * (1 - share) + to * share;
+    std::optional<double> before;
+    for (const double x : SamplesOf(line_, across_)) {
       const auto place = PlaceOf({x, curve.At(x)});
       const Where where = WhereIs(place);
       const bool isNear = where == Where::kNear, wasNear = last == Where::kNear;
-      if (isNear && !wasNear && step > 0) Add(EndBetween(curve, x, before));
+      if (isNear && !wasNear && before) Add(EndBetween(curve, x, *before));
       if (isNear) Add(*place);
       if (!isNear && wasNear) {
-        Add(EndBetween(curve, before, x));
+        Add(EndBetween(curve, *before, x));
         Finish();
       }
       const bool crosses = (last == Where::kBefore && where == Where::kBehind) ||
                            (last == Where::kBehind && where == Where::kBefore);
-      if (crosses) AddCrossing(curve, before, x);
+      if (crosses) AddCrossing(curve, *before, x);
       last = where;
       before = x;
     }
@@ -234,7 +227,7 @@ void DrawTrendlines(Plot& plot, const GroupModel& group) {
       ++number;
       if (!line.curve && line.points.empty()) continue;
       TrendPath trend(plot, group, line);
-      Path path = trend.Take();
+      Path path = line.isVisible ? trend.Take() : Path();
       if (path.IsEmpty()) {
         plot.canvas.Note("A trendline isn't drawn because fewer than two of its points are on the axes.");
         continue;

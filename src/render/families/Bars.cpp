@@ -96,9 +96,8 @@ void DrawBars(Plot& plot, const GroupModel& group) {
     }
   }
   merged.Draw(plot.canvas);
-  const bool hasShadows =
-      std::any_of(group.series.begin(), group.series.end(),
-                  [](const SeriesModel& series) { return series.style.shadow.has_value(); });
+  const bool hasShadows = std::any_of(group.series.begin(), group.series.end(),
+                                      [](const SeriesModel& series) { return series.HasShadows(); });
   if (thin && hasShadows) plot.canvas.Note("Shadows of bars that are thinner than a pixel aren't drawn.");
   bars.Draw();
   plot.canvas.PopClip();

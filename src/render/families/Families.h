@@ -20,5 +20,8 @@ void DrawBubbles(Plot& plot, const GroupModel& group);
 void DrawRadar(Plot& plot, const GroupModel& group);
 /// Draws a pie or a doughnut in the middle of the plot area. A pie leaves space for labels outside of it.
 void DrawPie(Plot& plot, const GroupModel& group);
+/// Draws a pie of pie or a bar of pie: a pie, and a second plot at its right, which shows the parts of one of
+/// its slices.
+void DrawOfPie(Plot& plot, const GroupModel& group);
 
 }  // namespace plotsmith::render

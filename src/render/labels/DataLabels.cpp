@@ -104,6 +104,16 @@ Point CenterInSlice(const DrawnPoint& point, Half half, std::string position) {
   return OnEllipse(circle, middle);
 }
 
+Point CenterAtPiece(const DrawnPoint& point, const std::string& position, Half half) {
+  Point center = point.box.Center();
+  if (IsBesidePiece(point, position, 2 * half.width, 2 * half.height)) {
+    center.x = point.box.Right() + half.width + kGap;
+  } else if (position == "inEnd") {
+    center.x = point.box.Right() - half.width - kGap;
+  }
+  return center;
+}
+
 Point CenterOf(const Plot& plot, const DrawnPoint& point, const LabelModel& label, Half half) {
   switch (point.group->family) {
     case Family::kBar:
@@ -111,7 +121,8 @@ Point CenterOf(const Plot& plot, const DrawnPoint& point, const LabelModel& labe
     case Family::kPie:
     case Family::kDoughnut:
     case Family::kOfPie:
-      return CenterInSlice(point, half, label.position);
+      return point.IsPieceOfBar() ? CenterAtPiece(point, label.position, half)
+                                  : CenterInSlice(point, half, label.position);
     case Family::kArea:
       return point.box.Center();
     case Family::kRadar:
@@ -161,14 +172,17 @@ void DrawLeader(Plot& plot, const PlacedLabel& placed) {
   const DrawnPoint& point = *placed.point;
   const LabelsModel& labels = point.series->labels;
   const Rect label = placed.Box();
-  if (!labels.leaderLines || !placed.moved || point.sweep <= 0 || !IsBesideSlice(point, label)) return;
-  const Point from = OnEllipse(point.circle, point.angle + point.sweep / 2);
+  const bool isPiece = point.IsPieceOfBar(), hasSlice = isPiece ? point.box.height > 0 : point.sweep > 0;
+  if (!labels.leaderLines || !placed.moved || !hasSlice || !IsBesideSlice(point, label)) return;
+  const Point from = isPiece ? Point{point.box.Right(), point.box.Center().y}
+                             : OnEllipse(point.circle, point.angle + point.sweep / 2);
   Point to{std::clamp(from.x, label.left, label.Right()), std::clamp(from.y, label.top, label.Bottom())};
   if (to.x != from.x) to.y = label.Center().y;  // The line ends at the middle of a side.
   constexpr double kShortest = 5;               // points
   if (std::hypot(to.x - from.x, to.y - from.y) < kShortest) return;
   plot.canvas.Add({Role::kLeaderLine, point.series->number, static_cast<int>(point.index + 1)},
-                  LeaderPath(point, from, to), {}, labels.leaderStroke);
+                  isPiece ? Path().MoveTo(from).LineTo(to) : LeaderPath(point, from, to), {},
+                  labels.leaderStroke);
 }
 
 /// Lays out a label at its position, or as its layout says, and keeps it on the chart.
@@ -228,6 +242,11 @@ bool FitsInSlice(const DrawnPoint& slice, double width, double height) {
     }
   }
   return true;
+}
+
+bool IsBesidePiece(const DrawnPoint& piece, const std::string& position, double width, double height) {
+  if (position == "bestFit") return width > piece.box.width || height > piece.box.height;
+  return position == "outEnd";
 }
 
 void DrawDataLabels(Plot& plot) {

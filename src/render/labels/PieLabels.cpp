@@ -125,6 +125,12 @@ void RemoveLabelsWithoutSpace(std::vector<PlacedLabel*>& side, double height) {
 /// Returns where moved labels may be: in the plot area, or on the whole chart if a person set the plot area.
 Rect RoomOf(const Plot& plot) { return plot.chart.layout ? plot.canvas.Bounds() : plot.area; }
 
+/// Returns the room for a leader line to a label that was moved by a distance, in points.
+double LineRoomFor(double way) {
+  constexpr double kShare = 0.3, kMost = 12;  // of the distance; points
+  return std::min(kShare * way, kMost);
+}
+
 void SpreadSide(std::vector<PlacedLabel*>& side, const Rect& room) {
   RemoveLabelsWithoutSpace(side, room.height);
   const bool right = !side.empty() && IsRight(*side.front());
@@ -135,17 +141,16 @@ void SpreadSide(std::vector<PlacedLabel*>& side, const Rect& room) {
   std::vector<double> before;
   for (const PlacedLabel* label : side) before.push_back(label->center.y);
   SpreadDown(side, room.top, room.Bottom());
-  constexpr double kLineShare = 0.3,
-                   kMostLineRoom = 12;  // share of the distance that a label was moved; points
   for (std::size_t i = 0; i < side.size(); ++i) {
     const double way = std::abs(side[i]->center.y - before[i]);
-    if (way > kSlack) MoveBeside(*side[i], room, std::min(kLineShare * way, kMostLineRoom));
+    if (way > kSlack) MoveBeside(*side[i], room, LineRoomFor(way));
   }
 }
 
 }  // namespace
 
 bool IsBesideSlice(const DrawnPoint& point, const Rect& label) {
+  if (point.IsPieceOfBar()) return !Overlap(point.box, label);
   const Point middle = point.circle.Center();
   for (const double drop : {0.0, point.box.height - point.circle.height}) {
     const Point nearest{std::clamp(middle.x, label.left, label.Right()),
@@ -157,13 +162,53 @@ bool IsBesideSlice(const DrawnPoint& point, const Rect& label) {
   return true;
 }
 
-std::size_t SpreadPieLabels(const Plot& plot, std::vector<PlacedLabel>& labels) {
-  std::vector<PlacedLabel*> movable, left, right;
-  for (PlacedLabel& label : labels) {
-    if (IsMovable(label)) movable.push_back(&label);
+namespace {
+
+/// Moves the labels beside a bar of pie, which are at its right, so that they don't touch.
+void SpreadBesideBar(std::vector<PlacedLabel*> labels, const Rect& room) {
+  std::stable_sort(labels.begin(), labels.end(),
+                   [](const PlacedLabel* a, const PlacedLabel* b) { return a->center.y < b->center.y; });
+  const bool crowded = std::any_of(labels.begin(), labels.end(),
+                                   [&](const PlacedLabel* label) { return OverlapsAny(*label, labels); });
+  if (!crowded) return;
+  RemoveLabelsWithoutSpace(labels, room.height);
+  std::vector<double> before;
+  for (const PlacedLabel* label : labels) before.push_back(label->center.y);
+  SpreadDown(labels, room.top, room.Bottom());
+  double farthest = 0;
+  for (std::size_t i = 0; i < labels.size(); ++i) {
+    const double way = std::abs(labels[i]->center.y - before[i]);
+    labels[i]->moved = way > kSlack;
+    farthest = std::max(farthest, way);
   }
-  for (PlacedLabel* label : movable) (IsRight(*label) ? right : left).push_back(label);
-  const Rect room = RoomOf(plot);
+  for (PlacedLabel* label : labels) {
+    const double most = std::max(room.Right() - label->halfWidth, label->center.x);
+    label->center.x = std::min(label->center.x + LineRoomFor(farthest), most);
+  }
+}
+
+/// Moves a label beside a circle up or down, as little as possible, until it touches no other label. Returns
+/// false if there is no space for it.
+bool MoveAway(PlacedLabel& label, const std::vector<PlacedLabel*>& others, const Rect& room) {
+  constexpr int kSteps = 30;
+  constexpr double kStep = 2;  // points
+  const double from = label.center.y;
+  for (int step = 1; step <= kSteps; ++step) {
+    for (const double way : {-kStep * step, kStep * step}) {
+      label.center.y = from + way;
+      const Rect box = label.Box();
+      if (box.top < room.top || box.Bottom() > room.Bottom()) continue;
+      MoveBeside(label, room, 0);
+      if (!OverlapsAny(label, others)) return true;
+    }
+  }
+  return false;
+}
+
+/// Moves the labels outside of a circle so that they don't touch.
+void SpreadAroundCircle(const std::vector<PlacedLabel*>& labels, const Rect& room) {
+  std::vector<PlacedLabel*> left, right;
+  for (PlacedLabel* label : labels) (IsRight(*label) ? right : left).push_back(label);
   for (std::vector<PlacedLabel*>* side : {&right, &left}) {
     const bool crowded = std::any_of(side->begin(), side->end(),
                                      [&](const PlacedLabel* label) { return OverlapsAny(*label, *side); });
@@ -178,6 +223,30 @@ std::size_t SpreadPieLabels(const Plot& plot, std::vector<PlacedLabel>& labels) 
     }
   }
   for (PlacedLabel* label : right) label->leftOut = OverlapsAny(*label, left);
+}
+
+}  // namespace
+
+std::size_t SpreadPieLabels(const Plot& plot, std::vector<PlacedLabel>& labels) {
+  std::vector<PlacedLabel*> first, second;
+  for (PlacedLabel& label : labels) {
+    if (IsMovable(label)) (label.point->isInSecondPlot ? second : first).push_back(&label);
+  }
+  const Rect room = RoomOf(plot);
+  SpreadAroundCircle(first, room);
+  const bool isBar = !second.empty() && second.front()->point->IsPieceOfBar();
+  isBar ? SpreadBesideBar(second, room) : SpreadAroundCircle(second, room);
+  // Labels of both plots may touch in the gap between them.
+  std::vector<PlacedLabel*> others = first;
+  others.insert(others.end(), second.begin(), second.end());
+  const auto isLeftOut = [](const PlacedLabel* label) { return label->leftOut; };
+  std::erase_if(first, isLeftOut);
+  std::erase_if(second, isLeftOut);
+  std::erase_if(others, isLeftOut);
+  for (PlacedLabel* label : second) {
+    if (!OverlapsAny(*label, first)) continue;
+    label->leftOut = isBar || !MoveAway(*label, others, room);
+  }
   return std::erase_if(labels, [](const PlacedLabel& label) { return label.leftOut; });
 }
 

@@ -232,7 +232,8 @@ Trendline ReadTrendline(ReadingContext& context, const ChartModel& chart, const 
   return line;
 }
 
-/// Adds slots to an axis of dates that a trendline is extended along, but none after the last date of Excel.
+/// Adds slots behind the last date of an axis that a trendline is extended along, but none after the last
+/// date of Excel.
 void ExtendDates(const Trendline& line, xlsx::DateSystem system, AxisModel& axis) {
   DateSlots& dates = *axis.dates;
   const double most = static_cast<double>(SlotOf(xlsx::kLastSerial, dates.base, system) - dates.first + 1);
@@ -240,12 +241,48 @@ void ExtendDates(const Trendline& line, xlsx::DateSystem system, AxisModel& axis
   dates.count = std::max(dates.count, std::min(std::ceil(line.to - line.shift - free), most));
 }
 
-/// Adds empty categories to an axis that a trendline is extended along.
-void ExtendCategories(const GroupModel& group, const Trendline& line, ChartModel& chart) {
-  if (group.category < 0 || group.HasXValues() || !(line.forward > 0)) return;
+/// Returns the number of slots by which a trendline begins before the first date of its axis, as far as Excel
+/// has dates.
+double SlotsBefore(const Trendline& line, xlsx::DateSystem system, const AxisModel& axis) {
+  const DateSlots& dates = *axis.dates;
+  long long least = SlotOf(0, dates.base, system);
+  if (SerialOf(least, dates.base, system) < 0) ++least;
+  const double most = static_cast<double>(std::max(dates.first - least, 0LL));
+  const double free = axis.crossesBetween ? 0.5 : 0;
+  return line.curve ? std::clamp(std::ceil(1 - free - (line.from - line.shift)), 0.0, most) : 0;
+}
+
+/// Adds slots before the first date of an axis for the trendlines that begin there.
+void PrependDates(ChartModel& chart, AxisModel& axis) {
+  std::vector<Trendline*> lines;
+  for (GroupModel& group : chart.groups) {
+    const bool isOnAxis =
+        group.category >= 0 && &chart.axes[static_cast<std::size_t>(group.category)] == &axis;
+    if (!isOnAxis || group.HasXValues()) continue;
+    for (SeriesModel& series : group.series) {
+      for (Trendline& line : series.trendlines) lines.push_back(&line);
+    }
+  }
+  double added = 0;
+  for (const Trendline* line : lines) added = std::max(added, SlotsBefore(*line, chart.dates, axis));
+  axis.dates->first -= static_cast<long long>(added);
+  axis.dates->count += added;
+  for (double& position : axis.dates->positions) position += added;
+  for (Trendline* line : lines) line->shift -= added;
+}
+
+/// Adds empty categories or dates behind the last one of an axis that a trendline is extended along. Notes an
+/// extension before the first category.
+void ExtendCategories(ReadingContext& context, const GroupModel& group, const Trendline& line,
+                      ChartModel& chart) {
+  if (group.category < 0 || group.HasXValues() || !line.curve) return;
   AxisModel& axis = chart.axes[static_cast<std::size_t>(group.category)];
   if (axis.IsOfValues()) return;
   if (axis.dates) return ExtendDates(line, chart.dates, axis);
+  constexpr double kMostBackward = 0.5;  // categories, which is the most that Excel accepts
+  if (line.backward > kMostBackward) {
+    AddOnce(context.notes, "The backward forecast of a trendline ends where the category axis begins.");
+  }
   constexpr double kMost = 1000;
   const double free = axis.crossesBetween ? 0.5 : 0;
   const double wanted =
@@ -299,8 +336,51 @@ void ReadAnalysis(ReadingContext& context, ChartModel& chart) {
           break;
         }
         series.trendlines.push_back(ReadTrendline(context, chart, group, series, node));
-        ExtendCategories(group, series.trendlines.back(), chart);
+        ExtendCategories(context, group, series.trendlines.back(), chart);
       }
+    }
+  }
+  for (AxisModel& axis : chart.axes) {
+    if (axis.dates) PrependDates(chart, axis);
+  }
+}
+
+namespace {
+
+/// Returns true if at least two neighbouring points of a trendline are on its axes.
+bool IsOnAxes(const Trendline& line, const AxisModel& across, const AxisModel& values) {
+  const auto isPresent = [&](Point point) {
+    return std::isfinite(point.x) && std::isfinite(point.y) && (!values.logBase || point.y > 0);
+  };
+  if (!line.curve) {
+    const auto bothPresent = [&](Point a, Point b) { return isPresent(a) && isPresent(b); };
+    return std::adjacent_find(line.points.begin(), line.points.end(), bothPresent) != line.points.end();
+  }
+  const xlsx::AxisScale& scale = values.scale;
+  const double dust = 1e-9 * (scale.maximum - scale.minimum);  // what rounding may add or remove
+  int last = 0;  // the side of the scale of the last point: -1 is below it, 1 is above it
+  for (const double x : SamplesOf(line, across)) {
+    const double value = line.curve->At(x);
+    if (!isPresent({x, value})) {
+      last = 0;
+      continue;
+    }
+    const int side = value < scale.minimum - dust ? -1 : value > scale.maximum + dust ? 1 : 0;
+    if (side == 0 || side == -last) return true;
+    last = side;
+  }
+  return false;
+}
+
+}  // namespace
+
+void FindVisibleTrendlines(ChartModel& chart) {
+  for (GroupModel& group : chart.groups) {
+    if (group.category < 0 || group.value < 0) continue;
+    const AxisModel& across = chart.axes[static_cast<std::size_t>(group.category)];
+    const AxisModel& values = chart.axes[static_cast<std::size_t>(group.value)];
+    for (SeriesModel& series : group.series) {
+      for (Trendline& line : series.trendlines) line.isVisible = IsOnAxes(line, across, values);
     }
   }
 }

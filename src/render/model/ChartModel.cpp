@@ -31,6 +31,20 @@ std::optional<std::pair<double, double>> SeenPart(const Trendline& line, const A
   return std::pair(from, to);
 }
 
+std::vector<double> SamplesOf(const Trendline& line, const AxisModel& axis) {
+  constexpr int kSteps = 200;
+  std::vector<double> samples;
+  const auto seen = SeenPart(line, &axis);
+  if (!seen || !line.curve) return samples;
+  const auto [from, to] = *seen;
+  const bool byFactor = from > 0 && (axis.logBase || line.curve->NeedsPositiveX());
+  for (int step = 0; step <= kSteps; ++step) {
+    const double share = static_cast<double>(step) / kSteps;
+    samples.push_back(byFactor ? from * std::pow(to / from, share) : from * (1 - share) + to * share);
+  }
+  return samples;
+}
+
 const ShapeStyle& SeriesModel::StyleOf(std::size_t point) const {
   const auto special = points.find(point);
   if (special != points.end()) return special->second.style;
@@ -59,6 +73,11 @@ const MarkerModel& SeriesModel::MarkerOf(std::size_t point) const {
   if (special != points.end() && special->second.marker) return *special->second.marker;
   const auto* varied = palette.empty() ? nullptr : &palette[point % palette.size()].marker;
   return varied != nullptr && varied->has_value() ? **varied : marker;
+}
+
+bool SeriesModel::HasShadows() const {
+  return style.shadow || std::any_of(points.begin(), points.end(),
+                                     [](const auto& point) { return point.second.style.shadow.has_value(); });
 }
 
 bool GroupModel::CanHaveErrorBars() const {

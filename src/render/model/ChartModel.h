@@ -143,6 +143,8 @@ struct Trendline {
   std::optional<TrendCurve> curve;
   /// The X values of the ends of the curve, with its extensions.
   double from = 0, to = 0;
+  /// Whether the axes show a part of the line. Otherwise it isn't drawn, and the legend has no entry for it.
+  bool isVisible = false;
   /// The X values and the values of a moving average.
   std::vector<Point> points;
   /// The look of the line.
@@ -160,6 +162,9 @@ struct AxisModel;
 /// null. The first X value is above zero if the curve or the axis requires it. Returns nothing if the axis
 /// shows no part of the curve.
 std::optional<std::pair<double, double>> SeenPart(const Trendline& line, const AxisModel* axis);
+/// Returns the X values at which the visible part of the curve of a trendline is drawn, in ascending order.
+/// `axis` is the axis of X values.
+std::vector<double> SamplesOf(const Trendline& line, const AxisModel& axis);
 
 /// A series.
 struct SeriesModel {
@@ -191,6 +196,9 @@ struct SeriesModel {
   bool bubble3D = false;
   /// The distance of the slices from the middle, in percent of the radius.
   double explosion = 0;
+  /// The points in the second plot of a pie of pie or bar of pie, by index from 0. If there are any, the last
+  /// value of the series is that of the point "Other", which replaces them in the first plot.
+  std::set<std::size_t> secondPlot;
   /// The looks of points in varied colours, which are used in rotation. It is empty if the colours aren't
   /// varied.
   std::vector<PointModel> palette;
@@ -212,6 +220,8 @@ struct SeriesModel {
   bool IsInverted(std::size_t point, double value) const;
   /// Returns the marker of a point by its index, from 0.
   const MarkerModel& MarkerOf(std::size_t point) const;
+  /// Returns true if the series or one of its points has a shadow.
+  bool HasShadows() const;
 };
 
 /// Bars from the first series of a group of lines to the last one.
@@ -275,8 +285,13 @@ struct GroupModel {
   bool varyColors = false;
   /// Whether a scatter chart has no lines.
   bool markersOnly = false;
-  /// The gap between clusters and the overlap of bars, in percent of the width of a bar.
+  /// The gap between clusters and the overlap of bars, in percent of the width of a bar. The gap between the
+  /// two plots of a pie of pie is in percent of their mean radius.
   double gapWidth = 150, overlap = 0;
+  /// Whether the second plot of a pie of pie is a bar.
+  bool isBarOfPie = false;
+  /// The height of the second plot of a pie of pie, in percent of the first one.
+  double secondPlotSize = 75;
   /// The angle at which the first slice begins, in degrees clockwise from twelve o'clock.
   double firstSliceAngle = 0;
   /// The diameter of the hole of a doughnut, in percent of the diameter of the doughnut.
@@ -290,6 +305,8 @@ struct GroupModel {
   /// The lines from points to the category axis, and the lines from the highest to the lowest point of each
   /// category. They are absent if the group has none.
   std::optional<Stroke> dropLines, highLowLines;
+  /// The lines between the two plots of a pie of pie. They are absent if the group has none.
+  std::optional<Stroke> seriesLines;
   /// The up/down bars. They are absent if the group has none.
   std::optional<UpDownBars> upDownBars;
   /// Whether a surface consists of lines.

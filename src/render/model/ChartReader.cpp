@@ -154,8 +154,9 @@ ChartModel ReadChart(xlsx::ChartPart& part, Notes& notes) {
   chart.legend = ReadLegend(context);
   ReadDataTable(context, plotArea, chart);
   ReadAnalysis(context, chart);
-  AddTrendlineEntries(context, chart);
   ScaleAxes(chart);
+  FindVisibleTrendlines(chart);
+  AddTrendlineEntries(context, chart);
   ReadSurfaces(context, chart);
   AddBandEntries(context, chart);
   return chart;

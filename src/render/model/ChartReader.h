@@ -64,7 +64,9 @@ void ReadSurfaces(ReadingContext& context, ChartModel& chart);
 /// Extends the extent of an axis by error bars and extended trendlines. The axis of X values must be scaled
 /// before the value axis.
 void AddAnalysisExtent(const ChartModel& chart, const GroupModel& group, bool isX, xlsx::DataExtent& extent);
-/// Adds the entries of trendlines to the legend.
+/// Sets which trendlines the axes show. All axes must be scaled.
+void FindVisibleTrendlines(ChartModel& chart);
+/// Adds the entries of visible trendlines to the legend.
 void AddTrendlineEntries(ReadingContext& context, ChartModel& chart);
 /// Replaces the entries of the legend by those of the bands, if the chart has surfaces.
 void AddBandEntries(ReadingContext& context, ChartModel& chart);

@@ -4,13 +4,16 @@
 #include <array>
 #include <cmath>
 #include <numbers>
+#include <span>
 #include <string_view>
 
+#include "xlsx/drawing/DrawingSchema.h"
 #include "xlsx/drawing/ShapeXml.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::render {
 
+namespace schema = xlsx::schema;
 namespace xml = xlsx::xml;
 
 namespace {
@@ -91,52 +94,79 @@ RareLooks FindRareLooks(pugi::xml_node root) {
   return looks;
 }
 
+namespace {
+
+/// An element, and the sentence that reports it.
+struct Reported {
+  std::string_view element;
+  const char* sentence;
+};
+/// The effects that aren't drawn.
+constexpr std::array<Reported, 9> kMissing = {
+    {{"glow", "Glows aren't drawn."},
+     {"softEdge", "Soft edges aren't drawn."},
+     {"innerShdw", "Inner shadows aren't drawn."},
+     {"reflection", "Reflections aren't drawn."},
+     {"prstShdw", "Preset shadows aren't drawn."},
+     {"effectDag", "Effects in a graph (effectDag) aren't drawn."},
+     {"blur", "Blurred shapes aren't drawn; they have sharp edges."},
+     {"bevelT", "Bevels aren't drawn."},
+     {"bevelB", "Bevels aren't drawn."}}};
+/// The elements whose shadows aren't drawn. They consist of lines.
+constexpr std::array<Reported, 12> kWithoutShadows = {
+    {{"errBars", "Shadows of error bars aren't drawn."},
+     {"dropLines", "Shadows of drop lines aren't drawn."},
+     {"hiLowLines", "Shadows of high-low lines aren't drawn."},
+     {"leaderLines", "Shadows of leader lines aren't drawn."},
+     {"majorGridlines", "Shadows of gridlines aren't drawn."},
+     {"minorGridlines", "Shadows of gridlines aren't drawn."},
+     {"catAx", "Shadows of axes aren't drawn."},
+     {"dateAx", "Shadows of axes aren't drawn."},
+     {"valAx", "Shadows of axes aren't drawn."},
+     {"serAx", "Shadows of axes aren't drawn."},
+     {"serLines", "Shadows of series lines aren't drawn."},
+     {"dTable", "Shadows of data tables aren't drawn."}}};
+
+const char* FindSentence(std::span<const Reported> table, std::string_view element) {
+  const auto found =
+      std::find_if(table.begin(), table.end(), [&](const Reported& one) { return one.element == element; });
+  return found == table.end() ? nullptr : found->sentence;
+}
+
+/// Returns true if the element that an effect belongs to can be drawn. The gridlines of a deleted axis are
+/// drawn.
+bool HasDrawnOwner(pugi::xml_node effect) {
+  const auto properties = effect.parent().parent();
+  const bool isOfLines = FindSentence(kWithoutShadows, xml::LocalName(properties.parent())) != nullptr;
+  if (isOfLines && xml::Child(properties, "ln", "noFill")) return false;
+  for (auto node = properties; node; node = node.parent()) {
+    if (xml::LocalName(node).ends_with("Gridlines")) return true;
+    if (schema::BooleanVal(node, "delete", false)) return false;
+    const bool isOfTickLabels = xml::Is(node, "txPr") && schema::IsAxis(node.parent());
+    if (isOfTickLabels && schema::Val(node.parent(), "tickLblPos") == "none") return false;
+  }
+  return true;
+}
+
+}  // namespace
+
 std::vector<std::string> MissingEffects(const RareLooks& looks) {
-  struct Kind {
-    std::string_view element;
-    const char* sentence;
-  };
-  static constexpr std::array<Kind, 9> kKinds = {
-      {{"glow", "Glows aren't drawn."},
-       {"softEdge", "Soft edges aren't drawn."},
-       {"innerShdw", "Inner shadows aren't drawn."},
-       {"reflection", "Reflections aren't drawn."},
-       {"prstShdw", "Preset shadows aren't drawn."},
-       {"effectDag", "Effects in a graph (effectDag) aren't drawn."},
-       {"blur", "Blurred shapes aren't drawn; they have sharp edges."},
-       {"bevelT", "Bevels aren't drawn."},
-       {"bevelB", "Bevels aren't drawn."}}};
-  static constexpr std::array<Kind, 11> kWithoutShadows = {
-      {{"errBars", "Shadows of error bars aren't drawn."},
-       {"dropLines", "Shadows of drop lines aren't drawn."},
-       {"hiLowLines", "Shadows of high-low lines aren't drawn."},
-       {"leaderLines", "Shadows of leader lines aren't drawn."},
-       {"majorGridlines", "Shadows of gridlines aren't drawn."},
-       {"minorGridlines", "Shadows of gridlines aren't drawn."},
-       {"catAx", "Shadows of axes aren't drawn."},
-       {"dateAx", "Shadows of axes aren't drawn."},
-       {"valAx", "Shadows of axes aren't drawn."},
-       {"serAx", "Shadows of axes aren't drawn."},
-       {"dTable", "Shadows of data tables aren't drawn."}}};
   std::vector<std::string> sentences;
   const auto add = [&](const char* sentence) {
+    if (sentence == nullptr) return;
     if (std::find(sentences.begin(), sentences.end(), sentence) == sentences.end()) {
       sentences.emplace_back(sentence);
     }
   };
   const auto addIfKnown = [&](pugi::xml_node effect) {
+    if (!HasDrawnOwner(effect)) return;
     const std::string_view name = xml::LocalName(effect);
-    for (const Kind& kind : kKinds) {
-      if (kind.element == name) add(kind.sentence);
-    }
+    add(FindSentence(kMissing, name));
     if (name != "outerShdw") return;
-    const std::string_view owner = xml::LocalName(effect.parent().parent().parent());
-    for (const Kind& kind : kWithoutShadows) {
-      if (kind.element == owner && xml::Is(effect.parent().parent(), "spPr")) add(kind.sentence);
-    }
-    if (xml::LocalName(effect.parent().parent()).ends_with("RPr")) {
-      add("Shadows of texts aren't drawn.");
-    }
+    const auto properties = effect.parent().parent();
+    if (xml::Is(properties, "spPr")) add(FindSentence(kWithoutShadows, xml::LocalName(properties.parent())));
+    const std::string_view owner = xml::LocalName(properties);
+    if (owner == "rPr" || owner.ends_with("RPr")) add("Shadows of texts aren't drawn.");
   };
   for (const pugi::xml_node& node : looks.effects) {
     if (xml::Is(node, "effectDag")) addIfKnown(node);

@@ -84,7 +84,7 @@ void AddTrendlineEntries(ReadingContext& context, ChartModel& chart) {
         if (legend.entries.size() >= kMostLegendEntries) return;
         ++count;
         const std::size_t own = number++;
-        if (settings.IsDeleted(own)) continue;
+        if (!line.isVisible || settings.IsDeleted(own)) continue;
         legend.entries.push_back({line.name, settings.StyleOf(own, legend.text), series.number, 0, count});
       }
     }

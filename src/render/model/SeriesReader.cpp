@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
+#include <set>
 #include <string_view>
 
 #include "render/model/ChartReader.h"
@@ -60,9 +62,11 @@ Grouping GroupingOf(pugi::xml_node group, Family family) {
   return family == Family::kBar && grouping != "standard" ? Grouping::kClustered : Grouping::kStandard;
 }
 
-/// Reads a number and limits it to a range.
+/// Reads a number, which may have a percent sign, and limits it to a range.
 double Limited(pugi::xml_node parent, const char* name, double fallback, double least, double most) {
-  const auto number = schema::NumberVal(parent, name);
+  std::string text = schema::Val(parent, name);
+  if (text.ends_with('%')) text.pop_back();
+  const auto number = xml::ParseDouble(text);
   return number && std::isfinite(*number) ? std::clamp(*number, least, most) : fallback;
 }
 
@@ -185,11 +189,57 @@ FormatPointer ReadFormat(ReadingContext& context, pugi::xml_node data) {
   return context.Format(xml::Text(xml::Child(data, "numRef", "numCache", "formatCode")));
 }
 
+/// Returns the points of a pie of pie that are in its second plot, by index from 0.
+std::set<std::size_t> SplitOf(pugi::xml_node group, const std::vector<double>& values) {
+  std::set<std::size_t> points;
+  const std::string type = schema::Val(group, "splitType", "auto");
+  if (type == "cust") {
+    for (const pugi::xml_node& point : xml::Children(xml::Child(group, "custSplit"), "secondPiePt")) {
+      const long long index = xml::IntegerAttribute(point, "val", -1);
+      if (index >= 0 && index < static_cast<long long>(values.size())) {
+        points.insert(static_cast<std::size_t>(index));
+      }
+    }
+    return points;
+  }
+  const auto position = schema::NumberVal(group, "splitPos");
+  const bool hasPosition = position && std::isfinite(*position);
+  if (hasPosition && (type == "val" || type == "percent")) {
+    long double whole = 0;
+    for (const double value : values) whole += std::isfinite(value) ? std::abs(value) : 0;
+    const long double limit = type == "val" ? *position : *position / 100 * whole;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+      if (std::abs(values[i]) < limit) points.insert(i);
+    }
+    return points;
+  }
+  const std::size_t count = values.size();
+  constexpr std::size_t kPart = 3;  // By default, the last third of the points is in the second plot.
+  std::size_t last = count < 2 ? 0 : (count + kPart - 1) / kPart;
+  if (hasPosition && type == "pos") {
+    last = static_cast<std::size_t>(std::clamp(std::round(*position), 0.0, static_cast<double>(count)));
+  }
+  for (std::size_t i = count - last; i < count; ++i) points.insert(i);
+  return points;
+}
+
+/// Reads which points of a series are in the second plot of a pie of pie, and adds the point "Other".
+void ReadSplit(pugi::xml_node group, SeriesModel& series) {
+  series.secondPlot = SplitOf(group, series.values);
+  if (series.secondPlot.empty()) return;
+  double sum = 0;
+  for (const std::size_t point : series.secondPlot) {
+    if (std::isfinite(series.values[point])) sum += std::abs(series.values[point]);
+  }
+  series.values.push_back(std::min(sum, std::numeric_limits<double>::max()));
+}
+
 /// Reads the numbers of a series and their formats.
 void ReadData(ReadingContext& context, const GroupModel& group, SeriesModel& series) {
   const auto values = xlsx::FindValues(series.node);
   series.values = ReadNumbers(context, values);
   series.valueFormat = ReadFormat(context, values);
+  if (group.family == Family::kOfPie) ReadSplit(group.node, series);
   if (group.HasXValues()) series.x = ReadNumbers(context, xml::Child(series.node, "xVal"));
   if (group.HasXValues() && series.x.empty()) {
     for (std::size_t i = 0; i < series.values.size(); ++i) series.x.push_back(static_cast<double>(i + 1));
@@ -240,6 +290,10 @@ void ReadSettings(ReadingContext& context, GroupModel& group) {
   group.filled = kind.family == Family::kRadar && schema::Val(node, "radarStyle") == "filled";
   group.gapWidth = Limited(node, "gapWidth", 150, 0, 500);
   group.overlap = Limited(node, "overlap", 0, -100, 100);
+  if (kind.family == Family::kOfPie) {
+    group.isBarOfPie = schema::Val(node, "ofPieType", "pie") == "bar";
+    group.secondPlotSize = Limited(node, "secondPieSize", 75, 5, 200);
+  }
   group.firstSliceAngle = Limited(node, "firstSliceAng", 0, 0, 360);
   group.holeSize = Limited(node, "holeSize", 10, 1, 90);
   group.bubbleScale = Limited(node, "bubbleScale", 100, 0, 300);
@@ -258,6 +312,7 @@ void ReadSettings(ReadingContext& context, GroupModel& group) {
   };
   readLines("dropLines", group.dropLines);
   readLines("hiLowLines", group.highLowLines);
+  readLines("serLines", group.seriesLines);
 }
 
 /// Reads the categories of the first series that has some. Points beyond them have an empty text, or their
@@ -275,6 +330,8 @@ void ReadCategoriesOf(ReadingContext& context, GroupModel& group) {
   for (std::size_t i = named; i < group.PointCount(); ++i) {
     group.categories.push_back(named == 0 ? std::to_string(i + 1) : std::string());
   }
+  if (group.series.empty() || group.series.front().secondPlot.empty()) return;
+  group.categories[group.series.front().values.size() - 1] = "Other";
 }
 
 }  // namespace

@@ -27,6 +27,12 @@ struct DrawnPoint {
   double hole = 0;
   /// The share of a slice in the sum, from 0 to 1.
   double share = 0;
+  /// Whether the point is in the second plot of a pie of pie. In a bar of pie, it is a rectangle, which has
+  /// only `box` and `share`.
+  bool isInSecondPlot = false;
+
+  /// Returns true if the point is a rectangle of the bar in a bar of pie.
+  bool IsPieceOfBar() const { return isInSecondPlot && group->isBarOfPie; }
 };
 
 /// The plot area that the families draw on.

@@ -1,5 +1,6 @@
 #include "render/cairo/CairoPainter.h"
 #include "render/svg/SvgWriter.h"
+#include "runtime/Strings.h"
 #include "tests/render/DrawingTest.h"
 
 namespace plotsmith {
@@ -134,11 +135,58 @@ TEST_F(ShadowTest, IsDrawnOfVeryWideShapes) {
 }
 
 TEST_F(ShadowTest, ThinBarsHaveNoneAndSayIt) {
-  const Drawing drawing =
-      Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>",
-                            SeriesXml(0, std::vector<double>(20'000, 5), ShadowedXml("dist=\"38100\""))) +
-                   AxesXml()));
-  EXPECT_EQ(notes_, (render::Notes{"Shadows of bars that are thinner than a pixel aren't drawn."}));
+  const S shadowed = ShadowedXml("dist=\"38100\"");
+  const S sentence = "Shadows of bars that are thinner than a pixel aren't drawn.";
+  const struct {
+    S more;
+    render::Notes notes;
+  } cases[] = {
+      {"", {}}, {shadowed, {sentence}}, {"<c:dPt><c:idx val=\"7\"/>" + shadowed + "</c:dPt>", {sentence}}};
+  for (const auto& [more, notes] : cases) {
+    const Drawing drawing = Draw(PlotXml(
+        GroupXml("barChart", "<c:barDir val=\"col\"/>", SeriesXml(0, std::vector<double>(20'000, 5), more)) +
+        AxesXml()));
+    EXPECT_EQ(notes_, notes) << more;
+    EXPECT_EQ(ItemsOf(drawing, Role::kShadow).size(), 0u) << more;
+  }
+}
+
+TEST_F(ShadowTest, OfWhatIsNotDrawnIsNotReported) {
+  const S effect = "<a:effectLst><a:outerShdw><a:srgbClr val=\"000000\"/></a:outerShdw></a:effectLst>";
+  const S line = "<c:spPr>" + effect + "</c:spPr>";
+  const S noLine = "<c:spPr><a:ln><a:noFill/></a:ln>" + effect + "</c:spPr>";
+  const S text = "<c:txPr><a:bodyPr/><a:p><a:pPr><a:defRPr>" + effect + "</a:defRPr></a:pPr></a:p></c:txPr>";
+  const S title = "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:rPr>" + effect +
+                  "</a:rPr><a:t>Sales</a:t></a:r></a:p></c:rich></c:tx></c:title>";
+  const S deleted = "<c:delete val=\"1\"/>", shown = "<c:delete val=\"0\"/>";
+  const S ofAxes = "Shadows of axes aren't drawn.", ofTexts = "Shadows of texts aren't drawn.";
+  const struct {
+    S axis;
+    render::Notes notes;
+  } cases[] = {
+      {line, {ofAxes}},
+      {deleted + line, {}},
+      {"<c:delete/>" + line, {}},
+      {noLine, {}},
+      {title, {ofTexts}},
+      {deleted + title, {}},
+      {text, {ofTexts}},
+      {deleted + text, {}},
+      {"<c:tickLblPos val=\"none\"/>" + text, {}},
+      {"<c:tickLblPos val=\"none\"/>" + title, {ofTexts}},
+      // a deleted axis keeps its gridlines
+      {deleted + "<c:majorGridlines>" + line + "</c:majorGridlines>", {"Shadows of gridlines aren't drawn."}},
+      {deleted + "<c:majorGridlines>" + noLine + "</c:majorGridlines>", {}},
+      {deleted + "<c:spPr><a:effectLst><a:glow rad=\"63500\"/></a:effectLst></c:spPr>", {}},
+      {deleted + "<c:spPr><a:effectDag/></c:spPr>", {}},
+      {"<c:spPr><a:effectDag/></c:spPr>", {"Effects in a graph (effectDag) aren't drawn."}},
+  };
+  for (const auto& [axis, notes] : cases) {
+    S axes = AxesXml("", axis);
+    if (axis.starts_with("<c:delete")) axes = runtime::Replace(axes, shown, "");
+    Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>", SeriesXml(0, {3, 1})) + axes));
+    EXPECT_EQ(notes_, notes) << axis;
+  }
 }
 
 TEST_F(ShadowTest, ATextWithoutAFrameHasNoneAndSaysIt) {
