@@ -8,6 +8,4 @@ cd "$(dirname "$0")/.."
   echo "INPUT = src"
   echo "GENERATE_HTML = NO"
   echo "GENERATE_TAGFILE = build/docs/members.tag"
-  # The members of these headers don't all have a comment yet.
-  echo "EXCLUDE = src/render/cairo src/render/plot"
 } | doxygen -

@@ -9,15 +9,19 @@ namespace plotsmith::render {
 
 /// Deletes a surface of Cairo.
 struct DestroySurface {
+  /// Releases the reference to the surface.
   void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
 };
 /// Deletes a context of Cairo.
 struct DestroyContext {
+  /// Releases the reference to the context.
   void operator()(cairo_t* cr) const { cairo_destroy(cr); }
 };
 /// A surface and a context of Cairo that are deleted automatically.
+///@{
 using Surface = std::unique_ptr<cairo_surface_t, DestroySurface>;
 using Context = std::unique_ptr<cairo_t, DestroyContext>;
+///@}
 
 /// Makes an outline the current path.
 void Trace(cairo_t* cr, const Path& path);

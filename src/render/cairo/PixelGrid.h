@@ -4,8 +4,9 @@
 
 namespace plotsmith::render {
 
-/// The numbers of pixels in a point, horizontally and vertically.
+/// The resolution of a picture, horizontally and vertically.
 struct PixelScale {
+  /// The numbers of pixels in a point.
   double x = 1, y = 1;
 };
 

@@ -6,10 +6,11 @@
 
 namespace plotsmith::render {
 
-/// The pixels of a picture as 0x00RRGGBB, row by row from the top. `stride` is the distance between two rows,
-/// in pixels.
+/// The pixels of a picture, row by row from the top.
 struct Pixels {
+  /// The pixels as 0x00RRGGBB. The caller owns them.
   const std::uint32_t* data = nullptr;
+  /// The size, and the distance between two rows, in pixels.
   std::size_t width = 0, height = 0, stride = 0;
 };
 

@@ -10,9 +10,9 @@ namespace plotsmith::render {
 
 /// A point of a series that was drawn, for its label.
 struct DrawnPoint {
-  const GroupModel* group = nullptr;
-  const SeriesModel* series = nullptr;
-  std::size_t index = 0;  ///< The index of the point in the series, from 0.
+  const GroupModel* group = nullptr;    ///< The plot group of the series.
+  const SeriesModel* series = nullptr;  ///< The series of the point.
+  std::size_t index = 0;                ///< The index of the point in the series, from 0.
   /// The rectangle of a bar, a bubble or a marker. It has no extent for a point without a marker.
   Rect box;
   /// Whether a bar or an area goes from its base towards lower values, or the size of a bubble is negative.
@@ -37,9 +37,9 @@ struct DrawnPoint {
 
 /// The plot area that the families draw on.
 struct Plot {
-  const ChartModel& chart;
-  Rect area;  ///< The rectangle between the axes.
-  Canvas& canvas;
+  const ChartModel& chart;              ///< The chart that is drawn.
+  Rect area;                            ///< The rectangle between the axes.
+  Canvas& canvas;                       ///< The canvas that gets the items.
   std::vector<DrawnPoint> points = {};  ///< The drawn points that have labels; see Keep.
   std::size_t symbolsLeft = 100'000;    ///< The number of markers and bubbles that may still be drawn.
 
@@ -62,6 +62,7 @@ struct Plot {
 /// The beginning and the end of each value of the series of a group, as [series][point]. A point without a
 /// value has NaN.
 struct Extents {
+  /// The beginnings and the ends, in units of the value axis or in shares of 1.
   std::vector<std::vector<double>> from, to;
 };
 /// Returns the sum of the absolute values of each point of a group, which is 100 percent.
