@@ -6,34 +6,16 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
 using render::FitTrend;
-using render::PathItem;
-using render::Point;
-using render::Rect;
-using render::Role;
 using render::TrendKind;
-using S = std::string;
-using Texts = std::vector<S>;
-using Numbers = std::vector<double>;
 
-const S kZeroToTen = "<c:scaling><c:max val=\"10\"/><c:min val=\"0\"/></c:scaling>";
+const S kZeroToTen = ScalingXml("0", "10");
 
 /// Error bars of a kind with an amount.
 S ErrorBarsXml(const S& kind, const S& amount, const S& more = "", const S& ends = "both") {
   return "<c:errBars>" + (more.find("errDir") == S::npos ? "<c:errDir val=\"y\"/>" : S()) +
          "<c:errBarType val=\"" + ends + "\"/><c:errValType val=\"" + kind + "\"/>" + more + "<c:val val=\"" +
          amount + "\"/></c:errBars>";
-}
-
-S AmountsXml(const S& element, const Numbers& amounts) {
-  S points;
-  for (std::size_t i = 0; i < amounts.size(); ++i) {
-    points +=
-        "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + xlsx::xml::Number(amounts[i]) + "</c:v></c:pt>";
-  }
-  return "<c:" + element + "><c:numLit><c:ptCount val=\"" + std::to_string(amounts.size()) + "\"/>" + points +
-         "</c:numLit></c:" + element + ">";
 }
 
 S TrendXml(const S& type, const S& more = "") {
@@ -61,7 +43,7 @@ class AnalysisTest : public DrawingTest {
 
 TEST_F(AnalysisTest, ErrorBarsReachAsFarAsTheirAmounts) {
   using Ends = std::vector<std::pair<double, double>>;
-  const S custom = AmountsXml("plus", {1, 2, 3}) + AmountsXml("minus", {0.5, 1, kNoValue});
+  const S custom = NumbersXml("plus", {1, 2, 3}) + NumbersXml("minus", {0.5, 1, kNoValue});
   struct {
     const char* what;
     S bars;
@@ -73,7 +55,7 @@ TEST_F(AnalysisTest, ErrorBarsReachAsFarAsTheirAmounts) {
       {"percentage", ErrorBarsXml("percentage", "50"), {{3, 1}, {6, 2}, {9, 3}}},
       {"custom", ErrorBarsXml("cust", "0", custom), {{3, 1.5}, {6, 3}, {9, 6}}},
       {"one custom amount for all",
-       ErrorBarsXml("cust", "0", AmountsXml("plus", {1}) + AmountsXml("minus", {2})),
+       ErrorBarsXml("cust", "0", NumbersXml("plus", {1}) + NumbersXml("minus", {2})),
        {{3, 0}, {5, 2}, {7, 4}}},
       // the mean is 4, the standard deviation of the sample 2
       {"standard deviation about the mean", ErrorBarsXml("stdDev", "1"), {{6, 2}, {6, 2}, {6, 2}}},
@@ -111,10 +93,8 @@ TEST_F(AnalysisTest, ErrorBarsHaveTheirPlaceLineAndCaps) {
 
 TEST_F(AnalysisTest, ErrorBarsOfScatterChartsGoBothWays) {
   const S bars = ErrorBarsXml("fixedVal", "1") + ErrorBarsXml("fixedVal", "2", "<c:errDir val=\"x\"/>");
-  const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>" + bars + AmountsXml("xVal", {5}) +
-                   AmountsXml("yVal", {4}) + "</c:ser>";
-  S axes = AxesXml(kZeroToTen, kZeroToTen);
-  for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "valAx");
+  const S series = PointsXml(0, {5}, {4}, bars);
+  const S axes = ValueAxesXml(kZeroToTen, kZeroToTen);
   const Drawing drawing = Draw(PlotXml(GroupXml("scatterChart", "", series) + axes));
   const Rect plot = BoxOf(drawing, Role::kPlotArea);
   const auto boxes = BoxesOf(drawing, Role::kErrorBar);
@@ -292,8 +272,7 @@ TEST_F(AnalysisTest, UpDownBarsGoFromTheFirstSeriesToTheLast) {
       "<c:upDownBars><c:gapWidth val=\"100\"/><c:upBars/><c:downBars><c:spPr><a:solidFill>"
       "<a:srgbClr val=\"C00000\"/></a:solidFill></c:spPr></c:downBars></c:upDownBars>";
   const Drawing drawing = Draw(PlotXml(
-      GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
-               SeriesXml(0, {2, 8, 5}) + SeriesXml(1, {9, 9, 9}) + SeriesXml(2, {6, 3, kNoValue}), bars) +
+      LinesXml(SeriesXml(0, {2, 8, 5}) + SeriesXml(1, {9, 9, 9}) + SeriesXml(2, {6, 3, kNoValue}), bars) +
       AxesXml("", kZeroToTen)));
   EXPECT_EQ(notes_, render::Notes());
   EXPECT_EQ(EndsOf(drawing, Role::kUpDownBar), (std::vector<std::pair<double, double>>{{6, 2}, {8, 3}}));
@@ -319,7 +298,7 @@ TEST_F(AnalysisTest, ManyTrendlinesThroughManyPointsAreLimited) {
 
 TEST_F(AnalysisTest, ErrorBarsOfSharesAreShares) {
   const S first = "<c:barDir val=\"col\"/><c:grouping val=\"percentStacked\"/><c:overlap val=\"100\"/>";
-  const S toOne = "<c:scaling><c:max val=\"1\"/><c:min val=\"0\"/></c:scaling>";
+  const S toOne = ScalingXml("0", "1");
   const Drawing drawing = DrawGroup(
       "barChart", first, SeriesXml(0, {2, 3}, ErrorBarsXml("fixedVal", "1")) + SeriesXml(1, {2, 2}), toOne);
   // wholes of 4 and 5, in tenths of the axis
@@ -327,11 +306,10 @@ TEST_F(AnalysisTest, ErrorBarsOfSharesAreShares) {
 }
 
 TEST_F(AnalysisTest, DatesGoOnForTrendlines) {
-  S axes = AxesXml();
-  for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "dateAx");
+  const S axes = DateAxesXml();
   const S trend = TrendXml("linear", "<c:forward val=\"4\"/>");
-  const S series = SeriesXml(0, {1, 2, 3}, trend, "", AmountsXml("cat", {45000, 45001, 45002}));
-  const Drawing drawing = Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>", series) + axes));
+  const S series = SeriesXml(0, {1, 2, 3}, trend, "", NumbersXml("cat", {45000, 45001, 45002}));
+  const Drawing drawing = Draw(PlotXml(ColumnsXml(series) + axes));
   // seven days, of which the last one is the end of the line
   const Rect plot = BoxOf(drawing, Role::kPlotArea), line = BoxOf(drawing, Role::kTrendline);
   EXPECT_NEAR(BoxesOf(drawing, Role::kBar)[0].Center().x, plot.left + plot.width / 14, 1e-6);
@@ -366,11 +344,8 @@ TEST_F(AnalysisTest, CurvesKeepTheirSlopeWhereTheyLeaveThePlotArea) {
 
 TEST_F(AnalysisTest, CurvesAreSampledBetweenTheEndsOfTheirAxis) {
   const auto draw = [&](const S& kind, const S& x, const Numbers& values) {
-    const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>" +
-                     TrendXml(kind, "<c:backward val=\"9\"/>") + AmountsXml("xVal", {1, 10, 100'000}) +
-                     AmountsXml("yVal", values) + "</c:ser>";
-    S axes = AxesXml(x, kZeroToTen);
-    for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "valAx");
+    const S series = PointsXml(0, {1, 10, 100'000}, values, TrendXml(kind, "<c:backward val=\"9\"/>"));
+    const S axes = ValueAxesXml(x, kZeroToTen);
     return Draw(PlotXml(GroupXml("scatterChart", "", series) + axes));
   };
   for (const char* kind : {"linear", "log", "power"}) {
@@ -382,7 +357,7 @@ TEST_F(AnalysisTest, CurvesAreSampledBetweenTheEndsOfTheirAxis) {
     EXPECT_NEAR(BoundsOf(items[0]).Right(), BoxOf(drawing, Role::kPlotArea).Right(), 1e-6) << kind;
     EXPECT_EQ(notes_, render::Notes()) << kind;
   }
-  const S beyond = "<c:scaling><c:max val=\"300000\"/><c:min val=\"200000\"/></c:scaling>";
+  const S beyond = ScalingXml("200000", "300000");
   EXPECT_TRUE(ItemsOf(draw("linear", beyond, {1, 2, 6}), Role::kTrendline).empty());
   EXPECT_EQ(notes_,
             (render::Notes{"A trendline isn't drawn because fewer than two of its points are on the axes."}));
@@ -424,12 +399,9 @@ TEST_F(AnalysisTest, TheLimitOfTrendlinesEndsNothingElse) {
   for (int i = 0; i < 400; ++i) trends += TrendXml("movingAvg", "<c:period val=\"100\"/>");
   const S bars = "<c:upDownBars><c:upBars/><c:downBars/></c:upDownBars>";
   const S later = TrendXml("linear") + ErrorBarsXml("fixedVal", "1");
-  const Drawing drawing =
-      Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>",
-                            SeriesXml(0, Numbers(5000, 1), trends) + SeriesXml(1, Numbers(1000, 2), trends)) +
-                   GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
-                            SeriesXml(2, {1, 2}, later) + SeriesXml(3, {3, 4}), bars) +
-                   AxesXml()));
+  const Drawing drawing = Draw(
+      PlotXml(ColumnsXml(SeriesXml(0, Numbers(5000, 1), trends) + SeriesXml(1, Numbers(1000, 2), trends)) +
+              LinesXml(SeriesXml(2, {1, 2}, later) + SeriesXml(3, {3, 4}), bars) + AxesXml()));
   EXPECT_EQ(ItemsOf(drawing, Role::kErrorBar).size(), 2u);
   EXPECT_EQ(ItemsOf(drawing, Role::kUpDownBar).size(), 2u);
   EXPECT_EQ(notes_,

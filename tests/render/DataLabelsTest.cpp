@@ -4,15 +4,11 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
-using render::Role;
-using S = std::string;
-using Texts = std::vector<S>;
 
 class DataLabelsTest : public DrawingTest {
  protected:
-  Drawing DrawLabels(const S& element, const S& first, const S& labels,
-                     const std::vector<double>& values = {20, 80}, const S& last = "") {
+  Drawing DrawLabels(const S& element, const S& first, const S& labels, const Numbers& values = {20, 80},
+                     const S& last = "") {
     const bool pie = element == "pieChart";
     const S series =
         SeriesXml(0, values, "<c:dLbls>" + labels + "</c:dLbls>", "", CategoriesXml({"North", "South"}));
@@ -73,13 +69,13 @@ PieLabelsSeen LookAt(const Drawing& drawing) {
 
 TEST_F(DataLabelsTest, OfCrowdedPiesAreMovedApartAndTiedToTheirSlices) {
   const auto values = [](std::size_t large, std::size_t small) {
-    std::vector<double> list(large, 100);
+    Numbers list(large, 100);
     list.insert(list.end(), small, 1);
     return list;
   };
   struct {
     const char *what, *element, *position;
-    std::vector<double> values;
+    Numbers values;
     std::size_t count, leaders;
     Texts notes;
   } cases[] = {

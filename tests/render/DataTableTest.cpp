@@ -4,13 +4,6 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
-using render::PathItem;
-using render::PathStep;
-using render::Rect;
-using render::Role;
-using S = std::string;
-using Texts = std::vector<S>;
 
 const S kLines = "<c:showHorzBorder val=\"1\"/><c:showVertBorder val=\"1\"/><c:showOutline val=\"1\"/>";
 
@@ -81,7 +74,7 @@ TEST_F(DataTableTest, HasTheLinesKeysAndFontOfItsElement) {
     }
     EXPECT_EQ(moves, test.moves) << test.table;
     EXPECT_EQ(ItemsOf(drawing, Role::kLegendKey).size(), test.keys) << test.table;
-    const auto text = std::get<render::TextItem>(ItemsOf(drawing, Role::kTableText)[0].content);
+    const auto text = std::get<TextItem>(ItemsOf(drawing, Role::kTableText)[0].content);
     EXPECT_EQ(text.font.size, 8);
     EXPECT_TRUE(text.font.bold);
   }
@@ -91,7 +84,7 @@ TEST_F(DataTableTest, SaysWhatHasNoRoom) {
   S many;
   for (int i = 0; i < 60; ++i) many += SeriesXml(i, {1, 2});
   S wide;
-  for (int i = 0; i < 3; ++i) wide += SeriesXml(i, std::vector<double>(10'000, 1));
+  for (int i = 0; i < 3; ++i) wide += SeriesXml(i, Numbers(10'000, 1));
   struct {
     const char* what;
     S series;
@@ -107,7 +100,7 @@ TEST_F(DataTableTest, SaysWhatHasNoRoom) {
        8 * 3,
        {"The data table has no room for 52 of its series, which are left out."}},
       {"columns",
-       SeriesXml(0, std::vector<double>(5000, 1)),
+       SeriesXml(0, Numbers(5000, 1)),
        false,
        384,
        0,
@@ -137,7 +130,7 @@ TEST_F(DataTableTest, LeavesTheTickLabelsWhereItHasNoRoom) {
   // the columns are too narrow with the names beside them, or even without
   const S name = "A name that takes nearly a third of the width";
   for (const std::size_t count : {55u, 75u, 300u}) {
-    S series = SeriesXml(0, std::vector<double>(count, 1));
+    S series = SeriesXml(0, Numbers(count, 1));
     series.replace(series.find("Series 0"), S("Series 0").size(), name);
     const Drawing drawing = DrawWithTable(kLines, series);
     EXPECT_FALSE(TextsOf(drawing, Role::kTickLabel, 1).empty()) << count;

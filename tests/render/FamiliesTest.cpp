@@ -8,38 +8,24 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
-using render::Item;
-using render::PathItem;
-using render::PathStep;
-using render::Point;
-using render::Rect;
-using render::Role;
-using S = std::string;
 
 class FamiliesTest : public DrawingTest {
  protected:
-  Drawing DrawPie(const std::vector<double>& values, const S& more = "", const S& last = "",
-                  const S& behind = "") {
+  Drawing DrawPie(const Numbers& values, const S& more = "", const S& last = "", const S& behind = "") {
     return Draw(
         PlotXml("<c:pieChart><c:varyColors val=\"1\"/>" + SeriesXml(0, values, more) + last + "</c:pieChart>",
                 behind));
   }
   /// Draws a bubble chart with one series. Each bubble is X, Y and size.
   Drawing DrawBubbles(const std::vector<std::array<double, 3>>& bubbles, const S& last) {
-    const auto data = [&](const char* element, std::size_t which) {
-      S xml = "<c:" + S(element) + "><c:numLit><c:ptCount val=\"" + std::to_string(bubbles.size()) + "\"/>";
-      for (std::size_t i = 0; i < bubbles.size(); ++i) {
-        xml += "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + xlsx::xml::Number(bubbles[i][which]) +
-               "</c:v></c:pt>";
-      }
-      return xml + "</c:numLit></c:" + element + ">";
-    };
-    const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>" + data("xVal", 0) + data("yVal", 1) +
-                     data("bubbleSize", 2) + "</c:ser>";
-    S axes = AxesXml("", "");
-    for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "valAx");
-    return Draw(PlotXml(GroupXml("bubbleChart", "", series, last) + axes));
+    Numbers x, y, sizes;
+    for (const auto& bubble : bubbles) {
+      x.push_back(bubble[0]);
+      y.push_back(bubble[1]);
+      sizes.push_back(bubble[2]);
+    }
+    const S series = PointsXml(0, x, y, "", NumbersXml("bubbleSize", sizes));
+    return Draw(PlotXml(GroupXml("bubbleChart", "", series, last) + ValueAxesXml()));
   }
 };
 
@@ -56,7 +42,7 @@ std::pair<double, double> AnglesOf(const Item& slice) {
 }
 
 TEST_F(FamiliesTest, SlicesShareTheCircleByTheirValues) {
-  const std::vector<double> values = {30, 10, -20, 60};  // A pie uses the absolute values.
+  const Numbers values = {30, 10, -20, 60};  // A pie uses the absolute values.
   const Drawing drawing = DrawPie(values, "", "<c:firstSliceAng val=\"90\"/>");
   const auto slices = ItemsOf(drawing, Role::kSlice);
   ASSERT_EQ(slices.size(), 4u);
@@ -125,18 +111,14 @@ TEST_F(FamiliesTest, PiesAndDoughnutsHaveNoPlotAreaOfTheirOwn) {
 }
 
 TEST_F(FamiliesTest, PointsAreDrawnAlongAnAxisOfCategoriesAsWell) {
-  const S points =
-      "<c:ser><c:idx val=\"1\"/><c:order val=\"1\"/><c:marker><c:symbol val=\"square\"/></c:marker>"
-      "<c:xVal><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>1</c:v></c:pt><c:pt idx=\"1\"><c:v>2.5"
-      "</c:v></c:pt></c:numLit></c:xVal><c:yVal><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>4"
-      "</c:v></c:pt><c:pt idx=\"1\"><c:v>5</c:v></c:pt></c:numLit></c:yVal></c:ser>";
+  const S points = PointsXml(1, {1, 2.5}, {4, 5}, "<c:marker><c:symbol val=\"square\"/></c:marker>");
   const S scatter = GroupXml("scatterChart", "<c:scatterStyle val=\"lineMarker\"/>", points);
   const S columns = GroupXml("barChart", "", SeriesXml(0, {1, 2, 3}));
   struct {
     const char* what;
     S groups;
     double first, second;  // As shares of the plot area's width.
-    std::vector<S> labels;
+    Texts labels;
   } cases[] = {
       {"alone", scatter, 1.0 / 3, 2.5 / 3, {"0", "0.5", "1", "1.5", "2", "2.5", "3"}},
       {"beside columns", columns + scatter, 1.0 / 6, 2.0 / 3, {"1", "2", "3"}},
@@ -156,7 +138,7 @@ TEST_F(FamiliesTest, BubblesShowTheirSizeAsAreaOrAsWidth) {
   const std::vector<std::array<double, 3>> bubbles = {{1, 1, 100}, {2, 3, 25}, {3, 2, -50}, {4, 4, 0}};
   struct {
     const char* last;
-    std::vector<double> shares;  // As shares of the largest width.
+    Numbers shares;  // As shares of the largest width.
   } cases[] = {
       {"", {1, 0.5}},
       {"<c:sizeRepresents val=\"w\"/>", {1, 0.25}},
@@ -177,10 +159,9 @@ TEST_F(FamiliesTest, BubblesShowTheirSizeAsAreaOrAsWidth) {
 }
 
 TEST_F(FamiliesTest, LinesAndAreasGoThroughTheirValues) {
-  const auto value = "<c:scaling><c:max val=\"10\"/><c:min val=\"0\"/></c:scaling>";
+  const auto value = ScalingXml("0", "10");
   const Drawing lines =
-      Draw(PlotXml(GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
-                            SeriesXml(0, {2, kNoValue, 10, 5},
+      Draw(PlotXml(LinesXml(SeriesXml(0, {2, kNoValue, 10, 5},
                                       "<c:marker><c:symbol val=\"square\"/><c:size val=\"6\"/></c:marker>")) +
                        AxesXml("", value),
                    "<c:dispBlanksAs val=\"gap\"/>"));
@@ -210,9 +191,9 @@ TEST_F(FamiliesTest, LinesAndAreasGoThroughTheirValues) {
 
 /// Returns the heights at which the line of a series passes its points, on an axis from 0 to 10. A part after
 /// a gap begins with NaN.
-std::vector<double> HeightsOf(const Drawing& drawing, int series) {
+Numbers HeightsOf(const Drawing& drawing, int series) {
   const Rect plot = BoxOf(drawing, Role::kPlotArea);
-  std::vector<double> heights;
+  Numbers heights;
   for (const Item& line : ItemsOf(drawing, Role::kLine, series)) {
     for (const PathStep& step : std::get<PathItem>(line.content).path.Steps()) {
       if (step.kind == PathStep::Kind::kMove && !heights.empty()) heights.push_back(kNoValue);
@@ -226,7 +207,7 @@ TEST_F(FamiliesTest, BlanksOfLinesAreGapsUnlessTheFileSaysOtherwise) {
   constexpr double kGap = kNoValue;
   struct {
     const char *grouping, *behind;
-    std::vector<double> upper;  // The positions of the second series.
+    Numbers upper;  // The positions of the second series.
   } cases[] = {
       {"standard", "", {1, 1, kGap, 1, 1}},
       {"standard", "<c:dispBlanksAs val=\"gap\"/>", {1, 1, kGap, 1, 1}},
@@ -236,8 +217,8 @@ TEST_F(FamiliesTest, BlanksOfLinesAreGapsUnlessTheFileSaysOtherwise) {
       {"stacked", "<c:dispBlanksAs val=\"zero\"/>", {4, 5, 5, 6, 7}},
       {"percentStacked", "", {10, 10, 10, 10, 10}},
   };
-  const S value = "<c:scaling><c:max val=\"10\"/><c:min val=\"0\"/></c:scaling>";
-  const S shares = "<c:scaling><c:max val=\"1\"/><c:min val=\"0\"/></c:scaling>";
+  const S value = ScalingXml("0", "10");
+  const S shares = ScalingXml("0", "1");
   for (const auto& test : cases) {
     const Drawing drawing =
         Draw(PlotXml(GroupXml("lineChart", "<c:grouping val=\"" + S(test.grouping) + "\"/>",
@@ -257,12 +238,6 @@ TEST_F(FamiliesTest, BlanksOfLinesAreGapsUnlessTheFileSaysOtherwise) {
 }
 
 TEST_F(FamiliesTest, PointsAreJoinedUnlessTheFileShowsMarkersOnly) {
-  const auto numbers = [](const char* element) {
-    return "<c:" + S(element) +
-           "><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>1</c:v></c:pt><c:pt "
-           "idx=\"1\"><c:v>2</c:v></c:pt></c:numLit></c:" +
-           element + ">";
-  };
   struct {
     S style, marker;
     std::size_t lines, markers;
@@ -272,8 +247,8 @@ TEST_F(FamiliesTest, PointsAreJoinedUnlessTheFileShowsMarkersOnly) {
   };
   for (const auto& test : cases) {
     const S style = test.style.empty() ? "" : "<c:scatterStyle val=\"" + test.style + "\"/>";
-    const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:marker><c:symbol val=\"" + test.marker +
-                     "\"/></c:marker>" + numbers("xVal") + numbers("yVal") + "</c:ser>";
+    const S series =
+        PointsXml(0, {1, 2}, {1, 2}, "<c:marker><c:symbol val=\"" + test.marker + "\"/></c:marker>");
     const Drawing drawing = Draw(PlotXml(GroupXml("scatterChart", style, series) + AxesXml()));
     EXPECT_EQ(ItemsOf(drawing, Role::kLine, 1).size(), test.lines) << test.style << test.marker;
     EXPECT_EQ(ItemsOf(drawing, Role::kMarker, 1).size(), test.markers) << test.style << test.marker;
@@ -285,8 +260,7 @@ TEST_F(FamiliesTest, ValuesWithoutACacheAreThoseOfTheCells) {
       "<c:ser><c:idx val=\"0\"/><c:order "
       "val=\"0\"/><c:cat><c:strRef><c:f>Sheet1!$A$2:$A$4</c:f></c:strRef></c:cat>"
       "<c:val><c:numRef><c:f>Sheet1!$C$2:$C$4</c:f></c:numRef></c:val></c:ser>";
-  const Drawing drawing = Draw(PlotXml(
-      GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>", series) + AxesXml()));
+  const Drawing drawing = Draw(PlotXml(ColumnsXml(series) + AxesXml()));
   const auto sheet = Book().FindWorksheet("Sheet1");
   const auto bars = BoxesOf(drawing, Role::kBar);
   ASSERT_EQ(bars.size(), 3u);
@@ -318,11 +292,11 @@ TEST_F(FamiliesTest, NamesWithoutACacheAreThoseOfTheCells) {
   std::string scratch;
   const auto text = [&](int row, int column) { return S(sheet->CellTextAt(row, column, scratch)); };
   ASSERT_NE(text(1, 2), "");
-  const std::vector<S> names = {text(1, 2), text(1, 3)}, categories = {text(2, 1), text(3, 1), text(4, 1)};
+  const Texts names = {text(1, 2), text(1, 3)}, categories = {text(2, 1), text(3, 1), text(4, 1)};
   struct {
     const char* what;
     S groups;
-    std::vector<S> legend;
+    Texts legend;
   } cases[] = {
       {"one cell each",
        GroupXml("barChart", columns,
@@ -345,8 +319,7 @@ TEST_F(FamiliesTest, NamesWithoutACacheAreThoseOfTheCells) {
 }
 
 TEST_F(FamiliesTest, SeriesOfTwoAxesFollowTheirOwnScale) {
-  S second =
-      AxesXml("", "<c:scaling><c:max val=\"1\"/><c:min val=\"0\"/></c:scaling><c:crosses val=\"max\"/>");
+  S second = AxesXml("", ScalingXml("0", "1") + "<c:crosses val=\"max\"/>");
   const auto renumber = [](S xml) {
     for (const auto& [from, to] : {std::pair{"\"1\"/>", "\"11\"/>"}, {"\"2\"/>", "\"12\"/>"}}) {
       for (const char* name : {"axId val=", "crossAx val="}) {
@@ -360,11 +333,9 @@ TEST_F(FamiliesTest, SeriesOfTwoAxesFollowTheirOwnScale) {
   second = renumber(second);
   second.replace(second.find("<c:delete val=\"0\"/>"), 19, "<c:delete val=\"1\"/>");
   const Drawing drawing = Draw(
-      PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>",
-                       SeriesXml(0, {50, 100})) +
-              renumber(GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
-                                SeriesXml(1, {0.5, 1}, "<c:marker><c:symbol val=\"dash\"/></c:marker>"))) +
-              AxesXml("", "<c:scaling><c:max val=\"100\"/><c:min val=\"0\"/></c:scaling>") + second));
+      PlotXml(ColumnsXml(SeriesXml(0, {50, 100})) +
+              renumber(LinesXml(SeriesXml(1, {0.5, 1}, "<c:marker><c:symbol val=\"dash\"/></c:marker>"))) +
+              AxesXml("", ScalingXml("0", "100")) + second));
   const auto bars = BoxesOf(drawing, Role::kBar), markers = BoxesOf(drawing, Role::kMarker);
   ASSERT_EQ(markers.size(), 2u);
   for (std::size_t i = 0; i < 2; ++i) EXPECT_NEAR(markers[i].Center().y, bars[i].top, 1e-6) << i;
@@ -375,9 +346,9 @@ TEST_F(FamiliesTest, SeriesOfTwoAxesFollowTheirOwnScale) {
 }
 
 TEST_F(DrawingTest, RadarChartsLieOnAWebOfTheirScale) {
-  const S scale =
-      "<c:scaling><c:max val=\"10\"/><c:min val=\"0\"/></c:scaling><c:majorGridlines/>"
-      "<c:majorUnit val=\"5\"/>";
+  const S scale = ScalingXml("0", "10") +
+                  "<c:majorGridlines/>"
+                  "<c:majorUnit val=\"5\"/>";
   struct {
     const char* style;
     Role role;
@@ -390,10 +361,10 @@ TEST_F(DrawingTest, RadarChartsLieOnAWebOfTheirScale) {
                                         CategoriesXml({"North", "East", "South", "West"}))) +
                          AxesXml("", scale),
                      "<c:legend/>"));
-    EXPECT_EQ(notes_, std::vector<S>()) << test.style;
+    EXPECT_EQ(notes_, Texts()) << test.style;
     EXPECT_EQ(DrawingComplaints(drawing), "") << test.style;
-    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), (std::vector<S>{"North", "East", "South", "West"}));
-    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), (std::vector<S>{"0", "5", "10"})) << test.style;
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), (Texts{"North", "East", "South", "West"}));
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), (Texts{"0", "5", "10"})) << test.style;
     EXPECT_EQ(ItemsOf(drawing, Role::kMarker).size(), test.markers) << test.style;
     const auto webs = BoxesOf(drawing, Role::kGridline);
     ASSERT_EQ(webs.size(), 3u) << test.style;

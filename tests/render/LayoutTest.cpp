@@ -7,14 +7,6 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
-using render::Item;
-using render::PathItem;
-using render::Rect;
-using render::Role;
-using render::TextItem;
-using S = std::string;
-using Texts = std::vector<S>;
 
 class LayoutTest : public DrawingTest {
  protected:
@@ -134,10 +126,9 @@ TEST_F(LayoutTest, ALegendShowsTheEntriesThatFitAndDoesNotCoverThePlot) {
        {"There is no space for the legend, which is left out."}},
   };
   for (const auto& test : cases) {
-    const Drawing drawing = Draw(
-        PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>", many(test.series, test.name)) + AxesXml(),
-                LegendXml(test.position)),
-        "", test.width, test.height);
+    const Drawing drawing =
+        Draw(PlotXml(ColumnsXml(many(test.series, test.name)) + AxesXml(), LegendXml(test.position)), "",
+             test.width, test.height);
     EXPECT_EQ(ItemsOf(drawing, Role::kLegendKey).size(), test.entries) << test.what;
     EXPECT_EQ(notes_, test.notes) << test.what;
     const Rect legend = BoxOf(drawing, Role::kLegend), plot = BoxOf(drawing, Role::kPlotArea);
@@ -324,15 +315,15 @@ TEST_F(LayoutTest, FillingsAndLinesAreTheChartParts) {
   const S series =
       SeriesXml(0, {1, 2}, look + "<c:dPt><c:idx val=\"1\"/><c:spPr><a:noFill/></c:spPr></c:dPt>");
   const Drawing drawing =
-      Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>", series) +
-                   AxesXml() + "<c:spPr><a:solidFill><a:srgbClr val=\"FFFF99\"/></a:solidFill></c:spPr>"),
+      Draw(PlotXml(ColumnsXml(series) + AxesXml() +
+                   "<c:spPr><a:solidFill><a:srgbClr val=\"FFFF99\"/></a:solidFill></c:spPr>"),
            "<c:spPr><a:solidFill><a:srgbClr val=\"EEEEEE\"/></a:solidFill><a:ln><a:noFill/></a:ln></c:spPr>");
   const auto bars = ItemsOf(drawing, Role::kBar);
   const auto& first = std::get<PathItem>(bars[0].content);
   EXPECT_EQ(std::get<render::SolidFill>(first.fill).color, (render::Color{0, 0xB0, 0x50, 0.5}));
   EXPECT_EQ(HexOf(first.stroke.color), "#C0504D");
   EXPECT_EQ(first.stroke.width, 2);
-  EXPECT_EQ(first.stroke.dashes, (std::vector<double>{8, 6}));
+  EXPECT_EQ(first.stroke.dashes, (Numbers{8, 6}));
   EXPECT_EQ(first.stroke.cap, render::LineCap::kRound);
   EXPECT_EQ(FillOf(bars[1]), "none");
   EXPECT_EQ(std::get<PathItem>(bars[1].content).stroke.width,

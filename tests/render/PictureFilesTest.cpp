@@ -10,17 +10,11 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
 using render::MakePdf;
 using render::MakePng;
 using render::MakeSvg;
 using render::Path;
-using render::PathItem;
-using render::Rect;
-using render::Role;
 using render::SolidFill;
-using render::TextItem;
-using S = std::string;
 
 class PictureFilesTest : public DrawingTest {
  protected:
@@ -45,10 +39,8 @@ class PictureFilesTest : public DrawingTest {
   }
   Drawing Columns(int series, int points) {
     S all;
-    for (int s = 0; s < series; ++s)
-      all += SeriesXml(s, std::vector<double>(static_cast<std::size_t>(points), s + 1));
-    return Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>", all) +
-                        AxesXml()));
+    for (int s = 0; s < series; ++s) all += SeriesXml(s, Numbers(static_cast<std::size_t>(points), s + 1));
+    return Draw(PlotXml(ColumnsXml(all) + AxesXml()));
   }
 };
 
@@ -151,16 +143,16 @@ TEST_F(PictureFilesTest, PngIsTheSameOnEveryRunAndAsLargeAsAsked) {
 TEST_F(PictureFilesTest, LinesAndEdgesOfPicturesLieOnPixels) {
   const render::PixelScale scale{4.0 / 3, 4.0 / 3};
   const auto places = [&](const Path& path, double width) {
-    std::vector<double> pixels;
+    Numbers pixels;
     const Path snapped = OnPixels(path, scale, width);
     for (const auto& step : snapped.Steps()) {
-      if (step.kind == render::PathStep::Kind::kClose) continue;
+      if (step.kind == PathStep::Kind::kClose) continue;
       pixels.push_back(step.to.x * scale.x);
       pixels.push_back(step.to.y * scale.y);
     }
     return pixels;
   };
-  const auto expectNear = [](const std::vector<double>& a, const std::vector<double>& b) {
+  const auto expectNear = [](const Numbers& a, const Numbers& b) {
     ASSERT_EQ(a.size(), b.size());
     for (std::size_t i = 0; i < a.size(); ++i) EXPECT_NEAR(a[i], b[i], 1e-9) << i;
   };

@@ -256,7 +256,7 @@ TEST_F(SheetPagesTest, ThePrintAreaIsAllThatIsPrinted) {
 TEST_F(SheetPagesTest, ChartsAreInPlaceAndContinueOnFurtherPages) {
   PlainSheet sheet{.name = "Sheet1"};
   sheet.rows = {{S("Above")}};
-  const S bars = test::GroupXml("barChart", "<c:barDir val=\"col\"/>", test::SeriesXml(0, {1, 2}));
+  const S bars = test::ColumnsXml(test::SeriesXml(0, {1, 2}));
   const S chart = test::ChartPartXml(test::PlotXml(bars + test::AxesXml()));
   sheet.frames = {{"", chart, 1, 40, 4, 10}};
   const auto printed = Pages(sheet);

@@ -4,11 +4,6 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
-using render::Rect;
-using render::Role;
-using S = std::string;
-using Texts = std::vector<S>;
 
 class WallsAndLevelsTest : public DrawingTest {
  protected:
@@ -50,11 +45,9 @@ TEST_F(WallsAndLevelsTest, ALongSlantedLabelStaysOnTheChart) {
     if (rotation[0] != '-') std::reverse(texts.begin(), texts.end());
     const S turned =
         "<c:txPr><a:bodyPr rot=\"" + rotation + "\"/><a:p><a:pPr><a:defRPr/></a:pPr></a:p></c:txPr>";
-    const Drawing drawing =
-        Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>",
-                              SeriesXml(0, std::vector<double>(12, 1), "", "", CategoriesXml(texts))) +
-                     AxesXml(turned)),
-             "", 384, 400);
+    const Drawing drawing = Draw(
+        PlotXml(ColumnsXml(SeriesXml(0, Numbers(12, 1), "", "", CategoriesXml(texts))) + AxesXml(turned)), "",
+        384, 400);
     EXPECT_EQ(DrawingComplaints(drawing), "") << rotation;
     const Texts labels = TextsOf(drawing, Role::kTickLabel, 1);
     ASSERT_EQ(labels.size(), 12u) << rotation;
@@ -76,7 +69,7 @@ TEST_F(WallsAndLevelsTest, PiesOfHugeValuesHaveTheirSlices) {
 }
 
 TEST_F(WallsAndLevelsTest, LeaderLinesGoRoundThePie) {
-  std::vector<double> values(70, 1);
+  Numbers values(70, 1);
   values.push_back(3000);
   const S labels =
       "<c:dLbls><c:dLblPos val=\"outEnd\"/><c:showVal val=\"1\"/><c:showCatName val=\"1\"/>"
@@ -86,7 +79,7 @@ TEST_F(WallsAndLevelsTest, LeaderLinesGoRoundThePie) {
   const auto lines = ItemsOf(drawing, Role::kLeaderLine);
   ASSERT_GT(lines.size(), 5u);
   for (const auto& line : lines) {
-    const auto& steps = std::get<render::PathItem>(line.content).path.Steps();
+    const auto& steps = std::get<PathItem>(line.content).path.Steps();
     for (std::size_t i = 0; i + 1 < steps.size(); ++i) {
       for (double share = 0; share <= 1; share += 0.02) {
         const double x = steps[i].to.x + (steps[i + 1].to.x - steps[i].to.x) * share - circle.Center().x;
