@@ -307,7 +307,7 @@ TEST_F(AnalysisTest, ErrorBarsOfSharesAreShares) {
 
 TEST_F(AnalysisTest, DatesGoOnForTrendlines) {
   const S axes = DateAxesXml();
-  const S trend = TrendXml("linear", "<c:forward val=\"4\"/>");
+  const S trend = TrendXml("linear", "<c:forward val=\"4\"/><c:dispEq val=\"1\"/>");
   const S series = SeriesXml(0, {1, 2, 3}, trend, "", NumbersXml("cat", {45000, 45001, 45002}));
   const Drawing drawing = Draw(PlotXml(ColumnsXml(series) + axes));
   // seven days, of which the last one is the end of the line
@@ -315,6 +315,7 @@ TEST_F(AnalysisTest, DatesGoOnForTrendlines) {
   EXPECT_NEAR(BoxesOf(drawing, Role::kBar)[0].Center().x, plot.left + plot.width / 14, 1e-6);
   EXPECT_NEAR(line.Right(), plot.Right() - plot.width / 14, 1e-6);
   EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2).back(), "8");
+  EXPECT_EQ(TextsOf(drawing, Role::kTrendlineLabel), Texts{"y = x - 44999"});
 }
 
 TEST_F(AnalysisTest, AxesHaveRoomOnlyForWhatIsSeen) {
@@ -335,11 +336,60 @@ TEST_F(AnalysisTest, CurvesKeepTheirSlopeWhereTheyLeaveThePlotArea) {
     EXPECT_NEAR((plot.Bottom() - step.to.y) / plot.height * 10, std::pow(1000, x - 1), 1e-6);
   }
   EXPECT_NEAR(steps.back().to.y, plot.top - 20, 1e-6);  // where the last of it may be seen
-  // a line that crosses the plot area between two samples
-  const Drawing steep = DrawColumns({-1e9, 1e9}, TrendXml("linear"));
-  const Rect line = BoxOf(steep, Role::kTrendline);
-  EXPECT_NEAR(line.Center().x, plot.Center().x, 1);
-  EXPECT_NEAR(line.height, BoxOf(steep, Role::kPlotArea).height + 40, 0.1);
+}
+
+TEST_F(AnalysisTest, SteepLinesCrossThePlotAreaWhereTheyPassItsValues) {
+  struct {
+    Numbers values;
+    double place;  // the number of the category, from 1, at which the line passes 0; 0 without a line
+  } const kCases[] = {{{-1e9, 1e9}, 1.5},     {{1e9, -1e9}, 1.5}, {{-1e9, 2e9}, 4.0 / 3},
+                      {{2e9, -1e9}, 5.0 / 3}, {{1e9, 3e9}, 0},    {{-3e9, -1e9}, 0}};
+  for (const auto& test : kCases) {
+    const Drawing drawing = DrawColumns(test.values, TrendXml("linear"));
+    const Rect plot = BoxOf(drawing, Role::kPlotArea), line = BoxOf(drawing, Role::kTrendline);
+    EXPECT_EQ(ItemsOf(drawing, Role::kTrendline).size(), test.place == 0 ? 0u : 1u) << test.place;
+    EXPECT_EQ(notes_.size(), test.place == 0 ? 1u : 0u) << test.place;
+    if (test.place == 0) continue;
+    EXPECT_NEAR(line.Center().x, plot.left + plot.width / 2 * (test.place - 0.5), 1e-3) << test.place;
+    EXPECT_NEAR(line.top, plot.top - 20, 0.1) << test.place;
+    EXPECT_NEAR(line.Bottom(), plot.Bottom() + 20, 0.1) << test.place;
+  }
+}
+
+TEST_F(AnalysisTest, LabelsOfTrendlinesAreAtTheirEndOrWhereTheirLayoutSays) {
+  const auto draw = [&](const S& mode, const S& x, const S& y) {
+    const S layout = mode.empty() ? ""
+                                  : "<c:layout><c:manualLayout><c:xMode val=\"" + mode +
+                                        "\"/><c:yMode val=\"" + mode + "\"/><c:x val=\"" + x +
+                                        "\"/><c:y val=\"" + y + "\"/></c:manualLayout></c:layout>";
+    return DrawColumns({2, 4},
+                       TrendXml("linear", "<c:dispEq val=\"1\"/><c:trendlineLbl>" + layout + "<c:spPr>" +
+                                              SolidXml("FFFFCC") + "</c:spPr></c:trendlineLbl>"));
+  };
+  const auto frameOf = [](const Drawing& drawing) {
+    return BoundsOf(ItemsOf(drawing, Role::kTrendlineLabel)[0]);
+  };
+  const Drawing usual = draw("", "", "");
+  const Rect own = frameOf(usual), line = BoxOf(usual, Role::kTrendline);
+  EXPECT_NEAR(own.Right(), line.Right(), 1e-6);
+  EXPECT_NEAR(own.Bottom(), line.top - 4, 1e-6);
+  EXPECT_EQ(TextsOf(usual, Role::kTrendlineLabel), Texts{"y = 2x"});
+  struct {
+    S mode, x, y;
+    double left, top;
+  } const kCases[] = {
+      {"edge", "0.25", "0.5", 96, 135},
+      {"factor", "-0.25", "0.1", own.left - 96, own.top + 27},
+      {"edge", "9", "9", 384 - own.width, 270 - own.height},
+      {"edge", "-9", "-9", 0, 0},
+  };
+  for (const auto& test : kCases) {
+    const Drawing drawing = draw(test.mode, test.x, test.y);
+    const Rect frame = frameOf(drawing);
+    EXPECT_NEAR(frame.left, test.left, 1e-6) << test.mode << test.x;
+    EXPECT_NEAR(frame.top, test.top, 1e-6) << test.mode << test.y;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.mode << test.x;
+  }
 }
 
 TEST_F(AnalysisTest, CurvesAreSampledBetweenTheEndsOfTheirAxis) {

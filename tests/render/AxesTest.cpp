@@ -387,6 +387,16 @@ TEST_F(AxesTest, LongNamesBesideBarsLeaveRoomForThem) {
   EXPECT_EQ(DrawingComplaints(drawing), "");
 }
 
+TEST_F(AxesTest, TurnedNamesBesideBarsAreNeitherWrappedNorShortened) {
+  const S name = "A name that goes on and on until little is left of the chart";
+  for (const S rotation : {"2700000", "-2700000"}) {
+    const S turned =
+        "<c:txPr><a:bodyPr rot=\"" + rotation + "\"/><a:p><a:pPr><a:defRPr/></a:pPr></a:p></c:txPr>";
+    const Drawing drawing = DrawWith({3, 5}, "", turned, {name, "B"}, true);
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), (Texts{name, "B"})) << rotation;
+  }
+}
+
 TEST_F(AxesTest, LabelsOfSeveralLinesBesideBarsAreSkippedByTheirHeight) {
   struct {
     const char* what;

@@ -11,10 +11,9 @@ class DataTableTest : public DrawingTest {
  protected:
   Drawing DrawWithTable(const S& table, const S& series, const S& category = "", bool horizontal = false,
                         double width = 384) {
-    return Draw(
-        PlotXml(GroupXml("barChart", S("<c:barDir val=\"") + (horizontal ? "bar" : "col") + "\"/>", series) +
-                AxesXml(category, "", horizontal) + "<c:dTable>" + table + "</c:dTable>"),
-        "", width, 270);
+    return Draw(PlotXml(ColumnsXml(series, "", "clustered", horizontal ? "bar" : "col") +
+                        AxesXml(category, "", horizontal) + "<c:dTable>" + table + "</c:dTable>"),
+                "", width, 270);
   }
 };
 
@@ -126,19 +125,24 @@ TEST_F(DataTableTest, SaysWhatHasNoRoom) {
   }
 }
 
-TEST_F(DataTableTest, LeavesTheTickLabelsWhereItHasNoRoom) {
+TEST_F(DataTableTest, LeavesTheChartAsItIsWhereItHasNoRoom) {
   // the columns are too narrow with the names beside them, or even without
   const S name = "A name that takes nearly a third of the width";
-  for (const std::size_t count : {55u, 75u, 300u}) {
+  for (const auto& [count, value] :
+       {std::pair(55u, S()), {75u, S("<c:crossBetween val=\"midCat\"/>")}, {300u, S()}}) {
     S series = SeriesXml(0, Numbers(count, 1));
     series.replace(series.find("Series 0"), S("Series 0").size(), name);
-    const Drawing drawing = DrawWithTable(kLines, series);
-    EXPECT_FALSE(TextsOf(drawing, Role::kTickLabel, 1).empty()) << count;
-    EXPECT_TRUE(TextsOf(drawing, Role::kTableText).empty()) << count;
-    EXPECT_EQ(DrawingComplaints(drawing), "") << count;
+    const S chart = LinesXml(series) + AxesXml("", value);
+    const Drawing without = Draw(PlotXml(chart));
+    const Drawing drawing = Draw(PlotXml(chart + "<c:dTable>" + kLines + "</c:dTable>"));
     EXPECT_EQ(notes_,
               (render::Notes{"The data table isn't drawn because its columns are too narrow for a text."}))
         << count;
+    ASSERT_EQ(drawing.items.size(), without.items.size()) << count;
+    for (std::size_t i = 0; i < drawing.items.size(); ++i) {
+      EXPECT_EQ(drawing.items[i].tag, without.items[i].tag) << count << ' ' << i;
+      EXPECT_EQ(BoundsOf(drawing.items[i]), BoundsOf(without.items[i])) << count << ' ' << i;
+    }
   }
 }
 

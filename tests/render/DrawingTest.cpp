@@ -152,6 +152,10 @@ S PlotXml(const S& content, const S& behind) {
   return "<c:autoTitleDeleted val=\"1\"/><c:plotArea>" + content + "</c:plotArea>" + behind;
 }
 
+render::TextExtent EvenMeasure::Measure(std::string_view line, const render::Font& font) const {
+  return {0.5 * font.size * static_cast<double>(runtime::Len(line)), 0.75 * font.size, 0.25 * font.size};
+}
+
 render::Fonts& DrawingTest::SharedFonts() {
   static render::Fonts fonts;
   return fonts;

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "render/TextMeasure.h"
 #include "render/cairo/Fonts.h"
 #include "render/chart/ChartDrawing.h"
 #include "tests/support/ChartTest.h"
@@ -51,6 +52,12 @@ S LinesXml(const S& series, const S& last = "", const S& grouping = "standard");
 /// Returns a chart without a title that contains a plot area.
 S PlotXml(const S& content, const S& behind = "");
 ///@}
+
+/// A font whose letters all have the same width, so that drawings don't depend on the installed fonts.
+class EvenMeasure : public render::TextMeasure {
+ public:
+  render::TextExtent Measure(std::string_view line, const render::Font& font) const override;
+};
 
 /// A test that draws charts and checks the list of painted items.
 class DrawingTest : public ChartTest {

@@ -237,6 +237,87 @@ TEST_F(FamiliesTest, BlanksOfLinesAreGapsUnlessTheFileSaysOtherwise) {
   }
 }
 
+TEST_F(FamiliesTest, BlanksAtTheEndsAreNoPartOfALine) {
+  constexpr double kGap = kNoValue;
+  const S ownLook = "<c:dPt><c:idx val=\"3\"/><c:spPr><a:ln w=\"12700\"/></c:spPr></c:dPt>";
+  struct {
+    S blanks, look;
+    Numbers heights;
+  } cases[] = {
+      {"gap", "", {}},      {"span", "", {2, 4}},      {"zero", "", {0, 2, 0, 4, 0}},
+      {"gap", ownLook, {}}, {"span", ownLook, {2, 4}}, {"zero", ownLook, {0, 2, 0, kGap, 0, 4, kGap, 4, 0}},
+  };
+  for (const auto& test : cases) {
+    const Drawing drawing =
+        Draw(PlotXml(LinesXml(SeriesXml(0, {kNoValue, 2, kNoValue, 4, kNoValue}, test.look)) +
+                         AxesXml("", ScalingXml("0", "10")),
+                     "<c:dispBlanksAs val=\"" + test.blanks + "\"/>"));
+    Texts expected, found;
+    for (const double height : test.heights) expected.push_back(xlsx::xml::Number(height));
+    for (const double height : HeightsOf(drawing, 1)) found.push_back(xlsx::xml::Number(height + 0.0));
+    EXPECT_EQ(found, expected) << test.blanks << test.look;
+  }
+}
+
+TEST_F(FamiliesTest, BlanksOfRadarChartsInterruptTheirOutline) {
+  // The steps of the outline: moves, lines, and Z if it is closed.
+  const std::pair<S, S> cases[] = {{"gap", "MLM"}, {"span", "MLLZ"}, {"zero", "MLLLLZ"}};
+  for (const auto& [blanks, steps] : cases) {
+    const Drawing drawing = Draw(PlotXml(GroupXml("radarChart", "<c:radarStyle val=\"standard\"/>",
+                                                  SeriesXml(0, {kNoValue, 2, 3, kNoValue, 4})) +
+                                             AxesXml(),
+                                         "<c:dispBlanksAs val=\"" + blanks + "\"/>"));
+    S found;
+    const auto lines = ItemsOf(drawing, Role::kLine);
+    for (const PathStep& step : std::get<PathItem>(lines[0].content).path.Steps()) {
+      found += step.kind == PathStep::Kind::kMove ? 'M' : step.kind == PathStep::Kind::kLine ? 'L' : 'Z';
+    }
+    EXPECT_EQ(found, steps) << blanks;
+  }
+}
+
+TEST_F(FamiliesTest, PointsWithoutBothOfTheirNumbersAreNotDrawn) {
+  for (const char* element : {"scatterChart", "bubbleChart"}) {
+    const S sizes = NumbersXml("bubbleSize", {1, 1, 1, 1}),
+            labels = "<c:dLbls><c:showVal val=\"1\"/></c:dLbls>";
+    const S series = PointsXml(0, {1, kNoValue, 3}, {5, 6, kNoValue, 8}, labels, sizes);
+    const Drawing drawing = Draw(PlotXml(GroupXml(element, "", series) + ValueAxesXml()));
+    EXPECT_EQ(ItemsOf(drawing, Role::kMarker).size() + ItemsOf(drawing, Role::kBubble).size(), 1u) << element;
+    EXPECT_EQ(TextsOf(drawing, Role::kDataLabel), Texts{"5"}) << element;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << element;
+  }
+}
+
+TEST_F(FamiliesTest, LabelsOfPointsShowTheirXValueInTheFormatOfItsAxis) {
+  const S labels = "<c:dLbls><c:showVal val=\"1\"/><c:showCatName val=\"1\"/></c:dLbls>";
+  for (const char* element : {"scatterChart", "bubbleChart"}) {
+    const S series = PointsXml(0, {1.5, 2}, {5, 6}, labels, NumbersXml("bubbleSize", {1, 1}));
+    const S axes = ValueAxesXml("<c:numFmt formatCode=\"0.00\" sourceLinked=\"0\"/>");
+    const Drawing drawing = Draw(PlotXml(GroupXml(element, "", series) + axes));
+    EXPECT_EQ(TextsOf(drawing, Role::kDataLabel), (Texts{"1.50, 5", "2.00, 6"})) << element;
+  }
+}
+
+TEST_F(FamiliesTest, GroupsWithoutBothAxesAreNotDrawn) {
+  const S axes = AxesXml(), category = axes.substr(0, axes.find("<c:valAx>")),
+          value = axes.substr(category.size());
+  for (const char* element :
+       {"barChart", "lineChart", "areaChart", "radarChart", "scatterChart", "bubbleChart"}) {
+    for (const S& one : {category, value, S()}) {
+      const bool points = S(element) == "scatterChart" || S(element) == "bubbleChart";
+      const S series =
+          points ? PointsXml(0, {1, 2}, {1, 2}, "", NumbersXml("bubbleSize", {1, 1}))
+                 : SeriesXml(0, {1, 2}, "<c:trendline><c:trendlineType val=\"linear\"/></c:trendline>");
+      const Drawing drawing = Draw(PlotXml(GroupXml(element, "", series) + one));
+      for (const Role role :
+           {Role::kBar, Role::kLine, Role::kArea, Role::kMarker, Role::kBubble, Role::kTrendline}) {
+        EXPECT_EQ(ItemsOf(drawing, role).size(), 0u) << element << one;
+      }
+      EXPECT_EQ(DrawingComplaints(drawing), "") << element << one;
+    }
+  }
+}
+
 TEST_F(FamiliesTest, PointsAreJoinedUnlessTheFileShowsMarkersOnly) {
   struct {
     S style, marker;

@@ -1,3 +1,5 @@
+#include <map>
+
 #include "render/cairo/CairoPainter.h"
 #include "runtime/Strings.h"
 #include "tests/render/DrawingTest.h"
@@ -141,6 +143,72 @@ TEST_F(LayoutTest, ALegendShowsTheEntriesThatFitAndDoesNotCoverThePlot) {
     }
     const auto keys = BoxesOf(drawing, Role::kLegendKey);
     for (std::size_t i = 1; i < keys.size(); ++i) EXPECT_FALSE(Overlap(keys[i - 1], keys[i])) << test.what;
+  }
+}
+
+TEST_F(LayoutTest, ALegendThatWasMovedHasTheSizeOfTheAutomaticOne) {
+  const S frame = "<c:spPr>" + SolidXml("FFFFCC") + "</c:spPr>";
+  const auto boxes = [](const Drawing& drawing) {
+    std::vector<Rect> all = BoxesOf(drawing, Role::kLegend);
+    for (const Role role : {Role::kLegendKey, Role::kLegendEntry}) {
+      for (const Rect& box : BoxesOf(drawing, role)) all.push_back(box);
+    }
+    return all;
+  };
+  const auto usual = boxes(DrawColumns(LegendXml("r", frame)));
+  ASSERT_EQ(usual.size(), 7u);
+  const struct {
+    S mode, x;
+    double left, top;  // of the moved legend, in points
+  } cases[] = {{"factor", "-0.25", usual[0].left - 96, usual[0].top + 27},
+               {"edge", "0.25", 96, 27},
+               {"edge", "-0.25", 0, 27}};
+  for (const auto& test : cases) {
+    const auto moved = boxes(DrawColumns(LegendXml(
+        "r", "<c:layout><c:manualLayout><c:xMode val=\"" + test.mode + "\"/><c:yMode val=\"" + test.mode +
+                 "\"/><c:x val=\"" + test.x + "\"/><c:y val=\"0.1\"/></c:manualLayout></c:layout>" + frame)));
+    ASSERT_EQ(moved.size(), usual.size()) << test.mode;
+    for (std::size_t i = 0; i < usual.size(); ++i) {
+      EXPECT_NEAR(moved[i].left - usual[i].left, test.left - usual[0].left, 1e-6) << test.mode << test.x << i;
+      EXPECT_NEAR(moved[i].top - usual[i].top, test.top - usual[0].top, 1e-6) << test.mode << test.x << i;
+      EXPECT_NEAR(moved[i].width, usual[i].width, 1e-6) << test.mode << test.x << i;
+      EXPECT_NEAR(moved[i].height, usual[i].height, 1e-6) << test.mode << test.x << i;
+    }
+  }
+}
+
+TEST_F(LayoutTest, ColumnsOfALegendAreAsWideAsTheirWidestEntry) {
+  Texts names;
+  for (int i = 0; i < 60; ++i) names.push_back(i < 5 ? "Northern" : i < 30 ? "Nord" : "N");
+  const Drawing drawing =
+      Draw(PlotXml("<c:pieChart><c:varyColors val=\"1\"/>" +
+                       SeriesXml(0, Numbers(60, 1), "", "", CategoriesXml(names)) + "</c:pieChart>",
+                   LegendXml("r")));
+  std::map<long, double> columns;  // the right end of each column, by its left end
+  const auto keys = BoxesOf(drawing, Role::kLegendKey), texts = BoxesOf(drawing, Role::kLegendEntry);
+  ASSERT_EQ(keys.size(), texts.size());
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    double& right = columns[std::lround(keys[i].left * 100)];
+    right = std::max(right, texts[i].Right());
+  }
+  ASSERT_GE(columns.size(), 3u);
+  for (auto next = std::next(columns.begin()); next != columns.end(); ++next) {
+    EXPECT_NEAR(static_cast<double>(next->first) / 100 - std::prev(next)->second, 9, 0.02);
+  }
+}
+
+TEST_F(LayoutTest, ThePlotAreaKeepsItsLeastShareOfTheChart) {
+  const S title =
+      "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:rPr sz=\"4000\"/><a:t>Sales of the year</a:t></a:r>"
+      "</a:p></c:rich></c:tx></c:title>";
+  for (const auto& [width, height] : {std::pair(384.0, 60.0), {60.0, 270.0}, {40.0, 40.0}}) {
+    const Drawing drawing = Draw(title + "<c:plotArea>" + ColumnsXml(SeriesXml(0, {1, 2})) + AxesXml() +
+                                     "</c:plotArea>" + LegendXml("b"),
+                                 "", width, height);
+    const Rect plot = BoxOf(drawing, Role::kPlotArea);
+    EXPECT_GE(plot.width, 0.1 * width - 1e-6) << width;
+    EXPECT_GE(plot.height, 0.1 * height - 1e-6) << height;
+    EXPECT_TRUE(plot.left >= 0 && plot.top >= 0 && plot.Right() <= width && plot.Bottom() <= height) << width;
   }
 }
 

@@ -180,12 +180,21 @@ TEST_F(PieLabelsTest, LabelsAreInTheirSliceAtItsEdgeIfTheyFit) {
 
 TEST_F(PieLabelsTest, LabelsThatAreLargerThanThePieAreAtItsMiddle) {
   const S large = "<c:txPr><a:bodyPr/><a:p><a:pPr><a:defRPr sz=\"4000\"/></a:pPr></a:p></c:txPr>";
-  for (const auto& [position, below] : {std::pair("inEnd", 0.0), {"ctr", 13.5}, {"bestFit", 0.0}}) {
+  for (const auto& [position, below] : {std::pair("inEnd", 0.0), {"ctr", 13.5}}) {
     const Drawing drawing = DrawPie({123}, large + "<c:dLblPos val=\"" + position + "\"/>", 0, 0.2);
     const Rect frame = FramesOf(drawing)[0];
     EXPECT_GT(frame.width, 60) << position;
     EXPECT_NEAR(frame.Center().x, kMiddle.x, 1e-6) << position;
     EXPECT_NEAR(frame.Center().y, kMiddle.y + below, 1e-6) << position;
+  }
+}
+
+TEST_F(PieLabelsTest, TheLabelOfAWholeCircleIsInItIfItIsNarrowerThanTheRadius) {
+  for (const auto& [value, inside] : {std::pair(1e10, false), {7.0, true}}) {
+    const Rect frame = FramesOf(DrawPie({value}, "<c:dLblPos val=\"bestFit\"/>", 0, 0.2))[0];
+    EXPECT_NEAR(frame.Center().x, kMiddle.x, 1e-6);
+    EXPECT_EQ(frame.Bottom() < kMiddle.y + 27, inside) << frame.width;
+    EXPECT_EQ(frame.top > kMiddle.y + 27, !inside) << frame.width;
   }
 }
 

@@ -3,8 +3,6 @@
 #include <map>
 #include <sstream>
 
-#include "render/TextMeasure.h"
-#include "runtime/Strings.h"
 #include "tests/render/DrawingTest.h"
 #include "tests/render/WholeCharts.h"
 #include "tests/support/Paths.h"
@@ -15,14 +13,6 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-
-/// A font whose letters all have the same width, so that drawings don't depend on the installed fonts.
-class EvenMeasure : public render::TextMeasure {
- public:
-  render::TextExtent Measure(std::string_view line, const render::Font& font) const override {
-    return {0.5 * font.size * static_cast<double>(runtime::Len(line)), 0.75 * font.size, 0.25 * font.size};
-  }
-};
 
 /// Returns a number with one decimal.
 S Short(double value) { return xlsx::xml::Number(std::floor(value * 10 + 0.5 + 1e-6) / 10 + 0.0); }
