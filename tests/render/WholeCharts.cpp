@@ -251,6 +251,16 @@ std::map<std::string, Whole> WholeCharts() {
                                                            SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels())) +
                                                       AxesXml())},
       {"3d-columns-percent", solid(rightAngles, bodies("percentStacked", "col"))},
+      {"3d-lines-of-blanks", solid(perspective, GroupXml("line3DChart", "<c:grouping val=\"standard\"/>",
+                                                         SeriesXml(0, {1, 2, kNoValue, 3, 4}) +
+                                                             SeriesXml(1, {kNoValue, 3, 2, kNoValue, 5}),
+                                                         "<c:axId val=\"3\"/>") +
+                                                    AxesXml(kGrid, kBothGrids) + depth)},
+      {"3d-reversed",
+       solid("<c:rotX val=\"-20\"/><c:rotY val=\"120\"/><c:perspective val=\"40\"/>",
+             GroupXml("bar3DChart", "<c:barDir val=\"col\"/>", SeriesXml(0, {5, -3}, "", "", kNames)) +
+                 AxesXml(reversed + kGrid + kMarks, reversed + kBothGrids + kMarks) + "<c:spPr>" +
+                 SolidXml("EEEEEE") + "</c:spPr>")},
       {"3d-cones", solid(rightAngles, bodies("stacked", "col", "<c:shape val=\"coneToMax\"/>"))},
       {"3d-cylinders", solid(perspective, bodies("clustered", "col", "<c:shape val=\"cylinder\"/>"))},
       {"3d-pie", solid("<c:rotX val=\"30\"/><c:rotY val=\"40\"/>",

@@ -37,6 +37,26 @@ TEST_F(WallsAndLevelsTest, WallsOfDarkStylesAreFilled) {
   }
 }
 
+TEST_F(WallsAndLevelsTest, GridlinesAndMarksAreAtTheEdgesOfCategories) {
+  const S series = SeriesXml(0, {1, 2, 3});
+  for (const S orientation : {"minMax", "maxMin"}) {
+    const S axis = "<c:scaling><c:orientation val=\"" + orientation + "\"/></c:scaling><c:majorGridlines/>";
+    const Drawing drawing = Draw(
+        "<c:autoTitleDeleted val=\"1\"/><c:view3D><c:rotX val=\"15\"/><c:rotY val=\"20\"/><c:rAngAx "
+        "val=\"1\"/></c:view3D><c:plotArea>" +
+        GroupXml("bar3DChart", "<c:barDir val=\"col\"/>", series) + AxesXml(axis) + "</c:plotArea>");
+    const Rect line = BoxOf(drawing, Role::kAxisLine, 1);
+    for (const Role role : {Role::kGridline, Role::kTickMark}) {
+      const auto items = BoxesOf(drawing, role, 1);
+      ASSERT_EQ(items.size(), 4u) << orientation;
+      for (std::size_t i = 0; i < 4; ++i) {
+        const double share = static_cast<double>(orientation == "minMax" ? i : 3 - i) / 3;
+        EXPECT_NEAR(items[i].left, line.left + share * line.width, 1e-6) << orientation << i;
+      }
+    }
+  }
+}
+
 TEST_F(WallsAndLevelsTest, ALongSlantedLabelStaysOnTheChart) {
   Texts names(12, "Short");
   names.front() = "A first name that is so very long that nothing of the chart would be left for it";
