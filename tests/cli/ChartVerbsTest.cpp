@@ -8,9 +8,7 @@
 namespace plotsmith::cli {
 namespace {
 
-using test::CommandResult;
-using test::RunCommand;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 /// Verbs on a workbook with two charts, one of which has a table without a label column.
@@ -69,12 +67,10 @@ TEST_F(ChartVerbsTest, MissingThingsAreReportedAndNothingIsSaved) {
       {{"modify", "VEX_Chart1", "--sizes", "Cost"},
        "a column chart has no --sizes; it has --title, --categories, --category-columns, --series, "
        "--series-columns, --no-series, --values, --x-axis, --y-axis, --number-format, --labels, --set, "
-       "--unset and "
-       "--comment."},
+       "--unset and --comment."},
       {{"modify", "VEX_Chart1", "--type", "pie", "--x-axis", "a"},
        "a pie chart has no --x-axis; it has --title, --categories, --values, --number-format, --labels, "
-       "--set, "
-       "--unset and --comment."},
+       "--set, --unset and --comment."},
       {{"modify", "VEX_Chart1", "--set", "exploded"},
        "a column chart has no setting 'exploded'; it has 3D, stacked and 100%."},
       {{"modify", "VEX_Chart1", "--type", "area", "--labels", "names"},
@@ -316,8 +312,7 @@ TEST_F(ChartVerbsTest, ARunThatEndsBeforeItsPagesFails) {
   EXPECT_EQ(result.code, 2);
   EXPECT_EQ(result.err,
             "Brindle Plotsmith: This workbook contains no tables. You must create one in order to run the "
-            "Plotsmith.\n"
-            "plotsmith: nothing was done, and nothing is saved.\n");
+            "Plotsmith.\nplotsmith: nothing was done, and nothing is saved.\n");
 }
 
 }  // namespace

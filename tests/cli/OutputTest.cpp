@@ -10,9 +10,7 @@
 namespace plotsmith::cli {
 namespace {
 
-using test::CommandResult;
-using test::RunCommand;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 /// Tests the outputs of the verbs.

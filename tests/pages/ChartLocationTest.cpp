@@ -7,11 +7,7 @@
 namespace plotsmith {
 namespace {
 
-using test::BookOfCharts;
-using test::ModifyChart;
-using test::NewChart;
-using test::PlainBook;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 class ChartLocationTest : public test::PagesTest {};

@@ -3,11 +3,7 @@
 namespace plotsmith {
 namespace {
 
-using test::BookOfColumns;
-using test::Definition;
-using test::ModifyChart;
-using test::NewChart;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 class LayoutABCTest : public test::PagesTest {
@@ -101,8 +97,7 @@ TEST_F(LayoutABCTest, RestoredStatesAreConsistent) {
   const std::pair<Definition, S> cases[] = {
       {both,
        "expect optCategories(1).Value yes; expect optSeries(2).Value yes; expect lstSeries.Selected "
-       "Amount|Cost; "
-       "look off optCategories(2) lstCategories cboSeries optSeries(2) cboValues chk100Pct"},
+       "Amount|Cost; look off optCategories(2) lstCategories cboSeries optSeries(2) cboValues chk100Pct"},
       {hundred,
        "expect chk100Pct.Value 1; look off lstCategories lstSeries chk100Pct; look pictures imgLegend"},
       {gone,
@@ -124,24 +119,19 @@ TEST_F(LayoutABCTest, CaptionsAndHelpFollowTheType) {
       {kBar,
        {3},
        "expect Frame2.Caption \"2. Vertical (Y-axis) Shows\"; expect Frame4.Caption \"4. Bar Length\"; "
-       "expect "
-       "Frame5.Caption \"5. Bar and Axis Labels\"; expect chkShowValues.Caption \"Show Values on Bars\"; "
-       "expect "
-       "chkStacked.Caption \"Stacked Bars\"; expect txtVAxis.Text Region; expect txtHAxis.Text Amount"},
+       "expect Frame5.Caption \"5. Bar and Axis Labels\"; expect chkShowValues.Caption \"Show Values on "
+       "Bars\"; expect chkStacked.Caption \"Stacked Bars\"; expect txtVAxis.Text Region; expect "
+       "txtHAxis.Text Amount"},
       {kColumn,
        {4},
        "expect Frame2.Caption \"2. Horizontal (X-axis) Shows\"; expect Frame4.Caption \"4. Column Height\"; "
-       "expect "
-       "Frame5.Caption \"5. Column and Axis Labels\"; expect chkShowValues.Caption \"Show Values on "
-       "Columns\"; "
-       "expect chkStacked.Caption \"Stacked Columns\"; expect txtHAxis.Text Region"},
+       "expect Frame5.Caption \"5. Column and Axis Labels\"; expect chkShowValues.Caption \"Show Values on "
+       "Columns\"; expect chkStacked.Caption \"Stacked Columns\"; expect txtHAxis.Text Region"},
       {kArea,
        {5},
        "expect Frame2.Caption \"2. Horizontal (X-axis) Shows\"; expect Frame4.Caption \"4. Area Size\"; "
-       "expect "
-       "Frame5.Caption \"5. Area and Axis Labels\"; expect chkShowValues.Caption \"Show Values on Areas\"; "
-       "expect "
-       "chkStacked.Caption \"Stacked Areas\"; expect txtHAxis.Text Region"},
+       "expect Frame5.Caption \"5. Area and Axis Labels\"; expect chkShowValues.Caption \"Show Values on "
+       "Areas\"; expect chkStacked.Caption \"Stacked Areas\"; expect txtHAxis.Text Region"},
   };
   for (const auto& [type, topics, captions] : cases) {
     EXPECT_EQ(Play(SalesBook({}), NewChart(type) + captions + "; press cmdHelp"), "");

@@ -3,9 +3,7 @@
 namespace plotsmith {
 namespace {
 
-using test::NewBucketBook;
-using test::NewChart;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 /// Tests what depends on the focus on layout pages: the marked frame, the axis boxes, the default button.

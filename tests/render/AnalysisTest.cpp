@@ -285,17 +285,6 @@ TEST_F(AnalysisTest, UpDownBarsGoFromTheFirstSeriesToTheLast) {
   EXPECT_NEAR(BoundsOf(items[1]).Center().x, plot.Center().x, 1e-9);
 }
 
-TEST_F(AnalysisTest, ManyTrendlinesThroughManyPointsAreLimited) {
-  S trends;
-  for (int i = 0; i < 400; ++i) trends += TrendXml("movingAvg", "<c:period val=\"100\"/>");
-  const Drawing drawing = DrawColumns(Numbers(5000, 1), trends, "");
-  const std::size_t drawn = ItemsOf(drawing, Role::kTrendline).size();
-  EXPECT_EQ(drawn, 72u);  // 4,000,000 points of fits, of which each line takes 55,100
-  EXPECT_EQ(notes_,
-            (render::Notes{"The chart has more trendlines through many points than are drawn; the rest is "
-                           "left out."}));
-}
-
 TEST_F(AnalysisTest, ErrorBarsOfSharesAreShares) {
   const S first = "<c:barDir val=\"col\"/><c:grouping val=\"percentStacked\"/><c:overlap val=\"100\"/>";
   const S toOne = ScalingXml("0", "1");
@@ -452,6 +441,8 @@ TEST_F(AnalysisTest, TheLimitOfTrendlinesEndsNothingElse) {
   const Drawing drawing = Draw(
       PlotXml(ColumnsXml(SeriesXml(0, Numbers(5000, 1), trends) + SeriesXml(1, Numbers(1000, 2), trends)) +
               LinesXml(SeriesXml(2, {1, 2}, later) + SeriesXml(3, {3, 4}), bars) + AxesXml()));
+  // 4,000,000 points of fits, of which each line of the first series takes 55,100
+  EXPECT_EQ(ItemsOf(drawing, Role::kTrendline, 1).size(), 72u);
   EXPECT_EQ(ItemsOf(drawing, Role::kErrorBar).size(), 2u);
   EXPECT_EQ(ItemsOf(drawing, Role::kUpDownBar).size(), 2u);
   EXPECT_EQ(notes_,

@@ -36,8 +36,7 @@ TEST_F(AxesTest, AxesOfValuesShowTheirMajorUnits) {
        {"-20", "20", "60"}},
       {"a number format",
        {0.25, 1},
-       ScalingXml("0", "1") + "<c:numFmt formatCode=\"0.0%\" "
-                              "sourceLinked=\"0\"/><c:majorUnit val=\"0.5\"/>",
+       ScalingXml("0", "1") + "<c:numFmt formatCode=\"0.0%\" sourceLinked=\"0\"/><c:majorUnit val=\"0.5\"/>",
        {"0.0%", "50.0%", "100.0%"}},
       {"powers of ten",
        {3, 1200},
@@ -60,40 +59,23 @@ TEST_F(AxesTest, AxesOfValuesShowTheirMajorUnits) {
 }
 
 TEST_F(AxesTest, StacksAreScaledByTheirEnds) {
+  const auto grouped = [](const S& name) { return "<c:grouping val=\"" + name + "\"/>"; };
+  const S shares = grouped("percentStacked"), sums = grouped("stacked");
   struct {
-    const char *what, *element, *first;
+    const char *what, *element;
+    S first;
     Numbers one, two;
     Texts labels;
   } cases[] = {
-      {"shares of bars on both sides",
-       "barChart",
-       "<c:barDir val=\"col\"/><c:grouping val=\"percentStacked\"/>",
-       {3, 1},
-       {-1, 1},
-       {"-100%", "-50%", "0%", "50%", "100%"}},
-      {"shares of areas on both sides",
-       "areaChart",
-       "<c:grouping val=\"percentStacked\"/>",
-       {3, 1},
-       {-1, 1},
-       {"-100%", "-50%", "0%", "50%", "100%"}},
-      {"shares below zero",
-       "barChart",
-       "<c:barDir val=\"col\"/><c:grouping val=\"percentStacked\"/>",
-       {-3, -1},
-       {-1, -1},
-       {"-100%", "-50%", "0%"}},
-      {"bars below zero go down",
-       "barChart",
-       "<c:barDir val=\"col\"/><c:grouping val=\"stacked\"/>",
-       {30, 10},
-       {-10, 0},
-       {"-20", "0", "20", "40"}},
-      {"areas are sums", "areaChart", "<c:grouping val=\"stacked\"/>", {30, 10}, {-10, 0}, {"0", "20", "40"}},
-      {"lines are sums", "lineChart", "<c:grouping val=\"stacked\"/>", {30, 10}, {-10, 0}, {"0", "20", "40"}},
+      {"bars on both sides", "barChart", shares, {3, 1}, {-1, 1}, {"-100%", "-50%", "0%", "50%", "100%"}},
+      {"areas on both sides", "areaChart", shares, {3, 1}, {-1, 1}, {"-100%", "-50%", "0%", "50%", "100%"}},
+      {"shares below zero", "barChart", shares, {-3, -1}, {-1, -1}, {"-100%", "-50%", "0%"}},
+      {"bars below zero go down", "barChart", sums, {30, 10}, {-10, 0}, {"-20", "0", "20", "40"}},
+      {"areas are sums", "areaChart", sums, {30, 10}, {-10, 0}, {"0", "20", "40"}},
+      {"lines are sums", "lineChart", sums, {30, 10}, {-10, 0}, {"0", "20", "40"}},
   };
   for (const auto& test : cases) {
-    const S unit = S(test.first).find("percent") == S::npos ? "20" : "0.5";
+    const S unit = test.first == shares ? "0.5" : "20";
     const Drawing drawing =
         Draw(PlotXml(GroupXml(test.element, test.first, SeriesXml(0, test.one) + SeriesXml(1, test.two)) +
                      AxesXml("", "<c:majorUnit val=\"" + unit + "\"/>")));

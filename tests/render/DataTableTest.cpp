@@ -84,43 +84,28 @@ TEST_F(DataTableTest, SaysWhatHasNoRoom) {
   for (int i = 0; i < 60; ++i) many += SeriesXml(i, {1, 2});
   S wide;
   for (int i = 0; i < 3; ++i) wide += SeriesXml(i, Numbers(10'000, 1));
+  const auto without = [](const S& count) {
+    return "The data table has no room for " + count + " of its series, which are left out.";
+  };
+  const S reason = "The data table isn't drawn because ", narrow = "its columns are too narrow for a text.";
   struct {
     const char* what;
     S series;
     bool horizontal;
     double width;
     std::size_t texts;
-    render::Notes notes;
+    S note;
   } const kCases[] = {
-      {"rows",
-       many,
-       false,
-       384,
-       8 * 3,
-       {"The data table has no room for 52 of its series, which are left out."}},
-      {"columns",
-       SeriesXml(0, Numbers(5000, 1)),
-       false,
-       384,
-       0,
-       {"The data table isn't drawn because its columns are too narrow for a text."}},
-      {"cells",
-       wide,
-       false,
-       200'000,
-       2 * 10'001,
-       {"The data table has no room for 1 of its series, which are left out."}},
-      {"lying bars",
-       SeriesXml(0, {1}),
-       true,
-       384,
-       0,
-       {"The data table isn't drawn because the chart has no horizontal category axis or is in 3-D."}},
+      {"rows", many, false, 384, 8 * 3, without("52")},
+      {"columns", SeriesXml(0, Numbers(5000, 1)), false, 384, 0, reason + narrow},
+      {"cells", wide, false, 200'000, 2 * 10'001, without("1")},
+      {"lying bars", SeriesXml(0, {1}), true, 384, 0,
+       reason + "the chart has no horizontal category axis or is in 3-D."},
   };
   for (const auto& test : kCases) {
     const Drawing drawing = DrawWithTable(kLines, test.series, "", test.horizontal, test.width);
     EXPECT_EQ(TextsOf(drawing, Role::kTableText).size(), test.texts) << test.what;
-    EXPECT_EQ(notes_, test.notes) << test.what;
+    EXPECT_EQ(notes_, render::Notes{test.note}) << test.what;
     EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
   }
 }

@@ -318,29 +318,10 @@ TEST_F(FamiliesTest, GroupsWithoutBothAxesAreNotDrawn) {
   }
 }
 
-TEST_F(FamiliesTest, PointsAreJoinedUnlessTheFileShowsMarkersOnly) {
-  struct {
-    S style, marker;
-    std::size_t lines, markers;
-  } cases[] = {
-      {"", "none", 1, 0},     {"", "square", 1, 2},       {"lineMarker", "none", 1, 0},
-      {"line", "none", 1, 0}, {"marker", "square", 0, 2},
-  };
-  for (const auto& test : cases) {
-    const S style = test.style.empty() ? "" : "<c:scatterStyle val=\"" + test.style + "\"/>";
-    const S series =
-        PointsXml(0, {1, 2}, {1, 2}, "<c:marker><c:symbol val=\"" + test.marker + "\"/></c:marker>");
-    const Drawing drawing = Draw(PlotXml(GroupXml("scatterChart", style, series) + AxesXml()));
-    EXPECT_EQ(ItemsOf(drawing, Role::kLine, 1).size(), test.lines) << test.style << test.marker;
-    EXPECT_EQ(ItemsOf(drawing, Role::kMarker, 1).size(), test.markers) << test.style << test.marker;
-  }
-}
-
 TEST_F(FamiliesTest, ValuesWithoutACacheAreThoseOfTheCells) {
   const S series =
-      "<c:ser><c:idx val=\"0\"/><c:order "
-      "val=\"0\"/><c:cat><c:strRef><c:f>Sheet1!$A$2:$A$4</c:f></c:strRef></c:cat>"
-      "<c:val><c:numRef><c:f>Sheet1!$C$2:$C$4</c:f></c:numRef></c:val></c:ser>";
+      "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:cat><c:strRef><c:f>Sheet1!$A$2:$A$4</c:f>"
+      "</c:strRef></c:cat><c:val><c:numRef><c:f>Sheet1!$C$2:$C$4</c:f></c:numRef></c:val></c:ser>";
   const Drawing drawing = Draw(PlotXml(ColumnsXml(series) + AxesXml()));
   const auto sheet = Book().FindWorksheet("Sheet1");
   const auto bars = BoxesOf(drawing, Role::kBar);
@@ -427,9 +408,7 @@ TEST_F(FamiliesTest, SeriesOfTwoAxesFollowTheirOwnScale) {
 }
 
 TEST_F(DrawingTest, RadarChartsLieOnAWebOfTheirScale) {
-  const S scale = ScalingXml("0", "10") +
-                  "<c:majorGridlines/>"
-                  "<c:majorUnit val=\"5\"/>";
+  const S scale = ScalingXml("0", "10") + "<c:majorGridlines/><c:majorUnit val=\"5\"/>";
   struct {
     const char* style;
     Role role;

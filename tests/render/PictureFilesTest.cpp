@@ -49,23 +49,16 @@ TEST_F(PictureFilesTest, SvgHasTextsAsTextsAndFewBytes) {
   const S id = Between(svg, "<clipPath id=\"", "\"><path").substr(S("<clipPath id=\"").size());
   EXPECT_EQ(svg,
             "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"72pt\" height=\"36pt\" viewBox=\"0 0 72 36\" "
-            "role=\"img\" "
-            "font-family=\"Calibri,Carlito,sans-serif\" font-size=\"12\">\n"
-            "<title>Bread &amp; butter</title>\n<desc>Series &quot;A&quot;: 1 &lt; 2</desc>\n"
-            "<defs><clipPath id=\"" +
+            "role=\"img\" font-family=\"Calibri,Carlito,sans-serif\" font-size=\"12\">\n<title>Bread &amp; "
+            "butter</title>\n<desc>Series &quot;A&quot;: 1 &lt; 2</desc>\n<defs><clipPath id=\"" +
                 id +
-                "\"><path d=\"M10 10h20v20h-20z\"/></clipPath></defs>\n"
-                "<path d=\"M0 0h72v36h-72z\" fill=\"#FF0\"/>\n"
-                "<g clip-path=\"url(#" +
+                "\"><path d=\"M10 10h20v20h-20z\"/></clipPath></defs>\n<path d=\"M0 0h72v36h-72z\" "
+                "fill=\"#FF0\"/>\n<g clip-path=\"url(#" +
                 id +
-                ")\">\n"
-                "<path d=\"M0 0h72v36h-72z\" fill=\"#00F\" stroke=\"#FF0000\" stroke-opacity=\".5\" "
-                "stroke-width=\"1.5\" "
-                "stroke-dasharray=\"3 1.5\" stroke-linecap=\"round\" stroke-linejoin=\"round\"/>\n"
-                "</g>\n"
-                "<text x=\"36\" y=\"30\" transform=\"rotate(-90 36 30)\" text-anchor=\"middle\" "
-                "font-weight=\"bold\" "
-                "font-style=\"italic\" "
+                ")\">\n<path d=\"M0 0h72v36h-72z\" fill=\"#00F\" stroke=\"#FF0000\" stroke-opacity=\".5\" "
+                "stroke-width=\"1.5\" stroke-dasharray=\"3 1.5\" stroke-linecap=\"round\" "
+                "stroke-linejoin=\"round\"/>\n</g>\n<text x=\"36\" y=\"30\" transform=\"rotate(-90 36 30)\" "
+                "text-anchor=\"middle\" font-weight=\"bold\" font-style=\"italic\" "
                 "text-decoration=\"underline\" fill=\"#008000\">&lt;Größe&gt;</text>\n</svg>\n");
 }
 

@@ -110,29 +110,32 @@ TEST_F(ReadingTest, DatesHaveTheLongestUnitThatKeepsThemApartAndTheFormatOfTheir
   }
 }
 
-TEST_F(ReadingTest, SeriesHaveAutomaticMarkersIfTheStyleOfTheirGroupSaysSo) {
+TEST_F(ReadingTest, SeriesHaveLinesAndMarkersAsTheStyleOfTheirGroupSays) {
+  const auto scatter = [](const S& style) { return "<c:scatterStyle val=\"" + style + "\"/>"; };
   struct {
     S group, style;
-    std::size_t markers;
+    std::size_t lines, markers;
   } const kCases[] = {
-      {"scatterChart", "", 2},
-      {"scatterChart", "<c:scatterStyle val=\"lineMarker\"/>", 2},
-      {"scatterChart", "<c:scatterStyle val=\"smoothMarker\"/>", 2},
-      {"scatterChart", "<c:scatterStyle val=\"line\"/>", 0},
-      {"scatterChart", "<c:scatterStyle val=\"smooth\"/>", 0},
-      {"scatterChart", "<c:scatterStyle val=\"none\"/>", 0},
-      {"lineChart", "", 0},
-      {"lineChart", "<c:marker val=\"0\"/>", 0},
-      {"lineChart", "<c:marker val=\"1\"/>", 2},
-      {"radarChart", "", 0},
-      {"radarChart", "<c:radarStyle val=\"standard\"/>", 0},
-      {"radarChart", "<c:radarStyle val=\"marker\"/>", 2},
+      {"scatterChart", "", 1, 2},
+      {"scatterChart", scatter("lineMarker"), 1, 2},
+      {"scatterChart", scatter("smoothMarker"), 1, 2},
+      {"scatterChart", scatter("marker"), 0, 2},
+      {"scatterChart", scatter("line"), 1, 0},
+      {"scatterChart", scatter("smooth"), 1, 0},
+      {"scatterChart", scatter("none"), 0, 0},
+      {"lineChart", "", 1, 0},
+      {"lineChart", "<c:marker val=\"0\"/>", 1, 0},
+      {"lineChart", "<c:marker val=\"1\"/>", 1, 2},
+      {"radarChart", "", 1, 0},
+      {"radarChart", "<c:radarStyle val=\"standard\"/>", 1, 0},
+      {"radarChart", "<c:radarStyle val=\"marker\"/>", 1, 2},
   };
   for (const auto& test : kCases) {
-    const bool scatter = test.group == "scatterChart";
-    const Drawing drawing = Draw(PlotXml(
-        GroupXml(test.group, test.style, scatter ? PointsXml(0, {1, 2}, {1, 2}) : SeriesXml(0, {1, 2})) +
-        (scatter ? ValueAxesXml() : AxesXml())));
+    const bool points = test.group == "scatterChart";
+    const S series = points ? PointsXml(0, {1, 2}, {1, 2}) : SeriesXml(0, {1, 2});
+    const Drawing drawing =
+        Draw(PlotXml(GroupXml(test.group, test.style, series) + (points ? ValueAxesXml() : AxesXml())));
+    EXPECT_EQ(ItemsOf(drawing, Role::kLine).size(), test.lines) << test.group << test.style;
     EXPECT_EQ(ItemsOf(drawing, Role::kMarker).size(), test.markers) << test.group << test.style;
   }
 }

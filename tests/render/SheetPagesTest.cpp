@@ -151,21 +151,18 @@ TEST(CellLinesTest, NumbersThatDontFitLoseDecimalsOrAreMarks) {
 class SheetPagesTest : public DrawingTest {
  protected:
   static constexpr const char* kStyles =
-      "<styleSheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\">"
-      "<fonts><font><sz val=\"11\"/><name val=\"Calibri\"/></font>"
-      "<font><b/><sz val=\"20\"/><color rgb=\"FF0000FF\"/><name val=\"Arial\"/></font>"
-      "<font><strike/><sz val=\"10\"/><name val=\"Calibri\"/></font></fonts>"
-      "<fills><fill/><fill><patternFill patternType=\"solid\"><fgColor "
-      "rgb=\"FFFF0000\"/></patternFill></fill>"
-      "</fills><borders><border/><border><bottom style=\"thick\"/></border></borders><cellXfs><xf/>"
-      "<xf fontId=\"1\"/><xf fillId=\"1\" borderId=\"1\"/><xf><alignment wrapText=\"1\"/></xf>"
-      "<xf><alignment horizontal=\"center\"/></xf><xf numFmtId=\"4\"/>"
-      "<xf><alignment vertical=\"top\"/></xf><xf><alignment vertical=\"center\"/></xf>"
-      "<xf><alignment horizontal=\"right\"/></xf><xf><alignment horizontal=\"left\" indent=\"2\"/></xf>"
-      "<xf><alignment horizontal=\"right\" indent=\"1\"/></xf><xf fontId=\"2\"/>"
-      "<xf><alignment vertical=\"center\" wrapText=\"1\"/></xf>"
-      "<xf><alignment horizontal=\"centerContinuous\"/></xf><xf><alignment horizontal=\"fill\"/></xf>"
-      "</cellXfs></styleSheet>";
+      "<styleSheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><fonts><font>"
+      "<sz val=\"11\"/><name val=\"Calibri\"/></font><font><b/><sz val=\"20\"/><color rgb=\"FF0000FF\"/>"
+      "<name val=\"Arial\"/></font><font><strike/><sz val=\"10\"/><name val=\"Calibri\"/></font>"
+      "</fonts><fills><fill/><fill><patternFill patternType=\"solid\"><fgColor rgb=\"FFFF0000\"/>"
+      "</patternFill></fill></fills><borders><border/><border><bottom style=\"thick\"/></border>"
+      "</borders><cellXfs><xf/><xf fontId=\"1\"/><xf fillId=\"1\" borderId=\"1\"/><xf>"
+      "<alignment wrapText=\"1\"/></xf><xf><alignment horizontal=\"center\"/></xf><xf numFmtId=\"4\"/>"
+      "<xf><alignment vertical=\"top\"/></xf><xf><alignment vertical=\"center\"/></xf><xf>"
+      "<alignment horizontal=\"right\"/></xf><xf><alignment horizontal=\"left\" indent=\"2\"/></xf>"
+      "<xf><alignment horizontal=\"right\" indent=\"1\"/></xf><xf fontId=\"2\"/><xf>"
+      "<alignment vertical=\"center\" wrapText=\"1\"/></xf><xf><alignment horizontal=\"centerContinuous\"/>"
+      "</xf><xf><alignment horizontal=\"fill\"/></xf></cellXfs></styleSheet>";
 
   /// Draws the pages, with the installed fonts or with other measures of texts.
   std::vector<Drawing> Pages(const PlainSheet& sheet, Paper paper = Paper::kPrinted,

@@ -17,10 +17,7 @@ namespace plotsmith {
 namespace {
 
 namespace fs = std::filesystem;
-using test::Definition;
-using test::RunCommand;
-using test::Schemas;
-using test::Settings;
+using namespace test;
 using S = std::string;
 
 /// Checks all written and changed parts with the published schemas. A part of another program may keep its

@@ -9,8 +9,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-using test::ExpectError1004;
-using test::PackageComplaints;
+using namespace test;
 using S = std::string;
 
 const S kDrawing = "/xl/drawings/drawing2.xml", kDrawingLinks = "/xl/drawings/_rels/drawing2.xml.rels";
@@ -254,9 +253,7 @@ TEST_F(DeletedChartTest, ANewChartGetsItsDrawingOnSheetsOfOtherPrograms) {
   const Case cases[] = {
       {"openpyxl",
        "<pageMargins left=\"0.75\"/>@<legacyDrawing " + r +
-           " r:id=\"anysvml\"/><tableParts "
-           "count=\"1\"><tablePart " +
-           r + " r:id=\"rId1\"/></tableParts>",
+           " r:id=\"anysvml\"/><tableParts count=\"1\"><tablePart " + r + " r:id=\"rId1\"/></tableParts>",
        Link("anysvml", "vmlDrawing", "/xl/drawings/legacy.bin") + Link("rId1", "table", "/xl/tables/t.bin")},
       {"XlsxWriter",
        "<pageMargins left=\"0.7\"/><pageSetup orientation=\"portrait\" r:id=\"rId1\"/>"

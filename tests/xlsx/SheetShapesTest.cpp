@@ -118,10 +118,9 @@ TEST_F(SheetShapesTest, CharactersAreCountedOverBreaksAndParagraphs) {
     test::PlainBook book;
     book.sheets = {test::SalesSheet("Sheet1")};
     book.sheets[0].extraAnchors =
-        "<xdr:absoluteAnchor><xdr:pos x=\"0\" y=\"0\"/><xdr:ext cx=\"127000\" cy=\"254000\"/><xdr:sp>"
-        "<xdr:nvSpPr><xdr:cNvPr id=\"5\" name=\"Box\"/><xdr:cNvSpPr "
-        "txBox=\"1\"/></xdr:nvSpPr><xdr:spPr/><xdr:txBody>"
-        "<a:bodyPr/><a:p>" +
+        "<xdr:absoluteAnchor><xdr:pos x=\"0\" y=\"0\"/><xdr:ext cx=\"127000\" cy=\"254000\"/>"
+        "<xdr:sp><xdr:nvSpPr><xdr:cNvPr id=\"5\" name=\"Box\"/><xdr:cNvSpPr txBox=\"1\"/>"
+        "</xdr:nvSpPr><xdr:spPr/><xdr:txBody><a:bodyPr/><a:p>" +
         before + "</a:p></xdr:txBody></xdr:sp><xdr:clientData/></xdr:absoluteAnchor>";
     Open(book);
     const auto characters =

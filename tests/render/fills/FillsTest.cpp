@@ -86,14 +86,12 @@ TEST(FillsTest, SvgSharesWhatIsFilledAlike) {
       definitions.Text(),
       "<defs><pattern id=\"f1\" width=\"6\" height=\"6\" patternUnits=\"userSpaceOnUse\" viewBox=\"0 0 8 8\" "
       "shape-rendering=\"crispEdges\"><path d=\"M0 0h8v8h-8z\" fill=\"#00F\" fill-opacity=\".5\"/>"
-      "<path d=\"M0 0h8v1h-8zM0 1h8v1h-8zM0 4h8v1h-8zM0 5h8v1h-8z\" fill=\"#F00\"/></pattern>"
-      "<linearGradient id=\"f2\" x1=\"0\" y1=\".5\" x2=\"1\" y2=\".5\"><stop offset=\"0\" "
-      "stop-color=\"#F00\"/>"
-      "<stop offset=\"1\" stop-color=\"#00F\" stop-opacity=\".5\"/></linearGradient>"
-      "<linearGradient id=\"f3\" x1=\"-.92\" y1=\"1.58\" x2=\"10.92\" y2=\"8.42\" "
-      "gradientUnits=\"userSpaceOnUse\"><stop offset=\"0\" stop-color=\"#F00\"/><stop offset=\"1\" "
-      "stop-color=\"#00F\" stop-opacity=\".5\"/></linearGradient>"
-      "<linearGradient id=\"f4\" x1=\".09\" y1=\"13.5\" x2=\"39.91\" y2=\"36.5\" "
+      "<path d=\"M0 0h8v1h-8zM0 1h8v1h-8zM0 4h8v1h-8zM0 5h8v1h-8z\" fill=\"#F00\"/></pattern><linearGradient "
+      "id=\"f2\" x1=\"0\" y1=\".5\" x2=\"1\" y2=\".5\"><stop offset=\"0\" stop-color=\"#F00\"/>"
+      "<stop offset=\"1\" stop-color=\"#00F\" stop-opacity=\".5\"/></linearGradient><linearGradient "
+      "id=\"f3\" x1=\"-.92\" y1=\"1.58\" x2=\"10.92\" y2=\"8.42\" gradientUnits=\"userSpaceOnUse\">"
+      "<stop offset=\"0\" stop-color=\"#F00\"/><stop offset=\"1\" stop-color=\"#00F\" stop-opacity=\".5\"/>"
+      "</linearGradient><linearGradient id=\"f4\" x1=\".09\" y1=\"13.5\" x2=\"39.91\" y2=\"36.5\" "
       "gradientUnits=\"userSpaceOnUse\"><stop offset=\"0\" stop-color=\"#F00\"/><stop offset=\"1\" "
       "stop-color=\"#00F\" stop-opacity=\".5\"/></linearGradient></defs>\n");
 }

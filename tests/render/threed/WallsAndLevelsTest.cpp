@@ -88,27 +88,5 @@ TEST_F(WallsAndLevelsTest, PiesOfHugeValuesHaveTheirSlices) {
   }
 }
 
-TEST_F(WallsAndLevelsTest, LeaderLinesGoRoundThePie) {
-  Numbers values(70, 1);
-  values.push_back(3000);
-  const S labels =
-      "<c:dLbls><c:dLblPos val=\"outEnd\"/><c:showVal val=\"1\"/><c:showCatName val=\"1\"/>"
-      "<c:showLeaderLines val=\"1\"/></c:dLbls>";
-  const Drawing drawing = Draw(PlotXml("<c:pieChart>" + SeriesXml(0, values, labels) + "</c:pieChart>"));
-  const Rect circle = BoxOf(drawing, Role::kSlice);
-  const auto lines = ItemsOf(drawing, Role::kLeaderLine);
-  ASSERT_GT(lines.size(), 5u);
-  for (const auto& line : lines) {
-    const auto& steps = std::get<PathItem>(line.content).path.Steps();
-    for (std::size_t i = 0; i + 1 < steps.size(); ++i) {
-      for (double share = 0; share <= 1; share += 0.02) {
-        const double x = steps[i].to.x + (steps[i + 1].to.x - steps[i].to.x) * share - circle.Center().x;
-        const double y = steps[i].to.y + (steps[i + 1].to.y - steps[i].to.y) * share - circle.Center().y;
-        ASSERT_GT(std::hypot(x, y), circle.width / 2 * 0.98) << line.tag.point << ' ' << i;
-      }
-    }
-  }
-}
-
 }  // namespace
 }  // namespace plotsmith

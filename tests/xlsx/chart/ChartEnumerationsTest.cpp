@@ -13,12 +13,10 @@ using S = std::string;
 /// The tokens of an enumeration in ECMA-376-1, separated by blanks.
 constexpr const char* kPresetPatterns =
     " pct5 pct10 pct20 pct25 pct30 pct40 pct50 pct60 pct70 pct75 pct80 pct90 horz vert ltHorz ltVert dkHorz "
-    "dkVert "
-    "narHorz narVert dashHorz dashVert cross dnDiag upDiag ltDnDiag ltUpDiag dkDnDiag dkUpDiag wdDnDiag "
-    "wdUpDiag "
-    "dashDnDiag dashUpDiag diagCross smCheck lgCheck smGrid lgGrid dotGrid smConfetti lgConfetti horzBrick "
-    "diagBrick "
-    "solidDmnd openDmnd dotDmnd plaid sphere weave divot shingle wave trellis zigZag ";
+    "dkVert narHorz narVert dashHorz dashVert cross dnDiag upDiag ltDnDiag ltUpDiag dkDnDiag dkUpDiag "
+    "wdDnDiag wdUpDiag dashDnDiag dashUpDiag diagCross smCheck lgCheck smGrid lgGrid dotGrid smConfetti "
+    "lgConfetti horzBrick diagBrick solidDmnd openDmnd dotDmnd plaid sphere weave divot shingle wave trellis "
+    "zigZag ";
 constexpr const char* kMarkers = " auto none square diamond triangle x star dot dash circle plus picture ";
 constexpr const char* kUnits =
     " hundreds thousands tenThousands hundredThousands millions tenMillions hundredMillions billions "

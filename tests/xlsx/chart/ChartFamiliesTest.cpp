@@ -12,13 +12,7 @@ namespace plotsmith::xlsx {
 namespace {
 
 using excel::Chart;
-using test::AddBubble;
-using test::AddOfType;
-using test::Between;
-using test::CountOf;
-using test::DeleteSeries;
-using test::ExpectError1004;
-using test::Has;
+using namespace test;
 using S = std::string;
 
 S Part(const S& chart, const S& behind = "") { return test::ChartPartXml(chart, behind); }
@@ -144,12 +138,11 @@ TEST_F(ChartFamiliesTest, AChartWithoutAGroupIsWrittenWithAnEmptyOne) {
 
 TEST_F(ChartFamiliesTest, AxesAreRestoredAfterTypesWithoutThem) {
   const S columns =
-      "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart>"
-      "<c:catAx><c:axId val=\"1\"/><c:scaling/><c:axPos val=\"t\"/><c:numFmt formatCode=\"@\" "
-      "sourceLinked=\"0\"/><c:crossAx val=\"2\"/><c:crosses val=\"max\"/></c:catAx><c:valAx><c:axId "
-      "val=\"2\"/><c:scaling><c:max val=\"50\"/></c:scaling><c:axPos val=\"r\"/><c:crossAx "
-      "val=\"1\"/><c:crosses "
-      "val=\"min\"/><c:crossBetween val=\"midCat\"/></c:valAx></c:plotArea>";
+      "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:axId val=\"1\"/><c:axId val=\"2\"/>"
+      "</c:barChart><c:catAx><c:axId val=\"1\"/><c:scaling/><c:axPos val=\"t\"/><c:numFmt formatCode=\"@\" "
+      "sourceLinked=\"0\"/><c:crossAx val=\"2\"/><c:crosses val=\"max\"/></c:catAx><c:valAx>"
+      "<c:axId val=\"2\"/><c:scaling><c:max val=\"50\"/></c:scaling><c:axPos val=\"r\"/>"
+      "<c:crossAx val=\"1\"/><c:crosses val=\"min\"/><c:crossBetween val=\"midCat\"/></c:valAx></c:plotArea>";
   for (const std::int32_t through : {excel::xlPie, excel::xlBubble, excel::xl3DPie, excel::xlXYScatter}) {
     SCOPED_TRACE(through);
     const S after = Sound(Part(columns), [&](Chart& chart) {
@@ -292,9 +285,8 @@ TEST_F(ChartFamiliesTest, ColumnsAndALineShareTheirAxes) {
                   "<c:symbol val=\"dash\"/><c:size val=\"55\"/><c:spPr><a:solidFill><a:srgbClr "
                   "val=\"FF0000\"/></a:solidFill><a:ln><a:solidFill><a:srgbClr val=\"FF0000\"/>"))
       << line;
-  EXPECT_TRUE(Has(line,
-                  "</c:ser><c:marker val=\"1\"/><c:axId val=\"111111111\"/><c:axId "
-                  "val=\"111111112\"/>"))
+  EXPECT_TRUE(
+      Has(line, "</c:ser><c:marker val=\"1\"/><c:axId val=\"111111111\"/><c:axId val=\"111111112\"/>"))
       << line;
   EXPECT_LT(after.find("<c:barChart>"), after.find("<c:lineChart>"));
 
