@@ -46,6 +46,8 @@ TEST_F(AxesTest, AxesOfValuesShowTheirMajorUnits) {
        {1000, 4000},
        "<c:majorUnit val=\"2000\"/><c:dispUnits><c:builtInUnit val=\"thousands\"/></c:dispUnits>",
        {"0", "2", "4", "6"}},
+      {"limits that are the same", {7}, ScalingXml("5", "5") + "<c:majorUnit val=\"2\"/>", {"5", "7", "9"}},
+      {"limits in the wrong order", {7}, ScalingXml("5", "3") + "<c:majorUnit val=\"2\"/>", {"5", "7", "9"}},
       {"a unit too small for its labels",
        {1000},
        "<c:majorUnit val=\"0\"/>",

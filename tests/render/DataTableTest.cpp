@@ -131,6 +131,16 @@ TEST_F(DataTableTest, LeavesTheChartAsItIsWhereItHasNoRoom) {
   }
 }
 
+TEST_F(DataTableTest, IsBelowItsAxisInAnyOrderOfTheAxes) {
+  const S axes = AxesXml(), category = axes.substr(0, axes.find("<c:valAx>"));
+  const S series = SeriesXml(0, {1.5, 20}, "", "", CategoriesXml({"North", "South"}));
+  const Drawing drawing = Draw(PlotXml(ColumnsXml(series) + axes.substr(category.size()) + category +
+                                       "<c:dTable>" + kLines + "</c:dTable>"));
+  EXPECT_EQ(notes_, render::Notes());
+  EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), (Texts{"North", "South"}));
+  EXPECT_EQ(TextsOf(drawing, Role::kTableText), (Texts{"Series 0", "1.5", "20"}));
+}
+
 TEST_F(DataTableTest, LongTextsEndInDots) {
   const S name(20'000, 'x');
   const Drawing drawing =

@@ -174,6 +174,13 @@ TEST_F(DrawingTest, HundredThousandCategoriesHaveLabelsThatFit) {
   }
 }
 
+TEST_F(DrawingTest, MoreLabelsThanAPersonCanReadAreLeftOut) {
+  const S labels = "<c:dLbls><c:showVal val=\"1\"/></c:dLbls>";
+  const Drawing drawing = Draw(PlotXml(LinesXml(SeriesXml(0, Numbers(20'001, 1), labels)) + AxesXml()));
+  EXPECT_EQ(ItemsOf(drawing, Role::kDataLabel).size(), 20'000u);
+  EXPECT_EQ(notes_, render::Notes{"The chart has more data labels than are drawn; the rest is left out."});
+}
+
 TEST_F(DrawingTest, DenseMarkersAreDrawnOnce) {
   const Numbers values(5000, 1);
   const Drawing drawing = Draw(PlotXml(

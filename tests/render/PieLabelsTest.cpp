@@ -118,6 +118,21 @@ TEST_F(PieLabelsTest, LeaderLinesTakeTheShortestWayRoundTheCircle) {
   EXPECT_EQ(bent, 102u);
 }
 
+TEST_F(PieLabelsTest, AMovedLabelKeepsThePlaceThatItsLayoutDoesNotSet) {
+  const auto moved = [&](const S& layout) {
+    return FramesOf(
+               DrawPie({1, 1}, "<c:dLbl><c:idx val=\"0\"/><c:layout><c:manualLayout>" + layout +
+                                   "</c:manualLayout></c:layout><c:spPr>" + SolidXml("FFFFCC") +
+                                   "</c:spPr><c:dLblPos val=\"ctr\"/><c:showVal val=\"1\"/></c:dLbl>"))[0]
+        .Center();
+  };
+  const Point own = moved(""), across = moved("<c:x val=\"0.125\"/>"), down = moved("<c:y val=\"0.1\"/>");
+  EXPECT_NEAR(across.x, own.x + 48, 1e-6);
+  EXPECT_EQ(across.y, own.y);
+  EXPECT_EQ(down.x, own.x);
+  EXPECT_NEAR(down.y, own.y + 27, 1e-6);
+}
+
 TEST_F(PieLabelsTest, LeaderLinesAreDrawnFromFivePointsOn) {
   // The first slice is the right half. Its label is beside it.
   const auto linesWithGap = [&](double gap) {

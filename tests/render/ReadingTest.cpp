@@ -140,6 +140,45 @@ TEST_F(ReadingTest, SeriesHaveLinesAndMarkersAsTheStyleOfTheirGroupSays) {
   }
 }
 
+TEST_F(ReadingTest, TextsAreTurnedAsTheirBodySays) {
+  const std::pair<S, double> kCases[] = {{"", 0},
+                                         {"rot=\"2700000\"", 45},
+                                         {"rot=\"-60000000\" vert=\"horz\"", 0},
+                                         {"rot=\"-5400000\" vert=\"horz\"", -90},
+                                         {"vert=\"vert\"", 90},
+                                         {"vert=\"vert270\"", -90},
+                                         {"rot=\"0\" vert=\"vert\"", 90}};
+  for (const auto& [body, rotation] : kCases) {
+    const S text = "<c:txPr><a:bodyPr " + body + "/><a:p><a:pPr><a:defRPr/></a:pPr></a:p></c:txPr>";
+    const Drawing drawing = DrawColumns(SeriesXml(0, {1}, "", "", CategoriesXml({"East"})), text);
+    EXPECT_EQ(std::get<TextItem>(ItemsOf(drawing, Role::kTickLabel, 1)[0].content).rotation, rotation)
+        << body;
+  }
+  const S stacked = "<c:txPr><a:bodyPr vert=\"wordArtVert\"/><a:p><a:pPr><a:defRPr/></a:pPr></a:p></c:txPr>";
+  const Drawing drawing = DrawColumns(SeriesXml(0, {1}, "", "", CategoriesXml({"East"})), stacked);
+  EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), (Texts{"E", "a", "s", "t"}));
+}
+
+TEST_F(ReadingTest, LinesBetweenPointsHaveTheirStroke) {
+  const S look = "<c:spPr><a:ln w=\"25400\">" + SolidXml("00B050") + "</a:ln></c:spPr>";
+  struct {
+    S lines, color;
+    double width;
+  } const kCases[] = {{"<c:dropLines>" + look + "</c:dropLines>", "#00B050", 2},
+                      {"<c:hiLowLines>" + look + "</c:hiLowLines>", "#00B050", 2},
+                      {"<c:dropLines/>", "#000000", 0.75}};
+  for (const auto& test : kCases) {
+    const Drawing drawing =
+        Draw(PlotXml(LinesXml(SeriesXml(0, {1, 2}) + SeriesXml(1, {3, 4}), test.lines) + AxesXml()));
+    const auto items = ItemsOf(drawing, Role::kDropLine);
+    ASSERT_EQ(items.size(), 2u) << test.lines;
+    for (const Item& item : items) {
+      EXPECT_EQ(HexOf(std::get<PathItem>(item.content).stroke.color), test.color) << test.lines;
+      EXPECT_EQ(std::get<PathItem>(item.content).stroke.width, test.width) << test.lines;
+    }
+  }
+}
+
 TEST_F(ReadingTest, GroupsAndAxesThatCantBeReadLeaveTheOthersDrawn) {
   const S unknown = GroupXml("funnelChart", "", SeriesXml(5, {9, 9}));
   S axes;

@@ -51,6 +51,10 @@ std::map<std::string, Whole> WholeCharts() {
   const S wide = CategoriesXml({"Northern hemisphere", "Equator", "Southern hemisphere"});
   Numbers small = {40, 30};
   for (int i = 0; i < 14; ++i) small.push_back(1.5 + i % 3);
+  Numbers crowded(12, 1);  // small slices at the top and at the bottom
+  crowded.push_back(60);
+  crowded.insert(crowded.end(), 9, 1.5);
+  crowded.push_back(70);
   const S errors =
       "<c:errBars><c:errDir val=\"y\"/><c:errBarType val=\"both\"/><c:errValType val=\"fixedVal\"/>"
       "<c:val val=\"2\"/></c:errBars>";
@@ -441,6 +445,13 @@ std::map<std::string, Whole> WholeCharts() {
                                              "</c:dLbls>", "<c:showLeaderLines val=\"1\"/></c:dLbls>"),
                                         "", kNames) +
                               "</c:pieChart>")},
+      {"pie-crowded",
+       PlotXml(slices +
+               SeriesXml(0, crowded,
+                         With(Labels("showCatName", "<c:dLblPos val=\"outEnd\"/><c:showVal val=\"1\"/>"),
+                              "</c:dLbls>", "<c:showLeaderLines val=\"1\"/></c:dLbls>"),
+                         "", CategoriesXml(Texts(crowded.size(), "A slice"))) +
+               "<c:firstSliceAng val=\"340\"/></c:pieChart>")},
       {"pie-small-slices",
        PlotXml(slices + SeriesXml(0, small, Labels("showPercent", "<c:dLblPos val=\"bestFit\"/>")) +
                "<c:firstSliceAng val=\"300\"/></c:pieChart>")},
