@@ -181,12 +181,11 @@ TEST_F(ChartVerbsTest, OptionsReachTheirControlsFromAnyLayout) {
   const S oneNumber = Write(book, "one.xlsx");
   const S byColumn = "<categories headings-in=\"columns\"><column name=\"Amount\"/></categories>",
           byProduct = "<series headings-in=\"rows\"><column name=\"Product\"/></series>";
-  struct Case {
+  const struct {
     S book;
     std::vector<S> options;
     S piece;
-  };
-  const Case cases[] = {
+  } cases[] = {
       // A click on the only number column deselects the series.
       {oneNumber,
        {"--series", "Product", "--values", "Amount"},
@@ -197,7 +196,7 @@ TEST_F(ChartVerbsTest, OptionsReachTheirControlsFromAnyLayout) {
        byColumn + "<series headings-in=\"none\"/>"},
       {twoNumbers, {"--category-columns", "Amount", "--series", "Product"}, byColumn + byProduct},
   };
-  for (const Case& item : cases) {
+  for (const auto& item : cases) {
     book_ = item.book;
     std::vector<S> arguments = {"modify", "VEX_Chart1"};
     arguments.insert(arguments.end(), item.options.begin(), item.options.end());

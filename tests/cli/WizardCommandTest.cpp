@@ -55,13 +55,12 @@ expect grdCharts.Rows 2
 }
 
 TEST_F(WizardCommandTest, NothingElseIsSaved) {
-  struct Case {
+  const struct {
     const char* name;
     S script;
     int code;
     S err;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"nothing", "", 0, ""},
       {"a cancellation", "select grdCharts #1\npress cmdCopy\ntype txtTitle x\npress cmdCancel\npage none", 0,
        ""},
@@ -83,7 +82,7 @@ TEST_F(WizardCommandTest, NothingElseIsSaved) {
   };
   const S book = Write(SalesBook({{"VEX_Chart1"}}));
   const S before = Bytes(book), out = folder_ / "out.xlsx";
-  for (const Case& item : cases) {
+  for (const auto& item : cases) {
     for (const std::vector<S>& more : {std::vector<S>{}, {"-o", out}, {"--host-version", "11"}}) {
       const CommandResult result = Wizard(book, item.script, more);
       EXPECT_EQ(result.code, item.code) << item.name;

@@ -10,8 +10,7 @@ class LayoutABCTest : public test::PagesTest {
  protected:
   /// A step on the page, with the disabled controls and the visible pictures after it.
   struct State {
-    S script;
-    S off;
+    S script, off;
     S expected;  ///< Further lines.
   };
 };
@@ -110,12 +109,11 @@ TEST_F(LayoutABCTest, RestoredStatesAreConsistent) {
 }
 
 TEST_F(LayoutABCTest, CaptionsAndHelpFollowTheType) {
-  struct Case {
+  const struct {
     int type;
     std::vector<std::int32_t> topics;
     S captions;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {kBar,
        {3},
        "expect Frame2.Caption \"2. Vertical (Y-axis) Shows\"; expect Frame4.Caption \"4. Bar Length\"; "
@@ -174,13 +172,12 @@ TEST_F(LayoutABCTest, MessagesMoveTheFocus) {
   const S noList = "choose optCategories(2)", noCombo = "choose optCategories(2); choose optCategories(1)";
   const S noSize = noCombo + "; choose cboCategories Region";
   const S same = "choose optSeries(1); choose cboSeries Region";
-  struct Case {
+  const struct {
     int type;
     S script, message, focus;
     bool outlivesBack =
         true;  ///< Whether the state is kept after Back, rather than reset to the first entries.
-  };
-  const Case cases[] = {
+  } cases[] = {
       {kColumn, noList, noX, "lstCategories"},
       {kArea, noList, noX, "lstCategories"},
       {kBar, noList, noY, "lstCategories"},

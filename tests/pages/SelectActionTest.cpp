@@ -50,10 +50,9 @@ TEST_F(SelectActionTest, ButtonsFollowTheSelection) {
 TEST_F(SelectActionTest, EachButtonHasItsEffect) {
   const test::PlainBook book =
       BookOfCharts({{"Charts", "beta"}, {"Charts", "Alpha"}, {"Charts", "orphan", "Data9"}});
-  struct Case {
+  const struct {
     S script, active;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"select grdCharts Alpha; press cmdGoToChart; page frmPSSelectAction", "Charts"},
       {"select grdCharts Alpha; press cmdGoToChart; press cmdGoToTable; page frmPSSelectAction", "Data1"},
       {"double grdCharts beta; page frmPSLayoutABC; press cmdBack; press cmdBack; page frmPSSelectAction; "
@@ -75,11 +74,10 @@ TEST_F(SelectActionTest, EachButtonHasItsEffect) {
 }
 
 TEST_F(SelectActionTest, CopiesHaveANameOfTheirOwn) {
-  struct Case {
+  const struct {
     std::vector<S> names;
     S source, copy;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {{"Sales"}, "Sales", "Copy of Sales"},
       {{"Sales", "COPY OF SALES"}, "Sales", "Copy (1) of Sales"},
       {{"Sales", "Copy of Sales", "Copy (1) of sales"}, "Sales", "Copy (2) of Sales"},

@@ -91,14 +91,13 @@ TEST_F(SmallLayoutsTest, StatesAndPicturesOfStrategicBuckets) {
 
 TEST_F(SmallLayoutsTest, MessagesMoveTheFocus) {
   const S badFormat = "The requested number format is not supported by Excel";
-  struct Case {
+  const struct {
     PlainBook book;
     int type;
     S script, message, focus;
     bool outlivesBack =
         false;  ///< Whether the state is kept after Back, rather than reset to the first entries.
-  };
-  const Case cases[] = {
+  } cases[] = {
       {SalesBook({}), kPie, "select lstCategories; clear cboValues",
        "Please select a 'Slice Represents' entry", "lstCategories"},
       {SalesBook({}), kPie, "clear cboValues; type cboNumberMask \"0 [\"",

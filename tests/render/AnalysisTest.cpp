@@ -1,6 +1,5 @@
 #include "render/model/Analysis.h"
 #include "tests/render/DrawingTest.h"
-#include "xlsx/package/Xml.h"
 
 namespace plotsmith {
 namespace {

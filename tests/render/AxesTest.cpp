@@ -1,7 +1,6 @@
 #include <set>
 
 #include "tests/render/DrawingTest.h"
-#include "xlsx/package/Xml.h"
 
 namespace plotsmith {
 namespace {

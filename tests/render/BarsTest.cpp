@@ -10,9 +10,7 @@ using namespace test;
 
 /// The bars for the values of three categories.
 struct BarCase {
-  const char* name;
-  const char* direction;
-  const char* grouping;
+  const char *name, *direction, *grouping;
   S valueAxis;
 };
 

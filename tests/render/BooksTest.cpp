@@ -4,7 +4,6 @@
 #include <set>
 
 #include "render/svg/SvgWriter.h"
-#include "runtime/RuntimeError.h"
 #include "tests/render/DrawingTest.h"
 #include "tests/support/Paths.h"
 #include "xlsx/chart/part/ChartPart.h"

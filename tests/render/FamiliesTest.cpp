@@ -158,27 +158,10 @@ TEST_F(FamiliesTest, BubblesShowTheirSizeAsAreaOrAsWidth) {
   }
 }
 
-TEST_F(FamiliesTest, LinesAndAreasGoThroughTheirValues) {
-  const auto value = ScalingXml("0", "10");
-  const Drawing lines =
-      Draw(PlotXml(LinesXml(SeriesXml(0, {2, kNoValue, 10, 5},
-                                      "<c:marker><c:symbol val=\"square\"/><c:size val=\"6\"/></c:marker>")) +
-                       AxesXml("", value),
-                   "<c:dispBlanksAs val=\"gap\"/>"));
-  const Rect plot = BoxOf(lines, Role::kPlotArea);
-  const auto markers = BoxesOf(lines, Role::kMarker);
-  ASSERT_EQ(markers.size(), 3u);
-  EXPECT_NEAR(markers[0].Center().y, plot.Bottom() - plot.height * 0.2, 1e-6);
-  EXPECT_NEAR(markers[1].Center().y, plot.top, 1e-6);
-  EXPECT_NEAR(markers[2].Center().x, plot.left + plot.width * 3.5 / 4, 1e-6);
-  // The value before the gap is alone, so only the last two are connected.
-  const Rect line = BoxOf(lines, Role::kLine);
-  EXPECT_NEAR(line.left, markers[1].Center().x, 1e-6);
-  EXPECT_NEAR(line.Right(), markers[2].Center().x, 1e-6);
-
+TEST_F(FamiliesTest, AreasGoThroughTheirValuesAndThoseBelow) {
   const Drawing areas = Draw(PlotXml(
       GroupXml("areaChart", "<c:grouping val=\"stacked\"/>", SeriesXml(0, {2, 4}) + SeriesXml(1, {3, 6})) +
-      AxesXml("", value + S("<c:crossBetween val=\"midCat\"/>"))));
+      AxesXml("", ScalingXml("0", "10") + "<c:crossBetween val=\"midCat\"/>")));
   const Rect inner = BoxOf(areas, Role::kPlotArea);
   const auto steps = std::get<PathItem>(ItemsOf(areas, Role::kArea, 2)[0].content).path.Steps();
   const double expected[][2] = {{0, 5}, {1, 10}, {1, 4}, {0, 2}};
@@ -205,57 +188,37 @@ Numbers HeightsOf(const Drawing& drawing, int series) {
 
 TEST_F(FamiliesTest, BlanksOfLinesAreGapsUnlessTheFileSaysOtherwise) {
   constexpr double kGap = kNoValue;
-  struct {
-    const char *grouping, *behind;
-    Numbers upper;  // The positions of the second series.
-  } cases[] = {
-      {"standard", "", {1, 1, kGap, 1, 1}},
-      {"standard", "<c:dispBlanksAs val=\"gap\"/>", {1, 1, kGap, 1, 1}},
-      {"standard", "<c:dispBlanksAs val=\"zero\"/>", {1, 1, 0, 1, 1}},
-      {"standard", "<c:dispBlanksAs val=\"span\"/>", {1, 1, 1, 1}},
-      {"stacked", "", {4, 5, 5, 6, 7}},
-      {"stacked", "<c:dispBlanksAs val=\"zero\"/>", {4, 5, 5, 6, 7}},
-      {"percentStacked", "", {10, 10, 10, 10, 10}},
-  };
-  const S value = ScalingXml("0", "10");
-  const S shares = ScalingXml("0", "1");
-  for (const auto& test : cases) {
-    const Drawing drawing =
-        Draw(PlotXml(GroupXml("lineChart", "<c:grouping val=\"" + S(test.grouping) + "\"/>",
-                              SeriesXml(0, {3, 4, 5, 5, 6}) + SeriesXml(1, {1, 1, kNoValue, 1, 1})) +
-                         AxesXml("", test.grouping == S("percentStacked") ? shares : value),
-                     test.behind));
-    const auto heights = HeightsOf(drawing, 2);
-    ASSERT_EQ(heights.size(), test.upper.size()) << test.grouping << test.behind;
-    for (std::size_t i = 0; i < heights.size(); ++i) {
-      if (std::isnan(test.upper[i])) {
-        EXPECT_TRUE(std::isnan(heights[i])) << test.grouping << test.behind << i;
-      } else {
-        EXPECT_NEAR(heights[i], test.upper[i], 1e-4) << test.grouping << test.behind << i;
-      }
-    }
-  }
-}
-
-TEST_F(FamiliesTest, BlanksAtTheEndsAreNoPartOfALine) {
-  constexpr double kGap = kNoValue;
+  const Numbers inside = {1, 1, kNoValue, 1, 1}, ends = {kNoValue, 2, kNoValue, 4, kNoValue};
   const S ownLook = "<c:dPt><c:idx val=\"3\"/><c:spPr><a:ln w=\"12700\"/></c:spPr></c:dPt>";
   struct {
-    S blanks, look;
-    Numbers heights;
+    const char *grouping, *blanks;
+    Numbers values;
+    S look;
+    Numbers heights;  // of the second series
   } cases[] = {
-      {"gap", "", {}},      {"span", "", {2, 4}},      {"zero", "", {0, 2, 0, 4, 0}},
-      {"gap", ownLook, {}}, {"span", ownLook, {2, 4}}, {"zero", ownLook, {0, 2, 0, kGap, 0, 4, kGap, 4, 0}},
+      {"standard", "", inside, "", {1, 1, kGap, 1, 1}},
+      {"standard", "gap", inside, "", {1, 1, kGap, 1, 1}},
+      {"standard", "zero", inside, "", {1, 1, 0, 1, 1}},
+      {"standard", "span", inside, "", {1, 1, 1, 1}},
+      {"stacked", "", inside, "", {4, 5, 5, 6, 7}},
+      {"stacked", "zero", inside, "", {4, 5, 5, 6, 7}},
+      {"percentStacked", "", inside, "", {10, 10, 10, 10, 10}},
+      {"standard", "gap", ends, "", {}},
+      {"standard", "span", ends, "", {2, 4}},
+      {"standard", "zero", ends, "", {0, 2, 0, 4, 0}},
+      {"standard", "gap", ends, ownLook, {}},
+      {"standard", "span", ends, ownLook, {2, 4}},
+      {"standard", "zero", ends, ownLook, {0, 2, 0, kGap, 0, 4, kGap, 4, 0}},
   };
   for (const auto& test : cases) {
-    const Drawing drawing =
-        Draw(PlotXml(LinesXml(SeriesXml(0, {kNoValue, 2, kNoValue, 4, kNoValue}, test.look)) +
-                         AxesXml("", ScalingXml("0", "10")),
-                     "<c:dispBlanksAs val=\"" + test.blanks + "\"/>"));
+    const S blanks = S(test.blanks).empty() ? "" : "<c:dispBlanksAs val=\"" + S(test.blanks) + "\"/>";
+    const S series = SeriesXml(0, {3, 4, 5, 5, 6}) + SeriesXml(1, test.values, test.look);
+    const S value = ScalingXml("0", test.grouping == S("percentStacked") ? "1" : "10");
+    const Drawing drawing = Draw(PlotXml(LinesXml(series, "", test.grouping) + AxesXml("", value), blanks));
     Texts expected, found;
     for (const double height : test.heights) expected.push_back(xlsx::xml::Number(height));
-    for (const double height : HeightsOf(drawing, 1)) found.push_back(xlsx::xml::Number(height + 0.0));
-    EXPECT_EQ(found, expected) << test.blanks << test.look;
+    for (const double height : HeightsOf(drawing, 2)) found.push_back(xlsx::xml::Number(height + 0.0));
+    EXPECT_EQ(found, expected) << test.grouping << blanks << test.look;
   }
 }
 

@@ -1,3 +1,4 @@
+#include <map>
 #include <numbers>
 
 #include "tests/render/DrawingTest.h"
@@ -116,6 +117,21 @@ TEST_F(PieLabelsTest, LeaderLinesTakeTheShortestWayRoundTheCircle) {
   }
   EXPECT_EQ(straight, 42u);
   EXPECT_EQ(bent, 102u);
+}
+
+TEST_F(PieLabelsTest, LabelsOfTinySlicesAreTiedToThem) {
+  Numbers values(70, 1);
+  values.push_back(3000);
+  const Drawing drawing = DrawPie(values, "<c:dLblPos val=\"outEnd\"/>");
+  std::map<int, Rect> frames;  // by the number of the slice
+  for (const Item& item : ItemsOf(drawing, Role::kDataLabel))
+    frames.try_emplace(item.tag.point, BoundsOf(item));
+  const auto lines = ItemsOf(drawing, Role::kLeaderLine);
+  EXPECT_GT(lines.size(), 10u);
+  for (const Item& line : lines) {
+    ExpectShortestWay(std::get<PathItem>(line.content).path.Steps(), kMiddle, kRadius,
+                      360 * (line.tag.point - 0.5) / 3070, frames.at(line.tag.point), "tiny");
+  }
 }
 
 TEST_F(PieLabelsTest, AMovedLabelKeepsThePlaceThatItsLayoutDoesNotSet) {

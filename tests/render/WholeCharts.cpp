@@ -1,10 +1,7 @@
 #include "tests/render/WholeCharts.h"
 
-#include <vector>
-
 #include "runtime/Strings.h"
 #include "tests/render/DrawingTest.h"
-#include "xlsx/package/Xml.h"
 
 namespace plotsmith::test {
 namespace {

@@ -1,7 +1,6 @@
 #include <cstdlib>
 #include <fstream>
 #include <map>
-#include <sstream>
 
 #include "tests/render/DrawingTest.h"
 #include "tests/render/WholeCharts.h"

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "common/RunVariables.h"
-#include "runtime/RuntimeError.h"
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"

@@ -4,7 +4,6 @@
 #include <pugixml.hpp>
 #include <set>
 #include <sstream>
-#include <vector>
 
 #include "runtime/RuntimeError.h"
 #include "xlsx/SheetShape.h"

@@ -26,8 +26,7 @@ TEST(CellLookTest, BordersHaveWidthAndColor) {
 
 TEST(CellLookTest, FontFillingAndAlignmentComeFromTheStyle) {
   const struct {
-    const char* font;
-    const char* fill;
+    const char *font, *fill;
     const char* style;  ///< Attributes and contents of xf.
     CellLook look;
   } cases[] = {

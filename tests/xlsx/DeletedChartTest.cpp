@@ -101,26 +101,24 @@ TEST_F(DeletedChartTest, PartsOfADeletedChartAreRemoved) {
                                    "/xl/drawings/drawing9.xml",
                                    "/xl/embeddings/book1.bin",
                                    "/xl/media/trend.bin"};
-  struct Case {
+  const struct {
     const char* about;
     S links, secondChart;
     const char* deleted;
     std::vector<S> gone;
     const char* goneLink;  ///< The deleted relationship of the drawing; empty if all are kept.
-  };
-  const Case cases[] = {
-      {"a chart with its own parts", kOwnLinks, "rId2", "Chart 1", ofChart1, "rId1"},
-      {"a chart without parts", kOwnLinks, "rId2", "Chart 2", {"/xl/charts/chart2.xml"}, "rId2"},
-      {"an image that a chart uses too", kOwnLinks, "rId2", "Logo", {}, "rId8"},
-      {"its own image", kOwnLinks, "rId2", "Photo", {"/xl/media/photo.bin"}, "rId9"},
-      {"two frames with the same relationship", kOwnLinks, "rId1", "Chart 1", {}, ""},
-      {"two relationships to one chart",
-       kOwnLinks + Link("rId3", "chart", "../charts/chart1.xml"),
-       "rId3",
-       "Chart 1",
-       {},
-       "rId1"}};
-  for (const Case& c : cases) {
+  } cases[] = {{"a chart with its own parts", kOwnLinks, "rId2", "Chart 1", ofChart1, "rId1"},
+               {"a chart without parts", kOwnLinks, "rId2", "Chart 2", {"/xl/charts/chart2.xml"}, "rId2"},
+               {"an image that a chart uses too", kOwnLinks, "rId2", "Logo", {}, "rId8"},
+               {"its own image", kOwnLinks, "rId2", "Photo", {"/xl/media/photo.bin"}, "rId9"},
+               {"two frames with the same relationship", kOwnLinks, "rId1", "Chart 1", {}, ""},
+               {"two relationships to one chart",
+                kOwnLinks + Link("rId3", "chart", "../charts/chart1.xml"),
+                "rId3",
+                "Chart 1",
+                {},
+                "rId1"}};
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.about);
     OpenCharts(c.links, c.secondChart);
     const S complaints = PackageComplaints(folder_ / "book.xlsx");

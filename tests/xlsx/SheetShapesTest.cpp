@@ -134,9 +134,11 @@ TEST_F(SheetShapesTest, CharactersAreCountedOverBreaksAndParagraphs) {
 }
 
 TEST(ShapeEnumerationsTest, ConvertBothWays) {
-  for (const Enumeration* enumeration : {&kAutoShapes, &kAutoSizes}) {
+  for (const Enumeration* enumeration :
+       {&kAutoShapes, &kAutoSizes, &kHorizontalAlignments, &kVerticalAlignments}) {
     for (const EnumerationEntry& entry : enumeration->entries) {
-      EXPECT_TRUE(std::regex_match(S(entry.name), std::regex("mso(Shape|AutoSize)[A-Z0-9][A-Za-z0-9]*")))
+      EXPECT_TRUE(
+          std::regex_match(S(entry.name), std::regex("(msoShape|msoAutoSize|xl)[A-Z0-9][A-Za-z0-9]*")))
           << entry.name;
       EXPECT_EQ(enumeration->Token(entry.number), entry.token) << entry.name;
       EXPECT_EQ(enumeration->Number(entry.token), entry.number) << entry.name;

@@ -78,8 +78,7 @@ TEST_F(UserShapesTest, GroupsPlaceStretchAndTurnTheirMembers) {
   };
   // The members are in a square of 100 points at (10, 0). The group is 200 by 50 points at (100, 50).
   struct Case {
-    const char* turn;
-    const char* memberTurn;
+    const char *turn, *memberTurn;
     Rect expected;
   };
   for (const Case& c :

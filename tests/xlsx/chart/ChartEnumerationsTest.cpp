@@ -4,6 +4,7 @@
 #include <string>
 
 #include "xlsx/chart/part/ChartEnumerations.h"
+#include "xlsx/chart/rules/ChartTypes.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -50,8 +51,10 @@ TEST(ChartEnumerationsTest, NumbersNamesAndTokensMatch) {
       EXPECT_EQ(c.enumeration.Token(entry.number), token) << "the number of another member";
       EXPECT_EQ(c.enumeration.Number(token), entry.number) << "the token of another member";
     }
+    EXPECT_FALSE(c.enumeration.Token(-1));
     EXPECT_TRUE(c.enumeration.absent.empty() || c.enumeration.Number(c.enumeration.absent));
   }
+  for (const ChartTypeEntry& entry : kChartTypes) EXPECT_EQ(FindChartType(entry.number), &entry);
   // the members of the patterns have consecutive numbers
   for (std::int32_t number = 1; number <= 54; ++number) EXPECT_TRUE(kPatterns.Token(number)) << number;
 }

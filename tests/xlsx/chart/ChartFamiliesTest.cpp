@@ -13,6 +13,7 @@ namespace {
 
 using excel::Chart;
 using namespace test;
+using test::DeleteSeries;
 using S = std::string;
 
 S Part(const S& chart, const S& behind = "") { return test::ChartPartXml(chart, behind); }
@@ -171,12 +172,11 @@ TEST_F(ChartFamiliesTest, ASeriesKeepsTheTypeThatItsGroupGivesIt) {
       "val=\"1\"/><c:crosses val=\"autoZero\"/></c:valAx>";
   const S axes = runtime::Replace(valueAxes, "valAx><c:axId val=\"1\"/>", "catAx><c:axId val=\"1\"/>");
   const S categoryAxes = runtime::Replace(axes, "</c:valAx><c:valAx>", "</c:catAx><c:valAx>");
-  struct Case {
+  const struct {
     const char* what;
     S plot;
     std::int32_t type, next;  ///< The types of the series and of a new series after it.
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"bubbles that are 3-D only in the group",
        "<c:bubbleChart>" + ser + "<c:bubble3D val=\"1\"/>" + scales + "</c:bubbleChart>" + valueAxes, 87, 87},
       {"a smooth line through points",
@@ -190,7 +190,7 @@ TEST_F(ChartFamiliesTest, ASeriesKeepsTheTypeThatItsGroupGivesIt) {
            "<c:shape val=\"cone\"/>" + scales + "</c:bar3DChart>" + categoryAxes,
        99, 99},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.what);
     const S after = Sound(Part("<c:plotArea>" + c.plot + "</c:plotArea>"), [&](Chart& chart) {
       const auto series = chart.SeriesCollection()->Item(1);

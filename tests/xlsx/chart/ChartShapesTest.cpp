@@ -1,9 +1,7 @@
-#include <cmath>
 #include <functional>
 #include <map>
 #include <pugixml.hpp>
 
-#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
 #include "xlsx/SheetShape.h"
@@ -306,12 +304,11 @@ TEST_F(ChartShapesTest, AStrictWorkbookStaysStrict) {
 TEST_F(ChartShapesTest, ShapesStayInsideOfTheChartAndKeepTheirProportions) {
   OpenChart();
   const auto shape = Chart()->Shapes()->AddShape(1, 10, 20, 40, 20);
-  struct Case {
+  const struct {
     const char* what;
     std::function<void(excel::Shape&)> call;
     Frame after;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"moved beyond the edge", [](auto& s) { s.SetLeft(380); }, {344, 20, 40, 20}},
       {"moved before it", [](auto& s) { s.SetLeft(-5), s.SetTop(-5); }, {0, 0, 40, 20}},
       {"free proportions", [](auto& s) { s.SetWidth(60); }, {0, 0, 60, 20}},
@@ -320,7 +317,7 @@ TEST_F(ChartShapesTest, ShapesStayInsideOfTheChartAndKeepTheirProportions) {
       {"free again", [](auto& s) { s.SetLockAspectRatio(false), s.SetHeight(40); }, {0, 0, 60, 40}},
       {"larger than the chart", [](auto& s) { s.SetTop(100), s.SetHeight(900); }, {0, 0, 60, 270}},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.what);
     c.call(*shape);
     EXPECT_EQ(shape->Left(), c.after.left);

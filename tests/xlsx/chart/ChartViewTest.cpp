@@ -1,12 +1,9 @@
 #include <functional>
 
-#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
 #include "xlsx/base/Limits.h"
-#include "xlsx/chart/part/ChartEnumerations.h"
 #include "xlsx/chart/rules/ChartTypes.h"
-#include "xlsx/drawing/ShapeEnumerations.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -33,14 +30,13 @@ TEST_F(ChartViewTest, SettersPutElementsWhereTheSchemaWantsThem) {
       "<c:legend><c:legendPos val=\"l\"/><c:legendEntry><c:idx "
       "val=\"0\"/></c:legendEntry><c:layout><c:manualLayout>"
       "<c:xMode val=\"edge\"/><c:x val=\"0.1\"/></c:manualLayout></c:layout></c:legend>";
-  struct Case {
+  const struct {
     const char* what;
     S before;
     std::function<void(Chart&)> call;
     S after;  ///< A text that must exist.
     S gone;   ///< A text that must not exist.
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"a title comes first", Part(columns),
        [](Chart& c) {
          c.SetHasTitle(true);
@@ -146,7 +142,7 @@ TEST_F(ChartViewTest, SettersPutElementsWhereTheSchemaWantsThem) {
        [](Chart& c) { c.SetHasLegend(true); },
        "<c:chart><?pi?><!--c--><x:y xmlns:x=\"u\" v=\"&quot;\">&#13;&lt;<![CDATA[<]]></x:y><c:plotArea>", ""},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.what);
     const S after = After(c.before, c.call);
     EXPECT_NE(after.find(c.after), S::npos) << "wanted " << c.after << "\nin " << after;
@@ -324,22 +320,6 @@ TEST_F(ChartViewTest, MissingPartsOfAChartAreError1004) {
   }
   EXPECT_NO_THROW(After(barred(limits::kSeries / 3), [](Chart& chart) { chart.SetHasTitle(true); }));
   EXPECT_FALSE(Book().Damage());
-}
-
-TEST(EnumerationsTest, ConvertBothWays) {
-  for (const Enumeration* enumeration :
-       {&kLegendPositions, &kLabelPositions, &kPatterns, &kInteriorPatterns, &kLineStyles, &kLineWeights,
-        &kMarkerStyles, &kHorizontalAlignments, &kVerticalAlignments, &kTickLabelPositions, &kCrosses,
-        &kDisplayUnits}) {
-    for (const EnumerationEntry& entry : enumeration->entries) {
-      EXPECT_EQ(enumeration->Token(entry.number), entry.token) << entry.name;
-      EXPECT_EQ(enumeration->Number(entry.token), entry.number) << entry.name;
-    }
-    EXPECT_FALSE(enumeration->Token(-1));
-    EXPECT_TRUE(enumeration->absent.empty() || enumeration->Number(enumeration->absent));
-  }
-  for (const ChartTypeEntry& entry : kChartTypes)
-    EXPECT_EQ(FindChartType(entry.number), &entry) << entry.number;
 }
 
 }  // namespace

@@ -358,12 +358,9 @@ TEST(NumberFormatTest, EveryDayOfThreeCenturies) {
 }
 
 TEST(NumberFormatTest, TextsAndBooleans) {
-  struct TextCase {
-    const char* code;
-    const char* text;
-    const char* shown;
-  };
-  const TextCase cases[] = {
+  const struct {
+    const char *code, *text, *shown;
+  } cases[] = {
       {"General", "abc", "abc"},
       {"0.00", "abc", "abc"},
       {"0;0;0", "abc", "abc"},
@@ -505,9 +502,7 @@ TEST(NumberFormatTest, SurvivesAnyCodeAndValue) {
 
 /// A case in which Excel's result differs from the collection.
 struct CorpusException {
-  std::string_view format;
-  std::string_view value;
-  std::string_view reason;
+  std::string_view format, value, reason;
 };
 
 constexpr CorpusException kExceptions[] = {

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "runtime/RuntimeError.h"
 #include "tests/support/ErrorOf.h"
 #include "tests/support/HostTest.h"
 #include "xlsx/Worksheet.h"
