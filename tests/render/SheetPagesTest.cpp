@@ -255,6 +255,7 @@ TEST_F(SheetPagesTest, TextsAreAlignedInTheirCellsAndExtendOverEmptyOnes) {
       {"wrapped", {{Cell(3, words)}}, "[0 48] one two 1.5 40 0, three 1.5 29 11, "},
       {"wrapped in the middle", {{Cell(12, five)}}, "abcde 1.5 29 2, "},
       {"to the right", {{ten, none}}, "abcdefghij 1.5 56.5 3.25, "},
+      {"beyond the last column", {{ten}}, "abcdefghij 1.5 56.5 3.25, "},
       {"to the right, not far enough", {{ten, 1.0}}, "[0 48] abcdefghij 1.5 56.5 3.25, 1 89 94.5 3.25, "},
       {"to the left", {{none, Cell(8, ten)}}, "abcdefghij 39.5 94.5 3.25, "},
       {"to the left, not far enough",
@@ -291,6 +292,8 @@ TEST_F(SheetPagesTest, MergedCellsAreOneAndHiddenRowsAreNone) {
   const auto pages = Pages(sheet);
   EXPECT_EQ(TextsOf(pages.at(0), Role::kCellText), (Texts{"C", "next", "Over"}));
   EXPECT_NEAR(BoxesOf(pages[0], Role::kCell).at(0).width, 96, 0.01);
+  sheet.rows = {{S("Over"), Cell(2, "lost")}};
+  EXPECT_EQ(FillOf(ItemsOf(Pages(sheet).at(0), Role::kCell).at(0)), "#FFFFFF");
 }
 
 TEST_F(SheetPagesTest, ThePrintAreaIsAllThatIsPrinted) {
@@ -324,6 +327,45 @@ TEST_F(SheetPagesTest, ChartsAreInPlaceAndContinueOnFurtherPages) {
   EXPECT_NEAR(area.width, 192, 2);
   EXPECT_EQ(BoxesOf(one[0], Role::kBar).size(), 2u);
   EXPECT_NE(one[0].description, "");
+}
+
+TEST_F(SheetPagesTest, ASheetOfChartsAloneIsAsLargeAsTheyAreAndNamesThem) {
+  const S columns = ColumnsXml(SeriesXml(0, {1, 2})) + AxesXml();
+  const auto titled = [&](const S& text) {
+    return ChartPartXml("<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>" + text +
+                        "</a:t></a:r></a:p></c:rich></c:tx></c:title><c:plotArea>" + columns +
+                        "</c:plotArea>");
+  };
+  PlainSheet sheet{.name = "Sheet1"};
+  sheet.frames = {{"", titled("Sales"), 1, 2, 4, 10}, {"", titled("Costs"), 1, 14, 4, 10}};
+  const auto pages = Pages(sheet, Paper::kOne);
+  ASSERT_EQ(pages.size(), 1u);
+  EXPECT_EQ(pages[0].width, 5 * 48);
+  EXPECT_EQ(pages[0].height, 24 * 15);
+  EXPECT_EQ(TextsOf(pages[0], Role::kTitle), (Texts{"Sales", "Costs"}));
+  const S& text = pages[0].description;
+  EXPECT_TRUE(text.starts_with("Sales\n")) << text;
+  EXPECT_NE(text.find("\nCosts\n"), S::npos) << text;
+  EXPECT_EQ(text.find("\n\n"), S::npos) << text;
+}
+
+TEST_F(SheetPagesTest, PagesAreCentredBetweenTheirMargins) {
+  PlainSheet sheet{.name = "Sheet1", .rows = {{S("a"), S("b")}}};
+  sheet.afterData =
+      "<printOptions horizontalCentered=\"1\" verticalCentered=\"1\"/><pageMargins left=\"1\" right=\"2\" "
+      "top=\"1\" bottom=\"3\" header=\"0\" footer=\"0\"/>";
+  workbookExtra_ =
+      "<definedNames><definedName name=\"_xlnm.Print_Titles\" localSheetId=\"0\">Sheet1!$1:$1</definedName>"
+      "</definedNames>";
+  const auto boxes = BoxesOf(Pages(sheet, Paper::kPrinted, EvenMeasure()).at(0), Role::kCellText);
+  // 612 by 792 points with the cells of 96 by 15 in the middle of what the margins leave
+  EXPECT_NEAR(boxes.at(0).left, 72 + (612 - 3 * 72 - 96) / 2.0 + 1.5, 1e-6);
+  EXPECT_NEAR(boxes.at(0).top, 72 + (792 - 4 * 72 - 15) / 2.0 + 3.25, 1e-6);
+  EXPECT_EQ(notes_, Notes{"Rows and columns that repeat on each page are drawn once."});
+  workbookExtra_ =
+      "<definedNames><definedName name=\"Own\" localSheetId=\"0\">Sheet1!$1:$1</definedName></definedNames>";
+  Pages(sheet);
+  EXPECT_EQ(notes_, Notes());
 }
 
 TEST_F(SheetPagesTest, WhatIsntDrawnIsNotedAndPagesAreBounded) {
