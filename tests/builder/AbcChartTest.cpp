@@ -10,9 +10,8 @@
 namespace plotsmith {
 namespace {
 
-using test::Definition;
+using namespace test;
 using S = std::string;
-using test::Lines;
 
 class AbcChartTest : public test::ChartCallsTest {
  protected:
@@ -25,19 +24,15 @@ TEST_F(AbcChartTest, OrderOfCallsForABarChartWithEverything) {
   Definition definition{"VEX_Chart1", "bar"};
   definition.rest =
       "<axes><axis type=\"label\" label=\"Where\"/><axis type=\"value\" label=\"\"/><axis type=\"other\" "
-      "label=\"x\"/>"
-      "<axis type=\"value\" label=\"How much\"/></axes><data-labels><data-label show=\"percentages\"/>"
-      "<data-label show=\"values\"/></data-labels><dynamic-attributes><attribute setting=\"3D\"/>"
-      "<attribute setting=\"stacked\"/></dynamic-attributes><auto-persistence>"
+      "label=\"x\"/><axis type=\"value\" label=\"How much\"/></axes><data-labels>"
+      "<data-label show=\"percentages\"/><data-label show=\"values\"/></data-labels><dynamic-attributes>"
+      "<attribute setting=\"3D\"/><attribute setting=\"stacked\"/></dynamic-attributes><auto-persistence>"
       "<persist property=\"legend-visibility\" value=\"show\"/><persist property=\"legend-position\" "
-      "value=\"-4107\"/>"
-      "<persist property=\"legend-font-size\" value=\"8pt\"/><persist property=\"legend-font-autoscale\" "
-      "value=\"maybe\"/>"
-      "<persist property=\"label-font-color\" value=\"255\"/><persist property=\"ValueAxis-font-style\" "
-      "value=\"\"/>"
+      "value=\"-4107\"/><persist property=\"legend-font-size\" value=\"8pt\"/>"
+      "<persist property=\"legend-font-autoscale\" value=\"maybe\"/><persist property=\"label-font-color\" "
+      "value=\"255\"/><persist property=\"ValueAxis-font-style\" value=\"\"/>"
       "<persist property=\"ValueAxis-font-size\" value=\"12\"/><persist property=\"valueaxis-font-name\" "
-      "value=\"X\"/>"
-      "</auto-persistence>";
+      "value=\"X\"/></auto-persistence>";
   const Lines expected = {
       "Chart.ChartArea.AutoScaleFont = False",
       "Chart.ChartType = 57",

@@ -9,13 +9,7 @@
 namespace plotsmith {
 namespace {
 
-using test::Bubble;
-using test::BubbleBook;
-using test::BubbleDefinition;
-using test::Definition;
-using test::Lines;
-using test::Settings;
-using test::With;
+using namespace test;
 using S = std::string;
 
 /// Appends the calls that make a bubble from the row after the header with its number.

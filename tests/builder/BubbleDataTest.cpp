@@ -6,10 +6,7 @@
 namespace plotsmith {
 namespace {
 
-using test::BubbleBook;
-using test::BubbleDefinition;
-using test::Columns;
-using test::Definition;
+using namespace test;
 using S = std::string;
 
 const S kHeader = "|[-BubbleColor-]|[-XAxisValue-]|[-YAxisValue-]|[-BubbleSize-]\n";

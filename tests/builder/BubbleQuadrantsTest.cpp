@@ -6,11 +6,7 @@
 namespace plotsmith {
 namespace {
 
-using test::BubbleBook;
-using test::BubbleDefinition;
-using test::Definition;
-using test::Lines;
-using test::With;
+using namespace test;
 using S = std::string;
 
 Definition WithSettings(std::initializer_list<const char*> names) {

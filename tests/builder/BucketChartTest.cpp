@@ -7,11 +7,7 @@
 namespace plotsmith {
 namespace {
 
-using test::BucketBook;
-using test::BucketDefinition;
-using test::Definition;
-using test::Lines;
-using test::With;
+using namespace test;
 using S = std::string;
 
 const S kManual = "<data-labels manual-labels=\"yes\"/>";

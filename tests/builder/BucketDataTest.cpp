@@ -9,10 +9,7 @@
 namespace plotsmith {
 namespace {
 
-using test::BucketBook;
-using test::BucketDefinition;
-using test::Columns;
-using test::Definition;
+using namespace test;
 using S = std::string;
 
 const S kHeader = "|[-BlockColor-]|[-BlockSort-]|GROWTH|CORE\n[-StrategicBuckets-]||||\n";

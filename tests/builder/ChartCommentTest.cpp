@@ -10,8 +10,7 @@
 namespace plotsmith {
 namespace {
 
-using test::Definition;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 class ChartCommentTest : public test::HostTest {};

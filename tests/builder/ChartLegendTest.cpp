@@ -9,12 +9,7 @@
 namespace plotsmith {
 namespace {
 
-using test::Bubble;
-using test::BubbleBook;
-using test::BubbleDefinition;
-using test::Definition;
-using test::Lines;
-using test::With;
+using namespace test;
 using S = std::string;
 
 const S kHide =

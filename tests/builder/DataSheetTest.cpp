@@ -9,9 +9,7 @@
 namespace plotsmith {
 namespace {
 
-using test::Columns;
-using test::Definition;
-using test::PlainBook;
+using namespace test;
 using S = std::string;
 
 class DataSheetTest : public test::BlockTest {};
@@ -33,11 +31,9 @@ TEST_F(DataSheetTest, CellsCountByTheirDisplayedText) {
                 {S("x"), test::RawCell{" t=\"b\"><v>1</v></c>"}}};
   book.sheets.push_back(sheet);
   book.styles =
-      "<styleSheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><numFmts><numFmt "
-      "numFmtId=\"200\" "
-      "formatCode=\"mmm yy\"/></numFmts><cellXfs><xf numFmtId=\"0\"/><xf numFmtId=\"14\"/><xf "
-      "numFmtId=\"200\"/></cellXfs>"
-      "</styleSheet>";
+      "<styleSheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><numFmts>"
+      "<numFmt numFmtId=\"200\" formatCode=\"mmm yy\"/></numFmts><cellXfs><xf numFmtId=\"0\"/>"
+      "<xf numFmtId=\"14\"/><xf numFmtId=\"200\"/></cellXfs></styleSheet>";
   Open(book);
   Definition definition{"VEX_Chart1", "column", "table-id=\"Data1\" number-format=\"0.0\""};
   definition.categories = Columns("categories", {"Day"}, "rows");

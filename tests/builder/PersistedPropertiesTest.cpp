@@ -23,10 +23,9 @@ TEST_F(PersistedPropertiesTest, StoredPropertiesAndTheirDefaults) {
   EXPECT_EQ(mLegendTop, kUnsetPlace);
   read(
       "<persist property=\"legend-position\" value=\"-4131\"/><persist property=\"bucket-label-font-color\" "
-      "value=\"\"/>"
-      "<persist property=\"label-font-name\" value=\"\"/><persist property=\"LabelAxis-font-autoscale\" "
-      "value=\"0\"/>"
-      "<persist property=\"LABEL-FONT-SIZE\" value=\"20\"/>");
+      "value=\"\"/><persist property=\"label-font-name\" value=\"\"/>"
+      "<persist property=\"LabelAxis-font-autoscale\" value=\"0\"/><persist property=\"LABEL-FONT-SIZE\" "
+      "value=\"20\"/>");
   EXPECT_EQ(mLegendPosition, runtime::Variant("-4131"));
   EXPECT_EQ(mLegendLeft, kUnsetPlace) << "each call starts from the defaults";
   EXPECT_EQ(mBucketLabelFont.vColor, runtime::Variant(16777215));

@@ -3,10 +3,7 @@
 namespace plotsmith {
 namespace {
 
-using test::Definition;
-using test::Lines;
-using test::Settings;
-using test::With;
+using namespace test;
 using S = std::string;
 
 Definition PieDefinition(const S& rest) {

@@ -4,9 +4,7 @@
 namespace plotsmith {
 namespace {
 
-using test::Columns;
-using test::Definition;
-using test::PlainBook;
+using namespace test;
 using S = std::string;
 
 class PivotTest : public test::BlockTest {};

@@ -10,9 +10,7 @@
 namespace plotsmith {
 namespace {
 
-using test::Definition;
-using test::PlainBook;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 class RefreshDriverTest : public test::HostTest {

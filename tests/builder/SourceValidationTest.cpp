@@ -25,10 +25,9 @@ TEST_F(SourceValidationTest, ValidationStoresTheTablesPositionInTheDefinition) {
             "'Data1' is missing or contains invalid data.");
   EXPECT_EQ(document.xml(),
             "<chart name=\"C\" table-id=\"Data1\" table-worksheet=\"Data1\" table-top-row=\"1\" "
-            "table-left-column=\"1\" "
-            "table-height=\"5\" header-row-count=\"1\"><categories><column name=\"REGION\" "
-            "worksheet-column-number=\"1\"/>"
-            "<column name=\"Nowhere\"/><column name=\"Cost\"/></categories></chart>")
+            "table-left-column=\"1\" table-height=\"5\" header-row-count=\"1\"><categories>"
+            "<column name=\"REGION\" worksheet-column-number=\"1\"/><column name=\"Nowhere\"/>"
+            "<column name=\"Cost\"/></categories></chart>")
       << "values stored before the failure are kept, and later ones aren't changed";
 }
 
@@ -52,8 +51,7 @@ TEST_F(SourceValidationTest, UnavailableCharts) {
        "Chart 'C' has become unavailable because its source table no longer exists in this workbook."},
       {"table-id=\"VEX_TableRangeBare\"",
        "Chart 'C' has become unavailable because table 'Only a title' \ncurrently contains no data.The chart "
-       "will reappear "
-       "the next time the table is refreshed with one or more rows of data."},
+       "will reappear the next time the table is refreshed with one or more rows of data."},
       {"table-id=\"Data1\" strategic-bucket-table-id=\"Gone\"",
        "Chart 'C' has become unavailable because its strategic bucket table no longer exists in this "
        "workbook."},

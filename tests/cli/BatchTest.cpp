@@ -15,9 +15,7 @@ namespace plotsmith::cli {
 namespace {
 
 namespace fs = std::filesystem;
-using test::CommandResult;
-using test::RunCommand;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 /// Tests refreshing several workbooks. The output names them without their folder.

@@ -8,9 +8,7 @@
 namespace plotsmith::cli {
 namespace {
 
-using test::CommandResult;
-using test::RunCommand;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 /// Verbs on a workbook with two charts, one of which has a table without a label column.
@@ -69,12 +67,10 @@ TEST_F(ChartVerbsTest, MissingThingsAreReportedAndNothingIsSaved) {
       {{"modify", "VEX_Chart1", "--sizes", "Cost"},
        "a column chart has no --sizes; it has --title, --categories, --category-columns, --series, "
        "--series-columns, --no-series, --values, --x-axis, --y-axis, --number-format, --labels, --set, "
-       "--unset and "
-       "--comment."},
+       "--unset and --comment."},
       {{"modify", "VEX_Chart1", "--type", "pie", "--x-axis", "a"},
        "a pie chart has no --x-axis; it has --title, --categories, --values, --number-format, --labels, "
-       "--set, "
-       "--unset and --comment."},
+       "--set, --unset and --comment."},
       {{"modify", "VEX_Chart1", "--set", "exploded"},
        "a column chart has no setting 'exploded'; it has 3D, stacked and 100%."},
       {{"modify", "VEX_Chart1", "--type", "area", "--labels", "names"},
@@ -185,12 +181,11 @@ TEST_F(ChartVerbsTest, OptionsReachTheirControlsFromAnyLayout) {
   const S oneNumber = Write(book, "one.xlsx");
   const S byColumn = "<categories headings-in=\"columns\"><column name=\"Amount\"/></categories>",
           byProduct = "<series headings-in=\"rows\"><column name=\"Product\"/></series>";
-  struct Case {
+  const struct {
     S book;
     std::vector<S> options;
     S piece;
-  };
-  const Case cases[] = {
+  } cases[] = {
       // A click on the only number column deselects the series.
       {oneNumber,
        {"--series", "Product", "--values", "Amount"},
@@ -201,7 +196,7 @@ TEST_F(ChartVerbsTest, OptionsReachTheirControlsFromAnyLayout) {
        byColumn + "<series headings-in=\"none\"/>"},
       {twoNumbers, {"--category-columns", "Amount", "--series", "Product"}, byColumn + byProduct},
   };
-  for (const Case& item : cases) {
+  for (const auto& item : cases) {
     book_ = item.book;
     std::vector<S> arguments = {"modify", "VEX_Chart1"};
     arguments.insert(arguments.end(), item.options.begin(), item.options.end());
@@ -316,8 +311,7 @@ TEST_F(ChartVerbsTest, ARunThatEndsBeforeItsPagesFails) {
   EXPECT_EQ(result.code, 2);
   EXPECT_EQ(result.err,
             "Brindle Plotsmith: This workbook contains no tables. You must create one in order to run the "
-            "Plotsmith.\n"
-            "plotsmith: nothing was done, and nothing is saved.\n");
+            "Plotsmith.\nplotsmith: nothing was done, and nothing is saved.\n");
 }
 
 }  // namespace

@@ -14,12 +14,7 @@
 namespace plotsmith::cli {
 namespace {
 
-using test::Definition;
-using test::PlainBook;
-using test::PlainRow;
-using test::RawCell;
-using test::RunCommand;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 using List = std::vector<S>;
 
@@ -83,11 +78,9 @@ TEST_F(CheckTest, AWorkbookWithoutProblemsIsListed) {
   EXPECT_EQ(result.code, 0);
   EXPECT_EQ(result.out,
             "VEX_ChartDefinitions!A2  VEX_Chart1  \"Name of VEX_Chart1\"  column chart on sheet Charts, from "
-            "table Data1: ok\n"
-            "VEX_ChartDefinitions!A3  VEX_Chart2  \"Name of VEX_Chart2\"  pie chart on sheet Charts, from "
-            "table Data1: ok\n"
-            "Data1  \"Data1\"  sheet Data1, rows 1 to 5 (4 of data), from column 1; label Region, label "
-            "Product, number Amount, number Cost: ok\n");
+            "table Data1: ok\nVEX_ChartDefinitions!A3  VEX_Chart2  \"Name of VEX_Chart2\"  pie chart on "
+            "sheet Charts, from table Data1: ok\nData1  \"Data1\"  sheet Data1, rows 1 to 5 (4 of data), "
+            "from column 1; label Region, label Product, number Amount, number Cost: ok\n");
   EXPECT_EQ(Found(test::BubbleBook({{"a", "b", 1, 2, 3}}, test::BubbleDefinition())), List{});
   EXPECT_EQ(Found(test::BucketBook(test::BucketDefinition())), List{});
 }
@@ -251,10 +244,9 @@ TEST_F(CheckTest, InvalidNamesAndValuesInDefinitions) {
        {"The attribute 'sort' has an unknown value 'down'; it can be ascending or descending."}},
       {rest("<auto-persistence><persist property=\"legend\" value=\"\"/></auto-persistence>"),
        {"The attribute 'property' has an unknown value 'legend'; it can be legend-visibility, "
-        "legend-position, "
-        "legend-left, legend-top, label-font-background-color, legend-font-name, legend-font-size, "
-        "legend-font-style, legend-font-color, legend-font-autoscale, label-font-name, label-font-size, "
-        "label-font-style, label-font-color, label-font-autoscale, bucket-label-font-name, "
+        "legend-position, legend-left, legend-top, label-font-background-color, legend-font-name, "
+        "legend-font-size, legend-font-style, legend-font-color, legend-font-autoscale, label-font-name, "
+        "label-font-size, label-font-style, label-font-color, label-font-autoscale, bucket-label-font-name, "
         "bucket-label-font-size, bucket-label-font-style, bucket-label-font-color, "
         "bucket-label-font-autoscale, LabelAxis-font-name, LabelAxis-font-size, LabelAxis-font-style, "
         "LabelAxis-font-color, LabelAxis-font-autoscale, ValueAxis-font-name, ValueAxis-font-size, "
@@ -310,8 +302,7 @@ TEST_F(CheckTest, MissingTablesAndColumns) {
   EXPECT_EQ(Found(book), (List{"There is no table 'Sales'; there are VEX_TableRange2 and Data1; a sheet is a "
                                "table only if its name is exactly one of Data1 to Data5.",
                                "VEX_TableRange3: The name 'VEX_TableRange3' doesn't define a table, because "
-                               "it refers to '=#REF!', which "
-                               "isn't a range of cells.",
+                               "it refers to '=#REF!', which isn't a range of cells.",
                                "VEX_TableRange4: The name 'VEX_TableRange4' doesn't define a table, because "
                                "it refers to 2 rows, but the head of a table alone takes three."}));
   EXPECT_EQ(Found(over("")), List{"The definition has no 'table-id'; there is Data1."});
@@ -357,8 +348,7 @@ TEST_F(CheckTest, BucketTablesThatDoNotFit) {
                  "followed by a number column."});
   EXPECT_EQ(found(usual, [](PlainBook& book) { book.Sheet("Buckets").rows[2][0] = S("Strategy"); }),
             List{"The bucket table 'VEX_SB1' doesn't match the table 'Data1', which has no label column "
-                 "'Strategy'; "
-                 "its label columns are Project, Theme and Bucket."});
+                 "'Strategy'; its label columns are Project, Theme and Bucket."});
 }
 
 TEST_F(CheckTest, UnsuitableCells) {

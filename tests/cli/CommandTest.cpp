@@ -16,9 +16,7 @@
 namespace plotsmith::cli {
 namespace {
 
-using test::CommandResult;
-using test::RunCommand;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 class CommandTest : public ::testing::Test {
@@ -54,11 +52,10 @@ TEST_F(CommandTest, MessagesReachStderrWordForWord) {
   EXPECT_EQ(result.code, 1);
   EXPECT_EQ(
       result.err,
-      "Brindle Plotsmith: Chart 'Name of VEX_Chart1' has become unavailable because its source table "
-      "no longer "
-      "exists in this workbook.\n"
-      "plotsmith: VEX_ChartDefinitions!A2 (chart 'Name of VEX_Chart1'): There is no table 'Gone'; there "
-      "is Data1; a sheet is a table only if its name is exactly one of Data1 to Data5.\n");
+      "Brindle Plotsmith: Chart 'Name of VEX_Chart1' has become unavailable because its source table no "
+      "longer exists in this workbook.\nplotsmith: VEX_ChartDefinitions!A2 (chart 'Name of VEX_Chart1'): "
+      "There is no table 'Gone'; there is Data1; a sheet is a table only if its name is exactly one of Data1 "
+      "to Data5.\n");
   EXPECT_NE(RunCommand({"charts", book}).out.find("table no longer fits"), S::npos);
 }
 
@@ -226,8 +223,7 @@ TEST_F(CommandTest, ListsAndJson) {
   const S before = Bytes(book);
   EXPECT_EQ(RunCommand({"tables", book}).out,
             "Data1  \"Data1\"\n  sheet Data1, rows 1 to 5 (4 of data), from column 1\n  label\tcolumn "
-            "1\tRegion\n  label\tcolumn 2\tProduct\n  label\tcolumn 3\tAmount\n  number\tcolumn "
-            "4\tCost\n");
+            "1\tRegion\n  label\tcolumn 2\tProduct\n  label\tcolumn 3\tAmount\n  number\tcolumn 4\tCost\n");
   EXPECT_EQ(RunCommand({"tables", book, "--json"}).out, R"([
   {
     "id": "Data1",

@@ -8,8 +8,7 @@
 namespace plotsmith::cli {
 namespace {
 
-using test::CommandResult;
-using test::RunCommand;
+using namespace test;
 using S = std::string;
 
 struct NewChart {

@@ -54,16 +54,15 @@ class OtherProgramTest : public testing::Test {
 
 TEST_F(OtherProgramTest, TheWizardsProgramGetsTheArgumentsAndItsExitCodeIsReturned) {
   PutProgram("bin", "printf '[%s]' \"$@\"\nexit 7\n");
-  struct Row {
+  const struct {
     S arguments, passed;
-  };
-  const Row rows[] = {
+  } rows[] = {
       {"book.xlsx", "[--host-version][16][--][book.xlsx]"},
       {"'my book.xlsx' -o 'my out.xlsx'", "[--host-version][16][--output=my out.xlsx][--][my book.xlsx]"},
       {"--force --journal --host-version 11.5 --output=-o.xlsx -- -b.xlsx",
        "[--host-version][11.5][--journal][--force][--output=-o.xlsx][--][-b.xlsx]"},
   };
-  for (const Row& row : rows) EXPECT_EQ(Wizard(row.arguments, ""), (Ended{7, row.passed})) << row.arguments;
+  for (const auto& row : rows) EXPECT_EQ(Wizard(row.arguments, ""), (Ended{7, row.passed})) << row.arguments;
 
   PutProgram("bin", "kill -TERM $$\n");
   EXPECT_EQ(Wizard("book.xlsx", "").status, 128 + SIGTERM);

@@ -10,9 +10,7 @@
 namespace plotsmith::cli {
 namespace {
 
-using test::CommandResult;
-using test::RunCommand;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 /// Tests the outputs of the verbs.
@@ -115,15 +113,14 @@ TEST_F(OutputTest, UnsuitableExtensionsAreRefusedBeforeTheWork) {
   const S plain = Write("plain.xlsx"), macros = Write("macros.xlsm", true);
   const S hasMacros = "the workbook has macros, which a file with the extension ",
           hold = " can't contain; use .xlsm";
-  struct Case {
+  const struct {
     S book, out, reason;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {macros, "out.xlsx", hasMacros + ".xlsx" + hold},
       {macros, "out.XLTX", hasMacros + ".xltx" + hold},
       {plain, "out.ods", "a workbook can't be written as .ods, only as .xlsx, .xlsm, .xltx or .xltm"},
       {plain, "out.XLS", "a workbook can't be written as .xls, only as .xlsx, .xlsm, .xltx or .xltm"}};
-  for (const Case& refused : cases) {
+  for (const auto& refused : cases) {
     const S out = folder_ / refused.out;
     const CommandResult result = RunCommand({"refresh", refused.book, "-o", out, "--journal"});
     EXPECT_EQ(result.code, 3);

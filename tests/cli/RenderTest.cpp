@@ -16,19 +16,17 @@ namespace plotsmith::cli {
 namespace {
 
 namespace fs = std::filesystem;
-using test::CommandResult;
-using test::RunCommand;
+using namespace test;
 using S = std::string;
 
 /// The contents of another program's chart part: one series of columns.
 constexpr const char* kForeignChart =
-    "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\"><c:chart><c:plotArea>"
-    "<c:barChart><c:barDir val=\"col\"/><c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:val><c:numLit>"
-    "<c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>3</c:v></c:pt><c:pt idx=\"1\"><c:v>5</c:v></c:pt></c:numLit>"
-    "</c:val></c:ser><c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart><c:catAx><c:axId val=\"1\"/>"
-    "<c:crossAx val=\"2\"/></c:catAx><c:valAx><c:axId val=\"2\"/><c:crossAx "
-    "val=\"1\"/></c:valAx></c:plotArea>"
-    "</c:chart></c:chartSpace>";
+    "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\"><c:chart>"
+    "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>"
+    "<c:val><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>3</c:v></c:pt><c:pt idx=\"1\"><c:v>5"
+    "</c:v></c:pt></c:numLit></c:val></c:ser><c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart>"
+    "<c:catAx><c:axId val=\"1\"/><c:crossAx val=\"2\"/></c:catAx><c:valAx><c:axId val=\"2\"/>"
+    "<c:crossAx val=\"1\"/></c:valAx></c:plotArea></c:chart></c:chartSpace>";
 
 S BytesOf(const S& path) {
   std::ifstream file(path, std::ios::binary);
@@ -375,8 +373,7 @@ TEST_F(RenderTest, ARefreshDrawsWhatItHasRefreshed) {
        2,
        "",
        "plotsmith: --render needs a folder, and \"a.PNG\" looks like a picture. Add \"/\" if the folder has "
-       "this "
-       "name; to write a single file, use plotsmith render -o.\n"},
+       "this name; to write a single file, use plotsmith render -o.\n"},
       {{"--render", "DIR", "--format", "gif"},
        2,
        "",

@@ -12,14 +12,7 @@
 namespace plotsmith::cli {
 namespace {
 
-using test::CommandResult;
-using test::Definition;
-using test::EditPart;
-using test::PlainBook;
-using test::PlainRow;
-using test::RawCell;
-using test::RunCommand;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 using List = std::vector<S>;
 
@@ -388,8 +381,7 @@ TEST_F(RunCheckTest, TooManyBucketsAreReported) {
   const S misnamed = "the columns have wrong names; keep at most 22 buckets.";
   const S error =
       "Brindle Plotsmith: PSChartBuilder.PopulateStrBuckChart\nUnable to set the XValues property of the "
-      "Series "
-      "class\n";
+      "Series class\n";
   const std::pair<int, S> cases[] = {{22, ""},
                                      {23, error + Line(start(23) + breaks)},
                                      {28, error + Line(start(28) + breaks)},
@@ -419,8 +411,7 @@ TEST_F(RunCheckTest, AmbiguousChartsPreventNewAndDeletedCharts) {
       "use --drop-broken.\n";
   const S second =
       "plotsmith: More: A second chart here has the alternative text 'VEX_Chart1', and only the first one, "
-      "on "
-      "the sheet 'Charts', is refreshed. Delete the second chart, or clear its alternative text.\n";
+      "on the sheet 'Charts', is refreshed. Delete the second chart, or clear its alternative text.\n";
   const S unread =
       Line("This definition is never read, because VEX_ChartDefinitions!A3 is blank and ends the list.",
            "VEX_ChartDefinitions!A4");

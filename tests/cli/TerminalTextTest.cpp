@@ -9,8 +9,7 @@ namespace {
 
 TEST(TerminalTextTest, ControlCharactersOfAWorkbookDoNotReachATerminal) {
   const struct {
-    std::string text;
-    std::string shown;
+    std::string text, shown;
   } cases[] = {
       {"Amount\tin \u20AC\r\n", "Amount\tin \u20AC\r\n"},
       {"\x1b[2Jred\x1b]0;title\x07", "\uFFFD[2Jred\uFFFD]0;title\uFFFD"},

@@ -46,18 +46,11 @@ TEST(UserLocaleTest, PosixNamesHaveWindowsIdentifiers) {
       {"en", 1033},
       {"es.UTF-8", 3082},
       {"ru_UA", 1049},
-      {"de_BE.UTF-8", 1031},
-      // without a language
-      {"C", 1033},
-      {"C.UTF-8", 1033},
-      {"POSIX", 1033},
-      {"", 1033},
-      {"tlh_QO", 1033},
-      {"_JP", 1033},
-      {"j", 1033},
-      {"jap", 1033},
-  };
+      {"de_BE.UTF-8", 1031}};
   for (const auto& [name, lcid] : cases) EXPECT_EQ(LCIDOfLocale(name), lcid) << name;
+  for (const char* name : {"C", "C.UTF-8", "POSIX", "", "tlh_QO", "_JP", "j", "jap"}) {
+    EXPECT_EQ(LCIDOfLocale(name), 1033) << "without a language: " << name;
+  }
 }
 
 /// Restores the environment variables for the locale after the test.

@@ -9,9 +9,7 @@
 namespace plotsmith::cli {
 namespace {
 
-using test::CommandResult;
-using test::RunCommand;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 class WizardCommandTest : public test::WizardVerbsTest {};
@@ -57,13 +55,12 @@ expect grdCharts.Rows 2
 }
 
 TEST_F(WizardCommandTest, NothingElseIsSaved) {
-  struct Case {
+  const struct {
     const char* name;
     S script;
     int code;
     S err;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"nothing", "", 0, ""},
       {"a cancellation", "select grdCharts #1\npress cmdCopy\ntype txtTitle x\npress cmdCancel\npage none", 0,
        ""},
@@ -78,16 +75,14 @@ TEST_F(WizardCommandTest, NothingElseIsSaved) {
       {"a message that no line expects",
        "press cmdNew\npress cmdNext\nselect grdTables #1\npage frmPSSelectTable", 2,
        "plotsmith: -:4: there was a message that no line expects: 'Please select the table on which the "
-       "chart is "
-       "based'.\n"},
+       "chart is based'.\n"},
       {"a question without an answer", "select grdCharts #1\npress cmdDelete", 2,
        "plotsmith: -:2: the question 'Are you sure you want to delete this chart?\\n\\nClick 'OK' to delete "
-       "or "
-       "'Cancel' to abort.' has no answer; a line 'answer ok' or 'answer cancel' gives it in advance.\n"},
+       "or 'Cancel' to abort.' has no answer; a line 'answer ok' or 'answer cancel' gives it in advance.\n"},
   };
   const S book = Write(SalesBook({{"VEX_Chart1"}}));
   const S before = Bytes(book), out = folder_ / "out.xlsx";
-  for (const Case& item : cases) {
+  for (const auto& item : cases) {
     for (const std::vector<S>& more : {std::vector<S>{}, {"-o", out}, {"--host-version", "11"}}) {
       const CommandResult result = Wizard(book, item.script, more);
       EXPECT_EQ(result.code, item.code) << item.name;
@@ -131,13 +126,9 @@ TEST_F(WizardCommandTest, PagesAreShown) {
   const CommandResult shown =
       Wizard(book, "select grdTables Data1\nshow\nchoose optType(3)\npress cmdNext", {"--show"});
   EXPECT_TRUE(
-      shown.out.starts_with("frmPSSelectTable  Brindle Plotsmith - Source Table and Chart Type\n"
-                            "fraTableList  Tables in this Workbook\n"
-                            "  grdTables   (focus)\n"
-                            "    >Data1\n"
-                            "     Targets\n"
-                            "fraChartType  Chart Type\n"
-                            "  optType(0)  ( ) Bar\n"))
+      shown.out.starts_with("frmPSSelectTable  Brindle Plotsmith - Source Table and Chart Type\nfraTableList "
+                            " Tables in this Workbook\n  grdTables   (focus)\n    >Data1\n     "
+                            "Targets\nfraChartType  Chart Type\n  optType(0)  ( ) Bar\n"))
       << shown.out;
   EXPECT_NE(shown.out.find("\nfrmPSLayoutPie  Brindle Plotsmith - Chart Layout\n"), S::npos)
       << "the last page";

@@ -14,8 +14,7 @@
 namespace plotsmith {
 namespace {
 
-using test::PlainBook;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 /// Runs the wizard with a simulated user that requests moves, like the buttons of the pages.
@@ -164,11 +163,9 @@ TEST_F(EntryTest, GuardsReportInOrder) {
     OpenFile(folder_ / "shared.xlsx");
     Refresh();
     EXPECT_EQ(Messages().back(), isProtected ? "Brindle Plotsmith: This workbook has been protected. To use "
-                                               "the Plotsmith you need to turn off "
-                                               "Structure Protection."
+                                               "the Plotsmith you need to turn off Structure Protection."
                                              : "Brindle Plotsmith: This is a shared workbook. To use the "
-                                               "Plotsmith you need to turn off workbook "
-                                               "sharing.");
+                                               "Plotsmith you need to turn off workbook sharing.");
   }
 
   host_ = xlsx::Application::Create();

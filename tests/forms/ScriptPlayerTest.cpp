@@ -87,8 +87,7 @@ TEST_F(ScriptPlayerTest, PlaysToTheEnd) {
 TEST_F(ScriptPlayerTest, ImpossibleLinesReportTheAlternatives) {
   const S controls =
       "Frame1, txtTitle, txtNote, fraType, optType(0), optType(1), optOther(0), cboValues, cboFormat, "
-      "lstOne, "
-      "lstMany, chk3D, grdRows, imgBar, imgPie, cmdOff, cmdCancel and cmdOK";
+      "lstOne, lstMany, chk3D, grdRows, imgBar, imgPie, cmdOff, cmdCancel and cmdOK";
   const S escapes = "; it can have \\\" for a quotation mark, \\\\ for a backslash and \\n for a new line";
   const std::pair<S, S> cases[] = {
       // the line itself
@@ -102,11 +101,9 @@ TEST_F(ScriptPlayerTest, ImpossibleLinesReportTheAlternatives) {
       {"type txtTitle \"a\\", "1: a text can't have \\" + escapes},
       {"type txtTitle \"\\é\"", "1: a text can't have \\é" + escapes},
       {"type txtTitle \"a\"b",
-       "1: a blank must follow the text 'a'; a quotation mark inside of a text is written "
-       "\\\""},
+       "1: a blank must follow the text 'a'; a quotation mark inside of a text is written \\\""},
       {"type txtTitle 5\"",
-       "1: a text with a quotation mark in it is put in double quotes, and the mark is "
-       "written \\\""},
+       "1: a text with a quotation mark in it is put in double quotes, and the mark is written \\\""},
       {"show all", "1: the line should be: show"},
       {"answer yes", "1: a question can't be answered with 'yes'; there are ok and cancel"},
       // pages
@@ -143,8 +140,7 @@ TEST_F(ScriptPlayerTest, ImpossibleLinesReportTheAlternatives) {
       // expectations
       {"expect chk3D.Value 1", "1: chk3D.Value is '0', not '1'"},
       {"expect chk3D.Tick 1",
-       "1: chk3D has no property 'Tick'; it has Enabled, Visible, BackColor, Caption and "
-       "Value"},
+       "1: chk3D has no property 'Tick'; it has Enabled, Visible, BackColor, Caption and Value"},
       {"expect chk3D 1", "1: what is expected is a message, a question or CONTROL.PROPERTY, not 'chk3D'"},
       {"expect chk4D.Value 1", "1: frmSmall has no control 'chk4D'; it has " + controls},
       {"expect chk3D.BackColor grey", "1: a colour is written as 0x8000000F, and 'grey' isn't one"},

@@ -7,8 +7,7 @@
 namespace plotsmith {
 namespace {
 
-using test::Definition;
-using test::SalesBook;
+using namespace test;
 
 class ColumnRenamingTest : public test::HostTest {};
 

@@ -12,9 +12,7 @@
 namespace plotsmith {
 namespace {
 
-using test::Definition;
-using test::PlainBook;
-using test::SalesBook;
+using namespace test;
 
 class MetadataStoreTest : public test::HostTest {
  protected:

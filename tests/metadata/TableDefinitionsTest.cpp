@@ -8,9 +8,7 @@
 namespace plotsmith {
 namespace {
 
-using test::PlainBook;
-using test::PlainSheet;
-using test::RawCell;
+using namespace test;
 using S = std::string;
 
 class TableDefinitionsTest : public test::HostTest {
@@ -57,11 +55,10 @@ TEST_F(TableDefinitionsTest, RangeTableOfANameInAnyCaseOnAQuotedSheet) {
   // The width comes from the used range and not from the name, so Note belongs to the table.
   EXPECT_EQ(Xml("vex_tablerange_1"),
             "<table id=\"vex_tablerange_1\" name=\"Investments\" table-worksheet=\"It's a sheet\" "
-            "table-top-row=\"3\" "
-            "table-left-column=\"2\" table-height=\"5\" header-row-count=\"3\" label-column-count=\"2\" "
-            "number-column-count=\"1\" is-bucket-candidate=\"yes\" bucket-name-column=\"Bucket\" "
-            "bucket-value-column=\"Amount\"><label-column name=\"Bucket\" worksheet-column-number=\"2\"/>"
-            "<number-column name=\"Amount\" worksheet-column-number=\"3\"/>"
+            "table-top-row=\"3\" table-left-column=\"2\" table-height=\"5\" header-row-count=\"3\" "
+            "label-column-count=\"2\" number-column-count=\"1\" is-bucket-candidate=\"yes\" "
+            "bucket-name-column=\"Bucket\" bucket-value-column=\"Amount\"><label-column name=\"Bucket\" "
+            "worksheet-column-number=\"2\"/><number-column name=\"Amount\" worksheet-column-number=\"3\"/>"
             "<label-column name=\"Note\" worksheet-column-number=\"5\"/></table>");
   EXPECT_TRUE(Messages().empty());
 }
@@ -124,9 +121,8 @@ TEST_F(TableDefinitionsTest, ClassifiesColumns) {
                 {{}, 5.0, 2.0, S("x"), 1.0, error, 2.0, 1.0, 2.0}};
   book.sheets.push_back(sheet);
   book.styles =
-      "<styleSheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><cellXfs><xf "
-      "numFmtId=\"0\"/>"
-      "<xf numFmtId=\"14\"/><xf numFmtId=\"46\"/></cellXfs></styleSheet>";
+      "<styleSheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><cellXfs>"
+      "<xf numFmtId=\"0\"/><xf numFmtId=\"14\"/><xf numFmtId=\"46\"/></cellXfs></styleSheet>";
   Open(book);
   EXPECT_EQ(Kinds(), "blank=n spaces=n numeric text=n text=l date=l error=l truth=n 2020=n time=n ");
 }
@@ -136,9 +132,8 @@ TEST_F(TableDefinitionsTest, TextsAfterBlankCellsAreFound) {
   PlainSheet sheet{"Data1"};
   // The last row of the sheet, followed in the file by a row above it.
   const RawCell rows{
-      "/></row><row r=\"1048576\"><c r=\"B1048576\" t=\"str\"><v>x</v></c><c "
-      "r=\"C1048576\"><v>1</v></c></row>"
-      "<row r=\"9\"><c r=\"C9\"><v>1</v></c><c r=\"D9\" t=\"str\"><v>x</v></c>"};
+      "/></row><row r=\"1048576\"><c r=\"B1048576\" t=\"str\"><v>x</v></c><c r=\"C1048576\"><v>1</v>"
+      "</c></row><row r=\"9\"><c r=\"C9\"><v>1</v></c><c r=\"D9\" t=\"str\"><v>x</v></c>"};
   sheet.rows = {{S("none"), S("last"), S("numbers"), S("stray")}, {{}, 1.0, {}, 1.0, rows}};
   book.sheets.push_back(sheet);
   Open(book);

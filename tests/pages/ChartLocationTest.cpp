@@ -7,11 +7,7 @@
 namespace plotsmith {
 namespace {
 
-using test::BookOfCharts;
-using test::ModifyChart;
-using test::NewChart;
-using test::PlainBook;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 class ChartLocationTest : public test::PagesTest {};
@@ -74,10 +70,9 @@ TEST_F(ChartLocationTest, StatesAndDefaults) {
 TEST_F(ChartLocationTest, MessagesMoveTheFocusAndStoreNothing) {
   const S nameInUse = "Chart name is already in use. Please enter a different name for the chart.";
   const S newSheet = "choose optTargetSheet(0); type txtSheet ";
-  struct Case {
+  const struct {
     S script, message, focus;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {kNewBesideOthers + "type txtName \" \"", "Please provide a name for the chart", "txtName"},
       {kNewBesideOthers + "type txtName \"\"; clear cboSheet", "Please provide a name for the chart",
        "txtName"},

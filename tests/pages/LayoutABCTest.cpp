@@ -3,19 +3,14 @@
 namespace plotsmith {
 namespace {
 
-using test::BookOfColumns;
-using test::Definition;
-using test::ModifyChart;
-using test::NewChart;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 class LayoutABCTest : public test::PagesTest {
  protected:
   /// A step on the page, with the disabled controls and the visible pictures after it.
   struct State {
-    S script;
-    S off;
+    S script, off;
     S expected;  ///< Further lines.
   };
 };
@@ -101,8 +96,7 @@ TEST_F(LayoutABCTest, RestoredStatesAreConsistent) {
   const std::pair<Definition, S> cases[] = {
       {both,
        "expect optCategories(1).Value yes; expect optSeries(2).Value yes; expect lstSeries.Selected "
-       "Amount|Cost; "
-       "look off optCategories(2) lstCategories cboSeries optSeries(2) cboValues chk100Pct"},
+       "Amount|Cost; look off optCategories(2) lstCategories cboSeries optSeries(2) cboValues chk100Pct"},
       {hundred,
        "expect chk100Pct.Value 1; look off lstCategories lstSeries chk100Pct; look pictures imgLegend"},
       {gone,
@@ -115,33 +109,27 @@ TEST_F(LayoutABCTest, RestoredStatesAreConsistent) {
 }
 
 TEST_F(LayoutABCTest, CaptionsAndHelpFollowTheType) {
-  struct Case {
+  const struct {
     int type;
     std::vector<std::int32_t> topics;
     S captions;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {kBar,
        {3},
        "expect Frame2.Caption \"2. Vertical (Y-axis) Shows\"; expect Frame4.Caption \"4. Bar Length\"; "
-       "expect "
-       "Frame5.Caption \"5. Bar and Axis Labels\"; expect chkShowValues.Caption \"Show Values on Bars\"; "
-       "expect "
-       "chkStacked.Caption \"Stacked Bars\"; expect txtVAxis.Text Region; expect txtHAxis.Text Amount"},
+       "expect Frame5.Caption \"5. Bar and Axis Labels\"; expect chkShowValues.Caption \"Show Values on "
+       "Bars\"; expect chkStacked.Caption \"Stacked Bars\"; expect txtVAxis.Text Region; expect "
+       "txtHAxis.Text Amount"},
       {kColumn,
        {4},
        "expect Frame2.Caption \"2. Horizontal (X-axis) Shows\"; expect Frame4.Caption \"4. Column Height\"; "
-       "expect "
-       "Frame5.Caption \"5. Column and Axis Labels\"; expect chkShowValues.Caption \"Show Values on "
-       "Columns\"; "
-       "expect chkStacked.Caption \"Stacked Columns\"; expect txtHAxis.Text Region"},
+       "expect Frame5.Caption \"5. Column and Axis Labels\"; expect chkShowValues.Caption \"Show Values on "
+       "Columns\"; expect chkStacked.Caption \"Stacked Columns\"; expect txtHAxis.Text Region"},
       {kArea,
        {5},
        "expect Frame2.Caption \"2. Horizontal (X-axis) Shows\"; expect Frame4.Caption \"4. Area Size\"; "
-       "expect "
-       "Frame5.Caption \"5. Area and Axis Labels\"; expect chkShowValues.Caption \"Show Values on Areas\"; "
-       "expect "
-       "chkStacked.Caption \"Stacked Areas\"; expect txtHAxis.Text Region"},
+       "expect Frame5.Caption \"5. Area and Axis Labels\"; expect chkShowValues.Caption \"Show Values on "
+       "Areas\"; expect chkStacked.Caption \"Stacked Areas\"; expect txtHAxis.Text Region"},
   };
   for (const auto& [type, topics, captions] : cases) {
     EXPECT_EQ(Play(SalesBook({}), NewChart(type) + captions + "; press cmdHelp"), "");
@@ -184,13 +172,12 @@ TEST_F(LayoutABCTest, MessagesMoveTheFocus) {
   const S noList = "choose optCategories(2)", noCombo = "choose optCategories(2); choose optCategories(1)";
   const S noSize = noCombo + "; choose cboCategories Region";
   const S same = "choose optSeries(1); choose cboSeries Region";
-  struct Case {
+  const struct {
     int type;
     S script, message, focus;
     bool outlivesBack =
         true;  ///< Whether the state is kept after Back, rather than reset to the first entries.
-  };
-  const Case cases[] = {
+  } cases[] = {
       {kColumn, noList, noX, "lstCategories"},
       {kArea, noList, noX, "lstCategories"},
       {kBar, noList, noY, "lstCategories"},

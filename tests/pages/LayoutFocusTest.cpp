@@ -3,9 +3,7 @@
 namespace plotsmith {
 namespace {
 
-using test::NewBucketBook;
-using test::NewChart;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 /// Tests what depends on the focus on layout pages: the marked frame, the axis boxes, the default button.
@@ -15,11 +13,10 @@ constexpr int kBar = 0, kColumn = 1, kPie = 3, kBubble = 4, kBucket = 5;
 
 TEST_F(LayoutFocusTest, TheFrameOfTheFocusIsMarked) {
   const S labels = "lblNumberMask lblNumberExample lblMaskExample lblHAxis lblVAxis";
-  struct Case {
+  const struct {
     int type;
     S script, marked;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {kColumn, "", "Frame1"},
       {kColumn, "choose optSeries(1)", "Frame3 optSeries(0) optSeries(1) optSeries(2)"},
       {kColumn, "choose optSeries(1); choose cboSeries Region",

@@ -3,10 +3,7 @@
 namespace plotsmith {
 namespace {
 
-using test::ModifyChart;
-using test::NewChart;
-using test::PlainBook;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 /// Tests that layout pages read what they have written.
@@ -152,9 +149,8 @@ std::vector<RoundTripTest::Case> RoundTripTest::Cases() {
        R"(<dynamic-attributes/><static-attributes/><comment></comment>)"},
       {5, test::NewBucketBook(),
        "type txtTitle Sales; choose cboBucketTables Others; choose cboCategories Theme; choose cboSeries "
-       "Project; choose cboBlockSequence "
-       "Rank; choose optBlockSequence(1); check chkShowNames; type cboDataLabelMask 0.0; type txtVAxis Mine; "
-       "type txtComment Said",
+       "Project; choose cboBlockSequence Rank; choose optBlockSequence(1); check chkShowNames; type "
+       "cboDataLabelMask 0.0; type txtVAxis Mine; type txtComment Said",
        R"(<categories headings-in="rows"><column name="Theme"/></categories>)"
        R"(<series headings-in="rows"><column name="Project"/></series><values><column name="Rank"/></values>)"
        R"(<sort-order sort="descending"><column name="Rank"/></sort-order>)"
@@ -166,9 +162,8 @@ std::vector<RoundTripTest::Case> RoundTripTest::Cases() {
        "yes; expect chkShowNames.Value 1; expect cboDataLabelMask.Text 0.0; expect txtHAxis.Text Theme; "
        "expect txtVAxis.Text Mine; expect txtComment.Text Said; look pictures imgLegend imgStrBuckBasic",
        "choose cboBucketTables Buckets; type txtTitle \"\"; choose cboSeries \"[all the same color]\"; "
-       "choose cboBlockSequence [none]; "
-       "uncheck chkShowNames; type cboDataLabelMask \"\"; type txtHAxis \"\"; type txtVAxis \"\"; type "
-       "txtComment \"\"",
+       "choose cboBlockSequence [none]; uncheck chkShowNames; type cboDataLabelMask \"\"; type txtHAxis "
+       "\"\"; type txtVAxis \"\"; type txtComment \"\"",
        R"(<categories headings-in="rows"><column name="Theme"/></categories><series headings-in="none"/>)"
        R"(<values><column name="SUM"/></values><axes/><data-labels manual-labels="no"/><dynamic-attributes/>)"
        R"(<comment></comment>)"},

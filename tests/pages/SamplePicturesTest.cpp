@@ -123,12 +123,10 @@ TEST(SamplePicturesTest, SvgHasAPathOrAnEllipseForEachShape) {
   EXPECT_EQ(
       Svg(picture),
       "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"20pt\" height=\"10.3pt\" viewBox=\"0 0 20 10.3\" "
-      "stroke-width=\"0.3\" stroke-linejoin=\"round\">\n"
-      "<path d=\"M0 0h10.1v-0.2z\" fill=\"#01abff\" stroke=\"#000000\"/>\n"
-      "<path d=\"M1.1 1l1.2 1.2h1.1z\" fill=\"#000000\" stroke=\"#ff0000\" stroke-width=\"1\"/>\n"
-      "<circle cx=\"5\" cy=\"5\" r=\"2.5\" fill=\"#102030\"/>\n"
-      "<ellipse cx=\"5\" cy=\"5\" rx=\"3\" ry=\"1.5\" fill=\"#000000\"/>\n"
-      "</svg>\n");
+      "stroke-width=\"0.3\" stroke-linejoin=\"round\">\n<path d=\"M0 0h10.1v-0.2z\" fill=\"#01abff\" "
+      "stroke=\"#000000\"/>\n<path d=\"M1.1 1l1.2 1.2h1.1z\" fill=\"#000000\" stroke=\"#ff0000\" "
+      "stroke-width=\"1\"/>\n<circle cx=\"5\" cy=\"5\" r=\"2.5\" fill=\"#102030\"/>\n<ellipse cx=\"5\" "
+      "cy=\"5\" rx=\"3\" ry=\"1.5\" fill=\"#000000\"/>\n</svg>\n");
 }
 
 TEST(SamplePicturesTest, ABoxShowsTheSidesThatItsDepthTurnsToUs) {

@@ -3,9 +3,7 @@
 namespace plotsmith {
 namespace {
 
-using test::BookOfCharts;
-using test::ModifyChart;
-using test::PlacedChart;
+using namespace test;
 using S = std::string;
 
 class SelectActionTest : public test::PagesTest {};
@@ -52,15 +50,13 @@ TEST_F(SelectActionTest, ButtonsFollowTheSelection) {
 TEST_F(SelectActionTest, EachButtonHasItsEffect) {
   const test::PlainBook book =
       BookOfCharts({{"Charts", "beta"}, {"Charts", "Alpha"}, {"Charts", "orphan", "Data9"}});
-  struct Case {
+  const struct {
     S script, active;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"select grdCharts Alpha; press cmdGoToChart; page frmPSSelectAction", "Charts"},
       {"select grdCharts Alpha; press cmdGoToChart; press cmdGoToTable; page frmPSSelectAction", "Data1"},
       {"double grdCharts beta; page frmPSLayoutABC; press cmdBack; press cmdBack; page frmPSSelectAction; "
-       "expect "
-       "grdCharts.Selected \"\"",
+       "expect grdCharts.Selected \"\"",
        "Data1"},
       {"double grdCharts orphan; page frmPSSelectAction", "Data1"},
       {"select grdCharts beta; press cmdCopy; page frmPSLayoutABC; press cmdBack; page frmPSSelectTable",
@@ -78,11 +74,10 @@ TEST_F(SelectActionTest, EachButtonHasItsEffect) {
 }
 
 TEST_F(SelectActionTest, CopiesHaveANameOfTheirOwn) {
-  struct Case {
+  const struct {
     std::vector<S> names;
     S source, copy;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {{"Sales"}, "Sales", "Copy of Sales"},
       {{"Sales", "COPY OF SALES"}, "Sales", "Copy (1) of Sales"},
       {{"Sales", "Copy of Sales", "Copy (1) of sales"}, "Sales", "Copy (2) of Sales"},
@@ -110,12 +105,11 @@ TEST_F(SelectActionTest, DeleteTakesChartsAndTheirComments) {
   test::PlainBook book = BookOfCharts({{"Charts", "a"}, {"Other", "b"}, {"Charts", "c"}});
   // A drawing of the user also has the id.
   book.Sheet("Charts").extraAnchors =
-      "<xdr:twoCellAnchor><xdr:from><xdr:col>0</xdr:col><xdr:colOff>0</xdr:colOff><xdr:row>60</xdr:row>"
-      "<xdr:rowOff>0</xdr:rowOff></xdr:from><xdr:to><xdr:col>2</xdr:col><xdr:colOff>0</"
-      "xdr:colOff><xdr:row>62</xdr:row>"
-      "<xdr:rowOff>0</xdr:rowOff></xdr:to><xdr:sp><xdr:nvSpPr><xdr:cNvPr id=\"90\" name=\"Oval\" "
-      "descr=\"VEX_Chart1\"/>"
-      "<xdr:cNvSpPr/></xdr:nvSpPr><xdr:spPr/></xdr:sp><xdr:clientData/></xdr:twoCellAnchor>";
+      "<xdr:twoCellAnchor><xdr:from><xdr:col>0</xdr:col><xdr:colOff>0</xdr:colOff><xdr:row>60"
+      "</xdr:row><xdr:rowOff>0</xdr:rowOff></xdr:from><xdr:to><xdr:col>2</xdr:col><xdr:colOff>0"
+      "</xdr:colOff><xdr:row>62</xdr:row><xdr:rowOff>0</xdr:rowOff></xdr:to><xdr:sp><xdr:nvSpPr>"
+      "<xdr:cNvPr id=\"90\" name=\"Oval\" descr=\"VEX_Chart1\"/><xdr:cNvSpPr/></xdr:nvSpPr>"
+      "<xdr:spPr/></xdr:sp><xdr:clientData/></xdr:twoCellAnchor>";
   const S one = "Are you sure you want to delete this chart?\\n\\nClick 'OK' to delete or 'Cancel' to abort.";
   const S several =
       "Are you sure you want to delete these charts?\\n\\nClick 'OK' to delete or 'Cancel' to abort.";

@@ -4,11 +4,7 @@
 namespace plotsmith {
 namespace {
 
-using test::BookOfColumns;
-using test::ModifyChart;
-using test::NewBucketBook;
-using test::PlainBook;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 class SelectTableTest : public test::PagesTest {};
@@ -39,9 +35,8 @@ TEST_F(SelectTableTest, TheTableDeterminesTheTypes) {
   };
   for (const auto& [book, off] : cases) {
     EXPECT_EQ(Play(book, "page frmPSSelectTable; look off " + kAllTypes +
-                             " cmdBack; select grdTables Data1; look "
-                             "off " +
-                             off + (off.empty() ? "" : " ") + "cmdBack"),
+                             " cmdBack; select grdTables Data1; look off " + off + (off.empty() ? "" : " ") +
+                             "cmdBack"),
               "");
   }
 }
@@ -53,8 +48,7 @@ TEST_F(SelectTableTest, TheTypeIsKeptIfTheTableAllowsIt) {
   const std::pair<PlainBook, S> cases[] = {
       {two,
        "look grdTables Data1|Data2; select grdTables Data1; choose optType(3); select grdTables Data2; "
-       "expect "
-       "optType(3).Value no; look pictures ; select grdTables Data1; expect optType(3).Value no"},
+       "expect optType(3).Value no; look pictures ; select grdTables Data1; expect optType(3).Value no"},
       {buckets,
        "select grdTables Data1; choose optType(4); select grdTables Data2; expect optType(4).Value yes; "
        "look pictures imgBubble; press cmdNext; page frmPSLayoutBubble"},

@@ -3,11 +3,7 @@
 namespace plotsmith {
 namespace {
 
-using test::NewBubbleBook;
-using test::NewBucketBook;
-using test::NewChart;
-using test::PlainBook;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 /// Tests the layout pages of pie, bubble and strategic bucket charts.
@@ -73,9 +69,8 @@ TEST_F(SmallLayoutsTest, StatesAndPicturesOfBubbles) {
 TEST_F(SmallLayoutsTest, StatesAndPicturesOfStrategicBuckets) {
   const State cases[] = {
       {"expect cboBucketTables.Text Buckets; look grdBuckets bucket,SUM|GROWTH,120|CORE,50; expect "
-       "txtHAxis.Text bucket; "
-       "expect txtVAxis.Text SUM; expect optBlockSequence(0).Value yes; expect cboBlockSequence.List "
-       "[none]|Sum|Rank; expect cboSeries.ListIndex 0",
+       "txtHAxis.Text bucket; expect txtVAxis.Text SUM; expect optBlockSequence(0).Value yes; expect "
+       "cboBlockSequence.List [none]|Sum|Rank; expect cboSeries.ListIndex 0",
        "", "imgLegendDim imgStrBuckBasic"},
       {"choose cboBucketTables Others; expect txtHAxis.Text Theme; expect txtVAxis.Text Rank; "
        "look grdBuckets Theme,Rank|NEW,1,235|OLD,-2",
@@ -96,14 +91,13 @@ TEST_F(SmallLayoutsTest, StatesAndPicturesOfStrategicBuckets) {
 
 TEST_F(SmallLayoutsTest, MessagesMoveTheFocus) {
   const S badFormat = "The requested number format is not supported by Excel";
-  struct Case {
+  const struct {
     PlainBook book;
     int type;
     S script, message, focus;
     bool outlivesBack =
         false;  ///< Whether the state is kept after Back, rather than reset to the first entries.
-  };
-  const Case cases[] = {
+  } cases[] = {
       {SalesBook({}), kPie, "select lstCategories; clear cboValues",
        "Please select a 'Slice Represents' entry", "lstCategories"},
       {SalesBook({}), kPie, "clear cboValues; type cboNumberMask \"0 [\"",

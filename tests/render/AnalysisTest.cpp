@@ -1,40 +1,21 @@
 #include "render/model/Analysis.h"
 #include "runtime/Strings.h"
 #include "tests/render/DrawingTest.h"
-#include "xlsx/package/Xml.h"
 
 namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
 using render::FitTrend;
-using render::PathItem;
-using render::Point;
-using render::Rect;
-using render::Role;
 using render::TrendKind;
-using S = std::string;
-using Texts = std::vector<S>;
-using Numbers = std::vector<double>;
 
-const S kZeroToTen = "<c:scaling><c:max val=\"10\"/><c:min val=\"0\"/></c:scaling>";
+const S kZeroToTen = ScalingXml("0", "10");
 
 /// Error bars of a kind with an amount.
 S ErrorBarsXml(const S& kind, const S& amount, const S& more = "", const S& ends = "both") {
   return "<c:errBars>" + (more.find("errDir") == S::npos ? "<c:errDir val=\"y\"/>" : S()) +
          "<c:errBarType val=\"" + ends + "\"/><c:errValType val=\"" + kind + "\"/>" + more + "<c:val val=\"" +
          amount + "\"/></c:errBars>";
-}
-
-S AmountsXml(const S& element, const Numbers& amounts) {
-  S points;
-  for (std::size_t i = 0; i < amounts.size(); ++i) {
-    points +=
-        "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + xlsx::xml::Number(amounts[i]) + "</c:v></c:pt>";
-  }
-  return "<c:" + element + "><c:numLit><c:ptCount val=\"" + std::to_string(amounts.size()) + "\"/>" + points +
-         "</c:numLit></c:" + element + ">";
 }
 
 S TrendXml(const S& type, const S& more = "") {
@@ -62,7 +43,7 @@ class AnalysisTest : public DrawingTest {
 
 TEST_F(AnalysisTest, ErrorBarsReachAsFarAsTheirAmounts) {
   using Ends = std::vector<std::pair<double, double>>;
-  const S custom = AmountsXml("plus", {1, 2, 3}) + AmountsXml("minus", {0.5, 1, kNoValue});
+  const S custom = NumbersXml("plus", {1, 2, 3}) + NumbersXml("minus", {0.5, 1, kNoValue});
   struct {
     const char* what;
     S bars;
@@ -74,7 +55,7 @@ TEST_F(AnalysisTest, ErrorBarsReachAsFarAsTheirAmounts) {
       {"percentage", ErrorBarsXml("percentage", "50"), {{3, 1}, {6, 2}, {9, 3}}},
       {"custom", ErrorBarsXml("cust", "0", custom), {{3, 1.5}, {6, 3}, {9, 6}}},
       {"one custom amount for all",
-       ErrorBarsXml("cust", "0", AmountsXml("plus", {1}) + AmountsXml("minus", {2})),
+       ErrorBarsXml("cust", "0", NumbersXml("plus", {1}) + NumbersXml("minus", {2})),
        {{3, 0}, {5, 2}, {7, 4}}},
       // The mean is 4, and the standard deviation of the sample is 2.
       {"standard deviation about the mean", ErrorBarsXml("stdDev", "1"), {{6, 2}, {6, 2}, {6, 2}}},
@@ -112,10 +93,8 @@ TEST_F(AnalysisTest, ErrorBarsHaveTheirPlaceLineAndCaps) {
 
 TEST_F(AnalysisTest, ErrorBarsOfScatterChartsGoBothWays) {
   const S bars = ErrorBarsXml("fixedVal", "1") + ErrorBarsXml("fixedVal", "2", "<c:errDir val=\"x\"/>");
-  const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>" + bars + AmountsXml("xVal", {5}) +
-                   AmountsXml("yVal", {4}) + "</c:ser>";
-  S axes = AxesXml(kZeroToTen, kZeroToTen);
-  for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "valAx");
+  const S series = PointsXml(0, {5}, {4}, bars);
+  const S axes = ValueAxesXml(kZeroToTen, kZeroToTen);
   const Drawing drawing = Draw(PlotXml(GroupXml("scatterChart", "", series) + axes));
   const Rect plot = BoxOf(drawing, Role::kPlotArea);
   const auto boxes = BoxesOf(drawing, Role::kErrorBar);
@@ -293,8 +272,7 @@ TEST_F(AnalysisTest, UpDownBarsGoFromTheFirstSeriesToTheLast) {
       "<c:upDownBars><c:gapWidth val=\"100\"/><c:upBars/><c:downBars><c:spPr><a:solidFill>"
       "<a:srgbClr val=\"C00000\"/></a:solidFill></c:spPr></c:downBars></c:upDownBars>";
   const Drawing drawing = Draw(PlotXml(
-      GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
-               SeriesXml(0, {2, 8, 5}) + SeriesXml(1, {9, 9, 9}) + SeriesXml(2, {6, 3, kNoValue}), bars) +
+      LinesXml(SeriesXml(0, {2, 8, 5}) + SeriesXml(1, {9, 9, 9}) + SeriesXml(2, {6, 3, kNoValue}), bars) +
       AxesXml("", kZeroToTen)));
   EXPECT_EQ(notes_, render::Notes());
   EXPECT_EQ(EndsOf(drawing, Role::kUpDownBar), (std::vector<std::pair<double, double>>{{6, 2}, {8, 3}}));
@@ -307,20 +285,9 @@ TEST_F(AnalysisTest, UpDownBarsGoFromTheFirstSeriesToTheLast) {
   EXPECT_NEAR(BoundsOf(items[1]).Center().x, plot.Center().x, 1e-9);
 }
 
-TEST_F(AnalysisTest, ManyTrendlinesThroughManyPointsAreLimited) {
-  S trends;
-  for (int i = 0; i < 400; ++i) trends += TrendXml("movingAvg", "<c:period val=\"100\"/>");
-  const Drawing drawing = DrawColumns(Numbers(5000, 1), trends, "");
-  const std::size_t drawn = ItemsOf(drawing, Role::kTrendline).size();
-  EXPECT_EQ(drawn, 72u);  // 4,000,000 points of fits, of which each line takes 55,100
-  EXPECT_EQ(notes_,
-            (render::Notes{"The chart has more trendlines through many points than are drawn; the rest is "
-                           "left out."}));
-}
-
 TEST_F(AnalysisTest, ErrorBarsOfSharesAreShares) {
   const S first = "<c:barDir val=\"col\"/><c:grouping val=\"percentStacked\"/><c:overlap val=\"100\"/>";
-  const S toOne = "<c:scaling><c:max val=\"1\"/><c:min val=\"0\"/></c:scaling>";
+  const S toOne = ScalingXml("0", "1");
   const Drawing drawing = DrawGroup(
       "barChart", first, SeriesXml(0, {2, 3}, ErrorBarsXml("fixedVal", "1")) + SeriesXml(1, {2, 2}), toOne);
   // wholes of 4 and 5, in tenths of the axis
@@ -328,16 +295,16 @@ TEST_F(AnalysisTest, ErrorBarsOfSharesAreShares) {
 }
 
 TEST_F(AnalysisTest, DatesGoOnForTrendlines) {
-  S axes = AxesXml();
-  for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "dateAx");
-  const S trend = TrendXml("linear", "<c:forward val=\"4\"/>");
-  const S series = SeriesXml(0, {1, 2, 3}, trend, "", AmountsXml("cat", {45000, 45001, 45002}));
-  const Drawing drawing = Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>", series) + axes));
+  const S axes = DateAxesXml();
+  const S trend = TrendXml("linear", "<c:forward val=\"4\"/><c:dispEq val=\"1\"/>");
+  const S series = SeriesXml(0, {1, 2, 3}, trend, "", NumbersXml("cat", {45000, 45001, 45002}));
+  const Drawing drawing = Draw(PlotXml(ColumnsXml(series) + axes));
   // seven days, of which the last one is the end of the line
   const Rect plot = BoxOf(drawing, Role::kPlotArea), line = BoxOf(drawing, Role::kTrendline);
   EXPECT_NEAR(BoxesOf(drawing, Role::kBar)[0].Center().x, plot.left + plot.width / 14, 1e-6);
   EXPECT_NEAR(line.Right(), plot.Right() - plot.width / 14, 1e-6);
   EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2).back(), "8");
+  EXPECT_EQ(TextsOf(drawing, Role::kTrendlineLabel), Texts{"y = x - 44999"});
 }
 
 TEST_F(AnalysisTest, DatesBeginEarlierForTrendlines) {
@@ -482,20 +449,66 @@ TEST_F(AnalysisTest, CurvesKeepTheirSlopeWhereTheyLeaveThePlotArea) {
     EXPECT_NEAR((plot.Bottom() - step.to.y) / plot.height * 10, std::pow(1000, x - 1), 1e-6);
   }
   EXPECT_NEAR(steps.back().to.y, plot.top - 20, 1e-6);  // where the last of it may be seen
-  // a line that crosses the plot area between two samples
-  const Drawing steep = DrawColumns({-1e9, 1e9}, TrendXml("linear"));
-  const Rect line = BoxOf(steep, Role::kTrendline);
-  EXPECT_NEAR(line.Center().x, plot.Center().x, 1);
-  EXPECT_NEAR(line.height, BoxOf(steep, Role::kPlotArea).height + 40, 0.1);
+}
+
+TEST_F(AnalysisTest, SteepLinesCrossThePlotAreaWhereTheyPassItsValues) {
+  struct {
+    Numbers values;
+    double place;  // the number of the category, from 1, at which the line passes 0; 0 without a line
+  } const kCases[] = {{{-1e9, 1e9}, 1.5},     {{1e9, -1e9}, 1.5}, {{-1e9, 2e9}, 4.0 / 3},
+                      {{2e9, -1e9}, 5.0 / 3}, {{1e9, 3e9}, 0},    {{-3e9, -1e9}, 0}};
+  for (const auto& test : kCases) {
+    const Drawing drawing = DrawColumns(test.values, TrendXml("linear"));
+    const Rect plot = BoxOf(drawing, Role::kPlotArea), line = BoxOf(drawing, Role::kTrendline);
+    EXPECT_EQ(ItemsOf(drawing, Role::kTrendline).size(), test.place == 0 ? 0u : 1u) << test.place;
+    EXPECT_EQ(notes_.size(), test.place == 0 ? 1u : 0u) << test.place;
+    if (test.place == 0) continue;
+    EXPECT_NEAR(line.Center().x, plot.left + plot.width / 2 * (test.place - 0.5), 1e-3) << test.place;
+    EXPECT_NEAR(line.top, plot.top - 20, 0.1) << test.place;
+    EXPECT_NEAR(line.Bottom(), plot.Bottom() + 20, 0.1) << test.place;
+  }
+}
+
+TEST_F(AnalysisTest, LabelsOfTrendlinesAreAtTheirEndOrWhereTheirLayoutSays) {
+  const auto draw = [&](const S& mode, const S& x, const S& y) {
+    const S layout = mode.empty() ? ""
+                                  : "<c:layout><c:manualLayout><c:xMode val=\"" + mode +
+                                        "\"/><c:yMode val=\"" + mode + "\"/><c:x val=\"" + x +
+                                        "\"/><c:y val=\"" + y + "\"/></c:manualLayout></c:layout>";
+    return DrawColumns({2, 4},
+                       TrendXml("linear", "<c:dispEq val=\"1\"/><c:trendlineLbl>" + layout + "<c:spPr>" +
+                                              SolidXml("FFFFCC") + "</c:spPr></c:trendlineLbl>"));
+  };
+  const auto frameOf = [](const Drawing& drawing) {
+    return BoundsOf(ItemsOf(drawing, Role::kTrendlineLabel)[0]);
+  };
+  const Drawing usual = draw("", "", "");
+  const Rect own = frameOf(usual), line = BoxOf(usual, Role::kTrendline);
+  EXPECT_NEAR(own.Right(), line.Right(), 1e-6);
+  EXPECT_NEAR(own.Bottom(), line.top - 4, 1e-6);
+  EXPECT_EQ(TextsOf(usual, Role::kTrendlineLabel), Texts{"y = 2x"});
+  struct {
+    S mode, x, y;
+    double left, top;
+  } const kCases[] = {
+      {"edge", "0.25", "0.5", 96, 135},
+      {"factor", "-0.25", "0.1", own.left - 96, own.top + 27},
+      {"edge", "9", "9", 384 - own.width, 270 - own.height},
+      {"edge", "-9", "-9", 0, 0},
+  };
+  for (const auto& test : kCases) {
+    const Drawing drawing = draw(test.mode, test.x, test.y);
+    const Rect frame = frameOf(drawing);
+    EXPECT_NEAR(frame.left, test.left, 1e-6) << test.mode << test.x;
+    EXPECT_NEAR(frame.top, test.top, 1e-6) << test.mode << test.y;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << test.mode << test.x;
+  }
 }
 
 TEST_F(AnalysisTest, CurvesAreSampledBetweenTheEndsOfTheirAxis) {
   const auto draw = [&](const S& kind, const S& x, const Numbers& values) {
-    const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>" +
-                     TrendXml(kind, "<c:backward val=\"9\"/>") + AmountsXml("xVal", {1, 10, 100'000}) +
-                     AmountsXml("yVal", values) + "</c:ser>";
-    S axes = AxesXml(x, kZeroToTen);
-    for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "valAx");
+    const S series = PointsXml(0, {1, 10, 100'000}, values, TrendXml(kind, "<c:backward val=\"9\"/>"));
+    const S axes = ValueAxesXml(x, kZeroToTen);
     return Draw(PlotXml(GroupXml("scatterChart", "", series) + axes));
   };
   for (const char* kind : {"linear", "log", "power"}) {
@@ -507,7 +520,7 @@ TEST_F(AnalysisTest, CurvesAreSampledBetweenTheEndsOfTheirAxis) {
     EXPECT_NEAR(BoundsOf(items[0]).Right(), BoxOf(drawing, Role::kPlotArea).Right(), 1e-6) << kind;
     EXPECT_EQ(notes_, render::Notes()) << kind;
   }
-  const S beyond = "<c:scaling><c:max val=\"300000\"/><c:min val=\"200000\"/></c:scaling>";
+  const S beyond = ScalingXml("200000", "300000");
   EXPECT_TRUE(ItemsOf(draw("linear", beyond, {1, 2, 6}), Role::kTrendline).empty());
   EXPECT_EQ(notes_,
             (render::Notes{"A trendline isn't drawn because fewer than two of its points are on the axes."}));
@@ -561,12 +574,11 @@ TEST_F(AnalysisTest, TheLimitOfTrendlinesEndsNothingElse) {
   for (int i = 0; i < 400; ++i) trends += TrendXml("movingAvg", "<c:period val=\"100\"/>");
   const S bars = "<c:upDownBars><c:upBars/><c:downBars/></c:upDownBars>";
   const S later = TrendXml("linear") + ErrorBarsXml("fixedVal", "1");
-  const Drawing drawing =
-      Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>",
-                            SeriesXml(0, Numbers(5000, 1), trends) + SeriesXml(1, Numbers(1000, 2), trends)) +
-                   GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
-                            SeriesXml(2, {1, 2}, later) + SeriesXml(3, {3, 4}), bars) +
-                   AxesXml()));
+  const Drawing drawing = Draw(
+      PlotXml(ColumnsXml(SeriesXml(0, Numbers(5000, 1), trends) + SeriesXml(1, Numbers(1000, 2), trends)) +
+              LinesXml(SeriesXml(2, {1, 2}, later) + SeriesXml(3, {3, 4}), bars) + AxesXml()));
+  // 4,000,000 points of fits, of which each line of the first series takes 55,100
+  EXPECT_EQ(ItemsOf(drawing, Role::kTrendline, 1).size(), 72u);
   EXPECT_EQ(ItemsOf(drawing, Role::kErrorBar).size(), 2u);
   EXPECT_EQ(ItemsOf(drawing, Role::kUpDownBar).size(), 2u);
   EXPECT_EQ(notes_,

@@ -1,23 +1,17 @@
 #include <set>
 
 #include "tests/render/DrawingTest.h"
-#include "xlsx/package/Xml.h"
 
 namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
-using render::Rect;
-using render::Role;
-using S = std::string;
-using Texts = std::vector<S>;
 
 class AxesTest : public DrawingTest {
  protected:
   /// Draws a clustered column or bar chart with one series.
-  Drawing DrawWith(const std::vector<double>& values, const S& value, const S& category = "",
-                   const Texts& names = {}, bool horizontal = false, double width = 384) {
+  Drawing DrawWith(const Numbers& values, const S& value, const S& category = "", const Texts& names = {},
+                   bool horizontal = false, double width = 384) {
     const S first =
         S("<c:barDir val=\"") + (horizontal ? "bar" : "col") + "\"/><c:grouping val=\"clustered\"/>";
     const S categories = names.empty() ? "" : CategoriesXml(names);
@@ -30,19 +24,18 @@ class AxesTest : public DrawingTest {
 TEST_F(AxesTest, AxesOfValuesShowTheirMajorUnits) {
   struct {
     const char* what;
-    std::vector<double> values;
+    Numbers values;
     S axis;
     Texts labels;
   } cases[] = {
       {"a plain axis", {7, 42, 18}, "", {"0", "5", "10", "15", "20", "25", "30", "35", "40", "45"}},
       {"limits and a unit by hand",
        {7, 42},
-       "<c:scaling><c:max val=\"60\"/><c:min val=\"-20\"/></c:scaling><c:majorUnit val=\"40\"/>",
+       ScalingXml("-20", "60") + "<c:majorUnit val=\"40\"/>",
        {"-20", "20", "60"}},
       {"a number format",
        {0.25, 1},
-       "<c:scaling><c:max val=\"1\"/><c:min val=\"0\"/></c:scaling><c:numFmt formatCode=\"0.0%\" "
-       "sourceLinked=\"0\"/><c:majorUnit val=\"0.5\"/>",
+       ScalingXml("0", "1") + "<c:numFmt formatCode=\"0.0%\" sourceLinked=\"0\"/><c:majorUnit val=\"0.5\"/>",
        {"0.0%", "50.0%", "100.0%"}},
       {"powers of ten",
        {3, 1200},
@@ -52,6 +45,8 @@ TEST_F(AxesTest, AxesOfValuesShowTheirMajorUnits) {
        {1000, 4000},
        "<c:majorUnit val=\"2000\"/><c:dispUnits><c:builtInUnit val=\"thousands\"/></c:dispUnits>",
        {"0", "2", "4", "6"}},
+      {"limits that are the same", {7}, ScalingXml("5", "5") + "<c:majorUnit val=\"2\"/>", {"5", "7", "9"}},
+      {"limits in the wrong order", {7}, ScalingXml("5", "3") + "<c:majorUnit val=\"2\"/>", {"5", "7", "9"}},
       {"a unit too small for its labels",
        {1000},
        "<c:majorUnit val=\"0\"/>",
@@ -65,59 +60,28 @@ TEST_F(AxesTest, AxesOfValuesShowTheirMajorUnits) {
 }
 
 TEST_F(AxesTest, StacksAreScaledByTheirEnds) {
+  const auto grouped = [](const S& name) { return "<c:grouping val=\"" + name + "\"/>"; };
+  const S shares = grouped("percentStacked"), sums = grouped("stacked");
   struct {
-    const char *what, *element, *first;
-    std::vector<double> one, two;
+    const char *what, *element;
+    S first;
+    Numbers one, two;
     Texts labels;
   } cases[] = {
-      {"shares of bars on both sides",
-       "barChart",
-       "<c:barDir val=\"col\"/><c:grouping val=\"percentStacked\"/>",
-       {3, 1},
-       {-1, 1},
-       {"-100%", "-50%", "0%", "50%", "100%"}},
-      {"shares of areas on both sides",
-       "areaChart",
-       "<c:grouping val=\"percentStacked\"/>",
-       {3, 1},
-       {-1, 1},
-       {"-100%", "-50%", "0%", "50%", "100%"}},
-      {"shares below zero",
-       "barChart",
-       "<c:barDir val=\"col\"/><c:grouping val=\"percentStacked\"/>",
-       {-3, -1},
-       {-1, -1},
-       {"-100%", "-50%", "0%"}},
-      {"bars below zero go down",
-       "barChart",
-       "<c:barDir val=\"col\"/><c:grouping val=\"stacked\"/>",
-       {30, 10},
-       {-10, 0},
-       {"-20", "0", "20", "40"}},
-      {"areas are sums", "areaChart", "<c:grouping val=\"stacked\"/>", {30, 10}, {-10, 0}, {"0", "20", "40"}},
-      {"lines are sums", "lineChart", "<c:grouping val=\"stacked\"/>", {30, 10}, {-10, 0}, {"0", "20", "40"}},
+      {"bars on both sides", "barChart", shares, {3, 1}, {-1, 1}, {"-100%", "-50%", "0%", "50%", "100%"}},
+      {"areas on both sides", "areaChart", shares, {3, 1}, {-1, 1}, {"-100%", "-50%", "0%", "50%", "100%"}},
+      {"shares below zero", "barChart", shares, {-3, -1}, {-1, -1}, {"-100%", "-50%", "0%"}},
+      {"bars below zero go down", "barChart", sums, {30, 10}, {-10, 0}, {"-20", "0", "20", "40"}},
+      {"areas are sums", "areaChart", sums, {30, 10}, {-10, 0}, {"0", "20", "40"}},
+      {"lines are sums", "lineChart", sums, {30, 10}, {-10, 0}, {"0", "20", "40"}},
   };
   for (const auto& test : cases) {
-    const S unit = S(test.first).find("percent") == S::npos ? "20" : "0.5";
+    const S unit = test.first == shares ? "0.5" : "20";
     const Drawing drawing =
         Draw(PlotXml(GroupXml(test.element, test.first, SeriesXml(0, test.one) + SeriesXml(1, test.two)) +
                      AxesXml("", "<c:majorUnit val=\"" + unit + "\"/>")));
     EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), test.labels) << test.what;
   }
-}
-
-/// c:cat of several levels; each point is its index with its text, as 0=North.
-S LevelsXml(int count, const std::vector<std::vector<std::pair<int, S>>>& levels) {
-  S xml = "<c:cat><c:multiLvlStrRef><c:f>Sheet1!$A$1:$B$4</c:f><c:multiLvlStrCache><c:ptCount val=\"" +
-          std::to_string(count) + "\"/>";
-  for (const auto& level : levels) {
-    xml += "<c:lvl>";
-    for (const auto& [index, text] : level) {
-      xml += "<c:pt idx=\"" + std::to_string(index) + "\"><c:v>" + text + "</c:v></c:pt>";
-    }
-    xml += "</c:lvl>";
-  }
-  return xml + "</c:multiLvlStrCache></c:multiLvlStrRef></c:cat>";
 }
 
 TEST_F(AxesTest, TextsOfLevelsAreRepeatedWithinBounds) {
@@ -230,9 +194,7 @@ TEST_F(AxesTest, AnAxisIsAtItsCrossing) {
       {"labels at the low end", "<c:tickLblPos val=\"low\"/>", "", 1.0 / 3, true},
   };
   for (const auto& test : cases) {
-    const Drawing drawing =
-        DrawWith({-5, 15}, "<c:scaling><c:max val=\"20\"/><c:min val=\"-10\"/></c:scaling>" + test.value,
-                 test.category);
+    const Drawing drawing = DrawWith({-5, 15}, ScalingXml("-10", "20") + test.value, test.category);
     const Rect plot = BoxOf(drawing, Role::kPlotArea);
     EXPECT_NEAR(BoxOf(drawing, Role::kAxisLine, 1).top, plot.Bottom() - plot.height * test.share, 1e-6)
         << test.what;
@@ -251,7 +213,7 @@ TEST_F(AxesTest, AnAxisIsAtItsCrossing) {
 }
 
 TEST_F(AxesTest, AreasAndDropLinesEndAtTheCategoryAxisUnlessTheyAreStacked) {
-  const S scaling = "<c:scaling><c:max val=\"20\"/><c:min val=\"0\"/></c:scaling>";
+  const S scaling = ScalingXml("0", "20");
   struct {
     const char* what;
     S group, grouping, last;
@@ -276,10 +238,9 @@ TEST_F(AxesTest, AreasAndDropLinesEndAtTheCategoryAxisUnlessTheyAreStacked) {
 }
 
 TEST_F(AxesTest, LabelsOfBarsBelowTheirAxisAreBelowThem) {
-  const Drawing drawing = Draw(PlotXml(
-      GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>",
-               SeriesXml(0, {2, 15}, "<c:dLbls><c:showVal val=\"1\"/></c:dLbls>")) +
-      AxesXml("<c:crossesAt val=\"5\"/>", "<c:scaling><c:max val=\"20\"/><c:min val=\"-5\"/></c:scaling>")));
+  const Drawing drawing =
+      Draw(PlotXml(ColumnsXml(SeriesXml(0, {2, 15}, "<c:dLbls><c:showVal val=\"1\"/></c:dLbls>")) +
+                   AxesXml("<c:crossesAt val=\"5\"/>", ScalingXml("-5", "20"))));
   const auto bars = BoxesOf(drawing, Role::kBar), labels = BoxesOf(drawing, Role::kDataLabel);
   ASSERT_EQ(labels.size(), 2u);
   EXPECT_GE(labels[0].top, bars[0].Bottom());
@@ -302,14 +263,14 @@ TEST_P(CategoryLabelsTest, AreWrappedTurnedOrSkippedUntilNoneTouchesAnother) {
   const LabelCase& test = GetParam();
   Texts names;
   for (std::size_t i = 0; i < test.count; ++i) names.push_back(test.text + std::to_string(i + 1));
-  const Drawing drawing = DrawWith(std::vector<double>(test.count, 5), "", test.axis, names);
+  const Drawing drawing = DrawWith(Numbers(test.count, 5), "", test.axis, names);
   EXPECT_EQ(DrawingComplaints(drawing), "");
   const auto labels = ItemsOf(drawing, Role::kTickLabel, 1);
   ASSERT_FALSE(labels.empty());
   std::set<int> numbers;
   for (const auto& label : labels) {
     numbers.insert(label.tag.point);
-    EXPECT_EQ(std::get<render::TextItem>(label.content).rotation, test.rotation);
+    EXPECT_EQ(std::get<TextItem>(label.content).rotation, test.rotation);
   }
   EXPECT_EQ(numbers.size() == test.count, test.all) << numbers.size();
   EXPECT_TRUE(numbers.contains(1));
@@ -336,7 +297,7 @@ TEST_F(AxesTest, DatesAreAtTheirDayMonthOrYear) {
   struct {
     const char* what;
     S axis;
-    std::vector<double> serials, slots;  // 45292 is 1 January 2024
+    Numbers serials, slots;  // 45292 is 1 January 2024
     Texts labels;
   } cases[] = {
       {"days", "", {45292, 45293, 45296}, {0, 1, 4}, {"1-1", "1-2", "1-3", "1-4", "1-5"}},
@@ -359,20 +320,12 @@ TEST_F(AxesTest, DatesAreAtTheirDayMonthOrYear) {
       {"no dates", "", {1, 1e9}, {}, {"1-1", "########"}},
   };
   for (const auto& test : cases) {
-    S cache, values;
-    for (std::size_t i = 0; i < test.serials.size(); ++i) {
-      cache += "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + xlsx::xml::Number(test.serials[i]) +
-               "</c:v></c:pt>";
-    }
-    const S categories = "<c:cat><c:numLit><c:formatCode>m-d</c:formatCode><c:ptCount val=\"" +
-                         std::to_string(test.serials.size()) + "\"/>" + cache + "</c:numLit></c:cat>";
-    S axes = AxesXml("<c:numFmt formatCode=\"m-d\" sourceLinked=\"0\"/>" + test.axis);
-    for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "dateAx");
-    const Drawing drawing =
-        Draw(PlotXml(GroupXml("lineChart", "",
-                              SeriesXml(0, std::vector<double>(test.serials.size(), 2), "", "", categories),
-                              "<c:marker val=\"1\"/>") +
-                     axes));
+    const S axes = DateAxesXml("<c:numFmt formatCode=\"m-d\" sourceLinked=\"0\"/>" + test.axis);
+    const Drawing drawing = Draw(PlotXml(GroupXml("lineChart", "",
+                                                  SeriesXml(0, Numbers(test.serials.size(), 2), "", "",
+                                                            NumbersXml("cat", test.serials, "m-d")),
+                                                  "<c:marker val=\"1\"/>") +
+                                         axes));
     EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), test.labels) << test.what;
     EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
     const Rect plot = BoxOf(drawing, Role::kPlotArea);
@@ -385,26 +338,20 @@ TEST_F(AxesTest, DatesAreAtTheirDayMonthOrYear) {
 }
 
 TEST_F(AxesTest, LinesAndAreasGoFromDateToDate) {
-  const S dates =
-      "<c:cat><c:numLit><c:formatCode>m-d</c:formatCode><c:ptCount val=\"3\"/><c:pt "
-      "idx=\"0\"><c:v>45292</c:v>"
-      "</c:pt><c:pt idx=\"1\"><c:v>45296</c:v></c:pt><c:pt "
-      "idx=\"2\"><c:v>45294</c:v></c:pt></c:numLit></c:cat>";
+  const S dates = NumbersXml("cat", {45292, 45296, 45294}, "m-d");
   struct {
     const char* group;
     Role role;
     bool hasDates;
-    std::vector<double> places;  // As shares of the distance from the first to the last point.
+    Numbers places;  // As shares of the distance from the first to the last point.
   } cases[] = {{"lineChart", Role::kLine, true, {0, 0.5, 1}},
                {"areaChart", Role::kArea, true, {0, 0.5, 1}},
                {"lineChart", Role::kLine, false, {0, 0.5, 1}}};
   for (const auto& test : cases) {
-    S axes = AxesXml();
-    for (std::size_t at; test.hasDates && (at = axes.find("catAx")) != S::npos;)
-      axes.replace(at, 5, "dateAx");
+    const S axes = test.hasDates ? DateAxesXml() : AxesXml();
     const Drawing drawing =
         Draw(PlotXml(GroupXml(test.group, "", SeriesXml(0, {1, 3, 2}, "", "", dates)) + axes));
-    const auto steps = std::get<render::PathItem>(ItemsOf(drawing, test.role)[0].content).path.Steps();
+    const auto steps = std::get<PathItem>(ItemsOf(drawing, test.role)[0].content).path.Steps();
     ASSERT_GE(steps.size(), 3u);
     for (std::size_t i = 0; i < 3; ++i) {
       const double way = steps[2].to.x - steps[0].to.x;
@@ -423,6 +370,16 @@ TEST_F(AxesTest, LongNamesBesideBarsLeaveRoomForThem) {
   EXPECT_EQ(DrawingComplaints(drawing), "");
 }
 
+TEST_F(AxesTest, TurnedNamesBesideBarsAreNeitherWrappedNorShortened) {
+  const S name = "A name that goes on and on until little is left of the chart";
+  for (const S rotation : {"2700000", "-2700000"}) {
+    const S turned =
+        "<c:txPr><a:bodyPr rot=\"" + rotation + "\"/><a:p><a:pPr><a:defRPr/></a:pPr></a:p></c:txPr>";
+    const Drawing drawing = DrawWith({3, 5}, "", turned, {name, "B"}, true);
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), (Texts{name, "B"})) << rotation;
+  }
+}
+
 TEST_F(AxesTest, LabelsOfSeveralLinesBesideBarsAreSkippedByTheirHeight) {
   struct {
     const char* what;
@@ -439,7 +396,7 @@ TEST_F(AxesTest, LabelsOfSeveralLinesBesideBarsAreSkippedByTheirHeight) {
   for (const auto& test : cases) {
     Texts names;
     for (std::size_t i = 0; i < test.count; ++i) names.push_back(test.text + std::to_string(i + 1));
-    const Drawing drawing = DrawWith(std::vector<double>(test.count, 5), "", "", names, true);
+    const Drawing drawing = DrawWith(Numbers(test.count, 5), "", "", names, true);
     std::set<int> numbers;
     for (const auto& label : ItemsOf(drawing, Role::kTickLabel, 1)) numbers.insert(label.tag.point);
     EXPECT_EQ(numbers.size() == test.count, test.all) << test.what << numbers.size();
@@ -459,7 +416,7 @@ TEST_F(AxesTest, TitlesAreOutsideOfTheLabels) {
       title("Quarter"));
   EXPECT_EQ(DrawingComplaints(drawing), "");
   EXPECT_EQ(TextsOf(drawing, Role::kAxisTitle, 2), Texts{"Sales"});
-  EXPECT_EQ(std::get<render::TextItem>(ItemsOf(drawing, Role::kAxisTitle, 2)[0].content).rotation, -90);
+  EXPECT_EQ(std::get<TextItem>(ItemsOf(drawing, Role::kAxisTitle, 2)[0].content).rotation, -90);
   EXPECT_LT(BoxOf(drawing, Role::kAxisTitle, 2).Right(), BoxOf(drawing, Role::kTickLabel, 2).left);
   EXPECT_EQ(TextsOf(drawing, Role::kDisplayUnits), Texts{"Thousands"});
   EXPECT_LT(BoxOf(drawing, Role::kTickLabel, 1).Bottom(), BoxOf(drawing, Role::kAxisTitle, 1).top);
@@ -467,7 +424,7 @@ TEST_F(AxesTest, TitlesAreOutsideOfTheLabels) {
               0.5);
   // The title was set to horizontal by hand.
   const Drawing flat = DrawWith({1, 2}, title("Sales", "<a:bodyPr rot=\"0\" vert=\"horz\"/>"));
-  EXPECT_EQ(std::get<render::TextItem>(ItemsOf(flat, Role::kAxisTitle, 2)[0].content).rotation, 0);
+  EXPECT_EQ(std::get<TextItem>(ItemsOf(flat, Role::kAxisTitle, 2)[0].content).rotation, 0);
 }
 
 }  // namespace

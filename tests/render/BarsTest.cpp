@@ -7,22 +7,16 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
-using render::Rect;
-using render::Role;
-using S = std::string;
 
 /// The bars for the values of three categories.
 struct BarCase {
-  const char* name;
-  const char* direction;
-  const char* grouping;
+  const char *name, *direction, *grouping;
   S valueAxis;
 };
 
 class BarsTest : public DrawingTest, public ::testing::WithParamInterface<BarCase> {
  protected:
-  Drawing DrawCase(const std::vector<std::vector<double>>& values) {
+  Drawing DrawCase(const std::vector<Numbers>& values) {
     const BarCase& test = GetParam();
     S series;
     for (std::size_t s = 0; s < values.size(); ++s) series += SeriesXml(static_cast<int>(s), values[s]);
@@ -40,7 +34,7 @@ class BarsTest : public DrawingTest, public ::testing::WithParamInterface<BarCas
 };
 
 TEST_P(BarsTest, AreAsLongAsTheirValues) {
-  const std::vector<std::vector<double>> values = {{10, 25, 0.5}, {30, 5, 12}};
+  const std::vector<Numbers> values = {{10, 25, 0.5}, {30, 5, 12}};
   const Drawing drawing = DrawCase(values);
   EXPECT_EQ(DrawingComplaints(drawing), "");
   const bool percent = S(GetParam().grouping) == "percentStacked";
@@ -98,11 +92,10 @@ TEST_P(BarsTest, NegativeBarsExtendInTheOtherDirection) {
 
 TEST_F(DrawingTest, BarsOverlapOrHaveGapsByAShareOfTheirWidth) {
   for (const double overlap : {-100, -50, 0, 40, 100}) {
-    const Drawing drawing = Draw(
-        PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>",
-                         SeriesXml(0, {4, 2}) + SeriesXml(1, {1, 3}),
-                         "<c:gapWidth val=\"100\"/><c:overlap val=\"" + xlsx::xml::Number(overlap) + "\"/>") +
-                AxesXml()));
+    const Drawing drawing = Draw(PlotXml(
+        ColumnsXml(SeriesXml(0, {4, 2}) + SeriesXml(1, {1, 3}),
+                   "<c:gapWidth val=\"100\"/><c:overlap val=\"" + xlsx::xml::Number(overlap) + "\"/>") +
+        AxesXml()));
     const Rect first = BoxesOf(drawing, Role::kBar, 1)[0], second = BoxesOf(drawing, Role::kBar, 2)[0];
     EXPECT_NEAR((first.Right() - second.left) / first.width, overlap / 100, 1e-6) << overlap;
     const double category = BoxOf(drawing, Role::kPlotArea).width / 2;
@@ -126,7 +119,7 @@ TEST_F(DrawingTest, BarsBelowZeroAreInvertedIfTheFileSaysSo) {
   struct {
     const char* what;
     S group, series, behind;
-    std::vector<S> fills;  // The fillings for the values 4, -3 and -1.
+    Texts fills;  // The fillings for the values 4, -3 and -1.
   } cases[] = {
       {"as it is", "", solid("FF0000") + keep, "", {"#FF0000", "#FF0000", "#FF0000"}},
       {"white", "", solid("FF0000") + invert, "", {"#FF0000", "#FFFFFF", "#FFFFFF"}},
@@ -156,7 +149,7 @@ TEST_F(DrawingTest, BarsBelowZeroAreInvertedIfTheFileSaysSo) {
                        AxesXml()));
       std::map<int, S> fills;  // By point. The front face of a 3-D bar is painted last.
       for (const auto& item : ItemsOf(drawing, Role::kBar)) fills[item.tag.point] = FillOf(item);
-      std::vector<S> found;
+      Texts found;
       for (const auto& [number, fill] : fills) found.push_back(fill);
       EXPECT_EQ(found, test.fills) << test.what << " of a " << kind;
     }
@@ -168,12 +161,12 @@ TEST_F(DrawingTest, PatternsAreInvertedByTheirColors) {
       "<c:spPr><a:pattFill prst=\"pct50\"><a:fgClr><a:srgbClr val=\"FF0000\"/></a:fgClr><a:bgClr><a:srgbClr "
       "val=\"00FF00\"/></a:bgClr></a:pattFill></c:spPr><c:invertIfNegative val=\"1\"/>";
   const Drawing drawing = Draw(PlotXml(GroupXml("barChart", "", SeriesXml(0, {4, -3}, pattern)) + AxesXml()));
-  std::vector<S> foregrounds;
+  Texts foregrounds;
   for (const auto& item : ItemsOf(drawing, Role::kBar)) {
-    const auto& fill = std::get<render::PathItem>(item.content).fill;
+    const auto& fill = std::get<PathItem>(item.content).fill;
     foregrounds.push_back(HexOf(std::get<render::PatternFill>(fill).foreground));
   }
-  EXPECT_EQ(foregrounds, (std::vector<S>{"#FF0000", "#00FF00"}));
+  EXPECT_EQ(foregrounds, (Texts{"#FF0000", "#00FF00"}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, BarsTest,

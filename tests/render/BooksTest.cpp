@@ -4,7 +4,6 @@
 #include <set>
 
 #include "render/svg/SvgWriter.h"
-#include "runtime/RuntimeError.h"
 #include "tests/render/DrawingTest.h"
 #include "tests/support/Paths.h"
 #include "xlsx/chart/part/ChartPart.h"
@@ -15,7 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using namespace test;
-using S = std::string;
 
 /// A typical size of the charts in these workbooks, for which positions (in fractions) and fonts (in points)
 /// fit together.
@@ -34,8 +32,7 @@ class BooksTest : public DrawingTest {
       const bool isChart = part.find("/charts/chart") != S::npos && part.ends_with(".xml");
       if (!isChart || !Book().Chart(part)->IsReadable()) continue;
       render::Notes notes;
-      const render::Drawing drawing =
-          render::DrawChart(*Book().Chart(part), kWidth, kHeight, SharedFonts(), notes);
+      const Drawing drawing = render::DrawChart(*Book().Chart(part), kWidth, kHeight, SharedFonts(), notes);
       const S complaints = DrawingComplaints(drawing);
       const bool known = kLabelsOutside.contains(book.filename().string());
       EXPECT_EQ(complaints.find("TickLabel") != S::npos, known) << book << ' ' << part << ' ' << complaints;

@@ -4,24 +4,8 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
-using render::Role;
-using S = std::string;
-using Texts = std::vector<S>;
 
-class DataLabelsTest : public DrawingTest {
- protected:
-  Drawing DrawLabels(const S& element, const S& first, const S& labels,
-                     const std::vector<double>& values = {20, 80}, const S& last = "") {
-    const bool pie = element == "pieChart";
-    const S series =
-        SeriesXml(0, values, "<c:dLbls>" + labels + "</c:dLbls>", "", CategoriesXml({"North", "South"}));
-    const S group =
-        pie ? "<c:pieChart><c:varyColors val=\"1\"/>" + series + "</c:pieChart>"
-            : GroupXml(element, first, series, last) + AxesXml("", "", first.find("\"bar\"") != S::npos);
-    return Draw(PlotXml(group));
-  }
-};
+class DataLabelsTest : public DrawingTest {};
 
 S Shown(const S& which) { return "<c:" + which + " val=\"1\"/>"; }
 
@@ -45,7 +29,9 @@ TEST_F(DataLabelsTest, ShowWhatTheirSettingsSelect) {
       {"", {}},
   };
   for (const auto& test : cases) {
-    const Drawing drawing = DrawLabels("pieChart", "", test.labels);
+    const S series = SeriesXml(0, {20, 80}, "<c:dLbls>" + test.labels + "</c:dLbls>", "",
+                               CategoriesXml({"North", "South"}));
+    const Drawing drawing = Draw(PlotXml("<c:pieChart><c:varyColors val=\"1\"/>" + series + "</c:pieChart>"));
     EXPECT_EQ(TextsOf(drawing, Role::kDataLabel), test.texts) << test.labels;
     EXPECT_EQ(DrawingComplaints(drawing), "") << test.labels;
   }
@@ -73,13 +59,13 @@ PieLabelsSeen LookAt(const Drawing& drawing) {
 
 TEST_F(DataLabelsTest, OfCrowdedPiesAreMovedApartAndTiedToTheirSlices) {
   const auto values = [](std::size_t large, std::size_t small) {
-    std::vector<double> list(large, 100);
+    Numbers list(large, 100);
     list.insert(list.end(), small, 1);
     return list;
   };
   struct {
     const char *what, *element, *position;
-    std::vector<double> values;
+    Numbers values;
     std::size_t count, leaders;
     Texts notes;
   } cases[] = {

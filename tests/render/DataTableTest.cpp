@@ -4,13 +4,6 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
-using render::PathItem;
-using render::PathStep;
-using render::Rect;
-using render::Role;
-using S = std::string;
-using Texts = std::vector<S>;
 
 const S kLines = "<c:showHorzBorder val=\"1\"/><c:showVertBorder val=\"1\"/><c:showOutline val=\"1\"/>";
 
@@ -18,10 +11,9 @@ class DataTableTest : public DrawingTest {
  protected:
   Drawing DrawWithTable(const S& table, const S& series, const S& category = "", bool horizontal = false,
                         double width = 384) {
-    return Draw(
-        PlotXml(GroupXml("barChart", S("<c:barDir val=\"") + (horizontal ? "bar" : "col") + "\"/>", series) +
-                AxesXml(category, "", horizontal) + "<c:dTable>" + table + "</c:dTable>"),
-        "", width, 270);
+    return Draw(PlotXml(ColumnsXml(series, "", "clustered", horizontal ? "bar" : "col") +
+                        AxesXml(category, "", horizontal) + "<c:dTable>" + table + "</c:dTable>"),
+                "", width, 270);
   }
 };
 
@@ -81,7 +73,7 @@ TEST_F(DataTableTest, HasTheLinesKeysAndFontOfItsElement) {
     }
     EXPECT_EQ(moves, test.moves) << test.table;
     EXPECT_EQ(ItemsOf(drawing, Role::kLegendKey).size(), test.keys) << test.table;
-    const auto text = std::get<render::TextItem>(ItemsOf(drawing, Role::kTableText)[0].content);
+    const auto text = std::get<TextItem>(ItemsOf(drawing, Role::kTableText)[0].content);
     EXPECT_EQ(text.font.size, 8);
     EXPECT_TRUE(text.font.bold);
   }
@@ -91,62 +83,62 @@ TEST_F(DataTableTest, SaysWhatHasNoRoom) {
   S many;
   for (int i = 0; i < 60; ++i) many += SeriesXml(i, {1, 2});
   S wide;
-  for (int i = 0; i < 3; ++i) wide += SeriesXml(i, std::vector<double>(10'000, 1));
+  for (int i = 0; i < 3; ++i) wide += SeriesXml(i, Numbers(10'000, 1));
+  const auto without = [](const S& count) {
+    return "The data table has no room for " + count + " of its series, which are left out.";
+  };
+  const S reason = "The data table isn't drawn because ", narrow = "its columns are too narrow for a text.";
   struct {
     const char* what;
     S series;
     bool horizontal;
     double width;
     std::size_t texts;
-    render::Notes notes;
+    S note;
   } const kCases[] = {
-      {"rows",
-       many,
-       false,
-       384,
-       8 * 3,
-       {"The data table has no room for 52 of its series, which are left out."}},
-      {"columns",
-       SeriesXml(0, std::vector<double>(5000, 1)),
-       false,
-       384,
-       0,
-       {"The data table isn't drawn because its columns are too narrow for a text."}},
-      {"cells",
-       wide,
-       false,
-       200'000,
-       2 * 10'001,
-       {"The data table has no room for 1 of its series, which are left out."}},
-      {"lying bars",
-       SeriesXml(0, {1}),
-       true,
-       384,
-       0,
-       {"The data table isn't drawn because the chart has no horizontal category axis or is in 3-D."}},
+      {"rows", many, false, 384, 8 * 3, without("52")},
+      {"columns", SeriesXml(0, Numbers(5000, 1)), false, 384, 0, reason + narrow},
+      {"cells", wide, false, 200'000, 2 * 10'001, without("1")},
+      {"lying bars", SeriesXml(0, {1}), true, 384, 0,
+       reason + "the chart has no horizontal category axis or is in 3-D."},
   };
   for (const auto& test : kCases) {
     const Drawing drawing = DrawWithTable(kLines, test.series, "", test.horizontal, test.width);
     EXPECT_EQ(TextsOf(drawing, Role::kTableText).size(), test.texts) << test.what;
-    EXPECT_EQ(notes_, test.notes) << test.what;
+    EXPECT_EQ(notes_, render::Notes{test.note}) << test.what;
     EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
   }
 }
 
-TEST_F(DataTableTest, LeavesTheTickLabelsWhereItHasNoRoom) {
+TEST_F(DataTableTest, LeavesTheChartAsItIsWhereItHasNoRoom) {
   // the columns are too narrow with the names beside them, or even without
   const S name = "A name that takes nearly a third of the width";
-  for (const std::size_t count : {55u, 75u, 300u}) {
-    S series = SeriesXml(0, std::vector<double>(count, 1));
+  for (const auto& [count, value] :
+       {std::pair(55u, S()), {75u, S("<c:crossBetween val=\"midCat\"/>")}, {300u, S()}}) {
+    S series = SeriesXml(0, Numbers(count, 1));
     series.replace(series.find("Series 0"), S("Series 0").size(), name);
-    const Drawing drawing = DrawWithTable(kLines, series);
-    EXPECT_FALSE(TextsOf(drawing, Role::kTickLabel, 1).empty()) << count;
-    EXPECT_TRUE(TextsOf(drawing, Role::kTableText).empty()) << count;
-    EXPECT_EQ(DrawingComplaints(drawing), "") << count;
+    const S chart = LinesXml(series) + AxesXml("", value);
+    const Drawing without = Draw(PlotXml(chart));
+    const Drawing drawing = Draw(PlotXml(chart + "<c:dTable>" + kLines + "</c:dTable>"));
     EXPECT_EQ(notes_,
               (render::Notes{"The data table isn't drawn because its columns are too narrow for a text."}))
         << count;
+    ASSERT_EQ(drawing.items.size(), without.items.size()) << count;
+    for (std::size_t i = 0; i < drawing.items.size(); ++i) {
+      EXPECT_EQ(drawing.items[i].tag, without.items[i].tag) << count << ' ' << i;
+      EXPECT_EQ(BoundsOf(drawing.items[i]), BoundsOf(without.items[i])) << count << ' ' << i;
+    }
   }
+}
+
+TEST_F(DataTableTest, IsBelowItsAxisInAnyOrderOfTheAxes) {
+  const S axes = AxesXml(), category = axes.substr(0, axes.find("<c:valAx>"));
+  const S series = SeriesXml(0, {1.5, 20}, "", "", CategoriesXml({"North", "South"}));
+  const Drawing drawing = Draw(PlotXml(ColumnsXml(series) + axes.substr(category.size()) + category +
+                                       "<c:dTable>" + kLines + "</c:dTable>"));
+  EXPECT_EQ(notes_, render::Notes());
+  EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), (Texts{"North", "South"}));
+  EXPECT_EQ(TextsOf(drawing, Role::kTableText), (Texts{"Series 0", "1.5", "20"}));
 }
 
 TEST_F(DataTableTest, LongTextsEndInDots) {

@@ -4,33 +4,17 @@
 #include <map>
 #include <numbers>
 
+#include "runtime/Strings.h"
 #include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::test {
 
-using render::Drawing;
-using render::Item;
-using render::PathItem;
-using render::Point;
-using render::Rect;
-using render::Role;
-using render::TextItem;
-
 namespace {
 
-std::string Cache(const std::vector<double>& values) {
-  std::string xml = "<c:ptCount val=\"" + std::to_string(values.size()) + "\"/>";
-  for (std::size_t i = 0; i < values.size(); ++i) {
-    if (std::isnan(values[i])) continue;
-    xml += "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + xlsx::xml::Number(values[i]) + "</c:v></c:pt>";
-  }
-  return "<c:numLit><c:formatCode>General</c:formatCode>" + xml + "</c:numLit>";
-}
-
-std::string Axis(const char* element, int number, int other, const char* side, const std::string& more) {
-  return "<c:" + std::string(element) + "><c:axId val=\"" + std::to_string(number) + "\"/>" +
-         (more.find("<c:scaling>") == std::string::npos ? "<c:scaling/>" : "") +
+S Axis(const char* element, int number, int other, const char* side, const S& more) {
+  return "<c:" + S(element) + "><c:axId val=\"" + std::to_string(number) + "\"/>" +
+         (more.find("<c:scaling>") == S::npos ? "<c:scaling/>" : "") +
          "<c:delete val=\"0\"/><c:axPos val=\"" + side + "\"/>" + more + "<c:crossAx val=\"" +
          std::to_string(other) + "\"/></c:" + element + ">";
 }
@@ -65,8 +49,8 @@ bool ArePartedBy(const std::array<Point, 4>& a, const std::array<Point, 4>& b) {
   return false;
 }
 
-std::string LabelComplaints(const Drawing& drawing) {
-  std::string complaints;
+S LabelComplaints(const Drawing& drawing) {
+  S complaints;
   std::map<int, std::vector<std::pair<int, const TextItem*>>> labels;  // The labels by axis number.
   for (const Item& item : drawing.items) {
     const auto* text = std::get_if<TextItem>(&item.content);
@@ -87,35 +71,89 @@ std::string LabelComplaints(const Drawing& drawing) {
 
 }  // namespace
 
-std::string CategoriesXml(const std::vector<std::string>& texts) {
-  std::string xml = "<c:cat><c:strLit><c:ptCount val=\"" + std::to_string(texts.size()) + "\"/>";
+S NumbersXml(const S& element, const Numbers& numbers, const S& format) {
+  S points;
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    if (std::isnan(numbers[i])) continue;
+    points +=
+        "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + xlsx::xml::Number(numbers[i]) + "</c:v></c:pt>";
+  }
+  return "<c:" + element + "><c:numLit><c:formatCode>" + format + "</c:formatCode><c:ptCount val=\"" +
+         std::to_string(numbers.size()) + "\"/>" + points + "</c:numLit></c:" + element + ">";
+}
+
+S CategoriesXml(const Texts& texts) {
+  S xml = "<c:cat><c:strLit><c:ptCount val=\"" + std::to_string(texts.size()) + "\"/>";
   for (std::size_t i = 0; i < texts.size(); ++i) {
     xml += "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + texts[i] + "</c:v></c:pt>";
   }
   return xml + "</c:strLit></c:cat>";
 }
 
-std::string SeriesXml(int index, const std::vector<double>& values, const std::string& more,
-                      const std::string& behind, const std::string& categories) {
-  const std::string number = std::to_string(index);
-  return "<c:ser><c:idx val=\"" + number + "\"/><c:order val=\"" + number + "\"/><c:tx><c:v>Series " +
-         number + "</c:v></c:tx>" + more + categories + "<c:val>" + Cache(values) + "</c:val>" + behind +
-         "</c:ser>";
+S LevelsXml(int count, const std::vector<std::vector<std::pair<int, S>>>& levels) {
+  S xml = "<c:cat><c:multiLvlStrRef><c:f>Sheet1!$A$1:$B$4</c:f><c:multiLvlStrCache><c:ptCount val=\"" +
+          std::to_string(count) + "\"/>";
+  for (const auto& level : levels) {
+    xml += "<c:lvl>";
+    for (const auto& [index, text] : level) {
+      xml += "<c:pt idx=\"" + std::to_string(index) + "\"><c:v>" + text + "</c:v></c:pt>";
+    }
+    xml += "</c:lvl>";
+  }
+  return xml + "</c:multiLvlStrCache></c:multiLvlStrRef></c:cat>";
 }
 
-std::string AxesXml(const std::string& category, const std::string& value, bool horizontal) {
+S SeriesXml(int index, const Numbers& values, const S& more, const S& behind, const S& categories) {
+  const S number = std::to_string(index);
+  return "<c:ser><c:idx val=\"" + number + "\"/><c:order val=\"" + number + "\"/><c:tx><c:v>Series " +
+         number + "</c:v></c:tx>" + more + categories + NumbersXml("val", values) + behind + "</c:ser>";
+}
+
+S PointsXml(int index, const Numbers& x, const Numbers& y, const S& more, const S& behind) {
+  const S number = std::to_string(index);
+  return "<c:ser><c:idx val=\"" + number + "\"/><c:order val=\"" + number + "\"/>" + more +
+         NumbersXml("xVal", x) + NumbersXml("yVal", y) + behind + "</c:ser>";
+}
+
+S AxesXml(const S& category, const S& value, bool horizontal) {
   return Axis("catAx", 1, 2, horizontal ? "l" : "b", category) +
          Axis("valAx", 2, 1, horizontal ? "b" : "l", value);
 }
 
-std::string GroupXml(const std::string& element, const std::string& first, const std::string& series,
-                     const std::string& last) {
+S ValueAxesXml(const S& x, const S& value) { return runtime::Replace(AxesXml(x, value), "catAx", "valAx"); }
+
+S DateAxesXml(const S& category, const S& value) {
+  return runtime::Replace(AxesXml(category, value), "catAx", "dateAx");
+}
+
+S ScalingXml(const S& least, const S& most, const S& more) {
+  return "<c:scaling>" + more + "<c:max val=\"" + most + "\"/><c:min val=\"" + least + "\"/></c:scaling>";
+}
+
+S SolidXml(const S& color, const S& more) {
+  return "<a:solidFill><a:srgbClr val=\"" + color + "\">" + more + "</a:srgbClr></a:solidFill>";
+}
+
+S ColumnsXml(const S& series, const S& last, const S& grouping, const S& direction) {
+  return GroupXml("barChart", "<c:barDir val=\"" + direction + "\"/><c:grouping val=\"" + grouping + "\"/>",
+                  series, last);
+}
+
+S LinesXml(const S& series, const S& last, const S& grouping) {
+  return GroupXml("lineChart", "<c:grouping val=\"" + grouping + "\"/>", series, last);
+}
+
+S GroupXml(const S& element, const S& first, const S& series, const S& last) {
   return "<c:" + element + ">" + first + series + last +
          "<c:axId val=\"1\"/><c:axId val=\"2\"/></c:" + element + ">";
 }
 
-std::string PlotXml(const std::string& content, const std::string& behind) {
+S PlotXml(const S& content, const S& behind) {
   return "<c:autoTitleDeleted val=\"1\"/><c:plotArea>" + content + "</c:plotArea>" + behind;
+}
+
+render::TextExtent EvenMeasure::Measure(std::string_view line, const render::Font& font) const {
+  return {0.5 * font.size * static_cast<double>(runtime::Len(line)), 0.75 * font.size, 0.25 * font.size};
 }
 
 render::CairoFonts& DrawingTest::SharedFonts() {
@@ -123,14 +161,14 @@ render::CairoFonts& DrawingTest::SharedFonts() {
   return fonts;
 }
 
-Drawing DrawingTest::Draw(const std::string& chart, const std::string& behind, double width, double height) {
+Drawing DrawingTest::Draw(const S& chart, const S& behind, double width, double height) {
   return DrawPart(ChartPartXml(chart, behind), width, height);
 }
 
-Drawing DrawingTest::DrawPart(const std::string& chartPart, double width, double height) {
+Drawing DrawingTest::DrawPart(const S& chartPart, double width, double height) {
   OpenChart(chartPart);
-  for (const std::string& part : Book().Package().Parts()) {
-    if (part.find("/charts/chart") == std::string::npos || !part.ends_with(".xml")) continue;
+  for (const S& part : Book().Package().Parts()) {
+    if (part.find("/charts/chart") == S::npos || !part.ends_with(".xml")) continue;
     notes_.clear();
     return render::DrawChart(*Book().Chart(part), width, height, SharedFonts(), notes_);
   }
@@ -152,8 +190,8 @@ std::vector<Rect> BoxesOf(const Drawing& drawing, Role role, int series) {
   return boxes;
 }
 
-std::vector<std::string> TextsOf(const Drawing& drawing, Role role, int series) {
-  std::vector<std::string> texts;
+Texts TextsOf(const Drawing& drawing, Role role, int series) {
+  Texts texts;
   for (const Item& item : ItemsOf(drawing, role, series)) {
     if (const auto* text = std::get_if<TextItem>(&item.content)) texts.push_back(text->text);
   }
@@ -168,14 +206,14 @@ Rect BoxOf(const Drawing& drawing, Role role, int series) {
   return all;
 }
 
-std::string FillOf(const Item& item) {
+S FillOf(const Item& item) {
   const auto* path = std::get_if<PathItem>(&item.content);
   const auto* solid = path == nullptr ? nullptr : std::get_if<render::SolidFill>(&path->fill);
   return solid == nullptr ? "none" : HexOf(solid->color);
 }
 
-std::string DrawingComplaints(const Drawing& drawing) {
-  std::string complaints;
+S DrawingComplaints(const Drawing& drawing) {
+  S complaints;
   int clips = 0;
   for (const Item& item : drawing.items) {
     clips += std::holds_alternative<render::PushClip>(item.content);
@@ -183,14 +221,14 @@ std::string DrawingComplaints(const Drawing& drawing) {
     if (clips < 0) complaints += "a clip ends that didn't begin\n";
     const Rect box = BoundsOf(item);
     if (!std::isfinite(box.left + box.top + box.width + box.height)) {
-      complaints += "a " + std::string(NameOf(item.tag.role)) + " is nowhere\n";
+      complaints += "a " + S(NameOf(item.tag.role)) + " is nowhere\n";
     }
     const auto* text = std::get_if<TextItem>(&item.content);
     constexpr double kSlack = 1;  // points
     const bool outside = box.left < -kSlack || box.top < -kSlack || box.Right() > drawing.width + kSlack ||
                          box.Bottom() > drawing.height + kSlack;
     if (text != nullptr && outside) {
-      complaints += std::string(NameOf(item.tag.role)) + " \"" + text->text + "\" leaves the chart\n";
+      complaints += S(NameOf(item.tag.role)) + " \"" + text->text + "\" leaves the chart\n";
     }
   }
   if (clips != 0) complaints += "a clip doesn't end\n";

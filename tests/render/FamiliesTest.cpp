@@ -8,38 +8,24 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
-using render::Item;
-using render::PathItem;
-using render::PathStep;
-using render::Point;
-using render::Rect;
-using render::Role;
-using S = std::string;
 
 class FamiliesTest : public DrawingTest {
  protected:
-  Drawing DrawPie(const std::vector<double>& values, const S& more = "", const S& last = "",
-                  const S& behind = "") {
+  Drawing DrawPie(const Numbers& values, const S& more = "", const S& last = "", const S& behind = "") {
     return Draw(
         PlotXml("<c:pieChart><c:varyColors val=\"1\"/>" + SeriesXml(0, values, more) + last + "</c:pieChart>",
                 behind));
   }
   /// Draws a bubble chart with one series. Each bubble is X, Y and size.
   Drawing DrawBubbles(const std::vector<std::array<double, 3>>& bubbles, const S& last) {
-    const auto data = [&](const char* element, std::size_t which) {
-      S xml = "<c:" + S(element) + "><c:numLit><c:ptCount val=\"" + std::to_string(bubbles.size()) + "\"/>";
-      for (std::size_t i = 0; i < bubbles.size(); ++i) {
-        xml += "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + xlsx::xml::Number(bubbles[i][which]) +
-               "</c:v></c:pt>";
-      }
-      return xml + "</c:numLit></c:" + element + ">";
-    };
-    const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>" + data("xVal", 0) + data("yVal", 1) +
-                     data("bubbleSize", 2) + "</c:ser>";
-    S axes = AxesXml("", "");
-    for (std::size_t at; (at = axes.find("catAx")) != S::npos;) axes.replace(at, 5, "valAx");
-    return Draw(PlotXml(GroupXml("bubbleChart", "", series, last) + axes));
+    Numbers x, y, sizes;
+    for (const auto& bubble : bubbles) {
+      x.push_back(bubble[0]);
+      y.push_back(bubble[1]);
+      sizes.push_back(bubble[2]);
+    }
+    const S series = PointsXml(0, x, y, "", NumbersXml("bubbleSize", sizes));
+    return Draw(PlotXml(GroupXml("bubbleChart", "", series, last) + ValueAxesXml()));
   }
 };
 
@@ -56,7 +42,7 @@ std::pair<double, double> AnglesOf(const Item& slice) {
 }
 
 TEST_F(FamiliesTest, SlicesShareTheCircleByTheirValues) {
-  const std::vector<double> values = {30, 10, -20, 60};  // A pie uses the absolute values.
+  const Numbers values = {30, 10, -20, 60};  // A pie uses the absolute values.
   const Drawing drawing = DrawPie(values, "", "<c:firstSliceAng val=\"90\"/>");
   const auto slices = ItemsOf(drawing, Role::kSlice);
   ASSERT_EQ(slices.size(), 4u);
@@ -125,18 +111,14 @@ TEST_F(FamiliesTest, PiesAndDoughnutsHaveNoPlotAreaOfTheirOwn) {
 }
 
 TEST_F(FamiliesTest, PointsAreDrawnAlongAnAxisOfCategoriesAsWell) {
-  const S points =
-      "<c:ser><c:idx val=\"1\"/><c:order val=\"1\"/><c:marker><c:symbol val=\"square\"/></c:marker>"
-      "<c:xVal><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>1</c:v></c:pt><c:pt idx=\"1\"><c:v>2.5"
-      "</c:v></c:pt></c:numLit></c:xVal><c:yVal><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>4"
-      "</c:v></c:pt><c:pt idx=\"1\"><c:v>5</c:v></c:pt></c:numLit></c:yVal></c:ser>";
+  const S points = PointsXml(1, {1, 2.5}, {4, 5}, "<c:marker><c:symbol val=\"square\"/></c:marker>");
   const S scatter = GroupXml("scatterChart", "<c:scatterStyle val=\"lineMarker\"/>", points);
   const S columns = GroupXml("barChart", "", SeriesXml(0, {1, 2, 3}));
   struct {
     const char* what;
     S groups;
     double first, second;  // As shares of the plot area's width.
-    std::vector<S> labels;
+    Texts labels;
   } cases[] = {
       {"alone", scatter, 1.0 / 3, 2.5 / 3, {"0", "0.5", "1", "1.5", "2", "2.5", "3"}},
       {"beside columns", columns + scatter, 1.0 / 6, 2.0 / 3, {"1", "2", "3"}},
@@ -156,7 +138,7 @@ TEST_F(FamiliesTest, BubblesShowTheirSizeAsAreaOrAsWidth) {
   const std::vector<std::array<double, 3>> bubbles = {{1, 1, 100}, {2, 3, 25}, {3, 2, -50}, {4, 4, 0}};
   struct {
     const char* last;
-    std::vector<double> shares;  // As shares of the largest width.
+    Numbers shares;  // As shares of the largest width.
   } cases[] = {
       {"", {1, 0.5}},
       {"<c:sizeRepresents val=\"w\"/>", {1, 0.25}},
@@ -176,28 +158,10 @@ TEST_F(FamiliesTest, BubblesShowTheirSizeAsAreaOrAsWidth) {
   }
 }
 
-TEST_F(FamiliesTest, LinesAndAreasGoThroughTheirValues) {
-  const auto value = "<c:scaling><c:max val=\"10\"/><c:min val=\"0\"/></c:scaling>";
-  const Drawing lines =
-      Draw(PlotXml(GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
-                            SeriesXml(0, {2, kNoValue, 10, 5},
-                                      "<c:marker><c:symbol val=\"square\"/><c:size val=\"6\"/></c:marker>")) +
-                       AxesXml("", value),
-                   "<c:dispBlanksAs val=\"gap\"/>"));
-  const Rect plot = BoxOf(lines, Role::kPlotArea);
-  const auto markers = BoxesOf(lines, Role::kMarker);
-  ASSERT_EQ(markers.size(), 3u);
-  EXPECT_NEAR(markers[0].Center().y, plot.Bottom() - plot.height * 0.2, 1e-6);
-  EXPECT_NEAR(markers[1].Center().y, plot.top, 1e-6);
-  EXPECT_NEAR(markers[2].Center().x, plot.left + plot.width * 3.5 / 4, 1e-6);
-  // The value before the gap is alone, so only the last two are connected.
-  const Rect line = BoxOf(lines, Role::kLine);
-  EXPECT_NEAR(line.left, markers[1].Center().x, 1e-6);
-  EXPECT_NEAR(line.Right(), markers[2].Center().x, 1e-6);
-
+TEST_F(FamiliesTest, AreasGoThroughTheirValuesAndThoseBelow) {
   const Drawing areas = Draw(PlotXml(
       GroupXml("areaChart", "<c:grouping val=\"stacked\"/>", SeriesXml(0, {2, 4}) + SeriesXml(1, {3, 6})) +
-      AxesXml("", value + S("<c:crossBetween val=\"midCat\"/>"))));
+      AxesXml("", ScalingXml("0", "10") + "<c:crossBetween val=\"midCat\"/>")));
   const Rect inner = BoxOf(areas, Role::kPlotArea);
   const auto steps = std::get<PathItem>(ItemsOf(areas, Role::kArea, 2)[0].content).path.Steps();
   const double expected[][2] = {{0, 5}, {1, 10}, {1, 4}, {0, 2}};
@@ -210,9 +174,9 @@ TEST_F(FamiliesTest, LinesAndAreasGoThroughTheirValues) {
 
 /// Returns the heights at which the line of a series passes its points, on an axis from 0 to 10. A part after
 /// a gap begins with NaN.
-std::vector<double> HeightsOf(const Drawing& drawing, int series) {
+Numbers HeightsOf(const Drawing& drawing, int series) {
   const Rect plot = BoxOf(drawing, Role::kPlotArea);
-  std::vector<double> heights;
+  Numbers heights;
   for (const Item& line : ItemsOf(drawing, Role::kLine, series)) {
     for (const PathStep& step : std::get<PathItem>(line.content).path.Steps()) {
       if (step.kind == PathStep::Kind::kMove && !heights.empty()) heights.push_back(kNoValue);
@@ -224,69 +188,104 @@ std::vector<double> HeightsOf(const Drawing& drawing, int series) {
 
 TEST_F(FamiliesTest, BlanksOfLinesAreGapsUnlessTheFileSaysOtherwise) {
   constexpr double kGap = kNoValue;
+  const Numbers inside = {1, 1, kNoValue, 1, 1}, ends = {kNoValue, 2, kNoValue, 4, kNoValue};
+  const S ownLook = "<c:dPt><c:idx val=\"3\"/><c:spPr><a:ln w=\"12700\"/></c:spPr></c:dPt>";
   struct {
-    const char *grouping, *behind;
-    std::vector<double> upper;  // The positions of the second series.
+    const char *grouping, *blanks;
+    Numbers values;
+    S look;
+    Numbers heights;  // of the second series
   } cases[] = {
-      {"standard", "", {1, 1, kGap, 1, 1}},
-      {"standard", "<c:dispBlanksAs val=\"gap\"/>", {1, 1, kGap, 1, 1}},
-      {"standard", "<c:dispBlanksAs val=\"zero\"/>", {1, 1, 0, 1, 1}},
-      {"standard", "<c:dispBlanksAs val=\"span\"/>", {1, 1, 1, 1}},
-      {"stacked", "", {4, 5, 5, 6, 7}},
-      {"stacked", "<c:dispBlanksAs val=\"zero\"/>", {4, 5, 5, 6, 7}},
-      {"percentStacked", "", {10, 10, 10, 10, 10}},
+      {"standard", "", inside, "", {1, 1, kGap, 1, 1}},
+      {"standard", "gap", inside, "", {1, 1, kGap, 1, 1}},
+      {"standard", "zero", inside, "", {1, 1, 0, 1, 1}},
+      {"standard", "span", inside, "", {1, 1, 1, 1}},
+      {"stacked", "", inside, "", {4, 5, 5, 6, 7}},
+      {"stacked", "zero", inside, "", {4, 5, 5, 6, 7}},
+      {"percentStacked", "", inside, "", {10, 10, 10, 10, 10}},
+      {"standard", "gap", ends, "", {}},
+      {"standard", "span", ends, "", {2, 4}},
+      {"standard", "zero", ends, "", {0, 2, 0, 4, 0}},
+      {"standard", "gap", ends, ownLook, {}},
+      {"standard", "span", ends, ownLook, {2, 4}},
+      {"standard", "zero", ends, ownLook, {0, 2, 0, kGap, 0, 4, kGap, 4, 0}},
   };
-  const S value = "<c:scaling><c:max val=\"10\"/><c:min val=\"0\"/></c:scaling>";
-  const S shares = "<c:scaling><c:max val=\"1\"/><c:min val=\"0\"/></c:scaling>";
   for (const auto& test : cases) {
-    const Drawing drawing =
-        Draw(PlotXml(GroupXml("lineChart", "<c:grouping val=\"" + S(test.grouping) + "\"/>",
-                              SeriesXml(0, {3, 4, 5, 5, 6}) + SeriesXml(1, {1, 1, kNoValue, 1, 1})) +
-                         AxesXml("", test.grouping == S("percentStacked") ? shares : value),
-                     test.behind));
-    const auto heights = HeightsOf(drawing, 2);
-    ASSERT_EQ(heights.size(), test.upper.size()) << test.grouping << test.behind;
-    for (std::size_t i = 0; i < heights.size(); ++i) {
-      if (std::isnan(test.upper[i])) {
-        EXPECT_TRUE(std::isnan(heights[i])) << test.grouping << test.behind << i;
-      } else {
-        EXPECT_NEAR(heights[i], test.upper[i], 1e-4) << test.grouping << test.behind << i;
-      }
-    }
+    const S blanks = S(test.blanks).empty() ? "" : "<c:dispBlanksAs val=\"" + S(test.blanks) + "\"/>";
+    const S series = SeriesXml(0, {3, 4, 5, 5, 6}) + SeriesXml(1, test.values, test.look);
+    const S value = ScalingXml("0", test.grouping == S("percentStacked") ? "1" : "10");
+    const Drawing drawing = Draw(PlotXml(LinesXml(series, "", test.grouping) + AxesXml("", value), blanks));
+    Texts expected, found;
+    for (const double height : test.heights) expected.push_back(xlsx::xml::Number(height));
+    for (const double height : HeightsOf(drawing, 2)) found.push_back(xlsx::xml::Number(height + 0.0));
+    EXPECT_EQ(found, expected) << test.grouping << blanks << test.look;
   }
 }
 
-TEST_F(FamiliesTest, PointsAreJoinedUnlessTheFileShowsMarkersOnly) {
-  const auto numbers = [](const char* element) {
-    return "<c:" + S(element) +
-           "><c:numLit><c:ptCount val=\"2\"/><c:pt idx=\"0\"><c:v>1</c:v></c:pt><c:pt "
-           "idx=\"1\"><c:v>2</c:v></c:pt></c:numLit></c:" +
-           element + ">";
-  };
-  struct {
-    S style, marker;
-    std::size_t lines, markers;
-  } cases[] = {
-      {"", "none", 1, 0},     {"", "square", 1, 2},       {"lineMarker", "none", 1, 0},
-      {"line", "none", 1, 0}, {"marker", "square", 0, 2},
-  };
-  for (const auto& test : cases) {
-    const S style = test.style.empty() ? "" : "<c:scatterStyle val=\"" + test.style + "\"/>";
-    const S series = "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:marker><c:symbol val=\"" + test.marker +
-                     "\"/></c:marker>" + numbers("xVal") + numbers("yVal") + "</c:ser>";
-    const Drawing drawing = Draw(PlotXml(GroupXml("scatterChart", style, series) + AxesXml()));
-    EXPECT_EQ(ItemsOf(drawing, Role::kLine, 1).size(), test.lines) << test.style << test.marker;
-    EXPECT_EQ(ItemsOf(drawing, Role::kMarker, 1).size(), test.markers) << test.style << test.marker;
+TEST_F(FamiliesTest, BlanksOfRadarChartsInterruptTheirOutline) {
+  // The steps of the outline: moves, lines, and Z if it is closed.
+  const std::pair<S, S> cases[] = {{"gap", "MLM"}, {"span", "MLLZ"}, {"zero", "MLLLLZ"}};
+  for (const auto& [blanks, steps] : cases) {
+    const Drawing drawing = Draw(PlotXml(GroupXml("radarChart", "<c:radarStyle val=\"standard\"/>",
+                                                  SeriesXml(0, {kNoValue, 2, 3, kNoValue, 4})) +
+                                             AxesXml(),
+                                         "<c:dispBlanksAs val=\"" + blanks + "\"/>"));
+    S found;
+    const auto lines = ItemsOf(drawing, Role::kLine);
+    for (const PathStep& step : std::get<PathItem>(lines[0].content).path.Steps()) {
+      found += step.kind == PathStep::Kind::kMove ? 'M' : step.kind == PathStep::Kind::kLine ? 'L' : 'Z';
+    }
+    EXPECT_EQ(found, steps) << blanks;
+  }
+}
+
+TEST_F(FamiliesTest, PointsWithoutBothOfTheirNumbersAreNotDrawn) {
+  for (const char* element : {"scatterChart", "bubbleChart"}) {
+    const S sizes = NumbersXml("bubbleSize", {1, 1, 1, 1}),
+            labels = "<c:dLbls><c:showVal val=\"1\"/></c:dLbls>";
+    const S series = PointsXml(0, {1, kNoValue, 3}, {5, 6, kNoValue, 8}, labels, sizes);
+    const Drawing drawing = Draw(PlotXml(GroupXml(element, "", series) + ValueAxesXml()));
+    EXPECT_EQ(ItemsOf(drawing, Role::kMarker).size() + ItemsOf(drawing, Role::kBubble).size(), 1u) << element;
+    EXPECT_EQ(TextsOf(drawing, Role::kDataLabel), Texts{"5"}) << element;
+    EXPECT_EQ(DrawingComplaints(drawing), "") << element;
+  }
+}
+
+TEST_F(FamiliesTest, LabelsOfPointsShowTheirXValueInTheFormatOfItsAxis) {
+  const S labels = "<c:dLbls><c:showVal val=\"1\"/><c:showCatName val=\"1\"/></c:dLbls>";
+  for (const char* element : {"scatterChart", "bubbleChart"}) {
+    const S series = PointsXml(0, {1.5, 2}, {5, 6}, labels, NumbersXml("bubbleSize", {1, 1}));
+    const S axes = ValueAxesXml("<c:numFmt formatCode=\"0.00\" sourceLinked=\"0\"/>");
+    const Drawing drawing = Draw(PlotXml(GroupXml(element, "", series) + axes));
+    EXPECT_EQ(TextsOf(drawing, Role::kDataLabel), (Texts{"1.50, 5", "2.00, 6"})) << element;
+  }
+}
+
+TEST_F(FamiliesTest, GroupsWithoutBothAxesAreNotDrawn) {
+  const S axes = AxesXml(), category = axes.substr(0, axes.find("<c:valAx>")),
+          value = axes.substr(category.size());
+  for (const char* element :
+       {"barChart", "lineChart", "areaChart", "radarChart", "scatterChart", "bubbleChart"}) {
+    for (const S& one : {category, value, S()}) {
+      const bool points = S(element) == "scatterChart" || S(element) == "bubbleChart";
+      const S series =
+          points ? PointsXml(0, {1, 2}, {1, 2}, "", NumbersXml("bubbleSize", {1, 1}))
+                 : SeriesXml(0, {1, 2}, "<c:trendline><c:trendlineType val=\"linear\"/></c:trendline>");
+      const Drawing drawing = Draw(PlotXml(GroupXml(element, "", series) + one));
+      for (const Role role :
+           {Role::kBar, Role::kLine, Role::kArea, Role::kMarker, Role::kBubble, Role::kTrendline}) {
+        EXPECT_EQ(ItemsOf(drawing, role).size(), 0u) << element << one;
+      }
+      EXPECT_EQ(DrawingComplaints(drawing), "") << element << one;
+    }
   }
 }
 
 TEST_F(FamiliesTest, ValuesWithoutACacheAreThoseOfTheCells) {
   const S series =
-      "<c:ser><c:idx val=\"0\"/><c:order "
-      "val=\"0\"/><c:cat><c:strRef><c:f>Sheet1!$A$2:$A$4</c:f></c:strRef></c:cat>"
-      "<c:val><c:numRef><c:f>Sheet1!$C$2:$C$4</c:f></c:numRef></c:val></c:ser>";
-  const Drawing drawing = Draw(PlotXml(
-      GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>", series) + AxesXml()));
+      "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:cat><c:strRef><c:f>Sheet1!$A$2:$A$4</c:f>"
+      "</c:strRef></c:cat><c:val><c:numRef><c:f>Sheet1!$C$2:$C$4</c:f></c:numRef></c:val></c:ser>";
+  const Drawing drawing = Draw(PlotXml(ColumnsXml(series) + AxesXml()));
   const auto sheet = Book().FindWorksheet("Sheet1");
   const auto bars = BoxesOf(drawing, Role::kBar);
   ASSERT_EQ(bars.size(), 3u);
@@ -318,11 +317,11 @@ TEST_F(FamiliesTest, NamesWithoutACacheAreThoseOfTheCells) {
   std::string scratch;
   const auto text = [&](int row, int column) { return S(sheet->CellTextAt(row, column, scratch)); };
   ASSERT_NE(text(1, 2), "");
-  const std::vector<S> names = {text(1, 2), text(1, 3)}, categories = {text(2, 1), text(3, 1), text(4, 1)};
+  const Texts names = {text(1, 2), text(1, 3)}, categories = {text(2, 1), text(3, 1), text(4, 1)};
   struct {
     const char* what;
     S groups;
-    std::vector<S> legend;
+    Texts legend;
   } cases[] = {
       {"one cell each",
        GroupXml("barChart", columns,
@@ -345,8 +344,7 @@ TEST_F(FamiliesTest, NamesWithoutACacheAreThoseOfTheCells) {
 }
 
 TEST_F(FamiliesTest, SeriesOfTwoAxesFollowTheirOwnScale) {
-  S second =
-      AxesXml("", "<c:scaling><c:max val=\"1\"/><c:min val=\"0\"/></c:scaling><c:crosses val=\"max\"/>");
+  S second = AxesXml("", ScalingXml("0", "1") + "<c:crosses val=\"max\"/>");
   const auto renumber = [](S xml) {
     for (const auto& [from, to] : {std::pair{"\"1\"/>", "\"11\"/>"}, {"\"2\"/>", "\"12\"/>"}}) {
       for (const char* name : {"axId val=", "crossAx val="}) {
@@ -360,11 +358,9 @@ TEST_F(FamiliesTest, SeriesOfTwoAxesFollowTheirOwnScale) {
   second = renumber(second);
   second.replace(second.find("<c:delete val=\"0\"/>"), 19, "<c:delete val=\"1\"/>");
   const Drawing drawing = Draw(
-      PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>",
-                       SeriesXml(0, {50, 100})) +
-              renumber(GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
-                                SeriesXml(1, {0.5, 1}, "<c:marker><c:symbol val=\"dash\"/></c:marker>"))) +
-              AxesXml("", "<c:scaling><c:max val=\"100\"/><c:min val=\"0\"/></c:scaling>") + second));
+      PlotXml(ColumnsXml(SeriesXml(0, {50, 100})) +
+              renumber(LinesXml(SeriesXml(1, {0.5, 1}, "<c:marker><c:symbol val=\"dash\"/></c:marker>"))) +
+              AxesXml("", ScalingXml("0", "100")) + second));
   const auto bars = BoxesOf(drawing, Role::kBar), markers = BoxesOf(drawing, Role::kMarker);
   ASSERT_EQ(markers.size(), 2u);
   for (std::size_t i = 0; i < 2; ++i) EXPECT_NEAR(markers[i].Center().y, bars[i].top, 1e-6) << i;
@@ -375,9 +371,7 @@ TEST_F(FamiliesTest, SeriesOfTwoAxesFollowTheirOwnScale) {
 }
 
 TEST_F(DrawingTest, RadarChartsLieOnAWebOfTheirScale) {
-  const S scale =
-      "<c:scaling><c:max val=\"10\"/><c:min val=\"0\"/></c:scaling><c:majorGridlines/>"
-      "<c:majorUnit val=\"5\"/>";
+  const S scale = ScalingXml("0", "10") + "<c:majorGridlines/><c:majorUnit val=\"5\"/>";
   struct {
     const char* style;
     Role role;
@@ -390,10 +384,10 @@ TEST_F(DrawingTest, RadarChartsLieOnAWebOfTheirScale) {
                                         CategoriesXml({"North", "East", "South", "West"}))) +
                          AxesXml("", scale),
                      "<c:legend/>"));
-    EXPECT_EQ(notes_, std::vector<S>()) << test.style;
+    EXPECT_EQ(notes_, Texts()) << test.style;
     EXPECT_EQ(DrawingComplaints(drawing), "") << test.style;
-    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), (std::vector<S>{"North", "East", "South", "West"}));
-    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), (std::vector<S>{"0", "5", "10"})) << test.style;
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), (Texts{"North", "East", "South", "West"}));
+    EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), (Texts{"0", "5", "10"})) << test.style;
     EXPECT_EQ(ItemsOf(drawing, Role::kMarker).size(), test.markers) << test.style;
     const auto webs = BoxesOf(drawing, Role::kGridline);
     ASSERT_EQ(webs.size(), 3u) << test.style;

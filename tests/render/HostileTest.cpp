@@ -8,11 +8,6 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
-using render::Rect;
-using render::Role;
-using S = std::string;
-using Texts = std::vector<S>;
 
 /// Malicious chart parts, which no program writes by mistake.
 struct HostileCase {
@@ -20,17 +15,10 @@ struct HostileCase {
   S chart;
 };
 
-const S kColumns = "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>";
-
-S ColumnsOn(const S& category, const S& value, const std::vector<double>& values = {1, 2, 3}) {
-  return PlotXml(
-      GroupXml("barChart", kColumns, SeriesXml(0, values, "<c:dLbls><c:showVal val=\"1\"/></c:dLbls>")) +
-          AxesXml(category, value),
-      "<c:legend/>");
-}
-
-S ScalingXml(const S& least, const S& most, const S& more = "") {
-  return "<c:scaling>" + more + "<c:max val=\"" + most + "\"/><c:min val=\"" + least + "\"/></c:scaling>";
+S ColumnsOn(const S& category, const S& value, const Numbers& values = {1, 2, 3}) {
+  return PlotXml(ColumnsXml(SeriesXml(0, values, "<c:dLbls><c:showVal val=\"1\"/></c:dLbls>")) +
+                     AxesXml(category, value),
+                 "<c:legend/>");
 }
 
 S ManySeries(int count) {
@@ -63,7 +51,7 @@ INSTANTIATE_TEST_SUITE_P(
     Parts, HostileTest,
     ::testing::Values(
         HostileCase{"Empty", ""}, HostileCase{"OnlyAGroup", PlotXml("<c:barChart/>")},
-        HostileCase{"NoAxes", PlotXml(GroupXml("barChart", kColumns, SeriesXml(0, {1, 2})))},
+        HostileCase{"NoAxes", PlotXml(ColumnsXml(SeriesXml(0, {1, 2})))},
         HostileCase{"NoPoints", ColumnsOn("", "", {})},
         HostileCase{"NoValues", ColumnsOn("", "", {kNoValue, kNoValue})},
         HostileCase{"Huge", ColumnsOn("", "", {1e308, -1e308, 1e-308})},
@@ -101,8 +89,7 @@ INSTANTIATE_TEST_SUITE_P(
         HostileCase{
             "Skips",
             ColumnsOn("<c:tickLblSkip val=\"9223372036854775807\"/><c:tickMarkSkip val=\"-5\"/>", "")},
-        HostileCase{"ManySeries",
-                    PlotXml(GroupXml("barChart", kColumns, ManySeries(1000)) + AxesXml(), "<c:legend/>")},
+        HostileCase{"ManySeries", PlotXml(ColumnsXml(ManySeries(1000)) + AxesXml(), "<c:legend/>")},
         HostileCase{"ClaimedPoints",
                     PlotXml(GroupXml("lineChart", "", Claiming("4000000")) + AxesXml(), "<c:legend/>")},
         HostileCase{"ClaimedSlices",
@@ -112,22 +99,21 @@ INSTANTIATE_TEST_SUITE_P(
             "Layouts",
             PlotXml("<c:layout><c:manualLayout><c:xMode val=\"edge\"/><c:x val=\"-9\"/><c:w val=\"-3\"/><c:h "
                     "val=\"1e300\"/></c:manualLayout></c:layout>" +
-                        GroupXml("barChart", kColumns, SeriesXml(0, {1, 2})) + AxesXml(),
+                        ColumnsXml(SeriesXml(0, {1, 2})) + AxesXml(),
                     "<c:legend><c:layout><c:manualLayout><c:x val=\"7\"/><c:w val=\"0\"/><c:h val=\"-1\"/>"
                     "</c:manualLayout></c:layout></c:legend>")},
         HostileCase{
             "Fonts",
             PlotXml(
-                GroupXml("barChart", kColumns, SeriesXml(0, {1, 2})) +
+                ColumnsXml(SeriesXml(0, {1, 2})) +
                 AxesXml(
                     "<c:txPr><a:bodyPr rot=\"99999999999\"/><a:p><a:pPr><a:defRPr sz=\"999999999\"/></a:pPr>"
                     "</a:p></c:txPr>",
                     "<c:txPr><a:bodyPr rot=\"2700000\"/><a:p><a:pPr><a:defRPr sz=\"-5\"/></a:pPr></a:p>"
                     "</c:txPr>"))},
         HostileCase{"LongText",
-                    PlotXml(GroupXml("barChart", kColumns,
-                                     SeriesXml(0, {1, 2}, "", "",
-                                               CategoriesXml({S(200'000, 'x'), S(100'000, ' ')}))) +
+                    PlotXml(ColumnsXml(SeriesXml(0, {1, 2}, "", "",
+                                                 CategoriesXml({S(200'000, 'x'), S(100'000, ' ')}))) +
                                 AxesXml(),
                             "<c:legend/>")},
         HostileCase{"Explosion",
@@ -148,12 +134,11 @@ TEST_F(DrawingTest, LegendsAreReadOnlyAsFarAsTheyAreShown) {
 }
 
 TEST_F(DrawingTest, FiveThousandPointsOf254SeriesStayUsable) {
-  std::vector<double> values;
+  Numbers values;
   for (int i = 0; i < 5000; ++i) values.push_back(std::sin(i / 50.0) + i % 7);
   S series;
   for (int s = 0; s < 254; ++s) series += SeriesXml(s, values);
-  const S chart =
-      PlotXml(GroupXml("lineChart", "<c:grouping val=\"standard\"/>", series) + AxesXml(), "<c:legend/>");
+  const S chart = PlotXml(LinesXml(series) + AxesXml(), "<c:legend/>");
   const Drawing drawing = Draw(chart);
   EXPECT_LT(drawing.items.size(), 5000u);
   EXPECT_EQ(DrawingComplaints(drawing), "");
@@ -161,16 +146,16 @@ TEST_F(DrawingTest, FiveThousandPointsOf254SeriesStayUsable) {
 }
 
 TEST_F(DrawingTest, ColumnsThinnerThanPixelsAreFewPathsOfTheirColours) {
-  std::vector<double> values;
+  Numbers values;
   for (int i = 0; i < 2000; ++i) values.push_back(i % 50 == 49 ? -3 : 10 + std::sin(i / 50.0));
   S series;
   for (int s = 0; s < 40; ++s) {
     series += SeriesXml(s, values, s == 39 ? "<c:invertIfNegative val=\"1\"/>" : "");
   }
-  const Drawing drawing = Draw(PlotXml(GroupXml("barChart", kColumns, series) + AxesXml()));
+  const Drawing drawing = Draw(PlotXml(ColumnsXml(series) + AxesXml()));
   std::size_t steps = 0;
   for (const auto& item : ItemsOf(drawing, Role::kBar)) {
-    steps += std::get<render::PathItem>(item.content).path.Steps().size();
+    steps += std::get<PathItem>(item.content).path.Steps().size();
   }
   EXPECT_LT(steps, 40'000u);  // 400,000 if each bar is drawn by itself
   const Rect plot = BoxOf(drawing, Role::kPlotArea), bars = BoxOf(drawing, Role::kBar);
@@ -184,7 +169,7 @@ TEST_F(DrawingTest, ColumnsThinnerThanPixelsAreFewPathsOfTheirColours) {
 }
 
 TEST_F(DrawingTest, HundredThousandCategoriesHaveLabelsThatFit) {
-  std::vector<double> values(100'000, 5);
+  Numbers values(100'000, 5);
   Texts names;
   for (int i = 0; i < 100'000; ++i) names.push_back("Name " + std::to_string(i));
   for (const bool horizontal : {false, true}) {
@@ -199,11 +184,17 @@ TEST_F(DrawingTest, HundredThousandCategoriesHaveLabelsThatFit) {
   }
 }
 
+TEST_F(DrawingTest, MoreLabelsThanAPersonCanReadAreLeftOut) {
+  const S labels = "<c:dLbls><c:showVal val=\"1\"/></c:dLbls>";
+  const Drawing drawing = Draw(PlotXml(LinesXml(SeriesXml(0, Numbers(20'001, 1), labels)) + AxesXml()));
+  EXPECT_EQ(ItemsOf(drawing, Role::kDataLabel).size(), 20'000u);
+  EXPECT_EQ(notes_, render::Notes{"The chart has more data labels than are drawn; the rest is left out."});
+}
+
 TEST_F(DrawingTest, DenseMarkersAreDrawnOnce) {
-  const std::vector<double> values(5000, 1);
+  const Numbers values(5000, 1);
   const Drawing drawing = Draw(PlotXml(
-      GroupXml("lineChart", "<c:grouping val=\"standard\"/>",
-               SeriesXml(0, values, "<c:marker><c:symbol val=\"circle\"/><c:size val=\"6\"/></c:marker>")) +
+      LinesXml(SeriesXml(0, values, "<c:marker><c:symbol val=\"circle\"/><c:size val=\"6\"/></c:marker>")) +
       AxesXml()));
   const double width = BoxOf(drawing, Role::kPlotArea).width;
   EXPECT_NEAR(static_cast<double>(ItemsOf(drawing, Role::kMarker).size()), width / 2, 2);

@@ -1,3 +1,5 @@
+#include <map>
+
 #include "render/cairo/CairoPainter.h"
 #include "runtime/Strings.h"
 #include "tests/render/DrawingTest.h"
@@ -7,14 +9,6 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
-using render::Item;
-using render::PathItem;
-using render::Rect;
-using render::Role;
-using render::TextItem;
-using S = std::string;
-using Texts = std::vector<S>;
 
 class LayoutTest : public DrawingTest {
  protected:
@@ -44,9 +38,8 @@ TEST_F(LayoutTest, TheLegendLeavesOutEntriesAndHasItsManualPosition) {
   EXPECT_EQ(TextsOf(piled, Role::kLegendEntry), (Texts{"Series 2", "Series 1", "Series 0"}));
 
   const S layout =
-      "<c:layout><c:manualLayout><c:xMode val=\"edge\"/><c:yMode val=\"edge\"/><c:x val=\"0.5\"/><c:y "
-      "val=\"0.25\"/>"
-      "<c:w val=\"0.4\"/><c:h val=\"0.5\"/></c:manualLayout></c:layout>";
+      "<c:layout><c:manualLayout><c:xMode val=\"edge\"/><c:yMode val=\"edge\"/><c:x val=\"0.5\"/>"
+      "<c:y val=\"0.25\"/><c:w val=\"0.4\"/><c:h val=\"0.5\"/></c:manualLayout></c:layout>";
   const Drawing dragged =
       DrawColumns(LegendXml("r", layout + "<c:spPr><a:ln w=\"12700\"><a:solidFill><a:srgbClr "
                                           "val=\"FF0000\"/></a:solidFill></a:ln></c:spPr>"));
@@ -89,57 +82,24 @@ TEST_F(LayoutTest, ALegendShowsTheEntriesThatFitAndDoesNotCoverThePlot) {
     S name;
     double width, height;
     std::size_t entries;
-    Texts notes;
   } cases[] = {
-      {"all fit", "r", 12, "Name ", 384, 270, 12, {}},
-      {"a column of long names",
-       "r",
-       40,
-       "A rather long name of a series ",
-       384,
-       270,
-       18,
-       {"The legend has room for 18 of its entries; the others are left out."}},
-      {"columns of short names",
-       "l",
-       90,
-       "N",
-       384,
-       270,
-       72,
-       {"The legend has room for 72 of its entries; the others are left out."}},
-      {"rows",
-       "b",
-       200,
-       "Name ",
-       384,
-       270,
-       48,
-       {"The legend has room for 48 of its entries; the others are left out."}},
-      {"rows of names in several lines",
-       "t",
-       9,
-       S(160, 'x') + " ",
-       384,
-       270,
-       3,
-       {"The legend has room for 3 of its entries; the others are left out."}},
-      {"no room at all",
-       "r",
-       2,
-       "Name ",
-       40,
-       40,
-       0,
-       {"There is no space for the legend, which is left out."}},
+      {"all fit", "r", 12, "Name ", 384, 270, 12},
+      {"a column of long names", "r", 40, "A rather long name of a series ", 384, 270, 18},
+      {"columns of short names", "l", 90, "N", 384, 270, 72},
+      {"rows", "b", 200, "Name ", 384, 270, 48},
+      {"rows of names in several lines", "t", 9, S(160, 'x') + " ", 384, 270, 3},
+      {"no room at all", "r", 2, "Name ", 40, 40, 0},
   };
   for (const auto& test : cases) {
-    const Drawing drawing = Draw(
-        PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>", many(test.series, test.name)) + AxesXml(),
-                LegendXml(test.position)),
-        "", test.width, test.height);
+    const Drawing drawing =
+        Draw(PlotXml(ColumnsXml(many(test.series, test.name)) + AxesXml(), LegendXml(test.position)), "",
+             test.width, test.height);
     EXPECT_EQ(ItemsOf(drawing, Role::kLegendKey).size(), test.entries) << test.what;
-    EXPECT_EQ(notes_, test.notes) << test.what;
+    const S some = std::to_string(test.entries);
+    Texts notes = {"The legend has room for " + some + " of its entries; the others are left out."};
+    if (test.entries == static_cast<std::size_t>(test.series)) notes.clear();
+    if (test.entries == 0) notes = {"There is no space for the legend, which is left out."};
+    EXPECT_EQ(notes_, notes) << test.what;
     const Rect legend = BoxOf(drawing, Role::kLegend), plot = BoxOf(drawing, Role::kPlotArea);
     if (test.entries > 0) {
       EXPECT_FALSE(Overlap(legend, plot)) << test.what;
@@ -153,13 +113,78 @@ TEST_F(LayoutTest, ALegendShowsTheEntriesThatFitAndDoesNotCoverThePlot) {
   }
 }
 
+TEST_F(LayoutTest, ALegendThatWasMovedHasTheSizeOfTheAutomaticOne) {
+  const S frame = "<c:spPr>" + SolidXml("FFFFCC") + "</c:spPr>";
+  const auto boxes = [](const Drawing& drawing) {
+    std::vector<Rect> all = BoxesOf(drawing, Role::kLegend);
+    for (const Role role : {Role::kLegendKey, Role::kLegendEntry}) {
+      for (const Rect& box : BoxesOf(drawing, role)) all.push_back(box);
+    }
+    return all;
+  };
+  const auto usual = boxes(DrawColumns(LegendXml("r", frame)));
+  ASSERT_EQ(usual.size(), 7u);
+  const struct {
+    S mode, x;
+    double left, top;  // of the moved legend, in points
+  } cases[] = {{"factor", "-0.25", usual[0].left - 96, usual[0].top + 27},
+               {"edge", "0.25", 96, 27},
+               {"edge", "-0.25", 0, 27}};
+  for (const auto& test : cases) {
+    const auto moved = boxes(DrawColumns(LegendXml(
+        "r", "<c:layout><c:manualLayout><c:xMode val=\"" + test.mode + "\"/><c:yMode val=\"" + test.mode +
+                 "\"/><c:x val=\"" + test.x + "\"/><c:y val=\"0.1\"/></c:manualLayout></c:layout>" + frame)));
+    ASSERT_EQ(moved.size(), usual.size()) << test.mode;
+    for (std::size_t i = 0; i < usual.size(); ++i) {
+      EXPECT_NEAR(moved[i].left - usual[i].left, test.left - usual[0].left, 1e-6) << test.mode << test.x << i;
+      EXPECT_NEAR(moved[i].top - usual[i].top, test.top - usual[0].top, 1e-6) << test.mode << test.x << i;
+      EXPECT_NEAR(moved[i].width, usual[i].width, 1e-6) << test.mode << test.x << i;
+      EXPECT_NEAR(moved[i].height, usual[i].height, 1e-6) << test.mode << test.x << i;
+    }
+  }
+}
+
+TEST_F(LayoutTest, ColumnsOfALegendAreAsWideAsTheirWidestEntry) {
+  Texts names;
+  for (int i = 0; i < 60; ++i) names.push_back(i < 5 ? "Northern" : i < 30 ? "Nord" : "N");
+  const Drawing drawing =
+      Draw(PlotXml("<c:pieChart><c:varyColors val=\"1\"/>" +
+                       SeriesXml(0, Numbers(60, 1), "", "", CategoriesXml(names)) + "</c:pieChart>",
+                   LegendXml("r")));
+  std::map<long, double> columns;  // the right end of each column, by its left end
+  const auto keys = BoxesOf(drawing, Role::kLegendKey), texts = BoxesOf(drawing, Role::kLegendEntry);
+  ASSERT_EQ(keys.size(), texts.size());
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    double& right = columns[std::lround(keys[i].left * 100)];
+    right = std::max(right, texts[i].Right());
+  }
+  ASSERT_GE(columns.size(), 3u);
+  for (auto next = std::next(columns.begin()); next != columns.end(); ++next) {
+    EXPECT_NEAR(static_cast<double>(next->first) / 100 - std::prev(next)->second, 9, 0.02);
+  }
+}
+
+TEST_F(LayoutTest, ThePlotAreaKeepsItsLeastShareOfTheChart) {
+  const S title =
+      "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:rPr sz=\"4000\"/><a:t>Sales of the year</a:t></a:r>"
+      "</a:p></c:rich></c:tx></c:title>";
+  for (const auto& [width, height] : {std::pair(384.0, 60.0), {60.0, 270.0}, {40.0, 40.0}}) {
+    const Drawing drawing = Draw(title + "<c:plotArea>" + ColumnsXml(SeriesXml(0, {1, 2})) + AxesXml() +
+                                     "</c:plotArea>" + LegendXml("b"),
+                                 "", width, height);
+    const Rect plot = BoxOf(drawing, Role::kPlotArea);
+    EXPECT_GE(plot.width, 0.1 * width - 1e-6) << width;
+    EXPECT_GE(plot.height, 0.1 * height - 1e-6) << height;
+    EXPECT_TRUE(plot.left >= 0 && plot.top >= 0 && plot.Right() <= width && plot.Bottom() <= height) << width;
+  }
+}
+
 TEST_F(LayoutTest, TitlesWrapKeepTheirRunsAndTakeSpace) {
   const S title =
-      "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:rPr sz=\"1400\" b=\"0\" u=\"sng\"/><a:t>Plain and "
-      "</a:t></a:r><a:r>"
-      "<a:rPr sz=\"1400\" i=\"1\"><a:solidFill><a:srgbClr "
-      "val=\"C00000\"/></a:solidFill></a:rPr><a:t>red</a:t></a:r></a:p>"
-      "<a:p><a:r><a:t>below</a:t></a:r></a:p></c:rich></c:tx></c:title>";
+      "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:rPr sz=\"1400\" b=\"0\" u=\"sng\"/>"
+      "<a:t>Plain and </a:t></a:r><a:r><a:rPr sz=\"1400\" i=\"1\"><a:solidFill><a:srgbClr val=\"C00000\"/>"
+      "</a:solidFill></a:rPr><a:t>red</a:t></a:r></a:p><a:p><a:r><a:t>below</a:t></a:r></a:p></c:rich>"
+      "</c:tx></c:title>";
   const Drawing with = DrawColumns("", "", title), without = DrawColumns("");
   EXPECT_EQ(DrawingComplaints(with), "");
   EXPECT_EQ(TextsOf(with, Role::kTitle), (Texts{"Plain and ", "red", "below"}));
@@ -215,8 +240,7 @@ TEST_F(LayoutTest, DarkStylesHaveTheirFillingsAndTexts) {
   const auto newer = [](const S& number) {
     return "<mc:AlternateContent xmlns:mc=\"http://schemas.openxmlformats.org/markup-compatibility/2006\">"
            "<mc:Choice Requires=\"c14\" "
-           "xmlns:c14=\"http://schemas.microsoft.com/office/drawing/2007/8/2/chart\">"
-           "<c14:style val=\"" +
+           "xmlns:c14=\"http://schemas.microsoft.com/office/drawing/2007/8/2/chart\"><c14:style val=\"" +
            number + "\"/></mc:Choice></mc:AlternateContent>";
   };
   struct {
@@ -317,22 +341,21 @@ TEST_F(LayoutTest, ATitleWithoutACacheHasTheTextOfItsCell) {
 
 TEST_F(LayoutTest, FillingsAndLinesAreTheChartParts) {
   const S look =
-      "<c:spPr><a:solidFill><a:srgbClr val=\"00B050\"><a:alpha "
-      "val=\"50000\"/></a:srgbClr></a:solidFill><a:ln w=\"25400\" "
-      "cap=\"rnd\"><a:solidFill><a:schemeClr val=\"accent2\"/></a:solidFill><a:prstDash "
-      "val=\"dash\"/></a:ln></c:spPr>";
+      "<c:spPr><a:solidFill><a:srgbClr val=\"00B050\"><a:alpha val=\"50000\"/></a:srgbClr>"
+      "</a:solidFill><a:ln w=\"25400\" cap=\"rnd\"><a:solidFill><a:schemeClr val=\"accent2\"/>"
+      "</a:solidFill><a:prstDash val=\"dash\"/></a:ln></c:spPr>";
   const S series =
       SeriesXml(0, {1, 2}, look + "<c:dPt><c:idx val=\"1\"/><c:spPr><a:noFill/></c:spPr></c:dPt>");
   const Drawing drawing =
-      Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>", series) +
-                   AxesXml() + "<c:spPr><a:solidFill><a:srgbClr val=\"FFFF99\"/></a:solidFill></c:spPr>"),
+      Draw(PlotXml(ColumnsXml(series) + AxesXml() +
+                   "<c:spPr><a:solidFill><a:srgbClr val=\"FFFF99\"/></a:solidFill></c:spPr>"),
            "<c:spPr><a:solidFill><a:srgbClr val=\"EEEEEE\"/></a:solidFill><a:ln><a:noFill/></a:ln></c:spPr>");
   const auto bars = ItemsOf(drawing, Role::kBar);
   const auto& first = std::get<PathItem>(bars[0].content);
   EXPECT_EQ(std::get<render::SolidFill>(first.fill).color, (render::Color{0, 0xB0, 0x50, 0.5}));
   EXPECT_EQ(HexOf(first.stroke.color), "#C0504D");
   EXPECT_EQ(first.stroke.width, 2);
-  EXPECT_EQ(first.stroke.dashes, (std::vector<double>{8, 6}));
+  EXPECT_EQ(first.stroke.dashes, (Numbers{8, 6}));
   EXPECT_EQ(first.stroke.cap, render::LineCap::kRound);
   EXPECT_EQ(FillOf(bars[1]), "none");
   EXPECT_EQ(std::get<PathItem>(bars[1].content).stroke.width,

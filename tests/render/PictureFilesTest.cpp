@@ -10,17 +10,11 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
 using render::MakePdf;
 using render::MakePng;
 using render::MakeSvg;
 using render::Path;
-using render::PathItem;
-using render::Rect;
-using render::Role;
 using render::SolidFill;
-using render::TextItem;
-using S = std::string;
 
 class PictureFilesTest : public DrawingTest {
  protected:
@@ -45,10 +39,8 @@ class PictureFilesTest : public DrawingTest {
   }
   Drawing Columns(int series, int points) {
     S all;
-    for (int s = 0; s < series; ++s)
-      all += SeriesXml(s, std::vector<double>(static_cast<std::size_t>(points), s + 1));
-    return Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>", all) +
-                        AxesXml()));
+    for (int s = 0; s < series; ++s) all += SeriesXml(s, Numbers(static_cast<std::size_t>(points), s + 1));
+    return Draw(PlotXml(ColumnsXml(all) + AxesXml()));
   }
 };
 
@@ -57,23 +49,16 @@ TEST_F(PictureFilesTest, SvgHasTextsAsTextsAndFewBytes) {
   const S id = Between(svg, "<clipPath id=\"", "\"><path").substr(S("<clipPath id=\"").size());
   EXPECT_EQ(svg,
             "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"72pt\" height=\"36pt\" viewBox=\"0 0 72 36\" "
-            "role=\"img\" "
-            "font-family=\"Calibri,Carlito,sans-serif\" font-size=\"12\">\n"
-            "<title>Bread &amp; butter</title>\n<desc>Series &quot;A&quot;: 1 &lt; 2</desc>\n"
-            "<defs><clipPath id=\"" +
+            "role=\"img\" font-family=\"Calibri,Carlito,sans-serif\" font-size=\"12\">\n<title>Bread &amp; "
+            "butter</title>\n<desc>Series &quot;A&quot;: 1 &lt; 2</desc>\n<defs><clipPath id=\"" +
                 id +
-                "\"><path d=\"M10 10h20v20h-20z\"/></clipPath></defs>\n"
-                "<path d=\"M0 0h72v36h-72z\" fill=\"#FF0\"/>\n"
-                "<g clip-path=\"url(#" +
+                "\"><path d=\"M10 10h20v20h-20z\"/></clipPath></defs>\n<path d=\"M0 0h72v36h-72z\" "
+                "fill=\"#FF0\"/>\n<g clip-path=\"url(#" +
                 id +
-                ")\">\n"
-                "<path d=\"M0 0h72v36h-72z\" fill=\"#00F\" stroke=\"#FF0000\" stroke-opacity=\".5\" "
-                "stroke-width=\"1.5\" "
-                "stroke-dasharray=\"3 1.5\" stroke-linecap=\"round\" stroke-linejoin=\"round\"/>\n"
-                "</g>\n"
-                "<text x=\"36\" y=\"30\" transform=\"rotate(-90 36 30)\" text-anchor=\"middle\" "
-                "font-weight=\"bold\" "
-                "font-style=\"italic\" "
+                ")\">\n<path d=\"M0 0h72v36h-72z\" fill=\"#00F\" stroke=\"#FF0000\" stroke-opacity=\".5\" "
+                "stroke-width=\"1.5\" stroke-dasharray=\"3 1.5\" stroke-linecap=\"round\" "
+                "stroke-linejoin=\"round\"/>\n</g>\n<text x=\"36\" y=\"30\" transform=\"rotate(-90 36 30)\" "
+                "text-anchor=\"middle\" font-weight=\"bold\" font-style=\"italic\" "
                 "text-decoration=\"underline\" fill=\"#008000\">&lt;Größe&gt;</text>\n</svg>\n");
 }
 
@@ -151,16 +136,16 @@ TEST_F(PictureFilesTest, PngIsTheSameOnEveryRunAndAsLargeAsAsked) {
 TEST_F(PictureFilesTest, LinesAndEdgesOfPicturesLieOnPixels) {
   const render::PixelScale scale{4.0 / 3, 4.0 / 3};
   const auto places = [&](const Path& path, double width) {
-    std::vector<double> pixels;
+    Numbers pixels;
     const Path snapped = OnPixels(path, scale, width);
     for (const auto& step : snapped.Steps()) {
-      if (step.kind == render::PathStep::Kind::kClose) continue;
+      if (step.kind == PathStep::Kind::kClose) continue;
       pixels.push_back(step.to.x * scale.x);
       pixels.push_back(step.to.y * scale.y);
     }
     return pixels;
   };
-  const auto expectNear = [](const std::vector<double>& a, const std::vector<double>& b) {
+  const auto expectNear = [](const Numbers& a, const Numbers& b) {
     ASSERT_EQ(a.size(), b.size());
     for (std::size_t i = 0; i < a.size(); ++i) EXPECT_NEAR(a[i], b[i], 1e-9) << i;
   };

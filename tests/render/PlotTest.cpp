@@ -7,13 +7,7 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
 using render::Path;
-using render::PathItem;
-using render::PathStep;
-using render::Point;
-using render::Role;
-using S = std::string;
 
 class PlotTest : public DrawingTest {};
 
@@ -62,9 +56,8 @@ TEST_F(PlotTest, MarkersHaveTheirForm) {
   };
   for (const auto& test : kCases) {
     const S marker = "<c:marker><c:symbol val=\"" + test.symbol + "\"/><c:size val=\"6\"/></c:marker>";
-    const Drawing drawing = Draw(
-        PlotXml(GroupXml("lineChart", "<c:grouping val=\"standard\"/>", SeriesXml(0, {1, 2, 1}, marker)) +
-                AxesXml("", "<c:scaling><c:max val=\"4\"/><c:min val=\"0\"/></c:scaling>")));
+    const Drawing drawing =
+        Draw(PlotXml(LinesXml(SeriesXml(0, {1, 2, 1}, marker)) + AxesXml("", ScalingXml("0", "4"))));
     const auto markers = ItemsOf(drawing, Role::kMarker);
     ASSERT_EQ(markers.size(), test.form.empty() ? 0u : 3u) << test.symbol;
     if (markers.empty()) continue;
@@ -99,7 +92,7 @@ TEST_F(PlotTest, CurvesPassTheirPointsInTheDirectionOfTheirNeighbours) {
 TEST_F(PlotTest, DenseLinesKeepTheFirstTheLeastTheGreatestAndTheLastPointOfEachColumn) {
   // Columns of half a point: the heights of the points in each of them, and the places that are kept.
   struct {
-    std::vector<double> heights;
+    Numbers heights;
     std::vector<std::size_t> kept;
   } const kColumns[] = {
       {{5}, {0}},

@@ -1,44 +1,17 @@
 #include "tests/render/WholeCharts.h"
 
-#include <vector>
-
 #include "runtime/Strings.h"
 #include "tests/render/DrawingTest.h"
-#include "xlsx/package/Xml.h"
 
 namespace plotsmith::test {
 namespace {
 
-using S = std::string;
-using Numbers = std::vector<double>;
-
 S Scaling(const S& more) { return "<c:scaling>" + more + "</c:scaling>"; }
-S Columns(const S& series, const S& last = "", const S& grouping = "clustered", const S& direction = "col") {
-  return GroupXml("barChart", "<c:barDir val=\"" + direction + "\"/><c:grouping val=\"" + grouping + "\"/>",
-                  series, last);
-}
-S Lines(const S& series, const S& last = "", const S& grouping = "standard") {
-  return GroupXml("lineChart", "<c:grouping val=\"" + grouping + "\"/>", series, last);
-}
 S Labels(const S& which, const S& more = "") {
   return "<c:dLbls>" + more + "<c:" + which + " val=\"1\"/></c:dLbls>";
 }
 S Marker(const S& symbol, const S& size = "6") {
   return "<c:marker><c:symbol val=\"" + symbol + "\"/><c:size val=\"" + size + "\"/></c:marker>";
-}
-S Literal(const S& element, const Numbers& numbers) {
-  S points;
-  for (std::size_t i = 0; i < numbers.size(); ++i) {
-    points +=
-        "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>" + xlsx::xml::Number(numbers[i]) + "</c:v></c:pt>";
-  }
-  return "<c:" + element + "><c:numLit><c:ptCount val=\"" + std::to_string(numbers.size()) + "\"/>" + points +
-         "</c:numLit></c:" + element + ">";
-}
-S PointSeries(int index, const Numbers& x, const Numbers& y, const S& more = "", const S& behind = "") {
-  const S number = std::to_string(index);
-  return "<c:ser><c:idx val=\"" + number + "\"/><c:order val=\"" + number + "\"/>" + more +
-         Literal("xVal", x) + Literal("yVal", y) + behind + "</c:ser>";
 }
 S With(S xml, const S& from, const S& to) { return runtime::Replace(xml, from, to); }
 S Title(const S& text) {
@@ -47,21 +20,10 @@ S Title(const S& text) {
 }
 /// Categories of two levels.
 S Levels() {
-  const auto level = [](const std::vector<std::pair<int, S>>& texts) {
-    S xml = "<c:lvl>";
-    for (const auto& [index, text] : texts)
-      xml += "<c:pt idx=\"" + std::to_string(index) + "\"><c:v>" + text + "</c:v></c:pt>";
-    return xml + "</c:lvl>";
-  };
-  return "<c:cat><c:multiLvlStrRef><c:f>Sheet1!$A$1:$B$5</c:f><c:multiLvlStrCache><c:ptCount val=\"5\"/>" +
-         level({{0, "Jan"}, {1, "Feb"}, {2, "Mar"}, {3, "Apr"}, {4, "May"}}) +
-         level({{0, "North"}, {2, "A long name of the south and all of its many islands"}}) +
-         "</c:multiLvlStrCache></c:multiLvlStrRef></c:cat>";
+  return LevelsXml(5, {{{0, "Jan"}, {1, "Feb"}, {2, "Mar"}, {3, "Apr"}, {4, "May"}},
+                       {{0, "North"}, {2, "A long name of the south and all of its many islands"}}});
 }
 
-S Solid(const S& color, const S& more = "") {
-  return "<a:solidFill><a:srgbClr val=\"" + color + "\">" + more + "</a:srgbClr></a:solidFill>";
-}
 S Look(const S& fill, const S& line = "") {
   return "<c:spPr>" + fill + (line.empty() ? "" : "<a:ln w=\"25400\">" + line + "</a:ln>") + "</c:spPr>";
 }
@@ -75,11 +37,8 @@ const S kMarksIn = "<c:majorTickMark val=\"in\"/><c:minorTickMark val=\"out\"/>"
 }  // namespace
 
 std::map<std::string, Whole> WholeCharts() {
-  const S valueAxes = With(AxesXml(kGrid, kGrid), "catAx", "valAx");
-  const S dates =
-      "<c:cat><c:numLit><c:formatCode>m-d</c:formatCode><c:ptCount val=\"3\"/><c:pt idx=\"0\"><c:v>45292"
-      "</c:v></c:pt><c:pt idx=\"1\"><c:v>45296</c:v></c:pt><c:pt idx=\"2\"><c:v>45294</c:v></c:pt>"
-      "</c:numLit></c:cat>";
+  const S valueAxes = ValueAxesXml(kGrid, kGrid);
+  const S dates = NumbersXml("cat", {45292, 45296, 45294}, "m-d");
   const S reversed = Scaling("<c:orientation val=\"maxMin\"/>");
   const S slices = "<c:pieChart><c:varyColors val=\"1\"/>";
   const auto ofPie = [](const S& type) {
@@ -92,6 +51,10 @@ std::map<std::string, Whole> WholeCharts() {
   const S wide = CategoriesXml({"Northern hemisphere", "Equator", "Southern hemisphere"});
   Numbers small = {40, 30};
   for (int i = 0; i < 14; ++i) small.push_back(1.5 + i % 3);
+  Numbers crowded(12, 1);  // small slices at the top and at the bottom
+  crowded.push_back(60);
+  crowded.insert(crowded.end(), 9, 1.5);
+  crowded.push_back(70);
   const S errors =
       "<c:errBars><c:errDir val=\"y\"/><c:errBarType val=\"both\"/><c:errValType val=\"fixedVal\"/>"
       "<c:val val=\"2\"/></c:errBars>";
@@ -107,8 +70,9 @@ std::map<std::string, Whole> WholeCharts() {
   int row = 0;
   for (const char* dash : {"solid", "dash", "dashDot", "dot", "lgDash", "lgDashDot", "lgDashDotDot",
                            "sysDash", "sysDashDot", "sysDashDotDot", "sysDot"}) {
-    dashes += SeriesXml(row, {1.0 * row, 2.0 * row},
-                        Look("", Solid("7030A0") + "<a:prstDash val=\"" + S(dash) + "\"/>") + Marker("none"));
+    dashes +=
+        SeriesXml(row, {1.0 * row, 2.0 * row},
+                  Look("", SolidXml("7030A0") + "<a:prstDash val=\"" + S(dash) + "\"/>") + Marker("none"));
     ++row;
   }
   const S stops =
@@ -125,12 +89,12 @@ std::map<std::string, Whole> WholeCharts() {
                 Look("<a:pattFill prst=\"ltUpDiag\"><a:fgClr><a:srgbClr val=\"FF0000\"/></a:fgClr><a:bgClr>"
                      "<a:srgbClr val=\"FFFFFF\"/></a:bgClr></a:pattFill>")) +
       SeriesXml(3, {4},
-                Look(Solid("00B050",
-                           "<a:alpha val=\"80000\"/><a:alphaMod val=\"50000\"/><a:alphaOff "
-                           "val=\"10000\"/>"),
-                     Solid("C00000"))) +
+                Look(SolidXml("00B050",
+                              "<a:alpha val=\"80000\"/><a:alphaMod val=\"50000\"/><a:alphaOff "
+                              "val=\"10000\"/>"),
+                     SolidXml("C00000"))) +
       SeriesXml(4, {5}, Look("<a:noFill/>", "<a:noFill/>")) +
-      SeriesXml(5, {6}, Look(Solid("FFFF00"), "<a:round/>"));
+      SeriesXml(5, {6}, Look(SolidXml("FFFF00"), "<a:round/>"));
   const auto point = [](int index, const S& more) {
     return "<c:dPt><c:idx val=\"" + std::to_string(index) + "\"/>" + more + "</c:dPt>";
   };
@@ -142,13 +106,13 @@ std::map<std::string, Whole> WholeCharts() {
            "\"/><c:x val=\"0.1\"/><c:y val=\"0.2\"/><c:w val=\"0.5\"/><c:h "
            "val=\"0.4\"/></c:manualLayout></c:layout>";
   };
-  const S two = Columns(SeriesXml(0, {5, 3}) + SeriesXml(1, {1, 2}));
+  const S two = ColumnsXml(SeriesXml(0, {5, 3}) + SeriesXml(1, {1, 2}));
   const S twenty = Scaling("<c:max val=\"20\"/><c:min val=\"-10\"/>");
   const auto crossing = [&](const S& group, const S& element, const S& more = "") {
     return PlotXml(group + AxesXml(element + more, twenty));
   };
   const S both = SeriesXml(0, {-5, 2, 15}, Labels("showVal"));
-  const auto placed = [](const std::vector<S>& places, const Numbers& values, const S& more) {
+  const auto placed = [](const Texts& places, const Numbers& values, const S& more) {
     S series;
     for (std::size_t i = 0; i < places.size(); ++i) {
       series += SeriesXml(static_cast<int>(i), values,
@@ -156,12 +120,11 @@ std::map<std::string, Whole> WholeCharts() {
     }
     return series;
   };
-  const std::vector<S> barPlaces = {"outEnd", "inEnd", "ctr", "inBase"},
-                       markerPlaces = {"t", "b", "l", "r", "ctr"};
+  const Texts barPlaces = {"outEnd", "inEnd", "ctr", "inBase"}, markerPlaces = {"t", "b", "l", "r", "ctr"};
   const auto scatter = [&](const S& style, const S& marker) {
     return PlotXml(GroupXml("scatterChart", style.empty() ? "" : "<c:scatterStyle val=\"" + style + "\"/>",
-                            PointSeries(0, {1, 2}, {2, 1}, marker)) +
-                   With(AxesXml(), "catAx", "valAx"));
+                            PointsXml(0, {1, 2}, {2, 1}, marker)) +
+                   ValueAxesXml());
   };
   const auto solid = [](const S& view, const S& content, const S& behind = "") {
     return "<c:autoTitleDeleted val=\"1\"/><c:view3D>" + view + "</c:view3D>" +
@@ -184,23 +147,23 @@ std::map<std::string, Whole> WholeCharts() {
   const auto surface = [&](const S& element, const S& first, const S& view) {
     const S ridge = SeriesXml(0, {0, 0, 10}) + SeriesXml(1, {30, 15, 20}) + SeriesXml(2, {0, 0, 5});
     const S formats =
-        "<c:bandFmts><c:bandFmt><c:idx val=\"1\"/>" + Look(Solid("FFC000")) + "</c:bandFmt></c:bandFmts>";
+        "<c:bandFmts><c:bandFmt><c:idx val=\"1\"/>" + Look(SolidXml("FFC000")) + "</c:bandFmt></c:bandFmts>";
     return solid(view,
                  GroupXml(element, first, ridge, formats + "<c:axId val=\"3\"/>") +
                      AxesXml("", "<c:majorUnit val=\"10\"/>") + depth,
                  kLegend);
   };
-  const auto dated = [](const std::vector<double>& serials, const S& axis) {
-    const S cells = With(Literal("cat", serials), "<c:numLit>", "<c:numLit><c:formatCode>m-d</c:formatCode>");
+  const auto dated = [](const Numbers& serials, const S& axis) {
     return PlotXml(
-        Lines(SeriesXml(0, Numbers(serials.size(), 2), "", "", cells), "<c:marker val=\"1\"/>") +
-        With(AxesXml("<c:numFmt formatCode=\"m-d\" sourceLinked=\"0\"/>" + axis), "catAx", "dateAx"));
+        LinesXml(SeriesXml(0, Numbers(serials.size(), 2), "", "", NumbersXml("cat", serials, "m-d")),
+                 "<c:marker val=\"1\"/>") +
+        DateAxesXml("<c:numFmt formatCode=\"m-d\" sourceLinked=\"0\"/>" + axis));
   };
   const auto named = [](std::size_t count, const S& name, const S& axis = "", bool lying = false) {
-    std::vector<S> names;
+    Texts names;
     for (std::size_t i = 1; i <= count; ++i) names.push_back(name + std::to_string(i));
-    return PlotXml(Columns(SeriesXml(0, Numbers(count, 5), "", "", CategoriesXml(names)), "", "clustered",
-                           lying ? "bar" : "col") +
+    return PlotXml(ColumnsXml(SeriesXml(0, Numbers(count, 5), "", "", CategoriesXml(names)), "", "clustered",
+                              lying ? "bar" : "col") +
                    AxesXml(axis, "", lying));
   };
   const auto turned = [](const S& angle) {
@@ -208,8 +171,8 @@ std::map<std::string, Whole> WholeCharts() {
   };
   const auto table = [&](const S& more, const S& axis = "") {
     return PlotXml(
-        Columns(SeriesXml(0, {1.5, 20}, "", "", CategoriesXml({"North", "A long name of the south"})) +
-                SeriesXml(1, {3, kNoValue})) +
+        ColumnsXml(SeriesXml(0, {1.5, 20}, "", "", CategoriesXml({"North", "A long name of the south"})) +
+                   SeriesXml(1, {3, kNoValue})) +
         AxesXml(axis) + "<c:dTable>" + more + "</c:dTable>");
   };
   const S boldTable =
@@ -217,7 +180,7 @@ std::map<std::string, Whole> WholeCharts() {
       "<c:txPr><a:bodyPr/><a:p><a:pPr><a:defRPr sz=\"800\" b=\"1\"/></a:pPr></a:p></c:txPr>";
   const auto cast = [](const S& attributes) {
     return Look(
-        Solid("00B050") + "<a:effectLst><a:outerShdw " + attributes +
+        SolidXml("00B050") + "<a:effectLst><a:outerShdw " + attributes +
         "><a:srgbClr val=\"112233\"><a:alpha val=\"40000\"/></a:srgbClr></a:outerShdw></a:effectLst>");
   };
   S shadows;
@@ -229,16 +192,17 @@ std::map<std::string, Whole> WholeCharts() {
   const auto errorBars = [](const S& way, const S& more) {
     return "<c:errBars><c:errDir val=\"" + way +
            "\"/><c:errBarType val=\"both\"/><c:errValType val=\"fixedVal\"/>" + more + "<c:val val=\"1\"/>" +
-           Look("", Solid("00B050")) + "</c:errBars>";
+           Look("", SolidXml("00B050")) + "</c:errBars>";
   };
   const S disc = "<c:pie3DChart><c:varyColors val=\"1\"/>";
   return {
-      {"bars-percent",
-       PlotXml(Columns(SeriesXml(0, {10, 25, 0.5}) + SeriesXml(1, {30, 5, 12}), "", "percentStacked", "bar") +
-               AxesXml("", "", true))},
-      {"bars-stacked", PlotXml(Columns(SeriesXml(0, {10, 25, 0.5}) + SeriesXml(1, {30, -5, 12}),
-                                       "<c:gapWidth val=\"50\"/><c:overlap val=\"100\"/>", "stacked", "bar") +
+      {"bars-percent", PlotXml(ColumnsXml(SeriesXml(0, {10, 25, 0.5}) + SeriesXml(1, {30, 5, 12}), "",
+                                          "percentStacked", "bar") +
                                AxesXml("", "", true))},
+      {"bars-stacked",
+       PlotXml(ColumnsXml(SeriesXml(0, {10, 25, 0.5}) + SeriesXml(1, {30, -5, 12}),
+                          "<c:gapWidth val=\"50\"/><c:overlap val=\"100\"/>", "stacked", "bar") +
+               AxesXml("", "", true))},
       {"dates-by-days", dated({45322, 45323, 45412},
                               "<c:baseTimeUnit val=\"days\"/><c:majorUnit val=\"1\"/>"
                               "<c:majorTimeUnit val=\"months\"/>")},
@@ -250,11 +214,11 @@ std::map<std::string, Whole> WholeCharts() {
       {"dates-that-are-none", dated({1, 1e9}, "")},
       {"errors-both-ways",
        PlotXml(GroupXml("scatterChart", "<c:scatterStyle val=\"marker\"/>",
-                        PointSeries(0, {2, 5}, {4, 3},
-                                    errorBars("y", "") + errorBars("x", "<c:noEndCap val=\"1\"/>"))) +
-               With(AxesXml(), "catAx", "valAx"))},
+                        PointsXml(0, {2, 5}, {4, 3},
+                                  errorBars("y", "") + errorBars("x", "<c:noEndCap val=\"1\"/>"))) +
+               ValueAxesXml())},
       {"errors-of-shares",
-       PlotXml(Columns(SeriesXml(0, {2, 4}, errors) + SeriesXml(1, {2, 6}, errors), "", "percentStacked") +
+       PlotXml(ColumnsXml(SeriesXml(0, {2, 4}, errors) + SeriesXml(1, {2, 6}, errors), "", "percentStacked") +
                AxesXml())},
       {"labels-beside-bars",
        named(12, "Northern hemisphere and the islands around it, as it was counted in the year ", "", true)},
@@ -264,14 +228,14 @@ std::map<std::string, Whole> WholeCharts() {
       {"labels-turned-by-hand", named(5, "Q", turned("5400000"))},
       {"labels-upright", named(24, "Septembers")},
       {"moving-average",
-       PlotXml(Columns(SeriesXml(0, {1, 3, 5, kNoValue, 9, 7}, With(trend, "linear", "movingAvg"))) +
+       PlotXml(ColumnsXml(SeriesXml(0, {1, 3, 5, kNoValue, 9, 7}, With(trend, "linear", "movingAvg"))) +
                AxesXml())},
       {"shadows",
        Title("Sales") + "<c:autoTitleDeleted val=\"0\"/><c:plotArea>" +
-           Columns(SeriesXml(0, {3}, far + With(Labels("showVal"), "<c:dLbls>", "<c:dLbls>" + far))) +
-           Lines(SeriesXml(1, {2}, With(Marker("circle"), "</c:marker>", far + "</c:marker>"))) + AxesXml() +
-           far + "</c:plotArea><c:legend>" + far + "</c:legend>"},
-      {"shadows-aligned", PlotXml(Columns(shadows) + AxesXml())},
+           ColumnsXml(SeriesXml(0, {3}, far + With(Labels("showVal"), "<c:dLbls>", "<c:dLbls>" + far))) +
+           LinesXml(SeriesXml(1, {2}, With(Marker("circle"), "</c:marker>", far + "</c:marker>"))) +
+           AxesXml() + far + "</c:plotArea><c:legend>" + far + "</c:legend>"},
+      {"shadows-aligned", PlotXml(ColumnsXml(shadows) + AxesXml())},
       {"table-reversed", table("<c:showOutline val=\"1\"/>" + boldTable, reversed)},
       {"table-with-columns", table("<c:showVertBorder val=\"1\"/><c:showKeys val=\"1\"/>")},
       {"table-with-rows", table("<c:showHorzBorder val=\"1\"/>")},
@@ -291,6 +255,16 @@ std::map<std::string, Whole> WholeCharts() {
                                                            SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels())) +
                                                       AxesXml())},
       {"3d-columns-percent", solid(rightAngles, bodies("percentStacked", "col"))},
+      {"3d-lines-of-blanks", solid(perspective, GroupXml("line3DChart", "<c:grouping val=\"standard\"/>",
+                                                         SeriesXml(0, {1, 2, kNoValue, 3, 4}) +
+                                                             SeriesXml(1, {kNoValue, 3, 2, kNoValue, 5}),
+                                                         "<c:axId val=\"3\"/>") +
+                                                    AxesXml(kGrid, kBothGrids) + depth)},
+      {"3d-reversed",
+       solid("<c:rotX val=\"-20\"/><c:rotY val=\"120\"/><c:perspective val=\"40\"/>",
+             GroupXml("bar3DChart", "<c:barDir val=\"col\"/>", SeriesXml(0, {5, -3}, "", "", kNames)) +
+                 AxesXml(reversed + kGrid + kMarks, reversed + kBothGrids + kMarks) + "<c:spPr>" +
+                 SolidXml("EEEEEE") + "</c:spPr>")},
       {"3d-cones", solid(rightAngles, bodies("stacked", "col", "<c:shape val=\"coneToMax\"/>"))},
       {"3d-cylinders", solid(perspective, bodies("clustered", "col", "<c:shape val=\"cylinder\"/>"))},
       {"3d-pie", solid("<c:rotX val=\"30\"/><c:rotY val=\"40\"/>",
@@ -307,20 +281,20 @@ std::map<std::string, Whole> WholeCharts() {
       {"crossing-areas", crossing(GroupXml("areaChart", "", both), "<c:crossesAt val=\"5\"/>")},
       {"crossing-areas-stacked",
        crossing(GroupXml("areaChart", "<c:grouping val=\"stacked\"/>", both), "<c:crossesAt val=\"5\"/>")},
-      {"crossing-columns", crossing(Columns(both), "<c:crossesAt val=\"5\"/>")},
-      {"crossing-columns-stacked", crossing(Columns(both, "", "stacked"), "<c:crossesAt val=\"5\"/>")},
-      {"crossing-drop-lines", crossing(Lines(both, "<c:dropLines/>"), "<c:crossesAt val=\"5\"/>")},
-      {"crossing-least", crossing(Columns(both), "<c:crosses val=\"min\"/>")},
-      {"crossing-low-labels", crossing(Columns(both), "", "<c:tickLblPos val=\"low\"/>")},
-      {"crossing-most", crossing(Columns(both), "<c:crosses val=\"max\"/>")},
+      {"crossing-columns", crossing(ColumnsXml(both), "<c:crossesAt val=\"5\"/>")},
+      {"crossing-columns-stacked", crossing(ColumnsXml(both, "", "stacked"), "<c:crossesAt val=\"5\"/>")},
+      {"crossing-drop-lines", crossing(LinesXml(both, "<c:dropLines/>"), "<c:crossesAt val=\"5\"/>")},
+      {"crossing-least", crossing(ColumnsXml(both), "<c:crosses val=\"min\"/>")},
+      {"crossing-low-labels", crossing(ColumnsXml(both), "", "<c:tickLblPos val=\"low\"/>")},
+      {"crossing-most", crossing(ColumnsXml(both), "<c:crosses val=\"max\"/>")},
       {"labels-of-bars",
-       PlotXml(Columns(placed(barPlaces, {20, -60}, ""), "", "clustered", "bar") + AxesXml("", "", true))},
-      {"labels-of-columns", PlotXml(Columns(placed(barPlaces, {20, -60}, "")) + AxesXml())},
+       PlotXml(ColumnsXml(placed(barPlaces, {20, -60}, ""), "", "clustered", "bar") + AxesXml("", "", true))},
+      {"labels-of-columns", PlotXml(ColumnsXml(placed(barPlaces, {20, -60}, "")) + AxesXml())},
       {"labels-of-markers",
-       PlotXml(Lines(placed(markerPlaces, {40, 50, 45}, Marker("dot", "8"))) + AxesXml())},
-      {"levels-as-one-text", PlotXml(Columns(SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels())) +
+       PlotXml(LinesXml(placed(markerPlaces, {40, 50, 45}, Marker("dot", "8"))) + AxesXml())},
+      {"levels-as-one-text", PlotXml(ColumnsXml(SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels())) +
                                      AxesXml("<c:noMultiLvlLbl val=\"1\"/><c:majorTickMark val=\"none\"/>"))},
-      {"levels-on-marks", PlotXml(Columns(SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels())) +
+      {"levels-on-marks", PlotXml(ColumnsXml(SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels())) +
                                   AxesXml("", "<c:crossBetween val=\"midCat\"/>"))},
       {"radar-standard",
        PlotXml(GroupXml("radarChart", "<c:radarStyle val=\"standard\"/>", SeriesXml(0, {10, 5, 2})) +
@@ -329,8 +303,8 @@ std::map<std::string, Whole> WholeCharts() {
       {"scatter-line", scatter("line", Marker("none"))},
       {"scatter-marker", scatter("marker", Marker("square"))},
       {"stacked-overlap",
-       PlotXml(Columns(SeriesXml(0, {4, -2}) + SeriesXml(1, {1, 3}) + SeriesXml(2, {1, -3}),
-                       "<c:overlap val=\"40\"/>", "stacked") +
+       PlotXml(ColumnsXml(SeriesXml(0, {4, -2}) + SeriesXml(1, {1, 3}) + SeriesXml(2, {1, -3}),
+                          "<c:overlap val=\"40\"/>", "stacked") +
                AxesXml())},
       {"layout-by-hand",
        PlotXml(layout("<c:layoutTarget val=\"inner\"/>", "edge") + two + AxesXml(Title("X"), Title("Y")),
@@ -342,15 +316,15 @@ std::map<std::string, Whole> WholeCharts() {
       {"legend-top", Title("All sales") + "<c:autoTitleDeleted val=\"0\"/><c:plotArea>" + two + AxesXml() +
                          "</c:plotArea>" + legend("t")},
       {"line-points",
-       PlotXml(Lines(SeriesXml(0, {1, 3, 2, 4},
-                               Marker("square", "8") +
-                                   point(1, Marker("diamond", "12") + Look("", Solid("FF0000"))) +
-                                   point(2, Look("", "<a:noFill/>"))) +
-                     SeriesXml(1, {2, 2, 2, 2}, "")) +
+       PlotXml(LinesXml(SeriesXml(0, {1, 3, 2, 4},
+                                  Marker("square", "8") +
+                                      point(1, Marker("diamond", "12") + Look("", SolidXml("FF0000"))) +
+                                      point(2, Look("", "<a:noFill/>"))) +
+                        SeriesXml(1, {2, 2, 2, 2}, "")) +
                    AxesXml(),
                kLegend)},
-      {"looks-of-fills", PlotXml(Columns(fills) + AxesXml(), kLegend)},
-      {"looks-of-lines", PlotXml(Lines(dashes) + AxesXml())},
+      {"looks-of-fills", PlotXml(ColumnsXml(fills) + AxesXml(), kLegend)},
+      {"looks-of-lines", PlotXml(LinesXml(dashes) + AxesXml())},
       {"ring-of-one", PlotXml("<c:doughnutChart>" + SeriesXml(0, {3, 0}, "<c:explosion val=\"25\"/>") +
                               SeriesXml(1, {1, 2}) + "<c:holeSize val=\"60\"/></c:doughnutChart>")},
       {"bar-of-pie",
@@ -383,88 +357,87 @@ std::map<std::string, Whole> WholeCharts() {
                                    AxesXml(kMarks, "<c:crossBetween val=\"midCat\"/>" + kMarksIn),
                                kLegend)},
       {"bars-of-levels",
-       PlotXml(Columns(SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels()), "", "clustered", "bar") +
+       PlotXml(ColumnsXml(SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels()), "", "clustered", "bar") +
                AxesXml(kMarks, kBothGrids + kMarks, true))},
       {"bars-reversed",
-       PlotXml(Columns(SeriesXml(0, {5, -3}, Labels("showVal"), "", kNames) +
-                           SeriesXml(1, {1, 2}, Labels("showVal", "<c:dLblPos val=\"inBase\"/>")),
-                       "<c:gapWidth val=\"50\"/><c:overlap val=\"-20\"/>", "clustered", "bar") +
+       PlotXml(ColumnsXml(SeriesXml(0, {5, -3}, Labels("showVal"), "", kNames) +
+                              SeriesXml(1, {1, 2}, Labels("showVal", "<c:dLblPos val=\"inBase\"/>")),
+                          "<c:gapWidth val=\"50\"/><c:overlap val=\"-20\"/>", "clustered", "bar") +
                AxesXml(reversed + "<c:tickLblPos val=\"low\"/>",
                        reversed + kGrid + "<c:tickLblPos val=\"high\"/>" + kMarks, true))},
       {"bubbles",
        PlotXml(
            GroupXml("bubbleChart", "",
-                    With(PointSeries(0, {1, 2, 3}, {3, 1, 2}, Labels("showVal", "<c:dLblPos val=\"r\"/>")),
-                         "</c:ser>", Literal("bubbleSize", {4, 1, -2}) + "</c:ser>"),
+                    With(PointsXml(0, {1, 2, 3}, {3, 1, 2}, Labels("showVal", "<c:dLblPos val=\"r\"/>")),
+                         "</c:ser>", NumbersXml("bubbleSize", {4, 1, -2}) + "</c:ser>"),
                     "<c:bubbleScale val=\"60\"/><c:showNegBubbles val=\"1\"/><c:sizeRepresents val=\"w\"/>") +
            valueAxes)},
       {"columns-labels",
-       PlotXml(
-           Columns(SeriesXml(0, {20, -5, 80}, Labels("showVal", "<c:showLegendKey val=\"1\"/>"), "", kNames) +
+       PlotXml(ColumnsXml(
+                   SeriesXml(0, {20, -5, 80}, Labels("showVal", "<c:showLegendKey val=\"1\"/>"), "", kNames) +
                    SeriesXml(1, {10, 5, 40}, Labels("showCatName", "<c:dLblPos val=\"ctr\"/>")) +
                    SeriesXml(2, {1, 5, 4}, Labels("showSerName", "<c:dLblPos val=\"inEnd\"/>"))) +
-               AxesXml(Title("Regions") + kMarksIn, Title("Sales") + kBothGrids + kMarks),
-           "<c:legend><c:legendPos val=\"b\"/></c:legend>")},
+                   AxesXml(Title("Regions") + kMarksIn, Title("Sales") + kBothGrids + kMarks),
+               "<c:legend><c:legendPos val=\"b\"/></c:legend>")},
       {"columns-of-levels",
-       PlotXml(Columns(SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels())) + AxesXml(kGrid + kMarks))},
+       PlotXml(ColumnsXml(SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels())) + AxesXml(kGrid + kMarks))},
       {"columns-percent",
-       PlotXml(Columns(SeriesXml(0, {5, 3, 0}) + SeriesXml(1, {1, -2, 0}),
-                       "<c:overlap val=\"100\"/><c:serLines/>", "percentStacked") +
+       PlotXml(ColumnsXml(SeriesXml(0, {5, 3, 0}) + SeriesXml(1, {1, -2, 0}),
+                          "<c:overlap val=\"100\"/><c:serLines/>", "percentStacked") +
                AxesXml("", Scaling("<c:orientation val=\"maxMin\"/>") + "<c:crosses val=\"max\"/>"))},
-      {"columns-shadow", PlotXml(Columns(SeriesXml(0, {5, 3}, shadow)) + AxesXml(), kLegend)},
+      {"columns-shadow", PlotXml(ColumnsXml(SeriesXml(0, {5, 3}, shadow)) + AxesXml(), kLegend)},
       {"columns-slanted",
-       PlotXml(Columns(SeriesXml(
+       PlotXml(ColumnsXml(SeriesXml(
                    0, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}, "", "",
                    CategoriesXml({"Januaries", "Februaries", "Marches", "Aprils", "Mays", "Junes", "Julies",
                                   "Augusts", "Septembers", "Octobers", "Novembers", "Decembers"}))) +
                AxesXml("", kGrid))},
       {"columns-table",
-       PlotXml(Columns(SeriesXml(0, {20, 5}, "", "", kNames) + SeriesXml(1, {1, 2})) + AxesXml() +
+       PlotXml(ColumnsXml(SeriesXml(0, {20, 5}, "", "", kNames) + SeriesXml(1, {1, 2})) + AxesXml() +
                "<c:dTable><c:showHorzBorder val=\"1\"/><c:showVertBorder val=\"1\"/><c:showOutline "
                "val=\"1\"/><c:showKeys val=\"1\"/></c:dTable>")},
       {"columns-upright",
-       PlotXml(Columns(SeriesXml(0, Numbers(30, 2), "", "", wide)) +
+       PlotXml(ColumnsXml(SeriesXml(0, Numbers(30, 2), "", "", wide)) +
                AxesXml("<c:txPr><a:bodyPr rot=\"-5400000\"/><a:p><a:pPr><a:defRPr/></a:pPr></a:p>"
                        "</c:txPr><c:tickLblSkip val=\"2\"/><c:tickMarkSkip val=\"3\"/>" +
                        kMarks))},
       {"columns-wrapped",
-       PlotXml(Columns(SeriesXml(0, {1, 2, 3}, "", "", wide)) +
+       PlotXml(ColumnsXml(SeriesXml(0, {1, 2, 3}, "", "", wide)) +
                AxesXml("<c:crosses val=\"max\"/>" + kMarks, "<c:crossesAt val=\"2\"/>" + kMarksIn))},
       {"dates-days",
-       PlotXml(Lines(SeriesXml(0, {1, 3, 2}, Marker("circle"), "", dates)) +
-               With(AxesXml("<c:numFmt formatCode=\"m-d\" sourceLinked=\"0\"/>" + kGrid + kMarks), "catAx",
-                    "dateAx"))},
+       PlotXml(LinesXml(SeriesXml(0, {1, 3, 2}, Marker("circle"), "", dates)) +
+               DateAxesXml("<c:numFmt formatCode=\"m-d\" sourceLinked=\"0\"/>" + kGrid + kMarks))},
       {"dates-midcat",
        PlotXml(GroupXml("areaChart", "", SeriesXml(0, {1, 3, 2}, "", "", dates)) +
-               With(AxesXml("<c:numFmt formatCode=\"m-d\" sourceLinked=\"0\"/>" + kMarks + kGrid,
-                            "<c:crossBetween val=\"midCat\"/>"),
-                    "catAx", "dateAx"))},
+               DateAxesXml("<c:numFmt formatCode=\"m-d\" sourceLinked=\"0\"/>" + kMarks + kGrid,
+                           "<c:crossBetween val=\"midCat\"/>"))},
       {"doughnut",
        PlotXml("<c:doughnutChart><c:varyColors val=\"1\"/>" + SeriesXml(0, {3, 2, 1}, Labels("showPercent")) +
                    SeriesXml(1, {1, 1, 1}, "<c:explosion val=\"10\"/>" + Labels("showVal")) +
                    "<c:firstSliceAng val=\"30\"/><c:holeSize val=\"40\"/></c:doughnutChart>",
                kLegend)},
       {"errors-and-trends",
-       PlotXml(Columns(SeriesXml(0, {2, 4, 3, 6}, trend + errors)) + AxesXml(), kLegend)},
+       PlotXml(ColumnsXml(SeriesXml(0, {2, 4, 3, 6}, trend + errors)) + AxesXml(), kLegend)},
       {"lines-gaps",
-       PlotXml(Lines(SeriesXml(0, {1, kNoValue, 3, 2}, Marker("none")) +
-                     SeriesXml(1, {3, kNoValue, kNoValue, 1},
-                               Marker("diamond") + Labels("showVal", "<c:dLblPos val=\"t\"/>"),
-                               "<c:smooth val=\"1\"/>") +
-                     SeriesXml(2, {2, 2.5, 2, 4}, Marker("x") + Labels("showVal", "<c:dLblPos val=\"b\"/>"),
-                               "<c:smooth val=\"1\"/>")) +
-                   AxesXml("", kGrid),
-               "<c:dispBlanksAs val=\"span\"/>")},
+       PlotXml(
+           LinesXml(SeriesXml(0, {1, kNoValue, 3, 2}, Marker("none")) +
+                    SeriesXml(1, {3, kNoValue, kNoValue, 1},
+                              Marker("diamond") + Labels("showVal", "<c:dLblPos val=\"t\"/>"),
+                              "<c:smooth val=\"1\"/>") +
+                    SeriesXml(2, {2, 2.5, 2, 4}, Marker("x") + Labels("showVal", "<c:dLblPos val=\"b\"/>"),
+                              "<c:smooth val=\"1\"/>")) +
+               AxesXml("", kGrid),
+           "<c:dispBlanksAs val=\"span\"/>")},
       {"lines-stock",
        PlotXml(
-           Lines(
+           LinesXml(
                SeriesXml(0, {2, 8, 5}) + SeriesXml(1, {9, 9, 9}) + SeriesXml(2, {6, 3, kNoValue}),
                "<c:dropLines/><c:hiLowLines/><c:upDownBars><c:gapWidth val=\"100\"/><c:upBars/><c:downBars>" +
-                   Look(Solid("C00000")) + "</c:downBars></c:upDownBars>") +
+                   Look(SolidXml("C00000")) + "</c:downBars></c:upDownBars>") +
            AxesXml("<c:tickLblPos val=\"none\"/>", kGrid))},
       {"lines-stacked",
-       PlotXml(Lines(SeriesXml(0, {1, 2}, Marker("square", "12")) + SeriesXml(1, {3, 4}, Marker("plus")), "",
-                     "stacked") +
+       PlotXml(LinesXml(SeriesXml(0, {1, 2}, Marker("square", "12")) + SeriesXml(1, {3, 4}, Marker("plus")),
+                        "", "stacked") +
                    AxesXml(),
                kLegend)},
       {"pie-inside",
@@ -482,6 +455,13 @@ std::map<std::string, Whole> WholeCharts() {
                                              "</c:dLbls>", "<c:showLeaderLines val=\"1\"/></c:dLbls>"),
                                         "", kNames) +
                               "</c:pieChart>")},
+      {"pie-crowded",
+       PlotXml(slices +
+               SeriesXml(0, crowded,
+                         With(Labels("showCatName", "<c:dLblPos val=\"outEnd\"/><c:showVal val=\"1\"/>"),
+                              "</c:dLbls>", "<c:showLeaderLines val=\"1\"/></c:dLbls>"),
+                         "", CategoriesXml(Texts(crowded.size(), "A slice"))) +
+               "<c:firstSliceAng val=\"340\"/></c:pieChart>")},
       {"pie-small-slices",
        PlotXml(slices + SeriesXml(0, small, Labels("showPercent", "<c:dLblPos val=\"bestFit\"/>")) +
                "<c:firstSliceAng val=\"300\"/></c:pieChart>")},
@@ -491,19 +471,17 @@ std::map<std::string, Whole> WholeCharts() {
                         AxesXml("", kGrid + kMarks))},
       {"scatter-logarithmic",
        PlotXml(GroupXml("scatterChart", "<c:scatterStyle val=\"smoothMarker\"/>",
-                        PointSeries(0, {1, 10, 200, -1}, {0.5, 40, 3, 2}, Marker("star") + trend,
-                                    "<c:smooth val=\"1\"/>")) +
-               With(AxesXml(Scaling("<c:logBase val=\"10\"/>") + kBothGrids + kMarks,
-                            Scaling("<c:logBase val=\"10\"/><c:min val=\"0.1\"/>") + kBothGrids + kMarks),
-                    "catAx", "valAx"))},
+                        PointsXml(0, {1, 10, 200, -1}, {0.5, 40, 3, 2}, Marker("star") + trend,
+                                  "<c:smooth val=\"1\"/>")) +
+               ValueAxesXml(Scaling("<c:logBase val=\"10\"/>") + kBothGrids + kMarks,
+                            Scaling("<c:logBase val=\"10\"/><c:min val=\"0.1\"/>") + kBothGrids + kMarks))},
       {"scatter-outside",
-       PlotXml(
-           GroupXml("scatterChart", "",
-                    PointSeries(0, {-2, 3, 5, 9, 4}, {2, 12, 5, 5, -9}, Marker("triangle") + errors)) +
-           With(AxesXml(Scaling("<c:max val=\"6\"/><c:min val=\"0\"/>"),
-                        Scaling("<c:max val=\"10\"/><c:min val=\"0\"/>") +
-                            "<c:dispUnits><c:builtInUnit val=\"hundreds\"/><c:dispUnitsLbl/></c:dispUnits>"),
-                "catAx", "valAx"))},
+       PlotXml(GroupXml("scatterChart", "",
+                        PointsXml(0, {-2, 3, 5, 9, 4}, {2, 12, 5, 5, -9}, Marker("triangle") + errors)) +
+               ValueAxesXml(
+                   Scaling("<c:max val=\"6\"/><c:min val=\"0\"/>"),
+                   Scaling("<c:max val=\"10\"/><c:min val=\"0\"/>") +
+                       "<c:dispUnits><c:builtInUnit val=\"hundreds\"/><c:dispUnitsLbl/></c:dispUnits>"))},
   };
 }
 

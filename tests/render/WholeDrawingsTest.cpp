@@ -1,10 +1,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <map>
-#include <sstream>
 
-#include "render/TextMeasure.h"
-#include "runtime/Strings.h"
 #include "tests/render/DrawingTest.h"
 #include "tests/render/WholeCharts.h"
 #include "tests/support/Paths.h"
@@ -15,26 +12,13 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
-using render::Item;
-using render::Point;
-using S = std::string;
-
-/// A font whose letters all have the same width, so that drawings don't depend on the installed fonts.
-class EvenMeasure : public render::TextMeasure {
- public:
-  render::TextExtent Measure(std::string_view line, const render::Font& font) const override {
-    return {0.5 * font.size * static_cast<double>(runtime::Len(line)), 0.75 * font.size, 0.25 * font.size};
-  }
-  bool HasFonts() const override { return true; }
-};
 
 /// Returns a number with one decimal.
 S Short(double value) { return xlsx::xml::Number(std::floor(value * 10 + 0.5 + 1e-6) / 10 + 0.0); }
 S Place(Point at) { return Short(at.x) + "," + Short(at.y); }
 
 S WordsOf(const render::Path& path) {
-  using Kind = render::PathStep::Kind;
+  using Kind = PathStep::Kind;
   S words;
   for (const auto& step : path.Steps()) {
     if (step.kind == Kind::kMove) words += " M" + Place(step.to);
@@ -71,9 +55,9 @@ S WordsOf(const render::Stroke& stroke) {
 
 /// Returns the look of an item and its place.
 std::pair<S, S> WordsOf(const Item& item) {
-  if (const auto* path = std::get_if<render::PathItem>(&item.content))
+  if (const auto* path = std::get_if<PathItem>(&item.content))
     return {WordsOf(path->fill) + WordsOf(path->stroke), WordsOf(path->path)};
-  if (const auto* text = std::get_if<render::TextItem>(&item.content)) {
+  if (const auto* text = std::get_if<TextItem>(&item.content)) {
     constexpr const char* kAligns[] = {"<", "|", ">"};
     const S look = WordsOf(text->color) + "~" + Short(text->font.size) + (text->font.bold ? "b" : "") +
                    (text->font.italic ? "i" : "") + (text->font.underline ? "u" : "") +

@@ -14,9 +14,8 @@ S ShapeXml(int cell, const S& form, const S& adjustments = "", const S& more = "
   };
   return "<cdr:relSizeAnchor><cdr:from>" + corner(left + 0.01, top + 0.01) + "</cdr:from><cdr:to>" +
          corner(left + 0.15, top + 0.18) +
-         "</cdr:to><cdr:sp><cdr:nvSpPr><cdr:cNvPr id=\"2\" "
-         "name=\"Sign\"/><cdr:cNvSpPr/></cdr:nvSpPr><cdr:spPr>"
-         "<a:prstGeom prst=\"" +
+         "</cdr:to><cdr:sp><cdr:nvSpPr><cdr:cNvPr id=\"2\" name=\"Sign\"/><cdr:cNvSpPr/>"
+         "</cdr:nvSpPr><cdr:spPr><a:prstGeom prst=\"" +
          form + "\"><a:avLst>" + adjustments + "</a:avLst></a:prstGeom>" + more + "</cdr:spPr>" + text +
          "</cdr:sp></cdr:relSizeAnchor>";
 }

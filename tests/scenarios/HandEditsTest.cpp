@@ -9,8 +9,7 @@
 namespace plotsmith {
 namespace {
 
-using test::Definition;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 void Replace(S& text, const S& from, const S& to) {
@@ -53,9 +52,8 @@ class HandEditsTest : public test::HostTest {
 
 const S kRed = "<a:solidFill><a:srgbClr val=\"FF0000\"/></a:solidFill>";
 const S kGradient =
-    "<c:spPr><a:gradFill><a:gsLst><a:gs pos=\"0\"><a:srgbClr val=\"FFFFFF\"/></a:gs><a:gs "
-    "pos=\"100000\"><a:srgbClr "
-    "val=\"4472C4\"/></a:gs></a:gsLst><a:lin ang=\"5400000\"/></a:gradFill></c:spPr>";
+    "<c:spPr><a:gradFill><a:gsLst><a:gs pos=\"0\"><a:srgbClr val=\"FFFFFF\"/></a:gs><a:gs pos=\"100000\">"
+    "<a:srgbClr val=\"4472C4\"/></a:gs></a:gsLst><a:lin ang=\"5400000\"/></a:gradFill></c:spPr>";
 
 /// A change that a person makes to a chart, as it is stored in the file, and the expected contents after two
 /// refreshes.
@@ -71,9 +69,8 @@ TEST_F(HandEditsTest, ChangesMadeByHandSurvive) {
       "<c:txPr><a:bodyPr/><a:lstStyle/><a:p><a:pPr><a:defRPr sz=\"1400\" b=\"1\">" + kRed +
       "<a:latin typeface=\"Georgia\"/></a:defRPr></a:pPr><a:endParaRPr lang=\"en-US\"/></a:p></c:txPr>";
   const S tick =
-      "<c:txPr><a:bodyPr rot=\"-2700000\"/><a:lstStyle/><a:p><a:pPr><a:defRPr "
-      "sz=\"700\"/></a:pPr><a:endParaRPr "
-      "lang=\"de-DE\"/></a:p></c:txPr>";
+      "<c:txPr><a:bodyPr rot=\"-2700000\"/><a:lstStyle/><a:p><a:pPr><a:defRPr sz=\"700\"/>"
+      "</a:pPr><a:endParaRPr lang=\"de-DE\"/></a:p></c:txPr>";
   const HandEdit cases[] = {
       {"another title, in colour",
        [](S& xml) {

@@ -3,7 +3,6 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <iostream>
 #include <map>
 #include <memory>
 #include <pugixml.hpp>
@@ -26,10 +25,7 @@ namespace plotsmith {
 namespace {
 
 namespace fs = std::filesystem;
-using test::ModifyChart;
-using test::NewChart;
-using test::PlainBook;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 const fs::path kHelp = fs::path(test::kSourceFolder) / "docs/help";
@@ -185,10 +181,9 @@ std::vector<Walk> Walks() {
                                   "clear cboCategories; press cmdNext; choose cboCategories Project; " +
                                   badFormat + "type cboDataLabelMask \"\"; "},
       {charts, toLocation +
-                   "type txtName \"\"; press cmdFinish; type txtName A; press cmdFinish; type txtName "
-                   "c; clear cboSheet; press cmdFinish; choose optTargetSheet(0); type txtSheet \"\"; "
-                   "press cmdFinish; type txtSheet Charts; press cmdFinish; type txtSheet a:b; press "
-                   "cmdFinish; "},
+                   "type txtName \"\"; press cmdFinish; type txtName A; press cmdFinish; type txtName c; "
+                   "clear cboSheet; press cmdFinish; choose optTargetSheet(0); type txtSheet \"\"; press "
+                   "cmdFinish; type txtSheet Charts; press cmdFinish; type txtSheet a:b; press cmdFinish; "},
   };
   for (const int type : {0, 1, 2}) {
     walks.push_back(

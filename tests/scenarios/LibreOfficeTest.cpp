@@ -39,12 +39,11 @@ class LibreOfficeTest : public test::HostTest {
     Office("--terminate_after_init");  // This creates the profile.
     const S url = "file://" + folder_.Path().string();
     std::ofstream(folder_ / "profile/user/basic/Standard/Module1.xba")
-        << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<script:module "
-           "xmlns:script=\"http://openoffice.org/2000/script\" script:name=\"Module1\" "
-           "script:language=\"StarBasic\">\nSub Main\n"
-           "Dim load(0) As New com.sun.star.beans.PropertyValue\nload(0).Name = &quot;Hidden&quot;\n"
-           "load(0).Value = True\n"
-           "book = StarDesktop.loadComponentFromURL(&quot;"
+        << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+           "<script:module xmlns:script=\"http://openoffice.org/2000/script\" script:name=\"Module1\" "
+           "script:language=\"StarBasic\">\nSub Main\nDim load(0) As New "
+           "com.sun.star.beans.PropertyValue\nload(0).Name = &quot;Hidden&quot;\nload(0).Value = True\nbook "
+           "= StarDesktop.loadComponentFromURL(&quot;"
         << url << "/saved.xlsx&quot;, &quot;_blank&quot;, 0, load())\n"
         << statements
         << "Dim store(0) As New com.sun.star.beans.PropertyValue\nstore(0).Name = &quot;FilterName&quot;\n"
@@ -196,13 +195,12 @@ TEST_F(LibreOfficeTest, ItsEditsSurviveTheNextRefresh) {
   Refresh();
   SaveAndReopen();
   EditInOffice(
-      "chart = book.Sheets.getByName(&quot;Charts&quot;).Charts.getByIndex(0).EmbeddedObject\n"
-      "chart.Title.String = &quot;Retitled&quot;\n"
-      "chart.Legend.Alignment = com.sun.star.chart.ChartLegendPosition.BOTTOM\n"
-      "chart.Diagram.Stacked = True\nchart.Diagram.Vertical = True\n"
-      "chart.Diagram.YAxisTitle.String = &quot;Euros&quot;\n"
-      "chart.Area.FillColor = RGB(255, 255, 204)\nchart.Area.FillStyle = "
-      "com.sun.star.drawing.FillStyle.SOLID\n");
+      "chart = "
+      "book.Sheets.getByName(&quot;Charts&quot;).Charts.getByIndex(0).EmbeddedObject\nchart.Title.String = "
+      "&quot;Retitled&quot;\nchart.Legend.Alignment = "
+      "com.sun.star.chart.ChartLegendPosition.BOTTOM\nchart.Diagram.Stacked = True\nchart.Diagram.Vertical = "
+      "True\nchart.Diagram.YAxisTitle.String = &quot;Euros&quot;\nchart.Area.FillColor = RGB(255, 255, "
+      "204)\nchart.Area.FillStyle = com.sun.star.drawing.FillStyle.SOLID\n");
   OpenFile(folder_ / "edited.xlsx");
   Refresh();
   SaveAndReopen();

@@ -11,9 +11,7 @@
 namespace plotsmith {
 namespace {
 
-using test::Definition;
-using test::PlainBook;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 
 class RefreshScenarioTest : public test::HostTest {
@@ -32,10 +30,8 @@ class RefreshScenarioTest : public test::HostTest {
 };
 
 S ForeignChart(const S& formula) {
-  return "<c:chartSpace "
-         "xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/"
-         "chart\"><c:chart><c:plotArea><c:lineChart><c:ser>"
-         "<c:idx val='0'/><c:val><c:numRef><c:f>" +
+  return "<c:chartSpace xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\">"
+         "<c:chart><c:plotArea><c:lineChart><c:ser><c:idx val='0'/><c:val><c:numRef><c:f>" +
          formula + "</c:f></c:numRef></c:val></c:ser></c:lineChart></c:plotArea></c:chart></c:chartSpace>";
 }
 
@@ -71,13 +67,11 @@ TEST_F(RefreshScenarioTest, ReferencesFollowABlockThatGrowsAboveThem) {
   EXPECT_TRUE(Messages().empty());
   EXPECT_EQ(
       Cells("VEX_ChartData", 1, 1, 13, 3),
-      "VEX_Chart1||Widget\nVEX_Chart1|A|1\nVEX_Chart1|B|2\nVEX_Chart1|C|3\nVEX_Chart1|D|4\nVEX_Chart1|E|5\n"
-      "VEX_Chart2||Widget\nVEX_Chart2|A|1\nVEX_Chart2|B|2\nVEX_Chart2|C|3\nVEX_Chart2|D|4\nVEX_Chart2|E|5\n|"
-      "|");
+      "VEX_Chart1||Widget\nVEX_Chart1|A|1\nVEX_Chart1|B|2\nVEX_Chart1|C|3\nVEX_Chart1|D|4\nVEX_Chart1|E|5\nVE"
+      "X_Chart2||Widget\nVEX_Chart2|A|1\nVEX_Chart2|B|2\nVEX_Chart2|C|3\nVEX_Chart2|D|4\nVEX_Chart2|E|5\n||");
   EXPECT_NE(Chart(1).find("<c:f>VEX_ChartData!$C$2:$C$6</c:f>"), S::npos);
-  EXPECT_NE(Chart(2).find("<c:f>VEX_ChartData!$C$8:$C$12</c:f><c:numCache><c:formatCode>General</"
-                          "c:formatCode><c:ptCount val=\"5\"/>"
-                          "<c:pt idx=\"0\"><c:v>1</c:v></c:pt>"),
+  EXPECT_NE(Chart(2).find("<c:f>VEX_ChartData!$C$8:$C$12</c:f><c:numCache><c:formatCode>General"
+                          "</c:formatCode><c:ptCount val=\"5\"/><c:pt idx=\"0\"><c:v>1</c:v></c:pt>"),
             S::npos)
       << Chart(2);
   // References from elsewhere are adjusted too: three rows were inserted above, and three into the block.

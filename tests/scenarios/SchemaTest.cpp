@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "common/RunVariables.h"
-#include "runtime/RuntimeError.h"
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"
@@ -17,10 +16,7 @@ namespace plotsmith {
 namespace {
 
 namespace fs = std::filesystem;
-using test::Definition;
-using test::RunCommand;
-using test::Schemas;
-using test::Settings;
+using namespace test;
 using S = std::string;
 
 /// Checks all written and changed parts with the published schemas. A part of another program may keep its

@@ -4,7 +4,6 @@
 #include <pugixml.hpp>
 #include <set>
 #include <sstream>
-#include <vector>
 
 #include "runtime/RuntimeError.h"
 #include "xlsx/SheetShape.h"
@@ -49,8 +48,7 @@ const std::map<std::string, std::string> kTypes = {
      "idx order tx? spPr? marker? dPt* dLbls? trendline* errBars* xVal? yVal? smooth? extLst?"},
     {"bubbleChart ser",
      "idx order tx? spPr? invertIfNegative? dPt* dLbls? trendline* errBars* xVal? yVal? bubbleSize? "
-     "bubble3D? "
-     "extLst?"},
+     "bubble3D? extLst?"},
     {"ser marker", "symbol? size? spPr? extLst?"},
     {"dLbls",
      "dLbl* delete? numFmt? spPr? txPr? dLblPos? showLegendKey? showVal? showCatName? showSerName? "
@@ -60,19 +58,15 @@ const std::map<std::string, std::string> kTypes = {
      "showPercent? showBubbleSize? separator? extLst?"},
     {"catAx",
      "axId scaling delete? axPos majorGridlines? minorGridlines? title? numFmt? majorTickMark? "
-     "minorTickMark? "
-     "tickLblPos? spPr? txPr? crossAx crosses/crossesAt? auto? lblAlgn? lblOffset? tickLblSkip? "
-     "tickMarkSkip? "
-     "noMultiLvlLbl? extLst?"},
+     "minorTickMark? tickLblPos? spPr? txPr? crossAx crosses/crossesAt? auto? lblAlgn? lblOffset? "
+     "tickLblSkip? tickMarkSkip? noMultiLvlLbl? extLst?"},
     {"valAx",
      "axId scaling delete? axPos majorGridlines? minorGridlines? title? numFmt? majorTickMark? "
-     "minorTickMark? "
-     "tickLblPos? spPr? txPr? crossAx crosses/crossesAt? crossBetween? majorUnit? minorUnit? dispUnits? "
-     "extLst?"},
+     "minorTickMark? tickLblPos? spPr? txPr? crossAx crosses/crossesAt? crossBetween? majorUnit? minorUnit? "
+     "dispUnits? extLst?"},
     {"serAx",
      "axId scaling delete? axPos majorGridlines? minorGridlines? title? numFmt? majorTickMark? "
-     "minorTickMark? "
-     "tickLblPos? spPr? txPr? crossAx crosses/crossesAt? tickLblSkip? tickMarkSkip? extLst?"},
+     "minorTickMark? tickLblPos? spPr? txPr? crossAx crosses/crossesAt? tickLblSkip? tickMarkSkip? extLst?"},
     {"scaling", "logBase? orientation? max? min? extLst?"},
     {"dispUnits", "builtInUnit/custUnit dispUnitsLbl? extLst?"},
     {"legend", "legendPos? legendEntry* layout? overlay? spPr? txPr? extLst?"},

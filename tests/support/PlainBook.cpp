@@ -71,9 +71,8 @@ std::string Anchor(const PlainFrame& frame, int number) {
          corner("to", frame.column + frame.width, frame.row + frame.height) +
          "<xdr:graphicFrame macro=\"\"><xdr:nvGraphicFramePr><xdr:cNvPr id=\"" + std::to_string(number + 1) +
          "\" name=\"Chart " + n + "\" descr=\"" + Escaped(frame.alternativeText) +
-         "\"/><xdr:cNvGraphicFramePr/></xdr:nvGraphicFramePr><xdr:xfrm><a:off x=\"0\" y=\"0\"/><a:ext "
-         "cx=\"0\" cy=\"0\"/>"
-         "</xdr:xfrm><a:graphic><a:graphicData uri=\"" +
+         "\"/><xdr:cNvGraphicFramePr/></xdr:nvGraphicFramePr><xdr:xfrm><a:off x=\"0\" y=\"0\"/>"
+         "<a:ext cx=\"0\" cy=\"0\"/></xdr:xfrm><a:graphic><a:graphicData uri=\"" +
          kDrawing + "chart\"><c:chart xmlns:c=\"" + kDrawing + "chart\" r:id=\"rId" + n +
          "\"/></a:graphicData></a:graphic></xdr:graphicFrame><xdr:clientData/></xdr:twoCellAnchor>";
 }

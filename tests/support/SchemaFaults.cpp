@@ -1,7 +1,6 @@
 #include "tests/support/SchemaFaults.h"
 
 #include <filesystem>
-#include <iterator>
 #include <libxml/parser.h>
 #include <libxml/xmlschemas.h>
 #include <stdexcept>
@@ -19,8 +18,7 @@ constexpr const char* kCompatibility = "http://schemas.openxmlformats.org/markup
 
 /// The schema for parts of a content type, given by the end of the type.
 struct Judge {
-  const char* contentType;
-  const char* schema;
+  const char *contentType, *schema;
 };
 constexpr Judge kJudges[] = {
     {"relationships+xml", "opc-xsd/opc-relationships.xsd"},

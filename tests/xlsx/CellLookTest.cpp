@@ -15,9 +15,8 @@ constexpr std::int32_t Rgb(std::int32_t rgb) { return (rgb & 0xFF) << 16 | (rgb 
 TEST(CellLookTest, BordersHaveWidthAndColor) {
   const Styles styles(
       "<styleSheet><borders><border/><border><start style=\"thin\"><color rgb=\"FFFF0000\"/></start>"
-      "<right style=\"none\"/><top style=\"thick\"/><bottom style=\"mediumDashed\"><color "
-      "auto=\"1\"/></bottom>"
-      "</border></borders><cellXfs><xf/><xf borderId=\"1\"/></cellXfs></styleSheet>");
+      "<right style=\"none\"/><top style=\"thick\"/><bottom style=\"mediumDashed\"><color auto=\"1\"/>"
+      "</bottom></border></borders><cellXfs><xf/><xf borderId=\"1\"/></cellXfs></styleSheet>");
   const CellLook look = LookOf(styles, Theme(""), 1);
   EXPECT_EQ(look.left, (BorderLine{1, Rgb(0xFF0000)}));
   EXPECT_EQ(look.top, (BorderLine{3, std::nullopt}));
@@ -27,8 +26,7 @@ TEST(CellLookTest, BordersHaveWidthAndColor) {
 
 TEST(CellLookTest, FontFillingAndAlignmentComeFromTheStyle) {
   const struct {
-    const char* font;
-    const char* fill;
+    const char *font, *fill;
     const char* style;  ///< Attributes and contents of xf.
     CellLook look;
   } cases[] = {

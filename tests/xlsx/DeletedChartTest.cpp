@@ -9,8 +9,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-using test::ExpectError1004;
-using test::PackageComplaints;
+using namespace test;
 using S = std::string;
 
 const S kDrawing = "/xl/drawings/drawing2.xml", kDrawingLinks = "/xl/drawings/_rels/drawing2.xml.rels";
@@ -102,26 +101,24 @@ TEST_F(DeletedChartTest, PartsOfADeletedChartAreRemoved) {
                                    "/xl/drawings/drawing9.xml",
                                    "/xl/embeddings/book1.bin",
                                    "/xl/media/trend.bin"};
-  struct Case {
+  const struct {
     const char* about;
     S links, secondChart;
     const char* deleted;
     std::vector<S> gone;
     const char* goneLink;  ///< The deleted relationship of the drawing; empty if all are kept.
-  };
-  const Case cases[] = {
-      {"a chart with its own parts", kOwnLinks, "rId2", "Chart 1", ofChart1, "rId1"},
-      {"a chart without parts", kOwnLinks, "rId2", "Chart 2", {"/xl/charts/chart2.xml"}, "rId2"},
-      {"an image that a chart uses too", kOwnLinks, "rId2", "Logo", {}, "rId8"},
-      {"its own image", kOwnLinks, "rId2", "Photo", {"/xl/media/photo.bin"}, "rId9"},
-      {"two frames with the same relationship", kOwnLinks, "rId1", "Chart 1", {}, ""},
-      {"two relationships to one chart",
-       kOwnLinks + Link("rId3", "chart", "../charts/chart1.xml"),
-       "rId3",
-       "Chart 1",
-       {},
-       "rId1"}};
-  for (const Case& c : cases) {
+  } cases[] = {{"a chart with its own parts", kOwnLinks, "rId2", "Chart 1", ofChart1, "rId1"},
+               {"a chart without parts", kOwnLinks, "rId2", "Chart 2", {"/xl/charts/chart2.xml"}, "rId2"},
+               {"an image that a chart uses too", kOwnLinks, "rId2", "Logo", {}, "rId8"},
+               {"its own image", kOwnLinks, "rId2", "Photo", {"/xl/media/photo.bin"}, "rId9"},
+               {"two frames with the same relationship", kOwnLinks, "rId1", "Chart 1", {}, ""},
+               {"two relationships to one chart",
+                kOwnLinks + Link("rId3", "chart", "../charts/chart1.xml"),
+                "rId3",
+                "Chart 1",
+                {},
+                "rId1"}};
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.about);
     OpenCharts(c.links, c.secondChart);
     const S complaints = PackageComplaints(folder_ / "book.xlsx");
@@ -254,9 +251,7 @@ TEST_F(DeletedChartTest, ANewChartGetsItsDrawingOnSheetsOfOtherPrograms) {
   const Case cases[] = {
       {"openpyxl",
        "<pageMargins left=\"0.75\"/>@<legacyDrawing " + r +
-           " r:id=\"anysvml\"/><tableParts "
-           "count=\"1\"><tablePart " +
-           r + " r:id=\"rId1\"/></tableParts>",
+           " r:id=\"anysvml\"/><tableParts count=\"1\"><tablePart " + r + " r:id=\"rId1\"/></tableParts>",
        Link("anysvml", "vmlDrawing", "/xl/drawings/legacy.bin") + Link("rId1", "table", "/xl/tables/t.bin")},
       {"XlsxWriter",
        "<pageMargins left=\"0.7\"/><pageSetup orientation=\"portrait\" r:id=\"rId1\"/>"

@@ -16,8 +16,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-using test::PlainBook;
-using test::SalesBook;
+using namespace test;
 using S = std::string;
 using Edit = std::function<S(const S&)>;
 
@@ -190,11 +189,9 @@ TEST_F(ForeignBookTest, ExtremeNumbersAreLimited) {
       "<sheetFormatPr baseColWidth=\"1e300\" defaultRowHeight=\"1e300\"/><cols><col min=\"1\" max=\"16384\" "
       "width=\"1e300\"/><col min=\"3\" max=\"-1e300\"/></cols>";
   book.styles =
-      "<styleSheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><numFmts "
-      "count=\"2\"><numFmt "
-      "numFmtId=\"2147483647\" formatCode=\"0.0\"/><numFmt numFmtId=\"9223372036854775807\" "
-      "formatCode=\"0.00000\"/>"
-      "</numFmts><fonts><font><sz val=\"1e300\"/></font></fonts></styleSheet>";
+      "<styleSheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><numFmts count=\"2\">"
+      "<numFmt numFmtId=\"2147483647\" formatCode=\"0.0\"/><numFmt numFmtId=\"9223372036854775807\" "
+      "formatCode=\"0.00000\"/></numFmts><fonts><font><sz val=\"1e300\"/></font></fonts></styleSheet>";
   book.Sheet("Charts").frames[1].chartXml = runtime::Replace(
       test::EmptyFrameChart(), "<c:layout/>",
       "<c:layout/><c:barChart><c:barDir val=\"col\"/><c:grouping val=\"clustered\"/><c:ser><c:idx "

@@ -118,10 +118,9 @@ TEST_F(SheetShapesTest, CharactersAreCountedOverBreaksAndParagraphs) {
     test::PlainBook book;
     book.sheets = {test::SalesSheet("Sheet1")};
     book.sheets[0].extraAnchors =
-        "<xdr:absoluteAnchor><xdr:pos x=\"0\" y=\"0\"/><xdr:ext cx=\"127000\" cy=\"254000\"/><xdr:sp>"
-        "<xdr:nvSpPr><xdr:cNvPr id=\"5\" name=\"Box\"/><xdr:cNvSpPr "
-        "txBox=\"1\"/></xdr:nvSpPr><xdr:spPr/><xdr:txBody>"
-        "<a:bodyPr/><a:p>" +
+        "<xdr:absoluteAnchor><xdr:pos x=\"0\" y=\"0\"/><xdr:ext cx=\"127000\" cy=\"254000\"/>"
+        "<xdr:sp><xdr:nvSpPr><xdr:cNvPr id=\"5\" name=\"Box\"/><xdr:cNvSpPr txBox=\"1\"/>"
+        "</xdr:nvSpPr><xdr:spPr/><xdr:txBody><a:bodyPr/><a:p>" +
         before + "</a:p></xdr:txBody></xdr:sp><xdr:clientData/></xdr:absoluteAnchor>";
     Open(book);
     const auto characters =
@@ -135,9 +134,11 @@ TEST_F(SheetShapesTest, CharactersAreCountedOverBreaksAndParagraphs) {
 }
 
 TEST(ShapeEnumerationsTest, ConvertBothWays) {
-  for (const Enumeration* enumeration : {&kAutoShapes, &kAutoSizes}) {
+  for (const Enumeration* enumeration :
+       {&kAutoShapes, &kAutoSizes, &kHorizontalAlignments, &kVerticalAlignments}) {
     for (const EnumerationEntry& entry : enumeration->entries) {
-      EXPECT_TRUE(std::regex_match(S(entry.name), std::regex("mso(Shape|AutoSize)[A-Z0-9][A-Za-z0-9]*")))
+      EXPECT_TRUE(
+          std::regex_match(S(entry.name), std::regex("(msoShape|msoAutoSize|xl)[A-Z0-9][A-Za-z0-9]*")))
           << entry.name;
       EXPECT_EQ(enumeration->Token(entry.number), entry.token) << entry.name;
       EXPECT_EQ(enumeration->Number(entry.token), entry.number) << entry.name;

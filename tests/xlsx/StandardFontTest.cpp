@@ -16,13 +16,12 @@ TEST_F(StandardFontTest, IsThatOfTheNormalStyle) {
   const S verdana = "<font><sz val=\"9\"/><name val=\"Verdana\"/></font>";
   const S themed = "<font><sz val=\"12\"/><name val=\"Old\"/><scheme val=\"minor\"/></font>";
   const S named = "<cellStyle name=\"X\" xfId=\"0\"/><cellStyle name=\"N\" xfId=\"1\" builtinId=\"0\"/>";
-  struct Case {
+  const struct {
     S styles;
     bool theme;
     S font;
     double size;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"", false, "Calibri", 11},
       {styles(verdana, "", ""), false, "Verdana", 9},
       {styles(themed + verdana, "<xf fontId=\"0\"/><xf fontId=\"1\"/>", named), true, "Verdana", 9},
@@ -30,7 +29,7 @@ TEST_F(StandardFontTest, IsThatOfTheNormalStyle) {
       {styles(verdana + themed, "<xf fontId=\"0\"/><xf fontId=\"1\"/>", named), false, "Old", 12},
       {styles(verdana, "<xf fontId=\"0\"/><xf fontId=\"77\"/>", named), false, "Verdana", 9},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     test::PlainBook book = test::SalesBook({});
     book.styles = c.styles;
     book.Write(folder_ / "book.xlsx");

@@ -1,9 +1,7 @@
 #include "host/excel/Window.h"
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
-#include "tests/support/ErrorOf.h"
 #include "xlsx/Worksheet.h"
-#include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -91,21 +89,19 @@ TEST_F(WindowTest, ASheetInTheStrictVocabularyWithAPrefixGetsItsView) {
 }
 
 TEST_F(WindowTest, RefusesSheetsWithoutCells) {
-  struct Case {
+  const struct {
     const char* edited;  ///< The changed part.
     const char *from, *to;
     S error;
     bool damaged;
-  };
-  const Case cases[] = {
-      {"/xl/_rels/workbook.xml.rels", "relationships/worksheet\" Target=\"worksheets/sheet1.xml",
-       "relationships/chartsheet\" Target=\"worksheets/sheet1.xml",
-       "Unable to set the DisplayGridlines property of the Window class", false},
-      {"/xl/worksheets/sheet1.xml", "<sheetData>", "",
-       "The workbook can't be read: its part /xl/worksheets/sheet1.xml can't be read: it has "
-       "no element for its cells.",
-       true}};
-  for (const Case& c : cases) {
+  } cases[] = {{"/xl/_rels/workbook.xml.rels", "relationships/worksheet\" Target=\"worksheets/sheet1.xml",
+                "relationships/chartsheet\" Target=\"worksheets/sheet1.xml",
+                "Unable to set the DisplayGridlines property of the Window class", false},
+               {"/xl/worksheets/sheet1.xml", "<sheetData>", "",
+                "The workbook can't be read: its part /xl/worksheets/sheet1.xml can't be read: it has "
+                "no element for its cells.",
+                true}};
+  for (const auto& c : cases) {
     test::SalesBook({}).Write(folder_ / "edited.xlsx");
     test::EditPart(folder_ / "edited.xlsx", c.edited,
                    [&](S& text) { text = runtime::Replace(text, c.from, c.to); });

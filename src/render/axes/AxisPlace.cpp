@@ -62,8 +62,7 @@ Side Opposite(Side side) {
 AxisPlace PlaceOf(const ChartModel& chart, const AxisModel& axis, const Rect& plot) {
   AxisPlace place;
   const Side usual = axis.IsUpright() ? Side::kLeft : Side::kBottom;
-  const bool crosses = axis.crossed >= 0 && axis.crossed < static_cast<int>(chart.axes.size());
-  const AxisModel* crossed = crosses ? &chart.axes[static_cast<std::size_t>(axis.crossed)] : nullptr;
+  const AxisModel* crossed = axis.crossed < 0 ? nullptr : &chart.axes[static_cast<std::size_t>(axis.crossed)];
   if (crossed == nullptr || crossed->IsUpright() == axis.IsUpright()) {
     place.side = place.labelSide = axis.side;
     place.at = place.labelsAt = EdgeOf(plot, axis.side);

@@ -211,9 +211,7 @@ TickLabels LayOutTickLabels(const AxisModel& axis, double length, double depth, 
       if (sine > 0.05) Shorten(label.block, std::max(depth / sine, 3 * sizes.lineHeight), measure);
     }
     const double across = axis.IsUpright() ? label.block.TurnedWidth() : label.block.TurnedHeight();
-    const double along = axis.IsUpright() ? label.block.TurnedHeight() : label.block.TurnedWidth();
     result.depth = std::max(result.depth, across);
-    result.halfWidth = std::max(result.halfWidth, along / 2);
     result.labels.push_back(std::move(label));
   }
   AddOuterLevels(axis, length, measure, result);

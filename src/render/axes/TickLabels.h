@@ -36,9 +36,8 @@ struct LevelLabels {
 struct TickLabels {
   /// The labels that are drawn, in the order of their numbers.
   std::vector<TickLabel> labels;
-  double rotation = 0;   ///< The rotation in degrees clockwise.
-  double depth = 0;      ///< The extent across the axis without the gap, in points.
-  double halfWidth = 0;  ///< Half of the largest extent along the axis, in points.
+  double rotation = 0;  ///< The rotation in degrees clockwise.
+  double depth = 0;     ///< The extent across the axis without the gap, in points.
 
   std::vector<LevelLabels> levels;  ///< The outer levels, beyond the labels of the categories.
 

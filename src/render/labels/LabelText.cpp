@@ -19,12 +19,10 @@ std::string Formatted(const FormatPointer& format, double value, const ChartMode
 
 std::string CategoryText(const ChartModel& chart, const GroupModel& group, const SeriesModel& series,
                          std::size_t point) {
+  // A point with X values is drawn, and has a label, only if its group has an axis and the point has an X
+  // value.
   if (group.HasXValues()) {
-    const AxisModel* axis =
-        group.category < 0 ? nullptr : &chart.axes[static_cast<std::size_t>(group.category)];
-    return point < series.x.size()
-               ? Formatted(axis == nullptr ? nullptr : axis->format, series.x[point], chart)
-               : "";
+    return Formatted(chart.axes[static_cast<std::size_t>(group.category)].format, series.x[point], chart);
   }
   return point < group.categories.size() ? group.categories[point] : "";
 }

@@ -30,35 +30,32 @@ bool IsRight(const PlacedLabel& label) { return MiddleOf(*label.point) < 180; }
 
 /// Labels below each other that touch.
 struct Cluster {
-  std::size_t first = 0, count = 0;
-  double wanted = 0;  ///< sum of the tops of the cluster with which each label would be at its own place
-  double height = 0;
-  double top = 0;
+  std::size_t first, count;
+  double wanted;  ///< sum of the tops of the cluster with which each label would be at its own place
+  double height;
 };
 
 /// Moves labels up and down, as little as possible, until none overlaps the next. They must be sorted from
 /// top to bottom. They stay between `least` and `most`.
 void SpreadDown(const std::vector<PlacedLabel*>& labels, double least, double most) {
   std::vector<Cluster> clusters;
-  const auto settle = [&](Cluster& cluster) {
-    cluster.top = std::clamp(cluster.wanted / static_cast<double>(cluster.count), least,
-                             std::max(most - cluster.height, least));
+  const auto topOf = [&](const Cluster& cluster) {
+    return std::clamp(cluster.wanted / static_cast<double>(cluster.count), least,
+                      std::max(most - cluster.height, least));
   };
   for (std::size_t i = 0; i < labels.size(); ++i) {
-    Cluster cluster{i, 1, labels[i]->Box().top, 2 * labels[i]->halfHeight, 0};
-    settle(cluster);
-    while (!clusters.empty() && clusters.back().top + clusters.back().height > cluster.top) {
+    Cluster cluster{i, 1, labels[i]->Box().top, 2 * labels[i]->halfHeight};
+    while (!clusters.empty() && topOf(clusters.back()) + clusters.back().height > topOf(cluster)) {
       const Cluster& above = clusters.back();
       cluster = {above.first, above.count + cluster.count,
                  above.wanted + cluster.wanted - above.height * static_cast<double>(cluster.count),
-                 above.height + cluster.height, 0};
+                 above.height + cluster.height};
       clusters.pop_back();
-      settle(cluster);
     }
     clusters.push_back(cluster);
   }
   for (const Cluster& cluster : clusters) {
-    double top = cluster.top;
+    double top = topOf(cluster);
     for (std::size_t i = cluster.first; i < cluster.first + cluster.count; ++i) {
       labels[i]->center.y = top + labels[i]->halfHeight;
       top += 2 * labels[i]->halfHeight;

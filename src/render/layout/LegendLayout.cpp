@@ -96,25 +96,21 @@ void PlaceInColumns(LegendLayout& layout, const Grid& grid, std::vector<Measured
 
 /// How entries side by side share the width: all in one row, or in columns of equal widths.
 struct Columns {
-  bool oneRow = true;
-  std::size_t count = 1;
-  double width = 0;  ///< of a column, in points
+  bool oneRow;
+  std::size_t count;
+  double width;  ///< of a column, in points
 };
 
 Columns ColumnsFor(const Grid& grid, const std::vector<Measured>& entries, double room) {
   const double gap = kEntryGapEms * grid.em;
-  Columns columns;
-  double all = -gap;
+  double all = -gap, widest = 0;
   for (const Measured& measured : entries) {
-    columns.width = std::max(columns.width, grid.WidthOf(measured.text.width));
+    widest = std::max(widest, grid.WidthOf(measured.text.width));
     all += grid.WidthOf(measured.text.width) + gap;
   }
-  columns.oneRow = all <= room;
-  columns.count =
-      columns.oneRow
-          ? entries.size()
-          : static_cast<std::size_t>(std::max(std::floor((room + gap + kDust) / (columns.width + gap)), 1.0));
-  return columns;
+  if (all <= room) return {true, entries.size(), widest};
+  const double count = std::max(std::floor((room + gap + kDust) / (widest + gap)), 1.0);
+  return {false, static_cast<std::size_t>(count), widest};
 }
 
 /// Places entries side by side, in as many rows as the width requires, as long as they fit.

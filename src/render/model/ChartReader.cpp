@@ -106,11 +106,6 @@ void ReadGroups(ReadingContext& context, ChartModel& chart) {
   int number = 0;
   for (const xlsx::SeriesRef& series : context.part.Series()) numbers[series->node] = ++number;
   for (const pugi::xml_node& node : xlsx::DrawnGroups(context.part)) {
-    if (!IsKnownGroup(node)) {
-      context.notes.push_back("The chart has a plot group of a kind that isn't drawn: " +
-                              std::string(xml::LocalName(node)) + ".");
-      continue;
-    }
     GroupModel group = ReadGroup(context, node, numbers);
     if (group.series.empty()) continue;
     Attach(context, group, chart.axes);

@@ -43,8 +43,6 @@ ChartModel ReadChart(xlsx::ChartPart& part, Notes& notes);
 /// numbers of the series in plot order, from 1.
 GroupModel ReadGroup(ReadingContext& context, pugi::xml_node group,
                      const std::map<pugi::xml_node, int>& numbers);
-/// Returns whether an element is a plot group of a known kind.
-bool IsKnownGroup(pugi::xml_node group);
 /// Reads the labels of a series. Labels without a position of their own have `position` (ST_DLblPos).
 LabelsModel ReadLabels(ReadingContext& context, pugi::xml_node series, const std::string& position);
 /// Reads an axis without its scale and its categories.

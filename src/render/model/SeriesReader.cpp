@@ -49,10 +49,10 @@ constexpr std::array<Kind, 16> kKinds = {{{"areaChart", Family::kArea},
                                           {"surfaceChart", Family::kSurface},
                                           {"surface3DChart", Family::kSurface}}};
 
-const Kind* KindOf(pugi::xml_node group) {
-  const auto found = std::find_if(kKinds.begin(), kKinds.end(),
-                                  [&](const Kind& kind) { return xml::Is(group, kind.element); });
-  return found == kKinds.end() ? nullptr : &*found;
+/// Returns the kind of an element that is a plot group.
+const Kind& KindOf(pugi::xml_node group) {
+  return *std::find_if(kKinds.begin(), kKinds.end(),
+                       [&](const Kind& kind) { return xml::Is(group, kind.element); });
 }
 
 Grouping GroupingOf(pugi::xml_node group, Family family) {
@@ -282,7 +282,7 @@ SeriesModel ReadSeries(ReadingContext& context, const GroupModel& group, pugi::x
 /// Reads what a group says of itself, without its series and categories.
 void ReadSettings(ReadingContext& context, GroupModel& group) {
   const pugi::xml_node node = group.node;
-  const Kind& kind = *KindOf(node);
+  const Kind& kind = KindOf(node);
   group.family = kind.family;
   group.is3D = kind.Is3D();
   group.grouping = GroupingOf(node, kind.family);
@@ -335,8 +335,6 @@ void ReadCategoriesOf(ReadingContext& context, GroupModel& group) {
 }
 
 }  // namespace
-
-bool IsKnownGroup(pugi::xml_node group) { return KindOf(group) != nullptr; }
 
 GroupModel ReadGroup(ReadingContext& context, pugi::xml_node node,
                      const std::map<pugi::xml_node, int>& numbers) {

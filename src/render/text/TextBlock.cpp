@@ -114,7 +114,8 @@ void AddParagraph(std::vector<TextRun> runs, const TextMeasure& measure, double 
     taken += word.width;
     line.push_back(std::move(word.run));
   }
-  block.lines.push_back(Finished(std::move(line), measure));
+  // A paragraph without words has the height of its font.
+  block.lines.push_back(Finished(line.empty() ? std::move(runs) : std::move(line), measure));
 }
 
 /// Returns a text with a paragraph for each letter.

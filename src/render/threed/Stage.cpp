@@ -70,6 +70,11 @@ Span Stage::Category(std::size_t index) const {
   return Categories().reversed ? Span{1 - span.to, 1 - span.from} : span;
 }
 
+double Stage::EdgeBefore(std::size_t index) const {
+  const Span room = Category(std::min(index, categories_ - 1));
+  return (index < categories_) != Categories().reversed ? room.from : room.to;
+}
+
 Span Stage::Bar(std::size_t category, std::size_t series) const {
   const Span room = Category(category);
   const double width = (room.to - room.from) * BarShare();

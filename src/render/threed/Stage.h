@@ -46,6 +46,9 @@ class Stage {
   bool PointsAreOnTicks() const;
   /// Returns the space of a category by its index, from 0.
   Span Category(std::size_t index) const;
+  /// Returns where a category by its index, from 0, begins along its axis. The number of categories gives the
+  /// end of the last one.
+  double EdgeBefore(std::size_t index) const;
   /// Returns the space for the bar of a series in a category. Both indices count from 0.
   Span Bar(std::size_t category, std::size_t series) const;
   /// Returns the space of a series in the depth. All series of a stacked group have the same space.

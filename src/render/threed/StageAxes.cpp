@@ -60,8 +60,8 @@ StageAxes::Ruler StageAxes::ReadCategories() const {
       ruler.ticks.push_back(room.Middle());
       continue;
     }
-    ruler.ticks.push_back(room.from);
-    if (i + every >= count) ruler.ticks.push_back(room.to);
+    ruler.ticks.push_back(stage_.EdgeBefore(i));
+    if (i + every >= count) ruler.ticks.push_back(stage_.EdgeBefore(i + 1));
   }
   return ruler;
 }

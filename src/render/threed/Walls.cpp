@@ -60,7 +60,7 @@ class Gridlines {
     const std::size_t count = stage_.CategoryCount();
     if (!axis.majorGridlines || count > kMost) return;
     for (std::size_t i = 0; i <= count; ++i) {
-      const double place = i < count ? stage_.Category(i).from : stage_.Category(count - 1).to;
+      const double place = stage_.EdgeBefore(i);
       if (place < 0 || place > 1) continue;
       Draw(Role::kGridline, axis, static_cast<int>(i) + 1, !stage_.IsHorizontal(), place,
            *axis.majorGridlines);

@@ -47,11 +47,10 @@ std::string SomeStyles() {
          "<font><sz val=\"11\"/><color rgb=\"FFFFFFFF\"/><name val=\"Calibri\"/></font></fonts><fills>" +
          fill("patternType=\"none\"/>") + fill("patternType=\"gray125\"/>") +
          fill("patternType=\"solid\"><fgColor rgb=\"FFFFEE00\"/></patternFill>") +
-         "</fills><borders><border/><border><bottom style=\"thin\"/></border></borders><cellXfs><xf/><xf "
-         "fillId=\"2\"/><xf><alignment horizontal=\"center\"/></xf>"
-         "<xf fontId=\"1\"><alignment horizontal=\"right\"/></xf><xf numFmtId=\"14\"/>"
-         "<xf><alignment wrapText=\"1\" vertical=\"top\"/></xf><xf fontId=\"2\"/><xf "
-         "borderId=\"1\"/></cellXfs></styleSheet>";
+         "</fills><borders><border/><border><bottom style=\"thin\"/></border></borders><cellXfs><xf/>"
+         "<xf fillId=\"2\"/><xf><alignment horizontal=\"center\"/></xf><xf fontId=\"1\">"
+         "<alignment horizontal=\"right\"/></xf><xf numFmtId=\"14\"/><xf><alignment wrapText=\"1\" "
+         "vertical=\"top\"/></xf><xf fontId=\"2\"/><xf borderId=\"1\"/></cellXfs></styleSheet>";
 }
 
 }  // namespace plotsmith::test

@@ -2,7 +2,6 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QProgressBar>
 #include <cstdlib>
-#include <filesystem>
 #include <set>
 
 #include "tests/qt/support/Windows.h"

@@ -4,7 +4,6 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QPushButton>
-#include <filesystem>
 
 #include "runtime/Strings.h"
 #include "tests/qt/forms/WidgetState.h"
@@ -113,10 +112,9 @@ TEST_F(RudeHandsTest, AKeyThatIsHeldDownCountsOnce) {
   const auto enter = [] { SendKey(Qt::Key_Return, false), Repeat(Qt::Key_Return); };
   const auto repeat = [] { Repeat(Qt::Key_Return); };
   const auto escape = [] { Repeat(Qt::Key_Escape); };
-  struct Case {
+  const struct {
     S script, seen;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {test::kToTable +
            "choose optType(1); do enter; do repeat; page frmPSLayoutABC; do repeat; page frmPSLayoutABC",
        "frmPSSelectAction frmPSSelectTable frmPSLayoutABC"},

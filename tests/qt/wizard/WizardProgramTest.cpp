@@ -85,10 +85,9 @@ TEST_F(WizardProgramTest, ClosingAsksBeforeItSavesWithAnOutputToo) {
 }
 
 TEST_F(WizardProgramTest, NothingIsSavedWithoutARequest) {
-  struct Case {
+  const struct {
     S script, seen;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"page frmPSSelectTable; close", "frmPSSelectTable"},
       {"page frmPSSelectTable; escape", "frmPSSelectTable"},
       {"page frmPSSelectTable; press cmdCancel", "frmPSSelectTable"},

@@ -6,6 +6,7 @@
 
 #include "render/fills/BallFill.h"
 #include "render/fills/GradientGeometry.h"
+#include "render/fills/LitFill.h"
 #include "render/fills/Patterns.h"
 #include "render/svg/SvgPaint.h"
 #include "xlsx/chart/part/ChartEnumerations.h"
@@ -85,28 +86,65 @@ TEST(FillsTest, SvgSharesWhatIsFilledAlike) {
       definitions.Text(),
       "<defs><pattern id=\"f1\" width=\"6\" height=\"6\" patternUnits=\"userSpaceOnUse\" viewBox=\"0 0 8 8\" "
       "shape-rendering=\"crispEdges\"><path d=\"M0 0h8v8h-8z\" fill=\"#00F\" fill-opacity=\".5\"/>"
-      "<path d=\"M0 0h8v1h-8zM0 1h8v1h-8zM0 4h8v1h-8zM0 5h8v1h-8z\" fill=\"#F00\"/></pattern>"
-      "<linearGradient id=\"f2\" x1=\"0\" y1=\".5\" x2=\"1\" y2=\".5\"><stop offset=\"0\" "
-      "stop-color=\"#F00\"/>"
-      "<stop offset=\"1\" stop-color=\"#00F\" stop-opacity=\".5\"/></linearGradient>"
-      "<linearGradient id=\"f3\" x1=\"-.92\" y1=\"1.58\" x2=\"10.92\" y2=\"8.42\" "
-      "gradientUnits=\"userSpaceOnUse\"><stop offset=\"0\" stop-color=\"#F00\"/><stop offset=\"1\" "
-      "stop-color=\"#00F\" stop-opacity=\".5\"/></linearGradient>"
-      "<linearGradient id=\"f4\" x1=\".09\" y1=\"13.5\" x2=\"39.91\" y2=\"36.5\" "
+      "<path d=\"M0 0h8v1h-8zM0 1h8v1h-8zM0 4h8v1h-8zM0 5h8v1h-8z\" fill=\"#F00\"/></pattern><linearGradient "
+      "id=\"f2\" x1=\"0\" y1=\".5\" x2=\"1\" y2=\".5\"><stop offset=\"0\" stop-color=\"#F00\"/>"
+      "<stop offset=\"1\" stop-color=\"#00F\" stop-opacity=\".5\"/></linearGradient><linearGradient "
+      "id=\"f3\" x1=\"-.92\" y1=\"1.58\" x2=\"10.92\" y2=\"8.42\" gradientUnits=\"userSpaceOnUse\">"
+      "<stop offset=\"0\" stop-color=\"#F00\"/><stop offset=\"1\" stop-color=\"#00F\" stop-opacity=\".5\"/>"
+      "</linearGradient><linearGradient id=\"f4\" x1=\".09\" y1=\"13.5\" x2=\"39.91\" y2=\"36.5\" "
       "gradientUnits=\"userSpaceOnUse\"><stop offset=\"0\" stop-color=\"#F00\"/><stop offset=\"1\" "
       "stop-color=\"#00F\" stop-opacity=\".5\"/></linearGradient></defs>\n");
 }
 
+/// Returns the colours of a filling: the stops of a gradient, or the foreground and the background.
+std::vector<Color> ColorsOf(const Fill& fill) {
+  if (const auto* solid = std::get_if<SolidFill>(&fill)) return {solid->color};
+  if (const auto* pattern = std::get_if<PatternFill>(&fill))
+    return {pattern->foreground, pattern->background};
+  std::vector<Color> colors;
+  if (const auto* gradient = std::get_if<GradientFill>(&fill)) {
+    for (const GradientStop& stop : gradient->stops) colors.push_back(stop.color);
+  }
+  return colors;
+}
+
 TEST(FillsTest, ABallIsLitFromTheUpperLeft) {
-  const Color color{0x4F, 0x81, 0xBD, 0.5};
-  const Fill fill = AsBall(SolidFill{color});
+  const Fill fill = AsBall(SolidFill{{100, 200, 0, 0.5}});
   const auto& ball = std::get<GradientFill>(fill);
-  EXPECT_TRUE(ball.radial && ball.focus.x < 0.5 && ball.focus.y < 0.5);
-  ASSERT_EQ(ball.stops.size(), 3);
-  EXPECT_EQ(ball.stops[1].color, color);
-  EXPECT_TRUE(ball.stops[0].color.red > color.red && ball.stops[2].color.red < color.red);
-  for (const GradientStop& stop : ball.stops) EXPECT_EQ(stop.color.alpha, 0.5);
+  EXPECT_TRUE(ball.radial);
+  EXPECT_EQ(ball.focus, (Point{0.35, 0.3}));
+  EXPECT_EQ(ColorsOf(fill),
+            (std::vector<Color>{{201, 236, 166, 0.5}, {100, 200, 0, 0.5}, {60, 120, 0, 0.5}}));
+  const double positions[] = {0, 0.3, 0.8};
+  for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(ball.stops[i].position, positions[i]);
+  EXPECT_NEAR(UnitRadiusOf(ball), std::hypot(0.65, 0.7), 1e-9);
   EXPECT_TRUE(std::holds_alternative<std::monostate>(AsBall({})));
+}
+
+TEST(FillsTest, LightChangesEachColourOfAFilling) {
+  const Color dim{100, 50, 0, 0.5}, bright{200, 100, 0, 0.5}, grey{200, 200, 200, 1}, white{255, 255, 255, 1};
+  const Color none{255, 255, 255, 0};
+  GradientFill gradient;
+  gradient.stops = {{0, dim}, {1, grey}};
+  const struct {
+    const char* what;
+    Fill fill;
+    std::vector<Color> lit;  ///< the colours with twice the light
+    Color main;              ///< the colour of seams
+    double seam;             ///< the width of a seam in points
+  } cases[] = {
+      {"solid", SolidFill{grey}, {white}, grey, 0.3},
+      {"a transparent one", SolidFill{dim}, {bright}, dim, 0},
+      {"gradient", gradient, {bright, white}, dim, 0},
+      {"pattern", PatternFill{"pct5", dim, grey}, {bright, white}, grey, 0},
+      {"none", {}, {}, none, 0},
+      {"a gradient without stops", GradientFill{}, {}, none, 0},
+  };
+  for (const auto& test : cases) {
+    EXPECT_EQ(ColorsOf(Lit(test.fill, 2)), test.lit) << test.what;
+    EXPECT_EQ(SeamOf(test.fill).color, test.main) << test.what;
+    EXPECT_EQ(SeamOf(test.fill).width, test.seam) << test.what;
+  }
 }
 
 }  // namespace

@@ -7,11 +7,7 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
-using render::Item;
-using render::Role;
 using render::ShadowItem;
-using S = std::string;
 
 /// Shape properties with a red filling and a shadow. Lengths are EMU, angles 1/60000 degree.
 S ShadowedXml(const S& attributes, const S& alpha = "40000") {
@@ -20,9 +16,8 @@ S ShadowedXml(const S& attributes, const S& alpha = "40000") {
          "\"/></a:srgbClr></a:outerShdw></a:effectLst></c:spPr>";
 }
 
-S ColumnsXml(const S& properties, const S& behind = "") {
-  return PlotXml(
-      GroupXml("barChart", "<c:barDir val=\"col\"/>", SeriesXml(0, {3, 1}, properties)) + AxesXml(), behind);
+S ShadowedColumns(const S& properties, const S& behind = "") {
+  return PlotXml(ColumnsXml(SeriesXml(0, {3, 1}, properties)) + AxesXml(), behind);
 }
 
 class ShadowTest : public DrawingTest {};
@@ -30,14 +25,14 @@ class ShadowTest : public DrawingTest {};
 TEST_F(ShadowTest, IsTheShapeMovedInItsDirectionBeforeTheShape) {
   // 3 points to the lower right, blurred over 4 points
   const Drawing drawing =
-      Draw(ColumnsXml(ShadowedXml("blurRad=\"50800\" dist=\"38100\" dir=\"2700000\" algn=\"tl\"")));
+      Draw(ShadowedColumns(ShadowedXml("blurRad=\"50800\" dist=\"38100\" dir=\"2700000\" algn=\"tl\"")));
   EXPECT_EQ(notes_, render::Notes());
   const auto shadows = ItemsOf(drawing, Role::kShadow, 1);
   const auto bars = ItemsOf(drawing, Role::kBar, 1);
   ASSERT_EQ(shadows.size(), 2u);
   for (std::size_t i = 0; i < 2; ++i) {
     const auto& shadow = std::get<ShadowItem>(shadows[i].content);
-    const render::Rect own = BoundsOf(bars[i]), cast = BoundsOf(shadows[i]);
+    const Rect own = BoundsOf(bars[i]), cast = BoundsOf(shadows[i]);
     EXPECT_NEAR(cast.left - own.left, 3 * std::sqrt(0.5), 1e-9);
     EXPECT_NEAR(cast.top - own.top, 3 * std::sqrt(0.5), 1e-9);
     EXPECT_NEAR(cast.width, own.width, 1e-9);
@@ -57,8 +52,9 @@ TEST_F(ShadowTest, IsTheShapeMovedInItsDirectionBeforeTheShape) {
 
 TEST_F(ShadowTest, MayBeLargerAndLean) {
   // twice as wide about the middle of the lower edge, half as high, leaning by 45 degrees
-  const Drawing drawing = Draw(ColumnsXml(ShadowedXml("sx=\"200000\" sy=\"50%\" kx=\"2700000\" algn=\"b\"")));
-  const render::Rect own = BoxesOf(drawing, Role::kBar)[0], cast = BoxesOf(drawing, Role::kShadow)[0];
+  const Drawing drawing =
+      Draw(ShadowedColumns(ShadowedXml("sx=\"200000\" sy=\"50%\" kx=\"2700000\" algn=\"b\"")));
+  const Rect own = BoxesOf(drawing, Role::kBar)[0], cast = BoxesOf(drawing, Role::kShadow)[0];
   EXPECT_NEAR(cast.Bottom(), own.Bottom(), 1e-9);
   EXPECT_NEAR(cast.height, own.height / 2, 1e-9);
   EXPECT_NEAR(cast.width, 2 * own.width + own.height, 1e-9);
@@ -73,8 +69,8 @@ TEST_F(ShadowTest, GrowsAboutThePointOfItsAlignment) {
                {"r", 1, 0.5}, {"bl", 0, 1},  {"b", 0.5, 1}, {"br", 1, 1}};
   for (const auto& test : cases) {
     const Drawing drawing =
-        Draw(ColumnsXml(ShadowedXml(S("sx=\"200000\" sy=\"200000\" algn=\"") + test.alignment + "\"")));
-    const render::Rect own = BoxesOf(drawing, Role::kBar)[0], cast = BoxesOf(drawing, Role::kShadow)[0];
+        Draw(ShadowedColumns(ShadowedXml(S("sx=\"200000\" sy=\"200000\" algn=\"") + test.alignment + "\"")));
+    const Rect own = BoxesOf(drawing, Role::kBar)[0], cast = BoxesOf(drawing, Role::kShadow)[0];
     EXPECT_NEAR(cast.left, own.left - test.x * own.width, 1e-9) << test.alignment;
     EXPECT_NEAR(cast.top, own.top - test.y * own.height, 1e-9) << test.alignment;
   }
@@ -86,30 +82,27 @@ TEST_F(ShadowTest, IsThrownByEveryPartOfAChart) {
   const S title = "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>Sales</a:t></a:r></a:p></c:rich></c:tx>" +
                   shadow + "</c:title>";
   const S line = "<c:marker><c:symbol val=\"circle\"/>" + shadow + "</c:marker>";
-  const Drawing drawing =
-      Draw(title + "<c:plotArea>" +
-           GroupXml("barChart", "<c:barDir val=\"col\"/>", SeriesXml(0, {3}, shadow + labels)) +
-           GroupXml("lineChart", "<c:grouping val=\"standard\"/>", SeriesXml(1, {2}, line)) + AxesXml() +
-           shadow + "</c:plotArea><c:legend>" + shadow + "</c:legend>");
-  std::vector<S> casting;
+  const Drawing drawing = Draw(title + "<c:plotArea>" + ColumnsXml(SeriesXml(0, {3}, shadow + labels)) +
+                               LinesXml(SeriesXml(1, {2}, line)) + AxesXml() + shadow +
+                               "</c:plotArea><c:legend>" + shadow + "</c:legend>");
+  Texts casting;
   for (std::size_t i = 0; i + 1 < drawing.items.size(); ++i) {
     if (drawing.items[i].tag.role == Role::kShadow)
       casting.emplace_back(NameOf(drawing.items[i + 1].tag.role));
   }
-  EXPECT_EQ(casting,
-            (std::vector<S>{"PlotArea", "Bar", "Marker", "DataLabel", "Title", "Legend", "LegendKey"}));
+  EXPECT_EQ(casting, (Texts{"PlotArea", "Bar", "Marker", "DataLabel", "Title", "Legend", "LegendKey"}));
 }
 
 TEST_F(ShadowTest, LooksAlikeInSvgAndPng) {
   const Drawing drawing =
-      Draw(ColumnsXml(ShadowedXml("blurRad=\"50800\" dist=\"127000\" dir=\"0\"", "100000")));
+      Draw(ShadowedColumns(ShadowedXml("blurRad=\"50800\" dist=\"127000\" dir=\"0\"", "100000")));
   const S svg = MakeSvg(drawing);
   EXPECT_NE(svg.find("x=\"-6\" y=\"-6\" width=\"396\" height=\"282\"><feGaussianBlur stdDeviation=\"2\"/>"),
             S::npos);
   EXPECT_EQ(svg.find("<filter "), svg.rfind("<filter "));  // Both shadows share the filter.
   EXPECT_NE(svg.find("fill=\"#112233\" filter=\"url(#"), S::npos);
   const render::Raster raster = MakeRaster(drawing, SharedFonts(), 72);
-  const render::Rect cast = BoxesOf(drawing, Role::kShadow)[0];
+  const Rect cast = BoxesOf(drawing, Role::kShadow)[0];
   const auto row = static_cast<std::size_t>(cast.Center().y);
   const auto redAt = [&](double x) {
     const auto index = row * static_cast<std::size_t>(raster.width) + static_cast<std::size_t>(x);
@@ -127,7 +120,7 @@ TEST_F(ShadowTest, IsDrawnOfVeryWideShapes) {
                SeriesXml(0, {3}, ShadowedXml("blurRad=\"12700\" dist=\"76200\" dir=\"5400000\"", "100000")));
   const Drawing drawing = Draw(PlotXml(bars + AxesXml("", "", true)), "", 20'000, 100);
   const render::Raster raster = MakeRaster(drawing, SharedFonts(), 72);
-  const render::Rect cast = BoxesOf(drawing, Role::kShadow)[0];
+  const Rect cast = BoxesOf(drawing, Role::kShadow)[0];
   ASSERT_GT(cast.width, 16'384);
   const auto index = static_cast<std::size_t>(cast.Bottom() - 3) * static_cast<std::size_t>(raster.width) +
                      static_cast<std::size_t>(cast.Center().x);
@@ -216,7 +209,7 @@ TEST_F(ShadowTest, OtherEffectsAreReported) {
       {"<c:spPr><a:sp3d><a:bevelT w=\"1\"/></a:sp3d></c:spPr>", {"Bevels aren't drawn."}},
   };
   for (const auto& [properties, notes] : kCases) {
-    const Drawing drawing = Draw(ColumnsXml(properties));
+    const Drawing drawing = Draw(ShadowedColumns(properties));
     EXPECT_EQ(notes_, notes) << properties;
     EXPECT_EQ(ItemsOf(drawing, Role::kShadow).size(), 0u) << properties;
   }
@@ -225,9 +218,7 @@ TEST_F(ShadowTest, OtherEffectsAreReported) {
 TEST_F(ShadowTest, EndlessShadowsAreLimited) {
   const S wild =
       ShadowedXml("blurRad=\"9e300\" dist=\"NaN\" dir=\"1e300\" sx=\"-1e9\" sy=\"inf\" kx=\"5400000\"");
-  const Drawing drawing = Draw(PlotXml(
-      GroupXml("barChart", "<c:barDir val=\"col\"/>", SeriesXml(0, std::vector<double>(300, 5), wild)) +
-      AxesXml()));
+  const Drawing drawing = Draw(PlotXml(ColumnsXml(SeriesXml(0, Numbers(300, 5), wild)) + AxesXml()));
   EXPECT_LT(ItemsOf(drawing, Role::kShadow).size(), 300u);
   EXPECT_EQ(notes_, (render::Notes{"The chart has more shadows than are drawn; the rest is left out."}));
   EXPECT_FALSE(MakePng(drawing, SharedFonts()).empty());

@@ -78,8 +78,7 @@ TEST_F(UserShapesTest, GroupsPlaceStretchAndTurnTheirMembers) {
   };
   // The members are in a square of 100 points at (10, 0). The group is 200 by 50 points at (100, 50).
   struct Case {
-    const char* turn;
-    const char* memberTurn;
+    const char *turn, *memberTurn;
     Rect expected;
   };
   for (const Case& c :
@@ -98,8 +97,7 @@ TEST_F(UserShapesTest, GroupsPlaceStretchAndTurnTheirMembers) {
 TEST_F(UserShapesTest, ADrawingThatCantBeReadIsNoted) {
   OpenChart(ChartPartXml("<c:plotArea/>",
                          "<c:userShapes r:id=\"rId7\" "
-                         "xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/"
-                         "relationships\"/>"),
+                         "xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\"/>"),
             "<c:userShapes");
   DrawChart(*Book().Chart("/xl/charts/chart1.xml"), kWidth, kHeight, fonts_, notes_);
   ASSERT_EQ(notes_.size(), 1);
@@ -171,9 +169,8 @@ TEST(PlacementTest, InnerTurnsComeBeforeOuterOnes) {
 
 TEST_F(UserShapesTest, ShapesThrowShadowsAndSayOtherEffects) {
   const std::string effects =
-      "<a:effectLst><a:glow/><a:outerShdw dist=\"127000\" dir=\"5400000\"><a:srgbClr "
-      "val=\"445566\"/></a:outerShdw>"
-      "</a:effectLst>";
+      "<a:effectLst><a:glow/><a:outerShdw dist=\"127000\" dir=\"5400000\"><a:srgbClr val=\"445566\"/>"
+      "</a:outerShdw></a:effectLst>";
   const Drawing drawing = DrawWith(Anchor(Shape("ellipse", Solid("FF0000") + effects)));
   const auto shadows = ItemsOf(drawing, Role::kShadow), shapes = ItemsOf(drawing, Role::kShape);
   ASSERT_EQ(shadows.size(), 1u);

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <map>
@@ -83,8 +82,7 @@ TEST_F(Bodies3DTest, FrontsHaveTheColorAndSidesAreDarker) {
 
 TEST_F(Bodies3DTest, BarsShareOutTheWidthAndTheDepth) {
   struct Case {
-    const char* grouping;
-    const char* behind;
+    const char *grouping, *behind;
     double depthOfBox;  ///< As a share of its width.
     double firstBar,
         lastBar;         ///< The positions at which the bars of the second of four categories begin and end.

@@ -57,8 +57,7 @@ std::string SeenOf(const Projection& projection) {
 TEST(ProjectionTest, ShowsTheSidesThatTheViewTurnsToTheEye) {
   struct Case {
     double elevation, rotation;
-    const char* oblique;
-    const char* turned;
+    const char *oblique, *turned;
   };
   for (const Case& c : {Case{15, 20, "RUF", "RUF"}, Case{15, 340, "LUF", "LUF"}, Case{-15, 20, "RDF", "RDF"},
                         Case{0, 0, "F", "F"}, Case{0, 20, "RF", "RF"}, Case{15, 160, "RUB", "RUB"},

@@ -32,8 +32,7 @@ std::string ClassOf(HWND window) {
 }
 
 struct Content {
-  std::string buttons;
-  std::string text;
+  std::string buttons, text;
   bool hasIcon = false;
 };
 

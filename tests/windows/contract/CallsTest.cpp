@@ -43,8 +43,7 @@ TEST(CallsTest, ExceptionsKeepNumberAndText) {
   struct Thrown {
     WORD code;
     SCODE scode;
-    const char* text;
-    const char* words;
+    const char *text, *words;
   };
   const std::vector<Thrown> exceptions = {
       {0, kRefused, "Unable to set the Size property", "error 1004: Unable to set the Size property"},

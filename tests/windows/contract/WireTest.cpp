@@ -157,8 +157,7 @@ std::string Asked(const Use& use) {
 
 /// A call of the port, and what Excel receives from it.
 struct Row {
-  std::string memberOf;
-  std::string call;
+  std::string memberOf, call;
   std::function<std::string()> asked;
   std::string expected;
 };

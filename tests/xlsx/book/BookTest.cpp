@@ -115,8 +115,7 @@ TEST_F(BookTest, WhatIsNoWorkbookIsRefused) {
       {"/[Content_Types].xml", "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml",
        "application/vnd.ms-excel.sheet.binary.macroEnabled.main",
        "it is a binary workbook (.xlsb); save it as .xlsx first, because only .xlsx, .xlsm, .xltx and .xltm "
-       "can be "
-       "read"},
+       "can be read"},
       {kWorkbook, "<sheets>", "<sheets", "its part /xl/workbook.xml can't be read: its XML is damaged"},
   };
   for (const auto& test : kCases) {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "xlsx/chart/part/ChartEnumerations.h"
+#include "xlsx/chart/rules/ChartTypes.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -13,12 +14,10 @@ using S = std::string;
 /// The tokens of an enumeration in ECMA-376-1, separated by blanks.
 constexpr const char* kPresetPatterns =
     " pct5 pct10 pct20 pct25 pct30 pct40 pct50 pct60 pct70 pct75 pct80 pct90 horz vert ltHorz ltVert dkHorz "
-    "dkVert "
-    "narHorz narVert dashHorz dashVert cross dnDiag upDiag ltDnDiag ltUpDiag dkDnDiag dkUpDiag wdDnDiag "
-    "wdUpDiag "
-    "dashDnDiag dashUpDiag diagCross smCheck lgCheck smGrid lgGrid dotGrid smConfetti lgConfetti horzBrick "
-    "diagBrick "
-    "solidDmnd openDmnd dotDmnd plaid sphere weave divot shingle wave trellis zigZag ";
+    "dkVert narHorz narVert dashHorz dashVert cross dnDiag upDiag ltDnDiag ltUpDiag dkDnDiag dkUpDiag "
+    "wdDnDiag wdUpDiag dashDnDiag dashUpDiag diagCross smCheck lgCheck smGrid lgGrid dotGrid smConfetti "
+    "lgConfetti horzBrick diagBrick solidDmnd openDmnd dotDmnd plaid sphere weave divot shingle wave trellis "
+    "zigZag ";
 constexpr const char* kMarkers = " auto none square diamond triangle x star dot dash circle plus picture ";
 constexpr const char* kUnits =
     " hundreds thousands tenThousands hundredThousands millions tenMillions hundredMillions billions "
@@ -52,8 +51,10 @@ TEST(ChartEnumerationsTest, NumbersNamesAndTokensMatch) {
       EXPECT_EQ(c.enumeration.Token(entry.number), token) << "the number of another member";
       EXPECT_EQ(c.enumeration.Number(token), entry.number) << "the token of another member";
     }
+    EXPECT_FALSE(c.enumeration.Token(-1));
     EXPECT_TRUE(c.enumeration.absent.empty() || c.enumeration.Number(c.enumeration.absent));
   }
+  for (const ChartTypeEntry& entry : kChartTypes) EXPECT_EQ(FindChartType(entry.number), &entry);
   // The members of the patterns have consecutive numbers.
   for (std::int32_t number = 1; number <= 54; ++number) EXPECT_TRUE(kPatterns.Token(number)) << number;
 }

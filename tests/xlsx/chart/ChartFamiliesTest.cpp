@@ -12,13 +12,8 @@ namespace plotsmith::xlsx {
 namespace {
 
 using excel::Chart;
-using test::AddBubble;
-using test::AddOfType;
-using test::Between;
-using test::CountOf;
+using namespace test;
 using test::DeleteSeries;
-using test::ExpectError1004;
-using test::Has;
 using S = std::string;
 
 S Part(const S& chart, const S& behind = "") { return test::ChartPartXml(chart, behind); }
@@ -144,12 +139,11 @@ TEST_F(ChartFamiliesTest, AChartWithoutAGroupIsWrittenWithAnEmptyOne) {
 
 TEST_F(ChartFamiliesTest, AxesAreRestoredAfterTypesWithoutThem) {
   const S columns =
-      "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart>"
-      "<c:catAx><c:axId val=\"1\"/><c:scaling/><c:axPos val=\"t\"/><c:numFmt formatCode=\"@\" "
-      "sourceLinked=\"0\"/><c:crossAx val=\"2\"/><c:crosses val=\"max\"/></c:catAx><c:valAx><c:axId "
-      "val=\"2\"/><c:scaling><c:max val=\"50\"/></c:scaling><c:axPos val=\"r\"/><c:crossAx "
-      "val=\"1\"/><c:crosses "
-      "val=\"min\"/><c:crossBetween val=\"midCat\"/></c:valAx></c:plotArea>";
+      "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:axId val=\"1\"/><c:axId val=\"2\"/>"
+      "</c:barChart><c:catAx><c:axId val=\"1\"/><c:scaling/><c:axPos val=\"t\"/><c:numFmt formatCode=\"@\" "
+      "sourceLinked=\"0\"/><c:crossAx val=\"2\"/><c:crosses val=\"max\"/></c:catAx><c:valAx>"
+      "<c:axId val=\"2\"/><c:scaling><c:max val=\"50\"/></c:scaling><c:axPos val=\"r\"/>"
+      "<c:crossAx val=\"1\"/><c:crosses val=\"min\"/><c:crossBetween val=\"midCat\"/></c:valAx></c:plotArea>";
   for (const std::int32_t through : {excel::xlPie, excel::xlBubble, excel::xl3DPie, excel::xlXYScatter}) {
     SCOPED_TRACE(through);
     const S after = Sound(Part(columns), [&](Chart& chart) {
@@ -178,12 +172,11 @@ TEST_F(ChartFamiliesTest, ASeriesKeepsTheTypeThatItsGroupGivesIt) {
       "val=\"1\"/><c:crosses val=\"autoZero\"/></c:valAx>";
   const S axes = runtime::Replace(valueAxes, "valAx><c:axId val=\"1\"/>", "catAx><c:axId val=\"1\"/>");
   const S categoryAxes = runtime::Replace(axes, "</c:valAx><c:valAx>", "</c:catAx><c:valAx>");
-  struct Case {
+  const struct {
     const char* what;
     S plot;
     std::int32_t type, next;  ///< The types of the series and of a new series after it.
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"bubbles that are 3-D only in the group",
        "<c:bubbleChart>" + ser + "<c:bubble3D val=\"1\"/>" + scales + "</c:bubbleChart>" + valueAxes, 87, 87},
       {"a smooth line through points",
@@ -197,7 +190,7 @@ TEST_F(ChartFamiliesTest, ASeriesKeepsTheTypeThatItsGroupGivesIt) {
            "<c:shape val=\"cone\"/>" + scales + "</c:bar3DChart>" + categoryAxes,
        99, 99},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.what);
     const S after = Sound(Part("<c:plotArea>" + c.plot + "</c:plotArea>"), [&](Chart& chart) {
       const auto series = chart.SeriesCollection()->Item(1);
@@ -292,9 +285,8 @@ TEST_F(ChartFamiliesTest, ColumnsAndALineShareTheirAxes) {
                   "<c:symbol val=\"dash\"/><c:size val=\"55\"/><c:spPr><a:solidFill><a:srgbClr "
                   "val=\"FF0000\"/></a:solidFill><a:ln><a:solidFill><a:srgbClr val=\"FF0000\"/>"))
       << line;
-  EXPECT_TRUE(Has(line,
-                  "</c:ser><c:marker val=\"1\"/><c:axId val=\"111111111\"/><c:axId "
-                  "val=\"111111112\"/>"))
+  EXPECT_TRUE(
+      Has(line, "</c:ser><c:marker val=\"1\"/><c:axId val=\"111111111\"/><c:axId val=\"111111112\"/>"))
       << line;
   EXPECT_LT(after.find("<c:barChart>"), after.find("<c:lineChart>"));
 

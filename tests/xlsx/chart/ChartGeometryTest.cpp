@@ -10,12 +10,11 @@ namespace {
 using S = std::string;
 
 TEST(TextMetricsTest, TextsAreAsWideAsTheirFontsMakeThem) {
-  struct Case {
+  const struct {
     const char* text;
     TextFace face;
     double ems;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"", {"Arial", 10, false}, 0},
       {"AV.", {"Arial", 10, false}, 0.667 + 0.667 + 0.278},
       {"AV.", {"ARIAL", 20, true}, 0.722 + 0.667 + 0.278},
@@ -27,7 +26,7 @@ TEST(TextMetricsTest, TextsAreAsWideAsTheirFontsMakeThem) {
       {"\U0001F4C8", {"Arial", 10, false}, 1},
       {"\u0416", {"Arial", 10, false}, 0.556},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     EXPECT_NEAR(TextWidth(c.text, c.face), c.ems * c.face.size, 1e-9) << c.text << " in " << c.face.font;
   }
   // the widths of all letters in the tables, so that every change is noticed
@@ -100,12 +99,11 @@ TEST_F(ChartGeometryTest, ALegendIsAsWideAsTheWidestOfItsEntries) {
            "\"/><c:delete val=\"1\"/></c:legendEntry>";
   };
   const double pair = 10 * (0.579 + 0.567), key = 24 + 8;
-  struct Case {
+  const struct {
     const char* what;
     S plot, entries;
     double text;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"series", "<c:barChart>" + series(0, "AV") + series(1, "AVAVAV") + "</c:barChart>", "", 3 * pair},
       {"one of them deleted", "<c:barChart>" + series(0, "AV") + series(1, "AVAVAV") + "</c:barChart>",
        deleted(1), pair},
@@ -115,7 +113,7 @@ TEST_F(ChartGeometryTest, ALegendIsAsWideAsTheWidestOfItsEntries) {
       {"points without a text", "<c:pieChart>" + series(0, "AVAVAVAV") + "</c:pieChart>",
        deleted(0) + deleted(1), 5.07},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.what);
     const auto area = OpenChart(test::ChartPartXml("<c:plotArea>" + c.plot + "</c:plotArea><c:legend>" +
                                                    c.entries + "</c:legend>"))
@@ -209,12 +207,11 @@ TEST_F(ChartGeometryTest, ThePlotAreaHasItsManualLayoutOrTheFreeSpace) {
   // The width of "1250" in Calibri 10, and a gap.
   const double labels = 4 * 5.07 + 5;
   const double entry = 0.01 * (890 + 229 + 525 + 471 + 498 + 335 + 391 - 4.0) + 24 + 8;
-  struct Case {
+  const struct {
     const char* what;
     S before, layout, axes, behind;
     Frame frame;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"nothing else", "", "<c:layout/>", axes, "", {7, 7, 370, 256}},
       {"a title", title, "", axes, "", {7, 7 + titleDepth, 370, 256 - titleDepth}},
       {"a title over it", runtime::Replace(title, "\"0\"", "\"1\""), "", axes, "", {7, 7, 370, 256}},
@@ -263,7 +260,7 @@ TEST_F(ChartGeometryTest, ThePlotAreaHasItsManualLayoutOrTheFreeSpace) {
        "",
        {96, 7, 192, 256}},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.what);
     const auto area = PlotAreaOf(c.before, c.layout, c.axes, c.behind);
     EXPECT_NEAR(area->Left(), c.frame.left, 0.05);

@@ -11,13 +11,7 @@ namespace {
 
 using excel::Chart;
 using excel::Series;
-using test::AddBubble;
-using test::AddOfType;
-using test::Between;
-using test::CountOf;
-using test::DeleteSeries;
-using test::ExpectError1004;
-using test::Has;
+using namespace test;
 using S = std::string;
 
 S Part(const S& chart) { return test::ChartPartXml(chart); }
@@ -177,16 +171,13 @@ TEST_F(ChartPropertiesTest, PropertiesOfSeriesLabelsAndAxesAreWrittenInPlace) {
          ExpectError1004([&] { axis->SetMajorUnit(0); });
          ExpectError1004([&] { axis->SetCrosses(-4114); });
        },
-       "<c:scaling><c:orientation val=\"minMax\"/><c:max val=\"22\"/><c:min "
-       "val=\"-7\"/></c:scaling><c:delete "
-       "val=\"0\"/><c:axPos val=\"b\"/><c:majorGridlines/><c:numFmt formatCode=\"General\" "
-       "sourceLinked=\"1\"/>"
-       "<c:majorTickMark val=\"out\"/><c:minorTickMark val=\"none\"/><c:tickLblPos "
-       "val=\"low\"/><c:spPr><a:ln>"
-       "<a:noFill/></a:ln></c:spPr><c:crossAx val=\"111111112\"/><c:crosses "
-       "val=\"autoZero\"/><c:crossBetween "
-       "val=\"midCat\"/><c:majorUnit val=\"14.5\"/><c:dispUnits><c:builtInUnit val=\"thousands\"/>"
-       "<c:dispUnitsLbl/></c:dispUnits></c:valAx>",
+       "<c:scaling><c:orientation val=\"minMax\"/><c:max val=\"22\"/><c:min val=\"-7\"/>"
+       "</c:scaling><c:delete val=\"0\"/><c:axPos val=\"b\"/><c:majorGridlines/>"
+       "<c:numFmt formatCode=\"General\" sourceLinked=\"1\"/><c:majorTickMark val=\"out\"/><c:minorTickMark "
+       "val=\"none\"/><c:tickLblPos val=\"low\"/><c:spPr><a:ln><a:noFill/></a:ln></c:spPr>"
+       "<c:crossAx val=\"111111112\"/><c:crosses val=\"autoZero\"/><c:crossBetween val=\"midCat\"/>"
+       "<c:majorUnit val=\"14.5\"/><c:dispUnits><c:builtInUnit val=\"thousands\"/><c:dispUnitsLbl/>"
+       "</c:dispUnits></c:valAx>",
        "logBase"},
       {"the crossing of an axis is stored in the other axis", 51,
        [](Chart& c, Series&) { c.Axes(1, 1)->SetCrosses(2); },
@@ -331,9 +322,8 @@ TEST_F(ChartPropertiesTest, LegendEntriesAreDeletedWithTheirSeries) {
     ExpectError1004([&] { chart.Legend()->LegendEntries()->Item(3); });
   };
   const S wanted =
-      "<c:legend><c:legendPos val=\"r\"/><c:legendEntry><c:idx val=\"1\"/><c:delete "
-      "val=\"1\"/></c:legendEntry>"
-      "<c:legendEntry><c:idx val=\"3\"/><c:delete val=\"1\"/></c:legendEntry></c:legend>";
+      "<c:legend><c:legendPos val=\"r\"/><c:legendEntry><c:idx val=\"1\"/><c:delete val=\"1\"/>"
+      "</c:legendEntry><c:legendEntry><c:idx val=\"3\"/><c:delete val=\"1\"/></c:legendEntry></c:legend>";
   const S stale = runtime::Replace(kLegend, "</c:legend>",
                                    "<c:legendEntry><c:idx val=\"2\"/><c:delete "
                                    "val=\"1\"/></c:legendEntry></c:legend>");

@@ -1,9 +1,7 @@
-#include <cmath>
 #include <functional>
 #include <map>
 #include <pugixml.hpp>
 
-#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
 #include "xlsx/SheetShape.h"
@@ -20,10 +18,9 @@ using S = std::string;
 
 const S kPart = "/xl/drawings/drawing2.xml";  // The first drawing belongs to the sheet.
 const S kBubbles = test::ChartPartXml(
-    "<c:plotArea><c:layout/>"
-    "<c:bubbleChart><c:axId val=\"1\"/><c:axId val=\"2\"/></c:bubbleChart><c:valAx><c:axId val=\"1\"/>"
-    "<c:axPos val=\"b\"/><c:crossAx val=\"2\"/></c:valAx><c:valAx><c:axId val=\"2\"/><c:axPos val=\"l\"/>"
-    "<c:crossAx val=\"1\"/></c:valAx></c:plotArea>");
+    "<c:plotArea><c:layout/><c:bubbleChart><c:axId val=\"1\"/><c:axId val=\"2\"/></c:bubbleChart>"
+    "<c:valAx><c:axId val=\"1\"/><c:axPos val=\"b\"/><c:crossAx val=\"2\"/></c:valAx><c:valAx>"
+    "<c:axId val=\"2\"/><c:axPos val=\"l\"/><c:crossAx val=\"1\"/></c:valAx></c:plotArea>");
 
 /// The children of the elements that the host writes, in schema order (ECMA-376-1, 21.3 and 20.1). "|" joins
 /// alternatives and elements that can be mixed.
@@ -227,12 +224,11 @@ TEST_F(ChartShapesTest, ShapesOfOtherProgramsStay) {
   const S own =
       "<cdr:relSizeAnchor xmlns:cdr=\"http://schemas.openxmlformats.org/drawingml/2006/chartDrawing\">"
       "<cdr:from><cdr:x>0.25</cdr:x><cdr:y>0.5</cdr:y></cdr:from><cdr:to><cdr:x>0.5</cdr:x><cdr:y>0.6"
-      "</cdr:y></cdr:to><cdr:sp macro=\"\" textlink=\"\"><cdr:nvSpPr><cdr:cNvPr id=\"9\" "
-      "name=\"Trend\"/><cdr:cNvSpPr txBox=\"1\"/></cdr:nvSpPr><cdr:spPr/><cdr:txBody><b:bodyPr "
-      "xmlns:b=\"http://schemas.openxmlformats.org/drawingml/2006/main\"/><b:p "
-      "xmlns:b=\"http://schemas.openxmlformats.org/drawingml/2006/main\"><b:r><b:t>up &amp; "
-      "&#8599;</b:t></b:r></b:p></cdr:txBody></cdr:sp></cdr:relSizeAnchor><!-- mine -->"
-      "<x:odd xmlns:x=\"urn:x\"/>";
+      "</cdr:y></cdr:to><cdr:sp macro=\"\" textlink=\"\"><cdr:nvSpPr><cdr:cNvPr id=\"9\" name=\"Trend\"/>"
+      "<cdr:cNvSpPr txBox=\"1\"/></cdr:nvSpPr><cdr:spPr/><cdr:txBody>"
+      "<b:bodyPr xmlns:b=\"http://schemas.openxmlformats.org/drawingml/2006/main\"/>"
+      "<b:p xmlns:b=\"http://schemas.openxmlformats.org/drawingml/2006/main\"><b:r><b:t>up &amp; &#8599;"
+      "</b:t></b:r></b:p></cdr:txBody></cdr:sp></cdr:relSizeAnchor><!-- mine --><x:odd xmlns:x=\"urn:x\"/>";
   const S user = "<c:userShapes xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\">" + own +
                  "</c:userShapes>";
   const S chart = runtime::Replace(kBubbles, "</c:chartSpace>",
@@ -308,12 +304,11 @@ TEST_F(ChartShapesTest, AStrictWorkbookStaysStrict) {
 TEST_F(ChartShapesTest, ShapesStayInsideOfTheChartAndKeepTheirProportions) {
   OpenChart();
   const auto shape = Chart()->Shapes()->AddShape(1, 10, 20, 40, 20);
-  struct Case {
+  const struct {
     const char* what;
     std::function<void(excel::Shape&)> call;
     Frame after;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"moved beyond the edge", [](auto& s) { s.SetLeft(380); }, {344, 20, 40, 20}},
       {"moved before it", [](auto& s) { s.SetLeft(-5), s.SetTop(-5); }, {0, 0, 40, 20}},
       {"free proportions", [](auto& s) { s.SetWidth(60); }, {0, 0, 60, 20}},
@@ -322,7 +317,7 @@ TEST_F(ChartShapesTest, ShapesStayInsideOfTheChartAndKeepTheirProportions) {
       {"free again", [](auto& s) { s.SetLockAspectRatio(false), s.SetHeight(40); }, {0, 0, 60, 40}},
       {"larger than the chart", [](auto& s) { s.SetTop(100), s.SetHeight(900); }, {0, 0, 60, 270}},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.what);
     c.call(*shape);
     EXPECT_EQ(shape->Left(), c.after.left);

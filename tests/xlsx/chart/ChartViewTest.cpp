@@ -1,12 +1,9 @@
 #include <functional>
 
-#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
 #include "xlsx/base/Limits.h"
-#include "xlsx/chart/part/ChartEnumerations.h"
 #include "xlsx/chart/rules/ChartTypes.h"
-#include "xlsx/drawing/ShapeEnumerations.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -14,9 +11,7 @@ namespace {
 using excel::Chart;
 using S = std::string;
 
-using test::Between;
-using test::CountOf;
-using test::ExpectError1004;
+using namespace test;
 
 S Part(const S& chart, const S& behind = "") { return test::ChartPartXml(chart, behind); }
 
@@ -35,24 +30,21 @@ TEST_F(ChartViewTest, SettersPutElementsWhereTheSchemaWantsThem) {
       "<c:legend><c:legendPos val=\"l\"/><c:legendEntry><c:idx "
       "val=\"0\"/></c:legendEntry><c:layout><c:manualLayout>"
       "<c:xMode val=\"edge\"/><c:x val=\"0.1\"/></c:manualLayout></c:layout></c:legend>";
-  struct Case {
+  const struct {
     const char* what;
     S before;
     std::function<void(Chart&)> call;
     S after;  ///< A text that must exist.
     S gone;   ///< A text that must not exist.
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"a title comes first", Part(columns),
        [](Chart& c) {
          c.SetHasTitle(true);
          c.ChartTitle()->SetText("A & B\nC");
        },
-       "<c:chart><c:title><c:tx><c:rich><a:bodyPr/><a:lstStyle/><a:p><a:r><a:rPr lang=\"en-US\"/><a:t>A "
-       "&amp; B</a:t></a:r></a:p>"
-       "<a:p><a:r><a:rPr lang=\"en-US\"/><a:t>C</a:t></a:r></a:p></c:rich></c:tx><c:overlay "
-       "val=\"0\"/></c:title>"
-       "<c:autoTitleDeleted val=\"0\"/><c:plotArea>",
+       "<c:chart><c:title><c:tx><c:rich><a:bodyPr/><a:lstStyle/><a:p><a:r><a:rPr lang=\"en-US\"/>"
+       "<a:t>A &amp; B</a:t></a:r></a:p><a:p><a:r><a:rPr lang=\"en-US\"/><a:t>C</a:t></a:r></a:p>"
+       "</c:rich></c:tx><c:overlay val=\"0\"/></c:title><c:autoTitleDeleted val=\"0\"/><c:plotArea>",
        ""},
       {"a title keeps its format when its text changes",
        Part("<c:title><c:tx><c:rich><a:bodyPr rot=\"1\"/><a:p><a:pPr><a:defRPr "
@@ -67,9 +59,8 @@ TEST_F(ChartViewTest, SettersPutElementsWhereTheSchemaWantsThem) {
        "b=\"1\"/><a:t>New</a:t></a:r></a:p></c:rich></c:tx><c:layout/>",
        "<a:t>y"},
       {"a title from a cell becomes a text with the same format",
-       Part("<c:title><c:tx><c:strRef><c:f>Sheet1!$A$1</c:f></c:strRef></c:tx><c:txPr><a:bodyPr/"
-            "><a:p><a:pPr><a:defRPr sz=\"900\"/></a:pPr>"
-            "<a:endParaRPr lang=\"de\"/></a:p></c:txPr></c:title>" +
+       Part("<c:title><c:tx><c:strRef><c:f>Sheet1!$A$1</c:f></c:strRef></c:tx><c:txPr><a:bodyPr/><a:p>"
+            "<a:pPr><a:defRPr sz=\"900\"/></a:pPr><a:endParaRPr lang=\"de\"/></a:p></c:txPr></c:title>" +
             columns),
        [](Chart& c) { c.ChartTitle()->SetText("T"); },
        "<c:title><c:tx><c:rich><a:bodyPr/><a:lstStyle/><a:p><a:pPr><a:defRPr sz=\"900\"/></a:pPr><a:r><a:rPr "
@@ -93,9 +84,8 @@ TEST_F(ChartViewTest, SettersPutElementsWhereTheSchemaWantsThem) {
          c.Legend()->SetTop(27);
          c.Legend()->SetLeft(96);
        },
-       "<c:legend><c:legendPos val=\"r\"/><c:layout><c:manualLayout><c:xMode val=\"edge\"/><c:yMode "
-       "val=\"edge\"/><c:x val=\"0.25\"/>"
-       "<c:y val=\"0.1\"/></c:manualLayout></c:layout></c:legend>",
+       "<c:legend><c:legendPos val=\"r\"/><c:layout><c:manualLayout><c:xMode val=\"edge\"/>"
+       "<c:yMode val=\"edge\"/><c:x val=\"0.25\"/><c:y val=\"0.1\"/></c:manualLayout></c:layout></c:legend>",
        ""},
       {"a legend's font", Part(columns + "<c:legend><c:legendPos val=\"r\"/><c:extLst/></c:legend>"),
        [](Chart& c) {
@@ -152,7 +142,7 @@ TEST_F(ChartViewTest, SettersPutElementsWhereTheSchemaWantsThem) {
        [](Chart& c) { c.SetHasLegend(true); },
        "<c:chart><?pi?><!--c--><x:y xmlns:x=\"u\" v=\"&quot;\">&#13;&lt;<![CDATA[<]]></x:y><c:plotArea>", ""},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.what);
     const S after = After(c.before, c.call);
     EXPECT_NE(after.find(c.after), S::npos) << "wanted " << c.after << "\nin " << after;
@@ -178,19 +168,16 @@ TEST_F(ChartViewTest, ASeriesShowsItsCells) {
     ExpectError1004([&] { series->SetName(runtime::kNull); });
   });
   EXPECT_EQ(Between(after, "<c:ser>", "<c:ser><c:idx val=\"1\"/>"),
-            "<c:ser><c:idx val=\"0\"/><c:order "
-            "val=\"0\"/><c:tx><c:strRef><c:f>Sheet1!$C$1</c:f><c:strCache><c:ptCount val=\"1\"/>"
-            "<c:pt idx=\"0\"><c:v>Amount</c:v></c:pt></c:strCache></c:strRef></c:tx><c:invertIfNegative "
-            "val=\"0\"/><c:cat><c:strRef>"
-            "<c:f>Sheet1!$A$2:$A$5</c:f><c:strCache><c:ptCount val=\"4\"/><c:pt "
-            "idx=\"0\"><c:v>East</c:v></c:pt><c:pt idx=\"1\"><c:v>West"
-            "</c:v></c:pt><c:pt idx=\"2\"><c:v>East</c:v></c:pt><c:pt "
-            "idx=\"3\"><c:v>east</c:v></c:pt></c:strCache></c:strRef></c:cat>"
-            "<c:val><c:numRef><c:f>Sheet1!$C$2:$C$5</c:f><c:numCache><c:formatCode>General</"
-            "c:formatCode><c:ptCount val=\"4\"/>"
-            "<c:pt idx=\"0\"><c:v>10</c:v></c:pt><c:pt idx=\"1\"><c:v>5</c:v></c:pt><c:pt "
-            "idx=\"2\"><c:v>7</c:v></c:pt><c:pt idx=\"3\">"
-            "<c:v>1</c:v></c:pt></c:numCache></c:numRef></c:val></c:ser>");
+            "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:tx><c:strRef><c:f>Sheet1!$C$1</c:f>"
+            "<c:strCache><c:ptCount val=\"1\"/><c:pt idx=\"0\"><c:v>Amount</c:v></c:pt>"
+            "</c:strCache></c:strRef></c:tx><c:invertIfNegative val=\"0\"/><c:cat>"
+            "<c:strRef><c:f>Sheet1!$A$2:$A$5</c:f><c:strCache><c:ptCount val=\"4\"/><c:pt idx=\"0\">"
+            "<c:v>East</c:v></c:pt><c:pt idx=\"1\"><c:v>West</c:v></c:pt><c:pt idx=\"2\"><c:v>East"
+            "</c:v></c:pt><c:pt idx=\"3\"><c:v>east</c:v></c:pt></c:strCache></c:strRef></c:cat>"
+            "<c:val><c:numRef><c:f>Sheet1!$C$2:$C$5</c:f><c:numCache><c:formatCode>General"
+            "</c:formatCode><c:ptCount val=\"4\"/><c:pt idx=\"0\"><c:v>10</c:v></c:pt><c:pt idx=\"1\">"
+            "<c:v>5</c:v></c:pt><c:pt idx=\"2\"><c:v>7</c:v></c:pt><c:pt idx=\"3\"><c:v>1</c:v>"
+            "</c:pt></c:numCache></c:numRef></c:val></c:ser>");
   EXPECT_NE(after.find("<c:tx><c:v>Literally</c:v></c:tx><c:invertIfNegative "
                        "val=\"0\"/><c:cat><c:numRef><c:f>Sheet1!$D$2:$D$3</c:f>"),
             S::npos)
@@ -227,17 +214,14 @@ TEST_F(ChartViewTest, AnEmptyChartShowsItsAxesWithTheFirstSeries) {
 TEST_F(ChartViewTest, AFormerTypeIsRestored) {
   // The refresh first draws every chart as clustered bars. Settings of the original type must survive this.
   const S area =
-      "<c:view3D><c:rotX val=\"40\"/></c:view3D><c:floor><c:thickness "
-      "val=\"5\"/></c:floor><c:plotArea><c:area3DChart>"
-      "<c:grouping val=\"standard\"/><c:ser><c:idx val=\"0\"/><c:order "
-      "val=\"0\"/></c:ser><c:dropLines/><c:gapDepth val=\"7\"/>"
-      "<c:axId val=\"1\"/><c:axId val=\"2\"/><c:axId val=\"3\"/></c:area3DChart><c:catAx><c:axId "
-      "val=\"1\"/><c:axPos val=\"t\"/>"
-      "<c:crossAx val=\"2\"/><c:extLst/></c:catAx><c:valAx><c:axId val=\"2\"/><c:scaling><c:max "
-      "val=\"50\"/></c:scaling><c:axPos val=\"r\"/>"
-      "<c:crossAx val=\"1\"/><c:crossBetween val=\"between\"/></c:valAx><c:serAx><c:axId "
-      "val=\"3\"/><c:delete val=\"1\"/><c:axPos val=\"b\"/>"
-      "<c:crossAx val=\"1\"/></c:serAx></c:plotArea>";
+      "<c:view3D><c:rotX val=\"40\"/></c:view3D><c:floor><c:thickness val=\"5\"/></c:floor>"
+      "<c:plotArea><c:area3DChart><c:grouping val=\"standard\"/><c:ser><c:idx val=\"0\"/><c:order val=\"0\"/>"
+      "</c:ser><c:dropLines/><c:gapDepth val=\"7\"/><c:axId val=\"1\"/><c:axId val=\"2\"/><c:axId val=\"3\"/>"
+      "</c:area3DChart><c:catAx><c:axId val=\"1\"/><c:axPos val=\"t\"/><c:crossAx val=\"2\"/>"
+      "<c:extLst/></c:catAx><c:valAx><c:axId val=\"2\"/><c:scaling><c:max val=\"50\"/></c:scaling>"
+      "<c:axPos val=\"r\"/><c:crossAx val=\"1\"/><c:crossBetween val=\"between\"/></c:valAx><c:serAx>"
+      "<c:axId val=\"3\"/><c:delete val=\"1\"/><c:axPos val=\"b\"/><c:crossAx val=\"1\"/>"
+      "</c:serAx></c:plotArea>";
   const S through = After(Part(area), [&](Chart& chart) {
     chart.SeriesCollection()->Item(1)->Delete();
     chart.SetChartType(57);
@@ -294,12 +278,11 @@ TEST_F(ChartViewTest, EveryTypeIsBuiltAsExcelBuildsIt) {
 
 TEST_F(ChartViewTest, SeriesOfSeveralGroupsAreCombined) {
   const S mixed =
-      "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:ser><c:idx val=\"0\"/><c:order "
-      "val=\"1\"/></c:ser><c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart>"
-      "<c:lineChart><c:ser><c:idx val=\"1\"/><c:order val=\"0\"/><c:marker/><c:smooth "
-      "val=\"1\"/></c:ser><c:axId val=\"3\"/><c:axId val=\"4\"/></c:lineChart>"
-      "<c:catAx><c:axId val=\"1\"/></c:catAx><c:valAx><c:axId val=\"2\"/></c:valAx><c:catAx><c:axId "
-      "val=\"3\"/></c:catAx><c:valAx><c:axId val=\"4\"/></c:valAx></c:plotArea>";
+      "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:ser><c:idx val=\"0\"/><c:order val=\"1\"/>"
+      "</c:ser><c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart><c:lineChart><c:ser><c:idx val=\"1\"/>"
+      "<c:order val=\"0\"/><c:marker/><c:smooth val=\"1\"/></c:ser><c:axId val=\"3\"/><c:axId val=\"4\"/>"
+      "</c:lineChart><c:catAx><c:axId val=\"1\"/></c:catAx><c:valAx><c:axId val=\"2\"/></c:valAx>"
+      "<c:catAx><c:axId val=\"3\"/></c:catAx><c:valAx><c:axId val=\"4\"/></c:valAx></c:plotArea>";
   const S after = After(Part(mixed), [](Chart& chart) {
     EXPECT_EQ(chart.SeriesCollection()->Count(), 2);
     chart.SetChartType(57);
@@ -337,22 +320,6 @@ TEST_F(ChartViewTest, MissingPartsOfAChartAreError1004) {
   }
   EXPECT_NO_THROW(After(barred(limits::kSeries / 3), [](Chart& chart) { chart.SetHasTitle(true); }));
   EXPECT_FALSE(Book().Damage());
-}
-
-TEST(EnumerationsTest, ConvertBothWays) {
-  for (const Enumeration* enumeration :
-       {&kLegendPositions, &kLabelPositions, &kPatterns, &kInteriorPatterns, &kLineStyles, &kLineWeights,
-        &kMarkerStyles, &kHorizontalAlignments, &kVerticalAlignments, &kTickLabelPositions, &kCrosses,
-        &kDisplayUnits}) {
-    for (const EnumerationEntry& entry : enumeration->entries) {
-      EXPECT_EQ(enumeration->Token(entry.number), entry.token) << entry.name;
-      EXPECT_EQ(enumeration->Number(entry.token), entry.number) << entry.name;
-    }
-    EXPECT_FALSE(enumeration->Token(-1));
-    EXPECT_TRUE(enumeration->absent.empty() || enumeration->Number(enumeration->absent));
-  }
-  for (const ChartTypeEntry& entry : kChartTypes)
-    EXPECT_EQ(FindChartType(entry.number), &entry) << entry.number;
 }
 
 }  // namespace

@@ -6,13 +6,12 @@ namespace plotsmith::xlsx {
 namespace {
 
 TEST(ScaleRulesTest, FollowsThePublishedRules) {
-  struct Case {
+  const struct {
     const char* what;
     double least, greatest;
     AxisSettings settings;
     double minimum, maximum, majorUnit;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"space above the largest value", 0, 100, {}, 0, 120, 20},
       {"the space ends below the next unit", 0, 90, {}, 0, 100, 10},
       {"the space ends exactly at the next unit", 0, 19, {}, 0, 20, 2},
@@ -35,7 +34,7 @@ TEST(ScaleRulesTest, FollowsThePublishedRules) {
       {"powers of one", 5, 5, {.logBase = 10}, 1, 10, 10},
       {"a logarithm has no zero", 0, 50, {.logBase = 10}, 1, 100, 10},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.what);
     const AxisScale scale = ScaleAxis(c.least, c.greatest, c.settings);
     EXPECT_DOUBLE_EQ(scale.minimum, c.minimum);

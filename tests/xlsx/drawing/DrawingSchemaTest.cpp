@@ -15,12 +15,10 @@ using S = std::string;
 constexpr std::pair<const char*, const char*> kOrders[] = {
     {"chartSpace",
      "date1904 lang roundedCorners style clrMapOvr pivotSource protection chart spPr txPr externalData "
-     "printSettings "
-     "userShapes extLst"},
+     "printSettings userShapes extLst"},
     {"chart",
      "title autoTitleDeleted pivotFmts view3D floor sideWall backWall plotArea legend plotVisOnly "
-     "dispBlanksAs "
-     "showDLblsOverMax extLst"},
+     "dispBlanksAs showDLblsOverMax extLst"},
     {"plotArea", "layout barChart catAx dTable spPr extLst"},
     {"barChart", "barDir grouping varyColors ser dLbls gapWidth overlap serLines axId extLst"},
     {"bar3DChart", "barDir grouping varyColors ser dLbls gapWidth gapDepth shape axId extLst"},
@@ -41,13 +39,11 @@ constexpr std::pair<const char*, const char*> kOrders[] = {
      "txPr crossAx crosses auto lblAlgn lblOffset tickLblSkip tickMarkSkip noMultiLvlLbl extLst"},
     {"valAx",
      "axId scaling delete axPos majorGridlines minorGridlines title numFmt majorTickMark minorTickMark "
-     "tickLblPos spPr "
-     "txPr crossAx crossesAt crossBetween majorUnit minorUnit dispUnits extLst"},
+     "tickLblPos spPr txPr crossAx crossesAt crossBetween majorUnit minorUnit dispUnits extLst"},
     {"dateAx",
      "axId scaling delete axPos majorGridlines minorGridlines title numFmt majorTickMark minorTickMark "
-     "tickLblPos spPr "
-     "txPr crossAx crosses auto lblOffset baseTimeUnit majorUnit majorTimeUnit minorUnit minorTimeUnit "
-     "extLst"},
+     "tickLblPos spPr txPr crossAx crosses auto lblOffset baseTimeUnit majorUnit majorTimeUnit minorUnit "
+     "minorTimeUnit extLst"},
     {"scaling", "logBase orientation max min extLst"},
     {"title", "tx layout overlay spPr txPr extLst"},
     {"legend", "legendPos legendEntry layout overlay spPr txPr extLst"},
@@ -55,8 +51,7 @@ constexpr std::pair<const char*, const char*> kOrders[] = {
     {"manualLayout", "layoutTarget xMode yMode wMode hMode x y w h extLst"},
     {"dLbls",
      "dLbl numFmt spPr txPr dLblPos showLegendKey showVal showCatName showSerName showPercent showBubbleSize "
-     "separator "
-     "showLeaderLines leaderLines extLst"},
+     "separator showLeaderLines leaderLines extLst"},
     {"spPr", "xfrm prstGeom solidFill ln effectLst scene3d sp3d extLst"},
     {"ln", "noFill prstDash round headEnd tailEnd extLst"},
     {"txPr", "bodyPr lstStyle p"},

@@ -358,12 +358,9 @@ TEST(NumberFormatTest, EveryDayOfThreeCenturies) {
 }
 
 TEST(NumberFormatTest, TextsAndBooleans) {
-  struct TextCase {
-    const char* code;
-    const char* text;
-    const char* shown;
-  };
-  const TextCase cases[] = {
+  const struct {
+    const char *code, *text, *shown;
+  } cases[] = {
       {"General", "abc", "abc"},
       {"0.00", "abc", "abc"},
       {"0;0;0", "abc", "abc"},
@@ -473,20 +470,10 @@ TEST(NumberFormatTest, SurvivesAnyCodeAndValue) {
       " ",  "E+", "E-", "e", "General", "AM/PM", "a/p",   "y",     "m",       "d",
       "h",  "s",  "g",  "b", "B2",      "[h]",   "[>=1]", "[Red]", "[$-411]", "[$-F800]",
       "\"", "\\", "_",  "*", "[",       "]",     "7",     "x",     "\xC3",    "\xF0\x9F\x98\x80"};
-  const double limit = std::numeric_limits<double>::max();
-  const double values[] = {0,
-                           -0.0,
-                           1,
-                           -1,
-                           0.1,
-                           59.99999,
-                           2958465.9999999,
-                           1e15 / 3,
-                           1e-320,
-                           limit,
-                           -limit,
-                           std::numeric_limits<double>::infinity(),
-                           std::numeric_limits<double>::quiet_NaN()};
+  using Limits = std::numeric_limits<double>;
+  const double most = Limits::max(), endless = Limits::infinity(), nothing = Limits::quiet_NaN();
+  const double values[] = {0,        -0.0,   1,    -1,    0.1,     59.99999, 2958465.9999999,
+                           1e15 / 3, 1e-320, most, -most, endless, nothing};
   std::mt19937 random(1);
   int accepted = 0;
   for (int i = 0; i < 40000; ++i) {
@@ -515,9 +502,7 @@ TEST(NumberFormatTest, SurvivesAnyCodeAndValue) {
 
 /// A case in which Excel's result differs from the collection.
 struct CorpusException {
-  std::string_view format;
-  std::string_view value;
-  std::string_view reason;
+  std::string_view format, value, reason;
 };
 
 constexpr CorpusException kExceptions[] = {

@@ -1,6 +1,4 @@
 #include <gtest/gtest.h>
-#include <numeric>
-#include <optional>
 #include <string>
 
 #include "xlsx/numberformat/DateSystem.h"

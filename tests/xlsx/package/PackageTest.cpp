@@ -112,26 +112,24 @@ Package Linked(const std::vector<S>& links) {
 }
 
 TEST_F(PackageFileTest, UnreferencedPartsAreRemovedWithTheirRelationship) {
-  struct Case {
+  const struct {
     std::vector<S> links;
     S source, id;
     std::vector<S> gone;
-  };
-  const Case cases[] = {
-      {{">d", "d>c", "c>s", "c>b"}, "/d", "rId1", {"/b", "/c", "/s"}},
-      {{">d", "d>c", "d>e", "c>s", "e>s"}, "/d", "rId1", {"/c"}},  // s is shared.
-      {{">d", "d>c", "d>e", "c>s", "c>t", "e>s", "s>t"},
-       "/d",
-       "rId1",
-       {"/c"}},                                                   // The parts that s uses are also shared.
-      {{">d", "d>c", "d>c", "c>s"}, "/d", "rId1", {}},            // c has two references.
-      {{">d", "d>c", "c>s", "s>c"}, "/d", "rId1", {"/c", "/s"}},  // The parts refer to each other.
-      {{">d", "d>c", "c>d", "c>s"}, "/d", "rId1", {"/c", "/s"}},  // c refers back to d.
-      {{">d", ">d", "d>c"}, "", "rId1", {}},
-      {{">d", "d>c"}, "", "rId1", {"/c", "/d"}},
-      {{">d", "d>c"}, "/d", "rId9", {}},
-      {{">d", "d>c", "c>_rels/.rels", "c>[Content_Types].xml"}, "/d", "rId1", {"/c"}}};
-  for (const Case& c : cases) {
+  } cases[] = {{{">d", "d>c", "c>s", "c>b"}, "/d", "rId1", {"/b", "/c", "/s"}},
+               {{">d", "d>c", "d>e", "c>s", "e>s"}, "/d", "rId1", {"/c"}},  // s is shared.
+               {{">d", "d>c", "d>e", "c>s", "c>t", "e>s", "s>t"},
+                "/d",
+                "rId1",
+                {"/c"}},                                         // The parts that s uses are also shared.
+               {{">d", "d>c", "d>c", "c>s"}, "/d", "rId1", {}},  // c has two references.
+               {{">d", "d>c", "c>s", "s>c"}, "/d", "rId1", {"/c", "/s"}},  // The parts refer to each other.
+               {{">d", "d>c", "c>d", "c>s"}, "/d", "rId1", {"/c", "/s"}},  // c refers back to d.
+               {{">d", ">d", "d>c"}, "", "rId1", {}},
+               {{">d", "d>c"}, "", "rId1", {"/c", "/d"}},
+               {{">d", "d>c"}, "/d", "rId9", {}},
+               {{">d", "d>c", "c>_rels/.rels", "c>[Content_Types].xml"}, "/d", "rId1", {"/c"}}};
+  for (const auto& c : cases) {
     Package package = Linked(c.links);
     std::vector<S> left;
     for (const S& part : package.Parts()) {

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-#include "runtime/RuntimeError.h"
 #include "tests/support/ErrorOf.h"
 #include "xlsx/sheet/EnteredValue.h"
 

@@ -95,9 +95,8 @@ TEST(PageSetupTest, PapersAndTheLimitsOfWhatIsWritten) {
   for (const auto& [scale, read_] : scales)
     EXPECT_EQ(read("<pageSetup scale=\"" + S(scale) + "\"/>").scale, read_);
   EXPECT_EQ(read("<pageMargins left=\"50\" right=\"49\"/>"), (PageSetup{.left = 3528, .right = 3528}));
-  EXPECT_EQ(read("<brk id=\"3\"/><rowBreaks><brk id=\"1\"/><brk id=\"1048575\"/><brk "
-                 "id=\"1048576\"/><brk/></rowBreaks>"
-                 "<colBreaks><brk id=\"16383\"/><brk id=\"1\"/></colBreaks>"),
+  EXPECT_EQ(read("<brk id=\"3\"/><rowBreaks><brk id=\"1\"/><brk id=\"1048575\"/><brk id=\"1048576\"/>"
+                 "<brk/></rowBreaks><colBreaks><brk id=\"16383\"/><brk id=\"1\"/></colBreaks>"),
             (PageSetup{.rowBreaks = {1, 1048575}, .columnBreaks = {1, 16383}}));
   S breaks;
   for (int row = 1; row <= 2000; ++row) breaks += "<brk id=\"" + std::to_string(row) + "\"/>";

@@ -6,12 +6,10 @@ namespace plotsmith::xlsx {
 namespace {
 
 TEST(ReferenceTest, ParsesBothStyles) {
-  struct Case {
-    const char* text;
-    const char* sheet;
+  const struct {
+    const char *text, *sheet;
     CellRange range;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"Sheet1!$A$1", "Sheet1", {1, 1, 1, 1}},
       {"Sheet1!A1:B2", "Sheet1", {1, 1, 2, 2}},
       {"Sheet1!b2:A1", "Sheet1", {1, 1, 2, 2}},
@@ -25,7 +23,7 @@ TEST(ReferenceTest, ParsesBothStyles) {
       {"S!A:C", "S", {1, 1, 1048576, 3}},
       {"S!$2:$3", "S", {2, 1, 3, 16384}},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     const auto parsed = ParseSheetRange(c.text);
     ASSERT_TRUE(parsed) << c.text;
     EXPECT_EQ(parsed->sheet, c.sheet) << c.text;
@@ -94,13 +92,12 @@ TEST(ReferenceTest, SheetNamesAreQuotedWhereTheyMustBe) {
 }
 
 TEST(ReferenceTest, FormulasFollowRows) {
-  struct Case {
+  const struct {
     const char* formula;
     int row, count;
     bool home;
     const char* shifted;  ///< The adjusted formula; null if it doesn't change.
-  };
-  const Case cases[] = {
+  } cases[] = {
       // Rows inserted before, inside, at the last row, after.
       {"Data!$A$5:$A$9", 3, 2, false, "Data!$A$7:$A$11"},
       {"Data!$A$5:$A$9", 5, 1, false, "Data!$A$6:$A$10"},
@@ -166,7 +163,7 @@ TEST(ReferenceTest, FormulasFollowRows) {
        "DataDataDataDataDataDataDataData!A5:A9:B9+Data!A6"},
       {"(Data!$B$6:$B$7,Data!$B$9)", 7, 2, false, "(Data!$B$6:$B$9,Data!$B$11)"},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     RowShifts shifts;
     shifts.Add("Data", c.row, c.count);
     const auto shifted = shifts.Follow(c.formula, c.home ? "Data" : "", 0);

@@ -19,10 +19,9 @@ TEST(SheetFormulasTest, OnlyTheFormulasConcernedChange) {
       {"<ext><xm:f>'My Data'!A5:B9</xm:f><xm:sqref>A5</xm:sqref></ext>",
        "<ext><xm:f>'My Data'!A7:B11</xm:f><xm:sqref>A5</xm:sqref></ext>"},
       // A shared formula can't be adjusted as one: each cell gets its own.
-      {"<c r='B4'><f t='shared' ref='B4:B6' si='3'>'My Data'!A4*$C$1</f><v>0</v></c><c r='B5'><f t='shared' "
-       "si='3'/></c>"
-       "<c r='B6'><f t='shared' si=\"3\"></f></c><c r='C1'><f t='shared' si='4' ref='C1'>A5</f></c><c "
-       "r='C2'><f t='shared' si='4'/></c>",
+      {"<c r='B4'><f t='shared' ref='B4:B6' si='3'>'My Data'!A4*$C$1</f><v>0</v></c><c r='B5'>"
+       "<f t='shared' si='3'/></c><c r='B6'><f t='shared' si=\"3\"></f></c><c r='C1'><f t='shared' si='4' "
+       "ref='C1'>A5</f></c><c r='C2'><f t='shared' si='4'/></c>",
        "<c r='B4'><f>'My Data'!A4*$C$1</f><v>0</v></c><c r='B5'><f>'My Data'!A7*$C$1</f></c>"
        "<c r='B6'><f>'My Data'!A8*$C$1</f></c><c r='C1'><f t='shared' si='4' ref='C1'>A5</f></c><c r='C2'><f "
        "t='shared' si='4'/></c>"},
@@ -30,13 +29,11 @@ TEST(SheetFormulasTest, OnlyTheFormulasConcernedChange) {
       {"<c r='B4'><f t='shared' ca='1' ref='B4:B5' xml:space='preserve' si='0'> 'My Data'!A5</f></c>"
        "<c r='B5'><f  si='0' t = 'shared' ca='1'/></c>"
        "<c r='D1'><f t='shared' ref='D1:D2' si='0'>B1+1</f></c><c r='D2'><f t='shared' si='0'/></c>",
-       "<c r='B4'><f ca='1' xml:space='preserve'> 'My Data'!A7</f></c><c r='B5'><f ca='1'> 'My "
-       "Data'!A8</f></c>"
-       "<c r='D1'><f t='shared' ref='D1:D2' si='0'>B1+1</f></c><c r='D2'><f t='shared' si='0'/></c>"},
+       "<c r='B4'><f ca='1' xml:space='preserve'> 'My Data'!A7</f></c><c r='B5'><f ca='1'> 'My Data'!A8"
+       "</f></c><c r='D1'><f t='shared' ref='D1:D2' si='0'>B1+1</f></c><c r='D2'><f t='shared' si='0'/></c>"},
       // Rows and cells without a reference follow the previous one.
-      {"<row r='4'><c/><c><f t='shared' ref='B4:B5' si='0'>'My Data'!A5</f></c></row><row><c/><c><f "
-       "t='shared' "
-       "si='0'/></c></row>",
+      {"<row r='4'><c/><c><f t='shared' ref='B4:B5' si='0'>'My Data'!A5</f></c></row><row><c/><c>"
+       "<f t='shared' si='0'/></c></row>",
        "<row r='4'><c/><c><f>'My Data'!A7</f></c></row><row><c/><c><f>'My Data'!A8</f></c></row>"},
       {"<row><c><f t='shared' ref='A1:B1' si='0'>'My Data'!A5</f></c><c><f t='shared' si='0'/></c></row>"
        "<row r='7'><c r='F7'/><c><f t='shared' si='0'/></c></row><row><c><f t='shared' si='0'/></c></row>"

@@ -54,9 +54,8 @@ TEST(SheetGeometryTest, SizesComeFromTheHeadAndFromSingleRows) {
        {{1, 9.5}},
        {48, 48, 48, 48, 48},
        {9.5, 0, 0, 0, 0}},
-      {"<w><cols><col min='4' max='4' width='0'/><col min='1' max='1' width='20.7109375'/><col min='2' "
-       "max='3' "
-       "width='9' hidden='1'/></cols>",
+      {"<w><cols><col min='4' max='4' width='0'/><col min='1' max='1' width='20.7109375'/>"
+       "<col min='2' max='3' width='9' hidden='1'/></cols>",
        {},
        {108.75, 0, 0, 0, 48},
        {15, 15, 15, 15, 15}},
@@ -67,10 +66,8 @@ TEST(SheetGeometryTest, SizesComeFromTheHeadAndFromSingleRows) {
        {15, 15, 15, 15, 15}},
       // Ranges that overlap or lie outside, sizes beyond Excel's limits.
       {"<w><cols><col min='2' max='3' width='1'/><col min='3' max='5' width='9'/><col min='0' max='1' "
-       "width='9'/>"
-       "<col min='5' max='16385' width='9'/><col max='9' width='3'/><col min='5' width='3'/><col min='5' "
-       "max='4' "
-       "width='3'/></cols>",
+       "width='9'/><col min='5' max='16385' width='9'/><col max='9' width='3'/><col min='5' width='3'/>"
+       "<col min='5' max='4' width='3'/></cols>",
        {{2, 1000}, {1, 50}, {3, -2}},
        {48, 5.25, 5.25, 48, 48},
        {15, 409.5, 0, 15, 15}},

@@ -61,18 +61,15 @@ std::string Dump(const SheetContents& sheet) {
 }
 
 const std::string kSheet =
-    "<?xml version='1.0'?><!-- <sheetData> --><worksheet xmlns='m'><dimension ref='A1:ZZ999'/><sheetData>\r\n"
-    "<row r='2' ht='30' spans='1:3'><c r='A2'><v>1</v></c><c r=\"C2\" s=\"7\" t=\"s\"><v>12</v></c><c "
-    "t='b'><v>1</v></c></row>"
-    "<row hidden='1'><c><v> -2.5e-3 </v></c><c r='B3' t='str'><f>A&amp;\"&gt;\"</f><v>a&amp;b_x000D_</v></c>"
-    "<c r='C3' t='e'><f t='shared' si='0'/><v>#N/A</v></c><c r='D3' "
-    "t='inlineStr'><is><r><t>rich</t></r><r><rPr><b/></rPr>"
-    "<t xml:space='preserve'> text</t></r><rPh><t>no</t></rPh></is></c><c r='E3' s='3'/></row><!-- <row/> -->"
-    "<row r='10'><c r='A10' t='d'><v>2020-01-01T12:00:00</v></c><c "
-    "r='B10'><v><![CDATA[7]]></v><extLst><v>9</v></extLst></c>"
-    "<c r='C10' t='inlineStr'><is/></c><c r='D10'><v>x</v></c><c r='E10'><v>123456789012345678</v></c><c "
-    "r='AB10'><v>0.1</v></c></row>"
-    "</sheetData><pageMargins/></worksheet>";
+    "<?xml version='1.0'?><!-- <sheetData> --><worksheet xmlns='m'><dimension ref='A1:ZZ999'/>"
+    "<sheetData>\r\n<row r='2' ht='30' spans='1:3'><c r='A2'><v>1</v></c><c r=\"C2\" s=\"7\" t=\"s\">"
+    "<v>12</v></c><c t='b'><v>1</v></c></row><row hidden='1'><c><v> -2.5e-3 </v></c><c r='B3' t='str'>"
+    "<f>A&amp;\"&gt;\"</f><v>a&amp;b_x000D_</v></c><c r='C3' t='e'><f t='shared' si='0'/><v>#N/A</v></c>"
+    "<c r='D3' t='inlineStr'><is><r><t>rich</t></r><r><rPr><b/></rPr><t xml:space='preserve'> text</t>"
+    "</r><rPh><t>no</t></rPh></is></c><c r='E3' s='3'/></row><!-- <row/> --><row r='10'><c r='A10' t='d'>"
+    "<v>2020-01-01T12:00:00</v></c><c r='B10'><v><![CDATA[7]]></v><extLst><v>9</v></extLst></c>"
+    "<c r='C10' t='inlineStr'><is/></c><c r='D10'><v>x</v></c><c r='E10'><v>123456789012345678</v></c>"
+    "<c r='AB10'><v>0.1</v></c></row></sheetData><pageMargins/></worksheet>";
 
 const std::pair<std::pair<int, int>, std::string> kCells[] = {{{2, 1}, "n1"},
                                                               {{2, 2}, "-"},
@@ -204,10 +201,9 @@ TEST(SheetScannerTest, AllKindsOfWhiteSpaceAreAccepted) {
 
 TEST(SheetScannerTest, FormulasWithoutAResultAreListed) {
   const SheetContents sheet = Scan(
-      "<w><sheetData><row r='2'><c r='A2'><f>1</f><v>1</v></c><c r='B2'><f>1</f><v></v></c>"
-      "<c r='C2'><f>1</f><v/></c><c r='D2'><f>1</f></c><c r='E2' t='str'><f>\"\"</f><v></v></c>"
-      "<c r='F2' t='str'><f>\"\"</f><v/></c><c r='G2'/></row><row r='4'><c r='C4' s='1'><f t='shared' "
-      "si='0'/></c>"
+      "<w><sheetData><row r='2'><c r='A2'><f>1</f><v>1</v></c><c r='B2'><f>1</f><v></v></c><c r='C2'><f>1"
+      "</f><v/></c><c r='D2'><f>1</f></c><c r='E2' t='str'><f>\"\"</f><v></v></c><c r='F2' t='str'>"
+      "<f>\"\"</f><v/></c><c r='G2'/></row><row r='4'><c r='C4' s='1'><f t='shared' si='0'/></c>"
       "<c r='D4' t='e'><f>1</f><v>#N/A</v></c></row></sheetData></w>");
   EXPECT_EQ(sheet.formulasWithoutResult, (std::vector<CellPlace>{{2, 2}, {2, 3}, {2, 4}, {4, 3}}));
 }
@@ -353,10 +349,9 @@ TEST(CellStoreTest, GapsRunsAndStyles) {
 
 TEST(SharedStringsTest, RichTextsEscapesAndOddItems) {
   const std::string text =
-      "<sst count='9'><si><t>plain &amp; simple</t></si><si/><si><r><t>ri</t></r><r><t "
-      "xml:space='preserve'>ch </t></r><rPh sb='0'><t>no</t></rPh>"
-      "<phoneticPr/></si><si><t/></si><si><t>_x0041__x005F_x0041__xD834__xDD1E_</t></"
-      "si><si><t><![CDATA[<x>]]>\r\ny</t></si></sst>";
+      "<sst count='9'><si><t>plain &amp; simple</t></si><si/><si><r><t>ri</t></r><r>"
+      "<t xml:space='preserve'>ch </t></r><rPh sb='0'><t>no</t></rPh><phoneticPr/></si><si><t/></si>"
+      "<si><t>_x0041__x005F_x0041__xD834__xDD1E_</t></si><si><t><![CDATA[<x>]]>\r\ny</t></si></sst>";
   for (const std::size_t piece : {std::size_t{4096}, std::size_t{1}}) {
     MemoryStream stream(text, piece);
     TextPool strings;

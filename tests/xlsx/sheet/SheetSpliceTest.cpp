@@ -17,9 +17,8 @@ TEST(SheetSpliceTest, TheDrawingIsInsertedInTheOrderOfTheSchema) {
            S("<pageSetup/>@<tableParts count='1'><tablePart/></tableParts></worksheet>"),
            S("<pageSetup/>@<AlternateContent><Choice><controls/></Choice></AlternateContent></worksheet>"),
            // Descendants with such a name belong to other elements.
-           S("<conditionalFormatting><cfRule><dataBar/><extLst><ext/></extLst></cfRule></"
-             "conditionalFormatting>"
-             "<pageMargins/>@</worksheet>"),
+           S("<conditionalFormatting><cfRule><dataBar/><extLst><ext/></extLst>"
+             "</cfRule></conditionalFormatting><pageMargins/>@</worksheet>"),
            S("<dataValidations><dataValidation><mc:AlternateContent><mc:Choice/></mc:AlternateContent>"
              "</dataValidation></dataValidations><pageMargins/>@<extLst/></worksheet>"),
            S("<customSheetViews><customSheetView><pageMargins/><drawing/><extLst/></customSheetView>"
@@ -94,9 +93,8 @@ TEST(SheetSpliceTest, ASettingOfTheViewIsChangedInPlace) {
       {kTabSelected, false, "<w><sheetData/></w>", ""},
       // A view behind the cells is none.
       {kTabSelected, true, "<w><sheetData/><sheetView tabSelected=\"1\"/></w>",
-       "<w><sheetViews><sheetView tabSelected=\"1\" "
-       "workbookViewId=\"0\"/></sheetViews><sheetData/><sheetView "
-       "tabSelected=\"1\"/></w>"},
+       "<w><sheetViews><sheetView tabSelected=\"1\" workbookViewId=\"0\"/></sheetViews>"
+       "<sheetData/><sheetView tabSelected=\"1\"/></w>"},
       {kTabSelected, false,
        "<chartsheet><sheetViews><sheetView tabSelected=\"1\"/></sheetViews><drawing/></chartsheet>",
        "<chartsheet><sheetViews><sheetView/></sheetViews><drawing/></chartsheet>"},
@@ -125,9 +123,8 @@ TEST(SheetSpliceTest, ASettingOfTheViewIsChangedInPlace) {
        "<?xml version='1.0'?><w><sheetPr><tabColor/></sheetPr><dimension/><sheetViews><sheetView "
        "tabSelected=\"1\" workbookViewId=\"0\"/></sheetViews><sheetFormatPr/><sheetData/></w>"},
       {kShowGridLines, false, "<w><dimension ref='A1'/><cols><col/></cols><sheetData/></w>",
-       "<w><dimension ref='A1'/><sheetViews><sheetView showGridLines=\"0\" "
-       "workbookViewId=\"0\"/></sheetViews>"
-       "<cols><col/></cols><sheetData/></w>"},
+       "<w><dimension ref='A1'/><sheetViews><sheetView showGridLines=\"0\" workbookViewId=\"0\"/>"
+       "</sheetViews><cols><col/></cols><sheetData/></w>"},
       {kShowGridLines, false, "<x:w><x:sheetData/></x:w>",
        "<x:w><x:sheetViews><x:sheetView showGridLines=\"0\" workbookViewId=\"0\"/></x:sheetViews>"
        "<x:sheetData/></x:w>"},

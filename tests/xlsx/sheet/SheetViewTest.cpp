@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "runtime/RuntimeError.h"
 #include "tests/support/ErrorOf.h"
 #include "tests/support/HostTest.h"
 #include "xlsx/Worksheet.h"
@@ -34,8 +33,7 @@ TEST(SheetViewTest, ReadsTheViewOfTheFirstWindow) {
        "sqref=\"A1:B7\"/></x:sheetView></x:sheetViews>",
        {true, true, {1, 1}, {7, 2}, 0, 0}},
       {"<sheetViews><sheetView><pane xSplit=\"2\" ySplit=\"1\" topLeftCell=\"F90\" "
-       "activePane=\"bottomRight\" "
-       "state=\"frozen\"/><selection pane=\"topRight\" activeCell=\"D1\"/>"
+       "activePane=\"bottomRight\" state=\"frozen\"/><selection pane=\"topRight\" activeCell=\"D1\"/>"
        "<selection pane=\"bottomRight\" activeCell=\"G95\"/></sheetView></sheetViews>",
        {true, true, {90, 6}, {95, 7}, 1, 2}},
       // A split that isn't frozen is in points, and positions outside the sheet are ignored.
@@ -47,9 +45,8 @@ TEST(SheetViewTest, ReadsTheViewOfTheFirstWindow) {
        "activeCell=\"C3\"/></sheetView></sheetViews>",
        {true, true, {1, 1}, {3, 3}, 1048575, 0}},
       // Panes and selections outside of the first view.
-      {"<pane ySplit=\"2\" state=\"frozen\"/><selection "
-       "activeCell=\"D4\"/><sheetViews><sheetView></sheetView>"
-       "<selection activeCell=\"C3\"/></sheetViews>",
+      {"<pane ySplit=\"2\" state=\"frozen\"/><selection activeCell=\"D4\"/><sheetViews>"
+       "<sheetView></sheetView><selection activeCell=\"C3\"/></sheetViews>",
        {}},
       {"<sheetViews><sheetView><selection pane=\"bottomLeft\" activeCell=\"C3\"/><selection pane=\"topLeft\" "
        "activeCell=\"B2\"/></sheetView></sheetViews>",

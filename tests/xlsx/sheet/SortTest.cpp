@@ -34,13 +34,12 @@ TEST_F(SortTest, ValuesAreInExcelsOrder) {
   const RawCell yes{" t=\"b\"><v>1</v></c>"}, no{" t=\"b\"><v>0</v></c>"};
   const RawCell error{" t=\"e\"><v>#N/A</v></c>"}, other{" t=\"e\"><v>#DIV/0!</v></c>"};
   const std::monostate none;
-  struct Case {
+  const struct {
     const char* what;
     std::vector<test::PlainCell> values;
     S ascending, descending;
     bool matchCase = false;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {"numbers", {3.0, -1.0, 2.5, 3.0}, "2 3 1 4", "1 4 3 2"},
       {"kinds", {none, error, yes, S("a"), 5.0, no, S("5"), other}, "5 7 4 6 3 2 8 1", "2 8 3 6 4 7 5 1"},
       {"empty ones last in either direction", {none, 1.0, none, 2.0}, "2 4 1 3", "4 2 1 3"},
@@ -60,7 +59,7 @@ TEST_F(SortTest, ValuesAreInExcelsOrder) {
        "4 5 1 2 3"},
       {"accents too", {S("\u00C4z"), S("az"), S("b"), S("\u00E4a")}, "4 2 1 3", "3 1 2 4"},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.what);
     EXPECT_EQ(Sorted(c.values, false, c.matchCase), c.ascending);
     EXPECT_EQ(Sorted(c.values, true, c.matchCase), c.descending);

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "runtime/RuntimeError.h"
 #include "tests/support/ErrorOf.h"
 #include "xlsx/sheet/Styles.h"
 
@@ -53,21 +52,17 @@ TEST(StylesTest, AFormatIsAddedAtItsPlaceOnce) {
        "</numFmts><cellXfs count=\"2\"><xf/><xf numFmtId=\"164\" applyNumberFormat=\"1\"/></cellXfs>"},
       // The workbook's own formats, of which the first with the code is used, and free numbers.
       {"<numFmts count=\"2\"><numFmt numFmtId=\"166\" formatCode=\"0.0\"/><numFmt numFmtId=\"165\" "
-       "formatCode=\"0.0\"/>"
-       "</numFmts><cellXfs><xf/></cellXfs>",
+       "formatCode=\"0.0\"/></numFmts><cellXfs><xf/></cellXfs>",
        0, "0.0", 1,
        "<numFmts count=\"2\"><numFmt numFmtId=\"166\" formatCode=\"0.0\"/><numFmt numFmtId=\"165\" "
        "formatCode=\"0.0\"/>"
        "</numFmts><cellXfs count=\"2\"><xf/><xf numFmtId=\"165\" applyNumberFormat=\"1\"/></cellXfs>"},
-      {"<numFmts><numFmt numFmtId=\"164\" formatCode=\"0.0\"/><numFmt numFmtId=\"165\" "
-       "formatCode=\"0.000\"/></numFmts>"
-       "<cellXfs><xf/><xf numFmtId=\"165\"/></cellXfs>",
+      {"<numFmts><numFmt numFmtId=\"164\" formatCode=\"0.0\"/><numFmt numFmtId=\"165\" formatCode=\"0.000\"/>"
+       "</numFmts><cellXfs><xf/><xf numFmtId=\"165\"/></cellXfs>",
        1, "0.0000", 2,
        "<numFmts count=\"3\"><numFmt numFmtId=\"164\" formatCode=\"0.0\"/><numFmt numFmtId=\"165\" "
-       "formatCode=\"0.000\"/>"
-       "<numFmt numFmtId=\"166\" formatCode=\"0.0000\"/></numFmts>"
-       "<cellXfs count=\"3\"><xf/><xf numFmtId=\"165\"/><xf numFmtId=\"166\" "
-       "applyNumberFormat=\"1\"/></cellXfs>"},
+       "formatCode=\"0.000\"/><numFmt numFmtId=\"166\" formatCode=\"0.0000\"/></numFmts><cellXfs count=\"3\">"
+       "<xf/><xf numFmtId=\"165\"/><xf numFmtId=\"166\" applyNumberFormat=\"1\"/></cellXfs>"},
       // Parts without these lists, and cells with a style that doesn't exist.
       {"<fonts/><cellStyleXfs/><cellStyles/>", 0, "0.0", 1,
        "<numFmts count=\"1\"><numFmt numFmtId=\"164\" formatCode=\"0.0\"/></numFmts><fonts/><cellStyleXfs/>"
@@ -75,8 +70,7 @@ TEST(StylesTest, AFormatIsAddedAtItsPlaceOnce) {
        "applyNumberFormat=\"1\"/></cellXfs><cellStyles/>"},
       {"<fills/><borders/><tableStyles/><colors/><extLst/>", 3, "0.00", 1,
        "<fills/><borders/><cellXfs count=\"2\"><xf numFmtId=\"0\"/><xf numFmtId=\"2\" "
-       "applyNumberFormat=\"1\"/></cellXfs>"
-       "<tableStyles/><colors/><extLst/>"},
+       "applyNumberFormat=\"1\"/></cellXfs><tableStyles/><colors/><extLst/>"},
       {"<cellXfs count=\"1\">" + xf + "</cellXfs>", 1, "0.00", 1,
        "<cellXfs count=\"2\">" + xf + "<xf numFmtId=\"2\" applyNumberFormat=\"1\"/></cellXfs>"}};
   for (const auto& c : cases) {
@@ -123,15 +117,12 @@ TEST(StylesTest, ANewPartHasOneStyleInTheVocabularyOfTheWorkbook) {
 TEST(StylesTest, EachStyleHasItsFormat) {
   // Cells count what a program that knows no extension would read.
   const Styles styles(
-      Part("<numFmts><numFmt numFmtId=\"200\" formatCode=\"d/m\"/><numFmt numFmtId=\"201\" "
-           "formatCode=\"[\"/></numFmts>"
-           "<cellXfs><mc:AlternateContent xmlns:mc=\"m\"><mc:Choice><xf "
-           "numFmtId=\"9\"/><xf/></mc:Choice><mc:Fallback><xf "
-           "numFmtId=\"1\"/></mc:Fallback></mc:AlternateContent><mc:AlternateContent "
-           "xmlns:mc=\"m\"><mc:Choice><xf "
-           "numFmtId=\"200\"/></mc:Choice></mc:AlternateContent><other/><xf numFmtId=\"14\"/><xf "
-           "numFmtId=\"999\"/><xf "
-           "numFmtId=\"-3\"/><xf numFmtId=\"9999999999999\"/><xf numFmtId=\"201\"/></cellXfs>"));
+      Part("<numFmts><numFmt numFmtId=\"200\" formatCode=\"d/m\"/><numFmt numFmtId=\"201\" formatCode=\"[\"/>"
+           "</numFmts><cellXfs><mc:AlternateContent xmlns:mc=\"m\"><mc:Choice><xf numFmtId=\"9\"/>"
+           "<xf/></mc:Choice><mc:Fallback><xf numFmtId=\"1\"/></mc:Fallback></mc:AlternateContent>"
+           "<mc:AlternateContent xmlns:mc=\"m\"><mc:Choice><xf numFmtId=\"200\"/>"
+           "</mc:Choice></mc:AlternateContent><other/><xf numFmtId=\"14\"/><xf numFmtId=\"999\"/>"
+           "<xf numFmtId=\"-3\"/><xf numFmtId=\"9999999999999\"/><xf numFmtId=\"201\"/></cellXfs>"));
   const struct {
     const char* code;
     bool general, date;
@@ -206,10 +197,9 @@ TEST(StylesTest, ThePaletteIsWrittenAsAWholeBehindTheOtherLists) {
 
 TEST(StylesTest, TheLooksOfAStyleAreFoundByTheirNumbers) {
   const Styles styles(
-      Part("<fonts><font i=\"0\"/><font i=\"1\"/></fonts><fills><fill i=\"0\"/><fill "
-           "i=\"1\"/></fills><borders><border i=\"0\"/>"
-           "<border i=\"1\"/></borders><cellXfs><xf/><xf fontId=\"1\" fillId=\"1\" borderId=\"1\"><alignment "
-           "i=\"1\"/></xf>"
+      Part("<fonts><font i=\"0\"/><font i=\"1\"/></fonts><fills><fill i=\"0\"/><fill i=\"1\"/>"
+           "</fills><borders><border i=\"0\"/><border i=\"1\"/></borders><cellXfs><xf/>"
+           "<xf fontId=\"1\" fillId=\"1\" borderId=\"1\"><alignment i=\"1\"/></xf>"
            "<xf fontId=\"2\" fillId=\"-1\" borderId=\"x\"/></cellXfs>"));
   const auto looks = [&](std::uint32_t style) {
     S text;
