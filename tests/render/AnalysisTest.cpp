@@ -362,7 +362,7 @@ TEST_F(AnalysisTest, DatesBeginEarlierForTrendlines) {
                    "<c:scaling><c:max val=\"10\"/><c:min val=\"-10\"/></c:scaling>");
   axes = runtime::Replace(axes, "catAx", "dateAx");
   for (const auto& test : kCases) {
-    const S dates = AmountsXml("cat", test.dates);
+    const S dates = NumbersXml("cat", test.dates);
     const Drawing drawing =
         Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:overlap val=\"100\"/>",
                               SeriesXml(0, {1, 2, 3}, test.first, "", dates) +

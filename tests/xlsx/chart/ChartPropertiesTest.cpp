@@ -12,6 +12,7 @@ namespace {
 using excel::Chart;
 using excel::Series;
 using namespace test;
+using test::DeleteSeries;  // rather than the one of the host
 using S = std::string;
 
 S Part(const S& chart) { return test::ChartPartXml(chart); }

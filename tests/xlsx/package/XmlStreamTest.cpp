@@ -43,7 +43,9 @@ TEST(XmlStreamTest, TagsAndTheTextsBeforeThem) {
       {"\xEF\xBB\xBF<?xml version='1.0'?> <a>&lt;&#65;&#x42;&unknown;</a>", " [+a]<AB&unknown;[-a]",
        "[+a][-a]"},
       {"<a><!-- <b> -- > --->c<!----></a>", "[+a]c[-a]", "[+a][-a]"},
-      {"<a><?p <b> ? >?>c<??></a>", "[+a]c[-a]", "[+a][-a]"},
+      {"<a><?p <b> ? >?>c<?"
+       "?></a>",
+       "[+a]c[-a]", "[+a][-a]"},
       {"<a>1<![CDATA[<b>&amp;]]]>2<![CDATA[]]>3</a>", "[+a]1<b>&amp;]23[-a]", "[+a][-a]"},
       {"<a>\r\n1\r2</a>", "[+a]\n1\n2[-a]", "[+a][-a]"},
   };
