@@ -8,6 +8,7 @@
 #include "cli/batch/BookBatch.h"
 #include "cli/batch/Workers.h"
 #include "runtime/Strings.h"
+#include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/RunCommand.h"
 
@@ -32,10 +33,6 @@ class BatchTest : public ::testing::Test {
     auto book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "column", "table-id=\"Gone\""}});
     book.Sheet("Charts").frames[1].alternativeText = "VEX_Chart2";
     return Write(name, book);
-  }
-  static S Bytes(const S& path) {
-    std::ifstream file(path, std::ios::binary);
-    return S((std::istreambuf_iterator<char>(file)), {});
   }
   /// Returns true if the chart of a workbook is drawn.
   static bool IsDrawn(const S& path) { return RunCommand({"charts", path}).out.ends_with("\n  ok\n"); }
@@ -101,12 +98,12 @@ TEST_F(BatchTest, OptionsApplyToEachWorkbook) {
 TEST_F(BatchTest, ResultsAreWrittenIntoAFolderByName) {
   const S first = Write("one/a.xlsx"), second = Write("two/b.xlsx"), twin = Write("two/a.xlsx"),
           out = folder_ / "out";
-  const S before = Bytes(first);
+  const S before = test::BytesOf(first);
   fs::create_directory(out);
   std::ofstream(folder_ / "file") << "x";
   EXPECT_EQ(RunCommand({"refresh", first, second, "-o", out}).code, 0);
   EXPECT_TRUE(IsDrawn(out + "/a.xlsx") && IsDrawn(out + "/b.xlsx"));
-  EXPECT_EQ(Bytes(first), before);
+  EXPECT_EQ(test::BytesOf(first), before);
   fs::remove(out + "/a.xlsx");
   EXPECT_EQ(RunCommand({"refresh", first, "-o", out}).code, 0) << "also a single one";
   EXPECT_TRUE(fs::exists(out + "/a.xlsx"));
@@ -132,7 +129,7 @@ TEST_F(BatchTest, ResultsAreWrittenIntoAFolderByName) {
     EXPECT_EQ(Plain(result.err), "plotsmith: " + said + "\n");
   }
   EXPECT_TRUE(fs::is_empty(out)) << "all workbooks are refused before the work";
-  EXPECT_EQ(Bytes(first), before);
+  EXPECT_EQ(test::BytesOf(first), before);
 }
 
 TEST_F(BatchTest, AWorkbookWithSeveralNamesIsRefreshedOnce) {
@@ -171,7 +168,7 @@ TEST_F(BatchTest, AWorkerThatDiesAffectsOnlyItsOwnWorkbook) {
 TEST_F(BatchTest, AnInterruptStopsTheWorkBetweenOldAndNew) {
   std::vector<BookRun> runs;
   for (int i = 0; i < 40; ++i) runs.push_back({Write(std::to_string(i) + ".xlsx"), std::nullopt});
-  const S before = Bytes(runs[0].book);
+  const S before = test::BytesOf(runs[0].book);
   const pid_t self = getpid();
   const auto doRun = [&](const BookRun& run, const Streams& to) -> BookResult {
     if (run.book == runs[5].book) kill(self, SIGINT);
@@ -183,7 +180,7 @@ TEST_F(BatchTest, AnInterruptStopsTheWorkBetweenOldAndNew) {
   std::ostringstream out, err;
   EXPECT_EQ(RunBatch(runs, doRun, 2, false, {in, out, err}), 128 + SIGINT);
   EXPECT_TRUE(err.str().starts_with("plotsmith: stopped by a signal; ")) << err.str();
-  EXPECT_EQ(Bytes(runs[39].book), before) << "the rest isn't done";
+  EXPECT_EQ(test::BytesOf(runs[39].book), before) << "the rest isn't done";
   int files = 0;
   for (const auto& entry : fs::directory_iterator(folder_.Path())) {
     ++files;

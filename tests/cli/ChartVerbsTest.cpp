@@ -3,6 +3,7 @@
 #include <regex>
 #include <vector>
 
+#include "tests/support/Files.h"
 #include "tests/support/WizardVerbsTest.h"
 
 namespace plotsmith::cli {
@@ -97,14 +98,14 @@ TEST_F(ChartVerbsTest, MissingThingsAreReportedAndNothingIsSaved) {
       {{"modify", "VEX_Chart2", "--title", "x"},
        "Table 'Data2' is not currently valid for this chart. You must select a different table to continue."},
   };
-  const S before = Bytes(book_);
+  const S before = test::BytesOf(book_);
   for (const auto& [arguments, sentence] : cases) {
     const CommandResult result = Verb(arguments);
     EXPECT_EQ(result.code, 2) << sentence;
     EXPECT_EQ(result.err, "plotsmith: " + sentence + "\n");
     EXPECT_EQ(result.out, "");
     EXPECT_FALSE(std::filesystem::exists(out_)) << sentence;
-    EXPECT_EQ(Bytes(book_), before) << sentence;
+    EXPECT_EQ(test::BytesOf(book_), before) << sentence;
   }
   for (const std::vector<S>& arguments : {std::vector<S>{"new", "--table", "Data1"},
                                           {"new", "--type", "bar"},
@@ -168,7 +169,7 @@ TEST_F(ChartVerbsTest, AChartWithAnUnsuitableTableGetsAnotherOne) {
           .out;
   EXPECT_NE(script.find("expect message \"Table 'Data2' is not currently valid"), S::npos) << script;
   EXPECT_EQ(Wizard(book_, script, {"-o", folder_ / "played.xlsx"}).code, 0);
-  EXPECT_EQ(Bytes(folder_ / "played.xlsx"), Bytes(out_));
+  EXPECT_EQ(test::BytesOf(folder_ / "played.xlsx"), test::BytesOf(out_));
 }
 
 TEST_F(ChartVerbsTest, OptionsReachTheirControlsFromAnyLayout) {

@@ -1,4 +1,3 @@
-#include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <nlohmann/json.hpp>
@@ -8,6 +7,7 @@
 #include "cli/check/Words.h"
 #include "runtime/Strings.h"
 #include "tests/support/FamilyBooks.h"
+#include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/RunCommand.h"
 
@@ -27,18 +27,14 @@ const S kStray =
 /// Tests the findings of `check`: the indented lines, without the place of the first definition.
 class CheckTest : public ::testing::Test {
  protected:
-  static S Bytes(const S& path) {
-    std::ifstream file(path, std::ios::binary);
-    return S((std::istreambuf_iterator<char>(file)), {});
-  }
   test::CommandResult Check(const PlainBook& book, const List& options = {}) {
     const S path = folder_ / "book.xlsx";
     book.Write(path);
-    const S before = Bytes(path);
+    const S before = test::BytesOf(path);
     List arguments = {"check", path};
     arguments.insert(arguments.end(), options.begin(), options.end());
     auto result = RunCommand(arguments);
-    EXPECT_EQ(Bytes(path), before);
+    EXPECT_EQ(test::BytesOf(path), before);
     EXPECT_EQ(result.err, "");
     return result;
   }

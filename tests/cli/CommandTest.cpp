@@ -9,6 +9,7 @@
 #include "cli/Session.h"
 #include "cli/line/CommandLine.h"
 #include "runtime/Strings.h"
+#include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/RunCommand.h"
 #include "xlsx/package/Archive.h"
@@ -25,24 +26,20 @@ class CommandTest : public ::testing::Test {
     book.Write(folder_ / name);
     return folder_ / name;
   }
-  static S Bytes(const S& path) {
-    std::ifstream file(path, std::ios::binary);
-    return S((std::istreambuf_iterator<char>(file)), {});
-  }
   test::TempFolder folder_;
 };
 
 TEST_F(CommandTest, RefreshPrintsNothingWithoutProblems) {
   const S book = Write(SalesBook({{"VEX_Chart1"}}));
-  const S before = Bytes(book);
+  const S before = test::BytesOf(book);
   const CommandResult refreshed = RunCommand({"refresh", book, "-o", folder_ / "out.xlsx"});
   EXPECT_EQ(refreshed.code, 0) << refreshed.err;
   EXPECT_EQ(refreshed.out + refreshed.err, "");
-  EXPECT_EQ(Bytes(book), before) << "with -o the workbook itself doesn't change";
+  EXPECT_EQ(test::BytesOf(book), before) << "with -o the workbook itself doesn't change";
   EXPECT_EQ(RunCommand({"cells", folder_ / "out.xlsx", "VEX_ChartData!A1:D3"}).out,
             "VEX_Chart1\t\tWidget\tGadget\nVEX_Chart1\tEast\t11\t7\nVEX_Chart1\tWest\t5\t\n");
   EXPECT_EQ(RunCommand({"refresh", book}).code, 0);
-  EXPECT_NE(Bytes(book), before);
+  EXPECT_NE(test::BytesOf(book), before);
 }
 
 TEST_F(CommandTest, MessagesReachStderrWordForWord) {
@@ -108,12 +105,12 @@ TEST_F(CommandTest, UnreadableFilesAreReportedAndNothingIsWritten) {
       {shared, "its sheets One and Three share one part"},
       {bad, "its part /xl/worksheets/sheet1.xml can't be read: its XML is damaged"}};
   for (const auto& [path, reason] : cases) {
-    const S before = path == pipe ? "" : Bytes(path);  // Reading the pipe would wait for a writer.
+    const auto before = path == pipe ? S() : test::BytesIfThere(path);  // The pipe would wait for a writer.
     const CommandResult result = RunCommand({"refresh", path, "-o", folder_ / "out.xlsx"});
     EXPECT_EQ(result.code, 3) << path;
     EXPECT_EQ(result.err, "plotsmith: can't read \"" + path + "\": " + reason + ".\n");
     EXPECT_FALSE(std::filesystem::exists(folder_ / "out.xlsx"));
-    EXPECT_EQ(path == pipe ? "" : Bytes(path), before);
+    EXPECT_EQ(path == pipe ? S() : test::BytesIfThere(path), before);
   }
   EXPECT_EQ(RunCommand({"refresh", odd}).code, 0);
   EXPECT_EQ(RunCommand({"refresh", folder_.Path().string()}).err,
@@ -152,7 +149,7 @@ TEST_F(CommandTest, NothingIsSavedAfterTheOutputWasLost) {
     int overflow(int) override { return traits_type::eof(); }
   } full;
   const S book = Write(SalesBook({{"VEX_Chart1"}}));
-  const S before = Bytes(book);
+  const S before = test::BytesOf(book);
   for (const std::vector<S>& arguments : std::vector<std::vector<S>>{
            {"refresh", book, "--journal"}, {"cells", book, "Data1!A1"}, {"--version"}}) {
     std::ostream out(&full);
@@ -161,7 +158,7 @@ TEST_F(CommandTest, NothingIsSavedAfterTheOutputWasLost) {
     EXPECT_EQ(RunCommandLine(arguments, {in, out, err, false}), 3);
     EXPECT_EQ(err.str(), "plotsmith: the output can't be written.\n");
   }
-  EXPECT_EQ(Bytes(book), before);
+  EXPECT_EQ(test::BytesOf(book), before);
 }
 
 TEST_F(CommandTest, PathsWithoutAFileAreReported) {
@@ -205,11 +202,11 @@ TEST_F(CommandTest, AWorkbookThatIsOpenElsewhereIsRefused) {
   for (const char* lock : {".~lock.book.xlsx#", "~$book.xlsx"}) {
     const S book = Write(SalesBook({{"VEX_Chart1"}}));
     std::ofstream(folder_ / lock) << "somebody";
-    const S before = Bytes(book);
+    const S before = test::BytesOf(book);
     const CommandResult refused = RunCommand({"refresh", book});
     EXPECT_EQ(refused.code, 3);
     EXPECT_NE(refused.err.find("is open in another program"), S::npos);
-    EXPECT_EQ(Bytes(book), before);
+    EXPECT_EQ(test::BytesOf(book), before);
     EXPECT_EQ(RunCommand({"refresh", book, "-o", folder_ / "other.xlsx"}).code, 0) << "it is only read then";
     EXPECT_EQ(RunCommand({"refresh", book, "--force"}).code, 0);
     std::filesystem::remove(folder_ / lock);
@@ -220,7 +217,7 @@ TEST_F(CommandTest, ListsAndJson) {
   test::PlainBook plain = SalesBook({{"VEX_Chart1", "bar"}});
   plain.Sheet("Data1").rows[1][2] = test::RawCell{" t='e'><v>#N/A</v></c>"};
   const S book = Write(plain);
-  const S before = Bytes(book);
+  const S before = test::BytesOf(book);
   EXPECT_EQ(RunCommand({"tables", book}).out,
             "Data1  \"Data1\"\n  sheet Data1, rows 1 to 5 (4 of data), from column 1\n  label\tcolumn "
             "1\tRegion\n  label\tcolumn 2\tProduct\n  label\tcolumn 3\tAmount\n  number\tcolumn 4\tCost\n");
@@ -285,7 +282,7 @@ TEST_F(CommandTest, ListsAndJson) {
             "[[\"East\",\"Widget\",\"#N/A\"],[\"West\",\"Widget\",\"5\"]]\n");
   EXPECT_EQ(RunCommand({"cells", book, "Data1!C:C", "--value", "--json"}).out,
             "[[\"Amount\"],[\"#N/A\"],[5.0],[7.0],[1.0]]\n");
-  EXPECT_EQ(Bytes(book), before) << "reading commands write nothing";
+  EXPECT_EQ(test::BytesOf(book), before) << "reading commands write nothing";
 
   // The id of a chart takes precedence over the names of others.
   auto alike = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}});
@@ -488,7 +485,7 @@ TEST_F(CommandTest, ChartsFollowRenamedColumns) {
   EXPECT_NE(RunCommand({"definition", other, "VEX_Chart1"}).out.find("label=\"Area\" sticky=\"no\""),
             S::npos);
 
-  const S before = Bytes(book);
+  const S before = test::BytesOf(book);
   result = RunCommand({"rename-columns", book, "--table", "Data1", "Amount=Units"});
   EXPECT_EQ(result.err, waiting) << "it is already renamed";
   result = RunCommand({"rename-columns", book, "--table", "Data1", "Amuont=Money", "label=Text"});
@@ -496,7 +493,7 @@ TEST_F(CommandTest, ChartsFollowRenamedColumns) {
   EXPECT_EQ(result.err,
             "plotsmith: no chart of the table \"Data1\" has a column \"Amuont\".\n"
             "plotsmith: no chart of the table \"Data1\" has a column \"label\".\n");
-  EXPECT_EQ(Bytes(book), before);
+  EXPECT_EQ(test::BytesOf(book), before);
   for (const auto& [arguments, said] : std::vector<std::pair<std::vector<S>, S>>{
            {{"--table", "Data1", "Region"}, "\"Region\" isn't a renaming"},
            {{"--table", "Data1", "A=B", "A=C"}, "\"A\" is renamed twice"},
@@ -510,7 +507,7 @@ TEST_F(CommandTest, ChartsFollowRenamedColumns) {
     EXPECT_EQ(result.code, 2);
     EXPECT_NE(result.err.find(said), S::npos) << result.err;
   }
-  EXPECT_EQ(Bytes(book), before);
+  EXPECT_EQ(test::BytesOf(book), before);
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "cli/manual/Manual.h"
 #include "runtime/Strings.h"
 #include "tests/support/FamilyBooks.h"
+#include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"
 #include "tests/support/RunCommand.h"
@@ -192,8 +193,7 @@ TEST_F(BookCompletionTest, BashAsksTheWorkbook) {
 }
 
 TEST_F(BookCompletionTest, ZshCallsTheFunctionsOfItsScript) {
-  std::ifstream file(folder_ / "_plotsmith");
-  const S script((std::istreambuf_iterator<char>(file)), {});
+  const S script = test::BytesOf(folder_ / "_plotsmith");
   for (const S word : {"tables", "charts", "columns", "types"}) {
     EXPECT_NE(script.find("\n_plotsmith_" + word + "() {"), S::npos) << word;
     EXPECT_NE(script.find(":_plotsmith_" + word + "'"), S::npos) << word;

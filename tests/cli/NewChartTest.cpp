@@ -2,6 +2,7 @@
 #include <regex>
 #include <vector>
 
+#include "tests/support/Files.h"
 #include "tests/support/WizardVerbsTest.h"
 #include "xlsx/package/Package.h"
 
@@ -137,14 +138,14 @@ TEST_F(NewChartTest, ARefreshChangesNothingAfterwards) {
 
 TEST_F(NewChartTest, ThePrintedScriptMakesTheSameChart) {
   const S book = Write(test::PlainSales()), out = folder_ / "out.xlsx", played = folder_ / "played.xlsx";
-  const S before = Bytes(book);
+  const S before = test::BytesOf(book);
   for (const NewChart& chart : kNewCharts) {
     ASSERT_EQ(RunCommand(With(Arguments(book, chart), {"-o", out})).code, 0) << chart.type;
     const CommandResult printed = RunCommand(With(Arguments(book, chart), {"--print-script"}));
     EXPECT_EQ(printed.code, 0) << chart.type;
-    EXPECT_EQ(Bytes(book), before);
+    EXPECT_EQ(test::BytesOf(book), before);
     EXPECT_EQ(Wizard(book, printed.out, {"-o", played}).code, 0) << printed.out;
-    EXPECT_EQ(Bytes(played), Bytes(out)) << chart.type;
+    EXPECT_EQ(test::BytesOf(played), test::BytesOf(out)) << chart.type;
   }
   EXPECT_EQ(RunCommand(With(Arguments(book, kNewCharts[2]), {"--new-sheet", "Mine", "--print-script"})).out,
             R"(page frmPSSelectTable

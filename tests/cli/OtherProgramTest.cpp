@@ -6,6 +6,7 @@
 #include <string>
 #include <sys/wait.h>
 
+#include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"
 
@@ -45,8 +46,7 @@ class OtherProgramTest : public testing::Test {
     const int status = std::system(("cd " + (folder_ / "work") + "; PATH=" + path +
                                     " ../bin/plotsmith wizard " + arguments + " > " + out + " 2>&1")
                                        .c_str());
-    std::ifstream file(out);
-    return {WEXITSTATUS(status), S(std::istreambuf_iterator<char>(file), {})};
+    return {WEXITSTATUS(status), test::BytesOf(out)};
   }
 
   test::TempFolder folder_;
@@ -94,8 +94,7 @@ TEST_F(OtherProgramTest, TheWizardsProgramIsSearchedBesideTheCommandAndThenInPat
 TEST_F(OtherProgramTest, TheCommandLoadsNoToolkit) {
   const S list = folder_ / "list.txt";
   ASSERT_EQ(std::system(("ldd " + (folder_ / "bin/plotsmith") + " > " + list).c_str()), 0);
-  std::ifstream file(list);
-  const S libraries(std::istreambuf_iterator<char>(file), {});
+  const S libraries = test::BytesOf(list);
   EXPECT_NE(libraries.find("libpugixml"), S::npos) << libraries;
   for (const char* toolkit : {"Qt", "libX11", "libxcb", "libGL"})
     EXPECT_EQ(libraries.find(toolkit), S::npos) << libraries;

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "runtime/Strings.h"
+#include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/PackageComplaints.h"
 #include "tests/support/RunCommand.h"
@@ -30,10 +31,6 @@ class OutputTest : public ::testing::Test {
     package.Save(path);
     return path;
   }
-  static S Bytes(const S& path) {
-    std::ifstream file(path, std::ios::binary);
-    return S((std::istreambuf_iterator<char>(file)), {});
-  }
   static S MainType(const S& path) { return xlsx::Package::Open(path).ContentType("/xl/workbook.xml"); }
   /// Returns each verb that writes a workbook, without its output.
   std::vector<std::vector<S>> WritingVerbs(const S& book) {
@@ -55,7 +52,7 @@ class OutputTest : public ::testing::Test {
 TEST_F(OutputTest, EachWritingVerbWritesTheSameToTheStandardOutputAsToAFile) {
   const S book = Write("book.xlsx"), file = folder_ / "file.xlsx";
   ASSERT_EQ(RunCommand({"refresh", book}).code, 0);
-  const S before = Bytes(book);
+  const S before = test::BytesOf(book);
   for (const std::vector<S>& verb : WritingVerbs(book)) {
     const auto with = [&](std::vector<S> more) {
       std::vector<S> line = verb;
@@ -67,9 +64,9 @@ TEST_F(OutputTest, EachWritingVerbWritesTheSameToTheStandardOutputAsToAFile) {
     const CommandResult printed = with({"-o", "-", "--journal"});
     EXPECT_LE(printed.code, 1) << printed.err;
     EXPECT_EQ(printed.code, saved.code);
-    EXPECT_EQ(printed.out, Bytes(file)) << "there is no other output";
+    EXPECT_EQ(printed.out, test::BytesOf(file)) << "there is no other output";
     EXPECT_EQ(printed.err, saved.out + saved.err) << "the output and the messages";
-    EXPECT_EQ(Bytes(book), before);
+    EXPECT_EQ(test::BytesOf(book), before);
     std::filesystem::remove(file);
   }
   EXPECT_FALSE(std::filesystem::exists("-"));

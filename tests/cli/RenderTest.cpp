@@ -8,6 +8,7 @@
 
 #include "cli/render/PictureNames.h"
 #include "runtime/Strings.h"
+#include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"
 #include "tests/support/RunCommand.h"
@@ -27,11 +28,6 @@ constexpr const char* kForeignChart =
     "</c:v></c:pt></c:numLit></c:val></c:ser><c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart>"
     "<c:catAx><c:axId val=\"1\"/><c:crossAx val=\"2\"/></c:catAx><c:valAx><c:axId val=\"2\"/>"
     "<c:crossAx val=\"1\"/></c:valAx></c:plotArea></c:chart></c:chartSpace>";
-
-S BytesOf(const S& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
 
 /// Returns the format of the bytes.
 S FormatOf(const S& bytes) {
@@ -60,9 +56,9 @@ class RenderTest : public ::testing::Test {
     book.sheets.push_back({.name = "Empty"});
     book.Write(book_);
     ASSERT_EQ(RunCommand({"refresh", book_}).code, 0);
-    fresh_ = BytesOf(book_);
+    fresh_ = test::BytesOf(book_);
   }
-  void TearDown() override { EXPECT_TRUE(BytesOf(book_) == fresh_) << "the workbook was changed"; }
+  void TearDown() override { EXPECT_TRUE(test::BytesOf(book_) == fresh_) << "the workbook was changed"; }
 
   /// Runs the command. "BOOK" is the workbook and "DIR" is an empty folder, also in the result.
   CommandResult Run(const std::vector<S>& arguments, test::Watched watched = test::Watched::kNothing) {
@@ -81,7 +77,8 @@ class RenderTest : public ::testing::Test {
     std::vector<S> names;
     for (const auto& entry : fs::recursive_directory_iterator(folder_ / "dir")) {
       if (!entry.is_regular_file()) continue;
-      names.push_back(entry.path().filename().string() + " " + FormatOf(BytesOf(entry.path().string())));
+      names.push_back(entry.path().filename().string() + " " +
+                      FormatOf(test::BytesOf(entry.path().string())));
     }
     std::sort(names.begin(), names.end());
     S text;
@@ -183,7 +180,7 @@ TEST_F(RenderTest, AMachineWithoutFontsIsReportedOnce) {
     const S command = c.environment + " " + test::kCommand + " render " + book_ + " " + c.arguments + " -o " +
                       folder + "/ > " + (folder_ / "out.txt") + " 2> " + said;
     EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), c.code) << c.arguments;
-    EXPECT_EQ(BytesOf(said), c.err) << c.arguments;
+    EXPECT_EQ(test::BytesOf(said), c.err) << c.arguments;
     EXPECT_EQ(Files(), c.files) << c.arguments;
   }
 }
@@ -257,7 +254,7 @@ TEST_F(RenderTest, TheSameBytesComeOutOfEveryRunToFilesAndToTheStandardOutput) {
     EXPECT_EQ(FormatOf(out.out), format);
     for (int run = 0; run < 2; ++run) {
       ASSERT_EQ(Run({"render", "BOOK", "VEX_Chart1", "-o", "DIR/a." + format}).code, 0);
-      EXPECT_TRUE(BytesOf(folder_ / ("dir/a." + format)) == out.out) << format;
+      EXPECT_TRUE(test::BytesOf(folder_ / ("dir/a." + format)) == out.out) << format;
     }
   }
 }
@@ -283,7 +280,7 @@ TEST_F(RenderTest, SizesFollowScaleAndResolution) {
 TEST_F(RenderTest, SvgIsWellFormedAndSaysItsValues) {
   ASSERT_EQ(Run({"render", "BOOK", "-o", "DIR"}).code, 0);
   for (const auto& entry : fs::directory_iterator(folder_ / "dir")) {
-    const S bytes = BytesOf(entry.path().string());
+    const S bytes = test::BytesOf(entry.path().string());
     xmlDocPtr document =
         xmlReadMemory(bytes.data(), static_cast<int>(bytes.size()), "a.svg", nullptr, XML_PARSE_NONET);
     ASSERT_NE(document, nullptr) << bytes;
@@ -296,21 +293,21 @@ TEST_F(RenderTest, SvgIsWellFormedAndSaysItsValues) {
 
 TEST_F(RenderTest, APdfHasAPageForEachChartAndEachPageOfASheet) {
   ASSERT_EQ(Run({"render", "BOOK", "-o", "DIR/a.pdf"}).code, 0);
-  EXPECT_EQ(CountOf(BytesOf(folder_ / "dir/a.pdf"), "/Type /Page "), 2);
+  EXPECT_EQ(CountOf(test::BytesOf(folder_ / "dir/a.pdf"), "/Type /Page "), 2);
   ASSERT_EQ(Run({"render", "BOOK", "--sheet", "Many rows", "-o", "DIR/a.pdf"}).code, 0);
-  EXPECT_EQ(CountOf(BytesOf(folder_ / "dir/a.pdf"), "/Type /Page "), 3);
+  EXPECT_EQ(CountOf(test::BytesOf(folder_ / "dir/a.pdf"), "/Type /Page "), 3);
 }
 
 TEST_F(RenderTest, AnExistingPictureIsReplacedAsAWhole) {
   const S folder = folder_ / "kept", picture = folder + "/a.svg", link = folder + "/link.svg";
   ASSERT_EQ(Run({"render", "BOOK", "VEX_Chart1", "-o", "DIR/a.svg"}).code, 0);
-  const S fresh = BytesOf(folder_ / "dir/a.svg");
+  const S fresh = test::BytesOf(folder_ / "dir/a.svg");
   fs::create_directory(folder);
   fs::create_symlink("a.svg", link);
   for (const std::size_t size : {std::size_t(0), std::size_t(1), fresh.size(), 3 * fresh.size()}) {
     std::ofstream(picture, std::ios::binary) << S(size, 'x');
     ASSERT_EQ(RunCommand({"render", book_, "VEX_Chart1", "-o", link}).code, 0);
-    EXPECT_TRUE(BytesOf(picture) == fresh) << size;
+    EXPECT_TRUE(test::BytesOf(picture) == fresh) << size;
     EXPECT_TRUE(fs::is_symlink(link)) << size;
   }
 }
@@ -413,8 +410,8 @@ TEST_F(RenderTest, WithoutTheModuleThatDrawsTheCommandSaysSo) {
                                     test.format + " -o " + folder_.Path().string() + " 2> " + err)
                                        .c_str());
     EXPECT_EQ(WEXITSTATUS(status), 2) << test.format;
-    EXPECT_EQ(BytesOf(err), "plotsmith: nothing can be drawn: \"" + (folder_ / "lib/plotsmith/") +
-                                test.module + "\", which draws, isn't installed.\n");
+    EXPECT_EQ(test::BytesOf(err), "plotsmith: nothing can be drawn: \"" + (folder_ / "lib/plotsmith/") +
+                                      test.module + "\", which draws, isn't installed.\n");
   }
 }
 

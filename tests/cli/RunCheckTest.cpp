@@ -1,4 +1,3 @@
-#include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <nlohmann/json.hpp>
@@ -6,6 +5,7 @@
 
 #include "runtime/Strings.h"
 #include "tests/support/FamilyBooks.h"
+#include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/RunCommand.h"
 
@@ -23,10 +23,6 @@ const S kChart = "/xl/charts/chart1.xml";
 /// Tests the messages on stderr with which writing commands report what happens to a person's work.
 class RunCheckTest : public ::testing::Test {
  protected:
-  static S Bytes(const S& path) {
-    std::ifstream file(path, std::ios::binary);
-    return S((std::istreambuf_iterator<char>(file)), {});
-  }
   S Write(const PlainBook& book) {
     book.Write(path_);
     return path_;
@@ -92,7 +88,8 @@ TEST_F(RunCheckTest, NothingIsWrittenIfADefinitionWouldBeLost) {
        0}};
   for (const auto& row : cases) {
     WriteRows(row.rows);
-    const S before = Bytes(path_), line = "plotsmith: VEX_ChartDefinitions!" + row.place + row.sentence;
+    const S before = test::BytesOf(path_),
+            line = "plotsmith: VEX_ChartDefinitions!" + row.place + row.sentence;
     for (const List& verb : {List{"refresh", path_}, List{"delete", path_, "VEX_Chart1"},
                              List{"new", path_, "--table", "Data1", "--type", "pie"},
                              List{"rename-columns", path_, "--table", "Data1", "Amount=Sum"},
@@ -103,7 +100,7 @@ TEST_F(RunCheckTest, NothingIsWrittenIfADefinitionWouldBeLost) {
                 line +
                     ".\nplotsmith: nothing was changed, because 1 definition would be lost; correct "
                     "this, or use --drop-broken.\n");
-      EXPECT_EQ(Bytes(path_), before) << verb[0];
+      EXPECT_EQ(test::BytesOf(path_), before) << verb[0];
     }
     const S noCharts = row.charts == 0 ? kStray + NothingToRefresh() : "";
     EXPECT_EQ(Refresh({"--drop-broken"}), line + "; the row was dropped.\n" + noCharts);
@@ -426,13 +423,13 @@ TEST_F(RunCheckTest, AmbiguousChartsPreventNewAndDeletedCharts) {
   const std::pair<PlainBook, S> cases[] = {{bare, kStray}, {twice, second}, {gap, unread}};
   for (const auto& [book, said] : cases) {
     Write(book);
-    const S before = Bytes(path_);
+    const S before = test::BytesOf(path_);
     for (const List& verb : {List{"new", path_, "--table", "Data1", "--type", "pie"},
                              List{"delete", path_, "VEX_Chart1"}, List{"wizard", path_, "--script", "-"}}) {
       const CommandResult refused = RunCommand(verb);
       EXPECT_EQ(refused.code, 3) << said;
       EXPECT_EQ(refused.err, said + drop);
-      EXPECT_EQ(Bytes(path_), before);
+      EXPECT_EQ(test::BytesOf(path_), before);
     }
     EXPECT_EQ(Refresh(), said + (said == kStray ? NothingToRefresh() : ""));
   }

@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 #include <vector>
 
+#include "tests/support/Files.h"
 #include "tests/support/WizardVerbsTest.h"
 
 namespace plotsmith::cli {
@@ -81,13 +82,13 @@ TEST_F(WizardCommandTest, NothingElseIsSaved) {
        "or 'Cancel' to abort.' has no answer; a line 'answer ok' or 'answer cancel' gives it in advance.\n"},
   };
   const S book = Write(SalesBook({{"VEX_Chart1"}}));
-  const S before = Bytes(book), out = folder_ / "out.xlsx";
+  const S before = test::BytesOf(book), out = folder_ / "out.xlsx";
   for (const auto& item : cases) {
     for (const std::vector<S>& more : {std::vector<S>{}, {"-o", out}, {"--host-version", "11"}}) {
       const CommandResult result = Wizard(book, item.script, more);
       EXPECT_EQ(result.code, item.code) << item.name;
       EXPECT_EQ(result.err, item.err) << item.name;
-      EXPECT_EQ(Bytes(book), before) << item.name;
+      EXPECT_EQ(test::BytesOf(book), before) << item.name;
       EXPECT_FALSE(std::filesystem::exists(out)) << item.name;
     }
   }

@@ -1,6 +1,6 @@
-#include <fstream>
 
 #include "tests/support/FamilyBooks.h"
+#include "tests/support/Files.h"
 #include "tests/support/PagesTest.h"
 #include "tests/support/RunCommand.h"
 
@@ -14,11 +14,6 @@ class ChartLocationTest : public test::PagesTest {};
 
 const S kToLocation = NewChart(1) + "press cmdNext; page frmPSChartLocation; ";
 const S kNewBesideOthers = "press cmdNew; " + kToLocation;
-
-S Bytes(const S& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
 
 PlainBook WithSheets(std::initializer_list<const char*> names, const S& state = "") {
   PlainBook book = SalesBook({});
@@ -142,7 +137,7 @@ TEST_F(ChartLocationTest, FinishPutsTheChartOnItsSheet) {
 TEST_F(ChartLocationTest, LeavingAnyPageLeavesTheWorkbookAsItWas) {
   const S path = folder_ / "book.xlsx";
   test::BucketBook(test::BucketDefinition()).Write(path);
-  const S before = Bytes(path);
+  const S before = test::BytesOf(path);
   const S half = "press cmdNew\nselect grdTables Data1\nchoose optType(",
           typed = ")\npress cmdNext\ntype txtTitle T";
   const S pages[] = {"select grdCharts #1",
@@ -159,7 +154,7 @@ TEST_F(ChartLocationTest, LeavingAnyPageLeavesTheWorkbookAsItWas) {
          {"\npress cmdCancel\npage none", "\nclose\npage none", "\nescape\npage none", "\n"}) {
       const auto result = test::RunCommand({"wizard", path, "--script", "-"}, page + leave);
       EXPECT_EQ(std::to_string(result.code) + result.out + result.err, "0") << page << leave;
-      EXPECT_EQ(Bytes(path), before) << page << leave;
+      EXPECT_EQ(test::BytesOf(path), before) << page << leave;
     }
   }
 }

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <cmath>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <map>
 #include <set>
@@ -12,6 +11,7 @@
 #include "pages/pictures/Canvas.h"
 #include "pages/pictures/Svg.h"
 #include "tests/support/ErrorOf.h"
+#include "tests/support/Files.h"
 #include "tests/support/Paths.h"
 
 namespace plotsmith {
@@ -36,11 +36,6 @@ Rectangle Bounds(const Shape& shape) {
   }
   const double half = shape.oOutline ? shape.oOutline->dWidth / 2 : 0;
   return {bounds.dLeft - half, bounds.dTop - half, bounds.dRight + half, bounds.dBottom + half};
-}
-
-S FileText(const S& name) {
-  std::ifstream file(S(test::kSourceFolder) + "/" + name, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 /// Returns the rectangles of the polygons with a colour.
@@ -103,11 +98,12 @@ TEST(SamplePicturesTest, AnUnknownNameIsAnInvalidCall) {
 }
 
 TEST(SamplePicturesTest, TheDocsShowTheCurrentPictures) {
-  const S page = FileText("docs/pictures.md");
+  const S page = test::BytesOf(S(test::kSourceFolder) + "/docs/pictures.md");
   for (const auto name : aSamplePictureNames) {
     const S file = "images/wizard/" + S(name) + ".svg";
     const S svg = Svg(SamplePicture(name));
-    EXPECT_EQ(FileText("docs/" + file), svg) << "run build/examples/make_pictures docs/images/wizard";
+    EXPECT_EQ(test::BytesOf(S(test::kSourceFolder) + "/docs/" + file), svg)
+        << "run build/examples/make_pictures docs/images/wizard";
     EXPECT_LT(svg.size(), 4096u) << name;
     EXPECT_NE(page.find("src=\"" + file + "\""), S::npos) << name << " is not on the page";
   }

@@ -1,10 +1,10 @@
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <set>
 #include <string>
 
 #include "fuzz/Targets.h"
+#include "tests/support/Files.h"
 #include "tests/support/Paths.h"
 
 namespace plotsmith {
@@ -24,8 +24,7 @@ TEST(FuzzFindingsTest, FormerFailuresSucceed) {
     for (const auto& entry : fs::directory_iterator(findings / target.name)) {
       if (entry.path().filename().string().starts_with('.')) continue;
       SCOPED_TRACE(entry.path().string());
-      std::ifstream file(entry.path(), std::ios::binary);
-      const std::string bytes((std::istreambuf_iterator<char>(file)), {});
+      const std::string bytes = test::BytesOf(entry.path());
       EXPECT_FALSE(bytes.empty());
       target.run(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
       ++inputs;

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <map>
 #include <memory>
@@ -18,6 +17,7 @@
 #include "forms/Plain.h"
 #include "forms/script/ScriptPlayer.h"
 #include "runtime/Strings.h"
+#include "tests/support/Files.h"
 #include "tests/support/PagesTest.h"
 #include "tests/support/Paths.h"
 
@@ -29,12 +29,6 @@ using namespace test;
 using S = std::string;
 
 const fs::path kHelp = fs::path(test::kSourceFolder) / "docs/help";
-
-S FileText(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  EXPECT_TRUE(file) << path;
-  return S(std::istreambuf_iterator<char>(file), {});
-}
 
 /// Returns the words of a text, separated by single blanks.
 S Words(const S& text) {
@@ -82,7 +76,7 @@ struct TopicRow {
 };
 
 std::vector<TopicRow> TopicRows() {
-  std::istringstream lines(FileText(kHelp / "topics.tsv"));
+  std::istringstream lines(test::BytesOf(kHelp / "topics.tsv"));
   std::vector<TopicRow> rows;
   S line;
   std::getline(lines, line);
@@ -201,7 +195,8 @@ std::vector<Walk> Walks() {
 std::set<S> SentencesOf(const S& file) {
   const std::regex comment("//[^\n]*"), literal("(?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+"), seam("\"\\s*\""),
       lineBreak(R"(\\r\\n)");
-  const S source = std::regex_replace(FileText(fs::path(test::kSourceFolder) / "src" / file), comment, "");
+  const S source =
+      std::regex_replace(test::BytesOf(fs::path(test::kSourceFolder) / "src" / file), comment, "");
   std::set<S> sentences;
   for (std::sregex_iterator it(source.begin(), source.end(), literal), end; it != end; ++it) {
     const S text = std::regex_replace(std::regex_replace(it->str(), seam, ""), lineBreak, " ");
@@ -323,7 +318,7 @@ TEST_F(HelpTopicsTest, TheLanguageIsPlain) {
   const std::regex sentence("[^.!?]+[.!?]");
   for (const TopicRow& row : TopicRows()) {
     SCOPED_TRACE(row.file);
-    const S html = FileText(kHelp / row.file);
+    const S html = test::BytesOf(kHelp / row.file);
     EXPECT_TRUE(std::ranges::all_of(html, [](char c) { return static_cast<unsigned char>(c) < 128; }))
         << "write other characters as &#NUMBER;";
     const HelpFile help = Read(row.file);
@@ -341,10 +336,11 @@ TEST_F(HelpTopicsTest, TheProjectOpensEachTopicByItsNumber) {
   const S script = S(test::kSourceFolder) + "/scripts/help-project.py ";
   const S folder = folder_ / "help";
   ASSERT_EQ(std::system(("python3 " + script + folder + " 2> " + (folder_ / "err.txt")).c_str()), 0);
-  const S project = FileText(folder + "/Plotsmith.hhp"), contents = FileText(folder + "/Plotsmith.hhc");
+  const S project = test::BytesOf(folder + "/Plotsmith.hhp"),
+          contents = test::BytesOf(folder + "/Plotsmith.hhc");
   for (const TopicRow& row : TopicRows()) {
     SCOPED_TRACE(row.file);
-    EXPECT_EQ(FileText(folder + "/help/" + row.file), FileText(kHelp / row.file));
+    EXPECT_EQ(test::BytesOf(folder + "/help/" + row.file), test::BytesOf(kHelp / row.file));
     EXPECT_NE(project.find("\nhelp/" + row.file + "\n"), S::npos);
     EXPECT_NE(contents.find("<param name=\"Name\" value=\"" + row.title +
                             "\">\n<param name=\"Local\" value=\"help/" + row.file + "\">"),
@@ -360,7 +356,7 @@ TEST_F(HelpTopicsTest, TheProjectOpensEachTopicByItsNumber) {
     EXPECT_TRUE(fs::exists(fs::path(folder) / line)) << line;
   EXPECT_GT(files, 50);
   EXPECT_NE(std::system(("python3 " + script + "/dev/null/help 2> " + (folder_ / "err.txt")).c_str()), 0);
-  EXPECT_NE(FileText(folder_ / "err.txt").find("/dev/null/help/help can't be written: "), S::npos);
+  EXPECT_NE(test::BytesOf(folder_ / "err.txt").find("/dev/null/help/help can't be written: "), S::npos);
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
 #include <map>
@@ -11,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/Files.h"
 #include "tests/support/Paths.h"
 
 namespace plotsmith {
@@ -20,11 +20,6 @@ namespace fs = std::filesystem;
 
 const fs::path kSource = fs::path(test::kSourceFolder) / "src";
 const fs::path kDocs = fs::path(test::kSourceFolder) / "docs";
-
-std::string TextOf(const fs::path& path) {
-  std::ifstream file(path);
-  return std::string(std::istreambuf_iterator<char>(file), {});
-}
 
 /// Returns the texts between separators, without surrounding blanks.
 std::vector<std::string> Split(const std::string& text, char separator) {
@@ -48,7 +43,7 @@ class HouseRulesTest : public ::testing::Test {
  protected:
   static std::vector<Room> ReadRooms() {
     std::vector<Room> rooms;
-    for (const std::string& line : Split(TextOf(kDocs / "rooms.tsv"), '\n')) {
+    for (const std::string& line : Split(test::BytesOf(kDocs / "rooms.tsv"), '\n')) {
       if (line.empty() || line[0] == '#') continue;
       const auto cells = Split(line, '\t');
       if (cells.size() != 3) throw std::runtime_error("a row without three columns: " + line);
@@ -95,7 +90,7 @@ class HouseRulesTest : public ::testing::Test {
     for (const auto& entry : fs::recursive_directory_iterator(kSource)) {
       const auto extension = entry.path().extension();
       if (extension != ".h" && extension != ".cpp") continue;
-      visit(fs::relative(entry.path(), kSource).generic_string(), TextOf(entry.path()));
+      visit(fs::relative(entry.path(), kSource).generic_string(), test::BytesOf(entry.path()));
     }
   }
 
@@ -187,7 +182,7 @@ TEST_F(HouseRulesTest, TheArchitecturePageShowsTheTable) {
     tables[folder ? room.name.substr(0, slash) : ""] += "| `" + room.name + "` | " + room.content + " | " +
                                                         (includes.empty() ? "nothing" : includes) + " |\n";
   }
-  const std::string page = TextOf(kDocs / "architecture.md");
+  const std::string page = test::BytesOf(kDocs / "architecture.md");
   const std::string head = "| in `src/` | what is in it | may include |\n|---|---|---|\n";
   for (const auto& [room, rows] : tables) {
     EXPECT_NE(page.find(head + rows + "\n"), std::string::npos)

@@ -7,6 +7,7 @@
 #include <set>
 #include <string>
 
+#include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"
 
@@ -21,11 +22,6 @@ using S = std::string;
 class InstallTest : public ::testing::Test {
  protected:
   static int Shell(const S& command) { return std::system((command + " > /dev/null").c_str()); }
-  static S Text(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    EXPECT_TRUE(file) << path;
-    return S(std::istreambuf_iterator<char>(file), {});
-  }
   std::set<S> Files() const {
     std::set<S> files;
     for (const auto& entry : fs::recursive_directory_iterator(prefix_)) {
@@ -61,7 +57,7 @@ TEST_F(InstallTest, EveryFileIsInstalledAndRemoved) {
   int links = 0;
   for (const S& file : files) {
     if (!file.ends_with(".md")) continue;
-    const S text = Text(prefix_ / file);
+    const S text = test::BytesOf(prefix_ / file);
     for (std::sregex_iterator it(text.begin(), text.end(), link), end; it != end; ++it, ++links)
       EXPECT_TRUE(fs::exists((prefix_ / file).parent_path() / S((*it)[1]))) << file << ": " << (*it)[1];
   }

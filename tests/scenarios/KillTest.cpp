@@ -7,6 +7,7 @@
 #include <unistd.h>
 #include <vector>
 
+#include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"
 
@@ -51,10 +52,6 @@ class KillTest : public ::testing::Test {
     }
     return others;
   }
-  static S Bytes(const S& path) {
-    std::ifstream file(path, std::ios::binary);
-    return S(std::istreambuf_iterator<char>(file), {});
-  }
 
   test::TempFolder folder_;
   S path_;
@@ -63,12 +60,12 @@ class KillTest : public ::testing::Test {
 /// If the program is killed during a save, either the complete old or the complete new workbook exists, and
 /// no other file.
 TEST_F(KillTest, AKilledSaveLeavesTheOldWorkbookOrTheNewOne) {
-  const S before = Bytes(path_);
+  const S before = test::BytesOf(path_);
   int status = 0;
   const auto start = std::chrono::steady_clock::now();
   ASSERT_EQ(waitpid(Start(), &status, 0) > 0 ? status : -1, 0);
   const auto wholeRun = std::chrono::steady_clock::now() - start;
-  const S after = Bytes(path_);
+  const S after = test::BytesOf(path_);
   ASSERT_TRUE(after != before);
   int killedBefore = 0, killedAfter = 0, leftBehind = 0;
   constexpr int kRounds =
@@ -82,12 +79,12 @@ TEST_F(KillTest, AKilledSaveLeavesTheOldWorkbookOrTheNewOne) {
     std::this_thread::sleep_for(wholeRun * 2 * round * round / (kRounds * kRounds));
     kill(child, SIGKILL);
     waitpid(child, &status, 0);
-    const S found = Bytes(path_);
+    const S found = test::BytesOf(path_);
     EXPECT_TRUE(found == before || found == after) << "round " << round;
     ++(found == after ? killedAfter : killedBefore);
     // During the rename, the new workbook has two names for some microseconds.
     for (const S& other : Others()) {
-      EXPECT_TRUE(Bytes(other) == after) << "round " << round << ' ' << other;
+      EXPECT_TRUE(test::BytesOf(other) == after) << "round " << round << ' ' << other;
       fs::remove(other);
       ++leftBehind;
     }

@@ -1,6 +1,5 @@
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <regex>
 #include <set>
@@ -8,6 +7,7 @@
 #include <vector>
 
 #include "cli/line/CommandLine.h"
+#include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"
 #include "tests/support/RunCommand.h"
@@ -20,12 +20,6 @@ namespace fs = std::filesystem;
 using S = std::string;
 
 const fs::path kRoot = test::kSourceFolder;
-
-S Text(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  EXPECT_TRUE(file) << path;
-  return S(std::istreambuf_iterator<char>(file), {});
-}
 
 /// Returns the first code block of a page that begins with `begin`.
 S Block(const S& page, const S& begin) {
@@ -48,12 +42,13 @@ class NewcomerTest : public ::testing::Test {
   /// Runs a shell command, which must succeed, and returns the output of both streams.
   S Shell(const S& command) {
     const S out = folder_ / "out.txt";
-    EXPECT_EQ(std::system((command + " > " + out + " 2>&1").c_str()), 0) << command << '\n' << Text(out);
-    return Text(out);
+    EXPECT_EQ(std::system((command + " > " + out + " 2>&1").c_str()), 0) << command << '\n'
+                                                                         << test::BytesOf(out);
+    return test::BytesOf(out);
   }
 
   test::TempFolder folder_;
-  const S readme_ = Text(kRoot / "README.md");
+  const S readme_ = test::BytesOf(kRoot / "README.md");
 };
 
 TEST_F(NewcomerTest, TheReadmesWorkbookIsRefreshed) {
@@ -91,7 +86,7 @@ TEST_F(NewcomerTest, TheExamplesAreRefreshedWithoutMessages) {
 }
 
 TEST_F(NewcomerTest, TheDefinitionsOfThePageOfFormatsAreDrawn) {
-  const S page = Text(kRoot / "docs/file-formats.md");
+  const S page = test::BytesOf(kRoot / "docs/file-formats.md");
   for (const auto& [type, example] :
        {std::pair<S, S>{"bubble", "countries"}, {"strategic bucket", "investments"}}) {
     SCOPED_TRACE(type);
@@ -130,7 +125,7 @@ TEST_F(NewcomerTest, TheFirstStepsOfTheReadmeMakeAChart) {
 }
 
 TEST_F(NewcomerTest, TheScriptsOfTheWizardsPagePrintItsOutput) {
-  const S page = Text(kRoot / "docs/wizard.md");
+  const S page = test::BytesOf(kRoot / "docs/wizard.md");
   const S book = folder_ / "orders.xlsx";
   fs::copy_file(kRoot / "examples/data/orders.xlsx", book);
   const S begin = "```script\n", end = "```\n", printed = "\n```text\n";
@@ -176,7 +171,7 @@ TEST_F(NewcomerTest, LinksAndPathsOfThePagesAreValid) {
   }
   int links = 0;
   for (const fs::path& page : pages) {
-    const S text = Text(page);
+    const S text = test::BytesOf(page);
     for (std::sregex_iterator it(text.begin(), text.end(), link), end; it != end; ++it, ++links)
       EXPECT_TRUE(fs::exists(page.parent_path() / S((*it)[1]))) << page << ": " << (*it)[1];
     for (std::sregex_iterator it(text.begin(), text.end(), path), end; it != end; ++it)

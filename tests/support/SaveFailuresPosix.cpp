@@ -6,7 +6,6 @@
 #include <exception>
 #include <fcntl.h>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <new>
 #include <optional>
@@ -14,6 +13,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "tests/support/Files.h"
 #include "tests/support/SaveFailures.h"
 #include "xlsx/package/Package.h"
 
@@ -66,13 +66,6 @@ bool Saves(const Save& save, const S& path, int failingAllocation, int failingFi
   return done;
 }
 
-/// Returns the bytes of a file; absent if there is none.
-std::optional<S> BytesOf(const S& path) {
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
-  return S(std::istreambuf_iterator<char>(file), {});
-}
-
 std::set<S> FilesBeside(const S& path) {
   std::set<S> files;
   for (const auto& entry : fs::directory_iterator(fs::path(path).parent_path())) files.insert(entry.path());
@@ -83,11 +76,11 @@ std::set<S> FilesBeside(const S& path) {
 /// Saves again while one call to a file fails, over an existing file or to a new one.
 void SaveWhileCallFails(const S& path, const Save& save, int call) {
   const S target = call % 2 == 0 ? path : (fs::path(path).parent_path() / "absent.xlsx").string();
-  const auto before = BytesOf(target), good = BytesOf(path);
+  const auto before = BytesIfThere(target), good = BytesIfThere(path);
   const auto files = FilesBeside(target);
   const bool done = Saves(save, target, 0, call);
   EXPECT_FALSE(done && isFatal) << "call " << call << " to a file";
-  EXPECT_TRUE(BytesOf(target) == (done ? good : before)) << "call " << call << " to a file";
+  EXPECT_TRUE(BytesIfThere(target) == (done ? good : before)) << "call " << call << " to a file";
   EXPECT_EQ(FilesBeside(target), files) << "call " << call << " to a file";
   if (target != path) fs::remove(target);
 }
@@ -106,7 +99,7 @@ void Run(const S& path, const Save& save, int every) {
   }
   for (int n = 1; !SaveWithoutMemory(trial, n, save); n = n * 3 + 1) {
   }
-  EXPECT_TRUE(BytesOf(trial) == BytesOf(path));
+  EXPECT_TRUE(BytesIfThere(trial) == BytesIfThere(path));
   fs::remove_all(folder);
 }
 
@@ -117,13 +110,13 @@ void SaveThroughFailures(const S& path, const Save& save) { Run(path, save, 31);
 void SaveThroughEachFailure(const S& path, const Save& save) { Run(path, save, 1); }
 
 bool SaveWithoutMemory(const S& path, int allocation, const Save& save) {
-  const auto before = BytesOf(path);
+  const auto before = BytesIfThere(path);
   const auto files = FilesBeside(path);
   const bool done = Saves(save, path, allocation, 0);
   const bool hasFailed = allocations.made >= allocation;
   EXPECT_TRUE(done || hasFailed) << "allocation " << allocation;
   if (!done) {
-    EXPECT_TRUE(BytesOf(path) == before) << "allocation " << allocation;
+    EXPECT_TRUE(BytesIfThere(path) == before) << "allocation " << allocation;
   } else {
     EXPECT_NO_THROW(xlsx::Package::Open(path)) << "allocation " << allocation;
   }

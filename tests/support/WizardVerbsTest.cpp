@@ -22,11 +22,6 @@ std::string WizardVerbsTest::Write(const PlainBook& book, const std::string& nam
   return folder_ / name;
 }
 
-std::string WizardVerbsTest::Bytes(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return S((std::istreambuf_iterator<char>(file)), {});
-}
-
 CommandResult WizardVerbsTest::Wizard(const std::string& book, const std::string& script,
                                       std::vector<std::string> more) {
   more.insert(more.begin(), {"wizard", book, "--script", "-"});

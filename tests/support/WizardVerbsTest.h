@@ -16,7 +16,6 @@ PlainBook PlainSales();
 class WizardVerbsTest : public ::testing::Test {
  protected:
   std::string Write(const PlainBook& book, const std::string& name = "book.xlsx");
-  static std::string Bytes(const std::string& path);
   /// Runs a script on the pages, with further arguments.
   static CommandResult Wizard(const std::string& book, const std::string& script,
                               std::vector<std::string> more = {});

@@ -13,6 +13,7 @@
 #include "forms/script/FormState.h"
 #include "tests/qt/support/Windows.h"
 #include "tests/qt/wizard/ProgramTest.h"
+#include "tests/support/Files.h"
 #include "tests/support/Paths.h"
 
 namespace plotsmith {

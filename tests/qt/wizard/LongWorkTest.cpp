@@ -6,6 +6,7 @@
 
 #include "tests/qt/support/Windows.h"
 #include "tests/qt/wizard/ProgramTest.h"
+#include "tests/support/Files.h"
 
 namespace plotsmith {
 namespace {

@@ -1,11 +1,11 @@
 #include "tests/qt/wizard/ProgramTest.h"
 
 #include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <sstream>
 
 #include "qt/wizard/WizardProgram.h"
+#include "tests/support/Files.h"
 #include "tests/support/Paths.h"
 #include "tests/support/RunCommand.h"
 
@@ -13,14 +13,14 @@ namespace plotsmith::test {
 
 ProgramTest::ProgramTest() : book_(folder_ / "orders.xlsx") {
   std::filesystem::copy_file(std::string(test::kSourceFolder) + "/examples/data/orders.xlsx", book_);
-  fresh_ = BytesOf(book_);
+  fresh_ = test::BytesOf(book_);
 }
 
 void ProgramTest::AddChart() {
   const auto made = RunCommand({"new", book_, "--table", "Data1", "--type", "pie", "--title", "Units",
                                 "--categories", "Product", "--values", "Units"});
   ASSERT_EQ(made.code, 0) << made.err;
-  fresh_ = BytesOf(book_);
+  fresh_ = test::BytesOf(book_);
 }
 
 ProgramResult ProgramTest::Run(const std::string& script, Robot::Actions actions,
@@ -37,11 +37,6 @@ ProgramResult ProgramTest::Run(const std::string& script, Robot::Actions actions
     refusal = e.what();
   }
   return {code, robot.Failure(), robot.Seen(), robot.Told(), err.str() + refusal};
-}
-
-std::string BytesOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
 }  // namespace plotsmith::test

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "tests/qt/support/Robot.h"
+#include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/WizardWays.h"
 
@@ -33,9 +34,6 @@ class ProgramTest : public ::testing::Test {
   std::string book_;   ///< The copy: a table of orders, without charts.
   std::string fresh_;  ///< The bytes of the copy.
 };
-
-/// Returns the bytes of a file, or "" if it doesn't exist.
-std::string BytesOf(const std::string& path);
 
 /// The actions that make a column chart of the orders, except the last press.
 inline constexpr const char* kNewChart =

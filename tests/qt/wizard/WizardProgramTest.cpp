@@ -10,6 +10,7 @@ namespace plotsmith {
 namespace {
 
 using S = std::string;
+using test::BytesIfThere;
 using test::BytesOf;
 using test::kNewChart;
 
@@ -69,7 +70,7 @@ TEST_F(WizardProgramTest, TheBarsAnswerIsCarriedOut) {
     EXPECT_EQ(run.seen, pages + seen);
     EXPECT_EQ(run.err, "");
     EXPECT_TRUE(BytesOf(book_) == (bookChanges ? wanted : fresh_));
-    EXPECT_TRUE(BytesOf(Other()) == (otherIsThere ? wanted : ""));
+    EXPECT_TRUE(BytesIfThere(Other()) == (otherIsThere ? std::optional(wanted) : std::nullopt));
   }
 }
 

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include "runtime/Strings.h"
+#include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/SaveFailures.h"
 #include "xlsx/base/Limits.h"
@@ -167,8 +168,7 @@ TEST_F(PackageFileTest, ForeignEntriesKeepTheirCompressionMethod) {
     writer.Add("foreign.bin", "declared as LZMA", false);
     writer.Finish();
   }
-  std::ifstream in(folder_ / "odd.xlsx", std::ios::binary);
-  S bytes((std::istreambuf_iterator<char>(in)), {});
+  S bytes = test::BytesOf(folder_ / "odd.xlsx");
   // The compression method is 22 bytes before a local name, and 36 bytes before a name in the directory.
   const auto local = bytes.find("foreign.bin"), central = bytes.rfind("foreign.bin");
   bytes[local - 22] = bytes[central - 36] = 14;
@@ -178,8 +178,7 @@ TEST_F(PackageFileTest, ForeignEntriesKeepTheirCompressionMethod) {
   EXPECT_THROW(package.Read("/foreign.bin"), PackageError);
   package.Add("/new.xml", "application/xml", "<new/>");
   test::SaveThroughFailures(folder_ / "out.xlsx", [&](const S& path) { package.Save(path); });
-  std::ifstream saved(folder_ / "out.xlsx", std::ios::binary);
-  const S after((std::istreambuf_iterator<char>(saved)), {});
+  const S after = test::BytesOf(folder_ / "out.xlsx");
   EXPECT_NE(after.find("declared as LZMA"), S::npos);
   EXPECT_EQ(after[after.find("foreign.bin") - 22], 14);
   EXPECT_EQ(Archive(folder_ / "out.xlsx").Entries()[1].method, 14);
@@ -200,8 +199,7 @@ TEST_F(PackageFileTest, EntriesThatCantBeReadSayWhy) {
     const S some(300, 'x');
     writer.Add("some.bin", some);
     writer.Finish();
-    std::ifstream in(folder_ / "odd.xlsx", std::ios::binary);
-    S bytes((std::istreambuf_iterator<char>(in)), {});
+    S bytes = test::BytesOf(folder_ / "odd.xlsx");
     bytes[bytes.find("some.bin") - test.local] = bytes[bytes.rfind("some.bin") - test.central] = test.value;
     std::ofstream(folder_ / "odd.xlsx", std::ios::binary) << bytes;
     try {
@@ -236,14 +234,12 @@ TEST_F(PackageFileTest, CommentsOfArchivesAreKept) {
       writer.Add("[Content_Types].xml", "<Types/>");
       writer.Finish();
     }
-    std::ifstream in(folder_ / "book.xlsx", std::ios::binary);
-    S bytes((std::istreambuf_iterator<char>(in)), {});
+    S bytes = test::BytesOf(folder_ / "book.xlsx");
     bytes[bytes.size() - 2] = static_cast<char>(comment.size());
     bytes += comment;
     std::ofstream(folder_ / "book.xlsx", std::ios::binary) << bytes;
     Package::Open(folder_ / "book.xlsx").Save(folder_ / "out.xlsx");
-    std::ifstream saved(folder_ / "out.xlsx", std::ios::binary);
-    EXPECT_EQ(S((std::istreambuf_iterator<char>(saved)), {}), bytes);
+    EXPECT_EQ(test::BytesOf(folder_ / "out.xlsx"), bytes);
   }
 }
 
@@ -305,8 +301,7 @@ TEST_F(PackageFileTest, TheFileIsReplacedCompletelyOrNotAtAll) {
 
 TEST_F(PackageFileTest, DamageIsReportedWithItsPart) {
   const S path = Book();
-  std::ifstream in(path, std::ios::binary);
-  S bytes((std::istreambuf_iterator<char>(in)), {});
+  S bytes = test::BytesOf(path);
   const auto write = [&](const S& changed) {
     std::ofstream(folder_ / "bad.xlsx", std::ios::binary) << changed;
     return folder_ / "bad.xlsx";
