@@ -22,18 +22,21 @@ std::vector<DrawnPoint> SlicesOf(const GroupModel& group, const SeriesModel& ser
 std::vector<DrawnPoint> SlicesOf(const GroupModel& group, const SeriesModel& series,
                                  const std::vector<std::size_t>& points);
 
-/// The room that labels outside of a circle take, in points: at its left, at its right, and above and below.
+/// The room that labels outside of a circle take, in points.
 struct LabelRoom {
-  double left = 0, right = 0, height = 0;
+  double left = 0;    ///< At the left of the circle.
+  double right = 0;   ///< At its right.
+  double height = 0;  ///< Above it, and as much below it.
 };
 /// Returns the room that the labels of slices take outside of a circle with a radius in points.
 LabelRoom RoomForLabels(const Plot& plot, const std::vector<DrawnPoint>& slices, double radius);
 
-/// A circle or a ring. `hole` is the inner radius as a share of the outer one.
+/// A circle or a ring.
 struct Ring {
-  Point center;
-  double radius = 0, hole = 0;
-  bool explodes = true;
+  Point center;          ///< In points.
+  double radius = 0;     ///< The outer radius in points.
+  double hole = 0;       ///< The inner radius as a share of the outer one; 0 for a circle.
+  bool explodes = true;  ///< Whether slices are moved outwards as their points say.
 
   /// Returns the rectangle around the circle that a slice is part of.
   Rect CircleOf(const DrawnPoint& slice) const;
