@@ -75,7 +75,7 @@ dump() {
 
 # Runs a script and prints its output without carriage returns: SCRIPT ARGUMENT...
 run_script() {
-  wine cscript //nologo "$@" 2>/dev/null | tr -d '\r'
+  wine cscript //nologo "$@" 2>"$work/wine.txt" | tr -d '\r'
 }
 
 # Runs a script that makes its own checks, with tests/windows/check.js and the host add-in of the examples: SCRIPT
