@@ -6,15 +6,6 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
-using render::Item;
-using render::PathItem;
-using render::Point;
-using render::Rect;
-using render::Role;
-using S = std::string;
-using Numbers = std::vector<double>;
-using Texts = std::vector<S>;
 
 /// A slice, or a rectangle of a bar. Its angles are in degrees clockwise from twelve o'clock.
 struct Slice {

@@ -67,24 +67,18 @@ auto Load(const char* file, const char* function) {
   return entry();
 }
 
-/// Reads the list of fonts. Threads that need it at once would each read it.
-void ReadFonts(const render::TextMeasure& measure) { measure.HasFonts(); }
-
 }  // namespace
 
 const render::TextMeasure& LoadFonts() {
-  static const render::TextMeasure& fonts = []() -> const render::TextMeasure& {
-    const auto* const loaded = Load<render::ModuleMeasure>(render::kFontsFile, render::kMeasureFunction);
-    ReadFonts(*loaded);
-    return *loaded;
-  }();
+  static const render::TextMeasure& fonts =
+      *Load<render::ModuleMeasure>(render::kFontsFile, render::kMeasureFunction);
   return fonts;
 }
 
 const render::Painter& LoadPainter() {
   static const render::Painter& painter = []() -> const render::Painter& {
     const auto* const loaded = Load<render::ModulePainter>(render::kPainterFile, render::kPainterFunction);
-    ReadFonts(loaded->Measure());
+    loaded->Measure();  // This reads the list of fonts. Threads that need it at once would each read it.
     return *loaded;
   }();
   return painter;

@@ -40,13 +40,14 @@ Rect CircleAbout(Point center, double radius) {
   return {center.x - radius, center.y - radius, 2 * radius, 2 * radius};
 }
 
-}  // namespace
-
+/// Returns how far a slice is moved outwards, in radii.
 double ExplosionOf(const SeriesModel& series, std::size_t point) {
   const auto special = series.points.find(point);
   const bool own = special != series.points.end() && special->second.explosion;
   return (own ? *special->second.explosion : series.explosion) / 100;
 }
+
+}  // namespace
 
 double FarthestExplosion(const std::vector<DrawnPoint>& slices) {
   double most = 0;

@@ -10,8 +10,6 @@ namespace plotsmith::render {
 /// The smallest share of the radius of a pie that labels outside of it leave.
 inline constexpr double kLeastRadius = 0.3;
 
-/// Returns how far a slice is moved outwards, in radii. `point` counts from 0.
-double ExplosionOf(const SeriesModel& series, std::size_t point);
 /// Returns how far the farthest of some slices is moved outwards, in radii.
 double FarthestExplosion(const std::vector<DrawnPoint>& slices);
 

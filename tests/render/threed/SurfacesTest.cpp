@@ -6,15 +6,6 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::Drawing;
-using render::Item;
-using render::PathItem;
-using render::PathStep;
-using render::Point;
-using render::Rect;
-using render::Role;
-using S = std::string;
-using Texts = std::vector<S>;
 
 const S kScale = "<c:scaling><c:max val=\"30\"/><c:min val=\"0\"/></c:scaling><c:majorUnit val=\"10\"/>";
 
